@@ -1,0 +1,65 @@
+#pragma once
+
+#include "code/codedoc/codenodelist.h"
+#include "code/codedoc/namedcode.h"
+#include "code/codedoc/parentcode.h"
+
+#include <QList>
+
+namespace Zorv {
+
+class FrameCode;
+
+/// The head of an animation: a child of the root, with frames.
+///
+/// It adopts the frames that follow it in the chain, up to the next group or
+/// animation. When it dies, its frames go in their order to the animation above
+/// it, or are left without a parent.
+class ZORV_EXPORT AnimationCode : public ParentCode, public NamedCode
+{
+public:
+    explicit AnimationCode(CodeNode* previous);
+    ~AnimationCode() override;
+
+    /// "DisplayName", "Name", "Identifier".
+    QStringList propertyNames() const override;
+
+    /// The text of the animation, trimmed; lines are divided by U+2029, as
+    /// `QTextCursor::selectedText()` gives them.
+    QString code() const;
+
+    /// Replaces the text of the animation by `text`, trimmed, and two line ends.
+    void setCode(const QString& text);
+
+    QList<FrameCode*> frames() const;
+
+    /// Takes a frame and its lines out of the document; nothing outside of the
+    /// list.
+    void removeFrame(unsigned index);
+
+    /// The whole time of one pass in ticks of 1/60 second; -1 if it never ends.
+    virtual int duration() const = 0;
+
+    /// The frame at which the animation starts again, -1 if none is marked.
+    virtual int loopFrame() const = 0;
+
+    /// The line before the next group or animation; at the end of the chain
+    /// the number of lines.
+    int lastLine() const override;
+
+    int childCount() const override;
+    int childIndex(CodeNode* child) const override;
+
+    /// `index` must be inside the list; null if the list is empty.
+    CodeNode* childAt(unsigned index) const override;
+    void insertChild(CodeNode* child, unsigned index) override;
+    void removeChild(CodeNode* child) override;
+
+protected:
+    void handOver() override;
+
+private:
+    CodeNodeList m_frames;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "code/codedoc/codedocumenteditor.h"
+#include "core/organizableobject.h"
+
+#include <QList>
+
+#include <memory>
+
+namespace Zorv {
+
+class AnimationCode;
+class AnimationsPrivate;
+
+/// All animations of a document as a list that can be rearranged.
+///
+/// Every operation is an edit of the text; the rows follow by parsing. The host
+/// registers it for `CodeNode::Animation`. Main thread only.
+class ZORV_EXPORT Animations : public OrganizableObject, public CodeDocumentEditor
+{
+    Q_OBJECT
+
+public:
+    explicit Animations(CodeDocument* document);
+    ~Animations() override;
+
+    /// True if two animations with that identifier could stand side by side;
+    /// the library does not ask.
+    virtual bool allowsDuplicates(const QString& identifier) const = 0;
+
+    /// The text of a new animation, with "%1" where the identifier goes.
+    virtual QString animationTemplate() const = 0;
+
+    QList<AnimationCode*> animations() const;
+    int count() const;
+
+    /// The animation at a place, null outside of the list.
+    AnimationCode* at(unsigned index) const;
+
+    /// -1 for a stranger.
+    int indexOf(const AnimationCode* animation) const;
+
+    /// The first place from `start` on whose "Identifier" equals `identifier`
+    /// as text; -1 if there is none.
+    int find(unsigned start, const QVariant& identifier) const;
+
+    /// Writes a new animation in front of another, or at the end; gives it.
+    AnimationCode* insert(unsigned index, const QString& identifier);
+    AnimationCode* add(const QString& identifier);
+
+    /// Writes a copy behind an animation, with another identifier unless that
+    /// is empty; the old one is replaced without regard to case. Inside a
+    /// change the nodes come when it ends.
+    void duplicate(unsigned index, const QString& identifier);
+
+    /// Takes an animation with all its lines out of the text.
+    void remove(unsigned index) override;
+
+    /// Moves an animation. Moved to the last place it is written at the very
+    /// start of the document: use two moves to reach the end.
+    void move(unsigned from, unsigned to) override;
+
+    /// Sorts by identifier: numbers by value, texts without regard to case, a
+    /// number and a text stay as they stand. Stable, one step of undo.
+    void autoOrganize() override;
+
+    void beginChange(const QString& title) override;
+    void endChange() override;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+
+    /// The name of an animation; nothing while the code is being changed.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+    void insertChild(CodeNode* child, unsigned index) override;
+    void removeChild(CodeNode* child) override;
+    void childChanged(CodeNode* child) override;
+
+private:
+    std::unique_ptr<AnimationsPrivate> d;
+};
+
+}  // namespace Zorv

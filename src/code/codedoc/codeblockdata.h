@@ -1,0 +1,82 @@
+#pragma once
+
+#include "zorv_export.h"
+
+#include <QChar>
+#include <QString>
+#include <QTextBlock>
+#include <QVector>
+
+#include <memory>
+
+namespace Zorv {
+
+class CodeBlockDataPrivate;
+class CodeNode;
+
+/// What a code document knows of one line of its text.
+///
+/// At most one for each block, owned by it. Main thread only.
+class ZORV_EXPORT CodeBlockData : public QTextBlockUserData
+{
+public:
+    /// A message on columns of the line; `end` is behind the last one.
+    struct SyntaxMessage
+    {
+        enum Type { Error = 0, Warning = 1, Deprecated = 2 };
+
+        Type type;
+        int start;
+        int end;
+        QString text;
+    };
+
+    /// A bracket of the line.
+    struct Parenthesis
+    {
+        enum Type { Opening = 0, Closing = 1 };
+
+        Type type;
+        QChar character;
+        int position;
+    };
+
+    CodeBlockData();
+
+    /// Tells the document, if the line is in one, that the line's node is to go.
+    ~CodeBlockData() override;
+
+    /// The data of a block, made if the block is valid and has none; null for
+    /// an invalid block.
+    static CodeBlockData* blockData(const QTextBlock& block);
+
+    /// The data of a block, or null; makes nothing.
+    static CodeBlockData* testBlockData(const QTextBlock& block);
+
+    /// The node that the grammar returned for the line, or null.
+    CodeNode* codeNode() const;
+
+    /// Folded in the editor.
+    bool isFolded() const;
+    void setFolded(bool folded);
+
+    /// True if the line holds a token other than a comment.
+    bool isParsed() const;
+
+    /// In the order in which the grammar reported them.
+    const QVector<SyntaxMessage>& syntaxMessages() const;
+    const QVector<Parenthesis>& parenthesis() const;
+
+    /// The level of the line for folding, 0 at the outermost. Logarithmic for
+    /// a line of no class, constant for others.
+    int foldingIndent() const;
+
+private:
+    friend class CodeDocument;
+    friend class CodeDocumentPrivate;
+    friend class LineIndex;
+    friend struct LineTraits;
+    std::unique_ptr<CodeBlockDataPrivate> d;
+};
+
+}  // namespace Zorv

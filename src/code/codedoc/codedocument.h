@@ -1,0 +1,219 @@
+#pragma once
+
+#include "code/codedoc/codeparsersyntax.h"
+#include "code/codedoc/rootcode.h"
+#include "core/filewatchobject.h"
+#include "core/projectfile.h"
+#include "zorv_export.h"
+
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <initializer_list>
+#include <memory>
+
+class QTextCharFormat;
+
+namespace Zorv {
+
+class CodeDocumentEditor;
+class CodeDocumentPrivate;
+class CodeParser;
+
+/// A code file: its text, the root of the tree of its nodes, a file of a
+/// project, and a watched file, in one object.
+///
+/// The text is the only truth. The tree is derived from it line by line by the
+/// host's grammar, as Qt's highlighter comes by; a change to the tree is an edit
+/// of the text. There is one history, that of the text. After every edit, undo
+/// and redo, tree, messages and folding are those that a fresh parse would
+/// give, and only the lines that an edit concerns are parsed again.
+///
+/// The host derives from it and overrides `release()`, which serves both as
+/// that of a node and of a file: the first call runs `destroy()`, the nested
+/// one disposes of the object. A document works without a project. Main thread
+/// only.
+class ZORV_EXPORT CodeDocument : public QTextDocument,
+                                 public RootCode,
+                                 public ProjectFile,
+                                 public FileWatchObject
+{
+    Q_OBJECT
+
+public:
+    /// `tag` is for the grammar. The document is empty, has no parser, and its
+    /// codec is UTF-8.
+    explicit CodeDocument(short tag);
+
+    /// Releases the registered editors, then clears the text; nodes that are
+    /// left are released.
+    ~CodeDocument() override;
+
+    /// A number that the project built on this document keeps.
+    virtual int projectKind() const = 0;
+
+    /// What a line is for folding, from its text alone: 0 no class, 1 a head,
+    /// 2 a body, and with 4 added a head of the outermost level.
+    virtual int blockFolding(const QString& line) const = 0;
+
+    /// @name The file
+    /// @{
+    QString fileName() const override;
+    bool fromFile(Archive& archive, const QString& fileName, bool asCopy) override;
+
+    /// As above, with a codec by its number (negative to detect) and, if
+    /// `watch`, with the file's watch moved to the new name.
+    bool fromFile(Archive& archive, const QString& fileName, int codec, bool watch,
+                  bool asCopy = false);
+
+    /// Takes a text as the content of a file without a name.
+    virtual void fromString(const QString& text);
+
+    /// Writes the text with a carriage return and a line feed at every line
+    /// end, in the document's codec.
+    bool toFile(Archive& archive, const QString& fileName, bool asCopy) override;
+
+    /// Reads the file again in the known codec; the watch is left alone.
+    bool reload() override;
+    void reset() override;
+    bool canSave() const override;
+    bool isModified() const override;
+    bool isEmpty() const override;
+
+    /// The number of messages, of all types.
+    int checkErrors() override;
+
+    /// Empty takes the name away.
+    void setFileName(const QString& fileName);
+    QString title() const;
+    void setTitle(const QString& title);
+
+    /// The bytes that `toFile()` would write.
+    QByteArray toData() const;
+
+    /// The text with a line feed at each line end, and nothing else changed.
+    QString text() const;
+
+    /// False if the file that was read would not come back byte for byte, line
+    /// ends aside, from the codec that it was read in.
+    bool isFaithful() const;
+
+    /// True if a line of the file that was read ended otherwise than in a
+    /// carriage return and a line feed, so that saving changes it.
+    bool hasForeignLineEnds() const;
+    /// @}
+
+    /// @name The codec, a number of `TextCodecs`; setting it changes neither text nor file
+    /// @{
+    int codecId() const;
+    void setCodecId(int codec);
+    void setCodec(const char* name);
+    QString codecName() const;
+    /// @}
+
+    /// @name The grammar
+    /// @{
+    /// Not owned, and must outlive the document or be taken off. Null leaves
+    /// plain text.
+    void setParser(CodeParser* parser);
+    CodeParser* parser() const;
+
+    /// The setting "highlightCode".
+    bool hasSyntaxHighlight() const;
+    void setSyntaxHighlight(bool highlight);
+
+    /// Releases all nodes and parses every line.
+    void reparse();
+
+    /// Parses every line again, keeping nodes that stay the same.
+    void rehighlight();
+
+    /// Enables groups beside those that are.
+    void enableGroups(std::initializer_list<unsigned> groups);
+
+    /// False while the setting "parseCode" is false; else true for 0 and for
+    /// the enabled groups.
+    bool groupEnabled(unsigned group) const override;
+
+    /// How a type of token looks, for all documents at once.
+    static void setSyntaxFormat(CodeParserSyntax::TokenType type, const QTextCharFormat& format);
+    static QTextCharFormat syntaxFormat(CodeParserSyntax::TokenType type);
+    /// @}
+
+    /// @name Edits by the tree
+    /// @{
+    /// Opens and closes a step of undo; the nodes of what is inserted are there
+    /// at once, colours and messages when the outermost frame closes. The title
+    /// is ignored.
+    void beginChange(const QString& title) override;
+    void endChange() override;
+    bool isCodeBeingChanged() const;
+    void undo() override;
+    void redo() override;
+
+    /// A copy of the cursor through which the edits pass.
+    QTextCursor cursor() const;
+
+    /// Inserts at the end of the text, or at a cursor.
+    void insert(const QString& text);
+    void insertOnCursor(const QString& text, QTextCursor& cursor);
+
+    /// Replaces a cursor's selection by a text; as `insertOnCursor()`, nodes
+    /// follow at once.
+    void replaceSelection(const QString& text, QTextCursor& cursor);
+
+    /// Inserts a line behind or in front of a node: its own line with
+    /// `sameLine`, else its whole extent. A null node stands for the end or the
+    /// start of the text.
+    void insertAfter(const CodeNode* node, const QString& text, bool sameLine);
+    void insertBefore(const CodeNode* node, const QString& text, bool sameLine);
+    /// @}
+
+    /// @name Nodes and their editors
+    /// @{
+    /// The node of a block, or null.
+    CodeNode* nodeInBlock(const QTextBlock& block) const;
+
+    /// The nearest node above a block: the root if there is none. Logarithmic.
+    CodeNode* nodeBefore(const QTextBlock& block) const;
+
+    /// The nearest block behind (or before) `block` with a message of a type;
+    /// invalid if there is none. Logarithmic.
+    QTextBlock nextBlockWithMessage(const QTextBlock& block, int type) const;
+    QTextBlock previousBlockWithMessage(const QTextBlock& block, int type) const;
+
+    /// The editor registered for a type of node and, for groups, a group number.
+    CodeDocumentEditor* documentEditor(CodeNode::Type type, unsigned group) const;
+
+    /// Replaces the editor that was registered for the same before.
+    void registerDocumentEditor(CodeDocumentEditor* editor, CodeNode::Type type, unsigned group);
+
+    /// Removes the first entry of the editor; one call for each registration.
+    void unregisterDocumentEditor(CodeDocumentEditor* editor);
+
+    CodeDocument* document() const override;
+    void insertChild(CodeNode* child, unsigned index) override;
+    void removeChild(CodeNode* child) override;
+    void childChanged(CodeNode* child) override;
+    /// @}
+
+    using QTextDocument::parent;
+    using QTextDocument::redo;
+    using QTextDocument::undo;
+    using RootCode::parent;
+    using RootCode::document;
+
+    /// How often the grammar was asked for a line; for tests and benchmarks.
+    quint64 parsedLineCount() const;
+
+signals:
+    /// A pass over edited lines has ended: tree, messages and folding are true.
+    void codeChanged();
+
+private:
+    friend class CodeNode;
+    friend class CodeBlockData;
+    std::unique_ptr<CodeDocumentPrivate> d;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "core/projectfile.h"
+#include "zorv_export.h"
+
+namespace Zorv {
+
+class CodeDocument;
+class CodeNode;
+
+/// A file of a project that is a view on part of a code document.
+///
+/// Name, messages, state and history are those of the document. Registered with
+/// `CodeDocument::registerDocumentEditor()` it hears of the nodes of its kind;
+/// the document releases it when it dies.
+class ZORV_EXPORT CodeDocumentEditor : public ProjectFile
+{
+public:
+    /// The document is not owned.
+    explicit CodeDocumentEditor(CodeDocument* document);
+
+    CodeDocument* document() const { return m_document; }
+
+    Project* project() const override;
+    Messages* messages() const override;
+    int checkErrors() override;
+
+    /// Those of the document, with bit 0 set if it is the project's main one.
+    int capabilities() const override;
+
+    /// False while bit 0 of `capabilities()` is set: the list is saved with its
+    /// document.
+    bool canSave() const override;
+    bool isModified() const override;
+    bool isEmpty() const override;
+    void reset() override;
+    bool toFile(Archive& archive, const QString& fileName, bool asCopy) override;
+    bool fromFile(Archive& archive, const QString& fileName, bool asCopy) override;
+    QString fileName() const override;
+    void undo() override;
+    void redo() override;
+
+    /// A node of the registered kind has come, gone or changed. `index` is its
+    /// place among the nodes of its kind.
+    virtual void insertChild(CodeNode* child, unsigned index);
+    virtual void removeChild(CodeNode* child);
+    virtual void childChanged(CodeNode* child);
+
+private:
+    CodeDocument* m_document;
+};
+
+}  // namespace Zorv

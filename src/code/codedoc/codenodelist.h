@@ -1,0 +1,41 @@
+#pragma once
+
+#include "zorv_export.h"
+
+namespace Zorv {
+
+class CodeNode;
+
+/// The children of a parent node in their order.
+///
+/// A node is in at most one list, that of its parent. Every operation is
+/// logarithmic, so that a million values under one head can be edited. The list
+/// owns nothing; a node must leave it before it dies.
+class ZORV_EXPORT CodeNodeList
+{
+public:
+    int size() const;
+    bool isEmpty() const { return m_root == nullptr; }
+
+    /// The child at `index`, null outside of the list.
+    CodeNode* at(int index) const;
+
+    /// The place of a child, -1 for a stranger.
+    int indexOf(const CodeNode* node) const;
+
+    /// Puts a node at `index`, or at the end if that is not inside the list.
+    /// The node must be in no list.
+    void insert(unsigned index, CodeNode* node);
+
+    /// Takes a node out; nothing for a stranger.
+    void remove(CodeNode* node);
+
+    /// The nodes next to a child, null at the ends.
+    static CodeNode* next(const CodeNode* node);
+    static CodeNode* previous(const CodeNode* node);
+
+private:
+    CodeNode* m_root = nullptr;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/archive.h"
+
+namespace Zorv {
+
+/// The archive of plain folders, and the only one that the library provides.
+///
+/// A file opened for writing is written beside the old one, under a hidden
+/// name; every write and the flush are checked, and the new file takes the old
+/// one's place when the device is given back. Until then, and after any
+/// failure, the old file is whole. The mode of the old file is kept, and a
+/// symbolic link is followed, not replaced. A target that exists and is not a
+/// regular file (a pipe, a device) is refused.
+///
+/// Opening to append, or to read and write, starts from a copy of the old
+/// content; the same promise holds.
+class ZORV_EXPORT FileSystemArchive : public Archive
+{
+public:
+    /// The one object, made on first use and never deleted.
+    static FileSystemArchive* instance();
+
+    /// Does nothing: the object belongs to the process.
+    void release() override;
+
+    /// Always false.
+    bool isReadOnly() const override;
+
+    /// Lists through `QDir`; `QDir::NoDotAndDotDot` and `QDir::NoSymLinks` are
+    /// added to `filters` in every case.
+    QStringList entries(const QString& path, QDir::Filters filters,
+                        QDir::SortFlags sort) const override;
+    QFileInfoList infoEntries(const QString& path, QDir::Filters filters,
+                              QDir::SortFlags sort) const override;
+
+    /// Opens a file. Without `QIODevice::WriteOnly` in `mode` a file that does
+    /// not exist gives null and no folder is made; with it, missing folders on
+    /// the way are made first, even if the opening then fails.
+    QIODevice* openFile(const QString& path, QIODevice::OpenMode mode,
+                        QString* error = nullptr) override;
+
+    /// Puts a written file in its place and deletes the device.
+    bool closeFile(QIODevice* device, QString* error = nullptr) override;
+
+protected:
+    FileSystemArchive() = default;
+    ~FileSystemArchive() override = default;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "zorv_export.h"
+
+#include <QString>
+
+namespace Zorv {
+
+class Archive;
+
+/// The base of everything that is told when its file changes on disk.
+///
+/// One file can be open several times; all objects of the process share one
+/// watcher, and the person is asked once for all of them. `fromFile()` and
+/// `toFile()` are called by a derived class around its own loading and saving.
+/// Main thread only.
+class ZORV_EXPORT FileWatchObject
+{
+public:
+    FileWatchObject();
+    virtual ~FileWatchObject();
+
+    /// Moves the watch to `fileName`; nothing for a copy. Always true. Called
+    /// while `fileName()` still gives the old name.
+    virtual bool fromFile(Archive& archive, const QString& fileName, bool asCopy);
+
+    /// As `fromFile()`, and pauses the watch: the library's own write must not
+    /// raise the question.
+    virtual bool toFile(Archive& archive, const QString& fileName, bool asCopy);
+
+    /// The path of the file, empty if it has none.
+    virtual QString fileName() const = 0;
+
+    /// Reads the file again. True if that went well.
+    virtual bool reload() = 0;
+
+    /// While paused the object raises no question. A pause that `toFile()` made
+    /// ends a moment after the next signal for the file.
+    virtual void pauseWatch(bool pause);
+
+    bool isWatchPaused() const { return m_paused; }
+
+protected:
+    /// For a derived class whose file has just been written and renamed: the
+    /// watch follows the new file. Call it after the device went back.
+    void renewWatch(const QString& fileName);
+
+private:
+    friend class FileWatcherManager;
+    FileWatchObject(const FileWatchObject&) = delete;
+    FileWatchObject& operator=(const FileWatchObject&) = delete;
+
+    bool m_paused = false;
+};
+
+}  // namespace Zorv

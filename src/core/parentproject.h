@@ -1,0 +1,150 @@
+#pragma once
+
+#include "core/fileid.h"
+#include "zorv_export.h"
+
+#include <QAbstractItemModel>
+#include <QFlags>
+#include <QIcon>
+#include <QList>
+#include <QStringList>
+
+#include <memory>
+
+namespace Zorv {
+
+class Archive;
+class CodeDocument;
+class EngineModel;
+class ParentProjectPrivate;
+class Project;
+
+/// One game folder: a tree of paths below it as an item model, and the projects
+/// open in it.
+///
+/// The tree shows folders and, under each open project, the files that its main
+/// document refers to at the moment. A host derives from it for each engine
+/// family, and adds the folders that it wants listed. It is the host's: it
+/// lives as long as the folder is open, and owns the tree but no project. Main
+/// thread only.
+class ZORV_EXPORT ParentProject : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    /// What a folder of the tree lists of its own accord.
+    enum PathTypeFlag {
+        ListNothing = 0,  ///< shows only what is added to it, and is not watched
+        ListFolders = 1,  ///< its sub-folders: each stands for a project
+        ListFiles = 2     ///< its files that match the filters: each stands for a project
+    };
+    Q_DECLARE_FLAGS(PathType, PathTypeFlag)
+
+    /// A node of the tree as a host sees it. Owned by the tree.
+    class ZORV_EXPORT Path
+    {
+    public:
+        virtual ~Path();
+
+        /// The full path; a folder's ends in "/".
+        virtual QString absolutePath() const = 0;
+
+        /// The last component.
+        virtual QString pathName() const = 0;
+
+        virtual bool isDirectory() const = 0;
+
+        /// True if the node stands for a project that may be closed.
+        virtual bool isProject() const = 0;
+
+        /// True for a file that an open project refers to.
+        virtual bool isFile() const = 0;
+
+        /// The kinds of such a file; 0 for any other node.
+        virtual FileID fileID() const = 0;
+    };
+
+    /// A tree on the folder `rootPath`, with or without a slash at its end. The
+    /// archive is not owned.
+    ParentProject(const QString& rootPath, Archive& archive);
+    ~ParentProject() override;
+
+    /// The model of this engine family.
+    virtual EngineModel* engineModel() const = 0;
+
+    /// The icon of a kind of file; a null icon lets `data()` choose.
+    virtual QIcon fileIcon(FileID id) const;
+
+    /// Appends, relative to the root, all files of the project at `path`, which
+    /// is not open.
+    virtual void projectFiles(const QString& path, QStringList& files) = 0;
+
+    /// The parameter string with which an engine is started for a kind of project.
+    virtual QString runParameters(int kind) const = 0;
+
+    /// The folder, relative to the engine's, for a temporary copy of a project;
+    /// empty if it cannot be run there. `*wholeFolder` is set to true when that
+    /// folder is temporary as a whole.
+    virtual QString runPath(int kind, const QString& name, bool* wholeFolder) const = 0;
+
+    /// Called when the last project has gone; the host may delete this object
+    /// later, not in the call.
+    virtual void lastReferenceGone() = 0;
+
+    /// Registers the project of a main document. The first one makes the backup
+    /// "Auto", if the setting "backup_onload" is true and the document has a
+    /// file name.
+    void addRef(CodeDocument* main);
+
+    /// Adds a folder, with every missing one on the way, which all get `type`
+    /// and `filters`; gives its node. A path that does not begin with the root
+    /// counts as relative to it. Null for the root itself.
+    Path* addPath(const QString& path, PathType type, const QStringList& filters);
+
+    /// Removes a folder with all below it; nothing for an unknown one.
+    void removePath(const QString& path);
+
+    /// The node of an index; null for an invalid one.
+    Path* itemPath(const QModelIndex& index) const;
+
+    /// The index of the node at `path`; invalid if there is none.
+    QModelIndex indexOf(const QString& path) const;
+
+    QList<Project*> openedProjects() const;
+    Archive* archive() const;
+
+    /// The root folder, with "/" at its end. `basePath()` is the same.
+    QString absolutePath() const;
+    QString basePath() const;
+
+    /// True if the root holds the engine's executable: a whole game, not a
+    /// loose project.
+    bool isGame() const;
+
+    /// Appends the paths, relative to the root, of all projects that are not open.
+    void listProjects(QStringList& list) const;
+
+    /// Copies all open projects into a new folder below "backup/", named after
+    /// the time and `name`. True in every case.
+    bool backup(const QString& name);
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    bool hasChildren(const QModelIndex& parent = {}) const override;
+
+    /// Name, tool tip and icon of a node.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    using QAbstractItemModel::headerData;
+    using QObject::parent;
+
+private:
+    friend class ParentProjectPrivate;
+    friend class Project;
+    std::unique_ptr<ParentProjectPrivate> d;
+};
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(ParentProject::PathType)
+
+}  // namespace Zorv
