@@ -14,7 +14,15 @@ endif()
 
 include(GNUInstallDirs)
 
+# An installed program finds the library beside it, wherever the prefix is.
+file(RELATIVE_PATH ZORV_LIB_FROM_BIN
+     ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+set(CMAKE_INSTALL_RPATH $ORIGIN/${ZORV_LIB_FROM_BIN})
+
 find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Concurrent Multimedia)
+if(ZORV_TESTS OR ZORV_BENCHMARKS)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
+endif()
 find_package(GIF REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(SAMPLERATE REQUIRED IMPORTED_TARGET samplerate)
@@ -43,3 +51,40 @@ if(ZORV_COVERAGE)
     target_compile_options(zorv_options INTERFACE --coverage -O0)
     target_link_options(zorv_options INTERFACE --coverage)
 endif()
+
+# zorv_test(tst_name [GUI] [SOURCES file...] [LIBRARIES target...] [ARGUMENTS arg...])
+#
+# A QtTest program of tst_name.cpp and the further sources, and its test. With GUI it runs on an X
+# server of its own and carries the label "gui"; without, it needs no display.
+function(zorv_test name)
+    cmake_parse_arguments(arg "GUI" "" "SOURCES;LIBRARIES;ARGUMENTS" ${ARGN})
+    add_executable(${name} ${name}.cpp ${arg_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE Zorv::zorv zorv_options Qt5::Test ${arg_LIBRARIES})
+    if(arg_GUI)
+        find_program(XVFB_RUN xvfb-run REQUIRED)
+        add_test(NAME ${name} COMMAND ${XVFB_RUN} -a -s "-screen 0 1280x1024x24"
+                                      $<TARGET_FILE:${name}> ${arg_ARGUMENTS})
+        # Two xvfb-run at once may choose the same display number.
+        set_tests_properties(${name} PROPERTIES LABELS gui RESOURCE_LOCK xvfb)
+        set(platform xcb)
+    else()
+        add_test(NAME ${name} COMMAND ${name} ${arg_ARGUMENTS})
+        set(platform offscreen)
+    endif()
+    # The settings of the person who runs the tests are left alone.
+    set(home ${CMAKE_CURRENT_BINARY_DIR}/${name}.home)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600
+        ENVIRONMENT "QT_QPA_PLATFORM=${platform};LC_ALL=C.UTF-8;XDG_CONFIG_HOME=${home};XDG_DATA_HOME=${home}")
+endfunction()
+
+# zorv_benchmark(bench_name [SOURCES file...] [LIBRARIES target...])
+#
+# A benchmark of bench_name.cpp, put where scripts/bench finds it.
+function(zorv_benchmark name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${name}.cpp ${arg_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE Zorv::zorv zorv_options Qt5::Test ${arg_LIBRARIES})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bench)
+endfunction()
