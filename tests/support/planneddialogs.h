@@ -1,0 +1,64 @@
+#pragma once
+
+#include "core/dialogs/dialogs.h"
+
+#include <QList>
+
+#include <functional>
+
+/// Answers the library's dialogs by plan and writes down what was shown.
+///
+/// It installs itself and takes itself away. Answers are taken from the front
+/// of the lists; a list that has run out gives what closing the dialog would.
+class PlannedDialogs : public Zorv::Dialogs
+{
+public:
+    /// One dialog that was shown.
+    struct Shown
+    {
+        QString kind;  ///< "question", "warning", "information", "error", "choose", "openFile", ...
+        QString title;
+        QString text;  ///< the filter, for a question for files
+        Buttons buttons;
+        Button defaultButton = NoButton;
+        QStringList choices;
+    };
+
+    PlannedDialogs();
+    ~PlannedDialogs() override;
+
+    QList<Button> buttonAnswers;     ///< of question() and warning()
+    QList<int> choiceAnswers;        ///< of choose()
+    QList<QStringList> fileAnswers;  ///< of every question for files and folders
+    QList<Shown> shown;
+
+    /// Runs while a dialog is open, before its answer is taken.
+    std::function<void(const Shown&)> whileOpen;
+
+    /// How many dialogs of a kind were shown; of all kinds for an empty one.
+    int count(const QString& kind = {}) const;
+
+    /// The texts of all dialogs of a kind.
+    QStringList texts(const QString& kind) const;
+
+    Button question(const QString& title, const QString& text, Buttons buttons,
+                    Button defaultButton) override;
+    Button warning(const QString& title, const QString& text, Buttons buttons = Ok,
+                   Button defaultButton = Ok) override;
+    void information(const QString& title, const QString& text) override;
+    void error(const QString& title, const QString& text) override;
+    int choose(const QString& title, const QString& text, const QStringList& choices,
+               int defaultChoice) override;
+    QString openFileName(QWidget* parent, const QString& caption, const QString& dir,
+                         const QString& filter) override;
+    QStringList openFileNames(QWidget* parent, const QString& caption, const QString& dir,
+                              const QString& filter) override;
+    QString saveFileName(QWidget* parent, const QString& caption, const QString& dir,
+                         const QString& filter) override;
+    QString existingFolder(QWidget* parent, const QString& caption, const QString& dir) override;
+
+private:
+    void show(const Shown& dialog);
+    Button takeButton(Buttons buttons, Button defaultButton);
+    QStringList takeFiles(const char* kind, const QString& caption, const QString& filter);
+};
