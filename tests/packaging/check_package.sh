@@ -36,7 +36,7 @@ nm -D --defined-only "$library" | grep -q ' T setGlobalInterface$' ||
     fail "setGlobalInterface has no plain name"
 libdir=$(dirname "$library")
 
-# One edit of a file with a comment, a line end of every kind aside, has to change one line.
+# Setting one value has to change one line and keep its comment.
 check_program() {
     local program=$1
     printf '# first\r\n[video]\r\nwidth = 640  # pixels\r\nheight = 480\r\n' >"$work/settings.txt"

@@ -1,0 +1,56 @@
+# Sourced by the scripts: the Debian packages that each of them needs, and their installation.
+
+packages_build=(
+    g++ cmake ninja-build ccache pkg-config
+    qtbase5-dev qtmultimedia5-dev qttools5-dev qttools5-dev-tools
+    libuchardet-dev libgif-dev libsamplerate0-dev
+)
+packages_display=(xvfb xauth libgl1-mesa-dri fonts-dejavu-core)
+packages_test=(python3)
+packages_bench=(libkf5syntaxhighlighting-dev)
+packages_fuzz=(clang libclang-rt-14-dev)
+packages_format=(clang-format-14)
+
+# install_packages NAME... installs those that are missing. With nothing missing it needs neither
+# root nor the network.
+install_packages() {
+    local name missing=() root=()
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        echo "This is no Debian system: see to it that these are installed: $*" >&2
+        return 0
+    fi
+    for name in "$@"; do
+        if [ "$(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null)" != installed ]; then
+            missing+=("$name")
+        fi
+    done
+    if [ ${#missing[@]} -eq 0 ]; then
+        return 0
+    fi
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "Some packages are missing, and there is no sudo. As root, run:" >&2
+            echo "    apt-get install ${missing[*]}" >&2
+            return 1
+        fi
+        root=(sudo)
+        if [ ! -t 0 ]; then
+            root=(sudo -n)
+        fi
+    fi
+    echo "Installing ${missing[*]}"
+    root+=(env DEBIAN_FRONTEND=noninteractive)
+    "${root[@]}" apt-get -q update </dev/null &&
+        "${root[@]}" apt-get -q install -y --no-install-recommends "${missing[@]}" </dev/null || {
+        echo "The packages could not be installed: ${missing[*]}" >&2
+        return 1
+    }
+}
+
+# configure_and_build PRESET [TARGET...]
+configure_and_build() {
+    local preset=$1
+    shift
+    cmake --preset "$preset"
+    cmake --build "build/$preset" ${1:+--target "$@"}
+}
