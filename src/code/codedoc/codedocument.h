@@ -200,8 +200,8 @@ public:
     using QTextDocument::parent;
     using QTextDocument::redo;
     using QTextDocument::undo;
-    using RootCode::parent;
     using RootCode::document;
+    using RootCode::parent;
 
     /// How often the grammar was asked for a line; for tests and benchmarks.
     quint64 parsedLineCount() const;

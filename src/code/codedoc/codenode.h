@@ -35,13 +35,7 @@ class ZORV_EXPORT CodeNode
 {
 public:
     /// Bit values, so that a mask can test several.
-    enum Type : unsigned short {
-        Root = 1,
-        Group = 2,
-        Value = 4,
-        Animation = 8,
-        Frame = 16
-    };
+    enum Type : unsigned short { Root = 1, Group = 2, Value = 4, Animation = 8, Frame = 16 };
 
     /// A stop mask that lets only groups and animations pass.
     static constexpr unsigned short StopAtCode = 0xfff5;

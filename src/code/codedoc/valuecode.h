@@ -21,12 +21,12 @@ public:
     /// without a name here keep a value as it comes.
     enum Type {
         Text = 3,
-        Choice = 4,          ///< a text out of several
-        Date = 5,            ///< kept as it comes; written in the ISO form
-        Unsigned = 6,        ///< written by `unsignedText()`
+        Choice = 4,    ///< a text out of several
+        Date = 5,      ///< kept as it comes; written in the ISO form
+        Unsigned = 6,  ///< written by `unsignedText()`
         UnsignedVector = 7,
-        Real = 8,            ///< kept as it comes
-        RealPoint = 9,       ///< a list gives whole coordinates
+        Real = 8,       ///< kept as it comes
+        RealPoint = 9,  ///< a list gives whole coordinates
         RealVector = 10,
         RealPair = 11,
         RealTriple = 12,
