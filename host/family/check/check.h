@@ -1,0 +1,28 @@
+#pragma once
+
+#include "check/problem.h"
+
+#include <QStringList>
+
+namespace Family {
+
+class FamilyDocument;
+class FamilyProject;
+
+/// All problems of a document: those of its lines, which are the same as its
+/// messages, and those that need several lines. Files that it names are not
+/// looked for. `file` is what the problems have for a file.
+Problems checkDocument(const FamilyDocument* document, const QString& file);
+
+/// All problems of an open project: of its documents, loaded or not, of files
+/// that it names, and of references between them. File names are relative to
+/// the root of its parent.
+Problems checkProject(const FamilyProject* project);
+
+/// All problems of a game folder, read from disk: every project below it.
+/// `gameFolder` can also be a main file, or a single code file. Names are
+/// relative to the folder. `error` is set, and nothing given, if there is
+/// nothing to check.
+Problems checkGame(const QString& gameFolder, QString* error);
+
+}  // namespace Family

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "grammar/problems.h"
+
+#include <QString>
+#include <QVector>
+
+namespace Family {
+
+/// A problem at its place.
+struct Problem
+{
+    QString file;    ///< as the check was asked: a path
+    int line = 1;    ///< from 1
+    int column = 1;  ///< from 1
+    int length = 0;  ///< characters that are meant; 0 for the whole line
+    Level level = Level::Error;
+    ProblemId id = ProblemId::LineUnknown;
+    QString text;
+};
+
+using Problems = QVector<Problem>;
+
+/// Order by file, line, column, kind and text; equal ones are left once.
+void sortProblems(Problems* problems);
+
+/// "file:line:column: error: text".
+QString problemLine(const Problem& problem);
+
+}  // namespace Family

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "code/codedoc/framecode.h"
+
+namespace Family {
+
+/// What a frame line says.
+struct FrameData
+{
+    int group = 0;
+    int number = 0;
+    QPoint offset;
+    int delay = 1;  ///< ticks; -1 never ends
+    float scaleX = 1;
+    float scaleY = 1;
+    float angle = 0;  ///< degrees, counterclockwise
+    unsigned char flip = 0;
+    bool loop = false;
+
+    bool operator==(const FrameData& other) const;
+    bool operator!=(const FrameData& other) const { return !(*this == other); }
+};
+
+}  // namespace Family

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "code/codedoc/groupcode.h"
+
+namespace Family {
+
+struct GroupInfo;
+class ParsedLine;
+
+/// The head of a group or sub-group. Its children are its values, then its
+/// sub-groups, each in the order of the text.
+class GroupNode final : public Zorv::GroupCode
+{
+public:
+    GroupNode(Zorv::CodeNode* previous, const GroupInfo* info, const QString& argument);
+    ~GroupNode() override;
+
+    /// The row of the table.
+    const GroupInfo* info() const { return m_info; }
+
+    /// The text behind the group's name, empty for a group that takes none.
+    QString argument() const { return m_argument; }
+
+    /// The argument of a group that takes one, else the name in the brackets,
+    /// without the dot. An unknown group's is read from its line.
+    QString name() const override;
+
+    /// As in the brackets: "move fireball", ".walk".
+    QString displayName() const override;
+
+    /// Edits the head line: the argument of a group that takes one, else the
+    /// name. Nothing for a name that cannot be written.
+    void setName(const QString& name) override;
+
+    /// The sub-groups alone; sub-groups of a sub-group do not exist.
+    QList<GroupNode*> subGroups() const;
+    GroupNode* subGroup(const QString& name) const;
+    bool isSubGroup() const;
+
+    /// For the parser: takes over another argument or row of the same number.
+    void update(const GroupInfo* info, const QString& argument);
+
+    int childCount() const override;
+    int childIndex(Zorv::CodeNode* child) const override;
+    Zorv::CodeNode* childAt(unsigned index) const override;
+    void insertChild(Zorv::CodeNode* child, unsigned index) override;
+    void removeChild(Zorv::CodeNode* child) override;
+    void childChanged(Zorv::CodeNode* child) override;
+    void release() override;
+
+protected:
+    void handOver() override;
+
+private:
+    void attach();
+    void adopt();
+    void giveAway();
+
+    const GroupInfo* m_info;
+    QString m_argument;
+    Zorv::CodeNodeList m_subGroups;
+};
+
+}  // namespace Family

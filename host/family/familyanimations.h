@@ -1,0 +1,53 @@
+#pragma once
+
+#include "code/codedoc/animations.h"
+
+namespace Family {
+
+class AnimationNode;
+class FamilyDocument;
+
+/// The animations of a document. The operations of the library that would join
+/// lines of a text without a final line end put that end first, within the same
+/// step of undo.
+class FamilyAnimations final : public Zorv::Animations
+{
+    Q_OBJECT
+
+public:
+    /// Registers itself with the document, which owns it from then on.
+    explicit FamilyAnimations(FamilyDocument* document);
+
+    /// Null outside of the list.
+    AnimationNode* animation(int index) const;
+
+    /// The place of the first animation with that identifier, -1 without one.
+    int indexOfIdentifier(const QString& identifier) const;
+
+    /// Writes a copy right behind an animation; `identifier` replaces its own
+    /// unless it is empty. One step of undo. False, and no change, for a place
+    /// outside of the list or a text that is no identifier.
+    bool duplicateAnimation(int index, const QString& identifier);
+
+    bool allowsDuplicates(const QString& identifier) const override;
+    QString animationTemplate() const override;
+    void remove(unsigned index) override;
+
+    /// As that of the library: moved to the last place, an animation is
+    /// written at the very start. `moveAnimation()` has no such corner.
+    void move(unsigned from, unsigned to) override;
+    void autoOrganize() override;
+    void release() override;
+
+private:
+    void ensureFinalLineEnd();
+};
+
+/// Moves an animation so that it stands at `to` afterwards, also at the end.
+/// One step of undo. False, and no change, if an index is outside of the list.
+bool moveAnimation(FamilyAnimations* list, int from, int to);
+
+/// True for a number or word that can name an animation.
+bool isAnimationIdentifier(const QString& text);
+
+}  // namespace Family

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Family {
+
+/// How bad a problem is.
+enum class Level : unsigned char { Error = 0, Warning = 1, Deprecated = 2 };
+
+/// Every kind of problem that the program knows, in the order of the docs.
+enum class ProblemId : unsigned char {
+    // Of one line, by itself or under its head.
+    LineUnknown,
+    TextBehind,
+    FormatLate,
+    FormatVersion,
+    HeadName,
+    HeadNotClosed,
+    GroupUnknown,
+    GroupOld,
+    GroupMisplaced,
+    ArgumentMissing,
+    ArgumentExtra,
+    SubGroupAlone,
+    SubGroupUnknown,
+    ValueOutside,
+    KeyUnknown,
+    KeyOld,
+    EqualsMissing,
+    ValueMissing,
+    TextExpected,
+    TextNotClosed,
+    EscapeUnknown,
+    PathBackslash,
+    NameExpected,
+    ChoiceUnknown,
+    ChoiceOld,
+    DateExpected,
+    WholeExpected,
+    RealExpected,
+    CountExpected,
+    PercentExpected,
+    ColourExpected,
+    CommaMissing,
+    CountOfNumbers,
+    OutOfRange,
+    AnimationIdentifier,
+    FrameOutside,
+    FrameSprite,
+    OptionUnknown,
+    OptionOld,
+    OptionTwice,
+    DelayZero,
+    BoxOutside,
+    BoxReversed,
+
+    // Of a whole file or project.
+    GroupTwice,
+    KeyTwice,
+    KeyRequired,
+    AnimationTwice,
+    AnimationEmpty,
+    BoxesWithoutFrame,
+    LoopMissing,
+    LoopTwice,
+    FrameNeverShown,
+    FileMissing,
+    FileUnreadable,
+    FileOutside,
+    FileItself,
+    FileTwice,
+    AnimationMissing,
+    EncodingUnfaithful
+};
+
+constexpr int ProblemCount = int(ProblemId::EncodingUnfaithful) + 1;
+constexpr ProblemId FirstFileProblem = ProblemId::GroupTwice;
+
+/// One kind of problem: a row of the table.
+struct ProblemInfo
+{
+    ProblemId id;
+    const char* name;     ///< "key-unknown": stable, for `--json` and scripts
+    Level level;
+    const char* text;     ///< with "%1" and so on for parts of the line
+    const char* example;  ///< the lines of a file with the problem, and no other one
+};
+
+const ProblemInfo& problemInfo(ProblemId id);
+
+/// The message of a problem for the person.
+QString problemText(ProblemId id, const QStringList& arguments = {});
+
+/// "error", "warning" or "deprecated".
+QString levelName(Level level);
+
+}  // namespace Family

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/enginemodel.h"
+
+#include <QVector>
+
+namespace Family {
+
+/// The engine family, with the engines that the person has configured as rows.
+class FamilyEngineModel final : public Zorv::EngineModel
+{
+    Q_OBJECT
+
+public:
+    explicit FamilyEngineModel(QObject* parent = nullptr);
+
+    /// The one object of the process.
+    static FamilyEngineModel* instance();
+
+    char commentChar() const override;
+
+    /// "zorv" in the system's folder for data of programs.
+    QString dataPath() const override;
+    QString identifier() const override;
+
+    /// "zorv-player".
+    QString executableName() const override;
+    QString displayName() const override;
+    int engineCount() const override;
+
+    /// An empty record outside of the list.
+    Zorv::EngineInfo engine(unsigned index) const override;
+
+    /// Changes to the list; the host keeps it in its settings.
+    void setEngines(const QVector<Zorv::EngineInfo>& engines);
+    const QVector<Zorv::EngineInfo>& engines() const { return m_engines; }
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    using QObject::parent;
+
+private:
+    QVector<Zorv::EngineInfo> m_engines;
+};
+
+}  // namespace Family

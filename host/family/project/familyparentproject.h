@@ -1,0 +1,32 @@
+#pragma once
+
+#include "core/parentproject.h"
+
+namespace Family {
+
+/// A game folder. Projects lie in its folders: the tree lists the main files of
+/// each folder below "characters" and "stages", and of the root.
+class FamilyParentProject final : public Zorv::ParentProject
+{
+    Q_OBJECT
+
+public:
+    /// `rootPath` is the game folder; the files are read through `FileSystemArchive`.
+    explicit FamilyParentProject(const QString& rootPath);
+
+    /// The main files below a folder, as absolute paths in order. Hidden
+    /// folders and those of backups are left out, links are not followed.
+    static QStringList mainFiles(const QString& folder);
+
+    Zorv::EngineModel* engineModel() const override;
+    void projectFiles(const QString& path, QStringList& files) override;
+    QString runParameters(int kind) const override;
+    QString runPath(int kind, const QString& name, bool* wholeFolder) const override;
+    void lastReferenceGone() override;
+
+signals:
+    /// The last project has gone; the host may delete this object later.
+    void unused();
+};
+
+}  // namespace Family

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "core/project.h"
+#include "grammar/filekind.h"
+
+namespace Family {
+
+class FamilyDocument;
+class FamilyParentProject;
+
+/// A character or a stage with the code files that it names.
+///
+/// Code files, animations and commands are loaded as documents; sprites, sounds
+/// and other resources are only named.
+class FamilyProject final : public Zorv::Project
+{
+    Q_OBJECT
+
+public:
+    /// On a main document that has its file already, or none yet. The project
+    /// takes the document over.
+    FamilyProject(FamilyParentProject* parent, FamilyDocument* mainDocument);
+
+    /// Opens a main file with all that it names and registers it with the
+    /// parent. Null, with `error`, if the main file cannot be read; a file that
+    /// it names and that cannot be read is told in `loadErrors()`.
+    static FamilyProject* open(FamilyParentProject* parent, const QString& mainFile,
+                               QString* error);
+
+    /// A new project with a short text, not saved yet, registered likewise.
+    static FamilyProject* create(FamilyParentProject* parent, FileKind kind);
+
+    FamilyDocument* mainDocument() const;
+
+    /// The code documents of all kinds, the main one first.
+    QList<FamilyDocument*> documents() const;
+
+    /// What `loadFiles()` could not load, a line each for the person.
+    QStringList loadErrors() const { return m_loadErrors; }
+
+    /// The name in `[info]`, else the name of the main file.
+    QString title() const override;
+
+    /// Loads the code files that are named and not registered. Files outside of
+    /// the game folder, and the main file itself, are refused.
+    void loadFiles() override;
+    Zorv::FileID fileTypes() const override;
+
+    /// An empty document of a code kind, registered, without a name; null for
+    /// any other kind.
+    Zorv::ProjectFile* newFile(Zorv::FileID::Type type) override;
+    QString resolvePath(const QString& path) const override;
+
+    /// The path of the file relative to the project, or "new file" in words.
+    QString fileTitle(Zorv::FileID::Type type, int index) const override;
+    void fileInfos(QList<FileInfo>& list) override;
+
+private:
+    QStringList m_loadErrors;
+};
+
+}  // namespace Family

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/fileid.h"
+
+#include <QString>
+#include <QVector>
+
+namespace Zorv {
+class CodeDocument;
+}
+
+namespace Family {
+
+class FamilyDocument;
+
+/// A file that a main document names in `[files]` or elsewhere.
+struct FileReference
+{
+    Zorv::FileID::Type type;  ///< `Resource` for what is never loaded
+    QString path;             ///< as it is written, relative to the project's folder
+    int line;                 ///< block number of the value
+    int column;               ///< of the path in it, from 0
+    int length;
+};
+
+/// The kind of a file that a project only names (a palette file, music).
+constexpr auto ResourceFile = Zorv::FileID::Type(64);
+
+/// Every file that a document names, in the order of the text.
+QVector<FileReference> fileReferences(const FamilyDocument* document);
+
+/// Why a path cannot be used, or `Fine`.
+enum class PathFault { Fine, Empty, LeavesGame, NamesItself };
+
+/// Looks at the path that the file `mainFile` names. `gameFolder` is the root of the game.
+PathFault pathFault(const QString& gameFolder, const QString& mainFile, const QString& path);
+
+}  // namespace Family
