@@ -76,6 +76,7 @@ private:
     friend class CodeDocumentPrivate;
     friend class LineIndex;
     friend struct LineTraits;
+    friend class CodeBlockDataPrivate;
     std::unique_ptr<CodeBlockDataPrivate> d;
 };
 

@@ -213,6 +213,8 @@ signals:
 private:
     friend class CodeNode;
     friend class CodeBlockData;
+    friend class CodeDocumentPrivate;
+    friend class RootCode;
     std::unique_ptr<CodeDocumentPrivate> d;
 };
 

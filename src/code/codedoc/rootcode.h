@@ -12,6 +12,9 @@ public:
     /// `tag` is a number of the host that the grammar is free to read.
     explicit RootCode(short tag);
 
+    /// Leaves children that are still there without a parent.
+    ~RootCode() override;
+
     /// The number given to the constructor.
     short tag() const { return m_tag; }
 

@@ -1,0 +1,231 @@
+#include "code/codedoc/animations.h"
+
+#include "code/codedoc/animationcode.h"
+#include "code/codedoc/codedocument.h"
+
+#include <QScopedValueRollback>
+#include <QTextCursor>
+
+#include <algorithm>
+#include <vector>
+
+namespace Zorv {
+
+class AnimationsPrivate
+{
+public:
+    QList<AnimationCode*> list;
+    bool moving = false;
+};
+
+namespace {
+
+const QLatin1String Identifier("Identifier");
+
+QString identifierOf(const AnimationCode* animation)
+{
+    return animation->property(Identifier).toString();
+}
+
+/// What animations are sorted by. Numbers go by value, texts without regard to
+/// case; between a number and a text nothing is said.
+class SortKey
+{
+public:
+    explicit SortKey(const AnimationCode* animation) : m_text(identifierOf(animation))
+    {
+        m_number = m_text.toInt(&m_isNumber, 10);
+    }
+
+    bool comesBefore(const SortKey& other) const
+    {
+        if (m_isNumber != other.m_isNumber) {
+            return false;
+        }
+        return m_isNumber ? m_number < other.m_number
+                          : m_text.compare(other.m_text, Qt::CaseInsensitive) < 0;
+    }
+
+private:
+    QString m_text;
+    int m_number = 0;
+    bool m_isNumber = false;
+};
+
+}  // namespace
+
+Animations::Animations(CodeDocument* document)
+    : CodeDocumentEditor(document), d(std::make_unique<AnimationsPrivate>())
+{
+}
+
+Animations::~Animations() = default;
+
+QList<AnimationCode*> Animations::animations() const
+{
+    return d->list;
+}
+
+int Animations::count() const
+{
+    return d->list.size();
+}
+
+AnimationCode* Animations::at(unsigned index) const
+{
+    return d->list.value(int(index));
+}
+
+int Animations::indexOf(const AnimationCode* animation) const
+{
+    return d->list.indexOf(const_cast<AnimationCode*>(animation));
+}
+
+int Animations::find(unsigned start, const QVariant& identifier) const
+{
+    const QString text = identifier.toString();
+    for (int i = int(start); i >= 0 && i < d->list.size(); ++i) {
+        if (identifierOf(d->list.at(i)) == text) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+AnimationCode* Animations::insert(unsigned index, const QString& identifier)
+{
+    if (index >= unsigned(d->list.size())) {
+        return add(identifier);
+    }
+    document()->insertBefore(at(index), animationTemplate().arg(identifier), false);
+    return at(index);
+}
+
+AnimationCode* Animations::add(const QString& identifier)
+{
+    document()->insert(animationTemplate().arg(identifier));
+    return d->list.isEmpty() ? nullptr : d->list.last();
+}
+
+void Animations::duplicate(unsigned index, const QString& identifier)
+{
+    const AnimationCode* animation = at(index);
+    if (!animation) {
+        return;
+    }
+    QTextCursor cursor = animation->selectAll();
+    QString text = cursor.selectedText();
+    if (!identifier.isEmpty()) {
+        const QString form = animationTemplate().trimmed();
+        text.replace(form.arg(identifierOf(animation)), form.arg(identifier), Qt::CaseInsensitive);
+    }
+    if (const AnimationCode* behind = at(index + 1)) {
+        cursor.setPosition(document()->findBlockByNumber(behind->firstLine()).position());
+    } else {
+        cursor.movePosition(QTextCursor::End);
+    }
+    cursor.insertText(text);
+}
+
+void Animations::remove(unsigned index)
+{
+    if (AnimationCode* animation = at(index)) {
+        animation->remove(true);
+    }
+}
+
+void Animations::move(unsigned from, unsigned to)
+{
+    const auto size = unsigned(d->list.size());
+    if (from >= size || to >= size || from == to) {
+        return;
+    }
+    QTextCursor cursor = at(from)->selectAll();
+    cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor);
+    const QString text = cursor.selectedText();
+    QScopedValueRollback<bool> moving(d->moving, true);
+    beginMoveRows({}, int(from), int(from), {}, int(from < to ? to + 1 : to));
+    beginChange(QString());
+    AnimationCode* animation = d->list.takeAt(int(from));
+    animation->remove(true);
+    document()->insertBefore(at(to), text, false);
+    endChange();
+    endMoveRows();
+    emit changed(false);
+}
+
+void Animations::autoOrganize()
+{
+    beginChange(tr("Auto organize animations"));
+    std::vector<SortKey> keys(d->list.begin(), d->list.end());
+    for (auto key = keys.begin(); key != keys.end(); ++key) {
+        const auto place = std::find_if(keys.begin(), key, [key](const SortKey& other) {
+            return key->comesBefore(other);
+        });
+        if (place != key) {
+            move(unsigned(key - keys.begin()), unsigned(place - keys.begin()));
+            std::rotate(place, key, key + 1);
+        }
+    }
+    endChange();
+}
+
+void Animations::beginChange(const QString& title)
+{
+    document()->beginChange(title);
+}
+
+void Animations::endChange()
+{
+    document()->endChange();
+}
+
+int Animations::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : d->list.size();
+}
+
+QVariant Animations::data(const QModelIndex& index, int role) const
+{
+    const AnimationCode* animation = index.isValid() ? d->list.value(index.row()) : nullptr;
+    if (!animation || role != Qt::DisplayRole || document()->isCodeBeingChanged()) {
+        return QVariant();
+    }
+    return animation->displayName();
+}
+
+void Animations::insertChild(CodeNode* child, unsigned index)
+{
+    const int row = int(std::min(index, unsigned(d->list.size())));
+    if (d->moving) {
+        d->list.insert(row, static_cast<AnimationCode*>(child));
+        return;
+    }
+    beginInsertRows({}, row, row);
+    d->list.insert(row, static_cast<AnimationCode*>(child));
+    endInsertRows();
+    emit changed(true);
+}
+
+void Animations::removeChild(CodeNode* child)
+{
+    const int row = d->list.indexOf(static_cast<AnimationCode*>(child));
+    if (row < 0) {
+        return;
+    }
+    beginRemoveRows({}, row, row);
+    d->list.removeAt(row);
+    endRemoveRows();
+    emit changed(true);
+}
+
+void Animations::childChanged(CodeNode* child)
+{
+    const int row = d->list.indexOf(static_cast<AnimationCode*>(child));
+    if (row >= 0) {
+        emit dataChanged(index(row), index(row));
+        emit changed(false);
+    }
+}
+
+}  // namespace Zorv

@@ -1,0 +1,241 @@
+#include "code/codedoc/codedocument.h"
+
+#include "code/codecs/textcodecs.h"
+#include "code/codedoc/codedocument_p.h"
+#include "code/codedoc/codedocumenteditor.h"
+#include "core/messages.h"
+
+#include <QFont>
+#include <QPlainTextDocumentLayout>
+#include <QSet>
+
+namespace Zorv {
+
+namespace {
+
+const QString& highlightCodeKey()
+{
+    static const QString key = QStringLiteral("highlightCode");
+    return key;
+}
+
+const QString& parseCodeKey()
+{
+    static const QString key = QStringLiteral("parseCode");
+    return key;
+}
+
+}  // namespace
+
+CodeDocument::CodeDocument(short tag) : RootCode(tag)
+{
+    // The plain layout comes first: with the default one, every line that the
+    // highlighter colours would lay out the text again.
+    setDocumentLayout(new QPlainTextDocumentLayout(this));
+    setDefaultFont(QFont(QStringLiteral("Courier"), 10));
+    d = std::make_unique<CodeDocumentPrivate>(this);
+    setCodec("UTF-8");
+}
+
+CodeDocument::~CodeDocument()
+{
+    QList<CodeDocumentEditor*> editors;
+    for (CodeDocumentEditor* editor : qAsConst(d->editors)) {
+        if (!editors.contains(editor)) {
+            editors.append(editor);
+        }
+    }
+    d->editors.clear();
+    for (CodeDocumentEditor* editor : editors) {
+        editor->release();
+    }
+    d->parser = nullptr;
+    QTextDocument::clear();
+    d->dropDeadNodes();
+    d.reset();
+}
+
+void CodeDocument::setParser(CodeParser* parser)
+{
+    if (d->parser != parser) {
+        d->parser = parser;
+        reparse();
+    }
+}
+
+CodeParser* CodeDocument::parser() const
+{
+    return d->parser;
+}
+
+bool CodeDocument::hasSyntaxHighlight() const
+{
+    return option(highlightCodeKey()).toBool();
+}
+
+void CodeDocument::setSyntaxHighlight(bool highlight)
+{
+    if (highlight != hasSyntaxHighlight()) {
+        setOption(highlightCodeKey(), highlight, false, false);
+        reparse();
+    }
+}
+
+void CodeDocument::reparse()
+{
+    d->dropDeadNodes();
+    for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
+        if (CodeNode* node = nodeInBlock(block)) {
+            CodeBlockDataPrivate::forgetNode(CodeBlockData::testBlockData(block), node);
+            node->release();
+        }
+    }
+    d->rehighlightAll();
+}
+
+void CodeDocument::rehighlight()
+{
+    d->rehighlightAll();
+}
+
+void CodeDocument::enableGroups(std::initializer_list<unsigned> groups)
+{
+    for (const unsigned group : groups) {
+        if (!d->groups.contains(group)) {
+            d->groups.append(group);
+        }
+    }
+    if (hasSyntaxHighlight()) {
+        rehighlight();
+    }
+}
+
+bool CodeDocument::groupEnabled(unsigned group) const
+{
+    if (!option(parseCodeKey()).toBool()) {
+        return false;
+    }
+    return group == 0 || d->groups.contains(group);
+}
+
+void CodeDocument::setSyntaxFormat(CodeParserSyntax::TokenType type, const QTextCharFormat& format)
+{
+    CodeDocumentPrivate::m_syntaxFmts[type] = format;
+}
+
+QTextCharFormat CodeDocument::syntaxFormat(CodeParserSyntax::TokenType type)
+{
+    return CodeDocumentPrivate::m_syntaxFmts[type];
+}
+
+CodeNode* CodeDocument::nodeInBlock(const QTextBlock& block) const
+{
+    const CodeBlockData* data = CodeBlockData::testBlockData(block);
+    return data ? data->codeNode() : nullptr;
+}
+
+CodeNode* CodeDocument::nodeBefore(const QTextBlock& block) const
+{
+    for (QTextBlock above = block.previous(); above.isValid(); above = above.previous()) {
+        const CodeBlockData* data = CodeBlockData::testBlockData(above);
+        if (data && data->d->owner) {
+            if (data->d->node) {
+                return data->d->node;
+            }
+            data = LineIndex::backward(data, CodeBlockDataPrivate::HasNode);
+            return data ? data->d->node : const_cast<CodeDocument*>(this);
+        }
+    }
+    return const_cast<CodeDocument*>(this);
+}
+
+namespace {
+
+quint16 traitOfMessage(int type)
+{
+    switch (type) {
+    case CodeBlockData::SyntaxMessage::Error:
+        return CodeBlockDataPrivate::HasError;
+    case CodeBlockData::SyntaxMessage::Warning:
+        return CodeBlockDataPrivate::HasWarning;
+    default:
+        return CodeBlockDataPrivate::HasDeprecation;
+    }
+}
+
+}  // namespace
+
+QTextBlock CodeDocument::nextBlockWithMessage(const QTextBlock& block, int type) const
+{
+    const CodeBlockData* data = CodeBlockData::testBlockData(block);
+    if (!data || !data->d->owner) {
+        return QTextBlock();
+    }
+    data = LineIndex::forward(data, traitOfMessage(type));
+    return data ? data->d->block() : QTextBlock();
+}
+
+QTextBlock CodeDocument::previousBlockWithMessage(const QTextBlock& block, int type) const
+{
+    const CodeBlockData* data = CodeBlockData::testBlockData(block);
+    if (!data || !data->d->owner) {
+        return QTextBlock();
+    }
+    data = LineIndex::backward(data, traitOfMessage(type));
+    return data ? data->d->block() : QTextBlock();
+}
+
+CodeDocumentEditor* CodeDocument::documentEditor(CodeNode::Type type, unsigned group) const
+{
+    return d->editors.value(CodeDocumentPrivate::editorKey(type, group));
+}
+
+void CodeDocument::registerDocumentEditor(CodeDocumentEditor* editor, CodeNode::Type type,
+                                          unsigned group)
+{
+    d->editors.insert(CodeDocumentPrivate::editorKey(type, group), editor);
+}
+
+void CodeDocument::unregisterDocumentEditor(CodeDocumentEditor* editor)
+{
+    const auto found = std::find(d->editors.begin(), d->editors.end(), editor);
+    if (found != d->editors.end()) {
+        d->editors.erase(found);
+    }
+}
+
+CodeDocument* CodeDocument::document() const
+{
+    return const_cast<CodeDocument*>(this);
+}
+
+void CodeDocument::insertChild(CodeNode* child, unsigned index)
+{
+    RootCode::insertChild(child, index);
+    if (CodeDocumentEditor* editor = d->editors.value(CodeDocumentPrivate::editorKey(child))) {
+        editor->insertChild(child, d->placeAmongKind(child));
+    }
+}
+
+void CodeDocument::removeChild(CodeNode* child)
+{
+    d->forgetPlaces();
+    if (CodeDocumentEditor* editor = d->editors.value(CodeDocumentPrivate::editorKey(child))) {
+        editor->removeChild(child);
+    }
+    RootCode::removeChild(child);
+}
+
+void CodeDocument::childChanged(CodeNode* child)
+{
+    if (CodeDocumentEditor* editor = d->editors.value(CodeDocumentPrivate::editorKey(child))) {
+        editor->childChanged(child);
+    }
+}
+
+quint64 CodeDocument::parsedLineCount() const
+{
+    return d->parsedLines;
+}
+
+}  // namespace Zorv

@@ -1,0 +1,106 @@
+#include "code/codedoc/codedocument.h"
+
+#include "code/codedoc/codedocument_p.h"
+
+namespace Zorv {
+
+void CodeDocument::beginChange(const QString&)
+{
+    d->cursor.beginEditBlock();
+    ++d->changeDepth;
+}
+
+void CodeDocument::endChange()
+{
+    if (d->changeDepth > 0) {
+        d->cursor.endEditBlock();
+        --d->changeDepth;
+    }
+}
+
+bool CodeDocument::isCodeBeingChanged() const
+{
+    return d->changeDepth > 0;
+}
+
+void CodeDocument::undo()
+{
+    QTextDocument::undo();
+}
+
+void CodeDocument::redo()
+{
+    QTextDocument::redo();
+}
+
+QTextCursor CodeDocument::cursor() const
+{
+    return d->cursor;
+}
+
+void CodeDocument::insert(const QString& text)
+{
+    d->cursor.movePosition(QTextCursor::End);
+    insertOnCursor(text, d->cursor);
+}
+
+void CodeDocument::insertOnCursor(const QString& text, QTextCursor& cursor)
+{
+    const int first = cursor.block().blockNumber();
+    const QTextBlock behind = cursor.block().next();
+    cursor.insertText(text);
+    if (d->mustParseNow()) {
+        d->parseNow(findBlockByNumber(first), behind);
+    }
+}
+
+void CodeDocument::replaceSelection(const QString& text, QTextCursor& cursor)
+{
+    const int first = findBlock(cursor.selectionStart()).blockNumber();
+    if (text.isEmpty()) {
+        cursor.removeSelectedText();
+    } else {
+        cursor.insertText(text);
+    }
+    if (d->mustParseNow()) {
+        d->parseNow(findBlockByNumber(first), cursor.block().next());
+    }
+}
+
+void CodeDocument::insertAfter(const CodeNode* node, const QString& text, bool sameLine)
+{
+    if (!node) {
+        d->cursor.movePosition(QTextCursor::End);
+        insertOnCursor(text + QLatin1Char('\n'), d->cursor);
+        return;
+    }
+    QTextBlock block = sameLine ? node->block() : findBlockByNumber(node->lastLine());
+    if (!block.isValid()) {
+        block = lastBlock();
+    }
+    d->cursor.setPosition(block.position() + block.length() - 1);
+    insertOnCursor(QLatin1Char('\n') + text, d->cursor);
+}
+
+void CodeDocument::insertBefore(const CodeNode* node, const QString& text, bool sameLine)
+{
+    if (!node) {
+        d->cursor.movePosition(QTextCursor::Start);
+        insertOnCursor(text + QLatin1Char('\n'), d->cursor);
+        return;
+    }
+    QTextBlock block = sameLine ? node->block() : findBlockByNumber(node->firstLine());
+    if (!block.isValid()) {
+        block = begin();
+    }
+    const QTextBlock above = block.previous();
+    if (above.isValid()) {
+        d->cursor.setPosition(above.position() + above.length() - 1);
+        insertOnCursor(QLatin1Char('\n') + text, d->cursor);
+    } else {
+        d->cursor.setPosition(block.position());
+        insertOnCursor(text + QLatin1Char('\n'), d->cursor);
+    }
+}
+
+}  // namespace Zorv

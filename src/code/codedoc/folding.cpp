@@ -1,0 +1,116 @@
+#include "code/codedoc/folding_p.h"
+
+#include "code/codedoc/lineindex_p.h"
+
+namespace Zorv {
+
+using Data = CodeBlockDataPrivate;
+
+namespace {
+
+bool isHead(const Data* line)
+{
+    return (line->traits & Data::IsHead) != 0;
+}
+
+bool isBody(const Data* line)
+{
+    return (line->traits & Data::IsBody) != 0;
+}
+
+const Data* dataOf(const CodeBlockData* line)
+{
+    return Data::of(const_cast<CodeBlockData*>(line));
+}
+
+}  // namespace
+
+quint16 Folding::traitsOfClass(int folding)
+{
+    switch (folding & ~4) {
+    case 1:
+        return Data::IsHead;
+    case 2:
+        return Data::IsBody;
+    default:
+        return 0;
+    }
+}
+
+int Folding::indent(const CodeBlockData* line)
+{
+    const Data* data = dataOf(line);
+    if (data->traits & Data::HasClass) {
+        return data->foldingIndent;
+    }
+    const CodeBlockData* above = LineIndex::backward(line, Data::HasClass);
+    return above ? indentBetween(above, LineIndex::forward(line, Data::HasClass)) : 0;
+}
+
+/// The level of a run of lines without a class, by its classified neighbours.
+int Folding::indentBetween(const CodeBlockData* aboveLine, const CodeBlockData* belowLine)
+{
+    if (!belowLine) {
+        return 0;
+    }
+    const Data* above = dataOf(aboveLine);
+    const Data* below = dataOf(belowLine);
+    if (isBody(below)) {
+        return above->foldingIndent + (isHead(above) ? 1 : 0);
+    }
+    if (below->isOutermost) {
+        return 0;
+    }
+    if (isHead(above)) {
+        return above->foldingIndent + (above->isOutermost ? 1 : 0);
+    }
+    switch (above->headAbove) {
+    case Data::OutermostHead:
+        return above->foldingIndent;
+    case Data::InnerHead:
+        return above->foldingIndent - 1;
+    default:
+        return 0;
+    }
+}
+
+/// True if something has changed that lines below depend on.
+bool Folding::updateLine(CodeBlockData* line)
+{
+    Data* data = Data::of(line);
+    const CodeBlockData* aboveLine = LineIndex::above(line);
+    const Data* above = aboveLine ? dataOf(aboveLine) : nullptr;
+    const int aboveIndent = aboveLine ? indent(aboveLine) : 0;
+    int result = 0;
+    quint8 headAbove = Data::NoHead;
+    if (isHead(data)) {
+        result = data->isOutermost ? 0 : aboveIndent - (above && isBody(above) ? 1 : 0);
+        headAbove = data->isOutermost ? Data::OutermostHead : Data::InnerHead;
+    } else {
+        result = aboveIndent + (above && isHead(above) ? 1 : 0);
+        if (const CodeBlockData* classified = LineIndex::backward(line, Data::HasClass)) {
+            headAbove = dataOf(classified)->headAbove;
+        }
+    }
+    const bool changed = result != data->foldingIndent || headAbove != data->headAbove;
+    data->foldingIndent = result;
+    data->headAbove = headAbove;
+    return changed;
+}
+
+void Folding::update(CodeBlockData* first, CodeBlockData* last)
+{
+    CodeBlockData* line = first;
+    if (!(dataOf(line)->traits & Data::HasClass)) {
+        line = LineIndex::forward(line, Data::HasClass);
+    }
+    const CodeBlockData* behind = LineIndex::forward(last, Data::HasClass);
+    for (; line && line != behind; line = LineIndex::forward(line, Data::HasClass)) {
+        updateLine(line);
+    }
+    while (line && updateLine(line)) {
+        line = LineIndex::forward(line, Data::HasClass);
+    }
+}
+
+}  // namespace Zorv

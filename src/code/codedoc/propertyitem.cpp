@@ -1,0 +1,7 @@
+#include "code/codedoc/propertyitem.h"
+
+namespace Zorv {
+
+PropertyItem::~PropertyItem() = default;
+
+}  // namespace Zorv
