@@ -1,7 +1,7 @@
 #pragma once
 
 #include "code/codedoc/framecode.h"
-#include "code/framedata.h"
+#include "nodes/framedata.h"
 
 #include <memory>
 

@@ -1,0 +1,243 @@
+#include "grammar/problems.h"
+
+#include <QCoreApplication>
+
+namespace Family {
+
+namespace {
+
+using Id = ProblemId;
+constexpr Level E = Level::Error;
+constexpr Level W = Level::Warning;
+constexpr Level D = Level::Deprecated;
+
+#define T(text) QT_TRANSLATE_NOOP("Family", text)
+
+// clang-format off
+constexpr ProblemInfo rows[] = {
+    {Id::LineUnknown, "line-unknown", E,
+     T("Expected a group such as '[constants]', 'key = value', 'animation', 'frame' or a box; found '%1'. Put '#' in front to make it a comment."),
+     "%% what is this"},
+    {Id::TextBehind, "text-behind", E,
+     T("Expected the end of the line; found '%1'. Remove it, or put '#' in front of it."),
+     "[info]\nname = \"Ryn\" x"},
+    {Id::FormatLate, "format-late", E,
+     T("The format line stands above the first group or animation. Move it to the top."),
+     "[info]\nname = \"Ryn\"\nzorv 1"},
+    {Id::FormatVersion, "format-version", E,
+     T("Expected '1' behind 'zorv'; found '%1'. This program reads format 1."),
+     "zorv 2"},
+    {Id::HeadName, "head-name", E,
+     T("Expected the name of a group behind '['."),
+     "[]"},
+    {Id::HeadNotClosed, "head-not-closed", E,
+     T("Expected ']' at the end of the group head."),
+     "[music"},
+    {Id::GroupUnknown, "group-unknown", E,
+     T("There is no group '%1'. %2"),
+     "[musik]"},
+    {Id::GroupOld, "group-old", D,
+     T("'%1' is the old name of the group '%2'. Write '%2'."),
+     "[data]\nlife = 1000"},
+    {Id::GroupMisplaced, "group-misplaced", W,
+     T("The group '%1' has no effect in a %2 file. Move it to a %3 file."),
+     "[arena]\nleft = -100\nright = 100\nfloor = 0"},
+    {Id::ArgumentMissing, "argument-missing", E,
+     T("Expected a name behind '%1', as in '[%1 first]'."),
+     "[move]\nanimation = 1\nanimation 1\nframe 0,0 loop"},
+    {Id::ArgumentExtra, "argument-extra", E,
+     T("The group '%1' takes no name. Remove '%2'."),
+     "[info hero]\nname = \"Ryn\""},
+    {Id::SubGroupAlone, "subgroup-alone", E,
+     T("A sub-group belongs to the group above it; here is none. Write the group's head first."),
+     "[.walk]"},
+    {Id::SubGroupUnknown, "subgroup-unknown", E,
+     T("The group '%1' has no sub-group '%2'. %3"),
+     "[constants]\nlife = 1000\n[.wlak]"},
+    {Id::ValueOutside, "value-outside", E,
+     T("A value stands in a group. Write a group such as '[constants]' above it."),
+     "life = 1000"},
+    {Id::KeyUnknown, "key-unknown", E,
+     T("The group '%1' has no key '%2'. %3"),
+     "[constants]\nlife = 1000\npowr = 3000"},
+    {Id::KeyOld, "key-old", D,
+     T("'%1' is the old name of '%2'. Write '%2'."),
+     "[constants]\nlifebar = 1000"},
+    {Id::EqualsMissing, "equals-missing", E,
+     T("Expected '=' behind the key '%1'."),
+     "[constants]\nlife = 1000\npower 3000"},
+    {Id::ValueMissing, "value-missing", E,
+     T("Expected %1 behind '='."),
+     "[constants]\nlife = 1000\npower ="},
+    {Id::TextExpected, "text-expected", E,
+     T("Expected a text in double quotes; found '%1'."),
+     "[info]\nname = Ryn"},
+    {Id::TextNotClosed, "text-not-closed", E,
+     T("Expected a double quote at the end of the text."),
+     "[info]\nname = \"Ryn"},
+    {Id::EscapeUnknown, "escape-unknown", W,
+     T("'\\%1' means nothing in a text. Expected '\\\"', '\\\\' or '\\n'; for a backslash write '\\\\'."),
+     "[info]\nname = \"R\\yn\""},
+    {Id::PathBackslash, "path-backslash", D,
+     T("Backslashes in paths are old. Write '/'."),
+     "[palette blue]\nfile = \"palettes\\\\blue.act\""},
+    {Id::NameExpected, "name-expected", E,
+     T("Expected a name of letters, digits, '_' and '-'; found '%1'."),
+     "[move jab]\nanimation = 1\ncancels = ?\nanimation 1\nframe 0,0 loop"},
+    {Id::ChoiceUnknown, "choice-unknown", E,
+     T("Expected one of %1; found '%2'."),
+     "[constants]\nlife = 1000\nstance = left"},
+    {Id::ChoiceOld, "choice-old", D,
+     T("'%1' is the old word for '%2'. Write '%2'."),
+     "[constants]\nlife = 1000\nturns = true"},
+    {Id::DateExpected, "date-expected", E,
+     T("Expected a day such as 2024-05-31; found '%1'."),
+     "[info]\nname = \"Ryn\"\ncreated = 2024-02-30"},
+    {Id::WholeExpected, "whole-expected", E,
+     T("Expected a whole number; found '%1'."),
+     "[constants]\nlife = full"},
+    {Id::RealExpected, "real-expected", E,
+     T("Expected a number such as 0.5; found '%1'."),
+     "[constants]\nlife = 1000\ngravity = low"},
+    {Id::CountExpected, "count-expected", E,
+     T("Expected a whole number without sign; found '%1'."),
+     "[move jab]\nanimation = 1\npriority = -1\nanimation 1\nframe 0,0 loop"},
+    {Id::PercentExpected, "percent-expected", E,
+     T("Expected a percentage such as 80%; found '%1'."),
+     "[constants]\nlife = 1000\nattack = 100"},
+    {Id::ColourExpected, "colour-expected", E,
+     T("Expected a colour such as 0xff8040; found '%1'."),
+     "[constants]\nlife = 1000\nshadow = red"},
+    {Id::CommaMissing, "comma-missing", E,
+     T("Expected ',' between two numbers."),
+     "[constants]\nlife = 1000\n[.body]\nhead = -5 -90"},
+    {Id::CountOfNumbers, "count-of-numbers", E,
+     T("Expected %1 numbers; found %2."),
+     "[constants]\nlife = 1000\n[.body]\nhead = -5"},
+    {Id::OutOfRange, "out-of-range", E,
+     T("Expected a number from %1 to %2; found %3."),
+     "[constants]\nlife = 0"},
+    {Id::AnimationIdentifier, "animation-identifier", E,
+     T("Expected the number or name of the animation, as in 'animation 200'."),
+     "animation \"Jab\"\nframe 0,0 loop"},
+    {Id::FrameOutside, "frame-outside", E,
+     T("A frame stands in an animation. Write a line such as 'animation 200' above it."),
+     "frame 0,0"},
+    {Id::FrameSprite, "frame-sprite", E,
+     T("Expected the group and number of a sprite, as in 'frame 200,0'."),
+     "animation 1\nframe loop"},
+    {Id::OptionUnknown, "option-unknown", E,
+     T("A frame has no option '%1'. %2"),
+     "animation 1\nframe 0,0 dely 4 loop"},
+    {Id::OptionOld, "option-old", D,
+     T("'%1' is the old name of the option '%2'. Write '%2'."),
+     "animation 1\nframe 0,0 time 4 loop"},
+    {Id::OptionTwice, "option-twice", E,
+     T("The option '%1' stands twice. Remove one."),
+     "animation 1\nframe 0,0 delay 4 delay 5 loop"},
+    {Id::DelayZero, "delay-zero", W,
+     T("A frame with delay 0 is never seen. Write 1 or more, or -1 for one that stays."),
+     "animation 1\nframe 0,0 delay 0 loop"},
+    {Id::BoxOutside, "box-outside", E,
+     T("A contact box stands in an animation, in front of its frame. Write a line such as 'animation 200' above it."),
+     "attack 0,0, 10,10"},
+    {Id::BoxReversed, "box-reversed", W,
+     T("Expected left before right and top before bottom. Swap the numbers."),
+     "animation 1\nattack 10,0, 0,10\nframe 0,0 loop"},
+    {Id::GroupTwice, "group-twice", W,
+     T("'[%1]' stands already in line %2. Join the two, or remove one."),
+     "[constants]\nlife = 1000\n[constants]\nlife = 900"},
+    {Id::KeyTwice, "key-twice", W,
+     T("'%1' is set already in line %2; only the first counts. Remove one."),
+     "[constants]\nlife = 1000\nlife = 900"},
+    {Id::KeyRequired, "key-required", E,
+     T("The group '%1' needs the key '%2'. Add '%2 = ' and %3."),
+     "[constants]\npower = 3000"},
+    {Id::AnimationTwice, "animation-twice", E,
+     T("The animation '%1' stands already in %2 line %3. Give one of them another name."),
+     "animation 1\nframe 0,0 loop\nanimation 1\nframe 0,1 loop"},
+    {Id::AnimationEmpty, "animation-empty", W,
+     T("The animation '%1' has no frame. Add a line such as 'frame 0,0', or remove it."),
+     "animation 1"},
+    {Id::BoxesWithoutFrame, "boxes-without-frame", W,
+     T("No frame follows this contact box. Add a frame behind it, or remove it."),
+     "animation 1\nframe 0,0 loop\nattack 0,0, 10,10"},
+    {Id::LoopMissing, "loop-missing", W,
+     T("The animation '%1' does not tell where it starts again. Put 'loop' at a frame, or 'delay -1' at the last."),
+     "animation 1\nframe 0,0 delay 4\nframe 0,1 delay 4"},
+    {Id::LoopTwice, "loop-twice", W,
+     T("The animation '%1' has its 'loop' already in line %2. Remove one."),
+     "animation 1\nframe 0,0 loop\nframe 0,1 loop"},
+    {Id::FrameNeverShown, "frame-never-shown", W,
+     T("This frame is never shown: the one in line %1 stays for ever (delay -1)."),
+     "animation 1\nframe 0,0 delay -1\nframe 0,1"},
+    {Id::FileMissing, "file-missing", E,
+     T("There is no file '%1'. Correct the path, or put the file there."),
+     "[palette blue]\nfile = \"missing.act\""},
+    {Id::FileUnreadable, "file-unreadable", E,
+     T("Cannot read '%1': %2. Check its permissions."),
+     "[palette blue]\nfile = \"folder\""},
+    {Id::FileOutside, "file-outside", E,
+     T("The path '%1' leaves the game folder. Copy the file into the folder and write its path there."),
+     "[palette blue]\nfile = \"../../../elsewhere.act\""},
+    {Id::FileItself, "file-itself", E,
+     T("The file names itself. Remove the line."),
+     "[files]\ncode = \"example.character\""},
+    {Id::FileTwice, "file-twice", W,
+     T("The file '%1' is named already in line %2. Remove one."),
+     "[files]\ncode = \"moves.code\"\ncode = \"moves.code\""},
+    {Id::AnimationMissing, "animation-missing", E,
+     T("There is no animation '%1'. %2"),
+     "[move jab]\nanimation = 7"},
+    {Id::EncodingUnfaithful, "encoding-unfaithful", W,
+     T("The file does not come back byte for byte from its encoding, %1. Open it in another encoding before it is saved."),
+     ""},
+};
+// clang-format on
+
+#undef T
+
+constexpr bool rowsAreInOrder()
+{
+    for (int i = 0; i < ProblemCount; ++i) {
+        if (int(rows[i].id) != i) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(sizeof rows / sizeof *rows == ProblemCount && rowsAreInOrder(),
+              "a row for each kind of problem, in the order of the kinds");
+
+}  // namespace
+
+const ProblemInfo& problemInfo(ProblemId id)
+{
+    return rows[int(id)];
+}
+
+QString problemText(ProblemId id, const QStringList& arguments)
+{
+    QString text = QCoreApplication::translate("Family", problemInfo(id).text);
+    // One pass over the marks, so that a mark inside of an argument stays what it is.
+    QString result;
+    result.reserve(text.size() + 40);
+    for (int i = 0; i < text.size(); ++i) {
+        const int number = i + 1 < text.size() ? text.at(i + 1).digitValue() : -1;
+        if (text.at(i) == QLatin1Char('%') && number > 0 && number <= arguments.size()) {
+            result += arguments.at(number - 1);
+            ++i;
+        } else {
+            result += text.at(i);
+        }
+    }
+    return result;
+}
+
+QString levelName(Level level)
+{
+    static const char* const names[] = {"error", "warning", "deprecated"};
+    return QLatin1String(names[int(level)]);
+}
+
+}  // namespace Family
