@@ -11,9 +11,12 @@ class Archive;
 /// The base of everything that is told when its file changes on disk.
 ///
 /// One file can be open several times; all objects of the process share one
-/// watcher, and the person is asked once for all of them. `fromFile()` and
-/// `toFile()` are called by a derived class around its own loading and saving.
-/// Main thread only.
+/// watcher, and the person is asked once for all of them. A file that is deleted
+/// raises no question; one that comes back is watched again and counts as
+/// changed. The host's setting "enable_file_watcher" switches all questions off;
+/// a host that does not know it gets them. `fromFile()` and `toFile()` are
+/// called by a derived class around its own loading and saving. Without a
+/// `QCoreApplication` nothing is watched. Main thread only.
 class ZORV_EXPORT FileWatchObject
 {
 public:
@@ -41,8 +44,9 @@ public:
     bool isWatchPaused() const { return m_paused; }
 
 protected:
-    /// For a derived class whose file has just been written and renamed: the
-    /// watch follows the new file. Call it after the device went back.
+    /// For a derived class whose file has just been written: a new file is
+    /// watched from now on, and the pause of `toFile()` ends a moment later if no
+    /// signal can come for this write. Call it after the device went back.
     void renewWatch(const QString& fileName);
 
 private:

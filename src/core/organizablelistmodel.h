@@ -9,7 +9,7 @@ namespace Zorv {
 /// A list whose rows can be dragged to another place in it.
 ///
 /// Drops land between rows, never on one, and move rows at once through
-/// `moveRow()`. Main thread only.
+/// `moveTo()`. Main thread only.
 class ZORV_EXPORT OrganizableListModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -19,7 +19,10 @@ public:
 
     /// Puts the dragged rows in front of `row`, in their order.
     ///
-    /// Only `Qt::MoveAction` is taken. A target at or behind the end counts as
+    /// `data` is a payload of `mimeData()`, read as its first format; rows that
+    /// this list does not have are left out, and a broken payload moves nothing.
+    /// Values of host types in it cannot be read: a model keeps them out of the
+    /// payload by overriding `itemData()`. Only `Qt::MoveAction` is taken. A target at or behind the end counts as
     /// the last row, so a row dragged there from above ends next to last. The
     /// result is always false: the rows are in place already, and true would
     /// make the view delete them.

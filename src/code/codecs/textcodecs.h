@@ -23,7 +23,8 @@ public:
     /// The number of a codec, compared byte for byte; 0 if it is not there.
     static int index(const char* name);
 
-    /// The name of a codec; for 0 the translated text "System".
+    /// The name of a codec; for 0 the translated text "System", empty for a
+    /// number that is not on the list.
     static QString name(int number);
 
     /// The codec to fall back on where nothing is detected. 0 at first: the
@@ -38,23 +39,28 @@ public:
     /// written back, 0 if it is not on the list.
     static QString stringFromData(const QByteArray& data, int* number);
 
-    /// Encodes. A character that the codec lacks becomes what Qt puts there.
+    /// Encodes. A character that the codec lacks becomes what Qt puts there. A
+    /// number that is not on the list stands for the system's codec here and
+    /// everywhere.
     static QByteArray stringToData(const QString& text, int number);
 
-    /// The place of the first character of `text` that the codec lacks; -1 if
-    /// it has all of them.
+    /// The place of the first character of `text` that would not come back from
+    /// the codec as it is; -1 if all do. One half of a surrogate pair never does.
     static int firstUnencodable(const QString& text, int number);
 
     /// True if decoding and encoding with the codec gives `data` back, byte for
     /// byte, a byte-order mark aside.
     static bool isFaithful(const QByteArray& data, int number);
 
-    /// A codec that is faithful to `data`: UTF-8 if it is, else a Windows or
-    /// ISO codec. There always is one.
+    /// A codec that is faithful to `data`: UTF-8 if it is, else the one that its
+    /// byte-order mark tells, the detected one, or a Windows or ISO codec. There
+    /// always is one.
     static int faithfulCodec(const QByteArray& data);
 
     /// The byte-order mark at the head of `data`, as it stands there; empty
-    /// without one.
+    /// without one. `stringToData()` writes one for UTF-16 and UTF-32 only: a
+    /// file that is to keep its own mark, or to have none, takes off what this
+    /// finds there.
     static QByteArray byteOrderMark(const QByteArray& data);
 };
 

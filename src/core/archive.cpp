@@ -1,0 +1,7 @@
+#include "core/archive.h"
+
+namespace Zorv {
+
+Archive::~Archive() = default;
+
+}  // namespace Zorv

@@ -1,0 +1,177 @@
+#include "core/dialogs/dialogs.h"
+
+#include "core/interface.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace Zorv {
+
+namespace {
+
+Dialogs* s_dialogs = nullptr;
+
+const struct
+{
+    Dialogs::Button button;
+    QMessageBox::StandardButton standard;
+} buttonTable[] = {
+    {Dialogs::Ok, QMessageBox::Ok},
+    {Dialogs::Cancel, QMessageBox::Cancel},
+    {Dialogs::Yes, QMessageBox::Yes},
+    {Dialogs::No, QMessageBox::No},
+};
+
+QWidget* mainWindow()
+{
+    const Interface* host = Interface::instance();
+    return host ? host->mainWindow() : nullptr;
+}
+
+// Without widgets there is nobody to answer.
+bool canShow()
+{
+    return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+}
+
+Dialogs::Button closingButton(Dialogs::Buttons buttons, Dialogs::Button defaultButton)
+{
+    if (buttons & Dialogs::Cancel)
+        return Dialogs::Cancel;
+    return buttons & Dialogs::No ? Dialogs::No : defaultButton;
+}
+
+Dialogs::Button showBox(QMessageBox::Icon icon, const QString& title, const QString& text,
+                        Dialogs::Buttons buttons, Dialogs::Button defaultButton)
+{
+    const Dialogs::Button closing = closingButton(buttons, defaultButton);
+    if (!canShow())
+        return closing;
+    QMessageBox box(icon, title, text, QMessageBox::NoButton, mainWindow());
+    // A path in a text is no markup.
+    box.setTextFormat(Qt::PlainText);
+    for (const auto& entry : buttonTable) {
+        if (!(buttons & entry.button))
+            continue;
+        QPushButton* button = box.addButton(entry.standard);
+        if (entry.button == defaultButton)
+            box.setDefaultButton(button);
+        if (entry.button == closing)
+            box.setEscapeButton(button);
+    }
+    const int answer = box.exec();
+    const auto* entry = std::find_if(std::begin(buttonTable), std::end(buttonTable),
+                                     [=](const auto& e) { return e.standard == answer; });
+    return entry == std::end(buttonTable) ? closing : entry->button;
+}
+
+QWidget* orMainWindow(QWidget* parent)
+{
+    return parent ? parent : mainWindow();
+}
+
+}  // namespace
+
+Dialogs::~Dialogs() = default;
+
+Dialogs* Dialogs::instance()
+{
+    static Dialogs standard;
+    return s_dialogs ? s_dialogs : &standard;
+}
+
+void Dialogs::setInstance(Dialogs* dialogs)
+{
+    s_dialogs = dialogs;
+}
+
+Dialogs::Button Dialogs::question(const QString& title, const QString& text, Buttons buttons,
+                                  Button defaultButton)
+{
+    return showBox(QMessageBox::Question, title, text, buttons, defaultButton);
+}
+
+Dialogs::Button Dialogs::warning(const QString& title, const QString& text, Buttons buttons,
+                                 Button defaultButton)
+{
+    return showBox(QMessageBox::Warning, title, text, buttons, defaultButton);
+}
+
+void Dialogs::information(const QString& title, const QString& text)
+{
+    showBox(QMessageBox::Information, title, text, Ok, Ok);
+}
+
+void Dialogs::error(const QString& title, const QString& text)
+{
+    showBox(QMessageBox::Critical, title, text, Ok, Ok);
+}
+
+int Dialogs::choose(const QString& title, const QString& text, const QStringList& choices,
+                    int defaultChoice)
+{
+    if (!canShow() || choices.isEmpty())
+        return -1;
+    QInputDialog dialog(mainWindow());
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(text);
+    dialog.setComboBoxItems(choices);
+    dialog.setTextValue(choices.value(defaultChoice, choices.first()));
+    return dialog.exec() == QDialog::Accepted ? choices.indexOf(dialog.textValue()) : -1;
+}
+
+QString Dialogs::openFileName(QWidget* parent, const QString& caption, const QString& dir,
+                              const QString& filter)
+{
+    return canShow() ? QFileDialog::getOpenFileName(orMainWindow(parent), caption, dir, filter)
+                     : QString();
+}
+
+QStringList Dialogs::openFileNames(QWidget* parent, const QString& caption, const QString& dir,
+                                   const QString& filter)
+{
+    return canShow() ? QFileDialog::getOpenFileNames(orMainWindow(parent), caption, dir, filter)
+                     : QStringList();
+}
+
+QString Dialogs::saveFileName(QWidget* parent, const QString& caption, const QString& dir,
+                              const QString& filter)
+{
+    return canShow() ? QFileDialog::getSaveFileName(orMainWindow(parent), caption, dir, filter)
+                     : QString();
+}
+
+QString Dialogs::existingFolder(QWidget* parent, const QString& caption, const QString& dir)
+{
+    return canShow() ? QFileDialog::getExistingDirectory(orMainWindow(parent), caption, dir)
+                     : QString();
+}
+
+QString getOpenFileName(QWidget* parent, const QString& caption, const QString& dir,
+                        const QString& filter)
+{
+    return Dialogs::instance()->openFileName(parent, caption, dir, filter);
+}
+
+QString getSaveFileName(QWidget* parent, const QString& caption, const QString& dir,
+                        const QString& filter)
+{
+    return Dialogs::instance()->saveFileName(parent, caption, dir, filter);
+}
+
+QStringList getOpenFileNames(QWidget* parent, const QString& caption, const QString& dir,
+                             const QString& filter)
+{
+    QStringList names = Dialogs::instance()->openFileNames(parent, caption, dir, filter);
+    const Interface* host = Interface::instance();
+    if (host && host->option(QStringLiteral("sort_file_names")).toBool())
+        names.sort(Qt::CaseSensitive);
+    return names;
+}
+
+}  // namespace Zorv

@@ -1,0 +1,7 @@
+#include "core/extension.h"
+
+namespace Zorv {
+
+Extension::~Extension() = default;
+
+}  // namespace Zorv

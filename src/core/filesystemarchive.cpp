@@ -1,0 +1,90 @@
+#include "core/filesystemarchive.h"
+
+#include "core/files.h"
+#include "core/safefile_p.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <memory>
+
+namespace Zorv {
+
+namespace {
+
+const QDir::Filters alwaysFiltered = QDir::NoDotAndDotDot | QDir::NoSymLinks;
+
+void setReadError(QString* error, const QString& path, const QString& reason)
+{
+    if (error) {
+        *error = QCoreApplication::translate("Zorv::FileSystemArchive",
+                                             "Cannot open %1: %2. Check that the file is there and "
+                                             "may be read.")
+                     .arg(QDir::toNativeSeparators(path), reason);
+    }
+}
+
+}  // namespace
+
+FileSystemArchive* FileSystemArchive::instance()
+{
+    static FileSystemArchive* const archive = new FileSystemArchive;
+    return archive;
+}
+
+void FileSystemArchive::release() {}
+
+bool FileSystemArchive::isReadOnly() const
+{
+    return false;
+}
+
+QStringList FileSystemArchive::entries(const QString& path, QDir::Filters filters,
+                                       QDir::SortFlags sort) const
+{
+    return QDir(path).entryList(filters | alwaysFiltered, sort);
+}
+
+QFileInfoList FileSystemArchive::infoEntries(const QString& path, QDir::Filters filters,
+                                             QDir::SortFlags sort) const
+{
+    return QDir(path).entryInfoList(filters | alwaysFiltered, sort);
+}
+
+QIODevice* FileSystemArchive::openFile(const QString& path, QIODevice::OpenMode mode,
+                                       QString* error)
+{
+    if (!(mode & QIODevice::WriteOnly) && !QFile::exists(path)) {
+        setReadError(
+            error, path,
+            QCoreApplication::translate("Zorv::FileSystemArchive", "The file does not exist"));
+        return nullptr;
+    }
+    forcePath(path);
+    if (mode & (QIODevice::WriteOnly | QIODevice::Append | QIODevice::NewOnly)) {
+        auto file = std::make_unique<SafeFile>(path);
+        if (file->open(mode))
+            return file.release();
+        if (error)
+            *error = file->failure();
+        return nullptr;
+    }
+    auto file = std::make_unique<QFile>(path);
+    if (file->open(mode & ~QIODevice::Truncate))
+        return file.release();
+    setReadError(error, path, file->errorString());
+    return nullptr;
+}
+
+bool FileSystemArchive::closeFile(QIODevice* device, QString* error)
+{
+    const std::unique_ptr<QIODevice> owned(device);
+    auto* file = qobject_cast<SafeFile*>(device);
+    if (!file || file->commit())
+        return true;
+    if (error)
+        *error = file->failure();
+    return false;
+}
+
+}  // namespace Zorv

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QList>
+#include <QObject>
+#include <QSet>
+#include <QString>
+
+#include <memory>
+
+namespace Zorv {
+
+class FileWatchObject;
+
+/// The one watcher of the process and all objects that it serves.
+///
+/// A watch sits on a file, not on its name: it is made anew after each signal,
+/// and while a file is missing its nearest existing folder is watched instead.
+class FileWatcherManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    void add(FileWatchObject* object);
+    void remove(FileWatchObject* object);
+
+    /// Moves the watch of one object from one name to another.
+    void rename(const QString& from, const QString& to);
+
+    /// Makes sure that a file that was just written is watched.
+    void renew(const QString& path);
+
+private:
+    void fileChanged(const QString& path);
+    void folderChanged();
+    void watch(const QString& path);
+    void unwatch(const QString& path);
+    void watchFolders();
+    QList<FileWatchObject*> objectsOf(const QString& path) const;
+    void resumeLater(FileWatchObject* object);
+    void askToReload(const QString& path, const QList<FileWatchObject*>& changed);
+    QFileSystemWatcher* watcher();
+
+    std::unique_ptr<QFileSystemWatcher> m_watcher;
+    QList<FileWatchObject*> m_objects;
+    QSet<QString> m_missing;  // files that are to be watched once they are there
+    QSet<QString> m_asking;   // files whose question is open
+};
+
+}  // namespace Zorv

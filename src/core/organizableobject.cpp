@@ -1,0 +1,10 @@
+#include "core/organizableobject.h"
+
+namespace Zorv {
+
+void OrganizableObject::moveTo(unsigned from, unsigned to)
+{
+    move(from, to);
+}
+
+}  // namespace Zorv

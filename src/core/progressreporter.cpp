@@ -1,0 +1,7 @@
+#include "core/progressreporter.h"
+
+namespace Zorv {
+
+ProgressReporter::~ProgressReporter() = default;
+
+}  // namespace Zorv

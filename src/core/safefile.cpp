@@ -1,0 +1,269 @@
+#include "core/safefile_p.h"
+
+#include "core/filereplace_p.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+
+namespace Zorv {
+
+namespace {
+
+const int PendingSize = 256 * 1024;
+const int CopyBlock = 1024 * 1024;
+const int MaxNameBytes = 200;
+const int MaxNames = 1000;
+
+const QLatin1String suffix(".zorv-save");
+
+// The head of the names of all new files for one target: hidden, and short
+// enough for a number and the suffix to fit whatever the length of the name.
+QString nameHead(const QFileInfo& target)
+{
+    QString name = target.fileName();
+    while (QFile::encodeName(name).size() > MaxNameBytes)
+        name.chop(name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
+    return QLatin1Char('.') + name + QLatin1Char('.');
+}
+
+// A process that was killed while it saved has left its new file behind.
+void removeLeftovers(const QFileInfo& target)
+{
+    const QString head = nameHead(target);
+    const qint64 self = QCoreApplication::applicationPid();
+    QDirIterator entries(target.absolutePath(), QDir::Files | QDir::Hidden);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        const QString name = entries.fileName();
+        if (!name.startsWith(head) || !name.endsWith(suffix))
+            continue;
+        const QString number = name.mid(head.size(), name.size() - head.size() - suffix.size());
+        bool isNumber = false;
+        const qint64 pid = number.section(QLatin1Char('-'), 0, 0).toLongLong(&isNumber);
+        if (isNumber && pid != self && !FileReplace::isProcessAlive(pid))
+            QFile::remove(path);
+    }
+}
+
+}  // namespace
+
+SafeFile::SafeFile(const QString& path) : m_path(path) {}
+
+SafeFile::~SafeFile()
+{
+    if (isOpen())
+        QIODevice::close();
+    discard();
+}
+
+bool SafeFile::open(OpenMode mode)
+{
+    if (mode & (Append | NewOnly))
+        mode |= WriteOnly;
+    if (!checkTarget(mode) || !makeFile())
+        return false;
+    const bool keepsOld = (mode & Append) || ((mode & ReadOnly) && !(mode & Truncate));
+    m_touched = !keepsOld || !m_targetExists;
+    if (keepsOld && m_targetExists && !copyOldContent()) {
+        discard();
+        return false;
+    }
+    return QIODevice::open(mode | Unbuffered);
+}
+
+void SafeFile::close()
+{
+    if (!isOpen())
+        return;
+    flush();
+    QIODevice::close();
+}
+
+bool SafeFile::commit()
+{
+    close();
+    const bool done = m_failure.isEmpty() && (!m_touched || replaceTarget());
+    discard();
+    return done;
+}
+
+void SafeFile::fail(const QString& reason)
+{
+    setFailure(reason, tr("The old file is unchanged."));
+}
+
+qint64 SafeFile::size() const
+{
+    return qMax(m_file.size(), m_file.pos() + m_pending.size());
+}
+
+bool SafeFile::seek(qint64 position)
+{
+    if (!isOpen() || position < 0)
+        return false;
+    if (position != m_file.pos() + m_pending.size()) {
+        if (!flush())
+            return false;
+        if (!m_file.seek(position)) {
+            failWriting(m_file.errorString());
+            return false;
+        }
+    }
+    return QIODevice::seek(position);
+}
+
+qint64 SafeFile::readData(char* data, qint64 maxSize)
+{
+    return flush() ? m_file.read(data, maxSize) : -1;
+}
+
+qint64 SafeFile::writeData(const char* data, qint64 size)
+{
+    if (!m_failure.isEmpty())
+        return -1;
+    m_touched = true;
+    if ((openMode() & Append) && m_pending.isEmpty() && !m_file.seek(m_file.size())) {
+        failWriting(m_file.errorString());
+        return -1;
+    }
+    if (m_pending.size() + size <= PendingSize) {
+        m_pending.append(data, int(size));
+        return size;
+    }
+    return flush() && writeOut(data, size) ? size : -1;
+}
+
+bool SafeFile::checkTarget(OpenMode mode)
+{
+    const QString advice = tr("Save under another name.");
+    QString reason;
+    m_target = FileReplace::resolved(m_path, &reason);
+    if (m_target.isEmpty()) {
+        setFailure(reason.isEmpty() ? tr("There is no name") : reason, advice);
+        return false;
+    }
+    const QFileInfo target(m_target);
+    m_targetExists = target.exists();
+    if (m_targetExists && !target.isFile())
+        setFailure(target.isDir() ? tr("It is a folder") : tr("It is not a plain file"), advice);
+    else if (m_targetExists && !target.isWritable())
+        setFailure(tr("The file is write-protected"),
+                   tr("Allow writing to it, or save under another name."));
+    else if (m_targetExists && (mode & NewOnly))
+        setFailure(tr("The file exists"), advice);
+    else if (!m_targetExists && (mode & ExistingOnly))
+        setFailure(tr("The file does not exist"), advice);
+    return m_failure.isEmpty();
+}
+
+bool SafeFile::makeFile()
+{
+    const QFileInfo target(m_target);
+    removeLeftovers(target);
+    const QString head = target.absolutePath() + QLatin1Char('/') + nameHead(target) +
+                         QString::number(QCoreApplication::applicationPid()) + QLatin1Char('-');
+    for (int i = 0; i < MaxNames && !m_file.isOpen(); ++i) {
+        m_file.setFileName(head + QString::number(i) + suffix);
+        if (!m_file.open(ReadWrite | NewOnly | Unbuffered) && !m_file.exists())
+            break;
+    }
+    if (!m_file.isOpen()) {
+        setFailure(m_file.errorString(),
+                   tr("Check that the folder is there and may be written to, or save in "
+                      "another place."));
+        return false;
+    }
+    if (m_targetExists)
+        FileReplace::takeOwnerAndMode(m_file, m_target);
+    return true;
+}
+
+bool SafeFile::copyOldContent()
+{
+    QFile old(m_target);
+    if (!old.open(ReadOnly | Unbuffered)) {
+        failWriting(old.errorString());
+        return false;
+    }
+    QByteArray block(CopyBlock, Qt::Uninitialized);
+    qint64 count;
+    while ((count = old.read(block.data(), block.size())) > 0) {
+        if (!writeOut(block.constData(), count))
+            return false;
+    }
+    if (count < 0)
+        failWriting(old.errorString());
+    else
+        m_file.seek(0);
+    return count == 0;
+}
+
+bool SafeFile::flush()
+{
+    if (m_pending.isEmpty() || !m_failure.isEmpty())
+        return m_failure.isEmpty();
+    const bool done = writeOut(m_pending.constData(), m_pending.size());
+    m_pending.clear();
+    return done;
+}
+
+bool SafeFile::writeOut(const char* data, qint64 size)
+{
+    while (size > 0) {
+        const qint64 count = m_file.write(data, size);
+        if (count <= 0) {
+            failWriting(m_file.errorString());
+            return false;
+        }
+        data += count;
+        size -= count;
+    }
+    return true;
+}
+
+bool SafeFile::replaceTarget()
+{
+    QString reason;
+    bool done = FileReplace::syncFile(m_file, &reason);
+    if (done) {
+        m_file.close();
+        done = m_file.error() == QFile::NoError;
+        reason = m_file.errorString();
+    }
+    done = done && FileReplace::rename(m_file.fileName(), m_target, &reason);
+    if (!done) {
+        failWriting(reason);
+        return false;
+    }
+    m_file.setFileName({});
+    FileReplace::syncFolder(QFileInfo(m_target).absolutePath());
+    return true;
+}
+
+void SafeFile::discard()
+{
+    const QString name = m_file.fileName();
+    m_file.close();
+    if (!name.isEmpty())
+        QFile::remove(name);
+    m_file.setFileName({});
+    m_pending.clear();
+}
+
+void SafeFile::failWriting(const QString& reason)
+{
+    setFailure(reason, tr("The old file is unchanged. Free some space or choose another place, "
+                          "then save again."));
+}
+
+void SafeFile::setFailure(const QString& reason, const QString& advice)
+{
+    if (!m_failure.isEmpty())
+        return;
+    m_failure = tr("Cannot write %1: %2. %3").arg(QDir::toNativeSeparators(m_path), reason, advice);
+    setErrorString(m_failure);
+}
+
+}  // namespace Zorv

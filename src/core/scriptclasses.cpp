@@ -1,0 +1,3 @@
+#include "core/scriptclasses.h"
+
+void registerScriptClasses(void*) {}

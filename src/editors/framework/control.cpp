@@ -1,0 +1,7 @@
+#include "editors/framework/control.h"
+
+namespace Zorv {
+
+Control::~Control() = default;
+
+}  // namespace Zorv
