@@ -37,6 +37,9 @@ LAYERS = {
     "host/app/": 22,
 }
 
+# Where the compiler looks for an include, after the folder of the file itself.
+INCLUDE_FOLDERS = ["src", "host", "host/family", "host/cli", "host/app", ""]
+
 # Meant includes of a higher layer: (file, included file) and the reason.
 EXCEPTIONS = {}
 
@@ -81,7 +84,8 @@ class Tree:
         """The file of the tree that an include names, or None for one from outside."""
         folder = includer.rsplit("/", 1)[0]
         installed = included[len("zorv/"):] if included.startswith("zorv/") else included
-        for base, path in ((folder, included), ("src", installed), ("host", included), ("", included)):
+        for base in [folder, *INCLUDE_FOLDERS]:
+            path = installed if base == "src" else included
             name = posixpath.normpath(posixpath.join(base, path))
             if name in self.includes:
                 return name

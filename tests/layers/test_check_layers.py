@@ -86,6 +86,13 @@ class CheckLayers(unittest.TestCase):
         }), ["src/core/project.h:3: includes the widget header QWidget"
              " by way of src/core/dialogs/dialog.h"])
 
+    def test_folders_below_the_host_are_searched(self):
+        self.assertEqual(len(faults({
+            "host/family/grammar/kind.h": header(),
+            "host/family/grammar/kind.cpp": source('"grammar/kind.h"', '"window/window.h"'),
+            "host/app/window/window.h": header(),
+        })), 1)
+
     def test_widgets_in_family_and_command_line(self):
         for name in ("host/family/parser.cpp", "host/cli/check.cpp", "host/cli/check.h"):
             with self.subTest(name):

@@ -49,7 +49,7 @@ check_program() {
 }
 
 "$cmake" -S "$source/docs/example" -B "$work/by-cmake" -DCMAKE_PREFIX_PATH="$prefix" \
-    -DCMAKE_CXX_COMPILER="$cxx" >"$work/configure.log" || { cat "$work/configure.log"; exit 1; }
+    -DCMAKE_CXX_COMPILER="$cxx" -G Ninja >"$work/configure.log" || { cat "$work/configure.log"; exit 1; }
 "$cmake" --build "$work/by-cmake" >"$work/build.log" || { cat "$work/build.log"; exit 1; }
 check_program "$work/by-cmake/settings"
 
