@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Sourced by the scripts: the Debian packages that each of them needs, and their installation.
 
 packages_build=(
@@ -40,11 +41,12 @@ install_packages() {
     fi
     echo "Installing ${missing[*]}"
     root+=(env DEBIAN_FRONTEND=noninteractive)
-    "${root[@]}" apt-get -q update </dev/null &&
-        "${root[@]}" apt-get -q install -y --no-install-recommends "${missing[@]}" </dev/null || {
+    # A list that cannot be fetched may be one that is not needed.
+    "${root[@]}" apt-get -q update </dev/null || echo "Going on with the old lists" >&2
+    if ! "${root[@]}" apt-get -q install -y --no-install-recommends "${missing[@]}" </dev/null; then
         echo "The packages could not be installed: ${missing[*]}" >&2
         return 1
-    }
+    fi
 }
 
 # configure_and_build PRESET [TARGET...]
