@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QFont>
 #include <QMetaType>
+#include <QVariant>
 
 namespace Zorv {
 
@@ -126,6 +127,8 @@ private:
             return skipImage();
         case QMetaType::QIcon:
             return skipIcon();
+        case QMetaType::User:
+            return skipHostValue();
         default:
             return false;
         }
@@ -156,6 +159,16 @@ private:
             return false;
         return skipEach(read<quint32>(),
                         [this] { return skipImage() && skipSized() && skip(8 + 4 + 4); });
+    }
+
+    bool skipHostValue()
+    {
+        const auto name = read<QByteArray>();
+        const int type = QMetaType::type(name.constData());
+        if (!isGood() || type < QMetaType::User)
+            return false;
+        QVariant value(type, nullptr);
+        return QMetaType::load(m_in, type, value.data()) && isGood();
     }
 
     bool skipBrush()

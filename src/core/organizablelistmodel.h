@@ -21,8 +21,8 @@ public:
     ///
     /// `data` is a payload of `mimeData()`, read as its first format; rows that
     /// this list does not have are left out, and a broken payload moves nothing.
-    /// Values of host types in it cannot be read: a model keeps them out of the
-    /// payload by overriding `itemData()`. Only `Qt::MoveAction` is taken. A target at or behind the end counts as
+    /// Values of host types are read by their stream operators. Only
+    /// `Qt::MoveAction` is taken. A target at or behind the end counts as
     /// the last row, so a row dragged there from above ends next to last. The
     /// result is always false: the rows are in place already, and true would
     /// make the view delete them.

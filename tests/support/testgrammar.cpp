@@ -1,0 +1,246 @@
+#include "support/testgrammar.h"
+
+#include "code/codedoc/codeblockdata.h"
+#include "core/messages.h"
+
+#include <QTextBlock>
+
+#include <algorithm>
+
+using namespace Zorv;
+
+namespace {
+
+/// The head that a line behind `previous` stands under, or null.
+CodeNode* headOf(CodeNode* previous)
+{
+    for (CodeNode* node = previous; node; node = node->previous()) {
+        if (node->type() & (CodeNode::Group | CodeNode::Animation)) {
+            return node;
+        }
+    }
+    return nullptr;
+}
+
+bool keepsPlace(CodeNode* node, CodeNode* previous, CodeNode::Type type)
+{
+    return node && node->type() == type && node->previous() == previous
+           && node->parentCode() == static_cast<CodeNode*>(headOf(previous));
+}
+
+void report(CodeParserSyntax* syntax, const QString& text)
+{
+    if (!syntax) {
+        return;
+    }
+    const auto end = unsigned(text.size());
+    const QChar kind = text.size() > 1 ? text.at(1) : QChar();
+    if (kind == QLatin1Char('w')) {
+        syntax->warning(CodeParserSyntax::Plain, QStringLiteral("warned"), 0, end);
+    } else if (kind == QLatin1Char('d')) {
+        syntax->deprecated(CodeParserSyntax::Plain, QStringLiteral("old"), 0, end);
+    } else {
+        syntax->error(CodeParserSyntax::Invalid, QStringLiteral("unknown: ") + text, 0, end);
+    }
+}
+
+}  // namespace
+
+CodeNode* TestParser::parse(const QString& text, CodeNode* oldNode, CodeNode* previous, RootCode*,
+                            CodeParserSyntax* syntax)
+{
+    if (records) {
+        parsed.append(text);
+    }
+    const QChar first = text.isEmpty() ? QChar() : text.at(0);
+    const auto end = unsigned(text.size());
+    const auto ok = [&](CodeParserSyntax::TokenType type) {
+        if (syntax) {
+            syntax->ok(type, 0, end);
+        }
+    };
+    CodeNode* head = headOf(previous);
+    const auto headType = head ? head->type() : CodeNode::Root;
+    if (first == QLatin1Char('[') && end >= 3 && text.at(1).isDigit()
+        && text.at(1) != QLatin1Char('0')) {
+        ok(CodeParserSyntax::Header);
+        return new TestGroup(previous, unsigned(text.at(1).digitValue()));
+    }
+    if (first == QLatin1Char('!') && end > 1) {
+        ok(CodeParserSyntax::Header);
+        return new TestAnimation(previous, text.mid(1));
+    }
+    if (text.indexOf(QLatin1Char('=')) > 0 && headType == CodeNode::Group) {
+        ok(CodeParserSyntax::Keyword);
+        if (keepsPlace(oldNode, previous, CodeNode::Value)) {
+            static_cast<TestValue*>(oldNode)->take(text);
+            return oldNode;
+        }
+        return new TestValue(previous, text);
+    }
+    if (first == QLatin1Char('-') && headType == CodeNode::Animation) {
+        ok(CodeParserSyntax::Keyword);
+        if (keepsPlace(oldNode, previous, CodeNode::Frame)) {
+            static_cast<TestFrame*>(oldNode)->setIdentifier(text);
+            return oldNode;
+        }
+        return new TestFrame(previous, text);
+    }
+    if (first == QLatin1Char('#') || text.isEmpty()) {
+        ok(CodeParserSyntax::Comment);
+    } else {
+        report(syntax, text);
+    }
+    return nullptr;
+}
+
+TestValue::TestValue(CodeNode* previous, const QString& line) : ValueCode(previous, Text, {})
+{
+    take(line);
+}
+
+void TestValue::take(const QString& line)
+{
+    const int sign = line.indexOf(QLatin1Char('='));
+    m_name = line.left(sign);
+    setValue(line.mid(sign + 1));
+}
+
+void TestValue::setName(const QString& name)
+{
+    change(name + QLatin1Char('=') + value().toString());
+}
+
+bool TestValue::write(const QVariant& value)
+{
+    change(m_name + QLatin1Char('=') + value.toString());
+    return true;
+}
+
+TestGroup::TestGroup(CodeNode* previous, unsigned group, bool atRoot) : GroupCode(previous, group)
+{
+    if (atRoot) {
+        insertRootChild(this);
+    }
+}
+
+TestAnimation::TestAnimation(CodeNode* previous, const QString& name)
+    : AnimationCode(previous), m_name(name)
+{
+}
+
+QVariant TestAnimation::property(const QString& key) const
+{
+    return key == QLatin1String("Identifier") ? QVariant(m_name) : NamedCode::property(key);
+}
+
+TestFrame::TestFrame(CodeNode* previous, const QString& text)
+    : FrameCode(previous, nullptr, nullptr), m_text(text)
+{
+}
+
+GrammarDocument::GrammarDocument(const QString& text) : CodeDocument(0)
+{
+    setOption(QStringLiteral("parseCode"), true, false, false);
+    setOption(QStringLiteral("highlightCode"), true, false, false);
+    setParser(&grammar);
+    if (!text.isNull()) {
+        setPlainText(text);
+    }
+}
+
+GrammarDocument::~GrammarDocument()
+{
+    setParser(nullptr);
+}
+
+int GrammarDocument::blockFolding(const QString& line) const
+{
+    if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) {
+        return 0;
+    }
+    if (line.startsWith(QLatin1Char('[')) || line.startsWith(QLatin1Char('!'))) {
+        return 1 | (line.contains(QLatin1Char('*')) ? 4 : 0);
+    }
+    return 2;
+}
+
+void GrammarDocument::release()
+{
+    if (m_releasing) {
+        delete this;
+        return;
+    }
+    m_releasing = true;
+    destroy();
+}
+
+namespace {
+
+QString label(const CodeNode* node)
+{
+    QString text;
+    if (const auto* value = dynamic_cast<const TestValue*>(node)) {
+        text = value->name() + QLatin1Char('=') + value->value().toString();
+    } else if (const auto* frame = dynamic_cast<const TestFrame*>(node)) {
+        text = frame->identifier().toString();
+    } else if (const auto* named = dynamic_cast<const NamedCode*>(node)) {
+        text = named->name();
+    }
+    return QStringLiteral("%1 %2 at %3 (%4-%5)")
+        .arg(node->type())
+        .arg(text)
+        .arg(node->block().blockNumber())
+        .arg(node->firstLine())
+        .arg(node->lastLine());
+}
+
+/// The values of a dead group come to the group above turned around, so that
+/// their order among themselves is not compared.
+QStringList treeOf(const ParentCode* parent, const QString& indent)
+{
+    QStringList lines;
+    QVector<CodeNode*> children;
+    for (int i = 0; i < parent->childCount(); ++i) {
+        children.append(parent->childAt(unsigned(i)));
+        Q_ASSERT(parent->childIndex(children.last()) == i);
+    }
+    if (parent->type() == CodeNode::Group) {
+        std::sort(children.begin(), children.end(), [](CodeNode* a, CodeNode* b) {
+            return a->block().blockNumber() < b->block().blockNumber();
+        });
+    }
+    for (const CodeNode* child : qAsConst(children)) {
+        lines.append(indent + label(child));
+        if (const auto* next = dynamic_cast<const ParentCode*>(child)) {
+            lines += treeOf(next, indent + QLatin1String("  "));
+        }
+    }
+    return lines;
+}
+
+}  // namespace
+
+QStringList GrammarDocument::dump() const
+{
+    QStringList lines = treeOf(this, QStringLiteral("tree "));
+    for (const CodeNode* node = next(); node; node = node->next()) {
+        lines.append(QStringLiteral("chain ") + label(node));
+    }
+    for (int i = 0; i < messages()->count(Message::AllTypes); ++i) {
+        const Message message = messages()->at(i);
+        lines.append(QStringLiteral("message %1 %2:%3 %4")
+                         .arg(message.type)
+                         .arg(message.line)
+                         .arg(message.column)
+                         .arg(message.text));
+    }
+    for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
+        const CodeBlockData* data = CodeBlockData::testBlockData(block);
+        lines.append(QStringLiteral("line %1 folding %2 state %3")
+                         .arg(block.blockNumber())
+                         .arg(data ? data->foldingIndent() : -9)
+                         .arg(block.userState()));
+    }
+    return lines;
+}
