@@ -22,16 +22,20 @@ public:
     /// the group above, 0 for a group that is no sub-group.
     static const GroupInfo* find(const QStringRef& name, unsigned parent);
 
-    /// The number of an unknown sub-group of `parent`. It differs for each
-    /// parent, since what follows is read by it.
+    /// The number of an unknown sub-group of the group `parent`, or of a
+    /// sub-group without a group above for 0. It differs for each parent, since
+    /// a sub-group that follows is read by it.
     static unsigned unknownSubGroup(unsigned parent);
 
     /// The number of an unknown group.
     static constexpr unsigned UnknownGroup = 99;
 
     /// The number of the group that a group of `number` belongs to; itself if
-    /// it is no sub-group.
+    /// it is no sub-group, 0 for a sub-group without one.
     static unsigned mainGroup(unsigned number);
+
+    /// The row of keys that are in no table; its form is `Form::Any`.
+    static const KeyInfo* unknownKey();
 
     /// The names of the options of a frame line, in the order of the docs.
     static QStringList frameOptions();
@@ -45,7 +49,12 @@ public:
 /// The word of `candidates` that `name` was probably meant to be; empty if none is near.
 QString nearName(const QString& name, const QStringList& candidates);
 
-/// `name` between single quotes is what messages show: cut to a readable length.
-QString quotedForMessage(const QString& name);
+/// What a message shows of a text: in single quotes and cut to a readable
+/// length, or "the end of the line" for none.
+QString quoted(const QStringRef& text);
+
+/// A hint at the names that would have been right: "Did you mean 'life'?", or
+/// all of them if none is near.
+QString nameHint(const QString& name, const QStringList& candidates);
 
 }  // namespace Family

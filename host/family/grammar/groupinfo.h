@@ -8,7 +8,7 @@ namespace Family {
 /// One kind of group: a row of a table. Texts are ASCII and static.
 struct GroupInfo
 {
-    enum Flag { NoFlags = 0, TakesArgument = 1, FreeKeys = 2, Unknown = 4 };
+    enum Flag { NoFlags = 0, TakesArgument = 1, FreeKeys = 2, Unknown = 4, SubGroup = 8 };
 
     unsigned number;            ///< of the nodes, above 0; two rows with one number are one kind
     unsigned parent;            ///< number of the group that a sub-group belongs to, else 0
@@ -23,15 +23,15 @@ struct GroupInfo
     bool takesArgument() const { return flags & TakesArgument; }
     bool hasFreeKeys() const { return flags & FreeKeys; }
     bool isUnknown() const { return flags & Unknown; }
-    bool isSubGroup() const { return parent != 0; }
+    bool isSubGroup() const { return flags & SubGroup; }
     bool isDeprecated() const { return replacement.size() > 0; }
     bool belongsIn(FileKind kind) const { return files & (1 << int(kind)); }
 
     const KeyInfo* begin() const { return keys; }
     const KeyInfo* end() const { return keys + keyCount; }
 
-    /// The row of a key, null if the group has none of that name. In a group
-    /// with free keys, or an unknown one, the row of all keys.
+    /// The row of a key, also of an old one; null if the group has none of that
+    /// name. In a group with free keys, or an unknown one, the row of all keys.
     const KeyInfo* key(const QStringRef& keyName) const;
 };
 

@@ -28,15 +28,17 @@ enum class Form : unsigned char {
     Point,
     Pair,
     Quad,
-    Ints
+    Ints,
+    Any  ///< whatever the line has, of an unknown key
 };
 
 /// One key of a group: a row of a table. Texts are ASCII and static.
 struct KeyInfo
 {
+    /// `Free` marks the row that stands for every key.
     enum Flag { NoFlags = 0, Required = 1, Repeatable = 2, Free = 4 };
 
-    QLatin1String name;         ///< empty for the row that stands for every key
+    QLatin1String name;         ///< empty in a row that is `Free`
     Form form;
     int flags;                  ///< of `Flag`
     double minimum;             ///< of each number; no range if not below `maximum`
@@ -47,8 +49,15 @@ struct KeyInfo
     QLatin1String description;  ///< one line
 
     bool hasRange() const { return minimum < maximum; }
+    bool isRequired() const { return flags & Required; }
+    bool isRepeatable() const { return flags & Repeatable; }
+    bool isFree() const { return flags & Free; }
     bool isDeprecated() const { return replacement.size() > 0; }
     QStringList choiceList() const;
+
+    /// The word that a text stands for: itself, or the new one of an old word;
+    /// empty if it is none of the choices.
+    QLatin1String choice(const QStringRef& word) const;
 
     /// What stands behind '=', in words: "a whole number from 1 to 9999".
     QString expectation() const;
@@ -57,7 +66,7 @@ struct KeyInfo
     Zorv::ValueCode::Type valueType() const;
 };
 
-/// How many numbers a form takes: 0 for any number, 1 for a form without list.
+/// How many parts a form takes: 0 for any number, 1 for a form without list.
 int elementCount(Form form);
 
 }  // namespace Family

@@ -11,9 +11,9 @@ struct FrameData
     int number = 0;
     QPoint offset;
     int delay = 1;  ///< ticks; -1 never ends
-    float scaleX = 1;
-    float scaleY = 1;
-    float angle = 0;  ///< degrees, counterclockwise
+    double scaleX = 1;
+    double scaleY = 1;
+    double angle = 0;  ///< degrees, counterclockwise
     unsigned char flip = 0;
     bool loop = false;
 
