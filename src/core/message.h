@@ -20,4 +20,14 @@ struct Message
     QString text;
 };
 
+inline bool operator==(const Message& a, const Message& b)
+{
+    return a.type == b.type && a.line == b.line && a.column == b.column && a.text == b.text;
+}
+
+inline bool operator!=(const Message& a, const Message& b)
+{
+    return !(a == b);
+}
+
 }  // namespace Zorv

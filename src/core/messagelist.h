@@ -6,6 +6,7 @@
 
 #include <QAbstractListModel>
 #include <QList>
+#include <QVector>
 
 namespace Zorv {
 
@@ -22,17 +23,22 @@ class ZORV_EXPORT MessageList : public QAbstractListModel
 
 public:
     explicit MessageList(Project* project);
+
+    /// The files that are still registered stay without a list.
     ~MessageList() override;
 
     /// The project, not owned.
     Project* project() const;
+
+    /// The messages of each file in order of registration, not owned.
+    QList<Messages*> lists() const;
 
     /// How many errors and warnings there were at the last `update()`.
     int errorCount() const;
     int warningCount() const;
 
     /// Takes a file's messages in, at the end, and updates. The same messages
-    /// registered twice are shown twice.
+    /// registered twice are shown twice. Messages of another list leave that one.
     void registerMessages(Messages* messages);
 
     /// Takes every entry of a file's messages out, and updates.
@@ -58,13 +64,18 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
 signals:
+    /// The rows have been announced anew.
     void updated();
 
 private:
     friend class Messages;
 
+    const QVector<int>& starts() const;
+
     Project* m_project;
     QList<Messages*> m_lists;
+    mutable QVector<int> m_starts;  ///< the first row of each list, and the end
+    mutable bool m_startsStale = true;
     int m_errorCount = 0;
     int m_warningCount = 0;
     int m_total = 0;

@@ -41,7 +41,7 @@ public:
     /// How many messages there are of a type, or with `Message::AllTypes` in all.
     int count(Message::Type type) const;
 
-    /// A copy of a message; `index` must be in the list.
+    /// A copy of a message; an empty one for an index outside of the list.
     Message at(int index) const;
 
     /// Appends a message.
@@ -67,6 +67,7 @@ public:
     void beginChange();
 
     /// Closes a frame. The outermost notifies, whether anything changed or not.
+    /// Does nothing if no frame is open.
     void endChange();
 
     /// Notifies in any case.
@@ -99,6 +100,13 @@ signals:
 
 private:
     friend class MessageList;
+
+    bool hasRow(const QModelIndex& index) const;
+    void insertMessages(int at, const QVector<Message>& messages);
+    void removeMessages(int first, int count);
+    void setMessage(int at, const Message& message);
+    void changed();
+
     std::unique_ptr<MessagesPrivate> m;
 };
 

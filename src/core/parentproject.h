@@ -46,7 +46,8 @@ public:
     public:
         virtual ~Path();
 
-        /// The full path; a folder's ends in "/".
+        /// The full path; a folder's ends in "/". A listed file that belongs
+        /// to no open project gives that of its folder.
         virtual QString absolutePath() const = 0;
 
         /// The last component.
@@ -54,7 +55,8 @@ public:
 
         virtual bool isDirectory() const = 0;
 
-        /// True if the node stands for a project that may be closed.
+        /// True if the node stands for a project, open or not: a folder or a
+        /// file that its folder lists. A file of an open project is none.
         virtual bool isProject() const = 0;
 
         /// True for a file that an open project refers to.
@@ -91,7 +93,10 @@ public:
     /// later, not in the call.
     virtual void lastReferenceGone() = 0;
 
-    /// Registers the project of a main document. The first one makes the backup
+    /// Registers the project of a main document in the folder of that, which is
+    /// added if it is missing; a document without a file name goes to the root.
+    /// From then on the tree follows the files that the document refers to, and
+    /// is touched only when they change. The first one makes the backup
     /// "Auto", if the setting "backup_onload" is true and the document has a
     /// file name.
     void addRef(CodeDocument* main);
@@ -101,7 +106,9 @@ public:
     /// counts as relative to it. Null for the root itself.
     Path* addPath(const QString& path, PathType type, const QStringList& filters);
 
-    /// Removes a folder with all below it; nothing for an unknown one.
+    /// Removes a folder with all below it; nothing for an unknown one. What
+    /// belongs to an open project stays until that is released; the rest goes,
+    /// and nothing there is listed any more.
     void removePath(const QString& path);
 
     /// The node of an index; null for an invalid one.

@@ -1,0 +1,325 @@
+#include "core/parentproject_p.h"
+
+#include "code/codedoc/codedocument.h"
+#include "core/interface.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace Zorv {
+
+namespace {
+
+const QChar Slash = QLatin1Char('/');
+
+QString withoutLastSlash(const QString& path)
+{
+    QString result = QDir::cleanPath(QDir(path).absolutePath());
+    if (result.endsWith(Slash))
+        result.chop(1);
+    return result;
+}
+
+bool sameFiles(const QList<Project::FileInfo>& a, const QList<Project::FileInfo>& b)
+{
+    const auto same = [](const Project::FileInfo& x, const Project::FileInfo& y) {
+        return x.id == y.id && x.path == y.path;
+    };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), same);
+}
+
+}  // namespace
+
+ParentProjectPrivate::ParentProjectPrivate(ParentProject* parentProject, const QString& rootPath,
+                                           Archive& rootArchive)
+    : DirectoryPath(nullptr, withoutLastSlash(rootPath), ParentProject::ListNothing, {}),
+      model(parentProject), archive(&rootArchive)
+{
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this,
+            &ParentProjectPrivate::folderChanged);
+}
+
+// Folders that are watched leave the watcher, which dies before their base.
+ParentProjectPrivate::~ParentProjectPrivate()
+{
+    takeChildren().clear();
+}
+
+void ParentProjectPrivate::childsRemoved(BasePath* path)
+{
+    const int shown = path->shownCount();
+    if (shown == 0 || !path->isShown()) {
+        path->hideChildren();
+        return;
+    }
+    model->beginRemoveRows(indexOf(path), 0, shown - 1);
+    path->hideChildren();
+    model->endRemoveRows();
+}
+
+void ParentProjectPrivate::childsAdded(BasePath* path)
+{
+    const int shown = path->shownCount();
+    if (shown == path->childCount() || !path->isShown()) {
+        path->showChildren();
+        return;
+    }
+    model->beginInsertRows(indexOf(path), shown, path->childCount() - 1);
+    path->showChildren();
+    model->endInsertRows();
+}
+
+QFileSystemWatcher* ParentProjectPrivate::watcher()
+{
+    return &m_watcher;
+}
+
+QModelIndex ParentProjectPrivate::indexOf(BasePath* path) const
+{
+    return path == this ? QModelIndex() : model->createIndex(path->row(), 0, path);
+}
+
+QStringList ParentProjectPrivate::splitPath(const QString& path) const
+{
+    const QString root = absolutePath();
+    const bool inside = path.startsWith(root) || path + Slash == root;
+    QStringList parts = path.mid(inside ? root.size() : 0).split(Slash);
+    if (parts.first().isEmpty())
+        parts.removeFirst();
+    if (!parts.isEmpty() && parts.last().isEmpty())
+        parts.removeLast();
+    return parts;
+}
+
+BasePath* ParentProjectPrivate::findPath(const QString& path)
+{
+    const QStringList names = splitPath(path);
+    BasePath* node = names.isEmpty() ? nullptr : this;
+    for (const QString& name : names) {
+        node = node->child(name);
+        if (!node)
+            break;
+    }
+    return node;
+}
+
+BasePath* ParentProjectPrivate::addPath(BasePath* parentPath, const QString& path,
+                                        ParentProject::PathType type, const QStringList& filters)
+{
+    const QStringList names = splitPath(path);
+    if (names.isEmpty())
+        return nullptr;
+    BasePath* node = parentPath;
+    for (const QString& name : names) {
+        BasePath* child = node->child(name);
+        if (!child) {
+            auto folder = std::make_unique<DirectoryPath>(node, name, type, filters);
+            DirectoryPath* added = folder.get();
+            node->insertChild(node->childCount(), std::move(folder));
+            if (!node->isHidden())
+                childsAdded(node);
+            added->startListing();
+            child = added;
+        }
+        node = child;
+    }
+    return node;
+}
+
+void ParentProjectPrivate::removePath(const QString& path)
+{
+    BasePath* node = findPath(path);
+    if (!node)
+        return;
+    if (node->holdsProject() && node->isDirectory())
+        static_cast<DirectoryPath*>(node)->stopListing();
+    else if (!node->holdsProject())
+        removeNode(node);
+}
+
+void ParentProjectPrivate::removeNode(BasePath* node)
+{
+    BasePath* parentPath = node->parentPath();
+    const ChildrenChange change(parentPath);
+    parentPath->removeChild(node);
+    // A folder that lists shows the project again, as one that is not open.
+    if (parentPath->isDirectory())
+        static_cast<DirectoryPath*>(parentPath)->update();
+}
+
+void ParentProjectPrivate::addRef(CodeDocument* main)
+{
+    Project* project = main->project();
+    if (!project)
+        return;
+    ++count;
+    const QString fileName = main->fileName();
+    BasePath* node = this;
+    if (!fileName.isEmpty()) {
+        BasePath* folder =
+            addPath(this, QFileInfo(fileName).absolutePath(), ParentProject::ListNothing, {});
+        node = folder ? folder : this;
+    }
+    BasePath* former = projects.value(project).node;
+    projects[project] = {node, {}};
+    node->addProject(project);
+    if (former) {
+        former->removeProject(project);
+        showFiles(former);
+    }
+    updateProjectFiles(main);
+    connect(main, &QTextDocument::contentsChanged, this, &ParentProjectPrivate::mainChanged,
+            Qt::UniqueConnection);
+
+    const Interface* host = Interface::instance();
+    if (count == 1 && !fileName.isEmpty() && host &&
+        host->option(QStringLiteral("backup_onload")).toBool())
+        model->backup(ParentProject::tr("Auto"));
+}
+
+void ParentProjectPrivate::release(Project* project)
+{
+    const auto entry = projects.constFind(project);
+    if (entry == projects.constEnd())
+        return;
+    BasePath* node = entry->node;
+    node->removeProject(project);
+    if (node == this || node->holdsAnchor())
+        showFiles(node);
+    else
+        removeNode(node);
+    auto* main = static_cast<CodeDocument*>(project->file(FileID::MainCode));
+    if (main)
+        disconnect(main, &QTextDocument::contentsChanged, this, &ParentProjectPrivate::mainChanged);
+    projects.remove(project);
+    if (--count == 0)
+        model->lastReferenceGone();
+}
+
+void ParentProjectPrivate::updateProjectFiles(CodeDocument* main)
+{
+    Project* project = main->project();
+    const auto entry = projects.find(project);
+    if (entry == projects.end())
+        return;
+    QList<Project::FileInfo> files;
+    project->fileInfos(files);
+    if (!main->fileName().isEmpty())
+        files.append({FileID::MainCode, QFileInfo(main->fileName()).fileName()});
+    std::stable_sort(files.begin(), files.end(), CompareProjectFile());
+    if (sameFiles(files, entry->files))
+        return;
+    entry->files = files;
+    showFiles(entry->node);
+}
+
+void ParentProjectPrivate::listProjects(const BasePath* path, QStringList& list)
+{
+    if (path->isProject()) {
+        if (path->projects().isEmpty())
+            list.append(path->completePath());
+        return;
+    }
+    for (int i = 0; i < path->childCount(); ++i)
+        listProjects(path->childAt(i), list);
+}
+
+void ParentProjectPrivate::mainChanged()
+{
+    if (auto* main = qobject_cast<CodeDocument*>(sender()))
+        updateProjectFiles(main);
+}
+
+void ParentProjectPrivate::folderChanged(const QString& path)
+{
+    BasePath* node = findPath(path);
+    if (node && node->isDirectory())
+        static_cast<DirectoryPath*>(node)->update();
+}
+
+void ParentProjectPrivate::showFiles(BasePath* node)
+{
+    const QList<Project::FileInfo> files = filesOf(node);
+    FileSet set;
+    for (const Project::FileInfo& file : files) {
+        if (!set.contains(file.path))
+            set.insert(file.path, file.id);
+    }
+    const ChildrenChange change(node);
+    QVector<DirectoryPath*> reduced;
+    removeIfNotExists(node, {}, set, reduced);
+    addFiles(node, files);
+    for (DirectoryPath* folder : qAsConst(reduced))
+        folder->update();
+}
+
+// Several projects can share a folder; each shows its files in it.
+QList<Project::FileInfo> ParentProjectPrivate::filesOf(BasePath* node) const
+{
+    QList<Project::FileInfo> files;
+    for (Project* project : node->projects())
+        files += projects.value(project).files;
+    if (node->projects().size() > 1)
+        std::stable_sort(files.begin(), files.end(), CompareProjectFile());
+    return files;
+}
+
+void ParentProjectPrivate::removeIfNotExists(BasePath* node, const QString& prefix,
+                                             const FileSet& files, QVector<DirectoryPath*>& reduced)
+{
+    const int before = node->childCount();
+    for (std::unique_ptr<BasePath>& child : node->takeChildren()) {
+        if (staysInTree(child.get(), prefix + child->pathName(), files, reduced))
+            node->insertChild(node->childCount(), std::move(child));
+    }
+    // Behind a file that goes, the folder's own entry may come back.
+    if (node->childCount() < before && node->listing())
+        reduced.append(static_cast<DirectoryPath*>(node));
+}
+
+// The full path of a file is compared with paths relative to the project: the
+// two agree only for a project at the root. Elsewhere its files go here and
+// come back in addFiles().
+bool ParentProjectPrivate::staysInTree(BasePath* child, const QString& path, const FileSet& files,
+                                       QVector<DirectoryPath*>& reduced)
+{
+    if (!child->projects().isEmpty())
+        return true;
+    const bool isLeaf = child->childCount() == 0;
+    if (!isLeaf)
+        removeIfNotExists(child, path + Slash, files, reduced);
+    if (child->childCount() > 0 || child->isAnchor())
+        return true;
+    if (child->isDirectory())
+        return child->isProject() || (isLeaf && files.contains(child->completePath()));
+    if (!child->isFile())
+        return !files.contains(path);
+    const auto file = files.constFind(child->completePath());
+    return isLeaf && file != files.constEnd() && *file == child->fileID();
+}
+
+void ParentProjectPrivate::addFiles(BasePath* node, const QList<Project::FileInfo>& files)
+{
+    QHash<BasePath*, int> places;
+    for (const Project::FileInfo& file : files) {
+        const int slash = file.path.lastIndexOf(Slash);
+        BasePath* folder =
+            slash > 0 ? addPath(node, file.path.left(slash), ParentProject::ListNothing, {})
+                      : nullptr;
+        BasePath* target = folder ? folder : node;
+        const QString name = file.path.mid(slash + 1);
+        if (target->child(name))
+            continue;
+        // The names mostly ascend, so that the search goes on where it ended.
+        int& place = places[target];
+        if (place > 0 && name < target->childAt(place - 1)->pathName())
+            place = 0;
+        while (place < target->childCount() && target->childAt(place)->pathName() <= name)
+            ++place;
+        target->insertChild(place++, std::make_unique<FilePath>(target, name, file.id));
+    }
+}
+
+}  // namespace Zorv

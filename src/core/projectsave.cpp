@@ -1,0 +1,134 @@
+#include "core/project.h"
+
+#include "core/files.h"
+#include "core/filesystemarchive.h"
+#include "core/project_p.h"
+#include "core/projectfile.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <iterator>
+#include <set>
+#include <utility>
+
+namespace Zorv {
+
+namespace {
+
+using PendingFile = std::pair<quint32, QString>;
+
+/// The files that are still to be written or copied, by kind and relative path.
+class PendingFiles
+{
+public:
+    void add(FileID id, const QString& path)
+    {
+        if (!path.isEmpty())
+            m_files.insert({id, path});
+    }
+
+    QStringList paths() const
+    {
+        QStringList result;
+        for (const PendingFile& file : m_files)
+            result.append(file.second);
+        return result;
+    }
+
+    /// The first path of a kind; empty if there is none.
+    QString pathOf(FileID id) const
+    {
+        const auto it = m_files.lower_bound({id, QString()});
+        return it != m_files.end() && it->first == id ? it->second : QString();
+    }
+
+    /// Whatever leads to a written path is done, under each kind and spelling.
+    void removePath(const QString& path)
+    {
+        const QString clean = QDir::cleanPath(path);
+        for (auto it = m_files.begin(); it != m_files.end();)
+            it = QDir::cleanPath(it->second) == clean ? m_files.erase(it) : std::next(it);
+    }
+
+private:
+    std::set<PendingFile> m_files;
+};
+
+// A reference like "../../x" must not write outside of the target folder.
+bool isBelow(const QString& fileName, const QString& folder)
+{
+    QString base = QDir::cleanPath(folder);
+    if (!base.endsWith(QLatin1Char('/')))
+        base += QLatin1Char('/');
+    return QDir::cleanPath(fileName).startsWith(base);
+}
+
+PendingFiles referredFiles(Project& project, const QString& root, bool asCopy)
+{
+    QList<Project::FileInfo> infos;
+    project.fileInfos(infos);
+    PendingFiles pending;
+    for (const Project::FileInfo& info : qAsConst(infos))
+        pending.add(info.id, info.path);
+    if (asCopy)
+        pending.add(FileID::MainCode, project.fileName().mid(root.size()));
+    return pending;
+}
+
+bool copyOne(Archive& source, const QString& sourceName, const QString& targetName)
+{
+    QString error;
+    return forcePath(targetName) &&
+           copyFile(source, sourceName, *FileSystemArchive::instance(), targetName, &error) &&
+           error.isEmpty();
+}
+
+bool mustWrite(const ProjectFile& file, FileID id, bool asCopy)
+{
+    return asCopy ? file.isModified() || !QFile::exists(file.fileName()) : id != FileID::MainCode;
+}
+
+}  // namespace
+
+void Project::saveAll(const QString& path, bool asCopy, QStringList* files)
+{
+    Archive& disk = *FileSystemArchive::instance();
+    const QString root = absolutePath();
+    const QString targetRoot = path + basePath();
+    PendingFiles pending = referredFiles(*this, root, asCopy);
+    if (files)
+        files->append(pending.paths());
+    d->failedFiles.clear();
+
+    const QMap<ProjectFile*, FileID> all = d->fileIDs;
+    for (auto it = all.cbegin(); it != all.cend(); ++it) {
+        ProjectFile* file = it.key();
+        const QString name = file->fileName();
+        if (!asCopy)
+            file->m_archive = &disk;
+        const bool inside = name.isEmpty() || name.startsWith(root);
+        if (!mustWrite(*file, it.value(), asCopy) || file->archive() != m_archive || !inside)
+            continue;
+        const QString own = name.mid(root.size());
+        const QString relative = own.isEmpty() ? pending.pathOf(it.value()) : own;
+        if (relative.isEmpty())
+            continue;
+        const QString target = targetRoot + relative;
+        pending.removePath(relative);
+        if (!isBelow(target, path) || !forcePath(target) || !file->toFile(disk, target, asCopy))
+            d->failedFiles.append(relative);
+    }
+
+    for (const QString& relative : pending.paths()) {
+        const QString source = root + relative;
+        const QString target = targetRoot + relative;
+        const bool stays = QDir::cleanPath(source) == QDir::cleanPath(target);
+        if (!stays && (!isBelow(target, path) || !copyOne(*m_archive, source, target)))
+            d->failedFiles.append(relative);
+    }
+    if (!asCopy)
+        m_archive = &disk;
+}
+
+}  // namespace Zorv
