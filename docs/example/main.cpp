@@ -11,9 +11,9 @@
 class Section : public Zorv::GroupCode
 {
 public:
-    Section(Zorv::CodeNode* previous, const QString& name)
-        : GroupCode(previous, 1), m_name(name)
+    Section(Zorv::CodeNode* previous, const QString& name) : GroupCode(previous, 1), m_name(name)
     {
+        insertRootChild(this);
     }
 
     QString name() const override { return m_name; }
@@ -27,13 +27,14 @@ private:
 class Setting : public Zorv::ValueCode
 {
 public:
-    Setting(Zorv::CodeNode* previous, const QString& name, const QString& value)
-        : ValueCode(previous, Text, value), m_name(name)
+    Setting(Zorv::CodeNode* previous, const QString& name, const QString& value,
+            const QString& comment)
+        : ValueCode(previous, Text, value), m_name(name), m_comment(comment)
     {
     }
 
     QString name() const override { return m_name; }
-    void setName(const QString& name) override { change(name + " = " + value().toString()); }
+    void setName(const QString& name) override { setLine(name, value().toString()); }
     QString unsignedText(unsigned value) const override { return QString::number(value); }
     void release() override { delete this; }
 
@@ -44,12 +45,18 @@ public:
         if (value.toString().contains('\n')) {
             return false;
         }
-        change(m_name + " = " + value.toString());
+        setLine(m_name, value.toString());
         return true;
     }
 
 private:
+    void setLine(const QString& name, const QString& value)
+    {
+        change(name + " = " + value + m_comment);
+    }
+
     QString m_name;
+    QString m_comment;
 };
 
 // One call for each line: gives the node of the line, and reports its tokens.
@@ -84,7 +91,8 @@ public:
                 syntax->ok(Syntax::Keyword, 0, unsigned(text.indexOf('=')));
             }
             return new Setting(previous, code.left(equals).trimmed(),
-                               code.mid(equals + 1).trimmed());
+                               code.mid(equals + 1).trimmed(),
+                               hash < 0 ? QString() : "  " + text.mid(hash));
         }
         if (syntax) {
             syntax->error(Syntax::Invalid, "expected \"name = value\" or \"[section]\"", 0,
@@ -97,7 +105,14 @@ public:
 class SettingsDocument : public Zorv::CodeDocument
 {
 public:
-    SettingsDocument() : CodeDocument(0) { setParser(&m_grammar); }
+    SettingsDocument() : CodeDocument(0)
+    {
+        // "parseCode" has edits of the tree parsed at once, "highlightCode" has tokens and
+        // messages reported. A host gives both in its settings.
+        setOption("parseCode", true, false, false);
+        setOption("highlightCode", true, false, false);
+        setParser(&m_grammar);
+    }
 
     int projectKind() const override { return 0; }
     int blockFolding(const QString& line) const override { return line.startsWith('[') ? 5 : 0; }

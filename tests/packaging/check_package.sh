@@ -41,7 +41,7 @@ check_program() {
     local program=$1
     printf '# first\r\n[video]\r\nwidth = 640  # pixels\r\nheight = 480\r\n' >"$work/settings.txt"
     LD_LIBRARY_PATH=$libdir "$program" "$work/settings.txt" video width 800
-    printf '# first\r\n[video]\r\nwidth = 800 # pixels\r\nheight = 480\r\n' >"$work/expected.txt"
+    printf '# first\r\n[video]\r\nwidth = 800  # pixels\r\nheight = 480\r\n' >"$work/expected.txt"
     cmp "$work/expected.txt" "$work/settings.txt" >&2 || fail "$program wrote the wrong text"
     if LD_LIBRARY_PATH=$libdir "$program" "$work/settings.txt" video depth 8 2>/dev/null; then
         fail "$program set a value that is not there"
