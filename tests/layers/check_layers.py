@@ -33,12 +33,14 @@ LAYERS = {
     "src/animation/": 8,
     "src/editors/sound/": 8,
     "host/family/": 20,
-    "host/cli/": 21,
-    "host/app/": 22,
+    "host/operations/": 21,
+    "host/cli/": 22,
+    "host/app/": 23,
 }
 
 # Where the compiler looks for an include, after the folder of the file itself.
-INCLUDE_FOLDERS = ["src", "host", "host/family", "host/cli", "host/app", ""]
+INCLUDE_FOLDERS = ["src", "host", "host/family", "host/operations", "host/cli",
+                   "host/app", ""]
 
 # Meant includes of a higher layer: (file, included file) and the reason.
 EXCEPTIONS = {}
@@ -47,7 +49,7 @@ EXCEPTIONS = {}
 # all files of the command line and of what it shares with the window.
 WIDGET_FREE_HEADERS = ["src/text/", "src/core/", "src/code/", "src/cache/", "src/media/"]
 WIDGET_HEADERS_ALLOWED = ["src/core/dialogs/"]
-WIDGET_FREE_FILES = ["host/family/", "host/cli/"]
+WIDGET_FREE_FILES = ["host/family/", "host/operations/", "host/cli/"]
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"]+)[>"]', re.MULTILINE)
 
