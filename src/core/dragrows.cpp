@@ -1,9 +1,7 @@
 #include "core/dragrows_p.h"
 
-#include <QColor>
 #include <QDataStream>
 #include <QDateTime>
-#include <QFont>
 #include <QMetaType>
 #include <QVariant>
 
@@ -14,6 +12,7 @@ namespace {
 const int MaxDepth = 16;
 const int PngSignature = 8;
 const int TransformSize = 9 * 8;
+const int FontSize = 31;
 
 // Types whose values take the same number of bytes in every stream.
 const struct
@@ -88,7 +87,7 @@ private:
         if (!isGood() || depth > MaxDepth)
             return false;
         if (type == QMetaType::UnknownType)
-            return skipSized();
+            return true;
         for (const auto& entry : fixedSizes) {
             if (entry.type == type)
                 return skip(quint32(entry.size));
@@ -114,8 +113,7 @@ private:
         case QMetaType::QVariantHash:
             return skipEach(read<quint32>(), [&] { return text() && value(); });
         case QMetaType::QFont:
-            read<QFont>();
-            return isGood();
+            return skipFont();
         case QMetaType::QDateTime:
             read<QDateTime>();
             return isGood();
@@ -132,6 +130,13 @@ private:
         default:
             return false;
         }
+    }
+
+    // Family and style in front, the families behind of what has a fixed size.
+    bool skipFont()
+    {
+        return skipSized() && skipSized() && skip(FontSize) &&
+               skipEach(read<quint32>(), [this] { return skipSized(); });
     }
 
     // Chunks of PNG up to the one that ends it; nothing for a null image.

@@ -57,17 +57,21 @@ ItemsDlg::~ItemsDlg() = default;
 QList<int> ItemsDlg::selected() const
 {
     QList<int> rows;
-    const QModelIndexList indexes =
-        m_list->selectionModel() ? m_list->selectionModel()->selectedRows(0) : QModelIndexList();
-    for (const QModelIndex& index : indexes)
-        rows.append(index.row());
+    if (!m_list->selectionModel())
+        return rows;
+    // The list shows the first column alone, so a row is never selected as a whole.
+    const QModelIndexList indexes = m_list->selectionModel()->selectedIndexes();
+    for (const QModelIndex& index : indexes) {
+        if (index.column() == 0)
+            rows.append(index.row());
+    }
     std::sort(rows.begin(), rows.end());
     return rows;
 }
 
 bool ItemsDlg::hasSelection() const
 {
-    return m_list->selectionModel() && m_list->selectionModel()->hasSelection();
+    return !selected().isEmpty();
 }
 
 void ItemsDlg::release()

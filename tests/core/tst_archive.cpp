@@ -1,0 +1,418 @@
+#include "core/extensionmanager.h"
+#include "core/files.h"
+#include "core/filesystemarchive.h"
+
+#include <QBuffer>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace Zorv;
+
+namespace {
+
+FileSystemArchive& archive()
+{
+    return *FileSystemArchive::instance();
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
+}
+
+void put(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+QStringList everythingIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                  QDir::NoDotAndDotDot);
+}
+
+struct stat statusOf(const QString& path)
+{
+    struct stat status = {};
+    ::lstat(QFile::encodeName(path).constData(), &status);
+    return status;
+}
+
+class KnownExtension : public Extension
+{
+public:
+    explicit KnownExtension(int type) : m_type(Type(type)) {}
+    Type type() const override { return m_type; }
+
+private:
+    Type m_type;
+};
+
+}  // namespace
+
+class TestArchive : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        folder = std::make_unique<QTemporaryDir>();
+        path = at("file.def");
+    }
+
+    void missingFileIsNotOpened_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::newRow("read") << int(QIODevice::ReadOnly);
+        QTest::newRow("append alone") << int(QIODevice::Append);
+        QTest::newRow("change an existing one")
+            << int(QIODevice::ReadWrite | QIODevice::ExistingOnly);
+    }
+
+    void missingFileIsNotOpened()
+    {
+        QFETCH(int, mode);
+        const QString missing = at("no/such/file");
+        QString error;
+        QVERIFY(!archive().openFile(missing, QIODevice::OpenMode(mode), &error));
+        QVERIFY2(error.contains(missing), qPrintable(error));
+        QVERIFY(!QFile::exists(missing));
+        QCOMPARE(QDir(at("no")).exists(), bool(mode & QIODevice::WriteOnly));
+    }
+
+    void openForWritingMakesFoldersEvenIfItFails()
+    {
+        QVERIFY(QDir().mkpath(at("a/b")));
+        QVERIFY(!archive().openFile(at("a/b/c/"), QIODevice::WriteOnly));
+        QVERIFY(QDir(at("a/b/c")).exists());
+    }
+
+    void oldFileIsWholeUntilTheDeviceIsBack()
+    {
+        put(path, "old");
+        QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
+        device->write("new text");
+        device->close();
+        QCOMPARE(contentOf(path), QByteArray("old"));
+        QVERIFY(archive().closeFile(device));
+        QCOMPARE(contentOf(path), QByteArray("new text"));
+        QCOMPARE(everythingIn(folder->path()), QStringList{QStringLiteral("file.def")});
+    }
+
+    void deviceThatDiesLeavesTheOldFile()
+    {
+        put(path, "old");
+        std::unique_ptr<QIODevice> device(archive().openFile(path, QIODevice::WriteOnly));
+        device->write("new text");
+        device.reset();
+        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(everythingIn(folder->path()).size(), 1);
+    }
+
+    void nothingWritten_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QByteArray>("result");
+        QTest::newRow("write") << int(QIODevice::WriteOnly) << QByteArray();
+        QTest::newRow("read and write") << int(QIODevice::ReadWrite) << QByteArray("old");
+        QTest::newRow("append") << int(QIODevice::WriteOnly | QIODevice::Append)
+                                << QByteArray("old");
+        QTest::newRow("truncate") << int(QIODevice::ReadWrite | QIODevice::Truncate)
+                                  << QByteArray();
+    }
+
+    void nothingWritten()
+    {
+        QFETCH(int, mode);
+        put(path, "old");
+        const auto inode = statusOf(path).st_ino;
+        QIODevice* device = archive().openFile(path, QIODevice::OpenMode(mode));
+        QVERIFY(archive().closeFile(device));
+        QTEST(contentOf(path), "result");
+        if (!contentOf(path).isEmpty())
+            QCOMPARE(statusOf(path).st_ino, inode);
+    }
+
+    // The same random work on a buffer in memory gives the same bytes and answers.
+    void randomAccessAsInMemory_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::newRow("read and write") << int(QIODevice::ReadWrite);
+        QTest::newRow("append") << int(QIODevice::ReadWrite | QIODevice::Append);
+    }
+
+    void randomAccessAsInMemory()
+    {
+        QFETCH(int, mode);
+        const quint32 seed = 77;
+        qInfo("seed %u", seed);
+        QRandomGenerator random(seed);
+        QByteArray content(600000, 'o');
+        put(path, content);
+        QBuffer model(&content);
+        QVERIFY(model.open(QIODevice::OpenMode(mode)));
+        QIODevice* device = archive().openFile(path, QIODevice::OpenMode(mode));
+        QVERIFY(device);
+        for (int step = 0; step < 600; ++step) {
+            const int size = random.bounded(step % 50 ? 3000 : 400000);
+            switch (random.bounded(4)) {
+            case 0: {
+                const qint64 place = random.bounded(int(model.size()));
+                QCOMPARE(device->seek(place), model.seek(place));
+                break;
+            }
+            case 1:
+                QCOMPARE(device->read(size), model.read(size));
+                break;
+            case 2:
+                QCOMPARE(device->peek(size), model.peek(size));
+                break;
+            default: {
+                const QByteArray text(size, char('a' + step % 26));
+                // A buffer in memory does not move to its end by itself.
+                if (model.openMode() & QIODevice::Append)
+                    model.seek(model.size());
+                QCOMPARE(device->write(text), model.write(text));
+                if (model.openMode() & QIODevice::Append)
+                    device->seek(model.size());
+            }
+            }
+            QCOMPARE(device->pos(), model.pos());
+            QCOMPARE(device->size(), model.size());
+        }
+        QVERIFY(archive().closeFile(device));
+        QVERIFY(contentOf(path) == content);
+    }
+
+    void permissionsAreKept_data()
+    {
+        QTest::addColumn<uint>("mode");
+        for (const uint mode : {0600u, 0644u, 0755u, 0660u, 0666u})
+            QTest::newRow(qPrintable(QString::number(mode, 8))) << mode;
+    }
+
+    void permissionsAreKept()
+    {
+        QFETCH(uint, mode);
+        put(path, "old");
+        QCOMPARE(::chmod(QFile::encodeName(path).constData(), mode), 0);
+        QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
+        device->write("new");
+        QVERIFY(archive().closeFile(device));
+        QCOMPARE(statusOf(path).st_mode & 07777u, mode);
+    }
+
+    void ownerIsKept()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only root can give files away");
+        put(path, "old");
+        QCOMPARE(::chown(QFile::encodeName(path).constData(), 1234, 2345), 0);
+        QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
+        device->write("new");
+        QVERIFY(archive().closeFile(device));
+        QCOMPARE(statusOf(path).st_uid, uid_t(1234));
+        QCOMPARE(statusOf(path).st_gid, gid_t(2345));
+    }
+
+    void linksAreFollowed_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<bool>("isThere");
+        QTest::newRow("beside") << "target.def" << true;
+        QTest::newRow("elsewhere") << "sub/../sub/target.def" << true;
+        QTest::newRow("dangling") << "sub/new.def" << false;
+    }
+
+    void linksAreFollowed()
+    {
+        QFETCH(QString, target);
+        QFETCH(bool, isThere);
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
+        const QString real = folder->filePath(target);
+        if (isThere)
+            put(real, "old");
+        // A relative link, reached through another one.
+        QVERIFY(QFile::link(target, at("first")));
+        QVERIFY(QFile::link(at("first"), path));
+        QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
+        QVERIFY(device);
+        device->write("new");
+        QVERIFY(archive().closeFile(device));
+        QVERIFY(QFileInfo(path).isSymLink());
+        QVERIFY(QFileInfo(at("first")).isSymLink());
+        QVERIFY(!QFileInfo(real).isSymLink());
+        QCOMPARE(contentOf(real), QByteArray("new"));
+    }
+
+    void badTargetsAreRefused_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("folder") << "sub";
+        QTest::newRow("pipe") << "pipe";
+        QTest::newRow("link to a pipe") << "link";
+        QTest::newRow("circle of links") << "circle";
+    }
+
+    void badTargetsAreRefused()
+    {
+        QFETCH(QString, name);
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
+        QCOMPARE(::mkfifo(QFile::encodeName(at("pipe")).constData(), 0600), 0);
+        QVERIFY(QFile::link(at("pipe"), at("link")));
+        QVERIFY(QFile::link(at("circle"), at("circle2")));
+        QVERIFY(QFile::link(at("circle2"), at("circle")));
+        const QStringList before = everythingIn(folder->path());
+        const QString target = folder->filePath(name);
+        const auto inode = statusOf(target).st_ino;
+        QString error;
+        QVERIFY(!archive().openFile(target, QIODevice::WriteOnly, &error));
+        QVERIFY2(error.contains(target), qPrintable(error));
+        QCOMPARE(statusOf(target).st_ino, inode);
+        QCOMPARE(everythingIn(folder->path()), before);
+    }
+
+    void leftoversOfDeadProcessesAreSwept()
+    {
+        const QString name = QString(60, QChar(0x4e2d)) + QStringLiteral("[1].def");
+        path = folder->filePath(name);
+        // A process number that is free: that of a child that is gone.
+        const pid_t dead = ::fork();
+        if (dead == 0)
+            ::_exit(0);
+        ::waitpid(dead, nullptr, 0);
+
+        QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
+        const QString own = everythingIn(folder->path()).value(0);
+        QVERIFY(!own.isEmpty());
+        const QString number = QString::number(::getpid());
+        QVERIFY(own.contains(number));
+        QString stale = own, alive = own, foreign = own;
+        put(folder->filePath(stale.replace(number, QString::number(dead))), "part");
+        put(folder->filePath(alive.replace(number, QString::number(::getppid()))), "at work");
+        put(folder->filePath(foreign.replace(number, QStringLiteral("x"))), "not ours");
+        QVERIFY(archive().closeFile(device));
+        QVERIFY(archive().closeFile(archive().openFile(path, QIODevice::WriteOnly)));
+
+        QStringList expected{name, alive, foreign}, found = everythingIn(folder->path());
+        expected.sort();
+        found.sort();
+        QCOMPARE(found, expected);
+    }
+
+    void savesOfOneFileAtOnce()
+    {
+        QIODevice* first = archive().openFile(path, QIODevice::WriteOnly);
+        QIODevice* second = archive().openFile(path, QIODevice::WriteOnly);
+        first->write("first");
+        second->write("second");
+        QVERIFY(archive().closeFile(second));
+        QVERIFY(archive().closeFile(first));
+        QCOMPARE(contentOf(path), QByteArray("first"));
+        QCOMPARE(everythingIn(folder->path()).size(), 1);
+    }
+
+    void largeSave()
+    {
+        const QByteArray content(100 * 1000 * 1000, 'x');
+        QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
+        QCOMPARE(device->write(content), qint64(content.size()));
+        QVERIFY(archive().closeFile(device));
+        QVERIFY(contentOf(path) == content);
+    }
+
+    void entriesNeverListLinksAndDots()
+    {
+        put(path, "text");
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
+        QVERIFY(QFile::link(path, at("link")));
+        const QDir::Filters all = QDir::AllEntries | QDir::System | QDir::Hidden;
+        const QStringList expected{QStringLiteral("file.def"), QStringLiteral("sub")};
+        QCOMPARE(archive().entries(folder->path(), all, QDir::Name), expected);
+        QStringList names;
+        for (const QFileInfo& info : archive().infoEntries(folder->path(), all, QDir::Name))
+            names.append(info.fileName());
+        QCOMPARE(names, expected);
+    }
+
+    void extensionOfName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("extension");
+        QTest::newRow("one") << "a.pcx" << QByteArray("PCX");
+        QTest::newRow("last") << "a.tar.gz" << QByteArray("GZ");
+        QTest::newRow("none") << "a" << QByteArray();
+        QTest::newRow("of the folder") << "a.b/c" << QByteArray();
+        QTest::newRow("not Latin-1") << QString::fromUtf8("a.\u0142") << QByteArray("?");
+    }
+
+    void extensionOfName()
+    {
+        QFETCH(QString, name);
+        QTEST(fileExtension(name), "extension");
+    }
+
+    void skippedBytes_data()
+    {
+        QTest::addColumn<unsigned>("count");
+        QTest::addColumn<qint64>("position");
+        QTest::newRow("none") << 0u << qint64(0);
+        QTest::newRow("less than a piece") << 255u << qint64(255);
+        QTest::newRow("several pieces") << 700u << qint64(700);
+        QTest::newRow("behind the end") << 0xffffffffu << qint64(1000);
+    }
+
+    void skippedBytes()
+    {
+        QFETCH(unsigned, count);
+        QByteArray bytes(1000, 'x');
+        QBuffer buffer(&bytes);
+        QVERIFY(buffer.open(QIODevice::ReadOnly));
+        skipRead(&buffer, count);
+        QTEST(buffer.pos(), "position");
+    }
+
+    void copies()
+    {
+        QByteArray content;
+        for (int i = 0; i < 300001; ++i)
+            content.append(char(i % 251));
+        put(path, content);
+        const QString target = at("new/folder/copy.def");
+        QString error = QStringLiteral("(unset)");
+        QVERIFY(copyFile(archive(), path, archive(), target, &error));
+        QCOMPARE(error, QString());
+        QVERIFY(contentOf(target) == content);
+        QVERIFY(copyFile(archive(), path, archive(), path, &error));
+        QVERIFY(contentOf(path) == content);
+    }
+
+    void extensionsAreListedByType()
+    {
+        KnownExtension loader(Extension::ImageLoader), saver(Extension::ImageSaver), bad(99);
+        ExtensionManager::add(&saver);
+        ExtensionManager::add(&loader);
+        ExtensionManager::add(&bad);
+        QCOMPARE(ExtensionManager::list(Extension::ImageLoader), QList<Extension*>{&loader});
+        QCOMPARE(ExtensionManager::list(Extension::ImageSaver), QList<Extension*>{&saver});
+        QVERIFY(ExtensionManager::list(bad.type()).isEmpty());
+    }
+
+private:
+    QString at(const char* name) const { return folder->filePath(QString::fromLatin1(name)); }
+
+    std::unique_ptr<QTemporaryDir> folder;
+    QString path;
+};
+
+QTEST_GUILESS_MAIN(TestArchive)
+#include "tst_archive.moc"

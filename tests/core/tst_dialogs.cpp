@@ -1,0 +1,138 @@
+#include "core/dialogs/dialogs.h"
+#include "support/planneddialogs.h"
+#include "support/testinterface.h"
+
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QWidget>
+#include <QtTest>
+
+#include <functional>
+
+using namespace Zorv;
+
+namespace {
+
+// Runs as soon as a dialog of this class is open.
+template <typename Dialog>
+void whenOpen(const std::function<void(Dialog*)>& act)
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, qApp, [=] {
+        if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+            timer->deleteLater();
+            act(dialog);
+        }
+    });
+    timer->start(1);
+}
+
+}  // namespace
+
+class TestDialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void buttons_data()
+    {
+        QTest::addColumn<int>("buttons");
+        QTest::addColumn<int>("pressed");
+        QTest::addColumn<int>("standard");
+        QTest::addColumn<int>("answer");
+        const int ask = Dialogs::Yes | Dialogs::No | Dialogs::Cancel;
+        QTest::newRow("yes") << ask << 1 << int(QMessageBox::Yes) << int(Dialogs::Yes);
+        QTest::newRow("no") << ask << 1 << int(QMessageBox::No) << int(Dialogs::No);
+        QTest::newRow("cancel") << ask << 1 << int(QMessageBox::Cancel) << int(Dialogs::Cancel);
+        QTest::newRow("closed") << ask << 0 << 0 << int(Dialogs::Cancel);
+        QTest::newRow("closed without cancel")
+            << int(Dialogs::Yes | Dialogs::No) << 0 << 0 << int(Dialogs::No);
+        QTest::newRow("closed with one button") << int(Dialogs::Ok) << 0 << 0 << int(Dialogs::Ok);
+        QTest::newRow("return key")
+            << int(Dialogs::Ok | Dialogs::Cancel) << 2 << 0 << int(Dialogs::Ok);
+    }
+
+    void buttons()
+    {
+        QFETCH(int, buttons);
+        QFETCH(int, pressed);
+        QFETCH(int, standard);
+        TestInterface host;
+        QWidget window;
+        host.window = &window;
+        bool isChild = false;
+        QString text;
+        whenOpen<QMessageBox>([&](QMessageBox* box) {
+            isChild = box->parentWidget() == &window;
+            text = box->text();
+            if (pressed == 1)
+                QTest::mouseClick(box->button(QMessageBox::StandardButton(standard)),
+                                  Qt::LeftButton);
+            else if (pressed == 2)
+                QTest::keyClick(box, Qt::Key_Return);
+            else
+                box->close();
+        });
+        const QString path = QStringLiteral("/tmp/<b>&amp;.def");
+        const auto answer = Dialogs::instance()->question(QStringLiteral("Title"), path,
+                                                          Dialogs::Buttons(buttons), Dialogs::Ok);
+        QTEST(int(answer), "answer");
+        QVERIFY(isChild);
+        QCOMPARE(text, path);
+    }
+
+    void choice()
+    {
+        const QStringList choices{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
+        const auto ask = [&] {
+            return Dialogs::instance()->choose(QStringLiteral("t"), QStringLiteral("x"), choices,
+                                               1);
+        };
+        whenOpen<QInputDialog>([](QInputDialog* dialog) { dialog->accept(); });
+        QCOMPARE(ask(), 1);
+        whenOpen<QInputDialog>([](QInputDialog* dialog) {
+            dialog->setTextValue(QStringLiteral("c"));
+            dialog->accept();
+        });
+        QCOMPARE(ask(), 2);
+        whenOpen<QInputDialog>([](QInputDialog* dialog) { dialog->reject(); });
+        QCOMPARE(ask(), -1);
+    }
+
+    void fileNames_data()
+    {
+        QTest::addColumn<QVariant>("option");
+        QTest::addColumn<QStringList>("names");
+        const QStringList chosen{QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("B")};
+        QTest::newRow("unset") << QVariant() << chosen;
+        QTest::newRow("off") << QVariant(false) << chosen;
+        QTest::newRow("on") << QVariant(true)
+                            << QStringList{QStringLiteral("B"), QStringLiteral("a"),
+                                           QStringLiteral("b")};
+    }
+
+    void fileNames()
+    {
+        QFETCH(QVariant, option);
+        TestInterface host;
+        host.options[QStringLiteral("sort_file_names")] = option;
+        PlannedDialogs dialogs;
+        dialogs.fileAnswers = {{QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("B")}};
+        QTEST(getOpenFileNames(nullptr, {}, {}, {}), "names");
+    }
+
+    void replacedDialogsComeBack()
+    {
+        Dialogs* standard = Dialogs::instance();
+        {
+            PlannedDialogs dialogs;
+            QCOMPARE(Dialogs::instance(), static_cast<Dialogs*>(&dialogs));
+        }
+        QCOMPARE(Dialogs::instance(), standard);
+    }
+};
+
+QTEST_MAIN(TestDialogs)
+#include "tst_dialogs.moc"
