@@ -1,0 +1,120 @@
+#include "operations/animationedits.h"
+
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/grammar/grammar.h"
+#include "family/nodes/animationnode.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+#include <algorithm>
+
+namespace Family {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Family::AnimationEdits", text);
+}
+
+QStringList identifiers(const FamilyAnimations* list)
+{
+    QStringList result;
+    const QList<Zorv::AnimationCode*> animations = list->animations();
+    for (const Zorv::AnimationCode* animation : animations) {
+        result.append(static_cast<const AnimationNode*>(animation)->identifier());
+    }
+    return result;
+}
+
+int placeOf(const QString& reference, int count, QString* error)
+{
+    bool isNumber = false;
+    const int place = reference.midRef(1).toInt(&isNumber);
+    if (isNumber && place >= 0 && place < count) {
+        return place;
+    }
+    *error = count == 0 ? tr("There is no animation in the file.")
+                        : tr("There is no animation '%1'. Name one from '#0' to '#%2'.")
+                              .arg(reference)
+                              .arg(count - 1);
+    return -1;
+}
+
+}  // namespace
+
+int findAnimation(const FamilyAnimations* list, const QString& reference, QString* error)
+{
+    const QStringList all = identifiers(list);
+    if (reference.startsWith(QLatin1Char('#'))) {
+        return placeOf(reference, all.size(), error);
+    }
+    const int place = all.indexOf(reference);
+    if (place < 0) {
+        const QString near = nearName(reference, all);
+        *error = near.isEmpty()
+                     ? tr("There is no animation '%1'. 'anim list' shows those of the file.")
+                           .arg(reference)
+                     : tr("There is no animation '%1'. Did you mean '%2'?").arg(reference, near);
+        return -1;
+    }
+    const int other = all.indexOf(reference, place + 1);
+    if (other > 0) {
+        *error = tr("There are several animations '%1'. Name one by its place, '#%2' or '#%3'.")
+                     .arg(reference)
+                     .arg(place)
+                     .arg(other);
+        return -1;
+    }
+    return place;
+}
+
+QString freeIdentifier(const FamilyAnimations* list, const QString& identifier)
+{
+    const QStringList all = identifiers(list);
+    const QSet<QString> taken(all.begin(), all.end());
+    bool isNumber = false;
+    const qint64 start = identifier.toLongLong(&isNumber);
+    // One more candidate than there are animations: one of them is free.
+    for (qint64 i = 1; i <= all.size() + 1; ++i) {
+        const QString candidate = isNumber ? QString::number(start + i)
+                                           : identifier + QLatin1Char('-') + QString::number(i + 1);
+        if (!taken.contains(candidate)) {
+            return candidate;
+        }
+    }
+    return {};
+}
+
+bool duplicateAnimation(FamilyAnimations* list, int index, const QString& identifier,
+                        QString* error)
+{
+    if (!isAnimationIdentifier(identifier)) {
+        *error = tr("'%1' cannot name an animation. Write a number, or a word of letters, digits, "
+                    "'_' and '-'.")
+                     .arg(identifier);
+        return false;
+    }
+    if (list->indexOfIdentifier(identifier) >= 0) {
+        *error = tr("There is an animation '%1' already. Choose another name.").arg(identifier);
+        return false;
+    }
+    return list->duplicateAnimation(index, identifier);
+}
+
+void removeAnimations(FamilyAnimations* list, QVector<int> indexes)
+{
+    std::sort(indexes.begin(), indexes.end(), std::greater<int>());
+    indexes.erase(std::unique(indexes.begin(), indexes.end()), indexes.end());
+    list->beginChange(tr("Remove animations"));
+    for (int index : qAsConst(indexes)) {
+        if (index >= 0 && index < list->count()) {
+            list->remove(unsigned(index));
+        }
+    }
+    list->endChange();
+}
+
+}  // namespace Family

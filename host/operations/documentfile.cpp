@@ -1,0 +1,166 @@
+#include "operations/documentfile.h"
+
+#include "code/codecs/textcodecs.h"
+#include "core/dialogs/dialogs.h"
+#include "core/filesystemarchive.h"
+#include "family/familydocument.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include <memory>
+
+namespace Family {
+
+namespace {
+
+// A text and its tree take some twenty times the size of the file.
+const qint64 MaxFileSize = qint64(256) * 1024 * 1024;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Family::DocumentFile", text);
+}
+
+QString shownName(const Zorv::CodeDocument* document)
+{
+    return QDir::toNativeSeparators(document->fileName());
+}
+
+// What must not even be opened: reading a pipe or a device may never end.
+QString readingObstacle(const QString& fileName)
+{
+    const QFileInfo info(fileName);
+    const QString shown = QDir::toNativeSeparators(fileName);
+    if (info.isDir()) {
+        return tr("Cannot open %1: It is a folder. Name a file in it.").arg(shown);
+    }
+    if (info.exists() && !info.isFile()) {
+        return tr("Cannot open %1: It is not a plain file. Name a file on a disk.").arg(shown);
+    }
+    if (info.size() > MaxFileSize) {
+        return tr("Cannot open %1: It is larger than %2 MB. Divide it into several files.")
+            .arg(shown)
+            .arg(MaxFileSize / 1024 / 1024);
+    }
+    return {};
+}
+
+QString characterName(const QString& text, int at)
+{
+    const bool isPair = text.at(at).isHighSurrogate() && at + 1 < text.size();
+    const uint code =
+        isPair ? QChar::surrogateToUcs4(text.at(at), text.at(at + 1)) : text.at(at).unicode();
+    const QString number = QLatin1String("U+") +
+                           QString::number(code, 16).toUpper().rightJustified(4, QLatin1Char('0'));
+    return QChar::isPrint(code) ? tr("'%1' (%2)").arg(text.mid(at, isPair ? 2 : 1), number)
+                                : number;
+}
+
+}  // namespace
+
+FamilyDocument* openDocument(const QString& fileName, int codec, QString* error)
+{
+    *error = readingObstacle(fileName);
+    if (!error->isEmpty()) {
+        return nullptr;
+    }
+    auto document = std::make_unique<FamilyDocument>(fileKindOf(fileName));
+    if (!document->fromFile(*Zorv::FileSystemArchive::instance(), fileName, codec, false)) {
+        *error = document->errorString();
+        return nullptr;
+    }
+    return document.release();
+}
+
+int faithfulCodec(const QString& fileName)
+{
+    auto* archive = Zorv::FileSystemArchive::instance();
+    QIODevice* device = archive->openFile(fileName, QIODevice::ReadOnly);
+    if (!device) {
+        return -1;
+    }
+    const QByteArray data = device->readAll();
+    archive->closeFile(device);
+    // Some characters never come back out of a document, whatever the codec
+    // says: each candidate is tried. The last one reads no byte as one of them.
+    for (int codec :
+         {Zorv::TextCodecs::faithfulCodec(data), Zorv::TextCodecs::index("ISO-8859-1")}) {
+        FamilyDocument trial(fileKindOf(fileName));
+        if (trial.fromFile(*archive, fileName, codec, false) && trial.isFaithful()) {
+            return codec;
+        }
+    }
+    return -1;
+}
+
+bool ensureFaithful(Zorv::CodeDocument* document)
+{
+    if (document->isFaithful()) {
+        return true;
+    }
+    const int codec = faithfulCodec(document->fileName());
+    const QString title = tr("Encoding");
+    const QString text = tr("%1 does not come back byte for byte from its encoding, %2: saving it "
+                            "would change characters.")
+                             .arg(shownName(document), document->codecName());
+    if (codec < 0) {
+        Zorv::Dialogs::instance()->warning(title, text);
+        return false;
+    }
+    const QString name = Zorv::TextCodecs::name(codec);
+    const QStringList choices{tr("Open it in %1").arg(name),
+                              tr("Keep %1").arg(document->codecName())};
+    const int choice = Zorv::Dialogs::instance()->choose(
+        title, tr("%1 It does from %2.").arg(text, name), choices, 0);
+    return choice == 0 &&
+           document->fromFile(*document->archive(), document->fileName(), codec, false) &&
+           document->isFaithful();
+}
+
+QString encodingObstacle(const Zorv::CodeDocument* document)
+{
+    const QString text = document->text();
+    const int at = Zorv::TextCodecs::firstUnencodable(text, document->codecId());
+    if (at < 0) {
+        return {};
+    }
+    const int line = text.leftRef(at).count(QLatin1Char('\n')) + 1;
+    return tr("%1, line %2: The encoding %3 has no %4. Change the character, or save the file in "
+              "UTF-8.")
+        .arg(shownName(document))
+        .arg(line)
+        .arg(document->codecName(), characterName(text, at));
+}
+
+QString lineEndNote(const Zorv::CodeDocument* document)
+{
+    return document->hasForeignLineEnds()
+               ? tr("Saving %1 ends each of its lines with a carriage return and a line feed.")
+                     .arg(shownName(document))
+               : QString();
+}
+
+Saved saveDocument(Zorv::CodeDocument* document, const QString& fileName, QString* error)
+{
+    const QString obstacle = encodingObstacle(document);
+    const int oldCodec = document->codecId();
+    if (!obstacle.isEmpty()) {
+        const QStringList choices{tr("Save it in UTF-8"), tr("Do not save")};
+        if (Zorv::Dialogs::instance()->choose(tr("Encoding"), obstacle, choices, 0) != 0) {
+            return Saved::GivenUp;
+        }
+        document->setCodec("UTF-8");
+    }
+    if (document->toFile(*Zorv::FileSystemArchive::instance(), fileName, false)) {
+        return Saved::Done;
+    }
+    *error = document->errorString();
+    document->setCodecId(oldCodec);
+    // No signal will come for a write that did not happen.
+    document->pauseWatch(false);
+    return Saved::Failed;
+}
+
+}  // namespace Family

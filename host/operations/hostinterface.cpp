@@ -1,0 +1,194 @@
+#include "operations/hostinterface.h"
+
+#include "code/codecs/textcodecs.h"
+#include "core/progressreporter.h"
+#include "family/project/familyenginemodel.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSettings>
+
+namespace Family {
+
+namespace {
+
+class SilentProgress final : public Zorv::ProgressReporter
+{
+public:
+    void update(int, int) override {}
+    void finish() override { delete this; }
+};
+
+// The settings of the library, as they are at first.
+const QHash<QString, QVariant>& defaults()
+{
+    static const QHash<QString, QVariant> table{
+        {QStringLiteral("parseCode"), true},
+        {QStringLiteral("highlightCode"), true},
+        {QStringLiteral("enable_file_watcher"), true},
+        {QStringLiteral("sort_file_names"), true},
+        {QStringLiteral("backup_onload"), false},
+        {QStringLiteral("confirm_delete"), true},
+        {QStringLiteral("back_start"), QColor(0x60, 0x68, 0x74)},
+        {QStringLiteral("back_end"), QColor(0x30, 0x34, 0x3c)},
+    };
+    return table;
+}
+
+const double ReferenceResolution = 96;
+
+}  // namespace
+
+HostInterface::HostInterface(QSettings* settings) : m_settings(settings) {}
+
+HostInterface::~HostInterface()
+{
+    if (instance() == this) {
+        setGlobalInterface(nullptr);
+    }
+}
+
+QVariant HostInterface::defaultOption(const QString& key)
+{
+    return defaults().value(key);
+}
+
+QVariant HostInterface::option(const QString& key) const
+{
+    QVariant value = m_settings ? m_settings->value(key) : m_options.value(key);
+    const QVariant fallback = defaultOption(key);
+    // A settings file gives texts for truth values and numbers.
+    if (value.isValid() && fallback.isValid() && !value.convert(int(fallback.type()))) {
+        value = QVariant();
+    }
+    return value.isValid() ? value : fallback;
+}
+
+void HostInterface::setOption(const QString& key, const QVariant& value)
+{
+    if (m_settings && value.isNull()) {
+        m_settings->remove(key);
+    } else if (m_settings) {
+        m_settings->setValue(key, value);
+    } else if (value.isNull()) {
+        m_options.remove(key);
+    } else {
+        m_options.insert(key, value);
+    }
+}
+
+QColor HostInterface::colorOption(const QString& key) const
+{
+    return option(key).value<QColor>();
+}
+
+QString HostInterface::text(unsigned id) const
+{
+    switch (id) {
+    case 7:
+        return QCoreApplication::translate("Family::HostInterface", "All known files");
+    case 8:
+        return QCoreApplication::translate("Family::HostInterface", "Find");
+    default:
+        return {};
+    }
+}
+
+Zorv::EngineModel* HostInterface::engineModel() const
+{
+    return FamilyEngineModel::instance();
+}
+
+int HostInterface::pixels(int size) const
+{
+    const auto* screen = qobject_cast<QGuiApplication*>(QCoreApplication::instance())
+                             ? QGuiApplication::primaryScreen()
+                             : nullptr;
+    return screen ? qRound(size * screen->logicalDotsPerInch() / ReferenceResolution) : size;
+}
+
+QWidget* HostInterface::mainWindow() const
+{
+    return nullptr;
+}
+
+Zorv::ProgressReporter* HostInterface::progress(const QString&, int)
+{
+    return new SilentProgress;
+}
+
+Zorv::Editor* HostInterface::currentEditor() const
+{
+    return nullptr;
+}
+
+Zorv::Editor* HostInterface::editorByName(const char*) const
+{
+    return nullptr;
+}
+
+Zorv::Editor* HostInterface::fileEditor(Zorv::ProjectFile*, Zorv::FileID) const
+{
+    return nullptr;
+}
+
+unsigned HostInterface::projectCount() const
+{
+    return 0;
+}
+
+Zorv::Project* HostInterface::projectAt(unsigned) const
+{
+    return nullptr;
+}
+
+Zorv::Project* HostInterface::currentProject() const
+{
+    return nullptr;
+}
+
+void HostInterface::selectPaletteFiles(QStringList&, QStringList&, bool*) {}
+
+void HostInterface::showStatus(int, const QString&) {}
+
+QObject* HostInterface::addControl(const QString&, const Zorv::Control&)
+{
+    return nullptr;
+}
+
+QMenu* HostInterface::menu(const char*) const
+{
+    return nullptr;
+}
+
+QAction* HostInterface::createAction(const char* const*, const QString&, Zorv::Translator*,
+                                     unsigned, const char*, QObject*, const char*, const char*,
+                                     const char*)
+{
+    return nullptr;
+}
+
+QAction* HostInterface::createEditorAction(const QString&, Zorv::Translator*, unsigned)
+{
+    return nullptr;
+}
+
+void HostInterface::setMenuEnabled(const char*, const char*, bool) {}
+
+Zorv::ExtraEditor* HostInterface::extraEditor(unsigned) const
+{
+    return nullptr;
+}
+
+void HostInterface::refreshProjects() {}
+
+void HostInterface::activateEditor(Zorv::Editor*) {}
+
+void startHost(HostInterface* host)
+{
+    setGlobalInterface(host);
+    Zorv::TextCodecs::setDefaultCodec(Zorv::TextCodecs::index("UTF-8"));
+}
+
+}  // namespace Family

@@ -1,0 +1,216 @@
+#include "operations/linediff.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace Family {
+
+namespace {
+
+// Beyond it the search for the smallest difference of a stretch is given up.
+const int MaxDistance = 400;
+
+// Lines that are alone only in a part of a part, and so on.
+const int MaxDepth = 32;
+
+struct Range
+{
+    int begin;
+    int end;
+    int size() const { return end - begin; }
+};
+
+/// Marks the lines that differ. First lines that are alone of their kind on both
+/// sides are matched, in the longest order that they have in common; then what
+/// lies between is searched for the smallest difference.
+class LineMatcher
+{
+public:
+    LineMatcher(const QVector<QStringRef>& oldLines, const QVector<QStringRef>& newLines);
+
+    QVector<DiffRun> runs() const;
+
+private:
+    void match(Range a, Range b, int depth);
+    void trim(Range* a, Range* b);
+    QVector<QPair<int, int>> anchors(Range a, Range b) const;
+    void matchSmallest(Range a, Range b);
+    void pair(int oldLine, int newLine) { m_partner[oldLine] = newLine; }
+
+    QVector<int> m_old;  ///< a number for each line, equal for equal texts
+    QVector<int> m_new;
+    QVector<int> m_partner;  ///< of each old line: the new line, -1 for none
+};
+
+LineMatcher::LineMatcher(const QVector<QStringRef>& oldLines, const QVector<QStringRef>& newLines)
+    : m_partner(oldLines.size(), -1)
+{
+    QHash<QStringRef, int> numbers;
+    const auto number = [&numbers](const QStringRef& line) {
+        const auto known = numbers.constFind(line);
+        return known != numbers.constEnd() ? *known : *numbers.insert(line, numbers.size());
+    };
+    std::transform(oldLines.begin(), oldLines.end(), std::back_inserter(m_old), number);
+    std::transform(newLines.begin(), newLines.end(), std::back_inserter(m_new), number);
+    match({0, m_old.size()}, {0, m_new.size()}, 0);
+}
+
+void LineMatcher::match(Range a, Range b, int depth)
+{
+    trim(&a, &b);
+    if (a.size() == 0 || b.size() == 0) {
+        return;
+    }
+    QVector<QPair<int, int>> fixed;
+    if (depth < MaxDepth) {
+        fixed = anchors(a, b);
+    }
+    if (fixed.isEmpty()) {
+        matchSmallest(a, b);
+        return;
+    }
+    fixed.append({a.end, b.end});
+    Range oldPart{a.begin, a.begin};
+    Range newPart{b.begin, b.begin};
+    for (const auto& anchor : qAsConst(fixed)) {
+        oldPart.end = anchor.first;
+        newPart.end = anchor.second;
+        match(oldPart, newPart, depth + 1);
+        if (anchor.first < a.end) {
+            pair(anchor.first, anchor.second);
+        }
+        oldPart.begin = anchor.first + 1;
+        newPart.begin = anchor.second + 1;
+    }
+}
+
+void LineMatcher::trim(Range* a, Range* b)
+{
+    while (a->size() > 0 && b->size() > 0 && m_old[a->begin] == m_new[b->begin]) {
+        pair(a->begin++, b->begin++);
+    }
+    while (a->size() > 0 && b->size() > 0 && m_old[a->end - 1] == m_new[b->end - 1]) {
+        pair(--a->end, --b->end);
+    }
+}
+
+QVector<QPair<int, int>> LineMatcher::anchors(Range a, Range b) const
+{
+    struct Place
+    {
+        int count = 0;
+        int line = -1;
+    };
+    QHash<int, Place> inNew;
+    QHash<int, int> inOld;
+    for (int i = b.begin; i < b.end; ++i) {
+        Place& place = inNew[m_new[i]];
+        ++place.count;
+        place.line = i;
+    }
+    for (int i = a.begin; i < a.end; ++i) {
+        ++inOld[m_old[i]];
+    }
+    // The longest ascending row of new lines, by patience sorting.
+    QVector<QPair<int, int>> pairs;
+    QVector<int> previous;
+    QVector<int> tops;
+    for (int i = a.begin; i < a.end; ++i) {
+        const Place place = inNew.value(m_old[i]);
+        if (place.count != 1 || inOld.value(m_old[i]) != 1) {
+            continue;
+        }
+        const auto top =
+            std::lower_bound(tops.begin(), tops.end(), place.line,
+                             [&pairs](int at, int line) { return pairs[at].second < line; });
+        previous.append(top == tops.begin() ? -1 : *(top - 1));
+        if (top == tops.end()) {
+            tops.append(pairs.size());
+        } else {
+            *top = pairs.size();
+        }
+        pairs.append({i, place.line});
+    }
+    QVector<QPair<int, int>> result;
+    for (int at = tops.isEmpty() ? -1 : tops.last(); at >= 0; at = previous[at]) {
+        result.append(pairs[at]);
+    }
+    std::reverse(result.begin(), result.end());
+    return result;
+}
+
+// Myers' greedy search: `reach[k]` is the furthest old line on diagonal k that
+// `distance` changes lead to. The rows are kept to walk the way back.
+void LineMatcher::matchSmallest(Range a, Range b)
+{
+    const int limit = std::min(MaxDistance, a.size() + b.size());
+    QVector<QVector<int>> rows;
+    QVector<int> reach(2 * limit + 3, 0);
+    const int middle = limit + 1;
+    int found = -1;
+    for (int distance = 0; distance <= limit && found < 0; ++distance) {
+        rows.append(reach);
+        for (int k = -distance; k <= distance && found < 0; k += 2) {
+            const bool down =
+                k == -distance || (k != distance && reach[middle + k - 1] < reach[middle + k + 1]);
+            int x = down ? reach[middle + k + 1] : reach[middle + k - 1] + 1;
+            while (x < a.size() && x - k < b.size() && x - k >= 0 &&
+                   m_old[a.begin + x] == m_new[b.begin + x - k]) {
+                ++x;
+            }
+            reach[middle + k] = x;
+            if (k == a.size() - b.size() && x == a.size()) {
+                found = distance;
+            }
+        }
+    }
+    int x = a.size();
+    int y = b.size();
+    for (int distance = found; distance >= 0; --distance) {
+        const QVector<int>& row = rows[distance];
+        const int k = x - y;
+        const bool down =
+            k == -distance || (k != distance && row[middle + k - 1] < row[middle + k + 1]);
+        const int fromX = distance == 0 ? 0 : (down ? row[middle + k + 1] : row[middle + k - 1]);
+        const int fromY = distance == 0 ? 0 : fromX - (down ? k + 1 : k - 1);
+        const int startX = distance == 0 ? 0 : fromX + (down ? 0 : 1);
+        while (x > startX) {
+            pair(a.begin + --x, b.begin + --y);
+        }
+        x = fromX;
+        y = fromY;
+    }
+}
+
+QVector<DiffRun> LineMatcher::runs() const
+{
+    QVector<DiffRun> result;
+    int oldLine = 0;
+    int newLine = 0;
+    while (oldLine < m_old.size() || newLine < m_new.size()) {
+        if (oldLine < m_old.size() && m_partner[oldLine] == newLine) {
+            ++oldLine;
+            ++newLine;
+            continue;
+        }
+        DiffRun run{oldLine, 0, newLine, 0};
+        while (oldLine < m_old.size() && m_partner[oldLine] < 0) {
+            ++oldLine;
+        }
+        newLine = oldLine < m_old.size() ? m_partner[oldLine] : m_new.size();
+        run.oldCount = oldLine - run.oldStart;
+        run.newCount = newLine - run.newStart;
+        result.append(run);
+    }
+    return result;
+}
+
+}  // namespace
+
+QVector<DiffRun> diffLines(const QVector<QStringRef>& oldLines, const QVector<QStringRef>& newLines)
+{
+    return LineMatcher(oldLines, newLines).runs();
+}
+
+}  // namespace Family
