@@ -237,10 +237,9 @@ QStringList GrammarDocument::dump() const
     }
     for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
         const CodeBlockData* data = CodeBlockData::testBlockData(block);
-        lines.append(QStringLiteral("line %1 folding %2 state %3")
+        lines.append(QStringLiteral("line %1 folding %2")
                          .arg(block.blockNumber())
-                         .arg(data ? data->foldingIndent() : -9)
-                         .arg(block.userState()));
+                         .arg(data ? data->foldingIndent() : -9));
     }
     return lines;
 }

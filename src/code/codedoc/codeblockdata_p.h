@@ -44,7 +44,8 @@ public:
     CodeBlockData* right = nullptr;
     std::unique_ptr<CodeBlockDetails> details;
     int fragment = 0;       ///< Qt's number of the block
-    int stateAbove = -1;    ///< the block state under which the line was parsed
+    int contextAbove = 0;   ///< the head under which the line was parsed, as a number
+    int context = 0;        ///< the same for the line below
     int foldingIndent = 0;  ///< of a line with a class
     quint16 traits = 0;
     quint16 traitsBelow = 0;  ///< of the whole subtree

@@ -87,7 +87,7 @@ void CodeDocument::reparse()
     for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
         if (CodeNode* node = nodeInBlock(block)) {
             CodeBlockDataPrivate::forgetNode(CodeBlockData::testBlockData(block), node);
-            node->release();
+            CodeDocumentPrivate::retire(node);
         }
     }
     d->rehighlightAll();
@@ -212,17 +212,12 @@ CodeDocument* CodeDocument::document() const
 void CodeDocument::insertChild(CodeNode* child, unsigned index)
 {
     RootCode::insertChild(child, index);
-    if (CodeDocumentEditor* editor = d->editors.value(CodeDocumentPrivate::editorKey(child))) {
-        editor->insertChild(child, d->placeAmongKind(child));
-    }
+    d->announce(child);
 }
 
 void CodeDocument::removeChild(CodeNode* child)
 {
-    d->forgetPlaces();
-    if (CodeDocumentEditor* editor = d->editors.value(CodeDocumentPrivate::editorKey(child))) {
-        editor->removeChild(child);
-    }
+    d->forget(child);
     RootCode::removeChild(child);
 }
 

@@ -8,6 +8,7 @@
 #include "core/messages.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Zorv {
 
@@ -101,15 +102,15 @@ void CodeDocumentPrivate::parsed()
     }
 }
 
-/// Qt compares a line's new state with its old one, and a new line has the
-/// state -1: where that is the right one, the line below may still have been
-/// parsed under another.
+/// Goes on to the lines that were parsed under a head which is no longer theirs,
+/// though Qt saw no reason to.
 void CodeDocumentPrivate::parseDependents()
 {
     while (parser && lastParsed.isValid()) {
         const QTextBlock below = lastParsed.next();
         const CodeBlockData* data = CodeBlockData::testBlockData(below);
-        if (!data || data->d->stateAbove == lastParsed.userState()) {
+        const int context = CodeBlockData::testBlockData(lastParsed)->d->context;
+        if (!data || data->d->contextAbove == context) {
             return;
         }
         rehighlightBlock(below);
@@ -161,10 +162,43 @@ CodeNode* CodeDocumentPrivate::parseLine(const QTextBlock& block, CodeBlockData*
     }
     previous->m_endBlock = block;
     ++parsedLines;
-    return parser->parse(text, data->d->node, previous, q, syntax);
+    isParsing = true;
+    CodeNode* node = parser->parse(text, data->d->node, previous, q, syntax);
+    isParsing = false;
+    if (!newcomers.isEmpty()) {
+        const QVector<CodeNode*> children = std::exchange(newcomers, {});
+        std::for_each(children.begin(), children.end(), [this](CodeNode* n) { announce(n); });
+    }
+    return node;
 }
 
-int CodeDocumentPrivate::stateOf(const CodeNode* node) const
+void CodeDocumentPrivate::announce(CodeNode* child)
+{
+    CodeDocumentEditor* editor = editors.value(editorKey(child));
+    if (editor && isParsing) {
+        newcomers.append(child);
+    } else if (editor) {
+        editor->insertChild(child, placeAmongKind(child));
+    }
+}
+
+void CodeDocumentPrivate::forget(CodeNode* child)
+{
+    counted = nullptr;
+    newcomers.removeAll(child);
+    if (CodeDocumentEditor* editor = editors.value(editorKey(child))) {
+        editor->removeChild(child);
+    }
+}
+
+void CodeDocumentPrivate::retire(CodeNode* node)
+{
+    node->handOver();
+    node->unlink();
+    node->release();
+}
+
+int CodeDocumentPrivate::stateOf(const CodeNode* node)
 {
     if (!node) {
         return 0;
@@ -179,6 +213,24 @@ int CodeDocumentPrivate::stateOf(const CodeNode* node) const
         return int(static_cast<const GroupCode*>(group)->group());
     }
     return node->previous(CodeNode::Animation, CodeNode::StopAtCode) ? AnimationState : 0;
+}
+
+/// What the lines below a node depend on: the kind of their head, and for a
+/// sub-group that of its parent.
+int CodeDocumentPrivate::contextOf(const CodeNode* node, int contextAbove)
+{
+    if (!node || !(node->type() & (CodeNode::Group | CodeNode::Animation))) {
+        return contextAbove;
+    }
+    if (node->type() == CodeNode::Animation) {
+        return AnimationState;
+    }
+    const auto* group = static_cast<const GroupCode*>(node);
+    unsigned context = group->group();
+    if (isSubGroup(group)) {
+        context |= (static_cast<const GroupCode*>(group->m_parent)->group() + 1) << 16;
+    }
+    return int(context);
 }
 
 void CodeDocumentPrivate::highlightBlock(const QString& text)
@@ -199,11 +251,13 @@ void CodeDocumentPrivate::highlightBlock(const QString& text)
     CodeNode* node = parseLine(block, data, text, reports ? this : nullptr);
     data->d->node = node;
     const int state = stateOf(node);
-    data->d->stateAbove = previousBlockState();
-    setCurrentBlockState(state ? state : data->d->stateAbove);
+    setCurrentBlockState(state ? state : previousBlockState());
+    const CodeBlockData* above = LineIndex::above(data);
+    data->d->contextAbove = above ? above->d->context : 0;
+    data->d->context = contextOf(node, data->d->contextAbove);
     storeMessages(data, hadMessages);
     if (old && old != node) {
-        old->release();
+        retire(old);
     }
     updateTraits(data, text);
     if (!firstParsed.isValid()) {
@@ -262,7 +316,7 @@ void CodeDocumentPrivate::parseNow(QTextBlock block, const QTextBlock& behind)
         traits |= node ? CodeBlockDataPrivate::HasNode : 0;
         LineIndex::setTraits(data, traits);
         if (old && old != node) {
-            old->release();
+            retire(old);
         }
     }
     releaseUnlinked();
@@ -371,7 +425,7 @@ unsigned CodeDocumentPrivate::editorKey(const CodeNode* node)
 unsigned CodeDocumentPrivate::placeAmongKind(const CodeNode* child)
 {
     if (child->type() == CodeNode::Animation) {
-        return NodeChain::animationsBefore(child);
+        return NodeChain::before(child).animations;
     }
     // A file that is loaded asks for one node after the other: the place of
     // the last one asked for is remembered.

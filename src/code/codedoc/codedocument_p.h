@@ -17,11 +17,12 @@ class CodeDocumentEditor;
 /// Parses the lines of a document as Qt's highlighter asks for them, and keeps
 /// what it finds true.
 ///
-/// Qt highlights the edited lines and goes on as long as a line's state (the
-/// head that it stands under) comes out otherwise than before. Around that a
-/// pass takes care of what Qt cannot know: nodes of lines that are gone, line
-/// numbers of messages, folding levels, and lines whose state above changed
-/// though Qt saw no difference.
+/// Qt highlights the edited lines and goes on as long as a line's state comes
+/// out otherwise than before. That state follows the head above a line only
+/// roughly, so each line also keeps the head that it was parsed under, and a
+/// pass goes on until that is true of the next line. Around it, the pass takes
+/// care of what Qt cannot know: nodes of lines that are gone, line numbers of
+/// messages, and folding levels.
 class CodeDocumentPrivate : public QSyntaxHighlighter, public CodeParserSyntax
 {
 public:
@@ -43,11 +44,19 @@ public:
     /// Takes nodes of deleted lines out of chain and tree and releases them.
     void dropDeadNodes();
 
+    /// Takes a node out of tree and chain while it is whole, then releases it:
+    /// lists that hear of it may still ask for its name.
+    static void retire(CodeNode* node);
+
+    /// Tells the editor of a new child of the root: at once, or behind the call
+    /// of the grammar in which the node is still being made.
+    void announce(CodeNode* child);
+
     /// Called by the data of a line that dies, inside of Qt's edit.
     void lineGone(CodeBlockData* line);
 
-    /// Drops what is remembered of places: a node has gone.
-    void forgetPlaces() { counted = nullptr; }
+    /// Forgets a child of the root that goes.
+    void forget(CodeNode* child);
 
     /// How many nodes of the kind of a child of the root stand in front of it.
     unsigned placeAmongKind(const CodeNode* child);
@@ -91,7 +100,8 @@ private:
     CodeNode* parseLine(const QTextBlock& block, CodeBlockData* data, const QString& text,
                         CodeParserSyntax* syntax);
     CodeNode* nodeAbove(const CodeBlockData* data) const;
-    int stateOf(const CodeNode* node) const;
+    static int stateOf(const CodeNode* node);
+    static int contextOf(const CodeNode* node, int contextAbove);
     void storeMessages(CodeBlockData* data, bool hadMessages);
     void updateTraits(CodeBlockData* data, const QString& text);
     void unlinkDeadNodes();
@@ -101,6 +111,8 @@ private:
 
     CodeBlockData* currentData = nullptr;
     QVector<Message> lineMessages;
+    QVector<CodeNode*> newcomers;
+    bool isParsing = false;
     QVector<CodeNode*> dead;
     QVector<CodeNode*> unlinked;
     QTextBlock firstParsed;

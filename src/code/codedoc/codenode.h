@@ -23,6 +23,15 @@ struct NodeLink
     CodeNode* right = nullptr;
 };
 
+/// How many nodes of a kind a part of the chain holds; likewise.
+struct NodeCounts
+{
+    unsigned values = 0;
+    unsigned frames = 0;
+    unsigned animations = 0;
+    unsigned rootChildren = 0;
+};
+
 /// One node of the parsed view of a code document.
 ///
 /// A node holds no text: it stands on a line of the document, and a change to
@@ -138,8 +147,7 @@ private:
     unsigned m_siblings = 1;
     Type m_type;
     unsigned short m_chainMask = 0;
-    unsigned m_animations = 0;
-    unsigned m_rootChildren = 0;
+    NodeCounts m_counts;
 };
 
 }  // namespace Zorv

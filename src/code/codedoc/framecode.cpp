@@ -6,35 +6,13 @@
 
 namespace Zorv {
 
-namespace {
-
-/// The frames of the chain between `node` and the animation in front of it.
-unsigned framesBefore(const CodeNode* node)
-{
-    unsigned count = 0;
-    for (CodeNode* n = node->previous(); n && n->type() != CodeNode::Animation; n = n->previous()) {
-        count += n->type() == CodeNode::Frame ? 1 : 0;
-    }
-    return count;
-}
-
-}  // namespace
-
 FrameCode::FrameCode(CodeNode* previous, ContactBoxesCode* first, ContactBoxesCode* second)
     : ParentCode(CodeNode::Frame, previous), m_first(first), m_second(second)
 {
     CodeNode* head = NodeChain::backward(this, CodeNode::Group | CodeNode::Animation);
-    if (!head || head->type() != CodeNode::Animation) {
-        return;
-    }
-    auto* animation = static_cast<AnimationCode*>(head);
-    CodeNode* before = NodeChain::backward(this, CodeNode::Frame | CodeNode::Animation);
-    if (before == head) {
-        animation->insertChild(this, 0);
-    } else if (before->parentCode() == animation) {
-        animation->insertChild(this, unsigned(animation->childIndex(before)) + 1);
-    } else {
-        animation->insertChild(this, framesBefore(this));
+    if (head && head->type() == CodeNode::Animation) {
+        const unsigned place = NodeChain::before(this).frames - NodeChain::before(head).frames;
+        static_cast<AnimationCode*>(head)->insertChild(this, place);
     }
 }
 

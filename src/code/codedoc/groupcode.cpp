@@ -40,7 +40,6 @@ void GroupCode::handOver()
         return;
     }
     auto* group = static_cast<GroupCode*>(above);
-    group->m_inTextOrder = group->m_inTextOrder && m_inTextOrder && m_values.size() == 1;
     while (CodeNode* value = m_values.at(m_values.size() - 1)) {
         group->insertChild(value, unsigned(-1));
     }
@@ -118,7 +117,6 @@ void GroupCode::removeChild(CodeNode* child)
 {
     ParentCode::removeChild(child);
     m_values.remove(child);
-    m_inTextOrder = m_inTextOrder || m_values.isEmpty();
 }
 
 bool isSubGroup(const GroupCode* group)

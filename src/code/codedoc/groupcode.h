@@ -55,11 +55,8 @@ protected:
     void handOver() override;
 
 private:
-    friend class ValueCode;
-
     CodeNodeList m_values;
     unsigned m_group;
-    bool m_inTextOrder = true;
 };
 
 /// True if the parent of the group is a group.

@@ -6,24 +6,48 @@ namespace Zorv {
 
 using ChainTree = OrderTree<CodeNode, ChainTraits>;
 
+namespace {
+
+void add(NodeCounts& sum, const NodeCounts& part)
+{
+    sum.values += part.values;
+    sum.frames += part.frames;
+    sum.animations += part.animations;
+    sum.rootChildren += part.rootChildren;
+}
+
+bool isSame(const NodeCounts& a, const NodeCounts& b)
+{
+    return a.values == b.values && a.frames == b.frames && a.animations == b.animations
+           && a.rootChildren == b.rootChildren;
+}
+
+NodeCounts ownCounts(const CodeNode* node)
+{
+    const CodeNode* parent = node->parentCode();
+    NodeCounts counts;
+    counts.values = node->type() == CodeNode::Value ? 1 : 0;
+    counts.frames = node->type() == CodeNode::Frame ? 1 : 0;
+    counts.animations = node->type() == CodeNode::Animation ? 1 : 0;
+    counts.rootChildren = parent && parent->type() == CodeNode::Root ? 1 : 0;
+    return counts;
+}
+
+}  // namespace
+
 bool ChainTraits::pull(CodeNode* node)
 {
     unsigned short mask = node->m_type;
-    unsigned animations = node->m_type == CodeNode::Animation ? 1 : 0;
-    const auto* parent = static_cast<const CodeNode*>(node->m_parent);
-    unsigned rootChildren = parent && parent->m_type == CodeNode::Root ? 1 : 0;
+    NodeCounts counts = ownCounts(node);
     for (const CodeNode* side : {node->m_chain.left, node->m_chain.right}) {
         if (side) {
             mask |= side->m_chainMask;
-            animations += side->m_animations;
-            rootChildren += side->m_rootChildren;
+            add(counts, side->m_counts);
         }
     }
-    const bool changed = mask != node->m_chainMask || animations != node->m_animations
-                         || rootChildren != node->m_rootChildren;
+    const bool changed = mask != node->m_chainMask || !isSame(counts, node->m_counts);
     node->m_chainMask = mask;
-    node->m_animations = animations;
-    node->m_rootChildren = rootChildren;
+    node->m_counts = counts;
     return changed;
 }
 
@@ -78,26 +102,18 @@ CodeNode* NodeChain::tail(const CodeNode* node)
     return ChainTree::last(ChainTree::rootOf(const_cast<CodeNode*>(node)));
 }
 
-unsigned NodeChain::animationsBefore(const CodeNode* node)
+NodeCounts NodeChain::before(const CodeNode* node)
 {
-    unsigned count = node->m_chain.left ? node->m_chain.left->m_animations : 0;
+    NodeCounts counts = node->m_chain.left ? node->m_chain.left->m_counts : NodeCounts();
     for (const CodeNode* up = node->m_chain.up; up; node = up, up = up->m_chain.up) {
         if (up->m_chain.right == node) {
-            count += up->m_animations - node->m_animations;
+            add(counts, ownCounts(up));
+            if (up->m_chain.left) {
+                add(counts, up->m_chain.left->m_counts);
+            }
         }
     }
-    return count;
-}
-
-unsigned NodeChain::rootChildrenBefore(const CodeNode* node)
-{
-    unsigned count = node->m_chain.left ? node->m_chain.left->m_rootChildren : 0;
-    for (const CodeNode* up = node->m_chain.up; up; node = up, up = up->m_chain.up) {
-        if (up->m_chain.right == node) {
-            count += up->m_rootChildren - node->m_rootChildren;
-        }
-    }
-    return count;
+    return counts;
 }
 
 bool NodeChain::precedes(const CodeNode* a, const CodeNode* b)

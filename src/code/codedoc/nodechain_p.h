@@ -32,9 +32,8 @@ public:
     static CodeNode* head(const CodeNode* node);
     static CodeNode* tail(const CodeNode* node);
 
-    /// How many animations, or children of a root, stand in front of `node`.
-    static unsigned animationsBefore(const CodeNode* node);
-    static unsigned rootChildrenBefore(const CodeNode* node);
+    /// What stands in front of `node`, from the head of the chain on.
+    static NodeCounts before(const CodeNode* node);
 
     static bool precedes(const CodeNode* a, const CodeNode* b);
 

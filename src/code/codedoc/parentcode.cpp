@@ -32,7 +32,8 @@ void ParentCode::insertRootChild(CodeNode* child)
 {
     CodeNode* head = NodeChain::head(child);
     if (head != child && head->type() == CodeNode::Root) {
-        static_cast<ParentCode*>(head)->insertChild(child, NodeChain::rootChildrenBefore(child));
+        static_cast<ParentCode*>(head)->insertChild(child,
+                                                    NodeChain::before(child).rootChildren);
     }
 }
 

@@ -53,7 +53,7 @@ void RootCode::destroy()
     while (node != this) {
         // Releasing a head moves nodes in the tree, never in the chain.
         CodeNode* before = node->previous();
-        node->release();
+        CodeDocumentPrivate::retire(node);
         node = before;
     }
     release();

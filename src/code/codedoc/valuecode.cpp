@@ -30,16 +30,6 @@ QString join(const QStringList& parts, const QChar& separator)
     return parts.join(separator.isNull() ? QStringLiteral(" ") : separator + QLatin1Char(' '));
 }
 
-/// The values of the chain between `node` and the head in front of it.
-unsigned valuesBefore(const CodeNode* node)
-{
-    unsigned count = 0;
-    for (CodeNode* n = node->previous(); n && n->type() != CodeNode::Group; n = n->previous()) {
-        count += n->type() == CodeNode::Value ? 1 : 0;
-    }
-    return count;
-}
-
 }  // namespace
 
 ValueCode::ValueCode(CodeNode* previous, Type type, const QVariant& value)
@@ -47,17 +37,9 @@ ValueCode::ValueCode(CodeNode* previous, Type type, const QVariant& value)
       m_value(ValueCode::convertFrom(type, value))
 {
     CodeNode* head = NodeChain::backward(this, CodeNode::Group | CodeNode::Animation);
-    if (!head || head->type() != CodeNode::Group) {
-        return;
-    }
-    auto* group = static_cast<GroupCode*>(head);
-    CodeNode* before = NodeChain::backward(this, CodeNode::Value | CodeNode::Group);
-    if (before == head) {
-        group->insertChild(this, 0);
-    } else if (group->m_inTextOrder && before->parentCode() == group) {
-        group->insertChild(this, unsigned(group->childIndex(before)) + 1);
-    } else {
-        group->insertChild(this, valuesBefore(this));
+    if (head && head->type() == CodeNode::Group) {
+        const unsigned place = NodeChain::before(this).values - NodeChain::before(head).values;
+        static_cast<GroupCode*>(head)->insertChild(this, place);
     }
 }
 
