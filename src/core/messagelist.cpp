@@ -99,7 +99,8 @@ Message MessageList::messageAt(int row, FileID& id) const
     const Messages* messages = messagesAt(row, &index);
     if (!messages)
         return {};
-    id = m_project->fileID(messages->file());
+    if (m_project)
+        id = m_project->fileID(messages->file());
     return messages->at(index);
 }
 
