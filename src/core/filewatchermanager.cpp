@@ -55,13 +55,15 @@ void FileWatcherManager::rename(const QString& from, const QString& to)
 
 void FileWatcherManager::renew(const QString& path)
 {
-    if (!watcher() || m_watcher->files().contains(path))
-        return;
-    // The write came before the watch, so no signal will tell of it.
     watch(path);
+    if (!isEnabled())
+        return;
+    // A write that came before its watch gives no signal that would end the
+    // pause. One that gives a signal has given it when the first moment is over,
+    // however long the program was busy.
     for (FileWatchObject* object : objectsOf(path)) {
         if (object->m_paused)
-            resumeLater(object);
+            later(object, [this, object] { resumeLater(object); });
     }
 }
 
@@ -147,9 +149,14 @@ QList<FileWatchObject*> FileWatcherManager::objectsOf(const QString& path) const
 
 void FileWatcherManager::resumeLater(FileWatchObject* object)
 {
-    QTimer::singleShot(BurstMilliseconds, this, [this, object] {
+    later(object, [object] { object->m_paused = false; });
+}
+
+void FileWatcherManager::later(FileWatchObject* object, const std::function<void()>& action)
+{
+    QTimer::singleShot(BurstMilliseconds, this, [this, object, action] {
         if (m_objects.contains(object))
-            object->m_paused = false;
+            action();
     });
 }
 

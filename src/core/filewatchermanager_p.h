@@ -6,6 +6,7 @@
 #include <QSet>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace Zorv {
@@ -27,7 +28,8 @@ public:
     /// Moves the watch of one object from one name to another.
     void rename(const QString& from, const QString& to);
 
-    /// Makes sure that a file that was just written is watched.
+    /// Makes sure that a file that was just written is watched, and that the
+    /// pause of its objects ends.
     void renew(const QString& path);
 
 private:
@@ -38,6 +40,7 @@ private:
     void watchFolders();
     QList<FileWatchObject*> objectsOf(const QString& path) const;
     void resumeLater(FileWatchObject* object);
+    void later(FileWatchObject* object, const std::function<void()>& action);
     void askToReload(const QString& path, const QList<FileWatchObject*>& changed);
     QFileSystemWatcher* watcher();
 

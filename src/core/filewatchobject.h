@@ -45,8 +45,9 @@ public:
 
 protected:
     /// For a derived class whose file has just been written: a new file is
-    /// watched from now on, and the pause of `toFile()` ends a moment later if no
-    /// signal can come for this write. Call it after the device went back.
+    /// watched from now on, and the pause of `toFile()` ends a moment later, also
+    /// if no signal comes for this write. Call it after the device went back and
+    /// after `toFile()`, with `fileName()` giving the new name.
     void renewWatch(const QString& fileName);
 
 private:

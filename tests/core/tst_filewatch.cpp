@@ -1,0 +1,347 @@
+#include "core/filesystemarchive.h"
+#include "core/filewatchobject.h"
+#include "support/planneddialogs.h"
+#include "support/testinterface.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Zorv;
+
+namespace {
+
+/// A document of plain bytes.
+class Watched : public FileWatchObject
+{
+public:
+    explicit Watched(const QString& path) { load(path); }
+
+    QString fileName() const override { return name; }
+
+    bool reload() override
+    {
+        ++reloads;
+        delete other;
+        other = nullptr;
+        return true;
+    }
+
+    void load(const QString& path, bool asCopy = false)
+    {
+        QVERIFY(fromFile(*FileSystemArchive::instance(), path, asCopy));
+        if (!asCopy)
+            name = path;
+    }
+
+    // The archive puts a new file in the old one's place.
+    void save(const QString& path, bool asCopy = false, bool isWatchMovedFirst = true)
+    {
+        FileSystemArchive& archive = *FileSystemArchive::instance();
+        if (isWatchMovedFirst)
+            QVERIFY(toFile(archive, path, asCopy));
+        QIODevice* device = archive.openFile(path, QIODevice::WriteOnly);
+        QVERIFY(device);
+        device->write("saved");
+        QVERIFY(archive.closeFile(device));
+        if (!isWatchMovedFirst)
+            QVERIFY(toFile(archive, path, asCopy));
+        if (!asCopy) {
+            name = path;
+            renewWatch(path);
+        }
+    }
+
+    QString name;
+    int reloads = 0;
+    const Watched* other = nullptr;
+};
+
+// A change from outside, in place.
+void change(const QString& path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Append));
+    file.write("more");
+}
+
+// As many programs save: a new file is renamed over the old one.
+void replace(const QString& path)
+{
+    const QString fresh = path + QStringLiteral("~");
+    change(fresh);
+    QCOMPARE(::rename(QFile::encodeName(fresh).constData(), QFile::encodeName(path).constData()),
+             0);
+}
+
+// Long enough for signals that come to have come, and for pauses to have ended.
+void settle()
+{
+    QTest::qWait(400);
+}
+
+}  // namespace
+
+class TestFileWatch : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        folder = std::make_unique<QTemporaryDir>();
+        host = std::make_unique<TestInterface>();
+        dialogs = std::make_unique<PlannedDialogs>();
+        path = folder->filePath(QStringLiteral("watched.def"));
+        change(path);
+    }
+
+    void cleanup()
+    {
+        dialogs.reset();
+        host.reset();
+    }
+
+    void changeFromOutside_data()
+    {
+        QTest::addColumn<QVariant>("option");
+        QTest::addColumn<bool>("asks");
+        QTest::newRow("host without an opinion") << QVariant() << true;
+        QTest::newRow("on") << QVariant(true) << true;
+        QTest::newRow("off") << QVariant(false) << false;
+    }
+
+    void changeFromOutside()
+    {
+        QFETCH(QVariant, option);
+        QFETCH(bool, asks);
+        host->options[QStringLiteral("enable_file_watcher")] = option;
+        Watched document(path);
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        change(path);
+        if (!asks) {
+            settle();
+            QCOMPARE(dialogs->count(), 0);
+            return;
+        }
+        QTRY_COMPARE(document.reloads, 1);
+        const PlannedDialogs::Shown shown = dialogs->shown.value(0);
+        QCOMPARE(shown.title, QStringLiteral("File modified"));
+        QCOMPARE(shown.text,
+                 QStringLiteral("The file '%1' has been modified. Do you want to reload all other "
+                                "instances of this file now?")
+                     .arg(path));
+        QCOMPARE(shown.buttons, Dialogs::Yes | Dialogs::No);
+        QCOMPARE(shown.defaultButton, Dialogs::No);
+    }
+
+    void refusedReload()
+    {
+        Watched document(path);
+        change(path);
+        QTRY_VERIFY(dialogs->count() > 0);
+        QCOMPARE(document.reloads, 0);
+    }
+
+    // However a file is replaced, each further change is noticed as well.
+    void watchOutlivesTheFile_data()
+    {
+        QTest::addColumn<bool>("isRemoved");
+        QTest::newRow("renamed over") << false;
+        QTest::newRow("removed and made anew") << true;
+    }
+
+    void watchOutlivesTheFile()
+    {
+        QFETCH(bool, isRemoved);
+        Watched document(path);
+        for (int round = 0; round < 3; ++round) {
+            const int before = dialogs->count();
+            if (isRemoved) {
+                QVERIFY(QFile::remove(path));
+                settle();
+                QCOMPARE(dialogs->count(), before);
+                change(path);
+            } else {
+                replace(path);
+            }
+            QTRY_VERIFY(dialogs->count() > before);
+            settle();
+        }
+    }
+
+    void folderThatVanishes()
+    {
+        const QString inner = folder->filePath(QStringLiteral("a/b/inner.def"));
+        QVERIFY(QDir().mkpath(QFileInfo(inner).absolutePath()));
+        change(inner);
+        Watched document(inner);
+        QVERIFY(QDir(folder->filePath(QStringLiteral("a"))).removeRecursively());
+        settle();
+        QCOMPARE(dialogs->count(), 0);
+        QVERIFY(QDir().mkpath(QFileInfo(inner).absolutePath()));
+        settle();
+        change(inner);
+        QTRY_VERIFY(dialogs->count() > 0);
+        settle();
+        const int before = dialogs->count();
+        replace(inner);
+        QTRY_VERIFY(dialogs->count() > before);
+    }
+
+    void ownSave_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isWatchMovedFirst");
+        QTest::addColumn<bool>("isBusy");
+        QTest::newRow("in place") << "watched.def" << true << false;
+        QTest::newRow("in place, watch last") << "watched.def" << false << false;
+        QTest::newRow("under a new name") << "new.def" << true << false;
+        QTest::newRow("under a new name, watch last") << "new.def" << false << false;
+        QTest::newRow("with much to do behind it") << "watched.def" << true << true;
+    }
+
+    void ownSave()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, isWatchMovedFirst);
+        QFETCH(bool, isBusy);
+        const QString target = folder->filePath(name);
+        Watched document(path);
+        for (int round = 0; round < 2; ++round) {
+            const int before = dialogs->count();
+            document.save(target, false, isWatchMovedFirst);
+            QVERIFY(document.isWatchPaused());
+            if (isBusy)
+                QTest::qSleep(600);
+            QTRY_VERIFY(!document.isWatchPaused());
+            settle();
+            QCOMPARE(dialogs->count(), before);
+            change(target);
+            QTRY_VERIFY(dialogs->count() > before);
+            settle();
+        }
+    }
+
+    // The other instance of a file that one saves is asked for, the saved one not.
+    void twoDocumentsOnOneFile()
+    {
+        Watched first(path), second(path);
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        first.save(path);
+        QTRY_COMPARE(second.reloads, 1);
+        settle();
+        QCOMPARE(first.reloads, 0);
+
+        const QString other = folder->filePath(QStringLiteral("other.def"));
+        change(other);
+        first.load(other);
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        change(path);
+        QTRY_COMPARE(second.reloads, 2);
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        change(other);
+        QTRY_COMPARE(first.reloads, 1);
+    }
+
+    void oneQuestionForAllInstances()
+    {
+        Watched first(path), second(path);
+        // While the person thinks, the file changes again.
+        dialogs->whileOpen = [this](const PlannedDialogs::Shown&) {
+            change(path);
+            settle();
+        };
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        change(path);
+        QTRY_COMPARE(second.reloads, 1);
+        QCOMPARE(first.reloads, 1);
+        QCOMPARE(dialogs->count(), 1);
+    }
+
+    void renamedDocumentLeavesTheOldFile()
+    {
+        Watched document(path);
+        const QString other = folder->filePath(QStringLiteral("other.def"));
+        change(other);
+        document.load(other);
+        change(path);
+        settle();
+        QCOMPARE(dialogs->count(), 0);
+    }
+
+    void copiesChangeNoWatch()
+    {
+        Watched document(path);
+        const QString other = folder->filePath(QStringLiteral("other.def"));
+        change(other);
+        document.load(other, true);
+        document.save(folder->filePath(QStringLiteral("copy.def")), true);
+        QVERIFY(!document.isWatchPaused());
+        change(other);
+        settle();
+        QCOMPARE(dialogs->count(), 0);
+        change(path);
+        QTRY_VERIFY(dialogs->count() > 0);
+    }
+
+    void pausedByHand()
+    {
+        Watched document(path);
+        document.pauseWatch(true);
+        change(path);
+        settle();
+        QCOMPARE(dialogs->count(), 0);
+        QVERIFY(!document.isWatchPaused());
+
+        host->options[QStringLiteral("enable_file_watcher")] = false;
+        document.pauseWatch(true);
+        change(path);
+        settle();
+        QVERIFY(document.isWatchPaused());
+        document.pauseWatch(false);
+        QVERIFY(!document.isWatchPaused());
+    }
+
+    void documentsThatDieDuringTheQuestion()
+    {
+        auto first = std::make_unique<Watched>(path);
+        Watched second(path);
+        dialogs->whileOpen = [&first](const PlannedDialogs::Shown&) { first.reset(); };
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        change(path);
+        QTRY_COMPARE(second.reloads, 1);
+    }
+
+    void lastDocumentDiesDuringTheQuestion()
+    {
+        auto document = std::make_unique<Watched>(path);
+        dialogs->whileOpen = [&document](const PlannedDialogs::Shown&) { document.reset(); };
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        change(path);
+        QTRY_VERIFY(!document);
+        settle();
+    }
+
+    void reloadThatClosesTheOther()
+    {
+        auto* first = new Watched(path);
+        auto* second = new Watched(path);
+        first->other = second;
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        change(path);
+        QTRY_COMPARE(first->reloads, 1);
+        settle();
+        delete first;
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<TestInterface> host;
+    std::unique_ptr<PlannedDialogs> dialogs;
+    QString path;
+};
+
+QTEST_GUILESS_MAIN(TestFileWatch)
+#include "tst_filewatch.moc"
