@@ -9,6 +9,7 @@ class AnimationNode final : public Zorv::AnimationCode
 {
 public:
     AnimationNode(Zorv::CodeNode* previous, const QString& identifier, const QString& name);
+    ~AnimationNode() override;
 
     /// The number or word behind `animation`.
     QString identifier() const { return m_identifier; }

@@ -5,7 +5,6 @@
 namespace Family {
 
 struct GroupInfo;
-class ParsedLine;
 
 /// The head of a group or sub-group. Its children are its values, then its
 /// sub-groups, each in the order of the text.
@@ -37,8 +36,11 @@ public:
     GroupNode* subGroup(const QString& name) const;
     bool isSubGroup() const;
 
-    /// For the parser: takes over another argument or row of the same number.
-    void update(const GroupInfo* info, const QString& argument);
+    /// For the parser: the same head with another argument. Tells the parent.
+    void update(const QString& argument);
+
+    /// For the parser: true if a new node in this place would have the same parent.
+    bool isInPlace() const;
 
     int childCount() const override;
     int childIndex(Zorv::CodeNode* child) const override;

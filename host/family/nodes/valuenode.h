@@ -12,11 +12,13 @@ class ValueNode final : public Zorv::ValueCode
 public:
     /// `value` is in the form that `parseValue()` gives.
     ValueNode(Zorv::CodeNode* previous, const KeyInfo* key, const QVariant& value);
+    ~ValueNode() override;
 
     /// The row of the table.
     const KeyInfo* key() const { return m_key; }
 
-    /// The key as it stands in the line.
+    /// The key; for an old name the new one. A free or unknown key is read from
+    /// the line.
     QString name() const override;
 
     /// Writes another key; nothing for a text that is no word.
@@ -34,8 +36,12 @@ public:
     /// The value as the line has it, without quotes and escapes.
     QString text() const;
 
-    /// For the parser: the same line with another value. Tells the parent.
-    void update(const QVariant& value);
+    /// For the parser: the same line with another value, or another key of the
+    /// same type. Tells the parent.
+    void update(const KeyInfo* key, const QVariant& value);
+
+    /// Counts every change of a value that names a file, in the whole process.
+    static quint64 pathRevision();
 
     void release() override;
 

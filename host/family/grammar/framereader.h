@@ -1,0 +1,33 @@
+#pragma once
+
+#include "grammar/linereader.h"
+#include "grammar/valuereader.h"
+
+namespace Family {
+
+/// Reads what stands behind "frame".
+class FrameReader
+{
+public:
+    FrameReader(LineScanner& scanner, LineReport& report)
+        : m_scanner(scanner), m_report(report), m_values(scanner, report)
+    {
+    }
+
+    /// What could be read counts. False if the rest of the line means nothing.
+    bool read(FrameData* frame);
+
+private:
+    bool readSprite(FrameData* frame);
+    bool readOption(FrameData* frame);
+    bool readContent(int option, FrameData* frame);
+    bool readFlip(FrameData* frame);
+    bool optionUnknown(int start);
+
+    LineScanner& m_scanner;
+    LineReport& m_report;
+    ValueReader m_values;
+    unsigned m_seen = 0;
+};
+
+}  // namespace Family

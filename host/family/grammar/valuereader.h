@@ -1,0 +1,51 @@
+#pragma once
+
+#include "grammar/keyinfo.h"
+#include "grammar/linereport.h"
+#include "grammar/linescanner.h"
+
+#include <QVariant>
+
+namespace Family {
+
+/// Reads what stands behind '=' and reports its tokens and problems.
+class ValueReader
+{
+public:
+    ValueReader(LineScanner& scanner, LineReport& report) : m_scanner(scanner), m_report(report) {}
+
+    /// The value of a key, in the form that a `ValueNode` stores; invalid if it
+    /// could not be read. False then, and the rest of the line means nothing.
+    bool read(const KeyInfo& key, QVariant* value);
+
+    /// A text in quotes at the scanner's place, without quotes and escapes.
+    bool readText(QString* text);
+
+    /// Whole numbers, or any numbers, with commas between. `minimum` not below
+    /// `maximum` stands for no range.
+    bool readWholes(int count, double minimum, double maximum, qint64* numbers);
+    bool readReals(int count, double minimum, double maximum, double* numbers);
+
+private:
+    template <class Number> bool readNumber(Form form, Number* number);
+    template <class Number>
+    bool readElement(Form form, int index, double minimum, double maximum, Number* number);
+    template <class Number>
+    bool readFixed(Form form, int count, double minimum, double maximum, Number* numbers);
+    template <class Number> bool readList(const KeyInfo& key, QVariant* value);
+    template <class Number> bool readTuple(const KeyInfo& key, QVariant* value);
+    template <class Number> bool readScalar(const KeyInfo& key, QVariant* value);
+    bool readSingle(const KeyInfo& key, QVariant* value);
+    bool readPath(QVariant* value);
+    bool readWord(const KeyInfo& key, QVariant* value);
+    bool readChoice(const KeyInfo& key, QVariant* value);
+    bool readDate(QVariant* value);
+    bool readAny(QVariant* value);
+    bool separate(bool* more);
+    bool fail(ProblemId id, const QStringRef& found);
+
+    LineScanner& m_scanner;
+    LineReport& m_report;
+};
+
+}  // namespace Family

@@ -1,0 +1,164 @@
+#include "nodes/familyparser.h"
+
+#include "code/codedoc/rootcode.h"
+#include "grammar/linescanner.h"
+#include "nodes/animationnode.h"
+#include "nodes/boxnode.h"
+#include "nodes/framenode.h"
+#include "nodes/groupnode.h"
+#include "nodes/valuenode.h"
+
+namespace Family {
+
+using Zorv::CodeNode;
+
+namespace {
+
+/// The group or animation that a line behind `previous` stands under, or null.
+CodeNode* headNode(const CodeNode* previous)
+{
+    if (!previous) {
+        return nullptr;
+    }
+    auto* node = const_cast<CodeNode*>(previous);
+    if (node->type() == CodeNode::Group || node->type() == CodeNode::Animation) {
+        return node;
+    }
+    const bool isContent = node->type() == CodeNode::Value || node->type() == CodeNode::Frame;
+    if (isContent && node->parentCode()) {
+        return node->parentCode();
+    }
+    CodeNode* animation = node->previous(CodeNode::Animation, CodeNode::Group);
+    return animation ? animation : node->previous(CodeNode::Group, CodeNode::Animation);
+}
+
+LineHead headOf(const CodeNode* node)
+{
+    LineHead head;
+    if (node && node->type() == CodeNode::Group) {
+        head.kind = LineHead::Group;
+        head.group = static_cast<const GroupNode*>(node)->info();
+    } else if (node && node->type() == CodeNode::Animation) {
+        head.kind = LineHead::Animation;
+    }
+    return head;
+}
+
+/// `oldNode` as a node of this class if it stands in the place of a new one.
+template <class Node> Node* reusable(CodeNode* oldNode, const CodeNode* previous)
+{
+    return oldNode && oldNode->previous() == previous ? dynamic_cast<Node*>(oldNode) : nullptr;
+}
+
+CodeNode* groupNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous)
+{
+    auto* old = reusable<GroupNode>(oldNode, previous);
+    if (old && old->group() == line.group->number && old->isInPlace()) {
+        old->update(line.argument);
+        return old;
+    }
+    return new GroupNode(previous, line.group, line.argument);
+}
+
+CodeNode* valueNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous, CodeNode* head)
+{
+    auto* old = reusable<ValueNode>(oldNode, previous);
+    if (old && old->parentCode() == head && old->valueType() == line.key->valueType()) {
+        old->update(line.key, line.value);
+        return old;
+    }
+    return new ValueNode(previous, line.key, line.value);
+}
+
+CodeNode* animationNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous)
+{
+    if (auto* old = reusable<AnimationNode>(oldNode, previous)) {
+        old->update(line.argument, line.name);
+        return old;
+    }
+    return new AnimationNode(previous, line.argument, line.name);
+}
+
+CodeNode* frameNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous, CodeNode* head)
+{
+    auto* old = reusable<FrameNode>(oldNode, previous);
+    if (old && old->parentCode() == head) {
+        old->update(line.frame);
+        return old;
+    }
+    return new FrameNode(previous, line.frame);
+}
+
+CodeNode* boxNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous)
+{
+    auto* old = reusable<BoxNode>(oldNode, previous);
+    if (old && !old->parentCode() && old->isAttack() == line.attack) {
+        old->update(line.box);
+        return old;
+    }
+    return new BoxNode(previous, line.attack, line.box);
+}
+
+/// True, after colouring it, for a line without code.
+bool isWithoutCode(const QString& text, Zorv::CodeParserSyntax* syntax)
+{
+    LineScanner scanner(text);
+    scanner.skipBlanks();
+    if (!scanner.atCodeEnd()) {
+        return false;
+    }
+    if (syntax && scanner.position() < scanner.size()) {
+        syntax->ok(Zorv::CodeParserSyntax::Comment, unsigned(scanner.position()),
+                   unsigned(scanner.size()));
+    }
+    return true;
+}
+
+}  // namespace
+
+LineHead headAbove(const CodeNode* previous)
+{
+    return headOf(headNode(previous));
+}
+
+FamilyParser* FamilyParser::instance()
+{
+    static FamilyParser parser;
+    return &parser;
+}
+
+CodeNode* FamilyParser::parse(const QString& text, CodeNode* oldNode, CodeNode* previous,
+                              Zorv::RootCode* root, Zorv::CodeParserSyntax* syntax)
+{
+    if (isWithoutCode(text, syntax)) {
+        return nullptr;
+    }
+    CodeNode* above = headNode(previous);
+    LineHead head = headOf(above);
+    // Heads are refused while parsing is switched off, so that nothing stands below one.
+    const bool enabled = above || root->groupEnabled(0);
+    if (!enabled) {
+        head.kind = LineHead::Anything;
+    }
+    LineReport report(syntax);
+    const ParsedLine line = readLine(text, head, FileKind(root->tag()), report);
+    if (!enabled) {
+        return nullptr;
+    }
+    switch (line.kind) {
+    case ParsedLine::Group:
+        return groupNode(line, oldNode, previous);
+    case ParsedLine::Value:
+        return valueNode(line, oldNode, previous, above);
+    case ParsedLine::Animation:
+        return animationNode(line, oldNode, previous);
+    case ParsedLine::Frame:
+        return frameNode(line, oldNode, previous, above);
+    case ParsedLine::Box:
+        return boxNode(line, oldNode, previous);
+    default:
+        return nullptr;
+    }
+}
+
+}  // namespace Family

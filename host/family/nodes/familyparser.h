@@ -1,0 +1,22 @@
+#pragma once
+
+#include "code/codedoc/codeparser.h"
+#include "grammar/linereader.h"
+
+namespace Family {
+
+/// The grammar as the documents of the library call it. Has no state: all
+/// documents share one object.
+class FamilyParser final : public Zorv::CodeParser
+{
+public:
+    static FamilyParser* instance();
+
+    Zorv::CodeNode* parse(const QString& text, Zorv::CodeNode* oldNode, Zorv::CodeNode* previous,
+                          Zorv::RootCode* root, Zorv::CodeParserSyntax* syntax) override;
+};
+
+/// What a line stands under, `previous` being the last node before it.
+LineHead headAbove(const Zorv::CodeNode* previous);
+
+}  // namespace Family
