@@ -98,7 +98,7 @@ private slots:
 void CodeDocumentTruth::randomEdits_data()
 {
     QTest::addColumn<int>("run");
-    for (int run = 0; run < 12; ++run) {
+    for (int run = 0; run < 25; ++run) {
         QTest::addRow("run %d", run) << run;
     }
 }

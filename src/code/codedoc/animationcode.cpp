@@ -9,6 +9,11 @@ namespace Zorv {
 AnimationCode::AnimationCode(CodeNode* previous) : ParentCode(CodeNode::Animation, previous)
 {
     insertRootChild(this);
+    AnimationCode::adopt();
+}
+
+void AnimationCode::adopt()
+{
     for (CodeNode* node = next(); node; node = node->next()) {
         if (node->type() == CodeNode::Group || node->type() == CodeNode::Animation) {
             break;

@@ -57,6 +57,7 @@ public:
 
 protected:
     void handOver() override;
+    void adopt() override;
 
 private:
     CodeNodeList m_frames;

@@ -66,6 +66,7 @@ void CodeDocumentPrivate::endPass()
     if (firstParsed.isValid()) {
         CodeBlockData* first = CodeBlockData::testBlockData(firstParsed);
         CodeBlockData* last = CodeBlockData::testBlockData(lastParsed);
+        mendBelow(last);
         Folding::update(first, last);
     }
     releaseUnlinked();
@@ -283,6 +284,34 @@ void CodeDocumentPrivate::updateTraits(CodeBlockData* data, const QString& text)
     LineIndex::setTraits(data, traits);
 }
 
+/// Sees to it that the nodes below the parsed lines have the right parent. Where
+/// one head takes the place of another of its kind they are not parsed again,
+/// and while both were there they can have lost their parent.
+void CodeDocumentPrivate::mendBelow(const CodeBlockData* line)
+{
+    constexpr unsigned heads = CodeNode::Group | CodeNode::Animation;
+    CodeNode* above = line->d->node ? line->d->node : nodeAbove(line);
+    CodeNode* head = above->type() & heads ? above : NodeChain::backward(above, heads);
+    if (!head) {
+        return;
+    }
+    const bool isGroup = head->type() == CodeNode::Group;
+    const CodeNode::Type leaf = isGroup ? CodeNode::Value : CodeNode::Frame;
+    const CodeNode* below = NodeChain::forward(above, heads | leaf);
+    if (below && below->type() == leaf && below->parentCode() != head) {
+        head->adopt();
+    }
+    below = NodeChain::forward(above, heads);
+    if (!isGroup || !below || below->type() != CodeNode::Group) {
+        return;
+    }
+    CodeNode* top = isSubGroup(static_cast<GroupCode*>(head)) ? head->m_parent : head;
+    const CodeNode* parent = below->m_parent;
+    if (!parent || (parent->type() == CodeNode::Group && parent != top)) {
+        top->adopt();
+    }
+}
+
 void CodeDocumentPrivate::storeMessages(CodeBlockData* data, bool hadMessages)
 {
     if (!hadMessages && lineMessages.isEmpty()) {
@@ -307,8 +336,10 @@ bool CodeDocumentPrivate::mustParseNow() const
 void CodeDocumentPrivate::parseNow(QTextBlock block, const QTextBlock& behind)
 {
     unlinkDeadNodes();
+    const CodeBlockData* last = nullptr;
     for (; block.isValid() && block != behind; block = block.next()) {
         CodeBlockData* data = enter(block);
+        last = data;
         CodeNode* old = data->d->node;
         CodeNode* node = parseLine(block, data, block.text(), nullptr);
         data->d->node = node;
@@ -318,6 +349,9 @@ void CodeDocumentPrivate::parseNow(QTextBlock block, const QTextBlock& behind)
         if (old && old != node) {
             retire(old);
         }
+    }
+    if (last) {
+        mendBelow(last);
     }
     releaseUnlinked();
 }

@@ -102,6 +102,7 @@ private:
     CodeNode* nodeAbove(const CodeBlockData* data) const;
     static int stateOf(const CodeNode* node);
     static int contextOf(const CodeNode* node, int contextAbove);
+    void mendBelow(const CodeBlockData* line);
     void storeMessages(CodeBlockData* data, bool hadMessages);
     void updateTraits(CodeBlockData* data, const QString& text);
     void unlinkDeadNodes();

@@ -39,6 +39,10 @@ void CodeNode::handOver()
 {
 }
 
+void CodeNode::adopt()
+{
+}
+
 CodeNode* CodeNode::parent(Type type, unsigned short stopMask) const
 {
     for (CodeNode* node = m_parent; node; node = node->m_parent) {

@@ -136,6 +136,11 @@ protected:
     /// tree: a parent hands its children on. Destructors do the same.
     virtual void handOver();
 
+    /// Takes over the nodes behind this one that are its children by their
+    /// place. Constructors do the same; a document asks again after an edit in
+    /// which heads came and went at once.
+    virtual void adopt();
+
 private:
     QTextBlock m_block;
     QTextBlock m_endBlock;

@@ -9,6 +9,11 @@ namespace Zorv {
 GroupCode::GroupCode(CodeNode* previous, unsigned group)
     : ParentCode(CodeNode::Group, previous), m_group(group)
 {
+    GroupCode::adopt();
+}
+
+void GroupCode::adopt()
+{
     for (CodeNode* node = next(); node; node = node->next()) {
         if (node->type() == CodeNode::Group || node->type() == CodeNode::Animation) {
             break;

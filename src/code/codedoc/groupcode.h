@@ -53,6 +53,7 @@ public:
 
 protected:
     void handOver() override;
+    void adopt() override;
 
 private:
     CodeNodeList m_values;

@@ -1,0 +1,225 @@
+#include "support/testgrammar.h"
+
+#include "core/messages.h"
+
+#include <QAbstractItemModelTester>
+#include <QMimeData>
+#include <QRandomGenerator>
+#include <QtTest>
+
+using namespace Zorv;
+
+namespace {
+
+constexpr quint32 Seed = 31337;
+
+/// A document with its list; the document owns both.
+struct Fixture
+{
+    explicit Fixture(const QString& text) : document(text)
+    {
+        list = new TestAnimations(&document);
+        document.registerDocumentEditor(list, CodeNode::Animation, 0);
+        document.reparse();
+    }
+
+    QStringList names() const
+    {
+        QStringList result;
+        for (const AnimationCode* animation : list->animations()) {
+            result.append(animation->name());
+        }
+        return result;
+    }
+
+    GrammarDocument document;
+    TestAnimations* list;
+};
+
+QString withNames(const QStringList& names)
+{
+    QString text;
+    for (const QString& name : names) {
+        text += QStringLiteral("!%1\n-f%1\n# box\n-g\n").arg(name);
+    }
+    return text;
+}
+
+}  // namespace
+
+class AnimationsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void organize_data();
+    void organize();
+    void moves_data();
+    void moves();
+    void duplicates();
+    void insertAndFind();
+    void extents();
+    void drop();
+    void randomOperations();
+};
+
+void AnimationsTest::organize_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QStringList>("sorted");
+    QTest::newRow("numbers by value") << QStringList{"10", "9", "100"}
+                                      << QStringList{"9", "10", "100"};
+    QTest::newRow("texts without case") << QStringList{"b", "A", "c", "B"}
+                                        << QStringList{"A", "b", "B", "c"};
+    QTest::newRow("a text and a number stay") << QStringList{"a", "9"} << QStringList{"a", "9"};
+    QTest::newRow("one") << QStringList{"5"} << QStringList{"5"};
+    QTest::newRow("a number passes a text to reach a greater one")
+        << QStringList{"9", "a", "3"} << QStringList{"3", "9", "a"};
+}
+
+void AnimationsTest::organize()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QStringList, sorted);
+    Fixture fixture(withNames(names));
+    fixture.list->autoOrganize();
+    QCOMPARE(fixture.names(), sorted);
+    QCOMPARE(fixture.document.text(), withNames(sorted));
+    if (names != sorted) {
+        fixture.document.undo();
+        QCOMPARE(fixture.document.text(), withNames(names));
+        QCOMPARE(fixture.names(), names);
+        QVERIFY(!fixture.document.isUndoAvailable());
+    }
+}
+
+void AnimationsTest::moves_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<QStringList>("result");
+    QTest::newRow("up") << 2 << 0 << QStringList{"c", "a", "b", "d"};
+    QTest::newRow("down") << 0 << 2 << QStringList{"b", "c", "a", "d"};
+    QTest::newRow("to the last place: lands at the head") << 0 << 3
+                                                          << QStringList{"a", "b", "c", "d"};
+    QTest::newRow("the second to the last place") << 1 << 3 << QStringList{"b", "a", "c", "d"};
+    QTest::newRow("outside") << 4 << 0 << QStringList{"a", "b", "c", "d"};
+}
+
+void AnimationsTest::moves()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(QStringList, result);
+    Fixture fixture(withNames({"a", "b", "c", "d"}));
+    fixture.list->move(unsigned(from), unsigned(to));
+    QCOMPARE(fixture.names(), result);
+    QCOMPARE(fixture.document.text(), withNames(result));
+}
+
+void AnimationsTest::duplicates()
+{
+    Fixture fixture(QStringLiteral("!a\n-new\n# A\n!b\n-g\n"));
+    fixture.list->duplicate(0, QStringLiteral("c"));
+    QCOMPARE(fixture.document.text(),
+             QStringLiteral("!a\n-new\n# A\n!a\n-new\n# A\n!b\n-g\n"));
+    fixture.document.undo();
+    fixture.list->duplicate(9, QString());
+    QCOMPARE(fixture.names(), QStringList({"a", "b"}));
+    fixture.list->duplicate(1, QString());
+    QCOMPARE(fixture.names(), QStringList({"a", "b", "b"}));
+    fixture.document.beginChange(QString());
+    QVERIFY(!fixture.list->index(0).data().isValid());
+    fixture.list->duplicate(0, QString());
+    QCOMPARE(fixture.list->count(), 3);
+    fixture.document.endChange();
+    QCOMPARE(fixture.names(), QStringList({"a", "a", "b", "b"}));
+    QCOMPARE(fixture.list->index(0).data().toString(), QStringLiteral("a"));
+}
+
+void AnimationsTest::insertAndFind()
+{
+    Fixture fixture(withNames({"a", "b"}));
+    QCOMPARE(fixture.list->insert(1, QStringLiteral("n"))->name(), QStringLiteral("n"));
+    QCOMPARE(fixture.list->insert(77, QStringLiteral("last"))->name(), QStringLiteral("last"));
+    QCOMPARE(fixture.names(), QStringList({"a", "n", "b", "last"}));
+    QCOMPARE(fixture.list->find(0, QStringLiteral("b")), 2);
+    QCOMPARE(fixture.list->find(3, QStringLiteral("b")), -1);
+    QCOMPARE(fixture.list->find(99, QStringLiteral("b")), -1);
+    QCOMPARE(fixture.list->at(99), nullptr);
+}
+
+void AnimationsTest::extents()
+{
+    Fixture fixture(QStringLiteral("!a\n# box\n-f\n# one\n# two\n-g\n!b\n-h"));
+    const AnimationCode* animation = fixture.list->at(0);
+    QCOMPARE(animation->lastLine(), 5);
+    QCOMPARE(animation->frames().at(0)->firstLine(), 1);
+    QCOMPARE(animation->frames().at(1)->firstLine(), 3);
+    QCOMPARE(animation->code(), QString("!a\n# box\n-f\n# one\n# two\n-g").replace('\n', QChar(0x2029)));
+    QCOMPARE(fixture.list->at(1)->lastLine(), fixture.document.blockCount());
+    fixture.list->at(0)->removeFrame(1);
+    QCOMPARE(fixture.document.text(), QStringLiteral("!a\n# box\n-f\n!b\n-h"));
+}
+
+void AnimationsTest::drop()
+{
+    Fixture fixture(withNames({"a", "b", "c", "d", "e"}));
+    std::unique_ptr<QMimeData> data(
+        fixture.list->mimeData({fixture.list->index(1), fixture.list->index(2)}));
+    QVERIFY(!fixture.list->dropMimeData(data.get(), Qt::MoveAction, 4, 0, {}));
+    QCOMPARE(fixture.names(), QStringList({"a", "d", "b", "c", "e"}));
+    QVERIFY(!fixture.list->dropMimeData(data.get(), Qt::CopyAction, 0, 0, {}));
+    QCOMPARE(fixture.names(), QStringList({"a", "d", "b", "c", "e"}));
+}
+
+/// Any operation is one step of undo, which brings text, tree and list back.
+void AnimationsTest::randomOperations()
+{
+    qInfo("seed %u", Seed);
+    QRandomGenerator random(Seed);
+    Fixture fixture(withNames({"5", "c", "1", "b", "3", "a"}));
+    QAbstractItemModelTester tester(fixture.list,
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
+    for (int step = 0; step < 300; ++step) {
+        const QString text = fixture.document.text();
+        const QStringList dump = fixture.document.dump();
+        const QStringList names = fixture.names();
+        const auto count = unsigned(fixture.list->count());
+        const auto index = unsigned(random.bounded(int(count) + 1));
+        switch (random.bounded(5)) {
+        case 0:
+            fixture.list->insert(index, QString::number(random.bounded(20)));
+            break;
+        case 1:
+            fixture.list->duplicate(index, QStringLiteral("d%1").arg(step));
+            break;
+        case 2:
+            if (count > 2) {
+                fixture.list->move(index, unsigned(random.bounded(int(count) - 1)));
+            }
+            break;
+        case 3:
+            if (count > 3) {
+                fixture.list->remove(index);
+            }
+            break;
+        default:
+            fixture.list->autoOrganize();
+            break;
+        }
+        const GrammarDocument fresh(fixture.document.text());
+        QCOMPARE(fixture.document.dump(), fresh.dump());
+        if (fixture.document.text() == text) {
+            continue;
+        }
+        fixture.document.undo();
+        QCOMPARE(fixture.document.text(), text);
+        QCOMPARE(fixture.document.dump(), dump);
+        QCOMPARE(fixture.names(), names);
+        fixture.document.redo();
+    }
+}
+
+QTEST_MAIN(AnimationsTest)
+#include "tst_animations.moc"
