@@ -85,6 +85,7 @@ bool BasePath::isShown() const
 void BasePath::insertChild(int index, std::unique_ptr<BasePath> child)
 {
     child->m_row = index;
+    m_shown = qMin(m_shown, index);
     m_byName.insert(child->m_name, child.get());
     m_children.insert(m_children.begin() + index, std::move(child));
 }
@@ -92,6 +93,7 @@ void BasePath::insertChild(int index, std::unique_ptr<BasePath> child)
 std::vector<std::unique_ptr<BasePath>> BasePath::takeChildren()
 {
     m_byName.clear();
+    m_shown = 0;
     return std::move(m_children);
 }
 

@@ -59,12 +59,14 @@ public:
     /// True while a `ChildrenChange` on this node lasts.
     bool isHidden() const { return m_hidden; }
 
-    /// Names must differ among the children of a node.
+    /// Names must differ among the children of a node. What changes in the
+    /// middle of the list is not shown any more, with all that is behind it.
     void insertChild(int index, std::unique_ptr<BasePath> child);
     std::vector<std::unique_ptr<BasePath>> takeChildren();
     void removeChild(BasePath* child);
 
-    /// For the root: hides all children, or shows them and gives them their rows.
+    /// Hides all children, or shows them and gives them their rows. The root
+    /// does it between the announcements; elsewhere the node must not be shown.
     void hideChildren();
     void showChildren();
 

@@ -274,6 +274,8 @@ void ParentProjectPrivate::removeIfNotExists(BasePath* node, const QString& pref
         if (staysInTree(child.get(), prefix + child->pathName(), files, reduced))
             node->insertChild(node->childCount(), std::move(child));
     }
+    if (!node->isHidden())
+        node->showChildren();
     // Behind a file that goes, the folder's own entry may come back.
     if (node->childCount() < before && node->listing())
         reduced.append(static_cast<DirectoryPath*>(node));
@@ -319,6 +321,10 @@ void ParentProjectPrivate::addFiles(BasePath* node, const QList<Project::FileInf
         while (place < target->childCount() && target->childAt(place)->pathName() <= name)
             ++place;
         target->insertChild(place++, std::make_unique<FilePath>(target, name, file.id));
+    }
+    for (auto it = places.cbegin(); it != places.cend(); ++it) {
+        if (it.key() != node)
+            it.key()->showChildren();
     }
 }
 
