@@ -37,7 +37,7 @@ int placeOf(const QString& reference, int count, QString* error)
         return place;
     }
     *error = count == 0 ? tr("There is no animation in the file.")
-                        : tr("There is no animation '%1'. Name one from '#0' to '#%2'.")
+                        : tr("There is no animation '%1'. Expected a place from #0 to #%2.")
                               .arg(reference)
                               .arg(count - 1);
     return -1;
@@ -53,11 +53,7 @@ int findAnimation(const FamilyAnimations* list, const QString& reference, QStrin
     }
     const int place = all.indexOf(reference);
     if (place < 0) {
-        const QString near = nearName(reference, all);
-        *error = near.isEmpty()
-                     ? tr("There is no animation '%1'. 'anim list' shows those of the file.")
-                           .arg(reference)
-                     : tr("There is no animation '%1'. Did you mean '%2'?").arg(reference, near);
+        *error = tr("There is no animation '%1'. %2").arg(reference, nameHint(reference, all));
         return -1;
     }
     const int other = all.indexOf(reference, place + 1);

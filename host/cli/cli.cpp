@@ -1,0 +1,135 @@
+#include "cli.h"
+
+#include "command.h"
+#include "commanddialogs.h"
+#include "family/grammar/grammar.h"
+#include "operations/hostinterface.h"
+#include "output.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace Cli {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Cli", text);
+}
+
+QStringList commandNames()
+{
+    QStringList names;
+    for (const Command& command : commands()) {
+        names.append(QLatin1String(command.name));
+    }
+    return names;
+}
+
+bool isGroupOfCommands(const QString& word)
+{
+    const QStringList names = commandNames();
+    return std::any_of(names.begin(), names.end(), [&word](const QString& name) {
+        return name.startsWith(word + QLatin1Char(' '));
+    });
+}
+
+int refuse(const QString& error, const QString& usage)
+{
+    complain(error);
+    complain(usage.isEmpty() ? tr("'zorv help' tells what there is.") : tr("usage: %1").arg(usage));
+    return WrongUsage;
+}
+
+int refuseUnknown(const QStringList& arguments)
+{
+    const QString first = arguments.first();
+    if (isGroupOfCommands(first)) {
+        const QString second = arguments.value(1);
+        const QString whole = first + QLatin1Char(' ') + second;
+        return refuse(second.isEmpty() ? tr("Expected what to do behind '%1'.").arg(first)
+                                       : tr("There is no command '%1'. %2")
+                                             .arg(whole, Family::nameHint(whole, commandNames())),
+                      {});
+    }
+    const QString near = Family::nearName(first, commandNames());
+    return refuse(
+        near.isEmpty()
+            ? tr("There is no command, folder or file '%1'.").arg(first)
+            : tr("There is no command, folder or file '%1'. Did you mean '%2'?").arg(first, near),
+        {});
+}
+
+// The options that stand in the place of a command.
+QStringList withoutLeadingOption(QStringList arguments)
+{
+    const QString first = arguments.value(0);
+    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
+        arguments[0] = QStringLiteral("help");
+    }
+    const int dashes = arguments.indexOf(QStringLiteral("--"));
+    const int help = arguments.indexOf(QStringLiteral("--help"));
+    int words = 0;
+    if (help > 0 && (dashes < 0 || help < dashes) && findCommand(arguments, &words)) {
+        arguments = QStringList(QStringLiteral("help")) + arguments.mid(0, words);
+    }
+    return arguments;
+}
+
+int run(const Command& command, const QStringList& arguments, Output& output)
+{
+    Invocation invocation;
+    QString error;
+    if (!parseArguments(command, arguments, &invocation, &error)) {
+        return refuse(error, command.usage());
+    }
+    Family::HostInterface host;
+    Family::startHost(&host);
+    CommandDialogs dialogs;
+    const int status = command.run(invocation, output);
+    return dialogs.wasShown() ? NotDone : status;
+}
+
+}  // namespace
+
+bool isCommand(const QStringList& arguments)
+{
+    if (arguments.isEmpty()) {
+        return false;
+    }
+    const QString first = arguments.first();
+    const QStringList ofCommandLine{QStringLiteral("--help"), QStringLiteral("-h"),
+                                    QStringLiteral("--version")};
+    int words = 0;
+    if (ofCommandLine.contains(first) || isGroupOfCommands(first) ||
+        findCommand(arguments, &words)) {
+        return true;
+    }
+    return !first.startsWith(QLatin1Char('-')) && !QFileInfo::exists(first);
+}
+
+int runCommand(const QStringList& arguments)
+{
+    Output output;
+    int status = Fine;
+    int words = 0;
+    const QStringList given = withoutLeadingOption(arguments);
+    if (given.value(0) == QLatin1String("--version")) {
+        output.write(QStringLiteral("zorv " ZORV_VERSION "\n"));
+    } else if (const Command* command = findCommand(given, &words)) {
+        status = run(*command, given.mid(words), output);
+    } else {
+        status = refuseUnknown(given);
+    }
+    if (!output.finish()) {
+        if (!output.isReaderGone()) {
+            complain(tr("Cannot write the output: %1. Check where it goes to.")
+                         .arg(output.errorString()));
+        }
+        return NotDone;
+    }
+    return status;
+}
+
+}  // namespace Cli

@@ -1,0 +1,152 @@
+#include "command.h"
+
+#include "code/codecs/textcodecs.h"
+
+#include <QCoreApplication>
+#include <QTextCodec>
+
+namespace Cli {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Cli", text);
+}
+
+const int Editing = Command::DryRun | Command::Encoding;
+
+// clang-format off
+constexpr Command table[] = {
+    {"check", "GAME|FILE", 1, 1, Command::Json, checkCommand,
+     "Print every problem of a game folder, a project or a file.",
+     "Each problem is printed once, sorted by place, as\n"
+     "    file:line:column: error: text\n"
+     "with 'error', 'warning' or 'deprecated'. GAME is a game folder, with all projects below\n"
+     "it. FILE is a main file (.character, .stage), which is checked with all the files that it\n"
+     "names, or another code file. The status is 1 if there is any problem."},
+    {"tree", "FILE", 1, 1, Command::Json | Command::Encoding, treeCommand,
+     "Print the groups, values, animations, frames and boxes of a file.",
+     "A line for each, with a tab between its number in the file, what it is, and the path\n"
+     "that 'get' takes. What belongs to another thing is indented below it."},
+    {"get", "FILE PATH", 2, 2, Command::Encoding, getCommand,
+     "Print one value.",
+     "A text comes without its quotes. A path to more than one value, as to a group, gives its\n"
+     "lines. 'tree' shows the paths of a file."},
+    {"set", "FILE PATH VALUE", 3, 3, Editing, setCommand,
+     "Write one value.",
+     "VALUE is as 'get' prints it. One line of the file changes, and its comment stays. A value\n"
+     "that is there already changes nothing."},
+    {"anim list", "FILE", 1, 1, Command::Json | Command::Encoding, listAnimations,
+     "Print the animations of a file.",
+     "A line for each, with a tab between its place, identifier, name, count of frames, time in\n"
+     "ticks (-1: it never ends), and line in the file."},
+    {"anim duplicate", "FILE ID [NEWID]", 2, 3, Editing, duplicateAnimation,
+     "Copy an animation.",
+     "The copy stands behind the animation ID and is called NEWID. Without NEWID a free\n"
+     "identifier is chosen and printed."},
+    {"anim move", "FILE ID POSITION", 3, 3, Editing, moveAnimation,
+     "Move an animation to another place.",
+     "It stands at POSITION afterwards, counted from 0 as in 'anim list'."},
+    {"anim remove", "FILE ID...", 2, Command::Any, Editing, removeAnimations,
+     "Remove animations.",
+     "If one of them is not there, none is removed."},
+    {"anim sort", "FILE", 1, 1, Editing, sortAnimations,
+     "Sort the animations.",
+     "Numbers are sorted by value, words without regard to case."},
+    {"help", "[COMMAND]", 0, 2, Command::NoOptions, helpCommand,
+     "Print what there is, or all about a command.",
+     "'zorv COMMAND --help' does the same."},
+};
+// clang-format on
+
+bool parseEncoding(const QString& name, Invocation* invocation, QString* error)
+{
+    const QTextCodec* codec = QTextCodec::codecForName(name.toUtf8());
+    invocation->codec = codec ? Zorv::TextCodecs::index(codec->name().constData()) : 0;
+    if (invocation->codec == 0) {
+        *error = tr("There is no encoding '%1'. Names are such as UTF-8, windows-1252 and "
+                    "Shift_JIS.")
+                     .arg(name);
+    }
+    return invocation->codec != 0;
+}
+
+bool checkOperands(const Command& command, const Invocation& invocation, QString* error)
+{
+    const int count = invocation.operands.size();
+    if (count < command.fewest) {
+        *error =
+            tr("'%1' needs %2.").arg(QLatin1String(command.name), QLatin1String(command.operands));
+    } else if (count > command.most) {
+        *error = tr("'%1' takes no '%2'. Put a text with blanks in quotes.")
+                     .arg(QLatin1String(command.name), invocation.operands.at(command.most));
+    }
+    return error->isEmpty();
+}
+
+}  // namespace
+
+QString Command::usage() const
+{
+    QString text = QStringLiteral("zorv %1 %2").arg(QLatin1String(name), QLatin1String(operands));
+    if (options & Json) {
+        text += QLatin1String(" [--json]");
+    }
+    if (options & DryRun) {
+        text += QLatin1String(" [--dry-run]");
+    }
+    if (options & Encoding) {
+        text += QLatin1String(" [--encoding NAME]");
+    }
+    return text;
+}
+
+const QVector<Command>& commands()
+{
+    static const QVector<Command> rows(std::begin(table), std::end(table));
+    return rows;
+}
+
+const Command* findCommand(const QStringList& arguments, int* words)
+{
+    for (const Command& command : table) {
+        const QStringList name = QString::fromLatin1(command.name).split(QLatin1Char(' '));
+        if (arguments.mid(0, name.size()) == name) {
+            *words = name.size();
+            return &command;
+        }
+    }
+    return nullptr;
+}
+
+bool parseArguments(const Command& command, const QStringList& arguments, Invocation* invocation,
+                    QString* error)
+{
+    bool readsOptions = true;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString& argument = arguments.at(i);
+        // A single dash is the sign of a number.
+        if (!readsOptions || !argument.startsWith(QLatin1String("--"))) {
+            invocation->operands.append(argument);
+        } else if (argument == QLatin1String("--")) {
+            readsOptions = false;
+        } else if ((command.options & Command::Json) && argument == QLatin1String("--json")) {
+            invocation->json = true;
+        } else if ((command.options & Command::DryRun) && argument == QLatin1String("--dry-run")) {
+            invocation->dryRun = true;
+        } else if ((command.options & Command::Encoding) &&
+                   argument == QLatin1String("--encoding")) {
+            if (!parseEncoding(arguments.value(++i), invocation, error)) {
+                return false;
+            }
+        } else {
+            *error = tr("'%1' has no option '%2'. Write '--' in front of a text that begins so.")
+                         .arg(QLatin1String(command.name), argument);
+            return false;
+        }
+    }
+    return checkOperands(command, *invocation, error);
+}
+
+}  // namespace Cli

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/dialogs/dialogs.h"
+
+namespace Cli {
+
+/// Stands in for every dialog: prints its text on standard error and answers as
+/// a person who gives up. Installs itself, and takes itself away.
+class CommandDialogs final : public Zorv::Dialogs
+{
+public:
+    CommandDialogs();
+    ~CommandDialogs() override;
+
+    /// True if something was asked or told that ends a command without success.
+    bool wasShown() const { return m_shown; }
+
+    Button question(const QString& title, const QString& text, Buttons buttons,
+                    Button defaultButton) override;
+    Button warning(const QString& title, const QString& text, Buttons buttons = Ok,
+                   Button defaultButton = Ok) override;
+    void information(const QString& title, const QString& text) override;
+    void error(const QString& title, const QString& text) override;
+    int choose(const QString& title, const QString& text, const QStringList& choices,
+               int defaultChoice) override;
+    QString openFileName(QWidget* parent, const QString& caption, const QString& dir,
+                         const QString& filter) override;
+    QStringList openFileNames(QWidget* parent, const QString& caption, const QString& dir,
+                              const QString& filter) override;
+    QString saveFileName(QWidget* parent, const QString& caption, const QString& dir,
+                         const QString& filter) override;
+    QString existingFolder(QWidget* parent, const QString& caption, const QString& dir) override;
+
+private:
+    void show(const QString& text);
+
+    bool m_shown = false;
+};
+
+}  // namespace Cli

@@ -1,0 +1,152 @@
+#include "cli.h"
+#include "command.h"
+#include "editing.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodepath.h"
+#include "family/nodes/animationnode.h"
+#include "operations/animationedits.h"
+#include "output.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+
+namespace Cli {
+
+namespace {
+
+using Family::AnimationNode;
+using Family::FamilyAnimations;
+using Family::FamilyDocument;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Cli", text);
+}
+
+QString animationLine(int index, const AnimationNode& animation)
+{
+    return QStringLiteral("#%1\t%2\t%3\t%4\t%5\t%6")
+        .arg(QString::number(index), animation.identifier(), animation.name(),
+             QString::number(animation.childCount()), QString::number(animation.duration()),
+             QString::number(animation.firstLine() + 1));
+}
+
+QString animationObject(int index, const AnimationNode& animation, const QString& path)
+{
+    return jsonLine({{QStringLiteral("index"), index},
+                     {QStringLiteral("identifier"), animation.identifier()},
+                     {QStringLiteral("name"), animation.name()},
+                     {QStringLiteral("frames"), animation.childCount()},
+                     {QStringLiteral("duration"), animation.duration()},
+                     {QStringLiteral("loopFrame"), animation.loopFrame()},
+                     {QStringLiteral("line"), animation.firstLine() + 1},
+                     {QStringLiteral("path"), path}});
+}
+
+void writeAnimations(const FamilyDocument* document, bool json, Output& output)
+{
+    const FamilyAnimations* list = document->animations();
+    const auto paths = Family::nodePaths(document);
+    QString separator = QStringLiteral("[\n");
+    for (int i = 0; i < list->count(); ++i) {
+        const AnimationNode* animation = list->animation(i);
+        if (json) {
+            output.write(separator + animationObject(i, *animation, paths.value(animation)));
+            separator = QStringLiteral(",\n");
+        } else {
+            output.writeLine(animationLine(i, *animation));
+        }
+    }
+    if (json) {
+        output.write(list->count() == 0 ? QStringLiteral("[]\n") : QStringLiteral("\n]\n"));
+    }
+}
+
+bool toPosition(const QString& text, int count, int* position, QString* error)
+{
+    bool isNumber = false;
+    *position = text.toInt(&isNumber);
+    if (isNumber && *position >= 0 && *position < count) {
+        return true;
+    }
+    *error = tr("Expected a position from 0 to %1; found '%2'.").arg(count - 1).arg(text);
+    return false;
+}
+
+}  // namespace
+
+int setCommand(const Invocation& invocation, Output& output)
+{
+    return editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+        return Family::setValue(document, invocation.operands.at(1), invocation.operands.at(2),
+                                error);
+    });
+}
+
+int listAnimations(const Invocation& invocation, Output& output)
+{
+    return readFile(invocation, [&](FamilyDocument* document, QString*) {
+        writeAnimations(document, invocation.json, output);
+        return true;
+    });
+}
+
+int duplicateAnimation(const Invocation& invocation, Output& output)
+{
+    QString chosen;
+    const int status = editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+        FamilyAnimations* list = document->animations();
+        const int index = Family::findAnimation(list, invocation.operands.at(1), error);
+        if (index < 0) {
+            return false;
+        }
+        QString identifier = invocation.operands.value(2);
+        if (invocation.operands.size() < 3) {
+            identifier = Family::freeIdentifier(list, list->animation(index)->identifier());
+            chosen = identifier;
+        }
+        return Family::duplicateAnimation(list, index, identifier, error);
+    });
+    if (status == Fine && !chosen.isEmpty() && !invocation.dryRun) {
+        output.write(chosen + QLatin1Char('\n'));
+    }
+    return status;
+}
+
+int moveAnimation(const Invocation& invocation, Output& output)
+{
+    return editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+        FamilyAnimations* list = document->animations();
+        const int from = Family::findAnimation(list, invocation.operands.at(1), error);
+        int to = 0;
+        return from >= 0 && toPosition(invocation.operands.at(2), list->count(), &to, error) &&
+               Family::moveAnimation(list, from, to);
+    });
+}
+
+int removeAnimations(const Invocation& invocation, Output& output)
+{
+    return editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+        QVector<int> indexes;
+        for (const QString& reference : invocation.operands.mid(1)) {
+            const int index = Family::findAnimation(document->animations(), reference, error);
+            if (index < 0) {
+                return false;
+            }
+            indexes.append(index);
+        }
+        Family::removeAnimations(document->animations(), indexes);
+        return true;
+    });
+}
+
+int sortAnimations(const Invocation& invocation, Output& output)
+{
+    return editFile(invocation, output, [](FamilyDocument* document, QString*) {
+        document->animations()->autoOrganize();
+        return true;
+    });
+}
+
+}  // namespace Cli

@@ -1,0 +1,118 @@
+#include "editing.h"
+
+#include "cli.h"
+#include "code/codecs/textcodecs.h"
+#include "command.h"
+#include "family/familydocument.h"
+#include "operations/documentfile.h"
+#include "operations/textdiff.h"
+#include "output.h"
+
+#include <QCoreApplication>
+
+#include <memory>
+
+namespace Cli {
+
+namespace {
+
+using Family::FamilyDocument;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Cli", text);
+}
+
+struct Release
+{
+    void operator()(FamilyDocument* document) const { document->release(); }
+};
+
+using Document = std::unique_ptr<FamilyDocument, Release>;
+
+int notDone(const QString& error)
+{
+    complain(error);
+    return NotDone;
+}
+
+// What can be done here about a file that its encoding would spoil.
+QString encodingAdvice(const QString& fileName)
+{
+    const int codec = Family::faithfulCodec(fileName);
+    const QString unchanged = tr("Nothing is written.");
+    return codec < 0 ? unchanged
+                     : tr("%1 '--encoding %2' reads the file so.")
+                           .arg(unchanged, Zorv::TextCodecs::name(codec));
+}
+
+QString conversionAdvice(const FamilyDocument& document)
+{
+    return tr("Nothing is written. For other characters convert the file first, as with 'iconv -f "
+              "%1 -t UTF-8'.")
+        .arg(document.codecName());
+}
+
+int printDifference(const FamilyDocument& document, const QString& before, const QString& fileName,
+                    Output& output)
+{
+    const QString obstacle = Family::encodingObstacle(&document);
+    if (!obstacle.isEmpty()) {
+        complain(obstacle);
+        return notDone(conversionAdvice(document));
+    }
+    const QString note = Family::lineEndNote(&document);
+    if (!note.isEmpty()) {
+        output.write(QLatin1String("# ") + note + QLatin1Char('\n'));
+    }
+    output.write(Family::unifiedDiff(before, document.text(), fileName, fileName));
+    return Fine;
+}
+
+int save(FamilyDocument& document, const QString& fileName)
+{
+    QString error;
+    switch (Family::saveDocument(&document, fileName, &error)) {
+    case Family::Saved::Done:
+        return Fine;
+    case Family::Saved::GivenUp:
+        return notDone(conversionAdvice(document));
+    case Family::Saved::Failed:
+        break;
+    }
+    return notDone(error);
+}
+
+}  // namespace
+
+int editFile(const Invocation& invocation, Output& output, const Edit& edit)
+{
+    const QString fileName = invocation.operands.first();
+    QString error;
+    const Document document(Family::openDocument(fileName, invocation.codec, &error));
+    if (!document) {
+        return notDone(error);
+    }
+    if (!Family::ensureFaithful(document.get())) {
+        return notDone(encodingAdvice(fileName));
+    }
+    const QString before = document->text();
+    if (!edit(document.get(), &error)) {
+        return notDone(error);
+    }
+    if (document->text() == before) {
+        return Fine;
+    }
+    return invocation.dryRun ? printDifference(*document, before, fileName, output)
+                             : save(*document, fileName);
+}
+
+int readFile(const Invocation& invocation, const Edit& look)
+{
+    QString error;
+    const Document document(
+        Family::openDocument(invocation.operands.first(), invocation.codec, &error));
+    return document && look(document.get(), &error) ? int(Fine) : notDone(error);
+}
+
+}  // namespace Cli

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+
+class QString;
+
+namespace Family {
+class FamilyDocument;
+}
+
+namespace Cli {
+
+struct Invocation;
+class Output;
+
+/// Edits the document; false, with the reason, if it cannot.
+using Edit = std::function<bool(Family::FamilyDocument* document, QString* error)>;
+
+/// Opens the file that is the first operand, edits it, and saves it if its text
+/// has changed; with `--dry-run` it prints the difference instead. Gives the
+/// exit status.
+int editFile(const Invocation& invocation, Output& output, const Edit& edit);
+
+/// As `editFile()`, but only looks at the document.
+int readFile(const Invocation& invocation, const Edit& look);
+
+}  // namespace Cli

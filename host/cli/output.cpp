@@ -1,0 +1,81 @@
+#include "output.h"
+
+#include <QJsonDocument>
+
+#include <cerrno>
+#include <cstdio>
+
+namespace Cli {
+
+namespace {
+
+const int GatheredBytes = 64 * 1024;
+
+}  // namespace
+
+Output::Output()
+{
+    m_failed = !m_file.open(fileno(stdout), QIODevice::WriteOnly | QIODevice::Unbuffered);
+}
+
+void Output::write(const QString& text)
+{
+    m_pending += text.toUtf8();
+    if (m_pending.size() > GatheredBytes) {
+        flush();
+    }
+}
+
+void Output::writeLine(const QString& text)
+{
+    write(printable(text) + QLatin1Char('\n'));
+}
+
+bool Output::finish()
+{
+    flush();
+    return !m_failed;
+}
+
+void Output::flush()
+{
+    int done = 0;
+    while (!m_failed && done < m_pending.size()) {
+        errno = 0;
+        const qint64 count = m_file.write(m_pending.constData() + done, m_pending.size() - done);
+        m_failed = count <= 0;
+        m_readerGone = m_failed && errno == EPIPE;
+        done += int(qMax<qint64>(count, 0));
+    }
+    m_pending.clear();
+}
+
+void complain(const QString& text)
+{
+    const QByteArray line = "zorv: " + printable(text).toUtf8() + '\n';
+    fwrite(line.constData(), 1, size_t(line.size()), stderr);
+}
+
+QString printable(const QString& text)
+{
+    QString result;
+    for (const QChar c : text) {
+        const bool isPlain =
+            c == QLatin1Char('\n') || c == QLatin1Char('\t') ||
+            (c.category() != QChar::Other_Control && c.category() != QChar::Separator_Line &&
+             c.category() != QChar::Separator_Paragraph);
+        if (isPlain) {
+            result += c;
+        } else {
+            result += QLatin1String("\\x") + QString::number(c.unicode(), 16);
+        }
+    }
+    return result;
+}
+
+QString jsonLine(const QJsonObject& object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+}  // namespace Cli

@@ -1,0 +1,131 @@
+#include "cli.h"
+#include "command.h"
+#include "editing.h"
+#include "family/check/check.h"
+#include "family/familydocument.h"
+#include "family/nodepath.h"
+#include "operations/nodetree.h"
+#include "output.h"
+
+#include <QJsonObject>
+
+namespace Cli {
+
+namespace {
+
+using Family::FamilyDocument;
+
+void writeProblem(const Family::Problem& problem, Output& output)
+{
+    output.write(
+        jsonLine({{QStringLiteral("file"), problem.file},
+                  {QStringLiteral("line"), problem.line},
+                  {QStringLiteral("column"), problem.column},
+                  {QStringLiteral("length"), problem.length},
+                  {QStringLiteral("level"), Family::levelName(problem.level)},
+                  {QStringLiteral("id"), QLatin1String(Family::problemInfo(problem.id).name)},
+                  {QStringLiteral("text"), problem.text}}));
+}
+
+QString treeLine(const Family::TreeEntry& entry, const QString& path)
+{
+    const QString indent(2 * entry.depth, QLatin1Char(' '));
+    return QStringLiteral("%1\t%2%3 %4\t%5")
+        .arg(QString::number(entry.node->firstLine() + 1), indent, Family::nodeKind(entry.node),
+             Family::nodeLabel(entry.node), path);
+}
+
+QString treeObject(const Family::TreeEntry& entry, const QString& path)
+{
+    QJsonObject object{{QStringLiteral("kind"), Family::nodeKind(entry.node)},
+                       {QStringLiteral("line"), entry.node->block().blockNumber() + 1},
+                       {QStringLiteral("text"), Family::nodeLabel(entry.node)}};
+    if (!path.isEmpty()) {
+        object.insert(QStringLiteral("path"), path);
+    }
+    return jsonLine(object);
+}
+
+void writeTree(const FamilyDocument* document, Output& output)
+{
+    const auto paths = Family::nodePaths(document);
+    const QVector<Family::TreeEntry> tree = Family::nodeTree(document);
+    for (const Family::TreeEntry& entry : tree) {
+        output.writeLine(treeLine(entry, paths.value(entry.node)));
+    }
+}
+
+// One node a line; an object stays open for the nodes that belong to it.
+void writeJsonTree(const FamilyDocument* document, Output& output)
+{
+    const auto paths = Family::nodePaths(document);
+    const QVector<Family::TreeEntry> tree = Family::nodeTree(document);
+    output.write(QStringLiteral("["));
+    for (int i = 0; i < tree.size(); ++i) {
+        const int depth = tree[i].depth;
+        const int nextDepth = i + 1 < tree.size() ? tree[i + 1].depth : 0;
+        QString text = treeObject(tree[i], paths.value(tree[i].node));
+        if (nextDepth > depth) {
+            text.chop(1);
+            text += QLatin1String(",\"children\":[");
+        }
+        for (int level = depth; level > nextDepth; --level) {
+            text += QLatin1String("]}");
+        }
+        const bool isLast = i + 1 == tree.size();
+        output.write(QLatin1Char('\n') + QString(2 * depth, QLatin1Char(' ')) + text +
+                     (nextDepth > depth || isLast ? QString() : QStringLiteral(",")));
+    }
+    output.write(QStringLiteral("\n]\n"));
+}
+
+}  // namespace
+
+int checkCommand(const Invocation& invocation, Output& output)
+{
+    QString error;
+    const Family::Problems problems = Family::checkGame(invocation.operands.first(), &error);
+    if (!error.isEmpty()) {
+        complain(error);
+        return NotDone;
+    }
+    QString separator = QStringLiteral("[\n");
+    for (const Family::Problem& problem : problems) {
+        if (invocation.json) {
+            output.write(separator);
+            writeProblem(problem, output);
+            separator = QStringLiteral(",\n");
+        } else {
+            output.writeLine(Family::problemLine(problem));
+        }
+    }
+    if (invocation.json) {
+        output.write(problems.isEmpty() ? QStringLiteral("[]\n") : QStringLiteral("\n]\n"));
+    }
+    return problems.isEmpty() ? Fine : ProblemsFound;
+}
+
+int treeCommand(const Invocation& invocation, Output& output)
+{
+    return readFile(invocation, [&](FamilyDocument* document, QString*) {
+        if (invocation.json) {
+            writeJsonTree(document, output);
+        } else {
+            writeTree(document, output);
+        }
+        return true;
+    });
+}
+
+int getCommand(const Invocation& invocation, Output& output)
+{
+    return readFile(invocation, [&](FamilyDocument* document, QString* error) {
+        const QString text = Family::textAt(document, invocation.operands.at(1), error);
+        if (!text.isNull()) {
+            output.write(text + QLatin1Char('\n'));
+        }
+        return !text.isNull();
+    });
+}
+
+}  // namespace Cli

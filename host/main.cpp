@@ -1,0 +1,115 @@
+#include "cli/cli.h"
+#ifdef ZORV_WINDOW
+#include "app/application.h"
+
+#include <QApplication>
+#endif
+
+#include <QGuiApplication>
+#include <QTextCodec>
+
+#include <clocale>
+#include <cstdio>
+#include <cstring>
+
+#include <fcntl.h>
+#include <langinfo.h>
+#include <signal.h>
+#include <unistd.h>
+
+namespace {
+
+QtMessageHandler s_otherMessages = nullptr;
+
+// Qt wants a folder that only a session of a desktop has, and does without.
+void passMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (!text.contains(QLatin1String("XDG_RUNTIME_DIR"))) {
+        s_otherMessages(type, context, text);
+    }
+}
+
+// A file that is opened must not take the number of a closed standard stream,
+// or what is printed would go into it. Writing to what stands in fails.
+void keepStandardStreams()
+{
+    for (int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) == -1) {
+            // The lowest free number is the one that is missing.
+            const int file = open("/dev/null", O_RDONLY | O_CLOEXEC);
+            if (file != stream) {
+                _exit(Cli::NotDone);
+            }
+        }
+    }
+}
+
+// Without a locale file names are UTF-8 still.
+void setUpTexts()
+{
+    setlocale(LC_CTYPE, "");
+    if (strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0) {
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    }
+    s_otherMessages = qInstallMessageHandler(passMessage);
+}
+
+QStringList argumentsOf(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    return arguments;
+}
+
+int runOnCommandLine(char** argv, const QStringList& arguments)
+{
+    // A document measures its text with fonts, so Qt needs a platform; this one
+    // has neither display nor fonts, and asks no desktop for anything.
+    qputenv("QT_QPA_PLATFORM", "minimal");
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+    // A reader that goes away is a failed write, not the end.
+    signal(SIGPIPE, SIG_IGN);
+    // The arguments are not Qt's.
+    int argc = 1;
+    QGuiApplication application(argc, argv);
+    return Cli::runCommand(arguments);
+}
+
+int runInWindow(int& argc, char** argv, const QStringList& arguments)
+{
+#ifdef ZORV_WINDOW
+    const bool hasPlatform = qEnvironmentVariableIsSet("DISPLAY") ||
+                             qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+                             qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+                             arguments.contains(QLatin1String("-platform"));
+    if (hasPlatform) {
+        QApplication application(argc, argv);
+        return App::runWindow(application, arguments);
+    }
+    fputs("zorv: There is no display for the window. 'zorv help' tells what can be done without "
+          "one.\n",
+          stderr);
+#else
+    Q_UNUSED(argc)
+    Q_UNUSED(argv)
+    Q_UNUSED(arguments)
+    fputs("zorv: This program was built without its window. 'zorv help' tells what it can do.\n",
+          stderr);
+#endif
+    return Cli::NotDone;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    keepStandardStreams();
+    setUpTexts();
+    const QStringList arguments = argumentsOf(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("zorv"));
+    QCoreApplication::setOrganizationName(QStringLiteral("zorv"));
+    return Cli::isCommand(arguments) ? runOnCommandLine(argv, arguments)
+                                     : runInWindow(argc, argv, arguments);
+}
