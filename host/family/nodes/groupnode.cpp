@@ -43,9 +43,7 @@ GroupNode::GroupNode(CodeNode* previous, const GroupInfo* info, const QString& a
 {
     BoxNode::raiseRevision();
     attach();
-    if (!m_info->isSubGroup()) {
-        adopt();
-    }
+    adoptSubGroups();
 }
 
 GroupNode::~GroupNode()
@@ -67,13 +65,19 @@ void GroupNode::attach()
 
 /// A head written above sub-groups takes them over: their lines need not be
 /// parsed again if the group above was of the same kind.
-void GroupNode::adopt()
+void GroupNode::adoptSubGroups()
 {
-    CodeNode* node = next(Group, Animation);
+    CodeNode* node = m_info->isSubGroup() ? nullptr : next(Group, Animation);
     while (node && static_cast<GroupNode*>(node)->info()->isSubGroup()) {
         GroupNode::insertChild(node, unsigned(m_subGroups.size()));
         node = node->next(Group, Animation);
     }
+}
+
+void GroupNode::adopt()
+{
+    GroupCode::adopt();
+    adoptSubGroups();
 }
 
 void GroupNode::giveAway()

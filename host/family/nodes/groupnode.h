@@ -52,10 +52,11 @@ public:
 
 protected:
     void handOver() override;
+    void adopt() override;
 
 private:
     void attach();
-    void adopt();
+    void adoptSubGroups();
     void giveAway();
 
     const GroupInfo* m_info;

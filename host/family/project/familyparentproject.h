@@ -27,6 +27,9 @@ public:
 signals:
     /// The last project has gone; the host may delete this object later.
     void unused();
+
+private:
+    void addLooseFolder(const QString& folder);
 };
 
 }  // namespace Family

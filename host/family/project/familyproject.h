@@ -56,7 +56,12 @@ public:
     void fileInfos(QList<FileInfo>& list) override;
 
 private:
+    QList<FileInfo> namedFiles() const;
+
     QStringList m_loadErrors;
+    QList<FileInfo> m_files;
+    QString m_pathsOf;
+    quint64 m_pathRevision = 0;
 };
 
 }  // namespace Family

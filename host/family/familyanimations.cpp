@@ -1,0 +1,145 @@
+#include "familyanimations.h"
+
+#include "familydocument.h"
+#include "grammar/linescanner.h"
+#include "nodes/animationnode.h"
+#include "nodes/lineedit.h"
+
+#include <QTextBlock>
+#include <QTextCursor>
+
+namespace Family {
+
+namespace {
+
+/// One step of undo, as long as the object lives.
+class Change
+{
+public:
+    Change(Zorv::Animations* list, const QString& title) : m_list(list)
+    {
+        m_list->beginChange(title);
+    }
+    ~Change() { m_list->endChange(); }
+
+private:
+    Q_DISABLE_COPY(Change)
+    Zorv::Animations* m_list;
+};
+
+/// The text of an animation with another identifier in its head line.
+QString renamed(const AnimationNode* animation, const QString& identifier)
+{
+    QString text = animation->selectAll().selectedText();
+    const NodeLine line(animation);
+    const LinePart* old = line.details.part(LinePart::Argument);
+    if (identifier.isEmpty() || !old || old->start == old->end) {
+        return text;
+    }
+    return text.replace(old->start, old->end - old->start, identifier);
+}
+
+}  // namespace
+
+FamilyAnimations::FamilyAnimations(FamilyDocument* document) : Animations(document)
+{
+    document->registerDocumentEditor(this, Zorv::CodeNode::Animation, 0);
+}
+
+AnimationNode* FamilyAnimations::animation(int index) const
+{
+    return index < 0 ? nullptr : static_cast<AnimationNode*>(at(unsigned(index)));
+}
+
+int FamilyAnimations::indexOfIdentifier(const QString& identifier) const
+{
+    return find(0, identifier);
+}
+
+bool FamilyAnimations::allowsDuplicates(const QString&) const
+{
+    return false;
+}
+
+QString FamilyAnimations::animationTemplate() const
+{
+    return QStringLiteral("animation %1\nframe 0,0  delay -1\n");
+}
+
+/// The last animation reaches to the end of the text. Without a line end there
+/// the library would cut its last character, or join it with what comes behind.
+void FamilyAnimations::ensureFinalLineEnd()
+{
+    Zorv::CodeDocument* text = document();
+    if (text->lastBlock().length() > 1) {
+        text->insert(QStringLiteral("\n"));
+    }
+}
+
+bool FamilyAnimations::duplicateAnimation(int index, const QString& identifier)
+{
+    if (!animation(index) || !(identifier.isEmpty() || isAnimationIdentifier(identifier))) {
+        return false;
+    }
+    const Change change(this, tr("Duplicate animation"));
+    ensureFinalLineEnd();
+    const AnimationNode* source = animation(index);
+    const QString text = renamed(source, identifier);
+    QTextCursor cursor = source->selectAll();
+    cursor.setPosition(cursor.selectionEnd());
+    document()->insertOnCursor(text, cursor);
+    return true;
+}
+
+void FamilyAnimations::remove(unsigned index)
+{
+    const Change change(this, tr("Remove animation"));
+    Animations::remove(index);
+}
+
+void FamilyAnimations::move(unsigned from, unsigned to)
+{
+    const Change change(this, tr("Move animation"));
+    ensureFinalLineEnd();
+    Animations::move(from, to);
+}
+
+void FamilyAnimations::autoOrganize()
+{
+    const Change change(this, tr("Sort animations"));
+    Animations::autoOrganize();
+}
+
+void FamilyAnimations::release()
+{
+    delete this;
+}
+
+bool moveAnimation(FamilyAnimations* list, int from, int to)
+{
+    const int last = list->count() - 1;
+    if (from < 0 || to < 0 || from > last || to > last) {
+        return false;
+    }
+    if (from == to) {
+        return true;
+    }
+    const Change change(list, FamilyAnimations::tr("Move animation"));
+    if (to < last) {
+        list->move(unsigned(from), unsigned(to));
+        return true;
+    }
+    // The last place is reached by moving the last one in front of it.
+    if (from < last - 1) {
+        list->move(unsigned(from), unsigned(last - 1));
+    }
+    list->move(unsigned(last), unsigned(last - 1));
+    return true;
+}
+
+bool isAnimationIdentifier(const QString& text)
+{
+    return isWord(text);
+}
+
+}  // namespace Family

@@ -1,0 +1,79 @@
+#include "familydocument.h"
+
+#include "core/filesystemarchive.h"
+#include "familyanimations.h"
+#include "grammar/linescanner.h"
+#include "nodes/familyparser.h"
+
+namespace Family {
+
+namespace {
+
+constexpr int noClass = 0;
+constexpr int headLine = 1;
+constexpr int bodyLine = 2;
+constexpr int outermost = 4;
+
+}  // namespace
+
+FamilyDocument::FamilyDocument(FileKind kind) : CodeDocument(short(kind))
+{
+    setOption(QStringLiteral("parseCode"), true, false, false);
+    setOption(QStringLiteral("highlightCode"), true, false, false);
+    m_animations = new FamilyAnimations(this);
+    setParser(FamilyParser::instance());
+}
+
+FamilyDocument::~FamilyDocument() = default;
+
+FileKind FamilyDocument::kind() const
+{
+    return FileKind(tag());
+}
+
+FamilyDocument* FamilyDocument::open(const QString& fileName, QString* error)
+{
+    auto document = std::make_unique<FamilyDocument>(fileKindOf(fileName));
+    if (document->fromFile(*Zorv::FileSystemArchive::instance(), fileName, false)) {
+        return document.release();
+    }
+    if (error) {
+        *error = document->errorString();
+    }
+    return nullptr;
+}
+
+int FamilyDocument::projectKind() const
+{
+    return tag();
+}
+
+int FamilyDocument::blockFolding(const QString& line) const
+{
+    LineScanner scanner(line);
+    scanner.skipBlanks();
+    if (scanner.atCodeEnd()) {
+        return noClass;
+    }
+    if (scanner.accept('[')) {
+        scanner.skipBlanks();
+        return scanner.accept('.') ? headLine : headLine | outermost;
+    }
+    const QStringRef word = scanner.word();
+    scanner.skipBlanks();
+    const bool isHead =
+        word == QLatin1String("animation") && scanner.current() != QLatin1Char('=');
+    return isHead ? headLine | outermost : bodyLine;
+}
+
+void FamilyDocument::release()
+{
+    if (m_releasing) {
+        delete this;
+        return;
+    }
+    m_releasing = true;
+    destroy();
+}
+
+}  // namespace Family

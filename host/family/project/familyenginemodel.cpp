@@ -1,0 +1,104 @@
+#include "project/familyenginemodel.h"
+
+#include "grammar/grammar.h"
+
+#include <QIcon>
+#include <QStandardPaths>
+
+namespace Family {
+
+FamilyEngineModel::FamilyEngineModel(QObject* parent) : EngineModel(parent)
+{
+}
+
+FamilyEngineModel* FamilyEngineModel::instance()
+{
+    static FamilyEngineModel model;
+    return &model;
+}
+
+char FamilyEngineModel::commentChar() const
+{
+    return Grammar::CommentChar;
+}
+
+QString FamilyEngineModel::dataPath() const
+{
+    const QString found = QStandardPaths::locate(
+        QStandardPaths::GenericDataLocation, QStringLiteral("zorv"), QStandardPaths::LocateDirectory);
+    return found.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+                                 + QStringLiteral("/zorv")
+                           : found;
+}
+
+QString FamilyEngineModel::identifier() const
+{
+    return QStringLiteral("zorv");
+}
+
+QString FamilyEngineModel::executableName() const
+{
+    return QStringLiteral("zorv-player");
+}
+
+QString FamilyEngineModel::displayName() const
+{
+    return tr("Zorv reference family");
+}
+
+int FamilyEngineModel::engineCount() const
+{
+    return m_engines.size();
+}
+
+Zorv::EngineInfo FamilyEngineModel::engine(unsigned index) const
+{
+    return m_engines.value(int(index));
+}
+
+void FamilyEngineModel::setEngines(const QVector<Zorv::EngineInfo>& engines)
+{
+    beginResetModel();
+    m_engines = engines;
+    endResetModel();
+}
+
+QModelIndex FamilyEngineModel::index(int row, int column, const QModelIndex& parent) const
+{
+    return hasIndex(row, column, parent) ? createIndex(row, column) : QModelIndex();
+}
+
+QModelIndex FamilyEngineModel::parent(const QModelIndex&) const
+{
+    return {};
+}
+
+int FamilyEngineModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_engines.size();
+}
+
+int FamilyEngineModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : 1;
+}
+
+QVariant FamilyEngineModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_engines.size()) {
+        return {};
+    }
+    const Zorv::EngineInfo& engine = m_engines.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return engine.name;
+    case Qt::ToolTipRole:
+        return engine.executable;
+    case Qt::DecorationRole:
+        return engine.icon.isEmpty() ? QVariant() : QVariant(QIcon(engine.icon));
+    default:
+        return {};
+    }
+}
+
+}  // namespace Family

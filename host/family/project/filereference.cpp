@@ -1,0 +1,118 @@
+#include "project/filereference.h"
+
+#include "familydocument.h"
+#include "grammar/keyinfo.h"
+#include "nodes/groupnode.h"
+#include "nodes/lineedit.h"
+#include "nodes/valuenode.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace Family {
+
+namespace {
+
+using Zorv::FileID;
+
+const struct
+{
+    const char* key;
+    FileID::Type type;
+} listedFiles[] = {
+    {"sprites", FileID::Sprites},       {"sounds", FileID::Sounds},     {"code", FileID::Code},
+    {"animations", FileID::Animations}, {"commands", FileID::Commands},
+};
+
+FileID::Type typeOf(const GroupNode* group, const QString& key)
+{
+    if (group->name() == QLatin1String("files")) {
+        for (const auto& row : listedFiles) {
+            if (key == QLatin1String(row.key)) {
+                return row.type;
+            }
+        }
+    }
+    return ResourceFile;
+}
+
+/// The columns of a text within its quotes.
+void locate(const ValueNode* value, FileReference* reference)
+{
+    const NodeLine line(value);
+    if (const LinePart* part = line.details.part(LinePart::Value)) {
+        reference->column = part->start;
+        reference->length = part->end - part->start;
+    }
+}
+
+void collect(const GroupNode* group, QVector<FileReference>* list)
+{
+    for (int i = 0; i < group->childCount(); ++i) {
+        const Zorv::CodeNode* child = group->childAt(unsigned(i));
+        if (child->type() == Zorv::CodeNode::Group) {
+            collect(static_cast<const GroupNode*>(child), list);
+            continue;
+        }
+        const auto* value = static_cast<const ValueNode*>(child);
+        const QString path = value->key()->form == Form::Path ? value->value().toString()
+                                                              : QString();
+        if (!path.isEmpty()) {
+            list->append({typeOf(group, value->name()), path, value->firstLine(), 0, 0});
+            locate(value, &list->last());
+        }
+    }
+}
+
+/// The path without "." and "..", and with links followed as far as it exists.
+QString resolved(const QString& path)
+{
+    QString existing = QDir::cleanPath(path);
+    QString rest;
+    while (!QFileInfo::exists(existing)) {
+        const QString up = QFileInfo(existing).path();
+        if (up == existing) {
+            break;
+        }
+        rest.prepend(QLatin1Char('/') + QFileInfo(existing).fileName());
+        existing = up;
+    }
+    const QString canonical = QFileInfo(existing).canonicalFilePath();
+    return (canonical.isEmpty() ? existing : canonical) + rest;
+}
+
+}  // namespace
+
+QVector<FileReference> fileReferences(const FamilyDocument* document)
+{
+    QVector<FileReference> list;
+    for (int i = 0; i < document->childCount(); ++i) {
+        const Zorv::CodeNode* child = document->childAt(unsigned(i));
+        if (child->type() == Zorv::CodeNode::Group) {
+            collect(static_cast<const GroupNode*>(child), &list);
+        }
+    }
+    return list;
+}
+
+PathFault pathFault(const QString& gameFolder, const QString& mainFile, const QString& path)
+{
+    if (path.trimmed().isEmpty()) {
+        return PathFault::Empty;
+    }
+    if (path.contains(QChar(QChar::Null)) || QDir::isAbsolutePath(path)) {
+        return PathFault::LeavesGame;
+    }
+    const QString target =
+        resolved(QFileInfo(mainFile).absolutePath() + QLatin1Char('/') + path);
+    if (target == resolved(QFileInfo(mainFile).absoluteFilePath())) {
+        return PathFault::NamesItself;
+    }
+    QString root = resolved(QFileInfo(gameFolder).absoluteFilePath());
+    if (!root.endsWith(QLatin1Char('/'))) {
+        root += QLatin1Char('/');
+    }
+    return target.startsWith(root) ? PathFault::Fine : PathFault::LeavesGame;
+}
+
+}  // namespace Family
