@@ -10,8 +10,12 @@ namespace Zorv {
 /// name; every write and the flush are checked, and the new file takes the old
 /// one's place when the device is given back. Until then, and after any
 /// failure, the old file is whole. The mode of the old file is kept, and a
-/// symbolic link is followed, not replaced. A target that exists and is not a
-/// regular file (a pipe, a device) is refused.
+/// symbolic link is followed, not replaced. Of a file with several hard links
+/// only the one that was opened changes. A target that exists and is not a
+/// regular file (a pipe, a device), or that is write-protected, is refused.
+///
+/// A process that is killed leaves its hidden file behind; the next save of the
+/// same target by whatever process removes it.
 ///
 /// Opening to append, or to read and write, starts from a copy of the old
 /// content; the same promise holds.
