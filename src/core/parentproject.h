@@ -95,11 +95,12 @@ public:
 
     /// Registers the project of a main document in the folder of that, which is
     /// added if it is missing; a document without a file name goes to the root.
+    ///
     /// From then on the tree follows the files that the document refers to, and
     /// is touched only when they change. When the project is released its node
-    /// goes; a listed folder or file is then shown as a closed project again. The first one makes the backup
-    /// "Auto", if the setting "backup_onload" is true and the document has a
-    /// file name.
+    /// goes; a listed folder or file is then shown as a closed project again.
+    /// The first project makes the backup "Auto", if the setting
+    /// "backup_onload" is true and the document has a file name.
     void addRef(CodeDocument* main);
 
     /// Adds a folder, with every missing one on the way, which all get `type`
