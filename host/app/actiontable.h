@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QVector>
+
+namespace App {
+
+class MainWindow;
+
+/// What must be there for an action to be of use; `MainWindow::presentNeeds()`
+/// tells what is.
+enum Need {
+    NoNeed = 0,
+    NeedsGame = 1,
+    NeedsProject = 2,
+    NeedsText = 4,
+    NeedsUnsaved = 8,
+    NeedsUndo = 16,
+    NeedsRedo = 32,
+    NeedsSelection = 64,
+    NeedsAnimation = 128,     ///< a current row in the list of animations
+    NeedsAnimations = 256     ///< any row there
+};
+
+/// One action of the window: a row of the table.
+struct ActionRow
+{
+    const char* name;  ///< the object name of the action; null for a separator
+    const char* menu;
+    const char* text;
+    QKeySequence::StandardKey standardKey;
+    const char* shortcut;  ///< portable form, where there is no standard key
+    int needs;             ///< of `Need`
+    void (MainWindow::*slot)();
+};
+
+/// One menu: a row of the table.
+struct MenuRow
+{
+    const char* name;
+    const char* text;
+};
+
+/// In the order in which they are shown.
+const QVector<ActionRow>& actionTable();
+const QVector<MenuRow>& menuTable();
+
+}  // namespace App

@@ -1,0 +1,97 @@
+#include "app/application.h"
+
+#include "app/codeedit.h"
+#include "app/mainwindow.h"
+#include "app/screenshot.h"
+#include "app/windowdialogs.h"
+#include "app/windowinterface.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QIcon>
+#include <QSettings>
+#include <QTextStream>
+
+namespace App {
+
+namespace {
+
+constexpr int WrongUsage = 2;
+constexpr int NotDone = 3;
+
+struct Usage
+{
+    QString picture;
+    QString game;
+    QString error;
+};
+
+Usage parse(const QStringList& arguments)
+{
+    Usage usage;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString& argument = arguments[i];
+        if (argument == QLatin1String("-platform") || argument == QLatin1String("-style")) {
+            ++i;  // Qt has read it.
+        } else if (argument == QLatin1String("--screenshot")) {
+            usage.picture = arguments.value(++i);
+            if (usage.picture.isEmpty()) {
+                usage.error = QStringLiteral("--screenshot needs the name of a picture");
+            }
+        } else if (argument.startsWith(QLatin1Char('-')) || !usage.game.isEmpty()) {
+            usage.error = QStringLiteral("what is meant by '%1'? See 'zorv help'").arg(argument);
+        } else {
+            usage.game = argument;
+        }
+    }
+    return usage;
+}
+
+void setUpLook()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setStyleHint(QFont::Monospace);
+    setCodeFont(font);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zorvl_icons/icons/anim.png")));
+}
+
+int drawPicture(const Usage& usage)
+{
+    WindowInterface host;
+    Family::startHost(&host);
+    const SilentDialogs dialogs;
+    MainWindow window;
+    host.setWindow(&window);
+    QString error;
+    if (drawWindow(&window, usage.game, usage.picture, &error)) {
+        return 0;
+    }
+    QTextStream(stderr) << "zorv: " << error << '\n';
+    return NotDone;
+}
+
+}  // namespace
+
+int runWindow(QApplication& application, const QStringList& arguments)
+{
+    const Usage usage = parse(arguments);
+    if (!usage.error.isEmpty()) {
+        QTextStream(stderr) << "zorv: " << usage.error << '\n';
+        return WrongUsage;
+    }
+    setUpLook();
+    if (!usage.picture.isEmpty()) {
+        return drawPicture(usage);
+    }
+    QSettings settings;
+    WindowInterface host(&settings);
+    Family::startHost(&host);
+    const WindowDialogs dialogs;
+    MainWindow window;
+    host.setWindow(&window);
+    window.show();
+    window.restoreWork(usage.game);
+    return application.exec();
+}
+
+}  // namespace App

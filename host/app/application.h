@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QStringList>
+
+class QApplication;
+
+namespace App {
+
+/// Shows the window and runs until it is closed; gives the exit status of the
+/// program. `arguments`, without the program's name, are
+///
+///     [GAME]                        the game to open, else the last one
+///     --screenshot FILE.png [GAME]  draws the window to a picture and ends
+///
+/// A picture shows the game with a file that has problems in front, if there is
+/// one; settings of the person are neither read nor written, and nothing waits for
+/// an answer. The status is 0, 2 for wrong usage, 3 if the picture cannot be made.
+int runWindow(QApplication& application, const QStringList& arguments);
+
+}  // namespace App

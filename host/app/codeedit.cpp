@@ -1,0 +1,192 @@
+#include "app/codeedit.h"
+
+#include "code/codedoc/codeblockdata.h"
+#include "family/familydocument.h"
+
+#include <QHelpEvent>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTimer>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace App {
+
+using Zorv::CodeBlockData;
+using Zorv::CodeDocument;
+
+namespace {
+
+constexpr int TabWidth = 4;
+
+// The formats of tokens are made for a bright ground, whatever the desktop's theme is.
+const QColor Ground(Qt::white);
+const QColor Ink(Qt::black);
+const QColor CurrentLine(0xf0, 0xf4, 0xfa);
+
+QFont& codeFont()
+{
+    static QFont font;
+    return font;
+}
+
+QPalette codePalette(QPalette palette)
+{
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Base, Ground);
+        palette.setColor(group, QPalette::Text, Ink);
+    }
+    return palette;
+}
+
+}  // namespace
+
+CodeEdit::CodeEdit(Family::FamilyDocument* document, QWidget* parent)
+    : QPlainTextEdit(parent), m_document(document)
+{
+    document->setDefaultFont(codeFont());
+    setFont(codeFont());
+    setDocument(document);
+    setPalette(codePalette(palette()));
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setTabStopDistance(TabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
+    setAccessibleName(tr("Text of %1").arg(document->title()));
+    m_length = document->characterCount();
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &CodeEdit::markCurrentLine);
+    connect(document, &QTextDocument::contentsChange, this, &CodeEdit::keepPlace);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (!m_isRestoring) {
+            m_place = place();
+        }
+    });
+    markCurrentLine();
+}
+
+void CodeEdit::goTo(int line, int column, int length)
+{
+    QTextBlock block = document()->findBlockByNumber(std::max(line, 0));
+    if (!block.isValid()) {
+        block = document()->lastBlock();
+    }
+    const int last = block.length() - 1;
+    const int start = std::min(std::max(column, 0), last);
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + start);
+    cursor.setPosition(block.position() + std::min(start + length, last), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    centerCursor();
+}
+
+TextPlace CodeEdit::place() const
+{
+    const QTextCursor cursor = textCursor();
+    return {cursor.blockNumber(), cursor.positionInBlock(), firstVisibleBlock().blockNumber()};
+}
+
+void CodeEdit::setPlace(const TextPlace& place)
+{
+    goTo(place.line, place.column);
+    verticalScrollBar()->setValue(place.topLine);
+    ensureCursorVisible();
+}
+
+QString CodeEdit::problemsAt(const QPoint& position) const
+{
+    const QTextCursor cursor = cursorForPosition(position);
+    const CodeBlockData* line = CodeBlockData::testBlockData(cursor.block());
+    if (!line || !cursorRect(cursor).adjusted(-width(), 0, fontMetrics().averageCharWidth(), 0)
+                     .contains(position)) {
+        return {};
+    }
+    QStringList texts;
+    const int column = cursor.positionInBlock();
+    for (const CodeBlockData::SyntaxMessage& message : line->syntaxMessages()) {
+        if (message.start <= column && column <= message.end) {
+            texts.append(message.text);
+        }
+    }
+    return texts.join(QLatin1Char('\n'));
+}
+
+bool CodeEdit::viewportEvent(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip) {
+        return QPlainTextEdit::viewportEvent(event);
+    }
+    const auto* help = static_cast<QHelpEvent*>(event);
+    // A text of the file in a message is no markup.
+    const QString text = problemsAt(help->pos()).toHtmlEscaped();
+    QToolTip::showText(help->globalPos(),
+                       text.isEmpty() ? text : QLatin1String("<qt>") + text + QLatin1String("</qt>"),
+                       viewport());
+    return true;
+}
+
+void CodeEdit::keyPressEvent(QKeyEvent* event)
+{
+    // Qt would write U+2028, which ends no line of the file.
+    if (event->matches(QKeySequence::InsertLineSeparator)) {
+        textCursor().insertBlock();
+        ensureCursorVisible();
+        return;
+    }
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+QMimeData* CodeEdit::createMimeDataFromSelection() const
+{
+    // Qt's own would turn non-breaking blanks into plain ones.
+    QString text = textCursor().selectedText();
+    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    auto* mime = new QMimeData;
+    mime->setText(text);
+    return mime;
+}
+
+void CodeEdit::markCurrentLine()
+{
+    QTextEdit::ExtraSelection line;
+    line.cursor = textCursor();
+    line.cursor.clearSelection();
+    line.format.setBackground(CurrentLine);
+    line.format.setProperty(QTextFormat::FullWidthSelection, true);
+    setExtraSelections({line});
+    if (!m_isRestoring) {
+        m_place = place();
+    }
+}
+
+/// A file that is read again empties the document first, end of the last line
+/// included, which no edit of a person can do; cursors go to the start.
+void CodeEdit::keepPlace(int from, int removed, int added)
+{
+    const bool isReset = from == 0 && added == 0 && removed >= m_length;
+    m_length = document()->characterCount();
+    if (!isReset || m_isRestoring) {
+        return;
+    }
+    m_isRestoring = true;
+    QTimer::singleShot(0, this, [this, place = m_place] {
+        m_isRestoring = false;
+        setPlace(place);
+    });
+}
+
+void setCodeFont(const QFont& font)
+{
+    codeFont() = font;
+    for (int i = 0; i < Zorv::CodeParserSyntax::TokenTypeCount; ++i) {
+        const auto type = Zorv::CodeParserSyntax::TokenType(i);
+        QTextCharFormat format = CodeDocument::syntaxFormat(type);
+        // The font of the document, whatever it is, with weight and slant of the token.
+        format.clearProperty(QTextFormat::FontFamily);
+        format.clearProperty(QTextFormat::FontFamilies);
+        format.clearProperty(QTextFormat::FontPointSize);
+        format.clearProperty(QTextFormat::FontFixedPitch);
+        CodeDocument::setSyntaxFormat(type, format);
+    }
+}
+
+}  // namespace App

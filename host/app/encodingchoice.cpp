@@ -1,0 +1,91 @@
+#include "app/encodingchoice.h"
+
+#include "code/codecs/textcodecs.h"
+#include "core/dialogs/dialogs.h"
+#include "family/familydocument.h"
+#include "operations/documentfile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace App {
+
+using Family::FamilyDocument;
+using Zorv::Dialogs;
+using Zorv::TextCodecs;
+
+namespace {
+
+enum Answer { GiveUp = -1, ReadAgain = 0, KeepText = 1 };
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("App::EncodingChoice", text);
+}
+
+Answer askWhatFor(const FamilyDocument* document, const QString& codec)
+{
+    if (document->fileName().isEmpty() || !QFileInfo::exists(document->fileName())) {
+        return KeepText;
+    }
+    const QString file = QDir::toNativeSeparators(document->fileName());
+    const QString text =
+        document->isModified()
+            ? tr("%1 has unsaved changes. They are lost if it is read again in %2.").arg(file, codec)
+            : tr("%1 can be read again in %2, or keep its text and be saved in it.")
+                  .arg(file, codec);
+    const QStringList choices{tr("Read the file again in %1").arg(codec),
+                              tr("Keep the text, and save it in %1").arg(codec)};
+    return Answer(Dialogs::instance()->choose(tr("Encoding"), text, choices,
+                                              document->isModified() ? KeepText : ReadAgain));
+}
+
+void readAgain(FamilyDocument* document, int codec)
+{
+    if (!document->fromFile(*document->archive(), document->fileName(), codec, false)) {
+        Dialogs::instance()->error(tr("Encoding"), document->errorString());
+        return;
+    }
+    Family::ensureFaithful(document);
+}
+
+void keepText(FamilyDocument* document, int codec)
+{
+    document->setCodecId(codec);
+    // The file on disk is another one now, though no character has changed.
+    document->setModified(true);
+    const QString obstacle = Family::encodingObstacle(document);
+    if (!obstacle.isEmpty()) {
+        Dialogs::instance()->warning(tr("Encoding"), obstacle);
+    }
+}
+
+}  // namespace
+
+void chooseEncoding(FamilyDocument* document)
+{
+    QStringList names;
+    for (int i = 0; i < TextCodecs::count(); ++i) {
+        names.append(TextCodecs::name(i));
+    }
+    const int codec = Dialogs::instance()->choose(tr("Encoding"), tr("Encoding of the file:"),
+                                                  names, document->codecId());
+    if (codec < 0) {
+        return;
+    }
+    switch (askWhatFor(document, names[codec])) {
+    case ReadAgain:
+        readAgain(document, codec);
+        break;
+    case KeepText:
+        if (codec != document->codecId()) {
+            keepText(document, codec);
+        }
+        break;
+    case GiveUp:
+        break;
+    }
+}
+
+}  // namespace App

@@ -1,0 +1,146 @@
+#include "app/gametree.h"
+
+#include "family/project/familyparentproject.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStyledItemDelegate>
+#include <QTimer>
+
+namespace App {
+
+using Zorv::ParentProject;
+
+namespace {
+
+const ParentProject* gameOf(const QModelIndex& index)
+{
+    return static_cast<const ParentProject*>(index.model());
+}
+
+/// Main files look like files, and those of open projects are bold.
+class PathDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const ParentProject::Path* path = gameOf(index)->itemPath(index);
+        if (path->isProject() && !path->isDirectory()) {
+            option->icon = QIcon(QStringLiteral(":/zorvl_icons/icons/code.png"));
+        }
+        option->font.setBold(path->isFile() && path->fileID().has(Zorv::FileID::MainCode));
+    }
+};
+
+}  // namespace
+
+GameTree::GameTree(QWidget* parent) : QTreeView(parent)
+{
+    setAccessibleName(tr("Projects and files of the game"));
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setExpandsOnDoubleClick(true);
+    setItemDelegate(new PathDelegate(this));
+    connect(this, &QTreeView::activated, this, &GameTree::request);
+    connect(this, &QTreeView::expanded, this,
+            [this](const QModelIndex& index) { m_expanded.insert(pathOf(index)); });
+    connect(this, &QTreeView::collapsed, this,
+            [this](const QModelIndex& index) { m_expanded.remove(pathOf(index)); });
+}
+
+void GameTree::setGame(Family::FamilyParentProject* game)
+{
+    if (m_game) {
+        m_game->disconnect(this);
+    }
+    m_game = game;
+    m_expanded.clear();
+    m_current.clear();
+    if (game) {
+        // Before the view's own connections, which change the current row.
+        connect(game, &QAbstractItemModel::rowsAboutToBeRemoved, this, &GameTree::restoreSoon);
+        connect(game, &QAbstractItemModel::rowsAboutToBeInserted, this, &GameTree::restoreSoon);
+    }
+    setModel(game);
+    if (!game) {
+        return;
+    }
+    connect(selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& current) {
+                if (!m_isChanging && current.isValid()) {
+                    m_current = pathOf(current);
+                }
+            });
+    // The folders of characters and stages, and those of the projects in them.
+    expandToDepth(1);
+}
+
+QString GameTree::pathOf(const QModelIndex& index) const
+{
+    const ParentProject::Path* path = m_game ? m_game->itemPath(index) : nullptr;
+    if (!path) {
+        return {};
+    }
+    // A main file of a closed project gives the path of its folder.
+    const bool isMainFile = path->isProject() && !path->isDirectory();
+    return isMainFile ? path->absolutePath() + path->pathName() : path->absolutePath();
+}
+
+QModelIndex GameTree::indexOf(const QString& path) const
+{
+    return m_game ? m_game->indexOf(path) : QModelIndex();
+}
+
+void GameTree::reveal(const QString& fileName)
+{
+    restore();
+    const QModelIndex index = indexOf(fileName);
+    if (index.isValid()) {
+        expand(index.parent());
+        setCurrentIndex(index);
+    }
+}
+
+void GameTree::request(const QModelIndex& index)
+{
+    const ParentProject::Path* path = m_game ? m_game->itemPath(index) : nullptr;
+    if (path && !path->isDirectory()) {
+        emit fileRequested(QDir::cleanPath(pathOf(index)));
+    }
+}
+
+void GameTree::restoreSoon()
+{
+    if (!m_isChanging) {
+        m_isChanging = true;
+        QTimer::singleShot(0, this, &GameTree::restore);
+    }
+}
+
+void GameTree::restore()
+{
+    if (!m_isChanging) {
+        return;
+    }
+    // Outer folders first: the paths of what lies in them are longer.
+    QStringList paths(m_expanded.begin(), m_expanded.end());
+    paths.sort();
+    for (const QString& path : qAsConst(paths)) {
+        const QModelIndex index = indexOf(path);
+        if (index.isValid()) {
+            setExpanded(index, true);
+        }
+    }
+    const QModelIndex current = indexOf(m_current);
+    if (current.isValid() && current != currentIndex()) {
+        selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect);
+    }
+    m_isChanging = false;
+}
+
+}  // namespace App

@@ -1,0 +1,409 @@
+#include "app/mainwindow.h"
+
+#include "app/actiontable.h"
+#include "app/animationpanel.h"
+#include "app/codeedit.h"
+#include "app/documenttabs.h"
+#include "app/gamesession.h"
+#include "app/gametree.h"
+#include "app/linebar.h"
+#include "app/messagepanel.h"
+#include "app/nodepanel.h"
+#include "app/recentfolders.h"
+#include "app/statusfields.h"
+#include "app/unsavedwork.h"
+#include "app/windowstate.h"
+#include "core/dialogs/dialogs.h"
+#include "family/familydocument.h"
+#include "family/project/familyproject.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QDockWidget>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTextBlock>
+#include <QVBoxLayout>
+
+namespace App {
+
+using Family::FamilyDocument;
+using Family::FamilyProject;
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget),
+      m_tabs(new DocumentTabs), m_lineBar(new LineBar), m_gameTree(new GameTree),
+      m_nodePanel(new NodePanel), m_animationPanel(new AnimationPanel),
+      m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar()))
+{
+    makeCentre();
+    makeActions();
+    makeDocks();
+    connectParts();
+    connectPanels();
+    currentDocumentChanged(nullptr);
+    WindowState::restoreShape(this);
+}
+
+// Views go before what they show.
+MainWindow::~MainWindow()
+{
+    m_tabs->blockSignals(true);
+    m_session->disconnect(this);
+    m_status->setDocument(nullptr);
+    m_nodePanel->setDocument(nullptr);
+    m_animationPanel->setDocument(nullptr);
+    m_messagePanel->setMessages(nullptr);
+    m_gameTree->setGame(nullptr);
+    delete m_tabs;
+    delete m_session;
+}
+
+void MainWindow::makeCentre()
+{
+    auto* hint = new QLabel(tr("Open a game folder with Ctrl+O.\n"
+                               "A double click in the tree of projects shows a text."));
+    hint->setAlignment(Qt::AlignCenter);
+    hint->setEnabled(false);
+    m_centre->addWidget(hint);
+    m_centre->addWidget(m_tabs);
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_centre);
+    layout->addWidget(m_lineBar);
+    setCentralWidget(centre);
+}
+
+void MainWindow::makeDocks()
+{
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    QDockWidget* projects = addDock(m_gameTree, QStringLiteral("projects"), tr("Projects"),
+                                    Qt::LeftDockWidgetArea);
+    QDockWidget* nodes =
+        addDock(m_nodePanel, QStringLiteral("nodes"), tr("Nodes"), Qt::RightDockWidgetArea);
+    QDockWidget* animations = addDock(m_animationPanel, QStringLiteral("animations"),
+                                      tr("Animations"), Qt::RightDockWidgetArea);
+    QDockWidget* messages =
+        addDock(m_messagePanel, QStringLiteral("messages"), tr("Messages"), Qt::BottomDockWidgetArea);
+    resizeDocks({projects, nodes}, {220, 280}, Qt::Horizontal);
+    resizeDocks({messages}, {150}, Qt::Vertical);
+    resizeDocks({nodes, animations}, {320, 260}, Qt::Vertical);
+}
+
+QDockWidget* MainWindow::addDock(QWidget* widget, const QString& name, const QString& title,
+                                 Qt::DockWidgetArea area)
+{
+    auto* dock = new QDockWidget(title, this);
+    dock->setObjectName(name);
+    dock->setWidget(widget);
+    addDockWidget(area, dock);
+    menuByName("view")->addAction(dock->toggleViewAction());
+    return dock;
+}
+
+void MainWindow::makeActions()
+{
+    for (const MenuRow& row : menuTable()) {
+        QMenu* menu = menuBar()->addMenu(QCoreApplication::translate("App::Menus", row.text));
+        menu->setObjectName(QLatin1String(row.name));
+        m_menus.insert(row.name, menu);
+    }
+    for (const ActionRow& row : actionTable()) {
+        QMenu* menu = m_menus.value(row.menu);
+        if (!row.name) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* action = menu->addAction(QCoreApplication::translate("App::Actions", row.text));
+        action->setObjectName(QLatin1String(row.name));
+        if (row.shortcut) {
+            action->setShortcut(
+                QKeySequence(QLatin1String(row.shortcut), QKeySequence::PortableText));
+        } else if (row.standardKey != QKeySequence::UnknownKey) {
+            action->setShortcuts(row.standardKey);
+        }
+        connect(action, &QAction::triggered, this, row.slot);
+        m_actions.insert(row.name, action);
+    }
+    makeRecentMenu();
+}
+
+void MainWindow::makeRecentMenu()
+{
+    m_recentMenu = new QMenu(tr("&Recent game folders"), this);
+    const QList<QAction*> actions = menuByName("file")->actions();
+    menuByName("file")->insertMenu(actions.at(1), m_recentMenu);
+    connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
+    fillRecentMenu();
+}
+
+void MainWindow::fillRecentMenu()
+{
+    m_recentMenu->clear();
+    const QStringList folders = RecentFolders::list();
+    for (const QString& folder : folders) {
+        QString text = QDir::toNativeSeparators(folder);
+        text.replace(QLatin1Char('&'), QLatin1String("&&"));
+        m_recentMenu->addAction(text, this, [this, folder] { openPath(folder); });
+    }
+    m_recentMenu->addSeparator();
+    m_recentMenu->addAction(tr("&Clear the list"), this, [this] {
+        RecentFolders::clear();
+        fillRecentMenu();
+    })->setEnabled(!folders.isEmpty());
+    m_recentMenu->setEnabled(true);
+}
+
+void MainWindow::connectParts()
+{
+    connect(m_session, &GameSession::folderOpened, this, [this] {
+        m_gameTree->setGame(m_session->game());
+        updateActions();
+    });
+    connect(m_session, &GameSession::folderAboutToClose, this,
+            [this] { m_gameTree->setGame(nullptr); });
+    connect(m_session, &GameSession::projectOpened, this, &MainWindow::updateMessages);
+    connect(m_session, &GameSession::projectAboutToClose, this, &MainWindow::forgetProject);
+    connect(m_tabs, &DocumentTabs::currentDocumentChanged, this,
+            &MainWindow::currentDocumentChanged);
+    connect(m_tabs, &DocumentTabs::closeRequested, this, &MainWindow::closeDocument);
+    connect(m_tabs, &DocumentTabs::cursorMoved, this, &MainWindow::cursorMoved);
+    connect(m_tabs, &DocumentTabs::stateChanged, this, [this] {
+        updateTitle();
+        updateActions();
+    });
+}
+
+void MainWindow::connectPanels()
+{
+    connect(m_gameTree, &GameTree::fileRequested, this, &MainWindow::openFile);
+    connect(m_nodePanel, &NodePanel::lineRequested, this,
+            [this](int line) { showPlace(m_tabs->currentDocument(), line, 0, 0); });
+    connect(m_animationPanel, &AnimationPanel::lineRequested, this,
+            [this](int line, int column, int length) {
+                showPlace(m_tabs->currentDocument(), line, column, length);
+            });
+    connect(m_animationPanel, &AnimationPanel::stateChanged, this, &MainWindow::updateActions);
+    connect(m_messagePanel, &MessagePanel::placeRequested, this,
+            [this](Zorv::CodeDocument* document, int line, int column) {
+                showPlace(document, line, column, 0);
+            });
+    connect(m_messagePanel, &MessagePanel::summaryChanged, this,
+            [this] { m_status->showField(1, m_messagePanel->summary()); });
+    connect(m_status, &StatusFields::problemsClicked, m_messagePanel, [this] {
+        m_messagePanel->parentWidget()->show();
+        m_messagePanel->setFocus();
+    });
+    connect(m_status, &StatusFields::encodingClicked, this, &MainWindow::changeEncoding);
+    connect(m_status, &StatusFields::placeClicked, this, &MainWindow::askForLine);
+    connect(m_lineBar, &LineBar::lineChosen, this,
+            [this](int line) { showPlace(m_tabs->currentDocument(), line, 0, 0); });
+    connect(m_lineBar, &LineBar::closed, this, [this] {
+        if (CodeEdit* edit = m_tabs->currentEdit()) {
+            edit->setFocus();
+        }
+    });
+}
+
+bool MainWindow::openPath(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.isFile()) {
+        return openFolder(path);
+    }
+    // The folders of a game stand beside each other: the root is above them.
+    QDir root = info.absoluteDir();
+    for (QDir above = root; above.cdUp();) {
+        if (above.exists(QStringLiteral("characters")) || above.exists(QStringLiteral("stages"))) {
+            root = above;
+            break;
+        }
+    }
+    return openFolder(root.path()) && openFile(info.absoluteFilePath());
+}
+
+bool MainWindow::openFolder(const QString& folder)
+{
+    if (!askAboutUnsaved(m_session->modifiedDocuments())) {
+        return false;
+    }
+    QString error;
+    if (!m_session->openFolder(folder, &error)) {
+        Zorv::Dialogs::instance()->error(tr("Open game folder"), error);
+        return false;
+    }
+    RecentFolders::add(folder);
+    updateTitle();
+    m_gameTree->setFocus();
+    return true;
+}
+
+bool MainWindow::openFile(const QString& fileName)
+{
+    FamilyDocument* document = m_session->document(fileName, currentProject());
+    if (!document && isMainFile(Family::fileKindOf(fileName))) {
+        return openProject(fileName);
+    }
+    if (!document) {
+        document = m_session->document(fileName, currentProject(), true);
+    }
+    if (!document) {
+        return tellWhyNot(fileName);
+    }
+    showDocument(document);
+    return true;
+}
+
+bool MainWindow::openProject(const QString& mainFile)
+{
+    QString error;
+    FamilyProject* project = m_session->openProject(mainFile, &error);
+    if (!project) {
+        Zorv::Dialogs::instance()->error(tr("Open project"), error);
+        return false;
+    }
+    showDocument(project->mainDocument());
+    m_gameTree->reveal(project->fileName());
+    if (!project->loadErrors().isEmpty()) {
+        Zorv::Dialogs::instance()->warning(tr("Open project"),
+                                           project->loadErrors().join(QLatin1Char('\n')));
+    }
+    return true;
+}
+
+bool MainWindow::tellWhyNot(const QString& fileName)
+{
+    const QString shown = m_session->shownPath(fileName);
+    if (QFileInfo::exists(fileName)) {
+        statusBar()->showMessage(tr("%1 is no code file, and cannot be shown as text.").arg(shown));
+    } else {
+        Zorv::Dialogs::instance()->warning(
+            tr("Open file"), tr("There is no file %1. Correct the path in the main file of the "
+                                "project, or put the file there.")
+                                 .arg(shown));
+    }
+    return false;
+}
+
+void MainWindow::forgetProject(FamilyProject* project)
+{
+    const QList<FamilyDocument*> documents = project->documents();
+    for (const FamilyDocument* document : documents) {
+        m_tabs->closeDocument(document);
+    }
+    if (m_messagePanel->messages() == project->messages()) {
+        m_messagePanel->setMessages(nullptr);
+    }
+    // The project itself goes after this: what is left is looked at then.
+    QMetaObject::invokeMethod(this, &MainWindow::updateMessages, Qt::QueuedConnection);
+}
+
+void MainWindow::currentDocumentChanged(FamilyDocument* document)
+{
+    m_centre->setCurrentIndex(m_tabs->count() > 0 ? 1 : 0);
+    m_nodePanel->setDocument(document);
+    m_animationPanel->setDocument(document);
+    m_status->setDocument(document);
+    m_lineBar->hide();
+    updateMessages();
+    updateTitle();
+    updateActions();
+    cursorMoved();
+}
+
+void MainWindow::cursorMoved()
+{
+    if (const CodeEdit* edit = m_tabs->currentEdit()) {
+        const TextPlace place = edit->place();
+        m_status->setPlace(place.line, place.column);
+        m_nodePanel->followCursor(place.line);
+        m_animationPanel->followCursor(place.line);
+    }
+}
+
+void MainWindow::updateMessages()
+{
+    const FamilyProject* project = currentProject();
+    m_messagePanel->setMessages(project ? project->messages() : nullptr);
+    m_status->showField(1, m_messagePanel->summary());
+    updateActions();
+}
+
+void MainWindow::updateTitle()
+{
+    const FamilyDocument* document = m_tabs->currentDocument();
+    QString text = document ? m_session->shownPath(document->fileName()) + QLatin1String("[*]")
+                            : QString();
+    const QString game = QDir(m_session->folder()).dirName();
+    for (const QString& part : {m_session->game() ? game : QString(), QStringLiteral("Zorv")}) {
+        text += !text.isEmpty() && !part.isEmpty() ? QLatin1String(" - ") + part : part;
+    }
+    setWindowTitle(text);
+    setWindowModified(document && document->isModified());
+}
+
+void MainWindow::updateActions()
+{
+    const int present = presentNeeds();
+    for (const ActionRow& row : actionTable()) {
+        if (row.name) {
+            m_actions.value(row.name)->setEnabled((row.needs & ~present) == 0);
+        }
+    }
+}
+
+int MainWindow::presentNeeds() const
+{
+    const CodeEdit* edit = m_tabs->currentEdit();
+    const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
+    return when(m_session->game(), NeedsGame) | when(currentProject(), NeedsProject) |
+           when(edit, NeedsText) | when(!m_session->modifiedDocuments().isEmpty(), NeedsUnsaved) |
+           when(edit && edit->document()->isUndoAvailable(), NeedsUndo) |
+           when(edit && edit->document()->isRedoAvailable(), NeedsRedo) |
+           when(edit && edit->textCursor().hasSelection(), NeedsSelection) |
+           when(m_animationPanel->hasCurrent(), NeedsAnimation) |
+           when(m_animationPanel->count() > 0, NeedsAnimations);
+}
+
+FamilyProject* MainWindow::currentProject() const
+{
+    FamilyProject* project = projectOf(m_tabs->currentDocument());
+    return project || m_session->projects().isEmpty() ? project : m_session->projects().last();
+}
+
+QMenu* MainWindow::menuByName(const char* name) const
+{
+    return m_menus.value(name);
+}
+
+QAction* MainWindow::actionByName(const char* name) const
+{
+    return m_actions.value(name);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!askAboutUnsaved(m_session->modifiedDocuments())) {
+        event->ignore();
+        return;
+    }
+    WindowState::save(this);
+    event->accept();
+}
+
+void MainWindow::restoreWork(const QString& otherwise)
+{
+    WindowState::restoreWork(this, otherwise);
+}
+
+}  // namespace App

@@ -1,0 +1,148 @@
+#pragma once
+
+#include <QHash>
+#include <QMainWindow>
+
+class QDockWidget;
+class QStackedWidget;
+
+namespace Family {
+class FamilyDocument;
+class FamilyProject;
+}  // namespace Family
+
+namespace Zorv {
+class CodeDocument;
+}
+
+namespace App {
+
+class AnimationPanel;
+class CodeEdit;
+class DocumentTabs;
+class GameSession;
+class GameTree;
+class LineBar;
+class MessagePanel;
+class NodePanel;
+class StatusFields;
+
+/// The window of the program: texts in the middle, trees and lists around them.
+///
+/// It connects its parts and asks before work is lost; what the parts do is
+/// theirs. The host (`Zorv::Interface`) must be installed before it is made.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Opens a game folder, or the one around a main file together with that
+    /// file's project. Tells the person what is wrong, and is false then.
+    bool openPath(const QString& path);
+
+    /// Shows a file of the game: opens the project of a main file. False if there
+    /// is nothing to show; the person is told.
+    bool openFile(const QString& fileName);
+
+    /// Opens what was open when the window was closed last. `otherwise`, if not
+    /// empty, is opened instead if it is another game.
+    void restoreWork(const QString& otherwise);
+
+    /// The parts of the window. They live as long as it.
+    GameSession* session() const { return m_session; }
+    DocumentTabs* tabs() const { return m_tabs; }
+    GameTree* gameTree() const { return m_gameTree; }
+    NodePanel* nodePanel() const { return m_nodePanel; }
+    AnimationPanel* animationPanel() const { return m_animationPanel; }
+    MessagePanel* messagePanel() const { return m_messagePanel; }
+    StatusFields* status() const { return m_status; }
+
+    /// The project of the text in front, else the one opened last, else null.
+    Family::FamilyProject* currentProject() const;
+
+    /// A menu or an action of the tables, null for an unknown name.
+    QMenu* menuByName(const char* name) const;
+    QAction* actionByName(const char* name) const;
+
+    /// What is there for actions to work on: flags of `Need`.
+    int presentNeeds() const;
+
+    /// @name The actions
+    /// @{
+    void openFolderByDialog();
+    void save();
+    void saveAll();
+    void closeText();
+    void closeProject();
+    void closeFolder();
+    void quit();
+    void undo();
+    void redo();
+    void cut();
+    void copy();
+    void paste();
+    void selectAll();
+    void askForLine();
+    void changeEncoding();
+    void addAnimation();
+    void duplicateAnimation();
+    void removeAnimations();
+    void moveAnimationUp();
+    void moveAnimationDown();
+    void sortAnimations();
+    void focusNextPanel();
+    void focusPreviousPanel();
+    void showNextText();
+    void showPreviousText();
+    void showKeys();
+    void showAbout();
+    /// @}
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void makeCentre();
+    void makeDocks();
+    QDockWidget* addDock(QWidget* widget, const QString& name, const QString& title,
+                         Qt::DockWidgetArea area);
+    void makeActions();
+    void makeRecentMenu();
+    void fillRecentMenu();
+    void connectParts();
+    void connectPanels();
+
+    bool openFolder(const QString& folder);
+    bool openProject(const QString& mainFile);
+    bool tellWhyNot(const QString& fileName);
+    void showDocument(Family::FamilyDocument* document);
+    void closeDocument(Family::FamilyDocument* document);
+    void showPlace(Zorv::CodeDocument* document, int line, int column, int length);
+    void forgetProject(Family::FamilyProject* project);
+
+    void currentDocumentChanged(Family::FamilyDocument* document);
+    void cursorMoved();
+    void updateActions();
+    void updateTitle();
+    void updateMessages();
+    void focusPanel(int step);
+    void statusBarText(const QString& text);
+
+    GameSession* m_session;
+    QStackedWidget* m_centre;
+    DocumentTabs* m_tabs;
+    LineBar* m_lineBar;
+    GameTree* m_gameTree;
+    NodePanel* m_nodePanel;
+    AnimationPanel* m_animationPanel;
+    MessagePanel* m_messagePanel;
+    StatusFields* m_status;
+    QHash<QByteArray, QMenu*> m_menus;
+    QHash<QByteArray, QAction*> m_actions;
+    QMenu* m_recentMenu = nullptr;
+};
+
+}  // namespace App

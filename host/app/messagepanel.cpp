@@ -1,0 +1,120 @@
+#include "app/messagepanel.h"
+
+#include "code/codedoc/codedocument.h"
+#include "core/messagelist.h"
+#include "core/messages.h"
+
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace App {
+
+using Zorv::Message;
+using Zorv::Messages;
+
+MessagePanel::MessagePanel(QWidget* parent) : QListView(parent)
+{
+    setAccessibleName(tr("Messages of the project"));
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setUniformItemSizes(true);
+    connect(this, &QListView::activated, this, &MessagePanel::request);
+}
+
+void MessagePanel::setMessages(Zorv::MessageList* messages)
+{
+    if (messages == m_list) {
+        return;
+    }
+    if (m_list) {
+        m_list->disconnect(this);
+    }
+    m_list = messages;
+    m_currentLine = -1;
+    if (messages) {
+        // Before the view's own connections, which drop the current row.
+        connect(messages, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+                &MessagePanel::beginUpdate);
+    }
+    setModel(messages);
+    if (messages) {
+        connect(messages, &Zorv::MessageList::updated, this, &MessagePanel::endUpdate);
+    }
+    emit summaryChanged();
+}
+
+Zorv::MessageList* MessagePanel::messages() const
+{
+    return m_list;
+}
+
+QString MessagePanel::summary() const
+{
+    if (!m_list) {
+        return {};
+    }
+    const int errors = m_list->errorCount();
+    const int warnings = m_list->warningCount();
+    if (errors + warnings == 0) {
+        return tr("No problems");
+    }
+    const QString errorText = errors == 1 ? tr("1 error") : tr("%1 errors").arg(errors);
+    const QString warningText = warnings == 1 ? tr("1 warning") : tr("%1 warnings").arg(warnings);
+    return tr("%1, %2").arg(errorText, warningText);
+}
+
+void MessagePanel::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QListView::currentChanged(current, previous);
+    if (m_isUpdating || !m_list) {
+        return;
+    }
+    int place = 0;
+    m_currentFile = m_list->messagesAt(current.row(), &place);
+    m_currentLine = m_currentFile ? m_currentFile->at(place).line : -1;
+}
+
+void MessagePanel::request(const QModelIndex& index)
+{
+    int place = 0;
+    const Messages* messages = m_list ? m_list->messagesAt(index.row(), &place) : nullptr;
+    auto* document =
+        messages ? dynamic_cast<Zorv::CodeDocument*>(messages->file()) : nullptr;
+    if (document) {
+        const Message message = messages->at(place);
+        emit placeRequested(document, message.line, message.column);
+    }
+}
+
+void MessagePanel::beginUpdate()
+{
+    m_isUpdating = true;
+    m_scroll = verticalScrollBar()->value();
+}
+
+/// The message on the line of the current row, or the next one of its file,
+/// becomes the current row.
+void MessagePanel::endUpdate()
+{
+    const QList<Messages*> lists = m_list->lists();
+    int row = 0;
+    for (const Messages* messages : lists) {
+        const int count = messages->count(Message::AllTypes);
+        if (m_currentLine >= 0 && messages == m_currentFile && count > 0) {
+            row += std::min(messages->indexOfLine(m_currentLine), count - 1);
+            setCurrentIndex(m_list->index(row));
+            break;
+        }
+        row += count;
+    }
+    if (m_scroll > 0) {
+        // The rows are laid out first: the range of the bar is that of none.
+        executeDelayedItemsLayout();
+        verticalScrollBar()->setValue(m_scroll);
+    }
+    m_isUpdating = false;
+    m_scroll = 0;
+    emit summaryChanged();
+}
+
+}  // namespace App

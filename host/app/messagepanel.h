@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QListView>
+#include <QPointer>
+
+namespace Zorv {
+class CodeDocument;
+class MessageList;
+class Messages;
+}  // namespace Zorv
+
+namespace App {
+
+/// The messages of one project. The row that the person is at stays current,
+/// though every edit announces all rows anew.
+class MessagePanel : public QListView
+{
+    Q_OBJECT
+
+public:
+    explicit MessagePanel(QWidget* parent = nullptr);
+
+    /// Null for none; a list that dies is let go of.
+    void setMessages(Zorv::MessageList* messages);
+    Zorv::MessageList* messages() const;
+
+    /// "3 errors, 1 warning"; empty while there is no list.
+    QString summary() const;
+
+signals:
+    /// The person wants to see a place of a file, counted from 0.
+    void placeRequested(Zorv::CodeDocument* document, int line, int column);
+
+    /// The numbers of messages may have changed.
+    void summaryChanged();
+
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    void request(const QModelIndex& index);
+    void beginUpdate();
+    void endUpdate();
+
+    QPointer<Zorv::MessageList> m_list;
+    Zorv::Messages* m_currentFile = nullptr;  ///< compared, not followed
+    int m_currentLine = -1;
+    int m_scroll = 0;
+    bool m_isUpdating = false;
+};
+
+}  // namespace App

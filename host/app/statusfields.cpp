@@ -1,0 +1,151 @@
+#include "app/statusfields.h"
+
+#include "family/familydocument.h"
+#include "operations/documentfile.h"
+
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+#include <QLabel>
+#include <QStatusBar>
+#include <QToolButton>
+
+namespace App {
+
+namespace {
+
+constexpr int PassingTime = 8000;  // milliseconds
+constexpr int ProblemsField = 1;
+constexpr int EncodingField = 2;
+
+QString stateOf(const Family::FamilyDocument* document)
+{
+    if (document->fileName().isEmpty()) {
+        return StatusFields::tr("Not saved yet");
+    }
+    if (!QFileInfo::exists(document->fileName())) {
+        return StatusFields::tr("Missing on disk");
+    }
+    return document->isModified() ? StatusFields::tr("Modified") : StatusFields::tr("Saved");
+}
+
+}  // namespace
+
+StatusFields::StatusFields(QStatusBar* bar)
+    : QObject(bar), m_bar(bar),
+      m_problems(addButton("problems_field", tr("Problems of the project. Click for the list."))),
+      m_state(new QLabel(bar)), m_lineEnds(new QLabel(bar)),
+      m_encoding(addButton("encoding_field", tr("Encoding of the file. Click to change it."))),
+      m_place(addButton("place_field", tr("Line and column. Click to go to a line."))),
+      m_watcher(new QFileSystemWatcher(this))
+{
+    m_state->setAccessibleName(tr("State of the file"));
+    m_lineEnds->setAccessibleName(tr("Line ends of the file"));
+    for (QWidget* widget : {static_cast<QWidget*>(m_problems), static_cast<QWidget*>(m_state),
+                            static_cast<QWidget*>(m_lineEnds), static_cast<QWidget*>(m_encoding),
+                            static_cast<QWidget*>(m_place)}) {
+        bar->addPermanentWidget(widget);
+    }
+    connect(m_problems, &QToolButton::clicked, this, &StatusFields::problemsClicked);
+    connect(m_encoding, &QToolButton::clicked, this, &StatusFields::encodingClicked);
+    connect(m_place, &QToolButton::clicked, this, &StatusFields::placeClicked);
+    connect(m_watcher, &QFileSystemWatcher::directoryChanged, this, &StatusFields::updateFile);
+    setDocument(nullptr);
+}
+
+void StatusFields::setDocument(Family::FamilyDocument* document)
+{
+    if (m_document) {
+        m_document->disconnect(this);
+    }
+    m_document = document;
+    if (document) {
+        connect(document, &QTextDocument::modificationChanged, this, &StatusFields::updateFile);
+    }
+    watchFolder();
+    updateFile();
+}
+
+void StatusFields::updateFile()
+{
+    m_state->setText(m_document ? stateOf(m_document) : QString());
+    const QString note = m_document ? Family::lineEndNote(m_document) : QString();
+    m_lineEnds->setText(note.isEmpty() ? QString() : tr("Line ends: converted when saved"));
+    m_lineEnds->setToolTip(note);
+    m_lineEnds->setVisible(!note.isEmpty());
+    m_encoding->setText(m_document ? tr("Encoding: %1").arg(m_document->codecName()) : QString());
+    m_encoding->setEnabled(m_document);
+    m_place->setEnabled(m_document);
+    if (!m_document) {
+        m_place->setText(QString());
+    }
+}
+
+void StatusFields::setPlace(int line, int column)
+{
+    m_place->setText(tr("Line %1, column %2").arg(line + 1).arg(column + 1));
+}
+
+void StatusFields::showField(int field, const QString& text)
+{
+    switch (field) {
+    case ProblemsField:
+        m_problems->setText(text);
+        m_problems->setEnabled(!text.isEmpty());
+        break;
+    case EncodingField:
+        m_encoding->setText(text);
+        break;
+    default:
+        m_bar->showMessage(text, PassingTime);
+    }
+}
+
+QString StatusFields::stateText() const
+{
+    return m_state->text();
+}
+
+QString StatusFields::lineEndText() const
+{
+    return m_lineEnds->text();
+}
+
+QString StatusFields::encodingText() const
+{
+    return m_encoding->text();
+}
+
+QString StatusFields::placeText() const
+{
+    return m_place->text();
+}
+
+QString StatusFields::problemText() const
+{
+    return m_problems->text();
+}
+
+QToolButton* StatusFields::addButton(const char* name, const QString& help)
+{
+    auto* button = new QToolButton(m_bar);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoRaise(true);
+    button->setToolTip(help);
+    button->setAccessibleDescription(help);
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
+
+/// A file that goes away is seen by its folder.
+void StatusFields::watchFolder()
+{
+    const QStringList old = m_watcher->directories();
+    if (!old.isEmpty()) {
+        m_watcher->removePaths(old);
+    }
+    if (m_document && !m_document->fileName().isEmpty()) {
+        m_watcher->addPath(QFileInfo(m_document->fileName()).absolutePath());
+    }
+}
+
+}  // namespace App

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QList>
+
+namespace Family {
+class FamilyDocument;
+}
+
+namespace App {
+
+/// Saves documents that have a file, one after the other; failures are told at
+/// the end, all at once. True if all are saved.
+bool saveDocuments(const QList<Family::FamilyDocument*>& documents);
+
+/// Asks what becomes of unsaved documents before they are closed: saved,
+/// discarded, or neither. True if they can be closed. Nothing is asked for an
+/// empty list.
+bool askAboutUnsaved(const QList<Family::FamilyDocument*>& documents);
+
+}  // namespace App

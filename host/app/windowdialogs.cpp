@@ -1,0 +1,143 @@
+#include "app/windowdialogs.h"
+
+#include "core/interface.h"
+
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTextStream>
+
+namespace App {
+
+namespace {
+
+// More choices than these are easier found in a list.
+constexpr int MaxButtons = 3;
+
+QWidget* mainWindow()
+{
+    const Zorv::Interface* host = Zorv::Interface::instance();
+    return host ? host->mainWindow() : nullptr;
+}
+
+void print(const QString& text)
+{
+    QTextStream(stderr) << "zorv: " << text << '\n';
+}
+
+int chooseFromList(const QString& title, const QString& text, const QStringList& choices,
+                   int defaultChoice)
+{
+    QInputDialog dialog(mainWindow());
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(text);
+    dialog.setOption(QInputDialog::UseListViewForComboBoxItems);
+    dialog.setComboBoxItems(choices);
+    dialog.setTextValue(choices.value(defaultChoice, choices.first()));
+    return dialog.exec() == QDialog::Accepted ? choices.indexOf(dialog.textValue()) : -1;
+}
+
+int chooseByButton(const QString& title, const QString& text, const QStringList& choices,
+                   int defaultChoice)
+{
+    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, mainWindow());
+    box.setTextFormat(Qt::PlainText);
+    QList<QAbstractButton*> buttons;
+    for (const QString& choice : choices) {
+        buttons.append(box.addButton(choice, QMessageBox::AcceptRole));
+    }
+    box.setEscapeButton(box.addButton(QMessageBox::Cancel));
+    box.setDefaultButton(qobject_cast<QPushButton*>(buttons.value(defaultChoice)));
+    box.exec();
+    return buttons.indexOf(box.clickedButton());
+}
+
+}  // namespace
+
+WindowDialogs::WindowDialogs()
+{
+    setInstance(this);
+}
+
+WindowDialogs::~WindowDialogs()
+{
+    if (instance() == this) {
+        setInstance(nullptr);
+    }
+}
+
+int WindowDialogs::choose(const QString& title, const QString& text, const QStringList& choices,
+                          int defaultChoice)
+{
+    if (choices.isEmpty()) {
+        return -1;
+    }
+    return choices.size() > MaxButtons ? chooseFromList(title, text, choices, defaultChoice)
+                                       : chooseByButton(title, text, choices, defaultChoice);
+}
+
+SilentDialogs::SilentDialogs()
+{
+    setInstance(this);
+}
+
+SilentDialogs::~SilentDialogs()
+{
+    if (instance() == this) {
+        setInstance(nullptr);
+    }
+}
+
+SilentDialogs::Button SilentDialogs::question(const QString&, const QString& text, Buttons buttons,
+                                              Button defaultButton)
+{
+    print(text);
+    if (buttons & Cancel) {
+        return Cancel;
+    }
+    return buttons & No ? No : defaultButton;
+}
+
+SilentDialogs::Button SilentDialogs::warning(const QString& title, const QString& text,
+                                             Buttons buttons, Button defaultButton)
+{
+    return question(title, text, buttons, defaultButton);
+}
+
+void SilentDialogs::information(const QString&, const QString& text)
+{
+    print(text);
+}
+
+void SilentDialogs::error(const QString&, const QString& text)
+{
+    print(text);
+}
+
+int SilentDialogs::choose(const QString&, const QString& text, const QStringList&, int)
+{
+    print(text);
+    return -1;
+}
+
+QString SilentDialogs::openFileName(QWidget*, const QString&, const QString&, const QString&)
+{
+    return {};
+}
+
+QStringList SilentDialogs::openFileNames(QWidget*, const QString&, const QString&, const QString&)
+{
+    return {};
+}
+
+QString SilentDialogs::saveFileName(QWidget*, const QString&, const QString&, const QString&)
+{
+    return {};
+}
+
+QString SilentDialogs::existingFolder(QWidget*, const QString&, const QString&)
+{
+    return {};
+}
+
+}  // namespace App

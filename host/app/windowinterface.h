@@ -1,0 +1,50 @@
+#pragma once
+
+#include "operations/hostinterface.h"
+
+#include <QPointer>
+
+namespace App {
+
+class MainWindow;
+
+/// The host's side of the library with a window. Editors do not exist yet, and
+/// are null.
+class WindowInterface : public Family::HostInterface
+{
+public:
+    using HostInterface::HostInterface;
+
+    /// Not owned; may die.
+    void setWindow(MainWindow* window);
+
+    QWidget* mainWindow() const override;
+    Zorv::ProgressReporter* progress(const QString& title, int style) override;
+    unsigned projectCount() const override;
+    Zorv::Project* projectAt(unsigned index) const override;
+    Zorv::Project* currentProject() const override;
+    int pixels(int size) const override;
+
+    /// Fields 1 (problems) and 2 (encoding) are those of the status bar; any
+    /// other number shows a passing text.
+    void showStatus(int field, const QString& text) override;
+
+    /// "anim" and "view"; null for any other name.
+    QMenu* menu(const char* name) const override;
+
+    /// The action's texts are its name, as long as there is no table of texts.
+    /// A shortcut of the settings, "shortcut_" and the name, goes before `shortcut`.
+    QAction* createAction(const char* const* areas, const QString& name,
+                          Zorv::Translator* translator, unsigned textId, const char* shortcut,
+                          QObject* receiver, const char* slot, const char* enableSignal,
+                          const char* checkSignal) override;
+    void setMenuEnabled(const char* menu, const char* group, bool enabled) override;
+
+    /// Reads the files of all open projects again.
+    void refreshProjects() override;
+
+private:
+    QPointer<MainWindow> m_window;
+};
+
+}  // namespace App

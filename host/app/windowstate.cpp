@@ -1,0 +1,115 @@
+#include "app/windowstate.h"
+
+#include "app/codeedit.h"
+#include "app/documenttabs.h"
+#include "app/gamesession.h"
+#include "app/mainwindow.h"
+#include "core/interface.h"
+#include "family/familydocument.h"
+#include "family/project/familyproject.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace App {
+
+using Family::FamilyDocument;
+
+namespace {
+
+const QString GeometryKey = QStringLiteral("window_geometry");
+const QString PanelsKey = QStringLiteral("window_panels");
+const QString GameKey = QStringLiteral("last_game");
+const QString TextsKey = QStringLiteral("open_texts");
+const QString FrontKey = QStringLiteral("front_text");
+
+constexpr int PanelsVersion = 1;  // raised when panels come or go
+
+QVariant setting(const QString& key)
+{
+    return Zorv::Interface::instance()->option(key);
+}
+
+void store(const QString& key, const QVariant& value)
+{
+    Zorv::Interface::instance()->setOption(key, value);
+}
+
+QVariantMap stateOf(const CodeEdit* edit)
+{
+    const FamilyDocument* document = edit->codeDocument();
+    const Family::FamilyProject* project = projectOf(document);
+    const TextPlace place = edit->place();
+    return {{QStringLiteral("project"), project ? project->fileName() : QString()},
+            {QStringLiteral("file"), document->fileName()},
+            {QStringLiteral("line"), place.line},
+            {QStringLiteral("column"), place.column},
+            {QStringLiteral("top"), place.topLine}};
+}
+
+void restoreText(MainWindow* window, const QVariantMap& state)
+{
+    const QString project = state.value(QStringLiteral("project")).toString();
+    const QString file = state.value(QStringLiteral("file")).toString();
+    QString error;
+    if (!QFileInfo(project).isFile() || !QFileInfo(file).isFile()
+        || !window->session()->openProject(project, &error)) {
+        return;
+    }
+    if (!window->session()->document(file, nullptr, true) || !window->openFile(file)) {
+        return;
+    }
+    window->tabs()->currentEdit()->setPlace({state.value(QStringLiteral("line")).toInt(),
+                                             state.value(QStringLiteral("column")).toInt(),
+                                             state.value(QStringLiteral("top")).toInt()});
+}
+
+}  // namespace
+
+void WindowState::save(const MainWindow* window)
+{
+    store(GeometryKey, window->saveGeometry());
+    store(PanelsKey, window->saveState(PanelsVersion));
+    store(GameKey, window->session()->folder());
+    QVariantList texts;
+    const DocumentTabs* tabs = window->tabs();
+    for (int i = 0; i < tabs->count(); ++i) {
+        texts.append(stateOf(tabs->editAt(i)));
+    }
+    store(TextsKey, texts);
+    store(FrontKey, tabs->currentIndex());
+}
+
+void WindowState::restoreShape(MainWindow* window)
+{
+    if (!window->restoreGeometry(setting(GeometryKey).toByteArray())) {
+        window->resize(1280, 800);
+    }
+    window->restoreState(setting(PanelsKey).toByteArray(), PanelsVersion);
+}
+
+void WindowState::restoreWork(MainWindow* window, const QString& otherwise)
+{
+    const QString last = setting(GameKey).toString();
+    const bool isLast = !last.isEmpty() && QFileInfo(last).isDir()
+                        && (otherwise.isEmpty() || QDir(otherwise) == QDir(last));
+    if (!isLast) {
+        if (!otherwise.isEmpty()) {
+            window->openPath(otherwise);
+        }
+        return;
+    }
+    if (!window->openPath(last)) {
+        return;
+    }
+    const QVariantList texts = setting(TextsKey).toList();
+    for (const QVariant& text : texts) {
+        restoreText(window, text.toMap());
+    }
+    const int front = setting(FrontKey).toInt();
+    if (front >= 0 && front < window->tabs()->count()) {
+        window->tabs()->setCurrentIndex(front);
+    }
+}
+
+}  // namespace App
