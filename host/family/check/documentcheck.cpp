@@ -155,6 +155,7 @@ void DocumentCheck::seeFrame(const FrameData& frame, const LineDetails& details)
 {
     ++m_animation.frames;
     m_animation.boxes.clear();
+    m_animation.hasFaultyFrame = m_animation.hasFaultyFrame || !details.problems.isEmpty();
     const NamedPlace place = placeOf(details, LinePart::Keyword, {});
     if (m_animation.endlessLine > 0) {
         tell(ProblemId::FrameNeverShown, {QString::number(m_animation.endlessLine)}, place);
@@ -178,7 +179,9 @@ void DocumentCheck::closeAnimation()
     for (const NamedPlace& box : qAsConst(m_animation.boxes)) {
         tell(ProblemId::BoxesWithoutFrame, {}, box);
     }
-    const bool ends = m_animation.loopLine > 0 || m_animation.endlessLine > 0;
+    // What a faulty line was meant to say about the end is not known.
+    const bool ends = m_animation.loopLine > 0 || m_animation.endlessLine > 0
+                      || m_animation.hasFaultyFrame;
     if (m_animation.frames == 0) {
         tell(ProblemId::AnimationEmpty, {m_animation.place.name}, m_animation.place);
     } else if (!ends) {

@@ -49,6 +49,7 @@ private:
         int frames = 0;
         int loopLine = 0;
         int endlessLine = 0;
+        bool hasFaultyFrame = false;
         QVector<NamedPlace> boxes;
     };
 

@@ -32,7 +32,7 @@ constexpr ProblemInfo rows[] = {
      "[]"},
     {Id::HeadNotClosed, "head-not-closed", E,
      T("Expected ']' at the end of the group head."),
-     "[music"},
+     "[constants\nlife = 1000"},
     {Id::GroupUnknown, "group-unknown", E,
      T("There is no group '%1'. %2"),
      "[musik]"},
