@@ -77,8 +77,14 @@ function(zorv_test name)
     endif()
     # The settings of the person who runs the tests are left alone.
     set(home ${CMAKE_CURRENT_BINARY_DIR}/${name}.home)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600
-        ENVIRONMENT "QT_QPA_PLATFORM=${platform};LC_ALL=C.UTF-8;XDG_CONFIG_HOME=${home};XDG_DATA_HOME=${home}")
+    set(environment QT_QPA_PLATFORM=${platform} LC_ALL=C.UTF-8
+                    XDG_CONFIG_HOME=${home} XDG_DATA_HOME=${home})
+    if(ZORV_SANITIZE)
+        list(APPEND environment
+             LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0
+             UBSAN_OPTIONS=print_stacktrace=1)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${environment}")
 endfunction()
 
 # zorv_benchmark(bench_name [SOURCES file...] [LIBRARIES target...])

@@ -36,6 +36,7 @@ LAYERS = {
     "host/operations/": 21,
     "host/cli/": 22,
     "host/app/": 23,
+    "host/main.cpp": 24,
 }
 
 # Where the compiler looks for an include, after the folder of the file itself.

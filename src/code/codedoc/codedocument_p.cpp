@@ -47,7 +47,11 @@ CodeDocumentPrivate::CodeDocumentPrivate(CodeDocument* document)
     cursor = QTextCursor(q);
 }
 
-CodeDocumentPrivate::~CodeDocumentPrivate() = default;
+CodeDocumentPrivate::~CodeDocumentPrivate()
+{
+    // The highlighter's destructor takes all formats off, which is a change of the document.
+    disconnect(q, nullptr, this, nullptr);
+}
 
 void CodeDocumentPrivate::beginPass()
 {
