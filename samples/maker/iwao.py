@@ -103,7 +103,7 @@ def specials():
             bell("bell-h", "Bell, heavy", 14)]),
         ("Crane: takes hold, turns, and lets go", [
             play("crane", "Crane", held, f(0, 3, lean=4), f(1, 2, lean=10),
-                 f(2, 3, lean=12, strike=(44, 60, 60)), f(3, 24, lean=6), f(4, 1)),
+                 f(2, 3, lean=12, strike=(44, 60, 60)), f(3, 24, lean=6), f(4, 1), group=320),
             play("crane-turn", "Crane, with a load", held, f(0, 8, none), f(1, 4, none),
                  f(2, 4, none), f(3, 4, none, flip="h"), f(2, 4, none, flip="h"), f(1, 4, none),
                  f(2, 4, none), f(3, 4, none, flip="h"), f(4, 6, none, scale=(1.15, 0.9)),
