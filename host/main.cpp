@@ -69,8 +69,6 @@ int runOnCommandLine(char** argv, const QStringList& arguments)
     // has neither display nor fonts, and asks no desktop for anything.
     qputenv("QT_QPA_PLATFORM", "minimal");
     qunsetenv("QT_QPA_PLATFORMTHEME");
-    // A reader that goes away is a failed write, not the end.
-    signal(SIGPIPE, SIG_IGN);
     // The arguments are not Qt's.
     int argc = 1;
     QGuiApplication application(argc, argv);
@@ -105,6 +103,10 @@ int runInWindow(int& argc, char** argv, const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
+    // A reader that goes away, or a file that may not grow, is a failed write
+    // and not the end.
+    signal(SIGPIPE, SIG_IGN);
+    signal(SIGXFSZ, SIG_IGN);
     keepStandardStreams();
     setUpTexts();
     const QStringList arguments = argumentsOf(argc, argv);

@@ -45,6 +45,9 @@ int refuse(const QString& error, const QString& usage)
 int refuseUnknown(const QStringList& arguments)
 {
     const QString first = arguments.first();
+    if (first.startsWith(QLatin1Char('-'))) {
+        return refuse(tr("There is no option '%1' in the place of a command.").arg(first), {});
+    }
     if (isGroupOfCommands(first)) {
         const QString second = arguments.value(1);
         const QString whole = first + QLatin1Char(' ') + second;
@@ -99,14 +102,14 @@ bool isCommand(const QStringList& arguments)
         return false;
     }
     const QString first = arguments.first();
-    const QStringList ofCommandLine{QStringLiteral("--help"), QStringLiteral("-h"),
-                                    QStringLiteral("--version")};
-    int words = 0;
-    if (ofCommandLine.contains(first) || isGroupOfCommands(first) ||
-        findCommand(arguments, &words)) {
-        return true;
+    if (first.startsWith(QLatin1Char('-'))) {
+        // Those with one dash are Qt's, but for this one.
+        return first == QLatin1String("-h") ||
+               (first.startsWith(QLatin1String("--")) && first != QLatin1String("--screenshot"));
     }
-    return !first.startsWith(QLatin1Char('-')) && !QFileInfo::exists(first);
+    int words = 0;
+    return isGroupOfCommands(first) || findCommand(arguments, &words) != nullptr ||
+           !QFileInfo::exists(first);
 }
 
 int runCommand(const QStringList& arguments)

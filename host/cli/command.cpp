@@ -65,8 +65,7 @@ bool parseEncoding(const QString& name, Invocation* invocation, QString* error)
     const QTextCodec* codec = QTextCodec::codecForName(name.toUtf8());
     invocation->codec = codec ? Zorv::TextCodecs::index(codec->name().constData()) : 0;
     if (invocation->codec == 0) {
-        *error = tr("There is no encoding '%1'. Names are such as UTF-8, windows-1252 and "
-                    "Shift_JIS.")
+        *error = tr("Expected an encoding such as UTF-8, windows-1252 or Shift_JIS; found '%1'.")
                      .arg(name);
     }
     return invocation->codec != 0;
@@ -76,8 +75,10 @@ bool checkOperands(const Command& command, const Invocation& invocation, QString
 {
     const int count = invocation.operands.size();
     if (count < command.fewest) {
+        const QStringList needed = QString::fromLatin1(command.operands).split(QLatin1Char(' '));
         *error =
-            tr("'%1' needs %2.").arg(QLatin1String(command.name), QLatin1String(command.operands));
+            tr("'%1' needs %2.")
+                .arg(QLatin1String(command.name), needed.mid(0, command.fewest).join(tr(" and ")));
     } else if (count > command.most) {
         *error = tr("'%1' takes no '%2'. Put a text with blanks in quotes.")
                      .arg(QLatin1String(command.name), invocation.operands.at(command.most));

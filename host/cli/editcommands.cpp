@@ -24,12 +24,14 @@ QString tr(const char* text)
     return QCoreApplication::translate("Cli", text);
 }
 
-QString animationLine(int index, const AnimationNode& animation)
+QStringList animationColumns(int index, const AnimationNode& animation)
 {
-    return QStringLiteral("#%1\t%2\t%3\t%4\t%5\t%6")
-        .arg(QString::number(index), animation.identifier(), animation.name(),
-             QString::number(animation.childCount()), QString::number(animation.duration()),
-             QString::number(animation.firstLine() + 1));
+    return {QLatin1Char('#') + QString::number(index),
+            animation.identifier(),
+            animation.name(),
+            QString::number(animation.childCount()),
+            QString::number(animation.duration()),
+            QString::number(animation.firstLine() + 1)};
 }
 
 QString animationObject(int index, const AnimationNode& animation, const QString& path)
@@ -55,7 +57,7 @@ void writeAnimations(const FamilyDocument* document, bool json, Output& output)
             output.write(separator + animationObject(i, *animation, paths.value(animation)));
             separator = QStringLiteral(",\n");
         } else {
-            output.writeLine(animationLine(i, *animation));
+            output.writeLine(animationColumns(i, *animation));
         }
     }
     if (json) {

@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
@@ -26,9 +27,11 @@ void Output::write(const QString& text)
     }
 }
 
-void Output::writeLine(const QString& text)
+void Output::writeLine(const QStringList& columns)
 {
-    write(printable(text) + QLatin1Char('\n'));
+    QStringList shown;
+    std::transform(columns.begin(), columns.end(), std::back_inserter(shown), printable);
+    write(shown.join(QLatin1Char('\t')) + QLatin1Char('\n'));
 }
 
 bool Output::finish()
@@ -60,14 +63,18 @@ QString printable(const QString& text)
 {
     QString result;
     for (const QChar c : text) {
-        const bool isPlain =
-            c == QLatin1Char('\n') || c == QLatin1Char('\t') ||
-            (c.category() != QChar::Other_Control && c.category() != QChar::Separator_Line &&
-             c.category() != QChar::Separator_Paragraph);
-        if (isPlain) {
+        const bool isControl = c.category() == QChar::Other_Control ||
+                               c.category() == QChar::Separator_Line ||
+                               c.category() == QChar::Separator_Paragraph;
+        if (!isControl) {
             result += c;
+        } else if (c == QLatin1Char('\n')) {
+            result += QLatin1String("\\n");
         } else {
-            result += QLatin1String("\\x") + QString::number(c.unicode(), 16);
+            const bool isByte = c.unicode() < 0x100;
+            result += isByte ? QLatin1String("\\x") : QLatin1String("\\u");
+            result +=
+                QString::number(c.unicode(), 16).rightJustified(isByte ? 2 : 4, QLatin1Char('0'));
         }
     }
     return result;

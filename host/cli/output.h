@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QFile>
-#include <QString>
+#include <QStringList>
 
 class QJsonObject;
 
@@ -15,9 +15,8 @@ public:
 
     void write(const QString& text);
 
-    /// Writes a text and a line end. What a terminal would not show as it is
-    /// (control characters) is written as "\x1b".
-    void writeLine(const QString& text);
+    /// Writes texts with a tab between and a line end, each as `printable()`.
+    void writeLine(const QStringList& columns);
 
     /// Writes what is still gathered. False if any byte did not arrive.
     bool finish();
@@ -38,7 +37,8 @@ private:
 /// Writes "zorv: " and a text on standard error.
 void complain(const QString& text);
 
-/// `text` with control characters as "\x1b".
+/// `text` on one line, and with nothing that a terminal would obey: control
+/// characters are written as "\x1b", line ends as "\n".
 QString printable(const QString& text);
 
 /// An object on one line, its keys in the order of the alphabet.

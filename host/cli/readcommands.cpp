@@ -1,9 +1,9 @@
 #include "cli.h"
 #include "command.h"
 #include "editing.h"
-#include "family/check/check.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
+#include "operations/checkpath.h"
 #include "operations/nodetree.h"
 #include "output.h"
 
@@ -27,18 +27,24 @@ void writeProblem(const Family::Problem& problem, Output& output)
                   {QStringLiteral("text"), problem.text}}));
 }
 
-QString treeLine(const Family::TreeEntry& entry, const QString& path)
+int lineOf(const Family::TreeEntry& entry)
+{
+    return entry.node->block().blockNumber() + 1;
+}
+
+QStringList treeColumns(const Family::TreeEntry& entry, const QString& path)
 {
     const QString indent(2 * entry.depth, QLatin1Char(' '));
-    return QStringLiteral("%1\t%2%3 %4\t%5")
-        .arg(QString::number(entry.node->firstLine() + 1), indent, Family::nodeKind(entry.node),
-             Family::nodeLabel(entry.node), path);
+    return {QString::number(lineOf(entry)),
+            indent + Family::nodeKind(entry.node) + QLatin1Char(' ') +
+                Family::nodeLabel(entry.node),
+            path};
 }
 
 QString treeObject(const Family::TreeEntry& entry, const QString& path)
 {
     QJsonObject object{{QStringLiteral("kind"), Family::nodeKind(entry.node)},
-                       {QStringLiteral("line"), entry.node->block().blockNumber() + 1},
+                       {QStringLiteral("line"), lineOf(entry)},
                        {QStringLiteral("text"), Family::nodeLabel(entry.node)}};
     if (!path.isEmpty()) {
         object.insert(QStringLiteral("path"), path);
@@ -51,7 +57,7 @@ void writeTree(const FamilyDocument* document, Output& output)
     const auto paths = Family::nodePaths(document);
     const QVector<Family::TreeEntry> tree = Family::nodeTree(document);
     for (const Family::TreeEntry& entry : tree) {
-        output.writeLine(treeLine(entry, paths.value(entry.node)));
+        output.writeLine(treeColumns(entry, paths.value(entry.node)));
     }
 }
 
@@ -60,6 +66,10 @@ void writeJsonTree(const FamilyDocument* document, Output& output)
 {
     const auto paths = Family::nodePaths(document);
     const QVector<Family::TreeEntry> tree = Family::nodeTree(document);
+    if (tree.isEmpty()) {
+        output.write(QStringLiteral("[]\n"));
+        return;
+    }
     output.write(QStringLiteral("["));
     for (int i = 0; i < tree.size(); ++i) {
         const int depth = tree[i].depth;
@@ -84,7 +94,7 @@ void writeJsonTree(const FamilyDocument* document, Output& output)
 int checkCommand(const Invocation& invocation, Output& output)
 {
     QString error;
-    const Family::Problems problems = Family::checkGame(invocation.operands.first(), &error);
+    const Family::Problems problems = Family::checkPath(invocation.operands.first(), &error);
     if (!error.isEmpty()) {
         complain(error);
         return NotDone;
@@ -96,7 +106,7 @@ int checkCommand(const Invocation& invocation, Output& output)
             writeProblem(problem, output);
             separator = QStringLiteral(",\n");
         } else {
-            output.writeLine(Family::problemLine(problem));
+            output.writeLine({Family::problemLine(problem)});
         }
     }
     if (invocation.json) {

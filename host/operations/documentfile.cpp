@@ -23,9 +23,12 @@ QString tr(const char* text)
     return QCoreApplication::translate("Family::DocumentFile", text);
 }
 
+// As a person in the current folder would name it.
 QString shownName(const Zorv::CodeDocument* document)
 {
-    return QDir::toNativeSeparators(document->fileName());
+    const QString path = document->fileName();
+    const QString here = QDir::currentPath() + QLatin1Char('/');
+    return QDir::toNativeSeparators(path.startsWith(here) ? path.mid(here.size()) : path);
 }
 
 // What must not even be opened: reading a pipe or a device may never end.
@@ -33,6 +36,9 @@ QString readingObstacle(const QString& fileName)
 {
     const QFileInfo info(fileName);
     const QString shown = QDir::toNativeSeparators(fileName);
+    if (fileName.isEmpty()) {
+        return tr("Expected the name of a file; found an empty text.");
+    }
     if (info.isDir()) {
         return tr("Cannot open %1: It is a folder. Name a file in it.").arg(shown);
     }

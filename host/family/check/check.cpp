@@ -108,4 +108,13 @@ Problems checkGame(const QString& gameFolder, QString* error)
     return checkMainFiles(gameFolder, mainFiles);
 }
 
+QString checkedFolder(const QString& path)
+{
+    const QFileInfo given(path);
+    if (given.isDir()) {
+        return given.absoluteFilePath();
+    }
+    return isMainFile(fileKindOf(path)) ? gameOf(given) : QString();
+}
+
 }  // namespace Family

@@ -25,4 +25,9 @@ Problems checkProject(const FamilyProject* project);
 /// nothing to check.
 Problems checkGame(const QString& gameFolder, QString* error);
 
+/// The folder to which the names in the problems of `checkGame(path)` are
+/// relative, as an absolute path: the game of a main file. Empty for a single
+/// code file, whose name is as it was given.
+QString checkedFolder(const QString& path);
+
 }  // namespace Family
