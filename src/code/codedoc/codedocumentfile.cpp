@@ -9,6 +9,8 @@
 #include <QIODevice>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace Zorv {
 
 namespace {
@@ -33,6 +35,15 @@ bool hasBareLineEnd(const QString& text)
         }
     }
     return false;
+}
+
+/// A few letters in a text of ASCII mislead a detector. But bytes that are not
+/// meant as UTF-8 hardly ever make sense in it.
+bool isUnmistakablyUtf8(const QByteArray& data)
+{
+    const auto isBeyondAscii = [](char byte) { return (byte & 0x80) != 0; };
+    return std::any_of(data.begin(), data.end(), isBeyondAscii)
+           && TextCodecs::isFaithful(data, TextCodecs::index("UTF-8"));
 }
 
 QString cannot(const char* text, const QString& fileName, const QString& reason)
@@ -109,6 +120,9 @@ bool CodeDocument::fromFile(Archive& archive, const QString& fileName, int codec
     // The watch moves only now: a file that cannot be read keeps the old one.
     if (watch) {
         FileWatchObject::fromFile(archive, fileName, asCopy);
+    }
+    if (codec < 0 && isUnmistakablyUtf8(data)) {
+        codec = TextCodecs::index("UTF-8");
     }
     const QString text = TextCodecs::stringFromData(data, &codec);
     messages()->beginChange();
