@@ -1,8 +1,10 @@
 #include "nodes/animationnode.h"
 
+#include "grammar/groupinfo.h"
 #include "grammar/linescanner.h"
 #include "nodes/boxnode.h"
 #include "nodes/framenode.h"
+#include "nodes/groupnode.h"
 #include "nodes/lineedit.h"
 #include "nodes/valuetext.h"
 
@@ -13,6 +15,20 @@ AnimationNode::AnimationNode(Zorv::CodeNode* previous, const QString& identifier
     : AnimationCode(previous), m_identifier(identifier), m_name(name)
 {
     BoxNode::raiseRevision();
+    leaveSubGroups();
+}
+
+/// Sub-groups behind an animation belong to no group. While lines above were
+/// parsed, one may have taken them.
+void AnimationNode::leaveSubGroups()
+{
+    CodeNode* node = next(Group, Animation);
+    while (node && static_cast<GroupNode*>(node)->info()->isSubGroup()) {
+        if (static_cast<GroupNode*>(node)->isSubGroup()) {
+            insertRootChild(node);
+        }
+        node = node->next(Group, Animation);
+    }
 }
 
 AnimationNode::~AnimationNode()

@@ -39,6 +39,8 @@ public:
     void release() override;
 
 private:
+    void leaveSubGroups();
+
     QString m_identifier;
     QString m_name;
 };
