@@ -27,6 +27,11 @@ Document load(CodeText::Form form, int lines)
 {
     Document document(new Family::FamilyDocument(Family::FileKind::Code));
     document->setPlainText(CodeText::make(form, lines));
+    // Qt looks through all lines when the widest one that it has laid out
+    // shrinks: the widest stands at the top, and is left alone.
+    QTextCursor cursor(document->begin());
+    cursor.movePosition(QTextCursor::EndOfBlock);
+    cursor.insertText(QLatin1String("  # ") + QString(400, QLatin1Char('-')));
     return document;
 }
 

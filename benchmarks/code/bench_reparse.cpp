@@ -4,6 +4,7 @@
 #include "support/bench.h"
 #include "support/codetext.h"
 
+#include "code/codedoc/animationcode.h"
 #include "core/messagelist.h"
 #include "core/messages.h"
 #include "familyanimations.h"

@@ -20,16 +20,23 @@ double once(Function function)
     return double(timer.nsecsElapsed()) / 1e6;
 }
 
-/// The median of `rounds` calls, in milliseconds.
+/// The median of the figures that `rounds` calls give.
+template <class Function>
+double medianOf(int rounds, Function function)
+{
+    std::vector<double> figures;
+    for (int i = 0; i < rounds; ++i) {
+        figures.push_back(function());
+    }
+    std::sort(figures.begin(), figures.end());
+    return figures[figures.size() / 2];
+}
+
+/// The median time of `rounds` calls, in milliseconds.
 template <class Function>
 double median(int rounds, Function function)
 {
-    std::vector<double> times;
-    for (int i = 0; i < rounds; ++i) {
-        times.push_back(once(function));
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+    return medianOf(rounds, [&function] { return once(function); });
 }
 
 /// Prints a / b and, if there is one, the limit that it should not pass.

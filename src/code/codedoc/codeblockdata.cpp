@@ -5,22 +5,37 @@
 
 namespace Zorv {
 
-CodeBlockData::CodeBlockData() : d(std::make_unique<CodeBlockDataPrivate>())
+namespace {
+
+class LineData final : public CodeBlockData
+{
+public:
+    LineData() : CodeBlockData(&m_state) {}
+
+    ~LineData() override
+    {
+        if (m_state.owner) {
+            m_state.owner->lineGone(this);
+        }
+    }
+
+private:
+    CodeBlockDataPrivate m_state;
+};
+
+}  // namespace
+
+CodeBlockData::CodeBlockData(CodeBlockDataPrivate* state) : d(state)
 {
 }
 
-CodeBlockData::~CodeBlockData()
-{
-    if (d->owner) {
-        d->owner->lineGone(this);
-    }
-}
+CodeBlockData::~CodeBlockData() = default;
 
 CodeBlockData* CodeBlockData::blockData(const QTextBlock& block)
 {
     CodeBlockData* data = testBlockData(block);
     if (!data && block.isValid()) {
-        data = new CodeBlockData;
+        data = new LineData;
         QTextBlock(block).setUserData(data);
     }
     return data;
@@ -70,7 +85,7 @@ int CodeBlockData::foldingIndent() const
 
 CodeBlockDataPrivate* CodeBlockDataPrivate::of(CodeBlockData* data)
 {
-    return data->d.get();
+    return data->d;
 }
 
 void CodeBlockDataPrivate::forgetNode(CodeBlockData* data, const CodeNode* node)

@@ -7,8 +7,6 @@
 #include <QTextBlock>
 #include <QVector>
 
-#include <memory>
-
 namespace Zorv {
 
 class CodeBlockDataPrivate;
@@ -41,9 +39,7 @@ public:
         int position;
     };
 
-    CodeBlockData();
-
-    /// Tells the document, if the line is in one, that the line's node is to go.
+    /// The document hears of it: the node of the line is to go.
     ~CodeBlockData() override;
 
     /// The data of a block, made if the block is valid and has none; null for
@@ -71,13 +67,17 @@ public:
     /// a line of no class, constant for others.
     int foldingIndent() const;
 
+protected:
+    /// The state lies in the same piece of memory: there are millions of lines.
+    explicit CodeBlockData(CodeBlockDataPrivate* state);
+
 private:
     friend class CodeDocument;
     friend class CodeDocumentPrivate;
     friend class LineIndex;
     friend struct LineTraits;
     friend class CodeBlockDataPrivate;
-    std::unique_ptr<CodeBlockDataPrivate> d;
+    CodeBlockDataPrivate* const d;
 };
 
 }  // namespace Zorv

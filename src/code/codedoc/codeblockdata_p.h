@@ -2,6 +2,8 @@
 
 #include "code/codedoc/codeblockdata.h"
 
+#include <memory>
+
 namespace Zorv {
 
 class CodeDocumentPrivate;

@@ -58,7 +58,7 @@ void CodeDocumentPrivate::beginPass()
     if (passDepth++ == 0) {
         q->messages()->beginChange();
         reports = q->hasSyntaxHighlight();
-        firstParsed = lastParsed = QTextBlock();
+        lastParsed = QTextBlock();
     }
 }
 
@@ -67,11 +67,10 @@ void CodeDocumentPrivate::endPass()
     if (--passDepth > 0) {
         return;
     }
-    if (firstParsed.isValid()) {
-        CodeBlockData* first = CodeBlockData::testBlockData(firstParsed);
+    if (lastParsed.isValid()) {
         CodeBlockData* last = CodeBlockData::testBlockData(lastParsed);
         mendBelow(last);
-        Folding::update(first, last);
+        Folding::updateBelow(last);
     }
     releaseUnlinked();
     q->messages()->endChange();
@@ -165,7 +164,7 @@ CodeNode* CodeDocumentPrivate::parseLine(const QTextBlock& block, CodeBlockData*
     while (previous->m_next && !previous->m_next->m_block.isValid()) {
         previous = previous->m_next;
     }
-    previous->m_endBlock = block;
+    previous->m_endBlock = block.fragmentIndex();
     ++parsedLines;
     isParsing = true;
     CodeNode* node = parser->parse(text, data->d->node, previous, q, syntax);
@@ -265,9 +264,6 @@ void CodeDocumentPrivate::highlightBlock(const QString& text)
         retire(old);
     }
     updateTraits(data, text);
-    if (!firstParsed.isValid()) {
-        firstParsed = block;
-    }
     lastParsed = block;
 }
 
@@ -286,6 +282,9 @@ void CodeDocumentPrivate::updateTraits(CodeBlockData* data, const QString& text)
         traits |= messageTraits[message.type];
     }
     LineIndex::setTraits(data, traits);
+    if (traits & CodeBlockDataPrivate::HasClass) {
+        Folding::updateLine(data);
+    }
 }
 
 /// Sees to it that the nodes below the parsed lines have the right parent. Where

@@ -116,7 +116,6 @@ private:
     bool isParsing = false;
     QVector<CodeNode*> dead;
     QVector<CodeNode*> unlinked;
-    QTextBlock firstParsed;
     QTextBlock lastParsed;
     int knownBlocks = 1;
     int passDepth = 0;

@@ -12,8 +12,11 @@ namespace Zorv {
 
 CodeNode::CodeNode(Type type, CodeNode* previous) : m_type(type)
 {
-    if (previous) {
-        m_block = previous->m_endBlock;
+    if (previous && previous->m_endBlock != 0) {
+        // Only the root has no line of its own to tell the document.
+        QTextDocumentPrivate* handle = previous->m_block.docHandle();
+        m_block = QTextBlock(handle ? handle : previous->document()->docHandle(),
+                             previous->m_endBlock);
     }
     NodeChain::link(this, previous);
 }

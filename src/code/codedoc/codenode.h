@@ -143,16 +143,16 @@ protected:
 
 private:
     QTextBlock m_block;
-    QTextBlock m_endBlock;
     ParentCode* m_parent = nullptr;
     CodeNode* m_previous = nullptr;
     CodeNode* m_next = nullptr;
     NodeLink m_chain;
     NodeLink m_sibling;
+    NodeCounts m_counts;
     unsigned m_siblings = 1;
+    int m_endBlock = 0;  // Qt's number of the block that a node behind this one gets
     Type m_type;
     unsigned short m_chainMask = 0;
-    NodeCounts m_counts;
 };
 
 }  // namespace Zorv

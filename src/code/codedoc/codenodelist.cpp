@@ -49,6 +49,11 @@ CodeNode* CodeNodeList::at(int index) const
     return nullptr;
 }
 
+CodeNode* CodeNodeList::last() const
+{
+    return ChildTree::last(m_root);
+}
+
 int CodeNodeList::indexOf(const CodeNode* node) const
 {
     if (!node || !m_root) {
@@ -69,7 +74,7 @@ void CodeNodeList::insert(unsigned index, CodeNode* node)
     const auto count = unsigned(size());
     CodeNode* place = nullptr;
     if (index >= count) {
-        place = m_root ? ChildTree::last(m_root) : nullptr;
+        place = last();
     } else if (index > 0) {
         place = at(int(index) - 1);
     }

@@ -20,6 +20,9 @@ public:
     /// The child at `index`, null outside of the list.
     CodeNode* at(int index) const;
 
+    /// The last child, null if there is none.
+    CodeNode* last() const;
+
     /// The place of a child, -1 for a stranger.
     int indexOf(const CodeNode* node) const;
 

@@ -74,7 +74,14 @@ int Folding::indentBetween(const CodeBlockData* aboveLine, const CodeBlockData* 
     }
 }
 
-/// True if something has changed that lines below depend on.
+quint8 Folding::headAtOrAbove(const CodeBlockData* line)
+{
+    if (line && !(dataOf(line)->traits & Data::HasClass)) {
+        line = LineIndex::backward(line, Data::HasClass);
+    }
+    return line ? dataOf(line)->headAbove : quint8(Data::NoHead);
+}
+
 bool Folding::updateLine(CodeBlockData* line)
 {
     Data* data = Data::of(line);
@@ -88,9 +95,7 @@ bool Folding::updateLine(CodeBlockData* line)
         headAbove = data->isOutermost ? Data::OutermostHead : Data::InnerHead;
     } else {
         result = aboveIndent + (above && isHead(above) ? 1 : 0);
-        if (const CodeBlockData* classified = LineIndex::backward(line, Data::HasClass)) {
-            headAbove = dataOf(classified)->headAbove;
-        }
+        headAbove = headAtOrAbove(aboveLine);
     }
     const bool changed = result != data->foldingIndent || headAbove != data->headAbove;
     data->foldingIndent = result;
@@ -98,19 +103,11 @@ bool Folding::updateLine(CodeBlockData* line)
     return changed;
 }
 
-void Folding::update(CodeBlockData* first, CodeBlockData* last)
+void Folding::updateBelow(CodeBlockData* line)
 {
-    CodeBlockData* line = first;
-    if (!(dataOf(line)->traits & Data::HasClass)) {
+    do {
         line = LineIndex::forward(line, Data::HasClass);
-    }
-    const CodeBlockData* behind = LineIndex::forward(last, Data::HasClass);
-    for (; line && line != behind; line = LineIndex::forward(line, Data::HasClass)) {
-        updateLine(line);
-    }
-    while (line && updateLine(line)) {
-        line = LineIndex::forward(line, Data::HasClass);
-    }
+    } while (line && updateLine(line));
 }
 
 }  // namespace Zorv

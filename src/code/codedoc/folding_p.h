@@ -18,13 +18,16 @@ public:
     /// The level of a line in an index.
     static int indent(const CodeBlockData* line);
 
-    /// Brings the levels of the lines `first` to `last` up to date, and those
-    /// below that depend on them.
-    static void update(CodeBlockData* first, CodeBlockData* last);
+    /// Brings the level of a classified line up to date, when those above it
+    /// are. True if something has changed that lines below depend on.
+    static bool updateLine(CodeBlockData* line);
+
+    /// Brings the levels below a line up to date, as far as they depend on it.
+    static void updateBelow(CodeBlockData* line);
 
 private:
     static int indentBetween(const CodeBlockData* above, const CodeBlockData* below);
-    static bool updateLine(CodeBlockData* line);
+    static quint8 headAtOrAbove(const CodeBlockData* line);
 };
 
 }  // namespace Zorv

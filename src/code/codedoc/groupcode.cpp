@@ -39,13 +39,13 @@ void GroupCode::handOver()
     CodeNode* above =
         NodeChain::backward(this, CodeNode::Group | CodeNode::Animation | CodeNode::Frame);
     if (!above || above->type() != CodeNode::Group) {
-        while (CodeNode* value = m_values.at(m_values.size() - 1)) {
+        while (CodeNode* value = m_values.last()) {
             GroupCode::removeChild(value);
         }
         return;
     }
     auto* group = static_cast<GroupCode*>(above);
-    while (CodeNode* value = m_values.at(m_values.size() - 1)) {
+    while (CodeNode* value = m_values.last()) {
         group->insertChild(value, unsigned(-1));
     }
 }

@@ -56,6 +56,8 @@ protected:
     void adopt() override;
 
 private:
+    friend class ValueCode;
+
     CodeNodeList m_values;
     unsigned m_group;
 };

@@ -37,9 +37,15 @@ ValueCode::ValueCode(CodeNode* previous, Type type, const QVariant& value)
       m_value(ValueCode::convertFrom(type, value))
 {
     CodeNode* head = NodeChain::backward(this, CodeNode::Group | CodeNode::Animation);
-    if (head && head->type() == CodeNode::Group) {
+    if (!head || head->type() != CodeNode::Group) {
+        return;
+    }
+    auto* group = static_cast<GroupCode*>(head);
+    if (group->m_values.last() == previous) {
+        group->insertChild(this, unsigned(-1));
+    } else {
         const unsigned place = NodeChain::before(this).values - NodeChain::before(head).values;
-        static_cast<GroupCode*>(head)->insertChild(this, place);
+        group->insertChild(this, place);
     }
 }
 
