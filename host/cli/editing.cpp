@@ -63,7 +63,7 @@ int printDifference(const FamilyDocument& document, const QString& before, const
     }
     const QString note = Family::lineEndNote(&document);
     if (!note.isEmpty()) {
-        output.write(QLatin1String("# ") + note + QLatin1Char('\n'));
+        output.write(note + QLatin1Char('\n'));
     }
     output.write(Family::unifiedDiff(before, document.text(), fileName, fileName));
     return Fine;

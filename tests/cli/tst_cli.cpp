@@ -39,6 +39,7 @@ QProcessEnvironment bareEnvironment()
 {
     const auto here = QProcessEnvironment::systemEnvironment();
     QProcessEnvironment bare;
+    bare.insert("SAMPLES", ZORV_SAMPLES);
     bare.insert("PATH",
                 QFileInfo(ZORV_PROGRAM).absolutePath() + ":" CLI_TESTS "/bin:/usr/bin:/bin");
     for (const char* name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"}) {
