@@ -1,6 +1,5 @@
 #include "nodes/animationnode.h"
 
-#include "grammar/groupinfo.h"
 #include "grammar/linescanner.h"
 #include "nodes/boxnode.h"
 #include "nodes/framenode.h"
@@ -15,19 +14,27 @@ AnimationNode::AnimationNode(Zorv::CodeNode* previous, const QString& identifier
     : AnimationCode(previous), m_identifier(identifier), m_name(name)
 {
     BoxNode::raiseRevision();
-    leaveSubGroups();
+    letGo();
 }
 
-/// Sub-groups behind an animation belong to no group. While lines above were
-/// parsed, one may have taken them.
-void AnimationNode::leaveSubGroups()
+/// Boxes have no parent, and sub-groups behind an animation belong to no group.
+/// While the lines above were parsed, a group may have taken them.
+void AnimationNode::letGo()
 {
-    CodeNode* node = next(Group, Animation);
-    while (node && static_cast<GroupNode*>(node)->info()->isSubGroup()) {
-        if (static_cast<GroupNode*>(node)->isSubGroup()) {
-            insertRootChild(node);
+    CodeNode* node = next();
+    for (; node && node->type() != Group && node->type() != Animation; node = node->next()) {
+        if (node->type() == Value && node->parentCode()) {
+            node->parentCode()->removeChild(node);
         }
-        node = node->next(Group, Animation);
+    }
+    GroupNode::placeSubGroups(this, nullptr);
+}
+
+void AnimationNode::handOver()
+{
+    AnimationCode::handOver();
+    if (GroupNode* group = GroupNode::groupBefore(this)) {
+        GroupNode::placeSubGroups(this, group);
     }
 }
 

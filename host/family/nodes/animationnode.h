@@ -38,8 +38,11 @@ public:
     void childChanged(Zorv::CodeNode* child) override;
     void release() override;
 
+protected:
+    void handOver() override;
+
 private:
-    void leaveSubGroups();
+    void letGo();
 
     QString m_identifier;
     QString m_name;

@@ -13,31 +13,6 @@ namespace Family {
 using Zorv::CodeNode;
 using Zorv::CodeNodeList;
 
-namespace {
-
-/// The group in front of a node that sub-groups behind it belong to, or null.
-GroupNode* mainGroupBefore(const CodeNode* node, GroupNode** brother)
-{
-    *brother = nullptr;
-    auto* above = static_cast<GroupNode*>(node->previous(CodeNode::Group, CodeNode::Animation));
-    if (!above || !above->info()->isSubGroup()) {
-        return above;
-    }
-    if (!above->isSubGroup()) {
-        return nullptr;
-    }
-    *brother = above;
-    return static_cast<GroupNode*>(above->parentCode());
-}
-
-GroupNode* mainGroupBefore(const CodeNode* node)
-{
-    GroupNode* brother = nullptr;
-    return mainGroupBefore(node, &brother);
-}
-
-}  // namespace
-
 GroupNode::GroupNode(CodeNode* previous, const GroupInfo* info, const QString& argument)
     : GroupCode(previous, info->number), m_info(info), m_argument(argument)
 {
@@ -55,7 +30,7 @@ GroupNode::~GroupNode()
 void GroupNode::attach()
 {
     GroupNode* brother = nullptr;
-    GroupNode* group = m_info->isSubGroup() ? mainGroupBefore(this, &brother) : nullptr;
+    GroupNode* group = m_info->isSubGroup() ? groupBefore(this, &brother) : nullptr;
     if (group) {
         group->insertChild(this, brother ? unsigned(group->m_subGroups.indexOf(brother) + 1) : 0);
     } else {
@@ -63,14 +38,45 @@ void GroupNode::attach()
     }
 }
 
+GroupNode* GroupNode::groupBefore(const CodeNode* node, GroupNode** brother)
+{
+    *brother = nullptr;
+    auto* above = static_cast<GroupNode*>(node->previous(Group, Animation));
+    if (!above || !above->info()->isSubGroup()) {
+        return above;
+    }
+    if (!above->isSubGroup()) {
+        return nullptr;
+    }
+    *brother = above;
+    return static_cast<GroupNode*>(above->parentCode());
+}
+
+GroupNode* GroupNode::groupBefore(const CodeNode* node)
+{
+    GroupNode* brother = nullptr;
+    return groupBefore(node, &brother);
+}
+
+void GroupNode::placeSubGroups(CodeNode* head, GroupNode* group)
+{
+    CodeNode* node = head->next(Group, Animation);
+    while (node && static_cast<GroupNode*>(node)->info()->isSubGroup()) {
+        if (group) {
+            group->insertChild(node, unsigned(-1));
+        } else if (static_cast<GroupNode*>(node)->isSubGroup()) {
+            insertRootChild(node);
+        }
+        node = node->next(Group, Animation);
+    }
+}
+
 /// A head written above sub-groups takes them over: their lines need not be
 /// parsed again if the group above was of the same kind.
 void GroupNode::adoptSubGroups()
 {
-    CodeNode* node = m_info->isSubGroup() ? nullptr : next(Group, Animation);
-    while (node && static_cast<GroupNode*>(node)->info()->isSubGroup()) {
-        GroupNode::insertChild(node, unsigned(m_subGroups.size()));
-        node = node->next(Group, Animation);
+    if (!m_info->isSubGroup()) {
+        placeSubGroups(this, this);
     }
 }
 
@@ -85,12 +91,12 @@ void GroupNode::giveAway()
     if (m_subGroups.isEmpty()) {
         return;
     }
-    GroupNode* group = mainGroupBefore(this);
+    GroupNode* group = groupBefore(this);
     while (CodeNode* sub = m_subGroups.at(0)) {
         if (group) {
-            group->insertChild(sub, unsigned(group->m_subGroups.size()));
+            group->insertChild(sub, unsigned(-1));
         } else {
-            GroupNode::removeChild(sub);
+            insertRootChild(sub);
         }
     }
 }
@@ -106,7 +112,7 @@ bool GroupNode::isInPlace() const
     if (!m_info->isSubGroup()) {
         return true;
     }
-    const GroupNode* group = mainGroupBefore(this);
+    const GroupNode* group = groupBefore(this);
     return group ? parentCode() == group : !isSubGroup() && parentCode();
 }
 

@@ -42,6 +42,13 @@ public:
     /// For the parser: true if a new node in this place would have the same parent.
     bool isInPlace() const;
 
+    /// The group that a sub-group behind `node` belongs to, null without one.
+    static GroupNode* groupBefore(const Zorv::CodeNode* node);
+
+    /// Gives the sub-groups that follow a head of whatever kind to a group, or
+    /// to the root.
+    static void placeSubGroups(Zorv::CodeNode* head, GroupNode* group);
+
     int childCount() const override;
     int childIndex(Zorv::CodeNode* child) const override;
     Zorv::CodeNode* childAt(unsigned index) const override;
@@ -55,6 +62,7 @@ protected:
     void adopt() override;
 
 private:
+    static GroupNode* groupBefore(const Zorv::CodeNode* node, GroupNode** brother);
     void attach();
     void adoptSubGroups();
     void giveAway();
