@@ -7,6 +7,7 @@ packages_build=(
     libuchardet-dev libgif-dev libsamplerate0-dev
 )
 packages_display=(xvfb xauth libgl1-mesa-dri fonts-dejavu-core)
+packages_run=(fonts-droid-fallback)  # the sample game has comments in Japanese
 packages_test=(python3)
 packages_bench=(libkf5syntaxhighlighting-dev)
 packages_fuzz=(clang libclang-rt-14-dev)
