@@ -92,10 +92,7 @@ QStringList childTexts(const Zorv::ParentCode* parent)
 class Walk
 {
 public:
-    explicit Walk(const FamilyDocument* document)
-        : m_node(const_cast<FamilyDocument*>(document))
-    {
-    }
+    explicit Walk(const FamilyDocument* document) : m_node(const_cast<FamilyDocument*>(document)) {}
 
     bool follow(const QVector<PathPart>& parts);
     CodeNode* node() const { return m_node; }
@@ -117,6 +114,8 @@ private:
 
 bool Walk::follow(const QVector<PathPart>& parts)
 {
+    const bool isInAnimation = parts.first().name == QLatin1String("animation");
+    const QString separator = isInAnimation ? QStringLiteral("/") : QStringLiteral(".");
     for (const PathPart& part : parts) {
         if (!m_part.isEmpty()) {
             m_error = tr("'%1' has no parts.").arg(m_walked);
@@ -125,8 +124,8 @@ bool Walk::follow(const QVector<PathPart>& parts)
         if (!step(part)) {
             return false;
         }
-        m_walked += (m_walked.isEmpty() ? QString() : QStringLiteral("."))
-                    + numbered(part.text(), part.number);
+        m_walked +=
+            (m_walked.isEmpty() ? QString() : separator) + numbered(part.text(), part.number);
     }
     return true;
 }
@@ -134,10 +133,9 @@ bool Walk::follow(const QVector<PathPart>& parts)
 bool Walk::missing(const PathPart& part, const QStringList& names)
 {
     const QString text = numbered(part.text(), part.number);
-    const QString where = m_walked.isEmpty() ? tr("There is no '%1' in the file. %2").arg(text)
-                                             : tr("There is no '%1' in '%2'. %3")
-                                                   .arg(text, m_walked);
-    m_error = where.arg(nameHint(part.text(), names));
+    const QString hint = nameHint(part.text(), names);
+    m_error = m_walked.isEmpty() ? tr("There is no '%1' in the file. %2").arg(text, hint)
+                                 : tr("There is no '%1' in '%2'. %3").arg(text, m_walked, hint);
     return false;
 }
 
@@ -179,10 +177,8 @@ bool Walk::stepToFrame(const AnimationNode* animation, const PathPart& part)
     if (part.name == QLatin1String("frame") && part.hasArgument) {
         bool ok = false;
         const int index = part.argument.toInt(&ok);
-        CodeNode* frame = animation->childCount() > 0 ? animation->childAt(unsigned(index))
-                                                      : nullptr;
-        if (ok && index >= 0 && index < animation->childCount() && frame) {
-            m_node = frame;
+        if (ok && index >= 0 && index < animation->childCount()) {
+            m_node = animation->childAt(unsigned(index));
             return true;
         }
         m_error = tr("There is no '%1' in '%2': it has %3 frame(s), counted from 0.")
@@ -190,8 +186,8 @@ bool Walk::stepToFrame(const AnimationNode* animation, const PathPart& part)
                       .arg(animation->childCount());
         return false;
     }
-    return endAt(part, {QStringLiteral("name"), QStringLiteral("identifier"),
-                        QStringLiteral("frame:0")});
+    return endAt(part,
+                 {QStringLiteral("name"), QStringLiteral("identifier"), QStringLiteral("frame:0")});
 }
 
 bool Walk::stepIntoFrame(const FrameNode* frame, const PathPart& part)
@@ -273,8 +269,7 @@ QHash<const CodeNode*, QString> nodePaths(const FamilyDocument* document)
     return paths;
 }
 
-CodeNode* nodeAt(const FamilyDocument* document, const QString& path, QString* part,
-                 QString* error)
+CodeNode* nodeAt(const FamilyDocument* document, const QString& path, QString* part, QString* error)
 {
     const QVector<PathPart> parts = splitPath(path, error);
     if (parts.isEmpty()) {
@@ -305,8 +300,7 @@ QString nodeKind(const CodeNode* node)
     case CodeNode::Frame:
         return QStringLiteral("frame");
     default:
-        return dynamic_cast<const BoxNode*>(node) ? QStringLiteral("box")
-                                                  : QStringLiteral("value");
+        return dynamic_cast<const BoxNode*>(node) ? QStringLiteral("box") : QStringLiteral("value");
     }
 }
 
