@@ -84,7 +84,8 @@ int runInWindow(int& argc, char** argv, const QStringList& arguments)
                              arguments.contains(QLatin1String("-platform"));
     if (hasPlatform) {
         QApplication application(argc, argv);
-        return App::runWindow(application, arguments);
+        // Qt has taken its own options out of these.
+        return App::runWindow(application, QCoreApplication::arguments().mid(1));
     }
     fputs("zorv: There is no display for the window. 'zorv help' tells what can be done without "
           "one.\n",

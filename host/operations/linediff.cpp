@@ -21,6 +21,48 @@ struct Range
     int size() const { return end - begin; }
 };
 
+using LinePair = QPair<int, int>;
+
+// Of the two ways to diagonal k, the one that leads further: by a new line from
+// the diagonal above, or by an old one from that below.
+bool isNewLine(const QVector<int>& row, int at, int k, int distance)
+{
+    return k == -distance || (k != distance && row[at - 1] < row[at + 1]);
+}
+
+int furthestStart(const QVector<int>& row, int at, int k, int distance)
+{
+    if (distance == 0) {
+        return 0;
+    }
+    return isNewLine(row, at, k, distance) ? row[at + 1] : row[at - 1] + 1;
+}
+
+/// The longest row of pairs that ascends on both sides, out of pairs that ascend
+/// on the first, by patience sorting.
+QVector<LinePair> longestAscending(const QVector<LinePair>& pairs)
+{
+    QVector<int> previous;
+    QVector<int> tops;
+    for (int i = 0; i < pairs.size(); ++i) {
+        const auto top =
+            std::lower_bound(tops.begin(), tops.end(), pairs[i].second,
+                             [&pairs](int at, int line) { return pairs[at].second < line; });
+        previous.append(top == tops.begin() ? -1 : *(top - 1));
+        if (top == tops.end()) {
+            tops.append(i);
+        } else {
+            *top = i;
+        }
+    }
+    QVector<LinePair> result;
+    for (int at = tops.isEmpty() ? -1 : tops.last(); at >= 0; at = previous[at]) {
+        result.append(pairs[at]);
+    }
+    std::reverse(result.begin(), result.end());
+    return result;
+}
+
 /// Marks the lines that differ. First lines that are alone of their kind on both
 /// sides are matched, in the longest order that they have in common; then what
 /// lies between is searched for the smallest difference.
@@ -34,7 +76,8 @@ public:
 private:
     void match(Range a, Range b, int depth);
     void trim(Range* a, Range* b);
-    QVector<QPair<int, int>> anchors(Range a, Range b) const;
+    QVector<LinePair> uniquePairs(Range a, Range b) const;
+    QVector<QVector<int>> searchSmallest(Range a, Range b) const;
     void matchSmallest(Range a, Range b);
     void pair(int oldLine, int newLine) { m_partner[oldLine] = newLine; }
 
@@ -62,9 +105,9 @@ void LineMatcher::match(Range a, Range b, int depth)
     if (a.size() == 0 || b.size() == 0) {
         return;
     }
-    QVector<QPair<int, int>> fixed;
+    QVector<LinePair> fixed;
     if (depth < MaxDepth) {
-        fixed = anchors(a, b);
+        fixed = longestAscending(uniquePairs(a, b));
     }
     if (fixed.isEmpty()) {
         matchSmallest(a, b);
@@ -73,7 +116,7 @@ void LineMatcher::match(Range a, Range b, int depth)
     fixed.append({a.end, b.end});
     Range oldPart{a.begin, a.begin};
     Range newPart{b.begin, b.begin};
-    for (const auto& anchor : qAsConst(fixed)) {
+    for (const LinePair& anchor : qAsConst(fixed)) {
         oldPart.end = anchor.first;
         newPart.end = anchor.second;
         match(oldPart, newPart, depth + 1);
@@ -95,7 +138,8 @@ void LineMatcher::trim(Range* a, Range* b)
     }
 }
 
-QVector<QPair<int, int>> LineMatcher::anchors(Range a, Range b) const
+// The lines that are alone of their kind on both sides.
+QVector<LinePair> LineMatcher::uniquePairs(Range a, Range b) const
 {
     struct Place
     {
@@ -112,74 +156,61 @@ QVector<QPair<int, int>> LineMatcher::anchors(Range a, Range b) const
     for (int i = a.begin; i < a.end; ++i) {
         ++inOld[m_old[i]];
     }
-    // The longest ascending row of new lines, by patience sorting.
-    QVector<QPair<int, int>> pairs;
-    QVector<int> previous;
-    QVector<int> tops;
+    QVector<LinePair> pairs;
     for (int i = a.begin; i < a.end; ++i) {
         const Place place = inNew.value(m_old[i]);
-        if (place.count != 1 || inOld.value(m_old[i]) != 1) {
-            continue;
+        if (place.count == 1 && inOld.value(m_old[i]) == 1) {
+            pairs.append({i, place.line});
         }
-        const auto top =
-            std::lower_bound(tops.begin(), tops.end(), place.line,
-                             [&pairs](int at, int line) { return pairs[at].second < line; });
-        previous.append(top == tops.begin() ? -1 : *(top - 1));
-        if (top == tops.end()) {
-            tops.append(pairs.size());
-        } else {
-            *top = pairs.size();
-        }
-        pairs.append({i, place.line});
     }
-    QVector<QPair<int, int>> result;
-    for (int at = tops.isEmpty() ? -1 : tops.last(); at >= 0; at = previous[at]) {
-        result.append(pairs[at]);
-    }
-    std::reverse(result.begin(), result.end());
-    return result;
+    return pairs;
 }
 
-// Myers' greedy search: `reach[k]` is the furthest old line on diagonal k that
-// `distance` changes lead to. The rows are kept to walk the way back.
-void LineMatcher::matchSmallest(Range a, Range b)
+// Myers' greedy search: row[k] is the furthest old line on diagonal k that a
+// number of changes leads to; there is a row for each number, as it was before.
+// No rows if the search is given up.
+QVector<QVector<int>> LineMatcher::searchSmallest(Range a, Range b) const
 {
     const int limit = std::min(MaxDistance, a.size() + b.size());
+    const int middle = limit + 1;
     QVector<QVector<int>> rows;
     QVector<int> reach(2 * limit + 3, 0);
-    const int middle = limit + 1;
-    int found = -1;
-    for (int distance = 0; distance <= limit && found < 0; ++distance) {
+    for (int distance = 0; distance <= limit; ++distance) {
         rows.append(reach);
-        for (int k = -distance; k <= distance && found < 0; k += 2) {
-            const bool down =
-                k == -distance || (k != distance && reach[middle + k - 1] < reach[middle + k + 1]);
-            int x = down ? reach[middle + k + 1] : reach[middle + k - 1] + 1;
-            while (x < a.size() && x - k < b.size() && x - k >= 0 &&
+        for (int k = -distance; k <= distance; k += 2) {
+            int x = furthestStart(reach, middle + k, k, distance);
+            while (x < a.size() && x - k < b.size() &&
                    m_old[a.begin + x] == m_new[b.begin + x - k]) {
                 ++x;
             }
             reach[middle + k] = x;
             if (k == a.size() - b.size() && x == a.size()) {
-                found = distance;
+                return rows;
             }
         }
     }
+    return {};
+}
+
+void LineMatcher::matchSmallest(Range a, Range b)
+{
+    const QVector<QVector<int>> rows = searchSmallest(a, b);
     int x = a.size();
     int y = b.size();
-    for (int distance = found; distance >= 0; --distance) {
+    for (int distance = rows.size() - 1; distance >= 0; --distance) {
         const QVector<int>& row = rows[distance];
         const int k = x - y;
-        const bool down =
-            k == -distance || (k != distance && row[middle + k - 1] < row[middle + k + 1]);
-        const int fromX = distance == 0 ? 0 : (down ? row[middle + k + 1] : row[middle + k - 1]);
-        const int fromY = distance == 0 ? 0 : fromX - (down ? k + 1 : k - 1);
-        const int startX = distance == 0 ? 0 : fromX + (down ? 0 : 1);
-        while (x > startX) {
+        const int at = row.size() / 2 + k;
+        const int start = furthestStart(row, at, k, distance);
+        while (x > start) {
             pair(a.begin + --x, b.begin + --y);
         }
-        x = fromX;
-        y = fromY;
+        // One change back: a new line keeps x, an old one keeps y.
+        if (isNewLine(row, at, k, distance)) {
+            --y;
+        } else {
+            --x;
+        }
     }
 }
 
