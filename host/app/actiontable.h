@@ -18,8 +18,8 @@ enum Need {
     NeedsUndo = 16,
     NeedsRedo = 32,
     NeedsSelection = 64,
-    NeedsAnimation = 128,     ///< a current row in the list of animations
-    NeedsAnimations = 256     ///< any row there
+    NeedsAnimation = 128,  ///< a current row in the list of animations
+    NeedsAnimations = 256  ///< any row there
 };
 
 /// One action of the window: a row of the table.

@@ -212,8 +212,8 @@ void AnimationPanel::requestIdentifier(int row)
     const AnimationNode* animation = m_document->animations()->animation(row);
     const QString identifier = animation->identifier();
     const int keyword = animation->block().text().indexOf(QLatin1String("animation"));
-    const int column = animation->block().text().indexOf(
-        identifier, keyword + QLatin1String("animation").size());
+    const int column =
+        animation->block().text().indexOf(identifier, keyword + QLatin1String("animation").size());
     emit lineRequested(animation->firstLine(), std::max(column, 0),
                        column < 0 ? 0 : identifier.size());
 }

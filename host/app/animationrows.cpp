@@ -80,8 +80,8 @@ QVector<int> AnimationRows::draggedRows(const QMimeData* data) const
     qint64 process = 0;
     quint64 list = 0;
     stream >> process >> list;
-    if (!m_animations || process != QCoreApplication::applicationPid()
-        || list != quintptr(m_animations)) {
+    if (!m_animations || process != QCoreApplication::applicationPid() ||
+        list != quintptr(m_animations)) {
         return {};
     }
     QVector<int> rows;

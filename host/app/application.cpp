@@ -12,6 +12,8 @@
 #include <QSettings>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace App {
 
 namespace {
@@ -47,11 +49,28 @@ Usage parse(const QStringList& arguments)
     return usage;
 }
 
-void setUpLook()
+/// The desktop's fixed font. Where no desktop says which that is, any family of
+/// characters of one width.
+QFont fixedFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const QFontDatabase fonts;
+    if (fonts.isFixedPitch(QFontInfo(font).family())) {
+        return font;
+    }
+    const QStringList families = fonts.families(QFontDatabase::Latin);
+    const auto found =
+        std::find_if(families.begin(), families.end(), [&fonts](const QString& family) {
+            return fonts.isFixedPitch(family) && fonts.isSmoothlyScalable(family);
+        });
+    font.setFamily(found == families.end() ? QStringLiteral("monospace") : *found);
     font.setStyleHint(QFont::Monospace);
-    setCodeFont(font);
+    return font;
+}
+
+void setUpLook()
+{
+    setCodeFont(fixedFont());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/zorvl_icons/icons/anim.png")));
 }
 

@@ -96,8 +96,9 @@ QString CodeEdit::problemsAt(const QPoint& position) const
 {
     const QTextCursor cursor = cursorForPosition(position);
     const CodeBlockData* line = CodeBlockData::testBlockData(cursor.block());
-    if (!line || !cursorRect(cursor).adjusted(-width(), 0, fontMetrics().averageCharWidth(), 0)
-                     .contains(position)) {
+    if (!line || !cursorRect(cursor)
+                      .adjusted(-width(), 0, fontMetrics().averageCharWidth(), 0)
+                      .contains(position)) {
         return {};
     }
     QStringList texts;
@@ -118,9 +119,9 @@ bool CodeEdit::viewportEvent(QEvent* event)
     const auto* help = static_cast<QHelpEvent*>(event);
     // A text of the file in a message is no markup.
     const QString text = problemsAt(help->pos()).toHtmlEscaped();
-    QToolTip::showText(help->globalPos(),
-                       text.isEmpty() ? text : QLatin1String("<qt>") + text + QLatin1String("</qt>"),
-                       viewport());
+    QToolTip::showText(
+        help->globalPos(),
+        text.isEmpty() ? text : QLatin1String("<qt>") + text + QLatin1String("</qt>"), viewport());
     return true;
 }
 

@@ -48,8 +48,8 @@ private:
     void keepPlace(int from, int removed, int added);
 
     Family::FamilyDocument* m_document;
-    TextPlace m_place;         ///< as it was before the edit that is going on
-    int m_length = 0;          ///< of the text before that
+    TextPlace m_place;  ///< as it was before the edit that is going on
+    int m_length = 0;   ///< of the text before that
     bool m_isRestoring = false;
 };
 

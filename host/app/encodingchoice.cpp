@@ -32,7 +32,8 @@ Answer askWhatFor(const FamilyDocument* document, const QString& codec)
     const QString file = QDir::toNativeSeparators(document->fileName());
     const QString text =
         document->isModified()
-            ? tr("%1 has unsaved changes. They are lost if it is read again in %2.").arg(file, codec)
+            ? tr("%1 has unsaved changes. They are lost if it is read again in %2.")
+                  .arg(file, codec)
             : tr("%1 can be read again in %2, or keep its text and be saved in it.")
                   .arg(file, codec);
     const QStringList choices{tr("Read the file again in %1").arg(codec),

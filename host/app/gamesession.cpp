@@ -93,9 +93,8 @@ QString GameSession::folder() const
 QString GameSession::shownPath(const QString& fileName) const
 {
     const QString root = folder();
-    return QDir::toNativeSeparators(!root.isEmpty() && fileName.startsWith(root)
-                                        ? fileName.mid(root.size())
-                                        : fileName);
+    return QDir::toNativeSeparators(
+        !root.isEmpty() && fileName.startsWith(root) ? fileName.mid(root.size()) : fileName);
 }
 
 FamilyProject* GameSession::openProject(const QString& mainFile, QString* error)

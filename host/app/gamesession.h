@@ -63,8 +63,8 @@ public:
                                      bool load = false) const;
 
     /// The modified documents of one project, or with null of all.
-    QList<Family::FamilyDocument*> modifiedDocuments(
-        const Family::FamilyProject* project = nullptr) const;
+    QList<Family::FamilyDocument*>
+    modifiedDocuments(const Family::FamilyProject* project = nullptr) const;
 
 signals:
     void folderOpened();

@@ -1,9 +1,9 @@
 #include "app/gametree.h"
 
+#include "family/grammar/filekind.h"
 #include "family/project/familyparentproject.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QStyledItemDelegate>
 #include <QTimer>
 
@@ -77,7 +77,13 @@ void GameTree::setGame(Family::FamilyParentProject* game)
                 }
             });
     // The folders of characters and stages, and those of the projects in them.
-    expandToDepth(1);
+    for (int i = 0; i < game->rowCount(); ++i) {
+        const QModelIndex folder = game->index(i, 0);
+        expand(folder);
+        for (int j = 0; j < game->rowCount(folder); ++j) {
+            expand(game->index(j, 0, folder));
+        }
+    }
 }
 
 QString GameTree::pathOf(const QModelIndex& index) const
@@ -109,8 +115,20 @@ void GameTree::reveal(const QString& fileName)
 void GameTree::request(const QModelIndex& index)
 {
     const ParentProject::Path* path = m_game ? m_game->itemPath(index) : nullptr;
-    if (path && !path->isDirectory()) {
+    if (!path) {
+        return;
+    }
+    if (!path->isDirectory()) {
         emit fileRequested(QDir::cleanPath(pathOf(index)));
+    } else if (path->isProject() && !m_game->hasChildren(index)) {
+        // The folder of a closed project shows nothing and stands for it. It is
+        // opened when the double click is over, which would close it again.
+        QTimer::singleShot(0, this, [this, folder = QDir(path->absolutePath())] {
+            const QStringList names = folder.entryList(Family::mainFileFilters(), QDir::Files);
+            for (const QString& name : names) {
+                emit fileRequested(folder.absoluteFilePath(name));
+            }
+        });
     }
 }
 

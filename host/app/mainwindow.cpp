@@ -26,11 +26,17 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPointer>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTextBlock>
+#include <QTimer>
 #include <QVBoxLayout>
+
+// The library is a static one: nothing else brings its resources in. Qt's macro
+// names a function of the global namespace.
+static void loadResources()
+{
+    Q_INIT_RESOURCE(host_icons);
+}
 
 namespace App {
 
@@ -43,6 +49,7 @@ MainWindow::MainWindow(QWidget* parent)
       m_nodePanel(new NodePanel), m_animationPanel(new AnimationPanel),
       m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar()))
 {
+    loadResources();
     makeCentre();
     makeActions();
     makeDocks();
@@ -87,14 +94,14 @@ void MainWindow::makeDocks()
 {
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    QDockWidget* projects = addDock(m_gameTree, QStringLiteral("projects"), tr("Projects"),
-                                    Qt::LeftDockWidgetArea);
+    QDockWidget* projects =
+        addDock(m_gameTree, QStringLiteral("projects"), tr("Projects"), Qt::LeftDockWidgetArea);
     QDockWidget* nodes =
         addDock(m_nodePanel, QStringLiteral("nodes"), tr("Nodes"), Qt::RightDockWidgetArea);
     QDockWidget* animations = addDock(m_animationPanel, QStringLiteral("animations"),
                                       tr("Animations"), Qt::RightDockWidgetArea);
-    QDockWidget* messages =
-        addDock(m_messagePanel, QStringLiteral("messages"), tr("Messages"), Qt::BottomDockWidgetArea);
+    QDockWidget* messages = addDock(m_messagePanel, QStringLiteral("messages"), tr("Messages"),
+                                    Qt::BottomDockWidgetArea);
     resizeDocks({projects, nodes}, {220, 280}, Qt::Horizontal);
     resizeDocks({messages}, {150}, Qt::Vertical);
     resizeDocks({nodes, animations}, {320, 260}, Qt::Vertical);
@@ -157,10 +164,13 @@ void MainWindow::fillRecentMenu()
         m_recentMenu->addAction(text, this, [this, folder] { openPath(folder); });
     }
     m_recentMenu->addSeparator();
-    m_recentMenu->addAction(tr("&Clear the list"), this, [this] {
-        RecentFolders::clear();
-        fillRecentMenu();
-    })->setEnabled(!folders.isEmpty());
+    m_recentMenu
+        ->addAction(tr("&Clear the list"), this,
+                    [this] {
+                        RecentFolders::clear();
+                        fillRecentMenu();
+                    })
+        ->setEnabled(!folders.isEmpty());
     m_recentMenu->setEnabled(true);
 }
 
@@ -168,7 +178,7 @@ void MainWindow::connectParts()
 {
     connect(m_session, &GameSession::folderOpened, this, [this] {
         m_gameTree->setGame(m_session->game());
-        updateActions();
+        updateSoon();
     });
     connect(m_session, &GameSession::folderAboutToClose, this,
             [this] { m_gameTree->setGame(nullptr); });
@@ -178,10 +188,7 @@ void MainWindow::connectParts()
             &MainWindow::currentDocumentChanged);
     connect(m_tabs, &DocumentTabs::closeRequested, this, &MainWindow::closeDocument);
     connect(m_tabs, &DocumentTabs::cursorMoved, this, &MainWindow::cursorMoved);
-    connect(m_tabs, &DocumentTabs::stateChanged, this, [this] {
-        updateTitle();
-        updateActions();
-    });
+    connect(m_tabs, &DocumentTabs::stateChanged, this, &MainWindow::updateNow);
 }
 
 void MainWindow::connectPanels()
@@ -193,7 +200,7 @@ void MainWindow::connectPanels()
             [this](int line, int column, int length) {
                 showPlace(m_tabs->currentDocument(), line, column, length);
             });
-    connect(m_animationPanel, &AnimationPanel::stateChanged, this, &MainWindow::updateActions);
+    connect(m_animationPanel, &AnimationPanel::stateChanged, this, &MainWindow::updateSoon);
     connect(m_messagePanel, &MessagePanel::placeRequested, this,
             [this](Zorv::CodeDocument* document, int line, int column) {
                 showPlace(document, line, column, 0);
@@ -243,7 +250,6 @@ bool MainWindow::openFolder(const QString& folder)
         return false;
     }
     RecentFolders::add(folder);
-    updateTitle();
     m_gameTree->setFocus();
     return true;
 }
@@ -316,8 +322,7 @@ void MainWindow::currentDocumentChanged(FamilyDocument* document)
     m_status->setDocument(document);
     m_lineBar->hide();
     updateMessages();
-    updateTitle();
-    updateActions();
+    updateNow();
     cursorMoved();
 }
 
@@ -336,20 +341,36 @@ void MainWindow::updateMessages()
     const FamilyProject* project = currentProject();
     m_messagePanel->setMessages(project ? project->messages() : nullptr);
     m_status->showField(1, m_messagePanel->summary());
-    updateActions();
+    updateSoon();
 }
 
 void MainWindow::updateTitle()
 {
     const FamilyDocument* document = m_tabs->currentDocument();
-    QString text = document ? m_session->shownPath(document->fileName()) + QLatin1String("[*]")
-                            : QString();
+    QString text =
+        document ? m_session->shownPath(document->fileName()) + QLatin1String("[*]") : QString();
     const QString game = QDir(m_session->folder()).dirName();
     for (const QString& part : {m_session->game() ? game : QString(), QStringLiteral("Zorv")}) {
         text += !text.isEmpty() && !part.isEmpty() ? QLatin1String(" - ") + part : part;
     }
     setWindowTitle(text);
     setWindowModified(document && document->isModified());
+}
+
+/// A file that is read brings thousands of rows one by one.
+void MainWindow::updateSoon()
+{
+    if (!m_isUpdatePending) {
+        m_isUpdatePending = true;
+        QTimer::singleShot(0, this, &MainWindow::updateNow);
+    }
+}
+
+void MainWindow::updateNow()
+{
+    m_isUpdatePending = false;
+    updateTitle();
+    updateActions();
 }
 
 void MainWindow::updateActions()

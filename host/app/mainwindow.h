@@ -125,6 +125,8 @@ private:
 
     void currentDocumentChanged(Family::FamilyDocument* document);
     void cursorMoved();
+    void updateSoon();
+    void updateNow();
     void updateActions();
     void updateTitle();
     void updateMessages();
@@ -143,6 +145,7 @@ private:
     QHash<QByteArray, QMenu*> m_menus;
     QHash<QByteArray, QAction*> m_actions;
     QMenu* m_recentMenu = nullptr;
+    bool m_isUpdatePending = false;
 };
 
 }  // namespace App

@@ -60,13 +60,13 @@ void MainWindow::closeDocument(FamilyDocument* document)
     if (document->isModified() && QFileInfo::exists(document->fileName())) {
         document->reload();
     }
-    updateActions();
+    updateSoon();
 }
 
 void MainWindow::openFolderByDialog()
 {
-    const QString folder = Dialogs::instance()->existingFolder(this, tr("Open game folder"),
-                                                               m_session->folder());
+    const QString folder =
+        Dialogs::instance()->existingFolder(this, tr("Open game folder"), m_session->folder());
     if (!folder.isEmpty()) {
         openPath(folder);
     }
@@ -114,8 +114,7 @@ void MainWindow::closeFolder()
 {
     if (askAboutUnsaved(m_session->modifiedDocuments())) {
         m_session->closeFolder();
-        updateTitle();
-        updateActions();
+        updateSoon();
     }
 }
 

@@ -78,8 +78,7 @@ void MessagePanel::request(const QModelIndex& index)
 {
     int place = 0;
     const Messages* messages = m_list ? m_list->messagesAt(index.row(), &place) : nullptr;
-    auto* document =
-        messages ? dynamic_cast<Zorv::CodeDocument*>(messages->file()) : nullptr;
+    auto* document = messages ? dynamic_cast<Zorv::CodeDocument*>(messages->file()) : nullptr;
     if (document) {
         const Message message = messages->at(place);
         emit placeRequested(document, message.line, message.column);

@@ -120,8 +120,7 @@ bool NodeModel::isStale() const
 
 bool NodeModel::canFollow(const Item* item) const
 {
-    return m_document && item->node && item->epoch == m_epoch
-           && !m_document->isCodeBeingChanged();
+    return m_document && item->node && item->epoch == m_epoch && !m_document->isCodeBeingChanged();
 }
 
 void NodeModel::markStale()
@@ -158,6 +157,9 @@ QModelIndex NodeModel::indexOfLine(int line) const
         return {};
     }
     const QTextBlock block = m_document->findBlockByNumber(line);
+    if (!block.isValid()) {
+        return {};
+    }
     const CodeNode* node = m_document->nodeInBlock(block);
     if (!node) {
         node = m_document->nodeBefore(block);
@@ -278,8 +280,8 @@ void NodeModel::sync(Item* item)
         ++head;
     }
     int tail = 0;
-    while (tail < common - head
-           && rows[size_t(before - 1 - tail)]->node == nodes[nodes.size() - 1 - tail]) {
+    while (tail < common - head &&
+           rows[size_t(before - 1 - tail)]->node == nodes[nodes.size() - 1 - tail]) {
         ++tail;
     }
     // Between these, a row stands for the node that took its place: an edited

@@ -45,8 +45,7 @@ bool saveDocuments(const QList<FamilyDocument*>& documents)
     bool all = true;
     for (FamilyDocument* document : documents) {
         QString error;
-        const Family::Saved saved =
-            Family::saveDocument(document, document->fileName(), &error);
+        const Family::Saved saved = Family::saveDocument(document, document->fileName(), &error);
         all = all && saved == Family::Saved::Done;
         if (saved == Family::Saved::Failed) {
             errors.append(error);
@@ -64,12 +63,11 @@ bool askAboutUnsaved(const QList<FamilyDocument*>& documents)
         return true;
     }
     const bool isOne = documents.size() == 1;
-    const QString text = isOne ? tr("This file has unsaved changes:")
-                               : tr("These files have unsaved changes:");
+    const QString text =
+        isOne ? tr("This file has unsaved changes:") : tr("These files have unsaved changes:");
     const QStringList choices{isOne ? tr("Save") : tr("Save all"), tr("Discard the changes")};
-    switch (Dialogs::instance()->choose(tr("Unsaved changes"),
-                                        text + QLatin1String("\n\n") + namesOf(documents), choices,
-                                        Save)) {
+    switch (Dialogs::instance()->choose(
+        tr("Unsaved changes"), text + QLatin1String("\n\n") + namesOf(documents), choices, Save)) {
     case Save:
         return saveDocuments(documents);
     case Discard:

@@ -84,9 +84,9 @@ QAction* WindowInterface::createAction(const char* const*, const QString& name, 
     auto* action = new QAction(readableName(name), m_window);
     action->setObjectName(name);
     const QVariant chosen = option(QLatin1String("shortcut_") + name);
-    action->setShortcut(QKeySequence(chosen.isValid() ? chosen.toString()
-                                                      : QString::fromLatin1(shortcut),
-                                     QKeySequence::PortableText));
+    action->setShortcut(
+        QKeySequence(chosen.isValid() ? chosen.toString() : QString::fromLatin1(shortcut),
+                     QKeySequence::PortableText));
     m_window->addAction(action);
     if (receiver && slot) {
         QObject::connect(action, SIGNAL(triggered(bool)), receiver, slot);

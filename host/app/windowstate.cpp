@@ -52,8 +52,8 @@ void restoreText(MainWindow* window, const QVariantMap& state)
     const QString project = state.value(QStringLiteral("project")).toString();
     const QString file = state.value(QStringLiteral("file")).toString();
     QString error;
-    if (!QFileInfo(project).isFile() || !QFileInfo(file).isFile()
-        || !window->session()->openProject(project, &error)) {
+    if (!QFileInfo(project).isFile() || !QFileInfo(file).isFile() ||
+        !window->session()->openProject(project, &error)) {
         return;
     }
     if (!window->session()->document(file, nullptr, true) || !window->openFile(file)) {
@@ -91,8 +91,8 @@ void WindowState::restoreShape(MainWindow* window)
 void WindowState::restoreWork(MainWindow* window, const QString& otherwise)
 {
     const QString last = setting(GameKey).toString();
-    const bool isLast = !last.isEmpty() && QFileInfo(last).isDir()
-                        && (otherwise.isEmpty() || QDir(otherwise) == QDir(last));
+    const bool isLast = !last.isEmpty() && QFileInfo(last).isDir() &&
+                        (otherwise.isEmpty() || QDir(otherwise) == QDir(last));
     if (!isLast) {
         if (!otherwise.isEmpty()) {
             window->openPath(otherwise);

@@ -1,0 +1,505 @@
+#include "windowfixture.h"
+
+#include "app/application.h"
+#include "app/recentfolders.h"
+#include "core/interface.h"
+#include "core/messagelist.h"
+#include "core/progressreporter.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QApplication>
+#include <QImage>
+#include <QMenu>
+#include <QProgressDialog>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTreeView>
+
+using App::GameTree;
+using App::MainWindow;
+using Family::FamilyDocument;
+
+namespace {
+
+enum Choice { Save = 0, Discard = 1, GiveUp = -1 };
+
+}  // namespace
+
+/// Opening, saving and closing in the real window.
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void refusesWhatIsNoGame_data();
+    void refusesWhatIsNoGame();
+    void opensAProjectByDoubleClick();
+    void opensTheGameAroundAMainFile();
+    void tellsOfAFileThatIsMissing();
+    void showsAFileThatIsNamedNow();
+    void savesByKey();
+    void keepsTheTextWhenASaveFails();
+    void savesAll();
+    void asksBeforeTheWindowCloses_data();
+    void asksBeforeTheWindowCloses();
+    void asksBeforeATextCloses_data();
+    void asksBeforeATextCloses();
+    void closesProjectsWhileTheyAreShown();
+    void closesTheGameWhileItIsShown();
+    void keepsTheTreeOpen();
+    void remembersFolders();
+    void keepsItsState();
+    void startsWithoutTheLastGame();
+    void offersOnlyWhatIsOfUse();
+    void isReachedByKeys();
+    void servesTheLibrary();
+    void drawsAPicture();
+
+private:
+    QString settingsFile() const { return m_settingsFolder->filePath(QStringLiteral("zorv.ini")); }
+    MainWindow* window() const { return m->window.get(); }
+    void restart();
+
+    std::unique_ptr<QTemporaryDir> m_settingsFolder;
+    std::unique_ptr<TemporaryGame> m_game;
+    std::unique_ptr<WindowFixture> m;
+};
+
+void tst_MainWindow::init()
+{
+    m_settingsFolder = std::make_unique<QTemporaryDir>();
+    m_game = std::make_unique<TemporaryGame>();
+    restart();
+}
+
+void tst_MainWindow::cleanup()
+{
+    m.reset();
+}
+
+void tst_MainWindow::restart()
+{
+    m.reset();
+    m = std::make_unique<WindowFixture>(settingsFile());
+}
+
+void tst_MainWindow::refusesWhatIsNoGame_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("missing") << "nowhere"
+                             << "There is no folder";
+    QTest::newRow("empty") << "empty"
+                           << "There is no project in";
+    QTest::newRow("without a project") << "plain"
+                                       << "There is no project in";
+    QTest::newRow("a file that is no project") << "plain/notes.txt"
+                                               << "There is no project in";
+}
+
+void tst_MainWindow::refusesWhatIsNoGame()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, expected);
+    m->open(*m_game, m_game->ryn());
+    m->type(QStringLiteral("# kept"));
+    m->dialogs.choiceAnswers = {Discard};
+    const QTemporaryDir other;
+    QVERIFY(QDir(other.path()).mkpath(QStringLiteral("empty")));
+    QVERIFY(QDir(other.path()).mkpath(QStringLiteral("plain/sub")));
+    QFile file(other.filePath(QStringLiteral("plain/notes.txt")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+
+    QVERIFY(!window()->openPath(other.filePath(path)));
+    QCOMPARE(m->dialogs.count(QStringLiteral("error")), 1);
+    const QString text = m->dialogs.texts(QStringLiteral("error")).first();
+    QVERIFY2(text.contains(expected), qPrintable(text));
+    // What was open is still there, with its unsaved text.
+    QCOMPARE(window()->session()->folder(), m_game->root() + QLatin1Char('/'));
+    QVERIFY(m->document()->text().startsWith(QLatin1String("# kept")));
+}
+
+void tst_MainWindow::opensAProjectByDoubleClick()
+{
+    QVERIFY(window()->openPath(m_game->root()));
+    GameTree* tree = window()->gameTree();
+    const QAbstractItemModelTester tester(tree->model());
+    doubleClickRow(tree, tree->indexOf(m_game->path("characters/ryn/")));
+    QTRY_VERIFY(m->document());
+    QCOMPARE(m->document()->fileName(), m_game->ryn());
+    QCOMPARE(window()->currentProject()->title(), QStringLiteral("Ryn"));
+    // The files of the project are there now; one of them opens likewise.
+    QTRY_VERIFY(tree->indexOf(m_game->animations()).isValid());
+    QTRY_VERIFY(tree->isExpanded(tree->indexOf(m_game->path("characters/ryn/"))));
+    doubleClickRow(tree, tree->indexOf(m_game->animations()));
+    QCOMPARE(m->document()->fileName(), m_game->animations());
+    QCOMPARE(window()->tabs()->count(), 2);
+    QCOMPARE(window()->tabs()->tabToolTip(1), QDir::toNativeSeparators(m_game->animations()));
+    // The return key does the same, and brings back what is open already.
+    tree->setCurrentIndex(tree->indexOf(m_game->ryn()));
+    QTest::keyClick(tree, Qt::Key_Return);
+    QCOMPARE(m->document()->fileName(), m_game->ryn());
+    QCOMPARE(window()->tabs()->count(), 2);
+    QTRY_VERIFY(window()->windowTitle().contains(QLatin1String("ryn.character")));
+    QCOMPARE(m->dialogs.count(), 0);
+}
+
+void tst_MainWindow::opensTheGameAroundAMainFile()
+{
+    QVERIFY(window()->openPath(m_game->oda()));
+    QCOMPARE(window()->session()->folder(), m_game->root() + QLatin1Char('/'));
+    QCOMPARE(m->document()->fileName(), m_game->oda());
+}
+
+void tst_MainWindow::tellsOfAFileThatIsMissing()
+{
+    m->open(*m_game, m_game->ryn());
+    QVERIFY(!window()->openFile(m_game->path("characters/ryn/none.code")));
+    QCOMPARE(m->dialogs.texts(QStringLiteral("warning")).size(), 1);
+    QVERIFY(m->dialogs.shown.last().text.contains(QLatin1String("characters/ryn/none.code")));
+    QVERIFY(QFile::remove(m_game->oda()));
+    QVERIFY(!window()->openFile(m_game->oda()));
+    QCOMPARE(m->dialogs.count(QStringLiteral("error")), 1);
+    QCOMPARE(m->document()->fileName(), m_game->ryn());
+}
+
+void tst_MainWindow::showsAFileThatIsNamedNow()
+{
+    m->open(*m_game, m_game->ryn());
+    m_game->write("characters/ryn/more.code", "[move kick]\r\nanimation = 2\r\n");
+    m->edit()->goTo(3, 0);
+    m->type(QStringLiteral("code = \"more.code\""));
+    m->press(Qt::Key_Return);
+    GameTree* tree = window()->gameTree();
+    QTRY_VERIFY(tree->indexOf(m_game->path("characters/ryn/more.code")).isValid());
+    doubleClickRow(tree, tree->indexOf(m_game->path("characters/ryn/more.code")));
+    QCOMPARE(m->document()->fileName(), m_game->path("characters/ryn/more.code"));
+}
+
+void tst_MainWindow::savesByKey()
+{
+    m->open(*m_game, m_game->ryn());
+    m->edit()->goTo(6, 0);
+    m->press(Qt::Key_End);
+    m->type(QStringLiteral("0"));
+    QCOMPARE(window()->tabs()->tabText(0), QStringLiteral("ryn.character*"));
+    QCOMPARE(window()->status()->stateText(), QStringLiteral("Modified"));
+    QTRY_VERIFY(window()->isWindowModified());
+    m->press(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(m_game->read("characters/ryn/ryn.character").contains("\r\nlife = 10000\r\n"));
+    QCOMPARE(window()->tabs()->tabText(0), QStringLiteral("ryn.character"));
+    QCOMPARE(window()->status()->stateText(), QStringLiteral("Saved"));
+    QTRY_VERIFY(!window()->isWindowModified());
+    // Undo goes back behind the save.
+    m->press(Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(m->document()->isModified());
+    QCOMPARE(m->dialogs.count(), 0);
+}
+
+void tst_MainWindow::keepsTheTextWhenASaveFails()
+{
+    m->open(*m_game, m_game->ryn());
+    m->type(QStringLiteral("# mine"));
+    // A folder in the place of the file cannot be replaced, not even by root.
+    QVERIFY(QFile::remove(m_game->ryn()));
+    QVERIFY(QDir().mkpath(m_game->ryn() + QStringLiteral("/inner")));
+    m->press(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(m->dialogs.count(QStringLiteral("error")), 1);
+    QVERIFY(m->document()->isModified());
+    QVERIFY(m->document()->text().startsWith(QLatin1String("# mine")));
+}
+
+void tst_MainWindow::savesAll()
+{
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    m->type(QStringLiteral("# b"));
+    window()->openFile(m_game->ryn());
+    m->type(QStringLiteral("# a"));
+    QTRY_VERIFY(m->action("save_all")->isEnabled());
+    m->press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(m_game->read("characters/ryn/ryn.character").startsWith("# a"));
+    QVERIFY(m_game->read("characters/ryn/basic.anim").startsWith("# b"));
+    QTRY_VERIFY(!m->action("save_all")->isEnabled());
+}
+
+void tst_MainWindow::asksBeforeTheWindowCloses_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<bool>("isSaved");
+    QTest::newRow("cancel") << int(GiveUp) << false << false;
+    QTest::newRow("save") << int(Save) << true << true;
+    QTest::newRow("discard") << int(Discard) << true << false;
+}
+
+void tst_MainWindow::asksBeforeTheWindowCloses()
+{
+    QFETCH(int, answer);
+    QFETCH(bool, closes);
+    QFETCH(bool, isSaved);
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    m->type(QStringLiteral("# mine"));
+    m->dialogs.choiceAnswers = {answer};
+    QCOMPARE(window()->close(), closes);
+    QCOMPARE(m->dialogs.count(QStringLiteral("choose")), 1);
+    QVERIFY(m->dialogs.shown.last().text.contains(QLatin1String("basic.anim")));
+    QCOMPARE(window()->isVisible(), !closes);
+    QCOMPARE(m_game->read("characters/ryn/basic.anim").startsWith("# mine"), isSaved);
+}
+
+void tst_MainWindow::asksBeforeATextCloses_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<int>("tabs");
+    QTest::addColumn<QString>("start");
+    QTest::newRow("cancel") << int(GiveUp) << 2 << "# mine";
+    QTest::newRow("save") << int(Save) << 1 << "# mine";
+    QTest::newRow("discard") << int(Discard) << 1 << "animation 1";
+}
+
+void tst_MainWindow::asksBeforeATextCloses()
+{
+    QFETCH(int, answer);
+    QFETCH(int, tabs);
+    QFETCH(QString, start);
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    m->type(QStringLiteral("# mine"));
+    m->dialogs.choiceAnswers = {answer};
+    m->press(Qt::Key_W, Qt::ControlModifier);
+    QCOMPARE(m->dialogs.count(), 1);
+    QCOMPARE(window()->tabs()->count(), tabs);
+    // The text is what the person chose when it is shown again.
+    QVERIFY(window()->openFile(m_game->animations()));
+    QVERIFY(m->document()->text().startsWith(start));
+    QCOMPARE(m->document()->isModified(), answer == GiveUp);
+    QCOMPARE(m->dialogs.count(), 1);
+}
+
+void tst_MainWindow::closesProjectsWhileTheyAreShown()
+{
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    QVERIFY(window()->openFile(m_game->oda()));
+    QVERIFY(window()->messagePanel()->messages()->rowCount() > 0);
+    m->action("close_project")->trigger();
+    QCOMPARE(window()->tabs()->count(), 2);
+    QTRY_COMPARE(window()->messagePanel()->messages(), window()->currentProject()->messages());
+    m->type(QStringLiteral("x"));
+    QTest::qWait(300);
+    m->dialogs.choiceAnswers = {GiveUp, Discard};
+    m->action("close_project")->trigger();
+    QCOMPARE(window()->tabs()->count(), 2);
+    m->action("close_project")->trigger();
+    QCOMPARE(window()->tabs()->count(), 0);
+    QCOMPARE(window()->session()->projects().size(), 0);
+    QTRY_VERIFY(!window()->messagePanel()->messages());
+    QCOMPARE(window()->animationPanel()->count(), 0);
+    QTRY_VERIFY(!m->action("close_project")->isEnabled());
+    // The game is still there to open the project again.
+    QVERIFY(window()->openFile(m_game->ryn()));
+    QVERIFY(m->document()->text().startsWith(QLatin1String("[info]")));
+}
+
+void tst_MainWindow::closesTheGameWhileItIsShown()
+{
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    m->action("close_folder")->trigger();
+    QVERIFY(!window()->session()->game());
+    QVERIFY(!window()->gameTree()->model());
+    QCOMPARE(window()->tabs()->count(), 0);
+    QTRY_COMPARE(window()->windowTitle(), QStringLiteral("Zorv"));
+    QTest::qWait(300);
+}
+
+void tst_MainWindow::keepsTheTreeOpen()
+{
+    QVERIFY(window()->openPath(m_game->root()));
+    GameTree* tree = window()->gameTree();
+    const auto isOpen = [&](const char* folder) {
+        return tree->isExpanded(tree->indexOf(m_game->path(folder)));
+    };
+    tree->collapse(tree->indexOf(m_game->path("characters/oda/")));
+    QVERIFY(window()->openFile(m_game->ryn()));
+    tree->setCurrentIndex(tree->indexOf(m_game->animations()));
+    QVERIFY(isOpen("characters/ryn/"));
+    // Another folder announces all rows beside it anew, and a file those of its project.
+    m_game->write("characters/new/new.character", "[info]\r\nname = \"New\"\r\n");
+    QTRY_VERIFY(tree->indexOf(m_game->path("characters/new/")).isValid());
+    m->edit()->goTo(3, 0);
+    m->type(QStringLiteral("code = \"more.code\""));
+    m->press(Qt::Key_Return);
+    QTRY_VERIFY(tree->indexOf(m_game->path("characters/ryn/more.code")).isValid());
+    QTRY_VERIFY(isOpen("characters/ryn/"));
+    QVERIFY(isOpen("characters/"));
+    QVERIFY(!isOpen("characters/oda/"));
+    QTRY_COMPARE(tree->pathOf(tree->currentIndex()), m_game->animations());
+}
+
+void tst_MainWindow::remembersFolders()
+{
+    const TemporaryGame second;
+    {
+        const TemporaryGame third;
+        QVERIFY(window()->openPath(third.root()));
+        QVERIFY(window()->openPath(second.root()));
+        QVERIFY(window()->openPath(m_game->root()));
+        QVERIFY(window()->openPath(m_game->root() + QLatin1Char('/')));
+        QCOMPARE(App::RecentFolders::list(),
+                 (QStringList{m_game->root(), second.root(), third.root()}));
+    }
+    auto* menu = window()->menuByName("file")->findChild<QMenu*>();
+    if (!menu) {
+        menu = window()->menuByName("file")->actions().at(1)->menu();
+    }
+    QVERIFY(menu);
+    emit menu->aboutToShow();
+    QCOMPARE(menu->actions().first()->text(), QDir::toNativeSeparators(m_game->root()));
+    // The third is no more; a separator and the last entry follow.
+    QCOMPARE(menu->actions().size(), 4);
+    menu->actions().at(1)->trigger();
+    QCOMPARE(window()->session()->folder(), second.root() + QLatin1Char('/'));
+    emit menu->aboutToShow();
+    menu->actions().last()->trigger();
+    QVERIFY(App::RecentFolders::list().isEmpty());
+}
+
+void tst_MainWindow::keepsItsState()
+{
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    QVERIFY(window()->openFile(m_game->oda()));
+    QVERIFY(window()->openFile(m_game->animations()));
+    m->edit()->goTo(5, 3);
+    window()->resize(900, 640);
+    auto* nodes = qobject_cast<QWidget*>(window()->nodePanel()->parent());
+    QVERIFY(nodes);
+    nodes->close();
+    QVERIFY(window()->close());
+    restart();
+    QCOMPARE(window()->size(), QSize(900, 640));
+    QVERIFY(!window()->nodePanel()->isVisible());
+    window()->restoreWork({});
+    QCOMPARE(window()->session()->folder(), m_game->root() + QLatin1Char('/'));
+    QCOMPARE(window()->tabs()->count(), 3);
+    QCOMPARE(m->document()->fileName(), m_game->animations());
+    QCOMPARE(m->edit()->place().line, 5);
+    QCOMPARE(m->edit()->place().column, 3);
+    QCOMPARE(window()->session()->projects().size(), 2);
+    QCOMPARE(m->dialogs.count(), 0);
+}
+
+void tst_MainWindow::startsWithoutTheLastGame()
+{
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    QVERIFY(window()->close());
+    QVERIFY(QFile::remove(m_game->animations()));
+    restart();
+    window()->restoreWork({});
+    // What is left of it opens; the project tells what it lacks in its messages.
+    QCOMPARE(window()->tabs()->count(), 1);
+    QVERIFY(window()->close());
+    const TemporaryGame other;
+    m_game.reset();
+    restart();
+    window()->restoreWork({});
+    QVERIFY(!window()->session()->game());
+    QCOMPARE(m->dialogs.count(QStringLiteral("error")), 0);
+    window()->restoreWork(other.root());
+    QCOMPARE(window()->session()->folder(), other.root() + QLatin1Char('/'));
+    QCOMPARE(window()->tabs()->count(), 0);
+}
+
+void tst_MainWindow::offersOnlyWhatIsOfUse()
+{
+    const auto isOn = [this](const char* name) { return m->action(name)->isEnabled(); };
+    QTRY_VERIFY(isOn("open_folder") && !isOn("save") && !isOn("undo") && !isOn("anim_add"));
+    m->open(*m_game, m_game->ryn());
+    QTRY_VERIFY(isOn("save") && isOn("paste") && isOn("anim_add"));
+    QVERIFY(!isOn("undo") && !isOn("copy") && !isOn("anim_sort") && !isOn("save_all"));
+    m->type(QStringLiteral("x"));
+    QTRY_VERIFY(isOn("undo") && isOn("save_all"));
+    m->press(Qt::Key_A, Qt::ControlModifier);
+    QTRY_VERIFY(isOn("copy") && isOn("cut"));
+    QVERIFY(window()->openFile(m_game->animations()));
+    QTRY_VERIFY(isOn("anim_sort") && !isOn("undo"));
+}
+
+void tst_MainWindow::isReachedByKeys()
+{
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    const QList<QWidget*> panels{m->edit(), window()->nodePanel(), window()->animationPanel(),
+                                 window()->messagePanel(), window()->gameTree()};
+    for (QWidget* panel : panels) {
+        QVERIFY(!panel->accessibleName().isEmpty());
+        QCOMPARE(QApplication::focusWidget(), panel);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+    }
+    QCOMPARE(QApplication::focusWidget(), m->edit());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), window()->gameTree());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_L, Qt::ControlModifier);
+    QVERIFY(qobject_cast<QSpinBox*>(QApplication::focusWidget()));
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("6"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(m->edit()->place().line, 5);
+    QCOMPARE(QApplication::focusWidget(), m->edit());
+    QTest::keyClick(m->edit(), Qt::Key_PageUp, Qt::ControlModifier);
+    QCOMPARE(m->document()->fileName(), m_game->ryn());
+    m->action("keys")->trigger();
+    QVERIFY(m->dialogs.texts(QStringLiteral("information")).first().contains(QLatin1String("F6")));
+}
+
+void tst_MainWindow::servesTheLibrary()
+{
+    auto* host = Zorv::Interface::instance();
+    QCOMPARE(host->mainWindow(), window());
+    QCOMPARE(host->projectCount(), 0u);
+    QVERIFY(!host->currentProject());
+    m->open(*m_game, m_game->ryn());
+    QVERIFY(window()->openFile(m_game->oda()));
+    QCOMPARE(host->projectCount(), 2u);
+    QCOMPARE(host->projectAt(0)->fileName(), m_game->ryn());
+    QVERIFY(!host->projectAt(2));
+    QCOMPARE(host->currentProject(), window()->currentProject());
+    QCOMPARE(host->menu("anim"), window()->menuByName("anim"));
+    QVERIFY(host->menu("view") && !host->menu("pal"));
+    host->showStatus(2, QStringLiteral("Encoding: none"));
+    QCOMPARE(window()->status()->encodingText(), QStringLiteral("Encoding: none"));
+
+    QAction* action =
+        host->createAction(nullptr, QStringLiteral("text_end"), nullptr, 0, "Ctrl+T", m->edit(),
+                           SLOT(selectAll()), SIGNAL(copyAvailable(bool)), nullptr);
+    QTest::keyClick(m->edit(), Qt::Key_T, Qt::ControlModifier);
+    QVERIFY(m->edit()->textCursor().hasSelection());
+    m->press(Qt::Key_Home, Qt::ControlModifier);
+    QVERIFY(!action->isEnabled());
+
+    Zorv::ProgressReporter* progress = host->progress(QStringLiteral("Work"), 0);
+    progress->update(0, 5);
+    progress->update(3, 0);
+    auto* dialog = window()->findChild<QProgressDialog*>();
+    QVERIFY(dialog);
+    QCOMPARE(dialog->maximum(), 5);
+    QCOMPARE(dialog->value(), 3);
+    progress->finish();
+    QVERIFY(!window()->findChild<QProgressDialog*>());
+}
+
+void tst_MainWindow::drawsAPicture()
+{
+    const QString picture = m_settingsFolder->filePath(QStringLiteral("window.png"));
+    m.reset();
+    QCOMPARE(App::runWindow(*qApp, {"--screenshot", picture, m_game->root()}), 0);
+    const QImage image(picture);
+    QCOMPARE(image.size(), QSize(1280, 800));
+    QCOMPARE(App::runWindow(*qApp, {"--screenshot", picture, m_game->root() + "/none"}), 3);
+    QCOMPARE(App::runWindow(*qApp, {"--screenshot", "/nowhere/at/all.png", m_game->root()}), 3);
+    QCOMPARE(App::runWindow(*qApp, {"--screenshot"}), 2);
+    QCOMPARE(App::runWindow(*qApp, {"one", "two"}), 2);
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_mainwindow.moc"

@@ -1,0 +1,345 @@
+#include "windowfixture.h"
+
+#include "core/messagelist.h"
+
+#include <QAction>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QHelpEvent>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QToolTip>
+
+using App::AnimationPanel;
+using App::MainWindow;
+using App::MessagePanel;
+using App::NodeModel;
+
+/// The panels of the real window follow the text, and lead to it.
+class tst_WindowPanels : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m.reset(); }
+
+    void followsTypingUndoAndRedo();
+    void jumpsToAMessage();
+    void keepsTheCurrentMessage();
+    void followsTheCursor();
+    void jumpsToANode();
+    void jumpsToAnAnimation();
+    void changesAnimations_data();
+    void changesAnimations();
+    void putsANewAnimationOnLinesOfItsOwn();
+    void dropsAnimations_data();
+    void dropsAnimations();
+    void refusesDropsFromElsewhere();
+    void tellsAProblemAtTheMouse();
+    void writesLineEndsOnly();
+    void copiesWhatStandsThere();
+
+private:
+    MainWindow* window() const { return m->window.get(); }
+    AnimationPanel* animations() const { return window()->animationPanel(); }
+    NodeModel* nodes() const { return window()->nodePanel()->nodes(); }
+    QString order() const;
+    void openAnimations() { m->open(*m_game, m_game->ryn(), m_game->animations()); }
+
+    std::unique_ptr<QTemporaryDir> m_settings;
+    std::unique_ptr<TemporaryGame> m_game;
+    std::unique_ptr<WindowFixture> m;
+};
+
+void tst_WindowPanels::init()
+{
+    m_settings = std::make_unique<QTemporaryDir>();
+    m_game = std::make_unique<TemporaryGame>();
+    m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
+}
+
+/// The identifiers in the list.
+QString tst_WindowPanels::order() const
+{
+    QStringList names;
+    for (int row = 0; row < animations()->count(); ++row) {
+        const QModelIndex index = animations()->model()->index(row, 0);
+        names.append(index.data().toString().section(QLatin1Char(' '), 0, 0));
+    }
+    return names.join(QLatin1Char(' '));
+}
+
+void tst_WindowPanels::followsTypingUndoAndRedo()
+{
+    m->open(*m_game, m_game->ryn());
+    const QString before = m->document()->text();
+    QCOMPARE(window()->status()->problemText(), QStringLiteral("No problems"));
+    m->edit()->goTo(6, 0);
+    m->press(Qt::Key_End);
+    m->press(Qt::Key_Return);
+    m->type(QStringLiteral("power = much"));
+    const auto shows = [this](int rows, const QString& label) {
+        const QModelIndex group = nodes()->index(2, 0);
+        return nodes()->rowCount(group) == rows &&
+               nodes()->index(1, 0, group).data().toString().contains(label);
+    };
+    QTRY_VERIFY(shows(3, QStringLiteral("power")));
+    QCOMPARE(window()->messagePanel()->messages()->rowCount(), 1);
+    QCOMPARE(window()->status()->problemText(), QStringLiteral("1 error, 0 warnings"));
+    QCOMPARE(window()->status()->placeText(), QStringLiteral("Line 8, column 13"));
+    const QString after = m->document()->text();
+
+    for (int i = 0; i < 20 && m->document()->text() != before; ++i) {
+        m->press(Qt::Key_Z, Qt::ControlModifier);
+    }
+    QCOMPARE(m->document()->text(), before);
+    QCOMPARE(window()->status()->problemText(), QStringLiteral("No problems"));
+    QTRY_VERIFY(shows(2, QStringLiteral("walk")));
+    QVERIFY(!m->document()->isModified());
+    for (int i = 0; i < 20 && m->document()->text() != after; ++i) {
+        m->action("redo")->trigger();
+    }
+    QCOMPARE(m->document()->text(), after);
+    QTRY_VERIFY(shows(3, QStringLiteral("power")));
+    QCOMPARE(window()->messagePanel()->messages()->rowCount(), 1);
+}
+
+void tst_WindowPanels::jumpsToAMessage()
+{
+    m->open(*m_game, m_game->oda());
+    MessagePanel* panel = window()->messagePanel();
+    QCOMPARE(panel->messages()->rowCount(), 2);
+    m->action("close_text")->trigger();
+    QCOMPARE(window()->tabs()->count(), 0);
+    doubleClickRow(panel, panel->model()->index(1, 0));
+    QCOMPARE(m->document()->fileName(), m_game->oda());
+    QCOMPARE(m->edit()->place().line, 4);
+    QCOMPARE(m->edit()->place().column, 8);
+    QVERIFY(m->edit()->hasFocus());
+    panel->setFocus();
+    panel->setCurrentIndex(panel->model()->index(0, 0));
+    QTest::keyClick(panel, Qt::Key_Return);
+    QCOMPARE(m->edit()->place().line, 3);
+}
+
+void tst_WindowPanels::keepsTheCurrentMessage()
+{
+    QByteArray text = "[info]\r\nname = \"Oda\"\r\n[constants]\r\nlife = 1000\r\n";
+    for (int i = 0; i < 60; ++i) {
+        text += "unknown line\r\n";
+    }
+    m_game->write("characters/oda/oda.character", text);
+    m->open(*m_game, m_game->oda());
+    MessagePanel* panel = window()->messagePanel();
+    panel->setCurrentIndex(panel->model()->index(40, 0));
+    const int scroll = panel->verticalScrollBar()->value();
+    QVERIFY(scroll > 0);
+    // An edit announces all rows anew.
+    m->edit()->goTo(3, 0);
+    m->press(Qt::Key_End);
+    m->type(QStringLiteral("1234567890"));
+    QCOMPARE(panel->messages()->rowCount(), 61);
+    QCOMPARE(panel->currentIndex().row(), 41);
+    QCOMPARE(panel->verticalScrollBar()->value(), scroll);
+}
+
+void tst_WindowPanels::followsTheCursor()
+{
+    openAnimations();
+    m->edit()->goTo(5, 0);
+    QCOMPARE(animations()->currentIndex().row(), 1);
+    QTRY_COMPARE(nodes()->lineOf(window()->nodePanel()->currentIndex()), 5);
+    m->press(Qt::Key_Down);
+    m->press(Qt::Key_Down);
+    m->press(Qt::Key_Down);
+    QCOMPARE(animations()->currentIndex().row(), 2);
+    QTRY_COMPARE(nodes()->lineOf(window()->nodePanel()->currentIndex()), 8);
+    QVERIFY(window()->openFile(m_game->ryn()));
+    QCOMPARE(animations()->count(), 0);
+}
+
+void tst_WindowPanels::jumpsToANode()
+{
+    openAnimations();
+    auto* panel = window()->nodePanel();
+    panel->expandAll();
+    const QModelIndex frame = nodes()->index(0, 0, nodes()->index(2, 0));
+    QTest::mouseClick(panel->viewport(), Qt::LeftButton, {}, panel->visualRect(frame).center());
+    QCOMPARE(m->edit()->place().line, 8);
+    // Though an edit has made all rows older than the text.
+    m->edit()->goTo(0, 0);
+    m->press(Qt::Key_Return);
+    panel->setFocus();
+    panel->setCurrentIndex(frame);
+    QTest::keyClick(panel, Qt::Key_Return);
+    QCOMPARE(m->edit()->place().line, 9);
+}
+
+void tst_WindowPanels::jumpsToAnAnimation()
+{
+    openAnimations();
+    doubleClickRow(animations(), animations()->model()->index(2, 0));
+    QCOMPARE(m->edit()->place().line, 7);
+}
+
+void tst_WindowPanels::changesAnimations_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<int>("current");
+    QTest::newRow("add") << "anim_add" << 0 << "1 2 3 4" << 3;
+    QTest::newRow("duplicate") << "anim_duplicate" << 0 << "1 4 2 3" << 1;
+    QTest::newRow("remove") << "anim_remove" << 1 << "1 3" << 1;
+    QTest::newRow("remove the last") << "anim_remove" << 2 << "1 2" << 1;
+    QTest::newRow("up") << "anim_up" << 2 << "1 3 2" << 1;
+    QTest::newRow("down to the end") << "anim_down" << 1 << "1 3 2" << 2;
+    QTest::newRow("up at the start") << "anim_up" << 0 << "1 2 3" << 0;
+    QTest::newRow("down at the end") << "anim_down" << 2 << "1 2 3" << 2;
+}
+
+/// By the menu; one undo brings the old text back.
+void tst_WindowPanels::changesAnimations()
+{
+    QFETCH(QString, action);
+    QFETCH(int, row);
+    QFETCH(QString, expected);
+    QFETCH(int, current);
+    openAnimations();
+    const QString before = m->document()->text();
+    QTest::mouseClick(animations()->viewport(), Qt::LeftButton, {},
+                      animations()->visualRect(animations()->model()->index(row, 0)).center());
+    QAction* trigger = m->action(action.toLatin1().constData());
+    QTRY_VERIFY(trigger->isEnabled());
+    trigger->trigger();
+    QCOMPARE(order(), expected);
+    QCOMPARE(animations()->currentIndex().row(), current);
+    if (m->document()->text() != before) {
+        m->action("undo")->trigger();
+    }
+    QCOMPARE(m->document()->text(), before);
+    QCOMPARE(order(), QStringLiteral("1 2 3"));
+}
+
+void tst_WindowPanels::putsANewAnimationOnLinesOfItsOwn()
+{
+    m_game->write("characters/ryn/basic.anim", "animation 7\r\nframe 0,0 loop");
+    openAnimations();
+    m->action("anim_add")->trigger();
+    QVERIFY(m->document()->text().startsWith(
+        QLatin1String("animation 7\nframe 0,0 loop\n\nanimation 8\n")));
+    // The new identifier is selected, to be typed over.
+    QCOMPARE(m->edit()->textCursor().selectedText(), QStringLiteral("8"));
+    m->type(QStringLiteral("jab"));
+    QCOMPARE(order(), QStringLiteral("7 jab"));
+    m->action("anim_duplicate")->trigger();
+    QCOMPARE(order(), QStringLiteral("7 jab jab-2"));
+}
+
+void tst_WindowPanels::dropsAnimations_data()
+{
+    QTest::addColumn<QVector<int>>("rows");
+    QTest::addColumn<int>("target");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("down") << QVector<int>{0} << 2 << "2 1 3 4 5";
+    QTest::newRow("behind the last") << QVector<int>{0} << 5 << "2 3 4 5 1";
+    QTest::newRow("to the front") << QVector<int>{4} << 0 << "5 1 2 3 4";
+    QTest::newRow("two together") << QVector<int>{1, 2} << 4 << "1 4 2 3 5";
+    QTest::newRow("from both sides") << QVector<int>{0, 4} << 2 << "2 1 5 3 4";
+    QTest::newRow("where it is") << QVector<int>{2} << 2 << "1 2 3 4 5";
+}
+
+/// Drags as the view makes them, dropped on the view.
+void tst_WindowPanels::dropsAnimations()
+{
+    QFETCH(QVector<int>, rows);
+    QFETCH(int, target);
+    QFETCH(QString, expected);
+    QByteArray text;
+    for (int i = 1; i <= 5; ++i) {
+        text += "animation " + QByteArray::number(i) + "\r\nframe 0,0 loop\r\n\r\n";
+    }
+    m_game->write("characters/ryn/basic.anim", text);
+    openAnimations();
+    const QString before = m->document()->text();
+    QAbstractItemModel* model = animations()->model();
+    QModelIndexList indexes;
+    for (int row : qAsConst(rows)) {
+        indexes.append(model->index(row, 0));
+    }
+    const std::unique_ptr<QMimeData> data(model->mimeData(indexes));
+    const QRect last = animations()->visualRect(model->index(4, 0));
+    const QPoint place = target < 5 ? animations()->visualRect(model->index(target, 0)).topLeft()
+                                    : QPoint(last.left() + 5, last.bottom() + 30);
+    QDragEnterEvent enter(place, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+    QApplication::sendEvent(animations()->viewport(), &enter);
+    QDragMoveEvent move(place, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+    QApplication::sendEvent(animations()->viewport(), &move);
+    QVERIFY(move.isAccepted());
+    QDropEvent drop(place, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+    QApplication::sendEvent(animations()->viewport(), &drop);
+    QCOMPARE(order(), expected);
+    QCOMPARE(animations()->selectionModel()->selectedIndexes().size(), rows.size());
+    if (m->document()->text() != before) {
+        m->action("undo")->trigger();
+    }
+    QCOMPARE(m->document()->text(), before);
+}
+
+void tst_WindowPanels::refusesDropsFromElsewhere()
+{
+    openAnimations();
+    QAbstractItemModel* model = animations()->model();
+    const std::unique_ptr<QMimeData> own(model->mimeData({model->index(0, 0)}));
+    const std::unique_ptr<QMimeData> foreign(
+        m->document()->animations()->mimeData({m->document()->animations()->index(0)}));
+    QVERIFY(model->canDropMimeData(own.get(), Qt::MoveAction, 2, 0, {}));
+    QVERIFY(!model->canDropMimeData(own.get(), Qt::CopyAction, 2, 0, {}));
+    QVERIFY(!model->canDropMimeData(foreign.get(), Qt::MoveAction, 2, 0, {}));
+    QVERIFY(window()->openFile(m_game->ryn()));
+    QVERIFY(!model->dropMimeData(own.get(), Qt::MoveAction, 0, 0, {}));
+    QVERIFY(!m->document()->isModified());
+}
+
+void tst_WindowPanels::tellsAProblemAtTheMouse()
+{
+    m->open(*m_game, m_game->oda());
+    QTextCursor cursor(m->document()->findBlockByNumber(3));
+    cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, 9);
+    const QPoint place = m->edit()->cursorRect(cursor).center();
+    QHelpEvent help(QEvent::ToolTip, place, m->edit()->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(m->edit()->viewport(), &help);
+    QTRY_VERIFY(QToolTip::text().contains(QLatin1String("whole number")));
+    QVERIFY(m->edit()
+                ->problemsAt(m->edit()->cursorRect(QTextCursor(m->document())).center())
+                .isEmpty());
+    const QPoint farRight(m->edit()->viewport()->width() - 5, place.y());
+    QVERIFY(m->edit()->problemsAt(farRight).isEmpty());
+}
+
+void tst_WindowPanels::writesLineEndsOnly()
+{
+    m->open(*m_game, m_game->ryn());
+    const int lines = m->document()->blockCount();
+    m->press(Qt::Key_Return, Qt::ShiftModifier);
+    QCOMPARE(m->document()->blockCount(), lines + 1);
+    QVERIFY(!m->document()->text().contains(QChar::LineSeparator));
+}
+
+void tst_WindowPanels::copiesWhatStandsThere()
+{
+    m_game->write("characters/ryn/ryn.character", "[info]\r\nname = \"a\xC2\xA0"
+                                                  "b\"\r\n");
+    m->open(*m_game, m_game->ryn());
+    const QString before = m->document()->text();
+    m->press(Qt::Key_A, Qt::ControlModifier);
+    m->press(Qt::Key_X, Qt::ControlModifier);
+    QVERIFY(m->document()->isEmpty());
+    m->press(Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(m->document()->text(), before);
+}
+
+QTEST_MAIN(tst_WindowPanels)
+#include "tst_windowpanels.moc"

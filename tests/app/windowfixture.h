@@ -1,0 +1,137 @@
+#pragma once
+
+#include "app/animationpanel.h"
+#include "app/codeedit.h"
+#include "app/documenttabs.h"
+#include "app/gamesession.h"
+#include "app/gametree.h"
+#include "app/mainwindow.h"
+#include "app/messagepanel.h"
+#include "app/nodemodel.h"
+#include "app/nodepanel.h"
+#include "app/statusfields.h"
+#include "app/windowinterface.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/project/familyproject.h"
+#include "support/planneddialogs.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/// A game folder of two characters on disk.
+class TemporaryGame
+{
+public:
+    TemporaryGame()
+    {
+        write("characters/ryn/ryn.character", "[info]\r\n"
+                                              "name = \"Ryn\"\r\n"
+                                              "[files]\r\n"
+                                              "code = \"moves.code\"\r\n"
+                                              "animations = \"basic.anim\"\r\n"
+                                              "[constants]\r\n"
+                                              "life = 1000\r\n"
+                                              "[.walk]\r\n"
+                                              "forward = 2.5\r\n"
+                                              "back = -2\r\n");
+        write("characters/ryn/moves.code", "[move jab]\r\nanimation = 1\r\npriority = 2\r\n");
+        write("characters/ryn/basic.anim", "animation 1 \"One\"\r\n"
+                                           "body 0,0, 9,9\r\n"
+                                           "frame 0,0 loop\r\n"
+                                           "\r\n"
+                                           "animation 2 \"Two\"\r\n"
+                                           "frame 0,1 loop\r\n"
+                                           "\r\n"
+                                           "animation 3 \"Three\"\r\n"
+                                           "frame 0,2 loop\r\n");
+        write("characters/oda/oda.character", "[info]\r\n"
+                                              "name = \"Oda\"\r\n"
+                                              "[constants]\r\n"
+                                              "life = full\r\n"
+                                              "power = some\r\n"
+                                              "[.walk]\r\n"
+                                              "forward = 2\r\n"
+                                              "back = 2\r\n");
+    }
+
+    QString root() const { return QDir(m_dir.path()).canonicalPath(); }
+    QString path(const QString& name) const { return root() + QLatin1Char('/') + name; }
+    QString ryn() const { return path("characters/ryn/ryn.character"); }
+    QString animations() const { return path("characters/ryn/basic.anim"); }
+    QString oda() const { return path("characters/oda/oda.character"); }
+
+    void write(const QString& name, const QByteArray& data) const
+    {
+        QDir().mkpath(QFileInfo(path(name)).path());
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(data), qint64(data.size()));
+    }
+
+    QByteArray read(const QString& name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+/// The window on settings of its own, with dialogs that answer by plan.
+class WindowFixture
+{
+public:
+    /// The settings are those of the file, so that a second fixture sees what
+    /// the first one kept.
+    explicit WindowFixture(const QString& settingsFile)
+        : settings(settingsFile, QSettings::IniFormat), host(&settings)
+    {
+        Family::startHost(&host);
+        window = std::make_unique<App::MainWindow>();
+        host.setWindow(window.get());
+        window->show();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    QSettings settings;
+    App::WindowInterface host;
+    PlannedDialogs dialogs;
+    std::unique_ptr<App::MainWindow> window;
+
+    App::CodeEdit* edit() const { return window->tabs()->currentEdit(); }
+    Family::FamilyDocument* document() const { return window->tabs()->currentDocument(); }
+    QAction* action(const char* name) const { return window->actionByName(name); }
+
+    /// Opens the game and a file of it.
+    void open(const TemporaryGame& game, const QString& mainFile, const QString& file = {})
+    {
+        QVERIFY(window->openPath(game.root()));
+        QVERIFY(window->openFile(mainFile));
+        QVERIFY(file.isEmpty() || window->openFile(file));
+    }
+
+    /// A key in the text in front, as the person presses it.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::keyClick(edit(), key, modifiers);
+    }
+
+    void type(const QString& text) const { QTest::keyClicks(edit(), text); }
+};
+
+/// A double click in the middle of a row.
+inline void doubleClickRow(QAbstractItemView* view, const QModelIndex& index)
+{
+    QVERIFY(index.isValid());
+    view->scrollTo(index);
+    const QPoint place = view->visualRect(index).center();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, place);
+}
