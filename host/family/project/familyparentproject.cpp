@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <memory>
+
 namespace Family {
 
 namespace {
@@ -36,6 +38,37 @@ void collectMainFiles(const QString& folder, int depth, QStringList* files)
             collectMainFiles(dir.absoluteFilePath(name), depth + 1, files);
         }
     }
+}
+
+/// The absolute paths of a main file and of all that it and its code files
+/// name; empty if the main file cannot be read.
+QStringList filesOfProject(const QString& gameFolder, const QString& mainFile)
+{
+    QStringList files{mainFile};
+    QStringList toRead{mainFile};
+    while (!toRead.isEmpty()) {
+        const bool isMain = files.size() == 1;
+        const std::unique_ptr<FamilyDocument> document(
+            FamilyDocument::open(toRead.takeFirst(), nullptr));
+        if (!document && isMain) {
+            return {};
+        }
+        const QVector<FileReference> references =
+            document ? fileReferences(document.get()) : QVector<FileReference>();
+        for (const FileReference& reference : references) {
+            const QString file = QDir::cleanPath(QFileInfo(mainFile).absolutePath()
+                                                 + QLatin1Char('/') + reference.path);
+            if (files.contains(file)
+                || pathFault(gameFolder, mainFile, reference.path) != PathFault::Fine) {
+                continue;
+            }
+            files.append(file);
+            if (isMain && isCodeFile(reference.type)) {
+                toRead.append(file);
+            }
+        }
+    }
+    return files;
 }
 
 }  // namespace
@@ -96,18 +129,10 @@ void FamilyParentProject::projectFiles(const QString& path, QStringList& files)
         }
     }
     for (const QString& main : qAsConst(mains)) {
-        const std::unique_ptr<FamilyDocument> document(FamilyDocument::open(main, nullptr));
-        if (!document) {
-            continue;
-        }
-        files.append(root.relativeFilePath(main));
-        const QVector<FileReference> references = fileReferences(document.get());
-        for (const FileReference& reference : references) {
-            const QString file = QFileInfo(main).absolutePath() + QLatin1Char('/')
-                                 + reference.path;
-            const QString relative = root.relativeFilePath(QDir::cleanPath(file));
-            if (pathFault(absolutePath(), main, reference.path) == PathFault::Fine
-                && !files.contains(relative)) {
+        const QStringList named = filesOfProject(absolutePath(), main);
+        for (const QString& name : named) {
+            const QString relative = root.relativeFilePath(name);
+            if (!files.contains(relative)) {
                 files.append(relative);
             }
         }

@@ -127,7 +127,7 @@ void FamilyProject::loadFiles()
     for (const FileReference& reference : references) {
         const QString path = resolvePath(reference.path);
         const PathFault fault = pathFault(parent()->absolutePath(), fileName(), reference.path);
-        if (!(reference.type & codeTypes) || fault != PathFault::Fine || known.contains(path)) {
+        if (!isCodeFile(reference.type) || fault != PathFault::Fine || known.contains(path)) {
             continue;
         }
         known.insert(path);
@@ -147,7 +147,7 @@ FileID FamilyProject::fileTypes() const
 
 Zorv::ProjectFile* FamilyProject::newFile(FileID::Type type)
 {
-    if (!(type & codeTypes)) {
+    if (!isCodeFile(type)) {
         return nullptr;
     }
     auto* document = new FamilyDocument(kindOfType(type));

@@ -83,6 +83,11 @@ QString resolved(const QString& path)
 
 }  // namespace
 
+bool isCodeFile(FileID::Type type)
+{
+    return type == FileID::Code || type == FileID::Animations || type == FileID::Commands;
+}
+
 QVector<FileReference> fileReferences(const FamilyDocument* document)
 {
     QVector<FileReference> list;

@@ -26,6 +26,9 @@ struct FileReference
 /// The kind of a file that a project only names (a palette file, music).
 constexpr auto ResourceFile = Zorv::FileID::Type(64);
 
+/// True for a kind that is loaded as a document.
+bool isCodeFile(Zorv::FileID::Type type);
+
 /// Every file that a document names, in the order of the text.
 QVector<FileReference> fileReferences(const FamilyDocument* document);
 

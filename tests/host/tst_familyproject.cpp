@@ -1,0 +1,358 @@
+#include "familydump.h"
+
+#include "check/check.h"
+#include "core/filesystemarchive.h"
+#include "core/messagelist.h"
+#include "project/familyenginemodel.h"
+#include "project/familyparentproject.h"
+#include "project/familyproject.h"
+#include "project/filereference.h"
+
+#include <QAbstractItemModelTester>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Family;
+using Zorv::FileID;
+
+namespace {
+
+void writeFile(const QString& name, const QByteArray& data)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(name).path()));
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(data), qint64(data.size()));
+}
+
+QByteArray readFile(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+constexpr char mainText[] = "[info]\r\nname = \"Hero\"\r\n"
+                            "[files]\r\n"
+                            "sprites = \"hero.sprites\"\r\n"
+                            "code = \"moves.code\"\r\n"
+                            "code = \"../../shared/common.code\"\r\n"
+                            "animations = \"hero.anim\"\r\n"
+                            "commands = \"gone.commands\"\r\n"
+                            "code = \"hero.character\"\r\n"
+                            "code = \"../../../outside.code\"\r\n"
+                            "code = \"./moves.code\"\r\n"
+                            "[constants]\r\nlife = 1000 # full\r\n";
+
+/// A game with one character and one stage.
+class Game
+{
+public:
+    Game()
+    {
+        writeFile(hero("hero.character"), mainText);
+        writeFile(hero("moves.code"), "[move jab]\r\nanimation = 200\r\n"
+                                      "[palette a]\r\nfile = \"a.act\"\r\n");
+        writeFile(hero("hero.anim"), "animation 200\r\nframe 0,0 loop\r\n");
+        writeFile(hero("hero.sprites"), "sprites");
+        writeFile(hero("a.act"), "palette");
+        writeFile(path("shared/common.code"), "[constants]\r\nlife = 5\r\n");
+        writeFile(path("stages/harbour/harbour.stage"), "[info]\r\nname = \"Harbour\"\r\n");
+        writeFile(path("backup/old/characters/hero/hero.character"), "[info]\r\n");
+    }
+
+    QString path(const char* name) const { return m_folder.path() + QLatin1Char('/') + name; }
+    QString hero(const char* name) const { return path("characters/hero/") + QLatin1String(name); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QStringList pathsOf(const QList<Zorv::Project::FileInfo>& infos)
+{
+    QStringList result;
+    for (const Zorv::Project::FileInfo& info : infos) {
+        result.append(QStringLiteral("%1:%2").arg(quint32(info.id)).arg(info.path));
+    }
+    result.sort();
+    return result;
+}
+
+}  // namespace
+
+class TestFamilyProject : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void openLoadsWhatIsNamed();
+    void fileInfosFollowTheText();
+    void commentSurvivesChange();
+    void newProjectIsFine_data();
+    void newProjectIsFine();
+    void mainFilesAndTree();
+    void projectFiles();
+    void pathFaults_data();
+    void pathFaults();
+    void linksThatLeaveTheGame();
+    void saveAllAsCopy();
+    void checkOfOpenProject();
+    void checkOfWhatIsNotThere_data();
+    void checkOfWhatIsNotThere();
+    void engines();
+};
+
+void TestFamilyProject::openLoadsWhatIsNamed()
+{
+    const Game game;
+    FamilyParentProject parent(game.path(""));
+    QSignalSpy unused(&parent, &FamilyParentProject::unused);
+    QString error;
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), &error);
+    QVERIFY2(project, qPrintable(error));
+    QCOMPARE(project->title(), QStringLiteral("Hero"));
+    QCOMPARE(project->filesByType(FileID::Code).size(), 2);
+    QCOMPARE(project->filesByType(FileID::Animations).size(), 1);
+    QCOMPARE(project->documents().size(), 4);
+    QCOMPARE(project->documents().first(), project->mainDocument());
+    QCOMPARE(project->loadErrors().size(), 1);
+    QVERIFY(project->loadErrors().first().contains(QLatin1String("gone.commands")));
+    QCOMPARE(project->fileTitle(FileID::Code, 0), QStringLiteral("moves.code"));
+    QCOMPARE(project->fileTitle(FileID::Code, 1), QStringLiteral("../../shared/common.code"));
+    QCOMPARE(project->fileTitle(FileID::Code, -1), QStringLiteral("new file"));
+    // Loading again takes no file twice.
+    project->loadFiles();
+    QCOMPARE(project->documents().size(), 4);
+    QVERIFY(project->newFile(FileID::Commands));
+    QVERIFY(!project->newFile(FileID::Sprites));
+    project->release();
+    delete project;
+    QCOMPARE(unused.count(), 1);
+}
+
+void TestFamilyProject::fileInfosFollowTheText()
+{
+    const Game game;
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    QList<Zorv::Project::FileInfo> infos;
+    project->fileInfos(infos);
+    const QStringList expected = {QStringLiteral("16:gone.commands"), QStringLiteral("2:hero.sprites"),
+                                  QStringLiteral("32:moves.code"), QStringLiteral("64:a.act"),
+                                  QStringLiteral("8:hero.anim")};
+    QCOMPARE(pathsOf(infos), expected);
+    QVERIFY(setValue(project->mainDocument(), QStringLiteral("files.sprites"),
+                     QStringLiteral("other.sprites"), nullptr));
+    infos.clear();
+    project->fileInfos(infos);
+    QVERIFY(pathsOf(infos).contains(QStringLiteral("2:other.sprites")));
+    project->mainDocument()->undo();
+    infos.clear();
+    project->fileInfos(infos);
+    QCOMPARE(pathsOf(infos), expected);
+    project->release();
+    delete project;
+}
+
+// Within a project the edit goes through the library's change of a line, which
+// knows the comment character.
+void TestFamilyProject::commentSurvivesChange()
+{
+    const Game game;
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    FamilyDocument* document = project->mainDocument();
+    const auto lastValue = [document] { return document->lastBlock().previous().text(); };
+    QVERIFY(setValue(document, QStringLiteral("constants.life"), QStringLiteral("7"), nullptr));
+    QCOMPARE(lastValue(), QStringLiteral("life = 7 # full"));
+    document->nodeInBlock(document->lastBlock().previous())->change(QStringLiteral("life=8    "));
+    QVERIFY(setValue(document, QStringLiteral("constants.life"), QStringLiteral("9"), nullptr));
+    QCOMPARE(lastValue(), QStringLiteral("life=9     # full"));
+    QVERIFY(setValue(document, QStringLiteral("info.name"), QStringLiteral("#1"), nullptr));
+    QVERIFY(setValue(document, QStringLiteral("info.name"), QStringLiteral("x"), nullptr));
+    QCOMPARE(document->findBlockByNumber(1).text(), QStringLiteral("name = \"x\""));
+    project->release();
+    delete project;
+}
+
+void TestFamilyProject::newProjectIsFine_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("character") << int(FileKind::Character);
+    QTest::newRow("stage") << int(FileKind::Stage);
+}
+
+void TestFamilyProject::newProjectIsFine()
+{
+    QFETCH(int, kind);
+    QTemporaryDir folder;
+    FamilyParentProject parent(folder.path());
+    FamilyProject* project = FamilyProject::create(&parent, FileKind(kind));
+    QVERIFY(project->mainDocument()->isModified());
+    QCOMPARE(project->kind(), kind);
+    const Problems problems = checkProject(project);
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.value(0).text));
+    project->release();
+    delete project;
+}
+
+void TestFamilyProject::mainFilesAndTree()
+{
+    const Game game;
+    QCOMPARE(FamilyParentProject::mainFiles(game.path("")),
+             QStringList({game.hero("hero.character"), game.path("stages/harbour/harbour.stage")}));
+    FamilyParentProject parent(game.path(""));
+    QAbstractItemModelTester tester(&parent, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QStringList projects;
+    parent.listProjects(projects);
+    projects.sort();
+    QCOMPARE(projects,
+             QStringList({QStringLiteral("characters/hero/"), QStringLiteral("stages/harbour/")}));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    const QModelIndex index = parent.indexOf(game.hero("moves.code"));
+    QVERIFY(index.isValid());
+    QVERIFY(parent.itemPath(index)->isFile());
+    project->release();
+    delete project;
+    QVERIFY(!parent.indexOf(game.hero("moves.code")).isValid());
+}
+
+void TestFamilyProject::projectFiles()
+{
+    const Game game;
+    FamilyParentProject parent(game.path(""));
+    QStringList files;
+    parent.projectFiles(QStringLiteral("characters/hero/"), files);
+    files.sort();
+    const QString folder = QStringLiteral("characters/hero/");
+    QCOMPARE(files, QStringList({folder + QLatin1String("a.act"),
+                                 folder + QLatin1String("gone.commands"),
+                                 folder + QLatin1String("hero.anim"),
+                                 folder + QLatin1String("hero.character"),
+                                 folder + QLatin1String("hero.sprites"),
+                                 folder + QLatin1String("moves.code"),
+                                 QStringLiteral("shared/common.code")}));
+}
+
+void TestFamilyProject::pathFaults_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("fault");
+    const auto row = [](const char* path, PathFault fault) {
+        QTest::newRow(path) << QString::fromUtf8(path) << int(fault);
+    };
+    row("moves.code", PathFault::Fine);
+    row("not/there/yet.code", PathFault::Fine);
+    row("../../shared/common.code", PathFault::Fine);
+    row("x/../../../shared/../shared/y", PathFault::Fine);
+    row("../../../x", PathFault::LeavesGame);
+    row("../../../../../../../../../../etc/passwd", PathFault::LeavesGame);
+    row("/etc/passwd", PathFault::LeavesGame);
+    row("hero.character", PathFault::NamesItself);
+    row("../hero/./hero.character", PathFault::NamesItself);
+    row(" ", PathFault::Empty);
+    QTest::newRow("zero character") << QString(QChar(0)) << int(PathFault::LeavesGame);
+}
+
+void TestFamilyProject::pathFaults()
+{
+    QFETCH(QString, path);
+    QFETCH(int, fault);
+    const Game game;
+    QCOMPARE(int(pathFault(game.path(""), game.hero("hero.character"), path)), fault);
+    // The root can come without its slash.
+    QCOMPARE(int(pathFault(game.path("").chopped(1), game.hero("hero.character"), path)), fault);
+}
+
+void TestFamilyProject::linksThatLeaveTheGame()
+{
+    const Game game;
+    QTemporaryDir outside;
+    writeFile(outside.path() + QStringLiteral("/secret.code"), "x");
+    QVERIFY(QFile::link(outside.path(), game.hero("linked")));
+    QCOMPARE(int(pathFault(game.path(""), game.hero("hero.character"),
+                           QStringLiteral("linked/secret.code"))),
+             int(PathFault::LeavesGame));
+    QCOMPARE(int(pathFault(game.path(""), game.hero("hero.character"),
+                           QStringLiteral("linked/not-there.code"))),
+             int(PathFault::LeavesGame));
+}
+
+void TestFamilyProject::saveAllAsCopy()
+{
+    const Game game;
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    auto* moves = static_cast<FamilyDocument*>(project->filesByType(FileID::Code).first());
+    QVERIFY(setValue(moves, QStringLiteral("move:jab.animation"), QStringLiteral("201"), nullptr));
+    QTemporaryDir target;
+    project->saveAll(target.path() + QLatin1Char('/'), true, nullptr);
+    const QString copy = target.path() + QStringLiteral("/characters/hero/");
+    QCOMPARE(readFile(copy + QStringLiteral("hero.character")), QByteArray(mainText));
+    QCOMPARE(readFile(copy + QStringLiteral("moves.code")),
+             readFile(game.hero("moves.code")).replace("200", "201"));
+    QCOMPARE(readFile(copy + QStringLiteral("a.act")), QByteArray("palette"));
+    QCOMPARE(QDir(copy).entryList(QDir::Files).size(), 5);
+    QVERIFY(moves->isModified());
+    project->release();
+    delete project;
+}
+
+void TestFamilyProject::checkOfOpenProject()
+{
+    const Game game;
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    QStringList names;
+    for (const Problem& problem : checkProject(project)) {
+        names.append(QStringLiteral("%1:%2 %3")
+                         .arg(QFileInfo(problem.file).fileName())
+                         .arg(problem.line)
+                         .arg(QLatin1String(problemInfo(problem.id).name)));
+    }
+    QCOMPARE(names, QStringList({QStringLiteral("hero.character:8 file-missing"),
+                                 QStringLiteral("hero.character:9 file-itself"),
+                                 QStringLiteral("hero.character:10 file-outside"),
+                                 QStringLiteral("hero.character:11 file-twice")}));
+    // The messages of all files stand in the list of the project.
+    auto* moves = static_cast<FamilyDocument*>(project->filesByType(FileID::Code).first());
+    QTextCursor cursor(moves);
+    cursor.insertText(QStringLiteral("nonsense\n"));
+    QCOMPARE(project->messages()->errorCount(), 1);
+    project->release();
+    delete project;
+}
+
+void TestFamilyProject::checkOfWhatIsNotThere_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("no such folder") << "nowhere";
+    QTest::newRow("folder without projects") << "shared";
+    QTest::newRow("no such main file") << "nobody.character";
+}
+
+void TestFamilyProject::checkOfWhatIsNotThere()
+{
+    QFETCH(QString, name);
+    const Game game;
+    QString error;
+    QVERIFY(checkGame(game.path("") + name, &error).isEmpty());
+    QVERIFY2(error.contains(name), qPrintable(error));
+}
+
+void TestFamilyProject::engines()
+{
+    FamilyEngineModel model;
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QCOMPARE(model.engine(0).name, QString());
+    QVector<Zorv::EngineInfo> engines(2);
+    engines[1].name = QStringLiteral("Second");
+    engines[1].parameters = QStringLiteral("--fast %0");
+    model.setEngines(engines);
+    QCOMPARE(model.index(1, 0).data().toString(), QStringLiteral("Second"));
+    QCOMPARE(model.engine(1).parameters, QStringLiteral("--fast %0"));
+    QCOMPARE(model.engine(7).name, QString());
+}
+
+QTEST_MAIN(TestFamilyProject)
+#include "tst_familyproject.moc"
