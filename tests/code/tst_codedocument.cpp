@@ -15,6 +15,8 @@
 #include <QTextCursor>
 #include <QtTest>
 
+#include <functional>
+
 using namespace Zorv;
 
 namespace {
@@ -82,6 +84,8 @@ CodeNode* nodeOfLine(const CodeDocument& document, int line)
 
 }  // namespace
 
+Q_DECLARE_METATYPE(std::function<void(GrammarDocument&)>)
+
 class CodeDocumentTest : public QObject
 {
     Q_OBJECT
@@ -102,6 +106,8 @@ private slots:
     void vanishedFile();
     void failedSave();
     void messagesAreToldOnce();
+    void fullParseInsideChange_data();
+    void fullParseInsideChange();
     void parenthesesAndTokens();
     void releaseDisposesOfAll();
     void hugeLinesAndManyEmptyOnes();
@@ -383,6 +389,33 @@ void CodeDocumentTest::messagesAreToldOnce()
     QVERIFY(!document.nextBlockWithMessage(block, CodeBlockData::SyntaxMessage::Error).isValid());
     block = document.previousBlockWithMessage(block, CodeBlockData::SyntaxMessage::Warning);
     QCOMPARE(block.blockNumber(), 1);
+}
+
+void CodeDocumentTest::fullParseInsideChange_data()
+{
+    QTest::addColumn<std::function<void(GrammarDocument&)>>("parse");
+    using Parse = std::function<void(GrammarDocument&)>;
+    QTest::newRow("reparse") << Parse([](GrammarDocument& d) { d.reparse(); });
+    QTest::newRow("rehighlight") << Parse([](GrammarDocument& d) { d.rehighlight(); });
+    QTest::newRow("parser off and on") << Parse([](GrammarDocument& d) {
+        d.setParser(nullptr);
+        d.setParser(&d.grammar);
+    });
+    QTest::newRow("other text") << Parse([](GrammarDocument& d) { d.setPlainText("?w\n!z\n?e"); });
+    QTest::newRow("undo") << Parse([](GrammarDocument& d) { d.undo(); });
+}
+
+/// What comes in the middle of a change may not count its lines twice.
+void CodeDocumentTest::fullParseInsideChange()
+{
+    QFETCH(std::function<void(GrammarDocument&)>, parse);
+    GrammarDocument document(QStringLiteral("[1]\na=1\n?e\n!x\n-f\n?w\n"));
+    document.beginChange(QString());
+    QTextCursor(&document).insertText(QStringLiteral("# 1\n# 2\n"));
+    parse(document);
+    document.insert(QStringLiteral("?d\n[2]"));
+    document.endChange();
+    QCOMPARE(document.dump(), GrammarDocument(document.text()).dump());
 }
 
 void CodeDocumentTest::parenthesesAndTokens()

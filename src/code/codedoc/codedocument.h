@@ -208,6 +208,9 @@ public:
 
 signals:
     /// A pass over edited lines has ended: tree, messages and folding are true.
+    /// Qt is still busy with the edit: as with `contentsChange()`, whoever wants
+    /// to edit in answer does it later, by a queued connection. The same holds for
+    /// signals of rows that come and go while lines are parsed.
     void codeChanged();
 
 private:

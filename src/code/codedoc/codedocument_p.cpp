@@ -67,8 +67,7 @@ void CodeDocumentPrivate::endPass()
     if (--passDepth > 0) {
         return;
     }
-    if (lastParsed.isValid()) {
-        CodeBlockData* last = CodeBlockData::testBlockData(lastParsed);
+    if (CodeBlockData* last = CodeBlockData::testBlockData(lastParsed)) {
         mendBelow(last);
         Folding::updateBelow(last);
     }
@@ -110,21 +109,26 @@ void CodeDocumentPrivate::parsed()
 /// though Qt saw no reason to.
 void CodeDocumentPrivate::parseDependents()
 {
-    while (parser && lastParsed.isValid()) {
+    while (const CodeBlockData* last = CodeBlockData::testBlockData(lastParsed)) {
         const QTextBlock below = lastParsed.next();
         const CodeBlockData* data = CodeBlockData::testBlockData(below);
-        const int context = CodeBlockData::testBlockData(lastParsed)->d->context;
-        if (!data || data->d->contextAbove == context) {
+        if (!parser || !data || data->d->contextAbove == last->d->context) {
             return;
         }
         rehighlightBlock(below);
     }
 }
 
+/// Inside an edit block the messages still have the lines from before it, and
+/// Qt will tell of the whole block's edits when it ends.
 void CodeDocumentPrivate::rehighlightAll()
 {
     unlinkDeadNodes();
     beginPass();
+    if (parser && (changeDepth > 0 || q->blockCount() != knownBlocks)) {
+        q->messages()->clear();
+        knownBlocks = q->blockCount();
+    }
     rehighlight();
     endPass();
 }

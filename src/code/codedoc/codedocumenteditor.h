@@ -41,7 +41,8 @@ public:
     void redo() override;
 
     /// A node of the registered kind has come, gone or changed. `index` is its
-    /// place among the nodes of its kind.
+    /// place among the nodes of its kind. Called in the middle of a parse: the
+    /// text must not be edited here.
     virtual void insertChild(CodeNode* child, unsigned index);
     virtual void removeChild(CodeNode* child);
     virtual void childChanged(CodeNode* child);
