@@ -1,6 +1,7 @@
 #include "app/animationrows.h"
 
 #include "family/familyanimations.h"
+#include "family/nodes/animationnode.h"
 
 #include <QCoreApplication>
 #include <QDataStream>
@@ -24,6 +25,15 @@ void AnimationRows::setAnimations(Family::FamilyAnimations* animations)
 {
     m_animations = animations;
     setSourceModel(animations);
+}
+
+QVariant AnimationRows::data(const QModelIndex& index, int role) const
+{
+    const QVariant value = QIdentityProxyModel::data(index, role);
+    if (role != Qt::DisplayRole || !value.isValid() || !value.toString().isEmpty()) {
+        return value;
+    }
+    return m_animations->animation(index.row())->block().text().trimmed();
 }
 
 QStringList AnimationRows::mimeTypes() const

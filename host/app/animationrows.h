@@ -24,6 +24,8 @@ public:
     void setAnimations(Family::FamilyAnimations* animations);
     Family::FamilyAnimations* animations() const { return m_animations; }
 
+    /// As the animations tell it; the line of one that has no name at all.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QStringList mimeTypes() const override;
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
     bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,

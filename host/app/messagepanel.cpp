@@ -48,6 +48,21 @@ Zorv::MessageList* MessagePanel::messages() const
     return m_list;
 }
 
+void MessagePanel::showMessagesOf(const Zorv::CodeDocument* document)
+{
+    const Messages* messages = document->messages();
+    int row = 0;
+    const QList<Messages*> lists = m_list ? m_list->lists() : QList<Messages*>();
+    for (const Messages* before : lists) {
+        if (before == messages) {
+            setCurrentIndex(m_list->index(row));
+            scrollTo(currentIndex(), QAbstractItemView::PositionAtTop);
+            return;
+        }
+        row += before->count(Message::AllTypes);
+    }
+}
+
 QString MessagePanel::summary() const
 {
     if (!m_list) {

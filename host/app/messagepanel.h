@@ -24,6 +24,9 @@ public:
     void setMessages(Zorv::MessageList* messages);
     Zorv::MessageList* messages() const;
 
+    /// Makes the first message of a file the current row, if it has any.
+    void showMessagesOf(const Zorv::CodeDocument* document);
+
     /// "3 errors, 1 warning"; empty while there is no list.
     QString summary() const;
 

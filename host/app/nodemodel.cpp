@@ -5,6 +5,7 @@
 #include "family/nodepath.h"
 
 #include <QElapsedTimer>
+#include <QHash>
 #include <QIcon>
 #include <QTextBlock>
 #include <QTimer>
@@ -21,6 +22,24 @@ namespace {
 // A refresh takes at most a tenth of the time, however large the file is.
 constexpr int ShortestWait = 150;
 constexpr int WaitPerRefresh = 10;
+
+// The line of a node that has no name at all, such as a head that is not finished.
+QString labelOf(const CodeNode* node)
+{
+    const QString label = Family::nodeLabel(node);
+    return label.isEmpty() ? node->block().text().trimmed() : label;
+}
+
+QVariant iconOf(CodeNode::Type type)
+{
+    static const QHash<int, QIcon> icons{
+        {CodeNode::Group, QIcon(QStringLiteral(":/zorvl_icons/icons/code.png"))},
+        {CodeNode::Animation, QIcon(QStringLiteral(":/zorvl_icons/icons/anim.png"))},
+        {CodeNode::Frame, QIcon(QStringLiteral(":/zorvl_icons/icons/sprite.png"))},
+    };
+    const auto icon = icons.constFind(type);
+    return icon == icons.constEnd() ? QVariant() : QVariant(*icon);
+}
 
 }  // namespace
 
@@ -50,6 +69,7 @@ struct NodeModel::Item
     int count = 0;           ///< rows below, as the views know it
     bool hasLooked = false;  ///< true if `children` are there
     bool hasLabel = false;
+    CodeNode::Type type = CodeNode::Root;
     QString label;
     std::vector<std::unique_ptr<Item>> children;
 };
@@ -209,15 +229,24 @@ int NodeModel::columnCount(const QModelIndex&) const
 
 QVariant NodeModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
+    if (!index.isValid()) {
         return {};
     }
     Item* item = itemOf(index);
     if (!item->hasLabel && canFollow(item)) {
-        item->label = Family::nodeLabel(item->node);
+        item->label = labelOf(item->node);
+        item->type = item->node->type();
         item->hasLabel = true;
     }
-    return item->label;
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+        return item->label;
+    case Qt::DecorationRole:
+        return iconOf(item->type);
+    default:
+        return {};
+    }
 }
 
 NodeModel::Item* NodeModel::itemOf(const QModelIndex& index) const

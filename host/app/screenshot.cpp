@@ -1,12 +1,10 @@
 #include "app/screenshot.h"
 
-#include "app/animationpanel.h"
 #include "app/codeedit.h"
 #include "app/documenttabs.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
-#include "app/nodemodel.h"
-#include "app/nodepanel.h"
+#include "app/messagepanel.h"
 #include "core/message.h"
 #include "core/messages.h"
 #include "family/familyanimations.h"
@@ -19,6 +17,8 @@
 #include <QElapsedTimer>
 #include <QPixmap>
 #include <QThread>
+
+#include <tuple>
 
 namespace App {
 
@@ -48,17 +48,22 @@ void settle()
     }
 }
 
-/// The document with the most messages; among equal ones that with more
-/// animations, which shows more of the panels.
+/// How much a document fills the panels: one with both problems and animations
+/// goes first, then one with problems.
+using Weight = std::tuple<bool, int, int>;
+
+Weight weightOf(const FamilyDocument* document)
+{
+    const int problems = document->messages()->count(Zorv::Message::AllTypes);
+    const int animations = document->animations()->count();
+    return {problems > 0 && animations > 0, problems, animations};
+}
+
 FamilyDocument* mostTelling(const FamilyProject* project, FamilyDocument* best)
 {
-    const auto weight = [](const FamilyDocument* document) {
-        return qMakePair(document->messages()->count(Zorv::Message::AllTypes),
-                         document->animations()->count());
-    };
     const QList<FamilyDocument*> documents = project->documents();
     for (FamilyDocument* document : documents) {
-        best = !best || weight(document) > weight(best) ? document : best;
+        best = !best || weightOf(document) > weightOf(best) ? document : best;
     }
     return best;
 }
@@ -87,6 +92,7 @@ void showProblems(MainWindow* window)
     }
     const Zorv::Message first = best->messages()->at(0);
     window->tabs()->currentEdit()->goTo(first.line, first.column);
+    window->messagePanel()->showMessagesOf(best);
 }
 
 }  // namespace
