@@ -5,6 +5,7 @@
 #include "app/screenshot.h"
 #include "app/windowdialogs.h"
 #include "app/windowinterface.h"
+#include "cli/commanddialogs.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -78,7 +79,8 @@ int drawPicture(const Usage& usage)
 {
     WindowInterface host;
     Family::startHost(&host);
-    const SilentDialogs dialogs;
+    // Nobody is there to answer.
+    const Cli::CommandDialogs dialogs;
     MainWindow window;
     host.setWindow(&window);
     QString error;

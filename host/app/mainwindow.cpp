@@ -12,20 +12,18 @@
 #include "app/recentfolders.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
+#include "app/windowactions.h"
 #include "app/windowstate.h"
 #include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
-#include <QAction>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
-#include <QMenuBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>
@@ -47,11 +45,11 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget),
       m_tabs(new DocumentTabs), m_lineBar(new LineBar), m_gameTree(new GameTree),
       m_nodePanel(new NodePanel), m_animationPanel(new AnimationPanel),
-      m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar()))
+      m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar())),
+      m_actions(new WindowActions(this))
 {
     loadResources();
     makeCentre();
-    makeActions();
     makeDocks();
     connectParts();
     connectPanels();
@@ -114,64 +112,8 @@ QDockWidget* MainWindow::addDock(QWidget* widget, const QString& name, const QSt
     dock->setObjectName(name);
     dock->setWidget(widget);
     addDockWidget(area, dock);
-    menuByName("view")->addAction(dock->toggleViewAction());
+    m_actions->menu("view")->addAction(dock->toggleViewAction());
     return dock;
-}
-
-void MainWindow::makeActions()
-{
-    for (const MenuRow& row : menuTable()) {
-        QMenu* menu = menuBar()->addMenu(QCoreApplication::translate("App::Menus", row.text));
-        menu->setObjectName(QLatin1String(row.name));
-        m_menus.insert(row.name, menu);
-    }
-    for (const ActionRow& row : actionTable()) {
-        QMenu* menu = m_menus.value(row.menu);
-        if (!row.name) {
-            menu->addSeparator();
-            continue;
-        }
-        QAction* action = menu->addAction(QCoreApplication::translate("App::Actions", row.text));
-        action->setObjectName(QLatin1String(row.name));
-        if (row.shortcut) {
-            action->setShortcut(
-                QKeySequence(QLatin1String(row.shortcut), QKeySequence::PortableText));
-        } else if (row.standardKey != QKeySequence::UnknownKey) {
-            action->setShortcuts(row.standardKey);
-        }
-        connect(action, &QAction::triggered, this, row.slot);
-        m_actions.insert(row.name, action);
-    }
-    makeRecentMenu();
-}
-
-void MainWindow::makeRecentMenu()
-{
-    m_recentMenu = new QMenu(tr("&Recent game folders"), this);
-    const QList<QAction*> actions = menuByName("file")->actions();
-    menuByName("file")->insertMenu(actions.at(1), m_recentMenu);
-    connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
-    fillRecentMenu();
-}
-
-void MainWindow::fillRecentMenu()
-{
-    m_recentMenu->clear();
-    const QStringList folders = RecentFolders::list();
-    for (const QString& folder : folders) {
-        QString text = QDir::toNativeSeparators(folder);
-        text.replace(QLatin1Char('&'), QLatin1String("&&"));
-        m_recentMenu->addAction(text, this, [this, folder] { openPath(folder); });
-    }
-    m_recentMenu->addSeparator();
-    m_recentMenu
-        ->addAction(tr("&Clear the list"), this,
-                    [this] {
-                        RecentFolders::clear();
-                        fillRecentMenu();
-                    })
-        ->setEnabled(!folders.isEmpty());
-    m_recentMenu->setEnabled(true);
 }
 
 void MainWindow::connectParts()
@@ -375,12 +317,7 @@ void MainWindow::updateNow()
 
 void MainWindow::updateActions()
 {
-    const int present = presentNeeds();
-    for (const ActionRow& row : actionTable()) {
-        if (row.name) {
-            m_actions.value(row.name)->setEnabled((row.needs & ~present) == 0);
-        }
-    }
+    m_actions->update(presentNeeds());
 }
 
 int MainWindow::presentNeeds() const
@@ -404,12 +341,12 @@ FamilyProject* MainWindow::currentProject() const
 
 QMenu* MainWindow::menuByName(const char* name) const
 {
-    return m_menus.value(name);
+    return m_actions->menu(name);
 }
 
 QAction* MainWindow::actionByName(const char* name) const
 {
-    return m_actions.value(name);
+    return m_actions->action(name);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

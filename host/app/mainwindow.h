@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHash>
 #include <QMainWindow>
 
 class QDockWidget;
@@ -26,6 +25,7 @@ class LineBar;
 class MessagePanel;
 class NodePanel;
 class StatusFields;
+class WindowActions;
 
 /// The window of the program: texts in the middle, trees and lists around them.
 ///
@@ -46,6 +46,10 @@ public:
     /// Shows a file of the game: opens the project of a main file. False if there
     /// is nothing to show; the person is told.
     bool openFile(const QString& fileName);
+
+    /// Brings the text of an open project to the front. A file that would not come
+    /// back from its encoding is told when it is shown first.
+    void showDocument(Family::FamilyDocument* document);
 
     /// Opens what was open when the window was closed last. `otherwise`, if not
     /// empty, is opened instead if it is another game.
@@ -109,16 +113,12 @@ private:
     void makeDocks();
     QDockWidget* addDock(QWidget* widget, const QString& name, const QString& title,
                          Qt::DockWidgetArea area);
-    void makeActions();
-    void makeRecentMenu();
-    void fillRecentMenu();
     void connectParts();
     void connectPanels();
 
     bool openFolder(const QString& folder);
     bool openProject(const QString& mainFile);
     bool tellWhyNot(const QString& fileName);
-    void showDocument(Family::FamilyDocument* document);
     void closeDocument(Family::FamilyDocument* document);
     void showPlace(Zorv::CodeDocument* document, int line, int column, int length);
     void forgetProject(Family::FamilyProject* project);
@@ -142,9 +142,7 @@ private:
     AnimationPanel* m_animationPanel;
     MessagePanel* m_messagePanel;
     StatusFields* m_status;
-    QHash<QByteArray, QMenu*> m_menus;
-    QHash<QByteArray, QAction*> m_actions;
-    QMenu* m_recentMenu = nullptr;
+    WindowActions* m_actions;
     bool m_isUpdatePending = false;
 };
 

@@ -1,6 +1,5 @@
 #include "app/mainwindow.h"
 
-#include "app/actiontable.h"
 #include "app/animationpanel.h"
 #include "app/codeedit.h"
 #include "app/documenttabs.h"
@@ -12,12 +11,12 @@
 #include "app/nodepanel.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
+#include "app/windowactions.h"
 #include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "operations/documentfile.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QFileInfo>
 
@@ -249,17 +248,7 @@ void MainWindow::showPreviousText()
 
 void MainWindow::showKeys()
 {
-    QStringList lines;
-    for (const ActionRow& row : actionTable()) {
-        const QAction* action = row.name ? actionByName(row.name) : nullptr;
-        if (action && !action->shortcut().isEmpty()) {
-            QString text = action->text().remove(QLatin1Char('&'));
-            text.remove(QLatin1String("..."));
-            lines.append(action->shortcut().toString(QKeySequence::NativeText) +
-                         QLatin1String("   ") + text);
-        }
-    }
-    Dialogs::instance()->information(tr("Keys"), lines.join(QLatin1Char('\n')));
+    Dialogs::instance()->information(tr("Keys"), m_actions->keys().join(QLatin1Char('\n')));
 }
 
 void MainWindow::showAbout()

@@ -5,7 +5,6 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTextStream>
 
 namespace App {
 
@@ -18,11 +17,6 @@ QWidget* mainWindow()
 {
     const Zorv::Interface* host = Zorv::Interface::instance();
     return host ? host->mainWindow() : nullptr;
-}
-
-void print(const QString& text)
-{
-    QTextStream(stderr) << "zorv: " << text << '\n';
 }
 
 int chooseFromList(const QString& title, const QString& text, const QStringList& choices,
@@ -74,70 +68,6 @@ int WindowDialogs::choose(const QString& title, const QString& text, const QStri
     }
     return choices.size() > MaxButtons ? chooseFromList(title, text, choices, defaultChoice)
                                        : chooseByButton(title, text, choices, defaultChoice);
-}
-
-SilentDialogs::SilentDialogs()
-{
-    setInstance(this);
-}
-
-SilentDialogs::~SilentDialogs()
-{
-    if (instance() == this) {
-        setInstance(nullptr);
-    }
-}
-
-SilentDialogs::Button SilentDialogs::question(const QString&, const QString& text, Buttons buttons,
-                                              Button defaultButton)
-{
-    print(text);
-    if (buttons & Cancel) {
-        return Cancel;
-    }
-    return buttons & No ? No : defaultButton;
-}
-
-SilentDialogs::Button SilentDialogs::warning(const QString& title, const QString& text,
-                                             Buttons buttons, Button defaultButton)
-{
-    return question(title, text, buttons, defaultButton);
-}
-
-void SilentDialogs::information(const QString&, const QString& text)
-{
-    print(text);
-}
-
-void SilentDialogs::error(const QString&, const QString& text)
-{
-    print(text);
-}
-
-int SilentDialogs::choose(const QString&, const QString& text, const QStringList&, int)
-{
-    print(text);
-    return -1;
-}
-
-QString SilentDialogs::openFileName(QWidget*, const QString&, const QString&, const QString&)
-{
-    return {};
-}
-
-QStringList SilentDialogs::openFileNames(QWidget*, const QString&, const QString&, const QString&)
-{
-    return {};
-}
-
-QString SilentDialogs::saveFileName(QWidget*, const QString&, const QString&, const QString&)
-{
-    return {};
-}
-
-QString SilentDialogs::existingFolder(QWidget*, const QString&, const QString&)
-{
-    return {};
 }
 
 }  // namespace App

@@ -51,14 +51,16 @@ void restoreText(MainWindow* window, const QVariantMap& state)
 {
     const QString project = state.value(QStringLiteral("project")).toString();
     const QString file = state.value(QStringLiteral("file")).toString();
+    if (!QFileInfo(project).isFile() || !QFileInfo(file).isFile()) {
+        return;
+    }
     QString error;
-    if (!QFileInfo(project).isFile() || !QFileInfo(file).isFile() ||
-        !window->session()->openProject(project, &error)) {
+    const Family::FamilyProject* opened = window->session()->openProject(project, &error);
+    FamilyDocument* document = opened ? window->session()->document(file, opened, true) : nullptr;
+    if (!document) {
         return;
     }
-    if (!window->session()->document(file, nullptr, true) || !window->openFile(file)) {
-        return;
-    }
+    window->showDocument(document);
     window->tabs()->currentEdit()->setPlace({state.value(QStringLiteral("line")).toInt(),
                                              state.value(QStringLiteral("column")).toInt(),
                                              state.value(QStringLiteral("top")).toInt()});
