@@ -3,7 +3,6 @@
 #include "code/codedoc/codedocument.h"
 #include "core/archive.h"
 #include "core/interface.h"
-#include "core/messages.h"
 #include "core/parentproject.h"
 #include "core/parentproject_p.h"
 #include "core/project_p.h"
@@ -11,6 +10,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -27,24 +27,25 @@ Project::Project(ParentProject* parent, CodeDocument* mainDocument, FileID id)
     addFile(mainDocument, id);
 }
 
-// Files that were taken out know the project too; its list still has them.
 Project::~Project()
 {
-    const QList<Messages*> lists = d->lists();
-    for (const Messages* messages : lists)
-        messages->file()->d->project = nullptr;
+    for (ProjectFile* file : qAsConst(d->known))
+        file->d->project = nullptr;
 }
 
-// A host may delete the project in the release of its main document, so the
-// walk does not look at the project again.
+// A host may delete the project in the release of its main document, and a
+// document may release an editor that is a file of the project too.
 void Project::release()
 {
+    const QPointer<Project> self(this);
     if (m_archive != d->parent->archive())
         m_archive->release();
     d->parent->d->release(this);
     const QList<ProjectFile*> all = files();
-    for (auto it = all.crbegin(); it != all.crend(); ++it)
-        (*it)->release();
+    for (auto it = all.crbegin(); it != all.crend(); ++it) {
+        if (!self || d->fileIDs.contains(*it))
+            (*it)->release();
+    }
 }
 
 bool Project::isEmpty() const
@@ -72,7 +73,7 @@ void Project::reload()
 {
     const QList<ProjectFile*> all = files();
     for (ProjectFile* file : all) {
-        if (QFile::exists(file->fileName()))
+        if (d->fileIDs.contains(file) && QFile::exists(file->fileName()))
             file->fromFile(*file->archive(), file->fileName(), false);
     }
 }
@@ -81,8 +82,12 @@ void Project::reload()
 // them once for each registration.
 void Project::addFile(ProjectFile* file, FileID id)
 {
+    Project* former = file->d->project;
+    if (former && former != this)
+        former->forgetFile(file);
     const quint32 old = d->fileIDs.value(file);
     d->fileIDs[file] = old | id;
+    d->known.insert(file);
     file->d->project = this;
     d->registerMessages(file->messages());
     const quint32 added = id & ~old;
@@ -98,6 +103,12 @@ ProjectFile* Project::takeFile(ProjectFile* file)
     for (QList<ProjectFile*>& list : d->files)
         list.removeAll(file);
     return file;
+}
+
+void Project::forgetFile(ProjectFile* file)
+{
+    takeFile(file);
+    d->known.remove(file);
 }
 
 void Project::removeFile(ProjectFile* file)
@@ -203,7 +214,8 @@ void Project::setArchive(Archive* archive)
 
 void Project::addToParent()
 {
-    d->parent->addRef(static_cast<CodeDocument*>(file(FileID::MainCode)));
+    if (ProjectFile* main = file(FileID::MainCode))
+        d->parent->addRef(static_cast<CodeDocument*>(main));
 }
 
 QVariant Project::option(const QString& key) const

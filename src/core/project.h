@@ -104,7 +104,8 @@ public:
     virtual void reload();
 
     /// Registers a file under the kinds of `id`, beside those that it has. Its
-    /// messages join those of the project: once more for each call.
+    /// messages join those of the project: once more for each call. A file of
+    /// another project leaves that one; a file that dies leaves its project.
     void addFile(ProjectFile* file, FileID id);
 
     /// Takes a file out of every list and returns it. Its messages stay in the
@@ -166,6 +167,9 @@ public:
     void setOption(const QString& key, const QVariant& value, bool global);
 
 private:
+    friend class ProjectFile;
+    void forgetFile(ProjectFile* file);
+
     int m_kind;
     std::unique_ptr<ProjectPrivate> d;
     Archive* m_archive;

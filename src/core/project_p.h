@@ -3,6 +3,8 @@
 #include "core/messagelist.h"
 #include "core/project.h"
 
+#include <QSet>
+
 namespace Zorv {
 
 /// The private part of a project is itself the list of all its messages.
@@ -16,6 +18,7 @@ public:
 
     ParentProject* parent;
     QMap<QString, QVariant> options;
+    QSet<ProjectFile*> known;  ///< all that point to the project, also those taken out
     QMap<ProjectFile*, FileID> fileIDs;
     QMap<FileID::Type, unsigned> selected;
     QMap<FileID::Type, QList<ProjectFile*>> files;

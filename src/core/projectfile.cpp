@@ -12,6 +12,8 @@ ProjectFile::~ProjectFile()
 {
     if (m_archive && d->project && m_archive != d->project->archive())
         m_archive->release();
+    if (d->project)
+        d->project->forgetFile(this);
 }
 
 Archive* ProjectFile::archive() const
@@ -82,13 +84,14 @@ QString ProjectFile::errorString() const
 QVariant ProjectFile::option(const QString& key) const
 {
     const QVariant value = d->options.value(key);
-    return !value.isValid() && d->project ? d->project->option(key) : value;
+    const Project* owner = project();
+    return !value.isValid() && owner ? owner->option(key) : value;
 }
 
 void ProjectFile::setOption(const QString& key, const QVariant& value, bool inProject, bool global)
 {
-    if (inProject && d->project)
-        d->project->setOption(key, value, global);
+    if (inProject && project())
+        project()->setOption(key, value, global);
     else if (value.isNull())
         d->options.remove(key);
     else

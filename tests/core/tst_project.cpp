@@ -2,6 +2,7 @@
 #include "core/filesystemarchive.h"
 #include "core/messagelist.h"
 #include "core/messages.h"
+#include "support/testgrammar.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
 
@@ -61,6 +62,8 @@ private slots:
     void reloadKeepsVanishedFiles();
     void releaseGivesEverythingUp();
     void projectDiesBeforeItsFiles();
+    void filesLeaveTheirProject();
+    void editorThatIsAFileToo();
 
     void copyOfUnmodifiedProject();
     void copyWritesWhatIsModified();
@@ -279,6 +282,47 @@ void TestProjects::projectDiesBeforeItsFiles()
     file->release();
     taken->release();
     main->release();
+}
+
+void TestProjects::filesLeaveTheirProject()
+{
+    auto* main = new TestDocument;
+    TestProject first(m_parent.get(), main);
+    TestProject second(m_parent.get(), new TestDocument);
+    auto* file = new TestFile;
+    first.addFile(file, Sprites);
+    second.addFile(file, Sounds);
+    second.addFile(main, FileID::Code);
+    QVERIFY(first.files().isEmpty());
+    QVERIFY(first.fileName().isEmpty());
+    first.addToParent();
+    first.release();
+    QCOMPARE(second.files().size(), 3);
+    file->release();
+    QVERIFY(second.filesByType(Sounds).isEmpty());
+    QVERIFY(second.isEmpty());
+    second.release();
+    QVERIFY(second.files().isEmpty());
+}
+
+/// A document releases its editors when it is released itself.
+void TestProjects::editorThatIsAFileToo()
+{
+    for (const bool isFileOfProject : {false, true}) {
+        auto* main = new GrammarDocument(QStringLiteral("!a\n"));
+        TestProject project(m_parent.get(), main);
+        auto* animations = new TestAnimations(main);
+        const QPointer<QObject> list(static_cast<QObject*>(animations));
+        main->registerDocumentEditor(animations, CodeNode::Animation, 0);
+        project.setOption("key", 5, false);
+        QCOMPARE(animations->option("key"), QVariant(5));
+        if (isFileOfProject)
+            project.addFile(animations, FileID::Animations);
+        main->release();
+        QVERIFY(list.isNull());
+        QVERIFY(project.files().isEmpty());
+        project.release();
+    }
 }
 
 void TestProjects::copyOfUnmodifiedProject()
