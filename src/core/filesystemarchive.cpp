@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 
 #include <memory>
 
@@ -54,7 +55,8 @@ QFileInfoList FileSystemArchive::infoEntries(const QString& path, QDir::Filters 
 QIODevice* FileSystemArchive::openFile(const QString& path, QIODevice::OpenMode mode,
                                        QString* error)
 {
-    if (!(mode & QIODevice::WriteOnly) && !QFile::exists(path)) {
+    const QFileInfo info(path);
+    if (!(mode & QIODevice::WriteOnly) && !info.exists()) {
         setReadError(
             error, path,
             QCoreApplication::translate("Zorv::FileSystemArchive", "The file does not exist"));
@@ -67,6 +69,12 @@ QIODevice* FileSystemArchive::openFile(const QString& path, QIODevice::OpenMode 
             return file.release();
         if (error)
             *error = file->failure();
+        return nullptr;
+    }
+    if (!info.isFile()) {
+        setReadError(
+            error, path,
+            QCoreApplication::translate("Zorv::FileSystemArchive", "It is not a plain file"));
         return nullptr;
     }
     auto file = std::make_unique<QFile>(path);

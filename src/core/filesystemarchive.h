@@ -40,7 +40,8 @@ public:
 
     /// Opens a file. Without `QIODevice::WriteOnly` in `mode` a file that does
     /// not exist gives null and no folder is made; with it, missing folders on
-    /// the way are made first, even if the opening then fails.
+    /// the way are made first, even if the opening then fails. What is not a
+    /// regular file is refused: a pipe would wait for somebody to fill it.
     QIODevice* openFile(const QString& path, QIODevice::OpenMode mode,
                         QString* error = nullptr) override;
 
