@@ -177,8 +177,9 @@ void FileWatcherManager::askToReload(const QString& path, const QList<FileWatchO
         return;
     m_asking.remove(path);
     for (FileWatchObject* object : changed) {
-        // Documents can have been closed while the question was open.
-        if (answer == Dialogs::Yes && self && m_objects.contains(object))
+        // While the question was open, a document can have been closed, another one
+        // made in its place, or this one saved under another name.
+        if (answer == Dialogs::Yes && self && objectsOf(path).contains(object))
             object->reload();
     }
 }

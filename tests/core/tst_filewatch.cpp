@@ -314,6 +314,19 @@ private slots:
         QTRY_COMPARE(second.reloads, 1);
     }
 
+    void documentSavedElsewhereDuringTheQuestion()
+    {
+        Watched document(path);
+        dialogs->whileOpen = [&document](const PlannedDialogs::Shown& shown) {
+            document.save(shown.text.section(QLatin1Char('\''), 1, 1) + QStringLiteral(".new"));
+        };
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        change(path);
+        QTRY_VERIFY(document.name != path);
+        settle();
+        QCOMPARE(document.reloads, 0);
+    }
+
     void lastDocumentDiesDuringTheQuestion()
     {
         auto document = std::make_unique<Watched>(path);
