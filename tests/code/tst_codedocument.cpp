@@ -7,6 +7,7 @@
 #include "core/filesystemarchive.h"
 #include "core/messages.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QSignalSpy>
@@ -77,6 +78,28 @@ void store(const QString& fileName, const QByteArray& data)
     QCOMPARE(file.write(data), qint64(data.size()));
 }
 
+/// Gives files of which less can be read than they seem to hold.
+class ShortArchive : public FileSystemArchive
+{
+public:
+    QIODevice* openFile(const QString&, QIODevice::OpenMode mode, QString*) override
+    {
+        class Device : public QBuffer
+        {
+        public:
+            qint64 size() const override { return QBuffer::size() + missing; }
+            qint64 missing = 0;
+        };
+        auto* device = new Device;
+        device->setData("[2]\r\n");
+        device->missing = missing;
+        device->open(mode);
+        return device;
+    }
+
+    qint64 missing = 0;
+};
+
 CodeNode* nodeOfLine(const CodeDocument& document, int line)
 {
     return document.nodeInBlock(document.findBlockByNumber(line));
@@ -103,8 +126,11 @@ private slots:
     void roundTrip_data();
     void roundTrip();
     void copiesKeepIdentity();
+    void roundaboutNameIsWatched();
     void vanishedFile();
     void failedSave();
+    void partIsNotTheWhole_data();
+    void partIsNotTheWhole();
     void messagesAreToldOnce();
     void fullParseInsideChange_data();
     void fullParseInsideChange();
@@ -341,6 +367,30 @@ void CodeDocumentTest::copiesKeepIdentity()
     QVERIFY(document.isEmpty());
 }
 
+void CodeDocumentTest::roundaboutNameIsWatched()
+{
+    TestInterface host;
+    PlannedDialogs dialogs;
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("b")));
+    const QString name = folder.filePath(QStringLiteral("b/../a.code"));
+    store(name, "[1]");
+    GrammarDocument document;
+    QVERIFY(document.fromFile(*FileSystemArchive::instance(), name, false));
+    // One write, one signal.
+    const auto change = [&name] {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::Append));
+        file.write("\r\na=1");
+    };
+    change();
+    QTRY_COMPARE(dialogs.count(), 1);
+    QVERIFY(document.toFile(*FileSystemArchive::instance(), name, false));
+    QTRY_VERIFY(!document.isWatchPaused());
+    change();
+    QTRY_COMPARE(dialogs.count(), 2);
+}
+
 void CodeDocumentTest::vanishedFile()
 {
     TestInterface host;
@@ -371,6 +421,27 @@ void CodeDocumentTest::failedSave()
     QVERIFY(document.isModified());
     QCOMPARE(document.fileName(), name);
     QCOMPARE(contents(name), QByteArray("[1]\r\n"));
+}
+
+void CodeDocumentTest::partIsNotTheWhole_data()
+{
+    QTest::addColumn<qint64>("missing");
+    QTest::newRow("a byte cannot be read") << qint64(1);
+    QTest::newRow("larger than a text can be") << qint64(3) * 1024 * 1024 * 1024;
+}
+
+/// What is not read whole would be saved over the rest.
+void CodeDocumentTest::partIsNotTheWhole()
+{
+    QFETCH(qint64, missing);
+    ShortArchive archive;
+    archive.missing = missing;
+    GrammarDocument document(QStringLiteral("[1]"));
+    QVERIFY(!document.fromFile(archive, QStringLiteral("/a.code"), false));
+    QVERIFY2(document.errorString().contains(QStringLiteral("/a.code")),
+             qPrintable(document.errorString()));
+    QCOMPARE(document.text(), QStringLiteral("[1]"));
+    QVERIFY(document.fileName().isEmpty());
 }
 
 void CodeDocumentTest::messagesAreToldOnce()

@@ -15,6 +15,9 @@ namespace Zorv {
 
 namespace {
 
+// What a text document can hold, with some room for editing.
+const qint64 MaxBytes = 256 * 1024 * 1024;
+
 QString withPlainLineEnds(QString text)
 {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -46,6 +49,28 @@ bool isUnmistakablyUtf8(const QByteArray& data)
            && TextCodecs::isFaithful(data, TextCodecs::index("UTF-8"));
 }
 
+/// What the watch and the document call a file.
+QString fullName(const QString& fileName)
+{
+    return fileName.isEmpty() ? QString() : QFileInfo(fileName).absoluteFilePath();
+}
+
+/// Part of a file must never pass for the whole: it would be saved over it.
+bool readWhole(QIODevice& device, QByteArray& data, QString* reason)
+{
+    const qint64 size = device.isSequential() ? 0 : device.size();
+    if (size > MaxBytes) {
+        *reason = CodeDocument::tr("It is too large for a text. Choose a file of less than %1 MB")
+                      .arg(MaxBytes / (1024 * 1024));
+        return false;
+    }
+    data = device.readAll();
+    if (data.size() < size) {
+        *reason = device.errorString();
+    }
+    return data.size() >= size;
+}
+
 QString cannot(const char* text, const QString& fileName, const QString& reason)
 {
     return CodeDocument::tr(text).arg(fileName, reason);
@@ -60,11 +85,8 @@ QString CodeDocument::fileName() const
 
 void CodeDocument::setFileName(const QString& fileName)
 {
-    const QFileInfo info(fileName);
-    setMetaInformation(QTextDocument::DocumentTitle,
-                       fileName.isEmpty() ? QString() : info.fileName());
-    setMetaInformation(QTextDocument::DocumentUrl,
-                       fileName.isEmpty() ? QString() : info.absoluteFilePath());
+    setMetaInformation(QTextDocument::DocumentTitle, QFileInfo(fileName).fileName());
+    setMetaInformation(QTextDocument::DocumentUrl, fullName(fileName));
 }
 
 QString CodeDocument::title() const
@@ -115,11 +137,16 @@ bool CodeDocument::fromFile(Archive& archive, const QString& fileName, int codec
                                         : reason);
         return false;
     }
-    const QByteArray data = device->readAll();
+    QByteArray data;
+    const bool isRead = readWhole(*device, data, &reason);
     archive.closeFile(device);
+    if (!isRead) {
+        setErrorString(tr("Cannot read %1: %2.").arg(fileName, reason));
+        return false;
+    }
     // The watch moves only now: a file that cannot be read keeps the old one.
     if (watch) {
-        FileWatchObject::fromFile(archive, fileName, asCopy);
+        FileWatchObject::fromFile(archive, fullName(fileName), asCopy);
     }
     if (codec < 0 && isUnmistakablyUtf8(data)) {
         codec = TextCodecs::index("UTF-8");
@@ -179,7 +206,7 @@ QByteArray CodeDocument::toData() const
 bool CodeDocument::toFile(Archive& archive, const QString& fileName, bool asCopy)
 {
     const QString oldName = this->fileName();
-    FileWatchObject::toFile(archive, fileName, asCopy);
+    FileWatchObject::toFile(archive, fullName(fileName), asCopy);
     QString reason;
     QIODevice* device = archive.openFile(fileName, QIODevice::WriteOnly, &reason);
     bool done = device != nullptr;
@@ -199,7 +226,7 @@ bool CodeDocument::toFile(Archive& archive, const QString& fileName, bool asCopy
         setFileName(fileName);
         setArchive(&archive);
         d->hasForeignLineEnds = false;
-        renewWatch(fileName);
+        renewWatch(fullName(fileName));
     }
     setErrorString(QString());
     return true;
