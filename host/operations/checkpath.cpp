@@ -2,9 +2,38 @@
 
 #include "family/check/check.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 
 namespace Family {
+
+namespace {
+
+// What cannot be looked into may hold a project: it is not passed over.
+Problems closedFolders(const QString& folder)
+{
+    Problems problems;
+    QDirIterator folders(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
+                         QDirIterator::Subdirectories);
+    while (folders.hasNext()) {
+        const QString path = folders.next();
+        const QFileInfo info = folders.fileInfo();
+        if (!info.isReadable() || !info.isExecutable()) {
+            Problem problem;
+            problem.id = ProblemId::FileUnreadable;
+            problem.level = problemInfo(problem.id).level;
+            problem.file = QDir(folder).relativeFilePath(path);
+            problem.text = problemText(
+                problem.id,
+                {problem.file, QCoreApplication::translate("Family", "Permission denied")});
+            problems.append(problem);
+        }
+    }
+    return problems;
+}
+
+}  // namespace
 
 Problems checkPath(const QString& path, QString* error)
 {
@@ -12,6 +41,10 @@ Problems checkPath(const QString& path, QString* error)
     const QString folder = checkedFolder(path);
     if (folder.isEmpty()) {
         return problems;
+    }
+    if (error->isEmpty() && QFileInfo(path).isDir()) {
+        problems += closedFolders(folder);
+        sortProblems(&problems);
     }
     const QDir game(folder);
     const bool isRelative = QDir::isRelativePath(path);

@@ -89,6 +89,7 @@ class TestCli : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QVERIFY(QFileInfo::exists(ZORV_PROGRAM)); }
     void transcript_data();
     void transcript();
 };
