@@ -72,6 +72,7 @@ QFont fixedFont()
 void setUpLook()
 {
     setCodeFont(fixedFont());
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/zorvl_icons/icons/anim.png")));
 }
 

@@ -18,6 +18,7 @@
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDockWidget>
@@ -40,6 +41,22 @@ namespace App {
 
 using Family::FamilyDocument;
 using Family::FamilyProject;
+
+namespace {
+
+/// The pointer that tells to wait, as long as the object lives. A folder may be
+/// large, and far away.
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+
+private:
+    Q_DISABLE_COPY(WaitCursor)
+};
+
+}  // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget),
@@ -187,7 +204,12 @@ bool MainWindow::openFolder(const QString& folder)
         return false;
     }
     QString error;
-    if (!m_session->openFolder(folder, &error)) {
+    bool isOpen = false;
+    {
+        const WaitCursor cursor;
+        isOpen = m_session->openFolder(folder, &error);
+    }
+    if (!isOpen) {
         Zorv::Dialogs::instance()->error(tr("Open game folder"), error);
         return false;
     }
@@ -215,7 +237,11 @@ bool MainWindow::openFile(const QString& fileName)
 bool MainWindow::openProject(const QString& mainFile)
 {
     QString error;
-    FamilyProject* project = m_session->openProject(mainFile, &error);
+    FamilyProject* project = nullptr;
+    {
+        const WaitCursor cursor;
+        project = m_session->openProject(mainFile, &error);
+    }
     if (!project) {
         Zorv::Dialogs::instance()->error(tr("Open project"), error);
         return false;
