@@ -129,7 +129,8 @@ double timeOfSort(int count)
     }
     QString text;
     for (const int number : qAsConst(numbers)) {
-        text += QStringLiteral("animation %1\nbody -16,-88, 16,0\nframe %1,0  delay 4\n\n").arg(number);
+        text +=
+            QStringLiteral("animation %1\nbody -16,-88, 16,0\nframe %1,0  delay 4\n\n").arg(number);
     }
     const Document document = load(text);
     const double time = Bench::once([&] { document->animations()->autoOrganize(); });

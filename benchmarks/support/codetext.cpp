@@ -8,7 +8,8 @@ void appendGroup(QString& text, int number, int& line)
 {
     text += QStringLiteral("# Numbers of part %1, found by play\n").arg(number);
     text += QLatin1String("[constants]\n");
-    text += QStringLiteral("life = %1\npower = %2  # most power\n").arg(900 + number % 100).arg(3000);
+    text +=
+        QStringLiteral("life = %1\npower = %2  # most power\n").arg(900 + number % 100).arg(3000);
     text += QStringLiteral("gravity = 0.%1\n").arg(number % 90 + 10);
     text += QLatin1String("stance = orthodox\nscale = 1, 1.25\n[.walk]\n");
     text += QStringLiteral("forward = %1.5\nback = -%2\n\n").arg(number % 7).arg(number % 5);

@@ -67,10 +67,10 @@ void AnimationsTest::organize_data()
 {
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<QStringList>("sorted");
-    QTest::newRow("numbers by value") << QStringList{"10", "9", "100"}
-                                      << QStringList{"9", "10", "100"};
-    QTest::newRow("texts without case") << QStringList{"b", "A", "c", "B"}
-                                        << QStringList{"A", "b", "B", "c"};
+    QTest::newRow("numbers by value")
+        << QStringList{"10", "9", "100"} << QStringList{"9", "10", "100"};
+    QTest::newRow("texts without case")
+        << QStringList{"b", "A", "c", "B"} << QStringList{"A", "b", "B", "c"};
     QTest::newRow("a text and a number stay") << QStringList{"a", "9"} << QStringList{"a", "9"};
     QTest::newRow("one") << QStringList{"5"} << QStringList{"5"};
     QTest::newRow("a number passes a text to reach a greater one")
@@ -100,8 +100,8 @@ void AnimationsTest::moves_data()
     QTest::addColumn<QStringList>("result");
     QTest::newRow("up") << 2 << 0 << QStringList{"c", "a", "b", "d"};
     QTest::newRow("down") << 0 << 2 << QStringList{"b", "c", "a", "d"};
-    QTest::newRow("to the last place: lands at the head") << 0 << 3
-                                                          << QStringList{"a", "b", "c", "d"};
+    QTest::newRow("to the last place: lands at the head")
+        << 0 << 3 << QStringList{"a", "b", "c", "d"};
     QTest::newRow("the second to the last place") << 1 << 3 << QStringList{"b", "a", "c", "d"};
     QTest::newRow("outside") << 4 << 0 << QStringList{"a", "b", "c", "d"};
 }
@@ -121,8 +121,7 @@ void AnimationsTest::duplicates()
 {
     Fixture fixture(QStringLiteral("!a\n-new\n# A\n!b\n-g\n"));
     fixture.list->duplicate(0, QStringLiteral("c"));
-    QCOMPARE(fixture.document.text(),
-             QStringLiteral("!a\n-new\n# A\n!a\n-new\n# A\n!b\n-g\n"));
+    QCOMPARE(fixture.document.text(), QStringLiteral("!a\n-new\n# A\n!a\n-new\n# A\n!b\n-g\n"));
     fixture.document.undo();
     fixture.list->duplicate(9, QString());
     QCOMPARE(fixture.names(), QStringList({"a", "b"}));
@@ -156,7 +155,8 @@ void AnimationsTest::extents()
     QCOMPARE(animation->lastLine(), 5);
     QCOMPARE(animation->frames().at(0)->firstLine(), 1);
     QCOMPARE(animation->frames().at(1)->firstLine(), 3);
-    QCOMPARE(animation->code(), QString("!a\n# box\n-f\n# one\n# two\n-g").replace('\n', QChar(0x2029)));
+    QCOMPARE(animation->code(),
+             QString("!a\n# box\n-f\n# one\n# two\n-g").replace('\n', QChar(0x2029)));
     QCOMPARE(fixture.list->at(1)->lastLine(), fixture.document.blockCount());
     fixture.list->at(0)->removeFrame(1);
     QCOMPARE(fixture.document.text(), QStringLiteral("!a\n# box\n-f\n!b\n-h"));

@@ -147,8 +147,7 @@ void CodeDocumentTest::foldingAgainstRules()
     for (int step = 0; step < 400; ++step) {
         QTextCursor cursor(document.findBlockByNumber(random.bounded(document.blockCount())));
         if (document.blockCount() > 30 || random.bounded(3) == 0) {
-            cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor,
-                                random.bounded(4));
+            cursor.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor, random.bounded(4));
         }
         const int index = random.bounded(int(std::size(lines)));
         cursor.insertText(QLatin1String(lines[index]) + QLatin1Char('\n'));
@@ -169,8 +168,7 @@ void CodeDocumentTest::onlyDependentLinesAreParsed()
     document.grammar.records = true;
     QTextCursor cursor(document.findBlockByNumber(2));
     cursor.insertText(QStringLiteral("#"));
-    QCOMPARE(document.grammar.parsed,
-             QStringList({"#[2]", "b=1", "b=2", "[1]"}));
+    QCOMPARE(document.grammar.parsed, QStringList({"#[2]", "b=1", "b=2", "[1]"}));
     document.grammar.parsed.clear();
     cursor.deletePreviousChar();
     QCOMPARE(document.grammar.parsed, QStringList({"[2]", "b=1", "b=2", "[1]"}));
@@ -214,14 +212,13 @@ void CodeDocumentTest::insertAtEdges_data()
     QTest::newRow("before no node") << "[1]" << -1 << true << false << "new\n[1]";
     QTest::newRow("behind no node, empty text") << "" << -1 << false << false << "new\n";
     QTest::newRow("behind no node") << "[1]" << -1 << false << false << "[1]new\n";
-    QTest::newRow("behind its line") << "[1]\na=1\n[2]" << 0 << false << true
-                                     << "[1]\nnew\na=1\n[2]";
-    QTest::newRow("behind its extent") << "[1]\na=1\n[2]" << 0 << false << false
-                                       << "[1]\na=1\nnew\n[2]";
-    QTest::newRow("behind the last extent") << "[1]\na=1" << 0 << false << false
-                                            << "[1]\na=1\nnew";
-    QTest::newRow("before a frame with its lines") << "!x\n-f\n# box\n-g" << 3 << true << false
-                                                   << "!x\n-f\nnew\n# box\n-g";
+    QTest::newRow("behind its line")
+        << "[1]\na=1\n[2]" << 0 << false << true << "[1]\nnew\na=1\n[2]";
+    QTest::newRow("behind its extent")
+        << "[1]\na=1\n[2]" << 0 << false << false << "[1]\na=1\nnew\n[2]";
+    QTest::newRow("behind the last extent") << "[1]\na=1" << 0 << false << false << "[1]\na=1\nnew";
+    QTest::newRow("before a frame with its lines")
+        << "!x\n-f\n# box\n-g" << 3 << true << false << "!x\n-f\nnew\n# box\n-g";
 }
 
 void CodeDocumentTest::insertAtEdges()
@@ -311,12 +308,18 @@ void CodeDocumentTest::roundTrip_data()
     QTest::newRow("plain") << QByteArray("a=1\r\nb=2\r\n") << true << false;
     QTest::newRow("bare line feeds") << QByteArray("a\nb\r\nc\rd") << true << true;
     QTest::newRow("byte-order mark") << mark + "a\r\n" << true << false;
-    QTest::newRow("blanks that do not break") << QByteArray("a\xC2\xA0" "b\r\n") << true << false;
-    QTest::newRow("line separator") << QByteArray("a\xE2\x80\xA8" "b\r\n") << true << false;
+    QTest::newRow("blanks that do not break") << QByteArray("a\xC2\xA0"
+                                                            "b\r\n")
+                                              << true << false;
+    QTest::newRow("line separator") << QByteArray("a\xE2\x80\xA8"
+                                                  "b\r\n")
+                                    << true << false;
     QTest::newRow("beyond 16 bits") << QByteArray("\xF0\x9F\x92\xA5\r\n") << true << false;
     QTest::newRow("null bytes") << QByteArray("a\0b\r\n", 5) << true << false;
     QTest::newRow("empty") << QByteArray() << true << false;
-    QTest::newRow("paragraph separator") << QByteArray("a\xE2\x80\xA9" "b\r\n") << false << false;
+    QTest::newRow("paragraph separator") << QByteArray("a\xE2\x80\xA9"
+                                                       "b\r\n")
+                                         << false << false;
 }
 
 void CodeDocumentTest::roundTrip()
@@ -517,8 +520,8 @@ void CodeDocumentTest::releaseDisposesOfAll()
 
 void CodeDocumentTest::hugeLinesAndManyEmptyOnes()
 {
-    GrammarDocument document(QString(10 * 1024 * 1024, QLatin1Char('x')) + QLatin1Char('\n')
-                             + QString(200000, QLatin1Char('\n')));
+    GrammarDocument document(QString(10 * 1024 * 1024, QLatin1Char('x')) + QLatin1Char('\n') +
+                             QString(200000, QLatin1Char('\n')));
     QCOMPARE(document.blockCount(), 200002);
     QCOMPARE(document.checkErrors(), 1);
     QTextCursor cursor(document.findBlockByNumber(100000));

@@ -12,9 +12,9 @@ namespace {
 
 constexpr quint32 Seed = 20260711;
 
-const char* const Lines[] = {"[1]",  "[1]", "[2]",  "[3*]", "[2*]", "a=1", "b=2",  "c=3",
-                             "a=4",  "!x",  "!y",   "!z",   "-f",   "-g",  "-h",   "# note",
-                             "# [1]", "",   "",     "?e",   "?w",   "?d",  "junk", "-i"};
+const char* const Lines[] = {"[1]",   "[1]", "[2]", "[3*]", "[2*]", "a=1", "b=2",  "c=3",
+                             "a=4",   "!x",  "!y",  "!z",   "-f",   "-g",  "-h",   "# note",
+                             "# [1]", "",    "",    "?e",   "?w",   "?d",  "junk", "-i"};
 
 QString randomLines(QRandomGenerator& random, int most)
 {

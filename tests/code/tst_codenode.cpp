@@ -128,8 +128,8 @@ private:
             if (type == node->type()) {
                 return chain.at(i);
             }
-            if ((type & (CodeNode::Group | CodeNode::Animation))
-                || (isGroup && type == CodeNode::Frame)) {
+            if ((type & (CodeNode::Group | CodeNode::Animation)) ||
+                (isGroup && type == CodeNode::Frame)) {
                 return nullptr;
             }
         }
@@ -204,8 +204,8 @@ void CodeNodeTest::chainAndTree()
         } else {
             const int behind = random.bounded(model.chain.size());
             const int kind = random.bounded(8);
-            const auto adopted = kind < 2 ? model.adoptedBy(typeOf(kind), behind + 1)
-                                          : QList<CodeNode*>();
+            const auto adopted =
+                kind < 2 ? model.adoptedBy(typeOf(kind), behind + 1) : QList<CodeNode*>();
             model.add(make(kind, model.chain.at(behind)), behind, adopted);
         }
         const int place = random.bounded(model.chain.size());
@@ -216,8 +216,8 @@ void CodeNodeTest::chainAndTree()
         QCOMPARE(node->next(type, mask), walk(model, place, 1, type, mask));
         const int other = random.bounded(model.chain.size());
         QCOMPARE(node->precedes(model.chain.at(other)), place < other);
-        QCOMPARE(node->parentCode(), static_cast<ParentCode*>(model.parents.value(
-                                         model.chain.at(place))));
+        QCOMPARE(node->parentCode(),
+                 static_cast<ParentCode*>(model.parents.value(model.chain.at(place))));
         if (const auto* parent = dynamic_cast<const ParentCode*>(node)) {
             const QList<CodeNode*> children = model.lists.value(model.chain.at(place));
             QCOMPARE(parent->childCount(), children.size());
@@ -245,16 +245,16 @@ void CodeNodeTest::convert_data()
     QTest::newRow("one becomes a list") << 7 << QVariant("12") << QVariant(QVariantList{12u});
     QTest::newRow("a list stays") << 7 << QVariant(reals) << QVariant(reals);
     QTest::newRow("a real stays a text") << 8 << QVariant("abc") << QVariant("abc");
-    QTest::newRow("a real point from a list is whole") << 9 << QVariant(reals)
-                                                       << QVariant(QPoint(1, -2));
-    QTest::newRow("a real point from one") << 9 << QVariant(QVariantList{2.5})
-                                           << QVariant(QPoint(2, 0));
-    QTest::newRow("a real point stays") << 9 << QVariant(QPointF(1.5, 2))
-                                        << QVariant(QPointF(1.5, 2));
+    QTest::newRow("a real point from a list is whole")
+        << 9 << QVariant(reals) << QVariant(QPoint(1, -2));
+    QTest::newRow("a real point from one")
+        << 9 << QVariant(QVariantList{2.5}) << QVariant(QPoint(2, 0));
+    QTest::newRow("a real point stays")
+        << 9 << QVariant(QPointF(1.5, 2)) << QVariant(QPointF(1.5, 2));
     QTest::newRow("reals from one") << 11 << QVariant("1.5") << QVariant(QVariantList{1.5});
     QTest::newRow("int") << 13 << QVariant("-3") << QVariant(-3);
-    QTest::newRow("point from a list") << 14 << QVariant(QVariantList{4, "5"})
-                                       << QVariant(QPoint(4, 5));
+    QTest::newRow("point from a list")
+        << 14 << QVariant(QVariantList{4, "5"}) << QVariant(QPoint(4, 5));
     QTest::newRow("point from nothing") << 14 << QVariant(QVariantList()) << QVariant(QPoint(0, 0));
     QTest::newRow("ints from one") << 17 << QVariant("-3") << QVariant(QVariantList{-3});
     QTest::newRow("unnamed type") << 1 << QVariant("x") << QVariant("x");
@@ -284,8 +284,8 @@ void CodeNodeTest::write_data()
                           << "2026-02-03";
     QTest::newRow("real point") << QVariant(1) << 9 << QVariant(QPointF(1.5, -2)) << comma
                                 << "1.5, -2";
-    QTest::newRow("point without separator") << QVariant(1) << 14 << QVariant(QPoint(3, 4))
-                                             << QChar() << "3 4";
+    QTest::newRow("point without separator")
+        << QVariant(1) << 14 << QVariant(QPoint(3, 4)) << QChar() << "3 4";
     QTest::newRow("list") << QVariant(1) << 10 << QVariant(QVariantList{1.5, 2, "x"}) << comma
                           << "1.5, 2, x";
     QTest::newRow("unsigned") << QVariant(1) << 6 << QVariant(7) << comma << "7";
@@ -316,10 +316,10 @@ void CodeNodeTest::read_data()
     QTest::newRow("int") << 13 << QVariant(7) << Ints{7} << Reals{7} << QPoint(7, 0);
     QTest::newRow("ints") << 15 << QVariant(QVariantList{1, 2, 3}) << Ints{1, 2, 3}
                           << Reals{1, 2, 3} << QPoint(1, 2);
-    QTest::newRow("one int in a list") << 15 << QVariant(QVariantList{4}) << Ints{4} << Reals{4}
-                                       << QPoint(4, 0);
-    QTest::newRow("a list in a real") << 8 << QVariant(QVariantList{1.5, 2}) << Ints{0}
-                                      << Reals{0, 1.5, 2} << QPoint(0, 0);
+    QTest::newRow("one int in a list")
+        << 15 << QVariant(QVariantList{4}) << Ints{4} << Reals{4} << QPoint(4, 0);
+    QTest::newRow("a list in a real")
+        << 8 << QVariant(QVariantList{1.5, 2}) << Ints{0} << Reals{0, 1.5, 2} << QPoint(0, 0);
     QTest::newRow("point") << 14 << QVariant(QPoint(5, 6)) << Ints{} << Reals{} << QPoint(5, 6);
 }
 

@@ -401,7 +401,8 @@ private slots:
 
     void extensionsAreListedByType()
     {
-        KnownExtension loader(Extension::ImageLoader), saver(Extension::ImageSaver), bad(Extension::User2 + 1);
+        KnownExtension loader(Extension::ImageLoader), saver(Extension::ImageSaver),
+            bad(Extension::User2 + 1);
         ExtensionManager::add(&saver);
         ExtensionManager::add(&loader);
         ExtensionManager::add(&bad);

@@ -24,8 +24,8 @@ CodeNode* headOf(CodeNode* previous)
 
 bool keepsPlace(CodeNode* node, CodeNode* previous, CodeNode::Type type)
 {
-    return node && node->type() == type && node->previous() == previous
-           && node->parentCode() == static_cast<CodeNode*>(headOf(previous));
+    return node && node->type() == type && node->previous() == previous &&
+           node->parentCode() == static_cast<CodeNode*>(headOf(previous));
 }
 
 void report(CodeParserSyntax* syntax, const QString& text)
@@ -61,8 +61,8 @@ CodeNode* TestParser::parse(const QString& text, CodeNode* oldNode, CodeNode* pr
     };
     CodeNode* head = headOf(previous);
     const auto headType = head ? head->type() : CodeNode::Root;
-    if (first == QLatin1Char('[') && end >= 3 && text.at(1).isDigit()
-        && text.at(1) != QLatin1Char('0')) {
+    if (first == QLatin1Char('[') && end >= 3 && text.at(1).isDigit() &&
+        text.at(1) != QLatin1Char('0')) {
         ok(CodeParserSyntax::Header);
         return new TestGroup(previous, unsigned(text.at(1).digitValue()));
     }

@@ -159,9 +159,8 @@ void Animations::autoOrganize()
     beginChange(tr("Auto organize animations"));
     std::vector<SortKey> keys(d->list.begin(), d->list.end());
     for (auto key = keys.begin(); key != keys.end(); ++key) {
-        const auto place = std::find_if(keys.begin(), key, [key](const SortKey& other) {
-            return key->comesBefore(other);
-        });
+        const auto place = std::find_if(
+            keys.begin(), key, [key](const SortKey& other) { return key->comesBefore(other); });
         if (place != key) {
             move(unsigned(key - keys.begin()), unsigned(place - keys.begin()));
             std::rotate(place, key, key + 1);

@@ -25,9 +25,7 @@ private:
 
 }  // namespace
 
-CodeBlockData::CodeBlockData(CodeBlockDataPrivate* state) : d(state)
-{
-}
+CodeBlockData::CodeBlockData(CodeBlockDataPrivate* state) : d(state) {}
 
 CodeBlockData::~CodeBlockData() = default;
 

@@ -5,9 +5,7 @@
 
 namespace Zorv {
 
-CodeDocumentEditor::CodeDocumentEditor(CodeDocument* document) : m_document(document)
-{
-}
+CodeDocumentEditor::CodeDocumentEditor(CodeDocument* document) : m_document(document) {}
 
 Project* CodeDocumentEditor::project() const
 {
@@ -81,16 +79,10 @@ void CodeDocumentEditor::redo()
     m_document->redo();
 }
 
-void CodeDocumentEditor::insertChild(CodeNode*, unsigned)
-{
-}
+void CodeDocumentEditor::insertChild(CodeNode*, unsigned) {}
 
-void CodeDocumentEditor::removeChild(CodeNode*)
-{
-}
+void CodeDocumentEditor::removeChild(CodeNode*) {}
 
-void CodeDocumentEditor::childChanged(CodeNode*)
-{
-}
+void CodeDocumentEditor::childChanged(CodeNode*) {}
 
 }  // namespace Zorv

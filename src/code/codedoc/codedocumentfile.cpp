@@ -45,8 +45,8 @@ bool hasBareLineEnd(const QString& text)
 bool isUnmistakablyUtf8(const QByteArray& data)
 {
     const auto isBeyondAscii = [](char byte) { return (byte & 0x80) != 0; };
-    return std::any_of(data.begin(), data.end(), isBeyondAscii)
-           && TextCodecs::isFaithful(data, TextCodecs::index("UTF-8"));
+    return std::any_of(data.begin(), data.end(), isBeyondAscii) &&
+           TextCodecs::isFaithful(data, TextCodecs::index("UTF-8"));
 }
 
 /// What the watch and the document call a file.
@@ -159,8 +159,7 @@ bool CodeDocument::fromFile(Archive& archive, const QString& fileName, int codec
     d->codec = codec;
     d->byteOrderMark = TextCodecs::byteOrderMark(data).isEmpty() ? Mark::Absent : Mark::Present;
     d->hasForeignLineEnds = hasBareLineEnd(text);
-    d->isFaithful =
-        TextCodecs::isFaithful(data, codec) && withPlainLineEnds(text) == this->text();
+    d->isFaithful = TextCodecs::isFaithful(data, codec) && withPlainLineEnds(text) == this->text();
     if (!asCopy) {
         setFileName(fileName);
         setArchive(&archive);
@@ -196,8 +195,8 @@ QByteArray CodeDocument::toData() const
     using Mark = CodeDocumentPrivate::Mark;
     if (d->byteOrderMark == Mark::Absent) {
         data.remove(0, mark.size());
-    } else if (d->byteOrderMark == Mark::Present && mark.isEmpty()
-               && codecName() == QLatin1String("UTF-8")) {
+    } else if (d->byteOrderMark == Mark::Present && mark.isEmpty() &&
+               codecName() == QLatin1String("UTF-8")) {
         data.prepend("\xEF\xBB\xBF");
     }
     return data;

@@ -15,8 +15,8 @@ CodeNode::CodeNode(Type type, CodeNode* previous) : m_type(type)
     if (previous && previous->m_endBlock != 0) {
         // Only the root has no line of its own to tell the document.
         QTextDocumentPrivate* handle = previous->m_block.docHandle();
-        m_block = QTextBlock(handle ? handle : previous->document()->docHandle(),
-                             previous->m_endBlock);
+        m_block =
+            QTextBlock(handle ? handle : previous->document()->docHandle(), previous->m_endBlock);
     }
     NodeChain::link(this, previous);
 }
@@ -38,13 +38,9 @@ void CodeNode::unlink()
     NodeChain::unlink(this);
 }
 
-void CodeNode::handOver()
-{
-}
+void CodeNode::handOver() {}
 
-void CodeNode::adopt()
-{
-}
+void CodeNode::adopt() {}
 
 CodeNode* CodeNode::parent(Type type, unsigned short stopMask) const
 {

@@ -88,8 +88,8 @@ int GroupCode::lastLine() const
 {
     const CodeNode* node = this;
     while ((node = NodeChain::forward(node, CodeNode::Group | CodeNode::Animation))) {
-        if (node->type() == CodeNode::Animation || isSubGroup(this)
-            || !isSubGroup(static_cast<const GroupCode*>(node))) {
+        if (node->type() == CodeNode::Animation || isSubGroup(this) ||
+            !isSubGroup(static_cast<const GroupCode*>(node))) {
             return node->firstLine() - 1;
         }
     }

@@ -18,8 +18,8 @@ void add(NodeCounts& sum, const NodeCounts& part)
 
 bool isSame(const NodeCounts& a, const NodeCounts& b)
 {
-    return a.values == b.values && a.frames == b.frames && a.animations == b.animations
-           && a.rootChildren == b.rootChildren;
+    return a.values == b.values && a.frames == b.frames && a.animations == b.animations &&
+           a.rootChildren == b.rootChildren;
 }
 
 NodeCounts ownCounts(const CodeNode* node)

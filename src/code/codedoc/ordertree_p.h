@@ -114,10 +114,7 @@ public:
     }
 
     /// Tells the tree that what `item` itself adds to the sums has changed.
-    static void update(Item* item)
-    {
-        pullUp(item);
-    }
+    static void update(Item* item) { pullUp(item); }
 
     /// The nearest item strictly in front of (or behind) `item` for which
     /// `own` holds; `below` tells of a subtree whether it has such an item.
@@ -200,10 +197,7 @@ private:
         return steps;
     }
 
-    static int sideOf(Item* item)
-    {
-        return Traits::left(Traits::up(item)) == item ? -1 : 1;
-    }
+    static int sideOf(Item* item) { return Traits::left(Traits::up(item)) == item ? -1 : 1; }
 
     static void pullUp(Item* item)
     {

@@ -19,9 +19,7 @@ void ParentCode::removeChild(CodeNode* child)
     NodeChain::parentChanged(child);
 }
 
-void ParentCode::childChanged(CodeNode*)
-{
-}
+void ParentCode::childChanged(CodeNode*) {}
 
 bool ParentCode::groupEnabled(unsigned) const
 {
@@ -32,8 +30,7 @@ void ParentCode::insertRootChild(CodeNode* child)
 {
     CodeNode* head = NodeChain::head(child);
     if (head != child && head->type() == CodeNode::Root) {
-        static_cast<ParentCode*>(head)->insertChild(child,
-                                                    NodeChain::before(child).rootChildren);
+        static_cast<ParentCode*>(head)->insertChild(child, NodeChain::before(child).rootChildren);
     }
 }
 

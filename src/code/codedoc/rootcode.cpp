@@ -6,9 +6,7 @@
 
 namespace Zorv {
 
-RootCode::RootCode(short tag) : ParentCode(CodeNode::Root, nullptr), m_tag(tag)
-{
-}
+RootCode::RootCode(short tag) : ParentCode(CodeNode::Root, nullptr), m_tag(tag) {}
 
 RootCode::~RootCode()
 {
