@@ -68,10 +68,11 @@ QString FamilyAnimations::animationTemplate() const
 
 /// The last animation reaches to the end of the text. Without a line end there
 /// the library would cut its last character, or join it with what comes behind.
-void FamilyAnimations::ensureFinalLineEnd()
+void FamilyAnimations::ensureLineEndBehind(unsigned index)
 {
     Zorv::CodeDocument* text = document();
-    if (text->lastBlock().length() > 1) {
+    const Zorv::AnimationCode* moved = at(index);
+    if (moved && moved->lastLine() >= text->blockCount() && text->lastBlock().length() > 1) {
         text->insert(QStringLiteral("\n"));
     }
 }
@@ -82,7 +83,7 @@ bool FamilyAnimations::duplicateAnimation(int index, const QString& identifier)
         return false;
     }
     const Change change(this, tr("Duplicate animation"));
-    ensureFinalLineEnd();
+    ensureLineEndBehind(unsigned(index));
     const AnimationNode* source = animation(index);
     const QString text = renamed(source, identifier);
     QTextCursor cursor = source->selectAll();
@@ -100,7 +101,7 @@ void FamilyAnimations::remove(unsigned index)
 void FamilyAnimations::move(unsigned from, unsigned to)
 {
     const Change change(this, tr("Move animation"));
-    ensureFinalLineEnd();
+    ensureLineEndBehind(from);
     Animations::move(from, to);
 }
 

@@ -40,7 +40,7 @@ public:
     void release() override;
 
 private:
-    void ensureFinalLineEnd();
+    void ensureLineEndBehind(unsigned index);
 };
 
 /// Moves an animation so that it stands at `to` afterwards, also at the end.

@@ -61,8 +61,7 @@ int FamilyDocument::blockFolding(const QString& line) const
     }
     const QStringRef word = scanner.word();
     scanner.skipBlanks();
-    const bool isHead =
-        word == QLatin1String("animation") && scanner.current() != QLatin1Char('=');
+    const bool isHead = word == QLatin1String("animation") && scanner.current() != QLatin1Char('=');
     return isHead ? headLine | outermost : bodyLine;
 }
 

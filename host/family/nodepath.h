@@ -22,8 +22,8 @@ QHash<const Zorv::CodeNode*, QString> nodePaths(const FamilyDocument* document);
 /// The node that a path names. A path to a part of a node ("…/offset", "…/name")
 /// gives the node, and the part in `part`. Null for a path that names nothing;
 /// `error` then takes what was expected, with near names.
-Zorv::CodeNode* nodeAt(const FamilyDocument* document, const QString& path,
-                       QString* part = nullptr, QString* error = nullptr);
+Zorv::CodeNode* nodeAt(const FamilyDocument* document, const QString& path, QString* part = nullptr,
+                       QString* error = nullptr);
 
 /// The value that a path names, as the code has it but without quotes and
 /// escapes. A null string, and `error`, for a path without a value.

@@ -28,8 +28,9 @@ QString readName(LineScanner& scanner)
 {
     const int start = scanner.position();
     if (start < scanner.size() && scanner.current() == QLatin1Char('"')) {
-        return scanner.text() ? unquoted(scanner.part(start, scanner.position())) + QLatin1String("")
-                              : QString();
+        return scanner.text()
+                   ? unquoted(scanner.part(start, scanner.position())) + QLatin1String("")
+                   : QString();
     }
     const QStringRef word = scanner.word();
     return word.isEmpty() ? QString() : word.toString();

@@ -1,14 +1,12 @@
 #include "familyanimations.h"
 #include "familydocument.h"
 #include "grammar/grammar.h"
-#include "grammar/linescanner.h"
 #include "nodepath.h"
 #include "nodes/animationnode.h"
 #include "nodes/boxnode.h"
 #include "nodes/frameedit.h"
 #include "nodes/framenode.h"
 #include "nodes/groupnode.h"
-#include "nodes/lineedit.h"
 #include "nodes/valuenode.h"
 #include "nodes/valuetext.h"
 
@@ -20,10 +18,12 @@ using Zorv::CodeNode;
 
 namespace {
 
-constexpr KeyInfo boxKey{QLatin1String(), Form::Quad, 0, -32768, 32767, QLatin1String(),
+constexpr KeyInfo boxKey{QLatin1String(), Form::Quad,      0,
+                         -32768,          32767,           QLatin1String(),
                          QLatin1String(), QLatin1String(), QLatin1String()};
-constexpr KeyInfo spriteKey{QLatin1String(), Form::Pair, 0, 0, 65535, QLatin1String(),
-                            QLatin1String(), QLatin1String(), QLatin1String()};
+constexpr KeyInfo spriteKey{
+    QLatin1String(), Form::Pair,     0, 0, 65535, QLatin1String(), QLatin1String(),
+    QLatin1String(), QLatin1String()};
 
 QString tr(const char* text)
 {
@@ -60,8 +60,7 @@ QString read(const Target& target)
                                 : optionText(optionIndex(target.part), frame->data());
     }
     if (const auto* animation = dynamic_cast<AnimationNode*>(target.node)) {
-        return target.part == QLatin1String("name") ? animation->name()
-                                                    : animation->identifier();
+        return target.part == QLatin1String("name") ? animation->name() : animation->identifier();
     }
     return static_cast<GroupNode*>(target.node)->name();
 }
@@ -83,8 +82,7 @@ bool writeFrame(FrameNode* frame, const Target& target, const QString& text, QSt
     if (isSprite(target)) {
         const QVariant value = valueFromText(spriteKey, text, error);
         const QVariantList numbers = value.toList();
-        return value.isValid()
-               && writeSprite(frame, numbers.at(0).toInt(), numbers.at(1).toInt());
+        return value.isValid() && writeSprite(frame, numbers.at(0).toInt(), numbers.at(1).toInt());
     }
     FrameData data = frame->data();
     const int option = optionIndex(target.part);
@@ -118,8 +116,7 @@ bool writeName(const Target& target, const QString& text, QString* error)
 }
 
 /// The target of a path that has a value.
-bool findTarget(const FamilyDocument* document, const QString& path, Target* target,
-                QString* error)
+bool findTarget(const FamilyDocument* document, const QString& path, Target* target, QString* error)
 {
     target->node = nodeAt(document, path, &target->part, error);
     if (!target->node) {
@@ -139,11 +136,9 @@ bool findTarget(const FamilyDocument* document, const QString& path, Target* tar
         break;
     default: {
         const auto* group = static_cast<GroupNode*>(target->node);
-        const auto* first = group->childCount() > 0
-                                ? dynamic_cast<ValueNode*>(group->childAt(0))
-                                : nullptr;
-        *error = error->arg(QLatin1Char('.')
-                            + (first ? first->name() : QStringLiteral("key")));
+        const auto* first =
+            group->childCount() > 0 ? dynamic_cast<ValueNode*>(group->childAt(0)) : nullptr;
+        *error = error->arg(QLatin1Char('.') + (first ? first->name() : QStringLiteral("key")));
     }
     }
     return false;

@@ -20,8 +20,9 @@ namespace FamilyDump {
 
 inline QString nodeText(const Zorv::CodeNode* node)
 {
-    return QStringLiteral("%1 %2 @%3").arg(Family::nodeKind(node), Family::nodeLabel(node)).arg(
-        node->block().blockNumber());
+    return QStringLiteral("%1 %2 @%3")
+        .arg(Family::nodeKind(node), Family::nodeLabel(node))
+        .arg(node->block().blockNumber());
 }
 
 inline void addTree(const Zorv::CodeNode* node, const QString& indent, QStringList* lines)
@@ -73,8 +74,8 @@ inline void addChain(const Family::FamilyDocument* document, QStringList* lines)
     const QHash<const Zorv::CodeNode*, QString> paths = Family::nodePaths(document);
     const Zorv::CodeNode* previous = document;
     for (const Zorv::CodeNode* node = document->next(); node; node = node->next()) {
-        lines->append(QStringLiteral("chain ") + nodeText(node) + QLatin1Char(' ')
-                      + paths.value(node));
+        lines->append(QStringLiteral("chain ") + nodeText(node) + QLatin1Char(' ') +
+                      paths.value(node));
         if (node->previous() != previous || document->nodeInBlock(node->block()) != node) {
             lines->append(QStringLiteral("a broken link"));
         }

@@ -1,7 +1,6 @@
 #include "familydump.h"
 
 #include "code/codedoc/codeblockdata.h"
-#include "nodes/frameboxes.h"
 
 #include <QDir>
 #include <QTextCursor>
@@ -79,8 +78,7 @@ void TestFamilyNodes::setValue_data()
     const char* const constants = "[constants]";
     row(constants, "life = 1000", "constants.life", "900", "life = 900");
     row(constants, "\tlife=1000# full", "constants/life", "900", "\tlife=900# full");
-    row(constants, "life  =  1000    # a # b", "constants.life", "900",
-        "life  =  900    # a # b");
+    row(constants, "life  =  1000    # a # b", "constants.life", "900", "life  =  900    # a # b");
     keeps(constants, " life = 01000   # odd", "constants.life", "1000");
     row(constants, "lifebar = 5 # old name", "constants.life", "6", "lifebar = 6 # old name");
     row(constants, "power =# none yet", "constants.power", "5", "power = 5# none yet");
@@ -241,21 +239,36 @@ void TestFamilyNodes::clearErrorsOfPaths_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("hint");
-    QTest::newRow("near key") << "constants.lief" << "'life'";
-    QTest::newRow("near group") << "constant.life" << "'constants'";
-    QTest::newRow("near sub-group") << "constants.wlak.back" << "'walk'";
-    QTest::newRow("near animation") << "animation:20" << "'animation:200'";
-    QTest::newRow("frame too far") << "animation:200/frame:9" << "1 frame(s)";
-    QTest::newRow("frame below zero") << "animation:200/frame:-1" << "character";
-    QTest::newRow("box too far") << "animation:200/frame:0/body:0" << "0 of them";
-    QTest::newRow("near option") << "animation:200/frame:0/dely" << "'delay'";
-    QTest::newRow("second of one") << "constants.life#2" << "'life'";
-    QTest::newRow("below a value") << "constants.life.x" << "'x'";
-    QTest::newRow("below an option") << "animation:200/frame:0/delay/x" << "no parts";
-    QTest::newRow("empty") << "" << "Expected names";
-    QTest::newRow("two points") << "constants..life" << "character 11";
-    QTest::newRow("no number") << "constants#x.life" << "character";
-    QTest::newRow("open quote") << "move:\"a.b" << "character";
+    QTest::newRow("near key") << "constants.lief"
+                              << "'life'";
+    QTest::newRow("near group") << "constant.life"
+                                << "'constants'";
+    QTest::newRow("near sub-group") << "constants.wlak.back"
+                                    << "'walk'";
+    QTest::newRow("near animation") << "animation:20"
+                                    << "'animation:200'";
+    QTest::newRow("frame too far") << "animation:200/frame:9"
+                                   << "1 frame(s)";
+    QTest::newRow("frame below zero") << "animation:200/frame:-1"
+                                      << "character";
+    QTest::newRow("box too far") << "animation:200/frame:0/body:0"
+                                 << "0 of them";
+    QTest::newRow("near option") << "animation:200/frame:0/dely"
+                                 << "'delay'";
+    QTest::newRow("second of one") << "constants.life#2"
+                                   << "'life'";
+    QTest::newRow("below a value") << "constants.life.x"
+                                   << "'x'";
+    QTest::newRow("below an option") << "animation:200/frame:0/delay/x"
+                                     << "no parts";
+    QTest::newRow("empty") << ""
+                           << "Expected names";
+    QTest::newRow("two points") << "constants..life"
+                                << "character 11";
+    QTest::newRow("no number") << "constants#x.life"
+                               << "character";
+    QTest::newRow("open quote") << "move:\"a.b"
+                                << "character";
 }
 
 void TestFamilyNodes::clearErrorsOfPaths()
@@ -322,11 +335,11 @@ void TestFamilyNodes::everyPathLeadsBack()
 void TestFamilyNodes::pathsOfTwins()
 {
     FamilyDocument document(FileKind::Character);
-    document.fromString(QStringLiteral("[files]\ncode = \"a\"\ncode = \"b\"\n[constants]\nlife = 1\n"
-                                       "[constants]\nlife = 2\nanimation 1\nanimation 1\nframe 3,0"));
+    document.fromString(
+        QStringLiteral("[files]\ncode = \"a\"\ncode = \"b\"\n[constants]\nlife = 1\n"
+                       "[constants]\nlife = 2\nanimation 1\nanimation 1\nframe 3,0"));
     QCOMPARE(getValue(&document, QStringLiteral("files.code#2"), nullptr), QStringLiteral("b"));
-    QCOMPARE(getValue(&document, QStringLiteral("constants#2.life"), nullptr),
-             QStringLiteral("2"));
+    QCOMPARE(getValue(&document, QStringLiteral("constants#2.life"), nullptr), QStringLiteral("2"));
     QCOMPARE(getValue(&document, QStringLiteral("animation:1#2/frame:0/sprite"), nullptr),
              QStringLiteral("3,0"));
 }
@@ -359,8 +372,9 @@ void TestFamilyNodes::frameProperties()
 void TestFamilyNodes::boxesOfFrame()
 {
     FamilyDocument document(FileKind::Animations);
-    document.fromString(QStringLiteral("animation 1\nbody 1,2,3,4\n\n# c\nattack -5,-6, 7,8\nframe 0,0\n"
-                                       "frame 1,1\nbody 9,9,9,9"));
+    document.fromString(
+        QStringLiteral("animation 1\nbody 1,2,3,4\n\n# c\nattack -5,-6, 7,8\nframe 0,0\n"
+                       "frame 1,1\nbody 9,9,9,9"));
     const FrameNode* frame = frameAt(document, 5);
     QCOMPARE(frame->contactBoxes(ContactBoxCode::Attack)->count(), 1);
     QCOMPARE(frame->contactBoxes(ContactBoxCode::Collision)->count(), 1);
@@ -386,8 +400,7 @@ void TestFamilyNodes::boxEditsReachTheFrame()
     };
     bodies()->at(0)->setRect(QRect(QPoint(1, 2), QPoint(30, 4)));
     QCOMPARE(bodies()->at(0)->rect(), QRect(QPoint(1, 2), QPoint(30, 4)));
-    QCOMPARE(document.text(),
-             QStringLiteral("animation 1\n  body 1,2,30,4 # torso\n  frame 0,0"));
+    QCOMPARE(document.text(), QStringLiteral("animation 1\n  body 1,2,30,4 # torso\n  frame 0,0"));
 
     const ContactBoxCode* added = bodies()->add(QRect(QPoint(5, 6), QPoint(7, 8)));
     QVERIFY(added);
@@ -441,15 +454,46 @@ void TestFamilyNodes::namesOfGroups_data()
     QTest::addColumn<QString>("displayName");
     QTest::addColumn<QString>("newName");
     QTest::addColumn<QString>("after");
-    QTest::newRow("plain") << "[info] # c" << "info" << "info" << "files" << "[files] # c";
-    QTest::newRow("old name") << "[data]" << "constants" << "constants" << "files" << "[files]";
-    QTest::newRow("argument") << "[ move  a ]" << "a" << "move a" << "b" << "[ move  b ]";
-    QTest::newRow("no argument") << "[move]" << "" << "move " << "b" << "[move b]";
-    QTest::newRow("quotes") << "[move \"a b\"] # #" << "a b" << "move a b" << "c\"d"
+    QTest::newRow("plain") << "[info] # c"
+                           << "info"
+                           << "info"
+                           << "files"
+                           << "[files] # c";
+    QTest::newRow("old name") << "[data]"
+                              << "constants"
+                              << "constants"
+                              << "files"
+                              << "[files]";
+    QTest::newRow("argument") << "[ move  a ]"
+                              << "a"
+                              << "move a"
+                              << "b"
+                              << "[ move  b ]";
+    QTest::newRow("no argument") << "[move]"
+                                 << ""
+                                 << "move "
+                                 << "b"
+                                 << "[move b]";
+    QTest::newRow("quotes") << "[move \"a b\"] # #"
+                            << "a b"
+                            << "move a b"
+                            << "c\"d"
                             << "[move \"c\\\"d\"] # #";
-    QTest::newRow("unknown") << "[what]" << "what" << "what" << "info" << "[info]";
-    QTest::newRow("alone") << "[.walk]" << "walk" << ".walk" << "run" << "[.run]";
-    QTest::newRow("not a word") << "[info]" << "info" << "info" << "a b" << "[info]";
+    QTest::newRow("unknown") << "[what]"
+                             << "what"
+                             << "what"
+                             << "info"
+                             << "[info]";
+    QTest::newRow("alone") << "[.walk]"
+                           << "walk"
+                           << ".walk"
+                           << "run"
+                           << "[.run]";
+    QTest::newRow("not a word") << "[info]"
+                                << "info"
+                                << "info"
+                                << "a b"
+                                << "[info]";
 }
 
 void TestFamilyNodes::namesOfGroups()

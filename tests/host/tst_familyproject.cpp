@@ -137,9 +137,9 @@ void TestFamilyProject::fileInfosFollowTheText()
     FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
     QList<Zorv::Project::FileInfo> infos;
     project->fileInfos(infos);
-    const QStringList expected = {QStringLiteral("16:gone.commands"), QStringLiteral("2:hero.sprites"),
-                                  QStringLiteral("32:moves.code"), QStringLiteral("64:a.act"),
-                                  QStringLiteral("8:hero.anim")};
+    const QStringList expected = {QStringLiteral("16:gone.commands"),
+                                  QStringLiteral("2:hero.sprites"), QStringLiteral("32:moves.code"),
+                                  QStringLiteral("64:a.act"), QStringLiteral("8:hero.anim")};
     QCOMPARE(pathsOf(infos), expected);
     QVERIFY(setValue(project->mainDocument(), QStringLiteral("files.sprites"),
                      QStringLiteral("other.sprites"), nullptr));
@@ -202,7 +202,8 @@ void TestFamilyProject::mainFilesAndTree()
     QCOMPARE(FamilyParentProject::mainFiles(game.path("")),
              QStringList({game.hero("hero.character"), game.path("stages/harbour/harbour.stage")}));
     FamilyParentProject parent(game.path(""));
-    QAbstractItemModelTester tester(&parent, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QAbstractItemModelTester tester(&parent,
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
     QStringList projects;
     parent.listProjects(projects);
     projects.sort();
@@ -225,13 +226,12 @@ void TestFamilyProject::projectFiles()
     parent.projectFiles(QStringLiteral("characters/hero/"), files);
     files.sort();
     const QString folder = QStringLiteral("characters/hero/");
-    QCOMPARE(files, QStringList({folder + QLatin1String("a.act"),
-                                 folder + QLatin1String("gone.commands"),
-                                 folder + QLatin1String("hero.anim"),
-                                 folder + QLatin1String("hero.character"),
-                                 folder + QLatin1String("hero.sprites"),
-                                 folder + QLatin1String("moves.code"),
-                                 QStringLiteral("shared/common.code")}));
+    QCOMPARE(
+        files,
+        QStringList({folder + QLatin1String("a.act"), folder + QLatin1String("gone.commands"),
+                     folder + QLatin1String("hero.anim"), folder + QLatin1String("hero.character"),
+                     folder + QLatin1String("hero.sprites"), folder + QLatin1String("moves.code"),
+                     QStringLiteral("shared/common.code")}));
 }
 
 void TestFamilyProject::pathFaults_data()

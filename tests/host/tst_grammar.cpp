@@ -34,7 +34,7 @@ QString readDocs()
 {
     QFile file(QStringLiteral(ZORV_DOCS "/grammar.md"));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) + QLatin1Char('\n')
-                                           : QString();
+                                          : QString();
 }
 
 QString randomLine(QRandomGenerator& random)
@@ -202,11 +202,11 @@ void TestGrammar::everyProblemIsInTheDocs()
     QVERIFY(!docs.isEmpty());
     for (int i = 0; i < ProblemCount; ++i) {
         const ProblemInfo& info = problemInfo(ProblemId(i));
-        QString entry = QStringLiteral("**`%1`** (%2): ")
-                            .arg(QLatin1String(info.name), levelName(info.level));
+        QString entry =
+            QStringLiteral("**`%1`** (%2): ").arg(QLatin1String(info.name), levelName(info.level));
         entry += QLatin1String(info.text) + QLatin1String("\n\n");
-        const QStringList example = QString::fromUtf8(info.example)
-                                        .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        const QStringList example =
+            QString::fromUtf8(info.example).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         for (const QString& line : example) {
             entry += QLatin1String("    ") + line + QLatin1Char('\n');
         }
@@ -218,7 +218,7 @@ void TestGrammar::everyKeyIsInTheDocs()
 {
     const QString docs = readDocs();
     for (const GroupInfo* group : Grammar::groups()) {
-        const QString head = group->isSubGroup() ? QStringLiteral("`[.%1]`")
+        const QString head = group->isSubGroup()      ? QStringLiteral("`[.%1]`")
                              : group->takesArgument() ? QStringLiteral("`[%1 NAME]`")
                                                       : QStringLiteral("`[%1]`");
         QVERIFY2(docs.contains(head.arg(group->name)), group->name.data());
@@ -337,8 +337,8 @@ void TestGrammar::columnsLieInTheLine()
         LineReport report(nullptr, &details);
         readLine(line, head, FileKind(random.bounded(5)), report);
         for (const LineProblem& problem : qAsConst(details.problems)) {
-            const bool inside = problem.start >= 0 && problem.start <= problem.end
-                                && problem.end <= line.size() && !problem.text.isEmpty();
+            const bool inside = problem.start >= 0 && problem.start <= problem.end &&
+                                problem.end <= line.size() && !problem.text.isEmpty();
             QVERIFY2(inside, qPrintable(line + QLatin1String(" | ") + problem.text));
         }
         for (const LinePart& part : qAsConst(details.parts)) {
@@ -353,10 +353,14 @@ void TestGrammar::nearNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("near");
-    QTest::newRow("swapped letters") << "poewr" << "power";
-    QTest::newRow("letter too many") << "lifes" << "life";
-    QTest::newRow("upper case") << "Life" << "life";
-    QTest::newRow("nothing near") << "zzzzzz" << "";
+    QTest::newRow("swapped letters") << "poewr"
+                                     << "power";
+    QTest::newRow("letter too many") << "lifes"
+                                     << "life";
+    QTest::newRow("upper case") << "Life"
+                                << "life";
+    QTest::newRow("nothing near") << "zzzzzz"
+                                  << "";
     QTest::newRow("far too long") << QString(5000, QLatin1Char('l')) << "";
 }
 

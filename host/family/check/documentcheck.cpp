@@ -13,8 +13,13 @@ DocumentCheck::DocumentCheck(const FamilyDocument* document, const QString& file
 
 Problem problemAt(ProblemId id, const QStringList& arguments, const NamedPlace& place)
 {
-    return {place.file,   place.line, place.column, place.length, problemInfo(id).level,
-            id,           problemText(id, arguments)};
+    return {place.file,
+            place.line,
+            place.column,
+            place.length,
+            problemInfo(id).level,
+            id,
+            problemText(id, arguments)};
 }
 
 void DocumentCheck::tell(ProblemId id, const QStringList& arguments, const NamedPlace& place)
@@ -161,8 +166,8 @@ void DocumentCheck::seeFrame(const FrameData& frame, const LineDetails& details)
         tell(ProblemId::FrameNeverShown, {QString::number(m_animation.endlessLine)}, place);
     }
     if (frame.loop && m_animation.loopLine > 0) {
-        tell(ProblemId::LoopTwice,
-             {m_animation.place.name, QString::number(m_animation.loopLine)}, place);
+        tell(ProblemId::LoopTwice, {m_animation.place.name, QString::number(m_animation.loopLine)},
+             place);
     } else if (frame.loop) {
         m_animation.loopLine = m_line;
     }
@@ -180,8 +185,8 @@ void DocumentCheck::closeAnimation()
         tell(ProblemId::BoxesWithoutFrame, {}, box);
     }
     // What a faulty line was meant to say about the end is not known.
-    const bool ends = m_animation.loopLine > 0 || m_animation.endlessLine > 0
-                      || m_animation.hasFaultyFrame;
+    const bool ends =
+        m_animation.loopLine > 0 || m_animation.endlessLine > 0 || m_animation.hasFaultyFrame;
     if (m_animation.frames == 0) {
         tell(ProblemId::AnimationEmpty, {m_animation.place.name}, m_animation.place);
     } else if (!ends) {

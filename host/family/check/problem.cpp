@@ -19,19 +19,16 @@ void sortProblems(Problems* problems)
 {
     std::sort(problems->begin(), problems->end(),
               [](const Problem& a, const Problem& b) { return sortKey(a) < sortKey(b); });
-    const auto end = std::unique(
-        problems->begin(), problems->end(),
-        [](const Problem& a, const Problem& b) { return sortKey(a) == sortKey(b); });
+    const auto end =
+        std::unique(problems->begin(), problems->end(),
+                    [](const Problem& a, const Problem& b) { return sortKey(a) == sortKey(b); });
     problems->erase(end, problems->end());
 }
 
 QString problemLine(const Problem& problem)
 {
-    return QStringLiteral("%1:%2:%3: ")
-               .arg(problem.file)
-               .arg(problem.line)
-               .arg(problem.column)
-           + levelName(problem.level) + QLatin1String(": ") + problem.text;
+    return QStringLiteral("%1:%2:%3: ").arg(problem.file).arg(problem.line).arg(problem.column) +
+           levelName(problem.level) + QLatin1String(": ") + problem.text;
 }
 
 }  // namespace Family

@@ -14,9 +14,7 @@
 
 namespace Family {
 
-ProjectCheck::ProjectCheck(const FamilyProject* project) : m_project(project)
-{
-}
+ProjectCheck::ProjectCheck(const FamilyProject* project) : m_project(project) {}
 
 QString ProjectCheck::shownName(const FamilyDocument* document) const
 {
@@ -56,8 +54,8 @@ void ProjectCheck::checkFiles(const FamilyDocument* document)
         const bool listed = reference.type != ResourceFile;
         int& first = named[QDir::cleanPath(reference.path)];
         if (listed && first > 0) {
-            m_problems.append(problemAt(ProblemId::FileTwice,
-                                        {reference.path, QString::number(first)}, place));
+            m_problems.append(
+                problemAt(ProblemId::FileTwice, {reference.path, QString::number(first)}, place));
             continue;
         }
         first = listed ? place.line : 0;
@@ -69,8 +67,7 @@ void ProjectCheck::checkFiles(const FamilyDocument* document)
 
 bool ProjectCheck::checkFile(const NamedPlace& place, const QString& mainFile)
 {
-    const PathFault fault =
-        pathFault(m_project->parent()->absolutePath(), mainFile, place.name);
+    const PathFault fault = pathFault(m_project->parent()->absolutePath(), mainFile, place.name);
     if (fault == PathFault::LeavesGame) {
         m_problems.append(problemAt(ProblemId::FileOutside, {place.name}, place));
         return false;

@@ -172,8 +172,7 @@ bool FrameReader::readContent(int index, FrameData* frame)
     case DelayOption:
         frame->delay = int(wholes[0]);
         if (frame->delay == 0 && m_report.wantsProblems()) {
-            m_report.problem(ProblemId::DelayZero, {}, start, m_scanner.position(),
-                             Syntax::Number);
+            m_report.problem(ProblemId::DelayZero, {}, start, m_scanner.position(), Syntax::Number);
         }
         break;
     case FlipOption:

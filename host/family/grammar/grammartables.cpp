@@ -26,8 +26,8 @@ constexpr KeyInfo key(const char* name, Form form, double minimum, double maximu
 constexpr KeyInfo choice(const char* name, const char* choices, const char* description,
                          const char* oldChoices = "")
 {
-    return {L(name), Form::Choice, KeyInfo::NoFlags, 0, 0, L(choices), L(oldChoices), L(),
-            L(description)};
+    return {L(name),       Form::Choice, KeyInfo::NoFlags, 0, 0, L(choices),
+            L(oldChoices), L(),          L(description)};
 }
 
 constexpr KeyInfo old(const char* name, const char* replacement)
@@ -249,14 +249,21 @@ template <int Count>
 GroupInfo sub(unsigned number, unsigned parent, const char* name, const KeyInfo (&keys)[Count],
               const char* description)
 {
-    return {number, parent, L(name), GroupInfo::SubGroup, everywhere, keys, Count, L(),
-            L(description)};
+    return {number, parent, L(name), GroupInfo::SubGroup, everywhere,
+            keys,   Count,  L(),     L(description)};
 }
 
 GroupInfo unknown(unsigned number, unsigned parent, int flags)
 {
-    return {number, parent, L(), flags | GroupInfo::Unknown | GroupInfo::FreeKeys, everywhere,
-            anyKeys, 1, L(), L("An unknown group")};
+    return {number,
+            parent,
+            L(),
+            flags | GroupInfo::Unknown | GroupInfo::FreeKeys,
+            everywhere,
+            anyKeys,
+            1,
+            L(),
+            L("An unknown group")};
 }
 
 constexpr int none = GroupInfo::NoFlags;

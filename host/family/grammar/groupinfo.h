@@ -10,11 +10,11 @@ struct GroupInfo
 {
     enum Flag { NoFlags = 0, TakesArgument = 1, FreeKeys = 2, Unknown = 4, SubGroup = 8 };
 
-    unsigned number;            ///< of the nodes, above 0; two rows with one number are one kind
-    unsigned parent;            ///< number of the group that a sub-group belongs to, else 0
-    QLatin1String name;         ///< without brackets, dot and argument
-    int flags;                  ///< of `Flag`
-    int files;                  ///< bit `1 << FileKind` for each kind of file in which it counts
+    unsigned number;     ///< of the nodes, above 0; two rows with one number are one kind
+    unsigned parent;     ///< number of the group that a sub-group belongs to, else 0
+    QLatin1String name;  ///< without brackets, dot and argument
+    int flags;           ///< of `Flag`
+    int files;           ///< bit `1 << FileKind` for each kind of file in which it counts
     const KeyInfo* keys;
     int keyCount;
     QLatin1String replacement;  ///< the new name of an old group, else empty

@@ -38,10 +38,10 @@ struct KeyInfo
     /// `Free` marks the row that stands for every key.
     enum Flag { NoFlags = 0, Required = 1, Repeatable = 2, Free = 4 };
 
-    QLatin1String name;         ///< empty in a row that is `Free`
+    QLatin1String name;  ///< empty in a row that is `Free`
     Form form;
-    int flags;                  ///< of `Flag`
-    double minimum;             ///< of each number; no range if not below `maximum`
+    int flags;       ///< of `Flag`
+    double minimum;  ///< of each number; no range if not below `maximum`
     double maximum;
     QLatin1String choices;      ///< the words with '|' between
     QLatin1String oldChoices;   ///< as in "true=yes|false=no"

@@ -173,8 +173,8 @@ QStringList Reader::groupNames(unsigned parent) const
 {
     QStringList names;
     for (const GroupInfo* row : Grammar::groups()) {
-        if (row->parent == parent && !row->isDeprecated()
-            && (parent != 0 || row->belongsIn(m_file))) {
+        if (row->parent == parent && !row->isDeprecated() &&
+            (parent != 0 || row->belongsIn(m_file))) {
             names += row->name;
         }
     }
@@ -236,8 +236,8 @@ bool Reader::readArgument()
     if (!group->takesArgument() && !group->isUnknown()) {
         m_line.argument.clear();
         if (wanted()) {
-            problem(ProblemId::ArgumentExtra,
-                    {group->name, m_scanner.part(start, end).toString()}, start, end);
+            problem(ProblemId::ArgumentExtra, {group->name, m_scanner.part(start, end).toString()},
+                    start, end);
         }
     }
     return true;
@@ -302,8 +302,8 @@ const KeyInfo* Reader::keyRow(const QStringRef& word, int start)
                 }
             }
             const QString name = word.toString();
-            problem(ProblemId::KeyUnknown, {m_head.group->name, name, nameHint(name, names)},
-                    start, end);
+            problem(ProblemId::KeyUnknown, {m_head.group->name, name, nameHint(name, names)}, start,
+                    end);
         }
         return Grammar::unknownKey();
     }

@@ -56,7 +56,14 @@ struct FrameOption
 };
 
 /// The options in the order of `Grammar::frameOptions()`.
-enum FrameOptionIndex { OffsetOption, DelayOption, FlipOption, ScaleOption, AngleOption, LoopOption };
+enum FrameOptionIndex {
+    OffsetOption,
+    DelayOption,
+    FlipOption,
+    ScaleOption,
+    AngleOption,
+    LoopOption
+};
 constexpr int FrameOptionCount = LoopOption + 1;
 const FrameOption& frameOption(int index);
 

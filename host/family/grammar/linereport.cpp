@@ -16,8 +16,8 @@ QVector<LinePart> LineDetails::elements(const LinePart* whole) const
 {
     QVector<LinePart> result;
     for (const LinePart& candidate : parts) {
-        if (candidate.role == LinePart::Element
-            && (!whole || (candidate.start >= whole->start && candidate.end <= whole->end))) {
+        if (candidate.role == LinePart::Element &&
+            (!whole || (candidate.start >= whole->start && candidate.end <= whole->end))) {
             result.append(candidate);
         }
     }

@@ -20,7 +20,7 @@ struct LineProblem
 struct LinePart
 {
     enum Role {
-        Keyword,   ///< "animation", "frame", "attack", "body"
+        Keyword,  ///< "animation", "frame", "attack", "body"
         Key,
         Value,     ///< the whole of a value; `index` is `Unread` if it means nothing
         Element,   ///< one part of a value
@@ -28,7 +28,8 @@ struct LinePart
         Argument,  ///< of a group, or the identifier of an animation
         Text,      ///< display name of an animation, with its quotes
         Sprite,    ///< the two numbers of a frame
-        Option,    ///< an option of a frame with its numbers; `index` is that of `Grammar::frameOptions()`
+        Option,    ///< an option of a frame with its numbers; `index` is that of
+                   ///< `Grammar::frameOptions()`
         Comment
     };
 

@@ -30,8 +30,8 @@ QStringRef LineScanner::word()
 QStringRef LineScanner::chunk()
 {
     const int start = m_position;
-    while (!atCodeEnd() && !isBlank(m_data[m_position]) && m_data[m_position] != QLatin1Char(',')
-           && m_data[m_position] != QLatin1Char(']')) {
+    while (!atCodeEnd() && !isBlank(m_data[m_position]) && m_data[m_position] != QLatin1Char(',') &&
+           m_data[m_position] != QLatin1Char(']')) {
         ++m_position;
     }
     return part(start, m_position);

@@ -59,8 +59,8 @@ private:
 inline bool isBlank(QChar character)
 {
     const ushort code = character.unicode();
-    return code == ' ' || code == '\t' || (code > 127 && character.isSpace())
-           || (code >= 10 && code <= 13);
+    return code == ' ' || code == '\t' || (code > 127 && character.isSpace()) ||
+           (code >= 10 && code <= 13);
 }
 
 /// True for a character of a word; `first` if it is to stand at its start.
@@ -68,8 +68,8 @@ inline bool isWordCharacter(QChar character, bool first)
 {
     const ushort code = character.unicode();
     if (code < 128) {
-        return (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z')
-               || (code >= '0' && code <= '9') || code == '_' || (code == '-' && !first);
+        return (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z') ||
+               (code >= '0' && code <= '9') || code == '_' || (code == '-' && !first);
     }
     return character.isLetterOrNumber() || (!first && character.isMark());
 }

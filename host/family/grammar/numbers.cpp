@@ -91,8 +91,8 @@ bool toReal(const QStringRef& text, double* value)
     }
     for (const QChar character : text) {
         const ushort code = character.unicode();
-        const bool known = (code >= '0' && code <= '9') || code == '.' || code == '-'
-                           || code == '+' || code == 'e' || code == 'E';
+        const bool known = (code >= '0' && code <= '9') || code == '.' || code == '-' ||
+                           code == '+' || code == 'e' || code == 'E';
         if (!known) {
             return false;
         }
@@ -104,8 +104,8 @@ bool toReal(const QStringRef& text, double* value)
 
 bool toHex(const QStringRef& text, quint32* value)
 {
-    if (text.size() < 3 || text.size() > 10 || text.at(0) != QLatin1Char('0')
-        || text.at(1).toLower() != QLatin1Char('x')) {
+    if (text.size() < 3 || text.size() > 10 || text.at(0) != QLatin1Char('0') ||
+        text.at(1).toLower() != QLatin1Char('x')) {
         return false;
     }
     quint32 result = 0;

@@ -81,7 +81,7 @@ constexpr ProblemId FirstFileProblem = ProblemId::GroupTwice;
 struct ProblemInfo
 {
     ProblemId id;
-    const char* name;     ///< "key-unknown": stable, for `--json` and scripts
+    const char* name;  ///< "key-unknown": stable, for `--json` and scripts
     Level level;
     const char* text;     ///< with "%1" and so on for parts of the line
     const char* example;  ///< the lines of a file with the problem, and no other one

@@ -86,12 +86,14 @@ bool ValueReader::fail(ProblemId id, const QStringRef& found)
     return false;
 }
 
-template <> bool ValueReader::readNumber(Form, double* number)
+template <>
+bool ValueReader::readNumber(Form, double* number)
 {
     return toReal(m_scanner.chunk(), number);
 }
 
-template <> bool ValueReader::readNumber(Form form, qint64* number)
+template <>
+bool ValueReader::readNumber(Form form, qint64* number)
 {
     QStringRef text = m_scanner.chunk();
     if (form == Form::Colour || form == Form::Colours) {
@@ -107,14 +109,13 @@ template <> bool ValueReader::readNumber(Form form, qint64* number)
         text.chop(1);
     }
     const bool unsignedForm = form == Form::Percent || form == Form::Count;
-    const bool hasSign = !text.isEmpty()
-                         && (text.at(0) == QLatin1Char('-') || text.at(0) == QLatin1Char('+'));
+    const bool hasSign =
+        !text.isEmpty() && (text.at(0) == QLatin1Char('-') || text.at(0) == QLatin1Char('+'));
     return toWhole(text, number) && !(unsignedForm && hasSign);
 }
 
 template <class Number>
-bool ValueReader::readElement(Form form, int index, double minimum, double maximum,
-                              Number* number)
+bool ValueReader::readElement(Form form, int index, double minimum, double maximum, Number* number)
 {
     const int start = m_scanner.position();
     const bool fine = readNumber(form, number);
@@ -130,10 +131,10 @@ bool ValueReader::readElement(Form form, int index, double minimum, double maxim
     const bool outside = double(*number) < minimum || double(*number) > maximum;
     if (outside && minimum < maximum) {
         if (m_report.wantsProblems()) {
-            m_report.problem(ProblemId::OutOfRange,
-                             {realText(minimum), realText(maximum),
-                              m_scanner.part(start, end).toString()},
-                             start, end, Syntax::Number);
+            m_report.problem(
+                ProblemId::OutOfRange,
+                {realText(minimum), realText(maximum), m_scanner.part(start, end).toString()},
+                start, end, Syntax::Number);
         }
         return false;
     }
@@ -159,11 +160,11 @@ bool ValueReader::read(const KeyInfo& key, QVariant* value)
     if (parts == 1) {
         fine = readSingle(key, value);
     } else if (parts == 0) {
-        fine = key.form == Form::Reals ? readList<double>(key, value)
-                                       : readList<qint64>(key, value);
+        fine =
+            key.form == Form::Reals ? readList<double>(key, value) : readList<qint64>(key, value);
     } else {
-        const bool real = key.form == Form::RealPoint || key.form == Form::RealPair
-                          || key.form == Form::RealTriple;
+        const bool real = key.form == Form::RealPoint || key.form == Form::RealPair ||
+                          key.form == Form::RealTriple;
         fine = real ? readTuple<double>(key, value) : readTuple<qint64>(key, value);
     }
     if (fine) {
@@ -189,7 +190,7 @@ bool ValueReader::readSingle(const KeyInfo& key, QVariant* value)
         return readPath(value);
     case Form::Name:
     case Form::AnimationName:
-        return readWord(key, value);
+        return readWord(value);
     case Form::Choice:
         return readChoice(key, value);
     case Form::Date:
@@ -199,11 +200,11 @@ bool ValueReader::readSingle(const KeyInfo& key, QVariant* value)
     default:
         break;
     }
-    return key.form == Form::Real ? readScalar<double>(key, value)
-                                  : readScalar<qint64>(key, value);
+    return key.form == Form::Real ? readScalar<double>(key, value) : readScalar<qint64>(key, value);
 }
 
-template <class Number> bool ValueReader::readScalar(const KeyInfo& key, QVariant* value)
+template <class Number>
+bool ValueReader::readScalar(const KeyInfo& key, QVariant* value)
 {
     const int start = m_scanner.position();
     Number number = 0;
@@ -242,8 +243,8 @@ bool ValueReader::readText(QString* text)
         QChar character = inner.at(i);
         if (character == QLatin1Char('\\') && i + 1 < inner.size()) {
             character = inner.at(++i);
-            const bool known = character == QLatin1Char('"') || character == QLatin1Char('\\')
-                               || character == QLatin1Char('n');
+            const bool known = character == QLatin1Char('"') || character == QLatin1Char('\\') ||
+                               character == QLatin1Char('n');
             if (!known && m_report.wantsProblems()) {
                 m_report.problem(ProblemId::EscapeUnknown, {character}, start + i, start + i + 2,
                                  Syntax::String);
@@ -275,7 +276,7 @@ bool ValueReader::readPath(QVariant* value)
     return true;
 }
 
-bool ValueReader::readWord(const KeyInfo&, QVariant* value)
+bool ValueReader::readWord(QVariant* value)
 {
     const int start = m_scanner.position();
     const QStringRef word = m_scanner.word();
@@ -319,8 +320,8 @@ bool ValueReader::readDate(QVariant* value)
 {
     const int start = m_scanner.position();
     const QStringRef found = m_scanner.chunk();
-    const QDate date = found.size() == 10 ? QDate::fromString(found.toString(), Qt::ISODate)
-                                          : QDate();
+    const QDate date =
+        found.size() == 10 ? QDate::fromString(found.toString(), Qt::ISODate) : QDate();
     if (!date.isValid()) {
         return fail(ProblemId::DateExpected, found);
     }
@@ -355,8 +356,7 @@ bool ValueReader::separate(bool* more)
 }
 
 template <class Number>
-bool ValueReader::readFixed(Form form, int count, double minimum, double maximum,
-                            Number* numbers)
+bool ValueReader::readFixed(Form form, int count, double minimum, double maximum, Number* numbers)
 {
     const int start = m_scanner.position();
     for (int i = 0; i < count; ++i) {
@@ -374,8 +374,8 @@ bool ValueReader::readFixed(Form form, int count, double minimum, double maximum
         }
         m_scanner.skipBlanks();
         const QChar next = m_scanner.current();
-        const bool number = next.isDigit() || next == QLatin1Char('-') || next == QLatin1Char('.')
-                            || next == QLatin1Char('+');
+        const bool number = next.isDigit() || next == QLatin1Char('-') ||
+                            next == QLatin1Char('.') || next == QLatin1Char('+');
         if (!more && number) {
             m_report.problem(ProblemId::CommaMissing, {}, m_scanner.position(),
                              m_scanner.position() + 1);
@@ -397,7 +397,8 @@ bool ValueReader::readFixed(Form form, int count, double minimum, double maximum
     return true;
 }
 
-template <class Number> bool ValueReader::readTuple(const KeyInfo& key, QVariant* value)
+template <class Number>
+bool ValueReader::readTuple(const KeyInfo& key, QVariant* value)
 {
     Number numbers[4] = {};
     if (!readFixed(key.form, elementCount(key.form), key.minimum, key.maximum, numbers)) {
@@ -407,7 +408,8 @@ template <class Number> bool ValueReader::readTuple(const KeyInfo& key, QVariant
     return true;
 }
 
-template <class Number> bool ValueReader::readList(const KeyInfo& key, QVariant* value)
+template <class Number>
+bool ValueReader::readList(const KeyInfo& key, QVariant* value)
 {
     const Form elementForm = key.form == Form::Colours ? Form::Colour
                              : key.form == Form::Ints  ? Form::Int

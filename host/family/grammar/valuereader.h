@@ -27,17 +27,21 @@ public:
     bool readReals(int count, double minimum, double maximum, double* numbers);
 
 private:
-    template <class Number> bool readNumber(Form form, Number* number);
+    template <class Number>
+    bool readNumber(Form form, Number* number);
     template <class Number>
     bool readElement(Form form, int index, double minimum, double maximum, Number* number);
     template <class Number>
     bool readFixed(Form form, int count, double minimum, double maximum, Number* numbers);
-    template <class Number> bool readList(const KeyInfo& key, QVariant* value);
-    template <class Number> bool readTuple(const KeyInfo& key, QVariant* value);
-    template <class Number> bool readScalar(const KeyInfo& key, QVariant* value);
+    template <class Number>
+    bool readList(const KeyInfo& key, QVariant* value);
+    template <class Number>
+    bool readTuple(const KeyInfo& key, QVariant* value);
+    template <class Number>
+    bool readScalar(const KeyInfo& key, QVariant* value);
     bool readSingle(const KeyInfo& key, QVariant* value);
     bool readPath(QVariant* value);
-    bool readWord(const KeyInfo& key, QVariant* value);
+    bool readWord(QVariant* value);
     bool readChoice(const KeyInfo& key, QVariant* value);
     bool readDate(QVariant* value);
     bool readAny(QVariant* value);

@@ -45,7 +45,8 @@ LineHead headOf(const CodeNode* node)
 }
 
 /// `oldNode` as a node of this class if it stands in the place of a new one.
-template <class Node> Node* reusable(CodeNode* oldNode, const CodeNode* previous)
+template <class Node>
+Node* reusable(CodeNode* oldNode, const CodeNode* previous)
 {
     return oldNode && oldNode->previous() == previous ? dynamic_cast<Node*>(oldNode) : nullptr;
 }

@@ -4,9 +4,9 @@ namespace Family {
 
 bool FrameData::operator==(const FrameData& other) const
 {
-    return group == other.group && number == other.number && offset == other.offset
-           && delay == other.delay && scaleX == other.scaleX && scaleY == other.scaleY
-           && angle == other.angle && flip == other.flip && loop == other.loop;
+    return group == other.group && number == other.number && offset == other.offset &&
+           delay == other.delay && scaleX == other.scaleX && scaleY == other.scaleY &&
+           angle == other.angle && flip == other.flip && loop == other.loop;
 }
 
 }  // namespace Family

@@ -17,10 +17,9 @@ QStringList optionElements(int option, const FrameData& data)
     const FrameData standard;
     switch (option) {
     case OffsetOption:
-        return data.offset == standard.offset
-                   ? QStringList()
-                   : QStringList{QString::number(data.offset.x()),
-                                 QString::number(data.offset.y())};
+        return data.offset == standard.offset ? QStringList()
+                                              : QStringList{QString::number(data.offset.x()),
+                                                            QString::number(data.offset.y())};
     case DelayOption:
         return data.delay == standard.delay ? QStringList()
                                             : QStringList{QString::number(data.delay)};
@@ -62,8 +61,7 @@ bool fitsRange(int option, const FrameData& data)
 QString optionCode(int option, const QStringList& elements)
 {
     const QString name = frameOption(option).name;
-    return option == LoopOption ? name
-                                : name + QLatin1Char(' ') + elements.join(QLatin1Char(','));
+    return option == LoopOption ? name : name + QLatin1Char(' ') + elements.join(QLatin1Char(','));
 }
 
 /// Takes an option out of a line, with the blanks in front of it.
@@ -198,21 +196,20 @@ bool optionFromText(int option, const QString& text, FrameData* data, QString* e
         return true;
     }
     // The text goes through the reader of frame lines, as the line itself will.
-    const QString code = QStringLiteral("0,0 ") + frameOption(option).name + QLatin1Char(' ')
-                         + trimmed;
+    const QString code =
+        QStringLiteral("0,0 ") + frameOption(option).name + QLatin1Char(' ') + trimmed;
     LineDetails details;
     LineReport report(nullptr, &details);
     LineScanner scanner(code);
     FrameData read;
-    const bool fine = FrameReader(scanner, report).read(&read) && details.problems.isEmpty()
-                      && scanner.position() >= scanner.size()
-                      && !details.parts.isEmpty()
-                      && details.part(LinePart::Option, option)->end == code.size();
+    const bool fine = FrameReader(scanner, report).read(&read) && details.problems.isEmpty() &&
+                      scanner.position() >= scanner.size() && !details.parts.isEmpty() &&
+                      details.part(LinePart::Option, option)->end == code.size();
     if (!fine) {
-        *error = details.problems.isEmpty()
-                     ? QCoreApplication::translate("Family", "Expected one value; found '%1'.")
-                           .arg(text)
-                     : details.problems.constFirst().text;
+        *error =
+            details.problems.isEmpty()
+                ? QCoreApplication::translate("Family", "Expected one value; found '%1'.").arg(text)
+                : details.problems.constFirst().text;
         return false;
     }
     const FrameData old = *data;

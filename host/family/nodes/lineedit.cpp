@@ -33,8 +33,8 @@ bool fitsChange(const Zorv::CodeDocument* document, const QString& present, cons
     }
     const QString kept = QLatin1Char(' ') + present.midRef(mark);
     *code = wanted.left(wanted.size() - kept.size());
-    return wanted.endsWith(kept) && !code->contains(commentMark)
-           && LineScanner(present).commentStart() == mark;
+    return wanted.endsWith(kept) && !code->contains(commentMark) &&
+           LineScanner(present).commentStart() == mark;
 }
 
 void setLine(Zorv::CodeNode* node, const QString& present, const QString& wanted)

@@ -42,8 +42,8 @@ QVector<Replacement> elementReplacements(const LinePart& whole, const QVector<Li
         result.append({lastCommon, present.last().end, QString()});
     } else if (newTexts.size() > oldTexts.size()) {
         const QStringList more = newTexts.mid(common);
-        result.append({lastCommon, lastCommon,
-                       QLatin1String(", ") + more.join(QLatin1String(", "))});
+        result.append(
+            {lastCommon, lastCommon, QLatin1String(", ") + more.join(QLatin1String(", "))});
     }
     return result;
 }
@@ -93,8 +93,7 @@ bool ValueNode::write(const QVariant& value)
     if (!wanted.isValid() || !whole) {
         return false;
     }
-    const QStringList oldTexts =
-        readable ? elementTexts(*m_key, this->value()) : QStringList();
+    const QStringList oldTexts = readable ? elementTexts(*m_key, this->value()) : QStringList();
     const QStringList newTexts = elementTexts(*m_key, wanted);
     if (oldTexts != newTexts) {
         const QVector<LinePart> present = line.details.elements(whole);

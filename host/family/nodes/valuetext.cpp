@@ -89,8 +89,8 @@ bool canQuote(const QString& text)
     for (const QChar character : text) {
         const ushort code = character.unicode();
         const bool separator = code == QChar::LineSeparator || code == QChar::ParagraphSeparator;
-        if (separator || code == 0xfdd0 || code == 0xfdd1
-            || (code < 32 && code != '\n' && code != '\t')) {
+        if (separator || code == 0xfdd0 || code == 0xfdd1 ||
+            (code < 32 && code != '\n' && code != '\t')) {
             return false;
         }
     }
@@ -152,8 +152,8 @@ QVariant valueFromText(const KeyInfo& key, const QString& text, QString* error)
         return readWhole(key, text, error);
     }
     if (!canQuote(text)) {
-        *error = QCoreApplication::translate("Family",
-                                             "Expected a text without control characters.");
+        *error =
+            QCoreApplication::translate("Family", "Expected a text without control characters.");
         return {};
     }
     return text;

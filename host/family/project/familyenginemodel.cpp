@@ -7,9 +7,7 @@
 
 namespace Family {
 
-FamilyEngineModel::FamilyEngineModel(QObject* parent) : EngineModel(parent)
-{
-}
+FamilyEngineModel::FamilyEngineModel(QObject* parent) : EngineModel(parent) {}
 
 FamilyEngineModel* FamilyEngineModel::instance()
 {
@@ -24,10 +22,11 @@ char FamilyEngineModel::commentChar() const
 
 QString FamilyEngineModel::dataPath() const
 {
-    const QString found = QStandardPaths::locate(
-        QStandardPaths::GenericDataLocation, QStringLiteral("zorv"), QStandardPaths::LocateDirectory);
-    return found.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-                                 + QStringLiteral("/zorv")
+    const QString found =
+        QStandardPaths::locate(QStandardPaths::GenericDataLocation, QStringLiteral("zorv"),
+                               QStandardPaths::LocateDirectory);
+    return found.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                                 QStringLiteral("/zorv")
                            : found;
 }
 

@@ -56,10 +56,10 @@ QStringList filesOfProject(const QString& gameFolder, const QString& mainFile)
         const QVector<FileReference> references =
             document ? fileReferences(document.get()) : QVector<FileReference>();
         for (const FileReference& reference : references) {
-            const QString file = QDir::cleanPath(QFileInfo(mainFile).absolutePath()
-                                                 + QLatin1Char('/') + reference.path);
-            if (files.contains(file)
-                || pathFault(gameFolder, mainFile, reference.path) != PathFault::Fine) {
+            const QString file = QDir::cleanPath(QFileInfo(mainFile).absolutePath() +
+                                                 QLatin1Char('/') + reference.path);
+            if (files.contains(file) ||
+                pathFault(gameFolder, mainFile, reference.path) != PathFault::Fine) {
                 continue;
             }
             files.append(file);
@@ -93,8 +93,8 @@ void FamilyParentProject::addLooseFolder(const QString& folder)
 {
     const QString below = folder.mid(absolutePath().size());
     for (const QLatin1String name : projectFolders) {
-        const bool isExpected = below.startsWith(name + QLatin1Char('/'))
-                                && below.count(QLatin1Char('/')) == 1;
+        const bool isExpected =
+            below.startsWith(name + QLatin1Char('/')) && below.count(QLatin1Char('/')) == 1;
         if (isExpected || below == name) {
             return;
         }

@@ -163,8 +163,7 @@ QString FamilyProject::resolvePath(const QString& path) const
 QString FamilyProject::fileTitle(FileID::Type type, int index) const
 {
     const QList<Zorv::ProjectFile*> list = filesByType(type);
-    const QString name =
-        index >= 0 && index < list.size() ? list.at(index)->fileName() : QString();
+    const QString name = index >= 0 && index < list.size() ? list.at(index)->fileName() : QString();
     if (name.isEmpty()) {
         return tr("new file");
     }
@@ -192,9 +191,9 @@ QList<Zorv::Project::FileInfo> FamilyProject::namedFiles() const
         const QVector<FileReference> references = fileReferences(document);
         for (const FileReference& reference : references) {
             const QString path = QDir::cleanPath(reference.path);
-            const bool inside = !path.startsWith(QLatin1String("../"))
-                                && pathFault(parent()->absolutePath(), fileName(), path)
-                                       == PathFault::Fine;
+            const bool inside =
+                !path.startsWith(QLatin1String("../")) &&
+                pathFault(parent()->absolutePath(), fileName(), path) == PathFault::Fine;
             if (inside && !seen.contains(path)) {
                 seen.insert(path);
                 result.append({reference.type, path});

@@ -55,8 +55,8 @@ void collect(const GroupNode* group, QVector<FileReference>* list)
             continue;
         }
         const auto* value = static_cast<const ValueNode*>(child);
-        const QString path = value->key()->form == Form::Path ? value->value().toString()
-                                                              : QString();
+        const QString path =
+            value->key()->form == Form::Path ? value->value().toString() : QString();
         if (!path.isEmpty()) {
             list->append({typeOf(group, value->name()), path, value->firstLine(), 0, 0});
             locate(value, &list->last());
@@ -108,8 +108,7 @@ PathFault pathFault(const QString& gameFolder, const QString& mainFile, const QS
     if (path.contains(QChar(QChar::Null)) || QDir::isAbsolutePath(path)) {
         return PathFault::LeavesGame;
     }
-    const QString target =
-        resolved(QFileInfo(mainFile).absolutePath() + QLatin1Char('/') + path);
+    const QString target = resolved(QFileInfo(mainFile).absolutePath() + QLatin1Char('/') + path);
     if (target == resolved(QFileInfo(mainFile).absoluteFilePath())) {
         return PathFault::NamesItself;
     }
