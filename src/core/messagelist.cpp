@@ -60,6 +60,7 @@ void MessageList::registerMessages(Messages* messages)
         former->unregisterMessages(messages);
     messages->m->list = this;
     m_lists.append(messages);
+    m_startsStale = true;
     update();
 }
 
@@ -67,6 +68,7 @@ void MessageList::unregisterMessages(Messages* messages)
 {
     messages->m->list = nullptr;
     m_lists.removeAll(messages);
+    m_startsStale = true;
     update();
 }
 
@@ -79,7 +81,6 @@ void MessageList::update()
     }
     m_errorCount = 0;
     m_warningCount = 0;
-    m_startsStale = true;
     for (const Messages* messages : qAsConst(m_lists)) {
         m_errorCount += messages->count(Message::Error);
         m_warningCount += messages->count(Message::Warning);

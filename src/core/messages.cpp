@@ -6,6 +6,8 @@
 #include "core/projectfile.h"
 #include "core/resourceicon_p.h"
 
+#include <QPointer>
+
 namespace Zorv {
 
 namespace {
@@ -142,9 +144,12 @@ void Messages::endChange()
 
 void Messages::notifyUpdate()
 {
+    // Who hears of it in the list of the project may close the file.
+    const QPointer<Messages> self(this);
     if (m->list)
         m->list->update();
-    emit updated();
+    if (self)
+        emit updated();
 }
 
 void Messages::replaceLine(int line, const QVector<Message>& messages)

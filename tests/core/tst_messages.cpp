@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 using namespace Zorv;
 
@@ -106,6 +107,7 @@ private slots:
     void sameFileTwice();
     void rowsInsideAFrame();
     void dyingFileLeavesTheList();
+    void fileClosedByItsOwnMessage();
     void listDiesFirst();
 };
 
@@ -347,11 +349,30 @@ void TestMessages::dyingFileLeavesTheList()
     auto* file = new TestFile;
     project->addFile(file, 2);
     file->messages()->add(Message::Error, "a", 0, 0);
+    // A view looks at the rows once more before they go.
+    QAbstractItemModelTester tester(project->messages(),
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
     QSignalSpy updated(project->messages(), &MessageList::updated);
     project->removeFile(file);
     QCOMPARE(updated.count(), 1);
     QCOMPARE(project->messages()->rowCount(), 0);
     QCOMPARE(project->messages()->errorCount(), 0);
+}
+
+void TestMessages::fileClosedByItsOwnMessage()
+{
+    const QTemporaryDir dir;
+    TestParent parent(dir.path());
+    TestProject* project = parent.open({}, {});
+    auto* file = new TestFile;
+    project->addFile(file, 2);
+    connect(project->messages(), &MessageList::updated, this, [&file, project] {
+        if (file)
+            project->removeFile(std::exchange(file, nullptr));
+    });
+    file->messages()->add(Message::Error, "a", 0, 0);
+    QVERIFY(!file);
+    QCOMPARE(project->messages()->rowCount(), 0);
 }
 
 void TestMessages::listDiesFirst()
