@@ -63,7 +63,7 @@ void skipRead(QIODevice* device, unsigned count)
 
 bool forcePath(const QString& fileName)
 {
-    return QDir().mkpath(QFileInfo(fileName).absolutePath());
+    return !fileName.isEmpty() && QDir().mkpath(QFileInfo(fileName).absolutePath());
 }
 
 bool copyFile(Archive& source, const QString& sourceName, Archive& target,
