@@ -84,7 +84,7 @@ QString TextCodecs::name(int number)
 {
     if (number == 0)
         return QCoreApplication::translate("Zorv::TextCodecs", "System");
-    return QString::fromLatin1(s_codecs.value(number - 1).constData());
+    return number > 0 ? QString::fromLatin1(s_codecs.value(number - 1).constData()) : QString();
 }
 
 void TextCodecs::setDefaultCodec(int number)
