@@ -1,11 +1,15 @@
 #include "app/unsavedwork.h"
 
 #include "core/dialogs/dialogs.h"
+#include "core/project.h"
 #include "family/familydocument.h"
 #include "operations/documentfile.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QMap>
+
+#include <algorithm>
 
 namespace App {
 
@@ -37,19 +41,107 @@ QString namesOf(const QList<FamilyDocument*>& documents)
     return names.join(QLatin1Char('\n'));
 }
 
+QString projectTitle(const FamilyDocument* document)
+{
+    const Zorv::Project* project = document->project();
+    return project ? project->title() : QString();
+}
+
+/// Documents of one file in several projects, of which one is saved.
+struct Twins
+{
+    FamilyDocument* chosen;
+    QList<FamilyDocument*> others;
+};
+
+bool haveOneText(const QList<FamilyDocument*>& documents)
+{
+    const QString text = documents.first()->text();
+    return std::all_of(documents.begin(), documents.end(),
+                       [&text](const auto* document) { return document->text() == text; });
+}
+
+/// The place of the document to save; -1 if the person gives up.
+int chooseTwin(const QList<FamilyDocument*>& documents)
+{
+    QStringList choices;
+    for (const FamilyDocument* document : documents) {
+        choices.append(tr("Save the text of %1").arg(projectTitle(document)));
+    }
+    return Dialogs::instance()->choose(
+        tr("Save"),
+        tr("%1 belongs to several projects, and was changed in them in different ways. The "
+           "changes of one can be saved; the others are lost.")
+            .arg(QDir::toNativeSeparators(documents.first()->fileName())),
+        choices, 0);
+}
+
+/// Takes out of the documents all but one of those that share a file and have
+/// different texts, and tells them apart in `twins`. False if the person gives up.
+bool settleTwins(QList<FamilyDocument*>* documents, QList<Twins>* twins)
+{
+    QMap<QString, QList<FamilyDocument*>> byFile;
+    for (FamilyDocument* document : qAsConst(*documents)) {
+        byFile[document->fileName()].append(document);
+    }
+    for (QList<FamilyDocument*> sharing : qAsConst(byFile)) {
+        if (haveOneText(sharing)) {
+            continue;
+        }
+        const int choice = chooseTwin(sharing);
+        if (choice < 0) {
+            return false;
+        }
+        FamilyDocument* chosen = sharing.takeAt(choice);
+        for (FamilyDocument* other : qAsConst(sharing)) {
+            documents->removeOne(other);
+        }
+        twins->append({chosen, sharing});
+    }
+    return true;
+}
+
+/// What was not chosen reads the saved file; if that was not written, all stays.
+bool readSaved(const Twins& twins)
+{
+    bool all = true;
+    for (FamilyDocument* other : twins.others) {
+        if (twins.chosen->isModified()) {
+            other->pauseWatch(false);
+            all = false;
+        } else {
+            all = other->reload() && all;
+        }
+    }
+    return all;
+}
+
 }  // namespace
 
-bool saveDocuments(const QList<FamilyDocument*>& documents)
+bool saveDocuments(QList<FamilyDocument*> documents)
 {
+    QList<Twins> twins;
+    if (!settleTwins(&documents, &twins)) {
+        return false;
+    }
+    for (const Twins& sharing : qAsConst(twins)) {
+        for (FamilyDocument* other : sharing.others) {
+            // It is told of this save here.
+            other->pauseWatch(true);
+        }
+    }
     QStringList errors;
     bool all = true;
-    for (FamilyDocument* document : documents) {
+    for (FamilyDocument* document : qAsConst(documents)) {
         QString error;
         const Family::Saved saved = Family::saveDocument(document, document->fileName(), &error);
         all = all && saved == Family::Saved::Done;
         if (saved == Family::Saved::Failed) {
             errors.append(error);
         }
+    }
+    for (const Twins& sharing : qAsConst(twins)) {
+        all = readSaved(sharing) && all;
     }
     if (!errors.isEmpty()) {
         Dialogs::instance()->error(tr("Save"), errors.join(QLatin1Char('\n')));

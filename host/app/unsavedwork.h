@@ -9,8 +9,9 @@ class FamilyDocument;
 namespace App {
 
 /// Saves documents that have a file, one after the other; failures are told at
-/// the end, all at once. True if all are saved.
-bool saveDocuments(const QList<Family::FamilyDocument*>& documents);
+/// the end, all at once. Of several documents of one file with different texts the
+/// person chooses one, and the others read it. True if all is done.
+bool saveDocuments(QList<Family::FamilyDocument*> documents);
 
 /// Asks what becomes of unsaved documents before they are closed: saved,
 /// discarded, or neither. True if they can be closed. Nothing is asked for an

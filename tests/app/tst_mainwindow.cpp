@@ -44,6 +44,8 @@ private slots:
     void savesByKey();
     void keepsTheTextWhenASaveFails();
     void savesAll();
+    void savesOneOfTwoTextsOfAFile_data();
+    void savesOneOfTwoTextsOfAFile();
     void asksBeforeTheWindowCloses_data();
     void asksBeforeTheWindowCloses();
     void asksBeforeATextCloses_data();
@@ -225,6 +227,47 @@ void tst_MainWindow::savesAll()
     QVERIFY(m_game->read("characters/ryn/ryn.character").startsWith("# a"));
     QVERIFY(m_game->read("characters/ryn/basic.anim").startsWith("# b"));
     QTRY_VERIFY(!m->action("save_all")->isEnabled());
+}
+
+void tst_MainWindow::savesOneOfTwoTextsOfAFile_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QByteArray>("file");
+    QTest::newRow("the first") << 0 << QByteArray("# of ryn\r\n");
+    QTest::newRow("the second") << 1 << QByteArray("# of oda\r\n");
+    QTest::newRow("none") << -1 << QByteArray("\r\n");
+}
+
+/// A file that two projects share has a text in each of them.
+void tst_MainWindow::savesOneOfTwoTextsOfAFile()
+{
+    QFETCH(int, answer);
+    QFETCH(QByteArray, file);
+    m_game->write("shared.code", "\r\n");
+    for (const char* name : {"ryn", "oda"}) {
+        const QString main = QStringLiteral("characters/%1/%1.character").arg(name);
+        m_game->write(main, "[info]\r\nname = \"" + QByteArray(name) +
+                                "\"\r\n[files]\r\ncode = \"../../shared.code\"\r\n");
+        QVERIFY(window()->session()->game() || window()->openPath(m_game->root()));
+        QVERIFY(window()->openFile(m_game->path(main)));
+        QVERIFY(window()->openFile(m_game->path("shared.code")));
+        QCOMPARE(m->document()->project()->fileName(), m_game->path(main));
+        m->type(QStringLiteral("# of ") + QLatin1String(name));
+    }
+    m->dialogs.choiceAnswers = {answer};
+    m->action("save_all")->trigger();
+    QCOMPARE(m->dialogs.count(QStringLiteral("choose")), 1);
+    QCOMPARE(m_game->read("shared.code"), file);
+    QCOMPARE(window()->session()->modifiedDocuments().size(), answer < 0 ? 2 : 0);
+    QTest::qWait(400);
+    QCOMPARE(m->dialogs.count(), 1);
+    if (answer >= 0) {
+        for (const Family::FamilyProject* project : window()->session()->projects()) {
+            const auto* shared =
+                window()->session()->document(m_game->path("shared.code"), project);
+            QCOMPARE(shared->toData(), file);
+        }
+    }
 }
 
 void tst_MainWindow::asksBeforeTheWindowCloses_data()
