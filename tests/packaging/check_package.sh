@@ -19,7 +19,8 @@ fail() {
 "$cmake" --install "$build" --prefix "$prefix" >"$work/install.log"
 
 # What must be there, and what must not.
-for file in include/zorv/zorv.h include/zorv/code/codedoc/codedocument.h share/doc/zorv/LICENSE; do
+for file in include/zorv/zorv.h include/zorv/code/codedoc/codedocument.h bin/zorv \
+    share/man/man1/zorv.1 share/doc/zorv/LICENSE share/zorv/samples/README.md; do
     [ -f "$prefix/$file" ] || fail "$file is not installed"
 done
 stray=$(cd "$prefix/include" && find . -type f \
@@ -61,9 +62,9 @@ mkdir "$work/by-pkgconfig"
 check_program "$work/by-pkgconfig/settings"
 
 # The program finds its library in whatever prefix it was put.
-if [ -x "$prefix/bin/zorv" ]; then
-    env -u LD_LIBRARY_PATH "$prefix/bin/zorv" --version
-fi
+mv "$prefix" "$work/moved"
+env -u LD_LIBRARY_PATH "$work/moved/bin/zorv" check "$work/moved/share/zorv/samples/arena" ||
+    fail "the installed program does not work"
 
 # The guide shows parts of the example: each of them has to stand in it.
 awk -v RS='```' 'NR % 2 == 0 && sub(/^cpp\n/, "")' "$source/docs/host-guide.md" |
