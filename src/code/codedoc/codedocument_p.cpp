@@ -1,57 +1,14 @@
 #include "code/codedoc/codedocument_p.h"
 
-#include "code/codedoc/codedocumenteditor.h"
 #include "code/codedoc/codeparser.h"
 #include "code/codedoc/folding_p.h"
 #include "code/codedoc/groupcode.h"
-#include "code/codedoc/nodechain_p.h"
 #include "core/messages.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace Zorv {
-
-std::array<QTextCharFormat, CodeParserSyntax::TokenTypeCount> CodeDocumentPrivate::m_syntaxFmts = {
-    makeFormat(false, false, Qt::black),
-    makeFormat(false, true, Qt::gray),
-    makeFormat(false, false, Qt::red),
-    makeFormat(false, false, Qt::blue),
-    makeFormat(true, false, Qt::black),
-    makeFormat(true, false, QColor(0, 128, 0)),
-    makeFormat(true, false, QColor(255, 128, 0)),
-    makeFormat(true, false, QColor(0, 128, 128)),
-    makeFormat(false, false, QColor(128, 0, 255)),
-    makeFormat(false, false, QColor(255, 0, 255)),
-};
-
-QTextCharFormat CodeDocumentPrivate::makeFormat(bool bold, bool italic, const QColor& color)
-{
-    QTextCharFormat format;
-    format.setFontFamily(QStringLiteral("Courier"));
-    format.setFontPointSize(10);
-    format.setFontFixedPitch(true);
-    format.setFontWeight(bold ? QFont::Bold : QFont::Normal);
-    format.setFontItalic(italic);
-    format.setForeground(QBrush(color, Qt::SolidPattern));
-    return format;
-}
-
-CodeDocumentPrivate::CodeDocumentPrivate(CodeDocument* document)
-    : QSyntaxHighlighter(static_cast<QObject*>(nullptr)), q(document)
-{
-    // The order of the connections is that of the work: before, Qt's, after.
-    connect(q, &QTextDocument::contentsChange, this, &CodeDocumentPrivate::aboutToParse);
-    setDocument(q);
-    connect(q, &QTextDocument::contentsChange, this, &CodeDocumentPrivate::parsed);
-    cursor = QTextCursor(q);
-}
-
-CodeDocumentPrivate::~CodeDocumentPrivate()
-{
-    // The highlighter's destructor takes all formats off, which is a change of the document.
-    disconnect(q, nullptr, this, nullptr);
-}
 
 void CodeDocumentPrivate::beginPass()
 {
@@ -180,32 +137,6 @@ CodeNode* CodeDocumentPrivate::parseLine(const QTextBlock& block, CodeBlockData*
     return node;
 }
 
-void CodeDocumentPrivate::announce(CodeNode* child)
-{
-    CodeDocumentEditor* editor = editors.value(editorKey(child));
-    if (editor && isParsing) {
-        newcomers.append(child);
-    } else if (editor) {
-        editor->insertChild(child, placeAmongKind(child));
-    }
-}
-
-void CodeDocumentPrivate::forget(CodeNode* child)
-{
-    counted = nullptr;
-    newcomers.removeAll(child);
-    if (CodeDocumentEditor* editor = editors.value(editorKey(child))) {
-        editor->removeChild(child);
-    }
-}
-
-void CodeDocumentPrivate::retire(CodeNode* node)
-{
-    node->handOver();
-    node->unlink();
-    node->release();
-}
-
 int CodeDocumentPrivate::stateOf(const CodeNode* node)
 {
     if (!node) {
@@ -291,49 +222,6 @@ void CodeDocumentPrivate::updateTraits(CodeBlockData* data, const QString& text)
     }
 }
 
-/// Sees to it that the nodes below the parsed lines have the right parent. Where
-/// one head takes the place of another of its kind they are not parsed again,
-/// and while both were there they can have lost their parent.
-void CodeDocumentPrivate::mendBelow(const CodeBlockData* line)
-{
-    constexpr unsigned heads = CodeNode::Group | CodeNode::Animation;
-    CodeNode* above = line->d->node ? line->d->node : nodeAbove(line);
-    CodeNode* head = above->type() & heads ? above : NodeChain::backward(above, heads);
-    if (!head) {
-        return;
-    }
-    const bool isGroup = head->type() == CodeNode::Group;
-    const CodeNode::Type leaf = isGroup ? CodeNode::Value : CodeNode::Frame;
-    const CodeNode* below = NodeChain::forward(above, heads | leaf);
-    if (below && below->type() == leaf && below->parentCode() != head) {
-        head->adopt();
-    }
-    below = NodeChain::forward(above, heads);
-    if (!isGroup || !below || below->type() != CodeNode::Group) {
-        return;
-    }
-    CodeNode* top = isSubGroup(static_cast<GroupCode*>(head)) ? head->m_parent : head;
-    const CodeNode* parent = below->m_parent;
-    if (!parent || (parent->type() == CodeNode::Group && parent != top)) {
-        top->adopt();
-    }
-}
-
-void CodeDocumentPrivate::storeMessages(CodeBlockData* data, bool hadMessages)
-{
-    if (!hadMessages && lineMessages.isEmpty()) {
-        return;
-    }
-    const int line = data->d->block().blockNumber();
-    for (Message& message : lineMessages) {
-        message.line = line;
-    }
-    std::stable_sort(lineMessages.begin(), lineMessages.end(),
-                     [](const Message& a, const Message& b) { return a.column < b.column; });
-    q->messages()->replaceLine(line, lineMessages);
-    lineMessages.resize(0);
-}
-
 bool CodeDocumentPrivate::mustParseNow() const
 {
     static const QString parseCode = QStringLiteral("parseCode");
@@ -361,129 +249,6 @@ void CodeDocumentPrivate::parseNow(QTextBlock block, const QTextBlock& behind)
         mendBelow(last);
     }
     releaseUnlinked();
-}
-
-void CodeDocumentPrivate::lineGone(CodeBlockData* line)
-{
-    CodeBlockDataPrivate& d = *line->d;
-    lines.remove(line);
-    d.owner = nullptr;
-    if (d.node) {
-        d.node->m_block = QTextBlock();
-        dead.append(d.node);
-    }
-}
-
-void CodeDocumentPrivate::dropDeadNodes()
-{
-    unlinkDeadNodes();
-    releaseUnlinked();
-}
-
-/// Leaves go first, so that a dying head only hands on what lives.
-void CodeDocumentPrivate::unlinkDeadNodes()
-{
-    QVector<CodeNode*> nodes;
-    nodes.swap(dead);
-    const auto isHead = [](const CodeNode* node) {
-        return node->type() == CodeNode::Group || node->type() == CodeNode::Animation;
-    };
-    const auto heads = std::stable_partition(nodes.begin(), nodes.end(),
-                                             [&](CodeNode* node) { return !isHead(node); });
-    std::for_each(nodes.begin(), heads, [](CodeNode* node) { node->unlink(); });
-    std::sort(heads, nodes.end(), [](CodeNode* a, CodeNode* b) { return a->precedes(b); });
-    std::for_each(heads, nodes.end(), [](CodeNode* node) {
-        node->handOver();
-        node->unlink();
-    });
-    unlinked += nodes;
-}
-
-void CodeDocumentPrivate::releaseUnlinked()
-{
-    QVector<CodeNode*> nodes;
-    nodes.swap(unlinked);
-    for (CodeNode* node : nodes) {
-        node->release();
-    }
-}
-
-void CodeDocumentPrivate::ok(TokenType type, unsigned start, unsigned end)
-{
-    currentData->d->isParsed = currentData->d->isParsed || type != Comment;
-    setFormat(int(start), int(end - start), m_syntaxFmts[type]);
-}
-
-void CodeDocumentPrivate::report(Message::Type type, CodeBlockData::SyntaxMessage::Type syntaxType,
-                                 TokenType token, const QColor& underline, const QString& text,
-                                 unsigned start, unsigned end)
-{
-    currentData->d->isParsed = true;
-    QTextCharFormat format = m_syntaxFmts[token];
-    format.setUnderlineColor(underline);
-    format.setUnderlineStyle(QTextCharFormat::SpellCheckUnderline);
-    currentData->d->makeDetails().syntaxMessages.append({syntaxType, int(start), int(end), text});
-    setFormat(int(start), int(end - start), format);
-    lineMessages.append({type, 0, int(start), text});
-}
-
-void CodeDocumentPrivate::error(TokenType type, const QString& text, unsigned start, unsigned end)
-{
-    report(Message::Error, CodeBlockData::SyntaxMessage::Error, type, Qt::red, text, start, end);
-}
-
-void CodeDocumentPrivate::warning(TokenType type, const QString& text, unsigned start, unsigned end)
-{
-    report(Message::Warning, CodeBlockData::SyntaxMessage::Warning, type, QColor(255, 127, 0), text,
-           start, end);
-}
-
-void CodeDocumentPrivate::deprecated(TokenType type, const QString& text, unsigned start,
-                                     unsigned end)
-{
-    report(Message::Warning, CodeBlockData::SyntaxMessage::Deprecated, type, QColor(255, 255, 0),
-           text, start, end);
-}
-
-void CodeDocumentPrivate::parenthesis(bool opening, QChar character, int position)
-{
-    using Parenthesis = CodeBlockData::Parenthesis;
-    currentData->d->makeDetails().parenthesis.append(
-        {opening ? Parenthesis::Opening : Parenthesis::Closing, character, position});
-}
-
-unsigned CodeDocumentPrivate::editorKey(CodeNode::Type type, unsigned group)
-{
-    return (group << 16) | type;
-}
-
-unsigned CodeDocumentPrivate::editorKey(const CodeNode* node)
-{
-    const bool isGroup = node->type() == CodeNode::Group;
-    return editorKey(node->type(), isGroup ? static_cast<const GroupCode*>(node)->group() : 0);
-}
-
-unsigned CodeDocumentPrivate::placeAmongKind(const CodeNode* child)
-{
-    if (child->type() == CodeNode::Animation) {
-        return NodeChain::before(child).animations;
-    }
-    // A file that is loaded asks for one node after the other: the place of
-    // the last one asked for is remembered.
-    const unsigned key = editorKey(child);
-    unsigned count = 0;
-    for (const CodeNode* node = NodeChain::backward(child, child->type()); node;
-         node = NodeChain::backward(node, child->type())) {
-        if (node == counted && key == countedKey) {
-            count += countedPlace + 1;
-            break;
-        }
-        count += editorKey(node) == key ? 1 : 0;
-    }
-    counted = child;
-    countedKey = key;
-    countedPlace = count;
-    return count;
 }
 
 }  // namespace Zorv
