@@ -18,15 +18,15 @@ class CodeNode;
 class ZORV_EXPORT CodeBlockData : public QTextBlockUserData
 {
 public:
-    /// A message on columns of the line; `end` is behind the last one.
+    /// A message on columns of the line.
     struct SyntaxMessage
     {
         enum Type { Error = 0, Warning = 1, Deprecated = 2 };
 
         Type type;
-        int start;
-        int end;
-        QString text;
+        int start;     ///< column of the first character
+        int end;       ///< behind the last one
+        QString text;  ///< for the person
     };
 
     /// A bracket of the line.
@@ -35,8 +35,8 @@ public:
         enum Type { Opening = 0, Closing = 1 };
 
         Type type;
-        QChar character;
-        int position;
+        QChar character;  ///< the bracket itself
+        int position;     ///< its column
     };
 
     /// The document hears of it: the node of the line is to go.
@@ -52,7 +52,7 @@ public:
     /// The node that the grammar returned for the line, or null.
     CodeNode* codeNode() const;
 
-    /// Folded in the editor.
+    /// Folded in the editor; kept here so that it moves with the line.
     bool isFolded() const;
     void setFolded(bool folded);
 

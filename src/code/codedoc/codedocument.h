@@ -185,7 +185,9 @@ public:
     /// The editor registered for a type of node and, for groups, a group number.
     CodeDocumentEditor* documentEditor(CodeNode::Type type, unsigned group) const;
 
-    /// Replaces the editor that was registered for the same before.
+    /// Replaces the editor that was registered for the same before. One that is
+    /// replaced or unregistered hears of nothing any more and keeps what it
+    /// had: release it. The document releases those that are left when it dies.
     void registerDocumentEditor(CodeDocumentEditor* editor, CodeNode::Type type, unsigned group);
 
     /// Removes the first entry of the editor; one call for each registration.

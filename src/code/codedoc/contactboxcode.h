@@ -18,9 +18,9 @@ class ZORV_EXPORT ContactBoxCode
 public:
     /// The kind of a box. The editor uses the first two.
     enum BoxType {
-        Attack = 1,
-        Collision = 2,
-        Type3 = 3,
+        Attack = 1,     ///< what hits
+        Collision = 2,  ///< what can be hit
+        Type3 = 3,      ///< from here on: the grammar's own
         Type4 = 4,
         Type5 = 5,
         Type6 = 6,

@@ -19,11 +19,15 @@ public:
     short tag() const { return m_tag; }
 
     int childCount() const override;
+
+    /// -1 for a stranger. Logarithmic, as all access to the children.
     int childIndex(CodeNode* child) const override;
 
     /// Null outside of the list.
     CodeNode* childAt(unsigned index) const override;
 
+    /// Takes the child from its former parent; an `index` outside of the list
+    /// stands for the end.
     void insertChild(CodeNode* child, unsigned index) override;
     void removeChild(CodeNode* child) override;
 
