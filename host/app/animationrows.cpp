@@ -29,7 +29,7 @@ void AnimationRows::setAnimations(Family::FamilyAnimations* animations)
 
 QVariant AnimationRows::data(const QModelIndex& index, int role) const
 {
-    const QVariant value = QIdentityProxyModel::data(index, role);
+    QVariant value = QIdentityProxyModel::data(index, role);
     if (role != Qt::DisplayRole || !value.isValid() || !value.toString().isEmpty()) {
         return value;
     }

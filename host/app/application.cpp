@@ -94,7 +94,7 @@ int drawPicture(const Usage& usage)
 
 }  // namespace
 
-int runWindow(QApplication& application, const QStringList& arguments)
+int runWindow(QApplication&, const QStringList& arguments)
 {
     const Usage usage = parse(arguments);
     if (!usage.error.isEmpty()) {
@@ -113,7 +113,7 @@ int runWindow(QApplication& application, const QStringList& arguments)
     host.setWindow(&window);
     window.show();
     window.restoreWork(usage.game);
-    return application.exec();
+    return QApplication::exec();
 }
 
 }  // namespace App

@@ -53,9 +53,13 @@ QVector<const CodeNode*> childrenOf(const CodeNode* node)
     if (node->type() == CodeNode::Frame) {
         return boxesOf(node);
     }
-    QVector<const CodeNode*> children(childCount(node));
+    const ParentCode* parent = asParent(node);
+    if (!parent) {
+        return {};
+    }
+    QVector<const CodeNode*> children(parent->childCount());
     for (int i = 0; i < children.size(); ++i) {
-        children[i] = asParent(node)->childAt(unsigned(i));
+        children[i] = parent->childAt(unsigned(i));
     }
     return children;
 }

@@ -91,12 +91,13 @@ QAction* WindowInterface::createAction(const char* const*, const QString& name, 
     if (receiver && slot) {
         QObject::connect(action, SIGNAL(triggered(bool)), receiver, slot);
     }
-    if (receiver && enableSignal) {
-        QObject::connect(receiver, enableSignal, action, SLOT(setEnabled(bool)));
+    const QObject* source = receiver;
+    if (source && enableSignal) {
+        QObject::connect(source, enableSignal, action, SLOT(setEnabled(bool)));
     }
-    if (receiver && checkSignal) {
+    if (source && checkSignal) {
         action->setCheckable(true);
-        QObject::connect(receiver, checkSignal, action, SLOT(setChecked(bool)));
+        QObject::connect(source, checkSignal, action, SLOT(setChecked(bool)));
     }
     return action;
 }

@@ -38,7 +38,7 @@ public:
                           Zorv::Translator* translator, unsigned textId, const char* shortcut,
                           QObject* receiver, const char* slot, const char* enableSignal,
                           const char* checkSignal) override;
-    void setMenuEnabled(const char* menu, const char* group, bool enabled) override;
+    void setMenuEnabled(const char* name, const char* group, bool enabled) override;
 
     /// Reads the files of all open projects again.
     void refreshProjects() override;
