@@ -82,7 +82,12 @@ int runInWindow(int& argc, char** argv, const QStringList& arguments)
                              qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
                              qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
                              arguments.contains(QLatin1String("-platform"));
-    if (hasPlatform) {
+    const bool isPicture = arguments.contains(QLatin1String("--screenshot"));
+    if (!hasPlatform && isPicture) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    if (hasPlatform || isPicture) {
+        QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
         QApplication application(argc, argv);
         // Qt has taken its own options out of these.
         return App::runWindow(application, QCoreApplication::arguments().mid(1));

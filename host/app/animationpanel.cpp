@@ -1,6 +1,7 @@
 #include "app/animationpanel.h"
 
 #include "app/animationrows.h"
+#include "app/undostep.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
@@ -111,12 +112,13 @@ void AnimationPanel::addNew()
         return;
     }
     FamilyAnimations* list = m_document->animations();
-    list->beginChange(tr("Add animation"));
-    for (int ends = lineEndsBeforeNew(m_document); ends > 0; --ends) {
-        m_document->insert(QStringLiteral("\n"));
+    {
+        const UndoStep step(m_document, currentIndex().row(), tr("Add animation"));
+        for (int ends = lineEndsBeforeNew(m_document); ends > 0; --ends) {
+            m_document->insert(QStringLiteral("\n"));
+        }
+        list->add(newIdentifier(list));
     }
-    list->add(newIdentifier(list));
-    list->endChange();
     requestIdentifier(list->count() - 1);
 }
 
@@ -127,7 +129,13 @@ void AnimationPanel::duplicateCurrent()
         return;
     }
     FamilyAnimations* list = m_document->animations();
-    if (list->duplicateAnimation(row, freeIdentifier(list, list->animation(row)->identifier()))) {
+    bool isDone = false;
+    {
+        const UndoStep step(m_document, row, tr("Duplicate animation"));
+        isDone = list->duplicateAnimation(
+            row, freeIdentifier(list, list->animation(row)->identifier()));
+    }
+    if (isDone) {
         requestIdentifier(row + 1);
     }
 }
@@ -138,7 +146,10 @@ void AnimationPanel::removeSelected()
     if (!m_document || places.isEmpty()) {
         return;
     }
-    Family::removeAnimations(m_document->animations(), places);
+    {
+        const UndoStep step(m_document, currentIndex().row(), tr("Remove animations"));
+        Family::removeAnimations(m_document->animations(), places);
+    }
     const int next = std::min(*std::min_element(places.begin(), places.end()), count() - 1);
     if (next >= 0) {
         selectRows(next, 1);
@@ -158,6 +169,7 @@ void AnimationPanel::moveDown()
 void AnimationPanel::sortAll()
 {
     if (m_document) {
+        const UndoStep step(m_document, currentIndex().row(), tr("Sort animations"));
         m_document->animations()->autoOrganize();
     }
 }
@@ -182,10 +194,15 @@ void AnimationPanel::moveCurrent(int distance)
 {
     const int row = currentIndex().row();
     const int target = row + distance;
-    if (m_document && row >= 0 && moveAnimation(m_document->animations(), row, target)) {
-        requestRow(target);
-        selectRows(target, 1);
+    if (!m_document || row < 0 || target < 0 || target >= count()) {
+        return;
     }
+    {
+        const UndoStep step(m_document, row, tr("Move animation"));
+        moveAnimation(m_document->animations(), row, target);
+    }
+    requestRow(target);
+    selectRows(target, 1);
 }
 
 void AnimationPanel::selectRows(int first, int count)

@@ -72,14 +72,7 @@ bool AnimationRows::dropMimeData(const QMimeData* data, Qt::DropAction action, i
     const auto above = int(std::count_if(rows.begin(), rows.end(),
                                          [target](int dragged) { return dragged < target; }));
     const int first = target - above;
-    m_animations->beginChange(tr("Move animations"));
-    for (int i = above - 1; i >= 0; --i) {
-        moveAnimation(m_animations, rows[i], first + i);
-    }
-    for (int i = above; i < rows.size(); ++i) {
-        moveAnimation(m_animations, rows[i], first + i);
-    }
-    m_animations->endChange();
+    moveRows(rows, above, first);
     emit rowsDropped(first, rows.size());
     return false;
 }

@@ -34,9 +34,7 @@ Usage parse(const QStringList& arguments)
     Usage usage;
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments[i];
-        if (argument == QLatin1String("-platform") || argument == QLatin1String("-style")) {
-            ++i;  // Qt has read it.
-        } else if (argument == QLatin1String("--screenshot")) {
+        if (argument == QLatin1String("--screenshot")) {
             usage.picture = arguments.value(++i);
             if (usage.picture.isEmpty()) {
                 usage.error = QStringLiteral("--screenshot needs the name of a picture");

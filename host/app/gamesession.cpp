@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace App {
 
 using Family::FamilyDocument;
@@ -134,6 +136,28 @@ void GameSession::closeProject(FamilyProject* project)
     m_projects.removeOne(project);
     project->release();
     delete project;
+}
+
+QString GameSession::closedProjectOf(const QString& fileName) const
+{
+    if (!m_game) {
+        return {};
+    }
+    const QString file = cleaned(fileName);
+    QStringList mainFiles = FamilyParentProject::mainFiles(folder());
+    std::stable_partition(mainFiles.begin(), mainFiles.end(), [&file](const QString& mainFile) {
+        return file.startsWith(QFileInfo(mainFile).absolutePath() + QLatin1Char('/'));
+    });
+    for (const QString& mainFile : qAsConst(mainFiles)) {
+        QStringList named;
+        m_game->projectFiles(mainFile, named);
+        for (const QString& name : qAsConst(named)) {
+            if (!projectOf(mainFile) && isSameFile(cleaned(folder() + name), file)) {
+                return mainFile;
+            }
+        }
+    }
+    return {};
 }
 
 FamilyDocument* GameSession::document(const QString& fileName, const FamilyProject* preferred,

@@ -55,6 +55,11 @@ public:
 
     void closeProject(Family::FamilyProject* project);
 
+    /// The main file of the closed project that a file belongs to, from what the
+    /// files of projects name; those in the folders around the file come first.
+    /// Empty if there is none.
+    QString closedProjectOf(const QString& fileName) const;
+
     /// The document of a file in the open projects: in `preferred`, if it has it.
     /// With `load`, files that a project has come to name are loaded first. Null
     /// if there is none.

@@ -228,10 +228,25 @@ bool MainWindow::openFile(const QString& fileName)
         document = m_session->document(fileName, currentProject(), true);
     }
     if (!document) {
+        document = openFileOfClosedProject(fileName);
+    }
+    if (!document) {
         return tellWhyNot(fileName);
     }
     showDocument(document);
     return true;
+}
+
+FamilyDocument* MainWindow::openFileOfClosedProject(const QString& fileName)
+{
+    QString mainFile;
+    {
+        const WaitCursor cursor;
+        mainFile = m_session->closedProjectOf(fileName);
+    }
+    return !mainFile.isEmpty() && openProject(mainFile)
+               ? m_session->document(fileName, m_session->projectOf(mainFile))
+               : nullptr;
 }
 
 bool MainWindow::openProject(const QString& mainFile)
@@ -259,7 +274,7 @@ bool MainWindow::tellWhyNot(const QString& fileName)
 {
     const QString shown = m_session->shownPath(fileName);
     if (QFileInfo::exists(fileName)) {
-        statusBar()->showMessage(tr("%1 is no code file, and cannot be shown as text.").arg(shown));
+        statusBar()->showMessage(tr("%1 cannot be shown: no project names it as a code file.").arg(shown));
     } else {
         Zorv::Dialogs::instance()->warning(
             tr("Open file"), tr("There is no file %1. Correct the path in the main file of the "

@@ -39,12 +39,12 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Opens a game folder, or the one around a main file together with that
-    /// file's project. Tells the person what is wrong, and is false then.
+    /// Opens a game folder, or the one around a code file together with the file
+    /// and its project. Tells the person what is wrong, and is false then.
     bool openPath(const QString& path);
 
-    /// Shows a file of the game: opens the project of a main file. False if there
-    /// is nothing to show; the person is told.
+    /// Shows a file of the game, and opens its project if that is closed. False if
+    /// there is nothing to show; the person is told.
     bool openFile(const QString& fileName);
 
     /// Brings the text of an open project to the front. A file that would not come
@@ -118,6 +118,7 @@ private:
 
     bool openFolder(const QString& folder);
     bool openProject(const QString& mainFile);
+    Family::FamilyDocument* openFileOfClosedProject(const QString& fileName);
     bool tellWhyNot(const QString& fileName);
     void closeDocument(Family::FamilyDocument* document);
     void showPlace(Zorv::CodeDocument* document, int line, int column, int length);
