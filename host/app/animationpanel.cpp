@@ -113,7 +113,7 @@ void AnimationPanel::addNew()
     }
     FamilyAnimations* list = m_document->animations();
     {
-        const UndoStep step(m_document, currentIndex().row(), tr("Add animation"));
+        const UndoStep step(m_document->animations(), currentIndex().row(), tr("Add animation"));
         for (int ends = lineEndsBeforeNew(m_document); ends > 0; --ends) {
             m_document->insert(QStringLiteral("\n"));
         }
@@ -131,9 +131,9 @@ void AnimationPanel::duplicateCurrent()
     FamilyAnimations* list = m_document->animations();
     bool isDone = false;
     {
-        const UndoStep step(m_document, row, tr("Duplicate animation"));
-        isDone = list->duplicateAnimation(
-            row, freeIdentifier(list, list->animation(row)->identifier()));
+        const UndoStep step(m_document->animations(), row, tr("Duplicate animation"));
+        isDone =
+            list->duplicateAnimation(row, freeIdentifier(list, list->animation(row)->identifier()));
     }
     if (isDone) {
         requestIdentifier(row + 1);
@@ -147,7 +147,8 @@ void AnimationPanel::removeSelected()
         return;
     }
     {
-        const UndoStep step(m_document, currentIndex().row(), tr("Remove animations"));
+        const UndoStep step(m_document->animations(), currentIndex().row(),
+                            tr("Remove animations"));
         Family::removeAnimations(m_document->animations(), places);
     }
     const int next = std::min(*std::min_element(places.begin(), places.end()), count() - 1);
@@ -169,7 +170,7 @@ void AnimationPanel::moveDown()
 void AnimationPanel::sortAll()
 {
     if (m_document) {
-        const UndoStep step(m_document, currentIndex().row(), tr("Sort animations"));
+        const UndoStep step(m_document->animations(), currentIndex().row(), tr("Sort animations"));
         m_document->animations()->autoOrganize();
     }
 }
@@ -198,7 +199,7 @@ void AnimationPanel::moveCurrent(int distance)
         return;
     }
     {
-        const UndoStep step(m_document, row, tr("Move animation"));
+        const UndoStep step(m_document->animations(), row, tr("Move animation"));
         moveAnimation(m_document->animations(), row, target);
     }
     requestRow(target);

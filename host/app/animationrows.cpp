@@ -1,5 +1,6 @@
 #include "app/animationrows.h"
 
+#include "app/undostep.h"
 #include "family/familyanimations.h"
 #include "family/nodes/animationnode.h"
 
@@ -72,7 +73,15 @@ bool AnimationRows::dropMimeData(const QMimeData* data, Qt::DropAction action, i
     const auto above = int(std::count_if(rows.begin(), rows.end(),
                                          [target](int dragged) { return dragged < target; }));
     const int first = target - above;
-    moveRows(rows, above, first);
+    {
+        const UndoStep step(m_animations, rows.first(), tr("Move animations"));
+        for (int i = above - 1; i >= 0; --i) {
+            moveAnimation(m_animations, rows[i], first + i);
+        }
+        for (int i = above; i < rows.size(); ++i) {
+            moveAnimation(m_animations, rows[i], first + i);
+        }
+    }
     emit rowsDropped(first, rows.size());
     return false;
 }

@@ -274,7 +274,8 @@ bool MainWindow::tellWhyNot(const QString& fileName)
 {
     const QString shown = m_session->shownPath(fileName);
     if (QFileInfo::exists(fileName)) {
-        statusBar()->showMessage(tr("%1 cannot be shown: no project names it as a code file.").arg(shown));
+        statusBar()->showMessage(
+            tr("%1 cannot be shown: no project names it as a code file.").arg(shown));
     } else {
         Zorv::Dialogs::instance()->warning(
             tr("Open file"), tr("There is no file %1. Correct the path in the main file of the "

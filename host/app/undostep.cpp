@@ -1,7 +1,6 @@
 #include "app/undostep.h"
 
 #include "family/familyanimations.h"
-#include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
 
 #include <QTextBlock>
@@ -9,23 +8,20 @@
 
 namespace App {
 
-UndoStep::UndoStep(Family::FamilyDocument* document, int row, const QString& title)
-    : m_document(document)
+UndoStep::UndoStep(Family::FamilyAnimations* list, int row, const QString& title) : m_list(list)
 {
-    const Family::FamilyAnimations* list = document->animations();
+    // Undo goes to the cursor that begins the outermost edit block. The one of the
+    // document stands wherever the last edit of any kind was.
     const bool isThere = row >= 0 && row < list->count();
-    const int line = isThere ? list->animation(row)->firstLine() : 0;
-    // Undo goes to the cursor that begins the outermost edit block. The
-    // document's own stands wherever its last edit was.
-    QTextCursor cursor(document->findBlockByNumber(line));
+    QTextCursor cursor = isThere ? QTextCursor(list->animation(row)->block()) : QTextCursor();
     cursor.beginEditBlock();
-    document->beginChange(title);
+    list->beginChange(title);
     cursor.endEditBlock();
 }
 
 UndoStep::~UndoStep()
 {
-    m_document->endChange();
+    m_list->endChange();
 }
 
 }  // namespace App

@@ -3,24 +3,23 @@
 #include <QString>
 
 namespace Family {
-class FamilyDocument;
+class FamilyAnimations;
 }
 
 namespace App {
 
-/// Edits of a text that one undo takes back, as long as the object lives. Undo
-/// brings the cursor to an animation: to its place before the edits.
+/// Edits of animations that one undo takes back, as long as the object lives. Undo
+/// brings the cursor to one of them, where it stood before the edits.
 class UndoStep
 {
 public:
-    /// `row` is the place of the animation in the list; without such a one the
-    /// cursor goes to the start of the text.
-    UndoStep(Family::FamilyDocument* document, int row, const QString& title);
+    /// `row` is the place of that animation; no such place leaves the cursor to chance.
+    UndoStep(Family::FamilyAnimations* list, int row, const QString& title);
     ~UndoStep();
 
 private:
     Q_DISABLE_COPY(UndoStep)
-    Family::FamilyDocument* m_document;
+    Family::FamilyAnimations* m_list;
 };
 
 }  // namespace App

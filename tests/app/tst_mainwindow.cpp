@@ -39,6 +39,7 @@ private slots:
     void refusesWhatIsNoGame();
     void opensAProjectByDoubleClick();
     void opensTheGameAroundAMainFile();
+    void opensTheProjectOfAFile();
     void tellsOfAFileThatIsMissing();
     void showsAFileThatIsNamedNow();
     void savesByKey();
@@ -156,6 +157,24 @@ void tst_MainWindow::opensTheGameAroundAMainFile()
     QVERIFY(window()->openPath(m_game->oda()));
     QCOMPARE(window()->session()->folder(), m_game->root() + QLatin1Char('/'));
     QCOMPARE(m->document()->fileName(), m_game->oda());
+}
+
+/// A file opens the closed project that names it, the one around it first.
+void tst_MainWindow::opensTheProjectOfAFile()
+{
+    m_game->write(QStringLiteral("shared/all.code"), "[palette one]\r\n");
+    m_game->write(QStringLiteral("characters/aki/aki.character"),
+                  "[files]\r\ncode = \"../../shared/all.code\"\r\n"
+                  "code = \"../ryn/moves.code\"\r\n");
+    const QString shared = m_game->path(QStringLiteral("shared/all.code"));
+    const QString moves = m_game->path(QStringLiteral("characters/ryn/moves.code"));
+    QVERIFY(window()->openPath(moves));
+    QCOMPARE(m->document()->fileName(), moves);
+    QCOMPARE(window()->currentProject()->fileName(), m_game->ryn());
+    QVERIFY(window()->openPath(shared));
+    QCOMPARE(m->document()->fileName(), shared);
+    QCOMPARE(window()->session()->projects().size(), 1);
+    QCOMPARE(m->dialogs.count(), 0);
 }
 
 void tst_MainWindow::tellsOfAFileThatIsMissing()

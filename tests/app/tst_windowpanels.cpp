@@ -200,7 +200,7 @@ void tst_WindowPanels::changesAnimations_data()
     QTest::newRow("down at the end") << "anim_down" << 2 << "1 2 3" << 2;
 }
 
-/// By the menu; one undo brings the old text back.
+/// By the menu; one undo brings the old text back, and the cursor to the animation.
 void tst_WindowPanels::changesAnimations()
 {
     QFETCH(QString, action);
@@ -209,6 +209,7 @@ void tst_WindowPanels::changesAnimations()
     QFETCH(int, current);
     openAnimations();
     const QString before = m->document()->text();
+    const int line = m->document()->animations()->animation(row)->firstLine();
     QTest::mouseClick(animations()->viewport(), Qt::LeftButton, {},
                       animations()->visualRect(animations()->model()->index(row, 0)).center());
     QAction* trigger = m->action(action.toLatin1().constData());
@@ -218,6 +219,7 @@ void tst_WindowPanels::changesAnimations()
     QCOMPARE(animations()->currentIndex().row(), current);
     if (m->document()->text() != before) {
         m->action("undo")->trigger();
+        QCOMPARE(m->edit()->place().line, line);
     }
     QCOMPARE(m->document()->text(), before);
     QCOMPARE(order(), QStringLiteral("1 2 3"));
