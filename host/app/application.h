@@ -7,8 +7,7 @@ class QApplication;
 namespace App {
 
 /// Shows the window and runs until it is closed; gives the exit status of the
-/// program. `arguments`, without the program's name
-/// and Qt's own options, are
+/// program. `arguments`, without the program's name and Qt's own options, are
 ///
 ///     [GAME]                        the game to open, else the last one
 ///     --screenshot FILE.png [GAME]  draws the window to a picture and ends

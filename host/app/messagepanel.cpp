@@ -4,7 +4,9 @@
 #include "core/messagelist.h"
 #include "core/messages.h"
 
+#include <QHelpEvent>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -76,6 +78,18 @@ QString MessagePanel::summary() const
     const QString errorText = errors == 1 ? tr("1 error") : tr("%1 errors").arg(errors);
     const QString warningText = warnings == 1 ? tr("1 warning") : tr("%1 warnings").arg(warnings);
     return tr("%1, %2").arg(errorText, warningText);
+}
+
+bool MessagePanel::viewportEvent(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip) {
+        return QListView::viewportEvent(event);
+    }
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QString text = indexAt(help->pos()).data().toString().toHtmlEscaped();
+    QToolTip::showText(help->globalPos(), text.isEmpty() ? text : QLatin1String("<qt>") + text,
+                       viewport());
+    return true;
 }
 
 void MessagePanel::currentChanged(const QModelIndex& current, const QModelIndex& previous)

@@ -38,6 +38,8 @@ signals:
     void summaryChanged();
 
 protected:
+    /// A message that is too long for its row is read in its tool tip.
+    bool viewportEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:

@@ -118,6 +118,10 @@ void tst_WindowPanels::jumpsToAMessage()
     QCOMPARE(m->edit()->place().line, 4);
     QCOMPARE(m->edit()->place().column, 8);
     QVERIFY(m->edit()->hasFocus());
+    const QPoint place = panel->visualRect(panel->model()->index(1, 0)).center();
+    QHelpEvent help(QEvent::ToolTip, place, panel->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(panel->viewport(), &help);
+    QTRY_VERIFY(QToolTip::text().contains(QLatin1String("'some'")));
     panel->setFocus();
     panel->setCurrentIndex(panel->model()->index(0, 0));
     QTest::keyClick(panel, Qt::Key_Return);
