@@ -1,6 +1,7 @@
 #include "windowfixture.h"
 
 #include "core/messagelist.h"
+#include "family/nodes/animationnode.h"
 
 #include <QAction>
 #include <QDragEnterEvent>
