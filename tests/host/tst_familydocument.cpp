@@ -282,7 +282,7 @@ void TestFamilyDocument::runs()
 {
     QTest::addColumn<int>("run");
     // More of them look for rarer faults: ZORV_TEST_RUNS=500.
-    const int count = qMax(12, qEnvironmentVariableIntValue("ZORV_TEST_RUNS"));
+    const int count = qMax(8, qEnvironmentVariableIntValue("ZORV_TEST_RUNS"));
     for (int run = 0; run < count; ++run) {
         QTest::addRow("run %d", run) << run;
     }
@@ -302,7 +302,7 @@ void TestFamilyDocument::truthAfterEdits()
     const auto mode = QAbstractItemModelTester::FailureReportingMode::QtTest;
     QAbstractItemModelTester listTester(document.animations(), mode);
     QAbstractItemModelTester messageTester(document.messages(), mode);
-    for (int step = 0; step < 200; ++step) {
+    for (int step = 0; step < 100; ++step) {
         const QString before = document.text();
         const bool block = random.bounded(4) == 0;
         QTextCursor cursor(&document);
@@ -330,7 +330,7 @@ void TestFamilyDocument::truthAfterTreeEdits()
     QRandomGenerator random(Seed + 100 + quint32(run));
     FamilyDocument document(FileKind::Character);
     document.fromString(randomLines(random, 70));
-    for (int step = 0; step < 150; ++step) {
+    for (int step = 0; step < 80; ++step) {
         const QString before = document.text();
         const QStringList dumpBefore = FamilyDump::of(&document);
         const int stepsBefore = document.availableUndoSteps();
@@ -372,7 +372,7 @@ void TestFamilyDocument::truthAfterListEdits()
     document.fromString(randomAnimations(random, 8));
     QAbstractItemModelTester tester(document.animations(),
                                     QAbstractItemModelTester::FailureReportingMode::QtTest);
-    for (int step = 0; step < 60; ++step) {
+    for (int step = 0; step < 40; ++step) {
         const QString before = document.text();
         const QStringList dumpBefore = FamilyDump::of(&document);
         const int stepsBefore = document.availableUndoSteps();
