@@ -20,8 +20,9 @@ std::unique_ptr<Messages> makeMessages(int lines)
 {
     auto messages = std::make_unique<Messages>(nullptr);
     messages->beginChange();
-    for (int line = 0; line < lines; ++line)
+    for (int line = 0; line < lines; ++line) {
         messages->insert(Message::Error, QStringLiteral("unknown word"), line, 0);
+    }
     messages->endChange();
     return messages;
 }
@@ -52,8 +53,9 @@ void countNotifications()
     QObject::connect(project->messages(), &MessageList::updated, [&updates] { ++updates; });
     const double time = Bench::once([messages] {
         messages->beginChange();
-        for (int line = 0; line < 10000; ++line)
+        for (int line = 0; line < 10000; ++line) {
             messages->insert(Message::Error, QStringLiteral("unknown word"), line, 0);
+        }
         messages->endChange();
     });
     Bench::figure("10,000 messages: the project's list is told", updates, "times");

@@ -26,12 +26,14 @@ struct Game
     explicit Game(int filesOfProject) : perProject(filesOfProject)
     {
         for (int i = 0; i < Projects; ++i) {
-            for (int k = 1; k < perProject; ++k)
+            for (int k = 1; k < perProject; ++k) {
                 writeFile(folder(i) + fileName(k));
+            }
             writeFile(folder(i) + QStringLiteral("main.code"));
         }
-        for (int i = 0; i < 40; ++i)
+        for (int i = 0; i < 40; ++i) {
             writeFile(stage(i));
+        }
         parent = std::make_unique<TestParent>(dir.path());
     }
 
@@ -45,8 +47,9 @@ struct Game
     TestProject* openProject(int i)
     {
         QString files;
-        for (int k = 1; k < perProject; ++k)
+        for (int k = 1; k < perProject; ++k) {
             files += QStringLiteral("32 ") + fileName(k) + QLatin1Char('\n');
+        }
         const QString main = folder(i) + QStringLiteral("main.code");
         return parent->open(QDir(dir.path()).relativeFilePath(main), files);
     }
@@ -56,8 +59,9 @@ struct Game
         parent->addPath(QStringLiteral("chars"), ParentProject::ListFolders, {});
         parent->addPath(QStringLiteral("stages"), ParentProject::ListFiles,
                         {QStringLiteral("*.stage")});
-        for (int i = 0; i < Projects; ++i)
+        for (int i = 0; i < Projects; ++i) {
             last = openProject(i);
+        }
     }
 
     QTemporaryDir dir;

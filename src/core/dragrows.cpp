@@ -67,8 +67,9 @@ private:
     bool skipEach(quint32 count, Step step)
     {
         for (quint32 i = 0; i < count; ++i) {
-            if (!isGood() || !step())
+            if (!isGood() || !step()) {
                 return false;
+            }
         }
         return isGood();
     }
@@ -84,13 +85,16 @@ private:
     {
         auto type = int(read<quint32>());
         read<quint8>();
-        if (!isGood() || depth > MaxDepth)
+        if (!isGood() || depth > MaxDepth) {
             return false;
-        if (type == QMetaType::UnknownType)
+        }
+        if (type == QMetaType::UnknownType) {
             return true;
+        }
         for (const auto& entry : fixedSizes) {
-            if (entry.type == type)
+            if (entry.type == type) {
                 return skip(quint32(entry.size));
+            }
         }
         return skipVaried(type, depth);
     }
@@ -142,15 +146,18 @@ private:
     // Chunks of PNG up to the one that ends it; nothing for a null image.
     bool skipImage()
     {
-        if (read<qint32>() == 0 || !skip(PngSignature))
+        if (read<qint32>() == 0 || !skip(PngSignature)) {
             return isGood();
+        }
         for (;;) {
             const auto size = read<quint32>();
             char name[4];
-            if (m_in.readRawData(name, 4) != 4 || !skip(size) || !skip(4))
+            if (m_in.readRawData(name, 4) != 4 || !skip(size) || !skip(4)) {
                 return false;
-            if (qstrncmp(name, "IEND", 4) == 0)
+            }
+            if (qstrncmp(name, "IEND", 4) == 0) {
                 return true;
+            }
         }
     }
 
@@ -158,10 +165,12 @@ private:
     bool skipIcon()
     {
         const auto engine = read<QString>();
-        if (engine.isEmpty())
+        if (engine.isEmpty()) {
             return isGood();
-        if (engine != QLatin1String("QPixmapIconEngine"))
+        }
+        if (engine != QLatin1String("QPixmapIconEngine")) {
             return false;
+        }
         return skipEach(read<quint32>(),
                         [this] { return skipImage() && skipSized() && skip(8 + 4 + 4); });
     }
@@ -170,8 +179,9 @@ private:
     {
         const auto name = read<QByteArray>();
         const int type = QMetaType::type(name.constData());
-        if (!isGood() || type < QMetaType::User)
+        if (!isGood() || type < QMetaType::User) {
             return false;
+        }
         QVariant value(type, nullptr);
         return QMetaType::load(m_in, type, value.data()) && isGood();
     }
@@ -179,8 +189,9 @@ private:
     bool skipBrush()
     {
         const auto style = read<quint8>();
-        if (!skip(11) || (style >= Qt::LinearGradientPattern && style != Qt::TexturePattern))
+        if (!skip(11) || (style >= Qt::LinearGradientPattern && style != Qt::TexturePattern)) {
             return false;
+        }
         return (style != Qt::TexturePattern || skipImage()) && skip(TransformSize);
     }
 
@@ -196,8 +207,9 @@ QVector<int> draggedRows(const QByteArray& payload)
     while (!in.atEnd()) {
         qint32 row, column;
         in >> row >> column;
-        if (in.status() != QDataStream::Ok || !ValueSkipper(in).skipRoles())
+        if (in.status() != QDataStream::Ok || !ValueSkipper(in).skipRoles()) {
             return {};
+        }
         rows.append(row);
     }
     return rows;

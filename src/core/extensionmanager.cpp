@@ -26,8 +26,9 @@ ExtensionManager::ExtensionManager(const QString&) {}
 
 void ExtensionManager::add(Extension* extension)
 {
-    if (extension && isKnown(extension->type()))
+    if (extension && isKnown(extension->type())) {
         list(extension->type()).append(extension);
+    }
 }
 
 QList<Extension*>& ExtensionManager::list(Extension::Type type)

@@ -81,8 +81,10 @@ void takeOwnerAndMode(QFile& file, const QString& from)
 {
 #ifdef Q_OS_UNIX
     struct stat old, now;
-    if (::stat(QFile::encodeName(from).constData(), &old) != 0 || ::fstat(file.handle(), &now) != 0)
+    if (::stat(QFile::encodeName(from).constData(), &old) != 0 ||
+        ::fstat(file.handle(), &now) != 0) {
         return;
+    }
     mode_t mode = old.st_mode & 07777;
     if (old.st_uid != now.st_uid || old.st_gid != now.st_gid) {
         const bool ownerTaken = ::fchown(file.handle(), old.st_uid, old.st_gid) == 0;
@@ -90,11 +92,13 @@ void takeOwnerAndMode(QFile& file, const QString& from)
             // The members of another group get no more than everybody had.
             mode = (mode & ~mode_t(070)) | ((mode & 07) << 3 & mode);
         }
-        if (!ownerTaken)
+        if (!ownerTaken) {
             mode &= 01777;
+        }
     }
-    if (::fchmod(file.handle(), mode) != 0)
+    if (::fchmod(file.handle(), mode) != 0) {
         file.setPermissions(QFileInfo(from).permissions());
+    }
 #else
     file.setPermissions(QFileInfo(from).permissions());
 #endif
@@ -124,8 +128,9 @@ void syncFolder(const QString& folder)
 #ifdef Q_OS_UNIX
     const int handle =
         ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0)
+    if (handle < 0) {
         return;
+    }
     ::fsync(handle);
     ::close(handle);
 #else
@@ -137,8 +142,9 @@ bool rename(const QString& from, const QString& to, QString* reason)
 {
     std::error_code error;
     fs::rename(toNative(from), toNative(to), error);
-    if (error)
+    if (error) {
         *reason = systemText(error.value());
+    }
     return !error;
 }
 

@@ -27,8 +27,9 @@ bool copyBlocks(QIODevice& source, QIODevice& target, QString& writeError)
     QByteArray block(CopyBlock, Qt::Uninitialized);
     while (!source.atEnd()) {
         const qint64 count = source.read(block.data(), block.size());
-        if (count <= 0)
+        if (count <= 0) {
             return false;
+        }
         if (target.write(block.constData(), count) != count) {
             writeError = target.errorString();
             break;
@@ -55,8 +56,9 @@ void skipRead(QIODevice* device, unsigned count)
     while (count > 0) {
         const unsigned size = qMin<unsigned>(count, sizeof buffer);
         // Behind the end of a file there is nothing to come.
-        if (device->read(buffer, size) <= 0 && !device->isSequential())
+        if (device->read(buffer, size) <= 0 && !device->isSequential()) {
             return;
+        }
         count -= size;
     }
 }
@@ -73,22 +75,26 @@ bool copyFile(Archive& source, const QString& sourceName, Archive& target,
     QIODevice* from = source.openFile(sourceName, QIODevice::ReadOnly, &readError);
     QIODevice* to = target.openFile(targetName, QIODevice::WriteOnly, &writeError);
     const bool opened = from && to;
-    if (!from && readError.isEmpty())
+    if (!from && readError.isEmpty()) {
         readError =
             readFailure(sourceName, QCoreApplication::translate("Zorv::Files", "It does not open"));
-    else if (opened && !copyBlocks(*from, *to, writeError))
+    } else if (opened && !copyBlocks(*from, *to, writeError)) {
         readError = readFailure(sourceName, from->errorString());
+    }
 
     // What was not read whole must not take the place of what is there.
     auto* safeTarget = qobject_cast<SafeFile*>(to);
-    if (safeTarget && !readError.isEmpty())
+    if (safeTarget && !readError.isEmpty()) {
         safeTarget->fail(readError);
+    }
     QString closeError;
     source.closeFile(from);
-    if (!target.closeFile(to, &closeError))
+    if (!target.closeFile(to, &closeError)) {
         writeError = closeError;
-    if (error)
+    }
+    if (error) {
         *error = readError.isEmpty() ? writeError : readError;
+    }
     return opened;
 }
 

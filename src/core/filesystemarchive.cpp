@@ -65,10 +65,12 @@ QIODevice* FileSystemArchive::openFile(const QString& path, QIODevice::OpenMode 
     forcePath(path);
     if (mode & (QIODevice::WriteOnly | QIODevice::Append | QIODevice::NewOnly)) {
         auto file = std::make_unique<SafeFile>(path);
-        if (file->open(mode))
+        if (file->open(mode)) {
             return file.release();
-        if (error)
+        }
+        if (error) {
             *error = file->failure();
+        }
         return nullptr;
     }
     if (!info.isFile()) {
@@ -78,8 +80,9 @@ QIODevice* FileSystemArchive::openFile(const QString& path, QIODevice::OpenMode 
         return nullptr;
     }
     auto file = std::make_unique<QFile>(path);
-    if (file->open(mode & ~QIODevice::Truncate))
+    if (file->open(mode & ~QIODevice::Truncate)) {
         return file.release();
+    }
     setReadError(error, path, file->errorString());
     return nullptr;
 }
@@ -88,10 +91,12 @@ bool FileSystemArchive::closeFile(QIODevice* device, QString* error)
 {
     const std::unique_ptr<QIODevice> owned(device);
     auto* file = qobject_cast<SafeFile*>(device);
-    if (!file || file->commit())
+    if (!file || file->commit()) {
         return true;
-    if (error)
+    }
+    if (error) {
         *error = file->failure();
+    }
     return false;
 }
 

@@ -27,8 +27,9 @@ bool isEnabled()
 QString nearestFolder(const QString& path)
 {
     QString folder = QFileInfo(path).absolutePath();
-    while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot())
+    while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot()) {
         folder = QFileInfo(folder).absolutePath();
+    }
     return folder;
 }
 
@@ -46,24 +47,28 @@ void FileWatcherManager::remove(FileWatchObject* object)
 
 void FileWatcherManager::rename(const QString& from, const QString& to)
 {
-    if (from == to)
+    if (from == to) {
         return;
-    if (!from.isEmpty() && objectsOf(from).size() < 2)
+    }
+    if (!from.isEmpty() && objectsOf(from).size() < 2) {
         unwatch(from);
+    }
     watch(to);
 }
 
 void FileWatcherManager::renew(const QString& path)
 {
     watch(path);
-    if (!isEnabled())
+    if (!isEnabled()) {
         return;
+    }
     // A write that came before its watch gives no signal that would end the
     // pause. One that gives a signal has given it when the first moment is over,
     // however long the program was busy.
     for (FileWatchObject* object : objectsOf(path)) {
-        if (object->m_paused)
+        if (object->m_paused) {
             later(object, [this, object] { resumeLater(object); });
+        }
     }
 }
 
@@ -71,20 +76,24 @@ void FileWatcherManager::fileChanged(const QString& path)
 {
     const QList<FileWatchObject*> objects = objectsOf(path);
     unwatch(path);
-    if (objects.isEmpty())
+    if (objects.isEmpty()) {
         return;
+    }
     watch(path);
-    if (!QFileInfo::exists(path) || !isEnabled())
+    if (!QFileInfo::exists(path) || !isEnabled()) {
         return;
+    }
     QList<FileWatchObject*> changed;
     for (FileWatchObject* object : objects) {
-        if (object->m_paused)
+        if (object->m_paused) {
             resumeLater(object);
-        else
+        } else {
             changed.append(object);
+        }
     }
-    if (!changed.isEmpty())
+    if (!changed.isEmpty()) {
         askToReload(path, changed);
+    }
 }
 
 void FileWatcherManager::folderChanged()
@@ -92,21 +101,25 @@ void FileWatcherManager::folderChanged()
     const QSet<QString> missing = m_missing;
     QPointer<FileWatcherManager> self(this);
     for (const QString& path : missing) {
-        if (self && m_missing.contains(path) && QFileInfo::exists(path))
+        if (self && m_missing.contains(path) && QFileInfo::exists(path)) {
             fileChanged(path);
+        }
     }
-    if (self)
+    if (self) {
         watchFolders();
+    }
 }
 
 void FileWatcherManager::watch(const QString& path)
 {
-    if (path.isEmpty() || !watcher())
+    if (path.isEmpty() || !watcher()) {
         return;
+    }
     if (QFileInfo::exists(path)) {
         m_missing.remove(path);
-        if (!m_watcher->files().contains(path))
+        if (!m_watcher->files().contains(path)) {
             m_watcher->addPath(path);
+        }
     } else {
         m_missing.insert(path);
     }
@@ -115,34 +128,41 @@ void FileWatcherManager::watch(const QString& path)
 
 void FileWatcherManager::unwatch(const QString& path)
 {
-    if (m_watcher && m_watcher->files().contains(path))
+    if (m_watcher && m_watcher->files().contains(path)) {
         m_watcher->removePath(path);
-    if (m_missing.remove(path))
+    }
+    if (m_missing.remove(path)) {
         watchFolders();
+    }
 }
 
 void FileWatcherManager::watchFolders()
 {
     const QStringList watched = m_watcher->directories();
-    if (m_missing.isEmpty() && watched.isEmpty())
+    if (m_missing.isEmpty() && watched.isEmpty()) {
         return;
-    QSet<QString> wanted;
-    for (const QString& path : qAsConst(m_missing))
-        wanted.insert(nearestFolder(path));
-    for (const QString& folder : watched) {
-        if (!wanted.remove(folder))
-            m_watcher->removePath(folder);
     }
-    for (const QString& folder : qAsConst(wanted))
+    QSet<QString> wanted;
+    for (const QString& path : qAsConst(m_missing)) {
+        wanted.insert(nearestFolder(path));
+    }
+    for (const QString& folder : watched) {
+        if (!wanted.remove(folder)) {
+            m_watcher->removePath(folder);
+        }
+    }
+    for (const QString& folder : qAsConst(wanted)) {
         m_watcher->addPath(folder);
+    }
 }
 
 QList<FileWatchObject*> FileWatcherManager::objectsOf(const QString& path) const
 {
     QList<FileWatchObject*> result;
     for (FileWatchObject* object : m_objects) {
-        if (object->fileName() == path)
+        if (object->fileName() == path) {
             result.append(object);
+        }
     }
     return result;
 }
@@ -155,16 +175,18 @@ void FileWatcherManager::resumeLater(FileWatchObject* object)
 void FileWatcherManager::later(FileWatchObject* object, const std::function<void()>& action)
 {
     QTimer::singleShot(BurstMilliseconds, this, [this, object, action] {
-        if (m_objects.contains(object))
+        if (m_objects.contains(object)) {
             action();
+        }
     });
 }
 
 void FileWatcherManager::askToReload(const QString& path, const QList<FileWatchObject*>& changed)
 {
     // The answer to the open question will read the newest content.
-    if (m_asking.contains(path))
+    if (m_asking.contains(path)) {
         return;
+    }
     m_asking.insert(path);
     QPointer<FileWatcherManager> self(this);
     const Dialogs::Button answer = Dialogs::instance()->question(
@@ -173,14 +195,16 @@ void FileWatcherManager::askToReload(const QString& path, const QList<FileWatchO
            "file now?")
             .arg(path),
         Dialogs::Yes | Dialogs::No, Dialogs::No);
-    if (!self)
+    if (!self) {
         return;
+    }
     m_asking.remove(path);
     for (FileWatchObject* object : changed) {
         // While the question was open, a document can have been closed, another one
         // made in its place, or this one saved under another name.
-        if (answer == Dialogs::Yes && self && objectsOf(path).contains(object))
+        if (answer == Dialogs::Yes && self && objectsOf(path).contains(object)) {
             object->reload();
+        }
     }
 }
 

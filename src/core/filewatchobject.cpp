@@ -13,8 +13,9 @@ FileWatcherManager* s_manager = nullptr;
 
 FileWatchObject::FileWatchObject()
 {
-    if (s_refCount++ == 0)
+    if (s_refCount++ == 0) {
         s_manager = new FileWatcherManager;
+    }
     s_manager->add(this);
 }
 
@@ -29,15 +30,17 @@ FileWatchObject::~FileWatchObject()
 
 bool FileWatchObject::fromFile(Archive&, const QString& newName, bool asCopy)
 {
-    if (!asCopy)
+    if (!asCopy) {
         s_manager->rename(fileName(), newName);
+    }
     return true;
 }
 
 bool FileWatchObject::toFile(Archive& archive, const QString& newName, bool asCopy)
 {
-    if (asCopy)
+    if (asCopy) {
         return true;
+    }
     FileWatchObject::fromFile(archive, newName, false);
     m_paused = true;
     return true;

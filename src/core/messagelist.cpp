@@ -29,8 +29,9 @@ MessageList::MessageList(Project* project) : m_project(project) {}
 
 MessageList::~MessageList()
 {
-    for (Messages* messages : qAsConst(m_lists))
+    for (Messages* messages : qAsConst(m_lists)) {
         messages->m->list = nullptr;
+    }
 }
 
 Project* MessageList::project() const
@@ -56,8 +57,9 @@ int MessageList::warningCount() const
 void MessageList::registerMessages(Messages* messages)
 {
     MessageList* former = messages->m->list;
-    if (former && former != this)
+    if (former && former != this) {
         former->unregisterMessages(messages);
+    }
     messages->m->list = this;
     m_lists.append(messages);
     m_startsStale = true;
@@ -98,22 +100,26 @@ Message MessageList::messageAt(int row, FileID& id) const
 {
     int index = 0;
     const Messages* messages = messagesAt(row, &index);
-    if (!messages)
+    if (!messages) {
         return {};
-    if (m_project)
+    }
+    if (m_project) {
         id = m_project->fileID(messages->file());
+    }
     return messages->at(index);
 }
 
 Messages* MessageList::messagesAt(int row, int* index) const
 {
     const QVector<int>& first = starts();
-    if (row < 0 || row >= first.last())
+    if (row < 0 || row >= first.last()) {
         return nullptr;
+    }
     const auto next = std::upper_bound(first.begin(), first.end(), row);
     const int place = static_cast<int>(next - first.begin()) - 1;
-    if (index)
+    if (index) {
         *index = row - first.at(place);
+    }
     return m_lists.at(place);
 }
 
@@ -124,15 +130,18 @@ int MessageList::rowCount(const QModelIndex& parent) const
 
 QVariant MessageList::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::DecorationRole))
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::DecorationRole)) {
         return {};
+    }
     int place = 0;
     const Messages* messages = messagesAt(index.row(), &place);
-    if (!messages)
+    if (!messages) {
         return {};
+    }
     const Message message = messages->at(place);
-    if (role == Qt::DecorationRole)
+    if (role == Qt::DecorationRole) {
         return resourceIcon(hostIconPath(message.type));
+    }
     return QStringLiteral("%1 (%2) : %3")
         .arg(messages->fileString(), QString::number(message.line + 1), message.text);
 }
@@ -140,12 +149,14 @@ QVariant MessageList::data(const QModelIndex& index, int role) const
 // Inside a frame of changes the sizes differ from those of the last update.
 const QVector<int>& MessageList::starts() const
 {
-    if (!m_startsStale)
+    if (!m_startsStale) {
         return m_starts;
+    }
     m_starts.resize(m_lists.size() + 1);
     m_starts[0] = 0;
-    for (int i = 0; i < m_lists.size(); ++i)
+    for (int i = 0; i < m_lists.size(); ++i) {
         m_starts[i + 1] = m_starts.at(i) + m_lists.at(i)->count(Message::AllTypes);
+    }
     m_startsStale = false;
     return m_starts;
 }

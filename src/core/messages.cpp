@@ -43,8 +43,9 @@ Message makeMessage(Message::Type type, const QString& text, int line, int colum
 
 void MessagesPrivate::count(Message::Type type, int by)
 {
-    if (type >= Message::Error && type < Message::AllTypes)
+    if (type >= Message::Error && type < Message::AllTypes) {
         counts[type] += by;
+    }
 }
 
 Messages::Messages(ProjectFile* file) : m(std::make_unique<MessagesPrivate>())
@@ -54,8 +55,9 @@ Messages::Messages(ProjectFile* file) : m(std::make_unique<MessagesPrivate>())
 
 Messages::~Messages()
 {
-    if (m->list)
+    if (m->list) {
         m->list->unregisterMessages(this);
+    }
 }
 
 ProjectFile* Messages::file() const
@@ -66,18 +68,21 @@ ProjectFile* Messages::file() const
 QString Messages::fileString() const
 {
     const Project* project = m->list ? m->list->project() : nullptr;
-    if (!project)
+    if (!project) {
         return {};
+    }
     const FileID::Type type = project->fileID(m->file).lowest();
-    if (!type)
+    if (!type) {
         return {};
+    }
     return project->fileTitle(type, project->filesByType(type).indexOf(m->file));
 }
 
 int Messages::count(Message::Type type) const
 {
-    if (type == Message::AllTypes)
+    if (type == Message::AllTypes) {
         return m->messages.size();
+    }
     return type >= Message::Error && type < Message::AllTypes ? m->counts[type] : 0;
 }
 
@@ -113,20 +118,23 @@ void Messages::clearLine(int line)
     m->insertHint = 0;
     bool removed = false;
     for (int i = m->messages.size() - 1; i >= 0 && m->messages.lineAt(i) >= line; --i) {
-        if (m->messages.lineAt(i) != line)
+        if (m->messages.lineAt(i) != line) {
             continue;
+        }
         removeMessages(i, 1);
         removed = true;
     }
-    if (removed)
+    if (removed) {
         changed();
+    }
 }
 
 void Messages::clear()
 {
     m->insertHint = 0;
-    if (m->messages.size() == 0)
+    if (m->messages.size() == 0) {
         return;
+    }
     removeMessages(0, m->messages.size());
     changed();
 }
@@ -138,18 +146,21 @@ void Messages::beginChange()
 
 void Messages::endChange()
 {
-    if (m->changeDepth > 0 && --m->changeDepth == 0)
+    if (m->changeDepth > 0 && --m->changeDepth == 0) {
         notifyUpdate();
+    }
 }
 
 void Messages::notifyUpdate()
 {
     // Who hears of it in the list of the project may close the file.
     const QPointer<Messages> self(this);
-    if (m->list)
+    if (m->list) {
         m->list->update();
-    if (self)
+    }
+    if (self) {
         emit updated();
+    }
 }
 
 void Messages::replaceLine(int line, const QVector<Message>& messages)
@@ -159,17 +170,21 @@ void Messages::replaceLine(int line, const QVector<Message>& messages)
     const int common = qMin(oldCount, messages.size());
     bool different = oldCount != messages.size();
     for (int i = 0; i < common; ++i) {
-        if (m->messages.at(first + i) == messages.at(i))
+        if (m->messages.at(first + i) == messages.at(i)) {
             continue;
+        }
         setMessage(first + i, messages.at(i));
         different = true;
     }
-    if (oldCount > common)
+    if (oldCount > common) {
         removeMessages(first + common, oldCount - common);
-    if (messages.size() > common)
+    }
+    if (messages.size() > common) {
         insertMessages(first + common, messages.mid(common));
-    if (!different)
+    }
+    if (!different) {
         return;
+    }
     m->insertHint = 0;
     changed();
 }
@@ -179,12 +194,15 @@ void Messages::moveLines(int first, int removed, int added)
     const int begin = indexOfLine(first);
     const int count = indexOfLine(first + removed) - begin;
     const bool shifts = added != removed && begin + count < m->messages.size();
-    if (count > 0)
+    if (count > 0) {
         removeMessages(begin, count);
-    if (shifts)
+    }
+    if (shifts) {
         m->messages.shiftLines(begin, added - removed);
-    if (count == 0 && !shifts)
+    }
+    if (count == 0 && !shifts) {
         return;
+    }
     m->insertHint = 0;
     changed();
 }
@@ -195,10 +213,11 @@ int Messages::indexOfLine(int line) const
     int high = m->messages.size();
     while (low < high) {
         const int middle = low + (high - low) / 2;
-        if (m->messages.lineAt(middle) < line)
+        if (m->messages.lineAt(middle) < line) {
             low = middle + 1;
-        else
+        } else {
             high = middle;
+        }
     }
     return low;
 }
@@ -210,12 +229,15 @@ int Messages::rowCount(const QModelIndex& parent) const
 
 QVariant Messages::data(const QModelIndex& index, int role) const
 {
-    if (!hasRow(index))
+    if (!hasRow(index)) {
         return {};
-    if (role == Qt::DisplayRole)
+    }
+    if (role == Qt::DisplayRole) {
         return m->messages.at(index.row()).text;
-    if (role == Qt::DecorationRole)
+    }
+    if (role == Qt::DecorationRole) {
         return resourceIcon(iconPath(m->messages.at(index.row()).type));
+    }
     return {};
 }
 
@@ -231,19 +253,22 @@ void Messages::insertMessages(int at, const QVector<Message>& messages)
         m->messages.insert(at++, message);
         m->count(message.type, 1);
     }
-    if (m->list)
+    if (m->list) {
         m->list->m_startsStale = true;
+    }
     endInsertRows();
 }
 
 void Messages::removeMessages(int first, int count)
 {
     beginRemoveRows({}, first, first + count - 1);
-    for (int i = first; i < first + count; ++i)
+    for (int i = first; i < first + count; ++i) {
         m->count(m->messages.at(i).type, -1);
+    }
     m->messages.remove(first, count);
-    if (m->list)
+    if (m->list) {
         m->list->m_startsStale = true;
+    }
     endRemoveRows();
 }
 
@@ -258,8 +283,9 @@ void Messages::setMessage(int at, const Message& message)
 
 void Messages::changed()
 {
-    if (m->changeDepth == 0)
+    if (m->changeDepth == 0) {
         notifyUpdate();
+    }
 }
 
 }  // namespace Zorv

@@ -6,15 +6,17 @@ namespace Zorv {
 
 int MessageStore::lineAt(int index) const
 {
-    if (inFront(index))
+    if (inFront(index)) {
         return m_front[static_cast<size_t>(index)].line;
+    }
     return m_back[backIndex(index)].line + m_offset;
 }
 
 Message MessageStore::at(int index) const
 {
-    if (inFront(index))
+    if (inFront(index)) {
         return m_front[static_cast<size_t>(index)];
+    }
     Message message = m_back[backIndex(index)];
     message.line += m_offset;
     return message;
@@ -40,8 +42,9 @@ void MessageStore::remove(int first, int count)
 {
     moveGap(first);
     m_back.resize(m_back.size() - static_cast<size_t>(count));
-    if (m_back.empty())
+    if (m_back.empty()) {
         m_offset = 0;
+    }
 }
 
 void MessageStore::clear()
@@ -54,8 +57,9 @@ void MessageStore::clear()
 void MessageStore::shiftLines(int first, int by)
 {
     moveGap(first);
-    if (!m_back.empty())
+    if (!m_back.empty()) {
         m_offset += by;
+    }
 }
 
 void MessageStore::moveGap(int index)
@@ -70,8 +74,9 @@ void MessageStore::moveGap(int index)
         m_front.back().line += m_offset;
         m_back.pop_back();
     }
-    if (m_back.empty())
+    if (m_back.empty()) {
         m_offset = 0;
+    }
 }
 
 }  // namespace Zorv

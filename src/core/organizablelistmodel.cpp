@@ -12,8 +12,9 @@ namespace Zorv {
 bool OrganizableListModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
                                         const QModelIndex&)
 {
-    if (!data || action != Qt::MoveAction)
+    if (!data || action != Qt::MoveAction) {
         return false;
+    }
     const int count = rowCount();
     int target = qMin(qMax(row, 0), count - 1);
     QVector<int> waiting = draggedRows(data->data(data->formats().value(0)));
@@ -26,12 +27,14 @@ bool OrganizableListModel::dropMimeData(const QMimeData* data, Qt::DropAction ac
         const int from = waiting.takeLast();
         if (from < target && from != target - 1) {
             moveTo(unsigned(from), unsigned(target - 1));
-            for (int& other : waiting)
+            for (int& other : waiting) {
                 other -= other > from && other <= target;
+            }
         } else if (from > target) {
             moveTo(unsigned(from), unsigned(target));
-            for (int& other : waiting)
+            for (int& other : waiting) {
                 other += other >= target && other < from;
+            }
             ++target;
         }
     }
@@ -50,8 +53,9 @@ Qt::DropActions OrganizableListModel::supportedDragActions() const
 
 Qt::ItemFlags OrganizableListModel::flags(const QModelIndex& index) const
 {
-    if (!index.isValid() || index.model() != this || index.row() >= rowCount())
+    if (!index.isValid() || index.model() != this || index.row() >= rowCount()) {
         return Qt::ItemIsDropEnabled;
+    }
     return Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsEnabled |
            Qt::ItemNeverHasChildren;
 }

@@ -27,8 +27,9 @@ QString fileIconName(FileID id)
         {FileID::Sounds, "sound"},  {FileID::Animations, "anim"}, {FileID::Commands, "command"},
     };
     for (const auto& row : table) {
-        if (id == row.bits)
+        if (id == row.bits) {
             return QLatin1String(row.name);
+        }
     }
     return QStringLiteral("file");
 }
@@ -112,23 +113,26 @@ void ParentProject::listProjects(QStringList& list) const
 
 QModelIndex ParentProject::index(int row, int column, const QModelIndex& parent) const
 {
-    if (!hasIndex(row, column, parent))
+    if (!hasIndex(row, column, parent)) {
         return {};
+    }
     const BasePath* node = parent.isValid() ? nodeOf(parent) : d.get();
     return createIndex(row, column, node->childAt(row));
 }
 
 QModelIndex ParentProject::parent(const QModelIndex& index) const
 {
-    if (!index.isValid())
+    if (!index.isValid()) {
         return {};
+    }
     return d->indexOf(nodeOf(index)->parentPath());
 }
 
 int ParentProject::rowCount(const QModelIndex& parent) const
 {
-    if (parent.column() > 0)
+    if (parent.column() > 0) {
         return 0;
+    }
     return parent.isValid() ? nodeOf(parent)->shownCount() : d->shownCount();
 }
 
@@ -144,15 +148,19 @@ bool ParentProject::hasChildren(const QModelIndex& parent) const
 
 QVariant ParentProject::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid())
+    if (!index.isValid()) {
         return {};
+    }
     const BasePath* node = nodeOf(index);
-    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) {
         return node->pathName();
-    if (role != Qt::DecorationRole)
+    }
+    if (role != Qt::DecorationRole) {
         return {};
-    if (!node->isFile())
+    }
+    if (!node->isFile()) {
         return libraryIcon(QStringLiteral("folder"));
+    }
     const QIcon icon = fileIcon(node->fileID());
     return icon.isNull() ? libraryIcon(fileIconName(node->fileID())) : icon;
 }

@@ -49,14 +49,16 @@ FileID BasePath::fileID() const
 
 void BasePath::childsRemoved(BasePath* path)
 {
-    if (m_parentPath)
+    if (m_parentPath) {
         m_parentPath->childsRemoved(path);
+    }
 }
 
 void BasePath::childsAdded(BasePath* path)
 {
-    if (m_parentPath)
+    if (m_parentPath) {
         m_parentPath->childsAdded(path);
+    }
 }
 
 QFileSystemWatcher* BasePath::watcher()
@@ -71,8 +73,9 @@ ParentProject::PathType BasePath::listing() const
 
 QString BasePath::completePath() const
 {
-    if (!m_parentPath)
+    if (!m_parentPath) {
         return {};
+    }
     const QString path = m_parentPath->completePath() + m_name;
     return isDirectory() ? path + QLatin1Char('/') : path;
 }
@@ -112,8 +115,9 @@ void BasePath::hideChildren()
 
 void BasePath::showChildren()
 {
-    for (int i = m_shown; i < childCount(); ++i)
+    for (int i = m_shown; i < childCount(); ++i) {
         childAt(i)->m_row = i;
+    }
     m_hidden = false;
     m_shown = childCount();
 }
@@ -133,14 +137,16 @@ bool BasePath::holdsProject() const
 
 ChildrenChange::ChildrenChange(BasePath* node) : m_node(node), m_outermost(!node->isHidden())
 {
-    if (m_outermost)
+    if (m_outermost) {
         m_node->childsRemoved(m_node);
+    }
 }
 
 ChildrenChange::~ChildrenChange()
 {
-    if (m_outermost)
+    if (m_outermost) {
         m_node->childsAdded(m_node);
+    }
 }
 
 /// One line of a folder's listing: a node that stays, or the name of a new one.
@@ -161,8 +167,9 @@ DirectoryPath::DirectoryPath(BasePath* parentPath, const QString& name,
 DirectoryPath::~DirectoryPath()
 {
     takeChildren().clear();
-    if (m_type && watcher())
+    if (m_type && watcher()) {
         watcher()->removePath(absolutePath());
+    }
 }
 
 QString DirectoryPath::absolutePath() const
@@ -187,44 +194,53 @@ ParentProject::PathType DirectoryPath::listing() const
 
 void DirectoryPath::startListing()
 {
-    if (!m_type)
+    if (!m_type) {
         return;
-    if (watcher())
+    }
+    if (watcher()) {
         watcher()->addPath(absolutePath());
+    }
     update();
 }
 
 void DirectoryPath::stopListing()
 {
-    if (m_type && watcher())
+    if (m_type && watcher()) {
         watcher()->removePath(absolutePath());
+    }
     m_type = ParentProject::ListNothing;
     const ChildrenChange change(this);
     for (std::unique_ptr<BasePath>& child : takeChildren()) {
-        if (!child->holdsProject())
+        if (!child->holdsProject()) {
             continue;
-        if (child->isDirectory())
+        }
+        if (child->isDirectory()) {
             static_cast<DirectoryPath*>(child.get())->stopListing();
+        }
         insertChild(childCount(), std::move(child));
     }
 }
 
 void DirectoryPath::update()
 {
-    if (!m_type)
+    if (!m_type) {
         return;
+    }
     std::vector<Entry> entries = listEntries();
     addOpenEntries(entries);
-    if (isListed(entries))
+    if (isListed(entries)) {
         return;
+    }
     const ChildrenChange change(this);
     std::vector<std::unique_ptr<BasePath>> old = takeChildren();
     QHash<BasePath*, std::unique_ptr<BasePath>*> owners;
-    for (std::unique_ptr<BasePath>& child : old)
+    for (std::unique_ptr<BasePath>& child : old) {
         owners.insert(child.get(), &child);
-    for (const Entry& entry : entries)
+    }
+    for (const Entry& entry : entries) {
         insertChild(childCount(),
                     entry.node ? std::move(*owners.value(entry.node)) : makeEntry(entry));
+    }
 }
 
 // What an open project shows under a name stands for the entry on disk as well.
@@ -236,15 +252,18 @@ std::vector<DirectoryPath::Entry> DirectoryPath::listEntries() const
         for (const QString& name : names) {
             BasePath* node = child(name);
             const bool fits = node && !node->isFile() && node->isDirectory() == isFolder;
-            if (fits || !node || !node->holdsProject())
+            if (fits || !node || !node->holdsProject()) {
                 entries.push_back({name, isFolder, fits ? node : nullptr});
+            }
         }
     };
-    if (m_type & ParentProject::ListFolders)
+    if (m_type & ParentProject::ListFolders) {
         append(dir.entryList(QDir::Dirs | QDir::NoSymLinks | QDir::Readable | QDir::NoDotAndDotDot),
                true);
-    if (m_type & ParentProject::ListFiles)
+    }
+    if (m_type & ParentProject::ListFiles) {
         append(dir.entryList(m_filters, QDir::Files | QDir::NoSymLinks | QDir::Readable), false);
+    }
     return entries;
 }
 
@@ -253,40 +272,46 @@ std::vector<DirectoryPath::Entry> DirectoryPath::listEntries() const
 void DirectoryPath::addOpenEntries(std::vector<Entry>& entries) const
 {
     QSet<BasePath*> listed;
-    for (const Entry& entry : entries)
+    for (const Entry& entry : entries) {
         listed.insert(entry.node);
+    }
     std::vector<Entry> files;
     for (int i = 0; i < childCount(); ++i) {
         BasePath* node = childAt(i);
-        if (!listed.contains(node) && node->holdsProject())
+        if (!listed.contains(node) && node->holdsProject()) {
             (node->isFile() ? files : entries).push_back({node->pathName(), true, node});
+        }
     }
     const auto byName = [](const Entry& a, const Entry& b) { return a.name < b.name; };
     std::stable_sort(files.begin(), files.end(), byName);
     size_t place = 0;
     for (const Entry& file : files) {
-        while (place < entries.size() && entries[place].name <= file.name)
+        while (place < entries.size() && entries[place].name <= file.name) {
             ++place;
+        }
         entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(place), file);
     }
 }
 
 bool DirectoryPath::isListed(const std::vector<Entry>& entries) const
 {
-    if (static_cast<int>(entries.size()) != childCount())
+    if (static_cast<int>(entries.size()) != childCount()) {
         return false;
+    }
     for (int i = 0; i < childCount(); ++i) {
-        if (entries[static_cast<size_t>(i)].node != childAt(i))
+        if (entries[static_cast<size_t>(i)].node != childAt(i)) {
             return false;
+        }
     }
     return true;
 }
 
 std::unique_ptr<BasePath> DirectoryPath::makeEntry(const Entry& entry)
 {
-    if (entry.isFolder)
+    if (entry.isFolder) {
         return std::make_unique<DirectoryPath>(this, entry.name, ParentProject::ListNothing,
                                                QStringList());
+    }
     return std::make_unique<DummyPath>(this, entry.name);
 }
 

@@ -17,8 +17,9 @@ const QChar Slash = QLatin1Char('/');
 QString withoutLastSlash(const QString& path)
 {
     QString result = QDir::cleanPath(QDir(path).absolutePath());
-    if (result.endsWith(Slash))
+    if (result.endsWith(Slash)) {
         result.chop(1);
+    }
     return result;
 }
 
@@ -86,10 +87,12 @@ QStringList ParentProjectPrivate::splitPath(const QString& path) const
     const QString root = absolutePath();
     const bool inside = path.startsWith(root) || path + Slash == root;
     QStringList parts = path.mid(inside ? root.size() : 0).split(Slash);
-    if (parts.first().isEmpty())
+    if (parts.first().isEmpty()) {
         parts.removeFirst();
-    if (!parts.isEmpty() && parts.last().isEmpty())
+    }
+    if (!parts.isEmpty() && parts.last().isEmpty()) {
         parts.removeLast();
+    }
     return parts;
 }
 
@@ -99,8 +102,9 @@ BasePath* ParentProjectPrivate::findPath(const QString& path)
     BasePath* node = names.isEmpty() ? nullptr : this;
     for (const QString& name : names) {
         node = node->child(name);
-        if (!node)
+        if (!node) {
             break;
+        }
     }
     return node;
 }
@@ -109,8 +113,9 @@ BasePath* ParentProjectPrivate::addPath(BasePath* parentPath, const QString& pat
                                         ParentProject::PathType type, const QStringList& filters)
 {
     const QStringList names = splitPath(path);
-    if (names.isEmpty())
+    if (names.isEmpty()) {
         return nullptr;
+    }
     BasePath* node = parentPath;
     for (const QString& name : names) {
         BasePath* child = node->child(name);
@@ -118,8 +123,9 @@ BasePath* ParentProjectPrivate::addPath(BasePath* parentPath, const QString& pat
             auto folder = std::make_unique<DirectoryPath>(node, name, type, filters);
             DirectoryPath* added = folder.get();
             node->insertChild(node->childCount(), std::move(folder));
-            if (!node->isHidden())
+            if (!node->isHidden()) {
                 childsAdded(node);
+            }
             added->startListing();
             child = added;
         }
@@ -131,12 +137,14 @@ BasePath* ParentProjectPrivate::addPath(BasePath* parentPath, const QString& pat
 void ParentProjectPrivate::removePath(const QString& path)
 {
     BasePath* node = findPath(path);
-    if (!node)
+    if (!node) {
         return;
-    if (node->holdsProject() && node->isDirectory())
+    }
+    if (node->holdsProject() && node->isDirectory()) {
         static_cast<DirectoryPath*>(node)->stopListing();
-    else if (!node->holdsProject())
+    } else if (!node->holdsProject()) {
         removeNode(node);
+    }
 }
 
 void ParentProjectPrivate::removeNode(BasePath* node)
@@ -145,15 +153,17 @@ void ParentProjectPrivate::removeNode(BasePath* node)
     const ChildrenChange change(parentPath);
     parentPath->removeChild(node);
     // A folder that lists shows the project again, as one that is not open.
-    if (parentPath->isDirectory())
+    if (parentPath->isDirectory()) {
         static_cast<DirectoryPath*>(parentPath)->update();
+    }
 }
 
 void ParentProjectPrivate::addRef(CodeDocument* main)
 {
     Project* project = main->project();
-    if (!project)
+    if (!project) {
         return;
+    }
     ++count;
     const QString fileName = main->fileName();
     BasePath* node = this;
@@ -175,42 +185,50 @@ void ParentProjectPrivate::addRef(CodeDocument* main)
 
     const Interface* host = Interface::instance();
     if (count == 1 && !fileName.isEmpty() && host &&
-        host->option(QStringLiteral("backup_onload")).toBool())
+        host->option(QStringLiteral("backup_onload")).toBool()) {
         model->backup(ParentProject::tr("Auto"));
+    }
 }
 
 void ParentProjectPrivate::release(Project* project)
 {
     const auto entry = projects.constFind(project);
-    if (entry == projects.constEnd())
+    if (entry == projects.constEnd()) {
         return;
+    }
     BasePath* node = entry->node;
     node->removeProject(project);
-    if (node == this || node->holdsAnchor())
+    if (node == this || node->holdsAnchor()) {
         showFiles(node);
-    else
+    } else {
         removeNode(node);
+    }
     auto* main = static_cast<CodeDocument*>(project->file(FileID::MainCode));
-    if (main)
+    if (main) {
         disconnect(main, &QTextDocument::contentsChanged, this, &ParentProjectPrivate::mainChanged);
+    }
     projects.remove(project);
-    if (--count == 0)
+    if (--count == 0) {
         model->lastReferenceGone();
+    }
 }
 
 void ParentProjectPrivate::updateProjectFiles(CodeDocument* main)
 {
     Project* project = main->project();
     const auto entry = projects.find(project);
-    if (entry == projects.end())
+    if (entry == projects.end()) {
         return;
+    }
     QList<Project::FileInfo> files;
     project->fileInfos(files);
-    if (!main->fileName().isEmpty())
+    if (!main->fileName().isEmpty()) {
         files.append({FileID::MainCode, QFileInfo(main->fileName()).fileName()});
+    }
     std::stable_sort(files.begin(), files.end(), CompareProjectFile());
-    if (sameFiles(files, entry->files))
+    if (sameFiles(files, entry->files)) {
         return;
+    }
     entry->files = files;
     showFiles(entry->node);
 }
@@ -218,25 +236,29 @@ void ParentProjectPrivate::updateProjectFiles(CodeDocument* main)
 void ParentProjectPrivate::listProjects(const BasePath* path, QStringList& list)
 {
     if (path->isProject()) {
-        if (path->projects().isEmpty())
+        if (path->projects().isEmpty()) {
             list.append(path->completePath());
+        }
         return;
     }
-    for (int i = 0; i < path->childCount(); ++i)
+    for (int i = 0; i < path->childCount(); ++i) {
         listProjects(path->childAt(i), list);
+    }
 }
 
 void ParentProjectPrivate::mainChanged()
 {
-    if (auto* main = qobject_cast<CodeDocument*>(sender()))
+    if (auto* main = qobject_cast<CodeDocument*>(sender())) {
         updateProjectFiles(main);
+    }
 }
 
 void ParentProjectPrivate::folderChanged(const QString& path)
 {
     BasePath* node = findPath(path);
-    if (node && node->isDirectory())
+    if (node && node->isDirectory()) {
         static_cast<DirectoryPath*>(node)->update();
+    }
 }
 
 void ParentProjectPrivate::showFiles(BasePath* node)
@@ -244,25 +266,29 @@ void ParentProjectPrivate::showFiles(BasePath* node)
     const QList<Project::FileInfo> files = filesOf(node);
     FileSet set;
     for (const Project::FileInfo& file : files) {
-        if (!set.contains(file.path))
+        if (!set.contains(file.path)) {
             set.insert(file.path, file.id);
+        }
     }
     const ChildrenChange change(node);
     QVector<DirectoryPath*> reduced;
     removeIfNotExists(node, {}, set, reduced);
     addFiles(node, files);
-    for (DirectoryPath* folder : qAsConst(reduced))
+    for (DirectoryPath* folder : qAsConst(reduced)) {
         folder->update();
+    }
 }
 
 // Several projects can share a folder; each shows its files in it.
 QList<Project::FileInfo> ParentProjectPrivate::filesOf(BasePath* node) const
 {
     QList<Project::FileInfo> files;
-    for (Project* project : node->projects())
+    for (Project* project : node->projects()) {
         files += projects.value(project).files;
-    if (node->projects().size() > 1)
+    }
+    if (node->projects().size() > 1) {
         std::stable_sort(files.begin(), files.end(), CompareProjectFile());
+    }
     return files;
 }
 
@@ -271,14 +297,17 @@ void ParentProjectPrivate::removeIfNotExists(BasePath* node, const QString& pref
 {
     const int before = node->childCount();
     for (std::unique_ptr<BasePath>& child : node->takeChildren()) {
-        if (staysInTree(child.get(), prefix + child->pathName(), files, reduced))
+        if (staysInTree(child.get(), prefix + child->pathName(), files, reduced)) {
             node->insertChild(node->childCount(), std::move(child));
+        }
     }
-    if (!node->isHidden())
+    if (!node->isHidden()) {
         node->showChildren();
+    }
     // Behind a file that goes, the folder's own entry may come back.
-    if (node->childCount() < before && node->listing())
+    if (node->childCount() < before && node->listing()) {
         reduced.append(static_cast<DirectoryPath*>(node));
+    }
 }
 
 // The full path of a file is compared with paths relative to the project: the
@@ -287,17 +316,22 @@ void ParentProjectPrivate::removeIfNotExists(BasePath* node, const QString& pref
 bool ParentProjectPrivate::staysInTree(BasePath* child, const QString& path, const FileSet& files,
                                        QVector<DirectoryPath*>& reduced)
 {
-    if (!child->projects().isEmpty())
+    if (!child->projects().isEmpty()) {
         return true;
+    }
     const bool isLeaf = child->childCount() == 0;
-    if (!isLeaf)
+    if (!isLeaf) {
         removeIfNotExists(child, path + Slash, files, reduced);
-    if (child->childCount() > 0 || child->isAnchor())
+    }
+    if (child->childCount() > 0 || child->isAnchor()) {
         return true;
-    if (child->isDirectory())
+    }
+    if (child->isDirectory()) {
         return child->isProject() || (isLeaf && files.contains(child->completePath()));
-    if (!child->isFile())
+    }
+    if (!child->isFile()) {
         return !files.contains(path);
+    }
     const auto file = files.constFind(child->completePath());
     return isLeaf && file != files.constEnd() && *file == child->fileID();
 }
@@ -312,19 +346,23 @@ void ParentProjectPrivate::addFiles(BasePath* node, const QList<Project::FileInf
                       : nullptr;
         BasePath* target = folder ? folder : node;
         const QString name = file.path.mid(slash + 1);
-        if (target->child(name))
+        if (target->child(name)) {
             continue;
+        }
         // The names mostly ascend, so that the search goes on where it ended.
         int& place = places[target];
-        if (place > 0 && name < target->childAt(place - 1)->pathName())
+        if (place > 0 && name < target->childAt(place - 1)->pathName()) {
             place = 0;
-        while (place < target->childCount() && target->childAt(place)->pathName() <= name)
+        }
+        while (place < target->childCount() && target->childAt(place)->pathName() <= name) {
             ++place;
+        }
         target->insertChild(place++, std::make_unique<FilePath>(target, name, file.id));
     }
     for (auto it = places.cbegin(); it != places.cend(); ++it) {
-        if (it.key() != node)
+        if (it.key() != node) {
             it.key()->showChildren();
+        }
     }
 }
 

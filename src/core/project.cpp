@@ -29,8 +29,9 @@ Project::Project(ParentProject* parent, CodeDocument* mainDocument, FileID id)
 
 Project::~Project()
 {
-    for (ProjectFile* file : qAsConst(d->known))
+    for (ProjectFile* file : qAsConst(d->known)) {
         file->d->project = nullptr;
+    }
 }
 
 // A host may delete the project in the release of its main document, and a
@@ -38,13 +39,15 @@ Project::~Project()
 void Project::release()
 {
     const QPointer<Project> self(this);
-    if (m_archive != d->parent->archive())
+    if (m_archive != d->parent->archive()) {
         m_archive->release();
+    }
     d->parent->d->release(this);
     const QList<ProjectFile*> all = files();
     for (auto it = all.crbegin(); it != all.crend(); ++it) {
-        if (!self || d->fileIDs.contains(*it))
+        if (!self || d->fileIDs.contains(*it)) {
             (*it)->release();
+        }
     }
 }
 
@@ -57,8 +60,9 @@ bool Project::isEmpty() const
 ProjectFile* Project::file(FileID::Type type) const
 {
     const QList<ProjectFile*> list = d->files.value(type);
-    if (list.isEmpty())
+    if (list.isEmpty()) {
         return nullptr;
+    }
     const unsigned index = selectedFile(type);
     return index < static_cast<unsigned>(list.size()) ? list.at(static_cast<int>(index))
                                                       : list.first();
@@ -73,8 +77,9 @@ void Project::reload()
 {
     const QList<ProjectFile*> all = files();
     for (ProjectFile* file : all) {
-        if (d->fileIDs.contains(file) && QFile::exists(file->fileName()))
+        if (d->fileIDs.contains(file) && QFile::exists(file->fileName())) {
             file->fromFile(*file->archive(), file->fileName(), false);
+        }
     }
 }
 
@@ -83,8 +88,9 @@ void Project::reload()
 void Project::addFile(ProjectFile* file, FileID id)
 {
     Project* former = file->d->project;
-    if (former && former != this)
+    if (former && former != this) {
         former->forgetFile(file);
+    }
     const quint32 old = d->fileIDs.value(file);
     d->fileIDs[file] = old | id;
     d->known.insert(file);
@@ -92,16 +98,18 @@ void Project::addFile(ProjectFile* file, FileID id)
     d->registerMessages(file->messages());
     const quint32 added = id & ~old;
     for (quint32 bit = 1; bit != 0; bit <<= 1) {
-        if (added & bit)
+        if (added & bit) {
             d->files[static_cast<FileID::Type>(bit)].append(file);
+        }
     }
 }
 
 ProjectFile* Project::takeFile(ProjectFile* file)
 {
     d->fileIDs.remove(file);
-    for (QList<ProjectFile*>& list : d->files)
+    for (QList<ProjectFile*>& list : d->files) {
         list.removeAll(file);
+    }
     return file;
 }
 
@@ -119,8 +127,9 @@ void Project::removeFile(ProjectFile* file)
 void Project::removeFile(FileID::Type type, unsigned index)
 {
     const auto list = d->files.find(type);
-    if (list == d->files.end() || index >= static_cast<unsigned>(list->size()))
+    if (list == d->files.end() || index >= static_cast<unsigned>(list->size())) {
         return;
+    }
     ProjectFile* file = list->takeAt(static_cast<int>(index));
     const quint32 bits = d->fileIDs.value(file);
     if (bits == type) {
@@ -134,11 +143,13 @@ void Project::removeFile(FileID::Type type, unsigned index)
 void Project::moveFile(FileID::Type type, unsigned from, unsigned to)
 {
     const auto list = d->files.find(type);
-    if (list == d->files.end())
+    if (list == d->files.end()) {
         return;
+    }
     const auto size = static_cast<unsigned>(list->size());
-    if (from < size && to < size)
+    if (from < size && to < size) {
         list->move(static_cast<int>(from), static_cast<int>(to));
+    }
 }
 
 QList<ProjectFile*> Project::files() const
@@ -214,8 +225,9 @@ void Project::setArchive(Archive* archive)
 
 void Project::addToParent()
 {
-    if (ProjectFile* main = file(FileID::MainCode))
+    if (ProjectFile* main = file(FileID::MainCode)) {
         d->parent->addRef(static_cast<CodeDocument*>(main));
+    }
 }
 
 QVariant Project::option(const QString& key) const
@@ -227,12 +239,14 @@ QVariant Project::option(const QString& key) const
 
 void Project::setOption(const QString& key, const QVariant& value, bool global)
 {
-    if (global && Interface::instance())
+    if (global && Interface::instance()) {
         Interface::instance()->setOption(key, value);
-    if (value.isNull())
+    }
+    if (value.isNull()) {
         d->options.remove(key);
-    else
+    } else {
         d->options.insert(key, value);
+    }
 }
 
 }  // namespace Zorv

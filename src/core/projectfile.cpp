@@ -10,10 +10,12 @@ ProjectFile::ProjectFile() : d(std::make_unique<ProjectFilePrivate>(this)) {}
 
 ProjectFile::~ProjectFile()
 {
-    if (m_archive && d->project && m_archive != d->project->archive())
+    if (m_archive && d->project && m_archive != d->project->archive()) {
         m_archive->release();
-    if (d->project)
+    }
+    if (d->project) {
         d->project->forgetFile(this);
+    }
 }
 
 Archive* ProjectFile::archive() const
@@ -90,12 +92,13 @@ QVariant ProjectFile::option(const QString& key) const
 
 void ProjectFile::setOption(const QString& key, const QVariant& value, bool inProject, bool global)
 {
-    if (inProject && project())
+    if (inProject && project()) {
         project()->setOption(key, value, global);
-    else if (value.isNull())
+    } else if (value.isNull()) {
         d->options.remove(key);
-    else
+    } else {
         d->options.insert(key, value);
+    }
 }
 
 void ProjectFile::setArchive(Archive* archive)

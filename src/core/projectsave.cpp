@@ -24,15 +24,17 @@ class PendingFiles
 public:
     void add(FileID id, const QString& path)
     {
-        if (!path.isEmpty())
+        if (!path.isEmpty()) {
             m_files.insert({id, path});
+        }
     }
 
     QStringList paths() const
     {
         QStringList result;
-        for (const PendingFile& file : m_files)
+        for (const PendingFile& file : m_files) {
             result.append(file.second);
+        }
         return result;
     }
 
@@ -47,8 +49,9 @@ public:
     void removePath(const QString& path)
     {
         const QString clean = QDir::cleanPath(path);
-        for (auto it = m_files.begin(); it != m_files.end();)
+        for (auto it = m_files.begin(); it != m_files.end();) {
             it = QDir::cleanPath(it->second) == clean ? m_files.erase(it) : std::next(it);
+        }
     }
 
 private:
@@ -59,8 +62,9 @@ private:
 bool isBelow(const QString& fileName, const QString& folder)
 {
     QString base = QDir::cleanPath(folder);
-    if (!base.endsWith(QLatin1Char('/')))
+    if (!base.endsWith(QLatin1Char('/'))) {
         base += QLatin1Char('/');
+    }
     return QDir::cleanPath(fileName).startsWith(base);
 }
 
@@ -69,10 +73,12 @@ PendingFiles referredFiles(Project& project, const QString& root, bool asCopy)
     QList<Project::FileInfo> infos;
     project.fileInfos(infos);
     PendingFiles pending;
-    for (const Project::FileInfo& info : qAsConst(infos))
+    for (const Project::FileInfo& info : qAsConst(infos)) {
         pending.add(info.id, info.path);
-    if (asCopy)
+    }
+    if (asCopy) {
         pending.add(FileID::MainCode, project.fileName().mid(root.size()));
+    }
     return pending;
 }
 
@@ -97,38 +103,45 @@ void Project::saveAll(const QString& path, bool asCopy, QStringList* files)
     const QString root = absolutePath();
     const QString targetRoot = path + basePath();
     PendingFiles pending = referredFiles(*this, root, asCopy);
-    if (files)
+    if (files) {
         files->append(pending.paths());
+    }
     d->failedFiles.clear();
 
     const QMap<ProjectFile*, FileID> all = d->fileIDs;
     for (auto it = all.cbegin(); it != all.cend(); ++it) {
         ProjectFile* file = it.key();
         const QString name = file->fileName();
-        if (!asCopy)
+        if (!asCopy) {
             file->m_archive = &disk;
+        }
         const bool inside = name.isEmpty() || name.startsWith(root);
-        if (!mustWrite(*file, it.value(), asCopy) || file->archive() != m_archive || !inside)
+        if (!mustWrite(*file, it.value(), asCopy) || file->archive() != m_archive || !inside) {
             continue;
+        }
         const QString own = name.mid(root.size());
         const QString relative = own.isEmpty() ? pending.pathOf(it.value()) : own;
-        if (relative.isEmpty())
+        if (relative.isEmpty()) {
             continue;
+        }
         const QString target = targetRoot + relative;
         pending.removePath(relative);
-        if (!isBelow(target, path) || !forcePath(target) || !file->toFile(disk, target, asCopy))
+        if (!isBelow(target, path) || !forcePath(target) || !file->toFile(disk, target, asCopy)) {
             d->failedFiles.append(relative);
+        }
     }
 
     for (const QString& relative : pending.paths()) {
         const QString source = root + relative;
         const QString target = targetRoot + relative;
         const bool stays = QDir::cleanPath(source) == QDir::cleanPath(target);
-        if (!stays && (!isBelow(target, path) || !copyOne(*m_archive, source, target)))
+        if (!stays && (!isBelow(target, path) || !copyOne(*m_archive, source, target))) {
             d->failedFiles.append(relative);
+        }
     }
-    if (!asCopy)
+    if (!asCopy) {
         m_archive = &disk;
+    }
 }
 
 }  // namespace Zorv

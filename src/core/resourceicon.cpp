@@ -23,13 +23,16 @@ void clearIcons()
 
 QIcon resourceIcon(const QString& path)
 {
-    if (!QCoreApplication::instance())
+    if (!QCoreApplication::instance()) {
         return QIcon(path);
-    if (icons().isEmpty())
+    }
+    if (icons().isEmpty()) {
         qAddPostRoutine(clearIcons);
+    }
     QIcon& icon = icons()[path];
-    if (icon.isNull())
+    if (icon.isNull()) {
         icon = QIcon(path);
+    }
     return icon;
 }
 

@@ -23,8 +23,9 @@ const QLatin1String suffix(".zorv-save");
 QString nameHead(const QFileInfo& target)
 {
     QString name = target.fileName();
-    while (QFile::encodeName(name).size() > MaxNameBytes)
+    while (QFile::encodeName(name).size() > MaxNameBytes) {
         name.chop(name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
+    }
     return QLatin1Char('.') + name + QLatin1Char('.');
 }
 
@@ -37,13 +38,15 @@ void removeLeftovers(const QFileInfo& target)
     while (entries.hasNext()) {
         const QString path = entries.next();
         const QString name = entries.fileName();
-        if (!name.startsWith(head) || !name.endsWith(suffix))
+        if (!name.startsWith(head) || !name.endsWith(suffix)) {
             continue;
+        }
         const QString number = name.mid(head.size(), name.size() - head.size() - suffix.size());
         bool isNumber = false;
         const qint64 pid = number.section(QLatin1Char('-'), 0, 0).toLongLong(&isNumber);
-        if (isNumber && pid != self && !FileReplace::isProcessAlive(pid))
+        if (isNumber && pid != self && !FileReplace::isProcessAlive(pid)) {
             QFile::remove(path);
+        }
     }
 }
 
@@ -53,17 +56,20 @@ SafeFile::SafeFile(const QString& path) : m_path(path) {}
 
 SafeFile::~SafeFile()
 {
-    if (isOpen())
+    if (isOpen()) {
         QIODevice::close();
+    }
     discard();
 }
 
 bool SafeFile::open(OpenMode mode)
 {
-    if (mode & (Append | NewOnly))
+    if (mode & (Append | NewOnly)) {
         mode |= WriteOnly;
-    if (!checkTarget(mode) || !makeFile())
+    }
+    if (!checkTarget(mode) || !makeFile()) {
         return false;
+    }
     const bool keepsOld = (mode & Append) || ((mode & ReadOnly) && !(mode & Truncate));
     m_touched = !keepsOld || !m_targetExists;
     if (keepsOld && m_targetExists && !copyOldContent()) {
@@ -75,8 +81,9 @@ bool SafeFile::open(OpenMode mode)
 
 void SafeFile::close()
 {
-    if (!isOpen())
+    if (!isOpen()) {
         return;
+    }
     flush();
     QIODevice::close();
 }
@@ -101,11 +108,13 @@ qint64 SafeFile::size() const
 
 bool SafeFile::seek(qint64 position)
 {
-    if (!isOpen() || position < 0)
+    if (!isOpen() || position < 0) {
         return false;
+    }
     if (position != m_file.pos() + m_pending.size()) {
-        if (!flush())
+        if (!flush()) {
             return false;
+        }
         if (!m_file.seek(position)) {
             failWriting(m_file.errorString());
             return false;
@@ -121,8 +130,9 @@ qint64 SafeFile::readData(char* data, qint64 maxSize)
 
 qint64 SafeFile::writeData(const char* data, qint64 size)
 {
-    if (!m_failure.isEmpty())
+    if (!m_failure.isEmpty()) {
         return -1;
+    }
     m_touched = true;
     if ((openMode() & Append) && m_pending.isEmpty() && !m_file.seek(m_file.size())) {
         failWriting(m_file.errorString());
@@ -146,15 +156,16 @@ bool SafeFile::checkTarget(OpenMode mode)
     }
     const QFileInfo target(m_target);
     m_targetExists = target.exists();
-    if (m_targetExists && !target.isFile())
+    if (m_targetExists && !target.isFile()) {
         setFailure(target.isDir() ? tr("It is a folder") : tr("It is not a plain file"), advice);
-    else if (m_targetExists && !target.isWritable())
+    } else if (m_targetExists && !target.isWritable()) {
         setFailure(tr("The file is write-protected"),
                    tr("Allow writing to it, or save under another name."));
-    else if (m_targetExists && (mode & NewOnly))
+    } else if (m_targetExists && (mode & NewOnly)) {
         setFailure(tr("The file exists"), advice);
-    else if (!m_targetExists && (mode & ExistingOnly))
+    } else if (!m_targetExists && (mode & ExistingOnly)) {
         setFailure(tr("The file does not exist"), advice);
+    }
     return m_failure.isEmpty();
 }
 
@@ -166,8 +177,9 @@ bool SafeFile::makeFile()
                          QString::number(QCoreApplication::applicationPid()) + QLatin1Char('-');
     for (int i = 0; i < MaxNames && !m_file.isOpen(); ++i) {
         m_file.setFileName(head + QString::number(i) + suffix);
-        if (!m_file.open(ReadWrite | NewOnly | Unbuffered) && !m_file.exists())
+        if (!m_file.open(ReadWrite | NewOnly | Unbuffered) && !m_file.exists()) {
             break;
+        }
     }
     if (!m_file.isOpen()) {
         setFailure(m_file.errorString(),
@@ -175,8 +187,9 @@ bool SafeFile::makeFile()
                       "another place."));
         return false;
     }
-    if (m_targetExists)
+    if (m_targetExists) {
         FileReplace::takeOwnerAndMode(m_file, m_target);
+    }
     return true;
 }
 
@@ -190,20 +203,23 @@ bool SafeFile::copyOldContent()
     QByteArray block(CopyBlock, Qt::Uninitialized);
     qint64 count;
     while ((count = old.read(block.data(), block.size())) > 0) {
-        if (!writeOut(block.constData(), count))
+        if (!writeOut(block.constData(), count)) {
             return false;
+        }
     }
-    if (count < 0)
+    if (count < 0) {
         failWriting(old.errorString());
-    else
+    } else {
         m_file.seek(0);
+    }
     return count == 0;
 }
 
 bool SafeFile::flush()
 {
-    if (m_pending.isEmpty() || !m_failure.isEmpty())
+    if (m_pending.isEmpty() || !m_failure.isEmpty()) {
         return m_failure.isEmpty();
+    }
     const bool done = writeOut(m_pending.constData(), m_pending.size());
     m_pending.clear();
     return done;
@@ -246,8 +262,9 @@ void SafeFile::discard()
 {
     const QString name = m_file.fileName();
     m_file.close();
-    if (!name.isEmpty())
+    if (!name.isEmpty()) {
         QFile::remove(name);
+    }
     m_file.setFileName({});
     m_pending.clear();
 }
@@ -260,8 +277,9 @@ void SafeFile::failWriting(const QString& reason)
 
 void SafeFile::setFailure(const QString& reason, const QString& advice)
 {
-    if (!m_failure.isEmpty())
+    if (!m_failure.isEmpty()) {
         return;
+    }
     m_failure = tr("Cannot write %1: %2. %3").arg(QDir::toNativeSeparators(m_path), reason, advice);
     setErrorString(m_failure);
 }

@@ -44,8 +44,9 @@ private slots:
             QVERIFY(!name.isEmpty());
             QCOMPARE(TextCodecs::name(number(name)).toLatin1(), name);
         }
-        for (const char* name : {"System", "utf-8", "UTF-8 ", "", "no such codec"})
+        for (const char* name : {"System", "utf-8", "UTF-8 ", "", "no such codec"}) {
             QCOMPARE(number(name), 0);
+        }
         QCOMPARE(TextCodecs::name(TextCodecs::count()), QString());
         QCOMPARE(TextCodecs::name(-5), QString());
     }
@@ -86,8 +87,9 @@ private slots:
         QFETCH(QByteArray, codec);
         QFETCH(QString, text);
         QString whole;
-        for (int i = 0; i < 20; ++i)
+        for (int i = 0; i < 20; ++i) {
             whole += text;
+        }
         const QByteArray data = QTextCodec::codecForName(codec)->fromUnicode(whole);
         int used = -1;
         QCOMPARE(TextCodecs::stringFromData(data, &used), whole);
@@ -167,8 +169,9 @@ private slots:
     {
         QTest::addColumn<QByteArray>("codec");
         for (const char* name : {"UTF-8", "UTF-16LE", "UTF-32", "windows-1252", "windows-1251",
-                                 "Shift_JIS", "GB18030", "Big5", "EUC-KR", "ISO-8859-1"})
+                                 "Shift_JIS", "GB18030", "Big5", "EUC-KR", "ISO-8859-1"}) {
             QTest::newRow(name) << QByteArray(name);
+        }
     }
 
     void faithfulnessOfLargeData()
@@ -185,14 +188,17 @@ private slots:
             const int size = random.bounded(2) ? random.bounded(300) : 150000;
             while (text.size() < size) {
                 text += QChar(random.bounded(32, 127));
-                if (random.bounded(3) == 0)
+                if (random.bounded(3) == 0) {
                     text += QString::fromUtf8(round % 2 ? japanese : russian);
-                if (random.bounded(50) == 0)
+                }
+                if (random.bounded(50) == 0) {
                     text += QString::fromUcs4(U"\U0001F600");
+                }
             }
             QByteArray data = qt->fromUnicode(text);
-            if (round % 4 == 0)
+            if (round % 4 == 0) {
                 data[random.bounded(data.size())] = char(random.bounded(256));
+            }
             const bool expected =
                 withoutMark(qt->fromUnicode(qt->toUnicode(data))) == withoutMark(data);
             QCOMPARE(TextCodecs::isFaithful(data, number(codec)), expected);
@@ -209,10 +215,12 @@ private slots:
         QRandomGenerator random(seed);
         for (int round = 0; round < 300; ++round) {
             QByteArray data(random.bounded(200), Qt::Uninitialized);
-            for (char& byte : data)
+            for (char& byte : data) {
                 byte = char(random.bounded(256));
-            if (round % 3 == 0)
+            }
+            if (round % 3 == 0) {
                 data.prepend(round % 2 ? QByteArray("\xfe\xff", 2) : QByteArray("\xef\xbb\xbf", 3));
+            }
             int codec = TextCodecs::faithfulCodec(data);
             QVERIFY(codec > 0);
             const QString text = TextCodecs::stringFromData(data, &codec);

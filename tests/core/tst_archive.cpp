@@ -138,8 +138,9 @@ private slots:
         QIODevice* device = archive().openFile(path, QIODevice::OpenMode(mode));
         QVERIFY(archive().closeFile(device));
         QTEST(contentOf(path), "result");
-        if (!contentOf(path).isEmpty())
+        if (!contentOf(path).isEmpty()) {
             QCOMPARE(statusOf(path).st_ino, inode);
+        }
     }
 
     // The same random work on a buffer in memory gives the same bytes and answers.
@@ -179,11 +180,13 @@ private slots:
             default: {
                 const QByteArray text(size, char('a' + step % 26));
                 // A buffer in memory does not move to its end by itself.
-                if (model.openMode() & QIODevice::Append)
+                if (model.openMode() & QIODevice::Append) {
                     model.seek(model.size());
+                }
                 QCOMPARE(device->write(text), model.write(text));
-                if (model.openMode() & QIODevice::Append)
+                if (model.openMode() & QIODevice::Append) {
                     device->seek(model.size());
+                }
             }
             }
             QCOMPARE(device->pos(), model.pos());
@@ -196,8 +199,9 @@ private slots:
     void permissionsAreKept_data()
     {
         QTest::addColumn<uint>("mode");
-        for (const uint mode : {0600u, 0644u, 0755u, 0660u, 0666u})
+        for (const uint mode : {0600u, 0644u, 0755u, 0660u, 0666u}) {
             QTest::newRow(qPrintable(QString::number(mode, 8))) << mode;
+        }
     }
 
     void permissionsAreKept()
@@ -213,8 +217,9 @@ private slots:
 
     void ownerIsKept()
     {
-        if (::geteuid() != 0)
+        if (::geteuid() != 0) {
             QSKIP("only root can give files away");
+        }
         put(path, "old");
         QCOMPARE(::chown(QFile::encodeName(path).constData(), 1234, 2345), 0);
         QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
@@ -239,8 +244,9 @@ private slots:
         QFETCH(bool, isThere);
         QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
         const QString real = folder->filePath(target);
-        if (isThere)
+        if (isThere) {
             put(real, "old");
+        }
         // A relative link, reached through another one.
         QVERIFY(QFile::link(target, at("first")));
         QVERIFY(QFile::link(at("first"), path));
@@ -290,8 +296,9 @@ private slots:
         path = folder->filePath(name);
         // A process number that is free: that of a child that is gone.
         const pid_t dead = ::fork();
-        if (dead == 0)
+        if (dead == 0) {
             ::_exit(0);
+        }
         ::waitpid(dead, nullptr, 0);
 
         QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
@@ -342,8 +349,9 @@ private slots:
         const QStringList expected{QStringLiteral("file.def"), QStringLiteral("sub")};
         QCOMPARE(archive().entries(folder->path(), all, QDir::Name), expected);
         QStringList names;
-        for (const QFileInfo& info : archive().infoEntries(folder->path(), all, QDir::Name))
+        for (const QFileInfo& info : archive().infoEntries(folder->path(), all, QDir::Name)) {
             names.append(info.fileName());
+        }
         QCOMPARE(names, expected);
     }
 
@@ -387,8 +395,9 @@ private slots:
     void copies()
     {
         QByteArray content;
-        for (int i = 0; i < 300001; ++i)
+        for (int i = 0; i < 300001; ++i) {
             content.append(char(i % 251));
+        }
         put(path, content);
         const QString target = at("new/folder/copy.def");
         QString error = QStringLiteral("(unset)");

@@ -67,13 +67,14 @@ private slots:
         whenOpen<QMessageBox>([&](QMessageBox* box) {
             isChild = box->parentWidget() == &window;
             text = box->text();
-            if (pressed == 1)
+            if (pressed == 1) {
                 QTest::mouseClick(box->button(QMessageBox::StandardButton(standard)),
                                   Qt::LeftButton);
-            else if (pressed == 2)
+            } else if (pressed == 2) {
                 QTest::keyClick(box, Qt::Key_Return);
-            else
+            } else {
                 box->close();
+            }
         });
         const QString path = QStringLiteral("/tmp/<b>&amp;.def");
         const auto answer = Dialogs::instance()->question(QStringLiteral("Title"), path,

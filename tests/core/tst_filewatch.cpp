@@ -31,22 +31,25 @@ public:
     void load(const QString& path, bool asCopy = false)
     {
         QVERIFY(fromFile(*FileSystemArchive::instance(), path, asCopy));
-        if (!asCopy)
+        if (!asCopy) {
             name = path;
+        }
     }
 
     // The archive puts a new file in the old one's place.
     void save(const QString& path, bool asCopy = false, bool isWatchMovedFirst = true)
     {
         FileSystemArchive& archive = *FileSystemArchive::instance();
-        if (isWatchMovedFirst)
+        if (isWatchMovedFirst) {
             QVERIFY(toFile(archive, path, asCopy));
+        }
         QIODevice* device = archive.openFile(path, QIODevice::WriteOnly);
         QVERIFY(device);
         device->write("saved");
         QVERIFY(archive.closeFile(device));
-        if (!isWatchMovedFirst)
+        if (!isWatchMovedFirst) {
             QVERIFY(toFile(archive, path, asCopy));
+        }
         if (!asCopy) {
             name = path;
             renewWatch(path);
@@ -213,8 +216,9 @@ private slots:
             const int before = dialogs->count();
             document.save(target, false, isWatchMovedFirst);
             QVERIFY(document.isWatchPaused());
-            if (isBusy)
+            if (isBusy) {
                 QTest::qSleep(600);
+            }
             QTRY_VERIFY(!document.isWatchPaused());
             settle();
             QCOMPARE(dialogs->count(), before);

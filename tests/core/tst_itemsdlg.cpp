@@ -16,8 +16,9 @@ private slots:
     void init()
     {
         model = std::make_unique<QStandardItemModel>();
-        for (int i = 0; i < 100; ++i)
+        for (int i = 0; i < 100; ++i) {
             model->appendRow({new QStandardItem(QString::number(i)), new QStandardItem});
+        }
     }
 
     void buttonsSelect()
@@ -62,8 +63,9 @@ private slots:
         dialog->release();
         QVERIFY(!dialog->hasSelection());
         model.reset();
-        for (const char* name : {"selectAllButton", "invertButton", "clearButton"})
+        for (const char* name : {"selectAllButton", "invertButton", "clearButton"}) {
             press(*dialog, name);
+        }
         QCOMPARE(dialog->selected(), QList<int>());
     }
 

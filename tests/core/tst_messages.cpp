@@ -21,8 +21,9 @@ constexpr auto Fatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
 QStringList rows(const QAbstractItemModel& model)
 {
     QStringList texts;
-    for (int row = 0; row < model.rowCount(); ++row)
+    for (int row = 0; row < model.rowCount(); ++row) {
         texts << model.index(row, 0).data().toString();
+    }
     return texts;
 }
 
@@ -34,8 +35,9 @@ public:
     {
         connect(model, &QAbstractItemModel::rowsInserted, this,
                 [this, model](const QModelIndex&, int first, int last) {
-                    for (int row = first; row <= last; ++row)
+                    for (int row = first; row <= last; ++row) {
                         texts.insert(row, model->index(row, 0).data().toString());
+                    }
                 });
         connect(model, &QAbstractItemModel::rowsRemoved, this,
                 [this](const QModelIndex&, int first, int last) {
@@ -43,8 +45,9 @@ public:
                 });
         connect(model, &QAbstractItemModel::dataChanged, this,
                 [this, model](const QModelIndex& from, const QModelIndex& to) {
-                    for (int row = from.row(); row <= to.row(); ++row)
+                    for (int row = from.row(); row <= to.row(); ++row) {
                         texts[row] = model->index(row, 0).data().toString();
+                    }
                 });
     }
 
@@ -68,10 +71,12 @@ struct SlowModel
     {
         QVector<Message> moved;
         for (Message message : qAsConst(list)) {
-            if (message.line >= first && message.line < first + removed)
+            if (message.line >= first && message.line < first + removed) {
                 continue;
-            if (message.line >= first)
+            }
+            if (message.line >= first) {
                 message.line += added - removed;
+            }
             moved.append(message);
         }
         list = moved;
@@ -133,8 +138,9 @@ void TestMessages::insertsInOrderAtTheEnd()
 {
     Messages messages(nullptr);
     const QAbstractItemModelTester tester(&messages, Fatal);
-    for (int line = 0; line < 5; ++line)
+    for (int line = 0; line < 5; ++line) {
         messages.insert(Message::Warning, QString::number(line), line, 3);
+    }
     // Of one place, both go behind what stands before them.
     messages.insert(Message::Warning, "5", 5, 1);
     messages.insert(Message::Warning, "6", 5, 1);
@@ -146,8 +152,9 @@ void TestMessages::insertsInOrderAtTheEnd()
 void TestMessages::insertAfterClearLineLandsEarly()
 {
     Messages messages(nullptr);
-    for (int line = 0; line < 4; ++line)
+    for (int line = 0; line < 4; ++line) {
         messages.insert(Message::Error, QString::number(line), line, 0);
+    }
     messages.clearLine(2);
     messages.insert(Message::Error, "2 again", 2, 0);
     QCOMPARE(rows(messages), QStringList({"0", "2 again", "1", "3"}));
@@ -159,8 +166,9 @@ void TestMessages::clearLineReachesOnlyTheTail()
 {
     Messages messages(nullptr);
     const QAbstractItemModelTester tester(&messages, Fatal);
-    for (const int line : {5, 2, 5, 7, 5})
+    for (const int line : {5, 2, 5, 7, 5}) {
         messages.add(Message::Error, QString::number(line), line, 0);
+    }
     QSignalSpy updated(&messages, &Messages::updated);
     messages.clearLine(5);
     QCOMPARE(rows(messages), QStringList({"5", "2", "7"}));
@@ -240,8 +248,9 @@ void TestMessages::followsEdits()
         if (random.bounded(3) > 0) {
             QVector<Message> list;
             const int count = random.bounded(4);
-            for (int i = 0; i < count; ++i)
+            for (int i = 0; i < count; ++i) {
                 list << makeMessage(line, i, random.bounded(3), QString::number(random.bounded(9)));
+            }
             messages.replaceLine(line, list);
             slow.replaceLine(line, list);
         } else {
@@ -255,9 +264,10 @@ void TestMessages::followsEdits()
             slow.list.clear();
         }
         QCOMPARE(messages.count(Message::AllTypes), slow.list.size());
-        for (int i = 0; i < slow.list.size(); ++i)
+        for (int i = 0; i < slow.list.size(); ++i) {
             QVERIFY2(messages.at(i) == slow.list.at(i),
                      qPrintable(QStringLiteral("step %1, message %2").arg(step).arg(i)));
+        }
         QCOMPARE(follower.texts, rows(messages));
         const auto isWarning = [](const Message& m) { return m.type == Message::Warning; };
         QCOMPARE(messages.count(Message::Warning),
@@ -331,8 +341,9 @@ void TestMessages::rowsInsideAFrame()
     TestProject* project = parent.open({}, {});
     auto* file = new TestFile;
     project->addFile(file, 2);
-    for (int line = 0; line < 3; ++line)
+    for (int line = 0; line < 3; ++line) {
         file->messages()->add(Message::Error, "a", line, 0);
+    }
     file->messages()->beginChange();
     file->messages()->clear();
     QCOMPARE(project->messages()->rowCount(), 3);
@@ -367,8 +378,9 @@ void TestMessages::fileClosedByItsOwnMessage()
     auto* file = new TestFile;
     project->addFile(file, 2);
     connect(project->messages(), &MessageList::updated, this, [&file, project] {
-        if (file)
+        if (file) {
             project->removeFile(std::exchange(file, nullptr));
+        }
     });
     file->messages()->add(Message::Error, "a", 0, 0);
     QVERIFY(!file);

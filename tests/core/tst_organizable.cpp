@@ -32,8 +32,9 @@ public:
 
     QVariant data(const QModelIndex& index, int role) const override
     {
-        if (role == Qt::DisplayRole)
+        if (role == Qt::DisplayRole) {
             return QString(QChar('a' + rows.value(index.row())));
+        }
         return role == Qt::UserRole ? extra : QVariant();
     }
 
@@ -63,8 +64,9 @@ public:
     QMimeData* drag(const QList<int>& dragged) const
     {
         QModelIndexList indexes;
-        for (const int row : dragged)
+        for (const int row : dragged) {
             indexes.append(index(row));
+        }
         return mimeData(indexes);
     }
 
@@ -97,8 +99,9 @@ Rows expectedOrder(int count, QList<int> dragged, int target)
     std::sort(dragged.begin(), dragged.end());
     Rows before, after;
     for (int row = 0; row < count; ++row) {
-        if (!dragged.contains(row))
+        if (!dragged.contains(row)) {
             (row < target ? before : after).append(row);
+        }
     }
     return before + dragged.toVector() + after;
 }
@@ -163,12 +166,14 @@ private slots:
             for (int bits = 1; bits < 256; ++bits) {
                 QList<int> dragged;
                 for (int row = 7; row >= 0; --row) {
-                    if (bits >> row & 1)
+                    if (bits >> row & 1) {
                         dragged.append(row);
+                    }
                 }
                 // A row dropped on its own place splits the ones around it.
-                if (dragged.contains(target))
+                if (dragged.contains(target)) {
                     continue;
+                }
                 Letters list(8);
                 const QScopedPointer<QMimeData> data(list.drag(dragged));
                 list.dropMimeData(data.data(), Qt::MoveAction, target, 0, {});
@@ -296,8 +301,9 @@ private slots:
         QByteArray deep;
         QDataStream out(&deep, QIODevice::WriteOnly);
         out << 1 << 0 << quint32(1) << int(Qt::UserRole);
-        for (int i = 0; i < 200000; ++i)
+        for (int i = 0; i < 200000; ++i) {
             out << quint32(QMetaType::QVariantList) << quint8(0) << quint32(1);
+        }
         QTest::newRow("lists in lists") << deep;
         QTest::newRow("rows that are not there")
             << payload(-1, QMetaType::Int, 0) + payload(5, QMetaType::Int, 0) +
@@ -326,8 +332,9 @@ private slots:
         const QString format = data->formats().value(0);
         for (int i = 0; i < 20000; ++i) {
             QByteArray bytes = data->data(format);
-            for (int n = random.bounded(4); n >= 0; --n)
+            for (int n = random.bounded(4); n >= 0; --n) {
                 bytes[random.bounded(bytes.size())] = char(random.bounded(256));
+            }
             QMimeData changed;
             changed.setData(format, bytes);
             list.dropMimeData(&changed, Qt::MoveAction, random.bounded(6), 0, {});

@@ -146,8 +146,9 @@ void TestPathTree::cleanup()
 void TestPathTree::makeGame()
 {
     for (const char* name : {"chars/hero/hero.code", "chars/rival/rival.code", "stages/dojo.stage",
-                             "stages/roof.stage", "stages/roof.spr"})
+                             "stages/roof.stage", "stages/roof.spr"}) {
         QVERIFY(writeFile(path(name)));
+    }
     addListings(*m_parent);
 }
 
@@ -177,17 +178,21 @@ void TestPathTree::splitsPaths()
 {
     QFETCH(QString, added);
     QFETCH(QStringList, tree);
-    if (added.contains("%1"))
+    if (added.contains("%1")) {
         added = added.arg(m_dir->path());
-    if (QDir::tempPath() != "/tmp" && tree.value(0) == "tmp/")
+    }
+    if (QDir::tempPath() != "/tmp" && tree.value(0) == "tmp/") {
         QSKIP("needs the temporary folder in its usual place");
-    for (QString& line : tree)
+    }
+    for (QString& line : tree) {
         line.replace("%2", QFileInfo(m_dir->path()).fileName());
+    }
     const ParentProject::Path* last = m_parent->addPath(added, ParentProject::ListNothing, {});
     QCOMPARE(m_parent->dump(), tree);
     QCOMPARE(last == nullptr, tree.isEmpty());
-    if (last)
+    if (last) {
         QCOMPARE(m_parent->itemPath(m_parent->indexOf(added)), last);
+    }
     m_parent->addPath(added, ParentProject::ListNothing, {});
     QCOMPARE(m_parent->dump(), tree);
     m_parent->removePath(added);
@@ -478,8 +483,9 @@ void TestPathTree::firstProjectMakesBackup()
     const QStringList folders = QDir(path("backup")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     QCOMPARE(folders.size(), backups);
     QCOMPARE(host.progresses.size(), backups);
-    if (backups == 0)
+    if (backups == 0) {
         return;
+    }
     const QRegularExpression form("^\\d\\d\\.\\d\\d\\.\\d{4}_\\d+\\.\\d+\\.\\d+_[ap]m_Auto$");
     QVERIFY2(form.match(folders.first()).hasMatch(), qPrintable(folders.first()));
     QCOMPARE(readFile(path("backup/") + folders.first() + "/a.spr"), QByteArray("sprites"));
@@ -506,17 +512,19 @@ void TestPathTree::randomFileLists()
     QRandomGenerator random(seed);
     QStringList names = {"a",       "b",  "B",     "m.x",        "sub/a", "sub/z",
                          "sub/b/c", "x/", "/lead", "two//parts", "../up"};
-    if (exact)
+    if (exact) {
         names << "sub"
               << "sub/b";  // both a file and a folder
+    }
     TestProject* project = m_parent->open(main, {});
     for (int step = 0; step < 400; ++step) {
         QString text;
         const int count = random.bounded(6);
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             text += QStringLiteral("%1 %2\n")
                         .arg(1 << random.bounded(3))
                         .arg(names.at(random.bounded(names.size())));
+        }
         setText(project, text);
         TestParent fresh(m_dir->path());
         fresh.open(main, text);
@@ -551,18 +559,20 @@ void TestPathTree::randomWorld()
     QList<Opened> opened;
     for (int step = 0; step < 300; ++step) {
         QString text;
-        for (int i = random.bounded(4); i > 0; --i)
+        for (int i = random.bounded(4); i > 0; --i) {
             text += QStringLiteral("2 %1\n").arg(names.at(random.bounded(names.size())));
+        }
         const QString file = files.at(random.bounded(files.size()));
         const auto at = std::find_if(opened.begin(), opened.end(),
                                      [&file](const Opened& o) { return o.file == file; });
         const int action = random.bounded(4);
         if (action == 0) {
             const QString entry = path(onDisk.at(random.bounded(onDisk.size())));
-            if (QFile::remove(entry))
+            if (QFile::remove(entry)) {
                 QDir().rmdir(QFileInfo(entry).path());
-            else
+            } else {
                 QVERIFY(writeFile(entry));
+            }
         } else if (at == opened.end()) {
             opened.append({file, text, m_parent->open(file, text)});
         } else if (action == 1) {
@@ -574,8 +584,9 @@ void TestPathTree::randomWorld()
         }
         TestParent fresh(m_dir->path());
         addListings(fresh);
-        for (const Opened& o : qAsConst(opened))
+        for (const Opened& o : qAsConst(opened)) {
             fresh.open(o.file, o.text);
+        }
         QTRY_COMPARE(m_parent->dump(), fresh.dump());
     }
 }

@@ -316,8 +316,9 @@ void TestProjects::editorThatIsAFileToo()
         main->registerDocumentEditor(animations, CodeNode::Animation, 0);
         project.setOption("key", 5, false);
         QCOMPARE(animations->option("key"), QVariant(5));
-        if (isFileOfProject)
+        if (isFileOfProject) {
             project.addFile(animations, FileID::Animations);
+        }
         main->release();
         QVERIFY(list.isNull());
         QVERIFY(project.files().isEmpty());

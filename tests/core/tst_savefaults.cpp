@@ -40,10 +40,12 @@ bool save(const QString& path, char letter, QString* error = nullptr)
 {
     FileSystemArchive* archive = FileSystemArchive::instance();
     QIODevice* device = archive->openFile(path, QIODevice::WriteOnly, error);
-    if (!device)
+    if (!device) {
         return false;
-    for (int i = 0; i < BlockCount; ++i)
+    }
+    for (int i = 0; i < BlockCount; ++i) {
         device->write(QByteArray(BlockSize, letter));
+    }
     return archive->closeFile(device, error);
 }
 
@@ -57,8 +59,9 @@ bool isWhole(const QByteArray& content)
 int inChild(const std::function<int()>& work)
 {
     const pid_t pid = fork();
-    if (pid == 0)
+    if (pid == 0) {
         _exit(work());
+    }
     int status = 0;
     waitpid(pid, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
@@ -132,8 +135,9 @@ private slots:
         const auto change = [this] {
             FileSystemArchive* archive = FileSystemArchive::instance();
             QIODevice* device = archive->openFile(path, QIODevice::ReadWrite);
-            if (!device)
+            if (!device) {
                 return false;
+            }
             device->seek(BlockSize);
             device->write("new");
             return archive->closeFile(device);
@@ -145,8 +149,9 @@ private slots:
         const QByteArray old = contentOf(path);
         for (int nth = 1; nth <= calls; ++nth) {
             // The file that is only read has nothing to lose when it is closed.
-            if (kind == FaultClose && nth == 1)
+            if (kind == FaultClose && nth == 1) {
                 continue;
+            }
             faultArm("victim", kind, nth, error, isShort);
             QVERIFY2(!change(), qPrintable(QString::number(nth)));
             faultArm("", FaultOpen, 0, 0, 0);
@@ -175,8 +180,9 @@ private slots:
             const rlimit limit{BlockSize * 3 + 7, BlockSize * 3 + 7};
             setrlimit(RLIMIT_FSIZE, &limit);
             QString error;
-            if (save(path, 'n', &error))
+            if (save(path, 'n', &error)) {
                 return 1;
+            }
             return error.contains(qt_error_string(EFBIG)) ? 0 : 2;
         });
         QCOMPARE(status, 0);
@@ -189,11 +195,13 @@ private slots:
         const QByteArray old = contentOf(path);
         QVERIFY(QFile::setPermissions(folder->path(), QFile::Permissions(0x5555)));
         const int status = inChild([this] {
-            if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0))
+            if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) {
                 return 3;
+            }
             QString error;
-            if (save(path, 'n', &error))
+            if (save(path, 'n', &error)) {
                 return 1;
+            }
             return error.contains(path) ? 0 : 2;
         });
         QVERIFY(QFile::setPermissions(folder->path(), QFile::Permissions(0x7755)));
@@ -209,8 +217,9 @@ private slots:
         QVERIFY(QFile::setPermissions(folder->path(), QFile::Permissions(0x7777)));
         QVERIFY(QFile::setPermissions(path, QFile::Permissions(0x4444)));
         const int status = inChild([this] {
-            if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0))
+            if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) {
                 return 3;
+            }
             QString error;
             return save(path, 'n', &error) ? 1 : 0;
         });
@@ -260,8 +269,9 @@ private slots:
         for (int i = 0; i < KillCount; ++i) {
             const pid_t pid = fork();
             if (pid == 0) {
-                for (int n = 0;; ++n)
+                for (int n = 0;; ++n) {
                     save(path, char('a' + n % 26));
+                }
             }
             usleep(useconds_t(random.bounded(12000)));
             kill(pid, SIGKILL);

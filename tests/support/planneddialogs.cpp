@@ -7,8 +7,9 @@ PlannedDialogs::PlannedDialogs()
 
 PlannedDialogs::~PlannedDialogs()
 {
-    if (instance() == this)
+    if (instance() == this) {
         setInstance(nullptr);
+    }
 }
 
 int PlannedDialogs::count(const QString& kind) const
@@ -20,8 +21,9 @@ QStringList PlannedDialogs::texts(const QString& kind) const
 {
     QStringList result;
     for (const Shown& dialog : shown) {
-        if (dialog.kind == kind)
+        if (dialog.kind == kind) {
             result.append(dialog.text);
+        }
     }
     return result;
 }
@@ -83,16 +85,19 @@ QString PlannedDialogs::existingFolder(QWidget*, const QString& caption, const Q
 void PlannedDialogs::show(const Shown& dialog)
 {
     shown.append(dialog);
-    if (whileOpen)
+    if (whileOpen) {
         whileOpen(dialog);
+    }
 }
 
 PlannedDialogs::Button PlannedDialogs::takeButton(Buttons buttons, Button defaultButton)
 {
-    if (!buttonAnswers.isEmpty())
+    if (!buttonAnswers.isEmpty()) {
         return buttonAnswers.takeFirst();
-    if (buttons & Cancel)
+    }
+    if (buttons & Cancel) {
         return Cancel;
+    }
     return buttons & No ? No : defaultButton;
 }
 

@@ -36,15 +36,17 @@ TestInterface::TestInterface()
 
 TestInterface::~TestInterface()
 {
-    if (instance() == this)
+    if (instance() == this) {
         setGlobalInterface(nullptr);
+    }
 }
 
 QString TestInterface::status(int field) const
 {
     for (int i = statuses.size() - 1; i >= 0; --i) {
-        if (statuses[i].first == field)
+        if (statuses[i].first == field) {
             return statuses[i].second;
+        }
     }
     return {};
 }
@@ -125,10 +127,11 @@ QVariant TestInterface::option(const QString& key) const
 void TestInterface::setOption(const QString& key, const QVariant& value)
 {
     record("setOption", {key, value.toString()});
-    if (value.isNull())
+    if (value.isNull()) {
         options.remove(key);
-    else
+    } else {
         options[key] = value;
+    }
 }
 
 void TestInterface::showStatus(int field, const QString& text)
@@ -155,12 +158,15 @@ QAction* TestInterface::createAction(const char* const*, const QString& name, Zo
     record("createAction", {name});
     auto* action = new QAction(name, &m_owner);
     action->setObjectName(name);
-    if (shortcut)
+    if (shortcut) {
         action->setShortcut(QKeySequence(QString::fromLatin1(shortcut)));
-    if (receiver && slot)
+    }
+    if (receiver && slot) {
         QObject::connect(action, SIGNAL(triggered()), receiver, slot);
-    if (receiver && enableSignal)
+    }
+    if (receiver && enableSignal) {
         QObject::connect(receiver, enableSignal, action, SLOT(setEnabled(bool)));
+    }
     if (receiver && checkSignal) {
         action->setCheckable(true);
         QObject::connect(receiver, checkSignal, action, SLOT(setChecked(bool)));

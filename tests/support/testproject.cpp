@@ -41,8 +41,9 @@ bool TestFile::toFile(Zorv::Archive& archive, const QString& fileName, bool asCo
 {
     QIODevice* device = archive.openFile(fileName, QIODevice::WriteOnly);
     const bool written = device && device->write(content) == content.size();
-    if (!archive.closeFile(device) || !written)
+    if (!archive.closeFile(device) || !written) {
         return false;
+    }
     if (!asCopy) {
         name = fileName;
         modified = false;
@@ -53,12 +54,14 @@ bool TestFile::toFile(Zorv::Archive& archive, const QString& fileName, bool asCo
 bool TestFile::fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy)
 {
     QIODevice* device = archive.openFile(fileName, QIODevice::ReadOnly);
-    if (!device)
+    if (!device) {
         return false;
+    }
     content = device->readAll();
     archive.closeFile(device);
-    if (!asCopy)
+    if (!asCopy) {
         name = fileName;
+    }
     modified = asCopy;
     return true;
 }
@@ -79,8 +82,9 @@ void TestProject::fileInfos(QList<FileInfo>& list)
     const QStringList lines = main->text().split(QLatin1Char('\n'));
     for (const QString& line : lines) {
         const int blank = line.indexOf(QLatin1Char(' '));
-        if (blank > 0)
+        if (blank > 0) {
             list.append({line.leftRef(blank).toUInt(), line.mid(blank + 1)});
+        }
     }
 }
 
@@ -91,8 +95,9 @@ TestParent::TestParent(const QString& root)
 
 TestParent::~TestParent()
 {
-    while (!m_projects.isEmpty())
+    while (!m_projects.isEmpty()) {
         close(m_projects.first());
+    }
 }
 
 TestProject* TestParent::open(const QString& path, const QString& files)
@@ -120,10 +125,12 @@ QStringList TestParent::dump(const QModelIndex& index, int depth) const
         const QModelIndex child = this->index(row, 0, index);
         const Path* path = itemPath(child);
         QString line = QString(depth, QLatin1Char(' ')) + path->pathName();
-        if (path->isDirectory())
+        if (path->isDirectory()) {
             line += QLatin1Char('/');
-        if (path->isFile())
+        }
+        if (path->isFile()) {
             line += QStringLiteral(" %1").arg(path->fileID());
+        }
         lines << line << dump(child, depth + 1);
     }
     return lines;

@@ -58,8 +58,9 @@ QTextCodec* detected(const QByteArray& data)
 {
     const std::unique_ptr<uchardet, decltype(&uchardet_delete)> detector(uchardet_new(),
                                                                          &uchardet_delete);
-    if (uchardet_handle_data(detector.get(), data.constData(), size_t(data.size())) != 0)
+    if (uchardet_handle_data(detector.get(), data.constData(), size_t(data.size())) != 0) {
         return nullptr;
+    }
     uchardet_data_end(detector.get());
     const QByteArray name = uchardet_get_charset(detector.get());
     // Every codec shares ASCII: it says nothing about what will be typed later.
@@ -82,8 +83,9 @@ int TextCodecs::index(const char* name)
 
 QString TextCodecs::name(int number)
 {
-    if (number == 0)
+    if (number == 0) {
         return QCoreApplication::translate("Zorv::TextCodecs", "System");
+    }
     return number > 0 ? QString::fromLatin1(s_codecs.value(number - 1).constData()) : QString();
 }
 
@@ -122,8 +124,9 @@ int TextCodecs::firstUnencodable(const QString& text, int number)
         const QByteArray bytes = codec->fromUnicode(text.constData() + start, size, &encoding);
         const QString back = codec->toUnicode(bytes.constData(), bytes.size(), &decoding);
         for (const QChar c : back) {
-            if (same == text.size() || text[same] != c)
+            if (same == text.size() || text[same] != c) {
                 return same > 0 && text[same - 1].isHighSurrogate() ? same - 1 : same;
+            }
             ++same;
         }
     }
@@ -142,11 +145,13 @@ bool TextCodecs::isFaithful(const QByteArray& data, int number)
         const QString text = codec->toUnicode(data.constData() + start, size, &decoding);
         const QByteArray back = codec->fromUnicode(text.constData(), text.size(), &encoding);
         // A codec that is not Unicode's reads the mark as text.
-        if (same < 0)
+        if (same < 0) {
             same = back.startsWith(mark) ? 0 : mark.size();
+        }
         if (back.size() > data.size() - same ||
-            memcmp(back.constData(), data.constData() + same, size_t(back.size())) != 0)
+            memcmp(back.constData(), data.constData() + same, size_t(back.size())) != 0) {
             return false;
+        }
         same += back.size();
     }
     return data.isEmpty() || same == data.size();
@@ -157,15 +162,18 @@ int TextCodecs::faithfulCodec(const QByteArray& data)
     QList<int> candidates{index("UTF-8")};
     const QByteArray mark = byteOrderMark(data);
     for (const auto& entry : marks) {
-        if (entry.mark == mark)
+        if (entry.mark == mark) {
             candidates.append(index(entry.codec));
+        }
     }
-    if (const QTextCodec* codec = detected(data))
+    if (const QTextCodec* codec = detected(data)) {
         candidates.append(numberOf(codec));
+    }
     candidates.append(index("windows-1252"));
     for (const int number : qAsConst(candidates)) {
-        if (number > 0 && isFaithful(data, number))
+        if (number > 0 && isFaithful(data, number)) {
             return number;
+        }
     }
     // A character for every byte.
     return index("ISO-8859-1");
@@ -174,8 +182,9 @@ int TextCodecs::faithfulCodec(const QByteArray& data)
 QByteArray TextCodecs::byteOrderMark(const QByteArray& data)
 {
     for (const auto& entry : marks) {
-        if (data.startsWith(entry.mark))
+        if (data.startsWith(entry.mark)) {
             return entry.mark;
+        }
     }
     return {};
 }

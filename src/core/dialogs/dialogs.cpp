@@ -41,8 +41,9 @@ bool canShow()
 
 Dialogs::Button closingButton(Dialogs::Buttons buttons, Dialogs::Button defaultButton)
 {
-    if (buttons & Dialogs::Cancel)
+    if (buttons & Dialogs::Cancel) {
         return Dialogs::Cancel;
+    }
     return buttons & Dialogs::No ? Dialogs::No : defaultButton;
 }
 
@@ -50,19 +51,23 @@ Dialogs::Button showBox(QMessageBox::Icon icon, const QString& title, const QStr
                         Dialogs::Buttons buttons, Dialogs::Button defaultButton)
 {
     const Dialogs::Button closing = closingButton(buttons, defaultButton);
-    if (!canShow())
+    if (!canShow()) {
         return closing;
+    }
     QMessageBox box(icon, title, text, QMessageBox::NoButton, mainWindow());
     // A path in a text is no markup.
     box.setTextFormat(Qt::PlainText);
     for (const auto& entry : buttonTable) {
-        if (!(buttons & entry.button))
+        if (!(buttons & entry.button)) {
             continue;
+        }
         QPushButton* button = box.addButton(entry.standard);
-        if (entry.button == defaultButton)
+        if (entry.button == defaultButton) {
             box.setDefaultButton(button);
-        if (entry.button == closing)
+        }
+        if (entry.button == closing) {
             box.setEscapeButton(button);
+        }
     }
     const int answer = box.exec();
     const auto* entry = std::find_if(std::begin(buttonTable), std::end(buttonTable),
@@ -115,8 +120,9 @@ void Dialogs::error(const QString& title, const QString& text)
 int Dialogs::choose(const QString& title, const QString& text, const QStringList& choices,
                     int defaultChoice)
 {
-    if (!canShow() || choices.isEmpty())
+    if (!canShow() || choices.isEmpty()) {
         return -1;
+    }
     QInputDialog dialog(mainWindow());
     dialog.setWindowTitle(title);
     dialog.setLabelText(text);
@@ -169,8 +175,9 @@ QStringList getOpenFileNames(QWidget* parent, const QString& caption, const QStr
 {
     QStringList names = Dialogs::instance()->openFileNames(parent, caption, dir, filter);
     const Interface* host = Interface::instance();
-    if (host && host->option(QStringLiteral("sort_file_names")).toBool())
+    if (host && host->option(QStringLiteral("sort_file_names")).toBool()) {
         names.sort(Qt::CaseSensitive);
+    }
     return names;
 }
 

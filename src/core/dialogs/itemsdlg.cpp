@@ -57,13 +57,15 @@ ItemsDlg::~ItemsDlg() = default;
 QList<int> ItemsDlg::selected() const
 {
     QList<int> rows;
-    if (!m_list->selectionModel())
+    if (!m_list->selectionModel()) {
         return rows;
+    }
     // The list shows the first column alone, so a row is never selected as a whole.
     const QModelIndexList indexes = m_list->selectionModel()->selectedIndexes();
     for (const QModelIndex& index : indexes) {
-        if (index.column() == 0)
+        if (index.column() == 0) {
             rows.append(index.row());
+        }
     }
     std::sort(rows.begin(), rows.end());
     return rows;
@@ -79,8 +81,9 @@ void ItemsDlg::release()
     // The view forgets its old selection without deleting it.
     QItemSelectionModel* selection = m_list->selectionModel();
     m_list->setModel(nullptr);
-    if (selection != m_list->selectionModel())
+    if (selection != m_list->selectionModel()) {
         delete selection;
+    }
 }
 
 void ItemsDlg::on_selectAllButton_clicked()
@@ -97,8 +100,9 @@ void ItemsDlg::on_invertButton_clicked()
 {
     const QAbstractItemModel* model = m_list->model();
     const int last = model ? model->rowCount() - 1 : -1;
-    if (last < 0)
+    if (last < 0) {
         return;
+    }
     const QItemSelection all(model->index(0, 0), model->index(last, 0));
     m_list->selectionModel()->select(all, QItemSelectionModel::Toggle);
 }
