@@ -63,8 +63,26 @@ QStringList argumentsOf(int argc, char** argv)
     return arguments;
 }
 
+/// Bytes that are no characters would be written to files as something else.
+bool areArgumentsText(char** argv, const QStringList& arguments)
+{
+    for (int i = 0; i < arguments.size(); ++i) {
+        if (arguments.at(i).toLocal8Bit() != argv[i + 1]) {
+            fprintf(stderr,
+                    "zorv: Argument %d has bytes that are no characters in the encoding of the "
+                    "terminal. Type it anew.\n",
+                    i + 1);
+            return false;
+        }
+    }
+    return true;
+}
+
 int runOnCommandLine(char** argv, const QStringList& arguments)
 {
+    if (!areArgumentsText(argv, arguments)) {
+        return Cli::WrongUsage;
+    }
     // A document measures its text with fonts, so Qt needs a platform; this one
     // has neither display nor fonts, and asks no desktop for anything.
     qputenv("QT_QPA_PLATFORM", "minimal");
