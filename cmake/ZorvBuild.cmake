@@ -58,15 +58,15 @@ endif()
 # zorv_test(tst_name [GUI] [SOURCES file...] [LIBRARIES target...] [ARGUMENTS arg...])
 #
 # A QtTest program of tst_name.cpp and the further sources, and its test. With GUI it runs on an X
-# server and a window manager of its own and carries the label "gui"; without, it needs no display.
-# Under a sanitizer none does: what the libraries of the X server do is not ours to check.
+# server of its own and carries the label "gui"; without, it needs no display.
 function(zorv_test name)
     cmake_parse_arguments(arg "GUI" "" "SOURCES;LIBRARIES;ARGUMENTS" ${ARGN})
     add_executable(${name} ${name}.cpp ${arg_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE Zorv::zorv zorv_options Qt5::Test ${arg_LIBRARIES})
-    if(arg_GUI AND NOT ZORV_SANITIZE)
-        add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/on_display.sh
+    if(arg_GUI)
+        find_program(XVFB_RUN xvfb-run REQUIRED)
+        add_test(NAME ${name} COMMAND ${XVFB_RUN} -a -s "-screen 0 1280x1024x24"
                                       $<TARGET_FILE:${name}> ${arg_ARGUMENTS})
         # Two xvfb-run at once may choose the same display number.
         set_tests_properties(${name} PROPERTIES LABELS gui RESOURCE_LOCK xvfb)

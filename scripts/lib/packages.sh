@@ -8,7 +8,7 @@ packages_build=(
 )
 packages_display=(xvfb xauth libgl1-mesa-dri fonts-dejavu-core)
 packages_run=(fonts-droid-fallback)  # the sample game has comments in Japanese
-packages_test=(python3 openbox)  # without a window manager no window gets the focus
+packages_test=(python3)
 packages_bench=(libkf5syntaxhighlighting-dev)
 packages_fuzz=(clang libclang-rt-14-dev)
 packages_format=(clang-format-14)
