@@ -1,3 +1,4 @@
+#include "support/randomtext.h"
 #include "support/testgrammar.h"
 
 #include "core/messages.h"
@@ -12,73 +13,10 @@ namespace {
 
 constexpr quint32 Seed = 20260711;
 
-const char* const Lines[] = {"[1]",   "[1]", "[2]", "[3*]", "[2*]", "a=1", "b=2",  "c=3",
-                             "a=4",   "!x",  "!y",  "!z",   "-f",   "-g",  "-h",   "# note",
-                             "# [1]", "",    "",    "?e",   "?w",   "?d",  "junk", "-i"};
-
-QString randomLines(QRandomGenerator& random, int most)
-{
-    QStringList lines;
-    for (int n = random.bounded(most + 1); n > 0; --n) {
-        lines.append(QLatin1String(Lines[random.bounded(int(std::size(Lines)))]));
-    }
-    return lines.join(QLatin1Char('\n'));
-}
-
-int randomPosition(QRandomGenerator& random, const QTextDocument& document)
-{
-    const QTextBlock block = document.findBlockByNumber(random.bounded(document.blockCount()));
-    switch (random.bounded(3)) {
-    case 0:
-        return block.position();
-    case 1:
-        return block.position() + block.length() - 1;
-    default:
-        return block.position() + random.bounded(block.length());
-    }
-}
-
-void randomEdit(QRandomGenerator& random, QTextDocument& document)
-{
-    QTextCursor cursor(&document);
-    cursor.setPosition(randomPosition(random, document));
-    switch (random.bounded(10)) {
-    case 0:
-    case 1:
-        cursor.insertText(QString(QLatin1Char("[]!-=#?12ax\n"[random.bounded(12)])));
-        break;
-    case 2:
-        cursor.insertText(QStringLiteral("\n") + randomLines(random, 4));
-        break;
-    case 3:
-        cursor.insertText(randomLines(random, 4) + QStringLiteral("\n"));
-        break;
-    case 4:
-    case 5: {
-        const QTextBlock last = document.findBlockByNumber(
-            qMin(document.blockCount() - 1, cursor.blockNumber() + random.bounded(5)));
-        cursor.movePosition(QTextCursor::StartOfBlock);
-        cursor.setPosition(last.position(), QTextCursor::KeepAnchor);
-        cursor.insertText(random.bounded(2) ? randomLines(random, 3) : QString());
-        break;
-    }
-    case 6:
-        cursor.setPosition(randomPosition(random, document), QTextCursor::KeepAnchor);
-        if (qAbs(cursor.position() - cursor.anchor()) < 40) {
-            cursor.removeSelectedText();
-        }
-        break;
-    case 7:
-        cursor.deletePreviousChar();
-        break;
-    case 8:
-        document.undo();
-        break;
-    default:
-        document.redo();
-        break;
-    }
-}
+const RandomText Text({"[1]",   "[1]", "[2]", "[3*]", "[2*]", "a=1", "b=2",  "c=3",
+                       "a=4",   "!x",  "!y",  "!z",   "-f",   "-g",  "-h",   "# note",
+                       "# [1]", "",    "",    "?e",   "?w",   "?d",  "junk", "-i"},
+                      QStringLiteral("[]!-=#?12ax\n"));
 
 }  // namespace
 
@@ -107,7 +45,7 @@ void CodeDocumentTruth::randomEdits()
 {
     QFETCH(int, run);
     QRandomGenerator random(Seed + quint32(run));
-    GrammarDocument document(randomLines(random, 60));
+    GrammarDocument document(Text.lines(random, 60));
     auto* animations = new TestAnimations(&document);
     document.registerDocumentEditor(animations, Zorv::CodeNode::Animation, 0);
     document.reparse();
@@ -121,11 +59,11 @@ void CodeDocumentTruth::randomEdits()
         QTextCursor cursor(&document);
         if (inBlock) {
             cursor.beginEditBlock();
-            randomEdit(random, document);
-            randomEdit(random, document);
+            Text.edit(random, document);
+            Text.edit(random, document);
             cursor.endEditBlock();
         }
-        randomEdit(random, document);
+        Text.edit(random, document);
         const GrammarDocument fresh(document.text());
         const QStringList found = document.dump();
         const QStringList expected = fresh.dump();

@@ -1,6 +1,7 @@
 #include "familydump.h"
 
 #include "core/filesystemarchive.h"
+#include "support/randomtext.h"
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
@@ -16,62 +17,52 @@ namespace {
 
 constexpr quint32 Seed = 20260712;
 
-const char* const Lines[] = {
-    "[info]",
-    "[constants]",
-    "[constants]",
-    "[constants]",
-    "[data]",
-    "[move jab]",
-    "[move kick]",
-    "[.walk]",
-    "[.walk]",
-    "[.run]",
-    "[.hit]",
-    "[.nothing]",
-    "[what]",
-    "[commands]",
-    "[music",
-    "life = 1000",
-    "lifebar = 5",
-    "power = 3",
-    "forward = 2.5",
-    "back = -1",
-    "name = \"Ryn\"",
-    "animation = 5",
-    "fire = \"D\"",
-    "x = 1",
-    "file = \"a\"",
-    "animation 5",
-    "animation 6 \"b\"",
-    "animation",
-    "frame 0,0",
-    "frame 1,2 delay 4",
-    "frame 1,2 loop",
-    "frame",
-    "attack 1,2,3,4",
-    "attack 5,6,7,8",
-    "body 1,2,3,4",
-    "body 9,9,1,1",
-    "attack 1,2",
-    "# note",
-    "# [info]",
-    "",
-    "",
-    "zorv 1",
-    "what is it",
-    "damage = 1,2",
-    "[]",
-};
-
-QString randomLines(QRandomGenerator& random, int most)
-{
-    QStringList lines;
-    for (int n = random.bounded(most + 1); n > 0; --n) {
-        lines.append(QLatin1String(Lines[random.bounded(int(std::size(Lines)))]));
-    }
-    return lines.join(QLatin1Char('\n'));
-}
+const RandomText Text({"[info]",
+                       "[constants]",
+                       "[constants]",
+                       "[constants]",
+                       "[data]",
+                       "[move jab]",
+                       "[move kick]",
+                       "[.walk]",
+                       "[.walk]",
+                       "[.run]",
+                       "[.hit]",
+                       "[.nothing]",
+                       "[what]",
+                       "[commands]",
+                       "[music",
+                       "life = 1000",
+                       "lifebar = 5",
+                       "power = 3",
+                       "forward = 2.5",
+                       "back = -1",
+                       "name = \"Ryn\"",
+                       "animation = 5",
+                       "fire = \"D\"",
+                       "x = 1",
+                       "file = \"a\"",
+                       "animation 5",
+                       "animation 6 \"b\"",
+                       "animation",
+                       "frame 0,0",
+                       "frame 1,2 delay 4",
+                       "frame 1,2 loop",
+                       "frame",
+                       "attack 1,2,3,4",
+                       "attack 5,6,7,8",
+                       "body 1,2,3,4",
+                       "body 9,9,1,1",
+                       "attack 1,2",
+                       "# note",
+                       "# [info]",
+                       "",
+                       "",
+                       "zorv 1",
+                       "what is it",
+                       "damage = 1,2",
+                       "[]"},
+                      QStringLiteral("[].=#1,ax \"\n"));
 
 QString randomAnimations(QRandomGenerator& random, int most)
 {
@@ -88,62 +79,6 @@ QString randomAnimations(QRandomGenerator& random, int most)
         }
     }
     return lines.join(QLatin1Char('\n')) + (random.bounded(2) ? QStringLiteral("\n") : QString());
-}
-
-int randomPosition(QRandomGenerator& random, const QTextDocument& document)
-{
-    const QTextBlock block = document.findBlockByNumber(random.bounded(document.blockCount()));
-    switch (random.bounded(3)) {
-    case 0:
-        return block.position();
-    case 1:
-        return block.position() + block.length() - 1;
-    default:
-        return block.position() + random.bounded(block.length());
-    }
-}
-
-void replaceSomeLines(QRandomGenerator& random, QTextDocument& document, QTextCursor& cursor)
-{
-    const QTextBlock last = document.findBlockByNumber(
-        qMin(document.blockCount() - 1, cursor.blockNumber() + random.bounded(5)));
-    cursor.movePosition(QTextCursor::StartOfBlock);
-    cursor.setPosition(last.position(), QTextCursor::KeepAnchor);
-    cursor.insertText(random.bounded(2) ? randomLines(random, 3) : QString());
-}
-
-void randomEdit(QRandomGenerator& random, FamilyDocument& document)
-{
-    QTextCursor cursor(&document);
-    cursor.setPosition(randomPosition(random, document));
-    switch (random.bounded(9)) {
-    case 0:
-    case 1:
-        cursor.insertText(QString(QLatin1Char("[].=#1,ax \"\n"[random.bounded(12)])));
-        break;
-    case 2:
-        cursor.insertText(QStringLiteral("\n") + randomLines(random, 4));
-        break;
-    case 3:
-        cursor.insertText(randomLines(random, 4) + QStringLiteral("\n"));
-        break;
-    case 4:
-    case 5:
-        replaceSomeLines(random, document, cursor);
-        break;
-    case 6:
-        cursor.setPosition(randomPosition(random, document), QTextCursor::KeepAnchor);
-        if (qAbs(cursor.position() - cursor.anchor()) < 60) {
-            cursor.removeSelectedText();
-        }
-        break;
-    case 7:
-        cursor.deletePreviousChar();
-        break;
-    default:
-        random.bounded(2) ? document.undo() : document.redo();
-        break;
-    }
 }
 
 Zorv::CodeNode* randomNode(QRandomGenerator& random, const FamilyDocument& document)
@@ -182,7 +117,7 @@ void editFrame(QRandomGenerator& random, FrameNode* frame)
 void treeEdit(QRandomGenerator& random, FamilyDocument& document)
 {
     Zorv::CodeNode* node = randomNode(random, document);
-    const QString line = QLatin1String(Lines[random.bounded(int(std::size(Lines)))]);
+    const QString line = Text.line(random);
     if (!node) {
         document.insert(line + QLatin1Char('\n'));
         return;
@@ -298,7 +233,7 @@ void TestFamilyDocument::truthAfterEdits()
     QFETCH(int, run);
     QRandomGenerator random(Seed + quint32(run));
     FamilyDocument document(FileKind(run % 3));
-    document.fromString(randomLines(random, 70));
+    document.fromString(Text.lines(random, 70));
     const auto mode = QAbstractItemModelTester::FailureReportingMode::QtTest;
     QAbstractItemModelTester listTester(document.animations(), mode);
     QAbstractItemModelTester messageTester(document.messages(), mode);
@@ -308,9 +243,9 @@ void TestFamilyDocument::truthAfterEdits()
         QTextCursor cursor(&document);
         if (block) {
             cursor.beginEditBlock();
-            randomEdit(random, document);
+            Text.edit(random, document);
         }
-        randomEdit(random, document);
+        Text.edit(random, document);
         if (block) {
             cursor.endEditBlock();
         }
@@ -329,7 +264,7 @@ void TestFamilyDocument::truthAfterTreeEdits()
     QFETCH(int, run);
     QRandomGenerator random(Seed + 100 + quint32(run));
     FamilyDocument document(FileKind::Character);
-    document.fromString(randomLines(random, 70));
+    document.fromString(Text.lines(random, 70));
     for (int step = 0; step < 80; ++step) {
         const QString before = document.text();
         const QStringList dumpBefore = FamilyDump::of(&document);
