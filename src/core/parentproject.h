@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/fileid.h"
+#include "core/run/runresult.h"
 #include "zorv_export.h"
 
 #include <QAbstractItemModel>
@@ -134,9 +135,72 @@ public:
     /// Appends the paths, relative to the root, of all projects that are not open.
     void listProjects(QStringList& list) const;
 
-    /// Copies all open projects into a new folder below "backup/", named after
-    /// the time and `name`. True in every case.
+    /// @name All projects at once
+    /// All of these show their progress and run to the end in the main thread,
+    /// unless the person gives them up: what is done then stays, and every file
+    /// is whole. Afterwards `failedFiles()` tells what could not be written.
+    /// @{
+
+    /// Copies all open projects, with their unsaved changes, into a new folder
+    /// below "backup/", named after the time and `name`. True in every case.
     bool backup(const QString& name);
+
+    /// Copies all files of a folder below "backup/" over those of the game, and
+    /// reads the open projects again; unsaved changes are lost. What the backup
+    /// lacks stays as it is. False, with nothing done, if the archive is read
+    /// only or `folderName` is no name of one folder; else true, whatever failed.
+    bool restoreBackup(const QString& folderName);
+
+    /// The folders below "backup/" that may be given to `restoreBackup()`, the
+    /// youngest first.
+    QStringList backups() const;
+
+    /// The files, relative to the game, that `restoreBackup()` would copy.
+    QStringList backupFiles(const QString& folderName) const;
+
+    /// Writes every modified file of the open projects. One without a name is
+    /// given to its `FileEditor`, which asks for one.
+    void save();
+
+    /// Saves everything under a new place, where the work goes on. With one open
+    /// project that belongs to no game `newRoot` is the new name of its main file;
+    /// else it is a folder, with "/" at its end, and all projects of the game go
+    /// there, open or not. Stays where it is if a file of an open project could
+    /// not be written there.
+    void saveAs(const QString& newRoot);
+
+    /// What the last of these could not write or copy: paths relative to the
+    /// game, or for `save()` to the project. Empty if all went well.
+    QStringList failedFiles() const;
+    /// @}
+
+    /// @name The engine
+    /// @{
+
+    /// Starts an engine on the work in progress: the projects that its parameter
+    /// string asks for are written as temporary copies beside it, which go when
+    /// it ends.
+    ///
+    /// The executable is that of the game folder, else one of the configured
+    /// engines, which the person chooses. "%0" in the parameters stands for the
+    /// project in front, "%1" and up for the open ones; the engine gets the path
+    /// of the copy of the main file, relative to the engine's folder, in which it
+    /// is started. Failures are told through `Dialogs`.
+    ///
+    /// Returns when the engine has ended. Events are processed meanwhile, and the
+    /// tree may even be deleted.
+    void run();
+
+    /// True while an engine runs.
+    bool isRunning() const;
+
+    /// How the last `run()` ended.
+    RunResult runResult() const;
+
+    /// Ends the engine: asks it first, and kills it if it does not go within
+    /// seconds. Nothing if none runs.
+    void stopEngine();
+    /// @}
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
@@ -148,6 +212,17 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     using QAbstractItemModel::headerData;
     using QObject::parent;
+
+signals:
+    /// The engine has been started as `program` with `arguments`.
+    void engineStarted(const QString& program, const QStringList& arguments);
+
+    /// The engine has printed something, on either of its two channels.
+    void engineOutput(const QByteArray& bytes);
+
+    /// The engine has ended, or could not be started; see `runResult()`. The
+    /// temporary copies are gone.
+    void engineFinished();
 
 private:
     friend class ParentProjectPrivate;

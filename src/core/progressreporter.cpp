@@ -4,4 +4,9 @@ namespace Zorv {
 
 ProgressReporter::~ProgressReporter() = default;
 
+bool ProgressReporter::isCanceled() const
+{
+    return false;
+}
+
 }  // namespace Zorv

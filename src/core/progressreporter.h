@@ -13,6 +13,11 @@ public:
     /// maximum, then with each value and maximum 0.
     virtual void update(int value, int maximum) = 0;
 
+    /// True once the person has given the work up. Work that can stop where all
+    /// is whole asks after each step; the rest goes on to its end. False unless a
+    /// host overrides it.
+    virtual bool isCanceled() const;
+
     /// Ends the display and disposes of the reporter.
     virtual void finish() = 0;
 

@@ -233,4 +233,16 @@ quint64 CodeDocument::parsedLineCount() const
     return d->parsedLines;
 }
 
+EditorData::~EditorData() = default;
+
+EditorData* CodeDocument::editorData() const
+{
+    return d->editorData.get();
+}
+
+void CodeDocument::setEditorData(std::unique_ptr<EditorData> data)
+{
+    d->editorData = std::move(data);
+}
+
 }  // namespace Zorv

@@ -19,6 +19,7 @@ namespace Zorv {
 class CodeDocumentEditor;
 class CodeDocumentPrivate;
 class CodeParser;
+class EditorData;
 
 /// A code file: its text, the root of the tree of its nodes, a file of a
 /// project, and a watched file, in one object.
@@ -192,6 +193,11 @@ public:
 
     /// Removes the first entry of the editor; one call for each registration.
     void unregisterDocumentEditor(CodeDocumentEditor* editor);
+
+    /// What an editor keeps with this document; null if it has kept nothing.
+    /// The document owns it.
+    EditorData* editorData() const;
+    void setEditorData(std::unique_ptr<EditorData> data);
 
     CodeDocument* document() const override;
     void insertChild(CodeNode* child, unsigned index) override;

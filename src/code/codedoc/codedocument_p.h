@@ -1,6 +1,7 @@
 #pragma once
 
 #include "code/codedoc/codedocument.h"
+#include "code/codedoc/editordata.h"
 #include "code/codedoc/lineindex_p.h"
 #include "core/message.h"
 
@@ -9,6 +10,7 @@
 #include <QVector>
 
 #include <array>
+#include <memory>
 
 namespace Zorv {
 
@@ -79,6 +81,7 @@ public:
     QVector<unsigned> groups;
     QMap<unsigned, CodeDocumentEditor*> editors;
     LineIndex lines;
+    std::unique_ptr<EditorData> editorData;
     quint64 parsedLines = 0;
 
     enum class Mark { AsCodec, Present, Absent };

@@ -1,5 +1,6 @@
 #include "core/dialogs/dialogs.h"
 
+#include "core/dialogs/rundlg.h"
 #include "core/interface.h"
 
 #include <QApplication>
@@ -156,6 +157,20 @@ QString Dialogs::existingFolder(QWidget* parent, const QString& caption, const Q
 {
     return canShow() ? QFileDialog::getExistingDirectory(orMainWindow(parent), caption, dir)
                      : QString();
+}
+
+int Dialogs::runTarget(QWidget* parent, QAbstractItemModel* model, unsigned row, QRect* geometry)
+{
+    if (!canShow()) {
+        return -1;
+    }
+    RunDlg dialog(orMainWindow(parent), model, row);
+    if (!geometry->isNull()) {
+        dialog.setGeometry(*geometry);
+    }
+    const int answer = dialog.exec();
+    *geometry = dialog.geometry();
+    return answer == QDialog::Accepted ? int(dialog.selectedIndex()) : -1;
 }
 
 QString getOpenFileName(QWidget* parent, const QString& caption, const QString& dir,

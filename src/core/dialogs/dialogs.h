@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+class QAbstractItemModel;
+class QRect;
 class QWidget;
 
 namespace Zorv {
@@ -60,6 +62,13 @@ public:
 
     /// Ask for an existing folder; empty if the person gave up.
     virtual QString existingFolder(QWidget* parent, const QString& caption, const QString& dir);
+
+    /// Lets the person choose a row of `model`, the engines that can be started,
+    /// with `row` selected at first; gives the row, -1 if the person gave up.
+    /// `geometry` is where the dialog stood last, null for nowhere, and takes where
+    /// it stood now. The default shows `RunDlg`.
+    virtual int runTarget(QWidget* parent, QAbstractItemModel* model, unsigned row,
+                          QRect* geometry);
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(Dialogs::Buttons)

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "editors/framework/control.h"
+
+class QAction;
+class QMenu;
+
+namespace Zorv {
+
+/// A button for an action. Action and menu are not owned.
+class ZORV_EXPORT ToolButtonControl : public Control
+{
+public:
+    /// `position` is for the host's layout; the library leaves it at 0.
+    explicit ToolButtonControl(QAction* action, int position = 0);
+
+    std::unique_ptr<Control> clone() const override;
+
+    QAction* action() const { return m_action; }
+    int position() const { return m_position; }
+
+private:
+    QAction* m_action;
+    int m_position;
+};
+
+/// A button for an action with a menu beside it.
+class ZORV_EXPORT MenuToolButtonControl : public ToolButtonControl
+{
+public:
+    MenuToolButtonControl(QAction* action, QMenu* menu, int position = 0);
+
+    std::unique_ptr<Control> clone() const override;
+
+    QMenu* menu() const { return m_menu; }
+
+private:
+    QMenu* m_menu;
+};
+
+}  // namespace Zorv

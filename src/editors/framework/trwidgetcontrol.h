@@ -1,0 +1,58 @@
+#pragma once
+
+#include "editors/framework/widgetcontrol.h"
+
+namespace Zorv {
+
+class Translator;
+
+/// A widget with a label, or for a check box with a text, of a table of texts.
+class ZORV_EXPORT trWidgetControl : public WidgetControl
+{
+public:
+    /// The translator is not owned.
+    trWidgetControl(Kind kind, int size, Translator* translator, unsigned textId, QObject* receiver,
+                    const char* changedSlot = nullptr, const char* setSignal = nullptr,
+                    const char* enableSignal = nullptr, Flags flags = NoFlags);
+
+    std::unique_ptr<Control> clone() const override;
+
+    Translator* translator() const { return m_translator; }
+    unsigned textId() const { return m_textId; }
+
+private:
+    Translator* m_translator;
+    unsigned m_textId;
+};
+
+/// A field for a whole number.
+class ZORV_EXPORT SpinEditControl : public trWidgetControl
+{
+public:
+    SpinEditControl(int size, Translator* translator, unsigned textId, QObject* receiver,
+                    const char* changedSlot, const char* setSignal, const char* enableSignal);
+
+    std::unique_ptr<Control> clone() const override;
+};
+
+/// A field for a real number.
+class ZORV_EXPORT FloatEditControl : public trWidgetControl
+{
+public:
+    FloatEditControl(int size, Translator* translator, unsigned textId, QObject* receiver,
+                     const char* changedSlot, const char* setSignal, const char* enableSignal);
+
+    std::unique_ptr<Control> clone() const override;
+};
+
+/// A list to choose from.
+class ZORV_EXPORT ComboBoxControl : public trWidgetControl
+{
+public:
+    ComboBoxControl(int size, Translator* translator, unsigned textId, QObject* receiver,
+                    const char* changedSlot, const char* setSignal, const char* enableSignal);
+
+    std::unique_ptr<Control> clone() const override;
+};
+
+}  // namespace Zorv
