@@ -1,0 +1,48 @@
+#include "core/folders_p.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace Zorv {
+
+bool removeDir(const QString& path)
+{
+    // With a slash behind it a link would be taken for the folder it leads to.
+    const QString folder = QDir::cleanPath(path);
+    if (QFileInfo(folder).isSymLink()) {
+        return QFile::remove(folder);
+    }
+    const QDir dir(folder);
+    if (path.isEmpty() || !dir.exists()) {
+        return true;
+    }
+    const QFileInfoList entries = dir.entryInfoList(
+        QDir::NoDotAndDotDot | QDir::System | QDir::Hidden | QDir::AllDirs | QDir::Files,
+        QDir::DirsFirst);
+    for (const QFileInfo& entry : entries) {
+        const QString name = entry.filePath();
+        const bool isFolder = entry.isDir() && !entry.isSymLink();
+        if (!(isFolder ? removeDir(name) : QFile::remove(name))) {
+            return false;
+        }
+    }
+    return QDir().rmdir(folder);
+}
+
+void listFiles(const QString& path, QStringList& list)
+{
+    const QFileInfoList entries =
+        QDir(path).entryInfoList(QDir::NoDotAndDotDot | QDir::Readable | QDir::NoSymLinks |
+                                 QDir::Files | QDir::Dirs);
+    for (const QFileInfo& entry : entries) {
+        const QString name = path + entry.fileName();
+        if (entry.isDir()) {
+            listFiles(name + QLatin1Char('/'), list);
+        } else {
+            list.append(name);
+        }
+    }
+}
+
+}  // namespace Zorv

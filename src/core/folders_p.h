@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QStringList>
+
+namespace Zorv {
+
+/// Removes a folder with all in it. True if it is gone or never was; stops with
+/// false at the first entry that stays. A symbolic link, `path` itself included,
+/// is removed as a file: what it leads to is never touched.
+bool removeDir(const QString& path);
+
+/// Appends the full path of every file below the folder `path`, which ends in
+/// "/". Hidden and unreadable entries and symbolic links are left out, with all
+/// below them.
+void listFiles(const QString& path, QStringList& list);
+
+}  // namespace Zorv
