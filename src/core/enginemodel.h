@@ -12,7 +12,7 @@ struct EngineInfo
 {
     QString name;        ///< shown in lists
     QString executable;  ///< path of the program
-    QString parameters;  ///< the parameter string; empty for that of the project kind
+    QString parameters;  ///< the parameter string, with a mark such as "%0" for each project
     QString icon;        ///< path of a picture for lists; may be empty
 };
 

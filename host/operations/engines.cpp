@@ -1,0 +1,104 @@
+#include "operations/engines.h"
+
+#include "family/project/familyenginemodel.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSettings>
+
+namespace Family {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Family", text);
+}
+
+const struct
+{
+    const char* key;
+    QString Zorv::EngineInfo::*field;
+} fields[] = {
+    {"name", &Zorv::EngineInfo::name},
+    {"executable", &Zorv::EngineInfo::executable},
+    {"parameters", &Zorv::EngineInfo::parameters},
+    {"icon", &Zorv::EngineInfo::icon},
+};
+
+QString arrayName()
+{
+    return QStringLiteral("engines");
+}
+
+bool asksForProject(const QString& parameters)
+{
+    static const QRegularExpression mark(QStringLiteral("%\\d"));
+    return parameters.contains(mark);
+}
+
+}  // namespace
+
+QString defaultEngineParameters()
+{
+    return QStringLiteral("%0");
+}
+
+QVector<Zorv::EngineInfo> loadEngines(QSettings& settings)
+{
+    QVector<Zorv::EngineInfo> engines;
+    const int count = qBound(0, settings.beginReadArray(arrayName()), MaxEngines);
+    for (int i = 0; i < count; ++i) {
+        settings.setArrayIndex(i);
+        Zorv::EngineInfo engine;
+        for (const auto& row : fields) {
+            engine.*row.field = settings.value(QLatin1String(row.key)).toString();
+        }
+        engines.append(engine);
+    }
+    settings.endArray();
+    return engines;
+}
+
+bool saveEngines(QSettings& settings, const QVector<Zorv::EngineInfo>& engines)
+{
+    settings.remove(arrayName());
+    settings.beginWriteArray(arrayName(), engines.size());
+    for (int i = 0; i < engines.size(); ++i) {
+        settings.setArrayIndex(i);
+        for (const auto& row : fields) {
+            settings.setValue(QLatin1String(row.key), engines.at(i).*row.field);
+        }
+    }
+    settings.endArray();
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
+void useEngines(QSettings& settings)
+{
+    FamilyEngineModel::instance()->setEngines(loadEngines(settings));
+}
+
+QString engineProblem(const Zorv::EngineInfo& engine)
+{
+    if (engine.name.trimmed().isEmpty()) {
+        return tr("The engine has no name.");
+    }
+    if (engine.executable.isEmpty()) {
+        return tr("Choose the program of the engine '%1'.").arg(engine.name);
+    }
+    if (!QFileInfo(engine.executable).isFile()) {
+        return tr("There is no program '%1'. Correct its path.").arg(engine.executable);
+    }
+    if (!asksForProject(engine.parameters)) {
+        return tr("The parameters of the engine '%1' ask for no project. Write %2 in the place of "
+                  "the project in front.")
+            .arg(engine.name, defaultEngineParameters());
+    }
+    return {};
+}
+
+}  // namespace Family
