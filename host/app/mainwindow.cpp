@@ -1,6 +1,8 @@
 #include "app/mainwindow.h"
 
-#include "app/actiontable.h"
+#include "app/actions/actionregistry.h"
+#include "app/actions/actiontable.h"
+#include "app/actions/windowactions.h"
 #include "app/animationpanel.h"
 #include "app/codeedit.h"
 #include "app/documenttabs.h"
@@ -12,7 +14,6 @@
 #include "app/recentfolders.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
-#include "app/windowactions.h"
 #include "app/windowstate.h"
 #include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
@@ -56,11 +57,24 @@ private:
     Q_DISABLE_COPY(WaitCursor)
 };
 
+struct PanelTitle
+{
+    const char* name;
+    const char* title;
+};
+
+const PanelTitle panelTitles[] = {
+    {"projects", QT_TRANSLATE_NOOP("App::MainWindow", "Projects")},
+    {"nodes", QT_TRANSLATE_NOOP("App::MainWindow", "Nodes")},
+    {"animations", QT_TRANSLATE_NOOP("App::MainWindow", "Animations")},
+    {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
+};
+
 }  // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget),
-      m_tabs(new DocumentTabs), m_lineBar(new LineBar), m_gameTree(new GameTree),
+      m_hint(new QLabel), m_tabs(new DocumentTabs), m_lineBar(new LineBar), m_gameTree(new GameTree),
       m_nodePanel(new NodePanel), m_animationPanel(new AnimationPanel),
       m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar())),
       m_actions(new WindowActions(this))
@@ -70,6 +84,7 @@ MainWindow::MainWindow(QWidget* parent)
     makeDocks();
     connectParts();
     connectPanels();
+    retranslate();
     currentDocumentChanged(nullptr);
     WindowState::restoreShape(this);
 }
@@ -90,11 +105,9 @@ MainWindow::~MainWindow()
 
 void MainWindow::makeCentre()
 {
-    auto* hint = new QLabel(tr("Open a game folder with Ctrl+O.\n"
-                               "A double click in the tree of projects shows a text."));
-    hint->setAlignment(Qt::AlignCenter);
-    hint->setEnabled(false);
-    m_centre->addWidget(hint);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setEnabled(false);
+    m_centre->addWidget(m_hint);
     m_centre->addWidget(m_tabs);
     auto* centre = new QWidget(this);
     auto* layout = new QVBoxLayout(centre);
@@ -109,28 +122,44 @@ void MainWindow::makeDocks()
 {
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    QDockWidget* projects =
-        addDock(m_gameTree, QStringLiteral("projects"), tr("Projects"), Qt::LeftDockWidgetArea);
-    QDockWidget* nodes =
-        addDock(m_nodePanel, QStringLiteral("nodes"), tr("Nodes"), Qt::RightDockWidgetArea);
-    QDockWidget* animations = addDock(m_animationPanel, QStringLiteral("animations"),
-                                      tr("Animations"), Qt::RightDockWidgetArea);
-    QDockWidget* messages = addDock(m_messagePanel, QStringLiteral("messages"), tr("Messages"),
-                                    Qt::BottomDockWidgetArea);
+    QDockWidget* projects = addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
+    QDockWidget* nodes = addDock(m_nodePanel, "nodes", Qt::RightDockWidgetArea);
+    QDockWidget* animations = addDock(m_animationPanel, "animations", Qt::RightDockWidgetArea);
+    QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
     resizeDocks({projects, nodes}, {220, 280}, Qt::Horizontal);
     resizeDocks({messages}, {150}, Qt::Vertical);
     resizeDocks({nodes, animations}, {320, 260}, Qt::Vertical);
 }
 
-QDockWidget* MainWindow::addDock(QWidget* widget, const QString& name, const QString& title,
-                                 Qt::DockWidgetArea area)
+QDockWidget* MainWindow::addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area)
 {
-    auto* dock = new QDockWidget(title, this);
-    dock->setObjectName(name);
+    auto* dock = new QDockWidget(this);
+    dock->setObjectName(QLatin1String(name));
     dock->setWidget(widget);
     addDockWidget(area, dock);
-    m_actions->menu("view")->addAction(dock->toggleViewAction());
+    m_actions->addSwitch(dock->toggleViewAction(), QLatin1String(name));
     return dock;
+}
+
+void MainWindow::retranslate()
+{
+    for (const PanelTitle& row : panelTitles) {
+        if (auto* dock = findChild<QDockWidget*>(QLatin1String(row.name))) {
+            dock->setWindowTitle(tr(row.title));
+        }
+    }
+    m_hint->setText(tr("Open a game folder with Ctrl+O.\n"
+                       "A double click in the tree of projects shows a text."));
+    m_actions->retranslate();
+    updateTitle();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
 }
 
 void MainWindow::connectParts()
@@ -359,6 +388,8 @@ void MainWindow::updateNow()
 
 void MainWindow::updateActions()
 {
+    registry()->setActiveAreas(m_tabs->currentEdit() ? QSet<QString>{QStringLiteral("code")}
+                                                     : QSet<QString>());
     m_actions->update(presentNeeds());
 }
 
@@ -388,7 +419,12 @@ QMenu* MainWindow::menuByName(const char* name) const
 
 QAction* MainWindow::actionByName(const char* name) const
 {
-    return m_actions->action(name);
+    return registry()->action(QLatin1String(name));
+}
+
+ActionRegistry* MainWindow::registry() const
+{
+    return m_actions->registry();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 class QDockWidget;
+class QLabel;
 class QStackedWidget;
 
 namespace Family {
@@ -16,6 +17,7 @@ class CodeDocument;
 
 namespace App {
 
+class ActionRegistry;
 class AnimationPanel;
 class CodeEdit;
 class DocumentTabs;
@@ -67,9 +69,12 @@ public:
     /// The project of the text in front, else the one opened last, else null.
     Family::FamilyProject* currentProject() const;
 
-    /// A menu or an action of the tables, null for an unknown name.
+    /// A menu or an action of the window, null for an unknown name.
     QMenu* menuByName(const char* name) const;
     QAction* actionByName(const char* name) const;
+
+    /// Every action of the program, with its texts and keys.
+    ActionRegistry* registry() const;
 
     /// What is there for actions to work on: flags of `Need`.
     int presentNeeds() const;
@@ -107,12 +112,13 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void makeCentre();
     void makeDocks();
-    QDockWidget* addDock(QWidget* widget, const QString& name, const QString& title,
-                         Qt::DockWidgetArea area);
+    QDockWidget* addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area);
+    void retranslate();
     void connectParts();
     void connectPanels();
 
@@ -136,6 +142,7 @@ private:
 
     GameSession* m_session;
     QStackedWidget* m_centre;
+    QLabel* m_hint;
     DocumentTabs* m_tabs;
     LineBar* m_lineBar;
     GameTree* m_gameTree;

@@ -1,5 +1,6 @@
 #include "app/mainwindow.h"
 
+#include "app/actions/actionregistry.h"
 #include "app/animationpanel.h"
 #include "app/codeedit.h"
 #include "app/documenttabs.h"
@@ -11,7 +12,6 @@
 #include "app/nodepanel.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
-#include "app/windowactions.h"
 #include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
@@ -25,6 +25,23 @@ namespace App {
 using Family::FamilyDocument;
 using Family::FamilyProject;
 using Zorv::Dialogs;
+
+namespace {
+
+QStringList keyLines(const ActionRegistry* registry)
+{
+    QStringList lines;
+    const QStringList names = registry->names();
+    for (const QString& name : names) {
+        const QString keys = QKeySequence::listToString(registry->keys(name));
+        if (!keys.isEmpty()) {
+            lines.append(keys + QLatin1String("   ") + registry->text(name));
+        }
+    }
+    return lines;
+}
+
+}  // namespace
 
 void MainWindow::showDocument(FamilyDocument* document)
 {
@@ -248,7 +265,7 @@ void MainWindow::showPreviousText()
 
 void MainWindow::showKeys()
 {
-    Dialogs::instance()->information(tr("Keys"), m_actions->keys().join(QLatin1Char('\n')));
+    Dialogs::instance()->information(tr("Keys"), keyLines(registry()).join(QLatin1Char('\n')));
 }
 
 void MainWindow::showAbout()

@@ -31,8 +31,16 @@ struct ActionRow
     QKeySequence::StandardKey standardKey;
     const char* shortcut;  ///< portable form, where there is no standard key
     int needs;             ///< of `Need`
-    void (MainWindow::*slot)();
+    void (*slot)(MainWindow& window);
+    const char* area = nullptr;  ///< where it applies; null for everywhere
 };
+
+/// The slot of a row whose work is a member of the window.
+template <void (MainWindow::*member)()>
+void call(MainWindow& window)
+{
+    (window.*member)();
+}
 
 /// One menu: a row of the table.
 struct MenuRow

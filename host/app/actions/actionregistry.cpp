@@ -1,0 +1,269 @@
+#include "app/actions/actionregistry.h"
+
+#include "app/controls/activeareas.h"
+#include "app/controls/areagate.h"
+#include "core/interface.h"
+
+#include <QAction>
+#include <QFile>
+#include <QHash>
+#include <QIcon>
+#include <QMenu>
+
+#include <algorithm>
+
+namespace App {
+
+namespace {
+
+struct Entry
+{
+    QAction* action = nullptr;
+    ActionInfo info;
+    AreaGate* gate = nullptr;  // a child of the action
+};
+
+QString settingOf(const QString& name)
+{
+    return QLatin1String("shortcut_") + name;
+}
+
+QVariant chosenKey(const QString& name)
+{
+    return Zorv::Interface::instance()->option(settingOf(name));
+}
+
+void setIcon(QAction* action, const QString& name)
+{
+    const QString file = QStringLiteral(":/icons/icons/%1.png").arg(name);
+    if (action->icon().isNull() && QFile::exists(file)) {
+        action->setIcon(QIcon(file));
+    }
+}
+
+bool areInEachOthersWay(const QKeySequence& first, const QKeySequence& second)
+{
+    return !first.isEmpty() && !second.isEmpty() &&
+           (first.matches(second) != QKeySequence::NoMatch ||
+            second.matches(first) != QKeySequence::NoMatch);
+}
+
+QMenu* menuOf(const QAction* action)
+{
+    const QList<QWidget*> widgets = action->associatedWidgets();
+    for (QWidget* widget : widgets) {
+        if (auto* menu = qobject_cast<QMenu*>(widget)) {
+            return menu;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+struct ActionRegistry::Private
+{
+    ActiveAreas areas;
+    QStringList names;
+    QHash<QString, Entry> entries;
+
+    void forget(const QString& name)
+    {
+        names.removeOne(name);
+        entries.remove(name);
+    }
+
+    void applyKeys(const QString& name)
+    {
+        const Entry entry = entries.value(name);
+        const QVariant chosen = chosenKey(name);
+        if (!chosen.isValid()) {
+            entry.action->setShortcuts(entry.info.defaultKeys);
+            return;
+        }
+        entry.action->setShortcut(QKeySequence(chosen.toString(), QKeySequence::PortableText));
+    }
+
+    /// The key of `entry` that is in the way of one of `keys`; empty if none is.
+    static QKeySequence keyInTheWay(const Entry& entry, const QList<QKeySequence>& keys)
+    {
+        const QList<QKeySequence> own = entry.action->shortcuts();
+        for (const QKeySequence& key : own) {
+            for (const QKeySequence& other : keys) {
+                if (areInEachOthersWay(key, other)) {
+                    return key;
+                }
+            }
+        }
+        return {};
+    }
+};
+
+ActionRegistry::ActionRegistry(QObject* parent) : QObject(parent), d(std::make_unique<Private>()) {}
+
+// Actions may outlive it, and tell of their end.
+ActionRegistry::~ActionRegistry()
+{
+    for (const Entry& entry : qAsConst(d->entries)) {
+        entry.action->disconnect(this);
+        delete entry.gate;
+    }
+}
+
+void ActionRegistry::add(QAction* action, const ActionInfo& info)
+{
+    const Entry old = d->entries.value(info.name);
+    if (old.action) {
+        old.action->disconnect(this);
+        delete old.gate;
+        d->forget(info.name);
+    }
+    auto* gate = new AreaGate(&d->areas, info.areas, action, info.waitsForOwner);
+    d->names.append(info.name);
+    d->entries.insert(info.name, {action, info, gate});
+    action->setObjectName(info.name);
+    // A dialog, and any other window, has keys of its own.
+    action->setShortcutContext(Qt::WindowShortcut);
+    info.text.apply(action);
+    setIcon(action, info.name);
+    d->applyKeys(info.name);
+    connect(action, &QObject::destroyed, this, [this, name = info.name] {
+        d->forget(name);
+        emit changed();
+    });
+    emit changed();
+}
+
+QStringList ActionRegistry::names() const
+{
+    return d->names;
+}
+
+QAction* ActionRegistry::action(const QString& name) const
+{
+    return d->entries.value(name).action;
+}
+
+QString ActionRegistry::text(const QString& name) const
+{
+    const QAction* found = action(name);
+    return found ? ActionText::plain(found->text()) : QString();
+}
+
+QString ActionRegistry::menuPath(const QString& name) const
+{
+    QStringList titles;
+    const QAction* found = action(name);
+    for (QMenu* menu = found ? menuOf(found) : nullptr; menu; menu = menuOf(menu->menuAction())) {
+        titles.prepend(ActionText::plain(menu->title()));
+    }
+    return titles.join(QLatin1String(" > "));
+}
+
+QStringList ActionRegistry::areas(const QString& name) const
+{
+    return d->entries.value(name).info.areas;
+}
+
+QList<QKeySequence> ActionRegistry::keys(const QString& name) const
+{
+    const QAction* found = action(name);
+    return found ? found->shortcuts() : QList<QKeySequence>();
+}
+
+QList<QKeySequence> ActionRegistry::defaultKeys(const QString& name) const
+{
+    return d->entries.value(name).info.defaultKeys;
+}
+
+bool ActionRegistry::isChosen(const QString& name) const
+{
+    return d->entries.contains(name) && chosenKey(name).isValid();
+}
+
+void ActionRegistry::setShortcut(const QString& name, const QKeySequence& key)
+{
+    if (!d->entries.contains(name)) {
+        return;
+    }
+    // A null text would take the setting away, and with it the choice of no key.
+    const QString text = key.toString(QKeySequence::PortableText);
+    Zorv::Interface::instance()->setOption(settingOf(name),
+                                           text.isEmpty() ? QString(QLatin1String("")) : text);
+    d->applyKeys(name);
+    emit changed();
+}
+
+void ActionRegistry::resetShortcut(const QString& name)
+{
+    if (isChosen(name)) {
+        Zorv::Interface::instance()->setOption(settingOf(name), QVariant());
+        d->applyKeys(name);
+        emit changed();
+    }
+}
+
+void ActionRegistry::resetAllShortcuts()
+{
+    for (const QString& name : qAsConst(d->names)) {
+        resetShortcut(name);
+    }
+}
+
+QVector<KeyClash> ActionRegistry::clashes() const
+{
+    QVector<KeyClash> found;
+    for (auto first = d->names.cbegin(); first != d->names.cend(); ++first) {
+        const Entry& entry = d->entries[*first];
+        const QList<QKeySequence> own = entry.action->shortcuts();
+        for (auto second = first + 1; !own.isEmpty() && second != d->names.cend(); ++second) {
+            const Entry& other = d->entries[*second];
+            const QKeySequence key = Private::keyInTheWay(other, own);
+            if (!key.isEmpty() && ActiveAreas::canMeet(entry.info.areas, other.info.areas)) {
+                found.append({*first, *second, key});
+            }
+        }
+    }
+    return found;
+}
+
+QStringList ActionRegistry::clashesOf(const QString& name, const QKeySequence& key) const
+{
+    const QStringList own = areas(name);
+    QStringList found;
+    std::copy_if(d->names.cbegin(), d->names.cend(), std::back_inserter(found),
+                 [&](const QString& other) {
+                     const Entry& entry = d->entries[other];
+                     return other != name && ActiveAreas::canMeet(own, entry.info.areas) &&
+                            !Private::keyInTheWay(entry, {key}).isEmpty();
+                 });
+    return found;
+}
+
+void ActionRegistry::setActiveAreas(const QSet<QString>& areas)
+{
+    d->areas.set(areas);
+}
+
+const ActiveAreas* ActionRegistry::activeAreas() const
+{
+    return &d->areas;
+}
+
+void ActionRegistry::setAllowed(const QString& name, bool isAllowed)
+{
+    const auto found = d->entries.constFind(name);
+    if (found != d->entries.constEnd()) {
+        found->gate->setAllowed(isAllowed);
+    }
+}
+
+void ActionRegistry::retranslate()
+{
+    for (const Entry& entry : qAsConst(d->entries)) {
+        entry.info.text.apply(entry.action);
+    }
+    emit changed();
+}
+
+}  // namespace App

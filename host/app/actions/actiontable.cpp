@@ -1,0 +1,74 @@
+#include "app/actions/actiontable.h"
+
+#include "app/mainwindow.h"
+
+namespace App {
+
+namespace {
+
+constexpr QKeySequence::StandardKey NoKey = QKeySequence::UnknownKey;
+
+}  // namespace
+
+const QVector<MenuRow>& menuTable()
+{
+    static const QVector<MenuRow> table{
+        {"file", QT_TRANSLATE_NOOP("App::Menus", "&File")},
+        {"edit", QT_TRANSLATE_NOOP("App::Menus", "&Edit")},
+        {"anim", QT_TRANSLATE_NOOP("App::Menus", "&Animation")},
+        {"view", QT_TRANSLATE_NOOP("App::Menus", "&View")},
+        {"help", QT_TRANSLATE_NOOP("App::Menus", "&Help")},
+    };
+    return table;
+}
+
+const QVector<ActionRow>& actionTable()
+{
+    using W = MainWindow;
+    using K = QKeySequence;
+    // clang-format off
+    static const QVector<ActionRow> table{
+        {"open_folder",    "file", QT_TRANSLATE_NOOP("App::Actions", "&Open game folder..."),   K::Open,      nullptr,        NoNeed,          call<&W::openFolderByDialog>},
+        {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"save",           "file", QT_TRANSLATE_NOOP("App::Actions", "&Save"),                  K::Save,      nullptr,        NeedsText,       call<&W::save>},
+        {"save_all",       "file", QT_TRANSLATE_NOOP("App::Actions", "Save a&ll"),              NoKey,        "Ctrl+Shift+S", NeedsUnsaved,    call<&W::saveAll>},
+        {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"close_text",     "file", QT_TRANSLATE_NOOP("App::Actions", "&Close text"),            K::Close,     nullptr,        NeedsText,       call<&W::closeText>},
+        {"close_project",  "file", QT_TRANSLATE_NOOP("App::Actions", "Close &project"),         NoKey,        "Ctrl+Shift+W", NeedsProject,    call<&W::closeProject>},
+        {"close_folder",   "file", QT_TRANSLATE_NOOP("App::Actions", "Close &game folder"),     NoKey,        nullptr,        NeedsGame,       call<&W::closeFolder>},
+        {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"quit",           "file", QT_TRANSLATE_NOOP("App::Actions", "&Quit"),                  NoKey,        "Ctrl+Q",       NoNeed,          call<&W::quit>},
+
+        {"undo",           "edit", QT_TRANSLATE_NOOP("App::Actions", "&Undo"),                  K::Undo,      nullptr,        NeedsUndo,       call<&W::undo>},
+        {"redo",           "edit", QT_TRANSLATE_NOOP("App::Actions", "&Redo"),                  K::Redo,      nullptr,        NeedsRedo,       call<&W::redo>},
+        {nullptr,          "edit", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"cut",            "edit", QT_TRANSLATE_NOOP("App::Actions", "Cu&t"),                   K::Cut,       nullptr,        NeedsSelection,  call<&W::cut>},
+        {"copy",           "edit", QT_TRANSLATE_NOOP("App::Actions", "&Copy"),                  K::Copy,      nullptr,        NeedsSelection,  call<&W::copy>},
+        {"paste",          "edit", QT_TRANSLATE_NOOP("App::Actions", "&Paste"),                 K::Paste,     nullptr,        NeedsText,       call<&W::paste>},
+        {"select_all",     "edit", QT_TRANSLATE_NOOP("App::Actions", "Select &all"),            K::SelectAll, nullptr,        NeedsText,       call<&W::selectAll>},
+        {nullptr,          "edit", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"go_to_line",     "edit", QT_TRANSLATE_NOOP("App::Actions", "&Go to line..."),         NoKey,        "Ctrl+L",       NeedsText,       call<&W::askForLine>, "code"},
+        {"encoding",       "edit", QT_TRANSLATE_NOOP("App::Actions", "&Encoding..."),           NoKey,        nullptr,        NeedsText,       call<&W::changeEncoding>, "code"},
+
+        {"anim_add",       "anim", QT_TRANSLATE_NOOP("App::Actions", "&Add"),                   NoKey,        "Ctrl+Shift+A", NeedsText,       call<&W::addAnimation>},
+        {"anim_duplicate", "anim", QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"),             NoKey,        "Ctrl+Shift+D", NeedsAnimation,  call<&W::duplicateAnimation>},
+        {"anim_remove",    "anim", QT_TRANSLATE_NOOP("App::Actions", "&Remove"),                NoKey,        "Ctrl+Shift+R", NeedsAnimation,  call<&W::removeAnimations>},
+        {nullptr,          "anim", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"anim_up",        "anim", QT_TRANSLATE_NOOP("App::Actions", "Move &up"),               NoKey,        "Alt+Up",       NeedsAnimation,  call<&W::moveAnimationUp>},
+        {"anim_down",      "anim", QT_TRANSLATE_NOOP("App::Actions", "Move do&wn"),             NoKey,        "Alt+Down",     NeedsAnimation,  call<&W::moveAnimationDown>},
+        {"anim_sort",      "anim", QT_TRANSLATE_NOOP("App::Actions", "&Sort automatically"),    NoKey,        nullptr,        NeedsAnimations, call<&W::sortAnimations>},
+
+        {"next_panel",     "view", QT_TRANSLATE_NOOP("App::Actions", "&Next panel"),            NoKey,        "F6",           NoNeed,          call<&W::focusNextPanel>},
+        {"previous_panel", "view", QT_TRANSLATE_NOOP("App::Actions", "&Previous panel"),        NoKey,        "Shift+F6",     NoNeed,          call<&W::focusPreviousPanel>},
+        {"next_text",      "view", QT_TRANSLATE_NOOP("App::Actions", "Next te&xt"),             NoKey,        "Ctrl+PgDown",  NeedsText,       call<&W::showNextText>},
+        {"previous_text",  "view", QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),         NoKey,        "Ctrl+PgUp",    NeedsText,       call<&W::showPreviousText>},
+        {nullptr,          "view", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+
+        {"keys",           "help", QT_TRANSLATE_NOOP("App::Actions", "&Keys"),                  K::HelpContents, nullptr,     NoNeed,          call<&W::showKeys>},
+        {"about",          "help", QT_TRANSLATE_NOOP("App::Actions", "&About Zorv"),            NoKey,        nullptr,        NoNeed,          call<&W::showAbout>},
+    };
+    // clang-format on
+    return table;
+}
+
+}  // namespace App

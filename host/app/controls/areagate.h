@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+namespace App {
+
+class ActiveAreas;
+
+/// Keeps an action or a widget enabled while one of its areas is active and its owner allows
+/// it. Lives as a child of it.
+class AreaGate : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `target` is a QAction or a QWidget. It is allowed at first, or with
+    /// `waitsForOwner` not before the first `setAllowed()`.
+    AreaGate(const ActiveAreas* active, const QStringList& areas, QObject* target,
+             bool waitsForOwner = false);
+
+    QStringList areas() const { return m_areas; }
+
+public slots:
+    /// What the owner says: the state of its data.
+    void setAllowed(bool isAllowed);
+
+private:
+    void apply();
+    void heedOwner();
+
+    const ActiveAreas* m_active;
+    QStringList m_areas;
+    bool m_isAllowed;
+    bool m_isEnabled = false;  ///< as it was set here last
+};
+
+}  // namespace App
