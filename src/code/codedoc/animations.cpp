@@ -124,6 +124,7 @@ void Animations::duplicate(unsigned index, const QString& identifier)
     } else {
         cursor.movePosition(QTextCursor::End);
     }
+    document()->placeChange(cursor);
     cursor.insertText(text);
 }
 

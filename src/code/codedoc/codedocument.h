@@ -144,10 +144,14 @@ public:
     /// @name Edits by the tree
     /// @{
     /// Opens and closes a step of undo; the nodes of what is inserted are there
-    /// at once, colours and messages when the outermost frame closes. The title
-    /// is ignored.
+    /// at once, colours and messages when the outermost frame closes. Undo brings
+    /// the cursor of a view to the first edit. The title is ignored.
     void beginChange(const QString& title) override;
     void endChange() override;
+
+    /// Tells where the open change begins, in front of a first edit that does
+    /// not pass through the operations below. Nothing behind the first edit.
+    void placeChange(const QTextCursor& edit);
     bool isCodeBeingChanged() const;
     void undo() override;
     void redo() override;

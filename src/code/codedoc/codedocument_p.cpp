@@ -37,6 +37,7 @@ void CodeDocumentPrivate::endPass()
 
 void CodeDocumentPrivate::aboutToParse(int from, int, int added)
 {
+    stepsBeforeChange = Begun;
     const int first = q->findBlock(from).blockNumber();
     const QTextBlock lastBlock = q->findBlock(from + added);
     const int last = lastBlock.isValid() ? lastBlock.blockNumber() : q->blockCount() - 1;
@@ -80,6 +81,7 @@ void CodeDocumentPrivate::parseDependents()
 /// Qt will tell of the whole block's edits when it ends.
 void CodeDocumentPrivate::rehighlightAll()
 {
+    stepsBeforeChange = Begun;
     unlinkDeadNodes();
     beginPass();
     if (parser && (changeDepth > 0 || q->blockCount() != knownBlocks)) {

@@ -78,6 +78,11 @@ public:
     CodeParser* parser = nullptr;
     QTextCursor cursor;
     int changeDepth = 0;
+
+    /// The length of the history when the open change began, to see whether that
+    /// has edited anything yet.
+    int stepsBeforeChange = 0;
+    static constexpr int Begun = -1;
     QVector<unsigned> groups;
     QMap<unsigned, CodeDocumentEditor*> editors;
     LineIndex lines;

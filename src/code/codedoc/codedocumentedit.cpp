@@ -6,16 +6,39 @@ namespace Zorv {
 
 void CodeDocument::beginChange(const QString&)
 {
-    d->cursor.beginEditBlock();
+    if (d->changeDepth == 0) {
+        d->stepsBeforeChange = availableUndoSteps();
+        d->cursor.beginEditBlock();
+    }
     ++d->changeDepth;
 }
 
 void CodeDocument::endChange()
 {
-    if (d->changeDepth > 0) {
-        d->cursor.endEditBlock();
-        --d->changeDepth;
+    if (d->changeDepth == 0) {
+        return;
     }
+    // The block ends first: what the pass tells still belongs to the change.
+    if (d->changeDepth == 1) {
+        d->cursor.endEditBlock();
+    }
+    --d->changeDepth;
+}
+
+void CodeDocument::placeChange(const QTextCursor& edit)
+{
+    if (d->changeDepth == 0 || !isUndoRedoEnabled() ||
+        availableUndoSteps() != d->stepsBeforeChange) {
+        return;
+    }
+    // So far the block is empty: it can begin again elsewhere. Undo goes to that place, or, if
+    // the first edit begins right there, behind what it restores: the line below whole lines.
+    QTextCursor start(this);
+    const int first = edit.selectionStart();
+    const bool hasLineEnd = findBlock(first) != findBlock(edit.selectionEnd());
+    start.setPosition(hasLineEnd ? first + 1 : first);
+    d->cursor.endEditBlock();
+    start.beginEditBlock();
 }
 
 bool CodeDocument::isCodeBeingChanged() const
@@ -48,6 +71,7 @@ void CodeDocument::insertOnCursor(const QString& text, QTextCursor& cursor)
 {
     const int first = cursor.block().blockNumber();
     const QTextBlock behind = cursor.block().next();
+    placeChange(cursor);
     cursor.insertText(text);
     if (d->mustParseNow()) {
         d->parseNow(findBlockByNumber(first), behind);
@@ -57,6 +81,7 @@ void CodeDocument::insertOnCursor(const QString& text, QTextCursor& cursor)
 void CodeDocument::replaceSelection(const QString& text, QTextCursor& cursor)
 {
     const int first = findBlock(cursor.selectionStart()).blockNumber();
+    placeChange(cursor);
     if (text.isEmpty()) {
         cursor.removeSelectedText();
     } else {
