@@ -1,0 +1,282 @@
+#include "core/run/enginerun_p.h"
+
+#include "core/dialogs/dialogs.h"
+#include "core/enginemodel.h"
+#include "core/filesystemarchive.h"
+#include "core/interface.h"
+#include "core/parentproject_p.h"
+#include "core/projectfile.h"
+#include "core/run/engineprocess_p.h"
+#include "core/run/launch_p.h"
+#include "core/run/runparameters_p.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRect>
+#include <QUuid>
+
+namespace Zorv {
+
+namespace {
+
+QVariant hostOption(const QString& key)
+{
+    const Interface* host = Interface::instance();
+    return host ? host->option(key) : QVariant();
+}
+
+void setHostOption(const QString& key, const QVariant& value)
+{
+    if (Interface* host = Interface::instance()) {
+        host->setOption(key, value);
+    }
+}
+
+/// Lets the person choose a row; -1 if there was no choice. Where the dialog stood is
+/// kept in any case.
+int askForRow(EngineModel* engines, unsigned row)
+{
+    const QString key = QStringLiteral("project_run_geometry");
+    static QRect geometry = hostOption(key).toRect();
+    const Interface* host = Interface::instance();
+    const int chosen = Dialogs::instance()->runTarget(host ? host->mainWindow() : nullptr, engines,
+                                                      row, &geometry);
+    setHostOption(key, geometry);
+    return chosen;
+}
+
+/// The project that a mark stands for; null if so many are not open.
+Project* markedProject(unsigned mark)
+{
+    const Interface* host = Interface::instance();
+    if (!host || mark > host->projectCount()) {
+        return nullptr;
+    }
+    return mark == 0 ? host->currentProject() : host->projectAt(mark - 1);
+}
+
+QString withSlash(const QString& folder)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+}
+
+/// A project that was never saved has no place below its game.
+QString placeOf(const Project* project)
+{
+    return project->fileName().isEmpty() ? QString() : project->basePath();
+}
+
+}  // namespace
+
+EngineRun::EngineRun(ParentProjectPrivate* tree) : m_tree(tree) {}
+
+EngineRun::~EngineRun() = default;
+
+void EngineRun::run()
+{
+    if (!m_tree->runnable) {
+        refuse(RunResult::AlreadyRunning,
+               ParentProject::tr("Oops, you can run only one instance of yhe engine at "
+                                 "the same time."));
+        return;
+    }
+    if (findEngine() && m_tree && copyProjects()) {
+        startEngine();
+    }
+}
+
+/// The engine of the game folder, else a configured one.
+bool EngineRun::findEngine()
+{
+    ParentProject* tree = m_tree->model;
+    EngineModel* engines = tree->engineModel();
+    m_executable = engines ? tree->absolutePath() + engines->executableName() : QString();
+    if (QFileInfo(m_executable).isFile()) {
+        const QList<Project*> projects = tree->openedProjects();
+        m_parameters =
+            projects.isEmpty() ? QString() : tree->runParameters(projects.first()->kind());
+    } else if (!chooseEngine(engines)) {
+        return false;
+    }
+    const QFileInfo executable(m_executable);
+    if (!executable.isFile()) {
+        m_result.outcome = RunResult::NotFound;
+        keepResult();
+        Dialogs::instance()->error(ParentProject::tr("Error!"),
+                                   ParentProject::tr("Executable not found!"));
+        return false;
+    }
+    m_executable = executable.absoluteFilePath();
+    m_folder = withSlash(executable.absolutePath());
+    return true;
+}
+
+bool EngineRun::chooseEngine(EngineModel* engines)
+{
+    const int count = engines ? engines->engineCount() : 0;
+    if (count == 0) {
+        return refuse(
+            RunResult::NoEngine,
+            ParentProject::tr("Oops, you need to add an engine first. Do it in Tools / Options."));
+    }
+    const QString lastKey = QStringLiteral("last_") + engines->identifier();
+    // One engine needs no choice; the row that counts as chosen is the first all the same.
+    const int row = count == 1 ? 0 : askForRow(engines, hostOption(lastKey).toUInt());
+    if (row < 0 || !m_tree) {
+        m_result.outcome = RunResult::GivenUp;
+        keepResult();
+        return false;
+    }
+    setHostOption(lastKey, row);
+    const EngineInfo engine = m_tree->model->engineModel()->engine(unsigned(row));
+    m_executable = engine.executable;
+    m_parameters = engine.parameters;
+    return true;
+}
+
+bool EngineRun::copyProjects()
+{
+    const QVector<unsigned> marks = runMarks(m_parameters);
+    if (marks.isEmpty()) {
+        return refuse(RunResult::NoMarks,
+                      ParentProject::tr("Oops, wrong parameters on the engine configuration. "
+                                        "Check it in Tools / Options."));
+    }
+    m_copies = std::make_unique<TemporaryCopies>(m_folder);
+    m_tree->runnable = false;
+    for (int i = 0; i < marks.size() && m_tree; ++i) {
+        if (Project* project = markedProject(marks.at(i))) {
+            copyProject(marks.at(i), project, QStringLiteral("zorvs_%1").arg(i));
+        }
+    }
+    return m_tree;
+}
+
+/// Writes the copy of a project. Its files are written into a folder that is temporary
+/// as a whole. Where the family wants them among the files of the engine they go on from
+/// there, so that none of those is replaced.
+void EngineRun::copyProject(unsigned mark, Project* project, const QString& name)
+{
+    bool isWhole = false;
+    const QString runPath = m_tree->model->runPath(project->kind(), name, &isWhole);
+    if (runPath.isEmpty()) {
+        return;
+    }
+    const QString place = placeOf(project);
+    const QString folder = m_folder + withSlash(runPath);
+    m_texts.insert(mark, QDir::cleanPath(withSlash(runPath) + place + name));
+    if (isWhole && m_copies->addFolder(folder)) {
+        writeCopy(project, folder, name);
+        return;
+    }
+    const QString passing = m_folder + name + QLatin1Char('-') +
+                            QUuid::createUuid().toString(QUuid::WithoutBraces) + QLatin1Char('/');
+    if (!m_copies->addFolder(passing)) {
+        m_result.failedFiles.append(place + QFileInfo(project->fileName()).fileName());
+    } else if (writeCopy(project, passing, name)) {
+        m_result.failedFiles += m_copies->spread(passing, folder);
+    }
+}
+
+/// Writes all files of a project below a folder; the main file gets `name`. False if
+/// the project has gone meanwhile.
+bool EngineRun::writeCopy(Project* project, const QString& folder, const QString& name)
+{
+    const QString place = placeOf(project);
+    const QString mainName = QFileInfo(project->fileName()).fileName();
+    const QPointer<Project> alive = project;
+    bool isNamed = false;
+    if (mainName.isEmpty()) {
+        isNamed = project->file(FileID::MainCode)
+                      ->toFile(*FileSystemArchive::instance(), folder + name, true);
+    } else {
+        project->saveAll(folder, true, nullptr);
+        isNamed =
+            mainName == name || QFile::rename(folder + place + mainName, folder + place + name);
+    }
+    const QStringList failed = alive ? project->failedFiles() : QStringList();
+    for (const QString& file : failed) {
+        m_result.failedFiles.append(place + file);
+    }
+    if (!isNamed && !failed.contains(mainName)) {
+        m_result.failedFiles.append(place + (mainName.isEmpty() ? name : mainName));
+    }
+    return alive;
+}
+
+void EngineRun::startEngine()
+{
+    const Launch launch = launchOf(m_executable, runArguments(m_parameters, m_texts));
+    m_result.program = launch.program;
+    m_result.arguments = launch.arguments;
+    m_result.folder = launch.folder;
+    EngineProcess process;
+    if (m_tree) {
+        ParentProject* tree = m_tree->model;
+        m_tree->engine = &process;
+        QObject::connect(&process, &EngineProcess::output, tree, &ParentProject::engineOutput);
+        QObject::connect(&process, &EngineProcess::started, tree,
+                         [=] { emit tree->engineStarted(launch.program, launch.arguments); });
+        // Nobody could end it any more.
+        QObject::connect(tree, &QObject::destroyed, &process, &EngineProcess::stop);
+    }
+    process.run(launch);
+    finish(process);
+}
+
+void EngineRun::finish(const EngineProcess& process)
+{
+    m_result.leftCopies = m_copies->remove();
+    m_result.outcome = process.outcome();
+    m_result.exitCode = process.exitCode();
+    keepResult();
+    if (m_tree) {
+        m_tree->runnable = true;
+        emit m_tree->model->engineFinished();
+    }
+    if (process.error() >= 0 && m_result.outcome != RunResult::Stopped) {
+        Dialogs::instance()->error(
+            ParentProject::tr("Error %1!").arg(process.error()),
+            ParentProject::tr("Can't start the process '%1'!").arg(m_result.program));
+    }
+}
+
+/// Ends the run with a warning; false.
+bool EngineRun::refuse(RunResult::Outcome outcome, const QString& warning)
+{
+    m_result.outcome = outcome;
+    keepResult();
+    Dialogs::instance()->warning(ParentProject::tr("Warning!"), warning);
+    return false;
+}
+
+void EngineRun::keepResult()
+{
+    if (m_tree) {
+        m_tree->runResult = m_result;
+    }
+}
+
+void ParentProject::run()
+{
+    EngineRun(d.get()).run();
+}
+
+bool ParentProject::isRunning() const
+{
+    return !d->runnable;
+}
+
+RunResult ParentProject::runResult() const
+{
+    return d->runResult;
+}
+
+void ParentProject::stopEngine()
+{
+    if (d->engine) {
+        d->engine->stop();
+    }
+}
+
+}  // namespace Zorv

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/run/runresult.h"
+#include "core/run/temporarycopies.h"
+
+#include <QMap>
+#include <QPointer>
+#include <QString>
+
+#include <memory>
+
+namespace Zorv {
+
+class EngineModel;
+class EngineProcess;
+class ParentProjectPrivate;
+class Project;
+
+/// One run of an engine, from the choice to the removal of the copies.
+///
+/// It stands on the stack of `ParentProject::run()` and outlives the tree, if
+/// that dies while events are processed.
+class EngineRun
+{
+public:
+    explicit EngineRun(ParentProjectPrivate* tree);
+    ~EngineRun();
+
+    void run();
+
+private:
+    bool findEngine();
+    bool chooseEngine(EngineModel* engines);
+    bool copyProjects();
+    void copyProject(unsigned mark, Project* project, const QString& name);
+    bool writeCopy(Project* project, const QString& folder, const QString& name);
+    void startEngine();
+    void finish(const EngineProcess& process);
+    bool refuse(RunResult::Outcome outcome, const QString& warning);
+    void keepResult();
+
+    QPointer<ParentProjectPrivate> m_tree;
+    RunResult m_result;
+    QString m_executable;
+    QString m_folder;  ///< of the executable, with "/" at its end
+    QString m_parameters;
+    QMap<unsigned, QString> m_texts;  ///< what the marks stand for
+    std::unique_ptr<TemporaryCopies> m_copies;
+};
+
+}  // namespace Zorv
