@@ -12,10 +12,11 @@ namespace Family {
 
 namespace {
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("Family", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Family)
+};
 
 const struct
 {
@@ -85,17 +86,18 @@ void useEngines(QSettings& settings)
 QString engineProblem(const Zorv::EngineInfo& engine)
 {
     if (engine.name.trimmed().isEmpty()) {
-        return tr("The engine has no name.");
+        return Text::tr("The engine has no name.");
     }
     if (engine.executable.isEmpty()) {
-        return tr("Choose the program of the engine '%1'.").arg(engine.name);
+        return Text::tr("Choose the program of the engine '%1'.").arg(engine.name);
     }
     if (!QFileInfo(engine.executable).isFile()) {
-        return tr("There is no program '%1'. Correct its path.").arg(engine.executable);
+        return Text::tr("There is no program '%1'. Correct its path.").arg(engine.executable);
     }
     if (!asksForProject(engine.parameters)) {
-        return tr("The parameters of the engine '%1' ask for no project. Write %2 in the place of "
-                  "the project in front.")
+        return Text::tr(
+                   "The parameters of the engine '%1' ask for no project. Write %2 in the place of "
+                   "the project in front.")
             .arg(engine.name, defaultEngineParameters());
     }
     return {};

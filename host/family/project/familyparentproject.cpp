@@ -8,6 +8,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QUuid>
 
 #include <memory>
 
@@ -19,6 +21,13 @@ constexpr int deepestFolder = 12;
 
 /// Folders whose folders are projects each.
 const QLatin1String projectFolders[] = {QLatin1String("characters"), QLatin1String("stages")};
+
+/// Folders beside an engine that hold the copy of a project as long as it runs.
+bool isRunFolder(const QString& name)
+{
+    static const QRegularExpression pattern(QStringLiteral("^zorvs_[0-9]+-"));
+    return name.contains(pattern);
+}
 
 void collectMainFiles(const QString& folder, int depth, QStringList* files)
 {
@@ -34,7 +43,7 @@ void collectMainFiles(const QString& folder, int depth, QStringList* files)
     const QStringList folders =
         dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
     for (const QString& name : folders) {
-        if (depth > 0 || name != QLatin1String("backup")) {
+        if (depth > 0 || (name != QLatin1String("backup") && !isRunFolder(name))) {
             collectMainFiles(dir.absoluteFilePath(name), depth + 1, files);
         }
     }
@@ -145,11 +154,12 @@ QString FamilyParentProject::runParameters(int kind) const
                                              : QStringLiteral("--character %0");
 }
 
-QString FamilyParentProject::runPath(int kind, const QString& name, bool* wholeFolder) const
+/// A folder that cannot be there: nothing of the engine's is touched.
+QString FamilyParentProject::runPath(int, const QString& name, bool* wholeFolder) const
 {
     *wholeFolder = true;
-    const QLatin1String folder = projectFolders[FileKind(kind) == FileKind::Stage ? 1 : 0];
-    return folder + QLatin1Char('/') + name + QLatin1Char('/');
+    return name + QLatin1Char('-') + QUuid::createUuid().toString(QUuid::WithoutBraces) +
+           QLatin1Char('/');
 }
 
 void FamilyParentProject::lastReferenceGone()

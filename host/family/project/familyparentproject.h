@@ -15,12 +15,17 @@ public:
     explicit FamilyParentProject(const QString& rootPath);
 
     /// The main files below a folder, as absolute paths in order. Hidden
-    /// folders and those of backups are left out, links are not followed.
+    /// folders, those of backups and copies for an engine are left out, links
+    /// are not followed.
     static QStringList mainFiles(const QString& folder);
 
     Zorv::EngineModel* engineModel() const override;
     void projectFiles(const QString& path, QStringList& files) override;
+
+    /// "--character %0" or "--stage %0".
     QString runParameters(int kind) const override;
+
+    /// A folder beside the engine with a name that no other has, temporary as a whole.
     QString runPath(int kind, const QString& name, bool* wholeFolder) const override;
     void lastReferenceGone() override;
 
