@@ -2,6 +2,9 @@
 
 #include "output.h"
 
+#include <QAbstractItemModel>
+#include <QCoreApplication>
+
 namespace Cli {
 
 namespace {
@@ -83,6 +86,18 @@ QString CommandDialogs::existingFolder(QWidget*, const QString& caption, const Q
 {
     show(caption);
     return {};
+}
+
+int CommandDialogs::runTarget(QWidget*, QAbstractItemModel* model, unsigned, QRect*)
+{
+    QStringList names;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        names.append(model->index(row, 0).data().toString());
+    }
+    show(QCoreApplication::translate("Cli", "There is more than one engine: %1. Name one with "
+                                            "'--engine'.")
+             .arg(names.join(QLatin1String(", "))));
+    return -1;
 }
 
 void CommandDialogs::show(const QString& text)

@@ -30,6 +30,8 @@ public:
     QString saveFileName(QWidget* parent, const QString& caption, const QString& dir,
                          const QString& filter) override;
     QString existingFolder(QWidget* parent, const QString& caption, const QString& dir) override;
+    int runTarget(QWidget* parent, QAbstractItemModel* model, unsigned row,
+                  QRect* geometry) override;
 
 private:
     void show(const QString& text);
