@@ -1,5 +1,7 @@
 #include "support/planneddialogs.h"
 
+#include <QAbstractItemModel>
+
 PlannedDialogs::PlannedDialogs()
 {
     setInstance(this);
@@ -31,55 +33,68 @@ QStringList PlannedDialogs::texts(const QString& kind) const
 PlannedDialogs::Button PlannedDialogs::question(const QString& title, const QString& text,
                                                 Buttons buttons, Button defaultButton)
 {
-    show({QStringLiteral("question"), title, text, buttons, defaultButton, {}});
+    show({QStringLiteral("question"), title, text, buttons, defaultButton, {}, {}});
     return takeButton(buttons, defaultButton);
 }
 
 PlannedDialogs::Button PlannedDialogs::warning(const QString& title, const QString& text,
                                                Buttons buttons, Button defaultButton)
 {
-    show({QStringLiteral("warning"), title, text, buttons, defaultButton, {}});
+    show({QStringLiteral("warning"), title, text, buttons, defaultButton, {}, {}});
     return takeButton(buttons, defaultButton);
 }
 
 void PlannedDialogs::information(const QString& title, const QString& text)
 {
-    show({QStringLiteral("information"), title, text, Ok, Ok, {}});
+    show({QStringLiteral("information"), title, text, Ok, Ok, {}, {}});
 }
 
 void PlannedDialogs::error(const QString& title, const QString& text)
 {
-    show({QStringLiteral("error"), title, text, Ok, Ok, {}});
+    show({QStringLiteral("error"), title, text, Ok, Ok, {}, {}});
 }
 
 int PlannedDialogs::choose(const QString& title, const QString& text, const QStringList& choices,
                            int)
 {
-    show({QStringLiteral("choose"), title, text, {}, NoButton, choices});
+    show({QStringLiteral("choose"), title, text, {}, NoButton, choices, {}});
     return choiceAnswers.isEmpty() ? -1 : choiceAnswers.takeFirst();
 }
 
-QString PlannedDialogs::openFileName(QWidget*, const QString& caption, const QString&,
+QString PlannedDialogs::openFileName(QWidget*, const QString& caption, const QString& dir,
                                      const QString& filter)
 {
-    return takeFiles("openFile", caption, filter).value(0);
+    return takeFiles("openFile", caption, dir, filter).value(0);
 }
 
-QStringList PlannedDialogs::openFileNames(QWidget*, const QString& caption, const QString&,
+QStringList PlannedDialogs::openFileNames(QWidget*, const QString& caption, const QString& dir,
                                           const QString& filter)
 {
-    return takeFiles("openFiles", caption, filter);
+    return takeFiles("openFiles", caption, dir, filter);
 }
 
-QString PlannedDialogs::saveFileName(QWidget*, const QString& caption, const QString&,
+QString PlannedDialogs::saveFileName(QWidget*, const QString& caption, const QString& dir,
                                      const QString& filter)
 {
-    return takeFiles("saveFile", caption, filter).value(0);
+    return takeFiles("saveFile", caption, dir, filter).value(0);
 }
 
-QString PlannedDialogs::existingFolder(QWidget*, const QString& caption, const QString&)
+QString PlannedDialogs::existingFolder(QWidget*, const QString& caption, const QString& dir)
 {
-    return takeFiles("folder", caption, {}).value(0);
+    return takeFiles("folder", caption, dir, {}).value(0);
+}
+
+int PlannedDialogs::runTarget(QWidget*, QAbstractItemModel* model, unsigned row, QRect* geometry)
+{
+    Shown dialog{QStringLiteral("runTarget"), {}, QString::number(row), {}, NoButton, {}, {}};
+    for (int i = 0; i < model->rowCount(); ++i) {
+        dialog.choices.append(model->index(i, 0).data().toString());
+    }
+    show(dialog);
+    if (!targetGeometry.isNull()) {
+        *geometry = targetGeometry;
+    }
+    return targetAnswers.isEmpty() ? -1 : targetAnswers.takeFirst();
 }
 
 void PlannedDialogs::show(const Shown& dialog)
@@ -101,9 +116,9 @@ PlannedDialogs::Button PlannedDialogs::takeButton(Buttons buttons, Button defaul
     return buttons & No ? No : defaultButton;
 }
 
-QStringList PlannedDialogs::takeFiles(const char* kind, const QString& caption,
+QStringList PlannedDialogs::takeFiles(const char* kind, const QString& caption, const QString& dir,
                                       const QString& filter)
 {
-    show({QString::fromLatin1(kind), caption, filter, {}, NoButton, {}});
+    show({QString::fromLatin1(kind), caption, filter, {}, NoButton, {}, dir});
     return fileAnswers.isEmpty() ? QStringList() : fileAnswers.takeFirst();
 }

@@ -3,6 +3,7 @@
 #include "core/dialogs/dialogs.h"
 
 #include <QList>
+#include <QRect>
 
 #include <functional>
 
@@ -22,6 +23,7 @@ public:
         Buttons buttons;
         Button defaultButton = NoButton;
         QStringList choices;
+        QString folder;  ///< where a question for files begins
     };
 
     PlannedDialogs();
@@ -30,6 +32,8 @@ public:
     QList<Button> buttonAnswers;     ///< of question() and warning()
     QList<int> choiceAnswers;        ///< of choose()
     QList<QStringList> fileAnswers;  ///< of every question for files and folders
+    QList<int> targetAnswers;        ///< of runTarget()
+    QRect targetGeometry;            ///< where that dialog stands; null to leave it
     QList<Shown> shown;
 
     /// Runs while a dialog is open, before its answer is taken.
@@ -56,9 +60,12 @@ public:
     QString saveFileName(QWidget* parent, const QString& caption, const QString& dir,
                          const QString& filter) override;
     QString existingFolder(QWidget* parent, const QString& caption, const QString& dir) override;
+    int runTarget(QWidget* parent, QAbstractItemModel* model, unsigned row,
+                  QRect* geometry) override;
 
 private:
     void show(const Shown& dialog);
     Button takeButton(Buttons buttons, Button defaultButton);
-    QStringList takeFiles(const char* kind, const QString& caption, const QString& filter);
+    QStringList takeFiles(const char* kind, const QString& caption, const QString& dir,
+                          const QString& filter);
 };
