@@ -19,7 +19,7 @@ file(RELATIVE_PATH ZORV_LIB_FROM_BIN
      ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
 set(CMAKE_INSTALL_RPATH $ORIGIN/${ZORV_LIB_FROM_BIN})
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Concurrent Multimedia)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Concurrent Multimedia LinguistTools)
 if(ZORV_TESTS OR ZORV_BENCHMARKS)
     find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
 endif()

@@ -106,6 +106,9 @@ int runInWindow(int& argc, char** argv, const QStringList& arguments)
     }
     if (hasPlatform || isPicture) {
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+        // A screen at one and a half is one at one and a half: the icons are drawn for it.
+        QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+            Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
         QApplication application(argc, argv);
         // Qt has taken its own options out of these.
         return App::runWindow(application, QCoreApplication::arguments().mid(1));

@@ -1,6 +1,7 @@
 #include "app/animationpanel.h"
 
 #include "app/animationrows.h"
+#include "app/look/language.h"
 #include "app/undostep.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
@@ -61,7 +62,7 @@ const CodeNode* animationAt(const Family::FamilyDocument* document, int line)
 
 AnimationPanel::AnimationPanel(QWidget* parent) : QListView(parent), m_rows(new AnimationRows(this))
 {
-    setAccessibleName(tr("Animations of the text"));
+    followLanguage(this, [this] { setAccessibleName(tr("Animations of the text")); });
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setUniformItemSizes(true);

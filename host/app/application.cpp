@@ -1,6 +1,7 @@
 #include "app/application.h"
 
-#include "app/codeedit.h"
+#include "app/look/icon.h"
+#include "app/look/look.h"
 #include "app/mainwindow.h"
 #include "app/screenshot.h"
 #include "app/windowdialogs.h"
@@ -8,12 +9,8 @@
 #include "cli/commanddialogs.h"
 
 #include <QApplication>
-#include <QFontDatabase>
-#include <QIcon>
 #include <QSettings>
 #include <QTextStream>
-
-#include <algorithm>
 
 namespace App {
 
@@ -48,36 +45,17 @@ Usage parse(const QStringList& arguments)
     return usage;
 }
 
-/// The desktop's fixed font. Where no desktop says which that is, any family of
-/// characters of one width.
-QFont fixedFont()
+void setUpIcons()
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    const QFontDatabase fonts;
-    if (fonts.isFixedPitch(QFontInfo(font).family())) {
-        return font;
-    }
-    const QStringList families = fonts.families(QFontDatabase::Latin);
-    const auto found =
-        std::find_if(families.begin(), families.end(), [&fonts](const QString& family) {
-            return fonts.isFixedPitch(family) && fonts.isSmoothlyScalable(family);
-        });
-    font.setFamily(found == families.end() ? QStringLiteral("monospace") : *found);
-    font.setStyleHint(QFont::Monospace);
-    return font;
-}
-
-void setUpLook()
-{
-    setCodeFont(fixedFont());
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/zorvl_icons/icons/anim.png")));
+    QApplication::setWindowIcon(icon(QStringLiteral(":/zorvl_icons/icons/anim.png")));
 }
 
 int drawPicture(const Usage& usage)
 {
     WindowInterface host;
     Family::startHost(&host);
+    applyLook();
     // Nobody is there to answer.
     const Cli::CommandDialogs dialogs;
     MainWindow window;
@@ -99,13 +77,14 @@ int runWindow(QApplication&, const QStringList& arguments)
         QTextStream(stderr) << "zorv: " << usage.error << '\n';
         return WrongUsage;
     }
-    setUpLook();
+    setUpIcons();
     if (!usage.picture.isEmpty()) {
         return drawPicture(usage);
     }
     QSettings settings;
     WindowInterface host(&settings);
     Family::startHost(&host);
+    applyLook();
     const WindowDialogs dialogs;
     MainWindow window;
     host.setWindow(&window);

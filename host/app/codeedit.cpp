@@ -1,5 +1,8 @@
 #include "app/codeedit.h"
 
+#include "app/look/codefont.h"
+#include "app/look/language.h"
+#include "app/look/theme.h"
 #include "code/codedoc/codeblockdata.h"
 #include "family/familydocument.h"
 
@@ -21,38 +24,15 @@ namespace {
 
 constexpr int TabWidth = 4;
 
-// The formats of tokens are made for a bright ground, whatever the desktop's theme is.
-const QColor Ground(Qt::white);
-const QColor Ink(Qt::black);
-const QColor CurrentLine(0xf0, 0xf4, 0xfa);
-
-QFont& codeFont()
-{
-    static QFont font;
-    return font;
-}
-
-QPalette codePalette(QPalette palette)
-{
-    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-        palette.setColor(group, QPalette::Base, Ground);
-        palette.setColor(group, QPalette::Text, Ink);
-    }
-    return palette;
-}
-
 }  // namespace
 
 CodeEdit::CodeEdit(Family::FamilyDocument* document, QWidget* parent)
     : QPlainTextEdit(parent), m_document(document)
 {
-    document->setDefaultFont(codeFont());
-    setFont(codeFont());
-    setDocument(document);
-    setPalette(codePalette(palette()));
     setLineWrapMode(QPlainTextEdit::NoWrap);
-    setTabStopDistance(TabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
-    setAccessibleName(tr("Text of %1").arg(document->title()));
+    setDocument(document);
+    applyFont();
+    followLanguage(this, [this] { setAccessibleName(tr("Text of %1").arg(m_document->title())); });
     m_length = document->characterCount();
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &CodeEdit::markCurrentLine);
     connect(document, &QTextDocument::contentsChange, this, &CodeEdit::keepPlace);
@@ -61,6 +41,12 @@ CodeEdit::CodeEdit(Family::FamilyDocument* document, QWidget* parent)
             m_place = place();
         }
     });
+    markCurrentLine();
+}
+
+void CodeEdit::reconfig()
+{
+    applyFont();
     markCurrentLine();
 }
 
@@ -146,12 +132,20 @@ QMimeData* CodeEdit::createMimeDataFromSelection() const
     return mime;
 }
 
+void CodeEdit::applyFont()
+{
+    const QFont font = codeFont();
+    m_document->setDefaultFont(font);
+    setFont(font);
+    setTabStopDistance(TabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
+}
+
 void CodeEdit::markCurrentLine()
 {
     QTextEdit::ExtraSelection line;
     line.cursor = textCursor();
     line.cursor.clearSelection();
-    line.format.setBackground(CurrentLine);
+    line.format.setBackground(Theme::colour(Theme::CurrentLine));
     line.format.setProperty(QTextFormat::FullWidthSelection, true);
     setExtraSelections({line});
     if (!m_isRestoring) {
@@ -173,21 +167,6 @@ void CodeEdit::keepPlace(int from, int removed, int added)
         m_isRestoring = false;
         setPlace(place);
     });
-}
-
-void setCodeFont(const QFont& font)
-{
-    codeFont() = font;
-    for (int i = 0; i < Zorv::CodeParserSyntax::TokenTypeCount; ++i) {
-        const auto type = Zorv::CodeParserSyntax::TokenType(i);
-        QTextCharFormat format = CodeDocument::syntaxFormat(type);
-        // The font of the document, whatever it is, with weight and slant of the token.
-        format.clearProperty(QTextFormat::FontFamily);
-        format.clearProperty(QTextFormat::FontFamilies);
-        format.clearProperty(QTextFormat::FontPointSize);
-        format.clearProperty(QTextFormat::FontFixedPitch);
-        CodeDocument::setSyntaxFormat(type, format);
-    }
 }
 
 }  // namespace App

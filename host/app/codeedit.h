@@ -27,6 +27,9 @@ public:
 
     Family::FamilyDocument* codeDocument() const { return m_document; }
 
+    /// Takes font and colours of the settings again.
+    void reconfig();
+
     /// Puts the cursor there and the line into the view. A place behind the end
     /// is the end.
     void goTo(int line, int column = 0, int length = 0);
@@ -44,6 +47,7 @@ protected:
     QMimeData* createMimeDataFromSelection() const override;
 
 private:
+    void applyFont();
     void markCurrentLine();
     void keepPlace(int from, int removed, int added);
 
@@ -52,8 +56,5 @@ private:
     int m_length = 0;   ///< of the text before that
     bool m_isRestoring = false;
 };
-
-/// The font of code, and the formats of all documents in it.
-void setCodeFont(const QFont& font);
 
 }  // namespace App

@@ -1,6 +1,7 @@
 #include "app/documenttabs.h"
 
 #include "app/codeedit.h"
+#include "app/look/language.h"
 #include "family/familydocument.h"
 
 #include <QDir>
@@ -15,7 +16,7 @@ DocumentTabs::DocumentTabs(QWidget* parent) : QTabWidget(parent)
     setTabsClosable(true);
     setMovable(true);
     setUsesScrollButtons(true);
-    setAccessibleName(tr("Open texts"));
+    followLanguage(this, [this] { setAccessibleName(tr("Open texts")); });
     connect(this, &QTabWidget::currentChanged, this, &DocumentTabs::announceCurrent);
     connect(this, &QTabWidget::tabCloseRequested, this,
             [this](int index) { emit closeRequested(editAt(index)->codeDocument()); });

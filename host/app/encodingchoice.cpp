@@ -19,10 +19,11 @@ namespace {
 
 enum Answer { GiveUp = -1, ReadAgain = 0, KeepText = 1 };
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("App::EncodingChoice", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(App::EncodingChoice)
+};
 
 Answer askWhatFor(const FamilyDocument* document, const QString& codec)
 {
@@ -32,20 +33,20 @@ Answer askWhatFor(const FamilyDocument* document, const QString& codec)
     const QString file = QDir::toNativeSeparators(document->fileName());
     const QString text =
         document->isModified()
-            ? tr("%1 has unsaved changes. They are lost if it is read again in %2.")
+            ? Text::tr("%1 has unsaved changes. They are lost if it is read again in %2.")
                   .arg(file, codec)
-            : tr("%1 can be read again in %2, or keep its text and be saved in it.")
+            : Text::tr("%1 can be read again in %2, or keep its text and be saved in it.")
                   .arg(file, codec);
-    const QStringList choices{tr("Read the file again in %1").arg(codec),
-                              tr("Keep the text, and save it in %1").arg(codec)};
-    return Answer(Dialogs::instance()->choose(tr("Encoding"), text, choices,
+    const QStringList choices{Text::tr("Read the file again in %1").arg(codec),
+                              Text::tr("Keep the text, and save it in %1").arg(codec)};
+    return Answer(Dialogs::instance()->choose(Text::tr("Encoding"), text, choices,
                                               document->isModified() ? KeepText : ReadAgain));
 }
 
 void readAgain(FamilyDocument* document, int codec)
 {
     if (!document->fromFile(*document->archive(), document->fileName(), codec, false)) {
-        Dialogs::instance()->error(tr("Encoding"), document->errorString());
+        Dialogs::instance()->error(Text::tr("Encoding"), document->errorString());
         return;
     }
     Family::ensureFaithful(document);
@@ -58,7 +59,7 @@ void keepText(FamilyDocument* document, int codec)
     document->setModified(true);
     const QString obstacle = Family::encodingObstacle(document);
     if (!obstacle.isEmpty()) {
-        Dialogs::instance()->warning(tr("Encoding"), obstacle);
+        Dialogs::instance()->warning(Text::tr("Encoding"), obstacle);
     }
 }
 
@@ -70,8 +71,8 @@ void chooseEncoding(FamilyDocument* document)
     for (int i = 0; i < TextCodecs::count(); ++i) {
         names.append(TextCodecs::name(i));
     }
-    const int codec = Dialogs::instance()->choose(tr("Encoding"), tr("Encoding of the file:"),
-                                                  names, document->codecId());
+    const int codec = Dialogs::instance()->choose(
+        Text::tr("Encoding"), Text::tr("Encoding of the file:"), names, document->codecId());
     if (codec < 0) {
         return;
     }

@@ -1,5 +1,7 @@
 #include "app/gametree.h"
 
+#include "app/look/icon.h"
+#include "app/look/language.h"
 #include "family/grammar/filekind.h"
 #include "family/project/familyparentproject.h"
 
@@ -30,17 +32,20 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         const ParentProject::Path* path = gameOf(index)->itemPath(index);
         if (path->isProject() && !path->isDirectory()) {
-            option->icon = QIcon(QStringLiteral(":/zorvl_icons/icons/code.png"));
+            option->icon = m_mainFile;
         }
         option->font.setBold(path->isFile() && path->fileID().has(Zorv::FileID::MainCode));
     }
+
+private:
+    const QIcon m_mainFile = icon(QStringLiteral(":/zorvl_icons/icons/code.png"));
 };
 
 }  // namespace
 
 GameTree::GameTree(QWidget* parent) : QTreeView(parent)
 {
-    setAccessibleName(tr("Projects and files of the game"));
+    followLanguage(this, [this] { setAccessibleName(tr("Projects and files of the game")); });
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -1,5 +1,7 @@
 #include "app/linebar.h"
 
+#include "app/look/language.h"
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -9,9 +11,12 @@ namespace App {
 
 LineBar::LineBar(QWidget* parent) : QWidget(parent), m_line(new QSpinBox(this))
 {
-    auto* label = new QLabel(tr("&Go to line:"), this);
+    auto* label = new QLabel(this);
     label->setBuddy(m_line);
-    m_line->setAccessibleName(tr("Line to go to"));
+    followLanguage(this, [this, label] {
+        label->setText(tr("&Go to line:"));
+        m_line->setAccessibleName(tr("Line to go to"));
+    });
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(6, 3, 6, 3);
     layout->addWidget(label);

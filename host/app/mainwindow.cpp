@@ -11,6 +11,7 @@
 #include "app/linebar.h"
 #include "app/messagepanel.h"
 #include "app/nodepanel.h"
+#include "app/look/look.h"
 #include "app/recentfolders.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
@@ -153,11 +154,32 @@ void MainWindow::retranslate()
     m_actions->retranslate();
     updateTitle();
 }
+/// Texts keep the colours that they were given, and their messages the language.
+void MainWindow::parseAgain()
+{
+    for (const FamilyProject* project : m_session->projects()) {
+        const QList<FamilyDocument*> documents = project->documents();
+        for (FamilyDocument* document : documents) {
+            document->rehighlight();
+        }
+    }
+}
+
+void MainWindow::reconfig()
+{
+    applyLook();
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        m_tabs->editAt(i)->reconfig();
+    }
+    parseAgain();
+}
+
 
 void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
+        parseAgain();
         retranslate();
     }
 }

@@ -78,6 +78,9 @@ public:
 
     /// What is there for actions to work on: flags of `Need`.
     int presentNeeds() const;
+    /// Takes the settings again that the window, its parts and what they show read.
+    void reconfig();
+
 
     /// @name The actions
     /// @{
@@ -121,6 +124,7 @@ private:
     void retranslate();
     void connectParts();
     void connectPanels();
+    void parseAgain();
 
     bool openFolder(const QString& folder);
     bool openProject(const QString& mainFile);

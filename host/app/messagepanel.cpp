@@ -1,5 +1,6 @@
 #include "app/messagepanel.h"
 
+#include "app/look/language.h"
 #include "code/codedoc/codedocument.h"
 #include "core/messagelist.h"
 #include "core/messages.h"
@@ -17,7 +18,10 @@ using Zorv::Messages;
 
 MessagePanel::MessagePanel(QWidget* parent) : QListView(parent)
 {
-    setAccessibleName(tr("Messages of the project"));
+    followLanguage(this, [this] {
+        setAccessibleName(tr("Messages of the project"));
+        emit summaryChanged();
+    });
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setUniformItemSizes(true);
     connect(this, &QListView::activated, this, &MessagePanel::request);

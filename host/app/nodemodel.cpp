@@ -1,5 +1,6 @@
 #include "app/nodemodel.h"
 
+#include "app/look/icon.h"
 #include "app/nodechildren.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
@@ -33,12 +34,12 @@ QString labelOf(const CodeNode* node)
 QVariant iconOf(CodeNode::Type type)
 {
     static const QHash<int, QIcon> icons{
-        {CodeNode::Group, QIcon(QStringLiteral(":/zorvl_icons/icons/code.png"))},
-        {CodeNode::Animation, QIcon(QStringLiteral(":/zorvl_icons/icons/anim.png"))},
-        {CodeNode::Frame, QIcon(QStringLiteral(":/zorvl_icons/icons/sprite.png"))},
+        {CodeNode::Group, icon(QStringLiteral(":/zorvl_icons/icons/code.png"))},
+        {CodeNode::Animation, icon(QStringLiteral(":/zorvl_icons/icons/anim.png"))},
+        {CodeNode::Frame, icon(QStringLiteral(":/zorvl_icons/icons/sprite.png"))},
     };
-    const auto icon = icons.constFind(type);
-    return icon == icons.constEnd() ? QVariant() : QVariant(*icon);
+    const auto found = icons.constFind(type);
+    return found == icons.constEnd() ? QVariant() : QVariant(*found);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "app/nodepanel.h"
 
 #include "app/nodemodel.h"
+#include "app/look/language.h"
 
 #include <QTimer>
 
@@ -16,7 +17,7 @@ constexpr int FollowWait = 60;
 NodePanel::NodePanel(QWidget* parent)
     : QTreeView(parent), m_nodes(new NodeModel(this)), m_follow(new QTimer(this))
 {
-    setAccessibleName(tr("Nodes of the text"));
+    followLanguage(this, [this] { setAccessibleName(tr("Nodes of the text")); });
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

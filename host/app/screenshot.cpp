@@ -33,10 +33,11 @@ const QSize PictureSize(1280, 800);
 constexpr int SettleTime = 400;  // milliseconds: panels follow a little later
 constexpr int Step = 10;
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("App::Screenshot", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(App::Screenshot)
+};
 
 void settle()
 {
@@ -102,7 +103,7 @@ bool drawWindow(MainWindow* window, const QString& game, const QString& picture,
     window->resize(PictureSize);
     window->show();
     if (!game.isEmpty() && !window->openPath(game)) {
-        *error = tr("There is no picture without the game.");
+        *error = Text::tr("There is no picture without the game.");
         return false;
     }
     if (window->session()->game()) {
@@ -110,7 +111,7 @@ bool drawWindow(MainWindow* window, const QString& game, const QString& picture,
     }
     settle();
     if (!window->grab().save(picture, "PNG")) {
-        *error = tr("The picture %1 cannot be written. Check the folder and its permissions.")
+        *error = Text::tr("The picture %1 cannot be written. Check the folder and its permissions.")
                      .arg(QDir::toNativeSeparators(picture));
         return false;
     }

@@ -1,5 +1,6 @@
 #include "app/statusfields.h"
 
+#include "app/look/language.h"
 #include "family/familydocument.h"
 #include "operations/documentfile.h"
 
@@ -28,18 +29,21 @@ QString stateOf(const Family::FamilyDocument* document)
     return document->isModified() ? StatusFields::tr("Modified") : StatusFields::tr("Saved");
 }
 
+void setHelp(QToolButton* button, const QString& help)
+{
+    button->setToolTip(help);
+    button->setAccessibleDescription(help);
+}
+
 }  // namespace
 
 StatusFields::StatusFields(QStatusBar* bar)
     : QObject(bar), m_bar(bar),
-      m_problems(addButton("problems_field", tr("Problems of the project. Click for the list."))),
-      m_state(new QLabel(bar)), m_lineEnds(new QLabel(bar)),
-      m_encoding(addButton("encoding_field", tr("Encoding of the file. Click to change it."))),
-      m_place(addButton("place_field", tr("Line and column. Click to go to a line."))),
+      m_problems(addButton("problems_field")), m_state(new QLabel(bar)),
+      m_lineEnds(new QLabel(bar)), m_encoding(addButton("encoding_field")),
+      m_place(addButton("place_field")),
       m_watcher(new QFileSystemWatcher(this))
 {
-    m_state->setAccessibleName(tr("State of the file"));
-    m_lineEnds->setAccessibleName(tr("Line ends of the file"));
     for (QWidget* widget : {static_cast<QWidget*>(m_problems), static_cast<QWidget*>(m_state),
                             static_cast<QWidget*>(m_lineEnds), static_cast<QWidget*>(m_encoding),
                             static_cast<QWidget*>(m_place)}) {
@@ -50,6 +54,19 @@ StatusFields::StatusFields(QStatusBar* bar)
     connect(m_place, &QToolButton::clicked, this, &StatusFields::placeClicked);
     connect(m_watcher, &QFileSystemWatcher::directoryChanged, this, &StatusFields::updateFile);
     setDocument(nullptr);
+    followLanguage(this, [this] { retranslate(); });
+}
+
+void StatusFields::retranslate()
+{
+    setHelp(m_problems, tr("Problems of the project. Click for the list."));
+    setHelp(m_encoding, tr("Encoding of the file. Click to change it."));
+    setHelp(m_place, tr("Line and column. Click to go to a line."));
+    m_state->setAccessibleName(tr("State of the file"));
+    m_lineEnds->setAccessibleName(tr("Line ends of the file"));
+    m_bar->clearMessage();
+    updateFile();
+    showPlace();
 }
 
 void StatusFields::setDocument(Family::FamilyDocument* document)
@@ -75,14 +92,20 @@ void StatusFields::updateFile()
     m_encoding->setText(m_document ? tr("Encoding: %1").arg(m_document->codecName()) : QString());
     m_encoding->setEnabled(m_document);
     m_place->setEnabled(m_document);
-    if (!m_document) {
-        m_place->setText(QString());
-    }
+    showPlace();
 }
 
 void StatusFields::setPlace(int line, int column)
 {
-    m_place->setText(tr("Line %1, column %2").arg(line + 1).arg(column + 1));
+    m_line = line;
+    m_column = column;
+    showPlace();
+}
+
+void StatusFields::showPlace()
+{
+    m_place->setText(m_document ? tr("Line %1, column %2").arg(m_line + 1).arg(m_column + 1)
+                                : QString());
 }
 
 void StatusFields::showField(int field, const QString& text)
@@ -125,13 +148,11 @@ QString StatusFields::problemText() const
     return m_problems->text();
 }
 
-QToolButton* StatusFields::addButton(const char* name, const QString& help)
+QToolButton* StatusFields::addButton(const char* name)
 {
     auto* button = new QToolButton(m_bar);
     button->setObjectName(QLatin1String(name));
     button->setAutoRaise(true);
-    button->setToolTip(help);
-    button->setAccessibleDescription(help);
     button->setFocusPolicy(Qt::StrongFocus);
     return button;
 }

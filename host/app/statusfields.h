@@ -51,7 +51,9 @@ signals:
     void placeClicked();
 
 private:
-    QToolButton* addButton(const char* name, const QString& help);
+    QToolButton* addButton(const char* name);
+    void retranslate();
+    void showPlace();
     void watchFolder();
 
     QStatusBar* m_bar;
@@ -62,6 +64,8 @@ private:
     QToolButton* m_place;
     QFileSystemWatcher* m_watcher;
     Family::FamilyDocument* m_document = nullptr;
+    int m_line = 0;
+    int m_column = 0;
 };
 
 }  // namespace App

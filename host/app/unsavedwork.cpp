@@ -22,10 +22,11 @@ enum Answer { Cancel = -1, Save = 0, Discard = 1 };
 
 constexpr int MaxNames = 8;
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("App::UnsavedWork", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(App::UnsavedWork)
+};
 
 QString namesOf(const QList<FamilyDocument*>& documents)
 {
@@ -36,7 +37,7 @@ QString namesOf(const QList<FamilyDocument*>& documents)
     const int more = names.size() - MaxNames;
     if (more > 0) {
         names = names.mid(0, MaxNames);
-        names.append(tr("and %1 more").arg(more));
+        names.append(Text::tr("and %1 more").arg(more));
     }
     return names.join(QLatin1Char('\n'));
 }
@@ -66,12 +67,12 @@ int chooseTwin(const QList<FamilyDocument*>& documents)
 {
     QStringList choices;
     for (const FamilyDocument* document : documents) {
-        choices.append(tr("Save the text of %1").arg(projectTitle(document)));
+        choices.append(Text::tr("Save the text of %1").arg(projectTitle(document)));
     }
     return Dialogs::instance()->choose(
-        tr("Save"),
-        tr("%1 belongs to several projects, and was changed in them in different ways. The "
-           "changes of one can be saved; the others are lost.")
+        Text::tr("Save"),
+        Text::tr("%1 belongs to several projects, and was changed in them in different ways. The "
+                 "changes of one can be saved; the others are lost.")
             .arg(QDir::toNativeSeparators(documents.first()->fileName())),
         choices, 0);
 }
@@ -144,7 +145,7 @@ bool saveDocuments(QList<FamilyDocument*> documents)
         all = readSaved(sharing) && all;
     }
     if (!errors.isEmpty()) {
-        Dialogs::instance()->error(tr("Save"), errors.join(QLatin1Char('\n')));
+        Dialogs::instance()->error(Text::tr("Save"), errors.join(QLatin1Char('\n')));
     }
     return all;
 }
@@ -155,11 +156,13 @@ bool askAboutUnsaved(const QList<FamilyDocument*>& documents)
         return true;
     }
     const bool isOne = documents.size() == 1;
-    const QString text =
-        isOne ? tr("This file has unsaved changes:") : tr("These files have unsaved changes:");
-    const QStringList choices{isOne ? tr("Save") : tr("Save all"), tr("Discard the changes")};
-    switch (Dialogs::instance()->choose(
-        tr("Unsaved changes"), text + QLatin1String("\n\n") + namesOf(documents), choices, Save)) {
+    const QString text = isOne ? Text::tr("This file has unsaved changes:")
+                               : Text::tr("These files have unsaved changes:");
+    const QStringList choices{isOne ? Text::tr("Save") : Text::tr("Save all"),
+                              Text::tr("Discard the changes")};
+    switch (Dialogs::instance()->choose(Text::tr("Unsaved changes"),
+                                        text + QLatin1String("\n\n") + namesOf(documents), choices,
+                                        Save)) {
     case Save:
         return saveDocuments(documents);
     case Discard:

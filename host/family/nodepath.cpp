@@ -21,10 +21,11 @@ using Zorv::ContactBoxCode;
 
 namespace {
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("Family", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Family)
+};
 
 /// The last part of a node's path, without its number.
 QString partText(const CodeNode* node)
@@ -116,7 +117,7 @@ bool Walk::follow(const QVector<PathPart>& parts)
     const QString separator = isInAnimation ? QStringLiteral("/") : QStringLiteral(".");
     for (const PathPart& part : parts) {
         if (!m_part.isEmpty()) {
-            m_error = tr("'%1' has no parts.").arg(m_walked);
+            m_error = Text::tr("'%1' has no parts.").arg(m_walked);
             return false;
         }
         if (!step(part)) {
@@ -132,8 +133,9 @@ bool Walk::missing(const PathPart& part, const QStringList& names)
 {
     const QString text = numbered(part.text(), part.number);
     const QString hint = nameHint(part.text(), names);
-    m_error = m_walked.isEmpty() ? tr("There is no '%1' in the file. %2").arg(text, hint)
-                                 : tr("There is no '%1' in '%2'. %3").arg(text, m_walked, hint);
+    m_error = m_walked.isEmpty()
+                  ? Text::tr("There is no '%1' in the file. %2").arg(text, hint)
+                  : Text::tr("There is no '%1' in '%2'. %3").arg(text, m_walked, hint);
     return false;
 }
 
@@ -179,7 +181,7 @@ bool Walk::stepToFrame(const AnimationNode* animation, const PathPart& part)
             m_node = animation->childAt(unsigned(index));
             return true;
         }
-        m_error = tr("There is no '%1' in '%2': it has %3 frame(s), counted from 0.")
+        m_error = Text::tr("There is no '%1' in '%2': it has %3 frame(s), counted from 0.")
                       .arg(part.text(), m_walked)
                       .arg(animation->childCount());
         return false;
@@ -200,7 +202,7 @@ bool Walk::stepIntoFrame(const FrameNode* frame, const PathPart& part)
             m_node = static_cast<BoxNode*>(box);
             return true;
         }
-        m_error = tr("There is no '%1' in '%2': it has %3 of them, counted from 0.")
+        m_error = Text::tr("There is no '%1' in '%2': it has %3 of them, counted from 0.")
                       .arg(part.text(), m_walked)
                       .arg(boxes->count());
         return false;

@@ -25,10 +25,11 @@ constexpr KeyInfo spriteKey{
     QLatin1String(), Form::Pair,     0, 0, 65535, QLatin1String(), QLatin1String(),
     QLatin1String(), QLatin1String()};
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("Family", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Family)
+};
 
 /// What can be read and written at a node, or one part of it.
 struct Target
@@ -89,7 +90,7 @@ bool writeFrame(FrameNode* frame, const Target& target, const QString& text, QSt
     if (!optionFromText(option, text, &data, error)) {
         return false;
     }
-    *error = tr("The line of the frame cannot be read. Correct it first.");
+    *error = Text::tr("The line of the frame cannot be read. Correct it first.");
     return writeOption(frame, option, data);
 }
 
@@ -98,8 +99,8 @@ bool writeName(const Target& target, const QString& text, QString* error)
     auto* animation = dynamic_cast<AnimationNode*>(target.node);
     const bool identifier = target.part == QLatin1String("identifier");
     if (identifier ? !isAnimationIdentifier(text) : !canQuote(text)) {
-        *error = identifier ? tr("Expected a number or a word; found '%1'.").arg(text)
-                            : tr("Expected a text without control characters.");
+        *error = identifier ? Text::tr("Expected a number or a word; found '%1'.").arg(text)
+                            : Text::tr("Expected a text without control characters.");
         return false;
     }
     if (!animation) {
@@ -107,7 +108,7 @@ bool writeName(const Target& target, const QString& text, QString* error)
     } else if (identifier) {
         animation->setIdentifier(text);
     } else if (animation->identifier().isEmpty()) {
-        *error = tr("The animation has no number or name. Give it one first.");
+        *error = Text::tr("The animation has no number or name. Give it one first.");
         return false;
     } else {
         animation->setName(text);
@@ -125,7 +126,7 @@ bool findTarget(const FamilyDocument* document, const QString& path, Target* tar
     if (!target->part.isEmpty() || target->node->type() == CodeNode::Value) {
         return true;
     }
-    *error = tr("'%1' is a %2, not a value. Name a part of it, as in '%1%3'.")
+    *error = Text::tr("'%1' is a %2, not a value. Name a part of it, as in '%1%3'.")
                  .arg(path, nodeKind(target->node));
     switch (target->node->type()) {
     case CodeNode::Frame:

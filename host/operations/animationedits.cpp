@@ -14,10 +14,11 @@ namespace Family {
 
 namespace {
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("Family::AnimationEdits", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Family::AnimationEdits)
+};
 
 QStringList identifiers(const FamilyAnimations* list)
 {
@@ -36,8 +37,8 @@ int placeOf(const QString& reference, int count, QString* error)
     if (isNumber && place >= 0 && place < count) {
         return place;
     }
-    *error = count == 0 ? tr("There is no animation in the file.")
-                        : tr("There is no animation '%1'. Expected a place from #0 to #%2.")
+    *error = count == 0 ? Text::tr("There is no animation in the file.")
+                        : Text::tr("There is no animation '%1'. Expected a place from #0 to #%2.")
                               .arg(reference)
                               .arg(count - 1);
     return -1;
@@ -53,15 +54,17 @@ int findAnimation(const FamilyAnimations* list, const QString& reference, QStrin
     }
     const int place = all.indexOf(reference);
     if (place < 0) {
-        *error = tr("There is no animation '%1'. %2").arg(reference, nameHint(reference, all));
+        *error =
+            Text::tr("There is no animation '%1'. %2").arg(reference, nameHint(reference, all));
         return -1;
     }
     const int other = all.indexOf(reference, place + 1);
     if (other > 0) {
-        *error = tr("There are several animations '%1'. Name one by its place, '#%2' or '#%3'.")
-                     .arg(reference)
-                     .arg(place)
-                     .arg(other);
+        *error =
+            Text::tr("There are several animations '%1'. Name one by its place, '#%2' or '#%3'.")
+                .arg(reference)
+                .arg(place)
+                .arg(other);
         return -1;
     }
     return place;
@@ -88,13 +91,15 @@ bool duplicateAnimation(FamilyAnimations* list, int index, const QString& identi
                         QString* error)
 {
     if (!isAnimationIdentifier(identifier)) {
-        *error = tr("'%1' cannot name an animation. Write a number, or a word of letters, digits, "
-                    "'_' and '-'.")
-                     .arg(identifier);
+        *error =
+            Text::tr("'%1' cannot name an animation. Write a number, or a word of letters, digits, "
+                     "'_' and '-'.")
+                .arg(identifier);
         return false;
     }
     if (list->indexOfIdentifier(identifier) >= 0) {
-        *error = tr("There is an animation '%1' already. Choose another name.").arg(identifier);
+        *error =
+            Text::tr("There is an animation '%1' already. Choose another name.").arg(identifier);
         return false;
     }
     return list->duplicateAnimation(index, identifier);
@@ -104,7 +109,7 @@ void removeAnimations(FamilyAnimations* list, QVector<int> indexes)
 {
     std::sort(indexes.begin(), indexes.end(), std::greater<int>());
     indexes.erase(std::unique(indexes.begin(), indexes.end()), indexes.end());
-    list->beginChange(tr("Remove animations"));
+    list->beginChange(Text::tr("Remove animations"));
     for (int index : qAsConst(indexes)) {
         if (index >= 0 && index < list->count()) {
             list->remove(unsigned(index));

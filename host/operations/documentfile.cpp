@@ -18,10 +18,11 @@ namespace {
 // A text and its tree take some twenty times the size of the file.
 const qint64 MaxFileSize = qint64(256) * 1024 * 1024;
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("Family::DocumentFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Family::DocumentFile)
+};
 
 // As a person in the current folder would name it.
 QString shownName(const Zorv::CodeDocument* document)
@@ -37,16 +38,17 @@ QString readingObstacle(const QString& fileName)
     const QFileInfo info(fileName);
     const QString shown = QDir::toNativeSeparators(fileName);
     if (fileName.isEmpty()) {
-        return tr("Expected the name of a file; found an empty text.");
+        return Text::tr("Expected the name of a file; found an empty text.");
     }
     if (info.isDir()) {
-        return tr("Cannot open %1: It is a folder. Name a file in it.").arg(shown);
+        return Text::tr("Cannot open %1: It is a folder. Name a file in it.").arg(shown);
     }
     if (info.exists() && !info.isFile()) {
-        return tr("Cannot open %1: It is not a plain file. Name a file on a disk.").arg(shown);
+        return Text::tr("Cannot open %1: It is not a plain file. Name a file on a disk.")
+            .arg(shown);
     }
     if (info.size() > MaxFileSize) {
-        return tr("Cannot open %1: It is larger than %2 MB. Divide it into several files.")
+        return Text::tr("Cannot open %1: It is larger than %2 MB. Divide it into several files.")
             .arg(shown)
             .arg(MaxFileSize / 1024 / 1024);
     }
@@ -60,7 +62,7 @@ QString characterName(const QString& text, int at)
         isPair ? QChar::surrogateToUcs4(text.at(at), text.at(at + 1)) : text.at(at).unicode();
     const QString number = QLatin1String("U+") +
                            QString::number(code, 16).toUpper().rightJustified(4, QLatin1Char('0'));
-    return QChar::isPrint(code) ? tr("'%1' (%2)").arg(text.mid(at, isPair ? 2 : 1), number)
+    return QChar::isPrint(code) ? Text::tr("'%1' (%2)").arg(text.mid(at, isPair ? 2 : 1), number)
                                 : number;
 }
 
@@ -107,19 +109,20 @@ bool ensureFaithful(Zorv::CodeDocument* document)
         return true;
     }
     const int codec = faithfulCodec(document->fileName());
-    const QString title = tr("Encoding");
-    const QString text = tr("%1 does not come back byte for byte from its encoding, %2: saving it "
-                            "would change characters.")
-                             .arg(shownName(document), document->codecName());
+    const QString title = Text::tr("Encoding");
+    const QString text =
+        Text::tr("%1 does not come back byte for byte from its encoding, %2: saving it "
+                 "would change characters.")
+            .arg(shownName(document), document->codecName());
     if (codec < 0) {
         Zorv::Dialogs::instance()->warning(title, text);
         return false;
     }
     const QString name = Zorv::TextCodecs::name(codec);
-    const QStringList choices{tr("Open it in %1").arg(name),
-                              tr("Keep %1").arg(document->codecName())};
+    const QStringList choices{Text::tr("Open it in %1").arg(name),
+                              Text::tr("Keep %1").arg(document->codecName())};
     const int choice = Zorv::Dialogs::instance()->choose(
-        title, tr("%1 It does from %2.").arg(text, name), choices, 0);
+        title, Text::tr("%1 It does from %2.").arg(text, name), choices, 0);
     return choice == 0 &&
            document->fromFile(*document->archive(), document->fileName(), codec, false) &&
            document->isFaithful();
@@ -133,8 +136,9 @@ QString encodingObstacle(const Zorv::CodeDocument* document)
         return {};
     }
     const int line = text.leftRef(at).count(QLatin1Char('\n')) + 1;
-    return tr("%1, line %2: The encoding %3 has no %4. Change the character, or save the file in "
-              "UTF-8.")
+    return Text::tr(
+               "%1, line %2: The encoding %3 has no %4. Change the character, or save the file in "
+               "UTF-8.")
         .arg(shownName(document))
         .arg(line)
         .arg(document->codecName(), characterName(text, at));
@@ -143,7 +147,8 @@ QString encodingObstacle(const Zorv::CodeDocument* document)
 QString lineEndNote(const Zorv::CodeDocument* document)
 {
     return document->hasForeignLineEnds()
-               ? tr("Saving %1 ends each of its lines with a carriage return and a line feed.")
+               ? Text::tr(
+                     "Saving %1 ends each of its lines with a carriage return and a line feed.")
                      .arg(shownName(document))
                : QString();
 }
@@ -153,8 +158,8 @@ Saved saveDocument(Zorv::CodeDocument* document, const QString& fileName, QStrin
     const QString obstacle = encodingObstacle(document);
     const int oldCodec = document->codecId();
     if (!obstacle.isEmpty()) {
-        const QStringList choices{tr("Save it in UTF-8"), tr("Do not save")};
-        if (Zorv::Dialogs::instance()->choose(tr("Encoding"), obstacle, choices, 0) != 0) {
+        const QStringList choices{Text::tr("Save it in UTF-8"), Text::tr("Do not save")};
+        if (Zorv::Dialogs::instance()->choose(Text::tr("Encoding"), obstacle, choices, 0) != 0) {
             return Saved::GivenUp;
         }
         document->setCodec("UTF-8");

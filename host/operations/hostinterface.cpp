@@ -30,6 +30,12 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("sort_file_names"), true},
         {QStringLiteral("backup_onload"), false},
         {QStringLiteral("confirm_delete"), true},
+        {QStringLiteral("recovery_seconds"), 5},
+        {QStringLiteral("language"), QString()},
+        {QStringLiteral("theme"), QString()},
+        {QStringLiteral("font_name"), QString()},
+        {QStringLiteral("font_size"), 0},
+        {QStringLiteral("project_path"), QString()},
         {QStringLiteral("back_start"), QColor(0x60, 0x68, 0x74)},
         {QStringLiteral("back_end"), QColor(0x30, 0x34, 0x3c)},
     };

@@ -23,6 +23,9 @@ public:
     /// Takes itself away, if it is the installed one.
     ~HostInterface() override;
 
+    /// Where settings are stored; null for nowhere.
+    QSettings* settings() const { return m_settings; }
+
     /// What a setting is if nothing else was stored; invalid for an unknown key.
     static QVariant defaultOption(const QString& key);
 

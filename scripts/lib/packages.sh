@@ -7,7 +7,10 @@ packages_build=(
     libuchardet-dev libgif-dev libsamplerate0-dev
 )
 packages_display=(xvfb xauth libgl1-mesa-dri fonts-dejavu-core)
-packages_run=(fonts-droid-fallback)  # the sample game has comments in Japanese
+packages_run=(
+    fonts-droid-fallback   # the sample game has comments in Japanese
+    qttranslations5-l10n   # Qt's own texts in the language of the window
+)
 packages_test=(python3)
 packages_bench=(libkf5syntaxhighlighting-dev)
 packages_fuzz=(clang libclang-rt-14-dev)

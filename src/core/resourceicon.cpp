@@ -32,6 +32,9 @@ QIcon resourceIcon(const QString& path)
     QIcon& icon = icons()[path];
     if (icon.isNull()) {
         icon = QIcon(path);
+        // Qt finds the picture for twice the pixels by itself, and knows no other.
+        icon.addFile(QString(path).insert(path.lastIndexOf(QLatin1Char('.')),
+                                          QLatin1String("@1.5x")));
     }
     return icon;
 }

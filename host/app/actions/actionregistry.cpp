@@ -2,6 +2,7 @@
 
 #include "app/controls/activeareas.h"
 #include "app/controls/areagate.h"
+#include "app/look/icon.h"
 #include "core/interface.h"
 
 #include <QAction>
@@ -37,7 +38,7 @@ void setIcon(QAction* action, const QString& name)
 {
     const QString file = QStringLiteral(":/icons/icons/%1.png").arg(name);
     if (action->icon().isNull() && QFile::exists(file)) {
-        action->setIcon(QIcon(file));
+        action->setIcon(icon(file));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "app/actions/actiontable.h"
 
 #include "app/mainwindow.h"
+#include "app/settings/showsettings.h"
 
 namespace App {
 
@@ -52,6 +53,8 @@ const QVector<ActionRow>& actionTable()
 
         {"anim_add",       "anim", QT_TRANSLATE_NOOP("App::Actions", "&Add"),                   NoKey,        "Ctrl+Shift+A", NeedsText,       call<&W::addAnimation>},
         {"anim_duplicate", "anim", QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"),             NoKey,        "Ctrl+Shift+D", NeedsAnimation,  call<&W::duplicateAnimation>},
+        {nullptr,          "edit", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"settings",       "edit", QT_TRANSLATE_NOOP("App::Actions", "Setti&ngs..."),           NoKey,        "Ctrl+,",       NoNeed,          showSettings},
         {"anim_remove",    "anim", QT_TRANSLATE_NOOP("App::Actions", "&Remove"),                NoKey,        "Ctrl+Shift+R", NeedsAnimation,  call<&W::removeAnimations>},
         {nullptr,          "anim", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"anim_up",        "anim", QT_TRANSLATE_NOOP("App::Actions", "Move &up"),               NoKey,        "Alt+Up",       NeedsAnimation,  call<&W::moveAnimationUp>},

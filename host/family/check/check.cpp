@@ -15,10 +15,11 @@ namespace Family {
 
 namespace {
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("Family", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Family)
+};
 
 /// The game that a main file is part of: the folder above "characters" or
 /// "stages", else its own.
@@ -90,7 +91,7 @@ Problems checkGame(const QString& gameFolder, QString* error)
     const QFileInfo given(gameFolder);
     error->clear();
     if (!given.exists()) {
-        *error = tr("There is no file or folder '%1'.").arg(gameFolder);
+        *error = Text::tr("There is no file or folder '%1'.").arg(gameFolder);
         return {};
     }
     if (!given.isDir()) {
@@ -100,8 +101,8 @@ Problems checkGame(const QString& gameFolder, QString* error)
     }
     const QStringList mainFiles = FamilyParentProject::mainFiles(gameFolder);
     if (mainFiles.isEmpty()) {
-        *error = tr("There is no character or stage in '%1'. Expected files such as "
-                    "'characters/hero/hero.character'.")
+        *error = Text::tr("There is no character or stage in '%1'. Expected files such as "
+                          "'characters/hero/hero.character'.")
                      .arg(gameFolder);
         return {};
     }

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "code/codedoc/codeparsersyntax.h"
+
+#include <QColor>
+#include <QPalette>
+#include <QString>
+#include <QVector>
+
+namespace App {
+
+/// The colours of the window, light or dark. Every colour that is drawn is the palette's or
+/// stands here, in both sets, with enough contrast to be read.
+class Theme
+{
+public:
+    enum Kind { Light, Dark };
+
+    /// What has a colour that no role of a palette stands for.
+    enum Colour {
+        CurrentLine,  ///< ground of the line with the cursor
+        ErrorText,    ///< a text that tells of something wrong
+        AddedLine,    ///< ground of a line that came, in a comparison
+        RemovedLine,  ///< ground of a line that went
+        ColourCount
+    };
+
+    /// The kind that a setting means: "light", "dark", and anything else for that of the system.
+    static Kind kindOf(const QString& setting);
+
+    static QPalette palette(Kind kind);
+    static QColor colour(Kind kind, Colour colour);
+    static QColor token(Kind kind, Zorv::CodeParserSyntax::TokenType type);
+
+    /// Gives the application the style and the colours, and documents the colours of tokens.
+    /// Texts that are coloured already keep them until they are highlighted again.
+    static void use(Kind kind);
+
+    /// Light before `use()`.
+    static Kind current();
+
+    /// A colour of the theme in use.
+    static QColor colour(Colour which) { return colour(current(), which); }
+};
+
+}  // namespace App

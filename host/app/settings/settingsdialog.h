@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDialog>
+#include <QVector>
+
+class QAbstractButton;
+class QDialogButtonBox;
+class QListWidget;
+class QStackedWidget;
+
+namespace App {
+
+class ActionRegistry;
+class SettingsPage;
+
+/// The dialog of all settings: pages of the table, engines, keys. Nothing counts before it is
+/// applied.
+class SettingsDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// The registry is not owned and must outlive the dialog.
+    explicit SettingsDialog(ActionRegistry* registry, QWidget* parent = nullptr);
+
+    void accept() override;
+
+signals:
+    /// Settings were stored, and are to be taken.
+    void applied();
+
+private:
+    void addPage(SettingsPage* page);
+    void retranslate();
+    bool apply();
+    void restoreDefaults();
+    void setEdited(bool isEdited);
+
+    QListWidget* m_titles;
+    QStackedWidget* m_stack;
+    QDialogButtonBox* m_buttons;
+    QVector<SettingsPage*> m_pages;
+    bool m_isEdited = false;
+};
+
+}  // namespace App

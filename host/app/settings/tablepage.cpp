@@ -1,0 +1,89 @@
+#include "app/settings/tablepage.h"
+
+#include "app/look/language.h"
+#include "app/settings/settingfield.h"
+#include "app/settings/settingtable.h"
+#include "operations/hostinterface.h"
+
+#include <QFormLayout>
+#include <QLabel>
+
+namespace App {
+
+TablePage::TablePage(const SettingPageRow& page, QWidget* parent)
+    : SettingsPage(parent), m_page(page)
+{
+    new QFormLayout(this);
+    for (const SettingRow& row : settingTable()) {
+        if (qstrcmp(row.page, page.name) == 0) {
+            addLine(row);
+        }
+    }
+    followLanguage(this, [this] { retranslate(); });
+}
+
+TablePage::~TablePage() = default;
+
+void TablePage::addLine(const SettingRow& row)
+{
+    auto* form = static_cast<QFormLayout*>(layout());
+    Line line{row, nullptr, SettingField::make(row, this)};
+    QWidget* widget = line.field->widget();
+    widget->setObjectName(QLatin1String(row.key));
+    if (row.kind == SettingRow::Switch) {
+        form->addRow(widget);
+    } else {
+        line.label = new QLabel(this);
+        line.label->setBuddy(widget);
+        form->addRow(line.label, widget);
+    }
+    connect(line.field.get(), &SettingField::edited, this, &SettingsPage::edited);
+    m_lines.push_back(std::move(line));
+}
+
+void TablePage::retranslate()
+{
+    for (const Line& line : m_lines) {
+        line.field->retranslate();
+        if (line.label) {
+            line.label->setText(settingText(line.row.label));
+        }
+    }
+}
+
+QString TablePage::title() const
+{
+    return settingText(m_page.title);
+}
+
+void TablePage::read()
+{
+    for (const Line& line : m_lines) {
+        line.field->setValue(Zorv::Interface::instance()->option(QLatin1String(line.row.key)));
+    }
+}
+
+/// A setting that is as at first is not stored: a later version may know a better default.
+bool TablePage::write(QString*)
+{
+    Zorv::Interface* host = Zorv::Interface::instance();
+    for (const Line& line : m_lines) {
+        const QString key = QLatin1String(line.row.key);
+        const QVariant value = line.field->value();
+        if (value != host->option(key)) {
+            const bool isDefault = value == Family::HostInterface::defaultOption(key);
+            host->setOption(key, isDefault ? QVariant() : value);
+        }
+    }
+    return true;
+}
+
+void TablePage::restoreDefaults()
+{
+    for (const Line& line : m_lines) {
+        line.field->setValue(Family::HostInterface::defaultOption(QLatin1String(line.row.key)));
+    }
+    emit edited();
+}
+
+}  // namespace App
