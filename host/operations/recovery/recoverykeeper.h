@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+namespace Family {
+
+class FamilyDocument;
+
+/// Puts unsaved texts aside, outside of the files of any game, so that they
+/// outlive a crash.
+///
+/// A text that has changed is copied at most once an interval; it is taken
+/// at once and written by another thread, to a new file that takes the place of
+/// the last copy when it is whole. The copy of a text goes when that is saved,
+/// read again, or closed. Main thread only.
+class RecoveryKeeper : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Keeps copies below `root`; the folder is made with the first copy. The
+    /// interval is that of the setting "recovery_seconds" at first.
+    explicit RecoveryKeeper(const QString& root, QObject* parent = nullptr);
+
+    /// Removes all copies: whoever ends the program has asked about unsaved work.
+    ~RecoveryKeeper() override;
+
+    /// In milliseconds; 0 keeps no copies.
+    void setInterval(int interval);
+    int interval() const;
+
+    /// Follows a document until it dies; nothing for one that is known. Call it
+    /// before the document changes: what its file is then tells later whether
+    /// the copy is older than the file.
+    void watch(FamilyDocument* document);
+
+    /// Copies now what has changed, and waits until it is written. True if every
+    /// unsaved text has a copy then.
+    bool flush();
+
+    /// Where the copies are; empty before the first one.
+    QString folder() const;
+
+signals:
+    /// All that had changed at the last turn is on the disk.
+    void copied();
+
+    /// A copy could not be written. Comes once until one can; the attempts go on.
+    void failed(const QString& reason);
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+}  // namespace Family
