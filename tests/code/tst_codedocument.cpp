@@ -4,6 +4,7 @@
 
 #include "code/codecs/textcodecs.h"
 #include "code/codedoc/codeblockdata.h"
+#include "code/codedoc/editordata.h"
 #include "core/filesystemarchive.h"
 #include "core/messages.h"
 
@@ -134,6 +135,7 @@ private slots:
     void messagesAreToldOnce();
     void fullParseInsideChange_data();
     void fullParseInsideChange();
+    void editorDataEnds();
     void parenthesesAndTokens();
     void releaseDisposesOfAll();
     void hugeLinesAndManyEmptyOnes();
@@ -490,6 +492,27 @@ void CodeDocumentTest::fullParseInsideChange()
     document.insert(QStringLiteral("?d\n[2]"));
     document.endChange();
     QCOMPARE(document.dump(), GrammarDocument(document.text()).dump());
+}
+
+/// What an editor keeps goes with its document, or when something else takes its place.
+void CodeDocumentTest::editorDataEnds()
+{
+    struct State : EditorData
+    {
+        explicit State(int& count) : alive(count) { ++alive; }
+        ~State() override { --alive; }
+        int& alive;
+    };
+    int alive = 0;
+    {
+        GrammarDocument document;
+        QVERIFY(!document.editorData());
+        document.setEditorData(std::make_unique<State>(alive));
+        document.setEditorData(std::make_unique<State>(alive));
+        QVERIFY(document.editorData());
+        QCOMPARE(alive, 1);
+    }
+    QCOMPARE(alive, 0);
 }
 
 void CodeDocumentTest::parenthesesAndTokens()

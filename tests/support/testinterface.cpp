@@ -1,5 +1,9 @@
 #include "support/testinterface.h"
 
+#include "support/testcontrols.h"
+
+#include "text/translator.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QWidget>
@@ -139,10 +143,20 @@ void TestInterface::showStatus(int field, const QString& text)
     statuses.append({field, text});
 }
 
-QObject* TestInterface::addControl(const QString& name, const Zorv::Control&)
+QObject* TestInterface::addControl(const QString& name, const Zorv::Control& control)
 {
     record("addControl", {name});
-    return nullptr;
+    if (!m_controls) {
+        m_controls = std::make_unique<TestControls>();
+    }
+    QWidget* widget = m_controls->add(name, control);
+    controls[name] = widget;
+    return widget;
+}
+
+QWidget* TestInterface::controlsWindow() const
+{
+    return m_controls.get();
 }
 
 QMenu* TestInterface::menu(const char* name) const
@@ -150,19 +164,21 @@ QMenu* TestInterface::menu(const char* name) const
     return menus.value(name);
 }
 
-QAction* TestInterface::createAction(const char* const*, const QString& name, Zorv::Translator*,
-                                     unsigned, const char* shortcut, QObject* receiver,
-                                     const char* slot, const char* enableSignal,
-                                     const char* checkSignal)
+QAction* TestInterface::createAction(const char* const* areas, const QString& name,
+                                     Zorv::Translator* translator, unsigned textId,
+                                     const char* shortcut, QObject* receiver, const char* slot,
+                                     const char* enableSignal, const char* checkSignal)
 {
     record("createAction", {name});
-    auto* action = new QAction(name, &m_owner);
-    action->setObjectName(name);
+    QAction* action = makeAction(name, translator, textId);
+    for (const char* const* area = areas; area && *area; ++area) {
+        areasOf[name].append(QString::fromLatin1(*area));
+    }
     if (shortcut) {
         action->setShortcut(QKeySequence(QString::fromLatin1(shortcut)));
     }
     if (receiver && slot) {
-        QObject::connect(action, SIGNAL(triggered()), receiver, slot);
+        QObject::connect(action, SIGNAL(triggered(bool)), receiver, slot);
     }
     if (receiver && enableSignal) {
         QObject::connect(receiver, enableSignal, action, SLOT(setEnabled(bool)));
@@ -174,10 +190,20 @@ QAction* TestInterface::createAction(const char* const*, const QString& name, Zo
     return action;
 }
 
-QAction* TestInterface::createEditorAction(const QString& name, Zorv::Translator*, unsigned)
+QAction* TestInterface::createEditorAction(const QString& name, Zorv::Translator* translator,
+                                           unsigned textId)
 {
     record("createEditorAction", {name});
-    return new QAction(name, &m_owner);
+    return makeAction(name, translator, textId);
+}
+
+QAction* TestInterface::makeAction(const QString& name, Zorv::Translator* translator,
+                                   unsigned textId)
+{
+    auto* action = new QAction(translator ? translator->trText(textId) : name, &m_owner);
+    action->setObjectName(name);
+    actions[name] = action;
+    return action;
 }
 
 void TestInterface::setMenuEnabled(const char* menu, const char* group, bool enabled)

@@ -8,6 +8,10 @@
 #include <QPair>
 #include <QPointer>
 
+#include <memory>
+
+class TestControls;
+
 /// A host that writes down what the library asks of it.
 ///
 /// It installs itself and takes itself away. Everything is a public member, to
@@ -39,10 +43,17 @@ public:
     Zorv::Project* frontProject = nullptr;
     QStringList paletteFiles, paletteNames;  ///< the answer of selectPaletteFiles()
 
+    QMap<QString, QAction*> actions;            ///< those that were asked for, by name
+    QMap<QString, QStringList> areasOf;         ///< and where they apply
+    QMap<QString, QPointer<QWidget>> controls;  ///< the widgets made of published controls
+
     QStringList calls;                    ///< names of the calls that change something
     QList<QPair<int, QString>> statuses;  ///< each showStatus()
     QList<Progress> progresses;
     int refreshCount = 0;
+
+    /// The window that holds all controls, null before the first.
+    QWidget* controlsWindow() const;
 
     /// The last text of a field of the status bar.
     QString status(int field) const;
@@ -79,5 +90,8 @@ public:
 private:
     void record(const char* call, const QStringList& arguments = {});
 
+    QAction* makeAction(const QString& name, Zorv::Translator* translator, unsigned textId);
+
     QObject m_owner;  ///< of the actions that were made
+    std::unique_ptr<TestControls> m_controls;
 };

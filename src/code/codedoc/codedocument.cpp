@@ -233,8 +233,6 @@ quint64 CodeDocument::parsedLineCount() const
     return d->parsedLines;
 }
 
-EditorData::~EditorData() = default;
-
 EditorData* CodeDocument::editorData() const
 {
     return d->editorData.get();

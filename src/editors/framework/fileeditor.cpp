@@ -25,7 +25,7 @@ struct Filters
 
     explicit Filters(const QString& text)
     {
-        const QStringList items = text.split(QLatin1Char(';'), Qt::SkipEmptyParts);
+        const QStringList items = text.split(QLatin1Char(';'));
         for (int i = 0; i + 1 < items.size(); i += 2) {
             labels.append(items.at(i));
             extensions.append(items.at(i + 1));
@@ -49,11 +49,14 @@ struct Filters
     }
 };
 
-// A project remembers the folder for each kind of file.
 QString startFolder(const ProjectFile& file, const QString& key)
 {
-    const QString folder = file.option(key).toString();
-    return folder.isEmpty() ? file.option(QStringLiteral("project_path")).toString() : folder;
+    const Project* project = file.project();
+    const auto option = [&](const QString& name) {
+        return (project ? project->option(name) : file.option(name)).toString();
+    };
+    const QString folder = option(key);
+    return folder.isEmpty() ? option(QStringLiteral("project_path")) : folder;
 }
 
 void rememberFolder(const ProjectFile& file, const QString& key, const QString& fileName)

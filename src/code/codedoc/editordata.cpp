@@ -1,0 +1,7 @@
+#include "code/codedoc/editordata.h"
+
+namespace Zorv {
+
+EditorData::~EditorData() = default;
+
+}  // namespace Zorv
