@@ -78,6 +78,27 @@ bool areArgumentsText(char** argv, const QStringList& arguments)
     return true;
 }
 
+/// A variable of the environment with another value for a while.
+class ChangedVariable
+{
+public:
+    ChangedVariable(const char* name, const QByteArray& value) : m_name(name), m_old(qgetenv(name))
+    {
+        set(value);
+    }
+
+    void restore() const { set(m_old); }
+
+private:
+    void set(const QByteArray& value) const
+    {
+        value.isNull() ? qunsetenv(m_name) : qputenv(m_name, value);
+    }
+
+    const char* m_name;
+    QByteArray m_old;
+};
+
 int runOnCommandLine(char** argv, const QStringList& arguments)
 {
     if (!areArgumentsText(argv, arguments)) {
@@ -85,11 +106,14 @@ int runOnCommandLine(char** argv, const QStringList& arguments)
     }
     // A document measures its text with fonts, so Qt needs a platform; this one
     // has neither display nor fonts, and asks no desktop for anything.
-    qputenv("QT_QPA_PLATFORM", "minimal");
-    qunsetenv("QT_QPA_PLATFORMTHEME");
+    const ChangedVariable platform("QT_QPA_PLATFORM", "minimal");
+    const ChangedVariable theme("QT_QPA_PLATFORMTHEME", QByteArray());
     // The arguments are not Qt's.
     int argc = 1;
     QGuiApplication application(argc, argv);
+    // An engine that is started may have a window.
+    platform.restore();
+    theme.restore();
     return Cli::runCommand(arguments);
 }
 

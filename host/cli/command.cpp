@@ -54,6 +54,13 @@ constexpr Command table[] = {
     {"anim sort", "FILE", 1, 1, Editing, sortAnimations,
      "Sort the animations.",
      "Numbers are sorted by value, words without regard to case."},
+    {"run", "FILE...", 1, Command::Any, Command::Engine, runInEngine,
+     "Start an engine on characters and stages.",
+     "Each FILE is a main file (.character, .stage). Copies of the projects are put beside the\n"
+     "engine, and removed when it has ended. The engine is that of the game folder, else the\n"
+     "one that --engine names, a name of the settings or a program, else that of the settings.\n"
+     "In the parameters %0 is the first FILE, %1 the first too, %2 the second and so on. What\n"
+     "the engine prints goes to standard output, and its status is that of the command."},
     {"help", "[COMMAND]", 0, 2, Command::NoOptions, helpCommand,
      "Print what there is, or all about a command.",
      "'zorv COMMAND --help' does the same."},
@@ -69,6 +76,43 @@ bool parseEncoding(const QString& name, Invocation* invocation, QString* error)
                      .arg(name);
     }
     return invocation->codec != 0;
+}
+
+/// The text of an option that stands behind it.
+bool takeText(const QStringList& arguments, int* index, QString* text, QString* error)
+{
+    if (++*index == arguments.size()) {
+        *error = tr("Expected a text behind '%1'.").arg(arguments.last());
+        return false;
+    }
+    *text = arguments.at(*index);
+    return true;
+}
+
+/// Takes the option that stands at `*index`, with what belongs to it.
+bool parseOption(const Command& command, const QStringList& arguments, int* index,
+                 Invocation* invocation, QString* error)
+{
+    const QString& name = arguments.at(*index);
+    const auto is = [&](Command::Option option, const char* text) {
+        return (command.options & option) && name == QLatin1String(text);
+    };
+    if (is(Command::Json, "--json")) {
+        invocation->json = true;
+    } else if (is(Command::DryRun, "--dry-run")) {
+        invocation->dryRun = true;
+    } else if (is(Command::Encoding, "--encoding")) {
+        return parseEncoding(arguments.value(++*index), invocation, error);
+    } else if (is(Command::Engine, "--engine")) {
+        return takeText(arguments, index, &invocation->engine, error);
+    } else if (is(Command::Engine, "--parameters")) {
+        return takeText(arguments, index, &invocation->parameters, error);
+    } else {
+        *error = tr("'%1' has no option '%2'. Write '--' in front of a text that begins so.")
+                     .arg(QLatin1String(command.name), name);
+        return false;
+    }
+    return true;
 }
 
 bool checkOperands(const Command& command, const Invocation& invocation, QString* error)
@@ -99,6 +143,9 @@ QString Command::usage() const
     }
     if (options & Encoding) {
         text += QLatin1String(" [--encoding NAME]");
+    }
+    if (options & Engine) {
+        text += QLatin1String(" [--engine NAME] [--parameters TEXT]");
     }
     return text;
 }
@@ -132,18 +179,7 @@ bool parseArguments(const Command& command, const QStringList& arguments, Invoca
             invocation->operands.append(argument);
         } else if (argument == QLatin1String("--")) {
             readsOptions = false;
-        } else if ((command.options & Command::Json) && argument == QLatin1String("--json")) {
-            invocation->json = true;
-        } else if ((command.options & Command::DryRun) && argument == QLatin1String("--dry-run")) {
-            invocation->dryRun = true;
-        } else if ((command.options & Command::Encoding) &&
-                   argument == QLatin1String("--encoding")) {
-            if (!parseEncoding(arguments.value(++i), invocation, error)) {
-                return false;
-            }
-        } else {
-            *error = tr("'%1' has no option '%2'. Write '--' in front of a text that begins so.")
-                         .arg(QLatin1String(command.name), argument);
+        } else if (!parseOption(command, arguments, &i, invocation, error)) {
             return false;
         }
     }

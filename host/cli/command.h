@@ -13,13 +13,15 @@ struct Invocation
     QStringList operands;
     bool json = false;
     bool dryRun = false;
-    int codec = -1;  ///< of `Zorv::TextCodecs`; negative to detect
+    int codec = -1;      ///< of `Zorv::TextCodecs`; negative to detect
+    QString engine;      ///< null if none was named
+    QString parameters;  ///< for the engine; null if none were given
 };
 
 /// One command: a row of the table.
 struct Command
 {
-    enum Option { NoOptions = 0, Json = 1, DryRun = 2, Encoding = 4 };
+    enum Option { NoOptions = 0, Json = 1, DryRun = 2, Encoding = 4, Engine = 8 };
     static constexpr int Any = 1000000;
 
     const char* name;      ///< one or two words
@@ -55,6 +57,7 @@ int duplicateAnimation(const Invocation& invocation, Output& output);
 int moveAnimation(const Invocation& invocation, Output& output);
 int removeAnimations(const Invocation& invocation, Output& output);
 int sortAnimations(const Invocation& invocation, Output& output);
+int runInEngine(const Invocation& invocation, Output& output);
 int helpCommand(const Invocation& invocation, Output& output);
 
 }  // namespace Cli

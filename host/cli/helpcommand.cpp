@@ -35,11 +35,15 @@ QString overview()
               "Options:\n"
               "  --json            (check, tree, anim list) print JSON\n"
               "  --dry-run         (set, anim) print the difference, write nothing\n"
-              "  --encoding NAME   (all but check) the encoding of FILE, instead of the one that\n"
-              "                    seems to be in use; it is kept when FILE is written\n"
+              "  --encoding NAME   (tree, get, set, anim) the encoding of FILE, instead of the "
+              "one\n"
+              "                    that seems to be in use; it is kept when FILE is written\n"
+              "  --engine NAME     (run) an engine of the settings, or a program\n"
+              "  --parameters TEXT (run) what the engine gets, with %0, %1 for the projects\n"
               "  --                what follows is no option\n"
               "\n"
-              "Status: 0 fine, 1 problems found, 2 wrong usage, 3 the work could not be done.\n");
+              "Status: 0 fine, 1 problems found, 2 wrong usage, 3 the work could not be done.\n"
+              "That of 'run' is the status of the engine.\n");
 }
 
 QString details(const Command& command)

@@ -34,6 +34,13 @@ void Output::writeLine(const QStringList& columns)
     write(shown.join(QLatin1Char('\t')) + QLatin1Char('\n'));
 }
 
+bool Output::writeBytes(const QByteArray& bytes)
+{
+    m_pending += bytes;
+    flush();
+    return !m_failed;
+}
+
 bool Output::finish()
 {
     flush();

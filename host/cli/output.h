@@ -18,6 +18,9 @@ public:
     /// Writes texts with a tab between and a line end, each as `printable()`.
     void writeLine(const QStringList& columns);
 
+    /// Writes bytes as they are, at once. False if any byte did not arrive.
+    bool writeBytes(const QByteArray& bytes);
+
     /// Writes what is still gathered. False if any byte did not arrive.
     bool finish();
 

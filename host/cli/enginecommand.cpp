@@ -1,0 +1,287 @@
+#include "cli.h"
+#include "command.h"
+#include "core/dialogs/dialogs.h"
+#include "family/check/check.h"
+#include "family/project/familyenginemodel.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "operations/engines.h"
+#include "operations/hostinterface.h"
+#include "output.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <algorithm>
+#include <csignal>
+#include <map>
+#include <memory>
+
+namespace Cli {
+
+namespace {
+
+using Family::FamilyParentProject;
+using Family::FamilyProject;
+using Zorv::EngineInfo;
+using Zorv::RunResult;
+
+constexpr int SignalStatus = 128;
+constexpr int PollMilliseconds = 20;
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Cli)
+};
+
+volatile std::sig_atomic_t s_signal = 0;
+
+/// While it lives, a signal that asks the program to end is only noted.
+class NotedSignals
+{
+public:
+    NotedSignals()
+    {
+        for (int i = 0; i < Count; ++i) {
+            m_old[i] = std::signal(numbers[i], [](int number) { s_signal = number; });
+        }
+    }
+
+    ~NotedSignals()
+    {
+        for (int i = 0; i < Count; ++i) {
+            std::signal(numbers[i], m_old[i]);
+        }
+    }
+
+private:
+    Q_DISABLE_COPY(NotedSignals)
+    static constexpr int Count = 3;
+    static constexpr int numbers[Count] = {SIGINT, SIGTERM, SIGHUP};
+    void (*m_old[Count])(int);
+};
+
+/// The projects of the command, each in its game.
+class RunHost final : public Family::HostInterface
+{
+public:
+    ~RunHost() override
+    {
+        for (FamilyProject* project : qAsConst(m_projects)) {
+            project->release();
+            delete project;
+        }
+    }
+
+    bool open(const QString& mainFile, QString* error);
+    FamilyParentProject* game() const
+    {
+        return static_cast<FamilyParentProject*>(m_projects.first()->parent());
+    }
+
+    unsigned projectCount() const override { return unsigned(m_projects.size()); }
+    Zorv::Project* projectAt(unsigned index) const override { return m_projects.value(int(index)); }
+    Zorv::Project* currentProject() const override { return m_projects.value(0); }
+
+private:
+    std::map<QString, std::unique_ptr<FamilyParentProject>> m_games;
+    QList<FamilyProject*> m_projects;
+};
+
+bool RunHost::open(const QString& mainFile, QString* error)
+{
+    if (!QFileInfo(mainFile).isFile()) {
+        *error = Text::tr("There is no file '%1'.").arg(mainFile);
+        return false;
+    }
+    const QString folder = Family::checkedFolder(mainFile);
+    if (folder.isEmpty()) {
+        *error = Text::tr("'%1' is no main file. Expected one such as 'hero.character' or "
+                          "'yard.stage'.")
+                     .arg(mainFile);
+        return false;
+    }
+    auto& game = m_games[folder];
+    if (!game) {
+        game = std::make_unique<FamilyParentProject>(folder);
+    }
+    const QString path = QFileInfo(mainFile).absoluteFilePath();
+    FamilyProject* project = FamilyProject::open(game.get(), path, error);
+    if (!project) {
+        return false;
+    }
+    m_projects.append(project);
+    for (const QString& problem : project->loadErrors()) {
+        complain(problem);
+    }
+    return true;
+}
+
+/// Passes messages on until the engine has ended: how that went is told in other words.
+class RunDialogs final : public Zorv::Dialogs
+{
+public:
+    RunDialogs() : m_outer(instance()) { setInstance(this); }
+    ~RunDialogs() override { setInstance(m_outer); }
+
+    void setQuiet() { m_quiet = true; }
+
+    Button warning(const QString& title, const QString& text, Buttons buttons,
+                   Button defaultButton) override
+    {
+        return m_outer->warning(title, text, buttons, defaultButton);
+    }
+
+    void error(const QString& title, const QString& text) override
+    {
+        if (!m_quiet) {
+            m_outer->error(title, text);
+        }
+    }
+
+    int runTarget(QWidget* parent, QAbstractItemModel* model, unsigned row,
+                  QRect* geometry) override
+    {
+        return m_outer->runTarget(parent, model, row, geometry);
+    }
+
+private:
+    Zorv::Dialogs* m_outer;
+    bool m_quiet = false;
+};
+
+QString programPath(const QString& name)
+{
+    return QFileInfo(name).isFile() ? QFileInfo(name).absoluteFilePath()
+                                    : QStandardPaths::findExecutable(name);
+}
+
+/// The engine that `--engine` names: a configured one, else a program.
+bool findEngine(const QString& name, const FamilyParentProject* game, int kind,
+                QVector<EngineInfo>* engines, QString* error)
+{
+    const auto named = std::find_if(engines->cbegin(), engines->cend(),
+                                    [&name](const EngineInfo& e) { return e.name == name; });
+    if (named != engines->cend()) {
+        *engines = {*named};
+        return true;
+    }
+    const QString path = programPath(name);
+    if (path.isEmpty()) {
+        *error = Text::tr("There is no engine '%1', neither in the settings nor as a program.")
+                     .arg(name);
+        return false;
+    }
+    *engines = {{name, path, game->runParameters(kind), {}}};
+    return true;
+}
+
+/// Puts the engines that come into question into the model. The game's own goes before them.
+bool chooseEngines(const Invocation& invocation, const RunHost& host, QString* error)
+{
+    const FamilyParentProject* game = host.game();
+    if (game->isGame()) {
+        if (!invocation.engine.isNull() || !invocation.parameters.isNull()) {
+            complain(Text::tr("The game has an engine of its own, '%1', which is started.")
+                         .arg(game->engineModel()->executableName()));
+        }
+        return true;
+    }
+    QSettings settings;
+    QVector<EngineInfo> engines = Family::loadEngines(settings);
+    if (!invocation.engine.isNull() &&
+        !findEngine(invocation.engine, game, host.currentProject()->kind(), &engines, error)) {
+        return false;
+    }
+    for (EngineInfo& engine : engines) {
+        engine.parameters =
+            invocation.parameters.isNull() ? engine.parameters : invocation.parameters;
+    }
+    if (engines.isEmpty()) {
+        *error = Text::tr("No engine is configured. Name a program with '--engine'.");
+    } else if (engines.size() == 1) {
+        *error = Family::engineProblem(engines.first());
+    }
+    Family::FamilyEngineModel::instance()->setEngines(engines);
+    return error->isEmpty();
+}
+
+/// Says what went wrong; gives the status.
+int tell(const RunResult& result)
+{
+    for (const QString& file : result.failedFiles) {
+        complain(Text::tr("The engine did not get the file '%1': it cannot be copied.").arg(file));
+    }
+    for (const QString& path : result.leftCopies) {
+        complain(Text::tr("Cannot remove '%1', a copy for the engine. Remove it.").arg(path));
+    }
+    switch (result.outcome) {
+    case RunResult::Ended:
+        return result.exitCode == Fine && !result.failedFiles.isEmpty() ? int(NotDone)
+                                                                        : result.exitCode;
+    case RunResult::NotStarted:
+        complain(result.program.isEmpty()
+                     ? Text::tr("'%1' is no program of this system, and there is no 'wine'.")
+                           .arg(result.arguments.value(0))
+                     : Text::tr("Cannot start '%1'. Check that it may be executed.")
+                           .arg(result.program));
+        return NotDone;
+    case RunResult::Crashed:
+        if (s_signal == 0) {
+            complain(Text::tr("The engine '%1' has crashed.").arg(result.program));
+        }
+        break;
+    default:
+        break;
+    }
+    return s_signal == 0 ? int(NotDone) : SignalStatus + s_signal;
+}
+
+int runEngine(FamilyParentProject* game, Output& output)
+{
+    const NotedSignals signalsNoted;
+    RunDialogs dialogs;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, game, [game] {
+        if (s_signal != 0) {
+            game->stopEngine();
+        }
+    });
+    QObject::connect(game, &Zorv::ParentProject::engineOutput, &poll,
+                     [game, &output](const QByteArray& bytes) {
+                         if (!output.writeBytes(bytes)) {
+                             game->stopEngine();
+                         }
+                     });
+    QObject::connect(game, &Zorv::ParentProject::engineFinished, &poll,
+                     [&dialogs] { dialogs.setQuiet(); });
+    poll.start(PollMilliseconds);
+    game->run();
+    return tell(game->runResult());
+}
+
+}  // namespace
+
+int runInEngine(const Invocation& invocation, Output& output)
+{
+    RunHost host;
+    setGlobalInterface(&host);
+    QString error;
+    for (const QString& file : invocation.operands) {
+        if (!host.open(file, &error)) {
+            complain(error);
+            return NotDone;
+        }
+    }
+    if (!chooseEngines(invocation, host, &error)) {
+        complain(error);
+        return NotDone;
+    }
+    return runEngine(host.game(), output);
+}
+
+}  // namespace Cli
