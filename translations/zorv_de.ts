@@ -1,295 +1,447 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de" sourcelanguage="en">
+<TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
     <name>App::Actions</name>
     <message>
         <source>&amp;Open game folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spielordner öffnen ...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save a&amp;ll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles speichern</translation>
     </message>
     <message>
         <source>&amp;Close text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text &amp;schließen</translation>
     </message>
     <message>
         <source>Close &amp;project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Projekt schließen</translation>
     </message>
     <message>
         <source>Close &amp;game folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielordner s&amp;chließen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ausschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles au&amp;swählen</translation>
     </message>
     <message>
         <source>&amp;Go to line...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gehe zu Zeile ...</translation>
     </message>
     <message>
         <source>&amp;Encoding...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ko&amp;dierung ...</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Duplizieren</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>Move &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>Move do&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>&amp;Sort automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch &amp;sortieren</translation>
     </message>
     <message>
         <source>&amp;Next panel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächster Bereich</translation>
     </message>
     <message>
         <source>&amp;Previous panel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriger Bereich</translation>
     </message>
     <message>
         <source>Next te&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster &amp;Text</translation>
     </message>
     <message>
         <source>Previous t&amp;ext</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriger Te&amp;xt</translation>
     </message>
     <message>
         <source>&amp;Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tasten</translation>
     </message>
     <message>
         <source>&amp;About Zorv</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Über Zorv</translation>
+    </message>
+    <message>
+        <source>Setti&amp;ngs...</source>
+        <translation>E&amp;instellungen ...</translation>
     </message>
 </context>
 <context>
     <name>App::AnimationPanel</name>
     <message>
         <source>Animations of the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationen des Textes</translation>
     </message>
     <message>
         <source>Add animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation hinzufügen</translation>
     </message>
     <message>
         <source>Duplicate animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation duplizieren</translation>
     </message>
     <message>
         <source>Remove animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationen entfernen</translation>
     </message>
     <message>
         <source>Sort animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationen sortieren</translation>
     </message>
     <message>
         <source>Move animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation verschieben</translation>
     </message>
 </context>
 <context>
     <name>App::AnimationRows</name>
     <message>
         <source>Move animations</source>
+        <translation>Animationen verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>App::BackupNameDialog</name>
+    <message>
+        <source>Manual</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;With the projects that are not open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name of the backup:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>App::Bars</name>
+    <message>
+        <source>Main</source>
+        <translation>Haupt-Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Editors</source>
+        <translation>Editoren</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation>Bühne</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Einzelbild</translation>
+    </message>
+    <message>
+        <source>Contact boxes</source>
+        <translation>Kontaktboxen</translation>
+    </message>
+    <message>
+        <source>Onion skin</source>
+        <translation>Zwiebelschalen</translation>
+    </message>
+    <message>
+        <source>Painting tools</source>
+        <translation>Malwerkzeuge</translation>
     </message>
 </context>
 <context>
     <name>App::CodeEdit</name>
     <message>
         <source>Text of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Text von %1</translation>
     </message>
 </context>
 <context>
     <name>App::DocumentTabs</name>
     <message>
         <source>Open texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Geöffnete Texte</translation>
     </message>
     <message>
         <source>new file</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Datei</translation>
     </message>
 </context>
 <context>
     <name>App::EncodingChoice</name>
     <message>
         <source>%1 has unsaved changes. They are lost if it is read again in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat ungespeicherte Änderungen. Sie gehen verloren, wenn die Datei in %2 neu gelesen wird.</translation>
     </message>
     <message>
         <source>%1 can be read again in %2, or keep its text and be saved in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann in %2 neu gelesen werden, oder der Text bleibt und wird darin gespeichert.</translation>
     </message>
     <message>
         <source>Read the file again in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei in %1 neu lesen</translation>
     </message>
     <message>
         <source>Keep the text, and save it in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Text behalten und in %1 speichern</translation>
     </message>
     <message>
         <source>Encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodierung</translation>
     </message>
     <message>
         <source>Encoding of the file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodierung der Datei:</translation>
+    </message>
+</context>
+<context>
+    <name>App::EnginesPage</name>
+    <message>
+        <source>Engines</source>
+        <translation>Engines</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move do&amp;wn</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Program:</source>
+        <translation>&amp;Programm:</translation>
+    </message>
+    <message>
+        <source>Para&amp;meters:</source>
+        <translation>Para&amp;meter:</translation>
+    </message>
+    <message>
+        <source>&amp;Icon:</source>
+        <translation>&amp;Symbol:</translation>
+    </message>
+    <message>
+        <source>The parameters are divided at blanks. Each mark becomes the name of the copy of a project: %0 of the project in front, %1 of the first open project, %2 of the second, and so on. At least one mark is needed.</source>
+        <translation>Die Parameter werden an Leerzeichen getrennt. Jede Marke wird durch den Namen der Kopie eines Projekts ersetzt: %0 durch das vordere Projekt, %1 durch das erste geöffnete, %2 durch das zweite und so weiter. Mindestens eine Marke ist nötig.</translation>
+    </message>
+    <message>
+        <source>The list of engines could not be saved. Check the permissions of the settings file.</source>
+        <translation>Die Liste der Engines konnte nicht gespeichert werden. Bitte die Rechte der Einstellungsdatei prüfen.</translation>
+    </message>
+    <message>
+        <source>New engine</source>
+        <translation>Neue Engine</translation>
     </message>
 </context>
 <context>
     <name>App::GameSession</name>
     <message>
         <source>There is no folder %1. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ordner %1 gibt es nicht. Bitte einen anderen wählen.</translation>
     </message>
     <message>
         <source>%1 is not a folder. Choose the folder of a game.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Ordner. Bitte den Ordner eines Spiels wählen.</translation>
     </message>
     <message>
         <source>The folder %1 cannot be read. Check its permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 kann nicht gelesen werden. Bitte seine Rechte prüfen.</translation>
     </message>
     <message>
         <source>There is no project in %1. A game has a file such as &apos;characters/ryn/ryn.character&apos; or &apos;stages/dojo/dojo.stage&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 ist kein Projekt. Zu einem Spiel gehört eine Datei wie &apos;characters/ryn/ryn.character&apos; oder &apos;stages/dojo/dojo.stage&apos;.</translation>
     </message>
     <message>
         <source>No game is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Spiel geöffnet.</translation>
     </message>
 </context>
 <context>
     <name>App::GameTree</name>
     <message>
         <source>Projects and files of the game</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekte und Dateien des Spiels</translation>
+    </message>
+</context>
+<context>
+    <name>App::KeyTable</name>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Clashes with</source>
+        <translation>Belegt auch</translation>
+    </message>
+</context>
+<context>
+    <name>App::KeysPage</name>
+    <message>
+        <source>Find an action or a key</source>
+        <translation>Aktion oder Taste suchen</translation>
+    </message>
+    <message>
+        <source>Actions and keys</source>
+        <translation>Aktionen und Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;Key:</source>
+        <translation>&amp;Taste:</translation>
+    </message>
+    <message>
+        <source>&amp;No key</source>
+        <translation>&amp;Keine Taste</translation>
+    </message>
+    <message>
+        <source>&amp;Default key</source>
+        <translation>&amp;Vorgabe</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
     </message>
 </context>
 <context>
     <name>App::LineBar</name>
     <message>
         <source>&amp;Go to line:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gehe zu Zeile:</translation>
     </message>
     <message>
         <source>Line to go to</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesuchte Zeile</translation>
     </message>
 </context>
 <context>
     <name>App::MainWindow</name>
     <message>
         <source>Projects</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekte</translation>
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten</translation>
     </message>
     <message>
         <source>Animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationen</translation>
     </message>
     <message>
         <source>Messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldungen</translation>
     </message>
     <message>
         <source>Open a game folder with Ctrl+O.
 A double click in the tree of projects shows a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Strg+O wird ein Spielordner geöffnet.
+Ein Doppelklick im Baum der Projekte zeigt einen Text.</translation>
     </message>
     <message>
         <source>Open game folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielordner öffnen</translation>
     </message>
     <message>
         <source>Open project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt öffnen</translation>
     </message>
     <message>
         <source>%1 cannot be shown: no project names it as a code file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gezeigt werden: Kein Projekt nennt die Datei als Code-Datei.</translation>
     </message>
     <message>
         <source>Open file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei öffnen</translation>
     </message>
     <message>
         <source>There is no file %1. Correct the path in the main file of the project, or put the file there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 gibt es nicht. Bitte den Pfad in der Hauptdatei des Projekts berichtigen oder die Datei dort ablegen.</translation>
     </message>
     <message>
         <source>%1 is saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist gespeichert.</translation>
     </message>
     <message>
         <source>All files are saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien sind gespeichert.</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten</translation>
     </message>
     <message>
         <source>About Zorv</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Zorv</translation>
     </message>
     <message>
         <source>Zorv %1
@@ -297,67 +449,346 @@ A double click in the tree of projects shows a text.</source>
 An editor for people who make characters and stages for two-dimensional fighting games. The text is the only truth; trees and lists follow.
 
 Under the MIT licence. Made with Qt %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zorv %1
+
+Ein Editor für alle, die Figuren und Bühnen für zweidimensionale Kampfspiele machen. Der Text ist die einzige Wahrheit; Bäume und Listen folgen ihm.
+
+Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
     <name>App::Menus</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Animation</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nsicht</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Sp&amp;rites</source>
+        <translation>Sp&amp;rites</translation>
+    </message>
+    <message>
+        <source>Pa&amp;lettes</source>
+        <translation>Pa&amp;letten</translation>
+    </message>
+    <message>
+        <source>S&amp;ounds</source>
+        <translation>&amp;Klänge</translation>
     </message>
 </context>
 <context>
     <name>App::MessagePanel</name>
     <message>
         <source>Messages of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldungen des Projekts</translation>
     </message>
     <message>
         <source>No problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Probleme</translation>
     </message>
     <message>
         <source>1 error</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Fehler</translation>
     </message>
     <message>
         <source>%1 errors</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fehler</translation>
     </message>
     <message>
         <source>1 warning</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Warnung</translation>
     </message>
     <message>
         <source>%1 warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Warnungen</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>App::NodePanel</name>
     <message>
         <source>Nodes of the text</source>
+        <translation>Knoten des Textes</translation>
+    </message>
+</context>
+<context>
+    <name>App::OutputPanel</name>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the selected text, or all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Remove all lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Engine output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(%1 are left out)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>App::PathField</name>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Datei wählen</translation>
+    </message>
+    <message>
+        <source>Choose a program</source>
+        <translation>Programm wählen</translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.bmp *.gif *.svg *.ico)</source>
+        <translation>Bilder (*.png *.bmp *.gif *.svg *.ico)</translation>
+    </message>
+</context>
+<context>
+    <name>App::RecoveryDialog</name>
+    <message>
+        <source>new file (%1)</source>
+        <translation>neue Datei (%1)</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Save the copy &amp;as...</source>
+        <translation>Kopie speichern &amp;unter ...</translation>
+    </message>
+    <message>
+        <source>Unsaved texts</source>
+        <translation>Ungespeicherte Texte</translation>
+    </message>
+    <message>
+        <source>Zorv ended before these texts were saved. Restoring puts a text into its document as unsaved changes; no file is written.</source>
+        <translation>Zorv wurde beendet, bevor diese Texte gespeichert waren. Beim Wiederherstellen kommt ein Text als ungespeicherte Änderung in sein Dokument; keine Datei wird geschrieben.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Last change put aside</source>
+        <translation>Zuletzt gesichert</translation>
+    </message>
+    <message>
+        <source>Decision</source>
+        <translation>Entscheidung</translation>
+    </message>
+    <message>
+        <source>Comparison of the file and the unsaved text</source>
+        <translation>Vergleich der Datei mit dem ungespeicherten Text</translation>
+    </message>
+    <message>
+        <source>Restore a&amp;ll</source>
+        <translation>&amp;Alle wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Save the copy as</source>
+        <translation>Kopie speichern unter</translation>
+    </message>
+    <message>
+        <source>What restoring changes:</source>
+        <translation>Das ändert die Wiederherstellung:</translation>
+    </message>
+    <message>
+        <source>Cannot be applied: the file was changed after this text was read from it. The copy can be saved under another name.</source>
+        <translation>Nicht anwendbar: Die Datei wurde geändert, nachdem dieser Text aus ihr gelesen worden war. Die Kopie kann unter einem anderen Namen gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot be applied: the file is no longer there. The copy can be saved under another name.</source>
+        <translation>Nicht anwendbar: Die Datei ist nicht mehr da. Die Kopie kann unter einem anderen Namen gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot be applied: %1</source>
+        <translation>Nicht anwendbar: %1</translation>
+    </message>
+    <message>
+        <source>the file</source>
+        <translation>die Datei</translation>
+    </message>
+    <message>
+        <source>the unsaved text</source>
+        <translation>der ungespeicherte Text</translation>
+    </message>
+    <message>
+        <source>The rest is not shown.</source>
+        <translation>Der Rest wird nicht gezeigt.</translation>
+    </message>
+</context>
+<context>
+    <name>App::RestoreDialog</name>
+    <message>
+        <source>comes back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is replaced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore backup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that the backup lacks stay as they are. What is replaced is kept in a backup of its own first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Restoring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files that would change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no backup of this game.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 files differ from those on the disk:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>App::RunCommands</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Engine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The engine is still running on the work in this window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End the engine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ended with code %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The engine has crashed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ended by you.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not be started: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The engine ran without these files, which could not be copied for it:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These temporary copies could not be removed. They are offered for removal at the next start:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Temporary copies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An earlier run of the engine was cut off. These temporary copies of it are left:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These could not be removed:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -365,526 +796,1095 @@ Under the MIT licence. Made with Qt %2.</source>
     <name>App::Screenshot</name>
     <message>
         <source>There is no picture without the game.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne das Spiel gibt es kein Bild.</translation>
     </message>
     <message>
         <source>The picture %1 cannot be written. Check the folder and its permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild %1 kann nicht geschrieben werden. Bitte den Ordner und seine Rechte prüfen.</translation>
+    </message>
+</context>
+<context>
+    <name>App::Settings</name>
+    <message>
+        <source>As the system</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>The language of the window. It changes at once.</source>
+        <translation>Die Sprache des Fensters. Sie wechselt sofort.</translation>
+    </message>
+    <message>
+        <source>&amp;Theme:</source>
+        <translation>&amp;Farbschema:</translation>
+    </message>
+    <message>
+        <source>Light or dark colours for the whole window</source>
+        <translation>Helle oder dunkle Farben für das ganze Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Font of code:</source>
+        <translation>Sch&amp;rift für Code:</translation>
+    </message>
+    <message>
+        <source>A font whose characters have one width</source>
+        <translation>Eine Schrift, deren Zeichen gleich breit sind</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>Size of the font of code</source>
+        <translation>Größe der Schrift für Code</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>&amp;Colour code</source>
+        <translation>Code &amp;farbig zeigen</translation>
+    </message>
+    <message>
+        <source>Shows words, numbers and texts of code in colours</source>
+        <translation>Zeigt Wörter, Zahlen und Texte im Code farbig</translation>
+    </message>
+    <message>
+        <source>&amp;Look for what code means</source>
+        <translation>Code &amp;auswerten</translation>
+    </message>
+    <message>
+        <source>Without this, trees and lists stay empty and problems are not found</source>
+        <translation>Ohne dies bleiben Bäume und Listen leer, und Probleme werden nicht gefunden</translation>
+    </message>
+    <message>
+        <source>&amp;Watch for changes on disk</source>
+        <translation>Auf Änderungen am Datenträger &amp;achten</translation>
+    </message>
+    <message>
+        <source>Notices when another program changes an open file</source>
+        <translation>Bemerkt, wenn ein anderes Programm eine geöffnete Datei ändert</translation>
+    </message>
+    <message>
+        <source>&amp;Back up a project when it is opened</source>
+        <translation>Projekt beim Öffnen &amp;sichern</translation>
+    </message>
+    <message>
+        <source>Makes a backup named Auto each time that a project is opened</source>
+        <translation>Legt bei jedem Öffnen eines Projekts eine Sicherung namens Auto an</translation>
+    </message>
+    <message>
+        <source>&amp;Sort files that are chosen together</source>
+        <translation>Gemeinsam gewählte Dateien s&amp;ortieren</translation>
+    </message>
+    <message>
+        <source>Several files chosen in one dialog come in the order of their names</source>
+        <translation>Mehrere in einem Dialog gewählte Dateien kommen in der Reihenfolge ihrer Namen</translation>
+    </message>
+    <message>
+        <source>&amp;Folder of projects:</source>
+        <translation>Ordner der &amp;Projekte:</translation>
+    </message>
+    <message>
+        <source>Where dialogs for files begin, as long as no other folder was used</source>
+        <translation>Hier beginnen Dateidialoge, solange kein anderer Ordner benutzt wurde</translation>
+    </message>
+</context>
+<context>
+    <name>App::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Pages of settings</source>
+        <translation>Seiten der Einstellungen</translation>
+    </message>
+    <message>
+        <source>Shows the defaults of this page</source>
+        <translation>Zeigt die Vorgaben dieser Seite</translation>
     </message>
 </context>
 <context>
     <name>App::StatusFields</name>
     <message>
         <source>Not saved yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht gespeichert</translation>
     </message>
     <message>
         <source>Missing on disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Datenträger nicht da</translation>
     </message>
     <message>
         <source>Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert</translation>
     </message>
     <message>
         <source>Problems of the project. Click for the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Probleme des Projekts. Ein Klick zeigt die Liste.</translation>
     </message>
     <message>
         <source>Encoding of the file. Click to change it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodierung der Datei. Ein Klick ändert sie.</translation>
     </message>
     <message>
         <source>Line and column. Click to go to a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile und Spalte. Ein Klick führt zu einer Zeile.</translation>
     </message>
     <message>
         <source>State of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand der Datei</translation>
     </message>
     <message>
         <source>Line ends of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenenden der Datei</translation>
     </message>
     <message>
         <source>Line ends: converted when saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenenden: beim Speichern umgewandelt</translation>
     </message>
     <message>
         <source>Encoding: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodierung: %1</translation>
     </message>
     <message>
         <source>Line %1, column %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1, Spalte %2</translation>
     </message>
 </context>
 <context>
     <name>App::UnsavedWork</name>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>und %1 weitere</translation>
     </message>
     <message>
         <source>Save the text of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Text von %1 speichern</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>%1 belongs to several projects, and was changed in them in different ways. The changes of one can be saved; the others are lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gehört zu mehreren Projekten und wurde in ihnen verschieden geändert. Die Änderungen von einem können gespeichert werden; die anderen gehen verloren.</translation>
     </message>
     <message>
         <source>This file has unsaved changes:</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei hat ungespeicherte Änderungen:</translation>
     </message>
     <message>
         <source>These files have unsaved changes:</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien haben ungespeicherte Änderungen:</translation>
     </message>
     <message>
         <source>Save all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles speichern</translation>
     </message>
     <message>
         <source>Discard the changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen verwerfen</translation>
     </message>
     <message>
         <source>Unsaved changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungespeicherte Änderungen</translation>
     </message>
 </context>
 <context>
     <name>App::WindowActions</name>
     <message>
         <source>&amp;Recent game folders</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuletzt geöffnete Spielordner</translation>
     </message>
     <message>
         <source>&amp;Clear the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>App::WorkRecovery</name>
+    <message>
+        <source>Unsaved texts</source>
+        <translation>Ungespeicherte Texte</translation>
+    </message>
+    <message>
+        <source>%1 belongs to the game %2. It is offered again when that is opened.</source>
+        <translation>%1 gehört zum Spiel %2 und wird wieder angeboten, wenn dieses geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>%1 was changed meanwhile. The copy is kept.</source>
+        <translation>%1 wurde inzwischen geändert. Die Kopie bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>%1 is no longer named by its project. The copy is kept.</source>
+        <translation>%1 wird von seinem Projekt nicht mehr genannt. Die Kopie bleibt erhalten.</translation>
     </message>
 </context>
 <context>
     <name>Family</name>
     <message>
         <source>There is no file or folder &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei oder den Ordner &apos;%1&apos; gibt es nicht.</translation>
     </message>
     <message>
         <source>There is no character or stage in &apos;%1&apos;. Expected files such as &apos;characters/hero/hero.character&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>In &apos;%1&apos; ist weder Figur noch Bühne. Erwartet werden Dateien wie &apos;characters/hero/hero.character&apos;.</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist keine Datei</translation>
     </message>
     <message>
         <source>character</source>
-        <translation type="unfinished"></translation>
+        <translation>Figur</translation>
     </message>
     <message>
         <source>stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Bühne</translation>
     </message>
     <message>
         <source>code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation</translation>
     </message>
     <message>
         <source>command</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehl</translation>
     </message>
     <message>
         <source>the end of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>das Ende der Zeile</translation>
     </message>
     <message>
         <source>Did you mean &apos;%1&apos;?</source>
-        <translation type="unfinished"></translation>
+        <translation>War &apos;%1&apos; gemeint?</translation>
     </message>
     <message>
         <source>Here is none to choose from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier gibt es keinen zur Auswahl.</translation>
     </message>
     <message>
         <source>Expected one of: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet wird eines von: %1.</translation>
     </message>
     <message>
         <source> from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation> von %1 bis %2</translation>
     </message>
     <message>
         <source>The path &apos;%1&apos; cannot be read from its character %2 on. Expected names with &apos;.&apos; or &apos;/&apos; between, such as &apos;constants.life&apos; or &apos;animation:200/frame:0/delay&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Pfad &apos;%1&apos; ist ab seinem Zeichen %2 nicht lesbar. Erwartet werden Namen mit &apos;.&apos; oder &apos;/&apos; dazwischen, wie &apos;constants.life&apos; oder &apos;animation:200/frame:0/delay&apos;.</translation>
     </message>
     <message>
         <source>Expected &apos;yes&apos; or &apos;no&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: &apos;yes&apos; oder &apos;no&apos;.</translation>
     </message>
     <message>
         <source>Expected one value; found &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: ein Wert; gefunden: &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>Expected %1 and nothing else; found &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: %1 und sonst nichts; gefunden: &apos;%2&apos;.</translation>
     </message>
     <message>
         <source>Expected %1; found &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: %1; gefunden: &apos;%2&apos;.</translation>
     </message>
     <message>
         <source>Expected a text without control characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: ein Text ohne Steuerzeichen.</translation>
     </message>
     <message>
         <source>The line of the frame cannot be read. Correct it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeile des Einzelbilds ist nicht lesbar. Bitte zuerst berichtigen.</translation>
     </message>
     <message>
         <source>Expected a number or a word; found &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: eine Zahl oder ein Wort; gefunden: &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>The animation has no number or name. Give it one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Animation hat weder Nummer noch Namen. Bitte ihr zuerst einen geben.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is a %2, not a value. Name a part of it, as in &apos;%1%3&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; ist kein Wert (sondern: %2). Bitte einen Teil davon nennen, wie in &apos;%1%3&apos;.</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert</translation>
     </message>
     <message>
         <source>The engine has no name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Engine hat keinen Namen.</translation>
     </message>
     <message>
         <source>Choose the program of the engine &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte das Programm der Engine &apos;%1&apos; wählen.</translation>
     </message>
     <message>
         <source>There is no program &apos;%1&apos;. Correct its path.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm &apos;%1&apos; gibt es nicht. Bitte den Pfad berichtigen.</translation>
     </message>
     <message>
         <source>The parameters of the engine &apos;%1&apos; ask for no project. Write %2 in the place of the project in front.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Parameter der Engine &apos;%1&apos; verlangen kein Projekt. Bitte %2 an die Stelle des vorderen Projekts schreiben.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has no parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; hat keine Teile.</translation>
     </message>
     <message>
         <source>There is no &apos;%1&apos; in the file. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; gibt es in der Datei nicht. %2</translation>
     </message>
     <message>
         <source>There is no &apos;%1&apos; in &apos;%2&apos;. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; gibt es in &apos;%2&apos; nicht. %3</translation>
     </message>
     <message>
         <source>There is no &apos;%1&apos; in &apos;%2&apos;: it has %3 frame(s), counted from 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; gibt es in &apos;%2&apos; nicht: Dort sind %3 Einzelbilder, gezählt ab 0.</translation>
     </message>
     <message>
         <source>There is no &apos;%1&apos; in &apos;%2&apos;: it has %3 of them, counted from 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; gibt es in &apos;%2&apos; nicht: Dort sind %3 davon, gezählt ab 0.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Before restore</source>
+        <translation>Vor Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Nothing was restored, for these files could not be copied aside first: %1. Check that there is space on the disk, or restore without a backup of the present files.</source>
+        <translation>Nichts wurde wiederhergestellt, denn diese Dateien konnten zuvor nicht gesichert werden: %1. Bitte prüfen, ob auf dem Datenträger Platz ist, oder ohne Sicherung der jetzigen Dateien wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>The name of the backup is empty. Give it a name such as &quot;Before the new moves&quot;.</source>
+        <translation>Der Name der Sicherung ist leer. Bitte einen Namen wie &quot;Vor den neuen Angriffen&quot; geben.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; cannot be that of a folder: it must have none of %2 and no control characters. Choose another name.</source>
+        <translation>Der Name &apos;%1&apos; kann nicht der eines Ordners sein: Er darf keines von %2 und keine Steuerzeichen enthalten. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; ends in a point or a blank, which some systems drop. Choose another name.</source>
+        <translation>Der Name &apos;%1&apos; endet mit einem Punkt oder Leerzeichen, was manche Systeme weglassen. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>The name of the backup is too long. Choose one of at most %1 letters.</source>
+        <translation>Der Name der Sicherung ist zu lang. Bitte einen mit höchstens %1 Buchstaben wählen.</translation>
+    </message>
+    <message>
+        <source>There is no backup &apos;%1&apos; in %2. Choose one of the list of backups.</source>
+        <translation>Die Sicherung &apos;%1&apos; gibt es in %2 nicht. Bitte eine aus der Liste der Sicherungen wählen.</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder %1. Check that there is space on the disk and that the folder of the game may be written to.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden. Bitte prüfen, ob auf dem Datenträger Platz ist und in den Spielordner geschrieben werden darf.</translation>
+    </message>
+    <message>
+        <source>The backup &apos;%1&apos; is not complete. Not copied: %2. Check that there is space on the disk and that these files may be read, then make another backup.</source>
+        <translation>Die Sicherung &apos;%1&apos; ist nicht vollständig. Nicht kopiert: %2. Bitte prüfen, ob auf dem Datenträger Platz ist und diese Dateien gelesen werden dürfen, und dann eine neue Sicherung anlegen.</translation>
+    </message>
+    <message>
+        <source>The game cannot be written to, so nothing was restored.</source>
+        <translation>In das Spiel kann nicht geschrieben werden; nichts wurde wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>These files were not restored and are as before: %1. Check that there is space on the disk and that they may be written to, then restore again.</source>
+        <translation>Diese Dateien wurden nicht wiederhergestellt und sind wie zuvor: %1. Bitte prüfen, ob auf dem Datenträger Platz ist und in sie geschrieben werden darf, und dann erneut wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>a text in double quotes</source>
+        <translation>ein Text in doppelten Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>the path of a file in double quotes</source>
+        <translation>der Pfad einer Datei in doppelten Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>a name</source>
+        <translation>ein Name</translation>
+    </message>
+    <message>
+        <source>the number or name of an animation</source>
+        <translation>die Nummer oder der Name einer Animation</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>eines von %1</translation>
+    </message>
+    <message>
+        <source>a day such as 2024-05-31</source>
+        <translation>ein Tag wie 2024-05-31</translation>
+    </message>
+    <message>
+        <source>a whole number without sign</source>
+        <translation>eine ganze Zahl ohne Vorzeichen</translation>
+    </message>
+    <message>
+        <source>a percentage such as 80%</source>
+        <translation>ein Prozentwert wie 80%</translation>
+    </message>
+    <message>
+        <source>a colour such as 0xff8040</source>
+        <translation>eine Farbe wie 0xff8040</translation>
+    </message>
+    <message>
+        <source>colours such as 0xff8040 with commas between</source>
+        <translation>Farben wie 0xff8040, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>two numbers, x and y</source>
+        <translation>zwei Zahlen, x und y</translation>
+    </message>
+    <message>
+        <source>two numbers</source>
+        <translation>zwei Zahlen</translation>
+    </message>
+    <message>
+        <source>three numbers</source>
+        <translation>drei Zahlen</translation>
+    </message>
+    <message>
+        <source>numbers with commas between</source>
+        <translation>Zahlen, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>two whole numbers, x and y</source>
+        <translation>zwei ganze Zahlen, x und y</translation>
+    </message>
+    <message>
+        <source>two whole numbers</source>
+        <translation>zwei ganze Zahlen</translation>
+    </message>
+    <message>
+        <source>four whole numbers: left, top, right and bottom</source>
+        <translation>vier ganze Zahlen: links, oben, rechts und unten</translation>
+    </message>
+    <message>
+        <source>whole numbers with commas between</source>
+        <translation>ganze Zahlen, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>a value</source>
+        <translation>ein Wert</translation>
+    </message>
+    <message>
+        <source>Expected a group such as &apos;[constants]&apos;, &apos;key = value&apos;, &apos;animation&apos;, &apos;frame&apos; or a box; found %1. Put &apos;#&apos; in front to make it a comment.</source>
+        <translation>Erwartet: eine Gruppe wie &apos;[constants]&apos;, &apos;Schlüssel = Wert&apos;, &apos;animation&apos;, &apos;frame&apos; oder eine Box; gefunden: %1. Mit &apos;#&apos; davor wird daraus ein Kommentar.</translation>
+    </message>
+    <message>
+        <source>Expected the end of the line; found %1. Remove it, or put &apos;#&apos; in front of it.</source>
+        <translation>Erwartet: das Ende der Zeile; gefunden: %1. Bitte entfernen oder &apos;#&apos; davor setzen.</translation>
+    </message>
+    <message>
+        <source>The format line stands above the first group or animation. Move it to the top.</source>
+        <translation>Die Formatzeile steht über der ersten Gruppe oder Animation. Bitte an den Anfang setzen.</translation>
+    </message>
+    <message>
+        <source>Expected &apos;1&apos; behind &apos;zorv&apos;; found %1. This program reads format 1.</source>
+        <translation>Erwartet: &apos;1&apos; hinter &apos;zorv&apos;; gefunden: %1. Dieses Programm liest Format 1.</translation>
+    </message>
+    <message>
+        <source>Expected the name of a group behind &apos;[&apos;.</source>
+        <translation>Erwartet: der Name einer Gruppe hinter &apos;[&apos;.</translation>
+    </message>
+    <message>
+        <source>Expected &apos;]&apos; at the end of the group head.</source>
+        <translation>Erwartet: &apos;]&apos; am Ende des Gruppenkopfs.</translation>
+    </message>
+    <message>
+        <source>There is no group &apos;%1&apos;. %2</source>
+        <translation>Die Gruppe &apos;%1&apos; gibt es nicht. %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is the old name of the group &apos;%2&apos;. Write &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; ist der alte Name der Gruppe &apos;%2&apos;. Bitte &apos;%2&apos; schreiben.</translation>
+    </message>
+    <message>
+        <source>The group &apos;%1&apos; has no effect in a %2 file. Move it to a %3 file.</source>
+        <translation>Die Gruppe &apos;%1&apos; wirkt in einer Datei der Art %2 nicht. Bitte in eine Datei der Art %3 verschieben.</translation>
+    </message>
+    <message>
+        <source>Expected a name behind &apos;%1&apos;, as in &apos;[%1 first]&apos;.</source>
+        <translation>Erwartet: ein Name hinter &apos;%1&apos;, wie in &apos;[%1 first]&apos;.</translation>
+    </message>
+    <message>
+        <source>The group &apos;%1&apos; takes no name. Remove &apos;%2&apos;.</source>
+        <translation>Die Gruppe &apos;%1&apos; nimmt keinen Namen. Bitte &apos;%2&apos; entfernen.</translation>
+    </message>
+    <message>
+        <source>A sub-group belongs to the group above it; here is none. Write the group&apos;s head first.</source>
+        <translation>Eine Untergruppe gehört zur Gruppe über ihr; hier ist keine. Bitte zuerst den Kopf der Gruppe schreiben.</translation>
+    </message>
+    <message>
+        <source>The group &apos;%1&apos; has no sub-group &apos;%2&apos;. %3</source>
+        <translation>Die Gruppe &apos;%1&apos; hat keine Untergruppe &apos;%2&apos;. %3</translation>
+    </message>
+    <message>
+        <source>A value stands in a group. Write a group such as &apos;[constants]&apos; above it.</source>
+        <translation>Ein Wert steht in einer Gruppe. Bitte eine Gruppe wie &apos;[constants]&apos; darüber schreiben.</translation>
+    </message>
+    <message>
+        <source>The group &apos;%1&apos; has no key &apos;%2&apos;. %3</source>
+        <translation>Die Gruppe &apos;%1&apos; hat keinen Schlüssel &apos;%2&apos;. %3</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is the old name of &apos;%2&apos;. Write &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; ist der alte Name von &apos;%2&apos;. Bitte &apos;%2&apos; schreiben.</translation>
+    </message>
+    <message>
+        <source>Expected &apos;=&apos; behind the key &apos;%1&apos;.</source>
+        <translation>Erwartet: &apos;=&apos; hinter dem Schlüssel &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Expected %1 behind &apos;=&apos;.</source>
+        <translation>Erwartet: %1 hinter &apos;=&apos;.</translation>
+    </message>
+    <message>
+        <source>Expected a text in double quotes; found %1.</source>
+        <translation>Erwartet: ein Text in doppelten Anführungszeichen; gefunden: %1.</translation>
+    </message>
+    <message>
+        <source>Expected a double quote at the end of the text.</source>
+        <translation>Erwartet: ein doppeltes Anführungszeichen am Ende des Textes.</translation>
+    </message>
+    <message>
+        <source>&apos;\%1&apos; means nothing in a text. Expected &apos;\&quot;&apos;, &apos;\\&apos; or &apos;\n&apos;; for a backslash write &apos;\\&apos;.</source>
+        <translation>&apos;\%1&apos; bedeutet in einem Text nichts. Erwartet: &apos;\&quot;&apos;, &apos;\\&apos; oder &apos;\n&apos;; für einen umgekehrten Schrägstrich bitte &apos;\\&apos; schreiben.</translation>
+    </message>
+    <message>
+        <source>Backslashes in paths are old. Write &apos;/&apos;.</source>
+        <translation>Umgekehrte Schrägstriche in Pfaden sind veraltet. Bitte &apos;/&apos; schreiben.</translation>
+    </message>
+    <message>
+        <source>Expected a name of letters, digits, &apos;_&apos; and &apos;-&apos;; found %1.</source>
+        <translation>Erwartet: ein Name aus Buchstaben, Ziffern, &apos;_&apos; und &apos;-&apos;; gefunden: %1.</translation>
+    </message>
+    <message>
+        <source>Expected one of %1; found %2.</source>
+        <translation>Erwartet: eines von %1; gefunden: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is the old word for &apos;%2&apos;. Write &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; ist das alte Wort für &apos;%2&apos;. Bitte &apos;%2&apos; schreiben.</translation>
+    </message>
+    <message>
+        <source>Expected a day such as 2024-05-31; found %1.</source>
+        <translation>Erwartet: ein Tag wie 2024-05-31; gefunden: %1.</translation>
+    </message>
+    <message>
+        <source>Expected a whole number; found %1.</source>
+        <translation>Erwartet: eine ganze Zahl; gefunden: %1.</translation>
+    </message>
+    <message>
+        <source>Expected a number such as 0.5; found %1.</source>
+        <translation>Erwartet: eine Zahl wie 0.5; gefunden: %1.</translation>
+    </message>
+    <message>
+        <source>Expected a whole number without sign; found %1.</source>
+        <translation>Erwartet: eine ganze Zahl ohne Vorzeichen; gefunden: %1.</translation>
+    </message>
+    <message>
+        <source>Expected a percentage such as 80%; found %1.</source>
+        <translation>Erwartet: ein Prozentwert wie 80%; gefunden: %1.</translation>
+    </message>
+    <message>
+        <source>Expected a colour such as 0xff8040; found %1.</source>
+        <translation>Erwartet: eine Farbe wie 0xff8040; gefunden: %1.</translation>
+    </message>
+    <message>
+        <source>Expected &apos;,&apos; between two numbers.</source>
+        <translation>Erwartet: &apos;,&apos; zwischen zwei Zahlen.</translation>
+    </message>
+    <message>
+        <source>Expected %1 numbers; found %2.</source>
+        <translation>Erwartet: %1 Zahlen; gefunden: %2.</translation>
+    </message>
+    <message>
+        <source>Expected a number from %1 to %2; found %3.</source>
+        <translation>Erwartet: eine Zahl von %1 bis %2; gefunden: %3.</translation>
+    </message>
+    <message>
+        <source>Expected the number or name of the animation, as in &apos;animation 200&apos;.</source>
+        <translation>Erwartet: die Nummer oder der Name der Animation, wie in &apos;animation 200&apos;.</translation>
+    </message>
+    <message>
+        <source>A frame stands in an animation. Write a line such as &apos;animation 200&apos; above it.</source>
+        <translation>Ein Einzelbild steht in einer Animation. Bitte eine Zeile wie &apos;animation 200&apos; darüber schreiben.</translation>
+    </message>
+    <message>
+        <source>Expected the group and number of a sprite, as in &apos;frame 200,0&apos;.</source>
+        <translation>Erwartet: Gruppe und Nummer eines Sprites, wie in &apos;frame 200,0&apos;.</translation>
+    </message>
+    <message>
+        <source>A frame has no option &apos;%1&apos;. %2</source>
+        <translation>Ein Einzelbild hat keine Angabe &apos;%1&apos;. %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is the old name of the option &apos;%2&apos;. Write &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; ist der alte Name der Angabe &apos;%2&apos;. Bitte &apos;%2&apos; schreiben.</translation>
+    </message>
+    <message>
+        <source>The option &apos;%1&apos; stands twice. Remove one.</source>
+        <translation>Die Angabe &apos;%1&apos; steht doppelt. Bitte eine entfernen.</translation>
+    </message>
+    <message>
+        <source>A frame with delay 0 is never seen. Write 1 or more, or -1 for one that stays.</source>
+        <translation>Ein Einzelbild mit delay 0 ist nie zu sehen. Bitte 1 oder mehr schreiben, oder -1 für eines, das bleibt.</translation>
+    </message>
+    <message>
+        <source>A contact box stands in an animation, in front of its frame. Write a line such as &apos;animation 200&apos; above it.</source>
+        <translation>Eine Kontaktbox steht in einer Animation vor ihrem Einzelbild. Bitte eine Zeile wie &apos;animation 200&apos; darüber schreiben.</translation>
+    </message>
+    <message>
+        <source>Expected left before right and top before bottom. Swap the numbers.</source>
+        <translation>Erwartet: links vor rechts und oben vor unten. Bitte die Zahlen tauschen.</translation>
+    </message>
+    <message>
+        <source>&apos;[%1]&apos; stands already in line %2. Join the two, or remove one.</source>
+        <translation>&apos;[%1]&apos; steht schon in Zeile %2. Bitte beide vereinen oder eine entfernen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is set already in line %2; only the first counts. Remove one.</source>
+        <translation>&apos;%1&apos; ist schon in Zeile %2 gesetzt; nur das erste gilt. Bitte eines entfernen.</translation>
+    </message>
+    <message>
+        <source>The group &apos;%1&apos; needs the key &apos;%2&apos;. Add &apos;%2 = &apos; and %3.</source>
+        <translation>Die Gruppe &apos;%1&apos; braucht den Schlüssel &apos;%2&apos;. Bitte &apos;%2 = &apos; ergänzen, dahinter: %3.</translation>
+    </message>
+    <message>
+        <source>The animation &apos;%1&apos; stands already in %2 line %3. Give one of them another name.</source>
+        <translation>Die Animation &apos;%1&apos; steht schon in %2 Zeile %3. Bitte einer von beiden einen anderen Namen geben.</translation>
+    </message>
+    <message>
+        <source>The animation &apos;%1&apos; has no frame. Add a line such as &apos;frame 0,0&apos;, or remove it.</source>
+        <translation>Die Animation &apos;%1&apos; hat kein Einzelbild. Bitte eine Zeile wie &apos;frame 0,0&apos; ergänzen oder die Animation entfernen.</translation>
+    </message>
+    <message>
+        <source>No frame follows this contact box. Add a frame behind it, or remove it.</source>
+        <translation>Auf diese Kontaktbox folgt kein Einzelbild. Bitte eines dahinter ergänzen oder die Box entfernen.</translation>
+    </message>
+    <message>
+        <source>The animation &apos;%1&apos; does not tell where it starts again. Put &apos;loop&apos; at a frame, or &apos;delay -1&apos; at the last.</source>
+        <translation>Die Animation &apos;%1&apos; sagt nicht, wo sie wieder beginnt. Bitte &apos;loop&apos; zu einem Einzelbild setzen oder &apos;delay -1&apos; zum letzten.</translation>
+    </message>
+    <message>
+        <source>The animation &apos;%1&apos; has its &apos;loop&apos; already in line %2. Remove one.</source>
+        <translation>Die Animation &apos;%1&apos; hat ihr &apos;loop&apos; schon in Zeile %2. Bitte eines entfernen.</translation>
+    </message>
+    <message>
+        <source>This frame is never shown: the one in line %1 stays for ever (delay -1).</source>
+        <translation>Dieses Einzelbild wird nie gezeigt: Das in Zeile %1 bleibt für immer (delay -1).</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos;. Correct the path, or put the file there.</source>
+        <translation>Die Datei &apos;%1&apos; gibt es nicht. Bitte den Pfad berichtigen oder die Datei dort ablegen.</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: %2. Check its permissions.</source>
+        <translation>&apos;%1&apos; kann nicht gelesen werden: %2. Bitte die Rechte prüfen.</translation>
+    </message>
+    <message>
+        <source>The path &apos;%1&apos; leaves the game folder. Copy the file into the folder and write its path there.</source>
+        <translation>Der Pfad &apos;%1&apos; verlässt den Spielordner. Bitte die Datei in den Ordner kopieren und ihren Pfad dort schreiben.</translation>
+    </message>
+    <message>
+        <source>The file names itself. Remove the line.</source>
+        <translation>Die Datei nennt sich selbst. Bitte die Zeile entfernen.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is named already in line %2. Remove one.</source>
+        <translation>Die Datei &apos;%1&apos; ist schon in Zeile %2 genannt. Bitte eine entfernen.</translation>
+    </message>
+    <message>
+        <source>There is no animation &apos;%1&apos;. %2</source>
+        <translation>Die Animation &apos;%1&apos; gibt es nicht. %2</translation>
+    </message>
+    <message>
+        <source>The file does not come back byte for byte from its encoding, %1. Open it in another encoding before it is saved.</source>
+        <translation>Die Datei kommt aus ihrer Kodierung, %1, nicht Byte für Byte zurück. Bitte vor dem Speichern in einer anderen Kodierung öffnen.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::AbandonedTexts</name>
+    <message>
+        <source>The copy cannot be read.</source>
+        <translation>Die Kopie kann nicht gelesen werden.</translation>
     </message>
 </context>
 <context>
     <name>Family::AnimationEdits</name>
     <message>
         <source>There is no animation in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Datei ist keine Animation.</translation>
     </message>
     <message>
         <source>There is no animation &apos;%1&apos;. Expected a place from #0 to #%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Animation &apos;%1&apos; gibt es nicht. Erwartet: ein Platz von #0 bis #%2.</translation>
     </message>
     <message>
         <source>There is no animation &apos;%1&apos;. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Animation &apos;%1&apos; gibt es nicht. %2</translation>
     </message>
     <message>
         <source>There are several animations &apos;%1&apos;. Name one by its place, &apos;#%2&apos; or &apos;#%3&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt mehrere Animationen &apos;%1&apos;. Bitte eine mit ihrem Platz nennen, &apos;#%2&apos; oder &apos;#%3&apos;.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot name an animation. Write a number, or a word of letters, digits, &apos;_&apos; and &apos;-&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; kann keine Animation benennen. Bitte eine Zahl oder ein Wort aus Buchstaben, Ziffern, &apos;_&apos; und &apos;-&apos; schreiben.</translation>
     </message>
     <message>
         <source>There is an animation &apos;%1&apos; already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Animation &apos;%1&apos; gibt es schon. Bitte einen anderen Namen wählen.</translation>
     </message>
     <message>
         <source>Remove animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationen entfernen</translation>
     </message>
 </context>
 <context>
     <name>Family::DocumentFile</name>
     <message>
         <source>Expected the name of a file; found an empty text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: der Name einer Datei; gefunden: ein leerer Text.</translation>
     </message>
     <message>
         <source>Cannot open %1: It is a folder. Name a file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden: Es ist ein Ordner. Bitte eine Datei darin nennen.</translation>
     </message>
     <message>
         <source>Cannot open %1: It is not a plain file. Name a file on a disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden: Es ist keine gewöhnliche Datei. Bitte eine Datei auf einem Datenträger nennen.</translation>
     </message>
     <message>
         <source>Cannot open %1: It is larger than %2 MB. Divide it into several files.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden: Die Datei ist größer als %2 MB. Bitte in mehrere Dateien teilen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; (%2)</translation>
     </message>
     <message>
         <source>Encoding</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodierung</translation>
     </message>
     <message>
         <source>%1 does not come back byte for byte from its encoding, %2: saving it would change characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kommt aus der Kodierung %2 nicht Byte für Byte zurück: Speichern würde Zeichen ändern.</translation>
     </message>
     <message>
         <source>Open it in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 öffnen</translation>
     </message>
     <message>
         <source>Keep %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 behalten</translation>
     </message>
     <message>
         <source>%1 It does from %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Aus %2 kommt sie so zurück.</translation>
     </message>
     <message>
         <source>%1, line %2: The encoding %3 has no %4. Change the character, or save the file in UTF-8.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Zeile %2: Die Kodierung %3 kennt kein %4. Bitte das Zeichen ändern oder die Datei in UTF-8 speichern.</translation>
     </message>
     <message>
         <source>Saving %1 ends each of its lines with a carriage return and a line feed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Speichern von %1 endet jede Zeile mit Wagenrücklauf und Zeilenvorschub.</translation>
     </message>
     <message>
         <source>Save it in UTF-8</source>
-        <translation type="unfinished"></translation>
+        <translation>In UTF-8 speichern</translation>
     </message>
     <message>
         <source>Do not save</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht speichern</translation>
     </message>
 </context>
 <context>
     <name>Family::FamilyAnimations</name>
     <message>
         <source>Duplicate animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation duplizieren</translation>
     </message>
     <message>
         <source>Remove animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation entfernen</translation>
     </message>
     <message>
         <source>Move animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation verschieben</translation>
     </message>
     <message>
         <source>Sort animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationen sortieren</translation>
     </message>
 </context>
 <context>
     <name>Family::FamilyEngineModel</name>
     <message>
         <source>Zorv reference family</source>
-        <translation type="unfinished"></translation>
+        <translation>Zorv-Referenzfamilie</translation>
     </message>
 </context>
 <context>
     <name>Family::FamilyProject</name>
     <message>
         <source>new file</source>
-        <translation type="unfinished"></translation>
+        <translation>neue Datei</translation>
     </message>
     <message>
         <source>New stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Bühne</translation>
     </message>
     <message>
         <source>New character</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Figur</translation>
     </message>
     <message>
         <source>New project</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Projekt</translation>
     </message>
 </context>
 <context>
     <name>Family::HostInterface</name>
     <message>
         <source>All known files</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle bekannten Dateien</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
+    </message>
+</context>
+<context>
+    <name>Family::RecoveryCopy</name>
+    <message>
+        <source>It is no copy of Zorv.</source>
+        <translation>Es ist keine Kopie von Zorv.</translation>
+    </message>
+    <message>
+        <source>The copy is damaged: it is cut, or its checksum is wrong.</source>
+        <translation>Die Kopie ist beschädigt: Sie ist abgeschnitten, oder ihre Prüfsumme ist falsch.</translation>
+    </message>
+    <message>
+        <source>Another version of Zorv made the copy. Open it with that one.</source>
+        <translation>Die Kopie stammt von einer anderen Version von Zorv. Bitte mit dieser öffnen.</translation>
+    </message>
+    <message>
+        <source>The copy has no sense.</source>
+        <translation>Die Kopie ergibt keinen Sinn.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::RecoveryKeeper</name>
+    <message>
+        <source>Unsaved texts cannot be put aside: %1. Save often, and make room on the disk.</source>
+        <translation>Ungespeicherte Texte können nicht gesichert werden: %1. Bitte oft speichern und auf dem Datenträger Platz schaffen.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::SessionFolder</name>
+    <message>
+        <source>Cannot make a folder in %1. Check its permissions, and that there is room on the disk.</source>
+        <translation>In %1 kann kein Ordner angelegt werden. Bitte die Rechte prüfen und ob auf dem Datenträger Platz ist.</translation>
     </message>
 </context>
 <context>
     <name>ItemsDlg</name>
     <message>
         <source>Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Invert selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl umkehren</translation>
     </message>
 </context>
 <context>
     <name>RunDlg</name>
     <message>
         <source>Run in Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>In Engine starten</translation>
     </message>
     <message>
         <source>Choose the target:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel wählen:</translation>
     </message>
 </context>
 <context>
     <name>Zorv::Animations</name>
     <message>
         <source>Auto organize animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationen automatisch ordnen</translation>
     </message>
 </context>
 <context>
     <name>Zorv::CodeDocument</name>
     <message>
         <source>It is too large for a text. Choose a file of less than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie ist zu groß für einen Text. Bitte eine Datei unter %1 MB wählen</translation>
     </message>
     <message>
         <source>Cannot open %1.%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden.%2</translation>
     </message>
     <message>
         <source>Cannot read %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
         <source>Cannot write %1.%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden.%2</translation>
     </message>
 </context>
 <context>
     <name>Zorv::FileEditor</name>
     <message>
         <source>External file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Externe Datei!</translation>
     </message>
     <message>
         <source>Discard changes?</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen verwerfen?</translation>
     </message>
     <message>
         <source>Do you want to discard the changes made in %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sollen die Änderungen in %1 verworfen werden?</translation>
     </message>
     <message>
         <source>No file reference!</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Dateireferenz!</translation>
     </message>
     <message>
         <source>Without a real file reference, some functions may not work properly until you save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne echte Dateireferenz arbeiten manche Funktionen erst nach dem Speichern richtig.</translation>
     </message>
     <message>
         <source>Open %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 öffnen ...</translation>
     </message>
     <message>
         <source>This file isn&apos;t a child of the project directory, so will be ignored on &apos;Run in engine&apos;, &apos;Backup&apos; and &apos;Save as&apos; functions. Do you want to load it as copy?
 Note: As copy, if you save it the previous file will be overwritten!</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei liegt nicht im Projektordner und wird daher bei &apos;In Engine starten&apos;, &apos;Sicherung&apos; und &apos;Speichern unter&apos; übergangen. Soll sie als Kopie geladen werden?
+Hinweis: Als Kopie wird beim Speichern die vorige Datei überschrieben!</translation>
     </message>
     <message>
         <source>Save %1 as...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 speichern unter ...</translation>
     </message>
     <message>
         <source>This file isn&apos;t a child of the project directory, so will be ignored on &apos;Run in engine&apos;, &apos;Backup&apos; and &apos;Save as&apos; functions. Do you want to save it as copy?
 Note: As copy, we keep the reference to the previous file!</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei liegt nicht im Projektordner und wird daher bei &apos;In Engine starten&apos;, &apos;Sicherung&apos; und &apos;Speichern unter&apos; übergangen. Soll sie als Kopie gespeichert werden?
+Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translation>
     </message>
 </context>
 <context>
     <name>Zorv::FileSystemArchive</name>
     <message>
         <source>Cannot open %1: %2. Check that the file is there and may be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geöffnet werden: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
     </message>
     <message>
         <source>The file does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei gibt es nicht</translation>
     </message>
     <message>
         <source>It is not a plain file</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine gewöhnliche Datei</translation>
     </message>
 </context>
 <context>
     <name>Zorv::FileWatcherManager</name>
     <message>
         <source>File modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei geändert</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; has been modified. Do you want to reload all other instances of this file now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei &apos;%1&apos; wurde geändert. Sollen alle anderen Exemplare dieser Datei jetzt neu geladen werden?</translation>
     </message>
 </context>
 <context>
     <name>Zorv::Files</name>
     <message>
         <source>Cannot read %1: %2. Check that the file is there and may be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelesen werden: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
     </message>
     <message>
         <source>It does not open</source>
+        <translation>Sie lässt sich nicht öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::OrganizerEditor</name>
+    <message>
+        <source>Move rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::OrganizerRows</name>
+    <message>
+        <source>Move rows</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -892,1048 +1892,1088 @@ Note: As copy, we keep the reference to the previous file!</source>
     <name>Zorv::ParentProject</name>
     <message>
         <source>Backup in progress...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherung läuft ...</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Restoring backup...</source>
+        <translation>Sicherung wird wiederhergestellt ...</translation>
+    </message>
+    <message>
+        <source>Oops, you can run only one instance of yhe engine at the same time.</source>
+        <translation>Es kann nur eine Instanz der Engine gleichzeitig laufen.</translation>
+    </message>
+    <message>
+        <source>Error!</source>
+        <translation>Fehler!</translation>
+    </message>
+    <message>
+        <source>Executable not found!</source>
+        <translation>Das Programm wurde nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>Oops, you need to add an engine first. Do it in Tools / Options.</source>
+        <translation>Es ist noch keine Engine eingerichtet. Dies geht in Bearbeiten / Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Oops, wrong parameters on the engine configuration. Check it in Tools / Options.</source>
+        <translation>Die Parameter der Engine sind falsch. Bitte in Bearbeiten / Einstellungen prüfen.</translation>
+    </message>
+    <message>
+        <source>Error %1!</source>
+        <translation>Fehler %1!</translation>
+    </message>
+    <message>
+        <source>Can&apos;t start the process &apos;%1&apos;!</source>
+        <translation>Der Prozess &apos;%1&apos; kann nicht gestartet werden!</translation>
+    </message>
+    <message>
+        <source>Warning!</source>
+        <translation>Warnung!</translation>
+    </message>
+    <message>
+        <source>Saving...</source>
+        <translation>Speichern ...</translation>
     </message>
 </context>
 <context>
     <name>Zorv::SafeFile</name>
     <message>
         <source>The old file is unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die alte Datei ist unverändert.</translation>
     </message>
     <message>
         <source>Save under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte unter einem anderen Namen speichern.</translation>
     </message>
     <message>
         <source>There is no name</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Namen</translation>
     </message>
     <message>
         <source>It is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist ein Ordner</translation>
     </message>
     <message>
         <source>It is not a plain file</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>The file is write-protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist schreibgeschützt</translation>
     </message>
     <message>
         <source>Allow writing to it, or save under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte das Schreiben erlauben oder unter einem anderen Namen speichern.</translation>
     </message>
     <message>
         <source>The file exists</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei gibt es schon</translation>
     </message>
     <message>
         <source>The file does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei gibt es nicht</translation>
     </message>
     <message>
         <source>Check that the folder is there and may be written to, or save in another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte prüfen, ob der Ordner da ist und in ihn geschrieben werden darf, oder an anderer Stelle speichern.</translation>
     </message>
     <message>
         <source>The old file is unchanged. Free some space or choose another place, then save again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die alte Datei ist unverändert. Bitte Platz schaffen oder eine andere Stelle wählen und erneut speichern.</translation>
     </message>
     <message>
         <source>Cannot write %1: %2. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden: %2. %3</translation>
     </message>
 </context>
 <context>
     <name>Zorv::TextCodecs</name>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>System</translation>
     </message>
 </context>
 <context>
     <name>Zorv::ZorvTranslator</name>
     <message>
         <source>No document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Dokument.</translation>
     </message>
     <message>
         <source>Code toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Code-Werkzeugleiste</translation>
     </message>
     <message>
         <source>Centralize origin</source>
-        <translation type="unfinished"></translation>
+        <translation>Ursprung zentrieren</translation>
     </message>
     <message>
         <source>Main cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauptkreuz</translation>
     </message>
     <message>
         <source>Secondary cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweites Kreuz</translation>
     </message>
     <message>
         <source>Extra cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatzkreuz</translation>
     </message>
     <message>
         <source>Rulers</source>
-        <translation type="unfinished"></translation>
+        <translation>Lineale</translation>
     </message>
     <message>
         <source>Guide lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfslinien</translation>
     </message>
     <message>
         <source>Attack Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriffsbox</translation>
     </message>
     <message>
         <source>Collision Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Kollisionsbox</translation>
     </message>
     <message>
         <source>Code snippets</source>
-        <translation type="unfinished"></translation>
+        <translation>Code-Bausteine</translation>
     </message>
     <message>
         <source>Insert code snippet</source>
-        <translation type="unfinished"></translation>
+        <translation>Code-Baustein einfügen</translation>
     </message>
     <message>
         <source>New code snippet</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Code-Baustein</translation>
     </message>
     <message>
         <source>Edit code snippet</source>
-        <translation type="unfinished"></translation>
+        <translation>Code-Baustein bearbeiten</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Go to line...</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehe zu Zeile ...</translation>
     </message>
     <message>
         <source>Previous syntax error</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriger Syntaxfehler</translation>
     </message>
     <message>
         <source>Next syntax error</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Syntaxfehler</translation>
     </message>
     <message>
         <source>Previous deprecation</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorige veraltete Stelle</translation>
     </message>
     <message>
         <source>Next deprecation</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste veraltete Stelle</translation>
     </message>
     <message>
         <source>Comment/Uncomment selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl aus-/einkommentieren</translation>
     </message>
     <message>
         <source>Fold all code blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Code-Blöcke einklappen</translation>
     </message>
     <message>
         <source>Unfold all coded blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Code-Blöcke ausklappen</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Save as...</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern unter ...</translation>
     </message>
     <message>
         <source>Palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paletten</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Clear all unused</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle unbenutzten entfernen</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Remove all duplicates</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle doppelten entfernen</translation>
     </message>
     <message>
         <source>Change...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern ...</translation>
     </message>
     <message>
         <source>Remap</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu zuordnen</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Exchange position of selected colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Positionen der gewählten Farben tauschen</translation>
     </message>
     <message>
         <source>Sets the color of the selected slots</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt die Farbe der gewählten Plätze</translation>
     </message>
     <message>
         <source>Apply to the sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf die Sprites anwenden</translation>
     </message>
     <message>
         <source>Previous palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorige Palette</translation>
     </message>
     <message>
         <source>Next palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Palette</translation>
     </message>
     <message>
         <source>Open palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette öffnen</translation>
     </message>
     <message>
         <source>Save current palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Palette speichern</translation>
     </message>
     <message>
         <source>Animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationen</translation>
     </message>
     <message>
         <source>Edit code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code bearbeiten</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>Edit animation code</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationscode bearbeiten</translation>
     </message>
     <message>
         <source>Save as animated GIF...</source>
-        <translation type="unfinished"></translation>
+        <translation>Als animiertes GIF speichern ...</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten</translation>
     </message>
     <message>
         <source>Move 1px to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>1 px nach links</translation>
     </message>
     <message>
         <source>Move 1px up</source>
-        <translation type="unfinished"></translation>
+        <translation>1 px nach oben</translation>
     </message>
     <message>
         <source>Move 1px to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>1 px nach rechts</translation>
     </message>
     <message>
         <source>Move 1px down</source>
-        <translation type="unfinished"></translation>
+        <translation>1 px nach unten</translation>
     </message>
     <message>
         <source>Add frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelbild hinzufügen</translation>
     </message>
     <message>
         <source>Delete frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelbild löschen</translation>
     </message>
     <message>
         <source>Add Attack box</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriffsbox hinzufügen</translation>
     </message>
     <message>
         <source>Add Collision box</source>
-        <translation type="unfinished"></translation>
+        <translation>Kollisionsbox hinzufügen</translation>
     </message>
     <message>
         <source>Delete selected Contact boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Kontaktboxen löschen</translation>
     </message>
     <message>
         <source>Delete all Contact boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kontaktboxen löschen</translation>
     </message>
     <message>
         <source>Delete all Contact boxes of current animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kontaktboxen der aktuellen Animation löschen</translation>
     </message>
     <message>
         <source>Switch Contact box type</source>
-        <translation type="unfinished"></translation>
+        <translation>Art der Kontaktbox wechseln</translation>
     </message>
     <message>
         <source>Copy Contact boxes of previous frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontaktboxen des vorigen Einzelbilds kopieren</translation>
     </message>
     <message>
         <source>Use these Contact boxes in all other instances of this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kontaktboxen bei allen anderen Vorkommen dieses Einzelbilds verwenden</translation>
     </message>
     <message>
         <source>Optimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Optimieren</translation>
     </message>
     <message>
         <source>Import from another project...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus anderem Projekt importieren ...</translation>
     </message>
     <message>
         <source>Apply time to all next frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit auf alle folgenden Einzelbilder anwenden</translation>
     </message>
     <message>
         <source>Apply flip to all next frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegelung auf alle folgenden Einzelbilder anwenden</translation>
     </message>
     <message>
         <source>Apply offset to all next frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Versatz auf alle folgenden Einzelbilder anwenden</translation>
     </message>
     <message>
         <source>Apply scale to all next frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalierung auf alle folgenden Einzelbilder anwenden</translation>
     </message>
     <message>
         <source>Alignment Tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtungswerkzeug</translation>
     </message>
     <message>
         <source>Frames:</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelbilder:</translation>
     </message>
     <message>
         <source>X axis:</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Achse:</translation>
     </message>
     <message>
         <source>Y axis:</source>
-        <translation type="unfinished"></translation>
+        <translation>Y-Achse:</translation>
     </message>
     <message>
         <source>Flip:</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegelung:</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikal</translation>
     </message>
     <message>
         <source>Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide</translation>
     </message>
     <message>
         <source>X scale:</source>
-        <translation type="unfinished"></translation>
+        <translation>X-Skalierung:</translation>
     </message>
     <message>
         <source>Y scale:</source>
-        <translation type="unfinished"></translation>
+        <translation>Y-Skalierung:</translation>
     </message>
     <message>
         <source>Angle:</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkel:</translation>
     </message>
     <message>
         <source>Time:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit:</translation>
     </message>
     <message>
         <source>Previous animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorige Animation</translation>
     </message>
     <message>
         <source>Next animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Animation</translation>
     </message>
     <message>
         <source>Previous frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriges Einzelbild</translation>
     </message>
     <message>
         <source>Next frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächstes Einzelbild</translation>
     </message>
     <message>
         <source>OnionSkin</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwiebelschalen</translation>
     </message>
     <message>
         <source>Sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprites</translation>
     </message>
     <message>
         <source>Previous sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriges Sprite</translation>
     </message>
     <message>
         <source>Next sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächstes Sprite</translation>
     </message>
     <message>
         <source>Move canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichenfläche verschieben</translation>
     </message>
     <message>
         <source>Move selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl verschieben</translation>
     </message>
     <message>
         <source>Rectangle selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechteckauswahl</translation>
     </message>
     <message>
         <source>Free selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Freie Auswahl</translation>
     </message>
     <message>
         <source>Color picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbpipette</translation>
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Stift</translation>
     </message>
     <message>
         <source>Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Radierer</translation>
     </message>
     <message>
         <source>Remap pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuordnungsstift</translation>
     </message>
     <message>
         <source>Paint bucket</source>
-        <translation type="unfinished"></translation>
+        <translation>Fülleimer</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Multiply</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiplizieren</translation>
     </message>
     <message>
         <source>Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Negativ multiplizieren</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Überlagern</translation>
     </message>
     <message>
         <source>Darken</source>
-        <translation type="unfinished"></translation>
+        <translation>Abdunkeln</translation>
     </message>
     <message>
         <source>Lighten</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufhellen</translation>
     </message>
     <message>
         <source>Color Dodge</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbig abwedeln</translation>
     </message>
     <message>
         <source>Color Burn</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbig nachbelichten</translation>
     </message>
     <message>
         <source>Hard Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Hartes Licht</translation>
     </message>
     <message>
         <source>Soft Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiches Licht</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenz</translation>
     </message>
     <message>
         <source>Exclusion</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschluss</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Ebenen</translation>
     </message>
     <message>
         <source>Merge visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichtbare vereinen</translation>
     </message>
     <message>
         <source>Merge all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle vereinen</translation>
     </message>
     <message>
         <source>Change image...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild ändern ...</translation>
     </message>
     <message>
         <source>Save image changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildänderungen speichern</translation>
     </message>
     <message>
         <source>Save image...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild speichern ...</translation>
     </message>
     <message>
         <source>Crop image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild zuschneiden</translation>
     </message>
     <message>
         <source>Switch to the frame&apos;s sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Sprite des Einzelbilds wechseln</translation>
     </message>
     <message>
         <source>Original</source>
-        <translation type="unfinished"></translation>
+        <translation>Original</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften</translation>
     </message>
     <message>
         <source>Resize</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe ändern</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung</translation>
     </message>
     <message>
         <source>Rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen</translation>
     </message>
     <message>
         <source>Flip horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal spiegeln</translation>
     </message>
     <message>
         <source>Flip vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikal spiegeln</translation>
     </message>
     <message>
         <source>Split channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanäle trennen</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles</translation>
     </message>
     <message>
         <source>Deselect</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl aufheben</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Umkehren</translation>
     </message>
     <message>
         <source>Switch to the sprite palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Palette des Sprites wechseln</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Klänge</translation>
     </message>
     <message>
         <source>Change sound...</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang ändern ...</translation>
     </message>
     <message>
         <source>Save sound as...</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang speichern unter ...</translation>
     </message>
     <message>
         <source>Resample</source>
-        <translation type="unfinished"></translation>
+        <translation>Abtastrate ändern</translation>
     </message>
     <message>
         <source>Play with loop</source>
-        <translation type="unfinished"></translation>
+        <translation>In Schleife abspielen</translation>
     </message>
     <message>
         <source>Previous sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriger Klang</translation>
     </message>
     <message>
         <source>Next sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Klang</translation>
     </message>
     <message>
         <source>Organizer</source>
-        <translation type="unfinished"></translation>
+        <translation>Organisator</translation>
     </message>
     <message>
         <source>Move one position up</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Platz nach oben</translation>
     </message>
     <message>
         <source>Move one position down</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Platz nach unten</translation>
     </message>
     <message>
         <source>Move ten positions up</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Plätze nach oben</translation>
     </message>
     <message>
         <source>Move ten positions down</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Plätze nach unten</translation>
     </message>
     <message>
         <source>Move to the top</source>
-        <translation type="unfinished"></translation>
+        <translation>An den Anfang</translation>
     </message>
     <message>
         <source>Move to the bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>An das Ende</translation>
     </message>
     <message>
         <source>Organize automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch ordnen</translation>
     </message>
     <message>
         <source>Thumbnails</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschaubilder</translation>
     </message>
     <message>
         <source>Add selected to the current animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte zur aktuellen Animation hinzufügen</translation>
     </message>
     <message>
         <source>Add all to the current animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle zur aktuellen Animation hinzufügen</translation>
     </message>
     <message>
         <source>New animation with selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Animation aus den gewählten</translation>
     </message>
     <message>
         <source>New animation with all</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Animation aus allen</translation>
     </message>
     <message>
         <source>Save selected images</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählte Bilder speichern</translation>
     </message>
     <message>
         <source>Show/Hide the code toolbar in all code editors</source>
-        <translation type="unfinished"></translation>
+        <translation>Code-Werkzeugleiste in allen Code-Editoren ein-/ausblenden</translation>
     </message>
     <message>
         <source>Place the origin at the center of the workspace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ursprung in die Mitte des Arbeitsbereichs setzen</translation>
     </message>
     <message>
         <source>Show/Hide the main cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauptkreuz ein-/ausblenden</translation>
     </message>
     <message>
         <source>Show/Hide the secondary cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweites Kreuz ein-/ausblenden</translation>
     </message>
     <message>
         <source>Show/Hide the extra cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatzkreuz ein-/ausblenden</translation>
     </message>
     <message>
         <source>Show/Hide the Rulers</source>
-        <translation type="unfinished"></translation>
+        <translation>Lineale ein-/ausblenden</translation>
     </message>
     <message>
         <source>Show/Hide the Guide lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfslinien ein-/ausblenden</translation>
     </message>
     <message>
         <source>Show/Hide the Attack contact boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriffsboxen ein-/ausblenden</translation>
     </message>
     <message>
         <source>Show/Hide the Collision contact boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kollisionsboxen ein-/ausblenden</translation>
     </message>
     <message>
         <source>Insert the current code snippet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Code-Baustein einfügen</translation>
     </message>
     <message>
         <source>Create a new code snippet</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuen Code-Baustein anlegen</translation>
     </message>
     <message>
         <source>Edit the current code snippet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Code-Baustein bearbeiten</translation>
     </message>
     <message>
         <source>Go to the specifed line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur angegebenen Zeile gehen</translation>
     </message>
     <message>
         <source>Go to the previous syntax error</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum vorigen Syntaxfehler gehen</translation>
     </message>
     <message>
         <source>Go to the next syntax error</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum nächsten Syntaxfehler gehen</translation>
     </message>
     <message>
         <source>Go to the previous deprecation</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur vorigen veralteten Stelle gehen</translation>
     </message>
     <message>
         <source>Go to the next deprecation</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur nächsten veralteten Stelle gehen</translation>
     </message>
     <message>
         <source>Comment/Uncomment all selected lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle gewählten Zeilen aus-/einkommentieren</translation>
     </message>
     <message>
         <source>Remove all palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Paletten entfernen</translation>
     </message>
     <message>
         <source>Remove all unused palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle unbenutzten Paletten entfernen</translation>
     </message>
     <message>
         <source>Add one or more palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine oder mehrere Paletten hinzufügen</translation>
     </message>
     <message>
         <source>Remove the current palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Palette entfernen</translation>
     </message>
     <message>
         <source>Remove all duplicate palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle doppelten Paletten entfernen</translation>
     </message>
     <message>
         <source>Define new colors to the palette from a file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Farben der Palette aus einer Datei nehmen ...</translation>
     </message>
     <message>
         <source>Save the palette as a file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette als Datei speichern ...</translation>
     </message>
     <message>
         <source>Open the palette Remap tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeug zum Neuzuordnen der Palette öffnen</translation>
     </message>
     <message>
         <source>Apply the current palette to the specified sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Palette auf die angegebenen Sprites anwenden</translation>
     </message>
     <message>
         <source>Open palette from a file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette aus einer Datei öffnen ...</translation>
     </message>
     <message>
         <source>Save current palette to a new file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Palette in eine neue Datei speichern ...</translation>
     </message>
     <message>
         <source>Edit animation code in code editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationscode im Code-Editor bearbeiten</translation>
     </message>
     <message>
         <source>Add a new animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Animation hinzufügen</translation>
     </message>
     <message>
         <source>Remove the current animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Animation entfernen</translation>
     </message>
     <message>
         <source>Duplicate the current animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Animation duplizieren</translation>
     </message>
     <message>
         <source>Edit the code of current animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Code der aktuellen Animation bearbeiten</translation>
     </message>
     <message>
         <source>Save the current animation as an animated GIF...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Animation als animiertes GIF speichern ...</translation>
     </message>
     <message>
         <source>Play the current animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Animation abspielen</translation>
     </message>
     <message>
         <source>Stop the animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation anhalten</translation>
     </message>
     <message>
         <source>Move the sprite 1px to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite 1 px nach links verschieben</translation>
     </message>
     <message>
         <source>Move the sprite 1px up</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite 1 px nach oben verschieben</translation>
     </message>
     <message>
         <source>Move the sprite 1px to the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite 1 px nach rechts verschieben</translation>
     </message>
     <message>
         <source>Move the sprite 1px down</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite 1 px nach unten verschieben</translation>
     </message>
     <message>
         <source>Add a new frame in the animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Einzelbild zur Animation hinzufügen</translation>
     </message>
     <message>
         <source>Remove the current frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelles Einzelbild entfernen</translation>
     </message>
     <message>
         <source>Enable/disable the drawing mode for Attack contact box</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichenmodus für Angriffsboxen ein-/ausschalten</translation>
     </message>
     <message>
         <source>Enable/disable the drawing mode for Collision contact box</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichenmodus für Kollisionsboxen ein-/ausschalten</translation>
     </message>
     <message>
         <source>Remove all selected Contact boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle gewählten Kontaktboxen entfernen</translation>
     </message>
     <message>
         <source>Remove all Contact boxes of current frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kontaktboxen des aktuellen Einzelbilds entfernen</translation>
     </message>
     <message>
         <source>Remove all Contact boxs of current animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kontaktboxen der aktuellen Animation entfernen</translation>
     </message>
     <message>
         <source>Switch type of all selected Contact boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Art aller gewählten Kontaktboxen wechseln</translation>
     </message>
     <message>
         <source>Copy all Contact boxes of previous frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kontaktboxen des vorigen Einzelbilds kopieren</translation>
     </message>
     <message>
         <source>Optimize animation code</source>
-        <translation type="unfinished"></translation>
+        <translation>Animationscode optimieren</translation>
     </message>
     <message>
         <source>Import one or more animations from another opened project...</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine oder mehrere Animationen aus einem anderen geöffneten Projekt importieren ...</translation>
     </message>
     <message>
         <source>Enable OnionSkin</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwiebelschalen einschalten</translation>
     </message>
     <message>
         <source>Add one or more sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein oder mehrere Sprites hinzufügen</translation>
     </message>
     <message>
         <source>Add a new layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Ebene hinzufügen</translation>
     </message>
     <message>
         <source>Remove the current layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Ebene entfernen</translation>
     </message>
     <message>
         <source>Duplicate the current layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Ebene duplizieren</translation>
     </message>
     <message>
         <source>Merge all visible layers into one</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle sichtbaren Ebenen zu einer vereinen</translation>
     </message>
     <message>
         <source>Merge all layers into one</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Ebenen zu einer vereinen</translation>
     </message>
     <message>
         <source>Remove the current sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelles Sprite entfernen</translation>
     </message>
     <message>
         <source>Change the image of the sprite from a file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild des Sprites aus einer Datei ändern ...</translation>
     </message>
     <message>
         <source>Save changes on current sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen am aktuellen Sprite speichern</translation>
     </message>
     <message>
         <source>Save one or more sprites as image files...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein oder mehrere Sprites als Bilddateien speichern ...</translation>
     </message>
     <message>
         <source>Remove free borders from the current sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Leere Ränder des aktuellen Sprites entfernen</translation>
     </message>
     <message>
         <source>Duplicate the current sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelles Sprite duplizieren</translation>
     </message>
     <message>
         <source>Import one or more sprites from another opened project...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein oder mehrere Sprites aus einem anderen geöffneten Projekt importieren ...</translation>
     </message>
     <message>
         <source>Switch to the sprite of the current frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Sprite des aktuellen Einzelbilds wechseln</translation>
     </message>
     <message>
         <source>Split the viewport with the Original size at left</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht teilen, links die Originalgröße</translation>
     </message>
     <message>
         <source>Canvas properties (format and size)</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften der Zeichenfläche (Format und Größe)</translation>
     </message>
     <message>
         <source>Resize all layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe aller Ebenen ändern</translation>
     </message>
     <message>
         <source>Rotate all layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Ebenen drehen</translation>
     </message>
     <message>
         <source>Flip all layers horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Ebenen horizontal spiegeln</translation>
     </message>
     <message>
         <source>Flip all layers vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Ebenen vertikal spiegeln</translation>
     </message>
     <message>
         <source>Split the RGB channels of the current sprite as separate sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB-Kanäle des aktuellen Sprites in einzelne Sprites trennen</translation>
     </message>
     <message>
         <source>Select the entire canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganze Zeichenfläche auswählen</translation>
     </message>
     <message>
         <source>lear any selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Auswahl aufheben</translation>
     </message>
     <message>
         <source>Invert the current selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Auswahl umkehren</translation>
     </message>
     <message>
         <source>Switch the current palette to the palette of the sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der aktuellen Palette zur Palette des Sprites wechseln</translation>
     </message>
     <message>
         <source>Add one or more sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen oder mehrere Klänge hinzufügen</translation>
     </message>
     <message>
         <source>Remove the current sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Klang entfernen</translation>
     </message>
     <message>
         <source>Change the current sound from a file...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Klang aus einer Datei ändern ...</translation>
     </message>
     <message>
         <source>Save the sound as WAV...</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang als WAV speichern ...</translation>
     </message>
     <message>
         <source>Resample one or more sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Abtastrate eines oder mehrerer Klänge ändern</translation>
     </message>
     <message>
         <source>Duplicate the current sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Klang duplizieren</translation>
     </message>
     <message>
         <source>Play the current sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Klang abspielen</translation>
     </message>
     <message>
         <source>Play the current sound with infinite loop</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Klang in Endlosschleife abspielen</translation>
     </message>
     <message>
         <source>Stop the sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang anhalten</translation>
     </message>
     <message>
         <source>Import one or more sounds from another opened project...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen oder mehrere Klänge aus einem anderen geöffneten Projekt importieren ...</translation>
     </message>
 </context>
 </TS>

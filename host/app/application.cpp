@@ -12,6 +12,9 @@
 #include <QSettings>
 #include <QTextStream>
 
+#include <algorithm>
+#include <iterator>
+
 namespace App {
 
 namespace {
@@ -22,8 +25,24 @@ constexpr int NotDone = 3;
 struct Usage
 {
     QString picture;
+    QString theme;
+    QString language;
     QString game;
     QString error;
+};
+
+/// An option with a value.
+struct Option
+{
+    const char* name;
+    QString Usage::*value;
+    const char* what;
+};
+
+constexpr Option options[] = {
+    {"--screenshot", &Usage::picture, "the name of a picture"},
+    {"--theme", &Usage::theme, "'light' or 'dark'"},
+    {"--language", &Usage::language, "a language, such as 'de'"},
 };
 
 Usage parse(const QStringList& arguments)
@@ -31,16 +50,24 @@ Usage parse(const QStringList& arguments)
     Usage usage;
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments[i];
-        if (argument == QLatin1String("--screenshot")) {
-            usage.picture = arguments.value(++i);
-            if (usage.picture.isEmpty()) {
-                usage.error = QStringLiteral("--screenshot needs the name of a picture");
+        const auto* option = std::find_if(
+            std::begin(options), std::end(options),
+            [&argument](const Option& row) { return argument == QLatin1String(row.name); });
+        if (option != std::end(options)) {
+            usage.*option->value = arguments.value(++i);
+            if ((usage.*option->value).isEmpty()) {
+                usage.error =
+                    QStringLiteral("%1 needs %2").arg(argument, QLatin1String(option->what));
             }
         } else if (argument.startsWith(QLatin1Char('-')) || !usage.game.isEmpty()) {
             usage.error = QStringLiteral("what is meant by '%1'? See 'zorv help'").arg(argument);
         } else {
             usage.game = argument;
         }
+    }
+    if (usage.picture.isEmpty() && !(usage.theme + usage.language).isEmpty()) {
+        usage.error = QStringLiteral("--theme and --language are for a picture; a window has "
+                                     "settings for them");
     }
     return usage;
 }
@@ -55,6 +82,8 @@ int drawPicture(const Usage& usage)
 {
     WindowInterface host;
     Family::startHost(&host);
+    host.setOption(QStringLiteral("theme"), usage.theme);
+    host.setOption(QStringLiteral("language"), usage.language);
     applyLook();
     // Nobody is there to answer.
     const Cli::CommandDialogs dialogs;

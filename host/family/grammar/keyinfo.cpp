@@ -17,34 +17,38 @@ struct FormRow
     const char* text;
 };
 
-#define T(text) QT_TRANSLATE_NOOP("Family", text)
-
 constexpr FormRow formRows[] = {
-    {Form::Text, ValueCode::Text, 1, T("a text in double quotes")},
-    {Form::Path, ValueCode::Text, 1, T("the path of a file in double quotes")},
-    {Form::Name, ValueCode::Text, 1, T("a name")},
-    {Form::AnimationName, ValueCode::Text, 1, T("the number or name of an animation")},
-    {Form::Choice, ValueCode::Choice, 1, T("one of %1")},
-    {Form::Date, ValueCode::Date, 1, T("a day such as 2024-05-31")},
-    {Form::Count, ValueCode::Unsigned, 1, T("a whole number without sign")},
-    {Form::Percent, ValueCode::Unsigned, 1, T("a percentage such as 80%")},
-    {Form::Colour, ValueCode::Unsigned, 1, T("a colour such as 0xff8040")},
+    {Form::Text, ValueCode::Text, 1, QT_TRANSLATE_NOOP("Family", "a text in double quotes")},
+    {Form::Path, ValueCode::Text, 1,
+     QT_TRANSLATE_NOOP("Family", "the path of a file in double quotes")},
+    {Form::Name, ValueCode::Text, 1, QT_TRANSLATE_NOOP("Family", "a name")},
+    {Form::AnimationName, ValueCode::Text, 1,
+     QT_TRANSLATE_NOOP("Family", "the number or name of an animation")},
+    {Form::Choice, ValueCode::Choice, 1, QT_TRANSLATE_NOOP("Family", "one of %1")},
+    {Form::Date, ValueCode::Date, 1, QT_TRANSLATE_NOOP("Family", "a day such as 2024-05-31")},
+    {Form::Count, ValueCode::Unsigned, 1,
+     QT_TRANSLATE_NOOP("Family", "a whole number without sign")},
+    {Form::Percent, ValueCode::Unsigned, 1,
+     QT_TRANSLATE_NOOP("Family", "a percentage such as 80%")},
+    {Form::Colour, ValueCode::Unsigned, 1,
+     QT_TRANSLATE_NOOP("Family", "a colour such as 0xff8040")},
     {Form::Colours, ValueCode::UnsignedVector, 0,
-     T("colours such as 0xff8040 with commas between")},
-    {Form::Real, ValueCode::Real, 1, T("a number")},
-    {Form::RealPoint, ValueCode::RealPoint, 2, T("two numbers, x and y")},
-    {Form::RealPair, ValueCode::RealPair, 2, T("two numbers")},
-    {Form::RealTriple, ValueCode::RealTriple, 3, T("three numbers")},
-    {Form::Reals, ValueCode::RealVector, 0, T("numbers with commas between")},
-    {Form::Int, ValueCode::Int, 1, T("a whole number")},
-    {Form::Point, ValueCode::Point, 2, T("two whole numbers, x and y")},
-    {Form::Pair, ValueCode::IntPair, 2, T("two whole numbers")},
-    {Form::Quad, ValueCode::IntQuad, 4, T("four whole numbers: left, top, right and bottom")},
-    {Form::Ints, ValueCode::IntVector, 0, T("whole numbers with commas between")},
-    {Form::Any, ValueCode::Text, 1, T("a value")},
+     QT_TRANSLATE_NOOP("Family", "colours such as 0xff8040 with commas between")},
+    {Form::Real, ValueCode::Real, 1, QT_TRANSLATE_NOOP("Family", "a number")},
+    {Form::RealPoint, ValueCode::RealPoint, 2, QT_TRANSLATE_NOOP("Family", "two numbers, x and y")},
+    {Form::RealPair, ValueCode::RealPair, 2, QT_TRANSLATE_NOOP("Family", "two numbers")},
+    {Form::RealTriple, ValueCode::RealTriple, 3, QT_TRANSLATE_NOOP("Family", "three numbers")},
+    {Form::Reals, ValueCode::RealVector, 0,
+     QT_TRANSLATE_NOOP("Family", "numbers with commas between")},
+    {Form::Int, ValueCode::Int, 1, QT_TRANSLATE_NOOP("Family", "a whole number")},
+    {Form::Point, ValueCode::Point, 2, QT_TRANSLATE_NOOP("Family", "two whole numbers, x and y")},
+    {Form::Pair, ValueCode::IntPair, 2, QT_TRANSLATE_NOOP("Family", "two whole numbers")},
+    {Form::Quad, ValueCode::IntQuad, 4,
+     QT_TRANSLATE_NOOP("Family", "four whole numbers: left, top, right and bottom")},
+    {Form::Ints, ValueCode::IntVector, 0,
+     QT_TRANSLATE_NOOP("Family", "whole numbers with commas between")},
+    {Form::Any, ValueCode::Text, 1, QT_TRANSLATE_NOOP("Family", "a value")},
 };
-
-#undef T
 
 const FormRow& rowOf(Form form)
 {
