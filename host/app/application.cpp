@@ -3,10 +3,13 @@
 #include "app/look/icon.h"
 #include "app/look/look.h"
 #include "app/mainwindow.h"
+#include "app/recovery/workrecovery.h"
+#include "app/run/runcommands.h"
 #include "app/screenshot.h"
 #include "app/windowdialogs.h"
 #include "app/windowinterface.h"
 #include "cli/commanddialogs.h"
+#include "operations/recovery/sessionfolder.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -117,8 +120,11 @@ int runWindow(QApplication&, const QStringList& arguments)
     const WindowDialogs dialogs;
     MainWindow window;
     host.setWindow(&window);
+    WorkRecovery recovery(&window, Family::SessionFolder::defaultRoot());
     window.show();
     window.restoreWork(usage.game);
+    recovery.offerAll();
+    RunCommands::offerLeftovers();
     return QApplication::exec();
 }
 

@@ -97,6 +97,13 @@ CodeEdit* DocumentTabs::editAt(int index) const
     return static_cast<CodeEdit*>(widget(index));
 }
 
+void DocumentTabs::updateTabs()
+{
+    for (int i = 0; i < count(); ++i) {
+        updateTab(editAt(i));
+    }
+}
+
 void DocumentTabs::updateTab(const CodeEdit* edit)
 {
     const FamilyDocument* document = edit->codeDocument();

@@ -26,6 +26,9 @@ public:
     /// Ends the view of a document; nothing without one.
     void closeDocument(const Family::FamilyDocument* document);
 
+    /// Brings the titles in line with names that have changed.
+    void updateTabs();
+
     CodeEdit* currentEdit() const;
 
     /// The document in front, or null.

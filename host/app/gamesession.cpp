@@ -116,6 +116,16 @@ FamilyProject* GameSession::openProject(const QString& mainFile, QString* error)
     return project;
 }
 
+FamilyProject* GameSession::newProject(Family::FileKind kind)
+{
+    FamilyProject* project = m_game ? FamilyProject::create(m_game.get(), kind) : nullptr;
+    if (project) {
+        m_projects.append(project);
+        emit projectOpened(project);
+    }
+    return project;
+}
+
 FamilyProject* GameSession::projectOf(const QString& mainFile) const
 {
     const QString file = cleaned(mainFile);

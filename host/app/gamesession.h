@@ -1,5 +1,7 @@
 #pragma once
 
+#include "family/grammar/filekind.h"
+
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -49,6 +51,9 @@ public:
     /// The project of a main file, opened if it is not open yet. Null, with
     /// `error`, if that fails.
     Family::FamilyProject* openProject(const QString& mainFile, QString* error);
+
+    /// A new project that is not saved yet; null while no game is open.
+    Family::FamilyProject* newProject(Family::FileKind kind);
 
     /// The open project of a main file, or null.
     Family::FamilyProject* projectOf(const QString& mainFile) const;

@@ -1,7 +1,9 @@
 #include "app/unsavedwork.h"
 
 #include "core/dialogs/dialogs.h"
+#include "core/interface.h"
 #include "core/project.h"
+#include "editors/framework/fileeditor.h"
 #include "family/familydocument.h"
 #include "operations/documentfile.h"
 
@@ -32,7 +34,9 @@ QString namesOf(const QList<FamilyDocument*>& documents)
 {
     QStringList names;
     for (const FamilyDocument* document : documents) {
-        names.append(QDir::toNativeSeparators(document->fileName()));
+        names.append(document->fileName().isEmpty()
+                         ? Text::tr("new file")
+                         : QDir::toNativeSeparators(document->fileName()));
     }
     const int more = names.size() - MaxNames;
     if (more > 0) {
@@ -85,6 +89,7 @@ bool settleTwins(QList<FamilyDocument*>* documents, QList<Twins>* twins)
     for (FamilyDocument* document : qAsConst(*documents)) {
         byFile[document->fileName()].append(document);
     }
+    byFile.remove(QString());
     for (QList<FamilyDocument*> sharing : qAsConst(byFile)) {
         if (haveOneText(sharing)) {
             continue;
@@ -117,6 +122,22 @@ bool readSaved(const Twins& twins)
     return all;
 }
 
+/// Asks for the name of a document that has none.
+Family::Saved saveNew(FamilyDocument* document, QString* error)
+{
+    Zorv::Interface* host = Zorv::Interface::instance();
+    auto* editor = qobject_cast<Zorv::FileEditor*>(
+        host->fileEditor(document, Family::fileType(document->kind())));
+    if (!editor || !Family::settleEncoding(document)) {
+        return Family::Saved::GivenUp;
+    }
+    if (Zorv::FileEditor::saveFileAs(document, editor, host)) {
+        return Family::Saved::Done;
+    }
+    *error = document->errorString();
+    return error->isEmpty() ? Family::Saved::GivenUp : Family::Saved::Failed;
+}
+
 }  // namespace
 
 bool saveDocuments(QList<FamilyDocument*> documents)
@@ -135,7 +156,10 @@ bool saveDocuments(QList<FamilyDocument*> documents)
     bool all = true;
     for (FamilyDocument* document : qAsConst(documents)) {
         QString error;
-        const Family::Saved saved = Family::saveDocument(document, document->fileName(), &error);
+        const Family::Saved saved =
+            document->fileName().isEmpty()
+                ? saveNew(document, &error)
+                : Family::saveDocument(document, document->fileName(), &error);
         all = all && saved == Family::Saved::Done;
         if (saved == Family::Saved::Failed) {
             errors.append(error);
@@ -148,6 +172,21 @@ bool saveDocuments(QList<FamilyDocument*> documents)
         Dialogs::instance()->error(Text::tr("Save"), errors.join(QLatin1Char('\n')));
     }
     return all;
+}
+
+QString fileWithTwoTexts(const QList<FamilyDocument*>& documents)
+{
+    QMap<QString, QList<FamilyDocument*>> byFile;
+    for (FamilyDocument* document : documents) {
+        byFile[document->fileName()].append(document);
+    }
+    byFile.remove(QString());
+    for (auto it = byFile.constBegin(); it != byFile.constEnd(); ++it) {
+        if (!haveOneText(it.value())) {
+            return it.key();
+        }
+    }
+    return {};
 }
 
 bool askAboutUnsaved(const QList<FamilyDocument*>& documents)

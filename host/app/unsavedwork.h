@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QString>
 
 namespace Family {
 class FamilyDocument;
@@ -8,7 +9,7 @@ class FamilyDocument;
 
 namespace App {
 
-/// Saves documents that have a file, one after the other; failures are told at
+/// Saves documents, one after the other; one without a name is asked for it; failures are told at
 /// the end, all at once. Of several documents of one file with different texts the
 /// person chooses one, and the others read it. True if all is done.
 bool saveDocuments(QList<Family::FamilyDocument*> documents);
@@ -17,5 +18,9 @@ bool saveDocuments(QList<Family::FamilyDocument*> documents);
 /// discarded, or neither. True if they can be closed. Nothing is asked for an
 /// empty list.
 bool askAboutUnsaved(const QList<Family::FamilyDocument*>& documents);
+
+/// A file that several of the documents have, with different texts; empty if
+/// there is none.
+QString fileWithTwoTexts(const QList<Family::FamilyDocument*>& documents);
 
 }  // namespace App

@@ -153,16 +153,25 @@ QString lineEndNote(const Zorv::CodeDocument* document)
                : QString();
 }
 
-Saved saveDocument(Zorv::CodeDocument* document, const QString& fileName, QString* error)
+bool settleEncoding(Zorv::CodeDocument* document)
 {
     const QString obstacle = encodingObstacle(document);
+    if (obstacle.isEmpty()) {
+        return true;
+    }
+    const QStringList choices{Text::tr("Save it in UTF-8"), Text::tr("Do not save")};
+    if (Zorv::Dialogs::instance()->choose(Text::tr("Encoding"), obstacle, choices, 0) != 0) {
+        return false;
+    }
+    document->setCodec("UTF-8");
+    return true;
+}
+
+Saved saveDocument(Zorv::CodeDocument* document, const QString& fileName, QString* error)
+{
     const int oldCodec = document->codecId();
-    if (!obstacle.isEmpty()) {
-        const QStringList choices{Text::tr("Save it in UTF-8"), Text::tr("Do not save")};
-        if (Zorv::Dialogs::instance()->choose(Text::tr("Encoding"), obstacle, choices, 0) != 0) {
-            return Saved::GivenUp;
-        }
-        document->setCodec("UTF-8");
+    if (!settleEncoding(document)) {
+        return Saved::GivenUp;
     }
     if (document->toFile(*Zorv::FileSystemArchive::instance(), fileName, false)) {
         return Saved::Done;

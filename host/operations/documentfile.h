@@ -33,6 +33,10 @@ QString encodingObstacle(const Zorv::CodeDocument* document);
 /// they stay.
 QString lineEndNote(const Zorv::CodeDocument* document);
 
+/// Offers UTF-8, through `Zorv::Dialogs`, for a document whose codec lacks one of
+/// its characters. False if the person gives up.
+bool settleEncoding(Zorv::CodeDocument* document);
+
 /// How a save ended.
 enum class Saved {
     Done,

@@ -1,0 +1,220 @@
+#include "app/game/gamecommands.h"
+
+#include "app/documenttabs.h"
+#include "app/game/backupnamedialog.h"
+#include "app/game/restoredialog.h"
+#include "app/gamesession.h"
+#include "app/mainwindow.h"
+#include "app/recentfolders.h"
+#include "app/statusfields.h"
+#include "app/unsavedwork.h"
+#include "core/dialogs/dialogs.h"
+#include "family/familydocument.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "operations/backups.h"
+#include "operations/documentfile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace App {
+
+using Family::BackupResult;
+using Family::FamilyDocument;
+using Family::FamilyParentProject;
+using Family::FamilyProject;
+using Zorv::Dialogs;
+
+namespace {
+
+constexpr int MaxNames = 12;
+
+QString namesOf(const QStringList& paths)
+{
+    QStringList names = paths.mid(0, MaxNames);
+    if (paths.size() > MaxNames) {
+        names.append(GameCommands::tr("and %1 more").arg(paths.size() - MaxNames));
+    }
+    return QDir::toNativeSeparators(names.join(QLatin1Char('\n')));
+}
+
+QString paragraph(const QString& text, const QStringList& paths)
+{
+    return paths.isEmpty() ? QString() : text + QLatin1String("\n") + namesOf(paths);
+}
+
+}  // namespace
+
+GameCommands::GameCommands(MainWindow* window) : QObject(window), m_window(window) {}
+
+void GameCommands::makeBackup()
+{
+    FamilyParentProject* game = m_window->session()->game();
+    BackupNameDialog dialog(m_window);
+    if (!game || dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    QStringList errors;
+    const QList<FamilyProject*> others =
+        dialog.wantsAll() ? Family::openAllProjects(game, &errors) : QList<FamilyProject*>();
+    BackupResult result = Family::makeBackup(game, dialog.name());
+    Family::closeProjects(others);
+    result.failed = errors + result.failed;
+    tell(tr("Back up"), tr("The backup is in %1.").arg(result.folder), result);
+}
+
+void GameCommands::restoreBackup()
+{
+    FamilyParentProject* game = m_window->session()->game();
+    if (!game) {
+        return;
+    }
+    RestoreDialog dialog(m_window, *game);
+    if (dialog.exec() != QDialog::Accepted || dialog.folder().isEmpty() ||
+        !askAboutUnsaved(m_window->session()->modifiedDocuments())) {
+        return;
+    }
+    const BackupResult result = Family::restoreBackup(game, dialog.folder());
+    tell(tr("Restore backup"),
+         result.folder.isEmpty()
+             ? tr("The backup is restored.")
+             : tr("The backup is restored. What it replaced is in %1.").arg(result.folder),
+         result);
+}
+
+void GameCommands::tell(const QString& title, const QString& done, const BackupResult& result) const
+{
+    QStringList parts{result.error,
+                      paragraph(tr("These could not be copied:"), result.failed),
+                      paragraph(tr("These are named by a project and not there:"), result.missing)};
+    parts.removeAll(QString());
+    if (result.isCanceled) {
+        m_window->status()->showField(0, tr("Given up."));
+    } else if (result.error.isEmpty()) {
+        m_window->status()->showField(0, done);
+    }
+    if (!result.error.isEmpty()) {
+        Dialogs::instance()->error(title, parts.join(QLatin1String("\n\n")));
+    } else if (!parts.isEmpty()) {
+        Dialogs::instance()->warning(title, parts.join(QLatin1String("\n\n")));
+    }
+}
+
+void GameCommands::refresh()
+{
+    QStringList errors;
+    for (FamilyProject* project : m_window->session()->projects()) {
+        project->loadFiles();
+        errors += project->loadErrors();
+    }
+    if (!errors.isEmpty()) {
+        m_window->status()->showField(0, errors.first());
+    }
+    emit gameChanged();
+}
+
+/// A loose project has the new name of its main file, with a suffix, anything else
+/// a folder with "/" at its end. Empty if the person gives up.
+QString GameCommands::askForPlace(bool* isFile) const
+{
+    const FamilyParentProject* game = m_window->session()->game();
+    const QList<FamilyProject*> projects = m_window->session()->projects();
+    *isFile = projects.size() == 1 && !game->isGame();
+    const QString title = tr("Save all as");
+    if (!*isFile) {
+        const QString folder =
+            Dialogs::instance()->existingFolder(m_window, title, game->absolutePath());
+        return folder.isEmpty() || !mayWriteInto(folder)
+                   ? QString()
+                   : QDir(folder).absolutePath() + QLatin1Char('/');
+    }
+    const FamilyDocument* document = projects.first()->mainDocument();
+    const QString suffix = Family::fileSuffix(document->kind());
+    QString name = Dialogs::instance()->saveFileName(
+        m_window, title, document->fileName(),
+        QStringLiteral("%1 (*%2)").arg(Family::fileKindName(document->kind()), suffix));
+    if (!name.isEmpty() && !name.endsWith(suffix, Qt::CaseInsensitive)) {
+        name += suffix;
+    }
+    return name.isEmpty() || !mayWriteInto(QFileInfo(name).absolutePath()) ? QString() : name;
+}
+
+bool GameCommands::mayWriteInto(const QString& folder) const
+{
+    const QString shown = QDir::toNativeSeparators(folder);
+    const QDir root(m_window->session()->folder());
+    const QDir target(folder);
+    const QString below = target.absolutePath() + QLatin1Char('/');
+    if (below.startsWith(root.absolutePath() + QLatin1Char('/')) ||
+        target.canonicalPath() == root.canonicalPath()) {
+        Dialogs::instance()->warning(
+            tr("Save all as"),
+            tr("%1 lies in the folder of the game. Choose a folder outside of it.").arg(shown));
+        return false;
+    }
+    return target.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
+                          QDir::NoDotAndDotDot) ||
+           Dialogs::instance()->question(
+               tr("Save all as"),
+               tr("There are files in %1. Those with the names of files of the game are "
+                  "overwritten. Save there?")
+                   .arg(shown),
+               Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
+}
+
+bool GameCommands::settleTwins() const
+{
+    const QString file = fileWithTwoTexts(m_window->session()->modifiedDocuments());
+    if (!file.isEmpty()) {
+        Dialogs::instance()->warning(
+            tr("Save all as"), tr("%1 was changed in several projects in different ways. Save it "
+                                  "first, and choose the text that stays.")
+                                   .arg(QDir::toNativeSeparators(file)));
+    }
+    return file.isEmpty();
+}
+
+bool GameCommands::settleEncodings() const
+{
+    const QList<FamilyDocument*> documents = m_window->session()->modifiedDocuments();
+    for (FamilyDocument* document : documents) {
+        if (!Family::settleEncoding(document)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void GameCommands::saveAllAs()
+{
+    FamilyParentProject* game = m_window->session()->game();
+    bool isFile = false;
+    const QString place =
+        game && settleTwins() && settleEncodings() ? askForPlace(&isFile) : QString();
+    if (place.isEmpty()) {
+        return;
+    }
+    const QString oldRoot = game->absolutePath();
+    game->saveAs(place);
+    const bool hasMoved = game->absolutePath() != oldRoot;
+    const QString shown = QDir::toNativeSeparators(game->absolutePath());
+    const QString failed = paragraph(tr("These files could not be written:"), game->failedFiles());
+    if (hasMoved) {
+        RecentFolders::add(game->absolutePath());
+        m_window->status()->showField(0, tr("All is saved in %1.").arg(shown));
+    } else if (game->wasCanceled()) {
+        m_window->status()->showField(0, tr("Given up; the work goes on in %1.").arg(shown));
+    }
+    emit gameChanged();
+    if (hasMoved && !failed.isEmpty()) {
+        Dialogs::instance()->warning(tr("Save all as"), failed);
+    } else if (!hasMoved && !game->wasCanceled()) {
+        Dialogs::instance()->error(
+            tr("Save all as"),
+            tr("The game could not be saved there. The work goes on in %1.").arg(shown) +
+                QLatin1String("\n\n") + failed);
+    }
+}
+
+}  // namespace App

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "operations/backups.h"
+
+#include <QDialog>
+
+class QLabel;
+class QPushButton;
+class QTreeWidget;
+
+namespace App {
+
+/// Lists the backups of a game, and what restoring each would do to its files.
+class RestoreDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// The game must outlive the dialog.
+    RestoreDialog(QWidget* parent, const Family::FamilyParentProject& game);
+
+    /// The folder of the chosen backup; empty if there is none.
+    QString folder() const;
+
+private:
+    void makeLists();
+    void fillBackups();
+    void showFiles();
+
+    const Family::FamilyParentProject& m_game;
+    QVector<Family::Backup> m_backups;
+    QTreeWidget* m_list;
+    QTreeWidget* m_files;
+    QLabel* m_summary;
+    QPushButton* m_restore;
+};
+
+}  // namespace App

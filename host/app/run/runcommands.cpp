@@ -1,0 +1,168 @@
+#include "app/run/runcommands.h"
+
+#include "app/gamesession.h"
+#include "app/mainwindow.h"
+#include "app/run/outputpanel.h"
+#include "core/dialogs/dialogs.h"
+#include "core/run/temporarycopies.h"
+#include "family/project/familyparentproject.h"
+
+#include <QDir>
+#include <QPointer>
+#include <QTimer>
+
+#include <utility>
+
+namespace App {
+
+using Zorv::Dialogs;
+using Zorv::RunResult;
+
+namespace {
+
+constexpr int MaxNames = 12;
+
+QString namesOf(const QStringList& paths)
+{
+    QStringList names;
+    for (const QString& path : paths.mid(0, MaxNames)) {
+        names.append(QDir::toNativeSeparators(path));
+    }
+    if (paths.size() > MaxNames) {
+        names.append(RunCommands::tr("and %1 more").arg(paths.size() - MaxNames));
+    }
+    return names.join(QLatin1Char('\n'));
+}
+
+}  // namespace
+
+RunCommands::RunCommands(MainWindow* window)
+    : QObject(window), m_window(window), m_panel(new OutputPanel)
+{
+    connect(window->session(), &GameSession::folderOpened, this, &RunCommands::followGame);
+}
+
+void RunCommands::followGame()
+{
+    using Zorv::ParentProject;
+    const ParentProject* game = m_window->session()->game();
+    connect(game, &ParentProject::engineStarted, this,
+            [this](const QString& program, const QStringList& arguments) {
+                m_panel->addNote(tr("Started: %1").arg((QStringList{program} + arguments).join(' ')));
+                m_panel->parentWidget()->show();
+                emit stateChanged();
+            });
+    connect(game, &ParentProject::engineOutput, m_panel, &OutputPanel::add);
+}
+
+void RunCommands::run()
+{
+    const QPointer<Family::FamilyParentProject> game = m_window->session()->game();
+    if (!game) {
+        return;
+    }
+    const QPointer<RunCommands> self = this;
+    ++m_runs;
+    emit stateChanged();
+    // Everything may have been closed when this comes back.
+    game->run();
+    if (!self) {
+        return;
+    }
+    --m_runs;
+    if (game && m_runs == 0) {
+        noteEnd(game->runResult());
+        tell(game->runResult());
+    }
+    emit stateChanged();
+    if (m_runs == 0 && m_then) {
+        QTimer::singleShot(0, this, std::exchange(m_then, nullptr));
+    }
+}
+
+void RunCommands::stop()
+{
+    if (Family::FamilyParentProject* game = m_window->session()->game()) {
+        game->stopEngine();
+    }
+}
+
+bool RunCommands::mayClose(const std::function<void()>& then)
+{
+    if (!isRunning()) {
+        return true;
+    }
+    const int answer = Dialogs::instance()->choose(
+        tr("Engine"), tr("The engine is still running on the work in this window."),
+        {tr("End the engine")}, 0);
+    if (answer == 0 && isRunning()) {
+        m_then = then;
+        stop();
+    }
+    return answer == 0 && !isRunning();
+}
+
+void RunCommands::noteEnd(const RunResult& result)
+{
+    switch (result.outcome) {
+    case RunResult::Ended:
+        m_panel->addNote(tr("Ended with code %1.").arg(result.exitCode));
+        break;
+    case RunResult::Crashed:
+        m_panel->addNote(tr("The engine has crashed."));
+        break;
+    case RunResult::Stopped:
+        m_panel->addNote(tr("Ended by you."));
+        break;
+    case RunResult::NotStarted:
+        m_panel->addNote(tr("Could not be started: %1").arg(result.program));
+        break;
+    default:
+        break;
+    }
+}
+
+void RunCommands::tell(const RunResult& result)
+{
+    if (!result.failedFiles.isEmpty()) {
+        Dialogs::instance()->warning(
+            tr("Engine"), tr("The engine ran without these files, which could not be copied for "
+                             "it:") +
+                              QLatin1String("\n\n") + namesOf(result.failedFiles));
+    }
+    if (!result.leftCopies.isEmpty()) {
+        Dialogs::instance()->warning(
+            tr("Engine"), tr("These temporary copies could not be removed. They are offered for "
+                             "removal at the next start:") +
+                              QLatin1String("\n\n") + namesOf(result.leftCopies));
+    }
+}
+
+void RunCommands::offerLeftovers()
+{
+    using Zorv::TemporaryCopies;
+    const QList<TemporaryCopies::Leftover> all = TemporaryCopies::leftovers();
+    QStringList paths;
+    for (const TemporaryCopies::Leftover& leftover : all) {
+        paths += leftover.paths;
+    }
+    if (paths.isEmpty() ||
+        Dialogs::instance()->choose(
+            tr("Temporary copies"),
+            tr("An earlier run of the engine was cut off. These temporary copies of it are left:") +
+                QLatin1String("\n\n") + namesOf(paths),
+            {tr("Remove them")}, 0) != 0) {
+        return;
+    }
+    QStringList left;
+    for (const TemporaryCopies::Leftover& leftover : all) {
+        left += TemporaryCopies::removeLeftover(leftover);
+    }
+    if (!left.isEmpty()) {
+        Dialogs::instance()->warning(tr("Temporary copies"),
+                                     tr("These could not be removed:") + QLatin1String("\n\n") +
+                                         namesOf(left));
+    }
+}
+
+}  // namespace App
