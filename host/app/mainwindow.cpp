@@ -2,9 +2,11 @@
 
 #include "app/actions/actionregistry.h"
 #include "app/actions/actiontable.h"
+#include "app/actions/shortcutguard.h"
 #include "app/actions/windowactions.h"
 #include "app/animationpanel.h"
 #include "app/codeedit.h"
+#include "app/controls/controlplacer.h"
 #include "app/documenttabs.h"
 #include "app/gamesession.h"
 #include "app/gametree.h"
@@ -17,6 +19,8 @@
 #include "app/unsavedwork.h"
 #include "app/windowstate.h"
 #include "core/dialogs/dialogs.h"
+#include "core/interface.h"
+#include "editors/framework/editor.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
@@ -31,13 +35,6 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
-
-// The library is a static one: nothing else brings its resources in. Qt's macro
-// names a function of the global namespace.
-static void loadResources()
-{
-    Q_INIT_RESOURCE(host_icons);
-}
 
 namespace App {
 
@@ -78,9 +75,9 @@ MainWindow::MainWindow(QWidget* parent)
       m_hint(new QLabel), m_tabs(new DocumentTabs), m_lineBar(new LineBar), m_gameTree(new GameTree),
       m_nodePanel(new NodePanel), m_animationPanel(new AnimationPanel),
       m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar())),
-      m_actions(new WindowActions(this))
+      m_actions(new WindowActions(this)), m_controls(new ControlPlacer(this, m_actions))
 {
-    loadResources();
+    new ShortcutGuard(this, registry());
     makeCentre();
     makeDocks();
     connectParts();
@@ -88,6 +85,7 @@ MainWindow::MainWindow(QWidget* parent)
     retranslate();
     currentDocumentChanged(nullptr);
     WindowState::restoreShape(this);
+    m_controls->updateVisibility();
 }
 
 // Views go before what they show.
@@ -152,6 +150,7 @@ void MainWindow::retranslate()
     m_hint->setText(tr("Open a game folder with Ctrl+O.\n"
                        "A double click in the tree of projects shows a text."));
     m_actions->retranslate();
+    m_controls->retranslate();
     updateTitle();
 }
 /// Texts keep the colours that they were given, and their messages the language.
@@ -410,9 +409,21 @@ void MainWindow::updateNow()
 
 void MainWindow::updateActions()
 {
-    registry()->setActiveAreas(m_tabs->currentEdit() ? QSet<QString>{QStringLiteral("code")}
-                                                     : QSet<QString>());
+    registry()->setActiveAreas(activeAreas());
     m_actions->update(presentNeeds());
+}
+
+QSet<QString> MainWindow::activeAreas() const
+{
+    QSet<QString> areas;
+    if (m_tabs->currentEdit()) {
+        areas.insert(QStringLiteral("code"));
+    }
+    if (const Zorv::Editor* editor = Zorv::Interface::instance()->currentEditor()) {
+        const QStringList names = editor->areas();
+        areas.unite({names.begin(), names.end()});
+    }
+    return areas;
 }
 
 int MainWindow::presentNeeds() const

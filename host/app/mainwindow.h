@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QSet>
 
 class QDockWidget;
 class QLabel;
@@ -20,6 +21,7 @@ namespace App {
 class ActionRegistry;
 class AnimationPanel;
 class CodeEdit;
+class ControlPlacer;
 class DocumentTabs;
 class GameSession;
 class GameTree;
@@ -75,6 +77,13 @@ public:
 
     /// Every action of the program, with its texts and keys.
     ActionRegistry* registry() const;
+
+    /// The tools that editors publish.
+    ControlPlacer* controls() const { return m_controls; }
+
+    /// The areas that are active: "code" while a text is in front, and those of the
+    /// current editor.
+    QSet<QString> activeAreas() const;
 
     /// What is there for actions to work on: flags of `Need`.
     int presentNeeds() const;
@@ -155,6 +164,7 @@ private:
     MessagePanel* m_messagePanel;
     StatusFields* m_status;
     WindowActions* m_actions;
+    ControlPlacer* m_controls;
     bool m_isUpdatePending = false;
 };
 

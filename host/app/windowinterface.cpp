@@ -1,27 +1,17 @@
 #include "app/windowinterface.h"
 
+#include "app/controls/controlplacer.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
 #include "app/progressdialog.h"
 #include "app/statusfields.h"
 #include "family/project/familyproject.h"
 
-#include <QAction>
-#include <QMenu>
-
 namespace App {
 
 namespace {
 
 constexpr double ReferenceResolution = 96;
-
-// "anim_frame_add" becomes "Anim frame add".
-QString readableName(const QString& name)
-{
-    QString text = name;
-    text.replace(QLatin1Char('_'), QLatin1Char(' '));
-    return text.left(1).toUpper() + text.mid(1);
-}
 
 }  // namespace
 
@@ -73,39 +63,32 @@ QMenu* WindowInterface::menu(const char* name) const
     return m_window ? m_window->menuByName(name) : nullptr;
 }
 
-QAction* WindowInterface::createAction(const char* const*, const QString& name, Zorv::Translator*,
-                                       unsigned, const char* shortcut, QObject* receiver,
-                                       const char* slot, const char* enableSignal,
-                                       const char* checkSignal)
+QAction* WindowInterface::createAction(const char* const* areas, const QString& name,
+                                       Zorv::Translator* translator, unsigned textId,
+                                       const char* shortcut, QObject* receiver, const char* slot,
+                                       const char* enableSignal, const char* checkSignal)
 {
-    if (!m_window) {
-        return nullptr;
-    }
-    auto* action = new QAction(readableName(name), m_window);
-    action->setObjectName(name);
-    const QVariant chosen = option(QLatin1String("shortcut_") + name);
-    action->setShortcut(
-        QKeySequence(chosen.isValid() ? chosen.toString() : QString::fromLatin1(shortcut),
-                     QKeySequence::PortableText));
-    m_window->addAction(action);
-    if (receiver && slot) {
-        QObject::connect(action, SIGNAL(triggered(bool)), receiver, slot);
-    }
-    const QObject* source = receiver;
-    if (source && enableSignal) {
-        QObject::connect(source, enableSignal, action, SLOT(setEnabled(bool)));
-    }
-    if (source && checkSignal) {
-        action->setCheckable(true);
-        QObject::connect(source, checkSignal, action, SLOT(setChecked(bool)));
-    }
-    return action;
+    return m_window ? m_window->controls()->createAction({areas, name, translator, textId, shortcut,
+                                                          receiver, slot, enableSignal,
+                                                          checkSignal})
+                    : nullptr;
 }
 
-void WindowInterface::setMenuEnabled(const char* name, const char*, bool enabled)
+QAction* WindowInterface::createEditorAction(const QString& name, Zorv::Translator* translator,
+                                             unsigned textId)
 {
-    if (QMenu* found = menu(name)) {
-        found->menuAction()->setVisible(enabled);
+    return m_window ? m_window->controls()->createEditorAction(name, translator, textId) : nullptr;
+}
+
+QObject* WindowInterface::addControl(const QString& name, const Zorv::Control& control)
+{
+    return m_window ? m_window->controls()->addControl(name, control) : nullptr;
+}
+
+void WindowInterface::setMenuEnabled(const char* menu, const char* group, bool enabled)
+{
+    if (m_window) {
+        m_window->controls()->setMenuEnabled(menu, group, enabled);
     }
 }
 

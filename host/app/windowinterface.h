@@ -29,16 +29,19 @@ public:
     /// other number shows a passing text.
     void showStatus(int field, const QString& text) override;
 
-    /// "anim" and "view"; null for any other name.
+    /// Those of the menu bar: "anim", "view", "spr", "pal", "snd" and the window's own. The
+    /// middle three are hidden until something stands in them.
     QMenu* menu(const char* name) const override;
 
-    /// The action's texts are its name, as long as there is no table of texts.
-    /// A shortcut of the settings, "shortcut_" and the name, goes before `shortcut`.
+    /// Tools stand where `controllayout.h` tells; see `ControlPlacer`.
+    QObject* addControl(const QString& name, const Zorv::Control& control) override;
     QAction* createAction(const char* const* areas, const QString& name,
                           Zorv::Translator* translator, unsigned textId, const char* shortcut,
                           QObject* receiver, const char* slot, const char* enableSignal,
                           const char* checkSignal) override;
-    void setMenuEnabled(const char* name, const char* group, bool enabled) override;
+    QAction* createEditorAction(const QString& name, Zorv::Translator* translator,
+                                unsigned textId) override;
+    void setMenuEnabled(const char* menu, const char* group, bool enabled) override;
 
     /// Reads the files of all open projects again.
     void refreshProjects() override;

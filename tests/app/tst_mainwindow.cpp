@@ -524,13 +524,15 @@ void tst_MainWindow::servesTheLibrary()
     QVERIFY(!host->projectAt(2));
     QCOMPARE(host->currentProject(), window()->currentProject());
     QCOMPARE(host->menu("anim"), window()->menuByName("anim"));
-    QVERIFY(host->menu("view") && !host->menu("pal"));
+    QVERIFY(host->menu("view") && host->menu("pal") && !host->menu("none"));
     host->showStatus(2, QStringLiteral("Encoding: none"));
     QCOMPARE(window()->status()->encodingText(), QStringLiteral("Encoding: none"));
 
     QAction* action =
         host->createAction(nullptr, QStringLiteral("text_end"), nullptr, 0, "Ctrl+T", m->edit(),
                            SLOT(selectAll()), SIGNAL(copyAvailable(bool)), nullptr);
+    QVERIFY(!action->isEnabled());
+    m->press(Qt::Key_End, Qt::ShiftModifier);
     QTest::keyClick(m->edit(), Qt::Key_T, Qt::ControlModifier);
     QVERIFY(m->edit()->textCursor().hasSelection());
     m->press(Qt::Key_Home, Qt::ControlModifier);

@@ -111,7 +111,7 @@ ActionRegistry::~ActionRegistry()
     }
 }
 
-void ActionRegistry::add(QAction* action, const ActionInfo& info)
+AreaGate* ActionRegistry::add(QAction* action, const ActionInfo& info)
 {
     const Entry old = d->entries.value(info.name);
     if (old.action) {
@@ -133,6 +133,7 @@ void ActionRegistry::add(QAction* action, const ActionInfo& info)
         emit changed();
     });
     emit changed();
+    return gate;
 }
 
 QStringList ActionRegistry::names() const

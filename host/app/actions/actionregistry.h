@@ -16,6 +16,7 @@ class QMenu;
 namespace App {
 
 class ActiveAreas;
+class AreaGate;
 
 /// What is known of an action when it comes into the registry.
 struct ActionInfo
@@ -51,8 +52,9 @@ public:
     explicit ActionRegistry(QObject* parent = nullptr);
     ~ActionRegistry() override;
 
-    /// Takes an action in. One that has the name already is forgotten.
-    void add(QAction* action, const ActionInfo& info);
+    /// Takes an action in. One that has the name already is forgotten. Gives the
+    /// action's gate, which is a child of it.
+    AreaGate* add(QAction* action, const ActionInfo& info);
 
     /// The names, in the order in which the actions came.
     QStringList names() const;

@@ -17,6 +17,9 @@ const QVector<MenuRow>& menuTable()
         {"file", QT_TRANSLATE_NOOP("App::Menus", "&File")},
         {"edit", QT_TRANSLATE_NOOP("App::Menus", "&Edit")},
         {"anim", QT_TRANSLATE_NOOP("App::Menus", "&Animation")},
+        {"spr", QT_TRANSLATE_NOOP("App::Menus", "Sp&rites"), true},
+        {"pal", QT_TRANSLATE_NOOP("App::Menus", "Pa&lettes"), true},
+        {"snd", QT_TRANSLATE_NOOP("App::Menus", "S&ounds"), true},
         {"view", QT_TRANSLATE_NOOP("App::Menus", "&View")},
         {"help", QT_TRANSLATE_NOOP("App::Menus", "&Help")},
     };

@@ -7,8 +7,16 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QMenu>
 #include <QMenuBar>
+
+// The library is a static one: nothing else brings its resources in. Qt's macro
+// names a function of the global namespace.
+static void loadResources()
+{
+    Q_INIT_RESOURCE(host_icons);
+}
 
 namespace App {
 
@@ -33,6 +41,7 @@ QString menuTitle(const MenuRow& row)
 WindowActions::WindowActions(MainWindow* window)
     : QObject(window), m_window(window), m_registry(new ActionRegistry(this))
 {
+    loadResources();
     makeMenus();
     makeActions();
     makeRecentMenu();
@@ -46,6 +55,10 @@ void WindowActions::makeMenus()
         made->setObjectName(QLatin1String(row.name));
         made->setToolTipsVisible(true);
         m_menus.insert(row.name, made);
+        if (row.isForEditors) {
+            made->menuAction()->setVisible(false);
+            made->installEventFilter(this);
+        }
     }
 }
 
@@ -78,6 +91,22 @@ void WindowActions::addSwitch(QAction* action, const QString& name)
 QMenu* WindowActions::menu(const char* name) const
 {
     return m_menus.value(name);
+}
+
+void WindowActions::showMenu(const char* name, bool isShown)
+{
+    if (QMenu* found = menu(name)) {
+        found->removeEventFilter(this);
+        found->menuAction()->setVisible(isShown);
+    }
+}
+
+bool WindowActions::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ActionAdded) {
+        static_cast<QMenu*>(watched)->menuAction()->setVisible(true);
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void WindowActions::update(int present)

@@ -24,8 +24,12 @@ public:
     /// Every action of the program.
     ActionRegistry* registry() const { return m_registry; }
 
-    /// A menu of the menu bar by its short name; null for an unknown name.
+    /// A menu of the menu bar by its short name; null for an unknown name. Those for
+    /// editors are hidden until something stands in them.
     QMenu* menu(const char* name) const;
+
+    /// Shows or hides a menu, from now on whatever it holds.
+    void showMenu(const char* name, bool isShown);
 
     /// Puts the switch of a panel or a bar into the menu "view".
     void addSwitch(QAction* action, const QString& name);
@@ -35,6 +39,9 @@ public:
 
     /// All texts again, in the present language.
     void retranslate();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeMenus();

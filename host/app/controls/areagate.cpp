@@ -1,7 +1,5 @@
 #include "app/controls/areagate.h"
 
-#include "app/controls/activeareas.h"
-
 #include <QAction>
 #include <QVariant>
 
@@ -27,7 +25,7 @@ void AreaGate::setAllowed(bool isAllowed)
 // QAction and QWidget have the property in common, and no class that declares it.
 void AreaGate::apply()
 {
-    m_isEnabled = m_isAllowed && m_active->isAnyActive(m_areas);
+    m_isEnabled = m_isAllowed && m_active && m_active->isAnyActive(m_areas);
     parent()->setProperty("enabled", m_isEnabled);
 }
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QObject>
-#include <QStringList>
+#include "app/controls/activeareas.h"
+
+#include <QPointer>
 
 namespace App {
-
-class ActiveAreas;
 
 /// Keeps an action or a widget enabled while one of its areas is active and its owner allows
 /// it. Lives as a child of it.
@@ -29,7 +28,7 @@ private:
     void apply();
     void heedOwner();
 
-    const ActiveAreas* m_active;
+    QPointer<const ActiveAreas> m_active;  ///< may die before the last owner speaks
     QStringList m_areas;
     bool m_isAllowed;
     bool m_isEnabled = false;  ///< as it was set here last

@@ -1,0 +1,231 @@
+#include "app/controls/controlbars.h"
+
+#include "app/actions/windowactions.h"
+#include "app/controls/controllayout.h"
+#include "core/interface.h"
+
+#include <QDockWidget>
+#include <QEvent>
+#include <QMainWindow>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <vector>
+
+namespace App {
+
+namespace {
+
+const QString OffKey = QStringLiteral("bars_off");
+
+QStringList barsThatAreOff()
+{
+    return Zorv::Interface::instance()->option(OffKey).toStringList();
+}
+
+const BarRow* rowOf(const QString& name)
+{
+    const QVector<BarRow>& table = barTable();
+    const auto found = std::find_if(table.begin(), table.end(), [&name](const BarRow& row) {
+        return name == QLatin1String(row.name);
+    });
+    return found == table.end() ? nullptr : &*found;
+}
+
+}  // namespace
+
+struct ControlBars::Bar
+{
+    QString name;
+    const BarRow* row = nullptr;    // null for a bar that the table does not have
+    QToolBar* tools = nullptr;      // the bar itself, or the one at the top of the panel
+    QDockWidget* panel = nullptr;   // null for a tool bar
+    QVBoxLayout* layout = nullptr;  // of the panel
+    bool isGroupEnabled = true;
+
+    QWidget* host() const { return panel ? static_cast<QWidget*>(panel) : tools; }
+
+    QAction* visibilitySwitch() const
+    {
+        return panel ? panel->toggleViewAction() : tools->toggleViewAction();
+    }
+
+    // The first item of a panel's layout is its tool bar.
+    bool isEmpty() const { return tools->actions().isEmpty() && (!layout || layout->count() < 2); }
+};
+
+struct ControlBars::Private
+{
+    QMainWindow* window;
+    WindowActions* actions;
+    std::vector<std::unique_ptr<Bar>> bars;
+    bool isUpdatePending = false;
+};
+
+ControlBars::ControlBars(QMainWindow* window, WindowActions* actions)
+    : QObject(window), d(std::make_unique<Private>())
+{
+    d->window = window;
+    d->actions = actions;
+    // The saved state of a window has places for panels that come later, but none for tool bars.
+    for (const BarRow& row : barTable()) {
+        if (row.kind == BarRow::ToolBar) {
+            makeBar(QLatin1String(row.name));
+        }
+    }
+}
+
+ControlBars::~ControlBars() = default;
+
+ControlBars::Bar* ControlBars::bar(const QString& name)
+{
+    const auto found = std::find_if(d->bars.begin(), d->bars.end(),
+                                    [&name](const auto& bar) { return bar->name == name; });
+    return found == d->bars.end() ? makeBar(name) : found->get();
+}
+
+ControlBars::Bar* ControlBars::makeBar(const QString& name)
+{
+    d->bars.push_back(std::make_unique<Bar>());
+    Bar* made = d->bars.back().get();
+    made->name = name;
+    made->row = rowOf(name);
+    if (made->row && made->row->kind == BarRow::Panel) {
+        makePanel(made);
+    } else {
+        makeToolBar(made);
+    }
+    addSwitch(made);
+    retranslate();
+    return made;
+}
+
+void ControlBars::makeToolBar(Bar* bar)
+{
+    bar->tools = new QToolBar(d->window);
+    bar->tools->setObjectName(bar->name + QLatin1String("_bar"));
+    bar->tools->hide();
+    d->window->addToolBar(bar->row ? Qt::ToolBarArea(bar->row->area) : Qt::TopToolBarArea,
+                          bar->tools);
+}
+
+void ControlBars::makePanel(Bar* bar)
+{
+    bar->panel = new QDockWidget(d->window);
+    bar->panel->setObjectName(bar->name);
+    auto* content = new QWidget;
+    bar->layout = new QVBoxLayout(content);
+    bar->layout->setContentsMargins(0, 0, 0, 0);
+    bar->tools = new QToolBar;
+    bar->layout->addWidget(bar->tools);
+    bar->panel->setWidget(content);
+    bar->panel->hide();
+    d->window->addDockWidget(Qt::DockWidgetArea(bar->row->area), bar->panel);
+    d->window->restoreDockWidget(bar->panel);
+    bar->panel->installEventFilter(this);
+}
+
+void ControlBars::addSwitch(const Bar* bar)
+{
+    QAction* action = bar->visibilitySwitch();
+    action->setVisible(false);
+    connect(action, &QAction::triggered, this,
+            [this, name = bar->name](bool isOn) { setOff(name, !isOn); });
+    d->actions->addSwitch(action, bar->host()->objectName());
+}
+
+/// Whoever closes a panel by its own button has switched it off.
+bool ControlBars::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Close) {
+        setOff(watched->objectName(), true);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ControlBars::setOff(const QString& name, bool isOff)
+{
+    QStringList names = barsThatAreOff();
+    names.removeAll(name);
+    if (isOff) {
+        names.append(name);
+    }
+    Zorv::Interface::instance()->setOption(OffKey, names.isEmpty() ? QVariant() : names);
+    updateSoon();
+}
+
+QToolButton* ControlBars::addButton(const QString& name, QAction* action)
+{
+    Bar* found = bar(name);
+    found->tools->addAction(action);
+    connect(action, &QObject::destroyed, this, &ControlBars::updateSoon);
+    updateSoon();
+    return qobject_cast<QToolButton*>(found->tools->widgetForAction(action));
+}
+
+void ControlBars::addWidget(const QString& name, QWidget* widget, bool takesRoom)
+{
+    Bar* found = bar(name);
+    if (found->layout) {
+        found->layout->addWidget(widget, takesRoom ? 1 : 0);
+    } else {
+        QAction* place = found->tools->addWidget(widget);
+        connect(widget, &QObject::destroyed, place, &QObject::deleteLater);
+        connect(place, &QObject::destroyed, this, &ControlBars::updateSoon);
+    }
+    connect(widget, &QObject::destroyed, this, &ControlBars::updateSoon);
+    updateSoon();
+}
+
+void ControlBars::addSeparator(const QString& name)
+{
+    bar(name)->tools->addSeparator();
+}
+
+void ControlBars::setGroupEnabled(const QString& menu, const QString& group, bool isEnabled)
+{
+    for (const auto& each : d->bars) {
+        if (each->row && each->row->menu && menu == QLatin1String(each->row->menu) &&
+            group == QLatin1String(each->row->group)) {
+            each->isGroupEnabled = isEnabled;
+        }
+    }
+    updateVisibility();
+}
+
+/// Many tools come at once, and those that die are still there when they tell it.
+void ControlBars::updateSoon()
+{
+    if (!d->isUpdatePending) {
+        d->isUpdatePending = true;
+        QTimer::singleShot(0, this, &ControlBars::updateVisibility);
+    }
+}
+
+void ControlBars::updateVisibility()
+{
+    d->isUpdatePending = false;
+    const QStringList off = barsThatAreOff();
+    for (const auto& each : d->bars) {
+        const bool isUsed = !each->isEmpty() && each->isGroupEnabled;
+        each->visibilitySwitch()->setVisible(isUsed);
+        each->host()->setVisible(isUsed && !off.contains(each->name));
+        if (each->panel) {
+            each->tools->setVisible(!each->tools->actions().isEmpty());
+        }
+    }
+}
+
+void ControlBars::retranslate()
+{
+    for (const auto& each : d->bars) {
+        const QString title = each->row ? each->row->title.label() : each->name;
+        each->host()->setWindowTitle(title);
+        each->tools->setAccessibleName(title);
+    }
+}
+
+}  // namespace App

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+class QAction;
+class QMainWindow;
+class QToolButton;
+class QWidget;
+
+namespace App {
+
+class WindowActions;
+
+/// The tool bars and panels of the window that take published tools.
+///
+/// One is shown while something stands in it, its menu is not hidden and the person has not
+/// switched it off, which is kept as the setting "bars_off". Bars of the table have their place;
+/// any other name gets a tool bar at the end.
+class ControlBars : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Lives as a child of the window. The switches of the bars go to `actions`.
+    ControlBars(QMainWindow* window, WindowActions* actions);
+    ~ControlBars() override;
+
+    /// Puts a button into a bar, which is made if need be.
+    QToolButton* addButton(const QString& bar, QAction* action);
+
+    /// Puts a widget into a bar; `takesRoom` for one that takes all that is left in a panel.
+    /// The bar owns it.
+    void addWidget(const QString& bar, QWidget* widget, bool takesRoom = false);
+
+    void addSeparator(const QString& bar);
+
+    /// Allows the bars of a menu and a group, or hides them.
+    void setGroupEnabled(const QString& menu, const QString& group, bool isEnabled);
+
+    /// Shows what is to be shown. To be called after something else has changed that,
+    /// such as QMainWindow::restoreState().
+    void updateVisibility();
+
+    void retranslate();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Bar;
+    struct Private;
+
+    Bar* bar(const QString& name);
+    Bar* makeBar(const QString& name);
+    void makeToolBar(Bar* bar);
+    void makePanel(Bar* bar);
+    void addSwitch(const Bar* bar);
+    void setOff(const QString& name, bool isOff);
+    void updateSoon();
+
+    std::unique_ptr<Private> d;
+};
+
+}  // namespace App

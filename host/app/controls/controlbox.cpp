@@ -1,0 +1,172 @@
+#include "app/controls/controlbox.h"
+
+#include "app/actions/actiontext.h"
+#include "app/controls/controllink.h"
+#include "editors/framework/trwidgetcontrol.h"
+#include "text/translator.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListView>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTreeView>
+
+namespace App {
+
+using Zorv::WidgetControl;
+
+namespace {
+
+// The room of a control that asks for none, in characters and in rows.
+constexpr int UsualSliderWidth = 16;
+constexpr int UsualRows = 4;
+
+// What a field needs beside its text: frame and arrows.
+constexpr int FieldExtra = 4;
+
+int characters(const QWidget* widget, int count)
+{
+    return widget->fontMetrics().averageCharWidth() * count;
+}
+
+void setUpView(QAbstractItemView* view, const WidgetControl& control)
+{
+    const int rows = control.size() > 0 ? control.size() : UsualRows;
+    // It may be made smaller than it wants to be, but not to nothing.
+    view->setMinimumHeight(view->fontMetrics().lineSpacing() * qMin(rows, UsualRows));
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    if (control.flags() & WidgetControl::Reorderable) {
+        view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        view->setDragDropMode(QAbstractItemView::InternalMove);
+        view->setDefaultDropAction(Qt::MoveAction);
+        view->setDragDropOverwriteMode(false);
+    }
+}
+
+QListView* makeList(const WidgetControl& control)
+{
+    auto* list = new QListView;
+    // A list may have as many rows as a game has sprites.
+    list->setUniformItemSizes(true);
+    setUpView(list, control);
+    return list;
+}
+
+QTreeView* makeTree(const WidgetControl& control)
+{
+    auto* tree = new QTreeView;
+    tree->setUniformRowHeights(true);
+    tree->setHeaderHidden(true);
+    setUpView(tree, control);
+    return tree;
+}
+
+QSlider* makeSlider(const WidgetControl& control)
+{
+    auto* slider = new QSlider(Qt::Horizontal);
+    slider->setMinimumWidth(
+        characters(slider, control.size() > 0 ? control.size() : UsualSliderWidth));
+    return slider;
+}
+
+QLabel* makeText(const WidgetControl& control)
+{
+    auto* label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setMinimumWidth(characters(label, control.size()));
+    return label;
+}
+
+template <typename Field>
+Field* makeField(const WidgetControl& control)
+{
+    auto* field = new Field;
+    if (control.size() > 0) {
+        field->setMinimumWidth(characters(field, control.size() + FieldExtra));
+    }
+    return field;
+}
+
+QWidget* makeWidget(const WidgetControl& control)
+{
+    switch (control.kind()) {
+    case WidgetControl::Slider:
+        return makeSlider(control);
+    case WidgetControl::Label:
+        return makeText(control);
+    case WidgetControl::CheckBox:
+        return new QCheckBox;
+    case WidgetControl::SpinEdit:
+        return makeField<QSpinBox>(control);
+    case WidgetControl::FloatEdit:
+        return makeField<QDoubleSpinBox>(control);
+    case WidgetControl::ComboBox:
+        return makeField<QComboBox>(control);
+    case WidgetControl::TreeView:
+        return makeTree(control);
+    case WidgetControl::ListView:
+        break;
+    }
+    return makeList(control);
+}
+
+}  // namespace
+
+ControlBox::ControlBox(const QString& name, const WidgetControl& control, QWidget* parent)
+    : QWidget(parent), m_field(makeWidget(control))
+{
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    makeLabel(control);
+    layout->addWidget(m_field, 1);
+    m_field->setObjectName(name);
+    new ControlLink(m_field, control);
+    retranslate();
+}
+
+void ControlBox::makeLabel(const WidgetControl& control)
+{
+    const auto* translated = dynamic_cast<const Zorv::trWidgetControl*>(&control);
+    if (!translated || !translated->translator()) {
+        return;
+    }
+    m_translator = translated->translator();
+    m_textId = translated->textId();
+    // A check box has a text itself.
+    if (control.kind() != WidgetControl::CheckBox) {
+        m_label = new QLabel;
+        m_label->setBuddy(m_field);
+        layout()->addWidget(m_label);
+    }
+}
+
+bool ControlBox::isView() const
+{
+    return qobject_cast<QAbstractItemView*>(m_field);
+}
+
+void ControlBox::retranslate()
+{
+    if (!m_translator) {
+        return;
+    }
+    const QString text = m_translator->trText(m_textId);
+    const QString tip = m_translator->trToolTip(m_textId);
+    if (auto* check = qobject_cast<QCheckBox*>(m_field)) {
+        check->setText(text);
+    }
+    if (m_label) {
+        m_label->setText(text);
+        m_label->setToolTip(tip);
+    }
+    m_field->setToolTip(tip);
+    m_field->setStatusTip(tip);
+    m_field->setWhatsThis(m_translator->trWhatIsThis(m_textId));
+    m_field->setAccessibleName(ActionText::plain(text));
+}
+
+}  // namespace App

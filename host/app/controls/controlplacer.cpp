@@ -1,0 +1,197 @@
+#include "app/controls/controlplacer.h"
+
+#include "app/actions/actionregistry.h"
+#include "app/actions/windowactions.h"
+#include "app/controls/areagate.h"
+#include "app/controls/controlbars.h"
+#include "app/controls/controlbox.h"
+#include "app/controls/controllayout.h"
+#include "core/interface.h"
+#include "editors/framework/toolbuttoncontrol.h"
+#include "editors/framework/widgetcontrol.h"
+
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QMenu>
+#include <QToolButton>
+
+namespace App {
+
+namespace {
+
+const QString EditorPrefix = QStringLiteral("editor_");
+
+// "anim_frame_add" becomes "Anim frame add".
+QString readableName(const QString& name)
+{
+    QString text = name;
+    text.replace(QLatin1Char('_'), QLatin1Char(' '));
+    return text.left(1).toUpper() + text.mid(1);
+}
+
+QString barOf(const QString& name)
+{
+    const char* bar = placeOf(name).bar;
+    return bar ? QString::fromLatin1(bar) : prefixOf(name);
+}
+
+QList<QKeySequence> firstKeys(const ActionRequest& request)
+{
+    const char* key = request.shortcut ? request.shortcut : firstKeyOf(request.name);
+    return key ? QList<QKeySequence>{QKeySequence(QLatin1String(key), QKeySequence::PortableText)}
+               : QList<QKeySequence>();
+}
+
+/// The tool is of no use from then on. It may be in the middle of its work: its receiver can
+/// die in a slot that it called.
+template <typename Tool>
+void goWith(QObject* receiver, Tool* tool)
+{
+    QObject::connect(receiver, &QObject::destroyed, tool, [tool] {
+        tool->setEnabled(false);
+        tool->deleteLater();
+    });
+}
+
+}  // namespace
+
+ControlPlacer::ControlPlacer(QMainWindow* window, WindowActions* actions)
+    : QObject(window), m_window(window), m_actions(actions),
+      m_bars(new ControlBars(window, actions)), m_editors(new QActionGroup(this))
+{
+    for (const char* name : mainBarTable()) {
+        if (!name) {
+            m_bars->addSeparator(QStringLiteral("main"));
+        } else if (QAction* action = actions->registry()->action(QLatin1String(name))) {
+            m_bars->addButton(QStringLiteral("main"), action);
+        }
+    }
+}
+
+QAction* ControlPlacer::addAction(const ActionRequest& request)
+{
+    auto* action = new QAction(readableName(request.name), m_window);
+    ActionInfo info{request.name, {}, ActiveAreas::fromArray(request.areas), firstKeys(request)};
+    if (request.translator) {
+        info.text = {request.translator, request.textId};
+    }
+    info.waitsForOwner = request.receiver && request.enableSignal;
+    m_actions->menu(placeOf(request.name).menu)->addAction(action);
+    const AreaGate* gate = m_actions->registry()->add(action, info);
+    if (info.waitsForOwner) {
+        connect(request.receiver, request.enableSignal, gate, SLOT(setAllowed(bool)));
+    }
+    return action;
+}
+
+QAction* ControlPlacer::createAction(const ActionRequest& request)
+{
+    QAction* action = addAction(request);
+    if (!request.receiver) {
+        return action;
+    }
+    if (request.slot) {
+        connect(action, SIGNAL(triggered(bool)), request.receiver, request.slot);
+    }
+    if (request.checkSignal) {
+        action->setCheckable(true);
+        connect(request.receiver, request.checkSignal, action, SLOT(setChecked(bool)));
+    }
+    goWith(request.receiver, action);
+    return action;
+}
+
+QAction* ControlPlacer::createEditorAction(const QString& name, const Zorv::Translator* translator,
+                                           unsigned textId)
+{
+    QAction* action =
+        addAction({nullptr, name, translator, textId, nullptr, nullptr, nullptr, nullptr, nullptr});
+    action->setCheckable(true);
+    m_editors->addAction(action);
+    m_bars->addButton(barOf(name), action);
+    const QByteArray editor =
+        (name.startsWith(EditorPrefix) ? name.mid(EditorPrefix.size()) : name).toLatin1();
+    connect(action, &QAction::triggered, this, [editor] {
+        auto* host = Zorv::Interface::instance();
+        if (auto* found = host->editorByName(editor.constData())) {
+            host->activateEditor(found);
+        }
+    });
+    return action;
+}
+
+QObject* ControlPlacer::addControl(const QString& name, const Zorv::Control& control)
+{
+    if (const auto* button = dynamic_cast<const Zorv::ToolButtonControl*>(&control)) {
+        return button->action() ? addButton(name, *button) : nullptr;
+    }
+    const auto* widget = dynamic_cast<const Zorv::WidgetControl*>(&control);
+    return widget ? addWidget(name, *widget) : nullptr;
+}
+
+QToolButton* ControlPlacer::addButton(const QString& name, const Zorv::ToolButtonControl& control)
+{
+    QAction* action = control.action();
+    ActionRegistry* registry = m_actions->registry();
+    // An action that its editor made itself.
+    if (registry->action(action->objectName()) != action) {
+        registry->add(action, {name, {}, {}, action->shortcuts()});
+    }
+    QToolButton* button = m_bars->addButton(barOf(name), action);
+    const auto* withMenu = dynamic_cast<const Zorv::MenuToolButtonControl*>(&control);
+    if (withMenu && withMenu->menu()) {
+        button->setMenu(withMenu->menu());
+        button->setPopupMode(QToolButton::MenuButtonPopup);
+    }
+    return button;
+}
+
+QWidget* ControlPlacer::addWidget(const QString& name, const Zorv::WidgetControl& control)
+{
+    if (ControlBox* old = m_boxes.value(name)) {
+        old->hide();
+        old->deleteLater();
+    }
+    auto* box = new ControlBox(name, control);
+    m_boxes.insert(name, box);
+    QObject* receiver = control.receiver();
+    const bool waitsForOwner = receiver && !control.enableSignal().isEmpty();
+    const auto* gate = new AreaGate(m_actions->registry()->activeAreas(),
+                                    {QLatin1String(placeOf(name).area)}, box, waitsForOwner);
+    if (waitsForOwner) {
+        connect(receiver, control.enableSignal().constData(), gate, SLOT(setAllowed(bool)));
+    }
+    if (receiver) {
+        goWith(receiver, box);
+    }
+    m_bars->addWidget(barOf(name), box, box->isView());
+    return box->field();
+}
+
+void ControlPlacer::setMenuEnabled(const char* menu, const char* group, bool isEnabled)
+{
+    m_groups.insert({menu, group}, isEnabled);
+    bool isAny = false;
+    for (auto each = m_groups.cbegin(); each != m_groups.cend(); ++each) {
+        isAny = isAny || (each.key().first == menu && each.value());
+    }
+    m_actions->showMenu(menu, isAny);
+    m_bars->setGroupEnabled(QLatin1String(menu), QLatin1String(group), isEnabled);
+}
+
+void ControlPlacer::updateVisibility()
+{
+    m_bars->updateVisibility();
+}
+
+void ControlPlacer::retranslate()
+{
+    m_bars->retranslate();
+    for (ControlBox* box : qAsConst(m_boxes)) {
+        if (box) {
+            box->retranslate();
+        }
+    }
+}
+
+}  // namespace App

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QMap>
+#include <QPair>
+#include <QPointer>
+
+class QAction;
+class QActionGroup;
+class QMainWindow;
+class QToolButton;
+
+namespace Zorv {
+class Control;
+class ToolButtonControl;
+class Translator;
+class WidgetControl;
+}  // namespace Zorv
+
+namespace App {
+
+class AreaGate;
+class ControlBars;
+class ControlBox;
+class WindowActions;
+
+/// What an action of an editor is to be; see `Zorv::Interface::createAction()`.
+struct ActionRequest
+{
+    const char* const* areas;
+    QString name;
+    const Zorv::Translator* translator;
+    unsigned textId;
+    const char* shortcut;
+    QObject* receiver;
+    const char* slot;
+    const char* enableSignal;
+    const char* checkSignal;
+};
+
+/// Makes the tools that editors publish, and gives them their places in the window.
+///
+/// Where a tool stands tells `controllayout.h`, by its name. A tool goes when its receiver
+/// dies, and one that comes under the name of another takes its place.
+class ControlPlacer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Lives as a child of the window.
+    ControlPlacer(QMainWindow* window, WindowActions* actions);
+
+    QAction* createAction(const ActionRequest& request);
+
+    /// Its trigger brings the editor forward that is named behind "editor_".
+    QAction* createEditorAction(const QString& name, const Zorv::Translator* translator,
+                                unsigned textId);
+
+    /// The button or the widget, of which the window stays the owner; null for a control of an
+    /// unknown class.
+    QObject* addControl(const QString& name, const Zorv::Control& control);
+
+    void setMenuEnabled(const char* menu, const char* group, bool isEnabled);
+
+    /// Bars that have been shown or hidden by something else go back to how they are to be.
+    void updateVisibility();
+
+    void retranslate();
+
+private:
+    QAction* addAction(const ActionRequest& request);
+    QToolButton* addButton(const QString& name, const Zorv::ToolButtonControl& control);
+    QWidget* addWidget(const QString& name, const Zorv::WidgetControl& control);
+
+    QMainWindow* m_window;
+    WindowActions* m_actions;
+    ControlBars* m_bars;
+    QActionGroup* m_editors;
+    QHash<QString, QPointer<ControlBox>> m_boxes;
+    QMap<QPair<QByteArray, QByteArray>, bool> m_groups;  ///< of a menu and a group
+};
+
+}  // namespace App
