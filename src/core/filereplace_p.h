@@ -25,6 +25,12 @@ void takeOwnerAndMode(QFile& file, const QString& from);
 bool syncFile(QFile& file, QString* reason);
 void syncFolder(const QString& folder);
 
+/// Lets a file begin its way to the disk, without waiting for it.
+void startSync(const QString& fileName);
+
+/// Waits until all that was written to the disk of a folder has reached it.
+void syncDisk(const QString& folder);
+
 /// Renames in one step; a file of the new name is replaced.
 bool rename(const QString& from, const QString& to, QString* reason);
 

@@ -72,6 +72,12 @@ void FileWatcherManager::renew(const QString& path)
     }
 }
 
+void FileWatcherManager::forgetChanges(const QString& path)
+{
+    unwatch(path);
+    watch(path);
+}
+
 void FileWatcherManager::fileChanged(const QString& path)
 {
     const QList<FileWatchObject*> objects = objectsOf(path);

@@ -22,6 +22,9 @@ class FileWatcherManager : public QObject
     Q_OBJECT
 
 public:
+    /// Null while no object lives.
+    static FileWatcherManager* instance();
+
     void add(FileWatchObject* object);
     void remove(FileWatchObject* object);
 
@@ -31,6 +34,9 @@ public:
     /// Makes sure that a file that was just written is watched, and that the
     /// pause of its objects ends.
     void renew(const QString& path);
+
+    /// Drops the signals that are still to come for what has happened to a file.
+    void forgetChanges(const QString& path);
 
 private:
     void fileChanged(const QString& path);

@@ -11,6 +11,11 @@ FileWatcherManager* s_manager = nullptr;
 
 }  // namespace
 
+FileWatcherManager* FileWatcherManager::instance()
+{
+    return s_manager;
+}
+
 FileWatchObject::FileWatchObject()
 {
     if (s_refCount++ == 0) {

@@ -17,9 +17,9 @@ bool removeDir(const QString& path)
     if (path.isEmpty() || !dir.exists()) {
         return true;
     }
-    const QFileInfoList entries = dir.entryInfoList(
-        QDir::NoDotAndDotDot | QDir::System | QDir::Hidden | QDir::AllDirs | QDir::Files,
-        QDir::DirsFirst);
+    const QFileInfoList entries = dir.entryInfoList(QDir::NoDotAndDotDot | QDir::System |
+                                                        QDir::Hidden | QDir::AllDirs | QDir::Files,
+                                                    QDir::DirsFirst);
     for (const QFileInfo& entry : entries) {
         const QString name = entry.filePath();
         const bool isFolder = entry.isDir() && !entry.isSymLink();
@@ -32,9 +32,8 @@ bool removeDir(const QString& path)
 
 void listFiles(const QString& path, QStringList& list)
 {
-    const QFileInfoList entries =
-        QDir(path).entryInfoList(QDir::NoDotAndDotDot | QDir::Readable | QDir::NoSymLinks |
-                                 QDir::Files | QDir::Dirs);
+    const QFileInfoList entries = QDir(path).entryInfoList(
+        QDir::NoDotAndDotDot | QDir::Readable | QDir::NoSymLinks | QDir::Files | QDir::Dirs);
     for (const QFileInfo& entry : entries) {
         const QString name = path + entry.fileName();
         if (entry.isDir()) {
@@ -43,6 +42,13 @@ void listFiles(const QString& path, QStringList& list)
             list.append(name);
         }
     }
+}
+
+bool isPlainName(const QString& name)
+{
+    const bool leadsElsewhere = name == QLatin1String(".") || name == QLatin1String("..");
+    return !name.isEmpty() && !leadsElsewhere && !name.contains(QLatin1Char('/')) &&
+           QDir::fromNativeSeparators(name) == name && !name.contains(QChar(0));
 }
 
 }  // namespace Zorv

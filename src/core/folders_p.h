@@ -14,4 +14,7 @@ bool removeDir(const QString& path);
 /// below them.
 void listFiles(const QString& path, QStringList& list);
 
+/// True if a text can be the name of one entry of a folder.
+bool isPlainName(const QString& name);
+
 }  // namespace Zorv

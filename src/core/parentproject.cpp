@@ -111,6 +111,16 @@ void ParentProject::listProjects(QStringList& list) const
     ParentProjectPrivate::listProjects(d.get(), list);
 }
 
+QStringList ParentProject::failedFiles() const
+{
+    return d->failedFiles;
+}
+
+bool ParentProject::wasCanceled() const
+{
+    return d->isCanceled;
+}
+
 QModelIndex ParentProject::index(int row, int column, const QModelIndex& parent) const
 {
     if (!hasIndex(row, column, parent)) {

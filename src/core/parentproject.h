@@ -5,6 +5,7 @@
 #include "zorv_export.h"
 
 #include <QAbstractItemModel>
+#include <QDateTime>
 #include <QFlags>
 #include <QIcon>
 #include <QList>
@@ -155,7 +156,12 @@ public:
     /// youngest first.
     QStringList backups() const;
 
-    /// The files, relative to the game, that `restoreBackup()` would copy.
+    /// When a backup was made, from the name of its folder; invalid for a folder of
+    /// another form. `name`, if given, takes the name of the backup.
+    static QDateTime backupTime(const QString& folderName, QString* name = nullptr);
+
+    /// The files, relative to the game, that `restoreBackup()` would copy: all in
+    /// that folder but hidden and unreadable ones and links.
     QStringList backupFiles(const QString& folderName) const;
 
     /// Writes every modified file of the open projects. One without a name is
@@ -170,8 +176,13 @@ public:
     void saveAs(const QString& newRoot);
 
     /// What the last of these could not write or copy: paths relative to the
-    /// game, or for `save()` to the project. Empty if all went well.
+    /// game, or for `save()` to the project; the title for a project that has no
+    /// file yet, the folder for a backup that could not be begun. Empty if all went
+    /// well.
     QStringList failedFiles() const;
+
+    /// True if the person gave the last of these up.
+    bool wasCanceled() const;
     /// @}
 
     /// @name The engine

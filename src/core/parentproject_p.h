@@ -6,9 +6,14 @@
 #include <QFileSystemWatcher>
 #include <QMap>
 #include <QObject>
+#include <QPointer>
 #include <QVector>
 
 namespace Zorv {
+
+class Progress;
+
+class EngineProcess;
 
 /// The private part of a parent project is itself the root of its tree.
 class ParentProjectPrivate : public QObject, public DirectoryPath
@@ -42,9 +47,31 @@ public:
 
     static void listProjects(const BasePath* path, QStringList& list);
 
+    /// Lets the tree stand for another folder. What is listed is that of the new
+    /// one, and open projects stand where their main documents are now.
+    void moveRoot(const QString& rootPath);
+
+    /// The open projects. The display of a piece of work may let the person
+    /// close one meanwhile.
+    QVector<QPointer<Project>> openProjects() const;
+
+    /// Forgets what the last piece of work has left.
+    void beginWork();
+
+    /// Takes over what `saveAll()` could not write. `place` is the project's
+    /// folder relative to the root.
+    void addFailedFiles(const Project& project, const QString& place);
+
+    /// The work of the operations on all projects.
+    void copyBackup(const QString& source);
+    void saveProjectAs(Project* project, const QString& fileName);
+    void saveGameAs(const QString& newRoot);
+
     ParentProject* model;
     Archive* archive;
     int count = 0;
+    QStringList failedFiles;
+    bool isCanceled = false;
 
     struct OpenProject
     {
@@ -53,11 +80,23 @@ public:
     };
     QMap<Project*, OpenProject> projects;
 
+    bool runnable = true;  ///< false while an engine runs
+    RunResult runResult;
+    QPointer<EngineProcess> engine;
+
 private:
     using FileSet = QHash<QString, FileID>;
 
     void mainChanged();
     void folderChanged(const QString& path);
+    QStringList closedFiles() const;
+    bool copyClosedFiles(const QStringList& files, const QString& newRoot, Progress& progress);
+    bool writeProject(Project& project, const QString& path, const QString& mainFile);
+    bool writeProjects(const QVector<QPointer<Project>>& opened, const QString& newRoot,
+                       Progress& progress);
+    void placeProject(CodeDocument* main);
+    void leaveNode(BasePath* node, Project* project);
+    void listAgain(BasePath* node);
     void showFiles(BasePath* node);
     void removeNode(BasePath* node);
     QList<Project::FileInfo> filesOf(BasePath* node) const;

@@ -165,28 +165,45 @@ void ParentProjectPrivate::addRef(CodeDocument* main)
         return;
     }
     ++count;
-    const QString fileName = main->fileName();
-    BasePath* node = this;
-    if (!fileName.isEmpty()) {
-        BasePath* folder =
-            addPath(this, QFileInfo(fileName).absolutePath(), ParentProject::ListNothing, {});
-        node = folder ? folder : this;
-    }
-    BasePath* former = projects.value(project).node;
-    projects[project] = {node, {}};
-    node->addProject(project);
-    if (former) {
-        former->removeProject(project);
-        showFiles(former);
-    }
-    updateProjectFiles(main);
+    placeProject(main);
     connect(main, &QTextDocument::contentsChanged, this, &ParentProjectPrivate::mainChanged,
             Qt::UniqueConnection);
 
     const Interface* host = Interface::instance();
-    if (count == 1 && !fileName.isEmpty() && host &&
+    if (count == 1 && !main->fileName().isEmpty() && host &&
         host->option(QStringLiteral("backup_onload")).toBool()) {
         model->backup(ParentProject::tr("Auto"));
+    }
+}
+
+// The node of a project is the folder of its main document.
+void ParentProjectPrivate::placeProject(CodeDocument* main)
+{
+    Project* project = main->project();
+    const QString fileName = main->fileName();
+    BasePath* folder =
+        fileName.isEmpty()
+            ? nullptr
+            : addPath(this, QFileInfo(fileName).absolutePath(), ParentProject::ListNothing, {});
+    BasePath* node = folder ? folder : this;
+    BasePath* former = projects.value(project).node;
+    if (former != node) {
+        projects[project] = {node, {}};
+        node->addProject(project);
+    }
+    if (former && former != node) {
+        leaveNode(former, project);
+    }
+    updateProjectFiles(main);
+}
+
+void ParentProjectPrivate::leaveNode(BasePath* node, Project* project)
+{
+    node->removeProject(project);
+    if (node == this || node->holdsAnchor()) {
+        showFiles(node);
+    } else {
+        removeNode(node);
     }
 }
 
@@ -196,13 +213,7 @@ void ParentProjectPrivate::release(Project* project)
     if (entry == projects.constEnd()) {
         return;
     }
-    BasePath* node = entry->node;
-    node->removeProject(project);
-    if (node == this || node->holdsAnchor()) {
-        showFiles(node);
-    } else {
-        removeNode(node);
-    }
+    leaveNode(entry->node, project);
     auto* main = static_cast<CodeDocument*>(project->file(FileID::MainCode));
     if (main) {
         disconnect(main, &QTextDocument::contentsChanged, this, &ParentProjectPrivate::mainChanged);
@@ -243,6 +254,57 @@ void ParentProjectPrivate::listProjects(const BasePath* path, QStringList& list)
     }
     for (int i = 0; i < path->childCount(); ++i) {
         listProjects(path->childAt(i), list);
+    }
+}
+
+void ParentProjectPrivate::moveRoot(const QString& rootPath)
+{
+    const QStringList watched = m_watcher.directories();
+    if (!watched.isEmpty()) {
+        m_watcher.removePaths(watched);
+    }
+    setPathName(withoutLastSlash(rootPath));
+    for (const QPointer<Project>& project : openProjects()) {
+        if (auto* main = project->file(FileID::MainCode)) {
+            placeProject(static_cast<CodeDocument*>(main));
+        }
+    }
+    listAgain(this);
+}
+
+void ParentProjectPrivate::listAgain(BasePath* node)
+{
+    if (node->listing()) {
+        static_cast<DirectoryPath*>(node)->startListing();
+    }
+    for (int i = 0; i < node->childCount(); ++i) {
+        listAgain(node->childAt(i));
+    }
+}
+
+QVector<QPointer<Project>> ParentProjectPrivate::openProjects() const
+{
+    QVector<QPointer<Project>> result;
+    for (Project* project : projects.keys()) {
+        result.append(project);
+    }
+    return result;
+}
+
+void ParentProjectPrivate::beginWork()
+{
+    failedFiles.clear();
+    isCanceled = false;
+}
+
+void ParentProjectPrivate::addFailedFiles(const Project& project, const QString& place)
+{
+    if (project.fileName().isEmpty()) {
+        failedFiles.append(project.title());
+        return;
+    }
+    for (const QString& file : project.failedFiles()) {
+        failedFiles.append(place + file);
     }
 }
 

@@ -167,7 +167,9 @@ public:
     void setOption(const QString& key, const QVariant& value, bool global);
 
 private:
+    friend class ParentProjectPrivate;
     friend class ProjectFile;
+    class Place;
     void forgetFile(ProjectFile* file);
 
     int m_kind;

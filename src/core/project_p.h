@@ -3,7 +3,9 @@
 #include "core/messagelist.h"
 #include "core/project.h"
 
+#include <QPointer>
 #include <QSet>
+#include <QVector>
 
 namespace Zorv {
 
@@ -23,6 +25,32 @@ public:
     QMap<FileID::Type, unsigned> selected;
     QMap<FileID::Type, QList<ProjectFile*>> files;
     QStringList failedFiles;
+    bool hasWriteFailure = false;  ///< of `saveAll()`: more than files that are not there
+};
+
+/// Where a project and its files live, to go back there from a half-done move.
+class Project::Place
+{
+public:
+    explicit Place(Project* project);
+
+    /// Archives, and names and modified states of documents, are what they were.
+    /// A file of another class keeps a new name if it has one.
+    void goBack();
+
+private:
+    struct File
+    {
+        ProjectFile* file;
+        Archive* archive;
+        QString name;
+        bool isModified;
+    };
+    static void goBack(const File& file);
+
+    QPointer<Project> m_project;
+    Archive* m_archive;
+    QVector<File> m_files;
 };
 
 }  // namespace Zorv

@@ -2,6 +2,7 @@
 
 #include "core/files.h"
 #include "core/filesystemarchive.h"
+#include "core/lazysync_p.h"
 #include "core/project_p.h"
 #include "core/projectfile.h"
 
@@ -68,6 +69,12 @@ bool isBelow(const QString& fileName, const QString& folder)
     return QDir::cleanPath(fileName).startsWith(base);
 }
 
+// A place that was joined with a doubled slash is the same place.
+QString cleanName(const QString& fileName)
+{
+    return fileName.isEmpty() ? fileName : QDir::cleanPath(fileName);
+}
+
 PendingFiles referredFiles(Project& project, const QString& root, bool asCopy)
 {
     QList<Project::FileInfo> infos;
@@ -77,7 +84,7 @@ PendingFiles referredFiles(Project& project, const QString& root, bool asCopy)
         pending.add(info.id, info.path);
     }
     if (asCopy) {
-        pending.add(FileID::MainCode, project.fileName().mid(root.size()));
+        pending.add(FileID::MainCode, cleanName(project.fileName()).mid(root.size()));
     }
     return pending;
 }
@@ -107,11 +114,12 @@ void Project::saveAll(const QString& path, bool asCopy, QStringList* files)
         files->append(pending.paths());
     }
     d->failedFiles.clear();
+    d->hasWriteFailure = false;
 
     const QMap<ProjectFile*, FileID> all = d->fileIDs;
     for (auto it = all.cbegin(); it != all.cend(); ++it) {
         ProjectFile* file = it.key();
-        const QString name = file->fileName();
+        const QString name = cleanName(file->fileName());
         if (!asCopy) {
             file->m_archive = &disk;
         }
@@ -126,8 +134,10 @@ void Project::saveAll(const QString& path, bool asCopy, QStringList* files)
         }
         const QString target = targetRoot + relative;
         pending.removePath(relative);
+        const LazySync::Exception waits(file->isModified() || !QFile::exists(name));
         if (!isBelow(target, path) || !forcePath(target) || !file->toFile(disk, target, asCopy)) {
             d->failedFiles.append(relative);
+            d->hasWriteFailure = true;
         }
     }
 
@@ -137,6 +147,7 @@ void Project::saveAll(const QString& path, bool asCopy, QStringList* files)
         const bool stays = QDir::cleanPath(source) == QDir::cleanPath(target);
         if (!stays && (!isBelow(target, path) || !copyOne(*m_archive, source, target))) {
             d->failedFiles.append(relative);
+            d->hasWriteFailure = d->hasWriteFailure || m_archive != &disk || QFile::exists(source);
         }
     }
     if (!asCopy) {

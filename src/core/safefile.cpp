@@ -1,6 +1,7 @@
 #include "core/safefile_p.h"
 
 #include "core/filereplace_p.h"
+#include "core/lazysync_p.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -29,24 +30,38 @@ QString nameHead(const QFileInfo& target)
     return QLatin1Char('.') + name + QLatin1Char('.');
 }
 
-// A process that was killed while it saved has left its new file behind.
-void removeLeftovers(const QFileInfo& target)
+// A process that was killed while it saved has left its new file behind. Those
+// of all targets go if `head` is empty.
+void removeLeftovers(const QString& folder, const QString& head)
 {
-    const QString head = nameHead(target);
     const qint64 self = QCoreApplication::applicationPid();
-    QDirIterator entries(target.absolutePath(), QDir::Files | QDir::Hidden);
+    QDirIterator entries(folder, QDir::Files | QDir::Hidden);
     while (entries.hasNext()) {
         const QString path = entries.next();
         const QString name = entries.fileName();
-        if (!name.startsWith(head) || !name.endsWith(suffix)) {
+        if (!name.startsWith(head.isEmpty() ? QStringLiteral(".") : head) ||
+            !name.endsWith(suffix)) {
             continue;
         }
-        const QString number = name.mid(head.size(), name.size() - head.size() - suffix.size());
+        const int numberStart = name.lastIndexOf(QLatin1Char('.'), -1 - suffix.size()) + 1;
+        const QString number = name.mid(numberStart).section(QLatin1Char('-'), 0, 0);
         bool isNumber = false;
-        const qint64 pid = number.section(QLatin1Char('-'), 0, 0).toLongLong(&isNumber);
+        const qint64 pid = number.toLongLong(&isNumber);
         if (isNumber && pid != self && !FileReplace::isProcessAlive(pid)) {
             QFile::remove(path);
         }
+    }
+}
+
+// Many files of one folder need one look at it.
+void clearLeftovers(const QFileInfo& target)
+{
+    const QString folder = target.absolutePath();
+    LazySync* lazy = LazySync::current();
+    if (!lazy) {
+        removeLeftovers(folder, nameHead(target));
+    } else if (lazy->isNewFolder(folder)) {
+        removeLeftovers(folder, {});
     }
 }
 
@@ -172,7 +187,7 @@ bool SafeFile::checkTarget(OpenMode mode)
 bool SafeFile::makeFile()
 {
     const QFileInfo target(m_target);
-    removeLeftovers(target);
+    clearLeftovers(target);
     const QString head = target.absolutePath() + QLatin1Char('/') + nameHead(target) +
                          QString::number(QCoreApplication::applicationPid()) + QLatin1Char('-');
     for (int i = 0; i < MaxNames && !m_file.isOpen(); ++i) {
@@ -242,7 +257,8 @@ bool SafeFile::writeOut(const char* data, qint64 size)
 bool SafeFile::replaceTarget()
 {
     QString reason;
-    bool done = FileReplace::syncFile(m_file, &reason);
+    LazySync* lazy = m_targetExists ? nullptr : LazySync::current();
+    bool done = lazy || FileReplace::syncFile(m_file, &reason);
     if (done) {
         m_file.close();
         done = m_file.error() == QFile::NoError;
@@ -254,7 +270,11 @@ bool SafeFile::replaceTarget()
         return false;
     }
     m_file.setFileName({});
-    FileReplace::syncFolder(QFileInfo(m_target).absolutePath());
+    if (lazy) {
+        lazy->add(m_target);
+    } else {
+        FileReplace::syncFolder(QFileInfo(m_target).absolutePath());
+    }
     return true;
 }
 

@@ -1,0 +1,59 @@
+#include "core/lazysync_p.h"
+
+#include "core/filereplace_p.h"
+
+namespace Zorv {
+
+namespace {
+
+LazySync* s_current = nullptr;
+
+}  // namespace
+
+LazySync::LazySync()
+{
+    if (!s_current) {
+        s_current = this;
+    }
+}
+
+LazySync::~LazySync()
+{
+    for (const QString& name : qAsConst(m_files)) {
+        FileReplace::startSync(name);
+    }
+    if (s_current == this) {
+        s_current = nullptr;
+    }
+}
+
+LazySync* LazySync::current()
+{
+    return s_current;
+}
+
+void LazySync::add(const QString& fileName)
+{
+    m_files.append(fileName);
+}
+
+bool LazySync::isNewFolder(const QString& folder)
+{
+    const int before = m_folders.size();
+    m_folders.insert(folder);
+    return m_folders.size() > before;
+}
+
+LazySync::Exception::Exception(bool isNeeded) : m_former(s_current)
+{
+    if (isNeeded) {
+        s_current = nullptr;
+    }
+}
+
+LazySync::Exception::~Exception()
+{
+    s_current = m_former;
+}
+
+}  // namespace Zorv

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QSet>
+#include <QStringList>
+
+namespace Zorv {
+
+/// While it lives, nobody waits for new files to reach the disk: they are copies
+/// of what is there, and waiting would take many times as long as the copying.
+///
+/// At its end the files are on their way. A file that takes the place of another
+/// is not concerned: the old content never goes before the new one is safe. Main
+/// thread only; one inside of another does nothing.
+class LazySync
+{
+public:
+    LazySync();
+    ~LazySync();
+    LazySync(const LazySync&) = delete;
+    LazySync& operator=(const LazySync&) = delete;
+
+    /// The one in effect, or null.
+    static LazySync* current();
+
+    /// Takes over a file that has just been written.
+    void add(const QString& fileName);
+
+    /// True the first time that a folder is named.
+    bool isNewFolder(const QString& folder);
+
+    /// Takes it out of effect, for a content that is nowhere else.
+    class Exception
+    {
+    public:
+        explicit Exception(bool isNeeded);
+        ~Exception();
+        Exception(const Exception&) = delete;
+        Exception& operator=(const Exception&) = delete;
+
+    private:
+        LazySync* m_former;
+    };
+
+private:
+    QStringList m_files;
+    QSet<QString> m_folders;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,50 @@
+#include "core/project_p.h"
+
+#include "code/codedoc/codedocument.h"
+#include "core/projectfile.h"
+
+#include <algorithm>
+
+namespace Zorv {
+
+Project::Place::Place(Project* project) : m_project(project), m_archive(project->m_archive)
+{
+    for (ProjectFile* file : project->files()) {
+        m_files.append({file, file->m_archive, file->fileName(), file->isModified()});
+    }
+}
+
+void Project::Place::goBack()
+{
+    if (!m_project) {
+        return;
+    }
+    m_project->m_archive = m_archive;
+    const auto isStranger = [this](const File& file) {
+        return !m_project->d->fileIDs.contains(file.file);
+    };
+    m_files.erase(std::remove_if(m_files.begin(), m_files.end(), isStranger), m_files.end());
+    for (const File& file : qAsConst(m_files)) {
+        goBack(file);
+    }
+    // Views on a document have its name: they follow when all documents are back.
+    for (const File& file : qAsConst(m_files)) {
+        if (file.file->fileName() == file.name) {
+            file.file->m_archive = file.archive;
+        }
+    }
+}
+
+void Project::Place::goBack(const File& file)
+{
+    auto* document = dynamic_cast<CodeDocument*>(file.file);
+    if (document && document->fileName() != file.name) {
+        // The watch moves while the document still has the new name.
+        document->FileWatchObject::fromFile(*document->archive(), file.name, false);
+        document->setFileName(file.name);
+        document->setModified(file.isModified);
+        document->pauseWatch(false);
+    }
+}
+
+}  // namespace Zorv

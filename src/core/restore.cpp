@@ -1,0 +1,108 @@
+#include "core/parentproject.h"
+
+#include "core/archive.h"
+#include "core/filereplace_p.h"
+#include "core/files.h"
+#include "core/filesystemarchive.h"
+#include "core/filewatchermanager_p.h"
+#include "core/filewatchobject.h"
+#include "core/folders_p.h"
+#include "core/interface.h"
+#include "core/parentproject_p.h"
+#include "core/progress_p.h"
+#include "core/projectfile.h"
+
+namespace Zorv {
+
+namespace {
+
+using Projects = QVector<QPointer<Project>>;
+
+/// Keeps the files of open projects from asking about changes that are ours.
+class WatchPause
+{
+public:
+    explicit WatchPause(const Projects& projects) : m_projects(projects)
+    {
+        forEachFile([this](ProjectFile* file, FileWatchObject* watch) {
+            watch->pauseWatch(true);
+            m_paused.insert(file);
+        });
+    }
+
+    // What the watcher has not told yet are our own changes: a watch that is made
+    // anew does not hear of them.
+    ~WatchPause()
+    {
+        forEachFile([this](ProjectFile* file, FileWatchObject* watch) {
+            if (m_paused.contains(file)) {
+                watch->pauseWatch(false);
+                FileWatcherManager::instance()->forgetChanges(watch->fileName());
+            }
+        });
+    }
+
+private:
+    template <typename Function>
+    void forEachFile(Function function) const
+    {
+        for (const QPointer<Project>& project : m_projects) {
+            const QList<ProjectFile*> files = project ? project->files() : QList<ProjectFile*>();
+            for (ProjectFile* file : files) {
+                if (auto* watch = dynamic_cast<FileWatchObject*>(file)) {
+                    function(file, watch);
+                }
+            }
+        }
+    }
+
+    Projects m_projects;
+    QSet<ProjectFile*> m_paused;
+};
+
+}  // namespace
+
+void ParentProjectPrivate::copyBackup(const QString& source)
+{
+    const Projects opened = openProjects();
+    const WatchPause pause(opened);
+    QStringList files;
+    listFiles(source, files);
+    Progress progress(ParentProject::tr("Restoring backup..."), files.size() + opened.size());
+    // What was copied aside a moment ago must not be lost with what it was copied from.
+    FileReplace::syncDisk(absolutePath());
+    for (const QString& file : qAsConst(files)) {
+        const QString relative = file.mid(source.size());
+        QString error;
+        const bool isCopied = copyFile(*FileSystemArchive::instance(), file, *archive,
+                                       absolutePath() + relative, &error);
+        if (!isCopied || !error.isEmpty()) {
+            failedFiles.append(relative);
+        }
+        if (!progress.step()) {
+            break;
+        }
+    }
+    isCanceled = progress.isCanceled();
+    for (const QPointer<Project>& project : opened) {
+        if (project) {
+            project->reload();
+        }
+        progress.step();
+    }
+}
+
+bool ParentProject::restoreBackup(const QString& folderName)
+{
+    d->beginWork();
+    if (archive()->isReadOnly() || !isPlainName(folderName)) {
+        return false;
+    }
+    d->copyBackup(absolutePath() + QLatin1String("backup/") + folderName + QLatin1Char('/'));
+    if (Interface* host = Interface::instance()) {
+        host->refreshProjects();
+    }
+    return true;
+}
+
+}  // namespace Zorv
