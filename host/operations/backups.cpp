@@ -1,0 +1,373 @@
+#include "operations/backups.h"
+
+#include "core/files.h"
+#include "core/filesystemarchive.h"
+#include "family/familydocument.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "family/project/filereference.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace Family {
+
+namespace {
+
+const int MaxNameBytes = 200;  // the time stands in front of the name
+const int ShownFiles = 5;
+const int CompareBlock = 128 * 1024;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Family::Backups", text);
+}
+
+QString folderOf(const FamilyParentProject& game, const QString& backup)
+{
+    return game.absolutePath() + QLatin1String("backup/") + backup + QLatin1Char('/');
+}
+
+QString shownList(const QStringList& files)
+{
+    const QString first = QStringList(files.mid(0, ShownFiles)).join(QLatin1String(", "));
+    const int more = files.size() - ShownFiles;
+    return more > 0 ? tr("%1 and %2 more").arg(first).arg(more) : first;
+}
+
+bool isSame(const QString& a, const QString& b)
+{
+    QFile left(a), right(b);
+    if (QFileInfo(a).size() != QFileInfo(b).size() || !left.open(QIODevice::ReadOnly) ||
+        !right.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    QByteArray block;
+    do {
+        block = left.read(CompareBlock);
+        if (block != right.read(CompareBlock)) {
+            return false;
+        }
+    } while (!block.isEmpty());
+    return left.error() == QFile::NoError && right.error() == QFile::NoError;
+}
+
+QList<FamilyProject*> projectsOf(const FamilyParentProject& game)
+{
+    QList<FamilyProject*> result;
+    for (Zorv::Project* project : game.openedProjects()) {
+        if (auto* own = qobject_cast<FamilyProject*>(project)) {
+            result.append(own);
+        }
+    }
+    return result;
+}
+
+/// The open document of a file of the game, or null.
+FamilyDocument* openDocumentOf(const FamilyParentProject& game, const QString& relative)
+{
+    const QString fileName = QDir::cleanPath(game.absolutePath() + relative);
+    FamilyDocument* found = nullptr;
+    for (const FamilyProject* project : projectsOf(game)) {
+        for (FamilyDocument* document : project->documents()) {
+            const bool isIt = QDir::cleanPath(document->fileName()) == fileName;
+            if (isIt && (!found || document->isModified())) {
+                found = document;
+            }
+        }
+    }
+    return found;
+}
+
+/// Files of the game that a project names outside of its own folder, relative to the game.
+QStringList sharedFiles(const FamilyProject& project)
+{
+    const QString root = project.parent()->absolutePath();
+    QStringList files;
+    for (const FamilyDocument* document : project.documents()) {
+        for (const FileReference& reference : fileReferences(document)) {
+            const QString file = project.resolvePath(reference.path);
+            const bool isOwn = file.startsWith(project.absolutePath());
+            if (!isOwn && pathFault(root, project.fileName(), reference.path) == PathFault::Fine) {
+                files.append(file.mid(root.size()));
+            }
+        }
+    }
+    return files;
+}
+
+bool copyIntoBackup(const FamilyParentProject& game, const QString& relative, const QString& folder)
+{
+    Zorv::FileSystemArchive& disk = *Zorv::FileSystemArchive::instance();
+    const QString target = folder + relative;
+    FamilyDocument* document = openDocumentOf(game, relative);
+    if (document && document->isModified()) {
+        return document->toFile(disk, target, true);
+    }
+    QString error;
+    return copyFile(disk, game.absolutePath() + relative, disk, target, &error) && error.isEmpty();
+}
+
+/// Copies those files that the backup lacks; gives those of which that failed.
+QStringList addToBackup(const FamilyParentProject& game, const QStringList& files,
+                        const QString& folder)
+{
+    QStringList failed;
+    for (const QString& file : files) {
+        if (!QFileInfo::exists(folder + file) && !failed.contains(file) &&
+            !copyIntoBackup(game, file, folder)) {
+            failed.append(file);
+        }
+    }
+    return failed;
+}
+
+bool isMissing(const FamilyParentProject& game, const QString& file)
+{
+    for (const FamilyProject* project : projectsOf(game)) {
+        if (project->fileName().isEmpty() && project->title() == file) {
+            return false;
+        }
+    }
+    return !QFileInfo::exists(game.absolutePath() + file) && !openDocumentOf(game, file);
+}
+
+void sortFailures(const FamilyParentProject& game, const QStringList& files, BackupResult* result)
+{
+    for (const QString& file : files) {
+        (isMissing(game, file) ? result->missing : result->failed).append(file);
+    }
+}
+
+/// The youngest backup of a name.
+QString youngest(const FamilyParentProject& game, const QString& name)
+{
+    for (const QString& folder : game.backups()) {
+        QString own;
+        if (Zorv::ParentProject::backupTime(folder, &own).isValid() && own == name) {
+            return folder;
+        }
+    }
+    return {};
+}
+
+/// What must be kept before a restore: files that it replaces, and unsaved changes.
+QStringList filesAtRisk(const FamilyParentProject& game, const QVector<RestoredFile>& restored)
+{
+    QStringList files;
+    for (const RestoredFile& file : restored) {
+        if (file.change == RestoredFile::Changed &&
+            QFileInfo(game.absolutePath() + file.path).isFile()) {
+            files.append(file.path);
+        }
+    }
+    for (const FamilyProject* project : projectsOf(game)) {
+        for (const FamilyDocument* document : project->documents()) {
+            const QString name = document->fileName();
+            if (document->isModified() && name.startsWith(game.absolutePath())) {
+                files.append(name.mid(game.absolutePath().size()));
+            }
+        }
+    }
+    return files;
+}
+
+BackupResult makeSafetyBackup(FamilyParentProject* game, const QStringList& files)
+{
+    BackupResult result = makeBackup(game, tr("Before restore"));
+    if (result.isCanceled || result.folder.isEmpty()) {
+        return result;
+    }
+    const QString folder = folderOf(*game, result.folder);
+    result.failed = addToBackup(*game, files, folder);
+    result.error.clear();
+    if (!result.failed.isEmpty()) {
+        result.error = tr("Nothing was restored, for these files could not be copied aside first: "
+                          "%1. Check that there is space on the disk, or restore without a backup "
+                          "of the present files.")
+                           .arg(shownList(result.failed));
+    }
+    return result;
+}
+
+}  // namespace
+
+QString backupNameFault(const QString& name)
+{
+    static const QString refused = QStringLiteral("/\\:*?\"<>|");
+    const auto isRefused = [](QChar c) {
+        return c.category() == QChar::Other_Control || refused.contains(c);
+    };
+    if (name.trimmed().isEmpty()) {
+        return tr("The name of the backup is empty. Give it a name such as \"Before the new "
+                  "moves\".");
+    }
+    if (std::any_of(name.begin(), name.end(), isRefused)) {
+        return tr("The name '%1' cannot be that of a folder: it must have none of %2 and no "
+                  "control characters. Choose another name.")
+            .arg(name, QStringLiteral("/ \\ : * ? \" < > |"));
+    }
+    if (name.endsWith(QLatin1Char('.')) || name.endsWith(QLatin1Char(' '))) {
+        return tr("The name '%1' ends in a point or a blank, which some systems drop. Choose "
+                  "another name.")
+            .arg(name);
+    }
+    if (QFile::encodeName(name).size() > MaxNameBytes) {
+        return tr("The name of the backup is too long. Choose one of at most %1 letters.")
+            .arg(MaxNameBytes);
+    }
+    return {};
+}
+
+QList<FamilyProject*> openAllProjects(FamilyParentProject* game, QStringList* errors)
+{
+    QStringList opened;
+    for (const FamilyProject* project : projectsOf(*game)) {
+        opened.append(project->fileName());
+    }
+    QList<FamilyProject*> projects;
+    for (const QString& mainFile : FamilyParentProject::mainFiles(game->absolutePath())) {
+        if (opened.contains(mainFile)) {
+            continue;
+        }
+        QString error;
+        FamilyProject* project = FamilyProject::open(game, mainFile, &error);
+        if (project) {
+            projects.append(project);
+            *errors += project->loadErrors();
+        } else {
+            errors->append(error);
+        }
+    }
+    return projects;
+}
+
+void closeProjects(const QList<FamilyProject*>& projects)
+{
+    for (FamilyProject* project : projects) {
+        project->release();
+        delete project;
+    }
+}
+
+QVector<Backup> listBackups(const FamilyParentProject& game)
+{
+    QVector<Backup> result;
+    for (const QString& folder : game.backups()) {
+        Backup backup;
+        backup.folder = folder;
+        backup.time = Zorv::ParentProject::backupTime(folder, &backup.name);
+        for (const QString& file : game.backupFiles(folder)) {
+            ++backup.fileCount;
+            backup.bytes += QFileInfo(folderOf(game, folder) + file).size();
+        }
+        result.append(backup);
+    }
+    return result;
+}
+
+QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QString& folder,
+                                     QString* error)
+{
+    error->clear();
+    if (!game.backups().contains(folder)) {
+        *error = tr("There is no backup '%1' in %2. Choose one of the list of backups.")
+                     .arg(folder, QDir::toNativeSeparators(game.absolutePath()));
+        return {};
+    }
+    QStringList files = game.backupFiles(folder);
+    files.sort();
+    QVector<RestoredFile> result;
+    for (const QString& file : qAsConst(files)) {
+        const QString present = game.absolutePath() + file;
+        const bool isThere = QFileInfo::exists(present);
+        const bool same = isThere && isSame(folderOf(game, folder) + file, present);
+        result.append({file, !isThere ? RestoredFile::New
+                             : same   ? RestoredFile::Same
+                                      : RestoredFile::Changed});
+    }
+    return result;
+}
+
+BackupResult makeBackup(FamilyParentProject* game, const QString& name)
+{
+    BackupResult result;
+    result.error = backupNameFault(name);
+    if (!result.error.isEmpty()) {
+        return result;
+    }
+    const QStringList before = game->backups();
+    game->backup(name);
+    result.isCanceled = game->wasCanceled();
+    result.folder = youngest(*game, name);
+    const QStringList failed = game->failedFiles();
+    const bool hasFolder = failed.isEmpty() ||
+                           !failed.first().startsWith(QLatin1String("backup/")) ||
+                           QFileInfo(game->absolutePath() + failed.first()).isDir();
+    if (!hasFolder || result.folder.isEmpty()) {
+        result.folder.clear();
+        result.error = tr("Cannot make the folder %1. Check that there is space on the disk and "
+                          "that the folder of the game may be written to.")
+                           .arg(QDir::toNativeSeparators(game->absolutePath() + failed.value(0)));
+        return result;
+    }
+    const QString folder = folderOf(*game, result.folder);
+    if (result.isCanceled) {
+        // Half a backup would be taken for a whole one.
+        if (!before.contains(result.folder)) {
+            QDir(folder).removeRecursively();
+        }
+        result.folder.clear();
+        return result;
+    }
+    sortFailures(*game, failed, &result);
+    for (const FamilyProject* project : projectsOf(*game)) {
+        sortFailures(*game, addToBackup(*game, sharedFiles(*project), folder), &result);
+    }
+    result.failed.removeDuplicates();
+    result.missing.removeDuplicates();
+    if (!result.failed.isEmpty()) {
+        result.error = tr("The backup '%1' is not complete. Not copied: %2. Check that there is "
+                          "space on the disk and that these files may be read, then make another "
+                          "backup.")
+                           .arg(result.folder, shownList(result.failed));
+    }
+    return result;
+}
+
+BackupResult restoreBackup(FamilyParentProject* game, const QString& folder, bool makesSafety)
+{
+    BackupResult result;
+    const QVector<RestoredFile> restored = filesToRestore(*game, folder, &result.error);
+    if (!result.error.isEmpty()) {
+        return result;
+    }
+    const QStringList atRisk = filesAtRisk(*game, restored);
+    if (makesSafety && !atRisk.isEmpty()) {
+        result = makeSafetyBackup(game, atRisk);
+        if (result.isCanceled || !result.error.isEmpty()) {
+            return result;
+        }
+    }
+    result.failed.clear();
+    result.missing.clear();
+    if (!game->restoreBackup(folder)) {
+        result.error = tr("The game cannot be written to, so nothing was restored.");
+        return result;
+    }
+    result.isCanceled = game->wasCanceled();
+    result.failed = game->failedFiles();
+    if (!result.failed.isEmpty()) {
+        result.error = tr("These files were not restored and are as before: %1. Check that there "
+                          "is space on the disk and that they may be written to, then restore "
+                          "again.")
+                           .arg(shownList(result.failed));
+    }
+    return result;
+}
+
+}  // namespace Family
