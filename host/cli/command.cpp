@@ -119,7 +119,9 @@ bool checkOperands(const Command& command, const Invocation& invocation, QString
 {
     const int count = invocation.operands.size();
     if (count < command.fewest) {
-        const QStringList needed = QString::fromLatin1(command.operands).split(QLatin1Char(' '));
+        const QStringList needed = QString::fromLatin1(command.operands)
+                                       .remove(QLatin1String("..."))
+                                       .split(QLatin1Char(' '));
         *error =
             tr("'%1' needs %2.")
                 .arg(QLatin1String(command.name), needed.mid(0, command.fewest).join(tr(" and ")));

@@ -34,12 +34,13 @@ QStringList linesWith(const QString& mark, const QByteArray& output)
     return lines;
 }
 
-// Nothing of a desktop, and no language.
-QProcessEnvironment bareEnvironment()
+// Nothing of a desktop, and no language. What a person's home would hold lies in the folder.
+QProcessEnvironment bareEnvironment(const QString& folder)
 {
     const auto here = QProcessEnvironment::systemEnvironment();
     QProcessEnvironment bare;
     bare.insert("SAMPLES", ZORV_SAMPLES);
+    bare.insert("HOME", folder);
     bare.insert("PATH",
                 QFileInfo(ZORV_PROGRAM).absolutePath() + ":" CLI_TESTS "/bin:/usr/bin:/bin");
     for (const char* name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"}) {
@@ -66,7 +67,7 @@ void copyFolder(const QString& from, const QString& to)
 QStringList runCommand(const QString& command, const QString& folder)
 {
     QProcess shell;
-    shell.setProcessEnvironment(bareEnvironment());
+    shell.setProcessEnvironment(bareEnvironment(folder));
     shell.setWorkingDirectory(folder);
     shell.start("/bin/sh", {"-c", command});
     shell.closeWriteChannel();
