@@ -18,6 +18,12 @@ public:
     void update(int value, int maximum) override
     {
         m_host->progresses[m_index].updates.append({value, maximum});
+        m_value = value;
+    }
+
+    bool isCanceled() const override
+    {
+        return m_host->cancelAfter >= 0 && m_value >= m_host->cancelAfter;
     }
 
     void finish() override
@@ -29,6 +35,7 @@ public:
 private:
     TestInterface* m_host;
     int m_index;
+    int m_value = 0;
 };
 
 }  // namespace

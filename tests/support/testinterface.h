@@ -50,6 +50,7 @@ public:
     QStringList calls;                    ///< names of the calls that change something
     QList<QPair<int, QString>> statuses;  ///< each showStatus()
     QList<Progress> progresses;
+    int cancelAfter = -1;  ///< the step after which the person gives up
     int refreshCount = 0;
 
     /// The window that holds all controls, null before the first.

@@ -74,7 +74,10 @@ public:
     ~TestParent() override;
 
     Zorv::EngineModel* engineModel() const override { return engines; }
-    void projectFiles(const QString&, QStringList&) override {}
+    void projectFiles(const QString& path, QStringList& files) override
+    {
+        files += closedFiles.value(path);
+    }
     QString runParameters(int) const override { return {}; }
     QString runPath(int, const QString&, bool*) const override { return {}; }
     void lastReferenceGone() override { ++goneCount; }
@@ -89,6 +92,7 @@ public:
     QStringList dump(const QModelIndex& index = {}, int depth = 0) const;
 
     Zorv::EngineModel* engines = nullptr;
+    QMap<QString, QStringList> closedFiles;  ///< of projects that are not open, by path
     int goneCount = 0;
 
 private:
