@@ -6,15 +6,19 @@
 #include "app/actions/windowactions.h"
 #include "app/animationpanel.h"
 #include "app/codeedit.h"
+#include "app/codetexteditor.h"
 #include "app/controls/controlplacer.h"
 #include "app/documenttabs.h"
+#include "app/game/gamecommands.h"
 #include "app/gamesession.h"
 #include "app/gametree.h"
 #include "app/linebar.h"
+#include "app/look/look.h"
 #include "app/messagepanel.h"
 #include "app/nodepanel.h"
-#include "app/look/look.h"
 #include "app/recentfolders.h"
+#include "app/run/outputpanel.h"
+#include "app/run/runcommands.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
 #include "app/windowstate.h"
@@ -66,6 +70,7 @@ const PanelTitle panelTitles[] = {
     {"nodes", QT_TRANSLATE_NOOP("App::MainWindow", "Nodes")},
     {"animations", QT_TRANSLATE_NOOP("App::MainWindow", "Animations")},
     {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
+    {"output", QT_TRANSLATE_NOOP("App::MainWindow", "Engine output")},
 };
 
 }  // namespace
@@ -75,7 +80,8 @@ MainWindow::MainWindow(QWidget* parent)
       m_hint(new QLabel), m_tabs(new DocumentTabs), m_lineBar(new LineBar), m_gameTree(new GameTree),
       m_nodePanel(new NodePanel), m_animationPanel(new AnimationPanel),
       m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar())),
-      m_actions(new WindowActions(this)), m_controls(new ControlPlacer(this, m_actions))
+      m_textEditor(new CodeTextEditor(this)), m_gameCommands(new GameCommands(this)),
+      m_runCommands(new RunCommands(this)), m_actions(new WindowActions(this)), m_controls(new ControlPlacer(this, m_actions))
 {
     new ShortcutGuard(this, registry());
     makeCentre();
@@ -125,6 +131,9 @@ void MainWindow::makeDocks()
     QDockWidget* nodes = addDock(m_nodePanel, "nodes", Qt::RightDockWidgetArea);
     QDockWidget* animations = addDock(m_animationPanel, "animations", Qt::RightDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
+    QDockWidget* output =
+        addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
+    output->hide();
     resizeDocks({projects, nodes}, {220, 280}, Qt::Horizontal);
     resizeDocks({messages}, {150}, Qt::Vertical);
     resizeDocks({nodes, animations}, {320, 260}, Qt::Vertical);
@@ -153,6 +162,7 @@ void MainWindow::retranslate()
     m_controls->retranslate();
     updateTitle();
 }
+
 /// Texts keep the colours that they were given, and their messages the language.
 void MainWindow::parseAgain()
 {
@@ -173,13 +183,12 @@ void MainWindow::reconfig()
     parseAgain();
 }
 
-
 void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        parseAgain();
         retranslate();
+        parseAgain();
     }
 }
 
@@ -198,6 +207,8 @@ void MainWindow::connectParts()
     connect(m_tabs, &DocumentTabs::closeRequested, this, &MainWindow::closeDocument);
     connect(m_tabs, &DocumentTabs::cursorMoved, this, &MainWindow::cursorMoved);
     connect(m_tabs, &DocumentTabs::stateChanged, this, &MainWindow::updateNow);
+    connect(m_gameCommands, &GameCommands::gameChanged, this, &MainWindow::gameChanged);
+    connect(m_runCommands, &RunCommands::stateChanged, this, &MainWindow::updateSoon);
 }
 
 void MainWindow::connectPanels()
@@ -250,7 +261,8 @@ bool MainWindow::openPath(const QString& path)
 
 bool MainWindow::openFolder(const QString& folder)
 {
-    if (!askAboutUnsaved(m_session->modifiedDocuments())) {
+    if (!m_runCommands->mayClose([this, folder] { openFolder(folder); }) ||
+        !askAboutUnsaved(m_session->modifiedDocuments())) {
         return false;
     }
     QString error;
@@ -348,6 +360,15 @@ void MainWindow::forgetProject(FamilyProject* project)
     QMetaObject::invokeMethod(this, &MainWindow::updateMessages, Qt::QueuedConnection);
 }
 
+void MainWindow::gameChanged()
+{
+    m_tabs->updateTabs();
+    m_gameTree->setGame(m_session->game());
+    m_status->setDocument(m_tabs->currentDocument());
+    updateMessages();
+    updateSoon();
+}
+
 void MainWindow::currentDocumentChanged(FamilyDocument* document)
 {
     m_centre->setCurrentIndex(m_tabs->count() > 0 ? 1 : 0);
@@ -436,7 +457,9 @@ int MainWindow::presentNeeds() const
            when(edit && edit->document()->isRedoAvailable(), NeedsRedo) |
            when(edit && edit->textCursor().hasSelection(), NeedsSelection) |
            when(m_animationPanel->hasCurrent(), NeedsAnimation) |
-           when(m_animationPanel->count() > 0, NeedsAnimations);
+           when(m_animationPanel->count() > 0, NeedsAnimations) |
+           when(m_runCommands->isRunning(), NeedsEngine) |
+           when(!m_runCommands->isRunning(), NeedsNoEngine);
 }
 
 FamilyProject* MainWindow::currentProject() const
@@ -462,7 +485,8 @@ ActionRegistry* MainWindow::registry() const
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!askAboutUnsaved(m_session->modifiedDocuments())) {
+    if (!m_runCommands->mayClose([this] { close(); }) ||
+        !askAboutUnsaved(m_session->modifiedDocuments())) {
         event->ignore();
         return;
     }

@@ -21,13 +21,16 @@ namespace App {
 class ActionRegistry;
 class AnimationPanel;
 class CodeEdit;
+class CodeTextEditor;
 class ControlPlacer;
 class DocumentTabs;
+class GameCommands;
 class GameSession;
 class GameTree;
 class LineBar;
 class MessagePanel;
 class NodePanel;
+class RunCommands;
 class StatusFields;
 class WindowActions;
 
@@ -67,6 +70,9 @@ public:
     AnimationPanel* animationPanel() const { return m_animationPanel; }
     MessagePanel* messagePanel() const { return m_messagePanel; }
     StatusFields* status() const { return m_status; }
+    CodeTextEditor* textEditor() const { return m_textEditor; }
+    GameCommands* gameCommands() const { return m_gameCommands; }
+    RunCommands* runCommands() const { return m_runCommands; }
 
     /// The project of the text in front, else the one opened last, else null.
     Family::FamilyProject* currentProject() const;
@@ -85,11 +91,11 @@ public:
     /// current editor.
     QSet<QString> activeAreas() const;
 
-    /// What is there for actions to work on: flags of `Need`.
-    int presentNeeds() const;
     /// Takes the settings again that the window, its parts and what they show read.
     void reconfig();
 
+    /// What is there for actions to work on: flags of `Need`.
+    int presentNeeds() const;
 
     /// @name The actions
     /// @{
@@ -100,12 +106,6 @@ public:
     void closeProject();
     void closeFolder();
     void quit();
-    void undo();
-    void redo();
-    void cut();
-    void copy();
-    void paste();
-    void selectAll();
     void askForLine();
     void changeEncoding();
     void addAnimation();
@@ -131,9 +131,9 @@ private:
     void makeDocks();
     QDockWidget* addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area);
     void retranslate();
+    void parseAgain();
     void connectParts();
     void connectPanels();
-    void parseAgain();
 
     bool openFolder(const QString& folder);
     bool openProject(const QString& mainFile);
@@ -142,6 +142,7 @@ private:
     void closeDocument(Family::FamilyDocument* document);
     void showPlace(Zorv::CodeDocument* document, int line, int column, int length);
     void forgetProject(Family::FamilyProject* project);
+    void gameChanged();
 
     void currentDocumentChanged(Family::FamilyDocument* document);
     void cursorMoved();
@@ -163,6 +164,9 @@ private:
     AnimationPanel* m_animationPanel;
     MessagePanel* m_messagePanel;
     StatusFields* m_status;
+    CodeTextEditor* m_textEditor;
+    GameCommands* m_gameCommands;
+    RunCommands* m_runCommands;
     WindowActions* m_actions;
     ControlPlacer* m_controls;
     bool m_isUpdatePending = false;

@@ -10,6 +10,7 @@
 #include "app/linebar.h"
 #include "app/messagepanel.h"
 #include "app/nodepanel.h"
+#include "app/run/runcommands.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
 #include "core/dialogs/dialogs.h"
@@ -128,7 +129,8 @@ void MainWindow::closeProject()
 
 void MainWindow::closeFolder()
 {
-    if (askAboutUnsaved(m_session->modifiedDocuments())) {
+    if (m_runCommands->mayClose([this] { closeFolder(); }) &&
+        askAboutUnsaved(m_session->modifiedDocuments())) {
         m_session->closeFolder();
         updateSoon();
     }
@@ -137,48 +139,6 @@ void MainWindow::closeFolder()
 void MainWindow::quit()
 {
     close();
-}
-
-void MainWindow::undo()
-{
-    if (CodeEdit* edit = m_tabs->currentEdit()) {
-        edit->undo();
-    }
-}
-
-void MainWindow::redo()
-{
-    if (CodeEdit* edit = m_tabs->currentEdit()) {
-        edit->redo();
-    }
-}
-
-void MainWindow::cut()
-{
-    if (CodeEdit* edit = m_tabs->currentEdit()) {
-        edit->cut();
-    }
-}
-
-void MainWindow::copy()
-{
-    if (CodeEdit* edit = m_tabs->currentEdit()) {
-        edit->copy();
-    }
-}
-
-void MainWindow::paste()
-{
-    if (CodeEdit* edit = m_tabs->currentEdit()) {
-        edit->paste();
-    }
-}
-
-void MainWindow::selectAll()
-{
-    if (CodeEdit* edit = m_tabs->currentEdit()) {
-        edit->selectAll();
-    }
 }
 
 void MainWindow::askForLine()

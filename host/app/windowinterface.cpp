@@ -3,6 +3,11 @@
 #include "app/controls/controlplacer.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
+#include "family/familydocument.h"
+#include "app/game/gamecommands.h"
+#include "app/documenttabs.h"
+#include "app/codetexteditor.h"
+#include "app/codeedit.h"
 #include "app/progressdialog.h"
 #include "app/statusfields.h"
 #include "family/project/familyproject.h"
@@ -92,12 +97,39 @@ void WindowInterface::setMenuEnabled(const char* menu, const char* group, bool e
     }
 }
 
+Zorv::Editor* WindowInterface::currentEditor() const
+{
+    return m_window && m_window->tabs()->currentEdit() ? m_window->textEditor() : nullptr;
+}
+
+Zorv::Editor* WindowInterface::editorByName(const char* name) const
+{
+    Zorv::Editor* editor = m_window ? m_window->textEditor() : nullptr;
+    return editor && editor->name() == QLatin1String(name) ? editor : nullptr;
+}
+
+Zorv::Editor* WindowInterface::fileEditor(Zorv::ProjectFile* file, Zorv::FileID) const
+{
+    auto* document = dynamic_cast<Family::FamilyDocument*>(file);
+    if (!m_window || !document) {
+        return nullptr;
+    }
+    m_window->showDocument(document);
+    return m_window->textEditor();
+}
+
+void WindowInterface::activateEditor(Zorv::Editor* editor)
+{
+    if (m_window && editor == m_window->textEditor() && m_window->tabs()->currentEdit()) {
+        m_window->tabs()->currentEdit()->setFocus();
+        editor->activate();
+    }
+}
+
 void WindowInterface::refreshProjects()
 {
     if (m_window) {
-        for (Family::FamilyProject* project : m_window->session()->projects()) {
-            project->reload();
-        }
+        m_window->gameCommands()->refresh();
     }
 }
 

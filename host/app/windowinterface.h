@@ -8,8 +8,7 @@ namespace App {
 
 class MainWindow;
 
-/// The host's side of the library with a window. Editors do not exist yet, and
-/// are null.
+/// The host's side of the library with a window. The one editor is that of texts.
 class WindowInterface : public Family::HostInterface
 {
 public:
@@ -20,6 +19,14 @@ public:
 
     QWidget* mainWindow() const override;
     Zorv::ProgressReporter* progress(const QString& title, int style) override;
+
+    /// Null while no text is in front.
+    Zorv::Editor* currentEditor() const override;
+    Zorv::Editor* editorByName(const char* name) const override;
+
+    /// That of texts, with the file in front; null for a file of another kind.
+    Zorv::Editor* fileEditor(Zorv::ProjectFile* file, Zorv::FileID id) const override;
+    void activateEditor(Zorv::Editor* editor) override;
     unsigned projectCount() const override;
     Zorv::Project* projectAt(unsigned index) const override;
     Zorv::Project* currentProject() const override;
@@ -43,7 +50,7 @@ public:
                                 unsigned textId) override;
     void setMenuEnabled(const char* menu, const char* group, bool enabled) override;
 
-    /// Reads the files of all open projects again.
+    /// Shows what is in files that the library has read again.
     void refreshProjects() override;
 
 private:

@@ -1,6 +1,9 @@
 #include "app/actions/actiontable.h"
 
+#include "app/codetexteditor.h"
+#include "app/game/gamecommands.h"
 #include "app/mainwindow.h"
+#include "app/run/runcommands.h"
 #include "app/settings/showsettings.h"
 
 namespace App {
@@ -8,6 +11,24 @@ namespace App {
 namespace {
 
 constexpr QKeySequence::StandardKey NoKey = QKeySequence::UnknownKey;
+
+template <void (CodeTextEditor::*member)()>
+void inText(MainWindow& window)
+{
+    (window.textEditor()->*member)();
+}
+
+template <void (GameCommands::*member)()>
+void onGame(MainWindow& window)
+{
+    (window.gameCommands()->*member)();
+}
+
+template <void (RunCommands::*member)()>
+void onEngine(MainWindow& window)
+{
+    (window.runCommands()->*member)();
+}
 
 }  // namespace
 
@@ -36,6 +57,13 @@ const QVector<ActionRow>& actionTable()
         {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"save",           "file", QT_TRANSLATE_NOOP("App::Actions", "&Save"),                  K::Save,      nullptr,        NeedsText,       call<&W::save>},
         {"save_all",       "file", QT_TRANSLATE_NOOP("App::Actions", "Save a&ll"),              NoKey,        "Ctrl+Shift+S", NeedsUnsaved,    call<&W::saveAll>},
+        {"save_all_as",    "file", QT_TRANSLATE_NOOP("App::Actions", "Save all &as..."),        NoKey,        nullptr,        NeedsProject,    onGame<&GameCommands::saveAllAs>},
+        {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"backup",         "file", QT_TRANSLATE_NOOP("App::Actions", "&Back up..."),            NoKey,        nullptr,        NeedsGame,       onGame<&GameCommands::makeBackup>},
+        {"restore_backup", "file", QT_TRANSLATE_NOOP("App::Actions", "&Restore backup..."),     NoKey,        nullptr,        NeedsGame,       onGame<&GameCommands::restoreBackup>},
+        {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"run",            "file", QT_TRANSLATE_NOOP("App::Actions", "R&un in engine"),         NoKey,        "F5",           NeedsProject | NeedsNoEngine, onEngine<&RunCommands::run>},
+        {"stop_engine",    "file", QT_TRANSLATE_NOOP("App::Actions", "&End the engine"),        NoKey,        "Shift+F5",     NeedsEngine,     onEngine<&RunCommands::stop>},
         {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"close_text",     "file", QT_TRANSLATE_NOOP("App::Actions", "&Close text"),            K::Close,     nullptr,        NeedsText,       call<&W::closeText>},
         {"close_project",  "file", QT_TRANSLATE_NOOP("App::Actions", "Close &project"),         NoKey,        "Ctrl+Shift+W", NeedsProject,    call<&W::closeProject>},
@@ -43,21 +71,21 @@ const QVector<ActionRow>& actionTable()
         {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"quit",           "file", QT_TRANSLATE_NOOP("App::Actions", "&Quit"),                  NoKey,        "Ctrl+Q",       NoNeed,          call<&W::quit>},
 
-        {"undo",           "edit", QT_TRANSLATE_NOOP("App::Actions", "&Undo"),                  K::Undo,      nullptr,        NeedsUndo,       call<&W::undo>},
-        {"redo",           "edit", QT_TRANSLATE_NOOP("App::Actions", "&Redo"),                  K::Redo,      nullptr,        NeedsRedo,       call<&W::redo>},
+        {"undo",           "edit", QT_TRANSLATE_NOOP("App::Actions", "&Undo"),                  K::Undo,      nullptr,        NeedsUndo,       inText<&CodeTextEditor::undo>},
+        {"redo",           "edit", QT_TRANSLATE_NOOP("App::Actions", "&Redo"),                  K::Redo,      nullptr,        NeedsRedo,       inText<&CodeTextEditor::redo>},
         {nullptr,          "edit", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
-        {"cut",            "edit", QT_TRANSLATE_NOOP("App::Actions", "Cu&t"),                   K::Cut,       nullptr,        NeedsSelection,  call<&W::cut>},
-        {"copy",           "edit", QT_TRANSLATE_NOOP("App::Actions", "&Copy"),                  K::Copy,      nullptr,        NeedsSelection,  call<&W::copy>},
-        {"paste",          "edit", QT_TRANSLATE_NOOP("App::Actions", "&Paste"),                 K::Paste,     nullptr,        NeedsText,       call<&W::paste>},
-        {"select_all",     "edit", QT_TRANSLATE_NOOP("App::Actions", "Select &all"),            K::SelectAll, nullptr,        NeedsText,       call<&W::selectAll>},
+        {"cut",            "edit", QT_TRANSLATE_NOOP("App::Actions", "Cu&t"),                   K::Cut,       nullptr,        NeedsSelection,  inText<&CodeTextEditor::cut>},
+        {"copy",           "edit", QT_TRANSLATE_NOOP("App::Actions", "&Copy"),                  K::Copy,      nullptr,        NeedsSelection,  inText<&CodeTextEditor::copy>},
+        {"paste",          "edit", QT_TRANSLATE_NOOP("App::Actions", "&Paste"),                 K::Paste,     nullptr,        NeedsText,       inText<&CodeTextEditor::paste>},
+        {"select_all",     "edit", QT_TRANSLATE_NOOP("App::Actions", "Select &all"),            K::SelectAll, nullptr,        NeedsText,       inText<&CodeTextEditor::selectAll>},
         {nullptr,          "edit", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"go_to_line",     "edit", QT_TRANSLATE_NOOP("App::Actions", "&Go to line..."),         NoKey,        "Ctrl+L",       NeedsText,       call<&W::askForLine>, "code"},
         {"encoding",       "edit", QT_TRANSLATE_NOOP("App::Actions", "&Encoding..."),           NoKey,        nullptr,        NeedsText,       call<&W::changeEncoding>, "code"},
+        {nullptr,          "edit", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
+        {"settings",       "edit", QT_TRANSLATE_NOOP("App::Actions", "Setti&ngs..."),           NoKey,        "Ctrl+,",       NoNeed,          showSettings},
 
         {"anim_add",       "anim", QT_TRANSLATE_NOOP("App::Actions", "&Add"),                   NoKey,        "Ctrl+Shift+A", NeedsText,       call<&W::addAnimation>},
         {"anim_duplicate", "anim", QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"),             NoKey,        "Ctrl+Shift+D", NeedsAnimation,  call<&W::duplicateAnimation>},
-        {nullptr,          "edit", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
-        {"settings",       "edit", QT_TRANSLATE_NOOP("App::Actions", "Setti&ngs..."),           NoKey,        "Ctrl+,",       NoNeed,          showSettings},
         {"anim_remove",    "anim", QT_TRANSLATE_NOOP("App::Actions", "&Remove"),                NoKey,        "Ctrl+Shift+R", NeedsAnimation,  call<&W::removeAnimations>},
         {nullptr,          "anim", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"anim_up",        "anim", QT_TRANSLATE_NOOP("App::Actions", "Move &up"),               NoKey,        "Alt+Up",       NeedsAnimation,  call<&W::moveAnimationUp>},

@@ -19,7 +19,9 @@ enum Need {
     NeedsRedo = 32,
     NeedsSelection = 64,
     NeedsAnimation = 128,  ///< a current row in the list of animations
-    NeedsAnimations = 256  ///< any row there
+    NeedsAnimations = 256,  ///< any row there
+    NeedsEngine = 512,      ///< an engine runs
+    NeedsNoEngine = 1024    ///< none does
 };
 
 /// One action of the window: a row of the table.
