@@ -88,7 +88,8 @@ public:
 
     /// The folder, relative to the engine's, for a temporary copy of a project;
     /// empty if it cannot be run there. `*wholeFolder` is set to true when that
-    /// folder is temporary as a whole.
+    /// folder is temporary as a whole; it must not be there yet then. `name` is what
+    /// the copy of the main file will be called.
     virtual QString runPath(int kind, const QString& name, bool* wholeFolder) const = 0;
 
     /// Called when the last project has gone; the host may delete this object
@@ -190,16 +191,17 @@ public:
 
     /// Starts an engine on the work in progress: the projects that its parameter
     /// string asks for are written as temporary copies beside it, which go when
-    /// it ends.
+    /// it ends. What the engine's folder held before stays as it is.
     ///
     /// The executable is that of the game folder, else one of the configured
     /// engines, which the person chooses. "%0" in the parameters stands for the
     /// project in front, "%1" and up for the open ones; the engine gets the path
     /// of the copy of the main file, relative to the engine's folder, in which it
-    /// is started. Failures are told through `Dialogs`.
+    /// is started. Blanks separate arguments; a path stays one. Failures are told
+    /// through `Dialogs`.
     ///
     /// Returns when the engine has ended. Events are processed meanwhile, and the
-    /// tree may even be deleted.
+    /// tree may even be deleted, which ends the engine as `stopEngine()` does.
     void run();
 
     /// True while an engine runs.
@@ -209,7 +211,8 @@ public:
     RunResult runResult() const;
 
     /// Ends the engine: asks it first, and kills it if it does not go within
-    /// seconds. Nothing if none runs.
+    /// seconds. Returns at once; nothing if none runs. A host that closes calls it,
+    /// for `run()` would keep the program until the person ends the engine.
     void stopEngine();
     /// @}
 
@@ -228,7 +231,8 @@ signals:
     /// The engine has been started as `program` with `arguments`.
     void engineStarted(const QString& program, const QStringList& arguments);
 
-    /// The engine has printed something, on either of its two channels.
+    /// The engine has printed something, on either of its two channels: at most
+    /// 64 KB. It waits while this is taken in, so nothing piles up.
     void engineOutput(const QByteArray& bytes);
 
     /// The engine has ended, or could not be started; see `runResult()`. The

@@ -4,6 +4,7 @@
 #include "core/enginemodel.h"
 #include "core/filesystemarchive.h"
 #include "core/interface.h"
+#include "core/lazysync_p.h"
 #include "core/parentproject_p.h"
 #include "core/projectfile.h"
 #include "core/run/engineprocess_p.h"
@@ -186,6 +187,7 @@ bool EngineRun::writeCopy(Project* project, const QString& folder, const QString
     const QString mainName = QFileInfo(project->fileName()).fileName();
     const QPointer<Project> alive = project;
     bool isNamed = false;
+    const LazySync lazy;
     if (mainName.isEmpty()) {
         isNamed = project->file(FileID::MainCode)
                       ->toFile(*FileSystemArchive::instance(), folder + name, true);
