@@ -202,9 +202,12 @@ void TestBackup::refusesReadOnlyArchive()
 
 void TestBackup::listsYoungestFirst()
 {
-    const QStringList names = {"02.01.2021_1.0.0_am_a",   "02.01.2021_12.59.59_am_b",
-                               "01.12.2020_11.59.0_pm_c", "01.12.2020_12.1.0_pm_d",
-                               "31.01.2020_1.1.1_pm_e_f", "99.99.2020_1.1.1_pm_g",
+    const QStringList names = {"02.01.2021_1.0.0_am_a",
+                               "02.01.2021_12.59.59_am_b",
+                               "01.12.2020_11.59.0_pm_c",
+                               "01.12.2020_12.1.0_pm_d",
+                               "31.01.2020_1.1.1_pm_e_f",
+                               "99.99.2020_1.1.1_pm_g",
                                "by hand"};
     for (int i = names.size(); i > 0; --i) {
         QDir().mkpath(m_root + "backup/" + names.at(i - 1));
