@@ -150,7 +150,8 @@ void CodeTextEditor::replace(const QString& text, const QString& with, unsigned 
 void CodeTextEditor::replaceAll(const QString& text, const QString& with, unsigned flags)
 {
     QTextDocument* document = edit()->document();
-    const QTextDocument::FindFlags forward = findFlags(flags & ~unsigned(QTextDocument::FindBackward));
+    const QTextDocument::FindFlags forward =
+        findFlags(flags & ~unsigned(QTextDocument::FindBackward));
     QTextCursor step(document);
     QTextCursor found = document->find(text, 0, forward);
     if (found.isNull()) {

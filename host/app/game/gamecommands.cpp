@@ -85,8 +85,7 @@ void GameCommands::restoreBackup()
 
 void GameCommands::tell(const QString& title, const QString& done, const BackupResult& result) const
 {
-    QStringList parts{result.error,
-                      paragraph(tr("These could not be copied:"), result.failed),
+    QStringList parts{result.error, paragraph(tr("These could not be copied:"), result.failed),
                       paragraph(tr("These are named by a project and not there:"), result.missing)};
     parts.removeAll(QString());
     if (result.isCanceled) {
@@ -153,8 +152,7 @@ bool GameCommands::mayWriteInto(const QString& folder) const
             tr("%1 lies in the folder of the game. Choose a folder outside of it.").arg(shown));
         return false;
     }
-    return target.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
-                          QDir::NoDotAndDotDot) ||
+    return target.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot) ||
            Dialogs::instance()->question(
                tr("Save all as"),
                tr("There are files in %1. Those with the names of files of the game are "

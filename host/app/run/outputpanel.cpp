@@ -18,15 +18,26 @@ namespace App {
 
 namespace {
 
-constexpr int Turn = 40;              // milliseconds
-constexpr int BytesATurn = 32 * 1024;
-constexpr int MaxPending = 1000000;
+constexpr int Turn = 40;  // milliseconds
+constexpr int BytesATurn = 16 * 1024;
+constexpr int LinesATurn = 400;
+
+/// Where the piece ends that begins at `from`; `lines` takes its line ends.
+int endOfPiece(const QByteArray& bytes, int from, int* lines)
+{
+    const int last = std::min(bytes.size(), from + BytesATurn);
+    *lines = 0;
+    int end = from;
+    while (end < last && *lines < LinesATurn) {
+        *lines += bytes.at(end++) == '\n' ? 1 : 0;
+    }
+    return end;
+}
 
 }  // namespace
 
 OutputPanel::OutputPanel(QWidget* parent)
-    : QWidget(parent), m_edit(new QPlainTextEdit), m_copy(new QToolButton),
-      m_clear(new QToolButton)
+    : QWidget(parent), m_edit(new QPlainTextEdit), m_copy(new QToolButton), m_clear(new QToolButton)
 {
     m_edit->setReadOnly(true);
     m_edit->setUndoRedoEnabled(false);
@@ -79,17 +90,11 @@ void OutputPanel::changeEvent(QEvent* event)
 
 void OutputPanel::add(const QByteArray& bytes)
 {
-    for (int at = 0; at < bytes.size(); at += BytesATurn) {
-        const QByteArray some = bytes.mid(at, BytesATurn);
-        m_pendingSize += some.size();
-        const bool isSmall =
-            !m_pieces.empty() && m_pieces.back().note.isNull() &&
-            m_pieces.back().bytes.size() + some.size() <= BytesATurn;
-        if (isSmall) {
-            m_pieces.back().bytes += some;
-        } else {
-            m_pieces.push_back({some, QString()});
-        }
+    for (int at = 0; at < bytes.size();) {
+        int lines = 0;
+        const int end = endOfPiece(bytes, at, &lines);
+        addPiece(bytes.mid(at, end - at), lines);
+        at = end;
     }
     dropOld();
     if (!m_timer.isActive()) {
@@ -97,25 +102,47 @@ void OutputPanel::add(const QByteArray& bytes)
     }
 }
 
+void OutputPanel::addPiece(const QByteArray& bytes, int lines)
+{
+    m_pendingSize += bytes.size();
+    m_pendingLines += lines;
+    if (!m_pieces.empty() && m_pieces.back().note.isNull() &&
+        m_pieces.back().bytes.size() + bytes.size() <= BytesATurn &&
+        m_pieces.back().lines + lines <= LinesATurn) {
+        m_pieces.back().bytes += bytes;
+        m_pieces.back().lines += lines;
+    } else {
+        m_pieces.push_back({bytes, lines, QString()});
+    }
+}
+
 void OutputPanel::addNote(const QString& text)
 {
-    m_pieces.push_back({QByteArray(), text});
+    m_pieces.push_back({QByteArray(), 0, text});
     if (!m_timer.isActive()) {
         showSome();
     }
 }
 
+OutputPanel::Piece OutputPanel::takePiece(std::deque<Piece>::iterator at)
+{
+    Piece piece = std::move(*at);
+    m_pendingSize -= piece.bytes.size();
+    m_pendingLines -= piece.lines;
+    m_pieces.erase(at);
+    return piece;
+}
+
 // What would be pushed out of the view before anybody saw it.
 void OutputPanel::dropOld()
 {
-    for (auto it = m_pieces.begin(); m_pendingSize > MaxPending && it != m_pieces.end();) {
-        if (!it->note.isNull()) {
-            ++it;
-            continue;
+    for (size_t i = 0;
+         i + 1 < m_pieces.size() && (m_pendingSize > MaxCharacters || m_pendingLines > MaxLines);) {
+        if (m_pieces[i].note.isNull()) {
+            m_dropped += takePiece(m_pieces.begin() + int(i)).bytes.size();
+        } else {
+            ++i;
         }
-        m_pendingSize -= it->bytes.size();
-        m_dropped += it->bytes.size();
-        it = m_pieces.erase(it);
     }
 }
 
@@ -128,10 +155,8 @@ void OutputPanel::showSome()
     }
     bool isTurnOver = false;
     while (!m_pieces.empty() && !isTurnOver) {
-        const Piece piece = m_pieces.front();
-        m_pieces.pop_front();
+        const Piece piece = takePiece(m_pieces.begin());
         if (piece.note.isNull()) {
-            m_pendingSize -= piece.bytes.size();
             append(m_decoder.decode(piece.bytes), false);
             isTurnOver = true;
         } else {
@@ -176,6 +201,7 @@ void OutputPanel::clear()
 {
     m_pieces.clear();
     m_pendingSize = 0;
+    m_pendingLines = 0;
     m_dropped = 0;
     m_edit->clear();
 }

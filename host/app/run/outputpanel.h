@@ -45,9 +45,12 @@ private:
     struct Piece
     {
         QByteArray bytes;
+        int lines = 0;
         QString note;
     };
 
+    void addPiece(const QByteArray& bytes, int lines);
+    Piece takePiece(std::deque<Piece>::iterator at);
     void makeBar();
     void retranslate();
     void showSome();
@@ -60,7 +63,8 @@ private:
     OutputText m_decoder;
     std::deque<Piece> m_pieces;  ///< not shown yet
     int m_pendingSize = 0;       ///< bytes of them
-    qint64 m_dropped = 0;        ///< bytes in front of them that nobody will see
+    int m_pendingLines = 0;
+    qint64 m_dropped = 0;  ///< bytes in front of them that nobody will see
     QTimer m_timer;
 };
 

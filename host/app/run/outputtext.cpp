@@ -105,8 +105,12 @@ void OutputText::addCharacter(uint code, QString* text)
         *text += QLatin1Char('\n');
         m_column = 0;
     } else if (!m_hasReturn) {
-        const bool isSign = code != '\t' && doesSomething(code);
-        append(isSign ? signOf(code) : QString::fromUcs4(&code, 1), text);
+        const bool isPlain = code == '\t' || (code >= 0x20 && code < 0x7F);
+        const bool isSign = !isPlain && doesSomething(code);
+        append(isPlain  ? QString(QChar(code))
+               : isSign ? signOf(code)
+                        : QString::fromUcs4(&code, 1),
+               text);
     }
 }
 

@@ -48,7 +48,8 @@ void RunCommands::followGame()
     const ParentProject* game = m_window->session()->game();
     connect(game, &ParentProject::engineStarted, this,
             [this](const QString& program, const QStringList& arguments) {
-                m_panel->addNote(tr("Started: %1").arg((QStringList{program} + arguments).join(' ')));
+                m_panel->addNote(
+                    tr("Started: %1").arg((QStringList{program} + arguments).join(' ')));
                 m_panel->parentWidget()->show();
                 emit stateChanged();
             });
@@ -159,9 +160,9 @@ void RunCommands::offerLeftovers()
         left += TemporaryCopies::removeLeftover(leftover);
     }
     if (!left.isEmpty()) {
-        Dialogs::instance()->warning(tr("Temporary copies"),
-                                     tr("These could not be removed:") + QLatin1String("\n\n") +
-                                         namesOf(left));
+        Dialogs::instance()->warning(tr("Temporary copies"), tr("These could not be removed:") +
+                                                                 QLatin1String("\n\n") +
+                                                                 namesOf(left));
     }
 }
 

@@ -88,8 +88,8 @@ void AbandonedTexts::read(const QString& path, const QString& gameFolder)
     if (isRead && text.copy.fromBytes(bytes, &text.fault)) {
         text.state = stateOf(text.copy);
     } else if (!isRead) {
-        text.fault = QCoreApplication::translate("Family::AbandonedTexts",
-                                                 "The copy cannot be read.");
+        text.fault =
+            QCoreApplication::translate("Family::AbandonedTexts", "The copy cannot be read.");
     }
     if (!gameFolder.isEmpty() && text.copy.gameFolder != gameFolder) {
         return;
@@ -139,7 +139,8 @@ void applyText(Zorv::CodeDocument* document, const QString& text, const QString&
         ++head;
     }
     int tail = 0;
-    while (tail < shorter - head && old.at(old.size() - 1 - tail) == text.at(text.size() - 1 - tail)) {
+    while (tail < shorter - head &&
+           old.at(old.size() - 1 - tail) == text.at(text.size() - 1 - tail)) {
         ++tail;
     }
     QTextCursor cursor(document);

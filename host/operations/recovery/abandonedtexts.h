@@ -20,7 +20,7 @@ class SessionFolder;
 struct AbandonedText
 {
     enum State {
-        Applicable,  ///< its file is what it was when the text was read, or was never saved
+        Applicable,   ///< its file is what it was when the text was read, or was never saved
         FileChanged,  ///< the file was changed after the text was read
         FileGone,
         Damaged  ///< `copy` is empty, `fault` tells why

@@ -184,9 +184,8 @@ void RecoveryKeeper::Private::documentChanged(FamilyDocument* document)
     }
     if (!watched.hasHash) {
         watched.hasHash = true;
-        writer.start([stamp = watched.stamp, fileName = watched.fileName] {
-            stamp->addHash(fileName);
-        });
+        writer.start(
+            [stamp = watched.stamp, fileName = watched.fileName] { stamp->addHash(fileName); });
     }
     startTimer();
 }
@@ -210,8 +209,7 @@ void RecoveryKeeper::Private::drop(Watched* watched)
 
 bool RecoveryKeeper::Private::needsCopy(FamilyDocument* document) const
 {
-    return document->isModified() &&
-           !(documents.value(document).copied == TextState::of(document));
+    return document->isModified() && !(documents.value(document).copied == TextState::of(document));
 }
 
 void RecoveryKeeper::Private::copyAll()
@@ -243,8 +241,8 @@ void RecoveryKeeper::Private::copy(FamilyDocument* document, Watched* watched)
     const Zorv::Project* project = document->project();
     content.fileName = document->fileName();
     content.mainFile = project ? project->fileName() : QString();
-    content.gameFolder = project && project->parent() ? project->parent()->absolutePath()
-                                                      : QString();
+    content.gameFolder =
+        project && project->parent() ? project->parent()->absolutePath() : QString();
     content.kind = document->kind();
     content.codec = document->codecName();
     content.time = QDateTime::currentDateTime();

@@ -78,8 +78,8 @@ std::unique_ptr<SessionFolder> SessionFolder::create(const QString& root, QStrin
 std::vector<std::unique_ptr<SessionFolder>> SessionFolder::claimAbandoned(const QString& root)
 {
     std::vector<std::unique_ptr<SessionFolder>> folders;
-    const QFileInfoList all = QDir(root).entryInfoList(
-        QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
+    const QFileInfoList all =
+        QDir(root).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
     for (const QFileInfo& info : all) {
         if (auto folder = claim(info.absoluteFilePath())) {
             folders.push_back(std::move(folder));
