@@ -514,7 +514,7 @@ int runEditor()
     World world("exec sleep 1000", "%0");
     world.dir.setAutoRemove(false);
     world.tree->folder = "data/";
-    world.tree->isWhole = qEnvironmentVariableIsSet("WHOLE");
+    world.tree->isWhole = false;
     world.open("chars/hero.code", "2 a.spr");
     printf("%s\n", qPrintable(world.root));
     fflush(stdout);

@@ -8,6 +8,7 @@
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QUuid>
 
@@ -15,6 +16,7 @@ namespace Zorv {
 
 namespace {
 
+const QLatin1String lockSuffix(".lock");
 constexpr qint64 CompareBlock = 128 * 1024;
 
 QString recordFolder()
@@ -27,7 +29,7 @@ QString recordFolder()
 class RecordLock
 {
 public:
-    explicit RecordLock(const QString& record) : m_lock(record + QStringLiteral(".lock"))
+    explicit RecordLock(const QString& record) : m_lock(record + lockSuffix)
     {
         // However long an engine runs, its lock stays good.
         m_lock.setStaleLockTime(0);
@@ -227,10 +229,14 @@ QStringList TemporaryCopies::remove()
 QList<TemporaryCopies::Leftover> TemporaryCopies::leftovers()
 {
     QList<Leftover> list;
-    const QFileInfoList entries =
-        QDir(recordFolder()).entryInfoList({QStringLiteral("*.run")}, QDir::Files);
-    for (const QFileInfo& entry : entries) {
-        const QString fileName = entry.absoluteFilePath();
+    const QDir folder(recordFolder());
+    // A lock without a record is left where none was written any more; it goes when it is given up.
+    QStringList names = folder.entryList(
+        {QStringLiteral("*.run"), QStringLiteral("*.run") + lockSuffix}, QDir::Files);
+    names.replaceInStrings(QRegularExpression(lockSuffix + QLatin1Char('$')), QString());
+    names.removeDuplicates();
+    for (const QString& name : qAsConst(names)) {
+        const QString fileName = folder.absoluteFilePath(name);
         RecordLock lock(fileName);
         RunRecord safe;
         if (lock.take() && readLeftover(fileName, &safe)) {
