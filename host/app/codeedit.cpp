@@ -134,9 +134,9 @@ QMimeData* CodeEdit::createMimeDataFromSelection() const
 
 void CodeEdit::applyFont()
 {
-    const QFont font = codeFont();
-    m_document->setDefaultFont(font);
-    setFont(font);
+    setFont(codeFont());
+    // That of the widget is made for the screen.
+    m_document->setDefaultFont(font());
     setTabStopDistance(TabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
 }
 

@@ -1,10 +1,9 @@
 #include "app/look/theme.h"
 
+#include "app/look/lookstyle.h"
 #include "code/codedoc/codedocument.h"
 
 #include <QApplication>
-#include <QStyle>
-#include <QStyleFactory>
 #include <QTextCharFormat>
 #include <QToolTip>
 
@@ -145,8 +144,8 @@ void Theme::use(Kind kind)
 {
     kindOfSystem();
     s_current = kind;
-    if (QApplication::style()->objectName() != QLatin1String("fusion")) {
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    if (!qobject_cast<LookStyle*>(QApplication::style())) {
+        QApplication::setStyle(new LookStyle);
     }
     QApplication::setPalette(palette(kind));
     QToolTip::setPalette(palette(kind));

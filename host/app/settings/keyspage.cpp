@@ -3,6 +3,7 @@
 #include "app/look/language.h"
 #include "app/settings/keytable.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeySequenceEdit>
@@ -69,8 +70,7 @@ QLayout* KeysPage::makeEditor()
         button->setAutoDefault(false);
         layout->addWidget(button);
     }
-    connect(m_key, &QKeySequenceEdit::keySequenceChanged, this,
-            [this](const QKeySequence& key) { m_keys->setKey(currentRow(), key); });
+    m_key->installEventFilter(this);
     connect(m_none, &QPushButton::clicked, this, [this] {
         m_keys->setKey(currentRow(), {});
         showKey();
@@ -113,6 +113,18 @@ void KeysPage::restoreDefaults()
 {
     m_keys->resetAll();
     showKey();
+}
+
+/// The editor tells of a key a second later, in case that more follow; a click on a button may
+/// come before that.
+bool KeysPage::eventFilter(QObject* watched, QEvent* event)
+{
+    const int row = currentRow();
+    if (event->type() == QEvent::KeyRelease && row >= 0 &&
+        m_key->keySequence() != m_keys->key(row)) {
+        m_keys->setKey(row, m_key->keySequence());
+    }
+    return SettingsPage::eventFilter(watched, event);
 }
 
 int KeysPage::currentRow() const

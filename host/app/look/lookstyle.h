@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace App {
+
+/// The style of the window: Fusion, but for what that draws black on any ground.
+class LookStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    LookStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+};
+
+}  // namespace App

@@ -1,0 +1,245 @@
+#include "app/look/icon.h"
+#include "app/look/theme.h"
+#include "windowfixture.h"
+
+#include <QApplication>
+#include <QDirIterator>
+#include <QImage>
+
+#include <cmath>
+
+using App::Theme;
+using Zorv::CodeParserSyntax;
+
+namespace {
+
+// Of the guidelines for accessible content of the W3C: texts, and pictures that mean something.
+constexpr double TextContrast = 4.5;
+constexpr double PictureContrast = 3;
+
+double linear(double part)
+{
+    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& colour)
+{
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& first, const QColor& second)
+{
+    const double a = luminance(first);
+    const double b = luminance(second);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+}  // namespace
+
+/// Light and dark: can everything be read, and does all of the window change?
+class tst_Theme : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void measuresContrast();
+    void textsCanBeRead_data();
+    void textsCanBeRead();
+    void iconsStandOut_data();
+    void iconsStandOut();
+    void iconsAreSharp_data();
+    void iconsAreSharp();
+    void kindOfSetting();
+    void changesWhileRunning();
+};
+
+/// The measure itself, at values that the guidelines give.
+void tst_Theme::measuresContrast()
+{
+    QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
+    QCOMPARE(contrast(Qt::white, Qt::white), 1.0);
+    QVERIFY(std::abs(contrast(QColor(0x76, 0x76, 0x76), Qt::white) - 4.54) < 0.01);
+}
+
+void tst_Theme::textsCanBeRead_data()
+{
+    QTest::addColumn<QColor>("text");
+    QTest::addColumn<QColor>("ground");
+    using P = QPalette;
+    const std::pair<P::ColorRole, P::ColorRole> pairs[] = {
+        {P::WindowText, P::Window},
+        {P::Text, P::Base},
+        {P::Text, P::AlternateBase},
+        {P::ButtonText, P::Button},
+        {P::PlaceholderText, P::Base},
+        {P::ToolTipText, P::ToolTipBase},
+        {P::HighlightedText, P::Highlight},
+        {P::BrightText, P::Window},
+        {P::Link, P::Window},
+        {P::Link, P::Base},
+        {P::LinkVisited, P::Window},
+        {P::LinkVisited, P::Base},
+    };
+    for (const auto kind : {Theme::Light, Theme::Dark}) {
+        const char* name = kind == Theme::Light ? "light" : "dark";
+        const QPalette palette = Theme::palette(kind);
+        for (const auto group : {P::Active, P::Inactive}) {
+            for (const auto& [text, ground] : pairs) {
+                QTest::addRow("%s, group %d: role %d on %d", name, group, text, ground)
+                    << palette.color(group, text) << palette.color(group, ground);
+            }
+        }
+        const QColor base = palette.color(P::Base);
+        const QColor line = Theme::colour(kind, Theme::CurrentLine);
+        for (int i = 0; i < CodeParserSyntax::TokenTypeCount; ++i) {
+            const QColor token = Theme::token(kind, CodeParserSyntax::TokenType(i));
+            QTest::addRow("%s: token %d", name, i) << token << base;
+            QTest::addRow("%s: token %d in the current line", name, i) << token << line;
+        }
+        for (const auto ground : {Theme::AddedLine, Theme::RemovedLine}) {
+            QTest::addRow("%s: compared text on %d", name, ground)
+                << palette.color(P::Text) << Theme::colour(kind, ground);
+        }
+        for (const auto ground : {P::Window, P::Base}) {
+            QTest::addRow("%s: error on role %d", name, ground)
+                << Theme::colour(kind, Theme::ErrorText) << palette.color(ground);
+        }
+    }
+}
+
+void tst_Theme::textsCanBeRead()
+{
+    QFETCH(QColor, text);
+    QFETCH(QColor, ground);
+    const double ratio = contrast(text, ground);
+    QVERIFY2(ratio >= TextContrast,
+             qPrintable(QStringLiteral("%1 on %2: %3").arg(text.name(), ground.name()).arg(ratio)));
+}
+
+void tst_Theme::iconsStandOut_data()
+{
+    QTest::addColumn<QString>("file");
+    const App::WindowInterface host;  // brings the resources in
+    for (const char* folder : {":/icons/icons", ":/zorvl_icons/icons"}) {
+        QDirIterator files(QLatin1String(folder), {QStringLiteral("*@2x.png")});
+        while (files.hasNext()) {
+            const QString file = files.next();
+            QTest::newRow(qPrintable(file)) << file;
+        }
+    }
+}
+
+/// A quarter of what is drawn stands out from either ground.
+void tst_Theme::iconsStandOut()
+{
+    QFETCH(QString, file);
+    const QImage image = QImage(file).convertToFormat(QImage::Format_ARGB32);
+    for (const auto kind : {Theme::Light, Theme::Dark}) {
+        const QColor ground = Theme::palette(kind).color(QPalette::Window);
+        int drawn = 0;
+        int seen = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor pixel = image.pixelColor(x, y);
+                if (pixel.alpha() > 200) {
+                    ++drawn;
+                    seen += contrast(pixel, ground) >= PictureContrast ? 1 : 0;
+                }
+            }
+        }
+        QVERIFY(drawn > 0);
+        QVERIFY2(
+            seen * 4 >= drawn,
+            qPrintable(
+                QStringLiteral("%1 of %2 pixels, kind %3").arg(seen).arg(drawn).arg(int(kind))));
+    }
+}
+
+void tst_Theme::iconsAreSharp_data()
+{
+    QTest::addColumn<QString>("scale");
+    QTest::addColumn<int>("pixels");
+    QTest::newRow("1x") << QString() << 16;
+    QTest::newRow("1.5x") << QStringLiteral("@1.5x") << 24;
+    QTest::newRow("2x") << QStringLiteral("@2x") << 32;
+}
+
+/// At each scale an icon is drawn from the picture that was made for it, pixel by pixel.
+void tst_Theme::iconsAreSharp()
+{
+    QFETCH(QString, scale);
+    QFETCH(int, pixels);
+    for (const char* name : {":/icons/icons/save", ":/zorvl_icons/icons/code"}) {
+        const QString stem = QLatin1String(name);
+        QImage made(stem + scale + QStringLiteral(".png"));
+        QCOMPARE(made.size(), QSize(pixels, pixels));
+        made.setDevicePixelRatio(1);
+        QImage shown =
+            App::icon(stem + QStringLiteral(".png")).pixmap(QSize(pixels, pixels)).toImage();
+        shown.setDevicePixelRatio(1);
+        QCOMPARE(shown.convertToFormat(QImage::Format_ARGB32_Premultiplied),
+                 made.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    }
+}
+
+void tst_Theme::kindOfSetting()
+{
+    QCOMPARE(Theme::kindOf(QStringLiteral("light")), Theme::Light);
+    QCOMPARE(Theme::kindOf(QStringLiteral("dark")), Theme::Dark);
+    // The system is light here, whatever was chosen in between.
+    Theme::use(Theme::Dark);
+    QCOMPARE(Theme::kindOf(QString()), Theme::Light);
+    QCOMPARE(Theme::kindOf(QStringLiteral("pink")), Theme::Light);
+    Theme::use(Theme::Light);
+}
+
+/// A window with a text that is open already changes as a whole, and back to the last pixel.
+void tst_Theme::changesWhileRunning()
+{
+    const QTemporaryDir folder;
+    const TemporaryGame game;
+    WindowFixture fixture(folder.filePath("settings.ini"));
+    fixture.open(game, game.oda());
+    const auto look = [&](const char* theme) {
+        fixture.host.setOption(QStringLiteral("theme"), QLatin1String(theme));
+        fixture.window->reconfig();
+        QTest::qWait(400);  // panels follow a little later
+        return fixture.window->grab().toImage();
+    };
+    const auto isBright = [&](const QImage& picture) {
+        qint64 sum = 0;
+        for (int y = 0; y < picture.height(); y += 3) {
+            for (int x = 0; x < picture.width(); x += 3) {
+                sum += qGray(picture.pixel(x, y)) > 127 ? 1 : -1;
+            }
+        }
+        return sum > picture.width() * picture.height() / 9 / 2;
+    };
+    const auto colours = [&] {
+        QSet<QRgb> found;
+        for (QTextBlock block = fixture.document()->begin(); block.isValid();
+             block = block.next()) {
+            const auto formats = block.layout()->formats();
+            for (const QTextLayout::FormatRange& range : formats) {
+                found.insert(range.format.foreground().color().rgb());
+            }
+        }
+        return found;
+    };
+    fixture.edit()->setCursorWidth(0);
+    const QImage light = look("light");
+    const QSet<QRgb> lightColours = colours();
+    QVERIFY(isBright(light));
+    const QImage dark = look("dark");
+    const QSet<QRgb> darkColours = colours();
+    QVERIFY(!isBright(dark));
+    QVERIFY(lightColours.size() > 2);
+    QVERIFY(!lightColours.intersects(darkColours));
+    fixture.host.setOption(QStringLiteral("theme"), QStringLiteral("light"));
+    fixture.window->reconfig();
+    QTRY_COMPARE(fixture.window->grab().toImage(), light);
+}
+
+QTEST_MAIN(tst_Theme)
+#include "tst_theme.moc"
