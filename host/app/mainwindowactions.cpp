@@ -95,6 +95,7 @@ void MainWindow::save()
         if (saveDocuments({document})) {
             statusBarText(tr("%1 is saved.").arg(m_session->shownPath(document->fileName())));
         }
+        m_tabs->updateTabs();
         m_status->updateFile();
     }
 }
@@ -104,6 +105,7 @@ void MainWindow::saveAll()
     if (saveDocuments(m_session->modifiedDocuments())) {
         statusBarText(tr("All files are saved."));
     }
+    m_tabs->updateTabs();
     m_status->updateFile();
 }
 

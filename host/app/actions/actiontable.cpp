@@ -57,7 +57,7 @@ const QVector<ActionRow>& actionTable()
         {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"save",           "file", QT_TRANSLATE_NOOP("App::Actions", "&Save"),                  K::Save,      nullptr,        NeedsText,       call<&W::save>},
         {"save_all",       "file", QT_TRANSLATE_NOOP("App::Actions", "Save a&ll"),              NoKey,        "Ctrl+Shift+S", NeedsUnsaved,    call<&W::saveAll>},
-        {"save_all_as",    "file", QT_TRANSLATE_NOOP("App::Actions", "Save all &as..."),        NoKey,        nullptr,        NeedsProject,    onGame<&GameCommands::saveAllAs>},
+        {"save_all_as",    "file", QT_TRANSLATE_NOOP("App::Actions", "Save all &as..."),        NoKey,        nullptr,        NeedsGame,       onGame<&GameCommands::saveAllAs>},
         {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"backup",         "file", QT_TRANSLATE_NOOP("App::Actions", "&Back up..."),            NoKey,        nullptr,        NeedsGame,       onGame<&GameCommands::makeBackup>},
         {"restore_backup", "file", QT_TRANSLATE_NOOP("App::Actions", "&Restore backup..."),     NoKey,        nullptr,        NeedsGame,       onGame<&GameCommands::restoreBackup>},

@@ -113,13 +113,13 @@ void GameCommands::refresh()
     emit gameChanged();
 }
 
-/// A loose project has the new name of its main file, with a suffix, anything else
-/// a folder with "/" at its end. Empty if the person gives up.
+/// A loose project in the folder itself has the new name of its main file, with a
+/// suffix, anything else a folder with "/" at its end. Empty if the person gives up.
 QString GameCommands::askForPlace(bool* isFile) const
 {
     const FamilyParentProject* game = m_window->session()->game();
     const QList<FamilyProject*> projects = m_window->session()->projects();
-    *isFile = projects.size() == 1 && !game->isGame();
+    *isFile = projects.size() == 1 && !game->isGame() && projects.first()->basePath().isEmpty();
     const QString title = tr("Save all as");
     if (!*isFile) {
         const QString folder =
@@ -136,7 +136,9 @@ QString GameCommands::askForPlace(bool* isFile) const
     if (!name.isEmpty() && !name.endsWith(suffix, Qt::CaseInsensitive)) {
         name += suffix;
     }
-    return name.isEmpty() || !mayWriteInto(QFileInfo(name).absolutePath()) ? QString() : name;
+    const QString folder = QFileInfo(name).absolutePath();
+    const bool staysInFolder = QDir(folder) == QDir(game->absolutePath());
+    return name.isEmpty() || !(staysInFolder || mayWriteInto(folder)) ? QString() : name;
 }
 
 bool GameCommands::mayWriteInto(const QString& folder) const
@@ -184,6 +186,26 @@ bool GameCommands::settleEncodings() const
     return true;
 }
 
+/// One open project alone would be taken out of its place in the folder, its main
+/// file away from the others. A second one, without a file, keeps it there; gives
+/// what could not be written.
+QStringList GameCommands::saveFolderAs(const QString& folder) const
+{
+    FamilyParentProject* game = m_window->session()->game();
+    FamilyProject* second = nullptr;
+    if (game->openedProjects().size() == 1 && !game->isGame()) {
+        second = FamilyProject::create(game, Family::FileKind::Stage);
+    }
+    game->saveAs(folder);
+    QStringList failed = game->failedFiles();
+    if (second) {
+        failed.removeOne(second->title());
+        second->release();
+        delete second;
+    }
+    return failed;
+}
+
 void GameCommands::saveAllAs()
 {
     FamilyParentProject* game = m_window->session()->game();
@@ -194,10 +216,16 @@ void GameCommands::saveAllAs()
         return;
     }
     const QString oldRoot = game->absolutePath();
-    game->saveAs(place);
+    QStringList failedFiles;
+    if (isFile) {
+        game->saveAs(place);
+        failedFiles = game->failedFiles();
+    } else {
+        failedFiles = saveFolderAs(place);
+    }
     const bool hasMoved = game->absolutePath() != oldRoot;
     const QString shown = QDir::toNativeSeparators(game->absolutePath());
-    const QString failed = paragraph(tr("These files could not be written:"), game->failedFiles());
+    const QString failed = paragraph(tr("These files could not be written:"), failedFiles);
     if (hasMoved) {
         RecentFolders::add(game->absolutePath());
         m_window->status()->showField(0, tr("All is saved in %1.").arg(shown));

@@ -42,6 +42,7 @@ signals:
 
 private:
     QString askForPlace(bool* isFile) const;
+    QStringList saveFolderAs(const QString& folder) const;
     bool mayWriteInto(const QString& folder) const;
     bool settleEncodings() const;
     bool settleTwins() const;
