@@ -52,6 +52,7 @@ private slots:
     void placesThatAreRefused_data();
     void placesThatAreRefused();
     void failedSaveAsStays();
+    void newFileIsAskedForItsName_data();
     void newFileIsAskedForItsName();
     void editorWorksOnTheTextInFront();
     void progressCanBeGivenUp();
@@ -268,8 +269,16 @@ void TestGameCommands::failedSaveAsStays()
     QVERIFY(w().document()->isModified());
 }
 
+void TestGameCommands::newFileIsAskedForItsName_data()
+{
+    QTest::addColumn<bool>("byLibrary");
+    QTest::newRow("by the person") << false;
+    QTest::newRow("by the library") << true;
+}
+
 void TestGameCommands::newFileIsAskedForItsName()
 {
+    QFETCH(bool, byLibrary);
     auto* project = w().window->session()->projects().first();
     auto* file = dynamic_cast<Family::FamilyDocument*>(project->newFile(Zorv::FileID::Commands));
     w().window->showDocument(file);
@@ -277,12 +286,16 @@ void TestGameCommands::newFileIsAskedForItsName()
     const QString name = m_game->path("characters/ryn/new.commands");
     w().dialogs.fileAnswers = {{QFileInfo(name).path() + "/new"}};
     w().dialogs.buttonAnswers = {Dialogs::No};
-    w().action("save")->trigger();
+    if (byLibrary) {
+        w().window->session()->game()->save();
+    } else {
+        w().action("save")->trigger();
+        QCOMPARE(w().window->tabs()->tabText(w().window->tabs()->currentIndex()),
+                 QString("new.commands"));
+    }
     QCOMPARE(file->fileName(), name);
     QCOMPARE(m_game->read("characters/ryn/new.commands"), QByteArray("x"));
     QVERIFY(!file->isModified());
-    QCOMPARE(w().window->tabs()->tabText(w().window->tabs()->currentIndex()),
-             QString("new.commands"));
 }
 
 void TestGameCommands::editorWorksOnTheTextInFront()

@@ -14,6 +14,9 @@
 
 #include <memory>
 
+#include <signal.h>
+#include <sys/resource.h>
+
 using namespace Family;
 
 namespace {
@@ -71,6 +74,7 @@ private slots:
     void textWithoutFileSurvives();
     void otherProcessKeepsItsCopies();
     void failureIsToldOnce();
+    void fullDiskKeepsTheLastCopy();
     void applyingIsOneStep_data();
     void applyingIsOneStep();
 
@@ -314,6 +318,35 @@ void TestRecovery::failureIsToldOnce()
     QVERIFY(QFile::remove(root()));
     QTRY_VERIFY(!keeper.folder().isEmpty());
     QVERIFY(keeper.flush());
+}
+
+/// A file that may not grow stands for a disk that is full.
+void TestRecovery::fullDiskKeepsTheLastCopy()
+{
+    signal(SIGXFSZ, SIG_IGN);
+    RecoveryKeeper keeper(root());
+    QSignalSpy failed(&keeper, &RecoveryKeeper::failed);
+    const auto document = openFile();
+    keeper.watch(document.get());
+    QTextCursor(document.get()).insertText("x");
+    QVERIFY(keeper.flush());
+    const QString copy = keeper.folder() + "1.zorvcopy";
+    const QByteArray before = contentOf(copy);
+    rlimit old;
+    getrlimit(RLIMIT_FSIZE, &old);
+    for (const rlim_t size : {rlim_t(0), rlim_t(before.size() / 2)}) {
+        const rlimit small{size, old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        QTextCursor(document.get()).insertText("some more text");
+        const bool isCopied = keeper.flush();
+        setrlimit(RLIMIT_FSIZE, &old);
+        QVERIFY(!isCopied);
+        QCOMPARE(contentOf(copy), before);
+    }
+    QCOMPARE(failed.size(), 1);
+    QVERIFY(keeper.flush());
+    QVERIFY(contentOf(copy) != before);
+    QCOMPARE(QDir(keeper.folder()).entryList(QDir::Files).size(), 2);
 }
 
 void TestRecovery::applyingIsOneStep_data()

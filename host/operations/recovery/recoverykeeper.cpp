@@ -18,6 +18,8 @@ namespace Family {
 
 namespace {
 
+constexpr int MaxSeconds = 24 * 60 * 60;
+
 /// What tells one unsaved state of a text from another.
 struct TextState
 {
@@ -81,6 +83,7 @@ struct RecoveryKeeper::Private
     QHash<FamilyDocument*, Watched> documents;
     QTimer timer;
     QThreadPool writer;  ///< of one thread: what is written and removed keeps its order
+    int ownInterval = -1;
     int lastNumber = 0;
     int pendingCount = 0;
     bool hasFailed = false;
@@ -103,9 +106,7 @@ RecoveryKeeper::RecoveryKeeper(const QString& root, QObject* parent)
     d->writer.setMaxThreadCount(1);
     d->timer.setSingleShot(true);
     connect(&d->timer, &QTimer::timeout, this, [this] { d->copyAll(); });
-    const QVariant seconds =
-        Zorv::Interface::instance()->option(QStringLiteral("recovery_seconds"));
-    setInterval(qBound(0, seconds.toInt(), 24 * 60 * 60) * 1000);
+    reconfig();
 }
 
 RecoveryKeeper::~RecoveryKeeper()
@@ -116,17 +117,18 @@ RecoveryKeeper::~RecoveryKeeper()
     }
 }
 
+void RecoveryKeeper::reconfig() {}
+
 void RecoveryKeeper::setInterval(int interval)
 {
-    d->timer.setInterval(interval);
-    if (interval <= 0) {
-        d->timer.stop();
-    }
+    d->ownInterval = interval;
 }
 
 int RecoveryKeeper::interval() const
 {
-    return d->timer.interval();
+    const QVariant seconds =
+        Zorv::Interface::instance()->option(QStringLiteral("recovery_seconds"));
+    return d->ownInterval >= 0 ? d->ownInterval : qBound(0, seconds.toInt(), MaxSeconds) * 1000;
 }
 
 void RecoveryKeeper::watch(FamilyDocument* document)
@@ -192,8 +194,9 @@ void RecoveryKeeper::Private::documentChanged(FamilyDocument* document)
 
 void RecoveryKeeper::Private::startTimer()
 {
-    if (!timer.isActive() && timer.interval() > 0) {
-        timer.start();
+    const int interval = q->interval();
+    if (!timer.isActive() && interval > 0) {
+        timer.start(interval);
     }
 }
 

@@ -21,14 +21,17 @@ class RecoveryKeeper : public QObject
     Q_OBJECT
 
 public:
-    /// Keeps copies below `root`; the folder is made with the first copy. The
-    /// interval is that of the setting "recovery_seconds" at first.
+    /// Keeps copies below `root`; the folder is made with the first copy.
     explicit RecoveryKeeper(const QString& root, QObject* parent = nullptr);
 
     /// Removes all copies: whoever ends the program has asked about unsaved work.
     ~RecoveryKeeper() override;
 
-    /// In milliseconds; 0 keeps no copies.
+    /// Takes the interval of the setting again.
+    void reconfig();
+
+    /// In milliseconds, 0 to keep no copies. The setting "recovery_seconds" until
+    /// another one is set, or with a negative one.
     void setInterval(int interval);
     int interval() const;
 
