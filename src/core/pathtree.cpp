@@ -304,7 +304,7 @@ void ParentProjectPrivate::addFailedFiles(const Project& project, const QString&
         return;
     }
     for (const QString& file : project.failedFiles()) {
-        failedFiles.append(place + file);
+        failedFiles.append(QDir::cleanPath(place + file));
     }
 }
 

@@ -166,6 +166,11 @@ public:
     /// null value removes it.
     void setOption(const QString& key, const QVariant& value, bool global);
 
+protected:
+    /// For a `saveAll()` that writes more files: takes up one that failed, by its path
+    /// relative to the project.
+    void addFailedFile(const QString& path);
+
 private:
     friend class ParentProjectPrivate;
     friend class ProjectFile;

@@ -155,4 +155,9 @@ void Project::saveAll(const QString& path, bool asCopy, QStringList* files)
     }
 }
 
+void Project::addFailedFile(const QString& path)
+{
+    d->failedFiles.append(path);
+}
+
 }  // namespace Zorv

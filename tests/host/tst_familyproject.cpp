@@ -7,6 +7,7 @@
 #include "project/familyparentproject.h"
 #include "project/familyproject.h"
 #include "project/filereference.h"
+#include "support/testinterface.h"
 
 #include <QAbstractItemModelTester>
 #include <QDir>
@@ -96,6 +97,7 @@ private slots:
     void pathFaults();
     void linksThatLeaveTheGame();
     void saveAllAsCopy();
+    void runBesideTheGame();
     void checkOfOpenProject();
     void checkOfWhatIsNotThere_data();
     void checkOfWhatIsNotThere();
@@ -294,6 +296,60 @@ void TestFamilyProject::saveAllAsCopy()
     QCOMPARE(readFile(copy + QStringLiteral("a.act")), QByteArray("palette"));
     QCOMPARE(QDir(copy).entryList(QDir::Files).size(), 5);
     QVERIFY(moves->isModified());
+
+    // What lies outside of the project and in the game goes along, with unsaved changes.
+    const QString shared = target.path() + QStringLiteral("/shared/common.code");
+    const QByteArray saved = readFile(game.path("shared/common.code"));
+    QCOMPARE(readFile(shared), saved);
+    auto* common = static_cast<FamilyDocument*>(project->filesByType(FileID::Code).last());
+    QVERIFY(setValue(common, QStringLiteral("constants.life"), QStringLiteral("7"), nullptr));
+    project->saveAll(target.path() + QLatin1Char('/'), true, nullptr);
+    QCOMPARE(readFile(shared), QByteArray(saved).replace("5", "7"));
+    QCOMPARE(project->failedFiles(), QStringList(QStringLiteral("gone.commands")));
+    common->setModified(false);
+    QVERIFY(QFile::remove(shared) && QFile::remove(game.path("shared/common.code")));
+    project->saveAll(target.path() + QLatin1Char('/'), true, nullptr);
+    QVERIFY(project->failedFiles().contains(QStringLiteral("../../shared/common.code")));
+    QVERIFY(!QFile::exists(target.path() + QStringLiteral("/../outside.code")));
+    project->release();
+    delete project;
+}
+
+// A game with its own engine: the copies are no projects of it, and go without a trace.
+void TestFamilyProject::runBesideTheGame()
+{
+    const Game game;
+    const QString player = game.path("zorv-player");
+    writeFile(player, "#!/bin/sh\necho \"$@\"; cat \"${2%/*}/moves.code\" "
+                      "\"${2%/*}/../../shared/common.code\"; exec sleep 1000\n");
+    QFile::setPermissions(player, QFile::ReadOwner | QFile::ExeOwner);
+    TestInterface host;
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    host.projects.append(project);
+    host.frontProject = project;
+    const auto world = [&game] {
+        QStringList closed;
+        FamilyParentProject(game.path("")).listProjects(closed);
+        return FamilyParentProject::mainFiles(game.path("")) + closed;
+    };
+    const QStringList entries = QDir(game.path("")).entryList(QDir::AllEntries | QDir::Hidden);
+    const QStringList before = world();
+    QByteArray output;
+    connect(&parent, &Zorv::ParentProject::engineOutput, this, [&](const QByteArray& bytes) {
+        output += bytes;
+        if (output.contains("life = 5")) {
+            QCOMPARE(world(), before);
+            parent.stopEngine();
+        }
+    });
+    parent.run();
+    QCOMPARE(int(parent.runResult().outcome), int(Zorv::RunResult::Stopped));
+    QVERIFY(QRegularExpression("^--character zorvs_0-[-0-9a-f]{36}/characters/hero/zorvs_0\n")
+                .match(QString::fromUtf8(output))
+                .hasMatch());
+    QVERIFY(output.contains("[move jab]"));
+    QCOMPARE(QDir(game.path("")).entryList(QDir::AllEntries | QDir::Hidden), entries);
     project->release();
     delete project;
 }

@@ -1,6 +1,8 @@
 #include "project/familyproject.h"
 
 #include "core/archive.h"
+#include "core/files.h"
+#include "core/filesystemarchive.h"
 #include "familydocument.h"
 #include "nodes/groupnode.h"
 #include "nodes/valuenode.h"
@@ -180,6 +182,53 @@ void FamilyProject::fileInfos(QList<FileInfo>& list)
         m_files = namedFiles();
     }
     list += m_files;
+}
+
+QStringList FamilyProject::sharedFiles() const
+{
+    const QString root = parent()->absolutePath();
+    QStringList result;
+    const QList<FamilyDocument*> all =
+        fileName().isEmpty() ? QList<FamilyDocument*>() : documents();
+    for (const FamilyDocument* document : all) {
+        const QVector<FileReference> references = fileReferences(document);
+        for (const FileReference& reference : references) {
+            const QString file = resolvePath(reference.path);
+            if (!file.startsWith(absolutePath()) &&
+                pathFault(root, fileName(), reference.path) == PathFault::Fine) {
+                result.append(file.mid(root.size()));
+            }
+        }
+    }
+    result.removeDuplicates();
+    return result;
+}
+
+void FamilyProject::saveAll(const QString& path, bool asCopy, QStringList* files)
+{
+    Project::saveAll(path, asCopy, files);
+    const QStringList shared = asCopy ? sharedFiles() : QStringList();
+    for (const QString& file : shared) {
+        if (!copyShared(parent()->absolutePath() + file, path + file)) {
+            addFailedFile(QDir(absolutePath()).relativeFilePath(parent()->absolutePath() + file));
+        }
+    }
+}
+
+/// Another project may have brought the same file, with changes that this one does not have.
+bool FamilyProject::copyShared(const QString& file, const QString& target)
+{
+    Zorv::Archive& disk = *Zorv::FileSystemArchive::instance();
+    const QList<FamilyDocument*> all = documents();
+    for (FamilyDocument* document : all) {
+        if (document->isModified() && QDir::cleanPath(document->fileName()) == file) {
+            return Zorv::forcePath(target) && document->toFile(disk, target, true);
+        }
+    }
+    QString error;
+    return QFileInfo::exists(target) ||
+           (Zorv::forcePath(target) && Zorv::copyFile(*archive(), file, disk, target, &error) &&
+            error.isEmpty());
 }
 
 QList<Zorv::Project::FileInfo> FamilyProject::namedFiles() const

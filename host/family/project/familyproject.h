@@ -55,8 +55,17 @@ public:
     QString fileTitle(Zorv::FileID::Type type, int index) const override;
     void fileInfos(QList<FileInfo>& list) override;
 
+    /// The files of the game that the documents name and that lie outside of the
+    /// project's folder, relative to the game. Empty for a project without a file.
+    QStringList sharedFiles() const;
+
+    /// A copy takes the shared files along, at their places in the game, or what names
+    /// them would find nothing there.
+    void saveAll(const QString& path, bool asCopy, QStringList* files) override;
+
 private:
     QList<FileInfo> namedFiles() const;
+    bool copyShared(const QString& file, const QString& target);
 
     QStringList m_loadErrors;
     QList<FileInfo> m_files;

@@ -198,7 +198,7 @@ bool EngineRun::writeCopy(Project* project, const QString& folder, const QString
     }
     const QStringList failed = alive ? project->failedFiles() : QStringList();
     for (const QString& file : failed) {
-        m_result.failedFiles.append(place + file);
+        m_result.failedFiles.append(QDir::cleanPath(place + file));
     }
     if (!isNamed && !failed.contains(mainName)) {
         m_result.failedFiles.append(place + (mainName.isEmpty() ? name : mainName));
