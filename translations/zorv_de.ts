@@ -76,18 +76,6 @@
         <translation>&amp;Entfernen</translation>
     </message>
     <message>
-        <source>Move &amp;up</source>
-        <translation>Nach &amp;oben</translation>
-    </message>
-    <message>
-        <source>Move do&amp;wn</source>
-        <translation>Nach &amp;unten</translation>
-    </message>
-    <message>
-        <source>&amp;Sort automatically</source>
-        <translation>Automatisch &amp;sortieren</translation>
-    </message>
-    <message>
         <source>&amp;Next panel</source>
         <translation>&amp;Nächster Bereich</translation>
     </message>
@@ -115,58 +103,51 @@
         <source>Setti&amp;ngs...</source>
         <translation>E&amp;instellungen ...</translation>
     </message>
+    <message>
+        <source>Save all &amp;as...</source>
+        <translation>Alles speichern &amp;unter ...</translation>
+    </message>
+    <message>
+        <source>&amp;Back up...</source>
+        <translation>Si&amp;chern ...</translation>
+    </message>
+    <message>
+        <source>&amp;Restore backup...</source>
+        <translation>Sicherung &amp;wiederherstellen ...</translation>
+    </message>
+    <message>
+        <source>R&amp;un in engine</source>
+        <translation>In E&amp;ngine starten</translation>
+    </message>
+    <message>
+        <source>&amp;End the engine</source>
+        <translation>Engine &amp;beenden</translation>
+    </message>
 </context>
 <context>
-    <name>App::AnimationPanel</name>
-    <message>
-        <source>Animations of the text</source>
-        <translation>Animationen des Textes</translation>
-    </message>
+    <name>App::AnimationCommands</name>
     <message>
         <source>Add animation</source>
         <translation>Animation hinzufügen</translation>
-    </message>
-    <message>
-        <source>Duplicate animation</source>
-        <translation>Animation duplizieren</translation>
-    </message>
-    <message>
-        <source>Remove animations</source>
-        <translation>Animationen entfernen</translation>
-    </message>
-    <message>
-        <source>Sort animations</source>
-        <translation>Animationen sortieren</translation>
-    </message>
-    <message>
-        <source>Move animation</source>
-        <translation>Animation verschieben</translation>
-    </message>
-</context>
-<context>
-    <name>App::AnimationRows</name>
-    <message>
-        <source>Move animations</source>
-        <translation>Animationen verschieben</translation>
     </message>
 </context>
 <context>
     <name>App::BackupNameDialog</name>
     <message>
         <source>Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuell</translation>
     </message>
     <message>
         <source>&amp;With the projects that are not open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mit den nicht geöffneten Projekten</translation>
     </message>
     <message>
         <source>Back up</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichern</translation>
     </message>
     <message>
         <source>&amp;Name of the backup:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Name der Sicherung:</translation>
     </message>
 </context>
 <context>
@@ -209,6 +190,17 @@
     <message>
         <source>Text of %1</source>
         <translation>Text von %1</translation>
+    </message>
+</context>
+<context>
+    <name>App::CodeTextEditor</name>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>No text found!</source>
+        <translation>Kein Text gefunden!</translation>
     </message>
 </context>
 <context>
@@ -298,6 +290,77 @@
     <message>
         <source>New engine</source>
         <translation>Neue Engine</translation>
+    </message>
+</context>
+<context>
+    <name>App::GameCommands</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Back up</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>The backup is in %1.</source>
+        <translation>Die Sicherung liegt in %1.</translation>
+    </message>
+    <message>
+        <source>Restore backup</source>
+        <translation>Sicherung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The backup is restored.</source>
+        <translation>Die Sicherung ist wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>The backup is restored. What it replaced is in %1.</source>
+        <translation>Die Sicherung ist wiederhergestellt. Was sie ersetzt hat, liegt in %1.</translation>
+    </message>
+    <message>
+        <source>These could not be copied:</source>
+        <translation>Diese konnten nicht kopiert werden:</translation>
+    </message>
+    <message>
+        <source>These are named by a project and not there:</source>
+        <translation>Diese werden von einem Projekt genannt und sind nicht da:</translation>
+    </message>
+    <message>
+        <source>Given up.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Save all as</source>
+        <translation>Alles speichern unter</translation>
+    </message>
+    <message>
+        <source>%1 lies in the folder of the game. Choose a folder outside of it.</source>
+        <translation>%1 liegt im Ordner des Spiels. Bitte einen Ordner außerhalb wählen.</translation>
+    </message>
+    <message>
+        <source>There are files in %1. Those with the names of files of the game are overwritten. Save there?</source>
+        <translation>In %1 liegen Dateien. Die mit Namen von Dateien des Spiels werden überschrieben. Dort speichern?</translation>
+    </message>
+    <message>
+        <source>%1 was changed in several projects in different ways. Save it first, and choose the text that stays.</source>
+        <translation>%1 wurde in mehreren Projekten verschieden geändert. Bitte zuerst speichern und den Text wählen, der bleibt.</translation>
+    </message>
+    <message>
+        <source>These files could not be written:</source>
+        <translation>Diese Dateien konnten nicht geschrieben werden:</translation>
+    </message>
+    <message>
+        <source>All is saved in %1.</source>
+        <translation>Alles ist in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>Given up; the work goes on in %1.</source>
+        <translation>Abgebrochen; die Arbeit geht in %1 weiter.</translation>
+    </message>
+    <message>
+        <source>The game could not be saved there. The work goes on in %1.</source>
+        <translation>Das Spiel konnte dort nicht gespeichert werden. Die Arbeit geht in %1 weiter.</translation>
     </message>
 </context>
 <context>
@@ -394,10 +457,6 @@
         <translation>Knoten</translation>
     </message>
     <message>
-        <source>Animations</source>
-        <translation>Animationen</translation>
-    </message>
-    <message>
         <source>Messages</source>
         <translation>Meldungen</translation>
     </message>
@@ -454,6 +513,10 @@ Under the MIT licence. Made with Qt %2.</source>
 Ein Editor für alle, die Figuren und Bühnen für zweidimensionale Kampfspiele machen. Der Text ist die einzige Wahrheit; Bäume und Listen folgen ihm.
 
 Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
+    </message>
+    <message>
+        <source>Engine output</source>
+        <translation>Ausgabe der Engine</translation>
     </message>
 </context>
 <context>
@@ -533,11 +596,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>App::OutputPanel</name>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Copy the selected text, or all</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert den gewählten Text oder alles</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -545,15 +608,15 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Remove all lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt alle Zeilen</translation>
     </message>
     <message>
         <source>Engine output</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe der Engine</translation>
     </message>
     <message>
         <source>(%1 are left out)</source>
-        <translation type="unfinished"></translation>
+        <translation>(%1 sind ausgelassen)</translation>
     </message>
 </context>
 <context>
@@ -666,31 +729,31 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>App::RestoreDialog</name>
     <message>
         <source>comes back</source>
-        <translation type="unfinished"></translation>
+        <translation>kommt zurück</translation>
     </message>
     <message>
         <source>is replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>wird ersetzt</translation>
     </message>
     <message>
         <source>Restore backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherung wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>Files that the backup lacks stay as they are. What is replaced is kept in a backup of its own first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die der Sicherung fehlen, bleiben wie sie sind. Was ersetzt wird, kommt zuvor in eine eigene Sicherung.</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherung</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Files</source>
@@ -698,11 +761,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherungen</translation>
     </message>
     <message>
         <source>File</source>
@@ -710,19 +773,19 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Restoring</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellung</translation>
     </message>
     <message>
         <source>Files that would change</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die sich ändern würden</translation>
     </message>
     <message>
         <source>There is no backup of this game.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von diesem Spiel gibt es keine Sicherung.</translation>
     </message>
     <message>
         <source>%1 of %2 files differ from those on the disk:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Dateien unterscheiden sich von denen auf dem Datenträger:</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -737,59 +800,59 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Started: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestartet: %1</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Engine</translation>
     </message>
     <message>
         <source>The engine is still running on the work in this window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Engine läuft noch mit der Arbeit dieses Fensters.</translation>
     </message>
     <message>
         <source>End the engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Engine beenden</translation>
     </message>
     <message>
         <source>Ended with code %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beendet mit Code %1.</translation>
     </message>
     <message>
         <source>The engine has crashed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Engine ist abgestürzt.</translation>
     </message>
     <message>
         <source>Ended by you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Hand beendet.</translation>
     </message>
     <message>
         <source>Could not be started: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Start nicht möglich: %1</translation>
     </message>
     <message>
         <source>The engine ran without these files, which could not be copied for it:</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Engine lief ohne diese Dateien, die nicht für sie kopiert werden konnten:</translation>
     </message>
     <message>
         <source>These temporary copies could not be removed. They are offered for removal at the next start:</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese temporären Kopien konnten nicht entfernt werden. Das wird beim nächsten Start wieder angeboten:</translation>
     </message>
     <message>
         <source>Temporary copies</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporäre Kopien</translation>
     </message>
     <message>
         <source>An earlier run of the engine was cut off. These temporary copies of it are left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein früherer Lauf der Engine wurde unterbrochen. Diese temporären Kopien sind von ihm übrig:</translation>
     </message>
     <message>
         <source>Remove them</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>These could not be removed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese konnten nicht entfernt werden:</translation>
     </message>
 </context>
 <context>
@@ -866,22 +929,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation> pt</translation>
     </message>
     <message>
-        <source>&amp;Colour code</source>
-        <translation>Code &amp;farbig zeigen</translation>
-    </message>
-    <message>
-        <source>Shows words, numbers and texts of code in colours</source>
-        <translation>Zeigt Wörter, Zahlen und Texte im Code farbig</translation>
-    </message>
-    <message>
-        <source>&amp;Look for what code means</source>
-        <translation>Code &amp;auswerten</translation>
-    </message>
-    <message>
-        <source>Without this, trees and lists stay empty and problems are not found</source>
-        <translation>Ohne dies bleiben Bäume und Listen leer, und Probleme werden nicht gefunden</translation>
-    </message>
-    <message>
         <source>&amp;Watch for changes on disk</source>
         <translation>Auf Änderungen am Datenträger &amp;achten</translation>
     </message>
@@ -912,6 +959,30 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Where dialogs for files begin, as long as no other folder was used</source>
         <translation>Hier beginnen Dateidialoge, solange kein anderer Ordner benutzt wurde</translation>
+    </message>
+    <message>
+        <source>&amp;Colour code and find problems</source>
+        <translation>Code &amp;farbig zeigen und prüfen</translation>
+    </message>
+    <message>
+        <source>Shows words, numbers and texts in colours, and lists what is wrong</source>
+        <translation>Zeigt Wörter, Zahlen und Texte farbig und listet auf, was falsch ist</translation>
+    </message>
+    <message>
+        <source>&amp;Copy unsaved texts aside after:</source>
+        <translation>&amp;Ungespeicherte Texte sichern nach:</translation>
+    </message>
+    <message>
+        <source>The copies are offered after a crash. 0 makes none.</source>
+        <translation>Die Kopien werden nach einem Absturz angeboten. Mit 0 gibt es keine.</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
     </message>
 </context>
 <context>
@@ -1017,6 +1088,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Unsaved changes</source>
         <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>new file</source>
+        <translation>neue Datei</translation>
     </message>
 </context>
 <context>
@@ -1182,54 +1257,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>There is no &apos;%1&apos; in &apos;%2&apos;: it has %3 of them, counted from 0.</source>
         <translation>&apos;%1&apos; gibt es in &apos;%2&apos; nicht: Dort sind %3 davon, gezählt ab 0.</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 und %2 weitere</translation>
-    </message>
-    <message>
-        <source>Before restore</source>
-        <translation>Vor Wiederherstellung</translation>
-    </message>
-    <message>
-        <source>Nothing was restored, for these files could not be copied aside first: %1. Check that there is space on the disk, or restore without a backup of the present files.</source>
-        <translation>Nichts wurde wiederhergestellt, denn diese Dateien konnten zuvor nicht gesichert werden: %1. Bitte prüfen, ob auf dem Datenträger Platz ist, oder ohne Sicherung der jetzigen Dateien wiederherstellen.</translation>
-    </message>
-    <message>
-        <source>The name of the backup is empty. Give it a name such as &quot;Before the new moves&quot;.</source>
-        <translation>Der Name der Sicherung ist leer. Bitte einen Namen wie &quot;Vor den neuen Angriffen&quot; geben.</translation>
-    </message>
-    <message>
-        <source>The name &apos;%1&apos; cannot be that of a folder: it must have none of %2 and no control characters. Choose another name.</source>
-        <translation>Der Name &apos;%1&apos; kann nicht der eines Ordners sein: Er darf keines von %2 und keine Steuerzeichen enthalten. Bitte einen anderen Namen wählen.</translation>
-    </message>
-    <message>
-        <source>The name &apos;%1&apos; ends in a point or a blank, which some systems drop. Choose another name.</source>
-        <translation>Der Name &apos;%1&apos; endet mit einem Punkt oder Leerzeichen, was manche Systeme weglassen. Bitte einen anderen Namen wählen.</translation>
-    </message>
-    <message>
-        <source>The name of the backup is too long. Choose one of at most %1 letters.</source>
-        <translation>Der Name der Sicherung ist zu lang. Bitte einen mit höchstens %1 Buchstaben wählen.</translation>
-    </message>
-    <message>
-        <source>There is no backup &apos;%1&apos; in %2. Choose one of the list of backups.</source>
-        <translation>Die Sicherung &apos;%1&apos; gibt es in %2 nicht. Bitte eine aus der Liste der Sicherungen wählen.</translation>
-    </message>
-    <message>
-        <source>Cannot make the folder %1. Check that there is space on the disk and that the folder of the game may be written to.</source>
-        <translation>Der Ordner %1 kann nicht angelegt werden. Bitte prüfen, ob auf dem Datenträger Platz ist und in den Spielordner geschrieben werden darf.</translation>
-    </message>
-    <message>
-        <source>The backup &apos;%1&apos; is not complete. Not copied: %2. Check that there is space on the disk and that these files may be read, then make another backup.</source>
-        <translation>Die Sicherung &apos;%1&apos; ist nicht vollständig. Nicht kopiert: %2. Bitte prüfen, ob auf dem Datenträger Platz ist und diese Dateien gelesen werden dürfen, und dann eine neue Sicherung anlegen.</translation>
-    </message>
-    <message>
-        <source>The game cannot be written to, so nothing was restored.</source>
-        <translation>In das Spiel kann nicht geschrieben werden; nichts wurde wiederhergestellt.</translation>
-    </message>
-    <message>
-        <source>These files were not restored and are as before: %1. Check that there is space on the disk and that they may be written to, then restore again.</source>
-        <translation>Diese Dateien wurden nicht wiederhergestellt und sind wie zuvor: %1. Bitte prüfen, ob auf dem Datenträger Platz ist und in sie geschrieben werden darf, und dann erneut wiederherstellen.</translation>
     </message>
     <message>
         <source>a text in double quotes</source>
@@ -1591,6 +1618,57 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Family::Backups</name>
+    <message>
+        <source>Before restore</source>
+        <translation>Vor Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Nothing was restored, for not all files that would change could be copied aside first. Check that there is space on the disk, or restore without a backup of the present files.</source>
+        <translation>Nichts wurde wiederhergestellt, denn nicht alle Dateien, die sich ändern würden, konnten zuvor gesichert werden. Bitte prüfen, ob auf dem Datenträger Platz ist, oder ohne Sicherung der jetzigen Dateien wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>The name of the backup is empty. Give it a name such as &quot;Before the new moves&quot;.</source>
+        <translation>Der Name der Sicherung ist leer. Bitte einen Namen wie &quot;Vor den neuen Angriffen&quot; geben.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; cannot be that of a folder: it must have none of %2 and no control characters. Choose another name.</source>
+        <translation>Der Name &apos;%1&apos; kann nicht der eines Ordners sein: Er darf keines von %2 und keine Steuerzeichen enthalten. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; ends in a point or a blank, which some systems drop. Choose another name.</source>
+        <translation>Der Name &apos;%1&apos; endet mit einem Punkt oder Leerzeichen, was manche Systeme weglassen. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>The name of the backup is too long. Choose one of at most %1 letters.</source>
+        <translation>Der Name der Sicherung ist zu lang. Bitte einen mit höchstens %1 Buchstaben wählen.</translation>
+    </message>
+    <message>
+        <source>There is no backup &apos;%1&apos; in %2. Choose one of the list of backups.</source>
+        <translation>Die Sicherung &apos;%1&apos; gibt es in %2 nicht. Bitte eine aus der Liste der Sicherungen wählen.</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder %1. Check that there is space on the disk and that the folder of the game may be written to.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden. Bitte prüfen, ob auf dem Datenträger Platz ist und in den Spielordner geschrieben werden darf.</translation>
+    </message>
+    <message>
+        <source>The backup &apos;%1&apos; is not complete. Check that there is space on the disk and that all files may be read, then make another backup.</source>
+        <translation>Die Sicherung &apos;%1&apos; ist nicht vollständig. Bitte prüfen, ob auf dem Datenträger Platz ist und alle Dateien gelesen werden dürfen, und dann eine neue Sicherung anlegen.</translation>
+    </message>
+    <message>
+        <source>The game cannot be written to, so nothing was restored.</source>
+        <translation>In das Spiel kann nicht geschrieben werden; nichts wurde wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>Some files were not restored and are as before. Check that there is space on the disk and that they may be written to, then restore again.</source>
+        <translation>Einige Dateien wurden nicht wiederhergestellt und sind wie zuvor. Bitte prüfen, ob auf dem Datenträger Platz ist und in sie geschrieben werden darf, und dann erneut wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>The restore was given up in its middle: some files are those of the backup, the others are as before. Restore again, or put back what was there before.</source>
+        <translation>Die Wiederherstellung wurde mittendrin abgebrochen: Einige Dateien sind die der Sicherung, die anderen sind wie zuvor. Bitte erneut wiederherstellen oder zurückholen, was vorher da war.</translation>
+    </message>
+</context>
+<context>
     <name>Family::DocumentFile</name>
     <message>
         <source>Expected the name of a file; found an empty text.</source>
@@ -1878,14 +1956,14 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     <name>Zorv::OrganizerEditor</name>
     <message>
         <source>Move rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen verschieben</translation>
     </message>
 </context>
 <context>
     <name>Zorv::OrganizerRows</name>
     <message>
         <source>Move rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen verschieben</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,8 @@
 #include "core/dialogs/dialogs.h"
 #include "core/interface.h"
 #include "editors/framework/editor.h"
+#include "editors/framework/extraeditor.h"
+#include "editors/framework/workspace.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
@@ -58,6 +60,16 @@ public:
 private:
     Q_DISABLE_COPY(WaitCursor)
 };
+
+/// What editors and panels of the library are, and the window's, are its children.
+template <class Part>
+void tellAll(MainWindow* window, void (Part::*what)())
+{
+    const QList<Part*> parts = window->findChildren<Part*>();
+    for (Part* part : parts) {
+        (part->*what)();
+    }
+}
 
 struct PanelTitle
 {
@@ -165,6 +177,9 @@ void MainWindow::retranslate()
 
 /// Texts keep the colours that they were given, and their messages the language.
 void MainWindow::parseAgain()
+    tellAll(this, &Zorv::Editor::retranslate);
+    tellAll(this, &Zorv::ExtraEditor::retranslate);
+    tellAll(this, &Zorv::Workspace::retranslate);
 {
     for (const FamilyProject* project : m_session->projects()) {
         const QList<FamilyDocument*> documents = project->documents();
@@ -187,6 +202,10 @@ void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
+    tellAll(this, &Zorv::Editor::reconfig);
+    tellAll(this, &Zorv::ExtraEditor::reconfig);
+    tellAll(this, &Zorv::Workspace::reconfig);
+    emit reconfigured();
         retranslate();
         parseAgain();
     }

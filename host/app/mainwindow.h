@@ -123,6 +123,10 @@ public:
     /// @}
 
 protected:
+signals:
+    /// `reconfig()` is done; parts that read settings of their own follow.
+    void reconfigured();
+
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
 

@@ -211,9 +211,13 @@ void tst_SettingsDialog::applyReachesTheWindow()
     QVERIFY(m_fixture->edit()->palette().color(QPalette::Base).lightness() < 100);
     QVERIFY(
         !m_dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Apply)->isEnabled());
-    click("highlightCode");
-    press(QDialogButtonBox::Apply);
-    QCOMPARE(option("highlightCode"), QVariant(false));
+    for (const bool isOn : {false, true}) {
+        click("highlightCode");
+        press(QDialogButtonBox::Apply);
+        QCOMPARE(option("highlightCode"), QVariant(isOn));
+        QVERIFY(m_fixture->document()->next());
+        QCOMPARE(m_fixture->window->messagePanel()->model()->rowCount() > 0, isOn);
+    }
 }
 
 void tst_SettingsDialog::defaultsAreNotStored()

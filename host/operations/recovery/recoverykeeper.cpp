@@ -106,7 +106,6 @@ RecoveryKeeper::RecoveryKeeper(const QString& root, QObject* parent)
     d->writer.setMaxThreadCount(1);
     d->timer.setSingleShot(true);
     connect(&d->timer, &QTimer::timeout, this, [this] { d->copyAll(); });
-    reconfig();
 }
 
 RecoveryKeeper::~RecoveryKeeper()
@@ -116,8 +115,6 @@ RecoveryKeeper::~RecoveryKeeper()
         d->folder->removeCopies();
     }
 }
-
-void RecoveryKeeper::reconfig() {}
 
 void RecoveryKeeper::setInterval(int interval)
 {

@@ -27,9 +27,6 @@ public:
     /// Removes all copies: whoever ends the program has asked about unsaved work.
     ~RecoveryKeeper() override;
 
-    /// Takes the interval of the setting again.
-    void reconfig();
-
     /// In milliseconds, 0 to keep no copies. The setting "recovery_seconds" until
     /// another one is set, or with a negative one.
     void setInterval(int interval);
