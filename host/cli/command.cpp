@@ -61,6 +61,22 @@ constexpr Command table[] = {
      "one that --engine names, a name of the settings or a program, else that of the settings.\n"
      "In the parameters %0 is the first FILE, %1 the first too, %2 the second and so on. What\n"
      "the engine prints goes to standard output, and its status is that of the command."},
+    {"backup", "GAME [NAME]", 1, 2, Command::NoOptions, backUp,
+     "Copy all characters and stages of a game aside.",
+     "The copies, with the files of the game that they share, go to a new folder below 'backup'\n"
+     "in the game, named after the time and NAME, which is 'Manual' if it is not given. The name\n"
+     "of that folder is printed. A backup that is interrupted is removed again."},
+    {"backups", "GAME", 1, 1, Command::Json, listBackups,
+     "Print the backups of a game.",
+     "A line for each, the youngest first, with a tab between its folder, time, name, count of\n"
+     "files and bytes."},
+    {"restore", "GAME BACKUP", 2, 2, Command::DryRun | Command::NoSafety, restore,
+     "Put a backup of a game back.",
+     "BACKUP is the folder as 'backups' prints it. Its files replace those of the game; files\n"
+     "that it lacks stay. First the game is copied into a backup 'Before restore', the folder of\n"
+     "which is printed; with --no-safety-backup it is not. With --dry-run nothing is written: a\n"
+     "line for each file tells, with a tab between, if it is 'new', 'changed' or the 'same', and\n"
+     "its path in the game."},
     {"help", "[COMMAND]", 0, 2, Command::NoOptions, helpCommand,
      "Print what there is, or all about a command.",
      "'zorv COMMAND --help' does the same."},
@@ -103,6 +119,8 @@ bool parseOption(const Command& command, const QStringList& arguments, int* inde
         invocation->dryRun = true;
     } else if (is(Command::Encoding, "--encoding")) {
         return parseEncoding(arguments.value(++*index), invocation, error);
+    } else if (is(Command::NoSafety, "--no-safety-backup")) {
+        invocation->noSafetyBackup = true;
     } else if (is(Command::Engine, "--engine")) {
         return takeText(arguments, index, &invocation->engine, error);
     } else if (is(Command::Engine, "--parameters")) {
@@ -142,6 +160,9 @@ QString Command::usage() const
     }
     if (options & DryRun) {
         text += QLatin1String(" [--dry-run]");
+    }
+    if (options & NoSafety) {
+        text += QLatin1String(" [--no-safety-backup]");
     }
     if (options & Encoding) {
         text += QLatin1String(" [--encoding NAME]");

@@ -13,6 +13,7 @@ struct Invocation
     QStringList operands;
     bool json = false;
     bool dryRun = false;
+    bool noSafetyBackup = false;
     int codec = -1;      ///< of `Zorv::TextCodecs`; negative to detect
     QString engine;      ///< null if none was named
     QString parameters;  ///< for the engine; null if none were given
@@ -21,7 +22,7 @@ struct Invocation
 /// One command: a row of the table.
 struct Command
 {
-    enum Option { NoOptions = 0, Json = 1, DryRun = 2, Encoding = 4, Engine = 8 };
+    enum Option { NoOptions = 0, Json = 1, DryRun = 2, Encoding = 4, Engine = 8, NoSafety = 16 };
     static constexpr int Any = 1000000;
 
     const char* name;      ///< one or two words
@@ -58,6 +59,9 @@ int moveAnimation(const Invocation& invocation, Output& output);
 int removeAnimations(const Invocation& invocation, Output& output);
 int sortAnimations(const Invocation& invocation, Output& output);
 int runInEngine(const Invocation& invocation, Output& output);
+int backUp(const Invocation& invocation, Output& output);
+int listBackups(const Invocation& invocation, Output& output);
+int restore(const Invocation& invocation, Output& output);
 int helpCommand(const Invocation& invocation, Output& output);
 
 }  // namespace Cli

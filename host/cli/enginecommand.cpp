@@ -5,6 +5,7 @@
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "notedsignals.h"
 #include "operations/engines.h"
 #include "operations/hostinterface.h"
 #include "output.h"
@@ -16,7 +17,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <csignal>
 #include <map>
 #include <memory>
 
@@ -29,40 +29,12 @@ using Family::FamilyProject;
 using Zorv::EngineInfo;
 using Zorv::RunResult;
 
-constexpr int SignalStatus = 128;
 constexpr int PollMilliseconds = 20;
 
 /// Makes the texts of this file known to translators.
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Cli)
-};
-
-volatile std::sig_atomic_t s_signal = 0;
-
-/// While it lives, a signal that asks the program to end is only noted.
-class NotedSignals
-{
-public:
-    NotedSignals()
-    {
-        for (int i = 0; i < Count; ++i) {
-            m_old[i] = std::signal(numbers[i], [](int number) { s_signal = number; });
-        }
-    }
-
-    ~NotedSignals()
-    {
-        for (int i = 0; i < Count; ++i) {
-            std::signal(numbers[i], m_old[i]);
-        }
-    }
-
-private:
-    Q_DISABLE_COPY(NotedSignals)
-    static constexpr int Count = 3;
-    static constexpr int numbers[Count] = {SIGINT, SIGTERM, SIGHUP};
-    void (*m_old[Count])(int);
 };
 
 /// The projects of the command, each in its game.
@@ -231,14 +203,14 @@ int tell(const RunResult& result)
                            .arg(result.program));
         return NotDone;
     case RunResult::Crashed:
-        if (s_signal == 0) {
+        if (NotedSignals::received() == 0) {
             complain(Text::tr("The engine '%1' has crashed.").arg(result.program));
         }
         break;
     default:
         break;
     }
-    return s_signal == 0 ? int(NotDone) : SignalStatus + s_signal;
+    return NotedSignals::received() == 0 ? int(NotDone) : NotedSignals::exitStatus();
 }
 
 int runEngine(FamilyParentProject* game, Output& output)
@@ -247,7 +219,7 @@ int runEngine(FamilyParentProject* game, Output& output)
     RunDialogs dialogs;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, game, [game] {
-        if (s_signal != 0) {
+        if (NotedSignals::received() != 0) {
             game->stopEngine();
         }
     });

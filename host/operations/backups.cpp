@@ -5,7 +5,7 @@
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
-#include "family/project/filereference.h"
+#include "operations/sharedfiles.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -19,24 +19,17 @@ namespace Family {
 namespace {
 
 const int MaxNameBytes = 200;  // the time stands in front of the name
-const int ShownFiles = 5;
 const int CompareBlock = 128 * 1024;
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("Family::Backups", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Family::Backups)
+};
 
 QString folderOf(const FamilyParentProject& game, const QString& backup)
 {
     return game.absolutePath() + QLatin1String("backup/") + backup + QLatin1Char('/');
-}
-
-QString shownList(const QStringList& files)
-{
-    const QString first = QStringList(files.mid(0, ShownFiles)).join(QLatin1String(", "));
-    const int more = files.size() - ShownFiles;
-    return more > 0 ? tr("%1 and %2 more").arg(first).arg(more) : first;
 }
 
 bool isSame(const QString& a, const QString& b)
@@ -54,50 +47,6 @@ bool isSame(const QString& a, const QString& b)
         }
     } while (!block.isEmpty());
     return left.error() == QFile::NoError && right.error() == QFile::NoError;
-}
-
-QList<FamilyProject*> projectsOf(const FamilyParentProject& game)
-{
-    QList<FamilyProject*> result;
-    for (Zorv::Project* project : game.openedProjects()) {
-        if (auto* own = qobject_cast<FamilyProject*>(project)) {
-            result.append(own);
-        }
-    }
-    return result;
-}
-
-/// The open document of a file of the game, or null.
-FamilyDocument* openDocumentOf(const FamilyParentProject& game, const QString& relative)
-{
-    const QString fileName = QDir::cleanPath(game.absolutePath() + relative);
-    FamilyDocument* found = nullptr;
-    for (const FamilyProject* project : projectsOf(game)) {
-        for (FamilyDocument* document : project->documents()) {
-            const bool isIt = QDir::cleanPath(document->fileName()) == fileName;
-            if (isIt && (!found || document->isModified())) {
-                found = document;
-            }
-        }
-    }
-    return found;
-}
-
-/// Files of the game that a project names outside of its own folder, relative to the game.
-QStringList sharedFiles(const FamilyProject& project)
-{
-    const QString root = project.parent()->absolutePath();
-    QStringList files;
-    for (const FamilyDocument* document : project.documents()) {
-        for (const FileReference& reference : fileReferences(document)) {
-            const QString file = project.resolvePath(reference.path);
-            const bool isOwn = file.startsWith(project.absolutePath());
-            if (!isOwn && pathFault(root, project.fileName(), reference.path) == PathFault::Fine) {
-                files.append(file.mid(root.size()));
-            }
-        }
-    }
-    return files;
 }
 
 bool copyIntoBackup(const FamilyParentProject& game, const QString& relative, const QString& folder)
@@ -128,7 +77,7 @@ QStringList addToBackup(const FamilyParentProject& game, const QStringList& file
 
 bool isMissing(const FamilyParentProject& game, const QString& file)
 {
-    for (const FamilyProject* project : projectsOf(game)) {
+    for (const FamilyProject* project : openProjectsOf(game)) {
         if (project->fileName().isEmpty() && project->title() == file) {
             return false;
         }
@@ -165,7 +114,7 @@ QStringList filesAtRisk(const FamilyParentProject& game, const QVector<RestoredF
             files.append(file.path);
         }
     }
-    for (const FamilyProject* project : projectsOf(game)) {
+    for (const FamilyProject* project : openProjectsOf(game)) {
         for (const FamilyDocument* document : project->documents()) {
             const QString name = document->fileName();
             if (document->isModified() && name.startsWith(game.absolutePath())) {
@@ -178,7 +127,7 @@ QStringList filesAtRisk(const FamilyParentProject& game, const QVector<RestoredF
 
 BackupResult makeSafetyBackup(FamilyParentProject* game, const QStringList& files)
 {
-    BackupResult result = makeBackup(game, tr("Before restore"));
+    BackupResult result = makeBackup(game, Text::tr("Before restore"));
     if (result.isCanceled || result.folder.isEmpty()) {
         return result;
     }
@@ -186,10 +135,9 @@ BackupResult makeSafetyBackup(FamilyParentProject* game, const QStringList& file
     result.failed = addToBackup(*game, files, folder);
     result.error.clear();
     if (!result.failed.isEmpty()) {
-        result.error = tr("Nothing was restored, for these files could not be copied aside first: "
-                          "%1. Check that there is space on the disk, or restore without a backup "
-                          "of the present files.")
-                           .arg(shownList(result.failed));
+        result.error = Text::tr("Nothing was restored, for not all files that would change could "
+                                "be copied aside first. Check that there is space on the disk, or "
+                                "restore without a backup of the present files.");
     }
     return result;
 }
@@ -203,21 +151,21 @@ QString backupNameFault(const QString& name)
         return c.category() == QChar::Other_Control || refused.contains(c);
     };
     if (name.trimmed().isEmpty()) {
-        return tr("The name of the backup is empty. Give it a name such as \"Before the new "
-                  "moves\".");
+        return Text::tr("The name of the backup is empty. Give it a name such as \"Before the new "
+                        "moves\".");
     }
     if (std::any_of(name.begin(), name.end(), isRefused)) {
-        return tr("The name '%1' cannot be that of a folder: it must have none of %2 and no "
-                  "control characters. Choose another name.")
+        return Text::tr("The name '%1' cannot be that of a folder: it must have none of %2 and no "
+                        "control characters. Choose another name.")
             .arg(name, QStringLiteral("/ \\ : * ? \" < > |"));
     }
     if (name.endsWith(QLatin1Char('.')) || name.endsWith(QLatin1Char(' '))) {
-        return tr("The name '%1' ends in a point or a blank, which some systems drop. Choose "
-                  "another name.")
+        return Text::tr("The name '%1' ends in a point or a blank, which some systems drop. Choose "
+                        "another name.")
             .arg(name);
     }
     if (QFile::encodeName(name).size() > MaxNameBytes) {
-        return tr("The name of the backup is too long. Choose one of at most %1 letters.")
+        return Text::tr("The name of the backup is too long. Choose one of at most %1 letters.")
             .arg(MaxNameBytes);
     }
     return {};
@@ -226,7 +174,7 @@ QString backupNameFault(const QString& name)
 QList<FamilyProject*> openAllProjects(FamilyParentProject* game, QStringList* errors)
 {
     QStringList opened;
-    for (const FamilyProject* project : projectsOf(*game)) {
+    for (const FamilyProject* project : openProjectsOf(*game)) {
         opened.append(project->fileName());
     }
     QList<FamilyProject*> projects;
@@ -238,7 +186,6 @@ QList<FamilyProject*> openAllProjects(FamilyParentProject* game, QStringList* er
         FamilyProject* project = FamilyProject::open(game, mainFile, &error);
         if (project) {
             projects.append(project);
-            *errors += project->loadErrors();
         } else {
             errors->append(error);
         }
@@ -275,7 +222,7 @@ QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QStr
 {
     error->clear();
     if (!game.backups().contains(folder)) {
-        *error = tr("There is no backup '%1' in %2. Choose one of the list of backups.")
+        *error = Text::tr("There is no backup '%1' in %2. Choose one of the list of backups.")
                      .arg(folder, QDir::toNativeSeparators(game.absolutePath()));
         return {};
     }
@@ -310,9 +257,10 @@ BackupResult makeBackup(FamilyParentProject* game, const QString& name)
                            QFileInfo(game->absolutePath() + failed.first()).isDir();
     if (!hasFolder || result.folder.isEmpty()) {
         result.folder.clear();
-        result.error = tr("Cannot make the folder %1. Check that there is space on the disk and "
-                          "that the folder of the game may be written to.")
-                           .arg(QDir::toNativeSeparators(game->absolutePath() + failed.value(0)));
+        result.error =
+            Text::tr("Cannot make the folder %1. Check that there is space on the disk and "
+                     "that the folder of the game may be written to.")
+                .arg(QDir::toNativeSeparators(game->absolutePath() + failed.value(0)));
         return result;
     }
     const QString folder = folderOf(*game, result.folder);
@@ -325,16 +273,15 @@ BackupResult makeBackup(FamilyParentProject* game, const QString& name)
         return result;
     }
     sortFailures(*game, failed, &result);
-    for (const FamilyProject* project : projectsOf(*game)) {
+    for (const FamilyProject* project : openProjectsOf(*game)) {
         sortFailures(*game, addToBackup(*game, sharedFiles(*project), folder), &result);
     }
     result.failed.removeDuplicates();
     result.missing.removeDuplicates();
     if (!result.failed.isEmpty()) {
-        result.error = tr("The backup '%1' is not complete. Not copied: %2. Check that there is "
-                          "space on the disk and that these files may be read, then make another "
-                          "backup.")
-                           .arg(result.folder, shownList(result.failed));
+        result.error = Text::tr("The backup '%1' is not complete. Check that there is space on the "
+                                "disk and that all files may be read, then make another backup.")
+                           .arg(result.folder);
     }
     return result;
 }
@@ -356,16 +303,20 @@ BackupResult restoreBackup(FamilyParentProject* game, const QString& folder, boo
     result.failed.clear();
     result.missing.clear();
     if (!game->restoreBackup(folder)) {
-        result.error = tr("The game cannot be written to, so nothing was restored.");
+        result.error = Text::tr("The game cannot be written to, so nothing was restored.");
         return result;
     }
     result.isCanceled = game->wasCanceled();
     result.failed = game->failedFiles();
     if (!result.failed.isEmpty()) {
-        result.error = tr("These files were not restored and are as before: %1. Check that there "
-                          "is space on the disk and that they may be written to, then restore "
-                          "again.")
-                           .arg(shownList(result.failed));
+        result.error = Text::tr("Some files were not restored and are as before. Check that there "
+                                "is space on the disk and that they may be written to, then "
+                                "restore again.");
+    } else if (result.isCanceled) {
+        result.error =
+            Text::tr("The restore was given up in its middle: some files are those of the "
+                     "backup, the others are as before. Restore again, or put back what "
+                     "was there before.");
     }
     return result;
 }

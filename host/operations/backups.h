@@ -48,8 +48,8 @@ struct BackupResult
 QString backupNameFault(const QString& name);
 
 /// Opens every project of a game that is not open yet and gives those; the
-/// caller ends them (`closeProjects()`). What cannot be read goes into `errors`,
-/// a line each, and stays closed.
+/// caller ends them (`closeProjects()`). One whose main file cannot be read stays
+/// closed, and the reason goes into `errors`.
 QList<FamilyProject*> openAllProjects(FamilyParentProject* game, QStringList* errors);
 void closeProjects(const QList<FamilyProject*>& projects);
 

@@ -122,6 +122,7 @@ void TestBackup::bringsEverythingBack()
             break;
         }
     }
+    game.edit();
     Contents expected = saved;
     expected["new.bin"] = "new";
     QVERIFY(writeFile(game.root + "new.bin", "new"));

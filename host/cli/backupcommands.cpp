@@ -1,0 +1,206 @@
+#include "cli.h"
+#include "command.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "notedsignals.h"
+#include "operations/backups.h"
+#include "operations/hostinterface.h"
+#include "output.h"
+#include "progressline.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonObject>
+
+#include <memory>
+
+namespace Cli {
+
+namespace {
+
+using Family::Backup;
+using Family::BackupResult;
+using Family::FamilyParentProject;
+using Family::RestoredFile;
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Cli)
+};
+
+/// Shows how far the work is, and lets Ctrl+C end it where every file is whole.
+class ProgressHost final : public Family::HostInterface
+{
+public:
+    ProgressHost() { Family::startHost(this); }
+
+    Zorv::ProgressReporter* progress(const QString& title, int) override
+    {
+        return new ProgressLine(title);
+    }
+
+private:
+    NotedSignals m_signals;
+};
+
+/// A game folder with all projects that can be opened.
+class OpenGame
+{
+public:
+    explicit OpenGame(const QString& folder)
+        : m_game(std::make_unique<FamilyParentProject>(folder)),
+          m_projects(Family::openAllProjects(m_game.get(), &m_errors))
+    {
+    }
+    ~OpenGame() { Family::closeProjects(m_projects); }
+
+    FamilyParentProject* game() const { return m_game.get(); }
+    bool isEmpty() const { return m_projects.isEmpty() && m_errors.isEmpty(); }
+    const QStringList& errors() const { return m_errors; }
+
+private:
+    Q_DISABLE_COPY(OpenGame)
+    std::unique_ptr<FamilyParentProject> m_game;
+    QStringList m_errors;
+    QList<Family::FamilyProject*> m_projects;
+};
+
+bool isFolder(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        complain(Text::tr("There is no folder '%1'.").arg(path));
+    } else if (!info.isDir()) {
+        complain(Text::tr("'%1' is no folder. Name the folder of a game.").arg(path));
+    }
+    return info.isDir();
+}
+
+QString changeName(RestoredFile::Change change)
+{
+    switch (change) {
+    case RestoredFile::New:
+        return QStringLiteral("new");
+    case RestoredFile::Changed:
+        return QStringLiteral("changed");
+    default:
+        return QStringLiteral("same");
+    }
+}
+
+int finish(const BackupResult& result, Output& output)
+{
+    if (!result.folder.isEmpty()) {
+        output.writeLine({result.folder});
+    }
+    for (const QString& file : result.failed) {
+        complain(Text::tr("'%1' could not be copied.").arg(file));
+    }
+    if (!result.error.isEmpty()) {
+        complain(result.error);
+    }
+    if (result.isCanceled) {
+        return NotedSignals::exitStatus();
+    }
+    return result.error.isEmpty() ? Fine : NotDone;
+}
+
+int listChanges(const FamilyParentProject& game, const QString& folder, Output& output)
+{
+    QString error;
+    const QVector<RestoredFile> files = Family::filesToRestore(game, folder, &error);
+    if (!error.isEmpty()) {
+        complain(error);
+        return NotDone;
+    }
+    for (const RestoredFile& file : files) {
+        output.writeLine({changeName(file.change), file.path});
+    }
+    return Fine;
+}
+
+void writeJson(const QVector<Backup>& backups, Output& output)
+{
+    QString separator = QStringLiteral("[\n");
+    for (const Backup& backup : backups) {
+        output.write(separator +
+                     jsonLine({{QStringLiteral("folder"), backup.folder},
+                               {QStringLiteral("name"), backup.name},
+                               {QStringLiteral("time"), backup.time.toString(Qt::ISODate)},
+                               {QStringLiteral("files"), backup.fileCount},
+                               {QStringLiteral("bytes"), double(backup.bytes)}}));
+        separator = QStringLiteral(",\n");
+    }
+    output.write(backups.isEmpty() ? QStringLiteral("[]\n") : QStringLiteral("\n]\n"));
+}
+
+}  // namespace
+
+int backUp(const Invocation& invocation, Output& output)
+{
+    const QString folder = invocation.operands.first();
+    const QString name = invocation.operands.value(1, Text::tr("Manual"));
+    const QString fault = Family::backupNameFault(name);
+    if (!fault.isEmpty()) {
+        complain(fault);
+        return WrongUsage;
+    }
+    if (!isFolder(folder)) {
+        return NotDone;
+    }
+    ProgressHost host;
+    const OpenGame opened(folder);
+    if (opened.isEmpty()) {
+        complain(Text::tr("There is no character or stage in '%1'. Expected files such as "
+                          "'characters/hero/hero.character'.")
+                     .arg(folder));
+        return NotDone;
+    }
+    for (const QString& error : opened.errors()) {
+        complain(error);
+    }
+    const BackupResult result = Family::makeBackup(opened.game(), name);
+    for (const QString& file : result.missing) {
+        complain(Text::tr("'%1' is named and not there. The backup lacks it.").arg(file));
+    }
+    const int status = finish(result, output);
+    return status == Fine && !opened.errors().isEmpty() ? NotDone : status;
+}
+
+int listBackups(const Invocation& invocation, Output& output)
+{
+    const QString folder = invocation.operands.first();
+    if (!isFolder(folder)) {
+        return NotDone;
+    }
+    const FamilyParentProject game(folder);
+    const QVector<Backup> backups = Family::listBackups(game);
+    if (invocation.json) {
+        writeJson(backups, output);
+        return Fine;
+    }
+    for (const Backup& backup : backups) {
+        output.writeLine({backup.folder,
+                          backup.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")), backup.name,
+                          QString::number(backup.fileCount), QString::number(backup.bytes)});
+    }
+    return Fine;
+}
+
+int restore(const Invocation& invocation, Output& output)
+{
+    const QString folder = invocation.operands.first();
+    const QString backup = invocation.operands.at(1);
+    if (!isFolder(folder)) {
+        return NotDone;
+    }
+    if (invocation.dryRun) {
+        return listChanges(FamilyParentProject(folder), backup, output);
+    }
+    ProgressHost host;
+    const OpenGame opened(folder);
+    return finish(Family::restoreBackup(opened.game(), backup, !invocation.noSafetyBackup), output);
+}
+
+}  // namespace Cli

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace Family {
+
+class FamilyDocument;
+class FamilyParentProject;
+class FamilyProject;
+
+/// The open projects of a game.
+QList<FamilyProject*> openProjectsOf(const FamilyParentProject& game);
+
+/// The files of the game that a project names outside of its own folder, such as
+/// "../../shared/common.code". They are not among those that the library copies
+/// with a project. Relative to the game.
+QStringList sharedFiles(const FamilyProject& project);
+
+/// The open document of a file of the game (relative to it): of several the one
+/// with unsaved changes. Null if there is none.
+FamilyDocument* openDocumentOf(const FamilyParentProject& game, const QString& file);
+
+/// Takes the shared files of the open projects along after the game has moved from
+/// `oldRoot`, which ends in "/": those that are not at the new place yet are
+/// copied, and open documents of them go on there, saved. Gives those of which that
+/// failed, relative to the game.
+QStringList moveSharedFiles(FamilyParentProject* game, const QString& oldRoot);
+
+}  // namespace Family
