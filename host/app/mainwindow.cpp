@@ -4,19 +4,19 @@
 #include "app/actions/actiontable.h"
 #include "app/actions/shortcutguard.h"
 #include "app/actions/windowactions.h"
-#include "app/animationpanel.h"
+#include "app/animationcommands.h"
 #include "app/codeedit.h"
 #include "app/codetexteditor.h"
 #include "app/controls/controlplacer.h"
 #include "app/documenttabs.h"
 #include "app/game/gamecommands.h"
+#include "app/game/gameopener.h"
 #include "app/gamesession.h"
 #include "app/gametree.h"
 #include "app/linebar.h"
 #include "app/look/look.h"
 #include "app/messagepanel.h"
 #include "app/nodepanel.h"
-#include "app/recentfolders.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
 #include "app/statusfields.h"
@@ -49,18 +49,6 @@ using Family::FamilyProject;
 
 namespace {
 
-/// The pointer that tells to wait, as long as the object lives. A folder may be
-/// large, and far away.
-class WaitCursor
-{
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-
-private:
-    Q_DISABLE_COPY(WaitCursor)
-};
-
 /// What editors and panels of the library are, and the window's, are its children.
 template <class Part>
 void tellAll(MainWindow* window, void (Part::*what)())
@@ -80,7 +68,6 @@ struct PanelTitle
 const PanelTitle panelTitles[] = {
     {"projects", QT_TRANSLATE_NOOP("App::MainWindow", "Projects")},
     {"nodes", QT_TRANSLATE_NOOP("App::MainWindow", "Nodes")},
-    {"animations", QT_TRANSLATE_NOOP("App::MainWindow", "Animations")},
     {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
     {"output", QT_TRANSLATE_NOOP("App::MainWindow", "Engine output")},
 };
@@ -90,9 +77,10 @@ const PanelTitle panelTitles[] = {
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget),
       m_hint(new QLabel), m_tabs(new DocumentTabs), m_lineBar(new LineBar), m_gameTree(new GameTree),
-      m_nodePanel(new NodePanel), m_animationPanel(new AnimationPanel),
+      m_nodePanel(new NodePanel), m_animations(new AnimationCommands(this)),
       m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar())),
-      m_textEditor(new CodeTextEditor(this)), m_gameCommands(new GameCommands(this)),
+      m_textEditor(new CodeTextEditor(this)), m_opener(new GameOpener(this)),
+      m_gameCommands(new GameCommands(this)),
       m_runCommands(new RunCommands(this)), m_actions(new WindowActions(this)), m_controls(new ControlPlacer(this, m_actions))
 {
     new ShortcutGuard(this, registry());
@@ -106,6 +94,14 @@ MainWindow::MainWindow(QWidget* parent)
     m_controls->updateVisibility();
 }
 
+void MainWindow::publishTools()
+{
+    m_animations->publish();
+    m_animations->setDocument(m_tabs->currentDocument());
+    m_controls->updateVisibility();
+    cursorMoved();
+}
+
 // Views go before what they show.
 MainWindow::~MainWindow()
 {
@@ -113,7 +109,7 @@ MainWindow::~MainWindow()
     m_session->disconnect(this);
     m_status->setDocument(nullptr);
     m_nodePanel->setDocument(nullptr);
-    m_animationPanel->setDocument(nullptr);
+    m_animations->setDocument(nullptr);
     m_messagePanel->setMessages(nullptr);
     m_gameTree->setGame(nullptr);
     delete m_tabs;
@@ -141,14 +137,12 @@ void MainWindow::makeDocks()
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     QDockWidget* projects = addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* nodes = addDock(m_nodePanel, "nodes", Qt::RightDockWidgetArea);
-    QDockWidget* animations = addDock(m_animationPanel, "animations", Qt::RightDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
     QDockWidget* output =
         addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
     resizeDocks({projects, nodes}, {220, 280}, Qt::Horizontal);
     resizeDocks({messages}, {150}, Qt::Vertical);
-    resizeDocks({nodes, animations}, {320, 260}, Qt::Vertical);
 }
 
 QDockWidget* MainWindow::addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area)
@@ -172,14 +166,14 @@ void MainWindow::retranslate()
                        "A double click in the tree of projects shows a text."));
     m_actions->retranslate();
     m_controls->retranslate();
+    tellAll(this, &Zorv::Editor::retranslate);
+    tellAll(this, &Zorv::ExtraEditor::retranslate);
+    tellAll(this, &Zorv::Workspace::retranslate);
     updateTitle();
 }
 
 /// Texts keep the colours that they were given, and their messages the language.
 void MainWindow::parseAgain()
-    tellAll(this, &Zorv::Editor::retranslate);
-    tellAll(this, &Zorv::ExtraEditor::retranslate);
-    tellAll(this, &Zorv::Workspace::retranslate);
 {
     for (const FamilyProject* project : m_session->projects()) {
         const QList<FamilyDocument*> documents = project->documents();
@@ -195,17 +189,18 @@ void MainWindow::reconfig()
     for (int i = 0; i < m_tabs->count(); ++i) {
         m_tabs->editAt(i)->reconfig();
     }
+    m_controls->updateVisibility();
     parseAgain();
+    tellAll(this, &Zorv::Editor::reconfig);
+    tellAll(this, &Zorv::ExtraEditor::reconfig);
+    tellAll(this, &Zorv::Workspace::reconfig);
+    emit reconfigured();
 }
 
 void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-    tellAll(this, &Zorv::Editor::reconfig);
-    tellAll(this, &Zorv::ExtraEditor::reconfig);
-    tellAll(this, &Zorv::Workspace::reconfig);
-    emit reconfigured();
         retranslate();
         parseAgain();
     }
@@ -235,11 +230,11 @@ void MainWindow::connectPanels()
     connect(m_gameTree, &GameTree::fileRequested, this, &MainWindow::openFile);
     connect(m_nodePanel, &NodePanel::lineRequested, this,
             [this](int line) { showPlace(m_tabs->currentDocument(), line, 0, 0); });
-    connect(m_animationPanel, &AnimationPanel::lineRequested, this,
+    connect(m_animations, &AnimationCommands::lineRequested, this,
             [this](int line, int column, int length) {
                 showPlace(m_tabs->currentDocument(), line, column, length);
             });
-    connect(m_animationPanel, &AnimationPanel::stateChanged, this, &MainWindow::updateSoon);
+    connect(m_animations, &AnimationCommands::stateChanged, this, &MainWindow::updateSoon);
     connect(m_messagePanel, &MessagePanel::placeRequested, this,
             [this](Zorv::CodeDocument* document, int line, int column) {
                 showPlace(document, line, column, 0);
@@ -263,107 +258,12 @@ void MainWindow::connectPanels()
 
 bool MainWindow::openPath(const QString& path)
 {
-    const QFileInfo info(path);
-    if (!info.isFile()) {
-        return openFolder(path);
-    }
-    // The folders of a game stand beside each other: the root is above them.
-    QDir root = info.absoluteDir();
-    for (QDir above = root; above.cdUp();) {
-        if (above.exists(QStringLiteral("characters")) || above.exists(QStringLiteral("stages"))) {
-            root = above;
-            break;
-        }
-    }
-    return openFolder(root.path()) && openFile(info.absoluteFilePath());
-}
-
-bool MainWindow::openFolder(const QString& folder)
-{
-    if (!m_runCommands->mayClose([this, folder] { openFolder(folder); }) ||
-        !askAboutUnsaved(m_session->modifiedDocuments())) {
-        return false;
-    }
-    QString error;
-    bool isOpen = false;
-    {
-        const WaitCursor cursor;
-        isOpen = m_session->openFolder(folder, &error);
-    }
-    if (!isOpen) {
-        Zorv::Dialogs::instance()->error(tr("Open game folder"), error);
-        return false;
-    }
-    RecentFolders::add(folder);
-    m_gameTree->setFocus();
-    return true;
+    return m_opener->openPath(path);
 }
 
 bool MainWindow::openFile(const QString& fileName)
 {
-    FamilyDocument* document = m_session->document(fileName, currentProject());
-    if (!document && isMainFile(Family::fileKindOf(fileName))) {
-        return openProject(fileName);
-    }
-    if (!document) {
-        document = m_session->document(fileName, currentProject(), true);
-    }
-    if (!document) {
-        document = openFileOfClosedProject(fileName);
-    }
-    if (!document) {
-        return tellWhyNot(fileName);
-    }
-    showDocument(document);
-    return true;
-}
-
-FamilyDocument* MainWindow::openFileOfClosedProject(const QString& fileName)
-{
-    QString mainFile;
-    {
-        const WaitCursor cursor;
-        mainFile = m_session->closedProjectOf(fileName);
-    }
-    return !mainFile.isEmpty() && openProject(mainFile)
-               ? m_session->document(fileName, m_session->projectOf(mainFile))
-               : nullptr;
-}
-
-bool MainWindow::openProject(const QString& mainFile)
-{
-    QString error;
-    FamilyProject* project = nullptr;
-    {
-        const WaitCursor cursor;
-        project = m_session->openProject(mainFile, &error);
-    }
-    if (!project) {
-        Zorv::Dialogs::instance()->error(tr("Open project"), error);
-        return false;
-    }
-    showDocument(project->mainDocument());
-    m_gameTree->reveal(project->fileName());
-    if (!project->loadErrors().isEmpty()) {
-        Zorv::Dialogs::instance()->warning(tr("Open project"),
-                                           project->loadErrors().join(QLatin1Char('\n')));
-    }
-    return true;
-}
-
-bool MainWindow::tellWhyNot(const QString& fileName)
-{
-    const QString shown = m_session->shownPath(fileName);
-    if (QFileInfo::exists(fileName)) {
-        statusBar()->showMessage(
-            tr("%1 cannot be shown: no project names it as a code file.").arg(shown));
-    } else {
-        Zorv::Dialogs::instance()->warning(
-            tr("Open file"), tr("There is no file %1. Correct the path in the main file of the "
-                                "project, or put the file there.")
-                                 .arg(shown));
-    }
-    return false;
+    return m_opener->openFile(fileName);
 }
 
 void MainWindow::forgetProject(FamilyProject* project)
@@ -392,7 +292,7 @@ void MainWindow::currentDocumentChanged(FamilyDocument* document)
 {
     m_centre->setCurrentIndex(m_tabs->count() > 0 ? 1 : 0);
     m_nodePanel->setDocument(document);
-    m_animationPanel->setDocument(document);
+    m_animations->setDocument(document);
     m_status->setDocument(document);
     m_lineBar->hide();
     updateMessages();
@@ -406,7 +306,7 @@ void MainWindow::cursorMoved()
         const TextPlace place = edit->place();
         m_status->setPlace(place.line, place.column);
         m_nodePanel->followCursor(place.line);
-        m_animationPanel->followCursor(place.line);
+        m_animations->followCursor(place.line);
     }
 }
 
@@ -475,8 +375,7 @@ int MainWindow::presentNeeds() const
            when(edit && edit->document()->isUndoAvailable(), NeedsUndo) |
            when(edit && edit->document()->isRedoAvailable(), NeedsRedo) |
            when(edit && edit->textCursor().hasSelection(), NeedsSelection) |
-           when(m_animationPanel->hasCurrent(), NeedsAnimation) |
-           when(m_animationPanel->count() > 0, NeedsAnimations) |
+           when(m_animations->hasCurrent(), NeedsAnimation) |
            when(m_runCommands->isRunning(), NeedsEngine) |
            when(!m_runCommands->isRunning(), NeedsNoEngine);
 }

@@ -19,12 +19,13 @@ class CodeDocument;
 namespace App {
 
 class ActionRegistry;
-class AnimationPanel;
+class AnimationCommands;
 class CodeEdit;
 class CodeTextEditor;
 class ControlPlacer;
 class DocumentTabs;
 class GameCommands;
+class GameOpener;
 class GameSession;
 class GameTree;
 class LineBar;
@@ -45,6 +46,10 @@ class MainWindow : public QMainWindow
 public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
+
+    /// Places the tools of the panels that publish them. To be called once, when the host
+    /// knows the window.
+    void publishTools();
 
     /// Opens a game folder, or the one around a code file together with the file
     /// and its project. Tells the person what is wrong, and is false then.
@@ -67,7 +72,7 @@ public:
     DocumentTabs* tabs() const { return m_tabs; }
     GameTree* gameTree() const { return m_gameTree; }
     NodePanel* nodePanel() const { return m_nodePanel; }
-    AnimationPanel* animationPanel() const { return m_animationPanel; }
+    AnimationCommands* animations() const { return m_animations; }
     MessagePanel* messagePanel() const { return m_messagePanel; }
     StatusFields* status() const { return m_status; }
     CodeTextEditor* textEditor() const { return m_textEditor; }
@@ -111,9 +116,6 @@ public:
     void addAnimation();
     void duplicateAnimation();
     void removeAnimations();
-    void moveAnimationUp();
-    void moveAnimationDown();
-    void sortAnimations();
     void focusNextPanel();
     void focusPreviousPanel();
     void showNextText();
@@ -122,11 +124,11 @@ public:
     void showAbout();
     /// @}
 
-protected:
 signals:
     /// `reconfig()` is done; parts that read settings of their own follow.
     void reconfigured();
 
+protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -139,10 +141,6 @@ private:
     void connectParts();
     void connectPanels();
 
-    bool openFolder(const QString& folder);
-    bool openProject(const QString& mainFile);
-    Family::FamilyDocument* openFileOfClosedProject(const QString& fileName);
-    bool tellWhyNot(const QString& fileName);
     void closeDocument(Family::FamilyDocument* document);
     void showPlace(Zorv::CodeDocument* document, int line, int column, int length);
     void forgetProject(Family::FamilyProject* project);
@@ -165,10 +163,11 @@ private:
     LineBar* m_lineBar;
     GameTree* m_gameTree;
     NodePanel* m_nodePanel;
-    AnimationPanel* m_animationPanel;
+    AnimationCommands* m_animations;
     MessagePanel* m_messagePanel;
     StatusFields* m_status;
     CodeTextEditor* m_textEditor;
+    GameOpener* m_opener;
     GameCommands* m_gameCommands;
     RunCommands* m_runCommands;
     WindowActions* m_actions;

@@ -1,7 +1,7 @@
 #include "app/mainwindow.h"
 
 #include "app/actions/actionregistry.h"
-#include "app/animationpanel.h"
+#include "app/animationcommands.h"
 #include "app/codeedit.h"
 #include "app/documenttabs.h"
 #include "app/encodingchoice.h"
@@ -18,6 +18,7 @@
 #include "family/project/familyproject.h"
 #include "operations/documentfile.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFileInfo>
 
@@ -160,32 +161,17 @@ void MainWindow::changeEncoding()
 
 void MainWindow::addAnimation()
 {
-    m_animationPanel->addNew();
+    m_animations->addNew();
 }
 
 void MainWindow::duplicateAnimation()
 {
-    m_animationPanel->duplicateCurrent();
+    m_animations->duplicateCurrent();
 }
 
 void MainWindow::removeAnimations()
 {
-    m_animationPanel->removeSelected();
-}
-
-void MainWindow::moveAnimationUp()
-{
-    m_animationPanel->moveUp();
-}
-
-void MainWindow::moveAnimationDown()
-{
-    m_animationPanel->moveDown();
-}
-
-void MainWindow::sortAnimations()
-{
-    m_animationPanel->sortAll();
+    m_animations->removeSelected();
 }
 
 void MainWindow::focusNextPanel()
@@ -200,7 +186,7 @@ void MainWindow::focusPreviousPanel()
 
 void MainWindow::focusPanel(int step)
 {
-    const QList<QWidget*> all{m_gameTree, m_tabs->currentEdit(), m_nodePanel, m_animationPanel,
+    const QList<QWidget*> all{m_gameTree, m_tabs->currentEdit(), m_nodePanel, m_animations->list(),
                               m_messagePanel};
     QList<QWidget*> panels;
     for (QWidget* panel : all) {

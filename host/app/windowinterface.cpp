@@ -1,5 +1,7 @@
 #include "app/windowinterface.h"
 
+#include "animation/organizereditor.h"
+#include "app/animationcommands.h"
 #include "app/controls/controlplacer.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
@@ -23,6 +25,9 @@ constexpr double ReferenceResolution = 96;
 void WindowInterface::setWindow(MainWindow* window)
 {
     m_window = window;
+    if (window) {
+        window->publishTools();
+    }
 }
 
 QWidget* WindowInterface::mainWindow() const
@@ -95,6 +100,11 @@ void WindowInterface::setMenuEnabled(const char* menu, const char* group, bool e
     if (m_window) {
         m_window->controls()->setMenuEnabled(menu, group, enabled);
     }
+}
+
+Zorv::ExtraEditor* WindowInterface::extraEditor(unsigned index) const
+{
+    return m_window && index == 0 ? m_window->animations()->organizer() : nullptr;
 }
 
 Zorv::Editor* WindowInterface::currentEditor() const

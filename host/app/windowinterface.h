@@ -14,7 +14,7 @@ class WindowInterface : public Family::HostInterface
 public:
     using HostInterface::HostInterface;
 
-    /// Not owned; may die.
+    /// Not owned; may die. Lets the window publish its tools.
     void setWindow(MainWindow* window);
 
     QWidget* mainWindow() const override;
@@ -48,6 +48,8 @@ public:
                           const char* checkSignal) override;
     QAction* createEditorAction(const QString& name, Zorv::Translator* translator,
                                 unsigned textId) override;
+    /// 0 is the organizer; there are no others.
+    Zorv::ExtraEditor* extraEditor(unsigned index) const override;
     void setMenuEnabled(const char* menu, const char* group, bool enabled) override;
 
     /// Shows what is in files that the library has read again.

@@ -66,6 +66,14 @@ QString FamilyAnimations::animationTemplate() const
     return QStringLiteral("animation %1\nframe 0,0  delay -1\n");
 }
 
+QVariant FamilyAnimations::data(const QModelIndex& index, int role) const
+{
+    const QVariant value = Animations::data(index, role);
+    const bool isNameless =
+        role == Qt::DisplayRole && value.isValid() && value.toString().isEmpty();
+    return isNameless ? animation(index.row())->block().text().trimmed() : value;
+}
+
 /// The last animation reaches to the end of the text. Without a line end there
 /// the library would cut its last character, or join it with what comes behind.
 void FamilyAnimations::ensureLineEndBehind(unsigned index)

@@ -31,6 +31,9 @@ public:
 
     bool allowsDuplicates(const QString& identifier) const override;
     QString animationTemplate() const override;
+
+    /// As that of the library; the head line for an animation without any name.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     void remove(unsigned index) override;
 
     /// As that of the library: moved to the last place, an animation is

@@ -30,6 +30,7 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("sort_file_names"), true},
         {QStringLiteral("backup_onload"), false},
         {QStringLiteral("confirm_delete"), true},
+        {QStringLiteral("show_organizer"), true},
         {QStringLiteral("recovery_seconds"), 5},
         {QStringLiteral("language"), QString()},
         {QStringLiteral("theme"), QString()},

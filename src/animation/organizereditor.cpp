@@ -107,6 +107,9 @@ void OrganizerEditorPrivate::setUpView()
     // Without it, every change of a long list asks for the text of every row.
     view->setUniformItemSizes(true);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // What may be dropped is for the rows to say.
+    view->setDragDropMode(QAbstractItemView::DragDrop);
+    view->setDefaultDropAction(Qt::MoveAction);
     view->setModel(&rows);
     const std::unique_ptr<QItemSelectionModel> own(view->selectionModel());
     view->setSelectionModel(&selection);
@@ -328,6 +331,10 @@ void OrganizerEditor::moveToBottom()
 void OrganizerEditor::organize()
 {
     d->rows.organize();
+    const QVector<int> selected = selectedRows();
+    if (!selected.isEmpty()) {
+        d->showMoved(selected);
+    }
 }
 
 void OrganizerEditor::itemDblClick(const QModelIndex& index)

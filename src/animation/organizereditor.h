@@ -76,7 +76,7 @@ signals:
 
     void selectionChanged();
 
-    /// The person has moved the selected rows, by an action or by dragging.
+    /// The person has moved the selected rows: by an action, by dragging, by sorting.
     void selectionMoved();
 
     /// There is a list that could be sorted.

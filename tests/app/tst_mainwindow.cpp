@@ -359,7 +359,7 @@ void tst_MainWindow::closesProjectsWhileTheyAreShown()
     QCOMPARE(window()->tabs()->count(), 0);
     QCOMPARE(window()->session()->projects().size(), 0);
     QTRY_VERIFY(!window()->messagePanel()->messages());
-    QCOMPARE(window()->animationPanel()->count(), 0);
+    QVERIFY(!window()->animations()->organizer()->object());
     QTRY_VERIFY(!m->action("close_project")->isEnabled());
     // The game is still there to open the project again.
     QVERIFY(window()->openFile(m_game->ryn()));
@@ -477,19 +477,19 @@ void tst_MainWindow::offersOnlyWhatIsOfUse()
     QTRY_VERIFY(isOn("open_folder") && !isOn("save") && !isOn("undo") && !isOn("anim_add"));
     m->open(*m_game, m_game->ryn());
     QTRY_VERIFY(isOn("save") && isOn("paste") && isOn("anim_add"));
-    QVERIFY(!isOn("undo") && !isOn("copy") && !isOn("anim_sort") && !isOn("save_all"));
+    QVERIFY(!isOn("undo") && !isOn("copy") && !isOn("org_auto") && !isOn("save_all"));
     m->type(QStringLiteral("x"));
     QTRY_VERIFY(isOn("undo") && isOn("save_all"));
     m->press(Qt::Key_A, Qt::ControlModifier);
     QTRY_VERIFY(isOn("copy") && isOn("cut"));
     QVERIFY(window()->openFile(m_game->animations()));
-    QTRY_VERIFY(isOn("anim_sort") && !isOn("undo"));
+    QTRY_VERIFY(isOn("org_auto") && !isOn("undo"));
 }
 
 void tst_MainWindow::isReachedByKeys()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
-    const QList<QWidget*> panels{m->edit(), window()->nodePanel(), window()->animationPanel(),
+    const QList<QWidget*> panels{m->edit(), window()->nodePanel(), window()->animations()->list(),
                                  window()->messagePanel(), window()->gameTree()};
     for (QWidget* panel : panels) {
         QVERIFY(!panel->accessibleName().isEmpty());

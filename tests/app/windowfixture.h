@@ -1,6 +1,7 @@
 #pragma once
 
-#include "app/animationpanel.h"
+#include "animation/organizereditor.h"
+#include "app/animationcommands.h"
 #include "app/codeedit.h"
 #include "app/documenttabs.h"
 #include "app/gamesession.h"

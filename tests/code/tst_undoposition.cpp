@@ -48,12 +48,10 @@ void UndoPositionTest::cursorGoesToTheEdit_data()
     QTest::newRow("a value") << Change([](GrammarDocument& d) {
         static_cast<TestValue*>(nodeOfLine(d, 1))->write(QStringLiteral("5"));
     }) << 1;
-    QTest::newRow("all lines of an animation") << Change([](GrammarDocument& d) {
-        nodeOfLine(d, 3)->remove(true);
-    }) << 3;
-    QTest::newRow("one line") << Change([](GrammarDocument& d) {
-        nodeOfLine(d, 4)->remove(false);
-    }) << 4;
+    QTest::newRow("all lines of an animation")
+        << Change([](GrammarDocument& d) { nodeOfLine(d, 3)->remove(true); }) << 3;
+    QTest::newRow("one line") << Change([](GrammarDocument& d) { nodeOfLine(d, 4)->remove(false); })
+                              << 4;
     QTest::newRow("a line end") << Change([](GrammarDocument& d) {
         QTextCursor cursor = cursorIn(d, 2);
         cursor.movePosition(QTextCursor::EndOfBlock);

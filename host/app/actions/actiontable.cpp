@@ -88,9 +88,6 @@ const QVector<ActionRow>& actionTable()
         {"anim_duplicate", "anim", QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"),             NoKey,        "Ctrl+Shift+D", NeedsAnimation,  call<&W::duplicateAnimation>},
         {"anim_remove",    "anim", QT_TRANSLATE_NOOP("App::Actions", "&Remove"),                NoKey,        "Ctrl+Shift+R", NeedsAnimation,  call<&W::removeAnimations>},
         {nullptr,          "anim", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
-        {"anim_up",        "anim", QT_TRANSLATE_NOOP("App::Actions", "Move &up"),               NoKey,        "Alt+Up",       NeedsAnimation,  call<&W::moveAnimationUp>},
-        {"anim_down",      "anim", QT_TRANSLATE_NOOP("App::Actions", "Move do&wn"),             NoKey,        "Alt+Down",     NeedsAnimation,  call<&W::moveAnimationDown>},
-        {"anim_sort",      "anim", QT_TRANSLATE_NOOP("App::Actions", "&Sort automatically"),    NoKey,        nullptr,        NeedsAnimations, call<&W::sortAnimations>},
 
         {"next_panel",     "view", QT_TRANSLATE_NOOP("App::Actions", "&Next panel"),            NoKey,        "F6",           NoNeed,          call<&W::focusNextPanel>},
         {"previous_panel", "view", QT_TRANSLATE_NOOP("App::Actions", "&Previous panel"),        NoKey,        "Shift+F6",     NoNeed,          call<&W::focusPreviousPanel>},

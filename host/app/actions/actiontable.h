@@ -19,9 +19,8 @@ enum Need {
     NeedsRedo = 32,
     NeedsSelection = 64,
     NeedsAnimation = 128,  ///< a current row in the list of animations
-    NeedsAnimations = 256,  ///< any row there
-    NeedsEngine = 512,      ///< an engine runs
-    NeedsNoEngine = 1024    ///< none does
+    NeedsEngine = 256,     ///< an engine runs
+    NeedsNoEngine = 512    ///< none does
 };
 
 /// One action of the window: a row of the table.

@@ -23,7 +23,14 @@ const QString OffKey = QStringLiteral("bars_off");
 
 QStringList barsThatAreOff()
 {
-    return Zorv::Interface::instance()->option(OffKey).toStringList();
+    QStringList names = Zorv::Interface::instance()->option(OffKey).toStringList();
+    for (const BarRow& row : barTable()) {
+        if (row.setting &&
+            !Zorv::Interface::instance()->option(QLatin1String(row.setting)).toBool()) {
+            names.append(QLatin1String(row.name));
+        }
+    }
+    return names;
 }
 
 const BarRow* rowOf(const QString& name)
@@ -148,12 +155,18 @@ bool ControlBars::eventFilter(QObject* watched, QEvent* event)
 
 void ControlBars::setOff(const QString& name, bool isOff)
 {
-    QStringList names = barsThatAreOff();
-    names.removeAll(name);
-    if (isOff) {
-        names.append(name);
+    auto* host = Zorv::Interface::instance();
+    const BarRow* row = rowOf(name);
+    if (row && row->setting) {
+        host->setOption(QLatin1String(row->setting), !isOff);
+    } else {
+        QStringList names = host->option(OffKey).toStringList();
+        names.removeAll(name);
+        if (isOff) {
+            names.append(name);
+        }
+        host->setOption(OffKey, names.isEmpty() ? QVariant() : names);
     }
-    Zorv::Interface::instance()->setOption(OffKey, names.isEmpty() ? QVariant() : names);
     updateSoon();
 }
 

@@ -57,7 +57,7 @@ const QVector<BarRow>& barTable()
         {"sprites",      BarRow::ToolBar, Qt::TopToolBarArea,      "spr",   "sprites",    shared(SpritesText)},
         {"sprite_tools", BarRow::ToolBar, Qt::LeftToolBarArea,     "spr",   "sprites",    own(QT_TRANSLATE_NOOP("App::Bars", "Painting tools"))},
         {"sound",        BarRow::ToolBar, Qt::TopToolBarArea,      "snd",   "sounds",     shared(SoundsText)},
-        {"organizer",    BarRow::Panel,   Qt::RightDockWidgetArea, nullptr, nullptr,      shared(OrganizerText)},
+        {"organizer",    BarRow::Panel,   Qt::RightDockWidgetArea, nullptr, nullptr,      shared(OrganizerText), "show_organizer"},
         {"thumbnails",   BarRow::Panel,   Qt::RightDockWidgetArea, nullptr, nullptr,      shared(ThumbnailsText)},
         {"palette",      BarRow::Panel,   Qt::RightDockWidgetArea, "pal",   "sprites",    shared(PalettesText)},
         {"layers",       BarRow::Panel,   Qt::RightDockWidgetArea, "spr",   "sprites",    shared(LayersText)},

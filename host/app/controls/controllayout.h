@@ -18,6 +18,7 @@ struct BarRow
     const char* menu;   ///< it is shown and hidden with this menu and
     const char* group;  ///< group of `setMenuEnabled()`; null for never
     ActionText title;
+    const char* setting = nullptr;  ///< the setting that shows it, if editors read that too
 };
 
 /// Where tools whose names begin with a prefix stand: a row of the table.

@@ -196,8 +196,12 @@ void FileEditorTest::openFilters_data()
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QString>("open");
     QTest::addColumn<QString>("save");
-    QTest::newRow("none") << "" << "" << "";
-    QTest::newRow("one") << "Blob;.blob" << "Blob (*.blob)" << "Blob (*.blob)";
+    QTest::newRow("none") << ""
+                          << ""
+                          << "";
+    QTest::newRow("one") << "Blob;.blob"
+                         << "Blob (*.blob)"
+                         << "Blob (*.blob)";
     QTest::newRow("two") << "Blob;.blob;T %1;.txt"
                          << "All formats (*.blob *.txt);;Blob (*.blob);;T %1 (*.txt)"
                          << "Blob (*.blob);;T %1 (*.txt)";
@@ -316,8 +320,8 @@ void FileEditorTest::saveAs_data()
     QTest::newRow("copy inside") << "/game/a.txt" << int(Dialogs::Yes) << "/game/a.txt" << in;
     QTest::newRow("no extension") << "/game/a" << int(Dialogs::No) << "/game/a.blob"
                                   << "/game/a.blob";
-    QTest::newRow("foreign extension") << "/game/a.png" << int(Dialogs::Yes) << "/game/a.png.blob"
-                                       << in;
+    QTest::newRow("foreign extension")
+        << "/game/a.png" << int(Dialogs::Yes) << "/game/a.png.blob" << in;
     QTest::newRow("fails") << "/game/in.blob/x" << int(Dialogs::No) << QString() << in;
 }
 

@@ -1,0 +1,181 @@
+#include "app/animationcommands.h"
+
+#include "animation/organizereditor.h"
+#include "core/interface.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodes/animationnode.h"
+#include "operations/animationedits.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QTextBlock>
+
+#include <algorithm>
+
+namespace App {
+
+using Family::AnimationNode;
+using Family::FamilyAnimations;
+using Zorv::CodeNode;
+using Zorv::OrganizerEditor;
+
+namespace {
+
+const QString ListName = QStringLiteral("org_list");
+
+// The first number of a list without numbers is 0.
+const QString BelowFirst = QStringLiteral("-1");
+
+QString newIdentifier(const FamilyAnimations* list)
+{
+    qint64 highest = -1;
+    for (int i = 0; i < list->count(); ++i) {
+        bool isNumber = false;
+        const qint64 number = list->animation(i)->identifier().toLongLong(&isNumber);
+        highest = isNumber ? std::max(highest, number) : highest;
+    }
+    return freeIdentifier(list, highest < 0 ? BelowFirst : QString::number(highest));
+}
+
+// A new animation starts on a line of its own, with an empty one above it.
+int lineEndsBeforeNew(const Family::FamilyDocument* document)
+{
+    const QTextBlock last = document->lastBlock();
+    const bool isAtStart = !last.previous().isValid();
+    if (last.length() > 1) {
+        return 2;
+    }
+    return isAtStart || last.previous().length() == 1 ? 0 : 1;
+}
+
+const CodeNode* animationAt(const Family::FamilyDocument* document, int line)
+{
+    const QTextBlock block = document->findBlockByNumber(line);
+    const CodeNode* node = document->nodeInBlock(block);
+    if (!node) {
+        node = document->nodeBefore(block);
+    }
+    return node->type() == CodeNode::Animation
+               ? node
+               : node->previous(CodeNode::Animation, CodeNode::StopAtCode);
+}
+
+}  // namespace
+
+void AnimationCommands::publish()
+{
+    m_organizer = new OrganizerEditor(this);
+    m_list = Zorv::Interface::instance()->mainWindow()->findChild<QAbstractItemView*>(ListName);
+    if (m_list) {
+        m_list->installEventFilter(this);
+    }
+    connect(m_organizer, &OrganizerEditor::rowActivated, this, &AnimationCommands::requestRow);
+    connect(m_organizer, &OrganizerEditor::currentRowChanged, this,
+            &AnimationCommands::stateChanged);
+    // Edits have taken the cursor of the text to where the animations were.
+    connect(m_organizer, &OrganizerEditor::selectionMoved, this,
+            [this] { requestRow(m_organizer->currentRow()); });
+}
+
+QAbstractItemView* AnimationCommands::list() const
+{
+    return m_list;
+}
+
+void AnimationCommands::setDocument(Family::FamilyDocument* document)
+{
+    m_document = m_organizer ? document : nullptr;
+    if (m_organizer) {
+        m_organizer->setObject(document ? document->animations() : nullptr);
+    }
+}
+
+void AnimationCommands::followCursor(int line)
+{
+    if (!m_document || m_document->isCodeBeingChanged()) {
+        return;
+    }
+    const auto* animation = static_cast<const AnimationNode*>(animationAt(m_document, line));
+    const int row = animation ? m_document->animations()->indexOf(animation) : -1;
+    if (row != m_organizer->currentRow()) {
+        m_organizer->setCurrentRow(row);
+    }
+}
+
+bool AnimationCommands::hasCurrent() const
+{
+    return m_document && m_organizer->currentRow() >= 0;
+}
+
+void AnimationCommands::addNew()
+{
+    if (!m_document) {
+        return;
+    }
+    FamilyAnimations* list = m_document->animations();
+    list->beginChange(tr("Add animation"));
+    for (int ends = lineEndsBeforeNew(m_document); ends > 0; --ends) {
+        m_document->insert(QStringLiteral("\n"));
+    }
+    list->add(newIdentifier(list));
+    list->endChange();
+    requestIdentifier(list->count() - 1);
+}
+
+void AnimationCommands::duplicateCurrent()
+{
+    if (!hasCurrent()) {
+        return;
+    }
+    const int row = m_organizer->currentRow();
+    FamilyAnimations* list = m_document->animations();
+    const QString identifier = freeIdentifier(list, list->animation(row)->identifier());
+    if (list->duplicateAnimation(row, identifier)) {
+        requestIdentifier(row + 1);
+    }
+}
+
+void AnimationCommands::removeSelected()
+{
+    const QVector<int> rows = m_organizer ? m_organizer->selectedRows() : QVector<int>();
+    if (!m_document || rows.isEmpty()) {
+        return;
+    }
+    Family::removeAnimations(m_document->animations(), rows);
+    m_organizer->setCurrentRow(std::min(rows.first(), m_document->animations()->count() - 1));
+}
+
+bool AnimationCommands::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && watched == m_list &&
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Delete)) {
+        removeSelected();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void AnimationCommands::requestRow(int row)
+{
+    if (const AnimationNode* animation =
+            m_document ? m_document->animations()->animation(row) : nullptr) {
+        emit lineRequested(animation->firstLine(), 0, 0);
+    }
+}
+
+void AnimationCommands::requestIdentifier(int row)
+{
+    const AnimationNode* animation = m_document->animations()->animation(row);
+    if (!animation) {
+        return;
+    }
+    const QString identifier = animation->identifier();
+    const int keyword = animation->block().text().indexOf(QLatin1String("animation"));
+    const int column =
+        animation->block().text().indexOf(identifier, keyword + QLatin1String("animation").size());
+    emit lineRequested(animation->firstLine(), std::max(column, 0),
+                       column < 0 ? 0 : identifier.size());
+}
+
+}  // namespace App
