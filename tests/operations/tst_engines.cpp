@@ -1,0 +1,125 @@
+#include "operations/engines.h"
+
+#include "family/project/familyenginemodel.h"
+
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Family;
+using Zorv::EngineInfo;
+
+namespace {
+
+QStringList texts(const QVector<EngineInfo>& engines)
+{
+    QStringList list;
+    for (const EngineInfo& engine : engines) {
+        list << engine.name << engine.executable << engine.parameters << engine.icon;
+    }
+    return list;
+}
+
+}  // namespace
+
+class TestEngines : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void listsComeBack();
+    void settingsOfAnyKind_data();
+    void settingsOfAnyKind();
+    void problems_data();
+    void problems();
+
+private:
+    QTemporaryDir m_dir;
+};
+
+void TestEngines::listsComeBack()
+{
+    const QString fileName = m_dir.filePath("engines.conf");
+    const QVector<EngineInfo> engines = {
+        {"Fight", "/games/a b/fight.exe", "-p1 %1  -s \"%2\", x=1;\\", "/games/fight.png"},
+        {"Übung %0", "relative", "", ""},
+        {"", "", "@Invalid()", ""}};
+    QSettings settings(fileName, QSettings::IniFormat);
+    for (const auto& list : {engines, engines.mid(1, 1), QVector<EngineInfo>(), engines}) {
+        QVERIFY(saveEngines(settings, list));
+        QSettings again(fileName, QSettings::IniFormat);
+        QCOMPARE(texts(loadEngines(again)), texts(list));
+        // Nothing of a longer list is left.
+        QCOMPARE(again.allKeys().size(), list.size() * 4 + 1);
+    }
+    useEngines(settings);
+    QCOMPARE(texts(FamilyEngineModel::instance()->engines()), texts(engines));
+    useEngines(*std::make_unique<QSettings>(m_dir.filePath("none"), QSettings::IniFormat));
+    QCOMPARE(FamilyEngineModel::instance()->engineCount(), 0);
+}
+
+void TestEngines::settingsOfAnyKind_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("count");
+    QTest::newRow("none") << QByteArray() << 0;
+    QTest::newRow("negative") << QByteArray("[engines]\nsize=-5\n1\\name=a\n") << 0;
+    QTest::newRow("no number") << QByteArray("[engines]\nsize=many\n1\\name=a\n") << 0;
+    QTest::newRow("too many") << QByteArray("[engines]\nsize=2000000000\n1\\name=a\n")
+                              << MaxEngines;
+    QTest::newRow("gaps") << QByteArray("[engines]\nsize=3\n3\\name=a\n") << 3;
+}
+
+void TestEngines::settingsOfAnyKind()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, count);
+    QFile file(m_dir.filePath("any.conf"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    file.close();
+    QSettings settings(file.fileName(), QSettings::IniFormat);
+    settings.sync();
+    QCOMPARE(loadEngines(settings).size(), count);
+}
+
+void TestEngines::problems_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("executable");
+    QTest::addColumn<QString>("parameters");
+    QTest::addColumn<QString>("part");
+    const QString program = QCoreApplication::applicationFilePath();
+    QTest::newRow("fine") << "a" << program << "-x %12"
+                          << "";
+    QTest::newRow("default") << "a" << program << defaultEngineParameters() << "";
+    QTest::newRow("no name") << " " << program << "%0"
+                             << "no name";
+    QTest::newRow("no program") << "a"
+                                << ""
+                                << "%0"
+                                << "'a'";
+    QTest::newRow("missing") << "a"
+                             << "/no/such"
+                             << "%0"
+                             << "'/no/such'";
+    QTest::newRow("folder") << "a"
+                            << "/"
+                            << "%0"
+                            << "'/'";
+    QTest::newRow("no mark") << "%2" << program << "50% %x"
+                             << "'%2' ask for no project";
+}
+
+void TestEngines::problems()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, executable);
+    QFETCH(QString, parameters);
+    QFETCH(QString, part);
+    const QString problem = engineProblem({name, executable, parameters, {}});
+    QCOMPARE(problem.isEmpty(), part.isEmpty());
+    QVERIFY2(problem.contains(part), qPrintable(problem));
+}
+
+QTEST_GUILESS_MAIN(TestEngines)
+#include "tst_engines.moc"
