@@ -1,0 +1,148 @@
+#include "app/game/gameopener.h"
+
+#include "app/gamesession.h"
+#include "app/gametree.h"
+#include "app/mainwindow.h"
+#include "app/recentfolders.h"
+#include "app/run/runcommands.h"
+#include "app/statusfields.h"
+#include "app/unsavedwork.h"
+#include "core/dialogs/dialogs.h"
+#include "family/familydocument.h"
+#include "family/project/familyproject.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace App {
+
+using Family::FamilyDocument;
+using Family::FamilyProject;
+
+namespace {
+
+/// The pointer that tells to wait, as long as the object lives. A folder may be
+/// large, and far away.
+class WaitCursor
+{
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+
+private:
+    Q_DISABLE_COPY(WaitCursor)
+};
+
+}  // namespace
+
+GameOpener::GameOpener(MainWindow* window) : QObject(window), m_window(window) {}
+
+bool GameOpener::openPath(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.isFile()) {
+        return openFolder(path);
+    }
+    // The folders of a game stand beside each other: the root is above them.
+    QDir root = info.absoluteDir();
+    for (QDir above = root; above.cdUp();) {
+        if (above.exists(QStringLiteral("characters")) || above.exists(QStringLiteral("stages"))) {
+            root = above;
+            break;
+        }
+    }
+    return openFolder(root.path()) && openFile(info.absoluteFilePath());
+}
+
+bool GameOpener::openFolder(const QString& folder)
+{
+    if (!m_window->runCommands()->mayClose([this, folder] { openFolder(folder); }) ||
+        !askAboutUnsaved(m_window->session()->modifiedDocuments())) {
+        return false;
+    }
+    QString error;
+    bool isOpen = false;
+    {
+        const WaitCursor cursor;
+        isOpen = m_window->session()->openFolder(folder, &error);
+    }
+    if (!isOpen) {
+        Zorv::Dialogs::instance()->error(MainWindow::tr("Open game folder"), error);
+        return false;
+    }
+    RecentFolders::add(folder);
+    m_window->gameTree()->setFocus();
+    return true;
+}
+
+bool GameOpener::openFile(const QString& fileName)
+{
+    FamilyDocument* document = m_window->session()->document(fileName, m_window->currentProject());
+    if (!document && isMainFile(Family::fileKindOf(fileName))) {
+        return openProject(fileName);
+    }
+    if (!document) {
+        document = m_window->session()->document(fileName, m_window->currentProject(), true);
+    }
+    if (!document) {
+        document = openFileOfClosedProject(fileName);
+    }
+    if (!document) {
+        return tellWhyNot(fileName);
+    }
+    m_window->showDocument(document);
+    return true;
+}
+
+FamilyDocument* GameOpener::openFileOfClosedProject(const QString& fileName)
+{
+    QString mainFile;
+    {
+        const WaitCursor cursor;
+        mainFile = m_window->session()->closedProjectOf(fileName);
+    }
+    return !mainFile.isEmpty() && openProject(mainFile)
+               ? m_window->session()->document(fileName, m_window->session()->projectOf(mainFile))
+               : nullptr;
+}
+
+bool GameOpener::openProject(const QString& mainFile)
+{
+    QString error;
+    FamilyProject* project = nullptr;
+    {
+        const WaitCursor cursor;
+        project = m_window->session()->openProject(mainFile, &error);
+    }
+    if (!project) {
+        Zorv::Dialogs::instance()->error(MainWindow::tr("Open project"), error);
+        return false;
+    }
+    m_window->showDocument(project->mainDocument());
+    m_window->gameTree()->reveal(project->fileName());
+    if (!project->loadErrors().isEmpty()) {
+        Zorv::Dialogs::instance()->warning(MainWindow::tr("Open project"),
+                                           project->loadErrors().join(QLatin1Char('\n')));
+    }
+    return true;
+}
+
+bool GameOpener::tellWhyNot(const QString& fileName)
+{
+    const QString shown = m_window->session()->shownPath(fileName);
+    if (QFileInfo::exists(fileName)) {
+        m_window->status()->showField(
+            0,
+            MainWindow::tr("%1 cannot be shown: no project names it as a code file.").arg(shown));
+    } else {
+        Zorv::Dialogs::instance()->warning(
+            MainWindow::tr("Open file"),
+            MainWindow::tr("There is no file %1. Correct the path in the main file of the "
+                           "project, or put the file there.")
+                .arg(shown));
+    }
+    return false;
+}
+
+}  // namespace App
