@@ -14,6 +14,7 @@
 #include "family/project/familyproject.h"
 #include "operations/backups.h"
 #include "operations/documentfile.h"
+#include "operations/sharedfiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -196,12 +197,16 @@ QStringList GameCommands::saveFolderAs(const QString& folder) const
     if (game->openedProjects().size() == 1 && !game->isGame()) {
         second = FamilyProject::create(game, Family::FileKind::Stage);
     }
+    const QString oldRoot = game->absolutePath();
     game->saveAs(folder);
     QStringList failed = game->failedFiles();
     if (second) {
         failed.removeOne(second->title());
         second->release();
         delete second;
+    }
+    if (game->absolutePath() != oldRoot) {
+        failed += Family::moveSharedFiles(game, oldRoot);
     }
     return failed;
 }
