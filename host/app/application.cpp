@@ -9,6 +9,7 @@
 #include "app/windowdialogs.h"
 #include "app/windowinterface.h"
 #include "cli/commanddialogs.h"
+#include "operations/engines.h"
 #include "operations/recovery/sessionfolder.h"
 
 #include <QApplication>
@@ -116,6 +117,7 @@ int runWindow(QApplication&, const QStringList& arguments)
     QSettings settings;
     WindowInterface host(&settings);
     Family::startHost(&host);
+    Family::useEngines(settings);
     applyLook();
     const WindowDialogs dialogs;
     MainWindow window;
