@@ -60,6 +60,8 @@ public:
         writeFile(path("shared/common.code"), "[constants]\r\nlife = 5\r\n");
         writeFile(path("stages/harbour/harbour.stage"), "[info]\r\nname = \"Harbour\"\r\n");
         writeFile(path("backup/old/characters/hero/hero.character"), "[info]\r\n");
+        writeFile(path("zorvs_0-1a2b/characters/hero/hero.character"), "[info]\r\n");
+        writeFile(path("bin/zorvs_1-1a2b/hero.character"), "[info]\r\n");
     }
 
     QString path(const char* name) const { return m_folder.path() + QLatin1Char('/') + name; }

@@ -43,7 +43,8 @@ void collectMainFiles(const QString& folder, int depth, QStringList* files)
     const QStringList folders =
         dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
     for (const QString& name : folders) {
-        if (depth > 0 || (name != QLatin1String("backup") && !isRunFolder(name))) {
+        const bool isBackup = depth == 0 && name == QLatin1String("backup");
+        if (!isBackup && !isRunFolder(name)) {
             collectMainFiles(dir.absoluteFilePath(name), depth + 1, files);
         }
     }
