@@ -112,7 +112,7 @@
         <translation>Si&amp;chern ...</translation>
     </message>
     <message>
-        <source>&amp;Restore backup...</source>
+        <source>Res&amp;tore backup...</source>
         <translation>Sicherung &amp;wiederherstellen ...</translation>
     </message>
     <message>

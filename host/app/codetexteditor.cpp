@@ -29,7 +29,19 @@ CodeTextEditor::CodeTextEditor(MainWindow* window)
 {
     m_action->setObjectName(QStringLiteral("editor_code"));
     connect(m_action, &QAction::triggered, this, [this] { host()->activateEditor(this); });
+    connect(window->tabs(), &DocumentTabs::currentDocumentChanged, this,
+            &CodeTextEditor::followFront);
     retranslate();
+}
+
+void CodeTextEditor::followFront(const Family::FamilyDocument* document)
+{
+    if (document) {
+        activate();
+    } else {
+        deactivate();
+    }
+    emit modified();
 }
 
 QString CodeTextEditor::name() const

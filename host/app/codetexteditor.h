@@ -2,6 +2,10 @@
 
 #include "editors/framework/fileeditor.h"
 
+namespace Family {
+class FamilyDocument;
+}
+
 namespace App {
 
 class CodeEdit;
@@ -41,6 +45,7 @@ public:
     void paste() override;
 
 private:
+    void followFront(const Family::FamilyDocument* document);
     CodeEdit* edit() const;
     void replaceAll(const QString& text, const QString& with, unsigned flags);
 

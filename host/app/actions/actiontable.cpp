@@ -60,7 +60,7 @@ const QVector<ActionRow>& actionTable()
         {"save_all_as",    "file", QT_TRANSLATE_NOOP("App::Actions", "Save all &as..."),        NoKey,        nullptr,        NeedsGame,       onGame<&GameCommands::saveAllAs>},
         {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"backup",         "file", QT_TRANSLATE_NOOP("App::Actions", "&Back up..."),            NoKey,        nullptr,        NeedsGame,       onGame<&GameCommands::makeBackup>},
-        {"restore_backup", "file", QT_TRANSLATE_NOOP("App::Actions", "&Restore backup..."),     NoKey,        nullptr,        NeedsGame,       onGame<&GameCommands::restoreBackup>},
+        {"restore_backup", "file", QT_TRANSLATE_NOOP("App::Actions", "Res&tore backup..."),     NoKey,        nullptr,        NeedsGame,       onGame<&GameCommands::restoreBackup>},
         {nullptr,          "file", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
         {"run",            "file", QT_TRANSLATE_NOOP("App::Actions", "R&un in engine"),         NoKey,        "F5",           NeedsProject | NeedsNoEngine, onEngine<&RunCommands::run>},
         {"stop_engine",    "file", QT_TRANSLATE_NOOP("App::Actions", "&End the engine"),        NoKey,        "Shift+F5",     NeedsEngine,     onEngine<&RunCommands::stop>},
