@@ -198,6 +198,7 @@ void TestWorkRecovery::decisionsAreKept()
     WindowFixture fixture(settings());
     QVERIFY(fixture.window->openPath(m_game->root()));
     WorkRecovery recovery(fixture.window.get(), root());
+    fixture.dialogs.fileAnswers = {{m_game->path("rescued.character")}};
     whenAsked([](RecoveryDialog* dialog) {
         auto* list = dialog->findChild<QTreeWidget*>("texts");
         QCOMPARE(list->topLevelItemCount(), 4);
@@ -209,6 +210,7 @@ void TestWorkRecovery::decisionsAreKept()
         for (const QRadioButton* button : dialog->findChildren<QRadioButton*>()) {
             QCOMPARE(button->isEnabled(), button->text() != "Restore");
         }
+        clickButton(dialog, "Save the copy as...");
         QTest::keyClick(list, Qt::Key_Down);
         clickButton(dialog, "Later");
         clickButton(dialog, "OK");
@@ -221,6 +223,9 @@ void TestWorkRecovery::decisionsAreKept()
     QCOMPARE(left.all().size(), 2);
     QCOMPARE(left.all().first().copy.text, QString("older\n"));
     QCOMPARE(left.all().last().copy.text, QString("later\n"));
+    QCOMPARE(m_game->read("rescued.character"), QByteArray("older\r\n"));
+    QCOMPARE(m_game->read("characters/oda/oda.character"),
+             QByteArray("[info]\r\nname = \"New\"\r\n"));
 }
 
 void TestWorkRecovery::otherGameIsOpened()
