@@ -21,17 +21,24 @@ QFont& inUse()
 QFont fixedFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    const QFontDatabase fonts;
-    if (fonts.isFixedPitch(QFontInfo(font).family())) {
+    if (QFontInfo(font).fixedPitch()) {
         return font;
     }
+    font.setFamily(QStringLiteral("monospace"));
+    font.setStyleHint(QFont::Monospace);
+    if (QFontInfo(font).fixedPitch()) {
+        return font;
+    }
+    // All fonts are looked at, which takes a while.
+    const QFontDatabase fonts;
     const QStringList families = fonts.families(QFontDatabase::Latin);
     const auto found =
         std::find_if(families.begin(), families.end(), [&fonts](const QString& family) {
             return fonts.isFixedPitch(family) && fonts.isSmoothlyScalable(family);
         });
-    font.setFamily(found == families.end() ? QStringLiteral("monospace") : *found);
-    font.setStyleHint(QFont::Monospace);
+    if (found != families.end()) {
+        font.setFamily(*found);
+    }
     return font;
 }
 
