@@ -3,6 +3,7 @@
 #include "core/archive.h"
 #include "core/files.h"
 #include "core/filesystemarchive.h"
+#include "core/interface.h"
 #include "familydocument.h"
 #include "nodes/groupnode.h"
 #include "nodes/valuenode.h"
@@ -47,11 +48,27 @@ QString newText(FileKind kind)
         .arg(FamilyProject::tr("New character"));
 }
 
+/// A document by itself always has its colours and problems; in a project that is the person's
+/// choice, as far as the host has a setting for it.
+void followSetting(Zorv::CodeDocument* document)
+{
+    const QString key = QStringLiteral("highlightCode");
+    const Zorv::Interface* host = Zorv::Interface::instance();
+    if (host && host->option(key).isValid()) {
+        document->setOption(key, {}, false, false);
+        document->project()->setOption(key, {}, false);
+        if (!document->hasSyntaxHighlight()) {
+            document->reparse();
+        }
+    }
+}
+
 }  // namespace
 
 FamilyProject::FamilyProject(FamilyParentProject* parent, FamilyDocument* mainDocument)
     : Project(parent, mainDocument, FileID::MainCode)
 {
+    followSetting(mainDocument);
 }
 
 FamilyProject* FamilyProject::open(FamilyParentProject* parent, const QString& mainFile,
@@ -135,7 +152,9 @@ void FamilyProject::loadFiles()
         known.insert(path);
         auto document = std::make_unique<FamilyDocument>(kindOfType(reference.type));
         if (document->fromFile(*archive(), path, false)) {
-            addFile(document.release(), reference.type);
+            FamilyDocument* added = document.release();
+            addFile(added, reference.type);
+            followSetting(added);
         } else {
             m_loadErrors.append(document->errorString());
         }
@@ -154,6 +173,7 @@ Zorv::ProjectFile* FamilyProject::newFile(FileID::Type type)
     }
     auto* document = new FamilyDocument(kindOfType(type));
     addFile(document, type);
+    followSetting(document);
     return document;
 }
 
