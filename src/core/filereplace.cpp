@@ -138,19 +138,6 @@ void syncFolder(const QString& folder)
 #endif
 }
 
-void startSync(const QString& fileName)
-{
-#ifdef Q_OS_LINUX
-    const int handle = ::open(QFile::encodeName(fileName).constData(), O_RDONLY | O_CLOEXEC);
-    if (handle >= 0) {
-        ::sync_file_range(handle, 0, 0, SYNC_FILE_RANGE_WRITE);
-        ::close(handle);
-    }
-#else
-    Q_UNUSED(fileName)
-#endif
-}
-
 void syncDisk(const QString& folder)
 {
 #ifdef Q_OS_LINUX

@@ -25,9 +25,6 @@ void takeOwnerAndMode(QFile& file, const QString& from);
 bool syncFile(QFile& file, QString* reason);
 void syncFolder(const QString& folder);
 
-/// Lets a file begin its way to the disk, without waiting for it.
-void startSync(const QString& fileName);
-
 /// Waits until all that was written to the disk of a folder has reached it.
 void syncDisk(const QString& folder);
 

@@ -1,7 +1,5 @@
 #include "core/lazysync_p.h"
 
-#include "core/filereplace_p.h"
-
 namespace Zorv {
 
 namespace {
@@ -19,9 +17,6 @@ LazySync::LazySync()
 
 LazySync::~LazySync()
 {
-    for (const QString& name : qAsConst(m_files)) {
-        FileReplace::startSync(name);
-    }
     if (s_current == this) {
         s_current = nullptr;
     }
@@ -30,11 +25,6 @@ LazySync::~LazySync()
 LazySync* LazySync::current()
 {
     return s_current;
-}
-
-void LazySync::add(const QString& fileName)
-{
-    m_files.append(fileName);
 }
 
 bool LazySync::isNewFolder(const QString& folder)

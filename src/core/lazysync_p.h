@@ -1,14 +1,14 @@
 #pragma once
 
 #include <QSet>
-#include <QStringList>
+#include <QString>
 
 namespace Zorv {
 
 /// While it lives, nobody waits for new files to reach the disk: they are copies
 /// of what is there, and waiting would take many times as long as the copying.
 ///
-/// At its end the files are on their way. A file that takes the place of another
+/// The system writes them in its own time. A file that takes the place of another
 /// is not concerned: the old content never goes before the new one is safe. Main
 /// thread only; one inside of another does nothing.
 class LazySync
@@ -21,9 +21,6 @@ public:
 
     /// The one in effect, or null.
     static LazySync* current();
-
-    /// Takes over a file that has just been written.
-    void add(const QString& fileName);
 
     /// True the first time that a folder is named.
     bool isNewFolder(const QString& folder);
@@ -42,7 +39,6 @@ public:
     };
 
 private:
-    QStringList m_files;
     QSet<QString> m_folders;
 };
 

@@ -257,8 +257,8 @@ bool SafeFile::writeOut(const char* data, qint64 size)
 bool SafeFile::replaceTarget()
 {
     QString reason;
-    LazySync* lazy = m_targetExists ? nullptr : LazySync::current();
-    bool done = lazy || FileReplace::syncFile(m_file, &reason);
+    const bool waits = m_targetExists || !LazySync::current();
+    bool done = !waits || FileReplace::syncFile(m_file, &reason);
     if (done) {
         m_file.close();
         done = m_file.error() == QFile::NoError;
@@ -270,9 +270,7 @@ bool SafeFile::replaceTarget()
         return false;
     }
     m_file.setFileName({});
-    if (lazy) {
-        lazy->add(m_target);
-    } else {
+    if (waits) {
         FileReplace::syncFolder(QFileInfo(m_target).absolutePath());
     }
     return true;
