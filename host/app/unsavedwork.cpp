@@ -66,6 +66,17 @@ bool haveOneText(const QList<FamilyDocument*>& documents)
                        [&text](const auto* document) { return document->text() == text; });
 }
 
+/// The documents of each file; those without a file are left out.
+QMap<QString, QList<FamilyDocument*>> byFileName(const QList<FamilyDocument*>& documents)
+{
+    QMap<QString, QList<FamilyDocument*>> result;
+    for (FamilyDocument* document : documents) {
+        result[document->fileName()].append(document);
+    }
+    result.remove(QString());
+    return result;
+}
+
 /// The place of the document to save; -1 if the person gives up.
 int chooseTwin(const QList<FamilyDocument*>& documents)
 {
@@ -85,12 +96,8 @@ int chooseTwin(const QList<FamilyDocument*>& documents)
 /// different texts, and tells them apart in `twins`. False if the person gives up.
 bool settleTwins(QList<FamilyDocument*>* documents, QList<Twins>* twins)
 {
-    QMap<QString, QList<FamilyDocument*>> byFile;
-    for (FamilyDocument* document : qAsConst(*documents)) {
-        byFile[document->fileName()].append(document);
-    }
-    byFile.remove(QString());
-    for (QList<FamilyDocument*> sharing : qAsConst(byFile)) {
+    const QMap<QString, QList<FamilyDocument*>> byFile = byFileName(*documents);
+    for (QList<FamilyDocument*> sharing : byFile) {
         if (haveOneText(sharing)) {
             continue;
         }
@@ -176,11 +183,7 @@ bool saveDocuments(QList<FamilyDocument*> documents)
 
 QString fileWithTwoTexts(const QList<FamilyDocument*>& documents)
 {
-    QMap<QString, QList<FamilyDocument*>> byFile;
-    for (FamilyDocument* document : documents) {
-        byFile[document->fileName()].append(document);
-    }
-    byFile.remove(QString());
+    const QMap<QString, QList<FamilyDocument*>> byFile = byFileName(documents);
     for (auto it = byFile.constBegin(); it != byFile.constEnd(); ++it) {
         if (!haveOneText(it.value())) {
             return it.key();

@@ -1,5 +1,6 @@
 #include "app/recovery/recoverydialog.h"
 
+#include "app/look/codefont.h"
 #include "core/dialogs/dialogs.h"
 #include "operations/textdiff.h"
 
@@ -7,7 +8,6 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -128,7 +128,7 @@ void RecoveryDialog::makeList()
     m_state->setTextFormat(Qt::PlainText);
     m_diff->setReadOnly(true);
     m_diff->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_diff->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_diff->setFont(codeFont());
     m_diff->setAccessibleName(tr("Comparison of the file and the unsaved text"));
     new DiffColours(m_diff);
 }

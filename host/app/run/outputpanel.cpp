@@ -1,8 +1,9 @@
 #include "app/run/outputpanel.h"
 
+#include "app/look/codefont.h"
+
 #include <QClipboard>
 #include <QEvent>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLocale>
@@ -44,10 +45,10 @@ OutputPanel::OutputPanel(QWidget* parent)
     m_edit->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_edit->setMaximumBlockCount(MaxLines);
     m_edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_edit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setFocusProxy(m_edit);
     makeBar();
     retranslate();
+    reconfig();
     m_timer.setInterval(Turn);
     connect(&m_timer, &QTimer::timeout, this, &OutputPanel::showSome);
 }
@@ -78,6 +79,11 @@ void OutputPanel::retranslate()
     m_clear->setText(tr("Clear"));
     m_clear->setToolTip(tr("Remove all lines"));
     m_edit->setAccessibleName(tr("Engine output"));
+}
+
+void OutputPanel::reconfig()
+{
+    m_edit->setFont(codeFont());
 }
 
 void OutputPanel::changeEvent(QEvent* event)

@@ -34,6 +34,9 @@ public:
     void clear();
     void copyAll() const;
 
+    /// Settings have changed.
+    void reconfig();
+
     /// What is shown.
     QString text() const;
 

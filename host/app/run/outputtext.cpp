@@ -33,13 +33,12 @@ Sequence readCharacter(const QByteArray& bytes, int at, uint* code, int* length)
     return isTooLong || *code > 0x10FFFF || QChar::isSurrogate(*code) ? Wrong : Whole;
 }
 
+/// As terminals show control characters: "^[".
 QString signOf(uint code)
 {
-    if (code < 0x20) {
-        return QString(QChar(0x2400 + code));  // the pictures of control characters
-    }
-    return code == 0x7F ? QString(QChar(0x2421))
-                        : QStringLiteral("<U+%1>").arg(code, 4, 16, QLatin1Char('0')).toUpper();
+    return code < 0x20 || code == 0x7F
+               ? QLatin1Char('^') + QString(QChar(code ^ 0x40))
+               : QStringLiteral("<U+%1>").arg(code, 4, 16, QLatin1Char('0')).toUpper();
 }
 
 bool doesSomething(uint code)

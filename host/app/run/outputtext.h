@@ -9,8 +9,8 @@ namespace App {
 ///
 /// The bytes are taken as UTF-8; those that are none are shown as "\xE4". Line
 /// feeds, also behind a carriage return, and tabs are what they are; any other
-/// character that would do something is shown as a sign: a program may print
-/// what it likes. Lines are broken at `MaxLine` characters.
+/// character that would do something is shown as a sign, "^[" or "<U+202E>": a program
+/// may print what it likes. Lines are broken at `MaxLine` characters.
 class OutputText
 {
 public:

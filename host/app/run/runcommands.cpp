@@ -40,6 +40,7 @@ RunCommands::RunCommands(MainWindow* window)
     : QObject(window), m_window(window), m_panel(new OutputPanel)
 {
     connect(window->session(), &GameSession::folderOpened, this, &RunCommands::followGame);
+    connect(window, &MainWindow::reconfigured, m_panel, &OutputPanel::reconfig);
 }
 
 void RunCommands::followGame()
