@@ -881,6 +881,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Dunkel</translation>
     </message>
     <message>
+        <source>Show the &amp;organizer</source>
+        <translation>&amp;Organisator zeigen</translation>
+    </message>
+    <message>
+        <source>A panel in which animations, sprites and sounds are put in order</source>
+        <translation>Eine Leiste, in der Animationen, Sprites und Klänge geordnet werden</translation>
+    </message>
+    <message>
         <source>Look</source>
         <translation>Aussehen</translation>
     </message>
@@ -1870,6 +1878,19 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Cannot write %1.%2</source>
         <translation>%1 kann nicht geschrieben werden.%2</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::Dialogs</name>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 gibt es schon.
+Soll die Datei ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>Datei ersetzen?</translation>
     </message>
 </context>
 <context>

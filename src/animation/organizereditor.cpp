@@ -168,7 +168,9 @@ OrganizerEditorPrivate::State OrganizerEditorPrivate::state() const
         first = std::min(first, range.top());
         last = std::max(last, range.bottom());
     }
-    return {q->currentRow(), last >= selected, selected > 0 && first<count - selected, count> 1};
+    const bool canGoUp = last >= selected;
+    const bool canGoDown = selected > 0 && first + selected < count;
+    return {q->currentRow(), canGoUp, canGoDown, count > 1};
 }
 
 void OrganizerEditorPrivate::tellState()
