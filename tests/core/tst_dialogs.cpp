@@ -2,6 +2,7 @@
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
 
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -122,6 +123,70 @@ private slots:
         PlannedDialogs dialogs;
         dialogs.fileAnswers = {{QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("B")}};
         QTEST(getOpenFileNames(nullptr, {}, {}, {}), "names");
+    }
+
+    void extensions_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QString>("name");
+        const QString pair = QStringLiteral("Blob (old) (*.blob);;T (*.txt *.md)");
+        QTest::newRow("none") << "new" << pair << "new.blob";
+        QTest::newRow("foreign") << "new.png" << pair << "new.png.blob";
+        QTest::newRow("one of them") << "new.md" << pair << "new.md";
+        QTest::newRow("another case") << "new.TXT" << pair << "new.TXT";
+        QTest::newRow("any") << "new"
+                             << "Any (*)"
+                             << "new";
+        QTest::newRow("no filter") << "new"
+                                   << ""
+                                   << "new";
+    }
+
+    void extensions()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, filter);
+        QFETCH(QString, name);
+        const QTemporaryDir dir;
+        whenOpen<QFileDialog>([&](QFileDialog* dialog) {
+            dialog->selectFile(dir.filePath(typed));
+            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
+        });
+        QCOMPARE(Dialogs::instance()->saveFileName(nullptr, {}, dir.path(), filter),
+                 dir.filePath(name));
+    }
+
+    // What is typed without its extension may be the name of a file.
+    void asksBeforeItReplaces()
+    {
+        const QTemporaryDir dir;
+        QFile file(dir.filePath("work.blob"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const auto accept = [&dir](QFileDialog* dialog) {
+            dialog->selectFile(dir.filePath("work"));
+            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
+        };
+        QStringList asked;
+        const auto answer = [&](QMessageBox::StandardButton button,
+                                const std::function<void()>& then) {
+            whenOpen<QMessageBox>([&asked, button, then](QMessageBox* box) {
+                asked.append(box->text());
+                then();
+                box->button(button)->click();
+            });
+        };
+        answer(QMessageBox::No, [&] {
+            whenOpen<QFileDialog>([&](QFileDialog* again) {
+                answer(QMessageBox::Yes, [] {});
+                accept(again);
+            });
+        });
+        whenOpen<QFileDialog>(accept);
+        QCOMPARE(Dialogs::instance()->saveFileName(nullptr, {}, dir.path(), "Blob (*.blob)"),
+                 file.fileName());
+        QCOMPARE(asked.size(), 2);
+        QVERIFY(asked.first().contains(file.fileName()));
     }
 
     void replacedDialogsComeBack()

@@ -4,10 +4,13 @@
 #include "core/interface.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -81,6 +84,31 @@ QWidget* orMainWindow(QWidget* parent)
     return parent ? parent : mainWindow();
 }
 
+/// A name with the first extension of a filter, if it ends in none of them.
+QString withExtension(const QString& name, const QString& filter)
+{
+    static const QRegularExpression pattern(QStringLiteral("[( ]\\*([^ )]*)(?=[^(]*\\))"));
+    QStringList extensions;
+    for (auto matches = pattern.globalMatch(filter); matches.hasNext();) {
+        extensions.append(matches.next().captured(1));
+    }
+    const bool hasExtension =
+        std::any_of(extensions.cbegin(), extensions.cend(), [&name](const QString& extension) {
+            return name.endsWith(extension, Qt::CaseInsensitive);
+        });
+    return hasExtension ? name : name + extensions.value(0);
+}
+
+bool mayReplace(const QString& fileName)
+{
+    const QString text = QCoreApplication::translate(
+                             "Zorv::Dialogs", "%1 already exists.\nDo you want to replace it?")
+                             .arg(QDir::toNativeSeparators(fileName));
+    return Dialogs::instance()->warning(
+               QCoreApplication::translate("Zorv::Dialogs", "Replace the file?"), text,
+               Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
+}
+
 }  // namespace
 
 Dialogs::~Dialogs() = default;
@@ -149,8 +177,21 @@ QStringList Dialogs::openFileNames(QWidget* parent, const QString& caption, cons
 QString Dialogs::saveFileName(QWidget* parent, const QString& caption, const QString& dir,
                               const QString& filter)
 {
-    return canShow() ? QFileDialog::getSaveFileName(orMainWindow(parent), caption, dir, filter)
-                     : QString();
+    QString start = dir;
+    while (canShow()) {
+        const QString name =
+            QFileDialog::getSaveFileName(orMainWindow(parent), caption, start, filter);
+        if (name.isEmpty()) {
+            break;
+        }
+        // The dialog has asked about the name as it was typed.
+        const QString full = withExtension(name, filter);
+        if (full == name || !QFileInfo::exists(full) || mayReplace(full)) {
+            return full;
+        }
+        start = full;
+    }
+    return {};
 }
 
 QString Dialogs::existingFolder(QWidget* parent, const QString& caption, const QString& dir)

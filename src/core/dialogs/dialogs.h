@@ -57,6 +57,9 @@ public:
                                  const QString& filter);
     virtual QStringList openFileNames(QWidget* parent, const QString& caption, const QString& dir,
                                       const QString& filter);
+
+    /// As above. A name that ends in none of the extensions of `filter` gets the
+    /// first of them; the person is asked before a file of that name is replaced.
     virtual QString saveFileName(QWidget* parent, const QString& caption, const QString& dir,
                                  const QString& filter);
 
