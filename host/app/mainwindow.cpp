@@ -282,7 +282,6 @@ void MainWindow::forgetProject(FamilyProject* project)
 void MainWindow::gameChanged()
 {
     m_tabs->updateTabs();
-    m_gameTree->setGame(m_session->game());
     m_status->setDocument(m_tabs->currentDocument());
     updateMessages();
     updateSoon();

@@ -112,6 +112,8 @@ void TestGameCommands::backupGoesThereAndBack()
     QCOMPARE(folders.size(), 1);
     QVERIFY(folders.first().endsWith("_first try"));
 
+    App::GameTree* projects = w().window->gameTree();
+    projects->expand(projects->indexOf(m_game->path("characters/ryn/")));
     w().type("; two ");
     w().action("save")->trigger();
     m_game->write("characters/oda/oda.character", "[info]\r\n");
@@ -127,6 +129,7 @@ void TestGameCommands::backupGoesThereAndBack()
         QCOMPARE(changed,
                  QStringList({"characters/oda/oda.character", "characters/ryn/basic.anim"}));
     });
+    QVERIFY(projects->isExpanded(projects->indexOf(m_game->path("characters/ryn/"))));
     QCOMPARE(w().document()->text(), unsaved);
     QVERIFY(!w().document()->isModified());
     QCOMPARE(m_game->read("characters/oda/oda.character"), oda);

@@ -4,6 +4,7 @@
 #include "app/game/backupnamedialog.h"
 #include "app/game/restoredialog.h"
 #include "app/gamesession.h"
+#include "app/gametree.h"
 #include "app/mainwindow.h"
 #include "app/recentfolders.h"
 #include "app/statusfields.h"
@@ -233,6 +234,11 @@ void GameCommands::saveAllAs()
     const QString failed = paragraph(tr("These files could not be written:"), failedFiles);
     if (hasMoved) {
         RecentFolders::add(game->absolutePath());
+        // What the tree had open are paths of the old place.
+        m_window->gameTree()->setGame(game);
+        if (const FamilyProject* project = m_window->currentProject()) {
+            m_window->gameTree()->reveal(project->fileName());
+        }
         m_window->status()->showField(0, tr("All is saved in %1.").arg(shown));
     } else if (game->wasCanceled()) {
         m_window->status()->showField(0, tr("Given up; the work goes on in %1.").arg(shown));
