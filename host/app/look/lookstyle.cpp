@@ -6,7 +6,28 @@
 
 namespace App {
 
+namespace {
+
+constexpr int IconSize = 16;  // twice as many pixels on a screen at 2x
+
+}  // namespace
+
 LookStyle::LookStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                           const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_ToolBarIconSize:
+    case PM_ListViewIconSize:
+    case PM_SmallIconSize:
+    case PM_ButtonIconSize:
+    case PM_TabBarIconSize:
+        return IconSize;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
 
 void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const

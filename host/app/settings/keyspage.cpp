@@ -16,6 +16,12 @@
 
 namespace App {
 
+namespace {
+
+constexpr int KeyWidth = 130;  // of the columns beside that of the actions
+
+}  // namespace
+
 KeysPage::KeysPage(ActionRegistry* registry, QWidget* parent)
     : SettingsPage(parent), m_keys(new KeyTable(registry, this)),
       m_found(new QSortFilterProxyModel(this)), m_filter(new QLineEdit(this)),
@@ -46,8 +52,9 @@ void KeysPage::makeTable()
     m_table->setUniformRowHeights(true);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->header()->setSectionResizeMode(KeyTable::ActionColumn, QHeaderView::Stretch);
-    m_table->header()->setSectionResizeMode(KeyTable::KeyColumn, QHeaderView::ResizeToContents);
-    m_table->header()->setStretchLastSection(true);
+    m_table->header()->setStretchLastSection(false);
+    m_table->header()->resizeSection(KeyTable::KeyColumn, KeyWidth);
+    m_table->header()->resizeSection(KeyTable::ClashColumn, KeyWidth);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &KeysPage::showKey);
     connect(m_keys, &QAbstractItemModel::modelReset, this, &KeysPage::showKey);
