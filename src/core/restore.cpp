@@ -12,6 +12,8 @@
 #include "core/progress_p.h"
 #include "core/projectfile.h"
 
+#include <memory>
+
 namespace Zorv {
 
 namespace {
@@ -65,7 +67,7 @@ private:
 void ParentProjectPrivate::copyBackup(const QString& source)
 {
     const Projects opened = openProjects();
-    const WatchPause pause(opened);
+    auto pause = std::make_unique<WatchPause>(opened);
     QStringList files;
     listFiles(source, files);
     Progress progress(ParentProject::tr("Restoring backup..."), files.size() + opened.size());
@@ -90,6 +92,7 @@ void ParentProjectPrivate::copyBackup(const QString& source)
         }
         progress.step();
     }
+    pause.reset();
 }
 
 bool ParentProject::restoreBackup(const QString& folderName)

@@ -10,6 +10,7 @@
 #include "core/projectfile.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <vector>
@@ -111,6 +112,8 @@ bool ParentProjectPrivate::writeProject(Project& project, const QString& path,
         addFailedFiles(project, place);
     }
     ProjectFile* main = project.file(FileID::MainCode);
+    const LazySync::Exception waits(main &&
+                                    (main->isModified() || !QFile::exists(main->fileName())));
     const bool isWritten = main && forcePath(mainFile) &&
                            main->toFile(*FileSystemArchive::instance(), mainFile, false);
     if (!isWritten) {

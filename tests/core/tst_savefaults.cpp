@@ -1,8 +1,10 @@
 #include "core/files.h"
 #include "core/filesystemarchive.h"
 #include "support/faultshim.h"
+#include "support/testproject.h"
 
 #include <QTemporaryDir>
+#include <QTextCursor>
 #include <QtTest>
 
 #include <cerrno>
@@ -242,6 +244,21 @@ private slots:
     }
 
     // What could not be read whole does not replace what is there.
+    // Text that was never saved is nowhere else: it must be on the disk before it counts as saved.
+    void newPlaceWaitsForUnsavedText()
+    {
+        TestParent parent(folder->filePath("game"));
+        TestProject* project = parent.open("hero.code", "old");
+        auto* document = static_cast<CodeDocument*>(project->file(FileID::MainCode));
+        QVERIFY(document->toFile(*FileSystemArchive::instance(), document->fileName(), false));
+        QTextCursor(document).insertText("new");
+        faultArm("new place", FaultSync, 1, EIO, 0);
+        parent.saveAs(folder->filePath("new place/hero.code"));
+        QCOMPARE(parent.failedFiles(), QStringList("hero.code"));
+        QVERIFY(document->isModified());
+        QCOMPARE(document->fileName(), folder->filePath("game/hero.code"));
+    }
+
     void copyOfABrokenSource()
     {
         FileSystemArchive& archive = *FileSystemArchive::instance();
@@ -291,5 +308,5 @@ private:
     QString path;
 };
 
-QTEST_GUILESS_MAIN(TestSaveFaults)
+QTEST_MAIN(TestSaveFaults)
 #include "tst_savefaults.moc"
