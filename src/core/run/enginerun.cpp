@@ -123,13 +123,14 @@ bool EngineRun::chooseEngine(EngineModel* engines)
     const QString lastKey = QStringLiteral("last_") + engines->identifier();
     // One engine needs no choice; the row that counts as chosen is the first all the same.
     const int row = count == 1 ? 0 : askForRow(engines, hostOption(lastKey).toUInt());
-    if (row < 0 || !m_tree) {
+    const EngineModel* now = m_tree ? m_tree->model->engineModel() : nullptr;
+    if (row < 0 || !now) {
         m_result.outcome = RunResult::GivenUp;
         keepResult();
         return false;
     }
     setHostOption(lastKey, row);
-    const EngineInfo engine = m_tree->model->engineModel()->engine(unsigned(row));
+    const EngineInfo engine = now->engine(unsigned(row));
     m_executable = engine.executable;
     m_parameters = engine.parameters;
     return true;
@@ -186,6 +187,7 @@ bool EngineRun::writeCopy(Project* project, const QString& folder, const QString
     const QString place = placeOf(project);
     const QString mainName = QFileInfo(project->fileName()).fileName();
     const QPointer<Project> alive = project;
+    QStringList failed;
     bool isNamed = false;
     const LazySync lazy;
     if (mainName.isEmpty()) {
@@ -195,9 +197,9 @@ bool EngineRun::writeCopy(Project* project, const QString& folder, const QString
         project->saveAll(folder, true, nullptr);
         isNamed =
             mainName == name || QFile::rename(folder + place + mainName, folder + place + name);
+        failed = alive ? project->failedFiles() : QStringList();
     }
-    const QStringList failed = alive ? project->failedFiles() : QStringList();
-    for (const QString& file : failed) {
+    for (const QString& file : qAsConst(failed)) {
         m_result.failedFiles.append(QDir::cleanPath(place + file));
     }
     if (!isNamed && !failed.contains(mainName)) {
