@@ -101,6 +101,9 @@ int finish(const BackupResult& result, Output& output)
         complain(result.error);
     }
     if (result.isCanceled) {
+        if (result.error.isEmpty()) {
+            complain(Text::tr("Given up. Nothing has changed."));
+        }
         return NotedSignals::exitStatus();
     }
     return result.error.isEmpty() ? Fine : NotDone;

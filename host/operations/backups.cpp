@@ -92,6 +92,14 @@ void sortFailures(const FamilyParentProject& game, const QStringList& files, Bac
     }
 }
 
+/// The folder that the last backup of the game could not make; empty if it could.
+QString folderNotMade(const FamilyParentProject& game)
+{
+    const QString first = game.failedFiles().value(0);
+    const bool isFolder = first.startsWith(QLatin1String("backup/"));
+    return isFolder && !QFileInfo(game.absolutePath() + first).isDir() ? first : QString();
+}
+
 /// The youngest backup of a name.
 QString youngest(const FamilyParentProject& game, const QString& name)
 {
@@ -249,39 +257,36 @@ BackupResult makeBackup(FamilyParentProject* game, const QString& name)
     }
     const QStringList before = game->backups();
     game->backup(name);
-    result.isCanceled = game->wasCanceled();
-    result.folder = youngest(*game, name);
     const QStringList failed = game->failedFiles();
-    const bool hasFolder = failed.isEmpty() ||
-                           !failed.first().startsWith(QLatin1String("backup/")) ||
-                           QFileInfo(game->absolutePath() + failed.first()).isDir();
-    if (!hasFolder || result.folder.isEmpty()) {
-        result.folder.clear();
+    const QString unmade = folderNotMade(*game);
+    const QString made = unmade.isEmpty() ? youngest(*game, name) : QString();
+    result.isCanceled = game->wasCanceled();
+    if (made.isEmpty()) {
         result.error =
             Text::tr("Cannot make the folder %1. Check that there is space on the disk and "
                      "that the folder of the game may be written to.")
-                .arg(QDir::toNativeSeparators(game->absolutePath() + failed.value(0)));
+                .arg(QDir::toNativeSeparators(game->absolutePath() + unmade));
         return result;
     }
-    const QString folder = folderOf(*game, result.folder);
     if (result.isCanceled) {
         // Half a backup would be taken for a whole one.
-        if (!before.contains(result.folder)) {
-            QDir(folder).removeRecursively();
+        if (!before.contains(made)) {
+            QDir(folderOf(*game, made)).removeRecursively();
         }
-        result.folder.clear();
         return result;
     }
+    result.folder = made;
     sortFailures(*game, failed, &result);
     for (const FamilyProject* project : openProjectsOf(*game)) {
-        sortFailures(*game, addToBackup(*game, sharedFiles(*project), folder), &result);
+        const QStringList files = sharedFiles(*project);
+        sortFailures(*game, addToBackup(*game, files, folderOf(*game, made)), &result);
     }
     result.failed.removeDuplicates();
     result.missing.removeDuplicates();
     if (!result.failed.isEmpty()) {
         result.error = Text::tr("The backup '%1' is not complete. Check that there is space on the "
                                 "disk and that all files may be read, then make another backup.")
-                           .arg(result.folder);
+                           .arg(made);
     }
     return result;
 }

@@ -172,8 +172,9 @@ public:
     /// Saves everything under a new place, where the work goes on. With one open
     /// project that belongs to no game `newRoot` is the new name of its main file;
     /// else it is a folder, with "/" at its end, and all projects of the game go
-    /// there, open or not. Stays where it is if a file of an open project could
-    /// not be written there.
+    /// there, open or not. If a file of an open project cannot be written there, or
+    /// the person gives up, the root stays, documents know their old files again,
+    /// and what was written stays at the new place.
     void saveAs(const QString& newRoot);
 
     /// What the last of these could not write or copy: paths relative to the
