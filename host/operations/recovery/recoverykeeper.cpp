@@ -191,8 +191,11 @@ void RecoveryKeeper::Private::documentChanged(FamilyDocument* document)
 
 void RecoveryKeeper::Private::startTimer()
 {
+    if (timer.isActive()) {
+        return;
+    }
     const int interval = q->interval();
-    if (!timer.isActive() && interval > 0) {
+    if (interval > 0) {
         timer.start(interval);
     }
 }
