@@ -1,3 +1,4 @@
+#include "app/application.h"
 #include "app/look/icon.h"
 #include "app/look/theme.h"
 #include "windowfixture.h"
@@ -35,6 +36,19 @@ double contrast(const QColor& first, const QColor& second)
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
+bool isBright(const QImage& picture)
+{
+    int bright = 0;
+    int all = 0;
+    for (int y = 0; y < picture.height(); y += 3) {
+        for (int x = 0; x < picture.width(); x += 3) {
+            ++all;
+            bright += qGray(picture.pixel(x, y)) > 127 ? 1 : 0;
+        }
+    }
+    return bright * 4 > all * 3;
+}
+
 }  // namespace
 
 /// Light and dark: can everything be read, and does all of the window change?
@@ -52,6 +66,7 @@ private slots:
     void iconsAreSharp();
     void kindOfSetting();
     void changesWhileRunning();
+    void picturesTakeThemes();
 };
 
 /// The measure itself, at values that the guidelines give.
@@ -207,15 +222,6 @@ void tst_Theme::changesWhileRunning()
         QTest::qWait(400);  // panels follow a little later
         return fixture.window->grab().toImage();
     };
-    const auto isBright = [&](const QImage& picture) {
-        qint64 sum = 0;
-        for (int y = 0; y < picture.height(); y += 3) {
-            for (int x = 0; x < picture.width(); x += 3) {
-                sum += qGray(picture.pixel(x, y)) > 127 ? 1 : -1;
-            }
-        }
-        return sum > picture.width() * picture.height() / 9 / 2;
-    };
     const auto colours = [&] {
         QSet<QRgb> found;
         for (QTextBlock block = fixture.document()->begin(); block.isValid();
@@ -239,6 +245,19 @@ void tst_Theme::changesWhileRunning()
     fixture.host.setOption(QStringLiteral("theme"), QStringLiteral("light"));
     fixture.window->reconfig();
     QTRY_COMPARE(fixture.window->grab().toImage(), light);
+}
+
+void tst_Theme::picturesTakeThemes()
+{
+    const QTemporaryDir folder;
+    const TemporaryGame game;
+    const QString file = folder.filePath("picture.png");
+    for (const char* theme : {"dark", "light"}) {
+        QCOMPARE(App::runWindow(*qApp, {"--screenshot", file, "--theme", theme, game.root()}), 0);
+        QCOMPARE(isBright(QImage(file)), qstrcmp(theme, "light") == 0);
+    }
+    QCOMPARE(App::runWindow(*qApp, {"--screenshot", file, "--theme"}), 2);
+    QCOMPARE(App::runWindow(*qApp, {"--theme", "dark"}), 2);
 }
 
 QTEST_MAIN(tst_Theme)
