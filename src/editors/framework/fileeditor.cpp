@@ -192,9 +192,11 @@ bool FileEditor::saveFileAs(ProjectFile* file, FileEditor* editor, Interface* in
     if (fileName.isEmpty()) {
         return false;
     }
-    const bool hasExtension =
-        std::any_of(filters.extensions.begin(), filters.extensions.end(),
-                    [&fileName](const QString& extension) { return fileName.endsWith(extension); });
+    // As in the dialog, which has asked about a file of this name.
+    const bool hasExtension = std::any_of(
+        filters.extensions.begin(), filters.extensions.end(), [&](const QString& extension) {
+            return fileName.endsWith(extension, Qt::CaseInsensitive);
+        });
     if (!hasExtension) {
         fileName += filters.extensions.first();
     }

@@ -320,6 +320,7 @@ void FileEditorTest::saveAs_data()
     QTest::newRow("copy inside") << "/game/a.txt" << int(Dialogs::Yes) << "/game/a.txt" << in;
     QTest::newRow("no extension") << "/game/a" << int(Dialogs::No) << "/game/a.blob"
                                   << "/game/a.blob";
+    QTest::newRow("in capitals") << "/game/A.TXT" << int(Dialogs::Yes) << "/game/A.TXT" << in;
     QTest::newRow("foreign extension")
         << "/game/a.png" << int(Dialogs::Yes) << "/game/a.png.blob" << in;
     QTest::newRow("fails") << "/game/in.blob/x" << int(Dialogs::No) << QString() << in;
