@@ -120,7 +120,6 @@ public:
     void focusPreviousPanel();
     void showNextText();
     void showPreviousText();
-    void showKeys();
     void showAbout();
     /// @}
 

@@ -1,6 +1,5 @@
 #include "app/mainwindow.h"
 
-#include "app/actions/actionregistry.h"
 #include "app/animationcommands.h"
 #include "app/codeedit.h"
 #include "app/documenttabs.h"
@@ -27,23 +26,6 @@ namespace App {
 using Family::FamilyDocument;
 using Family::FamilyProject;
 using Zorv::Dialogs;
-
-namespace {
-
-QStringList keyLines(const ActionRegistry* registry)
-{
-    QStringList lines;
-    const QStringList names = registry->names();
-    for (const QString& name : names) {
-        const QString keys = QKeySequence::listToString(registry->keys(name));
-        if (!keys.isEmpty()) {
-            lines.append(keys + QLatin1String("   ") + registry->text(name));
-        }
-    }
-    return lines;
-}
-
-}  // namespace
 
 void MainWindow::showDocument(FamilyDocument* document)
 {
@@ -209,11 +191,6 @@ void MainWindow::showNextText()
 void MainWindow::showPreviousText()
 {
     m_tabs->setCurrentIndex((m_tabs->currentIndex() + m_tabs->count() - 1) % m_tabs->count());
-}
-
-void MainWindow::showKeys()
-{
-    Dialogs::instance()->information(tr("Keys"), keyLines(registry()).join(QLatin1Char('\n')));
 }
 
 void MainWindow::showAbout()

@@ -6,7 +6,6 @@
 #include "core/interface.h"
 
 #include <QAction>
-#include <QFile>
 #include <QHash>
 #include <QIcon>
 #include <QMenu>
@@ -34,11 +33,32 @@ QVariant chosenKey(const QString& name)
     return Zorv::Interface::instance()->option(settingOf(name));
 }
 
+// Actions whose picture has another name.
+const struct
+{
+    const char* action;
+    const char* picture;
+} pictures[] = {
+    {"stop_engine", "stop"},
+    {"restore_backup", "restore"},
+    {"save_all_as", "save_as"},
+    {"palette", "find"},
+};
+
+QString pictureOf(const QString& name)
+{
+    for (const auto& row : pictures) {
+        if (name == QLatin1String(row.action)) {
+            return QString::fromLatin1(row.picture);
+        }
+    }
+    return name;
+}
+
 void setIcon(QAction* action, const QString& name)
 {
-    const QString file = QStringLiteral(":/icons/icons/%1.png").arg(name);
-    if (action->icon().isNull() && QFile::exists(file)) {
-        action->setIcon(icon(file));
+    if (action->icon().isNull()) {
+        action->setIcon(icon(QStringLiteral(":/icons/icons/%1.png").arg(pictureOf(name))));
     }
 }
 
@@ -53,7 +73,9 @@ QMenu* menuOf(const QAction* action)
 {
     const QList<QWidget*> widgets = action->associatedWidgets();
     for (QWidget* widget : widgets) {
-        if (auto* menu = qobject_cast<QMenu*>(widget)) {
+        // A menu without a title is what Qt shows for a menu bar that is too narrow.
+        auto* menu = qobject_cast<QMenu*>(widget);
+        if (menu && !menu->title().isEmpty()) {
             return menu;
         }
     }
@@ -160,6 +182,17 @@ QString ActionRegistry::menuPath(const QString& name) const
         titles.prepend(ActionText::plain(menu->title()));
     }
     return titles.join(QLatin1String(" > "));
+}
+
+bool ActionRegistry::isMenuVisible(const QString& name) const
+{
+    const QAction* found = action(name);
+    for (QMenu* menu = found ? menuOf(found) : nullptr; menu; menu = menuOf(menu->menuAction())) {
+        if (!menu->menuAction()->isVisible()) {
+            return false;
+        }
+    }
+    return found;
 }
 
 QStringList ActionRegistry::areas(const QString& name) const

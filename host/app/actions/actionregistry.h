@@ -69,6 +69,9 @@ public:
     /// " > "; empty for an action that is in no menu.
     QString menuPath(const QString& name) const;
 
+    /// False for an action of a menu that is hidden, or within one.
+    bool isMenuVisible(const QString& name) const;
+
     /// The areas in which it can be enabled; none is everywhere.
     QStringList areas(const QString& name) const;
 

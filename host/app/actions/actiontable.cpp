@@ -1,5 +1,7 @@
 #include "app/actions/actiontable.h"
 
+#include "app/actions/actionpalette.h"
+#include "app/actions/keysdialog.h"
 #include "app/codetexteditor.h"
 #include "app/game/gamecommands.h"
 #include "app/mainwindow.h"
@@ -95,7 +97,8 @@ const QVector<ActionRow>& actionTable()
         {"previous_text",  "view", QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),         NoKey,        "Ctrl+PgUp",    NeedsText,       call<&W::showPreviousText>},
         {nullptr,          "view", nullptr,                                                     NoKey,        nullptr,        NoNeed,          nullptr},
 
-        {"keys",           "help", QT_TRANSLATE_NOOP("App::Actions", "&Keys"),                  K::HelpContents, nullptr,     NoNeed,          call<&W::showKeys>},
+        {"palette",        "help", QT_TRANSLATE_NOOP("App::Actions", "&Find action..."),        NoKey,        "Ctrl+Shift+P", NoNeed,          showPalette},
+        {"keys",           "help", QT_TRANSLATE_NOOP("App::Actions", "&Keys..."),               K::HelpContents, nullptr,     NoNeed,          showKeys},
         {"about",          "help", QT_TRANSLATE_NOOP("App::Actions", "&About Zorv"),            NoKey,        nullptr,        NoNeed,          call<&W::showAbout>},
     };
     // clang-format on

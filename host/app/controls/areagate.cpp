@@ -29,12 +29,13 @@ void AreaGate::apply()
     parent()->setProperty("enabled", m_isEnabled);
 }
 
-// Whoever got an action from here may enable and disable it by hand as well.
+// Whoever got an action from here may enable and disable it by hand as well. One that is hidden
+// counts as disabled for Qt, and comes back as it was.
 void AreaGate::heedOwner()
 {
-    const bool isEnabled = parent()->property("enabled").toBool();
-    if (isEnabled != m_isEnabled) {
-        setAllowed(isEnabled);
+    const auto* action = static_cast<QAction*>(parent());
+    if (action->isVisible() && action->isEnabled() != m_isEnabled) {
+        setAllowed(action->isEnabled());
     }
 }
 

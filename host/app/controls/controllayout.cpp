@@ -114,8 +114,8 @@ const char* firstKeyOf(const QString& name)
 
 const QVector<const char*>& mainBarTable()
 {
-    static const QVector<const char*> table{"open_folder", "save",  "save_all", nullptr, "undo",
-                                            "redo",        nullptr, "run",      "stop"};
+    static const QVector<const char*> table{
+        "open_folder", "save", "save_all", nullptr, "undo", "redo", nullptr, "run", "stop_engine"};
     return table;
 }
 

@@ -1,0 +1,114 @@
+#include "app/actions/actionpalette.h"
+
+#include "app/actions/actionlist.h"
+#include "app/actions/actionregistry.h"
+#include "app/mainwindow.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace App {
+
+namespace {
+
+const QSize FirstSize(560, 380);
+
+}  // namespace
+
+ActionPalette::ActionPalette(ActionRegistry* registry, QWidget* parent)
+    : QDialog(parent), m_registry(registry), m_list(new ActionList(registry, this)),
+      m_field(new QLineEdit), m_view(new QTreeView)
+{
+    setWindowTitle(tr("Find action"));
+    m_field->setPlaceholderText(tr("Type a part of what you want to do"));
+    m_field->setAccessibleName(tr("Find action"));
+    m_field->setClearButtonEnabled(true);
+    m_field->installEventFilter(this);
+    makeView();
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_field);
+    layout->addWidget(m_view);
+    resize(FirstSize);
+    connect(m_field, &QLineEdit::textChanged, this, &ActionPalette::filter);
+    connect(m_view, &QTreeView::activated, this, &ActionPalette::choose);
+    filter({});
+    m_field->setFocus();
+}
+
+void ActionPalette::makeView()
+{
+    m_view->setModel(m_list);
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true);
+    m_view->setAllColumnsShowFocus(true);
+    m_view->setAccessibleName(tr("Actions"));
+    // The keys stay in the field.
+    m_view->setFocusPolicy(Qt::NoFocus);
+    m_view->header()->hide();
+    m_view->header()->setStretchLastSection(false);
+    m_view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_view->header()->setSectionResizeMode(ActionList::MenuColumn, QHeaderView::Stretch);
+}
+
+void ActionPalette::filter(const QString& typed)
+{
+    m_list->setFilter(typed);
+    m_view->setCurrentIndex(m_list->index(firstEnabledRow(0, 1), 0));
+}
+
+/// The first row from one on that can be run; -1 if there is none.
+int ActionPalette::firstEnabledRow(int from, int step) const
+{
+    for (int row = from; row >= 0 && row < m_list->rowCount(); row += step) {
+        if (m_list->flags(m_list->index(row, 0)) & Qt::ItemIsEnabled) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+bool ActionPalette::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_field || event->type() != QEvent::KeyPress) {
+        return QDialog::eventFilter(watched, event);
+    }
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const int current = m_view->currentIndex().row();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        choose(m_view->currentIndex());
+        return true;
+    }
+    if (key == Qt::Key_Down || key == Qt::Key_Up) {
+        const int step = key == Qt::Key_Down ? 1 : -1;
+        const int row = firstEnabledRow(current + step, step);
+        if (row >= 0) {
+            m_view->setCurrentIndex(m_list->index(row, 0));
+        }
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void ActionPalette::choose(const QModelIndex& index)
+{
+    QAction* action = m_registry->action(m_list->name(index.row()));
+    if (!index.isValid() || !action || !action->isEnabled()) {
+        return;
+    }
+    accept();
+    // What it does may open a dialog of its own, and wants the focus where it was.
+    QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
+}
+
+void showPalette(MainWindow& window)
+{
+    auto* palette = new ActionPalette(window.registry(), &window);
+    palette->setAttribute(Qt::WA_DeleteOnClose);
+    palette->open();
+}
+
+}  // namespace App

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDialog>
+
+class QLineEdit;
+class QTreeView;
+
+namespace App {
+
+class ActionList;
+class ActionRegistry;
+class MainWindow;
+
+/// All actions, to be found by typing. Return runs the chosen one when the palette has closed.
+class ActionPalette : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// The registry is not owned and must outlive the palette.
+    explicit ActionPalette(ActionRegistry* registry, QWidget* parent = nullptr);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void makeView();
+    void filter(const QString& typed);
+    void choose(const QModelIndex& index);
+    int firstEnabledRow(int from, int step) const;
+
+    ActionRegistry* m_registry;
+    ActionList* m_list;
+    QLineEdit* m_field;
+    QTreeView* m_view;
+};
+
+/// Opens the palette on a window.
+void showPalette(MainWindow& window);
+
+}  // namespace App

@@ -1,0 +1,103 @@
+#include "app/actions/keysdialog.h"
+
+#include "app/actions/actionlist.h"
+#include "app/actions/actionregistry.h"
+#include "app/actions/keysheet.h"
+#include "app/mainwindow.h"
+#include "core/dialogs/dialogs.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace App {
+
+namespace {
+
+const QSize FirstSize(560, 520);
+
+}  // namespace
+
+KeysDialog::KeysDialog(const ActionRegistry* registry, QWidget* parent)
+    : QDialog(parent), m_registry(registry), m_list(new ActionList(registry, this)),
+      m_field(new QLineEdit), m_view(new QTreeView)
+{
+    setWindowTitle(tr("Keys"));
+    m_field->setPlaceholderText(tr("Type a part of an action"));
+    m_field->setAccessibleName(tr("Search"));
+    m_field->setClearButtonEnabled(true);
+    m_list->setOnlyWithKeys(true);
+    makeView();
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_field);
+    layout->addWidget(m_view);
+    layout->addWidget(makeButtons());
+    resize(FirstSize);
+    connect(m_field, &QLineEdit::textChanged, m_list, &ActionList::setFilter);
+}
+
+void KeysDialog::makeView()
+{
+    m_view->setModel(m_list);
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true);
+    m_view->setAllColumnsShowFocus(true);
+    m_view->setAccessibleName(tr("Keys"));
+    m_view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // By menu: that is the order in which all of them come.
+    m_view->header()->moveSection(ActionList::MenuColumn, 0);
+}
+
+QWidget* KeysDialog::makeButtons()
+{
+    auto* box = new QDialogButtonBox(QDialogButtonBox::Close);
+    QPushButton* pdf = box->addButton(tr("Save as &PDF..."), QDialogButtonBox::ActionRole);
+    QPushButton* html = box->addButton(tr("Save as &HTML..."), QDialogButtonBox::ActionRole);
+    pdf->setObjectName(QStringLiteral("save_pdf"));
+    html->setObjectName(QStringLiteral("save_html"));
+    // Return in the field looks for something, and saves nothing.
+    pdf->setAutoDefault(false);
+    html->setAutoDefault(false);
+    connect(pdf, &QPushButton::clicked, this, &KeysDialog::savePdf);
+    connect(html, &QPushButton::clicked, this, &KeysDialog::saveHtml);
+    connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    return box;
+}
+
+void KeysDialog::savePdf()
+{
+    save(tr("PDF document (*.pdf)"), QStringLiteral(".pdf"), saveKeySheetAsPdf);
+}
+
+void KeysDialog::saveHtml()
+{
+    save(tr("HTML page (*.html)"), QStringLiteral(".html"), saveKeySheetAsHtml);
+}
+
+void KeysDialog::save(const QString& filter, const QString& extension, Writer write)
+{
+    auto* dialogs = Zorv::Dialogs::instance();
+    QString name = dialogs->saveFileName(this, tr("Save the keys"), {}, filter);
+    if (name.isEmpty()) {
+        return;
+    }
+    if (!name.endsWith(extension, Qt::CaseInsensitive)) {
+        name += extension;
+    }
+    QString error;
+    if (!write(m_registry, name, &error)) {
+        dialogs->error(tr("Save the keys"), error);
+    }
+}
+
+void showKeys(MainWindow& window)
+{
+    auto* dialog = new KeysDialog(window.registry(), &window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+}  // namespace App

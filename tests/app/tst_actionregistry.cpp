@@ -1,0 +1,314 @@
+#include "app/actions/actionregistry.h"
+#include "app/actions/shortcutguard.h"
+
+#include "support/testinterface.h"
+#include "text/translator.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDialog>
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTest>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <memory>
+
+using App::ActionInfo;
+using App::ActionRegistry;
+
+namespace {
+
+/// Texts in a language that can be changed.
+class Texts final : public Zorv::Translator
+{
+public:
+    QString language = QStringLiteral("en");
+
+    QString trText(unsigned id) const override
+    {
+        return QStringLiteral("&Label %1 %2...").arg(id).arg(language);
+    }
+    QString trToolTip(unsigned id) const override
+    {
+        return QStringLiteral("Tip %1 %2").arg(id).arg(language);
+    }
+};
+
+ActionInfo info(const char* name, const char* key, const QStringList& areas = {})
+{
+    ActionInfo made;
+    made.name = QLatin1String(name);
+    made.areas = areas;
+    if (*key) {
+        made.defaultKeys = {QKeySequence(QLatin1String(key))};
+    }
+    return made;
+}
+
+}  // namespace
+
+/// Names, keys and enabled states of actions, and where their keys work.
+class tst_ActionRegistry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void keepsChosenKeys();
+    void findsClashes_data();
+    void findsClashes();
+    void enablesByAreaAndOwner_data();
+    void enablesByAreaAndOwner();
+    void followsTheLanguage();
+    void forgetsTheDead();
+    void keepsKeysOutOfFields_data();
+    void keepsKeysOutOfFields();
+
+private:
+    QAction* add(const ActionInfo& information)
+    {
+        auto* action = new QAction(information.name, m_window.get());
+        m_window->menuBar()->actions().first()->menu()->addAction(action);
+        m_registry->add(action, information);
+        return action;
+    }
+
+    std::unique_ptr<TestInterface> m_host;
+    std::unique_ptr<QMainWindow> m_window;
+    std::unique_ptr<ActionRegistry> m_registry;
+};
+
+void tst_ActionRegistry::init()
+{
+    m_host = std::make_unique<TestInterface>();
+    m_window = std::make_unique<QMainWindow>();
+    m_window->menuBar()->addMenu(QStringLiteral("&Menu"));
+    m_registry = std::make_unique<ActionRegistry>();
+}
+
+void tst_ActionRegistry::cleanup()
+{
+    m_registry.reset();
+    m_window.reset();
+    m_host.reset();
+}
+
+void tst_ActionRegistry::keepsChosenKeys()
+{
+    QAction* action = add(info("go", "Ctrl+G"));
+    QSignalSpy changed(m_registry.get(), &ActionRegistry::changed);
+    m_registry->setShortcut(QStringLiteral("go"), QKeySequence(QStringLiteral("Ctrl+Shift+J")));
+    QCOMPARE(m_host->options[QStringLiteral("shortcut_go")].toString(),
+             QStringLiteral("Ctrl+Shift+J"));
+    QCOMPARE(changed.count(), 1);
+
+    // The next start finds the choice, also that of no key at all.
+    m_registry = std::make_unique<ActionRegistry>();
+    m_registry->add(action, info("go", "Ctrl+G"));
+    QCOMPARE(action->shortcut(), QKeySequence(QStringLiteral("Ctrl+Shift+J")));
+    m_registry->setShortcut(QStringLiteral("go"), {});
+    m_registry = std::make_unique<ActionRegistry>();
+    m_registry->add(action, info("go", "Ctrl+G"));
+    QVERIFY(action->shortcut().isEmpty());
+    QVERIFY(m_registry->isChosen(QStringLiteral("go")));
+
+    m_registry->resetShortcut(QStringLiteral("go"));
+    QCOMPARE(action->shortcut(), QKeySequence(QStringLiteral("Ctrl+G")));
+    QVERIFY(!m_host->options.contains(QStringLiteral("shortcut_go")));
+}
+
+void tst_ActionRegistry::findsClashes_data()
+{
+    QTest::addColumn<QString>("firstKey");
+    QTest::addColumn<QStringList>("firstAreas");
+    QTest::addColumn<QString>("secondKey");
+    QTest::addColumn<QStringList>("secondAreas");
+    QTest::addColumn<bool>("clash");
+    const QStringList code{"code"};
+    const QStringList sprites{"sprites"};
+    const QStringList all{"all"};
+    QTest::newRow("one area") << "Ctrl+K" << code << "Ctrl+K" << code << true;
+    QTest::newRow("never together") << "Ctrl+K" << code << "Ctrl+K" << sprites << false;
+    QTest::newRow("everywhere") << "Ctrl+K" << all << "Ctrl+K" << sprites << true;
+    QTest::newRow("no areas named") << "Ctrl+K" << QStringList() << "Ctrl+K" << sprites << true;
+    QTest::newRow("one of several") << "Ctrl+K" << (code + sprites) << "Ctrl+K" << sprites << true;
+    QTest::newRow("begins the other") << "Ctrl+K" << all << "Ctrl+K, Ctrl+C" << all << true;
+    QTest::newRow("other key") << "Ctrl+K" << all << "Ctrl+Shift+K" << all << false;
+    QTest::newRow("no keys") << "" << all << "" << all << false;
+}
+
+void tst_ActionRegistry::findsClashes()
+{
+    QFETCH(QString, firstKey);
+    QFETCH(QStringList, firstAreas);
+    QFETCH(QString, secondKey);
+    QFETCH(QStringList, secondAreas);
+    QFETCH(bool, clash);
+    add(info("first", qPrintable(firstKey), firstAreas));
+    add(info("second", qPrintable(secondKey), secondAreas));
+    add(info("third", "F12"));
+    QCOMPARE(m_registry->clashes().size(), clash ? 1 : 0);
+    if (clash) {
+        QCOMPARE(m_registry->clashes().first().first, QStringLiteral("first"));
+        QCOMPARE(m_registry->clashes().first().second, QStringLiteral("second"));
+    }
+    QCOMPARE(m_registry->clashesOf(QStringLiteral("first"), QKeySequence(firstKey)),
+             clash ? QStringList("second") : QStringList());
+}
+
+void tst_ActionRegistry::enablesByAreaAndOwner_data()
+{
+    QTest::addColumn<QStringList>("areas");
+    QTest::addColumn<QString>("active");
+    QTest::addColumn<bool>("allowed");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("both") << QStringList{"code"} << "code" << true << true;
+    QTest::newRow("one of two") << QStringList{"sprites", "code"} << "code" << true << true;
+    QTest::newRow("area alone") << QStringList{"code"} << "code" << false << false;
+    QTest::newRow("owner alone") << QStringList{"code"} << "sprites" << true << false;
+    QTest::newRow("all") << QStringList{"all"} << "" << true << true;
+    QTest::newRow("none named") << QStringList() << "" << true << true;
+}
+
+void tst_ActionRegistry::enablesByAreaAndOwner()
+{
+    QFETCH(QStringList, areas);
+    QFETCH(QString, active);
+    QFETCH(bool, allowed);
+    QFETCH(bool, enabled);
+    ActionInfo given = info("act", "", areas);
+    given.waitsForOwner = true;
+    const QAction* action = add(given);
+    m_registry->setActiveAreas({active});
+    QVERIFY(!action->isEnabled());
+    m_registry->setAllowed(QStringLiteral("act"), allowed);
+    QCOMPARE(action->isEnabled(), enabled);
+    // What comes and goes comes back.
+    m_registry->setActiveAreas({QStringLiteral("sounds")});
+    m_registry->setActiveAreas({active});
+    QCOMPARE(action->isEnabled(), enabled);
+}
+
+void tst_ActionRegistry::followsTheLanguage()
+{
+    Texts texts;
+    ActionInfo given = info("act", "");
+    given.text = {&texts, 7};
+    const QAction* action = add(given);
+    QCOMPARE(action->text(), QStringLiteral("&Label 7 en..."));
+    texts.language = QStringLiteral("de");
+    m_registry->retranslate();
+    QCOMPARE(action->text(), QStringLiteral("&Label 7 de..."));
+    QCOMPARE(action->toolTip(), QStringLiteral("Tip 7 de"));
+    QCOMPARE(action->statusTip(), QStringLiteral("Tip 7 de"));
+    QCOMPARE(m_registry->text(QStringLiteral("act")), QStringLiteral("Label 7 de"));
+    QCOMPARE(m_registry->menuPath(QStringLiteral("act")), QStringLiteral("Menu"));
+    QCOMPARE(App::ActionText::plain(QStringLiteral("Cut && &paste...")),
+             QStringLiteral("Cut & paste"));
+}
+
+void tst_ActionRegistry::forgetsTheDead()
+{
+    QAction* old = add(info("act", "Ctrl+G"));
+    QAction* replacing = add(info("act", "Ctrl+G"));
+    QVERIFY(m_registry->clashes().isEmpty());
+    delete old;
+    QCOMPARE(m_registry->action(QStringLiteral("act")), replacing);
+    delete replacing;
+    QVERIFY(m_registry->names().isEmpty());
+    QVERIFY(!m_registry->action(QStringLiteral("act")));
+    m_registry->setActiveAreas({QStringLiteral("code")});
+    QAction* last = add(info("act", "Ctrl+G"));
+    m_registry.reset();
+    last->setEnabled(false);
+}
+
+void tst_ActionRegistry::keepsKeysOutOfFields_data()
+{
+    QTest::addColumn<QString>("widget");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("fires");
+    for (const char* key : {"Ctrl+T", "D", "Del", "Home", "F7", "Alt+Up"}) {
+        const bool isTyping = QByteArray(key).size() < 5 && *key != 'F';
+        QTest::addRow("tree, %s", key) << "tree"
+                                       << "act" << key << true;
+        QTest::addRow("text, %s", key) << "text"
+                                       << "act" << key << !isTyping;
+        for (const char* field : {"line", "spin", "combo", "dialog"}) {
+            QTest::addRow("%s, %s", field, key) << field << "act" << key << false;
+        }
+    }
+    QTest::newRow("the way out") << "line"
+                                 << "next_panel"
+                                 << "F6" << true;
+    QTest::newRow("no way out of a dialog") << "dialog"
+                                            << "next_panel"
+                                            << "F6" << false;
+    QTest::newRow("a field that is read only") << "read only"
+                                               << "act"
+                                               << "Ctrl+T" << true;
+}
+
+void tst_ActionRegistry::keepsKeysOutOfFields()
+{
+    QFETCH(QString, widget);
+    QFETCH(QString, name);
+    QFETCH(QString, key);
+    QFETCH(bool, fires);
+    auto* text = new QPlainTextEdit(QStringLiteral("text"));
+    m_window->setCentralWidget(text);
+    auto* dock = new QDockWidget(m_window.get());
+    auto* panel = new QWidget;
+    auto* layout = new QVBoxLayout(panel);
+    auto* combo = new QComboBox;
+    combo->setEditable(true);
+    auto* readOnly = new QLineEdit;
+    readOnly->setReadOnly(true);
+    QDialog dialog(m_window.get());
+    auto* inDialog = new QLineEdit(&dialog);
+    const QHash<QString, QWidget*> widgets{{"text", text},
+                                           {"tree", new QTreeView},
+                                           {"line", new QLineEdit(QStringLiteral("ab"))},
+                                           {"spin", new QSpinBox},
+                                           {"combo", combo},
+                                           {"read only", readOnly},
+                                           {"dialog", inDialog}};
+    for (QWidget* each : widgets) {
+        if (each != text && each != inDialog) {
+            layout->addWidget(each);
+        }
+    }
+    dock->setWidget(panel);
+    m_window->addDockWidget(Qt::LeftDockWidgetArea, dock);
+    new App::ShortcutGuard(m_window.get(), m_registry.get());
+    const QAction* action = add(info(qPrintable(name), qPrintable(key)));
+    QSignalSpy triggered(action, &QAction::triggered);
+    m_window->show();
+    QWidget* top = m_window.get();
+    if (widget == QLatin1String("dialog")) {
+        dialog.show();
+        top = &dialog;
+    }
+    top->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(top));
+    QWidget* focus = widgets.value(widget);
+    focus->setFocus();
+    QTRY_COMPARE(QApplication::focusWidget(), focus);
+    const int pressed = QKeySequence(key)[0];
+    QTest::keyClick(focus, Qt::Key(pressed & ~int(Qt::KeyboardModifierMask)),
+                    Qt::KeyboardModifiers(pressed & int(Qt::KeyboardModifierMask)));
+    QCOMPARE(triggered.count(), fires ? 1 : 0);
+}
+
+QTEST_MAIN(tst_ActionRegistry)
+#include "tst_actionregistry.moc"

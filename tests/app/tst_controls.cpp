@@ -1,0 +1,438 @@
+#include "windowfixture.h"
+
+#include "app/actions/actionregistry.h"
+#include "editors/framework/toolbuttoncontrol.h"
+#include "editors/framework/trwidgetcontrol.h"
+#include "text/translator.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QLabel>
+#include <QListView>
+#include <QMenu>
+#include <QPointer>
+#include <QSlider>
+#include <QSpinBox>
+#include <QStringListModel>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeView>
+
+using Zorv::WidgetControl;
+
+namespace {
+
+class Texts final : public Zorv::Translator
+{
+public:
+    QString language = QStringLiteral("en");
+
+    QString trText(unsigned id) const override
+    {
+        return QStringLiteral("Label %1 %2").arg(id).arg(language);
+    }
+    QString trToolTip(unsigned id) const override
+    {
+        return QStringLiteral("Tip %1 %2").arg(id).arg(language);
+    }
+};
+
+const char* const everywhere[] = {"all", nullptr};
+const char* const sprites[] = {"sprites", nullptr};
+
+}  // namespace
+
+/// Publishes tools and writes down what it is told.
+class Publisher : public QObject
+{
+    Q_OBJECT
+
+public:
+    QVariantList told;
+
+public slots:
+    void numberChosen(int value) { told.append(value); }
+    void realChosen(double value) { told.append(value); }
+    void switched(bool isOn) { told.append(isOn); }
+    void rowChosen(const QModelIndex& index) { told.append(index.row()); }
+    void pressed() { told.append(QStringLiteral("pressed")); }
+
+signals:
+    void enabled(bool isEnabled);
+    void setNumber(int value);
+    void setReal(double value);
+    void setOn(bool isOn);
+    void setText(const QString& text);
+};
+
+Q_DECLARE_METATYPE(WidgetControl::Kind)
+
+/// Tools that editors publish, as widgets of the window that are really used.
+class tst_Controls : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void tellsAndTakesValues_data();
+    void tellsAndTakesValues();
+    void showsATextOnly();
+    void choosesRows_data();
+    void choosesRows();
+    void makesListsThatCanBeRearranged();
+    void enablesActions();
+    void checksActions();
+    void enablesWidgets();
+    void followsTheLanguage();
+    void placesByName_data();
+    void placesByName();
+    void showsMenusOnDemand();
+    void hidesAMenuWithItsTools();
+    void staysSwitchedOff();
+    void goesWithItsReceiver();
+
+private:
+    QWidget* add(const char* name, const WidgetControl& control)
+    {
+        return qobject_cast<QWidget*>(m->host.addControl(QLatin1String(name), control));
+    }
+
+    QAction* addAction(const char* name, const char* const* areas = everywhere)
+    {
+        return m->host.createAction(areas, QLatin1String(name), &m_texts, 1, nullptr,
+                                    m_publisher.get(), SLOT(pressed()), SIGNAL(enabled(bool)),
+                                    nullptr);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_settings;
+    std::unique_ptr<WindowFixture> m;
+    std::unique_ptr<Publisher> m_publisher;
+    Texts m_texts;
+};
+
+void tst_Controls::init()
+{
+    m_settings = std::make_unique<QTemporaryDir>();
+    m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
+    m_publisher = std::make_unique<Publisher>();
+    m_texts.language = QStringLiteral("en");
+}
+
+void tst_Controls::cleanup()
+{
+    m.reset();
+    m_publisher.reset();
+}
+
+void tst_Controls::tellsAndTakesValues_data()
+{
+    QTest::addColumn<WidgetControl::Kind>("kind");
+    QTest::addColumn<QByteArray>("slot");
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<QVariant>("told");
+    const QByteArray number = SLOT(numberChosen(int));
+    QTest::newRow("slider") << WidgetControl::Slider << number << QByteArray(SIGNAL(setNumber(int)))
+                            << QVariant(3);
+    QTest::newRow("spin") << WidgetControl::SpinEdit << number << QByteArray(SIGNAL(setNumber(int)))
+                          << QVariant(3);
+    QTest::newRow("combo") << WidgetControl::ComboBox << number
+                           << QByteArray(SIGNAL(setNumber(int))) << QVariant(3);
+    QTest::newRow("real") << WidgetControl::FloatEdit << QByteArray(SLOT(realChosen(double)))
+                          << QByteArray(SIGNAL(setReal(double))) << QVariant(3.0);
+    QTest::newRow("check") << WidgetControl::CheckBox << QByteArray(SLOT(switched(bool)))
+                           << QByteArray(SIGNAL(setOn(bool))) << QVariant(false);
+}
+
+void tst_Controls::tellsAndTakesValues()
+{
+    QFETCH(WidgetControl::Kind, kind);
+    QFETCH(QByteArray, slot);
+    QFETCH(QByteArray, signal);
+    QFETCH(QVariant, told);
+    QWidget* widget =
+        add("test_value", Zorv::trWidgetControl(kind, 8, &m_texts, 4, m_publisher.get(),
+                                                slot.constData(), signal.constData()));
+    QVERIFY(widget);
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+        combo->addItems({"a", "b", "c", "d"});
+    }
+    QCOMPARE(m_publisher->told, QVariantList());
+    emit m_publisher->setNumber(2);
+    emit m_publisher->setReal(2);
+    emit m_publisher->setOn(true);
+    QCOMPARE(m_publisher->told, QVariantList());
+    QTRY_VERIFY(widget->isVisible());
+    if (auto* check = qobject_cast<QCheckBox*>(widget)) {
+        QVERIFY(check->isChecked());
+        QTest::mouseClick(check, Qt::LeftButton, {}, QPoint(8, check->height() / 2));
+    } else {
+        const bool isUp = !qobject_cast<QComboBox*>(widget);
+        QTest::keyClick(widget, isUp ? Qt::Key_Up : Qt::Key_Down);
+    }
+    QCOMPARE(m_publisher->told, QVariantList{told});
+}
+
+void tst_Controls::showsATextOnly()
+{
+    auto* label = qobject_cast<QLabel*>(
+        add("test_lb", WidgetControl(WidgetControl::Label, 10, m_publisher.get(), nullptr,
+                                     SIGNAL(setText(QString)))));
+    QVERIFY(label);
+    emit m_publisher->setText(QStringLiteral("<b>1 / 2</b>"));
+    QCOMPARE(label->text(), QStringLiteral("<b>1 / 2</b>"));
+    QCOMPARE(label->textFormat(), Qt::PlainText);
+}
+
+void tst_Controls::choosesRows_data()
+{
+    QTest::addColumn<WidgetControl::Kind>("kind");
+    QTest::addColumn<int>("flags");
+    QTest::addColumn<int>("afterOneClick");
+    QTest::newRow("list") << WidgetControl::ListView << int(WidgetControl::NoFlags) << 0;
+    QTest::newRow("tree") << WidgetControl::TreeView << int(WidgetControl::NoFlags) << 0;
+    QTest::newRow("one click") << WidgetControl::ListView << int(WidgetControl::SingleClick) << 1;
+}
+
+void tst_Controls::choosesRows()
+{
+    QFETCH(WidgetControl::Kind, kind);
+    QFETCH(int, flags);
+    QFETCH(int, afterOneClick);
+    QStringListModel model({"a", "b", "c"});
+    auto* view = qobject_cast<QAbstractItemView*>(
+        add("org_rows", WidgetControl(kind, 5, m_publisher.get(), SLOT(rowChosen(QModelIndex)),
+                                      nullptr, nullptr, WidgetControl::Flags(flags))));
+    QVERIFY(view);
+    view->setModel(&model);
+    QTRY_VERIFY(view->isVisible());
+    const QPoint place = view->visualRect(model.index(1)).center();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
+    QCOMPARE(m_publisher->told.size(), afterOneClick);
+    m_publisher->told.clear();
+    if (!afterOneClick) {
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, place);
+        QCOMPARE(m_publisher->told, QVariantList{1});
+        m_publisher->told.clear();
+    }
+    view->setCurrentIndex(model.index(2));
+    QTest::keyClick(view, Qt::Key_Return);
+    QCOMPARE(m_publisher->told, QVariantList{2});
+}
+
+void tst_Controls::makesListsThatCanBeRearranged()
+{
+    const auto listOf = [this](WidgetControl::Flags flags) {
+        return qobject_cast<QListView*>(
+            add("org_rows",
+                Zorv::ListViewControl(10, m_publisher.get(), SLOT(rowChosen(QModelIndex)), flags)));
+    };
+    const QListView* fixed = listOf(WidgetControl::NoFlags);
+    QVERIFY(fixed->uniformItemSizes());
+    QVERIFY(!fixed->dragEnabled());
+    const QListView* loose = listOf(WidgetControl::Reorderable);
+    QVERIFY(loose->uniformItemSizes() && loose->dragEnabled() && loose->acceptDrops());
+    QCOMPARE(loose->selectionMode(), QAbstractItemView::ExtendedSelection);
+    QCOMPARE(loose->dragDropMode(), QAbstractItemView::InternalMove);
+}
+
+void tst_Controls::enablesActions()
+{
+    QAction* action = addAction("spr_thing", sprites);
+    auto* button = qobject_cast<QToolButton*>(
+        m->host.addControl(QStringLiteral("spr_thing"), Zorv::ToolButtonControl(action)));
+    QVERIFY(button);
+    QTRY_VERIFY(button->isVisible());
+    emit m_publisher->enabled(true);
+    QVERIFY(!action->isEnabled());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(m_publisher->told, QVariantList());
+    m->window->registry()->setActiveAreas({QStringLiteral("sprites")});
+    QVERIFY(action->isEnabled());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QCOMPARE(m_publisher->told, QVariantList{QStringLiteral("pressed")});
+    // Hiding is not disabling.
+    action->setVisible(false);
+    action->setVisible(true);
+    QVERIFY(action->isEnabled());
+    action->setEnabled(false);
+    m->window->registry()->setActiveAreas({});
+    m->window->registry()->setActiveAreas({QStringLiteral("sprites")});
+    QVERIFY(!action->isEnabled());
+    emit m_publisher->enabled(false);
+    QVERIFY(!action->isEnabled());
+}
+
+void tst_Controls::checksActions()
+{
+    QAction* action =
+        m->host.createAction(everywhere, QStringLiteral("view_thing"), &m_texts, 1, "Ctrl+Alt+9",
+                             m_publisher.get(), SLOT(switched(bool)), nullptr, SIGNAL(setOn(bool)));
+    emit m_publisher->setOn(true);
+    QVERIFY(action->isChecked());
+    QCOMPARE(m_publisher->told, QVariantList());
+    QTest::keyClick(m->window.get(), Qt::Key_9, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(m_publisher->told, QVariantList{false});
+}
+
+void tst_Controls::enablesWidgets()
+{
+    const QWidget* spin = add("code_thing", Zorv::SpinEditControl(4, &m_texts, 2, m_publisher.get(),
+                                                                  SLOT(numberChosen(int)), nullptr,
+                                                                  SIGNAL(enabled(bool))));
+    m->window->registry()->setActiveAreas({QStringLiteral("code")});
+    QVERIFY(!spin->isEnabled());
+    emit m_publisher->enabled(true);
+    QVERIFY(spin->isEnabled());
+    m->window->registry()->setActiveAreas({});
+    QVERIFY(!spin->isEnabled());
+}
+
+void tst_Controls::followsTheLanguage()
+{
+    const QAction* action = addAction("code_thing");
+    auto* spin = add("code_number", Zorv::SpinEditControl(4, &m_texts, 2, m_publisher.get(),
+                                                          nullptr, nullptr, nullptr));
+    auto* check = qobject_cast<QCheckBox*>(
+        add("code_check",
+            Zorv::trWidgetControl(WidgetControl::CheckBox, 0, &m_texts, 3, m_publisher.get())));
+    m_texts.language = QStringLiteral("de");
+    QEvent event(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(m->window.get(), &event);
+    QCOMPARE(action->text(), QStringLiteral("Label 1 de"));
+    QCOMPARE(action->statusTip(), QStringLiteral("Tip 1 de"));
+    QCOMPARE(check->text(), QStringLiteral("Label 3 de"));
+    QCOMPARE(spin->toolTip(), QStringLiteral("Tip 2 de"));
+    QCOMPARE(spin->parentWidget()->findChild<QLabel*>()->text(), QStringLiteral("Label 2 de"));
+}
+
+void tst_Controls::placesByName_data()
+{
+    QTest::addColumn<QString>("bar");
+    QTest::addColumn<QString>("menu");
+    QTest::newRow("org_up") << "organizer"
+                            << "anim";
+    QTest::newRow("anim_play") << "animation_bar"
+                               << "anim";
+    QTest::newRow("anim_frame_add") << "frame_bar"
+                                    << "anim";
+    QTest::newRow("spr_layer_add") << "layers"
+                                   << "spr";
+    QTest::newRow("spr_tool_pen") << "sprite_tools_bar"
+                                  << "spr";
+    QTest::newRow("pal_add") << "palette"
+                             << "pal";
+    QTest::newRow("snd_play") << "sound_bar"
+                              << "snd";
+    QTest::newRow("view_rulers") << "stage_bar"
+                                 << "view";
+    QTest::newRow("other_thing") << "other_bar"
+                                 << "edit";
+}
+
+void tst_Controls::placesByName()
+{
+    QFETCH(QString, bar);
+    QFETCH(QString, menu);
+    const char* name = QTest::currentDataTag();
+    QAction* action = addAction(name);
+    auto* button = qobject_cast<QWidget*>(
+        m->host.addControl(QLatin1String(name), Zorv::ToolButtonControl(action)));
+    QTRY_VERIFY(button->isVisible());
+    const QWidget* place = button;
+    while (place && place->objectName() != bar) {
+        place = place->parentWidget();
+    }
+    QVERIFY(place);
+    QVERIFY(m->host.menu(qPrintable(menu))->actions().contains(action));
+    QVERIFY(m->window->registry()->isMenuVisible(QLatin1String(name)));
+    QVERIFY(m->window->registry()->action(QStringLiteral("show_") + bar)->isVisible());
+}
+
+void tst_Controls::showsMenusOnDemand()
+{
+    for (const char* name : {"spr", "pal", "snd"}) {
+        QAction* entry = m->host.menu(name)->menuAction();
+        QVERIFY(!entry->isVisible());
+        m->host.menu(name)->addAction(QStringLiteral("Something"));
+        QVERIFY(entry->isVisible());
+        m->host.setMenuEnabled(name, "sprites", false);
+        m->host.menu(name)->addAction(QStringLiteral("More"));
+        QVERIFY(!entry->isVisible());
+        m->host.setMenuEnabled(name, "sprites", true);
+        QVERIFY(entry->isVisible());
+    }
+    QVERIFY(m->host.menu("anim") && m->host.menu("view"));
+}
+
+void tst_Controls::hidesAMenuWithItsTools()
+{
+    QAction* action = addAction("snd_play");
+    emit m_publisher->enabled(true);
+    auto* button = qobject_cast<QWidget*>(
+        m->host.addControl(QStringLiteral("snd_play"), Zorv::ToolButtonControl(action)));
+    QTRY_VERIFY(button->isVisible());
+    m->host.setMenuEnabled("snd", "sounds", false);
+    QVERIFY(!button->isVisible());
+    QVERIFY(!m->window->registry()->isMenuVisible(QStringLiteral("snd_play")));
+    m->host.setMenuEnabled("snd", "sounds", true);
+    QVERIFY(button->isVisible());
+}
+
+void tst_Controls::staysSwitchedOff()
+{
+    const auto publish = [this] {
+        add("pal_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
+        add("code_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
+        QTest::qWait(1);
+    };
+    const auto isShown = [this](const char* name) {
+        return m->window->findChild<QWidget*>(QLatin1String(name))->isVisible();
+    };
+    publish();
+    QVERIFY(isShown("palette") && isShown("code_bar"));
+    m->window->findChild<QDockWidget*>(QStringLiteral("palette"))->close();
+    m->window->registry()->action(QStringLiteral("show_code_bar"))->trigger();
+    QTRY_VERIFY(!isShown("palette") && !isShown("code_bar"));
+    QVERIFY(m->window->close());
+    m.reset();
+    m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
+    publish();
+    QVERIFY(!isShown("palette") && !isShown("code_bar"));
+    m->window->registry()->action(QStringLiteral("show_palette"))->trigger();
+    m->window->registry()->action(QStringLiteral("show_code_bar"))->trigger();
+    QTRY_VERIFY(isShown("palette") && isShown("code_bar"));
+}
+
+void tst_Controls::goesWithItsReceiver()
+{
+    const QPointer<QAction> action = addAction("pal_add");
+    emit m_publisher->enabled(true);
+    const QPointer<QObject> button =
+        m->host.addControl(QStringLiteral("pal_add"), Zorv::ToolButtonControl(action));
+    const QPointer<QWidget> list = add(
+        "pal_list", WidgetControl(WidgetControl::ListView, 3, m_publisher.get(),
+                                  SLOT(rowChosen(QModelIndex)), nullptr, SIGNAL(enabled(bool))));
+    const QPointer<QWidget> slider =
+        add("code_sel", WidgetControl(WidgetControl::Slider, 3, m_publisher.get(),
+                                      SLOT(numberChosen(int)), SIGNAL(setNumber(int))));
+    const auto* panel = m->window->findChild<QDockWidget*>(QStringLiteral("palette"));
+    const auto* bar = m->window->findChild<QToolBar*>(QStringLiteral("code_bar"));
+    QTRY_VERIFY(panel->isVisible() && bar->isVisible());
+    m_publisher.reset();
+    QVERIFY(!action || !action->isEnabled());
+    QTRY_VERIFY(!action && !button && !list && !slider);
+    QVERIFY(!m->window->registry()->action(QStringLiteral("pal_add")));
+    // Nothing is left in them.
+    QTRY_VERIFY(!panel->isVisible() && !bar->isVisible());
+    // And a new publisher takes the place.
+    m_publisher = std::make_unique<Publisher>();
+    QVERIFY(addAction("pal_add"));
+    QVERIFY(m->window->registry()->action(QStringLiteral("pal_add")));
+}
+
+QTEST_MAIN(tst_Controls)
+#include "tst_controls.moc"

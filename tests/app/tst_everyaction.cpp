@@ -1,0 +1,184 @@
+#include "windowfixture.h"
+
+#include "app/actions/actionregistry.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDirIterator>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QToolButton>
+
+namespace {
+
+// A second entry in the questions that an action may ask: to discard what is unsaved, mostly.
+constexpr int SecondChoice = 1;
+
+void copyFolder(const QString& source, const QString& target)
+{
+    QDirIterator each(source, QDir::Files, QDirIterator::Subdirectories);
+    while (each.hasNext()) {
+        const QString file = each.next();
+        const QString copy = target + file.mid(source.size());
+        QVERIFY(QDir().mkpath(QFileInfo(copy).path()));
+        QVERIFY(QFile::copy(file, copy));
+        QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    }
+}
+
+}  // namespace
+
+/// Every action of the window, clicked on in a copy of the sample game.
+class tst_EveryAction : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void hasNoClashes();
+    void opensFromTheMenus();
+    void opensFromTheBars();
+
+private:
+    void prepare();
+    QMenu* menuOf(const QAction* action) const;
+    bool click(QAction* action);
+
+    App::ActionRegistry* registry() const { return m->window->registry(); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<WindowFixture> m;
+    QTimer m_closer;
+};
+
+void tst_EveryAction::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    copyFolder(QStringLiteral(SAMPLES "/arena"), m_folder->filePath(QStringLiteral("arena")));
+    m = std::make_unique<WindowFixture>(m_folder->filePath(QStringLiteral("zorv.ini")));
+    m->window->resize(1200, 900);
+    // Somebody gives up whatever dialog comes.
+    m_closer.callOnTimeout([] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            dialog->close();
+        }
+    });
+    m_closer.start(20);
+}
+
+void tst_EveryAction::cleanup()
+{
+    m_closer.stop();
+    m_closer.disconnect();
+    m.reset();
+}
+
+/// Brings the window to where as much as possible can be done.
+void tst_EveryAction::prepare()
+{
+    QTRY_VERIFY(!QApplication::activeModalWidget() && !QApplication::activePopupWidget());
+    if (!m->window->session()->game()) {
+        QVERIFY(m->window->openPath(m_folder->filePath(QStringLiteral("arena"))));
+    }
+    QVERIFY(m->window->openFile(
+        m_folder->filePath(QStringLiteral("arena/characters/maren/basics.anim"))));
+    m->edit()->setFocus();
+    m->edit()->goTo(0);
+    m->press(Qt::Key_Return);
+    m->press(Qt::Key_Return);
+    m->action("undo")->trigger();
+    // The second animation: it becomes the current one of the list.
+    m->edit()->moveCursor(QTextCursor::Start);
+    QVERIFY(m->edit()->find(QStringLiteral("animation ")));
+    QVERIFY(m->edit()->find(QStringLiteral("animation ")));
+    m->dialogs.choiceAnswers = {SecondChoice};
+    QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_remove")->isEnabled());
+}
+
+QMenu* tst_EveryAction::menuOf(const QAction* action) const
+{
+    const QList<QWidget*> widgets = action->associatedWidgets();
+    for (QWidget* widget : widgets) {
+        auto* menu = qobject_cast<QMenu*>(widget);
+        if (menu && !menu->title().isEmpty()) {
+            return menu;
+        }
+    }
+    return nullptr;
+}
+
+/// Opens the menu of an action in the menu bar and clicks on it. True if it was triggered.
+bool tst_EveryAction::click(QAction* action)
+{
+    QMenu* menu = menuOf(action);
+    QMenuBar* bar = m->window->menuBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
+    if (!menu->isVisible()) {
+        return false;
+    }
+    const QSignalSpy triggered(action, &QAction::triggered);
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+    menu->close();
+    return triggered.count() == 1;
+}
+
+void tst_EveryAction::hasNoClashes()
+{
+    prepare();
+    QStringList clashes;
+    for (const App::KeyClash& clash : registry()->clashes()) {
+        clashes.append(clash.first + ' ' + clash.second + ' ' + clash.key.toString());
+    }
+    QCOMPARE(clashes, QStringList());
+}
+
+void tst_EveryAction::opensFromTheMenus()
+{
+    QStringList missed;
+    QStringList names = registry()->names();
+    // The end of the program comes last.
+    names.removeOne(QStringLiteral("quit"));
+    names.append(QStringLiteral("quit"));
+    for (const QString& name : qAsConst(names)) {
+        prepare();
+        QAction* action = registry()->action(name);
+        if (!action->isVisible()) {
+            continue;
+        }
+        QVERIFY2(menuOf(action), qPrintable(name));
+        if (!click(action)) {
+            missed.append(name);
+        }
+    }
+    // Nothing runs that could be ended.
+    QCOMPARE(missed.join(' '), QStringLiteral("stop_engine"));
+    QVERIFY(!m->window->isVisible());
+}
+
+void tst_EveryAction::opensFromTheBars()
+{
+    prepare();
+    QList<QPointer<QToolButton>> buttons;
+    for (QToolButton* button : m->window->findChildren<QToolButton*>()) {
+        if (button->defaultAction() && button->isVisible()) {
+            buttons.append(button);
+        }
+    }
+    QVERIFY(buttons.size() > 10);
+    for (const QPointer<QToolButton>& button : qAsConst(buttons)) {
+        prepare();
+        QAction* action = button->defaultAction();
+        const bool isEnabled = action->isEnabled();
+        const QSignalSpy triggered(action, &QAction::triggered);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY2(triggered.count() == (isEnabled ? 1 : 0), qPrintable(action->objectName()));
+        QVERIFY2(!action->icon().isNull(), qPrintable(action->objectName()));
+    }
+}
+
+QTEST_MAIN(tst_EveryAction)
+#include "tst_everyaction.moc"
