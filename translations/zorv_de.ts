@@ -2,6 +2,36 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>App::ActionList</name>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+</context>
+<context>
+    <name>App::ActionPalette</name>
+    <message>
+        <source>Find action</source>
+        <translation>Aktion suchen</translation>
+    </message>
+    <message>
+        <source>Type a part of what you want to do</source>
+        <translation>Ein Teil des Gesuchten</translation>
+    </message>
+    <message>
+        <source>Actions</source>
+        <translation>Aktionen</translation>
+    </message>
+</context>
+<context>
     <name>App::Actions</name>
     <message>
         <source>&amp;Open game folder...</source>
@@ -92,10 +122,6 @@
         <translation>Voriger Te&amp;xt</translation>
     </message>
     <message>
-        <source>&amp;Keys</source>
-        <translation>&amp;Tasten</translation>
-    </message>
-    <message>
         <source>&amp;About Zorv</source>
         <translation>&amp;Über Zorv</translation>
     </message>
@@ -122,6 +148,14 @@
     <message>
         <source>&amp;End the engine</source>
         <translation>Engine &amp;beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Find action...</source>
+        <translation>Aktion &amp;suchen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Keys...</source>
+        <translation>&amp;Tasten ...</translation>
     </message>
 </context>
 <context>
@@ -394,6 +428,17 @@
     </message>
 </context>
 <context>
+    <name>App::KeySheet</name>
+    <message>
+        <source>Keys of Zorv</source>
+        <translation>Tasten von Zorv</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Weitere</translation>
+    </message>
+</context>
+<context>
     <name>App::KeyTable</name>
     <message>
         <source>Action</source>
@@ -406,6 +451,41 @@
     <message>
         <source>Clashes with</source>
         <translation>Belegt auch</translation>
+    </message>
+</context>
+<context>
+    <name>App::KeysDialog</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Type a part of an action</source>
+        <translation>Ein Teil einer Aktion</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Save as &amp;PDF...</source>
+        <translation>Als &amp;PDF speichern ...</translation>
+    </message>
+    <message>
+        <source>Save as &amp;HTML...</source>
+        <translation>Als &amp;HTML speichern ...</translation>
+    </message>
+    <message>
+        <source>PDF document (*.pdf)</source>
+        <translation>PDF-Dokument (*.pdf)</translation>
+    </message>
+    <message>
+        <source>HTML page (*.html)</source>
+        <translation>HTML-Seite (*.html)</translation>
+    </message>
+    <message>
+        <source>Save the keys</source>
+        <translation>Tasten speichern</translation>
     </message>
 </context>
 <context>
@@ -493,10 +573,6 @@ Ein Doppelklick im Baum der Projekte zeigt einen Text.</translation>
     <message>
         <source>All files are saved.</source>
         <translation>Alle Dateien sind gespeichert.</translation>
-    </message>
-    <message>
-        <source>Keys</source>
-        <translation>Tasten</translation>
     </message>
     <message>
         <source>About Zorv</source>

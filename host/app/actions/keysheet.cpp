@@ -18,10 +18,11 @@ namespace {
 constexpr int PdfResolution = 300;  // dots an inch
 constexpr int PdfMargin = 15;       // millimetres
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("App::KeySheet", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(App::KeySheet)
+};
 
 struct Table
 {
@@ -66,14 +67,14 @@ bool write(const QByteArray& data, const QString& fileName, QString* error)
 
 QString keySheet(const ActionRegistry* registry)
 {
-    const QString title = tr("Keys of Zorv");
+    const QString title = Text::tr("Keys of Zorv");
     QString page = QStringLiteral("<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\">\n"
                                   "<title>%1</title>\n<style>td { padding-right: 2em; } "
                                   "</style></head><body>\n<h1>%1</h1>\n")
                        .arg(title.toHtmlEscaped());
     const QVector<Table> tables = tablesOf(registry);
     for (const Table& table : tables) {
-        const QString menu = table.menu.isEmpty() ? tr("Others") : table.menu;
+        const QString menu = table.menu.isEmpty() ? Text::tr("Others") : table.menu;
         page += QStringLiteral("<h2>%1</h2>\n<table>\n%2</table>\n")
                     .arg(menu.toHtmlEscaped(), table.rows);
     }
@@ -96,7 +97,7 @@ bool saveKeySheetAsPdf(const ActionRegistry* registry, const QString& fileName, 
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setPageMargins(QMarginsF(PdfMargin, PdfMargin, PdfMargin, PdfMargin),
                               QPageLayout::Millimeter);
-        writer.setTitle(tr("Keys of Zorv"));
+        writer.setTitle(Text::tr("Keys of Zorv"));
         QTextDocument document;
         document.setHtml(keySheet(registry));
         document.print(&writer);
