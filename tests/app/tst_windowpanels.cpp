@@ -4,6 +4,7 @@
 #include "family/nodes/animationnode.h"
 
 #include <QAction>
+#include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHelpEvent>
@@ -33,6 +34,8 @@ private slots:
     void jumpsToAnAnimation();
     void changesAnimations_data();
     void changesAnimations();
+    void movesSeveralAnimations();
+    void showsTheOrganizerBySetting();
     void putsANewAnimationOnLinesOfItsOwn();
     void dropsAnimations_data();
     void dropsAnimations();
@@ -228,6 +231,49 @@ void tst_WindowPanels::changesAnimations()
     QCOMPARE(m->edit()->place().line, undoLine);
     QCOMPARE(m->document()->text(), before);
     QCOMPARE(order(), QStringLiteral("1 2 3"));
+}
+
+/// The cursor, which follows the text that goes, does not take the selection along.
+void tst_WindowPanels::movesSeveralAnimations()
+{
+    openAnimations();
+    const QString before = m->document()->text();
+    const auto* organizer = window()->animations()->organizer();
+    const auto place = [this](int row) {
+        return animations()->visualRect(animations()->model()->index(row, 0)).center();
+    };
+    QTest::mouseClick(animations()->viewport(), Qt::LeftButton, {}, place(0));
+    QTest::mouseClick(animations()->viewport(), Qt::LeftButton, Qt::ShiftModifier, place(1));
+    QTRY_VERIFY(m->action("org_bottom")->isEnabled());
+    m->action("org_bottom")->trigger();
+    QCOMPARE(order(), QStringLiteral("3 1 2"));
+    QCOMPARE(organizer->selectedRows(), QVector<int>({1, 2}));
+    QCOMPARE(m->edit()->place().line,
+             m->document()->animations()->animation(organizer->currentRow())->firstLine());
+    m->action("org_up")->trigger();
+    QCOMPARE(order(), QStringLiteral("1 2 3"));
+    QCOMPARE(organizer->selectedRows(), QVector<int>({0, 1}));
+    m->action("undo")->trigger();
+    m->action("undo")->trigger();
+    QCOMPARE(m->document()->text(), before);
+    animations()->setFocus();
+    QTest::keyClick(animations(), Qt::Key_Delete);
+    QCOMPARE(m->document()->animations()->count(), 2);
+}
+
+void tst_WindowPanels::showsTheOrganizerBySetting()
+{
+    const QString key = QStringLiteral("show_organizer");
+    auto* dock = window()->findChild<QDockWidget*>(QStringLiteral("organizer"));
+    QVERIFY(dock);
+    QTRY_VERIFY(dock->isVisible());
+    QCOMPARE(m->host.extraEditor(0)->displayName(), dock->windowTitle());
+    QVERIFY(!m->host.extraEditor(1));
+    dock->close();
+    QCOMPARE(m->host.option(key), QVariant(false));
+    m->host.setOption(key, true);
+    window()->reconfig();
+    QVERIFY(dock->isVisible());
 }
 
 void tst_WindowPanels::putsANewAnimationOnLinesOfItsOwn()
