@@ -179,7 +179,9 @@ void tst_Language::nothingStaysEnglish()
     WindowFixture fixture(folder.filePath("settings.ini"));
     fixture.open(game, game.ryn(), game.animations());
     fixture.action("go_to_line")->trigger();
-    fixture.action("settings")->trigger();
+    for (const char* dialog : {"settings", "keys", "palette"}) {
+        fixture.action(dialog)->trigger();
+    }
     QVERIFY(fixture.window->findChild<App::SettingsDialog*>());
     const auto texts = [](const char* language) {
         Language::use(QLatin1String(language));

@@ -2,6 +2,7 @@
 
 #include "app/actions/actionlist.h"
 #include "app/actions/actionregistry.h"
+#include "app/look/language.h"
 #include "app/mainwindow.h"
 
 #include <QAction>
@@ -23,9 +24,6 @@ ActionPalette::ActionPalette(ActionRegistry* registry, QWidget* parent)
     : QDialog(parent), m_registry(registry), m_list(new ActionList(registry, this)),
       m_field(new QLineEdit), m_view(new QTreeView)
 {
-    setWindowTitle(tr("Find action"));
-    m_field->setPlaceholderText(tr("Type a part of what you want to do"));
-    m_field->setAccessibleName(tr("Find action"));
     m_field->setClearButtonEnabled(true);
     m_field->installEventFilter(this);
     makeView();
@@ -33,6 +31,12 @@ ActionPalette::ActionPalette(ActionRegistry* registry, QWidget* parent)
     layout->addWidget(m_field);
     layout->addWidget(m_view);
     resize(FirstSize);
+    followLanguage(this, [this] {
+        setWindowTitle(tr("Find action"));
+        m_field->setPlaceholderText(tr("Type a part of what you want to do"));
+        m_field->setAccessibleName(tr("Find action"));
+        m_view->setAccessibleName(tr("Actions"));
+    });
     connect(m_field, &QLineEdit::textChanged, this, &ActionPalette::filter);
     connect(m_view, &QTreeView::activated, this, &ActionPalette::choose);
     filter({});
@@ -45,7 +49,6 @@ void ActionPalette::makeView()
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
     m_view->setAllColumnsShowFocus(true);
-    m_view->setAccessibleName(tr("Actions"));
     // The keys stay in the field.
     m_view->setFocusPolicy(Qt::NoFocus);
     m_view->header()->hide();

@@ -3,6 +3,7 @@
 #include "app/actions/actionlist.h"
 #include "app/actions/actionregistry.h"
 #include "app/actions/keysheet.h"
+#include "app/look/language.h"
 #include "app/mainwindow.h"
 #include "core/dialogs/dialogs.h"
 
@@ -25,9 +26,6 @@ KeysDialog::KeysDialog(const ActionRegistry* registry, QWidget* parent)
     : QDialog(parent), m_registry(registry), m_list(new ActionList(registry, this)),
       m_field(new QLineEdit), m_view(new QTreeView)
 {
-    setWindowTitle(tr("Keys"));
-    m_field->setPlaceholderText(tr("Type a part of an action"));
-    m_field->setAccessibleName(tr("Search"));
     m_field->setClearButtonEnabled(true);
     m_list->setOnlyWithKeys(true);
     makeView();
@@ -36,6 +34,12 @@ KeysDialog::KeysDialog(const ActionRegistry* registry, QWidget* parent)
     layout->addWidget(m_view);
     layout->addWidget(makeButtons());
     resize(FirstSize);
+    followLanguage(this, [this] {
+        setWindowTitle(tr("Keys"));
+        m_field->setPlaceholderText(tr("Type a part of an action"));
+        m_field->setAccessibleName(tr("Search"));
+        m_view->setAccessibleName(tr("Keys"));
+    });
     connect(m_field, &QLineEdit::textChanged, m_list, &ActionList::setFilter);
 }
 
@@ -45,7 +49,6 @@ void KeysDialog::makeView()
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
     m_view->setAllColumnsShowFocus(true);
-    m_view->setAccessibleName(tr("Keys"));
     m_view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     // By menu: that is the order in which all of them come.
     m_view->header()->moveSection(ActionList::MenuColumn, 0);
@@ -54,13 +57,17 @@ void KeysDialog::makeView()
 QWidget* KeysDialog::makeButtons()
 {
     auto* box = new QDialogButtonBox(QDialogButtonBox::Close);
-    QPushButton* pdf = box->addButton(tr("Save as &PDF..."), QDialogButtonBox::ActionRole);
-    QPushButton* html = box->addButton(tr("Save as &HTML..."), QDialogButtonBox::ActionRole);
+    QPushButton* pdf = box->addButton(QString(), QDialogButtonBox::ActionRole);
+    QPushButton* html = box->addButton(QString(), QDialogButtonBox::ActionRole);
     pdf->setObjectName(QStringLiteral("save_pdf"));
     html->setObjectName(QStringLiteral("save_html"));
     // Return in the field looks for something, and saves nothing.
     pdf->setAutoDefault(false);
     html->setAutoDefault(false);
+    followLanguage(box, [pdf, html] {
+        pdf->setText(tr("Save as &PDF..."));
+        html->setText(tr("Save as &HTML..."));
+    });
     connect(pdf, &QPushButton::clicked, this, &KeysDialog::savePdf);
     connect(html, &QPushButton::clicked, this, &KeysDialog::saveHtml);
     connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
