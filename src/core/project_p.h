@@ -18,6 +18,10 @@ public:
     {
     }
 
+    /// Copies files of the project, by their relative paths, to `targetRoot`, which
+    /// lies in the folder `path`; the work of `saveAll()`.
+    void copyFiles(const QStringList& names, const QString& path, const QString& targetRoot);
+
     ParentProject* parent;
     QMap<QString, QVariant> options;
     QSet<ProjectFile*> known;  ///< all that point to the project, also those taken out

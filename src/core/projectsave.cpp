@@ -102,11 +102,16 @@ bool mustWrite(const ProjectFile& file, FileID id, bool asCopy)
     return asCopy ? file.isModified() || !QFile::exists(file.fileName()) : id != FileID::MainCode;
 }
 
+bool writeOne(ProjectFile& file, const QString& target, bool asCopy)
+{
+    const LazySync::Exception waits(file.isModified() || !QFile::exists(file.fileName()));
+    return forcePath(target) && file.toFile(*FileSystemArchive::instance(), target, asCopy);
+}
+
 }  // namespace
 
 void Project::saveAll(const QString& path, bool asCopy, QStringList* files)
 {
-    Archive& disk = *FileSystemArchive::instance();
     const QString root = absolutePath();
     const QString targetRoot = path + basePath();
     PendingFiles pending = referredFiles(*this, root, asCopy);
@@ -121,7 +126,7 @@ void Project::saveAll(const QString& path, bool asCopy, QStringList* files)
         ProjectFile* file = it.key();
         const QString name = cleanName(file->fileName());
         if (!asCopy) {
-            file->m_archive = &disk;
+            file->m_archive = FileSystemArchive::instance();
         }
         const bool inside = name.isEmpty() || name.startsWith(root);
         if (!mustWrite(*file, it.value(), asCopy) || file->archive() != m_archive || !inside) {
@@ -134,24 +139,31 @@ void Project::saveAll(const QString& path, bool asCopy, QStringList* files)
         }
         const QString target = targetRoot + relative;
         pending.removePath(relative);
-        const LazySync::Exception waits(file->isModified() || !QFile::exists(name));
-        if (!isBelow(target, path) || !forcePath(target) || !file->toFile(disk, target, asCopy)) {
+        if (!isBelow(target, path) || !writeOne(*file, target, asCopy)) {
             d->failedFiles.append(relative);
             d->hasWriteFailure = true;
         }
     }
-
-    for (const QString& relative : pending.paths()) {
-        const QString source = root + relative;
-        const QString target = targetRoot + relative;
-        const bool stays = QDir::cleanPath(source) == QDir::cleanPath(target);
-        if (!stays && (!isBelow(target, path) || !copyOne(*m_archive, source, target))) {
-            d->failedFiles.append(relative);
-            d->hasWriteFailure = d->hasWriteFailure || m_archive != &disk || QFile::exists(source);
-        }
-    }
+    d->copyFiles(pending.paths(), path, targetRoot);
     if (!asCopy) {
-        m_archive = &disk;
+        m_archive = FileSystemArchive::instance();
+    }
+}
+
+void ProjectPrivate::copyFiles(const QStringList& names, const QString& path,
+                               const QString& targetRoot)
+{
+    Archive& source = *project()->archive();
+    const bool isOnDisk = &source == FileSystemArchive::instance();
+    const QString root = project()->absolutePath();
+    for (const QString& relative : names) {
+        const QString name = root + relative;
+        const QString target = targetRoot + relative;
+        const bool stays = QDir::cleanPath(name) == QDir::cleanPath(target);
+        if (!stays && (!isBelow(target, path) || !copyOne(source, name, target))) {
+            failedFiles.append(relative);
+            hasWriteFailure = hasWriteFailure || !isOnDisk || QFile::exists(name);
+        }
     }
 }
 
