@@ -76,12 +76,13 @@ const PanelTitle panelTitles[] = {
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget),
-      m_hint(new QLabel), m_tabs(new DocumentTabs), m_lineBar(new LineBar), m_gameTree(new GameTree),
-      m_nodePanel(new NodePanel), m_animations(new AnimationCommands(this)),
-      m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar())),
-      m_textEditor(new CodeTextEditor(this)), m_opener(new GameOpener(this)),
-      m_gameCommands(new GameCommands(this)),
-      m_runCommands(new RunCommands(this)), m_actions(new WindowActions(this)), m_controls(new ControlPlacer(this, m_actions))
+      m_hint(new QLabel), m_tabs(new DocumentTabs), m_lineBar(new LineBar),
+      m_gameTree(new GameTree), m_nodePanel(new NodePanel),
+      m_animations(new AnimationCommands(this)), m_messagePanel(new MessagePanel),
+      m_status(new StatusFields(statusBar())), m_textEditor(new CodeTextEditor(this)),
+      m_opener(new GameOpener(this)), m_gameCommands(new GameCommands(this)),
+      m_runCommands(new RunCommands(this)), m_actions(new WindowActions(this)),
+      m_controls(new ControlPlacer(this, m_actions))
 {
     new ShortcutGuard(this, registry());
     makeCentre();
@@ -138,8 +139,7 @@ void MainWindow::makeDocks()
     QDockWidget* projects = addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* nodes = addDock(m_nodePanel, "nodes", Qt::RightDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
-    QDockWidget* output =
-        addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
+    QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
     resizeDocks({projects, nodes}, {220, 280}, Qt::Horizontal);
     resizeDocks({messages}, {150}, Qt::Vertical);

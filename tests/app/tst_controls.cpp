@@ -92,6 +92,7 @@ private slots:
     void placesByName();
     void showsMenusOnDemand();
     void hidesAMenuWithItsTools();
+    void bringsAnEditorForward();
     void staysSwitchedOff();
     void goesWithItsReceiver();
 
@@ -378,8 +379,34 @@ void tst_Controls::hidesAMenuWithItsTools()
     m->host.setMenuEnabled("snd", "sounds", false);
     QVERIFY(!button->isVisible());
     QVERIFY(!m->window->registry()->isMenuVisible(QStringLiteral("snd_play")));
+    // Its keys are gone with it.
+    m->window->registry()->setShortcut(QStringLiteral("snd_play"), QKeySequence("Ctrl+Alt+9"));
+    QTest::keyClick(m->window.get(), Qt::Key_9, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(m_publisher->told, QVariantList());
     m->host.setMenuEnabled("snd", "sounds", true);
     QVERIFY(button->isVisible());
+    QTest::keyClick(m->window.get(), Qt::Key_9, Qt::ControlModifier | Qt::AltModifier);
+    QCOMPARE(m_publisher->told.size(), 1);
+    // What comes later is hidden as well.
+    m->host.setMenuEnabled("pal", "sprites", false);
+    const auto* late = add("pal_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
+    QTest::qWait(1);
+    QVERIFY(!late->isVisible());
+}
+
+void tst_Controls::bringsAnEditorForward()
+{
+    const TemporaryGame game;
+    m->open(game, game.ryn());
+    QAction* action = m->host.createEditorAction(QStringLiteral("editor_code"), &m_texts, 5);
+    QCOMPARE(action->text(), QStringLiteral("Label 5 en"));
+    const auto* bar = m->window->findChild<QToolBar*>(QStringLiteral("editors_bar"));
+    QTRY_VERIFY(bar->isVisible());
+    m->window->gameTree()->setFocus();
+    QTest::mouseClick(bar->widgetForAction(action), Qt::LeftButton);
+    QVERIFY(m->edit()->hasFocus());
+    m->host.createEditorAction(QStringLiteral("editor_none"), &m_texts, 5)->trigger();
+    QVERIFY(m->edit()->hasFocus());
 }
 
 void tst_Controls::staysSwitchedOff()

@@ -46,9 +46,11 @@ bool isTyping(const QKeyEvent& key)
     return isPlain && !isFunctionKey;
 }
 
+/// A sign that needs the shift key comes with it, and is a key without it.
 bool startsWith(const QKeySequence& sequence, int key)
 {
-    return !sequence.isEmpty() && sequence[0] == key;
+    return !sequence.isEmpty() &&
+           (sequence[0] == key || sequence[0] == (key & ~int(Qt::ShiftModifier)));
 }
 
 }  // namespace

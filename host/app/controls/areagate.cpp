@@ -22,10 +22,16 @@ void AreaGate::setAllowed(bool isAllowed)
     apply();
 }
 
+void AreaGate::setOffered(bool isOffered)
+{
+    m_isOffered = isOffered;
+    apply();
+}
+
 // QAction and QWidget have the property in common, and no class that declares it.
 void AreaGate::apply()
 {
-    m_isEnabled = m_isAllowed && m_active && m_active->isAnyActive(m_areas);
+    m_isEnabled = m_isAllowed && m_isOffered && m_active && m_active->isAnyActive(m_areas);
     parent()->setProperty("enabled", m_isEnabled);
 }
 

@@ -6,8 +6,8 @@
 
 namespace App {
 
-/// Keeps an action or a widget enabled while one of its areas is active and its owner allows
-/// it. Lives as a child of it.
+/// Keeps an action or a widget enabled while one of its areas is active, its owner allows it and
+/// the window offers it. Lives as a child of it.
 class AreaGate : public QObject
 {
     Q_OBJECT
@@ -24,6 +24,9 @@ public slots:
     /// What the owner says: the state of its data.
     void setAllowed(bool isAllowed);
 
+    /// What the window says: tools of a menu that is hidden are not offered.
+    void setOffered(bool isOffered);
+
 private:
     void apply();
     void heedOwner();
@@ -31,6 +34,7 @@ private:
     QPointer<const ActiveAreas> m_active;  ///< may die before the last owner speaks
     QStringList m_areas;
     bool m_isAllowed;
+    bool m_isOffered = true;
     bool m_isEnabled = false;  ///< as it was set here last
 };
 

@@ -7,6 +7,8 @@
 #include <QDockWidget>
 #include <QEvent>
 #include <QMainWindow>
+#include <QMap>
+#include <QPair>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -51,13 +53,19 @@ struct ControlBars::Bar
     QToolBar* tools = nullptr;      // the bar itself, or the one at the top of the panel
     QDockWidget* panel = nullptr;   // null for a tool bar
     QVBoxLayout* layout = nullptr;  // of the panel
-    bool isGroupEnabled = true;
 
     QWidget* host() const { return panel ? static_cast<QWidget*>(panel) : tools; }
 
     QAction* visibilitySwitch() const
     {
         return panel ? panel->toggleViewAction() : tools->toggleViewAction();
+    }
+
+    void retranslate() const
+    {
+        const QString title = row ? row->title.label() : name;
+        host()->setWindowTitle(title);
+        tools->setAccessibleName(title);
     }
 
     // The first item of a panel's layout is its tool bar.
@@ -69,6 +77,7 @@ struct ControlBars::Private
     QMainWindow* window;
     WindowActions* actions;
     std::vector<std::unique_ptr<Bar>> bars;
+    QMap<QPair<QString, QString>, bool> groups;  // of a menu and a group
     bool isUpdatePending = false;
 };
 
@@ -106,7 +115,7 @@ ControlBars::Bar* ControlBars::makeBar(const QString& name)
         makeToolBar(made);
     }
     addSwitch(made);
-    retranslate();
+    made->retranslate();
     return made;
 }
 
@@ -200,13 +209,15 @@ void ControlBars::addSeparator(const QString& name)
 
 void ControlBars::setGroupEnabled(const QString& menu, const QString& group, bool isEnabled)
 {
-    for (const auto& each : d->bars) {
-        if (each->row && each->row->menu && menu == QLatin1String(each->row->menu) &&
-            group == QLatin1String(each->row->group)) {
-            each->isGroupEnabled = isEnabled;
-        }
-    }
+    d->groups.insert({menu, group}, isEnabled);
     updateVisibility();
+}
+
+bool ControlBars::isGroupEnabled(const QString& name) const
+{
+    const BarRow* row = rowOf(name);
+    return !row || !row->menu ||
+           d->groups.value({QLatin1String(row->menu), QLatin1String(row->group)}, true);
 }
 
 /// Many tools come at once, and those that die are still there when they tell it.
@@ -223,7 +234,7 @@ void ControlBars::updateVisibility()
     d->isUpdatePending = false;
     const QStringList off = barsThatAreOff();
     for (const auto& each : d->bars) {
-        const bool isUsed = !each->isEmpty() && each->isGroupEnabled;
+        const bool isUsed = !each->isEmpty() && isGroupEnabled(each->name);
         each->visibilitySwitch()->setVisible(isUsed);
         each->host()->setVisible(isUsed && !off.contains(each->name));
         if (each->panel) {
@@ -235,9 +246,7 @@ void ControlBars::updateVisibility()
 void ControlBars::retranslate()
 {
     for (const auto& each : d->bars) {
-        const QString title = each->row ? each->row->title.label() : each->name;
-        each->host()->setWindowTitle(title);
-        each->tools->setAccessibleName(title);
+        each->retranslate();
     }
 }
 

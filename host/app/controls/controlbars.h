@@ -39,6 +39,9 @@ public:
     /// Allows the bars of a menu and a group, or hides them.
     void setGroupEnabled(const QString& menu, const QString& group, bool isEnabled);
 
+    /// False for a bar whose menu and group are hidden.
+    bool isGroupEnabled(const QString& bar) const;
+
     /// Shows what is to be shown. To be called after something else has changed that,
     /// such as QMainWindow::restoreState().
     void updateVisibility();

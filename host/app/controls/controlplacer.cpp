@@ -77,7 +77,8 @@ QAction* ControlPlacer::addAction(const ActionRequest& request)
     }
     info.waitsForOwner = request.receiver && request.enableSignal;
     m_actions->menu(placeOf(request.name).menu)->addAction(action);
-    const AreaGate* gate = m_actions->registry()->add(action, info);
+    AreaGate* gate = m_actions->registry()->add(action, info);
+    keepGate(request.name, gate);
     if (info.waitsForOwner) {
         connect(request.receiver, request.enableSignal, gate, SLOT(setAllowed(bool)));
     }
@@ -156,8 +157,9 @@ QWidget* ControlPlacer::addWidget(const QString& name, const Zorv::WidgetControl
     m_boxes.insert(name, box);
     QObject* receiver = control.receiver();
     const bool waitsForOwner = receiver && !control.enableSignal().isEmpty();
-    const auto* gate = new AreaGate(m_actions->registry()->activeAreas(),
-                                    {QLatin1String(placeOf(name).area)}, box, waitsForOwner);
+    auto* gate = new AreaGate(m_actions->registry()->activeAreas(),
+                              {QLatin1String(placeOf(name).area)}, box, waitsForOwner);
+    keepGate(name, gate);
     if (waitsForOwner) {
         connect(receiver, control.enableSignal().constData(), gate, SLOT(setAllowed(bool)));
     }
@@ -166,6 +168,12 @@ QWidget* ControlPlacer::addWidget(const QString& name, const Zorv::WidgetControl
     }
     m_bars->addWidget(barOf(name), box, box->isView());
     return box->field();
+}
+
+void ControlPlacer::keepGate(const QString& name, AreaGate* gate)
+{
+    m_gates.insert(name, gate);
+    gate->setOffered(m_bars->isGroupEnabled(barOf(name)));
 }
 
 void ControlPlacer::setMenuEnabled(const char* menu, const char* group, bool isEnabled)
@@ -177,6 +185,12 @@ void ControlPlacer::setMenuEnabled(const char* menu, const char* group, bool isE
     }
     m_actions->showMenu(menu, isAny);
     m_bars->setGroupEnabled(QLatin1String(menu), QLatin1String(group), isEnabled);
+    // Keys work in a hidden menu too.
+    for (auto each = m_gates.cbegin(); each != m_gates.cend(); ++each) {
+        if (*each) {
+            (*each)->setOffered(m_bars->isGroupEnabled(barOf(each.key())));
+        }
+    }
 }
 
 void ControlPlacer::updateVisibility()

@@ -72,12 +72,14 @@ private:
     QAction* addAction(const ActionRequest& request);
     QToolButton* addButton(const QString& name, const Zorv::ToolButtonControl& control);
     QWidget* addWidget(const QString& name, const Zorv::WidgetControl& control);
+    void keepGate(const QString& name, AreaGate* gate);
 
     QMainWindow* m_window;
     WindowActions* m_actions;
     ControlBars* m_bars;
     QActionGroup* m_editors;
     QHash<QString, QPointer<ControlBox>> m_boxes;
+    QHash<QString, QPointer<AreaGate>> m_gates;
     QMap<QPair<QByteArray, QByteArray>, bool> m_groups;  ///< of a menu and a group
 };
 
