@@ -112,13 +112,12 @@ void tst_Theme::textsCanBeRead_data()
             QTest::addRow("%s: token %d", name, i) << token << base;
             QTest::addRow("%s: token %d in the current line", name, i) << token << line;
         }
-        for (const auto ground : {Theme::AddedLine, Theme::RemovedLine}) {
-            QTest::addRow("%s: compared text on %d", name, ground)
-                << palette.color(P::Text) << Theme::colour(kind, ground);
-        }
-        for (const auto ground : {P::Window, P::Base}) {
-            QTest::addRow("%s: error on role %d", name, ground)
-                << Theme::colour(kind, Theme::ErrorText) << palette.color(ground);
+        for (const auto text :
+             {Theme::ErrorText, Theme::AddedText, Theme::RemovedText, Theme::PlaceText}) {
+            for (const auto ground : {P::Window, P::Base}) {
+                QTest::addRow("%s: colour %d on role %d", name, text, ground)
+                    << Theme::colour(kind, text) << palette.color(ground);
+            }
         }
     }
 }

@@ -56,8 +56,9 @@ constexpr RoleRow disabledRoles[] = {
 constexpr QRgb colours[Theme::ColourCount][2] = {
     {0xffecf1fa, 0xff292d35},  // CurrentLine
     {0xffb3261e, 0xffff8f87},  // ErrorText
-    {0xffdcf5e1, 0xff1c3a26},  // AddedLine
-    {0xfffbe3e1, 0xff46242a},  // RemovedLine
+    {0xff116329, 0xff7fd48a},  // AddedText
+    {0xffa40e26, 0xffff9a91},  // RemovedText
+    {0xff3b4fa0, 0xff9db7ff},  // PlaceText
 };
 
 constexpr QRgb tokens[CodeParserSyntax::TokenTypeCount][2] = {

@@ -20,8 +20,9 @@ public:
     enum Colour {
         CurrentLine,  ///< ground of the line with the cursor
         ErrorText,    ///< a text that tells of something wrong
-        AddedLine,    ///< ground of a line that came, in a comparison
-        RemovedLine,  ///< ground of a line that went
+        AddedText,    ///< a line that came, in a comparison
+        RemovedText,  ///< a line that went
+        PlaceText,    ///< a line that tells where
         ColourCount
     };
 

@@ -1,6 +1,7 @@
 #include "app/recovery/recoverydialog.h"
 
 #include "app/look/codefont.h"
+#include "app/look/theme.h"
 #include "core/dialogs/dialogs.h"
 #include "operations/textdiff.h"
 
@@ -33,30 +34,23 @@ enum Column { FileColumn, TimeColumn, DecisionColumn };
 // Nobody reads more of a comparison, and a view of it would take long to fill.
 constexpr int MaxComparison = 400000;
 
-/// Lines that come and go, on the background of the theme.
+/// Lines that come and go.
 class DiffColours : public QSyntaxHighlighter
 {
 public:
-    explicit DiffColours(QPlainTextEdit* edit)
-        : QSyntaxHighlighter(edit->document()),
-          m_isDark(edit->palette().color(QPalette::Base).lightness() < 128)
-    {
-    }
+    explicit DiffColours(QPlainTextEdit* edit) : QSyntaxHighlighter(edit->document()) {}
 
 protected:
     void highlightBlock(const QString& line) override
     {
         if (line.startsWith(QLatin1Char('+'))) {
-            setFormat(0, line.size(), QColor(m_isDark ? "#7fd48a" : "#116329"));
+            setFormat(0, line.size(), Theme::colour(Theme::AddedText));
         } else if (line.startsWith(QLatin1Char('-'))) {
-            setFormat(0, line.size(), QColor(m_isDark ? "#ff9a91" : "#a40e26"));
+            setFormat(0, line.size(), Theme::colour(Theme::RemovedText));
         } else if (line.startsWith(QLatin1String("@@"))) {
-            setFormat(0, line.size(), QColor(m_isDark ? "#9db7ff" : "#3b4fa0"));
+            setFormat(0, line.size(), Theme::colour(Theme::PlaceText));
         }
     }
-
-private:
-    bool m_isDark;
 };
 
 QString nameOf(const AbandonedText& text)
