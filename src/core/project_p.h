@@ -39,7 +39,8 @@ public:
     explicit Place(Project* project);
 
     /// Archives, and names and modified states of documents, are what they were.
-    /// A file of another class keeps a new name if it has one.
+    /// Files of other classes are read again at their old place, and take unsaved
+    /// changes over from the new one; one that is not there any more stays at the new.
     void goBack();
 
 private:
@@ -50,7 +51,8 @@ private:
         QString name;
         bool isModified;
     };
-    static void goBack(const File& file);
+    static void takeDocumentBack(const File& file);
+    static void readBack(const File& file);
 
     QPointer<Project> m_project;
     Archive* m_archive;

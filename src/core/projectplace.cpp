@@ -1,6 +1,7 @@
 #include "core/project_p.h"
 
 #include "code/codedoc/codedocument.h"
+#include "core/filesystemarchive.h"
 #include "core/projectfile.h"
 
 #include <algorithm>
@@ -25,17 +26,20 @@ void Project::Place::goBack()
     };
     m_files.erase(std::remove_if(m_files.begin(), m_files.end(), isStranger), m_files.end());
     for (const File& file : qAsConst(m_files)) {
-        goBack(file);
+        takeDocumentBack(file);
     }
-    // Views on a document have its name: they follow when all documents are back.
+    // Views on a document have its name: they are back with it.
     for (const File& file : qAsConst(m_files)) {
+        if (file.file->fileName() != file.name && !file.name.isEmpty()) {
+            readBack(file);
+        }
         if (file.file->fileName() == file.name) {
             file.file->m_archive = file.archive;
         }
     }
 }
 
-void Project::Place::goBack(const File& file)
+void Project::Place::takeDocumentBack(const File& file)
 {
     auto* document = dynamic_cast<CodeDocument*>(file.file);
     if (document && document->fileName() != file.name) {
@@ -44,6 +48,16 @@ void Project::Place::goBack(const File& file)
         document->setFileName(file.name);
         document->setModified(file.isModified);
         document->pauseWatch(false);
+    }
+}
+
+// Only reading gives another class its name back. Its unsaved content is at the new place by now.
+void Project::Place::readBack(const File& file)
+{
+    const QString written = file.file->fileName();
+    Archive& archive = file.archive ? *file.archive : *FileSystemArchive::instance();
+    if (file.file->fromFile(archive, file.name, false) && file.isModified) {
+        file.file->fromFile(*FileSystemArchive::instance(), written, true);
     }
 }
 
