@@ -111,12 +111,13 @@ bool OrganizerRows::place(const QVector<int>& rows, const QVector<int>& targets,
     const QPointer<OrganizableObject> changed = m_object;
     const Batch batch(this);
     changed->beginChange(title);
-    for (int i = rows.size() - 1; i >= 0; --i) {
+    // Who hears of a move may show another list, or none.
+    for (int i = rows.size() - 1; i >= 0 && m_object == changed; --i) {
         if (targets[i] > rows[i]) {
             moveRow(rows[i], targets[i]);
         }
     }
-    for (int i = 0; i < rows.size(); ++i) {
+    for (int i = 0; i < rows.size() && m_object == changed; ++i) {
         if (targets[i] < rows[i]) {
             moveRow(rows[i], targets[i]);
         }
@@ -124,7 +125,7 @@ bool OrganizerRows::place(const QVector<int>& rows, const QVector<int>& targets,
     if (changed) {
         changed->endChange();
     }
-    return true;
+    return m_object && m_object == changed;
 }
 
 /// The last place is reached by moving the last row in front of the one that goes there.
@@ -138,10 +139,13 @@ void OrganizerRows::moveRow(int from, int to)
         m_object->move(unsigned(from), unsigned(to));
         return;
     }
+    const QPointer<OrganizableObject> changed = m_object;
     if (from < last - 1) {
-        m_object->move(unsigned(from), unsigned(last - 1));
+        changed->move(unsigned(from), unsigned(last - 1));
     }
-    m_object->move(unsigned(last), unsigned(last - 1));
+    if (changed && m_object == changed) {
+        changed->move(unsigned(last), unsigned(last - 1));
+    }
 }
 
 void OrganizerRows::organize()

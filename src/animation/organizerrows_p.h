@@ -25,7 +25,8 @@ public:
     OrganizableObject* object() const { return m_object; }
 
     /// Brings each of `rows` to the place with the same number in `targets`. Both ascend, and
-    /// no row crosses another of them. False, and no step of undo, if all are there.
+    /// no row crosses another of them. False, and no step of undo, if all are there; false
+    /// also if another list is shown by then.
     bool place(const QVector<int>& rows, const QVector<int>& targets, const QString& title);
 
     /// Sorts the list.
