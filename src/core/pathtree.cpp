@@ -181,10 +181,9 @@ void ParentProjectPrivate::placeProject(CodeDocument* main)
 {
     Project* project = main->project();
     const QString fileName = main->fileName();
-    BasePath* folder =
-        fileName.isEmpty()
-            ? nullptr
-            : addPath(this, QFileInfo(fileName).absolutePath(), ParentProject::ListNothing, {});
+    BasePath* folder = fileName.isEmpty() ? nullptr
+                                          : addPath(this, QFileInfo(fileName).absolutePath(),
+                                                    ParentProject::ListNothing, {});
     BasePath* node = folder ? folder : this;
     BasePath* former = projects.value(project).node;
     if (former != node) {
