@@ -96,7 +96,7 @@ struct ActionRegistry::Private
         entries.remove(name);
     }
 
-    void applyKeys(const QString& name)
+    void applyKeys(const QString& name) const
     {
         const Entry entry = entries.value(name);
         const QVariant chosen = chosenKey(name);

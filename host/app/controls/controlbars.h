@@ -27,20 +27,20 @@ public:
     ControlBars(QMainWindow* window, WindowActions* actions);
     ~ControlBars() override;
 
-    /// Puts a button into a bar, which is made if need be.
-    QToolButton* addButton(const QString& bar, QAction* action);
+    /// Puts a button into the bar of a name, which is made if need be.
+    QToolButton* addButton(const QString& name, QAction* action);
 
     /// Puts a widget into a bar; `takesRoom` for one that takes all that is left in a panel.
     /// The bar owns it.
-    void addWidget(const QString& bar, QWidget* widget, bool takesRoom = false);
+    void addWidget(const QString& name, QWidget* widget, bool takesRoom = false);
 
-    void addSeparator(const QString& bar);
+    void addSeparator(const QString& name);
 
     /// Allows the bars of a menu and a group, or hides them.
     void setGroupEnabled(const QString& menu, const QString& group, bool isEnabled);
 
     /// False for a bar whose menu and group are hidden.
-    bool isGroupEnabled(const QString& bar) const;
+    bool isGroupEnabled(const QString& name) const;
 
     /// Shows what is to be shown. To be called after something else has changed that,
     /// such as QMainWindow::restoreState().
