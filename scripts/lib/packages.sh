@@ -11,7 +11,7 @@ packages_run=(
     fonts-droid-fallback   # the sample game has comments in Japanese
     qttranslations5-l10n   # Qt's own texts in the language of the window
 )
-packages_test=(python3)
+packages_test=(python3 qttranslations5-l10n)
 packages_bench=(libkf5syntaxhighlighting-dev)
 packages_fuzz=(clang libclang-rt-14-dev)
 packages_format=(clang-format-14)
