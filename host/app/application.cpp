@@ -54,9 +54,10 @@ Usage parse(const QStringList& arguments)
     Usage usage;
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments[i];
-        const auto* option = std::find_if(
-            std::begin(options), std::end(options),
-            [&argument](const Option& row) { return argument == QLatin1String(row.name); });
+        const auto* option =
+            std::find_if(std::begin(options), std::end(options), [&argument](const Option& row) {
+                return argument == QLatin1String(row.name);
+            });
         if (option != std::end(options)) {
             usage.*option->value = arguments.value(++i);
             if ((usage.*option->value).isEmpty()) {
