@@ -45,6 +45,7 @@ private slots:
     void backupGoesThereAndBack();
     void faultyNameIsTold();
     void restoreAsksAboutUnsavedWork();
+    void replacedFilesAreKeptWithoutDiscardedChanges();
     void restoreBringsNewFiles();
     void looseProjectIsSavedAsFile();
     void gameIsSavedAsFolder_data();
@@ -159,6 +160,20 @@ void TestGameCommands::restoreAsksAboutUnsavedWork()
     restoreFirst();
     QCOMPARE(w().dialogs.count("choose"), 1);
     QCOMPARE(w().document()->text(), text);
+}
+
+void TestGameCommands::replacedFilesAreKeptWithoutDiscardedChanges()
+{
+    makeBackup("b");
+    w().type("; saved ");
+    w().action("save")->trigger();
+    const QByteArray saved = m_game->read("characters/ryn/basic.anim");
+    w().type("; discarded ");
+    w().dialogs.choiceAnswers = {1};
+    restoreFirst();
+    QVERIFY(!w().document()->text().contains("; saved "));
+    const QString kept = w().window->session()->game()->backups().filter("Before restore").value(0);
+    QCOMPARE(m_game->read("backup/" + kept + "/characters/ryn/basic.anim"), saved);
 }
 
 void TestGameCommands::restoreBringsNewFiles()

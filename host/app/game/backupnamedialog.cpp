@@ -51,6 +51,7 @@ void BackupNameDialog::check()
 {
     const QString fault = Family::backupNameFault(m_name->text());
     m_fault->setText(fault);
+    resize(width(), qMax(height(), layout()->totalHeightForWidth(width())));
     m_ok->setEnabled(fault.isEmpty());
 }
 

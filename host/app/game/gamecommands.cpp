@@ -77,6 +77,14 @@ void GameCommands::restoreBackup()
         !askAboutUnsaved(m_window->session()->modifiedDocuments())) {
         return;
     }
+    // What is discarded leaves the memory too, or the backup of what is replaced would hold it
+    // instead of the files.
+    const QList<FamilyDocument*> discarded = m_window->session()->modifiedDocuments();
+    for (FamilyDocument* document : discarded) {
+        if (QFileInfo::exists(document->fileName())) {
+            document->reload();
+        }
+    }
     const BackupResult result = Family::restoreBackup(game, dialog.folder());
     tell(tr("Restore backup"),
          result.folder.isEmpty()

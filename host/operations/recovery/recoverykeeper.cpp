@@ -237,7 +237,7 @@ void RecoveryKeeper::Private::copy(FamilyDocument* document, Watched* watched)
 {
     QString error;
     if (!folder && !(folder = SessionFolder::create(root, &error))) {
-        fail(error);
+        fail(RecoveryKeeper::tr("Unsaved texts cannot be put aside. %1").arg(error));
         return;
     }
     RecoveryCopy content;
