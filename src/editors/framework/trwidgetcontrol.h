@@ -7,10 +7,14 @@ namespace Zorv {
 class Translator;
 
 /// A widget with a label, or for a check box with a text, of a table of texts.
+///
+/// The host takes label, tool tip and status tip from the translator by `textId`,
+/// and asks again when the language changes.
 class ZORV_EXPORT trWidgetControl : public WidgetControl
 {
 public:
-    /// The translator is not owned.
+    /// As for `WidgetControl`. The translator is not owned, and lives as long as
+    /// the widget.
     trWidgetControl(Kind kind, int size, Translator* translator, unsigned textId, QObject* receiver,
                     const char* changedSlot = nullptr, const char* setSignal = nullptr,
                     const char* enableSignal = nullptr, Flags flags = NoFlags);
@@ -25,7 +29,7 @@ private:
     unsigned m_textId;
 };
 
-/// A field for a whole number.
+/// A field for a whole number; slot and signal take an `int`.
 class ZORV_EXPORT SpinEditControl : public trWidgetControl
 {
 public:
@@ -35,7 +39,7 @@ public:
     std::unique_ptr<Control> clone() const override;
 };
 
-/// A field for a real number.
+/// A field for a real number; slot and signal take a `double`.
 class ZORV_EXPORT FloatEditControl : public trWidgetControl
 {
 public:
@@ -45,7 +49,7 @@ public:
     std::unique_ptr<Control> clone() const override;
 };
 
-/// A list to choose from.
+/// A list to choose from; slot and signal take the row as an `int`.
 class ZORV_EXPORT ComboBoxControl : public trWidgetControl
 {
 public:
