@@ -1892,6 +1892,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Unsaved texts cannot be put aside: %1. Save often, and make room on the disk.</source>
         <translation>Ungespeicherte Texte können nicht gesichert werden: %1. Bitte oft speichern und auf dem Datenträger Platz schaffen.</translation>
     </message>
+    <message>
+        <source>Unsaved texts cannot be put aside. %1</source>
+        <translation>Ungespeicherte Texte können nicht gesichert werden. %1</translation>
+    </message>
 </context>
 <context>
     <name>Family::SessionFolder</name>
