@@ -253,6 +253,8 @@ void TestGameCommands::placesThatAreRefused_data()
     QTest::newRow("the same") << QString() << "warning";
     QTest::newRow("below it") << "characters"
                               << "warning";
+    QTest::newRow("a link into it") << "link"
+                                    << "warning";
     QTest::newRow("full, and the person says no") << "full"
                                                   << "question";
 }
@@ -263,7 +265,9 @@ void TestGameCommands::placesThatAreRefused()
     QFETCH(QString, kind);
     m_game->write("zorv-player", "");
     QVERIFY(QDir().mkpath(m_dir->filePath("full/x")));
-    w().dialogs.fileAnswers = {{place == "full" ? m_dir->filePath(place) : m_game->path(place)}};
+    QVERIFY(QFile::link(m_game->path("characters"), m_dir->filePath("link")));
+    const bool isOutside = place == "full" || place == "link";
+    w().dialogs.fileAnswers = {{isOutside ? m_dir->filePath(place) : m_game->path(place)}};
     w().dialogs.buttonAnswers = {Dialogs::No};
     w().action("save_all_as")->trigger();
     QCOMPARE(w().dialogs.count(kind), 1);

@@ -46,6 +46,13 @@ QString paragraph(const QString& text, const QStringList& paths)
     return paths.isEmpty() ? QString() : text + QLatin1String("\n") + namesOf(paths);
 }
 
+/// With "/" at its end; a link leads into the folder that it names.
+QString realPath(const QString& folder)
+{
+    const QString real = QDir(folder).canonicalPath();
+    return (real.isEmpty() ? QDir(folder).absolutePath() : real) + QLatin1Char('/');
+}
+
 }  // namespace
 
 GameCommands::GameCommands(MainWindow* window) : QObject(window), m_window(window) {}
@@ -154,11 +161,8 @@ QString GameCommands::askForPlace(bool* isFile) const
 bool GameCommands::mayWriteInto(const QString& folder) const
 {
     const QString shown = QDir::toNativeSeparators(folder);
-    const QDir root(m_window->session()->folder());
     const QDir target(folder);
-    const QString below = target.absolutePath() + QLatin1Char('/');
-    if (below.startsWith(root.absolutePath() + QLatin1Char('/')) ||
-        target.canonicalPath() == root.canonicalPath()) {
+    if (realPath(folder).startsWith(realPath(m_window->session()->folder()))) {
         Dialogs::instance()->warning(
             tr("Save all as"),
             tr("%1 lies in the folder of the game. Choose a folder outside of it.").arg(shown));
