@@ -8,7 +8,7 @@ LazySync* s_current = nullptr;
 
 }  // namespace
 
-LazySync::LazySync()
+LazySync::LazySync(Use use) : m_use(use)
 {
     if (!s_current) {
         s_current = this;
@@ -36,7 +36,7 @@ bool LazySync::isNewFolder(const QString& folder)
 
 LazySync::Exception::Exception(bool isNeeded) : m_former(s_current)
 {
-    if (isNeeded) {
+    if (isNeeded && s_current && s_current->m_use == Kept) {
         s_current = nullptr;
     }
 }

@@ -14,7 +14,12 @@ namespace Zorv {
 class LazySync
 {
 public:
-    LazySync();
+    enum Use {
+        Kept,      ///< the new files are there to stay
+        Temporary  ///< they go again: there is no exception
+    };
+
+    explicit LazySync(Use use = Kept);
     ~LazySync();
     LazySync(const LazySync&) = delete;
     LazySync& operator=(const LazySync&) = delete;
@@ -39,6 +44,7 @@ public:
     };
 
 private:
+    Use m_use;
     QSet<QString> m_folders;
 };
 

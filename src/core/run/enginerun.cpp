@@ -189,7 +189,7 @@ bool EngineRun::writeCopy(Project* project, const QString& folder, const QString
     const QPointer<Project> alive = project;
     QStringList failed;
     bool isNamed = false;
-    const LazySync lazy;
+    const LazySync lazy(LazySync::Temporary);
     if (mainName.isEmpty()) {
         isNamed = project->file(FileID::MainCode)
                       ->toFile(*FileSystemArchive::instance(), folder + name, true);
