@@ -173,7 +173,7 @@ public:
     /// project that belongs to no game `newRoot` is the new name of its main file;
     /// else it is a folder, with "/" at its end, and all projects of the game go
     /// there, open or not. If a file of an open project cannot be written there, or
-    /// the person gives up, the root stays, documents know their old files again,
+    /// the person gives up, the root stays, all files have their old names again,
     /// and what was written stays at the new place.
     void saveAs(const QString& newRoot);
 
