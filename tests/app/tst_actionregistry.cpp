@@ -221,6 +221,7 @@ void tst_ActionRegistry::forgetsTheDead()
     QAction* old = add(info("act", "Ctrl+G"));
     QAction* replacing = add(info("act", "Ctrl+G"));
     QVERIFY(m_registry->clashes().isEmpty());
+    QVERIFY(old->shortcuts().isEmpty() && !old->isVisible());
     delete old;
     QCOMPARE(m_registry->action(QStringLiteral("act")), replacing);
     delete replacing;

@@ -141,6 +141,11 @@ AreaGate* ActionRegistry::add(QAction* action, const ActionInfo& info)
         delete old.gate;
         d->forget(info.name);
     }
+    if (old.action && old.action != action) {
+        // Two with one key would both be dead.
+        old.action->setShortcuts(QList<QKeySequence>());
+        old.action->setVisible(false);
+    }
     auto* gate = new AreaGate(&d->areas, info.areas, action, info.waitsForOwner);
     d->names.append(info.name);
     d->entries.insert(info.name, {action, info, gate});

@@ -52,8 +52,8 @@ public:
     explicit ActionRegistry(QObject* parent = nullptr);
     ~ActionRegistry() override;
 
-    /// Takes an action in. One that has the name already is forgotten. Gives the
-    /// action's gate, which is a child of it.
+    /// Takes an action in. One that has the name already is forgotten, and is
+    /// seen no more. Gives the action's gate, which is a child of it.
     AreaGate* add(QAction* action, const ActionInfo& info);
 
     /// The names, in the order in which the actions came.
