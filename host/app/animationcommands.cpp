@@ -58,7 +58,7 @@ const CodeNode* animationAt(const Family::FamilyDocument* document, int line)
     }
     return node->type() == CodeNode::Animation
                ? node
-               : node->previous(CodeNode::Animation, CodeNode::StopAtCode);
+               : node->previous(CodeNode::Animation, CodeNode::Group);
 }
 
 }  // namespace

@@ -163,6 +163,11 @@ void tst_WindowPanels::followsTheCursor()
     m->press(Qt::Key_Down);
     QCOMPARE(animations()->currentIndex().row(), 2);
     QTRY_COMPARE(nodes()->lineOf(window()->nodePanel()->currentIndex()), 8);
+    m->press(Qt::Key_End);
+    m->press(Qt::Key_Return);
+    m->type(QStringLiteral("frame 0,3"));
+    QCOMPARE(animations()->currentIndex().row(), 2);
+    QVERIFY(m->action("anim_duplicate")->isEnabled());
     QVERIFY(window()->openFile(m_game->ryn()));
     QCOMPARE(animations()->model()->rowCount(), 0);
 }
