@@ -22,6 +22,7 @@ namespace {
 constexpr int Turn = 40;  // milliseconds
 constexpr int BytesATurn = 16 * 1024;
 constexpr int LinesATurn = 400;
+constexpr int UsualColumns = 80;
 
 /// Where the piece ends that begins at `from`; `lines` takes its line ends.
 int endOfPiece(const QByteArray& bytes, int from, int* lines)
@@ -223,6 +224,11 @@ void OutputPanel::copyAll() const
 QString OutputPanel::text() const
 {
     return m_edit->toPlainText();
+}
+
+QSize OutputPanel::sizeHint() const
+{
+    return {m_edit->fontMetrics().averageCharWidth() * UsualColumns, QWidget::sizeHint().height()};
 }
 
 }  // namespace App

@@ -40,6 +40,9 @@ public:
     /// What is shown.
     QString text() const;
 
+    /// Lines are wider than messages are.
+    QSize sizeHint() const override;
+
 protected:
     void changeEvent(QEvent* event) override;
 
