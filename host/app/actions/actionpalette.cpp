@@ -54,7 +54,7 @@ void ActionPalette::makeView()
     m_view->header()->hide();
     m_view->header()->setStretchLastSection(false);
     m_view->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_view->header()->setSectionResizeMode(ActionList::MenuColumn, QHeaderView::Stretch);
+    m_view->header()->setSectionResizeMode(ActionList::KeyColumn, QHeaderView::Stretch);
 }
 
 void ActionPalette::filter(const QString& typed)
