@@ -163,7 +163,11 @@ void EnginesPage::remove()
     const int row = m_list->currentRow();
     if (row >= 0) {
         m_engines.remove(row);
-        delete m_list->takeItem(row);
+        {
+            // On its way to the next row the list names one that is gone.
+            const QSignalBlocker blocker(m_list);
+            delete m_list->takeItem(row);
+        }
         showEngine();
         emit edited();
     }
@@ -189,11 +193,14 @@ void EnginesPage::move(int distance)
 void EnginesPage::setEngines(const QVector<EngineInfo>& engines)
 {
     m_engines = engines;
-    m_list->clear();
-    for (const EngineInfo& engine : engines) {
-        m_list->addItem(engine.name);
+    {
+        const QSignalBlocker blocker(m_list);
+        m_list->clear();
+        for (const EngineInfo& engine : engines) {
+            m_list->addItem(engine.name);
+        }
+        m_list->setCurrentRow(engines.isEmpty() ? -1 : 0);
     }
-    m_list->setCurrentRow(engines.isEmpty() ? -1 : 0);
     showEngine();
 }
 
