@@ -1190,6 +1190,17 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>App::WindowInterface</name>
+    <message>
+        <source>Choose palettes</source>
+        <translation>Paletten wählen</translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <translation>Paletten</translation>
+    </message>
+</context>
+<context>
     <name>App::WorkRecovery</name>
     <message>
         <source>Unsaved texts</source>

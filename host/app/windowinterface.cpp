@@ -2,17 +2,21 @@
 
 #include "animation/organizereditor.h"
 #include "app/animationcommands.h"
+#include "app/codeedit.h"
+#include "app/codetexteditor.h"
 #include "app/controls/controlplacer.h"
+#include "app/documenttabs.h"
+#include "app/game/gamecommands.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
-#include "family/familydocument.h"
-#include "app/game/gamecommands.h"
-#include "app/documenttabs.h"
-#include "app/codetexteditor.h"
-#include "app/codeedit.h"
 #include "app/progressdialog.h"
 #include "app/statusfields.h"
+#include "core/dialogs/dialogs.h"
+#include "family/familydocument.h"
 #include "family/project/familyproject.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
 
 namespace App {
 
@@ -59,6 +63,24 @@ int WindowInterface::pixels(int size) const
 {
     return m_window ? qRound(size * m_window->logicalDpiX() / ReferenceResolution)
                     : HostInterface::pixels(size);
+}
+
+void WindowInterface::selectPaletteFiles(QStringList& files, QStringList& names, bool* flag)
+{
+    const Zorv::Project* project = currentProject();
+    const QString near = files.value(0, project ? project->fileName() : QString());
+    files = Zorv::Dialogs::instance()->openFileNames(
+        m_window, QCoreApplication::translate("App::WindowInterface", "Choose palettes"),
+        QFileInfo(near).absolutePath(),
+        QCoreApplication::translate("App::WindowInterface", "Palettes") +
+            QLatin1String(" (*.act *.pal)"));
+    names.clear();
+    for (const QString& file : qAsConst(files)) {
+        names.append(QFileInfo(file).completeBaseName());
+    }
+    if (flag) {
+        *flag = false;
+    }
 }
 
 void WindowInterface::showStatus(int field, const QString& text)

@@ -32,6 +32,11 @@ public:
     Zorv::Project* currentProject() const override;
     int pixels(int size) const override;
 
+    /// Palettes are named as their files are; `flag`, if not null, becomes false. Both lists are
+    /// empty if the person gives up. Begins in the folder of the first of `files`, else in that
+    /// of the project in front.
+    void selectPaletteFiles(QStringList& files, QStringList& names, bool* flag) override;
+
     /// Fields 1 (problems) and 2 (encoding) are those of the status bar; any
     /// other number shows a passing text.
     void showStatus(int field, const QString& text) override;

@@ -56,6 +56,7 @@ private slots:
     void newFileIsAskedForItsName_data();
     void newFileIsAskedForItsName();
     void editorWorksOnTheTextInFront();
+    void palettesAreChosen();
     void progressCanBeGivenUp();
 
 private:
@@ -318,6 +319,20 @@ void TestGameCommands::newFileIsAskedForItsName()
     QCOMPARE(file->fileName(), name);
     QCOMPARE(m_game->read("characters/ryn/new.commands"), QByteArray("x"));
     QVERIFY(!file->isModified());
+}
+
+void TestGameCommands::palettesAreChosen()
+{
+    QStringList files, names{"old"};
+    bool flag = true;
+    w().dialogs.fileAnswers = {{"/a/red.act", "/a/dark.blue.pal"}};
+    w().host.selectPaletteFiles(files, names, &flag);
+    QCOMPARE(files, QStringList({"/a/red.act", "/a/dark.blue.pal"}));
+    QCOMPARE(names, QStringList({"red", "dark.blue"}));
+    QVERIFY(!flag);
+    w().dialogs.fileAnswers = {{}};
+    w().host.selectPaletteFiles(files, names, nullptr);
+    QVERIFY(files.isEmpty() && names.isEmpty());
 }
 
 void TestGameCommands::editorWorksOnTheTextInFront()
