@@ -318,8 +318,8 @@
         <translation>Die Parameter werden an Leerzeichen getrennt. Jede Marke wird durch den Namen der Kopie eines Projekts ersetzt: %0 durch das vordere Projekt, %1 durch das erste geöffnete, %2 durch das zweite und so weiter. Mindestens eine Marke ist nötig.</translation>
     </message>
     <message>
-        <source>The list of engines could not be saved. Check the permissions of the settings file.</source>
-        <translation>Die Liste der Engines konnte nicht gespeichert werden. Bitte die Rechte der Einstellungsdatei prüfen.</translation>
+        <source>The settings could not be saved. Check the permissions of the settings file.</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden. Bitte die Rechte der Einstellungsdatei prüfen.</translation>
     </message>
     <message>
         <source>New engine</source>

@@ -75,7 +75,8 @@ bool saveEngines(QSettings& settings, const QVector<Zorv::EngineInfo>& engines)
     }
     settings.endArray();
     settings.sync();
-    return settings.status() == QSettings::NoError;
+    // What was wrong with the file when it was read is over: it is written anew.
+    return settings.status() != QSettings::AccessError;
 }
 
 void useEngines(QSettings& settings)

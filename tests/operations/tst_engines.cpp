@@ -28,6 +28,7 @@ class TestEngines : public QObject
 
 private slots:
     void listsComeBack();
+    void damagedFileIsWrittenAnew();
     void settingsOfAnyKind_data();
     void settingsOfAnyKind();
     void problems_data();
@@ -56,6 +57,19 @@ void TestEngines::listsComeBack()
     QCOMPARE(texts(FamilyEngineModel::instance()->engines()), texts(engines));
     useEngines(*std::make_unique<QSettings>(m_dir.filePath("none"), QSettings::IniFormat));
     QCOMPARE(FamilyEngineModel::instance()->engineCount(), 0);
+}
+
+void TestEngines::damagedFileIsWrittenAnew()
+{
+    const QString fileName = m_dir.filePath("damaged.conf");
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[General\n");
+    file.close();
+    QSettings settings(fileName, QSettings::IniFormat);
+    QCOMPARE(settings.status(), QSettings::FormatError);
+    QVERIFY(saveEngines(settings, {{"Fight", "/fight", "%0", ""}}));
+    QCOMPARE(loadEngines(*std::make_unique<QSettings>(fileName, QSettings::IniFormat)).size(), 1);
 }
 
 void TestEngines::settingsOfAnyKind_data()

@@ -133,8 +133,9 @@ bool EnginesPage::write(QString* error)
     auto* model = Family::FamilyEngineModel::instance();
     if (QSettings* store = settings()) {
         if (!Family::saveEngines(*store, m_engines)) {
-            *error = tr("The list of engines could not be saved. Check the permissions of the "
-                        "settings file.");
+            // It is the first that looks whether the file was written; nothing else was either.
+            *error = tr("The settings could not be saved. Check the permissions of the settings "
+                        "file.");
             return false;
         }
     }
