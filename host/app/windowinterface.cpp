@@ -100,10 +100,10 @@ QAction* WindowInterface::createAction(const char* const* areas, const QString& 
                                        const char* shortcut, QObject* receiver, const char* slot,
                                        const char* enableSignal, const char* checkSignal)
 {
-    return m_window ? m_window->controls()->createAction({areas, name, translator, textId, shortcut,
-                                                          receiver, slot, enableSignal,
-                                                          checkSignal})
-                    : nullptr;
+    return m_window
+               ? m_window->controls()->createAction({areas, name, translator, textId, shortcut,
+                                                     receiver, slot, enableSignal, checkSignal})
+               : nullptr;
 }
 
 QAction* WindowInterface::createEditorAction(const QString& name, Zorv::Translator* translator,
