@@ -126,10 +126,6 @@
         <translation>&amp;Über Zorv</translation>
     </message>
     <message>
-        <source>Setti&amp;ngs...</source>
-        <translation>E&amp;instellungen ...</translation>
-    </message>
-    <message>
         <source>Save all &amp;as...</source>
         <translation>Alles speichern &amp;unter ...</translation>
     </message>
@@ -156,6 +152,10 @@
     <message>
         <source>&amp;Keys...</source>
         <translation>&amp;Tasten ...</translation>
+    </message>
+    <message>
+        <source>&amp;Options...</source>
+        <translation>&amp;Optionen ...</translation>
     </message>
 </context>
 <context>
@@ -541,12 +541,6 @@
         <translation>Meldungen</translation>
     </message>
     <message>
-        <source>Open a game folder with Ctrl+O.
-A double click in the tree of projects shows a text.</source>
-        <translation>Mit Strg+O wird ein Spielordner geöffnet.
-Ein Doppelklick im Baum der Projekte zeigt einen Text.</translation>
-    </message>
-    <message>
         <source>Open game folder</source>
         <translation>Spielordner öffnen</translation>
     </message>
@@ -594,6 +588,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Engine output</source>
         <translation>Ausgabe der Engine</translation>
     </message>
+    <message>
+        <source>A double click in the tree of projects shows a text.</source>
+        <translation>Ein Doppelklick im Baum der Projekte zeigt einen Text.</translation>
+    </message>
+    <message>
+        <source>The menu File opens a game folder.</source>
+        <translation>Das Menü Datei öffnet einen Spielordner.</translation>
+    </message>
 </context>
 <context>
     <name>App::Menus</name>
@@ -628,6 +630,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>S&amp;ounds</source>
         <translation>&amp;Klänge</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>E&amp;xtras</translation>
     </message>
 </context>
 <context>
@@ -1072,16 +1078,16 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>App::SettingsDialog</name>
     <message>
-        <source>Settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
         <source>Pages of settings</source>
         <translation>Seiten der Einstellungen</translation>
     </message>
     <message>
         <source>Shows the defaults of this page</source>
         <translation>Zeigt die Vorgaben dieser Seite</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
     </message>
 </context>
 <context>
@@ -2106,11 +2112,11 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     </message>
     <message>
         <source>Oops, you need to add an engine first. Do it in Tools / Options.</source>
-        <translation>Es ist noch keine Engine eingerichtet. Dies geht in Bearbeiten / Einstellungen.</translation>
+        <translation>Es ist noch keine Engine eingerichtet. Dies geht in Extras / Optionen.</translation>
     </message>
     <message>
         <source>Oops, wrong parameters on the engine configuration. Check it in Tools / Options.</source>
-        <translation>Die Parameter der Engine sind falsch. Bitte in Bearbeiten / Einstellungen prüfen.</translation>
+        <translation>Die Parameter der Engine sind falsch. Bitte in Extras / Optionen prüfen.</translation>
     </message>
     <message>
         <source>Error %1!</source>

@@ -162,8 +162,7 @@ void MainWindow::retranslate()
             dock->setWindowTitle(tr(row.title));
         }
     }
-    m_hint->setText(tr("Open a game folder with Ctrl+O.\n"
-                       "A double click in the tree of projects shows a text."));
+    updateHint();
     m_actions->retranslate();
     m_controls->retranslate();
     tellAll(this, &Zorv::Editor::retranslate);
@@ -212,8 +211,10 @@ void MainWindow::connectParts()
         m_gameTree->setGame(m_session->game());
         updateSoon();
     });
-    connect(m_session, &GameSession::folderAboutToClose, this,
-            [this] { m_gameTree->setGame(nullptr); });
+    connect(m_session, &GameSession::folderAboutToClose, this, [this] {
+        m_gameTree->setGame(nullptr);
+        updateSoon();
+    });
     connect(m_session, &GameSession::projectOpened, this, &MainWindow::updateMessages);
     connect(m_session, &GameSession::projectAboutToClose, this, &MainWindow::forgetProject);
     connect(m_tabs, &DocumentTabs::currentDocumentChanged, this,
@@ -343,7 +344,14 @@ void MainWindow::updateNow()
 {
     m_isUpdatePending = false;
     updateTitle();
+    updateHint();
     updateActions();
+}
+
+void MainWindow::updateHint()
+{
+    m_hint->setText(m_session->game() ? tr("A double click in the tree of projects shows a text.")
+                                      : tr("The menu File opens a game folder."));
 }
 
 void MainWindow::updateActions()

@@ -151,6 +151,7 @@ private:
     void updateNow();
     void updateActions();
     void updateTitle();
+    void updateHint();
     void updateMessages();
     void focusPanel(int step);
     void statusBarText(const QString& text);

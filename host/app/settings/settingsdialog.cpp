@@ -66,7 +66,7 @@ void SettingsDialog::addPage(SettingsPage* page)
 
 void SettingsDialog::retranslate()
 {
-    setWindowTitle(tr("Settings"));
+    setWindowTitle(tr("Options"));
     m_titles->setAccessibleName(tr("Pages of settings"));
     for (int i = 0; i < m_pages.size(); ++i) {
         m_titles->item(i)->setText(m_pages[i]->title());
