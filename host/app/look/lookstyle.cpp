@@ -2,6 +2,7 @@
 
 #include "app/look/icon.h"
 
+#include <QPainter>
 #include <QStyleOption>
 
 namespace App {
@@ -9,6 +10,19 @@ namespace App {
 namespace {
 
 constexpr int IconSize = 16;  // twice as many pixels on a screen at 2x
+constexpr int OutlineAlpha = 128;
+
+// An empty box is darker than its ground, which does not show where that is dark.
+void drawOutline(const QStyleOption* option, QPainter* painter)
+{
+    QColor colour = option->palette.color(QPalette::WindowText);
+    colour.setAlpha(OutlineAlpha);
+    painter->save();
+    painter->setPen(colour);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter->restore();
+}
 
 }  // namespace
 
@@ -29,11 +43,22 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     }
 }
 
+int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returned) const
+{
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons
+               ? 0
+               : QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const
 {
     if (element != PE_IndicatorTabClose) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element == PE_IndicatorCheckBox) {
+            drawOutline(option, painter);
+        }
         return;
     }
     if (option->state & State_Raised) {
