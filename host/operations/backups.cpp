@@ -8,6 +8,7 @@
 #include "operations/sharedfiles.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -110,6 +111,26 @@ QString youngest(const FamilyParentProject& game, const QString& name)
         }
     }
     return {};
+}
+
+/// The name, or with a number behind if a backup of this moment has it: two of one name and
+/// second would share a folder, and the files of the first be replaced.
+QString freeName(const FamilyParentProject& game, const QString& name)
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    QStringList taken;
+    for (const QString& folder : game.backups()) {
+        QString own;
+        const QDateTime time = Zorv::ParentProject::backupTime(folder, &own);
+        if (time.isValid() && qAbs(time.secsTo(now)) <= 1) {
+            taken.append(own);
+        }
+    }
+    QString free = name;
+    for (int i = 2; taken.contains(free); ++i) {
+        free = name + QLatin1Char(' ') + QString::number(i);
+    }
+    return free;
 }
 
 /// What must be kept before a restore: files that it replaces, and unsaved changes.
@@ -248,14 +269,14 @@ QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QStr
     return result;
 }
 
-BackupResult makeBackup(FamilyParentProject* game, const QString& name)
+BackupResult makeBackup(FamilyParentProject* game, const QString& wantedName)
 {
     BackupResult result;
-    result.error = backupNameFault(name);
+    result.error = backupNameFault(wantedName);
     if (!result.error.isEmpty()) {
         return result;
     }
-    const QStringList before = game->backups();
+    const QString name = freeName(*game, wantedName);
     game->backup(name);
     const QStringList failed = game->failedFiles();
     const QString unmade = folderNotMade(*game);
@@ -270,9 +291,7 @@ BackupResult makeBackup(FamilyParentProject* game, const QString& name)
     }
     if (result.isCanceled) {
         // Half a backup would be taken for a whole one.
-        if (!before.contains(made)) {
-            QDir(folderOf(*game, made)).removeRecursively();
-        }
+        QDir(folderOf(*game, made)).removeRecursively();
         return result;
     }
     result.folder = made;

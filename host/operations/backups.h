@@ -63,7 +63,8 @@ QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QStr
                                      QString* error);
 
 /// Copies the open projects, with unsaved changes and with the files of the game
-/// that they share, into a new backup. One that is given up is removed again.
+/// that they share, into a new backup. One that is given up is removed again. If a
+/// backup of the same moment has the name, a number comes behind it.
 BackupResult makeBackup(FamilyParentProject* game, const QString& name);
 
 /// Puts a backup back and reads the open projects again; unsaved changes of

@@ -60,6 +60,7 @@ private slots:
     void sharedFilesAreKept();
     void missingFilesAreNoFailures();
     void givenUpBackupGoes();
+    void backupsOfOneMomentStayApart();
     void restoreKeepsWhatItReplaces();
     void refusesWhatIsNoBackup();
     void sharedFilesMoveAlong();
@@ -158,6 +159,18 @@ void TestBackups::givenUpBackupGoes()
 
 // Whatever a restore replaces can be restored in turn, also what belongs to no
 // open project, and what was never saved.
+void TestBackups::backupsOfOneMomentStayApart()
+{
+    QSet<QString> folders;
+    for (int i = 0; i < 3; ++i) {
+        write("characters/hero/own.wav", QByteArray::number(i));
+        const BackupResult result = makeBackup(m_game.get(), "now");
+        folders.insert(result.folder);
+        QCOMPARE(read(inBackup(result, "characters/hero/own.wav")), QByteArray::number(i));
+    }
+    QCOMPARE(folders.size(), 3);
+}
+
 void TestBackups::restoreKeepsWhatItReplaces()
 {
     write("notes.txt", "old");
