@@ -1,7 +1,7 @@
 #include "app/nodepanel.h"
 
-#include "app/nodemodel.h"
 #include "app/look/language.h"
+#include "app/nodemodel.h"
 
 #include <QTimer>
 

@@ -38,11 +38,9 @@ void setHelp(QToolButton* button, const QString& help)
 }  // namespace
 
 StatusFields::StatusFields(QStatusBar* bar)
-    : QObject(bar), m_bar(bar),
-      m_problems(addButton("problems_field")), m_state(new QLabel(bar)),
+    : QObject(bar), m_bar(bar), m_problems(addButton("problems_field")), m_state(new QLabel(bar)),
       m_lineEnds(new QLabel(bar)), m_encoding(addButton("encoding_field")),
-      m_place(addButton("place_field")),
-      m_watcher(new QFileSystemWatcher(this))
+      m_place(addButton("place_field")), m_watcher(new QFileSystemWatcher(this))
 {
     for (QWidget* widget : {static_cast<QWidget*>(m_problems), static_cast<QWidget*>(m_state),
                             static_cast<QWidget*>(m_lineEnds), static_cast<QWidget*>(m_encoding),

@@ -33,8 +33,8 @@ QIcon resourceIcon(const QString& path)
     if (icon.isNull()) {
         icon = QIcon(path);
         // Qt finds the picture for twice the pixels by itself, and knows no other.
-        icon.addFile(QString(path).insert(path.lastIndexOf(QLatin1Char('.')),
-                                          QLatin1String("@1.5x")));
+        icon.addFile(
+            QString(path).insert(path.lastIndexOf(QLatin1Char('.')), QLatin1String("@1.5x")));
     }
     return icon;
 }
