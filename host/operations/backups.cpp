@@ -88,7 +88,9 @@ bool isMissing(const FamilyParentProject& game, const QString& file)
 
 void sortFailures(const FamilyParentProject& game, const QStringList& files, BackupResult* result)
 {
-    for (const QString& file : files) {
+    for (const QString& named : files) {
+        // A shared file comes with the way to it from its project.
+        const QString file = QDir::cleanPath(named);
         (isMissing(game, file) ? result->missing : result->failed).append(file);
     }
 }
@@ -296,10 +298,6 @@ BackupResult makeBackup(FamilyParentProject* game, const QString& wantedName)
     }
     result.folder = made;
     sortFailures(*game, failed, &result);
-    for (const FamilyProject* project : openProjectsOf(*game)) {
-        const QStringList files = sharedFiles(*project);
-        sortFailures(*game, addToBackup(*game, files, folderOf(*game, made)), &result);
-    }
     result.failed.removeDuplicates();
     result.missing.removeDuplicates();
     if (!result.failed.isEmpty()) {

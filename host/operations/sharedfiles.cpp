@@ -5,7 +5,6 @@
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
-#include "family/project/filereference.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -23,23 +22,6 @@ QList<FamilyProject*> openProjectsOf(const FamilyParentProject& game)
         }
     }
     return result;
-}
-
-QStringList sharedFiles(const FamilyProject& project)
-{
-    const QString root = project.parent()->absolutePath();
-    QStringList files;
-    for (const FamilyDocument* document : project.documents()) {
-        for (const FileReference& reference : fileReferences(document)) {
-            const QString file = project.resolvePath(reference.path);
-            const bool isOwn = file.startsWith(project.absolutePath());
-            if (!isOwn && pathFault(root, project.fileName(), reference.path) == PathFault::Fine) {
-                files.append(file.mid(root.size()));
-            }
-        }
-    }
-    files.removeDuplicates();
-    return files;
 }
 
 FamilyDocument* openDocumentOf(const FamilyParentProject& game, const QString& file)
@@ -64,7 +46,7 @@ QStringList moveSharedFiles(FamilyParentProject* game, const QString& oldRoot)
     QStringList named, failed;
     for (const FamilyProject* project : openProjectsOf(*game)) {
         documents += project->documents();
-        named += sharedFiles(*project);
+        named += project->sharedFiles();
     }
     // Of two documents of one file the one with changes is written last.
     std::stable_partition(documents.begin(), documents.end(),

@@ -13,11 +13,6 @@ class FamilyProject;
 /// The open projects of a game.
 QList<FamilyProject*> openProjectsOf(const FamilyParentProject& game);
 
-/// The files of the game that a project names outside of its own folder, such as
-/// "../../shared/common.code". They are not among those that the library copies
-/// with a project. Relative to the game.
-QStringList sharedFiles(const FamilyProject& project);
-
 /// The open document of a file of the game (relative to it): of several the one
 /// with unsaved changes. Null if there is none.
 FamilyDocument* openDocumentOf(const FamilyParentProject& game, const QString& file);
