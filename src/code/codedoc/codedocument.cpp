@@ -39,6 +39,7 @@ CodeDocument::CodeDocument(short tag) : RootCode(tag)
 
 CodeDocument::~CodeDocument()
 {
+    emit closing();
     QList<CodeDocumentEditor*> editors;
     for (CodeDocumentEditor* editor : qAsConst(d->editors)) {
         if (!editors.contains(editor)) {

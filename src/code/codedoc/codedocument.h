@@ -225,6 +225,9 @@ signals:
     /// signals of rows that come and go while lines are parsed.
     void codeChanged();
 
+    /// The document is about to die, and is still whole: views let go of it now.
+    void closing();
+
 private:
     friend class CodeNode;
     friend class CodeBlockData;

@@ -1,0 +1,246 @@
+#include "editors/code/codeeditor.h"
+
+#include "code/codedoc/codeblockdata.h"
+#include "code/codedoc/codedocument.h"
+#include "editors/code/codecompletion_p.h"
+#include "editors/code/codeeditor_p.h"
+#include "editors/code/codeeditorextraarea_p.h"
+#include "editors/code/codefolding_p.h"
+#include "editors/code/codehighlights_p.h"
+#include "editors/code/codepainter_p.h"
+#include "editors/code/foldedblocks_p.h"
+
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace Zorv {
+
+namespace {
+
+QTextBlock blockAtLine(const QTextDocument* document, int line)
+{
+    const QTextBlock block = document->findBlockByNumber(std::max(line, 0));
+    return block.isValid() ? block : document->lastBlock();
+}
+
+}  // namespace
+
+CodeEditor::CodeEditor(QWidget* parent)
+    : QPlainTextEdit(parent), d(std::make_unique<CodeEditorPrivate>(this))
+{
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    viewport()->setMouseTracking(true);
+    setFrameStyle(QFrame::NoFrame);
+    d->extraArea->updateWidth();
+}
+
+CodeEditor::~CodeEditor() = default;
+
+void CodeEditor::setDocument(CodeDocument* document)
+{
+    d->attach(document);
+}
+
+CodeDocument* CodeEditor::codeDocument() const
+{
+    return d->document;
+}
+
+void CodeEditor::setSyntaxFormatting(const SyntaxFormatting& formatting)
+{
+    d->formatting = formatting;
+    d->extraArea->updateWidth();
+    d->extraArea->place();
+    updateBlockHighlight();
+}
+
+const CodeEditor::SyntaxFormatting& CodeEditor::syntaxFormatting() const
+{
+    return d->formatting;
+}
+
+void CodeEditor::updateBlockHighlight()
+{
+    d->highlights->updateRanges();
+    viewport()->update();
+    d->extraArea->update();
+}
+
+void CodeEditor::setCurrentLine(const LinePos& place)
+{
+    const QTextBlock block = blockAtLine(document(), place.line);
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + qBound(0, place.column, block.length() - 1));
+    setTextCursor(cursor);
+    verticalScrollBar()->setValue(place.scroll);
+    d->highlights->startMatching();
+    emit cursorChanged({cursor.blockNumber(), cursor.positionInBlock()});
+}
+
+void CodeEditor::setCurrentLine(unsigned line, LineType type)
+{
+    const int count = blockCount();
+    const int target = int(std::min(line, unsigned(count - 1)));
+    const int page = displayedLineCount();
+    QTextCursor cursor(blockAtLine(document(), target));
+    reveal(cursor.block());
+    if (target >= page) {
+        int margin = type == TopLine ? page : type == CenterLine ? page / 2 : 0;
+        margin = std::min(margin, count - 1 - target);
+        setTextCursor(QTextCursor(blockAtLine(document(), target + margin)));
+    }
+    setTextCursor(cursor);
+    d->highlights->startMatching();
+}
+
+CodeEditor::LinePos CodeEditor::currentPlace() const
+{
+    const QTextCursor cursor = textCursor();
+    return {cursor.blockNumber(), cursor.positionInBlock(), verticalScrollBar()->value()};
+}
+
+int CodeEditor::displayedLineCount() const
+{
+    return viewport()->height() / std::max(fontMetrics().height(), 1);
+}
+
+void CodeEditor::toggleBlockVisible(const QTextBlock& block)
+{
+    CodeFolding::toggle(block);
+    d->updateLayout();
+}
+
+void CodeEditor::foldAll()
+{
+    CodeFolding::foldAll(document());
+    d->updateLayout();
+}
+
+void CodeEditor::unfoldAll()
+{
+    CodeFolding::unfoldAll(document());
+    d->updateLayout();
+}
+
+void CodeEditor::reveal(const QTextBlock& block)
+{
+    if (block.isValid() && !block.isVisible()) {
+        CodeFolding::reveal(block);
+        d->updateLayout();
+    }
+}
+
+void CodeEditor::moveCursorVisible(bool ensure)
+{
+    QTextCursor cursor = textCursor();
+    if (!cursor.block().isVisible()) {
+        cursor.setVisualNavigation(true);
+        cursor.movePosition(QTextCursor::Up);
+        setTextCursor(cursor);
+    }
+    if (ensure) {
+        ensureCursorVisible();
+    }
+}
+
+QList<int> CodeEditor::rangeStarts() const
+{
+    return d->highlights->blocks().open;
+}
+
+QList<int> CodeEditor::rangeEnds() const
+{
+    return d->highlights->blocks().close;
+}
+
+bool CodeEditor::completerFromFile(const QString& fileName)
+{
+    return d->completion->readFile(fileName);
+}
+
+QString CodeEditor::completerError() const
+{
+    return d->completion->error();
+}
+
+QCompleter* CodeEditor::completer() const
+{
+    return d->completion->completer();
+}
+
+void CodeEditor::showCompletions(QStringListModel* words)
+{
+    d->completion->show(words);
+}
+
+void CodeEditor::mousePressEvent(QMouseEvent* event)
+{
+    d->folds->mousePressed(event);
+    QPlainTextEdit::mousePressEvent(event);
+}
+
+void CodeEditor::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() == Qt::NoButton) {
+        d->folds->mouseMoved(event);
+    } else {
+        QPlainTextEdit::mouseMoveEvent(event);
+    }
+}
+
+void CodeEditor::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Insert && event->modifiers() == Qt::NoModifier) {
+        setOverwriteMode(!overwriteMode());
+        d->baseKeyPress(event);
+        return;
+    }
+    viewport()->setCursor(Qt::BlankCursor);
+    d->folds->clearPreview();
+    if (d->completion->takesKey(event)) {
+        event->ignore();
+        return;
+    }
+    d->baseKeyPress(event);
+    d->completion->keyPressed(event);
+}
+
+void CodeEditor::paintEvent(QPaintEvent* event)
+{
+    CodePainter(d.get()).paint(event);
+}
+
+void CodeEditor::resizeEvent(QResizeEvent* event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    d->extraArea->place();
+}
+
+bool CodeEditor::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ContextMenu) {
+        const auto* menu = static_cast<QContextMenuEvent*>(event);
+        if (menu->reason() == QContextMenuEvent::Mouse && !textCursor().hasSelection()) {
+            setTextCursor(cursorForPosition(menu->pos()));
+        }
+    }
+    return QPlainTextEdit::viewportEvent(event);
+}
+
+QMimeData* CodeEditor::createMimeDataFromSelection() const
+{
+    // Qt's own would turn non-breaking blanks into plain ones.
+    QString text = textCursor().selectedText();
+    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    auto* mime = new QMimeData;
+    mime->setText(text);
+    return mime;
+}
+
+}  // namespace Zorv

@@ -1,0 +1,87 @@
+#include "editors/code/codeeditor_p.h"
+
+#include "code/codedoc/codedocument.h"
+#include "editors/code/codecompletion_p.h"
+#include "editors/code/codeeditorextraarea_p.h"
+#include "editors/code/codehighlights_p.h"
+#include "editors/code/foldedblocks_p.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QKeyEvent>
+#include <QPlainTextDocumentLayout>
+
+namespace Zorv {
+
+CodeEditorPrivate::CodeEditorPrivate(CodeEditor* editor)
+    : q(editor), extraArea(new CodeEditorExtraArea(this)), highlights(new CodeHighlights(this)),
+      folds(new FoldedBlocks(this)), completion(new CodeCompletion(this))
+{
+    formatting.parenFormat.setForeground(Qt::red);
+    formatting.parenRangeFormat.setBackground(QColor(Qt::magenta).lighter(190));
+    formatting.parenMismatchFormat.setBackground(Qt::magenta);
+    formatting.blockRangeColor = editor->palette().color(QPalette::Base);
+    connect(q, &QPlainTextEdit::cursorPositionChanged, this, &CodeEditorPrivate::cursorMoved);
+}
+
+// Before the widget ends, which still tells of updates.
+CodeEditorPrivate::~CodeEditorPrivate()
+{
+    delete extraArea;
+}
+
+QRectF CodeEditorPrivate::blockRect(const QTextBlock& block) const
+{
+    return q->blockBoundingGeometry(block).translated(q->contentOffset());
+}
+
+QAbstractTextDocumentLayout::PaintContext CodeEditorPrivate::paintContext() const
+{
+    return q->getPaintContext();
+}
+
+void CodeEditorPrivate::baseKeyPress(QKeyEvent* event)
+{
+    // Qt would write U+2028, which ends no line of the file.
+    if (event->matches(QKeySequence::InsertLineSeparator) && !q->isReadOnly()) {
+        q->textCursor().insertBlock();
+        q->ensureCursorVisible();
+        return;
+    }
+    q->QPlainTextEdit::keyPressEvent(event);
+}
+
+void CodeEditorPrivate::attach(CodeDocument* newDocument)
+{
+    if (document) {
+        document->disconnect(this);
+    }
+    document = nullptr;
+    q->QPlainTextEdit::setDocument(nullptr);
+    highlights->forgetParentheses();
+    if (newDocument) {
+        document = newDocument;
+        q->QPlainTextEdit::setDocument(newDocument);
+        connect(newDocument, &CodeDocument::closing, this, [this] { attach(nullptr); });
+        connect(newDocument, &CodeDocument::codeChanged, this, [this] { folds->mend(0, 0); });
+    }
+    extraArea->updateWidth();
+    highlights->update();
+}
+
+void CodeEditorPrivate::cursorMoved()
+{
+    highlights->update();
+    const QTextCursor cursor = q->textCursor();
+    emit q->cursorChanged({cursor.blockNumber(), cursor.positionInBlock()});
+}
+
+void CodeEditorPrivate::updateLayout()
+{
+    auto* layout = qobject_cast<QPlainTextDocumentLayout*>(q->document()->documentLayout());
+    if (layout) {
+        layout->requestUpdate();
+        emit layout->documentSizeChanged(layout->documentSize());
+    }
+}
+
+}  // namespace Zorv

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "editors/code/codeeditor.h"
+
+#include <QPointer>
+#include <QTextBlock>
+
+namespace Zorv {
+
+class CodeCompletion;
+class CodeEditorExtraArea;
+class CodeHighlights;
+class FoldedBlocks;
+
+/// The parts of a `CodeEditor`, and what they need of it and of each other.
+class CodeEditorPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CodeEditorPrivate(CodeEditor* editor);
+    ~CodeEditorPrivate() override;
+
+    /// @name What Qt shows to the widget alone
+    /// @{
+    QTextBlock firstVisibleBlock() const { return q->firstVisibleBlock(); }
+    QPointF contentOffset() const { return q->contentOffset(); }
+    QRectF blockRect(const QTextBlock& block) const;  ///< in the viewport
+    QAbstractTextDocumentLayout::PaintContext paintContext() const;
+    void setMargins(int left, int right) { q->setViewportMargins(left, 0, right, 0); }
+    void baseKeyPress(QKeyEvent* event);
+    void basePaint(QPaintEvent* event) { q->QPlainTextEdit::paintEvent(event); }
+    /// @}
+
+    void attach(CodeDocument* newDocument);
+    void cursorMoved();
+
+    /// Tells layout and scroll bars that lines have come or gone from the view.
+    void updateLayout();
+
+    CodeEditor* const q;
+    QPointer<CodeDocument> document;
+    CodeEditor::SyntaxFormatting formatting;
+    CodeEditorExtraArea* extraArea;
+    CodeHighlights* highlights;
+    FoldedBlocks* folds;
+    CodeCompletion* completion;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "editors/framework/fileeditor.h"
+
+#include <memory>
+
+class QModelIndex;
+class QPoint;
+class QTreeView;
+
+namespace Zorv {
+
+class CodeDocument;
+class CodeFileEditorPrivate;
+class CodeItemModel;
+class CodeWorkspace;
+
+/// The editor of any file that is shown as text in the code workspace.
+///
+/// While it is active it joins one `CodeDocument` to the one `CodeEditor` of the
+/// workspace: find and replace, place and number of errors in the status bar, and
+/// a tree of the document's nodes that follows the cursor. Derived editors give
+/// it a name, areas and an action. Main thread only.
+class ZORV_EXPORT CodeFileEditor : public FileEditor
+{
+    Q_OBJECT
+
+public:
+    /// Publishes a tree under `treeName` and shows `model` in it. The workspace
+    /// stays the host's and outlives the editor; the model is the editor's from now
+    /// on. A null model, or a host that makes no tree, leaves the editor without one.
+    CodeFileEditor(CodeWorkspace* workspace, CodeItemModel* model, const char* treeName,
+                   QObject* parent = nullptr);
+    ~CodeFileEditor() override;
+
+    /// The document to work on, null for none; not owned. To be called while the
+    /// editor is inactive. A document that dies is let go of.
+    void setDocument(CodeDocument* document);
+    CodeDocument* document() const;
+
+    CodeWorkspace* workspace() const;
+
+    /// Null for none; the editor's, and the host's.
+    CodeItemModel* model() const;
+    QTreeView* tree() const;
+
+    void activate() override;
+    void deactivate() override;
+
+    /// Puts the cursor at `line` and `column`, from 0, in the middle of the view.
+    void navigateTo(const QString& name, unsigned a, unsigned line, unsigned column) override;
+
+    /// Undo and redo take the cursor along.
+    void undo() override;
+    void redo() override;
+
+    /// Looks for a text from the selection on, once around the whole document, and
+    /// selects what it finds; tells the person if there is nothing. `flags` are those
+    /// of `FindFlag`.
+    void find(const QString& text, unsigned flags) override;
+
+    /// Replaces the selection if it is a match, and goes on to the next one; with
+    /// `all` every match, as one step of undo.
+    void replace(const QString& text, const QString& with, unsigned flags, bool all) override;
+
+    void selectAll() override;
+    ProjectFile* file() const override;
+    void cut() override;
+    void copy() override;
+    void paste() override;
+
+public slots:
+    /// The cursor has moved, to line x and column y: shows place and errors in the
+    /// fields 0 and 1 of the status bar.
+    virtual void cursorChanged(QPoint place);
+
+    /// The cursor has come to another line, from 0: the tree selects its node. With
+    /// the setting "auto_expand_tree" all other branches close.
+    virtual void currLineChanged(int line);
+
+    /// The person has chosen a node in the tree: the cursor goes there. Nothing while
+    /// the editor is inactive.
+    void selectedItem(const QModelIndex& index);
+
+private:
+    std::unique_ptr<CodeFileEditorPrivate> d;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "zorv_export.h"
+
+#include <QAbstractItemModel>
+
+#include <memory>
+
+class QIcon;
+
+namespace Zorv {
+
+class CodeDocument;
+class CodeItemModelPrivate;
+class CodeNode;
+
+/// The nodes of a code document as a tree of one column.
+///
+/// Nodes die at any keystroke, so an index whose node is gone has neither parent
+/// nor children, and costs no walk to be told from others. `update()` announces
+/// all rows anew; a host that wants to keep what is expanded derives and overrides
+/// it. Main thread only.
+class ZORV_EXPORT CodeItemModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    explicit CodeItemModel(QObject* parent = nullptr);
+    ~CodeItemModel() override;
+
+    /// Null for none; not owned, and to be taken off before it dies.
+    virtual void setDocument(const CodeDocument* document);
+    const CodeDocument* document() const;
+
+    /// Brings the rows in line with the document: they are removed and inserted.
+    virtual void update();
+
+    /// The line of a node from 0; -1 for an index without one.
+    virtual int lineNo(const QModelIndex& index) const;
+
+    /// The index of the deepest node on a line, or of the one that it belongs to;
+    /// invalid if that is the document.
+    virtual QModelIndex indexInLine(unsigned line) const;
+    virtual QModelIndex nodeIndex(const CodeNode* node) const;
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    using QObject::parent;
+
+protected:
+    /// The picture of a node in the tree. The default has one of the library's for
+    /// each type of node.
+    virtual QIcon nodeIcon(const CodeNode* node) const;
+
+private:
+    std::unique_ptr<CodeItemModelPrivate> d;
+};
+
+}  // namespace Zorv
