@@ -1,16 +1,44 @@
 #include "editors/code/codecompletion_p.h"
 
 #include "editors/code/codeeditor_p.h"
+#include "editors/code/completerfile_p.h"
+#include "editors/code/completiondelegate_p.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
-#include <QFile>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace Zorv {
+
+namespace {
+
+const QString EndOfWord = QStringLiteral("~!@#$%^&*)_+{}|:\"<>?,./;'[]\\-=");
+
+/// True if `trigger` ends the line and does not stand inside a word.
+bool endsWith(const QString& line, const QString& trigger)
+{
+    if (!line.endsWith(trigger, Qt::CaseInsensitive)) {
+        return false;
+    }
+    const int front = line.size() - trigger.size() - 1;
+    return front < 0 || !(line.at(front).isLetterOrNumber() || line.at(front) == QLatin1Char('.'));
+}
+
+}  // namespace
 
 CodeCompletion::CodeCompletion(CodeEditorPrivate* editor)
     : QObject(editor), m_editor(editor), m_completer(new QCompleter(this))
 {
+    m_completer->setModelSorting(QCompleter::CaseInsensitivelySortedModel);
+    m_completer->setCaseSensitivity(Qt::CaseInsensitive);
+    m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    m_completer->setWrapAround(false);
     m_completer->setWidget(editor->q);
+    m_completer->popup()->setItemDelegate(new CompletionDelegate(m_completer->popup()));
+    m_completer->popup()->setAccessibleName(tr("Words to complete"));
     connect(m_completer, QOverload<const QString&>::of(&QCompleter::activated), this,
             &CodeCompletion::insert);
 }
@@ -19,19 +47,152 @@ CodeCompletion::~CodeCompletion() = default;
 
 bool CodeCompletion::readFile(const QString& fileName)
 {
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly);
+    CompleterFile file;
+    const bool isThere = file.read(fileName);
+    m_error = file.error();
+    if (!m_error.isEmpty()) {
+        return isThere;
+    }
+    useModel(nullptr);
+    qDeleteAll(m_models);
+    m_models.clear();
+    m_longest = 0;
+    for (auto list = file.words().begin(); list != file.words().end(); ++list) {
+        auto* model = new CompletionModel(this);
+        model->setWords(list.value());
+        m_models.insert(list.key(), model);
+        m_longest = std::max(m_longest, list.key().size());
+    }
+    return isThere;
 }
 
-void CodeCompletion::show(QStringListModel*) {}
-
-bool CodeCompletion::takesKey(const QKeyEvent*) const
+bool CodeCompletion::isOpen() const
 {
-    return false;
+    return m_completer->popup()->isVisible();
 }
 
-void CodeCompletion::keyPressed(const QKeyEvent*) {}
+void CodeCompletion::hide()
+{
+    m_completer->popup()->hide();
+}
 
-void CodeCompletion::insert(const QString&) {}
+void CodeCompletion::useModel(QStringListModel* words)
+{
+    if (m_completer->model() != words) {
+        hide();
+        if (m_completer->model()) {
+            disconnect(m_completer->model(), nullptr, this, nullptr);
+        }
+        m_completer->setModel(words);
+    }
+    if (words) {
+        connect(words, &QObject::destroyed, this, &CodeCompletion::hide, Qt::UniqueConnection);
+    }
+}
+
+void CodeCompletion::show(QStringListModel* words)
+{
+    if (m_editor->q->isReadOnly() || words->rowCount() == 0) {
+        hide();
+        return;
+    }
+    useModel(words);
+    open(wordAtCursor());
+}
+
+bool CodeCompletion::takesKey(const QKeyEvent* event) const
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return isOpen();
+    default:
+        return false;
+    }
+}
+
+QString CodeCompletion::wordAtCursor() const
+{
+    QTextCursor cursor = m_editor->q->textCursor();
+    cursor.select(QTextCursor::WordUnderCursor);
+    return cursor.selectedText();
+}
+
+/// The line up to the cursor without blanks, as much of it as a trigger can mean.
+QString CodeCompletion::lineEnd() const
+{
+    const QTextCursor cursor = m_editor->q->textCursor();
+    const QString text = cursor.block().text();
+    QString reversed;
+    for (int i = cursor.positionInBlock() - 1; i >= 0 && reversed.size() <= m_longest; --i) {
+        if (text.at(i) != QLatin1Char(' ')) {
+            reversed.append(text.at(i));
+        }
+    }
+    std::reverse(reversed.begin(), reversed.end());
+    return reversed;
+}
+
+QStringListModel* CodeCompletion::modelForLine() const
+{
+    const QString line = lineEnd();
+    for (auto model = m_models.begin(); model != m_models.end(); ++model) {
+        if (endsWith(line, model.key())) {
+            return model.value();
+        }
+    }
+    return nullptr;
+}
+
+void CodeCompletion::keyPressed(const QKeyEvent* event)
+{
+    constexpr Qt::KeyboardModifiers typing = Qt::ControlModifier | Qt::ShiftModifier;
+    const QString text = event->text();
+    if ((event->modifiers() & typing) && text.isEmpty()) {
+        return;
+    }
+    if (m_models.isEmpty() && !isOpen()) {
+        return;
+    }
+    QStringListModel* model = modelForLine();
+    const bool altOnly = event->modifiers() & ~typing;
+    const bool hasNothing = !model && !isOpen();
+    if (altOnly || hasNothing || text.isEmpty() || EndOfWord.contains(text.back()) ||
+        m_editor->q->isReadOnly()) {
+        hide();
+        return;
+    }
+    if (model) {
+        useModel(model);
+    }
+    open(wordAtCursor());
+}
+
+void CodeCompletion::open(const QString& prefix)
+{
+    QAbstractItemView* popup = m_completer->popup();
+    if (prefix != m_completer->completionPrefix()) {
+        m_completer->setCompletionPrefix(prefix);
+        popup->setCurrentIndex(m_completer->completionModel()->index(0, 0));
+    }
+    QRect place = m_editor->q->cursorRect();
+    place.setWidth(popup->sizeHintForColumn(0) + popup->verticalScrollBar()->sizeHint().width());
+    m_completer->complete(place);
+}
+
+void CodeCompletion::insert(const QString& text)
+{
+    if (m_editor->q->isReadOnly()) {
+        return;
+    }
+    QTextCursor cursor = m_editor->q->textCursor();
+    cursor.movePosition(QTextCursor::Left);
+    cursor.movePosition(QTextCursor::EndOfWord);
+    cursor.insertText(text.right(text.size() - m_completer->completionPrefix().size()));
+    m_editor->q->setTextCursor(cursor);
+}
 
 }  // namespace Zorv

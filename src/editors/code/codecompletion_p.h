@@ -25,6 +25,7 @@ public:
     QString error() const { return m_error; }
     QCompleter* completer() const { return m_completer; }
     void show(QStringListModel* words);
+    void hide();
 
     /// True if the key is the open popup's, and not the text's.
     bool takesKey(const QKeyEvent* event) const;
@@ -33,12 +34,19 @@ public:
     void keyPressed(const QKeyEvent* event);
 
 private:
+    bool isOpen() const;
+    QString wordAtCursor() const;
+    QString lineEnd() const;
+    QStringListModel* modelForLine() const;
+    void useModel(QStringListModel* words);
+    void open(const QString& prefix);
     void insert(const QString& text);
 
     CodeEditorPrivate* m_editor;
     QCompleter* m_completer;
-    QMap<QString, QStringListModel*> m_models;
+    QMap<QString, QStringListModel*> m_models;  // by trigger
     QString m_error;
+    int m_longest = 0;  // trigger, in characters
 };
 
 }  // namespace Zorv

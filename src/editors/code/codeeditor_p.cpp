@@ -56,6 +56,7 @@ void CodeEditorPrivate::attach(CodeDocument* newDocument)
         document->disconnect(this);
     }
     document = nullptr;
+    completion->hide();
     q->QPlainTextEdit::setDocument(nullptr);
     highlights->forgetParentheses();
     if (newDocument) {
