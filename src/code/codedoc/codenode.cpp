@@ -2,6 +2,7 @@
 
 #include "code/codedoc/codeblockdata_p.h"
 #include "code/codedoc/codedocument.h"
+#include "code/codedoc/enginemodelof_p.h"
 #include "code/codedoc/nodechain_p.h"
 #include "core/enginemodel.h"
 #include "core/interface.h"
@@ -129,9 +130,6 @@ void CodeNode::valueChanged(const QVariant&)
     }
 }
 
-namespace {
-
-/// A document outside of a project is in the grammar of the host's family.
 EngineModel* engineModelOf(const CodeDocument* document)
 {
     if (const Project* project = document->project()) {
@@ -139,8 +137,6 @@ EngineModel* engineModelOf(const CodeDocument* document)
     }
     return Interface::instance() ? Interface::instance()->engineModel() : nullptr;
 }
-
-}  // namespace
 
 void CodeNode::change(const QString& text)
 {

@@ -1,15 +1,16 @@
 #pragma once
 
 #include "editors/code/codeworkspace.h"
+#include "editors/code/messagejump_p.h"
 
 #include <QPointer>
 
 class QAction;
-class QComboBox;
 
 namespace Zorv {
 
 class Interface;
+class PickBox;
 
 /// The parts of a `CodeWorkspace`, and the slots of its actions, which the host finds
 /// by name.
@@ -23,13 +24,59 @@ public:
 
     CodeDocument* document() const;
 
+    /// Whether there is a text that may be changed or gone about in.
+    bool isUsable() const;
+
+    void showMessages(CodeDocument* newDocument);
+    void savePlace(CodeDocument* left) const;
+    void restorePlace(const CodeDocument* shown);
+    void applySettings();
+    void setFont(const QFont& font);
+    void changeFontSize(double points);
+    void updateTabStop();
+    void updateEncoding();
+    void reopen(CodeDocument* read);
+    void readFamily();
+    void retranslate();
+    void insertText(const QString& text);
+
     CodeWorkspace* const q;
     Interface* const host;
     QPointer<QWidget> widget;
     QTabBar* tabBar;
     QToolBar* toolBar;
     CodeEditor* editor;
+    PickBox* snippets;
+    PickBox* messages;
+    QPointer<QAction> barAction;
     bool isActive = false;
+
+public slots:
+    void showTextBar(bool checked);
+    void snipInsert();
+    void snipNew();
+    void snipEdit();
+    void goToLine();
+    void nextError();
+    void prevError();
+    void nextDepr();
+    void prevDepr();
+    void comment();
+    void foldAll();
+    void unfoldAll();
+    void snipActivated(int row);
+    void errorActivated(int row);
+
+protected:
+    /// Ctrl and the wheel over the text zoom.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void publish();
+    void jump(bool (*find)(MessageJump::Kind, QTextCursor*), MessageJump::Kind kind);
+    void editSnippet(const QString& path);
+
+    int m_wheel = 0;  ///< what touchpads have turned, in eighths of a degree
 };
 
 }  // namespace Zorv

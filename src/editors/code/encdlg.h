@@ -1,0 +1,24 @@
+#pragma once
+
+#include "zorv_export.h"
+
+#include <QDialog>
+
+class QListWidget;
+
+/// Lets the person choose a text encoding, by its number of `Zorv::TextCodecs`.
+class ZORV_EXPORT EncDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Lists all encodings and starts at `index`.
+    EncDlg(QWidget* parent, int index);
+    ~EncDlg() override;
+
+    /// The number of the chosen encoding; -1 if none is.
+    int index() const;
+
+private:
+    QListWidget* m_list;
+};

@@ -1,0 +1,51 @@
+#include "editors/code/pickbox_p.h"
+
+#include <QKeyEvent>
+#include <QListView>
+#include <QScopedValueRollback>
+
+namespace Zorv {
+
+namespace {
+
+constexpr int PopupRows = 20;
+
+}  // namespace
+
+PickBox::PickBox(int characters, QWidget* parent) : QComboBox(parent)
+{
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(characters);
+    setMaxVisibleItems(PopupRows);
+    // Some styles make a popup as high as all rows together, and so look at each.
+    setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+    if (auto* list = qobject_cast<QListView*>(view())) {
+        list->setUniformItemSizes(true);
+        list->setTextElideMode(Qt::ElideRight);
+    }
+    connect(this, QOverload<int>::of(&QComboBox::activated), this, [this](int row) {
+        if (!m_isMoving) {
+            emit picked(row);
+        }
+    });
+}
+
+void PickBox::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (currentIndex() >= 0) {
+            emit picked(currentIndex());
+        }
+        return;
+    }
+    const QScopedValueRollback<bool> moving(m_isMoving, true);
+    QComboBox::keyPressEvent(event);
+}
+
+void PickBox::wheelEvent(QWheelEvent* event)
+{
+    const QScopedValueRollback<bool> moving(m_isMoving, true);
+    QComboBox::wheelEvent(event);
+}
+
+}  // namespace Zorv
