@@ -1,6 +1,89 @@
 #include "editors/snipman/snippetmanager.h"
 
+#include "core/dialogs/dialogs.h"
+#include "core/interface.h"
+#include "editors/snipman/combosnipfield.h"
+#include "editors/snipman/snippetfile_p.h"
+#include "editors/snipman/snippetform_p.h"
+#include "editors/snipman/snippetxml_p.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPointer>
+
 namespace Zorv {
+
+namespace {
+
+/// Values that contain names of further fields can make a text grow without end.
+constexpr qint64 MaxLength = 4 * 1024 * 1024;
+
+/// Where the host shows a passing text.
+constexpr int StatusText = 0;
+
+bool tellFault(const SnippetProblem& problem)
+{
+    if (problem.isThere()) {
+        Dialogs::instance()->error(SnippetManager::tr("Code snippet"), problem.message());
+    }
+    return problem.isThere();
+}
+
+bool replaceAll(QString* text, const QString& key, const QString& value)
+{
+    const qint64 growth = qint64(value.size() - key.size()) * text->count(key);
+    if (text->size() + growth > MaxLength) {
+        return false;
+    }
+    text->replace(key, value);
+    return true;
+}
+
+QString filledIn(const SnippetFile& file, const QStringList& values)
+{
+    QString text = file.plainCode();
+    for (int i = 0; i < values.size(); ++i) {
+        if (!replaceAll(&text, QLatin1Char('@') + file.fields[size_t(i)]->name, values[i])) {
+            Dialogs::instance()->error(
+                SnippetManager::tr("Code snippet"),
+                SnippetManager::tr("With the value of \"%1\" the text grows too large. Shorten the "
+                                   "value, or use the field less often.")
+                    .arg(file.fields[size_t(i)]->title));
+            return {};
+        }
+    }
+    return text;
+}
+
+QWidget* windowInFront(const Interface& host)
+{
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog ? dialog : host.mainWindow();
+}
+
+/// The text with all messages of a snippet for translators.
+QString translationSource(const SnippetFile& file)
+{
+    QString result = QLatin1String("<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<!DOCTYPE TS>\n"
+                                   "<TS version=\"2.0\">\n<context>\n\t<name>") +
+                     QLatin1String(SnippetForm::Context) + QLatin1String("</name>\n");
+    for (const auto& field : file.fields) {
+        QStringList texts(field->title);
+        if (const auto* list = dynamic_cast<const ComboSnipField*>(field.get())) {
+            texts += list->itemTitles;
+        }
+        texts.removeAll(QString());
+        for (const QString& text : qAsConst(texts)) {
+            result += QLatin1String("\t<message>\n\t\t<source>") + xmlText(text) +
+                      QLatin1String("</source>\n\t\t<comment>") + xmlText(field->name) +
+                      QLatin1String("</comment>\n\t\t<translation type=\"unfinished\">"
+                                    "</translation>\n\t</message>\n");
+        }
+    }
+    return result + QLatin1String("</context>\n</TS>");
+}
+
+}  // namespace
 
 SnippetManager::SnippetManager() = default;
 
@@ -13,21 +96,80 @@ SnippetManager* SnippetManager::instance()
 void SnippetManager::update(const QString& folder)
 {
     m_folder = folder;
+    if (!m_names.isEmpty()) {
+        beginRemoveRows({}, 0, m_names.size() - 1);
+        m_names.clear();
+        endRemoveRows();
+    }
+    // An empty name would stand for the working directory.
+    const QStringList files =
+        folder.isEmpty()
+            ? QStringList()
+            : QDir(folder).entryList(QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase);
+    if (files.isEmpty()) {
+        return;
+    }
+    beginInsertRows({}, 0, files.size() - 1);
+    for (const QString& file : files) {
+        m_names.append(QFileInfo(file).completeBaseName());
+    }
+    endInsertRows();
 }
 
-QString SnippetManager::snippet(const Interface&, unsigned) const
+void SnippetManager::retranslate()
 {
-    return {};
+    if (!m_names.isEmpty()) {
+        emit dataChanged(index(0), index(m_names.size() - 1), {Qt::DisplayRole});
+    }
 }
 
-QString SnippetManager::snippet(const Interface&, const QString&, const QString&)
+QString SnippetManager::fileName(unsigned row) const
 {
-    return {};
+    return row < unsigned(m_names.size())
+               ? m_folder + QLatin1Char('/') + m_names[int(row)] + QLatin1String(".xml")
+               : QString();
 }
 
-bool SnippetManager::genTS(const Interface&, const QString&, const QString&)
+QString SnippetManager::snippet(const Interface& host, unsigned row) const
 {
-    return false;
+    if (row >= unsigned(m_names.size())) {
+        return {};
+    }
+    QString xml, error;
+    if (!readSnippetText(fileName(row), &xml, &error)) {
+        if (Interface* window = Interface::instance()) {
+            window->showStatus(
+                StatusText, tr("Cannot read the snippet \"%1\": %2").arg(m_names[int(row)], error));
+        }
+        return {};
+    }
+    return snippet(host, data(index(int(row))).toString(), xml);
+}
+
+QString SnippetManager::snippet(const Interface& host, const QString& title, const QString& xml)
+{
+    const SnippetFile file = SnippetFile::read(xml);
+    if (tellFault(file.fault) || tellFault(file.flaw)) {
+        return {};
+    }
+    if (file.fields.empty()) {
+        return file.plainCode();
+    }
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance())) {
+        return {};  // nobody is there to answer
+    }
+    // The window may go, with all that it owns, while the dialog is open.
+    const QPointer<SnippetForm> form = new SnippetForm(windowInFront(host), title, file.fields);
+    const bool isAccepted = form->exec() == QDialog::Accepted && form;
+    const QStringList values = isAccepted ? form->values() : QStringList();
+    delete form;
+    return isAccepted ? filledIn(file, values) : QString();
+}
+
+bool SnippetManager::genTS(const Interface&, const QString& fileName, const QString& xml)
+{
+    const SnippetFile file = SnippetFile::read(xml);
+    return !tellFault(file.fault) && writeSnippetText(fileName, translationSource(file));
 }
 
 int SnippetManager::rowCount(const QModelIndex& parent) const
@@ -37,7 +179,11 @@ int SnippetManager::rowCount(const QModelIndex& parent) const
 
 QVariant SnippetManager::data(const QModelIndex& index, int role) const
 {
-    return role == Qt::DisplayRole ? QVariant(m_names.value(index.row())) : QVariant();
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) {
+        return {};
+    }
+    const QString name = m_names.value(index.row());
+    return role == Qt::EditRole ? name : SnippetForm::translated(name, QStringLiteral("snippet"));
 }
 
 }  // namespace Zorv
