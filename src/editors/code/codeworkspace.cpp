@@ -149,6 +149,7 @@ void CodeWorkspacePrivate::retranslate()
         boxes[i]->setAccessibleName(names[i]);
         boxes[i]->setToolTip(names[i]);
     }
+    SnippetManager::instance()->retranslate();
     editor->setAccessibleName(document() ? CodeWorkspace::tr("Text of %1").arg(document()->title())
                                          : CodeWorkspace::tr("Text"));
     updateEncoding();

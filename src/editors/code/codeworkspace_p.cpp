@@ -187,8 +187,9 @@ void CodeWorkspacePrivate::snipEdit()
 {
     const EngineModel* engine = host->engineModel();
     if (engine && snippets->currentIndex() >= 0) {
-        editSnippet(engine->dataPath() + QLatin1String("/snippets/") + snippets->currentText() +
-                    QLatin1String(".xml"));
+        // What the box shows may be translated.
+        editSnippet(engine->dataPath() + QLatin1String("/snippets/") +
+                    snippets->currentData(Qt::EditRole).toString() + QLatin1String(".xml"));
     }
 }
 
