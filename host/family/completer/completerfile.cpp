@@ -45,7 +45,7 @@ Words groupWords(bool sub)
     Words words;
     for (const GroupInfo* group : Grammar::groups()) {
         if (group->isSubGroup() == sub && !group->isDeprecated()) {
-            words.insert(group->name, group->description);
+            words.insert(group->name, group->meaning());
         }
     }
     return words;
@@ -60,7 +60,7 @@ QMap<QString, Words> choiceWords()
         for (const KeyInfo& key : *group) {
             const QStringList choices = key.choiceList();
             for (const QString& choice : choices) {
-                lists[key.name].insert(choice, key.description);
+                lists[key.name].insert(choice, key.meaning());
             }
         }
     }

@@ -2,6 +2,8 @@
 
 #include "grammar/grammar.h"
 
+#include <QCoreApplication>
+
 namespace Family {
 
 using Syntax = Zorv::CodeParserSyntax;
@@ -13,12 +15,17 @@ using L = QLatin1String;
 constexpr int mostTicks = 32767;
 
 const FrameOption options[] = {
-    {L("offset"), L(), 2, true, LeastPlace, MostPlace},
-    {L("delay"), L("time"), 1, true, -1, mostTicks},
-    {L("flip"), L(), 0, false, 0, 0},
-    {L("scale"), L(), 2, false, -64, 64},
-    {L("angle"), L(), 1, false, -3600, 3600},
-    {L("loop"), L(), 0, false, 0, 0},
+    {L("offset"), L(), 2, true, LeastPlace, MostPlace,
+     L(QT_TRANSLATE_NOOP("Grammar", "Place of the sprite beside the axis: x and y"))},
+    {L("delay"), L("time"), 1, true, -1, mostTicks,
+     L(QT_TRANSLATE_NOOP("Grammar", "Ticks for which it is shown; -1 never ends"))},
+    {L("flip"), L(), 0, false, 0, 0, L(QT_TRANSLATE_NOOP("Grammar", "How the sprite is mirrored"))},
+    {L("scale"), L(), 2, false, -64, 64,
+     L(QT_TRANSLATE_NOOP("Grammar", "Stretch across and down; below 0 mirrors"))},
+    {L("angle"), L(), 1, false, -3600, 3600,
+     L(QT_TRANSLATE_NOOP("Grammar", "Degrees, counterclockwise"))},
+    {L("loop"), L(), 0, false, 0, 0,
+     L(QT_TRANSLATE_NOOP("Grammar", "The animation starts again here"))},
 };
 
 int optionIndex(const QStringRef& name)
@@ -39,14 +46,16 @@ struct FlipWord
     L word;
     int flip;
     bool old;
+    L description;
 };
 
 const FlipWord flipWords[] = {
-    {L("h"), horizontally, false},
-    {L("v"), vertically, false},
-    {L("hv"), horizontally | vertically, false},
-    {L("x"), horizontally, true},
-    {L("y"), vertically, true},
+    {L("h"), horizontally, false, L(QT_TRANSLATE_NOOP("Grammar", "Mirrored, left and right"))},
+    {L("v"), vertically, false, L(QT_TRANSLATE_NOOP("Grammar", "Mirrored, top and bottom"))},
+    {L("hv"), horizontally | vertically, false,
+     L(QT_TRANSLATE_NOOP("Grammar", "Mirrored both ways"))},
+    {L("x"), horizontally, true, L()},
+    {L("y"), vertically, true, L()},
 };
 
 }  // namespace
@@ -64,6 +73,34 @@ QString flipText(int flip)
         }
     }
     return {};
+}
+
+QVector<FlipChoice> flipChoices()
+{
+    QVector<FlipChoice> choices;
+    for (const FlipWord& word : flipWords) {
+        if (!word.old) {
+            choices.append({word.word, word.description});
+        }
+    }
+    return choices;
+}
+
+/// In the words of values of a like form.
+QString FrameOption::expectation() const
+{
+    if (numbers == 0) {
+        QStringList words;
+        for (const FlipWord& word : flipWords) {
+            if (this == &options[FlipOption] && !word.old) {
+                words.append(word.word);
+            }
+        }
+        return words.join(QLatin1String(", "));
+    }
+    const Form form =
+        numbers == 2 ? (whole ? Form::Point : Form::RealPoint) : (whole ? Form::Int : Form::Real);
+    return KeyInfo{name, form, KeyInfo::NoFlags, minimum, maximum, {}, {}, {}, {}}.expectation();
 }
 
 bool FrameReader::read(FrameData* frame)

@@ -10,6 +10,19 @@ namespace {
 
 constexpr int longestShown = 40;
 
+struct KeywordRow
+{
+    const char* word;
+    const char* description;
+};
+
+const KeywordRow keywordRows[] = {
+    {"animation", QT_TRANSLATE_NOOP("Grammar", "An animation: its number or word, and its name")},
+    {"frame", QT_TRANSLATE_NOOP("Grammar", "A frame: the sprite, and how it is shown")},
+    {"attack", QT_TRANSLATE_NOOP("Grammar", "A contact box of the next frame that hits")},
+    {"body", QT_TRANSLATE_NOOP("Grammar", "A contact box of the next frame that is hit")},
+};
+
 /// The least number of letters to put in, take out, change or swap.
 int editDistance(const QString& a, const QString& b)
 {
@@ -44,8 +57,21 @@ QStringList Grammar::frameOptions()
 
 QStringList Grammar::keywords()
 {
-    return {QStringLiteral("animation"), QStringLiteral("frame"), QStringLiteral("attack"),
-            QStringLiteral("body")};
+    QStringList words;
+    for (const KeywordRow& row : keywordRows) {
+        words.append(QLatin1String(row.word));
+    }
+    return words;
+}
+
+QString Grammar::keywordMeaning(const QString& keyword)
+{
+    for (const KeywordRow& row : keywordRows) {
+        if (keyword == QLatin1String(row.word)) {
+            return translatedDescription(QLatin1String(row.description));
+        }
+    }
+    return {};
 }
 
 QString nearName(const QString& name, const QStringList& candidates)

@@ -43,6 +43,9 @@ public:
     /// The words that start a line: "animation", "frame", "attack", "body".
     static QStringList keywords();
 
+    /// What a keyword stands for, in the language of the program; empty for another word.
+    static QString keywordMeaning(const QString& keyword);
+
     static constexpr char CommentChar = '#';
 };
 

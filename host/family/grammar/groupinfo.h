@@ -27,6 +27,9 @@ struct GroupInfo
     bool isDeprecated() const { return replacement.size() > 0; }
     bool belongsIn(FileKind kind) const { return files & (1 << int(kind)); }
 
+    /// The description in the language of the program.
+    QString meaning() const { return translatedDescription(description); }
+
     const KeyInfo* begin() const { return keys; }
     const KeyInfo* end() const { return keys + keyCount; }
 

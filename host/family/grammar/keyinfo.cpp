@@ -24,6 +24,8 @@ constexpr FormRow formRows[] = {
     {Form::Name, ValueCode::Text, 1, QT_TRANSLATE_NOOP("Family", "a name")},
     {Form::AnimationName, ValueCode::Text, 1,
      QT_TRANSLATE_NOOP("Family", "the number or name of an animation")},
+    {Form::CommandName, ValueCode::Text, 1, QT_TRANSLATE_NOOP("Family", "the name of a command")},
+    {Form::MoveName, ValueCode::Text, 1, QT_TRANSLATE_NOOP("Family", "the name of a move")},
     {Form::Choice, ValueCode::Choice, 1, QT_TRANSLATE_NOOP("Family", "one of %1")},
     {Form::Date, ValueCode::Date, 1, QT_TRANSLATE_NOOP("Family", "a day such as 2024-05-31")},
     {Form::Count, ValueCode::Unsigned, 1,
@@ -109,9 +111,19 @@ QString KeyInfo::expectation() const
     return text;
 }
 
+QString KeyInfo::meaning() const
+{
+    return translatedDescription(description);
+}
+
 Zorv::ValueCode::Type KeyInfo::valueType() const
 {
     return rowOf(form).type;
+}
+
+QString translatedDescription(QLatin1String description)
+{
+    return QCoreApplication::translate("Grammar", description.data());
 }
 
 int elementCount(Form form)

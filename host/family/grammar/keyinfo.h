@@ -13,6 +13,8 @@ enum class Form : unsigned char {
     Path,           ///< in quotes, a file
     Name,           ///< a word or number without quotes
     AnimationName,  ///< the identifier of an animation
+    CommandName,    ///< a name that a key of [commands] has
+    MoveName,       ///< the name of a [move]
     Choice,         ///< one word of a list
     Date,           ///< 2024-05-31
     Count,          ///< not below 0
@@ -62,9 +64,15 @@ struct KeyInfo
     /// What stands behind '=', in words: "a whole number from 1 to 9999".
     QString expectation() const;
 
+    /// The description in the language of the program.
+    QString meaning() const;
+
     /// The type of the node of such a value.
     Zorv::ValueCode::Type valueType() const;
 };
+
+/// A description of the tables in the language of the program.
+QString translatedDescription(QLatin1String description);
 
 /// How many parts a form takes: 0 for any number, 1 for a form without list.
 int elementCount(Form form);

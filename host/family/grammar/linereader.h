@@ -53,6 +53,10 @@ struct FrameOption
     bool whole;
     double minimum;
     double maximum;
+    QLatin1String description;  ///< one line
+
+    /// What stands behind the name, in words; empty for nothing.
+    QString expectation() const;
 };
 
 /// The options in the order of `Grammar::frameOptions()`.
@@ -76,5 +80,13 @@ constexpr int MostPlace = 32767;
 
 /// "h", "v" or "hv".
 QString flipText(int flip);
+
+/// A word for `flip`, with its description. Old words are left out.
+struct FlipChoice
+{
+    QLatin1String word;
+    QLatin1String description;
+};
+QVector<FlipChoice> flipChoices();
 
 }  // namespace Family

@@ -190,6 +190,8 @@ bool ValueReader::readSingle(const KeyInfo& key, QVariant* value)
         return readPath(value);
     case Form::Name:
     case Form::AnimationName:
+    case Form::CommandName:
+    case Form::MoveName:
         return readWord(value);
     case Form::Choice:
         return readChoice(key, value);

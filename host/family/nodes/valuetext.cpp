@@ -121,6 +121,8 @@ QStringList elementTexts(const KeyInfo& key, const QVariant& value)
         return {quotedText(value.toString())};
     case Form::Name:
     case Form::AnimationName:
+    case Form::CommandName:
+    case Form::MoveName:
     case Form::Choice:
     case Form::Any:
         return {value.toString()};

@@ -24,18 +24,6 @@ const struct
     {"animations", FileID::Animations}, {"commands", FileID::Commands},
 };
 
-FileID::Type typeOf(const GroupNode* group, const QString& key)
-{
-    if (group->name() == QLatin1String("files")) {
-        for (const auto& row : listedFiles) {
-            if (key == QLatin1String(row.key)) {
-                return row.type;
-            }
-        }
-    }
-    return ResourceFile;
-}
-
 /// The columns of a text within its quotes.
 void locate(const ValueNode* value, FileReference* reference)
 {
@@ -58,7 +46,7 @@ void collect(const GroupNode* group, QVector<FileReference>* list)
         const QString path =
             value->key()->form == Form::Path ? value->value().toString() : QString();
         if (!path.isEmpty()) {
-            list->append({typeOf(group, value->name()), path, value->firstLine(), 0, 0});
+            list->append({namedFileType(group->name(), value->name()), path, value->firstLine(), 0, 0});
             locate(value, &list->last());
         }
     }
@@ -82,6 +70,18 @@ QString resolved(const QString& path)
 }
 
 }  // namespace
+
+FileID::Type namedFileType(const QString& group, const QString& key)
+{
+    if (group == QLatin1String("files")) {
+        for (const auto& row : listedFiles) {
+            if (key == QLatin1String(row.key)) {
+                return row.type;
+            }
+        }
+    }
+    return ResourceFile;
+}
 
 bool isCodeFile(FileID::Type type)
 {

@@ -29,6 +29,9 @@ constexpr auto ResourceFile = Zorv::FileID::Type(64);
 /// True for a kind that is loaded as a document.
 bool isCodeFile(Zorv::FileID::Type type);
 
+/// What a key of a group names, if it names a file.
+Zorv::FileID::Type namedFileType(const QString& group, const QString& key);
+
 /// Every file that a document names, in the order of the text.
 QVector<FileReference> fileReferences(const FamilyDocument* document);
 
