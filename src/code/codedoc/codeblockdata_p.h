@@ -27,7 +27,10 @@ public:
         HasClass = IsHead | IsBody,
         HasError = 8,
         HasWarning = 16,
-        HasDeprecation = 32
+        HasDeprecation = 32,
+        LacksClosing = 64,   ///< has an opening bracket without a partner in the line
+        LacksOpening = 128,  ///< has a closing one without
+        HasUnpaired = LacksClosing | LacksOpening
     };
 
     /// What the nearest head at or above a classified line is.
@@ -45,12 +48,13 @@ public:
     CodeBlockData* left = nullptr;
     CodeBlockData* right = nullptr;
     std::unique_ptr<CodeBlockDetails> details;
-    int fragment = 0;       ///< Qt's number of the block
-    int contextAbove = 0;   ///< the head under which the line was parsed, as a number
-    int context = 0;        ///< the same for the line below
-    int foldingIndent = 0;  ///< of a line with a class
+    int fragment = 0;      ///< Qt's number of the block
+    int contextAbove = 0;  ///< the head under which the line was parsed, as a number
+    int context = 0;       ///< the same for the line below
     quint16 traits = 0;
-    quint16 traitsBelow = 0;  ///< of the whole subtree
+    quint16 traitsBelow = 0;   ///< of the whole subtree
+    qint16 foldingIndent = 0;  ///< of a line with a class
+    qint16 lowestBelow = 0;    ///< the least of the subtree's lines with a class
     quint8 headAbove = NoHead;
     bool isOutermost : 1;
     bool isFolded : 1;

@@ -150,42 +150,6 @@ CodeNode* CodeDocument::nodeBefore(const QTextBlock& block) const
     return const_cast<CodeDocument*>(this);
 }
 
-namespace {
-
-quint16 traitOfMessage(int type)
-{
-    switch (type) {
-    case CodeBlockData::SyntaxMessage::Error:
-        return CodeBlockDataPrivate::HasError;
-    case CodeBlockData::SyntaxMessage::Warning:
-        return CodeBlockDataPrivate::HasWarning;
-    default:
-        return CodeBlockDataPrivate::HasDeprecation;
-    }
-}
-
-}  // namespace
-
-QTextBlock CodeDocument::nextBlockWithMessage(const QTextBlock& block, int type) const
-{
-    const CodeBlockData* data = CodeBlockData::testBlockData(block);
-    if (!data || !data->d->owner) {
-        return QTextBlock();
-    }
-    data = LineIndex::forward(data, traitOfMessage(type));
-    return data ? data->d->block() : QTextBlock();
-}
-
-QTextBlock CodeDocument::previousBlockWithMessage(const QTextBlock& block, int type) const
-{
-    const CodeBlockData* data = CodeBlockData::testBlockData(block);
-    if (!data || !data->d->owner) {
-        return QTextBlock();
-    }
-    data = LineIndex::backward(data, traitOfMessage(type));
-    return data ? data->d->block() : QTextBlock();
-}
-
 CodeDocumentEditor* CodeDocument::documentEditor(CodeNode::Type type, unsigned group) const
 {
     return d->editors.value(CodeDocumentPrivate::editorKey(type, group));

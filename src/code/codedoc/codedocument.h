@@ -187,6 +187,22 @@ public:
     QTextBlock nextBlockWithMessage(const QTextBlock& block, int type) const;
     QTextBlock previousBlockWithMessage(const QTextBlock& block, int type) const;
 
+    /// The nearest block at or above `block` whose folding level is below `level`;
+    /// invalid if there is none. Logarithmic.
+    QTextBlock lowerBlockAtOrAbove(const QTextBlock& block, int level) const;
+
+    /// The same strictly below `block`.
+    QTextBlock lowerBlockBelow(const QTextBlock& block, int level) const;
+
+    /// What brackets of a line can lack: a partner in the line itself, whatever the
+    /// characters are. A line like "a) (b" lacks both.
+    enum UnpairedParenthesis { LacksClosing = 1, LacksOpening = 2 };
+
+    /// The nearest block behind (or before) `block` that lacks one of `lacking`, one
+    /// or both of `UnpairedParenthesis`; invalid if there is none. Logarithmic.
+    QTextBlock nextUnpairedBlock(const QTextBlock& block, int lacking) const;
+    QTextBlock previousUnpairedBlock(const QTextBlock& block, int lacking) const;
+
     /// The editor registered for a type of node and, for groups, a group number.
     CodeDocumentEditor* documentEditor(CodeNode::Type type, unsigned group) const;
 

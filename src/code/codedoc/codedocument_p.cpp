@@ -204,6 +204,23 @@ void CodeDocumentPrivate::highlightBlock(const QString& text)
     lastParsed = block;
 }
 
+quint16
+CodeDocumentPrivate::traitsOfParentheses(const QVector<CodeBlockData::Parenthesis>& parentheses)
+{
+    quint16 traits = 0;
+    int open = 0;
+    for (const CodeBlockData::Parenthesis& parenthesis : parentheses) {
+        if (parenthesis.type == CodeBlockData::Parenthesis::Opening) {
+            ++open;
+        } else if (open > 0) {
+            --open;
+        } else {
+            traits = CodeBlockDataPrivate::LacksOpening;
+        }
+    }
+    return open > 0 ? traits | CodeBlockDataPrivate::LacksClosing : traits;
+}
+
 void CodeDocumentPrivate::updateTraits(CodeBlockData* data, const QString& text)
 {
     static constexpr quint16 messageTraits[] = {CodeBlockDataPrivate::HasError,
@@ -218,6 +235,7 @@ void CodeDocumentPrivate::updateTraits(CodeBlockData* data, const QString& text)
     for (const CodeBlockData::SyntaxMessage& message : data->syntaxMessages()) {
         traits |= messageTraits[message.type];
     }
+    traits |= traitsOfParentheses(data->parenthesis());
     LineIndex::setTraits(data, traits);
     if (traits & CodeBlockDataPrivate::HasClass) {
         Folding::updateLine(data);

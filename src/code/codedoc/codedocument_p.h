@@ -113,6 +113,7 @@ private:
     void mendBelow(const CodeBlockData* line);
     void storeMessages(CodeBlockData* data, bool hadMessages);
     void updateTraits(CodeBlockData* data, const QString& text);
+    static quint16 traitsOfParentheses(const QVector<CodeBlockData::Parenthesis>& parentheses);
     void unlinkDeadNodes();
     void releaseUnlinked();
     void report(Message::Type type, CodeBlockData::SyntaxMessage::Type syntaxType, TokenType token,

@@ -98,9 +98,31 @@ bool Folding::updateLine(CodeBlockData* line)
         headAbove = headAtOrAbove(aboveLine);
     }
     const bool changed = result != data->foldingIndent || headAbove != data->headAbove;
-    data->foldingIndent = result;
+    LineIndex::setFoldingIndent(line, qint16(result));
     data->headAbove = headAbove;
     return changed;
+}
+
+/// A run of lines without a class has the level of the classified line below it, so
+/// one that is low enough never stands alone: that line is looked for.
+const CodeBlockData* Folding::lowerAtOrAbove(const CodeBlockData* line, int level)
+{
+    return indent(line) < level ? line : LineIndex::backwardBelow(line, level);
+}
+
+/// The same, but there the run comes first. That at the end of the text has level 0.
+const CodeBlockData* Folding::lowerBelow(const CodeBlockData* line, int level)
+{
+    const CodeBlockData* lower = LineIndex::forwardBelow(line, level);
+    if (!lower && level <= 0) {
+        return nullptr;
+    }
+    if (LineIndex::forward(line, Data::HasClass) == lower) {
+        return LineIndex::below(line);
+    }
+    const CodeBlockData* higher =
+        lower ? LineIndex::backward(lower, Data::HasClass) : LineIndex::last(line, Data::HasClass);
+    return LineIndex::below(higher);
 }
 
 void Folding::updateBelow(CodeBlockData* line)

@@ -25,6 +25,11 @@ public:
     /// Brings the levels below a line up to date, as far as they depend on it.
     static void updateBelow(CodeBlockData* line);
 
+    /// The nearest line with a level below `level`: at or above a line of an index, or
+    /// strictly below it. Null if there is none.
+    static const CodeBlockData* lowerAtOrAbove(const CodeBlockData* line, int level);
+    static const CodeBlockData* lowerBelow(const CodeBlockData* line, int level);
+
 private:
     static int indentBetween(const CodeBlockData* above, const CodeBlockData* below);
     static quint8 headAtOrAbove(const CodeBlockData* line);

@@ -2,10 +2,15 @@
 
 #include "code/codedoc/ordertree_p.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace Zorv {
 
 struct LineTraits
 {
+    static constexpr qint16 NoLevel = std::numeric_limits<qint16>::max();
+
     static CodeBlockData*& up(CodeBlockData* line) { return line->d->up; }
     static CodeBlockData*& left(CodeBlockData* line) { return line->d->left; }
     static CodeBlockData*& right(CodeBlockData* line) { return line->d->right; }
@@ -13,13 +18,26 @@ struct LineTraits
     static bool pull(CodeBlockData* line)
     {
         CodeBlockDataPrivate& d = *line->d;
-        quint16 below = d.traits;
-        below |= d.left ? d.left->d->traitsBelow : 0;
-        below |= d.right ? d.right->d->traitsBelow : 0;
-        const bool changed = below != d.traitsBelow;
-        d.traitsBelow = below;
+        quint16 traits = d.traits;
+        qint16 lowest = hasLevel(line) ? d.foldingIndent : NoLevel;
+        for (const CodeBlockData* part : {d.left, d.right}) {
+            if (part) {
+                traits |= part->d->traitsBelow;
+                lowest = std::min(lowest, part->d->lowestBelow);
+            }
+        }
+        const bool changed = traits != d.traitsBelow || lowest != d.lowestBelow;
+        d.traitsBelow = traits;
+        d.lowestBelow = lowest;
         return changed;
     }
+
+    static bool hasLevel(const CodeBlockData* line)
+    {
+        return (line->d->traits & CodeBlockDataPrivate::HasClass) != 0;
+    }
+    static qint16& level(CodeBlockData* line) { return line->d->foldingIndent; }
+    static qint16 lowest(const CodeBlockData* line) { return line->d->lowestBelow; }
 
     static quint16& own(CodeBlockData* line) { return line->d->traits; }
     static quint16 below(CodeBlockData* line) { return line->d->traitsBelow; }
@@ -45,6 +63,14 @@ void LineIndex::setTraits(CodeBlockData* line, quint16 traits)
     }
 }
 
+void LineIndex::setFoldingIndent(CodeBlockData* line, qint16 indent)
+{
+    if (LineTraits::level(line) != indent) {
+        LineTraits::level(line) = indent;
+        LineTree::update(line);
+    }
+}
+
 CodeBlockData* LineIndex::backward(const CodeBlockData* line, quint16 traits)
 {
     return LineTree::findBackward(
@@ -61,9 +87,40 @@ CodeBlockData* LineIndex::forward(const CodeBlockData* line, quint16 traits)
         [traits](CodeBlockData* l) { return (LineTraits::below(l) & traits) != 0; });
 }
 
+CodeBlockData* LineIndex::last(const CodeBlockData* line, quint16 traits)
+{
+    CodeBlockData* end = LineTree::last(LineTree::rootOf(const_cast<CodeBlockData*>(line)));
+    return (LineTraits::own(end) & traits) ? end : backward(end, traits);
+}
+
+CodeBlockData* LineIndex::backwardBelow(const CodeBlockData* line, int level)
+{
+    return LineTree::findBackward(
+        const_cast<CodeBlockData*>(line),
+        [level](CodeBlockData* l) {
+            return LineTraits::hasLevel(l) && LineTraits::level(l) < level;
+        },
+        [level](CodeBlockData* l) { return LineTraits::lowest(l) < level; });
+}
+
+CodeBlockData* LineIndex::forwardBelow(const CodeBlockData* line, int level)
+{
+    return LineTree::findForward(
+        const_cast<CodeBlockData*>(line),
+        [level](CodeBlockData* l) {
+            return LineTraits::hasLevel(l) && LineTraits::level(l) < level;
+        },
+        [level](CodeBlockData* l) { return LineTraits::lowest(l) < level; });
+}
+
 CodeBlockData* LineIndex::above(const CodeBlockData* line)
 {
     return LineTree::previous(const_cast<CodeBlockData*>(line));
+}
+
+CodeBlockData* LineIndex::below(const CodeBlockData* line)
+{
+    return LineTree::next(const_cast<CodeBlockData*>(line));
 }
 
 }  // namespace Zorv

@@ -19,12 +19,23 @@ public:
     /// Changes what a line is or has.
     static void setTraits(CodeBlockData* line, quint16 traits);
 
+    /// Changes the folding level of a line with a class.
+    static void setFoldingIndent(CodeBlockData* line, qint16 indent);
+
     /// The nearest line in front of (behind) `line` with one of `traits`.
     static CodeBlockData* backward(const CodeBlockData* line, quint16 traits);
     static CodeBlockData* forward(const CodeBlockData* line, quint16 traits);
 
-    /// The neighbour above; null at the top.
+    /// The last line with one of `traits` in the index of `line`.
+    static CodeBlockData* last(const CodeBlockData* line, quint16 traits);
+
+    /// The nearest line with a class and a folding level below `level`.
+    static CodeBlockData* backwardBelow(const CodeBlockData* line, int level);
+    static CodeBlockData* forwardBelow(const CodeBlockData* line, int level);
+
+    /// The neighbours; null at the top, and at the bottom.
     static CodeBlockData* above(const CodeBlockData* line);
+    static CodeBlockData* below(const CodeBlockData* line);
 
 private:
     CodeBlockData* m_root = nullptr;
