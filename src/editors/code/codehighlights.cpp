@@ -1,10 +1,21 @@
 #include "editors/code/codehighlights_p.h"
 
+#include "code/codedoc/codedocument.h"
+#include "editors/code/blockranges_p.h"
 #include "editors/code/codeeditor_p.h"
+#include "editors/code/codeeditorextraarea_p.h"
+#include "editors/code/parenthesismatch_p.h"
 
 #include <QTimer>
 
 namespace Zorv {
+
+namespace {
+
+constexpr int ParenWait = 50;
+constexpr int BlockWait = 100;
+
+}  // namespace
 
 CodeHighlights::CodeHighlights(CodeEditorPrivate* editor)
     : QObject(editor), m_editor(editor), m_parenTimer(new QTimer(this)),
@@ -18,7 +29,14 @@ CodeHighlights::CodeHighlights(CodeEditorPrivate* editor)
 
 void CodeHighlights::update()
 {
+    const CodeEditor::SyntaxFormatting& formatting = m_editor->formatting;
+    if (formatting.parenMatching && m_editor->q->hasFocus()) {
+        m_parenTimer->start(m_selections[ParenthesesSelection].isEmpty() ? ParenWait : 0);
+    }
     updateCurrentLine();
+    if (formatting.highlightBlocks) {
+        setBlockNumber(m_editor->q->textCursor().blockNumber(), BlockWait);
+    }
 }
 
 void CodeHighlights::forgetParentheses()
@@ -27,11 +45,24 @@ void CodeHighlights::forgetParentheses()
     setExtraSelections(ParenthesesSelection, {});
 }
 
-void CodeHighlights::updateRanges() {}
+/// What is switched off goes at once.
+void CodeHighlights::updateRanges()
+{
+    if (!m_editor->formatting.parenMatching) {
+        forgetParentheses();
+    }
+    if (m_editor->formatting.highlightBlocks) {
+        update();
+        return;
+    }
+    m_blockTimer->stop();
+    m_blocks.open.clear();
+    updateCurrentLine();
+}
 
 void CodeHighlights::startMatching()
 {
-    m_parenTimer->start(50);
+    m_parenTimer->start(ParenWait);
 }
 
 void CodeHighlights::setBlockNumber(int number, int wait)
@@ -55,14 +86,73 @@ void CodeHighlights::updateCurrentLine()
     setExtraSelections(CurrentLineSelection, line);
     const int block = q->textCursor().blockNumber();
     if (block != m_lastCursorBlock) {
+        updateGutter(m_lastCursorBlock);
+        updateGutter(block);
         m_lastCursorBlock = block;
         emit q->currentLineChanged(block);
     }
 }
 
-void CodeHighlights::matchParentheses() {}
+void CodeHighlights::updateGutter(int blockNumber)
+{
+    const QTextBlock block = m_editor->q->document()->findBlockByNumber(blockNumber);
+    if (blockNumber >= 0 && block.isValid() && block.isVisible()) {
+        const QRect rect = m_editor->blockRect(block).toAlignedRect();
+        m_editor->extraArea->update(0, rect.y(), m_editor->extraArea->width(), rect.height());
+    }
+}
 
-void CodeHighlights::findRanges() {}
+void CodeHighlights::matchParentheses()
+{
+    const CodeEditor* q = m_editor->q;
+    if (q->isReadOnly() || !m_editor->document || !m_editor->formatting.parenMatching) {
+        return;
+    }
+    QTextCursor back = q->textCursor();
+    QTextCursor ahead = back;
+    Selections selections;
+    const int before = ParenthesisMatch::backward(&back, *m_editor->document);
+    const int behind = ParenthesisMatch::forward(&ahead, *m_editor->document);
+    addMatch(back, before, &selections);
+    addMatch(ahead, behind, &selections);
+    setExtraSelections(ParenthesesSelection, selections);
+}
+
+void CodeHighlights::addMatch(const QTextCursor& match, int result, Selections* selections) const
+{
+    const CodeEditor::SyntaxFormatting& formatting = m_editor->formatting;
+    if (result == ParenthesisMatch::Mismatch) {
+        selections->append({match, formatting.parenMismatchFormat});
+    } else if (result == ParenthesisMatch::Match) {
+        if (m_parenRangeEnabled) {
+            selections->append({match, formatting.parenRangeFormat});
+        }
+        QTextCursor bracket = match;
+        for (const int start : {match.selectionStart(), match.selectionEnd() - 1}) {
+            bracket.setPosition(start);
+            bracket.setPosition(start + 1, QTextCursor::KeepAnchor);
+            selections->append({bracket, formatting.parenFormat});
+        }
+    }
+}
+
+void CodeHighlights::findRanges()
+{
+    const CodeEditor* q = m_editor->q;
+    QTextBlock block;
+    if (m_blockNumber >= 0) {
+        block = q->document()->findBlockByNumber(m_blockNumber);
+    }
+    HighlightBlocks blocks;
+    if (m_editor->document) {
+        blocks = BlockRanges::around(block, *m_editor->document, *q);
+    }
+    if (!(blocks == m_blocks)) {
+        m_blocks = blocks;
+        q->viewport()->update();
+        m_editor->extraArea->update();
+    }
+}
 
 void CodeHighlights::setExtraSelections(ExtraSelectionKind kind, const Selections& selections)
 {

@@ -28,7 +28,7 @@ public:
     /// Another document comes: brackets of the old one are forgotten.
     void forgetParentheses();
 
-    /// Ranges are switched on or off.
+    /// What is marked has been switched on or off, or looks otherwise.
     void updateRanges();
 
     /// Brackets are looked for when the cursor has rested a little.
@@ -47,7 +47,9 @@ private:
     using Selections = QList<QTextEdit::ExtraSelection>;
 
     void updateCurrentLine();
+    void updateGutter(int blockNumber);
     void matchParentheses();
+    void addMatch(const QTextCursor& match, int result, Selections* selections) const;
     void findRanges();
     void setExtraSelections(ExtraSelectionKind kind, const Selections& selections);
 
@@ -58,6 +60,7 @@ private:
     HighlightBlocks m_blocks;
     int m_blockNumber = -1;
     int m_lastCursorBlock = -1;
+    bool m_parenRangeEnabled = true;
 };
 
 }  // namespace Zorv

@@ -1,12 +1,251 @@
 #include "editors/code/codepainter_p.h"
 
+#include "code/codedoc/codedocument.h"
+#include "editors/code/blockranges_p.h"
 #include "editors/code/codeeditor_p.h"
+#include "editors/code/codehighlights_p.h"
+#include "editors/code/foldedblocks_p.h"
+#include "editors/code/visibleblocks_p.h"
+
+#include <QPaintEvent>
+#include <QScrollBar>
+#include <QTextBlock>
+
+#include <algorithm>
 
 namespace Zorv {
 
-void CodePainter::paint(QPaintEvent* event)
+namespace {
+
+constexpr int NoCursor = -1;
+constexpr int RangeStep = 8;    ///< by which the right edge of a range stands inside the outer one
+constexpr int RangeMargin = 6;  ///< that ranges are painted below the view
+constexpr int TextMargin = 1;   ///< and text
+
+using Selection = QAbstractTextDocumentLayout::Selection;
+
+/// Marks of problems stay to be seen in whatever else is selected.
+bool isUnderlineAlone(const QTextCharFormat& format)
 {
-    m_editor->basePaint(event);
+    return !format.hasProperty(QTextFormat::ForegroundBrush) &&
+           format.hasProperty(QTextFormat::TextUnderlineStyle) &&
+           format.background().style() == Qt::NoBrush;
+}
+
+/// The part of a selection that is in a block; of length 0 if there is none. The end
+/// of the line counts as a character.
+QTextLayout::FormatRange cutToBlock(const Selection& selection, const QTextBlock& block)
+{
+    QTextLayout::FormatRange range;
+    const int start = std::max(selection.cursor.selectionStart() - block.position(), 0);
+    const int end = std::min(selection.cursor.selectionEnd() - block.position(), block.length());
+    range.start = start;
+    range.length = std::max(end - start, 0);
+    range.format = selection.format;
+    return range;
+}
+
+bool hasGlyph(const QTextBlock& block, int column)
+{
+    const QString text = block.text();
+    return column < text.size() && text.at(column) != QLatin1Char('\t');
+}
+
+}  // namespace
+
+void CodePainter::paint(const QPaintEvent* event)
+{
+    m_rect = event->rect();
+    m_view = m_editor->q->viewport()->rect();
+    m_context = m_editor->paintContext();
+    m_painter.begin(m_editor->q->viewport());
+    // Waves below words would not meet where the text is painted in parts.
+    m_painter.setBrushOrigin(m_editor->contentOffset());
+    paintRanges();
+    paintPlaceholder();
+    m_painter.setPen(m_context.palette.text().color());
+    paintText();
+    m_editor->folds->paintBoxes(&m_painter);
+    paintCursor();
+    m_editor->folds->paintPreview(&m_painter);
+}
+
+void CodePainter::paintRanges()
+{
+    const HighlightBlocks& ranges = m_editor->highlights->blocks();
+    if (!m_editor->formatting.paintBlockRanges || ranges.isEmpty()) {
+        return;
+    }
+    const QColor own = m_editor->formatting.blockRangeColor;
+    const QColor base = own.isValid() ? own : m_editor->q->palette().color(QPalette::Base);
+    const QVector<QColor> colors = BlockRanges::colors(base, ranges.count());
+    const QAbstractTextDocumentLayout* layout = m_editor->q->document()->documentLayout();
+    const QPointF offset = m_editor->contentOffset();
+    qreal y = offset.y();
+    for (QTextBlock block = visibleFrom(m_editor->firstVisibleBlock());
+         block.isValid() && y <= m_view.height() + RangeMargin; block = visibleFrom(block.next())) {
+        const qreal height = layout->blockBoundingRect(block).height();
+        const int depth = BlockRanges::depth(ranges, block.blockNumber());
+        for (int i = 0; i <= depth && y <= m_rect.bottom() && y + height >= m_rect.top(); ++i) {
+            const qreal left = offset.x() + (i > 0 ? ranges.visualIndent.at(i - 1) : 0);
+            const qreal right = m_view.width() - RangeStep * i;
+            m_painter.fillRect(QRectF(left, y, std::max(right - left, 0.0), height), colors.at(i));
+        }
+        y += height;
+    }
+}
+
+void CodePainter::paintPlaceholder()
+{
+    const CodeEditor* q = m_editor->q;
+    if (q->placeholderText().isEmpty() || !q->document()->isEmpty() ||
+        !m_editor->firstVisibleBlock().layout()->preeditAreaText().isEmpty()) {
+        return;
+    }
+    const int margin = int(q->document()->documentMargin());
+    m_painter.setPen(m_context.palette.placeholderText().color());
+    m_painter.drawText(m_view.adjusted(margin, margin, 0, 0), Qt::AlignTop | Qt::TextWordWrap,
+                       q->placeholderText());
+}
+
+void CodePainter::paintText()
+{
+    const QAbstractTextDocumentLayout* layout = m_editor->q->document()->documentLayout();
+    m_offset = m_editor->contentOffset();
+    QTextBlock block = visibleFrom(m_editor->firstVisibleBlock());
+    while (block.isValid() && m_offset.y() <= m_view.height() + TextMargin) {
+        const qreal height = layout->blockBoundingRect(block).height();
+        if (m_offset.y() <= m_rect.bottom() && m_offset.y() + height >= m_rect.top()) {
+            paintBlock(block);
+        }
+        m_offset.ry() += height;
+        block = visibleFrom(block.next());
+    }
+    if (!block.isValid()) {
+        paintBelow();
+    }
+}
+
+void CodePainter::paintBlock(const QTextBlock& block)
+{
+    QTextLayout* layout = block.layout();
+    const QFont font = block.document()->defaultFont();
+    if (layout->font() != font) {
+        layout->setFont(font);
+    }
+    paintCurrentLine(block);
+    Formats formats = selectionsOf(block);
+    const int column = cursorColumn(block);
+    const bool isCell = column != NoCursor && isOverwriting();
+    const bool isOnGlyph = isCell && hasGlyph(block, column);
+    if (isOnGlyph) {
+        formats.append(cellFormat(*layout, column));
+    }
+    layout->draw(&m_painter, m_offset, formats, m_rect);
+    if (isCell && !isOnGlyph) {
+        paintEmptyCell(block, column);
+    } else if (!isCell && column != NoCursor) {
+        m_cursorLayout = layout;
+        m_cursorOffset = m_offset;
+        m_cursorColumn = column;
+    }
+}
+
+void CodePainter::paintCurrentLine(const QTextBlock& block)
+{
+    const QTextCursor cursor = m_editor->q->textCursor();
+    if (!m_editor->formatting.highlightCurrentLine || cursor.block() != block) {
+        return;
+    }
+    const QTextLine line = block.layout()->lineForTextPosition(cursor.positionInBlock());
+    m_painter.fillRect(QRectF(0, m_offset.y() + line.y(), m_view.width(), line.height()),
+                       m_editor->formatting.currentLineColor);
+}
+
+CodePainter::Formats CodePainter::selectionsOf(const QTextBlock& block) const
+{
+    const bool isLastPriority = m_editor->q->textCursor().hasSelection();
+    Formats formats;
+    Formats priority;
+    for (int i = 0; i < m_context.selections.size(); ++i) {
+        const QTextLayout::FormatRange range = cutToBlock(m_context.selections.at(i), block);
+        if (range.length == 0) {
+            continue;
+        }
+        const bool isLast = i == m_context.selections.size() - 1;
+        const bool isPriority = (isLast && isLastPriority) || isUnderlineAlone(range.format);
+        (isPriority ? priority : formats).append(range);
+    }
+    return formats + priority;
+}
+
+/// The column of the layout at which the cursor is to be seen. While a text is being
+/// composed, Qt tells the place in that text, as a number below -1.
+int CodePainter::cursorColumn(const QTextBlock& block) const
+{
+    if (m_editor->q->isReadOnly()) {
+        return NoCursor;
+    }
+    const int position = m_context.cursorPosition;
+    const QTextLayout* layout = block.layout();
+    if (position < NoCursor && !layout->preeditAreaText().isEmpty()) {
+        return layout->preeditAreaPosition() - (position + 2);
+    }
+    return block.contains(position) ? position - block.position() : NoCursor;
+}
+
+bool CodePainter::isOverwriting() const
+{
+    return m_editor->q->overwriteMode() && m_context.cursorPosition >= 0;
+}
+
+QTextLayout::FormatRange CodePainter::cellFormat(const QTextLayout& layout, int column) const
+{
+    QTextLayout::FormatRange range;
+    range.start = column;
+    range.length = layout.nextCursorPosition(column) - column;
+    range.format.setForeground(m_context.palette.base());
+    range.format.setBackground(m_context.palette.text());
+    return range;
+}
+
+/// At the end of a line as wide as a blank; on a tab no wider than that, at its right end.
+void CodePainter::paintEmptyCell(const QTextBlock& block, int column)
+{
+    const QTextLayout* layout = block.layout();
+    const QTextLine line = layout->lineForTextPosition(column);
+    qreal width = QFontMetricsF(layout->font()).horizontalAdvance(QLatin1Char(' '));
+    qreal left = line.cursorToX(column);
+    if (column < block.length() - 1) {
+        const auto [start, end] = std::minmax(left, line.cursorToX(column + 1));
+        width = std::min(width, end - start);
+        left = end - width;
+    } else if (block.textDirection() == Qt::RightToLeft) {
+        left -= width;
+    }
+    m_painter.fillRect(QRectF(m_offset.x() + left, m_offset.y() + line.y(), width, line.height()),
+                       m_context.palette.text());
+}
+
+void CodePainter::paintCursor()
+{
+    if (m_cursorLayout) {
+        m_painter.setPen(m_context.palette.text().color());
+        m_cursorLayout->drawCursor(&m_painter, m_cursorOffset, m_cursorColumn,
+                                   m_editor->q->cursorWidth());
+    }
+}
+
+void CodePainter::paintBelow()
+{
+    const CodeEditor* q = m_editor->q;
+    const QScrollBar* bar = q->verticalScrollBar();
+    const int top = int(m_offset.y());
+    if (q->backgroundVisible() && top <= m_rect.bottom() &&
+        (q->centerOnScroll() || bar->maximum() == bar->minimum())) {
+        m_painter.fillRect(QRect(QPoint(m_rect.left(), top), m_rect.bottomRight()),
+                           m_context.palette.window());
+    }
 }
 
 }  // namespace Zorv

@@ -1,6 +1,11 @@
 #pragma once
 
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QTextLayout>
+
 class QPaintEvent;
+class QTextBlock;
 
 namespace Zorv {
 
@@ -13,10 +18,35 @@ class CodePainter
 public:
     explicit CodePainter(CodeEditorPrivate* editor) : m_editor(editor) {}
 
-    void paint(QPaintEvent* event);
+    void paint(const QPaintEvent* event);
 
 private:
+    using Formats = QVector<QTextLayout::FormatRange>;
+
+    void paintRanges();
+    void paintPlaceholder();
+    void paintText();
+    void paintBlock(const QTextBlock& block);
+    void paintCurrentLine(const QTextBlock& block);
+    void paintCursor();
+    void paintBelow();
+    Formats selectionsOf(const QTextBlock& block) const;
+    int cursorColumn(const QTextBlock& block) const;
+    bool isOverwriting() const;
+    QTextLayout::FormatRange cellFormat(const QTextLayout& layout, int column) const;
+    void paintEmptyCell(const QTextBlock& block, int column);
+
     CodeEditorPrivate* m_editor;
+    QRect m_rect;  ///< what is to be painted
+    QRect m_view;
+    QPainter m_painter;
+    QPointF m_offset;  ///< of the block in work
+    QAbstractTextDocumentLayout::PaintContext m_context;
+
+    /// The cursor waits until all else is painted.
+    QTextLayout* m_cursorLayout = nullptr;
+    QPointF m_cursorOffset;
+    int m_cursorColumn = 0;
 };
 
 }  // namespace Zorv
