@@ -182,6 +182,14 @@ public:
     /// The nearest node above a block: the root if there is none. Logarithmic.
     CodeNode* nodeBefore(const QTextBlock& block) const;
 
+    /// Has the document keep an eye on a node of its own, for who holds on to its
+    /// address: nodes die at any keystroke.
+    void trackNode(CodeNode* node) const;
+
+    /// True for the address of a tracked node that is still in the chain. The
+    /// address itself is not followed. Constant.
+    bool isTracked(const CodeNode* node) const;
+
     /// The nearest block behind (or before) `block` with a message of a type;
     /// invalid if there is none. Logarithmic.
     QTextBlock nextBlockWithMessage(const QTextBlock& block, int type) const;

@@ -6,6 +6,7 @@
 #include "core/message.h"
 
 #include <QMap>
+#include <QSet>
 #include <QSyntaxHighlighter>
 #include <QVector>
 
@@ -60,6 +61,9 @@ public:
     /// Forgets a child of the root that goes.
     void forget(CodeNode* child);
 
+    /// A tracked node leaves the chain that it stands in.
+    static void untrack(CodeNode* node);
+
     /// How many nodes of the kind of a child of the root stand in front of it.
     unsigned placeAmongKind(const CodeNode* child);
     static unsigned editorKey(CodeNode::Type type, unsigned group);
@@ -86,6 +90,7 @@ public:
     QVector<unsigned> groups;
     QMap<unsigned, CodeDocumentEditor*> editors;
     LineIndex lines;
+    QSet<const CodeNode*> tracked;
     std::unique_ptr<EditorData> editorData;
     quint64 parsedLines = 0;
 

@@ -27,6 +27,25 @@ void CodeDocumentPrivate::forget(CodeNode* child)
     }
 }
 
+void CodeDocument::trackNode(CodeNode* node) const
+{
+    node->m_isTracked = true;
+    d->tracked.insert(node);
+}
+
+bool CodeDocument::isTracked(const CodeNode* node) const
+{
+    return d->tracked.contains(node);
+}
+
+void CodeDocumentPrivate::untrack(CodeNode* node)
+{
+    node->m_isTracked = false;
+    if (const CodeDocument* document = NodeChain::head(node)->document()) {
+        document->d->tracked.remove(node);
+    }
+}
+
 void CodeDocumentPrivate::retire(CodeNode* node)
 {
     node->handOver();

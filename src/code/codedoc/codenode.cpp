@@ -2,6 +2,7 @@
 
 #include "code/codedoc/codeblockdata_p.h"
 #include "code/codedoc/codedocument.h"
+#include "code/codedoc/codedocument_p.h"
 #include "code/codedoc/enginemodelof_p.h"
 #include "code/codedoc/nodechain_p.h"
 #include "core/enginemodel.h"
@@ -33,6 +34,9 @@ CodeNode::~CodeNode()
 
 void CodeNode::unlink()
 {
+    if (m_isTracked) {
+        CodeDocumentPrivate::untrack(this);
+    }
     if (m_parent) {
         m_parent->removeChild(this);
     }

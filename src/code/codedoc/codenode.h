@@ -153,6 +153,7 @@ private:
     int m_endBlock = 0;  // Qt's number of the block that a node behind this one gets
     Type m_type;
     unsigned short m_chainMask = 0;
+    bool m_isTracked = false;
 };
 
 }  // namespace Zorv

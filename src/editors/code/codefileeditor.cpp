@@ -1,23 +1,86 @@
 #include "editors/code/codefileeditor.h"
 
 #include "code/codedoc/codedocument.h"
+#include "core/dialogs/dialogs.h"
 #include "core/interface.h"
+#include "core/messages.h"
 #include "editors/code/codeeditor.h"
 #include "editors/code/codefileeditor_p.h"
+#include "editors/code/codefind.h"
 #include "editors/code/codeitemmodel.h"
 #include "editors/code/codeworkspace.h"
 #include "editors/framework/widgetcontrol.h"
+
+#include <climits>
 
 namespace Zorv {
 
 namespace {
 
 constexpr int TreeRows = 11;
+constexpr unsigned FindTitle = 8;
+
+enum StatusField { PlaceField = 0, ErrorField = 1 };
 
 }  // namespace
 
-CodeFileEditor::CodeFileEditor(CodeWorkspace* workspace, CodeItemModel* model,
-                               const char* treeName, QObject* parent)
+CodeEditor* CodeFileEditorPrivate::editor() const
+{
+    CodeEditor* shown = workspace->editor();
+    return document && shown->codeDocument() == document ? shown : nullptr;
+}
+
+bool CodeFileEditorPrivate::findFrom(const CodeFind& what, bool backward)
+{
+    const QTextCursor cursor = editor()->textCursor();
+    const CodeFind::Match match =
+        backward ? what.previous(text.text(), qMax(cursor.selectionStart() - 1, 0))
+                 : what.next(text.text(), cursor.selectionEnd());
+    if (match.hasMatch()) {
+        CodeFind::select(editor(), match, backward);
+    }
+    return match.hasMatch();
+}
+
+void CodeFileEditorPrivate::showModel(CodeItemModel* shown)
+{
+    if (!tree) {
+        return;
+    }
+    // A view makes a new one for each model and leaves the old one where it is.
+    const QItemSelectionModel* selection = tree->selectionModel();
+    tree->setModel(shown);
+    if (selection != tree->selectionModel()) {
+        delete selection;
+    }
+}
+
+void CodeFileEditorPrivate::replaceSelection(const CodeFind& what, const QString& with)
+{
+    QTextCursor cursor = editor()->textCursor();
+    const int start = cursor.selectionStart();
+    const CodeFind::Match match = what.matchOf(text.text(), start, cursor.selectionEnd() - start);
+    if (match.hasMatch()) {
+        document->beginChange(QString());
+        document->replaceSelection(what.replacement(match, with), cursor);
+        document->endChange();
+        editor()->setTextCursor(cursor);
+    }
+}
+
+void CodeFileEditorPrivate::replaceAll(const CodeFind& what, const QString& with)
+{
+    if (what.replaceAll(editor(), text.text(), with) == 0) {
+        // The text as it is, which all the same can be undone.
+        const QString whole = document->text();
+        QTextCursor cursor(document);
+        cursor.select(QTextCursor::Document);
+        cursor.insertText(whole);
+    }
+}
+
+CodeFileEditor::CodeFileEditor(CodeWorkspace* workspace, CodeItemModel* model, const char* treeName,
+                               QObject* parent)
     : FileEditor(parent), d(std::make_unique<CodeFileEditorPrivate>())
 {
     d->workspace = workspace;
@@ -60,46 +123,59 @@ QTreeView* CodeFileEditor::tree() const
 
 void CodeFileEditor::activate()
 {
+    // The host, asked below to bring the editor forward, may call this again.
+    if (isActive()) {
+        return;
+    }
     FileEditor::activate();
     CodeEditor* editor = d->workspace->editor();
-    if (d->document) {
-        connect(d->document, &QTextDocument::modificationChanged, this,
-                &CodeFileEditor::contentsChanged);
-        connect(d->document, &CodeDocument::closing, this, [this] {
+    if (CodeDocument* document = d->document) {
+        d->connections << connect(document, &QTextDocument::modificationChanged, this,
+                                  &CodeFileEditor::contentsChanged);
+        if (d->model) {
+            d->connections << connect(document, &QTextDocument::contentsChanged, d->model,
+                                      &CodeItemModel::update);
+        }
+        d->connections << connect(document, &CodeDocument::closing, this, [this] {
             deactivate();
             d->document = nullptr;
         });
     }
-    if (d->document && d->model) {
-        connect(d->document, &QTextDocument::contentsChanged, d->model, &CodeItemModel::update);
-    }
-    connect(editor, &CodeEditor::currentLineChanged, this, &CodeFileEditor::currLineChanged);
-    connect(editor, &CodeEditor::cursorChanged, this, &CodeFileEditor::cursorChanged);
+    d->connections << connect(editor, &CodeEditor::currentLineChanged, this,
+                              &CodeFileEditor::currLineChanged);
+    d->connections << connect(editor, &CodeEditor::cursorChanged, this,
+                              &CodeFileEditor::cursorChanged);
+    d->text.setDocument(d->document);
     d->workspace->setDocument(d->document);
     host()->activateEditor(this);
+    if (!isActive()) {
+        return;
+    }
     if (d->model) {
         d->model->setDocument(d->document);
     }
-    if (d->tree) {
-        d->tree->setModel(d->model);
-    }
+    d->showModel(d->model);
 }
 
 void CodeFileEditor::deactivate()
 {
-    FileEditor::deactivate();
-    d->workspace->editor()->disconnect(this);
-    if (d->document) {
-        d->document->disconnect(this);
-        d->document->disconnect(d->model);
+    if (!isActive()) {
+        return;
     }
-    d->workspace->setDocument(nullptr);
+    FileEditor::deactivate();
+    for (const QMetaObject::Connection& connection : qAsConst(d->connections)) {
+        disconnect(connection);
+    }
+    d->connections.clear();
+    d->text.setDocument(nullptr);
+    // Another editor may have brought its own document by now.
+    if (d->editor()) {
+        d->workspace->setDocument(nullptr);
+    }
     if (d->model) {
         d->model->setDocument(nullptr);
     }
-    if (d->tree) {
-        d->tree->setModel(nullptr);
-    }
+    d->showModel(nullptr);
 }
 
 void CodeFileEditor::navigateTo(const QString&, unsigned, unsigned line, unsigned column)
@@ -107,23 +183,62 @@ void CodeFileEditor::navigateTo(const QString&, unsigned, unsigned line, unsigne
     CodeEditor* editor = d->workspace->editor();
     editor->setCurrentLine(line, CodeEditor::CenterLine);
     QTextCursor cursor = editor->textCursor();
-    cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::MoveAnchor, int(column));
+    cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::MoveAnchor,
+                        int(qMin(column, unsigned(INT_MAX))));
     editor->setTextCursor(cursor);
 }
 
 void CodeFileEditor::undo()
 {
-    d->workspace->editor()->undo();
+    if (CodeEditor* editor = d->editor()) {
+        editor->undo();
+    } else {
+        FileEditor::undo();
+    }
 }
 
 void CodeFileEditor::redo()
 {
-    d->workspace->editor()->redo();
+    if (CodeEditor* editor = d->editor()) {
+        editor->redo();
+    } else {
+        FileEditor::redo();
+    }
 }
 
-void CodeFileEditor::find(const QString&, unsigned) {}
+void CodeFileEditor::find(const QString& text, unsigned flags)
+{
+    CodeEditor* editor = d->editor();
+    if (text.isEmpty() || !editor) {
+        return;
+    }
+    const CodeFind what(text, flags);
+    const bool backward = (flags & FindBackward) != 0;
+    if (d->findFrom(what, backward)) {
+        return;
+    }
+    QTextCursor cursor = editor->textCursor();
+    cursor.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
+    editor->setTextCursor(cursor);
+    if (!d->findFrom(what, backward)) {
+        Dialogs::instance()->information(host()->text(FindTitle), tr("No text found!"));
+    }
+}
 
-void CodeFileEditor::replace(const QString&, const QString&, unsigned, bool) {}
+void CodeFileEditor::replace(const QString& text, const QString& with, unsigned flags, bool all)
+{
+    CodeEditor* editor = d->editor();
+    if (text.isEmpty() || !editor || editor->isReadOnly()) {
+        return;
+    }
+    const CodeFind what(text, flags);
+    if (all) {
+        d->replaceAll(what, with);
+    } else {
+        d->replaceSelection(what, with);
+        find(text, flags);
+    }
+}
 
 void CodeFileEditor::selectAll()
 {
@@ -150,10 +265,51 @@ void CodeFileEditor::paste()
     d->workspace->editor()->paste();
 }
 
-void CodeFileEditor::cursorChanged(QPoint) {}
+void CodeFileEditor::cursorChanged(QPoint place)
+{
+    const CodeDocument* document = d->workspace->editor()->codeDocument();
+    if (!document) {
+        return;
+    }
+    host()->showStatus(PlaceField, tr("Line: %1, Column: %2, Line count: %3")
+                                       .arg(place.x() + 1)
+                                       .arg(place.y() + 1)
+                                       .arg(document->blockCount()));
+    host()->showStatus(
+        ErrorField, tr("Syntax error count: %1").arg(document->messages()->count(Message::Error)));
+}
 
-void CodeFileEditor::currLineChanged(int) {}
+void CodeFileEditor::currLineChanged(int line)
+{
+    if (!d->model || !d->tree) {
+        return;
+    }
+    if (host()->option(QStringLiteral("auto_expand_tree")).toBool()) {
+        d->tree->collapseAll();
+    }
+    // While another document takes the place of this one, the tree has no model yet.
+    QItemSelectionModel* selection = d->tree->selectionModel();
+    if (!selection || d->tree->model() != d->model) {
+        return;
+    }
+    const QModelIndex index = d->model->indexInLine(unsigned(line));
+    if (!index.isValid()) {
+        selection->clearSelection();
+        return;
+    }
+    selection->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    d->tree->expand(index);
+    d->tree->scrollTo(index);
+}
 
-void CodeFileEditor::selectedItem(const QModelIndex&) {}
+void CodeFileEditor::selectedItem(const QModelIndex& index)
+{
+    const int line = isActive() && d->model ? d->model->lineNo(index) : -1;
+    if (line >= 0) {
+        CodeEditor* editor = d->workspace->editor();
+        editor->setCurrentLine(unsigned(line), CodeEditor::TopLine);
+        editor->setFocus();
+    }
+}
 
 }  // namespace Zorv

@@ -61,18 +61,18 @@ public:
     virtual void projectAboutToClose(Project* project);
 
     /// Shows the place of a message. `name` and the numbers are those of the
-    /// file's kind; a code file takes line, column and length.
+    /// file's kind; a code file takes line and column, from 0, as the last two.
     virtual void navigateTo(const QString& name, unsigned a, unsigned b, unsigned c);
 
     /// One step of the history of the file in work.
     virtual void undo();
     virtual void redo();
 
-    /// Looks for a text from the present place on; `flags` are those of
-    /// `QTextDocument::FindFlag`.
+    /// Looks for a text from the present place on; `flags` are bits of `FindFlag`.
     virtual void find(const QString& text, unsigned flags) = 0;
 
-    /// Replaces the text at the present place, or with `all` everywhere.
+    /// Replaces the text at the present place, or with `all` everywhere; `flags`
+    /// are bits of `FindFlag`.
     virtual void replace(const QString& text, const QString& with, unsigned flags, bool all) = 0;
 
     /// Selects everything that the editor can select. Not called by the library.

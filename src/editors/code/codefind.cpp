@@ -1,0 +1,249 @@
+#include "editors/code/codefind.h"
+
+#include "code/codedoc/codedocument.h"
+#include "editors/code/codeeditor.h"
+
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QVector>
+
+#include <algorithm>
+
+namespace Zorv {
+
+namespace {
+
+QRegularExpression expressionOf(const QString& pattern, unsigned flags)
+{
+    QRegularExpression::PatternOptions options = QRegularExpression::DotMatchesEverythingOption |
+                                                 QRegularExpression::UseUnicodePropertiesOption;
+    if (!(flags & FindCaseSensitive)) {
+        options |= QRegularExpression::CaseInsensitiveOption;
+    }
+    return QRegularExpression(
+        flags & FindRegularExpression ? pattern : QRegularExpression::escape(pattern), options);
+}
+
+bool splitsPair(const QString& text, int place)
+{
+    return place > 0 && place < text.size() && text.at(place).isLowSurrogate() &&
+           text.at(place - 1).isHighSurrogate();
+}
+
+void replaceLoneSurrogates(QString& text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        if (!text.at(i).isSurrogate()) {
+            continue;
+        }
+        const bool isPair =
+            text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (isPair) {
+            ++i;
+        } else {
+            text[i] = QChar::ReplacementCharacter;
+        }
+    }
+}
+
+QTextCursor cursorOn(QTextDocument* document, int start, int length)
+{
+    QTextCursor cursor(document);
+    cursor.setPosition(start);
+    cursor.setPosition(start + length, QTextCursor::KeepAnchor);
+    return cursor;
+}
+
+/// Brings the line back that was the first of the view.
+class ViewKeeper
+{
+public:
+    explicit ViewKeeper(CodeEditor* editor)
+        : m_editor(editor), m_top(editor->cursorForPosition(QPoint(0, 0)))
+    {
+    }
+
+    ~ViewKeeper()
+    {
+        if (m_editor->verticalScrollBar()->value() > 0) {
+            m_editor->verticalScrollBar()->setValue(m_top.block().firstLineNumber());
+        }
+    }
+
+private:
+    Q_DISABLE_COPY(ViewKeeper)
+
+    CodeEditor* m_editor;
+    QTextCursor m_top;
+};
+
+struct Replacement
+{
+    int start;
+    int length;
+    QString text;
+};
+
+}  // namespace
+
+CodeFind::CodeFind(const QString& pattern, unsigned flags)
+    : m_expression(expressionOf(pattern, flags))
+{
+    if (isValid()) {
+        m_expression.optimize();
+    }
+}
+
+bool CodeFind::isValid() const
+{
+    return !m_expression.pattern().isEmpty() && m_expression.isValid();
+}
+
+QString CodeFind::errorString() const
+{
+    return m_expression.isValid() ? QString() : m_expression.errorString();
+}
+
+int CodeFind::errorOffset() const
+{
+    return m_expression.patternErrorOffset();
+}
+
+QString CodeFind::searchableText(const CodeDocument* document)
+{
+    QString text = document->text();
+    replaceLoneSurrogates(text);
+    return text;
+}
+
+CodeFind::Match CodeFind::next(const QString& text, int from) const
+{
+    if (!isValid()) {
+        return {};
+    }
+    const int start = std::max(from, 0);
+    return m_expression.match(text, splitsPair(text, start) ? start + 1 : start,
+                              QRegularExpression::NormalMatch,
+                              QRegularExpression::DontCheckSubjectStringMatchOption);
+}
+
+// Expressions are only matched forward: the text in front of `from` is gone through in
+// windows, each far larger than the one before, and so no part of it often.
+CodeFind::Match CodeFind::previous(const QString& text, int from) const
+{
+    constexpr qint64 Growth = 64;
+    if (!isValid()) {
+        return {};
+    }
+    qint64 size = 1;
+    for (int end = std::min(from, text.size()); end >= 0;) {
+        const int begin = int(std::max<qint64>(0, end - size + 1));
+        Match last;
+        int start = begin;
+        while (start <= end) {
+            const Match match = next(text, start);
+            if (!match.hasMatch() || match.capturedStart() > end) {
+                break;
+            }
+            last = match;
+            start = std::max(start, match.capturedStart()) + 1;
+        }
+        if (last.hasMatch()) {
+            return last;
+        }
+        end = begin - 1;
+        size *= Growth;
+    }
+    return {};
+}
+
+CodeFind::Match CodeFind::matchOf(const QString& text, int start, int length) const
+{
+    if (!isValid() || splitsPair(text, start)) {
+        return {};
+    }
+    const Match inPlace =
+        m_expression.match(text, start, QRegularExpression::NormalMatch,
+                           QRegularExpression::AnchoredMatchOption |
+                               QRegularExpression::DontCheckSubjectStringMatchOption);
+    if (inPlace.hasMatch() && inPlace.capturedStart() == start &&
+        inPlace.capturedLength() == length) {
+        return inPlace;
+    }
+    // An alternative that comes later may take all of it.
+    const QRegularExpression whole(QRegularExpression::anchoredPattern(m_expression.pattern()),
+                                   m_expression.patternOptions());
+    return whole.match(text.mid(start, length));
+}
+
+QString CodeFind::replacement(const Match& match, const QString& with) const
+{
+    const int groups = m_expression.captureCount();
+    QString result;
+    for (int i = 0; i < with.size(); ++i) {
+        const auto digit = [&with](int place) {
+            return place < with.size() ? with.at(place).digitValue() : -1;
+        };
+        int number = with.at(i) == QLatin1Char('\\') ? digit(i + 1) : -1;
+        if (number <= 0 || number > groups) {
+            result += with.at(i);
+            continue;
+        }
+        ++i;
+        if (digit(i + 1) >= 0 && number * 10 + digit(i + 1) <= groups) {
+            number = number * 10 + digit(i + 1);
+            ++i;
+        }
+        result += match.captured(number);
+    }
+    return result;
+}
+
+void CodeFind::select(CodeEditor* editor, const Match& match, bool backward)
+{
+    QTextDocument* document = editor->document();
+    const QTextCursor cursor = cursorOn(document, match.capturedStart(), match.capturedLength());
+    const QTextBlock block = document->findBlock(match.capturedStart());
+    editor->reveal(block);
+    editor->reveal(document->findBlock(match.capturedEnd()));
+    const int half = editor->displayedLineCount() / 2;
+    const int line = block.firstLineNumber() + (backward ? -half : half);
+    const QTextBlock margin =
+        document->findBlockByLineNumber(qBound(0, line, document->lineCount() - 1));
+    if (margin.isValid()) {
+        editor->setTextCursor(QTextCursor(margin));
+    }
+    editor->setTextCursor(cursor);
+}
+
+int CodeFind::replaceAll(CodeEditor* editor, const QString& text, const QString& with) const
+{
+    if (!isValid()) {
+        return 0;
+    }
+    QVector<Replacement> edits;
+    auto matches = m_expression.globalMatch(text, 0, QRegularExpression::NormalMatch,
+                                            QRegularExpression::DontCheckSubjectStringMatchOption);
+    while (matches.hasNext()) {
+        const Match match = matches.next();
+        edits.append({match.capturedStart(), match.capturedLength(), replacement(match, with)});
+    }
+    if (edits.isEmpty()) {
+        return 0;
+    }
+    const ViewKeeper view(editor);
+    CodeDocument* document = editor->codeDocument();
+    document->beginChange(QString());
+    document->placeChange(cursorOn(document, edits.first().start, edits.first().length));
+    QTextCursor cursor(document);
+    // From the end on: places in front of an edit stay what they are.
+    for (auto edit = edits.crbegin(); edit != edits.crend(); ++edit) {
+        cursor.setPosition(edit->start);
+        cursor.setPosition(edit->start + edit->length, QTextCursor::KeepAnchor);
+        cursor.insertText(edit->text);
+    }
+    document->endChange();
+    return edits.size();
+}
+
+}  // namespace Zorv
