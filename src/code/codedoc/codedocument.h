@@ -249,6 +249,16 @@ signals:
     /// signals of rows that come and go while lines are parsed.
     void codeChanged();
 
+    /// In front of `codeChanged()`: folding levels may have changed from line `first` to
+    /// line `last`, and of lines without a class right below the line `above`; -1 for no
+    /// such line. Qt is still busy here too.
+    void levelsChanged(int first, int last, int above);
+
+    /// The text of a file is about to take the place of this one, and has taken it. Places
+    /// in the text are lost between the two.
+    void aboutToRead();
+    void haveRead();
+
     /// The document is about to die, and is still whole: views let go of it now.
     void closing();
 

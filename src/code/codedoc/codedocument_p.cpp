@@ -15,6 +15,7 @@ void CodeDocumentPrivate::beginPass()
     if (passDepth++ == 0) {
         q->messages()->beginChange();
         reports = q->hasSyntaxHighlight();
+        firstParsed = QTextBlock();
         lastParsed = QTextBlock();
     }
 }
@@ -26,13 +27,24 @@ void CodeDocumentPrivate::endPass()
     }
     if (CodeBlockData* last = CodeBlockData::testBlockData(lastParsed)) {
         mendBelow(last);
-        Folding::updateBelow(last);
+        tellLevels(Folding::updateBelow(last));
     }
     releaseUnlinked();
     q->messages()->endChange();
     if (parser) {
         emit q->codeChanged();
     }
+}
+
+void CodeDocumentPrivate::tellLevels(const CodeBlockData* last)
+{
+    const CodeBlockData* first = CodeBlockData::testBlockData(firstParsed);
+    if (!first) {
+        return;
+    }
+    const CodeBlockData* above = LineIndex::backward(first, CodeBlockDataPrivate::HasClass);
+    emit q->levelsChanged(firstParsed.blockNumber(), last->d->block().blockNumber(),
+                          above ? above->d->block().blockNumber() : -1);
 }
 
 void CodeDocumentPrivate::aboutToParse(int from, int, int added)
@@ -201,6 +213,10 @@ void CodeDocumentPrivate::highlightBlock(const QString& text)
         retire(old);
     }
     updateTraits(data, text);
+    if (lastParsed.next() != block &&
+        (!firstParsed.isValid() || block.position() < firstParsed.position())) {
+        firstParsed = block;
+    }
     lastParsed = block;
 }
 

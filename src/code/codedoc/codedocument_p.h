@@ -109,6 +109,7 @@ private:
     void beginPass();
     void endPass();
     void parseDependents();
+    void tellLevels(const CodeBlockData* last);
     CodeBlockData* enter(const QTextBlock& block);
     CodeNode* parseLine(const QTextBlock& block, CodeBlockData* data, const QString& text,
                         CodeParserSyntax* syntax);
@@ -130,6 +131,7 @@ private:
     bool isParsing = false;
     QVector<CodeNode*> dead;
     QVector<CodeNode*> unlinked;
+    QTextBlock firstParsed;
     QTextBlock lastParsed;
     int knownBlocks = 1;
     int passDepth = 0;

@@ -152,9 +152,11 @@ bool CodeDocument::fromFile(Archive& archive, const QString& fileName, int codec
         codec = TextCodecs::index("UTF-8");
     }
     const QString text = TextCodecs::stringFromData(data, &codec);
+    emit aboutToRead();
     messages()->beginChange();
     setPlainText(text);
     messages()->endChange();
+    emit haveRead();
     using Mark = CodeDocumentPrivate::Mark;
     d->codec = codec;
     d->byteOrderMark = TextCodecs::byteOrderMark(data).isEmpty() ? Mark::Absent : Mark::Present;

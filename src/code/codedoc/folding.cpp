@@ -125,11 +125,14 @@ const CodeBlockData* Folding::lowerBelow(const CodeBlockData* line, int level)
     return LineIndex::below(higher);
 }
 
-void Folding::updateBelow(CodeBlockData* line)
+const CodeBlockData* Folding::updateBelow(const CodeBlockData* line)
 {
-    do {
-        line = LineIndex::forward(line, Data::HasClass);
-    } while (line && updateLine(line));
+    CodeBlockData* next = LineIndex::forward(line, Data::HasClass);
+    while (next && updateLine(next)) {
+        line = next;
+        next = LineIndex::forward(line, Data::HasClass);
+    }
+    return line;
 }
 
 }  // namespace Zorv

@@ -22,8 +22,9 @@ public:
     /// are. True if something has changed that lines below depend on.
     static bool updateLine(CodeBlockData* line);
 
-    /// Brings the levels below a line up to date, as far as they depend on it.
-    static void updateBelow(CodeBlockData* line);
+    /// Brings the levels below a line up to date, as far as they depend on it. Gives the
+    /// last line with a class that has changed, `line` itself for none.
+    static const CodeBlockData* updateBelow(const CodeBlockData* line);
 
     /// The nearest line with a level below `level`: at or above a line of an index, or
     /// strictly below it. Null if there is none.

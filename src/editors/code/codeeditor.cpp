@@ -9,13 +9,14 @@
 #include "editors/code/codehighlights_p.h"
 #include "editors/code/codepainter_p.h"
 #include "editors/code/foldedblocks_p.h"
+#include "editors/code/plaintooltip_p.h"
 
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScrollBar>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -27,6 +28,28 @@ QTextBlock blockAtLine(const QTextDocument* document, int line)
 {
     const QTextBlock block = document->findBlockByNumber(std::max(line, 0));
     return block.isValid() ? block : document->lastBlock();
+}
+
+/// The first message on a character; empty for none.
+QString messageAt(const QTextCursor& cursor)
+{
+    if (const CodeBlockData* data = CodeBlockData::testBlockData(cursor.block())) {
+        const int column = cursor.positionInBlock();
+        for (const CodeBlockData::SyntaxMessage& message : data->syntaxMessages()) {
+            if (message.start <= column && column <= message.end) {
+                return message.text;
+            }
+        }
+    }
+    return {};
+}
+
+/// The block `count` lines of the screen further down, what is folded not counted.
+QTextBlock visibleBlockBelow(const QTextBlock& block, int count)
+{
+    const QTextDocument* document = block.document();
+    const QTextBlock below = document->findBlockByLineNumber(block.firstLineNumber() + count);
+    return below.isValid() ? below : document->lastBlock();
 }
 
 }  // namespace
@@ -75,6 +98,7 @@ void CodeEditor::updateBlockHighlight()
 void CodeEditor::setCurrentLine(const LinePos& place)
 {
     const QTextBlock block = blockAtLine(document(), place.line);
+    reveal(block);
     QTextCursor cursor(block);
     cursor.setPosition(block.position() + qBound(0, place.column, block.length() - 1));
     setTextCursor(cursor);
@@ -93,7 +117,7 @@ void CodeEditor::setCurrentLine(unsigned line, LineType type)
     if (target >= page) {
         int margin = type == TopLine ? page : type == CenterLine ? page / 2 : 0;
         margin = std::min(margin, count - 1 - target);
-        setTextCursor(QTextCursor(blockAtLine(document(), target + margin)));
+        setTextCursor(QTextCursor(visibleBlockBelow(cursor.block(), margin)));
     }
     setTextCursor(cursor);
     d->highlights->startMatching();
@@ -120,6 +144,7 @@ void CodeEditor::foldAll()
 {
     CodeFolding::foldAll(document());
     d->updateLayout();
+    moveCursorVisible(true);
 }
 
 void CodeEditor::unfoldAll()
@@ -130,8 +155,7 @@ void CodeEditor::unfoldAll()
 
 void CodeEditor::reveal(const QTextBlock& block)
 {
-    if (block.isValid() && !block.isVisible()) {
-        CodeFolding::reveal(block);
+    if (CodeFolding::reveal(block)) {
         d->updateLayout();
     }
 }
@@ -142,6 +166,9 @@ void CodeEditor::moveCursorVisible(bool ensure)
     if (!cursor.block().isVisible()) {
         cursor.setVisualNavigation(true);
         cursor.movePosition(QTextCursor::Up);
+        if (!cursor.block().isVisible()) {
+            cursor.setPosition(CodeFolding::visibleAbove(cursor.block()).position());
+        }
         setTextCursor(cursor);
     }
     if (ensure) {
@@ -190,6 +217,9 @@ void CodeEditor::mouseMoveEvent(QMouseEvent* event)
     if (event->buttons() == Qt::NoButton) {
         d->folds->mouseMoved(event);
     } else {
+        if (viewport()->cursor().shape() == Qt::BlankCursor) {
+            viewport()->setCursor(Qt::IBeamCursor);
+        }
         QPlainTextEdit::mouseMoveEvent(event);
     }
 }
@@ -224,6 +254,14 @@ void CodeEditor::resizeEvent(QResizeEvent* event)
 
 bool CodeEditor::viewportEvent(QEvent* event)
 {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        if (!(QGuiApplication::keyboardModifiers() & Qt::ControlModifier)) {
+            PlainToolTip::show(help->globalPos(), messageAt(cursorForPosition(help->pos())),
+                               viewport());
+        }
+        return true;
+    }
     if (event->type() == QEvent::ContextMenu) {
         const auto* menu = static_cast<QContextMenuEvent*>(event);
         if (menu->reason() == QContextMenuEvent::Mouse && !textCursor().hasSelection()) {

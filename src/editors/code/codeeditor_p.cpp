@@ -3,8 +3,10 @@
 #include "code/codedoc/codedocument.h"
 #include "editors/code/codecompletion_p.h"
 #include "editors/code/codeeditorextraarea_p.h"
+#include "editors/code/codefolding_p.h"
 #include "editors/code/codehighlights_p.h"
 #include "editors/code/foldedblocks_p.h"
+#include "editors/code/keptplace_p.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
@@ -55,24 +57,47 @@ void CodeEditorPrivate::attach(CodeDocument* newDocument)
     if (document) {
         document->disconnect(this);
     }
+    keptPlace.reset();
+    folds->follow(nullptr);
+    extraArea->endDrag();
     document = nullptr;
-    completion->hide();
     q->QPlainTextEdit::setDocument(nullptr);
     highlights->forgetParentheses();
     if (newDocument) {
         document = newDocument;
         q->QPlainTextEdit::setDocument(newDocument);
-        connect(newDocument, &CodeDocument::closing, this, [this] { attach(nullptr); });
-        connect(newDocument, &CodeDocument::codeChanged, this, [this] { folds->mend(0, 0); });
+        follow(newDocument);
     }
     extraArea->updateWidth();
     highlights->update();
 }
 
+void CodeEditorPrivate::follow(CodeDocument* newDocument)
+{
+    folds->follow(newDocument);
+    connect(newDocument, &CodeDocument::closing, this, [this] { attach(nullptr); });
+    connect(newDocument, &CodeDocument::aboutToRead, this,
+            [this] { keptPlace = std::make_unique<KeptPlace>(this); });
+    connect(newDocument, &CodeDocument::haveRead, this, &CodeEditorPrivate::haveRead);
+}
+
+void CodeEditorPrivate::haveRead()
+{
+    if (const std::unique_ptr<KeptPlace> place = std::move(keptPlace)) {
+        place->restore(this);
+        cursorMoved();
+    }
+}
+
 void CodeEditorPrivate::cursorMoved()
 {
-    highlights->update();
+    // While a file is read, the cursor is nowhere.
+    if (keptPlace) {
+        return;
+    }
     const QTextCursor cursor = q->textCursor();
+    q->reveal(cursor.block());
+    highlights->update();
     emit q->cursorChanged({cursor.blockNumber(), cursor.positionInBlock()});
 }
 

@@ -5,12 +5,15 @@
 #include <QPointer>
 #include <QTextBlock>
 
+#include <memory>
+
 namespace Zorv {
 
 class CodeCompletion;
 class CodeEditorExtraArea;
 class CodeHighlights;
 class FoldedBlocks;
+class KeptPlace;
 
 /// The parts of a `CodeEditor`, and what they need of it and of each other.
 class CodeEditorPrivate : public QObject
@@ -45,6 +48,12 @@ public:
     CodeHighlights* highlights;
     FoldedBlocks* folds;
     CodeCompletion* completion;
+
+private:
+    void follow(CodeDocument* newDocument);
+    void haveRead();
+
+    std::unique_ptr<KeptPlace> keptPlace;  ///< while a file is read
 };
 
 }  // namespace Zorv

@@ -1,6 +1,11 @@
 #pragma once
 
+#include <QBasicTimer>
+#include <QIcon>
+#include <QTextCursor>
 #include <QWidget>
+
+#include <array>
 
 namespace Zorv {
 
@@ -19,28 +24,61 @@ public:
     /// that of the column of marks.
     int neededWidth(int* markWidth = nullptr) const;
 
-    /// Gives the editor the margin that the gutter needs.
+    /// Gives the editor the margin that the gutter needs, and takes its place there.
     void updateWidth();
 
     /// Takes its place beside the viewport.
     void place();
 
+    /// Paints the strips of lines anew; an invalid one stands for the end of the view.
+    void updateLines(const QTextBlock& first, const QTextBlock& last);
+
+    /// Ends a drag: the text is another one.
+    void endDrag();
+
     QSize sizeHint() const override;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
     void scrollWithText(const QRect& rect, int dy);
-    void handleMouse(QMouseEvent* event);
+
+    int foldWidth() const;
+    QRect foldBox() const;
+    bool isInFoldColumn(int x) const;
+    QTextCursor cursorAt(int y) const;
+
+    void paintLine(QPainter* painter, const QTextBlock& block, const QRect& strip) const;
+    void paintRange(QPainter* painter, const QTextBlock& block, const QRect& strip) const;
+    void paintFoldMarker(QPainter* painter, const QTextBlock& block, const QRect& strip) const;
+    void paintMark(QPainter* painter, const QTextBlock& block, const QRect& strip) const;
+    void paintNumber(QPainter* painter, const QTextBlock& block, const QRect& strip) const;
+    bool isStrong(const QTextBlock& block) const;
+
+    void moved(const QPoint& place);
+    void pressed(const QPoint& place);
+    void toggleFold(const QPoint& place);
+    void dragTo(int y);
+    void showTip(const QPoint& place, const QPoint& globalPlace);
 
     CodeEditorPrivate* m_editor;
+    std::array<QIcon, 3> m_markIcons;  ///< by the type of message
+    QIcon m_contractIcon;
+    QIcon m_expandIcon;
+    QBasicTimer m_autoScrollTimer;
+    int m_selectionAnchorLine = -1;  ///< where a drag began
+    int m_markedLine = -1;           ///< the last one pressed in the column of marks
 };
 
 }  // namespace Zorv

@@ -71,6 +71,13 @@ void CodeHighlights::setBlockNumber(int number, int wait)
     m_blockTimer->start(wait);
 }
 
+void CodeHighlights::showRangesOf(int number)
+{
+    m_blockNumber = number;
+    m_blockTimer->stop();
+    findRanges();
+}
+
 void CodeHighlights::updateCurrentLine()
 {
     CodeEditor* q = m_editor->q;

@@ -42,6 +42,9 @@ public:
     /// Shows the ranges of another line, or with -1 none, after `wait` milliseconds.
     void setBlockNumber(int number, int wait);
 
+    /// Shows those of a line at once.
+    void showRangesOf(int number);
+
 private:
     enum ExtraSelectionKind { CurrentLineSelection, ParenthesesSelection, SelectionKindCount = 4 };
     using Selections = QList<QTextEdit::ExtraSelection>;
