@@ -1,0 +1,377 @@
+#include "editors/code/codefileeditor.h"
+
+#include "support/planneddialogs.h"
+#include "support/testgrammar.h"
+#include "support/testinterface.h"
+
+#include "editors/code/codeeditor.h"
+#include "editors/code/codeitemmodel.h"
+#include "editors/code/codeworkspace.h"
+#include "editors/framework/findflag.h"
+
+#include <QSignalSpy>
+#include <QTreeView>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Zorv;
+
+namespace {
+
+constexpr unsigned Expression = FindRegularExpression;
+
+/// A host that brings an editor forward by activating it.
+class Host : public TestInterface
+{
+public:
+    Host() { texts = {{8, QStringLiteral("Search")}}; }
+
+    void activateEditor(Editor* newEditor) override
+    {
+        TestInterface::activateEditor(newEditor);
+        newEditor->activate();
+    }
+};
+
+class TextEditor : public CodeFileEditor
+{
+public:
+    explicit TextEditor(CodeWorkspace* workspace)
+        : CodeFileEditor(workspace, new CodeItemModel, "code_tree")
+    {
+    }
+    QAction* action() const override { return nullptr; }
+    QString name() const override { return QStringLiteral("code"); }
+    int canEditFileType() const override { return 1; }
+    QStringList areas() const override { return {}; }
+    void retranslate() override {}
+};
+
+}  // namespace
+
+class CodeFileEditorTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void find_data();
+    void find();
+    void nothingFound();
+    void findUnfolds();
+    void findComesToTheMiddle();
+    void replaceOne_data();
+    void replaceOne();
+    void replaceAllIsOneStep();
+    void replaceAllOfNothing();
+    void statusFollowsTheCursor();
+    void treeFollowsTheCursor();
+    void chosenNodeIsShown();
+    void modifiedIsTold();
+    void inactiveTouchesNothing();
+    void documentDiesWhileActive();
+    void documentsTakeTurns();
+
+private:
+    void setText(const QString& text);
+    void select(int from, int to);
+    QPair<int, int> selection() const;
+
+    std::unique_ptr<Host> host;
+    std::unique_ptr<PlannedDialogs> dialogs;
+    std::unique_ptr<CodeWorkspace> workspace;
+    std::unique_ptr<TextEditor> text;
+    std::unique_ptr<GrammarDocument> document;
+    CodeEditor* editor = nullptr;
+};
+
+void CodeFileEditorTest::init()
+{
+    host = std::make_unique<Host>();
+    dialogs = std::make_unique<PlannedDialogs>();
+    workspace = std::make_unique<CodeWorkspace>();
+    text = std::make_unique<TextEditor>(workspace.get());
+    editor = workspace->editor();
+    workspace->widget()->resize(500, 400);
+    workspace->widget()->show();
+    QVERIFY(QTest::qWaitForWindowExposed(workspace->widget()));
+    setText(QStringLiteral("[1]\na=1\nb=2\n!x\n-f\n[2]\na=3"));
+}
+
+void CodeFileEditorTest::cleanup()
+{
+    text.reset();
+    workspace.reset();
+    document.reset();
+    dialogs.reset();
+    host.reset();
+}
+
+void CodeFileEditorTest::setText(const QString& content)
+{
+    text->deactivate();
+    document = std::make_unique<GrammarDocument>(content);
+    document->clearUndoRedoStacks();
+    document->setModified(false);
+    text->setDocument(document.get());
+    text->activate();
+}
+
+void CodeFileEditorTest::select(int from, int to)
+{
+    QTextCursor cursor(document.get());
+    cursor.setPosition(from);
+    cursor.setPosition(to, QTextCursor::KeepAnchor);
+    editor->setTextCursor(cursor);
+}
+
+QPair<int, int> CodeFileEditorTest::selection() const
+{
+    return {editor->textCursor().selectionStart(), editor->textCursor().selectionEnd()};
+}
+
+void CodeFileEditorTest::find_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<unsigned>("flags");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("start");
+    QTest::addColumn<int>("end");
+    // "ab.Ab.ab", with a line end for each point.
+    QTest::newRow("behind the selection") << "ab" << 0u << 0 << 1 << 3 << 5;
+    QTest::newRow("case") << "ab" << unsigned(FindCaseSensitive) << 0 << 1 << 6 << 8;
+    QTest::newRow("at the cursor") << "ab" << 0u << 3 << 3 << 3 << 5;
+    QTest::newRow("around") << "ab" << 0u << 6 << 8 << 0 << 2;
+    QTest::newRow("backward") << "ab" << unsigned(FindBackward) << 6 << 8 << 3 << 5;
+    QTest::newRow("backward around")
+        << "Ab" << (FindBackward | FindCaseSensitive) << 2 << 4 << 3 << 5;
+    QTest::newRow("backward at the start") << "ab" << unsigned(FindBackward) << 0 << 0 << 0 << 2;
+    QTest::newRow("over a line end") << "b.a" << Expression << 2 << 2 << 4 << 7;
+    QTest::newRow("literally") << "b.a" << 0u << 2 << 2 << 0 << 0;
+    QTest::newRow("the end is that of the text") << "b$" << Expression << 0 << 0 << 7 << 8;
+    QTest::newRow("empty match") << "x*" << Expression << 2 << 4 << 4 << 4;
+    QTest::newRow("no expression") << "(" << Expression << 2 << 4 << 0 << 0;
+    QTest::newRow("nothing to look for") << "" << 0u << 2 << 4 << 2 << 4;
+}
+
+void CodeFileEditorTest::find()
+{
+    QFETCH(QString, pattern);
+    QFETCH(unsigned, flags);
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(int, start);
+    QFETCH(int, end);
+    setText(QStringLiteral("ab\nAb\nab"));
+    select(from, to);
+    text->find(pattern, flags);
+    QCOMPARE(selection(), qMakePair(start, end));
+}
+
+void CodeFileEditorTest::nothingFound()
+{
+    select(3, 5);
+    text->find(QStringLiteral("nowhere"), 0);
+    QCOMPARE(dialogs->count(), 1);
+    QCOMPARE(dialogs->shown.first().kind, QStringLiteral("information"));
+    QCOMPARE(dialogs->shown.first().title, QStringLiteral("Search"));
+    QCOMPARE(dialogs->shown.first().text, QStringLiteral("No text found!"));
+    QCOMPARE(selection(), qMakePair(0, 0));
+}
+
+void CodeFileEditorTest::findUnfolds()
+{
+    editor->toggleBlockVisible(document->firstBlock());
+    QVERIFY(!document->findBlockByNumber(2).isVisible());
+    text->find(QStringLiteral("b=2"), 0);
+    QVERIFY(document->findBlockByNumber(2).isVisible());
+    QCOMPARE(editor->textCursor().blockNumber(), 2);
+}
+
+void CodeFileEditorTest::findComesToTheMiddle()
+{
+    setText(QStringLiteral("# n\n").repeated(200) + QStringLiteral("[7]\n") +
+            QStringLiteral("# n\n").repeated(200));
+    const auto place = [this] {
+        return editor->cursorRect().center().y() * 10 / editor->viewport()->height();
+    };
+    text->find(QStringLiteral("[7]"), 0);
+    QVERIFY2(place() >= 3 && place() <= 6, qPrintable(QString::number(place())));
+    select(document->characterCount() - 1, document->characterCount() - 1);
+    text->find(QStringLiteral("[7]"), FindBackward);
+    QVERIFY2(place() >= 3 && place() <= 6, qPrintable(QString::number(place())));
+}
+
+void CodeFileEditorTest::replaceOne_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("with");
+    QTest::addColumn<unsigned>("flags");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<int>("start");
+    QTest::newRow("goes on to the next") << "ab"
+                                         << "x" << 0u << 0 << 2 << "x\nAb\nab" << 2;
+    QTest::newRow("no match yet") << "ab"
+                                  << "x" << 0u << 0 << 1 << "ab\nAb\nab" << 3;
+    QTest::newRow("groups") << "(a)(b)"
+                            << "\\2\\1" << Expression << 0 << 2 << "ba\nAb\nab" << 3;
+    QTest::newRow("text with groups") << "ab"
+                                      << "\\1" << 0u << 0 << 2 << "\\1\nAb\nab" << 3;
+    QTest::newRow("what stands behind counts") << "ab(?=\\nab)"
+                                               << "x" << Expression << 3 << 5 << "ab\nx\nab" << 0;
+}
+
+void CodeFileEditorTest::replaceOne()
+{
+    QFETCH(QString, pattern);
+    QFETCH(QString, with);
+    QFETCH(unsigned, flags);
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(QString, result);
+    QFETCH(int, start);
+    setText(QStringLiteral("ab\nAb\nab"));
+    select(from, to);
+    text->replace(pattern, with, flags, false);
+    QCOMPARE(document->text(), result);
+    QCOMPARE(selection().first, start);
+}
+
+void CodeFileEditorTest::replaceAllIsOneStep()
+{
+    const QString before = document->text();
+    const QTextBlockUserData* line = document->findBlockByNumber(3).userData();
+    text->replace(QStringLiteral("a="), QStringLiteral("long="), 0, true);
+    QCOMPARE(document->text(),
+             QString(before).replace(QLatin1String("a="), QLatin1String("long=")));
+    QCOMPARE(document->findBlockByNumber(3).userData(), line);
+    text->undo();
+    QCOMPARE(document->text(), before);
+    QVERIFY(!document->isUndoAvailable());
+    QCOMPARE(editor->textCursor().blockNumber(), 1);
+    QCOMPARE(dialogs->count(), 0);
+}
+
+void CodeFileEditorTest::replaceAllOfNothing()
+{
+    const QString before = document->text();
+    text->replace(QStringLiteral("nowhere"), QStringLiteral("x"), 0, true);
+    QCOMPARE(document->text(), before);
+    QVERIFY(document->isUndoAvailable());
+    text->undo();
+    QCOMPARE(document->text(), before);
+    QVERIFY(!document->isUndoAvailable());
+}
+
+void CodeFileEditorTest::statusFollowsTheCursor()
+{
+    setText(QStringLiteral("[1]\n?e\na=1\n?e"));
+    editor->toggleBlockVisible(document->firstBlock());
+    text->navigateTo({}, 0, 2, 1);
+    QCOMPARE(host->status(0), QStringLiteral("Line: 3, Column: 2, Line count: 4"));
+    QCOMPARE(host->status(1), QStringLiteral("Syntax error count: 2"));
+}
+
+void CodeFileEditorTest::treeFollowsTheCursor()
+{
+    const auto current = [this] {
+        const QModelIndexList rows = text->tree()->selectionModel()->selectedIndexes();
+        return rows.size() == 1 ? rows.first().data().toString() : QString::number(rows.size());
+    };
+    text->navigateTo({}, 0, 2, 0);
+    QCOMPARE(current(), QStringLiteral("b"));
+    const QModelIndex group = text->model()->index(0, 0);
+    QVERIFY(text->tree()->isExpanded(group));
+    text->navigateTo({}, 0, 4, 0);
+    QCOMPARE(current(), QStringLiteral("Frame"));
+    QVERIFY(text->tree()->isExpanded(group));
+    host->options[QStringLiteral("auto_expand_tree")] = true;
+    text->navigateTo({}, 0, 5, 0);
+    QCOMPARE(current(), QStringLiteral("2"));
+    QVERIFY(!text->tree()->isExpanded(group));
+    // The tree is there again after an edit.
+    QTest::keyClick(editor, Qt::Key_End);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTest::keyClicks(editor, QStringLiteral("!new"));
+    text->navigateTo({}, 0, 0, 0);
+    text->navigateTo({}, 0, 6, 0);
+    QCOMPARE(current(), QStringLiteral("new"));
+}
+
+void CodeFileEditorTest::chosenNodeIsShown()
+{
+    QTreeView* tree = text->tree();
+    const QModelIndex group = text->model()->index(2, 0);
+    host->controlsWindow()->show();
+    const QPoint place = tree->visualRect(group).center();
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, place);
+    QCOMPARE(editor->textCursor().blockNumber(), 5);
+    text->selectedItem(QModelIndex());
+    QCOMPARE(editor->textCursor().blockNumber(), 5);
+}
+
+void CodeFileEditorTest::modifiedIsTold()
+{
+    QSignalSpy modified(text.get(), &Editor::modified);
+    QTest::keyClicks(editor, QStringLiteral("ab"));
+    QCOMPARE(modified.count(), 1);
+    text->undo();
+    QCOMPARE(modified.count(), 2);
+    QVERIFY(!text->isModified());
+}
+
+void CodeFileEditorTest::inactiveTouchesNothing()
+{
+    const QModelIndex group = text->model()->index(2, 0);
+    text->deactivate();
+    QVERIFY(!editor->codeDocument());
+    QVERIFY(!text->tree()->model());
+    text->selectedItem(group);
+    text->find(QStringLiteral("a"), 0);
+    text->replace(QStringLiteral("a"), QStringLiteral("b"), 0, true);
+    QCOMPARE(document->availableUndoSteps(), 0);
+    QCOMPARE(dialogs->count(), 0);
+    QTextCursor(document.get()).insertText(QStringLiteral("# "));
+    text->undo();
+    QVERIFY(!document->isModified());
+}
+
+void CodeFileEditorTest::documentDiesWhileActive()
+{
+    document.reset();
+    QVERIFY(!text->isActive());
+    QVERIFY(!text->file());
+    QCOMPARE(text->model()->rowCount(), 0);
+    text->undo();
+    text->find(QStringLiteral("a"), 0);
+    setText(QStringLiteral("[1]\na=1"));
+    text->find(QStringLiteral("a"), 0);
+    QCOMPARE(selection(), qMakePair(4, 5));
+    QCOMPARE(text->model()->rowCount(), 1);
+}
+
+/// What another editor has brought to the workspace stays when this one goes after it.
+void CodeFileEditorTest::documentsTakeTurns()
+{
+    GrammarDocument other(QStringLiteral("[1]"));
+    workspace->setDocument(&other);
+    text->find(QStringLiteral("1"), 0);
+    QVERIFY(!editor->textCursor().hasSelection());
+    text->deactivate();
+    QCOMPARE(editor->codeDocument(), &other);
+    workspace->setDocument(nullptr);
+    host->calls.clear();
+    text->activate();
+    text->activate();
+    QCOMPARE(host->calls.filter(QStringLiteral("activateEditor")).size(), 1);
+    QCOMPARE(editor->codeDocument(), document.get());
+}
+
+QTEST_MAIN(CodeFileEditorTest)
+#include "tst_codefileeditor.moc"
