@@ -30,14 +30,14 @@ bool endsWith(const QString& line, const QString& trigger)
 }  // namespace
 
 CodeCompletion::CodeCompletion(CodeEditorPrivate* editor)
-    : QObject(editor), m_editor(editor), m_completer(new QCompleter(this))
+    : QObject(editor), m_editor(editor), m_completer(new QCompleter(this)),
+      m_delegate(new CompletionDelegate(this))
 {
     m_completer->setModelSorting(QCompleter::CaseInsensitivelySortedModel);
     m_completer->setCaseSensitivity(Qt::CaseInsensitive);
     m_completer->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     m_completer->setWrapAround(false);
     m_completer->setWidget(editor->q);
-    m_completer->popup()->setItemDelegate(new CompletionDelegate(m_completer->popup()));
     m_completer->popup()->setAccessibleName(tr("Words to complete"));
     connect(m_completer, QOverload<const QString&>::of(&QCompleter::activated), this,
             &CodeCompletion::insert);
@@ -84,6 +84,8 @@ void CodeCompletion::useModel(QStringListModel* words)
             disconnect(m_completer->model(), nullptr, this, nullptr);
         }
         m_completer->setModel(words);
+        // A new model brings the completer's own one back.
+        m_completer->popup()->setItemDelegate(m_delegate);
     }
     if (words) {
         connect(words, &QObject::destroyed, this, &CodeCompletion::hide, Qt::UniqueConnection);
@@ -178,7 +180,8 @@ void CodeCompletion::open(const QString& prefix)
         m_completer->setCompletionPrefix(prefix);
         popup->setCurrentIndex(m_completer->completionModel()->index(0, 0));
     }
-    QRect place = m_editor->q->cursorRect();
+    // The completer counts from the widget, gutter included.
+    QRect place = m_editor->q->cursorRect().translated(m_editor->q->viewport()->pos());
     place.setWidth(popup->sizeHintForColumn(0) + popup->verticalScrollBar()->sizeHint().width());
     m_completer->complete(place);
 }

@@ -11,6 +11,7 @@ class QStringListModel;
 namespace Zorv {
 
 class CodeEditorPrivate;
+class CompletionDelegate;
 
 /// The popup of words: when it opens, and what is put in.
 class CodeCompletion : public QObject
@@ -44,6 +45,7 @@ private:
 
     CodeEditorPrivate* m_editor;
     QCompleter* m_completer;
+    CompletionDelegate* m_delegate;
     QMap<QString, QStringListModel*> m_models;  // by trigger
     QString m_error;
     int m_longest = 0;  // trigger, in characters

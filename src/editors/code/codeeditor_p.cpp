@@ -58,6 +58,7 @@ void CodeEditorPrivate::attach(CodeDocument* newDocument)
         document->disconnect(this);
     }
     keptPlace.reset();
+    completion->hide();
     folds->follow(nullptr);
     extraArea->endDrag();
     document = nullptr;

@@ -33,8 +33,8 @@ void CompletionModel::setWords(QVector<CompletionWord> words)
 
 QVariant CompletionModel::data(const QModelIndex& index, int role) const
 {
-    const bool isDescription = role == DescriptionRole || role == Qt::ToolTipRole ||
-                               role == Qt::AccessibleDescriptionRole;
+    const bool isDescription =
+        role == DescriptionRole || role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole;
     return isDescription && index.isValid() ? m_descriptions.value(index.row())
                                             : QStringListModel::data(index, role);
 }

@@ -1,0 +1,130 @@
+#include "meaning/reference.h"
+
+#include "familydocument.h"
+#include "grammar/groupinfo.h"
+#include "meaning/linecontext.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace Family {
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Family::Reference)
+};
+
+void takeColumns(Reference* reference, const LinePart* part)
+{
+    reference->start = part->start;
+    reference->end = part->end;
+}
+
+bool isAround(const LinePart* part, int column)
+{
+    return part && part->start <= column && column <= part->end;
+}
+
+Definition none(const QString& message)
+{
+    return {{}, {}, message};
+}
+
+Definition fileOf(const QString& path, const QString& written)
+{
+    if (QFileInfo(path).isFile()) {
+        return {path, {}, {}};
+    }
+    return none(Texts::tr("There is no file '%1'.").arg(written));
+}
+
+Definition frameOf(const QVector<NamePlace>& frames, const Reference& reference,
+                   const FamilyDocument* document, int line)
+{
+    for (const NamePlace& place : frames) {
+        if (place.document != document || place.line != line) {
+            return {{}, place, {}};
+        }
+    }
+    return none(Texts::tr("No other frame of the project shows the sprite %1,%2.")
+                    .arg(reference.group)
+                    .arg(reference.number));
+}
+
+QString missingText(Form form, const QString& name)
+{
+    switch (form) {
+    case Form::CommandName:
+        return Texts::tr("There is no command '%1'.").arg(name);
+    case Form::MoveName:
+        return Texts::tr("There is no move '%1'.").arg(name);
+    default:
+        return Texts::tr("There is no animation '%1'.").arg(name);
+    }
+}
+
+}  // namespace
+
+Reference referenceAt(const FamilyDocument* document, int line, int column)
+{
+    Reference reference;
+    LineDetails details;
+    LineReport report(nullptr, &details);
+    const ParsedLine parsed = readLine(document->findBlockByNumber(line).text(),
+                                       headOfLine(document, line), document->kind(), report);
+    if (parsed.kind == ParsedLine::Frame) {
+        const LinePart* sprite = details.part(LinePart::Sprite);
+        if (isAround(sprite, column)) {
+            reference.kind = Reference::Sprite;
+            reference.group = parsed.frame.group;
+            reference.number = parsed.frame.number;
+            takeColumns(&reference, sprite);
+        }
+        return reference;
+    }
+    const LinePart* value = details.part(LinePart::Value);
+    if (parsed.kind != ParsedLine::Value || !parsed.value.isValid() || !isAround(value, column)) {
+        return reference;
+    }
+    const Form form = parsed.key->form;
+    if (form == Form::Path) {
+        reference.kind = Reference::File;
+    } else if (form == Form::AnimationName || form == Form::CommandName || form == Form::MoveName) {
+        reference.kind = Reference::Named;
+    } else {
+        return reference;
+    }
+    reference.form = form;
+    reference.name = parsed.value.toString();
+    takeColumns(&reference, value);
+    return reference;
+}
+
+Definition definitionOf(const Reference& reference, const FamilyDocument* document,
+                        const FamilyProject* project, int line)
+{
+    const ProjectNames names(document, project);
+    switch (reference.kind) {
+    case Reference::File:
+        return fileOf(names.filePath(reference.name), reference.name);
+    case Reference::Sprite:
+        return frameOf(names.frames(reference.group, reference.number), reference, document, line);
+    case Reference::Named: {
+        const QVector<NamedThing> things = names.named(reference.form);
+        for (const NamedThing& thing : things) {
+            if (thing.name == reference.name) {
+                return {{}, thing.place, {}};
+            }
+        }
+        return none(missingText(reference.form, reference.name));
+    }
+    case Reference::None:
+        break;
+    }
+    return none(Texts::tr("Nothing here names something that stands elsewhere."));
+}
+
+}  // namespace Family

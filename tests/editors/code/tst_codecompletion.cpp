@@ -1,0 +1,383 @@
+#include "editors/code/codeeditor.h"
+
+#include "editors/code/completionmodel.h"
+#include "support/testgrammar.h"
+
+#include <QAbstractItemModelTester>
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Zorv;
+
+namespace {
+
+const char* const words = R"(<?xml version="1.0"?>
+<completer version="1">
+    <words trigger="air= air=o">
+        <word text="yes" description="Anywhere"/>
+        <word text="no"/>
+        <word text="Only" description="In the air"/>
+    </words>
+    <words trigger="[m"><word text="move"/><word text="music"/></words>
+    <words trigger="(">
+        <word text="first"/><word text="second"/>
+    </words>
+</completer>
+)";
+
+QByteArray rootOf(const QByteArray& content)
+{
+    return "<completer version=\"1\">" + content + "</completer>";
+}
+
+QByteArray manyWords(int count, const QByteArray& trigger)
+{
+    QByteArray content = "<words trigger=\"" + trigger + "\">";
+    for (int i = 0; i < count; ++i) {
+        content += "<word text=\"w" + QByteArray::number(i) + "\"/>";
+    }
+    return rootOf(content + "</words>");
+}
+
+}  // namespace
+
+/// The popup on the screen, by the keys of a person.
+class CodeCompletionTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void opens_data();
+    void opens();
+    void popupKeys_data();
+    void popupKeys();
+    void wordsFollowThePrefix();
+    void descriptionsStandInThePopup();
+    void hostOpensIt();
+    void modelsGoUnderThePopup();
+    void documentsGoUnderThePopup();
+    void readOnlyStaysWhole();
+    void brokenFiles_data();
+    void brokenFiles();
+    void missingFileHasNoWords();
+
+private:
+    bool load(const QByteArray& content);
+    void start(const QString& text);
+    void type(const QString& text) { QTest::keyClicks(target(), text); }
+    QWidget* target() const;
+    QAbstractItemView* popup() const { return editor->completer()->popup(); }
+    QString current() const { return popup()->currentIndex().data().toString(); }
+    QStringList shown() const;
+    QString text() const { return editor->document()->toPlainText(); }
+
+    QTemporaryDir folder;
+    std::unique_ptr<GrammarDocument> document;
+    std::unique_ptr<CodeEditor> editor;
+};
+
+void CodeCompletionTest::init()
+{
+    document = std::make_unique<GrammarDocument>();
+    editor = std::make_unique<CodeEditor>();
+    editor->resize(400, 300);
+    editor->setDocument(document.get());
+    editor->show();
+    editor->setFocus();
+    QVERIFY(QTest::qWaitForWindowExposed(editor.get()));
+    QVERIFY(load(words));
+    QCOMPARE(editor->completerError(), QString());
+}
+
+void CodeCompletionTest::cleanup()
+{
+    editor.reset();
+    document.reset();
+}
+
+bool CodeCompletionTest::load(const QByteArray& content)
+{
+    QFile file(folder.filePath(QStringLiteral("completer.xml")));
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
+           (file.close(), editor->completerFromFile(file.fileName()));
+}
+
+void CodeCompletionTest::start(const QString& text)
+{
+    document->setPlainText(text);
+    editor->moveCursor(QTextCursor::End);
+}
+
+/// Keys go where Qt sends them: to the popup while it is open.
+QWidget* CodeCompletionTest::target() const
+{
+    return popup()->isVisible() ? static_cast<QWidget*>(popup()) : editor.get();
+}
+
+QStringList CodeCompletionTest::shown() const
+{
+    QStringList rows;
+    for (int i = 0; popup()->isVisible() && i < popup()->model()->rowCount(); ++i) {
+        rows.append(popup()->model()->index(i, 0).data().toString());
+    }
+    return rows;
+}
+
+void CodeCompletionTest::opens_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QStringList>("rows");
+    const QStringList air{"no", "Only", "yes"};
+    const QStringList groups{"move", "music"};
+    const QStringList places{"first", "second"};
+    const QStringList none;
+    QTest::newRow("a sign that ends a word closes") << ""
+                                                    << "air=" << none;
+    QTest::newRow("the blank behind it opens") << ""
+                                               << "air= " << air;
+    QTest::newRow("blanks in the line do not count") << "  air  ="
+                                                     << " " << air;
+    QTest::newRow("case does not count") << ""
+                                         << "AIR= " << air;
+    QTest::newRow("with the first letter") << "air="
+                                           << "o" << air;
+    QTest::newRow("another letter") << "air="
+                                    << "x" << none;
+    QTest::newRow("inside a word") << "st"
+                                   << "air= " << none;
+    QTest::newRow("behind a digit") << "1"
+                                    << "air= " << none;
+    QTest::newRow("behind a full stop") << "a."
+                                        << "air= " << none;
+    QTest::newRow("behind another sign") << "-"
+                                         << "air= " << air;
+    QTest::newRow("a bracket is no end of a word") << ""
+                                                   << "(" << places;
+    QTest::newRow("goes on with the word") << ""
+                                           << "[mu" << groups;
+    QTest::newRow("closes at its end") << ""
+                                       << "[mu]" << none;
+    QTest::newRow("a tab is no blank") << "air\t="
+                                       << " " << none;
+    QTest::newRow("a long line") << QString(100000, u'-') + "["
+                                 << "m" << groups;
+}
+
+void CodeCompletionTest::opens()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, keys);
+    start(before);
+    for (const QChar key : keys) {
+        type(key);
+    }
+    QTEST(shown(), "rows");
+    QCOMPARE(text(), before + keys);
+}
+
+void CodeCompletionTest::popupKeys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isOpen");
+    QTest::newRow("return") << int(Qt::Key_Return) << 0 << "[move" << false;
+    QTest::newRow("enter") << int(Qt::Key_Enter) << 0 << "[move" << false;
+    QTest::newRow("tab") << int(Qt::Key_Tab) << 0 << "[move" << false;
+    QTest::newRow("backtab") << int(Qt::Key_Backtab) << 0 << "[mo" << false;
+    QTest::newRow("escape") << int(Qt::Key_Escape) << 0 << "[mo" << false;
+    QTest::newRow("backspace") << int(Qt::Key_Backspace) << 0 << "[m" << true;
+    QTest::newRow("another modifier") << int(Qt::Key_V) << int(Qt::AltModifier) << "[mov" << false;
+    QTest::newRow("shift alone") << int(Qt::Key_Shift) << 0 << "[mo" << true;
+    QTest::newRow("a key without a text") << int(Qt::Key_Left) << 0 << "[mo" << false;
+}
+
+void CodeCompletionTest::popupKeys()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    start(QStringLiteral("["));
+    type(QStringLiteral("m"));
+    type(QStringLiteral("o"));
+    QCOMPARE(current(), QStringLiteral("move"));
+    QTest::keyClick(target(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QTEST(text(), "text");
+    QTEST(popup()->isVisible(), "isOpen");
+}
+
+void CodeCompletionTest::wordsFollowThePrefix()
+{
+    start(QStringLiteral("air="));
+    type(QStringLiteral(" "));
+    QCOMPARE(current(), QStringLiteral("no"));
+    type(QStringLiteral("o"));
+    QCOMPARE(current(), QStringLiteral("Only"));
+    QCOMPARE(shown().size(), 3);
+    QTest::keyClick(target(), Qt::Key_Down);
+    QCOMPARE(current(), QStringLiteral("yes"));
+    // What is typed stays as it is.
+    QTest::keyClick(target(), Qt::Key_Up);
+    QTest::keyClick(target(), Qt::Key_Return);
+    QCOMPARE(text(), QStringLiteral("air= only"));
+}
+
+void CodeCompletionTest::descriptionsStandInThePopup()
+{
+    start(QStringLiteral("air="));
+    type(QStringLiteral(" "));
+    const QModelIndex only = popup()->model()->index(1, 0);
+    QCOMPARE(only.data(Qt::ToolTipRole).toString(), QStringLiteral("In the air"));
+    QCOMPARE(only.data(Qt::AccessibleDescriptionRole).toString(), QStringLiteral("In the air"));
+    const int most = popup()->fontMetrics().horizontalAdvance(QStringLiteral("OnlyIn the air"));
+    QVERIFY2(popup()->width() > most, "a row has no room for word and description");
+    QCOMPARE(popup()->mapToGlobal(QPoint()).x(),
+             editor->viewport()->mapToGlobal(editor->cursorRect().topLeft()).x());
+
+    // The description is drawn: the right half of its row is not plain ground.
+    const QImage row = popup()->viewport()->grab(popup()->visualRect(only)).toImage();
+    const QRgb ground = row.pixel(row.width() / 2, 0);
+    int inked = 0;
+    for (int x = row.width() / 2; x < row.width(); ++x) {
+        for (int y = 0; y < row.height(); ++y) {
+            inked += row.pixel(x, y) != ground;
+        }
+    }
+    QVERIFY(inked > 10);
+}
+
+void CodeCompletionTest::hostOpensIt()
+{
+    CompletionModel model;
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setWords(
+        {{"beta", "2"}, {"Alpha", "1"}, {"", "nothing"}, {"beta", "twice"}, {"alb", ""}});
+    QCOMPARE(model.stringList(), QStringList({"alb", "Alpha", "beta"}));
+    QCOMPARE(model.index(2).data(CompletionModel::DescriptionRole).toString(), QString("2"));
+
+    start(QStringLiteral("say be"));
+    editor->showCompletions(&model);
+    QCOMPARE(shown(), model.stringList());
+    QCOMPARE(current(), QStringLiteral("beta"));
+    QTest::keyClick(target(), Qt::Key_Return);
+    QCOMPARE(text(), QStringLiteral("say beta"));
+
+    model.setWords({});
+    editor->showCompletions(&model);
+    QVERIFY(!popup()->isVisible());
+}
+
+void CodeCompletionTest::modelsGoUnderThePopup()
+{
+    auto model = std::make_unique<CompletionModel>();
+    model->setWords({{"alpha", {}}, {"beta", {}}});
+    start(QStringLiteral("a"));
+    editor->showCompletions(model.get());
+    QVERIFY(popup()->isVisible());
+    model.reset();
+    QVERIFY(!popup()->isVisible());
+    type(QStringLiteral("b"));
+
+    start(QStringLiteral("["));
+    type(QStringLiteral("m"));
+    QVERIFY(popup()->isVisible());
+    QVERIFY(load(rootOf("<words trigger=\"[n\"><word text=\"new\"/></words>")));
+    QVERIFY(!popup()->isVisible());
+    start(QStringLiteral("["));
+    type(QStringLiteral("n"));
+    QCOMPARE(shown(), QStringList(QStringLiteral("new")));
+}
+
+void CodeCompletionTest::documentsGoUnderThePopup()
+{
+    for (const bool swap : {true, false}) {
+        start(QStringLiteral("["));
+        type(QStringLiteral("m"));
+        QVERIFY(popup()->isVisible());
+        auto other = std::make_unique<GrammarDocument>(QStringLiteral("other"));
+        if (swap) {
+            editor->setDocument(other.get());
+        } else {
+            document.reset();
+        }
+        QVERIFY(!popup()->isVisible());
+        QTest::keyClick(target(), Qt::Key_Return);
+        editor->setDocument(document.get());
+    }
+}
+
+void CodeCompletionTest::readOnlyStaysWhole()
+{
+    start(QStringLiteral("["));
+    type(QStringLiteral("m"));
+    editor->setReadOnly(true);
+    QTest::keyClick(target(), Qt::Key_Return);
+    QCOMPARE(text(), QStringLiteral("[m"));
+}
+
+void CodeCompletionTest::brokenFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("place");
+    const QByteArray bomb = "<!DOCTYPE a [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;\">]>"
+                            "<completer version=\"1\">&b;</completer>";
+    QTest::newRow("empty") << QByteArray() << "line 1, column 1:";
+    QTest::newRow("not XML") << QByteArray("\x89PNG\r\n\x1a\n\0\0", 10) << "line 1, column";
+    QTest::newRow("ends early") << QByteArray("<completer version=\"1\">\n<words")
+                                << "line 2, column";
+    QTest::newRow("another root") << QByteArray("<words/>") << "line 1, column 9:";
+    QTest::newRow("another version")
+        << QByteArray("<completer version=\"2\"/>") << "line 1, column";
+    QTest::newRow("no trigger") << rootOf("\n<words><word text=\"a\"/></words>")
+                                << "line 2, column 8:";
+    QTest::newRow("no word") << rootOf("\n\n<words trigger=\"x\"><word/></words>")
+                             << "line 3, column";
+    QTest::newRow("behind the root") << rootOf({}) + "<more/>"
+                                     << "line 1, column";
+    QTest::newRow("bomb") << bomb << "line 1, column";
+    QTest::newRow("many words") << manyWords(100001, "x") << "line 1, column";
+    QTest::newRow("many triggers") << manyWords(2000, QByteArray("x ").repeated(51)) << "line 1";
+    QTest::newRow("long") << rootOf(QByteArray(5 << 20, ' ')) << "MiB";
+}
+
+void CodeCompletionTest::brokenFiles()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, place);
+    QVERIFY(load(content));
+    const QString error = editor->completerError();
+    QVERIFY2(error.contains(place), qPrintable(error));
+    QVERIFY2(error.contains(QStringLiteral("completer.xml")), qPrintable(error));
+
+    start(QStringLiteral("["));
+    type(QStringLiteral("m"));
+    QCOMPARE(shown(), QStringList({"move", "music"}));
+}
+
+/// What a later version of the format may have is passed over.
+void CodeCompletionTest::missingFileHasNoWords()
+{
+    QVERIFY(
+        load(rootOf("<later><words trigger=\"[m\"/></later>"
+                    "<words trigger=\"[m\" later=\"1\"><word text=\"mine\" later=\"2\"><x/></word>"
+                    "<later/></words>")));
+    QCOMPARE(editor->completerError(), QString());
+    start(QStringLiteral("["));
+    type(QStringLiteral("m"));
+    QCOMPARE(shown(), QStringList(QStringLiteral("mine")));
+
+    QVERIFY(!editor->completerFromFile(folder.filePath(QStringLiteral("none.xml"))));
+    QVERIFY(!editor->completerFromFile(folder.path()));
+    start(QStringLiteral("["));
+    type(QStringLiteral("m"));
+    QVERIFY(!popup()->isVisible());
+}
+
+QTEST_MAIN(CodeCompletionTest)
+#include "tst_codecompletion.moc"
