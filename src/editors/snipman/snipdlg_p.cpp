@@ -227,6 +227,8 @@ QLabel* SnipDlgPrivate::addLabel(QBoxLayout* layout, const QString& text, QWidge
     auto* label = new QLabel(text);
     label->setWordWrap(true);
     label->setBuddy(buddy);
+    // Not every widget is named by its label.
+    buddy->setAccessibleName(QString(text).remove(QLatin1Char('&')));
     layout->addWidget(label);
     return label;
 }

@@ -94,6 +94,7 @@ SnipFieldDlg::SnipFieldDlg(QWidget* parent) : QDialog(parent), d(new SnipFieldDl
     layout->addLayout(form);
     layout->addWidget(d->pages);
     layout->addWidget(d->buttons);
+    d->name->setFocus();
     QMetaObject::connectSlotsByName(this);
     on_name_textChanged({});
 }

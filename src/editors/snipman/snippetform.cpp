@@ -42,6 +42,16 @@ QWidget* makeNumber(const QString& value)
     return box;
 }
 
+/// So that what is typed first takes the place of the default, as after the key Tab.
+void selectText(QWidget* input)
+{
+    if (auto* line = qobject_cast<QLineEdit*>(input)) {
+        line->selectAll();
+    } else if (auto* number = qobject_cast<QAbstractSpinBox*>(input)) {
+        number->selectAll();
+    }
+}
+
 QString valueOf(const QWidget* input)
 {
     if (const auto* list = qobject_cast<const QComboBox*>(input)) {
@@ -70,6 +80,10 @@ SnippetForm::SnippetForm(QWidget* parent, const QString& title, const Fields& fi
         addRow(grid, *field);
     }
     grid->setRowStretch(grid->rowCount(), 1);
+    if (!m_inputs.empty()) {
+        m_inputs.front()->setFocus();
+        selectText(m_inputs.front());
+    }
 
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
