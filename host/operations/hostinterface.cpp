@@ -31,6 +31,17 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("backup_onload"), false},
         {QStringLiteral("confirm_delete"), true},
         {QStringLiteral("show_organizer"), true},
+        {QStringLiteral("show_code_bar"), true},
+        {QStringLiteral("auto_expand_tree"), false},
+        {QStringLiteral("code_line_numbers"), true},
+        {QStringLiteral("code_folding_markers"), true},
+        {QStringLiteral("code_highlight_line"), true},
+        {QStringLiteral("code_highlight_blocks"), false},
+        {QStringLiteral("code_paren_matching"), true},
+        {QStringLiteral("line"), QColor()},
+        {QStringLiteral("block_range"), QColor()},
+        {QStringLiteral("paren_range"), QColor()},
+        {QStringLiteral("paren"), QColor()},
         {QStringLiteral("recovery_seconds"), 5},
         {QStringLiteral("language"), QString()},
         {QStringLiteral("theme"), QString()},
@@ -62,6 +73,11 @@ QVariant HostInterface::defaultOption(const QString& key)
 }
 
 QVariant HostInterface::option(const QString& key) const
+{
+    return storedOption(key);
+}
+
+QVariant HostInterface::storedOption(const QString& key) const
 {
     QVariant value = m_settings ? m_settings->value(key) : m_options.value(key);
     const QVariant fallback = defaultOption(key);

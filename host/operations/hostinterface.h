@@ -30,6 +30,9 @@ public:
     static QVariant defaultOption(const QString& key);
 
     /// The stored setting in the type of its default, else the default.
+    QVariant storedOption(const QString& key) const;
+
+    /// The same, unless a host knows better what is meant: the theme's colour for none.
     QVariant option(const QString& key) const override;
     void setOption(const QString& key, const QVariant& value) override;
     QColor colorOption(const QString& key) const override;

@@ -13,15 +13,18 @@
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QCheckBox>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QKeySequenceEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -41,6 +44,7 @@ private slots:
     void everyRowGoesThere();
     void cancelKeepsAll();
     void applyReachesTheWindow();
+    void coloursAreLeftToTheTheme();
     void defaultsAreNotStored();
     void folderIsChosen();
     void enginesAreEdited();
@@ -56,7 +60,10 @@ private:
         return widget;
     }
 
-    QVariant option(const char* key) const { return m_fixture->host.option(QLatin1String(key)); }
+    QVariant option(const char* key) const
+    {
+        return m_fixture->host.storedOption(QLatin1String(key));
+    }
     void open();
     void showPage(int row) const;
     void press(QDialogButtonBox::StandardButton button) const;
@@ -68,6 +75,7 @@ private:
     }
     void writeText(const char* name, const QString& text) const;
     void selectKey(const char* action) const;
+    static void chooseColour(QPushButton* button, const QColor& colour);
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<WindowFixture> m_fixture;
@@ -90,6 +98,9 @@ void tst_SettingsDialog::cleanup()
 
 void tst_SettingsDialog::open()
 {
+    // A dialog of Qt's own leaves none active.
+    m_fixture->window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_fixture->window.get()));
     QTest::keyClick(m_fixture->window.get(), Qt::Key_Comma, Qt::ControlModifier);
     m_dialog = m_fixture->window->findChild<SettingsDialog*>();
     QVERIFY(m_dialog);
@@ -156,6 +167,7 @@ void tst_SettingsDialog::everyRowGoesThere()
         writeText(setting.key, QStringLiteral("/some/folder"));
         break;
     case SettingRow::Colour:
+        chooseColour(static_cast<QPushButton*>(widget), Qt::darkCyan);
         break;
     }
     press(QDialogButtonBox::Ok);
@@ -218,6 +230,39 @@ void tst_SettingsDialog::applyReachesTheWindow()
         QVERIFY(m_fixture->document()->next());
         QCOMPARE(m_fixture->window->messagePanel()->model()->rowCount() > 0, isOn);
     }
+}
+
+/// By the menu of a button and the dialog behind its last entry.
+void tst_SettingsDialog::chooseColour(QPushButton* button, const QColor& colour)
+{
+    QTimer::singleShot(0, button, [colour] {
+        auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+        dialog->setCurrentColor(colour);
+        dialog->accept();
+    });
+    button->menu()->actions().last()->trigger();
+}
+
+/// A colour that nobody chose is that of the theme in use, also when that changes; and once
+/// chosen it can be left to the theme again.
+void tst_SettingsDialog::coloursAreLeftToTheTheme()
+{
+    showPage(1);
+    auto* button = find<QPushButton>("line");
+    const auto shown = [this] {
+        return m_fixture->host.option(QStringLiteral("line")).value<QColor>();
+    };
+    QCOMPARE(shown(), App::Theme::colour(App::Theme::CurrentLine));
+    App::Theme::use(App::Theme::Dark);
+    QCOMPARE(shown(), App::Theme::colour(App::Theme::Dark, App::Theme::CurrentLine));
+    chooseColour(button, Qt::darkCyan);
+    press(QDialogButtonBox::Apply);
+    QCOMPARE(shown(), QColor(Qt::darkCyan));
+    QCOMPARE(button->text(), QColor(Qt::darkCyan).name());
+    button->menu()->actions().first()->trigger();
+    press(QDialogButtonBox::Apply);
+    QCOMPARE(shown(), App::Theme::colour(App::Theme::CurrentLine));
+    QVERIFY(!m_fixture->settings.contains("line"));
 }
 
 void tst_SettingsDialog::defaultsAreNotStored()

@@ -36,6 +36,21 @@ double contrast(const QColor& first, const QColor& second)
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
+/// Everything that code can stand on. The ranges around the innermost one are its colour, made
+/// lighter or darker by up to this.
+QVector<QColor> groundsOfCode(Theme::Kind kind)
+{
+    const QColor range = Theme::colour(kind, Theme::BlockRange);
+    QVector<QColor> grounds{Theme::palette(kind).color(QPalette::Base),
+                            Theme::colour(kind, Theme::CurrentLine),
+                            Theme::colour(kind, Theme::ParenRange), range};
+    for (const int change : {range.value() <= 128 ? 40 : -30, range.value() <= 128 ? 20 : -15}) {
+        const auto changed = [change](int part) { return qBound(0, part + change, 255); };
+        grounds.append(QColor(changed(range.red()), changed(range.green()), changed(range.blue())));
+    }
+    return grounds;
+}
+
 bool isBright(const QImage& picture)
 {
     int bright = 0;
@@ -105,13 +120,16 @@ void tst_Theme::textsCanBeRead_data()
                     << palette.color(group, text) << palette.color(group, ground);
             }
         }
-        const QColor base = palette.color(P::Base);
-        const QColor line = Theme::colour(kind, Theme::CurrentLine);
+        const QVector<QColor> grounds = groundsOfCode(kind);
         for (int i = 0; i < CodeParserSyntax::TokenTypeCount; ++i) {
             const QColor token = Theme::token(kind, CodeParserSyntax::TokenType(i));
-            QTest::addRow("%s: token %d", name, i) << token << base;
-            QTest::addRow("%s: token %d in the current line", name, i) << token << line;
+            for (const QColor& ground : grounds) {
+                QTest::addRow("%s: token %d on %s", name, i, qPrintable(ground.name()))
+                    << token << ground;
+            }
         }
+        QTest::addRow("%s: matching brackets", name)
+            << Theme::colour(kind, Theme::ParenText) << Theme::colour(kind, Theme::ParenGround);
         for (const auto text :
              {Theme::ErrorText, Theme::AddedText, Theme::RemovedText, Theme::PlaceText}) {
             for (const auto ground : {P::Window, P::Base}) {

@@ -55,6 +55,10 @@ constexpr RoleRow disabledRoles[] = {
 
 constexpr QRgb colours[Theme::ColourCount][2] = {
     {0xffecf1fa, 0xff292d35},  // CurrentLine
+    {0xffffffff, 0xff121417},  // BlockRange
+    {0xffe3edfb, 0xff26344a},  // ParenRange
+    {0xffbcd4f7, 0xff39588a},  // ParenGround
+    {0xff08319f, 0xffeaf2ff},  // ParenText
     {0xffb3261e, 0xffff8f87},  // ErrorText
     {0xff116329, 0xff7fd48a},  // AddedText
     {0xffa40e26, 0xffff9a91},  // RemovedText
@@ -63,7 +67,7 @@ constexpr QRgb colours[Theme::ColourCount][2] = {
 
 constexpr QRgb tokens[CodeParserSyntax::TokenTypeCount][2] = {
     {0xff1b1f24, 0xffe4e6ea},  // Plain
-    {0xff676d76, 0xff969eaa},  // Comment
+    {0xff5c626b, 0xffa0a8b3},  // Comment
     {0xffc0201a, 0xffff8f87},  // Invalid
     {0xff0b3fd1, 0xff82b0ff},  // Keyword
     {0xff1b1f24, 0xfff4f5f7},  // Header
@@ -72,6 +76,16 @@ constexpr QRgb tokens[CodeParserSyntax::TokenTypeCount][2] = {
     {0xff006b6b, 0xff63d2d0},  // Constant
     {0xff6a1fd0, 0xffc3a6ff},  // Identifier
     {0xffa8128f, 0xffff9be8},  // Operator
+};
+
+constexpr struct CodeRow
+{
+    const char* key;
+    Theme::Colour colour;
+} codeSettings[] = {
+    {"line", Theme::CurrentLine},
+    {"block_range", Theme::BlockRange},
+    {"paren_range", Theme::ParenRange},
 };
 
 void set(QPalette* palette, QPalette::ColorGroup group, const RoleRow& row, Theme::Kind kind)
@@ -134,6 +148,24 @@ QColor Theme::colour(Kind kind, Colour colour)
 QColor Theme::token(Kind kind, CodeParserSyntax::TokenType type)
 {
     return QColor(tokens[type][kind]);
+}
+
+QVariant Theme::codeSetting(const QString& key, const QColor& own)
+{
+    for (const CodeRow& row : codeSettings) {
+        if (key == QLatin1String(row.key)) {
+            return own.isValid() ? own : colour(row.colour);
+        }
+    }
+    if (key != QLatin1String("paren")) {
+        return {};
+    }
+    QTextCharFormat format;
+    format.setForeground(own.isValid() ? own : colour(ParenText));
+    if (!own.isValid()) {
+        format.setBackground(colour(ParenGround));
+    }
+    return QVariant::fromValue<QTextFormat>(format);
 }
 
 Theme::Kind Theme::current()

@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QPalette>
 #include <QString>
+#include <QVariant>
 #include <QVector>
 
 namespace App {
@@ -19,6 +20,10 @@ public:
     /// What has a colour that no role of a palette stands for.
     enum Colour {
         CurrentLine,  ///< ground of the line with the cursor
+        BlockRange,   ///< ground of the innermost block around the cursor
+        ParenRange,   ///< ground between two brackets
+        ParenGround,  ///< ground of the two themselves
+        ParenText,    ///< and what they are written in
         ErrorText,    ///< a text that tells of something wrong
         AddedText,    ///< a line that came, in a comparison
         RemovedText,  ///< a line that went
@@ -32,6 +37,11 @@ public:
     static QPalette palette(Kind kind);
     static QColor colour(Kind kind, Colour colour);
     static QColor token(Kind kind, Zorv::CodeParserSyntax::TokenType type);
+
+    /// What a setting of the code editor means with a colour of the person's own, or
+    /// with an invalid one in the theme in use: "line", "block_range" and "paren_range"
+    /// are colours, "paren" is a `QTextFormat`. Invalid for any other key.
+    static QVariant codeSetting(const QString& key, const QColor& own);
 
     /// Gives the application the style and the colours, and documents the colours of tokens.
     /// Texts that are coloured already keep them until they are highlighted again.

@@ -7,6 +7,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QFontDatabase>
+#include <QMenu>
 #include <QPixmap>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -147,13 +148,17 @@ private:
     QComboBox* m_box;
 };
 
+/// A button whose menu leaves the colour to the theme, or asks for one.
 class ColourField final : public SettingField
 {
 public:
     ColourField(const SettingRow& row, QWidget* parent)
         : SettingField(row), m_button(new QPushButton(parent))
     {
-        connect(m_button, &QPushButton::clicked, this, &ColourField::choose);
+        auto* menu = new QMenu(m_button);
+        m_theme = menu->addAction(QString(), this, [this] { take({}); });
+        m_choose = menu->addAction(QString(), this, &ColourField::choose);
+        m_button->setMenu(menu);
     }
 
     QWidget* widget() const override { return m_button; }
@@ -162,23 +167,46 @@ public:
     void setValue(const QVariant& value) override
     {
         m_colour = value.value<QColor>();
-        QPixmap swatch(SwatchSize, SwatchSize);
-        swatch.fill(m_colour);
-        m_button->setIcon(swatch);
-        m_button->setText(m_colour.name());
+        m_button->setIcon(m_colour.isValid() ? swatch() : QIcon());
+        m_button->setText(m_colour.isValid() ? m_colour.name() : settingText(row().lowest));
+        m_theme->setEnabled(m_colour.isValid());
+    }
+
+    void retranslate() override
+    {
+        SettingField::retranslate();
+        m_choose->setText(settingText(QT_TRANSLATE_NOOP("App::Settings", "Choose...")));
+        m_theme->setText(settingText(row().lowest));
+        setValue(m_colour);
     }
 
 private:
-    void choose()
+    QIcon swatch() const
     {
-        const QColor chosen = QColorDialog::getColor(m_colour, m_button);
-        if (chosen.isValid() && chosen != m_colour) {
-            setValue(chosen);
+        QPixmap picture(SwatchSize, SwatchSize);
+        picture.fill(m_colour);
+        return picture;
+    }
+
+    void take(const QColor& colour)
+    {
+        if (colour != m_colour) {
+            setValue(colour);
             emit edited();
         }
     }
 
+    void choose()
+    {
+        const QColor chosen = QColorDialog::getColor(m_colour, m_button);
+        if (chosen.isValid()) {
+            take(chosen);
+        }
+    }
+
     QPushButton* m_button;
+    QAction* m_choose;
+    QAction* m_theme;
     QColor m_colour;
 };
 

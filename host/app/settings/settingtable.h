@@ -18,10 +18,10 @@ struct SettingChoice
 struct SettingRow
 {
     enum Kind {
-        Switch,  ///< on or off
-        Number,  ///< from `minimum` to `maximum`
-        Choice,  ///< one of `choices()`
-        Colour,
+        Switch,      ///< on or off
+        Number,      ///< from `minimum` to `maximum`
+        Choice,      ///< one of `choices()`
+        Colour,      ///< none for that of the theme
         FontFamily,  ///< empty for the desktop's
         Folder       ///< empty for none
     };
@@ -33,7 +33,7 @@ struct SettingRow
     const char* toolTip;
     int minimum = 0;
     int maximum = 0;
-    const char* lowest = nullptr;  ///< what `minimum` means in words, or null
+    const char* lowest = nullptr;  ///< what `minimum`, or no value, means in words; or null
     const char* unit = nullptr;    ///< behind a number, or null
     QVector<SettingChoice> (*choices)() = nullptr;
 };

@@ -10,6 +10,17 @@
 
 namespace App {
 
+namespace {
+
+/// What the person has chosen: nothing, where a colour is left to the theme.
+QVariant storedOption(const SettingRow& row)
+{
+    const auto* host = static_cast<Family::HostInterface*>(Zorv::Interface::instance());
+    return host->storedOption(QLatin1String(row.key));
+}
+
+}  // namespace
+
 TablePage::TablePage(const SettingPageRow& page, QWidget* parent)
     : SettingsPage(parent), m_page(page)
 {
@@ -59,7 +70,7 @@ QString TablePage::title() const
 void TablePage::read()
 {
     for (const Line& line : m_lines) {
-        line.field->setValue(Zorv::Interface::instance()->option(QLatin1String(line.row.key)));
+        line.field->setValue(storedOption(line.row));
     }
 }
 
@@ -70,7 +81,7 @@ bool TablePage::write(QString*)
     for (const Line& line : m_lines) {
         const QString key = QLatin1String(line.row.key);
         const QVariant value = line.field->value();
-        if (value != host->option(key)) {
+        if (value != storedOption(line.row)) {
             const bool isDefault = value == Family::HostInterface::defaultOption(key);
             host->setOption(key, isDefault ? QVariant() : value);
         }

@@ -33,33 +33,38 @@ constexpr double ZoomStep = 2;  // points
 constexpr double SmallestFont = 6;
 constexpr double LargestFont = 96;
 
-template <class Value>
-void take(const Interface* host, const char* key, Value* field)
+void takeSwitch(const Interface* host, const char* key, bool* field)
 {
     const QVariant value = host->option(QLatin1String(key));
-    if (value.canConvert<Value>()) {
-        *field = value.value<Value>();
+    if (value.isValid()) {
+        *field = value.toBool();
+    }
+}
+
+void takeColour(const Interface* host, const char* key, QColor* field)
+{
+    const auto value = host->option(QLatin1String(key)).value<QColor>();
+    if (value.isValid()) {
+        *field = value;
     }
 }
 
 CodeEditor::SyntaxFormatting formattingOf(const Interface* host)
 {
     CodeEditor::SyntaxFormatting result;
-    take(host, "code_line_numbers", &result.lineNumbers);
-    take(host, "code_highlight_line", &result.highlightCurrentLine);
-    take(host, "code_highlight_blocks", &result.highlightBlocks);
-    take(host, "code_folding_markers", &result.foldingMarkers);
-    take(host, "code_paren_matching", &result.parenMatching);
-    take(host, "line", &result.currentLineColor);
-    take(host, "block_range", &result.blockRangeColor);
+    takeSwitch(host, "code_line_numbers", &result.lineNumbers);
+    takeSwitch(host, "code_highlight_line", &result.highlightCurrentLine);
+    takeSwitch(host, "code_highlight_blocks", &result.highlightBlocks);
+    takeSwitch(host, "code_folding_markers", &result.foldingMarkers);
+    takeSwitch(host, "code_paren_matching", &result.parenMatching);
+    takeColour(host, "line", &result.currentLineColor);
+    takeColour(host, "block_range", &result.blockRangeColor);
     QColor range;
-    take(host, "paren_range", &range);
+    takeColour(host, "paren_range", &range);
     if (range.isValid()) {
         result.parenRangeFormat.setBackground(range);
     }
-    QTextFormat paren;
-    take(host, "paren", &paren);
-    result.parenFormat = paren.toCharFormat();
+    result.parenFormat = host->option(QStringLiteral("paren")).value<QTextFormat>().toCharFormat();
     return result;
 }
 
@@ -89,6 +94,15 @@ void CodeWorkspacePrivate::applySettings()
     toolBar->setIconSize(IconSize);
     editor->setSyntaxFormatting(formattingOf(host));
     setFont(fontOf(host));
+    if (isActive) {
+        applyBar();
+    }
+}
+
+void CodeWorkspacePrivate::applyBar()
+{
+    barAction->setChecked(host->option(QStringLiteral("show_code_bar")).toBool());
+    toolBar->setVisible(barAction->isChecked());
 }
 
 /// Setting what is set already would lay out the whole text again.
@@ -191,8 +205,7 @@ void CodeWorkspace::activate()
 {
     d->isActive = true;
     d->tabBar->setVisible(d->tabBar->count() > 0);
-    d->barAction->setChecked(d->host->option(QStringLiteral("show_code_bar")).toBool());
-    d->toolBar->setVisible(d->barAction->isChecked());
+    d->applyBar();
     d->barAction->setEnabled(true);
     d->widget->setEnabled(true);
 }

@@ -31,12 +31,10 @@ public:
     void savePlace(CodeDocument* left) const;
     void restorePlace(const CodeDocument* shown);
     void applySettings();
+    void applyBar();
     void setFont(const QFont& font);
     void changeFontSize(double points);
-    void updateTabStop();
     void updateEncoding();
-    void reopen(CodeDocument* read);
-    void readFamily();
     void retranslate();
     void insertText(const QString& text);
 
