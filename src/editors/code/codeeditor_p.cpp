@@ -7,10 +7,12 @@
 #include "editors/code/codehighlights_p.h"
 #include "editors/code/foldedblocks_p.h"
 #include "editors/code/keptplace_p.h"
+#include "editors/code/visibleblocks_p.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QPlainTextDocumentLayout>
+#include <QScopedValueRollback>
 
 namespace Zorv {
 
@@ -49,6 +51,8 @@ void CodeEditorPrivate::baseKeyPress(QKeyEvent* event)
         q->ensureCursorVisible();
         return;
     }
+    const Key key{q->document()->revision(), q->textCursor().position()};
+    const QScopedValueRollback<const Key*> scope(currentKey, &key);
     q->QPlainTextEdit::keyPressEvent(event);
 }
 
@@ -97,9 +101,33 @@ void CodeEditorPrivate::cursorMoved()
         return;
     }
     const QTextCursor cursor = q->textCursor();
+    if (leaveFold(cursor)) {
+        return;
+    }
     q->reveal(cursor.block());
     highlights->update();
     emit q->cursorChanged({cursor.blockNumber(), cursor.positionInBlock()});
+}
+
+/// Keys that move the cursor pass over a fold: Qt would leave it inside. True if the cursor
+/// went on, and has told of it.
+bool CodeEditorPrivate::leaveFold(const QTextCursor& cursor)
+{
+    if (!currentKey || currentKey->revision != q->document()->revision() ||
+        cursor.block().isVisible()) {
+        return false;
+    }
+    const bool isForward = cursor.position() > currentKey->position;
+    const QTextBlock block =
+        isForward ? visibleFrom(cursor.block()) : CodeFolding::visibleAbove(cursor.block());
+    if (!block.isValid()) {
+        return false;
+    }
+    QTextCursor outside = cursor;
+    outside.setPosition(block.position() + (isForward ? 0 : block.length() - 1),
+                        cursor.hasSelection() ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor);
+    q->setTextCursor(outside);
+    return true;
 }
 
 void CodeEditorPrivate::updateLayout()

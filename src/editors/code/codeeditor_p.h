@@ -52,6 +52,15 @@ public:
 private:
     void follow(CodeDocument* newDocument);
     void haveRead();
+    bool leaveFold(const QTextCursor& cursor);
+
+    /// A key that the base class handles: where the text was before.
+    struct Key
+    {
+        int revision;
+        int position;
+    };
+    const Key* currentKey = nullptr;
 
     std::unique_ptr<KeptPlace> keptPlace;  ///< while a file is read
 };

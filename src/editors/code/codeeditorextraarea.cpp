@@ -5,6 +5,7 @@
 #include "editors/code/codefolding_p.h"
 #include "editors/code/codehighlights_p.h"
 #include "editors/code/plaintooltip_p.h"
+#include "editors/code/visibleblocks_p.h"
 
 #include <QCoreApplication>
 #include <QHelpEvent>
@@ -23,6 +24,14 @@ namespace {
 QIcon icon(const char* name)
 {
     return QIcon(QStringLiteral(":/zorvl_icons/icons/%1.png").arg(QLatin1String(name)));
+}
+
+/// Where the next visible line begins, so that a folded line goes with all that it hides; the
+/// end of the text behind the last one.
+int startBehind(const QTextBlock& block)
+{
+    const QTextBlock next = visibleFrom(block.next());
+    return next.isValid() ? next.position() : block.position() + block.length() - 1;
 }
 
 }  // namespace
@@ -248,9 +257,7 @@ void CodeEditorExtraArea::pressed(const QPoint& place)
     QTextCursor cursor = cursorAt(place.y());
     if (m_editor->formatting.lineNumbers && place.x() > markWidth) {
         m_selectionAnchorLine = cursor.blockNumber();
-        cursor.setVisualNavigation(true);
-        cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-        cursor.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor);
+        cursor.setPosition(startBehind(cursor.block()), QTextCursor::KeepAnchor);
         m_editor->q->setTextCursor(cursor);
     } else {
         m_markedLine = cursor.blockNumber();
@@ -285,19 +292,9 @@ void CodeEditorExtraArea::dragTo(int y)
     const QTextBlock anchor = pressed.isValid() ? pressed : document->lastBlock();
     const QTextBlock end = cursorAt(y).block();
     const bool isUpward = end.blockNumber() < anchor.blockNumber();
-    const auto goBehind = [](QTextCursor& cursor, QTextCursor::MoveMode mode) {
-        cursor.movePosition(QTextCursor::EndOfBlock, mode);
-        cursor.movePosition(QTextCursor::Right, mode);
-    };
     QTextCursor cursor(anchor);
-    cursor.setVisualNavigation(true);
-    if (isUpward) {
-        goBehind(cursor, QTextCursor::MoveAnchor);
-    }
-    cursor.setPosition(end.position(), QTextCursor::KeepAnchor);
-    if (!isUpward) {
-        goBehind(cursor, QTextCursor::KeepAnchor);
-    }
+    cursor.setPosition(isUpward ? startBehind(anchor) : anchor.position());
+    cursor.setPosition(isUpward ? end.position() : startBehind(end), QTextCursor::KeepAnchor);
     if (y >= 0 && y <= height()) {
         m_autoScrollTimer.stop();
     } else if (!m_autoScrollTimer.isActive()) {

@@ -1,0 +1,347 @@
+#include "editors/code/codeeditor.h"
+
+#include "showneditor.h"
+#include "support/randomtext.h"
+
+#include <QRandomGenerator>
+
+using namespace Zorv;
+
+namespace {
+
+constexpr quint32 Seed = 20261121;
+
+const RandomText Random({"[1]", "[1*]", "!x", "!y*", "a=1", "b=2", "-f", "# note", "", "?e"},
+                        QStringLiteral("[]!-=#*1a\n"));
+
+// Levels 0 1 1 2 2 0 1 0 1.
+const QString Nested = QStringLiteral("[1*]\n#\n[2]\na=1\nb=2\n[3*]\nc=3\n[4*]\nd=4\n# end");
+
+/// A document whose lines lose their levels.
+class FlatDocument : public GrammarDocument
+{
+public:
+    using GrammarDocument::GrammarDocument;
+    int blockFolding(const QString& line) const override
+    {
+        return isFlat ? 0 : GrammarDocument::blockFolding(line);
+    }
+    bool isFlat = false;
+};
+
+void toggleVisible(ShownEditor& shown, int line)
+{
+    if (shown.line(line).isVisible()) {
+        shown.toggle({line});
+    }
+}
+
+}  // namespace
+
+/// Folds by the editor, by keys and by the mouse; what edits make of them.
+class CodeFoldingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { qInfo("seed %u", Seed); }
+    void toggles_data();
+    void toggles();
+    void foldsAndUnfoldsAll();
+    void revealsNoMoreThanItTakes_data();
+    void revealsNoMoreThanItTakes();
+    void cursorLeavesUpwards();
+    void keysGoAround_data();
+    void keysGoAround();
+    void editsShow_data();
+    void editsShow();
+    void randomEditsHideNothingForGood();
+    void levelsThatGoWithoutAnEdit();
+    void boxOpens();
+    void boxIsPainted();
+    void previewComesAndGoes();
+    void previewLeavesTheScrollBarsAlone();
+};
+
+void CodeFoldingTest::toggles_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVector<int>>("lines");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("a head") << Nested << QVector<int>{5} << "......h...";
+    QTest::newRow("a head with another in it") << Nested << QVector<int>{0} << ".hhhh.....";
+    QTest::newRow("twice") << Nested << QVector<int>{0, 0} << "..........";
+    QTest::newRow("no head") << Nested << QVector<int>{3} << "..........";
+    QTest::newRow("the last line") << Nested << QVector<int>{9} << "..........";
+    QTest::newRow("the end stays") << "[1]\na=1\nb=2\nc=3" << QVector<int>{0} << ".hh.";
+    QTest::newRow("the only line below stays") << "[1]\na=1" << QVector<int>{0} << "..";
+    QTest::newRow("inner, then outer") << Nested << QVector<int>{2, 0} << ".hhhh.....";
+    QTest::newRow("around a fold, to the end")
+        << Nested << QVector<int>{2, 5, 7, 0, 0} << "..........";
+    QTest::newRow("around an opened fold") << Nested << QVector<int>{2, 2, 5, 0, 0} << "......h...";
+}
+
+void CodeFoldingTest::toggles()
+{
+    QFETCH(QString, text);
+    QFETCH(QVector<int>, lines);
+    ShownEditor shown(text);
+    for (const int line : lines) {
+        shown.toggle({line});
+        QCOMPARE(faultOfFolds(&shown.document), QString());
+    }
+    QTEST(shown.visibility(), "expected");
+    QCOMPARE(shown.document.text(), text);
+}
+
+void CodeFoldingTest::foldsAndUnfoldsAll()
+{
+    QRandomGenerator random(Seed);
+    for (int round = 0; round < 150; ++round) {
+        const QString text = Random.lines(random, 60);
+        ShownEditor shown(text);
+        const QString allVisible = shown.visibility();
+        for (int i = random.bounded(4); i > 0; --i) {
+            toggleVisible(shown, random.bounded(shown.document.blockCount()));
+        }
+        shown.editor.foldAll();
+        QCOMPARE(faultOfFolds(&shown.document), QString());
+        for (QTextBlock b = shown.document.begin(); b.next().isValid(); b = b.next()) {
+            const int level = CodeBlockData::testBlockData(b)->foldingIndent();
+            const QTextBlock next = b.next();
+            QVERIFY2(!b.isVisible() || !next.isVisible() || !next.next().isValid() ||
+                         CodeBlockData::testBlockData(next)->foldingIndent() <= std::max(level, 0),
+                     qPrintable(text));
+        }
+        shown.editor.unfoldAll();
+        QCOMPARE(shown.visibility(), allVisible);
+        QCOMPARE(shown.document.text(), text);
+        QVERIFY(!shown.document.isUndoAvailable());
+    }
+}
+
+void CodeFoldingTest::revealsNoMoreThanItTakes_data()
+{
+    QTest::addColumn<int>("line");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("in the outer part") << 1 << "...hh.h.h.";
+    QTest::newRow("the head of the inner fold") << 2 << "...hh.h.h.";
+    QTest::newRow("in the inner fold") << 4 << "......h.h.";
+    QTest::newRow("in another fold") << 6 << ".hhhh...h.";
+    QTest::newRow("a visible one") << 5 << ".hhhh.h.h.";
+}
+
+void CodeFoldingTest::revealsNoMoreThanItTakes()
+{
+    QFETCH(int, line);
+    ShownEditor shown(Nested);
+    shown.toggle({2, 5, 7, 0});
+    QCOMPARE(shown.visibility(), QStringLiteral(".hhhh.h.h."));
+    shown.putCursor(line, 0);
+    QTEST(shown.visibility(), "expected");
+    QCOMPARE(shown.editor.textCursor().blockNumber(), line);
+    QCOMPARE(faultOfFolds(&shown.document), QString());
+}
+
+void CodeFoldingTest::cursorLeavesUpwards()
+{
+    ShownEditor shown(Nested);
+    shown.putCursor(4, 2);
+    shown.editor.foldAll();
+    QCOMPARE(shown.editor.textCursor().blockNumber(), 0);
+    QCOMPARE(shown.visibility(), QStringLiteral(".hhhh.h.h."));
+}
+
+void CodeFoldingTest::keysGoAround_data()
+{
+    QTest::addColumn<int>("line");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("down from the head") << 0 << 0 << int(Qt::Key_Down) << 5;
+    QTest::newRow("up to the head") << 5 << 0 << int(Qt::Key_Up) << 0;
+    QTest::newRow("right from the end") << 0 << -1 << int(Qt::Key_Right) << 5;
+    QTest::newRow("left to the end") << 5 << 0 << int(Qt::Key_Left) << 0;
+    QTest::newRow("a page down") << 0 << 0 << int(Qt::Key_PageDown) << 9;
+    QTest::newRow("a page up") << 9 << 0 << int(Qt::Key_PageUp) << 0;
+}
+
+void CodeFoldingTest::keysGoAround()
+{
+    QFETCH(int, line);
+    QFETCH(int, column);
+    QFETCH(int, key);
+    ShownEditor shown(Nested);
+    shown.toggle({0, 5, 7});
+    shown.putCursor(line, column);
+    QTest::keyClick(&shown.editor, Qt::Key(key));
+    QTEST(shown.editor.textCursor().blockNumber(), "expected");
+    QCOMPARE(shown.visibility(), QStringLiteral(".hhhh.h.h."));
+}
+
+void CodeFoldingTest::editsShow_data()
+{
+    QTest::addColumn<int>("line");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("keys");  ///< "<" Backspace, ">" Delete, "~" undo
+    QTest::addColumn<QString>("expected");
+    QTest::addColumn<int>("cursorLine");
+    const auto row = [](const char* name, int line, int column, const char* keys,
+                        const char* expected, int cursorLine) {
+        QTest::newRow(name) << line << column << keys << expected << cursorLine;
+    };
+    row("typing at the head", 5, -1, "x", ".hhhh.h.h.", 5);
+    row("the head a comment", 5, 0, "#", ".hhhh...h.", 5);
+    row("and a head again", 5, 0, "#~", ".hhhh...h.", 5);
+    row("the head outermost", 7, 3, "<<*]", ".hhhh.h.h.", 7);
+    row("a line end behind the head", 5, -1, "\n", ".hhhh....h.", 6);
+    row("a line end in front of the head", 5, 0, "\n", ".hhhh..h.h.", 6);
+    row("the line below joined to the head", 5, -1, ">", ".hhhh..h.", 5);
+    row("the head joined to a fold above", 5, 0, "<", ".......h.", 4);
+    row("a line joined to the last hidden one", 7, 0, "<", ".hhhh....", 6);
+    row("the line behind the fold a part of it", 7, 0, ">>>>e=5", ".hhhh.h...", 7);
+}
+
+void CodeFoldingTest::editsShow()
+{
+    QFETCH(int, line);
+    QFETCH(int, column);
+    QFETCH(QString, keys);
+    ShownEditor shown(Nested);
+    shown.toggle({0, 5, 7});
+    QCOMPARE(shown.visibility(), QStringLiteral(".hhhh.h.h."));
+    shown.putCursor(line, column);
+    for (const QChar key : keys) {
+        if (key == QLatin1Char('~')) {
+            QTest::keySequence(&shown.editor, QKeySequence::Undo);
+        } else if (key == QLatin1Char('<')) {
+            QTest::keyClick(&shown.editor, Qt::Key_Backspace);
+        } else if (key == QLatin1Char('>')) {
+            QTest::keyClick(&shown.editor, Qt::Key_Delete);
+        } else if (key == QLatin1Char('\n')) {
+            QTest::keyClick(&shown.editor, Qt::Key_Return);
+        } else {
+            QTest::keyClick(&shown.editor, key.toLatin1());
+        }
+        QCOMPARE(faultOfFolds(&shown.document), QString());
+    }
+    QTEST(shown.visibility(), "expected");
+    QTEST(shown.editor.textCursor().blockNumber(), "cursorLine");
+}
+
+/// Edits by another hand too: no view's cursor is there to open the fold.
+void CodeFoldingTest::randomEditsHideNothingForGood()
+{
+    QRandomGenerator random(Seed);
+    for (int round = 0; round < 60; ++round) {
+        ShownEditor shown(Random.lines(random, 40));
+        for (int step = 0; step < 40; ++step) {
+            if (random.bounded(3) == 0) {
+                shown.editor.foldAll();
+            } else if (random.bounded(2) == 0) {
+                toggleVisible(shown, random.bounded(shown.document.blockCount()));
+            }
+            const QString before = shown.document.text();
+            Random.edit(random, shown.document);
+            const QString fault = faultOfFolds(&shown.document);
+            QVERIFY2(fault.isEmpty(), qPrintable(QStringLiteral("%1:%2 %3\n%4\n--\n%5\n--\n%6")
+                                                     .arg(round)
+                                                     .arg(step)
+                                                     .arg(fault, before, shown.document.text(),
+                                                          shown.visibility())));
+            QVERIFY(shown.editor.textCursor().block().isVisible());
+        }
+    }
+}
+
+void CodeFoldingTest::levelsThatGoWithoutAnEdit()
+{
+    ShownEditor shown;
+    FlatDocument document(Nested);
+    shown.editor.setDocument(&document);
+    shown.toggle({0, 5, 7});
+    document.isFlat = true;
+    document.rehighlight();
+    QTRY_COMPARE(shown.visibility(), QStringLiteral(".........."));
+}
+
+void CodeFoldingTest::boxOpens()
+{
+    ShownEditor shown(Nested);
+    shown.toggle({5});
+    QTest::mouseClick(shown.viewport(), Qt::RightButton, {}, shown.box(5));
+    QCOMPARE(shown.visibility(), QStringLiteral("......h..."));
+    QTest::mouseClick(shown.viewport(), Qt::LeftButton, {}, shown.box(5));
+    QCOMPARE(shown.visibility(), QStringLiteral(".........."));
+    QCOMPARE(shown.editor.textCursor().blockNumber(), 5);
+    QVERIFY(shown.editor.textCursor().atBlockEnd());
+}
+
+void CodeFoldingTest::boxIsPainted()
+{
+    ShownEditor shown(Nested);
+    const QPoint place = shown.box(5);
+    const int width = shown.editor.fontMetrics().horizontalAdvance(QStringLiteral(" ... "));
+    const auto colour = [&](int x, int y) {
+        return shown.viewport()->grab().toImage().pixelColor(place + QPoint(x, y));
+    };
+    const QColor paper = shown.editor.palette().color(QPalette::Base);
+    QCOMPARE(colour(-width / 2 - 1, 0), paper);
+    shown.toggle({5});
+    QVERIFY(colour(-width / 2 - 1, 0).lightness() < 190);
+    QCOMPARE(colour(-width / 2 + 3, -3), paper);
+    shown.editor.selectAll();
+    QCOMPARE(colour(-width / 2 + 3, -3), shown.editor.palette().color(QPalette::Highlight));
+}
+
+void CodeFoldingTest::previewComesAndGoes()
+{
+    ShownEditor shown(Nested);
+    shown.toggle({0});
+    const QPoint box = shown.box(0);
+    const QImage without = shown.viewport()->grab().toImage();
+    // The hidden lines stand where visible ones were.
+    const QRect below(0, box.y() + 12, 100, 60);
+    const auto isShown = [&] {
+        return shown.viewport()->grab().toImage().copy(below) != without.copy(below);
+    };
+    const auto pointer = [&] { return shown.viewport()->cursor().shape(); };
+    QTest::mouseMove(shown.viewport(), box);
+    QCOMPARE(pointer(), Qt::PointingHandCursor);
+    QTRY_VERIFY(isShown());
+    QTest::keyClick(&shown.editor, Qt::Key_Shift);
+    QVERIFY(!isShown());
+    QCOMPARE(pointer(), Qt::BlankCursor);
+    QTest::mouseMove(shown.viewport(), box + QPoint(1, 0));
+    QTRY_VERIFY(isShown());
+    QTest::mouseMove(shown.viewport(), {200, 250});
+    QVERIFY(!isShown());
+    QCOMPARE(pointer(), Qt::IBeamCursor);
+    QTest::mouseMove(shown.viewport(), box);
+    QTRY_VERIFY(isShown());
+    QTextCursor(shown.line(9)).insertText(QStringLiteral("x"));
+    QVERIFY(!isShown());
+    QTest::mouseMove(shown.viewport(), box + QPoint(1, 0));
+    shown.editor.setDocument(nullptr);
+    QTest::qWait(60);
+    QCOMPARE(shown.viewport()->grab().toImage().copy(below).allGray(), true);
+}
+
+void CodeFoldingTest::previewLeavesTheScrollBarsAlone()
+{
+    QString text = QStringLiteral("[1*]\n");
+    for (int i = 0; i < 200; ++i) {
+        text += QStringLiteral("a=%1\n").arg(i);
+    }
+    ShownEditor shown(text + QStringLiteral("[2*]\n") + QString(60, QLatin1Char('\n')));
+    shown.toggle({0});
+    const int maximum = shown.editor.verticalScrollBar()->maximum();
+    const QImage without = shown.viewport()->grab().toImage();
+    QTest::mouseMove(shown.viewport(), shown.box(0));
+    QTRY_VERIFY(shown.viewport()->grab().toImage() != without);
+    QCOMPARE(shown.editor.verticalScrollBar()->maximum(), maximum);
+    QCOMPARE(faultOfFolds(&shown.document), QString());
+}
+
+QTEST_MAIN(CodeFoldingTest)
+#include "tst_codefolding.moc"
