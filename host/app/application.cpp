@@ -10,6 +10,7 @@
 #include "app/windowinterface.h"
 #include "cli/commanddialogs.h"
 #include "operations/engines.h"
+#include "operations/familydata.h"
 #include "operations/recovery/sessionfolder.h"
 
 #include <QApplication>
@@ -90,8 +91,10 @@ int drawPicture(const Usage& usage)
     host.setOption(QStringLiteral("theme"), usage.theme);
     host.setOption(QStringLiteral("language"), usage.language);
     applyLook();
-    // Nobody is there to answer.
+    // Nobody is there to answer, or to be told what the picture lacks.
     const Cli::CommandDialogs dialogs;
+    QString dataError;
+    Family::prepareFamilyData(&dataError);
     MainWindow window;
     host.setWindow(&window);
     QString error;
@@ -121,6 +124,8 @@ int runWindow(QApplication&, const QStringList& arguments)
     Family::useEngines(settings);
     applyLook();
     const WindowDialogs dialogs;
+    QString dataError;
+    Family::prepareFamilyData(&dataError);
     MainWindow window;
     host.setWindow(&window);
     WorkRecovery recovery(&window, Family::SessionFolder::defaultRoot());
@@ -128,6 +133,9 @@ int runWindow(QApplication&, const QStringList& arguments)
     window.restoreWork(usage.game);
     recovery.offerAll();
     RunCommands::offerLeftovers();
+    if (!dataError.isEmpty()) {
+        host.showStatus(0, dataError);
+    }
     return QApplication::exec();
 }
 

@@ -20,7 +20,8 @@ fail() {
 
 # What must be there, and what must not.
 for file in include/zorv/zorv.h include/zorv/code/codedoc/codedocument.h bin/zorv \
-    share/man/man1/zorv.1 share/doc/zorv/LICENSE share/zorv/samples/README.md; do
+    share/man/man1/zorv.1 share/doc/zorv/LICENSE share/zorv/samples/README.md \
+    share/zorv/snippets/Attack.xml; do
     [ -f "$prefix/$file" ] || fail "$file is not installed"
 done
 stray=$(cd "$prefix/include" && find . -type f \

@@ -22,12 +22,8 @@ char FamilyEngineModel::commentChar() const
 
 QString FamilyEngineModel::dataPath() const
 {
-    const QString found =
-        QStandardPaths::locate(QStandardPaths::GenericDataLocation, QStringLiteral("zorv"),
-                               QStandardPaths::LocateDirectory);
-    return found.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                                 QStringLiteral("/zorv")
-                           : found;
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+           QStringLiteral("/zorv/family");
 }
 
 QString FamilyEngineModel::identifier() const

@@ -19,7 +19,8 @@ public:
 
     char commentChar() const override;
 
-    /// "zorv" in the system's folder for data of programs.
+    /// "zorv/family" in the person's folder for data of programs, without "/" at its end;
+    /// `prepareFamilyData()` fills it.
     QString dataPath() const override;
     QString identifier() const override;
 

@@ -1,0 +1,149 @@
+#include "operations/familydata.h"
+
+#include "core/filesystemarchive.h"
+#include "family/completer/completerfile.h"
+#include "family/project/familyenginemodel.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QMap>
+
+static void initResources()
+{
+    Q_INIT_RESOURCE(family_data);
+}
+
+namespace Family {
+
+namespace {
+
+/// No file of the folder needs more; a larger one is the person's.
+constexpr qint64 MaxSize = 4 * 1024 * 1024;
+
+QByteArray hashOf(const QByteArray& bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
+}
+
+class Preparation
+{
+    Q_DECLARE_TR_FUNCTIONS(Family::Preparation)
+
+public:
+    explicit Preparation(const QString& folder) : m_folder(folder + QLatin1Char('/')) {}
+
+    QString run()
+    {
+        readRecord();
+        const QDir shipped(QStringLiteral(":/family/snippets"));
+        const QStringList names = shipped.entryList(QDir::Files, QDir::Name);
+        for (const QString& name : names) {
+            QFile file(shipped.filePath(name));
+            if (file.open(QIODevice::ReadOnly)) {
+                putSnippet(QLatin1String("snippets/") + name, file.readAll());
+            }
+        }
+        putCompleter();
+        writeRecord();
+        return m_error;
+    }
+
+private:
+    QString path(const QString& name) const { return m_folder + name; }
+
+    bool isThere(const QString& name) const { return QFile::exists(path(name)); }
+
+    QByteArray read(const QString& name) const
+    {
+        Zorv::Archive& disk = *Zorv::FileSystemArchive::instance();
+        QIODevice* device = disk.openFile(path(name), QIODevice::ReadOnly);
+        const QByteArray bytes = device ? device->read(MaxSize) : QByteArray();
+        disk.closeFile(device);
+        return bytes;
+    }
+
+    bool write(const QString& name, const QByteArray& bytes)
+    {
+        Zorv::Archive& disk = *Zorv::FileSystemArchive::instance();
+        QString error;
+        QIODevice* device = disk.openFile(path(name), QIODevice::WriteOnly, &error);
+        if (device) {
+            device->write(bytes);
+            if (disk.closeFile(device, &error)) {
+                return true;
+            }
+        }
+        if (m_error.isEmpty()) {
+            m_error = tr("Cannot write %1: %2").arg(QDir::toNativeSeparators(path(name)), error);
+        }
+        return false;
+    }
+
+    void putSnippet(const QString& name, const QByteArray& bytes)
+    {
+        const QByteArray version = hashOf(bytes);
+        const QByteArray last = m_record.value(name);
+        if (last == version) {
+            return;
+        }
+        const bool isOurs = isThere(name) ? hashOf(read(name)) == last : last.isEmpty();
+        if (!isOurs || write(name, bytes)) {
+            m_record.insert(name, version);
+            m_isRecordChanged = true;
+        }
+    }
+
+    void putCompleter()
+    {
+        const QString name = completerFileName();
+        const QByteArray now = isThere(name) ? read(name) : QByteArray();
+        const QByteArray words = completerXml();
+        if (now != words && (!isThere(name) || isOwnCompleter(now))) {
+            write(name, words);
+        }
+    }
+
+    /// A line for each file: its hash, a blank, its name.
+    void readRecord()
+    {
+        const QList<QByteArray> lines = read(recordName).split('\n');
+        for (const QByteArray& line : lines) {
+            const int blank = line.indexOf(' ');
+            if (blank > 0) {
+                m_record.insert(QString::fromUtf8(line.mid(blank + 1)), line.left(blank));
+            }
+        }
+    }
+
+    void writeRecord()
+    {
+        if (!m_isRecordChanged) {
+            return;
+        }
+        QByteArray bytes;
+        for (auto entry = m_record.cbegin(); entry != m_record.cend(); ++entry) {
+            bytes += entry.value() + ' ' + entry.key().toUtf8() + '\n';
+        }
+        write(recordName, bytes);
+    }
+
+    const QString recordName = QStringLiteral("shipped");
+
+    QString m_folder;
+    QString m_error;
+    QMap<QString, QByteArray> m_record;
+    bool m_isRecordChanged = false;
+};
+
+}  // namespace
+
+bool prepareFamilyData(QString* error)
+{
+    initResources();
+    *error = Preparation(FamilyEngineModel::instance()->dataPath()).run();
+    return error->isEmpty();
+}
+
+}  // namespace Family
