@@ -86,10 +86,6 @@
         <translation>Alles au&amp;swählen</translation>
     </message>
     <message>
-        <source>&amp;Go to line...</source>
-        <translation>&amp;Gehe zu Zeile ...</translation>
-    </message>
-    <message>
         <source>&amp;Encoding...</source>
         <translation>Ko&amp;dierung ...</translation>
     </message>
@@ -157,6 +153,18 @@
         <source>&amp;Options...</source>
         <translation>&amp;Optionen ...</translation>
     </message>
+    <message>
+        <source>&amp;Larger text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Smaller text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Usual size of text</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>App::AnimationCommands</name>
@@ -218,12 +226,9 @@
         <source>Painting tools</source>
         <translation>Malwerkzeuge</translation>
     </message>
-</context>
-<context>
-    <name>App::CodeEdit</name>
     <message>
-        <source>Text of %1</source>
-        <translation>Text von %1</translation>
+        <source>Nodes</source>
+        <translation type="unfinished">Knoten</translation>
     </message>
 </context>
 <context>
@@ -233,16 +238,23 @@
         <translation>Code</translation>
     </message>
     <message>
-        <source>No text found!</source>
-        <translation>Kein Text gefunden!</translation>
+        <source>Nodes of the text</source>
+        <translation type="unfinished">Knoten des Textes</translation>
+    </message>
+</context>
+<context>
+    <name>App::DefinitionJumps</name>
+    <message>
+        <source>%1 is no text that can be shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no jump to go back from.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>App::DocumentTabs</name>
-    <message>
-        <source>Open texts</source>
-        <translation>Geöffnete Texte</translation>
-    </message>
     <message>
         <source>new file</source>
         <translation>neue Datei</translation>
@@ -324,6 +336,13 @@
     <message>
         <source>New engine</source>
         <translation>Neue Engine</translation>
+    </message>
+</context>
+<context>
+    <name>App::FindBar</name>
+    <message>
+        <source>Character %1: %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -516,25 +535,10 @@
     </message>
 </context>
 <context>
-    <name>App::LineBar</name>
-    <message>
-        <source>&amp;Go to line:</source>
-        <translation>&amp;Gehe zu Zeile:</translation>
-    </message>
-    <message>
-        <source>Line to go to</source>
-        <translation>Gesuchte Zeile</translation>
-    </message>
-</context>
-<context>
     <name>App::MainWindow</name>
     <message>
         <source>Projects</source>
         <translation>Projekte</translation>
-    </message>
-    <message>
-        <source>Nodes</source>
-        <translation>Knoten</translation>
     </message>
     <message>
         <source>Messages</source>
@@ -665,13 +669,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
-    </message>
-</context>
-<context>
-    <name>App::NodePanel</name>
-    <message>
-        <source>Nodes of the text</source>
-        <translation>Knoten des Textes</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1071,102 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source> s</source>
         <translation> s</translation>
     </message>
+    <message>
+        <source>Choose...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show &amp;line numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the left of the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show folding &amp;markers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Marks at the left with which parts of the text are folded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Highlight the current line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives the line of the cursor a ground of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the &amp;blocks around the cursor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets the part of the text in which the cursor is off from the rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show matching brac&amp;kets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At a bracket, the one that belongs to it and what stands between</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the &amp;tool bar of code</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snippets and problems, above the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open only the present branch of the tree</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All others close as the cursor moves through the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current l&amp;ine:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ground of the line with the cursor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the theme</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block a&amp;round the cursor:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ground of the innermost block; those around it are set off from it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>B&amp;etween brackets:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ground of what stands between two matching brackets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matchin&amp;g brackets:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the brackets themselves are written in</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>App::SettingsDialog</name>
@@ -1135,10 +1228,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Encoding: %1</source>
         <translation>Kodierung: %1</translation>
-    </message>
-    <message>
-        <source>Line %1, column %2</source>
-        <translation>Zeile %1, Spalte %2</translation>
     </message>
 </context>
 <context>
@@ -1223,6 +1312,17 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>%1 is no longer named by its project. The copy is kept.</source>
         <translation>%1 wird von seinem Projekt nicht mehr genannt. Die Kopie bleibt erhalten.</translation>
+    </message>
+</context>
+<context>
+    <name>EncDlg</name>
+    <message>
+        <source>Encoding</source>
+        <translation type="unfinished">Kodierung</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding of the file:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1679,6 +1779,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>The file does not come back byte for byte from its encoding, %1. Open it in another encoding before it is saved.</source>
         <translation>Die Datei kommt aus ihrer Kodierung, %1, nicht Byte für Byte zurück. Bitte vor dem Speichern in einer anderen Kodierung öffnen.</translation>
     </message>
+    <message>
+        <source>the name of a command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of a move</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Family::AbandonedTexts</name>
@@ -1885,6 +1993,13 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Family::Preparation</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>Family::RecoveryCopy</name>
     <message>
         <source>It is no copy of Zorv.</source>
@@ -1915,10 +2030,624 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Family::Reference</name>
+    <message>
+        <source>There is no file &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No other frame of the project shows the sprite %1,%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no move &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no animation &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing here names something that stands elsewhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Family::SessionFolder</name>
     <message>
         <source>Cannot make a folder in %1. Check its permissions, and that there is room on the disk.</source>
         <translation>In %1 kann kein Ordner angelegt werden. Bitte die Rechte prüfen und ob auf dem Datenträger Platz ist.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::WordMeaning</name>
+    <message>
+        <source>The format of the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Belongs to [%1]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes a name, as in [%1 first]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>May stand several times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>animation %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n frame(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tick(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>In %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 edge: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixels from the axis of the frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sprite %1,%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group and number of the sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GoToDlg</name>
+    <message>
+        <source>Go to line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Line:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Grammar</name>
+    <message>
+        <source>Place of the sprite beside the axis: x and y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticks for which it is shown; -1 never ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the sprite is mirrored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretch across and down; below 0 mirrors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees, counterclockwise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The animation starts again here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mirrored, left and right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mirrored, top and bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mirrored both ways</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An animation: its number or word, and its name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A frame: the sprite, and how it is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A contact box of the next frame that hits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A contact box of the next frame that is hit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name that people see</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Who made it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version of the work</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Day of the first version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Day of the last change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width and height of the screen that it was made for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour in lists</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What others may do with it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Anything else</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sprite file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound file</source>
+        <translation type="unfinished">Klangdatei</translation>
+    </message>
+    <message>
+        <source>Further code file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File of animations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File of commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Life at the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most power</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strength of attacks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strength of the defence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fall, in pixels a tick for each tick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretch of all sprites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Red, green and blue by which colours are multiplied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side of the stronger hand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faces the opponent of its own accord</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour of the shadow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colours of its hit sparks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent of damage for each further hit of a combo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Share of life given back at the end of each round</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed forward</source>
+        <translation type="unfinished">Geschwindigkeit nach vorn</translation>
+    </message>
+    <message>
+        <source>Speed back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shown while walking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shown while running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed at the start, straight up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed at the start, forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed at the start, back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticks before the start and after the landing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The box that keeps fighters apart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place of the head</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place of the middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width to the back and to the front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The motion of a command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticks for the whole motion</source>
+        <translation type="unfinished">Ticks für die ganze Bewegung</translation>
+    </message>
+    <message>
+        <source>Ticks for which a command stays true</source>
+        <translation type="unfinished">Ticks, für die ein Befehl gilt</translation>
+    </message>
+    <message>
+        <source>The command that starts the move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shown during the move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where it can be started</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which of two attacks wins</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed at the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The move that it can be cancelled into</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For the person</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power that it takes</source>
+        <translation type="unfinished">Kraft, die er kostet</translation>
+    </message>
+    <message>
+        <source>Life that it takes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Damage when hit and when guarded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How it has to be guarded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticks for which the other cannot act</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed given to the other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place of the spark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixels by which the screen shakes, tick by tick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group and number of the sound of a hit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group and number of the sound of a guarded hit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Palette file</source>
+        <translation type="unfinished">Palettendatei</translation>
+    </message>
+    <message>
+        <source>Colours that replace the first ones of the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The button that selects it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height of the floor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the middle of the screen can go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smallest and largest zoom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Factor on the gravity of characters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour of shadows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place of the first fighter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place of the second fighter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which way they look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group and number of a sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shown in place of a sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far it follows the camera, across and down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its own speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How it is mixed with what lies behind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Below 0 behind the fighters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where it is repeated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How often, across and down; 0 is without end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixels between</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First and last sample of the repeated part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds for which it fades in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value that is kept and not looked into</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An unknown group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What it is and who made it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The further files of the project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The fixed numbers of a character</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Walking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jumping</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sizes of the body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands and motions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What counts for all commands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the move takes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What a hit does</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sounds of the move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The extent of a stage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where fighters begin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One picture of a stage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the picture is repeated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The music of a stage</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1952,10 +2681,532 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>SnipDlg</name>
+    <message>
+        <source>Save code snippet</source>
+        <translation>Codebaustein speichern</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes of the snippet?</source>
+        <translation>Sollen die Änderungen des Bausteins gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>Extensible Markup Language (*.xml)</source>
+        <translation>Extensible Markup Language (*.xml)</translation>
+    </message>
+    <message>
+        <source>Save for translation</source>
+        <translation>Für die Übersetzung speichern</translation>
+    </message>
+    <message>
+        <source>Qt translation sources (*.ts)</source>
+        <translation>Qt-Übersetzungsquellen (*.ts)</translation>
+    </message>
+    <message>
+        <source>Two fields have the name %1. Rename one of them.</source>
+        <translation>Zwei Felder haben den Namen %1. Benennen Sie eines davon um.</translation>
+    </message>
+    <message>
+        <source>@%1 begins with @%2, which is filled in before it. Move the field %1 up, in front of %2, or rename it.</source>
+        <translation>@%1 beginnt mit @%2, das vorher eingesetzt wird. Verschieben Sie das Feld %1 nach oben, vor %2, oder benennen Sie es um.</translation>
+    </message>
+    <message>
+        <source>&amp;Code, in which @ and a name stand for the value of a field, and CURSOR for the place of the cursor:</source>
+        <translation>&amp;Code, in dem @ und ein Name für den Wert eines Feldes stehen und CURSOR für den Platz der Schreibmarke:</translation>
+    </message>
+    <message>
+        <source>&amp;Result:</source>
+        <translation>&amp;Ergebnis:</translation>
+    </message>
+    <message>
+        <source>&amp;Fields, asked and filled in from top to bottom:</source>
+        <translation>&amp;Felder, von oben nach unten gefragt und eingesetzt:</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>H&amp;inzufügen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Bearbeiten ...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Do&amp;wn</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>Ei&amp;nfügen</translation>
+    </message>
+    <message>
+        <source>Save for &amp;translation...</source>
+        <translation>Für die Übersetzun&amp;g speichern ...</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>S&amp;peichern ...</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Code snippet</source>
+        <translation>Codebaustein</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>New code snippet</source>
+        <translation>Neuer Codebaustein</translation>
+    </message>
+</context>
+<context>
+    <name>SnipFieldDlg</name>
+    <message>
+        <source>Field of a code snippet</source>
+        <translation>Feld eines Codebausteins</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>In the code, @ and this name stand for the value.</source>
+        <translation>Im Code stehen @ und dieser Name für den Wert.</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>T&amp;ype:</source>
+        <translation>T&amp;yp:</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Whole number</source>
+        <translation>Ganze Zahl</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>List of items</source>
+        <translation>Liste von Einträgen</translation>
+    </message>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Wert:</translation>
+    </message>
+    <message>
+        <source>&amp;Items, one a line:</source>
+        <translation>&amp;Einträge, je Zeile einer:</translation>
+    </message>
+    <message>
+        <source>&amp;Values, one a line:</source>
+        <translation>&amp;Werte, je Zeile einer:</translation>
+    </message>
+    <message>
+        <source>A comma begins a new item.</source>
+        <translation>Ein Komma beginnt einen neuen Eintrag.</translation>
+    </message>
+</context>
+<context>
+    <name>SnipFieldsModel</name>
+    <message>
+        <source>@%1, %2</source>
+        <translation>@%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>Snippets</name>
+    <message>
+        <source>Attack animation</source>
+        <comment>snippet</comment>
+        <translation>Angriffsanimation</translation>
+    </message>
+    <message>
+        <source>Attack</source>
+        <comment>snippet</comment>
+        <translation>Angriff</translation>
+    </message>
+    <message>
+        <source>Character head</source>
+        <comment>snippet</comment>
+        <translation>Kopf einer Figur</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <comment>snippet</comment>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Comment header</source>
+        <comment>snippet</comment>
+        <translation>Kommentarkopf</translation>
+    </message>
+    <message>
+        <source>Group of commands</source>
+        <comment>snippet</comment>
+        <translation>Gruppe der Befehle</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <comment>snippet</comment>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <comment>snippet</comment>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Special move</source>
+        <comment>snippet</comment>
+        <translation>Spezialangriff</translation>
+    </message>
+    <message>
+        <source>Stage head</source>
+        <comment>snippet</comment>
+        <translation>Kopf einer Bühne</translation>
+    </message>
+    <message>
+        <source>Stage layer</source>
+        <comment>snippet</comment>
+        <translation>Ebene einer Bühne</translation>
+    </message>
+    <message>
+        <source>Standing animation</source>
+        <comment>snippet</comment>
+        <translation>Standanimation</translation>
+    </message>
+    <message>
+        <source>Throw</source>
+        <comment>snippet</comment>
+        <translation>Wurf</translation>
+    </message>
+    <message>
+        <source>Walk cycle</source>
+        <comment>snippet</comment>
+        <translation>Gehzyklus</translation>
+    </message>
+    <message>
+        <source>Number or name</source>
+        <comment>identifier</comment>
+        <translation>Nummer oder Name</translation>
+    </message>
+    <message>
+        <source>Display name</source>
+        <comment>title</comment>
+        <translation>Anzeigename</translation>
+    </message>
+    <message>
+        <source>Group of its sprites</source>
+        <comment>group</comment>
+        <translation>Gruppe ihrer Sprites</translation>
+    </message>
+    <message>
+        <source>Ticks before the hit</source>
+        <comment>startup</comment>
+        <translation>Ticks vor dem Treffer</translation>
+    </message>
+    <message>
+        <source>Ticks of the hit</source>
+        <comment>active</comment>
+        <translation>Ticks des Treffers</translation>
+    </message>
+    <message>
+        <source>Ticks after the hit</source>
+        <comment>recovery</comment>
+        <translation>Ticks nach dem Treffer</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <comment>name</comment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <comment>command</comment>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <comment>shown</comment>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <comment>priority</comment>
+        <translation>Vorrang</translation>
+    </message>
+    <message>
+        <source>Damage</source>
+        <comment>damage</comment>
+        <translation>Schaden</translation>
+    </message>
+    <message>
+        <source>Damage when guarded</source>
+        <comment>guarded</comment>
+        <translation>Schaden bei Abwehr</translation>
+    </message>
+    <message>
+        <source>Guarded</source>
+        <comment>level</comment>
+        <translation>Abwehr</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <comment>level</comment>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <comment>level</comment>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <comment>level</comment>
+        <translation>Tief</translation>
+    </message>
+    <message>
+        <source>Ticks of stun</source>
+        <comment>stun</comment>
+        <translation>Ticks der Betäubung</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <comment>author</comment>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Name of its files</source>
+        <comment>file</comment>
+        <translation>Name ihrer Dateien</translation>
+    </message>
+    <message>
+        <source>Life</source>
+        <comment>life</comment>
+        <translation>Leben</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <comment>power</comment>
+        <translation>Kraft</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <comment>motion</comment>
+        <translation>Bewegung</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <comment>button</comment>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <comment>button</comment>
+        <translation>Leicht</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <comment>button</comment>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Heavy</source>
+        <comment>button</comment>
+        <translation>Schwer</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <comment>title</comment>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>What stands here</source>
+        <comment>what</comment>
+        <translation>Was hier steht</translation>
+    </message>
+    <message>
+        <source>Ticks for the whole motion</source>
+        <comment>time</comment>
+        <translation>Ticks für die ganze Bewegung</translation>
+    </message>
+    <message>
+        <source>Ticks for which a command stays true</source>
+        <comment>buffer</comment>
+        <translation>Ticks, für die ein Befehl gilt</translation>
+    </message>
+    <message>
+        <source>Sound file</source>
+        <comment>path</comment>
+        <translation>Klangdatei</translation>
+    </message>
+    <message>
+        <source>Volume in percent</source>
+        <comment>volume</comment>
+        <translation>Lautstärke in Prozent</translation>
+    </message>
+    <message>
+        <source>Seconds to fade out</source>
+        <comment>fade</comment>
+        <translation>Sekunden zum Ausblenden</translation>
+    </message>
+    <message>
+        <source>Palette file</source>
+        <comment>path</comment>
+        <translation>Palettendatei</translation>
+    </message>
+    <message>
+        <source>Button that selects it</source>
+        <comment>keys</comment>
+        <translation>Taste, die sie wählt</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <comment>keys</comment>
+        <translation>Leicht</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <comment>keys</comment>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Heavy</source>
+        <comment>keys</comment>
+        <translation>Schwer</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <comment>keys</comment>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>In the air</source>
+        <comment>air</comment>
+        <translation>In der Luft</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <comment>air</comment>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <comment>air</comment>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>Only</source>
+        <comment>air</comment>
+        <translation>Nur dort</translation>
+    </message>
+    <message>
+        <source>Power that it takes</source>
+        <comment>cost</comment>
+        <translation>Kraft, die er kostet</translation>
+    </message>
+    <message>
+        <source>Speed forward</source>
+        <comment>speed</comment>
+        <translation>Geschwindigkeit nach vorn</translation>
+    </message>
+    <message>
+        <source>Half of its width</source>
+        <comment>half</comment>
+        <translation>Halbe Breite</translation>
+    </message>
+    <message>
+        <source>How far the camera goes to each side</source>
+        <comment>camera</comment>
+        <translation>Wie weit die Kamera zu jeder Seite geht</translation>
+    </message>
+    <message>
+        <source>Group of its sprite</source>
+        <comment>group</comment>
+        <translation>Gruppe ihres Sprites</translation>
+    </message>
+    <message>
+        <source>Number of its sprite</source>
+        <comment>number</comment>
+        <translation>Nummer ihres Sprites</translation>
+    </message>
+    <message>
+        <source>How far it follows the camera</source>
+        <comment>follow</comment>
+        <translation>Wie weit sie der Kamera folgt</translation>
+    </message>
+    <message>
+        <source>Order; below 0 behind the fighters</source>
+        <comment>order</comment>
+        <translation>Reihenfolge; unter 0 hinter den Kämpfern</translation>
+    </message>
+    <message>
+        <source>Repeated</source>
+        <comment>along</comment>
+        <translation>Wiederholt</translation>
+    </message>
+    <message>
+        <source>Not at all</source>
+        <comment>along</comment>
+        <translation>Gar nicht</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <comment>along</comment>
+        <translation>Waagrecht</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <comment>along</comment>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>Both ways</source>
+        <comment>along</comment>
+        <translation>In beide Richtungen</translation>
+    </message>
+    <message>
+        <source>Ticks of each frame</source>
+        <comment>delay</comment>
+        <translation>Ticks jedes Bildes</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::Animations</name>
     <message>
         <source>Auto organize animations</source>
         <translation>Animationen automatisch ordnen</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::CodeCompletion</name>
+    <message>
+        <source>Words to complete</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1975,6 +3226,117 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Cannot write %1.%2</source>
         <translation>%1 kann nicht geschrieben werden.%2</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::CodeEditorExtraArea</name>
+    <message>
+        <source>Line numbers, marks and folds</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::CodeFileEditor</name>
+    <message>
+        <source>No text found!</source>
+        <translation type="unfinished">Kein Text gefunden!</translation>
+    </message>
+    <message>
+        <source>Line: %1, Column: %2, Line count: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Syntax error count: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::CodeItemModel</name>
+    <message>
+        <source>Frame</source>
+        <translation type="unfinished">Einzelbild</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::CodeWorkspace</name>
+    <message>
+        <source>Encoding: %1</source>
+        <translation type="unfinished">Kodierung: %1</translation>
+    </message>
+    <message>
+        <source>Open texts</source>
+        <translation type="unfinished">Geöffnete Texte</translation>
+    </message>
+    <message>
+        <source>Problems of this text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text of %1</source>
+        <translation type="unfinished">Text von %1</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished">Text</translation>
+    </message>
+    <message>
+        <source>Words to complete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to reload the file using the specified encoding?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid line! Do you want go to the last line?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::CompleterFile</name>
+    <message>
+        <source>The words to complete cannot be read from %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is too long for a file of words to complete: more than %2 MiB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, line %2, column %3: %4 The words to complete stay as they were.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A document type is not allowed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected the element &apos;completer&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected version=&quot;1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected an attribute &apos;trigger&apos; with a text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected an attribute &apos;text&apos; with a word.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These are more than %1 words.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2184,6 +3546,62 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     <message>
         <source>Cannot write %1: %2. %3</source>
         <translation>%1 kann nicht geschrieben werden: %2. %3</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SnippetFile</name>
+    <message>
+        <source>The snippet has no element &quot;code&quot;. Add one with the text to insert.</source>
+        <translation>Der Baustein hat kein Element „code“. Fügen Sie eines mit dem Text hinzu, der eingefügt werden soll.</translation>
+    </message>
+    <message>
+        <source>A snippet has at most %1 fields. Remove some.</source>
+        <translation>Ein Baustein hat höchstens %1 Felder. Entfernen Sie einige.</translation>
+    </message>
+    <message>
+        <source>A field has no name. Write one, such as name=&quot;speed&quot;.</source>
+        <translation>Ein Feld hat keinen Namen. Schreiben Sie einen, etwa name=&quot;speed&quot;.</translation>
+    </message>
+    <message>
+        <source>The field &quot;%1&quot; has the unknown type &quot;%2&quot;. Write string, int, float or items.</source>
+        <translation>Das Feld „%1“ hat den unbekannten Typ „%2“. Schreiben Sie string, int, float oder items.</translation>
+    </message>
+    <message>
+        <source>%1
+Line %2, column %3.</source>
+        <translation>%1
+Zeile %2, Spalte %3.</translation>
+    </message>
+    <message>
+        <source>There is no such file.</source>
+        <translation>Es gibt keine solche Datei.</translation>
+    </message>
+    <message>
+        <source>It is too large for a snippet: %1 bytes are the most.</source>
+        <translation>Sie ist zu groß für einen Baustein: Höchstens %1 Byte sind möglich.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cannot save %1: %2</source>
+        <translation>%1 kann nicht gespeichert werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SnippetManager</name>
+    <message>
+        <source>Code snippet</source>
+        <translation>Codebaustein</translation>
+    </message>
+    <message>
+        <source>With the value of &quot;%1&quot; the text grows too large. Shorten the value, or use the field less often.</source>
+        <translation>Mit dem Wert von „%1“ wird der Text zu groß. Kürzen Sie den Wert, oder verwenden Sie das Feld seltener.</translation>
+    </message>
+    <message>
+        <source>Cannot read the snippet &quot;%1&quot;: %2</source>
+        <translation>Der Baustein „%1“ kann nicht gelesen werden: %2</translation>
     </message>
 </context>
 <context>
