@@ -27,7 +27,7 @@ namespace Zorv {
 namespace {
 
 constexpr int SnippetBoxCharacters = 16;
-constexpr int MessageBoxCharacters = 40;
+constexpr int MessageBoxCharacters = 16;  // at least
 constexpr unsigned GoToText = 15;
 
 const char* const areas[] = {"code", nullptr};
@@ -84,6 +84,7 @@ CodeWorkspacePrivate::CodeWorkspacePrivate(CodeWorkspace* workspace)
     messages->setObjectName(QStringLiteral("code_messages"));
     snippets->setModel(SnippetManager::instance());
     messages->setModel(noMessages());
+    messages->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(snippets, &PickBox::picked, this, &CodeWorkspacePrivate::snipActivated);
     connect(messages, &PickBox::picked, this, &CodeWorkspacePrivate::errorActivated);
     editor->viewport()->installEventFilter(this);
@@ -101,7 +102,7 @@ void CodeWorkspacePrivate::publish()
 {
     toolBar->addWidget(snippets);
     QAction* middle = toolBar->addSeparator();
-    toolBar->addWidget(messages);
+    QAction* end = toolBar->addWidget(messages);
     for (const auto& tool : tools) {
         const QString name = QString::fromLatin1(tool.name);
         QAction* action = host->createAction(areas, name, ZorvTranslator::instance(), tool.textId,
@@ -112,7 +113,7 @@ void CodeWorkspacePrivate::publish()
         } else if (tool.place == BesideSnippets) {
             toolBar->insertAction(middle, action);
         } else if (tool.place == BesideMessages) {
-            toolBar->addAction(action);
+            toolBar->insertAction(end, action);
         } else {
             host->addControl(name, ToolButtonControl(action));
         }
