@@ -21,6 +21,9 @@ namespace Zorv {
 
 namespace {
 
+/// No wider than a text cursor.
+constexpr int NarrowWidth = 4;
+
 QIcon icon(const char* name)
 {
     return QIcon(QStringLiteral(":/zorvl_icons/icons/%1.png").arg(QLatin1String(name)));
@@ -96,12 +99,18 @@ void CodeEditorExtraArea::updateLines(const QTextBlock& first, const QTextBlock&
     update(0, top, width(), bottom - top + 1);
 }
 
+/// True if nothing but the text cursor is painted anew: it blinks. Qt adds some room on both
+/// sides, for the marks of writing directions.
+bool CodeEditorExtraArea::isCursor(const QRect& rect) const
+{
+    return m_editor->q->cursorRect().adjusted(-6, -2, 6, 2).contains(rect);
+}
+
 void CodeEditorExtraArea::scrollWithText(const QRect& rect, int dy)
 {
     if (dy != 0) {
         scroll(0, dy);
-    } else if (rect.width() > 4) {
-        // A narrower one is the blinking cursor.
+    } else if (rect.width() > NarrowWidth && !isCursor(rect)) {
         update(0, rect.y(), width(), rect.height());
     }
     if (rect.contains(m_editor->q->viewport()->rect())) {

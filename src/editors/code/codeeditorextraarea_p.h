@@ -53,6 +53,7 @@ protected:
 
 private:
     void scrollWithText(const QRect& rect, int dy);
+    bool isCursor(const QRect& rect) const;
 
     int foldWidth() const;
     QRect foldBox() const;
