@@ -41,11 +41,22 @@ QString nameTrouble(const std::vector<const SnipField*>& fields)
     return {};
 }
 
-QPlainTextEdit* makeCodeBox(const char* name)
+/// The font of the person's code.
+QFont codeFont(const Zorv::Interface* host)
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const QString family = host ? host->option(QStringLiteral("font_name")).toString() : QString();
+    if (!family.isEmpty()) {
+        font.setFamily(family);
+    }
+    return font;
+}
+
+QPlainTextEdit* makeCodeBox(const char* name, const Zorv::Interface* host)
 {
     auto* box = new QPlainTextEdit;
     box->setObjectName(QLatin1String(name));
-    box->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    box->setFont(codeFont(host));
     box->setLineWrapMode(QPlainTextEdit::NoWrap);
     // Tabs at the start of a line do not come into the text, so the key is free.
     box->setTabChangesFocus(true);
@@ -64,8 +75,8 @@ QString rawText(const QPlainTextEdit* box)
 
 SnipDlgPrivate::SnipDlgPrivate(SnipDlg* dialog, const Zorv::Interface* interface)
     : q(dialog), host(interface), fields(new SnipFieldsModel(dialog)), fieldList(new QListView),
-      hint(new QLabel), code(makeCodeBox("code")), previewLabel(nullptr),
-      preview(makeCodeBox("preview"))
+      hint(new QLabel), code(makeCodeBox("code", interface)), previewLabel(nullptr),
+      preview(makeCodeBox("preview", interface))
 {
 }
 
@@ -77,9 +88,9 @@ void SnipDlgPrivate::build()
              SnipDlg::tr("&Code, in which @ and a name stand for the value of a field, and CURSOR "
                          "for the place of the cursor:"),
              code);
-    layout->addWidget(code);
+    layout->addWidget(code, 2);
     previewLabel = addLabel(layout, SnipDlg::tr("&Result:"), preview);
-    layout->addWidget(preview);
+    layout->addWidget(preview, 2);
     preview->setReadOnly(true);
     preview->hide();
     previewLabel->hide();
@@ -103,7 +114,7 @@ void SnipDlgPrivate::buildFields(QBoxLayout* layout)
     buttons->addStretch();
     row->addWidget(fieldList);
     row->addLayout(buttons);
-    layout->addLayout(row);
+    layout->addLayout(row, 1);
 
     hint->setObjectName(QStringLiteral("hint"));
     hint->setTextFormat(Qt::PlainText);

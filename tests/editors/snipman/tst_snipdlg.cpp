@@ -98,7 +98,7 @@ private slots:
         qInfo("seed %u", seed);
         QRandomGenerator random(seed);
         const QString alphabet = QStringLiteral("ab\t \n<>&\"';]=@\u00e4\u4e2d\u00a0");
-        for (int round = 0; round < 200; ++round) {
+        for (int round = 0; round < 100; ++round) {
             QString code;
             for (int i = random.bounded(30); i > 0; --i) {
                 code += alphabet[random.bounded(alphabet.size())];
