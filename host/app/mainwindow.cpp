@@ -5,18 +5,16 @@
 #include "app/actions/shortcutguard.h"
 #include "app/actions/windowactions.h"
 #include "app/animationcommands.h"
-#include "app/codeedit.h"
-#include "app/codetexteditor.h"
+#include "app/code/codetexteditor.h"
+#include "app/code/codeview.h"
+#include "app/code/documenttabs.h"
 #include "app/controls/controlplacer.h"
-#include "app/documenttabs.h"
 #include "app/game/gamecommands.h"
 #include "app/game/gameopener.h"
 #include "app/gamesession.h"
 #include "app/gametree.h"
-#include "app/linebar.h"
 #include "app/look/look.h"
 #include "app/messagepanel.h"
-#include "app/nodepanel.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
 #include "app/statusfields.h"
@@ -24,6 +22,8 @@
 #include "app/windowstate.h"
 #include "core/dialogs/dialogs.h"
 #include "core/interface.h"
+#include "editors/code/codeeditor.h"
+#include "editors/code/codeworkspace.h"
 #include "editors/framework/editor.h"
 #include "editors/framework/extraeditor.h"
 #include "editors/framework/workspace.h"
@@ -40,7 +40,6 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>
-#include <QVBoxLayout>
 
 namespace App {
 
@@ -67,7 +66,6 @@ struct PanelTitle
 
 const PanelTitle panelTitles[] = {
     {"projects", QT_TRANSLATE_NOOP("App::MainWindow", "Projects")},
-    {"nodes", QT_TRANSLATE_NOOP("App::MainWindow", "Nodes")},
     {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
     {"output", QT_TRANSLATE_NOOP("App::MainWindow", "Engine output")},
 };
@@ -75,73 +73,66 @@ const PanelTitle panelTitles[] = {
 }  // namespace
 
 MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget),
-      m_hint(new QLabel), m_tabs(new DocumentTabs), m_lineBar(new LineBar),
-      m_gameTree(new GameTree), m_nodePanel(new NodePanel),
-      m_animations(new AnimationCommands(this)), m_messagePanel(new MessagePanel),
-      m_status(new StatusFields(statusBar())), m_textEditor(new CodeTextEditor(this)),
+    : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget(this)),
+      m_hint(new QLabel), m_gameTree(new GameTree), m_animations(new AnimationCommands(this)),
+      m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar())),
       m_opener(new GameOpener(this)), m_gameCommands(new GameCommands(this)),
       m_runCommands(new RunCommands(this)), m_actions(new WindowActions(this)),
       m_controls(new ControlPlacer(this, m_actions))
 {
     new ShortcutGuard(this, registry());
-    makeCentre();
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setEnabled(false);
+    m_centre->addWidget(m_hint);
+    setCentralWidget(m_centre);
     makeDocks();
+}
+
+void MainWindow::publishTools()
+{
+    makeCode();
+    m_animations->publish();
+    resizeDocks({findChild<QDockWidget*>(QStringLiteral("projects")),
+                 findChild<QDockWidget*>(QStringLiteral("nodes"))},
+                {220, 280}, Qt::Horizontal);
     connectParts();
     connectPanels();
+    connectCode();
     retranslate();
     currentDocumentChanged(nullptr);
     WindowState::restoreShape(this);
     m_controls->updateVisibility();
 }
 
-void MainWindow::publishTools()
+void MainWindow::makeCode()
 {
-    m_animations->publish();
-    m_animations->setDocument(m_tabs->currentDocument());
-    m_controls->updateVisibility();
-    cursorMoved();
+    m_code = new CodeView(this);
+    m_centre->addWidget(m_code->widget());
+    m_code->workspace()->engineSwitched(true);
+    m_code->workspace()->reconfig();
+    m_code->reconfig();
 }
 
 // Views go before what they show.
 MainWindow::~MainWindow()
 {
-    m_tabs->blockSignals(true);
     m_session->disconnect(this);
     m_status->setDocument(nullptr);
-    m_nodePanel->setDocument(nullptr);
     m_animations->setDocument(nullptr);
     m_messagePanel->setMessages(nullptr);
     m_gameTree->setGame(nullptr);
-    delete m_tabs;
+    delete m_code;
     delete m_session;
-}
-
-void MainWindow::makeCentre()
-{
-    m_hint->setAlignment(Qt::AlignCenter);
-    m_hint->setEnabled(false);
-    m_centre->addWidget(m_hint);
-    m_centre->addWidget(m_tabs);
-    auto* centre = new QWidget(this);
-    auto* layout = new QVBoxLayout(centre);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_centre);
-    layout->addWidget(m_lineBar);
-    setCentralWidget(centre);
 }
 
 void MainWindow::makeDocks()
 {
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    QDockWidget* projects = addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
-    QDockWidget* nodes = addDock(m_nodePanel, "nodes", Qt::RightDockWidgetArea);
+    addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
     QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
-    resizeDocks({projects, nodes}, {220, 280}, Qt::Horizontal);
     resizeDocks({messages}, {150}, Qt::Vertical);
 }
 
@@ -185,14 +176,12 @@ void MainWindow::parseAgain()
 void MainWindow::reconfig()
 {
     applyLook();
-    for (int i = 0; i < m_tabs->count(); ++i) {
-        m_tabs->editAt(i)->reconfig();
-    }
     m_controls->updateVisibility();
     parseAgain();
     tellAll(this, &Zorv::Editor::reconfig);
     tellAll(this, &Zorv::ExtraEditor::reconfig);
     tellAll(this, &Zorv::Workspace::reconfig);
+    m_code->reconfig();
     emit reconfigured();
 }
 
@@ -217,11 +206,6 @@ void MainWindow::connectParts()
     });
     connect(m_session, &GameSession::projectOpened, this, &MainWindow::updateMessages);
     connect(m_session, &GameSession::projectAboutToClose, this, &MainWindow::forgetProject);
-    connect(m_tabs, &DocumentTabs::currentDocumentChanged, this,
-            &MainWindow::currentDocumentChanged);
-    connect(m_tabs, &DocumentTabs::closeRequested, this, &MainWindow::closeDocument);
-    connect(m_tabs, &DocumentTabs::cursorMoved, this, &MainWindow::cursorMoved);
-    connect(m_tabs, &DocumentTabs::stateChanged, this, &MainWindow::updateNow);
     connect(m_gameCommands, &GameCommands::gameChanged, this, &MainWindow::gameChanged);
     connect(m_runCommands, &RunCommands::stateChanged, this, &MainWindow::updateSoon);
 }
@@ -229,11 +213,9 @@ void MainWindow::connectParts()
 void MainWindow::connectPanels()
 {
     connect(m_gameTree, &GameTree::fileRequested, this, &MainWindow::openFile);
-    connect(m_nodePanel, &NodePanel::lineRequested, this,
-            [this](int line) { showPlace(m_tabs->currentDocument(), line, 0, 0); });
     connect(m_animations, &AnimationCommands::lineRequested, this,
             [this](int line, int column, int length) {
-                showPlace(m_tabs->currentDocument(), line, column, length);
+                showPlace(tabs()->currentDocument(), line, column, length);
             });
     connect(m_animations, &AnimationCommands::stateChanged, this, &MainWindow::updateSoon);
     connect(m_messagePanel, &MessagePanel::placeRequested, this,
@@ -241,20 +223,22 @@ void MainWindow::connectPanels()
                 showPlace(document, line, column, 0);
             });
     connect(m_messagePanel, &MessagePanel::summaryChanged, this,
-            [this] { m_status->showField(1, m_messagePanel->summary()); });
-    connect(m_status, &StatusFields::problemsClicked, m_messagePanel, [this] {
-        m_messagePanel->parentWidget()->show();
-        m_messagePanel->setFocus();
-    });
+            [this] { m_status->setProblems(m_messagePanel->summary()); });
+    connect(m_status, &StatusFields::problemsClicked, m_messagePanel, &MessagePanel::comeForward);
+}
+
+void MainWindow::connectCode()
+{
+    connect(tabs(), &DocumentTabs::currentDocumentChanged, this,
+            &MainWindow::currentDocumentChanged);
+    connect(tabs(), &DocumentTabs::closeRequested, this, &MainWindow::closeDocument);
+    connect(m_code, &CodeView::lineChanged, this, &MainWindow::followLine);
+    connect(m_code, &CodeView::stateChanged, this, &MainWindow::updateNow);
+    connect(m_code->editor(), &Zorv::CodeEditor::markClicked, this,
+            &MainWindow::showMessageOfLine);
     connect(m_status, &StatusFields::encodingClicked, this, &MainWindow::changeEncoding);
-    connect(m_status, &StatusFields::placeClicked, this, &MainWindow::askForLine);
-    connect(m_lineBar, &LineBar::lineChosen, this,
-            [this](int line) { showPlace(m_tabs->currentDocument(), line, 0, 0); });
-    connect(m_lineBar, &LineBar::closed, this, [this] {
-        if (CodeEdit* edit = m_tabs->currentEdit()) {
-            edit->setFocus();
-        }
-    });
+    connect(m_status, &StatusFields::placeClicked, m_code->workspace(),
+            &Zorv::CodeWorkspace::goToLine);
 }
 
 bool MainWindow::openPath(const QString& path)
@@ -271,7 +255,7 @@ void MainWindow::forgetProject(FamilyProject* project)
 {
     const QList<FamilyDocument*> documents = project->documents();
     for (const FamilyDocument* document : documents) {
-        m_tabs->closeDocument(document);
+        tabs()->closeDocument(document);
     }
     if (m_messagePanel->messages() == project->messages()) {
         m_messagePanel->setMessages(nullptr);
@@ -282,31 +266,34 @@ void MainWindow::forgetProject(FamilyProject* project)
 
 void MainWindow::gameChanged()
 {
-    m_tabs->updateTabs();
-    m_status->setDocument(m_tabs->currentDocument());
+    tabs()->updateTabs();
+    m_status->setDocument(tabs()->currentDocument());
     updateMessages();
     updateSoon();
 }
 
 void MainWindow::currentDocumentChanged(FamilyDocument* document)
 {
-    m_centre->setCurrentIndex(m_tabs->count() > 0 ? 1 : 0);
-    m_nodePanel->setDocument(document);
+    m_centre->setCurrentIndex(document ? 1 : 0);
     m_animations->setDocument(document);
     m_status->setDocument(document);
-    m_lineBar->hide();
     updateMessages();
     updateNow();
-    cursorMoved();
+    if (document) {
+        followLine(currentEdit()->textCursor().blockNumber());
+    }
 }
 
-void MainWindow::cursorMoved()
+void MainWindow::followLine(int line)
 {
-    if (const CodeEdit* edit = m_tabs->currentEdit()) {
-        const TextPlace place = edit->place();
-        m_status->setPlace(place.line, place.column);
-        m_nodePanel->followCursor(place.line);
-        m_animations->followCursor(place.line);
+    m_animations->followCursor(line);
+    m_messagePanel->followCursor(tabs()->currentDocument(), line);
+}
+
+void MainWindow::showMessageOfLine(int line)
+{
+    if (m_messagePanel->followCursor(tabs()->currentDocument(), line)) {
+        m_messagePanel->comeForward();
     }
 }
 
@@ -314,13 +301,13 @@ void MainWindow::updateMessages()
 {
     const FamilyProject* project = currentProject();
     m_messagePanel->setMessages(project ? project->messages() : nullptr);
-    m_status->showField(1, m_messagePanel->summary());
+    m_status->setProblems(m_messagePanel->summary());
     updateSoon();
 }
 
 void MainWindow::updateTitle()
 {
-    const FamilyDocument* document = m_tabs->currentDocument();
+    const FamilyDocument* document = tabs()->currentDocument();
     QString text =
         document ? m_session->shownPath(document->fileName()) + QLatin1String("[*]") : QString();
     const QString game = QDir(m_session->folder()).dirName();
@@ -363,7 +350,7 @@ void MainWindow::updateActions()
 QSet<QString> MainWindow::activeAreas() const
 {
     QSet<QString> areas;
-    if (m_tabs->currentEdit()) {
+    if (currentEdit()) {
         areas.insert(QStringLiteral("code"));
     }
     if (const Zorv::Editor* editor = Zorv::Interface::instance()->currentEditor()) {
@@ -375,7 +362,7 @@ QSet<QString> MainWindow::activeAreas() const
 
 int MainWindow::presentNeeds() const
 {
-    const CodeEdit* edit = m_tabs->currentEdit();
+    const Zorv::CodeEditor* edit = currentEdit();
     const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
     return when(m_session->game(), NeedsGame) | when(currentProject(), NeedsProject) |
            when(edit, NeedsText) | when(!m_session->modifiedDocuments().isEmpty(), NeedsUnsaved) |
@@ -387,9 +374,32 @@ int MainWindow::presentNeeds() const
            when(!m_runCommands->isRunning(), NeedsNoEngine);
 }
 
+DocumentTabs* MainWindow::tabs() const
+{
+    return m_code->tabs();
+}
+
+CodeTextEditor* MainWindow::textEditor() const
+{
+    return m_code ? m_code->textEditor() : nullptr;
+}
+
+Zorv::CodeEditor* MainWindow::currentEdit() const
+{
+    return m_code ? tabs()->currentEdit() : nullptr;
+}
+
+void MainWindow::showText()
+{
+    if (Zorv::CodeEditor* edit = currentEdit()) {
+        m_centre->setCurrentWidget(m_code->widget());
+        edit->setFocus();
+    }
+}
+
 FamilyProject* MainWindow::currentProject() const
 {
-    FamilyProject* project = projectOf(m_tabs->currentDocument());
+    FamilyProject* project = projectOf(tabs()->currentDocument());
     return project || m_session->projects().isEmpty() ? project : m_session->projects().last();
 }
 

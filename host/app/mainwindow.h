@@ -14,23 +14,22 @@ class FamilyProject;
 
 namespace Zorv {
 class CodeDocument;
-}
+class CodeEditor;
+}  // namespace Zorv
 
 namespace App {
 
 class ActionRegistry;
 class AnimationCommands;
-class CodeEdit;
 class CodeTextEditor;
+class CodeView;
 class ControlPlacer;
 class DocumentTabs;
 class GameCommands;
 class GameOpener;
 class GameSession;
 class GameTree;
-class LineBar;
 class MessagePanel;
-class NodePanel;
 class RunCommands;
 class StatusFields;
 class WindowActions;
@@ -47,9 +46,12 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Places the tools of the panels that publish them. To be called once, when the host
-    /// knows the window.
+    /// Makes the parts that publish tools: texts and animations. To be called once, when the
+    /// host knows the window, and before anything is opened; these parts are null until then.
     void publishTools();
+
+    /// Brings the middle of the window to the texts, and the keyboard to the one in front.
+    void showText();
 
     /// Opens a game folder, or the one around a code file together with the file
     /// and its project. Tells the person what is wrong, and is false then.
@@ -69,15 +71,18 @@ public:
 
     /// The parts of the window. They live as long as it.
     GameSession* session() const { return m_session; }
-    DocumentTabs* tabs() const { return m_tabs; }
+    CodeView* code() const { return m_code; }
+    DocumentTabs* tabs() const;
     GameTree* gameTree() const { return m_gameTree; }
-    NodePanel* nodePanel() const { return m_nodePanel; }
     AnimationCommands* animations() const { return m_animations; }
     MessagePanel* messagePanel() const { return m_messagePanel; }
     StatusFields* status() const { return m_status; }
-    CodeTextEditor* textEditor() const { return m_textEditor; }
+    CodeTextEditor* textEditor() const;
     GameCommands* gameCommands() const { return m_gameCommands; }
     RunCommands* runCommands() const { return m_runCommands; }
+
+    /// The editor while a text is in front, else null.
+    Zorv::CodeEditor* currentEdit() const;
 
     /// The project of the text in front, else the one opened last, else null.
     Family::FamilyProject* currentProject() const;
@@ -111,7 +116,6 @@ public:
     void closeProject();
     void closeFolder();
     void quit();
-    void askForLine();
     void changeEncoding();
     void addAnimation();
     void duplicateAnimation();
@@ -132,13 +136,14 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void makeCentre();
+    void makeCode();
     void makeDocks();
     QDockWidget* addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area);
     void retranslate();
     void parseAgain();
     void connectParts();
     void connectPanels();
+    void connectCode();
 
     void closeDocument(Family::FamilyDocument* document);
     void showPlace(Zorv::CodeDocument* document, int line, int column, int length);
@@ -146,7 +151,8 @@ private:
     void gameChanged();
 
     void currentDocumentChanged(Family::FamilyDocument* document);
-    void cursorMoved();
+    void followLine(int line);
+    void showMessageOfLine(int line);
     void updateSoon();
     void updateNow();
     void updateActions();
@@ -159,14 +165,11 @@ private:
     GameSession* m_session;
     QStackedWidget* m_centre;
     QLabel* m_hint;
-    DocumentTabs* m_tabs;
-    LineBar* m_lineBar;
+    CodeView* m_code = nullptr;
     GameTree* m_gameTree;
-    NodePanel* m_nodePanel;
     AnimationCommands* m_animations;
     MessagePanel* m_messagePanel;
     StatusFields* m_status;
-    CodeTextEditor* m_textEditor;
     GameOpener* m_opener;
     GameCommands* m_gameCommands;
     RunCommands* m_runCommands;

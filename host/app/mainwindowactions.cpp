@@ -1,25 +1,31 @@
 #include "app/mainwindow.h"
 
 #include "app/animationcommands.h"
-#include "app/codeedit.h"
-#include "app/documenttabs.h"
+#include "app/code/codetexteditor.h"
+#include "app/code/codeview.h"
+#include "app/code/documenttabs.h"
 #include "app/encodingchoice.h"
 #include "app/gamesession.h"
 #include "app/gametree.h"
-#include "app/linebar.h"
 #include "app/messagepanel.h"
-#include "app/nodepanel.h"
 #include "app/run/runcommands.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
 #include "core/dialogs/dialogs.h"
+#include "editors/code/codeeditor.h"
+#include "editors/code/codeworkspace.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "operations/documentfile.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QFileInfo>
+#include <QToolBar>
+#include <QTreeView>
+
+#include <algorithm>
 
 namespace App {
 
@@ -27,10 +33,30 @@ using Family::FamilyDocument;
 using Family::FamilyProject;
 using Zorv::Dialogs;
 
+namespace {
+
+/// What the tab key reaches first in a bar; null for a bar without fields.
+QWidget* firstField(const QWidget* bar)
+{
+    const QList<QComboBox*> fields = bar->findChildren<QComboBox*>();
+    const auto found = std::find_if(fields.begin(), fields.end(),
+                                    [](const QWidget* field) { return field->isEnabled(); });
+    return found == fields.end() ? nullptr : *found;
+}
+
+/// True for the panel itself, and for the neighbours of a field in its bar.
+bool isIn(const QWidget* panel, const QWidget* focus)
+{
+    const auto* bar = qobject_cast<const QToolBar*>(panel->parentWidget());
+    return focus && (panel == focus || (bar && bar->isAncestorOf(focus)));
+}
+
+}  // namespace
+
 void MainWindow::showDocument(FamilyDocument* document)
 {
-    const bool isNew = !m_tabs->editOf(document);
-    m_tabs->showDocument(document);
+    const bool isNew = tabs()->indexOf(document) < 0;
+    tabs()->showDocument(document);
     if (isNew) {
         Family::ensureFaithful(document);
         m_status->updateFile();
@@ -45,9 +71,7 @@ void MainWindow::showPlace(Zorv::CodeDocument* document, int line, int column, i
         return;
     }
     showDocument(shown);
-    if (CodeEdit* edit = m_tabs->editOf(shown)) {
-        edit->goTo(line, column, length);
-    }
+    textEditor()->goTo(line, column, length);
 }
 
 /// What is discarded leaves the memory too: the project of the text stays open.
@@ -56,7 +80,7 @@ void MainWindow::closeDocument(FamilyDocument* document)
     if (document->isModified() && !askAboutUnsaved({document})) {
         return;
     }
-    m_tabs->closeDocument(document);
+    tabs()->closeDocument(document);
     if (document->isModified() && QFileInfo::exists(document->fileName())) {
         document->reload();
     }
@@ -74,11 +98,11 @@ void MainWindow::openFolderByDialog()
 
 void MainWindow::save()
 {
-    if (FamilyDocument* document = m_tabs->currentDocument()) {
+    if (FamilyDocument* document = tabs()->currentDocument()) {
         if (saveDocuments({document})) {
             statusBarText(tr("%1 is saved.").arg(m_session->shownPath(document->fileName())));
         }
-        m_tabs->updateTabs();
+        tabs()->updateTabs();
         m_status->updateFile();
     }
 }
@@ -88,18 +112,18 @@ void MainWindow::saveAll()
     if (saveDocuments(m_session->modifiedDocuments())) {
         statusBarText(tr("All files are saved."));
     }
-    m_tabs->updateTabs();
+    tabs()->updateTabs();
     m_status->updateFile();
 }
 
 void MainWindow::statusBarText(const QString& text)
 {
-    m_status->showField(0, text);
+    m_status->showPassing(text);
 }
 
 void MainWindow::closeText()
 {
-    if (FamilyDocument* document = m_tabs->currentDocument()) {
+    if (FamilyDocument* document = tabs()->currentDocument()) {
         closeDocument(document);
     }
 }
@@ -126,16 +150,9 @@ void MainWindow::quit()
     close();
 }
 
-void MainWindow::askForLine()
-{
-    if (const CodeEdit* edit = m_tabs->currentEdit()) {
-        m_lineBar->ask(edit->place().line, edit->document()->blockCount());
-    }
-}
-
 void MainWindow::changeEncoding()
 {
-    if (FamilyDocument* document = m_tabs->currentDocument()) {
+    if (FamilyDocument* document = tabs()->currentDocument()) {
         chooseEncoding(document);
         m_status->updateFile();
     }
@@ -168,16 +185,18 @@ void MainWindow::focusPreviousPanel()
 
 void MainWindow::focusPanel(int step)
 {
-    const QList<QWidget*> all{m_gameTree, m_tabs->currentEdit(), m_nodePanel, m_animations->list(),
-                              m_messagePanel};
+    const QList<QWidget*> all{m_gameTree,          firstField(m_code->workspace()->toolBar()),
+                              currentEdit(),       textEditor()->tree(),
+                              m_animations->list(), m_messagePanel};
     QList<QWidget*> panels;
+    int current = -1;
     for (QWidget* panel : all) {
         if (panel && panel->isVisible()) {
+            current = isIn(panel, QApplication::focusWidget()) ? panels.size() : current;
             panels.append(panel);
         }
     }
     if (!panels.isEmpty()) {
-        const int current = panels.indexOf(QApplication::focusWidget());
         const int from = current < 0 && step < 0 ? 0 : current;
         panels[(from + step + panels.size()) % panels.size()]->setFocus(Qt::ShortcutFocusReason);
     }
@@ -185,12 +204,12 @@ void MainWindow::focusPanel(int step)
 
 void MainWindow::showNextText()
 {
-    m_tabs->setCurrentIndex((m_tabs->currentIndex() + 1) % m_tabs->count());
+    tabs()->setCurrentIndex((tabs()->currentIndex() + 1) % tabs()->count());
 }
 
 void MainWindow::showPreviousText()
 {
-    m_tabs->setCurrentIndex((m_tabs->currentIndex() + m_tabs->count() - 1) % m_tabs->count());
+    tabs()->setCurrentIndex((tabs()->currentIndex() + tabs()->count() - 1) % tabs()->count());
 }
 
 void MainWindow::showAbout()

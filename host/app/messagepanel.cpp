@@ -5,6 +5,7 @@
 #include "core/messagelist.h"
 #include "core/messages.h"
 
+#include <QDockWidget>
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QToolTip>
@@ -54,19 +55,56 @@ Zorv::MessageList* MessagePanel::messages() const
     return m_list;
 }
 
-void MessagePanel::showMessagesOf(const Zorv::CodeDocument* document)
+/// The row of the first message of a file, -1 for one without any.
+int MessagePanel::firstRowOf(const Messages* messages) const
 {
-    const Messages* messages = document->messages();
     int row = 0;
     const QList<Messages*> lists = m_list ? m_list->lists() : QList<Messages*>();
     for (const Messages* before : lists) {
+        const int count = before->count(Message::AllTypes);
         if (before == messages) {
-            setCurrentIndex(m_list->index(row));
-            scrollTo(currentIndex(), QAbstractItemView::PositionAtTop);
-            return;
+            return count > 0 ? row : -1;
         }
-        row += before->count(Message::AllTypes);
+        row += count;
     }
+    return -1;
+}
+
+void MessagePanel::showMessagesOf(const Zorv::CodeDocument* document)
+{
+    const int row = firstRowOf(document->messages());
+    if (row >= 0) {
+        setCurrentIndex(m_list->index(row));
+        scrollTo(currentIndex(), QAbstractItemView::PositionAtTop);
+    }
+}
+
+bool MessagePanel::followCursor(const Zorv::CodeDocument* document, int line)
+{
+    const Messages* messages = document ? document->messages() : nullptr;
+    const int first = messages ? firstRowOf(messages) : -1;
+    const int place = first < 0 ? -1 : messages->indexOfLine(line);
+    if (place < 0 || place >= messages->count(Message::AllTypes) ||
+        messages->at(place).line != line) {
+        return false;
+    }
+    if (messages != m_currentFile || line != m_currentLine || !currentIndex().isValid()) {
+        setCurrentIndex(m_list->index(first + place));
+    }
+    scrollTo(currentIndex());
+    return true;
+}
+
+void MessagePanel::comeForward()
+{
+    for (QWidget* parent = parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* dock = qobject_cast<QDockWidget*>(parent)) {
+            dock->show();
+            dock->raise();
+            break;
+        }
+    }
+    setFocus();
 }
 
 QString MessagePanel::summary() const

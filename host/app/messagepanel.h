@@ -27,6 +27,13 @@ public:
     /// Makes the first message of a file the current row, if it has any.
     void showMessagesOf(const Zorv::CodeDocument* document);
 
+    /// Makes the first message of a line of a file the current row, unless that is of this
+    /// line already. False if the line has none, and nothing changes.
+    bool followCursor(const Zorv::CodeDocument* document, int line);
+
+    /// Shows the panel and gives it the keyboard.
+    void comeForward();
+
     /// "3 errors, 1 warning"; empty while there is no list.
     QString summary() const;
 
@@ -43,6 +50,7 @@ protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
+    int firstRowOf(const Zorv::Messages* messages) const;
     void request(const QModelIndex& index);
     void beginUpdate();
     void endUpdate();

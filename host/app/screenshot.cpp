@@ -1,7 +1,6 @@
 #include "app/screenshot.h"
 
-#include "app/codeedit.h"
-#include "app/documenttabs.h"
+#include "app/code/codetexteditor.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
 #include "app/messagepanel.h"
@@ -92,7 +91,7 @@ void showProblems(MainWindow* window)
         return;
     }
     const Zorv::Message first = best->messages()->at(0);
-    window->tabs()->currentEdit()->goTo(first.line, first.column);
+    window->textEditor()->goTo(first.line, first.column);
     window->messagePanel()->showMessagesOf(best);
 }
 

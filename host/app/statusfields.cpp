@@ -15,6 +15,7 @@ namespace App {
 namespace {
 
 constexpr int PassingTime = 8000;  // milliseconds
+constexpr int PlaceField = 0;
 constexpr int ProblemsField = 1;
 constexpr int EncodingField = 2;
 
@@ -57,14 +58,21 @@ StatusFields::StatusFields(QStatusBar* bar)
 
 void StatusFields::retranslate()
 {
-    setHelp(m_problems, tr("Problems of the project. Click for the list."));
+    updateProblemHelp();
     setHelp(m_encoding, tr("Encoding of the file. Click to change it."));
     setHelp(m_place, tr("Line and column. Click to go to a line."));
     m_state->setAccessibleName(tr("State of the file"));
     m_lineEnds->setAccessibleName(tr("Line ends of the file"));
     m_bar->clearMessage();
     updateFile();
-    showPlace();
+}
+
+void StatusFields::updateProblemHelp()
+{
+    const QString help = tr("Problems of the project. Click for the list.");
+    setHelp(m_problems, m_document && !m_fileProblems.isEmpty()
+                            ? help + QLatin1Char('\n') + m_fileProblems
+                            : help);
 }
 
 void StatusFields::setDocument(Family::FamilyDocument* document)
@@ -90,35 +98,40 @@ void StatusFields::updateFile()
     m_encoding->setText(m_document ? tr("Encoding: %1").arg(m_document->codecName()) : QString());
     m_encoding->setEnabled(m_document);
     m_place->setEnabled(m_document);
-    showPlace();
+    if (!m_document) {
+        m_place->setText({});
+        m_fileProblems.clear();
+    }
+    updateProblemHelp();
 }
 
-void StatusFields::setPlace(int line, int column)
+void StatusFields::setProblems(const QString& text)
 {
-    m_line = line;
-    m_column = column;
-    showPlace();
-}
-
-void StatusFields::showPlace()
-{
-    m_place->setText(m_document ? tr("Line %1, column %2").arg(m_line + 1).arg(m_column + 1)
-                                : QString());
+    m_problems->setText(text);
+    m_problems->setEnabled(!text.isEmpty());
 }
 
 void StatusFields::showField(int field, const QString& text)
 {
     switch (field) {
+    case PlaceField:
+        m_place->setText(text);
+        break;
     case ProblemsField:
-        m_problems->setText(text);
-        m_problems->setEnabled(!text.isEmpty());
+        m_fileProblems = text;
+        updateProblemHelp();
         break;
     case EncodingField:
         m_encoding->setText(text);
         break;
     default:
-        m_bar->showMessage(text, PassingTime);
+        showPassing(text);
     }
+}
+
+void StatusFields::showPassing(const QString& text)
+{
+    m_bar->showMessage(text, PassingTime);
 }
 
 QString StatusFields::stateText() const

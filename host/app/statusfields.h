@@ -31,12 +31,15 @@ public:
     /// Brings state, line ends and encoding up to date.
     void updateFile();
 
-    /// Line and column from 0.
-    void setPlace(int line, int column);
+    /// How many problems the project has, in words.
+    void setProblems(const QString& text);
 
-    /// Field 1 are the problems, 2 is the encoding; any other number shows a
-    /// passing text.
+    /// Field 0 is the place, 1 how many problems the file has, which is told with those of
+    /// the project, and 2 the encoding; any other number shows a passing text.
     void showField(int field, const QString& text);
+
+    /// Shows a text for a few seconds.
+    void showPassing(const QString& text);
 
     /// What a field shows, for tests and helpers of accessibility.
     QString stateText() const;
@@ -44,6 +47,7 @@ public:
     QString encodingText() const;
     QString placeText() const;
     QString problemText() const;
+    QString fileProblemText() const { return m_fileProblems; }
 
 signals:
     void problemsClicked();
@@ -53,7 +57,7 @@ signals:
 private:
     QToolButton* addButton(const char* name);
     void retranslate();
-    void showPlace();
+    void updateProblemHelp();
     void watchFolder();
 
     QStatusBar* m_bar;
@@ -64,8 +68,7 @@ private:
     QToolButton* m_place;
     QFileSystemWatcher* m_watcher;
     Family::FamilyDocument* m_document = nullptr;
-    int m_line = 0;
-    int m_column = 0;
+    QString m_fileProblems;
 };
 
 }  // namespace App

@@ -2,13 +2,10 @@
 
 #include "animation/organizereditor.h"
 #include "app/animationcommands.h"
-#include "app/codeedit.h"
-#include "app/codetexteditor.h"
+#include "app/code/codetexteditor.h"
 #include "app/controls/controlplacer.h"
-#include "app/documenttabs.h"
 #include "app/game/gamecommands.h"
 #include "app/gamesession.h"
-#include "app/look/theme.h"
 #include "app/mainwindow.h"
 #include "app/progressdialog.h"
 #include "app/statusfields.h"
@@ -84,13 +81,6 @@ void WindowInterface::selectPaletteFiles(QStringList& files, QStringList& names,
     }
 }
 
-QVariant WindowInterface::option(const QString& key) const
-{
-    const QVariant stored = storedOption(key);
-    const QVariant colour = Theme::codeSetting(key, stored.value<QColor>());
-    return colour.isValid() ? colour : stored;
-}
-
 void WindowInterface::showStatus(int field, const QString& text)
 {
     if (m_window) {
@@ -139,7 +129,7 @@ Zorv::ExtraEditor* WindowInterface::extraEditor(unsigned index) const
 
 Zorv::Editor* WindowInterface::currentEditor() const
 {
-    return m_window && m_window->tabs()->currentEdit() ? m_window->textEditor() : nullptr;
+    return m_window && m_window->currentEdit() ? m_window->textEditor() : nullptr;
 }
 
 Zorv::Editor* WindowInterface::editorByName(const char* name) const
@@ -160,9 +150,14 @@ Zorv::Editor* WindowInterface::fileEditor(Zorv::ProjectFile* file, Zorv::FileID)
 
 void WindowInterface::activateEditor(Zorv::Editor* editor)
 {
-    if (m_window && editor == m_window->textEditor() && m_window->tabs()->currentEdit()) {
-        m_window->tabs()->currentEdit()->setFocus();
+    if (!m_window || !editor || editor != m_window->textEditor()) {
+        return;
+    }
+    // One that becomes active comes here by itself.
+    if (!editor->isActive() && m_window->currentEdit()) {
         editor->activate();
+    } else {
+        m_window->showText();
     }
 }
 

@@ -32,16 +32,13 @@ public:
     Zorv::Project* currentProject() const override;
     int pixels(int size) const override;
 
-    /// A colour of code that the person has not chosen is that of the theme.
-    QVariant option(const QString& key) const override;
-
     /// Palettes are named as their files are; `flag`, if not null, becomes false. Both lists are
     /// empty if the person gives up. Begins in the folder of the first of `files`, else in that
     /// of the project in front.
     void selectPaletteFiles(QStringList& files, QStringList& names, bool* flag) override;
 
-    /// Fields 1 (problems) and 2 (encoding) are those of the status bar; any
-    /// other number shows a passing text.
+    /// Those of the status bar: 0 is the place, 1 the problems of the text in front, 2 its
+    /// encoding. Any other number shows a passing text.
     void showStatus(int field, const QString& text) override;
 
     /// Those of the menu bar: "anim", "view", "spr", "pal", "snd" and the window's own. The

@@ -1,7 +1,6 @@
 #include "app/windowstate.h"
 
-#include "app/codeedit.h"
-#include "app/documenttabs.h"
+#include "app/code/documenttabs.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
 #include "core/interface.h"
@@ -35,16 +34,15 @@ void store(const QString& key, const QVariant& value)
     Zorv::Interface::instance()->setOption(key, value);
 }
 
-QVariantMap stateOf(const CodeEdit* edit)
+QVariantMap stateOf(const DocumentTabs* tabs, const FamilyDocument* document)
 {
-    const FamilyDocument* document = edit->codeDocument();
     const Family::FamilyProject* project = projectOf(document);
-    const TextPlace place = edit->place();
+    const TextPlace place = tabs->placeOf(document);
     return {{QStringLiteral("project"), project ? project->fileName() : QString()},
             {QStringLiteral("file"), document->fileName()},
             {QStringLiteral("line"), place.line},
             {QStringLiteral("column"), place.column},
-            {QStringLiteral("top"), place.topLine}};
+            {QStringLiteral("top"), place.scroll}};
 }
 
 void restoreText(MainWindow* window, const QVariantMap& state)
@@ -61,9 +59,10 @@ void restoreText(MainWindow* window, const QVariantMap& state)
         return;
     }
     window->showDocument(document);
-    window->tabs()->currentEdit()->setPlace({state.value(QStringLiteral("line")).toInt(),
-                                             state.value(QStringLiteral("column")).toInt(),
-                                             state.value(QStringLiteral("top")).toInt()});
+    const int line = state.value(QStringLiteral("line")).toInt();
+    const int column = state.value(QStringLiteral("column")).toInt();
+    window->tabs()->setPlace(
+        document, {line, column, line, column, state.value(QStringLiteral("top")).toInt(), 0});
 }
 
 }  // namespace
@@ -76,7 +75,7 @@ void WindowState::save(const MainWindow* window)
     QVariantList texts;
     const DocumentTabs* tabs = window->tabs();
     for (int i = 0; i < tabs->count(); ++i) {
-        texts.append(stateOf(tabs->editAt(i)));
+        texts.append(stateOf(tabs, tabs->documentAt(i)));
     }
     store(TextsKey, texts);
     store(FrontKey, tabs->currentIndex());

@@ -87,7 +87,7 @@ void tst_EveryAction::prepare()
     QVERIFY(m->window->openFile(
         m_folder->filePath(QStringLiteral("arena/characters/maren/basics.anim"))));
     m->edit()->setFocus();
-    m->edit()->goTo(0);
+    m->goTo(0);
     m->press(Qt::Key_Return);
     m->press(Qt::Key_Return);
     m->action("undo")->trigger();

@@ -1,4 +1,4 @@
-#include "app/codetexteditor.h"
+#include "app/code/codetexteditor.h"
 #include "app/game/backupnamedialog.h"
 #include "app/game/gamecommands.h"
 #include "app/game/restoredialog.h"
@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -209,7 +210,7 @@ void TestGameCommands::looseProjectIsSavedAsFile()
     QVERIFY(m_game->read("characters/ryn/ryn.character").startsWith("[info]"));
     QVERIFY(w().window->windowTitle().contains("where"));
     QCOMPARE(App::RecentFolders::list().first(), m_dir->filePath("else/where"));
-    QVERIFY(w().window->tabs()->tabToolTip(0).startsWith(m_dir->path()));
+    QVERIFY(w().window->tabs()->bar()->tabToolTip(0).startsWith(m_dir->path()));
     QVERIFY(w().window->gameTree()->indexOf(name + ".character").isValid());
     w().type("y");
     w().action("save")->trigger();
@@ -313,7 +314,7 @@ void TestGameCommands::newFileIsAskedForItsName()
         w().window->session()->game()->save();
     } else {
         w().action("save")->trigger();
-        QCOMPARE(w().window->tabs()->tabText(w().window->tabs()->currentIndex()),
+        QCOMPARE(w().window->tabs()->bar()->tabText(w().window->tabs()->currentIndex()),
                  QString("new.commands"));
     }
     QCOMPARE(file->fileName(), name);
@@ -349,7 +350,7 @@ void TestGameCommands::editorWorksOnTheTextInFront()
     editor->replace("a", "aa", 0, true);
     QCOMPARE(w().document()->text(), QString(text).replace("a", "aa"));
     editor->undo();
-    w().edit()->goTo(0);
+    w().goTo(0);
     editor->find("FRAME", 0);
     QCOMPARE(w().edit()->textCursor().selectedText(), QString("frame"));
     editor->replace("frame", "x", 0, false);

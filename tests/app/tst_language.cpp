@@ -178,7 +178,7 @@ void tst_Language::nothingStaysEnglish()
     const TemporaryGame game;
     WindowFixture fixture(folder.filePath("settings.ini"));
     fixture.open(game, game.ryn(), game.animations());
-    fixture.action("go_to_line")->trigger();
+    fixture.action("code_goto")->trigger();
     for (const char* dialog : {"settings", "keys", "palette"}) {
         fixture.action(dialog)->trigger();
     }

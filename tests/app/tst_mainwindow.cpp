@@ -9,11 +9,15 @@
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDockWidget>
 #include <QImage>
 #include <QMenu>
 #include <QProgressDialog>
 #include <QSignalSpy>
-#include <QSpinBox>
+#include <QTabBar>
+#include <QTimer>
+#include <QToolBar>
 #include <QTreeView>
 
 using App::GameTree;
@@ -142,7 +146,7 @@ void tst_MainWindow::opensAProjectByDoubleClick()
     doubleClickRow(tree, tree->indexOf(m_game->animations()));
     QCOMPARE(m->document()->fileName(), m_game->animations());
     QCOMPARE(window()->tabs()->count(), 2);
-    QCOMPARE(window()->tabs()->tabToolTip(1), QDir::toNativeSeparators(m_game->animations()));
+    QCOMPARE(window()->tabs()->bar()->tabToolTip(1), QDir::toNativeSeparators(m_game->animations()));
     // The return key does the same, and brings back what is open already.
     tree->setCurrentIndex(tree->indexOf(m_game->ryn()));
     QTest::keyClick(tree, Qt::Key_Return);
@@ -193,7 +197,7 @@ void tst_MainWindow::showsAFileThatIsNamedNow()
 {
     m->open(*m_game, m_game->ryn());
     m_game->write("characters/ryn/more.code", "[move kick]\r\nanimation = 2\r\n");
-    m->edit()->goTo(3, 0);
+    m->goTo(3, 0);
     m->type(QStringLiteral("code = \"more.code\""));
     m->press(Qt::Key_Return);
     GameTree* tree = window()->gameTree();
@@ -205,15 +209,15 @@ void tst_MainWindow::showsAFileThatIsNamedNow()
 void tst_MainWindow::savesByKey()
 {
     m->open(*m_game, m_game->ryn());
-    m->edit()->goTo(6, 0);
+    m->goTo(6, 0);
     m->press(Qt::Key_End);
     m->type(QStringLiteral("0"));
-    QCOMPARE(window()->tabs()->tabText(0), QStringLiteral("ryn.character*"));
+    QCOMPARE(window()->tabs()->bar()->tabText(0), QStringLiteral("ryn.character*"));
     QCOMPARE(window()->status()->stateText(), QStringLiteral("Modified"));
     QTRY_VERIFY(window()->isWindowModified());
     m->press(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(m_game->read("characters/ryn/ryn.character").contains("\r\nlife = 10000\r\n"));
-    QCOMPARE(window()->tabs()->tabText(0), QStringLiteral("ryn.character"));
+    QCOMPARE(window()->tabs()->bar()->tabText(0), QStringLiteral("ryn.character"));
     QCOMPARE(window()->status()->stateText(), QStringLiteral("Saved"));
     QTRY_VERIFY(!window()->isWindowModified());
     // Undo goes back behind the save.
@@ -391,7 +395,7 @@ void tst_MainWindow::keepsTheTreeOpen()
     // Another folder announces all rows beside it anew, and a file those of its project.
     m_game->write("characters/new/new.character", "[info]\r\nname = \"New\"\r\n");
     QTRY_VERIFY(tree->indexOf(m_game->path("characters/new/")).isValid());
-    m->edit()->goTo(3, 0);
+    m->goTo(3, 0);
     m->type(QStringLiteral("code = \"more.code\""));
     m->press(Qt::Key_Return);
     QTRY_VERIFY(tree->indexOf(m_game->path("characters/ryn/more.code")).isValid());
@@ -431,21 +435,21 @@ void tst_MainWindow::keepsItsState()
     m->open(*m_game, m_game->ryn(), m_game->animations());
     QVERIFY(window()->openFile(m_game->oda()));
     QVERIFY(window()->openFile(m_game->animations()));
-    m->edit()->goTo(5, 3);
+    m->goTo(5, 3);
     window()->resize(900, 640);
-    auto* nodes = qobject_cast<QWidget*>(window()->nodePanel()->parent());
+    auto* nodes = window()->findChild<QDockWidget*>(QStringLiteral("nodes"));
     QVERIFY(nodes);
     nodes->close();
     QVERIFY(window()->close());
     restart();
     QCOMPARE(window()->size(), QSize(900, 640));
-    QVERIFY(!window()->nodePanel()->isVisible());
+    QVERIFY(!m->tree()->isVisible());
     window()->restoreWork({});
     QCOMPARE(window()->session()->folder(), m_game->root() + QLatin1Char('/'));
     QCOMPARE(window()->tabs()->count(), 3);
     QCOMPARE(m->document()->fileName(), m_game->animations());
-    QCOMPARE(m->edit()->place().line, 5);
-    QCOMPARE(m->edit()->place().column, 3);
+    QCOMPARE(m->place().line, 5);
+    QCOMPARE(m->place().column, 3);
     QCOMPARE(window()->session()->projects().size(), 2);
     QCOMPARE(m->dialogs.count(), 0);
 }
@@ -489,8 +493,13 @@ void tst_MainWindow::offersOnlyWhatIsOfUse()
 void tst_MainWindow::isReachedByKeys()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
-    const QList<QWidget*> panels{m->edit(), window()->nodePanel(), window()->animations()->list(),
-                                 window()->messagePanel(), window()->gameTree()};
+    auto* toolBox = window()->code()->workspace()->toolBar()->findChild<QComboBox*>();
+    const QList<QWidget*> panels{m->edit(),
+                                 m->tree(),
+                                 window()->animations()->list(),
+                                 window()->messagePanel(),
+                                 window()->gameTree(),
+                                 toolBox};
     for (QWidget* panel : panels) {
         QVERIFY(!panel->accessibleName().isEmpty());
         QCOMPARE(QApplication::focusWidget(), panel);
@@ -498,12 +507,13 @@ void tst_MainWindow::isReachedByKeys()
     }
     QCOMPARE(QApplication::focusWidget(), m->edit());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
-    QCOMPARE(QApplication::focusWidget(), window()->gameTree());
+    QCOMPARE(QApplication::focusWidget(), toolBox);
+    QTimer::singleShot(0, this, [] {
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("6"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    });
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_L, Qt::ControlModifier);
-    QVERIFY(qobject_cast<QSpinBox*>(QApplication::focusWidget()));
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("6"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QCOMPARE(m->edit()->place().line, 5);
+    QCOMPARE(m->place().line, 5);
     QCOMPARE(QApplication::focusWidget(), m->edit());
     QTest::keyClick(m->edit(), Qt::Key_PageUp, Qt::ControlModifier);
     QCOMPARE(m->document()->fileName(), m_game->ryn());

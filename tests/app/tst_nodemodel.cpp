@@ -1,4 +1,4 @@
-#include "app/nodemodel.h"
+#include "app/code/nodemodel.h"
 
 #include "code/codedoc/contactboxescode.h"
 #include "code/codedoc/framecode.h"
@@ -216,10 +216,10 @@ void tst_NodeModel::findsLines()
     document.fromString(SomeText);
     NodeModel model;
     model.setDocument(&document);
-    QModelIndex index = model.indexOfLine(line);
+    QModelIndex index = model.indexInLine(line);
     QCOMPARE(index.isValid(), !path.isEmpty());
     if (index.isValid()) {
-        QCOMPARE(model.lineOf(index), std::min(line, 12));
+        QCOMPARE(model.lineNo(index), std::min(line, 12));
     }
     while (!path.isEmpty()) {
         QCOMPARE(index.row(), path.takeLast());
@@ -254,7 +254,7 @@ void tst_NodeModel::waitsForTheEndOfAChange()
     document.insertAfter(nullptr, QStringLiteral("[music]"), true);
     model.refresh();
     QCOMPARE(shown(model), before);
-    QCOMPARE(model.lineOf(model.index(0, 0)), -1);
+    QCOMPARE(model.lineNo(model.index(0, 0)), -1);
     document.endChange();
     model.refresh();
     QCOMPARE(shown(model), expected(&document));

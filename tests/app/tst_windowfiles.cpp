@@ -72,9 +72,9 @@ void tst_WindowFiles::asksWhenAFileChanges()
     }
     m_game->write("characters/ryn/basic.anim", text);
     m->open(*m_game, m_game->ryn(), m_game->animations());
-    m->edit()->goTo(120, 2);
+    m->goTo(120, 2);
     m->type(QStringLiteral("mine"));
-    const App::TextPlace before = m->edit()->place();
+    const App::TextPlace before = m->place();
     const auto change = [&](const QByteArray& line) {
         text += line;
         m_game->write(byRename ? "characters/ryn/new.tmp" : "characters/ryn/basic.anim", text);
@@ -91,15 +91,15 @@ void tst_WindowFiles::asksWhenAFileChanges()
     QCOMPARE(m->document()->text().contains(QLatin1String("mine")), !isReloaded);
     QCOMPARE(m->document()->isModified(), !isReloaded);
     QTest::qWait(20);
-    QCOMPARE(m->edit()->place().line, before.line);
-    QCOMPARE(m->edit()->place().topLine, before.topLine);
-    QVERIFY(isReloaded || m->edit()->place().column == before.column);
+    QCOMPARE(m->place().line, before.line);
+    QCOMPARE(m->place().scroll, before.scroll);
+    QVERIFY(isReloaded || m->place().column == before.column);
     // And again, whatever the answer was.
     change("# again\r\n");
     QTRY_COMPARE(m->dialogs.count(QStringLiteral("question")), 2);
     QTRY_VERIFY(m->document()->text().contains(QLatin1String("again")));
     QTest::qWait(20);
-    QCOMPARE(m->edit()->place().line, before.line);
+    QCOMPARE(m->place().line, before.line);
 }
 
 void tst_WindowFiles::staysQuietAboutItsOwnSave()
@@ -180,7 +180,7 @@ void tst_WindowFiles::changesTheEncoding()
 void tst_WindowFiles::tellsALackOfTheEncoding()
 {
     openLegacy();
-    m->edit()->goTo(1, 8);
+    m->goTo(1, 8);
     m->edit()->insertPlainText(QString(QChar(0x96EA)));
     m->dialogs.choiceAnswers = {TextCodecs::index("ISO-8859-1"), KeepText, GiveUp, 0};
     m->action("encoding")->trigger();

@@ -2,16 +2,18 @@
 
 #include "animation/organizereditor.h"
 #include "app/animationcommands.h"
-#include "app/codeedit.h"
-#include "app/documenttabs.h"
+#include "app/code/codetexteditor.h"
+#include "app/code/codeview.h"
+#include "app/code/documenttabs.h"
+#include "app/code/nodemodel.h"
 #include "app/gamesession.h"
 #include "app/gametree.h"
 #include "app/mainwindow.h"
 #include "app/messagepanel.h"
-#include "app/nodemodel.h"
-#include "app/nodepanel.h"
 #include "app/statusfields.h"
 #include "app/windowinterface.h"
+#include "editors/code/codeeditor.h"
+#include "editors/code/codeworkspace.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
@@ -22,6 +24,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 
 #include <memory>
 
@@ -106,8 +109,12 @@ public:
     PlannedDialogs dialogs;
     std::unique_ptr<App::MainWindow> window;
 
-    App::CodeEdit* edit() const { return window->tabs()->currentEdit(); }
+    /// Null while no text is open.
+    Zorv::CodeEditor* edit() const { return window->currentEdit(); }
+    QTreeView* tree() const { return window->textEditor()->tree(); }
     Family::FamilyDocument* document() const { return window->tabs()->currentDocument(); }
+    App::TextPlace place() const { return window->tabs()->placeOf(document()); }
+    void goTo(int line, int column = 0) const { window->textEditor()->goTo(line, column); }
     QAction* action(const char* name) const { return window->actionByName(name); }
 
     /// Opens the game and a file of it.

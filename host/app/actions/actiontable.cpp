@@ -2,11 +2,13 @@
 
 #include "app/actions/actionpalette.h"
 #include "app/actions/keysdialog.h"
-#include "app/codetexteditor.h"
+#include "app/code/codetexteditor.h"
+#include "app/code/codeview.h"
 #include "app/game/gamecommands.h"
 #include "app/mainwindow.h"
 #include "app/run/runcommands.h"
 #include "app/settings/showsettings.h"
+#include "editors/code/codeworkspace.h"
 
 namespace App {
 
@@ -14,10 +16,16 @@ namespace {
 
 constexpr QKeySequence::StandardKey NoKey = QKeySequence::UnknownKey;
 
-template <void (CodeTextEditor::*member)()>
+template <void (Zorv::CodeFileEditor::*member)()>
 void inText(MainWindow& window)
 {
     (window.textEditor()->*member)();
+}
+
+template <void (Zorv::Workspace::*member)()>
+void inWorkspace(MainWindow& window)
+{
+    (window.code()->workspace()->*member)();
 }
 
 template <void (GameCommands::*member)()>
@@ -71,15 +79,14 @@ const QVector<ActionRow>& actionTable()
         {nullptr,          "file",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
         {"quit",           "file",  QT_TRANSLATE_NOOP("App::Actions", "&Quit"),                          NoKey,        "Ctrl+Q",       NoNeed,          call<&W::quit>},
 
-        {"undo",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Undo"),                          K::Undo,      nullptr,        NeedsUndo,       inText<&CodeTextEditor::undo>},
-        {"redo",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Redo"),                          K::Redo,      nullptr,        NeedsRedo,       inText<&CodeTextEditor::redo>},
+        {"undo",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Undo"),                          K::Undo,      nullptr,        NeedsUndo,       inText<&Zorv::CodeFileEditor::undo>},
+        {"redo",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Redo"),                          K::Redo,      nullptr,        NeedsRedo,       inText<&Zorv::CodeFileEditor::redo>},
         {nullptr,          "edit",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
-        {"cut",            "edit",  QT_TRANSLATE_NOOP("App::Actions", "Cu&t"),                           K::Cut,       nullptr,        NeedsSelection,  inText<&CodeTextEditor::cut>},
-        {"copy",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Copy"),                          K::Copy,      nullptr,        NeedsSelection,  inText<&CodeTextEditor::copy>},
-        {"paste",          "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Paste"),                         K::Paste,     nullptr,        NeedsText,       inText<&CodeTextEditor::paste>},
-        {"select_all",     "edit",  QT_TRANSLATE_NOOP("App::Actions", "Select &all"),                    K::SelectAll, nullptr,        NeedsText,       inText<&CodeTextEditor::selectAll>},
+        {"cut",            "edit",  QT_TRANSLATE_NOOP("App::Actions", "Cu&t"),                           K::Cut,       nullptr,        NeedsSelection,  inText<&Zorv::CodeFileEditor::cut>},
+        {"copy",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Copy"),                          K::Copy,      nullptr,        NeedsSelection,  inText<&Zorv::CodeFileEditor::copy>},
+        {"paste",          "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Paste"),                         K::Paste,     nullptr,        NeedsText,       inText<&Zorv::CodeFileEditor::paste>},
+        {"select_all",     "edit",  QT_TRANSLATE_NOOP("App::Actions", "Select &all"),                    K::SelectAll, nullptr,        NeedsText,       inText<&Zorv::CodeFileEditor::selectAll>},
         {nullptr,          "edit",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
-        {"go_to_line",     "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Go to line..."),                 NoKey,        "Ctrl+L",       NeedsText,       call<&W::askForLine>, "code"},
         {"encoding",       "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Encoding..."),                   NoKey,        nullptr,        NeedsText,       call<&W::changeEncoding>, "code"},
 
         {"anim_add",       "anim",  QT_TRANSLATE_NOOP("App::Actions", "&Add"),                           NoKey,        "Ctrl+Shift+A", NeedsText,       call<&W::addAnimation>},
@@ -91,6 +98,10 @@ const QVector<ActionRow>& actionTable()
         {"previous_panel", "view",  QT_TRANSLATE_NOOP("App::Actions", "&Previous panel"),                NoKey,        "Shift+F6",     NoNeed,          call<&W::focusPreviousPanel>},
         {"next_text",      "view",  QT_TRANSLATE_NOOP("App::Actions", "Next te&xt"),                     NoKey,        "Ctrl+PgDown",  NeedsText,       call<&W::showNextText>},
         {"previous_text",  "view",  QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),                 NoKey,        "Ctrl+PgUp",    NeedsText,       call<&W::showPreviousText>},
+        {nullptr,          "view",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
+        {"zoom_in",        "view",  QT_TRANSLATE_NOOP("App::Actions", "&Larger text"),                   K::ZoomIn,    nullptr,        NeedsText,       inWorkspace<&Zorv::Workspace::zoomIn>},
+        {"zoom_out",       "view",  QT_TRANSLATE_NOOP("App::Actions", "&Smaller text"),                  K::ZoomOut,   nullptr,        NeedsText,       inWorkspace<&Zorv::Workspace::zoomOut>},
+        {"zoom_actual",    "view",  QT_TRANSLATE_NOOP("App::Actions", "&Usual size of text"),            NoKey,        "Ctrl+0",       NeedsText,       inWorkspace<&Zorv::Workspace::zoomActual>},
         {nullptr,          "view",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
 
         {"run",            "tools", QT_TRANSLATE_NOOP("App::Actions", "R&un in engine"),                 NoKey,        "F5",           NeedsProject | NeedsNoEngine, onEngine<&RunCommands::run>},

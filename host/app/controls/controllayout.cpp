@@ -38,6 +38,7 @@ struct KeyRow
 const KeyRow firstKeys[] = {
     {"org_up", "Alt+Up"},
     {"org_down", "Alt+Down"},
+    {"code_goto", "Ctrl+L"},
 };
 
 }  // namespace
@@ -57,6 +58,7 @@ const QVector<BarRow>& barTable()
         {"sprites",      BarRow::ToolBar, Qt::TopToolBarArea,      "spr",   "sprites",    shared(SpritesText)},
         {"sprite_tools", BarRow::ToolBar, Qt::LeftToolBarArea,     "spr",   "sprites",    own(QT_TRANSLATE_NOOP("App::Bars", "Painting tools"))},
         {"sound",        BarRow::ToolBar, Qt::TopToolBarArea,      "snd",   "sounds",     shared(SoundsText)},
+        {"nodes",        BarRow::Panel,   Qt::RightDockWidgetArea, nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Nodes"))},
         {"organizer",    BarRow::Panel,   Qt::RightDockWidgetArea, nullptr, nullptr,      shared(OrganizerText), "show_organizer"},
         {"thumbnails",   BarRow::Panel,   Qt::RightDockWidgetArea, nullptr, nullptr,      shared(ThumbnailsText)},
         {"palette",      BarRow::Panel,   Qt::RightDockWidgetArea, "pal",   "sprites",    shared(PalettesText)},
@@ -72,6 +74,7 @@ PlaceRow placeOf(const QString& name)
         {"editor_", "editors", "view", "all"},
         {"view_", "stage", "view", "all"},
         {"code_", "code", "edit", "code"},
+        {"code_tree", "nodes", "view", "code"},
         {"org_", "organizer", "anim", "all"},
         {"thumb_", "thumbnails", "anim", "anim"},
         {"anim_", "animation", "anim", "animations"},

@@ -1,6 +1,6 @@
 #include "app/game/gamecommands.h"
 
-#include "app/documenttabs.h"
+#include "app/code/documenttabs.h"
 #include "app/game/backupnamedialog.h"
 #include "app/game/restoredialog.h"
 #include "app/gamesession.h"

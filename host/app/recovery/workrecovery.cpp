@@ -1,6 +1,6 @@
 #include "app/recovery/workrecovery.h"
 
-#include "app/documenttabs.h"
+#include "app/code/documenttabs.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
 #include "app/recovery/recoverydialog.h"

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QAbstractItemModel>
+#include "editors/code/codeitemmodel.h"
+
 #include <QVector>
 
 #include <memory>
@@ -9,10 +10,6 @@ class QTimer;
 
 namespace Family {
 class FamilyDocument;
-}
-
-namespace Zorv {
-class CodeNode;
 }
 
 namespace App {
@@ -25,7 +22,7 @@ namespace App {
 /// shows what it had and touches no node. Rows are looked at only when a view
 /// asks for them, so that a keystroke costs nothing and a closed branch next to
 /// nothing.
-class NodeModel : public QAbstractItemModel
+class NodeModel : public Zorv::CodeItemModel
 {
     Q_OBJECT
 
@@ -33,24 +30,29 @@ public:
     explicit NodeModel(QObject* parent = nullptr);
     ~NodeModel() override;
 
-    /// Null for none; a document that dies is let go of.
-    void setDocument(Family::FamilyDocument* document);
-    Family::FamilyDocument* document() const;
+    /// Null for none, else one of the family; a document that dies is let go of.
+    void setDocument(const Zorv::CodeDocument* document) override;
+    const Family::FamilyDocument* document() const { return m_document; }
 
     /// While inactive, as when nobody sees it, the model stays stale.
     void setActive(bool active);
 
     bool isStale() const;
 
+    /// Nothing: the model has heard of the edit, and follows in its own time.
+    void update() override {}
+
     /// Brings the rows in line now. Nothing inside of a change of the document.
     void refresh();
 
     /// The row of the node on a line, or of the one above it; invalid for a line
     /// above all nodes, for a node outside of the tree, and while stale.
-    QModelIndex indexOfLine(int line) const;
+    QModelIndex indexInLine(unsigned line) const override;
+    QModelIndex nodeIndex(const Zorv::CodeNode* node) const override;
 
-    /// The line of a node, -1 while stale.
-    int lineOf(const QModelIndex& index) const;
+    /// The line of a node, for which the rows are brought in line first; -1 if it is gone
+    /// or the document is in the middle of a change.
+    int lineNo(const QModelIndex& index) const override;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
@@ -77,7 +79,7 @@ private:
     void removeChildren(Item* item, int first, int count);
     void insertChildren(Item* item, int first, const QVector<const Zorv::CodeNode*>& nodes);
 
-    Family::FamilyDocument* m_document = nullptr;
+    const Family::FamilyDocument* m_document = nullptr;
     std::unique_ptr<Item> m_root;
     QTimer* m_timer;
     quint64 m_epoch = 1;  ///< raised by each edit

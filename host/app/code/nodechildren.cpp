@@ -1,4 +1,4 @@
-#include "app/nodechildren.h"
+#include "app/code/nodechildren.h"
 
 #include "code/codedoc/parentcode.h"
 #include "family/nodes/boxnode.h"

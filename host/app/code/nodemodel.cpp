@@ -1,7 +1,7 @@
-#include "app/nodemodel.h"
+#include "app/code/nodemodel.h"
 
+#include "app/code/nodechildren.h"
 #include "app/look/icon.h"
-#include "app/nodechildren.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
 
@@ -76,7 +76,7 @@ struct NodeModel::Item
 };
 
 NodeModel::NodeModel(QObject* parent)
-    : QAbstractItemModel(parent), m_root(std::make_unique<Item>(nullptr, 0)),
+    : CodeItemModel(parent), m_root(std::make_unique<Item>(nullptr, 0)),
       m_timer(new QTimer(this))
 {
     m_timer->setSingleShot(true);
@@ -86,8 +86,9 @@ NodeModel::NodeModel(QObject* parent)
 
 NodeModel::~NodeModel() = default;
 
-void NodeModel::setDocument(Family::FamilyDocument* document)
+void NodeModel::setDocument(const Zorv::CodeDocument* codeDocument)
 {
+    const auto* document = static_cast<const Family::FamilyDocument*>(codeDocument);
     if (m_document == document) {
         return;
     }
@@ -110,20 +111,10 @@ void NodeModel::setDocument(Family::FamilyDocument* document)
     }
     connect(document, &QTextDocument::contentsChange, this, &NodeModel::markStale);
     connect(document, &Zorv::CodeDocument::codeChanged, this, &NodeModel::markStale);
-    connect(document, &QObject::destroyed, this, [this] {
-        m_document = nullptr;
-        beginResetModel();
-        m_root = std::make_unique<Item>(nullptr, 0);
-        endResetModel();
-    });
+    connect(document, &Zorv::CodeDocument::closing, this, [this] { setDocument(nullptr); });
     if (m_isStale && m_isActive) {
         m_timer->start();
     }
-}
-
-Family::FamilyDocument* NodeModel::document() const
-{
-    return m_document;
 }
 
 void NodeModel::setActive(bool active)
@@ -172,18 +163,23 @@ void NodeModel::refresh()
     emit refreshed();
 }
 
-QModelIndex NodeModel::indexOfLine(int line) const
+QModelIndex NodeModel::indexInLine(unsigned line) const
 {
     if (isStale() || !m_document) {
         return {};
     }
-    const QTextBlock block = m_document->findBlockByNumber(line);
+    const QTextBlock block = m_document->findBlockByNumber(int(line));
     if (!block.isValid()) {
         return {};
     }
     const CodeNode* node = m_document->nodeInBlock(block);
-    if (!node) {
-        node = m_document->nodeBefore(block);
+    return nodeIndex(node ? node : m_document->nodeBefore(block));
+}
+
+QModelIndex NodeModel::nodeIndex(const CodeNode* node) const
+{
+    if (isStale() || !m_document) {
+        return {};
     }
     QVector<int> path;
     for (; node && node->type() != CodeNode::Root; node = shownParent(node)) {
@@ -196,10 +192,13 @@ QModelIndex NodeModel::indexOfLine(int line) const
     return item ? indexOf(item) : QModelIndex();
 }
 
-int NodeModel::lineOf(const QModelIndex& index) const
+int NodeModel::lineNo(const QModelIndex& index) const
 {
-    const Item* item = itemOf(index);
-    return index.isValid() && canFollow(item) && item->node->hasLine()
+    const QPersistentModelIndex row(index);
+    // Rows that are looked at late are still the same rows.
+    const_cast<NodeModel*>(this)->refresh();
+    const Item* item = itemOf(row);
+    return row.isValid() && canFollow(item) && item->node->hasLine()
                ? item->node->block().blockNumber()
                : -1;
 }

@@ -1,0 +1,143 @@
+#include "app/code/codetexteditor.h"
+
+#include "app/code/nodemodel.h"
+#include "app/look/language.h"
+#include "core/interface.h"
+#include "editors/code/codeeditor.h"
+#include "editors/code/codeworkspace.h"
+#include "family/familydocument.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QTextBlock>
+#include <QTimer>
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace App {
+
+namespace {
+
+constexpr int FollowWait = 60;  // milliseconds
+
+}  // namespace
+
+CodeTextEditor::CodeTextEditor(Zorv::CodeWorkspace* workspace, QObject* parent)
+    : CodeFileEditor(workspace, new NodeModel, "code_tree", parent),
+      m_nodes(static_cast<NodeModel*>(model())), m_action(new QAction(this)),
+      m_follow(new QTimer(this))
+{
+    m_action->setObjectName(QStringLiteral("editor_code"));
+    connect(m_action, &QAction::triggered, this, [this] { host()->activateEditor(this); });
+    m_follow->setSingleShot(true);
+    m_follow->setInterval(FollowWait);
+    connect(m_follow, &QTimer::timeout, this, &CodeTextEditor::selectLine);
+    connect(m_nodes, &NodeModel::refreshed, this, &CodeTextEditor::selectLine);
+    setUpTree();
+    retranslate();
+}
+
+void CodeTextEditor::setUpTree()
+{
+    m_nodes->setActive(tree() && tree()->isVisible());
+    if (tree()) {
+        tree()->installEventFilter(this);
+        followLanguage(tree(), [view = tree()] { view->setAccessibleName(tr("Nodes of the text")); });
+    }
+}
+
+void CodeTextEditor::showDocument(Family::FamilyDocument* document)
+{
+    deactivate();
+    setDocument(document);
+    if (document) {
+        activate();
+        selectLine();
+    }
+    emit modified();
+}
+
+void CodeTextEditor::goTo(int line, int column, int length)
+{
+    const QTextDocument* text = workspace()->editor()->document();
+    QTextBlock block = text->findBlockByNumber(std::max(line, 0));
+    if (!block.isValid()) {
+        block = text->lastBlock();
+    }
+    const int last = block.length() - 1;
+    const int start = qBound(0, column, last);
+    navigateTo({}, 0, unsigned(block.blockNumber()), unsigned(start));
+    const int end = std::min(start + length, last);
+    if (end > start) {
+        QTextCursor cursor = workspace()->editor()->textCursor();
+        cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, end - start);
+        workspace()->editor()->setTextCursor(cursor);
+    }
+}
+
+QString CodeTextEditor::name() const
+{
+    return QStringLiteral("code");
+}
+
+int CodeTextEditor::canEditFileType() const
+{
+    return 1;
+}
+
+QStringList CodeTextEditor::areas() const
+{
+    return {QStringLiteral("code")};
+}
+
+void CodeTextEditor::retranslate()
+{
+    m_action->setText(tr("Code"));
+    if (isActive()) {
+        const QTextCursor cursor = workspace()->editor()->textCursor();
+        cursorChanged({cursor.blockNumber(), cursor.positionInBlock()});
+    }
+}
+
+QString CodeTextEditor::fileFilter() const
+{
+    const auto* text = static_cast<const Family::FamilyDocument*>(document());
+    return text ? Family::fileKindName(text->kind()) + QLatin1Char(';') +
+                      Family::fileSuffix(text->kind())
+                : QString();
+}
+
+void CodeTextEditor::currLineChanged(int)
+{
+    if (tree() && tree()->isVisible() && !m_follow->isActive()) {
+        m_follow->start();
+    }
+}
+
+void CodeTextEditor::selectLine()
+{
+    if (!isActive() || !tree() || !tree()->isVisible() || m_nodes->isStale()) {
+        return;
+    }
+    const int line = workspace()->editor()->textCursor().blockNumber();
+    const QModelIndex index = m_nodes->indexInLine(unsigned(line));
+    // Who has closed the branch of this line wants it closed.
+    if (index.isValid() && index != tree()->currentIndex()) {
+        CodeFileEditor::currLineChanged(line);
+    }
+}
+
+/// Nobody sees the nodes of a hidden tree.
+bool CodeTextEditor::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == tree() && event->type() == QEvent::Show) {
+        m_nodes->setActive(true);
+        m_follow->start();
+    } else if (watched == tree() && event->type() == QEvent::Hide) {
+        m_nodes->setActive(false);
+    }
+    return CodeFileEditor::eventFilter(watched, event);
+}
+
+}  // namespace App

@@ -1,0 +1,230 @@
+#include "app/code/documenttabs.h"
+
+#include "app/code/codetexteditor.h"
+#include "code/codedoc/editordata.h"
+#include "editors/code/codeeditor.h"
+#include "editors/code/codeworkspace.h"
+#include "family/familydocument.h"
+
+#include <QDir>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTextBlock>
+
+#include <algorithm>
+
+namespace App {
+
+using Family::FamilyDocument;
+using Zorv::CodeEditor;
+
+namespace {
+
+class KeptPlace : public Zorv::EditorData
+{
+public:
+    explicit KeptPlace(const TextPlace& kept) : place(kept) {}
+
+    TextPlace place;
+};
+
+TextPlace placeIn(const CodeEditor* editor)
+{
+    const QTextCursor cursor = editor->textCursor();
+    const QTextBlock anchor = editor->document()->findBlock(cursor.anchor());
+    return {cursor.blockNumber(),
+            cursor.positionInBlock(),
+            anchor.blockNumber(),
+            cursor.anchor() - anchor.position(),
+            editor->verticalScrollBar()->value(),
+            editor->horizontalScrollBar()->value()};
+}
+
+/// The nearest place that is there.
+int positionOf(const QTextDocument* document, int line, int column)
+{
+    const QTextBlock block = document->findBlockByNumber(line);
+    return block.isValid() ? block.position() + qBound(0, column, block.length() - 1)
+                           : document->characterCount() - 1;
+}
+
+TextPlace keptPlace(const FamilyDocument* document)
+{
+    const auto* kept = document ? dynamic_cast<const KeptPlace*>(document->editorData()) : nullptr;
+    return kept ? kept->place : TextPlace();
+}
+
+void restorePlace(CodeEditor* editor, const TextPlace& place)
+{
+    QTextCursor cursor(editor->document());
+    cursor.setPosition(positionOf(editor->document(), place.anchorLine, place.anchorColumn));
+    cursor.setPosition(positionOf(editor->document(), place.line, place.column),
+                       QTextCursor::KeepAnchor);
+    editor->setTextCursor(cursor);
+    editor->verticalScrollBar()->setValue(place.scroll);
+    editor->horizontalScrollBar()->setValue(place.sideScroll);
+}
+
+}  // namespace
+
+DocumentTabs::DocumentTabs(CodeTextEditor* editor)
+    : QObject(editor), m_editor(editor), m_bar(editor->workspace()->tabBar())
+{
+    m_bar->setDocumentMode(true);
+    m_bar->setUsesScrollButtons(true);
+    m_bar->setObjectName(QStringLiteral("open_texts"));
+    m_bar->installEventFilter(this);
+    connect(m_bar, &QTabBar::currentChanged, this, &DocumentTabs::bringForward);
+    connect(m_bar, &QTabBar::tabCloseRequested, this,
+            [this](int index) { emit closeRequested(documentAt(index)); });
+}
+
+DocumentTabs::~DocumentTabs() = default;
+
+void DocumentTabs::showDocument(FamilyDocument* document)
+{
+    if (indexOf(document) < 0) {
+        addTab(document);
+    }
+    m_bar->setCurrentIndex(indexOf(document));
+    bringForward();
+    m_editor->workspace()->editor()->setFocus();
+}
+
+void DocumentTabs::addTab(FamilyDocument* document)
+{
+    connect(document, &QTextDocument::modificationChanged, this,
+            [this, document] { updateTab(document); });
+    connect(document, &Zorv::CodeDocument::closing, this,
+            [this, document] { closeDocument(document); });
+    // The bar tells of its first tab before that has its data.
+    m_bar->blockSignals(true);
+    const int index = m_bar->addTab(QString());
+    m_bar->setTabData(index, QVariant::fromValue(static_cast<QObject*>(document)));
+    m_bar->blockSignals(false);
+    updateTab(document);
+}
+
+void DocumentTabs::closeDocument(const FamilyDocument* document)
+{
+    const int index = indexOf(document);
+    if (index < 0) {
+        return;
+    }
+    document->disconnect(this);
+    if (document == m_front) {
+        keepPlace();
+    }
+    m_bar->removeTab(index);
+    bringForward();
+}
+
+void DocumentTabs::bringForward()
+{
+    FamilyDocument* document = documentAt(m_bar->currentIndex());
+    if (document == m_front) {
+        return;
+    }
+    keepPlace();
+    m_front = document;
+    m_editor->showDocument(document);
+    if (document) {
+        restorePlace(m_editor->workspace()->editor(), keptPlace(document));
+    }
+    emit currentDocumentChanged(document);
+}
+
+void DocumentTabs::keepPlace()
+{
+    const CodeEditor* editor = m_editor->workspace()->editor();
+    if (m_front && editor->codeDocument() == m_front) {
+        m_front->setEditorData(std::make_unique<KeptPlace>(placeIn(editor)));
+    }
+}
+
+TextPlace DocumentTabs::placeOf(const FamilyDocument* document) const
+{
+    return document && document == m_front ? placeIn(m_editor->workspace()->editor())
+                                           : keptPlace(document);
+}
+
+void DocumentTabs::setPlace(FamilyDocument* document, const TextPlace& place)
+{
+    if (document == m_front) {
+        restorePlace(m_editor->workspace()->editor(), place);
+    } else {
+        document->setEditorData(std::make_unique<KeptPlace>(place));
+    }
+}
+
+CodeEditor* DocumentTabs::currentEdit() const
+{
+    return m_front ? m_editor->workspace()->editor() : nullptr;
+}
+
+int DocumentTabs::count() const
+{
+    return m_bar->count();
+}
+
+int DocumentTabs::currentIndex() const
+{
+    return m_bar->currentIndex();
+}
+
+void DocumentTabs::setCurrentIndex(int index)
+{
+    m_bar->setCurrentIndex(index);
+}
+
+FamilyDocument* DocumentTabs::documentAt(int index) const
+{
+    return static_cast<FamilyDocument*>(m_bar->tabData(index).value<QObject*>());
+}
+
+int DocumentTabs::indexOf(const FamilyDocument* document) const
+{
+    int index = count() - 1;
+    while (index >= 0 && documentAt(index) != document) {
+        --index;
+    }
+    return index;
+}
+
+void DocumentTabs::updateTabs()
+{
+    for (int i = 0; i < count(); ++i) {
+        updateTab(documentAt(i));
+    }
+}
+
+void DocumentTabs::updateTab(const FamilyDocument* document)
+{
+    const int index = indexOf(document);
+    QString title = document->title().isEmpty() ? tr("new file") : document->title();
+    title.replace(QLatin1Char('&'), QLatin1String("&&"));
+    m_bar->setTabText(index, document->isModified() ? title + QLatin1Char('*') : title);
+    m_bar->setTabToolTip(index, QDir::toNativeSeparators(document->fileName()));
+    emit stateChanged();
+}
+
+/// The middle button closes the tab on which it was pressed.
+bool DocumentTabs::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        if (mouse->button() == Qt::MiddleButton) {
+            const int tab = m_bar->tabAt(mouse->pos());
+            if (event->type() == QEvent::MouseButtonPress) {
+                m_pressedTab = tab;
+            } else if (tab >= 0 && tab == m_pressedTab) {
+                emit closeRequested(documentAt(tab));
+            }
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace App

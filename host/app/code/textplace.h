@@ -1,0 +1,16 @@
+#pragma once
+
+namespace App {
+
+/// Where the person is in a text; all from 0.
+struct TextPlace
+{
+    int line = 0;
+    int column = 0;
+    int anchorLine = 0;  ///< where the selection began; the place itself for none
+    int anchorColumn = 0;
+    int scroll = 0;      ///< values of the scroll bars
+    int sideScroll = 0;  ///< in pixels
+};
+
+}  // namespace App
