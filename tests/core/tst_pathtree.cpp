@@ -1,4 +1,5 @@
 #include "core/enginemodel.h"
+#include "support/testengines.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
 
@@ -17,23 +18,6 @@ using namespace Zorv;
 namespace {
 
 constexpr auto Fatal = QAbstractItemModelTester::FailureReportingMode::Fatal;
-
-class TestEngines : public EngineModel
-{
-public:
-    char commentChar() const override { return '#'; }
-    QString dataPath() const override { return {}; }
-    QString identifier() const override { return {}; }
-    QString executableName() const override { return QStringLiteral("engine.exe"); }
-    QString displayName() const override { return {}; }
-    int engineCount() const override { return 0; }
-    EngineInfo engine(unsigned) const override { return {}; }
-    QModelIndex index(int, int, const QModelIndex&) const override { return {}; }
-    QModelIndex parent(const QModelIndex&) const override { return {}; }
-    int rowCount(const QModelIndex&) const override { return 0; }
-    int columnCount(const QModelIndex&) const override { return 0; }
-    QVariant data(const QModelIndex&, int) const override { return {}; }
-};
 
 /// The row signals of a model, as "+parent 0-2" and "-parent 0-2".
 class RowSpy : public QObject

@@ -1,6 +1,7 @@
 #include "core/enginemodel.h"
 #include "core/run/temporarycopies.h"
 #include "support/planneddialogs.h"
+#include "support/testengines.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
 
@@ -19,32 +20,6 @@
 using namespace Zorv;
 
 namespace {
-
-/// The engines that are configured.
-class TestEngines : public EngineModel
-{
-public:
-    QList<EngineInfo> list;
-
-    char commentChar() const override { return '#'; }
-    QString dataPath() const override { return {}; }
-    QString identifier() const override { return "family"; }
-    QString executableName() const override { return "game.exe"; }
-    QString displayName() const override { return {}; }
-    int engineCount() const override { return list.size(); }
-    EngineInfo engine(unsigned index) const override { return list.value(int(index)); }
-    QModelIndex index(int row, int column, const QModelIndex&) const override
-    {
-        return createIndex(row, column);
-    }
-    QModelIndex parent(const QModelIndex&) const override { return {}; }
-    int rowCount(const QModelIndex&) const override { return list.size(); }
-    int columnCount(const QModelIndex&) const override { return 1; }
-    QVariant data(const QModelIndex& index, int) const override
-    {
-        return list.value(index.row()).name;
-    }
-};
 
 class RunTree : public TestParent
 {
@@ -94,6 +69,7 @@ struct World
                          "for a; do [ -f \"$a\" ] && cat \"$a\"; done >\"$R/texts\"\n"
                          "echo $$ >\"$R/pid\"; echo >\"$R/started\"\n" +
                              then + '\n');
+        engines.executable = "game.exe";
         engines.list = {{"one", exe, parameters, {}}};
         host.engines = &engines;
         tree = std::make_unique<RunTree>(root + "game");

@@ -101,8 +101,20 @@ void CodeWorkspacePrivate::applySettings()
 
 void CodeWorkspacePrivate::applyBar()
 {
-    barAction->setChecked(host->option(QStringLiteral("show_code_bar")).toBool());
-    toolBar->setVisible(barAction->isChecked());
+    const bool isShown = host->option(QStringLiteral("show_code_bar")).toBool();
+    toolBar->setVisible(isShown);
+    if (barAction) {
+        barAction->setChecked(isShown);
+    }
+}
+
+void CodeWorkspacePrivate::setEnabled(bool enabled)
+{
+    isActive = enabled;
+    widget->setEnabled(enabled);
+    if (barAction) {
+        barAction->setEnabled(enabled);
+    }
 }
 
 /// Setting what is set already would lay out the whole text again.
@@ -203,18 +215,14 @@ void CodeWorkspace::engineSwitched(bool isNew)
 
 void CodeWorkspace::activate()
 {
-    d->isActive = true;
     d->tabBar->setVisible(d->tabBar->count() > 0);
     d->applyBar();
-    d->barAction->setEnabled(true);
-    d->widget->setEnabled(true);
+    d->setEnabled(true);
 }
 
 void CodeWorkspace::deactivate()
 {
-    d->isActive = false;
-    d->barAction->setEnabled(false);
-    d->widget->setEnabled(false);
+    d->setEnabled(false);
 }
 
 void CodeWorkspace::reconfig()

@@ -107,6 +107,9 @@ void CodeWorkspacePrivate::publish()
         const QString name = QString::fromLatin1(tool.name);
         QAction* action = host->createAction(areas, name, ZorvTranslator::instance(), tool.textId,
                                              nullptr, this, tool.slot, nullptr, nullptr);
+        if (!action) {
+            continue;  // a host without a window makes none
+        }
         if (tool.place == InMenu) {
             barAction = action;
             barAction->setCheckable(true);

@@ -32,6 +32,7 @@ public:
     void restorePlace(const CodeDocument* shown);
     void applySettings();
     void applyBar();
+    void setEnabled(bool enabled);
     void setFont(const QFont& font);
     void changeFontSize(double points);
     void updateEncoding();

@@ -1,13 +1,13 @@
 #include "editors/code/codeworkspace.h"
 
 #include "support/planneddialogs.h"
+#include "support/testengines.h"
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
 
 #include "code/codecs/textcodecs.h"
 #include "code/codedoc/codeblockdata.h"
-#include "core/enginemodel.h"
 #include "core/filesystemarchive.h"
 #include "core/messages.h"
 #include "editors/code/codeeditor.h"
@@ -35,25 +35,6 @@ using namespace Zorv;
 namespace {
 
 using SyntaxMessage = CodeBlockData::SyntaxMessage;
-
-class TestEngines : public EngineModel
-{
-public:
-    char commentChar() const override { return '#'; }
-    QString dataPath() const override { return folder.path(); }
-    QString identifier() const override { return {}; }
-    QString executableName() const override { return {}; }
-    QString displayName() const override { return {}; }
-    int engineCount() const override { return 0; }
-    EngineInfo engine(unsigned) const override { return {}; }
-    QModelIndex index(int, int, const QModelIndex&) const override { return {}; }
-    QModelIndex parent(const QModelIndex&) const override { return {}; }
-    int rowCount(const QModelIndex&) const override { return 0; }
-    int columnCount(const QModelIndex&) const override { return 1; }
-    QVariant data(const QModelIndex&, int) const override { return {}; }
-
-    QTemporaryDir folder;
-};
 
 /// Words that begin with "e", "w" and "d" are errors, warnings and deprecations.
 class WordParser : public CodeParser
@@ -218,11 +199,12 @@ private:
     }
     void writeSnippet(const QString& name, const QString& code) const
     {
-        QVERIFY(writeFile(m_engines->folder.filePath("snippets/" + name + ".xml"),
+        QVERIFY(writeFile(m_folder->filePath("snippets/" + name + ".xml"),
                           "<snippet><code>" + code.toUtf8() + "</code></snippet>"));
     }
 
-    std::unique_ptr<TestEngines> m_engines;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    TestEngines m_engines;
     std::unique_ptr<TestInterface> m_host;
     std::unique_ptr<PlannedDialogs> m_dialogs;
     std::unique_ptr<CodeWorkspace> m_workspace;
@@ -230,9 +212,10 @@ private:
 
 void tst_CodeWorkspace::init()
 {
-    m_engines = std::make_unique<TestEngines>();
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_engines.folder = m_folder->path();
     m_host = std::make_unique<TestInterface>();
-    m_host->engines = m_engines.get();
+    m_host->engines = &m_engines;
     m_host->options[QStringLiteral("show_code_bar")] = true;
     m_dialogs = std::make_unique<PlannedDialogs>();
     m_workspace = std::make_unique<CodeWorkspace>();
@@ -243,7 +226,7 @@ void tst_CodeWorkspace::cleanup()
     m_workspace.reset();
     m_dialogs.reset();
     m_host.reset();
-    m_engines.reset();
+    m_folder.reset();
 }
 
 void tst_CodeWorkspace::actionsAreOfTheAreaOfCode()
@@ -587,7 +570,7 @@ void tst_CodeWorkspace::encoding()
     QFETCH(bool, isOnDisk);
     QFETCH(bool, isAccepted);
     QFETCH(int, answer);
-    const QString file = m_engines->folder.filePath("text.txt");
+    const QString file = m_folder->filePath("text.txt");
     QVERIFY(writeFile(file, "# \xe9"));
     const int wrong = TextCodecs::index("ISO-8859-5");
     const int right = TextCodecs::index("ISO-8859-1");
@@ -685,7 +668,7 @@ void tst_CodeWorkspace::brokenWordsAreTold()
 {
     m_workspace->engineSwitched(true);
     QCOMPARE(m_dialogs->count(), 0);
-    QVERIFY(writeFile(m_engines->folder.filePath("completer.xml"), "<completer><"));
+    QVERIFY(writeFile(m_folder->filePath("completer.xml"), "<completer><"));
     m_workspace->engineSwitched(false);
     QCOMPARE(m_dialogs->count(), 0);
     m_workspace->engineSwitched(true);
