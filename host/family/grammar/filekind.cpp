@@ -3,6 +3,9 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <algorithm>
+#include <iterator>
+
 namespace Family {
 
 namespace {
@@ -46,6 +49,13 @@ bool isMainFile(FileKind kind)
 QString fileSuffix(FileKind kind)
 {
     return QLatin1String(kindRows[int(kind)].suffix);
+}
+
+bool hasCodeSuffix(const QString& fileName)
+{
+    return std::any_of(std::begin(kindRows), std::end(kindRows), [&](const KindRow& row) {
+        return fileName.endsWith(QLatin1String(row.suffix), Qt::CaseInsensitive);
+    });
 }
 
 QString fileKindName(FileKind kind)

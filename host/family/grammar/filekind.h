@@ -18,6 +18,9 @@ bool isMainFile(FileKind kind);
 /// The suffix with its dot, as in ".anim".
 QString fileSuffix(FileKind kind);
 
+/// True for a name with the suffix of any kind: a file that can be shown as a text.
+bool hasCodeSuffix(const QString& fileName);
+
 /// The word for a kind in messages: "character".
 QString fileKindName(FileKind kind);
 

@@ -94,16 +94,6 @@ QString suffixOf(Zorv::FileID::Type type)
     }
 }
 
-bool hasCodeSuffix(const QString& path)
-{
-    for (int kind = 0; kind <= int(FileKind::Commands); ++kind) {
-        if (path.endsWith(fileSuffix(FileKind(kind)))) {
-            return true;
-        }
-    }
-    return false;
-}
-
 }  // namespace
 
 ProjectNames::ProjectNames(const FamilyDocument* document, const FamilyProject* project)

@@ -1,0 +1,33 @@
+#include "app/code/textposition.h"
+
+#include "editors/code/codeeditor.h"
+#include "family/familydocument.h"
+
+#include <QTextBlock>
+
+namespace App {
+
+TextPosition characterAt(const Zorv::CodeEditor* editor, const QPoint& point)
+{
+    // The cursor goes to the nearest gap between two characters.
+    QTextCursor cursor = editor->cursorForPosition(point);
+    const QRect gap = editor->cursorRect(cursor);
+    int column = cursor.positionInBlock();
+    const bool isLeft = point.x() < gap.left();
+    if (isLeft != editor->isRightToLeft()) {
+        --column;
+    }
+    const bool isBeside = point.y() < gap.top() || point.y() > gap.bottom();
+    if (isBeside || column < 0 || column >= cursor.block().length() - 1) {
+        return {};
+    }
+    return {cursor.blockNumber(), column};
+}
+
+Family::FamilyDocument* documentIn(const Zorv::CodeEditor* editor)
+{
+    // Every code document of this program is one of the family.
+    return static_cast<Family::FamilyDocument*>(editor->codeDocument());
+}
+
+}  // namespace App
