@@ -344,6 +344,105 @@
         <source>Character %1: %2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Upper and lower case are not the same</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole words only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous match</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next match</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace and go to the next match</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace with:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text to find</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text to put in its place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With a regular expression \1 to \99 are what its groups have found, \n is a line end, \t a tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>App::FindSearch</name>
+    <message>
+        <source>from the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 replaced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No matches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>more than %1 matches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of more than %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 match</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 matches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
 </context>
 <context>
     <name>App::GameCommands</name>
@@ -3602,6 +3701,12 @@ Zeile %2, Spalte %3.</translation>
     <message>
         <source>Cannot read the snippet &quot;%1&quot;: %2</source>
         <translation>Der Baustein „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be used.
+%2</source>
+        <translation>„%1“ kann nicht verwendet werden.
+%2</translation>
     </message>
 </context>
 <context>

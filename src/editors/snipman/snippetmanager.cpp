@@ -21,10 +21,14 @@ constexpr qint64 MaxLength = 4 * 1024 * 1024;
 /// Where the host shows a passing text.
 constexpr int StatusText = 0;
 
-bool tellFault(const SnippetProblem& problem)
+/// True if there is one.
+bool tellFault(const SnippetFile& file, const QString& title)
 {
+    const SnippetProblem& problem = file.fault.isThere() ? file.fault : file.flaw;
     if (problem.isThere()) {
-        Dialogs::instance()->error(SnippetManager::tr("Code snippet"), problem.message());
+        Dialogs::instance()->error(
+            SnippetManager::tr("Code snippet"),
+            SnippetManager::tr("\"%1\" cannot be used.\n%2").arg(title, problem.message()));
     }
     return problem.isThere();
 }
@@ -149,7 +153,7 @@ QString SnippetManager::snippet(const Interface& host, unsigned row) const
 QString SnippetManager::snippet(const Interface& host, const QString& title, const QString& xml)
 {
     const SnippetFile file = SnippetFile::read(xml);
-    if (tellFault(file.fault) || tellFault(file.flaw)) {
+    if (tellFault(file, title)) {
         return {};
     }
     if (file.fields.empty()) {
@@ -169,7 +173,8 @@ QString SnippetManager::snippet(const Interface& host, const QString& title, con
 bool SnippetManager::genTS(const Interface&, const QString& fileName, const QString& xml)
 {
     const SnippetFile file = SnippetFile::read(xml);
-    return !tellFault(file.fault) && writeSnippetText(fileName, translationSource(file));
+    return !tellFault(file, QFileInfo(fileName).completeBaseName()) &&
+           writeSnippetText(fileName, translationSource(file));
 }
 
 int SnippetManager::rowCount(const QModelIndex& parent) const
