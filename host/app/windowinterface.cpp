@@ -6,6 +6,7 @@
 #include "app/controls/controlplacer.h"
 #include "app/game/gamecommands.h"
 #include "app/gamesession.h"
+#include "app/look/theme.h"
 #include "app/mainwindow.h"
 #include "app/progressdialog.h"
 #include "app/statusfields.h"
@@ -79,6 +80,13 @@ void WindowInterface::selectPaletteFiles(QStringList& files, QStringList& names,
     if (flag) {
         *flag = false;
     }
+}
+
+QVariant WindowInterface::option(const QString& key) const
+{
+    const QVariant stored = storedOption(key);
+    const QVariant colour = Theme::codeSetting(key, stored.value<QColor>());
+    return colour.isValid() ? colour : stored;
 }
 
 void WindowInterface::showStatus(int field, const QString& text)

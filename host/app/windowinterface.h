@@ -32,6 +32,9 @@ public:
     Zorv::Project* currentProject() const override;
     int pixels(int size) const override;
 
+    /// A colour of code that the person has not chosen is that of the theme.
+    QVariant option(const QString& key) const override;
+
     /// Palettes are named as their files are; `flag`, if not null, becomes false. Both lists are
     /// empty if the person gives up. Begins in the folder of the first of `files`, else in that
     /// of the project in front.

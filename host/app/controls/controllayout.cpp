@@ -39,6 +39,14 @@ const KeyRow firstKeys[] = {
     {"org_up", "Alt+Up"},
     {"org_down", "Alt+Down"},
     {"code_goto", "Ctrl+L"},
+    {"code_snippet_insert", "Ctrl+J"},
+    {"code_prev_error", "Shift+F8"},
+    {"code_next_error", "F8"},
+    {"code_prev_deprecation", "Ctrl+Shift+F8"},
+    {"code_next_deprecation", "Ctrl+F8"},
+    {"code_comment", "Ctrl+/"},
+    {"code_fold_all", "Alt+Shift+Left"},
+    {"code_unfold_all", "Alt+Shift+Right"},
 };
 
 }  // namespace
