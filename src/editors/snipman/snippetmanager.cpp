@@ -8,8 +8,11 @@
 #include "editors/snipman/snippetxml_p.h"
 
 #include <QApplication>
+#include <QCollator>
 #include <QDir>
 #include <QPointer>
+
+#include <algorithm>
 
 namespace Zorv {
 
@@ -65,6 +68,22 @@ QWidget* windowInFront(const Interface& host)
     return dialog ? dialog : host.mainWindow();
 }
 
+QString shownName(const QString& name)
+{
+    return SnippetForm::translated(name, QStringLiteral("snippet"));
+}
+
+/// By what the person reads.
+void sortNames(QStringList* names)
+{
+    QCollator order;
+    order.setCaseSensitivity(Qt::CaseInsensitive);
+    std::stable_sort(names->begin(), names->end(),
+                     [&order](const QString& left, const QString& right) {
+                         return order.compare(shownName(left), shownName(right)) < 0;
+                     });
+}
+
 /// The text with all messages of a snippet for translators.
 QString translationSource(const SnippetFile& file)
 {
@@ -107,22 +126,32 @@ void SnippetManager::update(const QString& folder)
     }
     // An empty name would stand for the working directory.
     const QStringList files =
-        folder.isEmpty()
-            ? QStringList()
-            : QDir(folder).entryList(QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase);
+        folder.isEmpty() ? QStringList() : QDir(folder).entryList(QDir::Files | QDir::Readable);
     if (files.isEmpty()) {
         return;
     }
-    beginInsertRows({}, 0, files.size() - 1);
+    QStringList names;
     for (const QString& file : files) {
-        m_names.append(QFileInfo(file).completeBaseName());
+        names.append(QFileInfo(file).completeBaseName());
     }
+    sortNames(&names);
+    beginInsertRows({}, 0, names.size() - 1);
+    m_names = names;
     endInsertRows();
 }
 
 void SnippetManager::retranslate()
 {
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const QStringList old = m_names;
+    sortNames(&m_names);
+    const QModelIndexList indexes = persistentIndexList();
+    for (const QModelIndex& from : indexes) {
+        changePersistentIndex(from, index(m_names.indexOf(old[from.row()])));
+    }
+    emit layoutChanged({}, VerticalSortHint);
     if (!m_names.isEmpty()) {
+        // For those who show one name only, and do not look at the layout.
         emit dataChanged(index(0), index(m_names.size() - 1), {Qt::DisplayRole});
     }
 }
@@ -188,7 +217,7 @@ QVariant SnippetManager::data(const QModelIndex& index, int role) const
         return {};
     }
     const QString name = m_names.value(index.row());
-    return role == Qt::EditRole ? name : SnippetForm::translated(name, QStringLiteral("snippet"));
+    return role == Qt::EditRole ? name : shownName(name);
 }
 
 }  // namespace Zorv

@@ -9,8 +9,8 @@ namespace Zorv {
 
 class Interface;
 
-/// The snippets of an engine family: the XML files of one folder, a row each, by
-/// name. docs/formats.md tells their format.
+/// The snippets of an engine family: the XML files of one folder, a row each, in the
+/// order of the names as they are shown. docs/formats.md tells their format.
 ///
 /// `Qt::DisplayRole` is the name in the person's language, if the context "Snippets" of
 /// the translations has it with the comment "snippet"; `Qt::EditRole` is the name
@@ -26,7 +26,7 @@ public:
     /// Lists the files of a folder anew; a missing one has none.
     void update(const QString& folder);
 
-    /// Has views show the names in the language that is installed now.
+    /// Has views show the names in the language that is installed now, in its order.
     void retranslate();
 
     QString folder() const { return m_folder; }

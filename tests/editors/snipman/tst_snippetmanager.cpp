@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMap>
 #include <QScrollArea>
 #include <QTemporaryDir>
 #include <QTranslator>
@@ -31,11 +32,13 @@ public:
     QString translate(const char* context, const char* text, const char* comment,
                       int) const override
     {
+        const QString plain = QString::fromUtf8(text);
         return qstrcmp(context, "Snippets") == 0
-                   ? QStringLiteral("%1 of %2")
-                         .arg(QString::fromUtf8(text), QString::fromUtf8(comment))
+                   ? QStringLiteral("%1%2 of %3").arg(prefixes.value(plain), plain, comment)
                    : QString();
     }
+
+    QMap<QString, QString> prefixes;
 };
 
 }  // namespace
@@ -303,11 +306,29 @@ private slots:
                       "value_title='A,B'/>",
                       "@i")),
             QStringLiteral("v"));
-        write("walk.xml", {});
-        SnippetManager::instance()->update(m_folder->path());
-        const QModelIndex row = SnippetManager::instance()->index(0);
-        QCOMPARE(row.data().toString(), QStringLiteral("walk of snippet"));
-        QCOMPARE(row.data(Qt::EditRole).toString(), QStringLiteral("walk"));
+        QCoreApplication::removeTranslator(&marking);
+    }
+
+    void namesAreShownAndSortedInTheLanguage()
+    {
+        auto* manager = SnippetManager::instance();
+        for (const char* name : {"b.xml", "b a.xml", "c.xml"}) {
+            write(name, {});
+        }
+        manager->update(m_folder->path());
+        QCOMPARE(names(), (QStringList{"b", "b a", "c"}));
+        const QAbstractItemModelTester tester(manager);
+        QComboBox box;
+        box.setModel(manager);
+        box.setCurrentIndex(2);
+        Marking marking;
+        marking.prefixes = {{QStringLiteral("c"), QStringLiteral("a ")}};
+        QCoreApplication::installTranslator(&marking);
+        manager->retranslate();
+        QCOMPARE(names(), (QStringList{"a c of snippet", "b a of snippet", "b of snippet"}));
+        QCOMPARE(box.currentText(), QStringLiteral("a c of snippet"));
+        QCOMPARE(box.currentData(Qt::EditRole).toString(), QStringLiteral("c"));
+        QCOMPARE(manager->fileName(0), m_folder->filePath(QStringLiteral("c.xml")));
         QCoreApplication::removeTranslator(&marking);
     }
 
