@@ -245,6 +245,12 @@ void FoldedBlocks::follow(CodeDocument* document)
     // Qt is done with an edit when it tells of this one, layout and all.
     connect(document, &QTextDocument::contentsChanged, this, &FoldedBlocks::mend);
     connect(document, &CodeDocument::levelsChanged, this, &FoldedBlocks::levelsChanged);
+    // It may have been edited while nobody looked.
+    const bool hasFolds = document->lineCount() != document->blockCount();
+    if (hasFolds || m_editor->q->lineWrapMode() != QPlainTextEdit::NoWrap) {
+        levelsChanged(0, document->blockCount() - 1, -1);
+        mend();
+    }
 }
 
 /// Text that is joined to the line of a fold comes out of the fold, for the person sees

@@ -1,0 +1,360 @@
+#include "editors/code/codeeditor.h"
+
+#include "core/filesystemarchive.h"
+#include "showneditor.h"
+
+#include <QClipboard>
+#include <QTemporaryDir>
+#include <QToolTip>
+
+#include <memory>
+
+using namespace Zorv;
+
+namespace {
+
+/// Groups of 100 lines, a head and 99 values each.
+QString groups(int count)
+{
+    QString text;
+    for (int i = 0; i < count; ++i) {
+        text += QStringLiteral("[%1*]\n").arg(i % 9 + 1);
+        for (int j = 1; j < 100; ++j) {
+            text += QStringLiteral("v%1=%2\n").arg(i).arg(j);
+        }
+    }
+    return text;
+}
+
+QHelpEvent tipEvent(const ShownEditor& shown, int line, int column)
+{
+    QTextCursor cursor(shown.line(line));
+    cursor.setPosition(cursor.position() + column);
+    const QPoint place = shown.editor.cursorRect(cursor).center();
+    return QHelpEvent(QEvent::ToolTip, place, shown.viewport()->mapToGlobal(place));
+}
+
+/// A file on disk, and its document in the editor.
+class OpenFile
+{
+public:
+    explicit OpenFile(const QString& text)
+    {
+        write(text);
+        shown.document.fromFile(archive, name(), -1, false);
+    }
+    void write(const QString& text)
+    {
+        QFile file(name());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text.toUtf8());
+    }
+    QString name() const { return folder.filePath(QStringLiteral("a.txt")); }
+
+    QTemporaryDir folder;
+    FileSystemArchive& archive = *FileSystemArchive::instance();
+    ShownEditor shown;
+};
+
+}  // namespace
+
+/// Places, pointer, tips and documents of the code editor; its parts have tests of their own.
+class CodeEditorTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void putsLinesIntoTheView_data();
+    void putsLinesIntoTheView();
+    void goesToAPlace();
+    void firstMessageIsTheTip();
+    void controlSwallowsTheTip();
+    void menuTakesTheCursorAlong_data();
+    void menuTakesTheCursorAlong();
+    void typingHidesThePointer();
+    void insertTogglesOverwriting();
+    void lineEndsAreLineEnds();
+    void readingAgainKeepsThePlace_data();
+    void readingAgainKeepsThePlace();
+    void documentsGoUnderTheHands_data();
+    void documentsGoUnderTheHands();
+    void outlivedByItsDocuments();
+    void copiesTheTextAsItIs();
+};
+
+void CodeEditorTest::putsLinesIntoTheView_data()
+{
+    QTest::addColumn<bool>("folded");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<double>("height");  ///< of the line in the view, from 0 to 1
+    QTest::newRow("first page") << false << 3 << int(CodeEditor::TopLine) << -1.0;
+    QTest::newRow("top") << false << 555 << int(CodeEditor::TopLine) << 0.0;
+    QTest::newRow("middle") << false << 555 << int(CodeEditor::CenterLine) << 0.5;
+    QTest::newRow("nearest") << false << 555 << int(CodeEditor::NearestLine) << 1.0;
+    QTest::newRow("end") << false << 2000 << int(CodeEditor::TopLine) << 1.0;
+    QTest::newRow("behind the end") << false << 99999 << int(CodeEditor::CenterLine) << 1.0;
+    QTest::newRow("top, of a head that folds") << true << 500 << int(CodeEditor::TopLine) << 0.0;
+    QTest::newRow("middle, in a fold") << true << 555 << int(CodeEditor::CenterLine) << 0.5;
+}
+
+void CodeEditorTest::putsLinesIntoTheView()
+{
+    QFETCH(bool, folded);
+    QFETCH(int, line);
+    QFETCH(int, type);
+    QFETCH(double, height);
+    ShownEditor shown(groups(folded ? 60 : 20));
+    const int last = shown.editor.blockCount() - 1;
+    if (folded) {
+        shown.editor.foldAll();
+    }
+    shown.editor.setCurrentLine(unsigned(line), CodeEditor::LineType(type));
+    QCOMPARE(shown.editor.textCursor().blockNumber(), std::min(line, last));
+    QVERIFY(shown.editor.textCursor().block().isVisible());
+    const QRect cursor = shown.editor.cursorRect();
+    QVERIFY(shown.viewport()->rect().contains(cursor));
+    if (height >= 0) {
+        const double wanted = height * (shown.viewport()->height() - cursor.height());
+        QVERIFY(std::abs(cursor.top() - wanted) <= 2.5 * cursor.height());
+    }
+    if (folded) {
+        QCOMPARE(shown.visibility().count(QLatin1Char('.')), line % 100 ? 160 : 61);
+    }
+}
+
+void CodeEditorTest::goesToAPlace()
+{
+    ShownEditor shown(groups(5));
+    QSignalSpy spy(&shown.editor, &CodeEditor::cursorChanged);
+    shown.editor.setCurrentLine(CodeEditor::LinePos{310, 2, 305});
+    QCOMPARE(spy.last().first().toPoint(), QPoint(310, 2));
+    const CodeEditor::LinePos place = shown.editor.currentPlace();
+    QCOMPARE(place.line, 310);
+    QCOMPARE(place.column, 2);
+    QCOMPARE(place.scroll, 305);
+    shown.editor.setCurrentLine(CodeEditor::LinePos{-4, 99, -7});
+    QCOMPARE(shown.editor.textCursor().position(), 4);
+    shown.editor.setCurrentLine(CodeEditor::LinePos{9999, 99, 9999});
+    QVERIFY(shown.editor.textCursor().atEnd());
+}
+
+void CodeEditorTest::firstMessageIsTheTip()
+{
+    ShownEditor shown(QStringLiteral("#\n?e <b>x</b>\n?w"));
+    const auto tip = [&](int line, int column) {
+        QToolTip::hideText();
+        QHelpEvent event = tipEvent(shown, line, column);
+        QCoreApplication::sendEvent(shown.viewport(), &event);
+        return QToolTip::text();
+    };
+    QCOMPARE(tip(2, 1), QStringLiteral("warned"));
+    QCOMPARE(tip(1, 0), QStringLiteral("<qt>unknown: ?e &lt;b&gt;x&lt;/b&gt;</qt>"));
+    QTRY_VERIFY((tip(0, 0), !QToolTip::isVisible()));
+}
+
+void CodeEditorTest::controlSwallowsTheTip()
+{
+    ShownEditor shown(QStringLiteral("?w"));
+    QTest::keyPress(&shown.editor, Qt::Key_Control, Qt::ControlModifier);
+    QHelpEvent event = tipEvent(shown, 0, 1);
+    QVERIFY(QCoreApplication::sendEvent(shown.viewport(), &event));
+}
+
+void CodeEditorTest::menuTakesTheCursorAlong_data()
+{
+    QTest::addColumn<int>("reason");
+    QTest::addColumn<bool>("selected");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("mouse") << int(QContextMenuEvent::Mouse) << false << 2;
+    QTest::newRow("mouse, with a selection") << int(QContextMenuEvent::Mouse) << true << 0;
+    QTest::newRow("keyboard") << int(QContextMenuEvent::Keyboard) << false << 0;
+}
+
+void CodeEditorTest::menuTakesTheCursorAlong()
+{
+    QFETCH(int, reason);
+    QFETCH(bool, selected);
+    ShownEditor shown(QStringLiteral("#\n#\n#"));
+    if (selected) {
+        QTest::keyClick(&shown.editor, Qt::Key_End, Qt::ShiftModifier);
+    }
+    // Nobody is there to close a menu.
+    shown.editor.setContextMenuPolicy(Qt::CustomContextMenu);
+    const QPoint place = shown.editor.cursorRect(QTextCursor(shown.line(2))).center();
+    QContextMenuEvent event(QContextMenuEvent::Reason(reason), place,
+                            shown.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(shown.viewport(), &event);
+    QTEST(shown.editor.textCursor().blockNumber(), "expected");
+}
+
+void CodeEditorTest::typingHidesThePointer()
+{
+    ShownEditor shown(QStringLiteral("[1]\na=1"));
+    const auto pointer = [&] { return shown.viewport()->cursor().shape(); };
+    QTest::keyClick(&shown.editor, Qt::Key_A);
+    QCOMPARE(pointer(), Qt::BlankCursor);
+    QTest::mouseMove(shown.viewport(), {150, 150});
+    QCOMPARE(pointer(), Qt::IBeamCursor);
+    QTest::keyClick(&shown.editor, Qt::Key_A);
+    const QPoint place(160, 150);
+    QMouseEvent drag(QEvent::MouseMove, place, shown.viewport()->mapToGlobal(place), Qt::LeftButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(shown.viewport(), &drag);
+    QCOMPARE(pointer(), Qt::IBeamCursor);
+}
+
+void CodeEditorTest::insertTogglesOverwriting()
+{
+    ShownEditor shown(QStringLiteral("#bcd"));
+    QTest::keyClick(&shown.editor, Qt::Key_Insert);
+    QTest::keyClicks(&shown.editor, QStringLiteral("xy"));
+    QCOMPARE(shown.document.text(), QStringLiteral("xycd"));
+    QTest::keyClick(&shown.editor, Qt::Key_Insert);
+    QTest::keyClicks(&shown.editor, QStringLiteral("z"));
+    QCOMPARE(shown.document.text(), QStringLiteral("xyzcd"));
+    QGuiApplication::clipboard()->setText(QStringLiteral("p"));
+    QTest::keyClick(&shown.editor, Qt::Key_Insert, Qt::ShiftModifier);
+    QVERIFY(!shown.editor.overwriteMode());
+    QCOMPARE(shown.document.text(), QStringLiteral("xyzpcd"));
+}
+
+void CodeEditorTest::lineEndsAreLineEnds()
+{
+    ShownEditor shown(QStringLiteral("ab"));
+    shown.putCursor(0, 1);
+    QTest::keyClick(&shown.editor, Qt::Key_Return, Qt::ShiftModifier);
+    QCOMPARE(shown.document.blockCount(), 2);
+    QCOMPARE(shown.document.toRawText(), QStringLiteral("a\u2029b"));
+    shown.editor.setReadOnly(true);
+    QTest::keyClick(&shown.editor, Qt::Key_Return, Qt::ShiftModifier);
+    QCOMPARE(shown.document.blockCount(), 2);
+}
+
+void CodeEditorTest::readingAgainKeepsThePlace_data()
+{
+    QTest::addColumn<QString>("newText");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<int>("folds");
+    QTest::newRow("the same") << groups(6) << 420 << 2;
+    QTest::newRow("lines more at the end") << groups(9) << 420 << 2;
+    QTest::newRow("a line more at the start") << QStringLiteral("#\n") + groups(6) << 420 << 2;
+    QTest::newRow("another head") << groups(6).replace(QLatin1String("[2*]"), QLatin1String("[9*]"))
+                                  << 420 << 1;
+    QTest::newRow("few lines") << QStringLiteral("[1*]\na=1\nb=2") << 2 << 1;
+    QTest::newRow("nothing") << QString() << 0 << 0;
+}
+
+void CodeEditorTest::readingAgainKeepsThePlace()
+{
+    QFETCH(QString, newText);
+    QFETCH(int, line);
+    QFETCH(int, folds);
+    OpenFile open(groups(6));
+    ShownEditor& shown = open.shown;
+    shown.toggle({0, 100});
+    shown.putCursor(420, 3);
+    const int scroll = shown.editor.verticalScrollBar()->value() + 4;
+    shown.editor.verticalScrollBar()->setValue(scroll);
+    QSignalSpy lines(&shown.editor, &CodeEditor::currentLineChanged);
+    open.write(newText);
+    QVERIFY(shown.document.reload());
+    QCOMPARE(shown.document.text(), newText);
+    QCOMPARE(shown.editor.textCursor().blockNumber(), line);
+    QCOMPARE(shown.visibility().count(QStringLiteral(".h")), folds);
+    QCOMPARE(faultOfFolds(&shown.document), QString());
+    if (line == 420) {
+        QCOMPARE(shown.editor.textCursor().positionInBlock(), 3);
+        QCOMPARE(lines.count(), 0);
+        QVERIFY(shown.viewport()->rect().contains(shown.editor.cursorRect()));
+    }
+    if (folds == 2) {
+        QVERIFY(std::abs(shown.editor.verticalScrollBar()->value() - scroll) <= 1);
+    }
+}
+
+void CodeEditorTest::documentsGoUnderTheHands_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::newRow("swapped") << "swap";
+    QTest::newRow("taken off") << "none";
+    QTest::newRow("deleted") << "delete";
+    QTest::newRow("emptied") << "clear";
+    QTest::newRow("read again") << "reload";
+}
+
+/// With a preview, one that waits, a drag in the gutter, and all timers running.
+void CodeEditorTest::documentsGoUnderTheHands()
+{
+    QFETCH(QString, how);
+    OpenFile open(groups(3));
+    ShownEditor& shown = open.shown;
+    auto document = std::make_unique<GrammarDocument>();
+    document->fromFile(open.archive, open.name(), -1, false);
+    CodeEditor::SyntaxFormatting formatting;
+    formatting.highlightBlocks = true;
+    shown.editor.setSyntaxFormatting(formatting);
+    shown.editor.setDocument(document.get());
+    shown.toggle({100, 200});
+    shown.putCursor(150, 0);
+    shown.toggle({100});
+    shown.editor.verticalScrollBar()->setValue(3);
+    QTest::mouseMove(shown.viewport(), shown.box(100));
+    QTest::qWait(60);
+    QTest::mouseMove(shown.viewport(), shown.box(200));
+    QTest::mousePress(shown.gutter(), Qt::LeftButton, {}, {5, 50});
+    shown.putCursor(50, 1);
+    if (how == QLatin1String("swap")) {
+        shown.editor.setDocument(&shown.document);
+    } else if (how == QLatin1String("none")) {
+        shown.editor.setDocument(nullptr);
+    } else if (how == QLatin1String("delete")) {
+        document.reset();
+        QCOMPARE(shown.editor.codeDocument(), nullptr);
+    } else if (how == QLatin1String("clear")) {
+        document->reset();
+    } else {
+        open.write(QStringLiteral("#"));
+        QVERIFY(document->reload());
+    }
+    (void)shown.editor.grab();
+    QTest::qWait(150);
+    (void)shown.editor.grab();
+    for (const QTextEdit::ExtraSelection& selection : shown.editor.extraSelections()) {
+        QCOMPARE(selection.cursor.document(), shown.editor.document());
+    }
+    QTest::keyClick(&shown.editor, Qt::Key_A);
+    QVERIFY(shown.editor.toPlainText().contains(QLatin1Char('a')));
+    shown.editor.setDocument(nullptr);
+}
+
+void CodeEditorTest::outlivedByItsDocuments()
+{
+    GrammarDocument first(groups(2));
+    GrammarDocument second(groups(1));
+    {
+        ShownEditor shown;
+        shown.editor.setDocument(&first);
+        shown.editor.foldAll();
+        shown.editor.setDocument(&second);
+    }
+    QTextCursor(&first).insertText(QStringLiteral("x\ny"));
+    QTextCursor(&second).insertText(QStringLiteral("x\ny"));
+    ShownEditor again;
+    again.editor.setDocument(&first);
+    QCOMPARE(faultOfFolds(&first), QString());
+    QVERIFY(!first.findBlockByNumber(110).isVisible());
+    again.editor.setDocument(nullptr);
+}
+
+void CodeEditorTest::copiesTheTextAsItIs()
+{
+    const QString text = QStringLiteral("a\u00a0b\nc\u2003d");
+    ShownEditor shown(text);
+    shown.editor.selectAll();
+    shown.editor.copy();
+    QCOMPARE(QGuiApplication::clipboard()->text(), text);
+}
+
+QTEST_MAIN(CodeEditorTest)
+#include "tst_codeeditor.moc"
