@@ -37,7 +37,7 @@ bool CodeFileEditorPrivate::findFrom(const CodeFind& what, bool backward)
         backward ? what.previous(text.text(), qMax(cursor.selectionStart() - 1, 0))
                  : what.next(text.text(), cursor.selectionEnd());
     if (match.hasMatch()) {
-        CodeFind::select(editor(), match, backward);
+        CodeFind::select(editor(), match.capturedStart(), match.capturedLength(), backward);
     }
     return match.hasMatch();
 }
@@ -57,14 +57,11 @@ void CodeFileEditorPrivate::showModel(CodeItemModel* shown)
 
 void CodeFileEditorPrivate::replaceSelection(const CodeFind& what, const QString& with)
 {
-    QTextCursor cursor = editor()->textCursor();
+    const QTextCursor cursor = editor()->textCursor();
     const int start = cursor.selectionStart();
     const CodeFind::Match match = what.matchOf(text.text(), start, cursor.selectionEnd() - start);
     if (match.hasMatch()) {
-        document->beginChange(QString());
-        document->replaceSelection(what.replacement(match, with), cursor);
-        document->endChange();
-        editor()->setTextCursor(cursor);
+        what.replaceSelection(editor(), match, with);
     }
 }
 

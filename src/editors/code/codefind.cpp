@@ -157,6 +157,12 @@ CodeFind::Match CodeFind::previous(const QString& text, int from) const
     return {};
 }
 
+QRegularExpressionMatchIterator CodeFind::matches(const QString& text) const
+{
+    return m_expression.globalMatch(text, 0, QRegularExpression::NormalMatch,
+                                    QRegularExpression::DontCheckSubjectStringMatchOption);
+}
+
 CodeFind::Match CodeFind::matchOf(const QString& text, int start, int length) const
 {
     if (!isValid() || splitsPair(text, start)) {
@@ -199,13 +205,13 @@ QString CodeFind::replacement(const Match& match, const QString& with) const
     return result;
 }
 
-void CodeFind::select(CodeEditor* editor, const Match& match, bool backward)
+void CodeFind::select(CodeEditor* editor, int start, int length, bool backward)
 {
     QTextDocument* document = editor->document();
-    const QTextCursor cursor = cursorOn(document, match.capturedStart(), match.capturedLength());
-    const QTextBlock block = document->findBlock(match.capturedStart());
+    const QTextCursor cursor = cursorOn(document, start, length);
+    const QTextBlock block = document->findBlock(start);
     editor->reveal(block);
-    editor->reveal(document->findBlock(match.capturedEnd()));
+    editor->reveal(document->findBlock(start + length));
     const int half = editor->displayedLineCount() / 2;
     const int line = block.firstLineNumber() + (backward ? -half : half);
     const QTextBlock margin =
@@ -216,16 +222,25 @@ void CodeFind::select(CodeEditor* editor, const Match& match, bool backward)
     editor->setTextCursor(cursor);
 }
 
+void CodeFind::replaceSelection(CodeEditor* editor, const Match& match, const QString& with) const
+{
+    CodeDocument* document = editor->codeDocument();
+    QTextCursor cursor = editor->textCursor();
+    document->beginChange(QString());
+    document->replaceSelection(replacement(match, with), cursor);
+    document->endChange();
+    editor->setTextCursor(cursor);
+}
+
 int CodeFind::replaceAll(CodeEditor* editor, const QString& text, const QString& with) const
 {
     if (!isValid()) {
         return 0;
     }
     QVector<Replacement> edits;
-    auto matches = m_expression.globalMatch(text, 0, QRegularExpression::NormalMatch,
-                                            QRegularExpression::DontCheckSubjectStringMatchOption);
-    while (matches.hasNext()) {
-        const Match match = matches.next();
+    QRegularExpressionMatchIterator all = matches(text);
+    while (all.hasNext()) {
+        const Match match = all.next();
         edits.append({match.capturedStart(), match.capturedLength(), replacement(match, with)});
     }
     if (edits.isEmpty()) {

@@ -44,6 +44,10 @@ public:
     /// The last one that starts at `from` or before it. It may overlap others.
     Match previous(const QString& text, int from) const;
 
+    /// All matches from the start on, none over another, in steps as large as the
+    /// caller makes them.
+    QRegularExpressionMatchIterator matches(const QString& text) const;
+
     /// A match of exactly that part of the text.
     Match matchOf(const QString& text, int start, int length) const;
 
@@ -51,9 +55,13 @@ public:
     /// groups of an expression have captured.
     QString replacement(const Match& match, const QString& with) const;
 
-    /// Selects a match in an editor, unfolded and about in the middle of the view.
-    /// The view comes from above, or with `backward` from below.
-    static void select(CodeEditor* editor, const Match& match, bool backward);
+    /// Selects a part of the text in an editor, unfolded and about in the middle of
+    /// the view, which comes from above or with `backward` from below.
+    static void select(CodeEditor* editor, int start, int length, bool backward);
+
+    /// Replaces the editor's selection, which `match` must be of, and puts the cursor
+    /// behind what took its place.
+    void replaceSelection(CodeEditor* editor, const Match& match, const QString& with) const;
 
     /// Replaces every match in the editor's document, whose text `text` must be, as
     /// one step of undo, and gives their number. The result is that of

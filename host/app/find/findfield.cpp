@@ -1,0 +1,62 @@
+#include "app/find/findfield.h"
+
+#include "core/interface.h"
+
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace App {
+
+namespace {
+
+constexpr int Width = 24;  // characters
+
+}  // namespace
+
+FindField::FindField(const QString& setting, QWidget* parent)
+    : QComboBox(parent), m_setting(setting)
+{
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    // A word of the history would be written behind what is typed, and looked for.
+    setCompleter(nullptr);
+    setMinimumContentsLength(Width);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void FindField::setText(const QString& text)
+{
+    setEditText(text);
+    lineEdit()->selectAll();
+}
+
+void FindField::remember()
+{
+    if (text().isEmpty()) {
+        return;
+    }
+    Zorv::Interface* host = Zorv::Interface::instance();
+    QStringList history = host->option(m_setting).toStringList();
+    if (history.value(0) == text()) {
+        return;
+    }
+    history.removeAll(text());
+    history.prepend(text());
+    host->setOption(m_setting, QStringList(history.mid(0, MaxCount)));
+    readHistory();
+}
+
+void FindField::readHistory()
+{
+    const QSignalBlocker blocker(this);
+    const QString present = text();
+    const int cursor = lineEdit()->cursorPosition();
+    clear();
+    addItems(Zorv::Interface::instance()->option(m_setting).toStringList());
+    setCurrentIndex(-1);
+    setEditText(present);
+    lineEdit()->setCursorPosition(cursor);
+}
+
+}  // namespace App
