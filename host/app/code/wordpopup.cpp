@@ -103,19 +103,26 @@ bool WordPopup::adds(const QString& word) const
     return !word.isEmpty() && line.mid(range.start, range.end - range.start) != word;
 }
 
-/// A word that stands there whole needs no key to end it, and a blank ends any word.
 bool WordPopup::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* popup = m_editor->completer()->popup();
-    if (watched != popup || event->type() != QEvent::KeyPress) {
-        return QObject::eventFilter(watched, event);
+    if (event->type() == QEvent::Show) {
+        // With each list of words, the completer puts a filter of its own in front.
+        watched->installEventFilter(this);
     }
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    const bool isReturn = key == Qt::Key_Return || key == Qt::Key_Enter;
-    const bool endsWord =
-        key == Qt::Key_Space || (isReturn && !adds(popup->currentIndex().data().toString()));
-    if (!endsWord) {
-        return QObject::eventFilter(watched, event);
+    const bool isKey = event->type() == QEvent::KeyPress;
+    return (isKey && endWord(static_cast<QKeyEvent*>(event))) ||
+           QObject::eventFilter(watched, event);
+}
+
+/// A word that stands there whole needs no key to take it, and a blank ends any word: both
+/// go to the text.
+bool WordPopup::endWord(QKeyEvent* event)
+{
+    QAbstractItemView* popup = m_editor->completer()->popup();
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isWhole = isReturn && !adds(popup->currentIndex().data().toString());
+    if (!isWhole && event->key() != Qt::Key_Space) {
+        return false;
     }
     popup->hide();
     QApplication::sendEvent(m_editor, event);

@@ -38,6 +38,7 @@ private:
     Range rangeAtCursor() const;
     void insert(const QString& word);
     bool adds(const QString& word) const;
+    bool endWord(QKeyEvent* event);
 
     Zorv::CodeEditor* m_editor;
     Zorv::CompletionModel* m_words;
