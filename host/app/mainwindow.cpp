@@ -5,6 +5,7 @@
 #include "app/actions/shortcutguard.h"
 #include "app/actions/windowactions.h"
 #include "app/animationcommands.h"
+#include "app/code/codehelp.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
 #include "app/code/documenttabs.h"
@@ -108,9 +109,21 @@ void MainWindow::makeCode()
 {
     m_code = new CodeView(this);
     m_centre->addWidget(m_code->widget());
+    makeCodeHelp();
     m_code->workspace()->engineSwitched(true);
     m_code->workspace()->reconfig();
     m_code->reconfig();
+}
+
+void MainWindow::makeCodeHelp()
+{
+    JumpServices services;
+    services.show = [this](FamilyDocument* document, int line, int column, int length) {
+        showPlace(document, line, column, length);
+    };
+    services.open = [this](const QString& fileName) { return openFile(fileName); };
+    services.tell = [this](const QString& text) { statusBarText(text); };
+    m_codeHelp = new CodeHelp(m_code->editor(), services);
 }
 
 // Views go before what they show.

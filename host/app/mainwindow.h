@@ -21,6 +21,7 @@ namespace App {
 
 class ActionRegistry;
 class AnimationCommands;
+class CodeHelp;
 class CodeTextEditor;
 class CodeView;
 class ControlPlacer;
@@ -72,6 +73,7 @@ public:
     /// The parts of the window. They live as long as it.
     GameSession* session() const { return m_session; }
     CodeView* code() const { return m_code; }
+    CodeHelp* codeHelp() const { return m_codeHelp; }
     DocumentTabs* tabs() const;
     GameTree* gameTree() const { return m_gameTree; }
     AnimationCommands* animations() const { return m_animations; }
@@ -137,6 +139,7 @@ protected:
 
 private:
     void makeCode();
+    void makeCodeHelp();
     void makeDocks();
     QDockWidget* addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area);
     void retranslate();
@@ -166,6 +169,7 @@ private:
     QStackedWidget* m_centre;
     QLabel* m_hint;
     CodeView* m_code = nullptr;
+    CodeHelp* m_codeHelp = nullptr;
     GameTree* m_gameTree;
     AnimationCommands* m_animations;
     MessagePanel* m_messagePanel;

@@ -2,6 +2,7 @@
 
 #include "app/actions/actionpalette.h"
 #include "app/actions/keysdialog.h"
+#include "app/code/codehelp.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
 #include "app/game/gamecommands.h"
@@ -26,6 +27,12 @@ template <void (Zorv::Workspace::*member)()>
 void inWorkspace(MainWindow& window)
 {
     (window.code()->workspace()->*member)();
+}
+
+template <void (CodeHelp::*member)()>
+void withHelp(MainWindow& window)
+{
+    (window.codeHelp()->*member)();
 }
 
 template <void (GameCommands::*member)()>
@@ -86,6 +93,10 @@ const QVector<ActionRow>& actionTable()
         {"copy",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Copy"),                          K::Copy,      nullptr,        NeedsSelection,  inText<&Zorv::CodeFileEditor::copy>},
         {"paste",          "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Paste"),                         K::Paste,     nullptr,        NeedsText,       inText<&Zorv::CodeFileEditor::paste>},
         {"select_all",     "edit",  QT_TRANSLATE_NOOP("App::Actions", "Select &all"),                    K::SelectAll, nullptr,        NeedsText,       inText<&Zorv::CodeFileEditor::selectAll>},
+        {nullptr,          "edit",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
+        {"code_complete",  "edit",  QT_TRANSLATE_NOOP("App::Actions", "Co&mplete word"),                  NoKey,        "Ctrl+Space",   NeedsText,       withHelp<&CodeHelp::completeWord>, "code"},
+        {"code_definition", "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Go to definition"),               NoKey,        "F12",          NeedsText,       withHelp<&CodeHelp::goToDefinition>, "code"},
+        {"code_back",      "edit",  QT_TRANSLATE_NOOP("App::Actions", "Go &back"),                        NoKey,        "Alt+Left",     NeedsText,       withHelp<&CodeHelp::goBack>, "code"},
         {nullptr,          "edit",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
         {"encoding",       "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Encoding..."),                   NoKey,        nullptr,        NeedsText,       call<&W::changeEncoding>, "code"},
 
