@@ -165,6 +165,38 @@
         <source>&amp;Usual size of text</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find &amp;next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find pre&amp;vious</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find &amp;selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rep&amp;lace...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Co&amp;mplete word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Go to definition</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go &amp;back</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>App::AnimationCommands</name>
@@ -229,6 +261,13 @@
     <message>
         <source>Nodes</source>
         <translation type="unfinished">Knoten</translation>
+    </message>
+</context>
+<context>
+    <name>App::CodeHelp</name>
+    <message>
+        <source>There are no words to choose from at this place.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3686,6 +3725,10 @@ Zeile %2, Spalte %3.</translation>
     <message>
         <source>Cannot save %1: %2</source>
         <translation>%1 kann nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>A list has at most %1 items. Remove some.</source>
+        <translation>Eine Liste hat höchstens %1 Einträge. Entfernen Sie einige.</translation>
     </message>
 </context>
 <context>

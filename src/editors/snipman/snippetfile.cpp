@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QXmlStreamReader>
 
+#include <algorithm>
+
 namespace Zorv {
 
 namespace {
@@ -76,13 +78,8 @@ private:
     {
         const QString title = attributes.value(QLatin1String("title")).toString();
         const QString type = attributes.value(QLatin1String("type")).toString();
-        const QStringRef value = attributes.value(QLatin1String("value"));
         if (type == QLatin1String("items")) {
-            // A list that is left out is the same as the other.
-            const QStringRef titles = attributes.value(QLatin1String("value_title"));
-            return std::make_unique<ComboSnipField>(name, title,
-                                                    split(value.isEmpty() ? titles : value),
-                                                    split(titles.isEmpty() ? value : titles));
+            return makeList(attributes, name, title);
         }
         const bool isKnown = type == QLatin1String("string") || type == QLatin1String("int") ||
                              type == QLatin1String("float");
@@ -93,7 +90,24 @@ private:
                         .arg(name, type));
         }
         return std::make_unique<RegularSnipField>(
-            name, title, isKnown ? type : QStringLiteral("string"), value.toString());
+            name, title, isKnown ? type : QStringLiteral("string"),
+            attributes.value(QLatin1String("value")).toString());
+    }
+
+    std::unique_ptr<SnipField> makeList(const QXmlStreamAttributes& attributes, const QString& name,
+                                        const QString& title)
+    {
+        const QStringRef value = attributes.value(QLatin1String("value"));
+        const QStringRef titles = attributes.value(QLatin1String("value_title"));
+        const int commas = std::max(value.count(QLatin1Char(',')), titles.count(QLatin1Char(',')));
+        if (commas >= SnippetFile::MaxItems) {
+            m_reader.raiseError(SnippetFile::tr("A list has at most %1 items. Remove some.")
+                                    .arg(SnippetFile::MaxItems));
+        }
+        // A list that is left out is the same as the other.
+        return std::make_unique<ComboSnipField>(name, title,
+                                                split(value.isEmpty() ? titles : value),
+                                                split(titles.isEmpty() ? value : titles));
     }
 
     void addFlaw(const QString& text)

@@ -31,6 +31,7 @@ struct SnippetFile
 public:
     /// No snippet needs more, and each field is a row of widgets.
     static constexpr int MaxFields = 1000;
+    static constexpr int MaxItems = 10000;  ///< of one field
     static constexpr qint64 MaxBytes = 1024 * 1024;
 
     std::vector<std::unique_ptr<SnipField>> fields;

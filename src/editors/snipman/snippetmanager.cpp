@@ -11,6 +11,7 @@
 #include <QCollator>
 #include <QDir>
 #include <QPointer>
+#include <QStringMatcher>
 
 #include <algorithm>
 
@@ -19,7 +20,8 @@ namespace Zorv {
 namespace {
 
 /// Values that contain names of further fields can make a text grow without end.
-constexpr qint64 MaxLength = 4 * 1024 * 1024;
+constexpr int MaxLength = 4 * 1024 * 1024;
+constexpr int MaxPlaces = 1000 * 1000;
 
 /// Where the host shows a passing text.
 constexpr int StatusText = 0;
@@ -36,30 +38,53 @@ bool tellFault(const SnippetFile& file, const QString& title)
     return problem.isThere();
 }
 
-bool replaceAll(QString* text, const QString& key, const QString& value)
+/// Puts values in the place of names. In one walk over the text for each: many places
+/// of `QString::replace()` cost more.
+class Filling
 {
-    const qint64 growth = qint64(value.size() - key.size()) * text->count(key);
-    if (text->size() + growth > MaxLength) {
-        return false;
+public:
+    explicit Filling(const QString& text) : m_text(text) {}
+
+    QString text() const { return m_text; }
+
+    /// False if the text grows too large; it is of no use then.
+    bool replace(const QString& key, const QString& value)
+    {
+        const QStringMatcher matcher(key);
+        QString result;
+        int done = 0;
+        for (int place = matcher.indexIn(m_text); place >= 0;
+             place = matcher.indexIn(m_text, done)) {
+            result += m_text.midRef(done, place - done) + value;
+            done = place + key.size();
+            if (++m_places > MaxPlaces || result.size() > MaxLength) {
+                return false;
+            }
+        }
+        m_text = result + m_text.midRef(done);
+        return m_text.size() <= MaxLength;
     }
-    text->replace(key, value);
-    return true;
-}
+
+private:
+    QString m_text;
+    int m_places = 0;
+};
 
 QString filledIn(const SnippetFile& file, const QStringList& values)
 {
-    QString text = file.plainCode();
+    Filling filling(file.plainCode());
     for (int i = 0; i < values.size(); ++i) {
-        if (!replaceAll(&text, QLatin1Char('@') + file.fields[size_t(i)]->name, values[i])) {
+        const SnipField& field = *file.fields[size_t(i)];
+        if (!filling.replace(QLatin1Char('@') + field.name, values[i])) {
             Dialogs::instance()->error(
                 SnippetManager::tr("Code snippet"),
                 SnippetManager::tr("With the value of \"%1\" the text grows too large. Shorten the "
                                    "value, or use the field less often.")
-                    .arg(file.fields[size_t(i)]->title));
+                    .arg(field.title));
             return {};
         }
     }
-    return text;
+    return filling.text();
 }
 
 QWidget* windowInFront(const Interface& host)

@@ -159,6 +159,10 @@ private slots:
         QTest::newRow("no name") << xmlOf("<field type='int'/>", {}) << "no name";
         QTest::newRow("too many fields")
             << xmlOf(QStringLiteral("<field name='a' type='int'/>").repeated(1001), {}) << "1000";
+        QTest::newRow("too many items") << xmlOf("<field name='a' type='items' value='" +
+                                                     QString(10'000, QLatin1Char(',')) + "'/>",
+                                                 {})
+                                        << "10000";
         QTest::newRow("entity without end")
             << "<!DOCTYPE s [<!ENTITY a '&b;&b;'><!ENTITY b '&a;'>]>" + xmlOf({}, "&a;")
             << "Line 2";
