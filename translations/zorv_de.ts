@@ -155,15 +155,15 @@
     </message>
     <message>
         <source>&amp;Larger text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Größere Schrift</translation>
     </message>
     <message>
         <source>&amp;Smaller text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kleinere Schrift</translation>
     </message>
     <message>
         <source>&amp;Usual size of text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Übliche Schriftgröße</translation>
     </message>
     <message>
         <source>&amp;Find...</source>
@@ -1211,99 +1211,99 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Choose...</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswählen ...</translation>
     </message>
     <message>
         <source>Show &amp;line numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeilennummern anzeigen</translation>
     </message>
     <message>
         <source>At the left of the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Links neben dem Text</translation>
     </message>
     <message>
         <source>Show folding &amp;markers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marken zum Einklappen anzeigen</translation>
     </message>
     <message>
         <source>Marks at the left with which parts of the text are folded</source>
-        <translation type="unfinished"></translation>
+        <translation>Marken am linken Rand, mit denen Teile des Textes eingeklappt werden</translation>
     </message>
     <message>
         <source>&amp;Highlight the current line</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Zeile &amp;hervorheben</translation>
     </message>
     <message>
         <source>Gives the line of the cursor a ground of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt der Zeile mit der Schreibmarke einen eigenen Grund</translation>
     </message>
     <message>
         <source>Show the &amp;blocks around the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Blöcke um die Schreibmarke anzeigen</translation>
     </message>
     <message>
         <source>Sets the part of the text in which the cursor is off from the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Hebt den Teil des Textes, in dem die Schreibmarke steht, vom Rest ab</translation>
     </message>
     <message>
         <source>Show matching brac&amp;kets</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammengehörige &amp;Klammern anzeigen</translation>
     </message>
     <message>
         <source>At a bracket, the one that belongs to it and what stands between</source>
-        <translation type="unfinished"></translation>
+        <translation>An einer Klammer die zugehörige andere und was dazwischensteht</translation>
     </message>
     <message>
         <source>Show the &amp;tool bar of code</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Werkzeugleiste des Codes anzeigen</translation>
     </message>
     <message>
         <source>Snippets and problems, above the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Bausteine und Probleme, über dem Text</translation>
     </message>
     <message>
         <source>&amp;Open only the present branch of the tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur den aktuellen Zweig des Baums &amp;öffnen</translation>
     </message>
     <message>
         <source>All others close as the cursor moves through the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle anderen schließen sich, wenn sich die Schreibmarke durch den Text bewegt</translation>
     </message>
     <message>
         <source>Current l&amp;ine:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Ze&amp;ile:</translation>
     </message>
     <message>
         <source>Ground of the line with the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>Grund der Zeile mit der Schreibmarke</translation>
     </message>
     <message>
         <source>As the theme</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das Farbschema</translation>
     </message>
     <message>
         <source>Block a&amp;round the cursor:</source>
-        <translation type="unfinished"></translation>
+        <translation>Block &amp;um die Schreibmarke:</translation>
     </message>
     <message>
         <source>Ground of the innermost block; those around it are set off from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Grund des innersten Blocks; die Blöcke darum setzen sich davon ab</translation>
     </message>
     <message>
         <source>B&amp;etween brackets:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwis&amp;chen Klammern:</translation>
     </message>
     <message>
         <source>Ground of what stands between two matching brackets</source>
-        <translation type="unfinished"></translation>
+        <translation>Grund dessen, was zwischen zwei zusammengehörigen Klammern steht</translation>
     </message>
     <message>
         <source>Matchin&amp;g brackets:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammengehörige K&amp;lammern:</translation>
     </message>
     <message>
         <source>What the brackets themselves are written in</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe, in der die Klammern selbst geschrieben werden</translation>
     </message>
 </context>
 <context>
@@ -1460,7 +1460,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>&amp;Encoding of the file:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kodierung der Datei:</translation>
     </message>
 </context>
 <context>
@@ -2290,11 +2290,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>GoToDlg</name>
     <message>
         <source>Go to line</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehe zu Zeile</translation>
     </message>
     <message>
         <source>&amp;Line:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeile:</translation>
     </message>
 </context>
 <context>
@@ -3407,7 +3407,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Problems of this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Probleme dieses Textes</translation>
     </message>
     <message>
         <source>Text of %1</source>
@@ -3419,19 +3419,19 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Words to complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter zum Vervollständigen</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu laden</translation>
     </message>
     <message>
         <source>Do you want to reload the file using the specified encoding?</source>
-        <translation type="unfinished"></translation>
+        <translation>Soll die Datei mit der angegebenen Kodierung neu geladen werden?</translation>
     </message>
     <message>
         <source>Invalid line! Do you want go to the last line?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Zeile! Möchten Sie zur letzten Zeile gehen?</translation>
     </message>
 </context>
 <context>

@@ -1,12 +1,9 @@
 #include "app/look/codefont.h"
 
 #include "code/codedoc/codedocument.h"
+#include "editors/code/codefont.h"
 
-#include <QFontDatabase>
-#include <QFontInfo>
 #include <QTextCharFormat>
-
-#include <algorithm>
 
 namespace App {
 
@@ -15,30 +12,6 @@ namespace {
 QFont& inUse()
 {
     static QFont font;
-    return font;
-}
-
-QFont fixedFont()
-{
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    if (QFontInfo(font).fixedPitch()) {
-        return font;
-    }
-    font.setFamily(QStringLiteral("monospace"));
-    font.setStyleHint(QFont::Monospace);
-    if (QFontInfo(font).fixedPitch()) {
-        return font;
-    }
-    // All fonts are looked at, which takes a while.
-    const QFontDatabase fonts;
-    const QStringList families = fonts.families(QFontDatabase::Latin);
-    const auto found =
-        std::find_if(families.begin(), families.end(), [&fonts](const QString& family) {
-            return fonts.isFixedPitch(family) && fonts.isSmoothlyScalable(family);
-        });
-    if (found != families.end()) {
-        font.setFamily(*found);
-    }
     return font;
 }
 
@@ -65,16 +38,7 @@ QFont codeFont()
 
 void setCodeFont(const QString& family, int size)
 {
-    static const QFont fixed = fixedFont();
-    QFont font = fixed;
-    if (!family.isEmpty()) {
-        font.setFamily(family);
-        font.setStyleHint(QFont::Monospace);
-    }
-    if (size > 0) {
-        font.setPointSize(size);
-    }
-    inUse() = font;
+    inUse() = Zorv::codeFont(family, size);
     takeFontsOffTokens();
 }
 

@@ -1,4 +1,4 @@
-#include "editors/code/codefont_p.h"
+#include "editors/code/codefont.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>

@@ -5,7 +5,7 @@
 #include "core/enginemodel.h"
 #include "core/interface.h"
 #include "editors/code/codeeditor.h"
-#include "editors/code/codefont_p.h"
+#include "editors/code/codefont.h"
 #include "editors/code/codeworkspace_p.h"
 #include "editors/code/encdlg.h"
 #include "editors/code/pickbox_p.h"
