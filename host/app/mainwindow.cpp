@@ -10,6 +10,7 @@
 #include "app/code/codeview.h"
 #include "app/code/documenttabs.h"
 #include "app/controls/controlplacer.h"
+#include "app/find/findbar.h"
 #include "app/game/gamecommands.h"
 #include "app/game/gameopener.h"
 #include "app/gamesession.h"
@@ -110,6 +111,9 @@ void MainWindow::makeCode()
     m_code = new CodeView(this);
     m_centre->addWidget(m_code->widget());
     makeCodeHelp();
+    for (const char* name : {"find", "find_next", "find_previous", "find_selection", "replace"}) {
+        m_code->findBar()->addAction(actionByName(name));
+    }
     m_code->workspace()->engineSwitched(true);
     m_code->workspace()->reconfig();
     m_code->reconfig();

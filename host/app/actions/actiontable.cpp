@@ -5,6 +5,7 @@
 #include "app/code/codehelp.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
+#include "app/find/findbar.h"
 #include "app/game/gamecommands.h"
 #include "app/mainwindow.h"
 #include "app/run/runcommands.h"
@@ -27,6 +28,12 @@ template <void (Zorv::Workspace::*member)()>
 void inWorkspace(MainWindow& window)
 {
     (window.code()->workspace()->*member)();
+}
+
+template <void (FindBar::*member)()>
+void inFindBar(MainWindow& window)
+{
+    (window.code()->findBar()->*member)();
 }
 
 template <void (CodeHelp::*member)()>
@@ -93,6 +100,12 @@ const QVector<ActionRow>& actionTable()
         {"copy",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Copy"),                          K::Copy,      nullptr,        NeedsSelection,  inText<&Zorv::CodeFileEditor::copy>},
         {"paste",          "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Paste"),                         K::Paste,     nullptr,        NeedsText,       inText<&Zorv::CodeFileEditor::paste>},
         {"select_all",     "edit",  QT_TRANSLATE_NOOP("App::Actions", "Select &all"),                    K::SelectAll, nullptr,        NeedsText,       inText<&Zorv::CodeFileEditor::selectAll>},
+        {nullptr,          "edit",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
+        {"find",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Find..."),                       K::Find,      nullptr,        NeedsText,       inFindBar<&FindBar::openFind>, "code"},
+        {"find_next",      "edit",  QT_TRANSLATE_NOOP("App::Actions", "Find &next"),                     NoKey,        "F3",           NeedsText,       inFindBar<&FindBar::findNext>, "code"},
+        {"find_previous",  "edit",  QT_TRANSLATE_NOOP("App::Actions", "Find pre&vious"),                 NoKey,        "Shift+F3",     NeedsText,       inFindBar<&FindBar::findPrevious>, "code"},
+        {"find_selection", "edit",  QT_TRANSLATE_NOOP("App::Actions", "Find &selection"),                NoKey,        "Ctrl+F3",      NeedsText,       inFindBar<&FindBar::findSelection>, "code"},
+        {"replace",        "edit",  QT_TRANSLATE_NOOP("App::Actions", "Rep&lace..."),                    NoKey,        "Ctrl+H",       NeedsText,       inFindBar<&FindBar::openReplace>, "code"},
         {nullptr,          "edit",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
         {"code_complete",  "edit",  QT_TRANSLATE_NOOP("App::Actions", "Co&mplete word"),                  NoKey,        "Ctrl+Space",   NeedsText,       withHelp<&CodeHelp::completeWord>, "code"},
         {"code_definition", "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Go to definition"),               NoKey,        "F12",          NeedsText,       withHelp<&CodeHelp::goToDefinition>, "code"},

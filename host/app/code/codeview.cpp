@@ -2,6 +2,7 @@
 
 #include "app/code/codetexteditor.h"
 #include "app/code/documenttabs.h"
+#include "app/find/findbar.h"
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
 #include "family/familydocument.h"
@@ -15,11 +16,13 @@ using Zorv::CodeEditor;
 CodeView::CodeView(QObject* parent)
     : QObject(parent), m_widget(new QWidget), m_layout(new QVBoxLayout(m_widget)),
       m_workspace(new Zorv::CodeWorkspace(this)),
-      m_textEditor(new CodeTextEditor(m_workspace, this)), m_tabs(new DocumentTabs(m_textEditor))
+      m_textEditor(new CodeTextEditor(m_workspace, this)), m_tabs(new DocumentTabs(m_textEditor)),
+      m_findBar(new FindBar(m_workspace->editor()))
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     m_layout->addWidget(m_workspace->widget());
+    addBar(m_findBar);
     setUpEditor();
     connect(m_tabs, &DocumentTabs::currentDocumentChanged, this, &CodeView::showFront);
     connect(m_tabs, &DocumentTabs::stateChanged, this, &CodeView::stateChanged);
@@ -29,6 +32,7 @@ CodeView::CodeView(QObject* parent)
 CodeView::~CodeView()
 {
     m_tabs->blockSignals(true);
+    delete m_findBar;
     m_textEditor->showDocument(nullptr);
     delete m_textEditor;
     delete m_workspace;
@@ -78,6 +82,7 @@ void CodeView::showFront(const Family::FamilyDocument* document)
     } else if (!document) {
         m_workspace->deactivate();
     }
+    m_findBar->follow();
     if (document) {
         emit lineChanged(editor()->textCursor().blockNumber());
     }

@@ -18,6 +18,7 @@ namespace App {
 
 class CodeTextEditor;
 class DocumentTabs;
+class FindBar;
 
 /// The texts in the middle of the window: the library's code workspace, the editor that
 /// works in it, the tabs of the open texts, and the bars below.
@@ -40,6 +41,7 @@ public:
     Zorv::CodeWorkspace* workspace() const { return m_workspace; }
     CodeTextEditor* textEditor() const { return m_textEditor; }
     DocumentTabs* tabs() const { return m_tabs; }
+    FindBar* findBar() const { return m_findBar; }
 
     /// The one in which all texts are shown, whether there is a text or not.
     Zorv::CodeEditor* editor() const;
@@ -66,6 +68,7 @@ private:
     Zorv::CodeWorkspace* m_workspace;
     CodeTextEditor* m_textEditor;
     DocumentTabs* m_tabs;
+    FindBar* m_findBar;
 };
 
 }  // namespace App
