@@ -130,11 +130,14 @@ void CodeFolding::foldAll(const QTextDocument* document)
 {
     int levelAbove = 0;
     for (QTextBlock b = document->begin(); b.isValid(); b = b.next()) {
-        const int level = indent(b);
-        if (b.isVisible() && level > levelAbove) {
+        if (b.isVisible() && indent(b) > levelAbove) {
             toggle(b.previous());
         }
-        levelAbove = level;
+        if (!b.isVisible()) {
+            // On to the last line of the fold.
+            b = visibleFrom(b).previous();
+        }
+        levelAbove = indent(b);
     }
 }
 
