@@ -1456,7 +1456,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>EncDlg</name>
     <message>
         <source>Encoding</source>
-        <translation type="unfinished">Kodierung</translation>
+        <translation>Kodierung</translation>
     </message>
     <message>
         <source>&amp;Encoding of the file:</source>
@@ -3399,11 +3399,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Zorv::CodeWorkspace</name>
     <message>
         <source>Encoding: %1</source>
-        <translation type="unfinished">Kodierung: %1</translation>
+        <translation>Kodierung: %1</translation>
     </message>
     <message>
         <source>Open texts</source>
-        <translation type="unfinished">Geöffnete Texte</translation>
+        <translation>Offene Texte</translation>
     </message>
     <message>
         <source>Problems of this text</source>
@@ -3411,11 +3411,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Text of %1</source>
-        <translation type="unfinished">Text von %1</translation>
+        <translation>Text von %1</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished">Text</translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Words to complete</source>
