@@ -2,6 +2,7 @@
 
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
+#include "windowfixture.h"
 
 #include "app/find/matchcounter.h"
 #include "editors/code/codeeditor.h"
@@ -47,6 +48,7 @@ private slots:
     void keysOfActionsWorkInTheField();
     void escapeClosesTheBar();
     void documentsComeAndGo();
+    void worksInTheWindow();
 
 private:
     QString state() const { return bar->findChild<QLabel*>(QStringLiteral("find_state"))->text(); }
@@ -424,6 +426,41 @@ void FindBarTest::documentsComeAndGo()
     bar->findSelection();
     bar->replaceAll();
     QVERIFY(!bar->isVisible());
+}
+
+/// Keys of the window reach the bar, and its own keys are no mnemonics of menus.
+void FindBarTest::worksInTheWindow()
+{
+    cleanup();
+    const QTemporaryDir settings;
+    const TemporaryGame game;
+    WindowFixture m(settings.filePath(QStringLiteral("zorv.ini")));
+    m.open(game, game.ryn(), game.animations());
+    bar = m.window->code()->findBar();
+    m.edit()->setFocus();
+    QTest::keyClick(m.edit(), Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(field()->hasFocus());
+    QTest::keyClicks(field(), QStringLiteral("animation \\d"));
+    QTRY_COMPARE(state(), QStringLiteral("No matches"));
+    QTest::keyClick(field(), Qt::Key_R, Qt::AltModifier);
+    QVERIFY(field()->hasFocus());
+    QTRY_COMPARE(state(), QStringLiteral("1 of 3"));
+    QTest::keyClick(field(), Qt::Key_F3);
+    QTest::keyClick(m.edit(), Qt::Key_F3);
+    QTest::keyClick(field(), Qt::Key_F3, Qt::ShiftModifier);
+    QCOMPARE(m.place().line, 4);
+    QTest::keyClick(field(), Qt::Key_H, Qt::ControlModifier);
+    field("replace_text")->setEditText(QStringLiteral("animation 7"));
+    QTest::mouseClick(bar->findChild<QToolButton*>(QStringLiteral("replace_all")), Qt::LeftButton);
+    QCOMPARE(m.document()->text().count(QLatin1String("animation 7")), 3);
+    QCOMPARE(m.place().line, 4);
+    m.action("undo")->trigger();
+    QVERIFY(!m.document()->isModified());
+    QVERIFY(m.window->openFile(game.oda()));
+    QTRY_COMPARE(state(), QStringLiteral("No matches"));
+    QTest::keyClick(field(), Qt::Key_Escape);
+    QVERIFY(m.edit()->hasFocus());
+    QCOMPARE(m.dialogs.count(), 0);
 }
 
 QTEST_MAIN(FindBarTest)
