@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCompleter>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -20,7 +21,6 @@
 #include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -46,6 +46,8 @@ const ButtonText buttonTexts[] = {
     {"replace_all", nullptr, QT_TRANSLATE_NOOP("App::FindBar", "Replace all")},
 };
 
+enum Column { LabelColumn, FieldColumn, ButtonColumn, StateColumn, CloseColumn };
+
 QString optionsKey()
 {
     return QStringLiteral("find_options");
@@ -62,15 +64,26 @@ FindBar::FindBar(Zorv::CodeEditor* editor, QWidget* parent)
     setObjectName(QStringLiteral("find_bar"));
     m_field->setObjectName(QStringLiteral("find_text"));
     m_with->setObjectName(QStringLiteral("replace_text"));
+    m_withLabel->setObjectName(QStringLiteral("replace_label"));
     m_state->setObjectName(QStringLiteral("find_state"));
     m_label->setBuddy(m_field);
     m_withLabel->setBuddy(m_with);
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(6, 3, 6, 3);
-    rows->setSpacing(3);
-    rows->addLayout(makeFindRow());
-    m_replaceRow = makeReplaceRow();
-    rows->addWidget(m_replaceRow);
+    m_state->setWordWrap(true);
+    m_state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(6, 3, 6, 3);
+    grid->setVerticalSpacing(3);
+    grid->setColumnStretch(FieldColumn, 3);
+    grid->setColumnStretch(StateColumn, 2);
+    grid->addWidget(m_label, 0, LabelColumn);
+    grid->addWidget(m_field, 0, FieldColumn);
+    grid->addLayout(makeFindButtons(), 0, ButtonColumn);
+    grid->addWidget(m_state, 0, StateColumn);
+    grid->addWidget(makeButton("find_close", "find_close", &FindBar::closeBar), 0, CloseColumn);
+    grid->addWidget(m_withLabel, 1, LabelColumn);
+    grid->addWidget(m_with, 1, FieldColumn);
+    grid->addLayout(makeReplaceButtons(), 1, ButtonColumn);
+    showReplaceRow(false);
     const QList<QWidget*> parts = findChildren<QWidget*>();
     for (QWidget* part : parts) {
         part->installEventFilter(this);
@@ -84,32 +97,31 @@ FindBar::FindBar(Zorv::CodeEditor* editor, QWidget* parent)
 
 FindBar::~FindBar() = default;
 
-QHBoxLayout* FindBar::makeFindRow()
+QHBoxLayout* FindBar::makeFindButtons()
 {
     auto* row = new QHBoxLayout;
-    row->addWidget(m_label);
-    row->addWidget(m_field, 1);
     row->addWidget(makeSwitch("find_case", FindPattern::MatchCase, Qt::ALT | Qt::Key_C));
     row->addWidget(makeSwitch("find_word", FindPattern::WholeWord, Qt::ALT | Qt::Key_W));
     row->addWidget(makeSwitch("find_expression", FindPattern::Expression, Qt::ALT | Qt::Key_R));
     row->addWidget(makeButton("find_previous", "find_previous", &FindBar::findPrevious));
     row->addWidget(makeButton("find_next", "find_next", &FindBar::findNext));
-    row->addWidget(m_state, 1);
-    row->addWidget(makeButton("find_close", "find_close", &FindBar::closeBar));
     return row;
 }
 
-QWidget* FindBar::makeReplaceRow()
+QHBoxLayout* FindBar::makeReplaceButtons()
 {
-    auto* whole = new QWidget(this);
-    auto* row = new QHBoxLayout(whole);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_withLabel);
-    row->addWidget(m_with, 1);
+    auto* row = new QHBoxLayout;
     row->addWidget(makeButton("replace_one", "replace", &FindBar::replaceOne));
     row->addWidget(makeButton("replace_all", "replace_all", &FindBar::replaceAll));
-    row->addStretch(1);
-    return whole;
+    row->addStretch();
+    return row;
+}
+
+void FindBar::showReplaceRow(bool isShown)
+{
+    for (const char* name : {"replace_label", "replace_text", "replace_one", "replace_all"}) {
+        findChild<QWidget*>(QLatin1String(name))->setVisible(isShown);
+    }
 }
 
 QToolButton* FindBar::makeButton(const char* name, const char* picture, void (FindBar::*slot)())
@@ -227,7 +239,7 @@ void FindBar::takeText(const QString& text)
 
 void FindBar::bringUp(bool withReplace)
 {
-    m_replaceRow->setVisible(withReplace);
+    showReplaceRow(withReplace);
     if (isVisible()) {
         return;
     }
@@ -256,7 +268,7 @@ void FindBar::open(bool withReplace)
 
 void FindBar::openFind()
 {
-    open(m_replaceRow->isVisible());
+    open(m_with->isVisible());
 }
 
 void FindBar::openReplace()
@@ -273,7 +285,7 @@ bool FindBar::isReadyToGo()
         openFind();
         return false;
     }
-    bringUp(m_replaceRow->isVisible());
+    bringUp(m_with->isVisible());
     m_field->remember();
     return true;
 }

@@ -67,8 +67,9 @@ private:
         int key;
     };
 
-    QHBoxLayout* makeFindRow();
-    QWidget* makeReplaceRow();
+    QHBoxLayout* makeFindButtons();
+    QHBoxLayout* makeReplaceButtons();
+    void showReplaceRow(bool isShown);
     QToolButton* makeButton(const char* name, const char* picture, void (FindBar::*slot)());
     QToolButton* makeSwitch(const char* name, int option, int key);
     void giveTexts();
@@ -92,7 +93,6 @@ private:
     QLabel* m_withLabel;
     QLabel* m_state;
     QVector<Switch> m_switches;
-    QWidget* m_replaceRow;
 };
 
 }  // namespace App
