@@ -46,6 +46,8 @@ const ButtonText buttonTexts[] = {
     {"replace_all", nullptr, QT_TRANSLATE_NOOP("App::FindBar", "Replace all")},
 };
 
+constexpr int StateWidth = 22;  // characters
+
 enum Column { LabelColumn, FieldColumn, ButtonColumn, StateColumn, CloseColumn };
 
 QString optionsKey()
@@ -70,6 +72,7 @@ FindBar::FindBar(Zorv::CodeEditor* editor, QWidget* parent)
     m_withLabel->setBuddy(m_with);
     m_state->setWordWrap(true);
     m_state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_state->setMinimumWidth(fontMetrics().averageCharWidth() * StateWidth);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(6, 3, 6, 3);
     grid->setVerticalSpacing(3);

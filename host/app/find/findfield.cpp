@@ -9,7 +9,7 @@ namespace App {
 
 namespace {
 
-constexpr int Width = 24;  // characters
+constexpr int Width = 10;  // characters
 
 }  // namespace
 
