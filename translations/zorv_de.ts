@@ -167,23 +167,23 @@
     </message>
     <message>
         <source>&amp;Find...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suchen ...</translation>
     </message>
     <message>
         <source>Find &amp;next</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weitersuchen</translation>
     </message>
     <message>
         <source>Find pre&amp;vious</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorheriges suchen</translation>
     </message>
     <message>
         <source>Find &amp;selection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Markiertes suchen</translation>
     </message>
     <message>
         <source>Rep&amp;lace...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ersetzen ...</translation>
     </message>
     <message>
         <source>Co&amp;mplete word</source>
@@ -381,106 +381,106 @@
     <name>App::FindBar</name>
     <message>
         <source>Character %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichen %1: %2</translation>
     </message>
     <message>
         <source>Upper and lower case are not the same</source>
-        <translation type="unfinished"></translation>
+        <translation>Groß- und Kleinschreibung unterscheiden</translation>
     </message>
     <message>
         <source>Whole words only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur ganze Wörter</translation>
     </message>
     <message>
         <source>Regular expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Regulärer Ausdruck</translation>
     </message>
     <message>
         <source>Previous match</source>
-        <translation type="unfinished"></translation>
+        <translation>Voriger Treffer</translation>
     </message>
     <message>
         <source>Next match</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Treffer</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Replace and go to the next match</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen und zum nächsten Treffer gehen</translation>
     </message>
     <message>
         <source>Replace all</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle ersetzen</translation>
     </message>
     <message>
         <source>Find:</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen:</translation>
     </message>
     <message>
         <source>Replace with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen durch:</translation>
     </message>
     <message>
         <source>Text to find</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesuchter Text</translation>
     </message>
     <message>
         <source>Text to put in its place</source>
-        <translation type="unfinished"></translation>
+        <translation>Text, der an seine Stelle kommt</translation>
     </message>
     <message>
         <source>With a regular expression \1 to \99 are what its groups have found, \n is a line end, \t a tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei einem regulären Ausdruck stehen \1 bis \99 für das, was seine Gruppen gefunden haben, \n für ein Zeilenende, \t für einen Tabulator</translation>
     </message>
 </context>
 <context>
     <name>App::FindSearch</name>
     <message>
         <source>from the start</source>
-        <translation type="unfinished"></translation>
+        <translation>vom Anfang an</translation>
     </message>
     <message>
         <source>from the end</source>
-        <translation type="unfinished"></translation>
+        <translation>vom Ende an</translation>
     </message>
     <message>
         <source>%1 replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ersetzt</translation>
     </message>
     <message>
         <source>%1 of ...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von ...</translation>
     </message>
     <message>
         <source>No matches</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Treffer</translation>
     </message>
     <message>
         <source>more than %1 matches</source>
-        <translation type="unfinished"></translation>
+        <translation>mehr als %1 Treffer</translation>
     </message>
     <message>
         <source>%1 of more than %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von mehr als %2</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>1 match</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Treffer</translation>
     </message>
     <message>
         <source>%1 matches</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Treffer</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -3344,7 +3344,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Zorv::CodeCompletion</name>
     <message>
         <source>Words to complete</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wörter zum Vervollständigen</translation>
     </message>
 </context>
 <context>
@@ -3377,22 +3377,22 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Zorv::CodeFileEditor</name>
     <message>
         <source>No text found!</source>
-        <translation type="unfinished">Kein Text gefunden!</translation>
+        <translation>Der Text wurde nicht gefunden.</translation>
     </message>
     <message>
         <source>Line: %1, Column: %2, Line count: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile: %1, Spalte: %2, Zeilen: %3</translation>
     </message>
     <message>
         <source>Syntax error count: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: %1</translation>
     </message>
 </context>
 <context>
     <name>Zorv::CodeItemModel</name>
     <message>
         <source>Frame</source>
-        <translation type="unfinished">Einzelbild</translation>
+        <translation>Bild</translation>
     </message>
 </context>
 <context>
