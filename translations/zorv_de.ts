@@ -171,7 +171,7 @@
     </message>
     <message>
         <source>Find &amp;next</source>
-        <translation>&amp;Weitersuchen</translation>
+        <translation>Weitersuche&amp;n</translation>
     </message>
     <message>
         <source>Find pre&amp;vious</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Rep&amp;lace...</source>
-        <translation>&amp;Ersetzen ...</translation>
+        <translation>Erset&amp;zen ...</translation>
     </message>
     <message>
         <source>Co&amp;mplete word</source>
@@ -3392,7 +3392,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Zorv::CodeItemModel</name>
     <message>
         <source>Frame</source>
-        <translation>Bild</translation>
+        <translation>Einzelbild</translation>
     </message>
 </context>
 <context>
