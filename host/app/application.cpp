@@ -3,6 +3,7 @@
 #include "app/look/icon.h"
 #include "app/look/look.h"
 #include "app/mainwindow.h"
+#include "app/picturescene.h"
 #include "app/recovery/workrecovery.h"
 #include "app/run/runcommands.h"
 #include "app/screenshot.h"
@@ -30,6 +31,7 @@ constexpr int NotDone = 3;
 struct Usage
 {
     QString picture;
+    QString scene;
     QString theme;
     QString language;
     QString game;
@@ -46,6 +48,7 @@ struct Option
 
 constexpr Option options[] = {
     {"--screenshot", &Usage::picture, "the name of a picture"},
+    {"--scene", &Usage::scene, "what the picture shows"},
     {"--theme", &Usage::theme, "'light' or 'dark'"},
     {"--language", &Usage::language, "a language, such as 'de'"},
 };
@@ -71,9 +74,13 @@ Usage parse(const QStringList& arguments)
             usage.game = argument;
         }
     }
-    if (usage.picture.isEmpty() && !(usage.theme + usage.language).isEmpty()) {
-        usage.error = QStringLiteral("--theme and --language are for a picture; a window has "
-                                     "settings for them");
+    if (usage.picture.isEmpty() && !(usage.scene + usage.theme + usage.language).isEmpty()) {
+        usage.error = QStringLiteral("--scene, --theme and --language are for a picture; a window "
+                                     "has settings for them");
+    }
+    if (!usage.scene.isEmpty() && !pictureScenes().contains(usage.scene)) {
+        usage.error = QStringLiteral("there is no scene '%1', but %2")
+                          .arg(usage.scene, pictureScenes().join(QLatin1String(", ")));
     }
     return usage;
 }
@@ -98,7 +105,7 @@ int drawPicture(const Usage& usage)
     MainWindow window;
     host.setWindow(&window);
     QString error;
-    if (drawWindow(&window, usage.game, usage.picture, &error)) {
+    if (drawWindow(&window, {usage.game, usage.scene, usage.picture}, &error)) {
         return 0;
     }
     QTextStream(stderr) << "zorv: " << error << '\n';

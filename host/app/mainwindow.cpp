@@ -249,10 +249,10 @@ void MainWindow::connectCode()
     connect(tabs(), &DocumentTabs::currentDocumentChanged, this,
             &MainWindow::currentDocumentChanged);
     connect(tabs(), &DocumentTabs::closeRequested, this, &MainWindow::closeDocument);
+    connect(m_code, &CodeView::cursorMoved, this, &MainWindow::followCursor);
     connect(m_code, &CodeView::lineChanged, this, &MainWindow::followLine);
     connect(m_code, &CodeView::stateChanged, this, &MainWindow::updateNow);
-    connect(m_code->editor(), &Zorv::CodeEditor::markClicked, this,
-            &MainWindow::showMessageOfLine);
+    connect(m_code->editor(), &Zorv::CodeEditor::markClicked, this, &MainWindow::showMessageOfLine);
     connect(m_status, &StatusFields::encodingClicked, this, &MainWindow::changeEncoding);
     connect(m_status, &StatusFields::placeClicked, m_code->workspace(),
             &Zorv::CodeWorkspace::goToLine);
@@ -297,13 +297,18 @@ void MainWindow::currentDocumentChanged(FamilyDocument* document)
     updateMessages();
     updateNow();
     if (document) {
+        followCursor();
         followLine(currentEdit()->textCursor().blockNumber());
     }
 }
 
+void MainWindow::followCursor()
+{
+    m_animations->followCursor(m_code->editor()->textCursor().blockNumber());
+}
+
 void MainWindow::followLine(int line)
 {
-    m_animations->followCursor(line);
     m_messagePanel->followCursor(tabs()->currentDocument(), line);
 }
 

@@ -154,6 +154,7 @@ private:
     void gameChanged();
 
     void currentDocumentChanged(Family::FamilyDocument* document);
+    void followCursor();
     void followLine(int line);
     void showMessageOfLine(int line);
     void updateSoon();

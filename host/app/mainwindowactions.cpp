@@ -185,8 +185,8 @@ void MainWindow::focusPreviousPanel()
 
 void MainWindow::focusPanel(int step)
 {
-    const QList<QWidget*> all{m_gameTree,          firstField(m_code->workspace()->toolBar()),
-                              currentEdit(),       textEditor()->tree(),
+    const QList<QWidget*> all{m_gameTree,           firstField(m_code->workspace()->toolBar()),
+                              currentEdit(),        textEditor()->tree(),
                               m_animations->list(), m_messagePanel};
     QList<QWidget*> panels;
     int current = -1;

@@ -62,7 +62,7 @@ void restoreText(MainWindow* window, const QVariantMap& state)
     const int line = state.value(QStringLiteral("line")).toInt();
     const int column = state.value(QStringLiteral("column")).toInt();
     window->tabs()->setPlace(
-        document, {line, column, line, column, state.value(QStringLiteral("top")).toInt(), 0});
+        document, {line, column, line, column, state.value(QStringLiteral("top")).toInt()});
 }
 
 }  // namespace

@@ -444,10 +444,10 @@ void tst_Controls::goesWithItsReceiver()
         "pal_list", WidgetControl(WidgetControl::ListView, 3, m_publisher.get(),
                                   SLOT(rowChosen(QModelIndex)), nullptr, SIGNAL(enabled(bool))));
     const QPointer<QWidget> slider =
-        add("code_sel", WidgetControl(WidgetControl::Slider, 3, m_publisher.get(),
+        add("snd_sel", WidgetControl(WidgetControl::Slider, 3, m_publisher.get(),
                                       SLOT(numberChosen(int)), SIGNAL(setNumber(int))));
     const auto* panel = m->window->findChild<QDockWidget*>(QStringLiteral("palette"));
-    const auto* bar = m->window->findChild<QToolBar*>(QStringLiteral("code_bar"));
+    const auto* bar = m->window->findChild<QToolBar*>(QStringLiteral("sound_bar"));
     QTRY_VERIFY(panel->isVisible() && bar->isVisible());
     m_publisher.reset();
     QVERIFY(!action || !action->isEnabled());

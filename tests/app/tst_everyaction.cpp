@@ -1,6 +1,7 @@
 #include "windowfixture.h"
 
 #include "app/actions/actionregistry.h"
+#include "family/nodes/animationnode.h"
 
 #include <QAction>
 #include <QApplication>
@@ -80,6 +81,9 @@ void tst_EveryAction::cleanup()
 /// Brings the window to where as much as possible can be done.
 void tst_EveryAction::prepare()
 {
+    if (QWidget* words = QApplication::activePopupWidget()) {
+        words->close();
+    }
     QTRY_VERIFY(!QApplication::activeModalWidget() && !QApplication::activePopupWidget());
     if (!m->window->session()->game()) {
         QVERIFY(m->window->openPath(m_folder->filePath(QStringLiteral("arena"))));
@@ -92,9 +96,7 @@ void tst_EveryAction::prepare()
     m->press(Qt::Key_Return);
     m->action("undo")->trigger();
     // The second animation: it becomes the current one of the list.
-    m->edit()->moveCursor(QTextCursor::Start);
-    QVERIFY(m->edit()->find(QStringLiteral("animation ")));
-    QVERIFY(m->edit()->find(QStringLiteral("animation ")));
+    m->goTo(m->document()->animations()->animation(1)->firstLine(), 0, 1);
     m->dialogs.choiceAnswers = {SecondChoice};
     QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_remove")->isEnabled());
 }

@@ -1,4 +1,3 @@
-#include "app/linebar.h"
 #include "app/look/language.h"
 #include "app/settings/settingsdialog.h"
 #include "windowfixture.h"
@@ -178,7 +177,6 @@ void tst_Language::nothingStaysEnglish()
     const TemporaryGame game;
     WindowFixture fixture(folder.filePath("settings.ini"));
     fixture.open(game, game.ryn(), game.animations());
-    fixture.action("code_goto")->trigger();
     for (const char* dialog : {"settings", "keys", "palette"}) {
         fixture.action(dialog)->trigger();
     }

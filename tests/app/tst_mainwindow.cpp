@@ -146,7 +146,8 @@ void tst_MainWindow::opensAProjectByDoubleClick()
     doubleClickRow(tree, tree->indexOf(m_game->animations()));
     QCOMPARE(m->document()->fileName(), m_game->animations());
     QCOMPARE(window()->tabs()->count(), 2);
-    QCOMPARE(window()->tabs()->bar()->tabToolTip(1), QDir::toNativeSeparators(m_game->animations()));
+    QCOMPARE(window()->tabs()->bar()->tabToolTip(1),
+             QDir::toNativeSeparators(m_game->animations()));
     // The return key does the same, and brings back what is open already.
     tree->setCurrentIndex(tree->indexOf(m_game->ryn()));
     QTest::keyClick(tree, Qt::Key_Return);
@@ -509,12 +510,15 @@ void tst_MainWindow::isReachedByKeys()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
     QCOMPARE(QApplication::focusWidget(), toolBox);
     QTimer::singleShot(0, this, [] {
+        QTRY_VERIFY(QApplication::focusWidget()->window()->isModal());
         QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("6"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     });
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_L, Qt::ControlModifier);
     QCOMPARE(m->place().line, 5);
-    QCOMPARE(QApplication::focusWidget(), m->edit());
+    QCOMPARE(window()->focusWidget(), m->edit());
+    window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window()));
     QTest::keyClick(m->edit(), Qt::Key_PageUp, Qt::ControlModifier);
     QCOMPARE(m->document()->fileName(), m_game->ryn());
 }

@@ -91,7 +91,8 @@ void tst_WindowPanels::followsTypingUndoAndRedo()
     QTRY_VERIFY(shows(3, QStringLiteral("power")));
     QCOMPARE(window()->messagePanel()->messages()->rowCount(), 1);
     QCOMPARE(window()->status()->problemText(), QStringLiteral("1 error, 0 warnings"));
-    QCOMPARE(window()->status()->placeText(), QStringLiteral("Line: 8, Column: 13, Line count: 12"));
+    QCOMPARE(window()->status()->placeText(),
+             QStringLiteral("Line: 8, Column: 13, Line count: 12"));
     const QString after = m->document()->text();
 
     for (int i = 0; i < 20 && m->document()->text() != before; ++i) {

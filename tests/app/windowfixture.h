@@ -114,7 +114,10 @@ public:
     QTreeView* tree() const { return window->textEditor()->tree(); }
     Family::FamilyDocument* document() const { return window->tabs()->currentDocument(); }
     App::TextPlace place() const { return window->tabs()->placeOf(document()); }
-    void goTo(int line, int column = 0) const { window->textEditor()->goTo(line, column); }
+    void goTo(int line, int column = 0, int length = 0) const
+    {
+        window->textEditor()->goTo(line, column, length);
+    }
     QAction* action(const char* name) const { return window->actionByName(name); }
 
     /// Opens the game and a file of it.

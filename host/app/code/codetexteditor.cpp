@@ -43,7 +43,8 @@ void CodeTextEditor::setUpTree()
     m_nodes->setActive(tree() && tree()->isVisible());
     if (tree()) {
         tree()->installEventFilter(this);
-        followLanguage(tree(), [view = tree()] { view->setAccessibleName(tr("Nodes of the text")); });
+        followLanguage(tree(),
+                       [view = tree()] { view->setAccessibleName(tr("Nodes of the text")); });
     }
 }
 

@@ -33,12 +33,8 @@ TextPlace placeIn(const CodeEditor* editor)
 {
     const QTextCursor cursor = editor->textCursor();
     const QTextBlock anchor = editor->document()->findBlock(cursor.anchor());
-    return {cursor.blockNumber(),
-            cursor.positionInBlock(),
-            anchor.blockNumber(),
-            cursor.anchor() - anchor.position(),
-            editor->verticalScrollBar()->value(),
-            editor->horizontalScrollBar()->value()};
+    return {cursor.blockNumber(), cursor.positionInBlock(), anchor.blockNumber(),
+            cursor.anchor() - anchor.position(), editor->verticalScrollBar()->value()};
 }
 
 /// The nearest place that is there.
@@ -63,7 +59,6 @@ void restorePlace(CodeEditor* editor, const TextPlace& place)
                        QTextCursor::KeepAnchor);
     editor->setTextCursor(cursor);
     editor->verticalScrollBar()->setValue(place.scroll);
-    editor->horizontalScrollBar()->setValue(place.sideScroll);
 }
 
 }  // namespace

@@ -76,8 +76,7 @@ struct NodeModel::Item
 };
 
 NodeModel::NodeModel(QObject* parent)
-    : CodeItemModel(parent), m_root(std::make_unique<Item>(nullptr, 0)),
-      m_timer(new QTimer(this))
+    : CodeItemModel(parent), m_root(std::make_unique<Item>(nullptr, 0)), m_timer(new QTimer(this))
 {
     m_timer->setSingleShot(true);
     m_timer->setInterval(ShortestWait);

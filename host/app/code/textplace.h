@@ -9,8 +9,7 @@ struct TextPlace
     int column = 0;
     int anchorLine = 0;  ///< where the selection began; the place itself for none
     int anchorColumn = 0;
-    int scroll = 0;      ///< values of the scroll bars
-    int sideScroll = 0;  ///< in pixels
+    int scroll = 0;  ///< value of the vertical scroll bar
 };
 
 }  // namespace App

@@ -81,7 +81,7 @@ PlaceRow placeOf(const QString& name)
     static const PlaceRow table[] = {
         {"editor_", "editors", "view", "all"},
         {"view_", "stage", "view", "all"},
-        {"code_", "code", "edit", "code"},
+        {"code_", "code", "code", "code"},
         {"code_tree", "nodes", "view", "code"},
         {"org_", "organizer", "anim", "all"},
         {"thumb_", "thumbnails", "anim", "anim"},

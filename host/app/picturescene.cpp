@@ -1,0 +1,185 @@
+#include "app/picturescene.h"
+
+#include "app/code/codetexteditor.h"
+#include "app/gamesession.h"
+#include "app/mainwindow.h"
+#include "app/messagepanel.h"
+#include "core/interface.h"
+#include "core/message.h"
+#include "core/messages.h"
+#include "editors/code/codeeditor.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QTextBlock>
+#include <QThread>
+
+#include <algorithm>
+#include <iterator>
+#include <tuple>
+
+namespace App {
+
+using Family::FamilyDocument;
+using Family::FamilyProject;
+using Zorv::CodeEditor;
+
+namespace {
+
+constexpr int SettleTime = 400;  // milliseconds: panels follow a little later
+constexpr int Step = 10;
+
+/// How much a document fills the panels: one with both problems and animations
+/// goes first, then one with problems.
+using Weight = std::tuple<bool, int, int>;
+
+Weight weightOf(const FamilyDocument* document)
+{
+    const int problems = document->messages()->count(Zorv::Message::AllTypes);
+    const int animations = document->animations()->count();
+    return {problems > 0 && animations > 0, problems, animations};
+}
+
+FamilyDocument* mostTelling(const FamilyProject* project, FamilyDocument* best)
+{
+    const QList<FamilyDocument*> documents = project->documents();
+    for (FamilyDocument* document : documents) {
+        best = !best || weightOf(document) > weightOf(best) ? document : best;
+    }
+    return best;
+}
+
+/// Opens the document that fills the panels best, and its project; null for none.
+FamilyDocument* openMostTelling(MainWindow* window)
+{
+    FamilyDocument* best = nullptr;
+    const QStringList mainFiles =
+        Family::FamilyParentProject::mainFiles(window->session()->folder());
+    for (const QString& mainFile : mainFiles) {
+        QString error;
+        if (const FamilyProject* project = window->session()->openProject(mainFile, &error)) {
+            best = mostTelling(project, best);
+        }
+    }
+    const FamilyProject* shown = projectOf(best);
+    // Projects that were only looked into would fill the tree.
+    const QList<FamilyProject*> projects = window->session()->projects();
+    for (FamilyProject* project : projects) {
+        if (project != shown) {
+            window->session()->closeProject(project);
+        }
+    }
+    const bool isOpen =
+        best && window->openFile(shown->fileName()) && window->openFile(best->fileName());
+    return isOpen ? best : nullptr;
+}
+
+/// The n-th line that begins with a word, counted from 0; the first line if there are fewer.
+QTextBlock lineOf(const FamilyDocument* document, const QString& word, int n)
+{
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        if (block.text().startsWith(word) && n-- == 0) {
+            return block;
+        }
+    }
+    return document->begin();
+}
+
+/// The first problem, with its row in the list.
+void showProblem(MainWindow* window, const FamilyDocument* document)
+{
+    const Zorv::Message first = document->messages()->at(0);
+    window->textEditor()->goTo(first.line, first.column);
+    window->messagePanel()->showMessagesOf(document);
+}
+
+/// Three animations are folded, the mouse is on the second, and the cursor below.
+void showFolds(MainWindow* window, const FamilyDocument* document)
+{
+    Zorv::Interface::instance()->setOption(QStringLiteral("code_highlight_blocks"), true);
+    window->reconfig();
+    CodeEditor* edit = window->currentEdit();
+    const QString head = QStringLiteral("animation");
+    window->textEditor()->goTo(lineOf(document, head, 3).blockNumber() + 3);
+    for (int i : {0, 1, 2}) {
+        edit->toggleBlockVisible(lineOf(document, head, i));
+    }
+    QTextCursor cursor(lineOf(document, head, 1));
+    cursor.movePosition(QTextCursor::EndOfBlock);
+    settleWindow();
+    const QRect end = edit->cursorRect(cursor);
+    const QPointF box(end.right() + 2 * edit->fontMetrics().averageCharWidth() + 8,
+                      end.center().y());
+    QMouseEvent move(QEvent::MouseMove, box, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(edit->viewport(), &move);
+}
+
+/// What can stand behind a frame.
+void showWords(MainWindow* window, const FamilyDocument* document)
+{
+    const QTextBlock line = lineOf(document, QStringLiteral("frame"), 2);
+    window->textEditor()->goTo(line.blockNumber(), line.length());
+    window->currentEdit()->insertPlainText(QStringLiteral(" "));
+    window->actionByName("code_complete")->trigger();
+}
+
+void showMatches(MainWindow* window, const FamilyDocument* document)
+{
+    const QString word = QStringLiteral("attack");
+    window->textEditor()->goTo(lineOf(document, word, 0).blockNumber(), 0, word.size());
+    window->actionByName("replace")->trigger();
+}
+
+struct Scene
+{
+    const char* name;
+    void (*arrange)(MainWindow* window, const FamilyDocument* document);
+};
+
+const Scene scenes[] = {
+    {"code", showProblem},
+    {"folding", showFolds},
+    {"completion", showWords},
+    {"find", showMatches},
+};
+
+}  // namespace
+
+QStringList pictureScenes()
+{
+    QStringList names;
+    for (const Scene& scene : scenes) {
+        names.append(QLatin1String(scene.name));
+    }
+    return names;
+}
+
+void arrangeScene(MainWindow* window, const QString& name)
+{
+    const FamilyDocument* document = openMostTelling(window);
+    const auto found = std::find_if(std::begin(scenes), std::end(scenes), [&](const Scene& scene) {
+        return name == QLatin1String(scene.name);
+    });
+    if (document) {
+        settleWindow();
+        (found == std::end(scenes) ? scenes : found)->arrange(window, document);
+    }
+}
+
+void settleWindow()
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < SettleTime) {
+        QCoreApplication::processEvents();
+        QThread::msleep(Step);
+    }
+}
+
+}  // namespace App
