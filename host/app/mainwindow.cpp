@@ -122,8 +122,8 @@ void MainWindow::makeCode()
 void MainWindow::makeCodeHelp()
 {
     JumpServices services;
-    services.show = [this](FamilyDocument* document, int line, int column, int length) {
-        showPlace(document, line, column, length);
+    services.show = [this](FamilyDocument* document, int line, int column) {
+        showPlace(document, line, column, 0);
     };
     services.open = [this](const QString& fileName) { return openFile(fileName); };
     services.tell = [this](const QString& text) { statusBarText(text); };
