@@ -107,7 +107,7 @@ void CodeHelpTest::init()
     words = new WordPopup(editor.get());
     new WordHover(editor.get());
     JumpServices services;
-    services.show = [this](FamilyDocument* target, int line, int column, int) {
+    services.show = [this](FamilyDocument* target, int line, int column) {
         editor->setDocument(target);
         editor->setCurrentLine({line, column, 0});
     };

@@ -55,7 +55,7 @@ void DefinitionJumps::jumpFrom(const TextPosition& place)
     }
     remember();
     m_services.show(const_cast<FamilyDocument*>(found.place.document), found.place.line,
-                    found.place.column, found.place.length);
+                    found.place.column);
 }
 
 bool DefinitionJumps::openFile(const QString& fileName)
@@ -99,13 +99,13 @@ bool DefinitionJumps::returnTo(const Place& place)
 {
     if (place.document) {
         const QTextCursor& cursor = place.cursor;
-        m_services.show(place.document, cursor.blockNumber(), cursor.positionInBlock(), 0);
+        m_services.show(place.document, cursor.blockNumber(), cursor.positionInBlock());
         return true;
     }
     if (place.fileName.isEmpty() || !m_services.open(place.fileName)) {
         return false;
     }
-    m_services.show(documentIn(m_editor), place.line, place.column, 0);
+    m_services.show(documentIn(m_editor), place.line, place.column);
     return true;
 }
 

@@ -26,8 +26,8 @@ struct TextPosition;
 /// What the window does for jumps.
 struct JumpServices
 {
-    /// Shows columns of a document; all from 0.
-    std::function<void(Family::FamilyDocument* document, int line, int column, int length)> show;
+    /// Brings a document to the front, with the cursor at a place from 0.
+    std::function<void(Family::FamilyDocument* document, int line, int column)> show;
 
     /// Opens a file of the game and brings its text to the front; false if it cannot.
     std::function<bool(const QString& fileName)> open;
