@@ -133,6 +133,9 @@ void CodeEditorTest::goesToAPlace()
     QCOMPARE(place.line, 310);
     QCOMPARE(place.column, 2);
     QCOMPARE(place.scroll, 305);
+    shown.toggle({300});
+    shown.editor.setCurrentLine(CodeEditor::LinePos{310, 2, 305});
+    QVERIFY(shown.editor.textCursor().block().isVisible());
     shown.editor.setCurrentLine(CodeEditor::LinePos{-4, 99, -7});
     QCOMPARE(shown.editor.textCursor().position(), 4);
     shown.editor.setCurrentLine(CodeEditor::LinePos{9999, 99, 9999});

@@ -55,6 +55,8 @@ private slots:
     void keysGoAround();
     void editsShow_data();
     void editsShow();
+    void editsShowFurtherAbove();
+    void joinedLinesComeOut();
     void randomEditsHideNothingForGood();
     void levelsThatGoWithoutAnEdit();
     void boxOpens();
@@ -229,6 +231,34 @@ void CodeFoldingTest::editsShow()
     QTEST(shown.editor.textCursor().blockNumber(), "cursorLine");
 }
 
+/// The level of a comment depends on the next line that is none.
+void CodeFoldingTest::editsShowFurtherAbove()
+{
+    ShownEditor shown(QStringLiteral("[1*]\n# one\n[2]"));
+    shown.toggle({0});
+    shown.putCursor(2, 0);
+    QTest::keyClick(&shown.editor, Qt::Key_Return);
+    QCOMPARE(shown.visibility(), QStringLiteral(".h.."));
+    shown.putCursor(3, 2);
+    QTest::keyClicks(&shown.editor, QStringLiteral("*"));
+    QCOMPARE(shown.visibility(), QStringLiteral("...."));
+}
+
+void CodeFoldingTest::joinedLinesComeOut()
+{
+    ShownEditor shown(QStringLiteral("#\n[1]\na=1\nb=2\nc=3\n[2*]"));
+    shown.toggle({1});
+    shown.putCursor(1, 0);
+    QTest::keyClick(&shown.editor, Qt::Key_Up);
+    QTest::keySequence(&shown.editor, QKeySequence(Qt::SHIFT | Qt::Key_Down));
+    QTest::keyClick(&shown.editor, Qt::Key_Delete);
+    QCOMPARE(shown.visibility(), QStringLiteral(".hhh."));
+    QTest::keyClick(&shown.editor, Qt::Key_End);
+    QTest::keyClick(&shown.editor, Qt::Key_Delete);
+    QCOMPARE(shown.document.text(), QStringLiteral("[1]a=1\nb=2\nc=3\n[2*]"));
+    QCOMPARE(shown.visibility(), QStringLiteral("...."));
+}
+
 /// Edits by another hand too: no view's cursor is there to open the fold.
 void CodeFoldingTest::randomEditsHideNothingForGood()
 {
@@ -329,15 +359,15 @@ void CodeFoldingTest::previewComesAndGoes()
 
 void CodeFoldingTest::previewLeavesTheScrollBarsAlone()
 {
-    QString text = QStringLiteral("[1*]\n");
-    for (int i = 0; i < 200; ++i) {
-        text += QStringLiteral("a=%1\n").arg(i);
-    }
-    ShownEditor shown(text + QStringLiteral("[2*]\n") + QString(60, QLatin1Char('\n')));
-    shown.toggle({0});
+    // Nothing of the fold has ever been on the screen.
+    const QString lines = QStringLiteral("a=1\n").repeated(100);
+    ShownEditor shown(lines + QStringLiteral("[1*]\n") + lines + QStringLiteral("[2*]\n") + lines);
+    shown.toggle({100});
+    shown.editor.setCurrentLine(100U, CodeEditor::TopLine);
+    QCoreApplication::processEvents();
     const int maximum = shown.editor.verticalScrollBar()->maximum();
     const QImage without = shown.viewport()->grab().toImage();
-    QTest::mouseMove(shown.viewport(), shown.box(0));
+    QTest::mouseMove(shown.viewport(), shown.box(100));
     QTRY_VERIFY(shown.viewport()->grab().toImage() != without);
     QCOMPARE(shown.editor.verticalScrollBar()->maximum(), maximum);
     QCOMPARE(faultOfFolds(&shown.document), QString());
