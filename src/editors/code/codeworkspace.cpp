@@ -156,6 +156,13 @@ bool CodeWorkspacePrivate::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
+void CodeWorkspacePrivate::tellDocument()
+{
+    editor->setAccessibleName(document() ? CodeWorkspace::tr("Text of %1").arg(document()->title())
+                                         : CodeWorkspace::tr("Text"));
+    updateEncoding();
+}
+
 void CodeWorkspacePrivate::updateEncoding()
 {
     if (document()) {
@@ -176,9 +183,7 @@ void CodeWorkspacePrivate::retranslate()
         boxes[i]->setToolTip(names[i]);
     }
     SnippetManager::instance()->retranslate();
-    editor->setAccessibleName(document() ? CodeWorkspace::tr("Text of %1").arg(document()->title())
-                                         : CodeWorkspace::tr("Text"));
-    updateEncoding();
+    tellDocument();
 }
 
 CodeWorkspace::CodeWorkspace(QObject* parent)
@@ -287,7 +292,7 @@ void CodeWorkspace::setDocument(CodeDocument* document)
         d->restorePlace(document);
         d->editor->setFocus();
     }
-    d->retranslate();
+    d->tellDocument();
 }
 
 CodeEditor* CodeWorkspace::editor() const

@@ -35,6 +35,7 @@ public:
     void setEnabled(bool enabled);
     void setFont(const QFont& font);
     void changeFontSize(double points);
+    void tellDocument();
     void updateEncoding();
     void retranslate();
     void insertText(const QString& text);
