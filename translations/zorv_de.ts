@@ -260,7 +260,7 @@
     </message>
     <message>
         <source>Nodes</source>
-        <translation type="unfinished">Knoten</translation>
+        <translation>Knoten</translation>
     </message>
 </context>
 <context>
@@ -278,7 +278,7 @@
     </message>
     <message>
         <source>Nodes of the text</source>
-        <translation type="unfinished">Knoten des Textes</translation>
+        <translation>Knoten des Textes</translation>
     </message>
 </context>
 <context>
@@ -776,6 +776,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>&amp;Tools</source>
         <translation>E&amp;xtras</translation>
+    </message>
+    <message>
+        <source>&amp;Code</source>
+        <translation>&amp;Code</translation>
     </message>
 </context>
 <context>
