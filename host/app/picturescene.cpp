@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QThread>
 
@@ -99,17 +100,18 @@ void showProblem(MainWindow* window, const FamilyDocument* document)
     window->messagePanel()->showMessagesOf(document);
 }
 
-/// Three animations are folded, the mouse is on the second, and the cursor below.
+/// Three animations are folded, the mouse is on the second, and the cursor further down.
 void showFolds(MainWindow* window, const FamilyDocument* document)
 {
     Zorv::Interface::instance()->setOption(QStringLiteral("code_highlight_blocks"), true);
     window->reconfig();
     CodeEditor* edit = window->currentEdit();
     const QString head = QStringLiteral("animation");
-    window->textEditor()->goTo(lineOf(document, head, 3).blockNumber() + 3);
+    window->textEditor()->goTo(lineOf(document, head, 4).blockNumber() + 3);
     for (int i : {0, 1, 2}) {
         edit->toggleBlockVisible(lineOf(document, head, i));
     }
+    edit->verticalScrollBar()->setValue(0);
     QTextCursor cursor(lineOf(document, head, 1));
     cursor.movePosition(QTextCursor::EndOfBlock);
     settleWindow();
@@ -131,7 +133,7 @@ void showWords(MainWindow* window, const FamilyDocument* document)
 
 void showMatches(MainWindow* window, const FamilyDocument* document)
 {
-    const QString word = QStringLiteral("attack");
+    const QString word = QStringLiteral("frame");
     window->textEditor()->goTo(lineOf(document, word, 0).blockNumber(), 0, word.size());
     window->actionByName("replace")->trigger();
 }
