@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editors/code/numberpainter_p.h"
+
 #include <QBasicTimer>
 #include <QIcon>
 #include <QTextCursor>
@@ -66,6 +68,7 @@ private:
     void paintMark(QPainter* painter, const QTextBlock& block, const QRect& strip) const;
     void paintNumber(QPainter* painter, const QTextBlock& block, const QRect& strip) const;
     bool isStrong(const QTextBlock& block) const;
+    QColor ground() const;  ///< below marks and numbers
 
     void moved(const QPoint& place);
     void pressed(const QPoint& place);
@@ -77,6 +80,7 @@ private:
     std::array<QIcon, 3> m_markIcons;  ///< by the type of message
     QIcon m_contractIcon;
     QIcon m_expandIcon;
+    NumberPainter m_numbers;
     QBasicTimer m_autoScrollTimer;
     int m_selectionAnchorLine = -1;  ///< where a drag began
     int m_markedLine = -1;           ///< the last one pressed in the column of marks

@@ -22,16 +22,28 @@ constexpr CodeBlockData::SyntaxMessage::Type MarkOrder[] = {
     CodeBlockData::SyntaxMessage::Error, CodeBlockData::SyntaxMessage::Deprecated,
     CodeBlockData::SyntaxMessage::Warning};
 
+/// A color with alpha 100 on a ground. Qt draws opaque characters faster.
+QColor faded(const QColor& color, const QColor& ground)
+{
+    const auto mixed = [](int top, int below) { return (top * 100 + below * 155) / 255; };
+    return QColor(mixed(color.red(), ground.red()), mixed(color.green(), ground.green()),
+                  mixed(color.blue(), ground.blue()));
+}
+
 }  // namespace
+
+QColor CodeEditorExtraArea::ground() const
+{
+    return palette().color(QPalette::Base).darker(115);
+}
 
 void CodeEditorExtraArea::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.setFont(m_editor->q->font());
-    const QColor base = palette().color(QPalette::Base);
+    m_numbers.setFont(m_editor->q->font());
     const int foldX = width() - foldWidth();
-    painter.fillRect(event->rect(), base);
-    painter.fillRect(event->rect().intersected(QRect(0, 0, foldX, height())), base.darker(115));
+    painter.fillRect(event->rect(), palette().color(QPalette::Base));
+    painter.fillRect(event->rect().intersected(QRect(0, 0, foldX, height())), ground());
     const QAbstractTextDocumentLayout* layout = m_editor->q->document()->documentLayout();
     QTextBlock block = visibleFrom(m_editor->firstVisibleBlock());
     qreal top = m_editor->blockRect(block).top();
@@ -121,16 +133,10 @@ void CodeEditorExtraArea::paintMark(QPainter* painter, const QTextBlock& block,
 void CodeEditorExtraArea::paintNumber(QPainter* painter, const QTextBlock& block,
                                       const QRect& strip) const
 {
-    QColor color = palette().color(QPalette::WindowText);
-    if (!isStrong(block)) {
-        color.setAlpha(100);
-    }
-    painter->setPen(color);
-    int left = 0;
-    neededWidth(&left);
+    const QColor strong = palette().color(QPalette::WindowText);
+    painter->setPen(isStrong(block) ? strong : faded(strong, ground()));
     const int right = width() - foldWidth() - 4;
-    painter->drawText(QRect(left, strip.top(), right - left, strip.height()), Qt::AlignRight,
-                      QString::number(block.blockNumber() + 1));
+    m_numbers.draw(painter, QPointF(right, strip.top()), block.blockNumber() + 1);
 }
 
 /// The cursor's line, and those that meet the selection.

@@ -12,6 +12,7 @@
 #include <QTextBlock>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Zorv {
 
@@ -76,22 +77,45 @@ void CodePainter::paintRanges()
     if (!m_editor->formatting.paintBlockRanges || ranges.isEmpty()) {
         return;
     }
+    const QAbstractTextDocumentLayout* layout = m_editor->q->document()->documentLayout();
+    qreal top = m_editor->contentOffset().y();
+    qreal bottom = top;
+    int depth = 0;
+    for (QTextBlock block = visibleFrom(m_editor->firstVisibleBlock());
+         block.isValid() && bottom <= m_view.height() + RangeMargin;
+         block = visibleFrom(block.next())) {
+        const int own = BlockRanges::depth(ranges, block.blockNumber());
+        if (own != depth) {
+            paintDepth(ranges, depth, top, bottom);
+            top = bottom;
+            depth = own;
+        }
+        bottom += layout->blockBoundingRect(block).height();
+    }
+    paintDepth(ranges, depth, top, bottom);
+}
+
+/// Lines that stand in as many ranges, each of which lies on the one around it. What
+/// would be painted over is left out: filling takes longer than the text.
+void CodePainter::paintDepth(const HighlightBlocks& ranges, int depth, qreal top, qreal bottom)
+{
     const QColor own = m_editor->formatting.blockRangeColor;
     const QColor base = own.isValid() ? own : m_editor->q->palette().color(QPalette::Base);
     const QVector<QColor> colors = BlockRanges::colors(base, ranges.count());
-    const QAbstractTextDocumentLayout* layout = m_editor->q->document()->documentLayout();
-    const QPointF offset = m_editor->contentOffset();
-    qreal y = offset.y();
-    for (QTextBlock block = visibleFrom(m_editor->firstVisibleBlock());
-         block.isValid() && y <= m_view.height() + RangeMargin; block = visibleFrom(block.next())) {
-        const qreal height = layout->blockBoundingRect(block).height();
-        const int depth = BlockRanges::depth(ranges, block.blockNumber());
-        for (int i = 0; i <= depth && y <= m_rect.bottom() && y + height >= m_rect.top(); ++i) {
-            const qreal left = offset.x() + (i > 0 ? ranges.visualIndent.at(i - 1) : 0);
-            const qreal right = m_view.width() - RangeStep * i;
-            m_painter.fillRect(QRectF(left, y, std::max(right - left, 0.0), height), colors.at(i));
+    const qreal x = m_editor->contentOffset().x();
+    const auto left = [&](int i) { return x + (i > 0 ? ranges.visualIndent.at(i - 1) : 0); };
+    const auto right = [&](int i) {
+        return std::max<qreal>(m_view.width() - RangeStep * i, left(i));
+    };
+    for (int i = 0; i <= depth; ++i) {
+        const bool isCovered = i < depth && colors.at(i + 1).alpha() == 255;
+        const qreal end = isCovered ? std::min(left(i + 1), right(i)) : right(i);
+        const qreal start = isCovered ? std::max(right(i + 1), left(i)) : right(i);
+        for (const auto& [from, to] : {std::pair(left(i), end), std::pair(start, right(i))}) {
+            const QRectF rect =
+                QRectF(QPointF(from, top), QPointF(std::max(from, to), bottom)) & m_rect;
+            m_painter.fillRect(rect, colors.at(i));
         }
-        y += height;
     }
 }
 
@@ -217,9 +241,9 @@ void CodePainter::paintEmptyCell(const QTextBlock& block, int column)
     qreal width = QFontMetricsF(layout->font()).horizontalAdvance(QLatin1Char(' '));
     qreal left = line.cursorToX(column);
     if (column < block.length() - 1) {
-        const auto [start, end] = std::minmax(left, line.cursorToX(column + 1));
-        width = std::min(width, end - start);
-        left = end - width;
+        const qreal other = line.cursorToX(column + 1);
+        width = std::min(width, std::abs(other - left));
+        left = std::max(left, other) - width;
     } else if (block.textDirection() == Qt::RightToLeft) {
         left -= width;
     }

@@ -10,6 +10,7 @@ class QTextBlock;
 namespace Zorv {
 
 class CodeEditorPrivate;
+struct HighlightBlocks;
 
 /// Paints the text of a `CodeEditor` with all that belongs to it. One object
 /// paints one event.
@@ -24,6 +25,7 @@ private:
     using Formats = QVector<QTextLayout::FormatRange>;
 
     void paintRanges();
+    void paintDepth(const HighlightBlocks& ranges, int depth, qreal top, qreal bottom);
     void paintPlaceholder();
     void paintText();
     void paintBlock(const QTextBlock& block);
