@@ -39,22 +39,6 @@ int walkDown(QTextBlock block, int limit)
     return block.blockNumber();
 }
 
-/// The test grammar with brackets, which it reports wherever they stand.
-class BracketParser : public TestParser
-{
-public:
-    CodeNode* parse(const QString& text, CodeNode* oldNode, CodeNode* previous, RootCode* root,
-                    CodeParserSyntax* syntax) override
-    {
-        for (int i = 0; syntax && i < text.size(); ++i) {
-            if (text.at(i) == QLatin1Char('(') || text.at(i) == QLatin1Char(')')) {
-                syntax->parenthesis(text.at(i) == QLatin1Char('('), text.at(i), i);
-            }
-        }
-        return TestParser::parse(text, oldNode, previous, root, syntax);
-    }
-};
-
 }  // namespace
 
 /// The searches for lines by level and by brackets, beside a plain walk.
@@ -111,10 +95,7 @@ void LineLevels::linesNeverParsed()
 
 void LineLevels::unpaired()
 {
-    BracketParser parser;
-    GrammarDocument document;
-    document.setParser(&parser);
-    document.setPlainText(QStringLiteral("()\n(\n# (())()\n) (\n)\n(a)"));
+    GrammarDocument document(QStringLiteral("()\n(\n# (())()\n) (\n)\n(a)"));
     constexpr int both = CodeDocument::LacksClosing | CodeDocument::LacksOpening;
     const auto next = [&](int line, int lacking) {
         return document.nextUnpairedBlock(document.findBlockByNumber(line), lacking).blockNumber();
@@ -133,7 +114,6 @@ void LineLevels::unpaired()
     QCOMPARE(previous(3, CodeDocument::LacksOpening), -1);
     QTextCursor(document.findBlockByNumber(2)).insertText(QStringLiteral(")"));
     QCOMPARE(next(1, CodeDocument::LacksOpening), 2);
-    document.setParser(nullptr);
 }
 
 QTEST_MAIN(LineLevels)

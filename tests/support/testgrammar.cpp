@@ -44,6 +44,17 @@ void report(CodeParserSyntax* syntax, const QString& text)
     }
 }
 
+void reportBrackets(CodeParserSyntax* syntax, const QString& text)
+{
+    static const QString brackets = QStringLiteral("({)}");
+    for (int i = 0; syntax && i < text.size(); ++i) {
+        const int kind = brackets.indexOf(text.at(i));
+        if (kind >= 0) {
+            syntax->parenthesis(kind < 2, text.at(i), i);
+        }
+    }
+}
+
 }  // namespace
 
 CodeNode* TestParser::parse(const QString& text, CodeNode* oldNode, CodeNode* previous, RootCode*,
@@ -52,6 +63,7 @@ CodeNode* TestParser::parse(const QString& text, CodeNode* oldNode, CodeNode* pr
     if (records) {
         parsed.append(text);
     }
+    reportBrackets(syntax, text);
     const QChar first = text.isEmpty() ? QChar() : text.at(0);
     const auto end = unsigned(text.size());
     const auto ok = [&](CodeParserSyntax::TokenType type) {

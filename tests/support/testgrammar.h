@@ -18,6 +18,7 @@
 ///     -text       a frame, under an animation
 ///     # text      a comment
 ///     ?e ?w ?d    an error, a warning, a deprecation; anything unknown is an error
+///     ( ) { }     brackets, wherever they stand
 class TestParser : public Zorv::CodeParser
 {
 public:
