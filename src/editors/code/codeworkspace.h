@@ -74,8 +74,13 @@ public:
     void goToLine();
     void nextError();
     void prevError();
+
+    /// These stop at warnings as well, which is what lists call deprecations too.
     void nextDepr();
     void prevDepr();
+
+    /// Makes comments of the selected lines, or of the cursor's; takes the mark off
+    /// again if the first of them begins with it.
     void comment();
     void foldAll();
     void unfoldAll();
