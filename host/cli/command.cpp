@@ -77,6 +77,10 @@ constexpr Command table[] = {
      "which is printed; with --no-safety-backup it is not. With --dry-run nothing is written: a\n"
      "line for each file tells, with a tab between, if it is 'new', 'changed' or the 'same', and\n"
      "its path in the game."},
+    {"completer", "", 0, 0, Command::NoOptions, completerCommand,
+     "Print the words that the editor completes.",
+     "They are groups, sub-groups and choices of the grammar, as the file 'completer.xml' of the\n"
+     "family's data has them. A file that is changed by hand starts from here."},
     {"help", "[COMMAND]", 0, 2, Command::NoOptions, helpCommand,
      "Print what there is, or all about a command.",
      "'zorv COMMAND --help' does the same."},
@@ -154,7 +158,9 @@ bool checkOperands(const Command& command, const Invocation& invocation, QString
 
 QString Command::usage() const
 {
-    QString text = QStringLiteral("zorv %1 %2").arg(QLatin1String(name), QLatin1String(operands));
+    QString text = QStringLiteral("zorv %1 %2")
+                       .arg(QLatin1String(name), QLatin1String(operands))
+                       .trimmed();
     if (options & Json) {
         text += QLatin1String(" [--json]");
     }

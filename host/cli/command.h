@@ -62,6 +62,7 @@ int runInEngine(const Invocation& invocation, Output& output);
 int backUp(const Invocation& invocation, Output& output);
 int listBackups(const Invocation& invocation, Output& output);
 int restore(const Invocation& invocation, Output& output);
+int completerCommand(const Invocation& invocation, Output& output);
 int helpCommand(const Invocation& invocation, Output& output);
 
 }  // namespace Cli
