@@ -212,7 +212,6 @@ void FindBar::showState()
     }
     m_state->setPalette(colours);
     m_state->setText(m_search->state());
-    m_state->setAccessibleName(m_search->state());
     const bool canReplace = m_search->canFind() && !m_editor->isReadOnly();
     for (const char* name : {"find_next", "find_previous"}) {
         findChild<QToolButton*>(QLatin1String(name))->setEnabled(m_search->canFind());

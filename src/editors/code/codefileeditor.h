@@ -55,12 +55,16 @@ public:
     void redo() override;
 
     /// Looks for a text from the selection on, once around the whole document, and
-    /// selects what it finds; tells the person if there is nothing. `flags` are those
-    /// of `FindFlag`.
+    /// selects what it finds, unfolded. If there is nothing, as for an expression that
+    /// does not compile, the person is told, and the cursor stands where the second
+    /// round began. Nothing for an empty text and while the editor is inactive.
+    /// `flags` are bits of `FindFlag`.
     void find(const QString& text, unsigned flags) override;
 
     /// Replaces the selection if it is a match, and goes on to the next one; with
-    /// `all` every match, as one step of undo.
+    /// `all` every match, as one step of undo. Without a match the whole text takes its
+    /// own place, which is such a step too. In `with` \1 to \99 are what the groups of
+    /// an expression have captured.
     void replace(const QString& text, const QString& with, unsigned flags, bool all) override;
 
     void selectAll() override;

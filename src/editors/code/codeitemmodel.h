@@ -16,10 +16,11 @@ class CodeNode;
 
 /// The nodes of a code document as a tree of one column.
 ///
-/// Nodes die at any keystroke, so an index whose node is gone has neither parent
-/// nor children, and costs no walk to be told from others. `update()` announces
-/// all rows anew; a host that wants to keep what is expanded derives and overrides
-/// it. Main thread only.
+/// The pointer of an index is its node. Nodes die at any keystroke, so an index
+/// whose node is gone has neither parent nor children; the document tracks the
+/// nodes that indexes were made of, and tells these from others without a walk.
+/// `update()` announces all rows anew; a host that wants to keep what is expanded
+/// derives and overrides it. Main thread only.
 class ZORV_EXPORT CodeItemModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -28,11 +29,12 @@ public:
     explicit CodeItemModel(QObject* parent = nullptr);
     ~CodeItemModel() override;
 
-    /// Null for none; not owned, and to be taken off before it dies.
+    /// Null for none; not owned, and let go of when it dies.
     virtual void setDocument(const CodeDocument* document);
     const CodeDocument* document() const;
 
-    /// Brings the rows in line with the document: they are removed and inserted.
+    /// Brings the rows in line with the document: the top ones are removed and
+    /// inserted. Until then there are as many as were announced.
     virtual void update();
 
     /// The line of a node from 0; -1 for an index without one.
