@@ -187,15 +187,19 @@
     </message>
     <message>
         <source>Co&amp;mplete word</source>
-        <translation type="unfinished"></translation>
+        <translation>Wort er&amp;gänzen</translation>
     </message>
     <message>
         <source>&amp;Go to definition</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gehe zur Definition</translation>
     </message>
     <message>
         <source>Go &amp;back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück&amp;gehen</translation>
+    </message>
+    <message>
+        <source>&amp;Fold or unfold</source>
+        <translation>&amp;Falten oder entfalten</translation>
     </message>
 </context>
 <context>
@@ -267,7 +271,7 @@
     <name>App::CodeHelp</name>
     <message>
         <source>There are no words to choose from at this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>An dieser Stelle gibt es keine Wörter zur Auswahl.</translation>
     </message>
 </context>
 <context>
@@ -285,11 +289,11 @@
     <name>App::DefinitionJumps</name>
     <message>
         <source>%1 is no text that can be shown here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein Text, der hier gezeigt werden kann.</translation>
     </message>
     <message>
         <source>There is no jump to go back from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Sprung, von dem es zurückgeht.</translation>
     </message>
 </context>
 <context>
@@ -1923,11 +1927,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>the name of a command</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name eines Befehls</translation>
     </message>
     <message>
         <source>the name of a move</source>
-        <translation type="unfinished"></translation>
+        <translation>der Name einer Aktion</translation>
     </message>
 </context>
 <context>
@@ -2175,27 +2179,27 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::Reference</name>
     <message>
         <source>There is no file &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Datei &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>No other frame of the project shows the sprite %1,%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein anderes Einzelbild des Projekts zeigt das Sprite %1,%2.</translation>
     </message>
     <message>
         <source>There is no command &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Befehl &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>There is no move &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Aktion &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>There is no animation &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Animation &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>Nothing here names something that stands elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier wird nichts genannt, das anderswo steht.</translation>
     </message>
 </context>
 <context>
@@ -2209,85 +2213,79 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::WordMeaning</name>
     <message>
         <source>The format of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Format der Datei</translation>
     </message>
     <message>
         <source>Belongs to [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehört zu [%1]</translation>
     </message>
     <message>
         <source>Takes a name, as in [%1 first]</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt einen Namen, wie in [%1 first]</translation>
     </message>
     <message>
         <source>Takes %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt: %1</translation>
     </message>
     <message>
         <source>Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Pflichtangabe</translation>
     </message>
     <message>
         <source>May stand several times</source>
-        <translation type="unfinished"></translation>
+        <translation>Darf mehrmals stehen</translation>
     </message>
     <message>
         <source>animation %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message numerus="yes">
-        <source>%n frame(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n tick(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
+        <translation>Animation %1</translation>
     </message>
     <message>
         <source>In %1</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1</translation>
     </message>
     <message>
         <source>There is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine solche Datei</translation>
     </message>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>linke</translation>
     </message>
     <message>
         <source>top</source>
-        <translation type="unfinished"></translation>
+        <translation>obere</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>rechte</translation>
     </message>
     <message>
         <source>bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>untere</translation>
     </message>
     <message>
         <source>%1 edge: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kante: %2</translation>
     </message>
     <message>
         <source>Pixels from the axis of the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel von der Achse des Einzelbilds</translation>
     </message>
     <message>
         <source>sprite %1,%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite %1,%2</translation>
     </message>
     <message>
         <source>Group and number of the sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe und Nummer des Sprites</translation>
+    </message>
+    <message>
+        <source>Frames: %1; it never ends</source>
+        <translation>Einzelbilder: %1; sie endet nie</translation>
+    </message>
+    <message>
+        <source>Frames: %1; ticks: %2</source>
+        <translation>Einzelbilder: %1; Ticks: %2</translation>
     </message>
 </context>
 <context>
@@ -2305,491 +2303,491 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Grammar</name>
     <message>
         <source>Place of the sprite beside the axis: x and y</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz des Sprites neben der Achse: x und y</translation>
     </message>
     <message>
         <source>Ticks for which it is shown; -1 never ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Ticks, die es zu sehen ist; -1 endet nie</translation>
     </message>
     <message>
         <source>How the sprite is mirrored</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das Sprite gespiegelt wird</translation>
     </message>
     <message>
         <source>Stretch across and down; below 0 mirrors</source>
-        <translation type="unfinished"></translation>
+        <translation>Streckung waagerecht und senkrecht; unter 0 gespiegelt</translation>
     </message>
     <message>
         <source>Degrees, counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad, gegen den Uhrzeigersinn</translation>
     </message>
     <message>
         <source>The animation starts again here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier beginnt die Animation von vorn</translation>
     </message>
     <message>
         <source>Mirrored, left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespiegelt, links und rechts</translation>
     </message>
     <message>
         <source>Mirrored, top and bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespiegelt, oben und unten</translation>
     </message>
     <message>
         <source>Mirrored both ways</source>
-        <translation type="unfinished"></translation>
+        <translation>In beide Richtungen gespiegelt</translation>
     </message>
     <message>
         <source>An animation: its number or word, and its name</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Animation: ihre Nummer oder ihr Wort, und ihr Name</translation>
     </message>
     <message>
         <source>A frame: the sprite, and how it is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Einzelbild: das Sprite, und wie es gezeigt wird</translation>
     </message>
     <message>
         <source>A contact box of the next frame that hits</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kontaktbox des nächsten Einzelbilds, die trifft</translation>
     </message>
     <message>
         <source>A contact box of the next frame that is hit</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kontaktbox des nächsten Einzelbilds, die getroffen wird</translation>
     </message>
     <message>
         <source>The name that people see</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name, den man sieht</translation>
     </message>
     <message>
         <source>Who made it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer es gemacht hat</translation>
     </message>
     <message>
         <source>Version of the work</source>
-        <translation type="unfinished"></translation>
+        <translation>Version des Werks</translation>
     </message>
     <message>
         <source>Day of the first version</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag der ersten Version</translation>
     </message>
     <message>
         <source>Day of the last change</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag der letzten Änderung</translation>
     </message>
     <message>
         <source>Width and height of the screen that it was made for</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite und Höhe des Bildschirms, für den es gemacht ist</translation>
     </message>
     <message>
         <source>Colour in lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe in Listen</translation>
     </message>
     <message>
         <source>What others may do with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Was andere damit tun dürfen</translation>
     </message>
     <message>
         <source>Anything else</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles Weitere</translation>
     </message>
     <message>
         <source>Sprite file</source>
-        <translation type="unfinished"></translation>
+        <translation>Spritedatei</translation>
     </message>
     <message>
         <source>Sound file</source>
-        <translation type="unfinished">Klangdatei</translation>
+        <translation>Klangdatei</translation>
     </message>
     <message>
         <source>Further code file</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Codedatei</translation>
     </message>
     <message>
         <source>File of animations</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei mit Animationen</translation>
     </message>
     <message>
         <source>File of commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei mit Befehlen</translation>
     </message>
     <message>
         <source>Life at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Leben zu Beginn</translation>
     </message>
     <message>
         <source>Most power</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchste Kraft</translation>
     </message>
     <message>
         <source>Strength of attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke der Angriffe</translation>
     </message>
     <message>
         <source>Strength of the defence</source>
-        <translation type="unfinished"></translation>
+        <translation>Stärke der Abwehr</translation>
     </message>
     <message>
         <source>Fall, in pixels a tick for each tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Fall, in Pixeln je Tick für jeden Tick</translation>
     </message>
     <message>
         <source>Stretch of all sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>Streckung aller Sprites</translation>
     </message>
     <message>
         <source>Red, green and blue by which colours are multiplied</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot, Grün und Blau, mit denen Farben multipliziert werden</translation>
     </message>
     <message>
         <source>Side of the stronger hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite der stärkeren Hand</translation>
     </message>
     <message>
         <source>Faces the opponent of its own accord</source>
-        <translation type="unfinished"></translation>
+        <translation>Wendet sich von selbst dem Gegner zu</translation>
     </message>
     <message>
         <source>Colour of the shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe des Schattens</translation>
     </message>
     <message>
         <source>Colours of its hit sparks</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben der Trefferfunken</translation>
     </message>
     <message>
         <source>Percent of damage for each further hit of a combo</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent des Schadens für jeden weiteren Treffer einer Kombo</translation>
     </message>
     <message>
         <source>Share of life given back at the end of each round</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteil des Lebens, den es am Ende jeder Runde zurückgibt</translation>
     </message>
     <message>
         <source>Speed forward</source>
-        <translation type="unfinished">Geschwindigkeit nach vorn</translation>
+        <translation>Geschwindigkeit vorwärts</translation>
     </message>
     <message>
         <source>Speed back</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit rückwärts</translation>
     </message>
     <message>
         <source>Shown while walking</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Gehen zu sehen</translation>
     </message>
     <message>
         <source>Shown while running</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Laufen zu sehen</translation>
     </message>
     <message>
         <source>Speed at the start, straight up</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit beim Absprung, gerade hinauf</translation>
     </message>
     <message>
         <source>Speed at the start, forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit beim Absprung, vorwärts</translation>
     </message>
     <message>
         <source>Speed at the start, back</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit beim Absprung, rückwärts</translation>
     </message>
     <message>
         <source>Ticks before the start and after the landing</source>
-        <translation type="unfinished"></translation>
+        <translation>Ticks vor dem Absprung und nach der Landung</translation>
     </message>
     <message>
         <source>The box that keeps fighters apart</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Box, die Kämpfer auseinanderhält</translation>
     </message>
     <message>
         <source>Place of the head</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz des Kopfes</translation>
     </message>
     <message>
         <source>Place of the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz der Mitte</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>Width to the back and to the front</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite nach hinten und nach vorn</translation>
     </message>
     <message>
         <source>The motion of a command</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bewegung eines Befehls</translation>
     </message>
     <message>
         <source>Ticks for the whole motion</source>
-        <translation type="unfinished">Ticks für die ganze Bewegung</translation>
+        <translation>Ticks für die ganze Bewegung</translation>
     </message>
     <message>
         <source>Ticks for which a command stays true</source>
-        <translation type="unfinished">Ticks, für die ein Befehl gilt</translation>
+        <translation>Ticks, die ein Befehl gültig bleibt</translation>
     </message>
     <message>
         <source>The command that starts the move</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Befehl, der die Aktion beginnt</translation>
     </message>
     <message>
         <source>Shown during the move</source>
-        <translation type="unfinished"></translation>
+        <translation>Während der Aktion zu sehen</translation>
     </message>
     <message>
         <source>Where it can be started</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo sie begonnen werden kann</translation>
     </message>
     <message>
         <source>Which of two attacks wins</source>
-        <translation type="unfinished"></translation>
+        <translation>Welcher von zwei Angriffen gewinnt</translation>
     </message>
     <message>
         <source>Speed at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit zu Beginn</translation>
     </message>
     <message>
         <source>The move that it can be cancelled into</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aktion, in die sie abgebrochen werden kann</translation>
     </message>
     <message>
         <source>For the person</source>
-        <translation type="unfinished"></translation>
+        <translation>Für den Menschen</translation>
     </message>
     <message>
         <source>Power that it takes</source>
-        <translation type="unfinished">Kraft, die er kostet</translation>
+        <translation>Kraft, die sie kostet</translation>
     </message>
     <message>
         <source>Life that it takes</source>
-        <translation type="unfinished"></translation>
+        <translation>Leben, das sie kostet</translation>
     </message>
     <message>
         <source>Damage when hit and when guarded</source>
-        <translation type="unfinished"></translation>
+        <translation>Schaden bei Treffer und bei Block</translation>
     </message>
     <message>
         <source>How it has to be guarded</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie sie geblockt werden muss</translation>
     </message>
     <message>
         <source>Ticks for which the other cannot act</source>
-        <translation type="unfinished"></translation>
+        <translation>Ticks, die der andere nicht handeln kann</translation>
     </message>
     <message>
         <source>Speed given to the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschwindigkeit, die der andere bekommt</translation>
     </message>
     <message>
         <source>Place of the spark</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz des Funkens</translation>
     </message>
     <message>
         <source>Pixels by which the screen shakes, tick by tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel, um die der Bildschirm wackelt, Tick für Tick</translation>
     </message>
     <message>
         <source>Group and number of the sound of a hit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe und Nummer des Klangs eines Treffers</translation>
     </message>
     <message>
         <source>Group and number of the sound of a guarded hit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe und Nummer des Klangs eines geblockten Treffers</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautstärke</translation>
     </message>
     <message>
         <source>Palette file</source>
-        <translation type="unfinished">Palettendatei</translation>
+        <translation>Palettendatei</translation>
     </message>
     <message>
         <source>Colours that replace the first ones of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben, die die ersten der Datei ersetzen</translation>
     </message>
     <message>
         <source>The button that selects it</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Taste, die sie auswählt</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>Left end</source>
-        <translation type="unfinished"></translation>
+        <translation>Linkes Ende</translation>
     </message>
     <message>
         <source>Right end</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechtes Ende</translation>
     </message>
     <message>
         <source>Height of the floor</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe des Bodens</translation>
     </message>
     <message>
         <source>Where the middle of the screen can go</source>
-        <translation type="unfinished"></translation>
+        <translation>Wohin die Mitte des Bildschirms gehen kann</translation>
     </message>
     <message>
         <source>Smallest and largest zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinster und größter Zoom</translation>
     </message>
     <message>
         <source>Factor on the gravity of characters</source>
-        <translation type="unfinished"></translation>
+        <translation>Faktor auf die Schwerkraft der Figuren</translation>
     </message>
     <message>
         <source>Colour of shadows</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Schatten</translation>
     </message>
     <message>
         <source>Place of the first fighter</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz des ersten Kämpfers</translation>
     </message>
     <message>
         <source>Place of the second fighter</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz des zweiten Kämpfers</translation>
     </message>
     <message>
         <source>Which way they look</source>
-        <translation type="unfinished"></translation>
+        <translation>Wohin sie blicken</translation>
     </message>
     <message>
         <source>Group and number of a sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe und Nummer eines Sprites</translation>
     </message>
     <message>
         <source>Shown in place of a sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Anstelle eines Sprites zu sehen</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz</translation>
     </message>
     <message>
         <source>How far it follows the camera, across and down</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit es der Kamera folgt, waagerecht und senkrecht</translation>
     </message>
     <message>
         <source>Its own speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Geschwindigkeit</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>How it is mixed with what lies behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie es mit dem gemischt wird, was dahinter liegt</translation>
     </message>
     <message>
         <source>Below 0 behind the fighters</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter 0 hinter den Kämpfern</translation>
     </message>
     <message>
         <source>Where it is repeated</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo es wiederholt wird</translation>
     </message>
     <message>
         <source>How often, across and down; 0 is without end</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft, waagerecht und senkrecht; 0 ist ohne Ende</translation>
     </message>
     <message>
         <source>Pixels between</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel dazwischen</translation>
     </message>
     <message>
         <source>First and last sample of the repeated part</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstes und letztes Sample des wiederholten Teils</translation>
     </message>
     <message>
         <source>Seconds for which it fades in</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden, in denen sie eingeblendet wird</translation>
     </message>
     <message>
         <source>A value that is kept and not looked into</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Wert, der bleibt, wie er ist</translation>
     </message>
     <message>
         <source>An unknown group</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine unbekannte Gruppe</translation>
     </message>
     <message>
         <source>What it is and who made it</source>
-        <translation type="unfinished"></translation>
+        <translation>Was es ist und wer es gemacht hat</translation>
     </message>
     <message>
         <source>The further files of the project</source>
-        <translation type="unfinished"></translation>
+        <translation>Die weiteren Dateien des Projekts</translation>
     </message>
     <message>
         <source>The fixed numbers of a character</source>
-        <translation type="unfinished"></translation>
+        <translation>Die festen Zahlen einer Figur</translation>
     </message>
     <message>
         <source>Walking</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehen</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufen</translation>
     </message>
     <message>
         <source>Jumping</source>
-        <translation type="unfinished"></translation>
+        <translation>Springen</translation>
     </message>
     <message>
         <source>Sizes of the body</source>
-        <translation type="unfinished"></translation>
+        <translation>Maße des Körpers</translation>
     </message>
     <message>
         <source>Commands and motions</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehle und Bewegungen</translation>
     </message>
     <message>
         <source>What counts for all commands</source>
-        <translation type="unfinished"></translation>
+        <translation>Was für alle Befehle gilt</translation>
     </message>
     <message>
         <source>One move</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Aktion</translation>
     </message>
     <message>
         <source>What the move takes</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Aktion kostet</translation>
     </message>
     <message>
         <source>What a hit does</source>
-        <translation type="unfinished"></translation>
+        <translation>Was ein Treffer bewirkt</translation>
     </message>
     <message>
         <source>Sounds of the move</source>
-        <translation type="unfinished"></translation>
+        <translation>Klänge der Aktion</translation>
     </message>
     <message>
         <source>One palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Palette</translation>
     </message>
     <message>
         <source>The extent of a stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ausdehnung einer Bühne</translation>
     </message>
     <message>
         <source>Where fighters begin</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die Kämpfer beginnen</translation>
     </message>
     <message>
         <source>One picture of a stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild einer Bühne</translation>
     </message>
     <message>
         <source>How the picture is repeated</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das Bild wiederholt wird</translation>
     </message>
     <message>
         <source>The music of a stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Musik einer Bühne</translation>
     </message>
 </context>
 <context>
@@ -3348,7 +3346,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Zorv::CodeCompletion</name>
     <message>
         <source>Words to complete</source>
-        <translation type="unfinished">Wörter zum Vervollständigen</translation>
+        <translation>Wörter zur Ergänzung</translation>
     </message>
 </context>
 <context>
@@ -3442,43 +3440,43 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Zorv::CompleterFile</name>
     <message>
         <source>The words to complete cannot be read from %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Wörter zur Ergänzung lassen sich nicht aus %1 lesen: %2</translation>
     </message>
     <message>
         <source>it is no file</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist keine Datei</translation>
     </message>
     <message>
         <source>%1 is too long for a file of words to complete: more than %2 MiB.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist zu lang für eine Datei mit Wörtern zur Ergänzung: mehr als %2 MiB.</translation>
     </message>
     <message>
         <source>%1, line %2, column %3: %4 The words to complete stay as they were.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Zeile %2, Spalte %3: %4 Die Wörter zur Ergänzung bleiben, wie sie waren.</translation>
     </message>
     <message>
         <source>A document type is not allowed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Dokumenttyp ist hier nicht erlaubt.</translation>
     </message>
     <message>
         <source>Expected the element &apos;completer&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: das Element &apos;completer&apos;.</translation>
     </message>
     <message>
         <source>Expected version=&quot;1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: version=&quot;1&quot;.</translation>
     </message>
     <message>
         <source>Expected an attribute &apos;trigger&apos; with a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: ein Attribut &apos;trigger&apos; mit einem Text.</translation>
     </message>
     <message>
         <source>Expected an attribute &apos;text&apos; with a word.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet: ein Attribut &apos;text&apos; mit einem Wort.</translation>
     </message>
     <message>
         <source>These are more than %1 words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das sind mehr als %1 Wörter.</translation>
     </message>
 </context>
 <context>
