@@ -284,7 +284,7 @@ void MeaningTest::meanings_data()
                                         << "Light <punch>";
     QTest::newRow("its frames") << "[move a]\nanimation = 20|0"
                                 << "animation 200"
-                                << "2 frame(s), 4 tick(s)";
+                                << "Frames: 2; ticks: 4";
     QTest::newRow("missing animation") << "[move a]\nanimation = 2|01"
                                        << "201"
                                        << "Shown during the move";

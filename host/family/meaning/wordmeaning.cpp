@@ -45,6 +45,7 @@ private:
     void tellElement(const LinePart* part);
     void tellOption(const LinePart* part);
     void tellSprite();
+    static QString frameSummary(const AnimationNode* animation);
     void add(const QString& line)
     {
         if (!line.isEmpty()) {
@@ -191,6 +192,13 @@ void MeaningReader::tellKey()
     }
 }
 
+QString MeaningReader::frameSummary(const AnimationNode* animation)
+{
+    const int ticks = animation->duration();
+    return ticks < 0 ? tr("Frames: %1; it never ends").arg(animation->childCount())
+                     : tr("Frames: %1; ticks: %2").arg(animation->childCount()).arg(ticks);
+}
+
 /// The animation of that name, wherever it stands in the project.
 void MeaningReader::tellNamed(const QString& name)
 {
@@ -200,8 +208,7 @@ void MeaningReader::tellNamed(const QString& name)
         if (const AnimationNode* animation = document->animations()->animation(index)) {
             m_meaning.title = tr("animation %1").arg(name);
             add(animation->name());
-            add(tr("%n frame(s)", nullptr, animation->childCount()) + QLatin1String(", ") +
-                tr("%n tick(s)", nullptr, animation->duration()));
+            add(frameSummary(animation));
             if (document != m_document) {
                 add(tr("In %1").arg(QFileInfo(document->fileName()).fileName()));
             }
