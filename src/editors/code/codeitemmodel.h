@@ -43,12 +43,18 @@ public:
     /// The index of the deepest node on a line, or of the one that it belongs to;
     /// invalid if that is the document.
     virtual QModelIndex indexInLine(unsigned line) const;
+
+    /// The index of a node of the document that is there; invalid for the document, for
+    /// a node without a parent, and below a top row that is not announced yet.
     virtual QModelIndex nodeIndex(const CodeNode* node) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
+
+    /// The display name of a group, a value or an animation, "Frame" for a frame; and
+    /// the icon of `nodeIcon()`.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     using QObject::parent;
 
