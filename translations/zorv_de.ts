@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>&amp;Fold or unfold</source>
-        <translation>&amp;Falten oder entfalten</translation>
+        <translation>&amp;Ein- oder ausklappen</translation>
     </message>
 </context>
 <context>
@@ -3372,7 +3372,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Zorv::CodeEditorExtraArea</name>
     <message>
         <source>Line numbers, marks and folds</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilennummern, Markierungen und Klappmarken</translation>
     </message>
 </context>
 <context>

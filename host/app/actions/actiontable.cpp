@@ -10,6 +10,7 @@
 #include "app/mainwindow.h"
 #include "app/run/runcommands.h"
 #include "app/settings/showsettings.h"
+#include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
 
 namespace App {
@@ -46,6 +47,11 @@ template <void (GameCommands::*member)()>
 void onGame(MainWindow& window)
 {
     (window.gameCommands()->*member)();
+}
+
+void foldAtCursor(MainWindow& window)
+{
+    window.code()->workspace()->editor()->toggleFold();
 }
 
 template <void (RunCommands::*member)()>
@@ -104,6 +110,7 @@ const QVector<ActionRow>& actionTable()
         {"code_complete",  "code",  QT_TRANSLATE_NOOP("App::Actions", "Co&mplete word"),                  NoKey,        "Ctrl+Space",   NeedsText,       withHelp<&CodeHelp::completeWord>, "code"},
         {"code_definition", "code",  QT_TRANSLATE_NOOP("App::Actions", "&Go to definition"),               NoKey,        "F12",          NeedsText,       withHelp<&CodeHelp::goToDefinition>, "code"},
         {"code_back",      "code",  QT_TRANSLATE_NOOP("App::Actions", "Go &back"),                        NoKey,        "Alt+Left",     NeedsText,       withHelp<&CodeHelp::goBack>, "code"},
+        {"code_fold",      "code",  QT_TRANSLATE_NOOP("App::Actions", "&Fold or unfold"),                NoKey,        "Alt+Shift+Up", NeedsText,       foldAtCursor, "code"},
         {nullptr,          "code",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
         {nullptr,          "edit",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
         {"find",           "edit",  QT_TRANSLATE_NOOP("App::Actions", "&Find..."),                       K::Find,      nullptr,        NeedsText,       inFindBar<&FindBar::openFind>, "code"},

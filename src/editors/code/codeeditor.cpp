@@ -140,6 +140,16 @@ void CodeEditor::toggleBlockVisible(const QTextBlock& block)
     d->updateLayout();
 }
 
+void CodeEditor::toggleFold()
+{
+    QTextBlock block = textCursor().block();
+    if (!CodeFolding::isHead(block) && codeDocument()) {
+        block = codeDocument()->lowerBlockAtOrAbove(block, CodeFolding::indent(block));
+    }
+    toggleBlockVisible(block);
+    moveCursorVisible(true);
+}
+
 void CodeEditor::foldAll()
 {
     CodeFolding::foldAll(document());

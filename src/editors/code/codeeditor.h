@@ -93,6 +93,9 @@ public:
     /// down to the end of the document.
     void toggleBlockVisible(const QTextBlock& block);
 
+    /// Unfolds what the cursor's line hides, or folds the innermost range that it stands in.
+    void toggleFold();
+
     /// Does the same for many heads, and tells the layout once: folds every visible
     /// head, or shows every hidden line. Linear.
     void foldAll();

@@ -51,6 +51,8 @@ private slots:
     void revealsNoMoreThanItTakes_data();
     void revealsNoMoreThanItTakes();
     void cursorLeavesUpwards();
+    void foldsAtTheCursor_data();
+    void foldsAtTheCursor();
     void keysGoAround_data();
     void keysGoAround();
     void editsShow_data();
@@ -152,6 +154,28 @@ void CodeFoldingTest::cursorLeavesUpwards()
     shown.editor.foldAll();
     QCOMPARE(shown.editor.textCursor().blockNumber(), 0);
     QCOMPARE(shown.visibility(), QStringLiteral(".hhhh.h.h."));
+}
+
+void CodeFoldingTest::foldsAtTheCursor_data()
+{
+    QTest::addColumn<int>("line");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("at a folded head") << 7 << "..........";
+    QTest::newRow("at a head") << 2 << "...hh...h.";
+    QTest::newRow("in the inner range") << 4 << "...hh...h.";
+    QTest::newRow("in the outer one") << 1 << ".hhhh...h.";
+    QTest::newRow("in none") << 9 << "........h.";
+}
+
+void CodeFoldingTest::foldsAtTheCursor()
+{
+    QFETCH(int, line);
+    ShownEditor shown(Nested);
+    shown.toggle({7});
+    shown.putCursor(line, 0);
+    shown.editor.toggleFold();
+    QTEST(shown.visibility(), "expected");
+    QVERIFY(shown.editor.textCursor().block().isVisible());
 }
 
 void CodeFoldingTest::keysGoAround_data()
