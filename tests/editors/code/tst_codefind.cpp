@@ -46,7 +46,6 @@ private slots:
     void previousIsTheLastStart();
     void replaceAllEqualsReplace_data();
     void replaceAllEqualsReplace();
-    void literalTextsHaveNoGroups();
     void matchOfTakesTheWholePart();
     void badExpressions();
     void loneSurrogates();
@@ -145,18 +144,6 @@ void CodeFindTest::replaceAllEqualsReplace()
         QCOMPARE(document.text(), text);
         QVERIFY(!document.isUndoAvailable());
     }
-}
-
-void CodeFindTest::literalTextsHaveNoGroups()
-{
-    CodeEditor editor;
-    GrammarDocument document(QStringLiteral("(a)\\1 (A)"));
-    editor.setDocument(&document);
-    const CodeFind find(QStringLiteral("(a)"));
-    QCOMPARE(find.replaceAll(&editor, document.text(), QStringLiteral("\\1")), 2);
-    QCOMPARE(document.text(), QStringLiteral("\\1\\1 \\1"));
-    const CodeFind withCase(QStringLiteral("A"), FindCaseSensitive);
-    QVERIFY(!withCase.next(QStringLiteral("a.*"), 0).hasMatch());
 }
 
 void CodeFindTest::matchOfTakesTheWholePart()
