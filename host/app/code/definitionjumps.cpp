@@ -119,16 +119,15 @@ bool DefinitionJumps::eventFilter(QObject* watched, QEvent* event)
     } else if (isControl || event->type() == QEvent::FocusOut || event->type() == QEvent::Leave) {
         m_mark->clear();
     }
-    const bool isMouse = watched == m_editor->viewport();
+    const bool isMouse =
+        (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress) &&
+        watched == m_editor->viewport();
     return (isMouse && filterMouse(event)) || QObject::eventFilter(watched, event);
 }
 
 /// True for what is done here, and not the text's.
 bool DefinitionJumps::filterMouse(QEvent* event)
 {
-    if (event->type() != QEvent::MouseMove && event->type() != QEvent::MouseButtonPress) {
-        return false;
-    }
     const auto* mouse = static_cast<QMouseEvent*>(event);
     if (mouse->modifiers() != Qt::ControlModifier) {
         m_mark->clear();

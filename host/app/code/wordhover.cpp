@@ -50,7 +50,8 @@ WordHover::WordHover(Zorv::CodeEditor* editor) : QObject(editor), m_editor(edito
 
 bool WordHover::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isAsked = watched == m_editor->viewport() && event->type() == QEvent::ToolTip;
+    // Other events come from an editor that is half gone, too.
+    const bool isAsked = event->type() == QEvent::ToolTip && watched == m_editor->viewport();
     return (isAsked && show(static_cast<QHelpEvent*>(event))) ||
            QObject::eventFilter(watched, event);
 }
