@@ -59,6 +59,7 @@ CodeEditor::CodeEditor(QWidget* parent)
 {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     viewport()->setMouseTracking(true);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setFrameStyle(QFrame::NoFrame);
     d->extraArea->updateWidth();
 }
@@ -271,6 +272,9 @@ bool CodeEditor::viewportEvent(QEvent* event)
                                viewport());
         }
         return true;
+    }
+    if (event->type() == QEvent::Leave) {
+        d->folds->clearPreview();
     }
     if (event->type() == QEvent::ContextMenu) {
         const auto* menu = static_cast<QContextMenuEvent*>(event);

@@ -263,13 +263,16 @@ void CodeEditorExtraArea::pressed(const QPoint& place)
         toggleFold(place);
         return;
     }
-    QTextCursor cursor = cursorAt(place.y());
+    const QTextBlock block = cursorAt(place.y()).block();
     if (m_editor->formatting.lineNumbers && place.x() > markWidth) {
-        m_selectionAnchorLine = cursor.blockNumber();
-        cursor.setPosition(startBehind(cursor.block()), QTextCursor::KeepAnchor);
+        m_selectionAnchorLine = block.blockNumber();
+        QTextCursor cursor(block);
+        cursor.setPosition(startBehind(block), QTextCursor::KeepAnchor);
         m_editor->q->setTextCursor(cursor);
-    } else {
-        m_markedLine = cursor.blockNumber();
+        return;
+    }
+    m_markedLine = block.blockNumber();
+    if (m_editor->formatting.markArea && place.x() <= markWidth) {
         emit m_editor->q->markClicked(m_markedLine);
     }
 }

@@ -368,6 +368,11 @@ void CodeFoldingTest::previewComesAndGoes()
     QCOMPARE(pointer(), Qt::BlankCursor);
     QTest::mouseMove(shown.viewport(), box + QPoint(1, 0));
     QTRY_VERIFY(isShown());
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(shown.viewport(), &leave);
+    QVERIFY(!isShown());
+    QTest::mouseMove(shown.viewport(), box);
+    QTRY_VERIFY(isShown());
     QTest::mouseMove(shown.viewport(), {200, 250});
     QVERIFY(!isShown());
     QCOMPARE(pointer(), Qt::IBeamCursor);

@@ -245,6 +245,10 @@ void CodeGutterTest::pressSelectsLines()
     QFETCH(int, line);
     ShownEditor shown(Nested);
     shown.toggle({5});
+    // Wherever the text is scrolled to.
+    shown.putCursor(8, -1);
+    QTest::keyClicks(&shown.editor, QString(100, QLatin1Char('x')));
+    QVERIFY(shown.editor.horizontalScrollBar()->value() > 0);
     QTest::mouseDClick(shown.gutter(), Qt::LeftButton, {}, shown.inGutter(line, 5));
     QTEST(shown.editor.textCursor().selection().toPlainText(), "expected");
     QVERIFY(shown.editor.textCursor().position() > shown.editor.textCursor().anchor());
