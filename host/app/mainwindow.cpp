@@ -15,7 +15,6 @@
 #include "app/game/gameopener.h"
 #include "app/gamesession.h"
 #include "app/gametree.h"
-#include "app/look/look.h"
 #include "app/messagepanel.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
@@ -27,7 +26,6 @@
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
 #include "editors/framework/editor.h"
-#include "editors/framework/extraeditor.h"
 #include "editors/framework/workspace.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
@@ -47,32 +45,6 @@ namespace App {
 
 using Family::FamilyDocument;
 using Family::FamilyProject;
-
-namespace {
-
-/// What editors and panels of the library are, and the window's, are its children.
-template <class Part>
-void tellAll(MainWindow* window, void (Part::*what)())
-{
-    const QList<Part*> parts = window->findChildren<Part*>();
-    for (Part* part : parts) {
-        (part->*what)();
-    }
-}
-
-struct PanelTitle
-{
-    const char* name;
-    const char* title;
-};
-
-const PanelTitle panelTitles[] = {
-    {"projects", QT_TRANSLATE_NOOP("App::MainWindow", "Projects")},
-    {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
-    {"output", QT_TRANSLATE_NOOP("App::MainWindow", "Engine output")},
-};
-
-}  // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget(this)),
@@ -115,7 +87,6 @@ void MainWindow::makeCode()
         m_code->findBar()->addAction(actionByName(name));
     }
     m_code->workspace()->engineSwitched(true);
-    m_code->workspace()->reconfig();
     m_code->reconfig();
 }
 
@@ -161,54 +132,6 @@ QDockWidget* MainWindow::addDock(QWidget* widget, const char* name, Qt::DockWidg
     addDockWidget(area, dock);
     m_actions->addSwitch(dock->toggleViewAction(), QLatin1String(name));
     return dock;
-}
-
-void MainWindow::retranslate()
-{
-    for (const PanelTitle& row : panelTitles) {
-        if (auto* dock = findChild<QDockWidget*>(QLatin1String(row.name))) {
-            dock->setWindowTitle(tr(row.title));
-        }
-    }
-    updateHint();
-    m_actions->retranslate();
-    m_controls->retranslate();
-    tellAll(this, &Zorv::Editor::retranslate);
-    tellAll(this, &Zorv::ExtraEditor::retranslate);
-    tellAll(this, &Zorv::Workspace::retranslate);
-    updateTitle();
-}
-
-/// Texts keep the colours that they were given, and their messages the language.
-void MainWindow::parseAgain()
-{
-    for (const FamilyProject* project : m_session->projects()) {
-        const QList<FamilyDocument*> documents = project->documents();
-        for (FamilyDocument* document : documents) {
-            document->rehighlight();
-        }
-    }
-}
-
-void MainWindow::reconfig()
-{
-    applyLook();
-    m_controls->updateVisibility();
-    parseAgain();
-    tellAll(this, &Zorv::Editor::reconfig);
-    tellAll(this, &Zorv::ExtraEditor::reconfig);
-    tellAll(this, &Zorv::Workspace::reconfig);
-    m_code->reconfig();
-    emit reconfigured();
-}
-
-void MainWindow::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
-        retranslate();
-        parseAgain();
-    }
 }
 
 void MainWindow::connectParts()

@@ -5,9 +5,11 @@
 #include "app/code/codeview.h"
 #include "app/code/documenttabs.h"
 #include "app/encodingchoice.h"
+#include "app/find/findbar.h"
 #include "app/gamesession.h"
 #include "app/gametree.h"
 #include "app/messagepanel.h"
+#include "app/panelplace.h"
 #include "app/run/runcommands.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
@@ -20,38 +22,15 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QComboBox>
 #include <QFileInfo>
 #include <QToolBar>
 #include <QTreeView>
-
-#include <algorithm>
 
 namespace App {
 
 using Family::FamilyDocument;
 using Family::FamilyProject;
 using Zorv::Dialogs;
-
-namespace {
-
-/// What the tab key reaches first in a bar; null for a bar without fields.
-QWidget* firstField(const QWidget* bar)
-{
-    const QList<QComboBox*> fields = bar->findChildren<QComboBox*>();
-    const auto found = std::find_if(fields.begin(), fields.end(),
-                                    [](const QWidget* field) { return field->isEnabled(); });
-    return found == fields.end() ? nullptr : *found;
-}
-
-/// True for the panel itself, and for the neighbours of a field in its bar.
-bool isIn(const QWidget* panel, const QWidget* focus)
-{
-    const auto* bar = qobject_cast<const QToolBar*>(panel->parentWidget());
-    return focus && (panel == focus || (bar && bar->isAncestorOf(focus)));
-}
-
-}  // namespace
 
 void MainWindow::showDocument(FamilyDocument* document)
 {
@@ -185,21 +164,11 @@ void MainWindow::focusPreviousPanel()
 
 void MainWindow::focusPanel(int step)
 {
-    const QList<QWidget*> all{m_gameTree,           firstField(m_code->workspace()->toolBar()),
-                              currentEdit(),        textEditor()->tree(),
-                              m_animations->list(), m_messagePanel};
-    QList<QWidget*> panels;
-    int current = -1;
-    for (QWidget* panel : all) {
-        if (panel && panel->isVisible()) {
-            current = isIn(panel, QApplication::focusWidget()) ? panels.size() : current;
-            panels.append(panel);
-        }
-    }
-    if (!panels.isEmpty()) {
-        const int from = current < 0 && step < 0 ? 0 : current;
-        panels[(from + step + panels.size()) % panels.size()]->setFocus(Qt::ShortcutFocusReason);
-    }
+    goToPanel({PanelPlace::of(m_gameTree), PanelPlace::inside(m_code->workspace()->toolBar()),
+               PanelPlace::of(currentEdit()), PanelPlace::inside(m_code->findBar()),
+               PanelPlace::of(textEditor()->tree()), PanelPlace::of(m_animations->list()),
+               PanelPlace::of(m_messagePanel)},
+              step);
 }
 
 void MainWindow::showNextText()

@@ -30,6 +30,7 @@ private slots:
     void marksLeadToMessages();
     void messagesFollowTheCursor();
     void hiddenTreeComesBackInLine();
+    void keysLeadThroughTheBars();
     void editorComesForwardOnDemand();
 
 private:
@@ -261,6 +262,21 @@ void tst_CodeView::hiddenTreeComesBackInLine()
     QTRY_VERIFY(!nodes->isStale());
     QTest::qWait(100);
     QVERIFY(!m->tree()->isExpanded(m->tree()->currentIndex().parent()));
+}
+
+/// F6 leads on from inside of a bar too.
+void tst_CodeView::keysLeadThroughTheBars()
+{
+    m->open(*m_game, m_game->ryn());
+    m->press(Qt::Key_F, Qt::ControlModifier);
+    QWidget* field = QApplication::focusWidget();
+    QVERIFY(field && field != m->edit());
+    QTest::keyClick(field, Qt::Key_F6);
+    QCOMPARE(QApplication::focusWidget(), m->tree());
+    QTest::keyClick(m->tree(), Qt::Key_F6, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), field);
+    QTest::keyClick(field, Qt::Key_F6, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), m->edit());
 }
 
 /// The library's commands on files bring the text to the front first.

@@ -1,0 +1,36 @@
+#include "app/panelplace.h"
+
+#include <QApplication>
+#include <QComboBox>
+
+#include <algorithm>
+
+namespace App {
+
+PanelPlace PanelPlace::inside(QWidget* bar)
+{
+    const QList<QComboBox*> fields = bar->findChildren<QComboBox*>();
+    const auto found = std::find_if(fields.begin(), fields.end(),
+                                    [](const QWidget* field) { return field->isEnabled(); });
+    return {found == fields.end() ? nullptr : *found, bar};
+}
+
+void goToPanel(const QVector<PanelPlace>& places, int step)
+{
+    const QWidget* focus = QApplication::focusWidget();
+    QVector<QWidget*> shown;
+    int current = -1;
+    for (const PanelPlace& place : places) {
+        if (place.field && place.field->isVisible()) {
+            const bool isHere = focus && (place.area == focus || place.area->isAncestorOf(focus));
+            current = isHere ? shown.size() : current;
+            shown.append(place.field);
+        }
+    }
+    if (!shown.isEmpty()) {
+        const int from = current < 0 && step < 0 ? 0 : current;
+        shown[(from + step + shown.size()) % shown.size()]->setFocus(Qt::ShortcutFocusReason);
+    }
+}
+
+}  // namespace App

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QVector>
+
+class QWidget;
+
+namespace App {
+
+/// A place of the window to which a key leads.
+struct PanelPlace
+{
+    QWidget* field;       ///< takes the keyboard; null for a place that is not there
+    const QWidget* area;  ///< with the keyboard in here the person is at this place
+
+    static PanelPlace of(QWidget* panel) { return {panel, panel}; }
+
+    /// A bar, by the first of its fields that can be used.
+    static PanelPlace inside(QWidget* bar);
+};
+
+/// Leads from where the keyboard is to the next of the places that are shown, round and round;
+/// with a step of -1 to the one before.
+void goToPanel(const QVector<PanelPlace>& places, int step);
+
+}  // namespace App
