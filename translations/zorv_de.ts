@@ -742,6 +742,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>The menu File opens a game folder.</source>
         <translation>Das Menü Datei öffnet einen Spielordner.</translation>
     </message>
+    <message>
+        <source>Close panel %1</source>
+        <translation>Bereich %1 schließen</translation>
+    </message>
+    <message>
+        <source>Detach panel %1</source>
+        <translation>Bereich %1 ablösen</translation>
+    </message>
 </context>
 <context>
     <name>App::Menus</name>
