@@ -39,11 +39,20 @@ CodeCompletion::CodeCompletion(CodeEditorPrivate* editor)
     m_completer->setWrapAround(false);
     m_completer->setWidget(editor->q);
     m_completer->popup()->setAccessibleName(tr("Words to complete"));
+    m_completer->popup()->installEventFilter(this);
     connect(m_completer, QOverload<const QString&>::of(&QCompleter::activated), this,
             &CodeCompletion::insert);
 }
 
 CodeCompletion::~CodeCompletion() = default;
+
+bool CodeCompletion::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        m_completer->popup()->setAccessibleName(tr("Words to complete"));
+    }
+    return QObject::eventFilter(watched, event);
+}
 
 bool CodeCompletion::readFile(const QString& fileName)
 {

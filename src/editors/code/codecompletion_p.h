@@ -34,6 +34,10 @@ public:
     /// The text has taken a key.
     void keyPressed(const QKeyEvent* event);
 
+protected:
+    /// The popup hears of another language by itself.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     bool isOpen() const;
     QString wordAtCursor() const;
