@@ -13,8 +13,9 @@ namespace App {
 ///     --screenshot FILE.png [GAME]  draws the window to a picture and ends
 ///
 /// A picture shows the game with a file that has problems in front, if there is
-/// one, or with "--scene" one of `pictureScenes()`; settings of the person are neither
-/// read nor written, and nothing waits for an answer. The status is 0, 2 for wrong usage, 3 if the picture cannot be made.
+/// one, or with "--scene" one of `pictureScenes()`; settings of the person are
+/// neither read nor written, and nothing waits for an answer. The status is 0, 2 for
+/// wrong usage, 3 if the picture cannot be made.
 int runWindow(QApplication& application, const QStringList& arguments);
 
 }  // namespace App

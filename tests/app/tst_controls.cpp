@@ -445,7 +445,7 @@ void tst_Controls::goesWithItsReceiver()
                                   SLOT(rowChosen(QModelIndex)), nullptr, SIGNAL(enabled(bool))));
     const QPointer<QWidget> slider =
         add("snd_sel", WidgetControl(WidgetControl::Slider, 3, m_publisher.get(),
-                                      SLOT(numberChosen(int)), SIGNAL(setNumber(int))));
+                                     SLOT(numberChosen(int)), SIGNAL(setNumber(int))));
     const auto* panel = m->window->findChild<QDockWidget*>(QStringLiteral("palette"));
     const auto* bar = m->window->findChild<QToolBar*>(QStringLiteral("sound_bar"));
     QTRY_VERIFY(panel->isVisible() && bar->isVisible());
