@@ -62,7 +62,7 @@ void CodePainter::paint(const QPaintEvent* event)
     m_painter.begin(m_editor->q->viewport());
     // Waves below words would not meet where the text is painted in parts.
     m_painter.setBrushOrigin(m_editor->contentOffset());
-    paintRanges();
+    paintGround();
     paintPlaceholder();
     m_painter.setPen(m_context.palette.text().color());
     paintText();
@@ -71,15 +71,18 @@ void CodePainter::paint(const QPaintEvent* event)
     m_editor->folds->paintPreview(&m_painter);
 }
 
-void CodePainter::paintRanges()
+/// All of the ground: Qt is told not to fill the view first.
+void CodePainter::paintGround()
 {
     const HighlightBlocks& ranges = m_editor->highlights->blocks();
     if (!m_editor->formatting.paintBlockRanges || ranges.isEmpty()) {
+        m_painter.fillRect(m_rect, m_context.palette.base());
         return;
     }
     const QAbstractTextDocumentLayout* layout = m_editor->q->document()->documentLayout();
-    qreal top = m_editor->contentOffset().y();
-    qreal bottom = top;
+    const qreal start = m_editor->contentOffset().y();
+    qreal top = start;
+    qreal bottom = start;
     int depth = 0;
     for (QTextBlock block = visibleFrom(m_editor->firstVisibleBlock());
          block.isValid() && bottom <= m_view.height() + RangeMargin;
@@ -93,9 +96,13 @@ void CodePainter::paintRanges()
         bottom += layout->blockBoundingRect(block).height();
     }
     paintDepth(ranges, depth, top, bottom);
+    const QRegion lines(0, int(start), m_view.width(), int(bottom) - int(start));
+    for (const QRect& rest : QRegion(m_rect) - lines) {
+        m_painter.fillRect(rest, m_context.palette.base());
+    }
 }
 
-/// Lines that stand in as many ranges, each of which lies on the one around it. What
+/// Fills lines that stand in as many ranges, each of which lies on the one around it. What
 /// would be painted over is left out: filling takes longer than the text.
 void CodePainter::paintDepth(const HighlightBlocks& ranges, int depth, qreal top, qreal bottom)
 {

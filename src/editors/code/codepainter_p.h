@@ -24,7 +24,7 @@ public:
 private:
     using Formats = QVector<QTextLayout::FormatRange>;
 
-    void paintRanges();
+    void paintGround();
     void paintDepth(const HighlightBlocks& ranges, int depth, qreal top, qreal bottom);
     void paintPlaceholder();
     void paintText();
