@@ -568,6 +568,14 @@ void tst_MainWindow::drawsAPicture()
     QCOMPARE(App::runWindow(*qApp, {"--screenshot", picture, m_game->root()}), 0);
     const QImage image(picture);
     QCOMPARE(image.size(), QSize(1280, 800));
+    QVector<QImage> scenes;
+    for (const char* scene : {"code", "folding", "completion", "find"}) {
+        QCOMPARE(App::runWindow(*qApp, {"--screenshot", picture, "--scene", scene, m_game->root()}),
+                 0);
+        scenes.append(QImage(picture));
+        QCOMPARE(scenes.indexOf(scenes.last()), scenes.size() - 1);
+    }
+    QCOMPARE(App::runWindow(*qApp, {"--screenshot", picture, "--scene", "none"}), 2);
     QCOMPARE(App::runWindow(*qApp, {"--screenshot", picture, m_game->root() + "/none"}), 3);
     QCOMPARE(App::runWindow(*qApp, {"--screenshot", "/nowhere/at/all.png", m_game->root()}), 3);
     QCOMPARE(App::runWindow(*qApp, {"--screenshot"}), 2);
