@@ -574,6 +574,8 @@ void tst_MainWindow::drawsAPicture()
                  0);
         scenes.append(QImage(picture));
         QCOMPARE(scenes.indexOf(scenes.last()), scenes.size() - 1);
+        // A place in the text where nothing stands.
+        QVERIFY(scenes.last().pixelColor(900, 200).lightness() > 200);
     }
     QCOMPARE(App::runWindow(*qApp, {"--screenshot", picture, "--scene", "none"}), 2);
     QCOMPARE(App::runWindow(*qApp, {"--screenshot", picture, m_game->root() + "/none"}), 3);
