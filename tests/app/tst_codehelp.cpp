@@ -174,30 +174,20 @@ void CodeHelpTest::mouse(QEvent::Type type, const QPoint& point, Qt::MouseButton
     QApplication::sendEvent(editor->viewport(), &event);
 }
 
+// clang-format off
 void CodeHelpTest::wordTakesThePlaceOfTheWhole_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("after");
-    QTest::newRow("with its own case") << "[CON|]"
-                                       << ""
-                                       << "[constants]";
-    QTest::newRow("all of the word") << "[constants]\ntu|xx = yes"
-                                     << ""
-                                     << "[constants]\nturns = yes";
-    QTest::newRow("none yet") << "[constants]\nturns = |"
-                              << "y"
-                              << "[constants]\nturns = yes";
-    QTest::newRow("one with a dash") << "[move a]\nanimation = x-|\nanimation x-ray"
-                                     << ""
-                                     << "[move a]\nanimation = x-ray\nanimation x-ray";
-    QTest::newRow("a file") << "[palette a]\nfile = |"
-                            << ""
-                            << "[palette a]\nfile = \"red.act\"";
-    QTest::newRow("a file in quotes") << "[palette a]\nfile = \"bl|ue.act\" # x"
-                                      << ""
-                                      << "[palette a]\nfile = \"red.act\" # x";
+    QTest::newRow("with its own case") << "[CON|]" << "" << "[constants]";
+    QTest::newRow("all of the word") << "[constants]\ntu|xx = yes" << "" << "[constants]\nturns = yes";
+    QTest::newRow("none yet") << "[constants]\nturns = |" << "y" << "[constants]\nturns = yes";
+    QTest::newRow("one with a dash") << "[move a]\nanimation = x-|\nanimation x-ray" << "" << "[move a]\nanimation = x-ray\nanimation x-ray";
+    QTest::newRow("a file") << "[palette a]\nfile = |" << "" << "[palette a]\nfile = \"red.act\"";
+    QTest::newRow("a file in quotes") << "[palette a]\nfile = \"bl|ue.act\" # x" << "" << "[palette a]\nfile = \"red.act\" # x";
 }
+// clang-format on
 
 void CodeHelpTest::wordTakesThePlaceOfTheWhole()
 {
@@ -214,6 +204,7 @@ void CodeHelpTest::wordTakesThePlaceOfTheWhole()
     QVERIFY(!popup()->isVisible());
 }
 
+// clang-format off
 void CodeHelpTest::keysThatEndAWord_data()
 {
     QTest::addColumn<QString>("before");
@@ -221,17 +212,13 @@ void CodeHelpTest::keysThatEndAWord_data()
     QTest::addColumn<int>("last");
     QTest::addColumn<QString>("after");
     const QString head = QStringLiteral("[constants]\nturns =");
-    QTest::newRow("return on a part") << head + "|"
-                                      << " y" << int(Qt::Key_Return) << head + " yes";
-    QTest::newRow("return on the whole") << head + "|"
-                                         << " yes" << int(Qt::Key_Return) << head + " yes\n";
-    QTest::newRow("blank") << "|"
-                           << "[mo" << int(Qt::Key_Space) << "[mo ";
-    QTest::newRow("return on the first") << head + "|"
-                                         << " " << int(Qt::Key_Return) << head + " no";
-    QTest::newRow("in a comment") << "# |"
-                                  << "[lay" << int(Qt::Key_Tab) << "# [layer";
+    QTest::newRow("return on a part") << head + "|" << " y" << int(Qt::Key_Return) << head + " yes";
+    QTest::newRow("return on the whole") << head + "|" << " yes" << int(Qt::Key_Return) << head + " yes\n";
+    QTest::newRow("blank") << "|" << "[mo" << int(Qt::Key_Space) << "[mo ";
+    QTest::newRow("return on the first") << head + "|" << " " << int(Qt::Key_Return) << head + " no";
+    QTest::newRow("in a comment") << "# |" << "[lay" << int(Qt::Key_Tab) << "# [layer";
 }
+// clang-format on
 
 /// The words of the generated file open by themselves.
 void CodeHelpTest::keysThatEndAWord()
@@ -261,6 +248,7 @@ void CodeHelpTest::nothingToOffer()
     QVERIFY(!words->open());
 }
 
+// clang-format off
 void CodeHelpTest::hover_data()
 {
     QTest::addColumn<int>("line");
@@ -273,6 +261,7 @@ void CodeHelpTest::hover_data()
     QTest::newRow("text is no mark-up") << 6 << 9 << "red.act";
     QTest::newRow("nothing is known") << 3 << 5 << "";
 }
+// clang-format on
 
 void CodeHelpTest::hover()
 {

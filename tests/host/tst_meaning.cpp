@@ -72,7 +72,7 @@ private slots:
 
 private:
     void write(const char* name, const QByteArray& data) const;
-    FamilyDocument* take(const MarkedText& marked, const QString& suffix = {});
+    FamilyDocument* take(const MarkedText& marked);
 
     std::unique_ptr<QTemporaryDir> folder;
     std::unique_ptr<FamilyParentProject> game;
@@ -120,13 +120,12 @@ void MeaningTest::cleanup()
     folder.reset();
 }
 
-/// The text as that of the project's file with the suffix, of the code file without one.
-FamilyDocument* MeaningTest::take(const MarkedText& marked, const QString& suffix)
+/// The text as that of the project's code file.
+FamilyDocument* MeaningTest::take(const MarkedText& marked)
 {
-    const QString name = suffix.isEmpty() ? QStringLiteral(".code") : suffix;
     const QList<FamilyDocument*> documents = project->documents();
     for (FamilyDocument* document : documents) {
-        if (document->fileName().endsWith(name)) {
+        if (document->fileName().endsWith(".code")) {
             document->setPlainText(marked.text);
             return document;
         }
@@ -134,6 +133,7 @@ FamilyDocument* MeaningTest::take(const MarkedText& marked, const QString& suffi
     return nullptr;
 }
 
+// clang-format off
 void MeaningTest::completions_data()
 {
     QTest::addColumn<QString>("text");
@@ -142,25 +142,18 @@ void MeaningTest::completions_data()
     QTest::addColumn<QString>("replaced");
     using S = QStringList;
     const S nothing{"*"};
-    QTest::newRow("group") << "[co|" << S{"constants", "move", "layer"}
-                           << S{"walk", "data", "arena"} << "co";
+    QTest::newRow("group") << "[co|" << S{"constants", "move", "layer"} << S{"walk", "data", "arena"} << "co";
     QTest::newRow("group, whole") << "[ con|stants]" << S{"constants"} << S{} << "constants";
-    QTest::newRow("sub-group") << "[constants]\n[.|" << S{"walk", "run", "jump", "body"}
-                               << S{"hit", "constants"} << "";
-    QTest::newRow("sub-group below a sub-group")
-        << "[move a]\n[.cost]\npower = 1\n[.|]" << S{"hit", "sound"} << S{"walk"} << "";
+    QTest::newRow("sub-group") << "[constants]\n[.|" << S{"walk", "run", "jump", "body"} << S{"hit", "constants"} << "";
+    QTest::newRow("sub-group below a sub-group") << "[move a]\n[.cost]\npower = 1\n[.|]" << S{"hit", "sound"} << S{"walk"} << "";
     QTest::newRow("sub-group without a group") << "animation 1\n[.|" << S{} << nothing << "";
     QTest::newRow("argument") << "[move |" << S{} << nothing << "";
-    QTest::newRow("key") << "[constants]\n  li|" << S{"life", "animation"}
-                         << S{"lifebar", "frame", "forward"} << "li";
-    QTest::newRow("key of a sub-group") << "[constants]\n[.walk]\n|\n"
-                                        << S{"forward", "back"} << S{"life"} << "";
+    QTest::newRow("key") << "[constants]\n  li|" << S{"life", "animation"} << S{"lifebar", "frame", "forward"} << "li";
+    QTest::newRow("key of a sub-group") << "[constants]\n[.walk]\n|\n" << S{"forward", "back"} << S{"life"} << "";
     QTest::newRow("behind a word") << "[constants]\nlife |" << S{} << nothing << "";
     QTest::newRow("line start") << "|" << S{"animation"} << S{"frame", "life"} << "";
-    QTest::newRow("in an animation")
-        << "animation 1\nfr|" << S{"frame", "attack", "body", "animation"} << S{"life"} << "fr";
-    QTest::newRow("choice") << "[constants]\nturns = y|es # x" << S{"yes", "no"} << S{"true"}
-                            << "yes";
+    QTest::newRow("in an animation") << "animation 1\nfr|" << S{"frame", "attack", "body", "animation"} << S{"life"} << "fr";
+    QTest::newRow("choice") << "[constants]\nturns = y|es # x" << S{"yes", "no"} << S{"true"} << "yes";
     QTest::newRow("choice, none yet") << "[constants]\nturns =|" << S{"yes", "no"} << S{} << "";
     QTest::newRow("behind a choice") << "[constants]\nturns = yes |" << S{} << nothing << "";
     QTest::newRow("a number") << "[constants]\nlife = |" << S{} << nothing << "";
@@ -169,25 +162,18 @@ void MeaningTest::completions_data()
     QTest::newRow("animation") << "[move a]\nanimation = 2|00" << S{"200", "stand"} << S{} << "200";
     QTest::newRow("command") << "[move a]\ncommand = |" << S{"fireball"} << S{"200"} << "";
     QTest::newRow("move") << "[move a]\ncancels = |\n[move b]" << S{"a", "b"} << S{"200"} << "";
-    QTest::newRow("file") << "[palette a]\nfile = |"
-                          << S{"\"palettes/red.act\"", "\"hero.sprites\""}
-                          << S{"\"moves.code\"", "\"backup/old/palettes/red.act\""} << "";
-    QTest::newRow("file in quotes") << "[palette a]\nfile = \"pal|ettes/r\"  # x"
-                                    << S{"palettes/red.act"} << S{} << "palettes/r";
-    QTest::newRow("file in an open quote")
-        << "[palette a]\nfile = \"p|" << S{"palettes/red.act"} << S{} << "p";
+    QTest::newRow("file") << "[palette a]\nfile = |" << S{"\"palettes/red.act\"", "\"hero.sprites\""} << S{"\"moves.code\"", "\"backup/old/palettes/red.act\""} << "";
+    QTest::newRow("file in quotes") << "[palette a]\nfile = \"pal|ettes/r\"  # x" << S{"palettes/red.act"} << S{} << "palettes/r";
+    QTest::newRow("file in an open quote") << "[palette a]\nfile = \"p|" << S{"palettes/red.act"} << S{} << "p";
     QTest::newRow("in a text") << "[info]\nname = \"y|\"" << S{} << nothing << "y";
-    QTest::newRow("option") << "animation 1\nframe 1,0 de|" << S{"delay", "flip", "loop"}
-                            << S{"h", "frame"} << "de";
-    QTest::newRow("option behind others")
-        << "animation 1\nframe 1,0  delay 3 loop |" << S{"offset"} << S{"delay", "loop"} << "";
-    QTest::newRow("number of an option")
-        << "animation 1\nframe 1,0 delay |" << S{} << nothing << "";
-    QTest::newRow("flip") << "animation 1\nframe 1,0 flip |" << S{"h", "v", "hv"} << S{"x", "delay"}
-                          << "";
+    QTest::newRow("option") << "animation 1\nframe 1,0 de|" << S{"delay", "flip", "loop"} << S{"h", "frame"} << "de";
+    QTest::newRow("option behind others") << "animation 1\nframe 1,0  delay 3 loop |" << S{"offset"} << S{"delay", "loop"} << "";
+    QTest::newRow("number of an option") << "animation 1\nframe 1,0 delay |" << S{} << nothing << "";
+    QTest::newRow("flip") << "animation 1\nframe 1,0 flip |" << S{"h", "v", "hv"} << S{"x", "delay"} << "";
     QTest::newRow("no sprite yet") << "animation 1\nframe |" << S{} << nothing << "";
     QTest::newRow("frame without an animation") << "frame 1,0 |" << S{} << nothing << "";
 }
+// clang-format on
 
 void MeaningTest::completions()
 {
@@ -247,78 +233,36 @@ void MeaningTest::everyOfferIsRead()
     QVERIFY(count > 60);
 }
 
+// clang-format off
 void MeaningTest::meanings_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("part");
-    QTest::newRow("group") << "[const|ants]"
-                           << "[constants]"
-                           << "The fixed numbers";
-    QTest::newRow("sub-group") << "[constants]\n[.wa|lk]"
-                               << "[.walk]"
-                               << "Belongs to [constants]";
-    QTest::newRow("unknown group") << "[mus|ik]"
-                                   << ""
-                                   << "";
-    QTest::newRow("key") << "[constants]\nli|fe = 1000"
-                         << "life"
-                         << "Takes a whole number from 1 to 9999";
-    QTest::newRow("old key") << "[constants]\nlife|bar = 1000"
-                             << "life"
-                             << "Required";
-    QTest::newRow("free key") << "[commands]\nfire|ball = \"x\""
-                              << "fireball"
-                              << "The motion of a command";
-    QTest::newRow("unknown key") << "[constants]\nlie|f = 1000"
-                                 << ""
-                                 << "";
-    QTest::newRow("number") << "[constants]\nlife = 10|00"
-                            << "1000"
-                            << "life: Life at the start";
-    QTest::newRow("choice") << "[constants]\nturns = y|es"
-                            << "yes"
-                            << "Takes one of yes, no";
-    QTest::newRow("animation as value") << "[move a]\nanimation = 20|0"
-                                        << "animation 200"
-                                        << "Light <punch>";
-    QTest::newRow("its frames") << "[move a]\nanimation = 20|0"
-                                << "animation 200"
-                                << "Frames: 2; ticks: 4";
-    QTest::newRow("missing animation") << "[move a]\nanimation = 2|01"
-                                       << "201"
-                                       << "Shown during the move";
-    QTest::newRow("command") << "[move a]\ncommand = fire|ball"
-                             << "fireball"
-                             << "D, DF, F, x";
-    QTest::newRow("file") << "[palette a]\nfile = \"pal|ettes/blue.act\""
-                          << "palettes/blue.act"
-                          << "There is no such file";
-    QTest::newRow("animation") << "anim|ation 1"
-                               << "animation"
-                               << "An animation";
-    QTest::newRow("identifier") << "animation 20|1 \"Kick\""
-                                << "animation 201"
-                                << "Kick";
-    QTest::newRow("sprite") << "animation 1\nframe 200,|1 loop"
-                            << "sprite 200,1"
-                            << "Group and number";
-    QTest::newRow("option") << "animation 1\nframe 200,1 del|ay 3"
-                            << "delay"
-                            << "from -1 to 32767";
-    QTest::newRow("its number") << "animation 1\nframe 200,1 offset 3,|4"
-                                << "offset"
-                                << "Place of the sprite";
-    QTest::newRow("box") << "animation 1\nattack 1,2, 3|3,4"
-                         << "right edge: 33"
-                         << "that hits";
-    QTest::newRow("comment") << "# the li|fe"
-                             << ""
-                             << "";
-    QTest::newRow("behind the line") << "[constants]|"
-                                     << ""
-                                     << "";
+    QTest::newRow("group") << "[const|ants]" << "[constants]" << "The fixed numbers";
+    QTest::newRow("sub-group") << "[constants]\n[.wa|lk]" << "[.walk]" << "Belongs to [constants]";
+    QTest::newRow("unknown group") << "[mus|ik]" << "" << "";
+    QTest::newRow("key") << "[constants]\nli|fe = 1000" << "life" << "Takes a whole number from 1 to 9999";
+    QTest::newRow("old key") << "[constants]\nlife|bar = 1000" << "life" << "Required";
+    QTest::newRow("free key") << "[commands]\nfire|ball = \"x\"" << "fireball" << "The motion of a command";
+    QTest::newRow("unknown key") << "[constants]\nlie|f = 1000" << "" << "";
+    QTest::newRow("number") << "[constants]\nlife = 10|00" << "1000" << "life: Life at the start";
+    QTest::newRow("choice") << "[constants]\nturns = y|es" << "yes" << "Takes one of yes, no";
+    QTest::newRow("animation as value") << "[move a]\nanimation = 20|0" << "animation 200" << "Light <punch>";
+    QTest::newRow("its frames") << "[move a]\nanimation = 20|0" << "animation 200" << "Frames: 2; ticks: 4";
+    QTest::newRow("missing animation") << "[move a]\nanimation = 2|01" << "201" << "Shown during the move";
+    QTest::newRow("command") << "[move a]\ncommand = fire|ball" << "fireball" << "D, DF, F, x";
+    QTest::newRow("file") << "[palette a]\nfile = \"pal|ettes/blue.act\"" << "palettes/blue.act" << "There is no such file";
+    QTest::newRow("animation") << "anim|ation 1" << "animation" << "An animation";
+    QTest::newRow("identifier") << "animation 20|1 \"Kick\"" << "animation 201" << "Kick";
+    QTest::newRow("sprite") << "animation 1\nframe 200,|1 loop" << "sprite 200,1" << "Group and number";
+    QTest::newRow("option") << "animation 1\nframe 200,1 del|ay 3" << "delay" << "from -1 to 32767";
+    QTest::newRow("its number") << "animation 1\nframe 200,1 offset 3,|4" << "offset" << "Place of the sprite";
+    QTest::newRow("box") << "animation 1\nattack 1,2, 3|3,4" << "right edge: 33" << "that hits";
+    QTest::newRow("comment") << "# the li|fe" << "" << "";
+    QTest::newRow("behind the line") << "[constants]|" << "" << "";
 }
+// clang-format on
 
 void MeaningTest::meanings()
 {
@@ -332,54 +276,28 @@ void MeaningTest::meanings()
     QVERIFY(title.isEmpty() || (found.start <= marked.column && marked.column < found.end));
 }
 
+// clang-format off
 void MeaningTest::references_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("word");
     QTest::addColumn<QString>("target");
-    QTest::newRow("animation") << "[move a]\nanimation = 20|0"
-                               << "200"
-                               << "hero.anim:1:11";
-    QTest::newRow("the document's own first") << "[move a]\nanimation = 200|\nanimation 200"
-                                              << "200"
-                                              << "moves.code:3:11";
-    QTest::newRow("missing animation") << "[move a]\nanimation = |201"
-                                       << "201"
-                                       << "There is no animation '201'.";
-    QTest::newRow("command") << "[move a]\ncommand = fire|ball"
-                             << "fireball"
-                             << "hero.commands:2:1";
-    QTest::newRow("missing command") << "[move a]\ncommand = wa|ve"
-                                     << "wave"
-                                     << "There is no command 'wave'.";
-    QTest::newRow("move") << "[move a]\ncancels = b|\n[move b]"
-                          << "b"
-                          << "moves.code:3:7";
-    QTest::newRow("file") << "[palette a]\nfile = \"palettes/|red.act\""
-                          << "\"palettes/red.act\""
-                          << "palettes/red.act";
-    QTest::newRow("missing file") << "[palette a]\nfile = \"b|lue.act\""
-                                  << "\"blue.act\""
-                                  << "There is no file 'blue.act'.";
-    QTest::newRow("a folder") << "[palette a]\nfile = \"pal|ettes\""
-                              << "\"palettes\""
-                              << "There is no file 'palettes'.";
-    QTest::newRow("sprite") << "animation 1\nframe 200,|1 loop"
-                            << "200,1"
-                            << "hero.anim:3:7";
-    QTest::newRow("sprite of this file") << "animation 1\nframe 7,7\nframe |7,7 loop"
-                                         << "7,7"
-                                         << "moves.code:2:7";
-    QTest::newRow("a sprite once") << "animation 1\nframe 7,|7"
-                                   << "7,7"
-                                   << "No other frame of the project shows the sprite 7,7.";
-    QTest::newRow("a key") << "[constants]\nli|fe = 1000"
-                           << ""
-                           << "Nothing here names something that stands elsewhere.";
-    QTest::newRow("a text") << "[info]\nname = \"20|0\""
-                            << ""
-                            << "Nothing here names something that stands elsewhere.";
+    QTest::newRow("animation") << "[move a]\nanimation = 20|0" << "200" << "hero.anim:1:11";
+    QTest::newRow("the document's own first") << "[move a]\nanimation = 200|\nanimation 200" << "200" << "moves.code:3:11";
+    QTest::newRow("missing animation") << "[move a]\nanimation = |201" << "201" << "There is no animation '201'.";
+    QTest::newRow("command") << "[move a]\ncommand = fire|ball" << "fireball" << "hero.commands:2:1";
+    QTest::newRow("missing command") << "[move a]\ncommand = wa|ve" << "wave" << "There is no command 'wave'.";
+    QTest::newRow("move") << "[move a]\ncancels = b|\n[move b]" << "b" << "moves.code:3:7";
+    QTest::newRow("file") << "[palette a]\nfile = \"palettes/|red.act\"" << "\"palettes/red.act\"" << "palettes/red.act";
+    QTest::newRow("missing file") << "[palette a]\nfile = \"b|lue.act\"" << "\"blue.act\"" << "There is no file 'blue.act'.";
+    QTest::newRow("a folder") << "[palette a]\nfile = \"pal|ettes\"" << "\"palettes\"" << "There is no file 'palettes'.";
+    QTest::newRow("sprite") << "animation 1\nframe 200,|1 loop" << "200,1" << "hero.anim:3:7";
+    QTest::newRow("sprite of this file") << "animation 1\nframe 7,7\nframe |7,7 loop" << "7,7" << "moves.code:2:7";
+    QTest::newRow("a sprite once") << "animation 1\nframe 7,|7" << "7,7" << "No other frame of the project shows the sprite 7,7.";
+    QTest::newRow("a key") << "[constants]\nli|fe = 1000" << "" << "Nothing here names something that stands elsewhere.";
+    QTest::newRow("a text") << "[info]\nname = \"20|0\"" << "" << "Nothing here names something that stands elsewhere.";
 }
+// clang-format on
 
 void MeaningTest::references()
 {
