@@ -344,7 +344,7 @@ void MainWindow::showText()
 
 FamilyProject* MainWindow::currentProject() const
 {
-    FamilyProject* project = projectOf(tabs()->currentDocument());
+    FamilyProject* project = m_code ? projectOf(tabs()->currentDocument()) : nullptr;
     return project || m_session->projects().isEmpty() ? project : m_session->projects().last();
 }
 
