@@ -120,8 +120,10 @@ void CodeHelpTest::init()
     services.tell = [this](const QString& text) { told.append(text); };
     jumps = new DefinitionJumps(editor.get(), services);
     editor->show();
-    editor->setFocus();
     QVERIFY(QTest::qWaitForWindowExposed(editor.get()));
+    // Also where there is no window manager.
+    QApplication::setActiveWindow(editor.get());
+    editor->setFocus();
     QVERIFY(editor->completerFromFile(folder.filePath(Family::completerFileName())));
     QCOMPARE(editor->completerError(), QString());
     told.clear();

@@ -89,8 +89,10 @@ void CodeCompletionTest::init()
     editor->resize(400, 300);
     editor->setDocument(document.get());
     editor->show();
-    editor->setFocus();
     QVERIFY(QTest::qWaitForWindowExposed(editor.get()));
+    // Also where there is no window manager.
+    QApplication::setActiveWindow(editor.get());
+    editor->setFocus();
     QVERIFY(load(words));
     QCOMPARE(editor->completerError(), QString());
 }
