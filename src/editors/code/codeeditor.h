@@ -113,15 +113,18 @@ public:
     QList<int> rangeEnds() const;
 
     /// Reads the words to complete from a file; docs/formats.md tells the format.
-    /// False if it cannot be opened. One that is broken leaves the words as they
-    /// were, gives true, and is told by `completerError()`.
+    /// False if it cannot be opened; one that is not there leaves no words. One that
+    /// is broken leaves the words as they were, gives true, and is told by
+    /// `completerError()`.
     bool completerFromFile(const QString& fileName);
 
     /// What was wrong with the last file, with line and column, for the person;
     /// empty for nothing.
     QString completerError() const;
 
-    /// The completer, whose popup follows what the person types.
+    /// The completer, whose popup follows what the person types. A word that is chosen
+    /// adds what it has more than was typed; a host that wants it otherwise takes its
+    /// signal `activated(QString)` from all that it is connected to.
     QCompleter* completer() const;
 
     /// Opens the popup on words for the cursor's place, whatever was typed before.
