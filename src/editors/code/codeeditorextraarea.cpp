@@ -44,6 +44,7 @@ CodeEditorExtraArea::CodeEditorExtraArea(CodeEditorPrivate* editor)
       m_contractIcon(icon("contract")), m_expandIcon(icon("expand"))
 {
     setAutoFillBackground(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setAccessibleName(tr("Line numbers, marks and folds"));
     connect(editor->q, &QPlainTextEdit::blockCountChanged, this, &CodeEditorExtraArea::updateWidth);

@@ -42,8 +42,10 @@ void CodeEditorExtraArea::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     m_numbers.setFont(m_editor->q->font());
     const int foldX = width() - foldWidth();
-    painter.fillRect(event->rect(), palette().color(QPalette::Base));
-    painter.fillRect(event->rect().intersected(QRect(0, 0, foldX, height())), ground());
+    const QRect numbers(0, 0, foldX, height());
+    const QRect folds(foldX, 0, width() - foldX, height());
+    painter.fillRect(event->rect() & numbers, ground());
+    painter.fillRect(event->rect() & folds, palette().color(QPalette::Base));
     const QAbstractTextDocumentLayout* layout = m_editor->q->document()->documentLayout();
     QTextBlock block = visibleFrom(m_editor->firstVisibleBlock());
     qreal top = m_editor->blockRect(block).top();

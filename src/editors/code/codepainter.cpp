@@ -9,7 +9,6 @@
 
 #include <QPaintEvent>
 #include <QScrollBar>
-#include <QTextBlock>
 
 #include <algorithm>
 #include <cmath>
@@ -59,6 +58,8 @@ void CodePainter::paint(const QPaintEvent* event)
     m_rect = event->rect();
     m_view = m_editor->q->viewport()->rect();
     m_context = m_editor->paintContext();
+    m_cursor = m_editor->q->textCursor();
+    m_currentBlock = m_cursor.block();
     m_painter.begin(m_editor->q->viewport());
     // Waves below words would not meet where the text is painted in parts.
     m_painter.setBrushOrigin(m_editor->contentOffset());
@@ -184,18 +185,17 @@ void CodePainter::paintBlock(const QTextBlock& block)
 
 void CodePainter::paintCurrentLine(const QTextBlock& block)
 {
-    const QTextCursor cursor = m_editor->q->textCursor();
-    if (!m_editor->formatting.highlightCurrentLine || cursor.block() != block) {
+    if (!m_editor->formatting.highlightCurrentLine || block != m_currentBlock) {
         return;
     }
-    const QTextLine line = block.layout()->lineForTextPosition(cursor.positionInBlock());
+    const QTextLine line = block.layout()->lineForTextPosition(m_cursor.positionInBlock());
     m_painter.fillRect(QRectF(0, m_offset.y() + line.y(), m_view.width(), line.height()),
                        m_editor->formatting.currentLineColor);
 }
 
 CodePainter::Formats CodePainter::selectionsOf(const QTextBlock& block) const
 {
-    const bool isLastPriority = m_editor->q->textCursor().hasSelection();
+    const bool isLastPriority = m_cursor.hasSelection();
     Formats formats;
     Formats priority;
     for (int i = 0; i < m_context.selections.size(); ++i) {

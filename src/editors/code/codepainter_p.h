@@ -2,10 +2,11 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <QTextLayout>
 
 class QPaintEvent;
-class QTextBlock;
 
 namespace Zorv {
 
@@ -43,6 +44,8 @@ private:
     QRect m_view;
     QPainter m_painter;
     QPointF m_offset;  ///< of the block in work
+    QTextCursor m_cursor;
+    QTextBlock m_currentBlock;  ///< of the cursor
     QAbstractTextDocumentLayout::PaintContext m_context;
 
     /// The cursor waits until all else is painted.
