@@ -96,8 +96,8 @@ public:
     /// Unfolds what the cursor's line hides, or folds the innermost range that it stands in.
     void toggleFold();
 
-    /// Does the same for many heads, and tells the layout once: folds every visible
-    /// head, or shows every hidden line. Linear.
+    /// Folds every head that is visible, from the top, or shows every hidden line. Takes
+    /// time in proportion to the lines, and tells the layout once.
     void foldAll();
     void unfoldAll();
 

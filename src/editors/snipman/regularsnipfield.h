@@ -13,6 +13,7 @@ public:
 
     QString value;  ///< the default
 
+    /// The type that it was made with.
     QString type() const override;
 
     /// "value" alone.

@@ -11,6 +11,9 @@ class SnipFieldDlgPrivate;
 
 /// Edits one field of a snippet: its name, title and type, and what a field of that type
 /// has at first. Ok needs a name.
+///
+/// It changes no field: the answer is a new one, to be asked for when `exec()` has given
+/// `QDialog::Accepted`. Main thread only.
 class ZORV_EXPORT SnipFieldDlg : public QDialog
 {
     Q_OBJECT
