@@ -121,9 +121,20 @@ struct View
         }
     }
 
+    /// Brackets are looked for, and a cursor is shown, where the focus is alone.
+    void takeFocus()
+    {
+        if (!edit.hasFocus()) {
+            edit.activateWindow();
+            edit.setFocus();
+            settle(0);
+        }
+    }
+
     /// A blank, which is taken back outside of the clock.
     double key()
     {
+        takeFocus();
         paintings.count = 0;
         const double time = Bench::once([this] {
             QTest::keyClick(&edit, Qt::Key_Space);
@@ -137,6 +148,7 @@ struct View
     /// A blank with all that follows once the cursor rests.
     double keyAndRest()
     {
+        takeFocus();
         paintings.count = 0;
         double time = Bench::once([this] {
             QTest::keyClick(&edit, Qt::Key_Space);
