@@ -4,6 +4,7 @@
 #include "windowfixture.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDirIterator>
 #include <QImage>
 
@@ -259,6 +260,11 @@ void tst_Theme::changesWhileRunning()
     QVERIFY(!isBright(dark));
     QVERIFY(lightColours.size() > 2);
     QVERIFY(!lightColours.intersects(darkColours));
+    const QPalette darkPalette = Theme::palette(Theme::Dark);
+    for (const auto* box : fixture.window->findChildren<QComboBox*>()) {
+        const QColor base = box->palette().color(QPalette::Base);
+        QVERIFY2(base == darkPalette.color(QPalette::Base), qPrintable(box->objectName()));
+    }
     fixture.host.setOption(QStringLiteral("theme"), QStringLiteral("light"));
     fixture.window->reconfig();
     QTRY_COMPARE(fixture.window->grab().toImage(), light);

@@ -87,6 +87,9 @@ CodeWorkspacePrivate::CodeWorkspacePrivate(CodeWorkspace* workspace)
     messages->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(snippets, &PickBox::picked, this, &CodeWorkspacePrivate::snipActivated);
     connect(messages, &PickBox::picked, this, &CodeWorkspacePrivate::errorActivated);
+    for (const PickBox* box : {snippets, messages}) {
+        connect(box, &PickBox::left, editor, QOverload<>::of(&QWidget::setFocus));
+    }
     editor->viewport()->installEventFilter(this);
     publish();
 }

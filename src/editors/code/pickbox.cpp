@@ -17,8 +17,8 @@ PickBox::PickBox(int characters, QWidget* parent) : QComboBox(parent)
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(characters);
     setMaxVisibleItems(PopupRows);
-    // Some styles make a popup as high as all rows together, and so look at each.
-    setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+    applySheet();
+    parent->installEventFilter(this);
     if (auto* list = qobject_cast<QListView*>(view())) {
         list->setUniformItemSizes(true);
         list->setTextElideMode(Qt::ElideRight);
@@ -30,12 +30,32 @@ PickBox::PickBox(int characters, QWidget* parent) : QComboBox(parent)
     });
 }
 
+/// Some styles make a popup as high as all rows together, and so look at each.
+void PickBox::applySheet()
+{
+    setStyleSheet({});
+    setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+}
+
+/// Qt gives a widget with a style sheet no new colours when those of the program change.
+bool PickBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parent() && event->type() == QEvent::PaletteChange) {
+        applySheet();
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
 void PickBox::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (currentIndex() >= 0) {
             emit picked(currentIndex());
         }
+        return;
+    }
+    if (event->key() == Qt::Key_Escape) {
+        emit left();
         return;
     }
     const QScopedValueRollback<bool> moving(m_isMoving, true);

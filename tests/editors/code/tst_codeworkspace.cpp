@@ -628,6 +628,8 @@ void tst_CodeWorkspace::snippets()
     QCOMPARE(box->count(), 2);
     box->setFocus();
     QTest::keyClick(box, Qt::Key_Down);
+    QTest::keyClick(box, Qt::Key_Escape);
+    QVERIFY(editor()->hasFocus());
     QCOMPARE(document.text(), QStringLiteral("a_a"));
     trigger("code_snippet_insert");
     QTEST(document.text(), "after");
