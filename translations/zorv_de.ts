@@ -35,7 +35,7 @@
     <name>App::Actions</name>
     <message>
         <source>&amp;Open game folder...</source>
-        <translation>&amp;Spielordner öffnen ...</translation>
+        <translation>Spielordner ö&amp;ffnen ...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -47,7 +47,7 @@
     </message>
     <message>
         <source>&amp;Close text</source>
-        <translation>Text &amp;schließen</translation>
+        <translation>Text sch&amp;ließen</translation>
     </message>
     <message>
         <source>Close &amp;project</source>
@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>Close &amp;game folder</source>
-        <translation>Spielordner s&amp;chließen</translation>
+        <translation>Sp&amp;ielordner schließen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>Select &amp;all</source>
-        <translation>Alles au&amp;swählen</translation>
+        <translation>Alles auswä&amp;hlen</translation>
     </message>
     <message>
         <source>&amp;Encoding...</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>Co&amp;mplete word</source>
-        <translation>Wort er&amp;gänzen</translation>
+        <translation>Wort e&amp;rgänzen</translation>
     </message>
     <message>
         <source>&amp;Go to definition</source>
@@ -195,7 +195,7 @@
     </message>
     <message>
         <source>Go &amp;back</source>
-        <translation>Zurück&amp;gehen</translation>
+        <translation>&amp;Zurückgehen</translation>
     </message>
     <message>
         <source>&amp;Fold or unfold</source>

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
@@ -151,6 +152,7 @@ private slots:
     void cleanup() { Language::use(QStringLiteral("en")); }
     void namesOfLanguages();
     void nothingStaysEnglish();
+    void accessKeysDiffer();
     void messagesFollow();
 };
 
@@ -209,6 +211,40 @@ void tst_Language::nothingStaysEnglish()
         }
     }
     QVERIFY2(lost.isEmpty(), qPrintable(lost.join(QLatin1Char('\n'))));
+}
+
+/// A letter that opens two entries of a menu opens neither.
+void tst_Language::accessKeysDiffer()
+{
+    const QTemporaryDir folder;
+    const TemporaryGame game;
+    WindowFixture fixture(folder.filePath("settings.ini"));
+    fixture.open(game, game.ryn(), game.animations());
+    QStringList clashes;
+    int keys = 0;
+    for (const App::LanguageInfo& language : Language::all()) {
+        Language::use(language.code);
+        QList<QWidget*> menus{fixture.window->menuBar()};
+        for (QMenu* menu : fixture.window->findChildren<QMenu*>()) {
+            menus.append(menu);
+        }
+        for (const QWidget* menu : qAsConst(menus)) {
+            QHash<QKeySequence, QString> taken;
+            for (const QAction* action : menu->actions()) {
+                const QKeySequence key = QKeySequence::mnemonic(action->text());
+                if (key.isEmpty() || !action->isVisible()) {
+                    continue;
+                }
+                ++keys;
+                if (taken.contains(key)) {
+                    clashes.append(taken[key] + QStringLiteral(" / ") + action->text());
+                }
+                taken.insert(key, action->text());
+            }
+        }
+    }
+    QVERIFY(keys > 80);
+    QVERIFY2(clashes.isEmpty(), qPrintable(clashes.join(QLatin1Char('\n'))));
 }
 
 /// What was found in a text is told in the new language, without a key in it.
