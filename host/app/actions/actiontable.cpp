@@ -128,8 +128,8 @@ const QVector<ActionRow>& actionTable()
 
         {"next_panel",     "view",  QT_TRANSLATE_NOOP("App::Actions", "&Next panel"),                    NoKey,        "F6",           NoNeed,          call<&W::focusNextPanel>},
         {"previous_panel", "view",  QT_TRANSLATE_NOOP("App::Actions", "&Previous panel"),                NoKey,        "Shift+F6",     NoNeed,          call<&W::focusPreviousPanel>},
-        {"next_text",      "view",  QT_TRANSLATE_NOOP("App::Actions", "Next te&xt"),                     NoKey,        "Ctrl+PgDown",  NeedsText,       call<&W::showNextText>},
-        {"previous_text",  "view",  QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),                 NoKey,        "Ctrl+PgUp",    NeedsText,       call<&W::showPreviousText>},
+        {"next_text",      "view",  QT_TRANSLATE_NOOP("App::Actions", "Next te&xt"),                     NoKey,        "Ctrl+PgDown; Ctrl+Tab", NeedsText,       call<&W::showNextText>},
+        {"previous_text",  "view",  QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),                 NoKey,        "Ctrl+PgUp; Ctrl+Shift+Tab", NeedsText,       call<&W::showPreviousText>},
         {nullptr,          "view",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
         {"zoom_in",        "view",  QT_TRANSLATE_NOOP("App::Actions", "&Larger text"),                   K::ZoomIn,    nullptr,        NeedsText,       inWorkspace<&Zorv::Workspace::zoomIn>},
         {"zoom_out",       "view",  QT_TRANSLATE_NOOP("App::Actions", "&Smaller text"),                  K::ZoomOut,   nullptr,        NeedsText,       inWorkspace<&Zorv::Workspace::zoomOut>},

@@ -30,7 +30,7 @@ struct ActionRow
     const char* menu;
     const char* text;
     QKeySequence::StandardKey standardKey;
-    const char* shortcut;  ///< portable form, where there is no standard key
+    const char* shortcut;  ///< portable, more than one with "; "; where there is no standard key
     int needs;             ///< of `Need`
     void (*slot)(MainWindow& window);
     const char* area = nullptr;  ///< where it applies; null for everywhere

@@ -25,7 +25,8 @@ namespace {
 QList<QKeySequence> defaultKeys(const ActionRow& row)
 {
     if (row.shortcut) {
-        return {QKeySequence(QLatin1String(row.shortcut), QKeySequence::PortableText)};
+        return QKeySequence::listFromString(QLatin1String(row.shortcut),
+                                            QKeySequence::PortableText);
     }
     return row.standardKey == QKeySequence::UnknownKey ? QList<QKeySequence>()
                                                        : QKeySequence::keyBindings(row.standardKey);
