@@ -1,10 +1,8 @@
 #include "editors/code/blockranges_p.h"
 
 #include "code/codedoc/codedocument.h"
+#include "editors/code/codeeditor_p.h"
 #include "editors/code/codefolding_p.h"
-
-#include <QPlainTextEdit>
-#include <QTextBlock>
 
 #include <algorithm>
 
@@ -14,8 +12,8 @@ namespace {
 
 constexpr int DarkValue = 128;
 
-/// The left edge of the first character of a line that is to be seen.
-int visualIndent(const QTextBlock& block, const QPlainTextEdit& editor)
+/// The left edge of the first character of a line that is to be seen, wherever the view is.
+int visualIndent(const QTextBlock& block, const CodeEditorPrivate& editor)
 {
     const QString text = block.text();
     const auto found = std::find_if(text.begin(), text.end(),
@@ -25,7 +23,7 @@ int visualIndent(const QTextBlock& block, const QPlainTextEdit& editor)
     }
     QTextCursor cursor(block);
     cursor.setPosition(block.position() + int(found - text.begin()));
-    return editor.cursorRect(cursor).left();
+    return editor.q->cursorRect(cursor).left() - int(editor.contentOffset().x());
 }
 
 /// The last block from `block` on in front of one with a level below `level`.
@@ -48,13 +46,13 @@ QColor shifted(const QColor& color, int by)
 
 }  // namespace
 
-HighlightBlocks BlockRanges::around(QTextBlock block, const CodeDocument& document,
-                                    const QPlainTextEdit& editor)
+HighlightBlocks BlockRanges::around(QTextBlock block, const CodeEditorPrivate& editor)
 {
     HighlightBlocks ranges;
-    if (!block.isValid()) {
+    if (!block.isValid() || !editor.document) {
         return ranges;
     }
+    const CodeDocument& document = *editor.document;
     const QTextBlock next = block.next();
     if (next.isValid() && CodeFolding::indent(next) > CodeFolding::indent(block)) {
         block = next;

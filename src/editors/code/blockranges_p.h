@@ -5,21 +5,19 @@
 #include <QColor>
 #include <QVector>
 
-class QPlainTextEdit;
 class QTextBlock;
 
 namespace Zorv {
 
-class CodeDocument;
+class CodeEditorPrivate;
 
 /// The ranges of lines around a line: each goes as far as no line has a folding level
 /// below that of the range.
 namespace BlockRanges {
 
-/// The ranges around a block; none for an invalid one. A line that opens a range is
-/// counted as inside it. Logarithmic for each range.
-HighlightBlocks around(QTextBlock block, const CodeDocument& document,
-                       const QPlainTextEdit& editor);
+/// The ranges around a block of an editor's document; none for an invalid one. A line that
+/// opens a range is counted as inside it. Logarithmic for each range.
+HighlightBlocks around(QTextBlock block, const CodeEditorPrivate& editor);
 
 /// How many of the ranges a block stands in.
 int depth(const HighlightBlocks& ranges, int blockNumber);

@@ -150,10 +150,7 @@ void CodeHighlights::findRanges()
     if (m_blockNumber >= 0) {
         block = q->document()->findBlockByNumber(m_blockNumber);
     }
-    HighlightBlocks blocks;
-    if (m_editor->document) {
-        blocks = BlockRanges::around(block, *m_editor->document, *q);
-    }
+    const HighlightBlocks blocks = BlockRanges::around(block, *m_editor);
     if (!(blocks == m_blocks)) {
         m_blocks = blocks;
         q->viewport()->update();

@@ -131,6 +131,8 @@ void CodeWorkspacePrivate::setFont(const QFont& font)
     if (!qFuzzyCompare(editor->tabStopDistance(), tabStop)) {
         editor->setTabStopDistance(tabStop);
     }
+    // Their edges stand at characters.
+    editor->updateBlockHighlight();
 }
 
 void CodeWorkspacePrivate::changeFontSize(double points)

@@ -9,7 +9,7 @@ struct HighlightBlocks
 {
     QList<int> open;          ///< numbers of the first blocks, the outermost first
     QList<int> close;         ///< numbers of the last blocks, the innermost first
-    QList<int> visualIndent;  ///< left edges in pixels, the outermost first
+    QList<int> visualIndent;  ///< left edges in pixels of the text, the outermost first
 
     int count() const { return visualIndent.size(); }
     bool isEmpty() const { return open.isEmpty() || close.isEmpty() || visualIndent.isEmpty(); }

@@ -196,15 +196,17 @@ void CodePainterTest::ranges()
     QCOMPARE(image.pixelColor(image.width() - 4, y).red(), grays.first());
 }
 
-/// The left edge is that of the text of the outer of both lines.
+/// The left edge is that of the text of the outer of both lines, wherever the view was when
+/// the ranges were found.
 void CodePainterTest::rangesStartAtTheText()
 {
-    ShownEditor shown(QStringLiteral("    z=1\n[1]\ny=1\n        x=1"));
+    ShownEditor shown(QStringLiteral("    z=1\n[1]\ny=1\n        x=") + QString(200, u'1'));
     Formatting formatting = bare();
     formatting.highlightBlocks = true;
     shown.editor.setSyntaxFormatting(formatting);
-    shown.putCursor(2, 0);
+    shown.putCursor(3, -1);
     QTRY_COMPARE(shown.editor.rangeStarts(), (QList<int>{0, 1}));
+    shown.editor.horizontalScrollBar()->setValue(0);
     const QRect text = cellOf(shown, 0, 4);
     const QImage image = picture(shown.editor);
     QCOMPARE(image.pixelColor(text.left() - 1, text.top()).red(), 225);
