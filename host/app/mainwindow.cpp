@@ -35,6 +35,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QStackedWidget>
@@ -361,6 +362,16 @@ QAction* MainWindow::actionByName(const char* name) const
 ActionRegistry* MainWindow::registry() const
 {
     return m_actions->registry();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    const bool isTextShown = m_code && m_centre->currentWidget() == m_code->widget();
+    if (isTextShown && event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+        showText();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -134,6 +134,8 @@ signals:
     void reconfigured();
 
 protected:
+    /// Escape that a panel has no use for leads back to the text.
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
 

@@ -504,6 +504,9 @@ void tst_MainWindow::isReachedByKeys()
     for (QWidget* panel : panels) {
         QVERIFY(!panel->accessibleName().isEmpty());
         QCOMPARE(QApplication::focusWidget(), panel);
+        QTest::keyClick(panel, Qt::Key_Escape);
+        QCOMPARE(QApplication::focusWidget(), m->edit());
+        panel->setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
     }
     QCOMPARE(QApplication::focusWidget(), m->edit());
