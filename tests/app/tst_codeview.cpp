@@ -262,6 +262,13 @@ void tst_CodeView::hiddenTreeComesBackInLine()
     QTRY_VERIFY(!nodes->isStale());
     QTest::qWait(100);
     QVERIFY(!m->tree()->isExpanded(m->tree()->currentIndex().parent()));
+    // A line in front of all nodes has none.
+    const QItemSelectionModel* selection = m->tree()->selectionModel();
+    m->goTo(0);
+    QTRY_VERIFY(!selection->hasSelection());
+    m->goTo(9);
+    QTRY_VERIFY(selection->hasSelection());
+    QCOMPARE(nodes->lineNo(m->tree()->currentIndex()), 9);
 }
 
 /// F6 leads on from inside of a bar too.

@@ -118,13 +118,15 @@ void CodeTextEditor::currLineChanged(int)
 
 void CodeTextEditor::selectLine()
 {
-    if (!isActive() || !tree() || !tree()->isVisible() || m_nodes->isStale()) {
+    if (!isActive() || !tree() || !tree()->isVisible() || m_nodes->isStale() ||
+        tree()->model() != m_nodes) {
         return;
     }
     const int line = workspace()->editor()->textCursor().blockNumber();
     const QModelIndex index = m_nodes->indexInLine(unsigned(line));
+    const QModelIndexList selected = tree()->selectionModel()->selectedIndexes();
     // Who has closed the branch of this line wants it closed.
-    if (index.isValid() && index != tree()->currentIndex()) {
+    if (index.isValid() ? !selected.contains(index) : !selected.isEmpty()) {
         CodeFileEditor::currLineChanged(line);
     }
 }
