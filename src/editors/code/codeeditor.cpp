@@ -239,6 +239,7 @@ void CodeEditor::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Insert && event->modifiers() == Qt::NoModifier) {
         setOverwriteMode(!overwriteMode());
+        viewport()->update();
         d->baseKeyPress(event);
         return;
     }

@@ -6,6 +6,7 @@
 #include "editors/code/codeeditorextraarea_p.h"
 #include "editors/code/parenthesismatch_p.h"
 
+#include <QScrollBar>
 #include <QTimer>
 
 namespace Zorv {
@@ -25,6 +26,12 @@ CodeHighlights::CodeHighlights(CodeEditorPrivate* editor)
     m_blockTimer->setSingleShot(true);
     connect(m_parenTimer, &QTimer::timeout, this, &CodeHighlights::matchParentheses);
     connect(m_blockTimer, &QTimer::timeout, this, &CodeHighlights::findRanges);
+    // The right edges of ranges stay where they are, but Qt moves what is painted.
+    connect(editor->q->horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (!m_blocks.isEmpty()) {
+            m_editor->q->viewport()->update();
+        }
+    });
 }
 
 void CodeHighlights::update()

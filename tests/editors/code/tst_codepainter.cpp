@@ -3,6 +3,7 @@
 #include "showneditor.h"
 
 #include <QInputMethodEvent>
+#include <QScreen>
 
 using namespace Zorv;
 
@@ -67,6 +68,7 @@ private slots:
     void ranges_data();
     void ranges();
     void rangesStartAtTheText();
+    void screenIsPaintedAnew();
     void currentLine();
     void overwriteCell_data();
     void overwriteCell();
@@ -212,6 +214,31 @@ void CodePainterTest::rangesStartAtTheText()
     QCOMPARE(image.pixelColor(text.left() - 1, text.top()).red(), 225);
     QCOMPARE(image.pixelColor(text.left(), text.top()).red(), 240);
     QCOMPARE(image.pixelColor(text.left() - 1, cellOf(shown, 2, 0).top()).red(), 255);
+}
+
+/// Qt moves what is painted, or paints a part of it alone.
+void CodePainterTest::screenIsPaintedAnew()
+{
+    ShownEditor shown(QStringLiteral("[1]\ny=1\nx=") + QString(200, u'1'));
+    Formatting formatting = bare();
+    formatting.highlightBlocks = true;
+    shown.editor.setSyntaxFormatting(formatting);
+    QTRY_VERIFY(!shown.editor.rangeStarts().isEmpty());
+    const auto isAnew = [&shown] {
+        const WId window = shown.editor.winId();
+        const QPixmap screen = shown.editor.screen()->grabWindow(window, 0, 0, shown.editor.width(),
+                                                                 shown.editor.height());
+        return screen.toImage().convertToFormat(QImage::Format_RGB32) ==
+               shown.editor.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    QTRY_VERIFY(isAnew());
+    shown.editor.horizontalScrollBar()->setValue(20);
+    QTRY_VERIFY(isAnew());
+    shown.editor.horizontalScrollBar()->setValue(0);
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(&shown.editor, Qt::Key_Insert);
+        QTRY_VERIFY(isAnew());
+    }
 }
 
 void CodePainterTest::currentLine()
