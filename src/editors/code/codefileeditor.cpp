@@ -148,6 +148,10 @@ void CodeFileEditor::activate()
     if (!isActive()) {
         return;
     }
+    // The host may have put away another editor of the same document only now.
+    if (d->document && !d->editor()) {
+        d->workspace->setDocument(d->document);
+    }
     if (d->model) {
         d->model->setDocument(d->document);
     }

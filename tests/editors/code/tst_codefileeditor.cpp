@@ -21,7 +21,7 @@ namespace {
 
 constexpr unsigned Expression = FindRegularExpression;
 
-/// A host that brings an editor forward by activating it.
+/// A host that brings an editor forward by activating it, in place of the one before.
 class Host : public TestInterface
 {
 public:
@@ -29,6 +29,9 @@ public:
 
     void activateEditor(Editor* newEditor) override
     {
+        if (editor && editor != newEditor) {
+            editor->deactivate();
+        }
         TestInterface::activateEditor(newEditor);
         newEditor->activate();
     }
@@ -73,6 +76,7 @@ private slots:
     void inactiveTouchesNothing();
     void documentDiesWhileActive();
     void documentsTakeTurns();
+    void editorsTakeTurns();
 
 private:
     void setText(const QString& text);
@@ -371,6 +375,23 @@ void CodeFileEditorTest::documentsTakeTurns()
     text->activate();
     QCOMPARE(host->calls.filter(QStringLiteral("activateEditor")).size(), 1);
     QCOMPARE(editor->codeDocument(), document.get());
+}
+
+/// Two editors of one document in one workspace: the text stays, and the one in front works on it.
+void CodeFileEditorTest::editorsTakeTurns()
+{
+    TextEditor other(workspace.get());
+    other.setDocument(document.get());
+    for (TextEditor* next : {&other, text.get()}) {
+        next->activate();
+        QCOMPARE(editor->codeDocument(), document.get());
+        for (TextEditor* each : {&other, text.get()}) {
+            QCOMPARE(each->isActive(), each == next);
+            QCOMPARE(each->model()->document(), each == next ? document.get() : nullptr);
+        }
+        next->find(QStringLiteral("a=3"), 0);
+        QCOMPARE(editor->textCursor().selectedText(), QStringLiteral("a=3"));
+    }
 }
 
 QTEST_MAIN(CodeFileEditorTest)
