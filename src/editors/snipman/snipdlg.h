@@ -15,7 +15,9 @@ class Interface;
 /// Edits a snippet: its fields, its code; saves it, shows what it gives, and writes
 /// the file of its texts for translators.
 ///
-/// A dialog that is closed with unsaved changes asks first. Main thread only.
+/// A dialog that is closed with unsaved changes asks first. It need not be modal, and is
+/// deleted by whoever made it. What goes wrong with files is told through `Dialogs`. Main
+/// thread only.
 class ZORV_EXPORT SnipDlg : public QDialog
 {
     Q_OBJECT
@@ -27,11 +29,11 @@ public:
     SnipDlg(const Zorv::Interface* host, const QString& path, QWidget* parent = nullptr);
     ~SnipDlg() override;
 
-    /// The snippet as the file holds it. Characters that mean something in XML are
-    /// escaped.
+    /// The snippet as the file holds it, saved or not. Characters that mean something in
+    /// XML are escaped, and those that XML has no place for are left out.
     QString toString() const;
 
-    /// True from an edit to the next save.
+    /// True from an edit to the next save, unless the edit is taken back.
     bool hasUnsavedChanges() const;
 
     /// Asks about unsaved changes, and closes unless the person wants to stay or the save

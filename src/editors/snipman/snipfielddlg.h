@@ -10,7 +10,8 @@ class SnipField;
 class SnipFieldDlgPrivate;
 
 /// Edits one field of a snippet: its name, title and type, and what a field of that type
-/// has at first. Ok needs a name.
+/// has at first. Ok needs a name. What was typed for one type stays while the person looks
+/// at another. Main thread only.
 ///
 /// It changes no field: the answer is a new one, to be asked for when `exec()` has given
 /// `QDialog::Accepted`. Main thread only.
@@ -19,7 +20,7 @@ class ZORV_EXPORT SnipFieldDlg : public QDialog
     Q_OBJECT
 
 public:
-    /// Starts with a text field without a name.
+    /// Starts with a text field that has neither name nor title nor value.
     explicit SnipFieldDlg(QWidget* parent);
     ~SnipFieldDlg() override;
 

@@ -9,8 +9,10 @@
 
 class SnipField;
 
-/// The fields of a snippet as rows, in the order in which they are asked and filled in:
-/// "@name, title". Owns its fields. Main thread only.
+/// The fields of a snippet as rows, in the order in which they are asked and filled in.
+///
+/// `Qt::DisplayRole` is "@name, title", or without a title the name alone; there are no
+/// other roles. Owns its fields, and tells views of each change. Main thread only.
 class ZORV_EXPORT SnipFieldsModel : public QAbstractListModel
 {
     Q_OBJECT
