@@ -80,7 +80,7 @@ QString filledIn(const SnippetFile& file, const QStringList& values)
                 SnippetManager::tr("Code snippet"),
                 SnippetManager::tr("With the value of \"%1\" the text grows too large. Shorten the "
                                    "value, or use the field less often.")
-                    .arg(field.title));
+                    .arg(field.title.isEmpty() ? field.name : field.title));
             return {};
         }
     }
