@@ -158,9 +158,8 @@ bool checkOperands(const Command& command, const Invocation& invocation, QString
 
 QString Command::usage() const
 {
-    QString text = QStringLiteral("zorv %1 %2")
-                       .arg(QLatin1String(name), QLatin1String(operands))
-                       .trimmed();
+    QString text =
+        QStringLiteral("zorv %1 %2").arg(QLatin1String(name), QLatin1String(operands)).trimmed();
     if (options & Json) {
         text += QLatin1String(" [--json]");
     }

@@ -46,7 +46,8 @@ void collect(const GroupNode* group, QVector<FileReference>* list)
         const QString path =
             value->key()->form == Form::Path ? value->value().toString() : QString();
         if (!path.isEmpty()) {
-            list->append({namedFileType(group->name(), value->name()), path, value->firstLine(), 0, 0});
+            list->append(
+                {namedFileType(group->name(), value->name()), path, value->firstLine(), 0, 0});
             locate(value, &list->last());
         }
     }
