@@ -3,9 +3,9 @@
 
 #include "support/bench.h"
 #include "support/codetext.h"
+#include "support/document.h"
 
 #include "core/messages.h"
-#include "familydocument.h"
 
 #include <QGuiApplication>
 #include <QPlainTextDocumentLayout>
@@ -13,32 +13,16 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-#include <memory>
-
 namespace {
 
 constexpr int Rounds = 400;
 
-struct Released
-{
-    void operator()(Family::FamilyDocument* document) const { document->release(); }
-};
-using Document = std::unique_ptr<Family::FamilyDocument, Released>;
-
-/// Qt looks through all lines when the widest one that it has laid out shrinks:
-/// the widest stands at the top, and is left alone.
-void putWidestOnTop(QTextDocument& document)
-{
-    QTextCursor cursor(document.begin());
-    cursor.movePosition(QTextCursor::EndOfBlock);
-    cursor.insertText(QLatin1String("  # ") + QString(400, QLatin1Char('-')));
-}
+using Bench::Document;
 
 Document load(CodeText::Form form, int lines)
 {
-    Document document(new Family::FamilyDocument(Family::FileKind::Code));
-    document->setPlainText(CodeText::make(form, lines));
-    putWidestOnTop(*document);
+    Document document = Bench::load(CodeText::make(form, lines));
+    Bench::putWidestOnTop(*document);
     return document;
 }
 
@@ -76,7 +60,7 @@ void compareBare(const char* name, Key key)
         QTextDocument document;
         document.setDocumentLayout(new QPlainTextDocumentLayout(&document));
         document.setPlainText(CodeText::make(CodeText::Form::Comments, i ? 1000000 : 10000));
-        putWidestOnTop(document);
+        Bench::putWidestOnTop(document);
         times[i] = timeOf(document, key);
     }
     Bench::ratio(name, times[1], times[0]);

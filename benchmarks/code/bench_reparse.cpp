@@ -3,6 +3,7 @@
 
 #include "support/bench.h"
 #include "support/codetext.h"
+#include "support/document.h"
 
 #include "code/codedoc/animationcode.h"
 #include "core/messagelist.h"
@@ -19,22 +20,11 @@
 #include <QTextLayout>
 
 #include <malloc.h>
-#include <memory>
 
 namespace {
 
-struct Released
-{
-    void operator()(Family::FamilyDocument* document) const { document->release(); }
-};
-using Document = std::unique_ptr<Family::FamilyDocument, Released>;
-
-Document load(const QString& text)
-{
-    Document document(new Family::FamilyDocument(Family::FileKind::Code));
-    document->setPlainText(text);
-    return document;
-}
+using Bench::Document;
+using Bench::load;
 
 /// A head of 20 lines in the middle of 100,000, made text and a head again.
 void countParsedLines()

@@ -3,6 +3,7 @@
 
 #include "support/bench.h"
 #include "support/codetext.h"
+#include "support/document.h"
 
 #include "editors/code/codeeditor.h"
 #include "familydocument.h"
@@ -12,8 +13,6 @@
 #include <QTextBlock>
 #include <QThread>
 #include <QtTest>
-
-#include <memory>
 
 using namespace Zorv;
 
@@ -26,21 +25,12 @@ constexpr int PageCount = 1000;
 /// Longer than brackets and ranges wait for the cursor to rest.
 constexpr int Rest = 130;
 
-struct Released
-{
-    void operator()(Family::FamilyDocument* document) const { document->release(); }
-};
-using Document = std::unique_ptr<Family::FamilyDocument, Released>;
+using Bench::Document;
 
-/// Qt looks through all lines when the widest one that it has laid out shrinks:
-/// the widest stands at the top, and is left alone.
 Document load(int lines)
 {
-    Document document(new Family::FamilyDocument(Family::FileKind::Code));
-    document->setPlainText(CodeText::make(CodeText::Form::Mixed, lines));
-    QTextCursor cursor(document->begin());
-    cursor.movePosition(QTextCursor::EndOfBlock);
-    cursor.insertText(QLatin1String("  # ") + QString(400, QLatin1Char('-')));
+    Document document = Bench::load(CodeText::make(CodeText::Form::Mixed, lines));
+    Bench::putWidestOnTop(*document);
     return document;
 }
 

@@ -2,15 +2,13 @@
 // key costs beside a long fold.
 
 #include "support/bench.h"
+#include "support/document.h"
 
 #include "editors/code/codeeditor.h"
-#include "familydocument.h"
 
 #include <QApplication>
 #include <QTextBlock>
 #include <QtTest>
-
-#include <memory>
 
 using namespace Zorv;
 
@@ -20,11 +18,7 @@ constexpr int Rounds = 15;
 constexpr int KeyRounds = 200;
 constexpr int BlockLength = 20;
 
-struct Released
-{
-    void operator()(Family::FamilyDocument* document) const { document->release(); }
-};
-using Document = std::unique_ptr<Family::FamilyDocument, Released>;
+using Bench::Document;
 
 /// Groups of a length.
 Document load(int lines, int blockLength)
@@ -34,9 +28,7 @@ Document load(int lines, int blockLength)
         text += i % blockLength == 0 ? QStringLiteral("[constants]\n")
                                      : QStringLiteral("life = %1\n").arg(i);
     }
-    Document document(new Family::FamilyDocument(Family::FileKind::Code));
-    document->setPlainText(text);
-    return document;
+    return Bench::load(text);
 }
 
 void show(CodeEditor& editor, CodeDocument* document)

@@ -3,6 +3,7 @@
 
 #include "support/bench.h"
 #include "support/codetext.h"
+#include "support/document.h"
 
 #include "code/codedoc/codeblockdata.h"
 #include "editors/code/codeeditor.h"
@@ -13,17 +14,10 @@
 #include <QApplication>
 #include <QTextBlock>
 
-#include <memory>
-
 namespace {
 
 constexpr int Lines = 1000000;
 constexpr int Rounds = 21;
-
-struct Released
-{
-    void operator()(Family::FamilyDocument* document) const { document->release(); }
-};
 
 int messagesOf(const QTextDocument& document)
 {
@@ -57,11 +51,9 @@ int main(int argc, char** argv)
     Family::HostInterface host;
     setGlobalInterface(&host);
     Zorv::CodeWorkspace workspace;
-    const std::unique_ptr<Family::FamilyDocument, Released> document(
-        new Family::FamilyDocument(Family::FileKind::Code));
     QStringList lines = CodeText::make(CodeText::Form::Comments, Lines).split(QLatin1Char('\n'));
     lines[Lines / 2] = QStringLiteral("this line has a fault");
-    document->setPlainText(lines.join(QLatin1Char('\n')));
+    const Bench::Document document = Bench::load(lines.join(QLatin1Char('\n')));
     workspace.setDocument(document.get());
     workspace.widget()->resize(800, 600);
     workspace.widget()->show();

@@ -3,32 +3,20 @@
 
 #include "support/bench.h"
 #include "support/codetext.h"
+#include "support/document.h"
 
 #include "editors/code/codeeditor.h"
 #include "editors/code/codefind.h"
 #include "editors/code/codefindtext.h"
-#include "familydocument.h"
 
 #include <QApplication>
-
-#include <memory>
 
 namespace {
 
 constexpr int Matches = 50000;
 
-struct Released
-{
-    void operator()(Family::FamilyDocument* document) const { document->release(); }
-};
-using Document = std::unique_ptr<Family::FamilyDocument, Released>;
-
-Document load(const QString& text)
-{
-    Document document(new Family::FamilyDocument(Family::FileKind::Code));
-    document->setPlainText(text);
-    return document;
-}
+using Bench::Document;
+using Bench::load;
 
 struct Case
 {
