@@ -40,9 +40,6 @@ private slots:
     void dropsAnimations_data();
     void dropsAnimations();
     void refusesDropsFromElsewhere();
-    void tellsAProblemAtTheMouse();
-    void writesLineEndsOnly();
-    void copiesWhatStandsThere();
 
 private:
     MainWindow* window() const { return m->window.get(); }
@@ -360,39 +357,6 @@ void tst_WindowPanels::refusesDropsFromElsewhere()
     QVERIFY(window()->openFile(m_game->ryn()));
     QVERIFY(!model->dropMimeData(own.get(), Qt::MoveAction, 0, 0, {}));
     QVERIFY(!m->document()->isModified());
-}
-
-void tst_WindowPanels::tellsAProblemAtTheMouse()
-{
-    m->open(*m_game, m_game->oda());
-    QTextCursor cursor(m->document()->findBlockByNumber(3));
-    cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, 9);
-    const QPoint place = m->edit()->cursorRect(cursor).center();
-    QHelpEvent help(QEvent::ToolTip, place, m->edit()->viewport()->mapToGlobal(place));
-    QApplication::sendEvent(m->edit()->viewport(), &help);
-    QTRY_VERIFY(QToolTip::text().contains(QLatin1String("whole number")));
-}
-
-void tst_WindowPanels::writesLineEndsOnly()
-{
-    m->open(*m_game, m_game->ryn());
-    const int lines = m->document()->blockCount();
-    m->press(Qt::Key_Return, Qt::ShiftModifier);
-    QCOMPARE(m->document()->blockCount(), lines + 1);
-    QVERIFY(!m->document()->text().contains(QChar::LineSeparator));
-}
-
-void tst_WindowPanels::copiesWhatStandsThere()
-{
-    m_game->write("characters/ryn/ryn.character", "[info]\r\nname = \"a\xC2\xA0"
-                                                  "b\"\r\n");
-    m->open(*m_game, m_game->ryn());
-    const QString before = m->document()->text();
-    m->press(Qt::Key_A, Qt::ControlModifier);
-    m->press(Qt::Key_X, Qt::ControlModifier);
-    QVERIFY(m->document()->isEmpty());
-    m->press(Qt::Key_V, Qt::ControlModifier);
-    QCOMPARE(m->document()->text(), before);
 }
 
 QTEST_MAIN(tst_WindowPanels)
