@@ -1,0 +1,7 @@
+#include "cache/palette.h"
+
+namespace Zorv {
+
+Palette::~Palette() = default;
+
+}  // namespace Zorv

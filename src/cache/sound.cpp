@@ -1,0 +1,7 @@
+#include "cache/sound.h"
+
+namespace Zorv {
+
+Sound::~Sound() = default;
+
+}  // namespace Zorv

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/cachedprojectfile.h"
+#include "core/organizableobject.h"
+
+#include <QVariant>
+
+namespace Zorv {
+
+class Sound;
+struct SoundSample;
+
+/// The sounds of a project: a list that can be rearranged, and a file. Implemented by the
+/// host. Main thread only.
+class ZORV_EXPORT Sounds : public OrganizableObject, public CachedProjectFile
+{
+    Q_OBJECT
+
+public:
+    ~Sounds() override;
+
+    virtual unsigned count() const = 0;
+
+    /// Null for an index outside of the list.
+    virtual Sound* sound(int index) const = 0;
+
+    /// Makes a row current, in `currentIndex`; one outside of the list means that none is.
+    virtual void setCurrent(int index) = 0;
+
+    /// Puts a sound in front of a row; at the end for a row beyond it. An empty identifier takes a
+    /// free one.
+    virtual Sound* add(int row, const QVariant& id, const SoundSample& sample) = 0;
+
+    /// The first row from `from` on with an identifier; negative if there is none.
+    virtual int find(int from, const QVariant& id) const = 0;
+
+    /// Opens and closes one step of undo; the same for list and file.
+    void beginChange(const QString& title) override = 0;
+    void endChange() override = 0;
+
+    int currentIndex = -1;  ///< the current row
+
+protected:
+    explicit Sounds(StreamCache* cache = nullptr);
+};
+
+}  // namespace Zorv

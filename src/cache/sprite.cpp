@@ -1,0 +1,7 @@
+#include "cache/sprite.h"
+
+namespace Zorv {
+
+Sprite::~Sprite() = default;
+
+}  // namespace Zorv

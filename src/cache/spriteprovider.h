@@ -1,0 +1,35 @@
+#pragma once
+
+#include "zorv_export.h"
+
+#include <QObject>
+#include <QVariant>
+
+namespace Zorv {
+
+class Sprite;
+
+/// What the stage draws from: a list of sprites with what is to be known of each.
+class ZORV_EXPORT SpriteProvider : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    virtual unsigned count() const = 0;
+
+    /// Null for an index outside of the list.
+    virtual Sprite* at(unsigned index) const = 0;
+
+    /// What the stage asks for by key: 0 position, 1 mode, 2 parent, 3 size, 4 scale, 5 flip,
+    /// 6 rotation in degrees, 7 layer. An invalid value leaves the stage's own.
+    virtual QVariant property(unsigned index, unsigned key) const = 0;
+
+signals:
+    /// All sprites may have changed; or the one at that index.
+    void changed();
+    void changedAt(unsigned int index);
+};
+
+}  // namespace Zorv

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "zorv_export.h"
+
+class QIODevice;
+
+namespace Zorv {
+
+struct SoundSample;
+
+/// Reads a sound file. `format` is "WAV", in capitals, or the name of an `Extension` that
+/// loads sounds. The device is open; false otherwise, and for a sound without samples. Main thread
+/// only.
+ZORV_EXPORT bool loadSound(QIODevice* device, const char* format, SoundSample& sample);
+
+/// Writes a sound file; formats and device likewise. False if nobody writes the format
+/// or writing failed.
+ZORV_EXPORT bool saveSound(QIODevice* device, const char* format, const SoundSample& sample);
+
+}  // namespace Zorv

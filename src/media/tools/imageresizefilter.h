@@ -1,0 +1,13 @@
+#pragma once
+
+namespace Zorv {
+
+/// How pixels are made when an image is resized or rotated.
+enum class ImageResizeFilter {
+    Nearest = 0,   ///< the nearest pixel
+    Bilinear = 1,  ///< a mixture of the four around
+    Epx = 2,       ///< Scale2x and Scale3x, repeated, then nearest to the size
+    Hq = 3         ///< hq2x, hq3x, hq4x, repeated, then bilinear to the size
+};
+
+}  // namespace Zorv
