@@ -11,7 +11,8 @@ namespace Zorv {
 /// The place of an item in the temporary file of a `DiskCache`.
 struct ZORV_EXPORT DiskItem final : PackedCache::Item
 {
-    qint64 offset;  ///< of the first stored byte; -1 while there is none
+    qint64 offset;    ///< of the first stored byte; -1 while there is none
+    QByteArray kept;  ///< the stored bytes themselves, while the disk has no room for them
 };
 
 /// Keeps its items in one temporary file, which dies with it.
@@ -29,6 +30,9 @@ public:
     /// `DiskStore`.
     Type type() const override;
 
+    /// False if there is no temporary file.
+    bool isOpen() const;
+
 protected:
     QByteArray rawData(PackedCache::Item* item) const override;
     PackedCache::Item* add(const QByteArray& data, unsigned char type, void* filterData,
@@ -37,7 +41,9 @@ protected:
              unsigned long long crc) override;
 
 private:
-    void moveTail(qint64 from, qint64 delta);
+    bool makeRoom(DiskItem* item, const QByteArray& data);
+    void moveTail(qint64 begin, qint64 end, qint64 delta);
+    bool write(qint64 offset, const char* data, qint64 size);
 
     mutable QTemporaryFile m_tempFile;
     std::unique_ptr<char[]> m_blockBuffer;  // what one step of a move takes

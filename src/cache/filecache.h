@@ -47,6 +47,12 @@ public:
     void deleteItem(Item* item);
 
     QString fileName(Item* item) const;
+
+    /// Why the last `setItemData()` left the old file, in words for the person; empty if it wrote.
+    QString failure() const { return m_failure; }
+
+private:
+    QString m_failure;
 };
 
 }  // namespace Zorv

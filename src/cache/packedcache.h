@@ -31,6 +31,9 @@ protected:
                                    unsigned long long crc) = 0;
     virtual void set(PackedCache::Item* item, const QByteArray& data, unsigned char type,
                      void* filterData, unsigned long long crc) = 0;
+
+private:
+    QByteArray packed(const QByteArray& data, unsigned char type, void* filterData) const;
 };
 
 }  // namespace Zorv

@@ -101,6 +101,8 @@ protected:
     const QList<Item*>& items() const { return m_items; }
 
 private:
+    void updateChecksum(Item* item, QByteArray* data) const;
+
     QList<Item*> m_items;
     std::unique_ptr<StreamCacheIndex> m_index;
 };

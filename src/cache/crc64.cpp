@@ -1,0 +1,65 @@
+#include "cache/crc64.h"
+
+#include <QtEndian>
+
+#include <array>
+
+namespace Zorv {
+
+namespace {
+
+using Checksum = unsigned long long;
+
+const Checksum Polynomial = 0x95AC9329AC4BC9B5;
+const unsigned Step = 16;
+
+using Tables = std::array<std::array<Checksum, 256>, Step>;
+
+// Table n is what a byte does to the register when n bytes follow it.
+constexpr Tables makeTables()
+{
+    Tables tables{};
+    for (unsigned byte = 0; byte < 256; ++byte) {
+        Checksum value = byte;
+        for (int bit = 0; bit < 8; ++bit) {
+            value = (value >> 1) ^ ((value & 1) ? Polynomial : 0);
+        }
+        tables[0][byte] = value;
+    }
+    for (unsigned n = 1; n < Step; ++n) {
+        for (unsigned byte = 0; byte < 256; ++byte) {
+            const Checksum before = tables[n - 1][byte];
+            tables[n][byte] = (before >> 8) ^ tables[0][before & 255];
+        }
+    }
+    return tables;
+}
+
+constexpr Tables tables = makeTables();
+
+// What 8 bytes do when `behind` bytes of the step follow them.
+template <unsigned behind>
+Checksum foldWord(Checksum word)
+{
+    return tables[behind + 7][word & 255] ^ tables[behind + 6][(word >> 8) & 255] ^
+           tables[behind + 5][(word >> 16) & 255] ^ tables[behind + 4][(word >> 24) & 255] ^
+           tables[behind + 3][(word >> 32) & 255] ^ tables[behind + 2][(word >> 40) & 255] ^
+           tables[behind + 1][(word >> 48) & 255] ^ tables[behind][word >> 56];
+}
+
+}  // namespace
+
+unsigned long long crc64(const unsigned char* data, unsigned int length)
+{
+    Checksum result = ~Checksum(0);
+    for (; length >= Step; length -= Step, data += Step) {
+        result = foldWord<8>(result ^ qFromLittleEndian<quint64>(data)) ^
+                 foldWord<0>(qFromLittleEndian<quint64>(data + 8));
+    }
+    for (; length > 0; --length, ++data) {
+        result = (result >> 8) ^ tables[0][(result ^ *data) & 255];
+    }
+    return result;
+}
+
+}  // namespace Zorv

@@ -1,0 +1,33 @@
+#include "cache/memorycache.h"
+
+namespace Zorv {
+
+StreamCache::Type MemoryCache::type() const
+{
+    return MemoryStore;
+}
+
+QByteArray MemoryCache::rawData(PackedCache::Item* item) const
+{
+    return static_cast<Item*>(item)->data;
+}
+
+PackedCache::Item* MemoryCache::add(const QByteArray& data, unsigned char type, void* filterData,
+                                    unsigned long long crc)
+{
+    auto* item = new Item;
+    set(item, data, type, filterData, crc);
+    return item;
+}
+
+void MemoryCache::set(PackedCache::Item* item, const QByteArray& data, unsigned char type,
+                      void* filterData, unsigned long long crc)
+{
+    item->type = type;
+    item->filterData = filterData;
+    item->crc = crc;
+    item->size = data.size();
+    static_cast<Item*>(item)->data = data;
+}
+
+}  // namespace Zorv

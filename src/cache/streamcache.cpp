@@ -1,0 +1,149 @@
+#include "cache/streamcache.h"
+
+#include "cache/crc64.h"
+#include "cache/diskcache.h"
+#include "cache/filecache.h"
+#include "cache/memorycache.h"
+#include "cache/streamcacheindex_p.h"
+#include "core/interface.h"
+
+#include <cstring>
+
+namespace Zorv {
+
+namespace {
+
+unsigned long long checksumOf(const QByteArray& data)
+{
+    return crc64(reinterpret_cast<const unsigned char*>(data.constData()), unsigned(data.size()));
+}
+
+bool holdsSame(const QByteArray& a, const QByteArray& b)
+{
+    return a.size() == b.size() && std::memcmp(a.constData(), b.constData(), size_t(a.size())) == 0;
+}
+
+}  // namespace
+
+StreamCache::Item::~Item() = default;
+
+StreamCache::StreamCache() : m_index(std::make_unique<StreamCacheIndex>()) {}
+
+StreamCache::~StreamCache() = default;
+
+StreamCache* StreamCache::instance(Type type)
+{
+    switch (type) {
+    case DefaultCache: {
+        const Interface* host = Interface::instance();
+        const bool inMemory = !host || host->option(QStringLiteral("cache_type")).toInt() < 2;
+        return instance(inMemory ? MemoryStore : DiskStore);
+    }
+    case MemoryStore:
+        return new MemoryCache;
+    case DiskStore:
+        return new DiskCache;
+    case FileStore:
+        return new FileCache;
+    }
+    return nullptr;
+}
+
+void StreamCache::removeItem(Item* item)
+{
+    const int position = m_index->position(m_items, item);
+    if (position >= 0) {
+        m_items.removeAt(position);
+    } else {
+        m_items.removeAll(item);
+    }
+    m_index->remove(item);
+    delete item;
+}
+
+void StreamCache::clear()
+{
+    m_index->clear();
+    while (!m_items.isEmpty()) {
+        Item* last = m_items.last();
+        m_items.removeAll(last);
+        delete last;
+    }
+}
+
+bool StreamCache::isEqual(Item* a, Item* b) const
+{
+    if (!a || !b) {
+        return false;
+    }
+    QByteArray dataA;
+    QByteArray dataB;
+    const bool wasKnown = a->crc && b->crc;
+    updateChecksum(a, &dataA);
+    updateChecksum(b, &dataB);
+    if (a->crc != b->crc) {
+        return false;
+    }
+    if (wasKnown && a->type == b->type) {
+        return holdsSame(itemRawData(a), itemRawData(b));
+    }
+    if (dataA.isEmpty()) {
+        dataA = itemData(a);
+    }
+    if (dataB.isEmpty()) {
+        dataB = itemData(b);
+    }
+    return !dataA.isEmpty() && holdsSame(dataA, dataB);
+}
+
+bool StreamCache::isEqual(Item* item, const QByteArray& data, unsigned long long crc) const
+{
+    if (!item) {
+        return false;
+    }
+    QByteArray own;
+    updateChecksum(item, &own);
+    if (item->crc != crc) {
+        return false;
+    }
+    if (own.isEmpty()) {
+        own = itemData(item);
+    }
+    return !own.isEmpty() && holdsSame(own, data);
+}
+
+StreamCache::Item* StreamCache::find(const QByteArray& data, Item* exclude) const
+{
+    if (data.isEmpty() || m_items.isEmpty()) {
+        return nullptr;
+    }
+    m_index->complete([this](Item* item) {
+        item->crc = checksumOf(itemData(item));
+        return item->crc;
+    });
+    return m_index->first(checksumOf(data), [&](Item* item) {
+        return item != exclude && holdsSame(itemData(item), data);
+    });
+}
+
+void StreamCache::appendItem(Item* item)
+{
+    m_items.append(item);
+    m_index->append(item);
+}
+
+void StreamCache::itemChanged(Item* item)
+{
+    m_index->update(item);
+}
+
+void StreamCache::updateChecksum(Item* item, QByteArray* data) const
+{
+    if (item->crc == 0) {
+        *data = itemData(item);
+        item->crc = checksumOf(*data);
+        m_index->update(item);
+    }
+}
+
+}  // namespace Zorv

@@ -1,0 +1,68 @@
+#include "cache/streamcacheindex_p.h"
+
+#include <algorithm>
+
+namespace Zorv {
+
+void StreamCacheIndex::append(Item* item)
+{
+    if (!m_entries.contains(item)) {
+        m_entries.insert(item, Entry{m_nextPlace++, 0, false});
+        update(item);
+    }
+}
+
+void StreamCacheIndex::remove(Item* item)
+{
+    const auto entry = m_entries.find(item);
+    if (entry != m_entries.end()) {
+        withdraw(*entry);
+        m_entries.erase(entry);
+    }
+}
+
+void StreamCacheIndex::clear()
+{
+    m_entries.clear();
+    m_byChecksum.clear();
+    m_open.clear();
+}
+
+void StreamCacheIndex::update(Item* item)
+{
+    const auto entry = m_entries.find(item);
+    if (entry == m_entries.end()) {
+        return;
+    }
+    withdraw(*entry);
+    entry->crc = item->crc;
+    entry->isKnown = item->crc != 0;
+    if (entry->isKnown) {
+        m_byChecksum.emplace(std::make_pair(entry->crc, entry->place), item);
+    } else {
+        m_open.emplace(entry->place, item);
+    }
+}
+
+int StreamCacheIndex::position(const QList<Item*>& items, Item* item) const
+{
+    const auto entry = m_entries.constFind(item);
+    if (entry == m_entries.constEnd() || items.size() != m_entries.size()) {
+        return -1;
+    }
+    const auto found = std::lower_bound(
+        items.begin(), items.end(), entry->place,
+        [this](Item* other, qint64 place) { return m_entries.value(other).place < place; });
+    return int(found - items.begin());
+}
+
+void StreamCacheIndex::withdraw(const Entry& entry)
+{
+    if (entry.isKnown) {
+        m_byChecksum.erase({entry.crc, entry.place});
+    } else {
+        m_open.erase(entry.place);
+    }
+}
+
+}  // namespace Zorv
