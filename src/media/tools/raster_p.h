@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+
+namespace Zorv {
+
+/// The largest width and height of an image that the tools make.
+constexpr int MaxImageSide = 32767;
+
+/// The pixels of an image, row by row; the image outlives it. `Pixel` is `quint8` for an indexed
+/// image and `quint32` for the others, const for reading.
+template <class Pixel>
+struct Raster
+{
+    explicit Raster(const QImage& image)
+        : width(image.width()), height(image.height()), stride(image.bytesPerLine()),
+          bits(reinterpret_cast<Pixel*>(image.constBits()))
+    {
+    }
+    explicit Raster(QImage& image)
+        : width(image.width()), height(image.height()), stride(image.bytesPerLine()),
+          bits(reinterpret_cast<Pixel*>(image.bits()))
+    {
+    }
+
+    Pixel* row(int y) const
+    {
+        using Byte = std::conditional_t<std::is_const_v<Pixel>, const uchar, uchar>;
+        return reinterpret_cast<Pixel*>(reinterpret_cast<Byte*>(bits) + y * stride);
+    }
+
+    int width;
+    int height;
+    qsizetype stride;
+    Pixel* bits;
+};
+
+/// The image in one of the three forms that the tools work on: `Format_Indexed8`, `Format_RGB32`
+/// and `Format_ARGB32`.
+QImage workingImage(const QImage& image);
+
+/// A working image in which pixels that look the same are the same number: the unused byte of
+/// `Format_RGB32` is 255, and what is transparent has no colour.
+QImage comparableImage(const QImage& image);
+
+/// An image with the form, the colour table and the resolution of a working image, its pixels
+/// not set. Null if a side is not from 1 to `MaxImageSide` or memory is short.
+QImage imageLike(const QImage& model, const QSize& size);
+
+/// Calls `function` with rasters of the pixels of two working images of one form.
+template <class Function>
+void withRasters(const QImage& from, QImage& to, Function function)
+{
+    if (from.format() == QImage::Format_Indexed8) {
+        function(Raster<const quint8>(from), Raster<quint8>(to));
+    } else {
+        function(Raster<const quint32>(from), Raster<quint32>(to));
+    }
+}
+
+}  // namespace Zorv

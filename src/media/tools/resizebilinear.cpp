@@ -1,0 +1,115 @@
+#include "media/tools/resizebilinear_p.h"
+
+#include "media/tools/raster_p.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace Zorv {
+
+namespace {
+
+/// A colour whose parts are multiplied by its alpha, so that what is transparent adds nothing.
+struct Mixture
+{
+    float b, g, r, a;
+};
+
+Mixture mixtureOf(quint32 pixel)
+{
+    const float a = float(pixel >> 24);
+    return {float(pixel & 0xFF) * a, float((pixel >> 8) & 0xFF) * a,
+            float((pixel >> 16) & 0xFF) * a, a};
+}
+
+void add(Mixture& sum, const Mixture& part, float weight)
+{
+    sum.b += part.b * weight;
+    sum.g += part.g * weight;
+    sum.r += part.r * weight;
+    sum.a += part.a * weight;
+}
+
+quint32 pixelOf(const Mixture& sum)
+{
+    const auto a = quint32(sum.a + 0.5F);
+    if (a == 0) {
+        return 0;
+    }
+    const float scale = 1 / sum.a;
+    const auto part = [scale](float value) {
+        return std::min(quint32(value * scale + 0.5F), 255U);
+    };
+    return a << 24 | part(sum.r) << 16 | part(sum.g) << 8 | part(sum.b);
+}
+
+/// Which pixels of a row or a column make one of the result: `weights.size()` from `first` on.
+struct Taps
+{
+    int first;
+    std::vector<float> weights;
+};
+
+/// A triangle over each position, two pixels wide, or two pixels of the result where it shrinks.
+std::vector<Taps> tapsOf(int from, int to)
+{
+    std::vector<Taps> result;
+    result.reserve(std::size_t(to));
+    const double step = double(from) / to;
+    const double reach = std::max(step, 1.0);
+    for (int i = 0; i < to; ++i) {
+        const double centre = (i + 0.5) * step - 0.5;
+        const int first = std::max(int(std::ceil(centre - reach)), 0);
+        const int last = std::min(int(std::floor(centre + reach)), from - 1);
+        Taps taps = {first, {}};
+        double sum = 0;
+        for (int k = first; k <= last; ++k) {
+            const double weight = std::max(1 - std::abs(k - centre) / reach, 0.0);
+            taps.weights.push_back(float(weight));
+            sum += weight;
+        }
+        for (float& weight : taps.weights) {
+            weight = float(weight / sum);
+        }
+        result.push_back(std::move(taps));
+    }
+    return result;
+}
+
+}  // namespace
+
+QImage resizeBilinear(const QImage& image, const QSize& size)
+{
+    QImage result = imageLike(image, size);
+    if (result.isNull()) {
+        return result;
+    }
+    const Raster<const quint32> from(image);
+    const Raster<quint32> to(result);
+    const std::vector<Taps> columns = tapsOf(from.width, to.width);
+    const std::vector<Taps> rows = tapsOf(from.height, to.height);
+    std::vector<Mixture> line(std::size_t(from.width));
+    for (int y = 0; y < to.height; ++y) {
+        const Taps& taps = rows[std::size_t(y)];
+        std::fill(line.begin(), line.end(), Mixture{});
+        for (std::size_t k = 0; k < taps.weights.size(); ++k) {
+            const quint32* row = from.row(taps.first + int(k));
+            for (std::size_t x = 0; x < line.size(); ++x) {
+                add(line[x], mixtureOf(row[x]), taps.weights[k]);
+            }
+        }
+        quint32* pixels = to.row(y);
+        for (const Taps& column : columns) {
+            Mixture sum = {};
+            const Mixture* part = line.data() + column.first;
+            for (const float weight : column.weights) {
+                add(sum, *part++, weight);
+            }
+            *pixels++ = pixelOf(sum);
+        }
+    }
+    return result;
+}
+
+}  // namespace Zorv
