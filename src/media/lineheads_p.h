@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+
+class QIODevice;
+
+namespace Zorv {
+
+/// The lines of a text one after another, each cut to its first `HeadSize` bytes, so that
+/// a file of any size, with lines of any length, takes a fixed amount of memory.
+///
+/// A text of n separators has n + 1 lines, empty ones included.
+class LineHeads
+{
+public:
+    static const int HeadSize = 64;
+
+    LineHeads(QIODevice* device, const QByteArray& separator);
+
+    /// The next line, without its separator; empty behind the last.
+    QByteArray next();
+
+    /// Whether the last line has been taken.
+    bool atEnd() const { return m_atEnd; }
+
+private:
+    bool fill();
+    void take(QByteArray& line, int size);
+
+    QIODevice* m_device;
+    QByteArray m_separator;
+    QByteArray m_chunk;
+    int m_pos = 0;  ///< in the chunk
+    bool m_atEnd = false;
+};
+
+}  // namespace Zorv
