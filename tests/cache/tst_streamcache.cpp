@@ -108,6 +108,7 @@ private slots:
     void searchDecodesOnlyWhatItMust();
     void checksumsThatAreGivenLate();
     void diskOrder();
+    void longTail();
     void fullDisk();
     void defaultStore_data();
     void defaultStore();
@@ -292,6 +293,25 @@ void tst_StreamCache::diskOrder()
     cache.setItemData(third, "short", Silent, nullptr, 0);
     QCOMPARE(add(1)->offset, 230);
     cache.clear();
+}
+
+// More bytes behind an item than are moved in one step.
+void tst_StreamCache::longTail()
+{
+    Store store(StreamCache::DiskStore);
+    QByteArray data(70 * 1024 * 1024, Qt::Uninitialized);
+    for (int i = 0; i < data.size(); ++i) {
+        data[i] = char(i * 7 + (i >> 8) + (i >> 16));
+    }
+    Item* front = store.cache->addItem("front", Silent, nullptr, 0);
+    Item* tail[] = {store.cache->addItem(data, Silent, nullptr, 0),
+                    store.cache->addItem(data, Silent, nullptr, 0)};
+    for (const int size : {1000, 10}) {
+        store.cache->setItemData(front, QByteArray(size, 'f'), Silent, nullptr, 0);
+        for (Item* item : tail) {
+            QVERIFY(store.cache->itemData(item) == data);
+        }
+    }
 }
 
 // What does not fit on the disk is not lost, and harms no other item.
