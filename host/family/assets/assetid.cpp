@@ -1,0 +1,27 @@
+#include "assets/assetid.h"
+
+namespace Family {
+
+QString AssetId::text() const
+{
+    return QString::number(group) + QLatin1Char(',') + QString::number(number);
+}
+
+bool AssetId::read(const QVariant& value, AssetId* id)
+{
+    const QString text = value.toString();
+    const int comma = text.indexOf(QLatin1Char(','));
+    if (comma < 0) {
+        return false;
+    }
+    bool groupFine = false;
+    bool numberFine = false;
+    const AssetId found{text.leftRef(comma).trimmed().toUShort(&groupFine),
+                        text.midRef(comma + 1).trimmed().toUShort(&numberFine)};
+    if (groupFine && numberFine) {
+        *id = found;
+    }
+    return groupFine && numberFine;
+}
+
+}  // namespace Family

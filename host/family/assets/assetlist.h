@@ -1,0 +1,235 @@
+#pragma once
+
+#include "assets/assethistory.h"
+
+#include <QAbstractItemModel>
+#include <QVector>
+
+#include <algorithm>
+#include <memory>
+
+namespace Family {
+
+/// A list model of records whose every change can be undone: the common half of sprites,
+/// palettes, sounds and remaps.
+///
+/// `Base` is the model that is derived from; it ends in a `QAbstractItemModel`. `Item` is an object
+/// that keeps its address as long as the list or a step of undo knows it, with two members: `State
+/// state`, all that can change in it, and `int row`, its place, -1 outside of the list.
+///
+/// The four operations below are the only ones that change the list. They record themselves in the
+/// history, call `listChanged()`, and signal to views at once.
+template <class Base, class Item>
+class AssetList : public Base
+{
+public:
+    using ItemPtr = std::shared_ptr<Item>;
+    using State = typename Item::State;
+
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : m_items.size();
+    }
+
+    const QVector<ItemPtr>& items() const { return m_items; }
+
+    /// Null for a row outside of the list.
+    Item* item(int row) const
+    {
+        return row < 0 || row >= m_items.size() ? nullptr : m_items[row].get();
+    }
+
+protected:
+    /// The arguments behind the history go to `Base`.
+    template <class... Args>
+    explicit AssetList(AssetHistory* history, Args&&... args)
+        : Base(std::forward<Args>(args)...), m_history(history)
+    {
+    }
+
+    /// Puts items in front of a row, 0 to the number of rows.
+    void insertItems(int row, const QVector<ItemPtr>& items)
+    {
+        if (!items.isEmpty()) {
+            perform({this, Edit::Insert, row, items.size(), items});
+        }
+    }
+
+    /// Takes `count` items from a row on out of the list.
+    void removeItems(int row, int count)
+    {
+        if (count > 0) {
+            perform({this, Edit::Remove, row, count, m_items.mid(row, count)});
+        }
+    }
+
+    /// Puts the items in another order: `order` has the present row of each.
+    void reorderItems(const QVector<int>& order)
+    {
+        if (!std::is_sorted(order.begin(), order.end())) {
+            Edit edit{this, Edit::Reorder};
+            edit.order = order;
+            perform(std::move(edit));
+        }
+    }
+
+    /// Moves one item so that it stands at `to` afterwards.
+    void moveItem(int from, int to)
+    {
+        if (from != to && item(from) && item(to)) {
+            perform({this, Edit::Move, from, to});
+        }
+    }
+
+    /// Gives an item of the list another state. One that is in no list takes it without undo.
+    void changeItem(Item* item, const State& state)
+    {
+        if (item->row < 0) {
+            item->state = state;
+            return;
+        }
+        Edit edit{this, Edit::Change, item->row};
+        edit.state = state;
+        perform(std::move(edit));
+    }
+
+    /// Replaces everything, without undo; for a file that was read.
+    void resetItems(const QVector<ItemPtr>& items)
+    {
+        this->beginResetModel();
+        setRows(-1, 0);
+        m_items = items;
+        setRows(0, m_items.size());
+        this->endResetModel();
+        listChanged(true);
+    }
+
+    /// After each change, also of undo; `count` is true if rows came or went.
+    virtual void listChanged(bool count) = 0;
+
+    /// The rows that views show have changed with their items; all columns are told.
+    void tellRows(int first, int last)
+    {
+        emit this->dataChanged(this->index(first, 0),
+                               this->index(last, this->columnCount(QModelIndex()) - 1));
+    }
+
+    AssetHistory& history() const { return *m_history; }
+
+private:
+    struct Edit final : AssetHistory::Change
+    {
+        enum Kind { Insert, Remove, Reorder, Move, Change };
+
+        Edit(AssetList* owner, Kind what, int row = 0, int number = 0, QVector<ItemPtr> rows = {})
+            : list(owner), kind(what), first(row), second(number), items(std::move(rows))
+        {
+        }
+        void undo() override { list->apply(*this, true); }
+        void redo() override { list->apply(*this, false); }
+
+        AssetList* list;
+        Kind kind;
+        int first;   // row, or where from
+        int second;  // count, or where to
+        QVector<ItemPtr> items;
+        QVector<int> order;
+        State state{};  // the other state: the new one before, the old one after
+    };
+
+    void perform(Edit&& edit)
+    {
+        apply(edit, false);
+        m_history->record(std::make_unique<Edit>(std::move(edit)));
+    }
+
+    void apply(Edit& edit, bool back)
+    {
+        switch (edit.kind) {
+        case Edit::Insert:
+        case Edit::Remove:
+            if ((edit.kind == Edit::Insert) != back) {
+                doInsert(edit.first, edit.items);
+            } else {
+                doRemove(edit.first, edit.second);
+            }
+            break;
+        case Edit::Reorder:
+            doReorder(edit.order, back);
+            break;
+        case Edit::Move:
+            back ? doMove(edit.second, edit.first) : doMove(edit.first, edit.second);
+            break;
+        case Edit::Change:
+            std::swap(m_items[edit.first]->state, edit.state);
+            tellRows(edit.first, edit.first);
+            listChanged(false);
+            break;
+        }
+    }
+
+    void doInsert(int row, const QVector<ItemPtr>& items)
+    {
+        this->beginInsertRows({}, row, row + items.size() - 1);
+        if (row == m_items.size()) {
+            m_items += items;
+        } else {
+            m_items = m_items.mid(0, row) + items + m_items.mid(row);
+        }
+        setRows(row, m_items.size());
+        this->endInsertRows();
+        listChanged(true);
+    }
+
+    void doRemove(int row, int count)
+    {
+        this->beginRemoveRows({}, row, row + count - 1);
+        for (int i = row; i < row + count; ++i) {
+            m_items[i]->row = -1;
+        }
+        m_items.remove(row, count);
+        setRows(row, m_items.size());
+        this->endRemoveRows();
+        listChanged(true);
+    }
+
+    void doMove(int from, int to)
+    {
+        this->beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
+        m_items.move(from, to);
+        setRows(std::min(from, to), std::max(from, to) + 1);
+        this->endMoveRows();
+        listChanged(false);
+    }
+
+    void doReorder(const QVector<int>& order, bool back)
+    {
+        emit this->layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+        const QVector<ItemPtr> old = m_items;
+        for (int i = 0; i < order.size(); ++i) {
+            back ? m_items[order[i]] = old[i] : m_items[i] = old[order[i]];
+        }
+        setRows(0, m_items.size());
+        const QModelIndexList indexes = this->persistentIndexList();
+        QModelIndexList targets;
+        for (const QModelIndex& index : indexes) {
+            targets.append(this->index(old[index.row()]->row, index.column()));
+        }
+        this->changePersistentIndexList(indexes, targets);
+        emit this->layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+        listChanged(false);
+    }
+
+    // Tells the items from a row on where they stand; with -1 all of them that they have gone.
+    void setRows(int first, int end)
+    {
+        for (int i = std::max(first, 0); i < (first < 0 ? m_items.size() : end); ++i) {
+            m_items[i]->row = first < 0 ? -1 : i;
+        }
+    }
+
+    QVector<ItemPtr> m_items;
+    AssetHistory* m_history;
+};
+
+}  // namespace Family

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "assets/assetid.h"
+#include "assets/pixeldata.h"
+#include "cache/sprite.h"
+
+#include <QVector>
+
+#include <memory>
+
+namespace Family {
+
+class FamilyPalette;
+class SpriteCollection;
+
+/// One sprite of a collection. Every change is a step of undo.
+///
+/// Its address stays the same as long as the collection or its undo knows it.
+class FamilySprite final : public Zorv::Sprite
+{
+public:
+    /// All that can change in a sprite.
+    struct State
+    {
+        AssetId id;
+        QPoint axis;
+        PixelRef pixels;  ///< null for a sprite without pixels
+        std::shared_ptr<FamilyPalette> palette;
+        QByteArray record;  ///< as the file has it, if it is broken there
+    };
+
+    explicit FamilySprite(SpriteCollection* sprites);
+    ~FamilySprite() override;
+
+    AssetId id() const { return state.id; }
+
+    /// How the pixels are stored; `None` without any.
+    PixelCodec codec() const;
+
+    /// 8 for indices, 32 for true colour, 0 without pixels.
+    int bits() const;
+
+    /// Why the sprite is broken as far as the file's tables tell, in words; empty if it is
+    /// not. `pixelFault()` unpacks the pixels too.
+    QString fault() const;
+    QString pixelFault() const;
+
+    /// The colours that the sprite is shown in: of its palette, or of the one that stands in for
+    /// it, or shades of grey without one. 256; empty for true colour.
+    QVector<QRgb> shownColors() const;
+
+    /// The unpacked pixels without colours: rows of 1 or 4 bytes a pixel without padding. Empty
+    /// without any.
+    QByteArray pixelRows() const;
+
+    /// Appends a copy with the next free number of the group.
+    void duplicate() override;
+    void reload() override;
+
+    /// Does nothing, and `texture()` is null: there is no stage yet to make a texture for.
+    void bindTexture() override;
+    Zorv::Texture* texture() const override;
+
+    /// An image whose colours are those of the palette, or those that it is shown in, or that has
+    /// none, replaces the pixels alone. One with others counts as `ImagePalette`; one of true
+    /// colour makes the sprite one.
+    void setImage(const QImage& image) override;
+
+    /// With `reversed` colours and indices change places, 0 with 255, so that the picture looks as
+    /// before. `ForcePalette` and `ReplacePalette` without any palette are `ImagePalette`; an image
+    /// of true colour is brought to 256 colours by both, and stays as it is with `ImagePalette`.
+    void setImage(const QImage& image, bool reversed, int mode, Zorv::Palette* palette) override;
+
+    Zorv::Palette* palette() const override;
+    QPoint axis() const override;
+    void setAxis(QPoint axis);
+
+    /// Null takes the palette away. Nothing for a sprite of true colour, nor with a palette of
+    /// another collection.
+    void setPalette(Zorv::Palette* palette) override;
+
+    /// Puts three sprites behind this one, with the levels of red, green and blue of what it
+    /// shows as shades of grey. They share one palette of greys, which is added if it is not
+    /// there, have the axis of this one, and the next free numbers of its group. Transparent
+    /// pixels are black.
+    void splitChannels() override;
+
+    /// With the colours that the sprite is shown in.
+    QImage image() const override;
+    QSize size() const override;
+
+    /// "Identifier", "Group", "Number", "Axis" (a point), "Palette" (its identifier; empty for
+    /// none), "Width", "Height", "Codec" (its name). Width and height cannot be set; a
+    /// codec that would lose something is not taken.
+    QStringList propertyNames() const override;
+    QVariant property(const QString& name) const override;
+    void setProperty(const QString& name, const QVariant& value) override;
+
+    State state;   ///< changed by the collection alone
+    int row = -1;  ///< in the list; -1 outside of it
+
+private:
+    void setPixels(const QImage& image, const std::shared_ptr<FamilyPalette>& palette);
+    void setId(AssetId id);
+
+    SpriteCollection* m_sprites;
+};
+
+}  // namespace Family

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "assets/assetlist.h"
+#include "assets/familypalette.h"
+#include "cache/palettes.h"
+
+namespace Family {
+
+class RemapModel;
+class SpriteCollection;
+
+using PaletteListBase = AssetList<Zorv::Palettes, FamilyPalette>;
+
+/// The palettes of a sprite collection. A row shows "GROUP,NUMBER"; its decoration is a picture of
+/// the colours. Every change is a step of undo in that of the collection.
+class PaletteList final : public PaletteListBase
+{
+public:
+    explicit PaletteList(SpriteCollection* sprites);
+    ~PaletteList() override;
+
+    int count() const override { return items().size(); }
+    void setCurrent(int row) override;
+
+    /// Always a `FamilyPalette`.
+    FamilyPalette* palette(int row) const override { return item(row); }
+
+    /// `id` is an identifier; any other value, such as 0, takes the first free one from "1,1" on.
+    FamilyPalette* insert(int row, const Zorv::RGBA (&colors)[256], const QVariant& id,
+                          bool askId) override;
+    FamilyPalette* addPalette(const Zorv::RGBA (&colors)[256], const QVariant& id,
+                              bool askId) override;
+
+    /// Sprites that use a palette that is removed have none afterwards, and show shades of grey.
+    void remove(int row) override;
+    void clear() override;
+    int find(int from, const QVariant& id) const override;
+
+    /// Removes what no sprite uses and no remap names.
+    void removeUnused() override;
+
+    /// Removes palettes that repeat all 256 colours of an earlier one, unless a remap stands
+    /// in for them. Sprites, and remaps that lead to them, take the earlier one.
+    void removeDuplicates() override;
+
+    void beginUpdate(const QString& title) override;
+    void endUpdate() override;
+
+    /// Always a `RemapModel`.
+    QAbstractItemModel* remapModel() override;
+    RemapModel* remaps() const { return m_remaps.get(); }
+    Zorv::Sprites* sprites() const override;
+
+    /// The first palette with that identifier; null if there is none.
+    FamilyPalette* byId(AssetId id) const;
+
+    /// The first palette with exactly these colours, null if there is none.
+    FamilyPalette* byColors(const PaletteColors& colors) const;
+
+    /// What a palette is shown as: the one that a remap names, else itself. One step only.
+    const FamilyPalette* shown(const FamilyPalette* palette) const;
+
+    /// Adds a palette, unless the list has one with these colours.
+    FamilyPalette* ensure(const PaletteColors& colors, AssetId wish);
+
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+    /// For palettes and the collection: gives a palette another state, with undo.
+    void change(FamilyPalette* palette, const FamilyPalette::State& state);
+
+    /// For the collection: replaces everything, without undo; tells of a finished step.
+    void reset(const QVector<ItemPtr>& items);
+    void flush();
+
+    /// The share that the list or its undo has in a palette; for sprites to hold. Null for a
+    /// stranger.
+    ItemPtr share(const Zorv::Palette* palette) const;
+
+private:
+    void listChanged(bool count) override;
+    AssetId freeId(AssetId from) const;
+    void drop(const QVector<int>& rows);
+
+    SpriteCollection* m_sprites;
+    std::unique_ptr<RemapModel> m_remaps;
+    bool m_changed = false;
+    bool m_countChanged = false;
+    bool m_resetting = false;
+};
+
+}  // namespace Family

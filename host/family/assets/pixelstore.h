@@ -1,0 +1,75 @@
+#pragma once
+
+#include "assets/pixeldata.h"
+
+#include <QCache>
+#include <QHash>
+#include <QObject>
+
+#include <memory>
+
+namespace Zorv {
+class FileCache;
+}
+
+namespace Family {
+
+/// The pixels of a collection: their caches, the filters that pack and unpack them, and what was
+/// unpacked of late.
+///
+/// Bytes of a cache are a stream in the codec that is the item's type. Decoded they are the rows
+/// without padding and, behind them, width, height, bits and 0, 16 bits each, little-endian; so
+/// equal bytes are equal pictures. All `PixelRef` must go before the store. Main thread only.
+class PixelStore : public QObject
+{
+public:
+    /// A store that the setting "cache_type" chooses.
+    PixelStore();
+    ~PixelStore() override;
+
+    Zorv::StreamCache* cache() const { return m_cache.get(); }
+
+    /// Takes up a stream as it is, without unpacking it; the checksums are those of its file, 0 if
+    /// they are not known.
+    PixelRef adopt(const PixelFormat& format, const QByteArray& stream, quint64 pixelCrc,
+                   quint64 streamCrc);
+
+    /// Takes up an image file of a loose folder. The form has to be known.
+    PixelRef adoptFile(const PixelFormat& format, const QString& fileName, quint64 pixelCrc);
+
+    /// Stores new pixels in the smallest codec that loses nothing; pixels that are there
+    /// already are only counted once more. `image` is `Format_Indexed8` or `Format_ARGB32`. Null
+    /// for an image without pixels or larger than a sprite can be.
+    PixelRef add(const QImage& image);
+
+    /// The same pixels in another codec; null if it would lose something.
+    PixelRef recoded(PixelData* data, PixelCodec codec);
+
+    /// The packed bytes, as they go to a file.
+    QByteArray stream(const PixelData* data) const;
+
+    /// The unpacked rows, from what was unpacked of late; empty if the stream is broken.
+    QByteArray rows(const PixelData* data);
+
+    /// Forgets what was unpacked.
+    void forget(const PixelData* data);
+
+    /// Brings the bytes of a file of a loose folder into the cache; for before it is written over.
+    void takeIn(PixelData* data);
+
+private:
+    void unpack(unsigned char type, void* filterData, const QByteArray& source, QByteArray& target);
+
+private:
+    friend class PixelData;
+    void gone(PixelData* data);
+    PixelRef store(const PixelFormat& format, const QByteArray& rows, const QByteArray& stream);
+
+    std::unique_ptr<Zorv::StreamCache> m_cache;
+    std::unique_ptr<Zorv::FileCache> m_files;
+    QHash<Zorv::StreamCache::Item*, PixelData*> m_byItem;
+    QCache<const PixelData*, QByteArray> m_unpacked;
+    quint32 m_nextOrder = 0;
+};
+
+}  // namespace Family

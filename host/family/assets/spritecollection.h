@@ -1,0 +1,142 @@
+#pragma once
+
+#include "assets/assetlist.h"
+#include "assets/familysprite.h"
+#include "assets/palettelist.h"
+#include "cache/sprites.h"
+
+#include <QStringList>
+
+namespace Family {
+
+class PixelStore;
+
+using SpriteListBase = AssetList<Zorv::Sprites, FamilySprite>;
+
+/// The sprites of a game with their palettes, whatever they are stored in.
+///
+/// A row shows "GROUP,NUMBER". Pixels are unpacked when they are asked for, and equal ones are
+/// stored once. Everything can be undone: sprites, their order, palettes and remaps have one
+/// history. `modified()`, `changed()` and `palChanged()` come once a step, when all is true. Ends
+/// by `release()`. Main thread only; `forEachImage()` unpacks on several.
+class SpriteCollection : public SpriteListBase
+{
+public:
+    ~SpriteCollection() override;
+
+    /// What was found broken when the file was read, a line each for the person.
+    QStringList loadErrors() const { return m_loadErrors; }
+
+    /// How many sprites, palettes, remaps and pixels are kept as the broken records of the file
+    /// that they are. They are written back as they are.
+    int brokenCount() const;
+
+    /// Removes them all, as one step of undo.
+    void removeBroken();
+
+    /// True if a sprite has that identifier. Costs the same for any number of sprites.
+    bool contains(AssetId id) const;
+
+    /// The first row from `from` on with that identifier; -1 if there is none.
+    int find(int from, const QVariant& id) const;
+
+    /// The sprite of that identifier, the first of several; null if there is none.
+    FamilySprite* byId(AssetId id) const;
+
+    /// The first identifier of the group that no sprite has, from a number on; the group is left if
+    /// it is full.
+    AssetId freeId(AssetId from) const;
+
+    /// Adds a sprite behind a row (-1 for the first place) with an image as
+    /// `Zorv::Sprite::setImage()` takes it. One step of undo. Null for an image without pixels.
+    FamilySprite* insertSprite(int row, AssetId id, QPoint axis, const QImage& image);
+
+    PaletteList* palettes() const override { return m_palettes.get(); }
+
+    /// Shows the sprites of `addSprite()` in the list, as one step of undo.
+    void refresh() override;
+    void removeSprite(int index) override;
+    void setCurrent(int index) override;
+    unsigned count() const override { return unsigned(items().size()); }
+    FamilySprite* sprite(int index) const override { return item(index); }
+
+    /// Has the next free number behind the last sprite. It is in no list, and its changes in no
+    /// undo, until `refresh()`.
+    FamilySprite* addSprite() override;
+
+    void beginChange(const QString& title) override;
+    void endChange() override;
+    void undo() override;
+    void redo() override;
+
+    /// Whether there is a step, and its title.
+    const AssetHistory& steps() const { return m_history; }
+
+    void move(unsigned from, unsigned to) override;
+    void remove(unsigned index) override;
+
+    /// Sorts sprites by group and number, palettes likewise.
+    void autoOrganize() override;
+
+    int checkErrors() override { return m_loadErrors.size(); }
+    bool isModified() const override { return !m_history.isClean(); }
+    bool isEmpty() const override;
+    void reset() override;
+    QString fileName() const override { return m_fileName; }
+    void release() override { delete this; }
+
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    /// For sprites and palettes: the store of pixels, and changes with undo.
+    PixelStore* store() const { return m_store.get(); }
+    AssetHistory& editHistory() { return m_history; }
+    void change(FamilySprite* sprite, const FamilySprite::State& state);
+    void insertBehind(const FamilySprite* sprite, const QVector<ItemPtr>& items);
+
+    /// For palettes: their colours or remaps have changed, and with them what sprites show.
+    void shownChanged();
+
+protected:
+    /// All that a file holds, read and not yet taken over.
+    struct Content
+    {
+        Content();
+        ~Content();
+        std::unique_ptr<PixelStore> store;
+        QVector<ItemPtr> sprites;
+        QVector<PaletteList::ItemPtr> palettes;
+        QVector<std::shared_ptr<RemapItem>> remaps;
+        QVector<PixelRef> kept;  ///< pixels that must stay in the file though no sprite shows them
+        QStringList errors;
+    };
+
+    SpriteCollection();
+
+    /// Takes a content over in place of the old one, without undo; with `asCopy` it counts as
+    /// modified.
+    void take(Content&& content, bool asCopy);
+    void setFileName(const QString& fileName) { m_fileName = fileName; }
+    const QVector<PixelRef>& keptPixels() const { return m_kept; }
+
+private:
+    void listChanged(bool count) override;
+    void stepDone();
+    void close();
+
+    // Records die before the store of their pixels, and steps of undo hold records.
+    std::unique_ptr<PixelStore> m_store;
+    AssetHistory m_history;
+    std::unique_ptr<PaletteList> m_palettes;
+    QVector<ItemPtr> m_pending;
+    QVector<PixelRef> m_kept;
+    mutable QHash<quint32, int> m_rowOfId;  // the first of each
+    mutable bool m_rowsKnown = false;
+    QHash<quint32, int> m_pendingIds;
+    QStringList m_loadErrors;
+    QString m_fileName;
+    bool m_changed = false;
+    bool m_countChanged = false;
+};
+
+}  // namespace Family

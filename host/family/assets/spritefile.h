@@ -1,0 +1,23 @@
+#pragma once
+
+#include "assets/spritecollection.h"
+
+namespace Family {
+
+/// A collection in a sprite file (`.sprites`, see docs/formats.md).
+///
+/// Opening reads tables and takes packed pixels over; none is unpacked. A file that was not changed
+/// is written back byte by byte the same.
+class SpriteFile final : public SpriteCollection
+{
+public:
+    SpriteFile();
+    ~SpriteFile() override;
+
+    /// Fails for what is no sprite file, or is cut off in its tables. Broken records are no
+    /// failure, but `loadErrors()`.
+    bool fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
+    bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
+};
+
+}  // namespace Family
