@@ -11,8 +11,16 @@ packages_run=(
     fonts-droid-fallback   # the sample game has comments in Japanese
     qttranslations5-l10n   # Qt's own texts in the language of the window
 )
-packages_test=(python3 qttranslations5-l10n)
-packages_bench=(libkf5syntaxhighlighting-dev)
+packages_test=(
+    python3 qttranslations5-l10n
+    imagemagick netpbm giflib-tools sox   # make and read the files that tests compare with
+)
+packages_bench=(
+    libkf5syntaxhighlighting-dev
+    # Peers of the codecs and the image operations; the programs here link them, nothing else.
+    libisal-dev liblzo2-dev libavfilter-dev libavutil-dev libswscale-dev libimagequant-dev
+    ffmpeg imagemagick
+)
 packages_fuzz=(clang libclang-rt-14-dev)
 packages_format=(clang-format-14)
 

@@ -1,0 +1,193 @@
+#include "media/imagefile.h"
+
+#include "core/extensionmanager.h"
+#include "media/colorconversion.h"
+#include "media/imagesize_p.h"
+#include "media/losslessimages.h"
+#include "media/pcx.h"
+#include "media/tools/colorquantizer.h"
+#include "media/tools/gifreader_p.h"
+
+#include <QBuffer>
+
+#include <algorithm>
+#include <cstring>
+
+namespace Zorv {
+
+namespace {
+
+/// The library's own table, in which the four bytes of RGB32 count as three.
+int depthOf(QImage::Format format)
+{
+    switch (format) {
+    case QImage::Format_Indexed8:
+        return 8;
+    case QImage::Format_RGB32:
+        return 24;
+    case QImage::Format_ARGB32:
+        return 32;
+    default:
+        return 0;
+    }
+}
+
+/// Clears what stands behind each line. By the table that is a quarter of the pixels of RGB32,
+/// too, and all of a form that it does not name; hosts of the first release build on it.
+void clearLineEnds(QImage& image)
+{
+    const int length = int(qint64(image.width()) * depthOf(image.format()) / 8);
+    const int stride = image.bytesPerLine();
+    if (length < stride) {
+        for (int y = 0; y < image.height(); ++y) {
+            std::memset(image.scanLine(y) + length, 0, size_t(stride - length));
+        }
+    }
+}
+
+/// The same pixels in one of the three forms of the library.
+QImage inLibraryForm(const QImage& image)
+{
+    switch (image.format()) {
+    case QImage::Format_Invalid:
+    case QImage::Format_Indexed8:
+    case QImage::Format_RGB32:
+    case QImage::Format_ARGB32:
+        return image;
+    case QImage::Format_Mono:
+    case QImage::Format_MonoLSB:
+    case QImage::Format_Grayscale8:
+    case QImage::Format_Alpha8:
+        return image.convertToFormat(QImage::Format_Indexed8);
+    default:
+        return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32
+                                                             : QImage::Format_RGB32);
+    }
+}
+
+bool loadByQt(QIODevice* device, const char* format, QImage& image)
+{
+    const bool honest = qstrcmp(format, "PNG") == 0 ? isHonestPNG(device) : isHonestBMP(device);
+    if (!honest || !image.load(device, format)) {
+        image = QImage();
+        return false;
+    }
+    if (losslessImages()) {
+        image = inLibraryForm(image);
+    } else {
+        clearLineEnds(image);
+    }
+    return true;
+}
+
+/// A frame's own colours go first where images are read as they are; otherwise the global ones.
+const QVector<RGB>& colorsOf(const GIFImage& gif, const GIFImage::SubImage& frame)
+{
+    const QVector<RGB>& first = losslessImages() ? frame.colors : gif.colors;
+    const QVector<RGB>& second = losslessImages() ? gif.colors : frame.colors;
+    return first.isEmpty() ? second : first;
+}
+
+bool loadGIF(QIODevice* device, QImage& image)
+{
+    GIFImage gif;
+    GIFImage::SubImage frame;
+    GIFReader reader(device);
+    if (!reader.readHead(gif) || reader.readFrame(gif, frame) != GIFReader::Frame) {
+        return false;
+    }
+    QVector<QRgb> colors;
+    RGBVectorToRgbVector(colorsOf(gif, frame), colors);
+    colors.resize(256);
+    if (frame.transparent >= 0 && frame.transparent < colors.size()) {
+        colors[frame.transparent] &= RGB_MASK;
+    }
+    image = frame.image;
+    image.setColorTable(colors);
+    return true;
+}
+
+bool saveGIFStill(QIODevice* device, const QImage& source)
+{
+    const QImage image = source.format() == QImage::Format_Indexed8
+                             ? source
+                             : ColorQuantizer::quantize(source, 256);
+    const QVector<QRgb> colors = image.colorTable();
+    GIFImage gif;
+    gif.size = image.size();
+    gif.colors.resize(colors.size());
+    std::transform(colors.begin(), colors.end(), gif.colors.begin(), [](QRgb color) {
+        return RGB{quint8(qRed(color)), quint8(qGreen(color)), quint8(qBlue(color))};
+    });
+    const auto transparent = std::find_if(colors.begin(), colors.end(),
+                                          [](QRgb color) { return qAlpha(color) == 0; });
+    GIFImage::SubImage frame;
+    frame.image = image;
+    frame.transparent = transparent == colors.end() ? -1 : int(transparent - colors.begin());
+    gif.images.append(frame);
+    return gif.save(device);
+}
+
+template <class Operation>
+bool byExtension(Extension::Type type, const char* format, Operation operation)
+{
+    const QList<Extension*>& extensions = ExtensionManager::list(type);
+    return std::any_of(extensions.begin(), extensions.end(), [&](Extension* extension) {
+        return extension->name() == format && operation(extension);
+    });
+}
+
+bool loadByFormat(QIODevice* device, const char* format, QImage& image)
+{
+    if (qstrcmp(format, "PNG") == 0 || qstrcmp(format, "BMP") == 0) {
+        return loadByQt(device, format, image);
+    }
+    if (qstrcmp(format, "GIF") == 0) {
+        return loadGIF(device, image);
+    }
+    if (qstrcmp(format, "PCX") == 0) {
+        return loadPCX(image, device);
+    }
+    return byExtension(Extension::ImageLoader, format, [device, &image](Extension* extension) {
+        return extension->loadImage(device, image);
+    });
+}
+
+}  // namespace
+
+bool loadImage(QIODevice* device, const char* format, QImage& image)
+{
+    if (!device->isReadable()) {
+        return false;
+    }
+    // How much a pipe holds is known only when it has been read.
+    QBuffer whole;
+    if (device->isSequential()) {
+        whole.setData(device->readAll());
+        whole.open(QIODevice::ReadOnly);
+        device = &whole;
+    }
+    const bool loaded = loadByFormat(device, format, image);
+    return !image.isNull() && (loaded || !losslessImages());
+}
+
+bool saveImage(QIODevice* device, const char* format, const QImage& image)
+{
+    if (image.isNull() || !device->isWritable()) {
+        return false;
+    }
+    if (qstrcmp(format, "PNG") == 0 || qstrcmp(format, "BMP") == 0) {
+        return image.save(device, format, -1);
+    }
+    if (qstrcmp(format, "GIF") == 0) {
+        return saveGIFStill(device, image);
+    }
+    if (qstrcmp(format, "PCX") == 0) {
+        return savePCX(image, device);
+    }
+    return byExtension(Extension::ImageSaver, format, [device, &image](Extension* extension) {
+        return extension->saveImage(device, image);
+    });
+}
+
+}  // namespace Zorv
