@@ -31,10 +31,10 @@ ZORV_EXPORT bool saveLZ5(const QImage& image, QIODevice* device, bool useLz);
 
 /// The match that an LZ5 stream takes at a pixel: `length` is 0 if there is none.
 ///
-/// `data` points at the pixel, `position` is its index in an image of `total` pixels;
-/// all of them are readable, those in front of `data` too. The longest match wins whose length
+/// `data` points at the pixel, `position` is its index in an image of `total` pixels, all of
+/// which are readable, those in front of `data` too. The longest match wins whose length
 /// and number of changes make a packet worth while, of the smallest distance, 2 to 1024.
-/// `saveLZ5()` finds the same by an index.
+/// Behind the last pixel counts as index 0.
 ZORV_EXPORT QPack lzFind(const unsigned char* data, int position, unsigned int total);
 
 }  // namespace Zorv

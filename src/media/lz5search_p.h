@@ -1,0 +1,35 @@
+#pragma once
+
+#include "media/lz5.h"
+
+namespace Zorv {
+
+/// What `lzFind()` finds, sixteen distances at a time.
+class Lz5Search
+{
+public:
+    /// What has to be readable in front of the pixels, and has to be zero behind them.
+    static constexpr int Front = 16;
+    static constexpr int Behind = 320;
+
+    Lz5Search(const unsigned char* pixels, int total) : m_pixels(pixels), m_total(total) {}
+
+    /// The match at a place of the image; `length` is 0 if there is none.
+    QPack find(int position);
+
+private:
+    struct Shape;
+    struct Match
+    {
+        int length = 1;
+        int distance = 0;
+    };
+
+    void search(const Shape& shape, int nearest, int farthest, int least, Match& best) const;
+
+    const unsigned char* m_pixels;
+    int m_total;
+    int m_lastMiss = -1;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,238 @@
+#include "media/pcx.h"
+
+#include "media/bytesink_p.h"
+#include "media/devices_p.h"
+#include "media/formatdepth_p.h"
+#include "media/runpairs_p.h"
+
+#include <QDataStream>
+#include <QImage>
+
+#include <cstring>
+#include <vector>
+
+namespace Zorv {
+
+namespace {
+
+constexpr int PaletteMarker = 12;
+constexpr int PaletteBytes = 256 * 3;
+
+/// Damaged pictures up to this size are shown as far as they go; the bytes of larger
+/// ones have to be able to hold them.
+constexpr qint64 AlwaysTried = 16 << 20;
+
+QImage::Format formatOf(const QPCXHeader& header)
+{
+    switch (header.planes * header.bitsPerPixel) {
+    case 5:
+    case 8:
+        return QImage::Format_Indexed8;
+    case 24:
+        return QImage::Format_RGB32;
+    case 32:
+        return QImage::Format_ARGB32;
+    default:
+        return QImage::Format_Invalid;
+    }
+}
+
+/// Whether `bytes` can hold the picture: two of them hold 63 values at most.
+bool canHold(qint64 bytes, const QPCXHeader& header, QSize size, QImage::Format format)
+{
+    const qint64 area = qint64(size.width()) * size.height();
+    if (area * (format == QImage::Format_Indexed8 ? 1 : 4) <= AlwaysTried) {
+        return true;
+    }
+    const qint64 line = qMax(size.width(), int(header.bytesPerLine));
+    return line * size.height() * header.planes <= (bytes / 2 + 1) * 63;
+}
+
+/// Gives the image its shape, and clears it.
+bool shape(QImage& image, const QPCXHeader& header, QImage::Format format, qint64 bytes)
+{
+    const QSize size(header.right + 1 - header.left, header.bottom + 1 - header.top);
+    if (image.size() != size || image.format() != format) {
+        const bool possible = !size.isEmpty() && canHold(bytes, header, size, format);
+        image = possible ? QImage(size, format) : QImage();
+    }
+    if (image.isNull() || header.bytesPerLine == 0) {
+        return false;
+    }
+    std::memset(image.bits(), 0, size_t(image.sizeInBytes()));
+    image.setColorTable({});
+    return true;
+}
+
+/// Where a byte of a line belongs: planes come as red, green, blue, pixels are blue,
+/// green, red.
+constexpr int swapped(int offset, bool colored)
+{
+    return colored ? offset ^ (~offset << 1 & 2) : offset;
+}
+
+void placePlane(QImage& image, int y, int plane, const QPCXHeader& header, const uchar* values)
+{
+    const int step = header.planes == 1 ? 1 : 4;
+    const bool colored = image.format() != QImage::Format_Indexed8;
+    const int inLine = (image.bytesPerLine() - plane + step - 1) / step;
+    const int count = qMin(inLine, qMin(image.width(), int(header.bytesPerLine)));
+    uchar* line = image.bits() + qint64(y) * image.bytesPerLine();
+    for (int x = 0; x < count; ++x) {
+        line[swapped(x * step + plane, colored)] = values[x];
+    }
+}
+
+bool readPlanes(QImage& image, const QPCXHeader& header, QIODevice* device)
+{
+    const int length = header.bytesPerLine;
+    std::vector<uchar> values(size_t(length) + RunPairReader<RunMarker::Pcx>::Overshoot);
+    ByteSource source(device);
+    RunPairReader<RunMarker::Pcx> reader(source);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int plane = 0; plane < header.planes; ++plane) {
+            const qint64 count = reader.read(values.data(), length);
+            std::memset(values.data() + count, 0, size_t(length - count));
+            placePlane(image, y, plane, header, values.data());
+            if (count < length) {
+                return false;
+            }
+        }
+    }
+    return !source.endedInside();
+}
+
+// The skip ends at the colours and not at the marker in front of them: a palette is found
+// only if it stands right behind the pixels.
+void readPalette(QImage& image, QDataStream& stream)
+{
+    QIODevice* device = stream.device();
+    const qint64 left = device->bytesAvailable();
+    if (left > PaletteBytes + 1) {
+        device->skip(left - PaletteBytes);
+    }
+    quint8 marker = 0;
+    if (stream.atEnd() || !(stream >> marker, marker == PaletteMarker)) {
+        return;
+    }
+    QVector<QRgb> colors(256);
+    for (QRgb& color : colors) {
+        quint8 red = 0, green = 0, blue = 0;
+        stream >> red >> green >> blue;
+        color = qRgb(red, green, blue);
+    }
+    image.setColorTable(colors);
+}
+
+QPCXHeader headerOf(const QImage& image)
+{
+    QPCXHeader header;
+    header.right = quint16(image.width() - 1);
+    header.bottom = quint16(image.height() - 1);
+    header.planes = quint8(formatDepth(image.format()) / 8);
+    header.bytesPerLine = quint16(image.width());
+    return header;
+}
+
+void writePlanes(const QImage& image, int planes, ByteSink& sink)
+{
+    std::vector<uchar> values(size_t(image.width()) + 8);
+    for (int y = 0; y < image.height(); ++y) {
+        const uchar* line = image.constScanLine(y);
+        for (int plane = 0; plane < planes; ++plane) {
+            const int step = planes == 1 ? 1 : 4;
+            const int first = swapped(plane, planes > 1);
+            for (int x = 0; x < image.width(); ++x) {
+                values[size_t(x)] = line[x * step + first];
+            }
+            writeRunPairs<RunMarker::Pcx>(values.data(), image.width(), sink);
+        }
+    }
+}
+
+void writePalette(const QImage& image, ByteSink& sink)
+{
+    QVector<QRgb> colors = image.colorTable();
+    colors.resize(256);
+    uchar* out = sink.room(1 + PaletteBytes);
+    *out++ = PaletteMarker;
+    for (const QRgb color : qAsConst(colors)) {
+        *out++ = uchar(qRed(color));
+        *out++ = uchar(qGreen(color));
+        *out++ = uchar(qBlue(color));
+    }
+    sink.take(out);
+}
+
+}  // namespace
+
+QDataStream& operator>>(QDataStream& stream, QPCXHeader& header)
+{
+    stream >> header.manufacturer >> header.version >> header.encoding >> header.bitsPerPixel;
+    stream >> header.left >> header.top >> header.right >> header.bottom;
+    stream >> header.horizontalResolution >> header.verticalResolution;
+    for (quint8& byte : header.colorMap) {
+        stream >> byte;
+    }
+    stream >> header.reserved >> header.planes >> header.bytesPerLine >> header.paletteType;
+    for (quint8& byte : header.filler) {
+        stream >> byte;
+    }
+    return stream;
+}
+
+QDataStream& operator<<(QDataStream& stream, const QPCXHeader& header)
+{
+    stream << header.manufacturer << header.version << header.encoding << header.bitsPerPixel;
+    stream << header.left << header.top << header.right << header.bottom;
+    stream << header.horizontalResolution << header.verticalResolution;
+    for (const quint8 byte : header.colorMap) {
+        stream << byte;
+    }
+    stream << header.reserved << header.planes << header.bytesPerLine << header.paletteType;
+    for (const quint8 byte : header.filler) {
+        stream << byte;
+    }
+    return stream;
+}
+
+bool loadPCX(QImage& image, QIODevice* device)
+{
+    if (!openToRead(device)) {
+        return false;
+    }
+    QDataStream stream(device);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    QPCXHeader header;
+    stream >> header;
+    const QImage::Format format = formatOf(header);
+    if (format == QImage::Format_Invalid || header.manufacturer != 10 || header.version != 5 ||
+        !shape(image, header, format, device->bytesAvailable()) ||
+        !readPlanes(image, header, device)) {
+        return false;
+    }
+    if (header.planes * header.bitsPerPixel == 8) {
+        readPalette(image, stream);
+    }
+    return stream.status() == QDataStream::Ok;
+}
+
+bool savePCX(const QImage& image, QIODevice* device)
+{
+    const QPCXHeader header = headerOf(image);
+    if (!openToWrite(device) || header.planes == 0 || image.width() > 0xFFFF ||
+        image.height() > 0xFFFF) {
+        return false;
+    }
+    QDataStream stream(device);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream << header;
+    ByteSink sink(device);
+    writePlanes(image, header.planes, sink);
+    if (header.planes == 1) {
+        writePalette(image, sink);
+    }
+    return sink.finish() && stream.status() == QDataStream::Ok;
+}
+
+}  // namespace Zorv
