@@ -1,0 +1,101 @@
+#include "media/tools/gifpicture_p.h"
+
+#include "media/tools/gifpacker_p.h"
+#include "media/tools/gifwriter_p.h"
+
+#include <gif_lib.h>
+
+#include <algorithm>
+
+namespace Zorv {
+
+namespace {
+
+const quint16 Missing = 0x8000;
+
+/// Calls a function with the rows of two composites in a rectangle.
+template <class Function>
+void forEachRow(const GIFComposite& base, const GIFComposite& shown, const QRect& rect,
+                Function function)
+{
+    QVector<GIFColorNumber> baseRoom;
+    QVector<GIFColorNumber> shownRoom;
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        function(base.row(y, rect, baseRoom), shown.row(y, rect, shownRoom));
+    }
+}
+
+/// False if the table lacks a colour.
+bool fill(GIFPicture& picture, const GIFComposite& base, const GIFComposite& shown,
+          const QRect& rect, const GIFTable& table)
+{
+    const int count = table.numberCount();
+    const int transparent = table.transparent();
+    QVector<quint16> changed(count);
+    QVector<quint16> same(count);
+    for (int i = 0; i < count; ++i) {
+        const int index = table.indices()[i];
+        changed[i] = index < 0 ? Missing : quint16(index);
+        same[i] = changed[i];
+        if (transparent >= 0 && index != transparent) {
+            same[i] = quint16(index < 0 ? transparent : index | GIFPacker::Either);
+        }
+    }
+    picture.transparent = transparent;
+    picture.bits = qMax(2, GifBitSize(table.colors().size()));
+    picture.pixels.resize(rect.width() * rect.height());
+    quint16* to = picture.pixels.data();
+    quint16 all = 0;
+    const quint16* const tables[] = {changed.constData(), same.constData()};
+    forEachRow(base, shown, rect, [&](const GIFColorNumber* a, const GIFColorNumber* b) {
+        for (int x = 0; x < rect.width(); ++x) {
+            *to = tables[a[x] == b[x]][b[x]];
+            all |= *to++;
+        }
+    });
+    return (all & Missing) == 0;
+}
+
+/// A table of the colours that change, with an entry for what does not. Colours that stay are in it
+/// as far as they make it no larger, or if there is no such entry.
+GIFTable ownTable(const GIFComposite& base, const GIFComposite& shown, const QRect& rect,
+                  const GIFAnimation& animation)
+{
+    QVector<bool> changed(animation.numberCount());
+    QVector<bool> same(animation.numberCount());
+    forEachRow(base, shown, rect, [&](const GIFColorNumber* a, const GIFColorNumber* b) {
+        for (int x = 0; x < rect.width(); ++x) {
+            (a[x] == b[x] ? same : changed)[int(b[x])] = true;
+        }
+    });
+    GIFTable table(animation.numberCount());
+    const auto insert = [&table, &animation](const QVector<bool>& numbers, int limit) {
+        for (int i = 0; i < numbers.size() && table.colors().size() < limit; ++i) {
+            if (numbers[i]) {
+                table.insert(GIFColorNumber(i), animation.color(GIFColorNumber(i)));
+            }
+        }
+    };
+    insert(changed, 256);
+    if (same.contains(true)) {
+        table.insert(0, 0);
+        insert(same, table.transparent() < 0 ? 256 : paddedColors(table.colors(), 0).size());
+    }
+    return table;
+}
+
+}  // namespace
+
+GIFPicture makePicture(const GIFComposite& base, const GIFComposite& shown, const QRect& rect,
+                       const GIFTable& global, const GIFAnimation& animation)
+{
+    GIFPicture picture;
+    if (!fill(picture, base, shown, rect, global)) {
+        const GIFTable own = ownTable(base, shown, rect, animation);
+        fill(picture, base, shown, rect, own);
+        picture.colors = paddedColors(own.colors(), 0);
+    }
+    return picture;
+}
+
+}  // namespace Zorv
