@@ -1,0 +1,46 @@
+#pragma once
+
+#include <utility>
+
+namespace Family {
+
+/// A share of something that counts its users, as `Zorv::StreamCacheData` does: counts itself, and
+/// gives it back.
+template <class Data>
+class AssetRef
+{
+public:
+    AssetRef() = default;
+
+    /// Takes over the one share that new data has.
+    explicit AssetRef(Data* data) : m_data(data) {}
+    AssetRef(const AssetRef& other) : m_data(other.m_data)
+    {
+        if (m_data) {
+            ++m_data->refCount;
+        }
+    }
+    AssetRef(AssetRef&& other) noexcept : m_data(std::exchange(other.m_data, nullptr)) {}
+    AssetRef& operator=(AssetRef other) noexcept
+    {
+        std::swap(m_data, other.m_data);
+        return *this;
+    }
+    ~AssetRef()
+    {
+        if (m_data) {
+            m_data->release();
+        }
+    }
+
+    Data* get() const { return m_data; }
+    Data* operator->() const { return m_data; }
+    explicit operator bool() const { return m_data; }
+    friend bool operator==(const AssetRef& a, const AssetRef& b) { return a.m_data == b.m_data; }
+    friend bool operator!=(const AssetRef& a, const AssetRef& b) { return a.m_data != b.m_data; }
+
+private:
+    Data* m_data = nullptr;
+};
+
+}  // namespace Family

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "assets/sampledata.h"
+
+#include <QHash>
+#include <QObject>
+
+#include <memory>
+
+namespace Family {
+
+/// The samples of a collection: their cache, and what packs and unpacks them.
+///
+/// Equal samples are stored once, whatever they are packed in. All `SampleRef` must go before the
+/// store. Main thread only.
+class SampleStore : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// A store that the setting "cache_type" chooses; in memory if there is no place for a
+    /// temporary file.
+    SampleStore();
+    ~SampleStore() override;
+
+    Zorv::StreamCache* cache() const { return m_cache.get(); }
+
+    /// Takes up packed bytes as a file has them, without unpacking them.
+    SampleRef adopt(SamplePacking packing, const QByteArray& stream, qint64 plainSize,
+                    quint64 plainCrc, quint64 streamCrc);
+
+    /// Stores new samples, deflated if that makes them smaller by a good part. Null for none.
+    SampleRef add(const QByteArray& samples);
+
+    /// The packed bytes, as they go to a file.
+    QByteArray stream(const SampleData* data) const;
+
+    /// The samples unpacked; empty if they are broken.
+    QByteArray samples(const SampleData* data) const;
+
+private slots:
+    void unpack(unsigned char type, void* filterData, const QByteArray& source, QByteArray& target);
+
+private:
+    friend class SampleData;
+    void gone(SampleData* data);
+
+    std::unique_ptr<Zorv::StreamCache> m_cache;
+    QHash<Zorv::StreamCache::Item*, SampleData*> m_byItem;
+};
+
+}  // namespace Family

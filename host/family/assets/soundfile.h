@@ -1,0 +1,111 @@
+#pragma once
+
+#include "assets/assetlist.h"
+#include "assets/familysound.h"
+#include "cache/sounds.h"
+
+#include <QStringList>
+
+class QIODevice;
+
+namespace Family {
+
+class SampleStore;
+struct SoundFileData;
+
+using SoundListBase = AssetList<Zorv::Sounds, FamilySound>;
+
+/// The sounds of a game, in a sound file (`.sounds`, see docs/formats.md).
+///
+/// A row shows "GROUP,NUMBER". Opening reads the table and takes packed samples over; they are
+/// unpacked when they are asked for, and equal ones are stored once. Everything can be undone.
+/// `modified()` and `changed()` come once a step, when all is true. A file that was not changed is
+/// written back the same, and broken records stay in it. Ends by `release()`. Main thread only.
+class SoundFile final : public SoundListBase
+{
+    Q_OBJECT
+
+public:
+    SoundFile();
+    ~SoundFile() override;
+
+    /// A line for each broken sound, for the person: what was found when the file was read.
+    QStringList loadErrors() const;
+
+    /// How many sounds are kept as the broken records of the file that they are.
+    int brokenCount() const;
+
+    /// Removes them all, as one step of undo.
+    void removeBroken();
+
+    unsigned count() const override { return unsigned(items().size()); }
+    FamilySound* sound(int index) const override { return item(index); }
+    void setCurrent(int index) override { currentIndex = index; }
+
+    /// Takes any identifier that can be read, also one that is there already; else the next free
+    /// one behind the last sound. Null for a form that a sound file cannot hold: 1 to 8
+    /// channels of 8, 16, 24 or 32 bits, 1 to 384000 frames a second. Bytes behind the last whole
+    /// frame are left out.
+    FamilySound* add(int row, const QVariant& id, const Zorv::SoundSample& sample) override;
+    int find(int from, const QVariant& id) const override;
+
+    /// The first identifier of the group that no sound has, from a number on; the group is left if
+    /// it is full.
+    AssetId freeId(AssetId from) const;
+
+    void beginChange(const QString& title) override;
+    void endChange() override;
+    void undo() override;
+    void redo() override;
+
+    /// Whether there is a step, and its title.
+    const AssetHistory& steps() const { return m_history; }
+
+    void move(unsigned from, unsigned to) override;
+    void remove(unsigned index) override;
+
+    /// Sorts by group and number.
+    void autoOrganize() override;
+
+    int checkErrors() override { return brokenCount(); }
+    bool isModified() const override { return !m_history.isClean(); }
+    bool isEmpty() const override { return items().isEmpty(); }
+    void reset() override;
+
+    /// Fails for what is no sound file, or is cut off in its table. Broken records are no
+    /// failure, but `loadErrors()`.
+    bool fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
+    bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
+    QString fileName() const override { return m_fileName; }
+    void release() override { delete this; }
+
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+    /// For sounds: the store of samples, and changes with undo.
+    SampleStore* store() const { return m_store.get(); }
+    AssetHistory& editHistory() { return m_history; }
+    void change(FamilySound* sound, const FamilySound::State& state);
+    void insertBehind(const FamilySound* sound, const ItemPtr& copy);
+
+    /// Gives a state other samples; false for a form that a sound file cannot hold.
+    bool setSamples(FamilySound::State* state, const Zorv::SampleInfo& info,
+                    const QByteArray& data);
+
+private:
+    void listChanged(bool count) override;
+    void stepDone();
+    void close();
+    void take(const SoundFileData& data, QIODevice* device);
+    SoundFileData tables(QVector<SampleRef>* streams) const;
+    bool write(Zorv::Archive& archive, const QString& fileName, QString* error);
+
+    // Sounds die before the store of their samples, and steps of undo hold sounds.
+    std::unique_ptr<SampleStore> m_store;
+    AssetHistory m_history;
+    QVector<SampleRef> m_rest;  // what broken records may have meant
+    QString m_fileName;
+    bool m_changed = false;
+    bool m_countChanged = false;
+};
+
+}  // namespace Family

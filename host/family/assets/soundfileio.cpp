@@ -1,0 +1,167 @@
+#include "assets/samplestore.h"
+#include "assets/soundfile.h"
+#include "assets/soundfiledata.h"
+#include "core/archive.h"
+
+#include <QDir>
+#include <QHash>
+
+namespace Family {
+
+namespace {
+
+SoundFileData::Stream streamOf(const SampleData& data)
+{
+    SoundFileData::Stream stream;
+    stream.size = quint32(data.item->size);
+    stream.plainSize = quint64(data.plainSize);
+    stream.packing = data.packing;
+    stream.plainCrc = data.plainCrc;
+    stream.streamCrc = data.streamCrc;
+    return stream;
+}
+
+}  // namespace
+
+void SoundFile::reset()
+{
+    close();
+    m_fileName.clear();
+    setArchive(nullptr);
+    currentIndex = -1;
+    emit changed(true);
+}
+
+bool SoundFile::fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy)
+{
+    QString reason;
+    QIODevice* device = archive.openFile(fileName, QIODevice::ReadOnly, &reason);
+    if (!device) {
+        setErrorString(reason);
+        return false;
+    }
+    SoundFileData data;
+    const bool done = data.read(device, &reason);
+    if (done) {
+        take(data, device);
+    }
+    archive.closeFile(device);
+    if (!done) {
+        setErrorString(tr("Cannot open the sounds of %1: %2.")
+                           .arg(QDir::toNativeSeparators(fileName), reason));
+        return false;
+    }
+    if (asCopy) {
+        m_history.setDirty();
+    } else {
+        m_fileName = fileName;
+        setArchive(&archive);
+    }
+    setErrorString({});
+    emit changed(true);
+    return true;
+}
+
+void SoundFile::take(const SoundFileData& data, QIODevice* device)
+{
+    auto store = std::make_unique<SampleStore>();
+    const auto adopt = [&](const SoundFileData::Stream& stream) {
+        return store->adopt(stream.packing, SoundFileData::readStream(device, stream),
+                            qint64(stream.plainSize), stream.plainCrc, stream.streamCrc);
+    };
+    QVector<SampleRef> streams;
+    for (const SoundFileData::Stream& stream : data.streams) {
+        streams.append(adopt(stream));
+    }
+    QVector<SampleRef> rest;
+    for (const SoundFileData::Stream& stream : data.rest) {
+        rest.append(adopt(stream));
+    }
+    QVector<ItemPtr> sounds;
+    for (const SoundFileData::Sound& record : data.sounds) {
+        auto sound = std::make_shared<FamilySound>(this);
+        sound->state = {record.id, record.info, streams.value(record.stream), record.broken,
+                        record.fault};
+        sounds.append(sound);
+    }
+    close();
+    m_store = std::move(store);
+    setCache(m_store->cache());
+    m_rest = rest;
+    currentIndex = -1;
+    resetItems(sounds);
+    m_changed = false;
+    m_countChanged = false;
+}
+
+SoundFileData SoundFile::tables(QVector<SampleRef>* streams) const
+{
+    SoundFileData data;
+    QHash<const SampleData*, int> known;
+    bool keepsRest = false;
+    for (const ItemPtr& item : items()) {
+        const FamilySound::State& state = item->state;
+        SoundFileData::Sound sound;
+        sound.id = state.id;
+        sound.info = state.info;
+        sound.broken = state.record;
+        if (state.samples) {
+            const auto found = known.constFind(state.samples.get());
+            sound.stream = found != known.constEnd() ? *found : data.streams.size();
+            if (found == known.constEnd()) {
+                known.insert(state.samples.get(), sound.stream);
+                data.streams.append(streamOf(*state.samples.get()));
+                streams->append(state.samples);
+            }
+        }
+        keepsRest = keepsRest || (!sound.broken.isEmpty() && sound.stream < 0);
+        data.sounds.append(sound);
+    }
+    for (const SampleRef& part : keepsRest ? m_rest : QVector<SampleRef>()) {
+        data.rest.append(streamOf(*part.get()));
+        streams->append(part);
+    }
+    return data;
+}
+
+bool SoundFile::toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy)
+{
+    QString reason;
+    if (!write(archive, fileName, &reason)) {
+        setErrorString(reason);
+        return false;
+    }
+    if (!asCopy) {
+        m_fileName = fileName;
+        setArchive(&archive);
+        m_history.setClean();
+    }
+    setErrorString({});
+    return true;
+}
+
+bool SoundFile::write(Zorv::Archive& archive, const QString& fileName, QString* error)
+{
+    QVector<SampleRef> streams;
+    const SoundFileData data = tables(&streams);
+    const auto bytesOf = [&](int stream) { return m_store->stream(streams[stream].get()); };
+    // Before the old file is touched: a temporary file can have gone.
+    for (int i = 0; i < streams.size(); ++i) {
+        if (bytesOf(i).size() != streams[i]->item->size) {
+            *error =
+                tr("Cannot save %1: the sounds cannot be read from the temporary file any more. "
+                   "The old file is unchanged.")
+                    .arg(QDir::toNativeSeparators(fileName));
+            return false;
+        }
+    }
+    QIODevice* device = archive.openFile(fileName, QIODevice::WriteOnly, error);
+    if (!device) {
+        return false;
+    }
+    QString reason;
+    const bool isWritten = data.write(device, bytesOf, &reason);
+    return archive.closeFile(device, error) && isWritten;
+}
+
+}  // namespace Family
