@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Makes those files of the sample game that follow from tables: animations, the moves of normal
-attacks, palettes and the music. What is not named here is written by hand.
+attacks, palettes, sprites, sounds and the music. What is not named here is written by hand.
 
 The same tables give the same bytes. usage: make_samples.py [FOLDER]
 """
@@ -10,7 +10,7 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True
 
-from maker import basics, colours, iwao, maren, music  # noqa: E402
+from maker import assets, basics, colours, iwao, maren, music  # noqa: E402
 from maker.animation import animation_lines  # noqa: E402
 from maker.attack import move_lines  # noqa: E402
 from maker.scenery import SCENERY  # noqa: E402
@@ -50,9 +50,12 @@ def files():
     for fighter in (maren, iwao):
         for name, data in fighter_files(fighter):
             yield f"{fighter.FOLDER}/{name}", data
-    for folder, palettes in colours.PALETTES.items():
-        for name, ramps in palettes.items():
-            yield f"{folder}/palettes/{name}.act", colours.table(ramps)
+        for name, palette in colours.PALETTES[fighter.FOLDER].items():
+            yield f"{fighter.FOLDER}/palettes/{name}.act", colours.act(palette)
+        name = Path(fighter.FOLDER).name
+        yield f"{fighter.FOLDER}/{name}.sprites", assets.fighter_sprites(fighter)
+        yield f"{fighter.FOLDER}/{name}.sounds", assets.sounds(fighter)
+    yield "stages/quay/quay.sprites", assets.quay_sprites()
     yield "stages/quay/scenery.anim", code(animation_lines(
         ["The old quay: what moves. Гавань никогда не спит."], SCENERY))
     yield "stages/quay/quay.wav", music.wave()

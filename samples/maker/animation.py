@@ -15,6 +15,7 @@ class Frame:
     scale: tuple = ()
     angle: float = 0
     loop: bool = False
+    pose: tuple = ()  # posture, lean, strike and limb, for the drawing
 
     def lines(self):
         for box in self.attack:

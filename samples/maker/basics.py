@@ -106,15 +106,15 @@ def falls(body, weight):
         play(60, "Lying", held, f(0, 2, "none"), f(1, 1, "lying")),
         play(61, "Getting up", held, f(0, 6, "none"), f(1, 5, "none"), f(2, 5, "none"),
              f(3, 4, "crouch"), f(4, 3, "low"), f(5, 1, "stand")),
-        play(62, "Recovery in the air", held, f(0, 3, "none"), f(1, 4, "none", angle=-120),
-             f(1, 4, "none", angle=-240), f(2, 3, "rise"), f(3, 1, "rise")),
+        play(62, "Recovery in the air", held, f(0, 3, "none"), f(1, 4, "spin", angle=-120),
+             f(1, 4, "spin", angle=-240), f(2, 3, "rise"), f(3, 1, "rise")),
         play(63, "Dizzy", looped, f(0, 8, "guard", lean=-4), f(1, 8, "guard", lean=-1),
              f(2, 8, "guard", lean=3), f(1, 8, "guard", lean=1, flip="h")),
         play(64, "Knocked out", held, f(0, 4, "low", lean=-6), f(1, 6, "low", lean=-10),
              f(2, 8, "crouch", lean=-4), f(3, 1, "none")),
         play(65, "Held", looped, f(0, 5, "stand", lean=-6), f(1, 5, "stand", lean=-8)),
-        play(66, "Thrown", held, f(0, 3, "none", angle=60), f(0, 3, "none", angle=120, flip="v"),
-             f(0, 3, "none", angle=180, flip="hv"), f(1, 1, "none")),
+        play(66, "Thrown", held, f(0, 3, "spin", angle=60), f(0, 3, "spin", angle=120, flip="v"),
+             f(0, 3, "spin", angle=180, flip="hv"), f(1, 1, "none")),
     ]
 
 

@@ -17,6 +17,8 @@ POSTURES = {
     "rise": (98, 15),
     "air": (96, 45),
 }
+# The axis of these sprites is the middle of the body, so that a turn keeps it in its place.
+TURNING = ("tumble", "spin")
 
 
 @dataclass(frozen=True)
@@ -30,7 +32,7 @@ class Body:
 
     def boxes(self, posture, lean=0):
         """Head, chest and legs; fewer where a fighter is small or cannot be hit."""
-        if posture == "none":
+        if posture in ("none", "spin"):
             return ()
         if posture == "lying":
             half = self.height // 2
@@ -61,7 +63,10 @@ class Body:
         if limb:
             body += (self.limb(limb, lean, 0),)
         attack = (self.limb(strike, lean, 4),) if strike else ()
-        return Frame(group, number, delay, moved(attack, offset), moved(body, offset), offset,
+        boxes = moved(attack, offset), moved(body, offset)
+        if posture in TURNING:
+            offset = (offset[0], offset[1] - self.height // 2)
+        return Frame(group, number, delay, *boxes, offset, pose=(posture, lean, strike, limb),
                      **options)
 
     def limb(self, limb, lean, margin):

@@ -1,0 +1,404 @@
+"""How Maren and Iwao look: their builds and their clothes."""
+
+from dataclasses import dataclass
+from math import cos, pi, sin
+
+from . import effects
+from .colours import CLOTH, COAT, DEEP, HAIR, LEATHER, LINE, SASH, SKIN, STEEL
+from .figure import Painter
+from .raster import crescent, direction, mixed, turned
+
+WHITE = STEEL[3]
+
+
+@dataclass(frozen=True)
+class Build:
+    """Lengths in pixels."""
+    upper: float
+    fore: float
+    thigh: float
+    shin: float
+    ankle: float
+    shoulder: float
+    hip: float
+    neck: float  # from its base down to the shoulders
+    head_radius: float
+    lying: float  # from the spine to the floor
+
+
+# Pixels of a face: near eye, far eye, brows and mouth, from the middle of the head.
+FACES = {
+    "calm": [(2, 0, LINE), (3, 0, LINE), (4, 0, LINE), (3, 1, LINE), (3, 2, DEEP), (4, 1, WHITE),
+             (2, 1, WHITE), (7, 0, LINE), (8, 0, LINE), (7, 1, LINE), (7, 2, DEEP), (8, 1, WHITE),
+             (5, 6, SKIN[0]), (6, 6, SKIN[0])],
+    "fierce": [(2, -1, LINE), (3, 0, LINE), (4, 0, LINE), (3, 1, LINE), (4, 1, WHITE),
+               (2, 1, WHITE), (3, 2, DEEP), (7, 0, LINE), (8, -1, LINE), (7, 1, LINE),
+               (8, 1, WHITE), (5, 6, DEEP), (6, 6, DEEP), (7, 6, SKIN[0])],
+    "shout": [(2, -1, LINE), (3, 0, LINE), (4, 0, LINE), (3, 1, LINE), (4, 1, WHITE),
+              (7, 0, LINE), (8, -1, LINE), (7, 1, LINE), (5, 5, LINE), (6, 5, LINE),
+              (4, 6, LINE), (5, 6, SASH[1]), (6, 6, SASH[1]), (7, 6, LINE), (5, 7, LINE),
+              (6, 7, LINE)],
+    "hurt": [(2, 0, LINE), (3, 1, LINE), (4, 1, LINE), (2, 2, LINE), (7, 1, LINE), (8, 0, LINE),
+             (8, 2, LINE), (5, 5, LINE), (6, 5, LINE), (5, 6, WHITE), (6, 6, WHITE),
+             (4, 6, LINE), (7, 6, LINE)],
+    "closed": [(2, 1, LINE), (3, 2, LINE), (4, 2, LINE), (7, 2, LINE), (8, 1, LINE),
+               (5, 6, SKIN[0]), (6, 6, SKIN[0])],
+    "laugh": [(2, 2, LINE), (3, 1, LINE), (4, 2, LINE), (7, 1, LINE), (8, 2, LINE),
+              (4, 5, LINE), (5, 5, WHITE), (6, 5, WHITE), (7, 5, LINE), (5, 6, SASH[1]),
+              (6, 6, SASH[1]), (5, 7, LINE), (6, 7, LINE)],
+}
+
+
+class Fighter(Painter):
+    """What is drawn in the air around both of them, with the colours of their steel."""
+
+    def effect(self, kind, *values):
+        if kind == "arc":
+            blow, x, y, step = values
+            if step == 0:
+                pivot = self.j.hips["near"] if blow in ("kick", "heel") else self.j.spine(0.9)
+                effects.arc(self.canvas, STEEL[1:], blow, pivot, (x, y))
+        elif kind == "dust":
+            for out, size in ((-12, 4), (-4, 5), (6, 4.5), (13, 3)):
+                self.canvas.ellipse((values[0] + out, -size * 0.8), size, size * 0.8, STEEL)
+        elif kind == "drops":
+            effects.water_drops(self.canvas, STEEL[1:], 26, 7, (-38, -96, 42, -4))
+        elif kind == "spray":
+            side = values[0]
+            effects.arc(self.canvas, STEEL[1:], "kick", self.j.pelvis, (side * 40, -80))
+            effects.water_drops(self.canvas, STEEL[1:], 10, 9 + side, (side * 18, -104, side * 50,
+                                                                       -54))
+        elif kind == "wave":
+            number = values[0]
+            effects.crest(self.canvas, STEEL, 12, 76, 58 + (0, 4, -2)[number], number, 31 + number)
+        elif kind == "sea":
+            self.sea(values[0])
+
+    def sea(self, number):
+        """Water that turns around the figure and strikes to the front."""
+        start = (2.2, 1.2, 2.8, 1.8)[number]
+        for radius, wide, flat in ((46, 15, 0.62), (62, 12, 0.5)):
+            crescent(self.canvas, (14, -62), radius, start, start - 3.2, wide, STEEL, flat)
+        effects.water_drops(self.canvas, STEEL[1:], 14, 50 + number, (24, -96, 84, -30))
+
+
+class Maren(Fighter):
+    build = Build(upper=16, fore=16, thigh=26, shin=24, ankle=4.5, shoulder=6, hip=4, neck=5,
+                  head_radius=10, lying=8)
+
+    def hair_behind(self):
+        canvas = self.canvas
+        canvas.begin()
+        start = self.head_point(-7, 2)
+        points = self.trail(start, (5, 5, 5, 5, 4, 4), (3.4, 3.2, 3.0, 2.8, 2.4, 1.9, 1.2), HAIR,
+                            bias=-0.4, spread=0.35)
+        for (x, y, radius), (x1, y1, _) in list(zip(points, points[1:]))[:5]:
+            canvas.line(mixed((x, y), (x1, y1), 0.5), (x1 + radius * 0.6, y1 - 1), HAIR[0])
+        x, y, _ = points[5]
+        canvas.capsule((x, y), 2.1, (x, y + 1), 1.9, SASH)
+        self.scarf_tail()
+
+    def scarf_tail(self):
+        self.canvas.begin()
+        x, y = self.j.neck
+        start = x - self.j.front[0] * 4, y - self.j.front[1] * 4
+        self.trail(start, (6, 6, 5), (2.6, 2.8, 2.6, 1.6), SASH, heavy=1.15, bias=-0.8, spread=0.5)
+        self.canvas.begin()
+        self.trail(start, (6, 6, 6), (2.6, 2.8, 2.8, 1.4), SASH, heavy=1.3, spread=0.85)
+
+    def arm(self, side):
+        canvas, j, bias = self.canvas, self.j, self.bias(side)
+        shoulder, elbow, hand = j.shoulders[side], j.elbows[side], j.hands[side]
+        canvas.begin()
+        self.fist(side, SKIN, 3.5)
+        canvas.capsule(elbow, 3.5, hand, 2.6, SKIN, bias)
+        wrist = mixed(elbow, hand, 0.86)
+        canvas.capsule(wrist, 3.1, hand, 3.1, LEATHER, bias)
+        canvas.chain([(*shoulder, 5.2), (*mixed(shoulder, elbow, 0.5), 4.6), (*elbow, 4.1)], COAT,
+                     bias)
+        cuff = mixed(elbow, hand, 0.3)
+        canvas.capsule(elbow, 4.1, cuff, 3.9, COAT, bias)
+        canvas.capsule(cuff, 4.2, mixed(elbow, hand, 0.4), 4.1, COAT, bias + 1.2)
+
+    def leg(self, side):
+        canvas, j, bias = self.canvas, self.j, self.bias(side)
+        hip, knee, ankle = j.hips[side], j.knees[side], j.ankles[side]
+        canvas.begin()
+        self.foot(side, LEATHER, 7.5, 3.3, 2.5)
+        top = mixed(knee, ankle, 0.42)
+        canvas.chain([(*hip, 7.4), (*mixed(hip, knee, 0.55), 6.6), (*knee, 5.0)], CLOTH, bias)
+        canvas.chain([(*knee, 5.0), (*mixed(knee, ankle, 0.3), 5.1), (*top, 4.6)], CLOTH, bias)
+        canvas.begin()
+        self.foot(side, LEATHER, 7.5, 3.3, 2.5)
+        canvas.chain([(*top, 5.0), (*mixed(knee, ankle, 0.7), 4.5), (*ankle, 3.6)], LEATHER, bias)
+        canvas.capsule(mixed(knee, ankle, 0.38), 5.2, top, 5.2, LEATHER, bias + 0.9)
+
+    def trunk(self):
+        canvas, j = self.canvas, self.j
+        canvas.begin()
+        canvas.chain([(*j.spine(-0.06), 8.2), (*j.spine(0.12), 7.6)], CLOTH)
+        canvas.begin()
+        self.skirt()
+        canvas.chain([(*j.spine(0.2), 7.6), (*j.spine(0.42), 6.8), (*j.spine(0.72, 0.6), 8.4)],
+                     COAT)
+        near, far = j.shoulders["near"], j.shoulders["far"]
+        canvas.capsule(near, 5.0, far, 5.0, COAT)
+        canvas.capsule(j.spine(0.7, 3.2), 5.2, j.spine(0.62, 3.6), 5.0, COAT)
+        self.shirt()
+        canvas.begin()
+        canvas.capsule(j.spine(0.24, -6.4), 2.2, j.spine(0.2, 6.6), 2.2, SASH)
+        canvas.begin()
+        canvas.capsule(j.spine(0.98, -4.5), 3.1, j.spine(0.93, 5), 2.9, SASH)
+
+    def skirt(self):
+        """The hem of the coat."""
+        j = self.j
+        back, front = j.spine(0.22, -7.4), j.spine(0.22, 7.4)
+        sway = self.pose.sway * 3
+        points = [back, front, j.spine(-0.18, 9.5), j.spine(-0.10, 3), j.spine(-0.16, -2),
+                  j.spine(-0.24, -10.5 - sway)]
+        self.canvas.use(COAT)
+        self.canvas.polygon(points, COAT[1])
+        inner = [back, j.spine(0.22, 6), j.spine(-0.12, 8), j.spine(-0.04, 3),
+                 j.spine(-0.1, -2.4), j.spine(-0.17, -9 - sway)]
+        self.canvas.polygon(inner, COAT[2])
+
+    def shirt(self):
+        j = self.j
+        if self.pose.twist < 0:
+            return
+        self.canvas.use(STEEL)
+        self.canvas.polygon([j.spine(0.95, 0.5), j.spine(0.95, 6), j.spine(0.62, 6.6),
+                             j.spine(0.42, 4.6)], STEEL[3])
+        self.canvas.polygon([j.spine(0.95, 3.8), j.spine(0.95, 6), j.spine(0.62, 6.6),
+                             j.spine(0.46, 5)], STEEL[2])
+        self.canvas.line(j.spine(0.93, 0), j.spine(0.40, 4.2), COAT[4])
+        self.canvas.line(j.spine(0.36, 4.2), j.spine(0.27, 4.6), COAT[0])
+        for along in (0.72, 0.56, 0.42):
+            self.canvas.put(*j.spine(along, 0.2 + (0.72 - along) * 4), HAIR[3])
+
+    def head(self):
+        canvas, j = self.canvas, self.j
+        canvas.begin()
+        canvas.capsule(j.spine(0.97, 0.5), 3.2, self.head_point(0, 6), 3.2, SKIN, -1.2)
+        canvas.begin()
+        self.head_ellipse(-2.4, 0.6, 7.2, 8.2, HAIR)
+        self.head_ellipse(1.8, 1.6, 6.6, 7.2, SKIN, bias=0.5)
+        canvas.capsule(self.head_point(2.4, 3), 5.6, self.head_point(4.4, 6.4), 3.2, SKIN, 0.4)
+        self.head_pixels([(9, 3, SKIN[3]), (8, 3, SKIN[4]), (9, 4, SKIN[1]), (3, 4, SKIN[2]),
+                          (4, 4, SKIN[2])])
+        self.head_polygon([(-6, -4), (4.5, -4.5), (2.5, -1.5), (0.8, 0.2), (0.2, 4.2), (-1.4, 7),
+                           (-4.4, 8.4), (-7.4, 5), (-8.4, 0)], HAIR[2])
+        self.head_polygon([(-6, -4), (0, -4.5), (-1, 0), (-3, 6.5), (-5.4, 7.2), (-8, 3)], HAIR[1])
+        self.head_polygon([(3.5, -4.5), (9.2, -4), (8.2, -1.2), (6.2, -2.4)], HAIR[2])
+        self.head_pixels([(-1, -1, HAIR[3]), (-1, 0, HAIR[3]), (-2, 1, HAIR[3]), (1, -2, HAIR[3]),
+                          (2, -3, HAIR[3]), (-2, 2, HAIR[3])])
+        self.head_pixels([(-2, 3, SKIN[2]), (-1, 3, SKIN[3]), (-2, 4, SKIN[1]), (-1, 4, SKIN[2])])
+        self.head_pixels(FACES[self.pose.face])
+        self.cap()
+
+    def cap(self):
+        self.canvas.begin()
+        self.head_ellipse(-0.6, -4.6, 8.9, 6.2, COAT, angle=-0.10, bias=0.2,
+                          keep=lambda u, v: v < 0.6)
+        self.head_polygon([(-9, -5.4), (8.4, -6), (8.6, -3.4), (-8.8, -2.6)], COAT[0])
+        self.head_polygon([(2.6, -4), (8.6, -4.6), (12, -1.9), (8, -2.4), (3.4, -2)], LINE)
+        self.head_pixels([(10, -3, STEEL[1]), (9, -4, STEEL[1]), (8, -4, STEEL[1]),
+                          (4, -6, HAIR[3]), (5, -6, HAIR[3]), (4, -7, HAIR[3]), (5, -7, HAIR[2]),
+                          (3, -5, HAIR[2]), (6, -5, HAIR[2])])
+
+    # ("hook", butt, tip): the boat hook from end to end.
+    def prop(self, kind, *places):
+        if kind == "hook":
+            self.hook(*places)
+        elif kind == "rope":
+            self.rope(places)
+        elif kind == "coil":
+            self.coil(places, 13, 5)
+        elif kind == "cast":
+            self.rope(places)
+            self.coil((places[1][0] + 8, places[1][1]), 9, 8)
+        elif kind == "slack":
+            (x, y), end = places
+            self.rope([(x, y), (x + 10, y + 34), (x + 14, y + 62), end, (end[0] + 16, end[1])])
+        elif kind == "knot":
+            self.knot(places[0])
+
+    def prop_behind(self, kind, *places):
+        if kind == "shouldered":
+            self.hook(*places)
+
+    def coil(self, centre, width, height):
+        """A loop of rope, seen from the side."""
+        points = [(centre[0] + cos(step * pi / 8) * width, centre[1] + sin(step * pi / 8) * height)
+                  for step in range(17)]
+        self.rope(points)
+
+    def knot(self, step):
+        """A short piece of rope between the hands."""
+        near, far = self.j.hands["near"], self.j.hands["far"]
+        low = (near[0] + far[0]) / 2, max(near[1], far[1]) + (12, 8, 5, 10)[step]
+        self.rope([near, low, far])
+        self.rope([near, (near[0] - 3, near[1] + 14)])
+        self.rope([far, (far[0] + 3, far[1] + 13)])
+        if step > 1:
+            self.coil((low[0], low[1] - 4), 4, 4)
+
+    def hook(self, butt, tip):
+        canvas = self.canvas
+        canvas.begin()
+        canvas.use(LEATHER)
+        canvas.line(butt, tip, LEATHER[1], 3)
+        canvas.line((butt[0], butt[1] - 1), (tip[0], tip[1] - 1), LEATHER[2])
+        canvas.begin()
+        canvas.use(STEEL)
+        angle = direction(butt, tip)
+
+        def at(along, out):
+            return turned((tip[0] + along, tip[1] + out), angle, tip)
+
+        canvas.line(at(-9, 0), at(4, 0), STEEL[2], 3)
+        canvas.line(at(0, 0), at(7, 0), STEEL[3], 2)
+        for start, end in (((-4, 0), (-1, 5)), ((-1, 5), (-4, 8)), ((-4, 8), (-8, 7))):
+            canvas.line(at(*start), at(*end), STEEL[1], 2)
+
+    def rope(self, places):
+        self.canvas.begin()
+        self.canvas.use(LEATHER)
+        for start, end in zip(places, places[1:]):
+            self.canvas.line(start, end, LEATHER[2], 2)
+        for number, (start, end) in enumerate(zip(places, places[1:])):
+            if number % 2:
+                self.canvas.line(start, end, LEATHER[1], 1)
+
+
+class Iwao(Fighter):
+    build = Build(upper=19, fore=18, thigh=27, shin=24, ankle=5, shoulder=11, hip=6, neck=7,
+                  head_radius=11, lying=12)
+
+    def hair_behind(self):
+        self.canvas.begin()
+        start = self.head_point(-8, -4)
+        self.trail(start, (6, 5), (1.8, 2.0, 1.2), STEEL, heavy=1.2, bias=-0.8, spread=0.9)
+        self.canvas.begin()
+        self.trail(start, (5, 5), (1.8, 2.0, 1.2), STEEL, heavy=1.1, spread=0.45)
+
+    def arm(self, side):
+        canvas, j, bias = self.canvas, self.j, self.bias(side)
+        shoulder, elbow, hand = j.shoulders[side], j.elbows[side], j.hands[side]
+        canvas.begin()
+        self.fist(side, SKIN, 5.0)
+        canvas.chain([(*elbow, 5.6), (*mixed(elbow, hand, 0.35), 6.2), (*hand, 4.2)], SKIN, bias)
+        canvas.capsule(mixed(elbow, hand, 0.74), 5.0, mixed(elbow, hand, 0.9), 4.7, SASH, bias)
+        canvas.begin()
+        canvas.chain([(*shoulder, 7.6), (*mixed(shoulder, elbow, 0.5), 7.2), (*elbow, 5.6)], SKIN,
+                     bias)
+        canvas.begin()
+        canvas.chain([(*shoulder, 8.4), (*mixed(shoulder, elbow, 0.22), 8.2)], COAT, bias)
+
+    def leg(self, side):
+        canvas, j, bias = self.canvas, self.j, self.bias(side)
+        hip, knee, ankle = j.hips[side], j.knees[side], j.ankles[side]
+        canvas.begin()
+        self.foot(side, LEATHER, 9.5, 3.8, 3.1)
+        canvas.capsule(mixed(knee, ankle, 0.5), 5.4, ankle, 4.4, LEATHER, bias)
+        canvas.begin()
+        low = mixed(knee, ankle, 0.45)
+        canvas.chain([(*hip, 10.2), (*mixed(hip, knee, 0.5), 10.4), (*knee, 9.2), (*low, 8.2)],
+                     CLOTH, bias)
+        canvas.capsule(low, 6.6, mixed(knee, ankle, 0.6), 6.0, CLOTH, bias - 0.6)
+
+    def trunk(self):
+        canvas, j = self.canvas, self.j
+        canvas.begin()
+        canvas.capsule(j.spine(-0.08), 12.5, j.spine(0.1, 1), 13.0, CLOTH)
+        canvas.begin()
+        skin = self.pose.twist >= 0
+        canvas.chain([(*j.spine(0.25, 2.5), 14.5), (*j.spine(0.5, 2), 14.0),
+                      (*j.spine(0.74, 0), 14.5)], SKIN if skin else COAT)
+        near, far = j.shoulders["near"], j.shoulders["far"]
+        canvas.capsule(near, 7.4, far, 7.4, SKIN if skin else COAT)
+        if skin:
+            self.chest()
+            self.coat()
+        canvas.begin()
+        canvas.chain([(*j.spine(0.16, -10.5), 4.0), (*j.spine(0.10, 1), 4.6),
+                      (*j.spine(0.15, 12.5), 4.0)], SASH)
+        canvas.begin()
+        canvas.capsule(j.spine(0.14, 4), 3.2, j.spine(0.12, 7), 3.2, SASH, 0.6)
+        self.trail(j.spine(0.1, 5.5), (5, 5), (2.4, 2.6, 2.2), SASH, heavy=0.4)
+
+    def chest(self):
+        canvas, j = self.canvas, self.j
+        canvas.ellipse(j.spine(0.72, 7), 6.6, 5.2, SKIN, bias=0.6)
+        canvas.ellipse(j.spine(0.72, -1.5), 6.2, 5.2, SKIN, bias=0.4)
+        canvas.line(j.spine(0.58, -5), j.spine(0.56, 1.5), SKIN[1])
+        canvas.line(j.spine(0.57, 4), j.spine(0.60, 11), SKIN[1])
+        canvas.line(j.spine(0.66, 2.8), j.spine(0.46, 4), SKIN[1])
+        canvas.put(*j.spine(0.30, 6.5), SKIN[0])
+
+    def coat(self):
+        """The open coat: its back half, and its edge."""
+        canvas, j = self.canvas, self.j
+        points = [j.spine(1.0, -3), j.spine(0.9, -16), j.spine(0.5, -15), j.spine(0.12, -14),
+                  j.spine(-0.02, -15 - self.pose.sway * 3), j.spine(-0.02, -6), j.spine(0.3, -4.5),
+                  j.spine(0.7, -5)]
+        canvas.begin()
+        canvas.use(COAT)
+
+        def shade(x, y):
+            out = ((x - j.pelvis[0]) * j.front[0] + (y - j.pelvis[1]) * j.front[1])
+            return COAT[max(0, min(3, int((out + 17) / 3.4)))]
+
+        canvas.polygon(points, shade)
+        canvas.line(j.spine(0.98, -2), j.spine(0.68, -5), SASH[2], 2)
+        canvas.line(j.spine(0.68, -5), j.spine(0.0, -6), SASH[2], 2)
+        canvas.begin()
+        canvas.polygon([j.spine(1.0, 4), j.spine(0.92, 15), j.spine(0.5, 17), j.spine(0.2, 16),
+                        j.spine(0.5, 13.6), j.spine(0.75, 12)], COAT[1])
+
+    def head(self):
+        canvas, j = self.canvas, self.j
+        canvas.begin()
+        canvas.capsule(j.spine(0.95, 0), 6.5, self.head_point(-1, 5), 6.2, SKIN, -1.2)
+        canvas.begin()
+        self.head_ellipse(-6.5, -10.2, 3.4, 2.6, HAIR)
+        canvas.begin()
+        self.head_ellipse(-1.6, -1, 9.2, 9.4, HAIR)
+        self.head_ellipse(1.8, 1, 7.6, 8.2, SKIN, bias=0.4)
+        canvas.capsule(self.head_point(1.6, 4), 6.8, self.head_point(4.2, 7), 4.4, SKIN, 0.3)
+        self.head_polygon([(-7, -6), (1.5, -5), (0, -0.5), (-1, 4), (-3, 6), (-7, 5), (-9.5, 0)],
+                          HAIR[1])
+        self.head_pixels([(10, 3, SKIN[3]), (9, 3, SKIN[4]), (10, 4, SKIN[1]), (9, 2, SKIN[3]),
+                          (-2, 3, SKIN[2]), (-1, 3, SKIN[3]), (-2, 4, SKIN[1]), (-1, 4, SKIN[2]),
+                          (-2, 2, SKIN[3]), (2, 4, SKIN[2]), (3, 5, SKIN[1])])
+        self.head_pixels([(1, -2, LINE), (2, -2, LINE), (3, -1, LINE), (4, -1, LINE),
+                          (7, -1, LINE), (8, -2, LINE), (9, -2, LINE)])
+        self.head_pixels(FACES[self.pose.face])
+        self.head_pixels([(3, 8, HAIR[1]), (4, 9, HAIR[1]), (5, 9, HAIR[1]), (6, 9, HAIR[1]),
+                          (4, 10, HAIR[1]), (5, 10, HAIR[1]), (6, 8, HAIR[1])])
+        canvas.begin()
+        canvas.chain([(*self.head_point(-8.6, -4.2), 1.7), (*self.head_point(0, -4.6), 1.9),
+                      (*self.head_point(8.2, -4.4), 1.6)], STEEL, 0.6)
+
+    def prop(self, kind, *places):
+        if kind == "crate":
+            self.crate(*places)
+
+    def crate(self, middle):
+        canvas = self.canvas
+        x, y = middle
+        canvas.begin()
+        canvas.use(LEATHER)
+        canvas.polygon([(x - 15, y - 13), (x + 15, y - 13), (x + 15, y + 13), (x - 15, y + 13)],
+                       LEATHER[1])
+        for edge in (-13, -4, 5):
+            canvas.polygon([(x - 14, y + edge), (x + 14, y + edge), (x + 14, y + edge + 7),
+                            (x - 14, y + edge + 7)], LEATHER[2])
+        for post in (-15, 11):
+            canvas.polygon([(x + post, y - 13), (x + post + 4, y - 13), (x + post + 4, y + 13),
+                            (x + post, y + 13)], LEATHER[1])
+        canvas.line((x - 11, y + 11), (x + 10, y - 11), LEATHER[1], 3)
+
+
+LOOKS = {"characters/maren": Maren, "characters/iwao": Iwao}
