@@ -52,11 +52,12 @@ bool canHold(qint64 bytes, const QPCXHeader& header, QSize size, QImage::Format 
 bool shape(QImage& image, const QPCXHeader& header, QImage::Format format, qint64 bytes)
 {
     const QSize size(header.right + 1 - header.left, header.bottom + 1 - header.top);
-    if (image.size() != size || image.format() != format) {
-        const bool possible = !size.isEmpty() && canHold(bytes, header, size, format);
-        image = possible ? QImage(size, format) : QImage();
+    if (size.isEmpty() || header.bytesPerLine == 0) {
+        image = QImage();
+    } else if (image.size() != size || image.format() != format) {
+        image = canHold(bytes, header, size, format) ? QImage(size, format) : QImage();
     }
-    if (image.isNull() || header.bytesPerLine == 0) {
+    if (image.isNull()) {
         return false;
     }
     std::memset(image.bits(), 0, size_t(image.sizeInBytes()));
