@@ -70,7 +70,7 @@ public:
 
     /// The state that was saved: `isClean()` is true in it, however it is reached. `setDirty()` is
     /// for a content that is in no file.
-    bool isClean() const { return m_done == m_clean; }
+    bool isClean() const { return m_done == m_clean && m_open.changes.empty(); }
     void setClean() { m_clean = m_done; }
     void setDirty() { m_clean = -1; }
 

@@ -24,4 +24,25 @@ bool AssetId::read(const QVariant& value, AssetId* id)
     return groupFine && numberFine;
 }
 
+bool readIdProperty(const QString& name, const QVariant& value, AssetId* id)
+{
+    if (name == QLatin1String("Identifier")) {
+        return AssetId::read(value, id);
+    }
+    bool fine = false;
+    const uint number = value.toUInt(&fine);
+    if (!fine || number > 0xffff) {
+        return false;
+    }
+    if (name == QLatin1String("Group")) {
+        id->group = quint16(number);
+        return true;
+    }
+    if (name == QLatin1String("Number")) {
+        id->number = quint16(number);
+        return true;
+    }
+    return false;
+}
+
 }  // namespace Family

@@ -37,4 +37,8 @@ inline bool operator<(AssetId a, AssetId b)
     return a.key() < b.key();
 }
 
+/// Reads one of the properties "Identifier", "Group" and "Number" into an identifier. False, and no
+/// change, for another name or a value that it cannot take.
+bool readIdProperty(const QString& name, const QVariant& value, AssetId* id);
+
 }  // namespace Family

@@ -97,21 +97,39 @@ protected:
     void resetItems(const QVector<ItemPtr>& items)
     {
         this->beginResetModel();
-        setRows(-1, 0);
+        dropItems();
         m_items = items;
         setRows(0, m_items.size());
+        for (const ItemPtr& item : items) {
+            stateCame(item->state);
+        }
         this->endResetModel();
         listChanged(true);
+    }
+
+    /// Lets go of all items without telling views; for a list that dies, or is about to be reset.
+    void dropItems()
+    {
+        for (const ItemPtr& item : m_items) {
+            item->row = -1;
+            stateWent(item->state);
+        }
+        m_items.clear();
     }
 
     /// After each change, also of undo; `count` is true if rows came or went.
     virtual void listChanged(bool count) = 0;
 
+    /// For what a list counts: a state has come into it, or left it.
+    virtual void stateCame(const State&) {}
+    virtual void stateWent(const State&) {}
+
     /// The rows that views show have changed with their items; all columns are told.
     void tellRows(int first, int last)
     {
+        const QAbstractItemModel& model = *this;
         emit this->dataChanged(this->index(first, 0),
-                               this->index(last, this->columnCount(QModelIndex()) - 1));
+                               this->index(last, model.columnCount(QModelIndex()) - 1));
     }
 
     AssetHistory& history() const { return *m_history; }
@@ -161,7 +179,9 @@ private:
             back ? doMove(edit.second, edit.first) : doMove(edit.first, edit.second);
             break;
         case Edit::Change:
+            stateWent(m_items[edit.first]->state);
             std::swap(m_items[edit.first]->state, edit.state);
+            stateCame(m_items[edit.first]->state);
             tellRows(edit.first, edit.first);
             listChanged(false);
             break;
@@ -177,6 +197,9 @@ private:
             m_items = m_items.mid(0, row) + items + m_items.mid(row);
         }
         setRows(row, m_items.size());
+        for (const ItemPtr& item : items) {
+            stateCame(item->state);
+        }
         this->endInsertRows();
         listChanged(true);
     }
@@ -186,6 +209,7 @@ private:
         this->beginRemoveRows({}, row, row + count - 1);
         for (int i = row; i < row + count; ++i) {
             m_items[i]->row = -1;
+            stateWent(m_items[i]->state);
         }
         m_items.remove(row, count);
         setRows(row, m_items.size());
@@ -220,11 +244,10 @@ private:
         listChanged(false);
     }
 
-    // Tells the items from a row on where they stand; with -1 all of them that they have gone.
     void setRows(int first, int end)
     {
-        for (int i = std::max(first, 0); i < (first < 0 ? m_items.size() : end); ++i) {
-            m_items[i]->row = first < 0 ? -1 : i;
+        for (int i = first; i < end; ++i) {
+            m_items[i]->row = i;
         }
     }
 

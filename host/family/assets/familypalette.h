@@ -72,4 +72,7 @@ private:
 PaletteColors colorsOfTable(const QVector<QRgb>& table);
 QVector<QRgb> tableOfColors(const PaletteColors& colors);
 
+/// The shades from opaque black to white, which a sprite without a palette is shown in.
+PaletteColors greyColors();
+
 }  // namespace Family

@@ -4,6 +4,7 @@
 #include "assets/pixeldata.h"
 #include "cache/sprite.h"
 
+#include <QCoreApplication>
 #include <QVector>
 
 #include <memory>
@@ -18,6 +19,8 @@ class SpriteCollection;
 /// Its address stays the same as long as the collection or its undo knows it.
 class FamilySprite final : public Zorv::Sprite
 {
+    Q_DECLARE_TR_FUNCTIONS(Family::FamilySprite)
+
 public:
     /// All that can change in a sprite.
     struct State
@@ -102,6 +105,7 @@ public:
 private:
     void setPixels(const QImage& image, const std::shared_ptr<FamilyPalette>& palette);
     void setId(AssetId id);
+    void setCodec(PixelCodec codec);
 
     SpriteCollection* m_sprites;
 };

@@ -11,10 +11,12 @@ class SpriteCollection;
 
 using PaletteListBase = AssetList<Zorv::Palettes, FamilyPalette>;
 
-/// The palettes of a sprite collection. A row shows "GROUP,NUMBER"; its decoration is a picture of
-/// the colours. Every change is a step of undo in that of the collection.
+/// The palettes of a sprite collection. A row shows "GROUP,NUMBER". Every change is a step of undo
+/// in that of the collection.
 class PaletteList final : public PaletteListBase
 {
+    Q_OBJECT
+
 public:
     explicit PaletteList(SpriteCollection* sprites);
     ~PaletteList() override;
@@ -60,16 +62,22 @@ public:
     /// What a palette is shown as: the one that a remap names, else itself. One step only.
     const FamilyPalette* shown(const FamilyPalette* palette) const;
 
-    /// Adds a palette, unless the list has one with these colours.
-    FamilyPalette* ensure(const PaletteColors& colors, AssetId wish);
+    /// Adds a palette with a free identifier, unless the list has one with these colours.
+    FamilyPalette* ensure(const PaletteColors& colors);
+
+    /// Sorts by group and number.
+    void autoOrganize();
 
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
-    /// For palettes and the collection: gives a palette another state, with undo.
-    void change(FamilyPalette* palette, const FamilyPalette::State& state);
+    /// For palettes: change one, with undo; see `FamilyPalette`.
+    void setColors(FamilyPalette* palette, const PaletteColors& colors, int mode);
+    void setId(FamilyPalette* palette, AssetId id);
 
-    /// For the collection: replaces everything, without undo; tells of a finished step.
+    /// For the collection: replaces everything, without undo; removes broken records; tells of a
+    /// finished step.
     void reset(const QVector<ItemPtr>& items);
+    void removeBroken();
     void flush();
 
     /// The share that the list or its undo has in a palette; for sprites to hold. Null for a
@@ -78,14 +86,21 @@ public:
 
 private:
     void listChanged(bool count) override;
+    void stateCame(const FamilyPalette::State& state) override;
+    void stateWent(const FamilyPalette::State& state) override;
+    AssetId nextId() const;
     AssetId freeId(AssetId from) const;
+    FamilyPalette* place(int row, const PaletteColors& colors, AssetId id);
+    void usePalettes(const QHash<const FamilyPalette*, ItemPtr>& others);
+    void repaint(const FamilyPalette* palette, const QByteArray& indices);
     void drop(const QVector<int>& rows);
 
     SpriteCollection* m_sprites;
     std::unique_ptr<RemapModel> m_remaps;
     bool m_changed = false;
     bool m_countChanged = false;
-    bool m_resetting = false;
+    QHash<quint32, int> m_ids;        // how many palettes have each
+    QHash<quint64, int> m_colorSets;  // likewise of each checksum of colours
 };
 
 }  // namespace Family

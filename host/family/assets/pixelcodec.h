@@ -45,6 +45,10 @@ QByteArray packPixels(const PixelFormat& format, const QByteArray& rows);
 /// The codec that takes the fewest bytes among those that lose nothing, with the stream.
 PixelCodec smallestCodec(const PixelFormat& format, const QByteArray& rows, QByteArray* stream);
 
+/// An image in one of the two forms of sprites, `Format_Indexed8` or `Format_ARGB32`: indices and
+/// shades of grey stay indices, all else becomes true colour.
+QImage normalizedImage(const QImage& image);
+
 /// Rows as an image, and back. An image of 8 bits has the colours given; that of 32 is
 /// `Format_ARGB32`.
 QImage imageOfRows(const PixelFormat& format, const QByteArray& rows, const QVector<QRgb>& colors);

@@ -12,8 +12,8 @@ class PixelStore;
 class PixelData final : public Zorv::StreamCacheData
 {
 public:
-    PixelData(PixelStore* store, Zorv::StreamCache* cache);
-    PixelData(PixelStore* store, Zorv::StreamCache* cache, const QString& fileName);
+    PixelData(PixelStore* store, Zorv::StreamCache* home);
+    PixelData(PixelStore* store, Zorv::StreamCache* home, const QString& fileName);
     ~PixelData() override;
 
     PixelFormat format;

@@ -22,6 +22,8 @@ namespace Family {
 /// equal bytes are equal pictures. All `PixelRef` must go before the store. Main thread only.
 class PixelStore : public QObject
 {
+    Q_OBJECT
+
 public:
     /// A store that the setting "cache_type" chooses.
     PixelStore();
@@ -63,13 +65,27 @@ private:
 private:
     friend class PixelData;
     void gone(PixelData* data);
-    PixelRef store(const PixelFormat& format, const QByteArray& rows, const QByteArray& stream);
 
     std::unique_ptr<Zorv::StreamCache> m_cache;
     std::unique_ptr<Zorv::FileCache> m_files;
     QHash<Zorv::StreamCache::Item*, PixelData*> m_byItem;
     QCache<const PixelData*, QByteArray> m_unpacked;
     quint32 m_nextOrder = 0;
+};
+
+/// Packed pixels by themselves, to be unpacked on any thread.
+struct PackedPixels
+{
+    PackedPixels() = default;
+    explicit PackedPixels(const PixelData& data);
+
+    /// The unpacked rows; empty if there are none, or a checksum is wrong.
+    QByteArray rows() const;
+
+    PixelFormat format;
+    QByteArray stream;
+    quint64 streamCrc = 0;
+    quint64 pixelCrc = 0;
 };
 
 }  // namespace Family

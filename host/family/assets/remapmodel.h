@@ -29,6 +29,8 @@ using RemapModelBase = AssetList<QAbstractTableModel, RemapItem>;
 /// cells; each is a step of undo in that of the collection.
 class RemapModel final : public RemapModelBase
 {
+    Q_OBJECT
+
 public:
     enum Column { From, To, ColumnCount };
 
@@ -61,7 +63,8 @@ public:
     bool insertRows(int row, int count, const QModelIndex& parent = {}) override;
     bool removeRows(int row, int count, const QModelIndex& parent = {}) override;
 
-    /// For the collection: replaces everything, without undo.
+    /// For the collection: removes broken records; replaces everything, without undo.
+    void removeBroken();
     void reset(const QVector<ItemPtr>& items);
 
 private:

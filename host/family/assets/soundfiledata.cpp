@@ -6,9 +6,11 @@
 #include <QIODevice>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <map>
+#include <numeric>
 
 namespace Family {
 
@@ -102,6 +104,17 @@ bool readHead(QIODevice* device, quint32* count, QString* error)
         return fail(error, QT_TRANSLATE_NOOP("Family::SoundFileData", "Its end is missing"));
     }
     return true;
+}
+
+SoundFileData::Sound soundOf(const QByteArray& record)
+{
+    SoundFileData::Sound sound;
+    sound.id = {numberAt<quint16>(record, GroupAt), numberAt<quint16>(record, NumberAt)};
+    sound.info.channels = numberAt<quint16>(record, ChannelsAt);
+    sound.info.bits = numberAt<quint16>(record, BitsAt);
+    sound.info.sampleRate = numberAt<qint32>(record, RateAt);
+    sound.info.frames = numberAt<qint32>(record, FramesAt);
+    return sound;
 }
 
 SoundFileData::Stream streamOf(const QByteArray& record, const SampleInfo& info)
@@ -203,8 +216,9 @@ QString recordFault(const QByteArray& record, const SampleInfo& info,
     return {};
 }
 
+// A record that is damaged itself is believed where its samples lie if they fit its checksum.
 QString placeFault(QIODevice* device, SoundFileData::Sound& sound, Places& places,
-                   const SoundFileData::Stream& stream)
+                   const SoundFileData::Stream& stream, bool isBelieved)
 {
     if (stream.size == 0) {
         return stream.plainSize == 0 ? QString() : tr("its samples are missing");
@@ -212,13 +226,13 @@ QString placeFault(QIODevice* device, SoundFileData::Sound& sound, Places& place
     if (!places.isInside(stream)) {
         return tr("its samples lie outside of the file");
     }
-    sound.stream = places.take(stream);
+    const QByteArray bytes = SoundFileData::readStream(device, stream);
+    const bool isSound = checksumOf(bytes, bytes.size()) == stream.streamCrc;
+    sound.stream = isSound || isBelieved ? places.take(stream) : -1;
     if (sound.stream < 0) {
         return tr("its samples overlap those of another sound");
     }
-    const QByteArray bytes = SoundFileData::readStream(device, stream);
-    return checksumOf(bytes, bytes.size()) == stream.streamCrc ? QString()
-                                                               : tr("its samples are damaged");
+    return isSound ? QString() : tr("its samples are damaged");
 }
 
 QByteArray recordOf(const SoundFileData::Sound& sound, const SoundFileData::Stream& stream)
@@ -250,6 +264,32 @@ QByteArray recordOf(const SoundFileData::Sound& sound, const SoundFileData::Stre
     return record;
 }
 
+// Records without a fault take their places first.
+void place(QIODevice* device, SoundFileData& file, const QVector<QByteArray>& records,
+           const QVector<SoundFileData::Stream>& wanted)
+{
+    Places places(HeadSize + quint64(records.size()) * RecordSize, quint64(device->size()),
+                  file.streams);
+    QVector<int> order(records.size());
+    std::iota(order.begin(), order.end(), 0);
+    const auto broken = std::stable_partition(
+        order.begin(), order.end(), [&file](int i) { return file.sounds[i].fault.isEmpty(); });
+    for (auto i = order.begin(); i != order.end(); ++i) {
+        SoundFileData::Sound& sound = file.sounds[*i];
+        const QString fault = placeFault(device, sound, places, wanted[*i], i < broken);
+        sound.fault = sound.fault.isEmpty() ? fault : sound.fault;
+        if (!sound.fault.isEmpty()) {
+            sound.broken = records[*i];
+        }
+    }
+    const bool isWhole =
+        std::all_of(file.sounds.cbegin(), file.sounds.cend(),
+                    [](const SoundFileData::Sound& sound) { return sound.broken.isEmpty(); });
+    if (!isWhole) {
+        file.rest = places.gaps();
+    }
+}
+
 }  // namespace
 
 bool SoundFileData::read(QIODevice* device, QString* error)
@@ -258,7 +298,6 @@ bool SoundFileData::read(QIODevice* device, QString* error)
     if (!readHead(device, &count, error)) {
         return false;
     }
-    Places places(HeadSize + quint64(count) * RecordSize, quint64(device->size()), streams);
     QVector<QByteArray> records;
     for (quint32 i = 0; i < count; ++i) {
         records.append(device->read(RecordSize));
@@ -267,34 +306,13 @@ bool SoundFileData::read(QIODevice* device, QString* error)
             return false;
         }
     }
-    sounds.resize(records.size());
-    // Sound records take their places first.
-    for (const bool forBroken : {false, true}) {
-        for (int i = 0; i < records.size(); ++i) {
-            const QByteArray& record = records[i];
-            Sound& sound = sounds[i];
-            sound.id = {numberAt<quint16>(record, GroupAt), numberAt<quint16>(record, NumberAt)};
-            sound.info.channels = numberAt<quint16>(record, ChannelsAt);
-            sound.info.bits = numberAt<quint16>(record, BitsAt);
-            sound.info.sampleRate = numberAt<qint32>(record, RateAt);
-            sound.info.frames = numberAt<qint32>(record, FramesAt);
-            const Stream stream = streamOf(record, sound.info);
-            const QString fault = recordFault(record, sound.info, stream);
-            if (fault.isEmpty() == forBroken) {
-                continue;
-            }
-            const QString other = placeFault(device, sound, places, stream);
-            sound.fault = fault.isEmpty() ? other : fault;
-            if (!sound.fault.isEmpty()) {
-                sound.broken = record;
-            }
-        }
+    QVector<Stream> wanted;
+    for (const QByteArray& record : qAsConst(records)) {
+        sounds.append(soundOf(record));
+        wanted.append(streamOf(record, sounds.last().info));
+        sounds.last().fault = recordFault(record, sounds.last().info, wanted.last());
     }
-    for (const Sound& sound : qAsConst(sounds)) {
-        if (!sound.broken.isEmpty() && sound.stream < 0) {
-            rest = places.gaps();
-        }
-    }
+    place(device, *this, records, wanted);
     return true;
 }
 

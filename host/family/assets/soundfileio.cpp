@@ -98,7 +98,6 @@ SoundFileData SoundFile::tables(QVector<SampleRef>* streams) const
 {
     SoundFileData data;
     QHash<const SampleData*, int> known;
-    bool keepsRest = false;
     for (const ItemPtr& item : items()) {
         const FamilySound::State& state = item->state;
         SoundFileData::Sound sound;
@@ -114,10 +113,9 @@ SoundFileData SoundFile::tables(QVector<SampleRef>* streams) const
                 streams->append(state.samples);
             }
         }
-        keepsRest = keepsRest || (!sound.broken.isEmpty() && sound.stream < 0);
         data.sounds.append(sound);
     }
-    for (const SampleRef& part : keepsRest ? m_rest : QVector<SampleRef>()) {
+    for (const SampleRef& part : brokenCount() > 0 ? m_rest : QVector<SampleRef>()) {
         data.rest.append(streamOf(*part.get()));
         streams->append(part);
     }

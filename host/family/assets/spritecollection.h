@@ -10,6 +10,7 @@
 namespace Family {
 
 class PixelStore;
+struct RemapItem;
 
 using SpriteListBase = AssetList<Zorv::Sprites, FamilySprite>;
 
@@ -21,6 +22,8 @@ using SpriteListBase = AssetList<Zorv::Sprites, FamilySprite>;
 /// by `release()`. Main thread only; `forEachImage()` unpacks on several.
 class SpriteCollection : public SpriteListBase
 {
+    Q_OBJECT
+
 public:
     ~SpriteCollection() override;
 
@@ -56,6 +59,9 @@ public:
     /// Shows the sprites of `addSprite()` in the list, as one step of undo.
     void refresh() override;
     void removeSprite(int index) override;
+
+    /// Removes several, in one step of undo.
+    void removeSprites(QVector<int> rows);
     void setCurrent(int index) override;
     unsigned count() const override { return unsigned(items().size()); }
     FamilySprite* sprite(int index) const override { return item(index); }
@@ -86,7 +92,6 @@ public:
     void release() override { delete this; }
 
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    Qt::ItemFlags flags(const QModelIndex& index) const override;
 
     /// For sprites and palettes: the store of pixels, and changes with undo.
     PixelStore* store() const { return m_store.get(); }
@@ -117,12 +122,15 @@ protected:
     /// modified.
     void take(Content&& content, bool asCopy);
     void setFileName(const QString& fileName) { m_fileName = fileName; }
+    void setClean() { m_history.setClean(); }
     const QVector<PixelRef>& keptPixels() const { return m_kept; }
 
 private:
     void listChanged(bool count) override;
+    void stateCame(const FamilySprite::State& state) override;
+    void stateWent(const FamilySprite::State& state) override;
     void stepDone();
-    void close();
+    void letGo();
 
     // Records die before the store of their pixels, and steps of undo hold records.
     std::unique_ptr<PixelStore> m_store;
@@ -132,9 +140,10 @@ private:
     QVector<PixelRef> m_kept;
     mutable QHash<quint32, int> m_rowOfId;  // the first of each
     mutable bool m_rowsKnown = false;
-    QHash<quint32, int> m_pendingIds;
+    QHash<quint32, int> m_ids;  // how many sprites have each, of the list and pending
     QStringList m_loadErrors;
     QString m_fileName;
+    FamilySprite* m_current = nullptr;  // that of currentIndex, which follows it
     bool m_changed = false;
     bool m_countChanged = false;
 };

@@ -2,6 +2,8 @@
 
 #include "assets/spritecollection.h"
 
+class QIODevice;
+
 namespace Family {
 
 /// A collection in a sprite file (`.sprites`, see docs/formats.md).
@@ -10,6 +12,8 @@ namespace Family {
 /// is written back byte by byte the same.
 class SpriteFile final : public SpriteCollection
 {
+    Q_OBJECT
+
 public:
     SpriteFile();
     ~SpriteFile() override;
@@ -18,6 +22,9 @@ public:
     /// failure, but `loadErrors()`.
     bool fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
+
+private:
+    bool readContent(QIODevice* device, Content* content, QString* error);
 };
 
 }  // namespace Family

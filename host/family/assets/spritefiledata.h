@@ -67,10 +67,9 @@ struct SpriteFileData
     static QByteArray readStream(QIODevice* device, const Stream& stream);
 
     /// Writes a whole file: sizes and checksums of streams as they stand, their offsets one behind
-    /// the other, and the bytes that `bytesOf` gives for the index of each. False, with `error`, if
+    /// the other, and the bytes that `bytesOf` gives for the index of each. False if
     /// bytes are missing or the device takes not all.
-    bool write(QIODevice* device, const std::function<QByteArray(int)>& bytesOf,
-               QString* error) const;
+    bool write(QIODevice* device, const std::function<QByteArray(int)>& bytesOf) const;
 };
 
 }  // namespace Family

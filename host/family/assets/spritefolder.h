@@ -10,6 +10,8 @@ namespace Family {
 /// removed are deleted last. Pixels stay in their files until they are shown.
 class SpriteFolder final : public SpriteCollection
 {
+    Q_OBJECT
+
 public:
     SpriteFolder();
     ~SpriteFolder() override;

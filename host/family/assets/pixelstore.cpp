@@ -1,0 +1,189 @@
+#include "assets/pixelstore.h"
+
+#include "cache/crc64.h"
+#include "cache/filecache.h"
+
+#include <QtEndian>
+
+#include <limits>
+
+namespace Family {
+
+namespace {
+
+constexpr int MostUnpacked = 64 * 1024 * 1024;  // bytes
+
+quint64 checksum(const QByteArray& bytes)
+{
+    return Zorv::crc64(reinterpret_cast<const unsigned char*>(bytes.constData()),
+                       unsigned(bytes.size()));
+}
+
+// What stands behind the rows in decoded bytes.
+quint64 tail(const PixelFormat& format)
+{
+    return quint64(format.size.width()) | quint64(format.size.height()) << 16 |
+           quint64(format.bits) << 32;
+}
+
+// The checksum of decoded bytes, from that of the rows alone. The first eight bytes of a text meet
+// the register as they are, so a register can be handed on as eight bytes.
+quint64 decodedChecksum(quint64 pixelCrc, const PixelFormat& format)
+{
+    if (pixelCrc == 0) {
+        return 0;
+    }
+    unsigned char bytes[8];
+    qToLittleEndian<quint64>(~(pixelCrc ^ tail(format)), bytes);
+    return Zorv::crc64(bytes, sizeof bytes);
+}
+
+QByteArray decodedBytes(const PixelFormat& format, QByteArray rows)
+{
+    if (!rows.isEmpty()) {
+        const quint64 end = qToLittleEndian(tail(format));
+        rows.append(reinterpret_cast<const char*>(&end), sizeof end);
+    }
+    return rows;
+}
+
+}  // namespace
+
+PixelStore::PixelStore()
+    : m_cache(Zorv::StreamCache::instance(Zorv::StreamCache::DefaultCache)),
+      m_files(std::make_unique<Zorv::FileCache>()), m_unpacked(MostUnpacked)
+{
+    for (Zorv::StreamCache* cache :
+         {m_cache.get(), static_cast<Zorv::StreamCache*>(m_files.get())}) {
+        connect(cache, &Zorv::StreamCache::readFilter, this, &PixelStore::unpack,
+                Qt::DirectConnection);
+    }
+}
+
+PixelStore::~PixelStore() = default;
+
+PixelRef PixelStore::adopt(const PixelFormat& format, const QByteArray& stream, quint64 pixelCrc,
+                           quint64 streamCrc)
+{
+    auto* data = new PixelData(this, m_cache.get());
+    data->format = format;
+    data->pixelCrc = pixelCrc;
+    data->streamCrc = streamCrc;
+    data->order = m_nextOrder++;
+    if (!stream.isEmpty()) {
+        data->fromData(stream, uchar(format.codec), data, decodedChecksum(pixelCrc, format));
+        m_byItem.insert(data->item, data);
+    }
+    return PixelRef(data);
+}
+
+PixelRef PixelStore::adoptFile(const PixelFormat& format, const QString& fileName, quint64 pixelCrc)
+{
+    auto* data = new PixelData(this, m_files.get(), fileName);
+    data->format = format;
+    data->pixelCrc = pixelCrc;
+    data->order = m_nextOrder++;
+    data->item->filterData = data;
+    data->item->crc = decodedChecksum(pixelCrc, format);
+    m_byItem.insert(data->item, data);
+    return PixelRef(data);
+}
+
+PixelRef PixelStore::add(const QImage& image)
+{
+    if (image.isNull() || image.width() > LargestSprite || image.height() > LargestSprite ||
+        qint64(image.width()) * image.height() * (image.depth() / 8) >
+            std::numeric_limits<int>::max() / 2) {
+        return {};
+    }
+    PixelFormat format{image.size(), image.depth(), PixelCodec::None};
+    const QByteArray rows = rowsOfImage(image);
+    for (Zorv::StreamCache* cache :
+         {m_cache.get(), static_cast<Zorv::StreamCache*>(m_files.get())}) {
+        if (PixelData* same = m_byItem.value(cache->find(decodedBytes(format, rows), nullptr))) {
+            ++same->refCount;
+            return PixelRef(same);
+        }
+    }
+    QByteArray stream;
+    format.codec = smallestCodec(format, rows, &stream);
+    return adopt(format, stream, checksum(rows), checksum(stream));
+}
+
+PixelRef PixelStore::recoded(PixelData* data, PixelCodec codec)
+{
+    PixelFormat format = data->format;
+    format.codec = codec;
+    const QByteArray pixels = rows(data);
+    const QByteArray stream = packPixels(format, pixels);
+    return stream.isEmpty() ? PixelRef()
+                            : adopt(format, stream, checksum(pixels), checksum(stream));
+}
+
+QByteArray PixelStore::stream(const PixelData* data) const
+{
+    return data->item ? data->toData(true) : QByteArray();
+}
+
+QByteArray PixelStore::rows(const PixelData* data)
+{
+    if (const QByteArray* known = m_unpacked.object(data)) {
+        return *known;
+    }
+    const QByteArray pixels = PackedPixels(*data).rows();
+    if (!pixels.isEmpty()) {
+        m_unpacked.insert(data, new QByteArray(pixels), pixels.size());
+    }
+    return pixels;
+}
+
+void PixelStore::forget(const PixelData* data)
+{
+    m_unpacked.remove(data);
+}
+
+void PixelStore::takeIn(PixelData* data)
+{
+    const QByteArray bytes = stream(data);
+    m_byItem.remove(data->item);
+    data->reset();
+    data->cache = m_cache.get();
+    data->fromData(bytes, uchar(data->format.codec), data,
+                   decodedChecksum(data->pixelCrc, data->format));
+    m_byItem.insert(data->item, data);
+}
+
+void PixelStore::unpack(unsigned char, void* filterData, const QByteArray& source,
+                        QByteArray& target)
+{
+    const auto* data = static_cast<const PixelData*>(filterData);
+    if (data && data->record.isEmpty()) {
+        target = decodedBytes(data->format, unpackPixels(data->format, source));
+    }
+}
+
+void PixelStore::gone(PixelData* data)
+{
+    m_byItem.remove(data->item);
+    m_unpacked.remove(data);
+}
+
+PackedPixels::PackedPixels(const PixelData& data) : format(data.format)
+{
+    if (data.record.isEmpty() && data.item) {
+        stream = data.toData(true);
+        streamCrc = data.streamCrc;
+        pixelCrc = data.pixelCrc;
+    }
+}
+
+QByteArray PackedPixels::rows() const
+{
+    if (streamCrc != 0 && checksum(stream) != streamCrc) {
+        return {};
+    }
+    const QByteArray pixels = unpackPixels(format, stream);
+    return pixelCrc != 0 && checksum(pixels) != pixelCrc ? QByteArray() : pixels;
+}
+
+}  // namespace Family

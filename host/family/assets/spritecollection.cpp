@@ -1,0 +1,357 @@
+#include "assets/spritecollection.h"
+
+#include "assets/pixelstore.h"
+#include "assets/remapmodel.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace Family {
+
+namespace {
+
+AssetId next(AssetId id)
+{
+    return AssetId::fromKey(id.key() + 1);
+}
+
+// Pixels that stay in the file are let go, or come back.
+struct KeptChange final : AssetHistory::Change
+{
+    explicit KeptChange(QVector<PixelRef>* list) : kept(list) {}
+    void undo() override { kept->swap(other); }
+    void redo() override { kept->swap(other); }
+
+    QVector<PixelRef>* kept;
+    QVector<PixelRef> other;
+};
+
+}  // namespace
+
+SpriteCollection::Content::Content() = default;
+
+SpriteCollection::Content::~Content() = default;
+
+SpriteCollection::SpriteCollection()
+    : SpriteListBase(&m_history), m_store(std::make_unique<PixelStore>()),
+      m_history([this] { stepDone(); }), m_palettes(std::make_unique<PaletteList>(this))
+{
+    setCache(m_store->cache());
+}
+
+SpriteCollection::~SpriteCollection()
+{
+    letGo();
+    dropItems();
+}
+
+// Lets go of pixels in all places but the list.
+void SpriteCollection::letGo()
+{
+    m_pending.clear();
+    m_history.clear();
+    m_kept.clear();
+}
+
+int SpriteCollection::brokenCount() const
+{
+    const auto isBroken = [](const auto& item) { return !item->state.record.isEmpty(); };
+    const auto& palettes = m_palettes->items();
+    const auto& remaps = m_palettes->remaps()->items();
+    return int(std::count_if(items().begin(), items().end(),
+                             [](const ItemPtr& sprite) { return !sprite->fault().isEmpty(); }) +
+               std::count_if(palettes.begin(), palettes.end(), isBroken) +
+               std::count_if(remaps.begin(), remaps.end(), isBroken)) +
+           m_kept.size();
+}
+
+void SpriteCollection::removeBroken()
+{
+    const AssetHistory::Step step(m_history, tr("Remove broken records"));
+    for (int row = items().size() - 1; row >= 0; --row) {
+        if (!item(row)->fault().isEmpty()) {
+            removeItems(row, 1);
+        }
+    }
+    m_palettes->removeBroken();
+    m_palettes->remaps()->removeBroken();
+    if (!m_kept.isEmpty()) {
+        auto change = std::make_unique<KeptChange>(&m_kept);
+        change->redo();
+        m_history.record(std::move(change));
+    }
+}
+
+bool SpriteCollection::contains(AssetId id) const
+{
+    return m_ids.contains(id.key());
+}
+
+int SpriteCollection::find(int from, const QVariant& id) const
+{
+    AssetId wanted;
+    if (!AssetId::read(id, &wanted) || !contains(wanted)) {
+        return -1;
+    }
+    if (!m_rowsKnown) {
+        m_rowOfId.clear();
+        m_rowOfId.reserve(items().size());
+        for (int row = items().size() - 1; row >= 0; --row) {
+            m_rowOfId.insert(item(row)->id().key(), row);
+        }
+        m_rowsKnown = true;
+    }
+    int row = m_rowOfId.value(wanted.key(), -1);
+    if (row >= 0 && row < from) {
+        for (row = from; row < items().size() && item(row)->id() != wanted;) {
+            ++row;
+        }
+    }
+    return row < items().size() ? row : -1;
+}
+
+FamilySprite* SpriteCollection::byId(AssetId id) const
+{
+    return item(find(0, id.text()));
+}
+
+AssetId SpriteCollection::freeId(AssetId from) const
+{
+    while (m_ids.contains(from.key())) {
+        from = next(from);
+    }
+    return from;
+}
+
+FamilySprite* SpriteCollection::insertSprite(int row, AssetId id, QPoint axis, const QImage& image)
+{
+    const AssetHistory::Step step(m_history, tr("Add sprite"));
+    auto sprite = std::make_shared<FamilySprite>(this);
+    sprite->state.id = id;
+    sprite->setAxis(axis);
+    sprite->setImage(image);
+    if (!sprite->state.pixels) {
+        return nullptr;
+    }
+    insertItems(qBound(0, row + 1, items().size()), {sprite});
+    return sprite.get();
+}
+
+void SpriteCollection::refresh()
+{
+    if (m_pending.isEmpty()) {
+        return;
+    }
+    const QVector<ItemPtr> added = std::exchange(m_pending, {});
+    for (const ItemPtr& sprite : added) {
+        SpriteCollection::stateWent(sprite->state);
+    }
+    insertItems(items().size(), added);
+    m_history.end();
+}
+
+FamilySprite* SpriteCollection::addSprite()
+{
+    if (m_pending.isEmpty()) {
+        m_history.begin(tr("Add sprites"));
+    }
+    auto sprite = std::make_shared<FamilySprite>(this);
+    const FamilySprite* last =
+        !m_pending.isEmpty() ? m_pending.last().get() : item(items().size() - 1);
+    sprite->state.id = last ? freeId(next(last->id())) : AssetId();
+    m_pending.append(sprite);
+    stateCame(sprite->state);
+    return sprite.get();
+}
+
+void SpriteCollection::removeSprite(int index)
+{
+    if (item(index)) {
+        const AssetHistory::Step step(m_history, tr("Delete sprite"));
+        removeItems(index, 1);
+    }
+}
+
+void SpriteCollection::removeSprites(QVector<int> rows)
+{
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    const AssetHistory::Step step(m_history, tr("Delete sprites"));
+    for (int last = rows.size(); last > 0;) {
+        int first = last - 1;
+        while (first > 0 && rows[first - 1] == rows[first] - 1) {
+            --first;
+        }
+        if (item(rows[first]) && item(rows[last - 1])) {
+            removeItems(rows[first], last - first);
+        }
+        last = first;
+    }
+}
+
+void SpriteCollection::setCurrent(int index)
+{
+    currentIndex = index;
+    m_current = items().value(index).get();
+}
+
+void SpriteCollection::beginChange(const QString& title)
+{
+    m_history.begin(title);
+}
+
+void SpriteCollection::endChange()
+{
+    m_history.end();
+}
+
+void SpriteCollection::undo()
+{
+    refresh();
+    m_history.undo();
+}
+
+void SpriteCollection::redo()
+{
+    refresh();
+    m_history.redo();
+}
+
+void SpriteCollection::move(unsigned from, unsigned to)
+{
+    const AssetHistory::Step step(m_history, tr("Move sprite"));
+    moveItem(int(from), int(to));
+}
+
+void SpriteCollection::remove(unsigned index)
+{
+    removeSprite(int(index));
+}
+
+void SpriteCollection::autoOrganize()
+{
+    QVector<int> order(items().size());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_sort(order.begin(), order.end(),
+                     [this](int a, int b) { return item(a)->id() < item(b)->id(); });
+    const AssetHistory::Step step(m_history, tr("Sort sprites"));
+    reorderItems(order);
+    m_palettes->autoOrganize();
+}
+
+bool SpriteCollection::isEmpty() const
+{
+    return items().isEmpty() && m_palettes->count() == 0 && m_palettes->remaps()->rowCount() == 0;
+}
+
+void SpriteCollection::reset()
+{
+    Content content;
+    content.store = std::make_unique<PixelStore>();
+    take(std::move(content), false);
+    m_fileName.clear();
+}
+
+QVariant SpriteCollection::data(const QModelIndex& index, int role) const
+{
+    const FamilySprite* sprite = index.model() == this ? item(index.row()) : nullptr;
+    if (!sprite) {
+        return {};
+    }
+    if (role == Qt::DisplayRole) {
+        return sprite->id().text();
+    }
+    if (role != Qt::ToolTipRole) {
+        return {};
+    }
+    const QString fault = sprite->fault();
+    return fault.isEmpty() ? tr("%1 x %2 pixels, %3")
+                                 .arg(sprite->size().width())
+                                 .arg(sprite->size().height())
+                                 .arg(codecName(sprite->codec()))
+                           : tr("Broken: %1").arg(fault);
+}
+
+void SpriteCollection::change(FamilySprite* sprite, const FamilySprite::State& state)
+{
+    const auto isThis = [sprite](const ItemPtr& other) { return other.get() == sprite; };
+    if (sprite->row < 0 && std::any_of(m_pending.rbegin(), m_pending.rend(), isThis)) {
+        stateWent(sprite->state);
+        stateCame(state);
+    }
+    changeItem(sprite, state);
+}
+
+void SpriteCollection::insertBehind(const FamilySprite* sprite, const QVector<ItemPtr>& added)
+{
+    refresh();
+    insertItems(sprite->row < 0 ? items().size() : sprite->row + 1, added);
+}
+
+void SpriteCollection::shownChanged()
+{
+    m_changed = true;
+    if (!items().isEmpty()) {
+        tellRows(0, items().size() - 1);
+    }
+}
+
+void SpriteCollection::take(Content&& content, bool asCopy)
+{
+    letGo();
+    // The old pixels need their store until the last of them has gone.
+    const std::unique_ptr<PixelStore> old = std::exchange(m_store, std::move(content.store));
+    setCache(m_store->cache());
+    m_kept = content.kept;
+    m_loadErrors = content.errors;
+    m_current = nullptr;
+    currentIndex = content.sprites.isEmpty() ? -1 : 0;
+    resetItems(content.sprites);
+    m_palettes->reset(content.palettes);
+    m_palettes->remaps()->reset(content.remaps);
+    m_changed = m_countChanged = false;
+    m_palettes->flush();
+    emit changed(true);
+    if (asCopy) {
+        m_history.setDirty();
+        emit modified();
+    }
+}
+
+void SpriteCollection::listChanged(bool count)
+{
+    m_changed = true;
+    m_countChanged |= count;
+    m_rowsKnown = false;
+    if (m_current && m_current->row >= 0) {
+        currentIndex = m_current->row;
+    } else if (currentIndex >= items().size()) {
+        currentIndex = items().size() - 1;
+    }
+    m_current = item(currentIndex);
+}
+
+void SpriteCollection::stateCame(const FamilySprite::State& state)
+{
+    ++m_ids[state.id.key()];
+}
+
+void SpriteCollection::stateWent(const FamilySprite::State& state)
+{
+    if (--m_ids[state.id.key()] == 0) {
+        m_ids.remove(state.id.key());
+    }
+}
+
+void SpriteCollection::stepDone()
+{
+    m_palettes->flush();
+    const bool count = m_countChanged;
+    if (std::exchange(m_changed, false)) {
+        m_countChanged = false;
+        emit changed(count);
+    }
+    emit modified();
+}
+
+}  // namespace Family
