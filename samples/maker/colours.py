@@ -27,7 +27,7 @@ def ramp(colour, count, dark=0.30, light=1.12):
             blue = (1 - part) * 0.30
             shades.append([c * strength * (1 - blue) + s * blue for c, s in zip(colour, SHADE)])
         else:
-            shades.append([min(255, c * light * 0.72 + g * 0.28) for c, g in zip(colour, GLOW)])
+            shades.append([min(255, c * light * 0.84 + g * 0.16) for c, g in zip(colour, GLOW)])
     return [tuple(int(c + 0.5) for c in shade) + (255,) for shade in shades]
 
 

@@ -47,8 +47,9 @@ def figures(fighter):
     tables = pose_tables(fighter)
     drawn = {}
     for (group, number), frame in first_frames(fighter).items():
-        pose = pose_of(fighter.BODY, frame, tables[group][number])
+        look = LOOKS[fighter.FOLDER]
+        pose = pose_of(fighter.BODY, frame, tables[group][number], look.build)
         key = repr(pose)
         if key not in drawn:
-            drawn[key] = draw(pose, LOOKS[fighter.FOLDER])
+            drawn[key] = draw(pose, look)
         yield (group, number), drawn[key]

@@ -220,6 +220,9 @@ ARCS = {"kick": (1.3, 9), "heel": (-1.6, 10), "hammer": (-1.8, 13), "bell": (-1.
 def arc(canvas, colours, kind, pivot, end):
     """The trace of a limb that turned around a pivot and is now at its end."""
     back, width = ARCS[kind]
+    if kind == "kick" and end[1] > -24:  # a sweep draws its trace along the floor
+        crescent(canvas, (pivot[0], -12), end[0] - pivot[0], 2.4, 0.1, 7, colours, 0.12)
+        return
     angle = direction(pivot, end)
     crescent(canvas, pivot, distance(pivot, end) + 2, angle + back, angle, width, colours)
 

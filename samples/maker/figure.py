@@ -124,11 +124,10 @@ def turn_all(j, pose, build):
 def sink(j, build):
     """Moves all down or up until the lowest part lies on the floor."""
     low = max([j.head[1] + build.head_radius, j.pelvis[1] + build.lying, j.spine(0.75)[1]
-               + build.lying] + [p[1] + 4 for p in (*j.ankles.values(), *j.knees.values(),
-                                                    *j.hands.values(), *j.elbows.values())])
+               + build.lying] + [p[1] + 4 for p in (*j.ankles.values(), *j.knees.values())])
 
     def moved(point):
-        return point[0], point[1] - low
+        return point[0], min(-3, point[1] - low)  # what hangs lower lies on the floor as well
 
     j.head, j.neck, j.pelvis = moved(j.head), moved(j.neck), moved(j.pelvis)
     for places in (j.shoulders, j.elbows, j.hands, j.hips, j.knees, j.ankles):
@@ -199,6 +198,8 @@ class Painter:
         for number, (length, radius) in enumerate(zip(lengths, radii[1:])):
             angle = pi / 2 + sway * 1.25 * heavy + 0.16 * number * (sway + 0.25) + spread
             x, y = x + cos(angle) * length, y + sin(angle) * length
+            if self.pose.ground:
+                y = min(y, -radius)
             points.append((x, y, radius))
         self.canvas.chain(points, ramp, bias)
         return points

@@ -28,24 +28,25 @@ class Build:
 
 # Pixels of a face: near eye, far eye, brows and mouth, from the middle of the head.
 FACES = {
-    "calm": [(2, 0, LINE), (3, 0, LINE), (4, 0, LINE), (3, 1, LINE), (3, 2, DEEP), (4, 1, WHITE),
-             (2, 1, WHITE), (7, 0, LINE), (8, 0, LINE), (7, 1, LINE), (7, 2, DEEP), (8, 1, WHITE),
-             (5, 6, SKIN[0]), (6, 6, SKIN[0])],
-    "fierce": [(2, -1, LINE), (3, 0, LINE), (4, 0, LINE), (3, 1, LINE), (4, 1, WHITE),
-               (2, 1, WHITE), (3, 2, DEEP), (7, 0, LINE), (8, -1, LINE), (7, 1, LINE),
-               (8, 1, WHITE), (5, 6, DEEP), (6, 6, DEEP), (7, 6, SKIN[0])],
-    "shout": [(2, -1, LINE), (3, 0, LINE), (4, 0, LINE), (3, 1, LINE), (4, 1, WHITE),
-              (7, 0, LINE), (8, -1, LINE), (7, 1, LINE), (5, 5, LINE), (6, 5, LINE),
-              (4, 6, LINE), (5, 6, SASH[1]), (6, 6, SASH[1]), (7, 6, LINE), (5, 7, LINE),
-              (6, 7, LINE)],
-    "hurt": [(2, 0, LINE), (3, 1, LINE), (4, 1, LINE), (2, 2, LINE), (7, 1, LINE), (8, 0, LINE),
-             (8, 2, LINE), (5, 5, LINE), (6, 5, LINE), (5, 6, WHITE), (6, 6, WHITE),
-             (4, 6, LINE), (7, 6, LINE)],
-    "closed": [(2, 1, LINE), (3, 2, LINE), (4, 2, LINE), (7, 2, LINE), (8, 1, LINE),
-               (5, 6, SKIN[0]), (6, 6, SKIN[0])],
-    "laugh": [(2, 2, LINE), (3, 1, LINE), (4, 2, LINE), (7, 1, LINE), (8, 2, LINE),
-              (4, 5, LINE), (5, 5, WHITE), (6, 5, WHITE), (7, 5, LINE), (5, 6, SASH[1]),
-              (6, 6, SASH[1]), (5, 7, LINE), (6, 7, LINE)],
+    "calm": [(2, 0, LINE), (3, 0, LINE), (4, 0, LINE), (3, 1, LINE), (3, 2, DEEP), (2, 1, WHITE),
+             (4, 1, WHITE), (6, 0, LINE), (7, 0, LINE), (7, 1, LINE), (7, 2, DEEP), (6, 1, WHITE),
+             (5, 6, SKIN[0]), (6, 6, SKIN[1])],
+    "fierce": [(1, -1, LINE), (2, -1, LINE), (3, 0, LINE), (4, 0, LINE), (3, 1, LINE),
+               (2, 0, WHITE), (2, 1, WHITE), (4, 1, WHITE), (6, 0, LINE), (7, -1, LINE),
+               (7, 0, LINE), (7, 1, LINE), (6, 1, WHITE), (4, 6, SKIN[1]), (5, 6, DEEP),
+               (6, 6, DEEP)],
+    "shout": [(1, -1, LINE), (2, -1, LINE), (3, 0, LINE), (4, 0, LINE), (3, 1, LINE),
+              (2, 0, WHITE), (2, 1, WHITE), (4, 1, WHITE), (6, 0, LINE), (7, -1, LINE),
+              (7, 0, LINE), (7, 1, LINE), (6, 1, WHITE), (4, 5, LINE), (5, 5, WHITE),
+              (6, 5, WHITE), (4, 6, LINE), (5, 6, SKIN[0]), (6, 6, LINE), (5, 7, LINE)],
+    "hurt": [(1, -1, LINE), (2, 0, LINE), (3, 1, LINE), (4, 1, LINE), (2, 2, LINE), (7, 0, LINE),
+             (6, 1, LINE), (7, 2, LINE), (4, 5, LINE), (5, 5, LINE), (6, 5, LINE), (5, 6, WHITE),
+             (4, 6, WHITE), (6, 6, LINE), (3, 6, SKIN[0])],
+    "closed": [(2, 1, LINE), (3, 2, LINE), (4, 1, LINE), (6, 1, LINE), (7, 2, LINE),
+               (5, 6, SKIN[0]), (4, 6, SKIN[1])],
+    "laugh": [(2, 2, LINE), (3, 1, LINE), (4, 2, LINE), (6, 1, LINE), (7, 2, LINE),
+              (3, 5, LINE), (4, 5, WHITE), (5, 5, WHITE), (6, 5, WHITE), (4, 6, SKIN[0]),
+              (5, 6, SKIN[0]), (4, 7, LINE), (5, 7, LINE)],
 }
 
 
@@ -73,6 +74,17 @@ class Fighter(Painter):
             effects.crest(self.canvas, STEEL, 12, 76, 58 + (0, 4, -2)[number], number, 31 + number)
         elif kind == "sea":
             self.sea(values[0])
+        elif kind == "stars":
+            self.stars(values[0])
+
+    def stars(self, number):
+        """What a dizzy head sees."""
+        x, y = self.head_point(0, -15)
+        for star in range(3):
+            angle = (number / 3 + star) * 2 * pi / 3
+            px, py = x + cos(angle) * 13, y + sin(angle) * 4
+            for dx, dy in ((0, 0), (1, 0), (-1, 0), (0, 1), (0, -1)):
+                self.canvas.put(px + dx, py + dy, WHITE if dx == dy else STEEL[2])
 
     def sea(self, number):
         """Water that turns around the figure and strikes to the front."""
@@ -89,22 +101,22 @@ class Maren(Fighter):
     def hair_behind(self):
         canvas = self.canvas
         canvas.begin()
-        start = self.head_point(-7, 2)
-        points = self.trail(start, (5, 5, 5, 5, 4, 4), (3.4, 3.2, 3.0, 2.8, 2.4, 1.9, 1.2), HAIR,
-                            bias=-0.4, spread=0.35)
-        for (x, y, radius), (x1, y1, _) in list(zip(points, points[1:]))[:5]:
-            canvas.line(mixed((x, y), (x1, y1), 0.5), (x1 + radius * 0.6, y1 - 1), HAIR[0])
-        x, y, _ = points[5]
-        canvas.capsule((x, y), 2.1, (x, y + 1), 1.9, SASH)
         self.scarf_tail()
+        canvas.begin()
+        points = self.trail(self.head_point(-6.5, 3), (4, 5, 5, 5, 5, 5, 4),
+                            (3.2, 3.6, 3.2, 3.3, 3.0, 2.8, 2.3, 1.2), HAIR, spread=0.42)
+        for (x, y, radius), (x1, y1, _) in list(zip(points, points[1:]))[1:6]:
+            # The strands of the braid cross at each knot.
+            canvas.line((x - radius * 0.6, y + 1), (x1 + radius * 0.3, y1 - 2), HAIR[0])
+            canvas.put(x + 0.5, y + 2, HAIR[3])
+        x, y, _ = points[6]
+        canvas.capsule((x, y), 2.2, (x, y + 1), 2.0, SASH)
 
     def scarf_tail(self):
-        self.canvas.begin()
         x, y = self.j.neck
         start = x - self.j.front[0] * 4, y - self.j.front[1] * 4
-        self.trail(start, (6, 6, 5), (2.6, 2.8, 2.6, 1.6), SASH, heavy=1.15, bias=-0.8, spread=0.5)
         self.canvas.begin()
-        self.trail(start, (6, 6, 6), (2.6, 2.8, 2.8, 1.4), SASH, heavy=1.3, spread=0.85)
+        self.trail(start, (6, 6, 6), (2.4, 2.6, 2.6, 1.3), SASH, heavy=1.3, spread=0.95)
 
     def arm(self, side):
         canvas, j, bias = self.canvas, self.j, self.bias(side)
@@ -187,15 +199,20 @@ class Maren(Fighter):
         canvas.capsule(self.head_point(2.4, 3), 5.6, self.head_point(4.4, 6.4), 3.2, SKIN, 0.4)
         self.head_pixels([(9, 3, SKIN[3]), (8, 3, SKIN[4]), (9, 4, SKIN[1]), (3, 4, SKIN[2]),
                           (4, 4, SKIN[2])])
-        self.head_polygon([(-6, -4), (4.5, -4.5), (2.5, -1.5), (0.8, 0.2), (0.2, 4.2), (-1.4, 7),
-                           (-4.4, 8.4), (-7.4, 5), (-8.4, 0)], HAIR[2])
-        self.head_polygon([(-6, -4), (0, -4.5), (-1, 0), (-3, 6.5), (-5.4, 7.2), (-8, 3)], HAIR[1])
-        self.head_polygon([(3.5, -4.5), (9.2, -4), (8.2, -1.2), (6.2, -2.4)], HAIR[2])
-        self.head_pixels([(-1, -1, HAIR[3]), (-1, 0, HAIR[3]), (-2, 1, HAIR[3]), (1, -2, HAIR[3]),
-                          (2, -3, HAIR[3]), (-2, 2, HAIR[3])])
-        self.head_pixels([(-2, 3, SKIN[2]), (-1, 3, SKIN[3]), (-2, 4, SKIN[1]), (-1, 4, SKIN[2])])
+        self.head_polygon([(-6, -4), (4.5, -4.5), (2.5, -1.5), (0.4, 0.2), (-0.4, 4.2), (-1.8, 7),
+                           (-4.4, 8.4), (-7.4, 5), (-8.4, 0)], self.strand)
+        self.head_polygon([(3.5, -4.5), (8.8, -4), (7.6, -1.4), (6.0, -2.6)], HAIR[2])
+        self.head_pixels([(5, -3, HAIR[3]), (6, -3, HAIR[3]), (-2, 3, SKIN[3]), (-1, 3, SKIN[3]),
+                          (-2, 4, SKIN[1]), (-1, 4, SKIN[2])])
         self.head_pixels(FACES[self.pose.face])
         self.cap()
+
+    def strand(self, x, y):
+        """Hair that falls to the back, in locks."""
+        u, v = turned((x + 0.5, y + 0.5), -self.j.tilt, self.j.head)
+        u, v = u - self.j.head[0], v - self.j.head[1]
+        lock = int(u + 0.45 * v + 40) % 5
+        return HAIR[(1, 2, 2, 3, 2)[lock] if v < 4.5 else (0, 1, 2, 2, 1)[lock]]
 
     def cap(self):
         self.canvas.begin()
@@ -294,7 +311,9 @@ class Iwao(Fighter):
         canvas.chain([(*shoulder, 7.6), (*mixed(shoulder, elbow, 0.5), 7.2), (*elbow, 5.6)], SKIN,
                      bias)
         canvas.begin()
-        canvas.chain([(*shoulder, 8.4), (*mixed(shoulder, elbow, 0.22), 8.2)], COAT, bias)
+        canvas.capsule(mixed(shoulder, elbow, 0.2), 8.4, mixed(shoulder, elbow, 0.34), 8.0, SASH,
+                       bias)
+        canvas.chain([(*shoulder, 8.5), (*mixed(shoulder, elbow, 0.24), 8.3)], COAT, bias - 0.2)
 
     def leg(self, side):
         canvas, j, bias = self.canvas, self.j, self.bias(side)
@@ -305,7 +324,7 @@ class Iwao(Fighter):
         canvas.begin()
         low = mixed(knee, ankle, 0.45)
         canvas.chain([(*hip, 10.2), (*mixed(hip, knee, 0.5), 10.4), (*knee, 9.2), (*low, 8.2)],
-                     CLOTH, bias)
+                     CLOTH, bias - 0.3)
         canvas.capsule(low, 6.6, mixed(knee, ankle, 0.6), 6.0, CLOTH, bias - 0.6)
 
     def trunk(self):

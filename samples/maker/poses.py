@@ -8,6 +8,7 @@ from math import cos, pi, sin
 
 from .body import POSTURES
 from .figure import Pose
+from .raster import distance
 
 ARMS = {
     "fight": ((19, 7), (9, 14)),
@@ -46,6 +47,9 @@ ARMS = {
     "wave1": ((8, 26), (10, -24)),
     "wave2": ((8, 26), (-4, -28)),
     "limp": ((14, 28), (-4, 32)),
+    "lie": ((16, 14), (2, 26)),
+    "lie up": ((16, -16), (4, -20)),
+    "lie wide": ((22, 4), (-2, 8)),
 }
 
 LEGS = {
@@ -104,7 +108,7 @@ def blend(a, b, t):
 
 
 HURT = dict(face="hurt")
-LYING = dict(turn=-90, ground=True, face="closed", posture="stand", sway=0)
+LYING = dict(turn=-90, ground=True, aside=13, face="closed", posture="stand", sway=0)
 
 # The sprites that every fighter has, by group and number.
 COMMON = {
@@ -166,32 +170,33 @@ COMMON = {
          look("up", "loose", limp=True, tilt=-30, sway=0.3, **HURT)],
     58: [look("up", "loose", limp=True, tilt=-26, sway=0.4, **HURT),
          look("trail up", "loose", limp=True, tilt=-30, sway=0.6, **HURT)],
-    59: [look("wide", ((1.4, 26), (0.6, 20)), **dict(LYING, face="hurt")),
-         look("trail up", ((1.8, 18), (1.0, 10)), **dict(LYING, face="hurt"), rise=6),
-         look("up", ((1.2, 8), (0.2, 2)), **dict(LYING, face="hurt"), rise=3),
-         look("flail1", ((0.9, 6), (-0.2, 0)), **LYING)],
-    60: [look("wide", ((1.2, 12), (0.2, 0)), **LYING), look("flail1", ((0.9, 6), (-0.2, 0)),
+    59: [look("lie wide", ((1.4, 26), (0.6, 20)), **dict(LYING, face="hurt")),
+         look("lie up", ((1.8, 18), (1.0, 10)), **dict(LYING, face="hurt")),
+         look("lie up", ((1.2, 8), (0.2, 2)), **dict(LYING, face="hurt")),
+         look("lie", ((0.9, 6), (-0.2, 0)), **LYING)],
+    60: [look("lie wide", ((1.2, 12), (0.2, 0)), **LYING), look("lie", ((0.9, 6), (-0.2, 0)),
          **LYING)],
-    61: [look("belly", ((1.2, 14), (0.6, 8)), **dict(LYING, face="hurt")),
+    61: [look("lie", ((1.2, 14), (0.6, 8)), **dict(LYING, face="hurt")),
          look("hips", "sit", posture="crouch", hip=(-8, 13), face="hurt", chest=(-10, 12)),
          look("rest", "kneel", posture="crouch", hip=(-2, 6), face="fierce", chest=(4, 2)),
          look("low", "crouch", face="fierce"), look("low"), look()],
     62: [look("flail", ((1.2, 8), (0.4, 0)), posture="rise", lean=-6, tilt=-10, **HURT),
          look("tuck", "ball", ball=True, sway=0.8, face="fierce"), look("wide", "rise1"),
          look("wide", "fall", sway=0.5)],
-    63: [look("limp", "wide", tilt=-8, face="closed"), look("limp", "wide", tilt=2, face="hurt"),
-         look("limp", "wide", tilt=12, face="closed")],
+    63: [look("limp", "wide", tilt=-8, face="closed", props=(("stars", 0),)),
+         look("limp", "wide", tilt=2, face="hurt", props=(("stars", 1),)),
+         look("limp", "wide", tilt=12, face="closed", props=(("stars", 2),))],
     64: [look("limp", "wide", tilt=-12, **HURT), look("limp", "wide", tilt=-24, **HURT),
          look("limp", "kneel", tilt=-14, face="closed"),
-         look("flail1", ((0.9, 6), (-0.2, 0)), **LYING)],
+         look("lie", ((0.9, 6), (-0.2, 0)), **LYING)],
     65: [look("throat", "close", tilt=-14, **HURT), look("throat", ((0.5, 4), (-0.3, 6)),
          tilt=-20, **HURT)],
     66: [look("wide", "loose", limp=True, tilt=-20, sway=0.5, **HURT),
-         look("flail1", ((0.9, 6), (-0.2, 0)), **LYING)],
+         look("lie", ((0.9, 6), (-0.2, 0)), **LYING)],
 }
 
 
-def pose_of(body, frame, spec):
+def pose_of(body, frame, spec, build):
     """The pose of a sprite from the frame that shows it first and its row of a table."""
     posture, lean, _, _ = frame.pose
     posture = spec.get("posture", posture)
@@ -218,21 +223,44 @@ def pose_of(body, frame, spec):
     head = shifted(head, spec.get("chest", (0, 0)), unit)
     far, near = hands(spec, neck, unit)
     far_foot, near_foot = soles(spec, feet, body.stride, unit)
+    if "aside" in spec:
+        far, near, far_foot, near_foot, head, neck, pelvis = (
+            shifted(each, (spec["aside"], 0), unit)
+            for each in (far, near, far_foot, near_foot, head, neck, pelvis))
+    if in_pixels(spec, "legs", LEGS):
+        pelvis, moved = strained(pelvis, near_foot, build.thigh + build.shin + 3)
+        neck, head = (neck[0] + moved * 0.5, neck[1]), (head[0] + moved * 0.3, head[1])
+    if spec.get("strain"):
+        reach = max(near, far, key=lambda hand: abs(hand[0] - neck[0]))
+        out = build.shoulder * abs(spec.get("twist", 1))
+        neck, moved = strained(neck, reach, build.upper + build.fore + out)
+        pelvis, head = (pelvis[0] + moved * 0.4, pelvis[1]), (head[0] + moved * 0.6, head[1])
     return Pose(head, neck, pelvis, near, far, near_foot, far_foot, **options(spec))
+
+
+def in_pixels(spec, limbs, table):
+    return not isinstance(spec[limbs], str) and any(len(each) == 3 for each in spec[limbs])
+
+
+def strained(start, end, length):
+    """The start moved across as far as a limb is too short, but not by much."""
+    moved = max(0, min(14, distance(start, end) - length))
+    moved = moved if end[0] > start[0] else -moved
+    return (start[0] + moved, start[1]), moved
 
 
 def curled(body, spec):
     """Around the axis, which is the middle of the body: for what is turned in the air."""
     unit = body.height / 100
     tight = bool(spec.get("ball"))
-    neck = (8 * unit, -15 * unit) if tight else (-2 * unit, -20 * unit)
-    head = (13 * unit, -21 * unit) if tight else (0, -31 * unit)
-    pelvis = (-9 * unit, 9 * unit) if tight else (-4 * unit, 10 * unit)
+    neck = (8 * unit, -15 * unit) if tight else (-6 * unit, -26 * unit)
+    head = (13 * unit, -21 * unit) if tight else (-6 * unit, -37 * unit)
+    pelvis = (-9 * unit, 9 * unit) if tight else (0, 3 * unit)
     if tight:
         near_foot, far_foot = (8 * unit, 23 * unit), (11 * unit, 20 * unit)
         near, far = (12 * unit, 9 * unit), (15 * unit, 6 * unit)
     else:
-        near_foot, far_foot = (4 * unit, 48 * unit), (12 * unit, 44 * unit)
+        near_foot, far_foot = (6 * unit, 42 * unit), (14 * unit, 35 * unit)
         far, near = hands(spec, neck, unit)
     more = options(spec)
     if tight:

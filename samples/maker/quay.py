@@ -218,16 +218,19 @@ LINE_OF = (STONE[0], 2)
 def wave(number):
     """The water of the harbour; 128 wide, so that it repeats."""
     canvas = sheet(128, 56)
+    turn = number * pi / 3
     for y in range(56):
         near = y / 55
+        depth = 26 / (0.18 + near)  # rows of waves grow toward the onlooker
         for x in range(128):
             t = x / 128 * 2 * pi
-            swell = sin(t * 3 + number * pi / 3 + y * 0.55) + 0.6 * sin(t * 7 - number * pi / 3
-                                                                        + y * 0.9)
-            value = 4.4 - 3.4 * near ** 0.6 + 0.62 * swell * (0.5 + near)
-            canvas.pixels[y * 128 + x] = SEA[max(0, min(5, dithered(value, x, y)))]
-            if swell > 1.42 - 0.25 * near:
-                canvas.pixels[y * 128 + x] = SEA[5] if near < 0.5 else SEA[4]
+            swell = (sin(depth * 1.7 + sin(t * 2 + depth) * 1.3 + turn)
+                     + 0.7 * sin(depth * 0.9 - turn + 1.6 * sin(t * 3 - depth * 0.7))
+                     + 0.35 * sin(t * 5 + depth * 2.3 + turn))
+            value = 4.3 - 3.3 * near ** 0.6 + 0.55 * swell
+            canvas.pixels[y * 128 + x] = SEA[max(0, min(4, dithered(value, x, y)))]
+            if swell > 1.45 + 0.2 * near:
+                canvas.pixels[y * 128 + x] = SEA[5] if near < 0.62 else SEA[3]
     return placed(canvas, 0, 0)
 
 
@@ -244,23 +247,26 @@ def foam(number):
 
 
 def gull(number):
-    """Seen from the side; the wings go from high to low."""
-    canvas = Canvas(-24, -24, 24, 24)
-    canvas.begin()
-    lift = (-11, -6, 2, 8, 1)[number]
-    far = (-4 + lift * 0.25, lift * 0.85)
-    canvas.polygon([(-3, -1), (3, -1), (far[0] + 2, far[1]), (far[0] - 7, lift * 1.0)], PALE[0])
-    canvas.begin()
-    canvas.capsule((-7, 1), 1.6, (5, 0), 2.7, PALE)
-    canvas.capsule((6, -1.5), 2.2, (7, -1.5), 2.0, PALE)
-    canvas.polygon([(-7, 0), (-12, -1), (-13, 1.5), (-8, 2.5)], PALE[2])
-    canvas.line((9, -1), (11, 0), GOLD[1])
-    canvas.put(7, -2, 1)
-    canvas.begin()
-    canvas.polygon([(-4, 0), (4, 0), (2, lift * 0.55), (-5, lift * 1.25), (-12, lift * 1.1)],
-                   PALE[3])
-    canvas.line((-5, lift * 1.25), (-12, lift * 1.1), 1)
-    canvas.line((2, lift * 0.55), (-5, lift * 1.25), PALE[2])
+    """Seen from the side; the wings go from high to low, and glide at last."""
+    canvas = Canvas(-26, -26, 26, 26)
+    wrist, tip = (((-4, -10), (-12, -17)), ((-4, -7), (-15, -9)), ((-3, -1), (-16, 3)),
+                  ((-2, 6), (-10, 13)), ((-5, -5), (-18, -3)))[number]
+    for shift, shades in ((3, PALE[:3]), (0, PALE)):
+        canvas.begin()
+        canvas.use(shades)
+        bend, end = (wrist[0] + 2 * shift, wrist[1]), (tip[0] + 2 * shift, tip[1])
+        canvas.polygon([(4 + shift * 0.3, -1), bend, end, (bend[0] - 5, bend[1] + 4), (-4, 2)],
+                       shades[-1])
+        canvas.polygon([(bend[0] - 5, bend[1] + 4), (bend[0] - 2, bend[1] + 3), (1, 1), (-4, 2)],
+                       shades[-2])
+        canvas.polygon([end, (end[0] + 4, (end[1] + bend[1]) / 2), (bend[0] - 5, bend[1] + 4)], 1)
+        if shift:
+            canvas.begin()
+            canvas.polygon([(-6, -0.5), (-12, 0), (-13, 2.5), (-7, 2.5)], PALE[2])
+            canvas.capsule((-6, 1), 1.8, (5, 0.2), 2.8, PALE)
+            canvas.capsule((6, -1.5), 2.3, (7.4, -1.8), 2.1, PALE)
+            canvas.line((9.5, -1.5), (12, -0.5), GOLD[1])
+            canvas.put(8, -2.5, 1)
     canvas.edges()
     return canvas.sprite()
 
