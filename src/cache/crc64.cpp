@@ -1,8 +1,11 @@
 #include "cache/crc64.h"
 
+#include "cache/crc64fold_p.h"
+
 #include <QtEndian>
 
 #include <array>
+#include <cstddef>
 
 namespace Zorv {
 
@@ -47,11 +50,8 @@ Checksum foldWord(Checksum word)
            tables[behind + 1][(word >> 48) & 255] ^ tables[behind][word >> 56];
 }
 
-}  // namespace
-
-unsigned long long crc64(const unsigned char* data, unsigned int length)
+Checksum addBytes(Checksum result, const unsigned char* data, std::size_t length)
 {
-    Checksum result = ~Checksum(0);
     for (; length >= Step; length -= Step, data += Step) {
         result = foldWord<8>(result ^ qFromLittleEndian<quint64>(data)) ^
                  foldWord<0>(qFromLittleEndian<quint64>(data + 8));
@@ -60,6 +60,20 @@ unsigned long long crc64(const unsigned char* data, unsigned int length)
         result = (result >> 8) ^ tables[0][(result ^ *data) & 255];
     }
     return result;
+}
+
+}  // namespace
+
+unsigned long long crc64(const unsigned char* data, unsigned int length)
+{
+    const std::size_t blocks = length / Crc64Fold::BlockSize;
+    if (blocks == 0 || !Crc64Fold::isAvailable()) {
+        return addBytes(~Checksum(0), data, length);
+    }
+    unsigned char rest[Crc64Fold::RestSize];
+    Crc64Fold::fold(data, blocks, rest);
+    const std::size_t folded = blocks * Crc64Fold::BlockSize;
+    return addBytes(addBytes(0, rest, sizeof(rest)), data + folded, length - folded);
 }
 
 }  // namespace Zorv
