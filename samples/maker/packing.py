@@ -35,10 +35,12 @@ def run_at(pixels, place, most):
 def match_at(pixels, place, seen):
     """The longest copy of what lies 1024 pixels back at most: length and distance."""
     best, back = 0, 0
-    for start in reversed(seen.get(pixels[place:place + 3], ())[-24:]):
+    for start in reversed(seen.get(pixels[place:place + 3], ())[-16:]):
         if place - start > 1024:
             break
-        length = 3
+        if pixels[start:start + best] != pixels[place:place + best]:
+            continue  # cannot be longer
+        length = max(3, best)
         while (length < 258 and place + length < len(pixels)
                and pixels[start + length] == pixels[place + length]):
             length += 1

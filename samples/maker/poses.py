@@ -100,7 +100,7 @@ def walk(number, forward):
     guard_far, guard_near = ARMS["fight"]
     # Half on guard: the hands stay high and only sway.
     arms = (blend(guard_far, far, 0.32), blend(guard_near, near, 0.32))
-    return look(arms, step((number / 8 + 0.02) % 1), sway=0.25 if forward else -0.15)
+    return look(arms, step((number / 8 + 0.02) % 1), sway=0.25 if forward else -0.15, planted=True)
 
 
 def blend(a, b, t):
@@ -112,8 +112,8 @@ LYING = dict(turn=-90, ground=True, aside=13, face="closed", posture="stand", sw
 
 # The sprites that every fighter has, by group and number.
 COMMON = {
-    10: [look("fight"), look("fight1"), look("fight2"), look("fight2"), look("fight1"),
-         look("fight")],
+    10: [look(arms, planted=True) for arms in ("fight", "fight1", "fight2", "fight2", "fight1",
+                                               "fight")],
     11: [look("fight"), look("low", "close", twist=0.35, sway=0.4)],
     12: [look("fight"), look("low"), look("low", "crouch")],
     13: [look("low", "crouch"), look("low", "crouch", chest=(0, 0.8)),
@@ -222,7 +222,9 @@ def pose_of(body, frame, spec, build):
     neck = shifted(neck, spec.get("chest", (0, 0)), unit)
     head = shifted(head, spec.get("chest", (0, 0)), unit)
     far, near = hands(spec, neck, unit)
-    far_foot, near_foot = soles(spec, feet, body.stride, unit)
+    # Where the frame moves the sprite up or down, what stands on the floor stays there.
+    floor = -frame.offset[1] if spec.get("planted") else 0
+    far_foot, near_foot = soles(spec, feet, body.stride, unit, floor)
     if "aside" in spec:
         far, near, far_foot, near_foot, head, neck, pelvis = (
             shifted(each, (spec["aside"], 0), unit)
@@ -280,10 +282,11 @@ def hands(spec, neck, unit):
     return tuple(hand[:2] if len(hand) == 3 else shifted(neck, hand, unit) for hand in arms)
 
 
-def soles(spec, feet, stride, unit):
+def soles(spec, feet, stride, unit, floor):
     legs = spec["legs"]
     legs = LEGS[legs] if isinstance(legs, str) else legs
-    return tuple(leg[:2] if len(leg) == 3 else (leg[0] * stride, feet - leg[1] * unit)
+    return tuple(leg[:2] if len(leg) == 3
+                 else (leg[0] * stride, feet - leg[1] * unit + (0 if leg[1] else floor))
                  for leg in legs)
 
 

@@ -43,20 +43,25 @@ class Canvas:
         x0, y0 = start
         dx, dy = end[0] - x0, end[1] - y0
         square = dx * dx + dy * dy or 1e-9
-        most = max(r0, r1)
+        most, grow, last = max(r0, r1), r1 - r0, len(ramp) - 1
+        lx, ly, lz = (part * len(ramp) / 1.55 for part in LIGHT)
+        base = 0.55 / 1.55 * len(ramp) + bias
+        pixels, parts, part = self.pixels, self.parts, self.part
+        columns = self.columns(min(x0, x0 + dx) - most, max(x0, x0 + dx) + most)
         for y in self.rows(min(y0, y0 + dy) - most, max(y0, y0 + dy) + most):
             py = y + 0.5 - y0
             place = (y - self.top) * self.width - self.left
-            for x in self.columns(min(x0, x0 + dx) - most, max(x0, x0 + dx) + most):
+            for x in columns:
                 px = x + 0.5 - x0
                 along = (px * dx + py * dy) / square
                 along = 0.0 if along < 0 else 1.0 if along > 1 else along
-                radius = r0 + (r1 - r0) * along
-                nx, ny = (px - along * dx) / radius, (py - along * dy) / radius
-                flat = nx * nx + ny * ny
-                if flat <= 1:
-                    self.pixels[place + x] = ramp[level(nx, ny, flat, len(ramp), bias)]
-                    self.parts[place + x] = self.part
+                radius = r0 + grow * along
+                nx, ny = px - along * dx, py - along * dy
+                left = radius * radius - nx * nx - ny * ny
+                if left >= 0:
+                    shade = int(base + (nx * lx + ny * ly + sqrt(left) * lz) / radius)
+                    pixels[place + x] = ramp[0 if shade < 0 else last if shade > last else shade]
+                    parts[place + x] = part
 
     def chain(self, points, ramp, bias=0.0):
         """Capsules through (x, y, radius)."""
@@ -108,20 +113,30 @@ class Canvas:
                 for dx in range(width):
                     self.put(x + dx, y + dy, colour)
 
+    def area(self):
+        """Left, top, right and bottom of what is drawn, from the corner; nothing if it is empty."""
+        width = self.width
+        rows = [(y, self.parts[y * width:(y + 1) * width]) for y in range(self.height)]
+        rows = [(y, row) for y, row in rows if any(row)]
+        if not rows:
+            return None
+        return (min(width - len(row.lstrip(b"\0")) for _, row in rows), rows[0][0],
+                max(len(row.rstrip(b"\0")) for _, row in rows) - 1, rows[-1][0])
+
     def edges(self, outline=LINE):
         """Darkens what lies just behind another part, and draws the line around the whole."""
         width, pixels, parts = self.width, self.pixels, self.parts
-        before = bytes(pixels)
-        last = len(pixels) - width
-        for place in range(width, last):
-            part = parts[place]
-            if part:
-                if (parts[place - 1] > part or parts[place + 1] > part
-                        or parts[place - width] > part or parts[place + width] > part):
-                    pixels[place] = self.darkest.get(before[place], before[place])
-            elif outline and (parts[place - 1] or parts[place + 1] or parts[place - width]
-                              or parts[place + width]):
-                pixels[place] = outline
+        left, top, right, bottom = self.area()
+        for y in range(max(1, top - 1), min(self.height - 2, bottom + 1) + 1):
+            for place in range(y * width + max(1, left - 1),
+                               y * width + min(width - 2, right + 1) + 1):
+                part = parts[place]
+                near = max(parts[place - 1], parts[place + 1], parts[place - width],
+                           parts[place + width])
+                if part and near > part:
+                    pixels[place] = self.darkest.get(pixels[place], pixels[place])
+                elif near and not part:
+                    pixels[place] = outline
 
     def sprite(self):
         """The pixels cropped to what is drawn."""
