@@ -11,7 +11,7 @@ namespace Zorv {
 namespace {
 
 // How many clusters around that of a point are looked at for a nearer one.
-const size_t NeighbourCount = 16;
+const size_t NeighbourCount = 6;
 
 float squaredDistance(const float* x, const float* y)
 {
@@ -22,128 +22,184 @@ float squaredDistance(const float* x, const float* y)
     return sum;
 }
 
-// The clusters while they are joined, channel by channel.
+// Clusters channel by channel, the form in which one is soonest compared with all others.
+struct ClusterRows
+{
+    std::array<std::vector<float>, 4> mean;
+    std::vector<float> weight;
+
+    size_t size() const { return weight.size(); }
+
+    void append(const ColorCluster& cluster)
+    {
+        for (size_t i = 0; i < 4; ++i) {
+            mean[i].push_back(cluster.mean[i]);
+        }
+        weight.push_back(cluster.weight);
+    }
+
+    ColorCluster cluster(size_t index) const
+    {
+        return {{mean[0][index], mean[1][index], mean[2][index], mean[3][index]}, weight[index]};
+    }
+
+    // The distances of those from number `first` on to another one, into `result` at the same
+    // places.
+    void squaredDistances(size_t to, size_t first, float* result) const
+    {
+        const ColorCluster other = cluster(to);
+        const float* rows[4] = {mean[0].data(), mean[1].data(), mean[2].data(), mean[3].data()};
+        for (size_t i = first; i < size(); ++i) {
+            const float r = rows[0][i] - other.mean[0];
+            const float g = rows[1][i] - other.mean[1];
+            const float b = rows[2][i] - other.mean[2];
+            const float a = rows[3][i] - other.mean[3];
+            result[i] = r * r + g * g + b * b + a * a;
+        }
+    }
+};
+
+// Clusters that are joined in pairs. Each knows the cheapest partner among those behind it, so that
+// each pair is known to one of the two.
 class Joining
 {
 public:
     explicit Joining(const std::vector<OctreeNode>& nodes)
-        : m_cost(nodes.size(), std::numeric_limits<float>::max()), m_nearest(nodes.size(), 0),
+        : m_costs(nodes.size()), m_cost(nodes.size(), Never), m_partner(nodes.size(), 0),
           m_parent(nodes.size())
     {
         std::iota(m_parent.begin(), m_parent.end(), 0);
         for (const OctreeNode& node : nodes) {
             ColorCluster cluster{{}, float(node.weight())};
             std::copy(node.mean(), node.mean() + 4, cluster.mean.begin());
-            m_clusters.push_back(cluster);
-            m_alive.push_back(m_alive.size());
+            m_rows.append(cluster);
         }
         for (size_t i = 0; i < nodes.size(); ++i) {
-            search(i);
-        }
-    }
-
-    void joinTo(size_t count)
-    {
-        while (m_alive.size() > count) {
-            joinCheapest();
-        }
-    }
-
-    // Numbers the clusters that are left, and tells each of the first ones its number.
-    std::vector<ColorCluster> result(std::vector<int>& numbers) const
-    {
-        std::vector<ColorCluster> left;
-        numbers.assign(m_clusters.size(), 0);
-        for (const size_t cluster : m_alive) {
-            numbers[cluster] = int(left.size());
-            left.push_back(m_clusters[cluster]);
-        }
-        for (size_t i = 0; i < numbers.size(); ++i) {
-            size_t root = i;
-            while (m_parent[root] != root) {
-                root = m_parent[root];
-            }
-            numbers[i] = numbers[root];
-        }
-        return left;
-    }
-
-private:
-    float cost(size_t x, size_t y) const
-    {
-        const ColorCluster& a = m_clusters[x];
-        const ColorCluster& b = m_clusters[y];
-        return a.weight * (b.weight / (a.weight + b.weight)) *
-               squaredDistance(a.mean.data(), b.mean.data());
-    }
-
-    // Finds the cheapest partner among those with a higher number; each pair is then known to
-    // one of the two.
-    void search(size_t cluster)
-    {
-        m_cost[cluster] = std::numeric_limits<float>::max();
-        const auto from = std::upper_bound(m_alive.begin(), m_alive.end(), cluster);
-        for (auto other = from; other != m_alive.end(); ++other) {
-            const float price = cost(cluster, *other);
-            if (price < m_cost[cluster]) {
-                m_cost[cluster] = price;
-                m_nearest[cluster] = *other;
-            }
+            findPartner(i);
         }
     }
 
     void joinCheapest()
     {
-        const size_t kept =
-            *std::min_element(m_alive.begin(), m_alive.end(),
-                              [this](size_t x, size_t y) { return m_cost[x] < m_cost[y]; });
-        const size_t gone = m_nearest[kept];
-        absorb(m_clusters[kept], m_clusters[gone]);
-        m_parent[gone] = kept;
-        m_alive.erase(std::lower_bound(m_alive.begin(), m_alive.end(), gone));
-        for (const size_t cluster : m_alive) {
-            if (cluster == kept || m_nearest[cluster] == gone || m_nearest[cluster] == kept) {
-                search(cluster);
-            } else if (cluster < kept && cost(cluster, kept) < m_cost[cluster]) {
-                m_cost[cluster] = cost(cluster, kept);
-                m_nearest[cluster] = kept;
+        const size_t kept = size_t(std::min_element(m_cost.begin(), m_cost.end()) - m_cost.begin());
+        const size_t gone = m_partner[kept];
+        absorb(kept, gone);
+        findPartner(kept);
+        m_rows.squaredDistances(kept, 0, m_costs.data());
+        for (size_t i = 0; i < gone; ++i) {
+            if (m_parent[i] != i || i == kept) {
+                continue;
+            }
+            const float cost =
+                i < kept ? m_costs[i] * sharedWeight(m_rows.weight[i], m_rows.weight[kept]) : Never;
+            if (cost < m_cost[i]) {
+                m_cost[i] = cost;
+                m_partner[i] = kept;
+            } else if (m_partner[i] == gone || m_partner[i] == kept) {
+                m_stale.push_back(i);
             }
         }
-    }
-
-    static void absorb(ColorCluster& kept, const ColorCluster& gone)
-    {
-        const float weight = kept.weight + gone.weight;
-        for (size_t i = 0; i < 4; ++i) {
-            kept.mean[i] = (kept.mean[i] * kept.weight + gone.mean[i] * gone.weight) / weight;
+        for (const size_t cluster : m_stale) {
+            findPartner(cluster);
         }
-        kept.weight = weight;
+        m_stale.clear();
     }
 
-    std::vector<ColorCluster> m_clusters;
-    std::vector<size_t> m_alive;  // in order
-    std::vector<float> m_cost;    // of joining a cluster with its partner
-    std::vector<size_t> m_nearest;
+    // Those that are left, and for each of the first ones the number of that which it is in.
+    std::vector<ColorCluster> result(std::vector<int>& numbers) const
+    {
+        std::vector<ColorCluster> left;
+        for (size_t i = 0; i < m_rows.size(); ++i) {
+            // A cluster is always joined to one in front of it.
+            const bool isLeft = m_parent[i] == i;
+            numbers.push_back(isLeft ? int(left.size()) : numbers[m_parent[i]]);
+            if (isLeft) {
+                left.push_back(m_rows.cluster(i));
+            }
+        }
+        return left;
+    }
+
+private:
+    static constexpr float Never = std::numeric_limits<float>::max();
+
+    static float sharedWeight(float x, float y) { return x * (y / (x + y)); }
+
+    void findPartner(size_t cluster)
+    {
+        m_rows.squaredDistances(cluster, cluster + 1, m_costs.data());
+        const float weight = m_rows.weight[cluster];
+        const float* weights = m_rows.weight.data();
+        float* costs = m_costs.data();
+        for (size_t i = cluster + 1; i < m_rows.size(); ++i) {
+            costs[i] *= sharedWeight(weight, weights[i]);
+        }
+        float best = Never;
+        size_t partner = 0;
+        for (size_t i = cluster + 1; i < m_rows.size(); ++i) {
+            if (costs[i] < best && m_parent[i] == i) {
+                best = costs[i];
+                partner = i;
+            }
+        }
+        m_cost[cluster] = best;
+        m_partner[cluster] = partner;
+    }
+
+    void absorb(size_t kept, size_t gone)
+    {
+        const float weight = m_rows.weight[kept] + m_rows.weight[gone];
+        const float share = m_rows.weight[gone] / weight;
+        for (std::vector<float>& mean : m_rows.mean) {
+            mean[kept] += (mean[gone] - mean[kept]) * share;
+        }
+        m_rows.weight[kept] = weight;
+        m_parent[gone] = kept;
+        m_cost[gone] = Never;
+    }
+
+    ClusterRows m_rows;
+    std::vector<float> m_costs;  // of one with each
+    std::vector<float> m_cost;   // of each with its partner
+    std::vector<size_t> m_partner;
     std::vector<size_t> m_parent;
+    std::vector<size_t> m_stale;
 };
 
-using Neighbours = std::vector<std::array<int, NeighbourCount>>;
+using Nearby = std::array<int, NeighbourCount>;
 
-// The nearest clusters of each, itself first.
-Neighbours neighbours(const std::vector<ColorCluster>& clusters)
+// The places of the lowest values, the lowest first.
+Nearby lowest(const std::vector<float>& values)
 {
-    Neighbours all(clusters.size());
-    std::vector<std::pair<float, int>> distances(clusters.size());
-    for (size_t i = 0; i < clusters.size(); ++i) {
-        for (size_t j = 0; j < clusters.size(); ++j) {
-            distances[j] = {squaredDistance(clusters[i].mean.data(), clusters[j].mean.data()),
-                            int(j)};
+    Nearby places{};
+    std::array<float, NeighbourCount> kept;
+    kept.fill(std::numeric_limits<float>::max());
+    for (size_t i = 0; i < values.size(); ++i) {
+        if (values[i] < kept[NeighbourCount - 1]) {
+            size_t at = NeighbourCount - 1;
+            for (; at > 0 && values[i] < kept[at - 1]; --at) {
+                kept[at] = kept[at - 1];
+                places[at] = places[at - 1];
+            }
+            kept[at] = values[i];
+            places[at] = int(i);
         }
-        const size_t count = std::min(NeighbourCount, distances.size());
-        std::partial_sort(distances.begin(), distances.begin() + long(count), distances.end());
-        for (size_t j = 0; j < NeighbourCount; ++j) {
-            all[i][j] = distances[std::min(j, count - 1)].second;
-        }
+    }
+    return places;
+}
+
+// The nearest clusters of each, mostly itself first.
+std::vector<Nearby> neighbours(const std::vector<ColorCluster>& clusters)
+{
+    ClusterRows rows;
+    for (const ColorCluster& cluster : clusters) {
+        rows.append(cluster);
+    }
+    std::vector<float> distances(rows.size());
+    std::vector<Nearby> all;
+    for (size_t i = 0; i < rows.size(); ++i) {
+        rows.squaredDistances(i, 0, distances.data());
+        all.push_back(lowest(distances));
     }
     return all;
 }
@@ -176,7 +232,9 @@ void moveToMeans(std::vector<ColorCluster>& clusters, const std::vector<ColorPoi
 std::vector<ColorCluster> joinedClusters(const std::vector<OctreeNode>& nodes, int count)
 {
     Joining joining(nodes);
-    joining.joinTo(size_t(count));
+    for (int left = int(nodes.size()); left > count; --left) {
+        joining.joinCheapest();
+    }
     std::vector<int> numbers;
     const std::vector<ColorCluster> clusters = joining.result(numbers);
     for (size_t i = 0; i < nodes.size(); ++i) {
@@ -189,7 +247,7 @@ std::vector<ColorCluster> joinedClusters(const std::vector<OctreeNode>& nodes, i
 
 void refineClusters(std::vector<ColorCluster>& clusters, std::vector<ColorPoint>& points)
 {
-    const Neighbours near = neighbours(clusters);
+    const std::vector<Nearby> near = neighbours(clusters);
     for (ColorPoint& point : points) {
         float best = std::numeric_limits<float>::max();
         for (const int cluster : near[size_t(point.cluster)]) {

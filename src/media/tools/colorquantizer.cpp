@@ -15,9 +15,9 @@ namespace Zorv {
 namespace {
 
 const int MaxColors = 256;
-const int Refinements = 2;
+const int Refinements = 1;
 // So many more nodes than colours are made of the tree, for the cheapest of them to be joined.
-const size_t NodesForColor = 2;
+const double NodesForColor = 1.125;
 
 QRgb toRgb(RGBA color)
 {
@@ -66,11 +66,14 @@ const QRgb* pixels(const QImage& image, int y)
 std::vector<ColorPoint> points(const ColorBins& bins)
 {
     std::vector<ColorPoint> all;
-    all.reserve(size_t(bins.size()));
-    bins.forEach([&all](const ColorBin& bin) {
-        const auto mean = [&bin](int channel) { return float(bin.sum[channel] / bin.weight); };
-        all.push_back({{mean(0), mean(1), mean(2), mean(3)}, float(bin.weight), bin.key, 0});
-    });
+    all.reserve(bins.bins().size());
+    for (const ColorBin& bin : bins.bins()) {
+        ColorPoint point{{}, float(bin.weight), bin.key, 0};
+        for (int i = 0; i < 4; ++i) {
+            point.channel[i] = float(bins.mean(bin, i));
+        }
+        all.push_back(point);
+    }
     return all;
 }
 
@@ -131,7 +134,9 @@ void adaptTrueColor(const QImage& source, NearestColors& nearest, QImage& result
 QVector<RGBA> exactColors(const ColorBins& bins)
 {
     QVector<RGBA> colors;
-    bins.forEach([&colors](const ColorBin& bin) { colors.append(fromRgb(bin.key)); });
+    for (const ColorBin& bin : bins.bins()) {
+        colors.append(fromRgb(bin.key));
+    }
     return colors;
 }
 
@@ -139,7 +144,7 @@ QVector<RGBA> clusteredColors(const ColorBins& bins, int count)
 {
     std::vector<ColorPoint> all = points(bins);
     std::vector<ColorCluster> clusters =
-        joinedClusters(octreeNodes(all, NodesForColor * size_t(count)), count);
+        joinedClusters(octreeNodes(all, size_t(NodesForColor * count)), count);
     for (int i = 0; i < Refinements; ++i) {
         refineClusters(clusters, all);
     }
@@ -160,6 +165,18 @@ bool isDarker(RGBA x, RGBA y)
     const QRgb a = toRgb(x);
     const QRgb b = toRgb(y);
     return std::make_pair(qGray(a), a) < std::make_pair(qGray(b), b);
+}
+
+QVector<RGBA> visibleColors(const ColorBins& bins, int count)
+{
+    if (bins.bins().empty()) {
+        return {};
+    }
+    QVector<RGBA> colors = bins.areExact() && int(bins.bins().size()) <= count
+                               ? exactColors(bins)
+                               : clusteredColors(bins, count);
+    std::sort(colors.begin(), colors.end(), isDarker);
+    return colors;
 }
 
 }  // namespace
@@ -238,23 +255,16 @@ QVector<RGBA> ColorQuantizer::palette(int count) const
 {
     count = qBound(1, count, MaxColors);
     QVector<RGBA> colors;
-    ColorBins bins = d->bins;
     if (d->transparent > 0) {
-        if (count == 1 && bins.size() > 0) {
-            bins.add(0, d->transparent);
-        } else {
-            colors.append({0, 0, 0, 0});
-            --count;
+        if (count == 1 && !d->bins.bins().empty()) {
+            ColorBins all = d->bins;
+            all.add(0, d->transparent);
+            return visibleColors(all, 1);
         }
+        colors.append({0, 0, 0, 0});
+        --count;
     }
-    if (bins.size() > 0) {
-        QVector<RGBA> visible = bins.areExact() && bins.size() <= count
-                                    ? exactColors(bins)
-                                    : clusteredColors(bins, count);
-        std::sort(visible.begin(), visible.end(), isDarker);
-        colors += visible;
-    }
-    return colors;
+    return colors + visibleColors(d->bins, count);
 }
 
 QImage ColorQuantizer::quantize(const QImage& image, int count)

@@ -1,25 +1,51 @@
 #include "media/tools/nearestcolors_p.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Zorv {
 
 namespace {
 
-// Cells are 8 values wide in red, green and blue and 16 in alpha; opaque colours, which are most,
-// have cells of their own.
-const int ColorBits = 5;
-const int AlphaBits = 4;
-const int OpaqueRange = 1 << AlphaBits;
-const size_t CellCount = size_t(OpaqueRange + 1) << 3 * ColorBits;
-const size_t MaxCandidateBytes = 4 << 20;
+// Cells of opaque colours, which are most, are 8 values wide in red, green and blue; those of
+// others 16, and 32 in alpha.
+const int OpaqueBits = 5;
+const int TranslucentBits = 4;
+const int AlphaBits = 3;
+const quint32 OpaqueCells = 1 << 3 * OpaqueBits;
+const quint32 TranslucentCells = 1 << (3 * TranslucentBits + AlphaBits);
+const size_t MaxCandidates = 1 << 19;
 
 quint32 cellOf(quint32 color)
 {
-    const quint32 alpha = color >> 24;
-    const quint32 alphaRange = alpha == 255 ? OpaqueRange : alpha >> (8 - AlphaBits);
-    return alphaRange << 3 * ColorBits | (color >> 9 & 0x7C00) | (color >> 6 & 0x3E0) |
-           (color >> 3 & 0x1F);
+    if (color >> 24 == 255) {
+        return (color >> 9 & 0x7C00) | (color >> 6 & 0x3E0) | (color >> 3 & 0x1F);
+    }
+    return OpaqueCells + ((color >> 17 & 0x7000) | (color >> 12 & 0xF00) | (color >> 8 & 0xF0) |
+                          (color >> 4 & 0xF));
+}
+
+// The numbers of a cell's ranges of values; opaque cells have the first ones.
+std::array<int, 4> rangesOf(quint32 cell)
+{
+    const int at = int(cell);
+    if (cell < OpaqueCells) {
+        return {at >> 10 & 31, at >> 5 & 31, at & 31, 0};
+    }
+    return {32 + (at >> 8 & 15), 32 + (at >> 4 & 15), 32 + (at & 15), 1 + (at >> 12 & 7)};
+}
+
+// The lowest and the highest value of a range.
+std::pair<int, int> boundsOf(size_t channel, int number)
+{
+    const auto part = [](int index, int bits) {
+        const int width = 256 >> bits;
+        return std::make_pair(index * width, index * width + width - 1);
+    };
+    if (channel == 3) {
+        return number == 0 ? std::make_pair(255, 255) : part(number - 1, AlphaBits);
+    }
+    return number < 32 ? part(number, OpaqueBits) : part(number - 32, TranslucentBits);
 }
 
 quint32 squared(int x)
@@ -29,7 +55,8 @@ quint32 squared(int x)
 
 }  // namespace
 
-NearestColors::NearestColors(const QVector<RGBA>& palette) : m_cells(CellCount, 0)
+NearestColors::NearestColors(const QVector<RGBA>& palette)
+    : m_cells(OpaqueCells + TranslucentCells, 0)
 {
     const int size = qMin(palette.size(), Size);
     for (int i = 0; i < size; ++i) {
@@ -38,39 +65,29 @@ NearestColors::NearestColors(const QVector<RGBA>& palette) : m_cells(CellCount, 
             m_transparent = quint8(i);
         }
         if (std::find(palette.begin(), palette.begin() + i, color) == palette.begin() + i) {
-            m_entries[m_indices.size()] = {{color.r, color.g, color.b, color.a}};
-            m_indices.push_back(quint8(i));
+            m_entries.push_back({{color.r, color.g, color.b, color.a}, qint16(i)});
         }
     }
-    for (int channel = 0; channel < 3; ++channel) {
-        for (int low = 0; low < 256; low += 1 << (8 - ColorBits)) {
-            addRange(channel, low, low + (1 << (8 - ColorBits)) - 1);
-        }
-    }
-    for (int low = 0; low < 256; low += 1 << (8 - AlphaBits)) {
-        addRange(3, low, low + (1 << (8 - AlphaBits)) - 1);
-    }
-    addRange(3, 255, 255);
-    m_candidates.push_back(0);
+    m_candidates.push_back({});
+    m_found.fill({0, m_transparent});
 }
 
-void NearestColors::addRange(int channel, int low, int high)
+const NearestColors::Range& NearestColors::range(size_t channel, int number)
 {
-    Row nearest;
-    Row farthest;
-    // Places without an entry are as far as can be.
-    nearest.fill(squared(1024));
-    farthest.fill(squared(1024));
-    for (size_t i = 0; i < m_indices.size(); ++i) {
-        const int value = m_entries[i].channel[channel];
-        nearest[i] = squared(std::max({low - value, value - high, 0}));
-        farthest[i] = squared(std::max(high - value, value - low));
+    std::unique_ptr<Range>& range = m_ranges[channel][size_t(number)];
+    if (!range) {
+        range = std::make_unique<Range>();
+        const auto [low, high] = boundsOf(channel, number);
+        for (size_t i = 0; i < m_entries.size(); ++i) {
+            const int value = m_entries[i].channel[channel];
+            range->nearest[i] = quint16(squared(std::max({low - value, value - high, 0})));
+            range->farthest[i] = quint16(squared(std::max(high - value, value - low)));
+        }
     }
-    m_axes[size_t(channel)].nearest.push_back(nearest);
-    m_axes[size_t(channel)].farthest.push_back(farthest);
+    return *range;
 }
 
-quint8 NearestColors::find(quint32 color)
+quint8 NearestColors::search(quint32 color)
 {
     if (color >> 24 == 0) {
         return m_transparent;
@@ -84,52 +101,47 @@ quint8 NearestColors::find(quint32 color)
     const int g = int(color >> 8 & 255);
     const int b = int(color & 255);
     const int a = int(color >> 24);
-    const quint8* candidate = &m_candidates[at];
-    const quint8* last = candidate + 1 + *candidate;
+    const Entry* head = &m_candidates[at];
+    const Entry* last = head + head->index;
+    // Distance and index are compared as one number, which needs no jump.
     quint32 best = ~0U;
-    quint8 bestEntry = 0;
-    while (candidate++ != last) {
-        const Entry& entry = m_entries[*candidate];
-        const quint32 distance = squared(entry.channel[0] - r) + squared(entry.channel[1] - g) +
-                                 squared(entry.channel[2] - b) + squared(entry.channel[3] - a);
-        if (distance < best) {
-            best = distance;
-            bestEntry = *candidate;
-        }
+    for (const Entry* entry = head; entry++ != last;) {
+        const quint32 distance = squared(entry->channel[0] - r) + squared(entry->channel[1] - g) +
+                                 squared(entry->channel[2] - b) + squared(entry->channel[3] - a);
+        best = std::min(best, distance << 8 | quint32(entry->index));
     }
-    return m_indices[bestEntry];
+    return quint8(best);
 }
 
 // An entry that is farther from the near side of the cell than another is from its far side
 // cannot be the nearest to any colour in it.
 quint32 NearestColors::fillCell(quint32 cell)
 {
-    const quint32 last = (1 << ColorBits) - 1;
-    const size_t ranges[4] = {cell >> 2 * ColorBits & last, cell >> ColorBits & last, cell & last,
-                              cell >> 3 * ColorBits};
-    Row nearest{};
-    Row farthest{};
-    for (size_t axis = 0; axis < 4; ++axis) {
-        const Row& low = m_axes[axis].nearest[ranges[axis]];
-        const Row& high = m_axes[axis].farthest[ranges[axis]];
-        for (size_t i = 0; i < Size; ++i) {
-            nearest[i] += low[i];
-            farthest[i] += high[i];
-        }
+    const std::array<int, 4> numbers = rangesOf(cell);
+    const Range& red = range(0, numbers[0]);
+    const Range& green = range(1, numbers[1]);
+    const Range& blue = range(2, numbers[2]);
+    const Range& alpha = range(3, numbers[3]);
+    std::array<quint32, Size> nearest;
+    quint32 limit = ~0U;
+    for (size_t i = 0; i < m_entries.size(); ++i) {
+        nearest[i] =
+            quint32(red.nearest[i]) + green.nearest[i] + blue.nearest[i] + alpha.nearest[i];
+        limit = std::min(limit, quint32(red.farthest[i]) + green.farthest[i] + blue.farthest[i] +
+                                    alpha.farthest[i]);
     }
-    const quint32 limit = *std::min_element(farthest.begin(), farthest.end());
-    if (m_candidates.size() > MaxCandidateBytes) {
+    if (m_candidates.size() > MaxCandidates) {
         m_candidates.resize(1);
         std::fill(m_cells.begin(), m_cells.end(), 0);
     }
     const size_t at = m_candidates.size();
-    m_candidates.push_back(0);
-    for (size_t i = 0; i < m_indices.size(); ++i) {
+    m_candidates.push_back({});
+    for (size_t i = 0; i < m_entries.size(); ++i) {
         if (nearest[i] <= limit) {
-            m_candidates.push_back(quint8(i));
+            m_candidates.push_back(m_entries[i]);
         }
     }
-    m_candidates[at] = quint8(m_candidates.size() - at - 2);
+    m_candidates[at].index = qint16(m_candidates.size() - at - 1);
     m_cells[cell] = quint32(at);
     return quint32(at);
 }

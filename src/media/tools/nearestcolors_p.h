@@ -5,6 +5,7 @@
 #include <QVector>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 namespace Zorv {
@@ -23,34 +24,51 @@ public:
     explicit NearestColors(const QVector<RGBA>& palette);
 
     /// `color` is a `QRgb`.
-    quint8 find(quint32 color);
+    quint8 find(quint32 color)
+    {
+        Found& found = m_found[color * 0x9E3779B1U >> (32 - FoundBits)];
+        if (found.color != color) {
+            found = {color, search(color)};
+        }
+        return found.index;
+    }
 
 private:
     static const int Size = 256;
-    using Row = std::array<quint32, Size>;
+    static const int FoundBits = 11;
+    using Row = std::array<quint16, Size>;
 
-    /// The squared distances of the entries, in one channel, from the near and from the far side
-    /// of each range of its values.
-    struct Axis
+    /// The squared distances of the entries, in one channel, from the near and from the far end
+    /// of a range of its values.
+    struct Range
     {
-        std::vector<Row> nearest;
-        std::vector<Row> farthest;
+        Row nearest;
+        Row farthest;
     };
 
+    struct Found
+    {
+        quint32 color;
+        quint8 index;
+    };
+
+    /// An entry, or, in front of those of a cell, their number.
     struct Entry
     {
-        qint32 channel[4];
+        qint16 channel[4];
+        qint16 index;
     };
 
-    void addRange(int channel, int low, int high);
+    quint8 search(quint32 color);
+    const Range& range(size_t channel, int number);
     quint32 fillCell(quint32 cell);
 
-    std::array<Entry, Size> m_entries;
-    std::vector<quint8> m_indices;  ///< of the different colours
-    std::array<Axis, 4> m_axes;
-    std::vector<quint32> m_cells;  ///< the place of each one's candidates, 0 before it is filled
-    std::vector<quint8> m_candidates;  ///< for each cell their number, less 1, and their indices
+    std::vector<Entry> m_entries;                                    ///< the different colours
+    std::array<std::array<std::unique_ptr<Range>, 48>, 4> m_ranges;  ///< those that were needed
+    std::vector<quint32> m_cells;     ///< the place of each one's candidates, 0 before it is filled
+    std::vector<Entry> m_candidates;  ///< for each cell a head and the entries
     quint8 m_transparent = 0;
+    std::array<Found, 1 << FoundBits> m_found;  ///< of the last colours that were asked for
 };
 
 }  // namespace Zorv
