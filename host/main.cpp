@@ -1,4 +1,5 @@
 #include "cli/cli.h"
+#include "media/losslessimages.h"
 #ifdef ZORV_WINDOW
 #include "app/application.h"
 
@@ -160,6 +161,7 @@ int main(int argc, char** argv)
     signal(SIGXFSZ, SIG_IGN);
     keepStandardStreams();
     setUpTexts();
+    Zorv::setLosslessImages(true);
     const QStringList arguments = argumentsOf(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("zorv"));
     QCoreApplication::setOrganizationName(QStringLiteral("zorv"));

@@ -2,11 +2,9 @@
 #include "command.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
-#include "notedsignals.h"
 #include "operations/backups.h"
-#include "operations/hostinterface.h"
 #include "output.h"
-#include "progressline.h"
+#include "progresshost.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -27,21 +25,6 @@ using Family::RestoredFile;
 class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Cli)
-};
-
-/// Shows how far the work is, and lets Ctrl+C end it where every file is whole.
-class ProgressHost final : public Family::HostInterface
-{
-public:
-    ProgressHost() { Family::startHost(this); }
-
-    Zorv::ProgressReporter* progress(const QString& title, int) override
-    {
-        return new ProgressLine(title);
-    }
-
-private:
-    NotedSignals m_signals;
 };
 
 /// A game folder with all projects that can be opened.

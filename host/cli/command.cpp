@@ -1,9 +1,6 @@
 #include "command.h"
 
-#include "code/codecs/textcodecs.h"
-
 #include <QCoreApplication>
-#include <QTextCodec>
 
 namespace Cli {
 
@@ -14,22 +11,23 @@ QString tr(const char* text)
     return QCoreApplication::translate("Cli", text);
 }
 
-const int Editing = Command::DryRun | Command::Encoding;
+constexpr quint32 Editing = DryRun | Encoding;
+constexpr quint32 Written = Out | Format | Force;
 
 // clang-format off
 constexpr Command table[] = {
-    {"check", "GAME|FILE", 1, 1, Command::Json, checkCommand,
+    {"check", "GAME|FILE", 1, 1, Json, checkCommand,
      "Print every problem of a game folder, a project or a file.",
      "Each problem is printed once, sorted by place, as\n"
      "    file:line:column: error: text\n"
      "with 'error', 'warning' or 'deprecated'. GAME is a game folder, with all projects below\n"
      "it. FILE is a main file (.character, .stage), which is checked with all the files that it\n"
      "names, or another code file. The status is 1 if there is any problem."},
-    {"tree", "FILE", 1, 1, Command::Json | Command::Encoding, treeCommand,
+    {"tree", "FILE", 1, 1, Json | Encoding, treeCommand,
      "Print the groups, values, animations, frames and boxes of a file.",
      "A line for each, with a tab between its number in the file, what it is, and the path\n"
      "that 'get' takes. What belongs to another thing is indented below it."},
-    {"get", "FILE PATH", 2, 2, Command::Encoding, getCommand,
+    {"get", "FILE PATH", 2, 2, Encoding, getCommand,
      "Print one value.",
      "A text comes without its quotes. A path to more than one value, as to a group, gives its\n"
      "lines. 'tree' shows the paths of a file."},
@@ -37,7 +35,7 @@ constexpr Command table[] = {
      "Write one value.",
      "VALUE is as 'get' prints it. One line of the file changes, and its comment stays. A value\n"
      "that is there already changes nothing."},
-    {"anim list", "FILE", 1, 1, Command::Json | Command::Encoding, listAnimations,
+    {"anim list", "FILE", 1, 1, Json | Encoding, listAnimations,
      "Print the animations of a file.",
      "A line for each, with a tab between its place, identifier, name, count of frames, time in\n"
      "ticks (-1: it never ends), and line in the file."},
@@ -54,87 +52,135 @@ constexpr Command table[] = {
     {"anim sort", "FILE", 1, 1, Editing, sortAnimations,
      "Sort the animations.",
      "Numbers are sorted by value, words without regard to case."},
-    {"run", "FILE...", 1, Command::Any, Command::Engine, runInEngine,
+    {"anim gif", "FILE ID IMAGE", 3, 3, Encoding | SpriteFile | PaletteId | Force,
+     writeAnimationGif,
+     "Write an animation as an animated GIF.",
+     "Its frames are drawn with the sprites of the sprite file that stands beside FILE. They are\n"
+     "shown over and over, or once if the last one stays for ever (delay -1)."},
+    {"run", "FILE...", 1, Command::Any, Engine | Parameters, runInEngine,
      "Start an engine on characters and stages.",
      "Each FILE is a main file (.character, .stage). Copies of the projects are put beside the\n"
      "engine, and removed when it has ended. The engine is that of the game folder, else the\n"
      "one that --engine names, a name of the settings or a program, else that of the settings.\n"
      "In the parameters %0 is the first FILE, %1 the first too, %2 the second and so on. What\n"
      "the engine prints goes to standard output, and its status is that of the command."},
-    {"backup", "GAME [NAME]", 1, 2, Command::NoOptions, backUp,
+    {"backup", "GAME [NAME]", 1, 2, NoOptions, backUp,
      "Copy all characters and stages of a game aside.",
      "The copies, with the files of the game that they share, go to a new folder below 'backup'\n"
      "in the game, named after the time and NAME, which is 'Manual' if it is not given. The name\n"
      "of that folder is printed. A backup that is interrupted is removed again."},
-    {"backups", "GAME", 1, 1, Command::Json, listBackups,
+    {"backups", "GAME", 1, 1, Json, listBackups,
      "Print the backups of a game.",
      "A line for each, the youngest first, with a tab between its folder, time, name, count of\n"
      "files and bytes."},
-    {"restore", "GAME BACKUP", 2, 2, Command::DryRun | Command::NoSafety, restore,
+    {"restore", "GAME BACKUP", 2, 2, DryRun | NoSafety, restore,
      "Put a backup of a game back.",
      "BACKUP is the folder as 'backups' prints it. Its files replace those of the game; files\n"
      "that it lacks stay. First the game is copied into a backup 'Before restore', the folder of\n"
      "which is printed; with --no-safety-backup it is not. With --dry-run nothing is written: a\n"
      "line for each file tells, with a tab between, if it is 'new', 'changed' or the 'same', and\n"
      "its path in the game."},
-    {"completer", "", 0, 0, Command::NoOptions, completerCommand,
+    {"sprites list", "FILE", 1, 1, Json, listSprites,
+     "Print the sprites of a sprite file.",
+     "FILE is a sprite file or a folder of images. A line for each sprite, with a tab between its\n"
+     "place, identifier, size, axis, palette ('-' for none), how its pixels are stored, and what\n"
+     "is wrong with it, if anything is."},
+    {"sprites export", "FILE PLACE", 2, 2, Select | PaletteId | Format | Force, exportSprites,
+     "Write the sprites of a sprite file as images.",
+     "PLACE is a folder, a pattern such as 'out/hero-*.png', or the file for a single one. The\n"
+     "files are called GROUP-NUMBER.png, as 'sprites import' reads them."},
+    {"sprites import", "FILE IMAGE...", 2, Command::Any,
+     Group | Axis | Crop | PaletteId | Recolor | Coding | Force, importSprites,
+     "Add images to a sprite file.",
+     "Each goes to the group and number at the end of its name, as in hero-200-3.png. FILE is made\n"
+     "if it is not there. Without --palette an image brings its own palette, unless it is there\n"
+     "already; with it pixels take the nearest of its colours. If one of the images cannot be\n"
+     "read, or its sprite is there already, nothing is changed; with --force it is replaced."},
+    {"sprites sheet", "FILE IMAGE", 2, 2, Select | PaletteId | Columns | Json | Force, makeSheet,
+     "Draw the sprites of a sprite file on one image.",
+     "They stand in rows, in their order. With --json the place of each is printed. The sheet is\n"
+     "indexed if all sprites show the same colours."},
+    {"palette list", "FILE", 1, 1, Json, listPalettes,
+     "Print the palettes of a sprite file, or the colours of a palette.",
+     "Of a sprite file: a line for each palette, with a tab between its place, identifier, count\n"
+     "of colours, and count of sprites that use it. Of a palette file or an indexed image: a line\n"
+     "for each colour, with its index, red, green and blue as #rrggbb, and alpha."},
+    {"palette export", "FILE PLACE", 2, 2, Select | Force, exportPalettes,
+     "Write the palettes of a sprite file as palette files.",
+     "PLACE is a folder, a pattern such as 'out/hero-*.act', or the file for a single one. The\n"
+     "files are called GROUP-NUMBER.act."},
+    {"palette apply", "PALETTE FILE...", 2, Command::Any, Select | Adapt | Written, applyPalette,
+     "Show images, or the sprites of a sprite file, in other colours.",
+     "PALETTE is a palette file or an indexed image. FILE is an indexed image, whose pixels keep\n"
+     "their indices, or a sprite file, of which --select tells the palette that is replaced."},
+    {"palette convert", "FILE...", 1, Command::Any, Out | Force, convertPalettes,
+     "Write palettes as ACT files.",
+     "Palettes are read from .act, .pal, .aco, .ase, .txt, and from indexed images. Colour 0\n"
+     "is transparent where it is used. Without --out they stand beside FILE."},
+    {"image convert", "IMAGE...", 1, Command::Any, Written, convertImages,
+     "Write images in another format.",
+     "Formats are png, pcx, bmp and gif. An image stays indexed where the format can hold it. GIF\n"
+     "takes 256 colours of an image that has more."},
+    {"image crop", "IMAGE...", 1, Command::Any, Written | Background, cropImages,
+     "Cut off what does not show around images.",
+     "In an indexed image that is one index, and transparent colours; in any other, transparent\n"
+     "pixels. With --background -1 only colours count."},
+    {"image resize", "IMAGE...", 1, Command::Any, Written | Size | Factor | Filter, resizeImages,
+     "Make images larger or smaller.",
+     "'nearest' takes pixels as they are, 'bilinear' mixes them, 'epx' and 'hq' draw the edges of\n"
+     "pixel art anew. An indexed image keeps its palette with each of them."},
+    {"image rotate", "IMAGE...", 1, Command::Any, Written | Angle | Filter | Background,
+     rotateImages,
+     "Turn images clockwise.",
+     "The result is as large as its corners need. Quarter turns are exact. An indexed image\n"
+     "keeps its palette."},
+    {"image quantize", "IMAGE...", 1, Command::Any, Written | Colors | Common | PaletteFile,
+     quantizeImages,
+     "Give images few colours.",
+     "With --colours each image gets the ones that suit it best, with --common all together.\n"
+     "With --palette each pixel takes the nearest colour of that file. Nothing is dithered."},
+    {"sound list", "FILE", 1, 1, Json, listSounds,
+     "Print the sounds of a sound file.",
+     "A line for each, with a tab between its place, identifier, channels, bits a sample, frames\n"
+     "a second, frames and seconds."},
+    {"sound export", "FILE PLACE", 2, 2, Select | Force, exportSounds,
+     "Write the sounds of a sound file as WAV files.",
+     "PLACE is a folder, a pattern such as 'out/hero-*.wav', or the file for a single one. The\n"
+     "files are called GROUP-NUMBER.wav."},
+    {"sound import", "FILE WAV...", 2, Command::Any, Group | Force, importSounds,
+     "Add WAV files to a sound file.",
+     "Each goes to the group and number at the end of its name, as in 5-0.wav. FILE is made if it\n"
+     "is not there. If one of the sounds cannot be read, or is there already, nothing is changed;\n"
+     "with --force it is replaced."},
+    {"sound info", "WAV...", 1, Command::Any, Json, tellOfSounds,
+     "Print the form of WAV files.",
+     "A line for each, with a tab between its name, channels, bits a sample, frames a second,\n"
+     "frames and seconds."},
+    {"completer", "", 0, 0, NoOptions, completerCommand,
      "Print the words that the editor completes.",
      "They are groups, sub-groups and choices of the grammar, as the file 'completer.xml' of the\n"
      "family's data has them. A file that is changed by hand starts from here."},
-    {"help", "[COMMAND]", 0, 2, Command::NoOptions, helpCommand,
+    {"help", "[COMMAND]", 0, 2, NoOptions, helpCommand,
      "Print what there is, or all about a command.",
      "'zorv COMMAND --help' does the same."},
 };
 // clang-format on
 
-bool parseEncoding(const QString& name, Invocation* invocation, QString* error)
-{
-    const QTextCodec* codec = QTextCodec::codecForName(name.toUtf8());
-    invocation->codec = codec ? Zorv::TextCodecs::index(codec->name().constData()) : 0;
-    if (invocation->codec == 0) {
-        *error = tr("Expected an encoding such as UTF-8, windows-1252 or Shift_JIS; found '%1'.")
-                     .arg(name);
-    }
-    return invocation->codec != 0;
-}
-
-/// The text of an option that stands behind it.
-bool takeText(const QStringList& arguments, int* index, QString* text, QString* error)
-{
-    if (++*index == arguments.size()) {
-        *error = tr("Expected a text behind '%1'.").arg(arguments.last());
-        return false;
-    }
-    *text = arguments.at(*index);
-    return true;
-}
-
-/// Takes the option that stands at `*index`, with what belongs to it.
+/// Takes the option that stands at `*index`, with the text behind it.
 bool parseOption(const Command& command, const QStringList& arguments, int* index,
                  Invocation* invocation, QString* error)
 {
     const QString& name = arguments.at(*index);
-    const auto is = [&](Command::Option option, const char* text) {
-        return (command.options & option) && name == QLatin1String(text);
-    };
-    if (is(Command::Json, "--json")) {
-        invocation->json = true;
-    } else if (is(Command::DryRun, "--dry-run")) {
-        invocation->dryRun = true;
-    } else if (is(Command::Encoding, "--encoding")) {
-        return parseEncoding(arguments.value(++*index), invocation, error);
-    } else if (is(Command::NoSafety, "--no-safety-backup")) {
-        invocation->noSafetyBackup = true;
-    } else if (is(Command::Engine, "--engine")) {
-        return takeText(arguments, index, &invocation->engine, error);
-    } else if (is(Command::Engine, "--parameters")) {
-        return takeText(arguments, index, &invocation->parameters, error);
-    } else {
+    const OptionInfo* option = findOption(command.options, name);
+    if (!option) {
         *error = tr("'%1' has no option '%2'. Write '--' in front of a text that begins so.")
                      .arg(QLatin1String(command.name), name);
-        return false;
+    } else if (option->value && ++*index == arguments.size()) {
+        *error = tr("Expected a text behind '%1'.").arg(name);
+    } else {
+        *error = option->take(option->value ? arguments.at(*index) : QString(), *invocation);
     }
-    return true;
+    return error->isEmpty();
 }
 
 bool checkOperands(const Command& command, const Invocation& invocation, QString* error)
@@ -160,20 +206,10 @@ QString Command::usage() const
 {
     QString text =
         QStringLiteral("zorv %1 %2").arg(QLatin1String(name), QLatin1String(operands)).trimmed();
-    if (options & Json) {
-        text += QLatin1String(" [--json]");
-    }
-    if (options & DryRun) {
-        text += QLatin1String(" [--dry-run]");
-    }
-    if (options & NoSafety) {
-        text += QLatin1String(" [--no-safety-backup]");
-    }
-    if (options & Encoding) {
-        text += QLatin1String(" [--encoding NAME]");
-    }
-    if (options & Engine) {
-        text += QLatin1String(" [--engine NAME] [--parameters TEXT]");
+    for (const OptionInfo& option : Cli::options()) {
+        if (option.option & options) {
+            text += QLatin1String(" [") + optionForm(option) + QLatin1Char(']');
+        }
     }
     return text;
 }

@@ -1,35 +1,23 @@
 #pragma once
 
-#include <QStringList>
+#include "options.h"
+
 #include <QVector>
 
 namespace Cli {
 
 class Output;
 
-/// What the person has asked for.
-struct Invocation
-{
-    QStringList operands;
-    bool json = false;
-    bool dryRun = false;
-    bool noSafetyBackup = false;
-    int codec = -1;      ///< of `Zorv::TextCodecs`; negative to detect
-    QString engine;      ///< null if none was named
-    QString parameters;  ///< for the engine; null if none were given
-};
-
 /// One command: a row of the table.
 struct Command
 {
-    enum Option { NoOptions = 0, Json = 1, DryRun = 2, Encoding = 4, Engine = 8, NoSafety = 16 };
     static constexpr int Any = 1000000;
 
     const char* name;      ///< one or two words
     const char* operands;  ///< as the usage shows them
     int fewest;            ///< operands
     int most;
-    int options;  ///< of `Option`
+    quint32 options;  ///< of `Option`
     int (*run)(const Invocation& invocation, Output& output);
     const char* summary;  ///< one line
     const char* details;  ///< several lines for `help`
@@ -58,10 +46,28 @@ int duplicateAnimation(const Invocation& invocation, Output& output);
 int moveAnimation(const Invocation& invocation, Output& output);
 int removeAnimations(const Invocation& invocation, Output& output);
 int sortAnimations(const Invocation& invocation, Output& output);
+int writeAnimationGif(const Invocation& invocation, Output& output);
 int runInEngine(const Invocation& invocation, Output& output);
 int backUp(const Invocation& invocation, Output& output);
 int listBackups(const Invocation& invocation, Output& output);
 int restore(const Invocation& invocation, Output& output);
+int convertImages(const Invocation& invocation, Output& output);
+int cropImages(const Invocation& invocation, Output& output);
+int resizeImages(const Invocation& invocation, Output& output);
+int rotateImages(const Invocation& invocation, Output& output);
+int quantizeImages(const Invocation& invocation, Output& output);
+int listSprites(const Invocation& invocation, Output& output);
+int exportSprites(const Invocation& invocation, Output& output);
+int importSprites(const Invocation& invocation, Output& output);
+int makeSheet(const Invocation& invocation, Output& output);
+int listPalettes(const Invocation& invocation, Output& output);
+int exportPalettes(const Invocation& invocation, Output& output);
+int applyPalette(const Invocation& invocation, Output& output);
+int convertPalettes(const Invocation& invocation, Output& output);
+int listSounds(const Invocation& invocation, Output& output);
+int exportSounds(const Invocation& invocation, Output& output);
+int importSounds(const Invocation& invocation, Output& output);
+int tellOfSounds(const Invocation& invocation, Output& output);
 int completerCommand(const Invocation& invocation, Output& output);
 int helpCommand(const Invocation& invocation, Output& output);
 

@@ -4,6 +4,7 @@
 #include "code/codecs/textcodecs.h"
 #include "command.h"
 #include "family/familydocument.h"
+#include "mediaresults.h"
 #include "operations/documentfile.h"
 #include "operations/textdiff.h"
 #include "output.h"
@@ -29,12 +30,6 @@ struct Release
 };
 
 using Document = std::unique_ptr<FamilyDocument, Release>;
-
-int notDone(const QString& error)
-{
-    complain(error);
-    return NotDone;
-}
 
 // What can be done here about a file that its encoding would spoil.
 QString encodingAdvice(const QString& fileName)

@@ -8,7 +8,8 @@ namespace Cli {
 
 namespace {
 
-const int NameWidth = 16;
+const int NameWidth = 17;
+const int OptionWidth = 20;
 
 QString tr(const char* text)
 {
@@ -17,14 +18,16 @@ QString tr(const char* text)
 
 QString overview()
 {
-    QString text = tr("zorv edits the code files of characters and stages.\n"
-                      "\n"
-                      "usage: zorv [GAME]               open a window, with the folder GAME\n"
-                      "       zorv COMMAND ...          work without a display\n"
-                      "       zorv help [COMMAND]       tell all about a command\n"
-                      "       zorv --version\n"
-                      "\n"
-                      "Commands:\n");
+    QString text =
+        tr("zorv edits the code files of characters and stages, and their sprites, palettes and\n"
+           "sounds.\n"
+           "\n"
+           "usage: zorv [GAME]               open a window, with the folder GAME\n"
+           "       zorv COMMAND ...          work without a display\n"
+           "       zorv help [COMMAND]       tell all about a command\n"
+           "       zorv --version\n"
+           "\n"
+           "Commands:\n");
     for (const Command& command : commands()) {
         text += QStringLiteral("  %1%2\n")
                     .arg(QLatin1String(command.name), -NameWidth)
@@ -32,26 +35,31 @@ QString overview()
     }
     return text +
            tr("\n"
-              "Options:\n"
-              "  --json            (check, tree, anim list, backups) print JSON\n"
-              "  --dry-run         (set, anim, restore) print what would change, write nothing\n"
-              "  --encoding NAME   (tree, get, set, anim) the encoding of FILE, instead of the "
-              "one\n"
-              "                    that seems to be in use; it is kept when FILE is written\n"
-              "  --engine NAME     (run) an engine of the settings, or a program\n"
-              "  --parameters TEXT (run) what the engine gets, with %0, %1 for the projects\n"
-              "  --no-safety-backup\n"
-              "                    (restore) do not copy the game aside first\n"
-              "  --                what follows is no option\n"
+              "'zorv help COMMAND' tells the options of a command. What follows '--' is no "
+              "option.\n"
               "\n"
               "Status: 0 fine, 1 problems found, 2 wrong usage, 3 the work could not be done.\n"
               "That of 'run' is the status of the engine.\n");
 }
 
+QString optionLines(const Command& command)
+{
+    QString text;
+    for (const OptionInfo& option : options()) {
+        if (option.option & command.options) {
+            text += QStringLiteral("  %1%2\n")
+                        .arg(optionForm(option), -OptionWidth)
+                        .arg(tr(option.summary));
+        }
+    }
+    return text.isEmpty() ? text : tr("\nOptions:\n") + text;
+}
+
 QString details(const Command& command)
 {
     return QStringLiteral("%1\n\nusage: %2\n\n%3\n")
-        .arg(tr(command.summary), command.usage(), tr(command.details));
+               .arg(tr(command.summary), command.usage(), tr(command.details)) +
+           optionLines(command);
 }
 
 }  // namespace

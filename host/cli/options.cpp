@@ -1,0 +1,239 @@
+#include "options.h"
+
+#include "code/codecs/textcodecs.h"
+#include "operations/media/imagefiles.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QTextCodec>
+
+#include <algorithm>
+
+namespace Cli {
+
+namespace {
+
+const int MaxSide = 32767;
+const int MaxGroup = 65535;
+const int MaxFactor = 1000;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("Cli", text);
+}
+
+QString expected(const char* what, const QString& found)
+{
+    return tr("Expected %1; found '%2'.").arg(tr(what), found);
+}
+
+/// Reads a whole number of a range.
+bool takeNumber(const QString& text, int least, int most, int* number)
+{
+    bool isNumber = false;
+    *number = text.toInt(&isNumber);
+    return isNumber && *number >= least && *number <= most;
+}
+
+bool takePair(const QString& text, const char* form, int* first, int* second)
+{
+    const QRegularExpression pattern{QLatin1String(form)};
+    const QRegularExpressionMatch match = pattern.match(text);
+    *first = match.captured(1).toInt();
+    *second = match.captured(2).toInt();
+    return match.hasMatch();
+}
+
+QString takeEncoding(const QString& name, Invocation& invocation)
+{
+    const QTextCodec* codec = QTextCodec::codecForName(name.toUtf8());
+    invocation.codec = codec ? Zorv::TextCodecs::index(codec->name().constData()) : 0;
+    return invocation.codec != 0
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli",
+                                            "an encoding such as UTF-8, windows-1252 or Shift_JIS"),
+                          name);
+}
+
+QString takeSelection(const QString& text, Invocation& invocation)
+{
+    return invocation.selection.add(text)
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli", "groups such as 200, 200-299 or 200,3"), text);
+}
+
+QString takeAxis(const QString& text, Invocation& invocation)
+{
+    invocation.hasAxis = takePair(text, "^\\s*(-?\\d{1,5})\\s*,\\s*(-?\\d{1,5})\\s*$",
+                                  &invocation.axis.rx(), &invocation.axis.ry()) &&
+                         qMax(qAbs(invocation.axis.x()), qAbs(invocation.axis.y())) <= MaxSide;
+    return invocation.hasAxis
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli", "two numbers such as 32,96"), text);
+}
+
+QString takeSize(const QString& text, Invocation& invocation)
+{
+    QSize& size = invocation.size;
+    const bool isSize =
+        takePair(text, "^(\\d{1,5})[x,](\\d{1,5})$", &size.rwidth(), &size.rheight()) &&
+        !size.isEmpty() && qMax(size.width(), size.height()) <= MaxSide;
+    return isSize ? QString()
+                  : expected(QT_TRANSLATE_NOOP("Cli", "a size such as 64x96, up to 32767x32767"),
+                             text);
+}
+
+QString takeFactor(const QString& text, Invocation& invocation)
+{
+    bool isNumber = false;
+    invocation.factor = text.toDouble(&isNumber);
+    return isNumber && invocation.factor > 0 && invocation.factor <= MaxFactor
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli", "a factor such as 2 or 0.5"), text);
+}
+
+QString takeAngle(const QString& text, Invocation& invocation)
+{
+    bool isNumber = false;
+    invocation.angle = text.toDouble(&isNumber);
+    return isNumber && qAbs(invocation.angle) <= 360000
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli", "an angle in degrees"), text);
+}
+
+QString takeFilter(const QString& text, Invocation& invocation)
+{
+    const QStringList names{QStringLiteral("nearest"), QStringLiteral("bilinear"),
+                            QStringLiteral("epx"), QStringLiteral("hq")};
+    const int index = names.indexOf(text);
+    invocation.filter = Zorv::ImageResizeFilter(qMax(index, 0));
+    return index >= 0 ? QString()
+                      : expected(QT_TRANSLATE_NOOP("Cli", "nearest, bilinear, epx or hq"), text);
+}
+
+QString takePlace(const QString& text, Invocation& invocation)
+{
+    invocation.output.place = text;
+    return text.isEmpty() ? expected(QT_TRANSLATE_NOOP("Cli", "a folder or file"), text)
+                          : QString();
+}
+
+QString takeFormat(const QString& text, Invocation& invocation)
+{
+    invocation.output.format = text.toUpper().toLatin1();
+    return Family::isImageFormat(invocation.output.format)
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli", "png, pcx, bmp or gif"), text);
+}
+
+QString takeForce(const QString&, Invocation& invocation)
+{
+    invocation.output.force = true;
+    return {};
+}
+
+template <int Invocation::*member, int least, int most>
+QString takeInt(const QString& text, Invocation& invocation)
+{
+    return takeNumber(text, least, most, &(invocation.*member))
+               ? QString()
+               : tr("Expected a number from %1 to %2; found '%3'.")
+                     .arg(QString::number(least), QString::number(most), text);
+}
+
+template <bool Invocation::*member>
+QString setFlag(const QString&, Invocation& invocation)
+{
+    invocation.*member = true;
+    return {};
+}
+
+template <QString Invocation::*member>
+QString setText(const QString& text, Invocation& invocation)
+{
+    invocation.*member = text;
+    return {};
+}
+
+// clang-format off
+const OptionInfo table[] = {
+    {Json, "--json", nullptr, setFlag<&Invocation::json>,
+     QT_TRANSLATE_NOOP("Cli", "print JSON")},
+    {DryRun, "--dry-run", nullptr, setFlag<&Invocation::dryRun>,
+     QT_TRANSLATE_NOOP("Cli", "print what would change, write nothing")},
+    {NoSafety, "--no-safety-backup", nullptr, setFlag<&Invocation::noSafetyBackup>,
+     QT_TRANSLATE_NOOP("Cli", "do not copy the game aside first")},
+    {Encoding, "--encoding", "NAME", takeEncoding,
+     QT_TRANSLATE_NOOP("Cli", "the encoding of FILE, instead of the one that seems to be in use")},
+    {Engine, "--engine", "NAME", setText<&Invocation::engine>,
+     QT_TRANSLATE_NOOP("Cli", "an engine of the settings, or a program")},
+    {Parameters, "--parameters", "TEXT", setText<&Invocation::parameters>,
+     QT_TRANSLATE_NOOP("Cli", "what the engine gets, with %0, %1 for the projects")},
+    {Select, "--select", "GROUPS", takeSelection,
+     QT_TRANSLATE_NOOP("Cli", "only these: '200', '200-299', '200,3', several with blanks")},
+    {PaletteId, "--palette", "ID|FILE", setText<&Invocation::palette>,
+     QT_TRANSLATE_NOOP("Cli", "this palette: its group and number as '1,1', or a palette file")},
+    {PaletteFile, "--palette", "FILE", setText<&Invocation::palette>,
+     QT_TRANSLATE_NOOP("Cli", "the colours of a palette file or an image")},
+    {Adapt, "--adapt", nullptr, setFlag<&Invocation::adapts>,
+     QT_TRANSLATE_NOOP("Cli", "pixels take the nearest of the new colours, instead of their indices")},
+    {Recolor, "--recolour", nullptr, setFlag<&Invocation::recolors>,
+     QT_TRANSLATE_NOOP("Cli", "the palette takes the colours of the image, for all its sprites")},
+    {Size, "--size", "WxH", takeSize,
+     QT_TRANSLATE_NOOP("Cli", "the size in pixels")},
+    {Factor, "--factor", "N", takeFactor,
+     QT_TRANSLATE_NOOP("Cli", "how many times the size")},
+    {Angle, "--angle", "DEGREES", takeAngle,
+     QT_TRANSLATE_NOOP("Cli", "clockwise")},
+    {Filter, "--filter", "NAME", takeFilter,
+     QT_TRANSLATE_NOOP("Cli", "nearest (as without it), bilinear, epx or hq")},
+    {Background, "--background", "INDEX", takeInt<&Invocation::background, -1, 255>,
+     QT_TRANSLATE_NOOP("Cli", "the index of what does not show in indexed images, 0 without it")},
+    {Colors, "--colours", "N", takeInt<&Invocation::colors, 1, 256>,
+     QT_TRANSLATE_NOOP("Cli", "at most so many colours, up to 256")},
+    {Common, "--common", nullptr, setFlag<&Invocation::isCommon>,
+     QT_TRANSLATE_NOOP("Cli", "one palette for all images")},
+    {Group, "--group", "N", takeInt<&Invocation::group, 0, MaxGroup>,
+     QT_TRANSLATE_NOOP("Cli", "the group of all files, numbered in their order, whatever their names")},
+    {Axis, "--axis", "X,Y", takeAxis,
+     QT_TRANSLATE_NOOP("Cli", "the axis of all images, from their top left corner")},
+    {Crop, "--crop", nullptr, setFlag<&Invocation::crops>,
+     QT_TRANSLATE_NOOP("Cli", "cut off what does not show, and move the axis with it")},
+    {Coding, "--codec", "NAME", setText<&Invocation::coding>,
+     QT_TRANSLATE_NOOP("Cli", "how pixels are stored: lz5, rle8, pcx or png")},
+    {Columns, "--columns", "N", takeInt<&Invocation::columns, 1, 10000>,
+     QT_TRANSLATE_NOOP("Cli", "how many sprites stand side by side")},
+    {SpriteFile, "--sprites", "FILE", setText<&Invocation::sprites>,
+     QT_TRANSLATE_NOOP("Cli", "the sprite file, instead of the one beside FILE")},
+    {Out, "--out", "PLACE", takePlace,
+     QT_TRANSLATE_NOOP("Cli", "a folder, a file, or a pattern such as 'small/*.png'")},
+    {Format, "--format", "NAME", takeFormat,
+     QT_TRANSLATE_NOOP("Cli", "png, pcx, bmp or gif, where no suffix tells it")},
+    {Force, "--force", nullptr, takeForce,
+     QT_TRANSLATE_NOOP("Cli", "replace what is there already")},
+};
+// clang-format on
+
+}  // namespace
+
+const QVector<OptionInfo>& options()
+{
+    static const QVector<OptionInfo> rows(std::begin(table), std::end(table));
+    return rows;
+}
+
+QString optionForm(const OptionInfo& option)
+{
+    const QString name = QLatin1String(option.name);
+    return option.value ? name + QLatin1Char(' ') + QLatin1String(option.value) : name;
+}
+
+const OptionInfo* findOption(quint32 taken, const QString& name)
+{
+    const auto found = std::find_if(std::begin(table), std::end(table), [&](const OptionInfo& row) {
+        return (row.option & taken) && name == QLatin1String(row.name);
+    });
+    return found == std::end(table) ? nullptr : found;
+}
+
+}  // namespace Cli

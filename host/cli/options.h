@@ -1,0 +1,98 @@
+#pragma once
+
+#include "media/tools/imageresizefilter.h"
+#include "operations/media/outputfiles.h"
+#include "operations/media/selection.h"
+
+#include <QPoint>
+#include <QSize>
+#include <QStringList>
+
+namespace Cli {
+
+/// What the person has asked for.
+struct Invocation
+{
+    QStringList operands;
+    bool json = false;
+    bool dryRun = false;
+    bool noSafetyBackup = false;
+    int codec = -1;      ///< of `Zorv::TextCodecs`; negative to detect
+    QString engine;      ///< null if none was named
+    QString parameters;  ///< for the engine; null if none were given
+
+    Family::OutputRequest output;  ///< --out, --format, --force
+    Family::Selection selection;
+    QString palette;  ///< an identifier or a file; null if none was named
+    bool adapts = false;
+    bool recolors = false;
+    bool crops = false;
+    bool isCommon = false;
+    int columns = 0;  ///< 0 for as many as make the sheet about square
+    int group = -1;
+    QPoint axis;
+    bool hasAxis = false;
+    int background = 0;
+    int colors = 0;
+    QSize size;         ///< not valid if none was given
+    double factor = 0;  ///< 0 if none was given
+    double angle = 0;
+    Zorv::ImageResizeFilter filter = Zorv::ImageResizeFilter::Nearest;
+    QString coding;   ///< of pixels in a sprite file; null if none was named
+    QString sprites;  ///< a file; null if none was named
+};
+
+/// The options of all commands. A command names those that it takes as flags.
+enum Option : quint32 {
+    NoOptions = 0,
+    Json = 1u << 0,
+    DryRun = 1u << 1,
+    Encoding = 1u << 2,
+    NoSafety = 1u << 3,
+    Engine = 1u << 4,
+    Parameters = 1u << 5,
+    Out = 1u << 6,
+    Format = 1u << 7,
+    Force = 1u << 8,
+    Select = 1u << 9,
+    PaletteId = 1u << 10,
+    PaletteFile = 1u << 11,
+    Adapt = 1u << 12,
+    Recolor = 1u << 13,
+    Crop = 1u << 14,
+    Common = 1u << 15,
+    Columns = 1u << 16,
+    Group = 1u << 17,
+    Axis = 1u << 18,
+    Background = 1u << 19,
+    Colors = 1u << 20,
+    Size = 1u << 21,
+    Factor = 1u << 22,
+    Angle = 1u << 23,
+    Filter = 1u << 24,
+    Coding = 1u << 25,
+    SpriteFile = 1u << 26
+};
+
+/// One option: a row of the table.
+struct OptionInfo
+{
+    quint32 option;
+    const char* name;   ///< "--json"
+    const char* value;  ///< what stands behind it, as the usage shows it; null for nothing
+
+    /// Takes it; `text` is what stands behind it. Gives what is wrong with that, or nothing.
+    QString (*take)(const QString& text, Invocation& invocation);
+    const char* summary;  ///< one line
+};
+
+/// The rows in the order of the usage.
+const QVector<OptionInfo>& options();
+
+/// "--encoding NAME".
+QString optionForm(const OptionInfo& option);
+
+/// The option of a name among those that are taken; null if it is none of them.
+const OptionInfo* findOption(quint32 taken, const QString& name);
+
+}  // namespace Cli

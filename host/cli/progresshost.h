@@ -1,0 +1,20 @@
+#pragma once
+
+#include "notedsignals.h"
+#include "operations/hostinterface.h"
+
+namespace Cli {
+
+/// Shows how far the work is, and lets Ctrl+C end it where every file is whole.
+class ProgressHost final : public Family::HostInterface
+{
+public:
+    ProgressHost();
+
+    Zorv::ProgressReporter* progress(const QString& title, int style) override;
+
+private:
+    NotedSignals m_signals;
+};
+
+}  // namespace Cli

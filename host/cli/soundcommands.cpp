@@ -1,0 +1,144 @@
+#include "assets/soundfile.h"
+#include "cli.h"
+#include "command.h"
+#include "core/filesystemarchive.h"
+#include "mediaresults.h"
+#include "operations/media/filepatterns.h"
+#include "operations/media/soundwork.h"
+#include "output.h"
+#include "progresshost.h"
+
+#include <QFileInfo>
+#include <QJsonObject>
+
+#include <memory>
+
+namespace Cli {
+
+namespace {
+
+struct Release
+{
+    void operator()(Family::SoundFile* sounds) const { sounds->release(); }
+};
+
+using OpenSounds = std::unique_ptr<Family::SoundFile, Release>;
+
+/// Null if the file cannot be read. What is wrong with it is told.
+OpenSounds openSounds(const QString& fileName)
+{
+    OpenSounds sounds(new Family::SoundFile);
+    if (!sounds->fromFile(*Zorv::FileSystemArchive::instance(), fileName, false)) {
+        complain(sounds->errorString());
+        return {};
+    }
+    const QStringList broken = sounds->loadErrors();
+    for (const QString& line : broken) {
+        complain(line);
+    }
+    return sounds;
+}
+
+QStringList columnsOf(const Zorv::SampleInfo& info)
+{
+    return {QString::number(info.channels), QString::number(info.bits),
+            QString::number(info.sampleRate), QString::number(info.frames),
+            QString::number(Family::duration(info), 'f', 3)};
+}
+
+QJsonObject objectOf(const Zorv::SampleInfo& info)
+{
+    return {{QStringLiteral("channels"), info.channels},
+            {QStringLiteral("bits"), info.bits},
+            {QStringLiteral("rate"), info.sampleRate},
+            {QStringLiteral("frames"), info.frames},
+            {QStringLiteral("seconds"), Family::duration(info)}};
+}
+
+}  // namespace
+
+int listSounds(const Invocation& invocation, Output& output)
+{
+    const OpenSounds sounds = openSounds(invocation.operands.first());
+    if (!sounds) {
+        return NotDone;
+    }
+    if (!invocation.json) {
+        for (const auto& sound : sounds->items()) {
+            output.writeLine(QStringList{QString::number(sound->row), sound->id().text()} +
+                             columnsOf(sound->sampleInfo()));
+        }
+        return Fine;
+    }
+    JsonList list(output);
+    for (const auto& sound : sounds->items()) {
+        QJsonObject object = objectOf(sound->sampleInfo());
+        object.insert(QStringLiteral("index"), sound->row);
+        object.insert(QStringLiteral("group"), sound->id().group);
+        object.insert(QStringLiteral("number"), sound->id().number);
+        list.add(object);
+    }
+    return Fine;
+}
+
+int exportSounds(const Invocation& invocation, Output&)
+{
+    ProgressHost host;
+    const OpenSounds sounds = openSounds(invocation.operands.first());
+    if (!sounds) {
+        return NotDone;
+    }
+    Family::OutputRequest request = invocation.output;
+    request.place = invocation.operands.at(1);
+    return tell(Family::exportSounds(*sounds, invocation.selection, request));
+}
+
+int importSounds(const Invocation& invocation, Output&)
+{
+    const QString fileName = invocation.operands.first();
+    QString error;
+    const QStringList files = Family::expandPatterns(invocation.operands.mid(1), &error);
+    if (!error.isEmpty()) {
+        return notDone(error);
+    }
+    ProgressHost host;
+    const OpenSounds sounds =
+        QFileInfo::exists(fileName) ? openSounds(fileName) : OpenSounds(new Family::SoundFile);
+    if (!sounds) {
+        return NotDone;
+    }
+    const int status =
+        tell(Family::importSounds(sounds.get(), files, invocation.group, invocation.output.force));
+    if (status != Fine || !sounds->isModified()) {
+        return status;
+    }
+    return sounds->toFile(*Zorv::FileSystemArchive::instance(), fileName, false)
+               ? int(Fine)
+               : notDone(sounds->errorString());
+}
+
+int tellOfSounds(const Invocation& invocation, Output& output)
+{
+    QString error;
+    const QStringList files = Family::expandPatterns(invocation.operands, &error);
+    if (!error.isEmpty()) {
+        return notDone(error);
+    }
+    Family::MediaResult result;
+    std::unique_ptr<JsonList> list(invocation.json ? new JsonList(output) : nullptr);
+    for (const QString& file : files) {
+        Zorv::SoundSample sample;
+        QString fault;
+        if (Family::readSound(file, &sample, &fault) && list) {
+            QJsonObject object = objectOf(sample);
+            object.insert(QStringLiteral("file"), file);
+            list->add(object);
+        } else if (fault.isEmpty()) {
+            output.writeLine(QStringList{file} + columnsOf(sample));
+        }
+        result.note(fault);
+    }
+    return tell(result);
+}
+
+}  // namespace Cli

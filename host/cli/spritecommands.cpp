@@ -1,0 +1,211 @@
+#include "assets/newsprites.h"
+#include "assets/spritecollection.h"
+#include "cli.h"
+#include "command.h"
+#include "core/filesystemarchive.h"
+#include "mediaresults.h"
+#include "operations/media/filepatterns.h"
+#include "operations/media/imagefiles.h"
+#include "operations/media/spriteexport.h"
+#include "operations/media/spriteimport.h"
+#include "operations/media/spritesheet.h"
+#include "output.h"
+#include "progresshost.h"
+#include "spriteopening.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonObject>
+
+namespace Cli {
+
+namespace {
+
+using Family::FamilySprite;
+using Family::PaletteColors;
+using Family::SpriteCollection;
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Cli)
+};
+
+QString paletteOf(const FamilySprite& sprite)
+{
+    return sprite.property(QStringLiteral("Palette")).toString();
+}
+
+QStringList columnsOf(const FamilySprite& sprite)
+{
+    return {QString::number(sprite.row),
+            sprite.id().text(),
+            QStringLiteral("%1x%2").arg(sprite.size().width()).arg(sprite.size().height()),
+            QStringLiteral("%1,%2").arg(sprite.axis().x()).arg(sprite.axis().y()),
+            paletteOf(sprite).isEmpty() ? QStringLiteral("-") : paletteOf(sprite),
+            Family::codecName(sprite.codec()),
+            sprite.fault()};
+}
+
+QJsonObject objectOf(const FamilySprite& sprite)
+{
+    QJsonObject object{{QStringLiteral("index"), sprite.row},
+                       {QStringLiteral("group"), sprite.id().group},
+                       {QStringLiteral("number"), sprite.id().number},
+                       {QStringLiteral("width"), sprite.size().width()},
+                       {QStringLiteral("height"), sprite.size().height()},
+                       {QStringLiteral("axisX"), sprite.axis().x()},
+                       {QStringLiteral("axisY"), sprite.axis().y()},
+                       {QStringLiteral("bits"), sprite.bits()},
+                       {QStringLiteral("codec"), Family::codecName(sprite.codec())}};
+    if (!paletteOf(sprite).isEmpty()) {
+        object.insert(QStringLiteral("palette"), paletteOf(sprite));
+    }
+    if (!sprite.fault().isEmpty()) {
+        object.insert(QStringLiteral("fault"), sprite.fault());
+    }
+    return object;
+}
+
+/// The colours of `--palette`, null if none was asked for. False if there are none such.
+bool givenColors(const Invocation& invocation, const SpriteCollection& sprites,
+                 PaletteColors* colors, const PaletteColors** given)
+{
+    *given = invocation.palette.isNull() ? nullptr : colors;
+    QString error;
+    if (!*given || Family::findPalette(sprites, invocation.palette, colors, &error)) {
+        return true;
+    }
+    complain(error);
+    return false;
+}
+
+void writePlaces(const Family::SpriteSheet& sheet, const SpriteCollection& sprites, Output& output)
+{
+    JsonList list(output);
+    for (const Family::SpriteSheet::Place& place : sheet.places) {
+        QJsonObject object = objectOf(*sprites.sprite(place.row));
+        object.insert(QStringLiteral("x"), place.rect.x());
+        object.insert(QStringLiteral("y"), place.rect.y());
+        list.add(object);
+    }
+}
+
+Family::ImportRequest importRequest(const Invocation& invocation)
+{
+    Family::ImportRequest request;
+    request.group = invocation.group;
+    request.axis = invocation.axis;
+    request.hasAxis = invocation.hasAxis;
+    request.crops = invocation.crops;
+    request.palette = invocation.palette;
+    request.recolors = invocation.recolors;
+    request.codec = Family::codecByName(invocation.coding);
+    request.force = invocation.output.force;
+    return request;
+}
+
+/// What is wrong with the options of an import; empty if nothing is.
+QString importFault(const Invocation& invocation)
+{
+    using Family::PixelCodec;
+    const PixelCodec codec = Family::codecByName(invocation.coding);
+    if (!invocation.coding.isNull() && (codec == PixelCodec::None || codec == PixelCodec::Gif)) {
+        return Text::tr("Expected lz5, rle8, pcx or png; found '%1'.").arg(invocation.coding);
+    }
+    if (invocation.recolors && invocation.palette.isNull()) {
+        return Text::tr("Expected which palette takes the colours: '--palette'.");
+    }
+    return {};
+}
+
+}  // namespace
+
+int listSprites(const Invocation& invocation, Output& output)
+{
+    const OpenSprites sprites(invocation.operands.first());
+    if (!sprites) {
+        return NotDone;
+    }
+    if (!invocation.json) {
+        for (const auto& sprite : sprites->items()) {
+            output.writeLine(columnsOf(*sprite));
+        }
+        return Fine;
+    }
+    JsonList list(output);
+    for (const auto& sprite : sprites->items()) {
+        list.add(objectOf(*sprite));
+    }
+    return Fine;
+}
+
+int exportSprites(const Invocation& invocation, Output&)
+{
+    ProgressHost host;
+    const OpenSprites sprites(invocation.operands.first());
+    PaletteColors colors;
+    const PaletteColors* given = nullptr;
+    if (!sprites || !givenColors(invocation, *sprites, &colors, &given)) {
+        return NotDone;
+    }
+    Family::OutputRequest request = invocation.output;
+    request.place = invocation.operands.at(1);
+    return tell(Family::exportSprites(*sprites, invocation.selection, request, given));
+}
+
+int importSprites(const Invocation& invocation, Output&)
+{
+    QString error = importFault(invocation);
+    if (!error.isEmpty()) {
+        return wrongUsage(error);
+    }
+    const QString fileName = invocation.operands.first();
+    const QStringList files = Family::expandPatterns(invocation.operands.mid(1), &error);
+    if (!error.isEmpty()) {
+        return notDone(error);
+    }
+    ProgressHost host;
+    const OpenSprites sprites(fileName, OpenSprites::OrNew);
+    if (!sprites) {
+        return NotDone;
+    }
+    const Family::MediaResult result =
+        Family::importSprites(sprites.get(), files, importRequest(invocation));
+    const int status = tell(result);
+    return status == Fine ? sprites.save(fileName) : status;
+}
+
+int makeSheet(const Invocation& invocation, Output& output)
+{
+    ProgressHost host;
+    const OpenSprites sprites(invocation.operands.first());
+    PaletteColors colors;
+    const PaletteColors* given = nullptr;
+    if (!sprites || !givenColors(invocation, *sprites, &colors, &given)) {
+        return NotDone;
+    }
+    Family::OutputRequest request = invocation.output;
+    request.place = invocation.operands.at(1);
+    Family::OutputFiles outputs;
+    QString error;
+    if (!outputs.plan({QFileInfo(invocation.operands.first()).completeBaseName()}, request,
+                      QByteArrayLiteral("PNG"), &error)) {
+        return notDone(error);
+    }
+    const Family::SpriteSheet sheet =
+        Family::makeSpriteSheet(*sprites, invocation.selection, invocation.columns, given);
+    Family::MediaResult result;
+    result.errors = sheet.broken;
+    result.isCanceled = sheet.isCanceled;
+    if (!sheet.isCanceled) {
+        result.note(sheet.error.isEmpty() ? Family::writeImage(sheet.image, outputs, 0)
+                                          : sheet.error);
+    }
+    if (invocation.json && result.done > 0) {
+        writePlaces(sheet, *sprites, output);
+    }
+    return tell(result);
+}
+
+}  // namespace Cli

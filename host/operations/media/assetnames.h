@@ -1,0 +1,33 @@
+#pragma once
+
+#include "assets/assetid.h"
+
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+namespace Family {
+
+/// Where a file goes: a sprite or sound, and which one of several with its identifier.
+struct ImportTarget
+{
+    AssetId id;
+    int copy = 1;
+};
+
+/// What sprites, palettes and sounds are called as files, without a suffix: "GROUP-NUMBER", and
+/// "GROUP-NUMBER_2" for the second of one identifier.
+QStringList exportNames(const QVector<AssetId>& ids);
+
+/// Reads such a name, with anything that is no digit in front, as in "hero-200-3.png". False for
+/// any other.
+bool importTarget(const QString& fileName, ImportTarget* target);
+
+/// Where each of some files goes: by its name or, with a group, to the next free number of that,
+/// which `freeId` gives from an identifier on. Empty, with `error`, if a name does not tell it, two
+/// files go to the same place, or the group is full.
+QVector<ImportTarget> importTargets(const QStringList& files, int group,
+                                    const std::function<AssetId(AssetId)>& freeId, QString* error);
+
+}  // namespace Family

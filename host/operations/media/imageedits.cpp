@@ -1,0 +1,167 @@
+#include "operations/media/imageedits.h"
+
+#include "media/colorconversion.h"
+#include "media/tools/colorquantizer.h"
+#include "media/tools/cropimage.h"
+#include "media/tools/resizeimage.h"
+#include "media/tools/rotateimage.h"
+#include "operations/media/imagefiles.h"
+#include "operations/media/jobs.h"
+
+#include <QCoreApplication>
+
+namespace Family {
+
+namespace {
+
+const int MaxSide = 32767;
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Family::ImageEdits)
+};
+
+/// Empty if it was done, else why not.
+QString editFile(const QString& fileName, const ImageEdit& edit, const OutputFiles& outputs,
+                 int index)
+{
+    QString error;
+    const QImage image = readImage(fileName, &error);
+    if (image.isNull()) {
+        return error;
+    }
+    const QImage edited = edit(image, &error);
+    return edited.isNull() ? QStringLiteral("'%1': %2").arg(fileName, error)
+                           : writeImage(edited, outputs, index);
+}
+
+QString sizeText(const QSize& size)
+{
+    return Text::tr("%1 by %2").arg(size.width()).arg(size.height());
+}
+
+QVector<QRgb> colorTable(const QVector<Zorv::RGBA>& colors)
+{
+    QVector<QRgb> table;
+    for (const Zorv::RGBA& color : colors) {
+        table.append(qRgba(color.r, color.g, color.b, color.a));
+    }
+    return table;
+}
+
+}  // namespace
+
+MediaResult editImages(const QStringList& files, const OutputRequest& request,
+                       const ImageEdit& edit)
+{
+    MediaResult result;
+    OutputFiles outputs;
+    QString error;
+    if (!outputs.plan(files, request, {}, &error)) {
+        return MediaResult(error);
+    }
+    const auto prepare = [&](int i) -> std::function<QString()> {
+        return [&, i] { return editFile(files[i], edit, outputs, i); };
+    };
+    const auto take = [&](int, const QString& fault) { result.note(fault); };
+    result.isCanceled = !runJobs<QString>(Text::tr("Images"), files.size(), prepare, take);
+    return result;
+}
+
+ImageEdit keepingImage()
+{
+    return [](const QImage& image, QString*) { return image; };
+}
+
+ImageEdit croppingImage(int background)
+{
+    return [background](const QImage& image, QString*) {
+        QImage cropped = image;
+        Zorv::cropImage(cropped, nullptr, background);
+        return cropped;
+    };
+}
+
+ImageEdit resizingImage(const QSize& size, double factor, Zorv::ImageResizeFilter filter)
+{
+    return [=](const QImage& image, QString* error) {
+        const QSizeF wanted = factor > 0 ? QSizeF(image.size()) * factor : QSizeF(size);
+        const bool fits = wanted.width() <= MaxSide && wanted.height() <= MaxSide;
+        const QSize whole = fits ? wanted.toSize().expandedTo({1, 1}) : QSize();
+        const QImage resized = fits ? Zorv::resizeImage(image, whole, filter) : QImage();
+        if (resized.isNull()) {
+            *error = Text::tr("The result would be larger than %1, or than the memory.")
+                         .arg(sizeText({MaxSide, MaxSide}));
+        }
+        return resized;
+    };
+}
+
+ImageEdit rotatingImage(double degrees, int background, Zorv::ImageResizeFilter filter)
+{
+    return [=](const QImage& image, QString* error) {
+        const bool isIndexed = image.format() == QImage::Format_Indexed8;
+        const uint corners = isIndexed                 ? uint(background)
+                             : image.hasAlphaChannel() ? 0
+                                                       : 0xFF000000;
+        const QImage rotated = Zorv::rotateImage(image, float(degrees), corners, filter);
+        if (rotated.isNull()) {
+            *error = Text::tr("The result would be too large.");
+        }
+        return rotated;
+    };
+}
+
+ImageEdit quantizingImage(int colors)
+{
+    return [colors](const QImage& image, QString*) {
+        return Zorv::ColorQuantizer::quantize(image, colors);
+    };
+}
+
+ImageEdit adaptingImage(const QVector<Zorv::RGBA>& colors)
+{
+    return [colors](const QImage& image, QString*) {
+        return Zorv::ColorQuantizer::adapt(image, colors);
+    };
+}
+
+ImageEdit recoloringImage(const QVector<Zorv::RGBA>& colors)
+{
+    return [table = colorTable(colors)](const QImage& image, QString* error) {
+        if (image.format() != QImage::Format_Indexed8) {
+            *error =
+                Text::tr("It has no palette. Have its pixels take the nearest colours instead.");
+            return QImage();
+        }
+        QImage recolored = image;
+        recolored.setColorTable(table);
+        return recolored;
+    };
+}
+
+QVector<Zorv::RGBA> commonPalette(const QStringList& files, int colors, MediaResult* result)
+{
+    struct Read
+    {
+        QImage image;
+        QString error;
+    };
+    Zorv::ColorQuantizer quantizer;
+    const auto prepare = [&](int i) -> std::function<Read()> {
+        return [file = files[i]] {
+            Read read;
+            read.image = readImage(file, &read.error);
+            return read;
+        };
+    };
+    const auto take = [&](int, const Read& read) {
+        read.error.isEmpty() ? quantizer.addImage(read.image) : result->errors.append(read.error);
+    };
+    result->isCanceled = !runJobs<Read>(Text::tr("Colors"), files.size(), prepare, take);
+    const bool isDone = result->errors.isEmpty() && !result->isCanceled;
+    return isDone ? quantizer.palette(colors) : QVector<Zorv::RGBA>();
+}
+
+}  // namespace Family

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+namespace Family {
+
+class OutputFiles;
+
+/// Reads an image file, of the format of its suffix. Null, with `error` for the person, if it
+/// cannot be read. Re-entrant.
+QImage readImage(const QString& fileName, QString* error);
+
+/// The bytes of an image file. GIF takes the nearest 256 colours of an image that has more. Empty,
+/// with `error`, for a format that images are not written in, or that has no place for the image;
+/// `name` is what the message calls it. Re-entrant.
+QByteArray imageFile(const QImage& image, const QByteArray& format, const QString& name,
+                     QString* error);
+
+/// Writes an image as a result of a piece of work. Empty if that was done, else why not.
+/// Re-entrant.
+QString writeImage(const QImage& image, const OutputFiles& outputs, int index);
+
+/// True for the formats in which images are written.
+bool isImageFormat(const QByteArray& format);
+
+}  // namespace Family

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+namespace Family {
+
+/// Where the results of a piece of work go, as the person says it.
+struct OutputRequest
+{
+    /// A folder, which may be new and then ends in "/" or has no suffix; or a file; or a pattern
+    /// such as "small/*-x2.png", whose `*` stands for the name of each result. Empty for the
+    /// places of the inputs.
+    QString place;
+    QByteArray format;   ///< "PNG"; empty for that of the place, else of the input
+    bool force = false;  /// what is there already may be replaced
+};
+
+/// The files that a piece of work writes, checked before it begins.
+class OutputFiles
+{
+public:
+    /// Makes a name for each result. `names` are the files that they are made of, or just what
+    /// they are called, without a folder; `format` is that of a result whose name has none.
+    /// False, with `error`, if two would become one file, or if a file is there already, as all
+    /// inputs are, and may not be replaced.
+    bool plan(const QStringList& names, const OutputRequest& request, const QByteArray& format,
+              QString* error);
+
+    int count() const { return m_paths.size(); }
+    QString path(int index) const { return m_paths.at(index); }
+
+    /// The format of a result, as `Zorv::fileExtension()` makes it of its name.
+    QByteArray format(int index) const;
+
+    /// Writes a result, with the folder that it needs. The file is there whole or not at all. Empty
+    /// if that was done, else why not, for the person. Re-entrant.
+    QString write(int index, const QByteArray& bytes) const;
+
+private:
+    bool checkPaths(const QStringList& names, QString* error) const;
+    bool checkExisting(QString* error) const;
+
+    QStringList m_paths;
+    bool m_force = false;
+};
+
+}  // namespace Family

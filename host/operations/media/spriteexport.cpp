@@ -1,0 +1,138 @@
+#include "operations/media/spriteexport.h"
+
+#include "assets/spritecollection.h"
+#include "assets/spritejobs.h"
+#include "operations/media/assetnames.h"
+#include "operations/media/imagefiles.h"
+#include "operations/media/jobs.h"
+#include "operations/media/palettework.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+namespace Family {
+
+namespace {
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Family::SpriteExport)
+};
+
+QVector<AssetId> idsOf(const SpriteCollection& sprites, const QVector<int>& rows)
+{
+    QVector<AssetId> ids;
+    for (int row : rows) {
+        ids.append(sprites.sprite(row)->id());
+    }
+    return ids;
+}
+
+}  // namespace
+
+QVector<int> selectedRows(const SpriteCollection& sprites, const Selection& selection)
+{
+    QVector<int> rows;
+    for (int row = 0; row < int(sprites.count()); ++row) {
+        const AssetId id = sprites.sprite(row)->id();
+        if (selection.contains(id.group, id.number)) {
+            rows.append(row);
+        }
+    }
+    return rows;
+}
+
+bool findPalette(const SpriteCollection& sprites, const QString& name, PaletteColors* colors,
+                 QString* error)
+{
+    AssetId id;
+    if (!AssetId::read(name, &id)) {
+        Zorv::RGBA read[256];
+        const bool isRead = readPalette(name, read, error);
+        std::copy(std::begin(read), std::end(read), colors->begin());
+        return isRead;
+    }
+    const FamilyPalette* palette = sprites.palettes()->byId(id);
+    if (!palette) {
+        *error = Text::tr("There is no palette %1.").arg(id.text());
+        return false;
+    }
+    *colors = palette->state.colors;
+    return true;
+}
+
+MediaResult exportSprites(const SpriteCollection& sprites, const Selection& selection,
+                          const OutputRequest& request, const PaletteColors* colors)
+{
+    const QVector<int> rows = selectedRows(sprites, selection);
+    const QVector<AssetId> ids = idsOf(sprites, rows);
+    if (rows.isEmpty()) {
+        return MediaResult(Text::tr("There is no such sprite."));
+    }
+    OutputFiles outputs;
+    QString error;
+    if (!outputs.plan(exportNames(ids), request, QByteArrayLiteral("PNG"), &error)) {
+        return MediaResult(error);
+    }
+    const QVector<QRgb> table = colors ? tableOfColors(*colors) : QVector<QRgb>();
+    QHash<int, int> placeOf;
+    for (int row : rows) {
+        placeOf.insert(row, placeOf.size());
+    }
+    QVector<QString> faults(rows.size());
+    QString* fault = faults.data();
+    ImageJob job;
+    job.rows = rows;
+    job.work = [&](int row, QImage image) {
+        const int i = placeOf.value(row);
+        if (image.isNull()) {
+            fault[i] = Text::tr("Sprite %1 has no pixels, or they are broken.").arg(ids[i].text());
+            return;
+        }
+        if (colors && image.format() == QImage::Format_Indexed8) {
+            image.setColorTable(table);
+        }
+        fault[i] = writeImage(image, outputs, i);
+    };
+    JobProgress progress(Text::tr("Sprites"), rows.size());
+    job.progress = [&](int done) { return progress.update(done); };
+    MediaResult result;
+    result.isCanceled = !forEachImage(sprites, job);
+    for (const QString& text : qAsConst(faults)) {
+        result.note(text);
+    }
+    return result;
+}
+
+MediaResult exportPalettes(const SpriteCollection& sprites, const Selection& selection,
+                           const OutputRequest& request)
+{
+    QVector<AssetId> ids;
+    QVector<const FamilyPalette*> palettes;
+    for (const auto& palette : sprites.palettes()->items()) {
+        if (selection.contains(palette->id().group, palette->id().number)) {
+            ids.append(palette->id());
+            palettes.append(palette.get());
+        }
+    }
+    if (ids.isEmpty()) {
+        return MediaResult(Text::tr("There is no such palette."));
+    }
+    OutputFiles outputs;
+    QString error;
+    if (!outputs.plan(exportNames(ids), request, QByteArrayLiteral("ACT"), &error)) {
+        return MediaResult(error);
+    }
+    MediaResult result;
+    for (int i = 0; i < palettes.size(); ++i) {
+        Zorv::RGBA colors[256];
+        palettes[i]->toPalette(colors);
+        QString fault;
+        const QByteArray bytes = paletteFile(colors, outputs.format(i), outputs.path(i), &fault);
+        result.note(fault.isEmpty() ? outputs.write(i, bytes) : fault);
+    }
+    return result;
+}
+
+}  // namespace Family

@@ -1,0 +1,180 @@
+#include "operations/media/spriteimport.h"
+
+#include "assets/spritecollection.h"
+#include "media/tools/cropimage.h"
+#include "operations/media/assetnames.h"
+#include "operations/media/imagefiles.h"
+#include "operations/media/jobs.h"
+#include "operations/media/spriteexport.h"
+
+#include <QCoreApplication>
+
+namespace Family {
+
+namespace {
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Family::SpriteImport)
+};
+
+/// An image on its way into a collection.
+struct ImportImage
+{
+    QImage image;
+    QPoint corner;  ///< what was cut off in front of it
+    QString error;
+};
+
+/// Puts images into a collection, between two of its signals.
+class Import
+{
+public:
+    Import(SpriteCollection* sprites, const QStringList& files, const ImportRequest& request)
+        : m_sprites(sprites), m_files(files), m_request(request)
+    {
+    }
+
+    MediaResult run();
+
+private:
+    bool findSprites(QString* error);
+    bool findPalette(QString* error);
+    bool readImages(MediaResult* result);
+    QString put(int index);
+
+    SpriteCollection* m_sprites;
+    QStringList m_files;
+    ImportRequest m_request;
+    QVector<ImportTarget> m_targets;
+    QVector<FamilySprite*> m_old;  ///< null for a sprite that is new
+    QVector<ImportImage> m_images;
+    FamilyPalette* m_palette = nullptr;
+};
+
+ImportImage readCropped(const QString& file, bool crops)
+{
+    ImportImage read;
+    read.image = readImage(file, &read.error);
+    if (crops && !read.image.isNull()) {
+        Zorv::cropImage(read.image, &read.corner);
+    }
+    if (qMax(read.image.width(), read.image.height()) > LargestSprite) {
+        read.error = Text::tr("'%1' is larger than a sprite can be, %2 by %2.")
+                         .arg(file, QString::number(LargestSprite));
+    }
+    return read;
+}
+
+MediaResult Import::run()
+{
+    QString error;
+    m_targets = importTargets(
+        m_files, m_request.group, [this](AssetId id) { return m_sprites->freeId(id); }, &error);
+    if (m_targets.isEmpty() || !findSprites(&error)) {
+        return MediaResult(error);
+    }
+    MediaResult result;
+    if (!readImages(&result)) {
+        return result;
+    }
+    m_sprites->beginChange(Text::tr("Import sprites"));
+    if (findPalette(&error)) {
+        for (int i = 0; i < m_files.size(); ++i) {
+            result.note(put(i));
+        }
+        m_sprites->refresh();
+    } else {
+        result.errors.append(error);
+    }
+    m_sprites->endChange();
+    if (!result.errors.isEmpty() && result.done > 0) {
+        m_sprites->undo();
+    }
+    return result;
+}
+
+bool Import::findSprites(QString* error)
+{
+    for (int i = 0; i < m_targets.size(); ++i) {
+        const ImportTarget& target = m_targets[i];
+        int row = -1;
+        for (int copy = 0; copy < target.copy && (copy == 0 || row >= 0); ++copy) {
+            row = m_sprites->find(row + 1, target.id.text());
+        }
+        if (row >= 0 && !m_request.force) {
+            *error = Text::tr("There is a sprite %1 already. Nothing is changed. Allow to replace "
+                              "it, or give '%2' another name.")
+                         .arg(target.id.text(), m_files[i]);
+            return false;
+        }
+        m_old.append(m_sprites->sprite(row));
+    }
+    return true;
+}
+
+bool Import::findPalette(QString* error)
+{
+    if (m_request.palette.isEmpty()) {
+        return true;
+    }
+    AssetId id;
+    if (AssetId::read(m_request.palette, &id)) {
+        m_palette = m_sprites->palettes()->byId(id);
+    }
+    PaletteColors colors;
+    if (!m_palette && Family::findPalette(*m_sprites, m_request.palette, &colors, error)) {
+        m_palette = m_sprites->palettes()->ensure(colors);
+    }
+    return m_palette;
+}
+
+bool Import::readImages(MediaResult* result)
+{
+    const auto prepare = [&](int i) -> std::function<ImportImage()> {
+        return [file = m_files[i], crops = m_request.crops] { return readCropped(file, crops); };
+    };
+    const auto take = [&](int, const ImportImage& read) {
+        m_images.append(read);
+        if (!read.error.isEmpty()) {
+            result->errors.append(read.error);
+        }
+    };
+    result->isCanceled = !runJobs<ImportImage>(Text::tr("Images"), m_files.size(), prepare, take);
+    return !result->isCanceled && result->errors.isEmpty();
+}
+
+QString Import::put(int index)
+{
+    const ImportImage& read = m_images[index];
+    FamilySprite* sprite = m_old[index] ? m_old[index] : m_sprites->addSprite();
+    const int mode = !m_palette           ? Zorv::Sprite::ImagePalette
+                     : m_request.recolors ? Zorv::Sprite::ReplacePalette
+                                          : Zorv::Sprite::ForcePalette;
+    sprite->setProperty(QStringLiteral("Identifier"), m_targets[index].id.text());
+    sprite->setImage(read.image, false, mode, m_palette);
+    if (m_request.hasAxis || m_request.crops || !m_old[index]) {
+        const QPoint axis =
+            m_request.hasAxis || !m_old[index] ? m_request.axis : m_old[index]->axis();
+        sprite->setAxis(axis - read.corner);
+    }
+    if (m_request.codec != PixelCodec::None && sprite->codec() != m_request.codec) {
+        sprite->setProperty(QStringLiteral("Codec"), codecName(m_request.codec));
+        if (sprite->codec() != m_request.codec) {
+            return Text::tr("'%1' would lose something as %2. Choose another codec.")
+                .arg(m_files[index], codecName(m_request.codec));
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+MediaResult importSprites(SpriteCollection* sprites, const QStringList& files,
+                          const ImportRequest& request)
+{
+    return Import(sprites, files, request).run();
+}
+
+}  // namespace Family

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "assets/pixelcodec.h"
+#include "cache/sprite.h"
+#include "operations/media/mediaresult.h"
+
+#include <QPoint>
+#include <QStringList>
+
+namespace Family {
+
+class SpriteCollection;
+
+/// How images become sprites.
+struct ImportRequest
+{
+    int group = -1;  ///< of all images, which get the next free numbers; negative to go by names
+    QPoint axis;     ///< of all images, from their top left corner
+    bool hasAxis = false;  ///< without it new sprites have 0,0, and others keep theirs
+    bool crops = false;    ///< what does not show is cut off, and the axis moves with it
+    QString palette;  ///< identifier of a palette, or a palette file; empty for each image's own
+    bool recolors = false;                ///< that palette takes the colours of the images
+    PixelCodec codec = PixelCodec::None;  ///< `None` for the smallest one
+    bool force = false;                   ///< sprites that are there already may be replaced
+};
+
+/// Reads images and adds them to a collection, or replaces its sprites, as one step of undo. If one
+/// of them cannot be read, or is there already and may not be replaced, nothing is changed.
+MediaResult importSprites(SpriteCollection* sprites, const QStringList& files,
+                          const ImportRequest& request);
+
+}  // namespace Family
