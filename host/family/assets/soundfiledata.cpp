@@ -8,9 +8,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <map>
-#include <numeric>
 
 namespace Family {
 
@@ -129,12 +129,6 @@ SoundFileData::Stream streamOf(const QByteArray& record, const SampleInfo& info)
     return stream;
 }
 
-bool isSame(const SoundFileData::Stream& a, const SoundFileData::Stream& b)
-{
-    return a.offset == b.offset && a.size == b.size && a.plainSize == b.plainSize &&
-           a.packing == b.packing && a.plainCrc == b.plainCrc && a.streamCrc == b.streamCrc;
-}
-
 bool isPackingFine(const SoundFileData::Stream& stream)
 {
     return stream.packing == SamplePacking::Deflated ||
@@ -145,8 +139,8 @@ bool isPackingFine(const SoundFileData::Stream& stream)
 class Places
 {
 public:
-    Places(quint64 begin, quint64 end, QVector<SoundFileData::Stream>& streams)
-        : m_begin(begin), m_end(end), m_streams(streams)
+    Places(QIODevice* device, quint64 begin, QVector<SoundFileData::Stream>& streams)
+        : m_device(device), m_begin(begin), m_end(quint64(device->size())), m_streams(streams)
     {
     }
 
@@ -156,12 +150,14 @@ public:
                stream.size <= m_end - stream.offset && stream.size <= MaxBytes;
     }
 
-    /// The number of a stream that lies inside; -1 if it overlaps another.
+    /// The number of a stream that lies inside, also of one that is there already; -1 if it
+    /// overlaps another.
     int take(const SoundFileData::Stream& stream)
     {
         const auto next = m_taken.lower_bound(stream.offset);
         if (next != m_taken.end() && next->first < stream.offset + stream.size) {
-            return isSame(m_streams.at(next->second), stream) ? next->second : -1;
+            const SoundFileData::Stream& there = m_streams.at(next->second);
+            return there.offset == stream.offset && there.size == stream.size ? next->second : -1;
         }
         if (next != m_taken.begin()) {
             const SoundFileData::Stream& before = m_streams.at(std::prev(next)->second);
@@ -169,9 +165,17 @@ public:
                 return -1;
             }
         }
+        const QByteArray bytes = SoundFileData::readStream(m_device, stream);
         m_taken.emplace(stream.offset, m_streams.size());
         m_streams.append(stream);
+        m_checksums.append(checksumOf(bytes, bytes.size()));
         return m_streams.size() - 1;
+    }
+
+    /// Whether the bytes of a stream are those that a record tells of.
+    bool fits(int number, const SoundFileData::Stream& stream) const
+    {
+        return m_checksums.at(number) == stream.streamCrc;
     }
 
     QVector<SoundFileData::Stream> gaps() const
@@ -197,9 +201,11 @@ public:
     }
 
 private:
+    QIODevice* m_device;
     quint64 m_begin;
     quint64 m_end;
     QVector<SoundFileData::Stream>& m_streams;
+    QVector<quint64> m_checksums;
     std::map<quint64, int> m_taken;
 };
 
@@ -216,9 +222,8 @@ QString recordFault(const QByteArray& record, const SampleInfo& info,
     return {};
 }
 
-// A record that is damaged itself is believed where its samples lie if they fit its checksum.
-QString placeFault(QIODevice* device, SoundFileData::Sound& sound, Places& places,
-                   const SoundFileData::Stream& stream, bool isBelieved)
+QString placeFault(SoundFileData& file, int number, const SoundFileData::Stream& stream,
+                   Places& places)
 {
     if (stream.size == 0) {
         return stream.plainSize == 0 ? QString() : tr("its samples are missing");
@@ -226,13 +231,21 @@ QString placeFault(QIODevice* device, SoundFileData::Sound& sound, Places& place
     if (!places.isInside(stream)) {
         return tr("its samples lie outside of the file");
     }
-    const QByteArray bytes = SoundFileData::readStream(device, stream);
-    const bool isSound = checksumOf(bytes, bytes.size()) == stream.streamCrc;
-    sound.stream = isSound || isBelieved ? places.take(stream) : -1;
-    if (sound.stream < 0) {
+    const int taken = places.take(stream);
+    if (taken < 0) {
         return tr("its samples overlap those of another sound");
     }
-    return isSound ? QString() : tr("its samples are damaged");
+    file.sounds[number].stream = taken;
+    if (!places.fits(taken, stream)) {
+        return tr("its samples are damaged");
+    }
+    SoundFileData::Stream& known = file.streams[taken];
+    if (!places.fits(taken, known)) {
+        known = stream;
+    }
+    const bool isSame = known.plainSize == stream.plainSize && known.packing == stream.packing &&
+                        known.plainCrc == stream.plainCrc;
+    return isSame ? QString() : tr("its samples overlap those of another sound");
 }
 
 QByteArray recordOf(const SoundFileData::Sound& sound, const SoundFileData::Stream& stream)
@@ -264,27 +277,23 @@ QByteArray recordOf(const SoundFileData::Sound& sound, const SoundFileData::Stre
     return record;
 }
 
-// Records without a fault take their places first.
-void place(QIODevice* device, SoundFileData& file, const QVector<QByteArray>& records,
-           const QVector<SoundFileData::Stream>& wanted)
+// A damaged record is not believed where its samples lie: they stay in the rest of the file.
+void place(QIODevice* device, SoundFileData& file, const QVector<QByteArray>& records)
 {
-    Places places(HeadSize + quint64(records.size()) * RecordSize, quint64(device->size()),
-                  file.streams);
-    QVector<int> order(records.size());
-    std::iota(order.begin(), order.end(), 0);
-    const auto broken = std::stable_partition(
-        order.begin(), order.end(), [&file](int i) { return file.sounds[i].fault.isEmpty(); });
-    for (auto i = order.begin(); i != order.end(); ++i) {
-        SoundFileData::Sound& sound = file.sounds[*i];
-        const QString fault = placeFault(device, sound, places, wanted[*i], i < broken);
-        sound.fault = sound.fault.isEmpty() ? fault : sound.fault;
+    Places places(device, HeadSize + quint64(records.size()) * RecordSize, file.streams);
+    bool isWhole = true;
+    for (int i = 0; i < records.size(); ++i) {
+        SoundFileData::Sound& sound = file.sounds[i];
+        const SoundFileData::Stream stream = streamOf(records[i], sound.info);
+        sound.fault = recordFault(records[i], sound.info, stream);
+        if (sound.fault.isEmpty()) {
+            sound.fault = placeFault(file, i, stream, places);
+        }
         if (!sound.fault.isEmpty()) {
-            sound.broken = records[*i];
+            sound.broken = records[i];
+            isWhole = false;
         }
     }
-    const bool isWhole =
-        std::all_of(file.sounds.cbegin(), file.sounds.cend(),
-                    [](const SoundFileData::Sound& sound) { return sound.broken.isEmpty(); });
     if (!isWhole) {
         file.rest = places.gaps();
     }
@@ -306,13 +315,8 @@ bool SoundFileData::read(QIODevice* device, QString* error)
             return false;
         }
     }
-    QVector<Stream> wanted;
-    for (const QByteArray& record : qAsConst(records)) {
-        sounds.append(soundOf(record));
-        wanted.append(streamOf(record, sounds.last().info));
-        sounds.last().fault = recordFault(record, sounds.last().info, wanted.last());
-    }
-    place(device, *this, records, wanted);
+    std::transform(records.cbegin(), records.cend(), std::back_inserter(sounds), soundOf);
+    place(device, *this, records);
     return true;
 }
 
