@@ -12,7 +12,7 @@ STRIKES = {
 def charging(number):
     legs = [((1.5, 3), (-1.5, 2)), ((0.4, 0), (-0.9, 12)), ((-1.5, 2), (1.5, 3)),
             ((-0.9, 12), (0.4, 0))][number]
-    return look(((34, -70, 0), (42, -62, 0)), legs, face="shout", twist=-0.9, chest=(5, 3),
+    return look(((44, -74, 0), (52, -64, 0)), legs, face="shout", twist=-0.9, chest=(5, 3),
                 hip=(4, 1), near_bend=-1, sway=1, props=(("wind", number),))
 
 

@@ -115,12 +115,13 @@ def both(body, attack, side, legs, phase, step, palms=True, face="fierce"):
         return look(((x, y - 5, 0), (x - 2, y + 6, 0)), wider(legs), face="shout", twist=0.15,
                     palms=palms, strain=True, sway=0.4)
     if step == 0:
-        if attack.level == "throw":
-            arms = ((-14, -14), (-18, -6)) if behind else ((24, 14), (18, 20))
-            return look(arms, wider(legs), face="shout", twist=-0.4 if behind else 0.3,
-                        palms=palms, sway=0.5)
-        x, y = target(body, attack, 0.62)
-        return look(((x, y - 5, 0), (x - 2, y + 6, 0)), legs, face=face, twist=0.3, palms=palms)
+        x, y = target(body, attack, 0.66)
+        return look(((x, y - 6, 0), (x - 2, y + 6, 0)), wider(legs), face=face, palms=palms,
+                    twist=0.3 if attack.level != "throw" else -0.3, sway=0.4)
+    if step == 1 and attack.level == "throw":
+        arms = ((-14, -14), (-18, -6)) if behind else ((26, 16), (20, 22))
+        return look(arms, wider(legs), face="shout", twist=-0.4 if behind else 0.3, palms=palms,
+                    sway=0.6)
     return look("low" if step == 1 else "fight", legs, face="fierce")
 
 
@@ -158,7 +159,7 @@ def shoulder(body, attack, side, legs, phase, step):
         return look(((8, 16), (-6 * step, 18)), "wide", face="fierce", hip=(-3 * step, 2),
                     sway=-0.2)
     if phase == "active":
-        return look(((x - 14, y + 12, 0), (x - 6, y + 10, 0)),
+        return look(((x - 11, y + 12, 0), (x - 2, y + 9, 0)),
                     ((1.3, 0), (-1.6, 4)) if step == 0 else ((1.5, 2), (-1.5, 0)), face="shout",
                     twist=-0.9, chest=(5, 3), hip=(6, 1), near_bend=-1, sway=1)
     if step == 0:
@@ -169,8 +170,8 @@ def shoulder(body, attack, side, legs, phase, step):
 
 def belly(body, attack, side, legs, phase, step):
     if phase == "active" or phase == "back" and step == 0:
-        return look(((12, -10), (-24, 0)), ((-0.2, 10), (-0.7, 6)), face="shout", hip=(8, 0),
-                    chest=(-3, 0), tilt=-10, sway=0.8)
+        return look(((12, -10), (-24, 0)), ((-0.2, 10), (-0.7, 6)), face="shout", hip=(11, 0),
+                    chest=(-1, 0), tilt=-10, sway=0.8)
     return look("back" if phase == "start" else "low", "air", face="fierce")
 
 
