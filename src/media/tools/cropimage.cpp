@@ -60,7 +60,7 @@ QRect cropImageRect(const QImage& image, int background)
     if (work.isNull()) {
         return {};
     }
-    if (work.format() == QImage::Format_Indexed8) {
+    if (isIndexed(work)) {
         const std::array<bool, 256> visible = visibleIndices(work, background);
         rect = boundingRect(Raster<const quint8>(work),
                             [&visible](quint8 index) { return visible[index]; });

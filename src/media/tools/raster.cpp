@@ -28,7 +28,7 @@ bool isComparable(const QImage& image)
 
 QImage workingImage(const QImage& image)
 {
-    if (image.isNull() || image.format() == QImage::Format_Indexed8) {
+    if (image.isNull() || isIndexed(image)) {
         return image;
     }
     if (image.depth() == 1) {
@@ -40,7 +40,7 @@ QImage workingImage(const QImage& image)
 
 QImage comparableImage(const QImage& image)
 {
-    if (image.isNull() || image.format() == QImage::Format_Indexed8 || isComparable(image)) {
+    if (image.isNull() || isIndexed(image) || isComparable(image)) {
         return image;
     }
     QImage result = image;

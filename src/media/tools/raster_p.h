@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QSize>
 
+#include <type_traits>
+
 namespace Zorv {
 
 /// The largest width and height of an image that the tools make.
@@ -44,15 +46,27 @@ QImage workingImage(const QImage& image);
 /// `Format_RGB32` is 255, and what is transparent has no colour.
 QImage comparableImage(const QImage& image);
 
+/// Whether both sides are from 1 to `MaxImageSide`.
+inline bool isPossibleSize(const QSize& size)
+{
+    return size.width() >= 1 && size.height() >= 1 && size.width() <= MaxImageSide &&
+           size.height() <= MaxImageSide;
+}
+
+inline bool isIndexed(const QImage& image)
+{
+    return image.format() == QImage::Format_Indexed8;
+}
+
 /// An image with the form, the colour table and the resolution of a working image, its pixels
-/// not set. Null if a side is not from 1 to `MaxImageSide` or memory is short.
+/// not set. Null if the size is not possible or memory is short.
 QImage imageLike(const QImage& model, const QSize& size);
 
 /// Calls `function` with rasters of the pixels of two working images of one form.
 template <class Function>
 void withRasters(const QImage& from, QImage& to, Function function)
 {
-    if (from.format() == QImage::Format_Indexed8) {
+    if (isIndexed(from)) {
         function(Raster<const quint8>(from), Raster<quint8>(to));
     } else {
         function(Raster<const quint32>(from), Raster<quint32>(to));

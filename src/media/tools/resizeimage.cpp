@@ -3,6 +3,8 @@
 #include "media/tools/indexsnap_p.h"
 #include "media/tools/raster_p.h"
 #include "media/tools/resizebilinear_p.h"
+#include "media/tools/scaleepx_p.h"
+#include "media/tools/scalehq_p.h"
 
 #include <algorithm>
 #include <vector>
@@ -49,14 +51,41 @@ QImage resizeNearest(const QImage& image, const QSize& size)
     return result;
 }
 
-QImage resizeWork(const QImage& image, const QSize& size, ImageResizeFilter filter)
+/// An indexed image in the size of `colors` and as near to them as can be.
+QImage snapped(const QImage& indexed, const QImage& colors)
 {
-    switch (filter) {
-    case ImageResizeFilter::Bilinear:
-        return resizeBilinear(comparableImage(image), size);
-    default:
-        return resizeNearest(image, size);
+    QImage result = colors.isNull() ? QImage() : resizeNearest(indexed, colors.size());
+    if (!result.isNull()) {
+        snapToColors(result, colors);
     }
+    return result;
+}
+
+/// Enlarges until the size is reached in one direction, as far as the sides stay possible: by 2 or
+/// 3 if that is enough, else by `most` and again.
+template <class Once>
+QImage enlarged(QImage image, const QSize& size, int most, Once once)
+{
+    const auto reached = [&size](const QSize& now) {
+        return now.width() >= size.width() || now.height() >= size.height();
+    };
+    while (!image.isNull() && !reached(image.size())) {
+        const int factor = reached(image.size() * 2) ? 2 : reached(image.size() * 3) ? 3 : most;
+        if (!isPossibleSize(image.size() * factor)) {
+            break;
+        }
+        image = once(image, factor);
+    }
+    return image;
+}
+
+/// Mixes colours of an image that is not indexed.
+QImage resizeMixing(const QImage& image, const QSize& size, ImageResizeFilter filter)
+{
+    const QImage work = comparableImage(image);
+    const QImage large =
+        filter == ImageResizeFilter::Hq ? enlarged(work, size, 4, scaleHqOnce) : work;
+    return large.size() == size ? large : resizeBilinear(large, size);
 }
 
 bool mixesColors(ImageResizeFilter filter)
@@ -69,35 +98,41 @@ bool mixesColors(ImageResizeFilter filter)
 QImage resizeImage(const QImage& image, const QSize& size, ImageResizeFilter filter)
 {
     const QImage work = workingImage(image);
-    if (work.isNull() || work.size() == size) {
+    if (work.isNull() || !isPossibleSize(size)) {
+        return {};
+    }
+    if (work.size() == size) {
         return work;
     }
-    if (!mixesColors(filter) || work.format() != QImage::Format_Indexed8) {
-        return resizeWork(work, size, filter);
+    if (filter == ImageResizeFilter::Epx) {
+        return resizeNearest(enlarged(comparableImage(work), size, 2, scaleEpxOnce), size);
     }
-    QImage result = resizeNearest(work, size);
-    if (!result.isNull() && result.colorCount() > 0) {
-        const QImage colors = resizeWork(colorsOf(work), size, filter);
-        if (colors.isNull()) {
-            return {};
-        }
-        snapToColors(result, colors);
+    if (!mixesColors(filter) || (isIndexed(work) && work.colorCount() == 0)) {
+        return resizeNearest(work, size);
     }
-    return result;
+    if (isIndexed(work)) {
+        return snapped(work, resizeMixing(colorsOf(work), size, filter));
+    }
+    return resizeMixing(work, size, filter);
 }
 
 QImage scaleEpx(const QImage& image, int factor)
 {
-    return factor < 2 || factor > 4
-               ? QImage()
-               : resizeImage(image, image.size() * factor, ImageResizeFilter::Nearest);
+    if (!isPossibleSize(image.size()) || factor < 2 || factor > 4) {
+        return {};
+    }
+    const QImage work = comparableImage(workingImage(image));
+    return factor == 4 ? scaleEpxOnce(scaleEpxOnce(work, 2), 2) : scaleEpxOnce(work, factor);
 }
 
 QImage scaleHq(const QImage& image, int factor)
 {
-    return factor < 2 || factor > 4
-               ? QImage()
-               : resizeImage(image, image.size() * factor, ImageResizeFilter::Bilinear);
+    if (!isPossibleSize(image.size()) || factor < 2 || factor > 4) {
+        return {};
+    }
+    const QImage work = comparableImage(workingImage(image));
+    return isIndexed(work) ? snapped(work, scaleHqOnce(colorsOf(work), factor))
+                           : scaleHqOnce(work, factor);
 }
 
 }  // namespace Zorv

@@ -1,0 +1,71 @@
+// Resizing of pictures against QImage::scaled and the filters of ffmpeg.
+
+#include "filtergraph.h"
+#include "media/tools/resizeimage.h"
+#include "picture.h"
+#include "support/bench.h"
+
+using namespace Zorv;
+
+namespace {
+
+const int Rounds = 41;
+
+void nearest(const QImage& image, const QSize& size, const char* name)
+{
+    const double qt = Bench::median(Rounds, [&] { image.scaled(size); });
+    const double own =
+        Bench::median(Rounds, [&] { resizeImage(image, size, ImageResizeFilter::Nearest); });
+    Bench::ratio(name, own, qt, 0.2);
+}
+
+#ifdef ZORV_BENCH_AVFILTER
+using Scale = QImage (*)(const QImage&, int);
+
+void against(const char* filter, Scale scale, const QImage& image, int factor, double limit)
+{
+    FilterGraph graph(image, filter, factor);
+    if (!graph.isValid() || !graph.run()) {
+        std::printf("ffmpeg has no filter %s\n", filter);
+        return;
+    }
+    const double theirs = Bench::median(Rounds, [&graph] { graph.run(); });
+    const double own = Bench::median(Rounds, [&] { scale(image, factor); });
+    const QImage expected = graph.result();
+    const QImage made = scale(image, factor).convertToFormat(expected.format());
+    const QByteArray name = "scaled by " + QByteArray::number(factor) + " to ffmpeg's " + filter +
+                            (made == expected ? ", same pixels" : ", other pixels");
+    Bench::ratio(name.constData(), own, theirs, limit);
+}
+
+void againstFilters(const QImage& image)
+{
+    against("epx", scaleEpx, image, 2, 0.2);
+    against("epx", scaleEpx, image, 3, 0);
+    for (int factor = 2; factor <= 4; ++factor) {
+        against("hqx", scaleHq, image, factor, 0.5);
+    }
+}
+#else
+void againstFilters(const QImage&)
+{
+    std::printf("libavfilter is not installed: no ratios to ffmpeg's epx and hqx\n");
+}
+#endif
+
+}  // namespace
+
+int main()
+{
+    const QImage image = drawnPicture({512, 512});
+    nearest(image, {1024, 1024}, "indexed 512 x 512 to 1024 x 1024, to QImage::scaled");
+    nearest(image, {700, 600}, "indexed 512 x 512 to 700 x 600, to QImage::scaled");
+    nearest(image, {300, 400}, "indexed 512 x 512 to 300 x 400, to QImage::scaled");
+    QImage opaque = image.convertToFormat(QImage::Format_ARGB32);
+    QPainter painter(&opaque);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
+    painter.fillRect(opaque.rect(), QColor(90, 120, 200));
+    painter.end();
+    againstFilters(opaque.convertToFormat(QImage::Format_RGB32));
+    return 0;
+}

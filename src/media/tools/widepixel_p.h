@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QtGlobal>
+
+namespace Zorv {
+
+/// The four parts of a pixel, 16 bits each, so that one multiplication weights all of them.
+using WidePixel = quint64;
+
+constexpr WidePixel WideMask = Q_UINT64_C(0x00FF00FF00FF00FF);
+
+constexpr WidePixel widened(quint32 pixel)
+{
+    return (pixel | WidePixel(pixel) << 24) & WideMask;
+}
+
+/// The reverse, of parts that are below 256.
+constexpr quint32 narrowed(WidePixel pixel)
+{
+    return quint32(pixel | pixel >> 24);
+}
+
+}  // namespace Zorv
