@@ -177,25 +177,40 @@ def drop():
 
 
 def splash():
-    """A crown of water that rises and falls."""
+    """A crown of water that rises, opens and falls."""
     for number in range(5):
         canvas = Canvas(-60, -80, 60, 30)
         canvas.begin()
-        high = (10, 22, 32, 30, 12)[number]
-        wide = (8, 14, 20, 26, 30)[number]
+        high = (12, 26, 36, 30, 10)[number]
+        wide = (9, 15, 22, 29, 33)[number]
         if number < 4:
-            for side in (-1, -0.45, 0.4, 1):
-                top = side * wide, -high * (1.1 - 0.25 * abs(side))
-                base = side * wide * 0.5, 0
-                canvas.chain([(*base, 4.2 - number * 0.5), (base[0] + side * 2, -high * 0.5,
-                              3.2 - number * 0.4), (*top, 1.4)], WATER)
-            canvas.ellipse((0, -2), wide * 0.7, 4, WATER)
+            crown(canvas, wide, high, WATER[1], WATER[3], 0.7)
+            canvas.begin()
+            crown(canvas, wide, high * 0.78, WATER[3], WATER[5], 1.0)
+        canvas.ellipse((0, -2), wide * 0.9, 3.4, WATER[2:])
         dice = Dice(40 + number)
         for _ in range(4 + 4 * number):
             x, y = dice.within(-wide, wide) * 1.2, -dice.within(0.2, 1.25) * high - 3
             size = dice.within(0.7, 1.9)
             canvas.ellipse((x, y), size, size, WATER)
         yield canvas
+
+
+def crown(canvas, wide, high, low, top, open_):
+    """A ring of tongues around a middle; dark at the foot, light at the tips."""
+    points = [(-wide * 0.62, 0)]
+    for tongue in range(5):
+        across = (tongue - 2) / 2
+        tip = high * (0.78 + 0.22 * ((tongue * 7) % 3) / 2) * (1.05 - 0.3 * abs(across))
+        points += [(wide * open_ * (across * 0.92 - 0.10), -tip * 0.55),
+                   (wide * open_ * across * 1.12, -tip),
+                   (wide * open_ * (across * 0.92 + 0.12), -tip * 0.5)]
+        if tongue < 4:
+            points.append((wide * open_ * (across + 0.25) * 0.86, -high * 0.24))
+    points.append((wide * 0.62, 0))
+    canvas.use(WATER)
+    canvas.polygon(points, lambda x, y: low + min(top - low, max(0, int(-y / high * (top - low + 1)
+                                                                        + 0.3 - x / wide * 0.5))))
 
 
 def sprites():
