@@ -210,6 +210,24 @@ QList<FamilyDocument*> GameSession::modifiedDocuments(const FamilyProject* proje
     return result;
 }
 
+QList<Zorv::ProjectFile*> GameSession::modifiedFiles(const FamilyProject* project) const
+{
+    QList<Zorv::ProjectFile*> result;
+    const QList<FamilyDocument*> documents = modifiedDocuments(project);
+    for (FamilyDocument* document : documents) {
+        result.append(document);
+    }
+    for (const FamilyProject* open : m_projects) {
+        for (const auto type : {Zorv::FileID::Sprites, Zorv::FileID::Sounds}) {
+            Zorv::ProjectFile* file = !project || project == open ? open->file(type) : nullptr;
+            if (file && file->isModified()) {
+                result.append(file);
+            }
+        }
+    }
+    return result;
+}
+
 FamilyProject* projectOf(const FamilyDocument* document)
 {
     // Every project of this program is one of the family.

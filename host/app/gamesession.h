@@ -14,6 +14,10 @@ class FamilyParentProject;
 class FamilyProject;
 }  // namespace Family
 
+namespace Zorv {
+class ProjectFile;
+}
+
 namespace App {
 
 /// What the window has open: one game folder, and projects of it.
@@ -75,6 +79,9 @@ public:
     /// The modified documents of one project, or with null of all.
     QList<Family::FamilyDocument*>
     modifiedDocuments(const Family::FamilyProject* project = nullptr) const;
+
+    /// The same with sprites and sounds, behind the documents.
+    QList<Zorv::ProjectFile*> modifiedFiles(const Family::FamilyProject* project = nullptr) const;
 
 signals:
     void folderOpened();

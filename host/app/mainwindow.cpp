@@ -5,6 +5,12 @@
 #include "app/actions/shortcutguard.h"
 #include "app/actions/windowactions.h"
 #include "app/animationcommands.h"
+#include "app/assets/rowlist.h"
+#include "app/assets/soundcommands.h"
+#include "app/assets/soundpanel.h"
+#include "app/assets/spritecommands.h"
+#include "app/assets/spritelist.h"
+#include "app/assets/spritepanel.h"
 #include "app/code/codehelp.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
@@ -21,12 +27,15 @@
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
 #include "app/windowstate.h"
+#include "code/codedoc/framecode.h"
 #include "core/dialogs/dialogs.h"
 #include "core/interface.h"
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
 #include "editors/framework/editor.h"
 #include "editors/framework/workspace.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
@@ -50,9 +59,11 @@ using Family::FamilyProject;
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget(this)),
       m_hint(new QLabel), m_gameTree(new GameTree), m_animations(new AnimationCommands(this)),
+      m_spritePanel(new SpritePanel), m_soundPanel(new SoundPanel),
       m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar())),
       m_opener(new GameOpener(this)), m_gameCommands(new GameCommands(this)),
-      m_runCommands(new RunCommands(this)), m_actions(new WindowActions(this)),
+      m_runCommands(new RunCommands(this)), m_spriteCommands(new SpriteCommands(this)),
+      m_soundCommands(new SoundCommands(this)), m_actions(new WindowActions(this)),
       m_controls(new ControlPlacer(this, m_actions))
 {
     new ShortcutGuard(this, registry());
@@ -73,6 +84,7 @@ void MainWindow::publishTools()
     connectParts();
     connectPanels();
     connectCode();
+    connectAssets();
     retranslate();
     currentDocumentChanged(nullptr);
     WindowState::restoreShape(this);
@@ -108,6 +120,8 @@ MainWindow::~MainWindow()
     m_session->disconnect(this);
     m_status->setDocument(nullptr);
     m_animations->setDocument(nullptr);
+    m_spritePanel->setSprites(nullptr);
+    m_soundPanel->setSounds(nullptr);
     m_messagePanel->setMessages(nullptr);
     m_gameTree->setGame(nullptr);
     delete m_code;
@@ -120,9 +134,13 @@ void MainWindow::makeDocks()
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
+    QDockWidget* sprites = addDock(m_spritePanel, "sprites", Qt::RightDockWidgetArea);
+    tabifyDockWidget(sprites, addDock(m_soundPanel, "sounds", Qt::RightDockWidgetArea));
+    sprites->raise();
     QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
     resizeDocks({messages}, {150}, Qt::Vertical);
+    resizeDocks({sprites}, {280}, Qt::Horizontal);
 }
 
 QDockWidget* MainWindow::addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area)
@@ -182,6 +200,19 @@ void MainWindow::connectCode()
             &Zorv::CodeWorkspace::goToLine);
 }
 
+void MainWindow::connectAssets()
+{
+    for (const char* name : {"sprite_add", "sprite_replace", "sprite_export", "sprite_remove",
+                             "palette_open", "palette_save"}) {
+        m_spritePanel->list()->addAction(actionByName(name));
+    }
+    for (const char* name : {"sound_add", "sound_export", "sound_remove"}) {
+        m_soundPanel->list()->addAction(actionByName(name));
+    }
+    connect(m_spritePanel, &SpritePanel::changed, this, &MainWindow::updateSoon);
+    connect(m_soundPanel, &SoundPanel::changed, this, &MainWindow::updateSoon);
+}
+
 bool MainWindow::openPath(const QString& path)
 {
     return m_opener->openPath(path);
@@ -200,6 +231,12 @@ void MainWindow::forgetProject(FamilyProject* project)
     }
     if (m_messagePanel->messages() == project->messages()) {
         m_messagePanel->setMessages(nullptr);
+    }
+    if (m_spritePanel->sprites() && m_spritePanel->sprites()->project() == project) {
+        m_spritePanel->setSprites(nullptr);
+    }
+    if (m_soundPanel->sounds() && m_soundPanel->sounds()->project() == project) {
+        m_soundPanel->setSounds(nullptr);
     }
     // The project itself goes after this: what is left is looked at then.
     QMetaObject::invokeMethod(this, &MainWindow::updateMessages, Qt::QueuedConnection);
@@ -228,7 +265,23 @@ void MainWindow::currentDocumentChanged(FamilyDocument* document)
 
 void MainWindow::followCursor()
 {
-    m_animations->followCursor(m_code->editor()->textCursor().blockNumber());
+    const int line = m_code->editor()->textCursor().blockNumber();
+    m_animations->followCursor(line);
+    followSprite(line);
+}
+
+/// The sprite that the line of the cursor names becomes the current one.
+void MainWindow::followSprite(int line)
+{
+    const FamilyDocument* document = tabs()->currentDocument();
+    if (!m_spritePanel->isVisible() || !document || document->isCodeBeingChanged()) {
+        return;
+    }
+    const Zorv::CodeNode* node = document->nodeInBlock(document->findBlockByNumber(line));
+    if (node && node->type() == Zorv::CodeNode::Frame) {
+        const auto* frame = static_cast<const Zorv::FrameCode*>(node);
+        m_spritePanel->showSprite(frame->spriteGroup(), frame->spriteNumber());
+    }
 }
 
 void MainWindow::followLine(int line)
@@ -278,7 +331,19 @@ void MainWindow::updateNow()
     m_isUpdatePending = false;
     updateTitle();
     updateHint();
+    updateAssets();
     updateActions();
+}
+
+/// A text can come to name another file.
+void MainWindow::updateAssets()
+{
+    const FamilyProject* project = currentProject();
+    const auto file = [project](Zorv::FileID::Type type) {
+        return project ? project->file(type) : nullptr;
+    };
+    m_spritePanel->setSprites(dynamic_cast<Family::SpriteCollection*>(file(Zorv::FileID::Sprites)));
+    m_soundPanel->setSounds(dynamic_cast<Family::SoundFile*>(file(Zorv::FileID::Sounds)));
 }
 
 void MainWindow::updateHint()
@@ -311,13 +376,13 @@ int MainWindow::presentNeeds() const
     const Zorv::CodeEditor* edit = currentEdit();
     const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
     return when(m_session->game(), NeedsGame) | when(currentProject(), NeedsProject) |
-           when(edit, NeedsText) | when(!m_session->modifiedDocuments().isEmpty(), NeedsUnsaved) |
+           when(edit, NeedsText) | when(!m_session->modifiedFiles().isEmpty(), NeedsUnsaved) |
            when(edit && edit->document()->isUndoAvailable(), NeedsUndo) |
            when(edit && edit->document()->isRedoAvailable(), NeedsRedo) |
            when(edit && edit->textCursor().hasSelection(), NeedsSelection) |
            when(m_animations->hasCurrent(), NeedsAnimation) |
-           when(m_runCommands->isRunning(), NeedsEngine) |
-           when(!m_runCommands->isRunning(), NeedsNoEngine);
+           when(m_runCommands->isRunning(), NeedsEngine) | m_spriteCommands->presentNeeds() |
+           m_soundCommands->presentNeeds() | when(!m_runCommands->isRunning(), NeedsNoEngine);
 }
 
 DocumentTabs* MainWindow::tabs() const
@@ -377,7 +442,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (!m_runCommands->mayClose([this] { close(); }) ||
-        !askAboutUnsaved(m_session->modifiedDocuments())) {
+        !askAboutUnsaved(m_session->modifiedFiles())) {
         event->ignore();
         return;
     }

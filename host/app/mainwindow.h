@@ -32,6 +32,10 @@ class GameSession;
 class GameTree;
 class MessagePanel;
 class RunCommands;
+class SoundCommands;
+class SoundPanel;
+class SpriteCommands;
+class SpritePanel;
 class StatusFields;
 class WindowActions;
 
@@ -77,11 +81,15 @@ public:
     DocumentTabs* tabs() const;
     GameTree* gameTree() const { return m_gameTree; }
     AnimationCommands* animations() const { return m_animations; }
+    SpritePanel* spritePanel() const { return m_spritePanel; }
+    SoundPanel* soundPanel() const { return m_soundPanel; }
     MessagePanel* messagePanel() const { return m_messagePanel; }
     StatusFields* status() const { return m_status; }
     CodeTextEditor* textEditor() const;
     GameCommands* gameCommands() const { return m_gameCommands; }
     RunCommands* runCommands() const { return m_runCommands; }
+    SpriteCommands* spriteCommands() const { return m_spriteCommands; }
+    SoundCommands* soundCommands() const { return m_soundCommands; }
 
     /// The editor while a text is in front, else null.
     Zorv::CodeEditor* currentEdit() const;
@@ -149,6 +157,7 @@ private:
     void connectParts();
     void connectPanels();
     void connectCode();
+    void connectAssets();
 
     void closeDocument(Family::FamilyDocument* document);
     void showPlace(Zorv::CodeDocument* document, int line, int column, int length);
@@ -165,6 +174,8 @@ private:
     void updateTitle();
     void updateHint();
     void updateMessages();
+    void updateAssets();
+    void followSprite(int line);
     void focusPanel(int step);
     void statusBarText(const QString& text);
 
@@ -175,11 +186,15 @@ private:
     CodeHelp* m_codeHelp = nullptr;
     GameTree* m_gameTree;
     AnimationCommands* m_animations;
+    SpritePanel* m_spritePanel;
+    SoundPanel* m_soundPanel;
     MessagePanel* m_messagePanel;
     StatusFields* m_status;
     GameOpener* m_opener;
     GameCommands* m_gameCommands;
     RunCommands* m_runCommands;
+    SpriteCommands* m_spriteCommands;
+    SoundCommands* m_soundCommands;
     WindowActions* m_actions;
     ControlPlacer* m_controls;
     bool m_isUpdatePending = false;

@@ -1,6 +1,10 @@
 #include "app/mainwindow.h"
 
 #include "app/animationcommands.h"
+#include "app/assets/rowlist.h"
+#include "app/assets/soundpanel.h"
+#include "app/assets/spritelist.h"
+#include "app/assets/spritepanel.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
 #include "app/code/documenttabs.h"
@@ -78,7 +82,7 @@ void MainWindow::openFolderByDialog()
 void MainWindow::save()
 {
     if (FamilyDocument* document = tabs()->currentDocument()) {
-        if (saveDocuments({document})) {
+        if (saveFiles({document})) {
             statusBarText(tr("%1 is saved.").arg(m_session->shownPath(document->fileName())));
         }
         tabs()->updateTabs();
@@ -88,7 +92,7 @@ void MainWindow::save()
 
 void MainWindow::saveAll()
 {
-    if (saveDocuments(m_session->modifiedDocuments())) {
+    if (saveFiles(m_session->modifiedFiles())) {
         statusBarText(tr("All files are saved."));
     }
     tabs()->updateTabs();
@@ -110,7 +114,7 @@ void MainWindow::closeText()
 void MainWindow::closeProject()
 {
     FamilyProject* project = currentProject();
-    if (project && askAboutUnsaved(m_session->modifiedDocuments(project))) {
+    if (project && askAboutUnsaved(m_session->modifiedFiles(project))) {
         m_session->closeProject(project);
     }
 }
@@ -118,7 +122,7 @@ void MainWindow::closeProject()
 void MainWindow::closeFolder()
 {
     if (m_runCommands->mayClose([this] { closeFolder(); }) &&
-        askAboutUnsaved(m_session->modifiedDocuments())) {
+        askAboutUnsaved(m_session->modifiedFiles())) {
         m_session->closeFolder();
         updateSoon();
     }
@@ -167,6 +171,7 @@ void MainWindow::focusPanel(int step)
     goToPanel({PanelPlace::of(m_gameTree), PanelPlace::inside(m_code->workspace()->toolBar()),
                PanelPlace::of(currentEdit()), PanelPlace::inside(m_code->findBar()),
                PanelPlace::of(textEditor()->tree()), PanelPlace::of(m_animations->list()),
+               PanelPlace::of(m_spritePanel->list()), PanelPlace::of(m_soundPanel->list()),
                PanelPlace::of(m_messagePanel)},
               step);
 }

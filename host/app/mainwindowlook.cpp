@@ -39,6 +39,8 @@ struct PanelTitle
 
 const PanelTitle panelTitles[] = {
     {"projects", QT_TRANSLATE_NOOP("App::MainWindow", "Projects")},
+    {"sprites", QT_TRANSLATE_NOOP("App::MainWindow", "Sprites")},
+    {"sounds", QT_TRANSLATE_NOOP("App::MainWindow", "Sounds")},
     {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
     {"output", QT_TRANSLATE_NOOP("App::MainWindow", "Engine output")},
 };

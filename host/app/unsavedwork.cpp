@@ -17,6 +17,7 @@ namespace App {
 
 using Family::FamilyDocument;
 using Zorv::Dialogs;
+using Zorv::ProjectFile;
 
 namespace {
 
@@ -30,13 +31,12 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(App::UnsavedWork)
 };
 
-QString namesOf(const QList<FamilyDocument*>& documents)
+QString namesOf(const QList<ProjectFile*>& files)
 {
     QStringList names;
-    for (const FamilyDocument* document : documents) {
-        names.append(document->fileName().isEmpty()
-                         ? Text::tr("new file")
-                         : QDir::toNativeSeparators(document->fileName()));
+    for (const ProjectFile* file : files) {
+        names.append(file->fileName().isEmpty() ? Text::tr("new file")
+                                                : QDir::toNativeSeparators(file->fileName()));
     }
     const int more = names.size() - MaxNames;
     if (more > 0) {
@@ -46,68 +46,84 @@ QString namesOf(const QList<FamilyDocument*>& documents)
     return names.join(QLatin1Char('\n'));
 }
 
-QString projectTitle(const FamilyDocument* document)
+QString projectTitle(const ProjectFile* file)
 {
-    const Zorv::Project* project = document->project();
+    const Zorv::Project* project = file->project();
     return project ? project->title() : QString();
 }
 
-/// Documents of one file in several projects, of which one is saved.
+/// Objects of one file in several projects, of which one is saved.
 struct Twins
 {
-    FamilyDocument* chosen;
-    QList<FamilyDocument*> others;
+    ProjectFile* chosen;
+    QList<ProjectFile*> others;
 };
 
-bool haveOneText(const QList<FamilyDocument*>& documents)
+/// The text of a document; null for sprites and sounds, which are not compared.
+FamilyDocument* documentOf(ProjectFile* file)
 {
-    const QString text = documents.first()->text();
-    return std::all_of(documents.begin(), documents.end(),
-                       [&text](const auto* document) { return document->text() == text; });
+    return dynamic_cast<FamilyDocument*>(file);
 }
 
-/// The documents of each file; those without a file are left out.
-QMap<QString, QList<FamilyDocument*>> byFileName(const QList<FamilyDocument*>& documents)
+void pauseWatch(ProjectFile* file, bool isPaused)
 {
-    QMap<QString, QList<FamilyDocument*>> result;
-    for (FamilyDocument* document : documents) {
-        result[document->fileName()].append(document);
+    if (FamilyDocument* document = documentOf(file)) {
+        document->pauseWatch(isPaused);
+    }
+}
+
+bool haveOneContent(const QList<ProjectFile*>& files)
+{
+    const FamilyDocument* first = documentOf(files.first());
+    return files.size() == 1 ||
+           (first && std::all_of(files.begin(), files.end(), [first](ProjectFile* file) {
+                const FamilyDocument* document = documentOf(file);
+                return document && document->text() == first->text();
+            }));
+}
+
+/// The objects of each file; those without a file are left out.
+QMap<QString, QList<ProjectFile*>> byFileName(const QList<ProjectFile*>& files)
+{
+    QMap<QString, QList<ProjectFile*>> result;
+    for (ProjectFile* file : files) {
+        result[file->fileName()].append(file);
     }
     result.remove(QString());
     return result;
 }
 
-/// The place of the document to save; -1 if the person gives up.
-int chooseTwin(const QList<FamilyDocument*>& documents)
+/// The place of the object to save; -1 if the person gives up.
+int chooseTwin(const QList<ProjectFile*>& files)
 {
     QStringList choices;
-    for (const FamilyDocument* document : documents) {
-        choices.append(Text::tr("Save the text of %1").arg(projectTitle(document)));
+    for (const ProjectFile* file : files) {
+        choices.append(Text::tr("Save the file of %1").arg(projectTitle(file)));
     }
     return Dialogs::instance()->choose(
         Text::tr("Save"),
         Text::tr("%1 belongs to several projects, and was changed in them in different ways. The "
                  "changes of one can be saved; the others are lost.")
-            .arg(QDir::toNativeSeparators(documents.first()->fileName())),
+            .arg(QDir::toNativeSeparators(files.first()->fileName())),
         choices, 0);
 }
 
-/// Takes out of the documents all but one of those that share a file and have
-/// different texts, and tells them apart in `twins`. False if the person gives up.
-bool settleTwins(QList<FamilyDocument*>* documents, QList<Twins>* twins)
+/// Takes out of the files all but one of those that share a path and differ, and tells
+/// them apart in `twins`. False if the person gives up.
+bool settleTwins(QList<ProjectFile*>* files, QList<Twins>* twins)
 {
-    const QMap<QString, QList<FamilyDocument*>> byFile = byFileName(*documents);
-    for (QList<FamilyDocument*> sharing : byFile) {
-        if (haveOneText(sharing)) {
+    const QMap<QString, QList<ProjectFile*>> byFile = byFileName(*files);
+    for (QList<ProjectFile*> sharing : byFile) {
+        if (haveOneContent(sharing)) {
             continue;
         }
         const int choice = chooseTwin(sharing);
         if (choice < 0) {
             return false;
         }
-        FamilyDocument* chosen = sharing.takeAt(choice);
-        for (FamilyDocument* other : qAsConst(sharing)) {
-            documents->removeOne(other);
+        ProjectFile* chosen = sharing.takeAt(choice);
+        for (ProjectFile* other : qAsConst(sharing)) {
+            files->removeOne(other);
         }
         twins->append({chosen, sharing});
     }
@@ -118,12 +134,12 @@ bool settleTwins(QList<FamilyDocument*>* documents, QList<Twins>* twins)
 bool readSaved(const Twins& twins)
 {
     bool all = true;
-    for (FamilyDocument* other : twins.others) {
+    for (ProjectFile* other : twins.others) {
         if (twins.chosen->isModified()) {
-            other->pauseWatch(false);
+            pauseWatch(other, false);
             all = false;
         } else {
-            all = other->reload() && all;
+            all = readAgain(other) && all;
         }
     }
     return all;
@@ -145,28 +161,45 @@ Family::Saved saveNew(FamilyDocument* document, QString* error)
     return error->isEmpty() ? Family::Saved::GivenUp : Family::Saved::Failed;
 }
 
+Family::Saved saveFile(ProjectFile* file, QString* error)
+{
+    FamilyDocument* document = documentOf(file);
+    if (document) {
+        return document->fileName().isEmpty()
+                   ? saveNew(document, error)
+                   : Family::saveDocument(document, document->fileName(), error);
+    }
+    const bool isSaved = file->toFile(*file->archive(), file->fileName(), false);
+    *error = file->errorString();
+    return isSaved ? Family::Saved::Done : Family::Saved::Failed;
+}
+
 }  // namespace
 
-bool saveDocuments(QList<FamilyDocument*> documents)
+bool readAgain(ProjectFile* file)
+{
+    FamilyDocument* document = documentOf(file);
+    return document ? document->reload()
+                    : file->fromFile(*file->archive(), file->fileName(), false);
+}
+
+bool saveFiles(QList<ProjectFile*> files)
 {
     QList<Twins> twins;
-    if (!settleTwins(&documents, &twins)) {
+    if (!settleTwins(&files, &twins)) {
         return false;
     }
     for (const Twins& sharing : qAsConst(twins)) {
-        for (FamilyDocument* other : sharing.others) {
+        for (ProjectFile* other : sharing.others) {
             // It is told of this save here.
-            other->pauseWatch(true);
+            pauseWatch(other, true);
         }
     }
     QStringList errors;
     bool all = true;
-    for (FamilyDocument* document : qAsConst(documents)) {
+    for (ProjectFile* file : qAsConst(files)) {
         QString error;
-        const Family::Saved saved =
-            document->fileName().isEmpty()
-                ? saveNew(document, &error)
-                : Family::saveDocument(document, document->fileName(), &error);
+        const Family::Saved saved = saveFile(file, &error);
         all = all && saved == Family::Saved::Done;
         if (saved == Family::Saved::Failed) {
             errors.append(error);
@@ -181,32 +214,32 @@ bool saveDocuments(QList<FamilyDocument*> documents)
     return all;
 }
 
-QString fileWithTwoTexts(const QList<FamilyDocument*>& documents)
+QString fileWithTwoContents(const QList<ProjectFile*>& files)
 {
-    const QMap<QString, QList<FamilyDocument*>> byFile = byFileName(documents);
+    const QMap<QString, QList<ProjectFile*>> byFile = byFileName(files);
     for (auto it = byFile.constBegin(); it != byFile.constEnd(); ++it) {
-        if (!haveOneText(it.value())) {
+        if (!haveOneContent(it.value())) {
             return it.key();
         }
     }
     return {};
 }
 
-bool askAboutUnsaved(const QList<FamilyDocument*>& documents)
+bool askAboutUnsaved(const QList<ProjectFile*>& files)
 {
-    if (documents.isEmpty()) {
+    if (files.isEmpty()) {
         return true;
     }
-    const bool isOne = documents.size() == 1;
+    const bool isOne = files.size() == 1;
     const QString text = isOne ? Text::tr("This file has unsaved changes:")
                                : Text::tr("These files have unsaved changes:");
     const QStringList choices{isOne ? Text::tr("Save") : Text::tr("Save all"),
                               Text::tr("Discard the changes")};
     switch (Dialogs::instance()->choose(Text::tr("Unsaved changes"),
-                                        text + QLatin1String("\n\n") + namesOf(documents), choices,
+                                        text + QLatin1String("\n\n") + namesOf(files), choices,
                                         Save)) {
     case Save:
-        return saveDocuments(documents);
+        return saveFiles(files);
     case Discard:
         return true;
     default:

@@ -3,24 +3,26 @@
 #include <QList>
 #include <QString>
 
-namespace Family {
-class FamilyDocument;
+namespace Zorv {
+class ProjectFile;
 }
 
 namespace App {
 
-/// Saves documents, one after the other; one without a name is asked for it; failures are told at
-/// the end, all at once. Of several documents of one file with different texts the
-/// person chooses one, and the others read it. True if all is done.
-bool saveDocuments(QList<Family::FamilyDocument*> documents);
+/// Saves texts, sprites and sounds, one after the other; a text without a name is asked for it;
+/// failures are told at the end, all at once. Of several objects of one file with different
+/// contents the person chooses one, and the others read it. True if all is done.
+bool saveFiles(QList<Zorv::ProjectFile*> files);
 
-/// Asks what becomes of unsaved documents before they are closed: saved,
-/// discarded, or neither. True if they can be closed. Nothing is asked for an
-/// empty list.
-bool askAboutUnsaved(const QList<Family::FamilyDocument*>& documents);
+/// Asks what becomes of unsaved files before they are closed: saved, discarded, or
+/// neither. True if they can be closed. Nothing is asked for an empty list.
+bool askAboutUnsaved(const QList<Zorv::ProjectFile*>& files);
 
-/// A file that several of the documents have, with different texts; empty if
+/// Reads a file again and drops its changes. False if it cannot be read; all stays then.
+bool readAgain(Zorv::ProjectFile* file);
+
+/// A file that several of the objects have, with different contents; empty if
 /// there is none.
-QString fileWithTwoTexts(const QList<Family::FamilyDocument*>& documents);
+QString fileWithTwoContents(const QList<Zorv::ProjectFile*>& files);
 
 }  // namespace App

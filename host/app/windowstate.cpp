@@ -22,7 +22,7 @@ const QString GameKey = QStringLiteral("last_game");
 const QString TextsKey = QStringLiteral("open_texts");
 const QString FrontKey = QStringLiteral("front_text");
 
-constexpr int PanelsVersion = 3;  // raised when panels come or go
+constexpr int PanelsVersion = 4;  // raised when panels come or go
 
 QVariant setting(const QString& key)
 {

@@ -2,6 +2,8 @@
 
 #include "app/actions/actionpalette.h"
 #include "app/actions/keysdialog.h"
+#include "app/assets/soundcommands.h"
+#include "app/assets/spritecommands.h"
 #include "app/code/codehelp.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
@@ -58,6 +60,18 @@ template <void (RunCommands::*member)()>
 void onEngine(MainWindow& window)
 {
     (window.runCommands()->*member)();
+}
+
+template <void (SpriteCommands::*member)()>
+void onSprites(MainWindow& window)
+{
+    (window.spriteCommands()->*member)();
+}
+
+template <void (SoundCommands::*member)()>
+void onSounds(MainWindow& window)
+{
+    (window.soundCommands()->*member)();
 }
 
 }  // namespace
@@ -125,6 +139,24 @@ const QVector<ActionRow>& actionTable()
         {"anim_duplicate", "anim",  QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"),                     NoKey,        "Ctrl+Shift+D", NeedsAnimation,  call<&W::duplicateAnimation>},
         {"anim_remove",    "anim",  QT_TRANSLATE_NOOP("App::Actions", "&Remove"),                        NoKey,        "Ctrl+Shift+R", NeedsAnimation,  call<&W::removeAnimations>},
         {nullptr,          "anim",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
+
+        {"sprite_add",      "spr",   QT_TRANSLATE_NOOP("App::Actions", "&Add images..."),                       NoKey,        nullptr,        NeedsSprites,    onSprites<&SpriteCommands::addImages>},
+        {"sprite_replace",  "spr",   QT_TRANSLATE_NOOP("App::Actions", "&Replace image..."),                    NoKey,        nullptr,        NeedsSprite,     onSprites<&SpriteCommands::replaceImage>},
+        {"sprite_export",   "spr",   QT_TRANSLATE_NOOP("App::Actions", "&Save images as..."),                   NoKey,        nullptr,        NeedsSprite,     onSprites<&SpriteCommands::exportImages>},
+        {"sprite_remove",   "spr",   QT_TRANSLATE_NOOP("App::Actions", "Re&move sprites"),                      NoKey,        nullptr,        NeedsSprite,     onSprites<&SpriteCommands::removeSelected>},
+        {nullptr,          "spr",   nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
+        {"sprite_undo",     "spr",   QT_TRANSLATE_NOOP("App::Actions", "&Undo change of sprites"),              NoKey,        nullptr,        NeedsSpriteUndo, onSprites<&SpriteCommands::undo>},
+        {"sprite_redo",     "spr",   QT_TRANSLATE_NOOP("App::Actions", "Re&do change of sprites"),              NoKey,        nullptr,        NeedsSpriteRedo, onSprites<&SpriteCommands::redo>},
+
+        {"palette_open",    "pal",   QT_TRANSLATE_NOOP("App::Actions", "&Load palette..."),                     NoKey,        nullptr,        NeedsPalette,    onSprites<&SpriteCommands::openPalette>},
+        {"palette_save",    "pal",   QT_TRANSLATE_NOOP("App::Actions", "&Save palette as..."),                  NoKey,        nullptr,        NeedsPalette,    onSprites<&SpriteCommands::savePalette>},
+
+        {"sound_add",       "snd",   QT_TRANSLATE_NOOP("App::Actions", "&Add sounds..."),                       NoKey,        nullptr,        NeedsSounds,     onSounds<&SoundCommands::addSounds>},
+        {"sound_export",    "snd",   QT_TRANSLATE_NOOP("App::Actions", "&Save sounds as..."),                   NoKey,        nullptr,        NeedsSound,      onSounds<&SoundCommands::exportSounds>},
+        {"sound_remove",    "snd",   QT_TRANSLATE_NOOP("App::Actions", "Re&move sounds"),                       NoKey,        nullptr,        NeedsSound,      onSounds<&SoundCommands::removeSelected>},
+        {nullptr,          "snd",   nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
+        {"sound_undo",      "snd",   QT_TRANSLATE_NOOP("App::Actions", "&Undo change of sounds"),               NoKey,        nullptr,        NeedsSoundUndo,  onSounds<&SoundCommands::undo>},
+        {"sound_redo",      "snd",   QT_TRANSLATE_NOOP("App::Actions", "Re&do change of sounds"),               NoKey,        nullptr,        NeedsSoundRedo,  onSounds<&SoundCommands::redo>},
 
         {"next_panel",     "view",  QT_TRANSLATE_NOOP("App::Actions", "&Next panel"),                    NoKey,        "F6",           NoNeed,          call<&W::focusNextPanel>},
         {"previous_panel", "view",  QT_TRANSLATE_NOOP("App::Actions", "&Previous panel"),                NoKey,        "Shift+F6",     NoNeed,          call<&W::focusPreviousPanel>},

@@ -20,7 +20,16 @@ enum Need {
     NeedsSelection = 64,
     NeedsAnimation = 128,  ///< a current row in the list of animations
     NeedsEngine = 256,     ///< an engine runs
-    NeedsNoEngine = 512    ///< none does
+    NeedsNoEngine = 512,   ///< none does
+    NeedsSprites = 1024,   ///< the project has a sprite file
+    NeedsSprite = 2048,    ///< a current row in its list
+    NeedsPalette = 4096,   ///< the sprite there has a palette
+    NeedsSpriteUndo = 8192,
+    NeedsSpriteRedo = 16384,
+    NeedsSounds = 32768,  ///< the project has a sound file
+    NeedsSound = 65536,   ///< a current row in its list
+    NeedsSoundUndo = 131072,
+    NeedsSoundRedo = 262144
 };
 
 /// One action of the window: a row of the table.

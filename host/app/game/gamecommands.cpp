@@ -81,15 +81,15 @@ void GameCommands::restoreBackup()
     }
     RestoreDialog dialog(m_window, *game);
     if (dialog.exec() != QDialog::Accepted || dialog.folder().isEmpty() ||
-        !askAboutUnsaved(m_window->session()->modifiedDocuments())) {
+        !askAboutUnsaved(m_window->session()->modifiedFiles())) {
         return;
     }
     // What is discarded leaves the memory too, or the backup of what is replaced would hold it
     // instead of the files.
-    const QList<FamilyDocument*> discarded = m_window->session()->modifiedDocuments();
-    for (FamilyDocument* document : discarded) {
-        if (QFileInfo::exists(document->fileName())) {
-            document->reload();
+    const QList<Zorv::ProjectFile*> discarded = m_window->session()->modifiedFiles();
+    for (Zorv::ProjectFile* file : discarded) {
+        if (QFileInfo::exists(file->fileName())) {
+            readAgain(file);
         }
     }
     const BackupResult result = Family::restoreBackup(game, dialog.folder());
@@ -179,11 +179,11 @@ bool GameCommands::mayWriteInto(const QString& folder) const
 
 bool GameCommands::settleTwins() const
 {
-    const QString file = fileWithTwoTexts(m_window->session()->modifiedDocuments());
+    const QString file = fileWithTwoContents(m_window->session()->modifiedFiles());
     if (!file.isEmpty()) {
         Dialogs::instance()->warning(
             tr("Save all as"), tr("%1 was changed in several projects in different ways. Save it "
-                                  "first, and choose the text that stays.")
+                                  "first, and choose what stays.")
                                    .arg(QDir::toNativeSeparators(file)));
     }
     return file.isEmpty();

@@ -58,7 +58,7 @@ bool GameOpener::openPath(const QString& path)
 bool GameOpener::openFolder(const QString& folder)
 {
     if (!m_window->runCommands()->mayClose([this, folder] { openFolder(folder); }) ||
-        !askAboutUnsaved(m_window->session()->modifiedDocuments())) {
+        !askAboutUnsaved(m_window->session()->modifiedFiles())) {
         return false;
     }
     QString error;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QStringList>
+
+namespace Family {
+struct MediaResult;
+}
+
+namespace App {
+
+/// What a dialog asks files of.
+enum class MediaKind { Images, Palettes, PaletteTarget, Sounds };
+
+/// Ask for files to read. The dialog starts where the last one of the kind ended in this
+/// project. Empty if the person gives up.
+QStringList askForFiles(const QString& title, MediaKind kind);
+QString askForFile(const QString& title, MediaKind kind);
+
+/// Asks for a file to write, with a proposed name without a folder.
+QString askForTarget(const QString& title, const QString& name, MediaKind kind);
+
+/// Asks for a folder to write several files into.
+QString askForFolder(const QString& title, MediaKind kind);
+
+/// Asks if files that are there already may be replaced, with what tells of them.
+bool mayReplace(const QString& title, const QString& text);
+
+/// Tells how a piece of work ended: what was done in the status bar, what was not in a box.
+void tellResult(const QString& title, const QString& done, const Family::MediaResult& result);
+
+}  // namespace App

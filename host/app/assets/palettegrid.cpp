@@ -1,0 +1,102 @@
+#include "app/assets/palettegrid.h"
+
+#include "app/assets/chequer.h"
+#include "app/look/language.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace App {
+
+namespace {
+
+constexpr int Columns = 16;
+constexpr int Rows = 16;
+constexpr int SmallestCell = 5;
+constexpr int UsualCell = 9;
+
+}  // namespace
+
+PaletteGrid::PaletteGrid(QWidget* parent) : QWidget(parent)
+{
+    followLanguage(this, [this] { setAccessibleName(tr("Palette of the selected sprite")); });
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
+}
+
+void PaletteGrid::setColors(const Zorv::RGBA* colors)
+{
+    m_isEmpty = !colors;
+    if (colors) {
+        std::copy(colors, colors + 256, m_colors);
+    }
+    update();
+}
+
+QSize PaletteGrid::sizeHint() const
+{
+    return {Columns * UsualCell + 1, Rows * UsualCell + 1};
+}
+
+QSize PaletteGrid::minimumSizeHint() const
+{
+    return {Columns * SmallestCell + 1, Rows * SmallestCell + 1};
+}
+
+int PaletteGrid::cell() const
+{
+    return std::max(std::min((width() - 1) / Columns, (height() - 1) / Rows), 1);
+}
+
+QPoint PaletteGrid::corner() const
+{
+    return {(width() - Columns * cell()) / 2, (height() - Rows * cell()) / 2};
+}
+
+int PaletteGrid::entryAt(QPoint place) const
+{
+    const QPoint offset = place - corner();
+    const QRect grid(0, 0, Columns * cell(), Rows * cell());
+    return grid.contains(offset) ? offset.y() / cell() * Columns + offset.x() / cell() : -1;
+}
+
+void PaletteGrid::paintEvent(QPaintEvent*)
+{
+    if (m_isEmpty) {
+        return;
+    }
+    QPainter painter(this);
+    const QRect grid(corner(), QSize(Columns, Rows) * cell());
+    drawChequer(&painter, grid);
+    for (int i = 0; i < 256; ++i) {
+        const Zorv::RGBA color = m_colors[i];
+        const QPoint place(i % Columns * cell(), i / Columns * cell());
+        painter.fillRect(QRect(grid.topLeft() + place, QSize(cell(), cell())),
+                         QColor(color.r, color.g, color.b, color.a));
+    }
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(grid.adjusted(-1, -1, 0, 0));
+}
+
+bool PaletteGrid::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip) {
+        return QWidget::event(event);
+    }
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const int entry = m_isEmpty ? -1 : entryAt(help->pos());
+    QString text;
+    if (entry >= 0) {
+        const Zorv::RGBA color = m_colors[entry];
+        text = tr("Colour %1: %2, alpha %3")
+                   .arg(entry)
+                   .arg(QColor(color.r, color.g, color.b).name())
+                   .arg(color.a);
+    }
+    QToolTip::showText(help->globalPos(), text, this);
+    return true;
+}
+
+}  // namespace App

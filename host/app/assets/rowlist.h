@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QListView>
+#include <QVector>
+
+namespace App {
+
+/// A list that is looked at and chosen from: several rows can be selected, nothing is edited or
+/// dragged.
+class RowList : public QListView
+{
+    Q_OBJECT
+
+public:
+    explicit RowList(QWidget* parent = nullptr);
+
+    /// Lets go of the current row too, which the base class does without a word.
+    void setModel(QAbstractItemModel* model) override;
+
+    /// The selected rows in their order.
+    QVector<int> selectedRows() const;
+
+signals:
+    /// The person is at another row; -1 for none.
+    void currentRowChanged(int row);
+
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+};
+
+}  // namespace App

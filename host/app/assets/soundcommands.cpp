@@ -1,0 +1,92 @@
+#include "app/assets/soundcommands.h"
+
+#include "app/actions/actiontable.h"
+#include "app/assets/soundpanel.h"
+#include "app/assets/transfer.h"
+#include "app/mainwindow.h"
+#include "family/assets/soundfile.h"
+#include "operations/media/soundwork.h"
+
+#include <algorithm>
+
+namespace App {
+
+using Family::MediaResult;
+using Family::SoundFile;
+
+SoundCommands::SoundCommands(MainWindow* window) : QObject(window), m_panel(window->soundPanel()) {}
+
+int SoundCommands::presentNeeds() const
+{
+    const SoundFile* sounds = m_panel->sounds();
+    const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
+    return when(sounds, NeedsSounds) | when(m_panel->currentRow() >= 0, NeedsSound) |
+           when(sounds && sounds->steps().canUndo(), NeedsSoundUndo) |
+           when(sounds && sounds->steps().canRedo(), NeedsSoundRedo);
+}
+
+void SoundCommands::addSounds()
+{
+    SoundFile* sounds = m_panel->sounds();
+    if (!sounds) {
+        return;
+    }
+    const Family::FamilySound* current = sounds->sound(m_panel->currentRow());
+    const QString title = tr("Add sounds");
+    const ImportChoice choice =
+        askForImport(title, MediaKind::Sounds, current ? current->id().group : 0,
+                     [sounds](Family::AssetId id) { return sounds->find(0, id.text()) >= 0; });
+    if (choice.files.isEmpty()) {
+        return;
+    }
+    const unsigned before = sounds->count();
+    const MediaResult result =
+        Family::importSounds(sounds, choice.files, choice.group, choice.force);
+    tellResult(title, tr("%1 sounds are taken up.").arg(result.done), result);
+    if (sounds->count() > before) {
+        m_panel->setCurrentRow(int(sounds->count()) - 1);
+    }
+}
+
+void SoundCommands::exportSounds()
+{
+    const SoundFile* sounds = m_panel->sounds();
+    const QVector<Family::AssetId> ids = m_panel->selectedIds();
+    if (!ids.isEmpty()) {
+        exportSelected(tr("Save sounds as"), MediaKind::Sounds, ids, QStringLiteral(".wav"),
+                       [sounds](const auto& selection, const auto& request) {
+                           return Family::exportSounds(*sounds, selection, request);
+                       });
+    }
+}
+
+void SoundCommands::removeSelected()
+{
+    SoundFile* sounds = m_panel->sounds();
+    const QVector<int> rows = m_panel->selectedRows();
+    if (rows.isEmpty()) {
+        return;
+    }
+    sounds->beginChange(tr("Remove sounds"));
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        sounds->remove(unsigned(*row));
+    }
+    sounds->endChange();
+    m_panel->setCurrentRow(std::min(rows.first(), int(sounds->count()) - 1));
+}
+
+void SoundCommands::undo()
+{
+    if (m_panel->sounds()) {
+        m_panel->sounds()->undo();
+    }
+}
+
+void SoundCommands::redo()
+{
+    if (m_panel->sounds()) {
+        m_panel->sounds()->redo();
+    }
+}
+
+}  // namespace App

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QPointer>
+#include <QVector>
+#include <QWidget>
+
+class QLabel;
+
+namespace Family {
+struct AssetId;
+class SoundFile;
+}  // namespace Family
+
+namespace App {
+
+class RowList;
+
+/// The sounds of the project in front: a list, and what the selected one is like.
+class SoundPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SoundPanel(QWidget* parent = nullptr);
+
+    /// Null for none. A collection that dies is let go of.
+    void setSounds(Family::SoundFile* sounds);
+    Family::SoundFile* sounds() const;
+
+    RowList* list() const { return m_list; }
+    int currentRow() const;
+
+    /// The selected rows in their order.
+    QVector<int> selectedRows() const;
+    void setCurrentRow(int row);
+
+    /// The numbers of the selected sounds, one for each sound.
+    QVector<Family::AssetId> selectedIds() const;
+
+signals:
+    /// The current row, or anything in the collection.
+    void changed();
+
+private:
+    void updateCurrent();
+    QString currentText() const;
+
+    QPointer<Family::SoundFile> m_sounds;
+    RowList* m_list;
+    QLabel* m_text;
+};
+
+}  // namespace App

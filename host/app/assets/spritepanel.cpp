@@ -1,0 +1,155 @@
+#include "app/assets/spritepanel.h"
+
+#include "app/assets/palettegrid.h"
+#include "app/assets/spritelist.h"
+#include "app/assets/spritepicture.h"
+#include "app/look/language.h"
+#include "cache/palette.h"
+#include "cache/palettes.h"
+#include "family/assets/familysprite.h"
+#include "family/assets/spritecollection.h"
+
+#include <QLabel>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace App {
+
+using Family::FamilySprite;
+using Family::SpriteCollection;
+
+SpritePanel::SpritePanel(QWidget* parent)
+    : QWidget(parent), m_list(new SpriteList), m_picture(new SpritePicture),
+      m_palette(new PaletteGrid), m_text(new QLabel)
+{
+    m_text->setWordWrap(true);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* selected = new QWidget;
+    auto* column = new QVBoxLayout(selected);
+    column->setContentsMargins({});
+    column->addWidget(m_text);
+    column->addWidget(m_picture, 1);
+    column->addWidget(m_palette);
+    auto* splitter = new QSplitter(Qt::Vertical);
+    splitter->addWidget(m_list);
+    splitter->addWidget(selected);
+    splitter->setStretchFactor(0, 1);
+    splitter->setChildrenCollapsible(false);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(splitter);
+    setFocusProxy(m_list);
+
+    connect(m_list, &SpriteList::currentRowChanged, this, &SpritePanel::updateCurrent);
+    connect(m_list, &QListView::activated, this,
+            [this](const QModelIndex& index) { emit spriteActivated(index.row()); });
+    followLanguage(this, [this] { m_text->setText(currentText()); });
+}
+
+void SpritePanel::setSprites(SpriteCollection* sprites)
+{
+    if (sprites == m_sprites) {
+        return;
+    }
+    if (m_sprites) {
+        m_sprites->disconnect(this);
+        m_sprites->palettes()->disconnect(this);
+    }
+    m_sprites = sprites;
+    m_list->setSprites(sprites);
+    if (sprites) {
+        connect(sprites, &SpriteCollection::changed, this, &SpritePanel::updateCurrent);
+        connect(sprites->palettes(), &Zorv::Palettes::palChanged, this,
+                &SpritePanel::updateCurrent);
+        setCurrentRow(0);
+    }
+    updateCurrent();
+}
+
+SpriteCollection* SpritePanel::sprites() const
+{
+    return m_sprites;
+}
+
+int SpritePanel::currentRow() const
+{
+    return m_sprites ? m_list->currentIndex().row() : -1;
+}
+
+void SpritePanel::setCurrentRow(int row)
+{
+    if (m_sprites) {
+        m_list->setCurrentIndex(m_sprites->index(row));
+    }
+}
+
+FamilySprite* SpritePanel::currentSprite() const
+{
+    return m_sprites ? m_sprites->sprite(currentRow()) : nullptr;
+}
+
+QVector<int> SpritePanel::selectedRows() const
+{
+    return m_list->selectedRows();
+}
+
+QVector<Family::AssetId> SpritePanel::selectedIds() const
+{
+    QVector<Family::AssetId> ids;
+    const QVector<int> rows = selectedRows();
+    for (int row : rows) {
+        ids.append(m_sprites->sprite(row)->id());
+    }
+    return ids;
+}
+
+bool SpritePanel::showSprite(int group, int number)
+{
+    const Family::AssetId id{quint16(group), quint16(number)};
+    const int row = m_sprites ? m_sprites->find(0, id.text()) : -1;
+    if (row >= 0) {
+        setCurrentRow(row);
+    }
+    return row >= 0;
+}
+
+void SpritePanel::updateCurrent()
+{
+    const FamilySprite* sprite = currentSprite();
+    const QImage image = sprite ? sprite->image() : QImage();
+    m_picture->setSprite(image, sprite ? sprite->axis() : QPoint(),
+                         sprite && !sprite->fault().isEmpty());
+    const Zorv::Palette* palette = sprite ? sprite->palette() : nullptr;
+    Zorv::RGBA colors[256] = {};
+    if (palette) {
+        palette->toPalette(colors);
+    }
+    m_palette->setColors(palette ? colors : nullptr);
+    m_text->setText(currentText());
+    emit changed();
+}
+
+QString SpritePanel::currentText() const
+{
+    const FamilySprite* sprite = currentSprite();
+    if (!sprite) {
+        return !m_sprites                ? tr("No sprite file")
+               : m_sprites->count() == 1 ? tr("1 sprite")
+                                         : tr("%1 sprites").arg(m_sprites->count());
+    }
+    const QSize size = sprite->size();
+    const QPoint axis = sprite->axis();
+    QString text = tr("Sprite %1: %2 × %3, axis %4,%5")
+                       .arg(sprite->property(QStringLiteral("Identifier")).toString())
+                       .arg(size.width())
+                       .arg(size.height())
+                       .arg(axis.x())
+                       .arg(axis.y());
+    if (const Zorv::Palette* palette = sprite->palette()) {
+        text += tr(", palette %1").arg(palette->property(QStringLiteral("Identifier")).toString());
+    }
+    const QString codec = sprite->property(QStringLiteral("Codec")).toString();
+    return codec.isEmpty() ? text : text + QLatin1String(", ") + codec;
+}
+
+}  // namespace App

@@ -1,0 +1,72 @@
+#include "app/assets/transfer.h"
+
+#include "operations/media/assetnames.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace App {
+
+using Family::AssetId;
+using Family::ImportTarget;
+using Family::MediaResult;
+
+namespace {
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(App::Transfer)
+};
+
+}  // namespace
+
+ImportChoice askForImport(const QString& title, MediaKind kind, int group,
+                          const std::function<bool(AssetId)>& contains)
+{
+    ImportChoice choice;
+    choice.files = askForFiles(title, kind);
+    bool areNamed = true;
+    for (const QString& file : qAsConst(choice.files)) {
+        ImportTarget target;
+        areNamed = areNamed && Family::importTarget(file, &target);
+        choice.force = choice.force || (areNamed && contains(target.id));
+    }
+    choice.group = areNamed ? -1 : group;
+    choice.force = choice.force && areNamed;
+    if (choice.force &&
+        !mayReplace(title, Text::tr("The numbers in the names of some files are taken already."))) {
+        return {};
+    }
+    return choice;
+}
+
+void exportSelected(
+    const QString& title, MediaKind kind, const QVector<AssetId>& ids, const QString& suffix,
+    const std::function<MediaResult(const Family::Selection&, const Family::OutputRequest&)>& write)
+{
+    Family::Selection selection;
+    for (AssetId id : ids) {
+        selection.add(id.text());
+    }
+    Family::OutputRequest request;
+    request.force = ids.size() == 1;
+    request.place = request.force
+                        ? askForTarget(title, Family::exportNames(ids).first() + suffix, kind)
+                        : askForFolder(title, kind);
+    if (request.place.isEmpty()) {
+        return;
+    }
+    MediaResult result = write(selection, request);
+    if (!request.force && result.done == 0 && !result.errors.isEmpty()) {
+        if (!mayReplace(title, result.errors.first())) {
+            return;
+        }
+        request.force = true;
+        result = write(selection, request);
+    }
+    tellResult(title, Text::tr("%1 files are written.").arg(result.done), result);
+}
+
+}  // namespace App

@@ -1,0 +1,269 @@
+#include "windowfixture.h"
+
+#include "app/assets/rowlist.h"
+#include "app/assets/soundpanel.h"
+#include "app/assets/spritelist.h"
+#include "app/assets/spritepanel.h"
+#include "app/assets/spritepicture.h"
+#include "core/filesystemarchive.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritefile.h"
+#include "media/soundsample.h"
+
+#include <QAction>
+#include <QHelpEvent>
+#include <QImage>
+#include <QSignalSpy>
+
+using Family::AssetId;
+using Family::SoundFile;
+using Family::SpriteFile;
+
+namespace {
+
+constexpr QRgb Colors[] = {0x00000000, 0xffff0000, 0xff00c000, 0xff0000ff};
+
+/// A block of one colour of four.
+QImage block(int index, const QSize& size = {8, 6})
+{
+    QImage image(size, QImage::Format_Indexed8);
+    image.setColorTable(QVector<QRgb>(std::begin(Colors), std::end(Colors)));
+    image.fill(uint(index));
+    return image;
+}
+
+bool hasColor(const QWidget* widget, const QColor& color)
+{
+    const QImage picture = const_cast<QWidget*>(widget)->grab().toImage();
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) == color) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+/// Sprites, palettes and sounds of the project in the real window: seen, brought in, taken out,
+/// saved.
+class tst_AssetPanels : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m.reset(); }
+
+    void showsWhatIsInSight();
+    void followsTheCursor();
+    void bringsImagesIn();
+    void replacesAnImage_data();
+    void replacesAnImage();
+    void takesImagesAndPalettesOut();
+    void soundsComeAndGo();
+    void asksBeforeSpritesAreLost_data();
+    void asksBeforeSpritesAreLost();
+
+private:
+    App::SpritePanel* panel() const { return m->fixture.window->spritePanel(); }
+    Family::SpriteCollection* sprites() const { return panel()->sprites(); }
+    void trigger(const char* name) const { m->fixture.action(name)->trigger(); }
+    QString image(const QString& name, const QImage& image) const;
+
+    struct Open
+    {
+        TemporaryGame game;
+        QTemporaryDir folder;
+        WindowFixture fixture{folder.filePath(QStringLiteral("settings.ini"))};
+    };
+    std::unique_ptr<Open> m;
+};
+
+void tst_AssetPanels::init()
+{
+    m = std::make_unique<Open>();
+    m->game.write("characters/ryn/ryn.character", "[info]\r\nname = \"Ryn\"\r\n[files]\r\n"
+                                                  "sprites = \"ryn.sprites\"\r\n"
+                                                  "sounds = \"ryn.sounds\"\r\n"
+                                                  "animations = \"basic.anim\"\r\n"
+                                                  "[constants]\r\nlife = 1000\r\n[.walk]\r\n"
+                                                  "forward = 2.5\r\nback = -2\r\n");
+    SpriteFile file;
+    for (int i = 0; i < 500; ++i) {
+        QVERIFY(file.insertSprite(i - 1, {0, quint16(i)}, {4, 6}, block(1 + i % 3)));
+    }
+    const QString folder = m->game.path("characters/ryn/");
+    Zorv::Archive* archive = Zorv::FileSystemArchive::instance();
+    QVERIFY(file.toFile(*archive, folder + "ryn.sprites", false));
+    SoundFile sounds;
+    Zorv::SoundSample sample;
+    sample.channels = 1;
+    sample.bits = 16;
+    sample.sampleRate = 22050;
+    sample.frames = 2205;
+    sample.data = QByteArray(4410, 1);
+    QVERIFY(sounds.add(0, QStringLiteral("5,0"), sample));
+    QVERIFY(sounds.toFile(*archive, folder + "ryn.sounds", false));
+    m->fixture.open(m->game, m->game.ryn(), m->game.animations());
+    QTRY_VERIFY(sprites());
+}
+
+QString tst_AssetPanels::image(const QString& name, const QImage& image) const
+{
+    const QString path = m->folder.filePath(name);
+    return image.save(path) ? path : QString();
+}
+
+void tst_AssetPanels::showsWhatIsInSight()
+{
+    App::SpriteList* list = panel()->list();
+    QCOMPARE(list->model()->rowCount(), 500);
+    QTRY_VERIFY(hasColor(list->viewport(), QColor(0xff, 0, 0)));
+    panel()->setCurrentRow(402);
+    list->scrollTo(list->currentIndex());
+    auto* picture = panel()->findChild<App::SpritePicture*>();
+    QTRY_VERIFY(hasColor(picture, QColor(Colors[1])));
+    QCOMPARE(picture->pixelAt(picture->rect().center()), QPoint(4, 3));
+    panel()->setCurrentRow(1);
+    QTRY_VERIFY(hasColor(picture, QColor(Colors[2])) && !hasColor(picture, QColor(Colors[1])));
+}
+
+void tst_AssetPanels::followsTheCursor()
+{
+    m->fixture.goTo(9);
+    QCOMPARE(panel()->currentSprite()->id(), (AssetId{0, 2}));
+    m->fixture.goTo(2);
+    QCOMPARE(panel()->currentSprite()->id(), (AssetId{0, 0}));
+}
+
+void tst_AssetPanels::bringsImagesIn()
+{
+    // Without numbers in their names they go to the group of the current sprite.
+    m->fixture.dialogs.fileAnswers = {{image("a.png", block(3, {4, 4}))}};
+    trigger("sprite_add");
+    QCOMPARE(sprites()->count(), 501U);
+    QCOMPARE(panel()->currentSprite()->id(), (AssetId{0, 500}));
+    QCOMPARE(panel()->currentSprite()->size(), QSize(4, 4));
+    QVERIFY(m->fixture.action("save_all")->isEnabled());
+
+    // Named after a sprite that is there: nothing is replaced without leave.
+    const QString named = image("0-7.png", block(2, {5, 5}));
+    for (const auto answer : {Zorv::Dialogs::No, Zorv::Dialogs::Yes}) {
+        m->fixture.dialogs.fileAnswers = {{named}};
+        m->fixture.dialogs.buttonAnswers = {answer};
+        trigger("sprite_add");
+        QCOMPARE(sprites()->sprite(7)->size(),
+                 answer == Zorv::Dialogs::Yes ? QSize(5, 5) : QSize(8, 6));
+    }
+    trigger("sprite_undo");
+    QCOMPARE(sprites()->sprite(7)->size(), QSize(8, 6));
+    trigger("sprite_undo");
+    QCOMPARE(sprites()->count(), 500U);
+    QTRY_VERIFY(!m->fixture.action("save_all")->isEnabled());
+
+    m->game.write("broken.png", "no picture");
+    m->fixture.dialogs.fileAnswers = {{m->game.path("broken.png")}};
+    trigger("sprite_add");
+    QCOMPARE(m->fixture.dialogs.count(QStringLiteral("error")), 1);
+    QCOMPARE(sprites()->count(), 500U);
+}
+
+void tst_AssetPanels::replacesAnImage_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QRgb>("shown");
+    QTest::addColumn<QRgb>("other");
+    const QRgb yellow = 0xffffff00;
+    QTest::newRow("palette of the image") << 0 << yellow << Colors[1];
+    QTest::newRow("palette of the sprite") << 1 << Colors[1] << Colors[1];
+    QTest::newRow("colours for all") << 2 << yellow << yellow;
+    QTest::newRow("given up") << -1 << Colors[1] << Colors[1];
+}
+
+void tst_AssetPanels::replacesAnImage()
+{
+    QFETCH(int, answer);
+    QFETCH(QRgb, shown);
+    QFETCH(QRgb, other);
+    QImage yellow = block(1);
+    yellow.setColor(1, 0xffffff00);
+    m->fixture.dialogs.fileAnswers = {{image("yellow.png", yellow)}};
+    m->fixture.dialogs.choiceAnswers = {answer};
+    panel()->setCurrentRow(0);
+    trigger("sprite_replace");
+    QCOMPARE(sprites()->sprite(0)->image().pixel(2, 2), shown);
+    QCOMPARE(sprites()->sprite(3)->image().pixel(2, 2), other);
+}
+
+void tst_AssetPanels::takesImagesAndPalettesOut()
+{
+    panel()->setCurrentRow(2);
+    const QString single = m->folder.filePath("one.png");
+    const QString palette = m->folder.filePath("colours.act");
+    m->fixture.dialogs.fileAnswers = {{single}, {palette}};
+    trigger("sprite_export");
+    QCOMPARE(QImage(single).pixel(1, 1), Colors[3]);
+    trigger("palette_save");
+    QCOMPARE(QFileInfo(palette).size(), 768);
+
+    panel()->list()->selectAll();
+    const QString folder = m->folder.filePath("all");
+    QVERIFY(QDir().mkpath(folder));
+    m->fixture.dialogs.fileAnswers = {{folder}};
+    trigger("sprite_export");
+    QCOMPARE(QDir(folder).entryList({QStringLiteral("*.png")}).size(), 500);
+
+    // What is saved can be loaded: the colours, with the first one transparent.
+    panel()->setCurrentRow(0);
+    const auto before = sprites()->sprite(0)->shownColors();
+    m->fixture.dialogs.fileAnswers = {{palette}};
+    trigger("palette_open");
+    QCOMPARE(sprites()->sprite(0)->shownColors().mid(1, 3), before.mid(1, 3));
+}
+
+void tst_AssetPanels::soundsComeAndGo()
+{
+    App::SoundPanel* sounds = m->fixture.window->soundPanel();
+    QTRY_VERIFY(sounds->sounds());
+    const QString file = m->folder.filePath("5-9.wav");
+    m->fixture.dialogs.fileAnswers = {{file}, {file}};
+    trigger("sound_export");
+    QCOMPARE(QFileInfo(file).size(), 44 + 4410);
+    trigger("sound_add");
+    QCOMPARE(sounds->sounds()->find(0, QStringLiteral("5,9")), 1);
+    trigger("sound_remove");
+    QCOMPARE(sounds->sounds()->count(), 1U);
+    trigger("sound_undo");
+    QCOMPARE(sounds->sounds()->sound(1)->sampleData(), QByteArray(4410, 1));
+}
+
+void tst_AssetPanels::asksBeforeSpritesAreLost_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<unsigned>("left");
+    QTest::newRow("saved") << 0 << 499U;
+    QTest::newRow("discarded") << 1 << 500U;
+    QTest::newRow("stays open") << -1 << 499U;
+}
+
+void tst_AssetPanels::asksBeforeSpritesAreLost()
+{
+    QFETCH(int, answer);
+    QFETCH(unsigned, left);
+    panel()->setCurrentRow(10);
+    trigger("sprite_remove");
+    m->fixture.dialogs.choiceAnswers = {answer};
+    trigger("close_project");
+    QCOMPARE(m->fixture.dialogs.count(QStringLiteral("choose")), 1);
+    if (answer >= 0) {
+        QVERIFY(m->fixture.window->openFile(m->game.ryn()));
+    }
+    QTRY_VERIFY(sprites());
+    QCOMPARE(sprites()->count(), left);
+}
+
+QTEST_MAIN(tst_AssetPanels)
+#include "tst_assetpanels.moc"
