@@ -127,7 +127,7 @@ void FamilySprite::setImage(const QImage& image)
     const PaletteColors colors = colorsOfTable(pixels.colorTable());
     const bool fits = pixels.colorCount() == 0 ||
                       (state.palette && colors == state.palette->state.colors) ||
-                      colors == colorsOfTable(shownColors());
+                      (state.pixels && colors == colorsOfTable(shownColors()));
     if (fits) {
         setPixels(pixels, state.palette);
     } else {

@@ -19,8 +19,9 @@ public:
     PixelFormat format;
     quint64 pixelCrc = 0;   ///< of the unpacked rows, as a file tells it
     quint64 streamCrc = 0;  ///< of the packed bytes; 0 if it was not read from a file
-    QByteArray record;  ///< that of the file, if it is broken; the pixels are then not to be had
-    quint32 order = 0;  ///< where its stream stands in the file among others
+    QByteArray record;     ///< that of the file, if it is broken; the pixels are then not to be had
+    bool isGuess = false;  ///< where the bytes of a broken record lie was guessed
+    quint32 order = 0;     ///< where its stream stands in the file among others
 
 protected:
     void disposeData() override;

@@ -3,6 +3,8 @@
 #include "assets/pixelstore.h"
 #include "assets/remapmodel.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <numeric>
 
@@ -16,13 +18,13 @@ AssetId next(AssetId id)
 }
 
 // Pixels that stay in the file are let go, or come back.
-struct KeptChange final : AssetHistory::Change
+struct UnshownChange final : AssetHistory::Change
 {
-    explicit KeptChange(QVector<PixelRef>* list) : kept(list) {}
-    void undo() override { kept->swap(other); }
-    void redo() override { kept->swap(other); }
+    explicit UnshownChange(QVector<PixelRef>* list) : unshown(list) {}
+    void undo() override { unshown->swap(other); }
+    void redo() override { unshown->swap(other); }
 
-    QVector<PixelRef>* kept;
+    QVector<PixelRef>* unshown;
     QVector<PixelRef> other;
 };
 
@@ -50,19 +52,36 @@ void SpriteCollection::letGo()
 {
     m_pending.clear();
     m_history.clear();
-    m_kept.clear();
+    m_unshown.clear();
+    m_all.clear();
 }
 
 int SpriteCollection::brokenCount() const
 {
     const auto isBroken = [](const auto& item) { return !item->state.record.isEmpty(); };
-    const auto& palettes = m_palettes->items();
-    const auto& remaps = m_palettes->remaps()->items();
-    return int(std::count_if(items().begin(), items().end(),
-                             [](const ItemPtr& sprite) { return !sprite->fault().isEmpty(); }) +
-               std::count_if(palettes.begin(), palettes.end(), isBroken) +
-               std::count_if(remaps.begin(), remaps.end(), isBroken)) +
-           m_kept.size();
+    const auto countOf = [&](const auto& list) {
+        return int(std::count_if(list.begin(), list.end(), isBroken));
+    };
+    QSet<const PixelData*> pixels;
+    for (const PixelRef& ref : m_unshown) {
+        pixels.insert(ref.get());
+    }
+    for (const ItemPtr& sprite : items()) {
+        pixels.insert(sprite->state.pixels.get());
+    }
+    return countOf(items()) + countOf(m_palettes->items()) +
+           countOf(m_palettes->remaps()->items()) +
+           int(std::count_if(pixels.begin(), pixels.end(), [](const PixelData* data) {
+               return data && !data->record.isEmpty();
+           }));
+}
+
+const QVector<PixelRef>& SpriteCollection::keptPixels() const
+{
+    const bool isBroken = std::any_of(items().begin(), items().end(), [](const ItemPtr& sprite) {
+        return !sprite->state.record.isEmpty();
+    });
+    return isBroken ? m_all : m_unshown;
 }
 
 void SpriteCollection::removeBroken()
@@ -75,8 +94,8 @@ void SpriteCollection::removeBroken()
     }
     m_palettes->removeBroken();
     m_palettes->remaps()->removeBroken();
-    if (!m_kept.isEmpty()) {
-        auto change = std::make_unique<KeptChange>(&m_kept);
+    if (!m_unshown.isEmpty()) {
+        auto change = std::make_unique<UnshownChange>(&m_unshown);
         change->redo();
         m_history.record(std::move(change));
     }
@@ -302,7 +321,8 @@ void SpriteCollection::take(Content&& content, bool asCopy)
     // The old pixels need their store until the last of them has gone.
     const std::unique_ptr<PixelStore> old = std::exchange(m_store, std::move(content.store));
     setCache(m_store->cache());
-    m_kept = content.kept;
+    m_unshown = content.unshown;
+    m_all = content.all;
     m_loadErrors = content.errors;
     m_current = nullptr;
     currentIndex = content.sprites.isEmpty() ? -1 : 0;

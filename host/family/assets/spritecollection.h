@@ -112,7 +112,8 @@ protected:
         QVector<ItemPtr> sprites;
         QVector<PaletteList::ItemPtr> palettes;
         QVector<std::shared_ptr<RemapItem>> remaps;
-        QVector<PixelRef> kept;  ///< pixels that must stay in the file though no sprite shows them
+        QVector<PixelRef> unshown;  ///< pixels of the file that no sprite shows
+        QVector<PixelRef> all;      ///< all of it, if broken records of sprites may name any
         QStringList errors;
     };
 
@@ -123,7 +124,9 @@ protected:
     void take(Content&& content, bool asCopy);
     void setFileName(const QString& fileName) { m_fileName = fileName; }
     void setClean() { m_history.setClean(); }
-    const QVector<PixelRef>& keptPixels() const { return m_kept; }
+
+    /// Pixels that must stay in the file though no sprite may show them.
+    const QVector<PixelRef>& keptPixels() const;
 
 private:
     void listChanged(bool count) override;
@@ -137,7 +140,8 @@ private:
     AssetHistory m_history;
     std::unique_ptr<PaletteList> m_palettes;
     QVector<ItemPtr> m_pending;
-    QVector<PixelRef> m_kept;
+    QVector<PixelRef> m_unshown;
+    QVector<PixelRef> m_all;
     mutable QHash<quint32, int> m_rowOfId;  // the first of each
     mutable bool m_rowsKnown = false;
     QHash<quint32, int> m_ids;  // how many sprites have each, of the list and pending

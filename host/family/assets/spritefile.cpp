@@ -44,6 +44,7 @@ Data::Stream streamOf(const PixelData* pixels)
     stream.pixelCrc = pixels->pixelCrc;
     stream.streamCrc = pixels->streamCrc;
     stream.broken = pixels->record;
+    stream.isGuess = pixels->isGuess;
     return stream;
 }
 
@@ -136,6 +137,7 @@ bool SpriteFile::readContent(QIODevice* device, Content* content, QString* error
         pixels.append(
             content->store->adopt(stream.format, bytes, stream.pixelCrc, stream.streamCrc));
         pixels.last()->record = stream.broken;
+        pixels.last()->isGuess = stream.isGuess;
     }
     for (const Data::Palette& from : data.palettes) {
         content->palettes.append(std::make_shared<FamilyPalette>(palettes()));
@@ -162,11 +164,13 @@ bool SpriteFile::readContent(QIODevice* device, Content* content, QString* error
         }
         content->sprites.append(sprite);
     }
-    // A broken record may name any of them, by its place.
     for (int i = 0; i < pixels.size(); ++i) {
-        if (keepAll || !used[i]) {
-            content->kept.append(pixels[i]);
+        if (!used[i]) {
+            content->unshown.append(pixels[i]);
         }
+    }
+    if (keepAll) {
+        content->all = pixels;
     }
     return true;
 }

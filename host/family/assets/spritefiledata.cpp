@@ -19,6 +19,7 @@ constexpr int PaletteSize = 1040;
 constexpr int StreamSize = 48;
 constexpr int SpriteSize = 32;
 constexpr int RemapSize = 16;
+constexpr quint32 LargestStream = 1u << 30;
 
 struct Head
 {
@@ -101,8 +102,9 @@ bool readStream(RecordReader& reader, SpriteFileData::Stream* stream)
     stream->streamCrc = reader.u64();
     const bool isCodec = codec == PixelCodec::Lz5 || codec == PixelCodec::Rle8 ||
                          codec == PixelCodec::Png || codec == PixelCodec::Pcx;
-    return isCodec && (bits == 8 || (bits == 32 && codec == PixelCodec::Png)) && width >= 1 &&
-           height >= 1 && width <= LargestSprite && height <= LargestSprite;
+    return isCodec && stream->size > 0 && stream->size <= LargestStream &&
+           (bits == 8 || (bits == 32 && codec == PixelCodec::Png)) && width >= 1 && height >= 1 &&
+           width <= LargestSprite && height <= LargestSprite;
 }
 
 bool readSprite(RecordReader& reader, SpriteFileData::Sprite* sprite)
@@ -182,10 +184,12 @@ QByteArray brokenRecord(const SpriteFileData::Stream& stream, quint64 fileSize)
     RecordReader reader(record.constData());
     const quint64 offset = reader.u64();
     const quint32 size = reader.u32();
-    if (!stream.inFile && (offset > fileSize || fileSize - offset < size)) {
+    const bool leadsNowhere = size == 0 || offset > fileSize || fileSize - offset < size;
+    const bool isKnown = stream.inFile && !stream.isGuess;
+    if (!isKnown && leadsNowhere) {
         return record;
     }
-    qToLittleEndian<quint64>(stream.inFile ? stream.offset : fileSize, record.data());
+    qToLittleEndian<quint64>(isKnown ? stream.offset : fileSize, record.data());
     return wasSealed ? sealed(record) : record;
 }
 
@@ -237,6 +241,30 @@ bool readTables(SpriteFileData* data, const Head& head, const QByteArray& bytes)
     return data->problems.isEmpty();
 }
 
+// Of pixels whose record leads nowhere, the bytes are those that are left over between their
+// neighbours. Nothing can be made of them, but they are not to be lost.
+void guessPlaces(SpriteFileData* data, quint64 tableEnd, quint64 size, quint64 left)
+{
+    quint64 end = tableEnd;
+    for (int i = 0; i < data->streams.size(); ++i) {
+        SpriteFileData::Stream& stream = data->streams[i];
+        if (stream.inFile) {
+            end = stream.offset + stream.size;
+            continue;
+        }
+        const auto next = std::find_if(data->streams.begin() + i, data->streams.end(),
+                                       [](const auto& other) { return other.inFile; });
+        const quint64 until = next == data->streams.end() ? size : next->offset;
+        if (until > end && until - end <= std::min<quint64>(left, LargestStream)) {
+            stream.offset = end;
+            stream.size = quint32(until - end);
+            stream.inFile = stream.isGuess = true;
+            left -= stream.size;
+            end = until;
+        }
+    }
+}
+
 // Streams lie behind the tables and not over each other: together they have no more bytes than
 // the file.
 void checkStreams(SpriteFileData* data, const QByteArray& bytes, quint64 tableEnd, quint64 size,
@@ -246,7 +274,8 @@ void checkStreams(SpriteFileData* data, const QByteArray& bytes, quint64 tableEn
     for (int i = 0; i < data->streams.size(); ++i) {
         SpriteFileData::Stream& stream = data->streams[i];
         stream.inFile = stream.offset >= tableEnd && stream.offset <= size &&
-                        stream.size <= size - stream.offset && stream.size <= left;
+                        stream.size <= size - stream.offset &&
+                        stream.size <= std::min<quint64>(left, LargestStream);
         if (stream.inFile) {
             left -= stream.size;
         } else if (stream.broken.isEmpty()) {
@@ -255,6 +284,7 @@ void checkStreams(SpriteFileData* data, const QByteArray& bytes, quint64 tableEn
                 text("Pixels %1 are broken: they are not in the file.").arg(i + 1));
         }
     }
+    guessPlaces(data, tableEnd, size, left);
 }
 
 void checkSprites(SpriteFileData* data, const QByteArray& bytes, int firstRecord)

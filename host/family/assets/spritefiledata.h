@@ -36,7 +36,8 @@ struct SpriteFileData
         quint64 pixelCrc = 0;
         quint64 streamCrc = 0;
         QByteArray broken;
-        bool inFile = true;  ///< its bytes lie in the file, behind the tables
+        bool inFile = true;    ///< its bytes lie in the file, behind the tables
+        bool isGuess = false;  ///< but where is not told by the record: what lies there is nobody's
     };
     struct Sprite
     {

@@ -1,0 +1,413 @@
+#include "plainsprites.h"
+
+#include "assets/newsprites.h"
+#include "assets/pixelstore.h"
+#include "assets/recordbytes.h"
+#include "assets/spritefile.h"
+#include "assets/spritefiledata.h"
+#include "assets/spritejobs.h"
+#include "core/filesystemarchive.h"
+#include "media/losslessimages.h"
+#include "support/brokenbytes.h"
+#include "support/faultshim.h"
+#include "support/testinterface.h"
+
+#include <QBuffer>
+#include <QMutex>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cerrno>
+
+using namespace Family;
+
+namespace {
+
+/// Where the tables and records of the small file begin.
+constexpr int PalettesAt = 64;
+constexpr int StreamsAt = PalettesAt + 2 * 1040;
+constexpr int SpritesAt = StreamsAt + 4 * 48;
+constexpr int RemapsAt = SpritesAt + 5 * 32;
+
+QByteArray fileBytes(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Gives the bytes of a file to a collection, and takes the bytes that it saves.
+class Disk
+{
+public:
+    QString name() const { return m_folder.filePath(QStringLiteral("a.sprites")); }
+
+    bool open(SpriteCollection& sprites, const QByteArray& bytes)
+    {
+        QFile file(name());
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
+               file.flush() &&
+               sprites.fromFile(*Zorv::FileSystemArchive::instance(), name(), false);
+    }
+
+    QByteArray save(SpriteCollection& sprites)
+    {
+        return sprites.toFile(*Zorv::FileSystemArchive::instance(), name(), false)
+                   ? fileBytes(name())
+                   : QByteArray();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QImage picture(int width, int height, int kind)
+{
+    QImage image(width, height, kind == 4 ? QImage::Format_ARGB32 : QImage::Format_Indexed8);
+    if (kind != 4) {
+        image.setColorTable(tableOfColors(greyColors()));
+    }
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            image.setPixel(x, y, kind == 4 ? qRgba(x, y, 9, 40 * x) : uint(x * y + kind) % 20);
+        }
+    }
+    return image;
+}
+
+/// Five sprites of four streams, one in each codec, with two palettes and a remap.
+QByteArray smallFile()
+{
+    SpriteFile file;
+    const struct
+    {
+        const char* codec;
+        int kind;
+    } rows[] = {{"LZ5", 1}, {"RLE8", 2}, {"PCX", 3}, {"PNG", 4}, {"", 1}};
+    for (int i = 0; i < 5; ++i) {
+        FamilySprite* sprite = file.insertSprite(i, {quint16(i / 2), quint16(i)}, {i, -i},
+                                                 picture(6, 5, rows[i].kind));
+        if (rows[i].codec[0]) {
+            sprite->setProperty(QStringLiteral("Codec"), QString::fromLatin1(rows[i].codec));
+        }
+    }
+    file.sprite(4)->state.pixels = file.sprite(0)->state.pixels;
+    Zorv::RGBA colors[256] = {{1, 2, 3, 4}};
+    file.palettes()->addPalette(colors, QStringLiteral("9,9"), false);
+    file.palettes()->remaps()->add({1, 1}, {9, 9});
+    return Disk().save(file);
+}
+
+QByteArray resealed(QByteArray file, int record, int size)
+{
+    return file.replace(record, size, sealed(file.mid(record, size)));
+}
+
+}  // namespace
+
+class TestSpriteFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { Zorv::setLosslessImages(true); }
+    void cleanup() { faultArm("", FaultOpen, 0, 0, 0); }
+    void savesTheSameBytes_data();
+    void savesTheSameBytes();
+    void takesAnyBytes();
+    void keepsBrokenRecords_data();
+    void keepsBrokenRecords();
+    void refusesWhatIsNoSpriteFile_data();
+    void refusesWhatIsNoSpriteFile();
+    void findsBrokenPixels();
+    void mendsWhatIsChanged();
+    void takesNoMoreMemoryThanTheFileHas();
+    void failedSaveLosesNothing();
+    void givesEachImageToAJob();
+};
+
+void TestSpriteFile::savesTheSameBytes_data()
+{
+    QTest::addColumn<int>("cacheType");
+    QTest::newRow("in memory") << 1;
+    QTest::newRow("in a temporary file") << 2;
+}
+
+void TestSpriteFile::savesTheSameBytes()
+{
+    QFETCH(int, cacheType);
+    TestInterface interface;
+    interface.options.insert(QStringLiteral("cache_type"), cacheType);
+    const QByteArray bytes = smallFile();
+    Disk disk;
+    SpriteFile file;
+    QVERIFY2(disk.open(file, bytes), qPrintable(file.errorString()));
+    QCOMPARE(int(file.cache()->type()), cacheType);
+    QCOMPARE(file.loadErrors(), QStringList());
+    QCOMPARE(disk.save(file), bytes);
+    for (int i = 0; i < 5; ++i) {
+        QCOMPARE(file.sprite(i)->size(), QSize(6, 5));
+        QCOMPARE(file.sprite(i)->axis(), QPoint(i, -i));
+        QCOMPARE(file.sprite(i)->pixelRows(), rowsOfImage(picture(6, 5, i == 4 ? 1 : i + 1)));
+    }
+    const QString before = PlainSprites::linesOf(file).join(QLatin1Char('\n'));
+    file.insertSprite(1, {5, 5}, {}, picture(3, 3, 2));
+    file.removeSprite(0);
+    QVERIFY(disk.save(file) != bytes);
+    file.undo();
+    file.undo();
+    QVERIFY(file.isModified());
+    QCOMPARE(disk.save(file), bytes);
+    QCOMPARE(PlainSprites::linesOf(file).join(QLatin1Char('\n')), before);
+}
+
+void TestSpriteFile::takesAnyBytes()
+{
+    const QByteArray whole = smallFile();
+    int opened = 0;
+    forEachBrokenForm(whole, [&](const QByteArray& bytes) {
+        QBuffer buffer;
+        buffer.setData(bytes);
+        buffer.open(QIODevice::ReadOnly);
+        SpriteFileData data;
+        QString error;
+        if (!data.read(&buffer, &error)) {
+            QVERIFY(!error.isEmpty());
+            return;
+        }
+        // Whatever is wrong is told, or is in the pixels of one sprite and is found there.
+        bool isBroken = !data.problems.isEmpty();
+        for (const auto& stream : data.streams) {
+            const QByteArray packed = SpriteFileData::readStream(&buffer, stream);
+            isBroken |=
+                unpackPixels(stream.format, packed) !=
+                    unpackPixels(stream.format, whole.mid(int(stream.offset), int(stream.size))) ||
+                packed != whole.mid(int(stream.offset), int(stream.size));
+        }
+        QVERIFY(isBroken || bytes == whole);
+        ++opened;
+    });
+    QVERIFY(opened > whole.size());
+}
+
+void TestSpriteFile::keepsBrokenRecords_data()
+{
+    QTest::addColumn<int>("at");
+    QTest::addColumn<int>("resealedSize");  // 0: the checksum stays wrong
+    QTest::addColumn<QString>("told");
+    QTest::newRow("palette") << PalettesAt + 20 << 0
+                             << "Palette 1 is broken: its checksum is wrong.";
+    QTest::newRow("count of colours")
+        << PalettesAt + 5 << 1040 << "Palette 1 is broken: its values make no sense.";
+    QTest::newRow("pixels") << StreamsAt + 12 << 0 << "Pixels 1 are broken: its checksum is wrong.";
+    QTest::newRow("codec") << StreamsAt + 16 << 48
+                           << "Pixels 1 are broken: its values make no sense.";
+    QTest::newRow("place of pixels")
+        << StreamsAt + 3 << 48 << "Pixels 1 are broken: they are not in the file.";
+    QTest::newRow("sprite") << SpritesAt + 4 << 0 << "Sprite 1 is broken: its checksum is wrong.";
+    QTest::newRow("its pixels")
+        << SpritesAt + 9 << 32
+        << "Sprite 1 (0,0) is broken: it names pixels or a palette that are not there.";
+    QTest::newRow("its palette")
+        << SpritesAt + 14 << 32
+        << "Sprite 1 (0,0) is broken: it names pixels or a palette that are not there.";
+    QTest::newRow("remap") << RemapsAt << 0 << "Remap 1 is broken: its checksum is wrong.";
+}
+
+void TestSpriteFile::keepsBrokenRecords()
+{
+    QFETCH(int, at);
+    QFETCH(int, resealedSize);
+    QFETCH(QString, told);
+    const QByteArray whole = smallFile();
+    QByteArray bytes = whole;
+    bytes[at] = char(bytes[at] ^ 0x55);
+    const int table = at < StreamsAt ? PalettesAt : at < SpritesAt ? StreamsAt : SpritesAt;
+    if (resealedSize > 0) {
+        bytes = resealed(bytes, table + (at - table) / resealedSize * resealedSize, resealedSize);
+    }
+    Disk disk;
+    SpriteFile file;
+    QVERIFY2(disk.open(file, bytes), qPrintable(file.errorString()));
+    QCOMPARE(file.loadErrors().value(0), told);
+    QVERIFY(file.brokenCount() > 0);
+    QCOMPARE(file.count(), 5u);
+    QVERIFY(!file.sprite(1)->image().isNull());
+    QVERIFY(disk.save(file) == bytes);
+
+    // A change elsewhere moves the pixels, and no broken record is lost by it.
+    const int sprites = int(file.count());
+    file.insertSprite(sprites, {7, 7}, {}, picture(9, 9, 3));
+    QVERIFY(!disk.save(file).isEmpty());
+    SpriteFile again;
+    QVERIFY(disk.open(again, fileBytes(disk.name())));
+    QCOMPARE(again.loadErrors(), file.loadErrors());
+    QCOMPARE(PlainSprites::linesOf(again), PlainSprites::linesOf(file));
+
+    file.removeBroken();
+    QCOMPARE(file.brokenCount(), 0);
+    QVERIFY(!disk.save(file).isEmpty());
+    QVERIFY(disk.open(again, fileBytes(disk.name())));
+    QCOMPARE(again.loadErrors(), QStringList());
+    file.undo();
+    file.undo();
+    QVERIFY(disk.save(file) == bytes);
+}
+
+void TestSpriteFile::refusesWhatIsNoSpriteFile_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("reason");
+    const QByteArray whole = smallFile();
+    const auto with = [&](int at, char value, bool seal) {
+        QByteArray bytes = whole;
+        bytes[at] = value;
+        return seal ? resealed(bytes, 0, 64) : bytes;
+    };
+    QTest::newRow("empty") << QByteArray() << "it is no sprite file";
+    QTest::newRow("other magic") << with(3, 'x', true) << "it is no sprite file";
+    QTest::newRow("newer") << with(8, 2, true) << "newer version";
+    QTest::newRow("too many") << with(15, 127, true) << "it is cut off";
+    QTest::newRow("cut off") << whole.left(SpritesAt) << "it is cut off";
+    QTest::newRow("broken head") << with(12, 1, false) << "its head is broken";
+}
+
+void TestSpriteFile::refusesWhatIsNoSpriteFile()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, reason);
+    Disk disk;
+    SpriteFile file;
+    file.insertSprite(-1, {3, 4}, {}, picture(2, 2, 1));
+    const QStringList before = PlainSprites::linesOf(file);
+    QVERIFY(!disk.open(file, bytes));
+    QVERIFY2(file.errorString().contains(reason), qPrintable(file.errorString()));
+    QVERIFY(file.errorString().contains(disk.name()));
+    QCOMPARE(PlainSprites::linesOf(file), before);
+    file.undo();
+    QCOMPARE(file.count(), 0u);
+}
+
+void TestSpriteFile::findsBrokenPixels()
+{
+    const QByteArray whole = smallFile();
+    const int firstStream = RemapsAt + 16;
+    QByteArray bytes = whole;
+    bytes[firstStream + 1] = char(bytes[firstStream + 1] ^ 1);
+    Disk disk;
+    SpriteFile file;
+    QVERIFY(disk.open(file, bytes));
+    QVERIFY(file.sprite(0)->image().isNull());
+    QVERIFY(!file.sprite(0)->pixelFault().isEmpty());
+    QVERIFY(file.sprite(1)->pixelFault().isEmpty());
+    QVERIFY(disk.save(file) == bytes);
+    // Bytes of that sprite are no duplicate of what they should have been.
+    FamilySprite* added = file.insertSprite(5, {}, {}, picture(6, 5, 1));
+    QVERIFY(added->state.pixels != file.sprite(0)->state.pixels);
+}
+
+void TestSpriteFile::mendsWhatIsChanged()
+{
+    QByteArray bytes = smallFile();
+    bytes[SpritesAt + 4] = char(77);
+    bytes[PalettesAt + 9] = char(88);
+    Disk disk;
+    SpriteFile file;
+    QVERIFY(disk.open(file, bytes));
+    QCOMPARE(file.brokenCount(), 2);
+    file.sprite(0)->setProperty(QStringLiteral("Axis"), QPoint(1, 2));
+    file.palettes()->palette(0)->setProperty(QStringLiteral("Number"), 12);
+    QCOMPARE(file.brokenCount(), 0);
+    SpriteFile again;
+    QVERIFY(disk.open(again, disk.save(file)));
+    QCOMPARE(again.loadErrors(), QStringList());
+    QCOMPARE(again.sprite(0)->axis(), QPoint(1, 2));
+    QCOMPARE(again.palettes()->palette(0)->id().text(), QStringLiteral("1,12"));
+}
+
+void TestSpriteFile::takesNoMoreMemoryThanTheFileHas()
+{
+    // All streams claim the same bytes.
+    QByteArray bytes = smallFile();
+    for (int i = 1; i < 4; ++i) {
+        bytes.replace(StreamsAt + i * 48, 12, bytes.mid(StreamsAt, 12));
+        bytes.replace(StreamsAt + i * 48 + 8, 4, QByteArray("\0\1\0\0", 4));
+        bytes = resealed(bytes, StreamsAt + i * 48, 48);
+    }
+    bytes.append(300, 'x');
+    SpriteFileData data;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QString error;
+    QVERIFY(data.read(&buffer, &error));
+    quint64 total = 0;
+    for (const auto& stream : data.streams) {
+        total += stream.inFile ? stream.size : 0;
+    }
+    QVERIFY(total <= quint64(bytes.size() - RemapsAt - 16));
+    // A large picture of few bytes is refused before its pixels are made.
+    const QByteArray few(1000, 'x');
+    for (const PixelCodec codec :
+         {PixelCodec::Lz5, PixelCodec::Rle8, PixelCodec::Png, PixelCodec::Pcx, PixelCodec::Gif}) {
+        QCOMPARE(unpackPixels({QSize(16384, 16384), 8, codec}, few), QByteArray());
+    }
+}
+
+void TestSpriteFile::failedSaveLosesNothing()
+{
+    const QByteArray bytes = smallFile();
+    Disk disk;
+    SpriteFile file;
+    QVERIFY(disk.open(file, bytes));
+    file.insertSprite(1, {5, 5}, {}, picture(30, 30, 2));
+    for (const FaultCall call : {FaultOpen, FaultWrite, FaultSync, FaultRename, FaultClose}) {
+        faultArm("a.sprites", call, 1, ENOSPC, call == FaultWrite);
+        const bool isSaved = !disk.save(file).isEmpty();
+        const bool wasCalled = faultCalls(call) > 0;
+        faultArm("", FaultOpen, 0, 0, 0);
+        QVERIFY(!isSaved || !wasCalled);
+        if (!isSaved) {
+            QVERIFY(!file.errorString().isEmpty());
+            QVERIFY(file.isModified());
+            QCOMPARE(fileBytes(disk.name()), bytes);
+        } else {
+            QVERIFY(disk.open(file, bytes));
+            file.insertSprite(1, {5, 5}, {}, picture(30, 30, 2));
+        }
+    }
+}
+
+void TestSpriteFile::givesEachImageToAJob()
+{
+    SpriteFile file;
+    for (int i = 0; i < 600; ++i) {
+        file.insertSprite(i, {0, quint16(i)}, {}, picture(4 + i % 7, 5, i % 5));
+    }
+    ImageJob job;
+    for (int row = 599; row >= 0; --row) {
+        job.rows.append(row);
+    }
+    job.rows.append(-1);
+    QMutex mutex;
+    QMap<int, QImage> images;
+    job.work = [&](int row, const QImage& image) {
+        const QMutexLocker lock(&mutex);
+        images.insert(row, image);
+    };
+    for (const int threads : {1, 4}) {
+        images.clear();
+        job.threads = threads;
+        QVERIFY(forEachImage(file, job));
+        QCOMPARE(images.size(), 601);
+        QVERIFY(images.value(-1).isNull());
+        for (int row = 0; row < 600; ++row) {
+            QCOMPARE(images.value(row), file.sprite(row)->image());
+        }
+    }
+    images.clear();
+    job.progress = [](int done) { return done < 100; };
+    QVERIFY(!forEachImage(file, job));
+    QVERIFY(images.size() < 600);
+}
+
+QTEST_GUILESS_MAIN(TestSpriteFile)
+#include "tst_spritefile.moc"
