@@ -1,5 +1,6 @@
 #include "media/tools/resizebilinear_p.h"
 
+#include "media/tools/mixture_p.h"
 #include "media/tools/raster_p.h"
 
 #include <algorithm>
@@ -9,40 +10,6 @@
 namespace Zorv {
 
 namespace {
-
-/// A colour whose parts are multiplied by its alpha, so that what is transparent adds nothing.
-struct Mixture
-{
-    float b, g, r, a;
-};
-
-Mixture mixtureOf(quint32 pixel)
-{
-    const float a = float(pixel >> 24);
-    return {float(pixel & 0xFF) * a, float((pixel >> 8) & 0xFF) * a,
-            float((pixel >> 16) & 0xFF) * a, a};
-}
-
-void add(Mixture& sum, const Mixture& part, float weight)
-{
-    sum.b += part.b * weight;
-    sum.g += part.g * weight;
-    sum.r += part.r * weight;
-    sum.a += part.a * weight;
-}
-
-quint32 pixelOf(const Mixture& sum)
-{
-    const auto a = quint32(sum.a + 0.5F);
-    if (a == 0) {
-        return 0;
-    }
-    const float scale = 1 / sum.a;
-    const auto part = [scale](float value) {
-        return std::min(quint32(value * scale + 0.5F), 255U);
-    };
-    return a << 24 | part(sum.r) << 16 | part(sum.g) << 8 | part(sum.b);
-}
 
 /// Which pixels of a row or a column make one of the result: `weights.size()` from `first` on.
 struct Taps

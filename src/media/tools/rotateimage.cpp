@@ -1,8 +1,13 @@
 #include "media/tools/rotateimage.h"
 
+#include "media/tools/imageturn_p.h"
+#include "media/tools/indexsnap_p.h"
 #include "media/tools/raster_p.h"
+#include "media/tools/resizebilinear_p.h"
+#include "media/tools/resizeimage.h"
 
-#include <QtMath>
+#include <QRgb>
+#include <QTransform>
 
 #include <cmath>
 
@@ -10,57 +15,71 @@ namespace Zorv {
 
 namespace {
 
-/// The turn of a plane about the centres of two images, from the result back to the source.
-struct Turn
+/// The image enlarged by the largest one of 4, 2 and 1, not above `most`, that is possible.
+QImage enlarged(const QImage& image, int most, QImage (*scale)(const QImage&, int))
 {
-    double cosine;
-    double sine;
-    QSize from;
-    QSize to;
-};
-
-template <class Pixel>
-void turnNearest(const Turn& turn, const Raster<const Pixel>& from, const Raster<Pixel>& to,
-                 Pixel fill)
-{
-    for (int y = 0; y < to.height; ++y) {
-        Pixel* pixels = to.row(y);
-        const double v = y + 0.5 - to.height / 2.0;
-        for (int x = 0; x < to.width; ++x) {
-            const double u = x + 0.5 - to.width / 2.0;
-            const double sx = std::floor(u * turn.cosine + v * turn.sine + from.width / 2.0);
-            const double sy = std::floor(v * turn.cosine - u * turn.sine + from.height / 2.0);
-            const bool inside = sx >= 0 && sy >= 0 && sx < from.width && sy < from.height;
-            pixels[x] = inside ? from.row(int(sy))[int(sx)] : fill;
-        }
+    int factor = most;
+    while (factor > 1 && !isPossibleSize(image.size() * factor)) {
+        factor /= 2;
     }
+    return factor > 1 ? scale(image, factor) : image;
+}
+
+/// Turns true colours, mixing them.
+QImage turnMixing(const QImage& image, const ImageTurn& turn, QRgb fill, ImageResizeFilter filter)
+{
+    QImage work = comparableImage(image);
+    if (work.format() == QImage::Format_RGB32 && qAlpha(fill) != 255) {
+        work = work.convertToFormat(QImage::Format_ARGB32);
+    }
+    if (filter != ImageResizeFilter::Hq) {
+        return turn.bilinear(work, fill, turn.resultSize());
+    }
+    // Twice as large, so that the smooth borders are still smooth when they are made smaller.
+    const QSize size = turn.resultSize();
+    const QSize doubled = isPossibleSize(size * 2) ? size * 2 : size;
+    const QImage large = turn.bilinear(enlarged(work, 2, scaleHq), fill, doubled);
+    return large.isNull() || doubled == size ? large : resizeBilinear(large, size);
+}
+
+QImage turned(const QImage& work, const ImageTurn& turn, unsigned int fill,
+              ImageResizeFilter filter)
+{
+    if (filter == ImageResizeFilter::Epx) {
+        return turn.nearest(enlarged(work, 4, scaleEpx), fill, turn.resultSize());
+    }
+    const bool mixes = filter == ImageResizeFilter::Bilinear || filter == ImageResizeFilter::Hq;
+    if (mixes && !isIndexed(work)) {
+        return turnMixing(work, turn, fill, filter);
+    }
+    QImage result = turn.nearest(work, fill, turn.resultSize());
+    if (mixes && work.colorCount() > 0 && !result.isNull()) {
+        const QRgb color = fill < unsigned(work.colorCount()) ? work.color(int(fill)) : 0;
+        const QImage colors = turnMixing(colorsOf(work), turn, color, filter);
+        if (colors.isNull()) {
+            return {};
+        }
+        snapToColors(result, colors);
+    }
+    return result;
 }
 
 }  // namespace
 
-QImage rotateImage(const QImage& image, float degrees, unsigned int fill, ImageResizeFilter)
+QImage rotateImage(const QImage& image, float degrees, unsigned int fill, ImageResizeFilter filter)
 {
     QImage work = workingImage(image);
+    if (!isPossibleSize(work.size()) || !std::isfinite(degrees)) {
+        return {};
+    }
+    const double angle = std::fmod(double(degrees), 360.0);
+    if (std::fmod(angle, 90.0) == 0) {
+        return work.transformed(QTransform().rotate(angle));
+    }
     if (work.format() == QImage::Format_RGB32 && qAlpha(fill) != 255) {
         work = work.convertToFormat(QImage::Format_ARGB32);
     }
-    const double angle = std::isfinite(degrees) ? std::fmod(double(degrees), 360.0) : 0;
-    if (work.isNull() || angle == 0) {
-        return work;
-    }
-    const double radians = qDegreesToRadians(angle);
-    const Turn turn = {std::cos(radians), std::sin(radians), work.size(), {}};
-    const auto side = [](double a, double b) {
-        return int(std::ceil(std::abs(a) + std::abs(b) - 1e-3));
-    };
-    QImage result = imageLike(work, {side(work.width() * turn.cosine, work.height() * turn.sine),
-                                     side(work.width() * turn.sine, work.height() * turn.cosine)});
-    if (!result.isNull()) {
-        withRasters(work, result, [&turn, fill](const auto& from, const auto& to) {
-            turnNearest(turn, from, to, std::decay_t<decltype(*to.bits)>(fill));
-        });
-    }
-    return result;
+    return turned(work, ImageTurn(work.size(), angle), fill, filter);
 }
 
 }  // namespace Zorv

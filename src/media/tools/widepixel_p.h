@@ -9,6 +9,9 @@ using WidePixel = quint64;
 
 constexpr WidePixel WideMask = Q_UINT64_C(0x00FF00FF00FF00FF);
 
+/// One half of 256 in each part, to round a sum.
+constexpr WidePixel WideHalf = Q_UINT64_C(0x0080008000800080);
+
 constexpr WidePixel widened(quint32 pixel)
 {
     return (pixel | WidePixel(pixel) << 24) & WideMask;

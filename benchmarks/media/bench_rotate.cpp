@@ -1,0 +1,42 @@
+// Turning pictures against QImage::transformed.
+
+#include "media/tools/rotateimage.h"
+#include "picture.h"
+#include "support/bench.h"
+
+#include <QTransform>
+
+using namespace Zorv;
+
+namespace {
+
+const int Rounds = 41;
+
+void against(const QImage& image, const char* form, double angle, ImageResizeFilter filter)
+{
+    const bool smooth = filter == ImageResizeFilter::Bilinear;
+    const auto mode = smooth ? Qt::SmoothTransformation : Qt::FastTransformation;
+    const double qt =
+        Bench::median(Rounds, [&] { image.transformed(QTransform().rotate(angle), mode); });
+    const double own = Bench::median(Rounds, [&] { rotateImage(image, float(angle), 0, filter); });
+    const QByteArray name = QByteArray(form) + " 512 x 512 by " + QByteArray::number(angle) +
+                            (smooth ? ", smooth" : ", nearest") + ", to QImage::transformed";
+    Bench::ratio(name.constData(), own, qt, 1);
+}
+
+}  // namespace
+
+int main()
+{
+    const QImage image = drawnPicture({512, 512});
+    const QImage clear = image.convertToFormat(QImage::Format_ARGB32);
+    const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
+    for (const double angle : {30.0, 90.0, 101.5, 180.0}) {
+        for (const auto filter : {ImageResizeFilter::Nearest, ImageResizeFilter::Bilinear}) {
+            against(image, "indexed", angle, filter);
+            against(clear, "with alpha", angle, filter);
+            against(opaque, "opaque", angle, filter);
+        }
+    }
+    return 0;
+}
