@@ -2,10 +2,12 @@
 
 from . import basics, iwao_poses, maren_poses, strikes
 from .figure import draw
-from .looks import LOOKS
+from .iwao_look import Iwao
+from .maren_look import Maren
 from .poses import COMMON, pose_of
 
 OWN = {"characters/maren": maren_poses, "characters/iwao": iwao_poses}
+LOOKS = {"characters/maren": Maren, "characters/iwao": Iwao}
 
 
 def animations(fighter):

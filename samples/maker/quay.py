@@ -66,7 +66,8 @@ def cloud(width, height, seed, count):
     canvas = sheet(width, height)
     dice = Dice(seed)
     for _ in range(count):
-        middle, base = dice.within(width * 0.12, width * 0.88), dice.within(height * 0.45, height - 5)
+        middle = dice.within(width * 0.12, width * 0.88)
+        base = dice.within(height * 0.45, height - 5)
         wide = dice.within(width * 0.08, width * 0.2)
         for _ in range(9):
             x = middle + dice.within(-wide, wide)
@@ -129,8 +130,8 @@ def house(canvas, dice, left, bottom, wide, tall, row):
                    HOUSE[min(11, shade)])
     canvas.polygon([(left + wide - 3, top), (left + wide, top), (left + wide, bottom),
                     (left + wide - 3, bottom)], HOUSE[min(11, shade + 2)])
-    canvas.polygon([(left - 1, top + 1), (left + wide * 0.5, top - roof), (left + wide + 1, top + 1)],
-                   HOUSE[max(0, shade - 3)])
+    canvas.polygon([(left - 1, top + 1), (left + wide * 0.5, top - roof),
+                    (left + wide + 1, top + 1)], HOUSE[max(0, shade - 3)])
     canvas.line((left + wide * 0.5, top - roof), (left + wide, top), HOUSE[min(11, shade + 1)])
     if dice.next() < 0.6:
         stack = left + int(wide * dice.within(0.2, 0.7))
@@ -438,7 +439,6 @@ def nets():
                 if 14 <= place <= 130 and t < 0.55 + 0.45 * sin(pi * (place - 14) / 116):
                     canvas.put(place, low, SEA[2] if place == x else SEA[3])
     canvas.begin()
-    dice = Dice(90)
     for number in range(7):
         x = 22 + number * 16
         y = 50 + 26 * sin(pi * (x - 14) / 116)
@@ -451,7 +451,6 @@ def nets():
                        lambda x, _, row=y: WOOD[4 if (x * 7 + row) % 23 < 3 else 3])
     for x in (92, 140):
         canvas.polygon([(x, 62), (x + 6, 62), (x + 6, 96), (x, 96)], WOOD[1])
-    dice.next()
     canvas.edges()
     return canvas.sprite_at()
 

@@ -1,4 +1,4 @@
-"""Shapes of indexed colours: solids shaded by their roundness, flat areas, lines, and dark edges."""
+"""Shapes in indexed colours: round ones with shades, flat ones, lines, and dark edges."""
 
 from math import atan2, ceil, cos, floor, hypot, pi, sin, sqrt
 
@@ -69,7 +69,7 @@ class Canvas:
             self.capsule((x0, y0), r0, (x1, y1), r1, ramp, bias)
 
     def ellipse(self, centre, rx, ry, ramp, angle=0.0, bias=0.0, keep=None):
-        """A solid; `keep` tells of a point relative to the centre, before the turn, if it counts."""
+        """A solid; `keep` tells if a point counts, relative to the centre and before the turn."""
         self.use(ramp)
         c, s = cos(angle), sin(angle)
         most = max(rx, ry)
@@ -165,10 +165,6 @@ class Sprite:
     def __init__(self, width, height, pixels, x, y, bits=8):
         self.width, self.height, self.pixels, self.bits = width, height, bytes(pixels), bits
         self.x, self.y = x, y
-
-    def mirrored(self):
-        rows = [self.pixels[y * self.width:(y + 1) * self.width][::-1] for y in range(self.height)]
-        return Sprite(self.width, self.height, b"".join(rows), self.width - self.x, self.y)
 
 
 def level(nx, ny, flat, count, bias):

@@ -96,8 +96,8 @@ def heel(body, attack, side, legs, phase, step):
         return look("flail2", (stand, (10 + 18 * step, high, 0)), face="fierce", sway=-0.3,
                     twist=0.5, tilt=-8 * step)
     if phase == "active":
-        return look("run2", (stand, (x - 4, y + 4 + 4 * step, 0)), face="shout", sway=0.8, twist=0.4,
-                    props=(("arc", "heel", x, y, step),))
+        return look("run2", (stand, (x - 4, y + 4 + 4 * step, 0)), face="shout", sway=0.8,
+                    twist=0.4, props=(("arc", "heel", x, y, step),))
     if step == 0:
         x, y = target(body, attack, 0.62)
         return look("flail2", (stand, (x - 3, y + 8, 0)), face="fierce", twist=0.6)

@@ -121,7 +121,8 @@ def swing(seconds, first, last, seed):
 
 def knock(pitch, seconds, seed):
     """Wood on wood."""
-    parts = [(1.0, fading(tone(seconds, pitch), 34)), (0.6, fading(tone(seconds, pitch * 2.71), 52)),
+    parts = [(1.0, fading(tone(seconds, pitch), 34)),
+             (0.6, fading(tone(seconds, pitch * 2.71), 52)),
              (0.4, fading(tone(seconds, pitch * 4.9), 80)),
              (0.5, fading(high(noise(0.03, seed), 1200), 160, 0.0005))]
     return mixed(*parts)
@@ -142,7 +143,7 @@ def water(seconds, seed, heavy=1.0):
     body = fading(band(noise(seconds, seed), 1800 / heavy, 1500, 500 / heavy), 5 / seconds, 0.02)
     deep = fading(low(noise(seconds, seed + 1), 340), 6 / seconds, 0.03)
     parts = [(1.0, body), (1.6 * heavy, deep)]
-    for drop, (start, pitch) in enumerate(((0.16, 620), (0.27, 880), (0.36, 760), (0.46, 1150))):
+    for start, pitch in ((0.16, 620), (0.27, 880), (0.36, 760), (0.46, 1150)):
         if start < seconds * 0.7:
             parts.append((start, 0.16, fading(tone(0.07, pitch, pitch * 1.9, 3), 42, 0.004)))
     return mixed(*parts)
