@@ -17,7 +17,8 @@ QImage convert8To32(QImage& image)
     for (int y = 0; y < result.height(); ++y) {
         const uchar* const from = image.constScanLine(y);
         QRgb* const to = reinterpret_cast<QRgb*>(result.scanLine(y));
-        std::transform(from, from + image.width(), to, [table](uchar index) { return table[index]; });
+        std::transform(from, from + image.width(), to,
+                       [table](uchar index) { return table[index]; });
     }
     return result;
 }

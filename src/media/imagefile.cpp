@@ -109,9 +109,8 @@ bool loadGIF(QIODevice* device, QImage& image)
 
 bool saveGIFStill(QIODevice* device, const QImage& source)
 {
-    const QImage image = source.format() == QImage::Format_Indexed8
-                             ? source
-                             : ColorQuantizer::quantize(source, 256);
+    const QImage image =
+        source.format() == QImage::Format_Indexed8 ? source : ColorQuantizer::quantize(source, 256);
     const QVector<QRgb> colors = image.colorTable();
     GIFImage gif;
     gif.size = image.size();
@@ -119,8 +118,8 @@ bool saveGIFStill(QIODevice* device, const QImage& source)
     std::transform(colors.begin(), colors.end(), gif.colors.begin(), [](QRgb color) {
         return RGB{quint8(qRed(color)), quint8(qGreen(color)), quint8(qBlue(color))};
     });
-    const auto transparent = std::find_if(colors.begin(), colors.end(),
-                                          [](QRgb color) { return qAlpha(color) == 0; });
+    const auto transparent =
+        std::find_if(colors.begin(), colors.end(), [](QRgb color) { return qAlpha(color) == 0; });
     GIFImage::SubImage frame;
     frame.image = image;
     frame.transparent = transparent == colors.end() ? -1 : int(transparent - colors.begin());

@@ -14,8 +14,8 @@ struct Declared
 {
     qint64 width = 0;
     qint64 height = 0;
-    int bits = 0;       ///< a pixel in the file
-    qint64 packing = 1; ///< bytes of pixels that one byte of the file can stand for
+    int bits = 0;        ///< a pixel in the file
+    qint64 packing = 1;  ///< bytes of pixels that one byte of the file can stand for
 };
 
 bool isHonest(const Declared& picture, const QIODevice* device)

@@ -9,14 +9,33 @@ namespace Zorv {
 
 static const int Largest = 65535;
 
+// What one composite may have, so that it fits into a vector.
+static const qint64 MostPixels = 1 << 28;
+
+static bool isInRange(const QSize& size)
+{
+    return qint64(size.width()) * size.height() <= MostPixels;
+}
+
+static bool isInRange(const QPoint& position)
+{
+    const int Farthest = 1 << 28;
+    return qAbs(qint64(position.x())) < Farthest && qAbs(qint64(position.y())) < Farthest;
+}
+
 GIFAnimation::GIFAnimation(const QVector<GIFFrame>& frames, QRgb background)
     : m_background(gifColor(background))
 {
     numberOf(m_background);
     for (const GIFFrame& frame : frames) {
+        if (!isInRange(frame.position)) {
+            return;
+        }
         m_canvas |= QRect(frame.position, frame.image.size());
     }
-    if (!m_canvas.isEmpty() && m_canvas.width() <= Largest && m_canvas.height() <= Largest) {
+    const bool fits = m_canvas.width() <= Largest && m_canvas.height() <= Largest &&
+                      (m_background == 0 || isInRange(m_canvas.size()));
+    if (!m_canvas.isEmpty() && fits) {
         m_valid = std::all_of(frames.begin(), frames.end(),
                               [this](const GIFFrame& frame) { return addFrame(frame); });
     }
@@ -28,7 +47,7 @@ bool GIFAnimation::addFrame(const GIFFrame& source)
     frame.position = source.position - m_canvas.topLeft();
     if (!source.image.isNull()) {
         takeImage(frame, source.image);
-        if (frame.image.isNull()) {
+        if (frame.image.isNull() || !isInRange(frame.image.size())) {
             return false;
         }
     }
@@ -111,9 +130,8 @@ GIFComposite GIFAnimation::composite(int index) const
     const GIFColorNumber* const numbers = frame.numbers.constData();
     for (int y = 0; y < place.height(); ++y) {
         const uchar* const from = frame.image.constScanLine(y);
-        const QPoint start = QPoint(place.left(), place.top() + y) - result.rect.topLeft();
         GIFColorNumber* const to =
-            result.pixels.data() + qptrdiff(start.y()) * result.rect.width() + start.x();
+            result.line(place.top() + y) + (place.left() - result.rect.left());
         std::transform(from, from + place.width(), to, [numbers](uchar i) { return numbers[i]; });
     }
     return result;
@@ -131,9 +149,10 @@ GIFTable GIFAnimation::globalTable() const
     }
     for (const Frame& frame : m_frames) {
         GIFTable extended = table;
-        const bool fits = std::all_of(
-            frame.shown.begin(), frame.shown.end(),
-            [&](GIFColorNumber number) { return extended.insert(number, color(number)); });
+        const bool fits =
+            std::all_of(frame.shown.begin(), frame.shown.end(), [&](GIFColorNumber number) {
+                return extended.insert(number, color(number));
+            });
         if (fits) {
             table = extended;
         }

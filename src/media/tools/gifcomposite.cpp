@@ -4,51 +4,59 @@
 
 namespace Zorv {
 
-const GIFColorNumber* GIFComposite::row(int y, const QRect& area,
-                                        QVector<GIFColorNumber>& room) const
-{
-    const QRect part = rect & QRect(area.left(), y, area.width(), 1);
-    const GIFColorNumber* const from =
-        part.isEmpty() ? nullptr : line(y) + (part.left() - rect.left());
-    if (from && part.width() == area.width()) {
-        return from;
-    }
-    room.fill(0, area.width());
-    if (from) {
-        std::copy(from, from + part.width(), room.begin() + (part.left() - area.left()));
-    }
-    return room.constData();
-}
-
 GIFComposite GIFComposite::cleared(const QRect& part) const
 {
     GIFComposite result = *this;
     const QRect common = rect & part;
     for (int y = common.top(); y <= common.bottom(); ++y) {
-        GIFColorNumber* const first = result.pixels.data() +
-                                      qptrdiff(y - rect.top()) * rect.width() +
-                                      (common.left() - rect.left());
+        GIFColorNumber* const first = result.line(y) + (common.left() - rect.left());
         std::fill(first, first + common.width(), 0);
     }
     return result;
 }
 
+GIFRows::GIFRows(const GIFComposite& composite, const QRect& area)
+    : m_composite(composite), m_covered(composite.rect & area),
+      m_whole(m_covered.width() == area.width()), m_first(m_covered.left() - composite.rect.left()),
+      m_indent(m_covered.left() - area.left()), m_room(area.width(), 0)
+{
+}
+
+const GIFColorNumber* GIFRows::assembled(int y, bool covered)
+{
+    if (m_covered.isEmpty()) {
+        return m_room.constData();
+    }
+    GIFColorNumber* const to = m_room.data() + m_indent;
+    if (covered) {
+        const GIFColorNumber* const from = m_composite.line(y) + m_first;
+        std::copy(from, from + m_covered.width(), to);
+    } else {
+        std::fill(to, to + m_covered.width(), 0);
+    }
+    return m_room.constData();
+}
+
 namespace {
 
 /// Adds the pixels of a row that fulfil a condition, which one at least does, to the rectangle
-/// around them.
+/// around them. Only what lies outside of it so far is looked at.
 template <class Condition>
 void enclose(QRect& around, const QRect& area, int y, Condition condition)
 {
+    const bool first = around.isEmpty();
+    const int leftEnd = first ? area.width() : around.left() - area.left();
+    const int rightEnd = first ? -1 : around.right() - area.left();
     int left = 0;
-    while (!condition(left)) {
+    while (left < leftEnd && !condition(left)) {
         ++left;
     }
     int right = area.width() - 1;
-    while (!condition(right)) {
+    while (right > rightEnd && !condition(right)) {
         --right;
     }
-    around |= QRect(QPoint(area.left() + left, y), QPoint(area.left() + right, y));
+    around =
+        QRect(QPoint(area.left() + left, first ? y : around.top()), QPoint(area.left() + right, y));
 }
 
 }  // namespace
@@ -57,18 +65,21 @@ GIFChange changeOf(const GIFComposite& from, const GIFComposite& to)
 {
     GIFChange change;
     const QRect area = from.rect | to.rect;
-    QVector<GIFColorNumber> fromRoom;
-    QVector<GIFColorNumber> toRoom;
+    const int width = area.width();
+    GIFRows fromRows(from, area);
+    GIFRows toRows(to, area);
     for (int y = area.top(); y <= area.bottom(); ++y) {
-        const GIFColorNumber* const a = from.row(y, area, fromRoom);
-        const GIFColorNumber* const b = to.row(y, area, toRoom);
+        const GIFColorNumber* const a = fromRows.row(y);
+        const GIFColorNumber* const b = toRows.row(y);
         int drawn = 0;
         int vanished = 0;
-        for (int x = 0; x < area.width(); ++x) {
-            const bool differs = a[x] != b[x];
-            drawn += differs & (b[x] != 0);
-            vanished += differs & (b[x] == 0);
+        GIFColorNumber any = 0;
+        for (int x = 0; x < width; ++x) {
+            any |= a[x];
+            drawn += int(a[x] != b[x]) & int(b[x] != 0);
+            vanished += int(a[x] != 0) & int(b[x] == 0);
         }
+        change.fromNothing = change.fromNothing && any == 0;
         if (drawn > 0) {
             change.count += drawn;
             enclose(change.drawn, area, y, [=](int x) { return a[x] != b[x] && b[x] != 0; });

@@ -7,51 +7,25 @@ namespace {
 // The last code is never given away: some readers stumble over a full table.
 const int FullTable = 4095;
 
+const int CodeMask = 0xfff;
+
+quint32 keyOf(int code, int index)
+{
+    return quint32(code) << 8 | quint32(index);
+}
+
 }  // namespace
 
-/// The entry of a key, or the empty one where it belongs.
-inline quint32& GIFPacker::slotOf(quint32 key)
+/// The entry of a string that is known and one more index, or the empty one where it belongs.
+inline GIFPacker::Slot* GIFPacker::slotOf(Slot* table, int code, int index)
 {
     const quint32 Mask = (1u << HashBits) - 1;
-    quint32* const table = m_table.data();
+    const quint32 key = keyOf(code, index);
     quint32 at = (key * 2654435761u) >> (32 - HashBits);
     while (table[at] != 0 && table[at] >> 12 != key) {
         at = (at + 1) & Mask;
     }
-    return table[at];
-}
-
-/// The code of the string of `code` and `pixel`; 0 if there is none.
-inline int GIFPacker::child(int code, int pixel)
-{
-    return int(slotOf(quint32(code) << 8 | quint32(pixel)) & 0xfff);
-}
-
-/// Goes on with a longer string that is known.
-inline bool GIFPacker::extend(quint16 pixel, int transparent)
-{
-    if (pixel & Either) {
-        if (const int longer = child(m_code, transparent)) {
-            m_code = longer;
-            m_last = transparent;
-            return true;
-        }
-    }
-    const int index = pixel & 0xff;
-    if (const int longer = child(m_code, index)) {
-        m_code = longer;
-        m_last = index;
-        return true;
-    }
-    return false;
-}
-
-/// Begins a string. A run of one colour goes on where it can.
-inline void GIFPacker::start(quint16 pixel, int transparent)
-{
-    const int index = pixel & 0xff;
-    m_last = pixel & Either && m_last != index ? transparent : index;
-    m_code = m_last;
+    return table + at;
 }
 
 inline void GIFPacker::put(int code)
@@ -59,7 +33,7 @@ inline void GIFPacker::put(int code)
     m_pending |= quint32(code) << m_pendingBits;
     m_pendingBits += m_width;
     while (m_pendingBits >= 8) {
-        m_codes.append(char(m_pending & 0xff));
+        *m_end++ = char(m_pending);
         m_pending >>= 8;
         m_pendingBits -= 8;
     }
@@ -68,7 +42,7 @@ inline void GIFPacker::put(int code)
     }
 }
 
-void GIFPacker::reset()
+void GIFPacker::clear()
 {
     m_table.fill(0, 1 << HashBits);
     m_width = m_bits + 1;
@@ -79,35 +53,46 @@ QByteArray GIFPacker::pack(const QVector<quint16>& pixels, int bits, int transpa
 {
     const int Clear = 1 << bits;
     const int End = Clear + 1;
-    m_bits = bits;
-    m_codes.resize(0);
+    // No pixel takes more than a code of 12 bits, with a few in between to clear the table.
+    m_codes.resize(pixels.size() / 2 * 3 + pixels.size() / 1024 + 16);
+    m_end = m_codes.data();
     m_pending = 0;
     m_pendingBits = 0;
-    m_last = -1;
-    reset();
+    m_bits = bits;
+    clear();
     put(Clear);
 
-    start(pixels.first(), transparent);
+    Slot* const table = m_table.data();
+    int code = pixels.first() & Either ? transparent : pixels.first();
     for (int i = 1; i < pixels.size(); ++i) {
-        if (extend(pixels[i], transparent)) {
+        const int pixel = pixels[i];
+        // What is transparent goes first: long pieces that do not change become strings that are
+        // all the same.
+        const int first = pixel & Either ? transparent : pixel;
+        Slot* const slot = slotOf(table, code, first);
+        Slot known = *slot;
+        if (known == 0 && pixel & Either) {
+            known = *slotOf(table, code, pixel & 0xff);
+        }
+        if (known != 0) {
+            code = int(known) & CodeMask;
             continue;
         }
-        const int string = m_code;
-        put(string);
-        start(pixels[i], transparent);
+        put(code);
         if (m_next < FullTable) {
-            const quint32 key = quint32(string) << 8 | quint32(m_code);
-            slotOf(key) = key << 12 | quint32(m_next++);
+            *slot = keyOf(code, first) << 12 | quint32(m_next++);
         } else {
             put(Clear);
-            reset();
+            clear();
         }
+        code = first;
     }
-    put(m_code);
+    put(code);
     put(End);
     if (m_pendingBits > 0) {
-        m_codes.append(char(m_pending));
+        *m_end++ = char(m_pending);
     }
+    m_codes.truncate(int(m_end - m_codes.constData()));
     return m_codes;
 }
 

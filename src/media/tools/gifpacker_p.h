@@ -7,9 +7,10 @@ namespace Zorv {
 
 /// Packs the pixels of a GIF frame into codes of LZW.
 ///
-/// A pixel that does not change what the canvas shows has two indices that are as good: its colour's
-/// and the transparent one. The packer takes, pixel by pixel, the one that goes on with a string that
-/// it knows; giflib's own packer knows one index a pixel.
+/// A pixel that does not change what the canvas shows has two indices that are as good: its
+/// colour's and the transparent one. The packer takes, pixel by pixel, the one that goes on with a
+/// string that it knows, the transparent one before the other; giflib's own packer knows one index
+/// a pixel.
 class GIFPacker
 {
 public:
@@ -23,22 +24,21 @@ public:
 private:
     static const int HashBits = 14;
 
-    quint32& slotOf(quint32 key);
-    int child(int code, int pixel);
-    bool extend(quint16 pixel, int transparent);
-    void start(quint16 pixel, int transparent);
-    void put(int code);
-    void reset();
+    /// An entry of the table of strings: key << 12 | code; 0 is empty.
+    using Slot = quint32;
 
-    QVector<quint32> m_table;  ///< key << 12 | code; 0 is empty
+    static Slot* slotOf(Slot* table, int code, int index);
+    void put(int code);
+    void clear();
+
+    QVector<Slot> m_table;
     QByteArray m_codes;
+    char* m_end = nullptr;  ///< of the codes so far
     quint32 m_pending = 0;
     int m_pendingBits = 0;
-    int m_bits = 2;
-    int m_width = 3;
-    int m_next = 6;
-    int m_code = 0;
-    int m_last = -1;
+    int m_bits = 0;
+    int m_width = 0;  ///< of a code
+    int m_next = 0;   ///< code to be given away
 };
 
 }  // namespace Zorv

@@ -13,18 +13,6 @@ namespace {
 
 const quint16 Missing = 0x8000;
 
-/// Calls a function with the rows of two composites in a rectangle.
-template <class Function>
-void forEachRow(const GIFComposite& base, const GIFComposite& shown, const QRect& rect,
-                Function function)
-{
-    QVector<GIFColorNumber> baseRoom;
-    QVector<GIFColorNumber> shownRoom;
-    for (int y = rect.top(); y <= rect.bottom(); ++y) {
-        function(base.row(y, rect, baseRoom), shown.row(y, rect, shownRoom));
-    }
-}
-
 /// False if the table lacks a colour.
 bool fill(GIFPicture& picture, const GIFComposite& base, const GIFComposite& shown,
           const QRect& rect, const GIFTable& table)
@@ -44,16 +32,39 @@ bool fill(GIFPicture& picture, const GIFComposite& base, const GIFComposite& sho
     picture.transparent = transparent;
     picture.bits = qMax(2, GifBitSize(table.colors().size()));
     picture.pixels.resize(rect.width() * rect.height());
+    const int width = rect.width();
     quint16* to = picture.pixels.data();
     quint16 all = 0;
     const quint16* const tables[] = {changed.constData(), same.constData()};
-    forEachRow(base, shown, rect, [&](const GIFColorNumber* a, const GIFColorNumber* b) {
-        for (int x = 0; x < rect.width(); ++x) {
-            *to = tables[a[x] == b[x]][b[x]];
-            all |= *to++;
+    GIFRows baseRows(base, rect);
+    GIFRows shownRows(shown, rect);
+    for (int y = rect.top(); y <= rect.bottom() && (all & Missing) == 0; ++y) {
+        const GIFColorNumber* const a = baseRows.row(y);
+        const GIFColorNumber* const b = shownRows.row(y);
+        for (int x = 0; x < width; ++x) {
+            to[x] = tables[a[x] == b[x]][b[x]];
+            all |= to[x];
         }
-    });
+        to += width;
+    }
     return (all & Missing) == 0;
+}
+
+/// Marks the numbers of the pixels that change, and of those that do not.
+void collect(const GIFComposite& base, const GIFComposite& shown, const QRect& rect,
+             QVector<bool>& changed, QVector<bool>& same)
+{
+    const int width = rect.width();
+    bool* const marks[] = {changed.data(), same.data()};
+    GIFRows baseRows(base, rect);
+    GIFRows shownRows(shown, rect);
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        const GIFColorNumber* const a = baseRows.row(y);
+        const GIFColorNumber* const b = shownRows.row(y);
+        for (int x = 0; x < width; ++x) {
+            marks[a[x] == b[x]][b[x]] = true;
+        }
+    }
 }
 
 /// A table of the colours that change, with an entry for what does not. Colours that stay are in it
@@ -63,11 +74,7 @@ GIFTable ownTable(const GIFComposite& base, const GIFComposite& shown, const QRe
 {
     QVector<bool> changed(animation.numberCount());
     QVector<bool> same(animation.numberCount());
-    forEachRow(base, shown, rect, [&](const GIFColorNumber* a, const GIFColorNumber* b) {
-        for (int x = 0; x < rect.width(); ++x) {
-            (a[x] == b[x] ? same : changed)[int(b[x])] = true;
-        }
-    });
+    collect(base, shown, rect, changed, same);
     GIFTable table(animation.numberCount());
     const auto insert = [&table, &animation](const QVector<bool>& numbers, int limit) {
         for (int i = 0; i < numbers.size() && table.colors().size() < limit; ++i) {

@@ -62,13 +62,14 @@ QImage gifIndexed(const QImage& image)
     if (source.isNull() || result.isNull()) {
         return {};
     }
+    const int width = source.width();
     Indexer indexer;
     QRgb last = source.pixel(0, 0);
     int index = indexer.index(last);
     for (int y = 0; y < source.height(); ++y) {
         const auto* const from = reinterpret_cast<const QRgb*>(source.constScanLine(y));
         uchar* const to = result.scanLine(y);
-        for (int x = 0; x < source.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             if (from[x] != last) {
                 last = from[x];
                 index = indexer.index(last);
@@ -86,9 +87,10 @@ QImage gifIndexed(const QImage& image)
 GIFIndexSet gifIndices(const QImage& indexed)
 {
     GIFIndexSet used = {};
+    const int width = indexed.width();
     for (int y = 0; y < indexed.height(); ++y) {
         const uchar* const line = indexed.constScanLine(y);
-        for (int x = 0; x < indexed.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             used[line[x]] = true;
         }
     }

@@ -1,5 +1,7 @@
 #include "media/tools/gifreader_p.h"
 
+#include "media/tools/gifpasses_p.h"
+
 #include <QIODevice>
 
 #include <algorithm>
@@ -17,7 +19,9 @@ QVector<RGB> colorsOf(const ColorMapObject* map)
     if (map) {
         colors.resize(map->ColorCount);
         std::transform(map->Colors, map->Colors + map->ColorCount, colors.begin(),
-                       [](GifColorType color) { return RGB{color.Red, color.Green, color.Blue}; });
+                       [](GifColorType color) {
+                           return RGB{color.Red, color.Green, color.Blue};
+                       });
     }
     return colors;
 }
@@ -167,15 +171,23 @@ bool GIFReader::readPixels(QImage& image)
     const int height = image.height();
     const int stride = image.bytesPerLine();
     uchar* const bits = image.bits();
-    if (!m_file->Image.Interlace && stride == width) {
-        return DGifGetLine(m_file, bits, width * height) == GIF_OK;
+    if (m_file->Image.Interlace) {
+        return readInterlaced(bits, width, height, stride);
     }
-    static const int first[] = {0, 4, 2, 1};
-    static const int steps[] = {8, 8, 4, 2};
-    const int passes = m_file->Image.Interlace ? 4 : 1;
-    for (int pass = 0; pass < passes; ++pass) {
-        const int step = passes == 1 ? 1 : steps[pass];
-        for (int y = first[pass]; y < height; y += step) {
+    // One call is faster than one a line; the lines are moved to their places afterwards.
+    if (DGifGetLine(m_file, bits, width * height) == GIF_ERROR) {
+        return false;
+    }
+    for (int y = height - 1; y > 0 && stride > width; --y) {
+        std::memmove(bits + qptrdiff(y) * stride, bits + qptrdiff(y) * width, size_t(width));
+    }
+    return true;
+}
+
+bool GIFReader::readInterlaced(uchar* bits, int width, int height, int stride)
+{
+    for (const GIFPass& pass : gifPasses) {
+        for (int y = pass.first; y < height; y += pass.step) {
             if (DGifGetLine(m_file, bits + qptrdiff(y) * stride, width) == GIF_ERROR) {
                 return false;
             }

@@ -35,6 +35,7 @@ private:
     bool readExtension(GIFImage& gif, GIFImage::SubImage& frame);
     bool readPicture(GIFImage::SubImage& frame);
     bool readPixels(QImage& image);
+    bool readInterlaced(uchar* bits, int width, int height, int stride);
 
     QIODevice* m_device;
     QByteArray m_buffer;

@@ -30,21 +30,29 @@ GIFStep chooseStep(const GIFComposite& base, const QRect& rect, const GIFComposi
                    const GIFComposite& next)
 {
     const GIFChange kept = changeOf(shown, next);
-
-    // A cleared rectangle has to hold what must vanish; that makes it possible in any case.
-    const QRect wide = rect | kept.vanished;
-    GIFStep best{GIFImage::ToBackground, wide, shown.cleared(wide), {}};
-    const GIFChange cleared = changeOf(best.base, next);
-    qint64 least = costOf(cleared) + areaOf(wide) - areaOf(rect);
-    best.nextRect = gifRect(cleared, next);
-
-    const GIFChange restored = changeOf(base, next);
-    if (!base.rect.isEmpty() && restored.vanished.isEmpty() && costOf(restored) < least) {
-        least = costOf(restored);
-        best = {GIFImage::ToPrevious, rect, base, gifRect(restored, next)};
-    }
-    if (kept.vanished.isEmpty() && costOf(kept) <= least) {
+    GIFStep best;
+    qint64 least = 0;
+    if (kept.vanished.isEmpty()) {
         best = {GIFImage::Keep, rect, shown, gifRect(kept, next)};
+        least = costOf(kept);
+    } else {
+        // Where keeping is possible, clearing draws more. Clearing is possible if it holds all
+        // that must vanish.
+        const QRect wide = rect | kept.vanished;
+        best = {GIFImage::ToBackground, wide, shown.cleared(wide), {}};
+        const GIFChange cleared = changeOf(best.base, next);
+        best.nextRect = gifRect(cleared, next);
+        if (cleared.fromNothing) {
+            best.base = {};
+        }
+        least = costOf(cleared) + areaOf(wide) - areaOf(rect);
+    }
+    // Nothing to restore is what clearing leaves, too, which more viewers do well.
+    if (least > 0 && !base.rect.isEmpty()) {
+        const GIFChange restored = changeOf(base, next);
+        if (restored.vanished.isEmpty() && costOf(restored) < least) {
+            best = {GIFImage::ToPrevious, rect, base, gifRect(restored, next)};
+        }
     }
     return best;
 }

@@ -17,8 +17,8 @@ struct GIFStep
 /// The rectangle that leads from `base` to `shown`; one pixel if there is no difference.
 QRect gifRect(const GIFChange& change, const GIFComposite& shown);
 
-/// The step of the least cost that lets `next` be drawn. `base` is what the canvas holds in front of
-/// the frame that shows `shown` by writing `rect`.
+/// The step of the least cost that lets `next` be drawn. `base` is what the canvas holds in front
+/// of the frame that shows `shown` by writing `rect`.
 GIFStep chooseStep(const GIFComposite& base, const QRect& rect, const GIFComposite& shown,
                    const GIFComposite& next);
 

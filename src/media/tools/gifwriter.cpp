@@ -1,5 +1,7 @@
 #include "media/tools/gifwriter_p.h"
 
+#include "media/tools/gifpasses_p.h"
+
 #include <QIODevice>
 
 #include <memory>
@@ -80,8 +82,8 @@ void GIFWriter::begin(const QSize& size, const QVector<RGB>& colors, int backgro
     const int Resolution = 8;
     const Map map = mapOf(colors);
     EGifSetGifVersion(m_file, true);
-    check(EGifPutScreenDesc(m_file, size.width(), size.height(), Resolution, background,
-                            map.get()));
+    check(
+        EGifPutScreenDesc(m_file, size.width(), size.height(), Resolution, background, map.get()));
     if (loops >= 0 && !m_failed) {
         const GifByteType block[] = {1, GifByteType(loops), GifByteType(loops >> 8)};
         check(EGifPutExtensionLeader(m_file, APPLICATION_EXT_FUNC_CODE));
@@ -111,17 +113,21 @@ void GIFWriter::beginFrame(const GIFImage::SubImage& frame, const QSize& size,
 
 void GIFWriter::putPixels(const QImage& image, bool interlaced)
 {
-    static const int first[] = {0, 4, 2, 1};
-    static const int steps[] = {8, 8, 4, 2};
-    const int passes = interlaced ? 4 : 1;
-    QByteArray line;
-    for (int pass = 0; pass < passes; ++pass) {
-        const int step = interlaced ? steps[pass] : 1;
-        for (int y = first[pass]; y < image.height() && !m_failed; y += step) {
-            // giflib writes into the line that it is given.
-            line = QByteArray(reinterpret_cast<const char*>(image.constScanLine(y)), image.width());
-            check(EGifPutLine(m_file, reinterpret_cast<GifPixelType*>(line.data()), line.size()));
-        }
+    if (!interlaced) {
+        putLines(image, {0, 1});
+        return;
+    }
+    for (const GIFPass& pass : gifPasses) {
+        putLines(image, pass);
+    }
+}
+
+void GIFWriter::putLines(const QImage& image, const GIFPass& pass)
+{
+    for (int y = pass.first; y < image.height() && !m_failed; y += pass.step) {
+        // giflib writes into the line that it is given.
+        QByteArray line(reinterpret_cast<const char*>(image.constScanLine(y)), image.width());
+        check(EGifPutLine(m_file, reinterpret_cast<GifPixelType*>(line.data()), line.size()));
     }
 }
 

@@ -10,6 +10,8 @@ class QIODevice;
 
 namespace Zorv {
 
+struct GIFPass;
+
 /// Writes a GIF file record by record. The first failure, of giflib or of the device, is kept
 /// and ends the writing; `finish()` tells it.
 class GIFWriter
@@ -37,6 +39,7 @@ private:
     Q_DISABLE_COPY(GIFWriter)
 
     static int writeBytes(GifFileType* file, const GifByteType* from, int count);
+    void putLines(const QImage& image, const GIFPass& pass);
     void flush();
     void check(int result);
 

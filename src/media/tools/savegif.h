@@ -25,13 +25,15 @@ struct GIFOptions
     QRgb background = 0;  ///< shown through transparent pixels; alpha 0 keeps them transparent
 };
 
-/// Writes an animated GIF that shows exactly the frames.
+/// Writes an animated GIF that shows exactly the frames, one by one.
 ///
 /// Ticks are carried to hundredths of a second without drift: the end of each frame is rounded,
 /// not its length. Of each frame only the rectangle that has changed is written, with what is the
 /// same in it transparent where that is smaller; the frames share one colour table as long as their
-/// colours fit. A frame of more than 256 colours is quantized; alpha below 128 is transparent.
-/// False for no frame, a canvas beyond 65535, or a device that fails. Re-entrant.
+/// colours fit. A pixel with alpha below 128 is transparent, any other opaque. A frame of more than
+/// 256 colours, what is transparent counting as one, is quantized. A frame longer than 655 seconds
+/// is repeated. False for no frame, a canvas beyond 65535 each way, an image beyond 2^28 pixels, or
+/// a device that fails. Re-entrant.
 ZORV_EXPORT bool saveGIF(QIODevice* device, const QVector<GIFFrame>& frames,
                          const GIFOptions& options = {});
 
