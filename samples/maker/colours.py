@@ -31,7 +31,7 @@ def ramp(colour, count, dark=0.30, light=1.12):
     return [tuple(int(c + 0.5) for c in shade) + (255,) for shade in shades]
 
 
-def palette(skin, hair, coat, cloth, sash, leather, steel=(190, 206, 220)):
+def palette(skin, hair, coat, cloth, sash, leather, steel=(184, 212, 232)):
     """The 32 colours, red, green, blue and alpha of each; the first one is clear."""
     colours = [(255, 0, 255, 0), (22, 18, 34, 255), (44, 36, 62, 255)]
     for colour, places in zip((skin, hair, coat, cloth, sash, leather, steel), RAMPS):

@@ -251,37 +251,53 @@ def water_drops(canvas, colours, count, seed, area):
         canvas.ellipse((x, y), size, size * 1.2, colours)
 
 
+# The outline of a wave in parts of its width and height: up its back, over the lip, and down the
+# hollow below it.
+CREST = [(0.00, 0.00), (0.14, 0.05), (0.27, 0.16), (0.38, 0.36), (0.46, 0.60), (0.53, 0.80),
+         (0.61, 0.94), (0.71, 1.00), (0.81, 0.97), (0.90, 0.87), (0.96, 0.72), (0.97, 0.58),
+         (0.93, 0.66), (0.86, 0.74), (0.78, 0.74), (0.72, 0.66), (0.69, 0.52), (0.69, 0.36),
+         (0.73, 0.20), (0.82, 0.08), (0.96, 0.00)]
+BACK = 8  # so many points belong to its back
+
+
 def crest(canvas, colours, left, width, height, number, seed):
-    """A wave that runs to the right and breaks at its top; it stands on the floor."""
-    points = [(left, 0)]
-    for step in range(21):
-        t = step / 20
-        rise = sin(t * pi * 0.5) ** 1.8
-        points.append((left + width * t * 0.86, -height * rise))
-    curl = height * 0.34
-    centre = left + width * 0.84, -height + curl
-    for step in range(9):
-        angle = -pi / 2 + step * 0.30
-        points.append((centre[0] + cos(angle) * curl * 0.9, centre[1] + sin(angle) * curl))
-    points += [(centre[0] + 1, centre[1] + curl * 0.35), (left + width * 0.72, -height * 0.36),
-               (left + width * 0.80, -height * 0.12), (left + width, 0)]
-    canvas.use(colours)
+    """A wave that runs to the right and breaks; it stands on the floor."""
+    dark, middle, light, white = colours
+    points = [(left + x * width, -y * height) for x, y in CREST]
+    back = points[:BACK]
+
+    def surface(x):
+        for (x0, y0), (x1, y1) in zip(back, back[1:]):
+            if x < x1:
+                return y0 + (y1 - y0) * (x - x0) / (x1 - x0)
+        return -height
 
     def shade(x, y):
-        t = (x - left) / width
-        depth = -y / height
-        band = sin(t * 9 + depth * 7 + number * 2.1)
-        value = 1.1 + depth * 1.1 + (0.9 if band > 0.55 else 0)
-        return colours[min(3, int(value))]
+        t, deep = (x - left) / width, (y - surface(x)) / height
+        if t > 0.66 and -y < height * 0.74 - (t - 0.66) * 30:
+            return dark if sin(y * 0.55 + x * 0.2 + number) < 0.75 else middle
+        stripe = sin(deep * 17 - t * 4 + number * 2.1)
+        if deep < 0.05 or t > 0.9:
+            return white
+        return light if stripe > 0.25 else middle if deep < 0.62 or stripe > -0.6 else dark
 
+    canvas.use(colours)
     canvas.polygon(points, shade)
     dice = Dice(seed)
-    for step in range(40):
-        t = step / 39
-        x = left + width * t * 0.9
-        y = -height * sin(min(1, t * 1.08) * pi * 0.5) ** 1.8
-        canvas.ellipse((x, y), dice.within(1.4, 3.4), dice.within(1.2, 2.6), (colours[3],))
-    for _ in range(10):
-        x, y = left + width * dice.within(0.6, 1.12), -height * dice.within(0.5, 1.25)
-        canvas.ellipse((x, y), 1.3, 1.3, (colours[3],))
-
+    for place, (x, y) in enumerate(points[4:BACK + 5]):
+        # The foam of the lip hangs in claws.
+        for _ in range(3 + place // 2):
+            size = dice.within(1.2, 2.9)
+            canvas.ellipse((x + dice.within(-3, 3), y + dice.within(-2, 2.5)), size, size * 0.85,
+                           (white,))
+    for claw in range(5):
+        x, y = left + width * (0.78 + claw * 0.048), -height * (0.73 - 0.02 * claw)
+        long = dice.within(0.06, 0.16) * height
+        canvas.capsule((x, y), 1.7, (x + dice.within(-1, 2), y + long), 0.7, (light, white))
+    for _ in range(14):
+        x, y = left + width * dice.within(0.72, 1.14), -height * dice.within(0.5, 1.24)
+        size = dice.within(0.7, 1.5)
+        canvas.ellipse((x, y), size, size, (white,))
+    for _ in range(16):
+        x, size = left + width * dice.within(0.05, 1.0), dice.within(1.0, 2.4)
+        canvas.ellipse((x, -size * 0.6), size * 1.5, size * 0.8, (light, white))

@@ -40,7 +40,7 @@ class Iwao(Fighter):
         canvas.begin()
         low = mixed(knee, ankle, 0.45)
         canvas.chain([(*hip, 10.2), (*mixed(hip, knee, 0.5), 10.4), (*knee, 9.2), (*low, 8.2)],
-                     CLOTH, bias - 0.3)
+                     CLOTH, bias - 0.5)
         canvas.capsule(low, 6.6, mixed(knee, ankle, 0.6), 6.0, CLOTH, bias - 0.6)
 
     def trunk(self):
