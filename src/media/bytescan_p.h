@@ -5,7 +5,11 @@
 
 #include <cstring>
 
-/// Eight bytes at a time. Each of these may read eight bytes from its last place on.
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
+/// Many bytes at a time. Where nothing else is said, eight bytes can be read from each place on.
 namespace Zorv::ByteScan {
 
 constexpr quint64 eachByte(quint8 value)
@@ -43,10 +47,31 @@ inline int runLength(const uchar* at, int limit)
     return 1 + equalLength(at, at + 1, limit - 1);
 }
 
-/// Upper bits where a byte is zero; those above the first one need not be right.
-inline quint64 zeroBytes(quint64 bytes)
+/// A bit for each byte that is zero.
+inline unsigned zeroBytes(quint64 bytes)
 {
-    return (bytes - eachByte(0x01)) & ~bytes & eachByte(0x80);
+    const quint64 sevenBits = eachByte(0x7F);
+    const quint64 zeros = ~(((bytes & sevenBits) + sevenBits) | bytes | sevenBits) >> 7;
+    // Gathers bit 0 of each byte in the highest one.
+    return unsigned(zeros * 0x0102040810204080u >> 56);
+}
+
+/// A bit for each of 64 bytes that differs from the next one. Reads 72 bytes.
+inline quint64 runEnds(const uchar* at)
+{
+    quint64 same = 0;
+#ifdef __SSE2__
+    for (int i = 0; i < 64; i += 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + i));
+        const __m128i next = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + i + 1));
+        same |= quint64(unsigned(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, next)))) << i;
+    }
+#else
+    for (int i = 0; i < 64; i += 8) {
+        same |= quint64(zeroBytes(load(at + i) ^ load(at + i + 1))) << i;
+    }
+#endif
+    return ~same;
 }
 
 }  // namespace Zorv::ByteScan

@@ -2,10 +2,6 @@
 
 #include "media/bytescan_p.h"
 
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
-
 namespace Zorv {
 
 namespace {
@@ -14,23 +10,50 @@ constexpr int LongestMatch = 258;
 constexpr int LongestShort = 64;
 constexpr int FarthestShort = 256;
 constexpr int Farthest = 1024;
-constexpr int Lanes = 16;
+constexpr int Lanes = 64;
 
 constexpr QPack NoMatch = {1, 0, 0, 0};
 
-/// A bit for each of sixteen places in a row that hold a pixel.
-inline unsigned lanesOf(uchar pixel, const uchar* at)
+/// A bit for each of sixteen places in a row where the pixels at all of the offsets are
+/// those at `here`.
+template <int count>
+inline quint64 placesLike(const uchar* here, const uchar* at, const int (&offsets)[count])
 {
 #ifdef __SSE2__
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    return unsigned(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(char(pixel)))));
+    __m128i alike = _mm_set1_epi8(-1);
+    for (const int offset : offsets) {
+        const __m128i pixels = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + offset));
+        alike = _mm_and_si128(alike, _mm_cmpeq_epi8(pixels, _mm_set1_epi8(char(here[offset]))));
+    }
+    return unsigned(_mm_movemask_epi8(alike));
 #else
-    unsigned lanes = 0;
-    for (int i = 0; i < Lanes; ++i) {
-        lanes |= unsigned(at[i] == pixel) << i;
+    quint64 differences[2] = {};
+    for (const int offset : offsets) {
+        const quint64 pixels = ByteScan::eachByte(here[offset]);
+        differences[0] |= ByteScan::load(at + offset) ^ pixels;
+        differences[1] |= ByteScan::load(at + offset + 8) ^ pixels;
+    }
+    return ByteScan::zeroBytes(differences[0]) | ByteScan::zeroBytes(differences[1]) << 8;
+#endif
+}
+
+/// The same for all lanes.
+template <int count>
+inline quint64 lanesLike(const uchar* here, const uchar* at, const int (&offsets)[count])
+{
+    quint64 lanes = 0;
+    for (int first = 0; first < Lanes; first += 16) {
+        lanes |= placesLike(here, at + first, offsets) << first;
     }
     return lanes;
-#endif
+}
+
+/// Whether the eight pixels up to the one at `offset` are the same, or as many as there are.
+inline bool endsAlike(const uchar* a, const uchar* b, int offset)
+{
+    const int first = qMax(0, offset - 7);
+    const quint64 difference = ByteScan::load(a + first) ^ ByteScan::load(b + first);
+    return difference << (8 * (7 - (offset - first))) == 0;
 }
 
 }  // namespace
@@ -97,23 +120,28 @@ void Lz5Search::search(const Shape& shape, int nearest, int farthest, int least,
 {
     const uchar* const here = shape.here;
     const int change = shape.firstChange;
+    int needed = qMax(best.length, least - 1);
     for (int distance = nearest; distance <= farthest && best.length < shape.limit;
          distance += Lanes) {
         // The nearest place is the last one of the lanes.
         const uchar* const places = here - distance - (Lanes - 1);
-        const int needed = qMax(best.length, least - 1);
-        unsigned found = lanesOf(here[change - 1], places + change - 1) &
-                         lanesOf(here[change], places + change) &
-                         lanesOf(here[needed], places + needed);
-        const int tooFar = distance + Lanes - 1 - farthest;
-        found &= tooFar > 0 ? ~0u << tooFar : ~0u;
-        while (found) {
-            const int lane = 31 - int(qCountLeadingZeroBits(found));
-            found ^= 1u << lane;
+        quint64 found =
+            needed > change + 1
+                ? lanesLike<5>(here, places,
+                               {change - 1, change, (change + needed) / 2, needed - 1, needed})
+                : lanesLike<3>(here, places, {change - 1, change, needed});
+        found &= ~quint64(0) << qMax(0, distance + Lanes - 1 - farthest);
+        while (found && best.length < shape.limit) {
+            const int lane = Lanes - 1 - int(qCountLeadingZeroBits(found));
+            found ^= quint64(1) << lane;
+            if (!endsAlike(places + lane, here, needed)) {
+                continue;
+            }
             const int length = ByteScan::equalLength(places + lane, here, shape.limit);
             const int back = distance + Lanes - 1 - lane;
             if (length > best.length && shape.isWorth(back, length)) {
                 best = {length, back};
+                needed = qMax(needed, length);
             }
         }
     }

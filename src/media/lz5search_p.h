@@ -4,12 +4,12 @@
 
 namespace Zorv {
 
-/// What `lzFind()` finds, sixteen distances at a time.
+/// What `lzFind()` finds, many distances at a time.
 class Lz5Search
 {
 public:
     /// What has to be readable in front of the pixels, and has to be zero behind them.
-    static constexpr int Front = 16;
+    static constexpr int Front = 64;
     static constexpr int Behind = 320;
 
     Lz5Search(const unsigned char* pixels, int total) : m_pixels(pixels), m_total(total) {}

@@ -135,18 +135,27 @@ QPCXHeader headerOf(const QImage& image)
     return header;
 }
 
+/// Takes a plane out of a line of four bytes a pixel.
+void takePlane(const uchar* line, int plane, uchar* values, int width)
+{
+    for (int x = 0; x < width; ++x) {
+        values[x] = line[4 * x + plane];
+    }
+}
+
 void writePlanes(const QImage& image, int planes, ByteSink& sink)
 {
-    std::vector<uchar> values(size_t(image.width()) + 8);
+    const int width = image.width();
+    std::vector<uchar> values(size_t(width) + RunPairReadAhead);
     for (int y = 0; y < image.height(); ++y) {
         const uchar* line = image.constScanLine(y);
         for (int plane = 0; plane < planes; ++plane) {
-            const int step = planes == 1 ? 1 : 4;
-            const int first = swapped(plane, planes > 1);
-            for (int x = 0; x < image.width(); ++x) {
-                values[size_t(x)] = line[x * step + first];
+            if (planes == 1) {
+                std::memcpy(values.data(), line, size_t(width));
+            } else {
+                takePlane(line, swapped(plane, true), values.data(), width);
             }
-            writeRunPairs<RunMarker::Pcx>(values.data(), image.width(), sink);
+            writeRunPairs<RunMarker::Pcx>(values.data(), width, sink);
         }
     }
 }

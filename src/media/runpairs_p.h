@@ -31,7 +31,10 @@ private:
     uchar m_value = 0;
 };
 
-/// Encodes a stretch, whose runs end with it. Behind it eight bytes can be read.
+/// What has to be readable behind a stretch that is encoded.
+constexpr int RunPairReadAhead = 72;
+
+/// Encodes a stretch, whose runs end with it.
 template <RunMarker marker>
 void writeRunPairs(const uchar* values, qint64 count, ByteSink& sink);
 

@@ -204,22 +204,24 @@ QByteArray writeLz5(const QByteArray& bytes, bool useLz)
     return out;
 }
 
-QByteArray writeRle8(const QByteArray& pixels)
+QByteArray writeRle8(const QByteArray& bytes)
 {
-    QByteArray out;
-    out.reserve(2 * pixels.size());
-    for (int i = 0; i < pixels.size();) {
+    QByteArray coded(2 * bytes.size(), 0);
+    const char* pixels = bytes.constData();
+    char* out = coded.data();
+    for (int i = 0, total = bytes.size(); i < total;) {
         int count = 1;
-        while (count < 63 && i + count < pixels.size() && pixels[i + count] == pixels[i]) {
+        while (count < 63 && i + count < total && pixels[i + count] == pixels[i]) {
             ++count;
         }
         if (count > 1 || (pixels[i] & 0xC0) == 0x40) {
-            out += char(64 + count);
+            *out++ = char(64 + count);
         }
-        out += pixels[i];
+        *out++ = pixels[i];
         i += count;
     }
-    return out;
+    coded.truncate(int(out - coded.constData()));
+    return coded;
 }
 
 static QImage shapeOf(const Zorv::QPCXHeader& header)
