@@ -201,6 +201,58 @@
         <source>&amp;Fold or unfold</source>
         <translation>&amp;Ein- oder ausklappen</translation>
     </message>
+    <message>
+        <source>&amp;Add images...</source>
+        <translation>Bilder &amp;hinzufügen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Replace image...</source>
+        <translation>Bild &amp;ersetzen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Save images as...</source>
+        <translation>Bilder &amp;speichern unter ...</translation>
+    </message>
+    <message>
+        <source>Re&amp;move sprites</source>
+        <translation>Sprites e&amp;ntfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo change of sprites</source>
+        <translation>Änderung der Sprites &amp;rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Re&amp;do change of sprites</source>
+        <translation>Änderung der Sprites &amp;wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Load palette...</source>
+        <translation>Palette &amp;laden ...</translation>
+    </message>
+    <message>
+        <source>&amp;Save palette as...</source>
+        <translation>Palette &amp;speichern unter ...</translation>
+    </message>
+    <message>
+        <source>&amp;Add sounds...</source>
+        <translation>Klänge &amp;hinzufügen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Save sounds as...</source>
+        <translation>Klänge &amp;speichern unter ...</translation>
+    </message>
+    <message>
+        <source>Re&amp;move sounds</source>
+        <translation>Klänge e&amp;ntfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo change of sounds</source>
+        <translation>Änderung der Klänge &amp;rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Re&amp;do change of sounds</source>
+        <translation>Änderung der Klänge &amp;wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>App::AnimationCommands</name>
@@ -538,10 +590,6 @@
         <translation>In %1 liegen Dateien. Die mit Namen von Dateien des Spiels werden überschrieben. Dort speichern?</translation>
     </message>
     <message>
-        <source>%1 was changed in several projects in different ways. Save it first, and choose the text that stays.</source>
-        <translation>%1 wurde in mehreren Projekten verschieden geändert. Bitte zuerst speichern und den Text wählen, der bleibt.</translation>
-    </message>
-    <message>
         <source>These files could not be written:</source>
         <translation>Diese Dateien konnten nicht geschrieben werden:</translation>
     </message>
@@ -556,6 +604,10 @@
     <message>
         <source>The game could not be saved there. The work goes on in %1.</source>
         <translation>Das Spiel konnte dort nicht gespeichert werden. Die Arbeit geht in %1 weiter.</translation>
+    </message>
+    <message>
+        <source>%1 was changed in several projects in different ways. Save it first, and choose what stays.</source>
+        <translation>%1 wurde in mehreren Projekten unterschiedlich geändert. Speichern Sie zuerst und wählen Sie, was bleibt.</translation>
     </message>
 </context>
 <context>
@@ -750,6 +802,29 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Detach panel %1</source>
         <translation>Bereich %1 ablösen</translation>
     </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprites</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Klänge</translation>
+    </message>
+</context>
+<context>
+    <name>App::MediaDialogs</name>
+    <message>
+        <source>Sounds</source>
+        <translation>Klänge</translation>
+    </message>
+    <message>
+        <source>Replace what is there?</source>
+        <translation>Vorhandenes ersetzen?</translation>
+    </message>
+    <message>
+        <source>Given up.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
 </context>
 <context>
     <name>App::Menus</name>
@@ -850,6 +925,17 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>(%1 are left out)</source>
         <translation>(%1 sind ausgelassen)</translation>
+    </message>
+</context>
+<context>
+    <name>App::PaletteGrid</name>
+    <message>
+        <source>Palette of the selected sprite</source>
+        <translation>Palette des gewählten Sprites</translation>
+    </message>
+    <message>
+        <source>Colour %1: %2, alpha %3</source>
+        <translation>Farbe %1: %2, Alpha %3</translation>
     </message>
 </context>
 <context>
@@ -1338,6 +1424,164 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>App::SoundCommands</name>
+    <message>
+        <source>Add sounds</source>
+        <translation>Klänge hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1 sounds are taken up.</source>
+        <translation>%1 Klänge wurden aufgenommen.</translation>
+    </message>
+    <message>
+        <source>Save sounds as</source>
+        <translation>Klänge speichern unter</translation>
+    </message>
+    <message>
+        <source>Remove sounds</source>
+        <translation>Klänge entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>App::SoundPanel</name>
+    <message>
+        <source>Sounds of the project</source>
+        <translation>Klänge des Projekts</translation>
+    </message>
+    <message>
+        <source>No sound file</source>
+        <translation>Keine Klangdatei</translation>
+    </message>
+    <message>
+        <source>1 sound</source>
+        <translation>1 Klang</translation>
+    </message>
+    <message>
+        <source>%1 sounds</source>
+        <translation>%1 Klänge</translation>
+    </message>
+    <message>
+        <source>Sound %1: %2 Hz, %3 bits, %4, %5 s</source>
+        <translation>Klang %1: %2 Hz, %3 Bit, %4, %5 s</translation>
+    </message>
+    <message>
+        <source>mono</source>
+        <translation>mono</translation>
+    </message>
+    <message>
+        <source>stereo</source>
+        <translation>stereo</translation>
+    </message>
+    <message>
+        <source>%1 channels</source>
+        <translation>%1 Kanäle</translation>
+    </message>
+</context>
+<context>
+    <name>App::SpriteCommands</name>
+    <message>
+        <source>Add images</source>
+        <translation>Bilder hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1 images are taken up.</source>
+        <translation>%1 Bilder wurden aufgenommen.</translation>
+    </message>
+    <message>
+        <source>The image&apos;s palette, added if it is not there yet</source>
+        <translation>Die Palette des Bildes; sie kommt hinzu, wenn sie fehlt</translation>
+    </message>
+    <message>
+        <source>The sprite&apos;s palette: the image is adapted to it</source>
+        <translation>Die Palette des Sprites: Das Bild wird ihr angepasst</translation>
+    </message>
+    <message>
+        <source>The sprite&apos;s palette takes the colours of the image</source>
+        <translation>Die Palette des Sprites nimmt die Farben des Bildes an</translation>
+    </message>
+    <message>
+        <source>Replace image</source>
+        <translation>Bild ersetzen</translation>
+    </message>
+    <message>
+        <source>The image has other colours than the sprite.</source>
+        <translation>Das Bild hat andere Farben als der Sprite.</translation>
+    </message>
+    <message>
+        <source>Save images as</source>
+        <translation>Bilder speichern unter</translation>
+    </message>
+    <message>
+        <source>Remove sprites</source>
+        <translation>Sprites entfernen</translation>
+    </message>
+    <message>
+        <source>Change palette</source>
+        <translation>Palette ändern</translation>
+    </message>
+    <message>
+        <source>Save palette as</source>
+        <translation>Palette speichern unter</translation>
+    </message>
+    <message>
+        <source>The palette is saved.</source>
+        <translation>Die Palette ist gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>App::SpriteList</name>
+    <message>
+        <source>Sprites of the project</source>
+        <translation>Sprites des Projekts</translation>
+    </message>
+</context>
+<context>
+    <name>App::SpritePanel</name>
+    <message>
+        <source>No sprite file</source>
+        <translation>Keine Spritedatei</translation>
+    </message>
+    <message>
+        <source>1 sprite</source>
+        <translation>1 Sprite</translation>
+    </message>
+    <message>
+        <source>%1 sprites</source>
+        <translation>%1 Sprites</translation>
+    </message>
+    <message>
+        <source>Sprite %1: %2 × %3, axis %4,%5</source>
+        <translation>Sprite %1: %2 × %3, Achse %4,%5</translation>
+    </message>
+    <message>
+        <source>, palette %1</source>
+        <translation>, Palette %1</translation>
+    </message>
+</context>
+<context>
+    <name>App::SpritePicture</name>
+    <message>
+        <source>The selected sprite</source>
+        <translation>Der gewählte Sprite</translation>
+    </message>
+    <message>
+        <source>The pixels of this sprite are broken.</source>
+        <translation>Die Pixel dieses Sprites sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>No sprite</source>
+        <translation>Kein Sprite</translation>
+    </message>
+    <message>
+        <source>%1: colour %2, %3</source>
+        <translation>%1: Farbe %2, %3</translation>
+    </message>
+    <message>
+        <source>%1: %2, alpha %3</source>
+        <translation>%1: %2, Alpha %3</translation>
+    </message>
+</context>
+<context>
     <name>App::StatusFields</name>
     <message>
         <source>Not saved yet</source>
@@ -1385,14 +1629,21 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>App::Transfer</name>
+    <message>
+        <source>The numbers in the names of some files are taken already.</source>
+        <translation>Die Nummern in den Namen einiger Dateien sind schon vergeben.</translation>
+    </message>
+    <message>
+        <source>%1 files are written.</source>
+        <translation>%1 Dateien wurden geschrieben.</translation>
+    </message>
+</context>
+<context>
     <name>App::UnsavedWork</name>
     <message>
         <source>and %1 more</source>
         <translation>und %1 weitere</translation>
-    </message>
-    <message>
-        <source>Save the text of %1</source>
-        <translation>Text von %1 speichern</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1425,6 +1676,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>new file</source>
         <translation>neue Datei</translation>
+    </message>
+    <message>
+        <source>Save the file of %1</source>
+        <translation>Die Datei von %1 speichern</translation>
     </message>
 </context>
 <context>
@@ -1941,6 +2196,30 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>the name of a move</source>
         <translation>der Name einer Aktion</translation>
     </message>
+    <message>
+        <source>its record is damaged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its form is not one that the program knows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its samples are missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its samples lie outside of the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its samples overlap those of another sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its samples are damaged</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Family::AbandonedTexts</name>
@@ -1978,6 +2257,56 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Remove animations</source>
         <translation>Animationen entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>Family::AnimationGif</name>
+    <message>
+        <source>Sprite %1 has no pixels, or they are broken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no sprite %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The frame with sprite %1 is scaled too large, or to nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The frames are too far from each other for one picture.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The animation has no frame to show.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The animation is larger than a GIF file can be, 65535 by 65535.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no sprite file beside &apos;%1&apos;. Name one with &apos;--sprites&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are several sprite files beside &apos;%1&apos;: %2. Name one with &apos;--sprites&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::AssetNames</name>
+    <message>
+        <source>The group %1 has no room for &apos;%2&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not tell its group and number. Expected a name such as &apos;200-3.%2&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; both go to %3.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2134,6 +2463,82 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>New project</source>
         <translation>Neues Projekt</translation>
     </message>
+    <message numerus="yes">
+        <source>%1: and %n more.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Family::FamilySprite</name>
+    <message>
+        <source>its record in the file is broken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the record of its pixels in the file is broken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its pixels are broken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duplicate sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change palette of sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split channels</source>
+        <translation type="unfinished">Kanäle trennen</translation>
+    </message>
+</context>
+<context>
+    <name>Family::FilePatterns</name>
+    <message>
+        <source>Expected the name of a file; found an empty text.</source>
+        <translation type="unfinished">Erwartet: der Name einer Datei; gefunden: ein leerer Text.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a folder. Name files in it, as with &apos;%2&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a plain file. Name a file on a disk.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file matches &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos;.</source>
+        <translation type="unfinished">Es gibt keine Datei &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::FolderList</name>
+    <message>
+        <source>Line %1 of %2 makes no sense: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Family::HostInterface</name>
@@ -2144,6 +2549,144 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Find</source>
         <translation>Suchen</translation>
+    </message>
+</context>
+<context>
+    <name>Family::ImageEdits</name>
+    <message>
+        <source>%1 by %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result would be larger than %1, or than the memory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The result would be too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has no palette. Have its pixels take the nearest colours instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::ImageFiles</name>
+    <message>
+        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: it is no whole image of the format of its suffix. Expected .png, .pcx, .bmp or .gif.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: &apos;%2&apos; is no format of images. Expected .png, .pcx, .bmp or .gif.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: an image of %2 by %3 does not fit the format. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::OutputFiles</name>
+    <message>
+        <source>Cannot write &apos;%1&apos;: %2. Check the folder and the space on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot replace &apos;%1&apos;: %2. It is unchanged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is one file, and there are %2 to write. Name a folder, or a pattern such as &apos;%3&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; would both become &apos;%3&apos;. Write them to different folders.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no plain file and cannot be replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is there already. Nothing is written. Name another place, or replace it with &apos;--force&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files are there already, such as &apos;%2&apos;. Nothing is written. Name another place, or replace them with &apos;--force&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::PaletteList</name>
+    <message>
+        <source>Add palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete all palettes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete unused palettes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete repeated palettes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Broken in the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n color(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Family::PaletteWork</name>
+    <message>
+        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read a palette from &apos;%1&apos;. Expected .act, .pal, .aco, .ase, .txt, or an indexed image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <translation type="unfinished">Paletten</translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: palettes are written as .act.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2211,10 +2754,295 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Family::RemapModel</name>
+    <message>
+        <source>Remap palettes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Broken in the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation type="unfinished">Palette</translation>
+    </message>
+    <message>
+        <source>Shown as</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Family::SessionFolder</name>
     <message>
         <source>Cannot make a folder in %1. Check its permissions, and that there is room on the disk.</source>
         <translation>In %1 kann kein Ordner angelegt werden. Bitte die Rechte prüfen und ob auf dem Datenträger Platz ist.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::SoundFile</name>
+    <message>
+        <source>Change sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duplicate sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Renumber sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound %1 (%2): %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove broken sounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sort sounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot open the sounds of %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot save %1: the sounds cannot be read from the temporary file any more. The old file is unchanged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::SoundFileData</name>
+    <message>
+        <source>It is not a sound file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its first bytes are broken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A newer version of the program has written it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its end is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::SoundWork</name>
+    <message>
+        <source>Sound %1 is broken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: sounds are written as .wav.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a form that a sound file cannot hold. Expected 1 to 8 channels of 8, 16, 24 or 32 bits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: it is no WAV file with plain samples (PCM).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation type="unfinished">Klänge</translation>
+    </message>
+    <message>
+        <source>There is a sound %1 already. Nothing is changed. Replace it with &apos;--force&apos;, or give &apos;%2&apos; another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import sounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::SpriteCollection</name>
+    <message>
+        <source>Remove broken records</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add sprites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete sprites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sort sprites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Broken: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::SpriteExport</name>
+    <message>
+        <source>There is no palette %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such sprite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sprite %1 has no pixels, or they are broken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sprites</source>
+        <translation type="unfinished">Sprites</translation>
+    </message>
+    <message>
+        <source>There is no such palette.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::SpriteFile</name>
+    <message>
+        <source>Cannot read %1: %2.</source>
+        <translation type="unfinished">%1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: pixels that were kept in a temporary file are lost. Make room on the disk of temporary files, and add them anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write %1.</source>
+        <translation type="unfinished">%1 kann nicht geschrieben werden.%2 {1.?}</translation>
+    </message>
+</context>
+<context>
+    <name>Family::SpriteFileData</name>
+    <message>
+        <source>Palette %1 is broken: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixels %1 are broken: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sprite %1 is broken: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remap %1 is broken: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::SpriteFolder</name>
+    <message>
+        <source>Cannot read %1: it is no folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no image that can be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write the sprite %1: it has no pixels, or they are broken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write %1.</source>
+        <translation type="unfinished">%1 kann nicht geschrieben werden.%2 {1.?}</translation>
+    </message>
+</context>
+<context>
+    <name>Family::SpriteImport</name>
+    <message>
+        <source>&apos;%1&apos; is larger than a sprite can be, %2 by %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import sprites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a sprite %1 already. Nothing is changed. Replace it with &apos;--force&apos;, or give &apos;%2&apos; another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; would lose something as %2. Choose another codec.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Family::SpriteSheet</name>
+    <message>
+        <source>The sheet is larger than the memory. Select fewer sprites.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sprites</source>
+        <translation type="unfinished">Sprites</translation>
+    </message>
+    <message>
+        <source>Sprite %1 has no pixels, or they are broken.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such sprite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sheet would be too large. Select fewer sprites.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
