@@ -6,6 +6,7 @@
 #include "media/losslessimages.h"
 #include "media/pcx.h"
 #include "media/tools/colorquantizer.h"
+#include "media/tools/gifpixels_p.h"
 #include "media/tools/gifreader_p.h"
 
 #include <QBuffer>
@@ -109,8 +110,10 @@ bool loadGIF(QIODevice* device, QImage& image)
 
 bool saveGIFStill(QIODevice* device, const QImage& source)
 {
-    const QImage image =
-        source.format() == QImage::Format_Indexed8 ? source : ColorQuantizer::quantize(source, 256);
+    QImage image = gifIndexed(source);
+    if (image.isNull()) {
+        image = ColorQuantizer::quantize(gifTrueColor(source), 256);
+    }
     const QVector<QRgb> colors = image.colorTable();
     GIFImage gif;
     gif.size = image.size();
