@@ -13,10 +13,10 @@ const int Rounds = 41;
 
 void nearest(const QImage& image, const QSize& size, const char* name)
 {
-    const double qt = Bench::median(Rounds, [&] { image.scaled(size); });
-    const double own =
-        Bench::median(Rounds, [&] { resizeImage(image, size, ImageResizeFilter::Nearest); });
-    Bench::ratio(name, own, qt, 0.2);
+    const double ratio = Bench::pairedRatio(
+        Rounds, [&] { resizeImage(image, size, ImageResizeFilter::Nearest); },
+        [&] { image.scaled(size); });
+    Bench::ratio(name, ratio, 1, 0.2);
 }
 
 #ifdef ZORV_BENCH_AVFILTER
@@ -29,13 +29,13 @@ void against(const char* filter, Scale scale, const QImage& image, int factor, d
         std::printf("ffmpeg has no filter %s\n", filter);
         return;
     }
-    const double theirs = Bench::median(Rounds, [&graph] { graph.run(); });
-    const double own = Bench::median(Rounds, [&] { scale(image, factor); });
+    const double ratio = Bench::pairedRatio(
+        Rounds, [&] { scale(image, factor); }, [&graph] { graph.run(); });
     const QImage expected = graph.result();
     const QImage made = scale(image, factor).convertToFormat(expected.format());
     const QByteArray name = "scaled by " + QByteArray::number(factor) + " to ffmpeg's " + filter +
                             (made == expected ? ", same pixels" : ", other pixels");
-    Bench::ratio(name.constData(), own, theirs, limit);
+    Bench::ratio(name.constData(), ratio, 1, limit);
 }
 
 void againstFilters(const QImage& image)

@@ -39,6 +39,17 @@ double median(int rounds, Function function)
     return medianOf(rounds, [&function] { return once(function); });
 }
 
+/// The median of the ratios of two functions called by turns, so that what else the machine does
+/// meets both.
+template <class Own, class Peer>
+double pairedRatio(int rounds, Own own, Peer peer)
+{
+    return medianOf(rounds, [&own, &peer] {
+        const double time = once(own);
+        return time / once(peer);
+    });
+}
+
 /// Prints a / b and, if there is one, the limit that it should not pass.
 inline void ratio(const char* name, double a, double b, double limit = 0)
 {

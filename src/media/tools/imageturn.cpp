@@ -4,10 +4,15 @@
 #include "media/tools/raster_p.h"
 #include "media/tools/widepixel_p.h"
 
+#include <QRgb>
 #include <QtMath>
 
 #include <algorithm>
 #include <cmath>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace Zorv {
 
@@ -23,14 +28,40 @@ struct Weights
     unsigned lower;
 };
 
+#ifdef __SSE2__
 quint32 mixedOpaque(const quint32* upper, const quint32* lower, Weights weights)
 {
-    const unsigned both = weights.right * weights.lower >> 8;
-    const WidePixel sum = widened(upper[0]) * (256 - weights.right - weights.lower + both) +
-                          widened(upper[1]) * (weights.right - both) +
-                          widened(lower[0]) * (weights.lower - both) + widened(lower[1]) * both;
-    return narrowed((sum + WideHalf) >> 8 & WideMask);
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i half = _mm_set1_epi16(128);
+    const auto pair = [zero](const quint32* pixels) {
+        return _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(pixels)), zero);
+    };
+    // Sums below 2 to the power of 16 come out right although the differences may be negative.
+    const __m128i top = pair(upper);
+    const __m128i change =
+        _mm_mullo_epi16(_mm_sub_epi16(pair(lower), top), _mm_set1_epi16(short(weights.lower)));
+    const __m128i column =
+        _mm_srli_epi16(_mm_add_epi16(_mm_add_epi16(_mm_slli_epi16(top, 8), change), half), 8);
+    const __m128i right = _mm_unpackhi_epi64(column, column);
+    const __m128i across =
+        _mm_mullo_epi16(_mm_sub_epi16(right, column), _mm_set1_epi16(short(weights.right)));
+    const __m128i sum =
+        _mm_srli_epi16(_mm_add_epi16(_mm_add_epi16(_mm_slli_epi16(column, 8), across), half), 8);
+    return quint32(_mm_cvtsi128_si32(_mm_packus_epi16(sum, sum)));
 }
+#else
+WidePixel mixedPair(WidePixel first, WidePixel second, unsigned part)
+{
+    return (first * (256 - part) + second * part + WideHalf) >> 8 & WideMask;
+}
+
+quint32 mixedOpaque(const quint32* upper, const quint32* lower, Weights weights)
+{
+    const WidePixel left = mixedPair(widened(upper[0]), widened(lower[0]), weights.lower);
+    const WidePixel right = mixedPair(widened(upper[1]), widened(lower[1]), weights.lower);
+    return narrowed(mixedPair(left, right, weights.right));
+}
+#endif
 
 quint32 mixedWithAlpha(const quint32* upper, const quint32* lower, Weights weights)
 {
@@ -46,11 +77,13 @@ quint32 mixedWithAlpha(const quint32* upper, const quint32* lower, Weights weigh
 
 quint32 mixed(const quint32* upper, const quint32* lower, Weights weights)
 {
-    if (upper[0] == upper[1] && lower[0] == lower[1] && upper[0] == lower[0]) {
-        return upper[0];
+    // Only where all that counts is opaque the mixture is.
+    const quint32 result = mixedOpaque(upper, lower, weights);
+    if (result >> 24 == 255) {
+        return result;
     }
-    const bool opaque = (upper[0] & upper[1] & lower[0] & lower[1]) >> 24 == 255;
-    return opaque ? mixedOpaque(upper, lower, weights) : mixedWithAlpha(upper, lower, weights);
+    const bool flat = upper[0] == upper[1] && lower[0] == lower[1] && upper[0] == lower[0];
+    return flat ? upper[0] : mixedWithAlpha(upper, lower, weights);
 }
 
 /// The image with a border of one pixel of a colour.
@@ -69,6 +102,17 @@ QImage bordered(const QImage& image, quint32 fill)
         row[0] = fill;
         std::copy_n(from.row(y), from.width, row + 1);
         row[to.width - 1] = fill;
+    }
+    return result;
+}
+
+/// An image for the result. Corners that are not opaque make alpha of the unused byte, which is
+/// that of an opaque pixel in each comparable image.
+QImage resultOf(const QImage& image, quint32 fill, const QSize& size)
+{
+    QImage result = image.isNull() ? QImage() : imageLike(image, size);
+    if (result.format() == QImage::Format_RGB32 && qAlpha(fill) != 255) {
+        result.reinterpretAsFormat(QImage::Format_ARGB32);
     }
     return result;
 }
@@ -131,18 +175,19 @@ void ImageTurn::draw(const Source& source, QImage& to, quint32 fill, Sample samp
         std::fill(row, row + span.first, Pixel(fill));
         qint64 u = way.start.x + span.first * way.step.x;
         qint64 v = way.start.y + span.first * way.step.y;
-        for (int x = span.first; x < span.end; ++x) {
-            row[x] = sample(u, v);
+        Pixel* const end = row + span.end;
+        for (Pixel* pixel = row + span.first; pixel < end; ++pixel) {
+            *pixel = sample(u, v);
             u += way.step.x;
             v += way.step.y;
         }
-        std::fill(row + span.end, row + pixels.width, Pixel(fill));
+        std::fill(end, row + pixels.width, Pixel(fill));
     }
 }
 
 QImage ImageTurn::nearest(const QImage& image, quint32 fill, const QSize& size) const
 {
-    QImage result = image.isNull() ? QImage() : imageLike(image, size);
+    QImage result = resultOf(image, fill, size);
     if (result.isNull()) {
         return result;
     }
@@ -157,7 +202,7 @@ QImage ImageTurn::nearest(const QImage& image, quint32 fill, const QSize& size) 
 
 QImage ImageTurn::bilinear(const QImage& image, quint32 fill, const QSize& size) const
 {
-    QImage result = image.isNull() ? QImage() : imageLike(image, size);
+    QImage result = resultOf(image, fill, size);
     const QImage source = result.isNull() ? QImage() : bordered(image, fill);
     if (source.isNull()) {
         return {};

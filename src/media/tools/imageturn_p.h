@@ -8,7 +8,8 @@ namespace Zorv {
 /// A turn of images about their centres, clockwise in degrees.
 ///
 /// The images may be larger or smaller than the size that it was made for: the whole of the source
-/// always covers the same part of the result.
+/// always covers the same part of the result. With a `fill` that is not opaque, `Format_RGB32`
+/// becomes `Format_ARGB32`.
 class ImageTurn
 {
 public:
@@ -17,11 +18,11 @@ public:
     /// The size that an image of the original size needs.
     QSize resultSize() const { return m_resultSize; }
 
-    /// Each pixel of the result is the one of a working image that its centre lies in. `fill`
+    /// Each pixel of the result is the one of a comparable image that its centre lies in. `fill`
     /// stands where there is none. Null if the size is not possible or memory is short.
     QImage nearest(const QImage& image, quint32 fill, const QSize& size) const;
 
-    /// The same with a mixture of the four pixels around, of a comparable image with true colours.
+    /// The same with a mixture of the four pixels around, of an image with true colours.
     QImage bilinear(const QImage& image, quint32 fill, const QSize& size) const;
 
 private:

@@ -28,17 +28,13 @@ QImage enlarged(const QImage& image, int most, QImage (*scale)(const QImage&, in
 /// Turns true colours, mixing them.
 QImage turnMixing(const QImage& image, const ImageTurn& turn, QRgb fill, ImageResizeFilter filter)
 {
-    QImage work = comparableImage(image);
-    if (work.format() == QImage::Format_RGB32 && qAlpha(fill) != 255) {
-        work = work.convertToFormat(QImage::Format_ARGB32);
-    }
     if (filter != ImageResizeFilter::Hq) {
-        return turn.bilinear(work, fill, turn.resultSize());
+        return turn.bilinear(image, fill, turn.resultSize());
     }
     // Twice as large, so that the smooth borders are still smooth when they are made smaller.
     const QSize size = turn.resultSize();
     const QSize doubled = isPossibleSize(size * 2) ? size * 2 : size;
-    const QImage large = turn.bilinear(enlarged(work, 2, scaleHq), fill, doubled);
+    const QImage large = turn.bilinear(enlarged(image, 2, scaleHq), fill, doubled);
     return large.isNull() || doubled == size ? large : resizeBilinear(large, size);
 }
 
@@ -68,7 +64,7 @@ QImage turned(const QImage& work, const ImageTurn& turn, unsigned int fill,
 
 QImage rotateImage(const QImage& image, float degrees, unsigned int fill, ImageResizeFilter filter)
 {
-    QImage work = workingImage(image);
+    const QImage work = workingImage(image);
     if (!isPossibleSize(work.size()) || !std::isfinite(degrees)) {
         return {};
     }
@@ -76,10 +72,7 @@ QImage rotateImage(const QImage& image, float degrees, unsigned int fill, ImageR
     if (std::fmod(angle, 90.0) == 0) {
         return work.transformed(QTransform().rotate(angle));
     }
-    if (work.format() == QImage::Format_RGB32 && qAlpha(fill) != 255) {
-        work = work.convertToFormat(QImage::Format_ARGB32);
-    }
-    return turned(work, ImageTurn(work.size(), angle), fill, filter);
+    return turned(comparableImage(work), ImageTurn(work.size(), angle), fill, filter);
 }
 
 }  // namespace Zorv
