@@ -2220,6 +2220,60 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>its samples are damaged</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>sprite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more records are broken.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no %2 file, or its first bytes are damaged. Name another file, or take this one from a backup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A part of &apos;%1&apos; is broken. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no sprite %1 in &apos;%2&apos;. Correct the numbers, or add the sprite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no sound %1 in &apos;%2&apos;. Correct the numbers, or add the sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No frame and no layer shows these sprites of &apos;%1&apos;: %2. Remove them, or use them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No sprite has these palettes of &apos;%1&apos;: %2. Remove them, or give them to sprites.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing plays these sounds of &apos;%1&apos;: %2. Remove them, or use them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These palettes of &apos;%1&apos; have more than 32 colours, but all their sprites are stored as LZ5, which keeps the first 32: %2. Store the sprites in another codec.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Family::AbandonedTexts</name>
@@ -2263,50 +2317,50 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::AnimationGif</name>
     <message>
         <source>Sprite %1 has no pixels, or they are broken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite %1 hat keine Pixel, oder sie sind beschädigt.</translation>
     </message>
     <message>
         <source>There is no sprite %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Sprite %1.</translation>
     </message>
     <message>
         <source>The frame with sprite %1 is scaled too large, or to nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild mit Sprite %1 wird zu groß oder auf nichts skaliert.</translation>
     </message>
     <message>
         <source>The frames are too far from each other for one picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bilder liegen für ein gemeinsames Bild zu weit auseinander.</translation>
     </message>
     <message>
         <source>The animation has no frame to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Animation hat kein Bild, das zu sehen wäre.</translation>
     </message>
     <message>
         <source>The animation is larger than a GIF file can be, 65535 by 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Animation ist größer, als eine GIF-Datei sein kann: 65535 mal 65535.</translation>
     </message>
     <message>
         <source>There is no sprite file beside &apos;%1&apos;. Name one with &apos;--sprites&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neben &apos;%1&apos; steht keine Sprite-Datei. Bitte eine mit &apos;--sprites&apos; nennen.</translation>
     </message>
     <message>
         <source>There are several sprite files beside &apos;%1&apos;: %2. Name one with &apos;--sprites&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neben &apos;%1&apos; stehen mehrere Sprite-Dateien: %2. Bitte eine mit &apos;--sprites&apos; nennen.</translation>
     </message>
 </context>
 <context>
     <name>Family::AssetNames</name>
     <message>
         <source>The group %1 has no room for &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gruppe %1 hat keinen Platz für &apos;%2&apos;.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; does not tell its group and number. Expected a name such as &apos;200-3.%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; nennt Gruppe und Nummer nicht. Erwartet: ein Name wie &apos;200-3.%2&apos;.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; and &apos;%2&apos; both go to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; und &apos;%2&apos; gehören beide zu %3.</translation>
     </message>
 </context>
 <context>
@@ -2514,23 +2568,30 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::FilePatterns</name>
     <message>
         <source>Expected the name of a file; found an empty text.</source>
-        <translation type="unfinished">Erwartet: der Name einer Datei; gefunden: ein leerer Text.</translation>
+        <translation>Erwartet: der Name einer Datei; gefunden: ein leerer Text.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is a folder. Name files in it, as with &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; ist ein Ordner. Bitte Dateien darin nennen, etwa mit &apos;%2&apos;.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a plain file. Name a file on a disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; ist keine gewöhnliche Datei. Bitte eine Datei auf einem Datenträger nennen.</translation>
     </message>
     <message>
         <source>No file matches &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf &apos;%1&apos; passt keine Datei.</translation>
     </message>
     <message>
         <source>There is no file &apos;%1&apos;.</source>
-        <translation type="unfinished">Es gibt keine Datei &apos;%1&apos;.</translation>
+        <translation>Es gibt keine Datei &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::FolderContent</name>
+    <message>
+        <source>%1 is no image that can be read.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2555,77 +2616,77 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::ImageEdits</name>
     <message>
         <source>%1 by %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mal %2</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>The result would be larger than %1, or than the memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis wäre größer als %1 oder als der Speicher.</translation>
     </message>
     <message>
         <source>The result would be too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ergebnis wäre zu groß.</translation>
     </message>
     <message>
         <source>It has no palette. Have its pixels take the nearest colours instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es hat keine Palette. Bitte seine Pixel stattdessen die nächsten Farben annehmen lassen.</translation>
     </message>
     <message>
-        <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <source>Colours</source>
+        <translation>Farben</translation>
     </message>
 </context>
 <context>
     <name>Family::ImageFiles</name>
     <message>
         <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht öffnen: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
     </message>
     <message>
         <source>Cannot read &apos;%1&apos;: it is no whole image of the format of its suffix. Expected .png, .pcx, .bmp or .gif.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht lesen: Es ist kein vollständiges Bild im Format seiner Endung. Erwartet: .png, .pcx, .bmp oder .gif.</translation>
     </message>
     <message>
         <source>Cannot write &apos;%1&apos;: &apos;%2&apos; is no format of images. Expected .png, .pcx, .bmp or .gif.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: &apos;%2&apos; ist kein Bildformat. Erwartet: .png, .pcx, .bmp oder .gif.</translation>
     </message>
     <message>
         <source>Cannot write &apos;%1&apos;: an image of %2 by %3 does not fit the format. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: Ein Bild von %2 mal %3 passt nicht in das Format. Bitte ein anderes wählen.</translation>
     </message>
 </context>
 <context>
     <name>Family::OutputFiles</name>
     <message>
         <source>Cannot write &apos;%1&apos;: %2. Check the folder and the space on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: %2. Bitte den Ordner und den freien Platz prüfen.</translation>
     </message>
     <message>
         <source>Cannot replace &apos;%1&apos;: %2. It is unchanged.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht ersetzen: %2. Die Datei ist unverändert.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is one file, and there are %2 to write. Name a folder, or a pattern such as &apos;%3&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; ist eine Datei, zu schreiben sind %2. Bitte einen Ordner oder ein Muster wie &apos;%3&apos; nennen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; and &apos;%2&apos; would both become &apos;%3&apos;. Write them to different folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; und &apos;%2&apos; würden beide zu &apos;%3&apos;. Bitte in verschiedene Ordner schreiben.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no plain file and cannot be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; ist keine gewöhnliche Datei und lässt sich nicht ersetzen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is there already. Nothing is written. Name another place, or replace it with &apos;--force&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; ist schon da. Nichts wurde geschrieben. Bitte einen anderen Ort nennen oder die Datei mit &apos;--force&apos; ersetzen.</translation>
     </message>
     <message>
         <source>%1 files are there already, such as &apos;%2&apos;. Nothing is written. Name another place, or replace them with &apos;--force&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Dateien sind schon da, etwa &apos;%2&apos;. Nichts wurde geschrieben. Bitte einen anderen Ort nennen oder sie mit &apos;--force&apos; ersetzen.</translation>
     </message>
 </context>
 <context>
@@ -2652,7 +2713,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Change palette</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Palette ändern</translation>
     </message>
     <message>
         <source>Rename palette</source>
@@ -2674,19 +2735,19 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::PaletteWork</name>
     <message>
         <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht öffnen: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
     </message>
     <message>
         <source>Cannot read a palette from &apos;%1&apos;. Expected .act, .pal, .aco, .ase, .txt, or an indexed image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus &apos;%1&apos; lässt sich keine Palette lesen. Erwartet: .act, .pal, .aco, .ase, .txt oder ein Bild mit Palette.</translation>
     </message>
     <message>
         <source>Palettes</source>
-        <translation type="unfinished">Paletten</translation>
+        <translation>Paletten</translation>
     </message>
     <message>
         <source>Cannot write &apos;%1&apos;: palettes are written as .act.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: Paletten werden als .act geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -2849,39 +2910,39 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::SoundWork</name>
     <message>
         <source>Sound %1 is broken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang %1 ist beschädigt.</translation>
     </message>
     <message>
         <source>Cannot write &apos;%1&apos;: sounds are written as .wav.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: Klänge werden als .wav geschrieben.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has a form that a sound file cannot hold. Expected 1 to 8 channels of 8, 16, 24 or 32 bits.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; hat eine Form, die eine Klangdatei nicht aufnimmt. Erwartet: 1 bis 8 Kanäle mit 8, 16, 24 oder 32 Bit.</translation>
     </message>
     <message>
         <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht öffnen: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
     </message>
     <message>
         <source>Cannot read &apos;%1&apos;: it is no WAV file with plain samples (PCM).</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; lässt sich nicht lesen: Es ist keine WAV-Datei mit einfachen Abtastwerten (PCM).</translation>
     </message>
     <message>
         <source>There is no such sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen solchen Klang.</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished">Klänge</translation>
+        <translation>Klänge</translation>
     </message>
     <message>
         <source>There is a sound %1 already. Nothing is changed. Replace it with &apos;--force&apos;, or give &apos;%2&apos; another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon einen Klang %1. Nichts wurde geändert. Bitte ihn mit &apos;--force&apos; ersetzen oder &apos;%2&apos; einen anderen Namen geben.</translation>
     </message>
     <message>
         <source>Import sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Klänge einlesen</translation>
     </message>
 </context>
 <context>
@@ -2927,23 +2988,23 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::SpriteExport</name>
     <message>
         <source>There is no palette %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Palette %1.</translation>
     </message>
     <message>
         <source>There is no such sprite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen solchen Sprite.</translation>
     </message>
     <message>
         <source>Sprite %1 has no pixels, or they are broken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite %1 hat keine Pixel, oder sie sind beschädigt.</translation>
     </message>
     <message>
         <source>Sprites</source>
-        <translation type="unfinished">Sprites</translation>
+        <translation>Sprites</translation>
     </message>
     <message>
         <source>There is no such palette.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine solche Palette.</translation>
     </message>
 </context>
 <context>
@@ -2983,66 +3044,62 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>Family::SpriteFolder</name>
     <message>
-        <source>Cannot read %1: it is no folder.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is no image that can be read.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cannot write the sprite %1: it has no pixels, or they are broken.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Cannot write %1.</source>
         <translation type="unfinished">%1 kann nicht geschrieben werden.%2 {1.?}</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: it is no folder. Choose a folder of images.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write the sprite %1: its pixels are broken. Remove it, or give it another image.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>Family::SpriteImport</name>
     <message>
         <source>&apos;%1&apos; is larger than a sprite can be, %2 by %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; ist größer, als ein Sprite sein kann: %2 mal %2.</translation>
     </message>
     <message>
         <source>Import sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprites einlesen</translation>
     </message>
     <message>
         <source>There is a sprite %1 already. Nothing is changed. Replace it with &apos;--force&apos;, or give &apos;%2&apos; another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon einen Sprite %1. Nichts wurde geändert. Bitte ihn mit &apos;--force&apos; ersetzen oder &apos;%2&apos; einen anderen Namen geben.</translation>
     </message>
     <message>
         <source>Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>&apos;%1&apos; would lose something as %2. Choose another codec.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; würde als %2 etwas verlieren. Bitte ein anderes Verfahren wählen.</translation>
     </message>
 </context>
 <context>
     <name>Family::SpriteSheet</name>
     <message>
         <source>The sheet is larger than the memory. Select fewer sprites.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bogen ist größer als der Speicher. Bitte weniger Sprites auswählen.</translation>
     </message>
     <message>
         <source>Sprites</source>
-        <translation type="unfinished">Sprites</translation>
+        <translation>Sprites</translation>
     </message>
     <message>
         <source>Sprite %1 has no pixels, or they are broken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite %1 hat keine Pixel, oder sie sind beschädigt.</translation>
     </message>
     <message>
         <source>There is no such sprite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen solchen Sprite.</translation>
     </message>
     <message>
         <source>The sheet would be too large. Select fewer sprites.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bogen wäre zu groß. Bitte weniger Sprites auswählen.</translation>
     </message>
 </context>
 <context>
