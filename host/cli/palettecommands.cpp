@@ -49,7 +49,7 @@ void listColors(const Zorv::RGBA (&colors)[256], bool json, Output& output)
     JsonList list(output);
     for (int i = 0; i < 256; ++i) {
         list.add({{QStringLiteral("index"), i},
-                  {QStringLiteral("color"), form(colors[i])},
+                  {QStringLiteral("colour"), form(colors[i])},
                   {QStringLiteral("alpha"), colors[i].a}});
     }
 }
@@ -78,7 +78,7 @@ int listOfSprites(const Invocation& invocation, Output& output)
         list.add({{QStringLiteral("index"), palette->row},
                   {QStringLiteral("group"), palette->id().group},
                   {QStringLiteral("number"), palette->id().number},
-                  {QStringLiteral("colors"), palette->colorCount()},
+                  {QStringLiteral("colours"), palette->colorCount()},
                   {QStringLiteral("sprites"), uses.value(palette.get())}});
     }
     return Fine;

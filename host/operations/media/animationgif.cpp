@@ -180,8 +180,10 @@ QString spritesBeside(const QString& codeFile, QString* error)
         folder.entryList({QStringLiteral("*.sprites")}, QDir::Files, QDir::Name);
     if (names.size() != 1) {
         *error = names.isEmpty()
-                     ? Text::tr("There is no sprite file beside '%1'. Name one.").arg(codeFile)
-                     : Text::tr("There are several sprite files beside '%1': %2. Name one.")
+                     ? Text::tr("There is no sprite file beside '%1'. Name one with '--sprites'.")
+                           .arg(codeFile)
+                     : Text::tr("There are several sprite files beside '%1': %2. Name one "
+                                "with '--sprites'.")
                            .arg(codeFile, names.join(QLatin1String(", ")));
         return {};
     }

@@ -24,6 +24,11 @@ QStringList exportNames(const QVector<AssetId>& ids);
 /// any other.
 bool importTarget(const QString& fileName, ImportTarget* target);
 
+/// What PNG files tell of a sprite besides its pixels, under these keys of `QImage::text()`: the
+/// axis as "X,Y", and the identifier of the palette.
+constexpr char AxisText[] = "axis";
+constexpr char PaletteText[] = "palette";
+
 /// Where each of some files goes: by its name or, with a group, to the next free number of that,
 /// which `freeId` gives from an identifier on. Empty, with `error`, if a name does not tell it, two
 /// files go to the same place, or the group is full.

@@ -159,7 +159,7 @@ QVector<Zorv::RGBA> commonPalette(const QStringList& files, int colors, MediaRes
     const auto take = [&](int, const Read& read) {
         read.error.isEmpty() ? quantizer.addImage(read.image) : result->errors.append(read.error);
     };
-    result->isCanceled = !runJobs<Read>(Text::tr("Colors"), files.size(), prepare, take);
+    result->isCanceled = !runJobs<Read>(Text::tr("Colours"), files.size(), prepare, take);
     const bool isDone = result->errors.isEmpty() && !result->isCanceled;
     return isDone ? quantizer.palette(colors) : QVector<Zorv::RGBA>();
 }

@@ -112,11 +112,13 @@ bool OutputFiles::plan(const QStringList& names, const OutputRequest& request,
     const bool isOneFile = !request.place.isEmpty() && !isFolder(request.place) &&
                            !request.place.contains(QLatin1Char('*'));
     if (isOneFile && names.size() > 1) {
-        *error = Text::tr("'%1' is one file, and there are %2 to write. Name a folder, or a "
-                          "pattern such as '%3'.")
-                     .arg(request.place, QString::number(names.size()),
-                          QFileInfo(request.place).path() + QLatin1String("/*.") +
-                              suffixOf(request.place));
+        *error =
+            Text::tr("'%1' is one file, and there are %2 to write. Name a folder, or a "
+                     "pattern such as '%3'.")
+                .arg(request.place, QString::number(names.size()),
+                     QDir::cleanPath(QFileInfo(request.place)
+                                         .dir()
+                                         .filePath(QLatin1String("*.") + suffixOf(request.place))));
         return false;
     }
     return checkPaths(names, error) && checkExisting(error);
@@ -164,13 +166,13 @@ bool OutputFiles::checkExisting(QString* error) const
     if (m_force) {
         *error = Text::tr("'%1' is no plain file and cannot be replaced.").arg(taken.first());
     } else if (taken.size() == 1) {
-        *error = Text::tr("'%1' is there already. Nothing is written. Name another place, or allow "
-                          "to replace it.")
+        *error = Text::tr("'%1' is there already. Nothing is written. Name another place, or "
+                          "replace it with '--force'.")
                      .arg(taken.first());
     } else {
-        *error = Text::tr("'%1' and %2 others are there already. Nothing is written. Name another "
-                          "place, or allow to replace them.")
-                     .arg(taken.first(), QString::number(taken.size() - 1));
+        *error = Text::tr("%1 files are there already, such as '%2'. Nothing is written. Name "
+                          "another place, or replace them with '--force'.")
+                     .arg(QString::number(taken.size()), taken.first());
     }
     return false;
 }

@@ -123,8 +123,8 @@ MediaResult importSounds(SoundFile* sounds, const QStringList& files, int group,
         files, group, [sounds](AssetId id) { return sounds->freeId(id); }, &error);
     for (int i = 0; i < targets.size() && error.isEmpty(); ++i) {
         if (!force && rowOf(*sounds, targets[i]) >= 0) {
-            error = Text::tr("There is a sound %1 already. Nothing is changed. Allow to replace "
-                             "it, or give '%2' another name.")
+            error = Text::tr("There is a sound %1 already. Nothing is changed. Replace it "
+                             "with '--force', or give '%2' another name.")
                         .arg(targets[i].id.text(), files[i]);
         }
     }

@@ -20,11 +20,31 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Family::SpriteExport)
 };
 
-QVector<AssetId> idsOf(const SpriteCollection& sprites, const QVector<int>& rows)
+/// What is told of a sprite besides its pixels.
+struct Label
+{
+    AssetId id;
+    QString axis;
+    QString palette;
+};
+
+QVector<Label> labelsOf(const SpriteCollection& sprites, const QVector<int>& rows)
+{
+    QVector<Label> labels;
+    for (int row : rows) {
+        const FamilySprite* sprite = sprites.sprite(row);
+        labels.append({sprite->id(),
+                       QStringLiteral("%1,%2").arg(sprite->axis().x()).arg(sprite->axis().y()),
+                       sprite->property(QStringLiteral("Palette")).toString()});
+    }
+    return labels;
+}
+
+QVector<AssetId> idsOf(const QVector<Label>& labels)
 {
     QVector<AssetId> ids;
-    for (int row : rows) {
-        ids.append(sprites.sprite(row)->id());
+    for (const Label& label : labels) {
+        ids.append(label.id);
     }
     return ids;
 }
@@ -66,13 +86,13 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
                           const OutputRequest& request, const PaletteColors* colors)
 {
     const QVector<int> rows = selectedRows(sprites, selection);
-    const QVector<AssetId> ids = idsOf(sprites, rows);
+    const QVector<Label> labels = labelsOf(sprites, rows);
     if (rows.isEmpty()) {
         return MediaResult(Text::tr("There is no such sprite."));
     }
     OutputFiles outputs;
     QString error;
-    if (!outputs.plan(exportNames(ids), request, QByteArrayLiteral("PNG"), &error)) {
+    if (!outputs.plan(exportNames(idsOf(labels)), request, QByteArrayLiteral("PNG"), &error)) {
         return MediaResult(error);
     }
     const QVector<QRgb> table = colors ? tableOfColors(*colors) : QVector<QRgb>();
@@ -87,11 +107,16 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
     job.work = [&](int row, QImage image) {
         const int i = placeOf.value(row);
         if (image.isNull()) {
-            fault[i] = Text::tr("Sprite %1 has no pixels, or they are broken.").arg(ids[i].text());
+            fault[i] =
+                Text::tr("Sprite %1 has no pixels, or they are broken.").arg(labels[i].id.text());
             return;
         }
         if (colors && image.format() == QImage::Format_Indexed8) {
             image.setColorTable(table);
+        }
+        image.setText(QLatin1String(AxisText), labels[i].axis);
+        if (!labels[i].palette.isEmpty()) {
+            image.setText(QLatin1String(PaletteText), labels[i].palette);
         }
         fault[i] = writeImage(image, outputs, i);
     };

@@ -42,6 +42,7 @@ private:
     bool findSprites(QString* error);
     bool findPalette(QString* error);
     bool readImages(MediaResult* result);
+    void setImage(FamilySprite* sprite, const QImage& image);
     QString put(int index);
 
     SpriteCollection* m_sprites;
@@ -65,6 +66,16 @@ ImportImage readCropped(const QString& file, bool crops)
                          .arg(file, QString::number(LargestSprite));
     }
     return read;
+}
+
+/// The axis that a file tells, else another one.
+QPoint axisOf(const QImage& image, QPoint other)
+{
+    const QStringList parts = image.text(QLatin1String(AxisText)).split(QLatin1Char(','));
+    bool isX = false;
+    bool isY = false;
+    const QPoint told(parts.value(0).toShort(&isX), parts.value(1).toShort(&isY));
+    return isX && isY ? told : other;
 }
 
 MediaResult Import::run()
@@ -104,8 +115,8 @@ bool Import::findSprites(QString* error)
             row = m_sprites->find(row + 1, target.id.text());
         }
         if (row >= 0 && !m_request.force) {
-            *error = Text::tr("There is a sprite %1 already. Nothing is changed. Allow to replace "
-                              "it, or give '%2' another name.")
+            *error = Text::tr("There is a sprite %1 already. Nothing is changed. Replace it "
+                              "with '--force', or give '%2' another name.")
                          .arg(target.id.text(), m_files[i]);
             return false;
         }
@@ -145,25 +156,39 @@ bool Import::readImages(MediaResult* result)
     return !result->isCanceled && result->errors.isEmpty();
 }
 
-QString Import::put(int index)
+/// A palette that an image has brought is called as the file tells, if that is free.
+void Import::setImage(FamilySprite* sprite, const QImage& image)
 {
-    const ImportImage& read = m_images[index];
-    FamilySprite* sprite = m_old[index] ? m_old[index] : m_sprites->addSprite();
     const int mode = !m_palette           ? Zorv::Sprite::ImagePalette
                      : m_request.recolors ? Zorv::Sprite::ReplacePalette
                                           : Zorv::Sprite::ForcePalette;
-    sprite->setProperty(QStringLiteral("Identifier"), m_targets[index].id.text());
-    sprite->setImage(read.image, false, mode, m_palette);
-    if (m_request.hasAxis || m_request.crops || !m_old[index]) {
-        const QPoint axis =
-            m_request.hasAxis || !m_old[index] ? m_request.axis : m_old[index]->axis();
-        sprite->setAxis(axis - read.corner);
+    PaletteList* palettes = m_sprites->palettes();
+    const int count = palettes->count();
+    sprite->setImage(image, false, mode, m_palette);
+    AssetId id;
+    if (palettes->count() > count && AssetId::read(image.text(QLatin1String(PaletteText)), &id) &&
+        !palettes->byId(id)) {
+        sprite->palette()->setProperty(QStringLiteral("Identifier"), id.text());
     }
-    if (m_request.codec != PixelCodec::None && sprite->codec() != m_request.codec) {
-        sprite->setProperty(QStringLiteral("Codec"), codecName(m_request.codec));
-        if (sprite->codec() != m_request.codec) {
+}
+
+QString Import::put(int index)
+{
+    const ImportImage& read = m_images[index];
+    const bool isNew = !m_old[index];
+    FamilySprite* sprite = isNew ? m_sprites->addSprite() : m_old[index];
+    sprite->setProperty(QStringLiteral("Identifier"), m_targets[index].id.text());
+    setImage(sprite, read.image);
+    const QPoint axis = m_request.hasAxis ? m_request.axis
+                        : isNew           ? axisOf(read.image, QPoint())
+                                          : axisOf(read.image, sprite->axis());
+    sprite->setAxis(axis - read.corner);
+    const PixelCodec codec = m_request.codec;
+    if (codec != PixelCodec::None && sprite->codec() != codec) {
+        sprite->setProperty(QStringLiteral("Codec"), codecName(codec));
+        if (sprite->codec() != codec) {
             return Text::tr("'%1' would lose something as %2. Choose another codec.")
-                .arg(m_files[index], codecName(m_request.codec));
+                .arg(m_files[index], codecName(codec));
         }
     }
     return {};

@@ -16,7 +16,7 @@ struct ImportRequest
 {
     int group = -1;  ///< of all images, which get the next free numbers; negative to go by names
     QPoint axis;     ///< of all images, from their top left corner
-    bool hasAxis = false;  ///< without it new sprites have 0,0, and others keep theirs
+    bool hasAxis = false;  ///< without it that of a PNG file counts, else sprites keep theirs
     bool crops = false;    ///< what does not show is cut off, and the axis moves with it
     QString palette;  ///< identifier of a palette, or a palette file; empty for each image's own
     bool recolors = false;                ///< that palette takes the colours of the images
