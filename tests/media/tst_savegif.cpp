@@ -1,10 +1,10 @@
 #include "media/tools/gifimage.h"
 #include "media/tools/savegif.h"
 
+#include "support/tool.h"
+
 #include <QBuffer>
-#include <QProcess>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace Zorv;
@@ -117,8 +117,8 @@ public:
                 m_table = table();
             }
             if (coin()) {
-                image = below(4) == 0 ? picture(QSize(1 + below(40), 1 + below(40)))
-                                      : changed(image);
+                image =
+                    below(4) == 0 ? picture(QSize(1 + below(40), 1 + below(40))) : changed(image);
             }
             if (i >= 2 && below(4) == 0) {
                 image = result.at(i - 1).image;
@@ -147,7 +147,8 @@ private:
         const bool noise = coin();
         for (int y = 0; y < size.height(); ++y) {
             for (int x = 0; x < size.width(); ++x) {
-                image.setPixel(x, y, uint(noise ? below(m_colorCount) : (x / 7 + y / 5) % m_colorCount));
+                image.setPixel(x, y,
+                               uint(noise ? below(m_colorCount) : (x / 7 + y / 5) % m_colorCount));
             }
         }
         return m_indexed ? image : image.convertToFormat(QImage::Format_ARGB32);
@@ -179,16 +180,16 @@ private:
     bool m_solid;
 };
 
-/// The number of different colours, what is transparent being one.
-int colorCount(const QImage& image)
+/// True if no image has more than 256 colours, what is transparent being one.
+bool fitsTables(const QVector<QImage>& images)
 {
-    QSet<QRgb> colors;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            colors.insert(qAlpha(image.pixel(x, y)) < 128 ? 0 : image.pixel(x, y));
+    return std::all_of(images.begin(), images.end(), [](const QImage& image) {
+        QSet<QRgb> colors;
+        for (int i = 0; i < image.width() * image.height(); ++i) {
+            colors.insert(image.pixel(i % image.width(), i / image.width()));
         }
-    }
-    return colors.size();
+        return colors.size() <= 256;
+    });
 }
 
 }  // namespace
@@ -199,6 +200,12 @@ class TestSaveGIF : public QObject
 
 private slots:
     void randomAnimationsComeBack();
+    void magickShowsTheSame();
+    void delaysDoNotDrift();
+    void onlyChangesAreWritten();
+    void whatVanishesIsCleared();
+    void manyColorsAreQuantized();
+    void refusals();
 };
 
 void TestSaveGIF::randomAnimationsComeBack()
@@ -209,9 +216,7 @@ void TestSaveGIF::randomAnimationsComeBack()
         GIFOptions options;
         options.background = random.coin() ? 0 : qRgb(random.below(256), 0, 90);
         const QVector<QImage> wanted = expected(frames, options.background);
-        const bool exact = std::all_of(wanted.begin(), wanted.end(), [](const QImage& image) {
-            return colorCount(image) <= 256;
-        });
+        const bool exact = fitsTables(wanted);
         const GIFImage gif = loaded(saved(frames, options));
         QVERIFY2(gif.size == wanted.first().size(), qPrintable(QString::number(seed)));
         const QVector<QImage> shown = composed(gif);
@@ -222,6 +227,153 @@ void TestSaveGIF::randomAnimationsComeBack()
             }
         }
     }
+}
+
+/// The pixels of all frames, with nothing where they are transparent.
+QByteArray rgba(const QVector<QImage>& images)
+{
+    QByteArray bytes;
+    for (const QImage& image : images) {
+        const QImage straight = image.convertToFormat(QImage::Format_RGBA8888);
+        for (int y = 0; y < image.height(); ++y) {
+            bytes.append(reinterpret_cast<const char*>(straight.constScanLine(y)),
+                         4 * image.width());
+        }
+    }
+    return bytes;
+}
+
+void TestSaveGIF::magickShowsTheSame()
+{
+    const QStringList arguments =
+        QStringLiteral("gif:- -coalesce -depth 8 rgba:-").split(QLatin1Char(' '));
+    int compared = 0;
+    for (quint32 seed = Seed; compared < 12; ++seed) {
+        const QVector<GIFFrame> frames = RandomAnimation(seed).frames();
+        const QVector<QImage> wanted = expected(frames, 0);
+        if (!fitsTables(wanted)) {
+            continue;
+        }
+        ++compared;
+        QByteArray shown = runTool(QStringLiteral("convert"), arguments, saved(frames));
+        for (int i = 0; i + 3 < shown.size(); i += 4) {
+            if (shown.at(i + 3) == 0) {
+                shown.replace(i, 3, QByteArray(3, 0));
+            }
+        }
+        QVERIFY2(shown == rgba(wanted), qPrintable(QString::number(seed)));
+    }
+}
+
+void TestSaveGIF::delaysDoNotDrift()
+{
+    QRandomGenerator random(Seed);
+    QImage image(2, 2, QImage::Format_RGB32);
+    QVector<GIFFrame> frames;
+    for (int i = 0; i < 400; ++i) {
+        image.fill(random.generate());
+        frames.append({image, {}, i % 50 == 49 ? 60000 : 1 + random.bounded(20)});
+    }
+    const GIFImage gif = loaded(saved(frames));
+    int next = 0;
+    qint64 ticks = 0;
+    qint64 hundredths = 0;
+    for (const GIFFrame& frame : qAsConst(frames)) {
+        ticks += frame.ticks;
+        const double end = double(ticks) * 100 / 60;
+        // A frame that is longer than a delay can tell goes on in the next one.
+        do {
+            QVERIFY(next < gif.images.size());
+            hundredths += gif.images.at(next++).delay;
+        } while (double(hundredths) < end - 0.51);
+        QVERIFY(qAbs(double(hundredths) - end) < 0.51);
+    }
+    QCOMPARE(next, gif.images.size());
+}
+
+void TestSaveGIF::onlyChangesAreWritten()
+{
+    QImage image(30, 20, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    QVector<GIFFrame> frames = {{image, {}, 3}};
+    image.setPixel(4, 5, qRgb(1, 2, 3));
+    image.setPixel(6, 9, qRgb(1, 2, 3));
+    frames.append({image, {}, 3});
+    frames.append({image, {}, 3});
+    GIFOptions options;
+    options.loops = 6;
+    const GIFImage gif = loaded(saved(frames, options));
+    QCOMPARE(gif.loops, 6);
+    QCOMPARE(gif.images.size(), 3);
+    const GIFImage::SubImage& second = gif.images[1];
+    QCOMPARE(QRect(QPoint(second.left, second.top), second.image.size()), QRect(4, 5, 3, 5));
+    QCOMPARE(gif.images[2].image.size(), QSize(1, 1));
+    for (const GIFImage::SubImage& frame : gif.images) {
+        QVERIFY(frame.colors.isEmpty());
+    }
+    options.loops = -1;
+    QCOMPARE(loaded(saved(frames, options)).loops, -1);
+}
+
+/// A spot that goes and comes back: what it leaves is restored, or made empty.
+void TestSaveGIF::whatVanishesIsCleared()
+{
+    QImage ground(64, 48, QImage::Format_RGB32);
+    QRandomGenerator random(Seed);
+    for (int i = 0; i < ground.width() * ground.height(); ++i) {
+        ground.setPixel(i % 64, i / 64, random.bounded(40) * 0x050301);
+    }
+    QImage spot(8, 8, QImage::Format_RGB32);
+    spot.fill(Qt::red);
+    QVector<GIFFrame> frames = {{ground, {}, 1}};
+    QVector<GIFFrame> alone = {{spot, {}, 1}};
+    for (int i = 1; i < 4; ++i) {
+        QImage picture = ground;
+        for (int pixel = 0; pixel < 64; ++pixel) {
+            picture.setPixel(9 * i + pixel % 8, 10 + pixel / 8, qRgb(255, 0, 0));
+        }
+        frames.append({picture, {}, 1});
+        alone.append({spot, QPoint(9 * i, 0), 1});
+    }
+    const GIFImage onGround = loaded(saved(frames));
+    const GIFImage onNothing = loaded(saved(alone));
+    for (int i = 1; i < 3; ++i) {
+        QCOMPARE(onGround.images.at(i).image.size(), QSize(8, 8));
+        QCOMPARE(int(onGround.images.at(i).disposal), int(GIFImage::ToPrevious));
+        QCOMPARE(onNothing.images.at(i).image.size(), QSize(8, 8));
+        QCOMPARE(int(onNothing.images.at(i).disposal), int(GIFImage::ToBackground));
+    }
+}
+
+void TestSaveGIF::manyColorsAreQuantized()
+{
+    QImage image(40, 40, QImage::Format_ARGB32);
+    for (int i = 0; i < 1600; ++i) {
+        const bool clear = i % 40 == 7;
+        image.setPixel(i % 40, i / 40, clear ? 0 : qRgb(i % 40 * 6, i / 40 * 6, 128));
+    }
+    const QImage shown = composed(loaded(saved({{image, {}, 1}}))).value(0);
+    QCOMPARE(shown.size(), image.size());
+    for (int i = 0; i < 1600; ++i) {
+        const QRgb a = image.pixel(i % 40, i / 40);
+        const QRgb b = shown.pixel(i % 40, i / 40);
+        QCOMPARE(qAlpha(b), qAlpha(a));
+        QVERIFY(qAbs(qRed(a) - qRed(b)) < 40 && qAbs(qGreen(a) - qGreen(b)) < 40);
+    }
+}
+
+void TestSaveGIF::refusals()
+{
+    QImage image(1, 1, QImage::Format_RGB32);
+    image.fill(1);
+    QVERIFY(saved({}).isEmpty());
+    QVERIFY(saved({{QImage(), {}, 1}}).isEmpty());
+    QVERIFY(saved({{image, {}, 1}, {image, QPoint(65535, 0), 1}}).isEmpty());
+    QVERIFY(saved({{image, QPoint(INT_MIN, 0), 1}, {image, QPoint(INT_MAX, 0), 1}}).isEmpty());
+    QVERIFY(!saved({{image, {}, 1}, {image, QPoint(65534, 0), 1}}).isEmpty());
+    QFile full(QStringLiteral("/dev/full"));
+    QVERIFY(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    QVERIFY(!saveGIF(&full, {{image, {}, 1}}));
 }
 
 QTEST_GUILESS_MAIN(TestSaveGIF)

@@ -70,6 +70,10 @@ bool GIFImage::load(QIODevice* device)
             return record == GIFReader::End;
         }
         images.append(frame);
+        // There are files that leave the size of the canvas to their first frame.
+        if (size.isEmpty()) {
+            size = QSize(frame.left, frame.top) + frame.image.size();
+        }
     }
 }
 
