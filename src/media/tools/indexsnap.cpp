@@ -1,10 +1,13 @@
 #include "media/tools/indexsnap_p.h"
 
+#include "media/tools/nearestcolors_p.h"
 #include "media/tools/raster_p.h"
+
+#include <QRgb>
 
 #include <algorithm>
 #include <array>
-#include <limits>
+#include <vector>
 
 namespace Zorv {
 
@@ -23,40 +26,42 @@ ColorTable colorTableOf(const QImage& indexed)
     return colors;
 }
 
+/// The entry of a colour table that stands best for a colour.
+class NearestEntry
+{
+public:
+    explicit NearestEntry(const QVector<QRgb>& table) : m_nearest(visible(table)) {}
+
+    quint8 operator()(QRgb color)
+    {
+        const bool clear = qAlpha(color) < 128 || m_indices.empty();
+        return clear && m_transparent >= 0 ? quint8(m_transparent)
+                                           : m_indices[m_nearest.find(color)];
+    }
+
+private:
+    QVector<RGBA> visible(const QVector<QRgb>& table)
+    {
+        QVector<RGBA> colors;
+        for (int i = 0; i < std::min(table.size(), 256); ++i) {
+            const QRgb color = table[i];
+            if (qAlpha(color) != 0) {
+                m_indices.push_back(quint8(i));
+                colors.append({quint8(qRed(color)), quint8(qGreen(color)), quint8(qBlue(color)),
+                               quint8(qAlpha(color))});
+            } else if (m_transparent < 0) {
+                m_transparent = i;
+            }
+        }
+        return colors;
+    }
+
+    int m_transparent = -1;
+    std::vector<quint8> m_indices;
+    NearestColors m_nearest;
+};
+
 }  // namespace
-
-NearestIndex::NearestIndex(const QVector<QRgb>& colors) : known(std::size_t(1) << KnownBits)
-{
-    for (int i = 0; i < colors.size(); ++i) {
-        const QRgb color = colors[i];
-        if (qAlpha(color) != 0) {
-            entries.push_back({qRed(color), qGreen(color), qBlue(color), qAlpha(color), i});
-        } else if (transparent < 0) {
-            transparent = i;
-        }
-    }
-}
-
-int NearestIndex::search(QRgb color) const
-{
-    const int a = qAlpha(color);
-    if (transparent >= 0 && (a < 128 || entries.empty())) {
-        return transparent;
-    }
-    int best = 0;
-    int bestDistance = std::numeric_limits<int>::max();
-    for (const Entry& entry : entries) {
-        const int r = qRed(color) - entry.r;
-        const int g = qGreen(color) - entry.g;
-        const int b = qBlue(color) - entry.b;
-        const int distance = (r * r + g * g + b * b) * a / 255 + (a - entry.a) * (a - entry.a);
-        if (distance < bestDistance) {
-            bestDistance = distance;
-            best = entry.index;
-        }
-    }
-    return best;
-}
 
 QImage colorsOf(const QImage& indexed)
 {
@@ -80,7 +85,7 @@ QImage colorsOf(const QImage& indexed)
 
 void snapToColors(QImage& indexed, const QImage& colors)
 {
-    NearestIndex nearest(indexed.colorTable());
+    NearestEntry nearest(indexed.colorTable());
     const ColorTable own = colorTableOf(indexed);
     const Raster<quint8> to(indexed);
     const Raster<const quint32> from(colors);

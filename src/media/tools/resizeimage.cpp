@@ -1,5 +1,6 @@
 #include "media/tools/resizeimage.h"
 
+#include "media/tools/bytegather_p.h"
 #include "media/tools/indexsnap_p.h"
 #include "media/tools/raster_p.h"
 #include "media/tools/resizebilinear_p.h"
@@ -7,6 +8,7 @@
 #include "media/tools/scalehq_p.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace Zorv {
@@ -24,20 +26,42 @@ std::vector<int> nearestPositions(int from, int to)
     return positions;
 }
 
+/// Takes the pixels at given positions from many rows.
+template <class Pixel>
+class Gather
+{
+public:
+    Gather(std::vector<int> positions, int) : m_positions(std::move(positions)) {}
+
+    void take(const Pixel* from, Pixel* to) const
+    {
+        for (const int position : m_positions) {
+            *to++ = from[position];
+        }
+    }
+
+private:
+    std::vector<int> m_positions;
+};
+
+template <>
+class Gather<quint8> : public ByteGather
+{
+public:
+    using ByteGather::ByteGather;
+};
+
 template <class Pixel>
 void resizeRows(const Raster<const Pixel>& from, const Raster<Pixel>& to)
 {
-    const std::vector<int> columns = nearestPositions(from.width, to.width);
+    const Gather<Pixel> columns(nearestPositions(from.width, to.width), from.width);
     const std::vector<int> rows = nearestPositions(from.height, to.height);
     for (int y = 0; y < to.height; ++y) {
-        Pixel* pixels = to.row(y);
-        if (y > 0 && rows[std::size_t(y)] == rows[std::size_t(y - 1)]) {
-            std::copy_n(to.row(y - 1), to.width, pixels);
-            continue;
-        }
-        const Pixel* row = from.row(rows[std::size_t(y)]);
-        for (const int x : columns) {
-            *pixels++ = row[x];
+        const int row = rows[std::size_t(y)];
+        if (y > 0 && row == rows[std::size_t(y - 1)]) {
+            std::copy_n(to.row(y - 1), to.width, to.row(y));
+        } else {
+            columns.take(from.row(row), to.row(y));
         }
     }
 }
