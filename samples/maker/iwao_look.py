@@ -39,14 +39,14 @@ class Iwao(Fighter):
         canvas.capsule(mixed(knee, ankle, 0.5), 5.4, ankle, 4.4, LEATHER, bias)
         canvas.begin()
         low = mixed(knee, ankle, 0.45)
+        if side == "near":
+            canvas.capsule(j.spine(-0.06), 12.0, j.spine(0.1, 1), 13.0, CLOTH, -0.5)
         canvas.chain([(*hip, 10.2), (*mixed(hip, knee, 0.5), 10.4), (*knee, 9.2), (*low, 8.2)],
                      CLOTH, bias - 0.5)
         canvas.capsule(low, 6.6, mixed(knee, ankle, 0.6), 6.0, CLOTH, bias - 0.6)
 
     def trunk(self):
         canvas, j = self.canvas, self.j
-        canvas.begin()
-        canvas.capsule(j.spine(-0.08), 12.5, j.spine(0.1, 1), 13.0, CLOTH)
         canvas.begin()
         skin = self.pose.twist >= 0
         canvas.chain([(*j.spine(0.25, 2.5), 14.5), (*j.spine(0.5, 2), 14.0),

@@ -51,6 +51,8 @@ class Maren(Fighter):
         canvas.begin()
         self.foot(side, LEATHER, 7.5, 3.3, 2.5)
         top = mixed(knee, ankle, 0.42)
+        if side == "near":
+            canvas.chain([(*j.spine(-0.06), 8.0), (*j.spine(0.12), 7.6)], CLOTH, -0.3)
         canvas.chain([(*hip, 7.4), (*mixed(hip, knee, 0.55), 6.6), (*knee, 5.0)], CLOTH, bias)
         canvas.chain([(*knee, 5.0), (*mixed(knee, ankle, 0.3), 5.1), (*top, 4.6)], CLOTH, bias)
         canvas.begin()
@@ -60,8 +62,6 @@ class Maren(Fighter):
 
     def trunk(self):
         canvas, j = self.canvas, self.j
-        canvas.begin()
-        canvas.chain([(*j.spine(-0.06), 8.2), (*j.spine(0.12), 7.6)], CLOTH)
         canvas.begin()
         self.skirt()
         canvas.chain([(*j.spine(0.2), 7.6), (*j.spine(0.42), 6.8), (*j.spine(0.72, 0.6), 8.4)],
