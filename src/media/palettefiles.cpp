@@ -26,6 +26,12 @@ RGBA matchedColor(const QRegularExpressionMatch& match)
             hasAlpha ? channel(match, 4) : quint8(255)};
 }
 
+// Within the device: some grow, or have a word for it, where the place is behind their end.
+bool moveTo(QIODevice* device, qint64 place)
+{
+    return place <= device->size() && device->seek(place);
+}
+
 }  // namespace
 
 bool loadACT(QIODevice* device, RGBA (&palette)[256])
@@ -43,7 +49,7 @@ bool loadACT(QIODevice* device, RGBA (&palette)[256])
 
 bool loadRIFF(QIODevice* device, RGBA (&palette)[256])
 {
-    if (!device->seek(8) || device->read(8) != "PAL data") {
+    if (!moveTo(device, 8) || device->read(8) != "PAL data") {
         return false;
     }
     QDataStream stream(device);
@@ -51,7 +57,7 @@ bool loadRIFF(QIODevice* device, RGBA (&palette)[256])
     quint32 size = 0;
     stream >> size;
     size -= 8;  // a size below 8 becomes a large one, and is refused with those
-    if (size > sizeof palette || !device->seek(24) ||
+    if (size > sizeof palette || !moveTo(device, 24) ||
         device->read(reinterpret_cast<char*>(palette), size) != qint64(size)) {
         return false;
     }

@@ -24,7 +24,7 @@ enum class RGBPaletteEffect {
     Gray = 9,           ///< the average
     Sepia = 10,
     Purple = 11,
-    Contrast = 12,     ///< the average away from the middle by 50
+    Contrast = 12,     ///< the average, plus 50 below 128 and minus 50 from there on
     MuchLighter = 13,  ///< 128 more
     MuchDarker = 14    ///< 128 less
 };
@@ -45,16 +45,18 @@ public:
     void fromPalette(const RGBA* palette);
     void toPalette(RGBA (&palette)[256]) const;
 
-    /// Reads a palette file or the palette of an image; `format` as `fileExtension()` makes it
-    /// of a file name. False, and nothing changed, if it cannot be read. Colour 0 becomes
-    /// transparent. See `losslessImages()` for what is taken of images.
+    /// Reads a palette file or the palette of an image. `format` is "PNG", "PCX", "BMP", "GIF",
+    /// "ACT" or "ACO", in capitals; with any other the first bytes tell, and then the name of an
+    /// `Extension` that loads palettes. False, and nothing changed, if it cannot be read. Colour 0
+    /// becomes transparent. See `losslessImages()` for what is taken of images.
     bool fromFile(QIODevice* device, const char* format);
 
     /// Writes a palette file: "ACT", or a format of an `Extension`. Alpha is lost in ACT.
     bool toFile(QIODevice* device, const char* format);
 
-    /// The entry nearest to a colour by red, green and blue; among equals that whose alpha is
-    /// nearest from below.
+    /// The entry nearest to a colour by red, green and blue. Among those as near, one with less
+    /// alpha than the colour takes the place of any before it, and any behind it takes its;
+    /// without such the nearest alpha wins, then the first.
     unsigned char index(RGBA color) const;
 
     /// Sets one entry, or all selected ones.

@@ -9,8 +9,8 @@ namespace Zorv {
 struct SoundSample;
 
 /// Reads a sound file. `format` is "WAV", in capitals, or the name of an `Extension` that
-/// loads sounds. The device is open; false otherwise, and for a sound without samples. Main thread
-/// only.
+/// loads sounds. The device is open; false otherwise. The result is whether `sample` holds samples
+/// afterwards, so give an empty one. Main thread only.
 ZORV_EXPORT bool loadSound(QIODevice* device, const char* format, SoundSample& sample);
 
 /// Writes a sound file; formats and device likewise. False if nobody writes the format

@@ -127,7 +127,7 @@ bool loadACO(QIODevice* device, RGBA (&palette)[256])
 
 bool loadASE(QIODevice* device, RGBA (&palette)[256])
 {
-    if (!device->seek(4)) {
+    if (device->size() < 4 || !device->seek(4)) {
         return false;
     }
     QDataStream stream(device);

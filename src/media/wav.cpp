@@ -247,6 +247,7 @@ SoundSample soundFromWAV(QIODevice* device)
     bytes.remove(0, start);
     bytes.truncate(int(qMin<qint64>(header.size, bytes.size())));
     static_cast<SampleInfo&>(sample) = sampleInfo(format, quint32(bytes.size()));
+    bytes.squeeze();
     sample.data = bytes;
     return sample;
 }
@@ -254,7 +255,7 @@ SoundSample soundFromWAV(QIODevice* device)
 bool soundToWAV(const SoundSample& sample, QIODevice* device)
 {
     const OpenDevice open(device, QIODevice::WriteOnly);
-    if (!open.isOpen()) {
+    if (!open.isOpen() || !device->isWritable()) {
         return false;
     }
     const quint32 size = quint32(sample.data.size());

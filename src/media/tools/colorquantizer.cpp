@@ -39,6 +39,18 @@ std::array<QRgb, 256> fullColorTable(const QImage& image)
     return table;
 }
 
+// The colour table of an indexed image, nothing of others.
+QVector<RGBA> colorsOf(const QImage& image)
+{
+    QVector<RGBA> colors;
+    if (image.format() == QImage::Format_Indexed8) {
+        for (const QRgb color : image.colorTable()) {
+            colors.append(fromRgb(color));
+        }
+    }
+    return colors;
+}
+
 // The image in one of the three forms that the loops below read.
 QImage readable(const QImage& image)
 {
@@ -271,6 +283,10 @@ QImage ColorQuantizer::quantize(const QImage& image, int count)
 {
     if (image.isNull()) {
         return {};
+    }
+    const QVector<RGBA> own = colorsOf(image);
+    if (!own.isEmpty() && own.size() <= qBound(1, count, MaxColors)) {
+        return adapt(image, own);
     }
     ColorQuantizer quantizer;
     quantizer.addImage(image);

@@ -1,0 +1,366 @@
+#include "core/extensionmanager.h"
+#include "media/imagefile.h"
+#include "media/losslessimages.h"
+#include "media/palettefiles.h"
+#include "media/paletteobject.h"
+#include "support/brokenbytes.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtEndian>
+
+#include <cstring>
+
+using Zorv::PaletteObject;
+using Zorv::RGBA;
+
+using Colors = QVector<QPair<int, QRgb>>;  ///< some entries of a palette
+
+Q_DECLARE_METATYPE(Colors)
+
+namespace {
+
+struct Colors256
+{
+    RGBA entries[256] = {};
+
+    QRgb at(int i) const { return qRgba(entries[i].r, entries[i].g, entries[i].b, entries[i].a); }
+};
+
+template <class Integer>
+QByteArray big(Integer value)
+{
+    QByteArray bytes(sizeof value, 0);
+    qToBigEndian(value, bytes.data());
+    return bytes;
+}
+
+QByteArray words(std::initializer_list<int> values)
+{
+    QByteArray bytes;
+    for (const int value : values) {
+        bytes += big(quint16(value));
+    }
+    return bytes;
+}
+
+QByteArray act()
+{
+    QByteArray bytes;
+    for (int i = 0; i < 256; ++i) {
+        bytes += char(i);
+        bytes += char(i / 2);
+        bytes += char(255 - i);
+    }
+    return bytes;
+}
+
+QByteArray riff(const QByteArray& colors)
+{
+    QByteArray size(4, 0);
+    qToLittleEndian(quint32(colors.size() + 8), size.data());
+    return "RIFF????PAL data" + size + QByteArray("\0\3??", 4) + colors;
+}
+
+QByteArray jasc(const QByteArray& lines)
+{
+    return "JASC-PAL\r\n0100\r\n256\r\n" + lines;
+}
+
+QByteArray aseColor(const QByteArray& model, std::initializer_list<float> parts)
+{
+    QByteArray block = words({1}) + big(quint32(0)) + words({2, 'a', 0}) + model;
+    for (const float part : parts) {
+        quint32 bits;
+        std::memcpy(&bits, &part, sizeof bits);
+        block += big(bits);
+    }
+    return block + words({0});
+}
+
+QByteArray ase(quint32 count, const QByteArray& blocks)
+{
+    return "ASEF" + words({1, 0}) + big(count) + blocks;
+}
+
+QByteArray lines(int count, const QByteArray& pattern, const QByteArray& end)
+{
+    QByteArray text;
+    for (int i = 0; i < count; ++i) {
+        text += QByteArray(pattern).replace('#', QByteArray::number(i % 256)) + end;
+    }
+    return text;
+}
+
+bool load(QByteArray bytes, const QByteArray& format, Colors256& colors)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return PaletteObject(colors.entries).fromFile(&buffer, format.constData());
+}
+
+/// Puts fixed colours where a real one would read a file.
+class Loader : public Zorv::Extension
+{
+public:
+    Loader(bool works, quint8 level) : m_works(works), m_level(level) {}
+    Type type() const override { return PaletteLoader; }
+    QByteArray name() const override { return "XYZ"; }
+    bool loadPalette(QIODevice*, RGBA (&palette)[256]) override
+    {
+        palette[1] = {m_level, m_level, m_level, 255};
+        return m_works;
+    }
+
+private:
+    bool m_works;
+    quint8 m_level;
+};
+
+}  // namespace
+
+class tst_PaletteFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void read_data();
+    void read();
+    void refuse_data();
+    void refuse();
+    void imagesGiveTheirPalette_data();
+    void imagesGiveTheirPalette();
+    void extensions();
+    void actRoundTrip();
+    void manyBlocksWithoutBytes();
+    void brokenBytes_data();
+    void brokenBytes();
+};
+
+void tst_PaletteFiles::read_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<Colors>("expected");
+
+    const QRgb black = qRgb(0, 0, 0);
+    QTest::newRow("ACT, last colour first")
+        << act() << QByteArray("ACT")
+        << Colors{{0, qRgba(255, 127, 0, 0)}, {1, qRgb(254, 127, 1)}, {255, qRgb(0, 0, 255)}};
+    QTest::newRow("ACT, bytes behind it")
+        << act() + "more" << QByteArray("ACT") << Colors{{255, qRgb(0, 0, 255)}};
+    QTest::newRow("RIFF, last colour first")
+        << riff(QByteArray("\1\2\3\0\4\5\6\0", 8)) << QByteArray("PAL")
+        << Colors{{0, 0}, {253, black}, {254, qRgb(4, 5, 6)}, {255, qRgb(1, 2, 3)}};
+    QTest::newRow("RIFF without colours") << riff({}) << QByteArray("PAL") << Colors{{255, black}};
+    QTest::newRow("Jasc") << jasc("1 2 3\r\n999 20 30 40\r\n") << QByteArray("PAL")
+                          << Colors{{0, qRgba(1, 2, 3, 0)}, {1, qRgba(255, 20, 30, 40)}, {2, 0}};
+    QTest::newRow("Jasc, a bad line keeps its place")
+        << jasc("1 2 3\r\nred\r\n\r\n7 8 9") << QByteArray("PAL")
+        << Colors{{1, 0}, {2, 0}, {3, qRgb(7, 8, 9)}};
+    QTest::newRow("Jasc, 300 lines") << jasc(lines(300, "# 1 2", "\r\n")) << QByteArray("PAL")
+                                     << Colors{{1, qRgb(1, 1, 2)}, {255, qRgb(255, 1, 2)}};
+    QTest::newRow("Jasc, a line of 100,000 bytes")
+        << jasc("1 2 3\r\n" + QByteArray(100000, '1') + "\r\n4 5 6\r\n") << QByteArray("PAL")
+        << Colors{{1, 0}, {2, qRgb(4, 5, 6)}};
+    QTest::newRow("Painter, a bad line takes no entry")
+        << QByteArray("ROWS 2\nR: 1, G:2, B: 3\nnothing\nR:4,G:5,B:300 A:7 rest\r\n")
+        << QByteArray("TXT") << Colors{{0, qRgba(1, 2, 3, 0)}, {1, qRgba(4, 5, 255, 7)}, {2, 0}};
+    QTest::newRow("Painter, 300 lines")
+        << QByteArray("ROWS\n" + lines(300, "R:#, G:1, B:2", "\n")) << QByteArray("TXT")
+        << Colors{{2, qRgb(2, 1, 2)}, {255, qRgb(255, 1, 2)}};
+    QTest::newRow("Painter, nothing") << QByteArray("ROWS") << QByteArray("TXT") << Colors{{0, 0}};
+
+    const QByteArray rgb = words({0, 0x1234, 0xFFFF, 257, 9});
+    QTest::newRow("ACO, RGB") << words({1, 1}) + rgb << QByteArray("ACO")
+                              << Colors{{0, qRgba(0x12, 255, 1, 0)}, {1, black}};
+    QTest::newRow("ACO, other spaces take no entry")
+        << words({1, 3}) + words({7, 1, 2, 3, 4}) + words({0, 0, 0, 0, 0}) + rgb
+        << QByteArray("ACO") << Colors{{1, qRgb(0x12, 255, 1)}, {2, black}};
+    QTest::newRow("ACO, HSB, CMYK, grey")
+        << words({1, 5}) + words({1, 0, 0, 0, 0}) + words({1, 21906, 0xFFFF, 0xFFFF, 0}) +
+               words({1, 0xFFFF, 0xFFFF, 0xFFFF, 0}) + words({2, 0xFFFF, 0, 0xFFFF, 0xFFFF}) +
+               words({8, 2500, 0, 0, 0})
+        << QByteArray("ACO")
+        << Colors{{1, qRgb(0, 255, 0)},
+                  {2, qRgb(255, 0, 4)},
+                  {3, qRgb(255, 0, 255)},
+                  {4, qRgb(191, 191, 191)}};
+    QTest::newRow("ACO, as many as it says")
+        << words({1, 1}) + rgb + rgb << QByteArray("ACO") << Colors{{1, black}};
+
+    const QByteArray red = aseColor("RGB ", {1, 0, 0.5F});
+    QTest::newRow("ASE, models")
+        << ase(4, red + aseColor("LAB ", {1, 2, 3}) + aseColor("CMYK", {0, 1, 1, 0}) +
+                      aseColor("Gray", {0.2F}))
+        << QByteArray("ASE")
+        << Colors{{0, qRgba(255, 0, 128, 0)}, {1, qRgb(255, 0, 0)}, {2, qRgb(51, 51, 51)}, {3, 0}};
+    QTest::newRow("ASE, shares beyond 1")
+        << ase(2, red + aseColor("RGB ", {7e30F, -1, std::numeric_limits<float>::quiet_NaN()}))
+        << QByteArray("ASE") << Colors{{1, qRgb(255, 0, 0)}};
+    QTest::newRow("ASE, groups and unknown blocks")
+        << ase(5, words({0xC001}) + big(quint32(99)) + words({1, 'g'}) + red + words({5}) +
+                      big(quint32(3)) + "???" + red + words({0xC002}) + big(quint32(0)))
+        << QByteArray("ASE") << Colors{{1, qRgb(255, 0, 128)}, {2, 0}};
+    QTest::newRow("ASE, a block of four billion bytes")
+        << ase(9, red + red + words({5}) + big(~0U) + red) << QByteArray("ASE")
+        << Colors{{1, qRgb(255, 0, 128)}, {2, 0}};
+}
+
+void tst_PaletteFiles::read()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QByteArray, format);
+    QFETCH(const Colors, expected);
+    Colors256 colors;
+    std::memset(colors.entries, 99, sizeof colors.entries);
+    QVERIFY(load(bytes, format, colors));
+    QCOMPARE(int(colors.entries[0].a), 0);
+    for (const auto& [index, color] : expected) {
+        QCOMPARE(QByteArray::number(colors.at(index), 16), QByteArray::number(color, 16));
+    }
+}
+
+void tst_PaletteFiles::refuse_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("format");
+    QTest::newRow("ACT of 767 bytes") << act().left(767) << QByteArray("ACT");
+    QTest::newRow("RIFF, other data") << riff({}).replace("PAL ", "WAVE") << QByteArray("PAL");
+    QTest::newRow("RIFF, 257 colours") << riff(QByteArray(257 * 4, 'x')) << QByteArray("PAL");
+    QTest::newRow("RIFF, size below its head")
+        << riff({}).replace(16, 4, QByteArray("\7\0\0\0", 4)) << QByteArray("PAL");
+    QTest::newRow("RIFF, cut") << riff("abcdefgh").chopped(1) << QByteArray("PAL");
+    QTest::newRow("Jasc, LF only") << jasc("1 2 3\r\n").replace("\r\n", "\n") << QByteArray("PAL");
+    QTest::newRow("Jasc, other version") << jasc("").replace("0100", "0200") << QByteArray("PAL");
+    QTest::newRow("ACO, version 2") << words({2, 0}) << QByteArray("ACO");
+    QTest::newRow("ASE, version 1.1") << ase(0, {}).replace(6, 2, words({1})) << QByteArray("ASE");
+    QTest::newRow("nothing known") << QByteArray("hello, palette") << QByteArray("PAL");
+    QTest::newRow("ACT in lower case") << act() << QByteArray("act");
+    QTest::newRow("no image") << QByteArray("hello, image") << QByteArray("PNG");
+}
+
+void tst_PaletteFiles::refuse()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(const QByteArray, format);
+    Colors256 colors;
+    std::memset(colors.entries, 99, sizeof colors.entries);
+    const Colors256 before = colors;
+    PaletteObject object(colors.entries);
+    const QSignalSpy changing(&object, &PaletteObject::changing);
+    const QSignalSpy changed(&object, &PaletteObject::changed);
+    QBuffer buffer(&bytes);
+    QVERIFY(!object.fromFile(&buffer, format.constData()));
+    buffer.open(QIODevice::ReadOnly);
+    QVERIFY(!object.fromFile(&buffer, format.constData()));
+    QCOMPARE(std::memcmp(colors.entries, before.entries, sizeof colors.entries), 0);
+    QCOMPARE(changing.count() + changed.count(), 0);
+    QVERIFY(!object.toFile(&buffer, "ACT"));
+}
+
+void tst_PaletteFiles::imagesGiveTheirPalette_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    for (const char* format : {"PNG", "BMP", "PCX", "GIF"}) {
+        QTest::newRow(format) << QByteArray(format);
+    }
+}
+
+void tst_PaletteFiles::imagesGiveTheirPalette()
+{
+    QFETCH(const QByteArray, format);
+    QImage indexed(4, 4, QImage::Format_Indexed8);
+    indexed.setColorTable({qRgb(9, 8, 7), qRgb(1, 2, 3), qRgb(200, 100, 50)});
+    indexed.fill(1);
+    const auto bytesOf = [&format](const QImage& image) {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        Zorv::saveImage(&buffer, format.constData(), image);
+        return bytes;
+    };
+    const QByteArray trueColor = bytesOf(indexed.convertToFormat(QImage::Format_RGB32));
+    Colors256 colors;
+
+    Zorv::setLosslessImages(true);
+    QVERIFY(load(bytesOf(indexed), format, colors));
+    QCOMPARE(colors.at(0), qRgba(9, 8, 7, 0));
+    QCOMPARE(colors.at(2), qRgb(200, 100, 50));
+    QCOMPARE(load(trueColor, format, colors), format == "GIF");  // which knows no true colour
+
+    Zorv::setLosslessImages(false);
+    QVERIFY(!load(bytesOf(indexed), format, colors));
+    if (format != "GIF") {
+        QVERIFY(load(trueColor, format, colors));
+        QCOMPARE(colors.at(2), qRgb(0, 0, 0));
+    }
+}
+
+void tst_PaletteFiles::extensions()
+{
+    Loader failing(false, 1);
+    Loader working(true, 2);
+    Loader late(true, 3);
+    auto& list = Zorv::ExtensionManager::list(Zorv::Extension::PaletteLoader);
+    list = {&failing, &working, &late};
+    Colors256 colors;
+    QVERIFY(load("some bytes", "XYZ", colors));
+    QCOMPARE(colors.at(1), qRgb(2, 2, 2));
+    QVERIFY(!load("some bytes", "xyz", colors));
+    list.clear();
+}
+
+void tst_PaletteFiles::actRoundTrip()
+{
+    Colors256 colors;
+    QVERIFY(load(act(), "ACT", colors));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    PaletteObject object(colors.entries);
+    QVERIFY(object.toFile(&buffer, "ACT"));
+    QCOMPARE(bytes, act());
+    QVERIFY(!object.toFile(&buffer, "PAL"));
+}
+
+/// A count of four billion takes no longer than the bytes that are there.
+void tst_PaletteFiles::manyBlocksWithoutBytes()
+{
+    Colors256 colors;
+    QVERIFY(load(ase(~0U, aseColor("RGB ", {1, 1, 1})), "ASE", colors));
+    QCOMPARE(colors.at(0), qRgba(255, 255, 255, 0));
+    QVERIFY(load(words({1, 0xFFFF}), "ACO", colors));
+}
+
+void tst_PaletteFiles::brokenBytes_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("format");
+    QTest::newRow("RIFF") << riff("abcdefgh") << QByteArray("PAL");
+    QTest::newRow("Jasc") << jasc("1 2 3\r\n4 5 6 7\r\n") << QByteArray("PAL");
+    QTest::newRow("ACO") << words({1, 2, 0, 1, 2, 3, 4, 1, 5, 6, 7, 8}) << QByteArray("ACO");
+    QTest::newRow("ASE") << ase(2, aseColor("CMYK", {0, 1, 1, 0}) + aseColor("RGB ", {1, 0, 1}))
+                         << QByteArray("ASE");
+    QTest::newRow("Painter") << QByteArray("ROWS\nR:1,G:2,B:3 A:4\n") << QByteArray("TXT");
+}
+
+/// Whatever the bytes, a palette is either left alone or one of a file.
+void tst_PaletteFiles::brokenBytes()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QByteArray, format);
+    forEachBrokenForm(bytes, [&format](const QByteArray& broken) {
+        Colors256 colors;
+        std::memset(colors.entries, 99, sizeof colors.entries);
+        const bool loaded = load(broken, format, colors);
+        QCOMPARE(int(colors.entries[0].a), loaded ? 0 : 99);
+        QCOMPARE(colors.at(255) == qRgba(99, 99, 99, 99), !loaded);
+    });
+}
+
+QTEST_GUILESS_MAIN(tst_PaletteFiles)
+
+#include "tst_palettefiles.moc"

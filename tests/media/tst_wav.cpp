@@ -1,0 +1,315 @@
+#include "media/wav.h"
+
+#include "core/extensionmanager.h"
+#include "media/soundfile.h"
+#include "support/brokenbytes.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+#include <cmath>
+
+using Zorv::SampleInfo;
+using Zorv::SoundSample;
+
+namespace {
+
+template <class Integer>
+QByteArray little(Integer value)
+{
+    QByteArray bytes(sizeof value, 0);
+    qToLittleEndian(value, bytes.data());
+    return bytes;
+}
+
+QByteArray format(int tag, int channels, int bits, quint32 byteRate = 44100)
+{
+    return "fmt " + little(quint32(16)) + little(quint16(tag)) + little(quint16(channels)) +
+           little(quint32(22050)) + little(byteRate) + little(quint16(channels * bits / 8)) +
+           little(quint16(bits));
+}
+
+QByteArray chunk(const char* id, const QByteArray& bytes)
+{
+    return id + little(quint32(bytes.size())) + bytes;
+}
+
+QByteArray riff(const QByteArray& chunks)
+{
+    return "RIFF" + little(quint32(chunks.size() + 4)) + "WAVE" + chunks;
+}
+
+SoundSample read(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    return Zorv::soundFromWAV(&buffer);
+}
+
+SampleInfo info(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    return Zorv::soundInfoFromWAV(&buffer);
+}
+
+QByteArray written(const SoundSample& sample)
+{
+    QBuffer buffer;
+    return Zorv::soundToWAV(sample, &buffer) ? buffer.data() : QByteArray("failed");
+}
+
+QByteArray text(const SampleInfo& sample)
+{
+    return QByteArray::number(sample.channels) + " x " + QByteArray::number(sample.bits) + ", " +
+           QByteArray::number(sample.sampleRate) + " Hz, " + QByteArray::number(sample.frames);
+}
+
+QByteArray fileBytes(const QString& name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void runSox(const QStringList& arguments)
+{
+    QProcess sox;
+    sox.start(QStringLiteral("sox"), arguments);
+    const bool hasRun = sox.waitForFinished();
+    QVERIFY2(hasRun && sox.exitCode() == 0,
+             ("sox has to be installed: " + sox.readAllStandardError()).constData());
+}
+
+class Loader : public Zorv::Extension
+{
+public:
+    explicit Loader(const QByteArray& data) : m_data(data) {}
+    Type type() const override { return SoundLoader; }
+    QByteArray name() const override { return "wav"; }
+    bool loadSound(QIODevice*, SoundSample& sample) override
+    {
+        sample.data = m_data;
+        return true;
+    }
+
+private:
+    QByteArray m_data;
+};
+
+}  // namespace
+
+class tst_WAV : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void filesOfSox_data();
+    void filesOfSox();
+    void byHand_data();
+    void byHand();
+    void hugeSizes();
+    void longSoundsAreSearchedInPieces();
+    void emptySound();
+    void failingDevices();
+    void gateways();
+    void brokenBytes();
+};
+
+void tst_WAV::filesOfSox_data()
+{
+    QTest::addColumn<int>("bits");
+    QTest::addColumn<int>("channels");
+    for (const int bits : {8, 16, 24, 32}) {
+        for (const int channels : {1, 2}) {
+            QTest::addRow("%d bits, %d channels", bits, channels) << bits << channels;
+        }
+    }
+}
+
+/// The samples are those that sox writes without a header, and sox reads what is written here.
+void tst_WAV::filesOfSox()
+{
+    QFETCH(const int, bits);
+    QFETCH(const int, channels);
+    const QTemporaryDir folder;
+    const QString wav = folder.filePath(QStringLiteral("a.wav"));
+    const QString raw = folder.filePath(QStringLiteral("a.raw"));
+    const QString again = folder.filePath(QStringLiteral("b.wav"));
+    const QString rawAgain = folder.filePath(QStringLiteral("b.raw"));
+    const QString encoding =
+        bits == 8 ? QStringLiteral("unsigned-integer") : QStringLiteral("signed-integer");
+    const QStringList rawForm{QStringLiteral("-t"), QStringLiteral("raw"),
+                              QStringLiteral("-e"), encoding,
+                              QStringLiteral("-b"), QString::number(bits)};
+    // The plain form of a WAV file, which sox leaves otherwise for samples of more than 16 bits.
+    const QStringList plainForm{QStringLiteral("-t"), QStringLiteral("wavpcm")};
+    runSox(QStringList{QStringLiteral("-D"), QStringLiteral("-R"), QStringLiteral("-r"),
+                       QStringLiteral("22050"), QStringLiteral("-n"), QStringLiteral("-b"),
+                       QString::number(bits), QStringLiteral("-c"), QString::number(channels)} +
+           plainForm +
+           QStringList{wav, QStringLiteral("synth"), QStringLiteral("1001s"),
+                       QStringLiteral("sine"), QStringLiteral("440")});
+    runSox(QStringList{QStringLiteral("-D"), wav} + rawForm + QStringList{raw});
+
+    const QByteArray bytes = fileBytes(wav);
+    const SoundSample sample = read(bytes);
+    const QByteArray expected =
+        QByteArray::number(channels) + " x " + QByteArray::number(bits) + ", 22050 Hz, 1001";
+    QCOMPARE(text(sample), expected);
+    QCOMPARE(text(info(bytes)), expected);
+    QCOMPARE(sample.data, fileBytes(raw));
+
+    QFile file(again);
+    QVERIFY(Zorv::soundToWAV(sample, &file));
+    QVERIFY(!file.isOpen());
+    runSox(QStringList{QStringLiteral("-D"), again} + rawForm + QStringList{rawAgain});
+    QCOMPARE(fileBytes(rawAgain), fileBytes(raw));
+}
+
+void tst_WAV::byHand_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("sound");
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<QByteArray>("information");
+    const QByteArray pcm = format(1, 2, 16);
+    const QByteArray eight = "12345678";
+    const QByteArray plain = "2 x 16, 22050 Hz, 2";
+    const QByteArray none = "0 x 0, 0 Hz, 0";
+    const auto row = [](const char* name, const QByteArray& bytes, const QByteArray& sound,
+                        const QByteArray& data, const QByteArray& information) {
+        QTest::newRow(name) << bytes << sound << data << information;
+    };
+    row("plain", riff(pcm + chunk("data", eight)), plain, eight, plain);
+    row("chunks between",
+        riff(pcm + chunk("LIST", "INFOICMT\1\0\0\0x") + chunk("fact", "12") + chunk("data", eight)),
+        plain, eight, plain);
+    row("chunks behind", riff(pcm + chunk("data", eight) + chunk("LIST", "more")), plain, eight,
+        plain);
+    row("a longer form chunk",
+        riff(QByteArray(pcm).replace(4, 1, QByteArray(1, 18)) + "\0\0" + chunk("data", eight)),
+        plain, eight, plain);
+    row("float", riff(format(3, 2, 16) + chunk("data", eight)), none, {}, none);
+    row("no byte rate", riff(format(1, 2, 16, 0) + chunk("data", eight)), "2 x 16, 22050 Hz, 0",
+        eight, "2 x 16, 22050 Hz, 0");
+    row("no bits", riff(format(1, 2, 0) + chunk("data", eight)), "2 x 0, 22050 Hz, 0", eight,
+        "2 x 0, 22050 Hz, 0");
+    row("\"data\" in another chunk",
+        riff(pcm + chunk("LIST", QByteArray("data\4\0\0\0wrong", 13)) + chunk("data", eight)),
+        "2 x 16, 22050 Hz, 1", "wron", "2 x 16, 22050 Hz, 1");
+    row("without \"data\"", riff(pcm + chunk("LIST", eight)), plain, eight, "2 x 16, 22050 Hz, 0");
+    row("the information asks for no names", "????....????????" + pcm.mid(4) + chunk("data", eight),
+        none, {}, plain);
+    row("more than the RIFF size", riff(pcm) + chunk("data", eight), "2 x 16, 22050 Hz, 0", {},
+        plain);
+    row("nothing", {}, none, {}, none);
+}
+
+void tst_WAV::byHand()
+{
+    QFETCH(const QByteArray, bytes);
+    const SoundSample sample = read(bytes);
+    QTEST(text(sample), "sound");
+    QTEST(sample.data, "data");
+    QTEST(text(info(bytes)), "information");
+}
+
+/// Sizes of four billion are cut to the bytes that are there.
+void tst_WAV::hugeSizes()
+{
+    QByteArray bytes = riff(format(1, 1, 8) + "data" + little(~0U) + "1234567");
+    bytes.replace(4, 4, little(~0U));
+    const SoundSample sample = read(bytes);
+    QCOMPARE(sample.data, QByteArray("1234567"));
+    QCOMPARE(sample.frames, 7);
+    QCOMPARE(info(bytes).frames, std::numeric_limits<int>::max());
+    QVERIFY(sample.data.capacity() < 100);
+}
+
+void tst_WAV::longSoundsAreSearchedInPieces()
+{
+    for (int length = 65536 - 50; length < 65536 + 10; ++length) {
+        const QByteArray bytes =
+            riff(format(1, 1, 8) + chunk("LIST", QByteArray(length, 'd')) + chunk("data", "123"));
+        QCOMPARE(info(bytes).frames, 3);
+    }
+}
+
+void tst_WAV::emptySound()
+{
+    const QByteArray bytes = written({});
+    QCOMPARE(bytes.size(), 44);
+    QCOMPARE(qFromLittleEndian<quint32>(bytes.constData() + 4), 36U);
+    QVERIFY(read(bytes).data.isEmpty());
+}
+
+void tst_WAV::failingDevices()
+{
+    SoundSample sample;
+    sample.data = QByteArray(1 << 20, 'x');
+    QFile full(QStringLiteral("/dev/full"));
+    QVERIFY(!Zorv::soundToWAV(sample, &full));
+    QFile missing(QStringLiteral("/nowhere/at/all.wav"));
+    QVERIFY(!Zorv::soundToWAV(sample, &missing));
+    QVERIFY(Zorv::soundFromWAV(&missing).data.isEmpty());
+    QByteArray bytes = written(sample);
+    QBuffer writeOnly(&bytes);
+    writeOnly.open(QIODevice::WriteOnly | QIODevice::Append);
+    QVERIFY(Zorv::soundFromWAV(&writeOnly).data.isEmpty());
+    QCOMPARE(Zorv::soundInfoFromWAV(&writeOnly).frames, 0);
+    QBuffer readOnly(&bytes);
+    readOnly.open(QIODevice::ReadOnly);
+    QVERIFY(!Zorv::soundToWAV(sample, &readOnly));
+}
+
+void tst_WAV::gateways()
+{
+    SoundSample sample;
+    sample.data = "data";
+    QBuffer buffer;
+    QVERIFY(!Zorv::saveSound(&buffer, "WAV", sample));
+    buffer.open(QIODevice::ReadWrite);
+    QVERIFY(Zorv::saveSound(&buffer, "WAV", sample));
+    QVERIFY(!Zorv::saveSound(&buffer, "OGG", sample));
+
+    SoundSample loaded;
+    buffer.seek(0);
+    QVERIFY(!Zorv::loadSound(&buffer, "wav", loaded));
+    QVERIFY(Zorv::loadSound(&buffer, "WAV", loaded));
+    QCOMPARE(loaded.data, sample.data);
+
+    // A loader that finds no samples has not loaded, whatever it says.
+    Loader empty({});
+    Loader full("beep");
+    auto& list = Zorv::ExtensionManager::list(Zorv::Extension::SoundLoader);
+    list = {&empty, &full};
+    QVERIFY(!Zorv::loadSound(&buffer, "wav", loaded));
+    list = {&full};
+    QVERIFY(Zorv::loadSound(&buffer, "wav", loaded));
+    QCOMPARE(loaded.data, QByteArray("beep"));
+    list.clear();
+    buffer.close();
+    QVERIFY(!Zorv::loadSound(&buffer, "WAV", loaded));
+}
+
+void tst_WAV::brokenBytes()
+{
+    const QByteArray whole =
+        riff(format(1, 2, 16) + chunk("LIST", "some") + chunk("data", "12345678"));
+    forEachBrokenForm(whole, [&whole](const QByteArray& broken) {
+        const SoundSample sample = read(broken);
+        QVERIFY(sample.data.size() <= whole.size());
+        const int frameSize = sample.bits * sample.channels / 8;
+        QVERIFY(qint64(sample.frames) * frameSize <= sample.data.size());
+        info(broken);
+        // What is read is written and read as the same.
+        const SoundSample again = read(written(sample));
+        QCOMPARE(again.data, sample.data);
+    });
+}
+
+QTEST_GUILESS_MAIN(tst_WAV)
+
+#include "tst_wav.moc"
