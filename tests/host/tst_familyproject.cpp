@@ -1,8 +1,13 @@
 #include "familydump.h"
 
+#include "assets/familysprite.h"
+#include "assets/newsprites.h"
+#include "assets/soundfile.h"
+#include "assets/spritecollection.h"
 #include "check/check.h"
 #include "core/filesystemarchive.h"
 #include "core/messagelist.h"
+#include "media/soundsample.h"
 #include "project/familyenginemodel.h"
 #include "project/familyparentproject.h"
 #include "project/familyproject.h"
@@ -11,8 +16,11 @@
 
 #include <QAbstractItemModelTester>
 #include <QDir>
+#include <QImage>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <memory>
 
 using namespace Family;
 using Zorv::FileID;
@@ -64,12 +72,56 @@ public:
         writeFile(path("bin/zorvs_1-1a2b/hero.character"), "[info]\r\n");
     }
 
+    /// Sprites at a path as the main file tells it, and sounds; one of each.
+    void addAssets(const QString& sprites)
+    {
+        writeFile(hero("hero.character"),
+                  QByteArray(mainText).replace("sprites = \"hero.sprites\"",
+                                               "sprites = \"" + sprites.toUtf8() +
+                                                   "\"\r\nsounds = \"hero.sounds\""));
+        Zorv::Archive& disk = *Zorv::FileSystemArchive::instance();
+        const QString place = QDir::cleanPath(hero("") + sprites);
+        QFile::remove(place);
+        if (sprites.endsWith(QLatin1Char('/'))) {
+            QDir().mkpath(place);
+        }
+        QImage image(4, 3, QImage::Format_Indexed8);
+        image.setColorTable({qRgb(0, 0, 0), qRgb(250, 9, 9)});
+        image.fill(1);
+        SpriteCollection* collection = newSprites(place);
+        QVERIFY(collection->insertSprite(-1, {0, 0}, {1, 2}, image));
+        QVERIFY(collection->toFile(disk, place, false));
+        collection->release();
+        Zorv::SoundSample sample;
+        sample.channels = 1;
+        sample.bits = 8;
+        sample.sampleRate = 8000;
+        sample.data = "some samples";
+        SoundFile sounds;
+        QVERIFY(sounds.add(0, "0,0", sample));
+        QVERIFY(sounds.toFile(disk, hero("hero.sounds"), false));
+    }
+
     QString path(const char* name) const { return m_folder.path() + QLatin1Char('/') + name; }
     QString hero(const char* name) const { return path("characters/hero/") + QLatin1String(name); }
 
 private:
     QTemporaryDir m_folder;
 };
+
+/// A file, or the files of a folder, by their names.
+QMap<QString, QByteArray> contentOf(const QString& path)
+{
+    QMap<QString, QByteArray> result;
+    const QStringList names = QDir(path).entryList(QDir::Files);
+    for (const QString& name : names) {
+        result.insert(name, readFile(path + QLatin1Char('/') + name));
+    }
+    if (QFileInfo(path).isFile()) {
+        result.insert({}, readFile(path));
+    }
+    return result;
+}
 
 QStringList pathsOf(const QList<Zorv::Project::FileInfo>& infos)
 {
@@ -99,6 +151,10 @@ private slots:
     void pathFaults();
     void linksThatLeaveTheGame();
     void saveAllAsCopy();
+    void assetsAreLoaded();
+    void assetsTravel_data();
+    void assetsTravel();
+    void assetsMoveWithTheProject();
     void runBesideTheGame();
     void checkOfOpenProject();
     void checkOfWhatIsNotThere_data();
@@ -119,8 +175,10 @@ void TestFamilyProject::openLoadsWhatIsNamed()
     QCOMPARE(project->filesByType(FileID::Animations).size(), 1);
     QCOMPARE(project->documents().size(), 4);
     QCOMPARE(project->documents().first(), project->mainDocument());
-    QCOMPARE(project->loadErrors().size(), 1);
-    QVERIFY(project->loadErrors().first().contains(QLatin1String("gone.commands")));
+    QCOMPARE(project->loadErrors().size(), 2);
+    QVERIFY(project->loadErrors().first().contains(QLatin1String("hero.sprites")));
+    QVERIFY(project->loadErrors().last().contains(QLatin1String("gone.commands")));
+    QVERIFY(!project->sprites() && !project->sounds());
     QCOMPARE(project->fileTitle(FileID::Code, 0), QStringLiteral("moves.code"));
     QCOMPARE(project->fileTitle(FileID::Code, 1), QStringLiteral("../../shared/common.code"));
     QCOMPARE(project->fileTitle(FileID::Code, -1), QStringLiteral("new file"));
@@ -128,7 +186,8 @@ void TestFamilyProject::openLoadsWhatIsNamed()
     project->loadFiles();
     QCOMPARE(project->documents().size(), 4);
     QVERIFY(project->newFile(FileID::Commands));
-    QVERIFY(!project->newFile(FileID::Sprites));
+    QVERIFY(project->newFile(FileID::Sprites) && project->newFile(FileID::Sounds));
+    QVERIFY(!project->newFile(FileID::MainCode));
     project->release();
     delete project;
     QCOMPARE(unused.count(), 1);
@@ -317,6 +376,113 @@ void TestFamilyProject::saveAllAsCopy()
     delete project;
 }
 
+void TestFamilyProject::assetsAreLoaded()
+{
+    Game game;
+    game.addAssets(QStringLiteral("hero.sprites"));
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    QVERIFY(project->sprites() && project->sounds());
+    QCOMPARE(project->sprites()->count(), 1U);
+    QCOMPARE(project->sounds()->count(), 1U);
+    QVERIFY(!project->sprites()->isModified());
+    QCOMPARE(project->loadErrors().size(), 1);
+    // The same files are not loaded again; others that the text names then are the ones that count.
+    SoundFile* sounds = project->sounds();
+    project->loadFiles();
+    QCOMPARE(project->filesByType(FileID::Sounds).size(), 1);
+    QVERIFY(sounds->toFile(*Zorv::FileSystemArchive::instance(), game.hero("b.sounds"), true));
+    QVERIFY(setValue(project->mainDocument(), QStringLiteral("files.sounds"),
+                     QStringLiteral("b.sounds"), nullptr));
+    project->loadFiles();
+    QVERIFY(project->sounds() != sounds);
+    QCOMPARE(project->sounds()->fileName(), game.hero("b.sounds"));
+    project->release();
+    delete project;
+}
+
+void TestFamilyProject::assetsTravel_data()
+{
+    QTest::addColumn<QString>("sprites");
+    QTest::newRow("file") << "hero.sprites";
+    QTest::newRow("folder") << "pictures/";
+    QTest::newRow("file outside of the project") << "../../shared/all.sprites";
+    QTest::newRow("folder outside of the project") << "../../shared/pictures/";
+}
+
+// What is open and unchanged is copied as bytes, what has changed is written as it is now, and
+// neither is touched at its own place.
+void TestFamilyProject::assetsTravel()
+{
+    QFETCH(QString, sprites);
+    Game game;
+    game.addAssets(sprites);
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    QVERIFY2(project->sprites(), qPrintable(project->loadErrors().join('\n')));
+    const QString place = QStringLiteral("characters/hero/");
+    const QString own = QDir::cleanPath(game.hero("") + sprites);
+    const QString below = own.mid(game.path("").size());
+    const QMap<QString, QByteArray> before = contentOf(own);
+    for (const bool isModified : {false, true}) {
+        if (isModified) {
+            project->sounds()->sound(0)->duplicate();
+            project->sprites()->sprite(0)->duplicate();
+        }
+        QTemporaryDir target;
+        project->saveAll(target.path() + QLatin1Char('/'), true, nullptr);
+        QCOMPARE(project->failedFiles(), QStringList(QStringLiteral("gone.commands")));
+        QCOMPARE(contentOf(own), before);
+        const QString copy = target.path() + QLatin1Char('/') + below;
+        if (!isModified) {
+            QCOMPARE(contentOf(copy), before);
+        }
+        QString error;
+        const std::unique_ptr<SpriteCollection, void (*)(SpriteCollection*)> copied(
+            openSprites(copy, &error), [](SpriteCollection* each) { each->release(); });
+        QVERIFY(copied);
+        QCOMPARE(copied->count(), isModified ? 2U : 1U);
+        SoundFile sounds;
+        QVERIFY(sounds.fromFile(*Zorv::FileSystemArchive::instance(),
+                                target.path() + QLatin1Char('/') + place + "hero.sounds", false));
+        QCOMPARE(sounds.count(), isModified ? 2U : 1U);
+        QCOMPARE(project->sounds()->isModified(), isModified);
+    }
+    project->reload();
+    QCOMPARE(project->sprites()->count(), 1U);
+    QVERIFY(!project->sounds()->isModified());
+    project->release();
+    delete project;
+}
+
+void TestFamilyProject::assetsMoveWithTheProject()
+{
+    Game game;
+    game.addAssets(QStringLiteral("hero.sprites"));
+    writeFile(game.path("zorv-player"), {});
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    project->sounds()->sound(0)->duplicate();
+    const QByteArray sprites = readFile(game.hero("hero.sprites"));
+    QTemporaryDir target;
+    TestInterface host;
+    parent.saveAs(target.path());
+    const QString moved = target.path() + QStringLiteral("/characters/hero/");
+    QCOMPARE(QDir::cleanPath(project->sprites()->fileName()),
+             moved + QStringLiteral("hero.sprites"));
+    QCOMPARE(readFile(moved + QStringLiteral("hero.sprites")), sprites);
+    QVERIFY(!project->sounds()->isModified());
+    SoundFile old;
+    QVERIFY(old.fromFile(*Zorv::FileSystemArchive::instance(), game.hero("hero.sounds"), false));
+    QCOMPARE(old.count(), 1U);
+    project->sounds()->sound(0)->duplicate();
+    parent.save();
+    QVERIFY(old.fromFile(*Zorv::FileSystemArchive::instance(), moved + "hero.sounds", false));
+    QCOMPARE(old.count(), 3U);
+    project->release();
+    delete project;
+}
+
 // A game with its own engine: the copies are no projects of it, and go without a trace.
 void TestFamilyProject::runBesideTheGame()
 {
@@ -368,7 +534,8 @@ void TestFamilyProject::checkOfOpenProject()
                          .arg(problem.line)
                          .arg(QLatin1String(problemInfo(problem.id).name)));
     }
-    QCOMPARE(names, QStringList({QStringLiteral("hero.character:8 file-missing"),
+    QCOMPARE(names, QStringList({QStringLiteral("hero.character:4 file-broken"),
+                                 QStringLiteral("hero.character:8 file-missing"),
                                  QStringLiteral("hero.character:9 file-itself"),
                                  QStringLiteral("hero.character:10 file-outside"),
                                  QStringLiteral("hero.character:11 file-twice")}));

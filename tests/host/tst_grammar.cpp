@@ -1,3 +1,7 @@
+#include "assets/familysprite.h"
+#include "assets/palettelist.h"
+#include "assets/soundfile.h"
+#include "assets/spritefile.h"
 #include "check/check.h"
 #include "familydocument.h"
 #include "grammar/grammar.h"
@@ -6,9 +10,12 @@
 #include "nodes/valuenode.h"
 
 #include "code/codedoc/codeblockdata.h"
+#include "core/filesystemarchive.h"
+#include "media/soundsample.h"
 
 #include <QDate>
 #include <QDir>
+#include <QImage>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTextBlock>
@@ -28,6 +35,41 @@ void writeFile(const QString& name, const QByteArray& data)
     QFile file(name);
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(data), qint64(data.size()));
+}
+
+// One sprite in one palette, and the files of the docs that have a fault.
+void writeSprites(const QString& name, int colours, bool hasMore)
+{
+    QImage image(8, 8, QImage::Format_Indexed8);
+    QVector<QRgb> table;
+    for (int i = 0; i < colours; ++i) {
+        table.append(qRgb(i + 1, 2 * i, 3));
+    }
+    image.setColorTable(table);
+    image.fill(1);
+    SpriteFile sprites;
+    QVERIFY(sprites.insertSprite(-1, {0, 0}, {}, image));
+    sprites.sprite(0)->setProperty("Codec", "LZ5");
+    if (hasMore) {
+        const Zorv::RGBA grey[256] = {};
+        sprites.palettes()->addPalette(grey, "9,9", false);
+    }
+    QVERIFY(sprites.toFile(*Zorv::FileSystemArchive::instance(), name, false));
+}
+
+void writeSounds(const QString& name, bool isDamaged)
+{
+    Zorv::SoundSample sample;
+    sample.channels = 1;
+    sample.bits = 8;
+    sample.sampleRate = 8000;
+    sample.data = "some samples";
+    SoundFile sounds;
+    QVERIFY(sounds.add(0, "0,0", sample));
+    QVERIFY(sounds.toFile(*Zorv::FileSystemArchive::instance(), name, false));
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(!isDamaged || (file.seek(file.size() - 1) && file.write("x") == 1));
 }
 
 QString readDocs()
@@ -144,6 +186,14 @@ void TestGrammar::problem_data()
         {ProblemId::FileItself, 2, 8, 19},
         {ProblemId::FileTwice, 3, 8, 12},
         {ProblemId::AnimationMissing, 2, 13, 1},
+        {ProblemId::FileBroken, 2, 11, 12},
+        {ProblemId::RecordBroken, 2, 10, 16},
+        {ProblemId::SpriteMissing, 5, 7, 3},
+        {ProblemId::SoundMissing, 7, 9, 3},
+        {ProblemId::SpritesUnused, 2, 11, 17},
+        {ProblemId::PalettesUnused, 2, 11, 18},
+        {ProblemId::SoundsUnused, 2, 10, 16},
+        {ProblemId::ColoursLost, 2, 11, 17},
     };
     QCOMPARE(int(std::size(rows)), ProblemCount - 1);
     for (const auto& row : rows) {
@@ -165,6 +215,11 @@ void TestGrammar::problem()
     writeFile(folder + QStringLiteral("moves.code"), "# nothing yet\n");
     writeFile(folder + QStringLiteral("palettes/blue.act"), "x");
     QVERIFY(QDir(folder).mkpath(QStringLiteral("folder")));
+    writeSprites(folder + QStringLiteral("example.sprites"), 16, false);
+    writeSprites(folder + QStringLiteral("palettes.sprites"), 16, true);
+    writeSprites(folder + QStringLiteral("colours.sprites"), 64, false);
+    writeSounds(folder + QStringLiteral("example.sounds"), false);
+    writeSounds(folder + QStringLiteral("damaged.sounds"), true);
 
     QString error;
     const Problems problems = checkGame(game.path(), &error);

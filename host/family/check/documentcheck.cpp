@@ -1,5 +1,6 @@
 #include "check/documentcheck.h"
 
+#include "assets/assetid.h"
 #include "familydocument.h"
 
 #include <QTextBlock>
@@ -130,6 +131,7 @@ void DocumentCheck::seeValue(const ParsedLine& line, const LineDetails& details)
     if (line.key->form == Form::AnimationName && line.value.isValid()) {
         m_references.append(placeOf(details, LinePart::Value, line.value.toString()));
     }
+    seeAsset(line, details);
     if (line.key->isRepeatable()) {
         return;
     }
@@ -139,6 +141,19 @@ void DocumentCheck::seeValue(const ParsedLine& line, const LineDetails& details)
              placeOf(details, LinePart::Key, {}));
     } else {
         first = m_line;
+    }
+}
+
+void DocumentCheck::seeAsset(const ParsedLine& line, const LineDetails& details)
+{
+    const QVariantList numbers = line.value.toList();
+    if (line.key->form != Form::Pair || numbers.size() != 2 || !m_head.group) {
+        return;
+    }
+    const bool isSound = m_head.group->isSubGroup() && m_head.group->name == QLatin1String("sound");
+    if (isSound || line.key->name == QLatin1String("sprite")) {
+        const AssetId id{quint16(numbers.at(0).toInt()), quint16(numbers.at(1).toInt())};
+        (isSound ? m_sounds : m_sprites).append(placeOf(details, LinePart::Value, id.text()));
     }
 }
 
@@ -161,6 +176,10 @@ void DocumentCheck::seeFrame(const FrameData& frame, const LineDetails& details)
     ++m_animation.frames;
     m_animation.boxes.clear();
     m_animation.hasFaultyFrame = m_animation.hasFaultyFrame || !details.problems.isEmpty();
+    if (details.part(LinePart::Sprite)) {
+        const AssetId id{quint16(frame.group), quint16(frame.number)};
+        m_sprites.append(placeOf(details, LinePart::Sprite, id.text()));
+    }
     const NamedPlace place = placeOf(details, LinePart::Keyword, {});
     if (m_animation.endlessLine > 0) {
         tell(ProblemId::FrameNeverShown, {QString::number(m_animation.endlessLine)}, place);

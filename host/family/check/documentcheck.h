@@ -34,6 +34,10 @@ public:
     const QVector<NamedPlace>& animations() const { return m_animations; }
     const QVector<NamedPlace>& references() const { return m_references; }
 
+    /// Likewise the sprites and sounds that frames and values name, as "GROUP,NUMBER".
+    const QVector<NamedPlace>& sprites() const { return m_sprites; }
+    const QVector<NamedPlace>& sounds() const { return m_sounds; }
+
 private:
     struct Group
     {
@@ -57,6 +61,7 @@ private:
     void see(const ParsedLine& line, const LineDetails& details);
     void seeGroup(const ParsedLine& line, const LineDetails& details);
     void seeValue(const ParsedLine& line, const LineDetails& details);
+    void seeAsset(const ParsedLine& line, const LineDetails& details);
     void seeAnimation(const ParsedLine& line, const LineDetails& details);
     void seeFrame(const FrameData& frame, const LineDetails& details);
     void closeGroup();
@@ -74,6 +79,8 @@ private:
     QHash<QString, int> m_subGroups;
     QVector<NamedPlace> m_animations;
     QVector<NamedPlace> m_references;
+    QVector<NamedPlace> m_sprites;
+    QVector<NamedPlace> m_sounds;
     int m_line = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "check/projectcheck.h"
 
+#include "check/assetcheck.h"
 #include "familydocument.h"
 #include "grammar/grammar.h"
 #include "project/familyparentproject.h"
@@ -28,12 +29,16 @@ Problems ProjectCheck::run()
 {
     QVector<NamedPlace> animations;
     QVector<NamedPlace> references;
+    QVector<NamedPlace> sprites;
+    QVector<NamedPlace> sounds;
     const QList<FamilyDocument*> documents = m_project->documents();
     for (const FamilyDocument* document : documents) {
         DocumentCheck check(document, shownName(document));
         m_problems += check.run();
         animations += check.animations();
         references += check.references();
+        sprites += check.sprites();
+        sounds += check.sounds();
         checkFiles(document);
     }
     checkAnimationNames(animations, &m_problems);
@@ -41,7 +46,30 @@ Problems ProjectCheck::run()
     if (m_complete) {
         checkReferences(references, animations);
     }
+    checkAssets(sprites, sounds);
     return m_problems;
+}
+
+void ProjectCheck::checkAssets(const QVector<NamedPlace>& sprites,
+                               const QVector<NamedPlace>& sounds)
+{
+    AssetCheck check(m_project);
+    if (!m_sprites.name.isEmpty()) {
+        check.checkSprites(m_sprites, sprites, m_complete);
+    }
+    if (!m_sounds.name.isEmpty()) {
+        check.checkSounds(m_sounds, sounds, m_complete);
+    }
+    m_problems += check.problems();
+}
+
+// The first one counts, as for every key that stands twice.
+void ProjectCheck::takeAsset(const NamedPlace& place, const FileReference& reference)
+{
+    NamedPlace& taken = reference.type == Zorv::FileID::Sprites ? m_sprites : m_sounds;
+    if (taken.name.isEmpty()) {
+        taken = place;
+    }
 }
 
 void ProjectCheck::checkFiles(const FamilyDocument* document)
@@ -59,15 +87,21 @@ void ProjectCheck::checkFiles(const FamilyDocument* document)
             continue;
         }
         first = listed ? place.line : 0;
-        if (!checkFile(place, m_project->fileName()) && listed) {
+        const bool isThere = checkFile(place, reference);
+        if (isAssetFile(reference.type)) {
+            if (isThere && document == m_project->mainDocument()) {
+                takeAsset(place, reference);
+            }
+        } else if (!isThere && listed) {
             m_complete = false;
         }
     }
 }
 
-bool ProjectCheck::checkFile(const NamedPlace& place, const QString& mainFile)
+bool ProjectCheck::checkFile(const NamedPlace& place, const FileReference& reference)
 {
-    const PathFault fault = pathFault(m_project->parent()->absolutePath(), mainFile, place.name);
+    const PathFault fault =
+        pathFault(m_project->parent()->absolutePath(), m_project->fileName(), place.name);
     if (fault == PathFault::LeavesGame) {
         m_problems.append(problemAt(ProblemId::FileOutside, {place.name}, place));
         return false;
@@ -80,6 +114,9 @@ bool ProjectCheck::checkFile(const NamedPlace& place, const QString& mainFile)
     if (fault == PathFault::Empty || !info.exists()) {
         m_problems.append(problemAt(ProblemId::FileMissing, {place.name}, place));
         return false;
+    }
+    if (reference.type == Zorv::FileID::Sprites && info.isDir()) {
+        return true;
     }
     QFile file(info.filePath());
     QString reason;

@@ -5,6 +5,7 @@
 namespace Family {
 
 class FamilyProject;
+struct FileReference;
 
 /// The problems of a project beyond those of single files.
 class ProjectCheck
@@ -17,12 +18,16 @@ public:
 private:
     QString shownName(const FamilyDocument* document) const;
     void checkFiles(const FamilyDocument* document);
-    bool checkFile(const NamedPlace& place, const QString& mainFile);
+    bool checkFile(const NamedPlace& place, const FileReference& reference);
+    void takeAsset(const NamedPlace& place, const FileReference& reference);
+    void checkAssets(const QVector<NamedPlace>& sprites, const QVector<NamedPlace>& sounds);
     void checkReferences(const QVector<NamedPlace>& references,
                          const QVector<NamedPlace>& animations);
 
     const FamilyProject* m_project;
     Problems m_problems;
+    NamedPlace m_sprites;  // the paths in the main file, if the files are there
+    NamedPlace m_sounds;
     bool m_complete = true;
 };
 

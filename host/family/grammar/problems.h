@@ -71,6 +71,14 @@ enum class ProblemId : unsigned char {
     FileItself,
     FileTwice,
     AnimationMissing,
+    FileBroken,
+    RecordBroken,
+    SpriteMissing,
+    SoundMissing,
+    SpritesUnused,
+    PalettesUnused,
+    SoundsUnused,
+    ColoursLost,
     EncodingUnfaithful
 };
 

@@ -72,7 +72,7 @@ QStringList filesOfProject(const QString& gameFolder, const QString& mainFile)
                 pathFault(gameFolder, mainFile, reference.path) != PathFault::Fine) {
                 continue;
             }
-            files.append(file);
+            files += filesBehind(reference.type, file);
             if (isMain && isCodeFile(reference.type)) {
                 toRead.append(file);
             }

@@ -1,5 +1,9 @@
 #include "project/familyproject.h"
 
+#include "assets/newsprites.h"
+#include "assets/soundfile.h"
+#include "assets/spritecollection.h"
+#include "assets/spritefile.h"
 #include "core/archive.h"
 #include "core/files.h"
 #include "core/filesystemarchive.h"
@@ -34,6 +38,32 @@ FileKind kindOfType(FileID::Type type)
     default:
         return FileKind::Code;
     }
+}
+
+constexpr int MostBrokenLines = 20;
+
+// Ends as all files of a project do.
+struct Release
+{
+    void operator()(Zorv::ProjectFile* file) const { file->release(); }
+};
+using NewFile = std::unique_ptr<Zorv::ProjectFile, Release>;
+
+NewFile newAsset(FileID::Type type, const QString& path)
+{
+    if (type == FileID::Sounds) {
+        return NewFile(new SoundFile);
+    }
+    return NewFile(path.isEmpty() ? new SpriteFile : newSprites(path));
+}
+
+QStringList brokenParts(const Zorv::ProjectFile* file)
+{
+    if (const auto* sprites = dynamic_cast<const SpriteCollection*>(file)) {
+        return sprites->loadErrors();
+    }
+    const auto* sounds = dynamic_cast<const SoundFile*>(file);
+    return sounds ? sounds->loadErrors() : QStringList();
 }
 
 QString newText(FileKind kind)
@@ -134,30 +164,72 @@ QString FamilyProject::title() const
     return fileName.isEmpty() ? tr("New project") : fileName;
 }
 
+SpriteCollection* FamilyProject::sprites() const
+{
+    return dynamic_cast<SpriteCollection*>(file(FileID::Sprites));
+}
+
+SoundFile* FamilyProject::sounds() const
+{
+    return dynamic_cast<SoundFile*>(file(FileID::Sounds));
+}
+
 void FamilyProject::loadFiles()
 {
     m_loadErrors.clear();
     QSet<QString> known;
-    const QList<FamilyDocument*> present = documents();
-    for (const FamilyDocument* document : present) {
-        known.insert(QDir::cleanPath(document->fileName()));
+    const QList<Zorv::ProjectFile*> present = files();
+    for (const Zorv::ProjectFile* file : present) {
+        known.insert(QDir::cleanPath(file->fileName()));
     }
+    quint32 seenAssets = 0;
     const QVector<FileReference> references = fileReferences(mainDocument());
     for (const FileReference& reference : references) {
+        const bool isAsset = isAssetFile(reference.type);
+        const bool isRepeated = isAsset && (seenAssets & reference.type);
+        seenAssets |= isAsset ? quint32(reference.type) : 0;
         const QString path = resolvePath(reference.path);
         const PathFault fault = pathFault(parent()->absolutePath(), fileName(), reference.path);
-        if (!isCodeFile(reference.type) || fault != PathFault::Fine || known.contains(path)) {
+        if ((!isCodeFile(reference.type) && !isAsset) || isRepeated || fault != PathFault::Fine ||
+            known.contains(path)) {
             continue;
         }
         known.insert(path);
-        auto document = std::make_unique<FamilyDocument>(kindOfType(reference.type));
-        if (document->fromFile(*archive(), path, false)) {
-            FamilyDocument* added = document.release();
-            addFile(added, reference.type);
-            followSetting(added);
-        } else {
-            m_loadErrors.append(document->errorString());
-        }
+        isAsset ? loadAsset(reference.type, path) : loadDocument(reference.type, path);
+    }
+}
+
+void FamilyProject::loadDocument(FileID::Type type, const QString& path)
+{
+    auto document = std::make_unique<FamilyDocument>(kindOfType(type));
+    if (document->fromFile(*archive(), path, false)) {
+        FamilyDocument* added = document.release();
+        addFile(added, type);
+        followSetting(added);
+    } else {
+        m_loadErrors.append(document->errorString());
+    }
+}
+
+// The last one that the text names is the one that counts, and broken records are no reason to
+// leave the others away.
+void FamilyProject::loadAsset(FileID::Type type, const QString& path)
+{
+    NewFile file = newAsset(type, path);
+    if (!file->fromFile(*archive(), path, false)) {
+        m_loadErrors.append(file->errorString());
+        return;
+    }
+    addFile(file.get(), type);
+    setSelectedFile(type, unsigned(filesByType(type).size() - 1));
+    const QStringList lines = brokenParts(file.release());
+    const QString name = QDir(absolutePath()).relativeFilePath(path);
+    for (const QString& line : lines.mid(0, MostBrokenLines)) {
+        m_loadErrors.append(name + QLatin1String(": ") + line);
+    }
+    if (lines.size() > MostBrokenLines) {
+        m_loadErrors.append(
+            tr("%1: and %n more.", nullptr, lines.size() - MostBrokenLines).arg(name));
     }
 }
 
@@ -168,6 +240,11 @@ FileID FamilyProject::fileTypes() const
 
 Zorv::ProjectFile* FamilyProject::newFile(FileID::Type type)
 {
+    if (isAssetFile(type)) {
+        Zorv::ProjectFile* file = newAsset(type, {}).release();
+        addFile(file, type);
+        return file;
+    }
     if (!isCodeFile(type)) {
         return nullptr;
     }
@@ -201,7 +278,24 @@ void FamilyProject::fileInfos(QList<FileInfo>& list)
         m_pathsOf = fileName();
         m_files = namedFiles();
     }
-    list += m_files;
+    const QDir folder(absolutePath());
+    for (const FileInfo& info : qAsConst(m_files)) {
+        const QString named = resolvePath(info.path);
+        const QStringList paths = filesOf(info.id.lowest(), named);
+        for (const QString& path : paths) {
+            list.append({info.id, path == named ? info.path : folder.relativeFilePath(path)});
+        }
+    }
+}
+
+// A folder of sprites with changes goes as a whole, by its collection.
+QStringList FamilyProject::filesOf(FileID::Type type, const QString& path) const
+{
+    const SpriteCollection* collection = type == FileID::Sprites ? sprites() : nullptr;
+    if (collection && collection->isModified() && QDir::cleanPath(collection->fileName()) == path) {
+        return {path};
+    }
+    return filesBehind(type, path);
 }
 
 QStringList FamilyProject::sharedFiles() const
@@ -216,7 +310,10 @@ QStringList FamilyProject::sharedFiles() const
             const QString file = resolvePath(reference.path);
             if (!file.startsWith(absolutePath()) &&
                 pathFault(root, fileName(), reference.path) == PathFault::Fine) {
-                result.append(file.mid(root.size()));
+                const QStringList behind = filesOf(reference.type, file);
+                for (const QString& each : behind) {
+                    result.append(each.mid(root.size()));
+                }
             }
         }
     }
@@ -239,10 +336,10 @@ void FamilyProject::saveAll(const QString& path, bool asCopy, QStringList* files
 bool FamilyProject::copyShared(const QString& file, const QString& target)
 {
     Zorv::Archive& disk = *Zorv::FileSystemArchive::instance();
-    const QList<FamilyDocument*> all = documents();
-    for (FamilyDocument* document : all) {
-        if (document->isModified() && QDir::cleanPath(document->fileName()) == file) {
-            return Zorv::forcePath(target) && document->toFile(disk, target, true);
+    const QList<Zorv::ProjectFile*> all = files();
+    for (Zorv::ProjectFile* each : all) {
+        if (each->isModified() && QDir::cleanPath(each->fileName()) == file) {
+            return Zorv::forcePath(target) && each->toFile(disk, target, true);
         }
     }
     QString error;

@@ -7,11 +7,13 @@ namespace Family {
 
 class FamilyDocument;
 class FamilyParentProject;
+class SoundFile;
+class SpriteCollection;
 
 /// A character or a stage with the code files that it names.
 ///
-/// Code files, animations and commands are loaded as documents; sprites, sounds
-/// and other resources are only named.
+/// Code files, animations and commands are loaded as documents, the sprites and sounds of its main
+/// file as collections; other resources are only named.
 class FamilyProject final : public Zorv::Project
 {
     Q_OBJECT
@@ -35,18 +37,23 @@ public:
     /// The code documents of all kinds, the main one first.
     QList<FamilyDocument*> documents() const;
 
-    /// What `loadFiles()` could not load, a line each for the person.
+    /// The sprites and sounds of the project; null if it has none, or they could not be loaded.
+    SpriteCollection* sprites() const;
+    SoundFile* sounds() const;
+
+    /// What `loadFiles()` could not load, a line each for the person; also the broken records of
+    /// sprites and sounds, of which the rest was loaded.
     QStringList loadErrors() const { return m_loadErrors; }
 
     /// The name in `[info]`, else the name of the main file.
     QString title() const override;
 
-    /// Loads the code files that are named and not registered. Files outside of
-    /// the game folder, and the main file itself, are refused.
+    /// Loads the code files that are named and not registered, and the first sprites and sounds.
+    /// Files outside of the game folder, and the main file itself, are refused.
     void loadFiles() override;
     Zorv::FileID fileTypes() const override;
 
-    /// An empty document of a code kind, registered, without a name; null for
+    /// An empty document or collection, registered, without a name; null for
     /// any other kind.
     Zorv::ProjectFile* newFile(Zorv::FileID::Type type) override;
     QString resolvePath(const QString& path) const override;
@@ -64,6 +71,9 @@ public:
     void saveAll(const QString& path, bool asCopy, QStringList* files) override;
 
 private:
+    void loadDocument(Zorv::FileID::Type type, const QString& path);
+    void loadAsset(Zorv::FileID::Type type, const QString& path);
+    QStringList filesOf(Zorv::FileID::Type type, const QString& path) const;
     QList<FileInfo> namedFiles() const;
     bool copyShared(const QString& file, const QString& target);
 

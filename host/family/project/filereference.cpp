@@ -89,6 +89,24 @@ bool isCodeFile(FileID::Type type)
     return type == FileID::Code || type == FileID::Animations || type == FileID::Commands;
 }
 
+bool isAssetFile(FileID::Type type)
+{
+    return type == FileID::Sprites || type == FileID::Sounds;
+}
+
+QStringList filesBehind(FileID::Type type, const QString& path)
+{
+    if (type != FileID::Sprites || !QFileInfo(path).isDir()) {
+        return {path};
+    }
+    QStringList files;
+    const QStringList names = QDir(path).entryList(QDir::Files | QDir::NoSymLinks, QDir::Name);
+    for (const QString& name : names) {
+        files.append(QDir::cleanPath(path) + QLatin1Char('/') + name);
+    }
+    return files;
+}
+
 QVector<FileReference> fileReferences(const FamilyDocument* document)
 {
     QVector<FileReference> list;

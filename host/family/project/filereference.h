@@ -2,7 +2,7 @@
 
 #include "core/fileid.h"
 
-#include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace Zorv {
@@ -28,6 +28,12 @@ constexpr auto ResourceFile = Zorv::FileID::Type(64);
 
 /// True for a kind that is loaded as a document.
 bool isCodeFile(Zorv::FileID::Type type);
+
+/// True for a kind that is loaded as a collection: sprites and sounds.
+bool isAssetFile(Zorv::FileID::Type type);
+
+/// The files behind the path of a reference: itself, or all files of a folder of sprites.
+QStringList filesBehind(Zorv::FileID::Type type, const QString& path);
 
 /// What a key of a group names, if it names a file.
 Zorv::FileID::Type namedFileType(const QString& group, const QString& key);
