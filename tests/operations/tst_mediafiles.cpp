@@ -1,0 +1,234 @@
+#include "operations/media/filepatterns.h"
+
+#include "operations/hostinterface.h"
+#include "operations/media/assetnames.h"
+#include "operations/media/jobs.h"
+#include "operations/media/outputfiles.h"
+#include "operations/media/selection.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <atomic>
+
+using namespace Family;
+
+// In a folder of its own, which is the current one.
+class TestMediaFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void patterns_data();
+    void patterns();
+    void places_data();
+    void places();
+    void nothingIsReplaced();
+    void selections_data();
+    void selections();
+    void targets_data();
+    void targets();
+    void jobsKeepTheirOrder();
+
+private:
+    QTemporaryDir m_folder;
+    HostInterface m_host;
+};
+
+void TestMediaFiles::initTestCase()
+{
+    startHost(&m_host);
+    QVERIFY(QDir::setCurrent(m_folder.path()));
+    for (const char* name :
+         {"a/x10.png", "a/x9.png", "a/y.pcx", "b/x1.png", "b/[x].png", "B.png", ".hidden.png"}) {
+        QDir().mkpath(QFileInfo(name).path());
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+}
+
+void TestMediaFiles::patterns_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QString>("files");
+    const auto row = [](const char* names, const char* files) {
+        QTest::newRow(names) << QString(names).split(' ') << QString(files);
+    };
+    row("a/*.png", "a/x9.png a/x10.png");
+    row("a/x?.png", "a/x9.png");
+    row("*/x1*", "a/x10.png b/x1.png");
+    row("[ab]/[^y]*.png", "a/x9.png a/x10.png b/[x].png b/x1.png");
+    row("b/[x].png", "b/[x].png");
+    row("a/y.pcx a/* ./a/y.pcx", "a/y.pcx a/x9.png a/x10.png");
+    row("*.png", "B.png");
+    row("*.PNG", "");
+    row("a", "");
+    row("a/y.pcx nosuch", "");
+    row("a/*/*.png", "");
+}
+
+void TestMediaFiles::patterns()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QString, files);
+    QString error;
+    QCOMPARE(expandPatterns(names, &error).join(' '), files);
+    QCOMPARE(error.isEmpty(), !files.isEmpty());
+}
+
+void TestMediaFiles::places_data()
+{
+    QTest::addColumn<QString>("names");
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<QString>("paths");
+    const auto row = [](const char* names, const char* place, const char* format,
+                        const char* paths) {
+        QTest::newRow(qPrintable(QString("%1 > %2 %3").arg(names, place, format)))
+            << QString(names) << QString(place) << QByteArray(format) << QString(paths);
+    };
+    row("a/x9.png b/x1.png", "out", "", "out/x9.png out/x1.png");
+    row("a/x9.png b/x1.png", "out.d/", "PCX", "out.d/x9.pcx out.d/x1.pcx");
+    row("a/x9.png", "b", "", "b/x9.png");
+    row("a/x9.png", "b/new.pcx", "", "b/new.pcx");
+    row("a/x9.png b/x1.png", "o/*-2.gif", "", "o/x9-2.gif o/x1-2.gif");
+    row("a/x9.png", "o/*-2", "", "o/x9-2.png");
+    row("a/x9.png x.png", "", "PCX", "a/x9.pcx x.pcx");
+    row("7-1", "o", "PNG", "o/7-1.png");
+    row("a/x9.png b/x1.png", "one.png", "", "");
+    row("a/x.png b/x.png", "out", "", "");
+    row("a/x.png a/x.pcx", "", "BMP", "");
+}
+
+void TestMediaFiles::places()
+{
+    QFETCH(QString, names);
+    QFETCH(QString, place);
+    QFETCH(QByteArray, format);
+    QFETCH(QString, paths);
+    OutputFiles outputs;
+    OutputRequest request;
+    request.place = place;
+    request.format = format;
+    QString error;
+    QCOMPARE(outputs.plan(names.split(' '), request, {}, &error), !paths.isEmpty());
+    QStringList planned;
+    for (int i = 0; i < outputs.count() && error.isEmpty(); ++i) {
+        planned.append(outputs.path(i));
+    }
+    QCOMPARE(planned.join(' '), paths);
+}
+
+void TestMediaFiles::nothingIsReplaced()
+{
+    OutputFiles outputs;
+    OutputRequest request;
+    QString error;
+    QVERIFY(!outputs.plan({"a/y.pcx"}, request, {}, &error));
+    request.force = true;
+    QVERIFY(outputs.plan({"a/y.pcx"}, request, {}, &error));
+    QCOMPARE(outputs.write(0, "new"), QString());
+    // A file that comes between the plan and the writing stays.
+    request = {};
+    request.place = "late/";
+    QVERIFY(outputs.plan({"a/y.pcx"}, request, {}, &error));
+    QVERIFY(QDir().mkdir("late") && QFile::copy("a/y.pcx", "late/y.pcx"));
+    QVERIFY(!outputs.write(0, "other").isEmpty());
+    QFile file("late/y.pcx");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("new"));
+    QCOMPARE(QDir("late").entryList(QDir::Files | QDir::Hidden), QStringList("y.pcx"));
+}
+
+void TestMediaFiles::selections_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("meant");
+    const auto row = [](const char* text, const char* meant) {
+        QTest::newRow(text) << QString(text) << QString(meant);
+    };
+    row("200", "200,0 200,3");
+    row("200-201", "200,0 200,3 201,0");
+    row("200,3 65535", "200,3 65535,0");
+    for (const char* wrong :
+         {"", " ", "65536", "3-2", "a", "1,", "1-2,3", "1,65536", "-1", "1;2"}) {
+        row(wrong, "not read");
+    }
+}
+
+void TestMediaFiles::selections()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, meant);
+    Selection selection;
+    const bool isRead = selection.add(text);
+    QStringList found;
+    for (const char* id : {"200,0", "200,3", "201,0", "65535,0"}) {
+        const QStringList parts = QString(id).split(',');
+        if (selection.contains(parts[0].toInt(), parts[1].toInt())) {
+            found.append(id);
+        }
+    }
+    QCOMPARE(isRead ? found.join(' ') : QString("not read"), meant);
+    QVERIFY(isRead || selection.isAll());
+}
+
+void TestMediaFiles::targets_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("target");
+    const auto row = [](const char* name, const char* target) {
+        QTest::newRow(name) << QString(name) << QString(target);
+    };
+    row("200-3.png", "200,3 1");
+    row("in/ash-200-3_2.tar.png", "");
+    row("in/ash.v2-200-3_2.png", "200,3 2");
+    row("ash200-3.png", "200,3 1");
+    row("1-200-3.png", "200,3 1");
+    row("65536-0.png", "");
+    row("200_3.png", "");
+    row("200-3_0.png", "");
+    row("123456-1.png", "");
+}
+
+void TestMediaFiles::targets()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, target);
+    ImportTarget found;
+    const bool isFound = importTarget(name, &found);
+    QCOMPARE(isFound ? QString("%1 %2").arg(found.id.text()).arg(found.copy) : QString(), target);
+}
+
+// Results come in order, whatever order they are done in; and only a few are on their way.
+void TestMediaFiles::jobsKeepTheirOrder()
+{
+    std::atomic_int begun{0};
+    int most = 0;
+    QVector<int> taken;
+    const bool isDone = runJobs<int>(
+        "Work", 500,
+        [&](int i) -> std::function<int()> {
+            return [&begun, i] {
+                ++begun;
+                if (i % 7 == 0) {
+                    QThread::usleep(300);
+                }
+                return i;
+            };
+        },
+        [&](int i, const int& result) {
+            QCOMPARE(result, i);
+            taken.append(result);
+            most = qMax(most, begun - taken.size());
+        });
+    QVERIFY(isDone);
+    QCOMPARE(taken.size(), 500);
+    QVERIFY2(most <= QThread::idealThreadCount() * 4, qPrintable(QString::number(most)));
+}
+
+QTEST_MAIN(TestMediaFiles)
+#include "tst_mediafiles.moc"

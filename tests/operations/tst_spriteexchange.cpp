@@ -1,0 +1,178 @@
+#include "operations/media/spriteexport.h"
+#include "operations/media/spriteimport.h"
+#include "operations/media/spritesheet.h"
+
+#include "assets/newsprites.h"
+#include "assets/spritecollection.h"
+#include "media/losslessimages.h"
+#include "operations/hostinterface.h"
+
+#include <QDir>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Family;
+
+namespace {
+
+const quint32 Seed = 20260806;
+
+struct Release
+{
+    void operator()(SpriteCollection* sprites) const { sprites->release(); }
+};
+
+using Collection = std::unique_ptr<SpriteCollection, Release>;
+
+QVector<QRgb> randomTable(QRandomGenerator& random)
+{
+    QVector<QRgb> table{0x00ff00ff};
+    while (table.size() < 256) {
+        table.append(random.generate() | 0xff000000);
+    }
+    return table;
+}
+
+// One in four is of true colour.
+QImage randomImage(QRandomGenerator& random, const QVector<QVector<QRgb>>& tables)
+{
+    const QSize size(random.bounded(1, 40), random.bounded(1, 40));
+    const bool isIndexed = random.bounded(4) > 0;
+    QImage image(size, isIndexed ? QImage::Format_Indexed8 : QImage::Format_ARGB32);
+    if (isIndexed) {
+        image.setColorTable(tables[random.bounded(tables.size())]);
+    }
+    for (int y = 0; y < size.height(); ++y) {
+        uchar* line = image.scanLine(y);
+        for (int x = 0; x < size.width() * image.depth() / 8; ++x) {
+            line[x] = uchar(random.bounded(256));
+        }
+    }
+    return image;
+}
+
+Collection randomSprites(QRandomGenerator& random, int count)
+{
+    Collection sprites(newSprites("a.sprites"));
+    const QVector<QVector<QRgb>> tables{randomTable(random), randomTable(random)};
+    for (int i = 0; i < count; ++i) {
+        // Identifiers are met again now and then.
+        const AssetId id{quint16(random.bounded(3)), quint16(random.bounded(8))};
+        const QPoint axis(random.bounded(-100, 100), random.bounded(-100, 100));
+        sprites->insertSprite(int(sprites->count()) - 1, id, axis, randomImage(random, tables));
+    }
+    return sprites;
+}
+
+QStringList filesIn(const QString& folder)
+{
+    QStringList files;
+    const QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name);
+    for (const QString& name : names) {
+        files.append(QDir(folder).filePath(name));
+    }
+    return files;
+}
+
+}  // namespace
+
+class TestSpriteExchange : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        startHost(&m_host);
+        Zorv::setLosslessImages(true);
+        qInfo("seed %u", Seed);
+    }
+    void comesBack();
+    void standsOnTheSheet_data();
+    void standsOnTheSheet();
+    void isWholeOrNothing();
+
+private:
+    HostInterface m_host;
+};
+
+// Exported and imported, a collection is the same: sorted, for files have no order.
+void TestSpriteExchange::comesBack()
+{
+    QRandomGenerator random(Seed);
+    for (int round = 0; round < 8; ++round) {
+        QTemporaryDir folder;
+        const Collection sprites = randomSprites(random, 30);
+        OutputRequest request;
+        request.place = folder.path();
+        QCOMPARE(exportSprites(*sprites, {}, request).errors, QStringList());
+        const Collection again(newSprites("b.sprites"));
+        QCOMPARE(importSprites(again.get(), filesIn(folder.path()), {}).errors, QStringList());
+        sprites->autoOrganize();
+        again->autoOrganize();
+        QCOMPARE(again->count(), sprites->count());
+        for (int row = 0; row < int(sprites->count()); ++row) {
+            const FamilySprite* was = sprites->sprite(row);
+            const FamilySprite* is = again->sprite(row);
+            QCOMPARE(is->id().text(), was->id().text());
+            QCOMPARE(is->axis(), was->axis());
+            QCOMPARE(is->property("Palette"), was->property("Palette"));
+            QCOMPARE(is->image(), was->image());
+        }
+    }
+}
+
+void TestSpriteExchange::standsOnTheSheet_data()
+{
+    QTest::addColumn<int>("columns");
+    QTest::newRow("square") << 0;
+    QTest::newRow("one column") << 1;
+    QTest::newRow("one row") << 1000;
+}
+
+// Every sprite is found where the sheet says, and no two share a pixel.
+void TestSpriteExchange::standsOnTheSheet()
+{
+    QFETCH(int, columns);
+    QRandomGenerator random(Seed);
+    const Collection sprites = randomSprites(random, 25);
+    const SpriteSheet sheet = makeSpriteSheet(*sprites, {}, columns);
+    QCOMPARE(sheet.error, QString());
+    QCOMPARE(sheet.places.size(), 25);
+    QRegion taken;
+    for (const SpriteSheet::Place& place : sheet.places) {
+        QVERIFY(sheet.image.rect().contains(place.rect));
+        QVERIFY(!taken.intersects(place.rect));
+        taken += place.rect;
+        QCOMPARE(sheet.image.copy(place.rect).convertToFormat(QImage::Format_ARGB32),
+                 sprites->sprite(place.row)->image().convertToFormat(QImage::Format_ARGB32));
+    }
+}
+
+void TestSpriteExchange::isWholeOrNothing()
+{
+    QTemporaryDir folder;
+    const auto path = [&folder](const char* name) { return folder.filePath(name); };
+    QImage flat(8, 8, QImage::Format_Indexed8);
+    flat.setColorTable({qRgb(0, 0, 0), qRgb(9, 9, 9)});
+    flat.fill(1);
+    QVERIFY(flat.save(path("1-0.png")));
+    flat.setColorCount(200);
+    flat.fill(199);
+    QVERIFY(flat.save(path("1-1.png")));
+    const Collection sprites(newSprites("a.sprites"));
+    ImportRequest request;
+    request.codec = PixelCodec::Lz5;  // which has no place for index 199
+    const MediaResult result =
+        importSprites(sprites.get(), {path("1-0.png"), path("1-1.png")}, request);
+    QCOMPARE(result.errors.size(), 1);
+    QVERIFY(result.errors.first().contains("1-1.png"));
+    QCOMPARE(sprites->count(), 0u);
+    QCOMPARE(sprites->palettes()->count(), 0);
+}
+
+QTEST_MAIN(TestSpriteExchange)
+#include "tst_spriteexchange.moc"
