@@ -2,6 +2,7 @@
 
 #include "core/extensionmanager.h"
 #include "media/colorconversion.h"
+#include "media/formatdepth_p.h"
 #include "media/imagesize_p.h"
 #include "media/losslessimages.h"
 #include "media/pcx.h"
@@ -18,26 +19,12 @@ namespace Zorv {
 
 namespace {
 
-/// The library's own table, in which the four bytes of RGB32 count as three.
-int depthOf(QImage::Format format)
-{
-    switch (format) {
-    case QImage::Format_Indexed8:
-        return 8;
-    case QImage::Format_RGB32:
-        return 24;
-    case QImage::Format_ARGB32:
-        return 32;
-    default:
-        return 0;
-    }
-}
-
-/// Clears what stands behind each line. By the table that is a quarter of the pixels of RGB32,
-/// too, and all of a form that it does not name; hosts of the first release build on it.
+/// Clears what stands behind each line. By the library's table of depths that is a quarter of the
+/// pixels of RGB32, too, and all of a form that it does not name; hosts of the first release build
+/// on it.
 void clearLineEnds(QImage& image)
 {
-    const int length = int(qint64(image.width()) * depthOf(image.format()) / 8);
+    const int length = int(qint64(image.width()) * formatDepth(image.format()) / 8);
     const int stride = image.bytesPerLine();
     if (length < stride) {
         for (int y = 0; y < image.height(); ++y) {

@@ -25,14 +25,17 @@ ZORV_EXPORT ImageInfo imageInfoFromFile(QIODevice* device, const char* format);
 
 /// Reads an image file: the one gateway for all formats.
 ///
-/// `format` is "PNG", "BMP", "PCX", "GIF" (its first frame), in capitals, or the name of an
-/// `Extension` that loads images; `fileExtension()` makes it of a file name. The device is
-/// open; false otherwise. False leaves a null image or one that is cut short; no picture
-/// is read that declares more than the bytes of the file can honestly hold. See `losslessImages()`
-/// for what happens to true-colour images. Re-entrant, as long as no extension is added meanwhile.
+/// `format` is "PNG", "BMP", "PCX", "GIF" (its first frame, which need not be followed by whole
+/// ones), in capitals, or the name of an `Extension` that loads images; `fileExtension()` makes it
+/// of a file name. The device is open; false otherwise. The result is whether there is an image
+/// then, be it one that was there before; start with a null one, and see `losslessImages()`
+/// for files that are cut short and for what happens to true-colour images. No picture is read that
+/// declares more than the bytes of the file can honestly hold. Re-entrant, as long as no extension
+/// is added meanwhile.
 ZORV_EXPORT bool loadImage(QIODevice* device, const char* format, QImage& image);
 
-/// Writes an image file; formats as above. False for a null image, a device that is not
+/// Writes an image file; formats as above. As GIF, a true-colour image of more than 256 colours
+/// is quantized, and alpha below 128 is transparent. False for a null image, a device that is not
 /// writable, a format that nobody writes, or a failure.
 ZORV_EXPORT bool saveImage(QIODevice* device, const char* format, const QImage& image);
 
