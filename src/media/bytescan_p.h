@@ -74,4 +74,23 @@ inline quint64 runEnds(const uchar* at)
     return ~same;
 }
 
+/// A bit for each of 64 bytes that has the bits of `value` within `mask`.
+inline quint64 placesOf(const uchar* at, quint8 mask, quint8 value)
+{
+    quint64 places = 0;
+#ifdef __SSE2__
+    for (int i = 0; i < 64; i += 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + i));
+        const __m128i masked = _mm_and_si128(bytes, _mm_set1_epi8(char(mask)));
+        const __m128i equal = _mm_cmpeq_epi8(masked, _mm_set1_epi8(char(value)));
+        places |= quint64(unsigned(_mm_movemask_epi8(equal))) << i;
+    }
+#else
+    for (int i = 0; i < 64; i += 8) {
+        places |= quint64(zeroBytes((load(at + i) & eachByte(mask)) ^ eachByte(value))) << i;
+    }
+#endif
+    return places;
+}
+
 }  // namespace Zorv::ByteScan

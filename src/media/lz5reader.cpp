@@ -69,12 +69,12 @@ uchar* copyPixels(uchar* out, int distance, int length)
     uchar* const end = out + length;
     const uchar* const from = out - distance;
     // What repeats every n pixels repeats every 2n as well: the gap doubles up to a stride.
-    while (distance < Stride && out < end) {
+    for (; distance < Stride; distance *= 2) {
         copyStride(out, from);
         out += distance;
-        distance *= 2;
     }
-    for (; out < end; out += Stride) {
+    copyStride(out, out - distance);
+    for (out += Stride; out < end; out += Stride) {
         copyStride(out, out - distance);
     }
     return end;

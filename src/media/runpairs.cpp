@@ -20,9 +20,27 @@ constexpr quint64 markedBytes(quint64 bytes)
 }
 
 constexpr int BlockSize = 64;
-/// A pair for each two values, and a run that began in front of the block.
-constexpr int BlockRoom = 2 * BlockSize + 8;
+/// A pair for each value, a run that began in front of the block, and what is written too many.
+constexpr int BlockRoom = 2 * BlockSize + 32;
 static_assert(BlockRoom <= ByteSink::Room);
+
+/// Sixteen bytes at once: mostly there are no more. Reads and writes up to fifteen too many.
+void copySingles(uchar* out, const uchar* in, qint64 count)
+{
+    std::memcpy(out, in, 16);
+    for (int i = 16; i < count; i += 16) {
+        std::memcpy(out + i, in + i, 16);
+    }
+}
+
+/// The same for a run.
+void writeValues(uchar* out, uchar value, int count)
+{
+    std::memset(out, value, 16);
+    if (count > 16) {
+        std::memset(out + 16, value, LongestRun + 1 - 16);
+    }
+}
 
 /// What has been encoded of a stretch, up to the run that starts at `in`.
 template <RunMarker marker>
@@ -31,26 +49,36 @@ struct Encoder
     const uchar* in;
     uchar* out;
 
-    void pair(int length)
+    void pairTo(const uchar* end)
     {
-        *out++ = uchar(marker) | uchar(length);
+        *out++ = uchar(marker) | uchar(end - in);
         *out++ = *in;
-        in += length;
+        in = end;
     }
 
-    /// The run ends at `end`.
+    void singlesTo(const uchar* end)
+    {
+        const auto count = end - in;
+        copySingles(out, in, count);
+        out += count;
+        in = end;
+    }
+
     void runTo(const uchar* end)
     {
-        while (end - in > LongestRun) {
-            pair(LongestRun);
+        if (end - in > 1 || (*in & 0xC0) == uchar(marker)) {
+            pairTo(end);
+        } else {
+            *out++ = *in++;
         }
-        // Without a branch: single values and pairs follow each other in no order.
-        const auto length = end - in;
-        const bool isPair = length > 1 || (*in & 0xC0) == uchar(marker);
-        out[0] = uchar(marker) | uchar(length);
-        out[isPair] = *in;
-        out += 1 + isPair;
-        in = end;
+    }
+
+    /// Pairs of the longest run, as long as a run goes on to `end` at least.
+    void longestTo(const uchar* end)
+    {
+        while (end - in > LongestRun) {
+            pairTo(in + LongestRun);
+        }
     }
 
     /// Runs that end at the places that have a bit.
@@ -61,30 +89,63 @@ struct Encoder
         }
     }
 
-    /// The same where hardly any value stands in a longer run.
-    void singles(const uchar* block, quint64 ends)
+    /// The same without branches, for single values and pairs in no order.
+    void mixed(const uchar* block, quint64 ends)
     {
-        for (int first = 0; first < BlockSize; first += 8, ends >>= 8) {
-            if ((ends & 0xFF) == 0xFF && in == block + first &&
-                !markedBytes<marker>(ByteScan::load(in))) {
-                std::memcpy(out, in, 8);
-                in += 8;
-                out += 8;
-            } else {
-                runs(block + first, ends & 0xFF);
-            }
+        const quint64 starts = ends << 1 | quint64(in == block);
+        if (in != block) {
+            runTo(block + qCountTrailingZeroBits(ends) + 1);
         }
+        const int behind = BlockSize - int(qCountLeadingZeroBits(ends));
+        const quint64 ended = ~quint64(0) >> (BlockSize - behind);
+        quint64 pairs = starts & ended & (~ends | ByteScan::placesOf(block, 0xC0, uchar(marker)));
+        for (; pairs; pairs &= pairs - 1) {
+            const int start = int(qCountTrailingZeroBits(pairs));
+            singlesTo(block + start);
+            pairTo(in + qCountTrailingZeroBits(ends >> start) + 1);
+        }
+        singlesTo(block + behind);
     }
 };
 
-/// Sixteen bytes at once, most runs are no longer.
-uchar* writeValues(uchar* out, uchar value, int count)
+/// What a block can become, and more than may be written past it.
+constexpr int DecodedBlock = BlockSize / 2 * LongestRun + 64;
+
+void decodePair(const uchar* pair, uchar*& out)
 {
-    std::memset(out, value, 16);
-    if (count > 16) {
-        std::memset(out + 16, value, LongestRun + 1 - 16);
+    const int count = pair[0] & LongestRun;
+    writeValues(out, pair[1], count);
+    out += count;
+}
+
+/// Decodes the pairs that start in a block, and the single values between them.
+template <RunMarker marker>
+void decodeBlock(const uchar*& in, uchar*& out)
+{
+    constexpr quint64 everySecond = ByteScan::eachByte(0x55);
+    const uchar* const block = in;
+    quint64 marks = ByteScan::placesOf(block, 0xC0, uchar(marker));
+    if ((marks & everySecond) == everySecond) {
+        for (; in < block + BlockSize; in += 2) {
+            decodePair(in, out);
+        }
+        return;
     }
-    return out + count;
+    while (marks) {
+        const int start = int(qCountTrailingZeroBits(marks));
+        const uchar* const pair = block + start;
+        copySingles(out, in, pair - in);
+        out += pair - in;
+        decodePair(pair, out);
+        in = pair + 2;
+        // The value may look like a mark.
+        marks &= ~(quint64(3) << start);
+    }
+    if (in < block + BlockSize) {
+        copySingles(out, in, block + BlockSize - in);
+        out += block + BlockSize - in;
+        in = block + BlockSize;
+    }
 }
 
 }  // namespace
@@ -102,10 +163,15 @@ qint64 RunPairReader<marker>::read(uchar* values, qint64 count)
     while (out < end && m_source.more(2)) {
         const uchar* in = m_source.at();
         const uchar* const inEnd = m_source.end();
+        while (inEnd - in > BlockSize && end - out >= DecodedBlock) {
+            decodeBlock<marker>(in, out);
+        }
         do {
             const quint64 marks = markedBytes<marker>(ByteScan::load(in));
             if (marks & 0x80) {
-                out = writeValues(out, m_value = in[1], in[0] & LongestRun);
+                m_value = in[1];
+                writeValues(out, m_value, in[0] & LongestRun);
+                out += in[0] & LongestRun;
                 in += 2;
                 continue;
             }
@@ -136,13 +202,12 @@ void writeRunPairs(const uchar* values, qint64 count, ByteSink& sink)
             ends = (ends | last) & (last | (last - 1));
         }
         encoder.out = sink.room(BlockRoom);
-        if (qPopulationCount(ends) > BlockSize * 7 / 8) {
-            encoder.singles(block, ends);
+        // Only the first run of a block can be longer than a pair holds.
+        encoder.longestTo(block + (ends ? qCountTrailingZeroBits(ends) + 1 : BlockSize));
+        if (qPopulationCount(ends) > BlockSize / 4) {
+            encoder.mixed(block, ends);
         } else {
             encoder.runs(block, ends);
-        }
-        while (block + BlockSize - encoder.in >= LongestRun && encoder.in < values + count) {
-            encoder.pair(LongestRun);
         }
         sink.take(encoder.out);
     }

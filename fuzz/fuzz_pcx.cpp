@@ -1,0 +1,43 @@
+#include "media/pcx.h"
+
+#include "support/plaincodecs.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <cstdint>
+#include <cstdlib>
+
+static void require(bool holds)
+{
+    if (!holds) {
+        abort();
+    }
+}
+
+/// A file, read as a stream reads it a byte at a time if it is small; what was read is
+/// written and comes back.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
+{
+    QBuffer buffer;
+    buffer.setData(reinterpret_cast<const char*>(bytes), int(size));
+    QImage image;
+    const bool read = Zorv::loadPCX(image, &buffer);
+    require(!read || !image.isNull());
+    if (image.isNull() || image.sizeInBytes() > 1 << 16) {
+        return 0;
+    }
+    QBuffer plainBuffer;
+    plainBuffer.setData(buffer.data());
+    plainBuffer.open(QIODevice::ReadOnly);
+    QImage plain;
+    require(Plain::loadPcx(plain, &plainBuffer) == read && plain == image);
+
+    QBuffer written;
+    require(Zorv::savePCX(image, &written));
+    written.close();
+    QImage back;
+    require(Zorv::loadPCX(back, &written));
+    require(back.constBits() && back.size() == image.size() && back.format() == image.format());
+    return 0;
+}
