@@ -98,6 +98,7 @@ void FamilySprite::duplicate()
     auto copy = std::make_shared<FamilySprite>(m_sprites);
     copy->state = state;
     copy->state.record.clear();
+    copy->state.file.clear();
     copy->state.id = m_sprites->freeId(state.id);
     const AssetHistory::Step step(m_sprites->editHistory(), tr("Duplicate sprite"));
     m_sprites->insertBehind(this, {copy});
@@ -251,7 +252,7 @@ void FamilySprite::splitChannels()
         }
         auto sprite = std::make_shared<FamilySprite>(m_sprites);
         id = m_sprites->freeId(AssetId::fromKey(id.key() + 1));
-        sprite->state = {id, state.axis, m_sprites->store()->add(levels), palette, {}};
+        sprite->state = {id, state.axis, m_sprites->store()->add(levels), palette, {}, {}};
         added.append(sprite);
     }
     m_sprites->insertBehind(this, added);

@@ -30,6 +30,7 @@ public:
         PixelRef pixels;  ///< null for a sprite without pixels
         std::shared_ptr<FamilyPalette> palette;
         QByteArray record;  ///< as the file has it, if it is broken there
+        QString file;       ///< its image in a loose folder; empty if it has none yet
     };
 
     explicit FamilySprite(SpriteCollection* sprites);

@@ -28,18 +28,7 @@ const struct
     {PixelCodec::Pcx, "PCX", 63},  {PixelCodec::Gif, "GIF", 4096},
 };
 
-// A PNG declares its size in its first chunk. It must be that of the record before anything is
-// taken for its pixels.
-bool pngHasSize(const QByteArray& stream, QSize size)
-{
-    constexpr int WidthAt = 16;
-    constexpr int HeightAt = 20;
-    return stream.size() > HeightAt + 4 &&
-           qFromBigEndian<quint32>(stream.constData() + WidthAt) == quint32(size.width()) &&
-           qFromBigEndian<quint32>(stream.constData() + HeightAt) == quint32(size.height());
-}
-
-bool canHold(const PixelFormat& format, const QByteArray& stream)
+bool canHold(const PixelFormat& format, qint64 streamSize)
 {
     const QSize size = format.size;
     if (size.width() < 1 || size.height() < 1 || size.width() > LargestSprite ||
@@ -48,31 +37,25 @@ bool canHold(const PixelFormat& format, const QByteArray& stream)
     }
     const auto* codec = std::find_if(std::begin(codecs), std::end(codecs),
                                      [&](const auto& row) { return row.codec == format.codec; });
-    if (codec == std::end(codecs) ||
-        qint64(size.width()) * size.height() > qint64(stream.size()) * codec->mostPixels) {
-        return false;
+    return codec != std::end(codecs) &&
+           qint64(size.width()) * size.height() <= streamSize * codec->mostPixels;
+}
+
+// A PNG declares its size in its first chunk, 32 bits each.
+QSize declaredPngSize(const QByteArray& file)
+{
+    constexpr int WidthAt = 16;
+    constexpr int HeightAt = 20;
+    if (file.size() < HeightAt + 4) {
+        return {};
     }
-    return format.codec != PixelCodec::Png || pngHasSize(stream, size);
+    return {int(qFromBigEndian<quint32>(file.constData() + WidthAt) & 0x7fffffff),
+            int(qFromBigEndian<quint32>(file.constData() + HeightAt) & 0x7fffffff)};
 }
 
 bool unpackInPlace(PixelCodec codec, QImage& image, QBuffer* buffer)
 {
     return codec == PixelCodec::Lz5 ? Zorv::loadLZ5(image, buffer) : Zorv::loadRLE8(image, buffer);
-}
-
-QByteArray unpackFile(const PixelFormat& format, QBuffer* buffer)
-{
-    QImage image;
-    if (format.codec == PixelCodec::Png) {
-        Zorv::loadPNG(image, buffer);
-    } else if (format.codec == PixelCodec::Pcx && !Zorv::loadPCX(image, buffer)) {
-        return {};
-    } else if (format.codec == PixelCodec::Gif) {
-        Zorv::loadImage(buffer, "GIF", image);
-    }
-    image = normalizedImage(image);
-    const bool fits = image.size() == format.size && image.depth() == format.bits;
-    return fits ? rowsOfImage(image) : QByteArray();
 }
 
 bool isOpaque(const QImage& image)
@@ -142,20 +125,44 @@ PixelCodec codecByName(const QString& name)
     return PixelCodec::None;
 }
 
+QImage readImageFile(PixelCodec codec, const QByteArray& file)
+{
+    QBuffer buffer;
+    buffer.setData(file);
+    buffer.open(QIODevice::ReadOnly);
+    QImage image;
+    if (codec == PixelCodec::Png) {
+        if (canHold({declaredPngSize(file), 8, codec}, file.size())) {
+            Zorv::loadPNG(image, &buffer);
+        }
+    } else if (codec == PixelCodec::Gif) {
+        Zorv::loadImage(&buffer, "GIF", image);
+    } else if (codec != PixelCodec::Pcx || !Zorv::loadPCX(image, &buffer)) {
+        return {};
+    }
+    image = normalizedImage(image);
+    return canHold({image.size(), image.depth(), codec}, file.size()) ? image : QImage();
+}
+
 QByteArray unpackPixels(const PixelFormat& format, const QByteArray& stream)
 {
-    if (!canHold(format, stream)) {
+    if (!canHold(format, stream.size())) {
+        return {};
+    }
+    if (format.codec != PixelCodec::Lz5 && format.codec != PixelCodec::Rle8) {
+        if (format.codec == PixelCodec::Png && declaredPngSize(stream) != format.size) {
+            return {};
+        }
+        const QImage image = readImageFile(format.codec, stream);
+        const bool fits = image.size() == format.size && image.depth() == format.bits;
+        return fits ? rowsOfImage(image) : QByteArray();
+    }
+    if (format.bits != 8) {
         return {};
     }
     QBuffer buffer;
     buffer.setData(stream);
     buffer.open(QIODevice::ReadOnly);
-    if (format.codec != PixelCodec::Lz5 && format.codec != PixelCodec::Rle8) {
-        return unpackFile(format, &buffer);
-    }
-    if (format.bits != 8) {
-        return {};
-    }
     QByteArray rows(int(format.byteCount()), Qt::Uninitialized);
     QImage image(reinterpret_cast<uchar*>(rows.data()), format.size.width(), format.size.height(),
                  format.size.width(), QImage::Format_Indexed8);

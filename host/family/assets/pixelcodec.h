@@ -38,6 +38,11 @@ PixelCodec codecByName(const QString& name);
 /// more than its bytes can hold. Any thread.
 QByteArray unpackPixels(const PixelFormat& format, const QByteArray& stream);
 
+/// Reads an image file of a codec that is one (PNG, PCX, the first frame of GIF), in one of the
+/// forms of sprites. Null if it is broken, too large for a sprite, or declares more than its bytes
+/// can hold. Any thread.
+QImage readImageFile(PixelCodec codec, const QByteArray& file);
+
 /// Packs rows. Empty if the codec would lose something, as LZ5 an index of 32 and more, or has no
 /// place for the form. Any thread.
 QByteArray packPixels(const PixelFormat& format, const QByteArray& rows);

@@ -142,15 +142,20 @@ void PixelStore::forget(const PixelData* data)
     m_unpacked.remove(data);
 }
 
-void PixelStore::takeIn(PixelData* data)
+void PixelStore::takeIn(const QString& fileName)
 {
-    const QByteArray bytes = stream(data);
-    m_byItem.remove(data->item);
-    data->reset();
-    data->cache = m_cache.get();
-    data->fromData(bytes, uchar(data->format.codec), data,
-                   decodedChecksum(data->pixelCrc, data->format));
-    m_byItem.insert(data->item, data);
+    const auto known = m_byItem.values();
+    for (PixelData* data : known) {
+        if (data->cache == m_files.get() && data->fileName() == fileName) {
+            const QByteArray bytes = stream(data);
+            m_byItem.remove(data->item);
+            data->reset();
+            data->cache = m_cache.get();
+            data->fromData(bytes, uchar(data->format.codec), data,
+                           decodedChecksum(data->pixelCrc, data->format));
+            m_byItem.insert(data->item, data);
+        }
+    }
 }
 
 void PixelStore::unpack(unsigned char, void* filterData, const QByteArray& source,

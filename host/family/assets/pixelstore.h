@@ -56,8 +56,9 @@ public:
     /// Forgets what was unpacked.
     void forget(const PixelData* data);
 
-    /// Brings the bytes of a file of a loose folder into the cache; for before it is written over.
-    void takeIn(PixelData* data);
+    /// Brings the bytes of a file of a loose folder into the cache, if pixels are in it; for before
+    /// it is written over or removed.
+    void takeIn(const QString& fileName);
 
 private:
     void unpack(unsigned char type, void* filterData, const QByteArray& source, QByteArray& target);

@@ -1,0 +1,116 @@
+// A file of 20,000 sprites: opening it beside unpacking them all, unpacking with two threads beside
+// one, and how adding sprites grows with their number.
+
+#include "support/bench.h"
+
+#include "assets/spritefile.h"
+#include "assets/spritejobs.h"
+#include "core/filesystemarchive.h"
+
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include <atomic>
+#include <numeric>
+
+using namespace Family;
+
+namespace {
+
+constexpr int Count = 20000;
+constexpr int Rounds = 5;
+
+/// A figure of flat colours with outlines and some dither, each one different.
+QImage picture(int kind)
+{
+    constexpr int Width = 80;
+    constexpr int Height = 100;
+    QImage image(Width, Height, QImage::Format_Indexed8);
+    image.setColorTable(tableOfColors(greyColors()));
+    image.fill(0);
+    for (int y = 4; y < Height - 4; ++y) {
+        uchar* row = image.scanLine(y);
+        const int left = 20 + (y * (kind % 7 + 1) / 9 + kind / 7) % 15;
+        const int right = Width - 16 - (y * (kind % 5 + 2) / 11 + kind) % 17;
+        for (int x = left; x < right; ++x) {
+            const bool isEdge = x == left || x == right - 1;
+            const int shade = 2 + (x + kind / 100) / 12 + (y / 20) * 4;
+            row[x] = uchar(isEdge ? 1 : (shade + ((x ^ y) & (kind >> 4) & 1)) % 30);
+        }
+    }
+    // Makes every picture another one.
+    for (int bit = 0; bit < 16; ++bit) {
+        image.scanLine(0)[bit] = uchar(kind >> bit & 1);
+    }
+    return image;
+}
+
+void add(SpriteFile& file, const QVector<QImage>& pictures, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        file.addSprite()->setImage(pictures[i]);
+    }
+    file.refresh();
+}
+
+void unpackAll(const SpriteFile& file, int threads)
+{
+    ImageJob job;
+    job.rows.resize(int(file.count()));
+    std::iota(job.rows.begin(), job.rows.end(), 0);
+    std::atomic_int empty{0};
+    job.work = [&](int, const QImage& image) { empty += image.isNull() ? 1 : 0; };
+    job.threads = threads;
+    if (!forEachImage(file, job) || empty > 0) {
+        std::printf("%d sprites could not be unpacked\n", empty.load());
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    QVector<QImage> pictures;
+    for (int i = 0; i < Count; ++i) {
+        pictures.append(picture(i));
+    }
+    QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("many.sprites"));
+    auto& archive = *Zorv::FileSystemArchive::instance();
+    {
+        SpriteFile file;
+        add(file, pictures, Count);
+        if (!file.toFile(archive, name, false)) {
+            std::printf("%s\n", qPrintable(file.errorString()));
+            return 1;
+        }
+    }
+    Bench::figure("bytes of a sprite in the file", double(QFileInfo(name).size()) / Count, "bytes");
+
+    SpriteFile file;
+    const double opening = Bench::median(Rounds, [&] { file.fromFile(archive, name, false); });
+    const double unpacking = Bench::median(Rounds, [&] { unpackAll(file, 1); });
+    Bench::figure("opening a file of 20,000 sprites", opening, "ms");
+    Bench::figure("unpacking all of them", unpacking, "ms");
+    Bench::ratio("opening / unpacking all", opening, unpacking, 0.1);
+    Bench::figure("unpacking with one thread / with two",
+                  1 / Bench::pairedRatio(
+                          Rounds, [&] { unpackAll(file, 2); }, [&] { unpackAll(file, 1); }),
+                  "times (at least 1.70)");
+
+    const auto adding = [&](int count) {
+        return Bench::median(3, [&] {
+            SpriteFile fresh;
+            add(fresh, pictures, count);
+        });
+    };
+    const double half = adding(Count / 2);
+    const double whole = adding(Count);
+    Bench::figure("adding 20,000 sprites", whole, "ms");
+    Bench::ratio("adding 20,000 / adding 10,000", whole, half, 2.2);
+    const double again = Bench::once([&] { add(file, pictures, Count); });
+    Bench::ratio("adding 20,000 that are there / adding them as new ones", again, whole);
+    return 0;
+}
