@@ -73,13 +73,14 @@ QByteArray fileBytes(const QString& name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void runSox(const QStringList& arguments)
+/// In a folder; words are parted by blanks.
+void runSox(const QTemporaryDir& folder, const QString& words)
 {
     QProcess sox;
-    sox.start(QStringLiteral("sox"), arguments);
-    const bool hasRun = sox.waitForFinished();
-    QVERIFY2(hasRun && sox.exitCode() == 0,
-             ("sox has to be installed: " + sox.readAllStandardError()).constData());
+    sox.setWorkingDirectory(folder.path());
+    sox.start(QStringLiteral("sox"), words.split(QLatin1Char(' ')));
+    const bool hasRun = sox.waitForFinished() && sox.exitCode() == 0;
+    QVERIFY2(hasRun, ("sox has to be installed: " + sox.readAllStandardError()).constData());
 }
 
 class Loader : public Zorv::Extension
@@ -134,38 +135,30 @@ void tst_WAV::filesOfSox()
     QFETCH(const int, bits);
     QFETCH(const int, channels);
     const QTemporaryDir folder;
-    const QString wav = folder.filePath(QStringLiteral("a.wav"));
-    const QString raw = folder.filePath(QStringLiteral("a.raw"));
-    const QString again = folder.filePath(QStringLiteral("b.wav"));
-    const QString rawAgain = folder.filePath(QStringLiteral("b.raw"));
-    const QString encoding =
-        bits == 8 ? QStringLiteral("unsigned-integer") : QStringLiteral("signed-integer");
-    const QStringList rawForm{QStringLiteral("-t"), QStringLiteral("raw"),
-                              QStringLiteral("-e"), encoding,
-                              QStringLiteral("-b"), QString::number(bits)};
     // The plain form of a WAV file, which sox leaves otherwise for samples of more than 16 bits.
-    const QStringList plainForm{QStringLiteral("-t"), QStringLiteral("wavpcm")};
-    runSox(QStringList{QStringLiteral("-D"), QStringLiteral("-R"), QStringLiteral("-r"),
-                       QStringLiteral("22050"), QStringLiteral("-n"), QStringLiteral("-b"),
-                       QString::number(bits), QStringLiteral("-c"), QString::number(channels)} +
-           plainForm +
-           QStringList{wav, QStringLiteral("synth"), QStringLiteral("1001s"),
-                       QStringLiteral("sine"), QStringLiteral("440")});
-    runSox(QStringList{QStringLiteral("-D"), wav} + rawForm + QStringList{raw});
+    runSox(folder,
+           QStringLiteral("-D -R -r 22050 -n -b %1 -c %2 -t wavpcm a.wav synth 1001s sine 440")
+               .arg(bits)
+               .arg(channels));
+    const QString raw = QStringLiteral("-D %3 -t raw -e %1-integer -b %2 %3.raw")
+                            .arg(bits == 8 ? QStringLiteral("unsigned") : QStringLiteral("signed"))
+                            .arg(bits);
+    runSox(folder, raw.arg(QStringLiteral("a.wav")));
+    const QByteArray samples = fileBytes(folder.filePath(QStringLiteral("a.wav.raw")));
 
-    const QByteArray bytes = fileBytes(wav);
+    const QByteArray bytes = fileBytes(folder.filePath(QStringLiteral("a.wav")));
     const SoundSample sample = read(bytes);
     const QByteArray expected =
         QByteArray::number(channels) + " x " + QByteArray::number(bits) + ", 22050 Hz, 1001";
     QCOMPARE(text(sample), expected);
     QCOMPARE(text(info(bytes)), expected);
-    QCOMPARE(sample.data, fileBytes(raw));
+    QCOMPARE(sample.data, samples);
 
-    QFile file(again);
+    QFile file(folder.filePath(QStringLiteral("b.wav")));
     QVERIFY(Zorv::soundToWAV(sample, &file));
     QVERIFY(!file.isOpen());
-    runSox(QStringList{QStringLiteral("-D"), again} + rawForm + QStringList{rawAgain});
-    QCOMPARE(fileBytes(rawAgain), fileBytes(raw));
+    runSox(folder, raw.arg(QStringLiteral("b.wav")));
+    QCOMPARE(fileBytes(folder.filePath(QStringLiteral("b.wav.raw"))), samples);
 }
 
 void tst_WAV::byHand_data()
