@@ -69,7 +69,7 @@ bool shape(QImage& image, const QPCXHeader& header, QImage::Format format, qint6
 /// green, red.
 constexpr int swapped(int offset, bool colored)
 {
-    return colored ? offset ^ (~offset << 1 & 2) : offset;
+    return colored ? offset ^ (~offset & 1) << 1 : offset;
 }
 
 void placePlane(QImage& image, int y, int plane, const QPCXHeader& header, const uchar* values)

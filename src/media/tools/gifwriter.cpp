@@ -106,6 +106,9 @@ void GIFWriter::beginFrame(const GIFImage::SubImage& frame, const QSize& size,
         const size_t count = EGifGCBToExtension(&control, bytes);
         check(EGifPutExtension(m_file, GRAPHICS_EXT_FUNC_CODE, int(count), bytes));
     }
+    // giflib forgets the local table of the frame before one without.
+    GifFreeMapObject(m_file->Image.ColorMap);
+    m_file->Image.ColorMap = nullptr;
     const Map map = mapOf(colors);
     check(EGifPutImageDesc(m_file, frame.left, frame.top, size.width(), size.height(),
                            frame.interlaced, map.get()));
