@@ -22,27 +22,36 @@ void nearest(const QImage& image, const QSize& size, const char* name)
 #ifdef ZORV_BENCH_AVFILTER
 using Scale = QImage (*)(const QImage&, int);
 
-void against(const char* filter, Scale scale, const QImage& image, int factor, double limit)
+void against(const char* filter, Scale scale, const QImage& picture, int factor, double limit)
 {
+    const QImage image = picture.convertToFormat(QImage::Format_RGB32);
     FilterGraph graph(image, filter, factor);
     if (!graph.isValid() || !graph.run()) {
         std::printf("ffmpeg has no filter %s\n", filter);
         return;
     }
     const double ratio = Bench::pairedRatio(
-        Rounds, [&] { scale(image, factor); }, [&graph] { graph.run(); });
+        Rounds, [&] { scale(picture, factor); }, [&graph] { graph.run(); });
     const QImage expected = graph.result();
-    const QImage made = scale(image, factor).convertToFormat(expected.format());
-    const QByteArray name = "scaled by " + QByteArray::number(factor) + " to ffmpeg's " + filter +
-                            (made == expected ? ", same pixels" : ", other pixels");
+    const QImage made = scale(picture, factor).convertToFormat(expected.format());
+    const QByteArray name =
+        QByteArray(picture.depth() == 8 ? "indexed " : "") + QByteArray::number(image.width()) +
+        " x " + QByteArray::number(image.height()) + " by " + QByteArray::number(factor) +
+        ", to ffmpeg's " + filter + (made == expected ? ", same pixels" : ", other pixels");
     Bench::ratio(name.constData(), ratio, 1, limit);
 }
 
-void againstFilters(const QImage& image)
+void againstFilters(const QImage& indexed)
 {
-    against("epx", scaleEpx, image, 2, 0.2);
+    const QImage image = indexed.convertToFormat(QImage::Format_RGB32);
+    for (const int side : {128, 256, 512}) {
+        const QRect part(0, 0, side, side);
+        against("epx", scaleEpx, indexed.copy(part), 2, 0.2);
+        against("epx", scaleEpx, image.copy(part), 2, 0.2);
+    }
     against("epx", scaleEpx, image, 3, 0);
     for (int factor = 2; factor <= 4; ++factor) {
+        against("hqx", scaleHq, image.copy(0, 0, 128, 128), factor, 0.5);
         against("hqx", scaleHq, image, factor, 0.5);
     }
 }
@@ -61,11 +70,9 @@ int main()
     nearest(image, {1024, 1024}, "indexed 512 x 512 to 1024 x 1024, to QImage::scaled");
     nearest(image, {700, 600}, "indexed 512 x 512 to 700 x 600, to QImage::scaled");
     nearest(image, {300, 400}, "indexed 512 x 512 to 300 x 400, to QImage::scaled");
-    QImage opaque = image.convertToFormat(QImage::Format_ARGB32);
-    QPainter painter(&opaque);
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
-    painter.fillRect(opaque.rect(), QColor(90, 120, 200));
-    painter.end();
-    againstFilters(opaque.convertToFormat(QImage::Format_RGB32));
+    // The filters know no alpha.
+    QImage opaque = image;
+    opaque.setColor(0, qRgb(90, 120, 200));
+    againstFilters(opaque);
     return 0;
 }

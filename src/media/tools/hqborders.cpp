@@ -1,8 +1,7 @@
 #include "media/tools/hqborders_p.h"
 
-#include <QRgb>
-
 #include <algorithm>
+#include <array>
 
 namespace Zorv {
 
@@ -15,9 +14,64 @@ const quint8 BlueThreshold = 0x07;
 const quint8 RedThreshold = 0x06;
 const quint8 AlphaThreshold = 0x30;
 
-bool apart(quint8 a, quint8 b, quint8 threshold)
+/// How much more than a threshold two values differ.
+quint8 excess(quint8 a, quint8 b, quint8 threshold)
 {
-    return quint8(std::max(a, b) - std::min(a, b)) > threshold;
+    const auto difference = quint8(std::max(a, b) - std::min(a, b));
+    return quint8(std::max(difference, threshold) - threshold);
+}
+
+// These loops have one simple step each and work on plain pointers, so that the compiler makes
+// vectors of them.
+
+/// A pixel in a row, as it is compared.
+struct Planes
+{
+    Planes(const HqRow& row, int first)
+        : luma(row.luma.data() + first), blue(row.blue.data() + first), red(row.red.data() + first),
+          alpha(row.alpha.data() + first)
+    {
+    }
+
+    const quint8* luma;
+    const quint8* blue;
+    const quint8* red;
+    const quint8* alpha;
+};
+
+void markDifferent(Planes p, Planes q, quint8* bits, quint8 bit, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto more = quint8(excess(p.luma[i], q.luma[i], LumaThreshold) |
+                                 excess(p.blue[i], q.blue[i], BlueThreshold) |
+                                 excess(p.red[i], q.red[i], RedThreshold) |
+                                 excess(p.alpha[i], q.alpha[i], AlphaThreshold));
+        bits[i] = quint8(bits[i] | (more != 0 ? bit : 0));
+    }
+}
+
+void markUnequal(const quint32* upper, const quint32* lower, quint8* bits, quint8 bit,
+                 std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i) {
+        const quint32 difference =
+            (upper[i] ^ upper[i + 1]) | (upper[i] ^ lower[i]) | (upper[i] ^ lower[i + 1]);
+        bits[i] = difference != 0 ? bit : 0;
+    }
+}
+
+/// One of the parts that are compared: weights of red, green and blue in thousandths.
+void project(const quint32* pixels, quint8* values, std::size_t count,
+             const std::array<int, 3>& weights, int zero)
+{
+    const int red = weights[0];
+    const int green = weights[1];
+    const int blue = weights[2];
+    for (std::size_t i = 0; i < count; ++i) {
+        const int sum = int(pixels[i] >> 16 & 0xFF) * red + int(pixels[i] >> 8 & 0xFF) * green +
+                        int(pixels[i] & 0xFF) * blue;
+        values[i] = quint8(int(float(sum) * 0.001F) + zero);
+    }
 }
 
 }  // namespace
@@ -30,36 +84,24 @@ HqRow::HqRow(int width)
 
 void HqRow::read(const quint32* padded)
 {
-    std::copy_n(padded, pixels.size(), pixels.begin());
-    const auto thousandths = [](int value) { return int(float(value) * 0.001F); };
-    for (std::size_t i = 0; i < pixels.size(); ++i) {
-        const int r = int(padded[i] >> 16 & 0xFF);
-        const int g = int(padded[i] >> 8 & 0xFF);
-        const int b = int(padded[i] & 0xFF);
-        luma[i] = quint8(thousandths(299 * r + 587 * g + 114 * b));
-        blue[i] = quint8(thousandths(-169 * r - 331 * g + 500 * b) + 128);
-        red[i] = quint8(thousandths(500 * r - 419 * g - 81 * b) + 128);
-        alpha[i] = quint8(padded[i] >> 24);
-    }
+    const std::size_t count = pixels.size();
+    std::copy_n(padded, count, pixels.begin());
+    project(padded, luma.data(), count, {299, 587, 114}, 0);
+    project(padded, blue.data(), count, {-169, -331, 500}, 128);
+    project(padded, red.data(), count, {500, -419, -81}, 128);
+    std::transform(padded, padded + count, alpha.begin(),
+                   [](quint32 pixel) { return quint8(pixel >> 24); });
 }
 
 void HqBorders::compare(const HqRow& upper, const HqRow& lower)
 {
-    const auto differ = [](const HqRow& p, std::size_t i, const HqRow& q, std::size_t k) {
-        return apart(p.luma[i], q.luma[k], LumaThreshold) |
-               apart(p.blue[i], q.blue[k], BlueThreshold) |
-               apart(p.red[i], q.red[k], RedThreshold) |
-               apart(p.alpha[i], q.alpha[k], AlphaThreshold);
-    };
-    for (std::size_t i = 0; i < m_bits.size(); ++i) {
-        const quint32 pixel = upper.pixels[i];
-        const bool unequal = (upper.pixels[i + 1] != pixel) | (lower.pixels[i] != pixel) |
-                             (lower.pixels[i + 1] != pixel);
-        m_bits[i] =
-            quint8(differ(upper, i, upper, i + 1) * Top | differ(upper, i, lower, i + 1) * Fall |
-                   differ(lower, i, upper, i + 1) * Rise | differ(upper, i, lower, i) * Left |
-                   unequal * Unequal);
-    }
+    const std::size_t count = m_bits.size();
+    quint8* bits = m_bits.data();
+    markUnequal(upper.pixels.data(), lower.pixels.data(), bits, Unequal, count);
+    markDifferent({upper, 0}, {upper, 1}, bits, Top, count);
+    markDifferent({upper, 0}, {lower, 1}, bits, Fall, count);
+    markDifferent({lower, 0}, {upper, 1}, bits, Rise, count);
+    markDifferent({upper, 0}, {lower, 0}, bits, Left, count);
 }
 
 }  // namespace Zorv

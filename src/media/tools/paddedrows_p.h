@@ -10,11 +10,12 @@ namespace Zorv {
 
 /// A walk over the rows of an image, each with the one above and the one below. The pixels of the
 /// border are repeated outside of it, so that positions from -1 to `width()` can be read.
-template <class Pixel>
+/// `Adapt` is called for each pixel that is read.
+template <class Pixel, class Adapt>
 class PaddedRows
 {
 public:
-    explicit PaddedRows(const Raster<const Pixel>& source) : m_source(source)
+    PaddedRows(const Raster<const Pixel>& source, Adapt adapt) : m_source(source), m_adapt(adapt)
     {
         for (std::vector<Pixel>& row : m_rows) {
             row.resize(std::size_t(source.width) + 2);
@@ -39,12 +40,13 @@ private:
     {
         const Pixel* row = m_source.row(std::clamp(y, 0, m_source.height - 1));
         std::vector<Pixel>& padded = m_rows[slot(y)];
-        std::copy_n(row, width(), padded.begin() + 1);
+        std::transform(row, row + width(), padded.begin() + 1, m_adapt);
         padded.front() = padded[1];
         padded.back() = padded[padded.size() - 2];
     }
 
     Raster<const Pixel> m_source;
+    Adapt m_adapt;
     std::array<std::vector<Pixel>, 3> m_rows;
     int m_y = 0;
 };

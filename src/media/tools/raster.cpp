@@ -12,10 +12,9 @@ bool isComparable(const QImage& image)
     const bool opaque = image.format() == QImage::Format_RGB32;
     for (int y = 0; y < pixels.height; ++y) {
         const quint32* row = pixels.row(y);
-        unsigned faults = 0;
+        quint32 faults = 0;
         for (int x = 0; x < pixels.width; ++x) {
-            const quint32 limit = opaque ? 0xFF000000U : 0x01000000U;
-            faults |= unsigned(row[x] < limit && (opaque || row[x] != 0));
+            faults |= row[x] ^ (opaque ? comparableOpaque(row[x]) : comparableClear(row[x]));
         }
         if (faults != 0) {
             return false;
@@ -48,9 +47,7 @@ QImage comparableImage(const QImage& image)
     const Raster<quint32> pixels(result);
     for (int y = 0; y < pixels.height; ++y) {
         quint32* row = pixels.row(y);
-        std::transform(row, row + pixels.width, row, [opaque](quint32 pixel) {
-            return opaque ? pixel | 0xFF000000U : qAlpha(pixel) == 0 ? 0 : pixel;
-        });
+        std::transform(row, row + pixels.width, row, opaque ? comparableOpaque : comparableClear);
     }
     return result;
 }

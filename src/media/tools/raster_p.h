@@ -42,8 +42,19 @@ struct Raster
 /// and `Format_ARGB32`.
 QImage workingImage(const QImage& image);
 
-/// A working image in which pixels that look the same are the same number: the unused byte of
-/// `Format_RGB32` is 255, and what is transparent has no colour.
+/// A pixel of `Format_RGB32` with 255 in its unused byte.
+inline quint32 comparableOpaque(quint32 pixel)
+{
+    return pixel | 0xFF000000U;
+}
+
+/// A pixel of `Format_ARGB32` without the colour of what is transparent.
+inline quint32 comparableClear(quint32 pixel)
+{
+    return pixel < 0x01000000U ? 0 : pixel;
+}
+
+/// A working image in which pixels that look the same are the same number.
 QImage comparableImage(const QImage& image);
 
 /// Whether both sides are from 1 to `MaxImageSide`.

@@ -129,7 +129,7 @@ QImage resizeImage(const QImage& image, const QSize& size, ImageResizeFilter fil
         return work;
     }
     if (filter == ImageResizeFilter::Epx) {
-        return resizeNearest(enlarged(comparableImage(work), size, 2, scaleEpxOnce), size);
+        return resizeNearest(enlarged(work, size, 2, scaleEpxOnce), size);
     }
     if (!mixesColors(filter) || (isIndexed(work) && work.colorCount() == 0)) {
         return resizeNearest(work, size);
@@ -145,7 +145,7 @@ QImage scaleEpx(const QImage& image, int factor)
     if (!isPossibleSize(image.size()) || factor < 2 || factor > 4) {
         return {};
     }
-    const QImage work = comparableImage(workingImage(image));
+    const QImage work = workingImage(image);
     return factor == 4 ? scaleEpxOnce(scaleEpxOnce(work, 2), 2) : scaleEpxOnce(work, factor);
 }
 

@@ -3,6 +3,10 @@
 #include "media/tools/paddedrows_p.h"
 #include "media/tools/raster_p.h"
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace Zorv {
 
 namespace {
@@ -15,15 +19,56 @@ namespace {
 //
 // Selections stand without branches, so that the compiler makes vectors of them.
 
+/// Does the greater part of a row. The number of pixels that are done.
 template <class Pixel>
-void scale2x(const PaddedRows<Pixel>& rows, const Raster<Pixel>& to, int y)
+int doubleMost(const Pixel*, const Pixel*, const Pixel*, int, Pixel*, Pixel*)
 {
-    const Pixel* above = rows.above();
-    const Pixel* own = rows.own();
-    const Pixel* below = rows.below();
-    Pixel* top = to.row(2 * y);
-    Pixel* bottom = to.row(2 * y + 1);
-    for (int x = 0; x < rows.width(); ++x) {
+    return 0;
+}
+
+#ifdef __SSE2__
+// Of wide pixels a vector holds but four, and it pays to ask first whether all four are flat.
+int doubleMost(const quint32* above, const quint32* own, const quint32* below, int count,
+               quint32* top, quint32* bottom)
+{
+    const auto load = [](const quint32* pixels) {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(pixels));
+    };
+    const auto store = [](quint32* pixels, __m128i left, __m128i right) {
+        auto* to = reinterpret_cast<__m128i*>(pixels);
+        _mm_storeu_si128(to, _mm_unpacklo_epi32(left, right));
+        _mm_storeu_si128(to + 1, _mm_unpackhi_epi32(left, right));
+    };
+    int x = 0;
+    for (; x + 4 <= count; x += 4) {
+        const __m128i B = load(above + x);
+        const __m128i D = load(own + x - 1);
+        const __m128i E = load(own + x);
+        const __m128i F = load(own + x + 1);
+        const __m128i H = load(below + x);
+        const __m128i flat = _mm_or_si128(_mm_cmpeq_epi32(B, H), _mm_cmpeq_epi32(D, F));
+        if (_mm_movemask_epi8(flat) == 0xFFFF) {
+            store(top + 2 * x, E, E);
+            store(bottom + 2 * x, E, E);
+            continue;
+        }
+        // The other pixel where it is like its neighbour and there is an edge, else E.
+        const auto chosen = [flat, E](__m128i other, __m128i neighbour) {
+            const __m128i use = _mm_andnot_si128(flat, _mm_cmpeq_epi32(other, neighbour));
+            return _mm_xor_si128(E, _mm_and_si128(use, _mm_xor_si128(E, other)));
+        };
+        store(top + 2 * x, chosen(D, B), chosen(F, B));
+        store(bottom + 2 * x, chosen(D, H), chosen(F, H));
+    }
+    return x;
+}
+#endif
+
+template <class Pixel>
+void doublePixels(const Pixel* above, const Pixel* own, const Pixel* below, int count, Pixel* top,
+                  Pixel* bottom)
+{
+    for (int x = 0; x < count; ++x) {
         const Pixel B = above[x];
         const Pixel D = own[x - 1];
         const Pixel E = own[x];
@@ -37,8 +82,17 @@ void scale2x(const PaddedRows<Pixel>& rows, const Raster<Pixel>& to, int y)
     }
 }
 
-template <class Pixel>
-void scale3x(const PaddedRows<Pixel>& rows, const Raster<Pixel>& to, int y)
+template <class Rows, class Pixel>
+void scale2x(const Rows& rows, const Raster<Pixel>& to, int y)
+{
+    const int done = doubleMost(rows.above(), rows.own(), rows.below(), rows.width(), to.row(2 * y),
+                                to.row(2 * y + 1));
+    doublePixels(rows.above() + done, rows.own() + done, rows.below() + done, rows.width() - done,
+                 to.row(2 * y) + 2 * done, to.row(2 * y + 1) + 2 * done);
+}
+
+template <class Rows, class Pixel>
+void scale3x(const Rows& rows, const Raster<Pixel>& to, int y)
 {
     const Pixel* above = rows.above();
     const Pixel* own = rows.own();
@@ -46,7 +100,8 @@ void scale3x(const PaddedRows<Pixel>& rows, const Raster<Pixel>& to, int y)
     Pixel* top = to.row(3 * y);
     Pixel* middle = to.row(3 * y + 1);
     Pixel* bottom = to.row(3 * y + 2);
-    for (int x = 0; x < rows.width(); ++x) {
+    const int width = rows.width();
+    for (int x = 0; x < width; ++x) {
         const Pixel A = above[x - 1];
         const Pixel B = above[x];
         const Pixel C = above[x + 1];
@@ -56,11 +111,16 @@ void scale3x(const PaddedRows<Pixel>& rows, const Raster<Pixel>& to, int y)
         const Pixel G = below[x - 1];
         const Pixel H = below[x];
         const Pixel I = below[x + 1];
-        const bool edge = (B != H) & (D != F);
-        const bool DB = edge & (D == B);
-        const bool BF = edge & (B == F);
-        const bool DH = edge & (D == H);
-        const bool HF = edge & (H == F);
+        if (B == H || D == F) {
+            std::fill_n(top + 3 * x, 3, E);
+            std::fill_n(middle + 3 * x, 3, E);
+            std::fill_n(bottom + 3 * x, 3, E);
+            continue;
+        }
+        const bool DB = D == B;
+        const bool BF = B == F;
+        const bool DH = D == H;
+        const bool HF = H == F;
         top[3 * x] = DB ? D : E;
         top[3 * x + 1] = (DB & (E != C)) | (BF & (E != A)) ? B : E;
         top[3 * x + 2] = BF ? F : E;
@@ -73,10 +133,10 @@ void scale3x(const PaddedRows<Pixel>& rows, const Raster<Pixel>& to, int y)
     }
 }
 
-template <class Pixel>
-void scaleRows(const Raster<const Pixel>& from, const Raster<Pixel>& to, int factor)
+template <class Pixel, class Adapt>
+void scaleRows(const Raster<const Pixel>& from, const Raster<Pixel>& to, int factor, Adapt adapt)
 {
-    for (PaddedRows<Pixel> rows(from); rows.y() < from.height; rows.next()) {
+    for (PaddedRows rows(from, adapt); rows.y() < from.height; rows.next()) {
         factor == 2 ? scale2x(rows, to, rows.y()) : scale3x(rows, to, rows.y());
     }
 }
@@ -86,9 +146,18 @@ void scaleRows(const Raster<const Pixel>& from, const Raster<Pixel>& to, int fac
 QImage scaleEpxOnce(const QImage& image, int factor)
 {
     QImage result = imageLike(image, image.size() * factor);
-    if (!result.isNull()) {
-        withRasters(image, result,
-                    [factor](const auto& from, const auto& to) { scaleRows(from, to, factor); });
+    if (result.isNull()) {
+        return result;
+    }
+    if (isIndexed(image)) {
+        scaleRows(Raster<const quint8>(image), Raster<quint8>(result), factor,
+                  [](quint8 index) { return index; });
+    } else if (image.hasAlphaChannel()) {
+        scaleRows(Raster<const quint32>(image), Raster<quint32>(result), factor,
+                  [](quint32 pixel) { return comparableClear(pixel); });
+    } else {
+        scaleRows(Raster<const quint32>(image), Raster<quint32>(result), factor,
+                  [](quint32 pixel) { return comparableOpaque(pixel); });
     }
     return result;
 }
