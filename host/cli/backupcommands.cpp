@@ -2,6 +2,7 @@
 #include "command.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "jsonlist.h"
 #include "operations/backups.h"
 #include "output.h"
 #include "progresshost.h"
@@ -108,17 +109,14 @@ int listChanges(const FamilyParentProject& game, const QString& folder, Output& 
 
 void writeJson(const QVector<Backup>& backups, Output& output)
 {
-    QString separator = QStringLiteral("[\n");
+    JsonList list(output);
     for (const Backup& backup : backups) {
-        output.write(separator +
-                     jsonLine({{QStringLiteral("folder"), backup.folder},
-                               {QStringLiteral("name"), backup.name},
-                               {QStringLiteral("time"), backup.time.toString(Qt::ISODate)},
-                               {QStringLiteral("files"), backup.fileCount},
-                               {QStringLiteral("bytes"), double(backup.bytes)}}));
-        separator = QStringLiteral(",\n");
+        list.add({{QStringLiteral("folder"), backup.folder},
+                  {QStringLiteral("name"), backup.name},
+                  {QStringLiteral("time"), backup.time.toString(Qt::ISODate)},
+                  {QStringLiteral("files"), backup.fileCount},
+                  {QStringLiteral("bytes"), double(backup.bytes)}});
     }
-    output.write(backups.isEmpty() ? QStringLiteral("[]\n") : QStringLiteral("\n]\n"));
 }
 
 }  // namespace

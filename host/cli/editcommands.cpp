@@ -5,6 +5,7 @@
 #include "family/familydocument.h"
 #include "family/nodepath.h"
 #include "family/nodes/animationnode.h"
+#include "jsonlist.h"
 #include "operations/animationedits.h"
 #include "output.h"
 
@@ -34,34 +35,34 @@ QStringList animationColumns(int index, const AnimationNode& animation)
             QString::number(animation.firstLine() + 1)};
 }
 
-QString animationObject(int index, const AnimationNode& animation, const QString& path)
+QJsonObject animationObject(int index, const AnimationNode& animation, const QString& path)
 {
-    return jsonLine({{QStringLiteral("index"), index},
-                     {QStringLiteral("identifier"), animation.identifier()},
-                     {QStringLiteral("name"), animation.name()},
-                     {QStringLiteral("frames"), animation.childCount()},
-                     {QStringLiteral("duration"), animation.duration()},
-                     {QStringLiteral("loopFrame"), animation.loopFrame()},
-                     {QStringLiteral("line"), animation.firstLine() + 1},
-                     {QStringLiteral("path"), path}});
+    return {{QStringLiteral("index"), index},
+            {QStringLiteral("identifier"), animation.identifier()},
+            {QStringLiteral("name"), animation.name()},
+            {QStringLiteral("frames"), animation.childCount()},
+            {QStringLiteral("duration"), animation.duration()},
+            {QStringLiteral("loopFrame"), animation.loopFrame()},
+            {QStringLiteral("line"), animation.firstLine() + 1},
+            {QStringLiteral("path"), path}};
 }
 
-void writeAnimations(const FamilyDocument* document, bool json, Output& output)
+void writeAnimations(const FamilyDocument* document, Output& output)
+{
+    const FamilyAnimations* list = document->animations();
+    for (int i = 0; i < list->count(); ++i) {
+        output.writeLine(animationColumns(i, *list->animation(i)));
+    }
+}
+
+void writeJsonAnimations(const FamilyDocument* document, Output& output)
 {
     const FamilyAnimations* list = document->animations();
     const auto paths = Family::nodePaths(document);
-    QString separator = QStringLiteral("[\n");
+    JsonList json(output);
     for (int i = 0; i < list->count(); ++i) {
         const AnimationNode* animation = list->animation(i);
-        if (json) {
-            output.write(separator + animationObject(i, *animation, paths.value(animation)));
-            separator = QStringLiteral(",\n");
-        } else {
-            output.writeLine(animationColumns(i, *animation));
-        }
-    }
-    if (json) {
-        output.write(list->count() == 0 ? QStringLiteral("[]\n") : QStringLiteral("\n]\n"));
+        json.add(animationObject(i, *animation, paths.value(animation)));
     }
 }
 
@@ -89,7 +90,7 @@ int setCommand(const Invocation& invocation, Output& output)
 int listAnimations(const Invocation& invocation, Output& output)
 {
     return readFile(invocation, [&](FamilyDocument* document, QString*) {
-        writeAnimations(document, invocation.json, output);
+        invocation.json ? writeJsonAnimations(document, output) : writeAnimations(document, output);
         return true;
     });
 }

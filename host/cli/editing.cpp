@@ -4,10 +4,10 @@
 #include "code/codecs/textcodecs.h"
 #include "command.h"
 #include "family/familydocument.h"
-#include "mediaresults.h"
 #include "operations/documentfile.h"
 #include "operations/textdiff.h"
 #include "output.h"
+#include "results.h"
 
 #include <QCoreApplication>
 

@@ -1,10 +1,10 @@
 #include "cli.h"
 #include "command.h"
-#include "mediaresults.h"
 #include "operations/media/filepatterns.h"
 #include "operations/media/imageedits.h"
 #include "operations/media/palettework.h"
 #include "progresshost.h"
+#include "results.h"
 
 #include <QCoreApplication>
 

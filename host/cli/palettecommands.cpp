@@ -2,12 +2,13 @@
 #include "assets/spritecollection.h"
 #include "cli.h"
 #include "command.h"
-#include "mediaresults.h"
+#include "jsonlist.h"
 #include "operations/media/filepatterns.h"
 #include "operations/media/palettework.h"
 #include "operations/media/spriteexport.h"
 #include "output.h"
 #include "progresshost.h"
+#include "results.h"
 #include "spriteopening.h"
 
 #include <QColor>

@@ -3,6 +3,7 @@
 #include "editing.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
+#include "jsonlist.h"
 #include "operations/checkpath.h"
 #include "operations/nodetree.h"
 #include "output.h"
@@ -15,16 +16,25 @@ namespace {
 
 using Family::FamilyDocument;
 
-void writeProblem(const Family::Problem& problem, Output& output)
+void writeProblems(const Family::Problems& problems, Output& output)
 {
-    output.write(
-        jsonLine({{QStringLiteral("file"), problem.file},
+    for (const Family::Problem& problem : problems) {
+        output.writeLine({Family::problemLine(problem)});
+    }
+}
+
+void writeJsonProblems(const Family::Problems& problems, Output& output)
+{
+    JsonList list(output);
+    for (const Family::Problem& problem : problems) {
+        list.add({{QStringLiteral("file"), problem.file},
                   {QStringLiteral("line"), problem.line},
                   {QStringLiteral("column"), problem.column},
                   {QStringLiteral("length"), problem.length},
                   {QStringLiteral("level"), Family::levelName(problem.level)},
                   {QStringLiteral("id"), QLatin1String(Family::problemInfo(problem.id).name)},
-                  {QStringLiteral("text"), problem.text}}));
+                  {QStringLiteral("text"), problem.text}});
+    }
 }
 
 int lineOf(const Family::TreeEntry& entry)
@@ -99,19 +109,7 @@ int checkCommand(const Invocation& invocation, Output& output)
         complain(error);
         return NotDone;
     }
-    QString separator = QStringLiteral("[\n");
-    for (const Family::Problem& problem : problems) {
-        if (invocation.json) {
-            output.write(separator);
-            writeProblem(problem, output);
-            separator = QStringLiteral(",\n");
-        } else {
-            output.writeLine({Family::problemLine(problem)});
-        }
-    }
-    if (invocation.json) {
-        output.write(problems.isEmpty() ? QStringLiteral("[]\n") : QStringLiteral("\n]\n"));
-    }
+    invocation.json ? writeJsonProblems(problems, output) : writeProblems(problems, output);
     return problems.isEmpty() ? Fine : ProblemsFound;
 }
 

@@ -2,11 +2,12 @@
 #include "cli.h"
 #include "command.h"
 #include "core/filesystemarchive.h"
-#include "mediaresults.h"
+#include "jsonlist.h"
 #include "operations/media/filepatterns.h"
 #include "operations/media/soundwork.h"
 #include "output.h"
 #include "progresshost.h"
+#include "results.h"
 
 #include <QFileInfo>
 #include <QJsonObject>

@@ -3,7 +3,7 @@
 #include "cli.h"
 #include "command.h"
 #include "core/filesystemarchive.h"
-#include "mediaresults.h"
+#include "jsonlist.h"
 #include "operations/media/filepatterns.h"
 #include "operations/media/imagefiles.h"
 #include "operations/media/spriteexport.h"
@@ -11,6 +11,7 @@
 #include "operations/media/spritesheet.h"
 #include "output.h"
 #include "progresshost.h"
+#include "results.h"
 #include "spriteopening.h"
 
 #include <QCoreApplication>

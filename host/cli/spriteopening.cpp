@@ -4,8 +4,8 @@
 #include "assets/spritecollection.h"
 #include "cli.h"
 #include "core/filesystemarchive.h"
-#include "mediaresults.h"
 #include "output.h"
+#include "results.h"
 
 #include <QFileInfo>
 

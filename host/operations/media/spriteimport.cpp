@@ -41,17 +41,17 @@ public:
 private:
     bool findSprites(QString* error);
     bool findPalette(QString* error);
-    bool readImages(MediaResult* result);
+    void putAll(MediaResult* result);
     void setImage(FamilySprite* sprite, const QImage& image);
-    QString put(int index);
+    QString put(int index, const ImportImage& read);
 
     SpriteCollection* m_sprites;
     QStringList m_files;
     ImportRequest m_request;
     QVector<ImportTarget> m_targets;
     QVector<FamilySprite*> m_old;  ///< null for a sprite that is new
-    QVector<ImportImage> m_images;
     FamilyPalette* m_palette = nullptr;
+    bool m_isTouched = false;
 };
 
 ImportImage readCropped(const QString& file, bool crops)
@@ -87,23 +87,36 @@ MediaResult Import::run()
         return MediaResult(error);
     }
     MediaResult result;
-    if (!readImages(&result)) {
-        return result;
-    }
-    m_sprites->beginChange(Text::tr("Import sprites"));
+    const QString title = Text::tr("Import sprites");
+    m_sprites->beginChange(title);
     if (findPalette(&error)) {
-        for (int i = 0; i < m_files.size(); ++i) {
-            result.note(put(i));
-        }
-        m_sprites->refresh();
+        putAll(&result);
     } else {
         result.errors.append(error);
     }
     m_sprites->endChange();
-    if (!result.errors.isEmpty() && result.done > 0) {
+    const bool isWhole = result.errors.isEmpty() && !result.isCanceled;
+    if (!isWhole && m_isTouched && m_sprites->steps().undoTitle() == title) {
         m_sprites->undo();
     }
     return result;
+}
+
+/// Images go into the collection, which packs them, as they come: no more than a few are in memory.
+void Import::putAll(MediaResult* result)
+{
+    const auto prepare = [&](int i) -> std::function<ImportImage()> {
+        return [file = m_files[i], crops = m_request.crops] { return readCropped(file, crops); };
+    };
+    const auto take = [&](int i, const ImportImage& read) {
+        if (!read.error.isEmpty()) {
+            result->errors.append(read.error);
+        } else if (result->errors.isEmpty()) {
+            result->note(put(i, read));
+        }
+    };
+    result->isCanceled = !runJobs<ImportImage>(Text::tr("Images"), m_files.size(), prepare, take);
+    m_sprites->refresh();
 }
 
 bool Import::findSprites(QString* error)
@@ -137,23 +150,9 @@ bool Import::findPalette(QString* error)
     PaletteColors colors;
     if (!m_palette && Family::findPalette(*m_sprites, m_request.palette, &colors, error)) {
         m_palette = m_sprites->palettes()->ensure(colors);
+        m_isTouched = true;
     }
     return m_palette;
-}
-
-bool Import::readImages(MediaResult* result)
-{
-    const auto prepare = [&](int i) -> std::function<ImportImage()> {
-        return [file = m_files[i], crops = m_request.crops] { return readCropped(file, crops); };
-    };
-    const auto take = [&](int, const ImportImage& read) {
-        m_images.append(read);
-        if (!read.error.isEmpty()) {
-            result->errors.append(read.error);
-        }
-    };
-    result->isCanceled = !runJobs<ImportImage>(Text::tr("Images"), m_files.size(), prepare, take);
-    return !result->isCanceled && result->errors.isEmpty();
 }
 
 /// A palette that an image has brought is called as the file tells, if that is free.
@@ -172,9 +171,9 @@ void Import::setImage(FamilySprite* sprite, const QImage& image)
     }
 }
 
-QString Import::put(int index)
+QString Import::put(int index, const ImportImage& read)
 {
-    const ImportImage& read = m_images[index];
+    m_isTouched = true;
     const bool isNew = !m_old[index];
     FamilySprite* sprite = isNew ? m_sprites->addSprite() : m_old[index];
     sprite->setProperty(QStringLiteral("Identifier"), m_targets[index].id.text());

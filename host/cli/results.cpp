@@ -1,4 +1,4 @@
-#include "mediaresults.h"
+#include "results.h"
 
 #include "cli.h"
 #include "notedsignals.h"
@@ -33,18 +33,6 @@ int wrongUsage(const QString& error)
 {
     complain(error);
     return WrongUsage;
-}
-
-JsonList::~JsonList()
-{
-    m_output.write(m_isEmpty ? QStringLiteral("[]\n") : QStringLiteral("\n]\n"));
-}
-
-void JsonList::add(const QJsonObject& object)
-{
-    m_output.write(m_isEmpty ? QStringLiteral("[\n") : QStringLiteral(",\n"));
-    m_output.write(jsonLine(object));
-    m_isEmpty = false;
 }
 
 }  // namespace Cli

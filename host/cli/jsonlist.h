@@ -1,0 +1,23 @@
+#pragma once
+
+class QJsonObject;
+
+namespace Cli {
+
+class Output;
+
+/// A list of JSON objects, a line each.
+class JsonList
+{
+public:
+    explicit JsonList(Output& output) : m_output(output) {}
+    ~JsonList();
+
+    void add(const QJsonObject& object);
+
+private:
+    Output& m_output;
+    bool m_isEmpty = true;
+};
+
+}  // namespace Cli
