@@ -13,7 +13,7 @@ namespace Zorv {
 class LineHeads
 {
 public:
-    static const int HeadSize = 64;
+    static constexpr int HeadSize = 64;
 
     LineHeads(QIODevice* device, const QByteArray& separator);
 

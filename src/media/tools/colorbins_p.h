@@ -22,7 +22,7 @@ struct ColorBin
 class ColorBins
 {
 public:
-    static const int MaxBins = 4096;
+    static constexpr int MaxBins = 4096;
 
     ColorBins();
 
@@ -55,7 +55,7 @@ public:
     }
 
 private:
-    static const int SlotBits = 14;
+    static constexpr int SlotBits = 14;
 
     static void addTo(ColorBin& bin, quint32 color, double count)
     {

@@ -34,8 +34,8 @@ public:
     }
 
 private:
-    static const int Size = 256;
-    static const int FoundBits = 11;
+    static constexpr int Size = 256;
+    static constexpr int FoundBits = 11;
     using Row = std::array<quint16, Size>;
 
     /// The squared distances of the entries, in one channel, from the near and from the far end
