@@ -15,6 +15,31 @@
 
 using namespace Family;
 
+namespace {
+
+// Shows nothing, and gives up after so many steps.
+class ImpatientHost final : public HostInterface
+{
+public:
+    Zorv::ProgressReporter* progress(const QString&, int) override
+    {
+        struct Reporter final : Zorv::ProgressReporter
+        {
+            explicit Reporter(int most) : last(most) {}
+            void update(int step, int) override { value = step; }
+            bool isCanceled() const override { return value >= last; }
+            void finish() override { delete this; }
+            int last;
+            int value = 0;
+        };
+        return new Reporter(patience);
+    }
+
+    int patience = 1000000;
+};
+
+}  // namespace
+
 // In a folder of its own, which is the current one.
 class TestMediaFiles : public QObject
 {
@@ -32,10 +57,11 @@ private slots:
     void targets_data();
     void targets();
     void jobsKeepTheirOrder();
+    void jobsAreGivenUp();
 
 private:
     QTemporaryDir m_folder;
-    HostInterface m_host;
+    ImpatientHost m_host;
 };
 
 void TestMediaFiles::initTestCase()
@@ -228,6 +254,19 @@ void TestMediaFiles::jobsKeepTheirOrder()
     QVERIFY(isDone);
     QCOMPARE(taken.size(), 500);
     QVERIFY2(most <= QThread::idealThreadCount() * 4, qPrintable(QString::number(most)));
+}
+
+void TestMediaFiles::jobsAreGivenUp()
+{
+    m_host.patience = 3;
+    int taken = 0;
+    std::atomic_int begun{0};
+    QVERIFY(!runJobs<int>(
+        "Work", 500, [&](int) -> std::function<int()> { return [&begun] { return ++begun; }; },
+        [&taken](int, const int&) { ++taken; }));
+    m_host.patience = 1000000;
+    QCOMPARE(taken, 3);
+    QVERIFY(begun <= 3 + QThread::idealThreadCount() * 4);
 }
 
 QTEST_MAIN(TestMediaFiles)
