@@ -16,6 +16,9 @@ namespace {
 
 const int MaxSide = 32767;
 
+// Several are made at a time.
+const double MaxPixels = 1 << 27;
+
 /// Makes the texts of this file known to translators.
 class Text
 {
@@ -34,11 +37,6 @@ QString editFile(const QString& fileName, const ImageEdit& edit, const OutputFil
     const QImage edited = edit(image, &error);
     return edited.isNull() ? QStringLiteral("'%1': %2").arg(fileName, error)
                            : writeImage(edited, outputs, index);
-}
-
-QString sizeText(const QSize& size)
-{
-    return Text::tr("%1 by %2").arg(size.width()).arg(size.height());
 }
 
 QVector<QRgb> colorTable(const QVector<Zorv::RGBA>& colors)
@@ -87,12 +85,12 @@ ImageEdit resizingImage(const QSize& size, double factor, Zorv::ImageResizeFilte
 {
     return [=](const QImage& image, QString* error) {
         const QSizeF wanted = factor > 0 ? QSizeF(image.size()) * factor : QSizeF(size);
-        const bool fits = wanted.width() <= MaxSide && wanted.height() <= MaxSide;
-        const QSize whole = fits ? wanted.toSize().expandedTo({1, 1}) : QSize();
-        const QImage resized = fits ? Zorv::resizeImage(image, whole, filter) : QImage();
+        const bool fits = qMax(wanted.width(), wanted.height()) <= MaxSide &&
+                          wanted.width() * wanted.height() <= MaxPixels;
+        const QImage resized =
+            fits ? Zorv::resizeImage(image, wanted.toSize().expandedTo({1, 1}), filter) : QImage();
         if (resized.isNull()) {
-            *error = Text::tr("The result would be larger than %1, or than the memory.")
-                         .arg(sizeText({MaxSide, MaxSide}));
+            *error = Text::tr("The result would be too large.");
         }
         return resized;
     };

@@ -1,6 +1,5 @@
 #include "operations/media/imagefiles.h"
 
-#include "core/extensionmanager.h"
 #include "core/files.h"
 #include "media/imagefile.h"
 #include "media/tools/colorquantizer.h"
@@ -9,8 +8,6 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
-
-#include <algorithm>
 
 namespace Family {
 
@@ -75,10 +72,7 @@ QString writeImage(const QImage& image, const OutputFiles& outputs, int index)
 
 bool isImageFormat(const QByteArray& format)
 {
-    const auto& savers = Zorv::ExtensionManager::list(Zorv::Extension::ImageSaver);
-    return format == "PNG" || format == "PCX" || format == "BMP" || format == "GIF" ||
-           std::any_of(savers.begin(), savers.end(),
-                       [&](const Zorv::Extension* saver) { return saver->name() == format; });
+    return format == "PNG" || format == "PCX" || format == "BMP" || format == "GIF";
 }
 
 }  // namespace Family
