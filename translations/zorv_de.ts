@@ -2615,16 +2615,8 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>Family::ImageEdits</name>
     <message>
-        <source>%1 by %2</source>
-        <translation>%1 mal %2</translation>
-    </message>
-    <message>
         <source>Images</source>
         <translation>Bilder</translation>
-    </message>
-    <message>
-        <source>The result would be larger than %1, or than the memory.</source>
-        <translation>Das Ergebnis wäre größer als %1 oder als der Speicher.</translation>
     </message>
     <message>
         <source>The result would be too large.</source>
