@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
         return 0;
     }
     const bool isRle8 = bytes[0] < 128;
-    const int width = bytes[0] % 128 + 1, height = bytes[1] + 1;
+    const int width = bytes[0] % 128 + 1, height = bytes[1] % 64 + 1;
     const QByteArray stream(reinterpret_cast<const char*>(bytes) + 2, int(size) - 2);
 
     QByteArray plain(width * height, 0);
