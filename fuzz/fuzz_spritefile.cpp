@@ -3,45 +3,11 @@
 
 #include "assets/recordbytes.h"
 #include "assets/spritefile.h"
-#include "core/archive.h"
+#include "support/memoryarchive.h"
 
-#include <QBuffer>
 #include <QImage>
 
 namespace {
-
-/// One file in memory.
-class MemoryArchive final : public Zorv::Archive
-{
-public:
-    explicit MemoryArchive(const QByteArray& bytes) : m_bytes(bytes) {}
-
-    void release() override {}
-    bool isReadOnly() const override { return false; }
-    QStringList entries(const QString&, QDir::Filters, QDir::SortFlags) const override
-    {
-        return {};
-    }
-    QFileInfoList infoEntries(const QString&, QDir::Filters, QDir::SortFlags) const override
-    {
-        return {};
-    }
-    QIODevice* openFile(const QString&, QIODevice::OpenMode mode, QString*) override
-    {
-        m_buffer.setBuffer(&m_bytes);
-        m_buffer.open(mode);
-        return &m_buffer;
-    }
-    bool closeFile(QIODevice*, QString*) override
-    {
-        m_buffer.close();
-        return true;
-    }
-
-private:
-    QByteArray m_bytes;
-    QBuffer m_buffer;
-};
 
 constexpr int HeadSize = 64;
 

@@ -12,6 +12,7 @@
 #include "project/familyparentproject.h"
 #include "project/familyproject.h"
 #include "project/filereference.h"
+#include "support/planneddialogs.h"
 #include "support/testinterface.h"
 
 #include <QAbstractItemModelTester>
@@ -155,6 +156,7 @@ private slots:
     void assetsTravel_data();
     void assetsTravel();
     void assetsMoveWithTheProject();
+    void assetsThatOthersChange();
     void runBesideTheGame();
     void checkOfOpenProject();
     void checkOfWhatIsNotThere_data();
@@ -479,6 +481,34 @@ void TestFamilyProject::assetsMoveWithTheProject()
     parent.save();
     QVERIFY(old.fromFile(*Zorv::FileSystemArchive::instance(), moved + "hero.sounds", false));
     QCOMPARE(old.count(), 3U);
+    project->release();
+    delete project;
+}
+
+// The person is asked for files that another program has written, and not for own ones.
+void TestFamilyProject::assetsThatOthersChange()
+{
+    Game game;
+    game.addAssets(QStringLiteral("hero.sprites"));
+    TestInterface host;
+    PlannedDialogs dialogs;
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
+    Zorv::Archive& disk = *Zorv::FileSystemArchive::instance();
+    for (Zorv::ProjectFile* file :
+         QList<Zorv::ProjectFile*>{project->sprites(), project->sounds()}) {
+        const QByteArray before = readFile(file->fileName());
+        project->sprites()->sprite(0)->duplicate();
+        project->sounds()->sound(0)->duplicate();
+        QVERIFY(file->toFile(disk, file->fileName(), false));
+        QTest::qWait(400);
+        QCOMPARE(dialogs.count(), 0);
+        dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
+        writeFile(file->fileName(), before);
+        QTRY_COMPARE(dialogs.count(), 1);
+        dialogs.shown.clear();
+        QCOMPARE(dynamic_cast<QAbstractItemModel*>(file)->rowCount(), 1);
+    }
     project->release();
     delete project;
 }

@@ -3,6 +3,7 @@
 #include "assets/assetlist.h"
 #include "assets/familysound.h"
 #include "cache/sounds.h"
+#include "core/filewatchobject.h"
 
 #include <QStringList>
 
@@ -21,7 +22,7 @@ using SoundListBase = AssetList<Zorv::Sounds, FamilySound>;
 /// unpacked when they are asked for, and equal ones are stored once. Everything can be undone.
 /// `modified()` and `changed()` come once a step, when all is true. A file that was not changed is
 /// written back the same, and broken records stay in it. Ends by `release()`. Main thread only.
-class SoundFile final : public SoundListBase
+class SoundFile final : public SoundListBase, public Zorv::FileWatchObject
 {
     Q_OBJECT
 
@@ -77,6 +78,9 @@ public:
     bool fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     QString fileName() const override { return m_fileName; }
+
+    /// The file has changed on disk, and the person wants it: reads it, without undo.
+    bool reload() override;
     void release() override { delete this; }
 
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;

@@ -51,6 +51,7 @@ bool SoundFile::fromFile(Zorv::Archive& archive, const QString& fileName, bool a
                            .arg(QDir::toNativeSeparators(fileName), reason));
         return false;
     }
+    FileWatchObject::fromFile(archive, fileName, asCopy);
     if (asCopy) {
         m_history.setDirty();
     } else {
@@ -122,17 +123,26 @@ SoundFileData SoundFile::tables(QVector<SampleRef>* streams) const
     return data;
 }
 
+bool SoundFile::reload()
+{
+    return fromFile(*archive(), fileName(), false);
+}
+
 bool SoundFile::toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy)
 {
     QString reason;
+    const QString oldName = m_fileName;
+    FileWatchObject::toFile(archive, fileName, asCopy);
     if (!write(archive, fileName, &reason)) {
         setErrorString(reason);
+        renewWatch(oldName);
         return false;
     }
     if (!asCopy) {
         m_fileName = fileName;
         setArchive(&archive);
         m_history.setClean();
+        renewWatch(fileName);
     }
     setErrorString({});
     return true;

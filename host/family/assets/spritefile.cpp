@@ -110,6 +110,7 @@ bool SpriteFile::fromFile(Zorv::Archive& archive, const QString& fileName, bool 
         return false;
     }
     take(std::move(content), asCopy);
+    FileWatchObject::fromFile(archive, fileName, asCopy);
     if (!asCopy) {
         setFileName(fileName);
         setArchive(&archive);
@@ -187,6 +188,8 @@ bool SpriteFile::toFile(Zorv::Archive& archive, const QString& fileName, bool as
         return false;
     }
     const Data data = tablesOf(*this, pixels);
+    const QString oldName = this->fileName();
+    FileWatchObject::toFile(archive, fileName, asCopy);
     QString reason;
     QIODevice* device = archive.openFile(fileName, QIODevice::WriteOnly, &reason);
     bool done = device != nullptr;
@@ -196,15 +199,22 @@ bool SpriteFile::toFile(Zorv::Archive& archive, const QString& fileName, bool as
     }
     if (!done) {
         setErrorString(reason.isEmpty() ? tr("Cannot write %1.").arg(name) : reason);
+        renewWatch(oldName);
         return false;
     }
     if (!asCopy) {
         setClean();
         setFileName(fileName);
         setArchive(&archive);
+        renewWatch(fileName);
     }
     setErrorString({});
     return true;
+}
+
+bool SpriteFile::reload()
+{
+    return fromFile(*archive(), fileName(), false);
 }
 
 }  // namespace Family

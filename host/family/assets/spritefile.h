@@ -1,6 +1,7 @@
 #pragma once
 
 #include "assets/spritecollection.h"
+#include "core/filewatchobject.h"
 
 class QIODevice;
 
@@ -10,7 +11,7 @@ namespace Family {
 ///
 /// Opening reads tables and takes packed pixels over; none is unpacked. A file that was not changed
 /// is written back byte by byte the same.
-class SpriteFile final : public SpriteCollection
+class SpriteFile final : public SpriteCollection, public Zorv::FileWatchObject
 {
     Q_OBJECT
 
@@ -22,6 +23,10 @@ public:
     /// failure, but `loadErrors()`.
     bool fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
+    QString fileName() const override { return SpriteCollection::fileName(); }
+
+    /// The file has changed on disk, and the person wants it: reads it, without undo.
+    bool reload() override;
 
 private:
     bool readContent(QIODevice* device, Content* content, QString* error);
