@@ -333,7 +333,7 @@ void tst_SoundFile::noSoundFile_data()
     seal(newer, 0, HeadSize);
     QTest::newRow("empty") << QByteArray() << "not a sound file";
     QTest::newRow("text") << QByteArray("zorv 1\n[info]\n") << "not a sound file";
-    QTest::newRow("cut head") << smallFile().left(20) << "broken";
+    QTest::newRow("cut head") << smallFile().left(20) << "damaged";
     QTest::newRow("cut table") << smallFile().left(100) << "end is missing";
     QTest::newRow("newer") << newer << "newer version";
 }

@@ -125,7 +125,7 @@ void SoundFile::move(unsigned from, unsigned to)
 void SoundFile::remove(unsigned index)
 {
     if (index < count()) {
-        const AssetHistory::Step step(m_history, tr("Remove sound"));
+        const AssetHistory::Step step(m_history, tr("Delete sound"));
         removeItems(int(index), 1);
     }
 }

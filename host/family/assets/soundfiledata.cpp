@@ -44,10 +44,11 @@ enum RecordField {
     StreamCrcAt = 40
 };
 
-QString tr(const char* text)
+/// Makes the texts of this file known to translators.
+class Text
 {
-    return QCoreApplication::translate("Family::SoundFileData", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Family)
+};
 
 quint64 checksumOf(const QByteArray& data, int size)
 {
@@ -79,31 +80,23 @@ void seal(QByteArray& data)
     setNumber(data, size, checksumOf(data, size));
 }
 
-bool fail(QString* error, const char* text)
-{
-    *error = tr(text);
-    return false;
-}
-
 bool readHead(QIODevice* device, quint32* count, QString* error)
 {
     const QByteArray head = device->read(HeadSize);
     if (head.size() < MagicSize || std::memcmp(head.constData(), magic, MagicSize) != 0) {
-        return fail(error, QT_TRANSLATE_NOOP("Family::SoundFileData", "It is not a sound file"));
+        *error = Text::tr("it is not a sound file");
+    } else if (head.size() < HeadSize || !isSealed(head)) {
+        *error = Text::tr("its first bytes are damaged");
+    } else if (numberAt<quint16>(head, VersionAt) != Version) {
+        *error = Text::tr("a newer version of the program has written it");
+    } else {
+        *count = numberAt<quint32>(head, CountAt);
+        if (quint64(device->size()) >= HeadSize + quint64(*count) * RecordSize) {
+            return true;
+        }
+        *error = Text::tr("its end is missing");
     }
-    if (head.size() < HeadSize || !isSealed(head)) {
-        return fail(error,
-                    QT_TRANSLATE_NOOP("Family::SoundFileData", "Its first bytes are broken"));
-    }
-    if (numberAt<quint16>(head, VersionAt) != Version) {
-        return fail(error, QT_TRANSLATE_NOOP("Family::SoundFileData",
-                                             "A newer version of the program has written it"));
-    }
-    *count = numberAt<quint32>(head, CountAt);
-    if (quint64(device->size()) < HeadSize + quint64(*count) * RecordSize) {
-        return fail(error, QT_TRANSLATE_NOOP("Family::SoundFileData", "Its end is missing"));
-    }
-    return true;
+    return false;
 }
 
 SoundFileData::Sound soundOf(const QByteArray& record)
@@ -214,10 +207,10 @@ QString recordFault(const QByteArray& record, const SampleInfo& info,
                     const SoundFileData::Stream& stream)
 {
     if (!isSealed(record)) {
-        return tr("its record is damaged");
+        return Text::tr("its record is damaged");
     }
     if (!SoundFileData::isFine(info) || stream.plainSize > MaxBytes || !isPackingFine(stream)) {
-        return tr("its form is not one that the program knows");
+        return Text::tr("its form is not one that the program knows");
     }
     return {};
 }
@@ -226,18 +219,18 @@ QString placeFault(SoundFileData& file, int number, const SoundFileData::Stream&
                    Places& places)
 {
     if (stream.size == 0) {
-        return stream.plainSize == 0 ? QString() : tr("its samples are missing");
+        return stream.plainSize == 0 ? QString() : Text::tr("its samples are missing");
     }
     if (!places.isInside(stream)) {
-        return tr("its samples lie outside of the file");
+        return Text::tr("its samples lie outside of the file");
     }
     const int taken = places.take(stream);
     if (taken < 0) {
-        return tr("its samples overlap those of another sound");
+        return Text::tr("its samples overlap those of another sound");
     }
     file.sounds[number].stream = taken;
     if (!places.fits(taken, stream)) {
-        return tr("its samples are damaged");
+        return Text::tr("its samples are damaged");
     }
     SoundFileData::Stream& known = file.streams[taken];
     if (!places.fits(taken, known)) {
@@ -245,7 +238,7 @@ QString placeFault(SoundFileData& file, int number, const SoundFileData::Stream&
     }
     const bool isSame = known.plainSize == stream.plainSize && known.packing == stream.packing &&
                         known.plainCrc == stream.plainCrc;
-    return isSame ? QString() : tr("its samples overlap those of another sound");
+    return isSame ? QString() : Text::tr("its samples overlap those of another sound");
 }
 
 QByteArray recordOf(const SoundFileData::Sound& sound, const SoundFileData::Stream& stream)
