@@ -40,15 +40,8 @@ QRgb seen(QRgb color)
 
 QRgb randomColor(QRandomGenerator& random)
 {
-    const QRgb color = random.generate();
-    switch (random.bounded(4)) {
-    case 0:
-        return color;
-    case 1:
-        return color & 0x00FFFFFF;
-    default:
-        return color | 0xFF000000;
-    }
+    const quint32 alphas[] = {random.generate(), 0, ~0U, ~0U};
+    return (random.generate() & 0x00FFFFFF) | (alphas[random.bounded(4)] & 0xFF000000);
 }
 
 QImage imageOf(const QVector<QRgb>& colors, int size, QRandomGenerator& random)
@@ -140,7 +133,6 @@ private slots:
     void errorIsNearALocalBest_data();
     void errorIsNearALocalBest();
     void indexedImages();
-    void allForms_data();
     void allForms();
     void weights();
     void transparentPixels();
@@ -223,7 +215,7 @@ void tst_ColorQuantizer::errorIsNearALocalBest()
 {
     QFETCH(const bool, hasAlpha);
     QFETCH(const int, count);
-    const QImage image = picture(128, hasAlpha);
+    const QImage image = picture(96, hasAlpha);
     ColorQuantizer quantizer;
     quantizer.addImage(image);
     const QVector<RGBA> palette = quantizer.palette(count);
@@ -232,7 +224,7 @@ void tst_ColorQuantizer::errorIsNearALocalBest()
     const double error = meanSquaredError(image, result);
     QCOMPARE(meanSquaredError(image, ColorQuantizer::adapt(image, palette)), error);
     const double best =
-        meanSquaredError(image, ColorQuantizer::adapt(image, improved(image, palette, 8)));
+        meanSquaredError(image, ColorQuantizer::adapt(image, improved(image, palette, 5)));
     QVERIFY2(error <= 1.35 * best, qPrintable(QStringLiteral("%1, %2").arg(error).arg(best)));
 }
 
@@ -266,23 +258,15 @@ void tst_ColorQuantizer::indexedImages()
     QCOMPARE(fewer.pixelIndex(4, 0), 0);
 }
 
-void tst_ColorQuantizer::allForms_data()
-{
-    QTest::addColumn<int>("form");
-    for (int form = QImage::Format_Mono; form < QImage::NImageFormats; ++form) {
-        QTest::addRow("form %d", form) << form;
-    }
-}
-
 void tst_ColorQuantizer::allForms()
 {
-    QFETCH(const int, form);
-    const QImage image = picture(20, true).convertToFormat(QImage::Format(form));
-    const QImage result = ColorQuantizer::quantize(image, 256);
-    const QImage plain =
-        ColorQuantizer::quantize(image.convertToFormat(QImage::Format_ARGB32), 256);
-    QCOMPARE(result.size(), image.size());
-    QVERIFY(qAbs(meanSquaredError(image, result) - meanSquaredError(image, plain)) < 0.01);
+    for (int form = QImage::Format_Mono; form < QImage::NImageFormats; ++form) {
+        const QImage image = picture(20, true).convertToFormat(QImage::Format(form));
+        const QImage plain = image.convertToFormat(QImage::Format_ARGB32);
+        const double error = meanSquaredError(plain, ColorQuantizer::quantize(image, 256));
+        const double plainError = meanSquaredError(plain, ColorQuantizer::quantize(plain, 256));
+        QVERIFY2(qAbs(error - plainError) < 0.01, QByteArray::number(form).constData());
+    }
 }
 
 void tst_ColorQuantizer::weights()
@@ -314,17 +298,13 @@ void tst_ColorQuantizer::memoryIsBounded()
 {
     ColorQuantizer quantizer;
     QRandomGenerator random(Seed);
-    const auto add = [&](int count) {
-        for (int i = 0; i < count; ++i) {
-            const quint32 color = random.generate();
-            quantizer.addColor(
-                {quint8(color), quint8(color >> 8), quint8(color >> 16), quint8(color >> 24)});
-        }
-        return mallinfo2();
-    };
     const size_t before = mallinfo2().uordblks + mallinfo2().hblkhd;
-    const auto after = add(1000000);
-    QVERIFY(after.uordblks + after.hblkhd < before + (1 << 20));
+    for (int i = 0; i < 1000000; ++i) {
+        const quint32 color = random.generate();
+        quantizer.addColor(
+            {quint8(color), quint8(color >> 8), quint8(color >> 16), quint8(color >> 24)});
+    }
+    QVERIFY(mallinfo2().uordblks + mallinfo2().hblkhd < before + (1 << 20));
     QCOMPARE(quantizer.palette(256).size(), 256);
 }
 

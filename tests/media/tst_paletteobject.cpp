@@ -171,16 +171,6 @@ void tst_PaletteObject::models_data()
         QTest::newRow(name) << operation << model;
     };
     row(
-        "setColor, one", [](auto& o, auto& in) { o.setColor(quint8(in.first), in.from); },
-        [](auto& entries, auto& in) { entries[size_t(in.first)] = in.from; });
-    row(
-        "setColor", [](auto& o, auto& in) { o.setColor(in.selection(), in.from); },
-        [](auto& entries, auto& in) {
-            for (const int i : in.selected()) {
-                entries[size_t(i)] = in.from;
-            }
-        });
-    row(
         "gradient of a range, written from entry 0",
         [](auto& o, auto& in) { o.gradient(quint8(in.first), in.from, quint8(in.last), in.to); },
         [](auto& entries, auto& in) {
