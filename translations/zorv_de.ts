@@ -2198,81 +2198,97 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>its record is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>sein Eintrag ist beschädigt</translation>
     </message>
     <message>
         <source>its form is not one that the program knows</source>
-        <translation type="unfinished"></translation>
+        <translation>seine Form ist keine, die das Programm kennt</translation>
     </message>
     <message>
         <source>its samples are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>seine Abtastwerte fehlen</translation>
     </message>
     <message>
         <source>its samples lie outside of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>seine Abtastwerte liegen außerhalb der Datei</translation>
     </message>
     <message>
         <source>its samples overlap those of another sound</source>
-        <translation type="unfinished"></translation>
+        <translation>seine Abtastwerte überschneiden sich mit denen eines anderen Klangs</translation>
     </message>
     <message>
         <source>its samples are damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>seine Abtastwerte sind beschädigt</translation>
     </message>
     <message>
         <source>sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite</translation>
     </message>
     <message>
         <source>sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang</translation>
     </message>
     <message numerus="yes">
         <source>%n more records are broken.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n weiterer Eintrag ist beschädigt.</numerusform>
+            <numerusform>%n weitere Einträge sind beschädigt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 und %n weiterer</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no %2 file, or its first bytes are damaged. Name another file, or take this one from a backup.</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;%1&apos; ist keine %2datei, oder ihre ersten Bytes sind beschädigt. Bitte eine andere Datei nennen oder diese aus einer Sicherung holen.</translation>
     </message>
     <message>
         <source>A part of &apos;%1&apos; is broken. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Teil von &apos;%1&apos; ist beschädigt. %2</translation>
     </message>
     <message>
         <source>There is no sprite %1 in &apos;%2&apos;. Correct the numbers, or add the sprite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Sprite %1 in &apos;%2&apos;. Bitte die Zahlen berichtigen oder das Sprite hinzufügen.</translation>
     </message>
     <message>
         <source>There is no sound %1 in &apos;%2&apos;. Correct the numbers, or add the sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Klang %1 in &apos;%2&apos;. Bitte die Zahlen berichtigen oder den Klang hinzufügen.</translation>
     </message>
     <message>
         <source>No frame and no layer shows these sprites of &apos;%1&apos;: %2. Remove them, or use them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild und keine Ebene zeigt diese Sprites von &apos;%1&apos;: %2. Bitte sie entfernen oder verwenden.</translation>
     </message>
     <message>
         <source>No sprite has these palettes of &apos;%1&apos;: %2. Remove them, or give them to sprites.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Sprite hat diese Paletten von &apos;%1&apos;: %2. Bitte sie entfernen oder Sprites geben.</translation>
     </message>
     <message>
         <source>Nothing plays these sounds of &apos;%1&apos;: %2. Remove them, or use them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts spielt diese Klänge von &apos;%1&apos;: %2. Bitte sie entfernen oder verwenden.</translation>
     </message>
     <message>
         <source>These palettes of &apos;%1&apos; have more than 32 colours, but all their sprites are stored as LZ5, which keeps the first 32: %2. Store the sprites in another codec.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Paletten von &apos;%1&apos; haben mehr als 32 Farben, aber alle ihre Sprites sind als LZ5 gespeichert, das die ersten 32 behält: %2. Bitte die Sprites in einem anderen Format speichern.</translation>
+    </message>
+    <message>
+        <source>it is not a sound file</source>
+        <translation>es ist keine Klangdatei</translation>
+    </message>
+    <message>
+        <source>its first bytes are damaged</source>
+        <translation>ihre ersten Bytes sind beschädigt</translation>
+    </message>
+    <message>
+        <source>a newer version of the program has written it</source>
+        <translation>eine neuere Fassung des Programms hat sie geschrieben</translation>
+    </message>
+    <message>
+        <source>its end is missing</source>
+        <translation>ihr Ende fehlt</translation>
     </message>
 </context>
 <context>
@@ -2519,9 +2535,9 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message numerus="yes">
         <source>%1: and %n more.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1: und %n weiteres Problem.</numerusform>
+            <numerusform>%1: und %n weitere Probleme.</numerusform>
         </translation>
     </message>
 </context>
@@ -2836,66 +2852,47 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::SoundFile</name>
     <message>
         <source>Change sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang ändern</translation>
     </message>
     <message>
         <source>Duplicate sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang verdoppeln</translation>
     </message>
     <message>
         <source>Renumber sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang umnummerieren</translation>
     </message>
     <message>
         <source>Sound %1 (%2): %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang %1 (%2): %3.</translation>
     </message>
     <message>
         <source>Remove broken sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschädigte Klänge entfernen</translation>
     </message>
     <message>
         <source>Add sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang hinzufügen</translation>
     </message>
     <message>
         <source>Move sound</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Remove sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang verschieben</translation>
     </message>
     <message>
         <source>Sort sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Klänge sortieren</translation>
     </message>
     <message>
         <source>Cannot open the sounds of %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Klänge von %1 lassen sich nicht öffnen: %2.</translation>
     </message>
     <message>
         <source>Cannot save %1: the sounds cannot be read from the temporary file any more. The old file is unchanged.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Family::SoundFileData</name>
-    <message>
-        <source>It is not a sound file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht speichern: Die Klänge sind aus der Zwischendatei nicht mehr zu lesen. Die alte Datei ist unverändert.</translation>
     </message>
     <message>
-        <source>Its first bytes are broken</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A newer version of the program has written it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Its end is missing</source>
-        <translation type="unfinished"></translation>
+        <source>Delete sound</source>
+        <translation>Klang löschen</translation>
     </message>
 </context>
 <context>
