@@ -76,7 +76,7 @@ void placePlane(QImage& image, int y, int plane, const QPCXHeader& header, const
 {
     const int step = header.planes == 1 ? 1 : 4;
     const bool colored = image.format() != QImage::Format_Indexed8;
-    const int inLine = (image.bytesPerLine() - plane + step - 1) / step;
+    const int inLine = (image.width() * image.depth() / 8 - plane + step - 1) / step;
     const int count = qMin(inLine, qMin(image.width(), int(header.bytesPerLine)));
     uchar* line = image.bits() + qint64(y) * image.bytesPerLine();
     for (int x = 0; x < count; ++x) {

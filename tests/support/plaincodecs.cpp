@@ -260,7 +260,7 @@ bool loadPcx(QImage& image, QIODevice* device)
             stream >> value;
         }
         for (; count > 0 && y < image.height(); --count) {
-            if (x < image.width() && x * step + plane < image.bytesPerLine()) {
+            if (x < image.width() && x * step + plane < image.width() * image.depth() / 8) {
                 line[x * step + plane] = value;
             }
             if (++x == header.bytesPerLine) {
