@@ -72,12 +72,11 @@ constexpr int swapped(int offset, bool colored)
     return colored ? offset ^ (~offset & 1) << 1 : offset;
 }
 
-void placePlane(QImage& image, int y, int plane, const QPCXHeader& header, const uchar* values)
+void placePlane(QImage& image, int y, int plane, int step, const uchar* values, int length)
 {
-    const int step = header.planes == 1 ? 1 : 4;
     const bool colored = image.format() != QImage::Format_Indexed8;
     const int inLine = (image.width() * image.depth() / 8 - plane + step - 1) / step;
-    const int count = qMin(inLine, qMin(image.width(), int(header.bytesPerLine)));
+    const int count = qMin(inLine, qMin(image.width(), length));
     uchar* line = image.bits() + qint64(y) * image.bytesPerLine();
     for (int x = 0; x < count; ++x) {
         line[swapped(x * step + plane, colored)] = values[x];
@@ -87,14 +86,14 @@ void placePlane(QImage& image, int y, int plane, const QPCXHeader& header, const
 bool readPlanes(QImage& image, const QPCXHeader& header, QIODevice* device)
 {
     const int length = header.bytesPerLine;
+    const int step = header.planes == 1 ? 1 : 4;
     std::vector<uchar> values(size_t(length) + RunPairReader<RunMarker::Pcx>::Overshoot);
     ByteSource source(device);
     RunPairReader<RunMarker::Pcx> reader(source);
     for (int y = 0; y < image.height(); ++y) {
         for (int plane = 0; plane < header.planes; ++plane) {
-            const qint64 count = reader.read(values.data(), length);
-            std::memset(values.data() + count, 0, size_t(length - count));
-            placePlane(image, y, plane, header, values.data());
+            const int count = int(reader.read(values.data(), length));
+            placePlane(image, y, plane, step, values.data(), count);
             if (count < length) {
                 return false;
             }

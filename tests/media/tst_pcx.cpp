@@ -213,7 +213,9 @@ void tst_Pcx::forms()
             bytes += char(random.bounded(256));
         }
         QCOMPARE(differenceOf(fileOf(header, bytes)), QString());
-        QCOMPARE(differenceOf(fileOf(header, bytes.left(bytes.size() / 3))), QString());
+        for (const int part : {3, 7, 11}) {
+            QCOMPARE(differenceOf(fileOf(header, bytes.left(bytes.size() / part))), QString());
+        }
     }
 }
 
