@@ -18,8 +18,9 @@ public:
     /// The size that an image of the original size needs.
     QSize resultSize() const { return m_resultSize; }
 
-    /// Each pixel of the result is the one of a comparable image that its centre lies in. `fill`
-    /// stands where there is none. Null if the size is not possible or memory is short.
+    /// Each pixel of the result is the one of a working image that its centre lies in, which is
+    /// comparable if it has no alpha. `fill` stands where there is none. Null if the size is not
+    /// possible or memory is short.
     QImage nearest(const QImage& image, quint32 fill, const QSize& size) const;
 
     /// The same with a mixture of the four pixels around, of an image with true colours.

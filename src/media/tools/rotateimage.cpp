@@ -46,9 +46,11 @@ QImage turned(const QImage& work, const ImageTurn& turn, unsigned int fill,
     }
     const bool mixes = filter == ImageResizeFilter::Bilinear || filter == ImageResizeFilter::Hq;
     if (mixes && !isIndexed(work)) {
-        return turnMixing(work, turn, fill, filter);
+        return turnMixing(comparableImage(work), turn, fill, filter);
     }
-    QImage result = turn.nearest(work, fill, turn.resultSize());
+    // The colour of what is transparent is kept where nothing is mixed.
+    const QImage source = work.hasAlphaChannel() ? work : comparableImage(work);
+    QImage result = turn.nearest(source, fill, turn.resultSize());
     if (mixes && work.colorCount() > 0 && !result.isNull()) {
         const QRgb color = fill < unsigned(work.colorCount()) ? work.color(int(fill)) : 0;
         const QImage colors = turnMixing(colorsOf(work), turn, color, filter);
@@ -72,7 +74,7 @@ QImage rotateImage(const QImage& image, float degrees, unsigned int fill, ImageR
     if (std::fmod(angle, 90.0) == 0) {
         return work.transformed(QTransform().rotate(angle));
     }
-    return turned(comparableImage(work), ImageTurn(work.size(), angle), fill, filter);
+    return turned(work, ImageTurn(work.size(), angle), fill, filter);
 }
 
 }  // namespace Zorv
