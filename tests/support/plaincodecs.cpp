@@ -251,9 +251,12 @@ bool loadPcx(QImage& image, QIODevice* device)
     const int step = header.planes == 1 ? 1 : 4;
     uchar* line = image.bits();
     int x = 0, y = 0, plane = 0;
-    while (y < image.height() && stream.status() == QDataStream::Ok) {
+    while (y < image.height()) {
         quint8 value = 0;
         stream >> value;
+        if (stream.status() != QDataStream::Ok) {
+            break;
+        }
         int count = 1;
         if (value > 191) {
             count = value & 63;
