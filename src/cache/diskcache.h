@@ -19,7 +19,7 @@ struct ZORV_EXPORT DiskItem final : PackedCache::Item
 ///
 /// The stored bytes lie one behind the other in the order of their first storing. The file is
 /// never shortened. An item that changes its size moves all that lies behind it, and no byte of
-/// another.
+/// another. What the disk has no room for is kept in memory.
 class ZORV_EXPORT DiskCache final : public PackedCache
 {
 public:

@@ -4,6 +4,7 @@
 #include "media/soundsample.h"
 #include "support/brokenbytes.h"
 #include "support/memoryarchive.h"
+#include "support/testinterface.h"
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
@@ -116,6 +117,8 @@ private slots:
     void brokenRecords();
     void noSoundFile_data();
     void noSoundFile();
+    void everyKindOfCache_data();
+    void everyKindOfCache();
     void identity();
     void formsThatAreRefused();
 
@@ -351,6 +354,36 @@ void tst_SoundFile::noSoundFile()
              qPrintable(file.errorString()));
     QCOMPARE(plainOf(file), old);
     QVERIFY(file.steps().canUndo());
+}
+
+void tst_SoundFile::everyKindOfCache_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("hasPlace");
+    QTest::newRow("memory") << 1 << true;
+    QTest::newRow("temporary file") << 2 << true;
+    QTest::newRow("no place for a temporary file") << 2 << false;
+}
+
+void tst_SoundFile::everyKindOfCache()
+{
+    QFETCH(int, type);
+    QFETCH(bool, hasPlace);
+    TestInterface host;
+    host.options["cache_type"] = type;
+    const QByteArray place = qgetenv("TMPDIR");
+    if (!hasPlace) {
+        write(path("no folder"), "x");
+        qputenv("TMPDIR", path("no folder").toLocal8Bit());
+    }
+    SoundFile file;
+    qputenv("TMPDIR", place);
+    QCOMPARE(int(file.cache()->type()), hasPlace ? type : 1);
+    file.add(0, "0,0", sample("some samples"));
+    file.add(1, "0,1", sample(QByteArray(1000, 'x')));
+    file.sound(0)->setSample(sample("others"), "others");
+    QCOMPARE(file.sound(0)->sampleData(), QByteArray("others"));
+    QCOMPARE(file.sound(1)->sampleData(), QByteArray(1000, 'x'));
 }
 
 void tst_SoundFile::identity()

@@ -1,5 +1,6 @@
 #include "assets/pixelstore.h"
 
+#include "assets/assetcache.h"
 #include "cache/crc64.h"
 #include "cache/filecache.h"
 
@@ -50,8 +51,8 @@ QByteArray decodedBytes(const PixelFormat& format, QByteArray rows)
 }  // namespace
 
 PixelStore::PixelStore()
-    : m_cache(Zorv::StreamCache::instance(Zorv::StreamCache::DefaultCache)),
-      m_files(std::make_unique<Zorv::FileCache>()), m_unpacked(MostUnpacked)
+    : m_cache(newAssetCache()), m_files(std::make_unique<Zorv::FileCache>()),
+      m_unpacked(MostUnpacked)
 {
     for (Zorv::StreamCache* cache :
          {m_cache.get(), static_cast<Zorv::StreamCache*>(m_files.get())}) {

@@ -1,8 +1,8 @@
 #include "assets/samplestore.h"
 
+#include "assets/assetcache.h"
 #include "assets/samplepacking.h"
 #include "cache/crc64.h"
-#include "cache/diskcache.h"
 
 namespace Family {
 
@@ -18,17 +18,9 @@ quint64 checksumOf(const QByteArray& data)
     return Zorv::crc64(reinterpret_cast<const uchar*>(data.constData()), unsigned(data.size()));
 }
 
-StreamCache* newCache()
-{
-    std::unique_ptr<StreamCache> cache(StreamCache::instance(StreamCache::DefaultCache));
-    const auto* disk = dynamic_cast<Zorv::DiskCache*>(cache.get());
-    return disk && !disk->isOpen() ? StreamCache::instance(StreamCache::MemoryStore)
-                                   : cache.release();
-}
-
 }  // namespace
 
-SampleStore::SampleStore() : m_cache(newCache())
+SampleStore::SampleStore() : m_cache(newAssetCache())
 {
     connect(m_cache.get(), &StreamCache::readFilter, this, &SampleStore::unpack,
             Qt::DirectConnection);
