@@ -35,34 +35,6 @@ bool isFolder(const QString& place)
            (suffixOf(place).isEmpty() && !place.contains(QLatin1Char('*')));
 }
 
-/// The suffix of a result: what was asked for, else that of its source.
-QString wantedSuffix(const QString& name, const OutputRequest& request, const QByteArray& format)
-{
-    if (!request.format.isEmpty()) {
-        return QString::fromLatin1(request.format).toLower();
-    }
-    return format.isEmpty() ? suffixOf(name) : QString::fromLatin1(format).toLower();
-}
-
-QString pathOf(const QString& name, const OutputRequest& request, const QByteArray& format)
-{
-    QString place = request.place;
-    if (place.isEmpty()) {
-        place = QFileInfo(name).path() + QLatin1String("/*");
-        place.remove(0, place.startsWith(QLatin1String("./")) ? 2 : 0);
-    } else if (isFolder(place)) {
-        place = QDir(place).filePath(QStringLiteral("*"));
-    }
-    const int star = place.lastIndexOf(QLatin1Char('*'));
-    if (star >= 0) {
-        const bool hasSuffix = !suffixOf(place).isEmpty();
-        place.replace(star, 1, baseOf(name));
-        const QString suffix = wantedSuffix(name, request, format);
-        return hasSuffix || suffix.isEmpty() ? place : place + QLatin1Char('.') + suffix;
-    }
-    return place;
-}
-
 /// A result that replaces nothing is whole under another name first. It need not have reached the
 /// disk: what it was made of is there still.
 QString writeNew(const QString& path, const QByteArray& bytes)
@@ -104,50 +76,66 @@ QString writeOver(const QString& path, const QByteArray& bytes)
 bool OutputFiles::plan(const QStringList& names, const OutputRequest& request,
                        const QByteArray& format, QString* error)
 {
+    const QString& place = request.place;
+    m_names = names;
     m_force = request.force;
-    m_paths.clear();
-    for (const QString& name : names) {
-        m_paths.append(pathOf(name, request, format));
-    }
-    const bool isOneFile = !request.place.isEmpty() && !isFolder(request.place) &&
-                           !request.place.contains(QLatin1Char('*'));
-    if (isOneFile && names.size() > 1) {
-        *error =
-            Text::tr("'%1' is one file, and there are %2 to write. Name a folder, or a "
-                     "pattern such as '%3'.")
-                .arg(request.place, QString::number(names.size()),
-                     QDir::cleanPath(QFileInfo(request.place)
-                                         .dir()
-                                         .filePath(QLatin1String("*.") + suffixOf(request.place))));
+    m_suffix = QString::fromLatin1(request.format.isEmpty() ? format : request.format).toLower();
+    m_pattern =
+        !place.isEmpty() && isFolder(place) ? QDir(place).filePath(QStringLiteral("*")) : place;
+    if (!place.isEmpty() && !m_pattern.contains(QLatin1Char('*')) && names.size() > 1) {
+        const QString pattern =
+            QFileInfo(place).dir().filePath(QLatin1String("*.") + suffixOf(place));
+        *error = Text::tr("'%1' is one file, and there are %2 to write. Name a folder, or a "
+                          "pattern such as '%3'.")
+                     .arg(place, QString::number(names.size()), QDir::cleanPath(pattern));
         return false;
     }
-    return checkPaths(names, error) && checkExisting(error);
+    return checkPaths(error) && checkExisting(error);
+}
+
+QString OutputFiles::path(int index) const
+{
+    const QString& name = m_names.at(index);
+    QString pattern = m_pattern;
+    if (pattern.isEmpty()) {
+        pattern = QFileInfo(name).path() + QLatin1String("/*");
+        pattern.remove(0, pattern.startsWith(QLatin1String("./")) ? 2 : 0);
+    }
+    const int star = pattern.lastIndexOf(QLatin1Char('*'));
+    if (star < 0) {
+        return pattern;
+    }
+    const bool hasSuffix = !suffixOf(pattern).isEmpty();
+    const QString suffix = m_suffix.isEmpty() ? suffixOf(name) : m_suffix;
+    pattern.replace(star, 1, baseOf(name));
+    return hasSuffix || suffix.isEmpty() ? pattern : pattern + QLatin1Char('.') + suffix;
 }
 
 QByteArray OutputFiles::format(int index) const
 {
-    return Zorv::fileExtension(m_paths.at(index));
+    return Zorv::fileExtension(path(index));
 }
 
 QString OutputFiles::write(int index, const QByteArray& bytes) const
 {
-    const QString path = m_paths.at(index);
-    return m_force && QFileInfo::exists(path) ? writeOver(path, bytes) : writeNew(path, bytes);
+    const QString target = path(index);
+    return m_force && QFileInfo::exists(target) ? writeOver(target, bytes)
+                                                : writeNew(target, bytes);
 }
 
-bool OutputFiles::checkPaths(const QStringList& names, QString* error) const
+bool OutputFiles::checkPaths(QString* error) const
 {
     QHash<QString, int> seen;
-    for (int i = 0; i < m_paths.size(); ++i) {
-        const QString path = QDir::cleanPath(QFileInfo(m_paths[i]).absoluteFilePath());
-        const auto other = seen.constFind(path);
+    for (int i = 0; i < count(); ++i) {
+        const QString target = QDir::cleanPath(QFileInfo(path(i)).absoluteFilePath());
+        const auto other = seen.constFind(target);
         if (other != seen.constEnd()) {
             *error = Text::tr("'%1' and '%2' would both become '%3'. Write them to different "
                               "folders.")
-                         .arg(names[*other], names[i], m_paths[i]);
+                         .arg(m_names[*other], m_names[i], path(i));
             return false;
         }
-        seen.insert(path, i);
+        seen.insert(target, i);
     }
     return true;
 }
@@ -155,9 +143,10 @@ bool OutputFiles::checkPaths(const QStringList& names, QString* error) const
 bool OutputFiles::checkExisting(QString* error) const
 {
     QStringList taken;
-    for (const QString& path : m_paths) {
-        if (QFileInfo::exists(path) && (!m_force || !QFileInfo(path).isFile())) {
-            taken.append(path);
+    for (int i = 0; i < count(); ++i) {
+        const QFileInfo info(path(i));
+        if (info.exists() && (!m_force || !info.isFile())) {
+            taken.append(path(i));
         }
     }
     if (taken.isEmpty()) {

@@ -27,8 +27,8 @@ public:
     bool plan(const QStringList& names, const OutputRequest& request, const QByteArray& format,
               QString* error);
 
-    int count() const { return m_paths.size(); }
-    QString path(int index) const { return m_paths.at(index); }
+    int count() const { return m_names.size(); }
+    QString path(int index) const;
 
     /// The format of a result, as `Zorv::fileExtension()` makes it of its name.
     QByteArray format(int index) const;
@@ -38,10 +38,13 @@ public:
     QString write(int index, const QByteArray& bytes) const;
 
 private:
-    bool checkPaths(const QStringList& names, QString* error) const;
+    bool checkPaths(QString* error) const;
     bool checkExisting(QString* error) const;
 
-    QStringList m_paths;
+    // Paths are made when they are asked for: there may be many.
+    QStringList m_names;
+    QString m_pattern;  // empty for the places of the inputs
+    QString m_suffix;   // where the pattern has none; empty for that of the input
     bool m_force = false;
 };
 

@@ -8,7 +8,6 @@
 #include "operations/media/palettework.h"
 
 #include <QCoreApplication>
-#include <QHash>
 
 namespace Family {
 
@@ -20,33 +19,44 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Family::SpriteExport)
 };
 
-/// What is told of a sprite besides its pixels.
+/// What is told of a sprite besides its pixels. Small, for there may be many.
 struct Label
 {
     AssetId id;
-    QString axis;
-    QString palette;
+    QPoint axis;
+    AssetId palette;
+    bool hasPalette;
 };
 
 QVector<Label> labelsOf(const SpriteCollection& sprites, const QVector<int>& rows)
 {
     QVector<Label> labels;
+    labels.reserve(rows.size());
     for (int row : rows) {
-        const FamilySprite* sprite = sprites.sprite(row);
-        labels.append({sprite->id(),
-                       QStringLiteral("%1,%2").arg(sprite->axis().x()).arg(sprite->axis().y()),
-                       sprite->property(QStringLiteral("Palette")).toString()});
+        const FamilySprite::State& state = sprites.sprite(row)->state;
+        labels.append({state.id, state.axis, state.palette ? state.palette->id() : AssetId(),
+                       bool(state.palette)});
     }
     return labels;
 }
 
-QVector<AssetId> idsOf(const QVector<Label>& labels)
+QStringList namesOf(const QVector<Label>& labels)
 {
     QVector<AssetId> ids;
+    ids.reserve(labels.size());
     for (const Label& label : labels) {
         ids.append(label.id);
     }
-    return ids;
+    return exportNames(ids);
+}
+
+void putLabel(QImage* image, const Label& label)
+{
+    image->setText(QLatin1String(AxisText),
+                   QStringLiteral("%1,%2").arg(label.axis.x()).arg(label.axis.y()));
+    if (label.hasPalette) {
+        image->setText(QLatin1String(PaletteText), label.palette.text());
+    }
 }
 
 }  // namespace
@@ -92,20 +102,20 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
     }
     OutputFiles outputs;
     QString error;
-    if (!outputs.plan(exportNames(idsOf(labels)), request, QByteArrayLiteral("PNG"), &error)) {
+    if (!outputs.plan(namesOf(labels), request, QByteArrayLiteral("PNG"), &error)) {
         return MediaResult(error);
     }
     const QVector<QRgb> table = colors ? tableOfColors(*colors) : QVector<QRgb>();
-    QHash<int, int> placeOf;
-    for (int row : rows) {
-        placeOf.insert(row, placeOf.size());
+    QVector<int> placeOf(int(sprites.count()));
+    for (int i = 0; i < rows.size(); ++i) {
+        placeOf[rows[i]] = i;
     }
     QVector<QString> faults(rows.size());
     QString* fault = faults.data();
     ImageJob job;
     job.rows = rows;
     job.work = [&](int row, QImage image) {
-        const int i = placeOf.value(row);
+        const int i = placeOf.at(row);
         if (image.isNull()) {
             fault[i] =
                 Text::tr("Sprite %1 has no pixels, or they are broken.").arg(labels[i].id.text());
@@ -114,10 +124,7 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
         if (colors && image.format() == QImage::Format_Indexed8) {
             image.setColorTable(table);
         }
-        image.setText(QLatin1String(AxisText), labels[i].axis);
-        if (!labels[i].palette.isEmpty()) {
-            image.setText(QLatin1String(PaletteText), labels[i].palette);
-        }
+        putLabel(&image, labels[i]);
         fault[i] = writeImage(image, outputs, i);
     };
     JobProgress progress(Text::tr("Sprites"), rows.size());
