@@ -20,73 +20,137 @@ namespace {
 
 const double PointUnit = 4294967296.0;
 const int PointBits = 32;
+const quint64 OpaquePair = Q_UINT64_C(0xFF000000FF000000);
 
-/// The weights of the right and of the lower neighbours, of 256.
-struct Weights
+using Point = ImageTurn::Point;
+using Path = ImageTurn::Path;
+
+Point operator+(const Point& a, const Point& b)
 {
+    return {a.x + b.x, a.y + b.y};
+}
+
+/// The upper left one of the four pixels around a corner.
+const quint32* upperLeft(const Raster<const quint32>& from, const Point& at)
+{
+    return from.row(int(at.y >> PointBits)) + (at.x >> PointBits);
+}
+
+const quint32* below(const quint32* pixel, const Raster<const quint32>& from)
+{
+    return reinterpret_cast<const quint32*>(reinterpret_cast<const uchar*>(pixel) + from.stride);
+}
+
+/// Four pixels and the weights of the right and of the lower ones, of 256.
+struct Square
+{
+    Square(const Raster<const quint32>& from, const Point& at)
+        : upper(upperLeft(from, at)), lower(below(upper, from)),
+          right(unsigned(at.x >> (PointBits - 8) & 255)),
+          down(unsigned(at.y >> (PointBits - 8) & 255))
+    {
+    }
+
+    const quint32* upper;
+    const quint32* lower;
     unsigned right;
-    unsigned lower;
+    unsigned down;
 };
 
-#ifdef __SSE2__
-quint32 mixedOpaque(const quint32* upper, const quint32* lower, Weights weights)
-{
-    const __m128i zero = _mm_setzero_si128();
-    const __m128i half = _mm_set1_epi16(128);
-    const auto pair = [zero](const quint32* pixels) {
-        return _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(pixels)), zero);
-    };
-    // Sums below 2 to the power of 16 come out right although the differences may be negative.
-    const __m128i top = pair(upper);
-    const __m128i change =
-        _mm_mullo_epi16(_mm_sub_epi16(pair(lower), top), _mm_set1_epi16(short(weights.lower)));
-    const __m128i column =
-        _mm_srli_epi16(_mm_add_epi16(_mm_add_epi16(_mm_slli_epi16(top, 8), change), half), 8);
-    const __m128i right = _mm_unpackhi_epi64(column, column);
-    const __m128i across =
-        _mm_mullo_epi16(_mm_sub_epi16(right, column), _mm_set1_epi16(short(weights.right)));
-    const __m128i sum =
-        _mm_srli_epi16(_mm_add_epi16(_mm_add_epi16(_mm_slli_epi16(column, 8), across), half), 8);
-    return quint32(_mm_cvtsi128_si32(_mm_packus_epi16(sum, sum)));
-}
-#else
 WidePixel mixedPair(WidePixel first, WidePixel second, unsigned part)
 {
     return (first * (256 - part) + second * part + WideHalf) >> 8 & WideMask;
 }
 
-quint32 mixedOpaque(const quint32* upper, const quint32* lower, Weights weights)
+quint32 mixedOpaque(const Square& square)
 {
-    const WidePixel left = mixedPair(widened(upper[0]), widened(lower[0]), weights.lower);
-    const WidePixel right = mixedPair(widened(upper[1]), widened(lower[1]), weights.lower);
-    return narrowed(mixedPair(left, right, weights.right));
+    const auto column = [&square](int i) {
+        return mixedPair(widened(square.upper[i]), widened(square.lower[i]), square.down);
+    };
+    return narrowed(mixedPair(column(0), column(1), square.right));
 }
-#endif
 
-quint32 mixedWithAlpha(const quint32* upper, const quint32* lower, Weights weights)
+quint32 mixedWithAlpha(const Square& square)
 {
-    const float right = float(weights.right) / 256;
-    const float down = float(weights.lower) / 256;
+    const float right = float(square.right) / 256;
+    const float down = float(square.down) / 256;
     Mixture sum = {};
-    add(sum, mixtureOf(upper[0]), (1 - right) * (1 - down));
-    add(sum, mixtureOf(upper[1]), right * (1 - down));
-    add(sum, mixtureOf(lower[0]), (1 - right) * down);
-    add(sum, mixtureOf(lower[1]), right * down);
+    add(sum, mixtureOf(square.upper[0]), (1 - right) * (1 - down));
+    add(sum, mixtureOf(square.upper[1]), right * (1 - down));
+    add(sum, mixtureOf(square.lower[0]), (1 - right) * down);
+    add(sum, mixtureOf(square.lower[1]), right * down);
     return pixelOf(sum);
 }
 
-quint32 mixed(const quint32* upper, const quint32* lower, Weights weights)
+quint32 mixed(const Square& square)
 {
-    // Only where all that counts is opaque the mixture is.
-    const quint32 result = mixedOpaque(upper, lower, weights);
-    if (result >> 24 == 255) {
-        return result;
+    const quint32 first = square.upper[0];
+    if (first == square.upper[1] && first == square.lower[0] && first == square.lower[1]) {
+        return first;
     }
-    const bool flat = upper[0] == upper[1] && lower[0] == lower[1] && upper[0] == lower[0];
-    return flat ? upper[0] : mixedWithAlpha(upper, lower, weights);
+    // Only where all that counts is opaque the mixture is.
+    const quint32 result = mixedOpaque(square);
+    return result >> 24 == 255 ? result : mixedWithAlpha(square);
 }
 
-/// The image with a border of one pixel of a colour.
+#ifdef __SSE2__
+/// Mixes two pixels at a time along a path. Returns the pixel behind them, and moves the path.
+quint32* mixPairs(const Raster<const quint32>& from, quint32* pixel, quint32* end, Path& path)
+{
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i half = _mm_set1_epi16(128);
+    const __m128i byte = _mm_set_epi32(0, 255, 0, 255);
+    const auto pairOf = [](const quint32* first, const quint32* second) {
+        return _mm_unpacklo_epi32(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(first)),
+                                  _mm_loadl_epi64(reinterpret_cast<const __m128i*>(second)));
+    };
+    // Sums below 2 to the power of 16 come out right although the differences may be negative.
+    const auto mix = [half](__m128i first, __m128i second, __m128i part) {
+        const __m128i change = _mm_mullo_epi16(_mm_sub_epi16(second, first), part);
+        const __m128i sum = _mm_add_epi16(_mm_add_epi16(_mm_slli_epi16(first, 8), half), change);
+        return _mm_srli_epi16(sum, 8);
+    };
+    const auto parts = [byte](__m128i points) {
+        const __m128i values = _mm_and_si128(_mm_srli_epi64(points, PointBits - 8), byte);
+        return _mm_shufflehi_epi16(_mm_shufflelo_epi16(values, 0), 0);
+    };
+    __m128i columns = _mm_set_epi64x(path.start.x + path.step.x, path.start.x);
+    __m128i rows = _mm_set_epi64x(path.start.y + path.step.y, path.start.y);
+    const __m128i columnStep = _mm_set1_epi64x(2 * path.step.x);
+    const __m128i rowStep = _mm_set1_epi64x(2 * path.step.y);
+    for (; pixel + 2 <= end; pixel += 2) {
+        const Point next = path.start + path.step;
+        const quint32* first = upperLeft(from, path.start);
+        const quint32* second = upperLeft(from, next);
+        const __m128i upper = pairOf(first, second);
+        const __m128i lower = pairOf(below(first, from), below(second, from));
+        const __m128i down = parts(rows);
+        const __m128i left =
+            mix(_mm_unpacklo_epi8(upper, zero), _mm_unpacklo_epi8(lower, zero), down);
+        const __m128i right =
+            mix(_mm_unpackhi_epi8(upper, zero), _mm_unpackhi_epi8(lower, zero), down);
+        const __m128i sum = mix(left, right, parts(columns));
+        const auto both = quint64(_mm_cvtsi128_si64(_mm_packus_epi16(sum, sum)));
+        if (both == 0 || (both & OpaquePair) == OpaquePair) {
+            _mm_storel_epi64(reinterpret_cast<__m128i*>(pixel), _mm_packus_epi16(sum, sum));
+        } else {
+            pixel[0] = mixed(Square(from, path.start));
+            pixel[1] = mixed(Square(from, next));
+        }
+        path.start = next + path.step;
+        columns = _mm_add_epi64(columns, columnStep);
+        rows = _mm_add_epi64(rows, rowStep);
+    }
+    return pixel;
+}
+#else
+quint32* mixPairs(const Raster<const quint32>&, quint32* pixel, quint32*, Path&)
+{
+    return pixel;
+}
+#endif
+
+/// The image with comparable pixels and a border of one pixel of a colour.
 QImage bordered(const QImage& image, quint32 fill)
 {
     QImage result(image.size() + QSize(2, 2), image.format());
@@ -97,10 +161,17 @@ QImage bordered(const QImage& image, quint32 fill)
     const Raster<quint32> to(result);
     std::fill_n(to.row(0), to.width, fill);
     std::fill_n(to.row(to.height - 1), to.width, fill);
+    const bool hasAlpha = image.hasAlphaChannel();
     for (int y = 0; y < from.height; ++y) {
         quint32* row = to.row(y + 1);
         row[0] = fill;
-        std::copy_n(from.row(y), from.width, row + 1);
+        if (hasAlpha) {
+            std::transform(from.row(y), from.row(y) + from.width, row + 1,
+                           [](quint32 pixel) { return comparableClear(pixel); });
+        } else {
+            std::transform(from.row(y), from.row(y) + from.width, row + 1,
+                           [](quint32 pixel) { return comparableOpaque(pixel); });
+        }
         row[to.width - 1] = fill;
     }
     return result;
@@ -173,14 +244,10 @@ void ImageTurn::draw(const Source& source, QImage& to, quint32 fill, Sample samp
         clip(span, way.start.y, way.step.y, qint64(source.area.height()) << PointBits);
         Pixel* row = pixels.row(y);
         std::fill(row, row + span.first, Pixel(fill));
-        qint64 u = way.start.x + span.first * way.step.x;
-        qint64 v = way.start.y + span.first * way.step.y;
         Pixel* const end = row + span.end;
-        for (Pixel* pixel = row + span.first; pixel < end; ++pixel) {
-            *pixel = sample(u, v);
-            u += way.step.x;
-            v += way.step.y;
-        }
+        const qint64 steps = span.first;
+        sample(row + span.first, end,
+               {{way.start.x + steps * way.step.x, way.start.y + steps * way.step.y}, way.step});
         std::fill(end, row + pixels.width, Pixel(fill));
     }
 }
@@ -193,9 +260,14 @@ QImage ImageTurn::nearest(const QImage& image, quint32 fill, const QSize& size) 
     }
     withRasters(image, result, [&](const auto& from, const auto& to) {
         using Pixel = std::remove_reference_t<decltype(*to.bits)>;
-        draw<Pixel>({image.size(), image.size(), 0}, result, fill, [from](qint64 u, qint64 v) {
-            return from.row(int(v >> PointBits))[u >> PointBits];
-        });
+        draw<Pixel>({image.size(), image.size(), 0}, result, fill,
+                    [from](Pixel* pixel, Pixel* end, Path path) {
+                        for (; pixel < end; ++pixel) {
+                            const auto& [x, y] = path.start;
+                            *pixel = from.row(int(y >> PointBits))[x >> PointBits];
+                            path.start = path.start + path.step;
+                        }
+                    });
     });
     return result;
 }
@@ -210,11 +282,12 @@ QImage ImageTurn::bilinear(const QImage& image, quint32 fill, const QSize& size)
     const Raster<const quint32> from(source);
     // The four pixels lie around a corner, half a pixel off the centres; the border adds one more.
     const Source area = {image.size(), image.size() + QSize(1, 1), 0.5};
-    draw<quint32>(area, result, fill, [&from](qint64 u, qint64 v) {
-        const quint32* upper = from.row(int(v >> PointBits)) + (u >> PointBits);
-        const auto* lower =
-            reinterpret_cast<const quint32*>(reinterpret_cast<const uchar*>(upper) + from.stride);
-        return mixed(upper, lower, {unsigned(u >> 24 & 255), unsigned(v >> 24 & 255)});
+    draw<quint32>(area, result, fill, [from](quint32* pixel, quint32* end, Path path) {
+        pixel = mixPairs(from, pixel, end, path);
+        for (; pixel < end; ++pixel) {
+            *pixel = mixed(Square(from, path.start));
+            path.start = path.start + path.step;
+        }
     });
     return result;
 }

@@ -13,6 +13,19 @@ namespace Zorv {
 class ImageTurn
 {
 public:
+    /// A point of the source, in parts of 2 to the power of 32 of a pixel.
+    struct Point
+    {
+        qint64 x;
+        qint64 y;
+    };
+    /// The way through the source that a row of the result takes.
+    struct Path
+    {
+        Point start;
+        Point step;
+    };
+
     ImageTurn(const QSize& size, double degrees);
 
     /// The size that an image of the original size needs.
@@ -27,18 +40,6 @@ public:
     QImage bilinear(const QImage& image, quint32 fill, const QSize& size) const;
 
 private:
-    /// A point of the source, in parts of 2 to the power of 32 of a pixel.
-    struct Point
-    {
-        qint64 x;
-        qint64 y;
-    };
-    /// The way through the source that a row of the result takes.
-    struct Path
-    {
-        Point start;
-        Point step;
-    };
     struct Span
     {
         int first;

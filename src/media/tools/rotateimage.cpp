@@ -46,7 +46,7 @@ QImage turned(const QImage& work, const ImageTurn& turn, unsigned int fill,
     }
     const bool mixes = filter == ImageResizeFilter::Bilinear || filter == ImageResizeFilter::Hq;
     if (mixes && !isIndexed(work)) {
-        return turnMixing(comparableImage(work), turn, fill, filter);
+        return turnMixing(work, turn, fill, filter);
     }
     // The colour of what is transparent is kept where nothing is mixed.
     const QImage source = work.hasAlphaChannel() ? work : comparableImage(work);
