@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     QBuffer buffer(&bytes);
     const Zorv::SoundSample sample = Zorv::soundFromWAV(&buffer);
     require(size_t(sample.data.size()) <= size);
-    require(qint64(sample.frames) * (sample.bits * sample.channels / 8) <= sample.data.size());
+    require(sample.frames * (qint64(sample.bits) * sample.channels / 8) <= sample.data.size());
     const Zorv::SampleInfo info = Zorv::soundInfoFromWAV(&buffer);
     require(info.frames >= 0);
 

@@ -261,8 +261,8 @@ void tst_WAV::brokenBytes()
     forEachBrokenForm(whole, [&whole](const QByteArray& broken) {
         const SoundSample sample = read(broken);
         QVERIFY(sample.data.size() <= whole.size());
-        const int frameSize = sample.bits * sample.channels / 8;
-        QVERIFY(qint64(sample.frames) * frameSize <= sample.data.size());
+        const qint64 frameSize = qint64(sample.bits) * sample.channels / 8;
+        QVERIFY(sample.frames * frameSize <= sample.data.size());
         info(broken);
         // What is read is written and read as the same.
         const SoundSample again = read(written(sample));
