@@ -1,5 +1,6 @@
 #pragma once
 
+#include "assets/assetref.h"
 #include "assets/pixelcodec.h"
 #include "cache/streamcachedata.h"
 
@@ -30,41 +31,6 @@ private:
     PixelStore* m_store;
 };
 
-/// A share of `PixelData`: counts it, and gives it back.
-class PixelRef
-{
-public:
-    PixelRef() = default;
-
-    /// Takes over the one share that new data has.
-    explicit PixelRef(PixelData* data) : m_data(data) {}
-    PixelRef(const PixelRef& other) : m_data(other.m_data)
-    {
-        if (m_data) {
-            ++m_data->refCount;
-        }
-    }
-    PixelRef(PixelRef&& other) noexcept : m_data(other.m_data) { other.m_data = nullptr; }
-    PixelRef& operator=(PixelRef other) noexcept
-    {
-        std::swap(m_data, other.m_data);
-        return *this;
-    }
-    ~PixelRef()
-    {
-        if (m_data) {
-            m_data->release();
-        }
-    }
-
-    PixelData* get() const { return m_data; }
-    PixelData* operator->() const { return m_data; }
-    explicit operator bool() const { return m_data; }
-    friend bool operator==(const PixelRef& a, const PixelRef& b) { return a.m_data == b.m_data; }
-    friend bool operator!=(const PixelRef& a, const PixelRef& b) { return a.m_data != b.m_data; }
-
-private:
-    PixelData* m_data = nullptr;
-};
+using PixelRef = AssetRef<PixelData>;
 
 }  // namespace Family
