@@ -1,5 +1,6 @@
 #include "media/lz5.h"
 
+#include "media/bytescan_p.h"
 #include "media/bytesource_p.h"
 #include "media/devices_p.h"
 #include "media/pixelarray_p.h"
@@ -54,8 +55,12 @@ void copyStride(uchar* to, const uchar* from)
 uchar* readRun(const uchar*& in, uchar* out)
 {
     const uchar head = *in++;
-    const int length = head >> 5 ? head >> 5 : *in++ + 8;
-    uchar* const end = out + length;
+    if (head >> 5) {
+        const quint64 pixels = ByteScan::eachByte(head & 31);
+        std::memcpy(out, &pixels, 8);
+        return out + (head >> 5);
+    }
+    uchar* const end = out + *in++ + 8;
     do {
         std::memset(out, head & 31, Stride);
         out += Stride;

@@ -104,8 +104,6 @@ class tst_Pcx : public QObject
 private slots:
     void initTestCase() { qInfo("seed %u", seed); }
     void roundTrip();
-    void codedBytes_data();
-    void codedBytes();
     void palettes_data();
     void palettes();
     void forms_data();
@@ -135,23 +133,6 @@ void tst_Pcx::roundTrip()
     QVERIFY(saved(QImage()).isEmpty());
     QVERIFY(saved(QImage(8, 8, QImage::Format_Mono)).isEmpty());
     QVERIFY(saved(QImage(65536, 1, QImage::Format_Indexed8)).isEmpty());
-}
-
-void tst_Pcx::codedBytes_data()
-{
-    QTest::addColumn<QByteArray>("pixels");
-    QTest::addColumn<QByteArray>("coded");
-    QTest::newRow("one above 191") << QByteArray("\xC8") << QByteArray("\xC1\xC8");
-    QTest::newRow("64 low") << QByteArray(64, '\5') << QByteArray("\xFF\5\5");
-    QTest::newRow("64 high") << QByteArray(64, '\xC0') << QByteArray("\xFF\xC0\xC1\xC0");
-}
-
-void tst_Pcx::codedBytes()
-{
-    QFETCH(QByteArray, pixels);
-    QFETCH(QByteArray, coded);
-    const QByteArray file = saved(SpritePixels::image(pixels, pixels.size(), 1));
-    QCOMPARE(file.mid(128, file.size() - 128 - 769), coded);
 }
 
 void tst_Pcx::palettes_data()
