@@ -30,13 +30,49 @@ bool isHonest(const Declared& picture, const QIODevice* device)
     return stored <= double(device->bytesAvailable()) * double(picture.packing);
 }
 
+// Deflate stores no more than 1032 bytes in one.
+const int DeflateRatio = 1032;
+
+/// libpng takes the memory that a chunk declares before it reads it, but for pixels; and up to 8 MB
+/// for each packed text.
+bool hasHonestChunks(QIODevice* device)
+{
+    const int Signature = 8;
+    const int Head = 8;
+    const int Checksum = 4;
+    const qint64 LargestText = 8000000;
+
+    const qint64 end = device->size();
+    qint64 texts = 0;
+    QByteArray head;
+    for (qint64 at = device->pos() + Signature; device->seek(at);) {
+        head = device->read(Head);
+        if (head.size() < Head || head.endsWith("IEND")) {
+            return true;
+        }
+        const qint64 length = qFromBigEndian<quint32>(head.constData());
+        if (length > end - at - Head && !head.endsWith("IDAT")) {
+            return false;
+        }
+        if (head.endsWith("zTXt") || head.endsWith("iTXt")) {
+            texts += qMin(LargestText, length * DeflateRatio);
+        }
+        if (texts > FreeMemory) {
+            return false;
+        }
+        at += Head + length + Checksum;
+        if (at > end) {
+            return true;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 bool isHonestPNG(QIODevice* device)
 {
     const int IhdrEnd = 26;
-    // Deflate stores no more than 1032 bytes in one.
-    const int DeflateRatio = 1032;
     static const int channels[] = {1, 0, 3, 1, 2, 0, 4};
 
     const QByteArray head = device->peek(IhdrEnd);
@@ -49,7 +85,12 @@ bool isHonestPNG(QIODevice* device)
     picture.height = qFromBigEndian<quint32>(head.constData() + 20);
     picture.bits = uchar(head[24]) * (type < 7 ? channels[type] : 0);
     picture.packing = DeflateRatio;
-    return isHonest(picture, device);
+    if (!isHonest(picture, device)) {
+        return false;
+    }
+    const qint64 start = device->pos();
+    const bool honest = hasHonestChunks(device);
+    return device->seek(start) && honest;
 }
 
 bool isHonestBMP(QIODevice* device)

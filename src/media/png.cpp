@@ -2,7 +2,7 @@
 
 #include "media/imagesize_p.h"
 
-#include <QIODevice>
+#include <QBuffer>
 #include <QImage>
 
 namespace Zorv {
@@ -11,6 +11,13 @@ bool loadPNG(QImage& image, QIODevice* device)
 {
     if (!device->isReadable() && !device->open(QIODevice::ReadOnly)) {
         return false;
+    }
+    // How much a pipe holds is known only when it has been read.
+    QBuffer whole;
+    if (device->isSequential()) {
+        whole.setData(device->readAll());
+        whole.open(QIODevice::ReadOnly);
+        device = &whole;
     }
     if (isHonestPNG(device)) {
         image.load(device, "PNG");

@@ -204,6 +204,7 @@ private slots:
     void delaysDoNotDrift();
     void onlyChangesAreWritten();
     void whatVanishesIsCleared();
+    void tablesOfTheirOwn();
     void manyColorsAreQuantized();
     void refusals();
 };
@@ -343,6 +344,36 @@ void TestSaveGIF::whatVanishesIsCleared()
         QCOMPARE(onNothing.images.at(i).image.size(), QSize(8, 8));
         QCOMPARE(int(onNothing.images.at(i).disposal), int(GIFImage::ToBackground));
     }
+}
+
+/// On a ground of 150 colours, patches of 100 others each: no table has all. The pixels fill the
+/// packer's table of strings several times.
+void TestSaveGIF::tablesOfTheirOwn()
+{
+    QRandomGenerator random(Seed);
+    const QSize size(160, 110);
+    QImage ground(size, QImage::Format_RGB32);
+    for (int i = 0; i < size.width() * size.height(); ++i) {
+        ground.setPixel(i % 160, i / 160, qRgb(random.bounded(150), 0, 0));
+    }
+    QVector<GIFFrame> frames = {{ground, {}, 2}};
+    for (int shade = 1; shade < 5; ++shade) {
+        // Every other pixel of the patch stays, with colours that its table has no room for.
+        QImage picture(ground);
+        for (int i = 0; i < 400; ++i) {
+            if (i % 2 == 0) {
+                picture.setPixel(50 + i % 40, 30 + i / 40, qRgb(200, random.bounded(100), shade));
+            }
+        }
+        frames.append({picture, {}, 2});
+    }
+    const GIFImage gif = loaded(saved(frames));
+    QVERIFY(composed(gif) == expected(frames, 0));
+    QVERIFY(!gif.images.last().colors.isEmpty());
+    const QStringList arguments =
+        QStringLiteral("gif:- -coalesce -depth 8 rgba:-").split(QLatin1Char(' '));
+    QVERIFY(runTool(QStringLiteral("convert"), arguments, saved(frames)) ==
+            rgba(expected(frames, 0)));
 }
 
 void TestSaveGIF::manyColorsAreQuantized()

@@ -73,6 +73,7 @@ bool GIFImage::load(QIODevice* device)
         // There are files that leave the size of the canvas to their first frame.
         if (size.isEmpty()) {
             size = QSize(frame.left, frame.top) + frame.image.size();
+            size = size.boundedTo(QSize(Largest, Largest));
         }
     }
 }
