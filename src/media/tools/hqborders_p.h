@@ -32,7 +32,7 @@ public:
     void compare(const HqRow& upper, const HqRow& lower);
 
     /// The key of pixel x of the row between two pairs of rows.
-    static int key(const HqBorders& above, const HqBorders& below, int x)
+    static int key(const HqBorders& above, const HqBorders& below, std::size_t x)
     {
         using namespace HqRelation;
         const quint8* up = above.m_bits.data() + x;
@@ -44,7 +44,7 @@ public:
     }
 
     /// Whether that pixel and all eight around it are equal.
-    static bool isFlat(const HqBorders& above, const HqBorders& below, int x)
+    static bool isFlat(const HqBorders& above, const HqBorders& below, std::size_t x)
     {
         const quint8* up = above.m_bits.data() + x;
         const quint8* down = below.m_bits.data() + x;

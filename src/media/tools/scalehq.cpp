@@ -8,18 +8,66 @@
 #include <QRgb>
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 namespace Zorv {
 
 namespace {
 
-/// A row with its borders to the next one.
-struct Line
+/// A walk over the rows of an image, which keeps three of them with the borders between them.
+class HqRows
 {
-    explicit Line(int width) : row(width), below(width) {}
+public:
+    explicit HqRows(const Raster<const quint32>& source)
+        : m_source(source), m_padded(std::size_t(source.width) + 2)
+    {
+        read(-1);
+        read(0);
+        compare(-1);
+        read(1);
+        compare(0);
+    }
 
-    HqRow row;
-    HqBorders below;
+    void next()
+    {
+        ++m_y;
+        read(m_y + 1);
+        compare(m_y);
+    }
+
+    int y() const { return m_y; }
+    const HqRow& row(int offset) const { return m_rows[slot(m_y + offset)]; }
+
+    /// The borders to the row above and to the one below.
+    const HqBorders& above() const { return m_borders[slot(m_y - 1)]; }
+    const HqBorders& below() const { return m_borders[slot(m_y)]; }
+
+private:
+    static std::size_t slot(int y) { return std::size_t(y + 3) % 3; }
+
+    void read(int y)
+    {
+        const quint32* row = m_source.row(std::clamp(y, 0, m_source.height - 1));
+        std::transform(row, row + m_source.width, m_padded.begin() + 1,
+                       [](quint32 pixel) { return qPremultiply(pixel); });
+        m_padded.front() = m_padded[1];
+        m_padded.back() = m_padded[m_padded.size() - 2];
+        m_rows[slot(y)].read(m_padded.data());
+    }
+    void compare(int y) { m_borders[slot(y)].compare(m_rows[slot(y)], m_rows[slot(y + 1)]); }
+
+    template <class Part>
+    std::array<Part, 3> three() const
+    {
+        return {Part(m_source.width), Part(m_source.width), Part(m_source.width)};
+    }
+
+    Raster<const quint32> m_source;
+    std::vector<quint32> m_padded;
+    std::array<HqRow, 3> m_rows = three<HqRow>();
+    std::array<HqBorders, 3> m_borders = three<HqBorders>();
+    int m_y = 0;
 };
 
 WidePixel mixed(const HqMix& mix, WidePixel own, WidePixel corner, WidePixel vertical,
@@ -30,6 +78,10 @@ WidePixel mixed(const HqMix& mix, WidePixel own, WidePixel corner, WidePixel ver
                4 &
            WideMask;
 }
+
+// As the method is published, for pixels that are opaque. Alpha is a fourth part that is compared
+// and mixed, and the others are multiplied by it, so that the colour of what is transparent
+// neither makes borders nor shows.
 
 /// Draws the pixels of one row, `Factor` by `Factor` for each. Colours are multiplied by alpha.
 template <int Factor>
@@ -45,23 +97,26 @@ public:
         }
     }
 
-    void paint(const HqRow& above, const HqRow& own, const HqRow& below, const HqQuarters& quarters,
-               std::size_t i, quint32* const* to) const
+    void paint(const HqRows& rows, const HqQuarters& quarters, std::size_t i,
+               quint32* const* to) const
     {
-        const WidePixel E = widened(own.pixels[i + 1]);
-        const WidePixel B = widened(above.pixels[i + 1]);
-        const WidePixel D = widened(own.pixels[i]);
-        const WidePixel F = widened(own.pixels[i + 2]);
-        const WidePixel H = widened(below.pixels[i + 1]);
+        const std::vector<quint32>& above = rows.row(-1).pixels;
+        const std::vector<quint32>& own = rows.row(0).pixels;
+        const std::vector<quint32>& below = rows.row(1).pixels;
+        const WidePixel E = widened(own[i + 1]);
+        const WidePixel B = widened(above[i + 1]);
+        const WidePixel D = widened(own[i]);
+        const WidePixel F = widened(own[i + 2]);
+        const WidePixel H = widened(below[i + 1]);
         const std::size_t x = i * Factor;
-        quarter(quarters[0], to, x, false, false, E, widened(above.pixels[i]), B, D);
-        quarter(quarters[1], to, x, true, false, E, widened(above.pixels[i + 2]), B, F);
-        quarter(quarters[2], to, x, false, true, E, widened(below.pixels[i]), H, D);
-        quarter(quarters[3], to, x, true, true, E, widened(below.pixels[i + 2]), H, F);
+        quarter(quarters[0], to, x, false, false, E, widened(above[i]), B, D);
+        quarter(quarters[1], to, x, true, false, E, widened(above[i + 2]), B, F);
+        quarter(quarters[2], to, x, false, true, E, widened(below[i]), H, D);
+        quarter(quarters[3], to, x, true, true, E, widened(below[i + 2]), H, F);
         if (Factor == 3) {
             to[0][x + 1] = edge(quarters[0], quarters[1], E, B);
             to[1][x] = edge(hqTransposed(quarters[0]), hqTransposed(quarters[2]), E, D);
-            to[1][x + 1] = own.pixels[i + 1];
+            to[1][x + 1] = own[i + 1];
             to[1][x + 2] = edge(hqTransposed(quarters[1]), hqTransposed(quarters[3]), E, F);
             to[2][x + 1] = edge(quarters[2], quarters[3], E, H);
         }
@@ -107,46 +162,34 @@ void unpremultiply(const quint32* own, const HqRow& premultiplied, quint32* row,
 }
 
 template <int Factor>
+void scaleRow(const HqRows& rows, const Painter<Factor>& painter, quint32* const (&to)[Factor])
+{
+    const std::array<HqQuarters, HqKeyCount>& quarters = hqQuarters();
+    const std::vector<quint32>& own = rows.row(0).pixels;
+    for (std::size_t x = 0; x + 2 < own.size(); ++x) {
+        if (HqBorders::isFlat(rows.above(), rows.below(), x)) {
+            for (quint32* row : to) {
+                std::fill_n(row + Factor * x, Factor, own[x + 1]);
+            }
+        } else {
+            const int key = HqBorders::key(rows.above(), rows.below(), x);
+            painter.paint(rows, quarters[std::size_t(key)], x, to);
+        }
+    }
+}
+
+template <int Factor>
 void scaleRows(const Raster<const quint32>& from, const Raster<quint32>& to)
 {
     const Painter<Factor> painter;
-    const std::array<HqQuarters, HqKeyCount>& quarters = hqQuarters();
-    std::array<Line, 3> lines = {Line(from.width), Line(from.width), Line(from.width)};
-    std::vector<quint32> padded(std::size_t(from.width) + 2);
-    const auto line = [&lines](int y) -> Line& { return lines[std::size_t(y + 3) % 3]; };
-    const auto read = [&](int y) {
-        const quint32* row = from.row(std::clamp(y, 0, from.height - 1));
-        std::transform(row, row + from.width, padded.begin() + 1,
-                       [](quint32 pixel) { return qPremultiply(pixel); });
-        padded.front() = padded[1];
-        padded.back() = padded[padded.size() - 2];
-        line(y).row.read(padded.data());
-    };
-    read(-1);
-    read(0);
-    line(-1).below.compare(line(-1).row, line(0).row);
-    for (int y = 0; y < from.height; ++y) {
-        read(y + 1);
-        Line& own = line(y);
-        const Line& above = line(y - 1);
-        own.below.compare(own.row, line(y + 1).row);
-        quint32* rows[Factor];
+    for (HqRows rows(from); rows.y() < from.height; rows.next()) {
+        quint32* made[Factor];
         for (int k = 0; k < Factor; ++k) {
-            rows[k] = to.row(Factor * y + k);
+            made[k] = to.row(Factor * rows.y() + k);
         }
-        for (int x = 0; x < from.width; ++x) {
-            if (HqBorders::isFlat(above.below, own.below, x)) {
-                for (quint32* row : rows) {
-                    std::fill_n(row + Factor * x, Factor, own.row.pixels[std::size_t(x) + 1]);
-                }
-            } else {
-                const int key = HqBorders::key(above.below, own.below, x);
-                painter.paint(above.row, own.row, line(y + 1).row, quarters[std::size_t(key)],
-                              std::size_t(x), rows);
-            }
-        }
-        for (quint32* row : rows) {
-            unpremultiply<Factor>(from.row(y), own.row, row, from.width);
+        scaleRow<Factor>(rows, painter, made);
+        for (quint32* row : made) {
+            unpremultiply<Factor>(from.row(rows.y()), rows.row(0), row, from.width);
         }
     }
 }
