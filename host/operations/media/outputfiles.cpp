@@ -6,8 +6,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
 #include <QSaveFile>
+#include <QVector>
+
+#include <algorithm>
 
 namespace Family {
 
@@ -123,19 +125,29 @@ QString OutputFiles::write(int index, const QByteArray& bytes) const
                                                 : writeNew(target, bytes);
 }
 
+// By hash, for the paths of many files together would take more memory than the files on their way.
 bool OutputFiles::checkPaths(QString* error) const
 {
-    QHash<QString, int> seen;
+    const auto target = [this](int i) {
+        return QDir::cleanPath(QFileInfo(path(i)).absoluteFilePath());
+    };
+    QVector<QPair<uint, int>> hashes;
+    hashes.reserve(count());
     for (int i = 0; i < count(); ++i) {
-        const QString target = QDir::cleanPath(QFileInfo(path(i)).absoluteFilePath());
-        const auto other = seen.constFind(target);
-        if (other != seen.constEnd()) {
-            *error = Text::tr("'%1' and '%2' would both become '%3'. Write them to different "
-                              "folders.")
-                         .arg(m_names[*other], m_names[i], path(i));
-            return false;
+        hashes.append({qHash(target(i)), i});
+    }
+    std::sort(hashes.begin(), hashes.end());
+    for (int i = 0; i < count(); ++i) {
+        for (int j = i + 1; j < count() && hashes[j].first == hashes[i].first; ++j) {
+            const int one = hashes[i].second;
+            const int other = hashes[j].second;
+            if (target(one) == target(other)) {
+                *error = Text::tr("'%1' and '%2' would both become '%3'. Write them to different "
+                                  "folders.")
+                             .arg(m_names[one], m_names[other], path(one));
+                return false;
+            }
         }
-        seen.insert(target, i);
     }
     return true;
 }
