@@ -7,11 +7,12 @@
 
 namespace Zorv {
 
-/// An image turned clockwise by an angle in degrees, as large as its corners need.
+/// An image turned clockwise about its centre by an angle in degrees, as large as its corners need.
 ///
 /// Quarter turns are exact. `fill` is what stands in the corners: an index of an indexed image,
-/// else a `QRgb`. An indexed image stays indexed and takes only colours that are there. `Epx` and
-/// `Hq` enlarge first and turn then. Re-entrant.
+/// else a `QRgb`; if that is not opaque, `Format_RGB32` becomes `Format_ARGB32`. Forms and colours
+/// are else those of `resizeImage()`. `Epx` and `Hq` enlarge first and turn then. Null for a null
+/// image, an angle that is no number, a side beyond 32767, and if memory is short. Re-entrant.
 ZORV_EXPORT QImage rotateImage(const QImage& image, float degrees, unsigned int fill,
                                ImageResizeFilter filter);
 
