@@ -1,5 +1,5 @@
-// A file of 20,000 sprites: opening it beside unpacking them all, unpacking with two threads beside
-// one, and how adding sprites grows with their number.
+// A file of 20,000 sprites of 128 by 144 pixels: opening it beside unpacking them all, unpacking
+// with two threads beside one, and how adding sprites grows with their number.
 
 #include "support/bench.h"
 
@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include <atomic>
+#include <ctime>
 #include <numeric>
 
 using namespace Family;
@@ -23,18 +24,18 @@ constexpr int Rounds = 5;
 /// A figure of flat colours with outlines and some dither, each one different.
 QImage picture(int kind)
 {
-    constexpr int Width = 80;
-    constexpr int Height = 100;
+    constexpr int Width = 128;
+    constexpr int Height = 144;
     QImage image(Width, Height, QImage::Format_Indexed8);
     image.setColorTable(tableOfColors(greyColors()));
     image.fill(0);
     for (int y = 4; y < Height - 4; ++y) {
         uchar* row = image.scanLine(y);
-        const int left = 20 + (y * (kind % 7 + 1) / 9 + kind / 7) % 15;
-        const int right = Width - 16 - (y * (kind % 5 + 2) / 11 + kind) % 17;
+        const int left = 30 + (y * (kind % 7 + 1) / 9 + kind / 7) % 25;
+        const int right = Width - 24 - (y * (kind % 5 + 2) / 11 + kind) % 27;
         for (int x = left; x < right; ++x) {
             const bool isEdge = x == left || x == right - 1;
-            const int shade = 2 + (x + kind / 100) / 12 + (y / 20) * 4;
+            const int shade = 2 + (x + kind / 100) / 16 + (y / 28) * 4;
             row[x] = uchar(isEdge ? 1 : (shade + ((x ^ y) & (kind >> 4) & 1)) % 30);
         }
     }
@@ -66,6 +67,15 @@ void unpackAll(const SpriteFile& file, int threads)
     }
 }
 
+/// Milliseconds of the processor that a call takes: what else the machine does counts less.
+template <class Function>
+double worked(Function function)
+{
+    const std::clock_t start = std::clock();
+    function();
+    return double(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -89,9 +99,14 @@ int main(int argc, char** argv)
     }
     Bench::figure("bytes of a sprite in the file", double(QFileInfo(name).size()) / Count, "bytes");
 
+    const double opening = Bench::medianOf(Rounds, [&] {
+        SpriteFile fresh;
+        return worked([&] { fresh.fromFile(archive, name, false); });
+    });
     SpriteFile file;
-    const double opening = Bench::median(Rounds, [&] { file.fromFile(archive, name, false); });
-    const double unpacking = Bench::median(Rounds, [&] { unpackAll(file, 1); });
+    file.fromFile(archive, name, false);
+    const double unpacking =
+        Bench::medianOf(Rounds, [&] { return worked([&] { unpackAll(file, 1); }); });
     Bench::figure("opening a file of 20,000 sprites", opening, "ms");
     Bench::figure("unpacking all of them", unpacking, "ms");
     Bench::ratio("opening / unpacking all", opening, unpacking, 0.1);
@@ -101,16 +116,16 @@ int main(int argc, char** argv)
                   "times (at least 1.70)");
 
     const auto adding = [&](int count) {
-        return Bench::median(3, [&] {
+        return Bench::medianOf(3, [&] {
             SpriteFile fresh;
-            add(fresh, pictures, count);
+            return worked([&] { add(fresh, pictures, count); });
         });
     };
     const double half = adding(Count / 2);
     const double whole = adding(Count);
     Bench::figure("adding 20,000 sprites", whole, "ms");
     Bench::ratio("adding 20,000 / adding 10,000", whole, half, 2.2);
-    const double again = Bench::once([&] { add(file, pictures, Count); });
+    const double again = worked([&] { add(file, pictures, Count); });
     Bench::ratio("adding 20,000 that are there / adding them as new ones", again, whole);
     return 0;
 }

@@ -51,6 +51,7 @@ StreamCache* StreamCache::instance(Type type)
 
 void StreamCache::removeItem(Item* item)
 {
+    m_index->build(m_items);
     const int position = m_index->position(m_items, item);
     if (position >= 0) {
         m_items.removeAt(position);
@@ -117,6 +118,7 @@ StreamCache::Item* StreamCache::find(const QByteArray& data, Item* exclude) cons
     if (data.isEmpty() || m_items.isEmpty()) {
         return nullptr;
     }
+    m_index->build(m_items);
     m_index->complete([this](Item* item) {
         item->crc = checksumOf(itemData(item));
         return item->crc;

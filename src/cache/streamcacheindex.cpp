@@ -4,7 +4,25 @@
 
 namespace Zorv {
 
+void StreamCacheIndex::build(const QList<Item*>& items)
+{
+    if (!m_isBuilt) {
+        m_isBuilt = true;
+        m_entries.reserve(items.size());
+        for (Item* item : items) {
+            take(item);
+        }
+    }
+}
+
 void StreamCacheIndex::append(Item* item)
+{
+    if (m_isBuilt) {
+        take(item);
+    }
+}
+
+void StreamCacheIndex::take(Item* item)
 {
     if (!m_entries.contains(item)) {
         m_entries.insert(item, Entry{m_nextPlace++, 0, false});
@@ -26,6 +44,7 @@ void StreamCacheIndex::clear()
     m_entries.clear();
     m_byChecksum.clear();
     m_open.clear();
+    m_isBuilt = false;
 }
 
 void StreamCacheIndex::update(Item* item)

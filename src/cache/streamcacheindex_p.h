@@ -10,10 +10,16 @@
 namespace Zorv {
 
 /// The items of a cache by their checksums, so that a search need not walk the list.
+///
+/// It is empty, and follows no change, until it is built: a file that is only opened and shown
+/// needs none.
 class StreamCacheIndex
 {
 public:
     using Item = StreamCache::Item;
+
+    /// Takes up the items of the list, unless that is done; all others follow one by one.
+    void build(const QList<Item*>& items);
 
     /// Adds an item at the end of the list; of one that stands in it twice the first place counts.
     void append(Item* item);
@@ -61,8 +67,10 @@ private:
         bool isKnown = false;
     };
 
+    void take(Item* item);
     void withdraw(const Entry& entry);
 
+    bool m_isBuilt = false;
     QHash<Item*, Entry> m_entries;
     std::map<std::pair<unsigned long long, qint64>, Item*> m_byChecksum;
     std::map<qint64, Item*> m_open;  // those without a checksum

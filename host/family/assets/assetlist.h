@@ -94,13 +94,13 @@ protected:
     }
 
     /// Replaces everything, without undo; for a file that was read.
-    void resetItems(const QVector<ItemPtr>& items)
+    void resetItems(QVector<ItemPtr> items)
     {
         this->beginResetModel();
         dropItems();
-        m_items = items;
+        m_items = std::move(items);
         setRows(0, m_items.size());
-        for (const ItemPtr& item : items) {
+        for (const ItemPtr& item : qAsConst(m_items)) {
             stateCame(item->state);
         }
         this->endResetModel();

@@ -73,7 +73,6 @@ PixelRef PixelStore::adopt(const PixelFormat& format, const QByteArray& stream, 
     data->order = m_nextOrder++;
     if (!stream.isEmpty()) {
         data->fromData(stream, uchar(format.codec), data, decodedChecksum(pixelCrc, format));
-        m_byItem.insert(data->item, data);
     }
     return PixelRef(data);
 }
@@ -86,7 +85,7 @@ PixelRef PixelStore::adoptFile(const PixelFormat& format, const QString& fileNam
     data->order = m_nextOrder++;
     data->item->filterData = data;
     data->item->crc = decodedChecksum(pixelCrc, format);
-    m_byItem.insert(data->item, data);
+    m_byFile.insert(fileName, data);
     return PixelRef(data);
 }
 
@@ -101,7 +100,8 @@ PixelRef PixelStore::add(const QImage& image)
     const QByteArray rows = rowsOfImage(image);
     for (Zorv::StreamCache* cache :
          {m_cache.get(), static_cast<Zorv::StreamCache*>(m_files.get())}) {
-        if (PixelData* same = m_byItem.value(cache->find(decodedBytes(format, rows), nullptr))) {
+        if (const auto* item = cache->find(decodedBytes(format, rows), nullptr)) {
+            auto* same = static_cast<PixelData*>(item->filterData);
             ++same->refCount;
             return PixelRef(same);
         }
@@ -145,17 +145,12 @@ void PixelStore::forget(const PixelData* data)
 
 void PixelStore::takeIn(const QString& fileName)
 {
-    const auto known = m_byItem.values();
-    for (PixelData* data : known) {
-        if (data->cache == m_files.get() && data->fileName() == fileName) {
-            const QByteArray bytes = stream(data);
-            m_byItem.remove(data->item);
-            data->reset();
-            data->cache = m_cache.get();
-            data->fromData(bytes, uchar(data->format.codec), data,
-                           decodedChecksum(data->pixelCrc, data->format));
-            m_byItem.insert(data->item, data);
-        }
+    if (PixelData* data = m_byFile.take(fileName)) {
+        const QByteArray bytes = stream(data);
+        data->reset();
+        data->cache = m_cache.get();
+        data->fromData(bytes, uchar(data->format.codec), data,
+                       decodedChecksum(data->pixelCrc, data->format));
     }
 }
 
@@ -170,7 +165,9 @@ void PixelStore::unpack(unsigned char, void* filterData, const QByteArray& sourc
 
 void PixelStore::gone(PixelData* data)
 {
-    m_byItem.remove(data->item);
+    if (data->cache == m_files.get()) {
+        m_byFile.remove(data->fileName());
+    }
     m_unpacked.remove(data);
 }
 

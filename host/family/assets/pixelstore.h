@@ -69,7 +69,7 @@ private:
 
     std::unique_ptr<Zorv::StreamCache> m_cache;
     std::unique_ptr<Zorv::FileCache> m_files;
-    QHash<Zorv::StreamCache::Item*, PixelData*> m_byItem;
+    QHash<QString, PixelData*> m_byFile;
     QCache<const PixelData*, QByteArray> m_unpacked;
     quint32 m_nextOrder = 0;
 };

@@ -326,7 +326,8 @@ void SpriteCollection::take(Content&& content, bool asCopy)
     m_loadErrors = content.errors;
     m_current = nullptr;
     currentIndex = content.sprites.isEmpty() ? -1 : 0;
-    resetItems(content.sprites);
+    m_ids.reserve(content.sprites.size());
+    resetItems(std::exchange(content.sprites, {}));
     m_palettes->reset(content.palettes);
     m_palettes->remaps()->reset(content.remaps);
     m_changed = m_countChanged = false;

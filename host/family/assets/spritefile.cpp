@@ -149,6 +149,7 @@ bool SpriteFile::readContent(QIODevice* device, Content* content, QString* error
         content->remaps.last()->state = {from.from, from.to, from.broken};
     }
     QVector<bool> used(pixels.size());
+    content->sprites.reserve(data.sprites.size());
     bool keepAll = false;
     for (const Data::Sprite& from : data.sprites) {
         auto sprite = std::make_shared<FamilySprite>(this);
