@@ -48,6 +48,7 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("font_name"), QString()},
         {QStringLiteral("font_size"), 0},
         {QStringLiteral("project_path"), QString()},
+        {QStringLiteral("cache_type"), 1},
         {QStringLiteral("back_start"), QColor(0x60, 0x68, 0x74)},
         {QStringLiteral("back_end"), QColor(0x30, 0x34, 0x3c)},
     };

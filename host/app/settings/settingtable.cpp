@@ -27,6 +27,12 @@ QVector<SettingChoice> themes()
             {QStringLiteral("dark"), settingText(QT_TRANSLATE_NOOP("App::Settings", "Dark"))}};
 }
 
+QVector<SettingChoice> caches()
+{
+    return {{1, settingText(QT_TRANSLATE_NOOP("App::Settings", "Keep packed in memory"))},
+            {2, settingText(QT_TRANSLATE_NOOP("App::Settings", "Keep in a temporary file"))}};
+}
+
 }  // namespace
 
 const QVector<SettingPageRow>& settingPageTable()
@@ -89,6 +95,8 @@ const QVector<SettingRow>& settingTable()
          QT_TRANSLATE_NOOP("App::Settings", "Makes a backup named Auto each time that a project is opened")},
         {"sort_file_names", "files", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "&Sort files that are chosen together"),
          QT_TRANSLATE_NOOP("App::Settings", "Several files chosen in one dialog come in the order of their names")},
+        {"cache_type", "files", Row::Choice, QT_TRANSLATE_NOOP("App::Settings", "S&prites and sounds in work:"),
+         QT_TRANSLATE_NOOP("App::Settings", "Memory is faster; a temporary file leaves memory to others. It counts from the next file that is opened."), 0, 0, nullptr, nullptr, caches},
         {"project_path", "files", Row::Folder, QT_TRANSLATE_NOOP("App::Settings", "&Folder of projects:"),
          QT_TRANSLATE_NOOP("App::Settings", "Where dialogs for files begin, as long as no other folder was used")},
     };
