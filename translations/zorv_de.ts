@@ -1407,6 +1407,22 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>What the brackets themselves are written in</source>
         <translation>Farbe, in der die Klammern selbst geschrieben werden</translation>
     </message>
+    <message>
+        <source>Keep packed in memory</source>
+        <translation>Gepackt im Speicher halten</translation>
+    </message>
+    <message>
+        <source>Keep in a temporary file</source>
+        <translation>In einer temporären Datei halten</translation>
+    </message>
+    <message>
+        <source>S&amp;prites and sounds in work:</source>
+        <translation>S&amp;prites und Klänge in Arbeit:</translation>
+    </message>
+    <message>
+        <source>Memory is faster; a temporary file leaves memory to others. It counts from the next file that is opened.</source>
+        <translation>Der Speicher ist schneller; eine temporäre Datei lässt ihn anderen. Es gilt ab der nächsten Datei, die geöffnet wird.</translation>
+    </message>
 </context>
 <context>
     <name>App::SettingsDialog</name>
@@ -2545,39 +2561,39 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::FamilySprite</name>
     <message>
         <source>its record in the file is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>sein Eintrag in der Datei ist beschädigt</translation>
     </message>
     <message>
         <source>the record of its pixels in the file is broken</source>
-        <translation type="unfinished"></translation>
+        <translation>der Eintrag seiner Pixel in der Datei ist beschädigt</translation>
     </message>
     <message>
         <source>its pixels are broken</source>
-        <translation type="unfinished"></translation>
+        <translation>seine Pixel sind beschädigt</translation>
     </message>
     <message>
         <source>Duplicate sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite verdoppeln</translation>
     </message>
     <message>
         <source>Change sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite ändern</translation>
     </message>
     <message>
         <source>Move axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Achse verschieben</translation>
     </message>
     <message>
         <source>Change palette of sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette des Sprites ändern</translation>
     </message>
     <message>
         <source>Rename sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite umbenennen</translation>
     </message>
     <message>
         <source>Split channels</source>
-        <translation type="unfinished">Kanäle trennen</translation>
+        <translation>Kanäle trennen</translation>
     </message>
 </context>
 <context>
@@ -2607,14 +2623,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::FolderContent</name>
     <message>
         <source>%1 is no image that can be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein lesbares Bild.</translation>
     </message>
 </context>
 <context>
     <name>Family::FolderList</name>
     <message>
         <source>Line %1 of %2 makes no sense: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 von %2 ergibt keinen Sinn: %3</translation>
     </message>
 </context>
 <context>
@@ -2701,42 +2717,39 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::PaletteList</name>
     <message>
         <source>Add palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette hinzufügen</translation>
     </message>
     <message>
         <source>Delete palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette löschen</translation>
     </message>
     <message>
         <source>Delete all palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Paletten löschen</translation>
     </message>
     <message>
         <source>Delete unused palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenutzte Paletten löschen</translation>
     </message>
     <message>
         <source>Delete repeated palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrfache Paletten löschen</translation>
     </message>
     <message>
         <source>Change palette</source>
-        <translation type="unfinished">Palette ändern</translation>
+        <translation>Palette ändern</translation>
     </message>
     <message>
         <source>Rename palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette umbenennen</translation>
     </message>
     <message>
         <source>Broken in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Datei beschädigt</translation>
     </message>
-    <message numerus="yes">
-        <source>%n color(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-        </translation>
+    <message>
+        <source>Colors: %1</source>
+        <translation>Farben: %1</translation>
     </message>
 </context>
 <context>
@@ -2826,19 +2839,19 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::RemapModel</name>
     <message>
         <source>Remap palettes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paletten ersetzen</translation>
     </message>
     <message>
         <source>Broken in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Datei beschädigt</translation>
     </message>
     <message>
         <source>Palette</source>
-        <translation type="unfinished">Palette</translation>
+        <translation>Palette</translation>
     </message>
     <message>
         <source>Shown as</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezeigt als</translation>
     </message>
 </context>
 <context>
@@ -2938,39 +2951,39 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::SpriteCollection</name>
     <message>
         <source>Remove broken records</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschädigte Einträge entfernen</translation>
     </message>
     <message>
         <source>Add sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite hinzufügen</translation>
     </message>
     <message>
         <source>Add sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprites hinzufügen</translation>
     </message>
     <message>
         <source>Delete sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite löschen</translation>
     </message>
     <message>
         <source>Delete sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprites löschen</translation>
     </message>
     <message>
         <source>Move sprite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite verschieben</translation>
     </message>
     <message>
         <source>Sort sprites</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprites sortieren</translation>
     </message>
     <message>
         <source>%1 x %2 pixels, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 Pixel, %3</translation>
     </message>
     <message>
         <source>Broken: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschädigt: %1</translation>
     </message>
 </context>
 <context>
@@ -3000,49 +3013,97 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::SpriteFile</name>
     <message>
         <source>Cannot read %1: %2.</source>
-        <translation type="unfinished">%1 kann nicht gelesen werden: %2.</translation>
+        <translation>%1 kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
         <source>Cannot write %1: pixels that were kept in a temporary file are lost. Make room on the disk of temporary files, and add them anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht geschrieben werden: Pixel aus einer temporären Datei sind verloren. Schaffen Sie Platz auf dem Datenträger der temporären Dateien und fügen Sie sie neu hinzu.</translation>
     </message>
     <message>
         <source>Cannot write %1.</source>
-        <translation type="unfinished">%1 kann nicht geschrieben werden.%2 {1.?}</translation>
+        <translation>%1 kann nicht geschrieben werden.</translation>
     </message>
 </context>
 <context>
     <name>Family::SpriteFileData</name>
     <message>
         <source>Palette %1 is broken: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette %1 ist beschädigt: %2.</translation>
     </message>
     <message>
         <source>Pixels %1 are broken: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel %1 sind beschädigt: %2.</translation>
     </message>
     <message>
         <source>Sprite %1 is broken: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprite %1 ist beschädigt: %2.</translation>
     </message>
     <message>
         <source>Remap %1 is broken: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzung %1 ist beschädigt: %2.</translation>
+    </message>
+    <message>
+        <source>its values make no sense</source>
+        <translation>die Werte ergeben keinen Sinn</translation>
+    </message>
+    <message>
+        <source>its checksum is wrong</source>
+        <translation>die Prüfsumme ist falsch</translation>
+    </message>
+    <message>
+        <source>Pixels %1 are broken: they are not in the file.</source>
+        <translation>Pixel %1 sind beschädigt: Sie sind nicht in der Datei.</translation>
+    </message>
+    <message>
+        <source>Sprite %1 (%2) has broken pixels.</source>
+        <translation>Sprite %1 (%2) hat beschädigte Pixel.</translation>
+    </message>
+    <message>
+        <source>Sprite %1 (%2) is broken: it names pixels or a palette that are not there.</source>
+        <translation>Sprite %1 (%2) ist beschädigt: Es nennt Pixel oder eine Palette, die es nicht gibt.</translation>
+    </message>
+    <message>
+        <source>it is no sprite file</source>
+        <translation>es ist keine Sprite-Datei</translation>
+    </message>
+    <message>
+        <source>it was made by a newer version of the program</source>
+        <translation>sie stammt von einer neueren Version des Programms</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>sie ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>its head is broken</source>
+        <translation>ihr Kopf ist beschädigt</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>The head of the file is broken; what stands behind it is not.</source>
+        <translation>Der Kopf der Datei ist beschädigt, was dahinter steht, nicht.</translation>
+    </message>
+    <message>
+        <source>The file has %1 bytes in place of %2.</source>
+        <translation>Die Datei hat %1 Bytes statt %2.</translation>
     </message>
 </context>
 <context>
     <name>Family::SpriteFolder</name>
     <message>
         <source>Cannot write %1.</source>
-        <translation type="unfinished">%1 kann nicht geschrieben werden.%2 {1.?}</translation>
+        <translation>%1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>Cannot read %1: it is no folder. Choose a folder of images.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann nicht gelesen werden: Es ist kein Ordner. Wählen Sie einen Ordner mit Bildern.</translation>
     </message>
     <message>
         <source>Cannot write the sprite %1: its pixels are broken. Remove it, or give it another image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Sprite %1 kann nicht geschrieben werden: Seine Pixel sind beschädigt. Entfernen Sie es oder geben Sie ihm ein anderes Bild.</translation>
     </message>
 </context>
 <context>
