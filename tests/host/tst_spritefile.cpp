@@ -13,6 +13,7 @@
 #include "support/testinterface.h"
 
 #include <QBuffer>
+#include <QDirIterator>
 #include <QMutex>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -123,6 +124,7 @@ private slots:
     void takesNoMoreMemoryThanTheFileHas();
     void failedSaveLosesNothing();
     void givesEachImageToAJob();
+    void readsTheSamples();
 };
 
 void TestSpriteFile::savesTheSameBytes_data()
@@ -407,6 +409,28 @@ void TestSpriteFile::givesEachImageToAJob()
     job.progress = [](int done) { return done < 100; };
     QVERIFY(!forEachImage(file, job));
     QVERIFY(images.size() < 600);
+}
+
+void TestSpriteFile::readsTheSamples()
+{
+    // They are written by another program, in Python.
+    Disk disk;
+    int found = 0;
+    QDirIterator files(QStringLiteral(ZORV_SAMPLES "/arena"), {QStringLiteral("*.sprites")},
+                       QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QByteArray bytes = fileBytes(files.next());
+        SpriteFile sprites;
+        QVERIFY2(disk.open(sprites, bytes), qPrintable(sprites.errorString()));
+        QCOMPARE(sprites.loadErrors(), QStringList());
+        QVERIFY(sprites.count() > 0);
+        for (const auto& sprite : sprites.items()) {
+            QCOMPARE(sprite->pixelFault(), QString());
+        }
+        QVERIFY(disk.save(sprites) == bytes);
+        ++found;
+    }
+    QVERIFY(found > 2);
 }
 
 QTEST_GUILESS_MAIN(TestSpriteFile)

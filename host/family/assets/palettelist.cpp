@@ -312,7 +312,7 @@ QVariant PaletteList::data(const QModelIndex& index, int role) const
         return palette->id().text();
     case Qt::ToolTipRole:
         return palette->isBroken() ? tr("Broken in the file")
-                                   : tr("%n color(s)", nullptr, palette->colorCount());
+                                   : tr("Colors: %1").arg(palette->colorCount());
     default:
         return {};
     }

@@ -2,7 +2,6 @@
 
 #include "assets/recordbytes.h"
 
-#include <QCoreApplication>
 #include <QIODevice>
 
 #include <algorithm>
@@ -35,11 +34,6 @@ struct Head
                quint64(sprites) * SpriteSize + quint64(remaps) * RemapSize;
     }
 };
-
-QString text(const char* source)
-{
-    return QCoreApplication::translate("Family::SpriteFileData", source);
-}
 
 Head readHead(const QByteArray& bytes)
 {
@@ -215,8 +209,9 @@ public:
             const bool isWhole = isSealed(bytes, size);
             if (!isWhole || !makesSense) {
                 record.broken = QByteArray(bytes, size);
-                m_problems->append(text(problem).arg(i + 1).arg(
-                    isWhole ? text("its values make no sense") : text("its checksum is wrong")));
+                m_problems->append(SpriteFileData::tr(problem).arg(i + 1).arg(
+                    isWhole ? SpriteFileData::tr("its values make no sense")
+                            : SpriteFileData::tr("its checksum is wrong")));
             }
         }
     }
@@ -281,7 +276,7 @@ void checkStreams(SpriteFileData* data, const QByteArray& bytes, quint64 tableEn
         } else if (stream.broken.isEmpty()) {
             stream.broken = bytes.mid(firstRecord + i * StreamSize, StreamSize);
             data->problems.append(
-                text("Pixels %1 are broken: they are not in the file.").arg(i + 1));
+                SpriteFileData::tr("Pixels %1 are broken: they are not in the file.").arg(i + 1));
         }
     }
     guessPlaces(data, tableEnd, size, left);
@@ -298,13 +293,15 @@ void checkSprites(SpriteFileData* data, const QByteArray& bytes, int firstRecord
             isIn(sprite.palette, data->palettes.size())) {
             if (sprite.stream != SpriteFileData::None &&
                 !data->streams[int(sprite.stream)].broken.isEmpty()) {
-                data->problems.append(
-                    text("Sprite %1 (%2) has broken pixels.").arg(i + 1).arg(sprite.id.text()));
+                data->problems.append(SpriteFileData::tr("Sprite %1 (%2) has broken pixels.")
+                                          .arg(i + 1)
+                                          .arg(sprite.id.text()));
             }
         } else if (sprite.broken.isEmpty()) {
             sprite.broken = bytes.mid(firstRecord + i * SpriteSize, SpriteSize);
             data->problems.append(
-                text("Sprite %1 (%2) is broken: it names pixels or a palette that are not there.")
+                SpriteFileData::tr(
+                    "Sprite %1 (%2) is broken: it names pixels or a palette that are not there.")
                     .arg(i + 1)
                     .arg(sprite.id.text()));
         }
@@ -320,15 +317,16 @@ void checkSprites(SpriteFileData* data, const QByteArray& bytes, int firstRecord
 QString headFault(const QByteArray& bytes, quint64 size)
 {
     if (bytes.size() < HeadSize || !bytes.startsWith(QByteArray(Magic, MagicSize))) {
-        return text("it is no sprite file");
+        return SpriteFileData::tr("it is no sprite file");
     }
     RecordReader version(bytes.constData() + MagicSize);
     if (version.u16() != Version) {
-        return text("it was made by a newer version of the program");
+        return SpriteFileData::tr("it was made by a newer version of the program");
     }
     const bool isWhole = isSealed(bytes.constData(), HeadSize);
     if (readHead(bytes).tableSize() > size - HeadSize) {
-        return isWhole ? text("it is cut off") : text("its head is broken");
+        return isWhole ? SpriteFileData::tr("it is cut off")
+                       : SpriteFileData::tr("its head is broken");
     }
     return {};
 }
@@ -346,7 +344,7 @@ bool SpriteFileData::read(QIODevice* device, QString* error)
     const Head head = readHead(bytes);
     const quint64 tableEnd = HeadSize + head.tableSize();
     if (tableEnd > quint64(std::numeric_limits<int>::max() / 2)) {
-        *error = text("it is too large");
+        *error = SpriteFileData::tr("it is too large");
         return false;
     }
     bytes += device->read(qint64(head.tableSize()));
@@ -358,13 +356,16 @@ bool SpriteFileData::read(QIODevice* device, QString* error)
     if (!isSealed(bytes.constData(), HeadSize)) {
         // Counts that lead to whole records everywhere are right.
         if (!isWhole) {
-            *error = text("its head is broken");
+            *error = SpriteFileData::tr("its head is broken");
             return false;
         }
-        problems.append(text("The head of the file is broken; what stands behind it is not."));
+        problems.append(
+            SpriteFileData::tr("The head of the file is broken; what stands behind it is not."));
     }
     if (head.fileSize != size) {
-        problems.append(text("The file has %1 bytes in place of %2.").arg(size).arg(head.fileSize));
+        problems.append(SpriteFileData::tr("The file has %1 bytes in place of %2.")
+                            .arg(size)
+                            .arg(head.fileSize));
     }
     const int firstStream = HeadSize + int(head.palettes) * PaletteSize;
     checkStreams(this, bytes, tableEnd, size, firstStream);

@@ -4,6 +4,7 @@
 #include "assets/familypalette.h"
 #include "assets/pixelcodec.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <QVector>
 
@@ -19,6 +20,9 @@ namespace Family {
 /// of it; it is written back as those bytes.
 struct SpriteFileData
 {
+    Q_DECLARE_TR_FUNCTIONS(Family::SpriteFileData)
+
+public:
     static constexpr quint32 None = 0xffffffff;  ///< no pixels, or no palette
 
     struct Palette
