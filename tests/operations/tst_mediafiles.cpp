@@ -215,7 +215,8 @@ void TestMediaFiles::targets_data()
     row("ash200-3.png", "200,3 1");
     row("1-200-3.png", "200,3 1");
     row("65536-0.png", "");
-    row("200_3.png", "");
+    row("200_3.png", "200,3 1");
+    row("65536-0_1.png", "");
     row("200-3_0.png", "");
     row("123456-1.png", "");
 }

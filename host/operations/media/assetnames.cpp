@@ -52,7 +52,14 @@ bool importTarget(const QString& fileName, ImportTarget* target)
 {
     static const QRegularExpression form(
         QStringLiteral("(?:^|[^0-9])([0-9]{1,5})-([0-9]{1,5})(?:_([0-9]{1,5}))?$"));
-    const QRegularExpressionMatch match = form.match(QFileInfo(fileName).completeBaseName());
+    // As a folder of sprites calls them.
+    static const QRegularExpression inFolder(
+        QStringLiteral("(?:^|[^0-9])([0-9]{1,5})_([0-9]{1,5})$"));
+    const QString name = QFileInfo(fileName).completeBaseName();
+    QRegularExpressionMatch match = form.match(name);
+    if (!match.hasMatch()) {
+        match = inFolder.match(name);
+    }
     target->copy = match.captured(3).isEmpty() ? 1 : match.captured(3).toInt();
     return match.hasMatch() && target->copy > 0 &&
            AssetId::read(match.captured(1) + QLatin1Char(',') + match.captured(2), &target->id);

@@ -20,8 +20,8 @@ struct ImportTarget
 /// "GROUP-NUMBER_2" for the second of one identifier.
 QStringList exportNames(const QVector<AssetId>& ids);
 
-/// Reads such a name, with anything that is no digit in front, as in "hero-200-3.png". False for
-/// any other.
+/// Reads such a name, with anything that is no digit in front, as in "hero-200-3.png", or one of a
+/// folder of sprites, "200_3.png". False for any other.
 bool importTarget(const QString& fileName, ImportTarget* target);
 
 /// What PNG files tell of a sprite besides its pixels, under these keys of `QImage::text()`: the
