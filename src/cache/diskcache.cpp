@@ -60,7 +60,7 @@ void DiskCache::set(PackedCache::Item* item, const QByteArray& data, unsigned ch
     }
     if (isOpen() && !(fits && write(own->offset, data.constData(), data.size()))) {
         own->offset = -1;
-        own->kept = data;
+        own->kept.append(data);  // a copy of bytes that are only borrowed
     }
 }
 

@@ -27,7 +27,10 @@ void MemoryCache::set(PackedCache::Item* item, const QByteArray& data, unsigned 
     item->filterData = filterData;
     item->crc = crc;
     item->size = data.size();
-    static_cast<Item*>(item)->data = data;
+    // Bytes that are only borrowed are copied, all others are shared.
+    QByteArray& own = static_cast<Item*>(item)->data;
+    own.clear();
+    own.append(data);
 }
 
 }  // namespace Zorv

@@ -7,6 +7,8 @@
 #include "cache/streamcacheindex_p.h"
 #include "core/interface.h"
 
+#include <QSet>
+
 #include <cstring>
 
 namespace Zorv {
@@ -65,10 +67,13 @@ void StreamCache::removeItem(Item* item)
 void StreamCache::clear()
 {
     m_index->clear();
+    QSet<Item*> deleted;
     while (!m_items.isEmpty()) {
-        Item* last = m_items.last();
-        m_items.removeAll(last);
-        delete last;
+        Item* last = m_items.takeLast();
+        if (!deleted.contains(last)) {
+            deleted.insert(last);
+            delete last;
+        }
     }
 }
 

@@ -32,6 +32,7 @@ private slots:
     void checksumStaysWithoutAnother();
     void failedWriteKeepsTheFile();
     void filesThatAreNone();
+    void nameEndsWithTheBytes();
     void renameAndDelete();
 
 private:
@@ -171,6 +172,15 @@ void tst_FileCache::filesThatAreNone()
     const QString pipe = m_folder->filePath("pipe.png");
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     QCOMPARE(m_cache.itemRawData(add(pipe)), QByteArray());
+}
+
+void tst_FileCache::nameEndsWithTheBytes()
+{
+    const auto nameOf = [this](const QByteArray& bytes) {
+        return m_cache.fileName(m_cache.addItem(bytes, 0, nullptr, 0));
+    };
+    QCOMPARE(nameOf(QByteArray::fromRawData("a.png and more", 5)), QString("a.png"));
+    QCOMPARE(nameOf(QByteArray("a.png\0b", 7)), QString("a.png"));
 }
 
 void tst_FileCache::renameAndDelete()

@@ -85,6 +85,35 @@ struct Record : StreamCacheData
     int* disposed;
 };
 
+/// A store without bytes, which can hold an item twice and notes what is deleted.
+struct NotingStore : StreamCache
+{
+    struct Noted : Item
+    {
+        ~Noted() override { deleted->append(name); }
+        QByteArray* deleted;
+        QByteArray name;
+    };
+
+    Type type() const override { return MemoryStore; }
+    QByteArray itemData(Item*) const override { return {}; }
+    QByteArray itemRawData(Item*) const override { return {}; }
+    Item* addItem(const QByteArray& name, unsigned char, void*, unsigned long long) override
+    {
+        auto* item = new Noted;
+        item->deleted = &deleted;
+        item->name = name;
+        item->crc = 1;
+        appendItem(item);
+        return item;
+    }
+    void setItemData(Item*, const QByteArray&, unsigned char, void*, unsigned long long) override {}
+
+    using StreamCache::appendItem;
+    using StreamCache::items;
+    QByteArray deleted;
+};
+
 // Few different contents, so that many items hold the same; all lengths from nothing on.
 QByteArray randomData(QRandomGenerator& random)
 {
@@ -113,6 +142,8 @@ private slots:
     void defaultStore_data();
     void defaultStore();
     void sharedRecords();
+    void borrowedBytes();
+    void itemsThatStandTwice();
 };
 
 void tst_StreamCache::randomOperations_data()
@@ -388,6 +419,33 @@ void tst_StreamCache::sharedRecords()
     record.reset();
     QCOMPARE(cache.find("other", nullptr), nullptr);
     QCOMPARE(record.toData(false), QByteArray());
+}
+
+void tst_StreamCache::borrowedBytes()
+{
+    Store store(StreamCache::MemoryStore);
+    char bytes[] = "data";
+    Item* item = store.cache->addItem(QByteArray::fromRawData(bytes, 4), Silent, nullptr, 0);
+    bytes[0] = 'x';
+    QCOMPARE(store.cache->itemData(item), QByteArray("data"));
+}
+
+void tst_StreamCache::itemsThatStandTwice()
+{
+    NotingStore store;
+    Item* a = store.addItem("a", Plain, nullptr, 0);
+    for (const char* name : {"b", "c", "d"}) {
+        store.addItem(name, Plain, nullptr, 0);
+    }
+    Item* const b = store.items().at(1);
+    store.appendItem(a);
+    store.appendItem(b);
+    store.removeItem(b);
+    QCOMPARE(store.deleted, QByteArray("b"));
+    QCOMPARE(store.items().size(), 4);
+    store.removeItem(nullptr);
+    store.clear();
+    QCOMPARE(store.deleted, QByteArray("badc"));
 }
 
 QTEST_GUILESS_MAIN(tst_StreamCache)
