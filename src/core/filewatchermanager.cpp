@@ -180,6 +180,10 @@ void FileWatcherManager::resumeLater(FileWatchObject* object)
 
 void FileWatcherManager::later(FileWatchObject* object, const std::function<void()>& action)
 {
+    if (!watcher()) {
+        action();
+        return;
+    }
     QTimer::singleShot(BurstMilliseconds, this, [this, object, action] {
         if (m_objects.contains(object)) {
             action();
