@@ -88,8 +88,8 @@ StreamCache::Item* FileCache::addItem(const QByteArray& data, unsigned char /*ty
                                       void* filterData, unsigned long long crc)
 {
     auto* item = new FileItem;
-    item->fileName =
-        QString::fromLocal8Bit(data.constData(), int(qstrnlen(data.constData(), uint(data.size()))));
+    item->fileName = QString::fromLocal8Bit(data.constData(),
+                                            int(qstrnlen(data.constData(), uint(data.size()))));
     item->filterData = filterData;
     item->crc = crc;
     setType(item);

@@ -20,4 +20,20 @@ constexpr int formatDepth(QImage::Format format)
     }
 }
 
+/// The form that pixels of so many bits in a file are read in; `Format_Invalid` if there is none.
+constexpr QImage::Format formatOfDepth(int bits)
+{
+    switch (bits) {
+    case 5:
+    case 8:
+        return QImage::Format_Indexed8;
+    case 24:
+        return QImage::Format_RGB32;
+    case 32:
+        return QImage::Format_ARGB32;
+    default:
+        return QImage::Format_Invalid;
+    }
+}
+
 }  // namespace Zorv

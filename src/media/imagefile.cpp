@@ -10,7 +10,7 @@
 #include "media/tools/gifpixels_p.h"
 #include "media/tools/gifreader_p.h"
 
-#include <QBuffer>
+#include <QIODevice>
 
 #include <algorithm>
 #include <cstring>
@@ -149,14 +149,8 @@ bool loadImage(QIODevice* device, const char* format, QImage& image)
     if (!device->isReadable()) {
         return false;
     }
-    // How much a pipe holds is known only when it has been read.
-    QBuffer whole;
-    if (device->isSequential()) {
-        whole.setData(device->readAll());
-        whole.open(QIODevice::ReadOnly);
-        device = &whole;
-    }
-    const bool loaded = loadByFormat(device, format, image);
+    const SizedDevice sized(device);
+    const bool loaded = loadByFormat(sized.get(), format, image);
     return !image.isNull() && (loaded || !losslessImages());
 }
 

@@ -1,6 +1,7 @@
 #include "media/imagefile.h"
 
 #include "media/bitmapinfoheader.h"
+#include "media/formatdepth_p.h"
 #include "media/pcx.h"
 
 #include <QDataStream>
@@ -9,21 +10,6 @@
 namespace Zorv {
 
 namespace {
-
-QImage::Format formatOfBits(int bits)
-{
-    switch (bits) {
-    case 5:
-    case 8:
-        return QImage::Format_Indexed8;
-    case 24:
-        return QImage::Format_RGB32;
-    case 32:
-        return QImage::Format_ARGB32;
-    default:
-        return QImage::Format_Invalid;
-    }
-}
 
 QByteArray readBytes(QDataStream& stream, int count)
 {
@@ -40,7 +26,7 @@ void readBMP(QDataStream& stream, ImageInfo& info)
     stream >> header;
     info.width = quint16(qAbs(qint64(header.biWidth)));
     info.height = quint16(qAbs(qint64(header.biHeight)));
-    info.format = formatOfBits(header.biBitCount);
+    info.format = formatOfDepth(header.biBitCount);
 }
 
 void readPNG(QDataStream& stream, ImageInfo& info)
@@ -76,7 +62,7 @@ void readPCX(QDataStream& stream, ImageInfo& info)
     stream >> header;
     info.width = quint16(header.right + 1 - header.left);
     info.height = quint16(header.bottom + 1 - header.top);
-    info.format = formatOfBits(header.planes * header.bitsPerPixel);
+    info.format = formatOfDepth(header.planes * header.bitsPerPixel);
 }
 
 void readGIF(QDataStream& stream, ImageInfo& info)

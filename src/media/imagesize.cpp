@@ -70,6 +70,15 @@ bool hasHonestChunks(QIODevice* device)
 
 }  // namespace
 
+SizedDevice::SizedDevice(QIODevice* device) : m_device(device)
+{
+    if (device->isSequential()) {
+        m_whole.setData(device->readAll());
+        m_whole.open(QIODevice::ReadOnly);
+        m_device = &m_whole;
+    }
+}
+
 bool isHonestPNG(QIODevice* device)
 {
     const int IhdrEnd = 26;

@@ -19,9 +19,10 @@ struct QPack
 /// Reads an LZ5 stream into an image of `Format_Indexed8`, whose size ends the stream.
 ///
 /// Pixels are five bits wide in runs. The device is opened if it is not readable
-/// yet. False if it cannot be, and for a stream that ends too soon, with what was
-/// decoded left in the image. Any bytes are safe: a distance that leads in front of the
-/// image gives pixels of index 0. Re-entrant.
+/// yet. False if it cannot be, and for a stream that ends inside of a packet, with what was
+/// decoded left in the image; one that ends between two packets is not known to be too short.
+/// Any bytes are safe: a distance that leads in front of the image gives pixels of index 0, as
+/// those are that the stream does not reach. Re-entrant.
 ZORV_EXPORT bool loadLZ5(QImage& image, QIODevice* device);
 
 /// Writes an LZ5 stream. The choice of packets is part of the format: equal images give

@@ -22,21 +22,6 @@ constexpr int PaletteBytes = 256 * 3;
 /// ones have to be able to hold them.
 constexpr qint64 AlwaysTried = 16 << 20;
 
-QImage::Format formatOf(const QPCXHeader& header)
-{
-    switch (header.planes * header.bitsPerPixel) {
-    case 5:
-    case 8:
-        return QImage::Format_Indexed8;
-    case 24:
-        return QImage::Format_RGB32;
-    case 32:
-        return QImage::Format_ARGB32;
-    default:
-        return QImage::Format_Invalid;
-    }
-}
-
 /// Whether `bytes` can hold the picture: two of them hold 63 values at most.
 bool canHold(qint64 bytes, const QPCXHeader& header, QSize size, QImage::Format format)
 {
@@ -214,7 +199,7 @@ bool loadPCX(QImage& image, QIODevice* device)
     stream.setByteOrder(QDataStream::LittleEndian);
     QPCXHeader header;
     stream >> header;
-    const QImage::Format format = formatOf(header);
+    const QImage::Format format = formatOfDepth(header.planes * header.bitsPerPixel);
     if (format == QImage::Format_Invalid || header.manufacturer != 10 || header.version != 5 ||
         !shape(image, header, format, device->bytesAvailable()) ||
         !readPlanes(image, header, device)) {

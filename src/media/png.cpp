@@ -2,7 +2,6 @@
 
 #include "media/imagesize_p.h"
 
-#include <QBuffer>
 #include <QImage>
 
 namespace Zorv {
@@ -12,15 +11,9 @@ bool loadPNG(QImage& image, QIODevice* device)
     if (!device->isReadable() && !device->open(QIODevice::ReadOnly)) {
         return false;
     }
-    // How much a pipe holds is known only when it has been read.
-    QBuffer whole;
-    if (device->isSequential()) {
-        whole.setData(device->readAll());
-        whole.open(QIODevice::ReadOnly);
-        device = &whole;
-    }
-    if (isHonestPNG(device)) {
-        image.load(device, "PNG");
+    const SizedDevice sized(device);
+    if (isHonestPNG(sized.get())) {
+        image.load(sized.get(), "PNG");
     } else {
         image = QImage();
     }

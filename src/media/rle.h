@@ -12,8 +12,9 @@ namespace Zorv {
 /// RLE5 holds pixels of five bits in packets of a run and single repeats, for images of
 /// `Format_Indexed8`. RLE8 holds bytes; pairs of a count, marked by the top bits 01, and a
 /// value stand for runs. The device is opened if it is not readable yet. False if it
-/// cannot be, and for a stream that ends too soon, with what was decoded left in the image.
-/// Any bytes are safe. Re-entrant.
+/// cannot be, and for a stream that ends inside of a packet, with what was decoded left in the
+/// image; one that ends between two packets is not known to be too short. Any bytes are safe.
+/// Re-entrant.
 ZORV_EXPORT bool loadRLE5(QImage& image, QIODevice* device);
 ZORV_EXPORT bool loadRLE8(QImage& image, QIODevice* device);
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace Zorv {
 
@@ -148,13 +149,15 @@ bool GIFReader::readPicture(GIFImage::SubImage& frame)
 {
     // A code of 12 bits stands for less than 4096 pixels, a shorter one for less by far.
     const qint64 PixelsOfByte = 4096 * 8 / 12;
+    // What giflib reads in one call.
+    const qint64 MostPixels = std::numeric_limits<int>::max();
 
     if (DGifGetImageHeader(m_file) == GIF_ERROR) {
         return false;
     }
     const GifImageDesc& picture = m_file->Image;
     const qint64 pixels = qint64(picture.Width) * picture.Height;
-    if (pixels <= 0 || pixels > bytesLeft() * PixelsOfByte) {
+    if (pixels <= 0 || pixels > qMin(bytesLeft() * PixelsOfByte, MostPixels)) {
         return false;
     }
     frame.left = picture.Left;
