@@ -1,11 +1,11 @@
 #include "app/messagepanel.h"
 
 #include "app/look/language.h"
+#include "app/panelplace.h"
 #include "code/codedoc/codedocument.h"
 #include "core/messagelist.h"
 #include "core/messages.h"
 
-#include <QDockWidget>
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QToolTip>
@@ -97,13 +97,7 @@ bool MessagePanel::followCursor(const Zorv::CodeDocument* document, int line)
 
 void MessagePanel::comeForward()
 {
-    for (QWidget* parent = parentWidget(); parent; parent = parent->parentWidget()) {
-        if (auto* dock = qobject_cast<QDockWidget*>(parent)) {
-            dock->show();
-            dock->raise();
-            break;
-        }
-    }
+    bringForward(this);
     setFocus();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDockWidget>
 
 #include <algorithm>
 
@@ -30,6 +31,17 @@ void goToPanel(const QVector<PanelPlace>& places, int step)
     if (!shown.isEmpty()) {
         const int from = current < 0 && step < 0 ? 0 : current;
         shown[(from + step + shown.size()) % shown.size()]->setFocus(Qt::ShortcutFocusReason);
+    }
+}
+
+void bringForward(QWidget* content)
+{
+    for (QWidget* parent = content->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* dock = qobject_cast<QDockWidget*>(parent)) {
+            dock->show();
+            dock->raise();
+            break;
+        }
     }
 }
 

@@ -22,4 +22,7 @@ struct PanelPlace
 /// with a step of -1 to the one before.
 void goToPanel(const QVector<PanelPlace>& places, int step);
 
+/// Shows the panel that a widget stands in, in front of those in the same place.
+void bringForward(QWidget* content);
+
 }  // namespace App

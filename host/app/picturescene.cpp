@@ -1,9 +1,11 @@
 #include "app/picturescene.h"
 
+#include "app/assets/spritepanel.h"
 #include "app/code/codetexteditor.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
 #include "app/messagepanel.h"
+#include "app/panelplace.h"
 #include "core/interface.h"
 #include "core/message.h"
 #include "core/messages.h"
@@ -138,6 +140,25 @@ void showMatches(MainWindow* window, const FamilyDocument* document)
     window->actionByName("replace")->trigger();
 }
 
+/// The next line that begins with a word; the last line if there is none.
+QTextBlock lineBehind(QTextBlock line, const QString& word)
+{
+    while (line.next().isValid() && !line.text().startsWith(word)) {
+        line = line.next();
+    }
+    return line;
+}
+
+/// An attack, with its sprite beside it.
+void showSprites(MainWindow* window, const FamilyDocument* document)
+{
+    const QTextBlock head = lineOf(document, QStringLiteral("animation"), 5);
+    bringForward(window->spritePanel());
+    QTextBlock line = lineBehind(head, QStringLiteral("attack"));
+    line = lineBehind(line, QStringLiteral("frame"));
+    window->textEditor()->goTo(line.blockNumber());
+}
+
 struct Scene
 {
     const char* name;
@@ -145,10 +166,8 @@ struct Scene
 };
 
 const Scene scenes[] = {
-    {"code", showProblem},
-    {"folding", showFolds},
-    {"completion", showWords},
-    {"find", showMatches},
+    {"code", showProblem}, {"folding", showFolds},   {"completion", showWords},
+    {"find", showMatches}, {"sprites", showSprites},
 };
 
 }  // namespace
