@@ -15,8 +15,8 @@ namespace Zorv {
 ///
 /// On, pixels arrive as the file has them, in one of those three forms: 1 and 8 bits of
 /// grey become indexed, 16 bits a channel become 8. A frame's own colours go first, a file that
-/// is cut short is told, and a palette is taken from an indexed image and refused from any
-/// other. The command line and the window switch it on at start.
+/// is cut short is told, and a palette is taken from an indexed image that has one, and refused
+/// from any other. The command line and the window switch it on at start.
 ///
 /// One switch for the process; safe to set and read from any thread.
 ZORV_EXPORT void setLosslessImages(bool on);

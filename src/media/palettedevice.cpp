@@ -22,8 +22,12 @@ const int ColorCount = 256;
 bool fromImage(QIODevice* device, const QByteArray& format, RGBA (&palette)[256])
 {
     QImage image;
-    if (!loadImage(device, format.constData(), image) ||
-        (image.format() == QImage::Format_Indexed8) != losslessImages()) {
+    if (!loadImage(device, format.constData(), image)) {
+        return false;
+    }
+    const bool isTaken =
+        losslessImages() ? image.colorCount() > 0 : image.format() != QImage::Format_Indexed8;
+    if (!isTaken) {
         return false;
     }
     const QVector<QRgb> table = image.colorTable();

@@ -280,6 +280,9 @@ void tst_PaletteFiles::imagesGiveTheirPalette()
     QCOMPARE(colors.at(0), qRgba(9, 8, 7, 0));
     QCOMPARE(colors.at(2), qRgb(200, 100, 50));
     QCOMPARE(load(trueColor, format, colors), format == "GIF");  // which knows no true colour
+    if (format == "PCX") {
+        QVERIFY(!load(bytesOf(indexed).chopped(769), format, colors));  // the pixels alone
+    }
 
     Zorv::setLosslessImages(false);
     QVERIFY(!load(bytesOf(indexed), format, colors));
