@@ -4,9 +4,13 @@
 
 #include "assets/newsprites.h"
 #include "assets/spritecollection.h"
+#include "media/imagefile.h"
 #include "media/losslessimages.h"
+#include "media/pcx.h"
 #include "operations/hostinterface.h"
+#include "operations/media/imagefiles.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -94,6 +98,7 @@ private slots:
     void standsOnTheSheet_data();
     void standsOnTheSheet();
     void isWholeOrNothing();
+    void imageWithoutPalette();
 
 private:
     HostInterface m_host;
@@ -172,6 +177,32 @@ void TestSpriteExchange::isWholeOrNothing()
     QVERIFY(result.errors.first().contains("1-1.png"));
     QCOMPARE(sprites->count(), 0u);
     QCOMPARE(sprites->palettes()->count(), 0);
+}
+
+// Its indices are seen as shades of grey in whatever it becomes.
+void TestSpriteExchange::imageWithoutPalette()
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath("1_2.pcx");
+    QImage image(3, 1, QImage::Format_Indexed8);
+    image.setColorTable({0xff000000});
+    std::fill_n(image.bits(), 3, 200);
+    QFile file(name);
+    QVERIFY(Zorv::savePCX(image, &file) && file.resize(file.pos() - 769));
+    file.close();
+
+    QString error;
+    for (const char* format : {"PNG", "BMP", "GIF", "PCX"}) {
+        QByteArray bytes = imageFile(readImage(name, &error), format, name, &error);
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::ReadOnly);
+        QImage other;
+        QVERIFY2(Zorv::loadImage(&buffer, format, other), format);
+        QCOMPARE(other.pixel(1, 0), qRgb(200, 200, 200));
+    }
+    const Collection sprites(newSprites("a.sprites"));
+    QCOMPARE(importSprites(sprites.get(), {name}, {}).errors, QStringList());
+    QCOMPARE(sprites->sprite(0)->image().pixel(1, 0), qRgb(200, 200, 200));
 }
 
 QTEST_MAIN(TestSpriteExchange)

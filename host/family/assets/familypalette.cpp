@@ -72,6 +72,9 @@ void FamilyPalette::setProperty(const QString& name, const QVariant& value)
 
 PaletteColors colorsOfTable(const QVector<QRgb>& table)
 {
+    if (table.isEmpty()) {
+        return greyColors();
+    }
     PaletteColors colors;
     colors.fill({0, 0, 0, 255});
     for (int i = 0; i < std::min(table.size(), int(colors.size())); ++i) {

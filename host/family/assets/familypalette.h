@@ -68,7 +68,8 @@ private:
     PaletteList* m_list;
 };
 
-/// The table of an image as 256 colours; what it lacks is opaque black. And the other way.
+/// The table of an image as 256 colours; what it lacks is opaque black, and an image without one
+/// has shades of grey. And the other way.
 PaletteColors colorsOfTable(const QVector<QRgb>& table);
 QVector<QRgb> tableOfColors(const PaletteColors& colors);
 

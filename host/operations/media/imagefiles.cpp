@@ -1,5 +1,6 @@
 #include "operations/media/imagefiles.h"
 
+#include "assets/familypalette.h"
 #include "core/files.h"
 #include "media/imagefile.h"
 #include "media/tools/colorquantizer.h"
@@ -35,6 +36,9 @@ QImage readImage(const QString& fileName, QString* error)
         *error = Text::tr("Cannot read '%1': it is no whole image of the format of its suffix. "
                           "Expected .png, .pcx, .bmp or .gif.")
                      .arg(fileName);
+    } else if (image.format() == QImage::Format_Indexed8 && image.colorCount() == 0) {
+        // A PCX file may lack its palette. Without any, other formats would show nothing.
+        image.setColorTable(tableOfColors(greyColors()));
     }
     return image;
 }

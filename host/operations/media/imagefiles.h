@@ -8,8 +8,8 @@ namespace Family {
 
 class OutputFiles;
 
-/// Reads an image file, of the format of its suffix. Null, with `error` for the person, if it
-/// cannot be read. Re-entrant.
+/// Reads an image file, of the format of its suffix. An indexed image without colours gets shades
+/// of grey. Null, with `error` for the person, if it cannot be read. Re-entrant.
 QImage readImage(const QString& fileName, QString* error);
 
 /// The bytes of an image file. GIF takes the nearest 256 colours of an image that has more. Empty,
