@@ -32,7 +32,7 @@ QByteArray DiskCache::rawData(PackedCache::Item* item) const
     if (own->offset < 0) {
         return own->kept;
     }
-    return m_tempFile.seek(own->offset) ? m_tempFile.read(own->size) : QByteArray();
+    return isOpen() && m_tempFile.seek(own->offset) ? m_tempFile.read(own->size) : QByteArray();
 }
 
 PackedCache::Item* DiskCache::add(const QByteArray& data, unsigned char type, void* filterData,
@@ -110,7 +110,7 @@ void DiskCache::moveTail(qint64 begin, qint64 end, qint64 delta)
 
 bool DiskCache::write(qint64 offset, const char* data, qint64 size)
 {
-    return m_tempFile.seek(offset) && m_tempFile.write(data, size) == size;
+    return isOpen() && m_tempFile.seek(offset) && m_tempFile.write(data, size) == size;
 }
 
 }  // namespace Zorv

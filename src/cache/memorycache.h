@@ -5,6 +5,9 @@
 namespace Zorv {
 
 /// Keeps its items packed in memory.
+///
+/// Bytes that need no packing are shared with the array that they came in, or copied if that has
+/// only borrowed them.
 class ZORV_EXPORT MemoryCache final : public PackedCache
 {
 public:

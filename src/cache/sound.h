@@ -18,7 +18,7 @@ public:
     /// The form of the samples, without unpacking.
     virtual SampleInfo sampleInfo() const = 0;
 
-    /// Replaces the samples.
+    /// Replaces the samples: PCM bytes of that form.
     virtual void setSample(const SampleInfo& info, const QByteArray& data) = 0;
 
     /// Appends a copy right behind this sound.

@@ -10,6 +10,8 @@ namespace Zorv {
 class Sprite;
 
 /// What the stage draws from: a list of sprites with what is to be known of each.
+///
+/// Implemented by the host. The stage asks anew after each signal. Main thread only.
 class ZORV_EXPORT SpriteProvider : public QObject
 {
     Q_OBJECT

@@ -139,6 +139,7 @@ private slots:
     void diskOrder();
     void longTail();
     void fullDisk();
+    void noTemporaryFile();
     void defaultStore_data();
     void defaultStore();
     void sharedRecords();
@@ -377,6 +378,26 @@ void tst_StreamCache::fullDisk()
         store.cache->setItemData(items[i], expected[i], Silent, nullptr, 0);
         verify(expected);
     }
+}
+
+void tst_StreamCache::noTemporaryFile()
+{
+    const QByteArray place = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc");  // where nobody can make a file
+    DiskCache cache;
+    qputenv("TMPDIR", place);
+    QVERIFY(!cache.isOpen());
+    Item* items[] = {cache.addItem({}, Silent, nullptr, 0),
+                     cache.addItem("some", Silent, nullptr, 0),
+                     cache.addItem("more", Plain, nullptr, 0)};
+    for (const int size : {9, 2, 0, 7}) {
+        for (Item* item : items) {
+            cache.setItemData(item, QByteArray(size, 'x'), Silent, nullptr, 0);
+            QCOMPARE(cache.itemData(item), QByteArray());
+            QCOMPARE(cache.find(QByteArray(size, 'x'), nullptr), nullptr);
+        }
+    }
+    cache.clear();
 }
 
 void tst_StreamCache::defaultStore_data()
