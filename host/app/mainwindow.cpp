@@ -80,7 +80,7 @@ void MainWindow::publishTools()
     m_animations->publish();
     resizeDocks({findChild<QDockWidget*>(QStringLiteral("projects")),
                  findChild<QDockWidget*>(QStringLiteral("nodes"))},
-                {220, 280}, Qt::Horizontal);
+                {240, 280}, Qt::Horizontal);
     connectParts();
     connectPanels();
     connectCode();
@@ -132,15 +132,15 @@ void MainWindow::makeDocks()
 {
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
+    QDockWidget* projects = addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
-    QDockWidget* sprites = addDock(m_spritePanel, "sprites", Qt::RightDockWidgetArea);
-    tabifyDockWidget(sprites, addDock(m_soundPanel, "sounds", Qt::RightDockWidgetArea));
+    QDockWidget* sprites = addDock(m_spritePanel, "sprites", Qt::LeftDockWidgetArea);
+    tabifyDockWidget(sprites, addDock(m_soundPanel, "sounds", Qt::LeftDockWidgetArea));
     sprites->raise();
     QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
     resizeDocks({messages}, {150}, Qt::Vertical);
-    resizeDocks({sprites}, {280}, Qt::Horizontal);
+    resizeDocks({projects, sprites}, {280, 480}, Qt::Vertical);
 }
 
 QDockWidget* MainWindow::addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area)

@@ -2,6 +2,7 @@
 
 #include "app/assets/spritepanel.h"
 #include "app/code/codetexteditor.h"
+#include "app/code/documenttabs.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
 #include "app/messagepanel.h"
@@ -152,9 +153,19 @@ QTextBlock lineBehind(QTextBlock line, const QString& word)
 /// An attack, with its sprite beside it.
 void showSprites(MainWindow* window, const FamilyDocument* document)
 {
-    const QTextBlock head = lineOf(document, QStringLiteral("animation"), 5);
+    const QList<FamilyDocument*> documents = projectOf(document)->documents();
+    for (FamilyDocument* other : documents) {
+        if (other->animations()->count() > 10 &&
+            other->text().contains(QLatin1String("\nattack "))) {
+            window->showDocument(other);
+            break;
+        }
+    }
     bringForward(window->spritePanel());
-    QTextBlock line = lineBehind(head, QStringLiteral("attack"));
+    document = window->tabs()->currentDocument();
+    settleWindow();
+    QTextBlock line = lineOf(document, QStringLiteral("animation"), 8);
+    line = lineBehind(line, QStringLiteral("attack"));
     line = lineBehind(line, QStringLiteral("frame"));
     window->textEditor()->goTo(line.blockNumber());
 }

@@ -14,7 +14,6 @@ namespace App {
 namespace {
 
 constexpr int Columns = 16;
-constexpr int Rows = 16;
 constexpr int SmallestCell = 5;
 constexpr int UsualCell = 9;
 
@@ -28,49 +27,56 @@ PaletteGrid::PaletteGrid(QWidget* parent) : QWidget(parent)
 
 void PaletteGrid::setColors(const Zorv::RGBA* colors)
 {
-    m_isEmpty = !colors;
+    m_rows = 0;
     if (colors) {
         std::copy(colors, colors + 256, m_colors);
+        m_rows = 256 / Columns;
+        const auto isUnused = [](Zorv::RGBA color) { return color == Zorv::RGBA{}; };
+        while (m_rows > 1 && std::all_of(m_colors + (m_rows - 1) * Columns,
+                                         m_colors + m_rows * Columns, isUnused)) {
+            --m_rows;
+        }
     }
+    updateGeometry();
     update();
 }
 
 QSize PaletteGrid::sizeHint() const
 {
-    return {Columns * UsualCell + 1, Rows * UsualCell + 1};
+    return {Columns * UsualCell + 2, m_rows * UsualCell + 2};
 }
 
 QSize PaletteGrid::minimumSizeHint() const
 {
-    return {Columns * SmallestCell + 1, Rows * SmallestCell + 1};
+    return {Columns * SmallestCell + 2, m_rows * SmallestCell + 2};
 }
 
 int PaletteGrid::cell() const
 {
-    return std::max(std::min((width() - 1) / Columns, (height() - 1) / Rows), 1);
+    return std::max(std::min((width() - 2) / Columns, (height() - 2) / std::max(m_rows, 1)), 1);
 }
 
 QPoint PaletteGrid::corner() const
 {
-    return {(width() - Columns * cell()) / 2, (height() - Rows * cell()) / 2};
+    return {(width() - Columns * cell()) / 2, (height() - m_rows * cell()) / 2};
 }
 
 int PaletteGrid::entryAt(QPoint place) const
 {
     const QPoint offset = place - corner();
-    const QRect grid(0, 0, Columns * cell(), Rows * cell());
+    const QRect grid(0, 0, Columns * cell(), m_rows * cell());
     return grid.contains(offset) ? offset.y() / cell() * Columns + offset.x() / cell() : -1;
 }
 
 void PaletteGrid::paintEvent(QPaintEvent*)
 {
-    if (m_isEmpty) {
+    if (m_rows == 0) {
         return;
     }
     QPainter painter(this);
-    const QRect grid(corner(), QSize(Columns, Rows) * cell());
+    const QRect grid(corner(), QSize(Columns, m_rows) * cell());
     drawChequer(&painter, grid);
-    for (int i = 0; i < 256; ++i) {
+    for (int i = 0; i < m_rows * Columns; ++i) {
         const Zorv::RGBA color = m_colors[i];
         const QPoint place(i % Columns * cell(), i / Columns * cell());
         painter.fillRect(QRect(grid.topLeft() + place, QSize(cell(), cell())),
@@ -86,7 +92,7 @@ bool PaletteGrid::event(QEvent* event)
         return QWidget::event(event);
     }
     const auto* help = static_cast<QHelpEvent*>(event);
-    const int entry = m_isEmpty ? -1 : entryAt(help->pos());
+    const int entry = m_rows == 0 ? -1 : entryAt(help->pos());
     QString text;
     if (entry >= 0) {
         const Zorv::RGBA color = m_colors[entry];

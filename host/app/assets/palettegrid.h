@@ -6,7 +6,7 @@
 
 namespace App {
 
-/// The colours of a palette, 16 in a row.
+/// The colours of a palette, 16 in a row, down to the last one that is used.
 class PaletteGrid : public QWidget
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ private:
     QPoint corner() const;
 
     Zorv::RGBA m_colors[256];
-    bool m_isEmpty = true;
+    int m_rows = 0;  // 0 for no palette
 };
 
 }  // namespace App

@@ -180,13 +180,12 @@ void SpriteCommands::savePalette()
     request.place = target;
     request.force = true;
     Family::OutputFiles files;
-    QString error;
-    if (files.plan({name}, request, QByteArrayLiteral("ACT"), &error)) {
-        const QByteArray bytes = Family::paletteFile(colors, files.format(0), target, &error);
-        error = error.isEmpty() ? files.write(0, bytes) : error;
-    }
     MediaResult result;
-    result.note(error);
+    if (files.plan({name}, request, QByteArrayLiteral("ACT"), &result)) {
+        QString error;
+        const QByteArray bytes = Family::paletteFile(colors, files.format(0), target, &error);
+        result.note(error.isEmpty() ? files.write(0, bytes) : error);
+    }
     tellResult(title, tr("The palette is saved."), result);
 }
 

@@ -36,7 +36,7 @@ void SpritePicture::setSprite(const QImage& image, QPoint axis, bool broken)
 
 QSize SpritePicture::sizeHint() const
 {
-    return {240, 200};
+    return {240, 150};
 }
 
 QSize SpritePicture::minimumSizeHint() const

@@ -59,7 +59,7 @@ void exportSelected(
         return;
     }
     MediaResult result = write(selection, request);
-    if (!request.force && result.done == 0 && !result.errors.isEmpty()) {
+    if (result.isTaken) {
         if (!mayReplace(title, result.errors.first())) {
             return;
         }
