@@ -2705,12 +2705,12 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>&apos;%1&apos; ist keine gewöhnliche Datei und lässt sich nicht ersetzen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is there already. Nothing is written. Name another place, or replace it with &apos;--force&apos;.</source>
-        <translation>&apos;%1&apos; ist schon da. Nichts wurde geschrieben. Bitte einen anderen Ort nennen oder die Datei mit &apos;--force&apos; ersetzen.</translation>
+        <source>&apos;%1&apos; is there already. Nothing is written.</source>
+        <translation>&apos;%1&apos; ist schon da. Nichts wurde geschrieben.</translation>
     </message>
     <message>
-        <source>%1 files are there already, such as &apos;%2&apos;. Nothing is written. Name another place, or replace them with &apos;--force&apos;.</source>
-        <translation>%1 Dateien sind schon da, etwa &apos;%2&apos;. Nichts wurde geschrieben. Bitte einen anderen Ort nennen oder sie mit &apos;--force&apos; ersetzen.</translation>
+        <source>%1 files are there already, such as &apos;%2&apos;. Nothing is written.</source>
+        <translation>%1 Dateien sind schon da, etwa &apos;%2&apos;. Nichts wurde geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -2939,12 +2939,12 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Klänge</translation>
     </message>
     <message>
-        <source>There is a sound %1 already. Nothing is changed. Replace it with &apos;--force&apos;, or give &apos;%2&apos; another name.</source>
-        <translation>Es gibt schon einen Klang %1. Nichts wurde geändert. Bitte ihn mit &apos;--force&apos; ersetzen oder &apos;%2&apos; einen anderen Namen geben.</translation>
-    </message>
-    <message>
         <source>Import sounds</source>
         <translation>Klänge einlesen</translation>
+    </message>
+    <message>
+        <source>There is a sound %1 already, which &apos;%2&apos; would replace. Nothing is changed.</source>
+        <translation>Es gibt schon einen Klang %1, den &apos;%2&apos; ersetzen würde. Nichts wurde geändert.</translation>
     </message>
 </context>
 <context>
@@ -3117,16 +3117,16 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Sprites einlesen</translation>
     </message>
     <message>
-        <source>There is a sprite %1 already. Nothing is changed. Replace it with &apos;--force&apos;, or give &apos;%2&apos; another name.</source>
-        <translation>Es gibt schon einen Sprite %1. Nichts wurde geändert. Bitte ihn mit &apos;--force&apos; ersetzen oder &apos;%2&apos; einen anderen Namen geben.</translation>
-    </message>
-    <message>
         <source>Images</source>
         <translation>Bilder</translation>
     </message>
     <message>
         <source>&apos;%1&apos; would lose something as %2. Choose another codec.</source>
         <translation>&apos;%1&apos; würde als %2 etwas verlieren. Bitte ein anderes Verfahren wählen.</translation>
+    </message>
+    <message>
+        <source>There is a sprite %1 already, which &apos;%2&apos; would replace. Nothing is changed.</source>
+        <translation>Es gibt schon einen Sprite %1, den &apos;%2&apos; ersetzen würde. Nichts wurde geändert.</translation>
     </message>
 </context>
 <context>

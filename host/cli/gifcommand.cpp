@@ -7,8 +7,10 @@
 #include "family/nodes/animationnode.h"
 #include "operations/animationedits.h"
 #include "operations/media/animationgif.h"
+#include "operations/media/mediaresult.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/spriteexport.h"
+#include "results.h"
 #include "spriteopening.h"
 
 namespace Cli {
@@ -26,8 +28,10 @@ bool writeGif(const Family::FamilyDocument* document, const Invocation& invocati
     Family::OutputRequest request = invocation.output;
     request.place = invocation.operands.at(2);
     Family::OutputFiles outputs;
+    Family::MediaResult refusal;
     if (!error->isEmpty() ||
-        !outputs.plan({invocation.operands.at(1)}, request, QByteArrayLiteral("GIF"), error)) {
+        !outputs.plan({invocation.operands.at(1)}, request, QByteArrayLiteral("GIF"), &refusal)) {
+        tell(refusal);
         return false;
     }
     const OpenSprites sprites(spriteFile);

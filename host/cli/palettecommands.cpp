@@ -115,9 +115,9 @@ int applyToSprites(const Invocation& invocation, const Zorv::RGBA (&colors)[256]
                                  .arg(fileName, QString::number(palettes.size())));
     }
     Family::OutputFiles outputs;
-    QString error;
-    if (!outputs.plan({fileName}, invocation.output, {}, &error)) {
-        return notDone(error);
+    Family::MediaResult refusal;
+    if (!outputs.plan({fileName}, invocation.output, {}, &refusal)) {
+        return tell(refusal);
     }
     sprites->beginChange(Text::tr("Apply palette"));
     for (FamilyPalette* palette : palettes) {

@@ -12,7 +12,11 @@ namespace Cli {
 int tell(const Family::MediaResult& result)
 {
     for (const QString& error : result.errors) {
-        complain(error);
+        complain(result.isTaken ? error + QLatin1Char(' ') +
+                                      QCoreApplication::translate(
+                                          "Cli", "Choose another name or place, or replace what is "
+                                                 "there with '--force'.")
+                                : error);
     }
     if (result.isCanceled) {
         complain(QCoreApplication::translate("Cli", "Given up. Files that are written are whole."));

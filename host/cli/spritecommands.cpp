@@ -189,10 +189,10 @@ int makeSheet(const Invocation& invocation, Output& output)
     Family::OutputRequest request = invocation.output;
     request.place = invocation.operands.at(1);
     Family::OutputFiles outputs;
-    QString error;
+    Family::MediaResult refusal;
     if (!outputs.plan({QFileInfo(invocation.operands.first()).completeBaseName()}, request,
-                      QByteArrayLiteral("PNG"), &error)) {
-        return notDone(error);
+                      QByteArrayLiteral("PNG"), &refusal)) {
+        return tell(refusal);
     }
     const Family::SpriteSheet sheet =
         Family::makeSpriteSheet(*sprites, invocation.selection, invocation.columns, given);

@@ -3,6 +3,7 @@
 #include "operations/hostinterface.h"
 #include "operations/media/assetnames.h"
 #include "operations/media/jobs.h"
+#include "operations/media/mediaresult.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/selection.h"
 
@@ -139,10 +140,11 @@ void TestMediaFiles::places()
     OutputRequest request;
     request.place = place;
     request.format = format;
-    QString error;
-    QCOMPARE(outputs.plan(names.split(' '), request, {}, &error), !paths.isEmpty());
+    Family::MediaResult refusal;
+    QCOMPARE(outputs.plan(names.split(' '), request, {}, &refusal), !paths.isEmpty());
+    QVERIFY(!refusal.isTaken);
     QStringList planned;
-    for (int i = 0; i < outputs.count() && error.isEmpty(); ++i) {
+    for (int i = 0; i < outputs.count() && refusal.errors.isEmpty(); ++i) {
         planned.append(outputs.path(i));
     }
     QCOMPARE(planned.join(' '), paths);
@@ -152,15 +154,15 @@ void TestMediaFiles::nothingIsReplaced()
 {
     OutputFiles outputs;
     OutputRequest request;
-    QString error;
-    QVERIFY(!outputs.plan({"a/y.pcx"}, request, {}, &error));
+    Family::MediaResult refusal;
+    QVERIFY(!outputs.plan({"a/y.pcx"}, request, {}, &refusal) && refusal.isTaken);
     request.force = true;
-    QVERIFY(outputs.plan({"a/y.pcx"}, request, {}, &error));
+    QVERIFY(outputs.plan({"a/y.pcx"}, request, {}, &refusal));
     QCOMPARE(outputs.write(0, "new"), QString());
     // A file that comes between the plan and the writing stays.
     request = {};
     request.place = "late/";
-    QVERIFY(outputs.plan({"a/y.pcx"}, request, {}, &error));
+    QVERIFY(outputs.plan({"a/y.pcx"}, request, {}, &refusal));
     QVERIFY(QDir().mkdir("late") && QFile::copy("a/y.pcx", "late/y.pcx"));
     QVERIFY(!outputs.write(0, "other").isEmpty());
     QFile file("late/y.pcx");

@@ -55,9 +55,9 @@ MediaResult editImages(const QStringList& files, const OutputRequest& request,
 {
     MediaResult result;
     OutputFiles outputs;
-    QString error;
-    if (!outputs.plan(files, request, {}, &error)) {
-        return MediaResult(error);
+    MediaResult refusal;
+    if (!outputs.plan(files, request, {}, &refusal)) {
+        return refusal;
     }
     const auto prepare = [&](int i) -> std::function<QString()> {
         return [&, i] { return editFile(files[i], edit, outputs, i); };

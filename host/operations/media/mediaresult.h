@@ -18,6 +18,7 @@ struct MediaResult
     int done = 0;        ///< files that were written, or records that were taken up
     QStringList errors;  ///< a line each for what was not done
     bool isCanceled = false;
+    bool isTaken = false;  ///< nothing was begun: leave is needed to replace what is there already
 };
 
 }  // namespace Family

@@ -1,6 +1,7 @@
 #include "operations/media/outputfiles.h"
 
 #include "core/files.h"
+#include "operations/media/mediaresult.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -76,7 +77,7 @@ QString writeOver(const QString& path, const QByteArray& bytes)
 }  // namespace
 
 bool OutputFiles::plan(const QStringList& names, const OutputRequest& request,
-                       const QByteArray& format, QString* error)
+                       const QByteArray& format, MediaResult* refusal)
 {
     const QString& place = request.place;
     m_names = names;
@@ -87,12 +88,17 @@ bool OutputFiles::plan(const QStringList& names, const OutputRequest& request,
     if (!place.isEmpty() && !m_pattern.contains(QLatin1Char('*')) && names.size() > 1) {
         const QString pattern =
             QFileInfo(place).dir().filePath(QLatin1String("*.") + suffixOf(place));
-        *error = Text::tr("'%1' is one file, and there are %2 to write. Name a folder, or a "
-                          "pattern such as '%3'.")
-                     .arg(place, QString::number(names.size()), QDir::cleanPath(pattern));
+        *refusal =
+            MediaResult(Text::tr("'%1' is one file, and there are %2 to write. Name a "
+                                 "folder, or a pattern such as '%3'.")
+                            .arg(place, QString::number(names.size()), QDir::cleanPath(pattern)));
         return false;
     }
-    return checkPaths(error) && checkExisting(error);
+    const QString fault = pathFault();
+    if (!fault.isEmpty()) {
+        *refusal = MediaResult(fault);
+    }
+    return fault.isEmpty() && checkExisting(refusal);
 }
 
 QString OutputFiles::path(int index) const
@@ -126,7 +132,7 @@ QString OutputFiles::write(int index, const QByteArray& bytes) const
 }
 
 // By hash, for the paths of many files together would take more memory than the files on their way.
-bool OutputFiles::checkPaths(QString* error) const
+QString OutputFiles::pathFault() const
 {
     const auto target = [this](int i) {
         return QDir::cleanPath(QFileInfo(path(i)).absoluteFilePath());
@@ -142,17 +148,16 @@ bool OutputFiles::checkPaths(QString* error) const
             const int one = hashes[i].second;
             const int other = hashes[j].second;
             if (target(one) == target(other)) {
-                *error = Text::tr("'%1' and '%2' would both become '%3'. Write them to different "
-                                  "folders.")
-                             .arg(m_names[one], m_names[other], path(one));
-                return false;
+                return Text::tr("'%1' and '%2' would both become '%3'. Write them to different "
+                                "folders.")
+                    .arg(m_names[one], m_names[other], path(one));
             }
         }
     }
-    return true;
+    return {};
 }
 
-bool OutputFiles::checkExisting(QString* error) const
+bool OutputFiles::checkExisting(MediaResult* refusal) const
 {
     QStringList taken;
     for (int i = 0; i < count(); ++i) {
@@ -164,17 +169,13 @@ bool OutputFiles::checkExisting(QString* error) const
     if (taken.isEmpty()) {
         return true;
     }
-    if (m_force) {
-        *error = Text::tr("'%1' is no plain file and cannot be replaced.").arg(taken.first());
-    } else if (taken.size() == 1) {
-        *error = Text::tr("'%1' is there already. Nothing is written. Name another place, or "
-                          "replace it with '--force'.")
-                     .arg(taken.first());
-    } else {
-        *error = Text::tr("%1 files are there already, such as '%2'. Nothing is written. Name "
-                          "another place, or replace them with '--force'.")
-                     .arg(QString::number(taken.size()), taken.first());
-    }
+    *refusal = MediaResult(
+        m_force ? Text::tr("'%1' is no plain file and cannot be replaced.").arg(taken.first())
+        : taken.size() == 1
+            ? Text::tr("'%1' is there already. Nothing is written.").arg(taken.first())
+            : Text::tr("%1 files are there already, such as '%2'. Nothing is written.")
+                  .arg(QString::number(taken.size()), taken.first()));
+    refusal->isTaken = !m_force;
     return false;
 }
 

@@ -5,6 +5,8 @@
 
 namespace Family {
 
+struct MediaResult;
+
 /// Where the results of a piece of work go, as the person says it.
 struct OutputRequest
 {
@@ -13,7 +15,7 @@ struct OutputRequest
     /// places of the inputs.
     QString place;
     QByteArray format;   ///< "PNG"; empty for that of the place, else of the input
-    bool force = false;  /// what is there already may be replaced
+    bool force = false;  ///< what is there already may be replaced
 };
 
 /// The files that a piece of work writes, checked before it begins.
@@ -22,10 +24,10 @@ class OutputFiles
 public:
     /// Makes a name for each result. `names` are the files that they are made of, or just what
     /// they are called, without a folder; `format` is that of a result whose name has none.
-    /// False, with `error`, if two would become one file, or if a file is there already, as all
-    /// inputs are, and may not be replaced.
+    /// False, with why not in `refusal`, if two would become one file, or if a file is there
+    /// already, as all inputs are, and may not be replaced.
     bool plan(const QStringList& names, const OutputRequest& request, const QByteArray& format,
-              QString* error);
+              MediaResult* refusal);
 
     int count() const { return m_names.size(); }
     QString path(int index) const;
@@ -38,8 +40,8 @@ public:
     QString write(int index, const QByteArray& bytes) const;
 
 private:
-    bool checkPaths(QString* error) const;
-    bool checkExisting(QString* error) const;
+    QString pathFault() const;
+    bool checkExisting(MediaResult* refusal) const;
 
     // Paths are made when they are asked for: there may be many.
     QStringList m_names;

@@ -42,9 +42,9 @@ MediaResult convertPalettes(const QStringList& files, const OutputRequest& reque
 {
     MediaResult result;
     OutputFiles outputs;
-    QString error;
-    if (!outputs.plan(files, request, QByteArrayLiteral("ACT"), &error)) {
-        return MediaResult(error);
+    MediaResult refusal;
+    if (!outputs.plan(files, request, QByteArrayLiteral("ACT"), &refusal)) {
+        return refusal;
     }
     JobProgress progress(Text::tr("Palettes"), files.size());
     for (int i = 0; i < files.size() && !result.isCanceled; ++i) {

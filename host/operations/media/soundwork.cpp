@@ -103,9 +103,9 @@ MediaResult exportSounds(const SoundFile& sounds, const Selection& selection,
         return MediaResult(Text::tr("There is no such sound."));
     }
     OutputFiles outputs;
-    QString error;
-    if (!outputs.plan(exportNames(ids), request, QByteArrayLiteral("WAV"), &error)) {
-        return MediaResult(error);
+    MediaResult refusal;
+    if (!outputs.plan(exportNames(ids), request, QByteArrayLiteral("WAV"), &refusal)) {
+        return refusal;
     }
     MediaResult result;
     JobProgress progress(Text::tr("Sounds"), selected.size());
@@ -123,9 +123,11 @@ MediaResult importSounds(SoundFile* sounds, const QStringList& files, int group,
         files, group, [sounds](AssetId id) { return sounds->freeId(id); }, &error);
     for (int i = 0; i < targets.size() && error.isEmpty(); ++i) {
         if (!force && rowOf(*sounds, targets[i]) >= 0) {
-            error = Text::tr("There is a sound %1 already. Nothing is changed. Replace it "
-                             "with '--force', or give '%2' another name.")
-                        .arg(targets[i].id.text(), files[i]);
+            MediaResult refusal(Text::tr("There is a sound %1 already, which '%2' would replace. "
+                                         "Nothing is changed.")
+                                    .arg(targets[i].id.text(), files[i]));
+            refusal.isTaken = true;
+            return refusal;
         }
     }
     if (!error.isEmpty()) {

@@ -101,9 +101,9 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
         return MediaResult(Text::tr("There is no such sprite."));
     }
     OutputFiles outputs;
-    QString error;
-    if (!outputs.plan(namesOf(labels), request, QByteArrayLiteral("PNG"), &error)) {
-        return MediaResult(error);
+    MediaResult refusal;
+    if (!outputs.plan(namesOf(labels), request, QByteArrayLiteral("PNG"), &refusal)) {
+        return refusal;
     }
     const QVector<QRgb> table = colors ? tableOfColors(*colors) : QVector<QRgb>();
     QVector<int> placeOf(int(sprites.count()));
@@ -152,9 +152,9 @@ MediaResult exportPalettes(const SpriteCollection& sprites, const Selection& sel
         return MediaResult(Text::tr("There is no such palette."));
     }
     OutputFiles outputs;
-    QString error;
-    if (!outputs.plan(exportNames(ids), request, QByteArrayLiteral("ACT"), &error)) {
-        return MediaResult(error);
+    MediaResult refusal;
+    if (!outputs.plan(exportNames(ids), request, QByteArrayLiteral("ACT"), &refusal)) {
+        return refusal;
     }
     MediaResult result;
     for (int i = 0; i < palettes.size(); ++i) {

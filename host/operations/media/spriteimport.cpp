@@ -39,7 +39,7 @@ public:
     MediaResult run();
 
 private:
-    bool findSprites(QString* error);
+    bool findSprites(MediaResult* refusal);
     bool findPalette(QString* error);
     void putAll(MediaResult* result);
     void setImage(FamilySprite* sprite, const QImage& image);
@@ -83,10 +83,13 @@ MediaResult Import::run()
     QString error;
     m_targets = importTargets(
         m_files, m_request.group, [this](AssetId id) { return m_sprites->freeId(id); }, &error);
-    if (m_targets.isEmpty() || !findSprites(&error)) {
+    if (m_targets.isEmpty()) {
         return MediaResult(error);
     }
     MediaResult result;
+    if (!findSprites(&result)) {
+        return result;
+    }
     const QString title = Text::tr("Import sprites");
     m_sprites->beginChange(title);
     if (findPalette(&error)) {
@@ -119,7 +122,7 @@ void Import::putAll(MediaResult* result)
     m_sprites->refresh();
 }
 
-bool Import::findSprites(QString* error)
+bool Import::findSprites(MediaResult* refusal)
 {
     for (int i = 0; i < m_targets.size(); ++i) {
         const ImportTarget& target = m_targets[i];
@@ -128,9 +131,10 @@ bool Import::findSprites(QString* error)
             row = m_sprites->find(row + 1, target.id.text());
         }
         if (row >= 0 && !m_request.force) {
-            *error = Text::tr("There is a sprite %1 already. Nothing is changed. Replace it "
-                              "with '--force', or give '%2' another name.")
-                         .arg(target.id.text(), m_files[i]);
+            *refusal = MediaResult(Text::tr("There is a sprite %1 already, which '%2' would "
+                                            "replace. Nothing is changed.")
+                                       .arg(target.id.text(), m_files[i]));
+            refusal->isTaken = true;
             return false;
         }
         m_old.append(m_sprites->sprite(row));
