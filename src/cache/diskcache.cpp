@@ -1,5 +1,7 @@
 #include "cache/diskcache.h"
 
+#include <QVector>
+
 namespace Zorv {
 
 namespace {

@@ -1,6 +1,7 @@
 #include "media/tools/hqshapes_p.h"
 
 #include <algorithm>
+#include <cctype>
 #include <iterator>
 
 namespace Zorv {
