@@ -44,8 +44,8 @@ struct ZORV_EXPORT GIFImage
     QVector<SubImage> images;
 
     /// Reads a file. False if it is none, or is broken; what was whole before the fault is
-    /// kept. Frames are refused that declare more pixels than the file could hold. Any bytes are
-    /// safe. Re-entrant.
+    /// kept. Frames are refused that declare more pixels than the file could hold, or 2^31. Any
+    /// bytes are safe. Re-entrant.
     bool load(QIODevice* device);
 
     /// Writes a file; tables are filled up to a power of two. False if giflib or the device
