@@ -352,6 +352,11 @@ void TestSpriteFile::takesNoMoreMemoryThanTheFileHas()
          {PixelCodec::Lz5, PixelCodec::Rle8, PixelCodec::Png, PixelCodec::Pcx, PixelCodec::Gif}) {
         QCOMPARE(unpackPixels({QSize(16384, 16384), 8, codec}, few), QByteArray());
     }
+    // Where a stream ends too soon there is nothing, and not what was in memory before.
+    const QByteArray stream(7, '\3');
+    const QByteArray expected = stream + QByteArray(393, 0);
+    QByteArray(400, 'x').clear();
+    QCOMPARE(unpackPixels({QSize(20, 20), 8, PixelCodec::Rle8}, stream), expected);
 }
 
 void TestSpriteFile::failedSaveLosesNothing()

@@ -164,6 +164,9 @@ QByteArray unpackPixels(const PixelFormat& format, const QByteArray& stream)
     buffer.setData(stream);
     buffer.open(QIODevice::ReadOnly);
     QByteArray rows(int(format.byteCount()), Qt::Uninitialized);
+    if (format.codec == PixelCodec::Rle8) {
+        rows.fill(0);  // a stream that is too short leaves the last pixels alone
+    }
     QImage image(reinterpret_cast<uchar*>(rows.data()), format.size.width(), format.size.height(),
                  format.size.width(), QImage::Format_Indexed8);
     return unpackInPlace(format.codec, image, &buffer) ? rows : QByteArray();
