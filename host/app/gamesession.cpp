@@ -219,9 +219,12 @@ QList<Zorv::ProjectFile*> GameSession::modifiedFiles(const FamilyProject* projec
     }
     for (const FamilyProject* open : m_projects) {
         for (const auto type : {Zorv::FileID::Sprites, Zorv::FileID::Sounds}) {
-            Zorv::ProjectFile* file = !project || project == open ? open->file(type) : nullptr;
-            if (file && file->isModified()) {
-                result.append(file);
+            // Also those that the text names no more.
+            const QList<Zorv::ProjectFile*> files = open->filesByType(type);
+            for (Zorv::ProjectFile* file : files) {
+                if ((!project || project == open) && file->isModified()) {
+                    result.append(file);
+                }
             }
         }
     }

@@ -1,6 +1,7 @@
 #include "app/unsavedwork.h"
 
 #include "core/dialogs/dialogs.h"
+#include "core/filewatchobject.h"
 #include "core/interface.h"
 #include "core/project.h"
 #include "editors/framework/fileeditor.h"
@@ -67,8 +68,8 @@ FamilyDocument* documentOf(ProjectFile* file)
 
 void pauseWatch(ProjectFile* file, bool isPaused)
 {
-    if (FamilyDocument* document = documentOf(file)) {
-        document->pauseWatch(isPaused);
+    if (auto* watched = dynamic_cast<Zorv::FileWatchObject*>(file)) {
+        watched->pauseWatch(isPaused);
     }
 }
 

@@ -14,8 +14,25 @@ RowList::RowList(QWidget* parent) : QListView(parent)
 
 void RowList::setModel(QAbstractItemModel* model)
 {
+    disconnect(m_reset);
     QListView::setModel(model);
+    if (model) {
+        // Behind the selection, which forgets its place.
+        m_reset = connect(model, &QAbstractItemModel::modelReset, this, &RowList::takeRowBack);
+    }
+    m_row = -1;
     emit currentRowChanged(-1);
+}
+
+void RowList::takeRowBack()
+{
+    const int row = std::min(m_row, model()->rowCount() - 1);
+    m_row = -1;
+    if (row >= 0) {
+        setCurrentIndex(model()->index(row, 0));
+    } else {
+        emit currentRowChanged(-1);
+    }
 }
 
 QVector<int> RowList::selectedRows() const
@@ -34,6 +51,7 @@ QVector<int> RowList::selectedRows() const
 void RowList::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QListView::currentChanged(current, previous);
+    m_row = current.row();
     emit currentRowChanged(current.row());
 }
 

@@ -6,7 +6,7 @@
 namespace App {
 
 /// A list that is looked at and chosen from: several rows can be selected, nothing is edited or
-/// dragged.
+/// dragged. A model that is read anew keeps the current row.
 class RowList : public QListView
 {
     Q_OBJECT
@@ -26,6 +26,12 @@ signals:
 
 protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    void takeRowBack();
+
+    int m_row = -1;
+    QMetaObject::Connection m_reset;
 };
 
 }  // namespace App

@@ -40,6 +40,7 @@ void SoundPanel::setSounds(SoundFile* sounds)
     m_list->setModel(sounds);
     if (sounds) {
         connect(sounds, &SoundFile::changed, this, &SoundPanel::updateCurrent);
+        connect(sounds, &QObject::destroyed, this, &SoundPanel::updateCurrent);
         setCurrentRow(0);
     }
     updateCurrent();

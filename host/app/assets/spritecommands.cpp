@@ -24,8 +24,7 @@ using Family::MediaResult;
 using Family::SpriteCollection;
 using Zorv::Dialogs;
 
-SpriteCommands::SpriteCommands(MainWindow* window)
-    : QObject(window), m_window(window), m_panel(window->spritePanel())
+SpriteCommands::SpriteCommands(MainWindow* window) : QObject(window), m_panel(window->spritePanel())
 {
 }
 
@@ -65,9 +64,18 @@ void SpriteCommands::addImages()
     }
 }
 
+/// The sprite that was the current one before a dialog; null if it is another one now. The file can
+/// be read again behind a dialog: sprites and palettes from before it are gone then.
+FamilySprite* SpriteCommands::stillCurrent(int row, Family::AssetId id) const
+{
+    FamilySprite* sprite = m_panel->currentSprite();
+    return sprite && m_panel->currentRow() == row && sprite->id() == id ? sprite : nullptr;
+}
+
 int SpriteCommands::chosenMode(const QImage& image, const FamilySprite* sprite) const
 {
-    if (!sprite->palette() || image.colorTable() == sprite->shownColors()) {
+    if (!sprite->palette() || Family::colorsOfTable(image.colorTable()) ==
+                                  Family::colorsOfTable(sprite->shownColors())) {
         return Zorv::Sprite::ImagePalette;
     }
     const QStringList modes{tr("The image's palette, added if it is not there yet"),
@@ -81,6 +89,8 @@ int SpriteCommands::chosenMode(const QImage& image, const FamilySprite* sprite) 
 void SpriteCommands::replaceImage()
 {
     FamilySprite* sprite = m_panel->currentSprite();
+    const int row = m_panel->currentRow();
+    const Family::AssetId id = sprite ? sprite->id() : Family::AssetId();
     const QString title = tr("Replace image");
     const QString file = sprite ? askForFile(title, MediaKind::Images) : QString();
     if (file.isEmpty()) {
@@ -92,8 +102,10 @@ void SpriteCommands::replaceImage()
         Dialogs::instance()->error(title, error);
         return;
     }
-    const int mode = chosenMode(image, sprite);
-    if (mode >= Zorv::Sprite::ImagePalette) {
+    sprite = stillCurrent(row, id);
+    const int mode = sprite ? chosenMode(image, sprite) : -1;
+    sprite = stillCurrent(row, id);
+    if (sprite && mode >= Zorv::Sprite::ImagePalette) {
         m_panel->sprites()->beginChange(title);
         sprite->setImage(image, false, mode, sprite->palette());
         m_panel->sprites()->endChange();
@@ -120,9 +132,7 @@ void SpriteCommands::removeSelected()
         return;
     }
     sprites->beginChange(tr("Remove sprites"));
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
-        sprites->removeSprite(*row);
-    }
+    sprites->removeSprites(rows);
     sprites->endChange();
     m_panel->setCurrentRow(std::min(rows.first(), int(sprites->count()) - 1));
 }
@@ -144,18 +154,23 @@ void SpriteCommands::redo()
 void SpriteCommands::openPalette()
 {
     const FamilySprite* sprite = m_panel->currentSprite();
-    Zorv::Palette* palette = sprite ? sprite->palette() : nullptr;
+    const int row = m_panel->currentRow();
+    const Family::AssetId id = sprite ? sprite->id() : Family::AssetId();
     const QString title = tr("Change palette");
-    const QString file = palette ? askForFile(title, MediaKind::Palettes) : QString();
+    const QString file =
+        sprite && sprite->palette() ? askForFile(title, MediaKind::Palettes) : QString();
     if (file.isEmpty()) {
         return;
     }
     Zorv::RGBA colors[256];
     QString error;
-    if (Family::readPalette(file, colors, &error)) {
-        palette->setColors(colors, Zorv::Palette::KeepPixels);
-    } else {
+    if (!Family::readPalette(file, colors, &error)) {
         Dialogs::instance()->error(title, error);
+        return;
+    }
+    sprite = stillCurrent(row, id);
+    if (Zorv::Palette* palette = sprite ? sprite->palette() : nullptr) {
+        palette->setColors(colors, Zorv::Palette::KeepPixels);
     }
 }
 
@@ -170,12 +185,12 @@ void SpriteCommands::savePalette()
     const QString identifier = palette->property(QStringLiteral("Identifier")).toString();
     const QString name =
         QString(identifier).replace(QLatin1Char(','), QLatin1Char('-')) + QLatin1String(".act");
+    Zorv::RGBA colors[256] = {};
+    palette->toPalette(colors);
     const QString target = askForTarget(title, name, MediaKind::PaletteTarget);
     if (target.isEmpty()) {
         return;
     }
-    Zorv::RGBA colors[256] = {};
-    palette->toPalette(colors);
     Family::OutputRequest request;
     request.place = target;
     request.force = true;

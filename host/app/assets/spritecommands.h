@@ -5,8 +5,9 @@
 class QImage;
 
 namespace Family {
+struct AssetId;
 class FamilySprite;
-}
+}  // namespace Family
 
 namespace App {
 
@@ -38,9 +39,9 @@ public:
     /// @}
 
 private:
+    Family::FamilySprite* stillCurrent(int row, Family::AssetId id) const;
     int chosenMode(const QImage& image, const Family::FamilySprite* sprite) const;
 
-    MainWindow* m_window;
     SpritePanel* m_panel;
 };
 

@@ -59,6 +59,7 @@ void SpritePanel::setSprites(SpriteCollection* sprites)
     m_list->setSprites(sprites);
     if (sprites) {
         connect(sprites, &SpriteCollection::changed, this, &SpritePanel::updateCurrent);
+        connect(sprites, &QObject::destroyed, this, &SpritePanel::updateCurrent);
         connect(sprites->palettes(), &Zorv::Palettes::palChanged, this,
                 &SpritePanel::updateCurrent);
         setCurrentRow(0);

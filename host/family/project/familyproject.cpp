@@ -190,8 +190,11 @@ void FamilyProject::loadFiles()
         seenAssets |= isAsset ? quint32(reference.type) : 0;
         const QString path = resolvePath(reference.path);
         const PathFault fault = pathFault(parent()->absolutePath(), fileName(), reference.path);
-        if ((!isCodeFile(reference.type) && !isAsset) || isRepeated || fault != PathFault::Fine ||
-            known.contains(path)) {
+        if ((!isCodeFile(reference.type) && !isAsset) || isRepeated || fault != PathFault::Fine) {
+            continue;
+        }
+        if (known.contains(path)) {
+            selectAsset(reference.type, path);
             continue;
         }
         known.insert(path);
@@ -208,6 +211,17 @@ void FamilyProject::loadDocument(FileID::Type type, const QString& path)
         followSetting(added);
     } else {
         m_loadErrors.append(document->errorString());
+    }
+}
+
+// A text can come back to a file that it named before.
+void FamilyProject::selectAsset(FileID::Type type, const QString& path)
+{
+    const QList<Zorv::ProjectFile*> list = filesByType(type);
+    for (int i = 0; isAssetFile(type) && i < list.size(); ++i) {
+        if (QDir::cleanPath(list[i]->fileName()) == path) {
+            setSelectedFile(type, unsigned(i));
+        }
     }
 }
 

@@ -73,6 +73,7 @@ public:
 private:
     void loadDocument(Zorv::FileID::Type type, const QString& path);
     void loadAsset(Zorv::FileID::Type type, const QString& path);
+    void selectAsset(Zorv::FileID::Type type, const QString& path);
     QStringList filesOf(Zorv::FileID::Type type, const QString& path) const;
     QList<FileInfo> namedFiles() const;
     bool copyShared(const QString& file, const QString& target);
