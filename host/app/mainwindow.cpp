@@ -274,7 +274,7 @@ void MainWindow::followCursor()
 void MainWindow::followSprite(int line)
 {
     const FamilyDocument* document = tabs()->currentDocument();
-    if (!m_spritePanel->isVisible() || !document || document->isCodeBeingChanged()) {
+    if (m_spritePanel->visibleRegion().isEmpty() || !document || document->isCodeBeingChanged()) {
         return;
     }
     const Zorv::CodeNode* node = document->nodeInBlock(document->findBlockByNumber(line));

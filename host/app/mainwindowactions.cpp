@@ -168,11 +168,11 @@ void MainWindow::focusPreviousPanel()
 
 void MainWindow::focusPanel(int step)
 {
-    goToPanel({PanelPlace::of(m_gameTree), PanelPlace::inside(m_code->workspace()->toolBar()),
-               PanelPlace::of(currentEdit()), PanelPlace::inside(m_code->findBar()),
-               PanelPlace::of(textEditor()->tree()), PanelPlace::of(m_animations->list()),
-               PanelPlace::of(m_spritePanel->list()), PanelPlace::of(m_soundPanel->list()),
-               PanelPlace::of(m_messagePanel)},
+    goToPanel({PanelPlace::of(m_gameTree), PanelPlace::of(m_spritePanel->list()),
+               PanelPlace::of(m_soundPanel->list()),
+               PanelPlace::inside(m_code->workspace()->toolBar()), PanelPlace::of(currentEdit()),
+               PanelPlace::inside(m_code->findBar()), PanelPlace::of(textEditor()->tree()),
+               PanelPlace::of(m_animations->list()), PanelPlace::of(m_messagePanel)},
               step);
 }
 

@@ -22,7 +22,8 @@ void goToPanel(const QVector<PanelPlace>& places, int step)
     QVector<QWidget*> shown;
     int current = -1;
     for (const PanelPlace& place : places) {
-        if (place.field && place.field->isVisible()) {
+        // A panel behind another tab counts as visible, at a place outside of the window.
+        if (place.field && !place.field->visibleRegion().isEmpty()) {
             const bool isHere = focus && (place.area == focus || place.area->isAncestorOf(focus));
             current = isHere ? shown.size() : current;
             shown.append(place.field);

@@ -1,6 +1,8 @@
 #include "windowfixture.h"
 
 #include "app/application.h"
+#include "app/assets/spritelist.h"
+#include "app/assets/spritepanel.h"
 #include "app/recentfolders.h"
 #include "core/interface.h"
 #include "core/messagelist.h"
@@ -500,6 +502,7 @@ void tst_MainWindow::isReachedByKeys()
                                  window()->animations()->list(),
                                  window()->messagePanel(),
                                  window()->gameTree(),
+                                 window()->spritePanel()->list(),
                                  toolBox};
     for (QWidget* panel : panels) {
         QVERIFY(!panel->accessibleName().isEmpty());
