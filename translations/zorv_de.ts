@@ -2907,6 +2907,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Delete sound</source>
         <translation>Klang löschen</translation>
     </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Klänge</translation>
+    </message>
 </context>
 <context>
     <name>Family::SoundWork</name>
@@ -3022,6 +3026,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Cannot write %1.</source>
         <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprites</translation>
     </message>
 </context>
 <context>

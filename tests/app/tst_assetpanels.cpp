@@ -222,6 +222,13 @@ void tst_AssetPanels::readsBehindADialog()
     QCOMPARE(m->fixture.dialogs.count(QStringLiteral("error")), 0);
     QCOMPARE(m->fixture.dialogs.count(QStringLiteral("choose")), 0);
     QCOMPARE(sprites()->sprite(400)->image().pixel(2, 2), Colors[3]);
+
+    // What cannot be read is told, and what is in memory stays.
+    m->game.write("characters/ryn/ryn.sprites", "no sprites");
+    QVERIFY(!static_cast<SpriteFile*>(sprites())->reload());
+    QCOMPARE(m->fixture.dialogs.count(QStringLiteral("error")), 1);
+    QCOMPARE(sprites()->sprite(400)->image().pixel(2, 2), Colors[3]);
+    QVERIFY(sprites()->isModified());
 }
 
 void tst_AssetPanels::takesImagesAndPalettesOut()

@@ -2,6 +2,7 @@
 #include "assets/soundfile.h"
 #include "assets/soundfiledata.h"
 #include "core/archive.h"
+#include "core/dialogs/dialogs.h"
 
 #include <QDir>
 #include <QHash>
@@ -125,7 +126,11 @@ SoundFileData SoundFile::tables(QVector<SampleRef>* streams) const
 
 bool SoundFile::reload()
 {
-    return fromFile(*archive(), fileName(), false);
+    const bool done = fromFile(*archive(), fileName(), false);
+    if (!done) {
+        Zorv::Dialogs::instance()->error(tr("Sounds"), errorString());
+    }
+    return done;
 }
 
 bool SoundFile::toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy)

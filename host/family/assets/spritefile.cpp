@@ -4,6 +4,7 @@
 #include "assets/remapmodel.h"
 #include "assets/spritefiledata.h"
 #include "core/archive.h"
+#include "core/dialogs/dialogs.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -215,7 +216,11 @@ bool SpriteFile::toFile(Zorv::Archive& archive, const QString& fileName, bool as
 
 bool SpriteFile::reload()
 {
-    return fromFile(*archive(), fileName(), false);
+    const bool done = fromFile(*archive(), fileName(), false);
+    if (!done) {
+        Zorv::Dialogs::instance()->error(tr("Sprites"), errorString());
+    }
+    return done;
 }
 
 }  // namespace Family

@@ -25,7 +25,8 @@ public:
     bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
     QString fileName() const override { return SpriteCollection::fileName(); }
 
-    /// The file has changed on disk, and the person wants it: reads it, without undo.
+    /// The file has changed on disk, and the person wants it: reads it, without undo. If that
+    /// fails, the person is told, and all stays as it is.
     bool reload() override;
 
 private:

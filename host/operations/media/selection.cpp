@@ -11,6 +11,11 @@ namespace {
 
 const int MaxPart = 65535;
 
+quint32 keyOf(int group, int number)
+{
+    return quint32(group) << 16 | quint32(number);
+}
+
 }  // namespace
 
 bool Selection::add(const QString& text)
@@ -18,6 +23,7 @@ bool Selection::add(const QString& text)
     static const QRegularExpression form(
         QStringLiteral("^(\\d{1,5})(?:-(\\d{1,5})|,(\\d{1,5}))?$"));
     QVector<Range> ranges;
+    QVector<quint32> ids;
     const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString& word : words) {
         const QRegularExpressionMatch match = form.match(word);
@@ -30,18 +36,24 @@ bool Selection::add(const QString& text)
         if (qMax(last, number) > MaxPart || first > last) {
             return false;
         }
-        ranges.append({first, last, number});
+        if (number < 0) {
+            ranges.append({first, last});
+        } else {
+            ids.append(keyOf(first, number));
+        }
     }
     m_ranges += ranges;
+    for (quint32 id : qAsConst(ids)) {
+        m_ids.insert(id);
+    }
     return !words.isEmpty();
 }
 
 bool Selection::contains(int group, int number) const
 {
-    return m_ranges.isEmpty() ||
+    return isAll() || m_ids.contains(keyOf(group, number)) ||
            std::any_of(m_ranges.begin(), m_ranges.end(), [=](const Range& range) {
-               return group >= range.first && group <= range.last &&
-                      (range.number < 0 || range.number == number);
+               return group >= range.first && group <= range.last;
            });
 }
 

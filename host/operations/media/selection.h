@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QVector>
 
@@ -19,17 +20,17 @@ public:
     /// True for every one as long as nothing was added.
     bool contains(int group, int number) const;
 
-    bool isAll() const { return m_ranges.isEmpty(); }
+    bool isAll() const { return m_ranges.isEmpty() && m_ids.isEmpty(); }
 
 private:
     struct Range
     {
         int first;
         int last;
-        int number;  ///< negative for all
     };
 
     QVector<Range> m_ranges;
+    QSet<quint32> m_ids;  // all that are selected in a list can be many
 };
 
 /// Reads "GROUP,NUMBER", each 0 to 65535. False for any other text.
