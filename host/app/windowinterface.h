@@ -45,7 +45,7 @@ public:
     void showStatus(int field, const QString& text) override;
 
     /// Those of the menu bar: "anim", "view", "spr", "pal", "snd" and the window's own. The
-    /// middle three are hidden until something stands in them.
+    /// middle three can be hidden.
     QMenu* menu(const char* name) const override;
 
     /// Tools stand where `controllayout.h` tells; see `ControlPlacer`.

@@ -109,7 +109,7 @@ private:
         m_real.insertSprite(behind, sprite.id, sprite.axis, image);
         sprite.axis.setY(32767);
         takeImage(&sprite, image);
-        plain.sprites.insert(plain.sprites.begin() + behind + 1, sprite);
+        plain.sprites.insert(plain.sprites.begin() + (behind + 1), sprite);
     }
 
     void addSeveral()

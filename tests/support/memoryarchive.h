@@ -23,7 +23,8 @@ public:
     QIODevice* openFile(const QString&, QIODevice::OpenMode mode, QString*) override
     {
         m_buffer.setBuffer(&m_bytes);
-        m_buffer.open(mode);
+        // Unlike a file, a buffer keeps what it had.
+        m_buffer.open(mode & QIODevice::WriteOnly ? mode | QIODevice::Truncate : mode);
         return &m_buffer;
     }
     bool closeFile(QIODevice*, QString*) override

@@ -57,7 +57,6 @@ struct MenuRow
 {
     const char* name;
     const char* text;
-    bool isForEditors = false;  ///< hidden until an editor puts something into it
 };
 
 /// In the order in which they are shown.

@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QEvent>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -56,10 +55,6 @@ void WindowActions::makeMenus()
         made->setObjectName(QLatin1String(row.name));
         made->setToolTipsVisible(true);
         m_menus.insert(row.name, made);
-        if (row.isForEditors) {
-            made->menuAction()->setVisible(false);
-            made->installEventFilter(this);
-        }
     }
 }
 
@@ -97,17 +92,8 @@ QMenu* WindowActions::menu(const char* name) const
 void WindowActions::showMenu(const char* name, bool isShown)
 {
     if (QMenu* found = menu(name)) {
-        found->removeEventFilter(this);
         found->menuAction()->setVisible(isShown);
     }
-}
-
-bool WindowActions::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::ActionAdded) {
-        static_cast<QMenu*>(watched)->menuAction()->setVisible(true);
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 void WindowActions::update(int present)

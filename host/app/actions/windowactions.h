@@ -24,11 +24,10 @@ public:
     /// Every action of the program.
     ActionRegistry* registry() const { return m_registry; }
 
-    /// A menu of the menu bar by its short name; null for an unknown name. Those for
-    /// editors are hidden until something stands in them.
+    /// A menu of the menu bar by its short name; null for an unknown name.
     QMenu* menu(const char* name) const;
 
-    /// Shows or hides a menu, from now on whatever it holds.
+    /// Shows or hides a menu.
     void showMenu(const char* name, bool isShown);
 
     /// Puts the switch of a panel or a bar into the menu "view".
@@ -39,9 +38,6 @@ public:
 
     /// All texts again, in the present language.
     void retranslate();
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeMenus();
