@@ -22,7 +22,7 @@ constexpr Command table[] = {
      "    file:line:column: error: text\n"
      "with 'error', 'warning' or 'deprecated'. GAME is a game folder, with all projects below\n"
      "it. FILE is a main file (.character, .stage), which is checked with all the files that it\n"
-     "names, or another code file. The status is 1 if there is any problem."},
+     "names, or another file of code, sprites or sounds. The status is 1 if there is any problem."},
     {"tree", "FILE", 1, 1, Json | Encoding, treeCommand,
      "Print the groups, values, animations, frames and boxes of a file.",
      "A line for each, with a tab between its number in the file, what it is, and the path\n"

@@ -39,6 +39,19 @@ public:
         AssetHistory& m_history;
     };
 
+    /// Keeps all records where they are for as long as it lives: who would replace them, as
+    /// reading the file again does, asks `isHeld()` first.
+    class Hold
+    {
+    public:
+        explicit Hold(const AssetHistory& history) : m_holds(history.m_holds) { ++m_holds; }
+        ~Hold() { --m_holds; }
+
+    private:
+        Q_DISABLE_COPY(Hold)
+        int& m_holds;
+    };
+
     /// `changed` is called after each step that was made, undone or redone, when all is true
     /// again.
     explicit AssetHistory(std::function<void()> changed);
@@ -51,6 +64,9 @@ public:
 
     /// True inside of a step.
     bool isOpen() const { return m_depth > 0; }
+
+    /// True while records are in use: in a step, or held.
+    bool isHeld() const { return m_depth > 0 || m_holds > 0; }
 
     /// Takes a change up; in a step of its own if none is open. Steps that were undone are gone.
     void record(std::unique_ptr<Change> change);
@@ -91,6 +107,7 @@ private:
     int m_done = 0;   // steps in front of here are done, those behind undone
     int m_clean = 0;  // the value of m_done when it was saved; -1 if that is out of reach
     int m_depth = 0;
+    mutable int m_holds = 0;
     bool m_replaying = false;
 };
 

@@ -126,7 +126,14 @@ SoundFileData SoundFile::tables(QVector<SampleRef>* streams) const
 
 bool SoundFile::reload()
 {
-    const bool done = fromFile(*archive(), fileName(), false);
+    // The question for it can come up over the progress of a longer work.
+    const bool isFree = !steps().isHeld();
+    const bool done = isFree && fromFile(*archive(), fileName(), false);
+    if (!isFree) {
+        setErrorString(tr("%1 is being worked with, and was not read again. Close its project "
+                          "and open it to see what has changed on the disk.")
+                           .arg(QDir::toNativeSeparators(fileName())));
+    }
     if (!done) {
         Zorv::Dialogs::instance()->error(tr("Sounds"), errorString());
     }

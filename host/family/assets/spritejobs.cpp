@@ -64,6 +64,7 @@ private:
 
 bool forEachImage(const SpriteCollection& sprites, const ImageJob& job)
 {
+    const AssetHistory::Hold hold(sprites.steps());
     const int threads = job.threads > 0 ? job.threads : QThread::idealThreadCount();
     QThreadPool pool;
     pool.setMaxThreadCount(threads);

@@ -1,6 +1,10 @@
 #include "check/check.h"
 
+#include "assets/newsprites.h"
+#include "assets/soundfile.h"
+#include "assets/spritecollection.h"
 #include "check/projectcheck.h"
+#include "core/filesystemarchive.h"
 #include "familydocument.h"
 #include "project/familyparentproject.h"
 #include "project/familyproject.h"
@@ -68,6 +72,46 @@ Problems checkCodeFile(const QString& fileName, QString* error)
     return document ? checkDocument(document.get(), fileName) : Problems();
 }
 
+/// The broken records of a sprite or sound file.
+Problems checkAssets(const QString& fileName, const QStringList& lines)
+{
+    Problems problems;
+    for (const QString& line : lines) {
+        problems.append(
+            problemAt(ProblemId::RecordBroken, {fileName, line}, {{}, fileName, 1, 1, 0}));
+    }
+    return problems;
+}
+
+Problems checkSprites(const QString& fileName, QString* error)
+{
+    SpriteCollection* sprites = openSprites(fileName, error);
+    const Problems problems = sprites ? checkAssets(fileName, sprites->loadErrors()) : Problems();
+    if (sprites) {
+        sprites->release();
+    }
+    return problems;
+}
+
+Problems checkSounds(const QString& fileName, QString* error)
+{
+    SoundFile sounds;
+    if (!sounds.fromFile(*Zorv::FileSystemArchive::instance(), fileName, false)) {
+        *error = sounds.errorString();
+    }
+    return checkAssets(fileName, sounds.loadErrors());
+}
+
+Problems checkSingleFile(const QString& fileName, QString* error)
+{
+    const QString suffix = QFileInfo(fileName).suffix();
+    if (suffix == QLatin1String("sprites")) {
+        return checkSprites(fileName, error);
+    }
+    return suffix == QLatin1String("sounds") ? checkSounds(fileName, error)
+                                             : checkCodeFile(fileName, error);
+}
+
 }  // namespace
 
 Problems checkDocument(const FamilyDocument* document, const QString& file)
@@ -97,7 +141,7 @@ Problems checkGame(const QString& gameFolder, QString* error)
     if (!given.isDir()) {
         return isMainFile(fileKindOf(gameFolder))
                    ? checkMainFiles(gameOf(given), {given.absoluteFilePath()})
-                   : checkCodeFile(gameFolder, error);
+                   : checkSingleFile(gameFolder, error);
     }
     const QStringList mainFiles = FamilyParentProject::mainFiles(gameFolder);
     if (mainFiles.isEmpty()) {

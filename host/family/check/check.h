@@ -20,7 +20,7 @@ Problems checkDocument(const FamilyDocument* document, const QString& file);
 Problems checkProject(const FamilyProject* project);
 
 /// All problems of a game folder, read from disk: every project below it.
-/// `gameFolder` can also be a main file, or a single code file. Names are
+/// `gameFolder` can also be a main file, or a single file of code, sprites or sounds. Names are
 /// relative to the folder. `error` is set, and nothing given, if there is
 /// nothing to check.
 Problems checkGame(const QString& gameFolder, QString* error);

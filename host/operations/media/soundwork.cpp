@@ -91,6 +91,7 @@ double duration(const Zorv::SampleInfo& info)
 MediaResult exportSounds(const SoundFile& sounds, const Selection& selection,
                          const OutputRequest& request)
 {
+    const AssetHistory::Hold hold(sounds.steps());
     QVector<const FamilySound*> selected;
     QVector<AssetId> ids;
     for (const auto& sound : sounds.items()) {
@@ -118,6 +119,7 @@ MediaResult exportSounds(const SoundFile& sounds, const Selection& selection,
 
 MediaResult importSounds(SoundFile* sounds, const QStringList& files, int group, bool force)
 {
+    const AssetHistory::Hold hold(sounds->steps());
     QString error;
     const QVector<ImportTarget> targets = importTargets(
         files, group, [sounds](AssetId id) { return sounds->freeId(id); }, &error);

@@ -202,6 +202,7 @@ QString Import::put(int index, const ImportImage& read)
 MediaResult importSprites(SpriteCollection* sprites, const QStringList& files,
                           const ImportRequest& request)
 {
+    const AssetHistory::Hold hold(sprites->steps());
     return Import(sprites, files, request).run();
 }
 
