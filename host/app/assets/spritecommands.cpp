@@ -74,8 +74,8 @@ FamilySprite* SpriteCommands::stillCurrent(int row, Family::AssetId id) const
 
 int SpriteCommands::chosenMode(const QImage& image, const FamilySprite* sprite) const
 {
-    if (!sprite->palette() || Family::colorsOfTable(image.colorTable()) ==
-                                  Family::colorsOfTable(sprite->shownColors())) {
+    if (!sprite->palette() ||
+        Family::colorsOfTable(image.colorTable()) == Family::colorsOfTable(sprite->shownColors())) {
         return Zorv::Sprite::ImagePalette;
     }
     const QStringList modes{tr("The image's palette, added if it is not there yet"),
