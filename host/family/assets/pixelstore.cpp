@@ -12,6 +12,8 @@ namespace Family {
 
 namespace {
 
+constexpr uchar UnknownItem = 254;  // a type of no codec
+
 constexpr int MostUnpacked = 64 * 1024 * 1024;  // bytes
 
 quint64 checksum(const QByteArray& bytes)
@@ -72,7 +74,9 @@ PixelRef PixelStore::adopt(const PixelFormat& format, const QByteArray& stream, 
     data->streamCrc = streamCrc;
     data->order = m_nextOrder++;
     if (!stream.isEmpty()) {
-        data->fromData(stream, uchar(format.codec), data, decodedChecksum(pixelCrc, format));
+        // Type 0 would have the cache pack them: those of a broken record stay as they are.
+        const uchar type = format.codec == PixelCodec::None ? UnknownItem : uchar(format.codec);
+        data->fromData(stream, type, data, decodedChecksum(pixelCrc, format));
     }
     return PixelRef(data);
 }
