@@ -2396,6 +2396,13 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Family::AssetReload</name>
+    <message>
+        <source>%1 is being worked with, and was not read again. Close its project and open it to see what has changed on the disk.</source>
+        <translation>Mit %1 wird gerade gearbeitet, die Datei wurde nicht neu gelesen. Schließen Sie das Projekt und öffnen Sie es wieder, um zu sehen, was sich auf der Platte geändert hat.</translation>
+    </message>
+</context>
+<context>
     <name>Family::Backups</name>
     <message>
         <source>Before restore</source>
@@ -2911,10 +2918,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Sounds</source>
         <translation>Klänge</translation>
     </message>
-    <message>
-        <source>%1 is being worked with, and was not read again. Close its project and open it to see what has changed on the disk.</source>
-        <translation>Mit %1 wird gerade gearbeitet, die Datei wurde nicht neu gelesen. Schließen Sie das Projekt und öffnen Sie es wieder, um zu sehen, was sich auf der Platte geändert hat.</translation>
-    </message>
 </context>
 <context>
     <name>Family::SoundWork</name>
@@ -3034,10 +3037,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Sprites</source>
         <translation>Sprites</translation>
-    </message>
-    <message>
-        <source>%1 is being worked with, and was not read again. Close its project and open it to see what has changed on the disk.</source>
-        <translation>Mit %1 wird gerade gearbeitet, die Datei wurde nicht neu gelesen. Schließen Sie das Projekt und öffnen Sie es wieder, um zu sehen, was sich auf der Platte geändert hat.</translation>
     </message>
 </context>
 <context>

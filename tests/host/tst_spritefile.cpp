@@ -194,38 +194,41 @@ void TestSpriteFile::takesAnyBytes()
 void TestSpriteFile::keepsBrokenRecords_data()
 {
     QTest::addColumn<int>("at");
+    QTest::addColumn<int>("flipped");       // bits of the byte
     QTest::addColumn<int>("resealedSize");  // 0: the checksum stays wrong
     QTest::addColumn<QString>("told");
-    QTest::newRow("palette") << PalettesAt + 20 << 0
+    QTest::newRow("palette") << PalettesAt + 20 << 0x55 << 0
                              << "Palette 1 is broken: its checksum is wrong.";
     QTest::newRow("count of colours")
-        << PalettesAt + 5 << 1040 << "Palette 1 is broken: its values make no sense.";
-    QTest::newRow("pixels") << StreamsAt + 12 << 0 << "Pixels 1 are broken: its checksum is wrong.";
-    QTest::newRow("codec") << StreamsAt + 16 << 48
+        << PalettesAt + 5 << 0x55 << 1040 << "Palette 1 is broken: its values make no sense.";
+    QTest::newRow("pixels") << StreamsAt + 12 << 0x55 << 0
+                            << "Pixels 1 are broken: its checksum is wrong.";
+    QTest::newRow("codec") << StreamsAt + 16 << 0x55 << 48
                            << "Pixels 1 are broken: its values make no sense.";
-    QTest::newRow("no codec") << StreamsAt + 16 << 48
+    QTest::newRow("no codec") << StreamsAt + 16 << int(PixelCodec::Lz5) << 48
                               << "Pixels 1 are broken: its values make no sense.";
     QTest::newRow("place of pixels")
-        << StreamsAt + 3 << 48 << "Pixels 1 are broken: they are not in the file.";
-    QTest::newRow("sprite") << SpritesAt + 4 << 0 << "Sprite 1 is broken: its checksum is wrong.";
+        << StreamsAt + 3 << 0x55 << 48 << "Pixels 1 are broken: they are not in the file.";
+    QTest::newRow("sprite") << SpritesAt + 4 << 0x55 << 0
+                            << "Sprite 1 is broken: its checksum is wrong.";
     QTest::newRow("its pixels")
-        << SpritesAt + 9 << 32
+        << SpritesAt + 9 << 0x55 << 32
         << "Sprite 1 (0,0) is broken: it names pixels or a palette that are not there.";
     QTest::newRow("its palette")
-        << SpritesAt + 14 << 32
+        << SpritesAt + 14 << 0x55 << 32
         << "Sprite 1 (0,0) is broken: it names pixels or a palette that are not there.";
-    QTest::newRow("remap") << RemapsAt << 0 << "Remap 1 is broken: its checksum is wrong.";
+    QTest::newRow("remap") << RemapsAt << 0x55 << 0 << "Remap 1 is broken: its checksum is wrong.";
 }
 
 void TestSpriteFile::keepsBrokenRecords()
 {
     QFETCH(int, at);
+    QFETCH(int, flipped);
     QFETCH(int, resealedSize);
     QFETCH(QString, told);
     const QByteArray whole = smallFile();
     QByteArray bytes = whole;
-    const bool isCleared = QByteArray(QTest::currentDataTag()) == "no codec";
-    bytes[at] = isCleared ? '\0' : char(bytes[at] ^ 0x55);
+    bytes[at] = char(bytes[at] ^ flipped);
     const int table = at < StreamsAt ? PalettesAt : at < SpritesAt ? StreamsAt : SpritesAt;
     if (resealedSize > 0) {
         bytes = resealed(bytes, table + (at - table) / resealedSize * resealedSize, resealedSize);

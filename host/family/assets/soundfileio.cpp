@@ -1,8 +1,8 @@
+#include "assets/assetreload.h"
 #include "assets/samplestore.h"
 #include "assets/soundfile.h"
 #include "assets/soundfiledata.h"
 #include "core/archive.h"
-#include "core/dialogs/dialogs.h"
 
 #include <QDir>
 #include <QHash>
@@ -126,18 +126,7 @@ SoundFileData SoundFile::tables(QVector<SampleRef>* streams) const
 
 bool SoundFile::reload()
 {
-    // The question for it can come up over the progress of a longer work.
-    const bool isFree = !steps().isHeld();
-    const bool done = isFree && fromFile(*archive(), fileName(), false);
-    if (!isFree) {
-        setErrorString(tr("%1 is being worked with, and was not read again. Close its project "
-                          "and open it to see what has changed on the disk.")
-                           .arg(QDir::toNativeSeparators(fileName())));
-    }
-    if (!done) {
-        Zorv::Dialogs::instance()->error(tr("Sounds"), errorString());
-    }
-    return done;
+    return reloadAssets(*this, steps(), tr("Sounds"));
 }
 
 bool SoundFile::toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy)

@@ -1,10 +1,10 @@
 #include "assets/spritefile.h"
 
+#include "assets/assetreload.h"
 #include "assets/pixelstore.h"
 #include "assets/remapmodel.h"
 #include "assets/spritefiledata.h"
 #include "core/archive.h"
-#include "core/dialogs/dialogs.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -216,18 +216,7 @@ bool SpriteFile::toFile(Zorv::Archive& archive, const QString& fileName, bool as
 
 bool SpriteFile::reload()
 {
-    // The question for it can come up over the progress of a longer work.
-    const bool isFree = !steps().isHeld();
-    const bool done = isFree && fromFile(*archive(), fileName(), false);
-    if (!isFree) {
-        setErrorString(tr("%1 is being worked with, and was not read again. Close its project "
-                          "and open it to see what has changed on the disk.")
-                           .arg(QDir::toNativeSeparators(fileName())));
-    }
-    if (!done) {
-        Zorv::Dialogs::instance()->error(tr("Sprites"), errorString());
-    }
-    return done;
+    return reloadAssets(*this, steps(), tr("Sprites"));
 }
 
 }  // namespace Family
