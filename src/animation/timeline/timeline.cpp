@@ -1,0 +1,7 @@
+#include "animation/timeline/timeline.h"
+
+namespace Zorv {
+
+TimeLine::~TimeLine() = default;
+
+}  // namespace Zorv

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "zorv_export.h"
+
+#include <QColor>
+#include <QOpenGLFunctions>
+#include <QPoint>
+
+class QMatrix4x4;
+class QPainter;
+
+namespace Zorv {
+
+class RenderWidget;
+class Texture;
+
+/// What a `RenderWidget` shows, and what its input goes to.
+///
+/// Derived classes draw in `render()`. Coordinates are pixels of the widget, from the top left, y
+/// downward. The drawing calls do nothing while no widget is attached, and must be made while its
+/// context is current. Main thread only.
+class ZORV_EXPORT Renderer : public QOpenGLFunctions
+{
+public:
+    enum BlendEquation { Add = 0, ReverseSubtract = 1 };
+    enum BlendFactor {
+        Zero = 0,
+        One = 1,
+        SourceColor = 2,
+        DestinationColor = 3,
+        SourceAlpha = 4,
+        OneMinusSourceAlpha = 5
+    };
+
+    /// Bits of `flip`.
+    enum Flip { FlipHorizontally = 1, FlipVertically = 2 };
+
+    /// How the colours of an image are shown.
+    enum Shading {
+        Plain = 0,
+        Grayscale = 1,  ///< the red channel in all three
+        Lighter = 2,    ///< half of white added
+        Darker = 3      ///< half of white taken off
+    };
+
+    Renderer();
+
+    /// Leaves its widget, if it is attached.
+    virtual ~Renderer();
+
+    virtual void keyPressed(int key, Qt::KeyboardModifiers modifiers);
+    virtual void keyReleased(int key, Qt::KeyboardModifiers modifiers);
+    virtual void mousePressed(QPoint pos, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    virtual void mouseReleased(QPoint pos, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    virtual void mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers);
+
+    /// In eighths of a degree; 120 is a step of a usual wheel.
+    virtual void mouseWheel(int delta);
+    virtual void sizeChanged(int width, int height);
+    virtual void render(QPainter& painter) = 0;
+
+    /// What the widget is cleared with: magenta, which shows where nothing was drawn.
+    virtual QColor clearColor() const;
+
+    /// Brackets a run of drawing calls between `QPainter::beginNativePainting()` and
+    /// `endNativePainting()`. The first draw binds everything; the end leaves GL as `QPainter`
+    /// expects it.
+    void glBeginTextureDrawing();
+    void glEndTextureDrawing();
+
+    /// The state of blending, which reaches GL only when it changes.
+    void glSetBlend(bool on);
+    void glSetBlendEquation(BlendEquation equation);
+    void glSetBlendFunction(BlendFactor source, BlendFactor destination);
+
+    /// Draws an image as the unit square under `matrix`, which so carries place and size. `flip`
+    /// has bits of `Flip`, `shader` is a `Shading`. With `mask` pixels of alpha 0 are left out;
+    /// without it all pixels are opaque. An indexed image without `palette` takes the one that was
+    /// bound last. Nothing for an `image` that is null, has no name or is none.
+    void glDrawImage(const QMatrix4x4& matrix, Texture* image, Texture* palette, unsigned char flip,
+                     float opacity, bool mask, unsigned char shader);
+
+    /// Draws an image side by side, as the unit square under `matrix` each. A number of `tiles`
+    /// below 2 becomes as many as the widget holds; `spacing` is the gap between them.
+    void glDrawImageTiled(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix, Texture* image,
+                          Texture* palette, unsigned char flip, float opacity, bool mask);
+
+    /// Asks the attached widget to repaint.
+    void update();
+
+    /// Null until attached; the widget is not owned.
+    RenderWidget* widget() const { return m_widget; }
+
+private:
+    friend class RenderWidget;
+
+    RenderWidget* m_widget = nullptr;
+};
+
+}  // namespace Zorv

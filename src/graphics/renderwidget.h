@@ -1,0 +1,63 @@
+#pragma once
+
+#include "zorv_export.h"
+
+#include <QOpenGLWidget>
+
+#include <memory>
+
+class QOpenGLShaderProgram;
+
+namespace Zorv {
+
+class Renderer;
+struct RenderWidgetPrivate;
+
+/// The widget that the stage is on. It hands input and painting to the `Renderer` attached to it.
+///
+/// Needs a display whose GL works (`isContextUsable()`). Main thread only.
+class ZORV_EXPORT RenderWidget : public QOpenGLWidget
+{
+    Q_OBJECT
+
+public:
+    explicit RenderWidget(QWidget* parent = nullptr);
+    ~RenderWidget() override;
+
+    /// Null until one is attached.
+    Renderer* renderer() const;
+
+    /// Attaches a renderer, which is not owned and may be attached to one widget at a time; null
+    /// detaches. Without one the widget clears to its last colour and ignores input.
+    void setRenderer(Renderer* renderer);
+
+    /// Takes other fragment shaders, for images with a palette and for true colour; null is that
+    /// of the library. Either is compiled four times, with GRAYSCALE, LIGHTER, DARKER and none of
+    /// them defined. One that does not compile draws nothing.
+    void setCustomPixelShader(const char* indexedSource, const char* rgbaSource);
+
+signals:
+    /// GL is ready for the first time, or again after the widget got another context.
+    void initialize();
+
+    /// Comes in every draw, when all uniforms of the library are set.
+    void setCustomShaderUniformValues(QOpenGLShaderProgram* program);
+
+protected:
+    void initializeGL() override;
+    void resizeGL(int width, int height) override;
+    void paintGL() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    friend class Renderer;
+
+    std::unique_ptr<RenderWidgetPrivate> d;
+};
+
+}  // namespace Zorv

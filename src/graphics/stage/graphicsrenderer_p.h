@@ -1,0 +1,116 @@
+#pragma once
+
+#include "graphics/stage/graphicsrenderer.h"
+#include "graphics/stage/stageitems_p.h"
+#include "zorv_export.h"
+
+#include <QImage>
+#include <QPointer>
+
+#include <array>
+
+namespace Zorv {
+
+class CodeDocument;
+
+/// The scene of a stage and the state of its input.
+class ZORV_EXPORT GraphicsRendererPrivate
+{
+public:
+    using RenderElement = GraphicsRenderer::RenderElement;
+    using ItemType = GraphicsRenderer::ItemType;
+
+    explicit GraphicsRendererPrivate(GraphicsRenderer* owner) : q(owner) {}
+
+    // Of all stages.
+    static QPoint m_origin;
+    static bool m_sprOverGuides;
+    static bool m_contactOverCross;
+    static Background& background();
+    static QPixmap& crossImage(Cross::Type type);
+
+    // stagepositions.cpp. `out` becomes the element of the parent, for what cannot be moved itself.
+    QPoint posFromMode(unsigned char mode, QPoint position, unsigned parent,
+                       RenderElement* out = nullptr);
+    QPoint calcPos(ItemType type, unsigned index, RenderElement* out = nullptr);
+    QPoint anchorOf(unsigned char mode, unsigned parent, RenderElement* out = nullptr);
+    QRect crossRect(int number, RenderElement* out = nullptr);
+    QRect contactRect(const ContactItem& item, QPoint anchor) const;
+    int scaled(int length) const;
+    QPoint scaled(QPoint point) const;
+
+    // stagezoom.cpp
+    void applyZoomLevel(int level);
+    void zoomChanged();
+
+    // stagedrawing.cpp, stageboxdrawing.cpp, stagerulers.cpp, stagebackground.cpp
+    void renderBackground(QPainter& painter);
+    void renderGuides(QPainter& painter);
+    void renderOnionSkin();
+    void renderSprites(int layer);
+    void renderCross(QPainter& painter);
+    void renderContactBoxes(QPainter& painter, ContactBoxCode::BoxType type, QColor interior,
+                            QColor border);
+    void renderContactBoxSizers(QPainter& painter);
+    void renderRulers(QPainter& painter);
+
+    // hittest.cpp
+    RenderElement hitTest(QPoint pos);
+    RenderElement hitTestGuides(QPoint pos) const;
+    RenderElement hitTestContact(QPoint pos);
+    RenderElement hitTestCross(int number, QPoint pos);
+    RenderElement hitTestSprites(QPoint pos);
+    QPoint sizerFromSelection(RenderElement sizer);
+
+    // stagemouse.cpp
+    void pressInDrawMode(QPoint pos);
+    void pressInOtherModes(QPoint pos, Qt::KeyboardModifiers modifiers);
+    void drag(QPoint pos);
+    void dragElement(QPoint delta, QPoint modelDelta);
+    void releaseDrag();
+    void releaseDrawnBox();
+    bool captureColor(QPoint pos, unsigned char& index);
+
+    // contactediting.cpp
+    void sizeMoveContact(bool size, RenderElement sizer, QPoint delta);
+    void resetSelectionRect();
+    void updateBoxSelection(const QRect& rect);
+    CodeDocument* boxDocument() const;
+
+    GraphicsRenderer* q;
+
+    QSize widgetSize{-1, -1};
+    QPoint widgetCentre;
+    unsigned char zoomLevel = 3;
+    float zoom = 1.0F;
+    float previousZoom = 1.0F;
+    bool guidesVisible = false;
+    QPoint guideLines;
+    GraphicsRenderer::OnionEffect onionEffect = GraphicsRenderer::NoEffect;
+    float onionOpacity = 0.5F;
+    bool onionEnabled = false;
+    const Sprite* onionSprite = nullptr;
+    QPoint onionOffset;
+    bool rulersVisible = false;
+    unsigned char contactMode = 14;
+    unsigned short contactParent = 0;
+    std::array<Cross, 3> crosses;
+    QVector<SpriteItem> spriteItems;
+    QPointer<SpriteProvider> spriteProvider;
+    std::array<ContactBoxes, BoxTypes> contactBoxes;
+
+    QRect selectionStart;
+    QRect selectionRect{QPoint(7777, 7777), QPoint(-1, -1)};
+    bool hasSelection = false;
+    int clickMode = GraphicsRenderer::PositioningMode;
+    bool leftButtonDown = false;
+    bool moved = false;  // a drag has changed something
+    QPoint lastMousePos;
+    int itemIndex = 0;     // the sprite or box that the last hit test found
+    int boxListIndex = 0;  // the list of that box, or of the box being drawn
+    int boxCountAtDrawStart = 0;
+    RenderElement element = GraphicsRenderer::StageElement;  // of the present press
+    QImage captureImage;  // of the sprite whose colours are picked
+};
+
+}  // namespace Zorv

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QBrush>
+#include <QColor>
+#include <QPixmap>
+#include <QPoint>
+#include <QPointF>
+#include <QRect>
+#include <QSize>
+#include <QVector>
+
+namespace Zorv {
+
+class ContactBoxCode;
+class ContactBoxesCode;
+class Sprite;
+
+/// One of the three crosses. Its position is in model units, or absolute for anchor 0.
+struct Cross
+{
+    enum Type { Main = 0, Secondary = 1, Extra = 2 };
+
+    bool visible = true;
+    unsigned char mode = 13;
+    unsigned short parent = 0;
+    QPoint position;
+};
+
+/// The factors of the zoom levels, and which row of them is in force.
+struct Zoom
+{
+    static int mode;
+    static unsigned char table;
+};
+
+constexpr int ZoomLevels = 12;
+extern const float s_zoomTable[2][ZoomLevels];
+extern const unsigned char s_zoomActual[2];
+
+/// What a provider told of a sprite.
+struct SpriteItem
+{
+    unsigned char mode = 0;
+    unsigned char layer = 0;
+    unsigned short parent = 0;
+    QPoint position;
+    QSize size;
+    QPointF scale{1, 1};
+    unsigned char flip = 0;
+    float rotation = 0;  // degrees, clockwise on the screen
+    Sprite* sprite = nullptr;
+};
+
+/// The stage's working copy of a box, in model units. It differs from the text during a drag.
+struct ContactItem
+{
+    ContactBoxCode* box = nullptr;  // null while it is being drawn
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+    bool selected = false;
+
+    /// Rounded, with right and bottom inclusive.
+    QRect rect() const;
+    void setRect(const QRect& rect);
+};
+
+/// The boxes of one kind.
+struct ContactBoxes
+{
+    static QColor color[2];
+    static float opacity;
+
+    ContactBoxesCode* code = nullptr;
+    QVector<ContactItem> items;
+    bool visible = true;
+};
+
+constexpr int BoxTypes = 8;
+
+/// What is behind everything.
+struct Background
+{
+    QPoint position;  // of the picture, in model units from the origin
+    QColor start;
+    QColor end;
+    QBrush gradient;
+    QPixmap image;
+};
+
+}  // namespace Zorv
