@@ -14,7 +14,11 @@ class TimeLinePrivate;
 /// The clock of playback, and the strip on which frames are cells along a scale of ticks.
 ///
 /// It knows nothing of animations: rows tell what stands at a tick, and whoever plays follows
-/// `tickChanged()`. Main thread only.
+/// `tickChanged()`. The strip shows one page of ticks, which turns when the present tick does; a
+/// widget that is not wider than the names of its rows has no page, and plays all the same. While
+/// the clock stands, the mouse sets the tick: the cursor follows it when it is dragged, and jumps
+/// to where a click in the strip ends. The keys Left and Right go by one tick at any time. Main
+/// thread only.
 class ZORV_EXPORT TimeLineWidget : public QWidget
 {
     Q_OBJECT
@@ -27,7 +31,8 @@ public:
     unsigned int ticksPerSecond() const;
     void setTicksPerSecond(unsigned int ticks);
 
-    /// Adds a row at the bottom. Rows are not owned, and have to be cleared before they go.
+    /// Adds a row at the bottom; null adds none. Rows are not owned, and have to be cleared before
+    /// they go. A row that changes is painted again by `update()`.
     void addTimeLine(TimeLine* timeLine);
     void clearTimeLines();
 
@@ -36,21 +41,25 @@ public:
     /// Turns to the page of the tick. Emits `tickChanged()` if it is another one.
     void setCurrentTick(unsigned int tick);
 
-    /// The rate reached in the last second of playing, 60 at its start.
+    /// Ticks a second, as reached in the last second of playing; 60 until then.
     float currentFPS() const;
     bool isPlaying() const;
 
     /// Starts the clock at the present tick, which is told at once. Each later tick is told in
-    /// its turn, however long a slot takes: none is skipped, and lateness is made up.
+    /// its turn, however long a slot takes: none is skipped, and lateness is made up by ticks that
+    /// follow at once. Other events are handled after each tick, also then.
     void play();
 
-    /// Stops the clock; the tick stays. May be called by a slot of `tickChanged()`.
+    /// Stops the clock; the tick stays. A slot of `tickChanged()` may call it, and may delete the
+    /// widget as well.
     void stop();
 
+    /// Fits the rows, of which one at least has room.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
+    /// The present tick is another one, or the first of a play.
     void tickChanged(unsigned int tickIndex);
 
 protected:

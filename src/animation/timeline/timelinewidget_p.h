@@ -1,11 +1,14 @@
 #pragma once
 
+#include "animation/timeline/tickclock_p.h"
+
 #include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QTimer>
 
 class QPainter;
+class QPoint;
 
 namespace Zorv {
 
@@ -18,32 +21,58 @@ class TimeLinePrivate : public QObject
     Q_OBJECT
 
 public:
+    enum Target { NoTarget, Strip, Cursor };
+
     explicit TimeLinePrivate(TimeLineWidget* widget);
 
-    /// Turns to a tick and tells of it.
+    void play();
+    void stop();
+
+    /// Turns to a tick and tells of it, if it is another one. The widget may be gone afterwards.
     void moveTo(unsigned int tick);
-    void timeStep();
+
+    /// The same for the tick below a place in the strip.
+    void moveToPlace(int x);
+
+    /// What lies below a place; sets `row` in the strip.
+    Target hitTest(const QPoint& place);
+    void showCursorShape(const QPoint& place);
+
+    void paint(QPainter& painter) const;
 
     TimeLineWidget* owner;
     QList<TimeLine*> timeLines;
     unsigned int ticksPerSecond = 60;
     unsigned int currentTick = 0;
-    unsigned int frameCount = 0;
+    TickClock clock;
     QElapsedTimer elapsedTimer;
     QTimer timer;
-    float period = 16.666666F;  // milliseconds a tick
-    float error = 0;            // by how many milliseconds the clock is ahead
-    float currentFPS = 60;
-    unsigned int fpsElapsed = 0;
-    int dragTarget = 0;
+    bool playing = false;
+    Target dragTarget = NoTarget;
     unsigned int row = 0;
     bool dragging = false;
-    unsigned int visibleTicks = 0;
+    unsigned int visibleTicks = 0;  // none before the first resize
     unsigned int firstTick = 0;
-    int headerHeight = 20;
-    int labelWidth = 125;
-    int tickWidth = 6;
-    int rowHeight = 30;
+
+    static constexpr int HeaderHeight = 20;
+    static constexpr int LabelWidth = 125;
+    static constexpr int TickWidth = 6;
+    static constexpr int RowHeight = 30;
+
+private:
+    void timeStep();
+    void turnPage();
+
+    int leftOf(unsigned int index) const { return LabelWidth + TickWidth * int(index); }
+    qint64 cursorPlace() const;
+
+    void paintScale(QPainter& painter) const;
+    void paintName(QPainter& painter, int index) const;
+    void paintCells(QPainter& painter, int index) const;
+    void paintBand(QPainter& painter, const QRect& cell, const QColor& color, int length) const;
+    void paintCursor(QPainter& painter) const;
+
+    unsigned int run = 0;  // another one after each play() and stop()
 };
 
 }  // namespace Zorv

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <algorithm>
+
+namespace Zorv {
+
+/// How long a timer has to wait so that ticks come 60 times a second on the mean.
+///
+/// A timer has whole milliseconds, fires late, and waits only when the work of a tick is done. What
+/// a tick took too long or too short is kept to the nanosecond and made up in the next ones.
+struct TickClock
+{
+    static constexpr qint64 Period = 16'666'667;  ///< nanoseconds a tick
+    static constexpr qint64 Millisecond = 1'000'000;
+    static constexpr int FirstInterval = 16;  ///< milliseconds
+
+    /// Takes the nanoseconds since the last tick, and gives the milliseconds to the next.
+    int step(qint64 elapsed)
+    {
+        error += Period - elapsed;
+        measure(elapsed);
+        return int(std::max<qint64>((error + Period) / Millisecond, 0));
+    }
+
+    qint64 error = 0;  ///< nanoseconds by which the ticks are ahead
+    float currentFPS = 60;
+    unsigned int frameCount = 0;  ///< ticks since the rate was measured
+    qint64 fpsElapsed = 0;        ///< nanoseconds since then
+
+private:
+    void measure(qint64 elapsed)
+    {
+        fpsElapsed += elapsed;
+        ++frameCount;
+        if (fpsElapsed > 999 * Millisecond) {
+            currentFPS = float(frameCount * 1e9 / double(fpsElapsed));
+            fpsElapsed = 0;
+            frameCount = 0;
+        }
+    }
+};
+
+}  // namespace Zorv
