@@ -157,6 +157,7 @@ void tst_SettingsDialog::everyRowGoesThere()
         click(setting.key);
         break;
     case SettingRow::Number:
+    case SettingRow::Share:
         QTest::keyClick(widget, Qt::Key_Up);
         break;
     case SettingRow::Choice:
@@ -164,7 +165,8 @@ void tst_SettingsDialog::everyRowGoesThere()
         QTest::keyClick(widget, Qt::Key_Down);
         break;
     case SettingRow::Folder:
-        writeText(setting.key, QStringLiteral("/some/folder"));
+    case SettingRow::Picture:
+        writeText(setting.key, QStringLiteral("/some/path"));
         break;
     case SettingRow::Colour:
         chooseColour(static_cast<QPushButton*>(widget), Qt::darkCyan);
@@ -187,9 +189,9 @@ void tst_SettingsDialog::cancelKeepsAll()
     showPage(2);
     click("backup_onload");
     QVERIFY(find<QCheckBox>("backup_onload")->isChecked());
-    showPage(3);
-    click("engine_add");
     showPage(4);
+    click("engine_add");
+    showPage(5);
     selectKey("save");
     click("key_none");
     const QByteArray before = TemporaryGame().read(m_folder->filePath("settings.ini"));
@@ -291,7 +293,7 @@ void tst_SettingsDialog::folderIsChosen()
 
 void tst_SettingsDialog::enginesAreEdited()
 {
-    showPage(3);
+    showPage(4);
     auto* list = find<QListWidget>("engines");
     QVERIFY(!find<QWidget>("engine_name")->isEnabled());
     click("engine_add");
@@ -317,7 +319,7 @@ void tst_SettingsDialog::enginesAreEdited()
     QCOMPARE(Family::FamilyEngineModel::instance()->engineCount(), 2);
 
     open();
-    showPage(3);
+    showPage(4);
     click("engine_remove");
     press(QDialogButtonBox::Ok);
     QCOMPARE(Family::FamilyEngineModel::instance()->engineCount(), 1);
@@ -336,7 +338,7 @@ void tst_SettingsDialog::selectKey(const char* action) const
 
 void tst_SettingsDialog::keysAreEdited()
 {
-    showPage(4);
+    showPage(5);
     QAction* save = m_fixture->action("save");
     const QKeySequence before = save->shortcut();
     auto* key = find<QKeySequenceEdit>("key");

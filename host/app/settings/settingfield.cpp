@@ -2,6 +2,7 @@
 
 #include "app/settings/pathfield.h"
 #include "app/settings/settingtable.h"
+#include "operations/hostinterface.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
@@ -12,6 +13,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
+
+#include <cmath>
 
 namespace App {
 
@@ -70,6 +73,36 @@ public:
 
 private:
     QSpinBox* m_box;
+};
+
+/// The value is that which was set until the person edits it: percents cannot show them all.
+class ShareField final : public SettingField
+{
+public:
+    ShareField(const SettingRow& row, QWidget* parent)
+        : SettingField(row), m_box(new QSpinBox(parent))
+    {
+        m_box->setRange(row.minimum, row.maximum);
+        m_box->setSuffix(QStringLiteral(" %"));
+        connect(m_box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int percents) {
+            m_value = percents / 100.0;
+            emit edited();
+        });
+    }
+
+    QWidget* widget() const override { return m_box; }
+    QVariant value() const override { return m_value; }
+
+    void setValue(const QVariant& value) override
+    {
+        const QSignalBlocker blocker(m_box);
+        m_value = value.toDouble();
+        m_box->setValue(int(std::lround(qBound(0.0, m_value, 1.0) * 100)));
+    }
+
+private:
+    QSpinBox* m_box;
+    double m_value = 0;
 };
 
 class ChoiceField final : public SettingField
@@ -148,7 +181,7 @@ private:
     QComboBox* m_box;
 };
 
-/// A button whose menu leaves the colour to the theme, or asks for one.
+/// A button whose menu takes the colour of the theme, or that of the first start, or asks for one.
 class ColourField final : public SettingField
 {
 public:
@@ -156,7 +189,7 @@ public:
         : SettingField(row), m_button(new QPushButton(parent))
     {
         auto* menu = new QMenu(m_button);
-        m_theme = menu->addAction(QString(), this, [this] { take({}); });
+        m_first = menu->addAction(QString(), this, [this] { take(firstColour()); });
         m_choose = menu->addAction(QString(), this, &ColourField::choose);
         m_button->setMenu(menu);
     }
@@ -169,14 +202,16 @@ public:
         m_colour = value.value<QColor>();
         m_button->setIcon(m_colour.isValid() ? swatch() : QIcon());
         m_button->setText(m_colour.isValid() ? m_colour.name() : settingText(row().lowest));
-        m_theme->setEnabled(m_colour.isValid());
+        m_first->setEnabled(m_colour != firstColour());
     }
 
     void retranslate() override
     {
         SettingField::retranslate();
         m_choose->setText(settingText(QT_TRANSLATE_NOOP("App::Settings", "Choose...")));
-        m_theme->setText(settingText(row().lowest));
+        m_first->setText(row().lowest
+                             ? settingText(row().lowest)
+                             : settingText(QT_TRANSLATE_NOOP("App::Settings", "As at first")));
         setValue(m_colour);
     }
 
@@ -186,6 +221,12 @@ private:
         QPixmap picture(SwatchSize, SwatchSize);
         picture.fill(m_colour);
         return picture;
+    }
+
+    /// Invalid where it is that of the theme.
+    QColor firstColour() const
+    {
+        return Family::HostInterface::defaultOption(QLatin1String(row().key)).value<QColor>();
     }
 
     void take(const QColor& colour)
@@ -206,15 +247,15 @@ private:
 
     QPushButton* m_button;
     QAction* m_choose;
-    QAction* m_theme;
+    QAction* m_first;
     QColor m_colour;
 };
 
-class FolderField final : public SettingField
+class FileField final : public SettingField
 {
 public:
-    FolderField(const SettingRow& row, QWidget* parent)
-        : SettingField(row), m_field(new PathField(PathField::Folder, parent))
+    FileField(const SettingRow& row, PathField::Kind kind, QWidget* parent)
+        : SettingField(row), m_field(new PathField(kind, parent))
     {
         connect(m_field, &PathField::edited, this, &SettingField::edited);
     }
@@ -236,6 +277,8 @@ std::unique_ptr<SettingField> SettingField::make(const SettingRow& row, QWidget*
         return std::make_unique<SwitchField>(row, parent);
     case SettingRow::Number:
         return std::make_unique<NumberField>(row, parent);
+    case SettingRow::Share:
+        return std::make_unique<ShareField>(row, parent);
     case SettingRow::Choice:
         return std::make_unique<ChoiceField>(row, parent);
     case SettingRow::Colour:
@@ -243,7 +286,9 @@ std::unique_ptr<SettingField> SettingField::make(const SettingRow& row, QWidget*
     case SettingRow::FontFamily:
         return std::make_unique<FontField>(row, parent);
     case SettingRow::Folder:
-        return std::make_unique<FolderField>(row, parent);
+        return std::make_unique<FileField>(row, PathField::Folder, parent);
+    case SettingRow::Picture:
+        return std::make_unique<FileField>(row, PathField::Picture, parent);
     }
     return nullptr;
 }

@@ -33,6 +33,40 @@ QVector<SettingChoice> caches()
             {2, settingText(QT_TRANSLATE_NOOP("App::Settings", "Keep in a temporary file"))}};
 }
 
+QVector<SettingChoice> backgrounds()
+{
+    return {{0, settingText(QT_TRANSLATE_NOOP("App::Settings", "The two colours"))},
+            {1, settingText(QT_TRANSLATE_NOOP("App::Settings", "A floor with marks"))},
+            {2, settingText(QT_TRANSLATE_NOOP("App::Settings", "A picture"))}};
+}
+
+QVector<SettingChoice> crosses()
+{
+    return {{0, settingText(QT_TRANSLATE_NOOP("App::Settings", "Small crosses"))},
+            {1, settingText(QT_TRANSLATE_NOOP("App::Settings", "Large crosses"))},
+            {2, settingText(QT_TRANSLATE_NOOP("App::Settings", "Pictures"))}};
+}
+
+QVector<SettingChoice> zoomTables()
+{
+    return {{0, settingText(QT_TRANSLATE_NOOP("App::Settings", "Fine, up to 4 times"))},
+            {1, settingText(QT_TRANSLATE_NOOP("App::Settings", "Whole, up to 10 times"))}};
+}
+
+QVector<SettingChoice> zoomCentres()
+{
+    return {{1, settingText(QT_TRANSLATE_NOOP("App::Settings", "The origin"))},
+            {0, settingText(QT_TRANSLATE_NOOP("App::Settings", "The middle of the stage"))}};
+}
+
+QVector<SettingChoice> onionEffects()
+{
+    return {{0, settingText(QT_TRANSLATE_NOOP("App::Settings", "As it is"))},
+            {1, settingText(QT_TRANSLATE_NOOP("App::Settings", "In shades of grey"))},
+            {2, settingText(QT_TRANSLATE_NOOP("App::Settings", "Lighter"))},
+            {3, settingText(QT_TRANSLATE_NOOP("App::Settings", "Darker"))}};
+}
+
 }  // namespace
 
 const QVector<SettingPageRow>& settingPageTable()
@@ -41,6 +75,7 @@ const QVector<SettingPageRow>& settingPageTable()
         {"look", QT_TRANSLATE_NOOP("App::Settings", "Look")},
         {"code", QT_TRANSLATE_NOOP("App::Settings", "Code")},
         {"files", QT_TRANSLATE_NOOP("App::Settings", "Files")},
+        {"stage", QT_TRANSLATE_NOOP("App::Settings", "Stage")},
     };
     return table;
 }
@@ -99,6 +134,45 @@ const QVector<SettingRow>& settingTable()
          QT_TRANSLATE_NOOP("App::Settings", "Memory is faster; a temporary file leaves memory to others. It counts from the next file that is opened."), 0, 0, nullptr, nullptr, caches},
         {"project_path", "files", Row::Folder, QT_TRANSLATE_NOOP("App::Settings", "&Folder of projects:"),
          QT_TRANSLATE_NOOP("App::Settings", "Where dialogs for files begin, as long as no other folder was used")},
+
+        {"back_start", "stage", Row::Colour, QT_TRANSLATE_NOOP("App::Settings", "Colour at the &top:"),
+         QT_TRANSLATE_NOOP("App::Settings", "The ground of the stage goes from this colour to the next. Rulers write in its inverse.")},
+        {"back_end", "stage", Row::Colour, QT_TRANSLATE_NOOP("App::Settings", "Colour at the &bottom:"),
+         QT_TRANSLATE_NOOP("App::Settings", "The ground of the stage at its lower edge")},
+        {"background_type", "stage", Row::Choice, QT_TRANSLATE_NOOP("App::Settings", "Back&ground:"),
+         QT_TRANSLATE_NOOP("App::Settings", "What stands on the ground, behind the sprites"), 0, 0, nullptr, nullptr, backgrounds},
+        {"background_file", "stage", Row::Picture, QT_TRANSLATE_NOOP("App::Settings", "&Picture of the background:"),
+         QT_TRANSLATE_NOOP("App::Settings", "Drawn behind the sprites, where the background is a picture")},
+        {"background_x", "stage", Row::Number, QT_TRANSLATE_NOOP("App::Settings", "Its left &edge:"),
+         QT_TRANSLATE_NOOP("App::Settings", "Where the picture begins, from the origin of the stage"), -9999, 9999, nullptr, QT_TRANSLATE_NOOP("App::Settings", " px")},
+        {"background_y", "stage", Row::Number, QT_TRANSLATE_NOOP("App::Settings", "Its top e&dge:"),
+         QT_TRANSLATE_NOOP("App::Settings", "Where the picture begins, from the origin of the stage"), -9999, 9999, nullptr, QT_TRANSLATE_NOOP("App::Settings", " px")},
+        {"attackbox", "stage", Row::Colour, QT_TRANSLATE_NOOP("App::Settings", "&Attack boxes:"),
+         QT_TRANSLATE_NOOP("App::Settings", "The colour of boxes that hit")},
+        {"collisionbox", "stage", Row::Colour, QT_TRANSLATE_NOOP("App::Settings", "B&ody boxes:"),
+         QT_TRANSLATE_NOOP("App::Settings", "The colour of boxes that can be hit")},
+        {"box_opacity", "stage", Row::Share, QT_TRANSLATE_NOOP("App::Settings", "&Inside of boxes:"),
+         QT_TRANSLATE_NOOP("App::Settings", "How much of a box hides what is behind it"), 0, 100},
+        {"crosshair_type", "stage", Row::Choice, QT_TRANSLATE_NOOP("App::Settings", "C&rosses:"),
+         QT_TRANSLATE_NOOP("App::Settings", "How axes are marked"), 0, 0, nullptr, nullptr, crosses},
+        {"crosshair_main", "stage", Row::Picture, QT_TRANSLATE_NOOP("App::Settings", "Axis of the a&nimation:"),
+         QT_TRANSLATE_NOOP("App::Settings", "Its middle stands on the axis. Without one it is the small cross.")},
+        {"crosshair_secondary", "stage", Row::Picture, QT_TRANSLATE_NOOP("App::Settings", "Axis o&f the sprite:"),
+         QT_TRANSLATE_NOOP("App::Settings", "Its middle stands on the axis. Without one it is the small cross.")},
+        {"crosshair_extra", "stage", Row::Picture, QT_TRANSLATE_NOOP("App::Settings", "E&xtra cross:"),
+         QT_TRANSLATE_NOOP("App::Settings", "Its middle stands at the place. Without one it is the small cross.")},
+        {"zoom_mode", "stage", Row::Choice, QT_TRANSLATE_NOOP("App::Settings", "&Zoom:"),
+         QT_TRANSLATE_NOOP("App::Settings", "The steps in which the stage grows and shrinks"), 0, 0, nullptr, nullptr, zoomTables},
+        {"zoom_center", "stage", Row::Choice, QT_TRANSLATE_NOOP("App::Settings", "Zoom abo&ut:"),
+         QT_TRANSLATE_NOOP("App::Settings", "The place that stays where it is"), 0, 0, nullptr, nullptr, zoomCentres},
+        {"onion_effect", "stage", Row::Choice, QT_TRANSLATE_NOOP("App::Settings", "Onion s&kin:"),
+         QT_TRANSLATE_NOOP("App::Settings", "How another frame is shown behind the present one"), 0, 0, nullptr, nullptr, onionEffects},
+        {"onion_opacity", "stage", Row::Share, QT_TRANSLATE_NOOP("App::Settings", "Its opacit&y:"),
+         QT_TRANSLATE_NOOP("App::Settings", "How much of the other frame is seen"), 0, 100},
+        {"sprite_over_guides", "stage", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "&Sprites hide guides"),
+         QT_TRANSLATE_NOOP("App::Settings", "Guides are drawn behind sprites, and the mouse finds sprites first")},
+        {"contact_over_cross", "stage", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "Boxes &hide crosses"),
+         QT_TRANSLATE_NOOP("App::Settings", "Boxes are drawn over crosses, and the mouse finds boxes first")},
     };
     // clang-format on
     return table;

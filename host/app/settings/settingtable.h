@@ -20,10 +20,12 @@ struct SettingRow
     enum Kind {
         Switch,      ///< on or off
         Number,      ///< from `minimum` to `maximum`
+        Share,       ///< from 0 to 1, shown as percents from `minimum` to `maximum`
         Choice,      ///< one of `choices()`
-        Colour,      ///< none for that of the theme
+        Colour,      ///< none for that of the theme; without `lowest` there always is one
         FontFamily,  ///< empty for the desktop's
-        Folder       ///< empty for none
+        Folder,      ///< empty for none
+        Picture      ///< a file; empty for none
     };
 
     const char* key;
