@@ -28,6 +28,7 @@ PaletteGrid::PaletteGrid(QWidget* parent) : QWidget(parent)
 void PaletteGrid::setColors(const Zorv::RGBA* colors)
 {
     m_rows = 0;
+    m_marked = -1;
     if (colors) {
         std::copy(colors, colors + 256, m_colors);
         m_rows = 256 / Columns;
@@ -38,6 +39,12 @@ void PaletteGrid::setColors(const Zorv::RGBA* colors)
         }
     }
     updateGeometry();
+    update();
+}
+
+void PaletteGrid::setMarked(int entry)
+{
+    m_marked = entry < m_rows * Columns ? entry : -1;
     update();
 }
 
@@ -61,6 +68,11 @@ QPoint PaletteGrid::corner() const
     return {(width() - Columns * cell()) / 2, (height() - m_rows * cell()) / 2};
 }
 
+QRect PaletteGrid::cellOf(int entry) const
+{
+    return {corner() + QPoint(entry % Columns, entry / Columns) * cell(), QSize(cell(), cell())};
+}
+
 int PaletteGrid::entryAt(QPoint place) const
 {
     const QPoint offset = place - corner();
@@ -78,12 +90,23 @@ void PaletteGrid::paintEvent(QPaintEvent*)
     drawChequer(&painter, grid);
     for (int i = 0; i < m_rows * Columns; ++i) {
         const Zorv::RGBA color = m_colors[i];
-        const QPoint place(i % Columns * cell(), i / Columns * cell());
-        painter.fillRect(QRect(grid.topLeft() + place, QSize(cell(), cell())),
-                         QColor(color.r, color.g, color.b, color.a));
+        painter.fillRect(cellOf(i), QColor(color.r, color.g, color.b, color.a));
     }
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(grid.adjusted(-1, -1, 0, 0));
+    if (m_marked >= 0) {
+        drawMark(&painter);
+    }
+}
+
+/// Two frames, one of which stands out from any colour.
+void PaletteGrid::drawMark(QPainter* painter) const
+{
+    const QRect frame = cellOf(m_marked).adjusted(-2, -2, 1, 1);
+    painter->setPen(Qt::black);
+    painter->drawRect(frame);
+    painter->setPen(Qt::white);
+    painter->drawRect(frame.adjusted(1, 1, -1, -1));
 }
 
 bool PaletteGrid::event(QEvent* event)

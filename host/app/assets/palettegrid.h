@@ -17,6 +17,10 @@ public:
     /// 256 colours, or null for none.
     void setColors(const Zorv::RGBA* colors);
 
+    /// Frames one entry; -1 for none. A new palette has none.
+    void setMarked(int entry);
+    int marked() const { return m_marked; }
+
     /// The entry at a place of the widget, -1 beside the grid.
     int entryAt(QPoint place) const;
 
@@ -32,9 +36,12 @@ protected:
 private:
     int cell() const;
     QPoint corner() const;
+    QRect cellOf(int entry) const;
+    void drawMark(QPainter* painter) const;
 
     Zorv::RGBA m_colors[256];
     int m_rows = 0;  // 0 for no palette
+    int m_marked = -1;
 };
 
 }  // namespace App

@@ -114,6 +114,11 @@ bool SpritePanel::showSprite(int group, int number)
     return row >= 0;
 }
 
+void SpritePanel::markColour(int entry)
+{
+    m_palette->setMarked(entry);
+}
+
 void SpritePanel::updateCurrent()
 {
     const FamilySprite* sprite = currentSprite();

@@ -44,6 +44,9 @@ public:
     /// Makes the sprite of that group and number the current one. False if there is none.
     bool showSprite(int group, int number);
 
+    /// Marks an entry of the palette of the current sprite, until another sprite is selected.
+    void markColour(int entry);
+
 signals:
     /// The current row, or anything in the collection.
     void changed();
