@@ -1,9 +1,52 @@
 #include "graphics/stage/graphicsrenderer.h"
 
 #include "cache/spriteprovider.h"
+#include "code/codedoc/contactboxescode.h"
 #include "graphics/stage/graphicsrenderer_p.h"
 
+#include <algorithm>
+
 namespace Zorv {
+
+namespace {
+
+// The keys of what a provider tells of a sprite.
+enum SpriteKey : unsigned {
+    PositionKey = 0,
+    ModeKey = 1,
+    ParentKey = 2,
+    SizeKey = 3,
+    ScaleKey = 4,
+    FlipKey = 5,
+    RotationKey = 6,
+    LayerKey = 7
+};
+
+/// Gives whether `field` was another value.
+template <typename T>
+bool replace(T& field, const T& value)
+{
+    const bool isNew = !(field == value);
+    field = value;
+    return isNew;
+}
+
+bool isBoxType(ContactBoxCode::BoxType type)
+{
+    return type >= 1 && type <= BoxTypes;
+}
+
+/// Of 0 to 1; what is no number is 1.
+float boundedOpacity(float opacity)
+{
+    return opacity >= 0 ? std::min(opacity, 1.0F) : opacity < 0 ? 0.0F : 1.0F;
+}
+
+}  // namespace
+
+QPoint GraphicsRendererPrivate::m_origin;
+bool GraphicsRendererPrivate::m_sprOverGuides = false;
+bool GraphicsRendererPrivate::m_contactOverCross = false;
 
 GraphicsRenderer::GraphicsRenderer(QObject* parent)
     : QObject(parent), d(std::make_unique<GraphicsRendererPrivate>(this))
@@ -12,104 +55,245 @@ GraphicsRenderer::GraphicsRenderer(QObject* parent)
 
 GraphicsRenderer::~GraphicsRenderer() = default;
 
-void GraphicsRenderer::setVisibility(bool, bool, bool, bool, bool, bool, bool) {}
+void GraphicsRenderer::setVisibility(bool cross0, bool cross1, bool cross2, bool boxes1,
+                                     bool boxes2, bool rulers, bool guides)
+{
+    bool isNew = replace(d->crosses[0].visible, cross0);
+    isNew |= replace(d->crosses[1].visible, cross1);
+    isNew |= replace(d->crosses[2].visible, cross2);
+    isNew |= replace(d->contactBoxes[0].visible, boxes1);
+    isNew |= replace(d->contactBoxes[1].visible, boxes2);
+    isNew |= replace(d->rulersVisible, rulers);
+    isNew |= replace(d->guidesVisible, guides);
+    if (isNew) {
+        update();
+    }
+}
 
-void GraphicsRenderer::setPriority(bool, bool) {}
+void GraphicsRenderer::setPriority(bool spriteOverGuides, bool contactOverCross)
+{
+    GraphicsRendererPrivate::m_sprOverGuides = spriteOverGuides;
+    GraphicsRendererPrivate::m_contactOverCross = contactOverCross;
+    update();
+}
 
 bool GraphicsRenderer::spriteOverGuides() const
 {
-    return false;
+    return GraphicsRendererPrivate::m_sprOverGuides;
 }
 
 bool GraphicsRenderer::contactOverCross() const
 {
-    return false;
-}
-
-void GraphicsRenderer::setBackground(QColor, QColor, BackgroundType, QPoint, const QString&, QSize)
-{
-}
-
-void GraphicsRenderer::setCrossHair(CrossHairType, const QString&, const QString&, const QString&)
-{
+    return GraphicsRendererPrivate::m_contactOverCross;
 }
 
 QPoint GraphicsRenderer::origin() const
 {
-    return QPoint{};
+    return GraphicsRendererPrivate::m_origin;
 }
 
-void GraphicsRenderer::setOrigin(QPoint) {}
+void GraphicsRenderer::setOrigin(QPoint origin)
+{
+    GraphicsRendererPrivate::m_origin = origin;
+    update();
+}
 
-void GraphicsRenderer::centralize() {}
+void GraphicsRenderer::centralize()
+{
+    setOrigin(d->widgetCentre);
+}
 
 QPoint GraphicsRenderer::guideLines() const
 {
-    return QPoint{};
+    return d->guideLines;
 }
 
-void GraphicsRenderer::setGuideLines(QPoint) {}
+void GraphicsRenderer::setGuideLines(QPoint guides)
+{
+    if (replace(d->guideLines, guides)) {
+        update();
+    }
+}
 
-void GraphicsRenderer::setSprites(SpriteProvider*) {}
+void GraphicsRenderer::setSprites(SpriteProvider* provider)
+{
+    if (SpriteProvider* old = d->spriteProvider) {
+        disconnect(old, nullptr, this, nullptr);
+    }
+    d->spriteProvider = provider;
+    if (provider) {
+        connect(provider, &SpriteProvider::changed, this, &GraphicsRenderer::spritesChanged);
+        connect(provider, &SpriteProvider::changedAt, this, &GraphicsRenderer::spriteChangedAt);
+        // The slots take the sprites alone; the signals are to be seen.
+        connect(provider, &SpriteProvider::changed, this, [this] { update(); });
+        connect(provider, &SpriteProvider::changedAt, this, [this] { update(); });
+        // Its sprites may go with it.
+        connect(provider, &QObject::destroyed, this, [this] {
+            d->spriteItems.clear();
+            update();
+        });
+    }
+    spritesChanged();
+    update();
+}
 
 SpriteProvider* GraphicsRenderer::spriteProvider() const
 {
-    return nullptr;
+    return d->spriteProvider;
 }
 
-void GraphicsRenderer::setupContactBoxes(QColor, QColor, float) {}
-
-void GraphicsRenderer::setContactBoxes(ContactBoxCode::BoxType, ContactBoxesCode*) {}
-
-ContactBoxesCode* GraphicsRenderer::boxes(ContactBoxCode::BoxType) const
+void GraphicsRenderer::spritesChanged()
 {
-    return nullptr;
+    const unsigned count = d->spriteProvider ? d->spriteProvider->count() : 0;
+    d->spriteItems.resize(static_cast<int>(count));
+    for (unsigned index = 0; index < count; ++index) {
+        spriteChangedAt(index);
+    }
 }
 
-void GraphicsRenderer::setOnionSkin(bool, OnionEffect, float) {}
-
-void GraphicsRenderer::setOnionSkinSprite(const Sprite*, QPoint) {}
-
-void GraphicsRenderer::setZoomMode(ZoomMode) {}
-
-void GraphicsRenderer::setZoomTable(unsigned char) {}
-
-void GraphicsRenderer::setZoomLevel(unsigned char) {}
-
-float GraphicsRenderer::zoom() const
+void GraphicsRenderer::spriteChangedAt(unsigned int index)
 {
-    return 1;
+    const SpriteProvider* provider = d->spriteProvider;
+    if (!provider || index >= static_cast<unsigned>(d->spriteItems.size())) {
+        return;
+    }
+    SpriteItem item = d->spriteItems[static_cast<int>(index)];
+    const auto take = [provider, index](unsigned key, auto& field) {
+        using Field = std::decay_t<decltype(field)>;
+        const QVariant value = provider->property(index, key);
+        if (value.isValid()) {
+            field = value.value<Field>();
+        }
+    };
+    take(PositionKey, item.position);
+    take(ModeKey, item.mode);
+    take(ParentKey, item.parent);
+    take(SizeKey, item.size);
+    take(ScaleKey, item.scale);
+    take(FlipKey, item.flip);
+    take(RotationKey, item.rotation);
+    take(LayerKey, item.layer);
+    item.sprite = provider->at(index);
+    // A provider may change its list when it is asked.
+    if (index < static_cast<unsigned>(d->spriteItems.size())) {
+        d->spriteItems[static_cast<int>(index)] = item;
+    }
 }
 
-void GraphicsRenderer::addZoom() {}
-
-void GraphicsRenderer::subZoom() {}
-
-void GraphicsRenderer::zoomActual() {}
-
-int GraphicsRenderer::indexOfItem(ItemType, void*) const
+void GraphicsRenderer::setupContactBoxes(QColor first, QColor second, float opacity)
 {
-    return 0;
+    ContactBoxes::color[0] = first;
+    ContactBoxes::color[1] = second;
+    ContactBoxes::opacity = boundedOpacity(opacity);
+    update();
 }
 
-QPoint GraphicsRenderer::itemPosition(ItemType, unsigned int) const
+void GraphicsRenderer::setContactBoxes(ContactBoxCode::BoxType type, ContactBoxesCode* code)
 {
-    return QPoint{};
+    if (!isBoxType(type)) {
+        return;
+    }
+    // Type 1 is set first of all, and so begins the selection anew.
+    if (type == ContactBoxCode::Attack) {
+        d->hasSelection = false;
+        d->resetSelectionRect();
+    }
+    ContactBoxes& boxes = d->contactBoxes[static_cast<size_t>(type - 1)];
+    boxes.code = code;
+    boxes.items.resize(code ? code->count() : 0);
+    int index = 0;
+    for (ContactItem& item : boxes.items) {
+        item.box = code->at(index++);
+        const QRect rect = item.box ? item.box->rect() : QRect();
+        if (item.selected && item.box && item.rect() == rect) {
+            d->hasSelection = true;
+            d->updateBoxSelection(rect);
+        } else {
+            item.selected = false;
+            item.setRect(rect);
+        }
+    }
+    update();
 }
 
-void GraphicsRenderer::setItemPosition(ItemType, QPoint, unsigned int) {}
+ContactBoxesCode* GraphicsRenderer::boxes(ContactBoxCode::BoxType type) const
+{
+    return isBoxType(type) ? d->contactBoxes[static_cast<size_t>(type - 1)].code : nullptr;
+}
 
-void GraphicsRenderer::setItemPositionMode(ItemType, unsigned char, unsigned int, unsigned int) {}
+void GraphicsRenderer::setOnionSkin(bool enabled, OnionEffect effect, float opacity)
+{
+    const float bounded = boundedOpacity(opacity);
+    const bool isOther = effect != d->onionEffect || bounded != d->onionOpacity;
+    if (enabled == d->onionEnabled && !(enabled && isOther)) {
+        return;
+    }
+    d->onionEnabled = enabled;
+    d->onionEffect = effect;
+    d->onionOpacity = bounded;
+    update();
+}
 
-void GraphicsRenderer::mouseWheel(int) {}
+void GraphicsRenderer::setOnionSkinSprite(const Sprite* sprite, QPoint offset)
+{
+    // The offset alone is not looked at: callers that step through equal sprites rely on it.
+    if (sprite == d->onionSprite) {
+        return;
+    }
+    d->onionSprite = sprite;
+    d->onionOffset = offset;
+    update();
+}
 
-void GraphicsRenderer::sizeChanged(int, int) {}
+int GraphicsRenderer::indexOfItem(ItemType type, void* item) const
+{
+    if (type >= MainCross && type <= ExtraCross) {
+        return type;
+    }
+    if (type != SpriteType) {
+        return -1;
+    }
+    const QVector<SpriteItem>& items = d->spriteItems;
+    const auto found = std::find_if(items.begin(), items.end(), [item](const SpriteItem& sprite) {
+        return sprite.sprite == item;
+    });
+    return found == items.end() ? -1 : static_cast<int>(found - items.begin());
+}
+
+QPoint GraphicsRenderer::itemPosition(ItemType type, unsigned int index) const
+{
+    const QPoint* position = d->positionOf(type, index);
+    return position ? *position : QPoint();
+}
+
+void GraphicsRenderer::setItemPosition(ItemType type, QPoint position, unsigned int index)
+{
+    QPoint* field = d->positionOf(type, index);
+    if (field && replace(*field, position)) {
+        update();
+    }
+}
+
+void GraphicsRenderer::setItemPositionMode(ItemType type, unsigned char mode, unsigned int parent,
+                                           unsigned int index)
+{
+    const auto set = [&](unsigned char& modeField, unsigned short& parentField) {
+        modeField = mode;
+        parentField = static_cast<unsigned short>(std::min(parent, 0xffffU));
+        update();
+    };
+    if (type == ContactBoxesType) {
+        set(d->contactMode, d->contactParent);
+    } else if (type == SpriteType && index < static_cast<unsigned>(d->spriteItems.size())) {
+        SpriteItem& item = d->spriteItems[static_cast<int>(index)];
+        set(item.mode, item.parent);
+    } else if (type >= MainCross && type <= ExtraCross) {
+        Cross& cross = d->crosses[static_cast<size_t>(type)];
+        set(cross.mode, cross.parent);
+    }
+}
 
 void GraphicsRenderer::render(QPainter&) {}
-
-void GraphicsRenderer::spriteChangedAt(unsigned int) {}
-
-void GraphicsRenderer::spritesChanged() {}
 
 void GraphicsRenderer::renderSprite(QPoint, QPoint, QSize, float, unsigned char, Sprite*,
                                     unsigned int)
@@ -119,6 +303,17 @@ void GraphicsRenderer::renderSprite(QPoint, QPoint, QSize, float, unsigned char,
 void GraphicsRenderer::renderOnionSkinSprite(const Sprite*, QPoint, QPoint, QSize, float,
                                              OnionEffect)
 {
+}
+
+QPoint* GraphicsRendererPrivate::positionOf(ItemType type, unsigned index)
+{
+    if (type == GraphicsRenderer::SpriteType && index < unsigned(spriteItems.size())) {
+        return &spriteItems[int(index)].position;
+    }
+    if (type >= GraphicsRenderer::MainCross && type <= GraphicsRenderer::ExtraCross) {
+        return &crosses[size_t(type)].position;
+    }
+    return nullptr;
 }
 
 }  // namespace Zorv

@@ -29,15 +29,25 @@ public:
     static Background& background();
     static QPixmap& crossImage(Cross::Type type);
 
+    // graphicsrenderer.cpp. Null for what has none.
+    QPoint* positionOf(ItemType type, unsigned index);
+
     // stagepositions.cpp. `out` becomes the element of the parent, for what cannot be moved itself.
     QPoint posFromMode(unsigned char mode, QPoint position, unsigned parent,
                        RenderElement* out = nullptr);
     QPoint calcPos(ItemType type, unsigned index, RenderElement* out = nullptr);
     QPoint anchorOf(unsigned char mode, unsigned parent, RenderElement* out = nullptr);
+    QPoint anchorOfItem(ItemType type, unsigned index, RenderElement* out = nullptr);
     QRect crossRect(int number, RenderElement* out = nullptr);
     QRect contactRect(const ContactItem& item, QPoint anchor) const;
     int scaled(int length) const;
     QPoint scaled(QPoint point) const;
+
+    struct Place;
+    Place placeOf(ItemType type, unsigned index);
+    QPoint ownPart(const Place& place) const;
+    QPoint alongParents(unsigned char mode, unsigned parent);
+    void replaceByParent(unsigned char mode, unsigned parent, RenderElement* out);
 
     // stagezoom.cpp
     void applyZoomLevel(int level);
@@ -98,6 +108,7 @@ public:
     QVector<SpriteItem> spriteItems;
     QPointer<SpriteProvider> spriteProvider;
     std::array<ContactBoxes, BoxTypes> contactBoxes;
+    quint64 walks = 0;  // searches along parents
 
     QRect selectionStart;
     QRect selectionRect{QPoint(7777, 7777), QPoint(-1, -1)};

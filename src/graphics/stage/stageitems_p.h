@@ -1,5 +1,7 @@
 #pragma once
 
+#include "zorv_export.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QPixmap>
@@ -24,18 +26,19 @@ struct Cross
     unsigned char mode = 13;
     unsigned short parent = 0;
     QPoint position;
+    quint64 walk = 0;  // the last search along parents that met it
 };
 
 /// The factors of the zoom levels, and which row of them is in force.
-struct Zoom
+struct ZORV_EXPORT Zoom
 {
     static int mode;
     static unsigned char table;
 };
 
 constexpr int ZoomLevels = 12;
-extern const float s_zoomTable[2][ZoomLevels];
-extern const unsigned char s_zoomActual[2];
+ZORV_EXPORT extern const float s_zoomTable[2][ZoomLevels];
+ZORV_EXPORT extern const unsigned char s_zoomActual[2];
 
 /// What a provider told of a sprite.
 struct SpriteItem
@@ -49,10 +52,11 @@ struct SpriteItem
     unsigned char flip = 0;
     float rotation = 0;  // degrees, clockwise on the screen
     Sprite* sprite = nullptr;
+    quint64 walk = 0;  // as of a cross
 };
 
 /// The stage's working copy of a box, in model units. It differs from the text during a drag.
-struct ContactItem
+struct ZORV_EXPORT ContactItem
 {
     ContactBoxCode* box = nullptr;  // null while it is being drawn
     double x = 0;
@@ -67,7 +71,7 @@ struct ContactItem
 };
 
 /// The boxes of one kind.
-struct ContactBoxes
+struct ZORV_EXPORT ContactBoxes
 {
     static QColor color[2];
     static float opacity;

@@ -1,0 +1,137 @@
+#include "graphics/stage/graphicsrenderer_p.h"
+#include "graphics/stage/positionmode.h"
+#include "graphics/stage/rounding_p.h"
+
+namespace Zorv {
+
+/// What the place of a cross or sprite follows from.
+struct GraphicsRendererPrivate::Place
+{
+    QPoint position;
+    unsigned char mode = AbsoluteAnchor;
+    unsigned parent = 0;
+    quint64* walk = nullptr;  // null: there is no such item
+};
+
+int GraphicsRendererPrivate::scaled(int length) const
+{
+    return stageLength(length, zoom);
+}
+
+QPoint GraphicsRendererPrivate::scaled(QPoint point) const
+{
+    return {stageLength(point.x(), zoom), stageLength(point.y(), zoom)};
+}
+
+GraphicsRendererPrivate::Place GraphicsRendererPrivate::placeOf(ItemType type, unsigned index)
+{
+    if (type == GraphicsRenderer::SpriteType) {
+        if (index >= unsigned(spriteItems.size())) {
+            return {};
+        }
+        SpriteItem& item = spriteItems[int(index)];
+        return {scaledPoint(item.position, item.scale), item.mode, item.parent, &item.walk};
+    }
+    if (unsigned(type) >= crosses.size()) {
+        return {};
+    }
+    Cross& cross = crosses[unsigned(type)];
+    return {cross.position, cross.mode, cross.parent, &cross.walk};
+}
+
+QPoint GraphicsRendererPrivate::ownPart(const Place& place) const
+{
+    return positionMode(place.mode) == AbsoluteAnchor ? place.position : scaled(place.position);
+}
+
+QPoint GraphicsRendererPrivate::alongParents(unsigned char mode, unsigned parent)
+{
+    QPoint sum;
+    for (;;) {
+        const int anchor = positionMode(mode);
+        if (anchor == OriginAnchor) {
+            return stageSum(sum, m_origin);
+        }
+        if (anchor != CrossAnchor && anchor != SpriteAnchor) {
+            return sum;
+        }
+        const Place place = anchor == SpriteAnchor ? placeOf(GraphicsRenderer::SpriteType, parent)
+                            : parent < crosses.size() ? placeOf(ItemType(parent), 0)
+                                                      : Place{};
+        if (!place.walk) {
+            return sum;
+        }
+        // A parent that is met again ends the chain, as if it were relative to nothing.
+        if (*place.walk == walks) {
+            return stageSum(sum, place.position);
+        }
+        *place.walk = walks;
+        sum = stageSum(sum, ownPart(place));
+        mode = place.mode;
+        parent = place.parent;
+    }
+}
+
+void GraphicsRendererPrivate::replaceByParent(unsigned char mode, unsigned parent,
+                                              RenderElement* out)
+{
+    if (!out) {
+        return;
+    }
+    *out = GraphicsRenderer::StageElement;
+    const int anchor = positionMode(mode);
+    if (anchor == CrossAnchor && parent < crosses.size()) {
+        *out = RenderElement(GraphicsRenderer::MainCrossElement + parent);
+    } else if (anchor == SpriteAnchor && parent < unsigned(spriteItems.size())) {
+        *out = GraphicsRenderer::SpriteElement;
+        itemIndex = int(parent);
+    }
+}
+
+QPoint GraphicsRendererPrivate::posFromMode(unsigned char mode, QPoint position, unsigned parent,
+                                            RenderElement* out)
+{
+    replaceByParent(mode, parent, out);
+    ++walks;
+    return stageSum(position, alongParents(mode, parent));
+}
+
+QPoint GraphicsRendererPrivate::anchorOf(unsigned char mode, unsigned parent, RenderElement* out)
+{
+    return posFromMode(mode, {}, parent, out);
+}
+
+QPoint GraphicsRendererPrivate::anchorOfItem(ItemType type, unsigned index, RenderElement* out)
+{
+    const Place place = placeOf(type, index);
+    replaceByParent(place.mode, place.parent, out);
+    ++walks;
+    if (place.walk) {
+        *place.walk = walks;
+    }
+    return alongParents(place.mode, place.parent);
+}
+
+QPoint GraphicsRendererPrivate::calcPos(ItemType type, unsigned index, RenderElement* out)
+{
+    return stageSum(ownPart(placeOf(type, index)), anchorOfItem(type, index, out));
+}
+
+QRect GraphicsRendererPrivate::crossRect(int number, RenderElement* out)
+{
+    const auto type = static_cast<ItemType>(number);
+    const QSize image = crossImage(static_cast<Cross::Type>(number)).size();
+    const QSize size(scaled(image.width()), scaled(image.height()));
+    const QPoint middle = calcPos(type, 0, out);
+    return {middle - QPoint(size.width() / 2, size.height() / 2), size};
+}
+
+QRect GraphicsRendererPrivate::contactRect(const ContactItem& item, QPoint anchor) const
+{
+    const int left = stageInt(qint64(roundedInt(item.x * zoom)) + anchor.x());
+    const int top = stageInt(qint64(roundedInt(item.y * zoom)) + anchor.y());
+    return {QPoint(left, top), QPoint(left - 1 + stageInt(roundedInt(item.width * zoom)),
+                                      top - 1 + stageInt(roundedInt(item.height * zoom)))};
+}
+
+}  // namespace Zorv

@@ -1,0 +1,101 @@
+#include "graphics/stage/graphicsrenderer.h"
+#include "graphics/stage/graphicsrenderer_p.h"
+#include "graphics/stage/positionmode.h"
+#include "graphics/stage/rounding_p.h"
+
+#include <algorithm>
+
+namespace Zorv {
+
+namespace {
+
+constexpr int HighestLevel = ZoomLevels - 1;
+constexpr int HighestLevelOfWheel = 9;
+constexpr int LowestLevelByNumber = 255;
+constexpr int WheelStep = 120;
+
+}  // namespace
+
+void GraphicsRenderer::setZoomMode(ZoomMode mode)
+{
+    Zoom::mode = mode;
+}
+
+void GraphicsRenderer::setZoomTable(unsigned char table)
+{
+    Zoom::table = table == 0 ? 0 : 1;
+}
+
+void GraphicsRenderer::setZoomLevel(unsigned char level)
+{
+    d->applyZoomLevel(level == LowestLevelByNumber ? 0 : std::min<int>(level, HighestLevel));
+}
+
+unsigned char GraphicsRenderer::zoomLevel() const
+{
+    return d->zoomLevel;
+}
+
+float GraphicsRenderer::zoom() const
+{
+    return d->zoom;
+}
+
+void GraphicsRenderer::addZoom()
+{
+    d->applyZoomLevel(std::min(d->zoomLevel + 1, HighestLevel));
+}
+
+void GraphicsRenderer::subZoom()
+{
+    d->applyZoomLevel(std::max(d->zoomLevel - 1, 0));
+}
+
+void GraphicsRenderer::zoomActual()
+{
+    d->applyZoomLevel(s_zoomActual[Zoom::table]);
+}
+
+// The wheel ends below the highest levels, which are for the keys: from there it goes back.
+void GraphicsRenderer::mouseWheel(int delta)
+{
+    const int level = d->zoomLevel + delta / WheelStep;
+    d->applyZoomLevel(std::clamp(level, 0, HighestLevelOfWheel));
+}
+
+void GraphicsRendererPrivate::applyZoomLevel(int level)
+{
+    zoomLevel = static_cast<unsigned char>(level);
+    zoom = s_zoomTable[Zoom::table][level];
+    zoomChanged();
+    previousZoom = zoom;
+    q->update();
+}
+
+void GraphicsRendererPrivate::zoomChanged()
+{
+    const QPoint center = Zoom::mode != GraphicsRenderer::ZoomAboutCenter ? m_origin : widgetCentre;
+    const auto about = [this](int position, int middle) {
+        const float distance = static_cast<float>(qint64(position) - middle) / previousZoom;
+        return stageInt(qint64(middle) + stageLength(roundedInt(distance), zoom));
+    };
+    const auto move = [&](auto& item) {
+        if (positionMode(item.mode) == AbsoluteAnchor) {
+            item.position = {about(item.position.x(), center.x()),
+                             about(item.position.y(), center.y())};
+        }
+    };
+    std::for_each(crosses.begin(), crosses.end(), move);
+    std::for_each(spriteItems.begin(), spriteItems.end(), move);
+    if (positionMode(contactMode) != AbsoluteAnchor) {
+        return;
+    }
+    for (ContactBoxes& boxes : contactBoxes) {
+        for (ContactItem& item : boxes.items) {
+            item.x = (item.x - center.x()) / previousZoom * zoom + center.x();
+            item.y = (item.y - center.y()) / previousZoom * zoom + center.y();
+        }
+    }
+}
+
+}  // namespace Zorv
