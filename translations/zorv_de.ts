@@ -901,6 +901,61 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>App::OnionControls</name>
+    <message>
+        <source>Previous frame</source>
+        <translation>Vorheriges Einzelbild</translation>
+    </message>
+    <message>
+        <source>Next frame</source>
+        <translation>Nächstes Einzelbild</translation>
+    </message>
+    <message>
+        <source>First frame</source>
+        <translation>Erstes Einzelbild</translation>
+    </message>
+    <message>
+        <source>Frame number</source>
+        <translation>Einzelbild Nummer</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>Wie es ist</translation>
+    </message>
+    <message>
+        <source>Shades of grey</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Lighter</source>
+        <translation>Heller</translation>
+    </message>
+    <message>
+        <source>Darker</source>
+        <translation>Dunkler</translation>
+    </message>
+    <message>
+        <source>Show another frame behind this one</source>
+        <translation>Ein anderes Einzelbild hinter diesem zeigen</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <translation>Einzelbild:</translation>
+    </message>
+    <message>
+        <source>Effect:</source>
+        <translation>Effekt:</translation>
+    </message>
+    <message>
+        <source>Opacity:</source>
+        <translation>Deckkraft:</translation>
+    </message>
+    <message>
+        <source>Number of the frame, from 1</source>
+        <translation>Nummer des Einzelbilds, von 1 an</translation>
+    </message>
+</context>
+<context>
     <name>App::OutputPanel</name>
     <message>
         <source>Copy</source>
@@ -1422,6 +1477,218 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Memory is faster; a temporary file leaves memory to others. It counts from the next file that is opened.</source>
         <translation>Der Speicher ist schneller; eine temporäre Datei lässt ihn anderen. Es gilt ab der nächsten Datei, die geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>As at first</source>
+        <translation>Wie am Anfang</translation>
+    </message>
+    <message>
+        <source>The two colours</source>
+        <translation>Die zwei Farben</translation>
+    </message>
+    <message>
+        <source>A floor with marks</source>
+        <translation>Ein Boden mit Marken</translation>
+    </message>
+    <message>
+        <source>A picture</source>
+        <translation>Ein Bild</translation>
+    </message>
+    <message>
+        <source>Small crosses</source>
+        <translation>Kleine Kreuze</translation>
+    </message>
+    <message>
+        <source>Large crosses</source>
+        <translation>Große Kreuze</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Fine, up to 4 times</source>
+        <translation>Fein, bis 4-fach</translation>
+    </message>
+    <message>
+        <source>Whole, up to 10 times</source>
+        <translation>Ganzzahlig, bis 10-fach</translation>
+    </message>
+    <message>
+        <source>The origin</source>
+        <translation>Den Ursprung</translation>
+    </message>
+    <message>
+        <source>The middle of the stage</source>
+        <translation>Die Mitte der Bühne</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation>Wie es ist</translation>
+    </message>
+    <message>
+        <source>In shades of grey</source>
+        <translation>In Graustufen</translation>
+    </message>
+    <message>
+        <source>Lighter</source>
+        <translation>Heller</translation>
+    </message>
+    <message>
+        <source>Darker</source>
+        <translation>Dunkler</translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation>Bühne</translation>
+    </message>
+    <message>
+        <source>Colour at the &amp;top:</source>
+        <translation>Farbe &amp;oben:</translation>
+    </message>
+    <message>
+        <source>The ground of the stage goes from this colour to the next. Rulers write in its inverse.</source>
+        <translation>Der Grund der Bühne geht von dieser Farbe in die nächste über. Lineale schreiben in ihrer Umkehrung.</translation>
+    </message>
+    <message>
+        <source>Colour at the &amp;bottom:</source>
+        <translation>Farbe &amp;unten:</translation>
+    </message>
+    <message>
+        <source>The ground of the stage at its lower edge</source>
+        <translation>Der Grund der Bühne an ihrem unteren Rand</translation>
+    </message>
+    <message>
+        <source>Back&amp;ground:</source>
+        <translation>&amp;Hintergrund:</translation>
+    </message>
+    <message>
+        <source>What stands on the ground, behind the sprites</source>
+        <translation>Was auf dem Grund steht, hinter den Sprites</translation>
+    </message>
+    <message>
+        <source>&amp;Picture of the background:</source>
+        <translation>&amp;Bild des Hintergrunds:</translation>
+    </message>
+    <message>
+        <source>Drawn behind the sprites, where the background is a picture</source>
+        <translation>Hinter den Sprites gezeichnet, wenn der Hintergrund ein Bild ist</translation>
+    </message>
+    <message>
+        <source>Its left &amp;edge:</source>
+        <translation>Sein &amp;linker Rand:</translation>
+    </message>
+    <message>
+        <source>Where the picture begins, from the origin of the stage</source>
+        <translation>Wo das Bild beginnt, vom Ursprung der Bühne aus</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Its top e&amp;dge:</source>
+        <translation>Sein ob&amp;erer Rand:</translation>
+    </message>
+    <message>
+        <source>&amp;Attack boxes:</source>
+        <translation>&amp;Angriffsboxen:</translation>
+    </message>
+    <message>
+        <source>The colour of boxes that hit</source>
+        <translation>Die Farbe der Boxen, die treffen</translation>
+    </message>
+    <message>
+        <source>B&amp;ody boxes:</source>
+        <translation>&amp;Körperboxen:</translation>
+    </message>
+    <message>
+        <source>The colour of boxes that can be hit</source>
+        <translation>Die Farbe der Boxen, die getroffen werden können</translation>
+    </message>
+    <message>
+        <source>&amp;Inside of boxes:</source>
+        <translation>&amp;Inneres der Boxen:</translation>
+    </message>
+    <message>
+        <source>How much of a box hides what is behind it</source>
+        <translation>Wie stark eine Box verdeckt, was hinter ihr ist</translation>
+    </message>
+    <message>
+        <source>C&amp;rosses:</source>
+        <translation>K&amp;reuze:</translation>
+    </message>
+    <message>
+        <source>How axes are marked</source>
+        <translation>Wie Achsen markiert werden</translation>
+    </message>
+    <message>
+        <source>Axis of the a&amp;nimation:</source>
+        <translation>Achse der A&amp;nimation:</translation>
+    </message>
+    <message>
+        <source>Its middle stands on the axis. Without one it is the small cross.</source>
+        <translation>Seine Mitte steht auf der Achse. Ohne Bild ist es das kleine Kreuz.</translation>
+    </message>
+    <message>
+        <source>Axis o&amp;f the sprite:</source>
+        <translation>Achse des &amp;Sprites:</translation>
+    </message>
+    <message>
+        <source>E&amp;xtra cross:</source>
+        <translation>E&amp;xtrakreuz:</translation>
+    </message>
+    <message>
+        <source>Its middle stands at the place. Without one it is the small cross.</source>
+        <translation>Seine Mitte steht an der Stelle. Ohne Bild ist es das kleine Kreuz.</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom:</source>
+        <translation>&amp;Zoom:</translation>
+    </message>
+    <message>
+        <source>The steps in which the stage grows and shrinks</source>
+        <translation>Die Schritte, in denen die Bühne wächst und schrumpft</translation>
+    </message>
+    <message>
+        <source>Zoom abo&amp;ut:</source>
+        <translation>Zoo&amp;m um:</translation>
+    </message>
+    <message>
+        <source>The place that stays where it is</source>
+        <translation>Die Stelle, die bleibt, wo sie ist</translation>
+    </message>
+    <message>
+        <source>Onion s&amp;kin:</source>
+        <translation>Z&amp;wiebelhaut:</translation>
+    </message>
+    <message>
+        <source>How another frame is shown behind the present one</source>
+        <translation>Wie ein anderes Einzelbild hinter dem jetzigen gezeigt wird</translation>
+    </message>
+    <message>
+        <source>Its opacit&amp;y:</source>
+        <translation>Ihre &amp;Deckkraft:</translation>
+    </message>
+    <message>
+        <source>How much of the other frame is seen</source>
+        <translation>Wie viel vom anderen Einzelbild zu sehen ist</translation>
+    </message>
+    <message>
+        <source>&amp;Sprites hide guides</source>
+        <translation>Sprites &amp;verdecken Hilfslinien</translation>
+    </message>
+    <message>
+        <source>Guides are drawn behind sprites, and the mouse finds sprites first</source>
+        <translation>Hilfslinien werden hinter Sprites gezeichnet, und die Maus findet Sprites zuerst</translation>
+    </message>
+    <message>
+        <source>Boxes &amp;hide crosses</source>
+        <translation>Boxen verde&amp;cken Kreuze</translation>
+    </message>
+    <message>
+        <source>Boxes are drawn over crosses, and the mouse finds boxes first</source>
+        <translation>Boxen werden über Kreuzen gezeichnet, und die Maus findet Boxen zuerst</translation>
     </message>
 </context>
 <context>
