@@ -113,6 +113,7 @@ protected:
         for (const ItemPtr& item : m_items) {
             item->row = -1;
             stateWent(item->state);
+            itemWent(*item);
         }
         m_items.clear();
     }
@@ -123,6 +124,9 @@ protected:
     /// For what a list counts: a state has come into it, or left it.
     virtual void stateCame(const State&) {}
     virtual void stateWent(const State&) {}
+
+    /// An item has left the list; undo may bring it back.
+    virtual void itemWent(Item&) {}
 
     /// The rows that views show have changed with their items; all columns are told.
     void tellRows(int first, int last)
@@ -210,6 +214,7 @@ private:
         for (int i = row; i < row + count; ++i) {
             m_items[i]->row = -1;
             stateWent(m_items[i]->state);
+            itemWent(*m_items[i]);
         }
         m_items.remove(row, count);
         setRows(row, m_items.size());

@@ -1,12 +1,17 @@
 #include "assets/familypalette.h"
 
 #include "assets/palettelist.h"
+#include "assets/spritetextures.h"
+#include "graphics/glcontext.h"
+#include "graphics/texture.h"
 
 #include <algorithm>
 
 namespace Family {
 
 FamilyPalette::FamilyPalette(PaletteList* list) : m_list(list) {}
+
+FamilyPalette::~FamilyPalette() = default;
 
 QVector<QRgb> FamilyPalette::colorTable() const
 {
@@ -18,11 +23,32 @@ unsigned FamilyPalette::index() const
     return unsigned(row);
 }
 
-void FamilyPalette::reload() {}
+void FamilyPalette::reload()
+{
+    bindTexture(texture(), PaletteUnit);
+}
 
 Zorv::Texture* FamilyPalette::texture() const
 {
-    return nullptr;
+    if (!Zorv::isContextUsable()) {
+        return nullptr;
+    }
+    if (!m_texture || m_revision != m_list->shownRevision()) {
+        m_revision = m_list->shownRevision();
+        const PaletteColors& colors = m_list->shown(this)->state.colors;
+        if (!m_texture || m_uploaded != colors) {
+            m_texture = m_texture ? std::move(m_texture) : std::make_unique<Zorv::Texture>();
+            m_uploaded = colors;
+            const CurrentContext current;
+            m_texture->fromPalette(colors.data());
+        }
+    }
+    return m_texture.get();
+}
+
+void FamilyPalette::dropTexture()
+{
+    m_texture.reset();
 }
 
 void FamilyPalette::toPalette(Zorv::RGBA (&colors)[256]) const

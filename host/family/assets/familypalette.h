@@ -7,6 +7,7 @@
 #include <QVector>
 
 #include <array>
+#include <memory>
 
 namespace Family {
 
@@ -31,6 +32,7 @@ public:
     };
 
     explicit FamilyPalette(PaletteList* list);
+    ~FamilyPalette() override;
 
     AssetId id() const { return state.id; }
 
@@ -46,8 +48,11 @@ public:
 
     unsigned index() const override;
 
-    /// Does nothing: there is no stage yet to make a texture for; `texture()` is null.
+    /// Binds the texture to the second unit of the current context, if there is one.
     void reload() override;
+
+    /// The colours that sprites with this palette are shown in: another palette can stand in for
+    /// it. They are uploaded when they have changed since. Null where GL does not work.
     Zorv::Texture* texture() const override;
     void toPalette(Zorv::RGBA (&colors)[256]) const override;
 
@@ -61,11 +66,17 @@ public:
     QVariant property(const QString& name) const override;
     void setProperty(const QString& name, const QVariant& value) override;
 
+    /// For the list: nothing of a palette that is in no list is kept on the graphics processor.
+    void dropTexture();
+
     State state;   ///< changed by the list alone
     int row = -1;  ///< in the list; -1 outside of it
 
 private:
     PaletteList* m_list;
+    mutable std::unique_ptr<Zorv::Texture> m_texture;
+    mutable PaletteColors m_uploaded{};
+    mutable quint64 m_revision = 0;  // of what is shown, when that was compared
 };
 
 /// The table of an image as 256 colours; what it lacks is opaque black, and an image without one

@@ -3,6 +3,7 @@
 #include "assets/palettelist.h"
 #include "assets/pixelstore.h"
 #include "assets/spritecollection.h"
+#include "assets/spritetextures.h"
 #include "media/tools/colorquantizer.h"
 
 #include <QImage>
@@ -111,11 +112,17 @@ void FamilySprite::reload()
     }
 }
 
-void FamilySprite::bindTexture() {}
+void FamilySprite::bindTexture()
+{
+    Family::bindTexture(texture(), ImageUnit);
+}
 
 Zorv::Texture* FamilySprite::texture() const
 {
-    return nullptr;
+    const PixelData* pixels = state.pixels.get();
+    return pixels ? m_sprites->store()->textures()->texture(pixels, bool(state.palette),
+                                                            [this] { return image(); })
+                  : nullptr;
 }
 
 void FamilySprite::setImage(const QImage& image)

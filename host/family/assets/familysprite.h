@@ -61,8 +61,12 @@ public:
     void duplicate() override;
     void reload() override;
 
-    /// Does nothing, and `texture()` is null: there is no stage yet to make a texture for.
+    /// Binds the texture to the first unit of the current context, if there is one.
     void bindTexture() override;
+
+    /// Indices if the sprite has a palette, and colours if it has none. Null without pixels, for
+    /// broken ones, and where GL does not work. Good until the next sprite of the collection is
+    /// asked for its own.
     Zorv::Texture* texture() const override;
 
     /// An image whose colours are those of the palette, or those that it is shown in, or that has

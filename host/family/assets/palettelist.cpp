@@ -53,8 +53,7 @@ QByteArray nearestIndices(const PaletteColors& from, const PaletteColors& to)
 
 PaletteList::PaletteList(SpriteCollection* sprites)
     : PaletteListBase(&sprites->editHistory()), m_sprites(sprites),
-      m_remaps(std::make_unique<RemapModel>(&sprites->editHistory(),
-                                            [this] { m_sprites->shownChanged(); }))
+      m_remaps(std::make_unique<RemapModel>(&sprites->editHistory(), [this] { shownChanged(); }))
 {
 }
 
@@ -372,7 +371,18 @@ void PaletteList::listChanged(bool count)
     m_changed = true;
     m_countChanged |= count;
     currentIndex = qBound(0, currentIndex, std::max(this->count() - 1, 0));
+    shownChanged();
+}
+
+void PaletteList::shownChanged()
+{
+    ++m_shownRevision;
     m_sprites->shownChanged();
+}
+
+void PaletteList::itemWent(FamilyPalette& palette)
+{
+    palette.dropTexture();
 }
 
 void PaletteList::stateCame(const FamilyPalette::State& state)

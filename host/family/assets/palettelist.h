@@ -80,6 +80,9 @@ public:
     void removeBroken();
     void flush();
 
+    /// Another number after every change of what `shown()` gives, or of its colours.
+    quint64 shownRevision() const { return m_shownRevision; }
+
     /// The share that the list or its undo has in a palette; for sprites to hold. Null for a
     /// stranger.
     ItemPtr share(const Zorv::Palette* palette) const;
@@ -88,6 +91,8 @@ private:
     void listChanged(bool count) override;
     void stateCame(const FamilyPalette::State& state) override;
     void stateWent(const FamilyPalette::State& state) override;
+    void itemWent(FamilyPalette& palette) override;
+    void shownChanged();
     AssetId nextId() const;
     AssetId freeId(AssetId from) const;
     FamilyPalette* place(int row, const PaletteColors& colors, AssetId id);
@@ -99,6 +104,7 @@ private:
     std::unique_ptr<RemapModel> m_remaps;
     bool m_changed = false;
     bool m_countChanged = false;
+    quint64 m_shownRevision = 0;
     QHash<quint32, int> m_ids;        // how many palettes have each
     QHash<quint64, int> m_colorSets;  // likewise of each checksum of colours
 };

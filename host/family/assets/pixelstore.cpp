@@ -1,6 +1,7 @@
 #include "assets/pixelstore.h"
 
 #include "assets/assetcache.h"
+#include "assets/spritetextures.h"
 #include "cache/crc64.h"
 #include "cache/filecache.h"
 
@@ -54,7 +55,7 @@ QByteArray decodedBytes(const PixelFormat& format, QByteArray rows)
 
 PixelStore::PixelStore()
     : m_cache(newAssetCache()), m_files(std::make_unique<Zorv::FileCache>()),
-      m_unpacked(MostUnpacked)
+      m_unpacked(MostUnpacked), m_textures(std::make_unique<SpriteTextures>())
 {
     for (Zorv::StreamCache* cache :
          {m_cache.get(), static_cast<Zorv::StreamCache*>(m_files.get())}) {
@@ -145,6 +146,7 @@ QByteArray PixelStore::rows(const PixelData* data)
 void PixelStore::forget(const PixelData* data)
 {
     m_unpacked.remove(data);
+    m_textures->drop(data);
 }
 
 void PixelStore::takeIn(const QString& fileName)
@@ -173,6 +175,7 @@ void PixelStore::gone(PixelData* data)
         m_byFile.remove(data->fileName());
     }
     m_unpacked.remove(data);
+    m_textures->drop(data);
 }
 
 PackedPixels::PackedPixels(const PixelData& data) : format(data.format)

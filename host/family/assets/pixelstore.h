@@ -14,6 +14,8 @@ class FileCache;
 
 namespace Family {
 
+class SpriteTextures;
+
 /// The pixels of a collection: their caches, the filters that pack and unpack them, and what was
 /// unpacked of late.
 ///
@@ -56,6 +58,9 @@ public:
     /// Forgets what was unpacked.
     void forget(const PixelData* data);
 
+    /// What the stage draws the pixels with.
+    SpriteTextures* textures() { return m_textures.get(); }
+
     /// Brings the bytes of a file of a loose folder into the cache, if pixels are in it; for before
     /// it is written over or removed.
     void takeIn(const QString& fileName);
@@ -71,6 +76,7 @@ private:
     std::unique_ptr<Zorv::FileCache> m_files;
     QHash<QString, PixelData*> m_byFile;
     QCache<const PixelData*, QByteArray> m_unpacked;
+    std::unique_ptr<SpriteTextures> m_textures;
     quint32 m_nextOrder = 0;
 };
 

@@ -2,6 +2,7 @@
 
 #include "assets/pixelstore.h"
 #include "assets/remapmodel.h"
+#include "assets/spritetextures.h"
 
 #include <QSet>
 
@@ -43,6 +44,7 @@ SpriteCollection::SpriteCollection()
 
 SpriteCollection::~SpriteCollection()
 {
+    emit closing();
     letGo();
     dropItems();
 }
@@ -355,10 +357,14 @@ void SpriteCollection::listChanged(bool count)
 void SpriteCollection::stateCame(const FamilySprite::State& state)
 {
     ++m_ids[state.id.key()];
+    m_rowsKnown = false;
+    m_store->textures()->keep(state.pixels.get());
 }
 
 void SpriteCollection::stateWent(const FamilySprite::State& state)
 {
+    m_rowsKnown = false;
+    m_store->textures()->release(state.pixels.get());
     if (--m_ids[state.id.key()] == 0) {
         m_ids.remove(state.id.key());
     }
@@ -366,6 +372,7 @@ void SpriteCollection::stateWent(const FamilySprite::State& state)
 
 void SpriteCollection::stepDone()
 {
+    m_store->textures()->dropReleased();
     m_palettes->flush();
     const bool count = m_countChanged;
     if (std::exchange(m_changed, false)) {

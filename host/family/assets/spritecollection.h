@@ -102,6 +102,10 @@ public:
     /// For palettes: their colours or remaps have changed, and with them what sprites show.
     void shownChanged();
 
+signals:
+    /// The collection is about to die, and its sprites are still there: whoever shows one lets go.
+    void closing();
+
 protected:
     /// All that a file holds, read and not yet taken over.
     struct Content

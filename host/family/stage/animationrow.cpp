@@ -1,0 +1,19 @@
+#include "stage/animationrow.h"
+
+#include "nodes/animationnode.h"
+#include "stage/followedanimation.h"
+
+namespace Family {
+
+QString AnimationRow::name() const
+{
+    const AnimationNode* node = m_animation->animation();
+    return node ? node->displayName() : QString();
+}
+
+bool AnimationRow::markerAtTick(unsigned int tick, Marker& marker) const
+{
+    return m_animation->ticks().markerAt(tick, marker);
+}
+
+}  // namespace Family

@@ -1,0 +1,92 @@
+#include "stage/frameticks.h"
+
+#include "nodes/animationnode.h"
+#include "nodes/framenode.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace Family {
+
+namespace {
+
+const QColor endlessColor(190, 110, 40);
+const QColor loopColor(140, 190, 40);
+const QColor frameColor(160, 140, 40);
+
+int sumOf(int ticks, int delay)
+{
+    return int(std::min<qint64>(qint64(ticks) + delay, std::numeric_limits<int>::max()));
+}
+
+QVector<int> delaysOf(const AnimationNode* animation)
+{
+    QVector<int> delays;
+    if (animation) {
+        delays.reserve(animation->childCount());
+        for (const Zorv::CodeNode* node = animation->childAt(0); node;
+             node = Zorv::CodeNodeList::next(node)) {
+            delays.append(static_cast<const FrameNode*>(node)->delay());
+        }
+    }
+    return delays;
+}
+
+}  // namespace
+
+FrameTicks::FrameTicks(const AnimationNode* animation)
+    : FrameTicks(delaysOf(animation), animation ? animation->loopFrame() : -1)
+{
+}
+
+FrameTicks::FrameTicks(const QVector<int>& delays, int loopFrame)
+    : m_delays(delays), m_loopFrame(loopFrame < delays.size() ? loopFrame : -1)
+{
+    m_starts.reserve(delays.size());
+    int ticks = 0;
+    for (int frame = 0; frame < delays.size(); ++frame) {
+        m_starts.append(ticks);
+        if (delays[frame] != 0 && m_total == 0) {
+            m_shown.append(frame);
+        }
+        if (delays[frame] < 0) {
+            m_total = -1;
+        } else if (m_total == 0) {
+            ticks = sumOf(ticks, delays[frame]);
+        }
+    }
+    m_total = m_total < 0 ? -1 : ticks;
+}
+
+int FrameTicks::frameAt(unsigned tick) const
+{
+    const auto behind =
+        std::upper_bound(m_shown.begin(), m_shown.end(), tick, [this](unsigned wanted, int frame) {
+            return wanted < unsigned(m_starts[frame]);
+        });
+    return behind == m_shown.begin() ? frameCount() - 1 : *std::prev(behind);
+}
+
+int FrameTicks::firstTick(int frame) const
+{
+    return m_starts.value(frame);
+}
+
+int FrameTicks::loopTick() const
+{
+    const int tick = firstTick(m_loopFrame);
+    return tick < m_total || m_total < 0 ? tick : 0;
+}
+
+bool FrameTicks::markerAt(unsigned tick, Zorv::TimeLine::Marker& marker) const
+{
+    const int frame = frameAt(tick);
+    if (frame < 0 || delay(frame) == 0 || unsigned(firstTick(frame)) != tick) {
+        return false;
+    }
+    marker.length = delay(frame);
+    marker.color = marker.length < 0 ? endlessColor : frame == m_loopFrame ? loopColor : frameColor;
+    return true;
+}
+
+}  // namespace Family
