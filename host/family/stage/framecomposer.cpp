@@ -1,0 +1,301 @@
+#include "stage/framecomposer.h"
+
+#include "assets/spritecollection.h"
+#include "code/codedoc/animationcode.h"
+#include "code/codedoc/contactboxescode.h"
+#include "nodes/framenode.h"
+#include "stage/pictureraster.h"
+#include "stage/placedpicture.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Family {
+
+namespace {
+
+const int CacheKiB = 256 * 1024;
+
+// Farther away a picture would have no room for anything else.
+const int Farthest = 1 << 28;
+
+const char CrossFile[] = ":/zorvl_icons/icons/sff.png";
+
+/// The pixels that a line of a box, or of a cross, is wide.
+int lineWidth(float zoom)
+{
+    return qRound(std::max(zoom, 1.0F));
+}
+
+QImage enlarged(const QImage& image, int times)
+{
+    QImage result(image.size() * times, QImage::Format_ARGB32);
+    for (int y = 0; y < result.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(result.scanLine(y));
+        for (int x = 0; x < result.width(); ++x) {
+            line[x] = image.pixel(x / times, y / times);
+        }
+    }
+    return result;
+}
+
+/// An index that shows nothing, for the ground around a picture: one that is transparent, else one
+/// that no pixel has, which becomes so. -1 if there is neither.
+int groundIndex(const QImage& picture, QVector<QRgb>* colors)
+{
+    const auto clear =
+        std::find_if(colors->begin(), colors->end(), [](QRgb color) { return qAlpha(color) == 0; });
+    if (clear != colors->end()) {
+        return int(clear - colors->begin());
+    }
+    std::array<bool, 256> isUsed{};
+    for (int y = 0; y < picture.height(); ++y) {
+        const uchar* const line = picture.constScanLine(y);
+        for (int x = 0; x < picture.width(); ++x) {
+            isUsed[line[x]] = true;
+        }
+    }
+    const int index = int(std::find(isUsed.begin(), isUsed.end(), false) - isUsed.begin());
+    if (index == int(isUsed.size())) {
+        return -1;
+    }
+    colors->resize(std::max(colors->size(), index + 1));
+    (*colors)[index] = 0;
+    return index;
+}
+
+/// Calls for each box of a frame, those below first.
+template <class Function>
+void forEachBox(const FrameNode& frame, Function function)
+{
+    using Zorv::ContactBoxCode;
+    for (const auto type : {ContactBoxCode::Collision, ContactBoxCode::Attack}) {
+        const Zorv::ContactBoxesCode* boxes = frame.contactBoxes(type);
+        for (int i = 0; boxes && i < boxes->count(); ++i) {
+            function(boxes->at(i)->rect(), type == ContactBoxCode::Attack);
+        }
+    }
+}
+
+}  // namespace
+
+FrameComposer::FrameComposer(const SpriteCollection* sprites, const FrameStyle& style,
+                             const PaletteColors* colors)
+    : m_sprites(sprites), m_style(style), m_pictures(CacheKiB)
+{
+    const bool isZoom = style.zoom > 0 && style.zoom <= FrameStyle::MaxZoom;
+    m_style.zoom = isZoom ? style.zoom : std::numeric_limits<float>::quiet_NaN();
+    m_colors = colors ? tableOfColors(*colors) : QVector<QRgb>();
+    if (style.parts & FrameStyle::Axis && isZoom) {
+        m_axis = enlarged(QImage(QLatin1String(CrossFile)), lineWidth(style.zoom));
+    }
+}
+
+FrameComposer::~FrameComposer() = default;
+
+const FamilySprite* FrameComposer::spriteOf(const FrameNode& frame, QString* error) const
+{
+    const AssetId id{quint16(frame.data().group), quint16(frame.data().number)};
+    const FamilySprite* sprite = m_sprites ? m_sprites->byId(id) : nullptr;
+    if (!sprite) {
+        *error = tr("There is no sprite %1.").arg(id.text());
+    }
+    return sprite;
+}
+
+QImage FrameComposer::picture(const FamilySprite* sprite)
+{
+    if (const QImage* known = m_pictures.object(sprite)) {
+        return *known;
+    }
+    QImage image = sprite->image();
+    if (image.format() == QImage::Format_Indexed8 && !m_colors.isEmpty()) {
+        image.setColorTable(m_colors);
+    }
+    m_pictures.insert(sprite, new QImage(image), int(image.sizeInBytes() / 1024) + 1);
+    return image;
+}
+
+QImage FrameComposer::pictureOf(const FrameNode& frame, QString* error)
+{
+    const FamilySprite* sprite = spriteOf(frame, error);
+    const QImage image = sprite ? picture(sprite) : QImage();
+    if (sprite && image.isNull()) {
+        *error = tr("Sprite %1 has no pixels, or they are broken.").arg(sprite->id().text());
+    }
+    return image;
+}
+
+FramePose FrameComposer::pose(const FrameNode& frame, QString* error)
+{
+    const QSize size = pictureOf(frame, error).size();
+    const FamilySprite* sprite = size.isEmpty() ? nullptr : spriteOf(frame, error);
+    return poseOf(frame.data(), size, sprite ? sprite->axis() : QPoint());
+}
+
+QRect FrameComposer::areaOf(const QRect& rect) const
+{
+    const QPoint end = QPoint(rect.left() + rect.width(), rect.top() + rect.height());
+    const QPoint first = stagePoint(rect.topLeft(), m_style.zoom);
+    return {first, stagePoint(end, m_style.zoom) - QPoint(1, 1)};
+}
+
+// Left and top, and the length of each side, are rounded for themselves.
+QRect FrameComposer::boxArea(const QRect& box) const
+{
+    const double zoom = double(m_style.zoom);
+    const auto rounded = [zoom](double length) {
+        const double bounded = std::clamp(length * zoom, double(-Farthest), double(Farthest));
+        return std::isnan(bounded) ? 0 : qRound(bounded);
+    };
+    return {rounded(box.left()), rounded(box.top()), rounded(double(box.right()) + 1 - box.left()),
+            rounded(double(box.bottom()) + 1 - box.top())};
+}
+
+QRect FrameComposer::axisArea() const
+{
+    return {QPoint(-(m_axis.width() / 2), -(m_axis.height() / 2)), m_axis.size()};
+}
+
+QRect FrameComposer::bounds(const FrameNode& frame, QString* error)
+{
+    QRect area;
+    if (m_style.parts & FrameStyle::Sprite) {
+        area = PlacedPicture(pose(frame, error), m_style.zoom).bounds();
+    }
+    if (m_style.parts & FrameStyle::Boxes) {
+        const int width = lineWidth(m_style.zoom);
+        forEachBox(frame, [&](const QRect& box, bool) {
+            const QRect inside = boxArea(box);
+            // The lines of a box that is smaller than they are reach beyond it.
+            const QRect lines(inside.right() - width + 1, inside.bottom() - width + 1, width,
+                              width);
+            area |= inside.isEmpty()
+                        ? QRect()
+                        : inside | lines | QRect(inside.topLeft(), QSize(width, width));
+        });
+    }
+    return area | axisArea();
+}
+
+QRect FrameComposer::bounds(const Zorv::AnimationCode& animation, QString* error)
+{
+    QRect area;
+    const QList<Zorv::FrameCode*> frames = animation.frames();
+    for (const Zorv::FrameCode* frame : frames) {
+        area |= bounds(*static_cast<const FrameNode*>(frame), error);
+    }
+    return area;
+}
+
+bool FrameComposer::isDrawable(const QRect& area, QString* error) const
+{
+    const bool isNear = qMax(qAbs(qint64(area.left())), qAbs(qint64(area.top()))) <= Farthest;
+    if (std::isnan(m_style.zoom)) {
+        *error = tr("A zoom is above 0, and %1 at most.").arg(double(FrameStyle::MaxZoom));
+    } else if (area.isEmpty()) {
+        *error = tr("There is nothing to be seen: the frame is scaled to nothing.");
+    } else if (!isNear || qint64(area.width()) * area.height() > MaxPixels) {
+        *error = tr("The picture would be %1 by %2 pixels, which is too large. Choose a smaller "
+                    "zoom, or look at scales and offsets of the frames.")
+                     .arg(area.width())
+                     .arg(area.height());
+    } else {
+        return true;
+    }
+    return false;
+}
+
+QImage FrameComposer::compose(const FrameNode& frame, const QRect& area, QString* error)
+{
+    if (!isDrawable(area, error)) {
+        return {};
+    }
+    QImage image(area.size(), QImage::Format_ARGB32);
+    if (image.isNull()) {
+        *error = tr("There is not enough memory for a picture of %1 by %2 pixels.")
+                     .arg(area.width())
+                     .arg(area.height());
+        return {};
+    }
+    image.fill(0);
+    draw(frame, &image, area.topLeft(), error);
+    return image;
+}
+
+QImage FrameComposer::composeIndexed(const FrameNode& frame, const QRect& area, QString* error)
+{
+    if (m_style.parts != FrameStyle::Sprite || !isDrawable(area, error)) {
+        return compose(frame, area, error);
+    }
+    const QImage picture = pictureOf(frame, error);
+    const PlacedPicture place(pose(frame, error), m_style.zoom);
+    const bool isFilled = place.isUpright() && place.bounds().contains(area);
+    QVector<QRgb> colors = picture.colorTable();
+    const int ground = picture.format() != QImage::Format_Indexed8 ? -1
+                       : isFilled                                  ? 0
+                                                                   : groundIndex(picture, &colors);
+    QImage image(area.size(), QImage::Format_Indexed8);
+    if (ground < 0 || image.isNull()) {
+        return compose(frame, area, error);
+    }
+    image.setColorTable(colors);
+    image.fill(uint(ground));
+    PictureRaster(&image, area.topLeft()).draw(place, picture);
+    return image;
+}
+
+void FrameComposer::draw(const FrameNode& frame, QImage* image, QPoint topLeft, QString* error)
+{
+    PictureRaster raster(image, topLeft);
+    if (m_style.parts & FrameStyle::Sprite) {
+        const QImage picture = pictureOf(frame, error);
+        raster.draw(PlacedPicture(pose(frame, error), m_style.zoom), picture);
+    }
+    if (m_style.parts & FrameStyle::Boxes) {
+        const int width = lineWidth(m_style.zoom);
+        forEachBox(frame, [&](const QRect& box, bool isAttack) {
+            const QRect area = boxArea(box);
+            const QColor border = isAttack ? m_style.attack : m_style.body;
+            QColor inside = border;
+            inside.setAlpha(int(border.alpha() * qBound(0.0, m_style.boxOpacity, 1.0) * 0.5));
+            if (area.isEmpty()) {
+                return;
+            }
+            raster.fill(QRect(area.topLeft() + QPoint(width, width), area.bottomRight()),
+                        inside.rgba());
+            raster.fill({area.left(), area.top(), width, area.height()}, border.rgba());
+            raster.fill({area.left(), area.top(), area.width(), width}, border.rgba());
+            raster.fill({area.right() - width + 1, area.top(), width, area.height()},
+                        border.rgba());
+            raster.fill({area.left(), area.bottom() - width + 1, area.width(), width},
+                        border.rgba());
+        });
+    }
+    if (!m_axis.isNull()) {
+        FramePose cross;
+        cross.position = axisArea().topLeft();
+        cross.size = m_axis.size();
+        raster.draw(PlacedPicture(cross, 1), m_axis);
+    }
+}
+
+QPoint FrameComposer::pixelAt(const FramePose& pose, float zoom, QPoint stage)
+{
+    return PlacedPicture(pose, zoom).pixelAt(stage);
+}
+
+int FrameComposer::colorAt(const QImage& picture, const FramePose& pose, float zoom, QPoint stage)
+{
+    const QPoint place = pixelAt(pose, zoom, stage);
+    const bool isIndexed = picture.format() == QImage::Format_Indexed8;
+    if (!isIndexed || !picture.valid(place)) {
+        return -1;
+    }
+    const int index = picture.constScanLine(place.y())[place.x()];
+    const QVector<QRgb> colors = picture.colorTable();
+    return index < colors.size() && qAlpha(colors[index]) == 0 ? -1 : index;
+}
+
+}  // namespace Family

@@ -1,0 +1,144 @@
+#include "stage/pictureraster.h"
+
+#include "stage/placedpicture.h"
+
+#include <QVector>
+
+namespace Family {
+
+namespace {
+
+uint mixed(uint from, uint alpha, uint to)
+{
+    return (from * alpha + to * (255 - alpha) + 127) / 255;
+}
+
+/// One colour over another one, neither of which is opaque or nothing for sure.
+QRgb over(QRgb color, QRgb ground)
+{
+    const uint alpha = uint(qAlpha(color));
+    const uint groundAlpha = uint(qAlpha(ground));
+    if (groundAlpha == 255) {
+        return qRgb(int(mixed(uint(qRed(color)), alpha, uint(qRed(ground)))),
+                    int(mixed(uint(qGreen(color)), alpha, uint(qGreen(ground)))),
+                    int(mixed(uint(qBlue(color)), alpha, uint(qBlue(ground)))));
+    }
+    if (groundAlpha == 0) {
+        return color;
+    }
+    const uint above = alpha * 255;
+    const uint below = groundAlpha * (255 - alpha);
+    const uint both = above + below;
+    const auto channel = [=](int from, int to) {
+        return int((uint(from) * above + uint(to) * below + both / 2) / both);
+    };
+    return qRgba(channel(qRed(color), qRed(ground)), channel(qGreen(color), qGreen(ground)),
+                 channel(qBlue(color), qBlue(ground)), int((both + 127) / 255));
+}
+
+inline void blend(QRgb* to, QRgb color)
+{
+    const uint alpha = color >> 24;
+    if (alpha == 255) {
+        *to = color;
+    } else if (alpha != 0) {
+        *to = over(color, *to);
+    }
+}
+
+}  // namespace
+
+PictureRaster::PictureRaster(QImage* image, QPoint topLeft)
+    : m_image(image), m_area(topLeft, image->size()), m_bits(image->bits())
+{
+}
+
+template <class To>
+To* PictureRaster::at(int x, int y) const
+{
+    return reinterpret_cast<To*>(m_bits + qint64(y - m_area.top()) * m_image->bytesPerLine()) +
+           (x - m_area.left());
+}
+
+template <class To, class From, class Mix>
+void PictureRaster::putUpright(const PlacedPicture& place, const QImage& picture, Mix mix)
+{
+    const QRect seen = place.bounds() & m_area;
+    QVector<int> columns(seen.width());
+    for (int x = 0; x < columns.size(); ++x) {
+        columns[x] = place.columnAt(seen.left() + x);
+    }
+    const int width = columns.size();
+    const int* const column = columns.constData();
+    for (int y = seen.top(); y <= seen.bottom(); ++y) {
+        const auto* const from =
+            reinterpret_cast<const From*>(picture.constScanLine(place.rowAt(y)));
+        To* const to = at<To>(seen.left(), y);
+        for (int x = 0; x < width; ++x) {
+            mix(to + x, from[column[x]]);
+        }
+    }
+}
+
+template <class To, class From, class Mix>
+void PictureRaster::putTurned(const PlacedPicture& place, const QImage& picture, Mix mix)
+{
+    const QRect seen = place.bounds() & m_area;
+    const uchar* const bits = picture.constBits();
+    const qint64 stride = picture.bytesPerLine();
+    for (int y = seen.top(); y <= seen.bottom(); ++y) {
+        const PlacedPicture::Span span = place.spanAt(y);
+        const int first = qMax(span.first, seen.left());
+        const int count = qMin(span.first + span.count - 1, seen.right()) - first + 1;
+        if (count <= 0) {
+            continue;
+        }
+        const qint64 skipped = first - span.first;
+        qint64 u = span.u + skipped * span.du;
+        qint64 v = span.v + skipped * span.dv;
+        To* const to = at<To>(first, y);
+        for (int x = 0; x < count; ++x, u += span.du, v += span.dv) {
+            mix(to + x, reinterpret_cast<const From*>(bits + (v >> 32) * stride)[u >> 32]);
+        }
+    }
+}
+
+template <class To, class From, class Mix>
+void PictureRaster::put(const PlacedPicture& place, const QImage& picture, Mix mix)
+{
+    place.isUpright() ? putUpright<To, From>(place, picture, mix)
+                      : putTurned<To, From>(place, picture, mix);
+}
+
+void PictureRaster::draw(const PlacedPicture& place, const QImage& picture)
+{
+    if (place.bounds().intersects(m_area) && !picture.isNull()) {
+        if (m_image->format() == QImage::Format_Indexed8) {
+            put<uchar, uchar>(place, picture, [](uchar* to, uchar index) { *to = index; });
+        } else if (picture.format() == QImage::Format_Indexed8) {
+            QVector<QRgb> colors = picture.colorTable();
+            for (int i = colors.size(); i < 256; ++i) {
+                colors.append(qRgb(0, 0, 0));
+            }
+            const QRgb* const table = colors.constData();
+            put<QRgb, uchar>(place, picture,
+                             [table](QRgb* to, uchar index) { blend(to, table[index]); });
+        } else {
+            put<QRgb, QRgb>(place, picture.convertToFormat(QImage::Format_ARGB32),
+                            [](QRgb* to, QRgb color) { blend(to, color); });
+        }
+    }
+}
+
+void PictureRaster::fill(const QRect& rect, QRgb color)
+{
+    const QRect seen = rect & m_area;
+    for (int y = seen.top(); y <= seen.bottom(); ++y) {
+        QRgb* const to = at<QRgb>(seen.left(), y);
+        for (int x = 0; x < seen.width(); ++x) {
+            blend(to + x, color);
+        }
+    }
+}
+
+}  // namespace Family

@@ -1,0 +1,216 @@
+#include "stage/placedpicture.h"
+
+#include "stage/framepose.h"
+
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Family {
+
+namespace {
+
+const int Farthest = 1 << 28;
+const double One = 4294967296.0;  // of places in a picture
+
+template <class Real>
+bool isNear(Real value)
+{
+    return value > Real(-Farthest) && value < Real(Farthest);
+}
+
+template <class Real>
+int farthest(Real value)
+{
+    return std::isnan(value) ? 0 : value < 0 ? -Farthest : Farthest;
+}
+
+int truncated(double value)
+{
+    return isNear(value) ? int(value) : farthest(value);
+}
+
+/// The texel under the centre of a pixel, of so many pixels over so many texels.
+int texelUnder(qint64 pixel, qint64 pixels, qint64 texels)
+{
+    return int((2 * pixel + 1) * texels / (2 * pixels));
+}
+
+/// A place in a picture along a line of the stage: `slope` * x + `start`.
+struct Line
+{
+    double slope;
+    double start;
+
+    /// Cuts a range of x to where the place lies from 0 up to below an end.
+    void cut(double end, double* first, double* last) const
+    {
+        if (slope == 0) {
+            *last = start >= 0 && start < end ? *last : *first - 1;
+            return;
+        }
+        const double zero = -start / slope;
+        const double other = (end - start) / slope;
+        *first = std::max(*first, slope > 0 ? std::ceil(zero) : std::floor(other) + 1);
+        *last = std::min(*last, slope > 0 ? std::ceil(other) - 1 : std::floor(zero));
+    }
+};
+
+qint64 fixed(double place, double end)
+{
+    return qint64(std::floor(std::clamp(place, -1.0, end + 1) * One));
+}
+
+}  // namespace
+
+int stageLength(int length, float zoom)
+{
+    const float product = float(length) * zoom;
+    return isNear(product) ? qRound(product) : farthest(product);
+}
+
+QPoint stagePoint(QPoint point, float zoom)
+{
+    return {stageLength(point.x(), zoom), stageLength(point.y(), zoom)};
+}
+
+PlacedPicture::PlacedPicture(const FramePose& pose, float zoom)
+    : m_base(stagePoint(pose.axis, zoom)), m_texels(pose.size), m_mirrored(pose.flip & 1),
+      m_upsideDown(pose.flip & 2), m_isUpright(pose.rotation == 0)
+{
+    m_corner = stagePoint({truncated(pose.position.x() * pose.scale.x()),
+                           truncated(pose.position.y() * pose.scale.y())},
+                          zoom);
+    m_size = QSize(stageLength(truncated(pose.size.width() * pose.scale.x()), zoom),
+                   stageLength(truncated(pose.size.height() * pose.scale.y()), zoom));
+    if (pose.size.isEmpty() || m_size.width() == 0 || m_size.height() == 0 ||
+        !std::isfinite(pose.rotation) || !std::isfinite(zoom)) {
+        return;
+    }
+    if (m_isUpright) {
+        const QPoint from = m_base + m_corner;
+        const QPoint to(from.x() + m_size.width(), from.y() + m_size.height());
+        m_bounds = QRect(QPoint(std::min(from.x(), to.x()), std::min(from.y(), to.y())),
+                         QSize(std::abs(m_size.width()), std::abs(m_size.height())));
+        return;
+    }
+    // Quarter turns are exact, as for the matrix that the stage turns with.
+    const float angle = pose.rotation;
+    if (angle == 90.0F || angle == -270.0F || angle == -90.0F || angle == 270.0F) {
+        m_cos = 0;
+        m_sin = angle == 90.0F || angle == -270.0F ? 1 : -1;
+    } else if (angle == 180.0F || angle == -180.0F) {
+        m_cos = -1;
+    } else {
+        const float radians = qDegreesToRadians(angle);
+        m_cos = double(std::cos(radians));
+        m_sin = double(std::sin(radians));
+    }
+    m_bounds = coveredByTurned();
+}
+
+QRect PlacedPicture::coveredByTurned() const
+{
+    double left = 0;
+    double right = 0;
+    double top = 0;
+    double bottom = 0;
+    for (int i = 0; i < 4; ++i) {
+        const double x = double(m_corner.x()) + (i & 1) * double(m_size.width());
+        const double y = double(m_corner.y()) + (i >> 1) * double(m_size.height());
+        const double turnedX = m_base.x() + x * m_cos - y * m_sin;
+        const double turnedY = m_base.y() + x * m_sin + y * m_cos;
+        left = i == 0 ? turnedX : std::min(left, turnedX);
+        right = i == 0 ? turnedX : std::max(right, turnedX);
+        top = i == 0 ? turnedY : std::min(top, turnedY);
+        bottom = i == 0 ? turnedY : std::max(bottom, turnedY);
+    }
+    const QPoint first(truncated(std::ceil(left - 0.5)), truncated(std::ceil(top - 0.5)));
+    const QPoint last(truncated(std::ceil(right - 0.5) - 1),
+                      truncated(std::ceil(bottom - 0.5) - 1));
+    return first.x() <= last.x() && first.y() <= last.y() ? QRect(first, last) : QRect();
+}
+
+// Rows of a texture are counted from the bottom: a centre between two rows shows the upper one, and
+// one between two columns the right one, unless they are mirrored.
+int PlacedPicture::columnAt(int x) const
+{
+    const int from = m_base.x() + m_corner.x();
+    const int pixels = std::abs(m_size.width());
+    const int pixel = m_size.width() > 0 ? x - from : from - 1 - x;
+    return texelUnder(m_mirrored ? pixels - 1 - pixel : pixel, pixels, m_texels.width());
+}
+
+int PlacedPicture::rowAt(int y) const
+{
+    const int from = m_base.y() + m_corner.y();
+    const int pixels = std::abs(m_size.height());
+    const int pixel = m_size.height() > 0 ? y - from : from - 1 - y;
+    return m_texels.height() - 1 -
+           texelUnder(m_upsideDown ? pixel : pixels - 1 - pixel, pixels, m_texels.height());
+}
+
+PlacedPicture::Span PlacedPicture::spanAt(int y) const
+{
+    if (m_bounds.isEmpty() || y < m_bounds.top() || y > m_bounds.bottom()) {
+        return {};
+    }
+    const double width = m_texels.width();
+    const double height = m_texels.height();
+    const double down = y + 0.5 - m_base.y();
+    const double right = 0.5 - m_base.x();
+    Line u{m_cos * width / m_size.width(),
+           (right * m_cos + down * m_sin - m_corner.x()) * width / m_size.width()};
+    Line v{-m_sin * height / m_size.height(),
+           (down * m_cos - right * m_sin - m_corner.y()) * height / m_size.height()};
+    u = m_mirrored ? Line{-u.slope, width - u.start} : u;
+    v = m_upsideDown ? Line{-v.slope, height - v.start} : v;
+    double first = m_bounds.left();
+    double last = m_bounds.right();
+    u.cut(width, &first, &last);
+    v.cut(height, &first, &last);
+    if (first > last) {
+        return {};
+    }
+    Span span;
+    span.first = int(first);
+    span.count = int(last) - span.first + 1;
+    span.u = fixed(u.slope * first + u.start, width);
+    span.v = fixed(v.slope * first + v.start, height);
+    span.du = std::llround(u.slope * One);
+    span.dv = std::llround(v.slope * One);
+    // Rounding may put an end a hair outside.
+    const auto isInside = [&](qint64 n) {
+        const qint64 atU = span.u + n * span.du;
+        const qint64 atV = span.v + n * span.dv;
+        return atU >= 0 && atV >= 0 && (atU >> 32) < m_texels.width() &&
+               (atV >> 32) < m_texels.height();
+    };
+    for (; span.count > 0 && !isInside(0); --span.count) {
+        ++span.first;
+        span.u += span.du;
+        span.v += span.dv;
+    }
+    for (; span.count > 0 && !isInside(span.count - 1); --span.count) {
+    }
+    return span;
+}
+
+QPoint PlacedPicture::pixelAt(QPoint stage) const
+{
+    if (!m_bounds.contains(stage)) {
+        return {-1, -1};
+    }
+    if (m_isUpright) {
+        return {columnAt(stage.x()), rowAt(stage.y())};
+    }
+    const Span span = spanAt(stage.y());
+    const int n = stage.x() - span.first;
+    if (n < 0 || n >= span.count) {
+        return {-1, -1};
+    }
+    return {int((span.u + n * span.du) >> 32), int((span.v + n * span.dv) >> 32)};
+}
+
+}  // namespace Family
