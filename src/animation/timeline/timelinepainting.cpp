@@ -2,6 +2,7 @@
 #include "animation/timeline/timelinewidget.h"
 #include "animation/timeline/timelinewidget_p.h"
 
+#include <QFontInfo>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -14,11 +15,33 @@ namespace {
 constexpr int LongTick = 10;
 constexpr int ShortTick = 6;
 constexpr int NumberWidth = 40;
+constexpr int NumberEvery = 5;
+constexpr int SmallestNumber = 7;
 constexpr int NameMargin = 8;
 constexpr double BandOpacity = 0.33;
 constexpr int CursorWidth = 2;
 
+/// The font, or a smaller one with which the number is neither wider nor higher than its place.
+QFont numberFont(const QFont& font, unsigned int number, const QSize& place)
+{
+    const QFontMetrics metrics(font);
+    const double width = metrics.horizontalAdvance(QString::number(number));
+    const double share =
+        std::min(place.width() / width, place.height() / double(metrics.capHeight()));
+    if (share >= 1) {
+        return font;
+    }
+    QFont smaller = font;
+    smaller.setPixelSize(std::max(int(QFontInfo(font).pixelSize() * share), SmallestNumber));
+    return smaller;
+}
+
 }  // namespace
+
+QColor TimeLinePrivate::borderColor() const
+{
+    return owner->palette().color(QPalette::Window).darker(300);
+}
 
 void TimeLinePrivate::paint(QPainter& painter) const
 {
@@ -36,16 +59,19 @@ void TimeLinePrivate::paint(QPainter& painter) const
 void TimeLinePrivate::paintScale(QPainter& painter) const
 {
     painter.setPen(owner->palette().color(QPalette::Text));
+    painter.setFont(numberFont(owner->font(), firstTick + visibleTicks,
+                               {NumberEvery * TickWidth - 3, HeaderHeight - LongTick}));
     for (unsigned int i = 0; i < visibleTicks; ++i) {
         const unsigned int tick = firstTick + i;
         const int x = leftOf(i) + TickWidth / 2;
-        const bool isLong = tick % 5 == 0;
+        const bool isLong = tick % NumberEvery == 0;
         painter.drawLine(x, HeaderHeight - (isLong ? LongTick : ShortTick), x, HeaderHeight - 1);
         if (isLong) {
             const QRect place(x - NumberWidth / 2, 0, NumberWidth, HeaderHeight - LongTick);
             painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, QString::number(tick));
         }
     }
+    painter.setFont(owner->font());
 }
 
 void TimeLinePrivate::paintName(QPainter& painter, int index) const
@@ -60,7 +86,7 @@ void TimeLinePrivate::paintName(QPainter& painter, int index) const
 
 void TimeLinePrivate::paintCells(QPainter& painter, int index) const
 {
-    const QPen border(owner->palette().color(QPalette::Window).darker(300));
+    const QPen border(borderColor());
     TimeLine::Marker marker;
     for (unsigned int i = 0; i < visibleTicks; ++i) {
         const QRect cell(leftOf(i), HeaderHeight + RowHeight * index, TickWidth, RowHeight);
@@ -97,9 +123,10 @@ void TimeLinePrivate::paintCursor(QPainter& painter) const
 {
     const qint64 left = cursorPlace() + (TickWidth - CursorWidth) / 2;
     if (left >= 0 && left < owner->width()) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(Qt::yellow);
-        painter.drawRect(int(left), 0, CursorWidth, owner->height());
+        // Yellow alone would not be seen on a light ground.
+        const QRect bar(int(left), 0, CursorWidth, owner->height());
+        painter.fillRect(bar.adjusted(-1, 0, 1, 0), borderColor());
+        painter.fillRect(bar, Qt::yellow);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
+class QColor;
 class QPainter;
 class QPoint;
 
@@ -66,6 +67,7 @@ private:
     int leftOf(unsigned int index) const { return LabelWidth + TickWidth * int(index); }
     qint64 cursorPlace() const;
 
+    QColor borderColor() const;
     void paintScale(QPainter& painter) const;
     void paintName(QPainter& painter, int index) const;
     void paintCells(QPainter& painter, int index) const;
