@@ -5,6 +5,7 @@
 #include "graphics/stage/graphicsrenderer_p.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Zorv {
 
@@ -173,6 +174,7 @@ void GraphicsRenderer::spriteChangedAt(unsigned int index)
     take(FlipKey, item.flip);
     take(RotationKey, item.rotation);
     take(LayerKey, item.layer);
+    item.rotation = std::isfinite(item.rotation) ? item.rotation : 0.0F;
     item.sprite = provider->at(index);
     // A provider may change its list when it is asked.
     if (index < static_cast<unsigned>(d->spriteItems.size())) {
@@ -205,6 +207,7 @@ void GraphicsRenderer::setContactBoxes(ContactBoxCode::BoxType type, ContactBoxe
     for (ContactItem& item : boxes.items) {
         item.box = code->at(index++);
         const QRect rect = item.box ? item.box->rect() : QRect();
+        item.source = rect;
         if (item.selected && item.box && item.rect() == rect) {
             d->hasSelection = true;
             d->updateBoxSelection(rect);
@@ -218,7 +221,7 @@ void GraphicsRenderer::setContactBoxes(ContactBoxCode::BoxType type, ContactBoxe
 
 ContactBoxesCode* GraphicsRenderer::boxes(ContactBoxCode::BoxType type) const
 {
-    return isBoxType(type) ? d->contactBoxes[static_cast<size_t>(type - 1)].code : nullptr;
+    return isBoxType(type) ? d->contactBoxes[static_cast<size_t>(type - 1)].code.get() : nullptr;
 }
 
 void GraphicsRenderer::setOnionSkin(bool enabled, OnionEffect effect, float opacity)
@@ -291,18 +294,6 @@ void GraphicsRenderer::setItemPositionMode(ItemType type, unsigned char mode, un
         Cross& cross = d->crosses[static_cast<size_t>(type)];
         set(cross.mode, cross.parent);
     }
-}
-
-void GraphicsRenderer::render(QPainter&) {}
-
-void GraphicsRenderer::renderSprite(QPoint, QPoint, QSize, float, unsigned char, Sprite*,
-                                    unsigned int)
-{
-}
-
-void GraphicsRenderer::renderOnionSkinSprite(const Sprite*, QPoint, QPoint, QSize, float,
-                                             OnionEffect)
-{
 }
 
 QPoint* GraphicsRendererPrivate::positionOf(ItemType type, unsigned index)

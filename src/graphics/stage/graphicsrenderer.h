@@ -262,6 +262,8 @@ protected:
 private:
     friend class GraphicsRendererPrivate;
 
+    void blendByAlpha();
+
     std::unique_ptr<GraphicsRendererPrivate> d;
 };
 

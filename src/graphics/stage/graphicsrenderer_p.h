@@ -54,6 +54,8 @@ public:
     void zoomChanged();
 
     // stagedrawing.cpp, stageboxdrawing.cpp, stagerulers.cpp, stagebackground.cpp
+    QRect visibleRect() const { return {QPoint(), widgetSize}; }
+    int lineThickness() const;
     void renderBackground(QPainter& painter);
     void renderGuides(QPainter& painter);
     void renderOnionSkin();

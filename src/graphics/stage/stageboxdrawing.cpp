@@ -1,0 +1,84 @@
+#include "graphics/stage/graphicsrenderer.h"
+#include "graphics/stage/graphicsrenderer_p.h"
+
+#include <QPainter>
+#include <QPen>
+
+#include <algorithm>
+
+namespace Zorv {
+
+namespace {
+
+/// The four sides of a box, `thickness` wide and within it. They do not overlap, so that a border
+/// that shines through is the same everywhere; the left one is there also when the box is narrower
+/// than a pixel.
+std::array<QRect, 4> edges(const QRect& box, int thickness)
+{
+    const int left = box.left() + thickness;
+    const int top = box.top() + thickness;
+    const int right = std::max(box.right() - thickness, left - 1);
+    const int bottom = std::max(box.bottom() - thickness, top - 1);
+    return {QRect(QPoint(box.left(), box.top()), QPoint(left - 1, box.bottom())),
+            QRect(QPoint(left, box.top()), QPoint(right, top - 1)),
+            QRect(QPoint(right + 1, box.top()), box.bottomRight()),
+            QRect(QPoint(left, bottom + 1), QPoint(right, box.bottom()))};
+}
+
+}  // namespace
+
+void GraphicsRendererPrivate::renderContactBoxes(QPainter& painter, ContactBoxCode::BoxType type,
+                                                 QColor interior, QColor border)
+{
+    const ContactBoxes& boxes = contactBoxes[static_cast<size_t>(type - 1)];
+    if (!boxes.visible || boxes.items.isEmpty()) {
+        return;
+    }
+    const QColor& color = ContactBoxes::color[type == ContactBoxCode::Collision ? 1 : 0];
+    interior = interior.isValid() ? interior : color;
+    border = border.isValid() ? border : color;
+    const QBrush marks(interior,
+                       type == ContactBoxCode::Collision ? Qt::FDiagPattern : Qt::BDiagPattern);
+    QColor inside = interior;
+    inside.setAlphaF(interior.alphaF() * ContactBoxes::opacity * 0.5);
+
+    const int thickness = lineThickness();
+    const QPoint anchor = anchorOf(contactMode, contactParent);
+    const QRect visible = visibleRect();
+    const auto fill = [&](const QRect& rect, const auto& filling) {
+        const QRect part = rect & visible;
+        if (!part.isEmpty()) {
+            painter.fillRect(part, filling);
+        }
+    };
+    for (const ContactItem& item : boxes.items) {
+        // A box that is being drawn may go to the left or up.
+        const QRect box = contactRect(item, anchor).normalized();
+        if (item.selected) {
+            fill(box, marks);
+        }
+        fill(box.adjusted(thickness, thickness, 0, 0), inside);
+        for (const QRect& edge : edges(box, thickness)) {
+            fill(edge, border);
+        }
+    }
+}
+
+void GraphicsRendererPrivate::renderContactBoxSizers(QPainter& painter)
+{
+    if (clickMode == GraphicsRenderer::DrawContactBoxMode || !hasSelection) {
+        return;
+    }
+    painter.setPen(QPen(Qt::gray, 1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setBrush(Qt::white);
+    for (int sizer = GraphicsRenderer::TopLeftSizer; sizer <= GraphicsRenderer::RightSizer;
+         ++sizer) {
+        // The outline adds a pixel: eight by eight in all.
+        const QPoint corner = sizerFromSelection(static_cast<RenderElement>(sizer)) - QPoint(4, 4);
+        if (QRect(corner, QSize(8, 8)).intersects(visibleRect())) {
+            painter.drawRect(QRect(corner, QSize(7, 7)));
+        }
+    }
+}
+
+}  // namespace Zorv
