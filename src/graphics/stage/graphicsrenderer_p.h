@@ -40,6 +40,8 @@ public:
     QPoint anchorOfItem(ItemType type, unsigned index, RenderElement* out = nullptr);
     QRect crossRect(int number, RenderElement* out = nullptr);
     QRect contactRect(const ContactItem& item, QPoint anchor) const;
+    QPoint spriteOffset(const SpriteItem& item) const;
+    QSize spriteSize(const SpriteItem& item) const;
     int scaled(int length) const;
     QPoint scaled(QPoint point) const;
 
@@ -69,24 +71,41 @@ public:
     // hittest.cpp
     RenderElement hitTest(QPoint pos);
     RenderElement hitTestGuides(QPoint pos) const;
+    RenderElement hitTestBoxesAndCrosses(QPoint pos);
     RenderElement hitTestContact(QPoint pos);
     RenderElement hitTestCross(int number, QPoint pos);
     RenderElement hitTestSprites(QPoint pos);
+    bool hitTestBoxes(QPoint pos);
+    bool spriteCovers(int index, QPoint pos);
     QPoint sizerFromSelection(RenderElement sizer);
+
+    // stageinput.cpp
+    void setCursor(const QCursor& cursor);
+    void finishPress();
 
     // stagemouse.cpp
     void pressInDrawMode(QPoint pos);
     void pressInOtherModes(QPoint pos, Qt::KeyboardModifiers modifiers);
+    void pressOnBox(bool toggles);
+    void pressInCaptureMode(QPoint pos);
     void drag(QPoint pos);
     void dragElement(QPoint delta, QPoint modelDelta);
+    void dragSprite(QPoint delta, QPoint modelDelta);
+    void dragCross(QPoint delta, QPoint modelDelta);
     void releaseDrag();
     void releaseDrawnBox();
+    void dropDrawnBox();
+    ContactItem* drawnBox();
+    SpriteItem* pressedSprite();
     bool captureColor(QPoint pos, unsigned char& index);
 
     // contactediting.cpp
     void sizeMoveContact(bool size, RenderElement sizer, QPoint delta);
+    void moveContact(QPoint delta);
+    void resizeContact(RenderElement sizer, QPoint delta);
     void resetSelectionRect();
     void updateBoxSelection(const QRect& rect);
+    void unselectBoxes();
     CodeDocument* boxDocument() const;
 
     GraphicsRenderer* q;

@@ -117,13 +117,8 @@ void GraphicsRendererPrivate::renderSprites(int layer)
         }
         const auto number = static_cast<unsigned>(index);
         const QPoint base = anchorOfItem(GraphicsRenderer::SpriteType, number);
-        QPoint offset = scaledPoint(item.position, item.scale);
-        if (positionMode(item.mode) != AbsoluteAnchor) {
-            offset = scaled(offset);
-        }
-        const QSize size(scaled(scaledLength(item.size.width(), item.scale.x())),
-                         scaled(scaledLength(item.size.height(), item.scale.y())));
-        q->renderSprite(base, offset, size, item.rotation, item.flip, item.sprite, number);
+        q->renderSprite(base, spriteOffset(item), spriteSize(item), item.rotation, item.flip,
+                        item.sprite, number);
     }
 }
 

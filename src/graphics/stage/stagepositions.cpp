@@ -117,6 +117,18 @@ QPoint GraphicsRendererPrivate::calcPos(ItemType type, unsigned index, RenderEle
     return stageSum(ownPart(placeOf(type, index)), anchorOfItem(type, index, out));
 }
 
+QPoint GraphicsRendererPrivate::spriteOffset(const SpriteItem& item) const
+{
+    const QPoint offset = scaledPoint(item.position, item.scale);
+    return positionMode(item.mode) == AbsoluteAnchor ? offset : scaled(offset);
+}
+
+QSize GraphicsRendererPrivate::spriteSize(const SpriteItem& item) const
+{
+    return {scaled(scaledLength(item.size.width(), item.scale.x())),
+            scaled(scaledLength(item.size.height(), item.scale.y()))};
+}
+
 QRect GraphicsRendererPrivate::crossRect(int number, RenderElement* out)
 {
     const auto type = static_cast<ItemType>(number);
