@@ -1,8 +1,100 @@
+#include "code/codedoc/contactboxescode.h"
+#include "graphics/stage/boxedits_p.h"
+#include "graphics/stage/graphicsrenderer.h"
 #include "graphics/stage/graphicsrenderer_p.h"
+#include "graphics/stage/positionmode.h"
+#include "graphics/stage/rounding_p.h"
 
 #include <algorithm>
 
 namespace Zorv {
+
+namespace {
+
+bool movesLeft(GraphicsRenderer::RenderElement sizer)
+{
+    return sizer <= GraphicsRenderer::LeftSizer || sizer == GraphicsRenderer::BottomLeftSizer;
+}
+
+bool movesTop(GraphicsRenderer::RenderElement sizer)
+{
+    return sizer <= GraphicsRenderer::TopRightSizer;
+}
+
+/// One axis of a resize: where an edge comes to, and what lengths are multiplied by.
+struct Stretch
+{
+    Stretch(int oldLow, int oldHigh, int newLow, int newHigh)
+    {
+        const double oldLength = oldHigh + 1.0 - oldLow;
+        factor = oldLength == 0 ? 1 : (newHigh + 1.0 - newLow) / oldLength;
+        shift = oldLow * factor - newLow;
+    }
+
+    double place(double source) const { return source * factor - shift; }
+
+    double factor;
+    double shift;
+};
+
+}  // namespace
+
+void GraphicsRendererPrivate::sizeMoveContact(bool size, RenderElement sizer, QPoint delta)
+{
+    if (size) {
+        resizeContact(sizer, delta);
+    } else {
+        moveContact(delta);
+    }
+}
+
+void GraphicsRendererPrivate::moveContact(QPoint delta)
+{
+    const int dx = isMovableX(contactMode) ? delta.x() : 0;
+    const int dy = isMovableY(contactMode) ? delta.y() : 0;
+    if (!isMovable(contactMode)) {
+        return;
+    }
+    for (ContactBoxes& boxes : contactBoxes) {
+        for (ContactItem& item : boxes.items) {
+            if (item.selected) {
+                item.x += dx;
+                item.y += dy;
+            }
+        }
+    }
+    selectionRect = QRect(stageSum(selectionRect.topLeft(), {dx, dy}),
+                          stageSum(selectionRect.bottomRight(), {dx, dy}));
+}
+
+void GraphicsRendererPrivate::resizeContact(RenderElement sizer, QPoint delta)
+{
+    // What was selected at the press may be so no more.
+    if (!hasSelection && clickMode != GraphicsRenderer::DrawContactBoxMode) {
+        return;
+    }
+    QPoint topLeft = selectionStart.topLeft();
+    QPoint bottomRight = selectionStart.bottomRight();
+    const bool left = movesLeft(sizer);
+    const bool top = movesTop(sizer);
+    topLeft = stageSum(topLeft, {left ? delta.x() : 0, top ? delta.y() : 0});
+    bottomRight = stageSum(bottomRight, {left ? 0 : delta.x(), top ? 0 : delta.y()});
+    const Stretch x(selectionStart.left(), selectionStart.right(), topLeft.x(), bottomRight.x());
+    const Stretch y(selectionStart.top(), selectionStart.bottom(), topLeft.y(), bottomRight.y());
+    for (ContactBoxes& boxes : contactBoxes) {
+        for (ContactItem& item : boxes.items) {
+            if (!item.selected) {
+                continue;
+            }
+            const QRect& source = item.box ? item.source : selectionStart;
+            item.x = x.place(source.left());
+            item.y = y.place(source.top());
+            item.width = (source.right() + 1.0 - source.left()) * x.factor;
+            item.height = (source.bottom() + 1.0 - source.top()) * y.factor;
+        }
+    }
+    selectionRect = QRect(topLeft, bottomRight);
+}
 
 void GraphicsRendererPrivate::resetSelectionRect()
 {
@@ -11,10 +103,110 @@ void GraphicsRendererPrivate::resetSelectionRect()
 
 void GraphicsRendererPrivate::updateBoxSelection(const QRect& rect)
 {
-    selectionRect.setCoords(
-        std::min(selectionRect.left(), rect.left()), std::min(selectionRect.top(), rect.top()),
-        std::max(selectionRect.right(), rect.right()),
-        std::max(selectionRect.bottom(), rect.bottom()));
+    selectionRect.setCoords(std::min(selectionRect.left(), rect.left()),
+                            std::min(selectionRect.top(), rect.top()),
+                            std::max(selectionRect.right(), rect.right()),
+                            std::max(selectionRect.bottom(), rect.bottom()));
+}
+
+void GraphicsRendererPrivate::unselectBoxes()
+{
+    for (ContactBoxes& boxes : contactBoxes) {
+        for (ContactItem& item : boxes.items) {
+            item.selected = false;
+        }
+    }
+}
+
+CodeDocument* GraphicsRendererPrivate::boxDocument() const
+{
+    for (const ContactBoxes& boxes : contactBoxes) {
+        const ContactBoxesCode* code = boxes.code.get();
+        if (code && !boxes.items.isEmpty()) {
+            return code->document();
+        }
+    }
+    return nullptr;
+}
+
+void GraphicsRenderer::deselectContactBoxes()
+{
+    d->hasSelection = false;
+    d->resetSelectionRect();
+    d->unselectBoxes();
+}
+
+void GraphicsRenderer::moveSelectedContactBoxes(QPoint delta)
+{
+    if (!d->hasSelection) {
+        return;
+    }
+    const bool isAbsolute = positionMode(d->contactMode) == AbsoluteAnchor;
+    d->sizeMoveContact(false, ContactBoxElement, isAbsolute ? d->scaled(delta) : delta);
+    update();
+}
+
+void GraphicsRenderer::updateSelectedBoxes()
+{
+    int selected = 0;
+    BoxEdits edits;
+    for (std::size_t list = 0; list < edits.size(); ++list) {
+        const ContactBoxes& boxes = d->contactBoxes[list];
+        for (int i = 0; i < boxes.items.size(); ++i) {
+            const ContactItem& item = boxes.items.at(i);
+            const ContactBoxCode* box = item.selected ? boxes.code.box(i, item.box) : nullptr;
+            if (!box) {
+                continue;
+            }
+            ++selected;
+            if (item.rect() != box->rect()) {
+                edits[list].append({i, item.normalRect()});
+            }
+        }
+    }
+    CodeDocument* document = selected > 1 ? d->boxDocument() : nullptr;
+    applyBoxEdits(edits, d->contactBoxes, document, tr("Change contact box rectangle"));
+}
+
+void GraphicsRenderer::removeSelectedContactBoxes()
+{
+    if (!d->hasSelection) {
+        return;
+    }
+    CodeDocument* document = d->boxDocument();
+    BoxEdits edits;
+    for (std::size_t list = 0; list < edits.size(); ++list) {
+        ContactBoxes& boxes = d->contactBoxes[list];
+        // From the last on, so that the places of the others stay what they are.
+        for (int i = boxes.items.size() - 1; i >= 0; --i) {
+            const ContactItem& item = boxes.items.at(i);
+            if (item.selected && boxes.code.box(i, item.box)) {
+                edits[list].append({i, QRect()});
+            }
+        }
+        const auto isSelected = [](const ContactItem& item) { return item.selected; };
+        boxes.items.erase(std::remove_if(boxes.items.begin(), boxes.items.end(), isSelected),
+                          boxes.items.end());
+    }
+    d->resetSelectionRect();
+    d->hasSelection = false;
+    applyBoxEdits(edits, d->contactBoxes, document, tr("Remove selected contact boxes"));
+    update();
+}
+
+QList<ContactBoxCode*> GraphicsRenderer::selectedContactBoxes()
+{
+    QList<ContactBoxCode*> selected;
+    for (const ContactBoxes& boxes : qAsConst(d->contactBoxes)) {
+        for (int i = 0; i < boxes.items.size(); ++i) {
+            const ContactItem& item = boxes.items.at(i);
+            ContactBoxCode* box = item.selected ? boxes.code.box(i, item.box) : nullptr;
+            if (box) {
+                selected.append(box);
+            }
+        }
+    }
+    return selected;
 }
 
 }  // namespace Zorv

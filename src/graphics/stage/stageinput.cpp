@@ -1,3 +1,4 @@
+#include "graphics/renderwidget.h"
 #include "graphics/stage/graphicsrenderer.h"
 #include "graphics/stage/graphicsrenderer_p.h"
 
@@ -5,48 +6,162 @@
 
 namespace Zorv {
 
-void GraphicsRenderer::setPositioningMode() {}
+namespace {
 
-void GraphicsRenderer::setDrawContactBoxMode(ContactBoxCode::BoxType) {}
+constexpr Qt::CursorShape s_cursors[] = {
+    Qt::OpenHandCursor,   // stage
+    Qt::SizeAllCursor,    // sprite
+    Qt::SizeAllCursor,    // crosses
+    Qt::SizeAllCursor,    //
+    Qt::SizeAllCursor,    //
+    Qt::SizeVerCursor,    // horizontal guide
+    Qt::SizeHorCursor,    // vertical guide
+    Qt::SizeAllCursor,    // box
+    Qt::SizeFDiagCursor,  // sizers
+    Qt::SizeVerCursor,   Qt::SizeHorCursor,   Qt::SizeBDiagCursor, Qt::SizeBDiagCursor,
+    Qt::SizeVerCursor,   Qt::SizeFDiagCursor, Qt::SizeHorCursor,
+};
+constexpr int ElementCount = sizeof s_cursors / sizeof *s_cursors;
 
-void GraphicsRenderer::setCaptureMode() {}
+bool isBoxType(ContactBoxCode::BoxType type)
+{
+    return type >= 1 && type <= BoxTypes;
+}
+
+}  // namespace
+
+void GraphicsRendererPrivate::setCursor(const QCursor& cursor)
+{
+    if (RenderWidget* widget = q->widget()) {
+        widget->setCursor(cursor);
+    }
+}
+
+/// Modes and presses begin with no drag under way: what was dragged stays there, as if the button
+/// had been released, and a box that is not yet drawn to its end goes.
+void GraphicsRendererPrivate::finishPress()
+{
+    const bool isDragging = leftButtonDown && moved;
+    leftButtonDown = false;
+    moved = false;
+    if (clickMode == GraphicsRenderer::DrawContactBoxMode) {
+        dropDrawnBox();
+    } else if (isDragging) {
+        releaseDrag();
+    }
+}
+
+void GraphicsRenderer::setPositioningMode()
+{
+    d->finishPress();
+    const QVector<ContactItem>& items = d->contactBoxes[size_t(d->boxListIndex)].items;
+    if (d->clickMode == DrawContactBoxMode && items.size() > d->boxCountAtDrawStart) {
+        deselectContactBoxes();
+        d->hasSelection = true;
+        ContactItem& drawn = d->contactBoxes[size_t(d->boxListIndex)].items.last();
+        drawn.selected = true;
+        d->updateBoxSelection(drawn.rect());
+        update();
+    }
+    d->clickMode = PositioningMode;
+}
+
+void GraphicsRenderer::setDrawContactBoxMode(ContactBoxCode::BoxType type)
+{
+    if (!isBoxType(type)) {
+        return;
+    }
+    d->finishPress();
+    d->clickMode = DrawContactBoxMode;
+    d->boxListIndex = type - 1;
+    d->boxCountAtDrawStart = d->contactBoxes[size_t(d->boxListIndex)].items.size();
+    deselectContactBoxes();
+}
+
+void GraphicsRenderer::setCaptureMode()
+{
+    d->finishPress();
+    if (d->clickMode == DrawContactBoxMode && d->selectionRect.width() > 0) {
+        update();
+    }
+    d->clickMode = CaptureMode;
+    deselectContactBoxes();
+}
 
 GraphicsRenderer::ClickMode GraphicsRenderer::clickMode() const
 {
-    return ClickMode{};
+    return ClickMode(d->clickMode);
 }
 
-void GraphicsRenderer::deselectContactBoxes() {}
-
-void GraphicsRenderer::moveSelectedContactBoxes(QPoint) {}
-
-void GraphicsRenderer::removeSelectedContactBoxes() {}
-
-void GraphicsRenderer::updateSelectedBoxes() {}
-
-QList<ContactBoxCode*> GraphicsRenderer::selectedContactBoxes()
+// What a drag holds stays what it is while somebody asks.
+GraphicsRenderer::RenderElement GraphicsRenderer::hitTest(QPoint pos)
 {
-    return {};
+    const int item = d->itemIndex;
+    const int list = d->boxListIndex;
+    const RenderElement found = d->hitTest(pos);
+    if (d->leftButtonDown) {
+        d->itemIndex = item;
+        d->boxListIndex = list;
+    }
+    return found;
 }
 
-GraphicsRenderer::RenderElement GraphicsRenderer::hitTest(QPoint)
+QCursor GraphicsRenderer::elementCursor(RenderElement element) const
 {
-    return RenderElement{};
+    if (element < 0 || element >= ElementCount) {
+        return Qt::ArrowCursor;
+    }
+    if (element == StageElement && d->clickMode == DrawContactBoxMode) {
+        return Qt::CrossCursor;
+    }
+    if (element == StageElement && d->leftButtonDown) {
+        return Qt::ClosedHandCursor;
+    }
+    if (element == SpriteElement && d->clickMode == CaptureMode) {
+        return Qt::CrossCursor;
+    }
+    return s_cursors[element];
 }
 
-QCursor GraphicsRenderer::elementCursor(RenderElement) const
+void GraphicsRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
 {
-    return QCursor{};
+    if (key == Qt::Key_Control) {
+        d->setCursor(Qt::OpenHandCursor);
+    }
+    if (modifiers != Qt::NoModifier) {
+        return;
+    }
+    QPoint step;
+    switch (key) {
+    case Qt::Key_Delete:
+        removeSelectedContactBoxes();
+        return;
+    case Qt::Key_Left:
+        step = {-1, 0};
+        break;
+    case Qt::Key_Up:
+        step = {0, -1};
+        break;
+    case Qt::Key_Right:
+        step = {1, 0};
+        break;
+    case Qt::Key_Down:
+        step = {0, 1};
+        break;
+    default:
+        return;
+    }
+    moveSelectedContactBoxes(step);
+    emit itemReleased(ContactBoxesType, nullptr, QPoint());
+    update();
 }
 
-void GraphicsRenderer::keyPressed(int, Qt::KeyboardModifiers) {}
-
-void GraphicsRenderer::keyReleased(int, Qt::KeyboardModifiers) {}
-
-void GraphicsRenderer::mousePressed(QPoint, Qt::MouseButton, Qt::KeyboardModifiers) {}
-
-void GraphicsRenderer::mouseReleased(QPoint, Qt::MouseButton, Qt::KeyboardModifiers) {}
-
-void GraphicsRenderer::mouseMoved(QPoint, Qt::KeyboardModifiers) {}
+void GraphicsRenderer::keyReleased(int key, Qt::KeyboardModifiers)
+{
+    RenderWidget* view = widget();
+    if (key == Qt::Key_Control && view) {
+        d->setCursor(elementCursor(hitTest(view->mapFromGlobal(QCursor::pos()))));
+    }
+}
 
 }  // namespace Zorv

@@ -26,6 +26,13 @@ QRect ContactItem::rect() const
                                       roundedInt(top - 1.0 + std::floor(height + 0.5)))};
 }
 
+QRect ContactItem::normalRect() const
+{
+    const QRect whole = rect();
+    return {QPoint(std::min(whole.left(), whole.right()), std::min(whole.top(), whole.bottom())),
+            QPoint(std::max(whole.left(), whole.right()), std::max(whole.top(), whole.bottom()))};
+}
+
 void ContactItem::setRect(const QRect& rect)
 {
     x = rect.left();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics/stage/boxlist_p.h"
 #include "zorv_export.h"
 
 #include <QBrush>
@@ -13,8 +14,6 @@
 
 namespace Zorv {
 
-class ContactBoxCode;
-class ContactBoxesCode;
 class Sprite;
 
 /// One of the three crosses. Its position is in model units, or absolute for anchor 0.
@@ -63,10 +62,14 @@ struct ZORV_EXPORT ContactItem
     double y = 0;
     double width = 0;
     double height = 0;
+    QRect source;  // the box in the text, from which a resize starts
     bool selected = false;
 
     /// Rounded, with right and bottom inclusive.
     QRect rect() const;
+
+    /// The same with left and top first: a box can be drawn or stretched the other way round.
+    QRect normalRect() const;
     void setRect(const QRect& rect);
 };
 
@@ -76,7 +79,7 @@ struct ZORV_EXPORT ContactBoxes
     static QColor color[2];
     static float opacity;
 
-    ContactBoxesCode* code = nullptr;
+    BoxList code;
     QVector<ContactItem> items;
     bool visible = true;
 };
