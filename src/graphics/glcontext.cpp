@@ -1,11 +1,18 @@
 #include "graphics/glcontext.h"
 
+#include "graphics/glcontext_p.h"
 #include "graphics/resetter.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
+#include <QThread>
+
+#include <memory>
+#include <mutex>
+#include <unordered_set>
+#include <vector>
 
 namespace Zorv {
 
@@ -14,25 +21,59 @@ Resetter* s_resetter = nullptr;
 
 namespace {
 
-QOpenGLContext* s_context = nullptr;
+struct SharedContext
+{
+    QOpenGLContext context;
+    Resetter resetter;
+    std::unordered_set<unsigned int> names;
+    bool isUsable = false;
+};
+
+// On the heap: textures may die after all statics.
+SharedContext* s_shared = nullptr;
 QOffscreenSurface* s_surface = nullptr;
-bool s_isUsable = false;
+quint32 s_nameCount = 0;
+
+// Guards the resetter and the number, which dying textures ask for. Recursive, for
+// in the thread of the context the deletion runs right in the signal.
+std::recursive_mutex s_mutex;
+quint32 s_contextNumber = 0;
+
+/// Qt warns when it is asked for a context that its platform has not.
+bool hasPlatformGl()
+{
+    return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) &&
+           QGuiApplication::platformName() != QLatin1String("minimal");
+}
+
+bool setUp(QOpenGLContext& context)
+{
+    context.setFormat(QSurfaceFormat::defaultFormat());
+    context.setShareContext(QOpenGLContext::globalShareContext());
+    return hasPlatformGl() && context.create() && context.makeCurrent(surface()) &&
+           context.functions()->hasOpenGLFeature(QOpenGLFunctions::Shaders);
+}
 
 }  // namespace
 
 QOpenGLContext* context()
 {
-    if (!s_context) {
-        s_context = new QOpenGLContext;
-        s_context->setFormat(QSurfaceFormat::defaultFormat());
-        s_context->setShareContext(QOpenGLContext::globalShareContext());
-        s_isUsable = s_context->create() && s_context->makeCurrent(surface());
-        s_hasNPOT =
-            s_isUsable && s_context->functions()->hasOpenGLFeature(QOpenGLFunctions::NPOTTextures);
+    if (!s_shared) {
+        QOpenGLContext* const previous = QOpenGLContext::currentContext();
+        QSurface* const previousSurface = previous ? previous->surface() : nullptr;
+        s_shared = new SharedContext;
+        s_shared->isUsable = setUp(s_shared->context);
+        s_hasNPOT = s_shared->isUsable &&
+                    s_shared->context.functions()->hasOpenGLFeature(QOpenGLFunctions::NPOTTextures);
         qAddPostRoutine(freeContext);
-        s_resetter = new Resetter;
+        const std::lock_guard lock(s_mutex);
+        ++s_contextNumber;
+        s_resetter = &s_shared->resetter;
+        if (previous) {
+            previous->makeCurrent(previousSurface);
+        }
     }
-    return s_context;
+    return &s_shared->context;
 }
 
 QOffscreenSurface* surface()
@@ -47,17 +88,81 @@ QOffscreenSurface* surface()
 bool isContextUsable()
 {
     context();
-    return s_isUsable;
+    return s_shared->isUsable;
 }
 
 void freeContext()
 {
-    delete s_resetter;
-    s_resetter = nullptr;
-    delete s_context;
-    s_context = nullptr;
+    if (s_shared) {
+        {
+            const std::lock_guard lock(s_mutex);
+            s_resetter = nullptr;
+        }
+        // The context of a widget, and that of the application, would keep them alive.
+        const std::vector<unsigned int> names(s_shared->names.begin(), s_shared->names.end());
+        const ContextScope scope;
+        if (scope.gl() && !names.empty()) {
+            scope.gl()->glDeleteTextures(GLsizei(names.size()), names.data());
+        }
+        qRemovePostRoutine(freeContext);
+    }
+    delete s_shared;
+    s_shared = nullptr;
     delete s_surface;
     s_surface = nullptr;
+}
+
+ContextScope::ContextScope()
+    : m_previous(QOpenGLContext::currentContext()),
+      m_previousSurface(m_previous ? m_previous->surface() : nullptr)
+{
+    QOpenGLContext* const shared = context();
+    if (s_shared->isUsable && shared->thread() == QThread::currentThread() &&
+        shared->makeCurrent(surface())) {
+        m_gl = shared->functions();
+    }
+}
+
+ContextScope::~ContextScope()
+{
+    if (m_gl && m_previous && m_previous != QOpenGLContext::currentContext()) {
+        m_previous->makeCurrent(m_previousSurface);
+    }
+}
+
+quint32 contextNumber()
+{
+    const std::lock_guard lock(s_mutex);
+    return s_resetter ? s_contextNumber : 0;
+}
+
+unsigned int makeTextureName(QOpenGLFunctions& gl)
+{
+    GLuint id = 0;
+    gl.glGenTextures(1, &id);
+    s_shared->names.insert(id);
+    ++s_nameCount;
+    return id;
+}
+
+void deleteTextureName(QOpenGLFunctions& gl, unsigned int id)
+{
+    gl.glDeleteTextures(1, &id);
+    s_shared->names.erase(id);
+}
+
+void releaseTextureName(unsigned int id, quint32 number)
+{
+    const std::lock_guard lock(s_mutex);
+    if (s_resetter) {
+        const bool isOfThisContext = number == 0 || number == s_contextNumber;
+        emit s_resetter->resetOnRenderThread(isOfThisContext ? id : 0);
+    }
+}
+
+quint32 textureNameCount()
+{
+    return s_nameCount;
 }
 
 }  // namespace Zorv

@@ -2,11 +2,27 @@
 
 #include "graphics/renderwidget.h"
 #include "graphics/renderwidget_p.h"
+#include "graphics/texture.h"
+
+#include <QMetaMethod>
 
 namespace Zorv {
 
+namespace {
+
+// Rows of a texture stand bottom first: the upper end of the square is the start of the texture.
+const float s_unitSquare[] = {0, 1, 0, 0, 1, 0, 1, 0, 1, 1, 0, 1};
+
+}  // namespace
+
 Renderer::Renderer() = default;
-Renderer::~Renderer() = default;
+
+Renderer::~Renderer()
+{
+    if (m_widget) {
+        m_widget->d->renderer = nullptr;
+    }
+}
 
 void Renderer::keyPressed(int, Qt::KeyboardModifiers) {}
 void Renderer::keyReleased(int, Qt::KeyboardModifiers) {}
@@ -21,20 +37,77 @@ QColor Renderer::clearColor() const
     return Qt::magenta;
 }
 
-void Renderer::glBeginTextureDrawing() {}
-void Renderer::glEndTextureDrawing() {}
-void Renderer::glSetBlend(bool) {}
-void Renderer::glSetBlendEquation(BlendEquation) {}
-void Renderer::glSetBlendFunction(BlendFactor, BlendFactor) {}
-
-void Renderer::glDrawImage(const QMatrix4x4&, Texture*, Texture*, unsigned char, float, bool,
-                           unsigned char)
+// Null until the widget has GL.
+TextureDrawing* Renderer::drawing() const
 {
+    return m_widget && m_widget->d->drawing.hasPrograms() ? &m_widget->d->drawing : nullptr;
 }
 
-void Renderer::glDrawImageTiled(QPoint, QPoint, const QMatrix4x4&, Texture*, Texture*,
-                                unsigned char, float, bool)
+void Renderer::glBeginTextureDrawing()
 {
+    if (TextureDrawing* const state = drawing()) {
+        state->begin();
+    }
+}
+
+void Renderer::glEndTextureDrawing()
+{
+    if (TextureDrawing* const state = drawing()) {
+        state->end(*this);
+    }
+}
+
+void Renderer::glSetBlend(bool on)
+{
+    if (TextureDrawing* const state = drawing()) {
+        state->setBlend(*this, on);
+    }
+}
+
+void Renderer::glSetBlendEquation(BlendEquation equation)
+{
+    if (TextureDrawing* const state = drawing()) {
+        state->setBlendEquation(*this, equation);
+    }
+}
+
+void Renderer::glSetBlendFunction(BlendFactor source, BlendFactor destination)
+{
+    if (TextureDrawing* const state = drawing()) {
+        state->setBlendFunction(*this, source, destination);
+    }
+}
+
+void Renderer::glDrawImage(const QMatrix4x4& matrix, Texture* image, Texture* palette,
+                           unsigned char flip, float opacity, bool mask, unsigned char shader)
+{
+    TextureDrawing* const state = drawing();
+    if (!state || !image || image->id == 0 || image->kind <= Texture::PaletteKind ||
+        image->isStale() || shader >= Shader::Variants) {
+        return;
+    }
+    Shader& family = image->kind == Texture::IndexedKind ? state->indexed : state->rgba;
+    if (!state->bind(*this, family, shader, *image, palette)) {
+        return;
+    }
+    state->setMaskAndOpacity(*this, mask, opacity);
+    state->setMatrix(*this, state->projection * matrix);
+    letOthersSetUniforms();
+    const float* const texCoords =
+        state->unitTexCoords(float(image->uMax), float(image->vMax), flip);
+    state->draw(*this, s_unitSquare, texCoords, 6);
+}
+
+// Whoever listens may set any uniform, bind textures and leave another unit active.
+void Renderer::letOthersSetUniforms()
+{
+    TextureDrawing& state = m_widget->d->drawing;
+    emit m_widget->setCustomShaderUniformValues(state.lastProgram);
+    static const QMetaMethod signal =
+        QMetaMethod::fromSignal(&RenderWidget::setCustomShaderUniformValues);
+    if (m_widget->isSignalConnected(signal)) {
+        state.forget();
+    }
 }
 
 void Renderer::update()

@@ -13,6 +13,7 @@ namespace Zorv {
 
 class RenderWidget;
 class Texture;
+class TextureDrawing;
 
 /// What a `RenderWidget` shows, and what its input goes to.
 ///
@@ -93,6 +94,11 @@ public:
 
 private:
     friend class RenderWidget;
+
+    TextureDrawing* drawing() const;
+    void letOthersSetUniforms();
+    void drawRepeated(QPoint tiles, const Texture& image, unsigned char flip);
+    void drawTiles(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix);
 
     RenderWidget* m_widget = nullptr;
 };

@@ -3,54 +3,169 @@
 #include "graphics/renderer.h"
 #include "graphics/renderwidget_p.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+#include <QPainter>
+#include <QWheelEvent>
+
 namespace Zorv {
 
 RenderWidget::RenderWidget(QWidget* parent)
     : QOpenGLWidget(parent), d(std::make_unique<RenderWidgetPrivate>())
 {
+    setAutoFillBackground(false);
+    setMouseTracking(true);
 }
 
-RenderWidget::~RenderWidget() = default;
+RenderWidget::~RenderWidget()
+{
+    if (d->renderer) {
+        d->renderer->m_widget = nullptr;
+    }
+    if (QOpenGLContext* const own = context()) {
+        own->disconnect(this);
+        freePrograms();
+    }
+}
 
 Renderer* RenderWidget::renderer() const
 {
     return d->renderer;
 }
 
-void RenderWidget::setRenderer(Renderer*) {}
-void RenderWidget::setCustomPixelShader(const char*, const char*) {}
-void RenderWidget::initializeGL() {}
-void RenderWidget::resizeGL(int, int) {}
-void RenderWidget::paintGL() {}
+void RenderWidget::setRenderer(Renderer* renderer)
+{
+    if (d->renderer) {
+        d->renderer->m_widget = nullptr;
+    }
+    d->renderer = renderer;
+    if (!renderer) {
+        return;
+    }
+    if (renderer->m_widget) {
+        renderer->m_widget->d->renderer = nullptr;
+    }
+    renderer->m_widget = this;
+    makeCurrent();
+    if (d->drawing.hasPrograms()) {
+        renderer->initializeOpenGLFunctions();
+    }
+    renderer->sizeChanged(width(), height());
+}
+
+void RenderWidget::setCustomPixelShader(const char* indexedSource, const char* rgbaSource)
+{
+    if (!d->drawing.hasPrograms()) {
+        return;
+    }
+    const bool isCurrent = QOpenGLContext::currentContext() == context();
+    if (!isCurrent) {
+        makeCurrent();
+    }
+    setupShader(d->drawing.indexed, indexedSource, s_indexedShader);
+    setupShader(d->drawing.rgba, rgbaSource, s_rgbaShader);
+    if (!isCurrent) {
+        doneCurrent();
+    }
+}
+
+void RenderWidget::initializeGL()
+{
+    QOpenGLFunctions& gl = *context()->functions();
+    gl.glClearColor(1, 1, 1, 1);
+    gl.glDisable(GL_DEPTH_TEST);
+    gl.glDisable(GL_STENCIL_TEST);
+    // In a window of another context the widget gets a new one, too.
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &RenderWidget::freePrograms);
+    d->drawing.makePrograms(this);
+    setCustomPixelShader(nullptr, nullptr);
+    if (d->renderer) {
+        d->renderer->initializeOpenGLFunctions();
+    }
+    emit initialize();
+}
+
+void RenderWidget::freePrograms()
+{
+    makeCurrent();
+    d->drawing.deletePrograms();
+    doneCurrent();
+}
+
+void RenderWidget::resizeGL(int width, int height)
+{
+    if (d->renderer) {
+        d->renderer->sizeChanged(width, height);
+    }
+    d->drawing.projection.setToIdentity();
+    d->drawing.projection.ortho(QRect(0, 0, width, height));
+}
+
+void RenderWidget::paintGL()
+{
+    QOpenGLFunctions& gl = *context()->functions();
+    if (d->renderer) {
+        const QColor color = d->renderer->clearColor();
+        gl.glClearColor(float(color.redF()), float(color.greenF()), float(color.blueF()), 1.0F);
+    }
+    gl.glClear(GL_COLOR_BUFFER_BIT);
+    if (d->renderer) {
+        QPainter painter(this);
+        d->renderer->render(painter);
+    }
+}
 
 void RenderWidget::keyPressEvent(QKeyEvent* event)
 {
     QOpenGLWidget::keyPressEvent(event);
+    if (d->renderer) {
+        d->renderer->keyPressed(event->key(), event->modifiers());
+    }
 }
 
 void RenderWidget::keyReleaseEvent(QKeyEvent* event)
 {
     QOpenGLWidget::keyReleaseEvent(event);
+    if (d->renderer) {
+        d->renderer->keyReleased(event->key(), event->modifiers());
+    }
 }
 
 void RenderWidget::mousePressEvent(QMouseEvent* event)
 {
     QOpenGLWidget::mousePressEvent(event);
+    if (d->renderer) {
+        d->renderer->mousePressed(event->localPos().toPoint(), event->button(), event->modifiers());
+    }
 }
 
 void RenderWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     QOpenGLWidget::mouseReleaseEvent(event);
+    if (d->renderer) {
+        d->renderer->mouseReleased(event->localPos().toPoint(), event->button(),
+                                   event->modifiers());
+    }
 }
 
 void RenderWidget::mouseMoveEvent(QMouseEvent* event)
 {
     QOpenGLWidget::mouseMoveEvent(event);
+    if (d->renderer) {
+        d->renderer->mouseMoved(event->localPos().toPoint(), event->modifiers());
+    }
 }
 
+// The greater of the two directions: with Alt held a wheel turns sideways.
 void RenderWidget::wheelEvent(QWheelEvent* event)
 {
     QOpenGLWidget::wheelEvent(event);
+    if (d->renderer) {
+        const QPoint angle = event->angleDelta();
+        d->renderer->mouseWheel(qAbs(angle.x()) > qAbs(angle.y()) ? angle.x() : angle.y());
+    }
 }
 
 }  // namespace Zorv

@@ -57,6 +57,8 @@ protected:
 private:
     friend class Renderer;
 
+    void freePrograms();
+
     std::unique_ptr<RenderWidgetPrivate> d;
 };
 

@@ -1,14 +1,32 @@
 #pragma once
 
+#include <array>
+
 class QOpenGLShaderProgram;
 
 namespace Zorv {
+
+/// The values that the uniforms of a program are known to have.
+struct Uniforms
+{
+    int image = -1;
+    int palette = -1;
+    int mask = -1;
+    float opacity = 0;
+    bool hasOpacity = false;
+    bool hasMatrix = false;
+    std::array<float, 16> matrix;
+};
 
 /// The four programs of one kind of image, indexed by `Renderer::Shading`, and where their inputs
 /// stand, which is the same in all four.
 struct Shader
 {
-    QOpenGLShaderProgram* programs[4] = {};
+    static constexpr int Variants = 4;
+
+    QOpenGLShaderProgram* programs[Variants] = {};
+    bool isWhole[Variants] = {};  // compiled and linked
+    Uniforms uniforms[Variants];
     int matrix = -1;
     int mask = -1;
     int position = -1;

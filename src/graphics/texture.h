@@ -7,6 +7,7 @@
 #include <QSize>
 
 class QImage;
+class QOpenGLFunctions;
 
 namespace Zorv {
 
@@ -48,15 +49,17 @@ public:
     /// there.
     void fromImage(const QImage& image);
 
-    /// Makes a palette texture of 256 colours.
+    /// Makes a palette texture of 256 colours. Null deletes what was there.
     void fromPalette(const RGBA* palette);
 
-    /// Makes the texture of prepared data. Empty bytes delete what was there; `id` and the rest
-    /// keep their values then, and the texture draws nothing.
+    /// Makes the texture of prepared data. Empty or too few bytes delete what was there; `id` and
+    /// the rest keep their values then, and the texture draws nothing. So it is for an image larger
+    /// than `GL_MAX_TEXTURE_SIZE`, but for its fields.
     void fromData(const ImageData& data);
 
-    /// Prepares an upload. An image that is not indexed must have 32 bits a pixel. On any thread
-    /// once the context is made.
+    /// Prepares an upload. An image that is not indexed must have 32 bits a pixel and no bytes
+    /// between its rows, or its rows come out shifted. Bytes stay empty for a null image and for
+    /// more than a gigabyte. On any thread once the context is made.
     static void dataFromImage(const QImage& image, ImageData& data);
 
     /// Deletes the texture at once; `id` is 0.
@@ -65,6 +68,9 @@ public:
     /// Exchanges the names alone.
     void swap(Texture& other);
 
+    /// True if `id` was a name, but has been deleted, or has gone with its context.
+    bool isStale() const;
+
     int kind = Empty;
     quint32 id = 0;      ///< the name in GL; 0 for none
     double uMax = -1.0;  ///< width of the image over that of the texture
@@ -72,7 +78,11 @@ public:
     QSize size{-1, -1};  ///< of the image
 
 private:
-    bool m_isStale = false;  // the name has been deleted already
+    void deleteName(QOpenGLFunctions* gl);
+    void makeName(QOpenGLFunctions& gl);
+
+    bool m_isDeleted = false;
+    quint32 m_contextNumber = 0;
 };
 
 }  // namespace Zorv

@@ -1,0 +1,156 @@
+#include "graphics/renderer.h"
+
+#include "graphics/renderwidget.h"
+#include "graphics/renderwidget_p.h"
+#include "graphics/texture.h"
+
+#include <QVector4D>
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Zorv {
+
+namespace {
+
+constexpr qint64 MaxTiles = 1 << 16;
+
+/// The numbers of the tiles of one direction that are drawn: each lies `step` behind the one before
+/// it, from 0, and is 1 wide.
+struct TileRange
+{
+    int first = 0;
+    int count = 0;
+    double step = 0;
+
+    /// Leaves out what lies outside of `from` to `to`.
+    void clip(double from, double to)
+    {
+        if (!std::isfinite(from) || !std::isfinite(to) || step == 0) {
+            return;
+        }
+        double low = (from - 1) / step;
+        double high = to / step;
+        if (step < 0) {
+            low = to / step;
+            high = (from - 1) / step;
+        }
+        low = std::clamp(std::floor(low), 0.0, double(count));
+        high = std::clamp(std::ceil(high), -1.0, double(count - 1));
+        first = int(low);
+        count = std::max(int(high) - first + 1, 0);
+    }
+};
+
+/// More tiles than GL should be asked for: those outside of the widget are left out, and of those
+/// that lie on top of each other there are enough.
+void bound(TileRange& columns, TileRange& rows, const QMatrix4x4& matrix)
+{
+    bool isInvertible = false;
+    const QMatrix4x4 inverse = matrix.inverted(&isInvertible);
+    if (!isInvertible) {
+        rows.count = 0;
+        return;
+    }
+    if (matrix.row(3) == QVector4D(0, 0, 0, 1)) {
+        const QRectF shown = inverse.mapRect(QRectF(-1, -1, 2, 2));
+        columns.clip(shown.left(), shown.right());
+        rows.clip(shown.top(), shown.bottom());
+    }
+    columns.count = int(std::min<qint64>(columns.count, MaxTiles));
+    rows.count = int(std::min<qint64>(rows.count, MaxTiles / std::max(columns.count, 1)));
+}
+
+/// Two triangles a tile, and as many degenerate ones behind: the draw takes a vertex for every
+/// number of the filled half.
+void fillTiles(std::vector<float>& out, const TileRange& columns, const TileRange& rows)
+{
+    out.clear();
+    out.reserve(size_t(columns.count) * size_t(rows.count) * 24);
+    for (int row = rows.first; row < rows.first + rows.count; ++row) {
+        const auto top = float(row * rows.step);
+        const auto bottom = float(row * rows.step + 1);
+        for (int column = columns.first; column < columns.first + columns.count; ++column) {
+            const auto left = float(column * columns.step);
+            const auto right = float(column * columns.step + 1);
+            out.insert(out.end(), {left, bottom, left, top, right, top, right, top, right, bottom,
+                                   left, bottom});
+        }
+    }
+    out.resize(out.size() * 2, 0.0F);
+}
+
+/// As many as fit, and by how many sizes of the image they begin before the origin.
+void fillWidget(int& tiles, double& offset, int widgetSide, int imageSide, double origin)
+{
+    if (tiles < 2) {
+        tiles = qCeil(double(widgetSide) / imageSide);
+        offset = -double(imageSide) * qCeil(origin / imageSide);
+    }
+}
+
+}  // namespace
+
+void Renderer::glDrawImageTiled(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix,
+                                Texture* image, Texture* palette, unsigned char flip, float opacity,
+                                bool mask)
+{
+    TextureDrawing* const state = drawing();
+    if (!state || !image || image->id == 0 || image->isStale() || image->size.isEmpty()) {
+        return;
+    }
+    static const bool supportNPOT = hasOpenGLFeature(NPOTTextures);
+    const bool isEven = image->size.width() % 2 == 0 && image->size.height() % 2 == 0;
+    const QPointF origin = (state->projection * matrix).map(QPointF(0, 0));
+    double offsetX = 0;
+    double offsetY = 0;
+    fillWidget(tiles.rx(), offsetX, m_widget->width(), image->size.width(), origin.x());
+    fillWidget(tiles.ry(), offsetY, m_widget->height(), image->size.height(), origin.y());
+
+    if (!state->bind(*this, palette ? state->indexed : state->rgba, Plain, *image, palette)) {
+        return;
+    }
+    QMatrix4x4 moved = matrix;
+    if (offsetX != 0 || offsetY != 0) {
+        moved.translate(float(offsetX), float(offsetY));
+    }
+    moved = state->projection * moved;
+    state->setMatrix(*this, moved);
+    state->setMaskAndOpacity(*this, mask, opacity);
+    letOthersSetUniforms();
+    if (spacing.isNull() && (supportNPOT || isEven)) {
+        drawRepeated(tiles, *image, flip);
+    } else {
+        drawTiles(tiles, spacing, moved);
+    }
+}
+
+// One square, over which the texture repeats.
+void Renderer::drawRepeated(QPoint tiles, const Texture& image, unsigned char flip)
+{
+    TextureDrawing& state = m_widget->d->drawing;
+    const auto x = float(tiles.x());
+    const auto y = float(tiles.y());
+    state.tiles.assign({0, y, 0, 0, x, 0, x, 0, x, y, 0, y});
+    const float* const texCoords =
+        state.unitTexCoords(x * float(image.uMax), y * float(image.vMax), flip);
+    state.draw(*this, state.tiles.data(), texCoords, 6);
+}
+
+// The places of the corners are their texture coordinates, too. The gap is measured from the place
+// that the projection gives it.
+void Renderer::drawTiles(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix)
+{
+    TextureDrawing& state = m_widget->d->drawing;
+    const QPointF gap = state.projection.map(QPointF(spacing));
+    TileRange columns{0, std::max(tiles.x(), 0), gap.x() + 1.0};
+    TileRange rows{0, std::max(tiles.y(), 0), gap.y() + 1.0};
+    if (qint64(columns.count) * rows.count > MaxTiles) {
+        bound(columns, rows, matrix);
+    }
+    fillTiles(state.tiles, columns, rows);
+    state.draw(*this, state.tiles.data(), state.tiles.data(), int(state.tiles.size() / 2));
+}
+
+}  // namespace Zorv
