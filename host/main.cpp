@@ -131,6 +131,8 @@ int runInWindow(int& argc, char** argv, const QStringList& arguments)
     }
     if (hasPlatform || isPicture) {
         QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+        // The stage shows textures that are made in the context of the library.
+        QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
         // A screen at one and a half is one at one and a half: the icons are drawn for it.
         QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
             Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
