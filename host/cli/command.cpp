@@ -11,8 +11,8 @@ QString tr(const char* text)
     return QCoreApplication::translate("Cli", text);
 }
 
-constexpr quint32 Editing = DryRun | Encoding;
-constexpr quint32 Written = Out | Format | Force;
+constexpr quint64 Editing = DryRun | Encoding;
+constexpr quint64 Written = Out | Format | Force;
 
 // clang-format off
 constexpr Command table[] = {
@@ -57,6 +57,16 @@ constexpr Command table[] = {
      "Write an animation as an animated GIF.",
      "Its frames are drawn with the sprites of the sprite file that stands beside FILE. They are\n"
      "shown over and over, or once if the last one stays for ever (delay -1)."},
+    {"render", "GAME|FILE ID", 2, 2,
+     Target | Frame | AsGif | AsSheet | Zoom | ShowBoxes | ShowAxis | PaletteId | SpriteFile |
+         Columns | Force,
+     renderAnimation,
+     "Draw a frame of an animation, or all of them, as the stage shows them.",
+     "ID is the animation. GAME is a game folder; if several of its projects have the animation,\n"
+     "FILE is the main file (.character, .stage) of the one that is meant, or a single file of\n"
+     "animations with the sprites beside it. Pictures of an animation all cover the same area, so\n"
+     "that they lie upon each other. With --gif it is an animated GIF, with --sheet all frames in\n"
+     "rows, and their places, axis, times and boxes as JSON in a file of the same name."},
     {"run", "FILE...", 1, Command::Any, Engine | Parameters, runInEngine,
      "Start an engine on characters and stages.",
      "Each FILE is a main file (.character, .stage). Copies of the projects are put beside the\n"
@@ -239,7 +249,10 @@ bool parseArguments(const Command& command, const QStringList& arguments, Invoca
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments.at(i);
         // A single dash is the sign of a number.
-        if (!readsOptions || !argument.startsWith(QLatin1String("--"))) {
+        const bool isOption =
+            argument.startsWith(QLatin1String("--")) ||
+            (argument == QLatin1String("-o") && findOption(command.options, argument));
+        if (!readsOptions || !isOption) {
             invocation->operands.append(argument);
         } else if (argument == QLatin1String("--")) {
             readsOptions = false;

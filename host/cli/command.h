@@ -17,7 +17,7 @@ struct Command
     const char* operands;  ///< as the usage shows them
     int fewest;            ///< operands
     int most;
-    quint32 options;  ///< of `Option`
+    quint64 options;  ///< of `Option`
     int (*run)(const Invocation& invocation, Output& output);
     const char* summary;  ///< one line
     const char* details;  ///< several lines for `help`
@@ -47,6 +47,7 @@ int moveAnimation(const Invocation& invocation, Output& output);
 int removeAnimations(const Invocation& invocation, Output& output);
 int sortAnimations(const Invocation& invocation, Output& output);
 int writeAnimationGif(const Invocation& invocation, Output& output);
+int renderAnimation(const Invocation& invocation, Output& output);
 int runInEngine(const Invocation& invocation, Output& output);
 int backUp(const Invocation& invocation, Output& output);
 int listBackups(const Invocation& invocation, Output& output);

@@ -5,6 +5,7 @@
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
+#include "family/stage/framecomposer.h"
 #include "operations/animationedits.h"
 #include "operations/media/animationgif.h"
 #include "operations/media/mediaresult.h"
@@ -41,8 +42,8 @@ bool writeGif(const Family::FamilyDocument* document, const Invocation& invocati
         (isRecolored && !Family::findPalette(*sprites, invocation.palette, &colors, error))) {
         return false;
     }
-    const QByteArray bytes = Family::animationGif(*list->animation(index), *sprites,
-                                                  isRecolored ? &colors : nullptr, error);
+    Family::FrameComposer composer(sprites.get(), {}, isRecolored ? &colors : nullptr);
+    const QByteArray bytes = Family::animationGif(*list->animation(index), &composer, error);
     if (error->isEmpty()) {
         *error = outputs.write(0, bytes);
     }

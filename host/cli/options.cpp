@@ -1,6 +1,7 @@
 #include "options.h"
 
 #include "code/codecs/textcodecs.h"
+#include "family/stage/framecomposer.h"
 #include "operations/media/imagefiles.h"
 
 #include <QCoreApplication>
@@ -16,6 +17,7 @@ namespace {
 const int MaxSide = 32767;
 const int MaxGroup = 65535;
 const int MaxFactor = 1000;
+const int MaxFrame = 1000000;
 
 QString tr(const char* text)
 {
@@ -90,6 +92,16 @@ QString takeFactor(const QString& text, Invocation& invocation)
     return isNumber && invocation.factor > 0 && invocation.factor <= MaxFactor
                ? QString()
                : expected(QT_TRANSLATE_NOOP("Cli", "a factor such as 2 or 0.5"), text);
+}
+
+QString takeZoom(const QString& text, Invocation& invocation)
+{
+    bool isNumber = false;
+    invocation.zoom = text.toDouble(&isNumber);
+    const double most = double(Family::FrameStyle::MaxZoom);
+    return isNumber && invocation.zoom >= 1 / most && invocation.zoom <= most
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli", "a zoom such as 2 or 0.5, up to 64"), text);
 }
 
 QString takeAngle(const QString& text, Invocation& invocation)
@@ -205,6 +217,20 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "how many sprites stand side by side")},
     {SpriteFile, "--sprites", "FILE", setText<&Invocation::sprites>,
      QT_TRANSLATE_NOOP("Cli", "the sprite file, instead of the one beside FILE")},
+    {Frame, "--frame", "N", takeInt<&Invocation::frame, 0, MaxFrame>,
+     QT_TRANSLATE_NOOP("Cli", "which frame, counted from 0; the first one without it")},
+    {Zoom, "--zoom", "Z", takeZoom,
+     QT_TRANSLATE_NOOP("Cli", "pixels of the picture for one of the game")},
+    {ShowBoxes, "--boxes", nullptr, setFlag<&Invocation::showsBoxes>,
+     QT_TRANSLATE_NOOP("Cli", "with the contact boxes")},
+    {ShowAxis, "--axis", nullptr, setFlag<&Invocation::showsAxis>,
+     QT_TRANSLATE_NOOP("Cli", "with a cross at the axis")},
+    {AsGif, "--gif", nullptr, setFlag<&Invocation::asGif>,
+     QT_TRANSLATE_NOOP("Cli", "all frames, as an animated GIF")},
+    {AsSheet, "--sheet", nullptr, setFlag<&Invocation::asSheet>,
+     QT_TRANSLATE_NOOP("Cli", "all frames side by side, and a file of JSON beside the picture")},
+    {Target, "--out", "FILE", takePlace,
+     QT_TRANSLATE_NOOP("Cli", "where the picture goes; '-o' for short")},
     {Out, "--out", "PLACE", takePlace,
      QT_TRANSLATE_NOOP("Cli", "a folder, a file, or a pattern such as 'small/*.png'")},
     {Format, "--format", "NAME", takeFormat,
@@ -228,10 +254,11 @@ QString optionForm(const OptionInfo& option)
     return option.value ? name + QLatin1Char(' ') + QLatin1String(option.value) : name;
 }
 
-const OptionInfo* findOption(quint32 taken, const QString& name)
+const OptionInfo* findOption(quint64 taken, const QString& name)
 {
+    const QString whole = name == QLatin1String("-o") ? QStringLiteral("--out") : name;
     const auto found = std::find_if(std::begin(table), std::end(table), [&](const OptionInfo& row) {
-        return (row.option & taken) && name == QLatin1String(row.name);
+        return (row.option & taken) && whole == QLatin1String(row.name);
     });
     return found == std::end(table) ? nullptr : found;
 }

@@ -40,10 +40,16 @@ struct Invocation
     Zorv::ImageResizeFilter filter = Zorv::ImageResizeFilter::Nearest;
     QString coding;   ///< of pixels in a sprite file; null if none was named
     QString sprites;  ///< a file; null if none was named
+    int frame = -1;   ///< counted from 0; -1 if none was named
+    double zoom = 1;
+    bool showsBoxes = false;
+    bool showsAxis = false;
+    bool asGif = false;
+    bool asSheet = false;
 };
 
 /// The options of all commands. A command names those that it takes as flags.
-enum Option : quint32 {
+enum Option : quint64 {
     NoOptions = 0,
     Json = 1u << 0,
     DryRun = 1u << 1,
@@ -71,13 +77,20 @@ enum Option : quint32 {
     Angle = 1u << 23,
     Filter = 1u << 24,
     Coding = 1u << 25,
-    SpriteFile = 1u << 26
+    SpriteFile = 1u << 26,
+    Target = 1u << 27,
+    Frame = 1u << 28,
+    Zoom = 1u << 29,
+    ShowBoxes = 1u << 30,
+    ShowAxis = 1u << 31,
+    AsGif = quint64(1) << 32,
+    AsSheet = quint64(1) << 33
 };
 
 /// One option: a row of the table.
 struct OptionInfo
 {
-    quint32 option;
+    quint64 option;
     const char* name;   ///< "--json"
     const char* value;  ///< what stands behind it, as the usage shows it; null for nothing
 
@@ -92,7 +105,7 @@ const QVector<OptionInfo>& options();
 /// "--encoding NAME".
 QString optionForm(const OptionInfo& option);
 
-/// The option of a name among those that are taken; null if it is none of them.
-const OptionInfo* findOption(quint32 taken, const QString& name);
+/// The option of a name among those that are taken, "-o" for "--out"; null if it is none of them.
+const OptionInfo* findOption(quint64 taken, const QString& name);
 
 }  // namespace Cli

@@ -104,12 +104,20 @@ const FamilySprite* FrameComposer::spriteOf(const FrameNode& frame, QString* err
     return sprite;
 }
 
-QImage FrameComposer::picture(const FamilySprite* sprite)
+QImage FrameComposer::pictureOf(const FrameNode& frame, QString* error)
 {
+    const FamilySprite* sprite = spriteOf(frame, error);
+    if (!sprite) {
+        return {};
+    }
     if (const QImage* known = m_pictures.object(sprite)) {
         return *known;
     }
     QImage image = sprite->image();
+    if (image.isNull()) {
+        *error = tr("Sprite %1 has no pixels, or they are broken.").arg(sprite->id().text());
+        return {};
+    }
     if (image.format() == QImage::Format_Indexed8 && !m_colors.isEmpty()) {
         image.setColorTable(m_colors);
     }
@@ -117,21 +125,10 @@ QImage FrameComposer::picture(const FamilySprite* sprite)
     return image;
 }
 
-QImage FrameComposer::pictureOf(const FrameNode& frame, QString* error)
+FramePose FrameComposer::pose(const FrameNode& frame, QString* error) const
 {
     const FamilySprite* sprite = spriteOf(frame, error);
-    const QImage image = sprite ? picture(sprite) : QImage();
-    if (sprite && image.isNull()) {
-        *error = tr("Sprite %1 has no pixels, or they are broken.").arg(sprite->id().text());
-    }
-    return image;
-}
-
-FramePose FrameComposer::pose(const FrameNode& frame, QString* error)
-{
-    const QSize size = pictureOf(frame, error).size();
-    const FamilySprite* sprite = size.isEmpty() ? nullptr : spriteOf(frame, error);
-    return poseOf(frame.data(), size, sprite ? sprite->axis() : QPoint());
+    return sprite ? poseOf(frame.data(), sprite->size(), sprite->axis()) : FramePose();
 }
 
 QRect FrameComposer::areaOf(const QRect& rect) const
@@ -158,7 +155,7 @@ QRect FrameComposer::axisArea() const
     return {QPoint(-(m_axis.width() / 2), -(m_axis.height() / 2)), m_axis.size()};
 }
 
-QRect FrameComposer::bounds(const FrameNode& frame, QString* error)
+QRect FrameComposer::bounds(const FrameNode& frame, QString* error) const
 {
     QRect area;
     if (m_style.parts & FrameStyle::Sprite) {
@@ -179,7 +176,7 @@ QRect FrameComposer::bounds(const FrameNode& frame, QString* error)
     return area | axisArea();
 }
 
-QRect FrameComposer::bounds(const Zorv::AnimationCode& animation, QString* error)
+QRect FrameComposer::bounds(const Zorv::AnimationCode& animation, QString* error) const
 {
     QRect area;
     const QList<Zorv::FrameCode*> frames = animation.frames();

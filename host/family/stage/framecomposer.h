@@ -66,11 +66,11 @@ public:
     const FrameStyle& style() const { return m_style; }
 
     /// The area around all that is drawn of a frame; empty if nothing is. A sprite that is missing
-    /// or broken is an error, and the area that of the rest.
-    QRect bounds(const FrameNode& frame, QString* error);
+    /// is an error, and the area that of the rest. Nothing is unpacked.
+    QRect bounds(const FrameNode& frame, QString* error) const;
 
     /// The same of all frames of an animation.
-    QRect bounds(const Zorv::AnimationCode& animation, QString* error);
+    QRect bounds(const Zorv::AnimationCode& animation, QString* error) const;
 
     /// The area of a rectangle of the game.
     QRect areaOf(const QRect& rect) const;
@@ -88,8 +88,8 @@ public:
     /// opaque ground that is what the stage shows on the same.
     void draw(const FrameNode& frame, QImage* image, QPoint topLeft, QString* error);
 
-    /// How the sprite of a frame stands; without a size if it is missing or broken.
-    FramePose pose(const FrameNode& frame, QString* error);
+    /// How the sprite of a frame stands; without a size if it is missing, which is an error.
+    FramePose pose(const FrameNode& frame, QString* error) const;
 
     /// Which pixel of a picture in a pose is seen at a pixel of the stage, counted from the origin;
     /// (-1,-1) beside it.
@@ -100,7 +100,6 @@ public:
     static int colorAt(const QImage& picture, const FramePose& pose, float zoom, QPoint stage);
 
 private:
-    QImage picture(const FamilySprite* sprite);
     const FamilySprite* spriteOf(const FrameNode& frame, QString* error) const;
     QImage pictureOf(const FrameNode& frame, QString* error);
     bool isDrawable(const QRect& area, QString* error) const;

@@ -112,22 +112,27 @@ void PictureRaster::put(const PlacedPicture& place, const QImage& picture, Mix m
 
 void PictureRaster::draw(const PlacedPicture& place, const QImage& picture)
 {
-    if (place.bounds().intersects(m_area) && !picture.isNull()) {
-        if (m_image->format() == QImage::Format_Indexed8) {
-            put<uchar, uchar>(place, picture, [](uchar* to, uchar index) { *to = index; });
-        } else if (picture.format() == QImage::Format_Indexed8) {
-            QVector<QRgb> colors = picture.colorTable();
-            for (int i = colors.size(); i < 256; ++i) {
-                colors.append(qRgb(0, 0, 0));
-            }
-            const QRgb* const table = colors.constData();
-            put<QRgb, uchar>(place, picture,
-                             [table](QRgb* to, uchar index) { blend(to, table[index]); });
-        } else {
-            put<QRgb, QRgb>(place, picture.convertToFormat(QImage::Format_ARGB32),
-                            [](QRgb* to, QRgb color) { blend(to, color); });
-        }
+    const bool isIndexed = picture.format() == QImage::Format_Indexed8;
+    if (!place.bounds().intersects(m_area) || picture.size() != place.pictureSize()) {
+        return;
     }
+    if (m_image->format() == QImage::Format_Indexed8) {
+        if (isIndexed) {
+            put<uchar, uchar>(place, picture, [](uchar* to, uchar index) { *to = index; });
+        }
+        return;
+    }
+    if (!isIndexed) {
+        put<QRgb, QRgb>(place, picture.convertToFormat(QImage::Format_ARGB32),
+                        [](QRgb* to, QRgb color) { blend(to, color); });
+        return;
+    }
+    QVector<QRgb> colors = picture.colorTable();
+    for (int i = colors.size(); i < 256; ++i) {
+        colors.append(qRgb(0, 0, 0));
+    }
+    const QRgb* const table = colors.constData();
+    put<QRgb, uchar>(place, picture, [table](QRgb* to, uchar index) { blend(to, table[index]); });
 }
 
 void PictureRaster::fill(const QRect& rect, QRgb color)

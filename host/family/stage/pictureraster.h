@@ -15,8 +15,9 @@ public:
     /// and outlives this object. `topLeft` is the pixel of the stage at its corner.
     PictureRaster(QImage* image, QPoint topLeft);
 
-    /// An image of indices takes indexed pictures alone, and their indices as they are. Where
-    /// colours are drawn, an index that the picture has no colour for is black.
+    /// Nothing for a picture of another size than was placed. An image of indices takes indexed
+    /// pictures alone, and their indices as they are. Where colours are drawn, an index that the
+    /// picture has no colour for is black.
     void draw(const PlacedPicture& place, const QImage& picture);
 
     /// For an image of colours: the pixels of a rectangle of the stage.

@@ -32,6 +32,9 @@ public:
     /// number.
     PlacedPicture(const FramePose& pose, float zoom);
 
+    /// The size of the picture itself.
+    QSize pictureSize() const { return m_texels; }
+
     /// Around the pixels of the stage that it covers; empty without any.
     QRect bounds() const { return m_bounds; }
 

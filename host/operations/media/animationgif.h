@@ -1,8 +1,7 @@
 #pragma once
 
-#include "assets/palettelist.h"
-
 #include <QByteArray>
+#include <QString>
 
 namespace Zorv {
 class AnimationCode;
@@ -10,16 +9,15 @@ class AnimationCode;
 
 namespace Family {
 
-class SpriteCollection;
+class FrameComposer;
 
-/// An animated GIF of an animation, as it is played: its sprites by their axes, with the offset,
-/// flip, scale, angle and time of each frame.
+/// An animated GIF of an animation, as it is played: each frame as the composer draws it, for its
+/// time.
 ///
-/// It is shown over and over from its first frame, or once if it ends in a frame that stays. With
-/// `colors` sprites that are indexed are shown in them. Empty, with `error`, if there is nothing to
-/// show, or a sprite is not there.
-QByteArray animationGif(const Zorv::AnimationCode& animation, const SpriteCollection& sprites,
-                        const PaletteColors* colors, QString* error);
+/// It is shown over and over from its first frame, or once if it ends in a frame that stays. Empty,
+/// with `error`, if there is nothing to show, a sprite is not there, or it would be too large.
+QByteArray animationGif(const Zorv::AnimationCode& animation, FrameComposer* composer,
+                        QString* error);
 
 /// The one sprite file that stands beside a code file; empty, with `error`, if there are none or
 /// several.
