@@ -17,7 +17,6 @@ namespace App {
 
 using Family::AnimationNode;
 using Family::FamilyAnimations;
-using Zorv::CodeNode;
 using Zorv::OrganizerEditor;
 
 namespace {
@@ -47,18 +46,6 @@ int lineEndsBeforeNew(const Family::FamilyDocument* document)
         return 2;
     }
     return isAtStart || last.previous().length() == 1 ? 0 : 1;
-}
-
-const CodeNode* animationAt(const Family::FamilyDocument* document, int line)
-{
-    const QTextBlock block = document->findBlockByNumber(line);
-    const CodeNode* node = document->nodeInBlock(block);
-    if (!node) {
-        node = document->nodeBefore(block);
-    }
-    return node->type() == CodeNode::Animation
-               ? node
-               : node->previous(CodeNode::Animation, CodeNode::Group);
 }
 
 }  // namespace
@@ -96,7 +83,7 @@ void AnimationCommands::followCursor(int line)
     if (!m_document || m_document->isCodeBeingChanged()) {
         return;
     }
-    const auto* animation = static_cast<const AnimationNode*>(animationAt(m_document, line));
+    const AnimationNode* animation = m_document->animations()->animationAt(line);
     const int row = animation ? m_document->animations()->indexOf(animation) : -1;
     if (row != m_organizer->currentRow()) {
         m_organizer->setCurrentRow(row);

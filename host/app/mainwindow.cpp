@@ -1,5 +1,6 @@
 #include "app/mainwindow.h"
 
+#include "animation/organizereditor.h"
 #include "app/actions/actionregistry.h"
 #include "app/actions/actiontable.h"
 #include "app/actions/shortcutguard.h"
@@ -24,6 +25,9 @@
 #include "app/messagepanel.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
+#include "app/stage/stagecommands.h"
+#include "app/stage/stagecontroller.h"
+#include "app/stage/stageview.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
 #include "app/windowstate.h"
@@ -47,6 +51,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>
@@ -58,18 +63,20 @@ using Family::FamilyProject;
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget(this)),
-      m_hint(new QLabel), m_gameTree(new GameTree), m_animations(new AnimationCommands(this)),
-      m_spritePanel(new SpritePanel), m_soundPanel(new SoundPanel),
-      m_messagePanel(new MessagePanel), m_status(new StatusFields(statusBar())),
-      m_opener(new GameOpener(this)), m_gameCommands(new GameCommands(this)),
-      m_runCommands(new RunCommands(this)), m_spriteCommands(new SpriteCommands(this)),
-      m_soundCommands(new SoundCommands(this)), m_actions(new WindowActions(this)),
-      m_controls(new ControlPlacer(this, m_actions))
+      m_hint(new QLabel), m_middle(new QSplitter(Qt::Vertical)), m_gameTree(new GameTree),
+      m_animations(new AnimationCommands(this)), m_spritePanel(new SpritePanel),
+      m_soundPanel(new SoundPanel), m_messagePanel(new MessagePanel),
+      m_status(new StatusFields(statusBar())), m_opener(new GameOpener(this)),
+      m_gameCommands(new GameCommands(this)), m_runCommands(new RunCommands(this)),
+      m_spriteCommands(new SpriteCommands(this)), m_soundCommands(new SoundCommands(this)),
+      m_actions(new WindowActions(this)), m_controls(new ControlPlacer(this, m_actions))
 {
     new ShortcutGuard(this, registry());
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setEnabled(false);
     m_centre->addWidget(m_hint);
+    m_centre->addWidget(m_middle);
+    m_middle->setChildrenCollapsible(false);
     setCentralWidget(m_centre);
     makeDocks();
 }
@@ -78,6 +85,7 @@ void MainWindow::publishTools()
 {
     makeCode();
     m_animations->publish();
+    makeStage();
     resizeDocks({findChild<QDockWidget*>(QStringLiteral("projects")),
                  findChild<QDockWidget*>(QStringLiteral("nodes"))},
                 {240, 280}, Qt::Horizontal);
@@ -85,6 +93,7 @@ void MainWindow::publishTools()
     connectPanels();
     connectCode();
     connectAssets();
+    connectStage();
     retranslate();
     currentDocumentChanged(nullptr);
     WindowState::restoreShape(this);
@@ -94,7 +103,7 @@ void MainWindow::publishTools()
 void MainWindow::makeCode()
 {
     m_code = new CodeView(this);
-    m_centre->addWidget(m_code->widget());
+    m_middle->addWidget(m_code->widget());
     makeCodeHelp();
     for (const char* name : {"find", "find_next", "find_previous", "find_selection", "replace"}) {
         m_code->findBar()->addAction(actionByName(name));
@@ -114,10 +123,17 @@ void MainWindow::makeCodeHelp()
     m_codeHelp = new CodeHelp(m_code->editor(), services);
 }
 
+void MainWindow::makeStage()
+{
+    m_stage = new StageCommands(this);
+    m_middle->insertWidget(0, m_stage->view());
+}
+
 // Views go before what they show.
 MainWindow::~MainWindow()
 {
     m_session->disconnect(this);
+    delete m_stage;
     m_status->setDocument(nullptr);
     m_animations->setDocument(nullptr);
     m_spritePanel->setSprites(nullptr);
@@ -213,6 +229,17 @@ void MainWindow::connectAssets()
     connect(m_soundPanel, &SoundPanel::changed, this, &MainWindow::updateSoon);
 }
 
+void MainWindow::connectStage()
+{
+    connect(m_stage, &StageCommands::stateChanged, this, &MainWindow::updateSoon);
+    connect(m_stage->controller(), &StageController::lineRequested, this, &MainWindow::followStage);
+    // Rows change while lines are being parsed.
+    connect(
+        m_animations->organizer(), &Zorv::OrganizerEditor::currentRowChanged, m_stage,
+        [this] { m_stage->controller()->showAnimation(m_animations->organizer()->currentRow()); },
+        Qt::QueuedConnection);
+}
+
 bool MainWindow::openPath(const QString& path)
 {
     return m_opener->openPath(path);
@@ -234,6 +261,7 @@ void MainWindow::forgetProject(FamilyProject* project)
     }
     if (m_spritePanel->sprites() && m_spritePanel->sprites()->project() == project) {
         m_spritePanel->setSprites(nullptr);
+        m_stage->setSprites(nullptr);
     }
     if (m_soundPanel->sounds() && m_soundPanel->sounds()->project() == project) {
         m_soundPanel->setSounds(nullptr);
@@ -254,6 +282,7 @@ void MainWindow::currentDocumentChanged(FamilyDocument* document)
 {
     m_centre->setCurrentIndex(document ? 1 : 0);
     m_animations->setDocument(document);
+    m_stage->setDocument(document);
     m_status->setDocument(document);
     updateMessages();
     updateNow();
@@ -267,6 +296,7 @@ void MainWindow::followCursor()
 {
     const int line = m_code->editor()->textCursor().blockNumber();
     m_animations->followCursor(line);
+    m_stage->controller()->followLine(line);
     followSprite(line);
 }
 
@@ -281,6 +311,15 @@ void MainWindow::followSprite(int line)
     if (node && node->type() == Zorv::CodeNode::Frame) {
         const auto* frame = static_cast<const Zorv::FrameCode*>(node);
         m_spritePanel->showSprite(frame->spriteGroup(), frame->spriteNumber());
+    }
+}
+
+/// What is done on the stage is seen in the text; the keyboard stays on the stage.
+void MainWindow::followStage(int line)
+{
+    Zorv::CodeEditor* edit = currentEdit();
+    if (edit && edit->textCursor().blockNumber() != line) {
+        edit->setTextCursor(QTextCursor(edit->document()->findBlockByNumber(line)));
     }
 }
 
@@ -332,6 +371,7 @@ void MainWindow::updateNow()
     updateTitle();
     updateHint();
     updateAssets();
+    m_stage->updateShown();
     updateActions();
 }
 
@@ -344,6 +384,7 @@ void MainWindow::updateAssets()
     };
     m_spritePanel->setSprites(dynamic_cast<Family::SpriteCollection*>(file(Zorv::FileID::Sprites)));
     m_soundPanel->setSounds(dynamic_cast<Family::SoundFile*>(file(Zorv::FileID::Sounds)));
+    m_stage->setSprites(m_spritePanel->sprites());
 }
 
 void MainWindow::updateHint()
@@ -382,7 +423,8 @@ int MainWindow::presentNeeds() const
            when(edit && edit->textCursor().hasSelection(), NeedsSelection) |
            when(m_animations->hasCurrent(), NeedsAnimation) |
            when(m_runCommands->isRunning(), NeedsEngine) | m_spriteCommands->presentNeeds() |
-           m_soundCommands->presentNeeds() | when(!m_runCommands->isRunning(), NeedsNoEngine);
+           m_soundCommands->presentNeeds() | m_stage->presentNeeds() |
+           when(!m_runCommands->isRunning(), NeedsNoEngine);
 }
 
 DocumentTabs* MainWindow::tabs() const
@@ -403,7 +445,7 @@ Zorv::CodeEditor* MainWindow::currentEdit() const
 void MainWindow::showText()
 {
     if (Zorv::CodeEditor* edit = currentEdit()) {
-        m_centre->setCurrentWidget(m_code->widget());
+        m_centre->setCurrentWidget(m_middle);
         edit->setFocus();
     }
 }
@@ -431,7 +473,7 @@ ActionRegistry* MainWindow::registry() const
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    const bool isTextShown = m_code && m_centre->currentWidget() == m_code->widget();
+    const bool isTextShown = m_code && m_centre->currentWidget() == m_middle;
     if (isTextShown && event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
         showText();
     } else {

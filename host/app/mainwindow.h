@@ -5,6 +5,7 @@
 
 class QDockWidget;
 class QLabel;
+class QSplitter;
 class QStackedWidget;
 
 namespace Family {
@@ -36,6 +37,7 @@ class SoundCommands;
 class SoundPanel;
 class SpriteCommands;
 class SpritePanel;
+class StageCommands;
 class StatusFields;
 class WindowActions;
 
@@ -90,6 +92,12 @@ public:
     RunCommands* runCommands() const { return m_runCommands; }
     SpriteCommands* spriteCommands() const { return m_spriteCommands; }
     SoundCommands* soundCommands() const { return m_soundCommands; }
+
+    /// The stage above the text, with what can be done there.
+    StageCommands* stage() const { return m_stage; }
+
+    /// The stage and the texts, one above the other.
+    QSplitter* middle() const { return m_middle; }
 
     /// The editor while a text is in front, else null.
     Zorv::CodeEditor* currentEdit() const;
@@ -150,6 +158,7 @@ protected:
 private:
     void makeCode();
     void makeCodeHelp();
+    void makeStage();
     void makeDocks();
     QDockWidget* addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area);
     void retranslate();
@@ -158,6 +167,7 @@ private:
     void connectPanels();
     void connectCode();
     void connectAssets();
+    void connectStage();
 
     void closeDocument(Family::FamilyDocument* document);
     void showPlace(Zorv::CodeDocument* document, int line, int column, int length);
@@ -167,6 +177,7 @@ private:
     void currentDocumentChanged(Family::FamilyDocument* document);
     void followCursor();
     void followLine(int line);
+    void followStage(int line);
     void showMessageOfLine(int line);
     void updateSoon();
     void updateNow();
@@ -182,8 +193,10 @@ private:
     GameSession* m_session;
     QStackedWidget* m_centre;
     QLabel* m_hint;
+    QSplitter* m_middle;
     CodeView* m_code = nullptr;
     CodeHelp* m_codeHelp = nullptr;
+    StageCommands* m_stage = nullptr;
     GameTree* m_gameTree;
     AnimationCommands* m_animations;
     SpritePanel* m_spritePanel;

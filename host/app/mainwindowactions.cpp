@@ -15,6 +15,8 @@
 #include "app/messagepanel.h"
 #include "app/panelplace.h"
 #include "app/run/runcommands.h"
+#include "app/stage/stagecommands.h"
+#include "app/stage/stageview.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
 #include "core/dialogs/dialogs.h"
@@ -168,11 +170,16 @@ void MainWindow::focusPreviousPanel()
 
 void MainWindow::focusPanel(int step)
 {
-    goToPanel({PanelPlace::of(m_gameTree), PanelPlace::of(m_spritePanel->list()),
+    goToPanel({PanelPlace::of(m_gameTree),
+               PanelPlace::of(m_spritePanel->list()),
                PanelPlace::of(m_soundPanel->list()),
-               PanelPlace::inside(m_code->workspace()->toolBar()), PanelPlace::of(currentEdit()),
-               PanelPlace::inside(m_code->findBar()), PanelPlace::of(textEditor()->tree()),
-               PanelPlace::of(m_animations->list()), PanelPlace::of(m_messagePanel)},
+               {m_stage->view()->focusTarget(), m_stage->view()},
+               PanelPlace::inside(m_code->workspace()->toolBar()),
+               PanelPlace::of(currentEdit()),
+               PanelPlace::inside(m_code->findBar()),
+               PanelPlace::of(textEditor()->tree()),
+               PanelPlace::of(m_animations->list()),
+               PanelPlace::of(m_messagePanel)},
               step);
 }
 

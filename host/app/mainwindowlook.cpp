@@ -4,6 +4,7 @@
 #include "app/gamesession.h"
 #include "app/look/look.h"
 #include "app/mainwindow.h"
+#include "app/stage/stagecommands.h"
 #include "editors/framework/editor.h"
 #include "editors/framework/extraeditor.h"
 #include "editors/framework/workspace.h"
@@ -97,6 +98,7 @@ void MainWindow::reconfig()
     tellAll(this, &Zorv::ExtraEditor::reconfig);
     tellAll(this, &Zorv::Workspace::reconfig);
     m_code->reconfig();
+    m_stage->reconfig();
     emit reconfigured();
 }
 

@@ -39,19 +39,21 @@ void setHelp(QToolButton* button, const QString& help)
 }  // namespace
 
 StatusFields::StatusFields(QStatusBar* bar)
-    : QObject(bar), m_bar(bar), m_problems(addButton("problems_field")), m_state(new QLabel(bar)),
-      m_lineEnds(new QLabel(bar)), m_encoding(addButton("encoding_field")),
-      m_place(addButton("place_field")), m_watcher(new QFileSystemWatcher(this))
+    : QObject(bar), m_bar(bar), m_stage(new QLabel(bar)), m_problems(addButton("problems_field")),
+      m_state(new QLabel(bar)), m_lineEnds(new QLabel(bar)),
+      m_encoding(addButton("encoding_field")), m_place(addButton("place_field")),
+      m_watcher(new QFileSystemWatcher(this))
 {
-    for (QWidget* widget : {static_cast<QWidget*>(m_problems), static_cast<QWidget*>(m_state),
-                            static_cast<QWidget*>(m_lineEnds), static_cast<QWidget*>(m_encoding),
-                            static_cast<QWidget*>(m_place)}) {
+    for (QWidget* widget : {static_cast<QWidget*>(m_stage), static_cast<QWidget*>(m_problems),
+                            static_cast<QWidget*>(m_state), static_cast<QWidget*>(m_lineEnds),
+                            static_cast<QWidget*>(m_encoding), static_cast<QWidget*>(m_place)}) {
         bar->addPermanentWidget(widget);
     }
     connect(m_problems, &QToolButton::clicked, this, &StatusFields::problemsClicked);
     connect(m_encoding, &QToolButton::clicked, this, &StatusFields::encodingClicked);
     connect(m_place, &QToolButton::clicked, this, &StatusFields::placeClicked);
     connect(m_watcher, &QFileSystemWatcher::directoryChanged, this, &StatusFields::updateFile);
+    setStagePlace({});
     setDocument(nullptr);
     followLanguage(this, [this] { retranslate(); });
 }
@@ -61,6 +63,8 @@ void StatusFields::retranslate()
     updateProblemHelp();
     setHelp(m_encoding, tr("Encoding of the file. Click to change it."));
     setHelp(m_place, tr("Line and column. Click to go to a line."));
+    setStagePlace({});
+    m_stage->setAccessibleName(tr("Place of the pointer on the stage"));
     m_state->setAccessibleName(tr("State of the file"));
     m_lineEnds->setAccessibleName(tr("Line ends of the file"));
     m_bar->clearMessage();
@@ -111,6 +115,12 @@ void StatusFields::setProblems(const QString& text)
     m_problems->setEnabled(!text.isEmpty());
 }
 
+void StatusFields::setStagePlace(const QString& text)
+{
+    m_stage->setText(text);
+    m_stage->setVisible(!text.isEmpty());
+}
+
 void StatusFields::showField(int field, const QString& text)
 {
     switch (field) {
@@ -137,6 +147,11 @@ void StatusFields::showPassing(const QString& text)
 QString StatusFields::stateText() const
 {
     return m_state->text();
+}
+
+QString StatusFields::stageText() const
+{
+    return m_stage->text();
 }
 
 QString StatusFields::lineEndText() const

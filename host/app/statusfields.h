@@ -38,11 +38,15 @@ public:
     /// the project, and 2 the encoding; any other number shows a passing text.
     void showField(int field, const QString& text);
 
+    /// Where the pointer is on the stage, in words; empty for elsewhere.
+    void setStagePlace(const QString& text);
+
     /// Shows a text for a few seconds.
     void showPassing(const QString& text);
 
     /// What a field shows, for tests and helpers of accessibility.
     QString stateText() const;
+    QString stageText() const;
     QString lineEndText() const;
     QString encodingText() const;
     QString placeText() const;
@@ -61,6 +65,7 @@ private:
     void watchFolder();
 
     QStatusBar* m_bar;
+    QLabel* m_stage;
     QToolButton* m_problems;
     QLabel* m_state;
     QLabel* m_lineEnds;

@@ -3,12 +3,14 @@
 #include "app/code/documenttabs.h"
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
+#include "app/stage/stagecommands.h"
 #include "core/interface.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSplitter>
 
 namespace App {
 
@@ -18,6 +20,7 @@ namespace {
 
 const QString GeometryKey = QStringLiteral("window_geometry");
 const QString PanelsKey = QStringLiteral("window_panels");
+const QString MiddleKey = QStringLiteral("window_middle");
 const QString GameKey = QStringLiteral("last_game");
 const QString TextsKey = QStringLiteral("open_texts");
 const QString FrontKey = QStringLiteral("front_text");
@@ -71,6 +74,8 @@ void WindowState::save(const MainWindow* window)
 {
     store(GeometryKey, window->saveGeometry());
     store(PanelsKey, window->saveState(PanelsVersion));
+    store(MiddleKey, window->middle()->saveState());
+    window->stage()->keepPlace();
     store(GameKey, window->session()->folder());
     QVariantList texts;
     const DocumentTabs* tabs = window->tabs();
@@ -87,6 +92,7 @@ void WindowState::restoreShape(MainWindow* window)
         window->resize(1280, 800);
     }
     window->restoreState(setting(PanelsKey).toByteArray(), PanelsVersion);
+    window->middle()->restoreState(setting(MiddleKey).toByteArray());
 }
 
 void WindowState::restoreWork(MainWindow* window, const QString& otherwise)

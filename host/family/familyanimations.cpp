@@ -51,6 +51,19 @@ AnimationNode* FamilyAnimations::animation(int index) const
     return index < 0 ? nullptr : static_cast<AnimationNode*>(at(unsigned(index)));
 }
 
+AnimationNode* FamilyAnimations::animationAt(int line) const
+{
+    const QTextBlock block = document()->findBlockByNumber(line);
+    Zorv::CodeNode* node = document()->nodeInBlock(block);
+    if (!node) {
+        node = document()->nodeBefore(block);
+    }
+    if (node->type() != Zorv::CodeNode::Animation) {
+        node = node->previous(Zorv::CodeNode::Animation, Zorv::CodeNode::Group);
+    }
+    return static_cast<AnimationNode*>(node);
+}
+
 int FamilyAnimations::indexOfIdentifier(const QString& identifier) const
 {
     return find(0, identifier);

@@ -21,6 +21,9 @@ public:
     /// Null outside of the list.
     AnimationNode* animation(int index) const;
 
+    /// The animation that a line of the document, counted from 0, stands in; null outside of all.
+    AnimationNode* animationAt(int line) const;
+
     /// The place of the first animation with that identifier, -1 without one.
     int indexOfIdentifier(const QString& identifier) const;
 

@@ -12,6 +12,7 @@
 #include "app/mainwindow.h"
 #include "app/run/runcommands.h"
 #include "app/settings/showsettings.h"
+#include "app/stage/stagecommands.h"
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
 
@@ -25,12 +26,6 @@ template <void (Zorv::CodeFileEditor::*member)()>
 void inText(MainWindow& window)
 {
     (window.textEditor()->*member)();
-}
-
-template <void (Zorv::Workspace::*member)()>
-void inWorkspace(MainWindow& window)
-{
-    (window.code()->workspace()->*member)();
 }
 
 template <void (FindBar::*member)()>
@@ -68,6 +63,21 @@ void onSprites(MainWindow& window)
     (window.spriteCommands()->*member)();
 }
 
+template <void (StageCommands::*member)()>
+void onStage(MainWindow& window)
+{
+    (window.stage()->*member)();
+}
+
+/// What has the keyboard is zoomed: the stage or the text.
+template <bool (StageCommands::*onStage)(), void (Zorv::Workspace::*inText)()>
+void zoom(MainWindow& window)
+{
+    if (!(window.stage()->*onStage)()) {
+        (window.code()->workspace()->*inText)();
+    }
+}
+
 template <void (SoundCommands::*member)()>
 void onSounds(MainWindow& window)
 {
@@ -97,6 +107,7 @@ const QVector<ActionRow>& actionTable()
 {
     using W = MainWindow;
     using K = QKeySequence;
+    using R = ActionRow;
     // clang-format off
     static const QVector<ActionRow> table{
         {"open_folder",    "file",  QT_TRANSLATE_NOOP("App::Actions", "&Open game folder..."),           K::Open,      nullptr,        NoNeed,          call<&W::openFolderByDialog>},
@@ -139,6 +150,17 @@ const QVector<ActionRow>& actionTable()
         {"anim_duplicate", "anim",  QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"),                     NoKey,        "Ctrl+Shift+D", NeedsAnimation,  call<&W::duplicateAnimation>},
         {"anim_remove",    "anim",  QT_TRANSLATE_NOOP("App::Actions", "&Remove"),                        NoKey,        "Ctrl+Shift+R", NeedsAnimation,  call<&W::removeAnimations>},
         {nullptr,          "anim",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
+        {"anim_play",              "anim",  QT_TRANSLATE_NOOP("App::Actions", "&Play"),                         NoKey,        "F9",           NeedsFrame,      onStage<&StageCommands::play>, nullptr, R::Switch},
+        {"anim_stop",              "anim",  QT_TRANSLATE_NOOP("App::Actions", "&Stop"),                         NoKey,        "Shift+F9",     NeedsFrame,      onStage<&StageCommands::stop>, nullptr, R::Switch},
+        {"anim_prev_frame",        "anim",  QT_TRANSLATE_NOOP("App::Actions", "Pre&vious frame"),               NoKey,        "Alt+PgUp",     NeedsFrame,      onStage<&StageCommands::showPreviousFrame>},
+        {"anim_next_frame",        "anim",  QT_TRANSLATE_NOOP("App::Actions", "&Next frame"),                   NoKey,        "Alt+PgDown",   NeedsFrame,      onStage<&StageCommands::showNextFrame>},
+        {"anim_onion_skin",        "anim",  QT_TRANSLATE_NOOP("App::Actions", "&Onion skin"),                   NoKey,        "Ctrl+Shift+O", NeedsFrame,      onStage<&StageCommands::takeOnionSkin>, nullptr, R::Switch},
+        {nullptr,          "anim",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
+        {"anim_box_add_attack",    "anim",  QT_TRANSLATE_NOOP("App::Actions", "Draw a&ttack boxes"),            NoKey,        "Ctrl+1",       NeedsStageFrame, onStage<&StageCommands::takeMode>, nullptr, R::Switch},
+        {"anim_box_add_collision", "anim",  QT_TRANSLATE_NOOP("App::Actions", "Draw &body boxes"),              NoKey,        "Ctrl+2",       NeedsStageFrame, onStage<&StageCommands::takeMode>, nullptr, R::Switch},
+        {"anim_box_del",           "anim",  QT_TRANSLATE_NOOP("App::Actions", "Remove se&lected boxes"),        NoKey,        nullptr,        NeedsBox,        onStage<&StageCommands::removeBoxes>},
+        {"stage_capture",          "anim",  QT_TRANSLATE_NOOP("App::Actions", "Pick &colour"),                  NoKey,        "Ctrl+Shift+K", NeedsStageFrame, onStage<&StageCommands::takeMode>, nullptr, R::Switch},
+        {nullptr,          "anim",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
 
         {"sprite_add",      "spr",   QT_TRANSLATE_NOOP("App::Actions", "&Add images..."),                       NoKey,        nullptr,        NeedsSprites,    onSprites<&SpriteCommands::addImages>},
         {"sprite_replace",  "spr",   QT_TRANSLATE_NOOP("App::Actions", "&Replace image..."),                    NoKey,        nullptr,        NeedsSprite,     onSprites<&SpriteCommands::replaceImage>},
@@ -163,9 +185,19 @@ const QVector<ActionRow>& actionTable()
         {"next_text",      "view",  QT_TRANSLATE_NOOP("App::Actions", "Next te&xt"),                     NoKey,        "Ctrl+PgDown; Ctrl+Tab", NeedsText,       call<&W::showNextText>},
         {"previous_text",  "view",  QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),                 NoKey,        "Ctrl+PgUp; Ctrl+Shift+Tab", NeedsText,       call<&W::showPreviousText>},
         {nullptr,          "view",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
-        {"zoom_in",        "view",  QT_TRANSLATE_NOOP("App::Actions", "&Larger text"),                   K::ZoomIn,    nullptr,        NeedsText,       inWorkspace<&Zorv::Workspace::zoomIn>},
-        {"zoom_out",       "view",  QT_TRANSLATE_NOOP("App::Actions", "&Smaller text"),                  K::ZoomOut,   nullptr,        NeedsText,       inWorkspace<&Zorv::Workspace::zoomOut>},
-        {"zoom_actual",    "view",  QT_TRANSLATE_NOOP("App::Actions", "&Usual size of text"),            NoKey,        "Ctrl+0",       NeedsText,       inWorkspace<&Zorv::Workspace::zoomActual>},
+        {"zoom_in",        "view",  QT_TRANSLATE_NOOP("App::Actions", "&Larger text"),                   K::ZoomIn,    nullptr,        NeedsText,       zoom<&StageCommands::zoomIn, &Zorv::Workspace::zoomIn>},
+        {"zoom_out",       "view",  QT_TRANSLATE_NOOP("App::Actions", "&Smaller text"),                  K::ZoomOut,   nullptr,        NeedsText,       zoom<&StageCommands::zoomOut, &Zorv::Workspace::zoomOut>},
+        {"zoom_actual",    "view",  QT_TRANSLATE_NOOP("App::Actions", "&Usual size of text"),            NoKey,        "Ctrl+0",       NeedsText,       zoom<&StageCommands::zoomActual, &Zorv::Workspace::zoomActual>},
+        {nullptr,          "view",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
+        {"view_stage",             "view",  QT_TRANSLATE_NOOP("App::Actions", "Sta&ge"),                        NoKey,        "F7",           NoNeed,          onStage<&StageCommands::showStage>, nullptr, R::Switch},
+        {"view_center_origin",     "view",  QT_TRANSLATE_NOOP("App::Actions", "Centre the &origin"),            NoKey,        nullptr,        NeedsStage,      onStage<&StageCommands::centerOrigin>},
+        {"view_main_cross",        "view",  QT_TRANSLATE_NOOP("App::Actions", "Ax&is of the animation"),        NoKey,        nullptr,        NoNeed,          onStage<&StageCommands::takeVisibility>, nullptr, R::Switch},
+        {"view_secondary_cross",   "view",  QT_TRANSLATE_NOOP("App::Actions", "Axis of the spri&te"),           NoKey,        nullptr,        NoNeed,          onStage<&StageCommands::takeVisibility>, nullptr, R::Switch},
+        {"view_extra_cross",       "view",  QT_TRANSLATE_NOOP("App::Actions", "Extr&a cross"),                  NoKey,        nullptr,        NoNeed,          onStage<&StageCommands::takeVisibility>, nullptr, R::Switch},
+        {"view_rulers",            "view",  QT_TRANSLATE_NOOP("App::Actions", "&Rulers"),                       NoKey,        nullptr,        NoNeed,          onStage<&StageCommands::takeVisibility>, nullptr, R::Switch},
+        {"view_guide_lines",       "view",  QT_TRANSLATE_NOOP("App::Actions", "Gui&des"),                       NoKey,        nullptr,        NoNeed,          onStage<&StageCommands::takeVisibility>, nullptr, R::Switch},
+        {"view_attack_box",        "view",  QT_TRANSLATE_NOOP("App::Actions", "Attac&k boxes"),                 NoKey,        nullptr,        NoNeed,          onStage<&StageCommands::takeVisibility>, nullptr, R::Switch},
+        {"view_collision_box",     "view",  QT_TRANSLATE_NOOP("App::Actions", "&Body boxes"),                   NoKey,        nullptr,        NoNeed,          onStage<&StageCommands::takeVisibility>, nullptr, R::Switch},
         {nullptr,          "view",  nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
 
         {"run",            "tools", QT_TRANSLATE_NOOP("App::Actions", "R&un in engine"),                 NoKey,        "F5",           NeedsProject | NeedsNoEngine, onEngine<&RunCommands::run>},

@@ -29,12 +29,19 @@ enum Need {
     NeedsSounds = 32768,  ///< the project has a sound file
     NeedsSound = 65536,   ///< a current row in its list
     NeedsSoundUndo = 131072,
-    NeedsSoundRedo = 262144
+    NeedsSoundRedo = 262144,
+    NeedsFrame = 524288,        ///< a frame of the text on the time line
+    NeedsStage = 1048576,       ///< a stage that can be seen
+    NeedsStageFrame = 2097152,  ///< and a frame on it
+    NeedsBox = 4194304          ///< a contact box that is selected there
 };
 
 /// One action of the window: a row of the table.
 struct ActionRow
 {
+    /// One that is on or off tells it by `QAction::isChecked()`.
+    enum Kind { Button, Switch };
+
     const char* name;  ///< the object name of the action; null for a separator
     const char* menu;
     const char* text;
@@ -43,6 +50,7 @@ struct ActionRow
     int needs;             ///< of `Need`
     void (*slot)(MainWindow& window);
     const char* area = nullptr;  ///< where it applies; null for everywhere
+    Kind kind = Button;
 };
 
 /// The slot of a row whose work is a member of the window.

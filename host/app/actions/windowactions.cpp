@@ -67,6 +67,7 @@ void WindowActions::makeActions()
             continue;
         }
         auto* made = new QAction(m_window);
+        made->setCheckable(row.kind == ActionRow::Switch);
         ActionInfo info{QLatin1String(row.name), {"App::Actions", row.text}, {}, defaultKeys(row)};
         if (row.area) {
             info.areas.append(QLatin1String(row.area));

@@ -1,0 +1,442 @@
+#include "app/stage/stagecommands.h"
+
+#include "animation/timeline/timelinewidget.h"
+#include "app/actions/actiontable.h"
+#include "app/assets/spritepanel.h"
+#include "app/look/icon.h"
+#include "app/look/language.h"
+#include "app/mainwindow.h"
+#include "app/stage/onioncontrols.h"
+#include "app/stage/stagecontroller.h"
+#include "app/stage/stagerenderer.h"
+#include "app/stage/stagesettings.h"
+#include "app/stage/stageview.h"
+#include "app/statusfields.h"
+#include "core/interface.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodepath.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/project/familyproject.h"
+#include "family/stage/framecomposer.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QEvent>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+#include <QWidgetAction>
+
+namespace App {
+
+using Family::FamilyDocument;
+using Zorv::ContactBoxCode;
+using Zorv::GraphicsRenderer;
+
+namespace {
+
+const QString ShownKey = QStringLiteral("show_stage");
+
+// The tool bar, in its order; null for a gap.
+const char* const barActions[] = {
+    "anim_prev_frame",
+    "anim_play",
+    "anim_stop",
+    "anim_next_frame",
+    nullptr,
+    "anim_box_add_attack",
+    "anim_box_add_collision",
+    "anim_box_del",
+    "stage_capture",
+    nullptr,
+    "view_main_cross",
+    "view_secondary_cross",
+    "view_extra_cross",
+    "view_rulers",
+    "view_guide_lines",
+    "view_attack_box",
+    "view_collision_box",
+    nullptr,
+    "anim_onion_skin",
+    nullptr,
+    "view_center_origin",
+};
+
+const struct
+{
+    const char* name;
+    const char* icon;
+    const char* text;
+    void (GraphicsRenderer::*zoom)();
+} zoomButtons[] = {
+    {"stage_zoom_out", "zoom_out", QT_TRANSLATE_NOOP("App::StageCommands", "Smaller (-)"),
+     &GraphicsRenderer::subZoom},
+    {"stage_zoom_actual", "zoom_actual",
+     QT_TRANSLATE_NOOP("App::StageCommands", "One pixel for each of the game (0)"),
+     &GraphicsRenderer::zoomActual},
+    {"stage_zoom_in", "zoom_in", QT_TRANSLATE_NOOP("App::StageCommands", "Larger (+)"),
+     &GraphicsRenderer::addZoom},
+};
+
+bool hasAnimations(const FamilyDocument* document)
+{
+    return document && (document->kind() == Family::FileKind::Animations ||
+                        document->animations()->count() > 0);
+}
+
+/// Empty if the project does not tell.
+QSize screenOf(const Family::FamilyProject* project)
+{
+    QString error;
+    const QString text = project ? Family::getValue(project->mainDocument(),
+                                                    QStringLiteral("info.resolution"), &error)
+                                 : QString();
+    return {text.section(QLatin1Char(','), 0, 0).toInt(),
+            text.section(QLatin1Char(','), 1).toInt()};
+}
+
+}  // namespace
+
+StageCommands::StageCommands(MainWindow* window)
+    : QObject(window), m_window(window), m_view(new StageView),
+      m_controller(new StageController(m_view->renderer(), m_view->timeLine(), this)),
+      m_settings(std::make_unique<StageSettings>(m_view->renderer())), m_onion(new OnionControls),
+      m_modes(new QActionGroup(this))
+{
+    setUpModes();
+    setUpSwitches();
+    fillBar();
+    connectStage();
+    m_settings->apply({});
+    window->installEventFilter(this);
+    followLanguage(this, [this] { retranslate(); });
+}
+
+StageCommands::~StageCommands() = default;
+
+void StageCommands::connectStage()
+{
+    const StageRenderer* stage = m_view->renderer();
+    StatusFields* status = m_window->status();
+    connect(m_view, &StageView::placed, this, [this](QSize size) {
+        m_isPlaced = true;
+        m_settings->restorePlace(size);
+    });
+    connect(m_view, &StageView::pointerLeft, status, [status] { status->setStagePlace({}); });
+    connect(stage, &GraphicsRenderer::cursorChanged, status, [status](QPoint place) {
+        status->setStagePlace(tr("Stage: %1, %2").arg(place.x()).arg(place.y()));
+    });
+    connect(stage, &GraphicsRenderer::contactDrawingExit, this, &StageCommands::leaveMode);
+    connect(stage, &GraphicsRenderer::colorCaptured, this, &StageCommands::colorCaptured);
+    connect(stage, &StageRenderer::escapePressed, this, &StageCommands::leaveModeOrStage);
+    connect(stage, &StageRenderer::frameKeyPressed, m_controller, &StageController::stepFrame);
+    connect(stage, &StageRenderer::playKeyPressed, this,
+            [this] { m_controller->isPlaying() ? stop() : play(); });
+    connect(m_controller, &StageController::stateChanged, this, &StageCommands::followState);
+    connect(m_onion, &OnionControls::changed, this, &StageCommands::followOnion);
+    connect(m_onion, &OnionControls::switched, action("anim_onion_skin"), &QAction::setChecked);
+}
+
+void StageCommands::setUpModes()
+{
+    m_modes->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+    for (const char* name : {"anim_box_add_attack", "anim_box_add_collision", "stage_capture"}) {
+        m_modes->addAction(action(name));
+    }
+}
+
+void StageCommands::setUpSwitches()
+{
+    for (int i = 0; i < StageSettings::PartCount; ++i) {
+        const auto part = StageSettings::Part(i);
+        action(StageSettings::actionName(part))->setChecked(m_settings->isShown(part));
+    }
+    const QVariant isShown = Zorv::Interface::instance()->option(ShownKey);
+    action("view_stage")->setChecked(!isShown.isValid() || isShown.toBool());
+    action("anim_stop")->setChecked(true);
+}
+
+void StageCommands::fillBar()
+{
+    QToolBar* bar = m_view->bar();
+    for (const char* name : barActions) {
+        name ? bar->addAction(action(name)) : void(bar->addSeparator());
+    }
+    auto* onion = qobject_cast<QToolButton*>(bar->widgetForAction(action("anim_onion_skin")));
+    auto* menu = new QMenu(onion);
+    auto* content = new QWidgetAction(menu);
+    content->setDefaultWidget(m_onion);
+    menu->addAction(content);
+    onion->setMenu(menu);
+    onion->setPopupMode(QToolButton::MenuButtonPopup);
+    addZoomButtons();
+}
+
+void StageCommands::addZoomButtons()
+{
+    for (const auto& row : zoomButtons) {
+        auto* button = new QToolButton;
+        button->setObjectName(QLatin1String(row.name));
+        button->setIcon(icon(QStringLiteral(":/icons/icons/%1.png").arg(QLatin1String(row.icon))));
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        connect(button, &QToolButton::clicked, m_view->renderer(), row.zoom);
+        m_view->bar()->addWidget(button);
+    }
+}
+
+void StageCommands::retranslate()
+{
+    for (const auto& row : zoomButtons) {
+        auto* button = m_view->bar()->findChild<QToolButton*>(QLatin1String(row.name));
+        button->setToolTip(tr(row.text));
+        button->setAccessibleName(tr(row.text));
+    }
+    followState();
+}
+
+void StageCommands::setDocument(FamilyDocument* document)
+{
+    m_document = document;
+    m_controller->setDocument(document);
+    updateShown();
+    followState();
+}
+
+void StageCommands::setSprites(Family::SpriteCollection* sprites)
+{
+    m_controller->setSprites(sprites);
+}
+
+void StageCommands::updateShown()
+{
+    const bool isShown = action("view_stage")->isChecked() && hasAnimations(m_document);
+    if (m_view->isHidden() == isShown) {
+        m_view->setVisible(isShown);
+        m_controller->breakOff();
+    }
+}
+
+int StageCommands::presentNeeds() const
+{
+    const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
+    const bool isShown = m_view->isUsable() && !m_view->isHidden();
+    const bool hasFrame = m_controller->frameIndex() >= 0;
+    return when(hasFrame, NeedsFrame) | when(hasFrame && isShown, NeedsStageFrame) |
+           when(isShown, NeedsStage) | when(m_controller->hasSelectedBoxes(), NeedsBox);
+}
+
+void StageCommands::reconfig()
+{
+    m_settings->apply(screenOf(m_window->currentProject()));
+    m_onion->reconfig();
+}
+
+void StageCommands::keepPlace() const
+{
+    if (m_isPlaced) {
+        m_settings->keepPlace();
+    }
+}
+
+void StageCommands::showStage()
+{
+    Zorv::Interface::instance()->setOption(ShownKey, action("view_stage")->isChecked());
+    updateShown();
+}
+
+void StageCommands::play()
+{
+    m_controller->play();
+    followState();
+}
+
+void StageCommands::stop()
+{
+    m_controller->stop();
+    followState();
+}
+
+void StageCommands::showPreviousFrame()
+{
+    m_controller->stepFrame(-1);
+}
+
+void StageCommands::showNextFrame()
+{
+    m_controller->stepFrame(1);
+}
+
+void StageCommands::takeMode()
+{
+    StageRenderer* stage = m_view->renderer();
+    if (action("anim_box_add_attack")->isChecked()) {
+        stage->setDrawContactBoxMode(ContactBoxCode::Attack);
+    } else if (action("anim_box_add_collision")->isChecked()) {
+        stage->setDrawContactBoxMode(ContactBoxCode::Collision);
+    } else if (action("stage_capture")->isChecked()) {
+        stage->setCaptureMode();
+    } else {
+        stage->setPositioningMode();
+    }
+    m_controller->breakOff();
+    stage->Renderer::update();
+    m_view->focusTarget()->setFocus();
+}
+
+void StageCommands::leaveMode()
+{
+    if (QAction* mode = m_modes->checkedAction()) {
+        mode->setChecked(false);
+    }
+    m_view->renderer()->setPositioningMode();
+    m_view->renderer()->Renderer::update();
+}
+
+void StageCommands::leaveModeOrStage(bool isFree)
+{
+    isFree ? m_window->showText() : leaveMode();
+}
+
+void StageCommands::removeBoxes()
+{
+    m_controller->removeSelectedBoxes();
+}
+
+void StageCommands::takeOnionSkin()
+{
+    m_onion->setOn(action("anim_onion_skin")->isChecked());
+}
+
+void StageCommands::takeVisibility()
+{
+    for (int i = 0; i < StageSettings::PartCount; ++i) {
+        const auto part = StageSettings::Part(i);
+        m_settings->setShown(part, action(StageSettings::actionName(part))->isChecked());
+    }
+}
+
+void StageCommands::centerOrigin()
+{
+    m_view->renderer()->centralize();
+    m_view->renderer()->Renderer::update();
+}
+
+bool StageCommands::zoomIn()
+{
+    const bool isHere = m_view->hasKeyboard();
+    if (isHere) {
+        m_view->renderer()->addZoom();
+    }
+    return isHere;
+}
+
+bool StageCommands::zoomOut()
+{
+    const bool isHere = m_view->hasKeyboard();
+    if (isHere) {
+        m_view->renderer()->subZoom();
+    }
+    return isHere;
+}
+
+bool StageCommands::zoomActual()
+{
+    const bool isHere = m_view->hasKeyboard();
+    if (isHere) {
+        m_view->renderer()->zoomActual();
+    }
+    return isHere;
+}
+
+/// The sprite may be turned or mirrored: what is seen is looked for in its pose.
+void StageCommands::colorCaptured()
+{
+    const Family::FrameNode* frame = m_controller->frame();
+    const Family::FamilySprite* sprite = m_controller->sprite();
+    const StageRenderer* stage = m_view->renderer();
+    if (!frame || !sprite) {
+        return;
+    }
+    const int color = Family::FrameComposer::colorAt(
+        sprite->image(), m_controller->pose(), stage->zoom(), stage->pointer() - stage->origin());
+    if (color >= 0) {
+        SpritePanel* panel = m_window->spritePanel();
+        panel->showSprite(frame->spriteGroup(), frame->spriteNumber());
+        panel->markColour(color);
+        m_window->status()->showPassing(tr("Colour %1 of the palette").arg(color));
+    }
+}
+
+void StageCommands::followState()
+{
+    const bool isPlaying = m_controller->isPlaying();
+    action("anim_play")->setChecked(isPlaying);
+    action("anim_stop")->setChecked(!isPlaying);
+    m_view->setHint(hint());
+    m_view->setInfo(info());
+    followOnion();
+    const int needs = presentNeeds();
+    if (needs != m_needs) {
+        m_needs = needs;
+        emit stateChanged();
+    }
+}
+
+void StageCommands::followOnion()
+{
+    m_view->renderer()->setOnionSkin(m_onion->isOn(), m_onion->effect(), m_onion->opacity());
+    m_controller->setOnionFrame(m_onion->isOn() ? m_onion->otherFrame(m_controller->frameIndex(),
+                                                                      m_controller->frameCount())
+                                                : -1);
+}
+
+QString StageCommands::hint() const
+{
+    if (!m_controller->animation()) {
+        return tr("Put the cursor of the text into an animation, or choose one in the organizer.");
+    }
+    return m_controller->frameCount() > 0
+               ? QString()
+               : tr("This animation has no frames yet. A line such as \"frame 0,0 delay 4\" "
+                    "makes one.");
+}
+
+QString StageCommands::info() const
+{
+    const int index = m_controller->frameIndex();
+    if (index < 0) {
+        return {};
+    }
+    const QString place = tr("Frame %1 of %2").arg(index + 1).arg(m_controller->frameCount());
+    if (m_controller->isPlaying()) {
+        return place + QLatin1String(", ") +
+               tr("%1 FPS").arg(double(m_view->timeLine()->currentFPS()));
+    }
+    if (!m_controller->sprite()) {
+        const Family::FrameNode* frame = m_controller->frame();
+        return place + QLatin1String(", ") +
+               tr("no sprite %1,%2").arg(frame->spriteGroup()).arg(frame->spriteNumber());
+    }
+    const int ticks = m_controller->ticks().total();
+    return place + QLatin1String(", ") +
+           (ticks < 0 ? tr("without end") : tr("%1 ticks").arg(ticks));
+}
+
+/// A dialog comes up: nothing moves behind it.
+bool StageCommands::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked) {
+        m_controller->breakOff();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QAction* StageCommands::action(const char* name) const
+{
+    return m_window->actionByName(name);
+}
+
+}  // namespace App

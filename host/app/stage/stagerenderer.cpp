@@ -1,0 +1,89 @@
+#include "app/stage/stagerenderer.h"
+
+namespace App {
+
+namespace {
+
+/// Tells of the input around it.
+class Input
+{
+public:
+    explicit Input(StageRenderer* stage) : m_stage(stage) { emit stage->inputComes(); }
+    ~Input() { emit m_stage->inputTaken(); }
+
+private:
+    Q_DISABLE_COPY(Input)
+    StageRenderer* m_stage;
+};
+
+}  // namespace
+
+void StageRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
+{
+    // A plus needs the shift key on many keyboards.
+    const bool isPlain = !(modifiers & ~(Qt::KeypadModifier | Qt::ShiftModifier));
+    if (isPlain && takeKey(key)) {
+        return;
+    }
+    const Input input(this);
+    GraphicsRenderer::keyPressed(key, modifiers & ~Qt::KeypadModifier);
+}
+
+bool StageRenderer::takeKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        addZoom();
+        return true;
+    case Qt::Key_Minus:
+        subZoom();
+        return true;
+    case Qt::Key_0:
+        zoomActual();
+        return true;
+    case Qt::Key_Space:
+        emit playKeyPressed();
+        return true;
+    case Qt::Key_PageUp:
+        emit frameKeyPressed(-1);
+        return true;
+    case Qt::Key_PageDown:
+        emit frameKeyPressed(1);
+        return true;
+    case Qt::Key_Escape:
+        emit escapePressed(clickMode() == PositioningMode);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void StageRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
+                                 Qt::KeyboardModifiers modifiers)
+{
+    m_pointer = pos;
+    const Input input(this);
+    if (button == Qt::LeftButton &&
+        (clickMode() != PositioningMode || hitTest(pos) != StageElement)) {
+        emit aboutToGrab();
+    }
+    GraphicsRenderer::mousePressed(pos, button, modifiers);
+}
+
+void StageRenderer::mouseReleased(QPoint pos, Qt::MouseButton button,
+                                  Qt::KeyboardModifiers modifiers)
+{
+    m_pointer = pos;
+    const Input input(this);
+    GraphicsRenderer::mouseReleased(pos, button, modifiers);
+}
+
+void StageRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
+{
+    m_pointer = pos;
+    const Input input(this);
+    GraphicsRenderer::mouseMoved(pos, modifiers);
+}
+
+}  // namespace App

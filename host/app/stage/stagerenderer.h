@@ -1,0 +1,47 @@
+#pragma once
+
+#include "graphics/stage/graphicsrenderer.h"
+
+namespace App {
+
+/// The stage of the window. Its input is told of before and after, so that nodes of the text are
+/// looked up in front of it, and not while the library edits; and it has keys of its own.
+///
+/// Keys: + - 0 zoom, Space plays and stops, Page up and Page down go from frame to frame, Escape
+/// goes back to positioning, and from there to the text.
+class StageRenderer : public Zorv::GraphicsRenderer
+{
+    Q_OBJECT
+
+public:
+    using GraphicsRenderer::GraphicsRenderer;
+
+    void keyPressed(int key, Qt::KeyboardModifiers modifiers) override;
+    void mousePressed(QPoint pos, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) override;
+    void mouseReleased(QPoint pos, Qt::MouseButton button,
+                       Qt::KeyboardModifiers modifiers) override;
+    void mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers) override;
+
+    /// Where the pointer was last, in pixels of the widget.
+    QPoint pointer() const { return m_pointer; }
+
+signals:
+    void inputComes();
+    void inputTaken();
+
+    /// The left button is about to pick something up.
+    void aboutToGrab();
+
+    void playKeyPressed();
+    void frameKeyPressed(int step);
+
+    /// `isFree` if there was no drawing or capturing to be left.
+    void escapePressed(bool isFree);
+
+private:
+    bool takeKey(int key);
+
+    QPoint m_pointer;
+};
+
+}  // namespace App

@@ -1,0 +1,158 @@
+#include "app/stage/stageview.h"
+
+#include "animation/timeline/timelinewidget.h"
+#include "app/look/language.h"
+#include "app/stage/stagerenderer.h"
+#include "graphics/glcontext.h"
+#include "graphics/renderwidget.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QResizeEvent>
+#include <QStackedWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace App {
+
+namespace {
+
+const QSize ButtonSize(16, 16);
+const QSize UsualSize(640, 380);
+const QSize SmallestStage(80, 60);
+
+QLabel* makeMessage()
+{
+    auto* label = new QLabel;
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    label->setMargin(12);
+    label->setMinimumSize(SmallestStage);
+    return label;
+}
+
+}  // namespace
+
+StageView::StageView(QWidget* parent)
+    : QWidget(parent), m_renderer(new StageRenderer(this)),
+      m_timeLine(new Zorv::TimeLineWidget(this)), m_bar(new QToolBar(this)),
+      m_pages(new QStackedWidget(this)), m_hint(makeMessage()), m_info(new QLabel)
+{
+    m_bar->setObjectName(QStringLiteral("stage_tools"));
+    m_bar->setIconSize(ButtonSize);
+    m_pages->addWidget(makeStage());
+    m_pages->addWidget(m_hint);
+    m_hint->setEnabled(false);
+    m_timeLine->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(m_bar);
+    layout->addWidget(m_pages, 1);
+    layout->addWidget(m_timeLine);
+    m_info->setMargin(4);
+    followLanguage(this, [this] { retranslate(); });
+}
+
+StageView::~StageView()
+{
+    if (m_widget) {
+        m_widget->setRenderer(nullptr);
+    }
+}
+
+/// A GL widget that cannot have a context would take the whole window with it.
+QWidget* StageView::makeStage()
+{
+    if (!Zorv::isContextUsable()) {
+        m_message = makeMessage();
+        m_message->setObjectName(QStringLiteral("stage_message"));
+        return m_message;
+    }
+    m_widget = new Zorv::RenderWidget;
+    m_widget->setObjectName(QStringLiteral("stage"));
+    m_widget->setMinimumSize(SmallestStage);
+    m_widget->setFocusPolicy(Qt::StrongFocus);
+    m_widget->setMouseTracking(true);
+    m_widget->setRenderer(m_renderer);
+    m_widget->installEventFilter(this);
+    return m_widget;
+}
+
+void StageView::retranslate()
+{
+    m_timeLine->setAccessibleName(tr("Time line"));
+    m_bar->setAccessibleName(tr("Tools of the stage"));
+    if (m_widget) {
+        m_widget->setAccessibleName(tr("Stage"));
+    }
+    if (m_message) {
+        m_message->setText(tr("The stage cannot be shown: OpenGL does not work on this display. "
+                              "Texts, lists and the time line work as ever. A driver for the "
+                              "graphics card, or Mesa's software OpenGL, brings the stage back."));
+    }
+}
+
+QWidget* StageView::focusTarget() const
+{
+    return m_widget ? static_cast<QWidget*>(m_widget) : m_timeLine;
+}
+
+bool StageView::hasKeyboard() const
+{
+    const QWidget* focus = QApplication::focusWidget();
+    return focus && (focus == m_widget || focus == m_timeLine);
+}
+
+void StageView::setHint(const QString& text)
+{
+    m_hint->setText(text);
+    m_pages->setCurrentIndex(text.isEmpty() || !m_widget ? 0 : 1);
+}
+
+void StageView::setInfo(const QString& text)
+{
+    if (!m_info->parentWidget()) {
+        auto* gap = new QWidget;
+        gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+        m_bar->addWidget(gap);
+        m_bar->addWidget(m_info);
+    }
+    m_info->setText(text);
+}
+
+QSize StageView::sizeHint() const
+{
+    return UsualSize;
+}
+
+bool StageView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_widget && event->type() == QEvent::Resize) {
+        keepOrigin(static_cast<QResizeEvent*>(event)->size());
+    } else if (watched == m_widget && event->type() == QEvent::Leave) {
+        emit pointerLeft();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+/// What stands on the stage stays in sight when panels move.
+void StageView::keepOrigin(QSize size)
+{
+    if (m_size.isEmpty()) {
+        m_size = size;
+        emit placed(size);
+    } else if (!size.isEmpty()) {
+        const QPoint origin = m_renderer->origin();
+        if (origin != m_origin) {
+            m_originShare = {origin.x() / double(m_size.width()),
+                             origin.y() / double(m_size.height())};
+        }
+        m_size = size;
+        m_origin = QPoint(qRound(m_originShare.x() * size.width()),
+                          qRound(m_originShare.y() * size.height()));
+        m_renderer->setOrigin(m_origin);
+    }
+}
+
+}  // namespace App

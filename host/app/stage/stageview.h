@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QPointF>
+#include <QWidget>
+
+class QLabel;
+class QStackedWidget;
+class QToolBar;
+
+namespace Zorv {
+class RenderWidget;
+class TimeLineWidget;
+}  // namespace Zorv
+
+namespace App {
+
+class StageRenderer;
+
+/// The stage of the window with its tool bar and time line.
+///
+/// Without usable GL a message in plain words stands in place of the stage, and no GL widget is
+/// made; the renderer is there all the same, on no widget.
+class StageView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit StageView(QWidget* parent = nullptr);
+    ~StageView() override;
+
+    /// False without usable GL.
+    bool isUsable() const { return m_widget; }
+
+    StageRenderer* renderer() const { return m_renderer; }
+
+    /// Null without usable GL.
+    Zorv::RenderWidget* stage() const { return m_widget; }
+    Zorv::TimeLineWidget* timeLine() const { return m_timeLine; }
+    QToolBar* bar() const { return m_bar; }
+
+    /// What takes the keyboard: the stage, or the time line without one.
+    QWidget* focusTarget() const;
+
+    /// True while the keyboard is on the stage or the time line.
+    bool hasKeyboard() const;
+
+    /// Shows in place of the stage what the person can do; an empty text shows the stage.
+    void setHint(const QString& text);
+
+    /// What stands at the end of the tool bar.
+    void setInfo(const QString& text);
+
+    QSize sizeHint() const override;
+
+signals:
+    /// The stage has its first size: what was kept of its place can be put back.
+    void placed(QSize size);
+
+    /// The pointer has left the stage.
+    void pointerLeft();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget* makeStage();
+    void retranslate();
+    void keepOrigin(QSize size);
+
+    StageRenderer* m_renderer;
+    Zorv::RenderWidget* m_widget = nullptr;
+    Zorv::TimeLineWidget* m_timeLine;
+    QToolBar* m_bar;
+    QStackedWidget* m_pages;
+    QLabel* m_hint;
+    QLabel* m_info;
+    QLabel* m_message = nullptr;  // in place of the stage
+    QSize m_size;                 // of the stage; empty before it has one
+    QPoint m_origin;              // as it was put here last
+    QPointF m_originShare;        // in shares of the size
+};
+
+}  // namespace App
