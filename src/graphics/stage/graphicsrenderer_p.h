@@ -22,6 +22,8 @@ public:
 
     explicit GraphicsRendererPrivate(GraphicsRenderer* owner) : q(owner) {}
 
+    static GraphicsRendererPrivate& of(GraphicsRenderer& stage) { return *stage.d; }
+
     // Of all stages.
     static QPoint m_origin;
     static bool m_sprOverGuides;

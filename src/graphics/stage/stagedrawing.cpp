@@ -2,7 +2,6 @@
 #include "cache/sprite.h"
 #include "graphics/stage/graphicsrenderer.h"
 #include "graphics/stage/graphicsrenderer_p.h"
-#include "graphics/stage/positionmode.h"
 #include "graphics/stage/rounding_p.h"
 
 #include <QMatrix4x4>

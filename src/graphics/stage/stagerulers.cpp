@@ -1,8 +1,7 @@
-#include "graphics/stage/graphicsrenderer.h"
 #include "graphics/stage/graphicsrenderer_p.h"
+#include "graphics/stage/rulerticks_p.h"
 
 #include <QPainter>
-#include <QVarLengthArray>
 
 #include <algorithm>
 
@@ -10,28 +9,44 @@ namespace Zorv {
 
 namespace {
 
-constexpr int Band = 30;
-constexpr int LabelledTick = 5;
+constexpr int Band = RulerTicks::Band;
 constexpr int LabelPixels = 9;  // fits the strip of the labels
 
-struct Label
+QColor invertColor(const QColor& color)
 {
-    int place;
-    qint64 value;
-};
+    return {255 - color.red(), 255 - color.green(), 255 - color.blue()};
+}
 
-/// The ticks of one axis, in pixels from the start of the widget.
-struct Ticks
+/// A rectangle of the horizontal ruler, or the same of the vertical one.
+QRect along(Qt::Orientation orientation, const QRect& rect)
 {
-    Ticks(float zoom, int origin, int length);
+    return orientation == Qt::Horizontal ? rect
+                                         : QRect(rect.y(), rect.x(), rect.height(), rect.width());
+}
 
-    int step;
-    QVarLengthArray<int, 256> small;
-    QVarLengthArray<int, 64> large;
-    QVarLengthArray<Label, 64> labels;
-};
+void drawTicks(QPainter& painter, Qt::Orientation orientation, const RulerTicks& ticks)
+{
+    // As filled rectangles: sharp under any engine.
+    const auto line = [&](int place, int from) {
+        painter.fillRect(along(orientation, QRect(place, from, 1, Band - from)),
+                         painter.pen().color());
+    };
+    for (const int place : ticks.small) {
+        line(place, 24);
+    }
+    for (const int place : ticks.large) {
+        line(place, 20);
+    }
+    for (const RulerTicks::Label& label : ticks.labels) {
+        const QRect room(label.place - 5 * ticks.step, 0, 10 * ticks.step, Band);
+        painter.drawText(along(orientation, room), Qt::AlignCenter | Qt::TextDontClip,
+                         QStringLiteral("%1").arg(label.value));
+    }
+}
 
-Ticks::Ticks(float zoom, int origin, int length)
+}  // namespace
+
+RulerTicks::RulerTicks(float zoom, int origin, int length)
 {
     const int units = std::max(static_cast<int>(10.0 / static_cast<double>(zoom)), 1);
     step = std::max(static_cast<int>(static_cast<float>(units) * zoom), 1);
@@ -52,40 +67,6 @@ Ticks::Ticks(float zoom, int origin, int length)
     }
 }
 
-QColor invertColor(const QColor& color)
-{
-    return {255 - color.red(), 255 - color.green(), 255 - color.blue()};
-}
-
-/// A rectangle of the horizontal ruler, or the same of the vertical one.
-QRect along(Qt::Orientation orientation, const QRect& rect)
-{
-    return orientation == Qt::Horizontal ? rect
-                                         : QRect(rect.y(), rect.x(), rect.height(), rect.width());
-}
-
-void drawTicks(QPainter& painter, Qt::Orientation orientation, const Ticks& ticks)
-{
-    // As filled rectangles: sharp under any engine.
-    const auto line = [&](int place, int from) {
-        painter.fillRect(along(orientation, QRect(place, from, 1, Band - from)),
-                         painter.pen().color());
-    };
-    for (const int place : ticks.small) {
-        line(place, 24);
-    }
-    for (const int place : ticks.large) {
-        line(place, 20);
-    }
-    for (const Label& label : ticks.labels) {
-        const QRect room(label.place - 5 * ticks.step, 0, 10 * ticks.step, Band);
-        painter.drawText(along(orientation, room), Qt::AlignCenter | Qt::TextDontClip,
-                         QStringLiteral("%1").arg(label.value));
-    }
-}
-
-}  // namespace
-
 void GraphicsRendererPrivate::renderRulers(QPainter& painter)
 {
     if (!rulersVisible) {
@@ -103,8 +84,8 @@ void GraphicsRendererPrivate::renderRulers(QPainter& painter)
     QFont font = painter.font();
     font.setPixelSize(LabelPixels);
     painter.setFont(font);
-    drawTicks(painter, Qt::Horizontal, Ticks(zoom, m_origin.x(), width));
-    drawTicks(painter, Qt::Vertical, Ticks(zoom, m_origin.y(), height));
+    drawTicks(painter, Qt::Horizontal, RulerTicks(zoom, m_origin.x(), width));
+    drawTicks(painter, Qt::Vertical, RulerTicks(zoom, m_origin.y(), height));
 }
 
 }  // namespace Zorv
