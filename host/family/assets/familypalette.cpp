@@ -39,7 +39,6 @@ Zorv::Texture* FamilyPalette::texture() const
         if (!m_texture || m_uploaded != colors) {
             m_texture = m_texture ? std::move(m_texture) : std::make_unique<Zorv::Texture>();
             m_uploaded = colors;
-            const CurrentContext current;
             m_texture->fromPalette(colors.data());
         }
     }

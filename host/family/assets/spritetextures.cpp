@@ -33,7 +33,6 @@ Zorv::Texture* SpriteTextures::texture(const PixelData* pixels, bool asIndices,
         if (!asIndices && !source.isNull()) {
             source = source.convertToFormat(QImage::Format_ARGB32);
         }
-        const CurrentContext current;
         texture = new Zorv::Texture;
         texture->fromImage(source);
         // One that is larger than the limit stays by itself until the next one comes.
@@ -66,19 +65,6 @@ void SpriteTextures::dropReleased()
     const QSet<const PixelData*> released = std::exchange(m_released, {});
     for (const PixelData* pixels : released) {
         drop(pixels);
-    }
-}
-
-CurrentContext::CurrentContext()
-    : m_context(QOpenGLContext::currentContext()),
-      m_surface(m_context ? m_context->surface() : nullptr)
-{
-}
-
-CurrentContext::~CurrentContext()
-{
-    if (m_context && QOpenGLContext::currentContext() != m_context) {
-        m_context->makeCurrent(m_surface);
     }
 }
 

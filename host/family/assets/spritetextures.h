@@ -7,8 +7,6 @@
 #include <functional>
 
 class QImage;
-class QOpenGLContext;
-class QSurface;
 
 namespace Zorv {
 class Texture;
@@ -48,20 +46,6 @@ private:
 
     QCache<Key, Zorv::Texture> m_textures{MostBytes};
     QSet<const PixelData*> m_released;
-};
-
-/// Makes the context that was current so again at the end of a block: textures are made in a
-/// context of their own, also in the middle of a widget's painting.
-class CurrentContext
-{
-public:
-    CurrentContext();
-    ~CurrentContext();
-
-private:
-    Q_DISABLE_COPY(CurrentContext)
-    QOpenGLContext* m_context;
-    QSurface* m_surface;
 };
 
 /// The texture units of the stage.
