@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStackedWidget>
 
 namespace App {
@@ -19,7 +20,7 @@ namespace App {
 namespace {
 
 constexpr int Margin = 24;  // beside the widest title
-const QSize FirstSize(760, 480);
+const QSize FirstSize(780, 600);
 
 }  // namespace
 
@@ -59,7 +60,11 @@ void SettingsDialog::addPage(SettingsPage* page)
 {
     m_pages.append(page);
     m_titles->addItem(QString());
-    m_stack->addWidget(page);
+    auto* sight = new QScrollArea;
+    sight->setWidgetResizable(true);
+    sight->setFrameShape(QFrame::NoFrame);
+    sight->setWidget(page);
+    m_stack->addWidget(sight);
     page->read();
     connect(page, &SettingsPage::edited, this, [this] { setEdited(true); });
 }

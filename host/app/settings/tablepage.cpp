@@ -5,6 +5,7 @@
 #include "app/settings/settingtable.h"
 #include "operations/hostinterface.h"
 
+#include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
 
@@ -41,6 +42,8 @@ void TablePage::addLine(const SettingRow& row)
     Line line{row, nullptr, SettingField::make(row, this)};
     QWidget* widget = line.field->widget();
     widget->setObjectName(QLatin1String(row.key));
+    widget->setFocusPolicy(Qt::StrongFocus);
+    widget->installEventFilter(this);
     if (row.kind == SettingRow::Switch) {
         form->addRow(widget);
     } else {
@@ -50,6 +53,16 @@ void TablePage::addLine(const SettingRow& row)
     }
     connect(line.field.get(), &SettingField::edited, this, &SettingsPage::edited);
     m_lines.push_back(std::move(line));
+}
+
+/// The wheel scrolls the page, and does not change what it passes.
+bool TablePage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return SettingsPage::eventFilter(watched, event);
 }
 
 void TablePage::retranslate()

@@ -28,6 +28,9 @@ public:
     bool write(QString* error) override;
     void restoreDefaults() override;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     struct Line
     {
