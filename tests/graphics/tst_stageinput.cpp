@@ -1,0 +1,924 @@
+#include "graphics/stage/graphicsrenderer.h"
+
+#include "support/stagedata.h"
+
+#include "graphics/stage/positionmode.h"
+
+#include <QCursor>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTransform>
+#include <QtTest>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <memory>
+
+using namespace Zorv;
+using Element = GraphicsRenderer::RenderElement;
+using Points = QVector<QPoint>;
+using Rects = QVector<QRect>;
+
+namespace {
+
+struct Scene;
+
+}  // namespace
+
+/// What a row of a table does to the scene.
+using Change = std::function<void(Scene&)>;
+
+Q_DECLARE_METATYPE(Points)
+Q_DECLARE_METATYPE(Rects)
+Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(GraphicsRenderer::ItemType)
+
+namespace {
+
+const unsigned Seed = 64;
+const int CrossSize = 20;
+
+struct PlainItem
+{
+    QPoint position;
+    int mode = 13;
+    int parent = 0;
+    QSize size;
+    QPointF scale{1, 1};
+    double rotation = 0;
+    StageData::Sprite* sprite = nullptr;
+
+    StageData::Provider::Row row() const
+    {
+        return {sprite, {position, mode, parent, size, scale, 0, rotation, 0}};
+    }
+};
+
+struct StageCross
+{
+    QPoint position;
+    int mode = 13;
+    int parent = 0;
+};
+
+/// All that decides what lies under a point, and the slow way to find it.
+struct Scene
+{
+    GraphicsRenderer::ClickMode clickMode = GraphicsRenderer::PositioningMode;
+    bool spritesOverGuides = false;
+    bool boxesOverCrosses = false;
+    bool shown[7] = {true, true, true, true, true, false, true};
+    unsigned char table = 1;
+    unsigned char level = 2;
+    QPoint origin{100, 100};
+    QPoint guides{200, 200};
+    StageCross crosses[3] = {{{0, 0}, 13, 0}, {{60, 0}, 13, 0}, {{0, 60}, 13, 0}};
+    int boxMode = 14;
+    int boxParent = 0;
+    QVector<PlainItem> sprites;
+    QVector<QRect> boxes[8];
+    QRect selection;  // valid if there are sizers
+
+    float zoom = 1;  // as the stage tells
+
+    int scaled(int length) const { return qRound(float(length) * zoom); }
+    QPoint scaled(QPoint point) const { return {scaled(point.x()), scaled(point.y())}; }
+
+    static QPoint truncated(QPoint point, QPointF scale)
+    {
+        return {int(point.x() * scale.x()), int(point.y() * scale.y())};
+    }
+
+    /// `met` holds crosses by their number, and sprites by theirs and 3.
+    QPoint anchor(int mode, int parent, QVector<int> met) const
+    {
+        switch (mode & 0xf3) {
+        case OriginAnchor:
+            return origin;
+        case CrossAnchor:
+            return parent < 3 ? place(parent, met) : QPoint();
+        case SpriteAnchor:
+            return parent < sprites.size() ? place(3 + parent, met) : QPoint();
+        default:
+            return {};
+        }
+    }
+
+    QPoint place(int item, QVector<int> met) const
+    {
+        const bool isSprite = item >= 3;
+        const PlainItem sprite = sprites.value(item - 3);
+        const QPoint own =
+            isSprite ? truncated(sprite.position, sprite.scale) : crosses[item].position;
+        const int mode = isSprite ? sprite.mode : crosses[item].mode;
+        if ((mode & 0xf3) == AbsoluteAnchor || met.contains(item)) {
+            return own;
+        }
+        met.append(item);
+        return scaled(own) + anchor(mode, isSprite ? sprite.parent : crosses[item].parent, met);
+    }
+
+    Element instead(Element own, int mode, int parent) const
+    {
+        if (mode & MovableBoth) {
+            return own;
+        }
+        const int number = mode & 0xf3;
+        if (number == CrossAnchor && parent < 3) {
+            return Element(GraphicsRenderer::MainCrossElement + parent);
+        }
+        return number == SpriteAnchor && parent < sprites.size() ? GraphicsRenderer::SpriteElement
+                                                                 : GraphicsRenderer::StageElement;
+    }
+
+    Element guideAt(QPoint pos) const
+    {
+        const int wide = (zoom < 0.5F ? 0 : 1) + 2;
+        const QPoint at = scaled(guides) + origin - QPoint(1, 1);
+        if (shown[6] && pos.x() >= at.x() && pos.x() < at.x() + wide) {
+            return GraphicsRenderer::VerticalGuide;
+        }
+        return shown[6] && pos.y() >= at.y() && pos.y() < at.y() + wide
+                   ? GraphicsRenderer::HorizontalGuide
+                   : GraphicsRenderer::StageElement;
+    }
+
+    Element crossAt(int number, QPoint pos) const
+    {
+        const QPoint corner =
+            place(number, {}) - QPoint(scaled(CrossSize) / 2, scaled(CrossSize) / 2);
+        const bool hit = shown[number] &&
+                         QRect(corner, QSize(scaled(CrossSize), scaled(CrossSize))).contains(pos);
+        return hit ? instead(Element(GraphicsRenderer::MainCrossElement + number),
+                             crosses[number].mode, crosses[number].parent)
+                   : GraphicsRenderer::StageElement;
+    }
+
+    Element boxAt(QPoint pos) const
+    {
+        const QPoint at = anchor(boxMode, boxParent, {});
+        if (selection.isValid()) {
+            const int midX = selection.left() + (1 - selection.left() + selection.right()) / 2;
+            const int midY = selection.top() + (1 - selection.top() + selection.bottom()) / 2;
+            const int places[8][2] = {{selection.left(), selection.top()},
+                                      {midX, selection.top()},
+                                      {selection.left(), midY},
+                                      {selection.right(), selection.top()},
+                                      {selection.left(), selection.bottom()},
+                                      {midX, selection.bottom()},
+                                      {selection.right(), selection.bottom()},
+                                      {selection.right(), midY}};
+            for (int i = 0; i < 8; ++i) {
+                const QPoint away = pos - at - scaled(QPoint(places[i][0], places[i][1]));
+                if (away.x() >= -6 && away.x() <= 5 && away.y() >= -6 && away.y() <= 5) {
+                    return Element(GraphicsRenderer::TopLeftSizer + i);
+                }
+            }
+        }
+        return boxUnder(pos).isValid()
+                   ? instead(GraphicsRenderer::ContactBoxElement, boxMode, boxParent)
+                   : GraphicsRenderer::StageElement;
+    }
+
+    QRect boxUnder(QPoint pos) const
+    {
+        const QPoint at = anchor(boxMode, boxParent, {});
+        QRect found;
+        for (int type = 0; type < 8; ++type) {
+            for (const QRect& box : boxes[type]) {
+                const QRect drawn(scaled(box.topLeft()) + at,
+                                  QSize(scaled(box.width()), scaled(box.height())));
+                if ((type > 1 || shown[3 + type]) && drawn.contains(pos)) {
+                    found = box;
+                }
+            }
+        }
+        return found;
+    }
+
+    bool covers(int index, QPoint pos) const
+    {
+        const PlainItem& item = sprites.at(index);
+        const QPoint base = anchor(item.mode, item.parent, {3 + index});
+        const bool isAbsolute = (item.mode & 0xf3) == AbsoluteAnchor;
+        const QPoint own = truncated(item.position, item.scale);
+        const QPoint size =
+            scaled(truncated(QPoint(item.size.width(), item.size.height()), item.scale));
+        const QPointF turned =
+            QTransform().rotate(-item.rotation).map(QPointF(pos - base) + QPointF(0.5, 0.5)) -
+            (isAbsolute ? own : scaled(own));
+        return QRectF(QPointF(), QSizeF(size.x(), size.y())).normalized().contains(turned) &&
+               size.x() != 0 && size.y() != 0;
+    }
+
+    Element at(QPoint pos) const
+    {
+        const bool isRuler = (pos.x() >= 0 && pos.x() < 30) || (pos.y() >= 0 && pos.y() < 30);
+        QVector<Element> found;
+        if (!spritesOverGuides) {
+            found.append(guideAt(pos));
+        }
+        if (clickMode != GraphicsRenderer::DrawContactBoxMode) {
+            if (clickMode == GraphicsRenderer::PositioningMode) {
+                found += {boxesOverCrosses ? boxAt(pos) : GraphicsRenderer::StageElement,
+                          crossAt(2, pos), crossAt(1, pos), crossAt(0, pos), boxAt(pos)};
+            }
+            for (int i = sprites.size() - 1; i >= 0; --i) {
+                if (covers(i, pos)) {
+                    const PlainItem& item = sprites.at(i);
+                    found.append(
+                        clickMode == GraphicsRenderer::CaptureMode
+                            ? GraphicsRenderer::SpriteElement
+                            : instead(GraphicsRenderer::SpriteElement, item.mode, item.parent));
+                }
+            }
+            found.append(spritesOverGuides ? guideAt(pos) : GraphicsRenderer::StageElement);
+        }
+        found.removeAll(GraphicsRenderer::StageElement);
+        return isRuler || found.isEmpty() ? GraphicsRenderer::StageElement : found.first();
+    }
+};
+
+/// A stage without a widget.
+struct Stage
+{
+    explicit Stage(const Scene& scene, const QString& crossFile)
+    {
+        using Renderer = GraphicsRenderer;
+        renderer.setCrossHair(Renderer::FileCrosses, crossFile, crossFile, crossFile);
+        renderer.setPriority(scene.spritesOverGuides, scene.boxesOverCrosses);
+        const bool* shown = scene.shown;
+        renderer.setVisibility(shown[0], shown[1], shown[2], shown[3], shown[4], shown[5],
+                               shown[6]);
+        renderer.setZoomTable(scene.table);
+        renderer.setZoomLevel(scene.level);
+        renderer.setOrigin(scene.origin);
+        renderer.setGuideLines(scene.guides);
+        for (unsigned i = 0; i < 3; ++i) {
+            const auto type = GraphicsRenderer::ItemType(i);
+            renderer.setItemPosition(type, scene.crosses[i].position, 0);
+            renderer.setItemPositionMode(type, uchar(scene.crosses[i].mode),
+                                         unsigned(scene.crosses[i].parent), 0);
+        }
+        renderer.setItemPositionMode(GraphicsRenderer::ContactBoxesType, uchar(scene.boxMode),
+                                     unsigned(scene.boxParent), 0);
+        for (const PlainItem& item : scene.sprites) {
+            provider.rows.append(item.row());
+        }
+        renderer.setSprites(&provider);
+        for (int i = 0; i < 8; ++i) {
+            const auto type = ContactBoxCode::BoxType(i + 1);
+            lists.push_back(std::make_unique<StageData::Boxes>(type));
+            for (const QRect& box : scene.boxes[i]) {
+                lists.back()->add(box);
+            }
+            renderer.setContactBoxes(type, lists.back().get());
+        }
+        if (scene.clickMode == GraphicsRenderer::DrawContactBoxMode) {
+            renderer.setDrawContactBoxMode(ContactBoxCode::Attack);
+        } else if (scene.clickMode == GraphicsRenderer::CaptureMode) {
+            renderer.setCaptureMode();
+        }
+    }
+
+    void press(QPoint pos, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        renderer.mousePressed(pos, Qt::LeftButton, modifiers);
+    }
+
+    void release(QPoint pos, Qt::MouseButton button = Qt::LeftButton)
+    {
+        renderer.mouseReleased(pos, button, Qt::NoModifier);
+    }
+
+    /// With the left button from the first point over the others.
+    void drag(const Points& points, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        press(points.first(), modifiers);
+        for (int i = 1; i < points.size(); ++i) {
+            renderer.mouseMoved(points.at(i), modifiers);
+        }
+        release(points.last());
+    }
+
+    QRect box(int type, int index)
+    {
+        renderer.updateSelectedBoxes();
+        return lists[size_t(type - 1)]->at(index)->rect();
+    }
+
+    StageData::Provider provider;
+    std::vector<std::unique_ptr<StageData::Boxes>> lists;
+    GraphicsRenderer renderer;
+};
+
+/// Two attack boxes over each other, and a body box over their corner; a sprite farther away.
+Scene plainScene()
+{
+    Scene scene;
+    scene.boxes[0] = {QRect(-60, -60, 40, 40), QRect(-50, -50, 40, 40)};
+    scene.boxes[1] = {QRect(-30, -30, 40, 40)};
+    PlainItem sprite;
+    sprite.position = {20, 20};
+    sprite.size = {50, 30};
+    scene.sprites = {sprite};
+    return scene;
+}
+
+Scene changed(const Change& change)
+{
+    Scene scene = plainScene();
+    if (change) {
+        change(scene);
+    }
+    return scene;
+}
+
+Scene randomScene(QRandomGenerator& random)
+{
+    const int modes[] = {0, 1, 2, 3, 12, 13, 14, 15, 5, 9, 14, 13, 6, 11};
+    const double scales[] = {1, 1, 2, -1, 0.5, -1.5};
+    const auto upTo = [&random](int most) { return random.bounded(most + 1); };
+    const auto any = [&random](const auto& values) {
+        return values[random.bounded(int(std::size(values)))];
+    };
+    const auto point = [&random](int most) {
+        return QPoint(random.bounded(-most, most), random.bounded(-most, most));
+    };
+    Scene scene;
+    scene.clickMode = GraphicsRenderer::ClickMode(std::max(0, upTo(9) - 7));
+    scene.spritesOverGuides = upTo(1);
+    scene.boxesOverCrosses = upTo(1);
+    for (bool& shown : scene.shown) {
+        shown = upTo(3) > 0;
+    }
+    scene.table = uchar(upTo(1));
+    scene.level = uchar(upTo(11));
+    scene.origin = point(40) + QPoint(120, 120);
+    scene.guides = point(60);
+    for (StageCross& cross : scene.crosses) {
+        cross = {point(80), any(modes), upTo(3)};
+    }
+    scene.boxMode = any(modes);
+    scene.boxParent = upTo(3);
+    for (int count = upTo(4); count > 0; --count) {
+        PlainItem item;
+        item.position = point(50);
+        item.mode = any(modes);
+        item.parent = upTo(4);
+        item.size = QSize(upTo(40), upTo(40));
+        item.scale = {any(scales), any(scales)};
+        item.rotation = upTo(1) ? 0 : random.bounded(-400, 400);
+        scene.sprites.append(item);
+    }
+    for (auto& boxes : scene.boxes) {
+        for (int count = upTo(2); count > 0; --count) {
+            boxes.append(QRect(point(60), QSize(1 + upTo(40), 1 + upTo(40))));
+        }
+    }
+    return scene;
+}
+
+}  // namespace
+
+class TestStageInput : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void elements_data();
+    void elements();
+    void hitTestAgreesWithAModel();
+    void cursors();
+    void drags_data();
+    void drags();
+    void boxDrags_data();
+    void boxDrags();
+    void selection();
+    void drawnBoxes_data();
+    void drawnBoxes();
+    void modesInTheMiddleOfADrag();
+    void keys();
+    void capture();
+    void strangeNumbers();
+
+private:
+    QTemporaryDir m_folder;
+    QString m_cross;
+};
+
+void TestStageInput::initTestCase()
+{
+    qRegisterMetaType<GraphicsRenderer::ItemType>("Zorv::GraphicsRenderer::ItemType");
+    m_cross = m_folder.filePath(QStringLiteral("cross.png"));
+    QVERIFY(QImage(CrossSize, CrossSize, QImage::Format_ARGB32).save(m_cross));
+}
+
+void TestStageInput::init()
+{
+    GraphicsRenderer().setZoomMode(GraphicsRenderer::ZoomAboutOrigin);
+}
+
+void TestStageInput::elements_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QPoint>("pos");
+    QTest::addColumn<int>("element");
+    using R = GraphicsRenderer;
+    const auto row = [](const char* name, QPoint pos, Element element, const Change& change = {}) {
+        QTest::newRow(name) << change << pos << int(element);
+    };
+    const Change boxesFirst = [](Scene& scene) { scene.boxesOverCrosses = true; };
+    const Change draw = [](Scene& scene) { scene.clickMode = R::DrawContactBoxMode; };
+    const Change capture = [](Scene& scene) { scene.clickMode = R::CaptureMode; };
+    const Change far = [](Scene& scene) { scene.level = 0; };
+    const Change near = [](Scene& scene) { scene.level = 5; };
+    const Change fixedBoxes = [](Scene& scene) { scene.boxMode = 2; };
+    const Change allFixed = [](Scene& scene) {
+        scene.boxMode = 1;
+        scene.crosses[0].mode = 1;
+    };
+    row("nothing", {250, 250}, R::StageElement);
+    row("behind the rulers' strip", {300, 30}, R::VerticalGuide);
+    row("in the rulers' strip", {300, 29}, R::StageElement);
+    row("left of it all", {-1, 300}, R::HorizontalGuide);
+    row("guides cross", {300, 300}, R::VerticalGuide);
+    row("first pixel of a guide", {299, 250}, R::VerticalGuide);
+    row("last pixel of a guide", {301, 250}, R::VerticalGuide);
+    row("behind a guide", {302, 250}, R::StageElement);
+    row("horizontal guide", {250, 301}, R::HorizontalGuide);
+    row("far away a guide is thinner", {151, 250}, R::StageElement, far);
+    row("near it is no thicker", {902, 250}, R::StageElement, near);
+    row("near, first pixel", {899, 250}, R::VerticalGuide, near);
+    row("main cross before boxes", {95, 95}, R::MainCrossElement);
+    row("boxes before the main cross", {95, 95}, R::ContactBoxElement, boxesFirst);
+    row("secondary cross", {150, 90}, R::SecondaryCrossElement);
+    row("behind the secondary cross", {170, 100}, R::StageElement);
+    row("extra cross", {100, 155}, R::ExtraCrossElement);
+    row("sprite", {169, 149}, R::SpriteElement);
+    row("behind the sprite", {170, 149}, R::StageElement);
+    row("drawing", {60, 60}, R::StageElement, draw);
+    row("drawing, on a guide", {300, 60}, R::VerticalGuide, draw);
+    row("capture, on a box", {60, 60}, R::StageElement, capture);
+    row("capture, on a sprite", {140, 130}, R::SpriteElement, capture);
+    row("fixed boxes are their cross", {60, 60}, R::MainCrossElement, fixedBoxes);
+    row("all fixed to the stage", {95, 95}, R::StageElement, allFixed);
+}
+
+void TestStageInput::elements()
+{
+    QFETCH(Change, change);
+    QFETCH(QPoint, pos);
+    QFETCH(int, element);
+    Stage stage(changed(change), m_cross);
+    QCOMPARE(int(stage.renderer.hitTest(pos)), element);
+}
+
+void TestStageInput::hitTestAgreesWithAModel()
+{
+    QRandomGenerator random(Seed);
+    int counts[16] = {};
+    for (int round = 0; round < 600; ++round) {
+        Scene scene = randomScene(random);
+        Stage stage(scene, m_cross);
+        scene.zoom = stage.renderer.zoom();
+        if (scene.clickMode == GraphicsRenderer::PositioningMode && round % 2) {
+            const QPoint pos(random.bounded(250), random.bounded(250));
+            const bool selects = scene.at(pos) == GraphicsRenderer::ContactBoxElement;
+            stage.press(pos);
+            stage.release(pos);
+            scene.selection = selects ? scene.boxUnder(pos) : QRect();
+        }
+        for (int i = 0; i < 80; ++i) {
+            QPoint pos(random.bounded(-10, 250), random.bounded(-10, 250));
+            if (i % 2 && scene.selection.isValid()) {
+                const QRect& box = scene.selection;
+                const int x[] = {box.left(), box.center().x(), box.right()};
+                const int y[] = {box.top(), box.center().y(), box.bottom()};
+                pos = scene.scaled({x[random.bounded(3)], y[random.bounded(3)]}) +
+                      scene.anchor(scene.boxMode, scene.boxParent, {}) +
+                      QPoint(random.bounded(-8, 8), random.bounded(-8, 8));
+            }
+            const Element expected = scene.at(pos);
+            ++counts[expected];
+            if (stage.renderer.hitTest(pos) != expected) {
+                qWarning() << "seed" << Seed << "round" << round << pos;
+                QCOMPARE(stage.renderer.hitTest(pos), expected);
+            }
+        }
+    }
+    QVERIFY(std::find(std::begin(counts), std::end(counts), 0) == std::end(counts));
+}
+
+void TestStageInput::cursors()
+{
+    const Qt::CursorShape shapes[] = {Qt::OpenHandCursor,  Qt::SizeAllCursor, Qt::SizeAllCursor,
+                                      Qt::SizeAllCursor,   Qt::SizeAllCursor, Qt::SizeVerCursor,
+                                      Qt::SizeHorCursor,   Qt::SizeAllCursor, Qt::SizeFDiagCursor,
+                                      Qt::SizeVerCursor,   Qt::SizeHorCursor, Qt::SizeBDiagCursor,
+                                      Qt::SizeBDiagCursor, Qt::SizeVerCursor, Qt::SizeFDiagCursor,
+                                      Qt::SizeHorCursor,   Qt::ArrowCursor};
+    Stage stage(plainScene(), m_cross);
+    const auto shape = [&stage](int element) {
+        return stage.renderer.elementCursor(Element(element)).shape();
+    };
+    for (int element = 0; element <= 16; ++element) {
+        QCOMPARE(shape(element), shapes[element]);
+    }
+    stage.press({250, 250});
+    QCOMPARE(shape(GraphicsRenderer::StageElement), Qt::ClosedHandCursor);
+    stage.renderer.setCaptureMode();
+    QCOMPARE(shape(GraphicsRenderer::SpriteElement), Qt::CrossCursor);
+    QCOMPARE(shape(GraphicsRenderer::StageElement), Qt::OpenHandCursor);
+    stage.renderer.setDrawContactBoxMode(ContactBoxCode::Collision);
+    QCOMPARE(shape(GraphicsRenderer::StageElement), Qt::CrossCursor);
+    QCOMPARE(shape(GraphicsRenderer::SpriteElement), Qt::SizeAllCursor);
+}
+
+void TestStageInput::drags_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QPoint>("start");
+    QTest::addColumn<Points>("moves");  // from the start
+    QTest::addColumn<int>("item");      // an item type, or one of the two below
+    QTest::addColumn<QPoint>("expected");
+    QTest::addColumn<int>("signalCount");  // of moves
+    enum { Sprite = 3, Origin = 4, Guides = 5 };
+    const auto row = [](const char* name, const Change& change, QPoint start, const Points& moves,
+                        int item, QPoint expected, int signalCount) {
+        QTest::newRow(name) << change << start << moves << item << expected << signalCount;
+    };
+    const Change near = [](Scene& scene) { scene.level = 5; };
+    const Change far = [](Scene& scene) { scene.level = 0; };
+    const auto crossMode = [](int mode, QPoint position, int level = 2) -> Change {
+        return [=](Scene& scene) {
+            scene.crosses[0].mode = mode;
+            scene.crosses[0].position = position;
+            scene.level = uchar(level);
+        };
+    };
+    const auto spriteScale = [](double scale) -> Change {
+        return [=](Scene& scene) { scene.sprites[0].scale = {scale, scale}; };
+    };
+    const Change hanging = [](Scene& scene) {
+        scene.sprites[0].mode = 2;
+        scene.sprites[0].parent = 1;
+    };
+    const Change fixedCross = [](Scene& scene) { scene.crosses[2].mode = 1; };
+    const Change onSprite = [](Scene& scene) {
+        scene.boxMode = 3;
+        scene.sprites[0].position = {90, 90};
+    };
+    row("stage", {}, {250, 250}, {{3, 4}, {10, -5}}, Origin, {110, 95}, 0);
+    row("stage, near", near, {250, 590}, {{3, 4}}, Origin, {103, 104}, 0);
+    row("main cross", {}, {100, 100}, {{3, 4}, {10, -5}}, 0, {10, -5}, 2);
+    row("near, less than half a pixel", near, {100, 100}, {{1, -1}}, 0, {0, 0}, 0);
+    row("near, whole pixels", near, {100, 100}, {{6, 0}}, 0, {2, 0}, 1);
+    row("near, the rest is kept", near, {100, 100}, {{6, 0}, {9, 0}, {10, 0}}, 0, {3, 0}, 2);
+    row("far", far, {100, 100}, {{1, 0}, {2, 0}}, 0, {8, 0}, 2);
+    row("along x", crossMode(5, {}), {100, 100}, {{3, 4}}, 0, {3, 0}, 1);
+    row("along y", crossMode(9, {}), {100, 100}, {{3, 4}}, 0, {0, 4}, 1);
+    row("absolute and near", crossMode(12, {100, 100}, 5), {100, 100}, {{6, 0}}, 0, {108, 100}, 1);
+    row("fixed", fixedCross, {102, 162}, {{3, 4}}, Origin, {103, 104}, 0);
+    row("sprite", {}, {145, 145}, {{3, 4}}, Sprite, {23, 24}, 1);
+    row("large sprite", spriteScale(2), {145, 145}, {{5, -5}}, Sprite, {22, 18}, 1);
+    row("mirrored sprite", spriteScale(-2), {55, 35}, {{5, -5}}, Sprite, {18, 22}, 1);
+    row("sprite on a cross", hanging, {205, 145}, {{3, 4}}, 1, {63, 4}, 1);
+    row("boxes on a sprite", onSprite, {150, 150}, {{3, 4}}, Sprite, {93, 94}, 1);
+    row("vertical guide", {}, {300, 250}, {{7, 3}}, Guides, {207, 200}, 0);
+    row("horizontal guide", {}, {250, 300}, {{7, 3}}, Guides, {200, 203}, 0);
+}
+
+void TestStageInput::drags()
+{
+    QFETCH(Change, change);
+    QFETCH(QPoint, start);
+    QFETCH(Points, moves);
+    QFETCH(int, item);
+    QFETCH(QPoint, expected);
+    QFETCH(int, signalCount);
+    Stage stage(changed(change), m_cross);
+    QSignalSpy moved(&stage.renderer, &GraphicsRenderer::itemMoved);
+    QSignalSpy released(&stage.renderer, &GraphicsRenderer::itemReleased);
+    Points points{start};
+    for (const QPoint& move : moves) {
+        points.append(start + move);
+    }
+    stage.drag(points);
+    QCOMPARE(item < 4    ? stage.renderer.itemPosition(GraphicsRenderer::ItemType(item), 0)
+             : item == 4 ? stage.renderer.origin()
+                         : stage.renderer.guideLines(),
+             expected);
+    QCOMPARE(moved.count(), signalCount);
+    QCOMPARE(released.count(), signalCount ? 1 : 0);
+    if (signalCount) {
+        QCOMPARE(moved.last(), released.first());
+        QCOMPARE(released.first().at(0).value<GraphicsRenderer::ItemType>(), item);
+        QCOMPARE(released.first().at(2).toPoint(), expected);
+    }
+}
+
+void TestStageInput::boxDrags_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<Points>("clicks");  // the first without Shift
+    QTest::addColumn<Points>("points");  // a drag, with Shift if it is the second to press
+    QTest::addColumn<Rects>("attacks");
+    QTest::addColumn<QRect>("body");
+    const QRect first(-60, -60, 40, 40);
+    const QRect second(-50, -50, 40, 40);
+    const QRect body(-30, -30, 40, 40);
+    const auto row = [](const char* name, const Points& clicks, const Points& points,
+                        const Rects& attacks, const QRect& bodyAfter, const Change& change = {}) {
+        QTest::newRow(name) << change << clicks << points << attacks << bodyAfter;
+    };
+    const Change alongX = [](Scene& scene) { scene.boxMode = 6; };
+    const Change near = [](Scene& scene) {
+        scene.level = 5;
+        scene.origin = {400, 400};
+    };
+    const QPoint by(5, 2);
+    row("the last wins", {}, {{60, 60}, {65, 62}}, {first, second.translated(by)}, body);
+    row("the first alone", {}, {{45, 45}, {50, 47}}, {first.translated(by), second}, body);
+    row("bodies before attacks", {}, {{75, 75}, {80, 77}}, {first, second}, body.translated(by));
+    row("along x", {}, {{45, 45}, {50, 47}}, {first.translated(5, 0), second}, body, alongX);
+    row("near", {}, {{170, 170}, {176, 170}}, {first.translated(2, 0), second}, body, near);
+    row("two", {{45, 45}}, {{60, 60}, {65, 62}}, {first.translated(by), second.translated(by)},
+        body);
+    row("of both types", {{45, 45}}, {{85, 85}, {90, 87}}, {first.translated(by), second},
+        body.translated(by));
+    row("taken out again", {{45, 45}}, {{48, 48}, {53, 50}}, {first, second}, body);
+
+    const struct
+    {
+        QPoint sizer;
+        int left, top, right, bottom;  // how far each goes with (-10,-20)
+    } sizers[] = {{{40, 40}, -10, -20, 0, 0}, {{60, 40}, 0, -20, 0, 0},   {{40, 60}, -10, 0, 0, 0},
+                  {{79, 40}, 0, -20, -10, 0}, {{40, 79}, -10, 0, 0, -20}, {{60, 79}, 0, 0, 0, -20},
+                  {{79, 79}, 0, 0, -10, -20}, {{79, 60}, 0, 0, -10, 0}};
+    for (const auto& sizer : sizers) {
+        row(QTest::toString(sizer.sizer), {{45, 45}},
+            {sizer.sizer, sizer.sizer - QPoint(33, -5), sizer.sizer - QPoint(10, 20)},
+            {first.adjusted(sizer.left, sizer.top, sizer.right, sizer.bottom), second}, body);
+    }
+    row("both stretched", {{45, 45}, {60, 60}}, {{89, 89}, {139, 89}},
+        {QRect(-60, -60, 80, 40), QRect(-40, -50, 80, 40)}, body);
+    row("turned inside out", {{45, 45}}, {{79, 79}, {19, 79}},
+        {QRect(QPoint(-81, -60), QPoint(-60, -21)), second}, body);
+}
+
+void TestStageInput::boxDrags()
+{
+    QFETCH(Change, change);
+    QFETCH(Points, clicks);
+    QFETCH(Points, points);
+    QFETCH(Rects, attacks);
+    QFETCH(QRect, body);
+    Stage stage(changed(change), m_cross);
+    QSignalSpy released(&stage.renderer, &GraphicsRenderer::itemReleased);
+    Qt::KeyboardModifiers shift = Qt::NoModifier;
+    for (const QPoint& click : clicks) {
+        stage.press(click, shift);
+        stage.release(click);
+        shift = Qt::ShiftModifier;
+    }
+    QCOMPARE(released.count(), 0);
+    stage.drag(points, shift);
+    QCOMPARE(released.count(), 1);
+    QCOMPARE(Rects({stage.box(1, 0), stage.box(1, 1)}), attacks);
+    QCOMPARE(stage.box(2, 0), body);
+}
+
+void TestStageInput::selection()
+{
+    Stage stage(plainScene(), m_cross);
+    QSignalSpy released(&stage.renderer, &GraphicsRenderer::itemReleased);
+    const QPoint attack(45, 45);
+    const QPoint body(75, 75);
+    const auto click = [&stage](QPoint pos, Qt::KeyboardModifiers modifiers = Qt::ShiftModifier) {
+        stage.press(pos, modifiers);
+        stage.release(pos);
+        return stage.renderer.selectedContactBoxes().size();
+    };
+    const auto hasSizers = [&stage] {
+        return stage.renderer.hitTest({40, 40}) == GraphicsRenderer::TopLeftSizer;
+    };
+    QCOMPARE(click(attack), 1);
+    QVERIFY(hasSizers());
+    QCOMPARE(click(attack + QPoint(0, 5)), 0);
+    QVERIFY(!hasSizers());
+    QCOMPARE(click(attack, Qt::NoModifier), 1);
+    QCOMPARE(click(QPoint(85, 85)), 2);
+    QVERIFY(hasSizers());
+    // The list of the last click has nothing selected: the handles go, the selection stays.
+    QCOMPARE(click(QPoint(85, 85)), 1);
+    QVERIFY(!hasSizers());
+    stage.renderer.keyPressed(Qt::Key_Right, Qt::NoModifier);
+    QCOMPARE(stage.box(1, 0).left(), -60);
+    QCOMPARE(released.count(), 1);
+    QCOMPARE(click(QPoint(250, 250), Qt::NoModifier), 0);
+
+    stage.drag({body, body + QPoint(4, 4)}, Qt::ControlModifier);
+    QCOMPARE(stage.renderer.origin(), QPoint(104, 104));
+    QCOMPARE(stage.box(2, 0).left(), -30);
+    QCOMPARE(released.count(), 1);
+}
+
+void TestStageInput::drawnBoxes_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<Points>("points");
+    QTest::addColumn<QRect>("expected");  // null for none
+    QTest::newRow("to the right") << 2 << Points{{200, 200}, {210, 215}} << QRect(100, 100, 11, 16);
+    QTest::newRow("to the left") << 2 << Points{{210, 215}, {200, 200}} << QRect(100, 100, 11, 16);
+    QTest::newRow("no width") << 2 << Points{{200, 200}, {199, 220}} << QRect();
+    QTest::newRow("no height") << 2 << Points{{200, 200}, {220, 199}} << QRect();
+    QTest::newRow("a click") << 2 << Points{{200, 200}} << QRect();
+    QTest::newRow("on the grid") << 5 << Points{{203, 201}, {209, 201}} << QRect(25, 25, 3, 1);
+    QTest::newRow("far") << 0 << Points{{200, 200}, {202, 201}} << QRect(400, 400, 9, 5);
+}
+
+void TestStageInput::drawnBoxes()
+{
+    QFETCH(int, level);
+    QFETCH(Points, points);
+    QFETCH(QRect, expected);
+    Scene scene = plainScene();
+    scene.level = uchar(level);
+    for (const bool accepts : {false, true}) {
+        Stage stage(scene, m_cross);
+        stage.renderer.setDrawContactBoxMode(ContactBoxCode::Collision);
+        QRect drawn;
+        connect(&stage.renderer, &GraphicsRenderer::appendContactBox, &stage.renderer,
+                [&](ContactBoxCode::BoxType type, const QRect& rect) -> ContactBoxCode* {
+                    drawn = rect;
+                    return accepts && type == ContactBoxCode::Collision ? stage.lists[1]->add(rect)
+                                                                        : nullptr;
+                });
+        stage.drag(points);
+        QCOMPARE(drawn, expected);
+        const bool isThere = accepts && expected.isValid();
+        QSignalSpy exits(&stage.renderer, &GraphicsRenderer::contactDrawingExit);
+        stage.release({}, Qt::RightButton);
+        QCOMPARE(exits.count(), 1);
+        QCOMPARE(stage.renderer.clickMode(), GraphicsRenderer::PositioningMode);
+        // A new box is left selected, with its handles.
+        QCOMPARE(stage.renderer.selectedContactBoxes().size(), isThere ? 1 : 0);
+        if (isThere) {
+            scene.zoom = stage.renderer.zoom();
+            QCOMPARE(stage.renderer.hitTest(scene.origin + scene.scaled(expected.topLeft())),
+                     GraphicsRenderer::TopLeftSizer);
+            QCOMPARE(stage.renderer.selectedContactBoxes().first(), stage.lists[1]->at(1));
+        }
+    }
+}
+
+void TestStageInput::modesInTheMiddleOfADrag()
+{
+    Stage stage(plainScene(), m_cross);
+    GraphicsRenderer& renderer = stage.renderer;
+    QSignalSpy released(&renderer, &GraphicsRenderer::itemReleased);
+    int drawn = 0;
+    connect(&renderer, &GraphicsRenderer::appendContactBox, &renderer, [&drawn] {
+        ++drawn;
+        return nullptr;
+    });
+    connect(&renderer, &GraphicsRenderer::itemReleased, &renderer,
+            &GraphicsRenderer::updateSelectedBoxes);
+    stage.press({45, 45});
+    renderer.mouseMoved({50, 47}, Qt::NoModifier);
+    renderer.setDrawContactBoxMode(ContactBoxCode::Attack);
+    stage.release({50, 47});
+    QCOMPARE(stage.lists[0]->at(0)->rect(), QRect(-55, -58, 40, 40));
+    QCOMPARE(released.count(), 1);
+    QCOMPARE(drawn, 0);
+
+    // The right button ends drawing also while the left one is down.
+    stage.press({200, 200});
+    renderer.mouseMoved({220, 220}, Qt::NoModifier);
+    stage.release({220, 220}, Qt::RightButton);
+    stage.release({220, 220});
+    QCOMPARE(renderer.clickMode(), GraphicsRenderer::PositioningMode);
+    QCOMPARE(renderer.hitTest({210, 210}), GraphicsRenderer::StageElement);
+
+    // The list is another one in the middle of a drag.
+    stage.press({50, 50});
+    StageData::Boxes none(ContactBoxCode::Attack);
+    renderer.setContactBoxes(ContactBoxCode::Attack, &none);
+    renderer.mouseMoved({90, 90}, Qt::NoModifier);
+    stage.release({90, 90});
+    QVERIFY(renderer.selectedContactBoxes().isEmpty());
+
+    // A drag of a sprite is not led astray by who asks what lies elsewhere.
+    stage.press({145, 145});
+    renderer.hitTest({75, 75});
+    stage.provider.rows.clear();
+    emit stage.provider.changed();
+    renderer.mouseMoved({150, 150}, Qt::NoModifier);
+    stage.release({150, 150});
+    QCOMPARE(released.count(), 2);
+}
+
+void TestStageInput::keys()
+{
+    Stage stage(plainScene(), m_cross);
+    GraphicsRenderer& renderer = stage.renderer;
+    QSignalSpy released(&renderer, &GraphicsRenderer::itemReleased);
+    stage.press({45, 45});
+    stage.release({45, 45});
+    for (const int key : {Qt::Key_Left, Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down,
+                          Qt::Key_Down, Qt::Key_A}) {
+        renderer.keyPressed(key, Qt::NoModifier);
+        renderer.keyPressed(key, Qt::ShiftModifier);
+    }
+    QCOMPARE(stage.box(1, 0), QRect(-61, -59, 40, 40));
+    QCOMPARE(released.count(), 6);
+    renderer.keyPressed(Qt::Key_Delete, Qt::ControlModifier);
+    QCOMPARE(stage.lists[0]->count(), 2);
+    renderer.keyPressed(Qt::Key_Delete, Qt::NoModifier);
+    QCOMPARE(stage.lists[0]->count(), 1);
+    QCOMPARE(stage.box(1, 0), QRect(-50, -50, 40, 40));
+    QCOMPARE(renderer.hitTest({45, 45}), GraphicsRenderer::StageElement);
+}
+
+void TestStageInput::capture()
+{
+    QImage image(50, 30, QImage::Format_Indexed8);
+    for (int i = 0; i < 1500; ++i) {
+        image.scanLine(i / 50)[i % 50] = uchar(i % 50 + 4 * (i / 50));
+    }
+    StageData::Sprite sprite(image);
+    StageData::Sprite colourful(image.convertToFormat(QImage::Format_ARGB32));
+    Scene scene = plainScene();
+    scene.level = 3;
+    scene.clickMode = GraphicsRenderer::CaptureMode;
+    scene.sprites[0].sprite = &sprite;
+    scene.sprites[0].mode = 2;
+    Stage stage(scene, m_cross);
+    QSignalSpy captured(&stage.renderer, &GraphicsRenderer::colorCaptured);
+    const auto last = [&captured] { return captured.last().at(0).toInt(); };
+    stage.press({150, 160});
+    QCOMPARE(last(), 5 + 4 * 10);
+    stage.renderer.mouseMoved({160, 140}, Qt::NoModifier);
+    QCOMPARE(last(), 10);
+    for (const QPoint outside : {QPoint(9999, 9999), QPoint(INT_MAX, INT_MAX)}) {
+        stage.renderer.mouseMoved(outside, Qt::NoModifier);
+        QCOMPARE(last(), 49 + 4 * 29);
+    }
+    stage.renderer.mouseMoved({INT_MIN, -5}, Qt::NoModifier);
+    QCOMPARE(last(), 0);
+    stage.release({});
+    stage.provider.rows[0].sprite = &colourful;
+    stage.press({150, 160});
+    stage.press({250, 290});
+    QCOMPARE(captured.count(), 5);
+    QCOMPARE(stage.renderer.itemPosition(GraphicsRenderer::SpriteType, 0), QPoint(20, 20));
+}
+
+void TestStageInput::strangeNumbers()
+{
+    QRandomGenerator random(Seed);
+    const double reals[] = {0, -0.0, 1, -1e300, 1e300, 1e-300, NAN, INFINITY, -INFINITY};
+    const int ints[] = {0, 1, -1, 100, INT_MAX, INT_MIN, INT_MAX - 1, 1 << 28};
+    const auto real = [&] { return reals[random.bounded(int(std::size(reals)))]; };
+    const auto number = [&] { return ints[random.bounded(int(std::size(ints)))]; };
+    const auto point = [&] { return QPoint(number(), number()); };
+    for (int round = 0; round < 500; ++round) {
+        Scene scene = randomScene(random);
+        scene.clickMode = GraphicsRenderer::PositioningMode;
+        scene.guides = point();
+        scene.crosses[round % 3].position = point();
+        scene.boxes[round % 8].append(QRect(point(), point()));
+        scene.boxes[0].prepend(QRect(0, 0, 0, 0));
+        for (PlainItem& item : scene.sprites) {
+            item.position = point();
+            item.size = QSize(number(), number());
+            item.scale = {real(), real()};
+            item.rotation = real();
+        }
+        Stage stage(scene, m_cross);
+        for (int i = 0; i < 30; ++i) {
+            const QPoint pos =
+                random.bounded(2) ? QPoint(random.bounded(250), random.bounded(250)) : point();
+            const bool isShift = random.bounded(2);
+            stage.drag({pos, pos, point(), point(), {120, 110}},
+                       isShift ? Qt::ShiftModifier : Qt::NoModifier);
+            stage.renderer.keyPressed(Qt::Key_Down, Qt::NoModifier);
+            stage.renderer.updateSelectedBoxes();
+            stage.renderer.mouseWheel(number());
+            if (i % 10 == 9) {
+                stage.renderer.setDrawContactBoxMode(ContactBoxCode::Attack);
+                stage.drag({pos, point(), {40, 50}});
+                stage.renderer.setPositioningMode();
+            }
+        }
+        QCOMPARE(stage.renderer.clickMode(), GraphicsRenderer::PositioningMode);
+    }
+}
+
+QTEST_MAIN(TestStageInput)
+#include "tst_stageinput.moc"
