@@ -4798,6 +4798,17 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     </message>
 </context>
 <context>
+    <name>Zorv::GraphicsRenderer</name>
+    <message>
+        <source>Change contact box rectangle</source>
+        <translation>Rechteck von Kontaktboxen ändern</translation>
+    </message>
+    <message>
+        <source>Remove selected contact boxes</source>
+        <translation>Gewählte Kontaktboxen entfernen</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::OrganizerEditor</name>
     <message>
         <source>Move rows</source>
