@@ -2,6 +2,7 @@
 
 #include "graphics/glcontext.h"
 
+#include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 
@@ -18,14 +19,25 @@ using Functions = QOpenGLFunctionsPrivate::Functions;
 class Table : public QOpenGLFunctions
 {
 public:
-    Table() : QOpenGLFunctions(Zorv::context()) {}
-    Functions& functions() { return d_ptr->f; }
+    static Functions& functions()
+    {
+        QOpenGLContext* const previous = QOpenGLContext::currentContext();
+        QSurface* const previousSurface = previous ? previous->surface() : nullptr;
+        Zorv::context()->makeCurrent(Zorv::surface());
+        Table table;
+        table.initializeOpenGLFunctions();
+        if (previous) {
+            previous->makeCurrent(previousSurface);
+        }
+        return table.d_ptr->f;
+    }
 };
 
 /// What can be set twice, told apart by these numbers.
 enum State { Program, Unit, BoundTexture, Uniform, EnabledArray, Pointer, Capability, Blending };
 
 // One counter at a time.
+Functions* s_table = nullptr;
 Functions s_driver;
 Calls s_calls;
 GLuint s_program = 0;
@@ -193,15 +205,15 @@ void replace(Functions& f)
 
 CallCounter::CallCounter()
 {
-    Functions& functions = Table().functions();
-    s_driver = functions;
+    s_table = &Table::functions();
+    s_driver = *s_table;
     restart();
-    replace(functions);
+    replace(*s_table);
 }
 
 CallCounter::~CallCounter()
 {
-    Table().functions() = s_driver;
+    *s_table = s_driver;
 }
 
 void CallCounter::restart()
