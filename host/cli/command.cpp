@@ -67,6 +67,13 @@ constexpr Command table[] = {
      "animations with the sprites beside it. Pictures of an animation all cover the same area, so\n"
      "that they lie upon each other. With --gif it is an animated GIF, with --sheet all frames in\n"
      "rows, and their places, axis, times and boxes as JSON in a file of the same name."},
+    {"boxes", "GAME|FILE", 1, 1, OneAnimation | Json, listBoxes,
+     "Print the contact boxes of animations, and how they change from frame to frame.",
+     "GAME is a game folder. FILE is a main file (.character, .stage), with the code files that it\n"
+     "names, or another code file. A line for each animation, each of its frames and each box, with\n"
+     "a tab between its place, what it is, and facts: the ticks before, with and after attack boxes\n"
+     "and how far they reach; of a frame its time, the pixels that its boxes cover, and how many of\n"
+     "them the next frame keeps; 'no box' where a frame has none."},
     {"run", "FILE...", 1, Command::Any, Engine | Parameters, runInEngine,
      "Start an engine on characters and stages.",
      "Each FILE is a main file (.character, .stage). Copies of the projects are put beside the\n"

@@ -229,6 +229,8 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "all frames, as an animated GIF")},
     {AsSheet, "--sheet", nullptr, setFlag<&Invocation::asSheet>,
      QT_TRANSLATE_NOOP("Cli", "all frames side by side, and a file of JSON beside the picture")},
+    {OneAnimation, "--animation", "ID", setText<&Invocation::animation>,
+     QT_TRANSLATE_NOOP("Cli", "only the animations of this identifier")},
     {Target, "--out", "FILE", takePlace,
      QT_TRANSLATE_NOOP("Cli", "where the picture goes; '-o' for short")},
     {Out, "--out", "PLACE", takePlace,

@@ -46,6 +46,7 @@ struct Invocation
     bool showsAxis = false;
     bool asGif = false;
     bool asSheet = false;
+    QString animation;  ///< an identifier; null for all
 };
 
 /// The options of all commands. A command names those that it takes as flags.
@@ -84,7 +85,8 @@ enum Option : quint64 {
     ShowBoxes = 1u << 30,
     ShowAxis = 1u << 31,
     AsGif = quint64(1) << 32,
-    AsSheet = quint64(1) << 33
+    AsSheet = quint64(1) << 33,
+    OneAnimation = quint64(1) << 34
 };
 
 /// One option: a row of the table.

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QString>
+
+namespace Family {
+class AnimationNode;
+struct AnimationBoxReport;
+struct BoxesInFrame;
+}  // namespace Family
+
+namespace Cli {
+
+class Output;
+
+/// An animation, and where it stands.
+struct AnimationInFile
+{
+    const Family::AnimationNode& animation;
+    QString file;
+    QString path;  ///< of the node in the file
+};
+
+/// Writes what contact boxes animations have.
+class BoxListing
+{
+public:
+    virtual ~BoxListing() = default;
+    virtual void add(const AnimationInFile& found, const Family::AnimationBoxReport& report) = 0;
+};
+
+/// A line for each animation, frame and box.
+class BoxLines final : public BoxListing
+{
+public:
+    explicit BoxLines(Output& output) : m_output(output) {}
+    void add(const AnimationInFile& found, const Family::AnimationBoxReport& report) override;
+
+private:
+    void writeBoxes(const char* kind, const Family::BoxesInFrame& list);
+    void writeLine(int line, const QString& what, const QStringList& facts);
+
+    Output& m_output;
+    QString m_file;
+};
+
+/// An object of JSON for each animation, with its frames on a line each.
+class BoxObjects final : public BoxListing
+{
+public:
+    explicit BoxObjects(Output& output) : m_output(output) {}
+    ~BoxObjects() override;
+    void add(const AnimationInFile& found, const Family::AnimationBoxReport& report) override;
+
+private:
+    Output& m_output;
+    bool m_isEmpty = true;
+};
+
+}  // namespace Cli
