@@ -186,13 +186,15 @@ QRect FrameComposer::bounds(const Zorv::AnimationCode& animation, QString* error
     return area;
 }
 
-bool FrameComposer::isDrawable(const QRect& area, QString* error) const
+bool FrameComposer::isDrawable(const FrameNode& frame, const QRect& area, QString* error) const
 {
     const bool isNear = qMax(qAbs(qint64(area.left())), qAbs(qint64(area.top()))) <= Farthest;
     if (std::isnan(m_style.zoom)) {
         *error = tr("A zoom is above 0, and %1 at most.").arg(double(FrameStyle::MaxZoom));
     } else if (area.isEmpty()) {
-        *error = tr("There is nothing to be seen: the frame is scaled to nothing.");
+        const bool isThere = !(m_style.parts & FrameStyle::Sprite) || spriteOf(frame, error);
+        *error =
+            isThere ? tr("There is nothing to be seen: the frame is scaled to nothing.") : *error;
     } else if (!isNear || qint64(area.width()) * area.height() > MaxPixels) {
         *error = tr("The picture would be %1 by %2 pixels, which is too large. Choose a smaller "
                     "zoom, or look at scales and offsets of the frames.")
@@ -206,7 +208,7 @@ bool FrameComposer::isDrawable(const QRect& area, QString* error) const
 
 QImage FrameComposer::compose(const FrameNode& frame, const QRect& area, QString* error)
 {
-    if (!isDrawable(area, error)) {
+    if (!isDrawable(frame, area, error)) {
         return {};
     }
     QImage image(area.size(), QImage::Format_ARGB32);
@@ -223,7 +225,7 @@ QImage FrameComposer::compose(const FrameNode& frame, const QRect& area, QString
 
 QImage FrameComposer::composeIndexed(const FrameNode& frame, const QRect& area, QString* error)
 {
-    if (m_style.parts != FrameStyle::Sprite || !isDrawable(area, error)) {
+    if (m_style.parts != FrameStyle::Sprite || !isDrawable(frame, area, error)) {
         return compose(frame, area, error);
     }
     const QImage picture = pictureOf(frame, error);

@@ -102,7 +102,7 @@ public:
 private:
     const FamilySprite* spriteOf(const FrameNode& frame, QString* error) const;
     QImage pictureOf(const FrameNode& frame, QString* error);
-    bool isDrawable(const QRect& area, QString* error) const;
+    bool isDrawable(const FrameNode& frame, const QRect& area, QString* error) const;
     QRect boxArea(const QRect& box) const;
     QRect axisArea() const;
 

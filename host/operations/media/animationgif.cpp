@@ -41,7 +41,8 @@ public:
         if (!error->isEmpty() || !hasRoom(area, error)) {
             return false;
         }
-        const QImage image = m_composer->composeIndexed(node, area, error);
+        const QImage image =
+            area.isEmpty() ? QImage() : m_composer->composeIndexed(node, area, error);
         m_bytes += image.sizeInBytes();
         m_frames.append({image, area.topLeft(), qMax(delay, 1)});
         m_stays = delay < 0;
@@ -55,7 +56,7 @@ public:
         QByteArray bytes;
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::WriteOnly);
-        if (m_frames.isEmpty()) {
+        if (m_canvas.isEmpty()) {
             *error = Text::tr("The animation has no frame to show.");
         } else if (!Zorv::saveGIF(&buffer, m_frames, options)) {
             *error = Text::tr("The animation is larger than a GIF file can be, 65535 by 65535.");
