@@ -1,8 +1,6 @@
 #include "graphics/stage/graphicsrenderer.h"
 
-#include "support/stagedata.h"
-
-#include "graphics/stage/positionmode.h"
+#include "scenemodel.h"
 
 #include <QCursor>
 #include <QRandomGenerator>
@@ -21,12 +19,6 @@ using Element = GraphicsRenderer::RenderElement;
 using Points = QVector<QPoint>;
 using Rects = QVector<QRect>;
 
-namespace {
-
-struct Scene;
-
-}  // namespace
-
 /// What a row of a table does to the scene.
 using Change = std::function<void(Scene&)>;
 
@@ -38,208 +30,6 @@ Q_DECLARE_METATYPE(GraphicsRenderer::ItemType)
 namespace {
 
 const unsigned Seed = 64;
-const int CrossSize = 20;
-
-struct PlainItem
-{
-    QPoint position;
-    int mode = 13;
-    int parent = 0;
-    QSize size;
-    QPointF scale{1, 1};
-    double rotation = 0;
-    StageData::Sprite* sprite = nullptr;
-
-    StageData::Provider::Row row() const
-    {
-        return {sprite, {position, mode, parent, size, scale, 0, rotation, 0}};
-    }
-};
-
-struct StageCross
-{
-    QPoint position;
-    int mode = 13;
-    int parent = 0;
-};
-
-/// All that decides what lies under a point, and the slow way to find it.
-struct Scene
-{
-    GraphicsRenderer::ClickMode clickMode = GraphicsRenderer::PositioningMode;
-    bool spritesOverGuides = false;
-    bool boxesOverCrosses = false;
-    bool shown[7] = {true, true, true, true, true, false, true};
-    unsigned char table = 1;
-    unsigned char level = 2;
-    QPoint origin{100, 100};
-    QPoint guides{200, 200};
-    StageCross crosses[3] = {{{0, 0}, 13, 0}, {{60, 0}, 13, 0}, {{0, 60}, 13, 0}};
-    int boxMode = 14;
-    int boxParent = 0;
-    QVector<PlainItem> sprites;
-    QVector<QRect> boxes[8];
-    QRect selection;  // valid if there are sizers
-
-    float zoom = 1;  // as the stage tells
-
-    int scaled(int length) const { return qRound(float(length) * zoom); }
-    QPoint scaled(QPoint point) const { return {scaled(point.x()), scaled(point.y())}; }
-
-    static QPoint truncated(QPoint point, QPointF scale)
-    {
-        return {int(point.x() * scale.x()), int(point.y() * scale.y())};
-    }
-
-    /// `met` holds crosses by their number, and sprites by theirs and 3.
-    QPoint anchor(int mode, int parent, QVector<int> met) const
-    {
-        switch (mode & 0xf3) {
-        case OriginAnchor:
-            return origin;
-        case CrossAnchor:
-            return parent < 3 ? place(parent, met) : QPoint();
-        case SpriteAnchor:
-            return parent < sprites.size() ? place(3 + parent, met) : QPoint();
-        default:
-            return {};
-        }
-    }
-
-    QPoint place(int item, QVector<int> met) const
-    {
-        const bool isSprite = item >= 3;
-        const PlainItem sprite = sprites.value(item - 3);
-        const QPoint own =
-            isSprite ? truncated(sprite.position, sprite.scale) : crosses[item].position;
-        const int mode = isSprite ? sprite.mode : crosses[item].mode;
-        if ((mode & 0xf3) == AbsoluteAnchor || met.contains(item)) {
-            return own;
-        }
-        met.append(item);
-        return scaled(own) + anchor(mode, isSprite ? sprite.parent : crosses[item].parent, met);
-    }
-
-    Element instead(Element own, int mode, int parent) const
-    {
-        if (mode & MovableBoth) {
-            return own;
-        }
-        const int number = mode & 0xf3;
-        if (number == CrossAnchor && parent < 3) {
-            return Element(GraphicsRenderer::MainCrossElement + parent);
-        }
-        return number == SpriteAnchor && parent < sprites.size() ? GraphicsRenderer::SpriteElement
-                                                                 : GraphicsRenderer::StageElement;
-    }
-
-    Element guideAt(QPoint pos) const
-    {
-        const int wide = (zoom < 0.5F ? 0 : 1) + 2;
-        const QPoint at = scaled(guides) + origin - QPoint(1, 1);
-        if (shown[6] && pos.x() >= at.x() && pos.x() < at.x() + wide) {
-            return GraphicsRenderer::VerticalGuide;
-        }
-        return shown[6] && pos.y() >= at.y() && pos.y() < at.y() + wide
-                   ? GraphicsRenderer::HorizontalGuide
-                   : GraphicsRenderer::StageElement;
-    }
-
-    Element crossAt(int number, QPoint pos) const
-    {
-        const QPoint corner =
-            place(number, {}) - QPoint(scaled(CrossSize) / 2, scaled(CrossSize) / 2);
-        const bool hit = shown[number] &&
-                         QRect(corner, QSize(scaled(CrossSize), scaled(CrossSize))).contains(pos);
-        return hit ? instead(Element(GraphicsRenderer::MainCrossElement + number),
-                             crosses[number].mode, crosses[number].parent)
-                   : GraphicsRenderer::StageElement;
-    }
-
-    Element boxAt(QPoint pos) const
-    {
-        const QPoint at = anchor(boxMode, boxParent, {});
-        if (selection.isValid()) {
-            const int midX = selection.left() + (1 - selection.left() + selection.right()) / 2;
-            const int midY = selection.top() + (1 - selection.top() + selection.bottom()) / 2;
-            const int places[8][2] = {{selection.left(), selection.top()},
-                                      {midX, selection.top()},
-                                      {selection.left(), midY},
-                                      {selection.right(), selection.top()},
-                                      {selection.left(), selection.bottom()},
-                                      {midX, selection.bottom()},
-                                      {selection.right(), selection.bottom()},
-                                      {selection.right(), midY}};
-            for (int i = 0; i < 8; ++i) {
-                const QPoint away = pos - at - scaled(QPoint(places[i][0], places[i][1]));
-                if (away.x() >= -6 && away.x() <= 5 && away.y() >= -6 && away.y() <= 5) {
-                    return Element(GraphicsRenderer::TopLeftSizer + i);
-                }
-            }
-        }
-        return boxUnder(pos).isValid()
-                   ? instead(GraphicsRenderer::ContactBoxElement, boxMode, boxParent)
-                   : GraphicsRenderer::StageElement;
-    }
-
-    QRect boxUnder(QPoint pos) const
-    {
-        const QPoint at = anchor(boxMode, boxParent, {});
-        QRect found;
-        for (int type = 0; type < 8; ++type) {
-            for (const QRect& box : boxes[type]) {
-                const QRect drawn(scaled(box.topLeft()) + at,
-                                  QSize(scaled(box.width()), scaled(box.height())));
-                if ((type > 1 || shown[3 + type]) && drawn.contains(pos)) {
-                    found = box;
-                }
-            }
-        }
-        return found;
-    }
-
-    bool covers(int index, QPoint pos) const
-    {
-        const PlainItem& item = sprites.at(index);
-        const QPoint base = anchor(item.mode, item.parent, {3 + index});
-        const bool isAbsolute = (item.mode & 0xf3) == AbsoluteAnchor;
-        const QPoint own = truncated(item.position, item.scale);
-        const QPoint size =
-            scaled(truncated(QPoint(item.size.width(), item.size.height()), item.scale));
-        const QPointF turned =
-            QTransform().rotate(-item.rotation).map(QPointF(pos - base) + QPointF(0.5, 0.5)) -
-            (isAbsolute ? own : scaled(own));
-        return QRectF(QPointF(), QSizeF(size.x(), size.y())).normalized().contains(turned) &&
-               size.x() != 0 && size.y() != 0;
-    }
-
-    Element at(QPoint pos) const
-    {
-        const bool isRuler = (pos.x() >= 0 && pos.x() < 30) || (pos.y() >= 0 && pos.y() < 30);
-        QVector<Element> found;
-        if (!spritesOverGuides) {
-            found.append(guideAt(pos));
-        }
-        if (clickMode != GraphicsRenderer::DrawContactBoxMode) {
-            if (clickMode == GraphicsRenderer::PositioningMode) {
-                found += {boxesOverCrosses ? boxAt(pos) : GraphicsRenderer::StageElement,
-                          crossAt(2, pos), crossAt(1, pos), crossAt(0, pos), boxAt(pos)};
-            }
-            for (int i = sprites.size() - 1; i >= 0; --i) {
-                if (covers(i, pos)) {
-                    const PlainItem& item = sprites.at(i);
-                    found.append(
-                        clickMode == GraphicsRenderer::CaptureMode
-                            ? GraphicsRenderer::SpriteElement
-                            : instead(GraphicsRenderer::SpriteElement, item.mode, item.parent));
-                }
-            }
-            found.append(spritesOverGuides ? guideAt(pos) : GraphicsRenderer::StageElement);
-        }
-        found.removeAll(GraphicsRenderer::StageElement);
-        return isRuler || found.isEmpty() ? GraphicsRenderer::StageElement : found.first();
-    }
-};
 
 /// A stage without a widget.
 struct Stage
@@ -336,51 +126,6 @@ Scene changed(const Change& change)
     return scene;
 }
 
-Scene randomScene(QRandomGenerator& random)
-{
-    const int modes[] = {0, 1, 2, 3, 12, 13, 14, 15, 5, 9, 14, 13, 6, 11};
-    const double scales[] = {1, 1, 2, -1, 0.5, -1.5};
-    const auto upTo = [&random](int most) { return random.bounded(most + 1); };
-    const auto any = [&random](const auto& values) {
-        return values[random.bounded(int(std::size(values)))];
-    };
-    const auto point = [&random](int most) {
-        return QPoint(random.bounded(-most, most), random.bounded(-most, most));
-    };
-    Scene scene;
-    scene.clickMode = GraphicsRenderer::ClickMode(std::max(0, upTo(9) - 7));
-    scene.spritesOverGuides = upTo(1);
-    scene.boxesOverCrosses = upTo(1);
-    for (bool& shown : scene.shown) {
-        shown = upTo(3) > 0;
-    }
-    scene.table = uchar(upTo(1));
-    scene.level = uchar(upTo(11));
-    scene.origin = point(40) + QPoint(120, 120);
-    scene.guides = point(60);
-    for (StageCross& cross : scene.crosses) {
-        cross = {point(80), any(modes), upTo(3)};
-    }
-    scene.boxMode = any(modes);
-    scene.boxParent = upTo(3);
-    for (int count = upTo(4); count > 0; --count) {
-        PlainItem item;
-        item.position = point(50);
-        item.mode = any(modes);
-        item.parent = upTo(4);
-        item.size = QSize(upTo(40), upTo(40));
-        item.scale = {any(scales), any(scales)};
-        item.rotation = upTo(1) ? 0 : random.bounded(-400, 400);
-        scene.sprites.append(item);
-    }
-    for (auto& boxes : scene.boxes) {
-        for (int count = upTo(2); count > 0; --count) {
-            boxes.append(QRect(point(60), QSize(1 + upTo(40), 1 + upTo(40))));
-        }
-    }
-    return scene;
-}
-
 }  // namespace
 
 class TestStageInput : public QObject
@@ -442,29 +187,18 @@ void TestStageInput::elements_data()
         scene.boxMode = 1;
         scene.crosses[0].mode = 1;
     };
-    row("nothing", {250, 250}, R::StageElement);
     row("behind the rulers' strip", {300, 30}, R::VerticalGuide);
     row("in the rulers' strip", {300, 29}, R::StageElement);
-    row("left of it all", {-1, 300}, R::HorizontalGuide);
-    row("guides cross", {300, 300}, R::VerticalGuide);
     row("first pixel of a guide", {299, 250}, R::VerticalGuide);
-    row("last pixel of a guide", {301, 250}, R::VerticalGuide);
     row("behind a guide", {302, 250}, R::StageElement);
-    row("horizontal guide", {250, 301}, R::HorizontalGuide);
     row("far away a guide is thinner", {151, 250}, R::StageElement, far);
     row("near it is no thicker", {902, 250}, R::StageElement, near);
     row("near, first pixel", {899, 250}, R::VerticalGuide, near);
     row("main cross before boxes", {95, 95}, R::MainCrossElement);
     row("boxes before the main cross", {95, 95}, R::ContactBoxElement, boxesFirst);
-    row("secondary cross", {150, 90}, R::SecondaryCrossElement);
-    row("behind the secondary cross", {170, 100}, R::StageElement);
-    row("extra cross", {100, 155}, R::ExtraCrossElement);
-    row("sprite", {169, 149}, R::SpriteElement);
-    row("behind the sprite", {170, 149}, R::StageElement);
     row("drawing", {60, 60}, R::StageElement, draw);
     row("drawing, on a guide", {300, 60}, R::VerticalGuide, draw);
     row("capture, on a box", {60, 60}, R::StageElement, capture);
-    row("capture, on a sprite", {140, 130}, R::SpriteElement, capture);
     row("fixed boxes are their cross", {60, 60}, R::MainCrossElement, fixedBoxes);
     row("all fixed to the stage", {95, 95}, R::StageElement, allFixed);
 }
@@ -661,8 +395,9 @@ void TestStageInput::boxDrags_data()
                   {{79, 40}, 0, -20, -10, 0}, {{40, 79}, -10, 0, 0, -20}, {{60, 79}, 0, 0, 0, -20},
                   {{79, 79}, 0, 0, -10, -20}, {{79, 60}, 0, 0, -10, 0}};
     for (const auto& sizer : sizers) {
-        row(QTest::toString(sizer.sizer), {{45, 45}},
-            {sizer.sizer, sizer.sizer - QPoint(33, -5), sizer.sizer - QPoint(10, 20)},
+        const QPoint at = sizer.sizer;
+        row(qPrintable(QStringLiteral("handle at %1,%2").arg(at.x()).arg(at.y())), {{45, 45}},
+            {at, at - QPoint(33, -5), at - QPoint(10, 20)},
             {first.adjusted(sizer.left, sizer.top, sizer.right, sizer.bottom), second}, body);
     }
     row("both stretched", {{45, 45}, {60, 60}}, {{89, 89}, {139, 89}},
