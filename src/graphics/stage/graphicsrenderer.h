@@ -122,9 +122,12 @@ public:
     void setupContactBoxes(QColor first, QColor second, float opacity);
 
     /// Shows the boxes of a kind; null shows none. To be called again after every change of the
-    /// text: boxes that are selected stay so if their rectangle is still the same. Not owned, and
-    /// not looked at but for input and for what this class does with the selected boxes.
+    /// text: boxes that are selected stay so if their rectangle is still the same. Not owned. A list
+    /// whose frame has been read anew, or whose document has gone, is known to be gone: its boxes
+    /// are still shown, and changed no more.
     void setContactBoxes(ContactBoxCode::BoxType type, ContactBoxesCode* code);
+
+    /// The list that was set, null once it is gone.
     ContactBoxesCode* boxes(ContactBoxCode::BoxType type) const;
 
     /// Shows another frame's sprite through. `opacity` is from 0 to 1.
@@ -177,7 +180,8 @@ public:
     /// @name Input
     /// @{
 
-    /// The left button moves what it presses on; a box that was just drawn becomes selected.
+    /// The left button moves what it presses on; a box that was just drawn becomes selected. As with
+    /// the other modes, a drag under way ends as if the button had been released.
     void setPositioningMode();
 
     /// The left button draws boxes, until another mode is set or the right button is released.
