@@ -253,6 +253,78 @@
         <source>Re&amp;do change of sounds</source>
         <translation>Änderung der Klänge &amp;wiederholen</translation>
     </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Onion skin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a&amp;ttack boxes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw &amp;body boxes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove se&amp;lected boxes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pick &amp;colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sta&amp;ge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centre the &amp;origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ax&amp;is of the animation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Axis of the spri&amp;te</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extr&amp;a cross</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rulers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gui&amp;des</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attac&amp;k boxes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Body boxes</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>App::AnimationCommands</name>
@@ -1865,6 +1937,83 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>App::StageCommands</name>
+    <message>
+        <source>Smaller (-)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One pixel for each of the game (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Larger (+)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stage: %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour %1 of the palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the cursor of the text into an animation, or choose one in the organizer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This animation has no frames yet. A line such as &quot;frame 0,0 delay 4&quot; makes one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frame %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 FPS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no sprite %1,%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>without end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ticks</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>App::StageEdits</name>
+    <message>
+        <source>Move frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>App::StageView</name>
+    <message>
+        <source>Time line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools of the stage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation type="unfinished">Bühne</translation>
+    </message>
+    <message>
+        <source>The stage cannot be shown: OpenGL does not work on this display. Texts, lists and the time line work as ever. A driver for the graphics card, or Mesa&apos;s software OpenGL, brings the stage back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>App::StatusFields</name>
     <message>
         <source>Not saved yet</source>
@@ -1909,6 +2058,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Encoding: %1</source>
         <translation>Kodierung: %1</translation>
+    </message>
+    <message>
+        <source>Place of the pointer on the stage</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2615,18 +2768,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>Family::AnimationGif</name>
     <message>
-        <source>Sprite %1 has no pixels, or they are broken.</source>
-        <translation>Sprite %1 hat keine Pixel, oder sie sind beschädigt.</translation>
-    </message>
-    <message>
-        <source>There is no sprite %1.</source>
-        <translation>Es gibt keinen Sprite %1.</translation>
-    </message>
-    <message>
-        <source>The frame with sprite %1 is scaled too large, or to nothing.</source>
-        <translation>Das Bild mit Sprite %1 wird zu groß oder auf nichts skaliert.</translation>
-    </message>
-    <message>
         <source>The frames are too far from each other for one picture.</source>
         <translation>Die Bilder liegen für ein gemeinsames Bild zu weit auseinander.</translation>
     </message>
@@ -2645,6 +2786,29 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>There are several sprite files beside &apos;%1&apos;: %2. Name one with &apos;--sprites&apos;.</source>
         <translation>Neben &apos;%1&apos; stehen mehrere Sprite-Dateien: %2. Bitte eine mit &apos;--sprites&apos; nennen.</translation>
+    </message>
+    <message>
+        <source>The frames together are too large for one file. Choose a smaller zoom.</source>
+        <translation>Die Einzelbilder zusammen sind zu groß für eine Datei. Wählen Sie einen kleineren Zoom.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::AnimationRender</name>
+    <message>
+        <source>The animation has no frame.</source>
+        <translation>Die Animation hat kein Einzelbild.</translation>
+    </message>
+    <message>
+        <source>There is no frame %1. Expected a number from 0 to %2.</source>
+        <translation>Es gibt kein Einzelbild %1. Erwartet wurde eine Zahl von 0 bis %2.</translation>
+    </message>
+    <message>
+        <source>The sheet would be too large. Choose a smaller zoom.</source>
+        <translation>Der Bogen würde zu groß. Wählen Sie einen kleineren Zoom.</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the memory. Choose a smaller zoom.</source>
+        <translation>Der Bogen ist größer als der Speicher. Wählen Sie einen kleineren Zoom.</translation>
     </message>
 </context>
 <context>
@@ -2908,6 +3072,44 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Family::FrameComposer</name>
+    <message>
+        <source>There is no sprite %1.</source>
+        <translation>Es gibt kein Sprite %1.</translation>
+    </message>
+    <message>
+        <source>Sprite %1 has no pixels, or they are broken.</source>
+        <translation>Sprite %1 hat keine Pixel, oder sie sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>A zoom is above 0, and %1 at most.</source>
+        <translation>Ein Zoom ist größer als 0 und höchstens %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing to be seen: the frame is scaled to nothing.</source>
+        <translation>Es ist nichts zu sehen: Das Einzelbild ist auf nichts verkleinert.</translation>
+    </message>
+    <message>
+        <source>The picture would be %1 by %2 pixels, which is too large. Choose a smaller zoom, or look at scales and offsets of the frames.</source>
+        <translation>Das Bild hätte %1 mal %2 Pixel, und das ist zu groß. Wählen Sie einen kleineren Zoom, oder sehen Sie nach Skalierung und Versatz der Einzelbilder.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for a picture of %1 by %2 pixels.</source>
+        <translation>Der Speicher reicht nicht für ein Bild von %1 mal %2 Pixeln.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::GameDocuments</name>
+    <message>
+        <source>There is no file or folder &apos;%1&apos;.</source>
+        <translation type="unfinished">Die Datei oder den Ordner &apos;%1&apos; gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>There is no character or stage in &apos;%1&apos;. Expected files such as &apos;characters/hero/hero.character&apos;.</source>
+        <translation type="unfinished">In &apos;%1&apos; ist weder Figur noch Bühne. Erwartet werden Dateien wie &apos;characters/hero/hero.character&apos;.</translation>
+    </message>
+</context>
+<context>
     <name>Family::HostInterface</name>
     <message>
         <source>All known files</source>
@@ -2954,6 +3156,33 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Cannot write &apos;%1&apos;: an image of %2 by %3 does not fit the format. Choose another one.</source>
         <translation>&apos;%1&apos; lässt sich nicht schreiben: Ein Bild von %2 mal %3 passt nicht in das Format. Bitte ein anderes wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::OpenAnimation</name>
+    <message>
+        <source>There is no file or folder &apos;%1&apos;.</source>
+        <translation>Es gibt keine Datei und keinen Ordner „%1“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names its own sprites. &apos;--sprites&apos; is for a single file of animations.</source>
+        <translation>„%1“ nennt seine eigenen Sprites. „--sprites“ gilt für eine einzelne Datei mit Animationen.</translation>
+    </message>
+    <message>
+        <source>Animation &apos;%1&apos; is in several files: %2. Name one of them in place of &apos;%3&apos;, with &apos;--sprites&apos;.</source>
+        <translation>Die Animation „%1“ steht in mehreren Dateien: %2. Nennen Sie eine davon anstelle von „%3“, mit „--sprites“.</translation>
+    </message>
+    <message>
+        <source>Animation &apos;%1&apos; is in several projects. Name one of them in place of &apos;%2&apos;: %3.</source>
+        <translation>Die Animation „%1“ steht in mehreren Projekten. Nennen Sie eines davon anstelle von „%2“: %3.</translation>
+    </message>
+    <message>
+        <source>There is no character or stage in &apos;%1&apos;.</source>
+        <translation>In „%1“ gibt es keine Figur und keine Bühne.</translation>
+    </message>
+    <message>
+        <source>There is no animation &apos;%1&apos; in &apos;%2&apos;. %3</source>
+        <translation>Es gibt keine Animation „%1“ in „%2“. %3</translation>
     </message>
 </context>
 <context>
