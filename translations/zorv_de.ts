@@ -2789,7 +2789,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>The frames together are too large for one file. Choose a smaller zoom.</source>
-        <translation>Die Einzelbilder zusammen sind zu groß für eine Datei. Wählen Sie einen kleineren Zoom.</translation>
+        <translation>Die Einzelbilder zusammen sind zu groß für eine Datei. Bitte einen kleineren Zoom wählen.</translation>
     </message>
 </context>
 <context>
@@ -2804,11 +2804,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>The sheet would be too large. Choose a smaller zoom.</source>
-        <translation>Der Bogen würde zu groß. Wählen Sie einen kleineren Zoom.</translation>
+        <translation>Der Bogen würde zu groß. Bitte einen kleineren Zoom wählen.</translation>
     </message>
     <message>
         <source>The sheet is larger than the memory. Choose a smaller zoom.</source>
-        <translation>Der Bogen ist größer als der Speicher. Wählen Sie einen kleineren Zoom.</translation>
+        <translation>Der Bogen ist größer als der Speicher. Bitte einen kleineren Zoom wählen.</translation>
     </message>
 </context>
 <context>
@@ -3091,7 +3091,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>The picture would be %1 by %2 pixels, which is too large. Choose a smaller zoom, or look at scales and offsets of the frames.</source>
-        <translation>Das Bild hätte %1 mal %2 Pixel, und das ist zu groß. Wählen Sie einen kleineren Zoom, oder sehen Sie nach Skalierung und Versatz der Einzelbilder.</translation>
+        <translation>Das Bild hätte %1 mal %2 Pixel, und das ist zu groß. Bitte einen kleineren Zoom wählen, oder nach Skalierung und Versatz der Einzelbilder sehen.</translation>
     </message>
     <message>
         <source>There is not enough memory for a picture of %1 by %2 pixels.</source>
@@ -3162,27 +3162,27 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::OpenAnimation</name>
     <message>
         <source>There is no file or folder &apos;%1&apos;.</source>
-        <translation>Es gibt keine Datei und keinen Ordner „%1“.</translation>
+        <translation>Es gibt keine Datei und keinen Ordner &apos;%1&apos;.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; names its own sprites. &apos;--sprites&apos; is for a single file of animations.</source>
-        <translation>„%1“ nennt seine eigenen Sprites. „--sprites“ gilt für eine einzelne Datei mit Animationen.</translation>
+        <translation>&apos;%1&apos; nennt seine eigenen Sprites. &apos;--sprites&apos; gilt für eine einzelne Datei mit Animationen.</translation>
     </message>
     <message>
         <source>Animation &apos;%1&apos; is in several files: %2. Name one of them in place of &apos;%3&apos;, with &apos;--sprites&apos;.</source>
-        <translation>Die Animation „%1“ steht in mehreren Dateien: %2. Nennen Sie eine davon anstelle von „%3“, mit „--sprites“.</translation>
+        <translation>Die Animation &apos;%1&apos; steht in mehreren Dateien: %2. Bitte eine davon anstelle von &apos;%3&apos; nennen, mit &apos;--sprites&apos;.</translation>
     </message>
     <message>
         <source>Animation &apos;%1&apos; is in several projects. Name one of them in place of &apos;%2&apos;: %3.</source>
-        <translation>Die Animation „%1“ steht in mehreren Projekten. Nennen Sie eines davon anstelle von „%2“: %3.</translation>
+        <translation>Die Animation &apos;%1&apos; steht in mehreren Projekten. Bitte eines davon anstelle von &apos;%2&apos; nennen: %3.</translation>
     </message>
     <message>
         <source>There is no character or stage in &apos;%1&apos;.</source>
-        <translation>In „%1“ gibt es keine Figur und keine Bühne.</translation>
+        <translation>In &apos;%1&apos; gibt es keine Figur und keine Bühne.</translation>
     </message>
     <message>
         <source>There is no animation &apos;%1&apos; in &apos;%2&apos;. %3</source>
-        <translation>Es gibt keine Animation „%1“ in „%2“. %3</translation>
+        <translation>Es gibt keine Animation &apos;%1&apos; in &apos;%2&apos;. %3</translation>
     </message>
 </context>
 <context>
