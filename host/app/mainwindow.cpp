@@ -133,7 +133,8 @@ void MainWindow::makeStage()
 MainWindow::~MainWindow()
 {
     m_session->disconnect(this);
-    delete m_stage;
+    m_stage->setDocument(nullptr);
+    m_stage->setSprites(nullptr);
     m_status->setDocument(nullptr);
     m_animations->setDocument(nullptr);
     m_spritePanel->setSprites(nullptr);
@@ -141,6 +142,7 @@ MainWindow::~MainWindow()
     m_messagePanel->setMessages(nullptr);
     m_gameTree->setGame(nullptr);
     delete m_code;
+    delete m_stage;
     delete m_session;
 }
 

@@ -18,6 +18,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -150,8 +151,8 @@ QTextBlock lineBehind(QTextBlock line, const QString& word)
     return line;
 }
 
-/// An attack, with its sprite beside it.
-void showSprites(MainWindow* window, const FamilyDocument* document)
+/// A frame with an attack.
+void showAttack(MainWindow* window, const FamilyDocument* document, int animation)
 {
     const QList<FamilyDocument*> documents = projectOf(document)->documents();
     for (FamilyDocument* other : documents) {
@@ -164,10 +165,27 @@ void showSprites(MainWindow* window, const FamilyDocument* document)
     bringForward(window->spritePanel());
     document = window->tabs()->currentDocument();
     settleWindow();
-    QTextBlock line = lineOf(document, QStringLiteral("animation"), 8);
+    QTextBlock line = lineOf(document, QStringLiteral("animation"), animation);
     line = lineBehind(line, QStringLiteral("attack"));
     line = lineBehind(line, QStringLiteral("frame"));
     window->textEditor()->goTo(line.blockNumber());
+}
+
+/// With its sprite beside it, and all of the room for the text.
+void showSprites(MainWindow* window, const FamilyDocument* document)
+{
+    window->actionByName("view_stage")->trigger();
+    showAttack(window, document, 8);
+}
+
+/// On the stage, with the frame before it shining through, rulers, and a box that is selected.
+void showStage(MainWindow* window, const FamilyDocument* document)
+{
+    window->findChild<QDockWidget*>(QStringLiteral("messages"))->hide();
+    showAttack(window, document, 3);
+    for (const char* name : {"view_rulers", "anim_onion_skin"}) {
+        window->actionByName(name)->trigger();
+    }
 }
 
 struct Scene
@@ -178,7 +196,7 @@ struct Scene
 
 const Scene scenes[] = {
     {"code", showProblem}, {"folding", showFolds},   {"completion", showWords},
-    {"find", showMatches}, {"sprites", showSprites},
+    {"find", showMatches}, {"sprites", showSprites}, {"stage", showStage},
 };
 
 }  // namespace

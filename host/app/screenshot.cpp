@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QOpenGLWidget>
 #include <QPainter>
 #include <QPixmap>
 
@@ -22,11 +23,18 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(App::Screenshot)
 };
 
-/// The window with the popups in front of it, which are windows of their own.
+/// The window with the popups in front of it, which are windows of their own. A picture of a window
+/// has what GL draws of the stage, and nothing of what painters do: it is taken once more.
 QPixmap pictureOf(MainWindow* window)
 {
     QPixmap picture = window->grab();
     QPainter painter(&picture);
+    const QList<QOpenGLWidget*> stages = window->findChildren<QOpenGLWidget*>();
+    for (QOpenGLWidget* stage : stages) {
+        if (stage->isVisible()) {
+            painter.drawImage(stage->mapTo(window, QPoint()), stage->grabFramebuffer());
+        }
+    }
     const QWidgetList all = QApplication::topLevelWidgets();
     for (QWidget* widget : all) {
         if (widget->isVisible() && widget->windowType() == Qt::Popup) {
