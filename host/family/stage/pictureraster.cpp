@@ -8,9 +8,16 @@ namespace Family {
 
 namespace {
 
+/// A channel times an alpha, rounded as blending on 8 bits does it.
+uint weighed(uint channel, uint alpha)
+{
+    const uint product = channel * alpha;
+    return (product + (product >> 8) + 128) >> 8;
+}
+
 uint mixed(uint from, uint alpha, uint to)
 {
-    return (from * alpha + to * (255 - alpha) + 127) / 255;
+    return weighed(from, alpha) + weighed(to, 255 - alpha);
 }
 
 /// One colour over another one, neither of which is opaque or nothing for sure.
