@@ -97,7 +97,8 @@ private:
 
     TextureDrawing* drawing() const;
     void letOthersSetUniforms();
-    void drawRepeated(QPoint tiles, const Texture& image, unsigned char flip);
+    void drawRepeated(QPoint tiles, const Texture& image, unsigned char flip,
+                      const QMatrix4x4& matrix);
     void drawTiles(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix);
 
     RenderWidget* m_widget = nullptr;

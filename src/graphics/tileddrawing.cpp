@@ -43,23 +43,33 @@ struct TileRange
     }
 };
 
-/// More tiles than GL should be asked for: those outside of the widget are left out, and of those
-/// that lie on top of each other there are enough.
-void bound(TileRange& columns, TileRange& rows, const QMatrix4x4& matrix)
+/// Leaves out the tiles outside of the widget. False if nothing at all is to be seen.
+bool clipToWidget(TileRange& columns, TileRange& rows, const QMatrix4x4& matrix)
 {
     bool isInvertible = false;
     const QMatrix4x4 inverse = matrix.inverted(&isInvertible);
-    if (!isInvertible) {
-        rows.count = 0;
-        return;
-    }
-    if (matrix.row(3) == QVector4D(0, 0, 0, 1)) {
+    if (isInvertible && matrix.row(3) == QVector4D(0, 0, 0, 1)) {
         const QRectF shown = inverse.mapRect(QRectF(-1, -1, 2, 2));
         columns.clip(shown.left(), shown.right());
         rows.clip(shown.top(), shown.bottom());
     }
-    columns.count = int(std::min<qint64>(columns.count, MaxTiles));
-    rows.count = int(std::min<qint64>(rows.count, MaxTiles / std::max(columns.count, 1)));
+    return isInvertible && columns.count > 0 && rows.count > 0;
+}
+
+/// More tiles than GL should be asked for. Of those that lie on top of each other there are enough.
+bool bound(TileRange& columns, TileRange& rows, const QMatrix4x4& matrix)
+{
+    if (qint64(columns.count) * rows.count <= MaxTiles) {
+        return true;
+    }
+    if (!clipToWidget(columns, rows, matrix)) {
+        return false;
+    }
+    constexpr qint64 Side = 1 << 8;
+    static_assert(Side * Side <= MaxTiles, "as many one way as the other");
+    columns.count = int(std::min<qint64>(columns.count, std::max(Side, MaxTiles / rows.count)));
+    rows.count = int(std::min<qint64>(rows.count, MaxTiles / columns.count));
+    return true;
 }
 
 /// Two triangles a tile, and as many degenerate ones behind: the draw takes a vertex for every
@@ -120,21 +130,31 @@ void Renderer::glDrawImageTiled(QPoint tiles, QPoint spacing, const QMatrix4x4& 
     state->setMaskAndOpacity(*this, mask, opacity);
     letOthersSetUniforms();
     if (spacing.isNull() && (supportNPOT || isEven)) {
-        drawRepeated(tiles, *image, flip);
+        drawRepeated(tiles, *image, flip, moved);
     } else {
         drawTiles(tiles, spacing, moved);
     }
 }
 
-// One square, over which the texture repeats.
-void Renderer::drawRepeated(QPoint tiles, const Texture& image, unsigned char flip)
+// One square, over which the texture repeats; whole repetitions can be left out.
+void Renderer::drawRepeated(QPoint tiles, const Texture& image, unsigned char flip,
+                            const QMatrix4x4& matrix)
 {
     TextureDrawing& state = m_widget->d->drawing;
-    const auto x = float(tiles.x());
-    const auto y = float(tiles.y());
-    state.tiles.assign({0, y, 0, 0, x, 0, x, 0, x, y, 0, y});
-    const float* const texCoords =
-        state.unitTexCoords(x * float(image.uMax), y * float(image.vMax), flip);
+    TileRange columns{0, std::max(tiles.x(), 0), 1};
+    TileRange rows{0, std::max(tiles.y(), 0), 1};
+    const bool isMany = qint64(columns.count) * rows.count > MaxTiles;
+    if (isMany && image.uMax == 1 && image.vMax == 1 && !clipToWidget(columns, rows, matrix)) {
+        return;
+    }
+    const auto left = float(columns.first);
+    const auto top = float(rows.first);
+    const auto right = left + float(columns.count);
+    const auto bottom = top + float(rows.count);
+    state.tiles.assign(
+        {left, bottom, left, top, right, top, right, top, right, bottom, left, bottom});
+    const float* const texCoords = state.unitTexCoords(float(columns.count) * float(image.uMax),
+                                                       float(rows.count) * float(image.vMax), flip);
     state.draw(*this, state.tiles.data(), texCoords, 6);
 }
 
@@ -146,11 +166,10 @@ void Renderer::drawTiles(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix)
     const QPointF gap = state.projection.map(QPointF(spacing));
     TileRange columns{0, std::max(tiles.x(), 0), gap.x() + 1.0};
     TileRange rows{0, std::max(tiles.y(), 0), gap.y() + 1.0};
-    if (qint64(columns.count) * rows.count > MaxTiles) {
-        bound(columns, rows, matrix);
+    if (bound(columns, rows, matrix)) {
+        fillTiles(state.tiles, columns, rows);
+        state.draw(*this, state.tiles.data(), state.tiles.data(), int(state.tiles.size() / 2));
     }
-    fillTiles(state.tiles, columns, rows);
-    state.draw(*this, state.tiles.data(), state.tiles.data(), int(state.tiles.size() / 2));
 }
 
 }  // namespace Zorv

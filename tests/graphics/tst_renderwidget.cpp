@@ -1,0 +1,888 @@
+#include "graphics/renderwidget.h"
+
+#include "graphics/glcontext.h"
+#include "graphics/renderer.h"
+#include "graphics/texture.h"
+#include "support/gltest.h"
+
+#include <QMatrix4x4>
+#include <QOpenGLContext>
+#include <QOpenGLShaderProgram>
+#include <QPainter>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QWheelEvent>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <vector>
+
+using namespace Zorv;
+
+Q_DECLARE_METATYPE(std::function<void()>)
+
+struct Look
+{
+    int flip = 0;
+    float opacity = 1;
+    bool mask = true;
+    int shading = Renderer::Plain;
+    bool subtract = false;
+};
+
+Q_DECLARE_METATYPE(Look)
+
+/// Drawing, whose pixels are compared with plain loops, and input.
+class TestRenderWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void drawsImages_data();
+    void drawsImages();
+    void blends_data();
+    void blends();
+    void drawsTiles_data();
+    void drawsTiles();
+    void beginsTilesBeforeTheOrigin_data();
+    void beginsTilesBeforeTheOrigin();
+    void spacesTiles();
+    void drawsNothing_data();
+    void drawsNothing();
+    void repeatsNoState();
+    void countsCalls();
+    void isLeftAsPainterExpects();
+    void takesOtherShaders_data();
+    void takesOtherShaders();
+    void setsAnewWhatAListenerChanged();
+    void passesInputOn();
+    void partsAtAnyTime();
+    void goesToAnotherWindow_data();
+    void goesToAnotherWindow();
+};
+
+namespace {
+
+constexpr QSize Size(64, 48);
+
+/// Draws what a test wants, and writes down what it is told.
+class Canvas : public Renderer
+{
+public:
+    void keyPressed(int key, Qt::KeyboardModifiers modifiers) override
+    {
+        events += QStringLiteral("press %1 %2").arg(key).arg(int(modifiers));
+    }
+    void keyReleased(int key, Qt::KeyboardModifiers) override
+    {
+        events += QStringLiteral("release %1").arg(key);
+    }
+    void mousePressed(QPoint pos, Qt::MouseButton button, Qt::KeyboardModifiers) override
+    {
+        events += QStringLiteral("down %1,%2 %3").arg(pos.x()).arg(pos.y()).arg(button);
+    }
+    void mouseReleased(QPoint pos, Qt::MouseButton, Qt::KeyboardModifiers) override
+    {
+        events += QStringLiteral("up %1,%2").arg(pos.x()).arg(pos.y());
+    }
+    void mouseMoved(QPoint pos, Qt::KeyboardModifiers) override
+    {
+        events += QStringLiteral("move %1,%2").arg(pos.x()).arg(pos.y());
+    }
+    void mouseWheel(int delta) override { events += QStringLiteral("wheel %1").arg(delta); }
+    void sizeChanged(int width, int height) override { size = QSize(width, height); }
+    QColor clearColor() const override { return QColor(20, 40, 60, 0); }
+    void render(QPainter& painter) override
+    {
+        if (underneath) {
+            underneath(painter);
+        }
+        painter.beginNativePainting();
+        glBeginTextureDrawing();
+        if (draw) {
+            draw();
+        }
+        glEndTextureDrawing();
+        painter.endNativePainting();
+    }
+
+    std::function<void(QPainter&)> underneath;
+    std::function<void()> draw;
+    QStringList events;
+    QSize size;
+};
+
+constexpr QRgb Ground = qRgb(20, 40, 60);
+
+struct Fixture
+{
+    Canvas canvas;
+    RenderWidget widget;
+
+    Fixture()
+    {
+        widget.resize(Size);
+        widget.setRenderer(&canvas);
+        widget.show();
+    }
+};
+std::unique_ptr<Fixture> s;
+
+QImage painted()
+{
+    return s->widget.grabFramebuffer().convertToFormat(QImage::Format_RGB32);
+}
+
+/// All different, with every alpha; index 0 is transparent.
+std::vector<RGBA> palette(int seed)
+{
+    std::vector<RGBA> colors;
+    for (int i = 0; i < 256; ++i) {
+        colors.push_back(RGBA{quint8(i), quint8(255 - i), quint8(seed * 50 + i / 3),
+                              quint8(i == 0 ? 0 : 255 - i % 7 * 30)});
+    }
+    return colors;
+}
+
+QImage indices(int width, int height)
+{
+    QImage image(width, height, QImage::Format_Indexed8);
+    image.setColorTable(QVector<QRgb>(256, 0));
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            image.setPixel(x, y, uint((x + y * width) * 3 % 256));
+        }
+    }
+    return image;
+}
+
+QImage inColor(const QImage& image, const std::vector<RGBA>& colors)
+{
+    QImage result(image.size(), QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const RGBA c = colors[size_t(image.pixelIndex(x, y))];
+            result.setPixel(x, y, qRgba(c.r, c.g, c.b, c.a));
+        }
+    }
+    return result;
+}
+
+QMatrix4x4 placed(QRect rect)
+{
+    QMatrix4x4 matrix;
+    matrix.translate(rect.x(), rect.y());
+    matrix.scale(rect.width(), rect.height());
+    return matrix;
+}
+
+int channel(double value)
+{
+    return int(std::lround(std::clamp(value, 0.0, 1.0) * 255));
+}
+
+/// One channel as the shader shades it and GL blends it.
+int blended(int color, int alpha, int ground, const Look& look, double shade)
+{
+    const double a = (look.mask ? alpha / 255.0 : 1.0) * double(look.opacity);
+    const double c = std::clamp(color / 255.0 + shade, 0.0, 1.0) * a;
+    const double g = ground / 255.0;
+    return channel(look.subtract ? g - c : c + g * (1 - a));
+}
+
+/// The plain model: nearest pixel, one after the other.
+void draw(QImage& out, const QImage& colors, QRect rect, const Look& look)
+{
+    const double shade = look.shading == Renderer::Lighter  ? 0.5
+                         : look.shading == Renderer::Darker ? -0.5
+                                                            : 0.0;
+    for (int y = 0; y < rect.height(); ++y) {
+        for (int x = 0; x < rect.width(); ++x) {
+            int fromX = int((x + 0.5) * colors.width() / rect.width());
+            int fromY = int((y + 0.5) * colors.height() / rect.height());
+            fromX = look.flip & Renderer::FlipHorizontally ? colors.width() - 1 - fromX : fromX;
+            fromY = look.flip & Renderer::FlipVertically ? colors.height() - 1 - fromY : fromY;
+            const QPoint at = rect.topLeft() + QPoint(x, y);
+            const QRgb color = colors.pixel(fromX, fromY);
+            if (!out.rect().contains(at) || (look.mask && qAlpha(color) == 0)) {
+                continue;
+            }
+            const QRgb ground = out.pixel(at);
+            const bool gray = look.shading == Renderer::Grayscale;
+            const int alpha = qAlpha(color);
+            const int red = qRed(color);
+            out.setPixel(
+                at, qRgb(blended(red, alpha, qRed(ground), look, shade),
+                         blended(gray ? red : qGreen(color), alpha, qGreen(ground), look, shade),
+                         blended(gray ? red : qBlue(color), alpha, qBlue(ground), look, shade)));
+        }
+    }
+}
+
+QImage ground()
+{
+    QImage image(Size, QImage::Format_RGB32);
+    image.fill(Ground);
+    return image;
+}
+
+/// The largest difference of a channel; GL may round otherwise.
+int difference(const QImage& a, const QImage& b)
+{
+    int largest = a.size() == b.size() ? 0 : 256;
+    for (int y = 0; largest < 256 && y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            largest = std::max({largest, qAbs(qRed(p) - qRed(q)), qAbs(qGreen(p) - qGreen(q)),
+                                qAbs(qBlue(p) - qBlue(q))});
+        }
+    }
+    return largest;
+}
+
+void setAlphaBlending()
+{
+    s->canvas.glSetBlend(true);
+    s->canvas.glSetBlendEquation(Renderer::Add);
+    s->canvas.glSetBlendFunction(Renderer::SourceAlpha, Renderer::OneMinusSourceAlpha);
+}
+
+}  // namespace
+
+void TestRenderWidget::initTestCase()
+{
+    QVERIFY(isContextUsable());
+}
+
+void TestRenderWidget::init()
+{
+    s = std::make_unique<Fixture>();
+    QVERIFY(QTest::qWaitForWindowExposed(&s->widget));
+}
+
+void TestRenderWidget::cleanup()
+{
+    s.reset();
+}
+
+void TestRenderWidget::drawsImages_data()
+{
+    QTest::addColumn<bool>("indexed");
+    QTest::addColumn<QRect>("rect");
+    QTest::addColumn<Look>("look");
+    const QRect actual(3, 4, 13, 9);
+    for (bool indexed : {true, false}) {
+        const char* const kind = indexed ? "indices" : "colours";
+        for (int flip = 0; flip < 4; ++flip) {
+            QTest::addRow("%s, flip %d", kind, flip) << indexed << actual << Look{flip};
+        }
+        for (int shading = 0; shading < 4; ++shading) {
+            QTest::addRow("%s, shading %d", kind, shading)
+                << indexed << actual << Look{1, 1.0F, true, shading};
+        }
+        QTest::addRow("%s, no mask", kind) << indexed << actual << Look{0, 1.0F, false};
+        QTest::addRow("%s, faint", kind) << indexed << actual << Look{0, 0.3F, true, 2};
+        QTest::addRow("%s, no mask, faint", kind) << indexed << actual << Look{3, 0.6F, false, 3};
+        QTest::addRow("%s, enlarged", kind) << indexed << QRect(-5, -4, 39, 36) << Look{2};
+        QTest::addRow("%s, larger than the widget", kind)
+            << indexed << QRect(-130, -90, 260, 180) << Look{};
+        QTest::addRow("%s, one pixel", kind) << indexed << QRect(9, 9, 1, 1) << Look{};
+    }
+}
+
+void TestRenderWidget::drawsImages()
+{
+    QFETCH(bool, indexed);
+    QFETCH(QRect, rect);
+    QFETCH(Look, look);
+    const QImage image = indices(13, 9);
+    const QImage colors = inColor(image, palette(1));
+    Texture texture(indexed ? image : colors);
+    Texture first(palette(1).data());
+    Texture second(palette(2).data());
+    s->canvas.draw = [&] {
+        setAlphaBlending();
+        const auto flip = uchar(look.flip);
+        const auto shading = uchar(look.shading);
+        s->canvas.glDrawImage(placed(rect), &texture, &first, flip, look.opacity, look.mask,
+                              shading);
+        // The same in other colours: no image is needed for it.
+        s->canvas.glDrawImage(placed(rect.translated(20, 15)), &texture, &second, flip,
+                              look.opacity, look.mask, shading);
+    };
+    QImage expected = ground();
+    draw(expected, colors, rect, look);
+    draw(expected, indexed ? inColor(image, palette(2)) : colors, rect.translated(20, 15), look);
+    const QImage actual = painted();
+    QVERIFY2(difference(actual, expected) <= 2,
+             qPrintable(QString::number(difference(actual, expected))));
+}
+
+void TestRenderWidget::blends_data()
+{
+    QTest::addColumn<std::function<void()>>("setUp");
+    QTest::addColumn<QRgb>("expected");
+    const QRgb added = qRgb(220, 140, 110);
+    QTest::newRow("off") << std::function<void()>([] {}) << qRgb(200, 100, 50);
+    QTest::newRow("added") << std::function<void()>([] {
+        s->canvas.glSetBlend(true);
+        s->canvas.glSetBlendFunction(Renderer::One, Renderer::One);
+    }) << added;
+    QTest::newRow("subtracted") << std::function<void()>([] {
+        s->canvas.glSetBlend(true);
+        s->canvas.glSetBlendEquation(Renderer::ReverseSubtract);
+        s->canvas.glSetBlendFunction(Renderer::SourceAlpha, Renderer::One);
+    }) << qRgb(0, 0, 10);
+    QTest::newRow("any other equation adds") << std::function<void()>([] {
+        s->canvas.glSetBlend(true);
+        s->canvas.glSetBlendEquation(Renderer::BlendEquation(7));
+        s->canvas.glSetBlendFunction(Renderer::One, Renderer::One);
+    }) << added;
+    QTest::newRow("multiplied") << std::function<void()>([] {
+        s->canvas.glSetBlend(true);
+        s->canvas.glSetBlendFunction(Renderer::DestinationColor, Renderer::Zero);
+    }) << qRgb(16, 16, 12);
+    QTest::newRow("no such factor") << std::function<void()>([] {
+        s->canvas.glSetBlend(true);
+        s->canvas.glSetBlendFunction(Renderer::One, Renderer::One);
+        s->canvas.glSetBlendFunction(Renderer::BlendFactor(6), Renderer::BlendFactor(-1));
+    }) << added;
+    QTest::newRow("off again") << std::function<void()>([] {
+        s->canvas.glSetBlend(true);
+        s->canvas.glSetBlendFunction(Renderer::One, Renderer::One);
+        s->canvas.glSetBlend(false);
+    }) << qRgb(200, 100, 50);
+    QTest::newRow("on again, with what was set before") << std::function<void()>([] {
+        s->canvas.glSetBlend(true);
+        s->canvas.glSetBlendFunction(Renderer::One, Renderer::One);
+        s->canvas.glSetBlend(false);
+        s->canvas.glSetBlend(true);
+        s->canvas.glSetBlendFunction(Renderer::One, Renderer::One);
+    }) << added;
+}
+
+void TestRenderWidget::blends()
+{
+    QFETCH(std::function<void()>, setUp);
+    QFETCH(QRgb, expected);
+    QImage image(2, 2, QImage::Format_RGB32);
+    image.fill(qRgb(200, 100, 50));
+    Texture texture(image);
+    s->canvas.draw = [&] {
+        setUp();
+        s->canvas.glDrawImage(placed({0, 0, 8, 8}), &texture, nullptr, 0, 1, true, 0);
+    };
+    for (int round = 0; round < 2; ++round) {
+        const QColor color = painted().pixel(4, 4);
+        QVERIFY2(qAbs(color.red() - qRed(expected)) <= 1 &&
+                     qAbs(color.green() - qGreen(expected)) <= 1 &&
+                     qAbs(color.blue() - qBlue(expected)) <= 1,
+                 qPrintable(color.name()));
+    }
+}
+
+void TestRenderWidget::drawsTiles_data()
+{
+    QTest::addColumn<QSize>("image");
+    QTest::addColumn<QPoint>("tiles");
+    QTest::addColumn<QRect>("first");
+    QTest::addColumn<QSize>("drawn");
+    QTest::addColumn<int>("flip");
+    QTest::newRow("six") << QSize(13, 9) << QPoint(3, 2) << QRect(3, 4, 13, 9) << QSize(3, 2) << 0;
+    QTest::newRow("flipped") << QSize(13, 9) << QPoint(3, 2) << QRect(3, 4, 13, 9) << QSize(3, 2)
+                             << 3;
+    QTest::newRow("enlarged") << QSize(4, 6) << QPoint(2, 2) << QRect(1, 2, 12, 18) << QSize(2, 2)
+                              << 1;
+    QTest::newRow("as many as fit")
+        << QSize(13, 9) << QPoint(0, 0) << QRect(-3, 25, 13, 9) << QSize(5, 6) << 0;
+    QTest::newRow("so many columns")
+        << QSize(13, 9) << QPoint(1, 2) << QRect(-3, 4, 13, 9) << QSize(5, 2) << 2;
+    QTest::newRow("from far away") << QSize(13, 9) << QPoint(1 << 20, 1 << 30)
+                                   << QRect(-1300000, -9000000, 13, 9) << QSize(6, 7) << 3;
+    QTest::newRow("too many") << QSize(13, 9) << QPoint(1 << 30, 1 << 30) << QRect(0, 0, 13, 9)
+                              << QSize(5, 6) << 0;
+}
+
+void TestRenderWidget::drawsTiles()
+{
+    QFETCH(QSize, image);
+    QFETCH(QPoint, tiles);
+    QFETCH(QRect, first);
+    QFETCH(QSize, drawn);
+    QFETCH(int, flip);
+    const QImage colors = inColor(indices(image.width(), image.height()), palette(1));
+    Texture texture(colors);
+    s->canvas.draw = [&] {
+        setAlphaBlending();
+        s->canvas.glDrawImageTiled(tiles, {0, 0}, placed(first), &texture, nullptr, uchar(flip), 1,
+                                   true);
+    };
+    QImage expected = ground();
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x) {
+            const QPoint corner(qMax(first.x(), first.x() % first.width()),
+                                qMax(first.y(), first.y() % first.height()));
+            draw(expected, colors,
+                 QRect(corner + QPoint(x * first.width(), y * first.height()), first.size()),
+                 Look{flip});
+        }
+    }
+    QVERIFY(difference(painted(), expected) <= 2);
+}
+
+void TestRenderWidget::beginsTilesBeforeTheOrigin_data()
+{
+    QTest::addColumn<QPoint>("origin");
+    QTest::addColumn<QPoint>("begin");
+    QTest::newRow("left and below") << QPoint(10, 30) << QPoint(10, 30);
+    QTest::newRow("right") << QPoint(50, 30) << QPoint(46, 30);
+    QTest::newRow("above") << QPoint(10, 20) << QPoint(10, 16);
+}
+
+// Tiles that fill the widget begin before an origin in its right or upper half, by as many images
+// as an image has pixels.
+void TestRenderWidget::beginsTilesBeforeTheOrigin()
+{
+    QFETCH(QPoint, origin);
+    QFETCH(QPoint, begin);
+    QImage image(2, 2, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    Texture texture(image);
+    s->canvas.draw = [&] {
+        s->canvas.glDrawImageTiled({0, 0}, {0, 0}, placed({origin, QSize(2, 2)}), &texture, nullptr,
+                                   0, 1, true);
+    };
+    const QImage actual = painted();
+    for (int y = 0; y < Size.height(); ++y) {
+        for (int x = 0; x < Size.width(); ++x) {
+            const bool isTile =
+                x >= begin.x() && x < begin.x() + 64 && y >= begin.y() && y < begin.y() + 48;
+            QCOMPARE(QColor(actual.pixel(x, y)), QColor(isTile ? qRgb(255, 255, 255) : Ground));
+        }
+    }
+}
+
+// The gap between two tiles is a part of the widget, and the place of a point is its place on the
+// repeated image.
+void TestRenderWidget::spacesTiles()
+{
+    const QImage colors = inColor(indices(8, 8), std::vector<RGBA>(palette(1)));
+    Texture texture(colors);
+    QPoint tiles(3, 2);
+    QPoint spacing(16, 12);  // a quarter each: steps of 0.5 and 1.5
+    QMatrix4x4 matrix = placed({4, 2, 16, 16});
+    s->canvas.draw = [&] {
+        s->canvas.glDrawImageTiled(tiles, spacing, matrix, &texture, nullptr, 0, 1, false);
+    };
+    QImage expected = ground();
+    for (int i = 0; i < tiles.x() * tiles.y(); ++i) {
+        const QPoint begin(i % tiles.x() * 8, i / tiles.x() * 24);
+        for (int y = begin.y(); y < begin.y() + 16; ++y) {
+            for (int x = begin.x(); x < begin.x() + 16; ++x) {
+                if (y + 2 < Size.height()) {
+                    expected.setPixel(x + 4, y + 2, colors.pixel(x / 2 % 8, 7 - y / 2 % 8));
+                }
+            }
+        }
+    }
+    {
+        GlTest::CallCounter counter;
+        QVERIFY(difference(painted(), expected.convertToFormat(QImage::Format_RGB32)) <= 1);
+        QVERIFY(counter.calls().vertices.contains(12 * 6));
+    }
+
+    // More than can be kept in memory look as many do.
+    for (int turn : {0, 30, 180}) {
+        matrix.rotate(float(turn), 0, 0, 1);
+        for (QPoint gap : {QPoint(16, 12), QPoint(-16, 60), QPoint(0, 24)}) {
+            spacing = gap;
+            tiles = QPoint(200, 200);
+            const QImage many = painted();
+            tiles = QPoint(1 << 30, std::numeric_limits<int>::max());
+            QVERIFY(difference(painted(), many) <= 1);
+        }
+    }
+    matrix.scale(0, 0);
+    QCOMPARE(painted(), ground());
+}
+
+void TestRenderWidget::drawsNothing_data()
+{
+    QTest::addColumn<std::function<void()>>("draw");
+    const QMatrix4x4 matrix = placed({0, 0, 20, 20});
+    const auto add = [](const char* name, std::function<void()> draw) {
+        QTest::newRow(name) << std::move(draw);
+    };
+    add("null", [=] {
+        s->canvas.glDrawImage(matrix, nullptr, nullptr, 0, 1, true, 0);
+        s->canvas.glDrawImageTiled({2, 2}, {1, 1}, matrix, nullptr, nullptr, 0, 1, true);
+    });
+    add("no name", [=] {
+        Texture texture;
+        s->canvas.glDrawImage(matrix, &texture, nullptr, 0, 1, true, 0);
+        s->canvas.glDrawImageTiled({2, 2}, {0, 0}, matrix, &texture, nullptr, 0, 1, true);
+    });
+    add("a palette", [=] {
+        Texture texture(palette(1).data());
+        s->canvas.glDrawImage(matrix, &texture, &texture, 0, 1, true, 0);
+    });
+    add("deleted", [=] {
+        Texture texture(indices(3, 3));
+        texture.fromImage(QImage());
+        s->canvas.glDrawImage(matrix, &texture, nullptr, 0, 1, true, 0);
+        s->canvas.glDrawImageTiled({2, 2}, {1, 1}, matrix, &texture, nullptr, 0, 1, true);
+    });
+    add("no such shading", [=] {
+        Texture texture(indices(3, 3));
+        s->canvas.glDrawImage(matrix, &texture, nullptr, 0, 1, true, 4);
+    });
+    add("not attached", [=] {
+        Texture texture(indices(3, 3));
+        Canvas other;
+        other.glBeginTextureDrawing();
+        other.glSetBlend(true);
+        other.glDrawImage(matrix, &texture, nullptr, 0, 1, true, 0);
+        other.glDrawImageTiled({2, 2}, {1, 1}, matrix, &texture, nullptr, 0, 1, true);
+        other.glEndTextureDrawing();
+    });
+    add("attached to what was never shown", [=] {
+        Texture texture(indices(3, 3));
+        RenderWidget hidden;
+        Canvas other;
+        hidden.setRenderer(&other);
+        other.glDrawImage(matrix, &texture, nullptr, 0, 1, true, 0);
+        other.glSetBlend(true);
+        hidden.setCustomPixelShader(nullptr, nullptr);
+        s->widget.makeCurrent();
+    });
+    add("transparent", [=] {
+        Texture texture(indices(1, 1));
+        Texture colors(palette(1).data());
+        s->canvas.glDrawImage(matrix, &texture, &colors, 0, 1, true, 0);
+    });
+}
+
+void TestRenderWidget::drawsNothing()
+{
+    QFETCH(std::function<void()>, draw);
+    s->canvas.draw = draw;
+    QCOMPARE(painted(), ground());
+}
+
+// Against drawing each image in a run of its own, where all is set anew.
+void TestRenderWidget::repeatsNoState()
+{
+    std::vector<std::unique_ptr<Texture>> palettes;
+    for (int i = 0; i < 3; ++i) {
+        palettes.push_back(std::make_unique<Texture>(palette(i).data()));
+    }
+    for (quint32 seed = 1; seed <= 30; ++seed) {
+        bool isOneRun = true;
+        Canvas& canvas = s->canvas;
+        canvas.draw = [&] {
+            QRandomGenerator random(seed);
+            std::vector<std::unique_ptr<Texture>> images;
+            for (int i = 0; i < 3; ++i) {
+                images.push_back(std::make_unique<Texture>(indices(5 + i, 7)));
+                images.push_back(std::make_unique<Texture>(inColor(indices(9 - i, 4), palette(i))));
+            }
+            setAlphaBlending();
+            for (int i = 0; i < 40; ++i) {
+                if (!isOneRun) {
+                    canvas.glEndTextureDrawing();
+                    canvas.glBeginTextureDrawing();
+                    setAlphaBlending();
+                }
+                const QRect rect(random.bounded(50), random.bounded(40), 10 + random.bounded(2), 9);
+                const auto flip = uchar(random.bounded(4));
+                const float opacity = float(1 + random.bounded(2)) / 2;
+                const bool mask = random.bounded(2) == 1;
+                const auto shading = uchar(random.bounded(2));
+                Texture* const image = images[size_t(random.bounded(6))].get();
+                Texture* const colors = palettes[size_t(random.bounded(3))].get();
+                if (random.bounded(4) == 0) {
+                    // A texture that is made in between, perhaps under a name that was bound.
+                    image->fromImage(image->kind == Texture::IndexedKind
+                                         ? indices(6, 6)
+                                         : inColor(indices(6, 6), palette(1)));
+                }
+                if (random.bounded(5) == 0) {
+                    const bool isIndexed = image->kind == Texture::IndexedKind;
+                    canvas.glDrawImageTiled({2, 2}, {random.bounded(2), 5}, placed(rect), image,
+                                            isIndexed ? colors : nullptr, flip, opacity, mask);
+                } else {
+                    canvas.glDrawImage(placed(rect), image, colors, flip, opacity, mask, shading);
+                }
+            }
+        };
+        isOneRun = false;
+        const QImage expected = painted();
+        isOneRun = true;
+        QVERIFY2(difference(painted(), expected) <= 1, qPrintable(QString::number(seed)));
+    }
+}
+
+void TestRenderWidget::countsCalls()
+{
+    Texture first(indices(4, 4));
+    Texture second(inColor(indices(4, 4), palette(1)));
+    Texture colors(palette(1).data());
+    Texture others(palette(2).data());
+    GlTest::CallCounter counter;
+    GlTest::Calls calls;
+    s->canvas.draw = [&] {
+        counter.restart();
+        setAlphaBlending();
+        for (int i = 0; i < 50; ++i) {
+            setAlphaBlending();
+            s->canvas.glDrawImage(placed({i, 0, 4, 4}), &first, i < 25 ? &colors : &others, 0, 1,
+                                  true, 0);
+        }
+        for (int i = 0; i < 50; ++i) {
+            s->canvas.glDrawImage(placed({i, 8, 4, 4}), &second, nullptr, uchar(i % 4), 1, true, 0);
+        }
+        calls = counter.calls();
+    };
+    painted();
+    QCOMPARE(calls.redundant, 0);
+    QCOMPARE(calls.draws(), 100);
+    QCOMPARE(calls.programs, 2);
+    QCOMPARE(calls.images, 2);
+    QCOMPARE(calls.palettes, 2);
+    QCOMPARE(calls.blending, 3);
+    QCOMPARE(calls.arrays, 4);
+    QCOMPARE(calls.uniforms, 2 + 1 + 2 * 2 + 100);
+    QVERIFY(calls.uploads.isEmpty());
+}
+
+// QPainter blends in its own way before and behind the images, in every frame.
+void TestRenderWidget::isLeftAsPainterExpects()
+{
+    QImage image(4, 4, QImage::Format_ARGB32);
+    image.fill(qRgba(250, 100, 10, 128));
+    Texture texture(image);
+    Texture colors(palette(1).data());
+    s->canvas.underneath = [](QPainter& painter) {
+        painter.fillRect(QRect(0, 0, 64, 24), QColor(0, 0, 255, 128));
+    };
+    s->canvas.draw = [&] {
+        setAlphaBlending();
+        s->canvas.glDrawImage(placed({0, 0, 64, 48}), &texture, &colors, 0, 0.5F, true, 0);
+        s->canvas.glEndTextureDrawing();
+        const std::pair<GLenum, int> told[] = {{GL_CURRENT_PROGRAM, 0},
+                                               {GL_ACTIVE_TEXTURE, GL_TEXTURE1},
+                                               {GL_TEXTURE_BINDING_2D, 0},
+                                               {GL_BLEND, 0},
+                                               {GL_BLEND_EQUATION, GL_FUNC_ADD},
+                                               {GL_BLEND_SRC_RGB, GL_SRC_ALPHA},
+                                               {GL_BLEND_DST_RGB, GL_ONE_MINUS_SRC_ALPHA}};
+        for (const auto& [name, expected] : told) {
+            GLint value = -1;
+            s->canvas.glGetIntegerv(name, &value);
+            QCOMPARE(value, expected);
+        }
+        for (GLuint array = 0; array < 4; ++array) {
+            GLint enabled = -1;
+            s->canvas.glGetVertexAttribiv(array, GL_VERTEX_ATTRIB_ARRAY_ENABLED, &enabled);
+            QCOMPARE(enabled, 0);
+        }
+    };
+    QImage expected = ground();
+    QPainter painter(&expected);
+    painter.fillRect(QRect(0, 0, 64, 24), QColor(0, 0, 255, 128));
+    painter.end();
+    draw(expected, image, QRect(0, 0, 64, 48), Look{0, 0.5F});
+    for (int frame = 0; frame < 3; ++frame) {
+        QVERIFY(difference(painted(), expected) <= 2);
+    }
+}
+
+void TestRenderWidget::takesOtherShaders_data()
+{
+    QTest::addColumn<bool>("replaced");
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QRgb>("expected");
+    const QByteArray tinted = "uniform highp float opacity;\n"
+                              "uniform highp float tint;\n"
+                              "void main() {\n"
+                              "#if defined(LIGHTER)\n"
+                              "    gl_FragColor = vec4(tint, 1.0, opacity, 1.0);\n"
+                              "#else\n"
+                              "    gl_FragColor = vec4(tint, 0.0, opacity, 1.0);\n"
+                              "#endif\n"
+                              "}\n";
+    QTest::newRow("in place of those of the library") << true << tinted << qRgb(51, 255, 102);
+    QTest::newRow("beside them") << false << tinted << Ground;
+    QTest::newRow("with a fault") << true << QByteArray("void main() { no }\n") << Ground;
+}
+
+// A listener may leave GL as it likes.
+void TestRenderWidget::takesOtherShaders()
+{
+    QFETCH(bool, replaced);
+    QFETCH(QByteArray, source);
+    QFETCH(QRgb, expected);
+    const auto handler = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString&) {});  // faults of shaders
+    if (replaced) {
+        for (auto* program : s->widget.findChildren<QOpenGLShaderProgram*>()) {
+            program->removeAllShaders();
+        }
+    }
+    s->widget.setCustomPixelShader(source.constData(), source.constData());
+    qInstallMessageHandler(handler);
+    connect(&s->widget, &RenderWidget::setCustomShaderUniformValues,
+            [](QOpenGLShaderProgram* program) {
+                program->setUniformValue("tint", 0.2F);
+                s->canvas.glActiveTexture(GL_TEXTURE3);
+            });
+    Texture image(inColor(indices(2, 2), palette(1)));
+    s->canvas.draw = [&] {
+        s->canvas.glDrawImage(placed({0, 0, 9, 9}), &image, nullptr, 0, 0.4F, true, 2);
+        s->canvas.glDrawImage(placed({9, 0, 9, 9}), &image, nullptr, 0, 0.4F, true, 2);
+    };
+    const QImage actual = painted();
+    QCOMPARE(QColor(actual.pixel(4, 4)), QColor(expected));
+    QCOMPARE(QColor(actual.pixel(13, 4)), QColor(expected));
+}
+
+void TestRenderWidget::setsAnewWhatAListenerChanged()
+{
+    Texture image(inColor(indices(4, 4), palette(1)));
+    Texture other(inColor(indices(4, 4), palette(2)));
+    s->canvas.draw = [&] {
+        for (int x : {0, 20, 40}) {
+            s->canvas.glDrawImage(placed({x, 0, 8, 8}), &image, nullptr, 0, 1, true, 0);
+        }
+    };
+    const QImage expected = painted();
+    int draws = 0;
+    connect(&s->widget, &RenderWidget::setCustomShaderUniformValues,
+            [&](QOpenGLShaderProgram* program) {
+                if (draws++ == 0) {
+                    s->canvas.glActiveTexture(GL_TEXTURE0);
+                    s->canvas.glBindTexture(GL_TEXTURE_2D, other.id);
+                    program->setUniformValue("mask", 0);
+                    program->setUniformValue("opacity", 0.0F);
+                    program->setUniformValue("matrix", placed({0, 20, 5, 5}));
+                    s->canvas.glActiveTexture(GL_TEXTURE2);
+                }
+            });
+    const QImage actual = painted();
+    QCOMPARE(draws, 3);
+    QCOMPARE(actual.copy(20, 0, 44, 48), expected.copy(20, 0, 44, 48));
+}
+
+void TestRenderWidget::passesInputOn()
+{
+    RenderWidget& widget = s->widget;
+    QTest::keyClick(&widget, Qt::Key_A, Qt::KeypadModifier);
+    QTest::mousePress(&widget, Qt::RightButton, Qt::NoModifier, QPoint(3, 4));
+    QTest::mouseRelease(&widget, Qt::RightButton, Qt::NoModifier, QPoint(5, 6));
+    QMouseEvent move(QEvent::MouseMove, QPointF(3.6, -2.4), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &move);
+    QStringList expected = {QStringLiteral("press 65 %1").arg(int(Qt::KeypadModifier)),
+                            "release 65", "down 3,4 2", "up 5,6", "move 4,-2"};
+    for (QPoint angle :
+         {QPoint(0, 120), QPoint(0, -240), QPoint(30, 15), QPoint(-5, 5), QPoint()}) {
+        QWheelEvent wheel({5, 5}, {5, 5}, {}, angle, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&widget, &wheel);
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
+        expected += QStringLiteral("wheel %1").arg(wheel.delta());
+        QT_WARNING_POP
+    }
+    s->canvas.events.removeAll("move 3,4");  // of the pointer that the test moves
+    QCOMPARE(s->canvas.events.join("; "), expected.join("; "));
+    QVERIFY(widget.hasMouseTracking());
+}
+
+void TestRenderWidget::partsAtAnyTime()
+{
+    RenderWidget& widget = s->widget;
+    painted();
+    QCOMPARE(s->canvas.size, Size);
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
+    widget.setRenderer(nullptr);
+    QVERIFY(!s->canvas.widget());
+    s->canvas.update();
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
+    QVERIFY(!s->canvas.events.contains("up 3,4"));
+    QCOMPARE(painted(), ground());
+
+    auto other = std::make_unique<Canvas>();
+    other->underneath = [&](QPainter&) { widget.setRenderer(nullptr); };
+    widget.setRenderer(other.get());
+    painted();
+    QVERIFY(!widget.renderer());
+
+    // The one that dies leaves the other.
+    widget.setRenderer(other.get());
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
+    other.reset();
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
+    QVERIFY(!widget.renderer());
+    auto second = std::make_unique<RenderWidget>();
+    widget.setRenderer(&s->canvas);
+    second->setRenderer(&s->canvas);
+    QVERIFY(!widget.renderer());
+    QCOMPARE(s->canvas.widget(), second.get());
+    second.reset();
+    QVERIFY(!s->canvas.widget());
+
+    widget.setRenderer(&s->canvas);
+    widget.resize(1, 1);
+    QCOMPARE(painted().size(), QSize(1, 1));
+    QCOMPARE(painted().pixel(0, 0), Ground);
+}
+
+void TestRenderWidget::goesToAnotherWindow_data()
+{
+    QTest::addColumn<bool>("keepsContext");
+    QTest::newRow("with its context") << true;
+    QTest::newRow("with a new context") << false;
+}
+
+void TestRenderWidget::goesToAnotherWindow()
+{
+    QFETCH(bool, keepsContext);
+    const QImage colors = inColor(indices(13, 9), palette(1));
+    Texture texture(colors);
+    s->canvas.draw = [&] {
+        setAlphaBlending();
+        s->canvas.glDrawImage(placed({3, 4, 13, 9}), &texture, nullptr, 0, 1, true, 0);
+    };
+    const QImage before = painted();
+    QSignalSpy spy(&s->widget, &RenderWidget::initialize);
+    const char* const tooLate =
+        "Attribute Qt::AA_ShareOpenGLContexts must be set before QCoreApplication is created.";
+    QTest::ignoreMessage(QtWarningMsg, tooLate);
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts, keepsContext);
+    QWidget window;
+    window.resize(200, 100);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    s->widget.setParent(&window);
+    s->widget.show();
+    const QImage after = painted();
+    s->widget.setParent(nullptr);
+    s->widget.show();
+    const QImage back = painted();
+    QTest::ignoreMessage(QtWarningMsg, tooLate);
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QCOMPARE(after, before);
+    QCOMPARE(back, before);
+    QCOMPARE(spy.size(), keepsContext ? 0 : 2);
+    QCOMPARE(s->widget.findChildren<QOpenGLShaderProgram*>().size(), 8);
+}
+
+ZORV_GL_TEST_MAIN(TestRenderWidget)
+#include "tst_renderwidget.moc"
