@@ -65,6 +65,20 @@ int groundIndex(const QImage& picture, QVector<QRgb>* colors)
     return index;
 }
 
+/// The sides of a box, so wide. They do not overlap; those of a box that is smaller reach beyond it
+/// to the right and down.
+std::array<QRect, 4> edgesOf(const QRect& box, int width)
+{
+    const int left = box.left() + width;
+    const int top = box.top() + width;
+    const int right = std::max(box.right() - width, left - 1);
+    const int bottom = std::max(box.bottom() - width, top - 1);
+    return {QRect(QPoint(box.left(), box.top()), QPoint(left - 1, box.bottom())),
+            QRect(QPoint(left, box.top()), QPoint(right, top - 1)),
+            QRect(QPoint(right + 1, box.top()), box.bottomRight()),
+            QRect(QPoint(left, bottom + 1), QPoint(right, box.bottom()))};
+}
+
 /// Calls for each box of a frame, those below first.
 template <class Function>
 void forEachBox(const FrameNode& frame, Function function)
@@ -146,8 +160,11 @@ QRect FrameComposer::boxArea(const QRect& box) const
         const double bounded = std::clamp(length * zoom, double(-Farthest), double(Farthest));
         return std::isnan(bounded) ? 0 : qRound(bounded);
     };
-    return {rounded(box.left()), rounded(box.top()), rounded(double(box.right()) + 1 - box.left()),
-            rounded(double(box.bottom()) + 1 - box.top())};
+    // A box may be told from its right or lower end.
+    return QRect(rounded(box.left()), rounded(box.top()),
+                 rounded(double(box.right()) + 1 - box.left()),
+                 rounded(double(box.bottom()) + 1 - box.top()))
+        .normalized();
 }
 
 QRect FrameComposer::axisArea() const
@@ -164,13 +181,9 @@ QRect FrameComposer::bounds(const FrameNode& frame, QString* error) const
     if (m_style.parts & FrameStyle::Boxes) {
         const int width = lineWidth(m_style.zoom);
         forEachBox(frame, [&](const QRect& box, bool) {
-            const QRect inside = boxArea(box);
-            // The lines of a box that is smaller than they are reach beyond it.
-            const QRect lines(inside.right() - width + 1, inside.bottom() - width + 1, width,
-                              width);
-            area |= inside.isEmpty()
-                        ? QRect()
-                        : inside | lines | QRect(inside.topLeft(), QSize(width, width));
+            for (const QRect& edge : edgesOf(boxArea(box), width)) {
+                area |= edge;
+            }
         });
     }
     return area | axisArea();
@@ -254,22 +267,16 @@ void FrameComposer::draw(const FrameNode& frame, QImage* image, QPoint topLeft, 
     }
     if (m_style.parts & FrameStyle::Boxes) {
         const int width = lineWidth(m_style.zoom);
+        const double opacity = qBound(0.0, m_style.boxOpacity, 1.0) * 0.5;
         forEachBox(frame, [&](const QRect& box, bool isAttack) {
             const QRect area = boxArea(box);
             const QColor border = isAttack ? m_style.attack : m_style.body;
             QColor inside = border;
-            inside.setAlpha(int(border.alpha() * qBound(0.0, m_style.boxOpacity, 1.0) * 0.5));
-            if (area.isEmpty()) {
-                return;
+            inside.setAlpha(int(border.alpha() * opacity));
+            raster.fill(area.adjusted(width, width, 0, 0), inside.rgba());
+            for (const QRect& edge : edgesOf(area, width)) {
+                raster.fill(edge, border.rgba());
             }
-            raster.fill(QRect(area.topLeft() + QPoint(width, width), area.bottomRight()),
-                        inside.rgba());
-            raster.fill({area.left(), area.top(), width, area.height()}, border.rgba());
-            raster.fill({area.left(), area.top(), area.width(), width}, border.rgba());
-            raster.fill({area.right() - width + 1, area.top(), width, area.height()},
-                        border.rgba());
-            raster.fill({area.left(), area.bottom() - width + 1, area.width(), width},
-                        border.rgba());
         });
     }
     if (!m_axis.isNull()) {
