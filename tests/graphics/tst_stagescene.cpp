@@ -1,7 +1,7 @@
 #include "graphics/stage/graphicsrenderer_p.h"
-#include "graphics/stage/positionmode.h"
 #include "graphics/stage/rounding_p.h"
 #include "graphics/stage/rulerticks_p.h"
+#include "scenemodel.h"
 #include "support/stagedata.h"
 
 #include <QPainter>
@@ -10,7 +10,6 @@
 
 #include <cmath>
 #include <limits>
-#include <set>
 
 using namespace Zorv;
 
@@ -29,7 +28,7 @@ struct Drawn
 };
 
 /// A stage of which the state is seen, and what it would draw by GL. Begins with what all stages
-/// share as it is at the start.
+/// share as it is at the start, and shows boxes alone.
 class Stage : public GraphicsRenderer
 {
 public:
@@ -39,13 +38,21 @@ public:
         setPriority(false, false);
         setZoomMode(ZoomAboutOrigin);
         setZoomTable(0);
-        setupContactBoxes(Qt::red, Qt::blue, 1);
-        setCrossHair(SmallCrosses, {}, {}, {});
+        setupContactBoxes(Qt::red, Qt::blue, 0);
         setBackground(Qt::black, Qt::black, GradientBackground, {}, {}, {});
         setVisibility(false, false, false, true, true, false, false);
+        for (StageData::Boxes* list : {&attack, &collision}) {
+            list->add(QRect(0, 0, 20, 20));
+        }
     }
 
     GraphicsRendererPrivate& scene() { return GraphicsRendererPrivate::of(*this); }
+
+    void showBoxes()
+    {
+        setContactBoxes(ContactBoxCode::Attack, &attack);
+        setContactBoxes(ContactBoxCode::Collision, &collision);
+    }
 
     QImage picture(QSize size)
     {
@@ -58,6 +65,8 @@ public:
         return image;
     }
 
+    StageData::Boxes attack{ContactBoxCode::Attack};
+    StageData::Boxes collision{ContactBoxCode::Collision};
     std::map<unsigned, Drawn> drawn;
     Drawn onionSkin;
 
@@ -71,39 +80,6 @@ protected:
                                OnionEffect) override
     {
         onionSkin = {base, offset, size};
-    }
-};
-
-/// Where things stand, found by walking back to front.
-struct PlaceModel
-{
-    GraphicsRendererPrivate& scene;
-
-    int zoomed(int length) const { return qRound(float(length) * scene.zoom); }
-
-    QPoint place(bool isSprite, unsigned index, std::set<std::pair<bool, unsigned>> met) const
-    {
-        if (index >= (isSprite ? unsigned(scene.spriteItems.size()) : 3U)) {
-            return {};
-        }
-        const SpriteItem sprite = isSprite ? scene.spriteItems.at(int(index)) : SpriteItem();
-        const Cross cross = isSprite ? Cross() : scene.crosses[index];
-        const QPoint own = isSprite ? QPoint(int(sprite.position.x() * sprite.scale.x()),
-                                             int(sprite.position.y() * sprite.scale.y()))
-                                    : cross.position;
-        const int mode = (isSprite ? sprite.mode : cross.mode) & 0xf3;
-        const unsigned parent = isSprite ? sprite.parent : cross.parent;
-        if (mode == 0 || !met.insert({isSprite, index}).second) {
-            return own;
-        }
-        return QPoint(zoomed(own.x()), zoomed(own.y())) + anchor(mode, parent, met);
-    }
-
-    QPoint anchor(int mode, unsigned parent, const std::set<std::pair<bool, unsigned>>& met) const
-    {
-        return mode == 1                ? GraphicsRendererPrivate::m_origin
-               : mode == 2 || mode == 3 ? place(mode == 3, parent, met)
-                                        : QPoint();
     }
 };
 
@@ -139,14 +115,10 @@ class tst_StageScene : public QObject
     Q_OBJECT
 
 private slots:
-    void rounding_data();
-    void rounding();
     void placesFollowParents();
-    void parentsTakeThePlaceOfWhatIsFixed();
     void extremesStayBounded();
     void zoomLevels_data();
     void zoomLevels();
-    void absoluteThingsFollowTheZoom_data();
     void absoluteThingsFollowTheZoom();
     void providerIsFollowed();
     void selectionOutlivesEqualBoxes();
@@ -157,148 +129,88 @@ private slots:
     void ticksTellModelUnits();
     void rulersAreDrawn();
     void pictureStandsAtTheOrigin();
-    void picturesOfTheLibrary_data();
     void picturesOfTheLibrary();
     void crossesMarkTheirPoint();
-    void anyWidgetIsDrawn();
 };
-
-void tst_StageScene::rounding_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("rounded");
-    QTest::addColumn<int>("truncated");
-    QTest::newRow("half") << 2.5 << 3 << 2;
-    QTest::newRow("minus half") << -2.5 << -2 << -2;
-    QTest::newRow("not a number") << NotANumber << 0 << 0;
-    QTest::newRow("infinite") << HUGE_VAL << Most << Most;
-    QTest::newRow("minus infinite") << -HUGE_VAL << Least << Least;
-    QTest::newRow("past the end") << 2147483648.0 << Most << Most;
-    QTest::newRow("before the start") << -2147483649.0 << Least << Least;
-}
-
-void tst_StageScene::rounding()
-{
-    QFETCH(double, value);
-    QTEST(roundedInt(value), "rounded");
-    QTEST(roundedInt(float(value)), "rounded");
-    QTEST(truncatedInt(value), "truncated");
-}
 
 void tst_StageScene::placesFollowParents()
 {
     qInfo("seed %u", Seed);
     QRandomGenerator random(Seed);
     for (int round = 0; round < 2000; ++round) {
-        Stage stage;
-        GraphicsRendererPrivate& scene = stage.scene();
-        const auto mode = [&] {
-            const int anchor = random.bounded(12);  // most of them have parents
-            return static_cast<unsigned char>((anchor < 4 ? anchor : 2 + anchor % 2) |
-                                              random.bounded(4) << 2);
-        };
-        const auto parent = [&] { return static_cast<unsigned short>(random.bounded(8)); };
-        for (Cross& cross : scene.crosses) {
-            cross = {true, mode(), static_cast<unsigned short>(parent() / 2),
-                     randomPoint(random, 50)};
-        }
+        Scene model = randomScene(random);
         StageData::Provider provider;
-        provider.rows.resize(7);
+        for (const PlainItem& item : model.sprites) {
+            provider.rows.append(item.row());
+        }
+        Stage stage;
+        stage.setZoomTable(model.table);
+        stage.setZoomLevel(model.level);
+        stage.setOrigin(model.origin);
         stage.setSprites(&provider);
-        for (SpriteItem& item : scene.spriteItems) {
-            item.mode = mode();
-            item.parent = parent();
-            item.position = randomPoint(random, 50);
-            item.scale = QPointF(random.generateDouble() * 6 - 3, random.generateDouble() * 6 - 3);
-            item.size = QSize(random.bounded(40), random.bounded(40));
-            item.layer = random.bounded(4) == 0 ? 1 : 0;
+        model.zoom = stage.zoom();
+        for (int i = 0; i < 3; ++i) {
+            const auto type = GraphicsRenderer::ItemType(i);
+            const StageCross& cross = model.crosses[i];
+            stage.setItemPosition(type, cross.position, 0);
+            stage.setItemPositionMode(type, uchar(cross.mode), unsigned(cross.parent), 0);
         }
-        stage.setZoomTable(static_cast<unsigned char>(random.bounded(2)));
-        stage.setZoomLevel(static_cast<unsigned char>(random.bounded(ZoomLevels)));
-        stage.setOrigin(randomPoint(random, 500));
         stage.picture({8, 8});
-
-        const PlaceModel model{scene};
-        for (unsigned cross = 0; cross < 3; ++cross) {
-            QCOMPARE(scene.calcPos(GraphicsRenderer::ItemType(cross), 0),
-                     model.place(false, cross, {}));
+        QCOMPARE(stage.drawn.size(), size_t(model.sprites.size()));
+        for (const auto& [number, drawn] : stage.drawn) {
+            const int index = int(number);
+            const PlainItem& item = model.sprites.at(index);
+            QCOMPARE(drawn.base, model.anchor(item.mode, item.parent, {3 + index}));
+            QCOMPARE(drawn.base + drawn.offset, model.place(3 + index, {}));
+            QCOMPARE(drawn.size.height(), model.scaled(int(item.size.height() * item.scale.y())));
         }
-        for (unsigned index = 0; index < unsigned(scene.spriteItems.size()); ++index) {
-            const SpriteItem& item = scene.spriteItems.at(int(index));
-            const QPoint place = model.place(true, index, {});
-            QCOMPARE(scene.calcPos(GraphicsRenderer::SpriteType, index), place);
-            // What is drawn stands there, too, and turns about its anchor.
-            QCOMPARE(stage.drawn.count(index), size_t(item.layer == 0 ? 1 : 0));
-            if (item.layer == 0) {
-                const Drawn& drawn = stage.drawn[index];
-                QCOMPARE(drawn.base, model.anchor(item.mode & 0xf3, item.parent, {{true, index}}));
-                QCOMPARE(drawn.base + drawn.offset, place);
-                QCOMPARE(drawn.size.width(), model.zoomed(int(item.size.width() * item.scale.x())));
-            }
-        }
-        QCOMPARE(scene.anchorOf(14, 9), QPoint());
-        QCOMPARE(scene.anchorOf(14, 1), model.place(false, 1, {}));
     }
-}
-
-void tst_StageScene::parentsTakeThePlaceOfWhatIsFixed()
-{
-    Stage stage;
-    stage.scene().spriteItems.resize(3);
-    const auto parent = [&stage](unsigned char mode, unsigned index) {
-        auto element = GraphicsRenderer::ContactBoxElement;
-        stage.scene().posFromMode(mode, {}, index, &element);
-        return element;
-    };
-    QCOMPARE(parent(AbsoluteAnchor, 1), GraphicsRenderer::StageElement);
-    QCOMPARE(parent(OriginAnchor, 1), GraphicsRenderer::StageElement);
-    QCOMPARE(parent(CrossAnchor, 2), GraphicsRenderer::ExtraCrossElement);
-    QCOMPARE(parent(CrossAnchor, 3), GraphicsRenderer::StageElement);
-    QCOMPARE(parent(SpriteAnchor, 3), GraphicsRenderer::StageElement);
-    QCOMPARE(parent(SpriteAnchor, 2), GraphicsRenderer::SpriteElement);
-    QCOMPARE(stage.scene().itemIndex, 2);
 }
 
 void tst_StageScene::extremesStayBounded()
 {
+    QCOMPARE(roundedInt(NotANumber), 0);
+    QCOMPARE(roundedInt(2147483648.0), Most);
+    QCOMPARE(roundedInt(-HUGE_VALF), Least);
+    QCOMPARE(truncatedInt(-2.5), -2);
+
     Stage stage;
-    GraphicsRendererPrivate& scene = stage.scene();
     StageData::Provider provider;
     for (const double scale : {NotANumber, HUGE_VAL, -HUGE_VAL, 1e300, -1e300, 1.0}) {
-        for (const QPoint& point : {QPoint(Most, Least), QPoint(Least, Most)}) {
-            for (const int mode : {AbsoluteAnchor, OriginAnchor, CrossAnchor, SpriteAnchor}) {
-                provider.rows.append(
-                    {nullptr,
-                     {point, mode, 0, QSize(Most, Least), QPointF(scale, scale), 3, scale}});
-            }
+        for (const int mode : {0, 1, 2, 3}) {
+            const QPoint place = mode % 2 == 0 ? QPoint(Most, Least) : QPoint(Least, Most);
+            provider.rows.append(
+                {nullptr,
+                 {place, mode, mode, QSize(Most, Least), QPointF(scale, scale), 3, scale, 0}});
         }
     }
-    StageData::Boxes boxes(ContactBoxCode::Attack);
-    boxes.add(QRect(QPoint(Least, Least), QPoint(Most, Most)));
-    boxes.add(QRect(QPoint(Most, Most), QPoint(Most, Most)));
-    stage.setContactBoxes(ContactBoxCode::Attack, &boxes);
-    stage.setVisibility(true, true, true, true, true, true, true);
     stage.setSprites(&provider);
+    stage.attack.add(QRect(QPoint(Least, Least), QPoint(Most, Most)));
+    stage.attack.add(QRect(QPoint(Most, Most), QPoint(Most, Most)));
+    stage.showBoxes();
+    stage.setVisibility(true, true, true, true, true, true, true);
     stage.setZoomTable(1);
-    for (const QPoint& origin : {QPoint(Most, Least), QPoint(Least, Most)}) {
+    stage.setItemPositionMode(GraphicsRenderer::SecondaryCross, 12, 0, 0);  // absolute
+    stage.scene().hasSelection = true;
+    for (const QPoint& origin : {QPoint(0, 0), QPoint(Most, Least), QPoint(Least, Most)}) {
         stage.setOrigin(origin);
         stage.setGuideLines(origin);
-        for (const auto cross : {GraphicsRenderer::MainCross, GraphicsRenderer::SecondaryCross}) {
-            stage.setItemPosition(cross, origin, 0);
-            stage.setItemPositionMode(cross, cross == GraphicsRenderer::MainCross ? 12 : 13, 0, 0);
-        }
-        for (int level = 0; level < ZoomLevels; ++level) {
-            stage.setZoomLevel(static_cast<unsigned char>(level));
-            stage.picture({40, 40});
+        stage.setItemPosition(GraphicsRenderer::SecondaryCross, origin, 0);
+        for (int level = 0; level < 4 * ZoomLevels; ++level) {
+            stage.setZoomLevel(uchar(level % ZoomLevels));
+            const QSize size(level % 4 < 2 ? 1 : 40, level % 4 % 2 == 0 ? 1 : 40);
+            const QImage image = stage.picture(size);
+            QVERIFY(image.pixel(size.width() - 1, size.height() - 1) != qRgb(0, 255, 0));
             for (const auto& [index, drawn] : stage.drawn) {
                 QVERIFY(std::abs(drawn.base.x()) <= StageLimit);
                 QVERIFY(std::abs(drawn.offset.y()) <= StageLimit);
-                QVERIFY(std::isfinite(scene.spriteItems.at(int(index)).rotation));
+                QVERIFY(std::isfinite(stage.scene().spriteItems.at(int(index)).rotation));
             }
         }
     }
-    QCOMPARE(scene.contactBoxes[0].items.at(0).rect(), boxes.at(0)->rect());
-    QCOMPARE(scene.contactBoxes[0].items.at(1).rect(), boxes.at(1)->rect());
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(stage.scene().contactBoxes[0].items.at(i).rect(), stage.attack.at(i)->rect());
+    }
 }
 
 void tst_StageScene::zoomLevels_data()
@@ -347,70 +259,60 @@ void tst_StageScene::zoomLevels()
     QTEST(stage.zoom(), "zoom");
 }
 
-void tst_StageScene::absoluteThingsFollowTheZoom_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QPoint>("middle");
-    QTest::newRow("origin") << int(GraphicsRenderer::ZoomAboutOrigin) << QPoint(30, 70);
-    QTest::newRow("widget") << int(GraphicsRenderer::ZoomAboutCenter) << QPoint(100, 50);
-}
-
 void tst_StageScene::absoluteThingsFollowTheZoom()
 {
-    QFETCH(int, mode);
-    QFETCH(QPoint, middle);
-    Stage stage;
-    stage.sizeChanged(201, 101);
-    stage.setZoomMode(GraphicsRenderer::ZoomMode(mode));
-    stage.setZoomTable(1);
-    stage.zoomActual();
-    stage.setOrigin({30, 70});
-    GraphicsRendererPrivate& scene = stage.scene();
-    StageData::Boxes boxes(ContactBoxCode::Collision);
-    boxes.add(QRect(40, 60, 7, 9));
-    stage.setContactBoxes(ContactBoxCode::Collision, &boxes);
-    stage.setItemPositionMode(GraphicsRenderer::ContactBoxesType, AbsoluteAnchor, 0, 0);
-    stage.setItemPositionMode(GraphicsRenderer::MainCross, AbsoluteAnchor, 0, 0);
-    stage.setItemPosition(GraphicsRenderer::MainCross, {130, 20}, 0);
-    stage.setItemPosition(GraphicsRenderer::ExtraCross, {130, 20}, 0);
-    scene.spriteItems.resize(1);
-    scene.spriteItems[0].position = {130, 20};
+    for (const bool isAboutOrigin : {false, true}) {
+        Stage stage;
+        stage.sizeChanged(201, 101);
+        stage.setZoomMode(isAboutOrigin ? GraphicsRenderer::ZoomAboutOrigin
+                                        : GraphicsRenderer::ZoomAboutCenter);
+        stage.setZoomTable(1);
+        stage.zoomActual();
+        stage.setOrigin({30, 70});
+        stage.showBoxes();
+        StageData::Provider provider;
+        provider.rows.append({nullptr, {QPoint(130, 20)}});
+        stage.setSprites(&provider);
+        for (const auto type : {GraphicsRenderer::ContactBoxesType, GraphicsRenderer::MainCross}) {
+            stage.setItemPositionMode(type, 0, 0, 0);
+            stage.setItemPosition(type, {130, 20}, 0);
+        }
+        stage.setItemPosition(GraphicsRenderer::ExtraCross, {130, 20}, 0);
 
-    const QPoint distance = QPoint(130, 20) - middle;
-    for (const int level : {5, 0, 11, 3, 2}) {
-        stage.setZoomLevel(static_cast<unsigned char>(level));
-        const QPointF expected = middle + QPointF(distance) * double(stage.zoom());
-        const QPoint cross = stage.itemPosition(GraphicsRenderer::MainCross, 0);
-        // It drifts by what was rounded away at a quarter, no more.
-        QVERIFY((cross - expected).manhattanLength() <= 4 * double(std::max(stage.zoom(), 1.0F)));
-        QCOMPARE(stage.itemPosition(GraphicsRenderer::SpriteType, 0), cross);
-        QCOMPARE(stage.itemPosition(GraphicsRenderer::ExtraCross, 0), QPoint(130, 20));
-        QCOMPARE(stage.origin(), QPoint(30, 70));
-        const ContactItem& item = scene.contactBoxes[1].items.at(0);
-        QVERIFY(std::abs(item.x - (middle.x() + (40 - middle.x()) * double(stage.zoom()))) < 1e-4);
-        QCOMPARE(item.width, 7.0);
+        const QPoint middle = isAboutOrigin ? QPoint(30, 70) : QPoint(100, 50);
+        for (const int level : {5, 0, 11, 3, 2}) {
+            stage.setZoomLevel(uchar(level));
+            const auto zoom = double(stage.zoom());
+            const QPointF expected = middle + QPointF(QPoint(130, 20) - middle) * zoom;
+            const QPoint cross = stage.itemPosition(GraphicsRenderer::MainCross, 0);
+            // It drifts by what was rounded away at a quarter, no more.
+            QVERIFY((cross - expected).manhattanLength() <= 4 * std::max(zoom, 1.0));
+            QCOMPARE(stage.itemPosition(GraphicsRenderer::SpriteType, 0), cross);
+            QCOMPARE(stage.itemPosition(GraphicsRenderer::ExtraCross, 0), QPoint(130, 20));
+            QCOMPARE(stage.origin(), QPoint(30, 70));
+            const ContactItem& box = stage.scene().contactBoxes[1].items.at(0);
+            QVERIFY(std::abs(box.x - middle.x() * (1 - zoom)) < 1e-4);
+            QCOMPARE(box.width, 20.0);
+        }
     }
 }
 
 void tst_StageScene::providerIsFollowed()
 {
-    StageData::Sprite first;
-    StageData::Sprite second;
+    StageData::Sprite sprites[2];
     auto provider = std::make_unique<StageData::Provider>();
-    const QVariantList values{QPoint(3, 4), 9, 1, QSize(5, 6), QPointF(2, 3), 2, 45.0, 0};
-    provider->rows = {{&first, values.toVector()}, {&second, {}}, {&first, {}}};
+    provider->rows = {{&sprites[0], {QPoint(3, 4), 9, 1, QSize(5, 6), QPointF(2, 3), 2, 45.0, 0}},
+                      {&sprites[1], {}},
+                      {&sprites[0], {}}};
     Stage stage;
     stage.setSprites(provider.get());
-    QCOMPARE(stage.indexOfItem(GraphicsRenderer::SpriteType, &first), 0);
-    QCOMPARE(stage.indexOfItem(GraphicsRenderer::SpriteType, &second), 1);
+    QCOMPARE(stage.indexOfItem(GraphicsRenderer::SpriteType, &sprites[0]), 0);
+    QCOMPARE(stage.indexOfItem(GraphicsRenderer::SpriteType, &sprites[1]), 1);
     const SpriteItem item = stage.scene().spriteItems.at(0);
-    QCOMPARE(item.position, QPoint(3, 4));
-    QCOMPARE(int(item.mode), 9);
-    QCOMPARE(int(item.parent), 1);
+    QCOMPARE(QPoint(item.mode, item.parent), QPoint(9, 1));
     QCOMPARE(item.size, QSize(5, 6));
     QCOMPARE(item.scale, QPointF(2, 3));
-    QCOMPARE(int(item.flip), 2);
-    QCOMPARE(item.rotation, 45.0F);
+    QCOMPARE(QPointF(item.flip, double(item.rotation)), QPointF(2, 45));
 
     provider->rows[0].values[0] = QPoint(8, 8);
     provider->rows[1].values = {QPoint(9, 9)};
@@ -420,7 +322,7 @@ void tst_StageScene::providerIsFollowed()
     provider->rows.removeFirst();
     emit provider->changedAt(2);  // no longer there
     emit provider->changed();
-    QCOMPARE(stage.indexOfItem(GraphicsRenderer::SpriteType, &second), 0);
+    QCOMPARE(stage.indexOfItem(GraphicsRenderer::SpriteType, &sprites[1]), 0);
     QCOMPARE(stage.scene().spriteItems.size(), 2);
 
     StageData::Provider other;
@@ -438,37 +340,29 @@ void tst_StageScene::selectionOutlivesEqualBoxes()
 {
     Stage stage;
     GraphicsRendererPrivate& scene = stage.scene();
-    StageData::Boxes attack(ContactBoxCode::Attack);
-    StageData::Boxes collision(ContactBoxCode::Collision);
-    for (int i = 0; i < 3; ++i) {
-        attack.add(QRect(10 * i, 0, 5, 5));
-        collision.add(QRect(10 * i, 100, 5, 5));
+    stage.attack.add(QRect(10, 0, 5, 5));
+    stage.collision.add(QRect(20, 100, 5, 5));
+    stage.showBoxes();
+    for (ContactBoxes* boxes : {&scene.contactBoxes[0], &scene.contactBoxes[1]}) {
+        boxes->items[0].selected = boxes == &scene.contactBoxes[0];
+        boxes->items[1].selected = true;
     }
-    const auto show = [&] {
-        stage.setContactBoxes(ContactBoxCode::Attack, &attack);
-        stage.setContactBoxes(ContactBoxCode::Collision, &collision);
-    };
-    show();
-    scene.contactBoxes[0].items[0].selected = true;
-    scene.contactBoxes[0].items[1].selected = true;
-    scene.contactBoxes[1].items[2].selected = true;
-    attack.at(1)->setRect(QRect(50, 50, 5, 5));
-    show();
+    stage.attack.at(1)->setRect(QRect(50, 50, 5, 5));
+    stage.showBoxes();
     QVERIFY(scene.contactBoxes[0].items.at(0).selected);
     QVERIFY(!scene.contactBoxes[0].items.at(1).selected);
     QCOMPARE(scene.contactBoxes[0].items.at(1).rect(), QRect(50, 50, 5, 5));
     QVERIFY(scene.hasSelection);
-    QCOMPARE(scene.selectionRect, QRect(0, 0, 5, 5) | QRect(20, 100, 5, 5));
+    QCOMPARE(scene.selectionRect, QRect(0, 0, 20, 20) | QRect(20, 100, 5, 5));
 
-    // A second list alone adds to what is selected, the first begins anew.
-    collision.remove(2);
-    stage.setContactBoxes(ContactBoxCode::Collision, &collision);
+    // The second list alone adds to what is selected, the first begins anew.
+    stage.collision.remove(1);
+    stage.setContactBoxes(ContactBoxCode::Collision, &stage.collision);
     QVERIFY(scene.hasSelection);
     stage.setContactBoxes(ContactBoxCode::Attack, nullptr);
-    QVERIFY(!scene.hasSelection);
-    QVERIFY(!scene.selectionRect.isValid());
+    QVERIFY(!scene.hasSelection && !scene.selectionRect.isValid());
     QCOMPARE(stage.boxes(ContactBoxCode::Attack), nullptr);
-    QCOMPARE(stage.boxes(ContactBoxCode::Collision), &collision);
+    QCOMPARE(stage.boxes(ContactBoxCode::Collision), &stage.collision);
 }
 
 void tst_StageScene::onionSkinIsAboutTheMainCross()
@@ -494,25 +388,22 @@ void tst_StageScene::boxesAreDrawn()
     QRandomGenerator random(Seed);
     for (int round = 0; round < 60; ++round) {
         Stage stage;
-        stage.setupContactBoxes(Qt::red, Qt::blue, 0);  // nothing inside
-        StageData::Boxes attack(ContactBoxCode::Attack);
-        StageData::Boxes collision(ContactBoxCode::Collision);
-        QVector<QRect> rects[2];
+        QVector<QRect> rects[2] = {{stage.attack.at(0)->rect()}, {stage.collision.at(0)->rect()}};
         for (int i = 0; i < 12; ++i) {
             const QRect rect(randomPoint(random, 40),
                              QSize(random.bounded(1, 30), random.bounded(1, 30)));
             rects[i % 2].append(rect);
-            (i % 2 == 0 ? attack : collision).add(rect);
+            (i % 2 == 0 ? stage.attack : stage.collision).add(rect);
         }
-        stage.setContactBoxes(ContactBoxCode::Attack, &attack);
-        stage.setContactBoxes(ContactBoxCode::Collision, &collision);
-        stage.setZoomTable(static_cast<unsigned char>(round % 2));
-        stage.setZoomLevel(static_cast<unsigned char>(2 + random.bounded(10)));
+        stage.showBoxes();
+        stage.setZoomTable(uchar(round % 2));
+        stage.setZoomLevel(uchar(2 + random.bounded(10)));
         stage.setOrigin({40, 45});
         stage.setItemPosition(GraphicsRenderer::MainCross, {2, 3}, 0);
         QImage expected(80, 90, QImage::Format_ARGB32_Premultiplied);
         expected.fill(Qt::black);
-        const QPoint anchor = stage.scene().calcPos(GraphicsRenderer::MainCross, 0);
+        const QPoint anchor =
+            QPoint(40, 45) + QPoint(qRound(2 * stage.zoom()), qRound(3 * stage.zoom()));
         drawPlainly(expected, rects[1], qRgb(0, 0, 255), anchor, stage.zoom());
         drawPlainly(expected, rects[0], qRgb(255, 0, 0), anchor, stage.zoom());
         QCOMPARE(stage.picture(expected.size()), expected);
@@ -522,10 +413,10 @@ void tst_StageScene::boxesAreDrawn()
 void tst_StageScene::insideShinesThrough()
 {
     Stage stage;
-    StageData::Boxes attack(ContactBoxCode::Attack);
-    attack.add(QRect(0, 0, 20, 20));
-    stage.setContactBoxes(ContactBoxCode::Attack, &attack);
+    stage.showBoxes();
+    stage.setItemPositionMode(GraphicsRenderer::MainCross, 1, 0, 0);
     stage.setupContactBoxes(Qt::white, Qt::blue, 0.5F);
+    stage.setVisibility(false, false, false, true, false, false, false);
     const QImage plain = stage.picture({20, 20});
     QVERIFY(std::abs(qRed(plain.pixel(10, 10)) - 64) <= 1);  // half of the half
     stage.scene().contactBoxes[0].items[0].selected = true;
@@ -535,8 +426,6 @@ void tst_StageScene::insideShinesThrough()
         marks += marked.pixel(x, 10) != plain.pixel(x, 10) ? 1 : 0;
     }
     QVERIFY(marks > 0 && marks < 18);
-    stage.setVisibility(false, false, false, false, true, false, false);
-    QCOMPARE(stage.picture({20, 20}).pixel(0, 0), qRgb(0, 0, 0));
 }
 
 void tst_StageScene::guidesAreDrawn()
@@ -581,11 +470,9 @@ void tst_StageScene::ticksTellModelUnits()
         for (const RulerTicks::Label& label : ticks.labels) {
             QCOMPARE((label.place - origin) / ticks.step * units, int(label.value));
             QCOMPARE(label.value % (5 * units), 0);
+            QVERIFY(label.place != places.first());
         }
-        const int labelled = places.isEmpty() || ticks.large.isEmpty()
-                                 ? 0
-                                 : ticks.large.size() - (ticks.large[0] == places.first() ? 1 : 0);
-        QCOMPARE(ticks.labels.size(), labelled);
+        QVERIFY(ticks.large.size() - ticks.labels.size() <= 1);
     }
 }
 
@@ -636,33 +523,32 @@ void tst_StageScene::pictureStandsAtTheOrigin()
     QCOMPARE(stage.picture({50, 40}).pixel(20, 15), qRgb(0, 0, 0));
 }
 
-void tst_StageScene::picturesOfTheLibrary_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QPoint>("position");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("240") << 639 << QPoint(-212, -206) << QSize(424, 240);
-    QTest::newRow("480") << 640 << QPoint(-424, -414) << QSize(848, 480);
-    QTest::newRow("720") << 1280 << QPoint(-638, -622) << QSize(1280, 720);
-    QTest::newRow("1080") << 1920 << QPoint(-958, -935) << QSize(1920, 1080);
-}
-
 void tst_StageScene::picturesOfTheLibrary()
 {
-    QFETCH(int, width);
-    QFETCH(QPoint, position);
+    const struct
+    {
+        int width;
+        QPoint position;
+        QSize size;
+    } rows[] = {{639, {-212, -206}, {424, 240}},
+                {640, {-424, -414}, {848, 480}},
+                {1280, {-638, -622}, {1280, 720}},
+                {1920, {-958, -935}, {1920, 1080}}};
     Stage stage;
-    stage.setBackground(Qt::black, Qt::black, GraphicsRenderer::ResolutionBackground, {1, 1}, {},
-                        {width, 1});
-    const Background& ground = GraphicsRendererPrivate::background();
-    QCOMPARE(ground.position, position);
-    QTEST(ground.image.size(), "size");
-    // The floor is drawn where the ground of the game is, and the middle where its middle is.
-    const QImage image = ground.image.toImage();
-    const QPoint zero = -position;
-    QVERIFY(qAlpha(image.pixel(5, zero.y())) > qAlpha(image.pixel(5, zero.y() - 1)));
-    QVERIFY(qAlpha(image.pixel(5, zero.y())) > qAlpha(image.pixel(5, zero.y() + 1)));
-    QVERIFY(qAlpha(image.pixel(zero.x(), 5)) > qAlpha(image.pixel(zero.x() - 1, 5)));
+    for (const auto& row : rows) {
+        stage.setBackground(Qt::black, Qt::black, GraphicsRenderer::ResolutionBackground, {1, 1},
+                            {}, {row.width, 1});
+        const Background& ground = GraphicsRendererPrivate::background();
+        QCOMPARE(ground.position, row.position);
+        QCOMPARE(ground.image.size(), row.size);
+        // The floor is drawn where the ground of the game is, and the middle where its middle is.
+        const QImage image = ground.image.toImage();
+        const QPoint zero = -row.position;
+        const int floor = qAlpha(image.pixel(5, zero.y()));
+        QVERIFY(floor > qAlpha(image.pixel(5, zero.y() - 1)));
+        QVERIFY(floor > qAlpha(image.pixel(5, zero.y() + 1)));
+        QVERIFY(qAlpha(image.pixel(zero.x(), 5)) > qAlpha(image.pixel(zero.x() - 1, 5)));
+    }
 }
 
 void tst_StageScene::crossesMarkTheirPoint()
@@ -690,24 +576,6 @@ void tst_StageScene::crossesMarkTheirPoint()
     const QSize small = stage.scene().crossImage(Cross::Main).size();
     stage.setCrossHair(GraphicsRenderer::FileCrosses, QStringLiteral("missing"), {}, {});
     QCOMPARE(stage.scene().crossImage(Cross::Main).size(), small);
-}
-
-void tst_StageScene::anyWidgetIsDrawn()
-{
-    Stage stage;
-    stage.setVisibility(true, true, true, true, true, true, true);
-    StageData::Boxes attack(ContactBoxCode::Attack);
-    attack.add(QRect(0, 0, 20, 20));
-    stage.setContactBoxes(ContactBoxCode::Attack, &attack);
-    stage.scene().hasSelection = true;
-    for (const QSize& size : {QSize(1, 1), QSize(31, 1), QSize(1, 31), QSize(35, 35)}) {
-        for (int level = 0; level < ZoomLevels; ++level) {
-            stage.setZoomLevel(static_cast<unsigned char>(level));
-            const QImage image = stage.picture(size);
-            QVERIFY(image.pixel(0, 0) != qRgb(0, 255, 0));
-            QVERIFY(image.pixel(size.width() - 1, size.height() - 1) != qRgb(0, 255, 0));
-        }
-    }
 }
 
 QTEST_MAIN(tst_StageScene)

@@ -10,6 +10,49 @@ namespace Zorv {
 
 namespace {
 
+/// Rectangles of two colours, drawn in their order but all at once, as pieces of one picture: by
+/// itself each would cost the painter of GL more than a sprite.
+class RectBatch
+{
+public:
+    enum Color { Inside, Border };
+
+    RectBatch(QPainter& painter, const QRect& visible, const QColor& inside, const QColor& border)
+        : m_painter(painter), m_visible(visible)
+    {
+        // Three pixels each, of which the middle one is used: no neighbour shines in.
+        QImage image(6, 3, QImage::Format_ARGB32);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                image.setPixelColor(x, y, x < image.width() / 2 ? inside : border);
+            }
+        }
+        m_colors = QPixmap::fromImage(image);
+    }
+
+    void add(const QRect& rect, Color color, double opacity)
+    {
+        const QRect part = rect & m_visible;
+        if (!part.isEmpty()) {
+            m_rects.append(QPainter::PixmapFragment::create(
+                QRectF(part).center(), QRectF(color == Inside ? 1 : 4, 1, 1, 1), part.width(),
+                part.height(), 0, opacity));
+        }
+    }
+
+    void draw()
+    {
+        m_painter.drawPixmapFragments(m_rects.constData(), m_rects.size(), m_colors);
+        m_rects.clear();
+    }
+
+private:
+    QPainter& m_painter;
+    QRect m_visible;
+    QPixmap m_colors;
+    QVector<QPainter::PixmapFragment> m_rects;
+};
+
 /// The four sides of a box, `thickness` wide and within it. They do not overlap, so that a border
 /// that shines through is the same everywhere; the left one is there also when the box is narrower
 /// than a pixel.
@@ -39,29 +82,23 @@ void GraphicsRendererPrivate::renderContactBoxes(QPainter& painter, ContactBoxCo
     border = border.isValid() ? border : color;
     const QBrush marks(interior,
                        type == ContactBoxCode::Collision ? Qt::FDiagPattern : Qt::BDiagPattern);
-    QColor inside = interior;
-    inside.setAlphaF(interior.alphaF() * ContactBoxes::opacity * 0.5);
-
+    const double opacity = static_cast<double>(ContactBoxes::opacity) * 0.5;
     const int thickness = lineThickness();
     const QPoint anchor = anchorOf(contactMode, contactParent);
-    const QRect visible = visibleRect();
-    const auto fill = [&](const QRect& rect, const auto& filling) {
-        const QRect part = rect & visible;
-        if (!part.isEmpty()) {
-            painter.fillRect(part, filling);
-        }
-    };
+    RectBatch batch(painter, visibleRect(), interior, border);
     for (const ContactItem& item : boxes.items) {
         // A box that is being drawn may go to the left or up.
         const QRect box = contactRect(item, anchor).normalized();
         if (item.selected) {
-            fill(box, marks);
+            batch.draw();
+            painter.fillRect(box & visibleRect(), marks);
         }
-        fill(box.adjusted(thickness, thickness, 0, 0), inside);
+        batch.add(box.adjusted(thickness, thickness, 0, 0), RectBatch::Inside, opacity);
         for (const QRect& edge : edges(box, thickness)) {
-            fill(edge, border);
+            batch.add(edge, RectBatch::Border, 1);
         }
     }
+    batch.draw();
 }
 
 void GraphicsRendererPrivate::renderContactBoxSizers(QPainter& painter)
