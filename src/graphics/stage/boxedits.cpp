@@ -51,10 +51,10 @@ void apply(const BoxEdit& edit, const ListInText& list)
 {
     ContactBoxesCode* code = list.get();
     ContactBoxCode* box = code ? code->at(edit.index) : nullptr;
-    if (box && edit.rect.isNull()) {
-        code->remove(edit.index);
+    if (box && edit.rect) {
+        box->setRect(*edit.rect);
     } else if (box) {
-        box->setRect(edit.rect);
+        code->remove(edit.index);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <QVector>
 
 #include <array>
+#include <optional>
 
 class QString;
 
@@ -17,7 +18,7 @@ class CodeDocument;
 struct BoxEdit
 {
     int index;
-    QRect rect;
+    std::optional<QRect> rect;
 };
 
 /// Edits of every list, each in the order in which they are done.

@@ -181,7 +181,7 @@ void GraphicsRenderer::removeSelectedContactBoxes()
         for (int i = boxes.items.size() - 1; i >= 0; --i) {
             const ContactItem& item = boxes.items.at(i);
             if (item.selected && boxes.code.box(i, item.box)) {
-                edits[list].append({i, QRect()});
+                edits[list].append({i, std::nullopt});
             }
         }
         const auto isSelected = [](const ContactItem& item) { return item.selected; };

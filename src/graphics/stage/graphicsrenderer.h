@@ -122,9 +122,9 @@ public:
     void setupContactBoxes(QColor first, QColor second, float opacity);
 
     /// Shows the boxes of a kind; null shows none. To be called again after every change of the
-    /// text: boxes that are selected stay so if their rectangle is still the same. Not owned. A list
-    /// whose frame has been read anew, or whose document has gone, is known to be gone: its boxes
-    /// are still shown, and changed no more.
+    /// text: boxes that are selected stay so if their rectangle is still the same. Not owned. A
+    /// list whose frame has been read anew, or whose document has gone, is known to be gone: its
+    /// boxes are still shown, and changed no more.
     void setContactBoxes(ContactBoxCode::BoxType type, ContactBoxesCode* code);
 
     /// The list that was set, null once it is gone.
@@ -180,8 +180,8 @@ public:
     /// @name Input
     /// @{
 
-    /// The left button moves what it presses on; a box that was just drawn becomes selected. As with
-    /// the other modes, a drag under way ends as if the button had been released.
+    /// The left button moves what it presses on; a box that was just drawn becomes selected. As
+    /// with the other modes, a drag under way ends as if the button had been released.
     void setPositioningMode();
 
     /// The left button draws boxes, until another mode is set or the right button is released.
