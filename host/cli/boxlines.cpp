@@ -116,7 +116,10 @@ QString codeOf(const char* kind, const QRect& rect)
 void BoxLines::add(const AnimationInFile& found, const AnimationBoxReport& report)
 {
     m_file = found.file;
-    writeLine(found.animation.block().blockNumber(), found.path, factsOf(report));
+    const QString name = found.animation.name();
+    writeLine(found.animation.block().blockNumber(),
+              name.isEmpty() ? found.path : QStringLiteral("%1 \"%2\"").arg(found.path, name),
+              factsOf(report));
     for (int i = 0; i < report.frames.size(); ++i) {
         const FrameBoxReport& frame = report.frames[i];
         writeLine(frame.line, QStringLiteral("  frame:%1").arg(i), factsOf(frame));

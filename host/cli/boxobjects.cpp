@@ -17,26 +17,26 @@ using Family::BoxesInFrame;
 using Family::BoxInFrame;
 using Family::FrameBoxReport;
 
-enum class Kind { Attack, Body };
-
-QJsonObject objectOf(const BoxInFrame& box, Kind kind)
+QJsonObject objectOf(const BoxInFrame& box)
 {
     QJsonObject object{
         {QStringLiteral("left"), box.rect.left()},   {QStringLiteral("top"), box.rect.top()},
         {QStringLiteral("right"), box.rect.right()}, {QStringLiteral("bottom"), box.rect.bottom()},
         {QStringLiteral("line"), box.line + 1},      {QStringLiteral("stays"), box.stays}};
-    if (kind == Kind::Attack) {
+    if (box.inBody >= 0) {
         object.insert(QStringLiteral("inBody"), box.inBody);
+    }
+    if (box.inNextBody >= 0) {
         object.insert(QStringLiteral("inNextBody"), box.inNextBody);
     }
     return object;
 }
 
-QJsonArray arrayOf(const BoxesInFrame& list, Kind kind)
+QJsonArray arrayOf(const BoxesInFrame& list)
 {
     QJsonArray array;
     for (const BoxInFrame& box : list.boxes) {
-        array.append(objectOf(box, kind));
+        array.append(objectOf(box));
     }
     return array;
 }
@@ -72,8 +72,8 @@ QJsonObject objectOf(int index, const FrameBoxReport& frame)
                        {QStringLiteral("tick"), frame.tick},
                        {QStringLiteral("delay"), frame.delay},
                        {QStringLiteral("shown"), frame.isShown},
-                       {QStringLiteral("attack"), arrayOf(frame.attack, Kind::Attack)},
-                       {QStringLiteral("body"), arrayOf(frame.body, Kind::Body)},
+                       {QStringLiteral("attack"), arrayOf(frame.attack)},
+                       {QStringLiteral("body"), arrayOf(frame.body)},
                        {QStringLiteral("attackArea"), frame.attack.area},
                        {QStringLiteral("bodyArea"), frame.body.area},
                        {QStringLiteral("attackInBody"), frame.attackInBody}};

@@ -7,6 +7,7 @@
 #include "stage/frameticks.h"
 
 #include <algorithm>
+#include <limits>
 #include <set>
 #include <tuple>
 
@@ -15,6 +16,9 @@ namespace Family {
 namespace {
 
 using Zorv::ContactBoxCode;
+
+constexpr int MostComparedBoxes = 200;
+constexpr int MostTicks = std::numeric_limits<int>::max();
 
 BoxesInFrame boxesOf(const FrameNode& frame, ContactBoxCode::BoxType type)
 {
@@ -51,6 +55,19 @@ qint64 areaInside(const QRect& place, const QVector<QRect>& rects)
     return coveredArea(parts);
 }
 
+/// What of each attack box the body boxes cover. Boxes are compared with each other, so that very
+/// many are left alone.
+void compareWithBody(const BoxesInFrame& body, BoxesInFrame* attack, qint64 BoxInFrame::*result)
+{
+    if (std::max(attack->boxes.size(), body.boxes.size()) > MostComparedBoxes) {
+        return;
+    }
+    const QVector<QRect> rects = rectsOf(body);
+    for (BoxInFrame& box : attack->boxes) {
+        box.*result = areaInside(box.rect, rects);
+    }
+}
+
 struct RectOrder
 {
     bool operator()(const QRect& a, const QRect& b) const { return key(a) < key(b); }
@@ -76,11 +93,8 @@ void compareWithNext(FrameBoxReport* frame, const FrameBoxReport& next)
 {
     compareWithNext(&frame->attack, next.attack);
     compareWithNext(&frame->body, next.body);
-    const QVector<QRect> nextBody = rectsOf(next.body);
-    frame->attackInNextBody = sharedArea(rectsOf(frame->attack), nextBody);
-    for (BoxInFrame& box : frame->attack.boxes) {
-        box.inNextBody = areaInside(box.rect, nextBody);
-    }
+    compareWithBody(next.body, &frame->attack, &BoxInFrame::inNextBody);
+    frame->attackInNextBody = sharedArea(rectsOf(frame->attack), rectsOf(next.body));
 }
 
 FrameBoxReport reportOf(const FrameNode& node)
@@ -92,13 +106,10 @@ FrameBoxReport reportOf(const FrameNode& node)
     frame.delay = node.delay();
     frame.attack = boxesOf(node, ContactBoxCode::Attack);
     frame.body = boxesOf(node, ContactBoxCode::Collision);
-    const QVector<QRect> body = rectsOf(frame.body);
-    frame.body.area = coveredArea(body);
+    compareWithBody(frame.body, &frame.attack, &BoxInFrame::inBody);
+    frame.body.area = coveredArea(rectsOf(frame.body));
     frame.attack.area = coveredArea(rectsOf(frame.attack));
-    frame.attackInBody = sharedArea(rectsOf(frame.attack), body);
-    for (BoxInFrame& box : frame.attack.boxes) {
-        box.inBody = areaInside(box.rect, body);
-    }
+    frame.attackInBody = sharedArea(rectsOf(frame.attack), rectsOf(frame.body));
     return frame;
 }
 
@@ -142,7 +153,8 @@ QVector<ActiveTime> activeTimes(const QVector<FrameBoxReport>& frames, const QVe
         isActive = true;
         ActiveTime& time = times.last();
         time.lastFrame = index;
-        time.ticks = frame.delay < 0 ? -1 : time.ticks + frame.delay;
+        const qint64 end = std::min<qint64>(qint64(frame.tick) + frame.delay, MostTicks);
+        time.ticks = frame.delay < 0 ? -1 : int(end) - time.tick;
         time.reach = std::max(time.reach, reachOf(frame));
     }
     return times;

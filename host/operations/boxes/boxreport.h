@@ -14,9 +14,9 @@ struct BoxInFrame
     int line;            ///< block number
     bool stays = false;  ///< a box of the same kind and place is in the next frame
 
-    // Of attack boxes only.
-    qint64 inBody = 0;      ///< the part that body boxes of the frame cover
-    qint64 inNextBody = 0;  ///< the part that those of the next frame cover
+    // Of attack boxes; -1 of others, and in a frame with very many boxes.
+    qint64 inBody = -1;      ///< the part that body boxes of the frame cover
+    qint64 inNextBody = -1;  ///< the part that those of the next frame cover
 };
 
 /// The boxes of one kind of a frame. What several of them cover counts once in areas.
@@ -55,8 +55,7 @@ struct ActiveTime
 /// The contact boxes of an animation, frame by frame, with what changes from one to the next.
 struct AnimationBoxReport
 {
-    /// Of the animation as it stands in the text. Takes n log n for n boxes of a frame, and the
-    /// count of attack boxes times that of body boxes.
+    /// Of the animation as it stands in the text. Takes n log n for n boxes of a frame.
     explicit AnimationBoxReport(const AnimationNode& animation);
 
     bool hasBoxes() const;
