@@ -191,6 +191,7 @@ void TestTimeLine::mouse()
     QFETCH(unsigned, start);
     QFETCH(QVector<QPoint>, way);
     widget->setCurrentTick(start);
+    widget->setFocusPolicy(Qt::NoFocus);
     widget->clearFocus();
     QSignalSpy spy(widget.data(), &TimeLineWidget::tickChanged);
     QTest::mousePress(widget, Qt::LeftButton, {}, way.first());
