@@ -157,7 +157,7 @@ void MainWindow::makeDocks()
     sprites->raise();
     QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
-    resizeDocks({messages}, {150}, Qt::Vertical);
+    resizeDocks({messages}, {100}, Qt::Vertical);
     resizeDocks({projects, sprites}, {280, 480}, Qt::Vertical);
 }
 

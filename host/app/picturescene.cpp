@@ -7,6 +7,10 @@
 #include "app/mainwindow.h"
 #include "app/messagepanel.h"
 #include "app/panelplace.h"
+#include "app/stage/stagecommands.h"
+#include "app/stage/stagerenderer.h"
+#include "app/stage/stageview.h"
+#include "code/codedoc/contactboxescode.h"
 #include "core/interface.h"
 #include "core/message.h"
 #include "core/messages.h"
@@ -185,6 +189,15 @@ void showStage(MainWindow* window, const FamilyDocument* document)
     showAttack(window, document, 3);
     for (const char* name : {"view_rulers", "anim_onion_skin"}) {
         window->actionByName(name)->trigger();
+    }
+    settleWindow();
+    StageRenderer* stage = window->stage()->view()->renderer();
+    const Zorv::ContactBoxesCode* boxes = stage->boxes(Zorv::ContactBoxCode::Attack);
+    if (boxes && boxes->count() > 0) {
+        const QPointF middle = QRectF(boxes->at(0)->rect()).center() * qreal(stage->zoom());
+        const QPoint place = stage->origin() + middle.toPoint();
+        stage->mousePressed(place, Qt::LeftButton, Qt::NoModifier);
+        stage->mouseReleased(place, Qt::LeftButton, Qt::NoModifier);
     }
 }
 

@@ -23,17 +23,18 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(App::Screenshot)
 };
 
-/// The window with the popups in front of it, which are windows of their own. A picture of a window
-/// has what GL draws of the stage, and nothing of what painters do: it is taken once more.
+/// The window with the popups in front of it, which are windows of their own. A picture of the
+/// window lacks what painters draw on the stage: that one is taken for itself, and before, for its
+/// painters have lost their gradients behind the other.
 QPixmap pictureOf(MainWindow* window)
 {
+    QOpenGLWidget* stage = window->findChild<QOpenGLWidget*>();
+    const bool hasStage = stage && stage->isVisible();
+    const QImage stageImage = hasStage ? stage->grabFramebuffer() : QImage();
     QPixmap picture = window->grab();
     QPainter painter(&picture);
-    const QList<QOpenGLWidget*> stages = window->findChildren<QOpenGLWidget*>();
-    for (QOpenGLWidget* stage : stages) {
-        if (stage->isVisible()) {
-            painter.drawImage(stage->mapTo(window, QPoint()), stage->grabFramebuffer());
-        }
+    if (hasStage) {
+        painter.drawImage(stage->mapTo(window, QPoint()), stageImage);
     }
     const QWidgetList all = QApplication::topLevelWidgets();
     for (QWidget* widget : all) {

@@ -156,8 +156,10 @@ void tst_EveryAction::opensFromTheMenus()
             missed.append(name);
         }
     }
-    // Nothing runs that could be ended.
-    QCOMPARE(missed.join(' '), QStringLiteral("stop_engine"));
+    // Nothing runs that could be ended, no box is selected, and without GL there is no stage.
+    QCOMPARE(missed.join(' '),
+             QStringLiteral("anim_box_add_attack anim_box_add_collision anim_box_del stage_capture "
+                            "view_center_origin stop_engine"));
     QVERIFY(!m->window->isVisible());
 }
 

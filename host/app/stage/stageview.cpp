@@ -18,7 +18,7 @@ namespace App {
 namespace {
 
 const QSize ButtonSize(16, 16);
-const QSize UsualSize(640, 380);
+const QSize UsualSize(640, 420);
 const QSize SmallestStage(80, 60);
 
 QLabel* makeMessage()
@@ -139,10 +139,13 @@ bool StageView::eventFilter(QObject* watched, QEvent* event)
 /// What stands on the stage stays in sight when panels move.
 void StageView::keepOrigin(QSize size)
 {
+    if (size.isEmpty()) {
+        return;
+    }
     if (m_size.isEmpty()) {
         m_size = size;
         emit placed(size);
-    } else if (!size.isEmpty()) {
+    } else {
         const QPoint origin = m_renderer->origin();
         if (origin != m_origin) {
             m_originShare = {origin.x() / double(m_size.width()),
