@@ -63,6 +63,7 @@ void StageRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
                                  Qt::KeyboardModifiers modifiers)
 {
     m_pointer = pos;
+    m_isHeld = m_isHeld || button == Qt::LeftButton;
     const Input input(this);
     if (button == Qt::LeftButton &&
         (clickMode() != PositioningMode || hitTest(pos) != StageElement)) {
@@ -75,6 +76,12 @@ void StageRenderer::mouseReleased(QPoint pos, Qt::MouseButton button,
                                   Qt::KeyboardModifiers modifiers)
 {
     m_pointer = pos;
+    // Any button would end a drag, and what was dragged would not come into the text.
+    const bool endsDrawing = button == Qt::RightButton && clickMode() == DrawContactBoxMode;
+    if (m_isHeld && button != Qt::LeftButton && !endsDrawing) {
+        return;
+    }
+    m_isHeld = false;
     const Input input(this);
     GraphicsRenderer::mouseReleased(pos, button, modifiers);
 }

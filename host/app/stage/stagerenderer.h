@@ -42,6 +42,7 @@ private:
     bool takeKey(int key);
 
     QPoint m_pointer;
+    bool m_isHeld = false;  // by the left button
 };
 
 }  // namespace App
