@@ -255,75 +255,75 @@
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abspielen</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nhalten</translation>
     </message>
     <message>
         <source>Pre&amp;vious frame</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriges Einzelbild</translation>
     </message>
     <message>
         <source>&amp;Next frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Nä&amp;chstes Einzelbild</translation>
     </message>
     <message>
         <source>&amp;Onion skin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zwiebelhaut</translation>
     </message>
     <message>
         <source>Draw a&amp;ttack boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;griffsboxen zeichnen</translation>
     </message>
     <message>
         <source>Draw &amp;body boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Körperboxen zeichnen</translation>
     </message>
     <message>
         <source>Remove se&amp;lected boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausge&amp;wählte Boxen entfernen</translation>
     </message>
     <message>
         <source>Pick &amp;colour</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farbe aufnehmen</translation>
     </message>
     <message>
         <source>Sta&amp;ge</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bühne</translation>
     </message>
     <message>
         <source>Centre the &amp;origin</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ursprung in die Mitte</translation>
     </message>
     <message>
         <source>Ax&amp;is of the animation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Achse der Animation</translation>
     </message>
     <message>
         <source>Axis of the spri&amp;te</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;chse des Sprites</translation>
     </message>
     <message>
         <source>Extr&amp;a cross</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Extrakreuz</translation>
     </message>
     <message>
         <source>&amp;Rulers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lineale</translation>
     </message>
     <message>
         <source>Gui&amp;des</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfslinien</translation>
     </message>
     <message>
         <source>Attac&amp;k boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;griffsboxen</translation>
     </message>
     <message>
         <source>&amp;Body boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kö&amp;rperboxen</translation>
     </message>
 </context>
 <context>
@@ -1940,77 +1940,77 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>App::StageCommands</name>
     <message>
         <source>Smaller (-)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleiner (-)</translation>
     </message>
     <message>
         <source>One pixel for each of the game (0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Pixel für jeden des Spiels (0)</translation>
     </message>
     <message>
         <source>Larger (+)</source>
-        <translation type="unfinished"></translation>
+        <translation>Größer (+)</translation>
     </message>
     <message>
         <source>Stage: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bühne: %1, %2</translation>
     </message>
     <message>
         <source>Colour %1 of the palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe %1 der Palette</translation>
     </message>
     <message>
         <source>Put the cursor of the text into an animation, or choose one in the organizer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzen Sie den Textcursor in eine Animation, oder wählen Sie eine im Organizer.</translation>
     </message>
     <message>
         <source>This animation has no frames yet. A line such as &quot;frame 0,0 delay 4&quot; makes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Animation hat noch keine Einzelbilder. Eine Zeile wie &quot;frame 0,0 delay 4&quot; macht eines.</translation>
     </message>
     <message>
         <source>Frame %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelbild %1 von %2</translation>
     </message>
     <message>
         <source>%1 FPS</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 FPS</translation>
     </message>
     <message>
         <source>no sprite %1,%2</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Sprite %1,%2</translation>
     </message>
     <message>
         <source>without end</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Ende</translation>
     </message>
     <message>
         <source>%1 ticks</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Ticks</translation>
     </message>
 </context>
 <context>
     <name>App::StageEdits</name>
     <message>
         <source>Move frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelbild verschieben</translation>
     </message>
 </context>
 <context>
     <name>App::StageView</name>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitleiste</translation>
     </message>
     <message>
         <source>Tools of the stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge der Bühne</translation>
     </message>
     <message>
         <source>Stage</source>
-        <translation type="unfinished">Bühne</translation>
+        <translation>Bühne</translation>
     </message>
     <message>
         <source>The stage cannot be shown: OpenGL does not work on this display. Texts, lists and the time line work as ever. A driver for the graphics card, or Mesa&apos;s software OpenGL, brings the stage back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bühne kann nicht gezeigt werden: OpenGL funktioniert auf diesem Bildschirm nicht. Texte, Listen und die Zeitleiste arbeiten wie immer. Ein Treiber für die Grafikkarte oder das Software-OpenGL von Mesa bringt die Bühne zurück.</translation>
     </message>
 </context>
 <context>
@@ -2061,7 +2061,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Place of the pointer on the stage</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort des Mauszeigers auf der Bühne</translation>
     </message>
 </context>
 <context>
@@ -2882,6 +2882,17 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>The restore was given up in its middle: some files are those of the backup, the others are as before. Restore again, or put back what was there before.</source>
         <translation>Die Wiederherstellung wurde mittendrin abgebrochen: Einige Dateien sind die der Sicherung, die anderen sind wie zuvor. Bitte erneut wiederherstellen oder zurückholen, was vorher da war.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::DiffPicture</name>
+    <message>
+        <source>Nothing can be drawn of the frames that differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture of the frames that differ would be too large.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
