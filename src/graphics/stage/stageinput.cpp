@@ -11,15 +11,20 @@ namespace {
 constexpr Qt::CursorShape s_cursors[] = {
     Qt::OpenHandCursor,   // stage
     Qt::SizeAllCursor,    // sprite
-    Qt::SizeAllCursor,    // crosses
-    Qt::SizeAllCursor,    //
-    Qt::SizeAllCursor,    //
+    Qt::SizeAllCursor,    // main cross
+    Qt::SizeAllCursor,    // secondary cross
+    Qt::SizeAllCursor,    // extra cross
     Qt::SizeVerCursor,    // horizontal guide
     Qt::SizeHorCursor,    // vertical guide
     Qt::SizeAllCursor,    // box
-    Qt::SizeFDiagCursor,  // sizers
-    Qt::SizeVerCursor,   Qt::SizeHorCursor,   Qt::SizeBDiagCursor, Qt::SizeBDiagCursor,
-    Qt::SizeVerCursor,   Qt::SizeFDiagCursor, Qt::SizeHorCursor,
+    Qt::SizeFDiagCursor,  // sizers: top left
+    Qt::SizeVerCursor,    // top
+    Qt::SizeHorCursor,    // left
+    Qt::SizeBDiagCursor,  // top right
+    Qt::SizeBDiagCursor,  // bottom left
+    Qt::SizeVerCursor,    // bottom
+    Qt::SizeFDiagCursor,  // bottom right
+    Qt::SizeHorCursor,    // right
 };
 constexpr int ElementCount = sizeof s_cursors / sizeof *s_cursors;
 
