@@ -1,6 +1,7 @@
 #include "app/stage/stagesettings.h"
 
 #include "core/interface.h"
+#include "graphics/renderwidget.h"
 #include "graphics/stage/graphicsrenderer.h"
 
 #include <QRect>
@@ -90,6 +91,10 @@ void StageSettings::apply(QSize screen)
                            choice<GraphicsRenderer::BackgroundType>("background_type", 3),
                            QPoint(option("background_x").toInt(), option("background_y").toInt()),
                            option("background_file").toString(), screen);
+    // A new ground has colours for the usual height; the stage fits them to its own.
+    if (const Zorv::RenderWidget* widget = m_stage->widget()) {
+        m_stage->sizeChanged(widget->width(), widget->height());
+    }
     m_stage->setupContactBoxes(colour("attackbox"), colour("collisionbox"),
                                qBound(0.0F, option("box_opacity").toFloat(), 1.0F));
     m_stage->setCrossHair(choice<GraphicsRenderer::CrossHairType>("crosshair_type", 3),

@@ -96,7 +96,8 @@ public:
 
     /// The colours of the ground from top to bottom, and the picture on it. `position` is in model
     /// units from the origin; that of a resolution picture is its own. `resolution` is the size of
-    /// screen that it is for. A file that cannot be read is left out.
+    /// screen that it is for. A file that cannot be read is left out. The colours reach down 256
+    /// pixels until `sizeChanged()` fits them to the widget.
     void setBackground(QColor start, QColor end, BackgroundType type, QPoint position,
                        const QString& file, QSize resolution);
 
@@ -114,7 +115,8 @@ public:
     QPoint guideLines() const;
     void setGuideLines(QPoint guides);
 
-    /// Shows the sprites of a provider, which is not owned and may go; null shows none.
+    /// Shows the sprites of a provider, which is not owned and may go; null shows none. Its sprites
+    /// must be there until it tells of others.
     void setSprites(SpriteProvider* provider);
     SpriteProvider* spriteProvider() const;
 
@@ -134,7 +136,8 @@ public:
     void setOnionSkin(bool enabled, OnionEffect effect, float opacity);
 
     /// That sprite, and the place of the anchor of the main cross on it in model units. Compares
-    /// the sprite alone: the offset of the same sprite changes by way of null.
+    /// the sprite alone: the offset of the same sprite changes by way of null. Not owned: null is to
+    /// be set before it goes.
     void setOnionSkinSprite(const Sprite* sprite, QPoint offset);
 
     /// @}
