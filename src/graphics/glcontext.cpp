@@ -9,7 +9,7 @@
 #include <QOpenGLFunctions>
 #include <QThread>
 
-#include <memory>
+#include <atomic>
 #include <mutex>
 #include <unordered_set>
 #include <vector>
@@ -34,10 +34,11 @@ SharedContext* s_shared = nullptr;
 QOffscreenSurface* s_surface = nullptr;
 quint32 s_nameCount = 0;
 
-// Guards the resetter and the number, which dying textures ask for. Recursive, for
-// in the thread of the context the deletion runs right in the signal.
+// Guards the resetter and the number against textures that die. Recursive, for in the thread of the
+// context the deletion runs right in the signal.
 std::recursive_mutex s_mutex;
-quint32 s_contextNumber = 0;
+std::atomic<quint32> s_contextNumber{0};
+quint32 s_contextCount = 0;
 
 /// Qt warns when it is asked for a context that its platform has not.
 bool hasPlatformGl()
@@ -67,7 +68,7 @@ QOpenGLContext* context()
                     s_shared->context.functions()->hasOpenGLFeature(QOpenGLFunctions::NPOTTextures);
         qAddPostRoutine(freeContext);
         const std::lock_guard lock(s_mutex);
-        ++s_contextNumber;
+        s_contextNumber = ++s_contextCount;
         s_resetter = &s_shared->resetter;
         if (previous) {
             previous->makeCurrent(previousSurface);
@@ -97,6 +98,7 @@ void freeContext()
         {
             const std::lock_guard lock(s_mutex);
             s_resetter = nullptr;
+            s_contextNumber = 0;
         }
         // The context of a widget, and that of the application, would keep them alive.
         const std::vector<unsigned int> names(s_shared->names.begin(), s_shared->names.end());
@@ -132,8 +134,7 @@ ContextScope::~ContextScope()
 
 quint32 contextNumber()
 {
-    const std::lock_guard lock(s_mutex);
-    return s_resetter ? s_contextNumber : 0;
+    return s_contextNumber;
 }
 
 unsigned int makeTextureName(QOpenGLFunctions& gl)

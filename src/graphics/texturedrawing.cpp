@@ -59,7 +59,10 @@ void TextureDrawing::end(QOpenGLFunctions& gl)
         activate(gl, unit);
         gl.glBindTexture(GL_TEXTURE_2D, 0);
     }
-    setBlend(gl, false);
+    if (m_blendEnabled) {
+        m_blendEnabled = false;
+        gl.glDisable(GL_BLEND);
+    }
     setBlendEquation(gl, Renderer::Add);
     setBlendFunction(gl, Renderer::SourceAlpha, Renderer::OneMinusSourceAlpha);
     disableArrays(gl);

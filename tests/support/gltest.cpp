@@ -201,12 +201,23 @@ void replace(Functions& f)
     f.DrawArrays = drawArrays;
 }
 
+template <class... Arguments>
+void spare(void (*&function)(Arguments...))
+{
+    function = [](Arguments...) {};
+}
+
+void takeTable()
+{
+    s_table = &Table::functions();
+    s_driver = *s_table;
+}
+
 }  // namespace
 
 CallCounter::CallCounter()
 {
-    s_table = &Table::functions();
-    s_driver = *s_table;
+    takeTable();
     restart();
     replace(*s_table);
 }
@@ -225,6 +236,32 @@ void CallCounter::restart()
 const Calls& CallCounter::calls() const
 {
     return s_calls;
+}
+
+SparedDriver::SparedDriver()
+{
+    takeTable();
+    Functions& f = *s_table;
+    spare(f.UseProgram);
+    spare(f.ActiveTexture);
+    spare(f.BindTexture);
+    spare(f.Uniform1i);
+    spare(f.Uniform1f);
+    spare(f.Uniform1fv);
+    spare(f.UniformMatrix4fv);
+    spare(f.EnableVertexAttribArray);
+    spare(f.DisableVertexAttribArray);
+    spare(f.VertexAttribPointer);
+    spare(f.Enable);
+    spare(f.Disable);
+    spare(f.BlendEquation);
+    spare(f.BlendFunc);
+    spare(f.DrawArrays);
+}
+
+SparedDriver::~SparedDriver()
+{
+    *s_table = s_driver;
 }
 
 }  // namespace GlTest

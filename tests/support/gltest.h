@@ -53,4 +53,16 @@ public:
     const Calls& calls() const;
 };
 
+/// Lets no call of drawing reach the driver as long as it lives: what is left is the work of the
+/// caller. Not together with a counter.
+class SparedDriver
+{
+public:
+    SparedDriver();
+    ~SparedDriver();
+
+    SparedDriver(const SparedDriver&) = delete;
+    SparedDriver& operator=(const SparedDriver&) = delete;
+};
+
 }  // namespace GlTest
