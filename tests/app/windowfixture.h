@@ -101,6 +101,7 @@ public:
         window = std::make_unique<App::MainWindow>();
         host.setWindow(window.get());
         window->show();
+        window->activateWindow();  // a bare X server does not do it
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
     }
 
