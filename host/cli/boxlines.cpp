@@ -70,8 +70,9 @@ QStringList factsOf(const FrameBoxReport& frame)
     QStringList facts;
     if (frame.isShown) {
         facts.append(QStringLiteral("tick %1").arg(frame.tick));
-        facts.append(frame.delay < 0 ? QStringLiteral("stays")
-                                     : QStringLiteral("%1 ticks").arg(frame.delay));
+        facts.append(frame.delay < 0    ? QStringLiteral("stays")
+                     : frame.delay == 1 ? QStringLiteral("1 tick")
+                                        : QStringLiteral("%1 ticks").arg(frame.delay));
     } else {
         facts.append(QStringLiteral("never shown"));
     }

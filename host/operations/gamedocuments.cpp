@@ -38,27 +38,27 @@ public:
         }
         m_seen.insert(path);
         QString error;
-        FamilyDocument* document = openDocument(path, -1, &error);
+        FamilyDocument* document = openDocument(shownName(path), -1, &error);
         if (!document) {
             m_errors->append(error);
             return {};
         }
         m_visit(*document, shownName(path));
         const QStringList named =
-            isMainFile(document->kind()) ? codeFiles(*document) : QStringList();
+            isMainFile(document->kind()) ? codeFiles(*document, path) : QStringList();
         document->release();
         return named;
     }
 
 private:
-    QStringList codeFiles(const FamilyDocument& document) const
+    QStringList codeFiles(const FamilyDocument& document, const QString& path) const
     {
         QStringList paths;
-        const QString folder = QFileInfo(document.fileName()).path() + QLatin1Char('/');
+        const QString folder = QFileInfo(path).path() + QLatin1Char('/');
         const QVector<FileReference> references = fileReferences(&document);
         for (const FileReference& reference : references) {
             if (isCodeFile(reference.type) &&
-                pathFault(m_game, document.fileName(), reference.path) == PathFault::Fine) {
+                pathFault(m_game, path, reference.path) == PathFault::Fine) {
                 paths.append(folder + reference.path);
             }
         }
