@@ -3113,11 +3113,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::GameDocuments</name>
     <message>
         <source>There is no file or folder &apos;%1&apos;.</source>
-        <translation type="unfinished">Die Datei oder den Ordner &apos;%1&apos; gibt es nicht.</translation>
+        <translation>Die Datei oder den Ordner &apos;%1&apos; gibt es nicht.</translation>
     </message>
     <message>
         <source>There is no character or stage in &apos;%1&apos;. Expected files such as &apos;characters/hero/hero.character&apos;.</source>
-        <translation type="unfinished">In &apos;%1&apos; ist weder Figur noch Bühne. Erwartet werden Dateien wie &apos;characters/hero/hero.character&apos;.</translation>
+        <translation>In &apos;%1&apos; ist weder Figur noch Bühne. Erwartet werden Dateien wie &apos;characters/hero/hero.character&apos;.</translation>
     </message>
 </context>
 <context>
