@@ -1960,15 +1960,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Put the cursor of the text into an animation, or choose one in the organizer.</source>
-        <translation>Setzen Sie den Textcursor in eine Animation, oder wählen Sie eine im Organizer.</translation>
+        <translation>Setzen Sie den Textcursor in eine Animation, oder wählen Sie eine im Organisator.</translation>
     </message>
     <message>
         <source>This animation has no frames yet. A line such as &quot;frame 0,0 delay 4&quot; makes one.</source>
         <translation>Diese Animation hat noch keine Einzelbilder. Eine Zeile wie &quot;frame 0,0 delay 4&quot; macht eines.</translation>
-    </message>
-    <message>
-        <source>Frame %1 of %2</source>
-        <translation>Einzelbild %1 von %2</translation>
     </message>
     <message>
         <source>%1 FPS</source>
@@ -1979,12 +1975,16 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>kein Sprite %1,%2</translation>
     </message>
     <message>
-        <source>without end</source>
-        <translation>ohne Ende</translation>
-    </message>
-    <message>
         <source>%1 ticks</source>
         <translation>%1 Ticks</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>endless</source>
+        <translation>endlos</translation>
     </message>
 </context>
 <context>
@@ -2011,6 +2011,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>The stage cannot be shown: OpenGL does not work on this display. Texts, lists and the time line work as ever. A driver for the graphics card, or Mesa&apos;s software OpenGL, brings the stage back.</source>
         <translation>Die Bühne kann nicht gezeigt werden: OpenGL funktioniert auf diesem Bildschirm nicht. Texte, Listen und die Zeitleiste arbeiten wie immer. Ein Treiber für die Grafikkarte oder das Software-OpenGL von Mesa bringt die Bühne zurück.</translation>
+    </message>
+    <message>
+        <source>Frame, number of frames, and how long the animation is</source>
+        <translation>Einzelbild, Zahl der Einzelbilder und Dauer der Animation</translation>
     </message>
 </context>
 <context>

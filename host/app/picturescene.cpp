@@ -175,16 +175,16 @@ void showAttack(MainWindow* window, const FamilyDocument* document, int animatio
     window->textEditor()->goTo(line.blockNumber());
 }
 
-/// With its sprite beside it, and all of the room for the text.
+/// With its sprite beside it.
 void showSprites(MainWindow* window, const FamilyDocument* document)
 {
-    window->actionByName("view_stage")->trigger();
     showAttack(window, document, 8);
 }
 
 /// On the stage, with the frame before it shining through, rulers, and a box that is selected.
 void showStage(MainWindow* window, const FamilyDocument* document)
 {
+    window->actionByName("view_stage")->trigger();
     window->findChild<QDockWidget*>(QStringLiteral("messages"))->hide();
     showAttack(window, document, 3);
     for (const char* name : {"view_rulers", "anim_onion_skin"}) {
@@ -230,6 +230,8 @@ void arrangeScene(MainWindow* window, const QString& name)
         return name == QLatin1String(scene.name);
     });
     if (document) {
+        // What is told of the text has all of the room.
+        window->actionByName("view_stage")->trigger();
         settleWindow();
         (found == std::end(scenes) ? scenes : found)->arrange(window, document);
     }

@@ -3,6 +3,7 @@
 #include "animation/timeline/timelinewidget.h"
 #include "app/actions/actiontable.h"
 #include "app/assets/spritepanel.h"
+#include "app/gamesession.h"
 #include "app/look/icon.h"
 #include "app/look/language.h"
 #include "app/mainwindow.h"
@@ -201,6 +202,9 @@ void StageCommands::setDocument(FamilyDocument* document)
 {
     m_document = document;
     m_controller->setDocument(document);
+    if (document) {
+        m_settings->apply(screenOf(projectOf(document)));
+    }
     updateShown();
     followState();
 }
@@ -410,19 +414,18 @@ QString StageCommands::info() const
     if (index < 0) {
         return {};
     }
-    const QString place = tr("Frame %1 of %2").arg(index + 1).arg(m_controller->frameCount());
+    const QString place = tr("%1 / %2").arg(index + 1).arg(m_controller->frameCount());
     if (m_controller->isPlaying()) {
-        return place + QLatin1String(", ") +
+        return place + QLatin1String(" - ") +
                tr("%1 FPS").arg(double(m_view->timeLine()->currentFPS()));
     }
     if (!m_controller->sprite()) {
         const Family::FrameNode* frame = m_controller->frame();
-        return place + QLatin1String(", ") +
+        return place + QLatin1String(" - ") +
                tr("no sprite %1,%2").arg(frame->spriteGroup()).arg(frame->spriteNumber());
     }
     const int ticks = m_controller->ticks().total();
-    return place + QLatin1String(", ") +
-           (ticks < 0 ? tr("without end") : tr("%1 ticks").arg(ticks));
+    return place + QLatin1String(" - ") + (ticks < 0 ? tr("endless") : tr("%1 ticks").arg(ticks));
 }
 
 /// A dialog comes up: nothing moves behind it.

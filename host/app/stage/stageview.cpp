@@ -7,6 +7,7 @@
 #include "graphics/renderwidget.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QResizeEvent>
 #include <QStackedWidget>
@@ -83,6 +84,7 @@ void StageView::retranslate()
 {
     m_timeLine->setAccessibleName(tr("Time line"));
     m_bar->setAccessibleName(tr("Tools of the stage"));
+    m_info->setToolTip(tr("Frame, number of frames, and how long the animation is"));
     if (m_widget) {
         m_widget->setAccessibleName(tr("Stage"));
     }
@@ -134,6 +136,15 @@ bool StageView::eventFilter(QObject* watched, QEvent* event)
         emit pointerLeft();
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void StageView::keyPressEvent(QKeyEvent* event)
+{
+    if (m_widget && m_widget->hasFocus()) {
+        event->accept();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 /// What stands on the stage stays in sight when panels move.

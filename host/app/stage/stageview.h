@@ -62,6 +62,9 @@ signals:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    /// Keys of the stage are its own: Escape does not lead from a drawing straight into the text.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     QWidget* makeStage();
     void retranslate();
