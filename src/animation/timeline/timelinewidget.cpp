@@ -119,6 +119,8 @@ TimeLineWidget::TimeLineWidget(QWidget* parent)
     setAttribute(Qt::WA_MouseTracking);
     setAutoFillBackground(false);
     setFocusPolicy(Qt::StrongFocus);
+    setBaseSize(d->LabelWidth, d->HeaderHeight);
+    setSizeIncrement(10 * d->TickWidth, d->RowHeight);
 }
 
 TimeLineWidget::~TimeLineWidget() = default;

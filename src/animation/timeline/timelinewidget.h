@@ -17,8 +17,11 @@ class TimeLinePrivate;
 /// `tickChanged()`. The strip shows one page of ticks, which turns when the present tick does; a
 /// widget that is not wider than the names of its rows has no page, and plays all the same. While
 /// the clock stands, the mouse sets the tick: the cursor follows it when it is dragged, and jumps
-/// to where a click in the strip ends. The keys Left and Right go by one tick at any time. Main
-/// thread only.
+/// to where a click in the strip ends. The keys Left and Right go by one tick at any time.
+///
+/// A page begins at a multiple of ten. Unless it is a multiple of ten wide, too, its last ticks can
+/// lie beyond the right border. `baseSize()` and one `sizeIncrement()` for each ten ticks fit.
+/// Main thread only.
 class ZORV_EXPORT TimeLineWidget : public QWidget
 {
     Q_OBJECT
