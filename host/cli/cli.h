@@ -7,7 +7,8 @@ namespace Cli {
 /// The status with which the program ends.
 enum ExitStatus {
     Fine = 0,
-    ProblemsFound = 1,  ///< of `check` alone
+    ProblemsFound = 1,          ///< of `check` alone
+    Different = ProblemsFound,  ///< of `diff` alone
     WrongUsage = 2,
     NotDone = 3  ///< a file cannot be read or written, a path names nothing, ...
 };

@@ -74,6 +74,15 @@ constexpr Command table[] = {
      "a tab between its place, what it is, and facts: the ticks before, with and after attack boxes\n"
      "and how far they reach; of a frame its time, the pixels that its boxes cover, and how many of\n"
      "them the next frame keeps; 'no box' where a frame has none."},
+    {"diff", "OLD NEW ID", 3, 3, Target | Zoom | ShowAxis | SpriteFile | Force | Json,
+     diffAnimations,
+     "Print which frames and contact boxes of an animation differ between two games.",
+     "ID is the animation. OLD and NEW are game folders, or files as those of 'render'; a single\n"
+     "file needs no sprites. Frames that are most alike are compared. A line for each that differs,\n"
+     "and for each of its boxes, with a tab between its place in OLD, its place in NEW ('-' where it\n"
+     "is not there), 'added', 'removed', 'changed' or, of a box, 'moved', and what it was and is.\n"
+     "With -o the frames that differ are drawn on an image, OLD at the left and NEW at the right.\n"
+     "The status is 0 if nothing differs, and 1 if something does."},
     {"run", "FILE...", 1, Command::Any, Engine | Parameters, runInEngine,
      "Start an engine on characters and stages.",
      "Each FILE is a main file (.character, .stage). Copies of the projects are put beside the\n"

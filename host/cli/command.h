@@ -48,6 +48,7 @@ int removeAnimations(const Invocation& invocation, Output& output);
 int sortAnimations(const Invocation& invocation, Output& output);
 int writeAnimationGif(const Invocation& invocation, Output& output);
 int renderAnimation(const Invocation& invocation, Output& output);
+int diffAnimations(const Invocation& invocation, Output& output);
 int listBoxes(const Invocation& invocation, Output& output);
 int runInEngine(const Invocation& invocation, Output& output);
 int backUp(const Invocation& invocation, Output& output);

@@ -37,14 +37,15 @@ void close(FamilyProject* project)
 
 }  // namespace
 
-OpenAnimation::OpenAnimation(const QString& path, const QString& name, const QString& spriteFile)
+OpenAnimation::OpenAnimation(const QString& path, const QString& name, const QString& spriteFile,
+                             SpriteNeed need)
     : m_path(path)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
         m_error = Text::tr("There is no file or folder '%1'.").arg(path);
     } else if (!info.isDir() && !isMainFile(fileKindOf(path))) {
-        findInFile(path, name, spriteFile);
+        findInFile(path, name, spriteFile, need);
     } else if (!spriteFile.isNull()) {
         m_error = Text::tr("'%1' names its own sprites. '--sprites' is for a single file of "
                            "animations.")
@@ -68,7 +69,7 @@ OpenAnimation::~OpenAnimation()
 }
 
 void OpenAnimation::findInFile(const QString& fileName, const QString& name,
-                               const QString& spriteFile)
+                               const QString& spriteFile, SpriteNeed need)
 {
     m_document = openDocument(fileName, -1, &m_error);
     const int index = m_document ? findAnimation(m_document->animations(), name, &m_error) : -1;
@@ -77,8 +78,13 @@ void OpenAnimation::findInFile(const QString& fileName, const QString& name,
     }
     const QString sprites = spriteFile.isNull() ? spritesBeside(fileName, &m_error) : spriteFile;
     m_sprites = m_error.isEmpty() ? openSprites(sprites, &m_error) : nullptr;
-    if (m_sprites) {
+    if (!m_sprites && need == OptionalSprites && spriteFile.isNull()) {
+        m_notes.append(m_error);
+        m_error.clear();
+    } else if (m_sprites) {
         m_notes = m_sprites->loadErrors();
+    }
+    if (m_error.isEmpty()) {
         m_animation = m_document->animations()->animation(index);
     }
 }

@@ -17,12 +17,17 @@ class SpriteCollection;
 class OpenAnimation
 {
 public:
+    /// Whether an animation of a single file is to be had without sprites.
+    enum SpriteNeed { NeedsSprites, OptionalSprites };
+
     /// Finds the animation that `name` means: an identifier or, of a single file, a place as "#3".
     ///
     /// `path` is a game folder; the main file of one of its projects; or a single code file, whose
     /// sprites are those of `spriteFile`, or of the one sprite file beside it. Without one, or with
-    /// several that are meant, `errorString()` tells what there is.
-    OpenAnimation(const QString& path, const QString& name, const QString& spriteFile = {});
+    /// several that are meant, `errorString()` tells what there is; if sprites are optional, and
+    /// none were named, `notes()` does.
+    OpenAnimation(const QString& path, const QString& name, const QString& spriteFile = {},
+                  SpriteNeed need = NeedsSprites);
     ~OpenAnimation();
 
     /// True if the animation was found.
@@ -30,7 +35,8 @@ public:
     const AnimationNode& animation() const { return *m_animation; }
     QString errorString() const { return m_error; }
 
-    /// Null for a project without any, or whose sprites could not be read.
+    /// Null for a project without any, or whose sprites could not be read, and where they are
+    /// optional.
     const SpriteCollection* sprites() const { return m_sprites; }
 
     /// What of the project could not be read, a line each for the person.
@@ -38,7 +44,8 @@ public:
 
 private:
     Q_DISABLE_COPY(OpenAnimation)
-    void findInFile(const QString& fileName, const QString& name, const QString& spriteFile);
+    void findInFile(const QString& fileName, const QString& name, const QString& spriteFile,
+                    SpriteNeed need);
     void findInProjects(const QStringList& mainFiles, const QString& name);
     bool findInProject(const FamilyProject& project, const QString& name);
     QString shownName(const QString& fileName) const;
