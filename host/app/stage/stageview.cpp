@@ -3,6 +3,7 @@
 #include "animation/timeline/timelinewidget.h"
 #include "app/look/language.h"
 #include "app/stage/stagerenderer.h"
+#include "app/stage/timelineplace.h"
 #include "graphics/glcontext.h"
 #include "graphics/renderwidget.h"
 
@@ -44,13 +45,12 @@ StageView::StageView(QWidget* parent)
     m_pages->addWidget(makeStage());
     m_pages->addWidget(m_hint);
     m_hint->setEnabled(false);
-    m_timeLine->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_bar);
     layout->addWidget(m_pages, 1);
-    layout->addWidget(m_timeLine);
+    layout->addWidget(new TimeLinePlace(m_timeLine));
     m_info->setMargin(4);
     followLanguage(this, [this] { retranslate(); });
 }
