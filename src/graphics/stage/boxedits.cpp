@@ -25,9 +25,7 @@ public:
         }
         m_type = code->type();
         m_document = code->document();
-        // At its end, the cursor stays in the line whatever happens to the line above.
         m_frameLine = QTextCursor(frame->block());
-        m_frameLine.movePosition(QTextCursor::EndOfBlock);
     }
 
     ContactBoxesCode* get() const
