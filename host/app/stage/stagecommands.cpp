@@ -25,6 +25,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QEvent>
+#include <QLocale>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
@@ -417,7 +418,7 @@ QString StageCommands::info() const
     const QString place = tr("%1 / %2").arg(index + 1).arg(m_controller->frameCount());
     if (m_controller->isPlaying()) {
         return place + QLatin1String(" - ") +
-               tr("%1 FPS").arg(double(m_view->timeLine()->currentFPS()));
+               tr("%1 FPS").arg(QLocale().toString(m_view->timeLine()->currentFPS(), 'f', 1));
     }
     if (!m_controller->sprite()) {
         const Family::FrameNode* frame = m_controller->frame();
