@@ -2892,11 +2892,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <name>Family::DiffPicture</name>
     <message>
         <source>Nothing can be drawn of the frames that differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von den Einzelbildern, die sich unterscheiden, lässt sich nichts zeichnen.</translation>
     </message>
     <message>
         <source>The picture of the frames that differ would be too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild der Einzelbilder, die sich unterscheiden, würde zu groß.</translation>
     </message>
 </context>
 <context>
