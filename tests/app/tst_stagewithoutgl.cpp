@@ -1,0 +1,83 @@
+#include "windowfixture.h"
+
+#include "animation/timeline/timelinewidget.h"
+#include "app/stage/stagecommands.h"
+#include "app/stage/stagecontroller.h"
+#include "app/stage/stageview.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QOpenGLWidget>
+
+/// The window on a display without GL, as the offscreen one is: a message stands in place of the
+/// stage, and the rest works.
+class tst_StageWithoutGl : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void messageStandsThere();
+    void timeLineWorks();
+    void textWorks();
+
+private:
+    App::StageCommands* stage() const { return m_fixture->window->stage(); }
+
+    TemporaryGame m_game;
+    QTemporaryDir m_folder;
+    std::unique_ptr<WindowFixture> m_fixture;
+};
+
+void tst_StageWithoutGl::initTestCase()
+{
+    m_game.write("characters/ryn/basic.anim", "animation 1 \"One\"\r\n"
+                                              "body 0,0, 9,9\r\n"
+                                              "frame 0,0 delay 3\r\n"
+                                              "frame 0,1 delay -1\r\n");
+    m_fixture = std::make_unique<WindowFixture>(m_folder.filePath("settings.ini"));
+    m_fixture->open(m_game, m_game.ryn(), m_game.animations());
+    m_fixture->goTo(1);
+    if (stage()->view()->isUsable()) {
+        QSKIP("GL works here");
+    }
+}
+
+void tst_StageWithoutGl::messageStandsThere()
+{
+    QVERIFY(!m_fixture->window->findChild<QOpenGLWidget*>());
+    const auto* message = m_fixture->window->findChild<QLabel*>("stage_message");
+    QVERIFY(message && message->isVisible());
+    QVERIFY(message->text().contains("OpenGL"));
+    for (const char* name : {"anim_box_add_attack", "stage_capture", "view_center_origin"}) {
+        QVERIFY2(!m_fixture->action(name)->isEnabled(), name);
+    }
+}
+
+void tst_StageWithoutGl::timeLineWorks()
+{
+    stage()->view()->timeLine()->setCurrentTick(3);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_fixture->edit()->textCursor().blockNumber(), 3);
+    m_fixture->goTo(2);
+    m_fixture->action("anim_play")->trigger();
+    QVERIFY(stage()->controller()->isPlaying());
+    QTRY_VERIFY(!stage()->controller()->isPlaying());
+    QCOMPARE(m_fixture->edit()->textCursor().blockNumber(), 3);
+}
+
+void tst_StageWithoutGl::textWorks()
+{
+    m_fixture->goTo(1);
+    m_fixture->edit()->setFocus();
+    m_fixture->press(Qt::Key_End);
+    m_fixture->type(QStringLiteral("9"));
+    const QString line = m_fixture->document()->findBlockByNumber(1).text();
+    QCOMPARE(line, QString("body 0,0, 9,99"));
+    m_fixture->window->reconfig();
+    m_fixture->action("undo")->trigger();
+    QCOMPARE(m_fixture->document()->findBlockByNumber(1).text(), QString("body 0,0, 9,9"));
+}
+
+QTEST_MAIN(tst_StageWithoutGl)
+#include "tst_stagewithoutgl.moc"
