@@ -147,7 +147,6 @@ private slots:
     void drawnBoxes_data();
     void drawnBoxes();
     void modesInTheMiddleOfADrag();
-    void keys();
     void capture();
     void strangeNumbers();
 
@@ -563,28 +562,6 @@ void TestStageInput::modesInTheMiddleOfADrag()
     renderer.mouseMoved({150, 150}, Qt::NoModifier);
     stage.release({150, 150});
     QCOMPARE(released.count(), 2);
-}
-
-void TestStageInput::keys()
-{
-    Stage stage(plainScene(), m_cross);
-    GraphicsRenderer& renderer = stage.renderer;
-    QSignalSpy released(&renderer, &GraphicsRenderer::itemReleased);
-    stage.press({45, 45});
-    stage.release({45, 45});
-    for (const int key : {Qt::Key_Left, Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down,
-                          Qt::Key_Down, Qt::Key_A}) {
-        renderer.keyPressed(key, Qt::NoModifier);
-        renderer.keyPressed(key, Qt::ShiftModifier);
-    }
-    QCOMPARE(stage.box(1, 0), QRect(-61, -59, 40, 40));
-    QCOMPARE(released.count(), 6);
-    renderer.keyPressed(Qt::Key_Delete, Qt::ControlModifier);
-    QCOMPARE(stage.lists[0]->count(), 2);
-    renderer.keyPressed(Qt::Key_Delete, Qt::NoModifier);
-    QCOMPARE(stage.lists[0]->count(), 1);
-    QCOMPARE(stage.box(1, 0), QRect(-50, -50, 40, 40));
-    QCOMPARE(renderer.hitTest({45, 45}), GraphicsRenderer::StageElement);
 }
 
 void TestStageInput::capture()
