@@ -12,6 +12,7 @@
 #include <QDockWidget>
 #include <QSignalSpy>
 #include <QUndoStack>
+#include <QWheelEvent>
 
 using App::StageSettings;
 using Zorv::ContactBoxCode;
@@ -61,6 +62,7 @@ private slots:
     void partsAreShownAndHidden();
     void settingsAreApplied();
     void placeIsKept();
+    void wheelZooms();
 
 private:
     QColor colourAt(QPoint model) const { return colourOf(m->at(model)); }
@@ -484,6 +486,27 @@ void tst_Stage::placeIsKept()
     QCOMPARE(int(next.zoomLevel()), 2);
     settings.restorePlace({100, 40});
     QVERIFY(QRect(0, 0, 100, 40).contains(next.origin()));
+}
+
+void tst_Stage::wheelZooms()
+{
+    Zorv::GraphicsRenderer* stage = m->view()->renderer();
+    const auto turn = [this](int delta) {
+        const QPoint place = m->widget()->rect().center();
+        QWheelEvent event(place, m->widget()->mapToGlobal(place), {}, {0, delta}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(m->widget(), &event);
+    };
+    stage->setZoomLevel(3);
+    for (int i = 0; i < 7; ++i) {
+        turn(40);
+    }
+    QCOMPARE(int(stage->zoomLevel()), 5);
+    turn(-160);
+    QCOMPARE(int(stage->zoomLevel()), 4);
+    stage->setZoomLevel(11);  // by keys alone
+    turn(120);
+    QCOMPARE(int(stage->zoomLevel()), 11);
 }
 
 ZORV_GL_TEST_MAIN(tst_Stage)

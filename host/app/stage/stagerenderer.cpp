@@ -4,6 +4,9 @@ namespace App {
 
 namespace {
 
+constexpr int WheelStep = 120;
+constexpr int HighestByWheel = 9;  // higher ones are for keys
+
 /// Tells of the input around it.
 class Input
 {
@@ -91,6 +94,18 @@ void StageRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
     m_pointer = pos;
     const Input input(this);
     GraphicsRenderer::mouseMoved(pos, modifiers);
+}
+
+void StageRenderer::mouseWheel(int delta)
+{
+    // Touch pads and fine wheels turn by parts of a step.
+    m_turned += delta;
+    const int steps = m_turned / WheelStep;
+    m_turned %= WheelStep;
+    const bool isFarther = steps < 0;
+    if (isFarther || (steps > 0 && zoomLevel() < HighestByWheel)) {
+        GraphicsRenderer::mouseWheel(steps * WheelStep);
+    }
 }
 
 }  // namespace App

@@ -21,6 +21,7 @@ public:
     void mouseReleased(QPoint pos, Qt::MouseButton button,
                        Qt::KeyboardModifiers modifiers) override;
     void mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers) override;
+    void mouseWheel(int delta) override;
 
     /// Where the pointer was last, in pixels of the widget.
     QPoint pointer() const { return m_pointer; }
@@ -42,6 +43,7 @@ private:
     bool takeKey(int key);
 
     QPoint m_pointer;
+    int m_turned = 0;       // of the wheel, less than a step
     bool m_isHeld = false;  // by the left button
 };
 
