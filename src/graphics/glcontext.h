@@ -11,7 +11,8 @@ class Resetter;
 
 /// The GL context of the process, which textures are made in. It is made on first use, shares its
 /// objects with every widget's context, and is freed when the application ends. The application
-/// must have set `Qt::AA_ShareOpenGLContexts` before it was constructed.
+/// must have set `Qt::AA_ShareOpenGLContexts` before it was constructed. The first call leaves it
+/// current, unless another context was.
 ///
 /// Main thread only, as everything here. Never null; `isContextUsable()` tells if GL works.
 ZORV_EXPORT QOpenGLContext* context();
@@ -20,7 +21,7 @@ ZORV_EXPORT QOpenGLContext* context();
 ZORV_EXPORT QOffscreenSurface* surface();
 
 /// True if the context could be made and be made current: false without a display, or with a
-/// driver that does not work. Costs nothing after the first call.
+/// driver that does not work.
 ZORV_EXPORT bool isContextUsable();
 
 /// Frees context, surface and `Resetter`, and with them the name of every texture that is left.

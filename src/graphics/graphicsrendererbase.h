@@ -8,8 +8,10 @@ namespace Zorv {
 class ZORV_EXPORT GraphicsRendererBase : public Renderer
 {
 public:
-    /// One level nearer or farther, as far as there is one.
+    /// One level nearer, or nothing at the nearest.
     virtual void addZoom() = 0;
+
+    /// One level farther, or nothing at the farthest.
     virtual void subZoom() = 0;
 
     /// One pixel of the game is one of the widget.

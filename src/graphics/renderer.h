@@ -55,7 +55,7 @@ public:
     virtual void mouseReleased(QPoint pos, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     virtual void mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers);
 
-    /// In eighths of a degree; 120 is a step of a usual wheel.
+    /// In eighths of a degree; 120 is a step of a usual wheel. Of the two directions the greater.
     virtual void mouseWheel(int delta);
     virtual void sizeChanged(int width, int height);
     virtual void render(QPainter& painter) = 0;
@@ -82,7 +82,10 @@ public:
                      float opacity, bool mask, unsigned char shader);
 
     /// Draws an image side by side, as the unit square under `matrix` each. A number of `tiles`
-    /// below 2 becomes as many as the widget holds; `spacing` is the gap between them.
+    /// below 2 becomes as many as the widget holds at one pixel a texel; `spacing` is the gap
+    /// between them in parts of the widget's size, and with one `flip` is ignored. Of more than
+    /// 65,536 tiles those outside of the widget are left out, and with `spacing` those above
+    /// 65,536 that are left.
     void glDrawImageTiled(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix, Texture* image,
                           Texture* palette, unsigned char flip, float opacity, bool mask);
 

@@ -33,14 +33,19 @@ public:
 
     /// Takes other fragment shaders, for images with a palette and for true colour; null is that
     /// of the library. Either is compiled four times, with GRAYSCALE, LIGHTER, DARKER and none of
-    /// them defined. One that does not compile draws nothing.
+    /// them defined. One that does not compile draws nothing. Ignored until `initialize()`.
+    ///
+    /// What a program has already stays in it, and two `main()` draw nothing: to replace the
+    /// library's, call `removeAllShaders()` of each `QOpenGLShaderProgram` child of the widget
+    /// first.
     void setCustomPixelShader(const char* indexedSource, const char* rgbaSource);
 
 signals:
     /// GL is ready for the first time, or again after the widget got another context.
     void initialize();
 
-    /// Comes in every draw, when all uniforms of the library are set.
+    /// Comes in every draw, when all uniforms of the library are set. A slot may set uniforms and
+    /// bind textures; the next draw sets all anew.
     void setCustomShaderUniformValues(QOpenGLShaderProgram* program);
 
 protected:

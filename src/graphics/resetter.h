@@ -6,7 +6,9 @@
 
 namespace Zorv {
 
-/// Brings the deletion of a texture to the thread that owns the GL context.
+/// Brings the deletion of a texture to the thread that owns the GL context: in that thread the
+/// signal deletes at once, from others when the event loop comes to it. The library has one,
+/// `s_resetter`, which lives as long as the context.
 class ZORV_EXPORT Resetter : public QObject
 {
     Q_OBJECT
