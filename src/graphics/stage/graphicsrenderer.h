@@ -136,8 +136,8 @@ public:
     void setOnionSkin(bool enabled, OnionEffect effect, float opacity);
 
     /// That sprite, and the place of the anchor of the main cross on it in model units. Compares
-    /// the sprite alone: the offset of the same sprite changes by way of null. Not owned: null is to
-    /// be set before it goes.
+    /// the sprite alone: the offset of the same sprite changes by way of null. Not owned: null is
+    /// to be set before it goes.
     void setOnionSkinSprite(const Sprite* sprite, QPoint offset);
 
     /// @}
