@@ -35,7 +35,6 @@ Zorv::Texture* SpriteTextures::texture(const PixelData* pixels, bool asIndices,
         }
         texture = new Zorv::Texture;
         texture->fromImage(source);
-        // One that is larger than the limit stays by itself until the next one comes.
         m_textures.insert(key, texture, std::min(bytesOf(source), m_textures.maxCost()));
     }
     return texture->id != 0 ? texture : nullptr;

@@ -24,6 +24,9 @@ class PixelData;
 class SpriteTextures
 {
 public:
+    /// `limit` is in bytes; a texture that is larger stays by itself until the next one comes.
+    explicit SpriteTextures(int limit = 128 * 1024 * 1024) : m_textures(limit) {}
+
     /// The texture of pixels: of indices if `image` gives any and `asIndices` is set, otherwise of
     /// colours. Null where GL does not work, and for an image that is null, which is not asked for
     /// again. Good until the next call.
@@ -42,9 +45,7 @@ public:
 private:
     using Key = QPair<const PixelData*, bool>;
 
-    static constexpr int MostBytes = 128 * 1024 * 1024;
-
-    QCache<Key, Zorv::Texture> m_textures{MostBytes};
+    QCache<Key, Zorv::Texture> m_textures;
     QSet<const PixelData*> m_released;
 };
 
