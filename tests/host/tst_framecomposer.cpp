@@ -328,6 +328,8 @@ void TestFrameComposer::refusesWhatCannotBeDrawn_data()
                                << QStringLiteral("131072 by 131072 pixels");
     QTest::newRow("turned, too large") << QStringLiteral("frame 0,1  scale 64,64  angle 5") << 64.0F
                                        << QStringLiteral("which is too large");
+    QTest::newRow("hardly turned") << QStringLiteral("frame 0,1  scale 64,64  angle 0.000001")
+                                   << 64.0F << QStringLiteral("which is too large");
     QTest::newRow("far away") << QStringLiteral("frame 0,0  offset 2147483647,-2147483648") << 64.0F
                               << QString();
     QTest::newRow("no zoom") << fine << 0.0F << zoom;

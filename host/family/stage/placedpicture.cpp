@@ -57,6 +57,25 @@ struct Line
     }
 };
 
+/// The whole numbers n of a range for which `start` + n * `step` lies from 0 up to below an end.
+void cutSteps(qint64 start, qint64 step, qint64 end, qint64* first, qint64* last)
+{
+    if (step < 0) {
+        // Seen from the other end.
+        start = end - 1 - start;
+        step = -step;
+    }
+    if (start < 0) {
+        *first = step == 0 ? *last + 1 : std::max(*first, (-start + step - 1) / step);
+    }
+    const qint64 left = end - 1 - start;
+    if (left < 0) {
+        *last = *first - 1;
+    } else if (step > 0) {
+        *last = std::min(*last, left / step);
+    }
+}
+
 qint64 fixed(double place, double end)
 {
     return qint64(std::floor(std::clamp(place, -1.0, end + 1) * One));
@@ -174,26 +193,22 @@ PlacedPicture::Span PlacedPicture::spanAt(int y) const
         return {};
     }
     Span span;
-    span.first = int(first);
-    span.count = int(last) - span.first + 1;
     span.u = fixed(u.slope * first + u.start, width);
     span.v = fixed(v.slope * first + v.start, height);
     span.du = std::llround(u.slope * One);
     span.dv = std::llround(v.slope * One);
-    // Rounding may put an end a hair outside.
-    const auto isInside = [&](qint64 n) {
-        const qint64 atU = span.u + n * span.du;
-        const qint64 atV = span.v + n * span.dv;
-        return atU >= 0 && atV >= 0 && (atU >> 32) < m_texels.width() &&
-               (atV >> 32) < m_texels.height();
-    };
-    for (; span.count > 0 && !isInside(0); --span.count) {
-        ++span.first;
-        span.u += span.du;
-        span.v += span.dv;
+    // Rounding may have put an end a hair outside.
+    qint64 skipped = 0;
+    qint64 until = qint64(last) - qint64(first);
+    cutSteps(span.u, span.du, qint64(m_texels.width()) << 32, &skipped, &until);
+    cutSteps(span.v, span.dv, qint64(m_texels.height()) << 32, &skipped, &until);
+    if (skipped > until) {
+        return {};
     }
-    for (; span.count > 0 && !isInside(span.count - 1); --span.count) {
-    }
+    span.first = int(first) + int(skipped);
+    span.count = int(until - skipped) + 1;
+    span.u += skipped * span.du;
+    span.v += skipped * span.dv;
     return span;
 }
 
