@@ -68,7 +68,7 @@ namespace {
 
 constexpr QSize Size(64, 48);
 
-/// Draws what a test wants, and writes down what it is told.
+/// Draws what a test wants, and writes down what comes in.
 class Canvas : public Renderer
 {
 public:
@@ -636,14 +636,14 @@ void TestRenderWidget::isLeftAsPainterExpects()
         setAlphaBlending();
         s->canvas.glDrawImage(placed({0, 0, 64, 48}), &texture, &colors, 0, 0.5F, true, 0);
         s->canvas.glEndTextureDrawing();
-        const std::pair<GLenum, int> told[] = {{GL_CURRENT_PROGRAM, 0},
-                                               {GL_ACTIVE_TEXTURE, GL_TEXTURE1},
-                                               {GL_TEXTURE_BINDING_2D, 0},
-                                               {GL_BLEND, 0},
-                                               {GL_BLEND_EQUATION, GL_FUNC_ADD},
-                                               {GL_BLEND_SRC_RGB, GL_SRC_ALPHA},
-                                               {GL_BLEND_DST_RGB, GL_ONE_MINUS_SRC_ALPHA}};
-        for (const auto& [name, expected] : told) {
+        const std::pair<GLenum, int> states[] = {{GL_CURRENT_PROGRAM, 0},
+                                                 {GL_ACTIVE_TEXTURE, GL_TEXTURE1},
+                                                 {GL_TEXTURE_BINDING_2D, 0},
+                                                 {GL_BLEND, 0},
+                                                 {GL_BLEND_EQUATION, GL_FUNC_ADD},
+                                                 {GL_BLEND_SRC_RGB, GL_SRC_ALPHA},
+                                                 {GL_BLEND_DST_RGB, GL_ONE_MINUS_SRC_ALPHA}};
+        for (const auto& [name, expected] : states) {
             GLint value = -1;
             s->canvas.glGetIntegerv(name, &value);
             QCOMPARE(value, expected);
