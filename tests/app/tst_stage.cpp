@@ -61,6 +61,7 @@ private slots:
     void partsAreShownAndHidden_data();
     void partsAreShownAndHidden();
     void settingsAreApplied();
+    void zoomsAboutAPlace();
     void placeIsKept();
     void wheelZooms();
 
@@ -472,6 +473,25 @@ void tst_Stage::settingsAreApplied()
     QFile::remove(file);
     m->window()->reconfig();
     QCOMPARE(colourAt({21, 6}), QColor(10, 200, 30));
+}
+
+/// One of two places stays where it is, by keys as by the wheel.
+void tst_Stage::zoomsAboutAPlace()
+{
+    const QPoint middle = m->widget()->rect().center();
+    for (const int center : {1, 0}) {
+        m->fixture.host.setOption("zoom_center", center);
+        m->window()->reconfig();
+        m->stage()->setOrigin(middle - QPoint(40, 20));
+        m->stage()->setZoomLevel(5);
+        const QPoint place = center == 1 ? QPoint() : QPoint(20, 10);
+        const QPoint before = m->at(place);
+        QTest::keyClick(m->widget(), Qt::Key_Plus);
+        QVERIFY((m->at(place) - before).manhattanLength() <= 2);
+        m->stage()->mouseWheel(-360);
+        QVERIFY((m->at(place) - before).manhattanLength() <= 2);
+        QVERIFY(m->stage()->zoom() < 2);
+    }
 }
 
 void tst_Stage::placeIsKept()

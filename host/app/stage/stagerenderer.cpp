@@ -1,5 +1,10 @@
 #include "app/stage/stagerenderer.h"
 
+#include "core/interface.h"
+#include "graphics/renderwidget.h"
+
+#include <QVariant>
+
 namespace App {
 
 namespace {
@@ -17,6 +22,29 @@ public:
 private:
     Q_DISABLE_COPY(Input)
     StageRenderer* m_stage;
+};
+
+/// A zoom about the middle of the widget. By itself it moves nothing that hangs on the origin, and
+/// so nothing that stands on this stage.
+class Zooming
+{
+public:
+    explicit Zooming(StageRenderer* stage) : m_stage(stage), m_before(stage->zoom()) {}
+
+    ~Zooming()
+    {
+        const QVariant center = Zorv::Interface::instance()->option(QStringLiteral("zoom_center"));
+        if (m_stage->widget() && center.toInt() == StageRenderer::ZoomAboutCenter) {
+            const QPoint middle = m_stage->widget()->rect().center();
+            m_stage->setOrigin(middle +
+                               (m_stage->origin() - middle) * (m_stage->zoom() / m_before));
+        }
+    }
+
+private:
+    Q_DISABLE_COPY(Zooming)
+    StageRenderer* m_stage;
+    float m_before;
 };
 
 }  // namespace
@@ -104,8 +132,27 @@ void StageRenderer::mouseWheel(int delta)
     m_turned %= WheelStep;
     const bool isFarther = steps < 0;
     if (isFarther || (steps > 0 && zoomLevel() < HighestByWheel)) {
+        const Zooming zooming(this);
         GraphicsRenderer::mouseWheel(steps * WheelStep);
     }
+}
+
+void StageRenderer::addZoom()
+{
+    const Zooming zooming(this);
+    GraphicsRenderer::addZoom();
+}
+
+void StageRenderer::subZoom()
+{
+    const Zooming zooming(this);
+    GraphicsRenderer::subZoom();
+}
+
+void StageRenderer::zoomActual()
+{
+    const Zooming zooming(this);
+    GraphicsRenderer::zoomActual();
 }
 
 }  // namespace App

@@ -23,6 +23,11 @@ public:
     void mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers) override;
     void mouseWheel(int delta) override;
 
+    /// Where the settings say so, the place in the middle of the stage stays there.
+    void addZoom() override;
+    void subZoom() override;
+    void zoomActual() override;
+
     /// Where the pointer was last, in pixels of the widget.
     QPoint pointer() const { return m_pointer; }
 
