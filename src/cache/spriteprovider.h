@@ -25,7 +25,7 @@ public:
     virtual Sprite* at(unsigned index) const = 0;
 
     /// What the stage asks for by key: 0 position, 1 mode, 2 parent, 3 size, 4 scale, 5 flip,
-    /// 6 rotation in degrees, 7 layer. An invalid value leaves the stage's own.
+    /// 6 rotation in degrees, 7 layer. An invalid value is (1,1) for the scale, 0 for the others.
     virtual QVariant property(unsigned index, unsigned key) const = 0;
 
 signals:

@@ -325,6 +325,12 @@ void tst_StageScene::providerIsFollowed()
     emit provider->changed();
     QCOMPARE(stage.indexOfItem(GraphicsRenderer::SpriteType, &sprites[1]), 0);
     QCOMPARE(stage.scene().spriteItems.size(), 2);
+    // What it does not tell of a sprite is not that of the sprite before.
+    const SpriteItem plain = stage.scene().spriteItems.at(0);
+    QCOMPARE(QPoint(plain.mode, plain.parent), QPoint(0, 0));
+    QCOMPARE(plain.size, QSize(0, 0));
+    QCOMPARE(plain.scale, QPointF(1, 1));
+    QCOMPARE(QPointF(plain.flip, double(plain.rotation)), QPointF(0, 0));
 
     StageData::Provider other;
     stage.setSprites(&other);

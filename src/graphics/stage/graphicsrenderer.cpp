@@ -158,7 +158,7 @@ void GraphicsRenderer::spriteChangedAt(unsigned int index)
     if (!provider || index >= static_cast<unsigned>(d->spriteItems.size())) {
         return;
     }
-    SpriteItem item = d->spriteItems[static_cast<int>(index)];
+    SpriteItem item;
     const auto take = [provider, index](unsigned key, auto& field) {
         using Field = std::decay_t<decltype(field)>;
         const QVariant value = provider->property(index, key);

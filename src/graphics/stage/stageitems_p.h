@@ -46,7 +46,7 @@ struct SpriteItem
     unsigned char layer = 0;
     unsigned short parent = 0;
     QPoint position;
-    QSize size;
+    QSize size{0, 0};
     QPointF scale{1, 1};
     unsigned char flip = 0;
     float rotation = 0;  // degrees, clockwise on the screen
@@ -62,7 +62,7 @@ struct ZORV_EXPORT ContactItem
     double y = 0;
     double width = 0;
     double height = 0;
-    QRect source;  // the box in the text, from which a resize starts
+    QRect source;  // the box in the text when a resize began
     bool selected = false;
 
     /// Rounded, with right and bottom inclusive.
