@@ -547,6 +547,11 @@ void TestStageInput::modesInTheMiddleOfADrag()
     QCOMPARE(renderer.clickMode(), GraphicsRenderer::PositioningMode);
     QCOMPARE(renderer.hitTest({210, 210}), GraphicsRenderer::StageElement);
 
+    // A box that was moved is stretched from where it is now.
+    stage.drag({{50, 47}});
+    stage.drag({{84, 81}, {94, 81}});
+    QCOMPARE(stage.lists[0]->at(0)->rect(), QRect(-55, -58, 50, 40));
+
     // The list is another one in the middle of a drag.
     stage.press({50, 50});
     StageData::Boxes none(ContactBoxCode::Attack);
@@ -561,7 +566,7 @@ void TestStageInput::modesInTheMiddleOfADrag()
     emit stage.provider.changed();
     renderer.mouseMoved({150, 150}, Qt::NoModifier);
     stage.release({150, 150});
-    QCOMPARE(released.count(), 2);
+    QCOMPARE(released.count(), 3);
 }
 
 void TestStageInput::capture()

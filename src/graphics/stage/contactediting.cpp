@@ -67,6 +67,20 @@ void GraphicsRendererPrivate::moveContact(QPoint delta)
                           stageSum(selectionRect.bottomRight(), {dx, dy}));
 }
 
+// Boxes that have moved since they were set are in the text where they are now.
+void GraphicsRendererPrivate::beginResize()
+{
+    selectionStart = selectionRect;
+    for (ContactBoxes& boxes : contactBoxes) {
+        for (int i = 0; i < boxes.items.size(); ++i) {
+            ContactItem& item = boxes.items[i];
+            if (const ContactBoxCode* box = boxes.code.box(i, item.selected ? item.box : nullptr)) {
+                item.source = box->rect();
+            }
+        }
+    }
+}
+
 void GraphicsRendererPrivate::resizeContact(RenderElement sizer, QPoint delta)
 {
     // What was selected at the press may be so no more.

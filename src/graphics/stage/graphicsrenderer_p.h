@@ -104,6 +104,7 @@ public:
     // contactediting.cpp
     void sizeMoveContact(bool size, RenderElement sizer, QPoint delta);
     void moveContact(QPoint delta);
+    void beginResize();
     void resizeContact(RenderElement sizer, QPoint delta);
     void resetSelectionRect();
     void updateBoxSelection(const QRect& rect);

@@ -124,7 +124,7 @@ void GraphicsRendererPrivate::pressInOtherModes(QPoint pos, Qt::KeyboardModifier
     if (element == GraphicsRenderer::ContactBoxElement) {
         pressOnBox(isShift);
     } else if (isSizer(element)) {
-        selectionStart = selectionRect;
+        beginResize();
     } else if (clickMode == GraphicsRenderer::CaptureMode) {
         pressInCaptureMode(pos);
     }
