@@ -96,7 +96,7 @@ void fillWidget(int& tiles, double& offset, int widgetSide, int imageSide, doubl
 {
     if (tiles < 2) {
         tiles = qCeil(double(widgetSide) / imageSide);
-        offset = -double(imageSide) * qCeil(origin / imageSide);
+        offset = -double(imageSide) * std::ceil(origin / imageSide);
     }
 }
 
