@@ -92,22 +92,26 @@ void Renderer::glDrawImage(const QMatrix4x4& matrix, Texture* image, Texture* pa
     }
     state->setMaskAndOpacity(*this, mask, opacity);
     state->setMatrix(*this, state->projection * matrix);
-    letOthersSetUniforms();
+    if (!letOthersSetUniforms()) {
+        return;
+    }
     const float* const texCoords =
         state->unitTexCoords(float(image->uMax), float(image->vMax), flip);
     state->draw(*this, s_unitSquare, texCoords, 6);
 }
 
-// Whoever listens may set any uniform, bind textures and leave another unit active.
-void Renderer::letOthersSetUniforms()
+// Whoever listens may set any uniform, bind textures and leave another unit active. False if the
+// widget has gone meanwhile.
+bool Renderer::letOthersSetUniforms()
 {
     TextureDrawing& state = m_widget->d->drawing;
     emit m_widget->setCustomShaderUniformValues(state.lastProgram);
     static const QMetaMethod signal =
         QMetaMethod::fromSignal(&RenderWidget::setCustomShaderUniformValues);
-    if (m_widget->isSignalConnected(signal)) {
+    if (m_widget && m_widget->isSignalConnected(signal)) {
         state.forget();
     }
+    return m_widget;
 }
 
 void Renderer::update()

@@ -99,7 +99,7 @@ private:
     friend class RenderWidget;
 
     TextureDrawing* drawing() const;
-    void letOthersSetUniforms();
+    bool letOthersSetUniforms();
     void drawRepeated(QPoint tiles, const Texture& image, unsigned char flip,
                       const QMatrix4x4& matrix);
     void drawTiles(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix);

@@ -6,6 +6,7 @@
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 
+#include <algorithm>
 #include <utility>
 
 // OpenGL ES has none of these.
@@ -62,7 +63,14 @@ bool isWhole(const Texture::ImageData& data)
 {
     const QSize size = data.textureSize;
     return !data.bytes.isEmpty() && !size.isEmpty() && !data.size.isEmpty() &&
-           qint64(size.width()) * size.height() * (data.indexed ? 1 : 4) <= data.bytes.size();
+           qint64(size.width()) * size.height() <= data.bytes.size() / (data.indexed ? 1 : 4);
+}
+
+bool isTooLarge(QOpenGLFunctions& gl, const QSize& size)
+{
+    GLint largest = 0;
+    gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
+    return std::max(size.width(), size.height()) > largest;
 }
 
 }  // namespace
@@ -137,6 +145,10 @@ void Texture::fromData(const ImageData& data)
     uMax = double(float(size.width()) / float(data.textureSize.width()));
     vMax = double(float(size.height()) / float(data.textureSize.height()));
     kind = data.indexed ? IndexedKind : RgbaKind;
+    if (isTooLarge(*scope.gl(), data.textureSize)) {
+        // A name without an image would be drawn in black.
+        deleteName(scope.gl());
+    }
 }
 
 void Texture::reset()

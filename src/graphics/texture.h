@@ -53,8 +53,8 @@ public:
     void fromPalette(const RGBA* palette);
 
     /// Makes the texture of prepared data. Empty or too few bytes delete what was there; `id` and
-    /// the rest keep their values then, and the texture draws nothing. So it is for an image larger
-    /// than `GL_MAX_TEXTURE_SIZE`, but for its fields.
+    /// the rest keep their values then, and the texture draws nothing. One larger than
+    /// `GL_MAX_TEXTURE_SIZE` draws nothing either, but has its fields.
     void fromData(const ImageData& data);
 
     /// Prepares an upload. An image that is not indexed must have 32 bits a pixel and no bytes

@@ -128,7 +128,9 @@ void Renderer::glDrawImageTiled(QPoint tiles, QPoint spacing, const QMatrix4x4& 
     moved = state->projection * moved;
     state->setMatrix(*this, moved);
     state->setMaskAndOpacity(*this, mask, opacity);
-    letOthersSetUniforms();
+    if (!letOthersSetUniforms()) {
+        return;
+    }
     if (spacing.isNull() && (supportNPOT || isEven)) {
         drawRepeated(tiles, *image, flip, moved);
     } else {
