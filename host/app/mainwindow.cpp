@@ -296,10 +296,23 @@ void MainWindow::currentDocumentChanged(FamilyDocument* document)
 
 void MainWindow::followCursor()
 {
-    const int line = m_code->editor()->textCursor().blockNumber();
-    m_animations->followCursor(line);
-    m_stage->controller()->followLine(line);
-    followSprite(line);
+    m_animations->followCursor(m_code->editor()->textCursor().blockNumber());
+    // A jump takes the cursor through other frames, to bring its line to the middle.
+    if (!m_isFollowPending) {
+        m_isFollowPending = true;
+        QTimer::singleShot(0, this, &MainWindow::followFrame);
+    }
+}
+
+/// The frame of the cursor is shown, and the sprite that its line names.
+void MainWindow::followFrame()
+{
+    m_isFollowPending = false;
+    if (const Zorv::CodeEditor* edit = currentEdit()) {
+        const int line = edit->textCursor().blockNumber();
+        m_stage->controller()->followLine(line);
+        followSprite(line);
+    }
 }
 
 /// The sprite that the line of the cursor names becomes the current one.

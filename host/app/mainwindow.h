@@ -186,6 +186,7 @@ private:
     void updateHint();
     void updateMessages();
     void updateAssets();
+    void followFrame();
     void followSprite(int line);
     void focusPanel(int step);
     void statusBarText(const QString& text);
@@ -211,6 +212,7 @@ private:
     WindowActions* m_actions;
     ControlPlacer* m_controls;
     bool m_isUpdatePending = false;
+    bool m_isFollowPending = false;
 };
 
 }  // namespace App

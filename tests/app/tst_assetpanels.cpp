@@ -138,8 +138,10 @@ void tst_AssetPanels::showsWhatIsInSight()
 void tst_AssetPanels::followsTheCursor()
 {
     m->fixture.goTo(8);
+    QCoreApplication::processEvents();
     QCOMPARE(panel()->currentSprite()->id(), (AssetId{0, 2}));
     m->fixture.goTo(2);
+    QCoreApplication::processEvents();
     QCOMPARE(panel()->currentSprite()->id(), (AssetId{0, 0}));
 }
 

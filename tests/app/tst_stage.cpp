@@ -52,6 +52,7 @@ private slots:
     void colourIsCaptured_data();
     void colourIsCaptured();
     void textLeadsTheStage();
+    void jumpsShowTheFirstFrame();
     void scrubbingLeadsTheText();
     void plays();
     void closesWhileItPlays_data();
@@ -294,6 +295,15 @@ void tst_Stage::textLeadsTheStage()
     m->click(Empty);
     m->click({50, -15});
     QVERIFY(m->stage()->selectedContactBoxes().isEmpty());
+}
+
+/// A jump brings its line to the middle of the text by way of lines below it.
+void tst_Stage::jumpsShowTheFirstFrame()
+{
+    QTextCursor(m->document()).insertText(QString("\n").repeated(80));
+    m->goTo(80 + 8);
+    QCOMPARE(m->controller()->animation()->identifier(), QString("2"));
+    QCOMPARE(m->controller()->frameIndex(), 0);
 }
 
 void tst_Stage::scrubbingLeadsTheText()
