@@ -75,7 +75,8 @@ Centre centreAt(const FramePose& pose, float zoom, QPoint pixel)
         return {-1, {}};
     }
     QTransform matrix;
-    matrix.translate(qRound(float(pose.axis.x()) * zoom), qRound(float(pose.axis.y()) * zoom));
+    matrix.translate(qRound(float(pose.axis.x()) * zoom) + 4 / 256.0,
+                     qRound(float(pose.axis.y()) * zoom) + 7 / 256.0);
     matrix.rotate(double(pose.rotation));
     matrix.translate(scaled(pose.position.x(), pose.scale.x()),
                      scaled(pose.position.y(), pose.scale.y()));

@@ -1,8 +1,12 @@
 #include "app/stage/stagerenderer.h"
 
+#include "cache/palette.h"
+#include "cache/sprite.h"
 #include "core/interface.h"
+#include "family/stage/placedpicture.h"
 #include "graphics/renderwidget.h"
 
+#include <QMatrix4x4>
 #include <QVariant>
 
 namespace App {
@@ -153,6 +157,27 @@ void StageRenderer::zoomActual()
 {
     const Zooming zooming(this);
     GraphicsRenderer::zoomActual();
+}
+
+void StageRenderer::renderSprite(QPoint base, QPoint offset, QSize size, float rotation,
+                                 unsigned char flip, Zorv::Sprite* sprite, unsigned int)
+{
+    Zorv::Texture* const image = sprite ? sprite->texture() : nullptr;
+    if (!image) {
+        return;
+    }
+    using Placed = Family::PlacedPicture;
+    QMatrix4x4 matrix;
+    matrix.translate(float(base.x()) + float(Placed::HairX) / Placed::HairParts,
+                     float(base.y()) + float(Placed::HairY) / Placed::HairParts);
+    matrix.rotate(rotation, 0, 0, 1);
+    matrix.translate(float(offset.x()), float(offset.y()));
+    matrix.scale(float(size.width()), float(size.height()));
+    glSetBlend(true);
+    glSetBlendEquation(Add);
+    glSetBlendFunction(SourceAlpha, OneMinusSourceAlpha);
+    const Zorv::Palette* palette = sprite->palette();
+    glDrawImage(matrix, image, palette ? palette->texture() : nullptr, flip, 1.0F, true, Plain);
 }
 
 }  // namespace App

@@ -44,6 +44,12 @@ signals:
     /// `isFree` if there was no drawing or capturing to be left.
     void escapePressed(bool isFree);
 
+protected:
+    /// A hair away, as frames are composed: else what is between two pixels of a picture would
+    /// show one or the other by chance, and pictures that are zoomed would shiver in a drag.
+    void renderSprite(QPoint base, QPoint offset, QSize size, float rotation, unsigned char flip,
+                      Zorv::Sprite* sprite, unsigned int index) override;
+
 private:
     bool takeKey(int key);
 

@@ -14,6 +14,10 @@ namespace {
 const int Farthest = 1 << 28;
 const double One = 4294967296.0;  // of places in a picture
 
+// Where in a pixel of the stage it is looked at what lies there.
+const double SeenX = 0.5 - double(PlacedPicture::HairX) / PlacedPicture::HairParts;
+const double SeenY = 0.5 - double(PlacedPicture::HairY) / PlacedPicture::HairParts;
+
 template <class Real>
 bool isNear(Real value)
 {
@@ -31,10 +35,12 @@ int truncated(double value)
     return isNear(value) ? int(value) : farthest(value);
 }
 
-/// The texel under the centre of a pixel, of so many pixels over so many texels.
-int texelUnder(qint64 pixel, qint64 pixels, qint64 texels)
+/// The texel under a pixel, of so many pixels over so many texels, looked at a hair (in parts)
+/// behind its centre.
+int texelUnder(qint64 pixel, qint64 pixels, qint64 texels, int hair)
 {
-    return int((2 * pixel + 1) * texels / (2 * pixels));
+    constexpr qint64 parts = PlacedPicture::HairParts;
+    return int((parts * pixel + parts / 2 + hair) * texels / (parts * pixels));
 }
 
 /// A place in a picture along a line of the stage: `slope` * x + `start`.
@@ -145,29 +151,31 @@ QRect PlacedPicture::coveredByTurned() const
         top = i == 0 ? turnedY : std::min(top, turnedY);
         bottom = i == 0 ? turnedY : std::max(bottom, turnedY);
     }
-    const QPoint first(truncated(std::ceil(left - 0.5)), truncated(std::ceil(top - 0.5)));
-    const QPoint last(truncated(std::ceil(right - 0.5) - 1),
-                      truncated(std::ceil(bottom - 0.5) - 1));
+    const QPoint first(truncated(std::ceil(left - SeenX)), truncated(std::ceil(top - SeenY)));
+    const QPoint last(truncated(std::ceil(right - SeenX) - 1),
+                      truncated(std::ceil(bottom - SeenY) - 1));
     return first.x() <= last.x() && first.y() <= last.y() ? QRect(first, last) : QRect();
 }
 
-// Rows of a texture are counted from the bottom: a centre between two rows shows the upper one, and
-// one between two columns the right one, unless they are mirrored.
+int PlacedPicture::texelOf(int distance, int pixels, int texels, bool isReversed, int hair)
+{
+    const bool isBackward = pixels < 0;
+    const int length = std::abs(pixels);
+    const int pixel = isBackward ? -1 - distance : distance;
+    return texelUnder(isReversed ? length - 1 - pixel : pixel, length, texels,
+                      isBackward == isReversed ? -hair : hair);
+}
+
 int PlacedPicture::columnAt(int x) const
 {
-    const int from = m_base.x() + m_corner.x();
-    const int pixels = std::abs(m_size.width());
-    const int pixel = m_size.width() > 0 ? x - from : from - 1 - x;
-    return texelUnder(m_mirrored ? pixels - 1 - pixel : pixel, pixels, m_texels.width());
+    return texelOf(x - m_base.x() - m_corner.x(), m_size.width(), m_texels.width(), m_mirrored,
+                   HairX);
 }
 
 int PlacedPicture::rowAt(int y) const
 {
-    const int from = m_base.y() + m_corner.y();
-    const int pixels = std::abs(m_size.height());
-    const int pixel = m_size.height() > 0 ? y - from : from - 1 - y;
-    return m_texels.height() - 1 -
-           texelUnder(m_upsideDown ? pixel : pixels - 1 - pixel, pixels, m_texels.height());
+    return texelOf(y - m_base.y() - m_corner.y(), m_size.height(), m_texels.height(), m_upsideDown,
+                   HairY);
 }
 
 PlacedPicture::Span PlacedPicture::spanAt(int y) const
@@ -177,8 +185,8 @@ PlacedPicture::Span PlacedPicture::spanAt(int y) const
     }
     const double width = m_texels.width();
     const double height = m_texels.height();
-    const double down = y + 0.5 - m_base.y();
-    const double right = 0.5 - m_base.x();
+    const double down = y + SeenY - m_base.y();
+    const double right = SeenX - m_base.x();
     Line u{m_cos * width / m_size.width(),
            (right * m_cos + down * m_sin - m_corner.x()) * width / m_size.width()};
     Line v{-m_sin * height / m_size.height(),

@@ -11,11 +11,19 @@ struct FramePose;
 /// A picture in a pose at a zoom: which of its pixels stands where on the stage.
 ///
 /// The stage is counted in its own pixels from the origin, y downward. Everything is rounded as
-/// `Zorv::GraphicsRenderer` does it, and a pixel of the stage shows what lies under its centre.
-/// What is too far away for whole numbers stands at about 2^28.
+/// `Zorv::GraphicsRenderer` does it, and a pixel of the stage shows what lies under its centre. The
+/// picture stands a hair to the right and below, for centres would else lie right between two of
+/// its pixels at many zooms and scales, where any graphics driver shows another one. What is too
+/// far away for whole numbers stands at about 2^28.
 class PlacedPicture
 {
 public:
+    /// The hair, in parts of a pixel of the stage: the steps by which drivers place corners. It
+    /// differs in x and y, so that an eighth of a turn leaves some of it in both.
+    static constexpr int HairParts = 256;
+    static constexpr int HairX = 4;
+    static constexpr int HairY = 7;
+
     /// A part of a line of the stage that the picture covers. Places in the picture have 32 bits
     /// behind the point.
     struct Span
@@ -55,6 +63,7 @@ public:
 
 private:
     QRect coveredByTurned() const;
+    static int texelOf(int distance, int pixels, int texels, bool isReversed, int hair);
 
     QPoint m_base;    // about which it is turned
     QPoint m_corner;  // from there, before the turn

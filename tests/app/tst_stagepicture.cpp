@@ -1,9 +1,9 @@
+#include "app/stage/stagerenderer.h"
 #include "assets/remapmodel.h"
 #include "assets/spritefile.h"
 #include "familyanimations.h"
 #include "familydocument.h"
 #include "graphics/renderwidget.h"
-#include "graphics/stage/graphicsrenderer.h"
 #include "nodes/animationnode.h"
 #include "nodes/framenode.h"
 #include "project/familyparentproject.h"
@@ -66,7 +66,7 @@ public:
 
     SpriteCollection* sprites;
     Zorv::RenderWidget widget;
-    Zorv::GraphicsRenderer renderer;
+    App::StageRenderer renderer;
     FollowedAnimation animation;
     FrameProvider provider;
 };
@@ -76,6 +76,12 @@ struct Difference
     int drawn = 0;    ///< pixels that are not ground on either
     int unequal = 0;  ///< pixels that differ
     int far = 0;      ///< of these, those that no texel explains that is next to the composer's
+
+    /// Nothing is far off, and at most one pixel of 200, or a single one, differs; or none at all.
+    bool isSmall(bool mayDiffer) const
+    {
+        return far == 0 && (unequal == 0 || (mayDiffer && (unequal - 1) * 200 <= drawn));
+    }
 
     Difference& operator+=(const Difference& other)
     {
@@ -236,8 +242,7 @@ void TestStagePicture::samples()
                 }
                 seen.insert(pose);
                 const Difference difference = compare(stage, index);
-                QVERIFY2(difference.far == 0 && (!isPlain || difference.unequal == 0),
-                         told(what, difference).constData());
+                QVERIFY2(difference.isSmall(!isPlain), told(what, difference).constData());
                 turned += isPlain ? Difference() : difference;
                 QVERIFY2(difference.drawn > 0 || !stage.provider.sprite(), qPrintable(what));
             }
@@ -245,7 +250,7 @@ void TestStagePicture::samples()
     }
     QVERIFY(seen.size() > 60);
     qInfo("%s", told(QStringLiteral("turned or scaled"), turned).constData());
-    QVERIFY(turned.drawn > 5000 && turned.unequal * 200 <= turned.drawn);
+    QVERIFY(turned.drawn > 5000 && turned.unequal * 1000 <= turned.drawn);
     delete project;
 }
 
@@ -303,14 +308,12 @@ void TestStagePicture::randomPoses()
         const FrameNode* frame = stage.animation.frame(i);
         const Difference one = compare(stage, i);
         const bool isPlain = i % 4 == 0 && zoom == 1;
-        QVERIFY2(one.far == 0 && (!isPlain || one.unequal == 0),
-                 told(frame->block().text(), one).constData());
+        QVERIFY2(one.isSmall(!isPlain), told(frame->block().text(), one).constData());
         all += one;
     }
     qInfo("%s", told(QStringLiteral("all"), all).constData());
     QVERIFY(all.drawn > 5000);
-    // Zoomed pictures have whole rows of pixels whose centres lie between two texels.
-    QVERIFY(all.unequal * (zoom == 1 ? 200 : 20) <= all.drawn);
+    QVERIFY(all.unequal * 1000 <= all.drawn);
 }
 
 /// What a sprite is shown in changes under a stage that stays, and is drawn at the next repaint.
