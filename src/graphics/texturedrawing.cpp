@@ -45,7 +45,6 @@ void TextureDrawing::deletePrograms()
 
 void TextureDrawing::begin()
 {
-    lastPalette = nullptr;
     lastProgram = nullptr;
     m_isOpen = true;
     // QPainter blends in its own way between two runs.
@@ -74,6 +73,7 @@ void TextureDrawing::end(QOpenGLFunctions& gl)
 
 void TextureDrawing::forget()
 {
+    lastPalette = nullptr;
     m_unit = -1;
     m_hasImage = false;
     m_positions.data = m_texCoords.data = nullptr;

@@ -715,11 +715,12 @@ void TestRenderWidget::takesOtherShaders()
 
 void TestRenderWidget::setsAnewWhatAListenerChanged()
 {
-    Texture image(inColor(indices(4, 4), palette(1)));
-    Texture other(inColor(indices(4, 4), palette(2)));
+    Texture image(indices(4, 4));
+    Texture colors(palette(1).data());
+    Texture other(palette(2).data());
     s->canvas.draw = [&] {
         for (int x : {0, 20, 40}) {
-            s->canvas.glDrawImage(placed({x, 0, 8, 8}), &image, nullptr, 0, 1, true, 0);
+            s->canvas.glDrawImage(placed({x, 0, 8, 8}), &image, &colors, 0, 1, true, 0);
         }
     };
     const QImage expected = painted();
@@ -727,8 +728,10 @@ void TestRenderWidget::setsAnewWhatAListenerChanged()
     connect(&s->widget, &RenderWidget::setCustomShaderUniformValues,
             [&](QOpenGLShaderProgram* program) {
                 if (draws++ == 0) {
-                    s->canvas.glActiveTexture(GL_TEXTURE0);
-                    s->canvas.glBindTexture(GL_TEXTURE_2D, other.id);
+                    for (const GLenum unit : {GL_TEXTURE0, GL_TEXTURE1}) {
+                        s->canvas.glActiveTexture(unit);
+                        s->canvas.glBindTexture(GL_TEXTURE_2D, other.id);
+                    }
                     program->setUniformValue("mask", 0);
                     program->setUniformValue("opacity", 0.0F);
                     program->setUniformValue("matrix", placed({0, 20, 5, 5}));
