@@ -19,13 +19,16 @@ class ZORV_EXPORT SpriteProvider : public QObject
 public:
     using QObject::QObject;
 
+    /// How many there are; asked for again after `changed()`.
     virtual unsigned count() const = 0;
 
     /// Null for an index outside of the list.
     virtual Sprite* at(unsigned index) const = 0;
 
-    /// What the stage asks for by key: 0 position, 1 mode, 2 parent, 3 size, 4 scale, 5 flip,
-    /// 6 rotation in degrees, 7 layer. An invalid value is (1,1) for the scale, 0 for the others.
+    /// What the stage asks for by key: 0 position (`QPoint`), 1 mode (as in positionmode.h),
+    /// 2 parent, 3 size (`QSize`), 4 scale (`QPointF`), 5 flip (bits of `Renderer::Flip`),
+    /// 6 rotation in degrees, clockwise, 7 layer. Lengths are in pixels of the game. An invalid
+    /// value is (1,1) for the scale, 0 for the others.
     virtual QVariant property(unsigned index, unsigned key) const = 0;
 
 signals:

@@ -32,11 +32,6 @@ bool replace(T& field, const T& value)
     return isNew;
 }
 
-bool isBoxType(ContactBoxCode::BoxType type)
-{
-    return type >= 1 && type <= BoxTypes;
-}
-
 /// Of 0 to 1; what is no number is 1.
 float boundedOpacity(float opacity)
 {

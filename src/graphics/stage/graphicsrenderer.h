@@ -172,7 +172,8 @@ public:
     /// what is not there.
     QPoint itemPosition(ItemType type, unsigned int index) const;
 
-    /// Nothing for boxes and for what is not there.
+    /// Nothing for boxes and for what is not there. That of a sprite stays until its provider
+    /// tells of it anew, and so does the mode below.
     void setItemPosition(ItemType type, QPoint position, unsigned int index);
 
     /// For boxes it is the mode of all of them.

@@ -28,11 +28,6 @@ constexpr Qt::CursorShape s_cursors[] = {
 };
 constexpr int ElementCount = sizeof s_cursors / sizeof *s_cursors;
 
-bool isBoxType(ContactBoxCode::BoxType type)
-{
-    return type >= 1 && type <= BoxTypes;
-}
-
 }  // namespace
 
 void GraphicsRendererPrivate::setCursor(const QCursor& cursor)

@@ -86,6 +86,11 @@ struct ZORV_EXPORT ContactBoxes
 
 constexpr int BoxTypes = 8;
 
+inline bool isBoxType(ContactBoxCode::BoxType type)
+{
+    return type >= 1 && type <= BoxTypes;
+}
+
 /// What is behind everything.
 struct Background
 {
