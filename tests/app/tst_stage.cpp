@@ -47,6 +47,7 @@ private slots:
     void dragsBecomeText();
     void boxesAreDrawn_data();
     void boxesAreDrawn();
+    void modesTellTheSelection();
     void boxesGo();
     void keysMoveBoxes();
     void colourIsCaptured_data();
@@ -189,6 +190,27 @@ void tst_Stage::boxesAreDrawn()
     QCOMPARE(m->stage()->selectedContactBoxes().size(), line < 0 ? 0 : 1);
     if (line >= 0) {
         undoesOnce(before);
+    }
+}
+
+/// However a mode is left, the box that was drawn can be deleted; one that begins lets boxes go.
+void tst_Stage::modesTellTheSelection()
+{
+    const QAction* remove = m->fixture.action("anim_box_del");
+    const auto expectEnabled = [remove](bool isEnabled) {
+        QCoreApplication::processEvents();
+        QCOMPARE(remove->isEnabled(), isEnabled);
+    };
+    for (const bool byKey : {true, false}) {
+        m->trigger("anim_box_add_attack");
+        expectEnabled(false);
+        m->drag({100, 10}, {120, 30});
+        byKey ? QTest::keyClick(m->widget(), Qt::Key_Escape) : m->trigger("anim_box_add_attack");
+        expectEnabled(true);
+        QTest::keyClick(m->widget(), Qt::Key_Delete);
+        expectEnabled(false);
+        m->click(Body);
+        expectEnabled(true);
     }
 }
 

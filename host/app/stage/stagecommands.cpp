@@ -287,6 +287,7 @@ void StageCommands::takeMode()
         stage->setPositioningMode();
     }
     m_controller->breakOff();
+    m_controller->followSelection();
     stage->Renderer::update();
     m_view->focusTarget()->setFocus();
 }
@@ -297,6 +298,7 @@ void StageCommands::leaveMode()
         mode->setChecked(false);
     }
     m_view->renderer()->setPositioningMode();
+    m_controller->followSelection();
     m_view->renderer()->Renderer::update();
 }
 

@@ -193,6 +193,15 @@ void StageController::removeSelectedBoxes()
     m_stage->keyPressed(Qt::Key_Delete, Qt::NoModifier);
 }
 
+void StageController::followSelection()
+{
+    const bool hasSelection = !m_stage->selectedContactBoxes().isEmpty();
+    if (hasSelection != m_hasSelection) {
+        m_hasSelection = hasSelection;
+        emit stateChanged();
+    }
+}
+
 void StageController::setOnionFrame(int index)
 {
     m_onion.setFrame(index);
@@ -264,11 +273,7 @@ void StageController::inputTaken()
 {
     --m_inputs;
     update();
-    const bool hasSelection = !m_stage->selectedContactBoxes().isEmpty();
-    if (hasSelection != m_hasSelection) {
-        m_hasSelection = hasSelection;
-        emit stateChanged();
-    }
+    followSelection();
     if (m_inputs == 0 && m_document && m_document->revision() != m_revision) {
         requestEditedLine();
     }

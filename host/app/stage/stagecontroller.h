@@ -67,6 +67,9 @@ public:
     bool hasSelectedBoxes() const { return m_hasSelection; }
     void removeSelectedBoxes();
 
+    /// Looks at what is selected, after a change of the stage's mode.
+    void followSelection();
+
     /// Shows a frame of the animation through; -1 shows none.
     void setOnionFrame(int index);
 
