@@ -12,7 +12,7 @@ FollowedAnimation::~FollowedAnimation() = default;
 
 void FollowedAnimation::setAnimation(AnimationNode* animation)
 {
-    auto* document = animation ? static_cast<FamilyDocument*>(animation->document()) : nullptr;
+    Zorv::CodeDocument* const document = animation ? animation->document() : nullptr;
     if (document != m_document) {
         leave();
         m_document = document;
@@ -31,6 +31,11 @@ void FollowedAnimation::setAnimation(AnimationNode* animation)
                 Qt::UniqueConnection);
     }
     emit changed();
+}
+
+FamilyDocument* FollowedAnimation::document() const
+{
+    return static_cast<FamilyDocument*>(m_document.data());
 }
 
 AnimationNode* FollowedAnimation::animation() const
@@ -95,7 +100,7 @@ void FollowedAnimation::find()
                      ? static_cast<AnimationNode*>(node)
                      : nullptr;
     if (!here || (here != m_known && here->identifier() != m_identifier)) {
-        const FamilyAnimations* list = m_document->animations();
+        const FamilyAnimations* list = document()->animations();
         here = list->animation(list->indexOfIdentifier(m_identifier));
     }
     m_known = here;

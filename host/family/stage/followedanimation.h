@@ -36,7 +36,7 @@ public:
     int frameCount() const;
 
     /// Null for none, and once it is about to close.
-    FamilyDocument* document() const { return m_document; }
+    FamilyDocument* document() const;
 
     /// When its frames stand, as of the last edit.
     const FrameTicks& ticks() const;
@@ -52,7 +52,7 @@ private:
     void follow();
     void find();
 
-    QPointer<FamilyDocument> m_document;
+    QPointer<Zorv::CodeDocument> m_document;  // one of the family until it is about to close
     QTextCursor m_head;
     const void* m_known = nullptr;  // the node as it was, only to be compared
     QString m_identifier;

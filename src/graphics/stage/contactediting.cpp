@@ -165,16 +165,19 @@ void GraphicsRenderer::updateSelectedBoxes()
     int selected = 0;
     BoxEdits edits;
     for (std::size_t list = 0; list < edits.size(); ++list) {
-        const ContactBoxes& boxes = d->contactBoxes[list];
+        ContactBoxes& boxes = d->contactBoxes[list];
         for (int i = 0; i < boxes.items.size(); ++i) {
-            const ContactItem& item = boxes.items.at(i);
+            ContactItem& item = boxes.items[i];
             const ContactBoxCode* box = item.selected ? boxes.code.box(i, item.box) : nullptr;
             if (!box) {
                 continue;
             }
             ++selected;
             if (item.rect() != box->rect()) {
-                edits[list].append({i, item.normalRect()});
+                // One that a handle turned over is the right way round from here on, as in the
+                // text, and so stays selected.
+                item.setRect(item.normalRect());
+                edits[list].append({i, item.rect()});
             }
         }
     }

@@ -203,12 +203,12 @@ void GraphicsRenderer::setContactBoxes(ContactBoxCode::BoxType type, ContactBoxe
         item.box = code->at(index++);
         const QRect rect = item.box ? item.box->rect() : QRect();
         item.source = rect;
-        // One that was turned over by a handle is in the text the right way round.
-        item.selected = item.selected && item.box && item.normalRect() == rect;
-        item.setRect(rect);
-        if (item.selected) {
+        if (item.selected && item.box && item.rect() == rect) {
             d->hasSelection = true;
             d->updateBoxSelection(rect);
+        } else {
+            item.selected = false;
+            item.setRect(rect);
         }
     }
     update();
