@@ -38,6 +38,7 @@ void tst_StageWithoutGl::initTestCase()
     m_fixture = std::make_unique<WindowFixture>(m_folder.filePath("settings.ini"));
     m_fixture->open(m_game, m_game.ryn(), m_game.animations());
     m_fixture->goTo(1);
+    QCoreApplication::processEvents();
     if (stage()->view()->isUsable()) {
         QSKIP("GL works here");
     }
