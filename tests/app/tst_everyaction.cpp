@@ -98,7 +98,8 @@ void tst_EveryAction::prepare()
     // The second animation: it becomes the current one of the list.
     m->goTo(m->document()->animations()->animation(1)->firstLine(), 0, 1);
     m->dialogs.choiceAnswers = {SecondChoice};
-    QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_remove")->isEnabled());
+    QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_remove")->isEnabled() &&
+                m->action("anim_next_frame")->isEnabled());
 }
 
 QMenu* tst_EveryAction::menuOf(const QAction* action) const
