@@ -51,6 +51,15 @@ private:
     float m_before;
 };
 
+QMatrix4x4 aHairBehind(QPoint place)
+{
+    using Placed = Family::PlacedPicture;
+    QMatrix4x4 matrix;
+    matrix.translate(float(place.x()) + float(Placed::HairX) / Placed::HairParts,
+                     float(place.y()) + float(Placed::HairY) / Placed::HairParts);
+    return matrix;
+}
+
 }  // namespace
 
 void StageRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
@@ -162,22 +171,34 @@ void StageRenderer::zoomActual()
 void StageRenderer::renderSprite(QPoint base, QPoint offset, QSize size, float rotation,
                                  unsigned char flip, Zorv::Sprite* sprite, unsigned int)
 {
+    QMatrix4x4 matrix = aHairBehind(base);
+    matrix.rotate(rotation, 0, 0, 1);
+    matrix.translate(float(offset.x()), float(offset.y()));
+    matrix.scale(float(size.width()), float(size.height()));
+    drawSprite(matrix, sprite, flip, 1.0F, Plain);
+}
+
+void StageRenderer::renderOnionSkinSprite(const Zorv::Sprite* sprite, QPoint base, QPoint offset,
+                                          QSize size, float opacity, OnionEffect effect)
+{
+    QMatrix4x4 matrix = aHairBehind(base + offset);
+    matrix.scale(float(size.width()), float(size.height()));
+    drawSprite(matrix, sprite, 0, opacity, Shading(effect));
+}
+
+void StageRenderer::drawSprite(const QMatrix4x4& matrix, const Zorv::Sprite* sprite,
+                               unsigned char flip, float opacity, Shading shading)
+{
     Zorv::Texture* const image = sprite ? sprite->texture() : nullptr;
     if (!image) {
         return;
     }
-    using Placed = Family::PlacedPicture;
-    QMatrix4x4 matrix;
-    matrix.translate(float(base.x()) + float(Placed::HairX) / Placed::HairParts,
-                     float(base.y()) + float(Placed::HairY) / Placed::HairParts);
-    matrix.rotate(rotation, 0, 0, 1);
-    matrix.translate(float(offset.x()), float(offset.y()));
-    matrix.scale(float(size.width()), float(size.height()));
     glSetBlend(true);
     glSetBlendEquation(Add);
     glSetBlendFunction(SourceAlpha, OneMinusSourceAlpha);
     const Zorv::Palette* palette = sprite->palette();
-    glDrawImage(matrix, image, palette ? palette->texture() : nullptr, flip, 1.0F, true, Plain);
+    glDrawImage(matrix, image, palette ? palette->texture() : nullptr, flip, opacity, true,
+                shading);
 }
 
 }  // namespace App

@@ -49,9 +49,13 @@ protected:
     /// show one or the other by chance, and pictures that are zoomed would shiver in a drag.
     void renderSprite(QPoint base, QPoint offset, QSize size, float rotation, unsigned char flip,
                       Zorv::Sprite* sprite, unsigned int index) override;
+    void renderOnionSkinSprite(const Zorv::Sprite* sprite, QPoint base, QPoint offset, QSize size,
+                               float opacity, OnionEffect effect) override;
 
 private:
     bool takeKey(int key);
+    void drawSprite(const QMatrix4x4& matrix, const Zorv::Sprite* sprite, unsigned char flip,
+                    float opacity, Shading shading);
 
     QPoint m_pointer;
     int m_turned = 0;       // of the wheel, less than a step
