@@ -1,7 +1,5 @@
 #include "app/stage/stagerenderer.h"
 
-#include "cache/palette.h"
-#include "cache/sprite.h"
 #include "core/interface.h"
 #include "family/stage/placedpicture.h"
 #include "graphics/renderwidget.h"
@@ -175,7 +173,7 @@ void StageRenderer::renderSprite(QPoint base, QPoint offset, QSize size, float r
     matrix.rotate(rotation, 0, 0, 1);
     matrix.translate(float(offset.x()), float(offset.y()));
     matrix.scale(float(size.width()), float(size.height()));
-    drawSprite(matrix, sprite, flip, 1.0F, Plain);
+    drawSprite(matrix, sprite, flip, 1.0F, NoEffect);
 }
 
 void StageRenderer::renderOnionSkinSprite(const Zorv::Sprite* sprite, QPoint base, QPoint offset,
@@ -183,22 +181,7 @@ void StageRenderer::renderOnionSkinSprite(const Zorv::Sprite* sprite, QPoint bas
 {
     QMatrix4x4 matrix = aHairBehind(base + offset);
     matrix.scale(float(size.width()), float(size.height()));
-    drawSprite(matrix, sprite, 0, opacity, Shading(effect));
-}
-
-void StageRenderer::drawSprite(const QMatrix4x4& matrix, const Zorv::Sprite* sprite,
-                               unsigned char flip, float opacity, Shading shading)
-{
-    Zorv::Texture* const image = sprite ? sprite->texture() : nullptr;
-    if (!image) {
-        return;
-    }
-    glSetBlend(true);
-    glSetBlendEquation(Add);
-    glSetBlendFunction(SourceAlpha, OneMinusSourceAlpha);
-    const Zorv::Palette* palette = sprite->palette();
-    glDrawImage(matrix, image, palette ? palette->texture() : nullptr, flip, opacity, true,
-                shading);
+    drawSprite(matrix, sprite, 0, opacity, effect);
 }
 
 }  // namespace App

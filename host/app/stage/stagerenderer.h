@@ -54,8 +54,6 @@ protected:
 
 private:
     bool takeKey(int key);
-    void drawSprite(const QMatrix4x4& matrix, const Zorv::Sprite* sprite, unsigned char flip,
-                    float opacity, Shading shading);
 
     QPoint m_pointer;
     int m_turned = 0;       // of the wheel, less than a step

@@ -267,10 +267,13 @@ protected:
     virtual void renderOnionSkinSprite(const Sprite* sprite, QPoint base, QPoint offset, QSize size,
                                        float opacity, OnionEffect effect);
 
+    /// What both end with: the sprite in its palette, as the unit square under `matrix`, blended by
+    /// its alpha. Nothing for a sprite that is null or has no texture.
+    void drawSprite(const QMatrix4x4& matrix, const Sprite* sprite, unsigned char flip,
+                    float opacity, OnionEffect effect);
+
 private:
     friend class GraphicsRendererPrivate;
-
-    void blendByAlpha();
 
     std::unique_ptr<GraphicsRendererPrivate> d;
 };

@@ -64,41 +64,36 @@ void GraphicsRenderer::render(QPainter& painter)
 void GraphicsRenderer::renderSprite(QPoint base, QPoint offset, QSize size, float rotation,
                                     unsigned char flip, Sprite* sprite, unsigned int)
 {
-    Texture* image = sprite ? sprite->texture() : nullptr;
-    if (!image) {
-        return;
-    }
     QMatrix4x4 matrix;
     translate(matrix, base);
     matrix.rotate(rotation, 0, 0, 1);
     translate(matrix, offset);
     scale(matrix, size);
-    blendByAlpha();
-    const Palette* palette = sprite->palette();
-    glDrawImage(matrix, image, palette ? palette->texture() : nullptr, flip, 1.0F, true, Plain);
+    drawSprite(matrix, sprite, flip, 1.0F, NoEffect);
 }
 
 void GraphicsRenderer::renderOnionSkinSprite(const Sprite* sprite, QPoint base, QPoint offset,
                                              QSize size, float opacity, OnionEffect effect)
 {
-    Texture* image = sprite ? sprite->texture() : nullptr;
-    if (!image) {
-        return;
-    }
     QMatrix4x4 matrix;
     translate(matrix, base + offset);
     scale(matrix, size);
-    blendByAlpha();
-    const Palette* palette = sprite->palette();
-    glDrawImage(matrix, image, palette ? palette->texture() : nullptr, 0, opacity, true,
-                static_cast<unsigned char>(effect));
+    drawSprite(matrix, sprite, 0, opacity, effect);
 }
 
-void GraphicsRenderer::blendByAlpha()
+void GraphicsRenderer::drawSprite(const QMatrix4x4& matrix, const Sprite* sprite,
+                                  unsigned char flip, float opacity, OnionEffect effect)
 {
+    Texture* const image = sprite ? sprite->texture() : nullptr;
+    if (!image) {
+        return;
+    }
     glSetBlend(true);
     glSetBlendEquation(Add);
     glSetBlendFunction(SourceAlpha, OneMinusSourceAlpha);
+    const Palette* palette = sprite->palette();
+    glDrawImage(matrix, image, palette ? palette->texture() : nullptr, flip, opacity, true,
+                static_cast<unsigned char>(effect));
 }
 
 int GraphicsRendererPrivate::lineThickness() const
