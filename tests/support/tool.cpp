@@ -11,9 +11,9 @@ static void fail(const QString& reason)
 QByteArray runTool(const QString& program, const QStringList& arguments, const QByteArray& input)
 {
     QProcess process;
-    process.start(program, arguments);
+    process.start(QStringLiteral(ZORV_TEST_PROGRAMS "/") + program, arguments);
     if (!process.waitForStarted()) {
-        fail(program + QStringLiteral(" is not installed; scripts/test installs it"));
+        fail(program + QStringLiteral(" is not among those of tests/programs.txt"));
         return {};
     }
     process.write(input);
