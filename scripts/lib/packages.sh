@@ -23,6 +23,7 @@ packages_bench=(
 )
 packages_fuzz=(clang libclang-rt-14-dev)
 packages_format=(clang-format-14)
+packages_fresh=(debootstrap)
 
 # install_packages NAME... installs those that are missing. With nothing missing it needs neither
 # root nor the network.
