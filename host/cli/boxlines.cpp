@@ -29,7 +29,7 @@ QString activeText(const QVector<ActiveTime>& times)
     QString text = QString::number(times.first().ticks);
     for (int i = 1; i < times.size(); ++i) {
         const int gap = times[i].tick - times[i - 1].tick - times[i - 1].ticks;
-        text += QStringLiteral("(%1)%2").arg(gap).arg(times[i].ticks);
+        text += QStringLiteral("(%1)%2").arg(QString::number(gap), QString::number(times[i].ticks));
     }
     return text;
 }
@@ -59,7 +59,7 @@ void addFacts(const char* name, const FrameBoxReport& frame, const BoxesInFrame&
     if (boxes.boxes.isEmpty()) {
         return;
     }
-    facts->append(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(boxes.area));
+    facts->append(QStringLiteral("%1 %2").arg(QLatin1String(name), QString::number(boxes.area)));
     if (frame.next >= 0) {
         facts->append(QStringLiteral("%1 kept").arg(boxes.kept));
     }
@@ -105,11 +105,8 @@ QStringList factsOf(const BoxInFrame& box)
 QString codeOf(const char* kind, const QRect& rect)
 {
     return QStringLiteral("    %1 %2,%3, %4,%5")
-        .arg(QLatin1String(kind))
-        .arg(rect.left())
-        .arg(rect.top())
-        .arg(rect.right())
-        .arg(rect.bottom());
+        .arg(QLatin1String(kind), QString::number(rect.left()), QString::number(rect.top()),
+             QString::number(rect.right()), QString::number(rect.bottom()));
 }
 
 }  // namespace
@@ -138,7 +135,7 @@ void BoxLines::writeBoxes(const char* kind, const BoxesInFrame& list)
 
 void BoxLines::writeLine(int line, const QString& what, const QStringList& facts)
 {
-    QStringList columns{QStringLiteral("%1:%2").arg(m_file).arg(line + 1), what};
+    QStringList columns{QStringLiteral("%1:%2").arg(m_file, QString::number(line + 1)), what};
     if (!facts.isEmpty()) {
         columns.append(facts.join(QLatin1String(", ")));
     }

@@ -92,16 +92,15 @@ QString kindOf(const BoxDiff& box)
 QString boxName(int frame, const BoxDiff& box, int place)
 {
     return place < 0 ? QStringLiteral("-")
-                     : QStringLiteral("%1/%2:%3").arg(frameName(frame), kindOf(box)).arg(place);
+                     : QStringLiteral("%1/%2:%3")
+                           .arg(frameName(frame), kindOf(box), QString::number(place));
 }
 
 QString rectText(const QRect& rect)
 {
     return QStringLiteral("%1,%2, %3,%4")
-        .arg(rect.left())
-        .arg(rect.top())
-        .arg(rect.right())
-        .arg(rect.bottom());
+        .arg(QString::number(rect.left()), QString::number(rect.top()),
+             QString::number(rect.right()), QString::number(rect.bottom()));
 }
 
 QString arrow(const QString& before, const QString& after)
@@ -112,7 +111,8 @@ QString arrow(const QString& before, const QString& after)
 /// A frame by itself: its sprite, the options that are not as without them, and its boxes.
 QString frameText(const FrameRecord& frame)
 {
-    QString text = QStringLiteral("%1,%2").arg(frame.data.group).arg(frame.data.number);
+    QString text = QStringLiteral("%1,%2").arg(QString::number(frame.data.group),
+                                               QString::number(frame.data.number));
     const FrameData plain;
     for (int option = 0; option < Family::FrameOptionCount; ++option) {
         const QString value = Family::optionText(option, frame.data);

@@ -73,7 +73,8 @@ bool toPosition(const QString& text, int count, int* position, QString* error)
     if (isNumber && *position >= 0 && *position < count) {
         return true;
     }
-    *error = tr("Expected a position from 0 to %1; found '%2'.").arg(count - 1).arg(text);
+    *error =
+        tr("Expected a position from 0 to %1; found '%2'.").arg(QString::number(count - 1), text);
     return false;
 }
 

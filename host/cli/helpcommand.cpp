@@ -30,8 +30,8 @@ QString overview()
            "Commands:\n");
     for (const Command& command : commands()) {
         text += QStringLiteral("  %1%2\n")
-                    .arg(QLatin1String(command.name), -NameWidth)
-                    .arg(tr(command.summary));
+                    .arg(QString::fromLatin1(command.name).leftJustified(NameWidth),
+                         tr(command.summary));
     }
     return text +
            tr("\n"
@@ -48,8 +48,7 @@ QString optionLines(const Command& command)
     for (const OptionInfo& option : options()) {
         if (option.option & command.options) {
             text += QStringLiteral("  %1%2\n")
-                        .arg(optionForm(option), -OptionWidth)
-                        .arg(tr(option.summary));
+                        .arg(optionForm(option).leftJustified(OptionWidth), tr(option.summary));
         }
     }
     return text.isEmpty() ? text : tr("\nOptions:\n") + text;

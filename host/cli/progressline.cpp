@@ -46,7 +46,8 @@ void ProgressLine::finish()
 
 void ProgressLine::draw(int value)
 {
-    const QString text = QStringLiteral("%1 %2/%3").arg(m_title).arg(value).arg(m_maximum);
+    const QString text =
+        QStringLiteral("%1 %2/%3").arg(m_title, QString::number(value), QString::number(m_maximum));
     fputs(Wipe, stderr);
     fputs(printable(text).toUtf8().constData(), stderr);
 }

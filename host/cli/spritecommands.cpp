@@ -41,8 +41,10 @@ QStringList columnsOf(const FamilySprite& sprite)
 {
     return {QString::number(sprite.row),
             sprite.id().text(),
-            QStringLiteral("%1x%2").arg(sprite.size().width()).arg(sprite.size().height()),
-            QStringLiteral("%1,%2").arg(sprite.axis().x()).arg(sprite.axis().y()),
+            QStringLiteral("%1x%2").arg(QString::number(sprite.size().width()),
+                                        QString::number(sprite.size().height())),
+            QStringLiteral("%1,%2").arg(QString::number(sprite.axis().x()),
+                                        QString::number(sprite.axis().y())),
             paletteOf(sprite).isEmpty() ? QStringLiteral("-") : paletteOf(sprite),
             Family::codecName(sprite.codec()),
             sprite.fault()};

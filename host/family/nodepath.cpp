@@ -59,7 +59,7 @@ QChar separatorBefore(const CodeNode* node)
 
 QString boxPart(const BoxNode* box, int index)
 {
-    return QStringLiteral("/%1:%2").arg(box->name()).arg(index);
+    return QStringLiteral("/%1:%2").arg(box->name(), QString::number(index));
 }
 
 /// The children of a node that answer to a part of a path, in text order.
@@ -182,8 +182,7 @@ bool Walk::stepToFrame(const AnimationNode* animation, const PathPart& part)
             return true;
         }
         m_error = Text::tr("There is no '%1' in '%2': it has %3 frame(s), counted from 0.")
-                      .arg(part.text(), m_walked)
-                      .arg(animation->childCount());
+                      .arg(part.text(), m_walked, QString::number(animation->childCount()));
         return false;
     }
     return endAt(part,
@@ -203,8 +202,7 @@ bool Walk::stepIntoFrame(const FrameNode* frame, const PathPart& part)
             return true;
         }
         m_error = Text::tr("There is no '%1' in '%2': it has %3 of them, counted from 0.")
-                      .arg(part.text(), m_walked)
-                      .arg(boxes->count());
+                      .arg(part.text(), m_walked, QString::number(boxes->count()));
         return false;
     }
     return endAt(part, Grammar::frameOptions() << QStringLiteral("sprite"));
@@ -321,11 +319,8 @@ QString nodeLabel(const CodeNode* node)
     if (const auto* box = dynamic_cast<const BoxNode*>(node)) {
         const QRect rect = box->rect();
         return QStringLiteral("%1 %2,%3, %4,%5")
-            .arg(box->name())
-            .arg(rect.left())
-            .arg(rect.top())
-            .arg(rect.right())
-            .arg(rect.bottom());
+            .arg(box->name(), QString::number(rect.left()), QString::number(rect.top()),
+                 QString::number(rect.right()), QString::number(rect.bottom()));
     }
     return {};
 }

@@ -90,8 +90,7 @@ QVector<PathPart> splitPath(const QString& path, QString* error)
                                              "The path '%1' cannot be read from its character %2 "
                                              "on. Expected names with '.' or '/' between, such as "
                                              "'constants.life' or 'animation:200/frame:0/delay'.")
-                     .arg(path)
-                     .arg(scanner.position() + 1);
+                     .arg(path, QString::number(scanner.position() + 1));
     }
     return {};
 }

@@ -39,8 +39,7 @@ int placeOf(const QString& reference, int count, QString* error)
     }
     *error = count == 0 ? Text::tr("There is no animation in the file.")
                         : Text::tr("There is no animation '%1'. Expected a place from #0 to #%2.")
-                              .arg(reference)
-                              .arg(count - 1);
+                              .arg(reference, QString::number(count - 1));
     return -1;
 }
 
@@ -62,9 +61,7 @@ int findAnimation(const FamilyAnimations* list, const QString& reference, QStrin
     if (other > 0) {
         *error =
             Text::tr("There are several animations '%1'. Name one by its place, '#%2' or '#%3'.")
-                .arg(reference)
-                .arg(place)
-                .arg(other);
+                .arg(reference, QString::number(place), QString::number(other));
         return -1;
     }
     return place;

@@ -49,8 +49,7 @@ QString readingObstacle(const QString& fileName)
     }
     if (info.size() > MaxFileSize) {
         return Text::tr("Cannot open %1: It is larger than %2 MB. Divide it into several files.")
-            .arg(shown)
-            .arg(MaxFileSize / 1024 / 1024);
+            .arg(shown, QString::number(MaxFileSize / 1024 / 1024));
     }
     return {};
 }
@@ -139,9 +138,8 @@ QString encodingObstacle(const Zorv::CodeDocument* document)
     return Text::tr(
                "%1, line %2: The encoding %3 has no %4. Change the character, or save the file in "
                "UTF-8.")
-        .arg(shownName(document))
-        .arg(line)
-        .arg(document->codecName(), characterName(text, at));
+        .arg(shownName(document), QString::number(line), document->codecName(),
+             characterName(text, at));
 }
 
 QString lineEndNote(const Zorv::CodeDocument* document)

@@ -120,9 +120,8 @@ bool PaletteGrid::event(QEvent* event)
     if (entry >= 0) {
         const Zorv::RGBA color = m_colors[entry];
         text = tr("Colour %1: %2, alpha %3")
-                   .arg(entry)
-                   .arg(QColor(color.r, color.g, color.b).name())
-                   .arg(color.a);
+                   .arg(QString::number(entry), QColor(color.r, color.g, color.b).name(),
+                        QString::number(color.a));
     }
     QToolTip::showText(help->globalPos(), text, this);
     return true;

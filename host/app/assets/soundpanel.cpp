@@ -95,13 +95,12 @@ QString SoundPanel::currentText() const
     const Zorv::SampleInfo info = sound->sampleInfo();
     const double seconds = info.sampleRate > 0 ? double(info.frames) / info.sampleRate : 0;
     return tr("Sound %1: %2 Hz, %3 bits, %4, %5 s")
-        .arg(sound->property(QStringLiteral("Identifier")).toString())
-        .arg(info.sampleRate)
-        .arg(info.bits)
-        .arg(info.channels == 1   ? tr("mono")
+        .arg(sound->property(QStringLiteral("Identifier")).toString(),
+             QString::number(info.sampleRate), QString::number(info.bits),
+             info.channels == 1   ? tr("mono")
              : info.channels == 2 ? tr("stereo")
-                                  : tr("%1 channels").arg(info.channels))
-        .arg(seconds, 0, 'f', 2);
+                                  : tr("%1 channels").arg(info.channels),
+             QString::number(seconds, 'f', 2));
 }
 
 }  // namespace App

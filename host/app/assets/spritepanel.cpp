@@ -146,11 +146,9 @@ QString SpritePanel::currentText() const
     const QSize size = sprite->size();
     const QPoint axis = sprite->axis();
     QString text = tr("Sprite %1: %2 × %3, axis %4,%5")
-                       .arg(sprite->property(QStringLiteral("Identifier")).toString())
-                       .arg(size.width())
-                       .arg(size.height())
-                       .arg(axis.x())
-                       .arg(axis.y());
+                       .arg(sprite->property(QStringLiteral("Identifier")).toString(),
+                            QString::number(size.width()), QString::number(size.height()),
+                            QString::number(axis.x()), QString::number(axis.y()));
     if (const Zorv::Palette* palette = sprite->palette()) {
         text += tr(", palette %1").arg(palette->property(QStringLiteral("Identifier")).toString());
     }

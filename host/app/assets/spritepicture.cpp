@@ -108,11 +108,13 @@ bool SpritePicture::event(QEvent* event)
 QString SpritePicture::pixelText(QPoint pixel) const
 {
     const QColor colour = m_image.pixelColor(pixel);
-    const QString place = QStringLiteral("%1,%2").arg(pixel.x()).arg(pixel.y());
+    const QString place =
+        QStringLiteral("%1,%2").arg(QString::number(pixel.x()), QString::number(pixel.y()));
     if (m_image.format() == QImage::Format_Indexed8) {
-        return tr("%1: colour %2, %3").arg(place).arg(m_image.pixelIndex(pixel)).arg(colour.name());
+        return tr("%1: colour %2, %3")
+            .arg(place, QString::number(m_image.pixelIndex(pixel)), colour.name());
     }
-    return tr("%1: %2, alpha %3").arg(place, colour.name()).arg(colour.alpha());
+    return tr("%1: %2, alpha %3").arg(place, colour.name(), QString::number(colour.alpha()));
 }
 
 }  // namespace App

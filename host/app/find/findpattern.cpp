@@ -54,8 +54,7 @@ FindPattern::FindPattern(const QString& text, int options) : m_text(text), m_opt
         if (!text.isEmpty() && !alone.isValid()) {
             const int place = std::max(alone.errorOffset() - byLines().size(), 0);
             m_error = QCoreApplication::translate("App::FindBar", "Character %1: %2")
-                          .arg(place + 1)
-                          .arg(alone.errorString());
+                          .arg(QString::number(place + 1), alone.errorString());
             return;
         }
     }

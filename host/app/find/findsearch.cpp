@@ -237,10 +237,10 @@ QString FindSearch::countText() const
     }
     if (m_counter.isCapped()) {
         return index < 0 ? tr("more than %1 matches").arg(number)
-                         : tr("%1 of more than %2").arg(index + 1).arg(number);
+                         : tr("%1 of more than %2").arg(QString::number(index + 1), number);
     }
     if (index >= 0) {
-        return tr("%1 of %2").arg(index + 1).arg(number);
+        return tr("%1 of %2").arg(QString::number(index + 1), number);
     }
     return count == 1 ? tr("1 match") : tr("%1 matches").arg(number);
 }

@@ -128,7 +128,8 @@ void StageCommands::connectStage()
     });
     connect(m_view, &StageView::pointerLeft, status, [status] { status->setStagePlace({}); });
     connect(stage, &GraphicsRenderer::cursorChanged, status, [status](QPoint place) {
-        status->setStagePlace(tr("Stage: %1, %2").arg(place.x()).arg(place.y()));
+        status->setStagePlace(
+            tr("Stage: %1, %2").arg(QString::number(place.x()), QString::number(place.y())));
     });
     connect(stage, &GraphicsRenderer::contactDrawingExit, this, &StageCommands::leaveMode);
     connect(stage, &GraphicsRenderer::colorCaptured, this, &StageCommands::colorCaptured);
@@ -417,7 +418,8 @@ QString StageCommands::info() const
     if (index < 0) {
         return {};
     }
-    const QString place = tr("%1 / %2").arg(index + 1).arg(m_controller->frameCount());
+    const QString place =
+        tr("%1 / %2").arg(QString::number(index + 1), QString::number(m_controller->frameCount()));
     if (m_controller->isPlaying()) {
         return place + QLatin1String(" - ") +
                tr("%1 FPS").arg(QLocale().toString(m_view->timeLine()->currentFPS(), 'f', 1));
@@ -425,7 +427,9 @@ QString StageCommands::info() const
     if (!m_controller->sprite()) {
         const Family::FrameNode* frame = m_controller->frame();
         return place + QLatin1String(" - ") +
-               tr("no sprite %1,%2").arg(frame->spriteGroup()).arg(frame->spriteNumber());
+               tr("no sprite %1,%2")
+                   .arg(QString::number(frame->spriteGroup()),
+                        QString::number(frame->spriteNumber()));
     }
     const int ticks = m_controller->ticks().total();
     return place + QLatin1String(" - ") + (ticks < 0 ? tr("endless") : tr("%1 ticks").arg(ticks));

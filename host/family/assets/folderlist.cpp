@@ -12,7 +12,7 @@ const QLatin1String remapWord("remap");
 
 QString pointText(QPoint point)
 {
-    return QStringLiteral("%1,%2").arg(point.x()).arg(point.y());
+    return QStringLiteral("%1,%2").arg(QString::number(point.x()), QString::number(point.y()));
 }
 
 /// One line that is no comment; false if it makes no sense.
@@ -56,8 +56,7 @@ FolderList FolderList::read(const QString& text, QStringList* problems)
             list.unknown.append(line);
             problems->append(QCoreApplication::translate("Family::FolderList",
                                                          "Line %1 of %2 makes no sense: %3")
-                                 .arg(i + 1)
-                                 .arg(fileName(), line));
+                                 .arg(QString::number(i + 1), fileName(), line));
         }
     }
     return list;

@@ -286,11 +286,11 @@ QVariant SpriteCollection::data(const QModelIndex& index, int role) const
         return {};
     }
     const QString fault = sprite->fault();
-    return fault.isEmpty() ? tr("%1 x %2 pixels, %3")
-                                 .arg(sprite->size().width())
-                                 .arg(sprite->size().height())
-                                 .arg(codecName(sprite->codec()))
-                           : tr("Broken: %1").arg(fault);
+    return fault.isEmpty()
+               ? tr("%1 x %2 pixels, %3")
+                     .arg(QString::number(sprite->size().width()),
+                          QString::number(sprite->size().height()), codecName(sprite->codec()))
+               : tr("Broken: %1").arg(fault);
 }
 
 void SpriteCollection::change(FamilySprite* sprite, const FamilySprite::State& state)

@@ -209,9 +209,9 @@ public:
             const bool isWhole = isSealed(bytes, size);
             if (!isWhole || !makesSense) {
                 record.broken = QByteArray(bytes, size);
-                m_problems->append(SpriteFileData::tr(problem).arg(i + 1).arg(
-                    isWhole ? SpriteFileData::tr("its values make no sense")
-                            : SpriteFileData::tr("its checksum is wrong")));
+                m_problems->append(SpriteFileData::tr(problem).arg(
+                    QString::number(i + 1), isWhole ? SpriteFileData::tr("its values make no sense")
+                                                    : SpriteFileData::tr("its checksum is wrong")));
             }
         }
     }
@@ -294,16 +294,14 @@ void checkSprites(SpriteFileData* data, const QByteArray& bytes, int firstRecord
             if (sprite.stream != SpriteFileData::None &&
                 !data->streams[int(sprite.stream)].broken.isEmpty()) {
                 data->problems.append(SpriteFileData::tr("Sprite %1 (%2) has broken pixels.")
-                                          .arg(i + 1)
-                                          .arg(sprite.id.text()));
+                                          .arg(QString::number(i + 1), sprite.id.text()));
             }
         } else if (sprite.broken.isEmpty()) {
             sprite.broken = bytes.mid(firstRecord + i * SpriteSize, SpriteSize);
             data->problems.append(
                 SpriteFileData::tr(
                     "Sprite %1 (%2) is broken: it names pixels or a palette that are not there.")
-                    .arg(i + 1)
-                    .arg(sprite.id.text()));
+                    .arg(QString::number(i + 1), sprite.id.text()));
         }
         if (!isIn(sprite.stream, data->streams.size())) {
             sprite.stream = SpriteFileData::None;
@@ -364,8 +362,7 @@ bool SpriteFileData::read(QIODevice* device, QString* error)
     }
     if (head.fileSize != size) {
         problems.append(SpriteFileData::tr("The file has %1 bytes in place of %2.")
-                            .arg(size)
-                            .arg(head.fileSize));
+                            .arg(QString::number(size), QString::number(head.fileSize)));
     }
     const int firstStream = HeadSize + int(head.palettes) * PaletteSize;
     checkStreams(this, bytes, tableEnd, size, firstStream);

@@ -144,13 +144,13 @@ void SpriteFolder::noteWritten(const FamilySprite* sprite)
 
 QString SpriteFolder::newName(const FamilySprite* sprite, const QString& folder) const
 {
-    const QString base =
-        sprite->state.file.isEmpty()
-            ? QStringLiteral("%1_%2").arg(sprite->id().group).arg(sprite->id().number)
-            : QFileInfo(sprite->state.file).completeBaseName();
+    const QString base = sprite->state.file.isEmpty()
+                             ? QStringLiteral("%1_%2").arg(QString::number(sprite->id().group),
+                                                           QString::number(sprite->id().number))
+                             : QFileInfo(sprite->state.file).completeBaseName();
     QString name = base + QLatin1String(".png");
     for (int i = 2; QFileInfo::exists(QDir(folder).filePath(name)); ++i) {
-        name = QStringLiteral("%1 (%2).png").arg(base).arg(i);
+        name = QStringLiteral("%1 (%2).png").arg(base, QString::number(i));
     }
     return name;
 }

@@ -27,7 +27,8 @@ void sortProblems(Problems* problems)
 
 QString problemLine(const Problem& problem)
 {
-    return QStringLiteral("%1:%2:%3: ").arg(problem.file).arg(problem.line).arg(problem.column) +
+    return QStringLiteral("%1:%2:%3: ")
+               .arg(problem.file, QString::number(problem.line), QString::number(problem.column)) +
            levelName(problem.level) + QLatin1String(": ") + problem.text;
 }
 

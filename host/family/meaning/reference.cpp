@@ -50,8 +50,7 @@ Definition frameOf(const QVector<NamePlace>& frames, const Reference& reference,
         }
     }
     return none(Texts::tr("No other frame of the project shows the sprite %1,%2.")
-                    .arg(reference.group)
-                    .arg(reference.number));
+                    .arg(QString::number(reference.group), QString::number(reference.number)));
 }
 
 QString missingText(Form form, const QString& name)

@@ -196,7 +196,8 @@ QString MeaningReader::frameSummary(const AnimationNode* animation)
 {
     const int ticks = animation->duration();
     return ticks < 0 ? tr("Frames: %1; it never ends").arg(animation->childCount())
-                     : tr("Frames: %1; ticks: %2").arg(animation->childCount()).arg(ticks);
+                     : tr("Frames: %1; ticks: %2")
+                           .arg(QString::number(animation->childCount()), QString::number(ticks));
 }
 
 /// The animation of that name, wherever it stands in the project.
@@ -292,7 +293,9 @@ void MeaningReader::tellSprite()
 {
     const LinePart* part = m_details.part(LinePart::Sprite);
     if (part) {
-        m_meaning.title = tr("sprite %1,%2").arg(m_line.frame.group).arg(m_line.frame.number);
+        m_meaning.title =
+            tr("sprite %1,%2")
+                .arg(QString::number(m_line.frame.group), QString::number(m_line.frame.number));
         m_meaning.start = part->start;
         m_meaning.end = part->end;
         add(tr("Group and number of the sprite"));

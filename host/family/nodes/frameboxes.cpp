@@ -54,11 +54,9 @@ Zorv::ContactBoxCode* FrameBoxes::add(const QRect& rect)
     const auto indent = std::find_if(beside.begin(), beside.end(), isCode) - beside.begin();
     const QString text = beside.left(int(indent)) +
                          QStringLiteral("%1 %2,%3, %4,%5")
-                             .arg(m_attack ? QLatin1String("attack") : QLatin1String("body"))
-                             .arg(rect.left())
-                             .arg(rect.top())
-                             .arg(rect.right())
-                             .arg(rect.bottom());
+                             .arg(m_attack ? QLatin1String("attack") : QLatin1String("body"),
+                                  QString::number(rect.left()), QString::number(rect.top()),
+                                  QString::number(rect.right()), QString::number(rect.bottom()));
     // The frame itself may be parsed anew, the lines around the new one stay what they are.
     const int line = last ? last->firstLine() + 1 : m_frame->block().blockNumber();
     document->beginChange(QString());

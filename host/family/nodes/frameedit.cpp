@@ -117,7 +117,8 @@ bool writeSprite(FrameNode* frame, int group, int number)
         return false;
     }
     const NodeLine line(frame);
-    const QString code = QStringLiteral("%1,%2").arg(group).arg(number);
+    const QString code =
+        QStringLiteral("%1,%2").arg(QString::number(group), QString::number(number));
     const LinePart* sprite = line.details.part(LinePart::Sprite);
     if (!sprite) {
         const LinePart* keyword = line.details.part(LinePart::Keyword);
@@ -166,7 +167,8 @@ QString optionText(int option, const FrameData& data)
 {
     switch (option) {
     case OffsetOption:
-        return QStringLiteral("%1, %2").arg(data.offset.x()).arg(data.offset.y());
+        return QStringLiteral("%1, %2").arg(QString::number(data.offset.x()),
+                                            QString::number(data.offset.y()));
     case DelayOption:
         return QString::number(data.delay);
     case FlipOption:

@@ -22,7 +22,8 @@ FrameNode::~FrameNode()
 
 QVariant FrameNode::identifier() const
 {
-    return QStringLiteral("%1,%2").arg(m_data.group).arg(m_data.number);
+    return QStringLiteral("%1,%2").arg(QString::number(m_data.group),
+                                       QString::number(m_data.number));
 }
 
 void FrameNode::setIdentifier(const QVariant& identifier)

@@ -211,8 +211,7 @@ bool FrameComposer::isDrawable(const FrameNode& frame, const QRect& area, QStrin
     } else if (!isNear || qint64(area.width()) * area.height() > MaxPixels) {
         *error = tr("The picture would be %1 by %2 pixels, which is too large. Choose a smaller "
                     "zoom, or look at scales and offsets of the frames.")
-                     .arg(area.width())
-                     .arg(area.height());
+                     .arg(QString::number(area.width()), QString::number(area.height()));
     } else {
         return true;
     }
@@ -227,8 +226,7 @@ QImage FrameComposer::compose(const FrameNode& frame, const QRect& area, QString
     QImage image(area.size(), QImage::Format_ARGB32);
     if (image.isNull()) {
         *error = tr("There is not enough memory for a picture of %1 by %2 pixels.")
-                     .arg(area.width())
-                     .arg(area.height());
+                     .arg(QString::number(area.width()), QString::number(area.height()));
         return {};
     }
     image.fill(0);

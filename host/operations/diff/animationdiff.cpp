@@ -18,7 +18,7 @@ const QString spriteName = QStringLiteral("sprite");
 
 QString spriteText(const FrameData& data)
 {
-    return QStringLiteral("%1,%2").arg(data.group).arg(data.number);
+    return QStringLiteral("%1,%2").arg(QString::number(data.group), QString::number(data.number));
 }
 
 QVector<OptionDiff> diffOptions(const FrameData& before, const FrameData& after)
@@ -46,11 +46,9 @@ QString lineOf(const FrameRecord& frame)
     }
     for (const BoxRecord& box : frame.boxes) {
         line += QStringLiteral(" %1 %2 %3 %4 %5")
-                    .arg(int(box.isAttack))
-                    .arg(box.rect.left())
-                    .arg(box.rect.top())
-                    .arg(box.rect.right())
-                    .arg(box.rect.bottom());
+                    .arg(QString::number(int(box.isAttack)), QString::number(box.rect.left()),
+                         QString::number(box.rect.top()), QString::number(box.rect.right()),
+                         QString::number(box.rect.bottom()));
     }
     return line;
 }

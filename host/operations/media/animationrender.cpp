@@ -186,14 +186,14 @@ QImage renderFrame(const AnimationNode& animation, int frame, FrameComposer* com
     if (frame < 0 || frame >= count) {
         *error = count == 0 ? Text::tr("The animation has no frame.")
                             : Text::tr("There is no frame %1. Expected a number from 0 to %2.")
-                                  .arg(frame)
-                                  .arg(count - 1);
+                                  .arg(QString::number(frame), QString::number(count - 1));
         return {};
     }
     const QRect area = areaOf(animation, *composer);
     QImage image = frameImage(frameAt(animation, frame), area, composer, error);
-    image.setText(QLatin1String(AxisText),
-                  QStringLiteral("%1,%2").arg(-area.left()).arg(-area.top()));
+    image.setText(
+        QLatin1String(AxisText),
+        QStringLiteral("%1,%2").arg(QString::number(-area.left()), QString::number(-area.top())));
     return image;
 }
 

@@ -42,8 +42,9 @@ QStringList exportNames(const QVector<AssetId>& ids)
     QStringList names;
     for (AssetId id : ids) {
         const int count = ++counts[id.key()];
-        const QString name = QStringLiteral("%1-%2").arg(id.group).arg(id.number);
-        names.append(count == 1 ? name : QStringLiteral("%1_%2").arg(name).arg(count));
+        const QString name =
+            QStringLiteral("%1-%2").arg(QString::number(id.group), QString::number(id.number));
+        names.append(count == 1 ? name : QStringLiteral("%1_%2").arg(name, QString::number(count)));
     }
     return names;
 }

@@ -44,8 +44,8 @@ QString writeNew(const QString& path, const QByteArray& bytes)
 {
     const QFileInfo target(path);
     QFile part(QStringLiteral("%1/.%2.%3-0.zorv-save")
-                   .arg(target.absolutePath(), target.fileName())
-                   .arg(QCoreApplication::applicationPid()));
+                   .arg(target.absolutePath(), target.fileName(),
+                        QString::number(QCoreApplication::applicationPid())));
     const QString advice = Text::tr("Cannot write '%1': %2. Check the folder and the space on it.");
     Zorv::forcePath(path);
     if (!part.open(QIODevice::WriteOnly | QIODevice::Unbuffered | QIODevice::Truncate)) {

@@ -53,7 +53,8 @@ QStringList namesOf(const QVector<Label>& labels)
 void putLabel(QImage* image, const Label& label)
 {
     image->setText(QLatin1String(AxisText),
-                   QStringLiteral("%1,%2").arg(label.axis.x()).arg(label.axis.y()));
+                   QStringLiteral("%1,%2").arg(QString::number(label.axis.x()),
+                                               QString::number(label.axis.y())));
     if (label.hasPalette) {
         image->setText(QLatin1String(PaletteText), label.palette.text());
     }

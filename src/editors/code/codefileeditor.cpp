@@ -272,10 +272,10 @@ void CodeFileEditor::cursorChanged(QPoint place)
     if (!document) {
         return;
     }
-    host()->showStatus(PlaceField, tr("Line: %1, Column: %2, Line count: %3")
-                                       .arg(place.x() + 1)
-                                       .arg(place.y() + 1)
-                                       .arg(document->blockCount()));
+    host()->showStatus(PlaceField,
+                       tr("Line: %1, Column: %2, Line count: %3")
+                           .arg(QString::number(place.x() + 1), QString::number(place.y() + 1),
+                                QString::number(document->blockCount())));
     host()->showStatus(
         ErrorField, tr("Syntax error count: %1").arg(document->messages()->count(Message::Error)));
 }

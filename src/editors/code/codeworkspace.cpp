@@ -78,8 +78,7 @@ QFont fontOf(const Interface* host)
 
 void CodeWorkspacePrivate::savePlace(CodeDocument* left) const
 {
-    left->setObjectName(
-        QStringLiteral("%1,%2,%3").arg(0).arg(0).arg(editor->verticalScrollBar()->value()));
+    left->setObjectName(QStringLiteral("0,0,%1").arg(editor->verticalScrollBar()->value()));
 }
 
 void CodeWorkspacePrivate::restorePlace(const CodeDocument* shown)

@@ -41,8 +41,7 @@ bool CompleterFile::read(const QString& fileName)
     const QByteArray bytes = file.read(MostBytes + 1);
     if (bytes.size() > MostBytes) {
         m_error = tr("%1 is too long for a file of words to complete: more than %2 MiB.")
-                      .arg(m_fileName)
-                      .arg(MostBytes / (1024 * 1024));
+                      .arg(m_fileName, QString::number(MostBytes / (1024 * 1024)));
         return true;
     }
     parse(bytes);
@@ -58,10 +57,8 @@ void CompleterFile::parse(const QByteArray& bytes)
     }
     if (xml.hasError()) {
         m_error = tr("%1, line %2, column %3: %4 The words to complete stay as they were.")
-                      .arg(m_fileName)
-                      .arg(xml.lineNumber())
-                      .arg(xml.columnNumber() + 1)
-                      .arg(xml.errorString());
+                      .arg(m_fileName, QString::number(xml.lineNumber()),
+                           QString::number(xml.columnNumber() + 1), xml.errorString());
     }
 }
 
