@@ -99,6 +99,7 @@ private slots:
     void standsOnTheSheet();
     void isWholeOrNothing();
     void imageWithoutPalette();
+    void palettesOfFewColors();
 
 private:
     HostInterface m_host;
@@ -203,6 +204,38 @@ void TestSpriteExchange::imageWithoutPalette()
     const Collection sprites(newSprites("a.sprites"));
     QCOMPARE(importSprites(sprites.get(), {name}, {}).errors, QStringList());
     QCOMPARE(sprites->sprite(0)->image().pixel(1, 0), qRgb(200, 200, 200));
+}
+
+// What a palette lacks is black in its file, whatever the one before it left in memory.
+void TestSpriteExchange::palettesOfFewColors()
+{
+    QRandomGenerator random(Seed);
+    const Collection sprites(newSprites("a.sprites"));
+    for (quint16 group = 0; group < 8; ++group) {
+        QImage image(4, 4, QImage::Format_Indexed8);
+        image.setColorTable(randomTable(random));
+        image.fill(1);
+        sprites->insertSprite(int(sprites->count()) - 1, {group, 0}, {}, image);
+    }
+    const QTemporaryDir folder;
+    OutputRequest request;
+    request.place = folder.path();
+    const auto& palettes = sprites->palettes()->items();
+    for (int i = 0; i < palettes.size(); ++i) {
+        palettes[i]->state.count = 256 >> i;
+    }
+    QCOMPARE(exportPalettes(*sprites, {}, request).done, 8);
+    for (const auto& palette : palettes) {
+        QByteArray expected;
+        for (int i = 255; i >= 0; --i) {
+            const bool isGiven = i < palette->state.count;
+            const Zorv::RGBA color = isGiven ? palette->state.colors[size_t(i)] : Zorv::RGBA{};
+            expected.append(char(color.r)).append(char(color.g)).append(char(color.b));
+        }
+        QFile file(folder.filePath(palette->id().text().replace(',', '-') + ".act"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), expected);
+    }
 }
 
 QTEST_MAIN(TestSpriteExchange)

@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace Family {
 
 namespace {
@@ -80,9 +82,11 @@ bool findPalette(const SpriteCollection& sprites, const QString& name, PaletteCo
     AssetId id;
     if (!AssetId::read(name, &id)) {
         Zorv::RGBA read[256];
-        const bool isRead = readPalette(name, read, error);
+        if (!readPalette(name, read, error)) {
+            return false;
+        }
         std::copy(std::begin(read), std::end(read), colors->begin());
-        return isRead;
+        return true;
     }
     const FamilyPalette* palette = sprites.palettes()->byId(id);
     if (!palette) {
@@ -160,6 +164,7 @@ MediaResult exportPalettes(const SpriteCollection& sprites, const Selection& sel
     MediaResult result;
     for (int i = 0; i < palettes.size(); ++i) {
         Zorv::RGBA colors[256];
+        std::fill(std::begin(colors), std::end(colors), Zorv::RGBA{0, 0, 0, 255});
         palettes[i]->toPalette(colors);
         QString fault;
         const QByteArray bytes = paletteFile(colors, outputs.format(i), outputs.path(i), &fault);
