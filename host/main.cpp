@@ -22,10 +22,12 @@ namespace {
 
 QtMessageHandler s_otherMessages = nullptr;
 
-// Qt wants a folder that only a session of a desktop has, and does without.
+// Qt wants a folder that only a session of a desktop has, and does without; and tells of what a
+// picture can be shown without, but not in which file.
 void passMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    if (!text.contains(QLatin1String("XDG_RUNTIME_DIR"))) {
+    if (!text.contains(QLatin1String("XDG_RUNTIME_DIR")) &&
+        !text.startsWith(QLatin1String("libpng warning: "))) {
         s_otherMessages(type, context, text);
     }
 }

@@ -1,16 +1,19 @@
 #include "media/imagefile.h"
 
 #include "core/extensionmanager.h"
+#include "media/bmppixels_p.h"
 #include "media/colorconversion.h"
 #include "media/formatdepth_p.h"
 #include "media/imagesize_p.h"
 #include "media/losslessimages.h"
 #include "media/pcx.h"
+#include "media/pngchunks_p.h"
 #include "media/tools/colorquantizer.h"
 #include "media/tools/gifpixels_p.h"
 #include "media/tools/gifreader_p.h"
 
-#include <QIODevice>
+#include <QBuffer>
+#include <QImageReader>
 
 #include <algorithm>
 #include <cstring>
@@ -53,11 +56,34 @@ QImage inLibraryForm(const QImage& image)
     }
 }
 
+QImage readPNG(QIODevice* device)
+{
+    QImage image;
+    return isWholePNG(device) && image.load(device, "PNG") ? image : QImage();
+}
+
+QImage readBMP(QIODevice* device)
+{
+    const BMPPixels pixels(device);
+    const qint64 missing = pixels.missing();
+    if (missing > pixels.rowPadding()) {
+        return {};
+    }
+    QImage image = pixels.ground();
+    if (missing == 0) {
+        return QImageReader(device, "BMP").read(&image) ? image : QImage();
+    }
+    // The last row has all its pixels, and ends before a whole word does.
+    QByteArray padded = device->readAll() + QByteArray(int(missing), 0);
+    QBuffer buffer(&padded);
+    buffer.open(QIODevice::ReadOnly);
+    return QImageReader(&buffer, "BMP").read(&image) ? image : QImage();
+}
+
 bool loadByQt(QIODevice* device, const char* format, QImage& image)
 {
-    const bool honest = qstrcmp(format, "PNG") == 0 ? isHonestPNG(device) : isHonestBMP(device);
-    if (!honest || !image.load(device, format)) {
-        image = QImage();
+    image = qstrcmp(format, "PNG") == 0 ? readPNG(device) : readBMP(device);
+    if (image.isNull()) {
         return false;
     }
     if (losslessImages()) {

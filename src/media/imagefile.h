@@ -28,10 +28,10 @@ ZORV_EXPORT ImageInfo imageInfoFromFile(QIODevice* device, const char* format);
 /// `format` is "PNG", "BMP", "PCX", "GIF" (its first frame, which need not be followed by whole
 /// ones), in capitals, or the name of an `Extension` that loads images; `fileExtension()` makes it
 /// of a file name. The device is open; false otherwise. The result is whether there is an image
-/// then, be it one that was there before; start with a null one, and see `losslessImages()`
-/// for files that are cut short and for what happens to true-colour images. No picture is read that
-/// declares more than the bytes of the file can honestly hold. Re-entrant, as long as no extension
-/// is added meanwhile.
+/// then, be it one that was there before; start with a null one. A PNG or BMP that is cut short, or
+/// whose chunks have wrong checksums, is refused; see `losslessImages()` for PCX and for what
+/// happens to true-colour images. No picture is read that declares more than the bytes of the file
+/// can honestly hold. Re-entrant, as long as no extension is added meanwhile.
 ZORV_EXPORT bool loadImage(QIODevice* device, const char* format, QImage& image);
 
 /// Writes an image file; formats as above. As GIF, a true-colour image of more than 256 colours

@@ -19,10 +19,11 @@ private:
     QIODevice* m_device;
 };
 
-/// True unless a PNG or BMP file declares a picture, or anything else, of more than 64 MiB that its
-/// bytes cannot hold. To be asked before Qt takes the memory; nothing is consumed, and what is no
-/// such file is left to its reader. The device is not sequential.
-bool isHonestPNG(QIODevice* device);
-bool isHonestBMP(QIODevice* device);
+/// Memory that a file may make a reader take, whatever it holds.
+const qint64 FreeMemory = 64 << 20;
+
+/// True unless a picture takes more than that, and more than the bytes of pixels that its file can
+/// stand for. To be asked before the memory is taken; `bits` are those of a pixel in the file.
+bool isHonestSize(double pixels, int bits, double bytes);
 
 }  // namespace Zorv

@@ -1,6 +1,7 @@
 #include "media/png.h"
 
 #include "media/imagesize_p.h"
+#include "media/pngchunks_p.h"
 
 #include <QImage>
 
@@ -12,7 +13,7 @@ bool loadPNG(QImage& image, QIODevice* device)
         return false;
     }
     const SizedDevice sized(device);
-    if (isHonestPNG(sized.get())) {
+    if (isWholePNG(sized.get())) {
         image.load(sized.get(), "PNG");
     } else {
         image = QImage();

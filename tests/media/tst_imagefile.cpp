@@ -10,7 +10,11 @@
 #include <QBuffer>
 #include <QFile>
 #include <QRandomGenerator>
+#include <QTemporaryFile>
 #include <QtTest>
+
+#include <malloc.h>
+#include <unistd.h>
 
 using namespace Zorv;
 
@@ -89,6 +93,21 @@ QByteArray madeByMagick(const QString& arguments, const QString& target)
                        QStringLiteral("8"), QStringLiteral("rgba:-")};
     all << arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts) << target + QStringLiteral(":-");
     return runTool(QStringLiteral("convert"), all, pixels);
+}
+
+/// Compares indices, too, that no colour stands behind.
+bool isSame(const QImage& one, const QImage& other)
+{
+    const auto bytes = [](const QImage& image) {
+        QByteArray lines;
+        for (int y = 0; y < image.height(); ++y) {
+            lines.append(reinterpret_cast<const char*>(image.constScanLine(y)),
+                         image.width() * image.depth() / 8);
+        }
+        return lines;
+    };
+    return one.size() == other.size() && one.format() == other.format() &&
+           one.colorTable() == other.colorTable() && bytes(one) == bytes(other);
 }
 
 QImage indexedPicture(int colors)
@@ -175,6 +194,33 @@ QByteArray gifFrameHead(int width, int height)
            littleEndian(quint32(height), 2) + QByteArray(1, 0) + "\x08";
 }
 
+/// Catches what goes to standard error, past the messages of Qt.
+class CaughtErrors
+{
+public:
+    CaughtErrors()
+    {
+        m_file.open();
+        dup2(m_file.handle(), STDERR_FILENO);
+    }
+    ~CaughtErrors()
+    {
+        dup2(m_stderr, STDERR_FILENO);
+        close(m_stderr);
+    }
+
+    QByteArray text() const
+    {
+        QFile file(m_file.fileName());
+        file.open(QIODevice::ReadOnly);
+        return file.readAll();
+    }
+
+private:
+    QTemporaryFile m_file;
+    int m_stderr = dup(STDERR_FILENO);
+};
+
 /// A format that turns one byte into a picture of one pixel.
 class OneByteFormat : public Extension
 {
@@ -219,6 +265,8 @@ private slots:
     void formatsOfExtensions();
     void hugeHeadersTakeNoMemory_data();
     void hugeHeadersTakeNoMemory();
+    void wholeBMP_data();
+    void wholeBMP();
     void brokenFiles_data();
     void brokenFiles();
     void nearestColorIsThatOfAPlainSearch();
@@ -258,6 +306,8 @@ void TestImageFile::filesOfMagick_data()
     QTest::newRow("BMP runs") << flat + "-colors 40 -type palette -compress RLE"
                               << "bmp3" << indexed;
     QTest::newRow("BMP RGB") << flat << "bmp3" << solid;
+    QTest::newRow("BMP RGBA") << ""
+                              << "bmp" << clear;
     QTest::newRow("GIF") << "-colors 20"
                          << "gif" << indexed;
     QTest::newRow("GIF interlaced") << "-colors 20 -interlace GIF"
@@ -446,6 +496,51 @@ void TestImageFile::hugeHeadersTakeNoMemory()
     QVERIFY(peakMemory() - before < 64 << 10);
 }
 
+void TestImageFile::wholeBMP_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const auto add = [](const char* name, const QString& arguments, const char* target = "bmp3") {
+        QTest::newRow(name) << madeByMagick("-alpha off " + arguments, target);
+    };
+    add("1 bit", "-threshold 50% -type bilevel");
+    add("4 bits", "-colors 9 -type palette -compress none");
+    add("8 bits", "-colors 40 -type palette -compress none");
+    add("runs", "-colors 40 -type palette -compress RLE");
+    add("16 bits", "-define bmp:subtype=RGB565", "bmp");
+    add("24 bits", "");
+    add("32 bits", "-alpha on", "bmp");
+    add("of OS/2", "-colors 9 -type palette", "bmp2");
+    QByteArray fromTheTop = madeByMagick("-alpha off", "bmp3");
+    fromTheTop.replace(22, 4, littleEndian(quint32(-17), 4));
+    QTest::newRow("from the top") << fromTheTop;
+
+    const QByteArray table = littleEndian(0xFF, 4) + QByteArray(15 * 4, '\x44');
+    const QByteArray runs4 = QByteArrayLiteral("\x05\x10\0\0\0\x05\x12\x34\x50\0");
+    QTest::newRow("runs of 4 bits, full") << bmpHead(5, 2, 4, 2) + table + runs4;
+    QTest::newRow("runs of 4 bits, ended")
+        << bmpHead(5, 3, 4, 2) + table + runs4 + QByteArrayLiteral("\0\0\0\2\2\0\1\x33\0\1");
+    QTest::newRow("runs with gaps") << bmpHead(7, 3, 8, 1) + table + QByteArray(240 * 4, '\x66') +
+                                           QByteArrayLiteral("\3\1\0\0\0\2\3\1\0\3\7\x8\x9\0\0\1");
+}
+
+// A file that is cut short is refused, or has lost nothing that is seen.
+void TestImageFile::wholeBMP()
+{
+    QFETCH(QByteArray, bytes);
+    setLosslessImages(true);
+    const QImage whole = loaded(bytes, "BMP");
+    QVERIFY(!whole.isNull());
+    QVERIFY(isSame(loaded(bytes + QByteArray(9, 0), "BMP"), whole));
+    for (int length = 0; length < bytes.size(); ++length) {
+        // What is read must not be what was in memory.
+        for (const int memory : {0x11, 0xEE}) {
+            mallopt(M_PERTURB, memory);
+            const QImage cut = loaded(bytes.left(length), "BMP");
+            QVERIFY2(cut.isNull() || isSame(cut, whole), qPrintable(QString::number(length)));
+        }
+    }
+}
+
 void TestImageFile::brokenFiles_data()
 {
     QTest::addColumn<QByteArray>("bytes");
@@ -466,10 +561,15 @@ void TestImageFile::brokenFiles()
     QFETCH(QByteArray, format);
     setLosslessImages(true);
     const qint64 before = peakMemory();
+    const CaughtErrors errors;
     int read = 0;
     forEachBrokenForm(bytes, [&](const QByteArray& broken) {
         infoOf(broken, format);
         const QImage image = loaded(broken, format);
+        if (format == "BMP") {
+            mallopt(M_PERTURB, read % 255 + 1);
+            QVERIFY(isSame(loaded(broken, format), image));
+        }
         read += !image.isNull();
         const QImage::Format form = image.format();
         QVERIFY(image.isNull() || form == QImage::Format_Indexed8 || form == QImage::Format_RGB32 ||
@@ -477,6 +577,7 @@ void TestImageFile::brokenFiles()
     });
     QVERIFY(read > 0);
     QVERIFY(peakMemory() - before < 160 << 10);
+    QCOMPARE(errors.text(), QByteArray());
 }
 
 void TestImageFile::nearestColorIsThatOfAPlainSearch()
