@@ -1,5 +1,6 @@
 #include "editing.h"
 
+#include "changing.h"
 #include "cli.h"
 #include "code/codecs/textcodecs.h"
 #include "command.h"
@@ -78,9 +79,7 @@ int save(FamilyDocument& document, const QString& fileName)
     return notDone(error);
 }
 
-}  // namespace
-
-int editFile(const Invocation& invocation, Output& output, const Edit& edit)
+int editOnce(const Invocation& invocation, Output& output, const Edit& edit)
 {
     const QString fileName = invocation.operands.first();
     QString error;
@@ -100,6 +99,14 @@ int editFile(const Invocation& invocation, Output& output, const Edit& edit)
     }
     return invocation.dryRun ? printDifference(*document, before, fileName, output)
                              : save(*document, fileName);
+}
+
+}  // namespace
+
+int editFile(const Invocation& invocation, Output& output, const Edit& edit)
+{
+    const auto change = [&] { return editOnce(invocation, output, edit); };
+    return invocation.dryRun ? change() : changeFile(invocation.operands.first(), change);
 }
 
 int readFile(const Invocation& invocation, const Edit& look)

@@ -17,8 +17,8 @@ class Output;
 using Edit = std::function<bool(Family::FamilyDocument* document, QString* error)>;
 
 /// Opens the file that is the first operand, edits it, and saves it if its text
-/// has changed; with `--dry-run` it prints the difference instead. Gives the
-/// exit status.
+/// has changed, as one beside other programs; with `--dry-run` it prints the difference
+/// instead. Gives the exit status. `edit` may be called several times.
 int editFile(const Invocation& invocation, Output& output, const Edit& edit);
 
 /// As `editFile()`, but only looks at the document.

@@ -12,6 +12,8 @@ namespace {
 
 const int GatheredBytes = 64 * 1024;
 
+HeldComplaints* s_held = nullptr;
+
 }  // namespace
 
 Output::Output()
@@ -60,10 +62,25 @@ void Output::flush()
     m_pending.clear();
 }
 
+HeldComplaints::HeldComplaints()
+{
+    s_held = this;
+}
+
+HeldComplaints::~HeldComplaints()
+{
+    s_held = nullptr;
+    fwrite(m_lines.constData(), 1, size_t(m_lines.size()), stderr);
+}
+
 void complain(const QString& text)
 {
     const QByteArray line = "zorv: " + printable(text).toUtf8() + '\n';
-    fwrite(line.constData(), 1, size_t(line.size()), stderr);
+    if (s_held) {
+        s_held->m_lines += line;
+    } else {
+        fwrite(line.constData(), 1, size_t(line.size()), stderr);
+    }
 }
 
 QString printable(const QString& text)

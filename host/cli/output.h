@@ -40,6 +40,22 @@ private:
 /// Writes "zorv: " and a text on standard error.
 void complain(const QString& text);
 
+/// While it lives, complaints wait: what is said may have to be taken back.
+class HeldComplaints
+{
+public:
+    HeldComplaints();
+    ~HeldComplaints();
+    HeldComplaints(const HeldComplaints&) = delete;
+    HeldComplaints& operator=(const HeldComplaints&) = delete;
+
+    void forget() { m_lines.clear(); }
+
+private:
+    friend void complain(const QString& text);
+    QByteArray m_lines;
+};
+
 /// `text` on one line, and with nothing that a terminal would obey: control
 /// characters are written as "\x1b", line ends as "\n".
 QString printable(const QString& text);

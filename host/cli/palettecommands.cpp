@@ -1,5 +1,6 @@
 #include "assets/palettelist.h"
 #include "assets/spritecollection.h"
+#include "changing.h"
 #include "cli.h"
 #include "command.h"
 #include "jsonlist.h"
@@ -166,8 +167,12 @@ int applyPalette(const Invocation& invocation, Output&)
     ProgressHost host;
     const QStringList names = invocation.operands.mid(1);
     if (std::any_of(names.begin(), names.end(), isSpriteFile)) {
+        // What is written elsewhere takes the lock of that place.
+        const auto others =
+            invocation.output.place.isEmpty() ? Family::Others::Wait : Family::Others::GoAhead;
         return names.size() == 1
-                   ? applyToSprites(invocation, colors)
+                   ? changeFile(
+                         names.first(), [&] { return applyToSprites(invocation, colors); }, others)
                    : wrongUsage(Text::tr("Expected one sprite file, or images alone."));
     }
     const QStringList files = Family::expandPatterns(names, &error);

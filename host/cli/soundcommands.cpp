@@ -1,4 +1,5 @@
 #include "assets/soundfile.h"
+#include "changing.h"
 #include "cli.h"
 #include "command.h"
 #include "core/filesystemarchive.h"
@@ -103,19 +104,21 @@ int importSounds(const Invocation& invocation, Output&)
         return notDone(error);
     }
     ProgressHost host;
-    const OpenSounds sounds =
-        QFileInfo::exists(fileName) ? openSounds(fileName) : OpenSounds(new Family::SoundFile);
-    if (!sounds) {
-        return NotDone;
-    }
-    const int status =
-        tell(Family::importSounds(sounds.get(), files, invocation.group, invocation.output.force));
-    if (status != Fine || !sounds->isModified()) {
-        return status;
-    }
-    return sounds->toFile(*Zorv::FileSystemArchive::instance(), fileName, false)
-               ? int(Fine)
-               : notDone(sounds->errorString());
+    return changeFile(fileName, [&]() -> int {
+        const OpenSounds sounds =
+            QFileInfo::exists(fileName) ? openSounds(fileName) : OpenSounds(new Family::SoundFile);
+        if (!sounds) {
+            return NotDone;
+        }
+        const int status = tell(
+            Family::importSounds(sounds.get(), files, invocation.group, invocation.output.force));
+        if (status != Fine || !sounds->isModified()) {
+            return status;
+        }
+        return sounds->toFile(*Zorv::FileSystemArchive::instance(), fileName, false)
+                   ? int(Fine)
+                   : notDone(sounds->errorString());
+    });
 }
 
 int tellOfSounds(const Invocation& invocation, Output& output)

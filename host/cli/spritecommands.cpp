@@ -1,5 +1,6 @@
 #include "assets/newsprites.h"
 #include "assets/spritecollection.h"
+#include "changing.h"
 #include "cli.h"
 #include "command.h"
 #include "core/filesystemarchive.h"
@@ -169,14 +170,15 @@ int importSprites(const Invocation& invocation, Output&)
         return notDone(error);
     }
     ProgressHost host;
-    const OpenSprites sprites(fileName, OpenSprites::OrNew);
-    if (!sprites) {
-        return NotDone;
-    }
-    const Family::MediaResult result =
-        Family::importSprites(sprites.get(), files, importRequest(invocation));
-    const int status = tell(result);
-    return status == Fine ? sprites.save(fileName) : status;
+    return changeFile(fileName, [&]() -> int {
+        const OpenSprites sprites(fileName, OpenSprites::OrNew);
+        if (!sprites) {
+            return NotDone;
+        }
+        const int status =
+            tell(Family::importSprites(sprites.get(), files, importRequest(invocation)));
+        return status == Fine ? sprites.save(fileName) : status;
+    });
 }
 
 int makeSheet(const Invocation& invocation, Output& output)

@@ -8,7 +8,6 @@
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
-#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -67,15 +66,24 @@ QString resolved(const QString& path, QString* reason)
     return fromNative(place);
 }
 
-bool isProcessAlive(qint64 pid)
-{
 #ifdef Q_OS_UNIX
-    return pid > 0 && (::kill(pid_t(pid), 0) == 0 || errno != ESRCH);
-#else
-    Q_UNUSED(pid)
-    return true;
-#endif
+
+HandleCopy::HandleCopy(const QFile& file) : m_handle(::fcntl(file.handle(), F_DUPFD_CLOEXEC, 0)) {}
+
+HandleCopy::~HandleCopy()
+{
+    if (m_handle >= 0) {
+        ::close(m_handle);
+    }
 }
+
+#else
+
+HandleCopy::HandleCopy(const QFile&) {}
+
+HandleCopy::~HandleCopy() = default;
+
+#endif
 
 void takeOwnerAndMode(QFile& file, const QString& from)
 {

@@ -14,8 +14,18 @@ namespace FileReplace {
 /// there. Empty, with the reason, if the links go in a circle.
 QString resolved(const QString& path, QString* reason);
 
-/// True if a process of this number runs on this machine.
-bool isProcessAlive(qint64 pid);
+/// Another handle of an open file, so that its lock outlives the closing of the file.
+class HandleCopy
+{
+public:
+    explicit HandleCopy(const QFile& file);
+    ~HandleCopy();
+    HandleCopy(const HandleCopy&) = delete;
+    HandleCopy& operator=(const HandleCopy&) = delete;
+
+private:
+    int m_handle = -1;
+};
 
 /// Gives an open file the permissions and, as far as allowed, the owner of
 /// another.

@@ -2,6 +2,7 @@
 
 #include "core/archive.h"
 #include "core/safefile_p.h"
+#include "core/unfinished_p.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -96,6 +97,27 @@ bool copyFile(Archive& source, const QString& sourceName, Archive& target,
         *error = readError.isEmpty() ? writeError : readError;
     }
     return opened;
+}
+
+bool writeFile(const QString& fileName, const QByteArray& bytes, Existing existing, QString* error)
+{
+    forcePath(fileName);
+    SafeFile file(fileName);
+    file.setLazy();
+    QIODevice::OpenMode mode = QIODevice::WriteOnly;
+    if (existing == Existing::Stays) {
+        mode |= QIODevice::NewOnly;
+    }
+    const bool isWritten = file.open(mode) && file.write(bytes) == bytes.size() && file.commit();
+    if (!isWritten) {
+        *error = file.failure();
+    }
+    return isWritten;
+}
+
+void removeUnfinished()
+{
+    Unfinished::removeAll();
 }
 
 }  // namespace Zorv

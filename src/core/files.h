@@ -30,4 +30,20 @@ ZORV_EXPORT bool forcePath(const QString& fileName);
 ZORV_EXPORT bool copyFile(Archive& source, const QString& sourceName, Archive& target,
                           const QString& targetName, QString* error = nullptr);
 
+/// What `writeFile()` does about a file that is there already.
+enum class Existing {
+    Stays,      ///< nothing is written
+    IsReplaced  ///< in one step, once the new one has reached the disk
+};
+
+/// Writes a whole file as `FileSystemArchive` does, with the folder that it needs, for what is
+/// made of something that stays: a new file need not have reached the disk. False, with `error` for
+/// the person, if that fails; what was there is there still. Re-entrant.
+ZORV_EXPORT bool writeFile(const QString& fileName, const QByteArray& bytes, Existing existing,
+                           QString* error);
+
+/// Removes what is being written, and the backup that is being made, and lets nothing more be
+/// written: any write waits for ever. For a process that ends at once, in a thread of its own.
+ZORV_EXPORT void removeUnfinished();
+
 }  // namespace Zorv

@@ -14,8 +14,9 @@ namespace Zorv {
 /// only the one that was opened changes. A target that exists and is not a
 /// regular file (a pipe, a device), or that is write-protected, is refused.
 ///
-/// A process that is killed leaves its hidden file behind; the next save of the
-/// same target by whatever process removes it.
+/// A process that is killed leaves its hidden file behind; the next that writes in
+/// the folder removes it, and no file that is being written: that is locked.
+/// Changes by several programs take turns, see `FileChange`.
 ///
 /// Opening to append, or to read and write, starts from a copy of the old
 /// content; the same promise holds.

@@ -4,7 +4,7 @@ namespace Zorv {
 
 namespace {
 
-LazySync* s_current = nullptr;
+thread_local LazySync* s_current = nullptr;
 
 }  // namespace
 
@@ -25,13 +25,6 @@ LazySync::~LazySync()
 LazySync* LazySync::current()
 {
     return s_current;
-}
-
-bool LazySync::isNewFolder(const QString& folder)
-{
-    const int before = m_folders.size();
-    m_folders.insert(folder);
-    return m_folders.size() > before;
 }
 
 LazySync::Exception::Exception(bool isNeeded) : m_former(s_current)

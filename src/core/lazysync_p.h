@@ -1,8 +1,5 @@
 #pragma once
 
-#include <QSet>
-#include <QString>
-
 namespace Zorv {
 
 /// While it lives, nobody waits for new files to reach the disk: they are copies
@@ -10,7 +7,7 @@ namespace Zorv {
 ///
 /// The system writes them in its own time. A file that takes the place of another
 /// is not concerned: the old content never goes before the new one is safe. Main
-/// thread only; one inside of another does nothing.
+/// thread only, and what is written in others waits; one inside of another does nothing.
 class LazySync
 {
 public:
@@ -27,9 +24,6 @@ public:
     /// The one in effect, or null.
     static LazySync* current();
 
-    /// True the first time that a folder is named.
-    bool isNewFolder(const QString& folder);
-
     /// Takes it out of effect, for a content that is nowhere else.
     class Exception
     {
@@ -45,7 +39,6 @@ public:
 
 private:
     Use m_use;
-    QSet<QString> m_folders;
 };
 
 }  // namespace Zorv

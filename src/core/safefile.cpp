@@ -1,11 +1,11 @@
 #include "core/safefile_p.h"
 
+#include "core/filechange_p.h"
 #include "core/filereplace_p.h"
 #include "core/lazysync_p.h"
+#include "core/unfinished_p.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 
 namespace Zorv {
@@ -17,8 +17,6 @@ const int CopyBlock = 1024 * 1024;
 const int MaxNameBytes = 200;
 const int MaxNames = 1000;
 
-const QLatin1String suffix(".zorv-save");
-
 // The head of the names of all new files for one target: hidden, and short
 // enough for a number and the suffix to fit whatever the length of the name.
 QString nameHead(const QFileInfo& target)
@@ -28,41 +26,6 @@ QString nameHead(const QFileInfo& target)
         name.chop(name.at(name.size() - 1).isLowSurrogate() ? 2 : 1);
     }
     return QLatin1Char('.') + name + QLatin1Char('.');
-}
-
-// A process that was killed while it saved has left its new file behind. Those
-// of all targets go if `head` is empty.
-void removeLeftovers(const QString& folder, const QString& head)
-{
-    const qint64 self = QCoreApplication::applicationPid();
-    QDirIterator entries(folder, QDir::Files | QDir::Hidden);
-    while (entries.hasNext()) {
-        const QString path = entries.next();
-        const QString name = entries.fileName();
-        if (!name.startsWith(head.isEmpty() ? QStringLiteral(".") : head) ||
-            !name.endsWith(suffix)) {
-            continue;
-        }
-        const int numberStart = name.lastIndexOf(QLatin1Char('.'), -1 - suffix.size()) + 1;
-        const QString number = name.mid(numberStart).section(QLatin1Char('-'), 0, 0);
-        bool isNumber = false;
-        const qint64 pid = number.toLongLong(&isNumber);
-        if (isNumber && pid != self && !FileReplace::isProcessAlive(pid)) {
-            QFile::remove(path);
-        }
-    }
-}
-
-// Many files of one folder need one look at it.
-void clearLeftovers(const QFileInfo& target)
-{
-    const QString folder = target.absolutePath();
-    LazySync* lazy = LazySync::current();
-    if (!lazy) {
-        removeLeftovers(folder, nameHead(target));
-    } else if (lazy->isNewFolder(folder)) {
-        removeLeftovers(folder, {});
-    }
 }
 
 }  // namespace
@@ -86,6 +49,7 @@ bool SafeFile::open(OpenMode mode)
         return false;
     }
     const bool keepsOld = (mode & Append) || ((mode & ReadOnly) && !(mode & Truncate));
+    m_isNewOnly = mode & NewOnly;
     m_touched = !keepsOld || !m_targetExists;
     if (keepsOld && m_targetExists && !copyOldContent()) {
         discard();
@@ -187,12 +151,12 @@ bool SafeFile::checkTarget(OpenMode mode)
 bool SafeFile::makeFile()
 {
     const QFileInfo target(m_target);
-    clearLeftovers(target);
-    const QString head = target.absolutePath() + QLatin1Char('/') + nameHead(target) +
-                         QString::number(QCoreApplication::applicationPid()) + QLatin1Char('-');
+    const QString folder = target.absolutePath();
+    Unfinished::clearOnce(folder);
+    const QString head = folder + QLatin1Char('/') + nameHead(target);
     for (int i = 0; i < MaxNames && !m_file.isOpen(); ++i) {
-        m_file.setFileName(head + QString::number(i) + suffix);
-        if (!m_file.open(ReadWrite | NewOnly | Unbuffered) && !m_file.exists()) {
+        m_file.setFileName(head + QString::number(i) + QLatin1String(Unfinished::FileSuffix));
+        if (!openNew() && m_file.error() != QFile::NoError && !m_file.exists()) {
             break;
         }
     }
@@ -202,10 +166,26 @@ bool SafeFile::makeFile()
                       "another place."));
         return false;
     }
+    Unfinished::add(m_file.fileName());
     if (m_targetExists) {
         FileReplace::takeOwnerAndMode(m_file, m_target);
     }
     return true;
+}
+
+// A process that was killed while it wrote may have left a file of this name.
+bool SafeFile::openNew()
+{
+    const OpenMode mode = ReadWrite | NewOnly | Unbuffered;
+    bool isMade = m_file.open(mode);
+    if (!isMade && Unfinished::removeIfLeft(m_file.fileName())) {
+        isMade = m_file.open(mode);
+    }
+    if (isMade && !Unfinished::lock(m_file.handle(), m_file.fileName())) {
+        m_file.close();
+        isMade = false;
+    }
+    return isMade;
 }
 
 bool SafeFile::copyOldContent()
@@ -257,18 +237,24 @@ bool SafeFile::writeOut(const char* data, qint64 size)
 bool SafeFile::replaceTarget()
 {
     QString reason;
-    const bool waits = m_targetExists || !LazySync::current();
+    const bool waits = m_targetExists || !(m_isLazy || LazySync::current());
     bool done = !waits || FileReplace::syncFile(m_file, &reason);
     if (done) {
+        // Until it has its name it is locked, and so no leftover.
+        const FileReplace::HandleCopy keepsLock(m_file);
         m_file.close();
         done = m_file.error() == QFile::NoError;
         reason = m_file.errorString();
+        done = done && takePlace(&reason);
+        if (!done) {
+            discard();
+        }
     }
-    done = done && FileReplace::rename(m_file.fileName(), m_target, &reason);
     if (!done) {
         failWriting(reason);
         return false;
     }
+    Unfinished::remove(m_file.fileName());
     m_file.setFileName({});
     if (waits) {
         FileReplace::syncFolder(QFileInfo(m_target).absolutePath());
@@ -276,21 +262,41 @@ bool SafeFile::replaceTarget()
     return true;
 }
 
+bool SafeFile::takePlace(QString* reason)
+{
+    FileTurn turn(m_target);
+    if (!turn.take(reason)) {
+        return false;
+    }
+    if (m_isNewOnly && QFileInfo::exists(m_target)) {
+        *reason = tr("The file exists");
+        return false;
+    }
+    const bool isThere = FileReplace::rename(m_file.fileName(), m_target, reason);
+    if (isThere) {
+        turn.done();
+    }
+    return isThere;
+}
+
 void SafeFile::discard()
 {
     const QString name = m_file.fileName();
-    m_file.close();
     if (!name.isEmpty()) {
         QFile::remove(name);
+        Unfinished::remove(name);
     }
+    m_file.close();
     m_file.setFileName({});
     m_pending.clear();
 }
 
 void SafeFile::failWriting(const QString& reason)
 {
-    setFailure(reason, tr("The old file is unchanged. Free some space or choose another place, "
-                          "then save again."));
+    setFailure(reason, m_targetExists
+                           ? tr("The old file is unchanged. Free some space or choose another "
+                                "place, then save again.")
+                           : tr("Free some space or choose another place, then save again."));
 }
 
 void SafeFile::setFailure(const QString& reason, const QString& advice)

@@ -20,6 +20,10 @@ public:
     explicit SafeFile(const QString& path);
     ~SafeFile() override;
 
+    /// The file need not have reached the disk, unless it takes the place of another: what it
+    /// was made of is there still.
+    void setLazy() { m_isLazy = true; }
+
     /// Makes the new file. On false `failure()` tells why.
     bool open(OpenMode mode) override;
 
@@ -46,10 +50,12 @@ protected:
 private:
     bool checkTarget(OpenMode mode);
     bool makeFile();
+    bool openNew();
     bool copyOldContent();
     bool flush();
     bool writeOut(const char* data, qint64 size);
     bool replaceTarget();
+    bool takePlace(QString* reason);
     void discard();
     void failWriting(const QString& reason);
     void setFailure(const QString& reason, const QString& advice);
@@ -60,6 +66,8 @@ private:
     QByteArray m_pending;  // to be written where m_file stands
     QString m_failure;
     bool m_targetExists = false;
+    bool m_isNewOnly = false;  // what stands there by now stays
+    bool m_isLazy = false;
     bool m_touched = false;  // differs from the old file, if it began as its copy
 };
 

@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -293,30 +294,41 @@ private slots:
     void leftoversOfDeadProcessesAreSwept()
     {
         const QString name = QString(60, QChar(0x4e2d)) + QStringLiteral("[1].def");
-        path = folder->filePath(name);
-        // A process number that is free: that of a child that is gone.
-        const pid_t dead = ::fork();
-        if (dead == 0) {
-            ::_exit(0);
-        }
-        ::waitpid(dead, nullptr, 0);
-
-        QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
-        const QString own = everythingIn(folder->path()).value(0);
-        QVERIFY(!own.isEmpty());
-        const QString number = QString::number(::getpid());
-        QVERIFY(own.contains(number));
-        QString stale = own, alive = own, foreign = own;
-        put(folder->filePath(stale.replace(number, QString::number(dead))), "part");
-        put(folder->filePath(alive.replace(number, QString::number(::getppid()))), "at work");
-        put(folder->filePath(foreign.replace(number, QStringLiteral("x"))), "not ours");
+        QTemporaryDir other;
+        QIODevice* device = archive().openFile(other.filePath(name), QIODevice::WriteOnly);
+        const QString own = everythingIn(other.path()).value(0);
+        QVERIFY(own.startsWith('.') && own.endsWith(".zorv-save"));
         QVERIFY(archive().closeFile(device));
-        QVERIFY(archive().closeFile(archive().openFile(path, QIODevice::WriteOnly)));
+
+        QString alive = own, former = own;
+        const QString foreign = own.chopped(12) + "x.zorv-save";
+        put(at(own), "part");
+        put(at(alive.replace(".0.", ".3.")), "at work");
+        put(at(former.replace(".0.", ".123-0.")), "part, of a former version");
+        put(at(".of another file.0.zorv-save"), "part");
+        put(at(foreign), "not ours");
+        QFile writing(at(alive));
+        QVERIFY(writing.open(QIODevice::ReadWrite));
+        QCOMPARE(::flock(writing.handle(), LOCK_EX), 0);
+        QVERIFY(archive().closeFile(archive().openFile(at(name), QIODevice::WriteOnly)));
 
         QStringList expected{name, alive, foreign}, found = everythingIn(folder->path());
         expected.sort();
         found.sort();
         QCOMPARE(found, expected);
+    }
+
+    void namesOfAnyLengthAreWritten()
+    {
+        for (int length = 1; length <= 255; length += 2) {
+            const QString name = at(QString(length, 'n'));
+            QString error;
+            QVERIFY2(writeFile(name, "new", Existing::Stays, &error), qPrintable(error));
+            QVERIFY2(writeFile(name, "over", Existing::IsReplaced, &error), qPrintable(error));
+            QVERIFY(!writeFile(name, "again", Existing::Stays, &error));
+            QCOMPARE(contentOf(name), QByteArray("over"));
+        }
+        QCOMPARE(everythingIn(folder->path()).size(), 128);
     }
 
     void savesOfOneFileAtOnce()
@@ -421,7 +433,7 @@ private slots:
     }
 
 private:
-    QString at(const char* name) const { return folder->filePath(QString::fromLatin1(name)); }
+    QString at(const QString& name) const { return folder->filePath(name); }
 
     std::unique_ptr<QTemporaryDir> folder;
     QString path;

@@ -29,14 +29,15 @@ class Text
 QString editFile(const QString& fileName, const ImageEdit& edit, const OutputFiles& outputs,
                  int index)
 {
-    QString error;
-    const QImage image = readImage(fileName, &error);
-    if (image.isNull()) {
-        return error;
-    }
-    const QImage edited = edit(image, &error);
-    return edited.isNull() ? QStringLiteral("'%1': %2").arg(fileName, error)
-                           : writeImage(edited, outputs, index);
+    return outputs.make(index, [&](QString* error) {
+        const QImage image = readImage(fileName, error);
+        const QImage edited = image.isNull() ? image : edit(image, error);
+        if (edited.isNull()) {
+            *error = image.isNull() ? *error : QStringLiteral("'%1': %2").arg(fileName, *error);
+            return QByteArray();
+        }
+        return imageFile(edited, outputs.format(index), outputs.path(index), error);
+    });
 }
 
 QVector<QRgb> colorTable(const QVector<Zorv::RGBA>& colors)

@@ -1,13 +1,12 @@
 #include "operations/media/outputfiles.h"
 
 #include "core/files.h"
+#include "operations/filechanges.h"
 #include "operations/media/mediaresult.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QVector>
 
 #include <algorithm>
@@ -36,42 +35,6 @@ bool isFolder(const QString& place)
 {
     return place.endsWith(QLatin1Char('/')) || QFileInfo(place).isDir() ||
            (suffixOf(place).isEmpty() && !place.contains(QLatin1Char('*')));
-}
-
-/// A result that replaces nothing is whole under another name first. It need not have reached the
-/// disk: what it was made of is there still.
-QString writeNew(const QString& path, const QByteArray& bytes)
-{
-    const QFileInfo target(path);
-    QFile part(QStringLiteral("%1/.%2.%3-0.zorv-save")
-                   .arg(target.absolutePath(), target.fileName(),
-                        QString::number(QCoreApplication::applicationPid())));
-    const QString advice = Text::tr("Cannot write '%1': %2. Check the folder and the space on it.");
-    Zorv::forcePath(path);
-    if (!part.open(QIODevice::WriteOnly | QIODevice::Unbuffered | QIODevice::Truncate)) {
-        return advice.arg(path, part.errorString());
-    }
-    const bool isWritten = part.write(bytes) == bytes.size();
-    QString reason = part.errorString();
-    part.close();
-    if (isWritten && part.rename(path)) {
-        return {};
-    }
-    reason = isWritten ? part.errorString() : reason;
-    part.remove();
-    return advice.arg(path, reason);
-}
-
-/// What is replaced may be the one copy of a picture: the result has reached the disk first.
-/// Without a buffer no failed write is missed.
-QString writeOver(const QString& path, const QByteArray& bytes)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-        file.write(bytes) == bytes.size() && file.commit()) {
-        return {};
-    }
-    return Text::tr("Cannot replace '%1': %2. It is unchanged.").arg(path, file.errorString());
 }
 
 }  // namespace
@@ -126,9 +89,22 @@ QByteArray OutputFiles::format(int index) const
 
 QString OutputFiles::write(int index, const QByteArray& bytes) const
 {
-    const QString target = path(index);
-    return m_force && QFileInfo::exists(target) ? writeOver(target, bytes)
-                                                : writeNew(target, bytes);
+    QString error;
+    Zorv::writeFile(path(index), bytes,
+                    m_force ? Zorv::Existing::IsReplaced : Zorv::Existing::Stays, &error);
+    return error;
+}
+
+QString OutputFiles::make(int index, const std::function<QByteArray(QString* error)>& result) const
+{
+    QString error;
+    const auto change = [&] {
+        error.clear();
+        const QByteArray bytes = result(&error);
+        error = error.isEmpty() ? write(index, bytes) : error;
+    };
+    changeAsOne(path(index), Others::GoAhead, change, &error);
+    return error;
 }
 
 // By hash, for the paths of many files together would take more memory than the files on their way.

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <functional>
+
 namespace Family {
 
 struct MediaResult;
@@ -38,6 +40,10 @@ public:
     /// Writes a result, with the folder that it needs. The file is there whole or not at all. Empty
     /// if that was done, else why not, for the person. Re-entrant.
     QString write(int index, const QByteArray& bytes) const;
+
+    /// Makes a result and writes it. If another program changes the file at its place meanwhile,
+    /// it is made anew: it may take the place of what it is made of. Else as `write()`.
+    QString make(int index, const std::function<QByteArray(QString* error)>& result) const;
 
 private:
     QString pathFault() const;

@@ -1,12 +1,12 @@
 #include "operations/media/palettework.h"
 
 #include "core/files.h"
+#include "core/filesystemarchive.h"
 #include "media/paletteobject.h"
 #include "operations/media/jobs.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QFile>
 
 namespace Family {
 
@@ -22,20 +22,21 @@ class Text
 
 bool readPalette(const QString& fileName, Zorv::RGBA (&colors)[256], QString* error)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = Text::tr("Cannot open '%1': %2. Check that the file is there and may be read.")
-                     .arg(fileName, file.errorString());
+    // A pipe or a device would be waited for.
+    Zorv::FileSystemArchive& disk = *Zorv::FileSystemArchive::instance();
+    QIODevice* device = disk.openFile(fileName, QIODevice::ReadOnly, error);
+    if (!device) {
         return false;
     }
     Zorv::PaletteObject palette(colors);
-    if (!palette.fromFile(&file, Zorv::fileExtension(fileName).constData())) {
+    const bool isRead = palette.fromFile(device, Zorv::fileExtension(fileName).constData());
+    disk.closeFile(device);
+    if (!isRead) {
         *error = Text::tr("Cannot read a palette from '%1'. Expected .act, .pal, .aco, .ase, .txt, "
                           "or an indexed image.")
                      .arg(fileName);
-        return false;
     }
-    return true;
+    return isRead;
 }
 
 MediaResult convertPalettes(const QStringList& files, const OutputRequest& request)
@@ -48,14 +49,12 @@ MediaResult convertPalettes(const QStringList& files, const OutputRequest& reque
     }
     JobProgress progress(Text::tr("Palettes"), files.size());
     for (int i = 0; i < files.size() && !result.isCanceled; ++i) {
-        Zorv::RGBA colors[256] = {};
-        QString fault;
-        if (readPalette(files[i], colors, &fault)) {
-            const QByteArray bytes =
-                paletteFile(colors, outputs.format(i), outputs.path(i), &fault);
-            fault = fault.isEmpty() ? outputs.write(i, bytes) : fault;
-        }
-        result.note(fault);
+        result.note(outputs.make(i, [&](QString* error) {
+            Zorv::RGBA colors[256] = {};
+            return readPalette(files[i], colors, error)
+                       ? paletteFile(colors, outputs.format(i), outputs.path(i), error)
+                       : QByteArray();
+        }));
         result.isCanceled = !progress.step();
     }
     return result;

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "operations/filechanges.h"
+
+namespace Cli {
+
+/// As `Family::changeAsOne()`; gives the status of the last call of `change`, and only what that
+/// has said is told.
+int changeFile(const QString& fileName, const std::function<int()>& change,
+               Family::Others others = Family::Others::Wait);
+
+}  // namespace Cli

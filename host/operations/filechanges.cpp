@@ -1,0 +1,39 @@
+#include "operations/filechanges.h"
+
+#include "assets/folderlist.h"
+#include "core/filechange.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QThread>
+
+namespace Family {
+
+namespace {
+
+constexpr int LongestWait = 20000;
+constexpr int Attempts = 8;
+constexpr int PauseMilliseconds = 15;  // more with each attempt
+
+}  // namespace
+
+bool changeAsOne(const QString& fileName, Others others, const std::function<void()>& change,
+                 QString* error)
+{
+    const QString file =
+        QFileInfo(fileName).isDir() ? QDir(fileName).filePath(FolderList::fileName()) : fileName;
+    for (int i = 1; i <= Attempts; ++i) {
+        Zorv::FileChange watched(file);
+        if (others == Others::Wait && !watched.lock(LongestWait, error)) {
+            return false;
+        }
+        change();
+        if (!watched.isOvertaken()) {
+            break;
+        }
+        QThread::msleep(ulong(i * PauseMilliseconds));
+    }
+    return true;
+}
+
+}  // namespace Family
