@@ -144,12 +144,12 @@ int backUp(const Invocation& invocation, Output& output)
     for (const QString& error : opened.errors()) {
         complain(error);
     }
-    const BackupResult result = Family::makeBackup(opened.game(), name);
-    for (const QString& file : result.missing) {
+    const BackupResult result = Family::makeBackup(opened.game(), name, opened.errors());
+    const QStringList missing = result.folder.isEmpty() ? QStringList() : result.missing;
+    for (const QString& file : missing) {
         complain(Text::tr("'%1' is named and not there. The backup lacks it.").arg(file));
     }
-    const int status = finish(result, output);
-    return status == Fine && !opened.errors().isEmpty() ? NotDone : status;
+    return finish(result, output);
 }
 
 int listBackups(const Invocation& invocation, Output& output)

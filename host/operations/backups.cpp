@@ -1,10 +1,12 @@
 #include "operations/backups.h"
 
+#include "core/filechange.h"
 #include "core/files.h"
 #include "core/filesystemarchive.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "family/project/unnamedprojects.h"
 #include "operations/sharedfiles.h"
 
 #include <QCoreApplication>
@@ -14,6 +16,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <functional>
+#include <memory>
+#include <vector>
 
 namespace Family {
 
@@ -95,26 +100,6 @@ void sortFailures(const FamilyParentProject& game, const QStringList& files, Bac
     }
 }
 
-/// The folder that the last backup of the game could not make; empty if it could.
-QString folderNotMade(const FamilyParentProject& game)
-{
-    const QString first = game.failedFiles().value(0);
-    const bool isFolder = first.startsWith(QLatin1String("backup/"));
-    return isFolder && !QFileInfo(game.absolutePath() + first).isDir() ? first : QString();
-}
-
-/// The youngest backup of a name.
-QString youngest(const FamilyParentProject& game, const QString& name)
-{
-    for (const QString& folder : game.backups()) {
-        QString own;
-        if (Zorv::ParentProject::backupTime(folder, &own).isValid() && own == name) {
-            return folder;
-        }
-    }
-    return {};
-}
-
 /// The name, or with a number behind if a backup of this moment has it: two of one name and
 /// second would share a folder, and the files of the first be replaced.
 QString freeName(const FamilyParentProject& game, const QString& name)
@@ -156,21 +141,44 @@ QStringList filesAtRisk(const FamilyParentProject& game, const QVector<RestoredF
     return files;
 }
 
-BackupResult makeSafetyBackup(FamilyParentProject* game, const QStringList& files)
+/// Makes a backup that is kept if `isComplete` says so; that gets the folder of the files.
+BackupResult makeBackupIf(FamilyParentProject* game, const QString& wantedName,
+                          const std::function<bool(const QString&, BackupResult*)>& isComplete)
 {
-    BackupResult result = makeBackup(game, Text::tr("Before restore"));
-    if (result.isCanceled || result.folder.isEmpty()) {
+    BackupResult result;
+    result.error = backupNameFault(wantedName);
+    if (!result.error.isEmpty()) {
         return result;
     }
-    const QString folder = folderOf(*game, result.folder);
-    result.failed = addToBackup(*game, files, folder);
-    result.error.clear();
-    if (!result.failed.isEmpty()) {
-        result.error = Text::tr("Nothing was restored, for not all files that would change could "
-                                "be copied aside first. Check that there is space on the disk, or "
-                                "restore without a backup of the present files.");
+    bool isAsked = false;
+    result.folder = game->makeBackup(freeName(*game, wantedName), [&](const QString& folder) {
+        isAsked = true;
+        return isComplete(folder, &result);
+    });
+    result.isCanceled = game->wasCanceled();
+    const bool isFailed = isAsked && !(result.failed.isEmpty() && result.error.isEmpty());
+    if (result.folder.isEmpty() && !result.isCanceled && !isFailed) {
+        result.error =
+            Text::tr("Cannot make the folder %1. Check that there is space on the disk "
+                     "and that the folder of the game may be written to.")
+                .arg(QDir::toNativeSeparators(game->absolutePath() + game->failedFiles().last()));
     }
     return result;
+}
+
+BackupResult makeSafetyBackup(FamilyParentProject* game, const QStringList& files)
+{
+    return makeBackupIf(
+        game, Text::tr("Before restore"), [&](const QString& folder, BackupResult* result) {
+            result->failed = addToBackup(*game, files, folder);
+            if (!result->failed.isEmpty()) {
+                result->error =
+                    Text::tr("Nothing was restored, for not all files that would change could "
+                             "be copied aside first. Check that there is space on the disk, or "
+                             "restore without a backup of the present files.");
+            }
+            return result->failed.isEmpty();
+        });
 }
 
 }  // namespace
@@ -207,6 +215,9 @@ QList<FamilyProject*> openAllProjects(FamilyParentProject* game, QStringList* er
     QStringList opened;
     for (const FamilyProject* project : openProjectsOf(*game)) {
         opened.append(project->fileName());
+    }
+    for (const QString& path : unnamedProjects(game->absolutePath())) {
+        errors->append(unnamedProjectText(path));
     }
     QList<FamilyProject*> projects;
     for (const QString& mainFile : FamilyParentProject::mainFiles(game->absolutePath())) {
@@ -271,41 +282,20 @@ QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QStr
     return result;
 }
 
-BackupResult makeBackup(FamilyParentProject* game, const QString& wantedName)
+BackupResult makeBackup(FamilyParentProject* game, const QString& name, const QStringList& unopened)
 {
-    BackupResult result;
-    result.error = backupNameFault(wantedName);
-    if (!result.error.isEmpty()) {
-        return result;
-    }
-    const QString name = freeName(*game, wantedName);
-    game->backup(name);
-    const QStringList failed = game->failedFiles();
-    const QString unmade = folderNotMade(*game);
-    const QString made = unmade.isEmpty() ? youngest(*game, name) : QString();
-    result.isCanceled = game->wasCanceled();
-    if (made.isEmpty()) {
-        result.error =
-            Text::tr("Cannot make the folder %1. Check that there is space on the disk and "
-                     "that the folder of the game may be written to.")
-                .arg(QDir::toNativeSeparators(game->absolutePath() + unmade));
-        return result;
-    }
-    if (result.isCanceled) {
-        // Half a backup would be taken for a whole one.
-        QDir(folderOf(*game, made)).removeRecursively();
-        return result;
-    }
-    result.folder = made;
-    sortFailures(*game, failed, &result);
-    result.failed.removeDuplicates();
-    result.missing.removeDuplicates();
-    if (!result.failed.isEmpty()) {
-        result.error = Text::tr("The backup '%1' is not complete. Check that there is space on the "
-                                "disk and that all files may be read, then make another backup.")
-                           .arg(made);
-    }
-    return result;
+    return makeBackupIf(game, name, [&](const QString&, BackupResult* result) {
+        sortFailures(*game, game->failedFiles(), result);
+        result->failed.removeDuplicates();
+        result->missing.removeDuplicates();
+        const bool isComplete = result->failed.isEmpty() && unopened.isEmpty();
+        if (!isComplete) {
+            result->error = Text::tr("There is no backup, for it would not be complete. Check that "
+                                     "there is space on the disk and that all files may be read, "
+                                     "then try again.");
+        }
+        return isComplete;
+    });
 }
 
 BackupResult restoreBackup(FamilyParentProject* game, const QString& folder, bool makesSafety)
@@ -314,6 +304,11 @@ BackupResult restoreBackup(FamilyParentProject* game, const QString& folder, boo
     const QVector<RestoredFile> restored = filesToRestore(*game, folder, &result.error);
     if (!result.error.isEmpty()) {
         return result;
+    }
+    // What another program writes from here on is in no backup: it stays.
+    std::vector<std::unique_ptr<Zorv::FileChange>> changes;
+    for (const RestoredFile& file : restored) {
+        changes.push_back(std::make_unique<Zorv::FileChange>(game->absolutePath() + file.path));
     }
     const QStringList atRisk = filesAtRisk(*game, restored);
     if (makesSafety && !atRisk.isEmpty()) {

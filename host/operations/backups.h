@@ -48,8 +48,8 @@ struct BackupResult
 QString backupNameFault(const QString& name);
 
 /// Opens every project of a game that is not open yet and gives those; the
-/// caller ends them (`closeProjects()`). One whose main file cannot be read stays
-/// closed, and the reason goes into `errors`.
+/// caller ends them (`closeProjects()`). One whose main file cannot be read, or has a
+/// name that is no text, stays closed, and the reason goes into `errors`.
 QList<FamilyProject*> openAllProjects(FamilyParentProject* game, QStringList* errors);
 void closeProjects(const QList<FamilyProject*>& projects);
 
@@ -63,9 +63,11 @@ QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QStr
                                      QString* error);
 
 /// Copies the open projects, with unsaved changes and with the files of the game
-/// that they share, into a new backup. One that is given up is removed again. If a
+/// that they share, into a new backup. There is none if it is given up, if a file that is
+/// there cannot be copied, or if projects could not be opened: `unopened` tells why. If a
 /// backup of the same moment has the name, a number comes behind it.
-BackupResult makeBackup(FamilyParentProject* game, const QString& name);
+BackupResult makeBackup(FamilyParentProject* game, const QString& name,
+                        const QStringList& unopened = {});
 
 /// Puts a backup back and reads the open projects again; unsaved changes of
 /// these are lost, files that the backup lacks stay. First everything that is

@@ -2,11 +2,14 @@
 
 #include "core/folders_p.h"
 #include "core/lazysync_p.h"
+#include "core/newbackup_p.h"
 #include "core/parentproject_p.h"
 #include "core/progress_p.h"
+#include "core/project_p.h"
 
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -25,38 +28,58 @@ QString timeText(const QDateTime& time)
     return QLocale::c().toString(time, QStringLiteral("dd.MM.yyyy_h.m.s_ap_"));
 }
 
-// A slash is no part of a name: the backup would lie elsewhere.
-bool makeFolder(const QString& root, const QString& name)
-{
-    return !name.contains(QLatin1Char('/')) && QDir().mkpath(root + backupFolder + name);
-}
-
 }  // namespace
 
 bool ParentProject::backup(const QString& name)
 {
+    makeBackup(name);
+    return true;
+}
+
+QString ParentProject::makeBackup(const QString& name,
+                                  const std::function<bool(const QString& folder)>& isComplete)
+{
     const QString folderName = timeText(QDateTime::currentDateTime()) + name;
     d->beginWork();
-    if (!makeFolder(absolutePath(), folderName)) {
+    NewBackup made(absolutePath() + backupFolder, folderName);
+    if (made.path().isEmpty()) {
         d->failedFiles.append(backupFolder + folderName);
-        return true;
+        return {};
     }
-    const QString folder = absolutePath() + backupFolder + folderName + QLatin1Char('/');
-    const QVector<QPointer<Project>> projects = d->openProjects();
+    const bool isWhole = d->copyProjects(made.path());
+    if (d->isCanceled || !(isComplete ? isComplete(made.path()) : isWhole)) {
+        return {};
+    }
+    if (!made.finish()) {
+        d->failedFiles.append(backupFolder + folderName);
+        return {};
+    }
+    return folderName;
+}
+
+/// True if nothing is missing that is there to be copied.
+bool ParentProjectPrivate::copyProjects(const QString& folder)
+{
+    const QVector<QPointer<Project>> opened = openProjects();
     const LazySync lazy;
-    Progress progress(tr("Backup in progress..."), projects.size());
-    for (const QPointer<Project>& project : projects) {
+    Progress progress(ParentProject::tr("Backup in progress..."), opened.size());
+    bool isWhole = true;
+    for (const QPointer<Project>& project : opened) {
         if (project) {
             const QString place = project->basePath();
             project->saveAll(folder, true, nullptr);
-            d->addFailedFiles(*project, place);
+            addFailedFiles(*project, place);
+            isWhole = isWhole && !project->d->hasWriteFailure;
         }
         if (!progress.step()) {
             break;
         }
     }
-    d->isCanceled = progress.isCanceled();
-    return true;
+    isCanceled = progress.isCanceled();
+    return isWhole &&
+           std::none_of(failedFiles.begin(), failedFiles.end(), [this](const QString& file) {
+               return QFileInfo::exists(absolutePath() + file);
+           });
 }
 
 QStringList ParentProject::backups() const
@@ -87,7 +110,7 @@ QDateTime ParentProject::backupTime(const QString& folderName, QString* name)
 QStringList ParentProject::backupFiles(const QString& folderName) const
 {
     QStringList files;
-    if (isPlainName(folderName)) {
+    if (NewBackup::isWholeName(folderName)) {
         const QString source = absolutePath() + backupFolder + folderName + QLatin1Char('/');
         listFiles(source, files);
         for (QString& file : files) {

@@ -11,6 +11,7 @@
 #include <QList>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace Zorv {
@@ -145,7 +146,18 @@ public:
 
     /// Copies all open projects, with their unsaved changes, into a new folder
     /// below "backup/", named after the time and `name`. True in every case.
+    ///
+    /// The folder has that name only once it is complete: all files are in it
+    /// that were there. One that is given up, that fails or whose process ends
+    /// is no backup and leaves nothing, or nothing that the next one does not remove.
+    /// If there is a backup of this name and second, the files join it then.
     bool backup(const QString& name);
+
+    /// As `backup()`, and gives the name of the folder; empty if there is none. When
+    /// all is copied `isComplete`, if given, is called with the folder, which
+    /// ends in "/": it may add files, and decides in place of the rule above.
+    QString makeBackup(const QString& name,
+                       const std::function<bool(const QString& folder)>& isComplete = {});
 
     /// Copies all files of a folder below "backup/" over those of the game, and
     /// reads the open projects again; unsaved changes are lost. What the backup

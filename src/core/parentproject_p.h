@@ -63,6 +63,7 @@ public:
     void addFailedFiles(const Project& project, const QString& place);
 
     /// The work of the operations on all projects.
+    bool copyProjects(const QString& folder);
     void copyBackup(const QString& source);
     void saveProjectAs(Project* project, const QString& fileName);
     void saveGameAs(const QString& newRoot);

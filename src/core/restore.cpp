@@ -8,6 +8,7 @@
 #include "core/filewatchobject.h"
 #include "core/folders_p.h"
 #include "core/interface.h"
+#include "core/newbackup_p.h"
 #include "core/parentproject_p.h"
 #include "core/progress_p.h"
 #include "core/projectfile.h"
@@ -98,7 +99,7 @@ void ParentProjectPrivate::copyBackup(const QString& source)
 bool ParentProject::restoreBackup(const QString& folderName)
 {
     d->beginWork();
-    if (archive()->isReadOnly() || !isPlainName(folderName)) {
+    if (archive()->isReadOnly() || !NewBackup::isWholeName(folderName)) {
         return false;
     }
     d->copyBackup(absolutePath() + QLatin1String("backup/") + folderName + QLatin1Char('/'));

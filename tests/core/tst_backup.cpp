@@ -33,6 +33,11 @@ public:
     void lastReferenceGone() override {}
 };
 
+QStringList everythingIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
 QList<QPair<int, int>> steps(int count)
 {
     QList<QPair<int, int>> result{{0, count}};
@@ -67,6 +72,8 @@ private slots:
     void listsYoungestFirst();
     void passesOverStrangeEntries();
     void givenUp();
+    void oneMomentAndNameIsOneBackup();
+    void killedBackup();
     void asksNothingAboutItsOwnChanges();
     void fullDisk_data();
     void fullDisk();
@@ -257,12 +264,12 @@ void TestBackup::givenUp()
     TestInterface host;
     RandomGame game(7);
     host.cancelAfter = 1;
-    game.parent->backup("part");
+    QCOMPARE(game.parent->makeBackup("part"), QString());
     QVERIFY(game.parent->wasCanceled());
-    const QString backup = game.parent->backups().value(0);
     QCOMPARE(host.progresses.last().updates.size(), 2);
-    const QStringList present = game.parent->backupFiles(backup).filter("main.code");
-    QCOMPARE(present.size(), 1);
+    QCOMPARE(everythingIn(game.root + "backup"), QStringList());
+    host.cancelAfter = -1;
+    const QString backup = game.parent->makeBackup("whole");
 
     // Documents show what is on disk, also when only a part has come back.
     TestProject* first = game.projects.first();
@@ -330,8 +337,9 @@ void TestBackup::fullDisk()
         for (const QString& file : failed) {
             QCOMPARE(expected.remove(file), 1);
         }
-        const QString made = m_parent->backups().filter(QString("m_%1").arg(nth)).value(0);
-        QCOMPARE(contentsOf(m_root + "backup/" + made), expected);
+        // What is not whole is no backup, and takes no room.
+        QVERIFY(expected.size() < present.size());
+        QCOMPARE(everythingIn(m_root + "backup"), QStringList(backup));
         QCOMPARE(contentsOf(m_root), present);
     }
     faultArm("hero", FaultWrite, 5, ENOSPC, isShort);
@@ -345,6 +353,64 @@ void TestBackup::fullDisk()
         }
     }
     QCOMPARE(contentsOf(m_root), expected);
+}
+
+void TestBackup::oneMomentAndNameIsOneBackup()
+{
+    m_parent->open("hero/hero.code", "2 a.spr");
+    QString first, second;
+    do {
+        QVERIFY(writeFile(m_root + "hero/a.spr", "old"));
+        first = m_parent->makeBackup("a");
+        QVERIFY(QFile::remove(m_root + "backup/" + first + "/hero/hero.code"));
+        QVERIFY(writeFile(m_root + "backup/" + first + "/other", "stays"));
+        QVERIFY(writeFile(m_root + "hero/a.spr", "new"));
+        second = m_parent->makeBackup("a");
+    } while (first != second);
+    const Contents made = contentsOf(m_root + "backup/" + second);
+    QCOMPARE(made.keys(), QStringList({"hero/a.spr", "hero/hero.code", "other"}));
+    QCOMPARE(made["hero/a.spr"], QByteArray("new"));
+    QVERIFY(!everythingIn(m_root + "backup").first().startsWith('.'));
+}
+
+// What is listed is whole whenever the program is killed, and what it leaves goes with the next.
+void TestBackup::killedBackup()
+{
+    Contents present;
+    QString names;
+    for (int i = 0; i < 12; ++i) {
+        names += QString("2 part%1.spr\n").arg(i);
+        present[QString("hero/part%1.spr").arg(i)] = QByteArray(600000, char('a' + i));
+    }
+    present["hero/hero.code"] =
+        RandomGame::document(m_parent->open("hero/hero.code", names))->toData();
+    for (auto it = present.cbegin(); it != present.cend(); ++it) {
+        QVERIFY(writeFile(m_root + it.key(), it.value()));
+    }
+    QRandomGenerator random(12);
+    int parts = 0;
+    for (int round = 0; round < 40; ++round) {
+        const pid_t pid = fork();
+        if (pid == 0) {
+            m_parent->backup(QString::number(round));
+            _exit(0);
+        }
+        QTest::qSleep(1 + random.bounded(12));
+        kill(pid, SIGKILL);
+        waitpid(pid, nullptr, 0);
+        const QStringList left = everythingIn(m_root + "backup").filter(".zorv-backup");
+        QVERIFY(left.size() <= 1);
+        parts += left.size();
+        for (const QString& part : left) {
+            QVERIFY(!m_parent->restoreBackup(part) && m_parent->backupFiles(part).isEmpty());
+        }
+        for (const QString& backup : m_parent->backups()) {
+            QCOMPARE(contentsOf(m_root + "backup/" + backup), present);
+            QVERIFY(QDir(m_root + "backup/" + backup).removeRecursively());
+        }
+    }
+    QVERIFY2(parts > 0, "no backup was killed in its middle");
+    QCOMPARE(everythingIn(m_root + "backup").size(), !m_parent->makeBackup("x").isEmpty());
 }
 
 // A restore that is killed leaves each file whole: the old one or the new one.

@@ -1,6 +1,7 @@
 #include "operations/backups.h"
 
 #include "core/progressreporter.h"
+#include "family/check/check.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
@@ -11,6 +12,9 @@
 #include <QTextCursor>
 #include <QtTest>
 
+#include <filesystem>
+#include <fstream>
+#include <functional>
 #include <memory>
 
 using namespace Family;
@@ -34,12 +38,16 @@ class ImpatientHost : public HostInterface
     };
 
 public:
-    Zorv::ProgressReporter* progress(const QString&, int) override
+    Zorv::ProgressReporter* progress(const QString& title, int) override
     {
+        if (meanwhile && title.startsWith("Restoring")) {
+            meanwhile();
+        }
         return new Reporter(patience);
     }
 
     int patience = -1;
+    std::function<void()> meanwhile;  ///< happens while a restore begins to copy
 };
 
 QByteArray read(const QString& name)
@@ -59,6 +67,9 @@ private slots:
     void cleanup();
     void sharedFilesAreKept();
     void missingFilesAreNoFailures();
+    void projectWithoutNameIsTold_data();
+    void projectWithoutNameIsTold();
+    void restoreLeavesWhatIsWrittenMeanwhile();
     void givenUpBackupGoes();
     void backupsOfOneMomentStayApart();
     void restoreKeepsWhatItReplaces();
@@ -94,6 +105,7 @@ private:
 void TestBackups::init()
 {
     m_host.patience = -1;
+    m_host.meanwhile = {};
     startHost(&m_host);
     m_dir = std::make_unique<QTemporaryDir>();
     m_root = m_dir->filePath("game/");
@@ -138,6 +150,56 @@ void TestBackups::missingFilesAreNoFailures()
     QCOMPARE(result.missing, QStringList("characters/hero/own.wav"));
     QCOMPARE(result.failed, QStringList("characters/rival/own.wav"));
     QVERIFY(!result.error.isEmpty());
+    QCOMPARE(result.folder, QString());
+    QCOMPARE(m_game->backups(), QStringList());
+
+    QVERIFY(QDir().rmdir(m_root + "characters/rival/own.wav"));
+    QVERIFY(!makeBackup(m_game.get(), "now").folder.isEmpty());
+}
+
+// A name that Qt does not list must not be passed over.
+void TestBackups::projectWithoutNameIsTold_data()
+{
+    QTest::addColumn<QByteArray>("path");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("folder") << QByteArray("characters/h\xfcro/x.character")
+                            << "characters/h\\xfcro";
+    QTest::newRow("deep in it") << QByteArray("a\xff/b/c.stage") << "a\\xff";
+    QTest::newRow("main file") << QByteArray("stages/\xfe.stage") << "stages/\\xfe.stage";
+    QTest::newRow("no project") << QByteArray("a\xff/b/picture.png") << QString();
+    QTest::newRow("a backup") << QByteArray("backup/\xff/c.stage") << QString();
+}
+
+void TestBackups::projectWithoutNameIsTold()
+{
+    QFETCH(QByteArray, path);
+    QFETCH(QString, told);
+    const std::filesystem::path file = (QFile::encodeName(m_root) + path).toStdString();
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file) << "zorv 1\r\n";
+    QStringList errors;
+    openAllProjects(m_game.get(), &errors);
+    QCOMPARE(errors.size(), told.isEmpty() ? 0 : 1);
+    QVERIFY(told.isEmpty() || errors.first().contains('\'' + told + '\''));
+    QString error;
+    const Problems problems = checkGame(m_root, &error);
+    QCOMPARE(std::count_if(problems.begin(), problems.end(),
+                           [&](const Problem& problem) { return problem.file == told; }),
+             told.isEmpty() ? 0 : 1);
+    QCOMPARE(makeBackup(m_game.get(), "now", errors).folder.isEmpty(), !told.isEmpty());
+}
+
+// Other programs may write while a restore is under way: that stays.
+void TestBackups::restoreLeavesWhatIsWrittenMeanwhile()
+{
+    const BackupResult old = makeBackup(m_game.get(), "old");
+    write("shared.code", "newer");
+    m_host.meanwhile = [this] { write("shared.code", "newest"); };
+    const BackupResult result = restoreBackup(m_game.get(), old.folder);
+    QCOMPARE(result.failed, QStringList("shared.code"));
+    QVERIFY(!result.error.isEmpty());
+    QCOMPARE(read(m_root + "shared.code"), QByteArray("newest"));
+    QCOMPARE(read(inBackup(result, "shared.code")), QByteArray("newer"));
 }
 
 void TestBackups::givenUpBackupGoes()

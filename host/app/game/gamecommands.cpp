@@ -67,7 +67,7 @@ void GameCommands::makeBackup()
     QStringList errors;
     const QList<FamilyProject*> others =
         dialog.wantsAll() ? Family::openAllProjects(game, &errors) : QList<FamilyProject*>();
-    BackupResult result = Family::makeBackup(game, dialog.name());
+    BackupResult result = Family::makeBackup(game, dialog.name(), errors);
     Family::closeProjects(others);
     result.failed = errors + result.failed;
     tell(tr("Back up"), tr("The backup is in %1.").arg(result.folder), result);

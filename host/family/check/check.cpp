@@ -8,6 +8,7 @@
 #include "familydocument.h"
 #include "project/familyparentproject.h"
 #include "project/familyproject.h"
+#include "project/unnamedprojects.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -55,10 +56,22 @@ Problems checkMainFile(FamilyParentProject* game, const QString& mainFile)
     return problems;
 }
 
-Problems checkMainFiles(const QString& gameFolder, const QStringList& mainFiles)
+Problems checkNames(const QStringList& unnamed)
+{
+    Problems problems;
+    for (const QString& name : unnamed) {
+        Problem problem = problemAt(ProblemId::FileUnreadable, {name, {}}, {{}, name, 1, 1, 0});
+        problem.text = unnamedProjectText(name);
+        problems.append(problem);
+    }
+    return problems;
+}
+
+Problems checkMainFiles(const QString& gameFolder, const QStringList& mainFiles,
+                        const QStringList& unnamed = {})
 {
     FamilyParentProject game(gameFolder);
-    Problems problems;
+    Problems problems = checkNames(unnamed);
     for (const QString& mainFile : mainFiles) {
         problems += checkMainFile(&game, mainFile);
     }
@@ -144,13 +157,14 @@ Problems checkGame(const QString& gameFolder, QString* error)
                    : checkSingleFile(gameFolder, error);
     }
     const QStringList mainFiles = FamilyParentProject::mainFiles(gameFolder);
-    if (mainFiles.isEmpty()) {
+    const QStringList unnamed = unnamedProjects(gameFolder);
+    if (mainFiles.isEmpty() && unnamed.isEmpty()) {
         *error = Text::tr("There is no character or stage in '%1'. Expected files such as "
                           "'characters/hero/hero.character'.")
                      .arg(gameFolder);
         return {};
     }
-    return checkMainFiles(gameFolder, mainFiles);
+    return checkMainFiles(gameFolder, mainFiles, unnamed);
 }
 
 QString checkedFolder(const QString& path)

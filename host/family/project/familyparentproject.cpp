@@ -37,14 +37,10 @@ void collectMainFiles(const QString& folder, int depth, QStringList* files)
     for (const QString& name : names) {
         files->append(dir.absoluteFilePath(name));
     }
-    if (depth >= deepestFolder) {
-        return;
-    }
     const QStringList folders =
         dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
     for (const QString& name : folders) {
-        const bool isBackup = depth == 0 && name == QLatin1String("backup");
-        if (!isBackup && !isRunFolder(name)) {
+        if (FamilyParentProject::isProjectFolder(name, depth)) {
             collectMainFiles(dir.absoluteFilePath(name), depth + 1, files);
         }
     }
@@ -119,6 +115,12 @@ QStringList FamilyParentProject::mainFiles(const QString& folder)
     QStringList files;
     collectMainFiles(QDir(folder).absolutePath(), 0, &files);
     return files;
+}
+
+bool FamilyParentProject::isProjectFolder(const QString& name, int depth)
+{
+    const bool isBackup = depth == 0 && name == QLatin1String("backup");
+    return depth < deepestFolder && !isBackup && !isRunFolder(name);
 }
 
 Zorv::EngineModel* FamilyParentProject::engineModel() const

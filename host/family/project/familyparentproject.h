@@ -19,6 +19,10 @@ public:
     /// are not followed.
     static QStringList mainFiles(const QString& folder);
 
+    /// True if projects are looked for in a folder of this name that is not hidden; `depth` is 0
+    /// for those of the game folder itself.
+    static bool isProjectFolder(const QString& name, int depth);
+
     Zorv::EngineModel* engineModel() const override;
     void projectFiles(const QString& path, QStringList& files) override;
 
