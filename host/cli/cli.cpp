@@ -2,6 +2,7 @@
 
 #include "command.h"
 #include "commanddialogs.h"
+#include "endingsignals.h"
 #include "family/grammar/grammar.h"
 #include "operations/hostinterface.h"
 #include "output.h"
@@ -87,6 +88,7 @@ int run(const Command& command, const QStringList& arguments, Output& output)
     if (!parseArguments(command, arguments, &invocation, &error)) {
         return refuse(error, command.usage());
     }
+    EndingSignals::watch();
     Family::HostInterface host;
     Family::startHost(&host);
     CommandDialogs dialogs;

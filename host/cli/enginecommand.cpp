@@ -1,6 +1,7 @@
 #include "cli.h"
 #include "command.h"
 #include "core/dialogs/dialogs.h"
+#include "core/run/temporarycopies.h"
 #include "family/check/check.h"
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
@@ -213,9 +214,21 @@ int tell(const RunResult& result)
     return NotedSignals::received() == 0 ? int(NotDone) : NotedSignals::exitStatus();
 }
 
+/// Those of runs that were killed.
+void removeLeftCopies()
+{
+    const QList<Zorv::TemporaryCopies::Leftover> leftovers = Zorv::TemporaryCopies::leftovers();
+    for (const Zorv::TemporaryCopies::Leftover& leftover : leftovers) {
+        const QStringList stays = Zorv::TemporaryCopies::removeLeftover(leftover);
+        for (const QString& path : stays) {
+            complain(Text::tr("Cannot remove '%1', a copy for the engine. Remove it.").arg(path));
+        }
+    }
+}
+
 int runEngine(FamilyParentProject* game, Output& output)
 {
-    const NotedSignals signalsNoted;
+    const NotedSignals signalsNoted(NotedSignals::Unlimited);
     RunDialogs dialogs;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, game, [game] {
@@ -240,6 +253,7 @@ int runEngine(FamilyParentProject* game, Output& output)
 
 int runInEngine(const Invocation& invocation, Output& output)
 {
+    removeLeftCopies();
     RunHost host;
     setGlobalInterface(&host);
     QString error;

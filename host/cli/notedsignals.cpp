@@ -1,34 +1,22 @@
 #include "notedsignals.h"
 
-#include <csignal>
+#include "endingsignals.h"
 
 namespace Cli {
 
-namespace {
-
-const int numbers[] = {SIGINT, SIGTERM, SIGHUP};
-
-volatile std::sig_atomic_t s_signal = 0;
-
-}  // namespace
-
-NotedSignals::NotedSignals()
+NotedSignals::NotedSignals(Patience patience) : m_patience(patience)
 {
-    for (int i = 0; i < Count; ++i) {
-        m_old[i] = std::signal(numbers[i], [](int number) { s_signal = number; });
-    }
+    ++(m_patience == Unlimited ? EndingSignals::s_late : EndingSignals::s_soon);
 }
 
 NotedSignals::~NotedSignals()
 {
-    for (int i = 0; i < Count; ++i) {
-        std::signal(numbers[i], m_old[i]);
-    }
+    --(m_patience == Unlimited ? EndingSignals::s_late : EndingSignals::s_soon);
 }
 
 int NotedSignals::received()
 {
-    return s_signal;
+    return EndingSignals::received();
 }
 
 }  // namespace Cli

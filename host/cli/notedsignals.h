@@ -4,11 +4,17 @@
 
 namespace Cli {
 
-/// While it lives, a signal that asks the program to end is only noted.
+/// While it lives, a signal that asks the program to end is noted: the work ends itself where every
+/// file is whole.
 class NotedSignals
 {
 public:
-    NotedSignals();
+    enum Patience {
+        AMoment,   ///< work that has not ended by then is ended
+        Unlimited  ///< the work looks for signals all the time, and has more to clean up
+    };
+
+    explicit NotedSignals(Patience patience = AMoment);
     ~NotedSignals();
 
     /// The number of the last signal; 0 if none has come.
@@ -19,8 +25,7 @@ public:
 
 private:
     Q_DISABLE_COPY(NotedSignals)
-    static constexpr int Count = 3;
-    void (*m_old[Count])(int);
+    Patience m_patience;
 };
 
 }  // namespace Cli
