@@ -266,10 +266,11 @@ bool SafeFile::takePlace(QString* reason)
 {
     FileTurn turn(m_target);
     if (!turn.take(reason)) {
+        setFailure(*reason, tr("Nothing is written. Try again in a moment."));
         return false;
     }
     if (m_isNewOnly && QFileInfo::exists(m_target)) {
-        *reason = tr("The file exists");
+        setFailure(tr("The file exists"), tr("Save under another name."));
         return false;
     }
     const bool isThere = FileReplace::rename(m_file.fileName(), m_target, reason);
