@@ -2730,6 +2730,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>its end is missing</source>
         <translation>ihr Ende fehlt</translation>
     </message>
+    <message>
+        <source>The name of &apos;%1&apos; is no text in UTF-8, so nothing of it can be read. Give it another name.</source>
+        <translation>Der Name von &apos;%1&apos; ist kein Text in UTF-8; deshalb lässt sich nichts davon lesen. Bitte einen anderen Namen geben.</translation>
+    </message>
 </context>
 <context>
     <name>Family::AbandonedTexts</name>
@@ -2872,10 +2876,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Der Ordner %1 kann nicht angelegt werden. Bitte prüfen, ob auf dem Datenträger Platz ist und in den Spielordner geschrieben werden darf.</translation>
     </message>
     <message>
-        <source>The backup &apos;%1&apos; is not complete. Check that there is space on the disk and that all files may be read, then make another backup.</source>
-        <translation>Die Sicherung &apos;%1&apos; ist nicht vollständig. Bitte prüfen, ob auf dem Datenträger Platz ist und alle Dateien gelesen werden dürfen, und dann eine neue Sicherung anlegen.</translation>
-    </message>
-    <message>
         <source>The game cannot be written to, so nothing was restored.</source>
         <translation>In das Spiel kann nicht geschrieben werden; nichts wurde wiederhergestellt.</translation>
     </message>
@@ -2886,6 +2886,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>The restore was given up in its middle: some files are those of the backup, the others are as before. Restore again, or put back what was there before.</source>
         <translation>Die Wiederherstellung wurde mittendrin abgebrochen: Einige Dateien sind die der Sicherung, die anderen sind wie zuvor. Bitte erneut wiederherstellen oder zurückholen, was vorher da war.</translation>
+    </message>
+    <message>
+        <source>There is no backup, for it would not be complete. Check that there is space on the disk and that all files may be read, then try again.</source>
+        <translation>Es wurde keine Sicherung angelegt, denn sie wäre nicht vollständig. Bitte prüfen, ob auf dem Datenträger Platz ist und alle Dateien gelesen werden dürfen, und es dann erneut versuchen.</translation>
     </message>
 </context>
 <context>
@@ -3203,14 +3207,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>Family::OutputFiles</name>
     <message>
-        <source>Cannot write &apos;%1&apos;: %2. Check the folder and the space on it.</source>
-        <translation>&apos;%1&apos; lässt sich nicht schreiben: %2. Bitte den Ordner und den freien Platz prüfen.</translation>
-    </message>
-    <message>
-        <source>Cannot replace &apos;%1&apos;: %2. It is unchanged.</source>
-        <translation>&apos;%1&apos; lässt sich nicht ersetzen: %2. Die Datei ist unverändert.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is one file, and there are %2 to write. Name a folder, or a pattern such as &apos;%3&apos;.</source>
         <translation>&apos;%1&apos; ist eine Datei, zu schreiben sind %2. Bitte einen Ordner oder ein Muster wie &apos;%3&apos; nennen.</translation>
     </message>
@@ -3272,10 +3268,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 </context>
 <context>
     <name>Family::PaletteWork</name>
-    <message>
-        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
-        <translation>&apos;%1&apos; lässt sich nicht öffnen: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
-    </message>
     <message>
         <source>Cannot read a palette from &apos;%1&apos;. Expected .act, .pal, .aco, .ase, .txt, or an indexed image.</source>
         <translation>Aus &apos;%1&apos; lässt sich keine Palette lesen. Erwartet: .act, .pal, .aco, .ase, .txt oder ein Bild mit Palette.</translation>
@@ -4962,6 +4954,21 @@ Soll die Datei ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::FileChange</name>
+    <message>
+        <source>Another program is changing files in %1</source>
+        <translation>Ein anderes Programm ändert gerade Dateien in %1</translation>
+    </message>
+    <message>
+        <source>%1, for longer than %2 seconds. Nothing is written. Wait until it has ended, then try again.</source>
+        <translation>%1, und das seit mehr als %2 Sekunden. Nichts wurde geschrieben. Bitte warten, bis es fertig ist, und es dann erneut versuchen.</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file meanwhile</source>
+        <translation>Ein anderes Programm hat die Datei inzwischen geändert</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::FileEditor</name>
     <message>
         <source>External file!</source>
@@ -5166,6 +5173,14 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     <message>
         <source>Cannot write %1: %2. %3</source>
         <translation>%1 kann nicht geschrieben werden: %2. %3</translation>
+    </message>
+    <message>
+        <source>Free some space or choose another place, then save again.</source>
+        <translation>Bitte Platz schaffen oder einen anderen Ort wählen und dann erneut speichern.</translation>
+    </message>
+    <message>
+        <source>Nothing is written. Try again in a moment.</source>
+        <translation>Nichts wurde geschrieben. Bitte gleich noch einmal versuchen.</translation>
     </message>
 </context>
 <context>
