@@ -14,7 +14,8 @@ enum class Others {
 
 /// Does a change that begins with reading a file, or a folder of images, and ends with writing it.
 /// If another program changes it in between, `change` is called again a little later, and
-/// after some times no more. False, with `error` for the person, if it could not be called. Re-entrant.
+/// after some times no more. False, with `error` for the person, if it could not be called.
+/// Re-entrant.
 bool changeAsOne(const QString& fileName, Others others, const std::function<void()>& change,
                  QString* error);
 

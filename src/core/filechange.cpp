@@ -53,7 +53,8 @@ QString placeOf(const QString& target)
 
 QString busyText(const QString& folder)
 {
-    return Text::tr("Another program is changing files in %1").arg(QDir::toNativeSeparators(folder));
+    return Text::tr("Another program is changing files in %1")
+        .arg(QDir::toNativeSeparators(folder));
 }
 
 }  // namespace
