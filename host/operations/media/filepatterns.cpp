@@ -96,9 +96,11 @@ QStringList expandPatterns(const QStringList& names, QString* error)
             return {};
         }
         for (const QString& file : found) {
-            const QString canonical = QFileInfo(file).canonicalFilePath();
-            if (!known.contains(canonical)) {
-                known.insert(canonical);
+            // A link has a name of its own, and so a result of its own.
+            const QFileInfo info(file);
+            const QString place = info.dir().canonicalPath() + QLatin1Char('/') + info.fileName();
+            if (!known.contains(place)) {
+                known.insert(place);
                 files.append(file);
             }
         }

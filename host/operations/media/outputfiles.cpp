@@ -111,7 +111,9 @@ QString OutputFiles::make(int index, const std::function<QByteArray(QString* err
 QString OutputFiles::pathFault() const
 {
     const auto target = [this](int i) {
-        return QDir::cleanPath(QFileInfo(path(i)).absoluteFilePath());
+        const QFileInfo info(path(i));
+        const QString there = info.canonicalFilePath();
+        return there.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : there;
     };
     QVector<QPair<uint, int>> hashes;
     hashes.reserve(count());
