@@ -233,9 +233,8 @@ void printObjects(const Comparison& comparison, Output& output)
     }
 }
 
-/// Gives what went wrong.
-QString writePicture(const Comparison& comparison, const Invocation& invocation,
-                     const Family::OutputFiles& outputs)
+Family::Outcome writePicture(const Comparison& comparison, const Invocation& invocation,
+                             const Family::OutputFiles& outputs)
 {
     Family::FrameStyle style = Family::stageStyle();
     style.zoom = float(invocation.zoom);
@@ -252,7 +251,7 @@ QString writePicture(const Comparison& comparison, const Invocation& invocation,
     for (const QString& note : qAsConst(notes)) {
         complain(note);
     }
-    return picture.isNull() ? error : Family::writeImage(picture, outputs, 0);
+    return picture.isNull() ? Family::Outcome(error) : Family::writeImage(picture, outputs, 0);
 }
 
 }  // namespace
@@ -280,9 +279,10 @@ int diffAnimations(const Invocation& invocation, Output& output)
     const Comparison comparison(*before, *after);
     invocation.json ? printObjects(comparison, output) : printLines(comparison, output);
     if (isDrawn && comparison.hasDifferentFrames()) {
-        const QString error = writePicture(comparison, invocation, outputs);
-        if (!error.isEmpty()) {
-            return notDone(error);
+        Family::MediaResult result;
+        result.note(writePicture(comparison, invocation, outputs));
+        if (tell(result) != Fine) {
+            return NotDone;
         }
     }
     return comparison.hasDifferentFrames() || comparison.isRenamed() ? Different : Fine;

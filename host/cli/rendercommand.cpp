@@ -44,6 +44,8 @@ QString optionFault(const Invocation& invocation)
                                                          : QString();
 }
 
+using Family::Outcome;
+
 /// The files of a picture and, for a sheet, of what is told of it.
 struct Outputs
 {
@@ -76,8 +78,8 @@ Family::FrameStyle styleOf(const Invocation& invocation)
     return style;
 }
 
-/// Draws and writes what was asked for; gives what went wrong.
-QString render(const Invocation& invocation, const Family::AnimationNode& animation,
+/// Draws and writes what was asked for.
+Outcome render(const Invocation& invocation, const Family::AnimationNode& animation,
                Family::FrameComposer* composer, const Outputs& outputs)
 {
     QString error;
@@ -88,13 +90,17 @@ QString render(const Invocation& invocation, const Family::AnimationNode& animat
     if (!invocation.asSheet) {
         const QImage image =
             Family::renderFrame(animation, qMax(invocation.frame, 0), composer, &error);
-        return error.isEmpty() ? Family::writeImage(image, outputs.image, 0) : error;
+        return error.isEmpty() ? Family::writeImage(image, outputs.image, 0) : Outcome(error);
     }
     const QString name = QFileInfo(outputs.image.path(0)).fileName();
     const Family::AnimationSheet sheet =
         Family::renderSheet(animation, invocation.columns, name, composer, &error);
-    error = error.isEmpty() ? Family::writeImage(sheet.image, outputs.image, 0) : error;
-    return error.isEmpty() ? outputs.text.write(0, sheet.json) : error;
+    Outcome outcome =
+        error.isEmpty() ? Family::writeImage(sheet.image, outputs.image, 0) : Outcome(error);
+    if (outcome.error.isEmpty()) {
+        outcome.error = outputs.text.write(0, sheet.json);
+    }
+    return outcome;
 }
 
 }  // namespace
@@ -132,8 +138,9 @@ int renderAnimation(const Invocation& invocation, Output&)
     }
     Family::FrameComposer composer(opened.sprites(), styleOf(invocation),
                                    isRecolored ? &colors : nullptr);
-    error = render(invocation, opened.animation(), &composer, outputs);
-    return error.isEmpty() ? int(Fine) : notDone(error);
+    Family::MediaResult result;
+    result.note(render(invocation, opened.animation(), &composer, outputs));
+    return tell(result);
 }
 
 }  // namespace Cli

@@ -18,6 +18,9 @@ int tell(const Family::MediaResult& result)
                                                  "there with '--force'.")
                                 : error);
     }
+    for (const QString& warning : result.warnings) {
+        complain(warning);
+    }
     if (result.isCanceled) {
         complain(QCoreApplication::translate("Cli", "Given up. Files that are written are whole."));
         return NotedSignals::exitStatus();

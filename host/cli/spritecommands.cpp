@@ -205,7 +205,7 @@ int makeSheet(const Invocation& invocation, Output& output)
     result.isCanceled = sheet.isCanceled;
     if (!sheet.isCanceled) {
         result.note(sheet.error.isEmpty() ? Family::writeImage(sheet.image, outputs, 0)
-                                          : sheet.error);
+                                          : Family::Outcome(sheet.error));
     }
     if (invocation.json && result.done > 0) {
         writePlaces(sheet, *sprites, output);

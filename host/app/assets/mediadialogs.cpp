@@ -114,9 +114,11 @@ bool mayReplace(const QString& title, const QString& text)
 
 void tellResult(const QString& title, const QString& done, const Family::MediaResult& result)
 {
-    const QString text = result.errors.mid(0, 12).join(QLatin1Char('\n'));
-    if (!text.isEmpty()) {
+    const QString text = (result.errors + result.warnings).mid(0, 12).join(QLatin1Char('\n'));
+    if (!result.errors.isEmpty()) {
         Dialogs::instance()->error(title, text);
+    } else if (!text.isEmpty()) {
+        Dialogs::instance()->warning(title, text);
     } else if (result.isCanceled) {
         Interface::instance()->showStatus(0, Text::tr("Given up."));
     } else {

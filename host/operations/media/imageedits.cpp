@@ -25,19 +25,21 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Family::ImageEdits)
 };
 
-/// Empty if it was done, else why not.
-QString editFile(const QString& fileName, const ImageEdit& edit, const OutputFiles& outputs,
+Outcome editFile(const QString& fileName, const ImageEdit& edit, const OutputFiles& outputs,
                  int index)
 {
-    return outputs.make(index, [&](QString* error) {
+    Outcome outcome;
+    outcome.error = outputs.make(index, [&](QString* error) {
         const QImage image = readImage(fileName, error);
         const QImage edited = image.isNull() ? image : edit(image, error);
         if (edited.isNull()) {
             *error = image.isNull() ? *error : QStringLiteral("'%1': %2").arg(fileName, *error);
             return QByteArray();
         }
+        outcome.warning = lossOf(edited, outputs, index);
         return imageFile(edited, outputs.format(index), outputs.path(index), error);
     });
+    return outcome;
 }
 
 QVector<QRgb> colorTable(const QVector<Zorv::RGBA>& colors)
@@ -60,11 +62,11 @@ MediaResult editImages(const QStringList& files, const OutputRequest& request,
     if (!outputs.plan(files, request, {}, &refusal)) {
         return refusal;
     }
-    const auto prepare = [&](int i) -> std::function<QString()> {
+    const auto prepare = [&](int i) -> std::function<Outcome()> {
         return [&, i] { return editFile(files[i], edit, outputs, i); };
     };
-    const auto take = [&](int, const QString& fault) { result.note(fault); };
-    result.isCanceled = !runJobs<QString>(Text::tr("Images"), files.size(), prepare, take);
+    const auto take = [&](int, const Outcome& outcome) { result.note(outcome); };
+    result.isCanceled = !runJobs<Outcome>(Text::tr("Images"), files.size(), prepare, take);
     return result;
 }
 

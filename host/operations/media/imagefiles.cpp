@@ -9,6 +9,9 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
 
 namespace Family {
 
@@ -21,6 +24,35 @@ class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Family::ImageFiles)
 };
+
+bool keepsTransparency(const QByteArray& format, const QImage& image)
+{
+    return format != "BMP" && (format != "PCX" || image.format() != QImage::Format_Indexed8);
+}
+
+/// True if a pixel shows something of what is behind it.
+bool isTransparent(const QImage& image)
+{
+    if (!image.hasAlphaChannel()) {
+        return false;
+    }
+    const QVector<QRgb> table = image.colorTable();
+    const auto shows = [&table](uchar index) {
+        return index < table.size() && qAlpha(table[index]) < 255;
+    };
+    for (int y = 0; y < image.height(); ++y) {
+        const uchar* const line = image.constScanLine(y);
+        const auto* const pixels = reinterpret_cast<const QRgb*>(line);
+        const bool isFound = image.format() == QImage::Format_Indexed8
+                                 ? std::any_of(line, line + image.width(), shows)
+                                 : std::any_of(pixels, pixels + image.width(),
+                                               [](QRgb pixel) { return qAlpha(pixel) < 255; });
+        if (isFound) {
+            return true;
+        }
+    }
+    return false;
+}
 
 }  // namespace
 
@@ -67,11 +99,32 @@ QByteArray imageFile(const QImage& image, const QByteArray& format, const QStrin
     return bytes;
 }
 
-QString writeImage(const QImage& image, const OutputFiles& outputs, int index)
+QString lossOf(const QImage& image, const OutputFiles& outputs, int index)
 {
-    QString error;
-    const QByteArray bytes = imageFile(image, outputs.format(index), outputs.path(index), &error);
-    return error.isEmpty() ? outputs.write(index, bytes) : error;
+    const QString name = outputs.path(index);
+    const QByteArray format = outputs.format(index);
+    if (keepsTransparency(format, image) || !isTransparent(image)) {
+        return {};
+    }
+    const QString text = QFileInfo::exists(name)
+                             ? Text::tr("'%1' was replaced without the transparency of the "
+                                        "picture: %2 has no place for it. PNG keeps it.")
+                             : Text::tr("'%1' was written without the transparency of the "
+                                        "picture: %2 has no place for it. PNG keeps it.");
+    return text.arg(name,
+                    format == "BMP" ? QStringLiteral("BMP") : Text::tr("PCX with indexed colours"));
+}
+
+Outcome writeImage(const QImage& image, const OutputFiles& outputs, int index)
+{
+    Outcome outcome;
+    outcome.warning = lossOf(image, outputs, index);
+    const QByteArray bytes =
+        imageFile(image, outputs.format(index), outputs.path(index), &outcome.error);
+    if (outcome.error.isEmpty()) {
+        outcome.error = outputs.write(index, bytes);
+    }
+    return outcome;
 }
 
 bool isImageFormat(const QByteArray& format)

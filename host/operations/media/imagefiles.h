@@ -1,5 +1,7 @@
 #pragma once
 
+#include "operations/media/mediaresult.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QString>
@@ -18,9 +20,12 @@ QImage readImage(const QString& fileName, QString* error);
 QByteArray imageFile(const QImage& image, const QByteArray& format, const QString& name,
                      QString* error);
 
-/// Writes an image as a result of a piece of work. Empty if that was done, else why not.
-/// Re-entrant.
-QString writeImage(const QImage& image, const OutputFiles& outputs, int index);
+/// What an image is about to lose as a result of a piece of work: its transparency, in BMP and in
+/// PCX with indexed colours. For the person; empty if it loses nothing. Re-entrant.
+QString lossOf(const QImage& image, const OutputFiles& outputs, int index);
+
+/// Writes an image as a result of a piece of work, with `lossOf()` as the warning. Re-entrant.
+Outcome writeImage(const QImage& image, const OutputFiles& outputs, int index);
 
 /// True for the formats in which images are written.
 bool isImageFormat(const QByteArray& format);

@@ -115,14 +115,14 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
     for (int i = 0; i < rows.size(); ++i) {
         placeOf[rows[i]] = i;
     }
-    QVector<QString> faults(rows.size());
-    QString* fault = faults.data();
+    QVector<Outcome> outcomes(rows.size());
+    Outcome* outcome = outcomes.data();
     ImageJob job;
     job.rows = rows;
     job.work = [&](int row, QImage image) {
         const int i = placeOf.at(row);
         if (image.isNull()) {
-            fault[i] =
+            outcome[i] =
                 Text::tr("Sprite %1 has no pixels, or they are broken.").arg(labels[i].id.text());
             return;
         }
@@ -130,14 +130,14 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
             image.setColorTable(table);
         }
         putLabel(&image, labels[i]);
-        fault[i] = writeImage(image, outputs, i);
+        outcome[i] = writeImage(image, outputs, i);
     };
     JobProgress progress(Text::tr("Sprites"), rows.size());
     job.progress = [&](int done) { return progress.update(done); };
     MediaResult result;
     result.isCanceled = !forEachImage(sprites, job);
-    for (const QString& text : qAsConst(faults)) {
-        result.note(text);
+    for (const Outcome& one : qAsConst(outcomes)) {
+        result.note(one);
     }
     return result;
 }
