@@ -1,4 +1,5 @@
 #include "media/wav.h"
+#include "media/wavecontents.h"
 
 #include <QBuffer>
 
@@ -26,6 +27,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     require(sample.frames * (qint64(sample.bits) * sample.channels / 8) <= sample.data.size());
     const Zorv::SampleInfo info = Zorv::soundInfoFromWAV(&buffer);
     require(info.frames >= 0);
+
+    buffer.open(QIODevice::ReadOnly);
+    const qint64 frames = Zorv::waveContents(&buffer).info.frames;
+    const Zorv::SoundSample whole = Zorv::wholeSoundFromWAV(&buffer);
+    require(size_t(whole.data.size()) <= size && (whole.data.isEmpty() || whole.frames == frames));
+    buffer.close();
 
     QBuffer copy;
     require(Zorv::soundToWAV(sample, &copy));

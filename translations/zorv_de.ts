@@ -1796,6 +1796,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Remove sounds</source>
         <translation>Klänge entfernen</translation>
     </message>
+    <message>
+        <source>Take all frames that are there?</source>
+        <translation>Alle vorhandenen Frames nehmen?</translation>
+    </message>
 </context>
 <context>
     <name>App::SoundPanel</name>
@@ -3176,6 +3180,18 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Cannot write &apos;%1&apos;: an image of %2 by %3 does not fit the format. Choose another one.</source>
         <translation>&apos;%1&apos; lässt sich nicht schreiben: Ein Bild von %2 mal %3 passt nicht in das Format. Bitte ein anderes wählen.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; was replaced without the transparency of the picture: %2 has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne die Transparenz des Bildes ersetzt: %2 hat keinen Platz dafür. PNG behält sie.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was written without the transparency of the picture: %2 has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne die Transparenz des Bildes geschrieben: %2 hat keinen Platz dafür. PNG behält sie.</translation>
+    </message>
+    <message>
+        <source>PCX with indexed colours</source>
+        <translation>PCX mit indizierten Farben</translation>
+    </message>
 </context>
 <context>
     <name>Family::OpenAnimation</name>
@@ -3459,6 +3475,46 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>There is a sound %1 already, which &apos;%2&apos; would replace. Nothing is changed.</source>
         <translation>Es gibt schon einen Klang %1, den &apos;%2&apos; ersetzen würde. Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>ADPCM</source>
+        <translation>ADPCM</translation>
+    </message>
+    <message>
+        <source>floating point</source>
+        <translation>Gleitkomma</translation>
+    </message>
+    <message>
+        <source>A-law</source>
+        <translation>A-law</translation>
+    </message>
+    <message>
+        <source>mu-law</source>
+        <translation>mu-law</translation>
+    </message>
+    <message>
+        <source>MP3</source>
+        <translation>MP3</translation>
+    </message>
+    <message>
+        <source>the extensible form</source>
+        <translation>die erweiterbare Form</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: the sizes in it do not fit, and lead to none of its %2 frames.</source>
+        <translation>&apos;%1&apos; lässt sich nicht lesen: Die Größen darin passen nicht und führen zu keinem der %2 Frames.</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: its samples are not plain ones (PCM), but of format %2. Save it as plain WAV, of 16 bits for example, with the program that made it.</source>
+        <translation>&apos;%1&apos; lässt sich nicht lesen: Die Samples sind nicht einfach (PCM), sondern vom Format %2. Bitte mit dem Programm, von dem die Datei stammt, als einfaches WAV speichern, zum Beispiel mit 16 Bit.</translation>
+    </message>
+    <message>
+        <source>Of the %1 frames in &apos;%2&apos; %3 are read: the sizes in it do not fit.</source>
+        <translation>Von den %1 Frames in &apos;%2&apos; werden %3 gelesen: Die Größen in der Datei passen nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is cut short: of %2 frames it has %3.</source>
+        <translation>&apos;%1&apos; ist abgeschnitten: Von %2 Frames sind %3 da.</translation>
     </message>
 </context>
 <context>
@@ -5199,7 +5255,7 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     </message>
     <message>
         <source>The field &quot;%1&quot; has the unknown type &quot;%2&quot;. Write string, int, float or items.</source>
-        <translation>Das Feld „%1“ hat den unbekannten Typ „%2“. Schreiben Sie string, int, float oder items.</translation>
+        <translation>Das Feld &apos;%1&apos; hat den unbekannten Typ &apos;%2&apos;. Schreiben Sie string, int, float oder items.</translation>
     </message>
     <message>
         <source>%1
@@ -5236,16 +5292,16 @@ Zeile %2, Spalte %3.</translation>
     </message>
     <message>
         <source>With the value of &quot;%1&quot; the text grows too large. Shorten the value, or use the field less often.</source>
-        <translation>Mit dem Wert von „%1“ wird der Text zu groß. Kürzen Sie den Wert, oder verwenden Sie das Feld seltener.</translation>
+        <translation>Mit dem Wert von &apos;%1&apos; wird der Text zu groß. Kürzen Sie den Wert, oder verwenden Sie das Feld seltener.</translation>
     </message>
     <message>
         <source>Cannot read the snippet &quot;%1&quot;: %2</source>
-        <translation>Der Baustein „%1“ kann nicht gelesen werden: %2</translation>
+        <translation>Der Baustein &apos;%1&apos; kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be used.
 %2</source>
-        <translation>„%1“ kann nicht verwendet werden.
+        <translation>&apos;%1&apos; kann nicht verwendet werden.
 %2</translation>
     </message>
 </context>

@@ -173,12 +173,13 @@ constexpr Command table[] = {
      "Write the sounds of a sound file as WAV files.",
      "PLACE is a folder, a pattern such as 'out/hero-*.wav', or the file for a single one. The\n"
      "files are called GROUP-NUMBER.wav."},
-    {"sound import", "FILE WAV...", 2, Command::Any, Group | Force, importSounds,
+    {"sound import", "FILE WAV...", 2, Command::Any, Group | Lenient | Force, importSounds,
      "Add WAV files to a sound file.",
      "Each goes to the group and number at the end of its name, as in 5-0.wav. FILE is made if it\n"
      "is not there. If one of the sounds cannot be read, or is there already, nothing is changed;\n"
-     "with --force it is replaced."},
-    {"sound info", "WAV...", 1, Command::Any, Json, tellOfSounds,
+     "with --force it is replaced. A program that records without an end leaves wrong sizes in a\n"
+     "file, which lead to a part of it: that is told, and --lenient takes all."},
+    {"sound info", "WAV...", 1, Command::Any, Json | Lenient, tellOfSounds,
      "Print the form of WAV files.",
      "A line for each, with a tab between its name, channels, bits a sample, frames a second,\n"
      "frames and seconds."},

@@ -231,6 +231,8 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "all frames side by side, and a file of JSON beside the picture")},
     {OneAnimation, "--animation", "ID", setText<&Invocation::animation>,
      QT_TRANSLATE_NOOP("Cli", "only the animations of this identifier")},
+    {Lenient, "--lenient", nullptr, setFlag<&Invocation::isLenient>,
+     QT_TRANSLATE_NOOP("Cli", "all samples that are there, whatever the sizes in the file say")},
     {Target, "--out", "FILE", takePlace,
      QT_TRANSLATE_NOOP("Cli", "where the picture goes; '-o' for short")},
     {Out, "--out", "PLACE", takePlace,

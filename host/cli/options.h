@@ -28,6 +28,7 @@ struct Invocation
     bool recolors = false;
     bool crops = false;
     bool isCommon = false;
+    bool isLenient = false;
     int columns = 0;  ///< 0 for as many as make the sheet about square
     int group = -1;
     QPoint axis;
@@ -86,7 +87,8 @@ enum Option : quint64 {
     ShowAxis = 1u << 31,
     AsGif = quint64(1) << 32,
     AsSheet = quint64(1) << 33,
-    OneAnimation = quint64(1) << 34
+    OneAnimation = quint64(1) << 34,
+    Lenient = quint64(1) << 36
 };
 
 /// One option: a row of the table.

@@ -10,6 +10,7 @@
 #include "progresshost.h"
 #include "results.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonObject>
 
@@ -55,6 +56,21 @@ QJsonObject objectOf(const Zorv::SampleInfo& info)
             {QStringLiteral("rate"), info.sampleRate},
             {QStringLiteral("frames"), info.frames},
             {QStringLiteral("seconds"), Family::duration(info)}};
+}
+
+Family::SoundExtent extentOf(const Invocation& invocation)
+{
+    return invocation.isLenient ? Family::SoundExtent::Whole : Family::SoundExtent::AsTold;
+}
+
+int tellOfParts(const Family::MediaResult& result)
+{
+    const int status = tell(result);
+    if (result.isPart) {
+        complain(QCoreApplication::translate(
+            "Cli", "'--lenient' reads all frames that are there, whatever the sizes say."));
+    }
+    return status;
 }
 
 }  // namespace
@@ -104,14 +120,17 @@ int importSounds(const Invocation& invocation, Output&)
         return notDone(error);
     }
     ProgressHost host;
+    Family::SoundImport request;
+    request.group = invocation.group;
+    request.force = invocation.output.force;
+    request.extent = extentOf(invocation);
     return changeFile(fileName, [&]() -> int {
         const OpenSounds sounds =
             QFileInfo::exists(fileName) ? openSounds(fileName) : OpenSounds(new Family::SoundFile);
         if (!sounds) {
             return NotDone;
         }
-        const int status = tell(
-            Family::importSounds(sounds.get(), files, invocation.group, invocation.output.force));
+        const int status = tellOfParts(Family::importSounds(sounds.get(), files, request));
         if (status != Fine || !sounds->isModified()) {
             return status;
         }
@@ -132,17 +151,17 @@ int tellOfSounds(const Invocation& invocation, Output& output)
     std::unique_ptr<JsonList> list(invocation.json ? new JsonList(output) : nullptr);
     for (const QString& file : files) {
         Zorv::SoundSample sample;
-        QString fault;
-        if (Family::readSound(file, &sample, &fault) && list) {
+        const Family::Outcome outcome = Family::readSound(file, extentOf(invocation), &sample);
+        if (outcome.error.isEmpty() && list) {
             QJsonObject object = objectOf(sample);
             object.insert(QStringLiteral("file"), file);
             list->add(object);
-        } else if (fault.isEmpty()) {
+        } else if (outcome.error.isEmpty()) {
             output.writeLine(QStringList{file} + columnsOf(sample));
         }
-        result.note(fault);
+        result.note(outcome);
     }
-    return tell(result);
+    return tellOfParts(result);
 }
 
 }  // namespace Cli

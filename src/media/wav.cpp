@@ -1,5 +1,7 @@
 #include "media/wav.h"
 
+#include "media/wav_p.h"
+
 #include <QBuffer>
 #include <QDataStream>
 #include <QFileDevice>
@@ -15,7 +17,6 @@ namespace {
 const int IdSize = 4;
 const int ChunkSize = 64 * 1024;
 const int DataHeaderSize = 8;
-const quint16 PCMTag = 1;
 
 void readId(QDataStream& stream, char (&id)[IdSize])
 {
@@ -63,19 +64,6 @@ private:
     bool m_wasClosed;
     bool m_isOpen;
 };
-
-SampleInfo sampleInfo(const WaveFormatHeader& format, quint32 dataSize)
-{
-    SampleInfo info;
-    info.channels = format.channels;
-    info.bits = format.bitsPerSample;
-    info.sampleRate = qint32(format.sampleRate);
-    const quint32 frameSize = quint32(format.bitsPerSample) * format.channels / 8;
-    if (format.byteRate != 0 && frameSize != 0) {
-        info.frames = qint32(qMin(dataSize / frameSize, quint32(INT_MAX)));
-    }
-    return info;
-}
 
 // The bytes of a device in pieces, so that those of a long sound are never all in memory.
 class ByteSearch
@@ -125,16 +113,21 @@ private:
     qint64 m_start = 0;
 };
 
-template <class Header>
-Header parse(const QByteArray& bytes)
+}  // namespace
+
+SampleInfo waveSampleInfo(const WaveFormatHeader& format, quint32 dataSize)
 {
-    QDataStream stream(bytes);
-    Header header;
-    littleEndian(stream) >> header;
-    return header;
+    SampleInfo info;
+    info.channels = format.channels;
+    info.bits = format.bitsPerSample;
+    info.sampleRate = qint32(format.sampleRate);
+    const quint32 frameSize = quint32(format.bitsPerSample) * format.channels / 8;
+    if (format.byteRate != 0 && frameSize != 0) {
+        info.frames = qint32(qMin(dataSize / frameSize, quint32(INT_MAX)));
+    }
+    return info;
 }
 
-// As many bytes as there are of those that a header declares, which may be any number.
 QByteArray readUpTo(QIODevice* device, qint64 size)
 {
     const qint64 most = qMin<qint64>(size, INT_MAX - 64);
@@ -148,8 +141,6 @@ QByteArray readUpTo(QIODevice* device, qint64 size)
     }
     return bytes;
 }
-
-}  // namespace
 
 QDataStream& operator>>(QDataStream& stream, WaveRIFFHeader& header)
 {
@@ -202,16 +193,16 @@ SampleInfo soundInfoFromWAV(QIODevice* device)
     const int riffSize = 12;
     const int formatSize = 24;
     const QByteArray head = device->read(riffSize + formatSize);
-    const auto format = parse<WaveFormatHeader>(head.mid(riffSize));
+    const auto format = parseWaveHeader<WaveFormatHeader>(head.mid(riffSize));
     if (format.formatTag != PCMTag) {
         return {};
     }
     ByteSearch search(device, head);
     quint32 dataSize = 0;
     if (search.find("data") > 0) {
-        dataSize = parse<WaveDataHeader>(search.take(DataHeaderSize)).size;
+        dataSize = parseWaveHeader<WaveDataHeader>(search.take(DataHeaderSize)).size;
     }
-    return sampleInfo(format, dataSize);
+    return waveSampleInfo(format, dataSize);
 }
 
 SoundSample soundFromWAV(QIODevice* device)
@@ -246,7 +237,7 @@ SoundSample soundFromWAV(QIODevice* device)
     buffer.close();
     bytes.remove(0, start);
     bytes.truncate(int(qMin<qint64>(header.size, bytes.size())));
-    static_cast<SampleInfo&>(sample) = sampleInfo(format, quint32(bytes.size()));
+    static_cast<SampleInfo&>(sample) = waveSampleInfo(format, quint32(bytes.size()));
     bytes.squeeze();
     sample.data = bytes;
     return sample;

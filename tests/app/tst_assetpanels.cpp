@@ -257,6 +257,15 @@ void tst_AssetPanels::takesImagesAndPalettesOut()
     m->fixture.dialogs.fileAnswers = {{palette}};
     trigger("palette_open");
     QCOMPARE(sprites()->sprite(0)->shownColors().mid(1, 3), before.mid(1, 3));
+
+    // What the format has no place for is told.
+    const QString bitmap = m->folder.filePath("clear.bmp");
+    m->fixture.dialogs.fileAnswers = {{image("9-0.png", block(0))}, {bitmap}};
+    trigger("sprite_add");
+    trigger("sprite_export");
+    QVERIFY(QFileInfo::exists(bitmap));
+    QCOMPARE(m->fixture.dialogs.texts(QStringLiteral("warning")).size(), 1);
+    QVERIFY(m->fixture.dialogs.texts(QStringLiteral("warning")).first().contains(bitmap));
 }
 
 void tst_AssetPanels::soundsComeAndGo()
@@ -273,6 +282,27 @@ void tst_AssetPanels::soundsComeAndGo()
     QCOMPARE(sounds->sounds()->count(), 1U);
     trigger("sound_undo");
     QCOMPARE(sounds->sounds()->sound(1)->sampleData(), QByteArray(4410, 1));
+
+    // The size of the whole as a program leaves it that records without an end.
+    QFile wave(file);
+    QVERIFY(wave.open(QIODevice::ReadWrite) && wave.seek(4));
+    QVERIFY(wave.write(QByteArrayLiteral("\44\0\0\0")) == 4 &&
+            wave.rename(m->folder.filePath("6-0.wav")));
+    wave.close();
+    using Zorv::Dialogs;
+    for (const auto answer : {Dialogs::Cancel, Dialogs::No, Dialogs::Yes}) {
+        m->fixture.dialogs.fileAnswers = {{wave.fileName()}};
+        m->fixture.dialogs.buttonAnswers = {answer};
+        trigger("sound_add");
+        const int row = sounds->sounds()->find(0, QStringLiteral("6,0"));
+        QCOMPARE(row >= 0, answer != Dialogs::Cancel);
+        if (row >= 0) {
+            QCOMPARE(sounds->sounds()->sound(row)->sampleData().size(),
+                     answer == Dialogs::Yes ? 4410 : 4);
+            trigger("sound_undo");
+        }
+    }
+    QCOMPARE(m->fixture.dialogs.count(QStringLiteral("question")), 3);
 }
 
 void tst_AssetPanels::asksForSpritesThatAreNamedNoMore()

@@ -1,6 +1,7 @@
 #include "media/wav.h"
 
 #include "media/soundfile.h"
+#include "media/wavecontents.h"
 #include "support/brokenbytes.h"
 
 #include <QBuffer>
@@ -54,6 +55,20 @@ SampleInfo info(QByteArray bytes)
     return Zorv::soundInfoFromWAV(&buffer);
 }
 
+SoundSample wholeSound(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return Zorv::wholeSoundFromWAV(&buffer);
+}
+
+Zorv::WaveContents contents(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return Zorv::waveContents(&buffer);
+}
+
 QByteArray written(const SoundSample& sample)
 {
     QBuffer buffer;
@@ -98,6 +113,7 @@ private slots:
     void failingDevices();
     void gateways();
     void brokenBytes();
+    void wholeWhateverTheSizes();
 };
 
 void tst_WAV::filesOfSox_data()
@@ -264,10 +280,35 @@ void tst_WAV::brokenBytes()
         const qint64 frameSize = qint64(sample.bits) * sample.channels / 8;
         QVERIFY(sample.frames * frameSize <= sample.data.size());
         info(broken);
+        const SoundSample all = wholeSound(broken);
+        QVERIFY(all.data.isEmpty() || all.frames == contents(broken).info.frames);
+        QVERIFY(all.frames * frameSize <= whole.size());
         // What is read is written and read as the same.
         const SoundSample again = read(written(sample));
         QCOMPARE(again.data, sample.data);
     });
+}
+
+/// All samples are found where programs that record without an end left the sizes.
+void tst_WAV::wholeWhateverTheSizes()
+{
+    const QByteArray samples(800, 'x');
+    const QByteArray bytes =
+        riff(format(1, 2, 16) + chunk("LIST", "data") + chunk("data", samples));
+    const int at = bytes.size() - samples.size() - 4;
+    for (const quint32 riffSize : {quint32(bytes.size() - 8), 36U, 0U, 0x7FFFF024U, ~0U}) {
+        for (const quint32 dataSize : {800U, 0U, 0x7FFFF000U, ~0U}) {
+            QByteArray wrong = bytes;
+            wrong.replace(4, 4, little(riffSize)).replace(at, 4, little(dataSize));
+            // An empty sound with other bytes behind it is a good file.
+            const bool isEmpty = dataSize == 0 && int(riffSize) == bytes.size() - 8;
+            QCOMPARE(wholeSound(wrong).data, isEmpty ? QByteArray() : samples);
+            QCOMPARE(contents(wrong).info.frames, isEmpty ? 0 : 200);
+            QCOMPARE(contents(wrong).missing, 0);
+        }
+    }
+    QCOMPARE(contents(bytes.left(bytes.size() - 400)).missing, 100);
+    QCOMPARE(contents(riff(format(65534, 2, 16) + chunk("data", samples))).formatTag, 65534);
 }
 
 QTEST_GUILESS_MAIN(tst_WAV)

@@ -4,6 +4,7 @@
 #include "app/assets/soundpanel.h"
 #include "app/assets/transfer.h"
 #include "app/mainwindow.h"
+#include "core/dialogs/dialogs.h"
 #include "family/assets/soundfile.h"
 #include "operations/media/soundwork.h"
 
@@ -13,6 +14,7 @@ namespace App {
 
 using Family::MediaResult;
 using Family::SoundFile;
+using Zorv::Dialogs;
 
 SoundCommands::SoundCommands(MainWindow* window) : QObject(window), m_panel(window->soundPanel()) {}
 
@@ -23,6 +25,21 @@ int SoundCommands::presentNeeds() const
     return when(sounds, NeedsSounds) | when(m_panel->currentRow() >= 0, NeedsSound) |
            when(sounds && sounds->steps().canUndo(), NeedsSoundUndo) |
            when(sounds && sounds->steps().canRedo(), NeedsSoundRedo);
+}
+
+/// Asks for how much of files whose sizes are wrong. False if the person gave up.
+bool SoundCommands::chooseExtent(const QString& title, const QStringList& files,
+                                 Family::SoundExtent* extent) const
+{
+    const QString parts = Family::partialSounds(files);
+    if (parts.isEmpty()) {
+        return true;
+    }
+    const auto answer = Dialogs::instance()->question(
+        title, parts + QLatin1String("\n\n") + tr("Take all frames that are there?"),
+        Dialogs::Yes | Dialogs::No | Dialogs::Cancel, Dialogs::Yes);
+    *extent = answer == Dialogs::Yes ? Family::SoundExtent::Whole : Family::SoundExtent::AsTold;
+    return answer == Dialogs::Yes || answer == Dialogs::No;
 }
 
 void SoundCommands::addSounds()
@@ -39,9 +56,14 @@ void SoundCommands::addSounds()
     if (choice.files.isEmpty()) {
         return;
     }
+    Family::SoundImport request;
+    request.group = choice.group;
+    request.force = choice.force;
+    if (!chooseExtent(title, choice.files, &request.extent) || sounds != m_panel->sounds()) {
+        return;
+    }
     const unsigned before = sounds->count();
-    const MediaResult result =
-        Family::importSounds(sounds, choice.files, choice.group, choice.force);
+    const MediaResult result = Family::importSounds(sounds, choice.files, request);
     tellResult(title, tr("%1 sounds are taken up.").arg(result.done), result);
     if (sounds->count() > before) {
         m_panel->setCurrentRow(int(sounds->count()) - 1);

@@ -2,6 +2,10 @@
 
 #include <QObject>
 
+namespace Family {
+enum class SoundExtent;
+}  // namespace Family
+
 namespace App {
 
 class MainWindow;
@@ -29,6 +33,9 @@ public:
     /// @}
 
 private:
+    bool chooseExtent(const QString& title, const QStringList& files,
+                      Family::SoundExtent* extent) const;
+
     SoundPanel* m_panel;
 };
 

@@ -3,6 +3,7 @@
 #include "assets/soundfile.h"
 #include "core/files.h"
 #include "media/soundfile.h"
+#include "media/wavecontents.h"
 #include "operations/media/assetnames.h"
 #include "operations/media/jobs.h"
 
@@ -10,9 +11,13 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <algorithm>
+
 namespace Family {
 
 namespace {
+
+const int PlainTag = 1;
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -47,13 +52,14 @@ int rowOf(const SoundFile& sounds, const ImportTarget& target)
     return row;
 }
 
-/// Adds a sound, or replaces the one of a row. Empty if that was done, else why not.
-QString putSound(SoundFile* sounds, int row, const ImportTarget& target, const QString& file)
+/// Adds a sound, or replaces the one of a row.
+Outcome putSound(SoundFile* sounds, int row, const ImportTarget& target, const QString& file,
+                 SoundExtent extent)
 {
     Zorv::SoundSample sample;
-    QString error;
-    if (!readSound(file, &sample, &error)) {
-        return error;
+    const Outcome outcome = readSound(file, extent, &sample);
+    if (!outcome.error.isEmpty()) {
+        return outcome;
     }
     FamilySound* sound =
         sounds->add(row < 0 ? int(sounds->count()) : row, target.id.text(), sample);
@@ -65,22 +71,103 @@ QString putSound(SoundFile* sounds, int row, const ImportTarget& target, const Q
     if (row >= 0) {
         sounds->remove(unsigned(row + 1));
     }
-    return {};
+    return outcome;
+}
+
+/// What a format tag stands for; empty for one that is seldom met.
+QString formOfTag(int tag)
+{
+    static const struct
+    {
+        int tag;
+        const char* form;
+    } forms[] = {
+        {2, QT_TRANSLATE_NOOP("Family::SoundWork", "ADPCM")},
+        {3, QT_TRANSLATE_NOOP("Family::SoundWork", "floating point")},
+        {6, QT_TRANSLATE_NOOP("Family::SoundWork", "A-law")},
+        {7, QT_TRANSLATE_NOOP("Family::SoundWork", "mu-law")},
+        {17, QT_TRANSLATE_NOOP("Family::SoundWork", "ADPCM")},
+        {85, QT_TRANSLATE_NOOP("Family::SoundWork", "MP3")},
+        {65534, QT_TRANSLATE_NOOP("Family::SoundWork", "the extensible form")},
+    };
+    const auto found = std::find_if(std::begin(forms), std::end(forms),
+                                    [tag](const auto& row) { return row.tag == tag; });
+    return found == std::end(forms) ? QString() : Text::tr(found->form);
+}
+
+/// Why a file gives no sample.
+QString unreadText(const QString& fileName, const Zorv::WaveContents& contents)
+{
+    const int tag = contents.formatTag;
+    if (tag == PlainTag && contents.info.frames > 0) {
+        return Text::tr("Cannot read '%1': the sizes in it do not fit, and lead to none of its %2 "
+                        "frames.")
+            .arg(fileName, QString::number(contents.info.frames));
+    }
+    if (tag == 0 || tag == PlainTag) {
+        return Text::tr("Cannot read '%1': it is no WAV file with plain samples (PCM).")
+            .arg(fileName);
+    }
+    const QString form = formOfTag(tag);
+    return Text::tr(
+               "Cannot read '%1': its samples are not plain ones (PCM), but of format %2. Save "
+               "it as plain WAV, of 16 bits for example, with the program that made it.")
+        .arg(fileName, form.isEmpty() ? QString::number(tag)
+                                      : QStringLiteral("%1 (%2)").arg(QString::number(tag), form));
+}
+
+/// What was read of a file that holds more, or was cut short.
+QString partText(const QString& fileName, qint64 read, const Zorv::WaveContents& contents)
+{
+    const qint64 held = contents.info.frames;
+    if (read < held) {
+        return Text::tr("Of the %1 frames in '%2' %3 are read: the sizes in it do not fit.")
+            .arg(QString::number(held), fileName, QString::number(read));
+    }
+    return contents.missing == 0 ? QString()
+                                 : Text::tr("'%1' is cut short: of %2 frames it has %3.")
+                                       .arg(fileName, QString::number(held + contents.missing),
+                                            QString::number(held));
 }
 
 }  // namespace
 
-bool readSound(const QString& fileName, Zorv::SoundSample* sample, QString* error)
+Outcome readSound(const QString& fileName, SoundExtent extent, Zorv::SoundSample* sample)
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        *error = Text::tr("Cannot open '%1': %2. Check that the file is there and may be read.")
-                     .arg(fileName, file.errorString());
-    } else if (!Zorv::loadSound(&file, Zorv::fileExtension(fileName).constData(), *sample)) {
-        *error =
-            Text::tr("Cannot read '%1': it is no WAV file with plain samples (PCM).").arg(fileName);
+        return Text::tr("Cannot open '%1': %2. Check that the file is there and may be read.")
+            .arg(fileName, file.errorString());
     }
-    return error->isEmpty();
+    const QByteArray format = Zorv::fileExtension(fileName);
+    const bool isWave = format == "WAV";
+    const Zorv::WaveContents contents = isWave ? Zorv::waveContents(&file) : Zorv::WaveContents();
+    if (isWave && extent == SoundExtent::Whole) {
+        *sample = Zorv::wholeSoundFromWAV(&file);
+    } else {
+        Zorv::loadSound(&file, format.constData(), *sample);
+    }
+    Outcome outcome;
+    if (sample->data.isEmpty()) {
+        outcome.error = unreadText(fileName, contents);
+    } else if (contents.formatTag == PlainTag) {
+        outcome.warning = partText(fileName, sample->frames, contents);
+    }
+    outcome.isPart = contents.formatTag == PlainTag && sample->frames < contents.info.frames;
+    return outcome;
+}
+
+QString partialSounds(const QStringList& files)
+{
+    QStringList texts;
+    for (const QString& file : files) {
+        Zorv::SoundSample sample;
+        const Outcome outcome = readSound(file, SoundExtent::AsTold, &sample);
+        if (outcome.isPart) {
+            texts.append(outcome.error.isEmpty() ? outcome.warning : outcome.error);
+        }
+    }
+    return texts.mid(0, 12).join(QLatin1Char('\n'));
 }
 
 double duration(const Zorv::SampleInfo& info)
@@ -117,14 +204,14 @@ MediaResult exportSounds(const SoundFile& sounds, const Selection& selection,
     return result;
 }
 
-MediaResult importSounds(SoundFile* sounds, const QStringList& files, int group, bool force)
+MediaResult importSounds(SoundFile* sounds, const QStringList& files, const SoundImport& request)
 {
     const AssetHistory::Hold hold(sounds->steps());
     QString error;
     const QVector<ImportTarget> targets = importTargets(
-        files, group, [sounds](AssetId id) { return sounds->freeId(id); }, &error);
+        files, request.group, [sounds](AssetId id) { return sounds->freeId(id); }, &error);
     for (int i = 0; i < targets.size() && error.isEmpty(); ++i) {
-        if (!force && rowOf(*sounds, targets[i]) >= 0) {
+        if (!request.force && rowOf(*sounds, targets[i]) >= 0) {
             MediaResult refusal(Text::tr("There is a sound %1 already, which '%2' would replace. "
                                          "Nothing is changed.")
                                     .arg(targets[i].id.text(), files[i]));
@@ -139,7 +226,8 @@ MediaResult importSounds(SoundFile* sounds, const QStringList& files, int group,
     JobProgress progress(Text::tr("Sounds"), files.size());
     sounds->beginChange(Text::tr("Import sounds"));
     for (int i = 0; i < targets.size() && !result.isCanceled; ++i) {
-        result.note(putSound(sounds, rowOf(*sounds, targets[i]), targets[i], files[i]));
+        result.note(
+            putSound(sounds, rowOf(*sounds, targets[i]), targets[i], files[i], request.extent));
         result.isCanceled = !progress.step();
     }
     sounds->endChange();

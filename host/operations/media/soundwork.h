@@ -9,9 +9,20 @@ namespace Family {
 
 class SoundFile;
 
-/// Reads a sound file of the format of its suffix. False, with `error` for the person, if it
-/// cannot be read. Main thread only.
-bool readSound(const QString& fileName, Zorv::SoundSample* sample, QString* error);
+/// Which samples are read of a file whose sizes are wrong, as programs leave them that record
+/// without an end.
+enum class SoundExtent {
+    AsTold,  ///< those that the sizes lead to
+    Whole,   ///< all that are there
+};
+
+/// Reads a sound file of the format of its suffix. What it holds beyond that, and what it lacks, is
+/// told. Main thread only.
+Outcome readSound(const QString& fileName, SoundExtent extent, Zorv::SoundSample* sample);
+
+/// What of some files is not read as told, as a text for the person. Empty if they are read whole,
+/// or not at all.
+QString partialSounds(const QStringList& files);
 
 /// Seconds that a sound takes; 0 if its rate is not known.
 double duration(const Zorv::SampleInfo& info);
@@ -21,9 +32,16 @@ double duration(const Zorv::SampleInfo& info);
 MediaResult exportSounds(const SoundFile& sounds, const Selection& selection,
                          const OutputRequest& request);
 
+/// How files become sounds.
+struct SoundImport
+{
+    int group = -1;      ///< whose next free numbers they get; negative to go by their names
+    bool force = false;  ///< sounds that are there may be replaced
+    SoundExtent extent = SoundExtent::AsTold;
+};
+
 /// Adds sounds to a collection, or replaces those that are there if that is allowed, as one step of
-/// undo. With a group that is not negative they get its next free numbers, else they go by their
-/// names. If one of them cannot be read, or may not be replaced, nothing is changed.
-MediaResult importSounds(SoundFile* sounds, const QStringList& files, int group, bool force);
+/// undo. If one of them cannot be read, or may not be replaced, nothing is changed.
+MediaResult importSounds(SoundFile* sounds, const QStringList& files, const SoundImport& request);
 
 }  // namespace Family

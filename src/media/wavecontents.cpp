@@ -1,0 +1,119 @@
+#include "media/wavecontents.h"
+
+#include "media/imagesize_p.h"
+#include "media/wav_p.h"
+
+#include <cstring>
+
+namespace Zorv {
+
+namespace {
+
+const int ChunkHead = 8;
+const int RiffSize = 12;
+const int FormatSize = 16;
+
+// A file of nothing but heads would take long.
+const int MostChunks = 10000;
+
+// What programs write that do not know the size yet is near the ends of the range.
+const quint32 LeastOpenSize = 0x7FF00000;
+
+bool isId(const char (&id)[4], const char* name)
+{
+    return std::memcmp(id, name, 4) == 0;
+}
+
+/// The chunks of a file up to its samples.
+class WaveChunks
+{
+public:
+    explicit WaveChunks(QIODevice* device)
+        : m_device(device), m_begin(device->pos()), m_end(device->size())
+    {
+        const QByteArray head = device->peek(RiffSize);
+        m_riff = parseWaveHeader<WaveRIFFHeader>(head);
+        if (head.size() == RiffSize && isId(m_riff.id, "RIFF") && isId(m_riff.format, "WAVE")) {
+            walk();
+        }
+        m_device->seek(m_begin);
+    }
+
+    const WaveFormatHeader& format() const { return m_format; }
+    qint64 start() const { return m_start; }
+
+    /// Bytes of samples that are there.
+    qint64 held() const
+    {
+        const qint64 rest = m_end - m_start;
+        // The size of the whole tells an empty sound from one whose size was never written.
+        const qint64 excess = m_end - m_begin - ChunkHead - m_riff.size;
+        const bool isOpen = m_declared == 0 && excess != 0 && excess != 1;
+        return isOpen ? rest : qMin<qint64>(rest, m_declared);
+    }
+
+    /// Bytes that are declared and not there.
+    qint64 missing() const
+    {
+        return m_declared < LeastOpenSize ? qMax<qint64>(0, m_declared - (m_end - m_start)) : 0;
+    }
+
+private:
+    void walk()
+    {
+        qint64 at = m_begin + RiffSize;
+        for (int i = 0; i < MostChunks && at < m_end && m_device->seek(at); ++i) {
+            const QByteArray bytes = m_device->read(ChunkHead + FormatSize);
+            const auto chunk = parseWaveHeader<WaveDataHeader>(bytes);
+            if (isId(chunk.id, "fmt ") && bytes.size() == ChunkHead + FormatSize) {
+                m_format = parseWaveHeader<WaveFormatHeader>(bytes);
+            } else if (isId(chunk.id, "data") && bytes.size() >= ChunkHead) {
+                m_start = at + ChunkHead;
+                m_declared = chunk.size;
+                return;
+            }
+            at += ChunkHead + qint64(chunk.size) + (chunk.size & 1);
+        }
+        m_start = m_end;
+    }
+
+    QIODevice* m_device;
+    qint64 m_begin;
+    qint64 m_end;
+    WaveRIFFHeader m_riff{};
+    WaveFormatHeader m_format{};
+    qint64 m_start = 0;
+    quint32 m_declared = 0;
+};
+
+}  // namespace
+
+WaveContents waveContents(QIODevice* device)
+{
+    const SizedDevice sized(device);
+    const WaveChunks chunks(sized.get());
+    WaveContents contents;
+    contents.formatTag = chunks.format().formatTag;
+    if (contents.formatTag != 0) {
+        const quint32 held = quint32(qMin<qint64>(chunks.held(), 0xFFFFFFFF));
+        const quint32 missing = quint32(chunks.missing());
+        contents.info = waveSampleInfo(chunks.format(), held);
+        contents.missing = waveSampleInfo(chunks.format(), missing).frames;
+    }
+    return contents;
+}
+
+SoundSample wholeSoundFromWAV(QIODevice* device)
+{
+    const SizedDevice sized(device);
+    const WaveChunks chunks(sized.get());
+    SoundSample sample;
+    if (chunks.format().formatTag == PCMTag && sized.get()->seek(chunks.start())) {
+        sample.data = readUpTo(sized.get(), chunks.held());
+        static_cast<SampleInfo&>(sample) =
+            waveSampleInfo(chunks.format(), quint32(sample.data.size()));
+    }
+    return sample;
+}
+
+}  // namespace Zorv
