@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <system_error>
+
 namespace Zorv {
 
 namespace {
@@ -156,7 +158,7 @@ bool SafeFile::makeFile()
     const QString head = folder + QLatin1Char('/') + nameHead(target);
     for (int i = 0; i < MaxNames && !m_file.isOpen(); ++i) {
         m_file.setFileName(head + QString::number(i) + QLatin1String(Unfinished::FileSuffix));
-        if (!openNew() && m_file.error() != QFile::NoError && !m_file.exists()) {
+        if (!openNew() && m_file.error() != QFile::NoError && !isTaken()) {
             break;
         }
     }
@@ -171,6 +173,12 @@ bool SafeFile::makeFile()
         FileReplace::takeOwnerAndMode(m_file, m_target);
     }
     return true;
+}
+
+// Who made the file may have renamed it by now, so it is not looked for.
+bool SafeFile::isTaken() const
+{
+    return m_file.errorString() == qt_error_string(int(std::errc::file_exists));
 }
 
 // A process that was killed while it wrote may have left a file of this name.

@@ -51,6 +51,7 @@ private:
     bool checkTarget(OpenMode mode);
     bool makeFile();
     bool openNew();
+    bool isTaken() const;
     bool copyOldContent();
     bool flush();
     bool writeOut(const char* data, qint64 size);
