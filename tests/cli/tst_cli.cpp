@@ -41,8 +41,8 @@ QProcessEnvironment bareEnvironment(const QString& folder)
     QProcessEnvironment bare;
     bare.insert("SAMPLES", ZORV_SAMPLES);
     bare.insert("HOME", folder);
-    bare.insert("PATH", QFileInfo(ZORV_PROGRAM).absolutePath() +
-                            ":" CLI_TESTS "/bin:" ZORV_TEST_PROGRAMS);
+    bare.insert("PATH",
+                QFileInfo(ZORV_PROGRAM).absolutePath() + ":" CLI_TESTS "/bin:" ZORV_TEST_PROGRAMS);
     for (const char* name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"}) {
         if (here.contains(name)) {
             bare.insert(name, here.value(name));

@@ -174,6 +174,17 @@ private slots:
         QVERIFY(isWhole(contentOf(path)));
     }
 
+    // What is told is why, also of a result that a disk took half of.
+    void shortWriteOfAResult()
+    {
+        faultArm("result", FaultWrite, 1, ENOSPC, 1);
+        QString error;
+        const QString result = folder->filePath(QStringLiteral("result.bin"));
+        QVERIFY(!writeFile(result, QByteArray(BlockSize, 'n'), Existing::Stays, &error));
+        QVERIFY2(error.contains(qt_error_string(ENOSPC)), qPrintable(error));
+        QCOMPARE(leftovers(folder->path()), QStringList());
+    }
+
     void fullDisk()
     {
         const QByteArray old = contentOf(path);
