@@ -234,6 +234,11 @@ void HostInterface::refreshProjects() {}
 
 void HostInterface::activateEditor(Zorv::Editor*) {}
 
+bool HostInterface::watchesFiles() const
+{
+    return false;
+}
+
 void startHost(HostInterface* host)
 {
     setGlobalInterface(host);

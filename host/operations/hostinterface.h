@@ -68,6 +68,9 @@ public:
     void refreshProjects() override;
     void activateEditor(Zorv::Editor* editor) override;
 
+    /// False: without a window nobody is there when a file changes.
+    bool watchesFiles() const override;
+
 private:
     QSettings* m_settings;
     QHash<QString, QVariant> m_options;  ///< where there is no `m_settings`

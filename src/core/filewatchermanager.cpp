@@ -4,7 +4,6 @@
 #include "core/filewatchobject.h"
 #include "core/interface.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPointer>
@@ -47,7 +46,7 @@ void FileWatcherManager::remove(FileWatchObject* object)
 
 void FileWatcherManager::rename(const QString& from, const QString& to)
 {
-    if (from == to) {
+    if (from == to || !watcher()) {
         return;
     }
     if (!from.isEmpty() && objectsOf(from).size() < 2) {
@@ -220,9 +219,7 @@ void FileWatcherManager::askToReload(const QString& path, const QList<FileWatchO
 
 QFileSystemWatcher* FileWatcherManager::watcher()
 {
-    // Without an application there is no event loop that could tell.
-    if (!m_watcher && QCoreApplication::instance()) {
-        m_watcher = std::make_unique<QFileSystemWatcher>();
+    if (!m_watcher && (m_watcher = takeWatcher())) {
         connect(m_watcher.get(), &QFileSystemWatcher::fileChanged, this,
                 &FileWatcherManager::fileChanged);
         connect(m_watcher.get(), &QFileSystemWatcher::directoryChanged, this,

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QFileSystemWatcher>
+#include "core/watcher_p.h"
+
 #include <QList>
 #include <QObject>
 #include <QSet>
 #include <QString>
 
 #include <functional>
-#include <memory>
 
 namespace Zorv {
 
@@ -50,7 +50,7 @@ private:
     void askToReload(const QString& path, const QList<FileWatchObject*>& changed);
     QFileSystemWatcher* watcher();
 
-    std::unique_ptr<QFileSystemWatcher> m_watcher;
+    WatcherPtr m_watcher;
     QList<FileWatchObject*> m_objects;
     QSet<QString> m_missing;  // files that are to be watched once they are there
     QSet<QString> m_asking;   // files whose question is open

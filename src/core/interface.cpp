@@ -23,6 +23,11 @@ ItemsDialog* Interface::itemsDialog(QWidget* parent, const QString& title,
     return new ItemsDlg(parent, title, model, row);
 }
 
+bool Interface::watchesFiles() const
+{
+    return true;
+}
+
 }  // namespace Zorv
 
 void setGlobalInterface(Zorv::Interface* interface)

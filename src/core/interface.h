@@ -136,6 +136,11 @@ public:
     /// must outlive the dialog or be taken off with `ItemsDialog::release()`.
     virtual ItemsDialog* itemsDialog(QWidget* parent, const QString& title,
                                      QAbstractItemModel* model, int row) const;
+
+    /// False for a host that opens games, does one piece of work, and ends: then neither files nor
+    /// folders are watched, which costs more than to read them. Asked when a watch would begin.
+    /// True, unless a host says otherwise.
+    virtual bool watchesFiles() const;
 };
 
 }  // namespace Zorv

@@ -2,8 +2,8 @@
 
 #include "core/paths_p.h"
 #include "core/project.h"
+#include "core/watcher_p.h"
 
-#include <QFileSystemWatcher>
 #include <QMap>
 #include <QObject>
 #include <QPointer>
@@ -107,7 +107,7 @@ private:
                      QVector<DirectoryPath*>& reduced);
     void addFiles(BasePath* node, const QList<Project::FileInfo>& files);
 
-    QFileSystemWatcher m_watcher;
+    WatcherPtr m_watcher;  ///< null if nothing is watched
 };
 
 }  // namespace Zorv

@@ -36,10 +36,12 @@ bool sameFiles(const QList<Project::FileInfo>& a, const QList<Project::FileInfo>
 ParentProjectPrivate::ParentProjectPrivate(ParentProject* parentProject, const QString& rootPath,
                                            Archive& rootArchive)
     : DirectoryPath(nullptr, withoutLastSlash(rootPath), ParentProject::ListNothing, {}),
-      model(parentProject), archive(&rootArchive)
+      model(parentProject), archive(&rootArchive), m_watcher(takeWatcher())
 {
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this,
-            &ParentProjectPrivate::folderChanged);
+    if (m_watcher) {
+        connect(m_watcher.get(), &QFileSystemWatcher::directoryChanged, this,
+                &ParentProjectPrivate::folderChanged);
+    }
 }
 
 // Folders that are watched leave the watcher, which dies before their base.
@@ -74,7 +76,7 @@ void ParentProjectPrivate::childsAdded(BasePath* path)
 
 QFileSystemWatcher* ParentProjectPrivate::watcher()
 {
-    return &m_watcher;
+    return m_watcher.get();
 }
 
 QModelIndex ParentProjectPrivate::indexOf(BasePath* path) const
@@ -258,9 +260,9 @@ void ParentProjectPrivate::listProjects(const BasePath* path, QStringList& list)
 
 void ParentProjectPrivate::moveRoot(const QString& rootPath)
 {
-    const QStringList watched = m_watcher.directories();
+    const QStringList watched = m_watcher ? m_watcher->directories() : QStringList();
     if (!watched.isEmpty()) {
-        m_watcher.removePaths(watched);
+        m_watcher->removePaths(watched);
     }
     setPathName(withoutLastSlash(rootPath));
     for (const QPointer<Project>& project : openProjects()) {

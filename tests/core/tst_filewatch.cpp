@@ -2,7 +2,9 @@
 #include "core/filewatchobject.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
+#include "support/testproject.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -76,6 +78,18 @@ void replace(const QString& path)
     change(fresh);
     QCOMPARE(::rename(QFile::encodeName(fresh).constData(), QFile::encodeName(path).constData()),
              0);
+}
+
+// The watchers of this process that the kernel has open.
+int watcherCount()
+{
+    int count = 0;
+    const QFileInfoList files =
+        QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::Files | QDir::System);
+    for (const QFileInfo& file : files) {
+        count += file.symLinkTarget().endsWith(QLatin1String("inotify"));
+    }
+    return count;
 }
 
 // Long enough for signals that come to have come, and for pauses to have ended.
@@ -351,6 +365,49 @@ private slots:
         QTRY_COMPARE(first->reloads, 1);
         settle();
         delete first;
+    }
+
+    // Closing a watcher takes longer than all the rest that a small project needs.
+    void watchersAreNotClosedOneByOne()
+    {
+        {
+            const Watched first(path);
+        }
+        const int open = watcherCount();
+        QCOMPARE(open, 1);
+        const QString other = path + QStringLiteral("2");
+        change(other);
+        for (int i = 0; i < 3; ++i) {
+            const Watched document(path);
+            const TestParent game(folder->path());
+        }
+        QVERIFY(watcherCount() <= open + 1);  // one for each of the two
+        const Watched document(other);
+        change(path);
+        settle();
+        QCOMPARE(dialogs->count(), 0);
+        change(other);
+        QTRY_COMPARE(dialogs->count(), 1);
+        QCOMPARE(dialogs->texts(QStringLiteral("question")).size(), 1);
+    }
+
+    void hostThatDoesNotWatch()
+    {
+        host->watches = false;
+        const int open = watcherCount();
+        Watched document(path);
+        TestParent game(folder->path());
+        game.addPath(QStringLiteral("stages"), ParentProject::ListFiles, {QStringLiteral("*.x")});
+        document.save(path);
+        QVERIFY(writeFile(folder->filePath(QStringLiteral("stages/new.x"))));
+        change(path);
+        settle();
+        QCOMPARE(dialogs->count(), 0);
+        QVERIFY(!document.isWatchPaused());
+        QCOMPARE(game.dump(), QStringList(QStringLiteral("stages/")));
+        QCOMPARE(watcherCount(), open);
+        document.save(folder->filePath(QStringLiteral("elsewhere")));
+        QVERIFY(document.reload());
     }
 
 private:

@@ -52,6 +52,9 @@ public:
     QList<Progress> progresses;
     int cancelAfter = -1;  ///< the step after which the person gives up
     int refreshCount = 0;
+    bool watches = true;
+
+    bool watchesFiles() const override { return watches; }
 
     /// The window that holds all controls, null before the first.
     QWidget* controlsWindow() const;
