@@ -130,8 +130,12 @@ void TestBoxReport::times_data()
                                          << "1+2" << 0 << Numbers{-1, 3, -1, 1, -1} << Numbers{3};
     QTest::addRow("a blow that stays") << "a2 a-1 a3"
                                        << "0+-1" << 0 << Numbers{1, -1, -1} << Numbers{0, 1};
+    QTest::addRow("it stays at the loop") << "b1 b2 ab3l"
+                                          << "3+3" << 0 << Numbers{1, 2, 2} << Numbers{};
     QTest::addRow("one frame") << "-5"
-                               << "" << 0 << Numbers{-1} << Numbers{0};
+                               << "" << 0 << Numbers{0} << Numbers{0};
+    QTest::addRow("one frame for ever") << "b-1"
+                                        << "" << 0 << Numbers{-1} << Numbers{};
     QTest::addRow("none") << ""
                           << "" << 0 << Numbers{} << Numbers{};
 }

@@ -178,7 +178,7 @@ AnimationBoxReport::AnimationBoxReport(const AnimationNode& animation)
         const int again = ticks < 0 ? -1 : clock.frameAt(unsigned(clock.loopTick()));
         const int next = i + 1 < shown.size() ? shown[i + 1] : again;
         frame.isShown = true;
-        if (next >= 0 && next != shown[i]) {
+        if (next >= 0) {
             frame.next = next;
             compareWithNext(&frame, frames[next]);
         }
