@@ -53,6 +53,11 @@ QIcon ParentProject::fileIcon(FileID) const
     return {};
 }
 
+bool ParentProject::mayStart(const QString&)
+{
+    return true;
+}
+
 void ParentProject::addRef(CodeDocument* main)
 {
     d->addRef(main);

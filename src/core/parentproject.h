@@ -97,6 +97,11 @@ public:
     /// later, not in the call.
     virtual void lastReferenceGone() = 0;
 
+    /// Asked by `run()` right before it starts an executable (its full path), when all copies are
+    /// made: false ends the run, as if the person had given it up. The host tells why. True, unless
+    /// a host says otherwise.
+    virtual bool mayStart(const QString& executable);
+
     /// Registers the project of a main document in the folder of that, which is
     /// added if it is missing; a document without a file name goes to the root.
     ///

@@ -29,7 +29,12 @@ public:
     QString parameters = "%0";
     QString folder = "copies/%1/";  ///< "%1" stands for the name of the copy
     bool isWhole = true;
+    std::function<bool(const QString&)> mayStartIt;  ///< a host's say; anything may without it
 
+    bool mayStart(const QString& executable) override
+    {
+        return !mayStartIt || mayStartIt(executable);
+    }
     QString runParameters(int) const override { return parameters; }
     QString runPath(int, const QString& name, bool* wholeFolder) const override
     {
@@ -136,6 +141,7 @@ private slots:
     void arguments();
     void choice();
     void gameHasItsEngine();
+    void hostLooksBeforeTheStart();
     void paths_data();
     void paths();
     void unsavedText();
@@ -297,6 +303,25 @@ void TestRun::gameHasItsEngine()
     QCOMPARE(world.arguments(), QStringList({"--fight", "copies/zorvs_0/chars/zorvs_0"}));
     QCOMPARE(world.record("texts"), QString("hero"));
     QCOMPARE(snapshot(world.root + "game"), before);
+    QCOMPARE(dialogs.count(), 0);
+}
+
+void TestRun::hostLooksBeforeTheStart()
+{
+    PlannedDialogs dialogs;
+    World world;
+    world.open("hero.code", "hero");
+    const auto before = world.engineFiles();
+    int copies = 0;
+    world.tree->mayStartIt = [&](const QString& executable) {
+        copies += world.engineFiles().size() > before.size() && executable == world.exe;
+        return false;
+    };
+    QCOMPARE(world.run().outcome, RunResult::GivenUp);
+    QCOMPARE(copies, 1);
+    QCOMPARE(world.record("started"), QString());
+    QCOMPARE(world.engineFiles(), before);
+    QVERIFY(!world.tree->isRunning());
     QCOMPARE(dialogs.count(), 0);
 }
 

@@ -224,15 +224,18 @@ void EngineRun::startEngine()
         // Nobody could end it any more.
         QObject::connect(tree, &QObject::destroyed, &process, &EngineProcess::stop);
     }
-    process.run(launch);
+    m_result.outcome = RunResult::GivenUp;
+    if (m_tree && m_tree->model->mayStart(m_executable)) {
+        process.run(launch);
+        m_result.outcome = process.outcome();
+        m_result.exitCode = process.exitCode();
+    }
     finish(process);
 }
 
 void EngineRun::finish(const EngineProcess& process)
 {
     m_result.leftCopies = m_copies->remove();
-    m_result.outcome = process.outcome();
-    m_result.exitCode = process.exitCode();
     keepResult();
     if (m_tree) {
         m_tree->runnable = true;

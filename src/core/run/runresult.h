@@ -12,7 +12,7 @@ struct RunResult
         NotRun,          ///< nothing was run yet
         AlreadyRunning,  ///< another engine runs
         NoEngine,        ///< no engine is configured
-        GivenUp,         ///< the person chose no engine
+        GivenUp,         ///< the person chose no engine, or the host did not let it start
         NotFound,        ///< the executable is not there
         NoMarks,         ///< the parameter string asks for no project
         NotStarted,      ///< the engine could not be started
@@ -22,7 +22,8 @@ struct RunResult
     };
 
     Outcome outcome = NotRun;
-    int exitCode = 0;         ///< of an engine that has `Ended`
+    int exitCode = 0;         ///< of an engine that has `Ended`; of one that has `Crashed` the
+                              ///< number of the signal
     QString program;          ///< what was started: the engine, or what runs it
     QStringList arguments;    ///< its arguments
     QString folder;           ///< its working folder
