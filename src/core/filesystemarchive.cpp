@@ -7,13 +7,27 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cerrno>
 #include <memory>
+
+#include <sys/stat.h>
 
 namespace Zorv {
 
 namespace {
 
 const QDir::Filters alwaysFiltered = QDir::NoDotAndDotDot | QDir::NoSymLinks;
+
+// A file in a closed folder may well be there.
+QString absence(const QString& path)
+{
+    struct stat info;
+    const bool isReached = stat(QFile::encodeName(path).constData(), &info) == 0 ||
+                           errno == ENOENT || errno == ENOTDIR;
+    return isReached
+               ? QCoreApplication::translate("Zorv::FileSystemArchive", "The file does not exist")
+               : qt_error_string(errno);
+}
 
 void setReadError(QString* error, const QString& path, const QString& reason)
 {
@@ -57,9 +71,7 @@ QIODevice* FileSystemArchive::openFile(const QString& path, QIODevice::OpenMode 
 {
     const QFileInfo info(path);
     if (!(mode & QIODevice::WriteOnly) && !info.exists()) {
-        setReadError(
-            error, path,
-            QCoreApplication::translate("Zorv::FileSystemArchive", "The file does not exist"));
+        setReadError(error, path, absence(path));
         return nullptr;
     }
     forcePath(path);

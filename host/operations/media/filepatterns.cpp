@@ -1,5 +1,7 @@
 #include "operations/media/filepatterns.h"
 
+#include "family/project/unreachable.h"
+
 #include <QCollator>
 #include <QCoreApplication>
 #include <QDir>
@@ -78,7 +80,7 @@ QString obstacle(const QString& name)
         return Text::tr("'%1' is not a plain file. Name a file on a disk.").arg(name);
     }
     return isPattern(name) ? Text::tr("No file matches '%1'.").arg(name)
-                           : Text::tr("There is no file '%1'.").arg(name);
+                           : orUnreachable(Text::tr("There is no file '%1'."), name);
 }
 
 }  // namespace
