@@ -83,11 +83,12 @@ constexpr Command table[] = {
      "is not there), 'added', 'removed', 'changed' or, of a box, 'moved', and what it was and is.\n"
      "With -o the frames that differ are drawn on an image, OLD at the left and NEW at the right.\n"
      "The status is 0 if nothing differs, and 1 if something does."},
-    {"run", "FILE...", 1, Command::Any, Engine | Parameters, runInEngine,
+    {"run", "FILE...", 1, Command::Any, Engine | Parameters | Trust, runInEngine,
      "Start an engine on characters and stages.",
      "Each FILE is a main file (.character, .stage). Copies of the projects are put beside the\n"
-     "engine, and removed when it has ended. The engine is that of the game folder, else the\n"
-     "one that --engine names, a name of the settings or a program, else that of the settings.\n"
+     "engine, and removed when it has ended. The engine is the one that --engine names, a name of\n"
+     "the settings or a program; else 'zorv-player' in the game folder, if you have agreed to it\n"
+     "in the window, or with --trust; else that of the settings.\n"
      "In the parameters %0 is the first FILE, %1 the first too, %2 the second and so on. What\n"
      "the engine prints goes to standard output, and its status is that of the command."},
     {"backup", "GAME [NAME]", 1, 2, NoOptions, backUp,

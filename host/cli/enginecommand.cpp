@@ -6,12 +6,16 @@
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "family/project/gameprogram.h"
+#include "family/project/unreachable.h"
 #include "notedsignals.h"
+#include "operations/agreements.h"
 #include "operations/engines.h"
 #include "operations/hostinterface.h"
 #include "output.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
@@ -25,12 +29,15 @@ namespace Cli {
 
 namespace {
 
+using Family::Agreement;
 using Family::FamilyParentProject;
 using Family::FamilyProject;
+using Family::GameProgram;
 using Zorv::EngineInfo;
 using Zorv::RunResult;
 
 constexpr int PollMilliseconds = 20;
+constexpr int SignalStatus = 128;  // and the number of the signal, as in a shell
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -50,7 +57,7 @@ public:
         }
     }
 
-    bool open(const QString& mainFile, QString* error);
+    bool open(const QString& name, QString* error);
     FamilyParentProject* game() const
     {
         return static_cast<FamilyParentProject*>(m_projects.first()->parent());
@@ -65,10 +72,26 @@ private:
     QList<FamilyProject*> m_projects;
 };
 
-bool RunHost::open(const QString& mainFile, QString* error)
+/// What stands for the one project in a folder; another name stays as it is.
+QString mainFileOf(const QString& name)
 {
+    const QStringList files =
+        QFileInfo(name).isDir() ? FamilyParentProject::mainFiles(name) : QStringList();
+    return files.size() == 1 ? files.first() : name;
+}
+
+bool RunHost::open(const QString& name, QString* error)
+{
+    const QString mainFile = mainFileOf(name);
+    if (QFileInfo(mainFile).isDir()) {
+        *error =
+            Family::orUnreachable(Text::tr("'%1' is a folder. Name one of the main files in it, "
+                                           "such as 'hero.character' or 'yard.stage'."),
+                                  mainFile);
+        return false;
+    }
     if (!QFileInfo(mainFile).isFile()) {
-        *error = Text::tr("There is no file '%1'.").arg(mainFile);
+        *error = Family::orUnreachable(Text::tr("There is no file '%1'."), mainFile);
         return false;
     }
     const QString folder = Family::checkedFolder(mainFile);
@@ -127,10 +150,21 @@ private:
     bool m_quiet = false;
 };
 
+// As a shell does it: a word alone is no file of the current folder, which a stranger may have
+// made.
 QString programPath(const QString& name)
 {
-    return QFileInfo(name).isFile() ? QFileInfo(name).absoluteFilePath()
-                                    : QStandardPaths::findExecutable(name);
+    if (!name.contains(QLatin1Char('/'))) {
+        return QStandardPaths::findExecutable(name);
+    }
+    return QFileInfo(name).isFile() ? QFileInfo(name).absoluteFilePath() : QString();
+}
+
+/// As a person in the current folder would name it.
+QString shownPath(const QString& path)
+{
+    const QString here = QDir::currentPath() + QLatin1Char('/');
+    return path.startsWith(here) ? path.mid(here.size()) : path;
 }
 
 /// The engine that `--engine` names: a configured one, else a program.
@@ -145,26 +179,48 @@ bool findEngine(const QString& name, const FamilyParentProject* game, int kind,
     }
     const QString path = programPath(name);
     if (path.isEmpty()) {
-        *error = Text::tr("There is no engine '%1', neither in the settings nor as a program.")
-                     .arg(name);
+        const bool isFile = !name.contains(QLatin1Char('/')) && QFileInfo(name).isFile();
+        *error = isFile
+                     ? Text::tr("There is no engine '%1', neither in the settings nor among the "
+                                "programs of the system. Write './%1' for the file of that name.")
+                     : Text::tr("There is no engine '%1', neither in the settings nor as a "
+                                "program.");
+        *error = error->arg(name);
         return false;
     }
     *engines = {{name, path, game->runParameters(kind), {}}};
     return true;
 }
 
-/// Puts the engines that come into question into the model. The game's own goes before them.
-bool chooseEngines(const Invocation& invocation, const RunHost& host, QString* error)
+/// Whether the program of the game folder may be started. `error` tells why not.
+bool isTrusted(const Invocation& invocation, const GameProgram& program, QSettings& settings,
+               QString* error)
+{
+    const QString shown = shownPath(program.path());
+    const Agreement agreement = agreementTo(program, settings);
+    if (program.checksum().isEmpty()) {
+        *error = Text::tr("'%1' cannot be read, so it is not started. Name another engine with "
+                          "'--engine'.")
+                     .arg(shown);
+    } else if (!invocation.trusts && agreement != Agreement::Given) {
+        *error =
+            agreement == Agreement::Outdated
+                ? Text::tr("'%1', a program of the game folder, has changed since you agreed to "
+                           "it, so it is not started.")
+                : Text::tr("'%1' is a program of the game folder, and you have not agreed to "
+                           "it, so it is not started.");
+        *error = error->arg(shown) +
+                 Text::tr(" If you trust whoever made it, add '--trust'; or name another engine "
+                          "with '--engine'.");
+    }
+    return error->isEmpty();
+}
+
+/// Puts the engines that come into question into the model.
+bool chooseEngines(const Invocation& invocation, const RunHost& host, QSettings& settings,
+                   QString* error)
 {
     const FamilyParentProject* game = host.game();
-    if (game->isGame()) {
-        if (!invocation.engine.isNull() || !invocation.parameters.isNull()) {
-            complain(Text::tr("The game has an engine of its own, '%1', which is started.")
-                         .arg(game->engineModel()->executableName()));
-        }
-        return true;
-    }
-    QSettings settings;
     QVector<EngineInfo> engines = Family::loadEngines(settings);
     if (!invocation.engine.isNull() &&
         !findEngine(invocation.engine, game, host.currentProject()->kind(), &engines, error)) {
@@ -206,6 +262,7 @@ int tell(const RunResult& result)
     case RunResult::Crashed:
         if (NotedSignals::received() == 0) {
             complain(Text::tr("The engine '%1' has crashed.").arg(result.program));
+            return SignalStatus + result.exitCode;
         }
         break;
     default:
@@ -263,10 +320,20 @@ int runInEngine(const Invocation& invocation, Output& output)
             return NotDone;
         }
     }
-    if (!chooseEngines(invocation, host, &error)) {
+    const GameProgram program =
+        invocation.engine.isNull() ? GameProgram(host.game()->absolutePath()) : GameProgram();
+    QSettings settings;
+    if (program.isThere() ? !isTrusted(invocation, program, settings, &error)
+                          : !chooseEngines(invocation, host, settings, &error)) {
         complain(error);
         return NotDone;
     }
+    if (program.isThere() && !invocation.parameters.isNull()) {
+        complain(Text::tr("'%1' gets the parameters of its family; '--parameters' are for other "
+                          "engines.")
+                     .arg(shownPath(program.path())));
+    }
+    const Family::NamedProgram named(program);
     return runEngine(host.game(), output);
 }
 

@@ -181,6 +181,8 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "an engine of the settings, or a program")},
     {Parameters, "--parameters", "TEXT", setText<&Invocation::parameters>,
      QT_TRANSLATE_NOOP("Cli", "what the engine gets, with %0, %1 for the projects")},
+    {Trust, "--trust", nullptr, setFlag<&Invocation::trusts>,
+     QT_TRANSLATE_NOOP("Cli", "start the program of the game folder, whoever has made it")},
     {Select, "--select", "GROUPS", takeSelection,
      QT_TRANSLATE_NOOP("Cli", "only these: '200', '200-299', '200,3', several with blanks")},
     {PaletteId, "--palette", "ID|FILE", setText<&Invocation::palette>,

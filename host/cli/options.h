@@ -17,9 +17,10 @@ struct Invocation
     bool json = false;
     bool dryRun = false;
     bool noSafetyBackup = false;
-    int codec = -1;      ///< of `Zorv::TextCodecs`; negative to detect
-    QString engine;      ///< null if none was named
-    QString parameters;  ///< for the engine; null if none were given
+    int codec = -1;       ///< of `Zorv::TextCodecs`; negative to detect
+    QString engine;       ///< null if none was named
+    QString parameters;   ///< for the engine; null if none were given
+    bool trusts = false;  ///< the program of the game folder
 
     Family::OutputRequest output;  ///< --out, --format, --force
     Family::Selection selection;
@@ -88,6 +89,7 @@ enum Option : quint64 {
     AsGif = quint64(1) << 32,
     AsSheet = quint64(1) << 33,
     OneAnimation = quint64(1) << 34,
+    Trust = quint64(1) << 35,
     Lenient = quint64(1) << 36
 };
 

@@ -1,7 +1,10 @@
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
 #include "core/run/temporarycopies.h"
+#include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
+#include "family/project/gameprogram.h"
+#include "operations/agreements.h"
 #include "windowfixture.h"
 
 #include <QAction>
@@ -26,6 +29,7 @@ private slots:
     void piecesMakeTheSameText();
     void panelKeepsTheLastLines();
     void unsavedWorkRuns();
+    void programOfTheGameIsAskedAbout();
     void floodLeavesTheWindowAlive_data();
     void floodLeavesTheWindowAlive();
     void engineIsEnded();
@@ -36,7 +40,7 @@ private slots:
     void leftoversAreOffered();
 
 private:
-    void makeEngine(const QByteArray& script);
+    void makeEngine(const QByteArray& script, bool isAgreed = true);
     QString recorded(const char* name) const;
     OutputPanel* panel() const { return m_fixture->window->runCommands()->panel(); }
     QStringList copiesInGame() const;
@@ -55,14 +59,15 @@ void TestRunCommands::init()
     qputenv("XDG_DATA_HOME", m_dir->path().toLocal8Bit());
 }
 
-/// The game's own engine is a script.
-void TestRunCommands::makeEngine(const QByteArray& script)
+/// The game's own engine is a script, which the person trusts.
+void TestRunCommands::makeEngine(const QByteArray& script, bool isAgreed)
 {
     m_game->write("zorv-player", "#!/bin/sh\n" + script);
     QFile::setPermissions(m_game->path("zorv-player"),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_fixture = std::make_unique<WindowFixture>(m_dir->filePath("settings.ini"));
     m_fixture->open(*m_game, m_game->ryn());
+    QVERIFY(!isAgreed || agreeTo(Family::GameProgram(m_game->root()), m_fixture->settings));
 }
 
 QString TestRunCommands::recorded(const char* name) const
@@ -170,6 +175,34 @@ void TestRunCommands::unsavedWorkRuns()
     }
     QVERIFY(QGuiApplication::clipboard()->text().contains("trouble\n"));
     QVERIFY(panel()->text().isEmpty());
+}
+
+void TestRunCommands::programOfTheGameIsAskedAbout()
+{
+    makeEngine("echo >> \"$RECORD/runs\"\n", false);
+    PlannedDialogs& dialogs = m_fixture->dialogs;
+    const auto run = [&](PlannedDialogs::Button answer) {
+        dialogs.shown.clear();
+        dialogs.buttonAnswers = {answer};
+        m_fixture->action("run")->trigger();
+        return recorded("runs").size();
+    };
+    QCOMPARE(run(PlannedDialogs::No), 0);
+    QCOMPARE(dialogs.count(), 1);
+    QCOMPARE(int(dialogs.shown.first().defaultButton), int(PlannedDialogs::No));
+    QVERIFY(dialogs.texts("question").first().contains(m_game->path("zorv-player")));
+    // What the person has chosen is started in its place.
+    const QString mine = m_dir->filePath("mine");
+    QVERIFY(QFile::copy(m_game->path("zorv-player"), mine));
+    Family::FamilyEngineModel::instance()->setEngines({{"mine", mine, "%0", {}}});
+    QCOMPARE(run(PlannedDialogs::No), 1);
+    Family::FamilyEngineModel::instance()->setEngines({});
+    QCOMPARE(run(PlannedDialogs::Yes), 2);
+    QCOMPARE(run(PlannedDialogs::No), 3);
+    QCOMPARE(dialogs.count(), 0);
+    m_game->write("zorv-player", "#!/bin/sh\necho changed >> \"$RECORD/runs\"\n");
+    QCOMPARE(run(PlannedDialogs::No), 3);
+    QVERIFY(dialogs.texts("question").first().contains("changed"));
 }
 
 void TestRunCommands::floodLeavesTheWindowAlive_data()

@@ -13,6 +13,7 @@
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "family/project/gameprogram.h"
 #include "operations/backups.h"
 #include "operations/documentfile.h"
 #include "operations/sharedfiles.h"
@@ -136,7 +137,8 @@ QString GameCommands::askForPlace(bool* isFile) const
 {
     const FamilyParentProject* game = m_window->session()->game();
     const QList<FamilyProject*> projects = m_window->session()->projects();
-    *isFile = projects.size() == 1 && !game->isGame() && projects.first()->basePath().isEmpty();
+    *isFile = projects.size() == 1 && projects.first()->basePath().isEmpty() &&
+              !Family::GameProgram::isIn(game->absolutePath());
     const QString title = tr("Save all as");
     if (!*isFile) {
         const QString folder =

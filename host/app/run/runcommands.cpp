@@ -5,10 +5,15 @@
 #include "app/run/outputpanel.h"
 #include "core/dialogs/dialogs.h"
 #include "core/run/temporarycopies.h"
+#include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
+#include "family/project/gameprogram.h"
+#include "operations/agreements.h"
+#include "operations/hostinterface.h"
 
 #include <QDir>
 #include <QPointer>
+#include <QSettings>
 #include <QTimer>
 
 #include <utility>
@@ -32,6 +37,26 @@ QString namesOf(const QStringList& paths)
         names.append(RunCommands::tr("and %1 more").arg(paths.size() - MaxNames));
     }
     return names.join(QLatin1Char('\n'));
+}
+
+bool askToStart(const QString& program, Family::Agreement agreement, bool hasOthers)
+{
+    QStringList parts{
+        RunCommands::tr(
+            "The folder of this game has an engine of its own, which would be started:"),
+        program,
+        RunCommands::tr("A program can do everything that you can on this computer. Start it only "
+                        "if you trust whoever made it. You are asked again when it has changed.")};
+    if (agreement == Family::Agreement::Outdated) {
+        parts.insert(2, RunCommands::tr("It has changed since you last agreed to it."));
+    }
+    if (hasOthers) {
+        parts.append(RunCommands::tr("If you do not agree, an engine of the options is started."));
+    }
+    parts.append(RunCommands::tr("Start it?"));
+    return Dialogs::instance()->question(RunCommands::tr("Engine"),
+                                         parts.join(QLatin1String("\n\n")),
+                                         Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
 }
 
 }  // namespace
@@ -64,10 +89,17 @@ void RunCommands::run()
         return;
     }
     const QPointer<RunCommands> self = this;
+    Family::GameProgram program;
+    if (!game->isRunning() && (!settleProgram(&program) || !self || !game)) {
+        return;
+    }
     ++m_runs;
     emit stateChanged();
-    // Everything may have been closed when this comes back.
-    game->run();
+    {
+        const Family::NamedProgram named(program);
+        // Everything may have been closed when this comes back.
+        game->run();
+    }
     if (!self) {
         return;
     }
@@ -80,6 +112,31 @@ void RunCommands::run()
     if (m_runs == 0 && m_then) {
         QTimer::singleShot(0, this, std::exchange(m_then, nullptr));
     }
+}
+
+/// What the folder of the game brings along is only started if the person agrees to that. False if
+/// there is nothing else to be started.
+bool RunCommands::settleProgram(Family::GameProgram* program) const
+{
+    const Family::GameProgram found(m_window->session()->folder());
+    const auto* host = dynamic_cast<Family::HostInterface*>(Zorv::Interface::instance());
+    if (!found.isThere() || !host || !host->settings()) {
+        return true;
+    }
+    const QString shown = QDir::toNativeSeparators(found.path());
+    const bool hasOthers = Family::FamilyEngineModel::instance()->engineCount() > 0;
+    if (found.checksum().isEmpty()) {
+        Dialogs::instance()->warning(tr("Engine"),
+                                     tr("%1 cannot be read, so it is not started.").arg(shown));
+        return hasOthers;
+    }
+    const Family::Agreement agreement = agreementTo(found, *host->settings());
+    if (agreement == Family::Agreement::Given || askToStart(shown, agreement, hasOthers)) {
+        agreeTo(found, *host->settings());
+        *program = found;
+        return true;
+    }
+    return hasOthers;
 }
 
 void RunCommands::stop()

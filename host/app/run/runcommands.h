@@ -4,6 +4,10 @@
 
 #include <functional>
 
+namespace Family {
+class GameProgram;
+}
+
 namespace Zorv {
 struct RunResult;
 }
@@ -44,6 +48,7 @@ signals:
 
 private:
     void followGame();
+    bool settleProgram(Family::GameProgram* program) const;
     void tell(const Zorv::RunResult& result);
     void noteEnd(const Zorv::RunResult& result);
 

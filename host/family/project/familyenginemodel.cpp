@@ -33,7 +33,7 @@ QString FamilyEngineModel::identifier() const
 
 QString FamilyEngineModel::executableName() const
 {
-    return QStringLiteral("zorv-player");
+    return m_program.isThere() ? GameProgram::name() : QString();
 }
 
 QString FamilyEngineModel::displayName() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/enginemodel.h"
+#include "project/gameprogram.h"
 
 #include <QVector>
 
@@ -24,7 +25,8 @@ public:
     QString dataPath() const override;
     QString identifier() const override;
 
-    /// "zorv-player".
+    /// The name of the program that `setGameProgram()` has named; empty without one: what lies in
+    /// a game folder is nothing to be started by itself.
     QString executableName() const override;
     QString displayName() const override;
     int engineCount() const override;
@@ -43,7 +45,13 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     using QObject::parent;
 
+    /// The program of a game folder that may be started, for which the person was asked; one that
+    /// is not there for none, as at first.
+    void setGameProgram(const GameProgram& program) { m_program = program; }
+    const GameProgram& gameProgram() const { return m_program; }
+
 private:
+    GameProgram m_program;
     QVector<Zorv::EngineInfo> m_engines;
 };
 

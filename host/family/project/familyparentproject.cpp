@@ -1,16 +1,20 @@
 #include "project/familyparentproject.h"
 
+#include "core/dialogs/dialogs.h"
 #include "core/filesystemarchive.h"
 #include "familydocument.h"
 #include "grammar/filekind.h"
 #include "project/familyenginemodel.h"
 #include "project/filereference.h"
+#include "project/gameprogram.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QUuid>
 
+#include <algorithm>
 #include <memory>
 
 namespace Family {
@@ -21,6 +25,35 @@ constexpr int deepestFolder = 12;
 
 /// Folders whose folders are projects each.
 const QLatin1String projectFolders[] = {QLatin1String("characters"), QLatin1String("stages")};
+
+bool hasMainFile(const QString& folder)
+{
+    return QDirIterator(folder, mainFileFilters(), QDir::Files | QDir::NoSymLinks).hasNext();
+}
+
+/// True if projects lie where they are expected in it: by themselves or each in a folder.
+bool holdsProjects(const QString& folder)
+{
+    if (hasMainFile(folder)) {
+        return true;
+    }
+    QDirIterator folders(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    while (folders.hasNext()) {
+        if (hasMainFile(folders.next())) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// `below` is the folder in it that leads to what was asked for; empty for itself.
+bool isGameFolder(const QDir& folder, const QString& below)
+{
+    return std::any_of(
+        std::begin(projectFolders), std::end(projectFolders), [&](QLatin1String name) {
+            return below == name || (folder.exists(name) && holdsProjects(folder.filePath(name)));
+        });
+}
 
 /// Folders beside an engine that hold the copy of a project as long as it runs.
 bool isRunFolder(const QString& name)
@@ -123,6 +156,21 @@ bool FamilyParentProject::isProjectFolder(const QString& name, int depth)
     return depth < deepestFolder && !isBackup && !isRunFolder(name);
 }
 
+QString FamilyParentProject::folderOf(const QString& path)
+{
+    const QFileInfo given(path);
+    QDir folder(given.isDir() ? given.absoluteFilePath() : given.absolutePath());
+    const QString innermost = folder.absolutePath();
+    QString below;
+    while (!isGameFolder(folder, below)) {
+        below = folder.dirName();
+        if (!folder.cdUp()) {
+            return innermost;
+        }
+    }
+    return folder.absolutePath();
+}
+
 Zorv::EngineModel* FamilyParentProject::engineModel() const
 {
     return FamilyEngineModel::instance();
@@ -168,6 +216,20 @@ QString FamilyParentProject::runPath(int, const QString& name, bool* wholeFolder
 void FamilyParentProject::lastReferenceGone()
 {
     emit unused();
+}
+
+bool FamilyParentProject::mayStart(const QString& executable)
+{
+    const GameProgram agreed = FamilyEngineModel::instance()->gameProgram();
+    const bool isOwn = QFileInfo(executable) == QFileInfo(absolutePath() + GameProgram::name());
+    if (!agreed.isThere() || !isOwn || GameProgram(absolutePath()) == agreed) {
+        return true;
+    }
+    Zorv::Dialogs::instance()->error(
+        tr("Engine"), tr("'%1' has just been changed, so it was not started. Start it again if you "
+                         "know what has changed it.")
+                          .arg(QDir::toNativeSeparators(executable)));
+    return false;
 }
 
 }  // namespace Family

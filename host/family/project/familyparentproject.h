@@ -23,6 +23,11 @@ public:
     /// for those of the game folder itself.
     static bool isProjectFolder(const QString& name, int depth);
 
+    /// The game folder that a file or a folder belongs to, as an absolute path: the innermost one
+    /// around it, or the folder itself, whose "characters" or "stages" leads there or holds
+    /// projects. Without one it is the folder itself, or that of the file.
+    static QString folderOf(const QString& path);
+
     Zorv::EngineModel* engineModel() const override;
     void projectFiles(const QString& path, QStringList& files) override;
 
@@ -32,6 +37,10 @@ public:
     /// A folder beside the engine with a name that no other has, temporary as a whole.
     QString runPath(int kind, const QString& name, bool* wholeFolder) const override;
     void lastReferenceGone() override;
+
+    /// False, and told through `Dialogs`, for a program of the game folder that is not any more
+    /// what `FamilyEngineModel::gameProgram()` says.
+    bool mayStart(const QString& executable) override;
 
 signals:
     /// The last project has gone; the host may delete this object later.
