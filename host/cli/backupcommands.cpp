@@ -1,7 +1,9 @@
 #include "cli.h"
 #include "command.h"
+#include "family/check/check.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "family/project/unreachable.h"
 #include "jsonlist.h"
 #include "operations/backups.h"
 #include "output.h"
@@ -50,15 +52,21 @@ private:
     QList<Family::FamilyProject*> m_projects;
 };
 
-bool isFolder(const QString& path)
+/// The folder of the game that was named; empty, and told, if it is none.
+QString gameOf(const QString& path)
 {
     const QFileInfo info(path);
-    if (!info.exists()) {
+    const QString closed = Family::unreachable(path);
+    const QString folder =
+        closed.isEmpty() && info.exists() ? Family::checkedFolder(path) : QString();
+    if (!closed.isEmpty()) {
+        complain(closed);
+    } else if (!info.exists()) {
         complain(Text::tr("There is no folder '%1'.").arg(path));
-    } else if (!info.isDir()) {
+    } else if (folder.isEmpty()) {
         complain(Text::tr("'%1' is no folder. Name the folder of a game.").arg(path));
     }
-    return info.isDir();
+    return folder;
 }
 
 QString changeName(RestoredFile::Change change)
@@ -123,14 +131,14 @@ void writeJson(const QVector<Backup>& backups, Output& output)
 
 int backUp(const Invocation& invocation, Output& output)
 {
-    const QString folder = invocation.operands.first();
     const QString name = invocation.operands.value(1, Text::tr("Manual"));
     const QString fault = Family::backupNameFault(name);
     if (!fault.isEmpty()) {
         complain(fault);
         return WrongUsage;
     }
-    if (!isFolder(folder)) {
+    const QString folder = gameOf(invocation.operands.first());
+    if (folder.isEmpty()) {
         return NotDone;
     }
     ProgressHost host;
@@ -138,7 +146,7 @@ int backUp(const Invocation& invocation, Output& output)
     if (opened.isEmpty()) {
         complain(Text::tr("There is no character or stage in '%1'. Expected files such as "
                           "'characters/hero/hero.character'.")
-                     .arg(folder));
+                     .arg(invocation.operands.first()));
         return NotDone;
     }
     for (const QString& error : opened.errors()) {
@@ -154,8 +162,8 @@ int backUp(const Invocation& invocation, Output& output)
 
 int listBackups(const Invocation& invocation, Output& output)
 {
-    const QString folder = invocation.operands.first();
-    if (!isFolder(folder)) {
+    const QString folder = gameOf(invocation.operands.first());
+    if (folder.isEmpty()) {
         return NotDone;
     }
     const FamilyParentProject game(folder);
@@ -174,9 +182,9 @@ int listBackups(const Invocation& invocation, Output& output)
 
 int restore(const Invocation& invocation, Output& output)
 {
-    const QString folder = invocation.operands.first();
+    const QString folder = gameOf(invocation.operands.first());
     const QString backup = invocation.operands.at(1);
-    if (!isFolder(folder)) {
+    if (folder.isEmpty()) {
         return NotDone;
     }
     if (invocation.dryRun) {

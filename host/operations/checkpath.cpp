@@ -11,7 +11,7 @@ namespace Family {
 namespace {
 
 // What cannot be looked into may hold a project: it is not passed over.
-Problems closedFolders(const QString& folder)
+Problems closedFolders(const QString& folder, const QDir& game)
 {
     Problems problems;
     QDirIterator folders(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
@@ -23,7 +23,7 @@ Problems closedFolders(const QString& folder)
             Problem problem;
             problem.id = ProblemId::FileUnreadable;
             problem.level = problemInfo(problem.id).level;
-            problem.file = QDir(folder).relativeFilePath(path);
+            problem.file = game.relativeFilePath(path);
             problem.text = problemText(
                 problem.id,
                 {problem.file, QCoreApplication::translate("Family", "Permission denied")});
@@ -42,11 +42,11 @@ Problems checkPath(const QString& path, QString* error)
     if (folder.isEmpty()) {
         return problems;
     }
+    const QDir game(folder);
     if (error->isEmpty() && QFileInfo(path).isDir()) {
-        problems += closedFolders(folder);
+        problems += closedFolders(QFileInfo(path).absoluteFilePath(), game);
         sortProblems(&problems);
     }
-    const QDir game(folder);
     const bool isRelative = QDir::isRelativePath(path);
     for (Problem& problem : problems) {
         const QString file = QDir::cleanPath(game.absoluteFilePath(problem.file));

@@ -5,6 +5,7 @@
 #include "operations/documentfile.h"
 #include "project/familyparentproject.h"
 #include "project/filereference.h"
+#include "project/unreachable.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -85,13 +86,13 @@ void visitDocuments(const QString& path, const DocumentVisitor& visit, QStringLi
     const QStringList mainFiles =
         info.isDir() ? FamilyParentProject::mainFiles(path) : QStringList(info.absoluteFilePath());
     if (!info.exists()) {
-        errors->append(Text::tr("There is no file or folder '%1'.").arg(path));
+        errors->append(orUnreachable(Text::tr("There is no file or folder '%1'."), path));
         return;
     }
     if (mainFiles.isEmpty()) {
-        errors->append(Text::tr("There is no character or stage in '%1'. Expected files such as "
-                                "'characters/hero/hero.character'.")
-                           .arg(path));
+        errors->append(orUnreachable(Text::tr("There is no character or stage in '%1'. Expected "
+                                              "files such as 'characters/hero/hero.character'."),
+                                     path));
     }
     Walk walk(path, visit, errors);
     for (const QString& mainFile : mainFiles) {

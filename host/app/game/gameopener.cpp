@@ -9,6 +9,7 @@
 #include "app/unsavedwork.h"
 #include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
+#include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
 
 #include <QApplication>
@@ -18,6 +19,7 @@
 namespace App {
 
 using Family::FamilyDocument;
+using Family::FamilyParentProject;
 using Family::FamilyProject;
 
 namespace {
@@ -41,18 +43,16 @@ GameOpener::GameOpener(MainWindow* window) : QObject(window), m_window(window) {
 bool GameOpener::openPath(const QString& path)
 {
     const QFileInfo info(path);
-    if (!info.isFile()) {
+    if (!info.exists()) {
         return openFolder(path);
     }
-    // The folders of a game stand beside each other: the root is above them.
-    QDir root = info.absoluteDir();
-    for (QDir above = root; above.cdUp();) {
-        if (above.exists(QStringLiteral("characters")) || above.exists(QStringLiteral("stages"))) {
-            root = above;
-            break;
-        }
-    }
-    return openFolder(root.path()) && openFile(info.absoluteFilePath());
+    const QString root = FamilyParentProject::folderOf(path);
+    const bool isRoot = QFileInfo(root) == info;
+    const QStringList files = info.isFile() ? QStringList(info.absoluteFilePath())
+                              : isRoot      ? QStringList()
+                                            : FamilyParentProject::mainFiles(path);
+    // The folder of one project stands for it.
+    return openFolder(root) && (files.size() != 1 || openFile(files.first()));
 }
 
 bool GameOpener::openFolder(const QString& folder)

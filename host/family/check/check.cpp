@@ -9,9 +9,11 @@
 #include "project/familyparentproject.h"
 #include "project/familyproject.h"
 #include "project/unnamedprojects.h"
+#include "project/unreachable.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <memory>
@@ -26,29 +28,16 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Family)
 };
 
-/// The game that a main file is part of: the folder above "characters" or
-/// "stages", else its own.
-QString gameOf(const QFileInfo& mainFile)
-{
-    QDir folder = mainFile.absoluteDir();
-    QDir up = folder;
-    while (up.cdUp()) {
-        const QString name = QFileInfo(folder.absolutePath()).fileName();
-        if (name == QLatin1String("characters") || name == QLatin1String("stages")) {
-            return up.absolutePath();
-        }
-        folder = up;
-    }
-    return mainFile.absolutePath();
-}
-
 Problems checkMainFile(FamilyParentProject* game, const QString& mainFile)
 {
     QString error;
     FamilyProject* project = FamilyProject::open(game, mainFile, &error);
     if (!project) {
         const QString name = QDir(game->absolutePath()).relativeFilePath(mainFile);
-        return {problemAt(ProblemId::FileUnreadable, {name, error}, {{}, name, 1, 1, 0})};
+        // The problem has advice of its own.
+        QFile file(mainFile);
+        const QString reason = file.open(QIODevice::ReadOnly) ? error : file.errorString();
+        return {problemAt(ProblemId::FileUnreadable, {name, reason}, {{}, name, 1, 1, 0})};
     }
     const Problems problems = ProjectCheck(project).run();
     project->release();
@@ -148,32 +137,34 @@ Problems checkGame(const QString& gameFolder, QString* error)
     const QFileInfo given(gameFolder);
     error->clear();
     if (!given.exists()) {
-        *error = Text::tr("There is no file or folder '%1'.").arg(gameFolder);
+        *error = orUnreachable(Text::tr("There is no file or folder '%1'."), gameFolder);
         return {};
     }
     if (!given.isDir()) {
         return isMainFile(fileKindOf(gameFolder))
-                   ? checkMainFiles(gameOf(given), {given.absoluteFilePath()})
+                   ? checkMainFiles(checkedFolder(gameFolder), {given.absoluteFilePath()})
                    : checkSingleFile(gameFolder, error);
     }
     const QStringList mainFiles = FamilyParentProject::mainFiles(gameFolder);
-    const QStringList unnamed = unnamedProjects(gameFolder);
+    const QString game = checkedFolder(gameFolder);
+    QStringList unnamed = unnamedProjects(gameFolder);
+    for (QString& name : unnamed) {
+        name = QDir(game).relativeFilePath(given.absoluteFilePath() + QLatin1Char('/') + name);
+    }
     if (mainFiles.isEmpty() && unnamed.isEmpty()) {
-        *error = Text::tr("There is no character or stage in '%1'. Expected files such as "
-                          "'characters/hero/hero.character'.")
-                     .arg(gameFolder);
+        *error = orUnreachable(Text::tr("There is no character or stage in '%1'. Expected files "
+                                        "such as 'characters/hero/hero.character'."),
+                               gameFolder);
         return {};
     }
-    return checkMainFiles(gameFolder, mainFiles, unnamed);
+    return checkMainFiles(game, mainFiles, unnamed);
 }
 
 QString checkedFolder(const QString& path)
 {
-    const QFileInfo given(path);
-    if (given.isDir()) {
-        return given.absoluteFilePath();
-    }
-    return isMainFile(fileKindOf(path)) ? gameOf(given) : QString();
+    return QFileInfo(path).isDir() || isMainFile(fileKindOf(path))
+               ? FamilyParentProject::folderOf(path)
+               : QString();
 }
 
 }  // namespace Family

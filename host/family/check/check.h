@@ -20,14 +20,14 @@ Problems checkDocument(const FamilyDocument* document, const QString& file);
 Problems checkProject(const FamilyProject* project);
 
 /// All problems of a game folder, read from disk: every project below it.
-/// `gameFolder` can also be a main file, or a single file of code, sprites or sounds. Names are
-/// relative to the folder. `error` is set, and nothing given, if there is
+/// `gameFolder` can also be a folder in a game, a main file, or a single file of code, sprites or
+/// sounds. Names are relative to `checkedFolder()`. `error` is set, and nothing given, if there is
 /// nothing to check.
 Problems checkGame(const QString& gameFolder, QString* error);
 
 /// The folder to which the names in the problems of `checkGame(path)` are
-/// relative, as an absolute path: the game of a main file. Empty for a single
-/// code file, whose name is as it was given.
+/// relative, as an absolute path: the game of a folder or main file. Empty for a
+/// single code file, whose name is as it was given.
 QString checkedFolder(const QString& path);
 
 }  // namespace Family

@@ -12,6 +12,7 @@
 #include "operations/media/animationgif.h"
 #include "project/familyparentproject.h"
 #include "project/familyproject.h"
+#include "project/unreachable.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -43,7 +44,7 @@ OpenAnimation::OpenAnimation(const QString& path, const QString& name, const QSt
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        m_error = Text::tr("There is no file or folder '%1'.").arg(path);
+        m_error = orUnreachable(Text::tr("There is no file or folder '%1'."), path);
     } else if (!info.isDir() && !isMainFile(fileKindOf(path))) {
         findInFile(path, name, spriteFile, need);
     } else if (!spriteFile.isNull()) {
@@ -144,7 +145,7 @@ void OpenAnimation::findInProjects(const QStringList& mainFiles, const QString& 
                            "'%2': %3.")
                       .arg(name, m_path, found.join(QLatin1String(", ")));
     } else if (found.isEmpty() && mainFiles.isEmpty()) {
-        m_error = Text::tr("There is no character or stage in '%1'.").arg(m_path);
+        m_error = orUnreachable(Text::tr("There is no character or stage in '%1'."), m_path);
     } else if (found.isEmpty()) {
         m_error = m_identifiers.isEmpty() && !unreadable.isEmpty()
                       ? unreadable
