@@ -48,6 +48,10 @@ bool OutputFiles::plan(const QStringList& names, const OutputRequest& request,
     m_suffix = QString::fromLatin1(request.format.isEmpty() ? format : request.format).toLower();
     m_pattern =
         !place.isEmpty() && isFolder(place) ? QDir(place).filePath(QStringLiteral("*")) : place;
+    if (m_pattern.contains(QLatin1String("../"))) {
+        // The way out of a folder that is not there yet, but will be.
+        m_pattern = QDir::cleanPath(m_pattern);
+    }
     if (!place.isEmpty() && !m_pattern.contains(QLatin1Char('*')) && names.size() > 1) {
         const QString pattern =
             QFileInfo(place).dir().filePath(QLatin1String("*.") + suffixOf(place));
