@@ -6,6 +6,7 @@
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "family/project/filereference.h"
 #include "family/project/unnamedprojects.h"
 #include "operations/sharedfiles.h"
 
@@ -273,6 +274,13 @@ QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QStr
     QVector<RestoredFile> result;
     for (const QString& file : qAsConst(files)) {
         const QString present = game.absolutePath() + file;
+        if (!staysInside(game.absolutePath(), present)) {
+            *error = Text::tr("Nothing is restored: %1 would be written outside of the game, to "
+                              "which a link leads. Remove the link, or put a folder or file in its "
+                              "place.")
+                         .arg(QDir::toNativeSeparators(present));
+            return {};
+        }
         const bool isThere = QFileInfo::exists(present);
         const bool same = isThere && isSame(folderOf(game, folder) + file, present);
         result.append({file, !isThere ? RestoredFile::New

@@ -46,6 +46,7 @@ private slots:
     void undoesAcrossSaving();
     void leavesAloneWhatItCannotRead();
     void writesAsPngWhatAFormatWouldLose();
+    void writesThroughNoLink();
 
 private:
     QString path(const char* name) const { return m_folder->filePath(QString::fromLatin1(name)); }
@@ -184,6 +185,23 @@ void TestSpriteFolder::writesAsPngWhatAFormatWouldLose()
         QCOMPARE(again.sprite(row)->image(), shades(4, 7));
     }
     QVERIFY(!QFile::exists(path("a.pcx")));
+}
+
+// A link in a folder from somebody else can lead to any file of the person.
+void TestSpriteFolder::writesThroughNoLink()
+{
+    for (const char* link : {"sprites.txt", "0_1.png"}) {
+        init();
+        QTemporaryDir outside;
+        QFile::remove(path(link));
+        QVERIFY(QFile::link(outside.filePath("target"), path(link)));
+        SpriteFolder sprites;
+        QVERIFY(sprites.fromFile(disk(), m_folder->path(), false));
+        sprites.sprite(sprites.rowCount() - 1)->duplicate();
+        QVERIFY(!sprites.toFile(disk(), m_folder->path(), false));
+        QVERIFY2(sprites.errorString().contains(link), qPrintable(sprites.errorString()));
+        QVERIFY(QDir(outside.path()).isEmpty());
+    }
 }
 
 QTEST_GUILESS_MAIN(TestSpriteFolder)

@@ -5,6 +5,7 @@
 #include "assets/remapmodel.h"
 #include "core/archive.h"
 #include "media/imagefile.h"
+#include "project/unreachable.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -40,6 +41,13 @@ const PaletteColors ownColors(const FamilySprite* sprite)
 bool writeFile(Zorv::Archive& archive, const QString& fileName,
                const std::function<bool(QIODevice*)>& write, QString* error)
 {
+    // Links in the folder are not read, and what one leads to is none of its images.
+    if (QFileInfo(fileName).isSymLink()) {
+        *error = SpriteFolder::tr("Cannot write %1: it is a link. Remove it, or put a file in its "
+                                  "place.")
+                     .arg(QDir::toNativeSeparators(fileName));
+        return false;
+    }
     QIODevice* device = archive.openFile(fileName, QIODevice::WriteOnly, error);
     if (!device) {
         return false;
@@ -67,6 +75,11 @@ bool SpriteFolder::fromFile(Zorv::Archive& archive, const QString& fileName, boo
     if (!QFileInfo(fileName).isDir()) {
         setErrorString(tr("Cannot read %1: it is no folder. Choose a folder of images.")
                            .arg(QDir::toNativeSeparators(fileName)));
+        return false;
+    }
+    const QString closed = unreachable(fileName);
+    if (!closed.isEmpty()) {
+        setErrorString(closed);
         return false;
     }
     Content content;

@@ -53,12 +53,20 @@ void collect(const GroupNode* group, QVector<FileReference>* list)
     }
 }
 
+constexpr int MostLinks = 40;
+
 /// The path without "." and "..", and with links followed as far as it exists.
 QString resolved(const QString& path)
 {
     QString existing = QDir::cleanPath(path);
     QString rest;
+    int links = 0;
     while (!QFileInfo::exists(existing)) {
+        // A file that is written to a link comes to be where that leads.
+        if (QFileInfo(existing).isSymLink() && ++links <= MostLinks) {
+            existing = QDir::cleanPath(QFileInfo(existing).symLinkTarget());
+            continue;
+        }
         const QString up = QFileInfo(existing).path();
         if (up == existing) {
             break;
@@ -131,11 +139,16 @@ PathFault pathFault(const QString& gameFolder, const QString& mainFile, const QS
     if (target == resolved(QFileInfo(mainFile).absoluteFilePath())) {
         return PathFault::NamesItself;
     }
+    return staysInside(gameFolder, target) ? PathFault::Fine : PathFault::LeavesGame;
+}
+
+bool staysInside(const QString& gameFolder, const QString& path)
+{
     QString root = resolved(QFileInfo(gameFolder).absoluteFilePath());
     if (!root.endsWith(QLatin1Char('/'))) {
         root += QLatin1Char('/');
     }
-    return target.startsWith(root) ? PathFault::Fine : PathFault::LeavesGame;
+    return resolved(path).startsWith(root);
 }
 
 }  // namespace Family

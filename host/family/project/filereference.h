@@ -47,4 +47,7 @@ enum class PathFault { Fine, Empty, LeavesGame, NamesItself };
 /// Looks at the path that the file `mainFile` names. `gameFolder` is the root of the game.
 PathFault pathFault(const QString& gameFolder, const QString& mainFile, const QString& path);
 
+/// True if what is written to `path` comes to lie in the game folder, with all links followed.
+bool staysInside(const QString& gameFolder, const QString& path);
+
 }  // namespace Family
