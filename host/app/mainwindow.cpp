@@ -22,6 +22,7 @@
 #include "app/game/gameopener.h"
 #include "app/gamesession.h"
 #include "app/gametree.h"
+#include "app/look/plaintexts.h"
 #include "app/messagepanel.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
@@ -72,6 +73,7 @@ MainWindow::MainWindow(QWidget* parent)
       m_actions(new WindowActions(this)), m_controls(new ControlPlacer(this, m_actions))
 {
     new ShortcutGuard(this, registry());
+    new PlainTexts(this);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setEnabled(false);
     m_centre->addWidget(m_hint);

@@ -8,8 +8,10 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTextBlock>
 #include <QToolTip>
 
@@ -31,6 +33,7 @@ private slots:
     void keepsTheCurrentMessage();
     void followsTheCursor();
     void jumpsToANode();
+    void showsMarkupOfAGameAsText();
     void jumpsToAnAnimation();
     void changesAnimations_data();
     void changesAnimations();
@@ -185,6 +188,27 @@ void tst_WindowPanels::jumpsToANode()
     panel->setCurrentIndex(frame);
     QTest::keyClick(panel, Qt::Key_Return);
     QCOMPARE(m->place().line, 9);
+}
+
+void tst_WindowPanels::showsMarkupOfAGameAsText()
+{
+    m->open(*m_game, m_game->ryn());
+    m->edit()->textCursor().insertText("[info]\nname = \"<img src='/dev/tty'> <b>x\"\n");
+    QTreeView* tree = m->tree();
+    const auto value = [this] { return nodes()->index(0, 0, nodes()->index(0, 0)); };
+    QTRY_VERIFY(value().data().toString().contains("<img"));
+    tree->expandAll();
+    const QPoint place = tree->visualRect(value()).center();
+    QHelpEvent help(QEvent::ToolTip, place, tree->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(tree->viewport(), &help);
+    QVERIFY(QToolTip::text().contains("&lt;img"));
+    QVERIFY(!QToolTip::text().contains("<img"));
+    QToolTip::hideText();
+    const QList<QLabel*> labels = window()->statusBar()->findChildren<QLabel*>();
+    QVERIFY(!labels.isEmpty());
+    for (const QLabel* label : labels) {
+        QVERIFY(!label->isVisible() || label->textFormat() == Qt::PlainText);
+    }
 }
 
 void tst_WindowPanels::jumpsToAnAnimation()
