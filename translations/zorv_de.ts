@@ -1300,6 +1300,30 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>These could not be removed:</source>
         <translation>Diese konnten nicht entfernt werden:</translation>
     </message>
+    <message>
+        <source>The folder of this game has an engine of its own, which would be started:</source>
+        <translation>Der Ordner dieses Spiels hat eine eigene Engine, die gestartet würde:</translation>
+    </message>
+    <message>
+        <source>A program can do everything that you can on this computer. Start it only if you trust whoever made it. You are asked again when it has changed.</source>
+        <translation>Ein Programm kann alles, was Sie auf diesem Rechner können. Starten Sie es nur, wenn Sie dem vertrauen, der es gemacht hat. Sie werden wieder gefragt, wenn es sich geändert hat.</translation>
+    </message>
+    <message>
+        <source>It has changed since you last agreed to it.</source>
+        <translation>Es hat sich geändert, seit Sie ihm zuletzt zugestimmt haben.</translation>
+    </message>
+    <message>
+        <source>If you do not agree, an engine of the options is started.</source>
+        <translation>Wenn Sie nicht zustimmen, wird eine Engine der Optionen gestartet.</translation>
+    </message>
+    <message>
+        <source>Start it?</source>
+        <translation>Starten?</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read, so it is not started.</source>
+        <translation>%1 kann nicht gelesen werden und wird darum nicht gestartet.</translation>
+    </message>
 </context>
 <context>
     <name>App::Screenshot</name>
@@ -2738,6 +2762,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>The name of &apos;%1&apos; is no text in UTF-8, so nothing of it can be read. Give it another name.</source>
         <translation>Der Name von &apos;%1&apos; ist kein Text in UTF-8; deshalb lässt sich nichts davon lesen. Bitte einen anderen Namen geben.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; cannot be read: %2. Check the permissions of the folders on the way.</source>
+        <translation>&apos;%1&apos; kann nicht gelesen werden: %2. Prüfen Sie die Rechte der Ordner auf dem Weg.</translation>
+    </message>
 </context>
 <context>
     <name>Family::AbandonedTexts</name>
@@ -2895,6 +2923,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>There is no backup, for it would not be complete. Check that there is space on the disk and that all files may be read, then try again.</source>
         <translation>Es wurde keine Sicherung angelegt, denn sie wäre nicht vollständig. Bitte prüfen, ob auf dem Datenträger Platz ist und alle Dateien gelesen werden dürfen, und es dann erneut versuchen.</translation>
     </message>
+    <message>
+        <source>Nothing is restored: %1 lies behind a link that leads out of the game. Remove the link, or put a folder or file in its place.</source>
+        <translation>Nichts wird wiederhergestellt: %1 liegt hinter einem Link, der aus dem Spiel herausführt. Entfernen Sie den Link, oder legen Sie einen Ordner oder eine Datei an seine Stelle.</translation>
+    </message>
 </context>
 <context>
     <name>Family::DiffPicture</name>
@@ -2990,6 +3022,17 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Zorv reference family</source>
         <translation>Zorv-Referenzfamilie</translation>
+    </message>
+</context>
+<context>
+    <name>Family::FamilyParentProject</name>
+    <message>
+        <source>Engine</source>
+        <translation>Engine</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has just been changed, so it was not started. Start it again if you know what has changed it.</source>
+        <translation>&apos;%1&apos; ist gerade geändert worden und wurde darum nicht gestartet. Starten Sie noch einmal, wenn Sie wissen, was es geändert hat.</translation>
     </message>
 </context>
 <context>
@@ -3678,6 +3721,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Cannot write the sprite %1: its pixels are broken. Remove it, or give it another image.</source>
         <translation>Das Sprite %1 kann nicht geschrieben werden: Seine Pixel sind beschädigt. Entfernen Sie es oder geben Sie ihm ein anderes Bild.</translation>
+    </message>
+    <message>
+        <source>Cannot write %1: it is a link. Remove it, or put a file in its place.</source>
+        <translation>%1 kann nicht geschrieben werden: Es ist ein Link. Entfernen Sie ihn, oder legen Sie eine Datei an seine Stelle.</translation>
     </message>
 </context>
 <context>

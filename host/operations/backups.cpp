@@ -275,10 +275,10 @@ QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QStr
     for (const QString& file : qAsConst(files)) {
         const QString present = game.absolutePath() + file;
         if (!staysInside(game.absolutePath(), present)) {
-            *error = Text::tr("Nothing is restored: %1 would be written outside of the game, to "
-                              "which a link leads. Remove the link, or put a folder or file in its "
-                              "place.")
-                         .arg(QDir::toNativeSeparators(present));
+            *error =
+                Text::tr("Nothing is restored: %1 lies behind a link that leads out of the game. "
+                         "Remove the link, or put a folder or file in its place.")
+                    .arg(QDir::toNativeSeparators(present));
             return {};
         }
         const bool isThere = QFileInfo::exists(present);

@@ -468,7 +468,9 @@ void TestFamilyProject::assetsMoveWithTheProject()
     const QByteArray sprites = readFile(game.hero("hero.sprites"));
     QTemporaryDir target;
     TestInterface host;
+    FamilyEngineModel::instance()->setGameProgram(GameProgram(game.path("")));
     parent.saveAs(target.path());
+    FamilyEngineModel::instance()->setGameProgram({});
     const QString moved = target.path() + QStringLiteral("/characters/hero/");
     QCOMPARE(QDir::cleanPath(project->sprites()->fileName()),
              moved + QStringLiteral("hero.sprites"));
@@ -521,6 +523,7 @@ void TestFamilyProject::runBesideTheGame()
     writeFile(player, "#!/bin/sh\necho \"$@\"; cat \"${2%/*}/moves.code\" "
                       "\"${2%/*}/../../shared/common.code\"; exec sleep 1000\n");
     QFile::setPermissions(player, QFile::ReadOwner | QFile::ExeOwner);
+    FamilyEngineModel::instance()->setGameProgram(GameProgram(game.path("")));
     TestInterface host;
     FamilyParentProject parent(game.path(""));
     FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
@@ -542,6 +545,7 @@ void TestFamilyProject::runBesideTheGame()
         }
     });
     parent.run();
+    FamilyEngineModel::instance()->setGameProgram({});
     QCOMPARE(int(parent.runResult().outcome), int(Zorv::RunResult::Stopped));
     QVERIFY(QRegularExpression("^--character zorvs_0-[-0-9a-f]{36}/characters/hero/zorvs_0\n")
                 .match(QString::fromUtf8(output))
