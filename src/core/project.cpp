@@ -1,6 +1,7 @@
 #include "core/project.h"
 
 #include "code/codedoc/codedocument.h"
+#include "code/codedoc/codedocumenteditor.h"
 #include "core/archive.h"
 #include "core/interface.h"
 #include "core/parentproject.h"
@@ -15,6 +16,19 @@
 #include <algorithm>
 
 namespace Zorv {
+
+namespace {
+
+/// Who releases an editor takes it off its document, which would do so again.
+void leaveDocument(ProjectFile* file)
+{
+    auto* editor = dynamic_cast<CodeDocumentEditor*>(file);
+    if (editor && editor->document()) {
+        editor->document()->removeDocumentEditor(editor);
+    }
+}
+
+}  // namespace
 
 Project::Project(ParentProject* parent, CodeDocument* mainDocument, FileID id)
     : m_kind(mainDocument->projectKind()), d(std::make_unique<ProjectPrivate>(this, parent)),
@@ -34,8 +48,8 @@ Project::~Project()
     }
 }
 
-// A host may delete the project in the release of its main document, and a
-// document may release an editor that is a file of the project too.
+// A host may delete the project in the release of its main document. That would
+// release its editors as well, so those that are files of the project leave it.
 void Project::release()
 {
     const QPointer<Project> self(this);
@@ -44,6 +58,7 @@ void Project::release()
     }
     d->parent->d->release(this);
     const QList<ProjectFile*> all = files();
+    std::for_each(all.begin(), all.end(), leaveDocument);
     for (auto it = all.crbegin(); it != all.crend(); ++it) {
         if (!self || d->fileIDs.contains(*it)) {
             (*it)->release();
@@ -121,6 +136,7 @@ void Project::forgetFile(ProjectFile* file)
 
 void Project::removeFile(ProjectFile* file)
 {
+    leaveDocument(file);
     takeFile(file)->release();
 }
 
@@ -134,6 +150,7 @@ void Project::removeFile(FileID::Type type, unsigned index)
     const quint32 bits = d->fileIDs.value(file);
     if (bits == type) {
         d->fileIDs.remove(file);
+        leaveDocument(file);
         file->release();
     } else if (bits != 0) {
         d->fileIDs[file] = bits & ~quint32(type);

@@ -7,10 +7,12 @@
 #include "support/testproject.h"
 
 #include <QDirIterator>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 
 using namespace Zorv;
@@ -27,6 +29,51 @@ public:
     void release() override { ++released; }
     int released = 0;
 };
+
+/// Memory for objects of a test, in an order that the test chooses.
+struct Slots
+{
+    static constexpr std::size_t Size = 1024;
+    static int next;
+
+    static void* take(std::size_t size)
+    {
+        alignas(std::max_align_t) static char memory[3][Size];
+        return size <= Size ? memory[next] : nullptr;
+    }
+};
+
+int Slots::next = 0;
+
+class PlacedDocument : public GrammarDocument
+{
+public:
+    using GrammarDocument::GrammarDocument;
+    ~PlacedDocument() override { delete diesWith; }
+    static void* operator new(std::size_t size) { return Slots::take(size); }
+    static void operator delete(void*) {}
+
+    Project* diesWith = nullptr;
+};
+
+class PlacedEditor : public TestAnimations
+{
+public:
+    using TestAnimations::TestAnimations;
+    void release() override
+    {
+        ++released;
+        TestAnimations::release();
+    }
+    static void* operator new(std::size_t size) { return Slots::take(size); }
+    static void operator delete(void*) {}
+
+    static int released;
+};
+
+int PlacedEditor::released = 0;
+
+enum End { ProjectGoes, DocumentGoes, FilesAreRemoved, ProjectDiesWithin };
 
 /// The files below a folder with their content, as "name=content", sorted.
 QStringList contents(const QString& folder)
@@ -63,7 +110,9 @@ private slots:
     void releaseGivesEverythingUp();
     void projectDiesBeforeItsFiles();
     void filesLeaveTheirProject();
+    void editorThatIsAFileToo_data();
     void editorThatIsAFileToo();
+    void editorOutlivesItsDocument();
 
     void copyOfUnmodifiedProject();
     void copyWritesWhatIsModified();
@@ -305,25 +354,79 @@ void TestProjects::filesLeaveTheirProject()
     QVERIFY(second.files().isEmpty());
 }
 
-/// A document releases its editors when it is released itself.
+void TestProjects::editorThatIsAFileToo_data()
+{
+    QTest::addColumn<QVector<int>>("order");
+    QTest::addColumn<int>("end");
+    QVector<int> order{0, 1, 2};
+    do {
+        const QByteArray name = QByteArray::number(order[0] * 100 + order[1] * 10 + order[2]);
+        QTest::addRow("%s, project goes", name.data()) << order << int(ProjectGoes);
+        QTest::addRow("%s, document goes", name.data()) << order << int(DocumentGoes);
+        QTest::addRow("%s, files are removed", name.data()) << order << int(FilesAreRemoved);
+        QTest::addRow("%s, project dies within", name.data()) << order << int(ProjectDiesWithin);
+    } while (std::next_permutation(order.begin(), order.end()));
+}
+
+/// Wherever document and editors stand in the project, which goes through its files by their
+/// addresses, and under however many kinds of nodes: each is released once.
 void TestProjects::editorThatIsAFileToo()
 {
-    for (const bool isFileOfProject : {false, true}) {
-        auto* main = new GrammarDocument(QStringLiteral("!a\n"));
-        TestProject project(m_parent.get(), main);
-        auto* animations = new TestAnimations(main);
-        const QPointer<QObject> list(static_cast<QObject*>(animations));
-        main->registerDocumentEditor(animations, CodeNode::Animation, 0);
-        project.setOption("key", 5, false);
-        QCOMPARE(animations->option("key"), QVariant(5));
-        if (isFileOfProject) {
-            project.addFile(animations, FileID::Animations);
-        }
-        main->release();
-        QVERIFY(list.isNull());
-        QVERIFY(project.files().isEmpty());
-        project.release();
+    QFETCH(QVector<int>, order);
+    QFETCH(int, end);
+    PlacedEditor::released = 0;
+    Slots::next = order.at(0);
+    auto* main = new PlacedDocument(QStringLiteral("!a\n[1]\n"));
+    const QPointer<QObject> document(main);
+    auto* project = new TestProject(m_parent.get(), main);
+    project->setOption("key", 5, false);
+    for (int i = 0; i < 2; ++i) {
+        Slots::next = order.at(i + 1);
+        auto* editor = new PlacedEditor(main);
+        main->registerDocumentEditor(editor, i ? CodeNode::Group : CodeNode::Animation, 0);
+        main->registerDocumentEditor(editor, CodeNode::Group, 5u + unsigned(i));
+        project->addFile(editor, FileID::Animations);
+        QCOMPARE(editor->option("key"), QVariant(5));
     }
+    switch (end) {
+    case DocumentGoes:
+        main->release();
+        QVERIFY(project->files().isEmpty());
+        break;
+    case FilesAreRemoved:
+        project->removeFile(project->filesByType(FileID::Animations).first());
+        project->removeFile(FileID::Animations, 0);
+        QVERIFY(!main->documentEditor(CodeNode::Animation, 0));
+        QVERIFY(!main->documentEditor(CodeNode::Group, 6));
+        break;
+    case ProjectDiesWithin:
+        main->diesWith = project;
+        break;
+    default:
+        break;
+    }
+    const QPointer<Project> rest(project);
+    project->release();
+    QCOMPARE(PlacedEditor::released, 2);
+    QVERIFY(document.isNull());
+    delete rest;
+}
+
+/// An editor that is not registered any more can outlive its document.
+void TestProjects::editorOutlivesItsDocument()
+{
+    auto* main = new GrammarDocument(QStringLiteral("!a\n"));
+    TestAnimations editor(main);
+    main->registerDocumentEditor(&editor, CodeNode::Animation, 0);
+    main->reparse();
+    QCOMPARE(editor.count(), 1);
+    main->unregisterDocumentEditor(&editor);
+    main->release();
+    QCOMPARE(editor.count(), 0);
+    QVERIFY(editor.isEmpty() && !editor.canSave() && !editor.isModified());
+    QVERIFY(!editor.project() && editor.messages() && editor.fileName().isEmpty());
+    QVERIFY(!editor.add(QStringLiteral("b")));
+    editor.autoOrganize();
 }
 
 void TestProjects::copyOfUnmodifiedProject()

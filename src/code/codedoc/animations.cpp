@@ -57,6 +57,11 @@ private:
 Animations::Animations(CodeDocument* document)
     : CodeDocumentEditor(document), d(std::make_unique<AnimationsPrivate>())
 {
+    connect(document, &CodeDocument::closing, this, [this] {
+        beginResetModel();
+        d->list.clear();
+        endResetModel();
+    });
 }
 
 Animations::~Animations() = default;
@@ -103,6 +108,9 @@ AnimationCode* Animations::insert(unsigned index, const QString& identifier)
 
 AnimationCode* Animations::add(const QString& identifier)
 {
+    if (!document()) {
+        return nullptr;
+    }
     document()->insert(animationTemplate().arg(identifier));
     return d->list.isEmpty() ? nullptr : d->list.last();
 }
@@ -172,12 +180,16 @@ void Animations::autoOrganize()
 
 void Animations::beginChange(const QString& title)
 {
-    document()->beginChange(title);
+    if (document()) {
+        document()->beginChange(title);
+    }
 }
 
 void Animations::endChange()
 {
-    document()->endChange();
+    if (document()) {
+        document()->endChange();
+    }
 }
 
 int Animations::rowCount(const QModelIndex& parent) const
@@ -211,6 +223,10 @@ void Animations::removeChild(CodeNode* child)
 {
     const int row = d->list.indexOf(static_cast<AnimationCode*>(child));
     if (row < 0) {
+        return;
+    }
+    if (d->moving) {
+        d->list.removeAt(row);
         return;
     }
     beginRemoveRows({}, row, row);

@@ -15,7 +15,8 @@ class AnimationsPrivate;
 /// All animations of a document as a list that can be rearranged.
 ///
 /// Every operation is an edit of the text; the rows follow by parsing. The host
-/// registers it for `CodeNode::Animation`. Main thread only.
+/// registers it for `CodeNode::Animation`. It is empty when its document dies.
+/// Main thread only.
 class ZORV_EXPORT Animations : public OrganizableObject, public CodeDocumentEditor
 {
     Q_OBJECT
@@ -49,8 +50,11 @@ public:
     AnimationCode* add(const QString& identifier);
 
     /// Writes a copy behind an animation, with another identifier unless that
-    /// is empty; the old one is replaced without regard to case. Inside a
-    /// change the nodes come when it ends.
+    /// is empty: wherever the trimmed template, filled with the old identifier,
+    /// stands in the copy, without regard to case, it is filled with the new one.
+    /// A template of several lines never does, for the lines of the copy are
+    /// divided by U+2029: the copy then keeps the old identifier, and a host that
+    /// wants another writes it itself. Inside a change the nodes come when it ends.
     void duplicate(unsigned index, const QString& identifier);
 
     /// Takes an animation with all its lines out of the text.

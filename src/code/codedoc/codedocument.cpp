@@ -4,6 +4,7 @@
 #include "code/codedoc/codedocument_p.h"
 #include "code/codedoc/codedocumenteditor.h"
 #include "core/messages.h"
+#include "core/project.h"
 
 #include <QFont>
 #include <QPlainTextDocumentLayout>
@@ -48,6 +49,9 @@ CodeDocument::~CodeDocument()
     }
     d->editors.clear();
     for (CodeDocumentEditor* editor : editors) {
+        if (Project* project = editor->ProjectFile::project()) {
+            project->takeFile(editor);
+        }
         editor->release();
     }
     d->parser = nullptr;
@@ -166,6 +170,13 @@ void CodeDocument::unregisterDocumentEditor(CodeDocumentEditor* editor)
     const auto found = std::find(d->editors.begin(), d->editors.end(), editor);
     if (found != d->editors.end()) {
         d->editors.erase(found);
+    }
+}
+
+void CodeDocument::removeDocumentEditor(CodeDocumentEditor* editor)
+{
+    for (auto entry = d->editors.begin(); entry != d->editors.end();) {
+        entry = *entry == editor ? d->editors.erase(entry) : std::next(entry);
     }
 }
 

@@ -30,6 +30,12 @@ class EditorData;
 /// and redo, tree, messages and folding are those that a fresh parse would
 /// give, and only the lines that an edit concerns are parsed again.
 ///
+/// Two settings switch it on, of the document, its project or the host, and are
+/// off where nobody gives them. Without "parseCode" no group is enabled, not even
+/// 0, so that a grammar that asks makes no nodes and reports nothing, and edits by
+/// the tree are not parsed at once. Without "highlightCode" the grammar makes
+/// nodes and reports nothing.
+///
 /// The host derives from it and overrides `release()`, which serves both as
 /// that of a node and of a file: the first call runs `destroy()`, the nested
 /// one disposes of the object. A document works without a project. Main thread
@@ -143,9 +149,14 @@ public:
 
     /// @name Edits by the tree
     /// @{
-    /// Opens and closes a step of undo; the nodes of what is inserted are there
-    /// at once, colours and messages when the outermost frame closes. Undo brings
-    /// the cursor of a view to the first edit. The title is ignored.
+    /// Opens and closes a step of undo. With "parseCode", chain and tree follow
+    /// each of the operations below at once, colours and messages when the
+    /// outermost frame closes. Undo brings the cursor of a view to the first edit.
+    /// The title is ignored.
+    ///
+    /// An edit by a `QTextCursor` alone is not seen before that: until then its
+    /// lines keep the nodes of their old text or have none, and nodes of lines that
+    /// it deleted have no line (`CodeNode::hasLine()`).
     void beginChange(const QString& title) override;
     void endChange() override;
 
@@ -216,11 +227,15 @@ public:
 
     /// Replaces the editor that was registered for the same before. One that is
     /// replaced or unregistered hears of nothing any more and keeps what it
-    /// had: release it. The document releases those that are left when it dies.
+    /// had: release it. The document releases those that are left when it dies,
+    /// once each, and takes them off their projects before.
     void registerDocumentEditor(CodeDocumentEditor* editor, CodeNode::Type type, unsigned group);
 
     /// Removes the first entry of the editor; one call for each registration.
     void unregisterDocumentEditor(CodeDocumentEditor* editor);
+
+    /// Removes every entry of the editor, as it does by itself when it dies.
+    void removeDocumentEditor(CodeDocumentEditor* editor);
 
     /// What an editor keeps with this document; null if it has kept nothing.
     /// The document owns it.

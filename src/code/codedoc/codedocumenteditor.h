@@ -3,6 +3,8 @@
 #include "core/projectfile.h"
 #include "zorv_export.h"
 
+#include <QPointer>
+
 namespace Zorv {
 
 class CodeDocument;
@@ -11,15 +13,21 @@ class CodeNode;
 /// A file of a project that is a view on part of a code document.
 ///
 /// Name, messages, state and history are those of the document. Registered with
-/// `CodeDocument::registerDocumentEditor()` it hears of the nodes of its kind;
-/// the document releases it when it dies.
+/// `CodeDocument::registerDocumentEditor()` it hears of the nodes of its kind.
+///
+/// It is released once: by its project, if it is a file of one that is released
+/// or gives the file up, else by its document when that dies. A dying editor
+/// takes itself off both. One that outlives its document is an empty file that
+/// can neither be read nor written.
 class ZORV_EXPORT CodeDocumentEditor : public ProjectFile
 {
 public:
     /// The document is not owned.
     explicit CodeDocumentEditor(CodeDocument* document);
+    ~CodeDocumentEditor() override;
 
-    CodeDocument* document() const { return m_document; }
+    /// Null when the document has died.
+    CodeDocument* document() const;
 
     Project* project() const override;
     Messages* messages() const override;
@@ -48,7 +56,7 @@ public:
     virtual void childChanged(CodeNode* child);
 
 private:
-    CodeDocument* m_document;
+    QPointer<CodeDocument> m_document;
 };
 
 }  // namespace Zorv
