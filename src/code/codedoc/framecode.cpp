@@ -37,6 +37,69 @@ int FrameCode::firstLine() const
     return (before ? before->lastLine() : parentCode()->CodeNode::lastLine()) + 1;
 }
 
+QVariant FrameCode::identifier() const
+{
+    return {};
+}
+
+int FrameCode::spriteGroup() const
+{
+    return -1;
+}
+
+int FrameCode::spriteNumber() const
+{
+    return -1;
+}
+
+QPoint FrameCode::offset() const
+{
+    return {};
+}
+
+int FrameCode::delay() const
+{
+    return 1;
+}
+
+QPointF FrameCode::scale() const
+{
+    return {1, 1};
+}
+
+double FrameCode::angle() const
+{
+    return 0;
+}
+
+FrameCode::Flip FrameCode::flip() const
+{
+    return NoFlip;
+}
+
+bool FrameCode::isLoopPoint() const
+{
+    return false;
+}
+
+void FrameCode::setIdentifier(const QVariant&) {}
+
+void FrameCode::setSprite(int, int) {}
+
+void FrameCode::setOffset(const QPoint&) {}
+
+void FrameCode::setDelay(int) {}
+
+void FrameCode::setScale(const QPointF&) {}
+
+void FrameCode::setAngle(double) {}
+
+void FrameCode::setFlip(Flip) {}
+
+void FrameCode::setLoopPoint(bool) {}
+
+void FrameCode::boxesChanged() {}
+
 ContactBoxesCode* FrameCode::contactBoxes(ContactBoxCode::BoxType type) const
 {
     return type & 1 ? m_first : m_second;
