@@ -1,3 +1,5 @@
+#include "support/documentdump.h"
+#include "support/laddergrammar.h"
 #include "support/randomtext.h"
 #include "support/testgrammar.h"
 
@@ -9,79 +11,148 @@
 #include <QTextCursor>
 #include <QtTest>
 
+#include <memory>
+
+using namespace Zorv;
+
 namespace {
 
 constexpr quint32 Seed = 20260711;
 
-const RandomText Text({"[1]",   "[1]", "[2]", "[3*]", "[2*]", "a=1", "b=2",  "c=3",
-                       "a=4",   "!x",  "!y",  "!z",   "-f",   "-g",  "-h",   "# note",
-                       "# [1]", "",    "",    "?e",   "?w",   "?d",  "junk", "-i"},
-                      QStringLiteral("[]!-=#?12ax\n"));
+using Document = std::unique_ptr<CodeDocument>;
+
+template <LadderGrammar::Reuse reuse>
+Document ladder(const QString& text)
+{
+    return std::make_unique<LadderDocument>(reuse, text);
+}
+
+/// A grammar, and texts in it.
+struct Language
+{
+    const char* name;
+    Document (*make)(const QString& text);
+    Animations* (*list)(CodeDocument* document);
+    RandomText text;
+};
+
+const QVector<Language>& languages()
+{
+    static const RandomText ladders(LadderGrammar::lines(), QStringLiteral("!.@+:; 12ab\n"));
+    static const QVector<Language> all{
+        {"values in place, heads anew",
+         [](const QString& text) { return Document(new GrammarDocument(text)); },
+         [](CodeDocument* document) -> Animations* { return new TestAnimations(document); },
+         RandomText({"[1]",   "[1]", "[2]", "[3*]", "[2*]", "a=1", "b=2",  "c=3",
+                     "a=4",   "!x",  "!y",  "!z",   "-f",   "-g",  "-h",   "# note",
+                     "# [1]", "",    "",    "?e",   "?w",   "?d",  "junk", "-i"},
+                    QStringLiteral("[]!-=#?12ax\n"))},
+        {"sub-groups, all in place", ladder<LadderGrammar::Reuse::All>,
+         [](CodeDocument* document) -> Animations* { return new LadderAnimations(document); },
+         ladders},
+        {"sub-groups, all anew", ladder<LadderGrammar::Reuse::None>,
+         [](CodeDocument* document) -> Animations* { return new LadderAnimations(document); },
+         ladders},
+    };
+    return all;
+}
+
+void addRuns()
+{
+    QTest::addColumn<int>("language");
+    QTest::addColumn<int>("run");
+    // More of them look for rarer faults: ZORV_TEST_RUNS=500.
+    const int runs = qMax(12, qEnvironmentVariableIntValue("ZORV_TEST_RUNS"));
+    for (int i = 0; i < languages().size(); ++i) {
+        for (int run = 0; run < runs; ++run) {
+            QTest::addRow("%s %d", languages().at(i).name, run) << i << run;
+        }
+    }
+}
+
+QString nodesAsText(const CodeDocument& document)
+{
+    return nodesOf(document).join(QLatin1Char('\n'));
+}
+
+/// Some edit of the text that a node, or the document for it, makes.
+void editByTree(QRandomGenerator& random, const Language& language, CodeDocument& document)
+{
+    QVector<CodeNode*> nodes;
+    for (CodeNode* node = document.next(); node; node = node->next()) {
+        nodes.append(node);
+    }
+    CodeNode* node = nodes.isEmpty() ? nullptr : nodes.at(random.bounded(nodes.size()));
+    const bool ownLine = random.bounded(3) != 0;
+    switch (node ? random.bounded(5) : 4) {
+    case 0:
+        node->remove(!ownLine);
+        break;
+    case 1:
+        node->change(language.text.line(random));
+        break;
+    case 2:
+        document.insertBefore(node, language.text.lines(random, 3), ownLine);
+        break;
+    case 3:
+        document.insertAfter(node, language.text.lines(random, 3), ownLine);
+        break;
+    default:
+        document.insert(QLatin1Char('\n') + language.text.line(random));
+        break;
+    }
+}
 
 }  // namespace
 
-/// Whatever is done to the text: what the document knows is what a fresh parse
-/// of the same text gives.
+/// Whatever is done to the text, in whatever grammar: what the document knows is what a fresh
+/// parse of the same text gives.
 class CodeDocumentTruth : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { qInfo("seed %u", Seed); }
-    void randomEdits_data();
+    void randomEdits_data() { addRuns(); }
     void randomEdits();
+    void editsByTree_data() { addRuns(); }
+    void editsByTree();
     void stateOfNewLines();
 };
 
-void CodeDocumentTruth::randomEdits_data()
-{
-    QTest::addColumn<int>("run");
-    for (int run = 0; run < 25; ++run) {
-        QTest::addRow("run %d", run) << run;
-    }
-}
-
 void CodeDocumentTruth::randomEdits()
 {
+    QFETCH(int, language);
     QFETCH(int, run);
+    const Language& with = languages().at(language);
     QRandomGenerator random(Seed + quint32(run));
-    GrammarDocument document(Text.lines(random, 60));
-    auto* animations = new TestAnimations(&document);
-    document.registerDocumentEditor(animations, Zorv::CodeNode::Animation, 0);
-    document.reparse();
-    QAbstractItemModelTester listTester(animations,
-                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
-    QAbstractItemModelTester messageTester(document.messages(),
-                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const Document document = with.make(with.text.lines(random, 60));
+    Animations* animations = with.list(document.get());
+    document->registerDocumentEditor(animations, CodeNode::Animation, 0);
+    document->reparse();
+    const auto failure = QAbstractItemModelTester::FailureReportingMode::QtTest;
+    QAbstractItemModelTester listTester(animations, failure);
+    QAbstractItemModelTester messageTester(document->messages(), failure);
     for (int step = 0; step < 250; ++step) {
-        const QString before = document.text();
-        const bool inBlock = random.bounded(4) == 0;
-        QTextCursor cursor(&document);
-        if (inBlock) {
+        const QString before = document->text();
+        if (random.bounded(4) == 0) {
+            QTextCursor cursor(document.get());
             cursor.beginEditBlock();
-            Text.edit(random, document);
-            Text.edit(random, document);
+            with.text.edit(random, *document);
+            with.text.edit(random, *document);
             cursor.endEditBlock();
         }
-        Text.edit(random, document);
-        const GrammarDocument fresh(document.text());
-        const QStringList found = document.dump();
-        const QStringList expected = fresh.dump();
-        if (found != expected) {
-            int line = 0;
-            while (line < qMin(found.size(), expected.size()) && found[line] == expected[line]) {
-                ++line;
-            }
-            qWarning("step %d: found \"%s\", expected \"%s\", text:\n%s\nbefore:\n%s", step,
-                     qPrintable(found.value(line)), qPrintable(expected.value(line)),
-                     qPrintable(document.text()), qPrintable(before));
-        }
-        QCOMPARE(found, expected);
-        QCOMPARE(document.blockCount(), fresh.blockCount());
+        with.text.edit(random, *document);
+        const QString after = document->text();
+        const QString difference = firstDifference(dumpOf(*document), dumpOf(*with.make(after)));
+        QVERIFY2(difference.isEmpty(),
+                 qPrintable(QStringLiteral("step %1: %2\nbefore:\n%3\nnow:\n%4")
+                                .arg(step)
+                                .arg(difference, before, after)));
         QStringList names;
-        for (const Zorv::CodeNode* node = document.next(); node; node = node->next()) {
-            if (node->type() == Zorv::CodeNode::Animation) {
-                names.append(static_cast<const TestAnimation*>(node)->name());
+        for (const CodeNode* node = document->next(); node; node = node->next()) {
+            if (node->type() == CodeNode::Animation) {
+                names.append(static_cast<const AnimationCode*>(node)->name());
             }
         }
         QStringList listed;
@@ -89,6 +160,38 @@ void CodeDocumentTruth::randomEdits()
             listed.append(animations->index(row).data().toString());
         }
         QCOMPARE(listed, names);
+    }
+}
+
+/// Inside of a change too the nodes are those of the text, after every edit by the tree.
+void CodeDocumentTruth::editsByTree()
+{
+    QFETCH(int, language);
+    QFETCH(int, run);
+    const Language& with = languages().at(language);
+    QRandomGenerator random(Seed + quint32(run));
+    const Document document = with.make(with.text.lines(random, 40));
+    for (int step = 0; step < 60; ++step) {
+        document->beginChange(QString());
+        for (int edit = random.bounded(5); edit >= 0; --edit) {
+            const QString before = nodesAsText(*document);
+            editByTree(random, with, *document);
+            const QString text = document->text();
+            const QString difference =
+                firstDifference(nodesOf(*document), nodesOf(*with.make(text)));
+            QVERIFY2(difference.isEmpty(),
+                     qPrintable(QStringLiteral("step %1: %2\nbefore:\n%3\nnow:\n%4")
+                                    .arg(step)
+                                    .arg(difference, before, text)));
+        }
+        document->endChange();
+        QCOMPARE(firstDifference(dumpOf(*document), dumpOf(*with.make(document->text()))),
+                 QString());
+        if (random.bounded(3) == 0) {
+            document->undo();
+            QCOMPARE(firstDifference(dumpOf(*document), dumpOf(*with.make(document->text()))),
+                     QString());
+        }
     }
 }
 
@@ -100,7 +203,7 @@ void CodeDocumentTruth::stateOfNewLines()
     QTextCursor cursor(document.begin());
     cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     cursor.insertText(QStringLiteral("# one\n# two"));
-    QCOMPARE(document.messages()->count(Zorv::Message::Error), 2);
+    QCOMPARE(document.messages()->count(Message::Error), 2);
     QVERIFY(!document.next());
 }
 

@@ -1,31 +1,15 @@
 #include "support/testgrammar.h"
 
-#include "code/codedoc/codeblockdata.h"
-#include "core/messages.h"
-
-#include <QTextBlock>
-
-#include <algorithm>
+#include "support/documentdump.h"
 
 using namespace Zorv;
 
 namespace {
 
-/// The head that a line behind `previous` stands under, or null.
-CodeNode* headOf(CodeNode* previous)
-{
-    for (CodeNode* node = previous; node; node = node->previous()) {
-        if (node->type() & (CodeNode::Group | CodeNode::Animation)) {
-            return node;
-        }
-    }
-    return nullptr;
-}
-
 bool keepsPlace(CodeNode* node, CodeNode* previous, CodeNode::Type type)
 {
     return node && node->type() == type && node->previous() == previous &&
-           node->parentCode() == static_cast<CodeNode*>(headOf(previous));
+           node->parentCode() == static_cast<CodeNode*>(lineHead(previous));
 }
 
 void report(CodeParserSyntax* syntax, const QString& text)
@@ -71,7 +55,7 @@ CodeNode* TestParser::parse(const QString& text, CodeNode* oldNode, CodeNode* pr
             syntax->ok(type, 0, end);
         }
     };
-    CodeNode* head = headOf(previous);
+    CodeNode* head = lineHead(previous);
     const auto headType = head ? head->type() : CodeNode::Root;
     if (first == QLatin1Char('[') && end >= 3 && text.at(1).isDigit() &&
         text.at(1) != QLatin1Char('0')) {
@@ -187,71 +171,7 @@ void GrammarDocument::release()
     destroy();
 }
 
-namespace {
-
-QString label(const CodeNode* node)
-{
-    QString text;
-    if (const auto* value = dynamic_cast<const TestValue*>(node)) {
-        text = value->name() + QLatin1Char('=') + value->value().toString();
-    } else if (const auto* frame = dynamic_cast<const TestFrame*>(node)) {
-        text = frame->identifier().toString();
-    } else if (const auto* named = dynamic_cast<const NamedCode*>(node)) {
-        text = named->name();
-    }
-    return QStringLiteral("%1 %2 at %3 (%4-%5)")
-        .arg(node->type())
-        .arg(text)
-        .arg(node->block().blockNumber())
-        .arg(node->firstLine())
-        .arg(node->lastLine());
-}
-
-/// The values of a dead group come to the group above turned around, so that
-/// their order among themselves is not compared.
-QStringList treeOf(const ParentCode* parent, const QString& indent)
-{
-    QStringList lines;
-    QVector<CodeNode*> children;
-    for (int i = 0; i < parent->childCount(); ++i) {
-        children.append(parent->childAt(unsigned(i)));
-        Q_ASSERT(parent->childIndex(children.last()) == i);
-    }
-    if (parent->type() == CodeNode::Group) {
-        std::sort(children.begin(), children.end(), [](CodeNode* a, CodeNode* b) {
-            return a->block().blockNumber() < b->block().blockNumber();
-        });
-    }
-    for (const CodeNode* child : qAsConst(children)) {
-        lines.append(indent + label(child));
-        if (const auto* next = dynamic_cast<const ParentCode*>(child)) {
-            lines += treeOf(next, indent + QLatin1String("  "));
-        }
-    }
-    return lines;
-}
-
-}  // namespace
-
 QStringList GrammarDocument::dump() const
 {
-    QStringList lines = treeOf(this, QStringLiteral("tree "));
-    for (const CodeNode* node = next(); node; node = node->next()) {
-        lines.append(QStringLiteral("chain ") + label(node));
-    }
-    for (int i = 0; i < messages()->count(Message::AllTypes); ++i) {
-        const Message message = messages()->at(i);
-        lines.append(QStringLiteral("message %1 %2:%3 %4")
-                         .arg(message.type)
-                         .arg(message.line)
-                         .arg(message.column)
-                         .arg(message.text));
-    }
-    for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
-        const CodeBlockData* data = CodeBlockData::testBlockData(block);
-        lines.append(QStringLiteral("line %1 folding %2")
-                         .arg(block.blockNumber())
-                         .arg(data ? data->foldingIndent() : -9));
-    }
-    return lines;
+    return dumpOf(*this);
 }

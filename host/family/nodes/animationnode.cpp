@@ -3,7 +3,6 @@
 #include "grammar/linescanner.h"
 #include "nodes/boxnode.h"
 #include "nodes/framenode.h"
-#include "nodes/groupnode.h"
 #include "nodes/lineedit.h"
 #include "nodes/valuetext.h"
 
@@ -14,28 +13,6 @@ AnimationNode::AnimationNode(Zorv::CodeNode* previous, const QString& identifier
     : AnimationCode(previous), m_identifier(identifier), m_name(name)
 {
     BoxNode::raiseRevision();
-    letGo();
-}
-
-/// Boxes have no parent, and sub-groups behind an animation belong to no group.
-/// While the lines above were parsed, a group may have taken them.
-void AnimationNode::letGo()
-{
-    CodeNode* node = next();
-    for (; node && node->type() != Group && node->type() != Animation; node = node->next()) {
-        if (node->type() == Value && node->parentCode()) {
-            node->parentCode()->removeChild(node);
-        }
-    }
-    GroupNode::placeSubGroups(this, nullptr);
-}
-
-void AnimationNode::handOver()
-{
-    AnimationCode::handOver();
-    if (GroupNode* group = GroupNode::groupBefore(this)) {
-        GroupNode::placeSubGroups(this, group);
-    }
 }
 
 AnimationNode::~AnimationNode()

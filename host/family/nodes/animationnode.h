@@ -38,12 +38,7 @@ public:
     void childChanged(Zorv::CodeNode* child) override;
     void release() override;
 
-protected:
-    void handOver() override;
-
 private:
-    void letGo();
-
     QString m_identifier;
     QString m_name;
 };

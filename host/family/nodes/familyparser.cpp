@@ -14,24 +14,6 @@ using Zorv::CodeNode;
 
 namespace {
 
-/// The group or animation that a line behind `previous` stands under, or null.
-CodeNode* headNode(const CodeNode* previous)
-{
-    if (!previous) {
-        return nullptr;
-    }
-    auto* node = const_cast<CodeNode*>(previous);
-    if (node->type() == CodeNode::Group || node->type() == CodeNode::Animation) {
-        return node;
-    }
-    const bool isContent = node->type() == CodeNode::Value || node->type() == CodeNode::Frame;
-    if (isContent && node->parentCode()) {
-        return node->parentCode();
-    }
-    CodeNode* animation = node->previous(CodeNode::Animation, CodeNode::Group);
-    return animation ? animation : node->previous(CodeNode::Group, CodeNode::Animation);
-}
-
 LineHead headOf(const CodeNode* node)
 {
     LineHead head;
@@ -44,27 +26,20 @@ LineHead headOf(const CodeNode* node)
     return head;
 }
 
-/// `oldNode` as a node of this class if it stands in the place of a new one.
-template <class Node>
-Node* reusable(CodeNode* oldNode, const CodeNode* previous)
-{
-    return oldNode && oldNode->previous() == previous ? dynamic_cast<Node*>(oldNode) : nullptr;
-}
-
 CodeNode* groupNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous)
 {
-    auto* old = reusable<GroupNode>(oldNode, previous);
-    if (old && old->group() == line.group->number && old->isInPlace()) {
+    auto* old = dynamic_cast<GroupNode*>(oldNode);
+    if (old && old->info() == line.group) {
         old->update(line.argument);
         return old;
     }
     return new GroupNode(previous, line.group, line.argument);
 }
 
-CodeNode* valueNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous, CodeNode* head)
+CodeNode* valueNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous)
 {
-    auto* old = reusable<ValueNode>(oldNode, previous);
-    if (old && old->parentCode() == head && old->valueType() == line.key->valueType()) {
+    auto* old = dynamic_cast<ValueNode*>(oldNode);
+    if (old && old->valueType() == line.key->valueType()) {
         old->update(line.key, line.value);
         return old;
     }
@@ -73,17 +48,16 @@ CodeNode* valueNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previou
 
 CodeNode* animationNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous)
 {
-    if (auto* old = reusable<AnimationNode>(oldNode, previous)) {
+    if (auto* old = dynamic_cast<AnimationNode*>(oldNode)) {
         old->update(line.argument, line.name);
         return old;
     }
     return new AnimationNode(previous, line.argument, line.name);
 }
 
-CodeNode* frameNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous, CodeNode* head)
+CodeNode* frameNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous)
 {
-    auto* old = reusable<FrameNode>(oldNode, previous);
-    if (old && old->parentCode() == head) {
+    if (auto* old = dynamic_cast<FrameNode*>(oldNode)) {
         old->update(line.frame);
         return old;
     }
@@ -92,8 +66,8 @@ CodeNode* frameNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previou
 
 CodeNode* boxNode(const ParsedLine& line, CodeNode* oldNode, CodeNode* previous)
 {
-    auto* old = reusable<BoxNode>(oldNode, previous);
-    if (old && !old->parentCode() && old->isAttack() == line.attack) {
+    auto* old = dynamic_cast<BoxNode*>(oldNode);
+    if (old && old->isAttack() == line.attack) {
         old->update(line.box);
         return old;
     }
@@ -119,7 +93,7 @@ bool isWithoutCode(const QString& text, Zorv::CodeParserSyntax* syntax)
 
 LineHead headAbove(const CodeNode* previous)
 {
-    return headOf(headNode(previous));
+    return headOf(previous ? Zorv::lineHead(previous) : nullptr);
 }
 
 FamilyParser* FamilyParser::instance()
@@ -134,7 +108,7 @@ CodeNode* FamilyParser::parse(const QString& text, CodeNode* oldNode, CodeNode* 
     if (isWithoutCode(text, syntax)) {
         return nullptr;
     }
-    CodeNode* above = headNode(previous);
+    const CodeNode* above = Zorv::lineHead(previous);
     LineHead head = headOf(above);
     // Heads are refused while parsing is switched off, so that nothing stands below one.
     const bool enabled = above || root->groupEnabled(0);
@@ -150,11 +124,11 @@ CodeNode* FamilyParser::parse(const QString& text, CodeNode* oldNode, CodeNode* 
     case ParsedLine::Group:
         return groupNode(line, oldNode, previous);
     case ParsedLine::Value:
-        return valueNode(line, oldNode, previous, above);
+        return valueNode(line, oldNode, previous);
     case ParsedLine::Animation:
         return animationNode(line, oldNode, previous);
     case ParsedLine::Frame:
-        return frameNode(line, oldNode, previous, above);
+        return frameNode(line, oldNode, previous);
     case ParsedLine::Box:
         return boxNode(line, oldNode, previous);
     default:

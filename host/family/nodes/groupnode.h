@@ -6,8 +6,8 @@ namespace Family {
 
 struct GroupInfo;
 
-/// The head of a group or sub-group. Its children are its values, then its
-/// sub-groups, each in the order of the text.
+/// The head of a group or sub-group. A sub-group without a group above it is a
+/// child of the root.
 class GroupNode final : public Zorv::GroupCode
 {
 public:
@@ -31,45 +31,23 @@ public:
     /// name. Nothing for a name that cannot be written.
     void setName(const QString& name) override;
 
-    /// The sub-groups alone; sub-groups of a sub-group do not exist.
-    QList<GroupNode*> subGroups() const;
+    /// The first sub-group of that name, null without one; sub-groups of a sub-group do not exist.
     GroupNode* subGroup(const QString& name) const;
-    bool isSubGroup() const;
 
     /// For the parser: the same head with another argument. Tells the parent.
     void update(const QString& argument);
 
-    /// For the parser: true if a new node in this place would have the same parent.
-    bool isInPlace() const;
-
-    /// The group that a sub-group behind `node` belongs to, null without one.
-    static GroupNode* groupBefore(const Zorv::CodeNode* node);
-
-    /// Gives the sub-groups that follow a head of whatever kind to a group, or
-    /// to the root.
-    static void placeSubGroups(Zorv::CodeNode* head, GroupNode* group);
-
-    int childCount() const override;
-    int childIndex(Zorv::CodeNode* child) const override;
-    Zorv::CodeNode* childAt(unsigned index) const override;
-    void insertChild(Zorv::CodeNode* child, unsigned index) override;
-    void removeChild(Zorv::CodeNode* child) override;
     void childChanged(Zorv::CodeNode* child) override;
     void release() override;
 
 protected:
-    void handOver() override;
-    void adopt() override;
+    bool isInPlace() const override;
 
 private:
-    static GroupNode* groupBefore(const Zorv::CodeNode* node, GroupNode** brother);
-    void attach();
-    void adoptSubGroups();
-    void giveAway();
+    GroupNode* groupAbove() const;
 
     const GroupInfo* m_info;
     QString m_argument;
-    Zorv::CodeNodeList m_subGroups;
 };
 
 }  // namespace Family

@@ -31,16 +31,17 @@ AnimationCode::~AnimationCode()
 
 void AnimationCode::handOver()
 {
-    if (m_frames.isEmpty()) {
+    if (m_children.isEmpty()) {
         return;
     }
     CodeNode* above = NodeChain::backward(this, CodeNode::Group | CodeNode::Animation);
-    const bool isAnimation = above && above->type() == CodeNode::Animation;
-    while (CodeNode* frame = m_frames.at(0)) {
-        if (isAnimation) {
-            static_cast<AnimationCode*>(above)->insertChild(frame, unsigned(-1));
+    auto* heir = above && above->type() == CodeNode::Animation ? static_cast<AnimationCode*>(above)
+                                                               : nullptr;
+    while (CodeNode* child = m_children.at(0)) {
+        if (heir && child->type() == CodeNode::Frame) {
+            heir->insertChild(child, unsigned(-1));
         } else {
-            AnimationCode::removeChild(frame);
+            AnimationCode::removeChild(child);
         }
     }
 }
@@ -65,17 +66,12 @@ void AnimationCode::setCode(const QString& text)
 
 QList<FrameCode*> AnimationCode::frames() const
 {
-    QList<FrameCode*> result;
-    result.reserve(m_frames.size());
-    for (CodeNode* node = m_frames.at(0); node; node = CodeNodeList::next(node)) {
-        result.append(static_cast<FrameCode*>(node));
-    }
-    return result;
+    return m_children.ofType<FrameCode>(CodeNode::Frame);
 }
 
 void AnimationCode::removeFrame(unsigned index)
 {
-    if (CodeNode* frame = m_frames.at(int(index))) {
+    if (FrameCode* frame = frames().value(int(index))) {
         frame->remove(true);
     }
 }
@@ -91,29 +87,29 @@ int AnimationCode::lastLine() const
 
 int AnimationCode::childCount() const
 {
-    return m_frames.size();
+    return m_children.size();
 }
 
 int AnimationCode::childIndex(CodeNode* child) const
 {
-    return m_frames.indexOf(child);
+    return m_children.indexOf(child);
 }
 
 CodeNode* AnimationCode::childAt(unsigned index) const
 {
-    return m_frames.at(int(index));
+    return m_children.at(int(index));
 }
 
 void AnimationCode::insertChild(CodeNode* child, unsigned index)
 {
     ParentCode::insertChild(child, index);
-    m_frames.insert(index, child);
+    m_children.insert(index, child);
 }
 
 void AnimationCode::removeChild(CodeNode* child)
 {
     ParentCode::removeChild(child);
-    m_frames.remove(child);
+    m_children.remove(child);
 }
 
 }  // namespace Zorv

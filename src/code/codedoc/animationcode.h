@@ -10,7 +10,7 @@ namespace Zorv {
 
 class FrameCode;
 
-/// The head of an animation: a child of the root, with frames.
+/// The head of an animation, with frames. It joins the root by itself.
 ///
 /// It adopts the frames that follow it in the chain, up to the next group or
 /// animation. When it dies, its frames go in their order to the animation above
@@ -31,10 +31,11 @@ public:
     /// Replaces the text of the animation by `text`, trimmed, and two line ends.
     void setCode(const QString& text);
 
+    /// The frames in their order.
     QList<FrameCode*> frames() const;
 
-    /// Takes a frame and its lines out of the document; nothing outside of the
-    /// list.
+    /// Takes a frame and its lines out of the document; `index` is its place among
+    /// `frames()`, nothing outside of them.
     void removeFrame(unsigned index);
 
     /// The whole time of one pass in ticks of 1/60 second; -1 if it never ends.
@@ -47,6 +48,7 @@ public:
     /// the number of lines.
     int lastLine() const override;
 
+    /// The children are the frames, and what else a grammar inserts.
     int childCount() const override;
     int childIndex(CodeNode* child) const override;
 
@@ -57,10 +59,11 @@ public:
 
 protected:
     void handOver() override;
-    void adopt() override;
 
 private:
-    CodeNodeList m_frames;
+    void adopt();
+
+    CodeNodeList m_children;
 };
 
 }  // namespace Zorv

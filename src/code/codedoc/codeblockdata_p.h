@@ -48,9 +48,9 @@ public:
     CodeBlockData* left = nullptr;
     CodeBlockData* right = nullptr;
     std::unique_ptr<CodeBlockDetails> details;
-    int fragment = 0;      ///< Qt's number of the block
-    int contextAbove = 0;  ///< the head under which the line was parsed, as a number
-    int context = 0;       ///< the same for the line below
+    int fragment = 0;          ///< Qt's number of the block
+    quint32 contextAbove = 0;  ///< the head under which the line was parsed last, by its number
+    quint32 context = 0;       ///< the same for the line below
     quint16 traits = 0;
     quint16 traitsBelow = 0;   ///< of the whole subtree
     qint16 foldingIndent = 0;  ///< of a line with a class
@@ -59,8 +59,12 @@ public:
     bool isOutermost : 1;
     bool isFolded : 1;
     bool isParsed : 1;
+    bool isUnreported : 1;  ///< parsed for its node only, so far
 
-    CodeBlockDataPrivate() : isOutermost(false), isFolded(false), isParsed(false) {}
+    CodeBlockDataPrivate()
+        : isOutermost(false), isFolded(false), isParsed(false), isUnreported(false)
+    {
+    }
 };
 
 }  // namespace Zorv

@@ -10,6 +10,15 @@
 
 namespace Zorv {
 
+namespace {
+
+bool isHead(const CodeNode* node)
+{
+    return (node->type() & (CodeNode::Group | CodeNode::Animation)) != 0;
+}
+
+}  // namespace
+
 void CodeDocumentPrivate::beginPass()
 {
     if (passDepth++ == 0) {
@@ -26,7 +35,6 @@ void CodeDocumentPrivate::endPass()
         return;
     }
     if (CodeBlockData* last = CodeBlockData::testBlockData(lastParsed)) {
-        mendBelow(last);
         tellLevels(Folding::updateBelow(last));
     }
     releaseUnlinked();
@@ -76,13 +84,14 @@ void CodeDocumentPrivate::parsed()
 }
 
 /// Goes on to the lines that were parsed under a head which is no longer theirs,
-/// though Qt saw no reason to.
+/// though Qt saw no reason to, or were parsed for their nodes only.
 void CodeDocumentPrivate::parseDependents()
 {
     while (const CodeBlockData* last = CodeBlockData::testBlockData(lastParsed)) {
         const QTextBlock below = lastParsed.next();
         const CodeBlockData* data = CodeBlockData::testBlockData(below);
-        if (!parser || !data || data->d->contextAbove == last->d->context) {
+        if (!parser || !data ||
+            (data->d->contextAbove == last->d->context && !data->d->isUnreported)) {
             return;
         }
         rehighlightBlock(below);
@@ -132,6 +141,8 @@ CodeNode* CodeDocumentPrivate::nodeAbove(const CodeBlockData* data) const
     return line ? line->d->node : q;
 }
 
+/// The grammar gets the old node only where it may stay: right behind `previous`, and in a place
+/// in the tree that a new one would come to, or that the document finds for it.
 CodeNode* CodeDocumentPrivate::parseLine(const QTextBlock& block, CodeBlockData* data,
                                          const QString& text, CodeParserSyntax* syntax)
 {
@@ -141,14 +152,26 @@ CodeNode* CodeDocumentPrivate::parseLine(const QTextBlock& block, CodeBlockData*
     }
     previous->m_endBlock = block.fragmentIndex();
     ++parsedLines;
+    const CodeBlockData* above = LineIndex::above(data);
+    const quint32 contextAbove = above ? above->d->context : 0;
+    CodeNode* old = data->d->node;
+    const bool isUnderOther = contextAbove != data->d->contextAbove;
+    const bool mayStay = old && old->m_previous == previous &&
+                         (!isUnderOther || old->m_isUnderHead || old->isInPlace());
     isParsing = true;
-    CodeNode* node = parser->parse(text, data->d->node, previous, q, syntax);
+    CodeNode* node = parser->parse(text, mayStay ? old : nullptr, previous, q, syntax);
+    if (node && (node != old || isUnderOther)) {
+        place(node, node == old);
+    }
     isParsing = false;
     if (!newcomers.isEmpty()) {
         const QVector<CodeNode*> children = std::exchange(newcomers, {});
         std::for_each(children.begin(), children.end(), [this](CodeNode* n) { announce(n); });
     }
-    return node;
+    data->d->contextAbove = contextAbove;
+    data->d->context = contextOf(node, old, data, text);
+    data->d->node = node;
+    return old == node ? nullptr : old;
 }
 
 int CodeDocumentPrivate::stateOf(const CodeNode* node)
@@ -168,22 +191,37 @@ int CodeDocumentPrivate::stateOf(const CodeNode* node)
     return node->previous(CodeNode::Animation, CodeNode::StopAtCode) ? AnimationState : 0;
 }
 
-/// What the lines below a node depend on: the kind of their head, and for a
-/// sub-group that of its parent.
-int CodeDocumentPrivate::contextOf(const CodeNode* node, int contextAbove)
+/// What the lines below a line depend on. A head that was brought up to date keeps its number, and
+/// so does one that is made anew from the same words in the same place: it takes the children of
+/// the old one over. Any other head is another one.
+quint32 CodeDocumentPrivate::contextOf(CodeNode* node, CodeNode* old, const CodeBlockData* data,
+                                       const QString& text)
 {
-    if (!node || !(node->type() & (CodeNode::Group | CodeNode::Animation))) {
-        return contextAbove;
+    if (!node || !isHead(node)) {
+        return data->d->contextAbove;
     }
-    if (node->type() == CodeNode::Animation) {
-        return AnimationState;
+    const ParentCode* parent = node->m_parent;
+    const bool isSub = parent && isHead(parent);
+    const CodeBlockData* line = isSub ? CodeBlockData::testBlockData(parent->m_block) : nullptr;
+    auto* head = static_cast<ParentCode*>(node);
+    head->m_signature = qHash(text, line ? line->d->context : 0);
+    if (node == old) {
+        return data->d->context;
     }
-    const auto* group = static_cast<const GroupCode*>(node);
-    unsigned context = group->group();
-    if (isSubGroup(group)) {
-        context |= (static_cast<const GroupCode*>(group->m_parent)->group() + 1) << 16;
+    if (!old || old->m_type != node->m_type ||
+        static_cast<ParentCode*>(old)->m_signature != head->m_signature) {
+        return ++contexts;
     }
-    return int(context);
+    const bool isGroup = node->m_type == CodeNode::Group;
+    if (isGroup &&
+        static_cast<GroupCode*>(old)->group() != static_cast<GroupCode*>(node)->group()) {
+        return ++contexts;
+    }
+    auto* former = static_cast<ParentCode*>(old);
+    for (int count = former->childCount(); count > 0; --count) {
+        head->insertChild(former->childAt(0), unsigned(-1));
+    }
+    return data->d->context;
 }
 
 void CodeDocumentPrivate::highlightBlock(const QString& text)
@@ -200,16 +238,12 @@ void CodeDocumentPrivate::highlightBlock(const QString& text)
         data->d->details->parenthesis.resize(0);
     }
     data->d->isParsed = false;
-    CodeNode* old = data->d->node;
-    CodeNode* node = parseLine(block, data, text, reports ? this : nullptr);
-    data->d->node = node;
-    const int state = stateOf(node);
+    data->d->isUnreported = false;
+    CodeNode* old = parseLine(block, data, text, reports ? this : nullptr);
+    const int state = stateOf(data->d->node);
     setCurrentBlockState(state ? state : previousBlockState());
-    const CodeBlockData* above = LineIndex::above(data);
-    data->d->contextAbove = above ? above->d->context : 0;
-    data->d->context = contextOf(node, data->d->contextAbove);
     storeMessages(data, hadMessages);
-    if (old && old != node) {
+    if (old) {
         retire(old);
     }
     updateTraits(data, text);
@@ -268,21 +302,23 @@ void CodeDocumentPrivate::parseNow(QTextBlock block, const QTextBlock& behind)
 {
     unlinkDeadNodes();
     const CodeBlockData* last = nullptr;
-    for (; block.isValid() && block != behind; block = block.next()) {
+    bool isBehind = false;
+    for (; block.isValid(); block = block.next()) {
+        isBehind = isBehind || block == behind;
+        const CodeBlockData* present = CodeBlockData::testBlockData(block);
+        if (isBehind && last && (!present || present->d->contextAbove == last->d->context)) {
+            break;
+        }
         CodeBlockData* data = enter(block);
         last = data;
-        CodeNode* old = data->d->node;
-        CodeNode* node = parseLine(block, data, block.text(), nullptr);
-        data->d->node = node;
+        CodeNode* old = parseLine(block, data, block.text(), nullptr);
+        data->d->isUnreported = true;
         quint16 traits = data->d->traits & ~CodeBlockDataPrivate::HasNode;
-        traits |= node ? CodeBlockDataPrivate::HasNode : 0;
+        traits |= data->d->node ? CodeBlockDataPrivate::HasNode : 0;
         LineIndex::setTraits(data, traits);
-        if (old && old != node) {
+        if (old) {
             retire(old);
         }
-    }
-    if (last) {
-        mendBelow(last);
     }
     releaseUnlinked();
 }

@@ -22,8 +22,10 @@ class CodeDocumentEditor;
 ///
 /// Qt highlights the edited lines and goes on as long as a line's state comes
 /// out otherwise than before. That state follows the head above a line only
-/// roughly, so each line also keeps the head that it was parsed under, and a
-/// pass goes on until that is true of the next line. Around it, the pass takes
+/// roughly, so each head has a number of its own, its context, each line keeps
+/// the one that it was parsed under, and a pass goes on until that is true of
+/// the next line. Each node of these lines comes to the place in the tree that
+/// the text above alone gives it, as in a fresh parse. Around it, the pass takes
 /// care of what Qt cannot know: nodes of lines that are gone, line numbers of
 /// messages, and folding levels.
 class CodeDocumentPrivate : public QSyntaxHighlighter, public CodeParserSyntax
@@ -111,12 +113,15 @@ private:
     void parseDependents();
     void tellLevels(const CodeBlockData* last);
     CodeBlockData* enter(const QTextBlock& block);
+    /// Gives the line its node and its context; returns the old node if that has to go.
     CodeNode* parseLine(const QTextBlock& block, CodeBlockData* data, const QString& text,
                         CodeParserSyntax* syntax);
     CodeNode* nodeAbove(const CodeBlockData* data) const;
     static int stateOf(const CodeNode* node);
-    static int contextOf(const CodeNode* node, int contextAbove);
-    void mendBelow(const CodeBlockData* line);
+    quint32 contextOf(CodeNode* node, CodeNode* old, const CodeBlockData* data,
+                      const QString& text);
+    static void place(CodeNode* node, bool isKept);
+    static void placeAmongSiblings(CodeNode* node);
     void storeMessages(CodeBlockData* data, bool hadMessages);
     void updateTraits(CodeBlockData* data, const QString& text);
     static quint16 traitsOfParentheses(const QVector<CodeBlockData::Parenthesis>& parentheses);
@@ -129,6 +134,7 @@ private:
     QVector<Message> lineMessages;
     QVector<CodeNode*> newcomers;
     bool isParsing = false;
+    quint32 contexts = 0;
     QVector<CodeNode*> dead;
     QVector<CodeNode*> unlinked;
     QTextBlock firstParsed;

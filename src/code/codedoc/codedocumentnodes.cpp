@@ -21,7 +21,9 @@ void CodeDocumentPrivate::announce(CodeNode* child)
 void CodeDocumentPrivate::forget(CodeNode* child)
 {
     counted = nullptr;
-    newcomers.removeAll(child);
+    if (newcomers.removeAll(child) > 0) {
+        return;
+    }
     if (CodeDocumentEditor* editor = editors.value(editorKey(child))) {
         editor->removeChild(child);
     }
@@ -53,32 +55,55 @@ void CodeDocumentPrivate::retire(CodeNode* node)
     node->release();
 }
 
-/// Sees to it that the nodes below the parsed lines have the right parent. Where
-/// one head takes the place of another of its kind they are not parsed again,
-/// and while both were there they can have lost their parent.
-void CodeDocumentPrivate::mendBelow(const CodeBlockData* line)
+namespace {
+
+/// The parent that a value or a frame finds by itself.
+ParentCode* parentByHead(const CodeNode* node)
 {
-    constexpr unsigned heads = CodeNode::Group | CodeNode::Animation;
-    CodeNode* above = line->d->node ? line->d->node : nodeAbove(line);
-    CodeNode* head = above->type() & heads ? above : NodeChain::backward(above, heads);
-    if (!head) {
+    CodeNode* head = NodeChain::backward(node, CodeNode::Group | CodeNode::Animation);
+    const bool isValue = node->type() == CodeNode::Value;
+    return head && head->type() == (isValue ? CodeNode::Group : CodeNode::Animation)
+               ? static_cast<ParentCode*>(head)
+               : nullptr;
+}
+
+}  // namespace
+
+/// A node that is kept under another head goes where a new one would have gone. That is known of
+/// values and frames, as long as the grammar does not put them elsewhere.
+void CodeDocumentPrivate::place(CodeNode* node, bool isKept)
+{
+    if (node->m_type & (CodeNode::Value | CodeNode::Frame)) {
+        ParentCode* parent = parentByHead(node);
+        if (isKept && parent && node->m_parent != parent) {
+            parent->insertChild(node, unsigned(-1));
+        } else if (isKept && !parent && node->m_parent) {
+            node->m_parent->removeChild(node);
+        }
+        node->m_isUnderHead = node->m_parent == parent;
+    }
+    placeAmongSiblings(node);
+}
+
+/// A grammar appends a new child, as in a fresh parse; the nodes behind it may be there already.
+void CodeDocumentPrivate::placeAmongSiblings(CodeNode* node)
+{
+    const CodeNode* before = CodeNodeList::previous(node);
+    const CodeNode* after = CodeNodeList::next(node);
+    if ((!before || before->precedes(node)) && (!after || node->precedes(after))) {
         return;
     }
-    const bool isGroup = head->type() == CodeNode::Group;
-    const CodeNode::Type leaf = isGroup ? CodeNode::Value : CodeNode::Frame;
-    const CodeNode* below = NodeChain::forward(above, heads | leaf);
-    if (below && below->type() == leaf && below->parentCode() != head) {
-        head->adopt();
+    ParentCode* parent = node->m_parent;
+    parent->removeChild(node);
+    int first = 0;
+    int count = parent->childCount();
+    while (count > 0) {
+        const int half = count / 2;
+        const bool isBefore = parent->childAt(unsigned(first + half))->precedes(node);
+        first += isBefore ? half + 1 : 0;
+        count = isBefore ? count - half - 1 : half;
     }
-    below = NodeChain::forward(above, heads);
-    if (!isGroup || !below || below->type() != CodeNode::Group) {
-        return;
-    }
-    CodeNode* top = isSubGroup(static_cast<GroupCode*>(head)) ? head->m_parent : head;
-    const CodeNode* parent = below->m_parent;
-    if (!parent || (parent->type() == CodeNode::Group && parent != top)) {
-        top->adopt();
-    }
+    parent->insertChild(node, unsigned(first));
 }
 
 void CodeDocumentPrivate::lineGone(CodeBlockData* line)

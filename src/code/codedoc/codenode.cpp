@@ -45,7 +45,10 @@ void CodeNode::unlink()
 
 void CodeNode::handOver() {}
 
-void CodeNode::adopt() {}
+bool CodeNode::isInPlace() const
+{
+    return m_type == Animation;
+}
 
 CodeNode* CodeNode::parent(Type type, unsigned short stopMask) const
 {
@@ -75,6 +78,13 @@ CodeNode* CodeNode::next(Type type, unsigned short stopMask) const
 bool CodeNode::precedes(const CodeNode* other) const
 {
     return NodeChain::precedes(this, other);
+}
+
+CodeNode* lineHead(const CodeNode* previous)
+{
+    constexpr unsigned heads = CodeNode::Group | CodeNode::Animation;
+    return previous->type() & heads ? const_cast<CodeNode*>(previous)
+                                    : NodeChain::backward(previous, heads);
 }
 
 int CodeNode::firstLine() const

@@ -136,10 +136,12 @@ protected:
     /// tree: a parent hands its children on. Destructors do the same.
     virtual void handOver();
 
-    /// Takes over the nodes behind this one that are its children by their
-    /// place. Constructors do the same; a document asks again after an edit in
-    /// which heads came and went at once.
-    virtual void adopt();
+    /// A document asks this of a head whose line stands under another head than
+    /// before: true if a new node there would have the parent that this one has.
+    /// Then the grammar gets this one to bring it up to date. False at first, and
+    /// true for an animation, which always joins the root; a group that knows
+    /// better saves its children a move.
+    virtual bool isInPlace() const;
 
 private:
     QTextBlock m_block;
@@ -154,6 +156,12 @@ private:
     Type m_type;
     unsigned short m_chainMask = 0;
     bool m_isTracked = false;
+    bool m_isUnderHead = false;  // of a leaf: parsed, with the parent that the nearest head makes
 };
+
+/// The head of a line, from the last node before it: the group or animation that the line
+/// stands under, null for none. A line that is a head itself stands under the one above.
+/// Logarithmic.
+ZORV_EXPORT CodeNode* lineHead(const CodeNode* previous);
 
 }  // namespace Zorv

@@ -1,6 +1,5 @@
 #include "code/codedoc/codenodelist.h"
 
-#include "code/codedoc/codenode.h"
 #include "code/codedoc/ordertree_p.h"
 
 namespace Zorv {

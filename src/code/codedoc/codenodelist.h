@@ -1,10 +1,11 @@
 #pragma once
 
+#include "code/codedoc/codenode.h"
 #include "zorv_export.h"
 
-namespace Zorv {
+#include <QList>
 
-class CodeNode;
+namespace Zorv {
 
 /// The children of a parent node in their order.
 ///
@@ -25,6 +26,19 @@ public:
 
     /// The place of a child, -1 for a stranger.
     int indexOf(const CodeNode* node) const;
+
+    /// The children of a type, which all are of class `Node`, in their order.
+    template <class Node>
+    QList<Node*> ofType(CodeNode::Type type) const
+    {
+        QList<Node*> result;
+        for (CodeNode* node = at(0); node; node = next(node)) {
+            if (node->type() == type) {
+                result.append(static_cast<Node*>(node));
+            }
+        }
+        return result;
+    }
 
     /// Puts a node at `index`, or at the end if that is not inside the list.
     /// The node must be in no list.

@@ -33,31 +33,30 @@ GroupCode::~GroupCode()
 
 void GroupCode::handOver()
 {
-    if (m_values.isEmpty()) {
+    if (m_children.isEmpty()) {
         return;
     }
     CodeNode* above =
         NodeChain::backward(this, CodeNode::Group | CodeNode::Animation | CodeNode::Frame);
-    if (!above || above->type() != CodeNode::Group) {
-        while (CodeNode* value = m_values.last()) {
-            GroupCode::removeChild(value);
+    auto* heir =
+        above && above->type() == CodeNode::Group ? static_cast<GroupCode*>(above) : nullptr;
+    while (CodeNode* child = m_children.last()) {
+        if (heir && child->type() == CodeNode::Value) {
+            heir->insertChild(child, unsigned(-1));
+        } else {
+            GroupCode::removeChild(child);
         }
-        return;
-    }
-    auto* group = static_cast<GroupCode*>(above);
-    while (CodeNode* value = m_values.last()) {
-        group->insertChild(value, unsigned(-1));
     }
 }
 
 QList<ValueCode*> GroupCode::values() const
 {
-    QList<ValueCode*> result;
-    result.reserve(m_values.size());
-    for (CodeNode* node = m_values.at(0); node; node = CodeNodeList::next(node)) {
-        result.append(static_cast<ValueCode*>(node));
-    }
-    return result;
+    return m_children.ofType<ValueCode>(CodeNode::Value);
+}
+
+QList<GroupCode*> GroupCode::subGroups() const
+{
+    return m_children.ofType<GroupCode>(CodeNode::Group);
 }
 
 QVariant GroupCode::value(const QString& name) const
@@ -68,7 +67,10 @@ QVariant GroupCode::value(const QString& name) const
 
 ValueCode* GroupCode::valueByName(const QString& name) const
 {
-    for (CodeNode* node = m_values.at(0); node; node = CodeNodeList::next(node)) {
+    for (CodeNode* node = m_children.at(0); node; node = CodeNodeList::next(node)) {
+        if (node->type() != CodeNode::Value) {
+            continue;
+        }
         auto* value = static_cast<ValueCode*>(node);
         if (value->name() == name) {
             return value;
@@ -79,7 +81,7 @@ ValueCode* GroupCode::valueByName(const QString& name) const
 
 void GroupCode::removeValue(unsigned index)
 {
-    if (CodeNode* value = m_values.at(int(index))) {
+    if (ValueCode* value = values().value(int(index))) {
         value->remove(true);
     }
 }
@@ -99,29 +101,29 @@ int GroupCode::lastLine() const
 
 int GroupCode::childCount() const
 {
-    return m_values.size();
+    return m_children.size();
 }
 
 int GroupCode::childIndex(CodeNode* child) const
 {
-    return m_values.indexOf(child);
+    return m_children.indexOf(child);
 }
 
 CodeNode* GroupCode::childAt(unsigned index) const
 {
-    return m_values.at(int(index));
+    return m_children.at(int(index));
 }
 
 void GroupCode::insertChild(CodeNode* child, unsigned index)
 {
     ParentCode::insertChild(child, index);
-    m_values.insert(index, child);
+    m_children.insert(index, child);
 }
 
 void GroupCode::removeChild(CodeNode* child)
 {
     ParentCode::removeChild(child);
-    m_values.remove(child);
+    m_children.remove(child);
 }
 
 bool isSubGroup(const GroupCode* group)

@@ -34,6 +34,11 @@ protected:
     /// Makes a node, mostly this one, a child of the root at the head of its
     /// chain, behind those of the root's children that stand before it.
     static void insertRootChild(CodeNode* child);
+
+private:
+    friend class CodeDocumentPrivate;
+
+    uint m_signature = 0;  ///< of a head: what its line said when it was parsed last
 };
 
 }  // namespace Zorv

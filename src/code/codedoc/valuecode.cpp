@@ -41,7 +41,7 @@ ValueCode::ValueCode(CodeNode* previous, Type type, const QVariant& value)
         return;
     }
     auto* group = static_cast<GroupCode*>(head);
-    if (group->m_values.last() == previous) {
+    if (group->m_children.last() == previous) {
         group->insertChild(this, unsigned(-1));
     } else {
         const unsigned place = NodeChain::before(this).values - NodeChain::before(head).values;
