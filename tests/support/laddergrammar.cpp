@@ -25,9 +25,9 @@ unsigned numberOf(const QString& line, int depth)
 
 QStringList LadderGrammar::lines()
 {
-    return {"!1 a", "!1 a", "!1 b", "!2 a", "!2 ", ".3 x", ".3 x", ".4 y",
-            "..5 ", "..5 z", "@a",  "@a",   "@b",  "+ p",  "+ q",  "k: 1",
-            "k: 1", "l: 2",  "m: 3", ";",   "; note", "",   "junk", "+ r"};
+    return {"!1 a", "!1 a",  "!1 b", "!2 a", "!2 ",    ".3 x", ".3 x", ".4 y",
+            "..5 ", "..5 z", "@a",   "@a",   "@b",     "+ p",  "+ q",  "k: 1",
+            "k: 1", "l: 2",  "m: 3", ";",    "; note", "",     "junk", "+ r"};
 }
 
 CodeNode* LadderGrammar::parse(const QString& text, CodeNode* oldNode, CodeNode* previous,
