@@ -1,6 +1,7 @@
 #include "app/unsavedwork.h"
 
 #include "core/dialogs/dialogs.h"
+#include "core/filechange.h"
 #include "core/filewatchobject.h"
 #include "core/interface.h"
 #include "core/project.h"
@@ -162,7 +163,7 @@ Family::Saved saveNew(FamilyDocument* document, QString* error)
     return error->isEmpty() ? Family::Saved::GivenUp : Family::Saved::Failed;
 }
 
-Family::Saved saveFile(ProjectFile* file, QString* error)
+Family::Saved writeFile(ProjectFile* file, QString* error)
 {
     FamilyDocument* document = documentOf(file);
     if (document) {
@@ -173,6 +174,18 @@ Family::Saved saveFile(ProjectFile* file, QString* error)
     const bool isSaved = file->toFile(*file->archive(), file->fileName(), false);
     *error = file->errorString();
     return isSaved ? Family::Saved::Done : Family::Saved::Failed;
+}
+
+/// What another program writes at this moment is not written over: the file is left alone, and the
+/// person asked about it as about any change.
+Family::Saved saveFile(ProjectFile* file, QString* error)
+{
+    const Zorv::FileChange change(file->fileName());
+    const Family::Saved saved = writeFile(file, error);
+    if (change.isOvertaken()) {
+        pauseWatch(file, false);
+    }
+    return saved;
 }
 
 }  // namespace

@@ -4,7 +4,13 @@
 
 #include <QAction>
 #include <QTextBlock>
+#include <QThread>
 #include <QToolButton>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <thread>
+#include <unistd.h>
 
 using App::MainWindow;
 using Zorv::Dialogs;
@@ -28,6 +34,7 @@ private slots:
 
     void asksWhenAFileChanges_data();
     void asksWhenAFileChanges();
+    void asksAboutWhatIsWrittenDuringASave();
     void staysQuietAboutItsOwnSave();
     void showsAFileThatWentAway();
     void changesTheEncoding_data();
@@ -100,6 +107,30 @@ void tst_WindowFiles::asksWhenAFileChanges()
     QTRY_VERIFY(m->document()->text().contains(QLatin1String("again")));
     QTest::qWait(20);
     QCOMPARE(m->place().line, before.line);
+}
+
+// A save waits for another program, and does not write over what that has written.
+void tst_WindowFiles::asksAboutWhatIsWrittenDuringASave()
+{
+    m->open(*m_game, m_game->ryn());
+    m->type(QStringLiteral("#"));
+    const QString folder = m_game->path("characters/ryn");
+    const int handle = ::open(qPrintable(folder), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    QCOMPARE(::flock(handle, LOCK_EX), 0);
+    std::thread other([&] {
+        QThread::msleep(200);
+        m_game->write("characters/ryn/new.tmp", "# theirs\r\n");
+        rename(qPrintable(folder + "/new.tmp"), qPrintable(m_game->ryn()));
+        ::close(handle);
+    });
+    m->press(Qt::Key_S, Qt::ControlModifier);
+    other.join();
+    QCOMPARE(m->dialogs.count(QStringLiteral("error")), 1);
+    QCOMPARE(m_game->read("characters/ryn/ryn.character"), QByteArray("# theirs\r\n"));
+    QVERIFY(m->document()->isModified());
+    QTRY_COMPARE(m->dialogs.count(QStringLiteral("question")), 1);
+    m->press(Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(m_game->read("characters/ryn/ryn.character").startsWith("#[info]"));
 }
 
 void tst_WindowFiles::staysQuietAboutItsOwnSave()
