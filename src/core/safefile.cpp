@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <optional>
 #include <system_error>
 
 namespace Zorv {
@@ -272,8 +273,12 @@ bool SafeFile::replaceTarget()
 
 bool SafeFile::takePlace(QString* reason)
 {
-    FileTurn turn(m_target);
-    if (!turn.take(reason)) {
+    std::optional<FileTurn> turn;
+    // Nobody else writes copies to a new place.
+    if (m_targetExists || !LazySync::current()) {
+        turn.emplace(m_target);
+    }
+    if (turn && !turn->take(reason)) {
         setFailure(*reason, tr("Nothing is written. Try again in a moment."));
         return false;
     }
@@ -282,8 +287,8 @@ bool SafeFile::takePlace(QString* reason)
         return false;
     }
     const bool isThere = FileReplace::rename(m_file.fileName(), m_target, reason);
-    if (isThere) {
-        turn.done();
+    if (isThere && turn) {
+        turn->done();
     }
     return isThere;
 }

@@ -1,5 +1,6 @@
 #include "core/run/runrecord_p.h"
 
+#include "core/files.h"
 #include "core/folders_p.h"
 
 #include <QCryptographicHash>
@@ -10,7 +11,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -94,9 +94,9 @@ bool RunRecord::write(const QString& fileName) const
         {QStringLiteral("files"), rows},
         {QStringLiteral("madeFolders"), QJsonArray::fromStringList(madeFolders)}};
     const QByteArray content = QJsonDocument(object).toJson(QJsonDocument::Compact);
-    QSaveFile file(fileName);
-    return file.open(QIODevice::WriteOnly) &&
-           file.write(heading() + checksum(content) + content) >= content.size() && file.commit();
+    QString error;
+    return writeFile(fileName, heading() + checksum(content) + content, Existing::IsReplaced,
+                     &error);
 }
 
 bool RunRecord::read(const QString& fileName)
