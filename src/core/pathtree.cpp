@@ -23,6 +23,15 @@ QString withoutLastSlash(const QString& path)
     return result;
 }
 
+/// A folder on disk that its parent lists.
+bool isPlainFolder(const BasePath* node)
+{
+    const QString path = node->absolutePath();
+    const QFileInfo info(path.left(path.size() - 1));
+    return node->isDirectory() && !node->listing() && info.isDir() && !info.isSymLink() &&
+           info.isReadable();
+}
+
 bool sameFiles(const QList<Project::FileInfo>& a, const QList<Project::FileInfo>& b)
 {
     const auto same = [](const Project::FileInfo& x, const Project::FileInfo& y) {
@@ -152,6 +161,12 @@ void ParentProjectPrivate::removePath(const QString& path)
 void ParentProjectPrivate::removeNode(BasePath* node)
 {
     BasePath* parentPath = node->parentPath();
+    if (parentPath->listing() & ParentProject::ListFolders && isPlainFolder(node)) {
+        // It is what a new listing would show; one for each of many projects takes their square.
+        const ChildrenChange change(node);
+        node->takeChildren().clear();
+        return;
+    }
     const ChildrenChange change(parentPath);
     parentPath->removeChild(node);
     // A folder that lists shows the project again, as one that is not open.
