@@ -1,5 +1,6 @@
 #include "code/codedoc/lineindex_p.h"
 
+#include "code/codedoc/codedocument_p.h"
 #include "code/codedoc/ordertree_p.h"
 
 #include <algorithm>
@@ -71,8 +72,19 @@ void LineIndex::setFoldingIndent(CodeBlockData* line, qint16 indent)
     }
 }
 
+/// What the whole text lacks is not looked for: in a large file the way up the tree is far apart in
+/// memory.
+bool LineIndex::isAnywhere(const CodeBlockData* line, quint16 traits)
+{
+    CodeBlockData* root = line->d->owner->lines.m_root;
+    return root && (LineTraits::below(root) & traits) != 0;
+}
+
 CodeBlockData* LineIndex::backward(const CodeBlockData* line, quint16 traits)
 {
+    if (!isAnywhere(line, traits)) {
+        return nullptr;
+    }
     return LineTree::findBackward(
         const_cast<CodeBlockData*>(line),
         [traits](CodeBlockData* l) { return (LineTraits::own(l) & traits) != 0; },
@@ -81,6 +93,9 @@ CodeBlockData* LineIndex::backward(const CodeBlockData* line, quint16 traits)
 
 CodeBlockData* LineIndex::forward(const CodeBlockData* line, quint16 traits)
 {
+    if (!isAnywhere(line, traits)) {
+        return nullptr;
+    }
     return LineTree::findForward(
         const_cast<CodeBlockData*>(line),
         [traits](CodeBlockData* l) { return (LineTraits::own(l) & traits) != 0; },

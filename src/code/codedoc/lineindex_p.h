@@ -38,6 +38,8 @@ public:
     static CodeBlockData* below(const CodeBlockData* line);
 
 private:
+    static bool isAnywhere(const CodeBlockData* line, quint16 traits);
+
     CodeBlockData* m_root = nullptr;
 };
 
