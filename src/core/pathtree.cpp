@@ -23,13 +23,26 @@ QString withoutLastSlash(const QString& path)
     return result;
 }
 
-/// A folder on disk that its parent lists.
-bool isPlainFolder(const BasePath* node)
+/// As a listing sorts them.
+bool isBefore(const BasePath* a, const BasePath* b)
 {
+    return a->pathName().compare(b->pathName(), Qt::CaseInsensitive) < 0;
+}
+
+/// A folder that its parent lists, and that stands where a new listing would show it.
+bool isListedFolder(const BasePath* node)
+{
+    const BasePath* parent = node->parentPath();
+    const int row = node->row();
+    if (!(parent->listing() & ParentProject::ListFolders) || !node->isDirectory() ||
+        node->listing() || parent->isHidden() ||
+        (row > 0 && !isBefore(parent->childAt(row - 1), node)) ||
+        (row + 1 < parent->childCount() && !isBefore(node, parent->childAt(row + 1)))) {
+        return false;
+    }
     const QString path = node->absolutePath();
     const QFileInfo info(path.left(path.size() - 1));
-    return node->isDirectory() && !node->listing() && info.isDir() && !info.isSymLink() &&
-           info.isReadable();
+    return info.isDir() && !info.isSymLink() && !info.isHidden() && info.isReadable();
 }
 
 bool sameFiles(const QList<Project::FileInfo>& a, const QList<Project::FileInfo>& b)
@@ -161,8 +174,8 @@ void ParentProjectPrivate::removePath(const QString& path)
 void ParentProjectPrivate::removeNode(BasePath* node)
 {
     BasePath* parentPath = node->parentPath();
-    if (parentPath->listing() & ParentProject::ListFolders && isPlainFolder(node)) {
-        // It is what a new listing would show; one for each of many projects takes their square.
+    if (isListedFolder(node)) {
+        // Listing anew for each of many projects would take the square of their count.
         const ChildrenChange change(node);
         node->takeChildren().clear();
         return;

@@ -420,6 +420,14 @@ void TestPathTree::closedProjectIsListedAgain()
              QStringList({"dojo.stage 1", "roof.stage"}));
     m_parent->close(dojo);
     QCOMPARE(m_parent->dump(), closed);
+    // Folders that no listing shows, or at another place than where they came in.
+    for (const QString& folder : {QStringLiteral("chars/.hidden"), QStringLiteral("chars/Alto")}) {
+        QVERIFY(writeFile(path(folder + "/a.spr")));
+        m_parent->close(m_parent->open(folder + "/main.code", "2 a.spr"));
+        TestParent fresh(m_dir->path());
+        addListings(fresh);
+        QCOMPARE(m_parent->dump(), fresh.dump());
+    }
 }
 
 void TestPathTree::closedProjectLeavesOthersBelow()
