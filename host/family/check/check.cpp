@@ -13,7 +13,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <memory>
@@ -34,10 +33,11 @@ Problems checkMainFile(FamilyParentProject* game, const QString& mainFile)
     FamilyProject* project = FamilyProject::open(game, mainFile, &error);
     if (!project) {
         const QString name = QDir(game->absolutePath()).relativeFilePath(mainFile);
-        // The problem has advice of its own.
-        QFile file(mainFile);
-        const QString reason = file.open(QIODevice::ReadOnly) ? error : file.errorString();
-        return {problemAt(ProblemId::FileUnreadable, {name, reason}, {{}, name, 1, 1, 0})};
+        const QString reason = unreadableReason(mainFile);
+        Problem problem = problemAt(ProblemId::FileUnreadable, {name, reason}, {{}, name, 1, 1, 0});
+        // Each text has advice of its own.
+        problem.text = reason.isEmpty() ? error : problem.text;
+        return {problem};
     }
     const Problems problems = ProjectCheck(project).run();
     project->release();

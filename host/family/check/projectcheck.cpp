@@ -6,10 +6,10 @@
 #include "project/familyparentproject.h"
 #include "project/familyproject.h"
 #include "project/filereference.h"
+#include "project/unreachable.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -118,13 +118,7 @@ bool ProjectCheck::checkFile(const NamedPlace& place, const FileReference& refer
     if (reference.type == Zorv::FileID::Sprites && info.isDir()) {
         return true;
     }
-    QFile file(info.filePath());
-    QString reason;
-    if (!info.isFile()) {
-        reason = QCoreApplication::translate("Family", "it is not a file");
-    } else if (!file.open(QIODevice::ReadOnly)) {
-        reason = file.errorString();
-    }
+    const QString reason = unreadableReason(info.filePath());
     if (!reason.isEmpty()) {
         m_problems.append(problemAt(ProblemId::FileUnreadable, {place.name, reason}, place));
     }

@@ -42,4 +42,13 @@ QString orUnreachable(const QString& otherwise, const QString& path)
     return reason.isEmpty() ? otherwise.arg(path) : reason;
 }
 
+QString unreadableReason(const QString& fileName)
+{
+    if (!QFileInfo(fileName).isFile()) {
+        return QCoreApplication::translate("Family", "it is not a file");
+    }
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
+}
+
 }  // namespace Family

@@ -11,4 +11,8 @@ QString unreachable(const QString& path);
 /// The same, or else `otherwise`, with the path in the place of its "%1".
 QString orUnreachable(const QString& otherwise, const QString& path);
 
+/// Why a file that is there cannot be read, as a part of a sentence; empty if it can be. A pipe or
+/// a device is not opened, for that may never end.
+QString unreadableReason(const QString& fileName);
+
 }  // namespace Family
