@@ -6,6 +6,8 @@
 #include <cerrno>
 #include <cstdio>
 
+#include <unistd.h>
+
 namespace Cli {
 
 namespace {
@@ -14,16 +16,42 @@ const int GatheredBytes = 64 * 1024;
 
 HeldComplaints* s_held = nullptr;
 
+bool isControl(QChar c)
+{
+    return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
+           c.category() == QChar::Separator_Paragraph;
+}
+
+/// "\x1b", "\u2028".
+QString escaped(QChar c)
+{
+    const bool isByte = c.unicode() < 0x100;
+    return (isByte ? QLatin1String("\\x") : QLatin1String("\\u")) +
+           QString::number(c.unicode(), 16).rightJustified(isByte ? 2 : 4, QLatin1Char('0'));
+}
+
+/// What a terminal would obey becomes signs, but for line ends and tabs.
+QString forTerminal(const QString& text)
+{
+    QString result;
+    for (const QChar c : text) {
+        const bool isLayout = c == QLatin1Char('\n') || c == QLatin1Char('\t');
+        result += isControl(c) && !isLayout ? escaped(c) : QString(c);
+    }
+    return result;
+}
+
 }  // namespace
 
 Output::Output()
 {
+    m_isTerminal = isatty(fileno(stdout)) != 0;
     m_failed = !m_file.open(fileno(stdout), QIODevice::WriteOnly | QIODevice::Unbuffered);
 }
 
 void Output::write(const QString& text)
 {
-    m_pending += text.toUtf8();
+    m_pending += (m_isTerminal ? forTerminal(text) : text).toUtf8();
     if (m_pending.size() > GatheredBytes) {
         flush();
     }
@@ -87,18 +115,10 @@ QString printable(const QString& text)
 {
     QString result;
     for (const QChar c : text) {
-        const bool isControl = c.category() == QChar::Other_Control ||
-                               c.category() == QChar::Separator_Line ||
-                               c.category() == QChar::Separator_Paragraph;
-        if (!isControl) {
-            result += c;
-        } else if (c == QLatin1Char('\n')) {
+        if (c == QLatin1Char('\n')) {
             result += QLatin1String("\\n");
         } else {
-            const bool isByte = c.unicode() < 0x100;
-            result += isByte ? QLatin1String("\\x") : QLatin1String("\\u");
-            result +=
-                QString::number(c.unicode(), 16).rightJustified(isByte ? 2 : 4, QLatin1Char('0'));
+            result += isControl(c) ? escaped(c) : QString(c);
         }
     }
     return result;

@@ -13,6 +13,8 @@ class Output
 public:
     Output();
 
+    /// Writes a text as it is; on a terminal control characters become signs, as `printable()`
+    /// has them, but for line ends and tabs.
     void write(const QString& text);
 
     /// Writes texts with a tab between and a line end, each as `printable()`.
@@ -33,6 +35,7 @@ private:
 
     QFile m_file;
     QByteArray m_pending;
+    bool m_isTerminal = false;
     bool m_failed = false;
     bool m_readerGone = false;
 };
