@@ -92,6 +92,10 @@ QString engineProblem(const Zorv::EngineInfo& engine)
     if (engine.executable.isEmpty()) {
         return Text::tr("Choose the program of the engine '%1'.").arg(engine.name);
     }
+    if (QDir::isRelativePath(engine.executable)) {
+        return Text::tr("'%1' is another program in each folder. Write its whole path.")
+            .arg(engine.executable);
+    }
     if (!QFileInfo(engine.executable).isFile()) {
         return Text::tr("There is no program '%1'. Correct its path.").arg(engine.executable);
     }

@@ -55,6 +55,8 @@ void TestEngines::listsComeBack()
     }
     useEngines(settings);
     QCOMPARE(texts(FamilyEngineModel::instance()->engines()), texts(engines));
+    QCOMPARE(FamilyEngineModel::instance()->engine(1).executable,
+             QDir::home().filePath("relative"));
     useEngines(*std::make_unique<QSettings>(m_dir.filePath("none"), QSettings::IniFormat));
     QCOMPARE(FamilyEngineModel::instance()->engineCount(), 0);
 }
@@ -116,6 +118,10 @@ void TestEngines::problems_data()
                              << "/no/such"
                              << "%0"
                              << "'/no/such'";
+    QTest::newRow("not whole") << "a"
+                               << "fight"
+                               << "%0"
+                               << "'fight' is another program in each folder";
     QTest::newRow("folder") << "a"
                             << "/"
                             << "%0"

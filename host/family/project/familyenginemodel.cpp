@@ -2,6 +2,7 @@
 
 #include "grammar/grammar.h"
 
+#include <QDir>
 #include <QIcon>
 #include <QStandardPaths>
 
@@ -48,7 +49,12 @@ int FamilyEngineModel::engineCount() const
 
 Zorv::EngineInfo FamilyEngineModel::engine(unsigned index) const
 {
-    return m_engines.value(int(index));
+    Zorv::EngineInfo engine = m_engines.value(int(index));
+    // What lies in the current folder may be from anybody.
+    if (!engine.executable.isEmpty()) {
+        engine.executable = QDir::home().absoluteFilePath(engine.executable);
+    }
+    return engine;
 }
 
 void FamilyEngineModel::setEngines(const QVector<Zorv::EngineInfo>& engines)

@@ -31,7 +31,8 @@ public:
     QString displayName() const override;
     int engineCount() const override;
 
-    /// An empty record outside of the list.
+    /// To be started: a path that is not whole begins in the person's own folder. An empty record
+    /// outside of the list.
     Zorv::EngineInfo engine(unsigned index) const override;
 
     /// Changes to the list; the host keeps it in its settings.
