@@ -1313,16 +1313,20 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Es hat sich geändert, seit Sie ihm zuletzt zugestimmt haben.</translation>
     </message>
     <message>
-        <source>If you do not agree, an engine of the options is started.</source>
-        <translation>Wenn Sie nicht zustimmen, wird eine Engine der Optionen gestartet.</translation>
-    </message>
-    <message>
         <source>Start it?</source>
         <translation>Starten?</translation>
     </message>
     <message>
         <source>%1 cannot be read, so it is not started.</source>
         <translation>%1 kann nicht gelesen werden und wird darum nicht gestartet.</translation>
+    </message>
+    <message>
+        <source>No starts the engine &apos;%1&apos; of the options in its place.</source>
+        <translation>Nein startet an seiner Stelle die Engine &apos;%1&apos; der Optionen.</translation>
+    </message>
+    <message>
+        <source>No lets you choose an engine of the options in its place.</source>
+        <translation>Nein lässt Sie an seiner Stelle eine Engine der Optionen wählen.</translation>
     </message>
 </context>
 <context>
@@ -2765,6 +2769,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>&apos;%1&apos; cannot be read: %2. Check the permissions of the folders on the way.</source>
         <translation>&apos;%1&apos; kann nicht gelesen werden: %2. Prüfen Sie die Rechte der Ordner auf dem Weg.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is another program in each folder. Write its whole path.</source>
+        <translation>&apos;%1&apos; ist in jedem Ordner ein anderes Programm. Bitte den ganzen Pfad schreiben.</translation>
     </message>
 </context>
 <context>

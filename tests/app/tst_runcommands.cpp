@@ -194,8 +194,10 @@ void TestRunCommands::programOfTheGameIsAskedAbout()
     // What the person has chosen is started in its place.
     const QString mine = m_dir->filePath("mine");
     QVERIFY(QFile::copy(m_game->path("zorv-player"), mine));
-    Family::FamilyEngineModel::instance()->setEngines({{"mine", mine, "%0", {}}});
+    Family::FamilyEngineModel::instance()->setEngines({{"mine\nmore", mine, "%0", {}}});
+    QCOMPARE(run(PlannedDialogs::Cancel), 0);
     QCOMPARE(run(PlannedDialogs::No), 1);
+    QVERIFY(dialogs.texts("question").first().contains("'mine^Jmore'"));
     Family::FamilyEngineModel::instance()->setEngines({});
     QCOMPARE(run(PlannedDialogs::Yes), 2);
     QCOMPARE(run(PlannedDialogs::No), 3);

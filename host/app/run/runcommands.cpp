@@ -3,6 +3,7 @@
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
 #include "app/run/outputpanel.h"
+#include "app/run/outputtext.h"
 #include "core/dialogs/dialogs.h"
 #include "core/run/temporarycopies.h"
 #include "family/project/familyenginemodel.h"
@@ -39,8 +40,32 @@ QString namesOf(const QStringList& paths)
     return names.join(QLatin1Char('\n'));
 }
 
-bool askToStart(const QString& program, Family::Agreement agreement, bool hasOthers)
+/// On one line, for whoever names a folder could write a text of the window with it.
+QString shownName(const QString& name)
 {
+    OutputText signs;
+    const QString shown = signs.decode(name.toUtf8()) + signs.finish();
+    return QString(shown).replace(QLatin1Char('\n'), QLatin1String("^J"));
+}
+
+/// What is started if the person does not agree to the program of the game.
+QString otherEngine()
+{
+    const auto* engines = Family::FamilyEngineModel::instance();
+    switch (engines->engineCount()) {
+    case 0:
+        return {};
+    case 1:
+        return RunCommands::tr("No starts the engine '%1' of the options in its place.")
+            .arg(shownName(engines->engine(0).name));
+    default:
+        return RunCommands::tr("No lets you choose an engine of the options in its place.");
+    }
+}
+
+Dialogs::Button askToStart(const QString& program, Family::Agreement agreement)
+{
+    const QString other = otherEngine();
     QStringList parts{
         RunCommands::tr(
             "The folder of this game has an engine of its own, which would be started:"),
@@ -50,13 +75,14 @@ bool askToStart(const QString& program, Family::Agreement agreement, bool hasOth
     if (agreement == Family::Agreement::Outdated) {
         parts.insert(2, RunCommands::tr("It has changed since you last agreed to it."));
     }
-    if (hasOthers) {
-        parts.append(RunCommands::tr("If you do not agree, an engine of the options is started."));
+    if (!other.isEmpty()) {
+        parts.append(other);
     }
     parts.append(RunCommands::tr("Start it?"));
-    return Dialogs::instance()->question(RunCommands::tr("Engine"),
-                                         parts.join(QLatin1String("\n\n")),
-                                         Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
+    const Dialogs::Buttons yesOrNo = Dialogs::Yes | Dialogs::No;
+    return Dialogs::instance()->question(
+        RunCommands::tr("Engine"), parts.join(QLatin1String("\n\n")),
+        other.isEmpty() ? yesOrNo : yesOrNo | Dialogs::Cancel, Dialogs::No);
 }
 
 }  // namespace
@@ -123,7 +149,7 @@ bool RunCommands::settleProgram(Family::GameProgram* program) const
     if (!found.isThere() || !host || !host->settings()) {
         return true;
     }
-    const QString shown = QDir::toNativeSeparators(found.path());
+    const QString shown = shownName(QDir::toNativeSeparators(found.path()));
     const bool hasOthers = Family::FamilyEngineModel::instance()->engineCount() > 0;
     if (found.checksum().isEmpty()) {
         Dialogs::instance()->warning(tr("Engine"),
@@ -131,12 +157,14 @@ bool RunCommands::settleProgram(Family::GameProgram* program) const
         return hasOthers;
     }
     const Family::Agreement agreement = agreementTo(found, *host->settings());
-    if (agreement == Family::Agreement::Given || askToStart(shown, agreement, hasOthers)) {
+    const Dialogs::Button answer =
+        agreement == Family::Agreement::Given ? Dialogs::Yes : askToStart(shown, agreement);
+    if (answer == Dialogs::Yes) {
         agreeTo(found, *host->settings());
         *program = found;
         return true;
     }
-    return hasOthers;
+    return answer == Dialogs::No && hasOthers;
 }
 
 void RunCommands::stop()
