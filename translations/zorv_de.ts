@@ -2954,14 +2954,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Erwartet: der Name einer Datei; gefunden: ein leerer Text.</translation>
     </message>
     <message>
-        <source>Cannot open %1: It is a folder. Name a file in it.</source>
-        <translation>%1 kann nicht geöffnet werden: Es ist ein Ordner. Bitte eine Datei darin nennen.</translation>
-    </message>
-    <message>
-        <source>Cannot open %1: It is not a plain file. Name a file on a disk.</source>
-        <translation>%1 kann nicht geöffnet werden: Es ist keine gewöhnliche Datei. Bitte eine Datei auf einem Datenträger nennen.</translation>
-    </message>
-    <message>
         <source>Cannot open %1: It is larger than %2 MB. Divide it into several files.</source>
         <translation>%1 kann nicht geöffnet werden: Die Datei ist größer als %2 MB. Bitte in mehrere Dateien teilen.</translation>
     </message>
@@ -5133,8 +5125,12 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
         <translation>Die Datei gibt es nicht</translation>
     </message>
     <message>
-        <source>It is not a plain file</source>
-        <translation>Es ist keine gewöhnliche Datei</translation>
+        <source>Cannot open %1: It is a folder. Name a file in it.</source>
+        <translation>%1 kann nicht geöffnet werden: Es ist ein Ordner. Bitte eine Datei darin nennen.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: It is not a plain file. Name a file on a disk.</source>
+        <translation>%1 kann nicht geöffnet werden: Es ist keine gewöhnliche Datei. Bitte eine Datei auf einem Datenträger nennen.</translation>
     </message>
 </context>
 <context>

@@ -42,8 +42,9 @@ QString folderOf(const FamilyParentProject& game, const QString& backup)
 bool isSame(const QString& a, const QString& b)
 {
     QFile left(a), right(b);
-    if (QFileInfo(a).size() != QFileInfo(b).size() || !left.open(QIODevice::ReadOnly) ||
-        !right.open(QIODevice::ReadOnly)) {
+    // A pipe is as long as an empty file, and to open it may take for ever.
+    if (!QFileInfo(a).isFile() || !QFileInfo(b).isFile() || left.size() != right.size() ||
+        !left.open(QIODevice::ReadOnly) || !right.open(QIODevice::ReadOnly)) {
         return false;
     }
     QByteArray block;

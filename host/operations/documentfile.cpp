@@ -32,24 +32,15 @@ QString shownName(const Zorv::CodeDocument* document)
     return QDir::toNativeSeparators(path.startsWith(here) ? path.mid(here.size()) : path);
 }
 
-// What must not even be opened: reading a pipe or a device may never end.
 QString readingObstacle(const QString& fileName)
 {
     const QFileInfo info(fileName);
-    const QString shown = QDir::toNativeSeparators(fileName);
     if (fileName.isEmpty()) {
         return Text::tr("Expected the name of a file; found an empty text.");
     }
-    if (info.isDir()) {
-        return Text::tr("Cannot open %1: It is a folder. Name a file in it.").arg(shown);
-    }
-    if (info.exists() && !info.isFile()) {
-        return Text::tr("Cannot open %1: It is not a plain file. Name a file on a disk.")
-            .arg(shown);
-    }
     if (info.size() > MaxFileSize) {
         return Text::tr("Cannot open %1: It is larger than %2 MB. Divide it into several files.")
-            .arg(shown, QString::number(MaxFileSize / 1024 / 1024));
+            .arg(QDir::toNativeSeparators(fileName), QString::number(MaxFileSize / 1024 / 1024));
     }
     return {};
 }

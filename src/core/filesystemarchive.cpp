@@ -39,6 +39,20 @@ void setReadError(QString* error, const QString& path, const QString& reason)
     }
 }
 
+void setKindError(QString* error, const QFileInfo& info)
+{
+    if (error) {
+        const char* const text =
+            info.isDir() ? QT_TRANSLATE_NOOP("Zorv::FileSystemArchive",
+                                             "Cannot open %1: It is a folder. Name a file in it.")
+                         : QT_TRANSLATE_NOOP("Zorv::FileSystemArchive",
+                                             "Cannot open %1: It is not a plain file. Name a file "
+                                             "on a disk.");
+        *error = QCoreApplication::translate("Zorv::FileSystemArchive", text)
+                     .arg(QDir::toNativeSeparators(info.filePath()));
+    }
+}
+
 }  // namespace
 
 FileSystemArchive* FileSystemArchive::instance()
@@ -86,9 +100,7 @@ QIODevice* FileSystemArchive::openFile(const QString& path, QIODevice::OpenMode 
         return nullptr;
     }
     if (!info.isFile()) {
-        setReadError(
-            error, path,
-            QCoreApplication::translate("Zorv::FileSystemArchive", "It is not a plain file"));
+        setKindError(error, info);
         return nullptr;
     }
     auto file = std::make_unique<QFile>(path);

@@ -110,6 +110,7 @@ public:
         }
     }
     bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
+    QString output() { return QString::fromUtf8(m_process.readAllStandardOutput()); }
     QString errors() { return QString::fromUtf8(m_process.readAllStandardError()); }
 
 private:
@@ -331,17 +332,23 @@ void TestPrograms::refusesWhatIsNoFile_data()
                                            "200-2.png", "--palette", pipe};
     QTest::newRow("export") << QStringList{"sprites", "export",    "a.sprites",
                                            "out/",    "--palette", pipe};
+    QTest::newRow("main file") << QStringList{"check", "pipe.character"};
+    QTest::newRow("sound list") << QStringList{"sound", "list", pipe};
 }
 
 void TestPrograms::refusesWhatIsNoFile()
 {
     QFETCH(QStringList, command);
     putContents(at({}), m_start);
-    QCOMPARE(::mkfifo(qPrintable(at("pipe")), 0600), 0);
+    const bool isCheck = command.first() == "check";
+    const QString pipe = isCheck ? command.last() : "pipe";
+    QCOMPARE(::mkfifo(qPrintable(at(pipe)), 0600), 0);
     Program program(at({}), command);
-    QCOMPARE(program.end(), 3);
-    QVERIFY(program.errors().contains("plain file"));
-    QVERIFY(QFile::remove(at("pipe")));
+    QCOMPARE(program.end(), isCheck ? 1 : 3);
+    const QString told = isCheck ? program.output() : program.errors();
+    const QString wanted = isCheck ? "it is not a file" : "plain file. Name a file on a disk.";
+    QVERIFY2(told.contains(wanted), qPrintable(told));
+    QVERIFY(QFile::remove(at(pipe)));
     QCOMPARE(contentsOf(at({}).chopped(1)), m_start);
 }
 
