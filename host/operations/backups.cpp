@@ -8,6 +8,7 @@
 #include "family/project/familyproject.h"
 #include "family/project/filereference.h"
 #include "family/project/unnamedprojects.h"
+#include "family/project/unreachable.h"
 #include "operations/sharedfiles.h"
 
 #include <QCoreApplication>
@@ -220,6 +221,9 @@ QList<FamilyProject*> openAllProjects(FamilyParentProject* game, QStringList* er
     }
     for (const QString& path : unnamedProjects(game->absolutePath())) {
         errors->append(unnamedProjectText(path));
+    }
+    for (const QString& path : closedFolders(game->absolutePath())) {
+        errors->append(unreachable(path));
     }
     QList<FamilyProject*> projects;
     for (const QString& mainFile : FamilyParentProject::mainFiles(game->absolutePath())) {

@@ -1,36 +1,24 @@
 #include "operations/checkpath.h"
 
 #include "family/check/check.h"
+#include "family/project/unreachable.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QDirIterator>
 
 namespace Family {
 
 namespace {
 
-// What cannot be looked into may hold a project: it is not passed over.
-Problems closedFolders(const QString& folder, const QDir& game)
+Problem problemOf(const QString& closedFolder, const QDir& game)
 {
-    Problems problems;
-    QDirIterator folders(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
-                         QDirIterator::Subdirectories);
-    while (folders.hasNext()) {
-        const QString path = folders.next();
-        const QFileInfo info = folders.fileInfo();
-        if (!info.isReadable() || !info.isExecutable()) {
-            Problem problem;
-            problem.id = ProblemId::FileUnreadable;
-            problem.level = problemInfo(problem.id).level;
-            problem.file = game.relativeFilePath(path);
-            problem.text = problemText(
-                problem.id,
-                {problem.file, QCoreApplication::translate("Family", "Permission denied")});
-            problems.append(problem);
-        }
-    }
-    return problems;
+    Problem problem;
+    problem.id = ProblemId::FileUnreadable;
+    problem.level = problemInfo(problem.id).level;
+    problem.file = game.relativeFilePath(closedFolder);
+    problem.text = problemText(
+        problem.id, {problem.file, QCoreApplication::translate("Family", "Permission denied")});
+    return problem;
 }
 
 }  // namespace
@@ -44,7 +32,9 @@ Problems checkPath(const QString& path, QString* error)
     }
     const QDir game(folder);
     if (error->isEmpty() && QFileInfo(path).isDir()) {
-        problems += closedFolders(QFileInfo(path).absoluteFilePath(), game);
+        for (const QString& closed : closedFolders(QFileInfo(path).absoluteFilePath())) {
+            problems.append(problemOf(closed, game));
+        }
         sortProblems(&problems);
     }
     const bool isRelative = QDir::isRelativePath(path);

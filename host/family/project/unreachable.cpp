@@ -1,5 +1,7 @@
 #include "project/unreachable.h"
 
+#include "project/familyparentproject.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -22,6 +24,22 @@ int obstacleTo(const QString& path)
         return errno == ENOENT || errno == ENOTDIR ? 0 : errno;
     }
     return S_ISDIR(info.st_mode) && access(name.constData(), R_OK | X_OK) != 0 ? errno : 0;
+}
+
+void collectClosed(const QDir& folder, int depth, QStringList* list)
+{
+    const QFileInfoList entries =
+        folder.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    for (const QFileInfo& entry : entries) {
+        if (!FamilyParentProject::isProjectFolder(entry.fileName(), depth)) {
+            continue;
+        }
+        if (entry.isReadable() && entry.isExecutable()) {
+            collectClosed(QDir(entry.filePath()), depth + 1, list);
+        } else {
+            list->append(entry.filePath());
+        }
+    }
 }
 
 }  // namespace
@@ -49,6 +67,13 @@ QString unreadableReason(const QString& fileName)
     }
     QFile file(fileName);
     return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
+}
+
+QStringList closedFolders(const QString& folder)
+{
+    QStringList list;
+    collectClosed(QDir(folder), 0, &list);
+    return list;
 }
 
 }  // namespace Family

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 namespace Family {
 
@@ -14,5 +14,9 @@ QString orUnreachable(const QString& otherwise, const QString& path);
 /// Why a file that is there cannot be read, as a part of a sentence; empty if it can be. A pipe or
 /// a device is not opened, for that may never end.
 QString unreadableReason(const QString& fileName);
+
+/// The folders below one, as paths that begin with it, that cannot be looked into and so may hold
+/// projects. Looks where `FamilyParentProject::mainFiles()` does.
+QStringList closedFolders(const QString& folder);
 
 }  // namespace Family
