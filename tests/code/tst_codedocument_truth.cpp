@@ -118,6 +118,7 @@ private slots:
     void editsByTree_data() { addRuns(); }
     void editsByTree();
     void stateOfNewLines();
+    void framesAmongValues();
 };
 
 void CodeDocumentTruth::randomEdits()
@@ -205,6 +206,21 @@ void CodeDocumentTruth::stateOfNewLines()
     cursor.insertText(QStringLiteral("# one\n# two"));
     QCOMPARE(document.messages()->count(Message::Error), 2);
     QVERIFY(!document.next());
+}
+
+/// Children that a grammar adds to an animation do not count as frames.
+void CodeDocumentTruth::framesAmongValues()
+{
+    LadderDocument document(LadderGrammar::Reuse::All, QStringLiteral("@a\nm: 1\n+ p\nm: 2\n+ q"));
+    const auto* animation = static_cast<const AnimationCode*>(document.next());
+    QCOMPARE(animation->childCount(), 4);
+    for (int i = 0; i < 2; ++i) {
+        const FrameCode* frame = animation->frames().value(i);
+        QVERIFY(frame);
+        QCOMPARE(frame->index(), i);
+        QCOMPARE(frame->firstLine(), 1 + 2 * i);
+        QCOMPARE(frame->lastLine(), 2 + 2 * i);
+    }
 }
 
 QTEST_MAIN(CodeDocumentTruth)

@@ -59,7 +59,8 @@ CodeNode* LadderGrammar::parse(const QString& text, CodeNode* oldNode, CodeNode*
     }
     if (text.indexOf(QLatin1Char(':')) > 0 && head) {
         auto* value = old(static_cast<LadderValue*>(nullptr));
-        value = value ? value : new LadderValue(previous);
+        const bool joins = text.startsWith(QLatin1Char('m'));
+        value = value && value->joins() == joins ? value : new LadderValue(previous, joins);
         value->take(text, dynamic_cast<const NamedCode*>(head)->name());
         return value;
     }
@@ -83,6 +84,15 @@ LadderGroup::LadderGroup(CodeNode* previous, int depth, unsigned number, const Q
         above->insertChild(this, unsigned(-1));
     } else {
         insertRootChild(this);
+    }
+}
+
+LadderValue::LadderValue(CodeNode* previous, bool joins)
+    : ValueCode(previous, Text, {}), m_joins(joins)
+{
+    CodeNode* head = lineHead(previous);
+    if (joins && head->type() == Animation) {
+        static_cast<AnimationCode*>(head)->insertChild(this, unsigned(-1));
     }
 }
 

@@ -14,7 +14,8 @@
 ///     .3 name      a sub-group of the group above; ..3 one of the sub-group above
 ///     @name        an animation
 ///     + picture    a frame; an error but under an animation
-///     key: text    a value, under whatever head; it keeps the name of that head
+///     key: text    a value, under whatever head; it keeps the name of that head. The key "m" is a
+///                  child of an animation above it, too
 ///     ; text       a comment; anything else is an error
 ///
 /// Under `Reuse::All` every node that a line had is brought up to date if it can be, but heads
@@ -54,15 +55,17 @@ private:
 class LadderValue : public Zorv::ValueCode
 {
 public:
-    explicit LadderValue(Zorv::CodeNode* previous) : ValueCode(previous, Text, {}) {}
+    LadderValue(Zorv::CodeNode* previous, bool joins);
     void release() override { delete this; }
     QString name() const override { return m_key; }
     void setName(const QString&) override {}
     bool write(const QVariant& value) override;
     QString unsignedText(unsigned value) const override { return QString::number(value); }
     void take(const QString& line, const QString& head);
+    bool joins() const { return m_joins; }
 
 private:
+    bool m_joins;
     QString m_key;
 };
 

@@ -69,6 +69,11 @@ QList<FrameCode*> AnimationCode::frames() const
     return m_children.ofType<FrameCode>(CodeNode::Frame);
 }
 
+int AnimationCode::indexOfFrame(const FrameCode* frame) const
+{
+    return m_isMixed ? frames().indexOf(const_cast<FrameCode*>(frame)) : m_children.indexOf(frame);
+}
+
 void AnimationCode::removeFrame(unsigned index)
 {
     if (FrameCode* frame = frames().value(int(index))) {
@@ -104,6 +109,7 @@ void AnimationCode::insertChild(CodeNode* child, unsigned index)
 {
     ParentCode::insertChild(child, index);
     m_children.insert(index, child);
+    m_isMixed = m_isMixed || child->type() != CodeNode::Frame;
 }
 
 void AnimationCode::removeChild(CodeNode* child)

@@ -61,9 +61,13 @@ protected:
     void handOver() override;
 
 private:
+    friend class FrameCode;
+
     void adopt();
+    int indexOfFrame(const FrameCode* frame) const;
 
     CodeNodeList m_children;
+    bool m_isMixed = false;  ///< has had children that are no frames
 };
 
 }  // namespace Zorv

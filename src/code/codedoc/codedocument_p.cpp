@@ -156,8 +156,7 @@ CodeNode* CodeDocumentPrivate::parseLine(const QTextBlock& block, CodeBlockData*
     const quint32 contextAbove = above ? above->d->context : 0;
     CodeNode* old = data->d->node;
     const bool isUnderOther = contextAbove != data->d->contextAbove;
-    const bool mayStay = old && old->m_previous == previous &&
-                         (!isUnderOther || old->m_isUnderHead || old->isInPlace());
+    const bool mayStay = old && old->m_previous == previous && (!isUnderOther || knowsPlace(old));
     isParsing = true;
     CodeNode* node = parser->parse(text, mayStay ? old : nullptr, previous, q, syntax);
     if (node && (node != old || isUnderOther)) {

@@ -120,6 +120,7 @@ private:
     static int stateOf(const CodeNode* node);
     quint32 contextOf(CodeNode* node, CodeNode* old, const CodeBlockData* data,
                       const QString& text);
+    static bool knowsPlace(const CodeNode* node);
     static void place(CodeNode* node, bool isKept);
     static void placeAmongSiblings(CodeNode* node);
     void storeMessages(CodeBlockData* data, bool hadMessages);

@@ -57,10 +57,14 @@ void CodeDocumentPrivate::retire(CodeNode* node)
 
 namespace {
 
-/// The parent that a value or a frame finds by itself.
-ParentCode* parentByHead(const CodeNode* node)
+CodeNode* headAbove(const CodeNode* node)
 {
-    CodeNode* head = NodeChain::backward(node, CodeNode::Group | CodeNode::Animation);
+    return NodeChain::backward(node, CodeNode::Group | CodeNode::Animation);
+}
+
+/// The parent that a value or a frame finds by itself.
+ParentCode* parentByHead(const CodeNode* node, CodeNode* head)
+{
     const bool isValue = node->type() == CodeNode::Value;
     return head && head->type() == (isValue ? CodeNode::Group : CodeNode::Animation)
                ? static_cast<ParentCode*>(head)
@@ -69,18 +73,27 @@ ParentCode* parentByHead(const CodeNode* node)
 
 }  // namespace
 
-/// A node that is kept under another head goes where a new one would have gone. That is known of
-/// values and frames, as long as the grammar does not put them elsewhere.
+/// True if it is known where under its head a new node would go: a leaf that its constructor left
+/// where a head of the same kind put it, or a head that knows for itself.
+bool CodeDocumentPrivate::knowsPlace(const CodeNode* node)
+{
+    const CodeNode* head = headAbove(node);
+    return node->m_placedBy == (head ? head->type() : 0) || node->isInPlace();
+}
+
+/// A node that is kept under another head goes where a new one would have gone.
 void CodeDocumentPrivate::place(CodeNode* node, bool isKept)
 {
     if (node->m_type & (CodeNode::Value | CodeNode::Frame)) {
-        ParentCode* parent = parentByHead(node);
+        CodeNode* head = headAbove(node);
+        ParentCode* parent = parentByHead(node, head);
         if (isKept && parent && node->m_parent != parent) {
             parent->insertChild(node, unsigned(-1));
         } else if (isKept && !parent && node->m_parent) {
             node->m_parent->removeChild(node);
         }
-        node->m_isUnderHead = node->m_parent == parent;
+        const int headType = head ? head->type() : 0;
+        node->m_placedBy = node->m_parent == parent ? uchar(headType) : CodeNode::Elsewhere;
     }
     placeAmongSiblings(node);
 }

@@ -144,6 +144,8 @@ protected:
     virtual bool isInPlace() const;
 
 private:
+    static constexpr unsigned char Elsewhere = 0xff;
+
     QTextBlock m_block;
     ParentCode* m_parent = nullptr;
     CodeNode* m_previous = nullptr;
@@ -156,7 +158,8 @@ private:
     Type m_type;
     unsigned short m_chainMask = 0;
     bool m_isTracked = false;
-    bool m_isUnderHead = false;  // of a leaf: parsed, with the parent that the nearest head makes
+    unsigned char m_placedBy = Elsewhere;  // of a leaf with the parent that its head gives it:
+                                           // the type of that head, 0 without one
 };
 
 /// The head of a line, from the last node before it: the group or animation that the line

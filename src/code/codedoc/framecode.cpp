@@ -25,7 +25,9 @@ QStringList FrameCode::propertyNames() const
 
 int FrameCode::index() const
 {
-    return parentCode() ? parentCode()->childIndex(const_cast<FrameCode*>(this)) : -1;
+    const ParentCode* parent = parentCode();
+    const bool isFrame = parent && parent->type() == CodeNode::Animation;
+    return isFrame ? static_cast<const AnimationCode*>(parent)->indexOfFrame(this) : -1;
 }
 
 int FrameCode::firstLine() const
@@ -34,6 +36,9 @@ int FrameCode::firstLine() const
         return CodeNode::firstLine();
     }
     const CodeNode* before = CodeNodeList::previous(this);
+    while (before && before->type() != CodeNode::Frame) {
+        before = CodeNodeList::previous(before);
+    }
     return (before ? before->lastLine() : parentCode()->CodeNode::lastLine()) + 1;
 }
 
