@@ -299,6 +299,10 @@ void CodeDocumentTest::switchesOff()
     QVERIFY(nodeOfLine(document, 3));
     document.setParser(nullptr);
     QVERIFY(!document.next());
+    QTextCursor(&document).insertText(QStringLiteral("\n"));
+    document.setParser(&document.grammar);
+    QCOMPARE(document.checkErrors(), 1);
+    QCOMPARE(document.messages()->at(0).line, document.blockCount() - 2);
 }
 
 void CodeDocumentTest::roundTrip_data()

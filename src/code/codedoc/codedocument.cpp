@@ -63,6 +63,10 @@ CodeDocument::~CodeDocument()
 void CodeDocument::setParser(CodeParser* parser)
 {
     if (d->parser != parser) {
+        if (!d->parser) {
+            // Without a parser they do not follow the text.
+            messages()->clear();
+        }
         d->parser = parser;
         reparse();
     }
