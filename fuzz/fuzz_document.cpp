@@ -1,7 +1,7 @@
 #include "code/codecs/textcodecs.h"
-#include "core/messages.h"
 #include "family/familydocument.h"
-#include "operations/nodetree.h"
+#include "support/documentdump.h"
+#include "support/laddergrammar.h"
 
 #include <QGuiApplication>
 #include <QTextCursor>
@@ -15,9 +15,10 @@ using Family::FileKind;
 
 namespace {
 
-using Document = std::unique_ptr<FamilyDocument>;
+using Document = std::unique_ptr<Zorv::CodeDocument>;
+using Make = Document (*)(const QString& text);
 
-Document makeDocument(const QString& text)
+Document family(const QString& text)
 {
     auto document = std::make_unique<FamilyDocument>(FileKind::Character);
     document->setOption(QStringLiteral("parseCode"), true, false, false);
@@ -26,22 +27,10 @@ Document makeDocument(const QString& text)
     return document;
 }
 
-/// Tree and messages, as lines to compare.
-QStringList outline(const FamilyDocument& document)
+template <LadderGrammar::Reuse reuse>
+Document ladder(const QString& text)
 {
-    QStringList lines;
-    for (const Family::TreeEntry& entry : Family::nodeTree(&document)) {
-        lines += QStringLiteral("%1 %2 %3")
-                     .arg(entry.depth)
-                     .arg(entry.node->type())
-                     .arg(entry.node->block().blockNumber());
-    }
-    const Zorv::Messages* messages = document.messages();
-    for (int i = 0; i < messages->count(Zorv::Message::AllTypes); ++i) {
-        const Zorv::Message message = messages->at(i);
-        lines += QStringLiteral("%1:%2 %3").arg(message.line).arg(message.column).arg(message.text);
-    }
-    return lines;
+    return std::make_unique<LadderDocument>(reuse, text);
 }
 
 void require(bool holds)
@@ -51,17 +40,31 @@ void require(bool holds)
     }
 }
 
-void requireTruth(const FamilyDocument& document)
-{
-    require(outline(document) == outline(*makeDocument(document.text())));
-}
-
-void replace(FamilyDocument& document, int from, int to, const QString& text)
+void replace(Zorv::CodeDocument& document, int from, int to, const QString& text)
 {
     QTextCursor cursor(&document);
     cursor.setPosition(from);
     cursor.setPosition(to, QTextCursor::KeepAnchor);
     cursor.insertText(text);
+}
+
+/// After each of some edits, and after their undo, nodes, messages and folding are those of a
+/// fresh parse.
+void requireTruth(const QString& text, Make make)
+{
+    const Document document = make(text);
+    const auto requireSame = [&] { require(dumpOf(*document) == dumpOf(*make(document->text()))); };
+    const QString before = document->text();
+    const int end = document->characterCount() - 1;
+    replace(*document, end / 3, end / 3, text.right(text.size() / 2));
+    requireSame();
+    replace(*document, 0, end / 2, QString());
+    requireSame();
+    document->undo();
+    requireSame();
+    document->undo();
+    requireSame();
+    require(document->text() == before);
 }
 
 }  // namespace
@@ -72,25 +75,14 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
     return 0;
 }
 
-/// Any bytes are loaded as a code file. After each of some edits, and after their undo, tree and
-/// messages are those of a fresh parse.
+/// Any bytes are loaded as a code file, in each grammar.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     const auto data = QByteArray::fromRawData(reinterpret_cast<const char*>(bytes), int(size));
     int codec = -1;
     const QString text = Zorv::TextCodecs::stringFromData(data, &codec);
-
-    const Document document = makeDocument(text);
-    const QString before = document->text();
-    const int end = document->characterCount() - 1;
-    replace(*document, end / 3, end / 3, text.right(text.size() / 2));
-    requireTruth(*document);
-    replace(*document, 0, end / 2, QString());
-    requireTruth(*document);
-    document->undo();
-    requireTruth(*document);
-    document->undo();
-    requireTruth(*document);
-    require(document->text() == before);
+    requireTruth(text, family);
+    requireTruth(text, ladder<LadderGrammar::Reuse::All>);
+    requireTruth(text, ladder<LadderGrammar::Reuse::None>);
     return 0;
 }
