@@ -44,7 +44,8 @@ private slots:
     void refusesWhatIsNoGame_data();
     void refusesWhatIsNoGame();
     void opensAProjectByDoubleClick();
-    void opensTheGameAroundAMainFile();
+    void opensTheGameAround_data();
+    void opensTheGameAround();
     void opensTheProjectOfAFile();
     void tellsOfAFileThatIsMissing();
     void showsAFileThatIsNamedNow();
@@ -159,11 +160,25 @@ void tst_MainWindow::opensAProjectByDoubleClick()
     QCOMPARE(m->dialogs.count(), 0);
 }
 
-void tst_MainWindow::opensTheGameAroundAMainFile()
+void tst_MainWindow::opensTheGameAround_data()
 {
-    QVERIFY(window()->openPath(m_game->oda()));
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("isProject");
+    QTest::newRow("main file") << "oda.character" << true;
+    QTest::newRow("folder of a project") << "." << true;
+    QTest::newRow("folder of projects") << ".." << false;
+    QTest::newRow("game") << "../.." << false;
+}
+
+void tst_MainWindow::opensTheGameAround()
+{
+    QFETCH(QString, path);
+    QFETCH(bool, isProject);
+    const QDir folder = QFileInfo(m_game->oda()).dir();
+    QVERIFY(window()->openPath(QDir::cleanPath(folder.filePath(path))));
     QCOMPARE(window()->session()->folder(), m_game->root() + QLatin1Char('/'));
-    QCOMPARE(m->document()->fileName(), m_game->oda());
+    QCOMPARE(window()->session()->projects().size(), isProject ? 1 : 0);
+    QVERIFY(!isProject || m->document()->fileName() == m_game->oda());
 }
 
 /// A file opens the closed project that names it, the one around it first.
