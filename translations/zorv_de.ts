@@ -3235,6 +3235,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>PCX with indexed colours</source>
         <translation>PCX mit indizierten Farben</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; was replaced without what is half transparent in the picture: GIF has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne das ersetzt, was im Bild halb durchsichtig ist: GIF hat keinen Platz dafür. PNG behält es.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was written without what is half transparent in the picture: GIF has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne das geschrieben, was im Bild halb durchsichtig ist: GIF hat keinen Platz dafür. PNG behält es.</translation>
+    </message>
 </context>
 <context>
     <name>Family::OpenAnimation</name>

@@ -25,33 +25,72 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Family::ImageFiles)
 };
 
-bool keepsTransparency(const QByteArray& format, const QImage& image)
+/// Which pixels a format shows otherwise than the picture has them.
+enum class Loss { None, Transparent, HalfTransparent };
+
+Loss possibleLoss(const QByteArray& format, const QImage& image)
 {
-    return format != "BMP" && (format != "PCX" || image.format() != QImage::Format_Indexed8);
+    if (format == "GIF") {
+        return Loss::HalfTransparent;
+    }
+    const bool isIndexed = image.format() == QImage::Format_Indexed8;
+    return format == "BMP" || (format == "PCX" && isIndexed) ? Loss::Transparent : Loss::None;
 }
 
-/// True if a pixel shows something of what is behind it.
-bool isTransparent(const QImage& image)
+bool isLost(Loss loss, int alpha)
 {
-    if (!image.hasAlphaChannel()) {
+    return alpha < 255 && (alpha > 0 || loss == Loss::Transparent);
+}
+
+/// True if the picture has a pixel that would be lost.
+bool hasLoss(const QImage& image, Loss loss)
+{
+    if (loss == Loss::None || !image.hasAlphaChannel()) {
         return false;
     }
     const QVector<QRgb> table = image.colorTable();
-    const auto shows = [&table](uchar index) {
-        return index < table.size() && qAlpha(table[index]) < 255;
+    const auto isLostIndex = [&table, loss](uchar index) {
+        return index < table.size() && isLost(loss, qAlpha(table[index]));
     };
     for (int y = 0; y < image.height(); ++y) {
         const uchar* const line = image.constScanLine(y);
         const auto* const pixels = reinterpret_cast<const QRgb*>(line);
         const bool isFound = image.format() == QImage::Format_Indexed8
-                                 ? std::any_of(line, line + image.width(), shows)
-                                 : std::any_of(pixels, pixels + image.width(),
-                                               [](QRgb pixel) { return qAlpha(pixel) < 255; });
+                                 ? std::any_of(line, line + image.width(), isLostIndex)
+                                 : std::any_of(pixels, pixels + image.width(), [loss](QRgb pixel) {
+                                       return isLost(loss, qAlpha(pixel));
+                                   });
         if (isFound) {
             return true;
         }
     }
     return false;
+}
+
+/// GIF has one transparent index: pixels of others would show their colour.
+QImage withOneTransparentIndex(QImage image)
+{
+    const QVector<QRgb> table = image.colorTable();
+    const auto isTransparent = [](QRgb color) { return qAlpha(color) == 0; };
+    const auto first = std::find_if(table.begin(), table.end(), isTransparent);
+    if (std::count_if(first, table.end(), isTransparent) < 2) {
+        return image;
+    }
+    for (int y = 0; y < image.height(); ++y) {
+        uchar* const line = image.scanLine(y);
+        std::replace_if(
+            line, line + image.width(),
+            [&](uchar index) { return index < table.size() && isTransparent(table[index]); },
+            uchar(first - table.begin()));
+    }
+    return image;
+}
+
+QImage imageForGif(const QImage& image)
+{
+    return image.format() == QImage::Format_Indexed8
+               ? withOneTransparentIndex(image)
+               : Zorv::ColorQuantizer::quantize(image, GifColors);
 }
 
 }  // namespace
@@ -84,13 +123,11 @@ QByteArray imageFile(const QImage& image, const QByteArray& format, const QStrin
                      .arg(name, QString::fromLatin1(format).toLower());
         return {};
     }
-    const bool hasManyColors = format == "GIF" && image.format() != QImage::Format_Indexed8;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     if (!Zorv::saveImage(&buffer, format.constData(),
-                         hasManyColors ? Zorv::ColorQuantizer::quantize(image, GifColors)
-                                       : image)) {
+                         format == "GIF" ? imageForGif(image) : image)) {
         *error = Text::tr("Cannot write '%1': an image of %2 by %3 does not fit the format. Choose "
                           "another one.")
                      .arg(name, QString::number(image.width()), QString::number(image.height()));
@@ -103,16 +140,23 @@ QString lossOf(const QImage& image, const OutputFiles& outputs, int index)
 {
     const QString name = outputs.path(index);
     const QByteArray format = outputs.format(index);
-    if (keepsTransparency(format, image) || !isTransparent(image)) {
+    const Loss loss = possibleLoss(format, image);
+    if (!hasLoss(image, loss)) {
         return {};
     }
-    const QString text = QFileInfo::exists(name)
-                             ? Text::tr("'%1' was replaced without the transparency of the "
-                                        "picture: %2 has no place for it. PNG keeps it.")
-                             : Text::tr("'%1' was written without the transparency of the "
-                                        "picture: %2 has no place for it. PNG keeps it.");
-    return text.arg(name,
-                    format == "BMP" ? QStringLiteral("BMP") : Text::tr("PCX with indexed colours"));
+    const bool isReplaced = QFileInfo::exists(name);
+    if (loss == Loss::HalfTransparent) {
+        return (isReplaced ? Text::tr("'%1' was replaced without what is half transparent in the "
+                                      "picture: GIF has no place for it. PNG keeps it.")
+                           : Text::tr("'%1' was written without what is half transparent in the "
+                                      "picture: GIF has no place for it. PNG keeps it."))
+            .arg(name);
+    }
+    return (isReplaced ? Text::tr("'%1' was replaced without the transparency of the picture: %2 "
+                                  "has no place for it. PNG keeps it.")
+                       : Text::tr("'%1' was written without the transparency of the picture: %2 "
+                                  "has no place for it. PNG keeps it."))
+        .arg(name, format == "BMP" ? QStringLiteral("BMP") : Text::tr("PCX with indexed colours"));
 }
 
 Outcome writeImage(const QImage& image, const OutputFiles& outputs, int index)
