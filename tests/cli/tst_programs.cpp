@@ -18,7 +18,11 @@ namespace {
 
 using Contents = QMap<QString, QByteArray>;
 
+#ifdef __SANITIZE_ADDRESS__
+constexpr int Rounds = 10;  // programs start several times slower
+#else
 constexpr int Rounds = 50;
+#endif
 constexpr int Kills = 20;
 constexpr int EndMilliseconds = 10000;  // less than a command waits for another one
 
