@@ -71,9 +71,11 @@ private:
     pid_t m_pid;
 };
 
+using Act = std::function<bool(const QString&)>;
+
 }  // namespace
 
-Q_DECLARE_METATYPE(std::function<bool(const QString&)>)
+Q_DECLARE_METATYPE(Act)
 
 class TestFileChange : public QObject
 {
@@ -137,7 +139,6 @@ void TestFileChange::nothingIsLost()
 
 void TestFileChange::whatOthersDoIsNoticed_data()
 {
-    using Act = std::function<bool(const QString&)>;
     QTest::addColumn<Act>("act");
     QTest::newRow("written over") << Act([](const QString& p) { return putPlainly(p, "9"); });
     QTest::newRow("replaced") << Act([](const QString& p) {
@@ -150,7 +151,6 @@ void TestFileChange::whatOthersDoIsNoticed_data()
 
 void TestFileChange::whatOthersDoIsNoticed()
 {
-    using Act = std::function<bool(const QString&)>;
     QFETCH(Act, act);
     for (const bool isLocked : {false, true}) {
         QVERIFY(put(m_path, "0"));
