@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -40,6 +41,28 @@ bool isMainName(const QByteArray& name)
     return isMainFile(fileKindOf(QString::fromLatin1(name)));
 }
 
+struct Entry
+{
+    QByteArray name;
+    fs::path path;
+    bool isFolder = false;
+    bool isFile = false;
+};
+
+/// What lies in a folder; Qt's own listing leaves out names that are no text.
+std::vector<Entry> entriesOf(const fs::path& folder)
+{
+    std::vector<Entry> entries;
+    std::error_code error;
+    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
+        std::error_code unknown;
+        const fs::file_status status = it->symlink_status(unknown);
+        entries.push_back({QByteArray::fromStdString(it->path().filename().string()), it->path(),
+                           fs::is_directory(status), fs::is_regular_file(status)});
+    }
+    return entries;
+}
+
 /// The walk through a game.
 class Walk
 {
@@ -48,19 +71,13 @@ public:
 
     void enter(const fs::path& folder, const QString& path, int depth)
     {
-        std::error_code error;
-        for (fs::directory_iterator it(folder, error), end; !error && it != end;
-             it.increment(error)) {
-            const QByteArray name = QByteArray::fromStdString(it->path().filename().string());
-            std::error_code unknown;
-            const fs::file_status status = it->symlink_status(unknown);
-            const bool isFolder = fs::is_directory(status);
-            const bool isLost = !isText(name);
-            if (isLost && (isFolder ? holdsProject(it->path(), depth + 1)
-                                    : fs::is_regular_file(status) && isMainName(name))) {
-                found.append(path + shown(name));
-            } else if (!isLost && isFolder && isEntered(name, depth)) {
-                enter(it->path(), path + shown(name) + QLatin1Char('/'), depth + 1);
+        for (const Entry& entry : entriesOf(folder)) {
+            const bool isLost = !isText(entry.name);
+            if (isLost && (entry.isFolder ? holdsProject(entry.path, depth + 1)
+                                          : entry.isFile && isMainName(entry.name))) {
+                found.append(path + shown(entry.name));
+            } else if (!isLost && entry.isFolder && isEntered(entry.name, depth)) {
+                enter(entry.path, path + shown(entry.name) + QLatin1Char('/'), depth + 1);
             }
         }
     }
@@ -74,19 +91,12 @@ private:
 
     static bool holdsProject(const fs::path& folder, int depth)
     {
-        std::error_code error;
-        for (fs::directory_iterator it(folder, error), end; !error && it != end;
-             it.increment(error)) {
-            const QByteArray name = QByteArray::fromStdString(it->path().filename().string());
-            std::error_code unknown;
-            const fs::file_status status = it->symlink_status(unknown);
-            if ((fs::is_regular_file(status) && isMainName(name)) ||
-                (fs::is_directory(status) && isEntered(name, depth) &&
-                 holdsProject(it->path(), depth + 1))) {
-                return true;
-            }
-        }
-        return false;
+        const std::vector<Entry> entries = entriesOf(folder);
+        return std::any_of(entries.begin(), entries.end(), [depth](const Entry& entry) {
+            return (entry.isFile && isMainName(entry.name)) ||
+                   (entry.isFolder && isEntered(entry.name, depth) &&
+                    holdsProject(entry.path, depth + 1));
+        });
     }
 };
 
