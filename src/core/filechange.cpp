@@ -2,6 +2,7 @@
 
 #include "core/filechange_p.h"
 #include "core/filereplace_p.h"
+#include "core/folders_p.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -27,15 +28,6 @@ class Text
 {
     Q_DECLARE_TR_FUNCTIONS(Zorv::FileChange)
 };
-
-QString nearestFolder(const QString& path)
-{
-    QString folder = QFileInfo(path).absolutePath();
-    while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot()) {
-        folder = QFileInfo(folder).absolutePath();
-    }
-    return folder;
-}
 
 /// The one path of a file, by whatever way it was named; its folder need not be there.
 QString placeOf(const QString& target)

@@ -2,9 +2,9 @@
 
 #include "core/dialogs/dialogs.h"
 #include "core/filewatchobject.h"
+#include "core/folders_p.h"
 #include "core/interface.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 #include <QTimer>
@@ -21,15 +21,6 @@ bool isEnabled()
     const Interface* host = Interface::instance();
     const QVariant option = host ? host->option(QStringLiteral("enable_file_watcher")) : QVariant();
     return !option.isValid() || option.toBool();
-}
-
-QString nearestFolder(const QString& path)
-{
-    QString folder = QFileInfo(path).absolutePath();
-    while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot()) {
-        folder = QFileInfo(folder).absolutePath();
-    }
-    return folder;
 }
 
 }  // namespace

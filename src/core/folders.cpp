@@ -51,4 +51,13 @@ bool isPlainName(const QString& name)
            QDir::fromNativeSeparators(name) == name && !name.contains(QChar(0));
 }
 
+QString nearestFolder(const QString& path)
+{
+    QString folder = QFileInfo(path).absolutePath();
+    while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot()) {
+        folder = QFileInfo(folder).absolutePath();
+    }
+    return folder;
+}
+
 }  // namespace Zorv

@@ -17,4 +17,7 @@ void listFiles(const QString& path, QStringList& list);
 /// True if a text can be the name of one entry of a folder.
 bool isPlainName(const QString& name);
 
+/// The folder of a path, or the nearest one above it that is there.
+QString nearestFolder(const QString& path);
+
 }  // namespace Zorv

@@ -57,11 +57,6 @@ void CodeDocumentPrivate::retire(CodeNode* node)
 
 namespace {
 
-CodeNode* headAbove(const CodeNode* node)
-{
-    return NodeChain::backward(node, CodeNode::Group | CodeNode::Animation);
-}
-
 /// The parent that a value or a frame finds by itself.
 ParentCode* parentByHead(const CodeNode* node, CodeNode* head)
 {
@@ -77,7 +72,7 @@ ParentCode* parentByHead(const CodeNode* node, CodeNode* head)
 /// where a head of the same kind put it, or a head that knows for itself.
 bool CodeDocumentPrivate::knowsPlace(const CodeNode* node)
 {
-    const CodeNode* head = headAbove(node);
+    const CodeNode* head = lineHead(node->m_previous);
     return node->m_placedBy == (head ? head->type() : 0) || node->isInPlace();
 }
 
@@ -85,7 +80,7 @@ bool CodeDocumentPrivate::knowsPlace(const CodeNode* node)
 void CodeDocumentPrivate::place(CodeNode* node, bool isKept)
 {
     if (node->m_type & (CodeNode::Value | CodeNode::Frame)) {
-        CodeNode* head = headAbove(node);
+        CodeNode* head = lineHead(node->m_previous);
         ParentCode* parent = parentByHead(node, head);
         if (isKept && parent && node->m_parent != parent) {
             parent->insertChild(node, unsigned(-1));
