@@ -2,6 +2,7 @@
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
 
+#include "code/codecs/filetext.h"
 #include "code/codecs/textcodecs.h"
 #include "code/codedoc/codeblockdata.h"
 #include "code/codedoc/editordata.h"
@@ -326,6 +327,9 @@ void CodeDocumentTest::roundTrip_data()
     QTest::newRow("paragraph separator") << QByteArray("a\xE2\x80\xA9"
                                                        "b\r\n")
                                          << false << false;
+    QTest::newRow("marks of frames") << QByteArray("a\xEF\xB7\x90\xEF\xB7\x91"
+                                                   "b\r")
+                                     << false << true;
 }
 
 void CodeDocumentTest::roundTrip()
@@ -341,6 +345,10 @@ void CodeDocumentTest::roundTrip()
     Archive& archive = *FileSystemArchive::instance();
     int utf8 = TextCodecs::index("UTF-8");
     QVERIFY(document.fromFile(archive, name, utf8, true));
+    FileText file;
+    QString error;
+    QVERIFY(file.read(archive, name, utf8, &error));
+    QCOMPARE(file.text, document.text());
     QCOMPARE(document.isFaithful(), faithful);
     QCOMPARE(document.hasForeignLineEnds(), foreignEnds);
     QVERIFY(!document.isModified());

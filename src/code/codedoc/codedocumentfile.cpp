@@ -1,5 +1,6 @@
 #include "code/codedoc/codedocument.h"
 
+#include "code/codecs/filetext.h"
 #include "code/codecs/textcodecs.h"
 #include "code/codedoc/codedocument_p.h"
 #include "core/archive.h"
@@ -9,71 +10,14 @@
 #include <QIODevice>
 #include <QUrl>
 
-#include <algorithm>
-
 namespace Zorv {
 
 namespace {
-
-// What a text document can hold, with some room for editing.
-const qint64 MaxBytes = 256 * 1024 * 1024;
-
-QString withPlainLineEnds(QString text)
-{
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-    return text;
-}
-
-/// True if a line ends otherwise than in a carriage return and a line feed.
-bool hasBareLineEnd(const QString& text)
-{
-    for (int i = 0; i < text.size(); ++i) {
-        if (text.at(i) == QLatin1Char('\r')) {
-            if (i + 1 == text.size() || text.at(++i) != QLatin1Char('\n')) {
-                return true;
-            }
-        } else if (text.at(i) == QLatin1Char('\n')) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// A few letters in a text of ASCII mislead a detector. But bytes that are not
-/// meant as UTF-8 hardly ever make sense in it.
-bool isUnmistakablyUtf8(const QByteArray& data)
-{
-    const auto isBeyondAscii = [](char byte) { return (byte & 0x80) != 0; };
-    return std::any_of(data.begin(), data.end(), isBeyondAscii) &&
-           TextCodecs::isFaithful(data, TextCodecs::index("UTF-8"));
-}
 
 /// What the watch and the document call a file.
 QString fullName(const QString& fileName)
 {
     return fileName.isEmpty() ? QString() : QFileInfo(fileName).absoluteFilePath();
-}
-
-/// Part of a file must never pass for the whole: it would be saved over it.
-bool readWhole(QIODevice& device, QByteArray& data, QString* reason)
-{
-    const qint64 size = device.isSequential() ? 0 : device.size();
-    if (size > MaxBytes) {
-        *reason = CodeDocument::tr("It is too large for a text. Choose a file of less than %1 MB")
-                      .arg(MaxBytes / (1024 * 1024));
-        return false;
-    }
-    data = device.readAll();
-    if (data.size() < size) {
-        *reason = device.errorString();
-    }
-    return data.size() >= size;
-}
-
-QString cannot(const char* text, const QString& fileName, const QString& reason)
-{
-    return CodeDocument::tr(text).arg(fileName, reason);
 }
 
 }  // namespace
@@ -130,38 +74,26 @@ bool CodeDocument::fromFile(Archive& archive, const QString& fileName, bool asCo
 bool CodeDocument::fromFile(Archive& archive, const QString& fileName, int codec, bool watch,
                             bool asCopy)
 {
-    QString reason;
-    QIODevice* device = archive.openFile(fileName, QIODevice::ReadOnly, &reason);
-    if (!device) {
-        setErrorString(reason.isEmpty() ? cannot(QT_TR_NOOP("Cannot open %1.%2"), fileName, {})
-                                        : reason);
-        return false;
-    }
-    QByteArray data;
-    const bool isRead = readWhole(*device, data, &reason);
-    archive.closeFile(device);
-    if (!isRead) {
-        setErrorString(tr("Cannot read %1: %2.").arg(fileName, reason));
+    FileText file;
+    QString error;
+    if (!file.read(archive, fileName, codec, &error)) {
+        setErrorString(error);
         return false;
     }
     // The watch moves only now: a file that cannot be read keeps the old one.
     if (watch) {
         FileWatchObject::fromFile(archive, fullName(fileName), asCopy);
     }
-    if (codec < 0 && isUnmistakablyUtf8(data)) {
-        codec = TextCodecs::index("UTF-8");
-    }
-    const QString text = TextCodecs::stringFromData(data, &codec);
     emit aboutToRead();
     messages()->beginChange();
-    setPlainText(text);
+    setPlainText(file.text);
     messages()->endChange();
     emit haveRead();
     using Mark = CodeDocumentPrivate::Mark;
-    d->codec = codec;
-    d->byteOrderMark = TextCodecs::byteOrderMark(data).isEmpty() ? Mark::Absent : Mark::Present;
-    d->hasForeignLineEnds = hasBareLineEnd(text);
-    d->isFaithful = TextCodecs::isFaithful(data, codec) && withPlainLineEnds(text) == this->text();
+    d->codec = file.codec;
+    d->byteOrderMark = file.hasMark ? Mark::Present : Mark::Absent;
+    d->hasForeignLineEnds = file.hasForeignLineEnds;
+    d->isFaithful = file.isFaithful;
     if (!asCopy) {
         setFileName(fileName);
         setArchive(&archive);
@@ -217,7 +149,7 @@ bool CodeDocument::toFile(Archive& archive, const QString& fileName, bool asCopy
         done = archive.closeFile(device, &reason);
     }
     if (!done) {
-        setErrorString(reason.isEmpty() ? cannot(QT_TR_NOOP("Cannot write %1.%2"), fileName, {})
+        setErrorString(reason.isEmpty() ? tr("Cannot write %1.%2").arg(fileName, QString())
                                         : reason);
         renewWatch(oldName);
         return false;
