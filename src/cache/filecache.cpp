@@ -1,6 +1,6 @@
 #include "cache/filecache.h"
 
-#include "core/safefile_p.h"
+#include "core/safefile.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
 #include "core/files.h"
 
 #include "core/archive.h"
-#include "core/safefile_p.h"
+#include "core/safefile.h"
 #include "core/unfinished_p.h"
 
 #include <QCoreApplication>
@@ -101,18 +101,9 @@ bool copyFile(Archive& source, const QString& sourceName, Archive& target,
 
 bool writeFile(const QString& fileName, const QByteArray& bytes, Existing existing, QString* error)
 {
-    forcePath(fileName);
-    SafeFile file(fileName);
-    file.setLazy();
-    QIODevice::OpenMode mode = QIODevice::WriteOnly;
-    if (existing == Existing::Stays) {
-        mode |= QIODevice::NewOnly;
-    }
-    const bool isWritten = file.open(mode) && file.write(bytes) == bytes.size() && file.commit();
-    if (!isWritten) {
-        *error = file.failure();
-    }
-    return isWritten;
+    SafeFile::Options options = SafeFile::IsCopy;
+    options.setFlag(SafeFile::KeepsExisting, existing == Existing::Stays);
+    return SafeFile::save(fileName, bytes, error, options);
 }
 
 void removeUnfinished()

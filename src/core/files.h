@@ -36,9 +36,7 @@ enum class Existing {
     IsReplaced  ///< in one step, once the new one has reached the disk
 };
 
-/// Writes a whole file as `FileSystemArchive` does, with the folder that it needs, for what is
-/// made of something that stays: a new file need not have reached the disk. False, with `error` for
-/// the person, if that fails; what was there is there still. Re-entrant.
+/// `SafeFile::save()` of a copy.
 ZORV_EXPORT bool writeFile(const QString& fileName, const QByteArray& bytes, Existing existing,
                            QString* error);
 

@@ -1,7 +1,7 @@
 #include "core/filesystemarchive.h"
 
 #include "core/files.h"
-#include "core/safefile_p.h"
+#include "core/safefile.h"
 
 #include <QCoreApplication>
 #include <QFile>

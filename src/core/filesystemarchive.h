@@ -6,10 +6,9 @@ namespace Zorv {
 
 /// The archive of plain folders, and the only one that the library provides.
 ///
-/// A file opened for writing is written beside the old one, under a hidden
-/// name; every write and the flush are checked, and the new file takes the old
-/// one's place when the device is given back. Until then, and after any
-/// failure, the old file is whole. The mode of the old file is kept, and a
+/// A file opened for writing is a `SafeFile`: written beside the old one, under
+/// a hidden name, and put in its place when the device is given back. Until
+/// then, and after any failure, the old file is whole. The mode is kept, and a
 /// symbolic link is followed, not replaced. Of a file with several hard links
 /// only the one that was opened changes. A target that exists and is not a
 /// regular file (a pipe, a device), or that is write-protected, is refused.

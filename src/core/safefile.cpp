@@ -1,11 +1,14 @@
-#include "core/safefile_p.h"
+#include "core/safefile.h"
 
 #include "core/filechange_p.h"
 #include "core/filereplace_p.h"
+#include "core/files.h"
 #include "core/lazysync_p.h"
 #include "core/unfinished_p.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <optional>
@@ -33,14 +36,63 @@ QString nameHead(const QFileInfo& target)
 
 }  // namespace
 
-SafeFile::SafeFile(const QString& path) : m_path(path) {}
+class SafeFilePrivate
+{
+    Q_DECLARE_TR_FUNCTIONS(Zorv::SafeFile)
+
+public:
+    SafeFilePrivate(SafeFile* device, const QString& name, SafeFile::Options wanted)
+        : q(device), path(name), options(wanted)
+    {
+    }
+
+    bool checkTarget(QIODevice::OpenMode mode);
+    bool makeFile();
+    bool openNew();
+    bool isTaken() const;
+    bool copyOldContent();
+    bool flush();
+    bool writeOut(const char* data, qint64 size);
+    bool replaceTarget();
+    bool takePlace(QString* reason);
+    void discard();
+    void failWriting(const QString& reason);
+    void setFailure(const QString& reason, const QString& advice);
+
+    SafeFile* q;
+    QString path;    // as the caller knows it
+    QString target;  // with links followed
+    SafeFile::Options options;
+    QFile file;          // the new file; open until commit or failure
+    QByteArray pending;  // to be written where the file stands
+    QString failure;
+    bool targetExists = false;
+    bool isTouched = false;  // differs from the old file, if it began as its copy
+};
+
+SafeFile::SafeFile(const QString& path, Options options)
+    : d(std::make_unique<SafeFilePrivate>(this, path, options))
+{
+}
 
 SafeFile::~SafeFile()
 {
     if (isOpen()) {
         QIODevice::close();
     }
-    discard();
+    d->discard();
+}
+
+bool SafeFile::save(const QString& path, const QByteArray& content, QString* error, Options options)
+{
+    forcePath(path);
+    SafeFile file(path, options);
+    const bool isSaved =
+        file.open(WriteOnly) && file.write(content) == content.size() && file.commit();
+    if (!isSaved) {
+        *error = file.failure();
+    }
+    return isSaved;
 }
 
 bool SafeFile::open(OpenMode mode)
@@ -48,14 +100,14 @@ bool SafeFile::open(OpenMode mode)
     if (mode & (Append | NewOnly)) {
         mode |= WriteOnly;
     }
-    if (!checkTarget(mode) || !makeFile()) {
+    d->options.setFlag(KeepsExisting, d->options.testFlag(KeepsExisting) || (mode & NewOnly));
+    if (!d->checkTarget(mode) || !d->makeFile()) {
         return false;
     }
     const bool keepsOld = (mode & Append) || ((mode & ReadOnly) && !(mode & Truncate));
-    m_isNewOnly = mode & NewOnly;
-    m_touched = !keepsOld || !m_targetExists;
-    if (keepsOld && m_targetExists && !copyOldContent()) {
-        discard();
+    d->isTouched = !keepsOld || !d->targetExists;
+    if (keepsOld && d->targetExists && !d->copyOldContent()) {
+        d->discard();
         return false;
     }
     return QIODevice::open(mode | Unbuffered);
@@ -66,26 +118,36 @@ void SafeFile::close()
     if (!isOpen()) {
         return;
     }
-    flush();
+    d->flush();
     QIODevice::close();
 }
 
 bool SafeFile::commit()
 {
     close();
-    const bool done = m_failure.isEmpty() && (!m_touched || replaceTarget());
-    discard();
+    const bool done = d->failure.isEmpty() && (!d->isTouched || d->replaceTarget());
+    d->discard();
     return done;
 }
 
 void SafeFile::fail(const QString& reason)
 {
-    setFailure(reason, tr("The old file is unchanged."));
+    d->setFailure(reason, tr("The old file is unchanged."));
+}
+
+QString SafeFile::failure() const
+{
+    return d->failure;
+}
+
+bool SafeFile::isSequential() const
+{
+    return false;
 }
 
 qint64 SafeFile::size() const
 {
-    return qMax(m_file.size(), m_file.pos() + m_pending.size());
+    return qMax(d->file.size(), d->file.pos() + d->pending.size());
 }
 
 bool SafeFile::seek(qint64 position)
@@ -93,12 +155,12 @@ bool SafeFile::seek(qint64 position)
     if (!isOpen() || position < 0) {
         return false;
     }
-    if (position != m_file.pos() + m_pending.size()) {
-        if (!flush()) {
+    if (position != d->file.pos() + d->pending.size()) {
+        if (!d->flush()) {
             return false;
         }
-        if (!m_file.seek(position)) {
-            failWriting(m_file.errorString());
+        if (!d->file.seek(position)) {
+            d->failWriting(d->file.errorString());
             return false;
         }
     }
@@ -107,100 +169,103 @@ bool SafeFile::seek(qint64 position)
 
 qint64 SafeFile::readData(char* data, qint64 maxSize)
 {
-    return flush() ? m_file.read(data, maxSize) : -1;
+    return d->flush() ? d->file.read(data, maxSize) : -1;
 }
 
 qint64 SafeFile::writeData(const char* data, qint64 size)
 {
-    if (!m_failure.isEmpty()) {
+    if (!d->failure.isEmpty()) {
         return -1;
     }
-    m_touched = true;
-    if ((openMode() & Append) && m_pending.isEmpty() && !m_file.seek(m_file.size())) {
-        failWriting(m_file.errorString());
+    d->isTouched = true;
+    if ((openMode() & Append) && d->pending.isEmpty() && !d->file.seek(d->file.size())) {
+        d->failWriting(d->file.errorString());
         return -1;
     }
-    if (m_pending.size() + size <= PendingSize) {
-        m_pending.append(data, int(size));
+    if (d->pending.size() + size <= PendingSize) {
+        d->pending.append(data, int(size));
         return size;
     }
-    return flush() && writeOut(data, size) ? size : -1;
+    return d->flush() && d->writeOut(data, size) ? size : -1;
 }
 
-bool SafeFile::checkTarget(OpenMode mode)
+bool SafeFilePrivate::checkTarget(QIODevice::OpenMode mode)
 {
     const QString advice = tr("Save under another name.");
     QString reason;
-    m_target = FileReplace::resolved(m_path, &reason);
-    if (m_target.isEmpty()) {
+    target = FileReplace::resolved(path, &reason);
+    if (target.isEmpty()) {
         setFailure(reason.isEmpty() ? tr("There is no name") : reason, advice);
         return false;
     }
-    const QFileInfo target(m_target);
-    m_targetExists = target.exists();
-    if (m_targetExists && !target.isFile()) {
-        setFailure(target.isDir() ? tr("It is a folder") : tr("It is not a plain file"), advice);
-    } else if (m_targetExists && !target.isWritable()) {
+    const QFileInfo info(target);
+    targetExists = info.exists();
+    if (targetExists && !info.isFile()) {
+        setFailure(info.isDir() ? tr("It is a folder") : tr("It is not a plain file"), advice);
+    } else if (targetExists && !info.isWritable()) {
         setFailure(tr("The file is write-protected"),
                    tr("Allow writing to it, or save under another name."));
-    } else if (m_targetExists && (mode & NewOnly)) {
+    } else if (targetExists && options.testFlag(SafeFile::KeepsExisting)) {
         setFailure(tr("The file exists"), advice);
-    } else if (!m_targetExists && (mode & ExistingOnly)) {
+    } else if (!targetExists && (mode & QIODevice::ExistingOnly)) {
         setFailure(tr("The file does not exist"), advice);
     }
-    return m_failure.isEmpty();
+    return failure.isEmpty();
 }
 
-bool SafeFile::makeFile()
+bool SafeFilePrivate::makeFile()
 {
-    const QFileInfo target(m_target);
-    const QString folder = target.absolutePath();
+    const QFileInfo info(target);
+    const QString folder = info.absolutePath();
     Unfinished::clearOnce(folder);
-    const QString head = folder + QLatin1Char('/') + nameHead(target);
-    for (int i = 0; i < MaxNames && !m_file.isOpen(); ++i) {
-        m_file.setFileName(head + QString::number(i) + QLatin1String(Unfinished::FileSuffix));
-        if (!openNew() && m_file.error() != QFile::NoError && !isTaken()) {
+    const QString head = folder + QLatin1Char('/') + nameHead(info);
+    for (int i = 0; i < MaxNames && !file.isOpen(); ++i) {
+        file.setFileName(head + QString::number(i) + QLatin1String(Unfinished::FileSuffix));
+        if (!openNew() && file.error() != QFile::NoError && !isTaken()) {
             break;
         }
     }
-    if (!m_file.isOpen()) {
-        setFailure(m_file.errorString(),
+    if (!file.isOpen()) {
+        setFailure(file.errorString(),
                    tr("Check that the folder is there and may be written to, or save in "
                       "another place."));
         return false;
     }
-    Unfinished::add(m_file.fileName());
-    if (m_targetExists) {
-        FileReplace::takeOwnerAndMode(m_file, m_target);
+    Unfinished::add(file.fileName());
+    if (targetExists) {
+        FileReplace::takeOwnerAndMode(file, target);
+    }
+    if (options.testFlag(SafeFile::OwnerOnly)) {
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     }
     return true;
 }
 
 // Who made the file may have renamed it by now, so it is not looked for.
-bool SafeFile::isTaken() const
+bool SafeFilePrivate::isTaken() const
 {
-    return m_file.errorString() == qt_error_string(int(std::errc::file_exists));
+    return file.errorString() == qt_error_string(int(std::errc::file_exists));
 }
 
 // A process that was killed while it wrote may have left a file of this name.
-bool SafeFile::openNew()
+bool SafeFilePrivate::openNew()
 {
-    const OpenMode mode = ReadWrite | NewOnly | Unbuffered;
-    bool isMade = m_file.open(mode);
-    if (!isMade && Unfinished::removeIfLeft(m_file.fileName())) {
-        isMade = m_file.open(mode);
+    const auto mode = QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Unbuffered;
+    bool isMade = file.open(mode);
+    if (!isMade && Unfinished::removeIfLeft(file.fileName())) {
+        isMade = file.open(mode);
     }
-    if (isMade && !Unfinished::lock(m_file.handle(), m_file.fileName())) {
-        m_file.close();
+    if (isMade && !Unfinished::lock(file.handle(), file.fileName())) {
+        file.close();
         isMade = false;
     }
     return isMade;
 }
 
-bool SafeFile::copyOldContent()
+bool SafeFilePrivate::copyOldContent()
 {
-    QFile old(m_target);
-    if (!old.open(ReadOnly | Unbuffered)) {
+    QFile old(target);
+    if (!old.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         failWriting(old.errorString());
         return false;
     }
@@ -214,27 +279,27 @@ bool SafeFile::copyOldContent()
     if (count < 0) {
         failWriting(old.errorString());
     } else {
-        m_file.seek(0);
+        file.seek(0);
     }
     return count == 0;
 }
 
-bool SafeFile::flush()
+bool SafeFilePrivate::flush()
 {
-    if (m_pending.isEmpty() || !m_failure.isEmpty()) {
-        return m_failure.isEmpty();
+    if (pending.isEmpty() || !failure.isEmpty()) {
+        return failure.isEmpty();
     }
-    const bool done = writeOut(m_pending.constData(), m_pending.size());
-    m_pending.clear();
+    const bool done = writeOut(pending.constData(), pending.size());
+    pending.clear();
     return done;
 }
 
-bool SafeFile::writeOut(const char* data, qint64 size)
+bool SafeFilePrivate::writeOut(const char* data, qint64 size)
 {
     while (size > 0) {
-        const qint64 count = m_file.write(data, size);
+        const qint64 count = file.write(data, size);
         if (count <= 0) {
-            failWriting(m_file.errorString());
+            failWriting(file.errorString());
             return false;
         }
         data += count;
@@ -243,17 +308,17 @@ bool SafeFile::writeOut(const char* data, qint64 size)
     return true;
 }
 
-bool SafeFile::replaceTarget()
+bool SafeFilePrivate::replaceTarget()
 {
     QString reason;
-    const bool waits = m_targetExists || !(m_isLazy || LazySync::current());
-    bool done = !waits || FileReplace::syncFile(m_file, &reason);
+    const bool waits = targetExists || !(options.testFlag(SafeFile::IsCopy) || LazySync::current());
+    bool done = !waits || FileReplace::syncFile(file, &reason);
     if (done) {
         // Until it has its name it is locked, and so no leftover.
-        const FileReplace::HandleCopy keepsLock(m_file);
-        m_file.close();
-        done = m_file.error() == QFile::NoError;
-        reason = m_file.errorString();
+        const FileReplace::HandleCopy keepsLock(file);
+        file.close();
+        done = file.error() == QFile::NoError;
+        reason = file.errorString();
         done = done && takePlace(&reason);
         if (!done) {
             discard();
@@ -263,63 +328,63 @@ bool SafeFile::replaceTarget()
         failWriting(reason);
         return false;
     }
-    Unfinished::remove(m_file.fileName());
-    m_file.setFileName({});
+    Unfinished::remove(file.fileName());
+    file.setFileName({});
     if (waits) {
-        FileReplace::syncFolder(QFileInfo(m_target).absolutePath());
+        FileReplace::syncFolder(QFileInfo(target).absolutePath());
     }
     return true;
 }
 
-bool SafeFile::takePlace(QString* reason)
+bool SafeFilePrivate::takePlace(QString* reason)
 {
     std::optional<FileTurn> turn;
     // Nobody else writes copies to a new place.
-    if (m_targetExists || !LazySync::current()) {
-        turn.emplace(m_target);
+    if (targetExists || !LazySync::current()) {
+        turn.emplace(target);
     }
     if (turn && !turn->take(reason)) {
         setFailure(*reason, tr("Nothing is written. Try again in a moment."));
         return false;
     }
-    if (m_isNewOnly && QFileInfo::exists(m_target)) {
+    if (options.testFlag(SafeFile::KeepsExisting) && QFileInfo::exists(target)) {
         setFailure(tr("The file exists"), tr("Save under another name."));
         return false;
     }
-    const bool isThere = FileReplace::rename(m_file.fileName(), m_target, reason);
+    const bool isThere = FileReplace::rename(file.fileName(), target, reason);
     if (isThere && turn) {
         turn->done();
     }
     return isThere;
 }
 
-void SafeFile::discard()
+void SafeFilePrivate::discard()
 {
-    const QString name = m_file.fileName();
+    const QString name = file.fileName();
     if (!name.isEmpty()) {
         QFile::remove(name);
         Unfinished::remove(name);
     }
-    m_file.close();
-    m_file.setFileName({});
-    m_pending.clear();
+    file.close();
+    file.setFileName({});
+    pending.clear();
 }
 
-void SafeFile::failWriting(const QString& reason)
+void SafeFilePrivate::failWriting(const QString& reason)
 {
-    setFailure(reason, m_targetExists
+    setFailure(reason, targetExists
                            ? tr("The old file is unchanged. Free some space or choose another "
                                 "place, then save again.")
                            : tr("Free some space or choose another place, then save again."));
 }
 
-void SafeFile::setFailure(const QString& reason, const QString& advice)
+void SafeFilePrivate::setFailure(const QString& reason, const QString& advice)
 {
-    if (!m_failure.isEmpty()) {
+    if (!failure.isEmpty()) {
         return;
     }
-    m_failure = tr("Cannot write %1: %2. %3").arg(QDir::toNativeSeparators(m_path), reason, advice);
-    setErrorString(m_failure);
+    failure = tr("Cannot write %1: %2. %3").arg(QDir::toNativeSeparators(path), reason, advice);
+    q->setErrorString(failure);
 }
 
 }  // namespace Zorv

@@ -1,6 +1,7 @@
 #include "core/extensionmanager.h"
 #include "core/files.h"
 #include "core/filesystemarchive.h"
+#include "core/safefile.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
@@ -216,6 +217,44 @@ private slots:
         QCOMPARE(statusOf(path).st_mode & 07777u, mode);
     }
 
+    void ownOptions_data()
+    {
+        QTest::addColumn<int>("options");
+        QTest::addColumn<bool>("isWritten");
+        QTest::addColumn<uint>("mode");
+        QTest::newRow("none") << int(SafeFile::NoOptions) << true << 0644u;
+        QTest::newRow("nobody else's") << int(SafeFile::OwnerOnly) << true << 0600u;
+        QTest::newRow("what is there stays") << int(SafeFile::KeepsExisting) << false << 0644u;
+    }
+
+    // What stands there by the end counts, not what did at the beginning.
+    void ownOptions()
+    {
+        QFETCH(int, options);
+        QFETCH(bool, isWritten);
+        QFETCH(uint, mode);
+        for (const bool isEarly : {true, false}) {
+            QFile::remove(path);
+            SafeFile file(path, SafeFile::Options(options));
+            const auto putOld = [this] {
+                put(path, "old");
+                QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0644), 0);
+            };
+            if (isEarly) {
+                putOld();
+            }
+            const bool isOpen = file.open(QIODevice::WriteOnly) && file.write("new") == 3;
+            QVERIFY(isOpen || isEarly);
+            if (!isEarly) {
+                putOld();
+            }
+            QCOMPARE(isOpen && file.commit(), isWritten);
+            QCOMPARE(file.failure().isEmpty(), isWritten);
+            QCOMPARE(contentOf(path), QByteArray(isWritten ? "new" : "old"));
+            QCOMPARE(statusOf(path).st_mode & 07777u, mode);
+        }
+    }
+
     void ownerIsKept()
     {
         if (::geteuid() != 0) {
@@ -323,9 +362,9 @@ private slots:
         for (int length = 1; length <= 255; length += 2) {
             const QString name = at(QString(length, 'n'));
             QString error;
-            QVERIFY2(writeFile(name, "new", Existing::Stays, &error), qPrintable(error));
-            QVERIFY2(writeFile(name, "over", Existing::IsReplaced, &error), qPrintable(error));
-            QVERIFY(!writeFile(name, "again", Existing::Stays, &error));
+            QVERIFY2(SafeFile::save(name, "new", &error), qPrintable(error));
+            QVERIFY2(SafeFile::save(name, "over", &error), qPrintable(error));
+            QVERIFY(!SafeFile::save(name, "again", &error, SafeFile::KeepsExisting));
             QCOMPARE(contentOf(name), QByteArray("over"));
         }
         QCOMPARE(everythingIn(folder->path()).size(), 128);

@@ -1,7 +1,7 @@
 #include "core/filechange.h"
 
-#include "core/files.h"
 #include "core/filesystemarchive.h"
+#include "core/safefile.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -31,7 +31,7 @@ QByteArray contentOf(const QString& path)
 bool put(const QString& path, const QByteArray& content, QString* error = nullptr)
 {
     QString reason;
-    return writeFile(path, content, Existing::IsReplaced, error ? error : &reason);
+    return SafeFile::save(path, content, error ? error : &reason, SafeFile::IsCopy);
 }
 
 bool putPlainly(const QString& path, const QByteArray& content)

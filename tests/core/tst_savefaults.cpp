@@ -1,5 +1,6 @@
 #include "core/files.h"
 #include "core/filesystemarchive.h"
+#include "core/safefile.h"
 #include "support/faultshim.h"
 #include "support/testproject.h"
 
@@ -180,7 +181,7 @@ private slots:
         faultArm("result", FaultWrite, 1, ENOSPC, 1);
         QString error;
         const QString result = folder->filePath(QStringLiteral("result.bin"));
-        QVERIFY(!writeFile(result, QByteArray(BlockSize, 'n'), Existing::Stays, &error));
+        QVERIFY(!SafeFile::save(result, QByteArray(BlockSize, 'n'), &error, SafeFile::IsCopy));
         QVERIFY2(error.contains(qt_error_string(ENOSPC)), qPrintable(error));
         QCOMPARE(leftovers(folder->path()), QStringList());
     }

@@ -1,7 +1,7 @@
 #include "core/run/runrecord_p.h"
 
-#include "core/files.h"
 #include "core/folders_p.h"
+#include "core/safefile.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -95,8 +95,8 @@ bool RunRecord::write(const QString& fileName) const
         {QStringLiteral("madeFolders"), QJsonArray::fromStringList(madeFolders)}};
     const QByteArray content = QJsonDocument(object).toJson(QJsonDocument::Compact);
     QString error;
-    return writeFile(fileName, heading() + checksum(content) + content, Existing::IsReplaced,
-                     &error);
+    return SafeFile::save(fileName, heading() + checksum(content) + content, &error,
+                          SafeFile::IsCopy);
 }
 
 bool RunRecord::read(const QString& fileName)

@@ -2,6 +2,7 @@
 
 #include "core/dialogs/dialogs.h"
 #include "core/filesystemarchive.h"
+#include "core/safefile.h"
 #include "editors/snipman/combosnipfield.h"
 #include "editors/snipman/regularsnipfield.h"
 #include "editors/snipman/snippetxml_p.h"
@@ -216,15 +217,9 @@ bool readSnippetText(const QString& fileName, QString* text, QString* error)
 
 bool writeSnippetText(const QString& fileName, const QString& text)
 {
-    Archive& disk = *FileSystemArchive::instance();
     QString error;
-    QIODevice* device = disk.openFile(fileName, QIODevice::WriteOnly, &error);
-    if (device) {
-        // A write that falls short is known to the archive, which then keeps the old file.
-        device->write(text.toUtf8());
-        if (disk.closeFile(device, &error)) {
-            return true;
-        }
+    if (SafeFile::save(fileName, text.toUtf8(), &error)) {
+        return true;
     }
     Dialogs::instance()->error(
         SnippetFile::tr("Save"),
