@@ -2,6 +2,8 @@
 
 #include "core/dialogs/itemsdlg.h"
 
+#include <QFileInfo>
+
 namespace Zorv {
 
 namespace {
@@ -16,6 +18,18 @@ Interface* Interface::instance()
 {
     return s_interface;
 }
+
+void Interface::soundIdentifiers(const QStringList& files, QList<QVariant>* identifiers)
+{
+    identifiers->clear();
+    for (const QString& file : files) {
+        identifiers->append(QFileInfo(file).completeBaseName());
+    }
+}
+
+void Interface::showWorkspace(Workspace*) {}
+
+void Interface::showExtraEditor(ExtraEditor*) {}
 
 ItemsDialog* Interface::itemsDialog(QWidget* parent, const QString& title,
                                     QAbstractItemModel* model, int row) const

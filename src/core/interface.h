@@ -4,6 +4,7 @@
 #include "zorv_export.h"
 
 #include <QColor>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -25,6 +26,7 @@ class ProgressReporter;
 class Project;
 class ProjectFile;
 class Translator;
+class Workspace;
 
 /// The host's side of the seam: settings, main window, menus, progress, editors.
 ///
@@ -40,9 +42,15 @@ public:
     /// The installed host, null before `setGlobalInterface()`.
     static Interface* instance();
 
-    /// A shared text in the person's language, by number. The library asks for
-    /// 7 (the label of the entry of a file filter that lists all formats) and 8
-    /// (the title of the message "No text found!").
+    /// A shared text in the person's language, by number. The library asks for:
+    ///
+    /// | Number | Text |
+    /// |---|---|
+    /// | 2 | title of the messages that 3 and 4 are the text of |
+    /// | 3 | a picture or sound that could not be read; `%1` is its file |
+    /// | 4 | an empty one in an import; `%1` is its kind, `%2` its row, `%3` the project |
+    /// | 7 | label of the entry of a file filter that lists all formats |
+    /// | 8 | title of the message that nothing was found |
     virtual QString text(unsigned id) const = 0;
 
     /// The parent of every dialog that the library opens; may be null.
@@ -83,6 +91,11 @@ public:
     /// counts only if both lists come back with the same length.
     virtual void selectPaletteFiles(QStringList& files, QStringList& names, bool* flag) = 0;
 
+    /// Gives an identifier for each of the sound files that are about to be added, in
+    /// their order; with another number of identifiers none is added. As it stands here
+    /// a sound is called as its file is, without folder and suffix.
+    virtual void soundIdentifiers(const QStringList& files, QList<QVariant>* identifiers);
+
     /// A global setting; invalid for a key that the host does not know.
     virtual QVariant option(const QString& key) const = 0;
 
@@ -95,6 +108,7 @@ public:
     /// Publishes a tool under a name, which is also the key of its shortcut.
     /// The host keeps a copy (`Control::clone()`) and returns the widget or
     /// action that it made for it, which stays the host's; null if it made none.
+    /// A tool without a name has neither place nor key: nothing is made for it.
     virtual QObject* addControl(const QString& name, const Control& control) = 0;
 
     /// A menu of the main window by its short name: "anim", "view", "pal",
@@ -109,7 +123,8 @@ public:
     /// `SIGNAL()`: the action's trigger is connected to `slot`, `enableSignal`
     /// (a bool; may be null) to its enabled state and `checkSignal` (a bool;
     /// may be null) to its checked state. With `shortcut` the action starts
-    /// with that key sequence, in the portable form. The action is the host's.
+    /// with that key sequence, in the portable form. The action is the host's;
+    /// null for an empty name.
     virtual QAction* createAction(const char* const* areas, const QString& name,
                                   Translator* translator, unsigned textId, const char* shortcut,
                                   QObject* receiver, const char* slot, const char* enableSignal,
@@ -128,8 +143,20 @@ public:
     /// Asks the host to look at its projects again: a backup has come back.
     virtual void refreshProjects() = 0;
 
-    /// Brings an editor forward.
+    /// Brings an editor forward: calls `Editor::deactivate()` of the one before and
+    /// `Editor::activate()` of this one, if it is not active. An editor that is activated
+    /// by hand asks for it, too, so a call in the middle of another is no error.
     virtual void activateEditor(Editor* editor) = 0;
+
+    /// Puts a workspace into the middle of the window, which an editor asks for when it
+    /// comes forward: calls `Workspace::deactivate()` of the one that was there and
+    /// `Workspace::activate()` of this one. Nothing if it is there already. Without an
+    /// override nothing is shown, as by a host without a window.
+    virtual void showWorkspace(Workspace* workspace);
+
+    /// Shows a side panel that may be hidden or behind another one, and leaves the focus
+    /// where it is. Without an override nothing is shown.
+    virtual void showExtraEditor(ExtraEditor* editor);
 
     /// A dialog in which rows of `model` are picked; `row`, if not negative, is
     /// selected at first. The caller owns it. The model stays the caller's and

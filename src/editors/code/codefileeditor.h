@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editors/code/codeworkspace.h"
 #include "editors/framework/fileeditor.h"
 
 #include <memory>
@@ -13,7 +14,6 @@ namespace Zorv {
 class CodeDocument;
 class CodeFileEditorPrivate;
 class CodeItemModel;
-class CodeWorkspace;
 
 /// The editor of any file that is shown as text in the code workspace.
 ///
@@ -38,7 +38,7 @@ public:
     void setDocument(CodeDocument* document);
     CodeDocument* document() const;
 
-    CodeWorkspace* workspace() const;
+    CodeWorkspace* workspace() const override;
 
     /// Null for none; the editor's, and the host's.
     CodeItemModel* model() const;

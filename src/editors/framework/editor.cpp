@@ -15,6 +15,11 @@ bool Editor::isModified() const
     return current && current->isModified();
 }
 
+Workspace* Editor::workspace() const
+{
+    return nullptr;
+}
+
 void Editor::activate()
 {
     m_active = true;

@@ -12,6 +12,7 @@ namespace Zorv {
 class Interface;
 class Project;
 class ProjectFile;
+class Workspace;
 
 /// Works on the file that a workspace shows: animations, sprites, sounds, code.
 ///
@@ -42,6 +43,9 @@ public:
 
     /// The names of the areas in which the editor applies.
     virtual QStringList areas() const = 0;
+
+    /// Where the editor shows its file; the host's. Null for an editor without one.
+    virtual Workspace* workspace() const;
 
     /// The host calls these when the editor's area comes forward and goes.
     virtual void activate();

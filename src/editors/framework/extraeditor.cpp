@@ -7,9 +7,20 @@ QWidget* ExtraEditor::widget() const
     return nullptr;
 }
 
-void ExtraEditor::activate() {}
+void ExtraEditor::activate()
+{
+    m_active = true;
+}
 
-void ExtraEditor::deactivate() {}
+void ExtraEditor::deactivate()
+{
+    m_active = false;
+}
+
+bool ExtraEditor::isActive() const
+{
+    return m_active;
+}
 
 void ExtraEditor::reconfig() {}
 

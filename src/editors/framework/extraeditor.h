@@ -29,14 +29,21 @@ public:
     /// was published as controls. The panel's.
     virtual QWidget* widget() const;
 
+    /// The panel is shown, or hidden. A derived one calls these first.
     virtual void activate();
     virtual void deactivate();
+
+    /// True between `activate()` and `deactivate()`.
+    bool isActive() const;
 
     /// Settings have changed.
     virtual void reconfig();
 
     /// The language has changed.
     virtual void retranslate();
+
+private:
+    bool m_active = false;
 };
 
 }  // namespace Zorv

@@ -8,7 +8,8 @@ namespace Zorv {
 enum FindFlag : unsigned {
     FindRegularExpression = 1,  ///< the text is one, as `QRegularExpression` knows them
     FindCaseSensitive = 2,
-    FindBackward = 4
+    FindBackward = 4,
+    FindWrap = 8  ///< goes on at the other end; a text does so in any case
 };
 
 }  // namespace Zorv
