@@ -9,6 +9,7 @@
 #include "editors/code/codehighlights_p.h"
 #include "editors/code/codepainter_p.h"
 #include "editors/code/foldedblocks_p.h"
+#include "editors/code/heldview_p.h"
 #include "editors/code/plaintooltip_p.h"
 
 #include <QContextMenuEvent>
@@ -50,6 +51,23 @@ QTextBlock visibleBlockBelow(const QTextBlock& block, int count)
     const QTextDocument* document = block.document();
     const QTextBlock below = document->findBlockByLineNumber(block.firstLineNumber() + count);
     return below.isValid() ? below : document->lastBlock();
+}
+
+/// True for what the left button does inside of the view; outside it scrolls.
+bool isClickInside(QEvent* event, const QWidget* viewport)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove: {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        const bool isLeft = mouse->button() == Qt::LeftButton || mouse->buttons() & Qt::LeftButton;
+        return isLeft && viewport->rect().contains(mouse->pos());
+    }
+    default:
+        return false;
+    }
 }
 
 }  // namespace
@@ -266,6 +284,7 @@ void CodeEditor::resizeEvent(QResizeEvent* event)
 
 bool CodeEditor::viewportEvent(QEvent* event)
 {
+    const HeldView view(isClickInside(event, viewport()) ? this : nullptr);
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
         if (!(QGuiApplication::keyboardModifiers() & Qt::ControlModifier)) {

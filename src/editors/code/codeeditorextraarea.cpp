@@ -4,6 +4,7 @@
 #include "editors/code/codeeditor_p.h"
 #include "editors/code/codefolding_p.h"
 #include "editors/code/codehighlights_p.h"
+#include "editors/code/heldview_p.h"
 #include "editors/code/plaintooltip_p.h"
 #include "editors/code/visibleblocks_p.h"
 
@@ -177,6 +178,7 @@ void CodeEditorExtraArea::wheelEvent(QWheelEvent* event)
 void CodeEditorExtraArea::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
+        const HeldView view(m_editor->q);
         pressed(event->pos());
     }
 }
@@ -308,7 +310,9 @@ void CodeEditorExtraArea::dragTo(int y)
     QTextCursor cursor(anchor);
     cursor.setPosition(isUpward ? startBehind(anchor) : anchor.position());
     cursor.setPosition(isUpward ? end.position() : startBehind(end), QTextCursor::KeepAnchor);
-    if (y >= 0 && y <= height()) {
+    const bool isInside = y >= 0 && y <= height();
+    const HeldView view(isInside ? m_editor->q : nullptr);
+    if (isInside) {
         m_autoScrollTimer.stop();
     } else if (!m_autoScrollTimer.isActive()) {
         m_autoScrollTimer.start(100, this);

@@ -80,6 +80,8 @@ private slots:
     void documentsGoUnderTheHands();
     void outlivedByItsDocuments();
     void copiesTheTextAsItIs();
+    void clickOnHalfALine_data();
+    void clickOnHalfALine();
 };
 
 void CodeEditorTest::putsLinesIntoTheView_data()
@@ -357,6 +359,39 @@ void CodeEditorTest::copiesTheTextAsItIs()
     shown.editor.selectAll();
     shown.editor.copy();
     QCOMPARE(QGuiApplication::clipboard()->text(), text);
+}
+
+void CodeEditorTest::clickOnHalfALine_data()
+{
+    QTest::addColumn<bool>("isInGutter");
+    QTest::addColumn<QString>("selected");
+    QTest::newRow("text") << false << "v0";
+    QTest::newRow("gutter") << true << "v0=%1\u2029";
+}
+
+/// The view must not scroll between the two presses of a double click, nor when a click trembles.
+void CodeEditorTest::clickOnHalfALine()
+{
+    QFETCH(bool, isInGutter);
+    ShownEditor shown(groups(2));
+    const int lineHeight = shown.editor.cursorRect().height();
+    shown.editor.resize(500, lineHeight * 10 + lineHeight / 2);
+    QTRY_COMPARE(shown.viewport()->height() % lineHeight, lineHeight / 2);
+    shown.editor.verticalScrollBar()->setValue(20);
+    QWidget* target = isInGutter ? shown.gutter() : shown.viewport();
+    const QPoint place(12, lineHeight * 10 + lineHeight / 4);
+    const int line = shown.editor.cursorForPosition({12, place.y()}).blockNumber();
+    QTest::mousePress(target, Qt::LeftButton, {}, place);
+    QTest::mouseMove(target, place + QPoint(1, 0));
+    QTest::mouseRelease(target, Qt::LeftButton, {}, place + QPoint(1, 0));
+    QCOMPARE(shown.editor.verticalScrollBar()->value(), 20);
+    QCOMPARE(shown.editor.textCursor().blockNumber(), line + (isInGutter ? 1 : 0));
+    QTest::mouseDClick(target, Qt::LeftButton, {}, place);
+    QFETCH(QString, selected);
+    QCOMPARE(shown.editor.textCursor().selectedText(), isInGutter ? selected.arg(line) : selected);
+    QCOMPARE(shown.editor.verticalScrollBar()->value(), 20);
+    QTest::keyClick(shown.viewport(), Qt::Key_Right);
+    QVERIFY(shown.editor.verticalScrollBar()->value() > 20);
 }
 
 QTEST_MAIN(CodeEditorTest)

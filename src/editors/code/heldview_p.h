@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QPointer>
+#include <QScrollBar>
+
+namespace Zorv {
+
+/// Keeps a view where it is while the mouse is at work inside of it. Qt brings the line of the
+/// cursor wholly into the view, and the next press of a double click would meet another line.
+class HeldView
+{
+public:
+    /// Null holds nothing.
+    explicit HeldView(QAbstractScrollArea* area) : m_area(area)
+    {
+        if (area) {
+            m_x = area->horizontalScrollBar()->value();
+            m_y = area->verticalScrollBar()->value();
+        }
+    }
+
+    ~HeldView()
+    {
+        if (m_area) {
+            m_area->horizontalScrollBar()->setValue(m_x);
+            m_area->verticalScrollBar()->setValue(m_y);
+        }
+    }
+
+private:
+    Q_DISABLE_COPY(HeldView)
+    QPointer<QAbstractScrollArea> m_area;
+    int m_x = 0;
+    int m_y = 0;
+};
+
+}  // namespace Zorv
