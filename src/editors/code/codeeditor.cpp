@@ -7,6 +7,7 @@
 #include "editors/code/codeeditorextraarea_p.h"
 #include "editors/code/codefolding_p.h"
 #include "editors/code/codehighlights_p.h"
+#include "editors/code/codelines_p.h"
 #include "editors/code/codepainter_p.h"
 #include "editors/code/foldedblocks_p.h"
 #include "editors/code/heldview_p.h"
@@ -187,6 +188,16 @@ void CodeEditor::reveal(const QTextBlock& block)
     if (CodeFolding::reveal(block)) {
         d->updateLayout();
     }
+}
+
+void CodeEditor::moveLinesUp()
+{
+    d->moveLines(CodeLines::Up);
+}
+
+void CodeEditor::moveLinesDown()
+{
+    d->moveLines(CodeLines::Down);
 }
 
 void CodeEditor::moveCursorVisible(bool ensure)

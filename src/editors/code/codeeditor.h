@@ -104,6 +104,12 @@ public:
     /// Shows a line that a fold hides, with no more than it takes.
     void reveal(const QTextBlock& block);
 
+    /// Swaps the selected lines, or that of the cursor, with the one above or below, as they are
+    /// seen: a folded head goes with what it hides. One step of undo. Nothing at the ends of the
+    /// text, and in a text that is only to be read.
+    void moveLinesUp();
+    void moveLinesDown();
+
     /// Takes a cursor out of a fold, upwards; with `ensure` into the view too.
     void moveCursorVisible(bool ensure);
 

@@ -130,6 +130,16 @@ bool CodeEditorPrivate::leaveFold(const QTextCursor& cursor)
     return true;
 }
 
+void CodeEditorPrivate::moveLines(CodeLines::Direction direction)
+{
+    QTextCursor cursor = q->textCursor();
+    if (!q->isReadOnly() && CodeLines::move(&cursor, direction)) {
+        updateLayout();
+        q->setTextCursor(cursor);
+        q->ensureCursorVisible();
+    }
+}
+
 void CodeEditorPrivate::updateLayout()
 {
     auto* layout = qobject_cast<QPlainTextDocumentLayout*>(q->document()->documentLayout());

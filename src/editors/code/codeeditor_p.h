@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editors/code/codeeditor.h"
+#include "editors/code/codelines_p.h"
 
 #include <QPointer>
 #include <QTextBlock>
@@ -37,6 +38,9 @@ public:
 
     void attach(CodeDocument* newDocument);
     void cursorMoved();
+
+    /// Takes the cursor along, and into the view.
+    void moveLines(CodeLines::Direction direction);
 
     /// Tells layout and scroll bars that lines have come or gone from the view.
     void updateLayout();
