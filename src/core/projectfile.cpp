@@ -73,6 +73,26 @@ void ProjectFile::undo() {}
 
 void ProjectFile::redo() {}
 
+bool ProjectFile::canUndo() const
+{
+    return false;
+}
+
+bool ProjectFile::canRedo() const
+{
+    return false;
+}
+
+QString ProjectFile::undoTitle() const
+{
+    return {};
+}
+
+QString ProjectFile::redoTitle() const
+{
+    return {};
+}
+
 bool ProjectFile::dependsOnMain() const
 {
     return false;

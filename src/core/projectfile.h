@@ -75,6 +75,14 @@ public:
     virtual void undo();
     virtual void redo();
 
+    /// True if there is a step to undo or redo. A file without a history has none.
+    virtual bool canUndo() const;
+    virtual bool canRedo() const;
+
+    /// The title of that step, as `beginChange()` was given it; empty for a step without one.
+    virtual QString undoTitle() const;
+    virtual QString redoTitle() const;
+
     /// Gives the file up; how its object dies is the host's.
     virtual void release() = 0;
 

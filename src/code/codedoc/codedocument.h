@@ -152,7 +152,7 @@ public:
     /// Opens and closes a step of undo. With "parseCode", chain and tree follow
     /// each of the operations below at once, colours and messages when the
     /// outermost frame closes. Undo brings the cursor of a view to the first edit.
-    /// The title is ignored.
+    /// The step has the first title that is not empty.
     ///
     /// An edit by a `QTextCursor` alone is not seen before that: until then its
     /// lines keep the nodes of their old text or have none, and nodes of lines that
@@ -166,6 +166,10 @@ public:
     bool isCodeBeingChanged() const;
     void undo() override;
     void redo() override;
+    bool canUndo() const override;
+    bool canRedo() const override;
+    QString undoTitle() const override;
+    QString redoTitle() const override;
 
     /// A copy of the cursor through which the edits pass.
     QTextCursor cursor() const;

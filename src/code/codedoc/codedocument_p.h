@@ -3,6 +3,7 @@
 #include "code/codedoc/codedocument.h"
 #include "code/codedoc/editordata.h"
 #include "code/codedoc/lineindex_p.h"
+#include "code/codedoc/steptitles_p.h"
 #include "core/message.h"
 
 #include <QMap>
@@ -84,6 +85,7 @@ public:
     CodeParser* parser = nullptr;
     QTextCursor cursor;
     int changeDepth = 0;
+    StepTitles titles;
 
     /// The length of the history when the open change began, to see whether that
     /// has edited anything yet.

@@ -4,11 +4,14 @@
 
 namespace Zorv {
 
-void CodeDocument::beginChange(const QString&)
+void CodeDocument::beginChange(const QString& title)
 {
     if (d->changeDepth == 0) {
         d->stepsBeforeChange = availableUndoSteps();
+        d->titles.begin(title);
         d->cursor.beginEditBlock();
+    } else {
+        d->titles.name(title);
     }
     ++d->changeDepth;
 }
@@ -21,6 +24,7 @@ void CodeDocument::endChange()
     // The block ends first: what the pass tells still belongs to the change.
     if (d->changeDepth == 1) {
         d->cursor.endEditBlock();
+        d->titles.end();
     }
     --d->changeDepth;
 }
@@ -54,6 +58,26 @@ void CodeDocument::undo()
 void CodeDocument::redo()
 {
     QTextDocument::redo();
+}
+
+bool CodeDocument::canUndo() const
+{
+    return isUndoAvailable();
+}
+
+bool CodeDocument::canRedo() const
+{
+    return isRedoAvailable();
+}
+
+QString CodeDocument::undoTitle() const
+{
+    return d->titles.undone();
+}
+
+QString CodeDocument::redoTitle() const
+{
+    return d->titles.redone();
 }
 
 QTextCursor CodeDocument::cursor() const

@@ -32,12 +32,14 @@ QTextCharFormat CodeDocumentPrivate::makeFormat(bool bold, bool italic, const QC
 }
 
 CodeDocumentPrivate::CodeDocumentPrivate(CodeDocument* document)
-    : QSyntaxHighlighter(static_cast<QObject*>(nullptr)), q(document)
+    : QSyntaxHighlighter(static_cast<QObject*>(nullptr)), q(document), titles(document)
 {
     // The order of the connections is that of the work: before, Qt's, after.
     connect(q, &QTextDocument::contentsChange, this, &CodeDocumentPrivate::aboutToParse);
     setDocument(q);
     connect(q, &QTextDocument::contentsChange, this, &CodeDocumentPrivate::parsed);
+    connect(q, &QTextDocument::undoCommandAdded, this, [this] { titles.grown(); });
+    connect(q, &QTextDocument::contentsChanged, this, [this] { titles.changed(); });
     cursor = QTextCursor(q);
 }
 
