@@ -1,12 +1,9 @@
-#include "cli/cli.h"
-#include "media/losslessimages.h"
-#ifdef ZORV_WINDOW
 #include "app/application.h"
+#include "cli/cli.h"
+
+#include <zorv/media/losslessimages.h>
 
 #include <QApplication>
-#endif
-
-#include <QGuiApplication>
 #include <QTextCodec>
 
 #include <clocale>
@@ -122,7 +119,6 @@ int runOnCommandLine(char** argv, const QStringList& arguments)
 
 int runInWindow(int& argc, char** argv, const QStringList& arguments)
 {
-#ifdef ZORV_WINDOW
     const bool hasPlatform = qEnvironmentVariableIsSet("DISPLAY") ||
                              qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
                              qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
@@ -145,13 +141,6 @@ int runInWindow(int& argc, char** argv, const QStringList& arguments)
     fputs("zorv: There is no display for the window. 'zorv help' tells what can be done without "
           "one.\n",
           stderr);
-#else
-    Q_UNUSED(argc)
-    Q_UNUSED(argv)
-    Q_UNUSED(arguments)
-    fputs("zorv: This program was built without its window. 'zorv help' tells what it can do.\n",
-          stderr);
-#endif
     return Cli::NotDone;
 }
 

@@ -40,8 +40,7 @@ LAYERS = {
 }
 
 # Where the compiler looks for an include, after the folder of the file itself.
-INCLUDE_FOLDERS = ["src", "host", "host/family", "host/operations", "host/cli",
-                   "host/app", ""]
+INCLUDE_FOLDERS = ["src", "host", ""]
 
 # Meant includes of a higher layer: (file, included file) and the reason.
 EXCEPTIONS = {
@@ -162,6 +161,18 @@ def check_private(tree, name):
             tree.fault(name, line, f"includes {target}, which is private to the library")
 
 
+def check_spelling(tree, name):
+    """A header has one name: a host author's for the library, from host/ for one of the host."""
+    for line, included in tree.includes[name]:
+        target = tree.resolve(name, included)
+        if not target:
+            continue
+        top, path = target.split("/", 1)
+        wanted = f"zorv/{path}" if top == "src" and name.startswith("host/") else path
+        if included != wanted:
+            tree.fault(name, line, f"includes {included}, which is written {wanted} here")
+
+
 def check_own_header(tree, name):
     if not name.endswith(".cpp"):
         return
@@ -178,7 +189,7 @@ def check(root, widget_headers, exceptions):
     """The faults of a tree, as lines of text."""
     tree = Tree(root, widget_headers, exceptions)
     for name in tree.includes:
-        for rule in (check_order, check_widgets, check_private, check_own_header):
+        for rule in (check_order, check_widgets, check_private, check_spelling, check_own_header):
             rule(tree, name)
     for name, target in sorted(set(exceptions) - tree.used_exceptions):
         tree.fault(name, 1, f"the exception for {target} is listed, but no longer needed")
