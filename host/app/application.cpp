@@ -3,10 +3,10 @@
 #include "app/look/icon.h"
 #include "app/look/look.h"
 #include "app/mainwindow.h"
-#include "app/picturescene.h"
+#include "app/picture/picturescene.h"
+#include "app/picture/screenshot.h"
 #include "app/recovery/workrecovery.h"
 #include "app/run/runcommands.h"
-#include "app/screenshot.h"
 #include "app/windowdialogs.h"
 #include "app/windowinterface.h"
 #include "cli/commanddialogs.h"
@@ -94,14 +94,14 @@ void setUpIcons()
 int drawPicture(const Usage& usage)
 {
     WindowInterface host;
-    Family::startHost(&host);
+    Operations::startHost(&host);
     host.setOption(QStringLiteral("theme"), usage.theme);
     host.setOption(QStringLiteral("language"), usage.language);
     applyLook();
     // Nobody is there to answer, or to be told what the picture lacks.
     const Cli::CommandDialogs dialogs;
     QString dataError;
-    Family::prepareFamilyData(&dataError);
+    Operations::prepareFamilyData(&dataError);
     MainWindow window;
     host.setWindow(&window);
     QString error;
@@ -127,15 +127,15 @@ int runWindow(QApplication&, const QStringList& arguments)
     }
     QSettings settings;
     WindowInterface host(&settings);
-    Family::startHost(&host);
-    Family::useEngines(settings);
+    Operations::startHost(&host);
+    Operations::useEngines(settings);
     applyLook();
     const WindowDialogs dialogs;
     QString dataError;
-    Family::prepareFamilyData(&dataError);
+    Operations::prepareFamilyData(&dataError);
     MainWindow window;
     host.setWindow(&window);
-    WorkRecovery recovery(&window, Family::SessionFolder::defaultRoot());
+    WorkRecovery recovery(&window, Operations::SessionFolder::defaultRoot());
     window.show();
     window.restoreWork(usage.game);
     recovery.offerAll();

@@ -158,7 +158,7 @@ QVector<int> dropped(const QVector<int>& values, const QVector<int>& selected, i
 }  // namespace
 
 /// The organizer with a real view, on a host of real actions.
-class OrganizerTest : public QObject
+class TestOrganizer : public QObject
 {
     Q_OBJECT
 
@@ -190,7 +190,7 @@ private:
     QListView* m_view = nullptr;
 };
 
-void OrganizerTest::init()
+void TestOrganizer::init()
 {
     m_host = std::make_unique<TestInterface>();
     m_organizer = std::make_unique<OrganizerEditor>();
@@ -202,13 +202,13 @@ void OrganizerTest::init()
     QVERIFY(QTest::qWaitForWindowExposed(window));
 }
 
-void OrganizerTest::cleanup()
+void TestOrganizer::cleanup()
 {
     m_organizer.reset();
     m_host.reset();
 }
 
-QPoint OrganizerTest::placeOf(int target) const
+QPoint TestOrganizer::placeOf(int target) const
 {
     if (target < rows()->rowCount()) {
         return m_view->visualRect(rows()->index(target, 0)).topLeft();
@@ -216,7 +216,7 @@ QPoint OrganizerTest::placeOf(int target) const
     return m_view->visualRect(rows()->index(target - 1, 0)).bottomLeft() + QPoint(0, 5);
 }
 
-void OrganizerTest::drop(const QMimeData* data, int target, Qt::DropAction action)
+void TestOrganizer::drop(const QMimeData* data, int target, Qt::DropAction action)
 {
     QDragEnterEvent enter(placeOf(target), action, data, Qt::LeftButton, {});
     QApplication::sendEvent(m_view->viewport(), &enter);
@@ -225,7 +225,7 @@ void OrganizerTest::drop(const QMimeData* data, int target, Qt::DropAction actio
     QVERIFY(!event.isAccepted());
 }
 
-std::unique_ptr<QMimeData> OrganizerTest::payload(const QVector<int>& of) const
+std::unique_ptr<QMimeData> TestOrganizer::payload(const QVector<int>& of) const
 {
     QModelIndexList indexes;
     for (int row : of) {
@@ -234,7 +234,7 @@ std::unique_ptr<QMimeData> OrganizerTest::payload(const QVector<int>& of) const
     return std::unique_ptr<QMimeData>(rows()->mimeData(indexes));
 }
 
-void OrganizerTest::select(const QVector<int>& wanted)
+void TestOrganizer::select(const QVector<int>& wanted)
 {
     m_organizer->setCurrentRow(-1);
     for (int row : wanted) {
@@ -243,7 +243,7 @@ void OrganizerTest::select(const QVector<int>& wanted)
     }
 }
 
-QVector<int> OrganizerTest::selectRandomly(QRandomGenerator& random)
+QVector<int> TestOrganizer::selectRandomly(QRandomGenerator& random)
 {
     QVector<int> wanted;
     const int chance = random.bounded(1, 5);
@@ -256,7 +256,7 @@ QVector<int> OrganizerTest::selectRandomly(QRandomGenerator& random)
     return wanted;
 }
 
-void OrganizerTest::publishes()
+void TestOrganizer::publishes()
 {
     QCOMPARE(m_host->calls.filter(QStringLiteral("addControl")).size(), 8);
     const QAction* top = m_host->actions[QStringLiteral("org_top")];
@@ -268,7 +268,7 @@ void OrganizerTest::publishes()
     }
 }
 
-void OrganizerTest::movesAgainstPlainList_data()
+void TestOrganizer::movesAgainstPlainList_data()
 {
     QTest::addColumn<bool>("resets");
     QTest::newRow("a list that moves rows") << false;
@@ -276,7 +276,7 @@ void OrganizerTest::movesAgainstPlainList_data()
 }
 
 /// Any act on any selection: the order of a plain list, one step, and what was selected stays so.
-void OrganizerTest::movesAgainstPlainList()
+void TestOrganizer::movesAgainstPlainList()
 {
     QFETCH(bool, resets);
     qInfo("seed %u", Seed);
@@ -327,7 +327,7 @@ void OrganizerTest::movesAgainstPlainList()
 }
 
 /// The animations of a text, whose own move to the last place ends at the head of the text.
-void OrganizerTest::animationsComeBackByUndo()
+void TestOrganizer::animationsComeBackByUndo()
 {
     qInfo("seed %u", Seed);
     QRandomGenerator random(Seed);
@@ -371,7 +371,7 @@ void OrganizerTest::animationsComeBackByUndo()
     }
 }
 
-void OrganizerTest::dropsAtTheMouse_data()
+void TestOrganizer::dropsAtTheMouse_data()
 {
     QTest::addColumn<QVector<int>>("dragged");
     QTest::addColumn<int>("target");
@@ -385,7 +385,7 @@ void OrganizerTest::dropsAtTheMouse_data()
     QTest::newRow("where they are") << Rows{1, 2} << 2 << Rows{0, 1, 2, 3, 4};
 }
 
-void OrganizerTest::dropsAtTheMouse()
+void TestOrganizer::dropsAtTheMouse()
 {
     QFETCH(QVector<int>, dragged);
     QFETCH(int, target);
@@ -401,7 +401,7 @@ void OrganizerTest::dropsAtTheMouse()
     QCOMPARE(told.count(), list.steps);
 }
 
-void OrganizerTest::refusesForeignRows()
+void TestOrganizer::refusesForeignRows()
 {
     Numbers list(5);
     m_organizer->setObject(&list);
@@ -433,7 +433,7 @@ void OrganizerTest::refusesForeignRows()
     QCOMPARE(list.steps, 0);
 }
 
-void OrganizerTest::enablesWhatCanBeDone()
+void TestOrganizer::enablesWhatCanBeDone()
 {
     Numbers list(4);
     m_organizer->setObject(&list);
@@ -459,7 +459,7 @@ void OrganizerTest::enablesWhatCanBeDone()
     QCOMPARE(state(), QStringLiteral("0000"));
 }
 
-void OrganizerTest::followsListsThatComeAndGo()
+void TestOrganizer::followsListsThatComeAndGo()
 {
     QSignalSpy current(m_organizer.get(), &OrganizerEditor::currentRowChanged);
     const QAbstractItemModelTester tester(rows(),
@@ -483,7 +483,7 @@ void OrganizerTest::followsListsThatComeAndGo()
     QVERIFY(m_organizer->selectedRows().isEmpty());
 }
 
-void OrganizerTest::tellsWhatWasChosen()
+void TestOrganizer::tellsWhatWasChosen()
 {
     Numbers list(5);
     m_organizer->setObject(&list);
@@ -499,7 +499,7 @@ void OrganizerTest::tellsWhatWasChosen()
     QCOMPARE(activated[1].value(0).toInt(), 2);
 }
 
-void OrganizerTest::fewCallsForManyRows()
+void TestOrganizer::fewCallsForManyRows()
 {
     Numbers list(50000);
     m_organizer->setObject(&list);
@@ -527,5 +527,5 @@ void OrganizerTest::fewCallsForManyRows()
     }
 }
 
-QTEST_MAIN(OrganizerTest)
+QTEST_MAIN(TestOrganizer)
 #include "tst_organizer.moc"

@@ -1,19 +1,19 @@
 #pragma once
 
-#include "windowfixture.h"
-
 #include "app/assets/spritepanel.h"
 #include "app/stage/stagecommands.h"
 #include "app/stage/stagecontroller.h"
 #include "app/stage/stagerenderer.h"
 #include "app/stage/stageview.h"
-#include "code/codedoc/contactboxescode.h"
-#include "core/filesystemarchive.h"
 #include "family/assets/spritefile.h"
 #include "family/familyanimations.h"
 #include "family/nodes/animationnode.h"
 #include "family/nodes/framenode.h"
-#include "graphics/renderwidget.h"
+#include "windowfixture.h"
+
+#include <zorv/code/codedoc/contactboxescode.h>
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/graphics/renderwidget.h>
 
 #include <QAction>
 #include <QMouseEvent>

@@ -1,8 +1,8 @@
 #include "app/actions/actionregistry.h"
 #include "app/actions/shortcutguard.h"
-
 #include "support/testinterface.h"
-#include "text/translator.h"
+
+#include <zorv/text/translator.h>
 
 #include <QAction>
 #include <QComboBox>
@@ -17,7 +17,6 @@
 #include <QTest>
 #include <QTreeView>
 #include <QVBoxLayout>
-
 #include <memory>
 
 using App::ActionInfo;
@@ -55,7 +54,7 @@ ActionInfo info(const char* name, const char* key, const QStringList& areas = {}
 }  // namespace
 
 /// Names, keys and enabled states of actions, and where their keys work.
-class tst_ActionRegistry : public QObject
+class TestActionRegistry : public QObject
 {
     Q_OBJECT
 
@@ -87,7 +86,7 @@ private:
     std::unique_ptr<ActionRegistry> m_registry;
 };
 
-void tst_ActionRegistry::init()
+void TestActionRegistry::init()
 {
     m_host = std::make_unique<TestInterface>();
     m_window = std::make_unique<QMainWindow>();
@@ -95,14 +94,14 @@ void tst_ActionRegistry::init()
     m_registry = std::make_unique<ActionRegistry>();
 }
 
-void tst_ActionRegistry::cleanup()
+void TestActionRegistry::cleanup()
 {
     m_registry.reset();
     m_window.reset();
     m_host.reset();
 }
 
-void tst_ActionRegistry::keepsChosenKeys()
+void TestActionRegistry::keepsChosenKeys()
 {
     QAction* action = add(info("go", "Ctrl+G"));
     QSignalSpy changed(m_registry.get(), &ActionRegistry::changed);
@@ -126,7 +125,7 @@ void tst_ActionRegistry::keepsChosenKeys()
     QVERIFY(!m_host->options.contains(QStringLiteral("shortcut_go")));
 }
 
-void tst_ActionRegistry::findsClashes_data()
+void TestActionRegistry::findsClashes_data()
 {
     QTest::addColumn<QString>("firstKey");
     QTest::addColumn<QStringList>("firstAreas");
@@ -146,7 +145,7 @@ void tst_ActionRegistry::findsClashes_data()
     QTest::newRow("no keys") << "" << all << "" << all << false;
 }
 
-void tst_ActionRegistry::findsClashes()
+void TestActionRegistry::findsClashes()
 {
     QFETCH(QString, firstKey);
     QFETCH(QStringList, firstAreas);
@@ -165,7 +164,7 @@ void tst_ActionRegistry::findsClashes()
              clash ? QStringList("second") : QStringList());
 }
 
-void tst_ActionRegistry::enablesByAreaAndOwner_data()
+void TestActionRegistry::enablesByAreaAndOwner_data()
 {
     QTest::addColumn<QStringList>("areas");
     QTest::addColumn<QString>("active");
@@ -179,7 +178,7 @@ void tst_ActionRegistry::enablesByAreaAndOwner_data()
     QTest::newRow("none named") << QStringList() << "" << true << true;
 }
 
-void tst_ActionRegistry::enablesByAreaAndOwner()
+void TestActionRegistry::enablesByAreaAndOwner()
 {
     QFETCH(QStringList, areas);
     QFETCH(QString, active);
@@ -198,7 +197,7 @@ void tst_ActionRegistry::enablesByAreaAndOwner()
     QCOMPARE(action->isEnabled(), enabled);
 }
 
-void tst_ActionRegistry::followsTheLanguage()
+void TestActionRegistry::followsTheLanguage()
 {
     Texts texts;
     ActionInfo given = info("act", "");
@@ -216,7 +215,7 @@ void tst_ActionRegistry::followsTheLanguage()
              QStringLiteral("Cut & paste"));
 }
 
-void tst_ActionRegistry::forgetsTheDead()
+void TestActionRegistry::forgetsTheDead()
 {
     QAction* old = add(info("act", "Ctrl+G"));
     QAction* replacing = add(info("act", "Ctrl+G"));
@@ -233,7 +232,7 @@ void tst_ActionRegistry::forgetsTheDead()
     last->setEnabled(false);
 }
 
-void tst_ActionRegistry::keepsKeysOutOfFields_data()
+void TestActionRegistry::keepsKeysOutOfFields_data()
 {
     QTest::addColumn<QString>("widget");
     QTest::addColumn<QString>("name");
@@ -260,7 +259,7 @@ void tst_ActionRegistry::keepsKeysOutOfFields_data()
                                                << "Ctrl+T" << true;
 }
 
-void tst_ActionRegistry::keepsKeysOutOfFields()
+void TestActionRegistry::keepsKeysOutOfFields()
 {
     QFETCH(QString, widget);
     QFETCH(QString, name);
@@ -311,5 +310,5 @@ void tst_ActionRegistry::keepsKeysOutOfFields()
     QCOMPARE(triggered.count(), fires ? 1 : 0);
 }
 
-QTEST_MAIN(tst_ActionRegistry)
+QTEST_MAIN(TestActionRegistry)
 #include "tst_actionregistry.moc"

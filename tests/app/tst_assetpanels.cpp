@@ -5,10 +5,11 @@
 #include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/spritepicture.h"
-#include "core/filesystemarchive.h"
 #include "family/assets/soundfile.h"
 #include "family/assets/spritefile.h"
-#include "media/soundsample.h"
+
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/soundsample.h>
 
 #include <QAction>
 #include <QHelpEvent>
@@ -49,7 +50,7 @@ bool hasColor(const QWidget* widget, const QColor& color)
 
 /// Sprites, palettes and sounds of the project in the real window: seen, brought in, taken out,
 /// saved.
-class tst_AssetPanels : public QObject
+class TestAssetPanels : public QObject
 {
     Q_OBJECT
 
@@ -84,7 +85,7 @@ private:
     std::unique_ptr<Open> m;
 };
 
-void tst_AssetPanels::init()
+void TestAssetPanels::init()
 {
     m = std::make_unique<Open>();
     m->game.write("characters/ryn/ryn.character", "[info]\r\nname = \"Ryn\"\r\n[files]\r\n"
@@ -113,13 +114,13 @@ void tst_AssetPanels::init()
     QTRY_VERIFY(sprites());
 }
 
-QString tst_AssetPanels::image(const QString& name, const QImage& image) const
+QString TestAssetPanels::image(const QString& name, const QImage& image) const
 {
     const QString path = m->folder.filePath(name);
     return image.save(path) ? path : QString();
 }
 
-void tst_AssetPanels::showsWhatIsInSight()
+void TestAssetPanels::showsWhatIsInSight()
 {
     App::SpriteList* list = panel()->list();
     QCOMPARE(list->model()->rowCount(), 500);
@@ -135,7 +136,7 @@ void tst_AssetPanels::showsWhatIsInSight()
     QTRY_VERIFY(hasColor(picture, QColor(Colors[2])) && !hasColor(picture, QColor(Colors[1])));
 }
 
-void tst_AssetPanels::followsTheCursor()
+void TestAssetPanels::followsTheCursor()
 {
     m->fixture.goTo(8);
     QCoreApplication::processEvents();
@@ -145,7 +146,7 @@ void tst_AssetPanels::followsTheCursor()
     QCOMPARE(panel()->currentSprite()->id(), (AssetId{0, 0}));
 }
 
-void tst_AssetPanels::bringsImagesIn()
+void TestAssetPanels::bringsImagesIn()
 {
     // Without numbers in their names they go to the group of the current sprite.
     m->fixture.dialogs.fileAnswers = {{image("a.png", block(3, {4, 4}))}};
@@ -177,7 +178,7 @@ void tst_AssetPanels::bringsImagesIn()
     QCOMPARE(sprites()->count(), 500U);
 }
 
-void tst_AssetPanels::replacesAnImage_data()
+void TestAssetPanels::replacesAnImage_data()
 {
     QTest::addColumn<int>("answer");
     QTest::addColumn<QRgb>("shown");
@@ -189,7 +190,7 @@ void tst_AssetPanels::replacesAnImage_data()
     QTest::newRow("given up") << -1 << Colors[1] << Colors[1];
 }
 
-void tst_AssetPanels::replacesAnImage()
+void TestAssetPanels::replacesAnImage()
 {
     QFETCH(int, answer);
     QFETCH(QRgb, shown);
@@ -205,7 +206,7 @@ void tst_AssetPanels::replacesAnImage()
 }
 
 /// The sprites and palettes of before are gone when the dialog ends.
-void tst_AssetPanels::readsBehindADialog()
+void TestAssetPanels::readsBehindADialog()
 {
     const QString colours = m->folder.filePath("colours.act");
     const QVector<QPair<const char*, QString>> work{{"palette_save", colours},
@@ -233,7 +234,7 @@ void tst_AssetPanels::readsBehindADialog()
     QVERIFY(sprites()->isModified());
 }
 
-void tst_AssetPanels::takesImagesAndPalettesOut()
+void TestAssetPanels::takesImagesAndPalettesOut()
 {
     panel()->setCurrentRow(2);
     const QString single = m->folder.filePath("one.png");
@@ -268,7 +269,7 @@ void tst_AssetPanels::takesImagesAndPalettesOut()
     QVERIFY(m->fixture.dialogs.texts(QStringLiteral("warning")).first().contains(bitmap));
 }
 
-void tst_AssetPanels::soundsComeAndGo()
+void TestAssetPanels::soundsComeAndGo()
 {
     App::SoundPanel* sounds = m->fixture.window->soundPanel();
     QTRY_VERIFY(sounds->sounds());
@@ -305,7 +306,7 @@ void tst_AssetPanels::soundsComeAndGo()
     QCOMPARE(m->fixture.dialogs.count(QStringLiteral("question")), 3);
 }
 
-void tst_AssetPanels::asksForSpritesThatAreNamedNoMore()
+void TestAssetPanels::asksForSpritesThatAreNamedNoMore()
 {
     const QByteArray before = m->game.read("characters/ryn/ryn.character");
     QVERIFY(QFile::copy(m->game.path("characters/ryn/ryn.sprites"),
@@ -325,7 +326,7 @@ void tst_AssetPanels::asksForSpritesThatAreNamedNoMore()
     }
 }
 
-void tst_AssetPanels::asksBeforeSpritesAreLost_data()
+void TestAssetPanels::asksBeforeSpritesAreLost_data()
 {
     QTest::addColumn<int>("answer");
     QTest::addColumn<unsigned>("left");
@@ -334,7 +335,7 @@ void tst_AssetPanels::asksBeforeSpritesAreLost_data()
     QTest::newRow("stays open") << -1 << 499U;
 }
 
-void tst_AssetPanels::asksBeforeSpritesAreLost()
+void TestAssetPanels::asksBeforeSpritesAreLost()
 {
     QFETCH(int, answer);
     QFETCH(unsigned, left);
@@ -350,5 +351,5 @@ void tst_AssetPanels::asksBeforeSpritesAreLost()
     QCOMPARE(sprites()->count(), left);
 }
 
-QTEST_MAIN(tst_AssetPanels)
+QTEST_MAIN(TestAssetPanels)
 #include "tst_assetpanels.moc"

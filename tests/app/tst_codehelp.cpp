@@ -1,13 +1,13 @@
 #include "app/code/definitionjumps.h"
 #include "app/code/wordhover.h"
 #include "app/code/wordpopup.h"
-
-#include "editors/code/codeeditor.h"
 #include "family/completer/completerfile.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
 #include "support/testinterface.h"
+
+#include <zorv/editors/code/codeeditor.h>
 
 #include <QAbstractItemView>
 #include <QCompleter>
@@ -17,7 +17,6 @@
 #include <QTextBlock>
 #include <QToolTip>
 #include <QtTest>
-
 #include <memory>
 
 using namespace App;
@@ -36,7 +35,7 @@ constexpr char animText[] = "animation 1\r\nframe 0,0 loop\r\n"
 }  // namespace
 
 /// Popup, hover and jumps on an editor with a project of two files, by keys and mouse.
-class CodeHelpTest : public QObject
+class TestCodeHelp : public QObject
 {
     Q_OBJECT
 
@@ -77,7 +76,7 @@ private:
     QString opened;
 };
 
-void CodeHelpTest::initTestCase()
+void TestCodeHelp::initTestCase()
 {
     setGlobalInterface(&host);
     const QDir hero(folder.filePath(QStringLiteral("characters/hero")));
@@ -94,7 +93,7 @@ void CodeHelpTest::initTestCase()
     QVERIFY(file.write(Family::completerXml()) > 0);
 }
 
-void CodeHelpTest::init()
+void TestCodeHelp::init()
 {
     game = std::make_unique<Family::FamilyParentProject>(folder.path());
     QString error;
@@ -130,7 +129,7 @@ void CodeHelpTest::init()
     opened.clear();
 }
 
-void CodeHelpTest::cleanup()
+void TestCodeHelp::cleanup()
 {
     editor.reset();
     project->release();
@@ -138,7 +137,7 @@ void CodeHelpTest::cleanup()
 }
 
 /// Puts the text into the file in front, with the cursor where '|' stands.
-void CodeHelpTest::start(const QString& text)
+void TestCodeHelp::start(const QString& text)
 {
     const int cursor = text.indexOf(QLatin1Char('|'));
     document(0)->setPlainText(QString(text).remove(QLatin1Char('|')));
@@ -147,7 +146,7 @@ void CodeHelpTest::start(const QString& text)
     editor->setTextCursor(at);
 }
 
-QString CodeHelpTest::place() const
+QString TestCodeHelp::place() const
 {
     const QTextCursor cursor = editor->textCursor();
     const auto* front = static_cast<FamilyDocument*>(editor->codeDocument());
@@ -158,7 +157,7 @@ QString CodeHelpTest::place() const
 }
 
 /// The middle of a character.
-QPoint CodeHelpTest::pointAt(int line, int column) const
+QPoint TestCodeHelp::pointAt(int line, int column) const
 {
     QTextCursor cursor(editor->document()->findBlockByNumber(line));
     cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, column);
@@ -167,7 +166,7 @@ QPoint CodeHelpTest::pointAt(int line, int column) const
     return (left + editor->cursorRect(cursor).center()) / 2;
 }
 
-void CodeHelpTest::mouse(QEvent::Type type, const QPoint& point, Qt::MouseButton button,
+void TestCodeHelp::mouse(QEvent::Type type, const QPoint& point, Qt::MouseButton button,
                          Qt::KeyboardModifiers modifiers) const
 {
     QMouseEvent event(type, point, editor->viewport()->mapToGlobal(point), button,
@@ -177,7 +176,7 @@ void CodeHelpTest::mouse(QEvent::Type type, const QPoint& point, Qt::MouseButton
 }
 
 // clang-format off
-void CodeHelpTest::wordTakesThePlaceOfTheWhole_data()
+void TestCodeHelp::wordTakesThePlaceOfTheWhole_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("keys");
@@ -191,7 +190,7 @@ void CodeHelpTest::wordTakesThePlaceOfTheWhole_data()
 }
 // clang-format on
 
-void CodeHelpTest::wordTakesThePlaceOfTheWhole()
+void TestCodeHelp::wordTakesThePlaceOfTheWhole()
 {
     QFETCH(QString, before);
     QFETCH(QString, keys);
@@ -207,7 +206,7 @@ void CodeHelpTest::wordTakesThePlaceOfTheWhole()
 }
 
 // clang-format off
-void CodeHelpTest::keysThatEndAWord_data()
+void TestCodeHelp::keysThatEndAWord_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("typed");
@@ -223,7 +222,7 @@ void CodeHelpTest::keysThatEndAWord_data()
 // clang-format on
 
 /// The words of the generated file open by themselves.
-void CodeHelpTest::keysThatEndAWord()
+void TestCodeHelp::keysThatEndAWord()
 {
     QFETCH(QString, before);
     QFETCH(QString, typed);
@@ -238,7 +237,7 @@ void CodeHelpTest::keysThatEndAWord()
     QTEST(document(0)->toPlainText(), "after");
 }
 
-void CodeHelpTest::nothingToOffer()
+void TestCodeHelp::nothingToOffer()
 {
     start(QStringLiteral("# a comment|"));
     QVERIFY(!words->open());
@@ -251,7 +250,7 @@ void CodeHelpTest::nothingToOffer()
 }
 
 // clang-format off
-void CodeHelpTest::hover_data()
+void TestCodeHelp::hover_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<int>("column");
@@ -265,7 +264,7 @@ void CodeHelpTest::hover_data()
 }
 // clang-format on
 
-void CodeHelpTest::hover()
+void TestCodeHelp::hover()
 {
     QFETCH(int, line);
     QFETCH(int, column);
@@ -282,7 +281,7 @@ void CodeHelpTest::hover()
     }
 }
 
-void CodeHelpTest::jumpsAndBack()
+void TestCodeHelp::jumpsAndBack()
 {
     editor->setCurrentLine({8, 14, 0});
     jumps->goToDefinition();
@@ -311,7 +310,7 @@ void CodeHelpTest::jumpsAndBack()
     QCOMPARE(told.size(), 3);
 }
 
-void CodeHelpTest::jumpsToFiles()
+void TestCodeHelp::jumpsToFiles()
 {
     editor->setCurrentLine({1, 15, 0});
     jumps->goToDefinition();
@@ -326,7 +325,7 @@ void CodeHelpTest::jumpsToFiles()
     QVERIFY(opened.isEmpty());
 }
 
-void CodeHelpTest::backToATextThatIsClosed()
+void TestCodeHelp::backToATextThatIsClosed()
 {
     FamilyDocument other(Family::FileKind::Code);
     other.setFileName(document(0)->fileName());
@@ -351,7 +350,7 @@ void CodeHelpTest::backToATextThatIsClosed()
     QCOMPARE(editor->codeDocument(), document(0));
 }
 
-void CodeHelpTest::clickWithControl()
+void TestCodeHelp::clickWithControl()
 {
     const QPoint word = pointAt(8, 13);
     mouse(QEvent::MouseMove, word, Qt::NoButton, Qt::NoModifier);
@@ -377,5 +376,5 @@ void CodeHelpTest::clickWithControl()
     QCOMPARE(place().section(':', 0, 1), QStringLiteral("hero.character:9"));
 }
 
-QTEST_MAIN(CodeHelpTest)
+QTEST_MAIN(TestCodeHelp)
 #include "tst_codehelp.moc"

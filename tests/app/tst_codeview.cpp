@@ -1,7 +1,7 @@
 #include "windowfixture.h"
 
-#include "core/messagelist.h"
-#include "core/messages.h"
+#include <zorv/core/messagelist.h>
+#include <zorv/core/messages.h>
 
 #include <QAccessible>
 #include <QAction>
@@ -13,7 +13,7 @@
 #include <QToolButton>
 
 /// Texts in the code workspace of the real window: tabs, places, tree, marks, fields.
-class tst_CodeView : public QObject
+class TestCodeView : public QObject
 {
     Q_OBJECT
 
@@ -45,14 +45,14 @@ private:
     std::unique_ptr<WindowFixture> m;
 };
 
-void tst_CodeView::init()
+void TestCodeView::init()
 {
     m_settings = std::make_unique<QTemporaryDir>();
     m_game = std::make_unique<TemporaryGame>();
     m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
 }
 
-QStringList tst_CodeView::titles() const
+QStringList TestCodeView::titles() const
 {
     QStringList all;
     for (int i = 0; i < bar()->count(); ++i) {
@@ -62,7 +62,7 @@ QStringList tst_CodeView::titles() const
 }
 
 /// In the left column of the gutter.
-void tst_CodeView::pressMark(int line) const
+void TestCodeView::pressMark(int line) const
 {
     for (QWidget* child : m->edit()->findChildren<QWidget*>()) {
         if (qstrcmp(child->metaObject()->className(), "Zorv::CodeEditorExtraArea") == 0) {
@@ -73,7 +73,7 @@ void tst_CodeView::pressMark(int line) const
     }
 }
 
-void tst_CodeView::keepsThePlaceOfEachText()
+void TestCodeView::keepsThePlaceOfEachText()
 {
     QByteArray text = m_game->read("characters/ryn/basic.anim");
     for (int i = 0; i < 300; ++i) {
@@ -112,7 +112,7 @@ void tst_CodeView::keepsThePlaceOfEachText()
     QCOMPARE(m->place().column, 1);
 }
 
-void tst_CodeView::tabsFollowWhatIsDoneToThem()
+void TestCodeView::tabsFollowWhatIsDoneToThem()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     QVERIFY(window()->openFile(m_game->path("characters/ryn/moves.code")));
@@ -132,7 +132,7 @@ void tst_CodeView::tabsFollowWhatIsDoneToThem()
     QCOMPARE(titles(), QStringList({"ryn.character", "basic.anim"}));
 }
 
-void tst_CodeView::closesWhatTheMiddleButtonIsPressedOn()
+void TestCodeView::closesWhatTheMiddleButtonIsPressedOn()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     QTest::mousePress(bar(), Qt::MiddleButton, {}, tab(0));
@@ -146,7 +146,7 @@ void tst_CodeView::closesWhatTheMiddleButtonIsPressedOn()
     QVERIFY(!window()->textEditor()->isActive());
 }
 
-void tst_CodeView::asksBeforeAModifiedTabCloses()
+void TestCodeView::asksBeforeAModifiedTabCloses()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     m->type(QStringLiteral("# mine"));
@@ -158,7 +158,7 @@ void tst_CodeView::asksBeforeAModifiedTabCloses()
     QCOMPARE(m->document()->fileName(), m_game->ryn());
 }
 
-void tst_CodeView::namesItsParts()
+void TestCodeView::namesItsParts()
 {
     m->open(*m_game, m_game->ryn());
     QAccessibleInterface* text = QAccessible::queryAccessibleInterface(m->edit());
@@ -171,7 +171,7 @@ void tst_CodeView::namesItsParts()
     }
 }
 
-void tst_CodeView::tellsPlaceAndProblems()
+void TestCodeView::tellsPlaceAndProblems()
 {
     m->open(*m_game, m_game->oda(), m_game->ryn());
     const auto* problems = window()->findChild<QToolButton*>(QStringLiteral("problems_field"));
@@ -188,7 +188,7 @@ void tst_CodeView::tellsPlaceAndProblems()
     QCOMPARE(window()->status()->placeText(), QString());
 }
 
-void tst_CodeView::marksLeadToMessages()
+void TestCodeView::marksLeadToMessages()
 {
     m->open(*m_game, m_game->oda());
     auto* dock = window()->findChild<QDockWidget*>(QStringLiteral("messages"));
@@ -207,7 +207,7 @@ void tst_CodeView::marksLeadToMessages()
     QCOMPARE(window()->messagePanel()->currentIndex().row(), 1);
 }
 
-void tst_CodeView::messagesFollowTheCursor()
+void TestCodeView::messagesFollowTheCursor()
 {
     m_game->write("characters/oda/oda.character", "[constants]\r\n"
                                                   "life = full\r\n"
@@ -240,7 +240,7 @@ void tst_CodeView::messagesFollowTheCursor()
     }
 }
 
-void tst_CodeView::hiddenTreeComesBackInLine()
+void TestCodeView::hiddenTreeComesBackInLine()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     App::NodeModel* nodes = window()->textEditor()->nodes();
@@ -272,7 +272,7 @@ void tst_CodeView::hiddenTreeComesBackInLine()
 }
 
 /// F6 leads on from inside of a bar too.
-void tst_CodeView::keysLeadThroughTheBars()
+void TestCodeView::keysLeadThroughTheBars()
 {
     m->open(*m_game, m_game->ryn());
     m->press(Qt::Key_F, Qt::ControlModifier);
@@ -287,7 +287,7 @@ void tst_CodeView::keysLeadThroughTheBars()
 }
 
 /// The library's commands on files bring the text to the front first.
-void tst_CodeView::editorComesForwardOnDemand()
+void TestCodeView::editorComesForwardOnDemand()
 {
     auto* editor = window()->textEditor();
     m->host.activateEditor(editor);
@@ -304,5 +304,5 @@ void tst_CodeView::editorComesForwardOnDemand()
     QCOMPARE(m->edit()->codeDocument(), m->document());
 }
 
-QTEST_MAIN(tst_CodeView)
+QTEST_MAIN(TestCodeView)
 #include "tst_codeview.moc"

@@ -1,9 +1,10 @@
 #include "windowfixture.h"
 
 #include "app/actions/actionregistry.h"
-#include "editors/framework/toolbuttoncontrol.h"
-#include "editors/framework/trwidgetcontrol.h"
-#include "text/translator.h"
+
+#include <zorv/editors/framework/toolbuttoncontrol.h>
+#include <zorv/editors/framework/trwidgetcontrol.h>
+#include <zorv/text/translator.h>
 
 #include <QAction>
 #include <QCheckBox>
@@ -70,7 +71,7 @@ signals:
 Q_DECLARE_METATYPE(WidgetControl::Kind)
 
 /// Tools that editors publish, as widgets of the window that are really used.
-class tst_Controls : public QObject
+class TestControls : public QObject
 {
     Q_OBJECT
 
@@ -115,7 +116,7 @@ private:
     Texts m_texts;
 };
 
-void tst_Controls::init()
+void TestControls::init()
 {
     m_settings = std::make_unique<QTemporaryDir>();
     m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
@@ -123,13 +124,13 @@ void tst_Controls::init()
     m_texts.language = QStringLiteral("en");
 }
 
-void tst_Controls::cleanup()
+void TestControls::cleanup()
 {
     m.reset();
     m_publisher.reset();
 }
 
-void tst_Controls::tellsAndTakesValues_data()
+void TestControls::tellsAndTakesValues_data()
 {
     QTest::addColumn<WidgetControl::Kind>("kind");
     QTest::addColumn<QByteArray>("slot");
@@ -148,7 +149,7 @@ void tst_Controls::tellsAndTakesValues_data()
                            << QByteArray(SIGNAL(setOn(bool))) << QVariant(false);
 }
 
-void tst_Controls::tellsAndTakesValues()
+void TestControls::tellsAndTakesValues()
 {
     QFETCH(WidgetControl::Kind, kind);
     QFETCH(QByteArray, slot);
@@ -177,7 +178,7 @@ void tst_Controls::tellsAndTakesValues()
     QCOMPARE(m_publisher->told, QVariantList{told});
 }
 
-void tst_Controls::showsATextOnly()
+void TestControls::showsATextOnly()
 {
     auto* label = qobject_cast<QLabel*>(
         add("test_lb", WidgetControl(WidgetControl::Label, 10, m_publisher.get(), nullptr,
@@ -188,7 +189,7 @@ void tst_Controls::showsATextOnly()
     QCOMPARE(label->textFormat(), Qt::PlainText);
 }
 
-void tst_Controls::choosesRows_data()
+void TestControls::choosesRows_data()
 {
     QTest::addColumn<WidgetControl::Kind>("kind");
     QTest::addColumn<int>("flags");
@@ -198,7 +199,7 @@ void tst_Controls::choosesRows_data()
     QTest::newRow("one click") << WidgetControl::ListView << int(WidgetControl::SingleClick) << 1;
 }
 
-void tst_Controls::choosesRows()
+void TestControls::choosesRows()
 {
     QFETCH(WidgetControl::Kind, kind);
     QFETCH(int, flags);
@@ -224,7 +225,7 @@ void tst_Controls::choosesRows()
     QCOMPARE(m_publisher->told, QVariantList{2});
 }
 
-void tst_Controls::makesListsThatCanBeRearranged()
+void TestControls::makesListsThatCanBeRearranged()
 {
     const auto listOf = [this](WidgetControl::Flags flags) {
         return qobject_cast<QListView*>(
@@ -240,7 +241,7 @@ void tst_Controls::makesListsThatCanBeRearranged()
     QCOMPARE(loose->dragDropMode(), QAbstractItemView::InternalMove);
 }
 
-void tst_Controls::enablesActions()
+void TestControls::enablesActions()
 {
     QAction* action = addAction("spr_thing", sprites);
     auto* button = qobject_cast<QToolButton*>(
@@ -267,7 +268,7 @@ void tst_Controls::enablesActions()
     QVERIFY(!action->isEnabled());
 }
 
-void tst_Controls::checksActions()
+void TestControls::checksActions()
 {
     QAction* action =
         m->host.createAction(everywhere, QStringLiteral("view_thing"), &m_texts, 1, "Ctrl+Alt+9",
@@ -279,7 +280,7 @@ void tst_Controls::checksActions()
     QCOMPARE(m_publisher->told, QVariantList{false});
 }
 
-void tst_Controls::enablesWidgets()
+void TestControls::enablesWidgets()
 {
     const QWidget* spin = add("code_thing", Zorv::SpinEditControl(4, &m_texts, 2, m_publisher.get(),
                                                                   SLOT(numberChosen(int)), nullptr,
@@ -292,7 +293,7 @@ void tst_Controls::enablesWidgets()
     QVERIFY(!spin->isEnabled());
 }
 
-void tst_Controls::followsTheLanguage()
+void TestControls::followsTheLanguage()
 {
     const QAction* action = addAction("code_thing");
     auto* spin = add("code_number", Zorv::SpinEditControl(4, &m_texts, 2, m_publisher.get(),
@@ -310,7 +311,7 @@ void tst_Controls::followsTheLanguage()
     QCOMPARE(spin->parentWidget()->findChild<QLabel*>()->text(), QStringLiteral("Label 2 de"));
 }
 
-void tst_Controls::placesByName_data()
+void TestControls::placesByName_data()
 {
     QTest::addColumn<QString>("bar");
     QTest::addColumn<QString>("menu");
@@ -334,7 +335,7 @@ void tst_Controls::placesByName_data()
                                  << "edit";
 }
 
-void tst_Controls::placesByName()
+void TestControls::placesByName()
 {
     QFETCH(QString, bar);
     QFETCH(QString, menu);
@@ -353,7 +354,7 @@ void tst_Controls::placesByName()
     QVERIFY(m->window->registry()->action(QStringLiteral("show_") + bar)->isVisible());
 }
 
-void tst_Controls::showsMenusOnDemand()
+void TestControls::showsMenusOnDemand()
 {
     for (const char* name : {"spr", "pal", "snd"}) {
         const QAction* entry = m->host.menu(name)->menuAction();
@@ -367,7 +368,7 @@ void tst_Controls::showsMenusOnDemand()
     QVERIFY(m->host.menu("anim") && m->host.menu("view"));
 }
 
-void tst_Controls::hidesAMenuWithItsTools()
+void TestControls::hidesAMenuWithItsTools()
 {
     QAction* action = addAction("snd_play");
     emit m_publisher->enabled(true);
@@ -392,7 +393,7 @@ void tst_Controls::hidesAMenuWithItsTools()
     QVERIFY(!late->isVisible());
 }
 
-void tst_Controls::bringsAnEditorForward()
+void TestControls::bringsAnEditorForward()
 {
     const TemporaryGame game;
     m->open(game, game.ryn());
@@ -407,7 +408,7 @@ void tst_Controls::bringsAnEditorForward()
     QVERIFY(m->edit()->hasFocus());
 }
 
-void tst_Controls::staysSwitchedOff()
+void TestControls::staysSwitchedOff()
 {
     const auto publish = [this] {
         add("pal_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
@@ -432,7 +433,7 @@ void tst_Controls::staysSwitchedOff()
     QTRY_VERIFY(isShown("palette") && isShown("code_bar"));
 }
 
-void tst_Controls::goesWithItsReceiver()
+void TestControls::goesWithItsReceiver()
 {
     const QPointer<QAction> action = addAction("pal_add");
     emit m_publisher->enabled(true);
@@ -459,5 +460,5 @@ void tst_Controls::goesWithItsReceiver()
     QVERIFY(m->window->registry()->action(QStringLiteral("pal_add")));
 }
 
-QTEST_MAIN(tst_Controls)
+QTEST_MAIN(TestControls)
 #include "tst_controls.moc"

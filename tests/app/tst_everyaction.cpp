@@ -32,7 +32,7 @@ void copyFolder(const QString& source, const QString& target)
 }  // namespace
 
 /// Every action of the window, clicked on in a copy of the sample game.
-class tst_EveryAction : public QObject
+class TestEveryAction : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +56,7 @@ private:
     QTimer m_closer;
 };
 
-void tst_EveryAction::init()
+void TestEveryAction::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     copyFolder(QStringLiteral(SAMPLES "/arena"), m_folder->filePath(QStringLiteral("arena")));
@@ -71,7 +71,7 @@ void tst_EveryAction::init()
     m_closer.start(20);
 }
 
-void tst_EveryAction::cleanup()
+void TestEveryAction::cleanup()
 {
     m_closer.stop();
     m_closer.disconnect();
@@ -79,7 +79,7 @@ void tst_EveryAction::cleanup()
 }
 
 /// Brings the window to where as much as possible can be done.
-void tst_EveryAction::prepare()
+void TestEveryAction::prepare()
 {
     if (QWidget* words = QApplication::activePopupWidget()) {
         words->close();
@@ -102,7 +102,7 @@ void tst_EveryAction::prepare()
                 m->action("anim_next_frame")->isEnabled());
 }
 
-QMenu* tst_EveryAction::menuOf(const QAction* action) const
+QMenu* TestEveryAction::menuOf(const QAction* action) const
 {
     const QList<QWidget*> widgets = action->associatedWidgets();
     for (QWidget* widget : widgets) {
@@ -115,7 +115,7 @@ QMenu* tst_EveryAction::menuOf(const QAction* action) const
 }
 
 /// Opens the menu of an action in the menu bar and clicks on it. True if it was triggered.
-bool tst_EveryAction::click(QAction* action)
+bool TestEveryAction::click(QAction* action)
 {
     QMenu* menu = menuOf(action);
     QMenuBar* bar = m->window->menuBar();
@@ -129,7 +129,7 @@ bool tst_EveryAction::click(QAction* action)
     return triggered.count() == 1;
 }
 
-void tst_EveryAction::hasNoClashes()
+void TestEveryAction::hasNoClashes()
 {
     prepare();
     QStringList clashes;
@@ -139,7 +139,7 @@ void tst_EveryAction::hasNoClashes()
     QCOMPARE(clashes, QStringList());
 }
 
-void tst_EveryAction::opensFromTheMenus()
+void TestEveryAction::opensFromTheMenus()
 {
     QStringList missed;
     QStringList names = registry()->names();
@@ -164,7 +164,7 @@ void tst_EveryAction::opensFromTheMenus()
     QVERIFY(!m->window->isVisible());
 }
 
-void tst_EveryAction::opensFromTheBars()
+void TestEveryAction::opensFromTheBars()
 {
     prepare();
     QList<QPointer<QToolButton>> buttons;
@@ -185,5 +185,5 @@ void tst_EveryAction::opensFromTheBars()
     }
 }
 
-QTEST_MAIN(tst_EveryAction)
+QTEST_MAIN(TestEveryAction)
 #include "tst_everyaction.moc"

@@ -1,11 +1,11 @@
 #include "app/find/findbar.h"
 
+#include "app/find/matchcounter.h"
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
 #include "windowfixture.h"
 
-#include "app/find/matchcounter.h"
-#include "editors/code/codeeditor.h"
+#include <zorv/editors/code/codeeditor.h>
 
 #include <QAction>
 #include <QComboBox>
@@ -16,13 +16,12 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QtTest>
-
 #include <memory>
 
 using namespace App;
 
 /// A text with the bar below it, used by keys.
-class FindBarTest : public QObject
+class TestFindBar : public QObject
 {
     Q_OBJECT
 
@@ -77,7 +76,7 @@ private:
     FindBar* bar = nullptr;
 };
 
-void FindBarTest::init()
+void TestFindBar::init()
 {
     host = std::make_unique<TestInterface>();
     window = std::make_unique<QWidget>();
@@ -97,14 +96,14 @@ void FindBarTest::init()
     QTRY_VERIFY(field()->hasFocus());
 }
 
-void FindBarTest::cleanup()
+void TestFindBar::cleanup()
 {
     window.reset();
     document.reset();
     host.reset();
 }
 
-void FindBarTest::findsWhileTyping()
+void TestFindBar::findsWhileTyping()
 {
     put(9);
     type(QStringLiteral("ab=2"));
@@ -119,7 +118,7 @@ void FindBarTest::findsWhileTyping()
     QTRY_COMPARE(state(), QStringLiteral("No matches"));
 }
 
-void FindBarTest::returnGoesOn()
+void TestFindBar::returnGoesOn()
 {
     type(QStringLiteral("ab"));
     QCOMPARE(place(), 4);
@@ -133,7 +132,7 @@ void FindBarTest::returnGoesOn()
     QVERIFY(field()->hasFocus());
 }
 
-void FindBarTest::endOfTheTextIsTold()
+void TestFindBar::endOfTheTextIsTold()
 {
     type(QStringLiteral("ab"));
     QTest::keyClick(field(), Qt::Key_Return, Qt::ShiftModifier);
@@ -146,7 +145,7 @@ void FindBarTest::endOfTheTextIsTold()
     QTRY_COMPARE(state(), QStringLiteral("2 of 4"));
 }
 
-void FindBarTest::options_data()
+void TestFindBar::options_data()
 {
     QTest::addColumn<QString>("keys");
     QTest::addColumn<QString>("text");
@@ -180,7 +179,7 @@ void FindBarTest::options_data()
                          << "1 of 2";
 }
 
-void FindBarTest::options()
+void TestFindBar::options()
 {
     QFETCH(QString, keys);
     QFETCH(QString, text);
@@ -196,7 +195,7 @@ void FindBarTest::options()
              keys.contains(QLatin1Char('W')));
 }
 
-void FindBarTest::wrongExpressionIsTold()
+void TestFindBar::wrongExpressionIsTold()
 {
     QTest::keyClick(field(), Qt::Key_R, Qt::AltModifier);
     QTest::keyClick(field(), Qt::Key_W, Qt::AltModifier);
@@ -211,7 +210,7 @@ void FindBarTest::wrongExpressionIsTold()
     QVERIFY(!bar->findChild<QToolButton*>(QStringLiteral("replace_all"))->isEnabled());
 }
 
-void FindBarTest::emptyMatchesComeToAnEnd_data()
+void TestFindBar::emptyMatchesComeToAnEnd_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("replaced");
@@ -223,7 +222,7 @@ void FindBarTest::emptyMatchesComeToAnEnd_data()
                                          << "[> 1]\nab=> 1\nAb=> 2\n!ab cab\n-f";
 }
 
-void FindBarTest::emptyMatchesComeToAnEnd()
+void TestFindBar::emptyMatchesComeToAnEnd()
 {
     QFETCH(QString, pattern);
     QFETCH(QString, replaced);
@@ -252,7 +251,7 @@ void FindBarTest::emptyMatchesComeToAnEnd()
     QCOMPARE(document->text(), replaced);
 }
 
-void FindBarTest::backwardTakesWholeMatches()
+void TestFindBar::backwardTakesWholeMatches()
 {
     QTest::keyClick(field(), Qt::Key_R, Qt::AltModifier);
     put(editor->document()->characterCount() - 1);
@@ -266,7 +265,7 @@ void FindBarTest::backwardTakesWholeMatches()
     QCOMPARE(found.join(QLatin1Char(' ')), QStringLiteral("f cab ab 2"));
 }
 
-void FindBarTest::selectionIsTakenOver()
+void TestFindBar::selectionIsTakenOver()
 {
     bar->closeBar();
     QTextCursor cursor(document->findBlockByNumber(3));
@@ -290,7 +289,7 @@ void FindBarTest::selectionIsTakenOver()
     QCOMPARE(field()->currentText(), QStringLiteral("a."));
 }
 
-void FindBarTest::nextOfSelection()
+void TestFindBar::nextOfSelection()
 {
     bar->closeBar();
     put(5);
@@ -303,7 +302,7 @@ void FindBarTest::nextOfSelection()
     QCOMPARE(place(), 15);
 }
 
-void FindBarTest::replaceOneByOne()
+void TestFindBar::replaceOneByOne()
 {
     bar->openReplace();
     type(QStringLiteral("ab"));
@@ -319,7 +318,7 @@ void FindBarTest::replaceOneByOne()
     QCOMPARE(place(), 19);
 }
 
-void FindBarTest::replaceAllTellsTheNumber()
+void TestFindBar::replaceAllTellsTheNumber()
 {
     QTest::keyClick(field(), Qt::Key_R, Qt::AltModifier);
     type(QStringLiteral("(a)b"));
@@ -333,7 +332,7 @@ void FindBarTest::replaceAllTellsTheNumber()
     QTRY_COMPARE(state().section(QLatin1Char(','), 0, 0), QStringLiteral("4 matches"));
 }
 
-void FindBarTest::countFollowsEdits()
+void TestFindBar::countFollowsEdits()
 {
     type(QStringLiteral("ab"));
     QTRY_COMPARE(state(), QStringLiteral("1 of 4"));
@@ -342,7 +341,7 @@ void FindBarTest::countFollowsEdits()
     QTRY_COMPARE(state(), QStringLiteral("6 matches"));
 }
 
-void FindBarTest::countsLikeASearch()
+void TestFindBar::countsLikeASearch()
 {
     QRandomGenerator random(20260804);
     QString text;
@@ -368,7 +367,7 @@ void FindBarTest::countsLikeASearch()
     QCOMPARE(index, before);
 }
 
-void FindBarTest::historyIsKept()
+void TestFindBar::historyIsKept()
 {
     for (const char* text : {"ab", "f", "ab", "nowhere"}) {
         type(QLatin1String(text));
@@ -382,7 +381,7 @@ void FindBarTest::historyIsKept()
     QCOMPARE(selected().toLower(), QStringLiteral("ab"));
 }
 
-void FindBarTest::keysOfActionsWorkInTheField()
+void TestFindBar::keysOfActionsWorkInTheField()
 {
     QAction next;
     next.setShortcuts({QKeySequence(Qt::Key_F3), QKeySequence(Qt::ControlModifier | Qt::Key_G)});
@@ -393,7 +392,7 @@ void FindBarTest::keysOfActionsWorkInTheField()
     QCOMPARE(place(), 9);
 }
 
-void FindBarTest::escapeClosesTheBar()
+void TestFindBar::escapeClosesTheBar()
 {
     type(QStringLiteral("cab"));
     QTest::keyClick(field(), Qt::Key_Escape);
@@ -406,7 +405,7 @@ void FindBarTest::escapeClosesTheBar()
     QVERIFY(!bar->isVisible());
 }
 
-void FindBarTest::documentsComeAndGo()
+void TestFindBar::documentsComeAndGo()
 {
     type(QStringLiteral("ab"));
     GrammarDocument other(QStringLiteral("[2]\nab=1"));
@@ -429,7 +428,7 @@ void FindBarTest::documentsComeAndGo()
 }
 
 /// Keys of the window reach the bar, and its own keys are no mnemonics of menus.
-void FindBarTest::worksInTheWindow()
+void TestFindBar::worksInTheWindow()
 {
     cleanup();
     const QTemporaryDir settings;
@@ -463,5 +462,5 @@ void FindBarTest::worksInTheWindow()
     QCOMPARE(m.dialogs.count(), 0);
 }
 
-QTEST_MAIN(FindBarTest)
+QTEST_MAIN(TestFindBar)
 #include "tst_findbar.moc"

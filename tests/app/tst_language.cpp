@@ -144,7 +144,7 @@ Texts allTexts()
 }  // namespace
 
 /// The built window, in one language after the other.
-class tst_Language : public QObject
+class TestLanguage : public QObject
 {
     Q_OBJECT
 
@@ -156,7 +156,7 @@ private slots:
     void messagesFollow();
 };
 
-void tst_Language::namesOfLanguages()
+void TestLanguage::namesOfLanguages()
 {
     Language::use(QStringLiteral("xx"));
     QCOMPARE(Language::current(), QStringLiteral("en"));
@@ -171,7 +171,7 @@ void tst_Language::namesOfLanguages()
 
 /// Each text that German has a word for is German while the window speaks it, and all are as
 /// they were when it speaks English again.
-void tst_Language::nothingStaysEnglish()
+void TestLanguage::nothingStaysEnglish()
 {
     const QSet<QString> english = englishTexts();
     QVERIFY(english.size() > 300);
@@ -179,7 +179,7 @@ void tst_Language::nothingStaysEnglish()
     const TemporaryGame game;
     WindowFixture fixture(folder.filePath("settings.ini"));
     fixture.open(game, game.ryn(), game.animations());
-    for (const char* dialog : {"settings", "keys", "palette"}) {
+    for (const char* dialog : {"settings", "keys", "search_actions"}) {
         fixture.action(dialog)->trigger();
     }
     QVERIFY(fixture.window->findChild<App::SettingsDialog*>());
@@ -214,7 +214,7 @@ void tst_Language::nothingStaysEnglish()
 }
 
 /// A letter that opens two entries of a menu opens neither.
-void tst_Language::accessKeysDiffer()
+void TestLanguage::accessKeysDiffer()
 {
     const QTemporaryDir folder;
     const TemporaryGame game;
@@ -248,7 +248,7 @@ void tst_Language::accessKeysDiffer()
 }
 
 /// What was found in a text is told in the new language, without a key in it.
-void tst_Language::messagesFollow()
+void TestLanguage::messagesFollow()
 {
     const QTemporaryDir folder;
     const TemporaryGame game;
@@ -263,5 +263,5 @@ void tst_Language::messagesFollow()
     QVERIFY(!fixture.document()->isModified());
 }
 
-QTEST_MAIN(tst_Language)
+QTEST_MAIN(TestLanguage)
 #include "tst_language.moc"

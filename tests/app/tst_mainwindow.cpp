@@ -4,9 +4,10 @@
 #include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/recentfolders.h"
-#include "core/interface.h"
-#include "core/messagelist.h"
-#include "core/progressreporter.h"
+
+#include <zorv/core/interface.h>
+#include <zorv/core/messagelist.h>
+#include <zorv/core/progressreporter.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -33,7 +34,7 @@ enum Choice { Save = 0, Discard = 1, GiveUp = -1 };
 }  // namespace
 
 /// Opening, saving and closing in the real window.
-class tst_MainWindow : public QObject
+class TestMainWindow : public QObject
 {
     Q_OBJECT
 
@@ -79,25 +80,25 @@ private:
     std::unique_ptr<WindowFixture> m;
 };
 
-void tst_MainWindow::init()
+void TestMainWindow::init()
 {
     m_settingsFolder = std::make_unique<QTemporaryDir>();
     m_game = std::make_unique<TemporaryGame>();
     restart();
 }
 
-void tst_MainWindow::cleanup()
+void TestMainWindow::cleanup()
 {
     m.reset();
 }
 
-void tst_MainWindow::restart()
+void TestMainWindow::restart()
 {
     m.reset();
     m = std::make_unique<WindowFixture>(settingsFile());
 }
 
-void tst_MainWindow::refusesWhatIsNoGame_data()
+void TestMainWindow::refusesWhatIsNoGame_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("expected");
@@ -111,7 +112,7 @@ void tst_MainWindow::refusesWhatIsNoGame_data()
                                                << "There is no project in";
 }
 
-void tst_MainWindow::refusesWhatIsNoGame()
+void TestMainWindow::refusesWhatIsNoGame()
 {
     QFETCH(QString, path);
     QFETCH(QString, expected);
@@ -134,7 +135,7 @@ void tst_MainWindow::refusesWhatIsNoGame()
     QVERIFY(m->document()->text().startsWith(QLatin1String("# kept")));
 }
 
-void tst_MainWindow::opensAProjectByDoubleClick()
+void TestMainWindow::opensAProjectByDoubleClick()
 {
     QVERIFY(window()->openPath(m_game->root()));
     GameTree* tree = window()->gameTree();
@@ -160,7 +161,7 @@ void tst_MainWindow::opensAProjectByDoubleClick()
     QCOMPARE(m->dialogs.count(), 0);
 }
 
-void tst_MainWindow::opensTheGameAround_data()
+void TestMainWindow::opensTheGameAround_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("isProject");
@@ -170,7 +171,7 @@ void tst_MainWindow::opensTheGameAround_data()
     QTest::newRow("game") << "../.." << false;
 }
 
-void tst_MainWindow::opensTheGameAround()
+void TestMainWindow::opensTheGameAround()
 {
     QFETCH(QString, path);
     QFETCH(bool, isProject);
@@ -182,7 +183,7 @@ void tst_MainWindow::opensTheGameAround()
 }
 
 /// A file opens the closed project that names it, the one around it first.
-void tst_MainWindow::opensTheProjectOfAFile()
+void TestMainWindow::opensTheProjectOfAFile()
 {
     m_game->write(QStringLiteral("shared/all.code"), "[palette one]\r\n");
     m_game->write(QStringLiteral("characters/aki/aki.character"),
@@ -199,7 +200,7 @@ void tst_MainWindow::opensTheProjectOfAFile()
     QCOMPARE(m->dialogs.count(), 0);
 }
 
-void tst_MainWindow::tellsOfAFileThatIsMissing()
+void TestMainWindow::tellsOfAFileThatIsMissing()
 {
     m->open(*m_game, m_game->ryn());
     QVERIFY(!window()->openFile(m_game->path("characters/ryn/none.code")));
@@ -211,7 +212,7 @@ void tst_MainWindow::tellsOfAFileThatIsMissing()
     QCOMPARE(m->document()->fileName(), m_game->ryn());
 }
 
-void tst_MainWindow::showsAFileThatIsNamedNow()
+void TestMainWindow::showsAFileThatIsNamedNow()
 {
     m->open(*m_game, m_game->ryn());
     m_game->write("characters/ryn/more.code", "[move kick]\r\nanimation = 2\r\n");
@@ -224,7 +225,7 @@ void tst_MainWindow::showsAFileThatIsNamedNow()
     QCOMPARE(m->document()->fileName(), m_game->path("characters/ryn/more.code"));
 }
 
-void tst_MainWindow::savesByKey()
+void TestMainWindow::savesByKey()
 {
     m->open(*m_game, m_game->ryn());
     m->goTo(6, 0);
@@ -244,7 +245,7 @@ void tst_MainWindow::savesByKey()
     QCOMPARE(m->dialogs.count(), 0);
 }
 
-void tst_MainWindow::keepsTheTextWhenASaveFails()
+void TestMainWindow::keepsTheTextWhenASaveFails()
 {
     m->open(*m_game, m_game->ryn());
     m->type(QStringLiteral("# mine"));
@@ -257,7 +258,7 @@ void tst_MainWindow::keepsTheTextWhenASaveFails()
     QVERIFY(m->document()->text().startsWith(QLatin1String("# mine")));
 }
 
-void tst_MainWindow::savesAll()
+void TestMainWindow::savesAll()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     m->type(QStringLiteral("# b"));
@@ -270,7 +271,7 @@ void tst_MainWindow::savesAll()
     QTRY_VERIFY(!m->action("save_all")->isEnabled());
 }
 
-void tst_MainWindow::savesOneOfTwoTextsOfAFile_data()
+void TestMainWindow::savesOneOfTwoTextsOfAFile_data()
 {
     QTest::addColumn<int>("answer");
     QTest::addColumn<QByteArray>("file");
@@ -280,7 +281,7 @@ void tst_MainWindow::savesOneOfTwoTextsOfAFile_data()
 }
 
 /// A file that two projects share has a text in each of them.
-void tst_MainWindow::savesOneOfTwoTextsOfAFile()
+void TestMainWindow::savesOneOfTwoTextsOfAFile()
 {
     QFETCH(int, answer);
     QFETCH(QByteArray, file);
@@ -311,7 +312,7 @@ void tst_MainWindow::savesOneOfTwoTextsOfAFile()
     }
 }
 
-void tst_MainWindow::asksBeforeTheWindowCloses_data()
+void TestMainWindow::asksBeforeTheWindowCloses_data()
 {
     QTest::addColumn<int>("answer");
     QTest::addColumn<bool>("closes");
@@ -321,7 +322,7 @@ void tst_MainWindow::asksBeforeTheWindowCloses_data()
     QTest::newRow("discard") << int(Discard) << true << false;
 }
 
-void tst_MainWindow::asksBeforeTheWindowCloses()
+void TestMainWindow::asksBeforeTheWindowCloses()
 {
     QFETCH(int, answer);
     QFETCH(bool, closes);
@@ -336,7 +337,7 @@ void tst_MainWindow::asksBeforeTheWindowCloses()
     QCOMPARE(m_game->read("characters/ryn/basic.anim").startsWith("# mine"), isSaved);
 }
 
-void tst_MainWindow::asksBeforeATextCloses_data()
+void TestMainWindow::asksBeforeATextCloses_data()
 {
     QTest::addColumn<int>("answer");
     QTest::addColumn<int>("tabs");
@@ -346,7 +347,7 @@ void tst_MainWindow::asksBeforeATextCloses_data()
     QTest::newRow("discard") << int(Discard) << 1 << "animation 1";
 }
 
-void tst_MainWindow::asksBeforeATextCloses()
+void TestMainWindow::asksBeforeATextCloses()
 {
     QFETCH(int, answer);
     QFETCH(int, tabs);
@@ -364,7 +365,7 @@ void tst_MainWindow::asksBeforeATextCloses()
     QCOMPARE(m->dialogs.count(), 1);
 }
 
-void tst_MainWindow::closesProjectsWhileTheyAreShown()
+void TestMainWindow::closesProjectsWhileTheyAreShown()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     QVERIFY(window()->openFile(m_game->oda()));
@@ -388,7 +389,7 @@ void tst_MainWindow::closesProjectsWhileTheyAreShown()
     QVERIFY(m->document()->text().startsWith(QLatin1String("[info]")));
 }
 
-void tst_MainWindow::closesTheGameWhileItIsShown()
+void TestMainWindow::closesTheGameWhileItIsShown()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     m->action("close_folder")->trigger();
@@ -399,7 +400,7 @@ void tst_MainWindow::closesTheGameWhileItIsShown()
     QTest::qWait(300);
 }
 
-void tst_MainWindow::keepsTheTreeOpen()
+void TestMainWindow::keepsTheTreeOpen()
 {
     QVERIFY(window()->openPath(m_game->root()));
     GameTree* tree = window()->gameTree();
@@ -423,7 +424,7 @@ void tst_MainWindow::keepsTheTreeOpen()
     QTRY_COMPARE(tree->pathOf(tree->currentIndex()), m_game->animations());
 }
 
-void tst_MainWindow::remembersFolders()
+void TestMainWindow::remembersFolders()
 {
     const TemporaryGame second;
     {
@@ -448,7 +449,7 @@ void tst_MainWindow::remembersFolders()
     QVERIFY(App::RecentFolders::list().isEmpty());
 }
 
-void tst_MainWindow::keepsItsState()
+void TestMainWindow::keepsItsState()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     QVERIFY(window()->openFile(m_game->oda()));
@@ -472,7 +473,7 @@ void tst_MainWindow::keepsItsState()
     QCOMPARE(m->dialogs.count(), 0);
 }
 
-void tst_MainWindow::startsWithoutTheLastGame()
+void TestMainWindow::startsWithoutTheLastGame()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     QVERIFY(window()->close());
@@ -493,7 +494,7 @@ void tst_MainWindow::startsWithoutTheLastGame()
     QCOMPARE(window()->tabs()->count(), 0);
 }
 
-void tst_MainWindow::offersOnlyWhatIsOfUse()
+void TestMainWindow::offersOnlyWhatIsOfUse()
 {
     const auto isOn = [this](const char* name) { return m->action(name)->isEnabled(); };
     QTRY_VERIFY(isOn("open_folder") && !isOn("save") && !isOn("undo") && !isOn("anim_add"));
@@ -508,7 +509,7 @@ void tst_MainWindow::offersOnlyWhatIsOfUse()
     QTRY_VERIFY(isOn("org_auto") && !isOn("undo"));
 }
 
-void tst_MainWindow::isReachedByKeys()
+void TestMainWindow::isReachedByKeys()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     auto* toolBox = window()->code()->workspace()->toolBar()->findChild<QComboBox*>();
@@ -544,7 +545,7 @@ void tst_MainWindow::isReachedByKeys()
     QCOMPARE(m->document()->fileName(), m_game->ryn());
 }
 
-void tst_MainWindow::servesTheLibrary()
+void TestMainWindow::servesTheLibrary()
 {
     auto* host = Zorv::Interface::instance();
     QCOMPARE(host->mainWindow(), window());
@@ -582,7 +583,7 @@ void tst_MainWindow::servesTheLibrary()
     QVERIFY(!window()->findChild<QProgressDialog*>());
 }
 
-void tst_MainWindow::drawsAPicture()
+void TestMainWindow::drawsAPicture()
 {
     const QString picture = m_settingsFolder->filePath(QStringLiteral("window.png"));
     m.reset();
@@ -605,5 +606,5 @@ void tst_MainWindow::drawsAPicture()
     QCOMPARE(App::runWindow(*qApp, {"one", "two"}), 2);
 }
 
-QTEST_MAIN(tst_MainWindow)
+QTEST_MAIN(TestMainWindow)
 #include "tst_mainwindow.moc"

@@ -1,10 +1,11 @@
 #include "app/code/nodemodel.h"
 
-#include "code/codedoc/contactboxescode.h"
-#include "code/codedoc/framecode.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
 #include "operations/hostinterface.h"
+
+#include <zorv/code/codedoc/contactboxescode.h>
+#include <zorv/code/codedoc/framecode.h>
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
@@ -12,7 +13,6 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTreeView>
-
 #include <algorithm>
 
 using App::NodeModel;
@@ -92,12 +92,12 @@ const char* const SomeText = "[info]\n"
 
 }  // namespace
 
-class tst_NodeModel : public QObject
+class TestNodeModel : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Family::startHost(&m_host); }
+    void initTestCase() { Operations::startHost(&m_host); }
 
     void showsTheTree();
     void touchesNothingAtAKey();
@@ -112,10 +112,10 @@ private slots:
     void equalsTheDocumentAfterRandomEdits();
 
 private:
-    Family::HostInterface m_host;
+    Operations::HostInterface m_host;
 };
 
-void tst_NodeModel::showsTheTree()
+void TestNodeModel::showsTheTree()
 {
     FamilyDocument document(Family::FileKind::Character);
     document.fromString(SomeText);
@@ -128,7 +128,7 @@ void tst_NodeModel::showsTheTree()
     QCOMPARE(model.rowCount(), 0);
 }
 
-void tst_NodeModel::touchesNothingAtAKey()
+void TestNodeModel::touchesNothingAtAKey()
 {
     FamilyDocument document(Family::FileKind::Character);
     document.fromString(SomeText);
@@ -151,7 +151,7 @@ void tst_NodeModel::touchesNothingAtAKey()
     QCOMPARE(shown(model), expected(&document));
 }
 
-void tst_NodeModel::followsAnEdit()
+void TestNodeModel::followsAnEdit()
 {
     FamilyDocument document(Family::FileKind::Character);
     document.fromString(SomeText);
@@ -171,7 +171,7 @@ void tst_NodeModel::followsAnEdit()
     QCOMPARE(shown(model), expected(&document));
 }
 
-void tst_NodeModel::keepsBranchesOpenWhenAHeadIsEdited()
+void TestNodeModel::keepsBranchesOpenWhenAHeadIsEdited()
 {
     FamilyDocument document(Family::FileKind::Character);
     document.fromString(SomeText);
@@ -192,7 +192,7 @@ void tst_NodeModel::keepsBranchesOpenWhenAHeadIsEdited()
     QCOMPARE(model.rowCount(model.index(2, 0)), 3);
 }
 
-void tst_NodeModel::findsLines_data()
+void TestNodeModel::findsLines_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<QVector<int>>("path");
@@ -208,7 +208,7 @@ void tst_NodeModel::findsLines_data()
     QTest::newRow("behind the end") << 99 << QVector<int>{};
 }
 
-void tst_NodeModel::findsLines()
+void TestNodeModel::findsLines()
 {
     QFETCH(int, line);
     QFETCH(QVector<int>, path);
@@ -228,7 +228,7 @@ void tst_NodeModel::findsLines()
     QVERIFY(!index.isValid());
 }
 
-void tst_NodeModel::waitsWhileNobodyLooks()
+void TestNodeModel::waitsWhileNobodyLooks()
 {
     FamilyDocument document(Family::FileKind::Character);
     document.fromString(SomeText);
@@ -243,7 +243,7 @@ void tst_NodeModel::waitsWhileNobodyLooks()
     QCOMPARE(shown(model), expected(&document));
 }
 
-void tst_NodeModel::waitsForTheEndOfAChange()
+void TestNodeModel::waitsForTheEndOfAChange()
 {
     FamilyDocument document(Family::FileKind::Character);
     document.fromString(SomeText);
@@ -260,7 +260,7 @@ void tst_NodeModel::waitsForTheEndOfAChange()
     QCOMPARE(shown(model), expected(&document));
 }
 
-void tst_NodeModel::survivesItsDocument()
+void TestNodeModel::survivesItsDocument()
 {
     NodeModel model;
     const QAbstractItemModelTester tester(&model);
@@ -274,7 +274,7 @@ void tst_NodeModel::survivesItsDocument()
     QVERIFY(!model.document());
 }
 
-void tst_NodeModel::equalsTheDocumentAfterRandomEdits_data()
+void TestNodeModel::equalsTheDocumentAfterRandomEdits_data()
 {
     QTest::addColumn<quint32>("seed");
     for (quint32 i = 0; i < 6; ++i) {
@@ -284,7 +284,7 @@ void tst_NodeModel::equalsTheDocumentAfterRandomEdits_data()
 
 /// Edits of all kinds; the model is asked while it is stale, with a view on it
 /// whose branches open and close, and compared when it is not.
-void tst_NodeModel::equalsTheDocumentAfterRandomEdits()
+void TestNodeModel::equalsTheDocumentAfterRandomEdits()
 {
     QFETCH(quint32, seed);
     static const QStringList pool{"[info]",
@@ -344,5 +344,5 @@ void tst_NodeModel::equalsTheDocumentAfterRandomEdits()
     }
 }
 
-QTEST_MAIN(tst_NodeModel)
+QTEST_MAIN(TestNodeModel)
 #include "tst_nodemodel.moc"

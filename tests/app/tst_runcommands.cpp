@@ -1,11 +1,12 @@
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
-#include "core/run/temporarycopies.h"
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/gameprogram.h"
 #include "operations/agreements.h"
 #include "windowfixture.h"
+
+#include <zorv/core/run/temporarycopies.h>
 
 #include <QAction>
 #include <QApplication>
@@ -67,7 +68,8 @@ void TestRunCommands::makeEngine(const QByteArray& script, bool isAgreed)
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_fixture = std::make_unique<WindowFixture>(m_dir->filePath("settings.ini"));
     m_fixture->open(*m_game, m_game->ryn());
-    QVERIFY(!isAgreed || agreeTo(Family::GameProgram(m_game->root()), m_fixture->settings));
+    QVERIFY(!isAgreed ||
+            Operations::agreeTo(Family::GameProgram(m_game->root()), m_fixture->settings));
 }
 
 QString TestRunCommands::recorded(const char* name) const

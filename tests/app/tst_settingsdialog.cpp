@@ -33,7 +33,7 @@ using App::SettingRow;
 using App::SettingsDialog;
 
 /// The dialog of settings on the built window, with keys and clicks.
-class tst_SettingsDialog : public QObject
+class TestSettingsDialog : public QObject
 {
     Q_OBJECT
 
@@ -82,21 +82,21 @@ private:
     SettingsDialog* m_dialog = nullptr;
 };
 
-void tst_SettingsDialog::init()
+void TestSettingsDialog::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_fixture = std::make_unique<WindowFixture>(m_folder->filePath("settings.ini"));
     open();
 }
 
-void tst_SettingsDialog::cleanup()
+void TestSettingsDialog::cleanup()
 {
     m_fixture.reset();
     Family::FamilyEngineModel::instance()->setEngines({});
     App::Theme::use(App::Theme::Light);
 }
 
-void tst_SettingsDialog::open()
+void TestSettingsDialog::open()
 {
     // A dialog of Qt's own leaves none active.
     m_fixture->window->activateWindow();
@@ -107,12 +107,12 @@ void tst_SettingsDialog::open()
     QVERIFY(QTest::qWaitForWindowActive(m_dialog));
 }
 
-void tst_SettingsDialog::showPage(int row) const
+void TestSettingsDialog::showPage(int row) const
 {
     find<QListWidget>("pages")->setCurrentRow(row);
 }
 
-void tst_SettingsDialog::press(QDialogButtonBox::StandardButton button) const
+void TestSettingsDialog::press(QDialogButtonBox::StandardButton button) const
 {
     QPushButton* found = m_dialog->findChild<QDialogButtonBox*>()->button(button);
     QVERIFY(found->isEnabled());
@@ -120,7 +120,7 @@ void tst_SettingsDialog::press(QDialogButtonBox::StandardButton button) const
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void tst_SettingsDialog::writeText(const char* name, const QString& text) const
+void TestSettingsDialog::writeText(const char* name, const QString& text) const
 {
     QWidget* widget = find<QWidget>(name);
     auto* line = qobject_cast<QLineEdit*>(widget);
@@ -129,7 +129,7 @@ void tst_SettingsDialog::writeText(const char* name, const QString& text) const
     QTest::keyClicks(line, text);
 }
 
-void tst_SettingsDialog::everyRowGoesThere_data()
+void TestSettingsDialog::everyRowGoesThere_data()
 {
     QTest::addColumn<int>("row");
     for (int i = 0; i < App::settingTable().size(); ++i) {
@@ -138,7 +138,7 @@ void tst_SettingsDialog::everyRowGoesThere_data()
 }
 
 /// Another value, given to each kind of widget as a person would, is stored and read again.
-void tst_SettingsDialog::everyRowGoesThere()
+void TestSettingsDialog::everyRowGoesThere()
 {
     QFETCH(int, row);
     const SettingRow& setting = App::settingTable()[row];
@@ -184,7 +184,7 @@ void tst_SettingsDialog::everyRowGoesThere()
     QCOMPARE(field->value(), after);
 }
 
-void tst_SettingsDialog::cancelKeepsAll()
+void TestSettingsDialog::cancelKeepsAll()
 {
     showPage(2);
     click("backup_onload");
@@ -204,7 +204,7 @@ void tst_SettingsDialog::cancelKeepsAll()
 }
 
 /// Applied settings are seen in the window behind the dialog, which stays open.
-void tst_SettingsDialog::applyReachesTheWindow()
+void TestSettingsDialog::applyReachesTheWindow()
 {
     const TemporaryGame game;
     m_fixture->open(game, game.oda());
@@ -235,7 +235,7 @@ void tst_SettingsDialog::applyReachesTheWindow()
 }
 
 /// By the menu of a button and the dialog behind its last entry.
-void tst_SettingsDialog::chooseColour(QPushButton* button, const QColor& colour)
+void TestSettingsDialog::chooseColour(QPushButton* button, const QColor& colour)
 {
     QTimer::singleShot(0, button, [colour] {
         auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
@@ -247,7 +247,7 @@ void tst_SettingsDialog::chooseColour(QPushButton* button, const QColor& colour)
 
 /// A colour that nobody chose is that of the theme in use, also when that changes; and once
 /// chosen it can be left to the theme again.
-void tst_SettingsDialog::coloursAreLeftToTheTheme()
+void TestSettingsDialog::coloursAreLeftToTheTheme()
 {
     showPage(1);
     auto* button = find<QPushButton>("line");
@@ -267,7 +267,7 @@ void tst_SettingsDialog::coloursAreLeftToTheTheme()
     QVERIFY(!m_fixture->settings.contains("line"));
 }
 
-void tst_SettingsDialog::defaultsAreNotStored()
+void TestSettingsDialog::defaultsAreNotStored()
 {
     showPage(2);
     click("backup_onload");
@@ -280,7 +280,7 @@ void tst_SettingsDialog::defaultsAreNotStored()
     QVERIFY(!m_fixture->settings.contains("backup_onload"));
 }
 
-void tst_SettingsDialog::folderIsChosen()
+void TestSettingsDialog::folderIsChosen()
 {
     showPage(2);
     const QString folder = QDir(m_folder->path()).canonicalPath();
@@ -291,7 +291,7 @@ void tst_SettingsDialog::folderIsChosen()
     QCOMPARE(option("project_path").toString(), folder);
 }
 
-void tst_SettingsDialog::enginesAreEdited()
+void TestSettingsDialog::enginesAreEdited()
 {
     showPage(4);
     auto* list = find<QListWidget>("engines");
@@ -310,7 +310,7 @@ void tst_SettingsDialog::enginesAreEdited()
     QCOMPARE(list->currentRow(), 0);
     QVERIFY(!find<QWidget>("engine_up")->isEnabled());
     press(QDialogButtonBox::Ok);
-    const QVector<Zorv::EngineInfo> stored = Family::loadEngines(m_fixture->settings);
+    const QVector<Zorv::EngineInfo> stored = Operations::loadEngines(m_fixture->settings);
     QCOMPARE(stored.size(), 2);
     QCOMPARE(stored[0].name, QStringLiteral("Second"));
     QCOMPARE(stored[1].name, QStringLiteral("First"));
@@ -326,7 +326,7 @@ void tst_SettingsDialog::enginesAreEdited()
     QCOMPARE(Family::FamilyEngineModel::instance()->engine(0).name, QStringLiteral("First"));
 }
 
-void tst_SettingsDialog::selectKey(const char* action) const
+void TestSettingsDialog::selectKey(const char* action) const
 {
     auto* view = find<QTreeView>("keys");
     const QString text = m_fixture->window->registry()->text(QLatin1String(action));
@@ -336,7 +336,7 @@ void tst_SettingsDialog::selectKey(const char* action) const
     view->setCurrentIndex(found.first());
 }
 
-void tst_SettingsDialog::keysAreEdited()
+void TestSettingsDialog::keysAreEdited()
 {
     showPage(5);
     QAction* save = m_fixture->action("save");
@@ -357,7 +357,7 @@ void tst_SettingsDialog::keysAreEdited()
     QVERIFY(!m_fixture->window->registry()->isChosen("save"));
 }
 
-void tst_SettingsDialog::keysThatClashAreShown()
+void TestSettingsDialog::keysThatClashAreShown()
 {
     App::KeyTable table(m_fixture->window->registry());
     const QAbstractItemModelTester tester(&table);
@@ -385,11 +385,11 @@ void tst_SettingsDialog::keysThatClashAreShown()
     QVERIFY(table.clashes(save).isEmpty());
 }
 
-void tst_SettingsDialog::oneDialogAtATime()
+void TestSettingsDialog::oneDialogAtATime()
 {
     m_fixture->action("settings")->trigger();
     QCOMPARE(m_fixture->window->findChildren<SettingsDialog*>().size(), 1);
 }
 
-QTEST_MAIN(tst_SettingsDialog)
+QTEST_MAIN(TestSettingsDialog)
 #include "tst_settingsdialog.moc"

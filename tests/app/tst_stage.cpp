@@ -1,12 +1,13 @@
 #include "stagefixture.h"
 
-#include "animation/timeline/timelinewidget.h"
 #include "app/assets/palettegrid.h"
 #include "app/assets/spritepanel.h"
 #include "app/stage/stagesettings.h"
 #include "family/nodes/animationnode.h"
 #include "family/nodes/framenode.h"
 #include "support/gltest.h"
+
+#include <zorv/animation/timeline/timelinewidget.h>
 
 #include <QAction>
 #include <QDockWidget>
@@ -35,7 +36,7 @@ const QPoint Empty(-60, 20);
 
 /// The stage of the window on a display: what mouse and keys do to the text, what the text does to
 /// the stage, and that both live through whatever goes away.
-class tst_Stage : public QObject
+class TestStage : public QObject
 {
     Q_OBJECT
 
@@ -75,7 +76,7 @@ private:
     std::unique_ptr<StageFixture> m;
 };
 
-void tst_Stage::init()
+void TestStage::init()
 {
     m = std::make_unique<StageFixture>();
     QVERIFY2(m->view()->isUsable(), "no GL");
@@ -83,7 +84,7 @@ void tst_Stage::init()
 }
 
 /// One step of undo brings back what was there, one of redo what was done.
-void tst_Stage::undoesOnce(const QStringList& before) const
+void TestStage::undoesOnce(const QStringList& before) const
 {
     const QStringList after = m->lines();
     QVERIFY(after != before);
@@ -93,7 +94,7 @@ void tst_Stage::undoesOnce(const QStringList& before) const
     QCOMPARE(m->lines(), after);
 }
 
-void tst_Stage::dragsBecomeText_data()
+void TestStage::dragsBecomeText_data()
 {
     QTest::addColumn<QPoint>("from");
     QTest::addColumn<QPoint>("to");
@@ -125,7 +126,7 @@ void tst_Stage::dragsBecomeText_data()
 }
 
 /// At another zoom and origin than those at the start, too.
-void tst_Stage::dragsBecomeText()
+void TestStage::dragsBecomeText()
 {
     QFETCH(QPoint, from);
     QFETCH(QPoint, to);
@@ -153,7 +154,7 @@ void tst_Stage::dragsBecomeText()
     }
 }
 
-void tst_Stage::boxesAreDrawn_data()
+void TestStage::boxesAreDrawn_data()
 {
     QTest::addColumn<QByteArray>("action");
     QTest::addColumn<QPoint>("to");
@@ -167,7 +168,7 @@ void tst_Stage::boxesAreDrawn_data()
     QTest::newRow("a click") << body << QPoint(100, 10) << -1 << "";
 }
 
-void tst_Stage::boxesAreDrawn()
+void TestStage::boxesAreDrawn()
 {
     QFETCH(QByteArray, action);
     QFETCH(QPoint, to);
@@ -194,7 +195,7 @@ void tst_Stage::boxesAreDrawn()
 }
 
 /// However a mode is left, the box that was drawn can be deleted; one that begins lets boxes go.
-void tst_Stage::modesTellTheSelection()
+void TestStage::modesTellTheSelection()
 {
     const QAction* remove = m->fixture.action("anim_box_del");
     const auto expectEnabled = [remove](bool isEnabled) {
@@ -214,7 +215,7 @@ void tst_Stage::modesTellTheSelection()
     }
 }
 
-void tst_Stage::boxesGo()
+void TestStage::boxesGo()
 {
     const QStringList before = m->lines();
     QVERIFY(!m->fixture.action("anim_box_del")->isEnabled());
@@ -240,7 +241,7 @@ void tst_Stage::boxesGo()
     undoesOnce(before);
 }
 
-void tst_Stage::keysMoveBoxes()
+void TestStage::keysMoveBoxes()
 {
     const QStringList before = m->lines();
     m->click(Attack);
@@ -260,7 +261,7 @@ void tst_Stage::keysMoveBoxes()
     QCOMPARE(m->lines(), before);
 }
 
-void tst_Stage::colourIsCaptured_data()
+void TestStage::colourIsCaptured_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<QPoint>("place");
@@ -274,7 +275,7 @@ void tst_Stage::colourIsCaptured_data()
     QTest::newRow("beside") << FrameLine << QPoint(5, 5) << -1;
 }
 
-void tst_Stage::colourIsCaptured()
+void TestStage::colourIsCaptured()
 {
     QFETCH(int, line);
     QFETCH(QPoint, place);
@@ -295,7 +296,7 @@ void tst_Stage::colourIsCaptured()
 }
 
 /// Cursor, organizer and edits.
-void tst_Stage::textLeadsTheStage()
+void TestStage::textLeadsTheStage()
 {
     const int frames[] = {0, 0, 0, 0, 1, 1, 2};
     for (int line = 0; line < 7; ++line) {
@@ -320,7 +321,7 @@ void tst_Stage::textLeadsTheStage()
 }
 
 /// A jump brings its line to the middle of the text by way of lines below it.
-void tst_Stage::jumpsShowTheFirstFrame()
+void TestStage::jumpsShowTheFirstFrame()
 {
     QTextCursor(m->document()).insertText(QString("\n").repeated(80));
     m->goTo(80 + 8);
@@ -328,7 +329,7 @@ void tst_Stage::jumpsShowTheFirstFrame()
     QCOMPARE(m->controller()->frameIndex(), 0);
 }
 
-void tst_Stage::scrubbingLeadsTheText()
+void TestStage::scrubbingLeadsTheText()
 {
     Zorv::TimeLineWidget* line = m->view()->timeLine();
     const struct
@@ -349,7 +350,7 @@ void tst_Stage::scrubbingLeadsTheText()
 }
 
 /// Round and round, and once to a frame that stays.
-void tst_Stage::plays()
+void TestStage::plays()
 {
     QSet<int> seen;
     const QObject scope;
@@ -373,7 +374,7 @@ void tst_Stage::plays()
     QCOMPARE(m->lines(), before);
 }
 
-void tst_Stage::closesWhileItPlays_data()
+void TestStage::closesWhileItPlays_data()
 {
     QTest::addColumn<QByteArray>("action");
     for (const char* action : {"close_text", "close_project", "close_folder", "view_stage"}) {
@@ -381,7 +382,7 @@ void tst_Stage::closesWhileItPlays_data()
     }
 }
 
-void tst_Stage::closesWhileItPlays()
+void TestStage::closesWhileItPlays()
 {
     QFETCH(QByteArray, action);
     m->press(m->at(SpriteMiddle));
@@ -398,7 +399,7 @@ void tst_Stage::closesWhileItPlays()
     QVERIFY(!m->controller()->isPlaying());
 }
 
-void tst_Stage::editsDuringADrag_data()
+void TestStage::editsDuringADrag_data()
 {
     QTest::addColumn<QPoint>("from");
     QTest::addColumn<int>("change");
@@ -412,7 +413,7 @@ void tst_Stage::editsDuringADrag_data()
 
 /// What the person holds may go: whatever the rest of the drag does, stage and text agree, and all
 /// can be undone.
-void tst_Stage::editsDuringADrag()
+void TestStage::editsDuringADrag()
 {
     QFETCH(QPoint, from);
     QFETCH(int, change);
@@ -444,7 +445,7 @@ void tst_Stage::editsDuringADrag()
     QCOMPARE(m->lines(), before);
 }
 
-void tst_Stage::partsAreShownAndHidden_data()
+void TestStage::partsAreShownAndHidden_data()
 {
     QTest::addColumn<int>("part");
     for (int i = 0; i < StageSettings::PartCount; ++i) {
@@ -454,7 +455,7 @@ void tst_Stage::partsAreShownAndHidden_data()
 
 /// What a switch hides is not on the picture, and stays away at the next start; the main cross
 /// comes back.
-void tst_Stage::partsAreShownAndHidden()
+void TestStage::partsAreShownAndHidden()
 {
     QFETCH(int, part);
     const char* name = StageSettings::actionName(StageSettings::Part(part));
@@ -470,7 +471,7 @@ void tst_Stage::partsAreShownAndHidden()
     QCOMPARE(m->widget()->grabFramebuffer(), before);
 }
 
-void tst_Stage::settingsAreApplied()
+void TestStage::settingsAreApplied()
 {
     const auto set = [this](const char* key, const QVariant& value) {
         m->fixture.host.setOption(QLatin1String(key), value);
@@ -508,7 +509,7 @@ void tst_Stage::settingsAreApplied()
 }
 
 /// One of two places stays where it is, by keys as by the wheel.
-void tst_Stage::zoomsAboutAPlace()
+void TestStage::zoomsAboutAPlace()
 {
     const QPoint middle = m->widget()->rect().center();
     for (const int center : {1, 0}) {
@@ -526,7 +527,7 @@ void tst_Stage::zoomsAboutAPlace()
     }
 }
 
-void tst_Stage::placeIsKept()
+void TestStage::placeIsKept()
 {
     m->stage()->setOrigin({123, 45});
     m->stage()->setZoomLevel(2);
@@ -540,7 +541,7 @@ void tst_Stage::placeIsKept()
     QVERIFY(QRect(0, 0, 100, 40).contains(next.origin()));
 }
 
-void tst_Stage::wheelZooms()
+void TestStage::wheelZooms()
 {
     Zorv::GraphicsRenderer* stage = m->view()->renderer();
     const auto turn = [this](int delta) {
@@ -561,5 +562,5 @@ void tst_Stage::wheelZooms()
     QCOMPARE(int(stage->zoomLevel()), 11);
 }
 
-ZORV_GL_TEST_MAIN(tst_Stage)
+ZORV_GL_TEST_MAIN(TestStage)
 #include "tst_stage.moc"

@@ -1,12 +1,12 @@
 #include "stagefixture.h"
 
-#include "animation/timeline/timelinewidget.h"
 #include "app/stage/onioncontrols.h"
 #include "support/gltest.h"
 #include "support/randomtext.h"
 
-#include <QWheelEvent>
+#include <zorv/animation/timeline/timelinewidget.h>
 
+#include <QWheelEvent>
 #include <functional>
 
 namespace {
@@ -313,7 +313,7 @@ QString Monkey::fault()
 }
 
 /// Window and text survive whatever happens on the stage, and the stage shows what the text has.
-class tst_StageMonkey : public QObject
+class TestStageMonkey : public QObject
 {
     Q_OBJECT
 
@@ -321,7 +321,7 @@ private slots:
     void survives();
 };
 
-void tst_StageMonkey::survives()
+void TestStageMonkey::survives()
 {
     qInfo("seed %u", Seed);
     Monkey monkey;
@@ -335,5 +335,5 @@ void tst_StageMonkey::survives()
     }
 }
 
-ZORV_GL_TEST_MAIN(tst_StageMonkey)
+ZORV_GL_TEST_MAIN(TestStageMonkey)
 #include "tst_stagemonkey.moc"

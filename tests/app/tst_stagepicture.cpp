@@ -1,16 +1,17 @@
 #include "app/stage/stagerenderer.h"
-#include "assets/remapmodel.h"
-#include "assets/spritefile.h"
-#include "familyanimations.h"
-#include "familydocument.h"
-#include "graphics/renderwidget.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
-#include "project/familyparentproject.h"
-#include "project/familyproject.h"
-#include "stage/framecomposer.h"
-#include "stage/frameprovider.h"
+#include "family/assets/remapmodel.h"
+#include "family/assets/spritefile.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "family/stage/framecomposer.h"
+#include "family/stage/frameprovider.h"
 #include "support/gltest.h"
+
+#include <zorv/graphics/renderwidget.h>
 
 #include <QRandomGenerator>
 #include <QtTest>

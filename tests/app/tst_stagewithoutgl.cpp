@@ -1,9 +1,10 @@
 #include "windowfixture.h"
 
-#include "animation/timeline/timelinewidget.h"
 #include "app/stage/stagecommands.h"
 #include "app/stage/stagecontroller.h"
 #include "app/stage/stageview.h"
+
+#include <zorv/animation/timeline/timelinewidget.h>
 
 #include <QAction>
 #include <QLabel>
@@ -11,7 +12,7 @@
 
 /// The window on a display without GL, as the offscreen one is: a message stands in place of the
 /// stage, and the rest works.
-class tst_StageWithoutGl : public QObject
+class TestStageWithoutGl : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +30,7 @@ private:
     std::unique_ptr<WindowFixture> m_fixture;
 };
 
-void tst_StageWithoutGl::initTestCase()
+void TestStageWithoutGl::initTestCase()
 {
     m_game.write("characters/ryn/basic.anim", "animation 1 \"One\"\r\n"
                                               "body 0,0, 9,9\r\n"
@@ -44,7 +45,7 @@ void tst_StageWithoutGl::initTestCase()
     }
 }
 
-void tst_StageWithoutGl::messageStandsThere()
+void TestStageWithoutGl::messageStandsThere()
 {
     QVERIFY(!m_fixture->window->findChild<QOpenGLWidget*>());
     const auto* message = m_fixture->window->findChild<QLabel*>("stage_message");
@@ -55,7 +56,7 @@ void tst_StageWithoutGl::messageStandsThere()
     }
 }
 
-void tst_StageWithoutGl::timeLineWorks()
+void TestStageWithoutGl::timeLineWorks()
 {
     stage()->view()->timeLine()->setCurrentTick(3);
     QCoreApplication::processEvents();
@@ -67,7 +68,7 @@ void tst_StageWithoutGl::timeLineWorks()
     QCOMPARE(m_fixture->edit()->textCursor().blockNumber(), 3);
 }
 
-void tst_StageWithoutGl::textWorks()
+void TestStageWithoutGl::textWorks()
 {
     m_fixture->goTo(1);
     m_fixture->edit()->setFocus();
@@ -80,5 +81,5 @@ void tst_StageWithoutGl::textWorks()
     QCOMPARE(m_fixture->document()->findBlockByNumber(1).text(), QString("body 0,0, 9,9"));
 }
 
-QTEST_MAIN(tst_StageWithoutGl)
+QTEST_MAIN(TestStageWithoutGl)
 #include "tst_stagewithoutgl.moc"

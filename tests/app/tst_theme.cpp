@@ -68,7 +68,7 @@ bool isBright(const QImage& picture)
 }  // namespace
 
 /// Light and dark: can everything be read, and does all of the window change?
-class tst_Theme : public QObject
+class TestTheme : public QObject
 {
     Q_OBJECT
 
@@ -86,14 +86,14 @@ private slots:
 };
 
 /// The measure itself, at values that the guidelines give.
-void tst_Theme::measuresContrast()
+void TestTheme::measuresContrast()
 {
     QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
     QCOMPARE(contrast(Qt::white, Qt::white), 1.0);
     QVERIFY(std::abs(contrast(QColor(0x76, 0x76, 0x76), Qt::white) - 4.54) < 0.01);
 }
 
-void tst_Theme::textsCanBeRead_data()
+void TestTheme::textsCanBeRead_data()
 {
     QTest::addColumn<QColor>("text");
     QTest::addColumn<QColor>("ground");
@@ -141,7 +141,7 @@ void tst_Theme::textsCanBeRead_data()
     }
 }
 
-void tst_Theme::textsCanBeRead()
+void TestTheme::textsCanBeRead()
 {
     QFETCH(QColor, text);
     QFETCH(QColor, ground);
@@ -150,7 +150,7 @@ void tst_Theme::textsCanBeRead()
              qPrintable(QStringLiteral("%1 on %2: %3").arg(text.name(), ground.name()).arg(ratio)));
 }
 
-void tst_Theme::iconsStandOut_data()
+void TestTheme::iconsStandOut_data()
 {
     QTest::addColumn<QString>("file");
     const App::WindowInterface host;  // brings the resources in
@@ -164,7 +164,7 @@ void tst_Theme::iconsStandOut_data()
 }
 
 /// A quarter of what is drawn stands out from either ground.
-void tst_Theme::iconsStandOut()
+void TestTheme::iconsStandOut()
 {
     QFETCH(QString, file);
     const QImage image = QImage(file).convertToFormat(QImage::Format_ARGB32);
@@ -189,7 +189,7 @@ void tst_Theme::iconsStandOut()
     }
 }
 
-void tst_Theme::iconsAreSharp_data()
+void TestTheme::iconsAreSharp_data()
 {
     QTest::addColumn<QString>("scale");
     QTest::addColumn<int>("pixels");
@@ -199,7 +199,7 @@ void tst_Theme::iconsAreSharp_data()
 }
 
 /// At each scale an icon is drawn from the picture that was made for it, pixel by pixel.
-void tst_Theme::iconsAreSharp()
+void TestTheme::iconsAreSharp()
 {
     QFETCH(QString, scale);
     QFETCH(int, pixels);
@@ -216,7 +216,7 @@ void tst_Theme::iconsAreSharp()
     }
 }
 
-void tst_Theme::kindOfSetting()
+void TestTheme::kindOfSetting()
 {
     QCOMPARE(Theme::kindOf(QStringLiteral("light")), Theme::Light);
     QCOMPARE(Theme::kindOf(QStringLiteral("dark")), Theme::Dark);
@@ -228,7 +228,7 @@ void tst_Theme::kindOfSetting()
 }
 
 /// A window with a text that is open already changes as a whole, and back to the last pixel.
-void tst_Theme::changesWhileRunning()
+void TestTheme::changesWhileRunning()
 {
     const QTemporaryDir folder;
     const TemporaryGame game;
@@ -270,7 +270,7 @@ void tst_Theme::changesWhileRunning()
     QTRY_COMPARE(fixture.window->grab().toImage(), light);
 }
 
-void tst_Theme::picturesTakeThemes()
+void TestTheme::picturesTakeThemes()
 {
     const QTemporaryDir folder;
     const TemporaryGame game;
@@ -283,5 +283,5 @@ void tst_Theme::picturesTakeThemes()
     QCOMPARE(App::runWindow(*qApp, {"--theme", "dark"}), 2);
 }
 
-QTEST_MAIN(tst_Theme)
+QTEST_MAIN(TestTheme)
 #include "tst_theme.moc"

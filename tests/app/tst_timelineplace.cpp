@@ -1,7 +1,7 @@
 #include "app/stage/timelineplace.h"
 
-#include "animation/timeline/timeline.h"
-#include "animation/timeline/timelinewidget.h"
+#include <zorv/animation/timeline/timeline.h>
+#include <zorv/animation/timeline/timelinewidget.h>
 
 #include <QRandomGenerator>
 #include <QVBoxLayout>

@@ -13,7 +13,7 @@
 using App::WindowDialogs;
 
 /// The dialogs of the window, with keys pressed in them.
-class tst_WindowDialogs : public QObject
+class TestWindowDialogs : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private:
 };
 
 /// Acts on the next dialog as soon as it is there.
-void tst_WindowDialogs::whenOpen(const std::function<void(QWidget*)>& act)
+void TestWindowDialogs::whenOpen(const std::function<void(QWidget*)>& act)
 {
     QTimer::singleShot(0, qApp, [act] {
         QWidget* dialog = QApplication::activeModalWidget();
@@ -37,7 +37,7 @@ void tst_WindowDialogs::whenOpen(const std::function<void(QWidget*)>& act)
     });
 }
 
-void tst_WindowDialogs::asksByButtons_data()
+void TestWindowDialogs::asksByButtons_data()
 {
     QTest::addColumn<int>("preset");
     QTest::addColumn<Qt::Key>("key");
@@ -47,7 +47,7 @@ void tst_WindowDialogs::asksByButtons_data()
     QTest::newRow("escape") << 1 << Qt::Key_Escape << -1;
 }
 
-void tst_WindowDialogs::asksByButtons()
+void TestWindowDialogs::asksByButtons()
 {
     QFETCH(int, preset);
     QFETCH(Qt::Key, key);
@@ -64,7 +64,7 @@ void tst_WindowDialogs::asksByButtons()
           "expected");
 }
 
-void tst_WindowDialogs::asksByAList()
+void TestWindowDialogs::asksByAList()
 {
     WindowDialogs dialogs;
     const QStringList names{"a", "b", "c", "d", "e"};
@@ -81,7 +81,7 @@ void tst_WindowDialogs::asksByAList()
     QCOMPARE(dialogs.choose(QStringLiteral("Title"), QStringLiteral("Text"), {}, 0), -1);
 }
 
-void tst_WindowDialogs::installsItself()
+void TestWindowDialogs::installsItself()
 {
     Zorv::Dialogs* standard = Zorv::Dialogs::instance();
     {
@@ -91,5 +91,5 @@ void tst_WindowDialogs::installsItself()
     QCOMPARE(Zorv::Dialogs::instance(), standard);
 }
 
-QTEST_MAIN(tst_WindowDialogs)
+QTEST_MAIN(TestWindowDialogs)
 #include "tst_windowdialogs.moc"

@@ -1,12 +1,11 @@
 #include "windowfixture.h"
 
-#include "code/codecs/textcodecs.h"
+#include <zorv/code/codecs/textcodecs.h>
 
 #include <QAction>
 #include <QTextBlock>
 #include <QThread>
 #include <QToolButton>
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <thread>
@@ -24,7 +23,7 @@ enum Answer { GiveUp = -1, ReadAgain = 0, KeepText = 1 };
 
 /// What the window does with files on disk: changes from outside, encodings,
 /// line ends.
-class tst_WindowFiles : public QObject
+class TestWindowFiles : public QObject
 {
     Q_OBJECT
 
@@ -52,14 +51,14 @@ private:
     std::unique_ptr<WindowFixture> m;
 };
 
-void tst_WindowFiles::init()
+void TestWindowFiles::init()
 {
     m_settings = std::make_unique<QTemporaryDir>();
     m_game = std::make_unique<TemporaryGame>();
     m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
 }
 
-void tst_WindowFiles::asksWhenAFileChanges_data()
+void TestWindowFiles::asksWhenAFileChanges_data()
 {
     QTest::addColumn<bool>("byRename");
     QTest::addColumn<int>("answer");
@@ -69,7 +68,7 @@ void tst_WindowFiles::asksWhenAFileChanges_data()
     QTest::newRow("renamed, keep") << true << int(Dialogs::No);
 }
 
-void tst_WindowFiles::asksWhenAFileChanges()
+void TestWindowFiles::asksWhenAFileChanges()
 {
     QFETCH(bool, byRename);
     QFETCH(int, answer);
@@ -110,7 +109,7 @@ void tst_WindowFiles::asksWhenAFileChanges()
 }
 
 // A save waits for another program, and does not write over what that has written.
-void tst_WindowFiles::asksAboutWhatIsWrittenDuringASave()
+void TestWindowFiles::asksAboutWhatIsWrittenDuringASave()
 {
     m->open(*m_game, m_game->ryn());
     m->type(QStringLiteral("#"));
@@ -133,7 +132,7 @@ void tst_WindowFiles::asksAboutWhatIsWrittenDuringASave()
     QVERIFY(m_game->read("characters/ryn/ryn.character").startsWith("#[info]"));
 }
 
-void tst_WindowFiles::staysQuietAboutItsOwnSave()
+void TestWindowFiles::staysQuietAboutItsOwnSave()
 {
     m->open(*m_game, m_game->ryn());
     m->type(QStringLiteral("#"));
@@ -142,7 +141,7 @@ void tst_WindowFiles::staysQuietAboutItsOwnSave()
     QCOMPARE(m->dialogs.count(), 0);
 }
 
-void tst_WindowFiles::showsAFileThatWentAway()
+void TestWindowFiles::showsAFileThatWentAway()
 {
     m->open(*m_game, m_game->ryn());
     QCOMPARE(window()->status()->stateText(), QStringLiteral("Saved"));
@@ -155,14 +154,14 @@ void tst_WindowFiles::showsAFileThatWentAway()
 }
 
 /// A file of Windows-1252 that is taken for UTF-8 or whatever else at first.
-void tst_WindowFiles::openLegacy()
+void TestWindowFiles::openLegacy()
 {
     m_game->write("characters/oda/oda.character", "[info]\r\nname = \"caf\xC3\xA9\"\r\n");
     m->open(*m_game, m_game->oda());
     QCOMPARE(m->document()->codecName(), QStringLiteral("UTF-8"));
 }
 
-void tst_WindowFiles::changesTheEncoding_data()
+void TestWindowFiles::changesTheEncoding_data()
 {
     QTest::addColumn<int>("answer");
     QTest::addColumn<bool>("isModified");
@@ -180,7 +179,7 @@ void tst_WindowFiles::changesTheEncoding_data()
         << int(GiveUp) << true << "UTF-8" << QString::fromUtf8("\"caf\xC3\xA9\"");
 }
 
-void tst_WindowFiles::changesTheEncoding()
+void TestWindowFiles::changesTheEncoding()
 {
     QFETCH(int, answer);
     QFETCH(bool, isModified);
@@ -208,7 +207,7 @@ void tst_WindowFiles::changesTheEncoding()
     }
 }
 
-void tst_WindowFiles::tellsALackOfTheEncoding()
+void TestWindowFiles::tellsALackOfTheEncoding()
 {
     openLegacy();
     m->goTo(1, 8);
@@ -227,7 +226,7 @@ void tst_WindowFiles::tellsALackOfTheEncoding()
     QCOMPARE(window()->status()->encodingText(), QStringLiteral("Encoding: UTF-8"));
 }
 
-void tst_WindowFiles::offersAFaithfulEncoding()
+void TestWindowFiles::offersAFaithfulEncoding()
 {
     // Mostly UTF-8 with a byte that is none.
     m_game->write("characters/oda/oda.character",
@@ -241,7 +240,7 @@ void tst_WindowFiles::offersAFaithfulEncoding()
              QStringLiteral("Encoding: ") + m->document()->codecName());
 }
 
-void tst_WindowFiles::showsThatLineEndsWillChange()
+void TestWindowFiles::showsThatLineEndsWillChange()
 {
     m_game->write("characters/oda/oda.character", "[info]\nname = \"Oda\"\n");
     m->open(*m_game, m_game->oda());
@@ -252,5 +251,5 @@ void tst_WindowFiles::showsThatLineEndsWillChange()
     QVERIFY(m_game->read("characters/oda/oda.character").startsWith("#[info]\r\n"));
 }
 
-QTEST_MAIN(tst_WindowFiles)
+QTEST_MAIN(TestWindowFiles)
 #include "tst_windowfiles.moc"

@@ -7,7 +7,7 @@
 using Family::FamilyDocument;
 
 /// Words, jumps and the way back by the keys of the window's actions.
-class tst_WindowHelp : public QObject
+class TestWindowHelp : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private:
     std::unique_ptr<WindowFixture> m;
 };
 
-void tst_WindowHelp::init()
+void TestWindowHelp::init()
 {
     m_game = std::make_unique<TemporaryGame>();
     m_settings = std::make_unique<QTemporaryDir>();
@@ -41,13 +41,13 @@ void tst_WindowHelp::init()
     m->open(*m_game, m_game->ryn(), m_game->path(QStringLiteral("characters/ryn/moves.code")));
 }
 
-void tst_WindowHelp::cleanup()
+void TestWindowHelp::cleanup()
 {
     m.reset();
     m_game.reset();
 }
 
-void tst_WindowHelp::completesAWord()
+void TestWindowHelp::completesAWord()
 {
     m->goTo(1, 12);
     m->press(Qt::Key_Space, Qt::ControlModifier);
@@ -61,7 +61,7 @@ void tst_WindowHelp::completesAWord()
     QCOMPARE(m->document()->findBlockByNumber(1).text(), QStringLiteral("animation = 1"));
 }
 
-void tst_WindowHelp::jumpsBetweenFiles()
+void TestWindowHelp::jumpsBetweenFiles()
 {
     m->goTo(1, 13);
     m->press(Qt::Key_F12);
@@ -80,7 +80,7 @@ void tst_WindowHelp::jumpsBetweenFiles()
 }
 
 /// In the field of the status bar; a name that leads nowhere moves nothing.
-void tst_WindowHelp::tellsWhatThereIsNot()
+void TestWindowHelp::tellsWhatThereIsNot()
 {
     m->goTo(0, 1);
     const QString before = place();
@@ -93,5 +93,5 @@ void tst_WindowHelp::tellsWhatThereIsNot()
     QVERIFY(!m->edit()->completer()->popup()->isVisible());
 }
 
-QTEST_MAIN(tst_WindowHelp)
+QTEST_MAIN(TestWindowHelp)
 #include "tst_windowhelp.moc"

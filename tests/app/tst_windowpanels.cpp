@@ -1,7 +1,8 @@
 #include "windowfixture.h"
 
-#include "core/messagelist.h"
 #include "family/nodes/animationnode.h"
+
+#include <zorv/core/messagelist.h>
 
 #include <QAction>
 #include <QDockWidget>
@@ -20,7 +21,7 @@ using App::MessagePanel;
 using App::NodeModel;
 
 /// The panels of the real window follow the text, and lead to it.
-class tst_WindowPanels : public QObject
+class TestWindowPanels : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +57,7 @@ private:
     std::unique_ptr<WindowFixture> m;
 };
 
-void tst_WindowPanels::init()
+void TestWindowPanels::init()
 {
     m_settings = std::make_unique<QTemporaryDir>();
     m_game = std::make_unique<TemporaryGame>();
@@ -64,7 +65,7 @@ void tst_WindowPanels::init()
 }
 
 /// The identifiers in the list.
-QString tst_WindowPanels::order() const
+QString TestWindowPanels::order() const
 {
     QStringList names;
     for (int row = 0; row < animations()->model()->rowCount(); ++row) {
@@ -74,7 +75,7 @@ QString tst_WindowPanels::order() const
     return names.join(QLatin1Char(' '));
 }
 
-void tst_WindowPanels::followsTypingUndoAndRedo()
+void TestWindowPanels::followsTypingUndoAndRedo()
 {
     m->open(*m_game, m_game->ryn());
     const QString before = m->document()->text();
@@ -110,7 +111,7 @@ void tst_WindowPanels::followsTypingUndoAndRedo()
     QCOMPARE(window()->messagePanel()->messages()->rowCount(), 1);
 }
 
-void tst_WindowPanels::jumpsToAMessage()
+void TestWindowPanels::jumpsToAMessage()
 {
     m->open(*m_game, m_game->oda());
     MessagePanel* panel = window()->messagePanel();
@@ -132,7 +133,7 @@ void tst_WindowPanels::jumpsToAMessage()
     QCOMPARE(m->place().line, 3);
 }
 
-void tst_WindowPanels::keepsTheCurrentMessage()
+void TestWindowPanels::keepsTheCurrentMessage()
 {
     QByteArray text = "[info]\r\nname = \"Oda\"\r\n[constants]\r\nlife = 1000\r\n";
     for (int i = 0; i < 60; ++i) {
@@ -153,7 +154,7 @@ void tst_WindowPanels::keepsTheCurrentMessage()
     QCOMPARE(panel->verticalScrollBar()->value(), scroll);
 }
 
-void tst_WindowPanels::followsTheCursor()
+void TestWindowPanels::followsTheCursor()
 {
     openAnimations();
     m->goTo(5, 0);
@@ -173,7 +174,7 @@ void tst_WindowPanels::followsTheCursor()
     QCOMPARE(animations()->model()->rowCount(), 0);
 }
 
-void tst_WindowPanels::jumpsToANode()
+void TestWindowPanels::jumpsToANode()
 {
     openAnimations();
     auto* panel = m->tree();
@@ -190,7 +191,7 @@ void tst_WindowPanels::jumpsToANode()
     QCOMPARE(m->place().line, 9);
 }
 
-void tst_WindowPanels::showsMarkupOfAGameAsText()
+void TestWindowPanels::showsMarkupOfAGameAsText()
 {
     m->open(*m_game, m_game->ryn());
     m->edit()->textCursor().insertText("[info]\nname = \"<img src='/dev/tty'> <b>x\"\n");
@@ -211,14 +212,14 @@ void tst_WindowPanels::showsMarkupOfAGameAsText()
     }
 }
 
-void tst_WindowPanels::jumpsToAnAnimation()
+void TestWindowPanels::jumpsToAnAnimation()
 {
     openAnimations();
     doubleClickRow(animations(), animations()->model()->index(2, 0));
     QCOMPARE(m->place().line, 7);
 }
 
-void tst_WindowPanels::changesAnimations_data()
+void TestWindowPanels::changesAnimations_data()
 {
     QTest::addColumn<QString>("action");
     QTest::addColumn<int>("row");
@@ -238,7 +239,7 @@ void tst_WindowPanels::changesAnimations_data()
 }
 
 /// By the menu; one undo brings the old text back, and the cursor to the edit.
-void tst_WindowPanels::changesAnimations()
+void TestWindowPanels::changesAnimations()
 {
     QFETCH(QString, action);
     QFETCH(int, row);
@@ -261,7 +262,7 @@ void tst_WindowPanels::changesAnimations()
 }
 
 /// The cursor, which follows the text that goes, does not take the selection along.
-void tst_WindowPanels::movesSeveralAnimations()
+void TestWindowPanels::movesSeveralAnimations()
 {
     openAnimations();
     const QString before = m->document()->text();
@@ -288,7 +289,7 @@ void tst_WindowPanels::movesSeveralAnimations()
     QCOMPARE(m->document()->animations()->count(), 2);
 }
 
-void tst_WindowPanels::showsTheOrganizerBySetting()
+void TestWindowPanels::showsTheOrganizerBySetting()
 {
     const QString key = QStringLiteral("show_organizer");
     auto* dock = window()->findChild<QDockWidget*>(QStringLiteral("organizer"));
@@ -303,7 +304,7 @@ void tst_WindowPanels::showsTheOrganizerBySetting()
     QVERIFY(dock->isVisible());
 }
 
-void tst_WindowPanels::putsANewAnimationOnLinesOfItsOwn()
+void TestWindowPanels::putsANewAnimationOnLinesOfItsOwn()
 {
     m_game->write("characters/ryn/basic.anim", "animation 7\r\nframe 0,0 loop");
     openAnimations();
@@ -318,7 +319,7 @@ void tst_WindowPanels::putsANewAnimationOnLinesOfItsOwn()
     QCOMPARE(order(), QStringLiteral("7 jab jab-2"));
 }
 
-void tst_WindowPanels::dropsAnimations_data()
+void TestWindowPanels::dropsAnimations_data()
 {
     QTest::addColumn<QVector<int>>("rows");
     QTest::addColumn<int>("target");
@@ -332,7 +333,7 @@ void tst_WindowPanels::dropsAnimations_data()
 }
 
 /// Drags as the view makes them, dropped on the view.
-void tst_WindowPanels::dropsAnimations()
+void TestWindowPanels::dropsAnimations()
 {
     QFETCH(QVector<int>, rows);
     QFETCH(int, target);
@@ -368,7 +369,7 @@ void tst_WindowPanels::dropsAnimations()
     QCOMPARE(m->document()->text(), before);
 }
 
-void tst_WindowPanels::refusesDropsFromElsewhere()
+void TestWindowPanels::refusesDropsFromElsewhere()
 {
     openAnimations();
     QAbstractItemModel* model = animations()->model();
@@ -383,5 +384,5 @@ void tst_WindowPanels::refusesDropsFromElsewhere()
     QVERIFY(!m->document()->isModified());
 }
 
-QTEST_MAIN(tst_WindowPanels)
+QTEST_MAIN(TestWindowPanels)
 #include "tst_windowpanels.moc"

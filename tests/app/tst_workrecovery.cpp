@@ -16,7 +16,7 @@
 
 using App::RecoveryDialog;
 using App::WorkRecovery;
-using Family::AbandonedTexts;
+using Operations::AbandonedTexts;
 
 namespace {
 
@@ -38,7 +38,7 @@ int typeUntilKilled(const QString& root, const QString& folder, const QString& f
     fixture.window->openPath(folder);
     fixture.window->openFile(file);
     int typed = 0;
-    QObject::connect(recovery.keeper(), &Family::RecoveryKeeper::copied, [&typed] {
+    QObject::connect(recovery.keeper(), &Operations::RecoveryKeeper::copied, [&typed] {
         printf("%d\n", typed);
         fflush(stdout);
     });
@@ -154,7 +154,7 @@ void TestWorkRecovery::killedWindowLosesLittle()
         } else {
             const AbandonedTexts found(root());
             QCOMPARE(found.all().size(), 1);
-            QCOMPARE(found.all().first().state, Family::AbandonedText::Applicable);
+            QCOMPARE(found.all().first().state, Operations::AbandonedText::Applicable);
             recovered = found.all().first().copy.text;
             QVERIFY(found.all().first().discard());
         }
@@ -172,14 +172,14 @@ void TestWorkRecovery::killedWindowLosesLittle()
 /// nobody has locked.
 void TestWorkRecovery::leave(const QString& name, const QString& file, const QString& text)
 {
-    Family::RecoveryCopy copy;
+    Operations::RecoveryCopy copy;
     copy.fileName = file;
     copy.gameFolder = m_game->root() + '/';
     copy.mainFile = file.contains("/oda/") ? m_game->oda() : m_game->ryn();
     copy.kind = file.isEmpty() ? Family::FileKind::Animations : Family::fileKindOf(file);
     copy.codec = "UTF-8";
     copy.time = QDateTime::currentDateTime();
-    copy.stamp = Family::FileStamp::of(file);
+    copy.stamp = Operations::FileStamp::of(file);
     copy.stamp.addHash(file);
     copy.text = text;
     QDir().mkpath(root() + "/dead");

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "animation/organizereditor.h"
 #include "app/animationcommands.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
@@ -12,12 +11,14 @@
 #include "app/messagepanel.h"
 #include "app/statusfields.h"
 #include "app/windowinterface.h"
-#include "editors/code/codeeditor.h"
-#include "editors/code/codeworkspace.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "support/planneddialogs.h"
+
+#include <zorv/animation/organizereditor.h>
+#include <zorv/editors/code/codeeditor.h>
+#include <zorv/editors/code/codeworkspace.h>
 
 #include <QDir>
 #include <QFile>
@@ -25,7 +26,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
-
 #include <memory>
 
 /// A game folder of two characters on disk.
@@ -97,7 +97,7 @@ public:
     explicit WindowFixture(const QString& settingsFile)
         : settings(settingsFile, QSettings::IniFormat), host(&settings)
     {
-        Family::startHost(&host);
+        Operations::startHost(&host);
         window = std::make_unique<App::MainWindow>();
         host.setWindow(window.get());
         window->show();

@@ -27,7 +27,7 @@ unsigned long long fastCrc(const QByteArray& data)
 
 }  // namespace
 
-class tst_Crc64 : public QObject
+class TestCrc64 : public QObject
 {
     Q_OBJECT
 
@@ -55,5 +55,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Crc64)
+QTEST_GUILESS_MAIN(TestCrc64)
 #include "tst_crc64.moc"

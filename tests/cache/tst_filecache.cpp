@@ -19,7 +19,7 @@ struct Record : StreamCacheData
 
 }  // namespace
 
-class tst_FileCache : public QObject
+class TestFileCache : public QObject
 {
     Q_OBJECT
 
@@ -44,13 +44,13 @@ private:
     FileCache m_cache;
 };
 
-void tst_FileCache::init()
+void TestFileCache::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_cache.disconnect();
 }
 
-QString tst_FileCache::write(const QString& name, const QByteArray& data)
+QString TestFileCache::write(const QString& name, const QByteArray& data)
 {
     QFile file(m_folder->filePath(name));
     file.open(QIODevice::WriteOnly);
@@ -58,18 +58,18 @@ QString tst_FileCache::write(const QString& name, const QByteArray& data)
     return file.fileName();
 }
 
-QByteArray tst_FileCache::read(const QString& path)
+QByteArray TestFileCache::read(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-FileItem* tst_FileCache::add(const QString& path, void* filterData)
+FileItem* TestFileCache::add(const QString& path, void* filterData)
 {
     return static_cast<FileItem*>(m_cache.addItem(path.toLocal8Bit(), 99, filterData, 0));
 }
 
-void tst_FileCache::typeOfSuffix_data()
+void TestFileCache::typeOfSuffix_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("hasData");
@@ -84,7 +84,7 @@ void tst_FileCache::typeOfSuffix_data()
     QTest::newRow("none") << "gif" << false << 0;
 }
 
-void tst_FileCache::typeOfSuffix()
+void TestFileCache::typeOfSuffix()
 {
     QFETCH(QString, name);
     QFETCH(bool, hasData);
@@ -99,7 +99,7 @@ void tst_FileCache::typeOfSuffix()
     QCOMPARE(item->filterData, expected);
 }
 
-void tst_FileCache::filtersSeeTheGivenType()
+void TestFileCache::filtersSeeTheGivenType()
 {
     QStringList calls;
     const auto filter = [&calls](const char* way) {
@@ -128,7 +128,7 @@ void tst_FileCache::filtersSeeTheGivenType()
     QCOMPARE(silent.toData(false), QByteArray());
 }
 
-void tst_FileCache::checksumStaysWithoutAnother()
+void TestFileCache::checksumStaysWithoutAnother()
 {
     FileItem* item = add(write("a.png", "old"));
     m_cache.setItemData(item, "new", 4, nullptr, 77);
@@ -141,7 +141,7 @@ void tst_FileCache::checksumStaysWithoutAnother()
 
 // A reader that has the file open goes on with the old bytes, and a folder that cannot be written
 // to keeps them.
-void tst_FileCache::failedWriteKeepsTheFile()
+void TestFileCache::failedWriteKeepsTheFile()
 {
     const QString path = write("a.png", "old");
     FileItem* item = add(path);
@@ -159,7 +159,7 @@ void tst_FileCache::failedWriteKeepsTheFile()
     QCOMPARE(m_cache.itemRawData(item), QByteArray());
 }
 
-void tst_FileCache::filesThatAreNone()
+void TestFileCache::filesThatAreNone()
 {
     FileItem* missing = add(m_folder->filePath("none.png"));
     missing->size = 5;
@@ -174,7 +174,7 @@ void tst_FileCache::filesThatAreNone()
     QCOMPARE(m_cache.itemRawData(add(pipe)), QByteArray());
 }
 
-void tst_FileCache::nameEndsWithTheBytes()
+void TestFileCache::nameEndsWithTheBytes()
 {
     const auto nameOf = [this](const QByteArray& bytes) {
         return m_cache.fileName(m_cache.addItem(bytes, 0, nullptr, 0));
@@ -183,7 +183,7 @@ void tst_FileCache::nameEndsWithTheBytes()
     QCOMPARE(nameOf(QByteArray("a.png\0b", 7)), QString("a.png"));
 }
 
-void tst_FileCache::renameAndDelete()
+void TestFileCache::renameAndDelete()
 {
     const QString from = write("a.png", "data");
     const QString to = m_folder->filePath("b.png");
@@ -196,5 +196,5 @@ void tst_FileCache::renameAndDelete()
     QCOMPARE(m_cache.fileName(item), from);
 }
 
-QTEST_GUILESS_MAIN(tst_FileCache)
+QTEST_GUILESS_MAIN(TestFileCache)
 #include "tst_filecache.moc"

@@ -123,7 +123,7 @@ QByteArray randomData(QRandomGenerator& random)
 
 }  // namespace
 
-class tst_StreamCache : public QObject
+class TestStreamCache : public QObject
 {
     Q_OBJECT
 
@@ -147,7 +147,7 @@ private slots:
     void itemsThatStandTwice();
 };
 
-void tst_StreamCache::randomOperations_data()
+void TestStreamCache::randomOperations_data()
 {
     QTest::addColumn<StreamCache::Type>("type");
     QTest::newRow("memory") << StreamCache::MemoryStore;
@@ -155,7 +155,7 @@ void tst_StreamCache::randomOperations_data()
     QTest::newRow("files") << StreamCache::FileStore;
 }
 
-void tst_StreamCache::randomOperations()
+void TestStreamCache::randomOperations()
 {
     QFETCH(StreamCache::Type, type);
     const QTemporaryDir folder;
@@ -216,7 +216,7 @@ void tst_StreamCache::randomOperations()
     }
 }
 
-void tst_StreamCache::emptyItems_data()
+void TestStreamCache::emptyItems_data()
 {
     QTest::addColumn<StreamCache::Type>("type");
     QTest::addColumn<int>("kind");
@@ -227,7 +227,7 @@ void tst_StreamCache::emptyItems_data()
 }
 
 // Also where the filter would make something out of nothing.
-void tst_StreamCache::emptyItems()
+void TestStreamCache::emptyItems()
 {
     QFETCH(StreamCache::Type, type);
     QFETCH(int, kind);
@@ -249,7 +249,7 @@ void tst_StreamCache::emptyItems()
     cache->clear();
 }
 
-void tst_StreamCache::rawDataIsWhatIsKept()
+void TestStreamCache::rawDataIsWhatIsKept()
 {
     for (const auto type : {StreamCache::MemoryStore, StreamCache::DiskStore}) {
         Store store(type);
@@ -268,7 +268,7 @@ void tst_StreamCache::rawDataIsWhatIsKept()
 }
 
 // Stored forms of one type are compared as they are, decoded ones have to hold something.
-void tst_StreamCache::equalityOfEmptyItems()
+void TestStreamCache::equalityOfEmptyItems()
 {
     Store store(StreamCache::MemoryStore);
     Item* a = store.cache->addItem({}, Plain, nullptr, 0);
@@ -279,7 +279,7 @@ void tst_StreamCache::equalityOfEmptyItems()
     QVERIFY(!store.cache->isEqual(a, QByteArray(), ~0ULL));
 }
 
-void tst_StreamCache::searchDecodesOnlyWhatItMust()
+void TestStreamCache::searchDecodesOnlyWhatItMust()
 {
     Store store(StreamCache::MemoryStore);
     QCOMPARE(store.cache->find("anything", nullptr), nullptr);
@@ -295,7 +295,7 @@ void tst_StreamCache::searchDecodesOnlyWhatItMust()
     QCOMPARE(store.decodedCount, 26);
 }
 
-void tst_StreamCache::checksumsThatAreGivenLate()
+void TestStreamCache::checksumsThatAreGivenLate()
 {
     Store store(StreamCache::MemoryStore);
     Item* first = store.cache->addItem("same", Coded, nullptr, 0);
@@ -309,7 +309,7 @@ void tst_StreamCache::checksumsThatAreGivenLate()
     QCOMPARE(store.cache->find("new", nullptr), first);
 }
 
-void tst_StreamCache::diskOrder()
+void TestStreamCache::diskOrder()
 {
     DiskCache cache;
     const auto add = [&cache](int size) {
@@ -328,7 +328,7 @@ void tst_StreamCache::diskOrder()
 }
 
 // More bytes behind an item than are moved in one step.
-void tst_StreamCache::longTail()
+void TestStreamCache::longTail()
 {
     Store store(StreamCache::DiskStore);
     QByteArray data(70 * 1024 * 1024, Qt::Uninitialized);
@@ -347,7 +347,7 @@ void tst_StreamCache::longTail()
 }
 
 // What does not fit on the disk is not lost, and harms no other item.
-void tst_StreamCache::fullDisk()
+void TestStreamCache::fullDisk()
 {
     Store store(StreamCache::DiskStore);
     QVector<Item*> items;
@@ -380,7 +380,7 @@ void tst_StreamCache::fullDisk()
     }
 }
 
-void tst_StreamCache::noTemporaryFile()
+void TestStreamCache::noTemporaryFile()
 {
     const QByteArray place = qgetenv("TMPDIR");
     qputenv("TMPDIR", "/proc");  // where nobody can make a file
@@ -400,7 +400,7 @@ void tst_StreamCache::noTemporaryFile()
     cache.clear();
 }
 
-void tst_StreamCache::defaultStore_data()
+void TestStreamCache::defaultStore_data()
 {
     QTest::addColumn<QVariant>("setting");
     QTest::addColumn<StreamCache::Type>("type");
@@ -411,7 +411,7 @@ void tst_StreamCache::defaultStore_data()
     QTest::newRow("3") << QVariant(QStringLiteral("3")) << StreamCache::DiskStore;
 }
 
-void tst_StreamCache::defaultStore()
+void TestStreamCache::defaultStore()
 {
     QFETCH(QVariant, setting);
     QFETCH(StreamCache::Type, type);
@@ -422,7 +422,7 @@ void tst_StreamCache::defaultStore()
     QCOMPARE(StreamCache::instance(static_cast<StreamCache::Type>(9)), nullptr);
 }
 
-void tst_StreamCache::sharedRecords()
+void TestStreamCache::sharedRecords()
 {
     MemoryCache cache;
     int disposed = 0;
@@ -442,7 +442,7 @@ void tst_StreamCache::sharedRecords()
     QCOMPARE(record.toData(false), QByteArray());
 }
 
-void tst_StreamCache::borrowedBytes()
+void TestStreamCache::borrowedBytes()
 {
     Store store(StreamCache::MemoryStore);
     char bytes[] = "data";
@@ -451,7 +451,7 @@ void tst_StreamCache::borrowedBytes()
     QCOMPARE(store.cache->itemData(item), QByteArray("data"));
 }
 
-void tst_StreamCache::itemsThatStandTwice()
+void TestStreamCache::itemsThatStandTwice()
 {
     NotingStore store;
     Item* a = store.addItem("a", Plain, nullptr, 0);
@@ -469,5 +469,5 @@ void tst_StreamCache::itemsThatStandTwice()
     QCOMPARE(store.deleted, QByteArray("badc"));
 }
 
-QTEST_GUILESS_MAIN(tst_StreamCache)
+QTEST_GUILESS_MAIN(TestStreamCache)
 #include "tst_streamcache.moc"

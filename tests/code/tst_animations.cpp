@@ -47,7 +47,7 @@ QString withNames(const QStringList& names)
 
 }  // namespace
 
-class AnimationsTest : public QObject
+class TestAnimationList : public QObject
 {
     Q_OBJECT
 
@@ -63,7 +63,7 @@ private slots:
     void randomOperations();
 };
 
-void AnimationsTest::organize_data()
+void TestAnimationList::organize_data()
 {
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<QStringList>("sorted");
@@ -77,7 +77,7 @@ void AnimationsTest::organize_data()
         << QStringList{"9", "a", "3"} << QStringList{"3", "9", "a"};
 }
 
-void AnimationsTest::organize()
+void TestAnimationList::organize()
 {
     QFETCH(QStringList, names);
     QFETCH(QStringList, sorted);
@@ -93,7 +93,7 @@ void AnimationsTest::organize()
     }
 }
 
-void AnimationsTest::moves_data()
+void TestAnimationList::moves_data()
 {
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("to");
@@ -106,7 +106,7 @@ void AnimationsTest::moves_data()
     QTest::newRow("outside") << 4 << 0 << QStringList{"a", "b", "c", "d"};
 }
 
-void AnimationsTest::moves()
+void TestAnimationList::moves()
 {
     QFETCH(int, from);
     QFETCH(int, to);
@@ -117,7 +117,7 @@ void AnimationsTest::moves()
     QCOMPARE(fixture.document.text(), withNames(result));
 }
 
-void AnimationsTest::duplicates()
+void TestAnimationList::duplicates()
 {
     Fixture fixture(QStringLiteral("!a\n-new\n# A\n!b\n-g\n"));
     fixture.list->duplicate(0, QStringLiteral("c"));
@@ -136,7 +136,7 @@ void AnimationsTest::duplicates()
     QCOMPARE(fixture.list->index(0).data().toString(), QStringLiteral("a"));
 }
 
-void AnimationsTest::insertAndFind()
+void TestAnimationList::insertAndFind()
 {
     Fixture fixture(withNames({"a", "b"}));
     QCOMPARE(fixture.list->insert(1, QStringLiteral("n"))->name(), QStringLiteral("n"));
@@ -148,7 +148,7 @@ void AnimationsTest::insertAndFind()
     QCOMPARE(fixture.list->at(99), nullptr);
 }
 
-void AnimationsTest::extents()
+void TestAnimationList::extents()
 {
     Fixture fixture(QStringLiteral("!a\n# box\n-f\n# one\n# two\n-g\n!b\n-h"));
     const AnimationCode* animation = fixture.list->at(0);
@@ -162,7 +162,7 @@ void AnimationsTest::extents()
     QCOMPARE(fixture.document.text(), QStringLiteral("!a\n# box\n-f\n!b\n-h"));
 }
 
-void AnimationsTest::drop()
+void TestAnimationList::drop()
 {
     Fixture fixture(withNames({"a", "b", "c", "d", "e"}));
     std::unique_ptr<QMimeData> data(
@@ -174,7 +174,7 @@ void AnimationsTest::drop()
 }
 
 /// Any operation is one step of undo, which brings text, tree and list back.
-void AnimationsTest::randomOperations()
+void TestAnimationList::randomOperations()
 {
     qInfo("seed %u", Seed);
     QRandomGenerator random(Seed);
@@ -221,5 +221,5 @@ void AnimationsTest::randomOperations()
     }
 }
 
-QTEST_MAIN(AnimationsTest)
+QTEST_MAIN(TestAnimationList)
 #include "tst_animations.moc"

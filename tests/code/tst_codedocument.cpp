@@ -111,7 +111,7 @@ CodeNode* nodeOfLine(const CodeDocument& document, int line)
 
 Q_DECLARE_METATYPE(std::function<void(GrammarDocument&)>)
 
-class CodeDocumentTest : public QObject
+class TestCodeDocument : public QObject
 {
     Q_OBJECT
 
@@ -142,7 +142,7 @@ private slots:
     void hugeLinesAndManyEmptyOnes();
 };
 
-void CodeDocumentTest::foldingAgainstRules()
+void TestCodeDocument::foldingAgainstRules()
 {
     static const char* const lines[] = {"[1]", "[2*]", "a=1", "# n", "", "x", "[3*]", "[1]", "# n"};
     QRandomGenerator random(99);
@@ -165,7 +165,7 @@ void CodeDocumentTest::foldingAgainstRules()
     }
 }
 
-void CodeDocumentTest::onlyDependentLinesAreParsed()
+void TestCodeDocument::onlyDependentLinesAreParsed()
 {
     GrammarDocument document(QStringLiteral("[1]\na=1\n[2]\nb=1\nb=2\n[1]\nc=1\nc=2"));
     document.grammar.records = true;
@@ -182,7 +182,7 @@ void CodeDocumentTest::onlyDependentLinesAreParsed()
 }
 
 /// Inside of a change the nodes follow each edit of the tree at once.
-void CodeDocumentTest::nodesInsideChange()
+void TestCodeDocument::nodesInsideChange()
 {
     GrammarDocument document(QStringLiteral("[1]\na=1\nb=2\n!x\n-f"));
     document.beginChange(QString());
@@ -203,7 +203,7 @@ void CodeDocumentTest::nodesInsideChange()
     QCOMPARE(document.dump(), GrammarDocument(document.text()).dump());
 }
 
-void CodeDocumentTest::insertAtEdges_data()
+void TestCodeDocument::insertAtEdges_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("line");  // of the node, -1 for none
@@ -224,7 +224,7 @@ void CodeDocumentTest::insertAtEdges_data()
         << "!x\n-f\n# box\n-g" << 3 << true << false << "!x\n-f\nnew\n# box\n-g";
 }
 
-void CodeDocumentTest::insertAtEdges()
+void TestCodeDocument::insertAtEdges()
 {
     QFETCH(QString, text);
     QFETCH(int, line);
@@ -249,7 +249,7 @@ void CodeDocumentTest::insertAtEdges()
     }
 }
 
-void CodeDocumentTest::changeKeepsComment()
+void TestCodeDocument::changeKeepsComment()
 {
     TestInterface host;
     GrammarDocument document(QStringLiteral("[1]\na=1   # why\nb=2"));
@@ -261,7 +261,7 @@ void CodeDocumentTest::changeKeepsComment()
     QCOMPARE(document.text(), QStringLiteral("[1]\na=2\n"));
 }
 
-void CodeDocumentTest::oneUndoStep()
+void TestCodeDocument::oneUndoStep()
 {
     const QString text = QStringLiteral("[1]\na=1\nb=2\n!x\n-f\n-g\n!y\n-h\n");
     GrammarDocument document(text);
@@ -279,7 +279,7 @@ void CodeDocumentTest::oneUndoStep()
     QVERIFY(!document.isUndoAvailable());
 }
 
-void CodeDocumentTest::switchesOff()
+void TestCodeDocument::switchesOff()
 {
     GrammarDocument document(QStringLiteral("[1]\na=1\n?e"));
     QVERIFY(document.groupEnabled(0));
@@ -306,7 +306,7 @@ void CodeDocumentTest::switchesOff()
     QCOMPARE(document.messages()->at(0).line, document.blockCount() - 2);
 }
 
-void CodeDocumentTest::roundTrip_data()
+void TestCodeDocument::roundTrip_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::addColumn<bool>("faithful");
@@ -332,7 +332,7 @@ void CodeDocumentTest::roundTrip_data()
                                      << false << true;
 }
 
-void CodeDocumentTest::roundTrip()
+void TestCodeDocument::roundTrip()
 {
     QFETCH(QByteArray, data);
     QFETCH(bool, faithful);
@@ -360,7 +360,7 @@ void CodeDocumentTest::roundTrip()
     }
 }
 
-void CodeDocumentTest::copiesKeepIdentity()
+void TestCodeDocument::copiesKeepIdentity()
 {
     TestInterface host;
     const QTemporaryDir folder;
@@ -384,7 +384,7 @@ void CodeDocumentTest::copiesKeepIdentity()
     QVERIFY(document.isEmpty());
 }
 
-void CodeDocumentTest::roundaboutNameIsWatched()
+void TestCodeDocument::roundaboutNameIsWatched()
 {
     TestInterface host;
     PlannedDialogs dialogs;
@@ -408,7 +408,7 @@ void CodeDocumentTest::roundaboutNameIsWatched()
     QTRY_COMPARE(dialogs.count(), 2);
 }
 
-void CodeDocumentTest::vanishedFile()
+void TestCodeDocument::vanishedFile()
 {
     TestInterface host;
     const QTemporaryDir folder;
@@ -424,7 +424,7 @@ void CodeDocumentTest::vanishedFile()
 }
 
 /// A folder stands where the file should go.
-void CodeDocumentTest::failedSave()
+void TestCodeDocument::failedSave()
 {
     TestInterface host;
     const QTemporaryDir folder;
@@ -440,7 +440,7 @@ void CodeDocumentTest::failedSave()
     QCOMPARE(contents(name), QByteArray("[1]\r\n"));
 }
 
-void CodeDocumentTest::partIsNotTheWhole_data()
+void TestCodeDocument::partIsNotTheWhole_data()
 {
     QTest::addColumn<qint64>("missing");
     QTest::newRow("a byte cannot be read") << qint64(1);
@@ -448,7 +448,7 @@ void CodeDocumentTest::partIsNotTheWhole_data()
 }
 
 /// What is not read whole would be saved over the rest.
-void CodeDocumentTest::partIsNotTheWhole()
+void TestCodeDocument::partIsNotTheWhole()
 {
     QFETCH(qint64, missing);
     ShortArchive archive;
@@ -461,7 +461,7 @@ void CodeDocumentTest::partIsNotTheWhole()
     QVERIFY(document.fileName().isEmpty());
 }
 
-void CodeDocumentTest::messagesAreToldOnce()
+void TestCodeDocument::messagesAreToldOnce()
 {
     GrammarDocument document(QStringLiteral("?e\n?w\n?d\n?e"));
     QSignalSpy updated(document.messages(), &Messages::updated);
@@ -479,7 +479,7 @@ void CodeDocumentTest::messagesAreToldOnce()
     QCOMPARE(block.blockNumber(), 1);
 }
 
-void CodeDocumentTest::fullParseInsideChange_data()
+void TestCodeDocument::fullParseInsideChange_data()
 {
     QTest::addColumn<std::function<void(GrammarDocument&)>>("parse");
     using Parse = std::function<void(GrammarDocument&)>;
@@ -494,7 +494,7 @@ void CodeDocumentTest::fullParseInsideChange_data()
 }
 
 /// What comes in the middle of a change may not count its lines twice.
-void CodeDocumentTest::fullParseInsideChange()
+void TestCodeDocument::fullParseInsideChange()
 {
     QFETCH(std::function<void(GrammarDocument&)>, parse);
     GrammarDocument document(QStringLiteral("[1]\na=1\n?e\n!x\n-f\n?w\n"));
@@ -507,7 +507,7 @@ void CodeDocumentTest::fullParseInsideChange()
 }
 
 /// What an editor keeps goes with its document, or when something else takes its place.
-void CodeDocumentTest::editorDataEnds()
+void TestCodeDocument::editorDataEnds()
 {
     struct State : EditorData
     {
@@ -527,7 +527,7 @@ void CodeDocumentTest::editorDataEnds()
     QCOMPARE(alive, 0);
 }
 
-void CodeDocumentTest::parenthesesAndTokens()
+void TestCodeDocument::parenthesesAndTokens()
 {
     GrammarDocument document(QStringLiteral("# note\n[1]\n?d"));
     const auto data = [&](int line) {
@@ -541,7 +541,7 @@ void CodeDocumentTest::parenthesesAndTokens()
     QCOMPARE(document.messages()->at(0).type, Message::Warning);
 }
 
-void CodeDocumentTest::releaseDisposesOfAll()
+void TestCodeDocument::releaseDisposesOfAll()
 {
     auto* document = new GrammarDocument(QStringLiteral("[1]\na=1\n!x\n-f"));
     const QPointer<QObject> document2 = document;
@@ -553,7 +553,7 @@ void CodeDocumentTest::releaseDisposesOfAll()
     QVERIFY(!list);
 }
 
-void CodeDocumentTest::hugeLinesAndManyEmptyOnes()
+void TestCodeDocument::hugeLinesAndManyEmptyOnes()
 {
     GrammarDocument document(QString(10 * 1024 * 1024, QLatin1Char('x')) + QLatin1Char('\n') +
                              QString(200000, QLatin1Char('\n')));
@@ -564,5 +564,5 @@ void CodeDocumentTest::hugeLinesAndManyEmptyOnes()
     QCOMPARE(document.childCount(), 1);
 }
 
-QTEST_MAIN(CodeDocumentTest)
+QTEST_MAIN(TestCodeDocument)
 #include "tst_codedocument.moc"

@@ -107,7 +107,7 @@ void editByTree(QRandomGenerator& random, const Language& language, CodeDocument
 
 /// Whatever is done to the text, in whatever grammar: what the document knows is what a fresh
 /// parse of the same text gives.
-class CodeDocumentTruth : public QObject
+class TestCodeDocumentTruth : public QObject
 {
     Q_OBJECT
 
@@ -121,7 +121,7 @@ private slots:
     void framesAmongValues();
 };
 
-void CodeDocumentTruth::randomEdits()
+void TestCodeDocumentTruth::randomEdits()
 {
     QFETCH(int, language);
     QFETCH(int, run);
@@ -165,7 +165,7 @@ void CodeDocumentTruth::randomEdits()
 }
 
 /// Inside of a change too the nodes are those of the text, after every edit by the tree.
-void CodeDocumentTruth::editsByTree()
+void TestCodeDocumentTruth::editsByTree()
 {
     QFETCH(int, language);
     QFETCH(int, run);
@@ -198,7 +198,7 @@ void CodeDocumentTruth::editsByTree()
 
 /// New lines whose state is the one that Qt gives to every new line hide from
 /// Qt that the lines below stand under another head.
-void CodeDocumentTruth::stateOfNewLines()
+void TestCodeDocumentTruth::stateOfNewLines()
 {
     GrammarDocument document(QStringLiteral("[2]\na=1\nb=2"));
     QTextCursor cursor(document.begin());
@@ -209,7 +209,7 @@ void CodeDocumentTruth::stateOfNewLines()
 }
 
 /// Children that a grammar adds to an animation do not count as frames.
-void CodeDocumentTruth::framesAmongValues()
+void TestCodeDocumentTruth::framesAmongValues()
 {
     LadderDocument document(LadderGrammar::Reuse::All, QStringLiteral("@a\nm: 1\n+ p\nm: 2\n+ q"));
     const auto* animation = static_cast<const AnimationCode*>(document.next());
@@ -223,5 +223,5 @@ void CodeDocumentTruth::framesAmongValues()
     }
 }
 
-QTEST_MAIN(CodeDocumentTruth)
+QTEST_MAIN(TestCodeDocumentTruth)
 #include "tst_codedocument_truth.moc"

@@ -175,7 +175,7 @@ CodeNode* walk(const SlowModel& model, int from, int step, CodeNode::Type type, 
 
 }  // namespace
 
-class CodeNodeTest : public QObject
+class TestCodeNode : public QObject
 {
     Q_OBJECT
 
@@ -190,7 +190,7 @@ private slots:
     void namedProperties();
 };
 
-void CodeNodeTest::chainAndTree()
+void TestCodeNode::chainAndTree()
 {
     qInfo("seed %u", Seed);
     QRandomGenerator random(Seed);
@@ -233,7 +233,7 @@ void CodeNodeTest::chainAndTree()
     QCOMPARE(root.childCount(), 0);
 }
 
-void CodeNodeTest::convert_data()
+void TestCodeNode::convert_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QVariant>("value");
@@ -260,7 +260,7 @@ void CodeNodeTest::convert_data()
     QTest::newRow("unnamed type") << 1 << QVariant("x") << QVariant("x");
 }
 
-void CodeNodeTest::convert()
+void TestCodeNode::convert()
 {
     QFETCH(int, type);
     QFETCH(QVariant, value);
@@ -271,7 +271,7 @@ void CodeNodeTest::convert()
     QCOMPARE(node.value().userType(), result.userType());
 }
 
-void CodeNodeTest::write_data()
+void TestCodeNode::write_data()
 {
     QTest::addColumn<QVariant>("stored");
     QTest::addColumn<int>("type");
@@ -292,7 +292,7 @@ void CodeNodeTest::write_data()
     QTest::newRow("other") << QVariant(1) << 13 << QVariant(-7) << comma << "-7";
 }
 
-void CodeNodeTest::write()
+void TestCodeNode::write()
 {
     QFETCH(QVariant, stored);
     QFETCH(int, type);
@@ -304,7 +304,7 @@ void CodeNodeTest::write()
     QCOMPARE(node.asString(ValueCode::Type(type), value, separator), text);
 }
 
-void CodeNodeTest::read_data()
+void TestCodeNode::read_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QVariant>("value");
@@ -323,7 +323,7 @@ void CodeNodeTest::read_data()
     QTest::newRow("point") << 14 << QVariant(QPoint(5, 6)) << Ints{} << Reals{} << QPoint(5, 6);
 }
 
-void CodeNodeTest::read()
+void TestCodeNode::read()
 {
     QFETCH(int, type);
     QFETCH(QVariant, value);
@@ -337,7 +337,7 @@ void CodeNodeTest::read()
     QCOMPARE(node.asPoint(), point);
 }
 
-void CodeNodeTest::namedProperties()
+void TestCodeNode::namedProperties()
 {
     TestRoot root;
     TestAnimation animation(&root, QStringLiteral("old"));
@@ -350,5 +350,5 @@ void CodeNodeTest::namedProperties()
                           QStringLiteral("Identifier")}));
 }
 
-QTEST_MAIN(CodeNodeTest)
+QTEST_MAIN(TestCodeNode)
 #include "tst_codenode.moc"

@@ -42,7 +42,7 @@ int walkDown(QTextBlock block, int limit)
 }  // namespace
 
 /// The searches for lines by level and by brackets, beside a plain walk.
-class LineLevels : public QObject
+class TestLineLevels : public QObject
 {
     Q_OBJECT
 
@@ -53,7 +53,7 @@ private slots:
     void unpaired();
 };
 
-void LineLevels::lowerLines()
+void TestLineLevels::lowerLines()
 {
     QRandomGenerator random(Seed);
     for (int run = 0; run < 20; ++run) {
@@ -79,7 +79,7 @@ void LineLevels::lowerLines()
     }
 }
 
-void LineLevels::linesNeverParsed()
+void TestLineLevels::linesNeverParsed()
 {
     GrammarDocument document;
     document.setParser(nullptr);
@@ -93,7 +93,7 @@ void LineLevels::linesNeverParsed()
     QVERIFY(!document.nextUnpairedBlock(middle, CodeDocument::LacksClosing).isValid());
 }
 
-void LineLevels::unpaired()
+void TestLineLevels::unpaired()
 {
     GrammarDocument document(QStringLiteral("()\n(\n# (())()\n) (\n)\n(a)"));
     constexpr int both = CodeDocument::LacksClosing | CodeDocument::LacksOpening;
@@ -116,5 +116,5 @@ void LineLevels::unpaired()
     QCOMPARE(next(1, CodeDocument::LacksOpening), 2);
 }
 
-QTEST_MAIN(LineLevels)
+QTEST_MAIN(TestLineLevels)
 #include "tst_linelevels.moc"

@@ -31,7 +31,7 @@ QTextCursor cursorIn(GrammarDocument& document, int line)
 
 /// Undo in a view brings its cursor to what a change has edited, not to where the
 /// document was edited last.
-class UndoPositionTest : public QObject
+class TestUndoPosition : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private slots:
     void emptyChangeLeavesNothing();
 };
 
-void UndoPositionTest::cursorGoesToTheEdit_data()
+void TestUndoPosition::cursorGoesToTheEdit_data()
 {
     QTest::addColumn<Change>("change");
     QTest::addColumn<int>("line");
@@ -87,7 +87,7 @@ void UndoPositionTest::cursorGoesToTheEdit_data()
     }) << 6;
 }
 
-void UndoPositionTest::cursorGoesToTheEdit()
+void TestUndoPosition::cursorGoesToTheEdit()
 {
     QFETCH(Change, change);
     QFETCH(int, line);
@@ -118,7 +118,7 @@ void UndoPositionTest::cursorGoesToTheEdit()
 }
 
 /// No step, no signal of an edit, and the next change has its own place.
-void UndoPositionTest::emptyChangeLeavesNothing()
+void TestUndoPosition::emptyChangeLeavesNothing()
 {
     GrammarDocument document(Text);
     QPlainTextEdit view;
@@ -143,5 +143,5 @@ void UndoPositionTest::emptyChangeLeavesNothing()
     QCOMPARE(edits.count(), 1);
 }
 
-QTEST_MAIN(UndoPositionTest)
+QTEST_MAIN(TestUndoPosition)
 #include "tst_undoposition.moc"

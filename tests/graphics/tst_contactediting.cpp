@@ -5,9 +5,9 @@
 #include "code/codedoc/animationcode.h"
 #include "code/codedoc/contactboxescode.h"
 #include "code/codedoc/framecode.h"
-#include "familyanimations.h"
-#include "familydocument.h"
-#include "nodes/familyparser.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodes/familyparser.h"
 
 #include <QRandomGenerator>
 #include <QtTest>

@@ -83,7 +83,7 @@ struct Scene
 
 }  // namespace
 
-class tst_StageDrawing : public QObject
+class TestStageDrawing : public QObject
 {
     Q_OBJECT
 
@@ -93,7 +93,7 @@ private slots:
     void paintersAgree();
 };
 
-void tst_StageDrawing::spritesInTheirOrder()
+void TestStageDrawing::spritesInTheirOrder()
 {
     Scene scene;
     scene.add(scene.redSprite, {0, 0});
@@ -115,7 +115,7 @@ void tst_StageDrawing::spritesInTheirOrder()
     QVERIFY(scene.shows(qRgb(0, 255, 255), {5, 9}));
 }
 
-void tst_StageDrawing::onionSkins()
+void TestStageDrawing::onionSkins()
 {
     Scene scene;
     scene.add(scene.redSprite, {4, 4});
@@ -133,7 +133,7 @@ void tst_StageDrawing::onionSkins()
     QVERIFY(shows(scene.broken, GraphicsRenderer::NoEffect, 1, Ground));
 }
 
-void tst_StageDrawing::paintersAgree()
+void TestStageDrawing::paintersAgree()
 {
     for (const bool boxesAbove : {false, true}) {
         Scene scene;
@@ -166,6 +166,6 @@ void tst_StageDrawing::paintersAgree()
     }
 }
 
-ZORV_GL_TEST_MAIN(tst_StageDrawing)
+ZORV_GL_TEST_MAIN(TestStageDrawing)
 
 #include "tst_stagedrawing.moc"

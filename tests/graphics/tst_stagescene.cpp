@@ -110,7 +110,7 @@ void drawPlainly(QImage& image, const QVector<QRect>& boxes, QRgb color, QPoint 
 
 }  // namespace
 
-class tst_StageScene : public QObject
+class TestStageScene : public QObject
 {
     Q_OBJECT
 
@@ -133,7 +133,7 @@ private slots:
     void crossesMarkTheirPoint();
 };
 
-void tst_StageScene::placesFollowParents()
+void TestStageScene::placesFollowParents()
 {
     qInfo("seed %u", Seed);
     QRandomGenerator random(Seed);
@@ -167,7 +167,7 @@ void tst_StageScene::placesFollowParents()
     }
 }
 
-void tst_StageScene::extremesStayBounded()
+void TestStageScene::extremesStayBounded()
 {
     QCOMPARE(roundedInt(NotANumber), 0);
     QCOMPARE(roundedInt(2147483648.0), Most);
@@ -213,7 +213,7 @@ void tst_StageScene::extremesStayBounded()
     }
 }
 
-void tst_StageScene::zoomLevels_data()
+void TestStageScene::zoomLevels_data()
 {
     QTest::addColumn<int>("table");
     QTest::addColumn<int>("start");
@@ -232,7 +232,7 @@ void tst_StageScene::zoomLevels_data()
     QTest::newRow("wheel down") << 1 << 1 << "WWW" << 0 << 0.25F;
 }
 
-void tst_StageScene::zoomLevels()
+void TestStageScene::zoomLevels()
 {
     QFETCH(int, table);
     QFETCH(int, start);
@@ -259,7 +259,7 @@ void tst_StageScene::zoomLevels()
     QTEST(stage.zoom(), "zoom");
 }
 
-void tst_StageScene::absoluteThingsFollowTheZoom()
+void TestStageScene::absoluteThingsFollowTheZoom()
 {
     for (const bool isAboutOrigin : {false, true}) {
         Stage stage;
@@ -298,7 +298,7 @@ void tst_StageScene::absoluteThingsFollowTheZoom()
     }
 }
 
-void tst_StageScene::providerIsFollowed()
+void TestStageScene::providerIsFollowed()
 {
     StageData::Sprite sprites[2];
     auto provider = std::make_unique<StageData::Provider>();
@@ -343,7 +343,7 @@ void tst_StageScene::providerIsFollowed()
     QVERIFY(stage.drawn.empty());
 }
 
-void tst_StageScene::selectionOutlivesEqualBoxes()
+void TestStageScene::selectionOutlivesEqualBoxes()
 {
     Stage stage;
     GraphicsRendererPrivate& scene = stage.scene();
@@ -372,7 +372,7 @@ void tst_StageScene::selectionOutlivesEqualBoxes()
     QCOMPARE(stage.boxes(ContactBoxCode::Collision), &stage.collision);
 }
 
-void tst_StageScene::onionSkinIsAboutTheMainCross()
+void TestStageScene::onionSkinIsAboutTheMainCross()
 {
     Stage stage;
     const StageData::Sprite sprite(QImage(10, 20, QImage::Format_RGB32));
@@ -390,7 +390,7 @@ void tst_StageScene::onionSkinIsAboutTheMainCross()
     QCOMPARE(stage.onionSkin.size, QSize(15, 30));
 }
 
-void tst_StageScene::boxesAreDrawn()
+void TestStageScene::boxesAreDrawn()
 {
     QRandomGenerator random(Seed);
     for (int round = 0; round < 60; ++round) {
@@ -417,7 +417,7 @@ void tst_StageScene::boxesAreDrawn()
     }
 }
 
-void tst_StageScene::insideShinesThrough()
+void TestStageScene::insideShinesThrough()
 {
     Stage stage;
     stage.showBoxes();
@@ -435,7 +435,7 @@ void tst_StageScene::insideShinesThrough()
     QVERIFY(marks > 0 && marks < 18);
 }
 
-void tst_StageScene::guidesAreDrawn()
+void TestStageScene::guidesAreDrawn()
 {
     Stage stage;
     stage.setVisibility(false, false, false, true, true, false, true);
@@ -451,7 +451,7 @@ void tst_StageScene::guidesAreDrawn()
     }
 }
 
-void tst_StageScene::ticksTellModelUnits()
+void TestStageScene::ticksTellModelUnits()
 {
     QRandomGenerator random(Seed);
     for (int round = 0; round < 500; ++round) {
@@ -483,7 +483,7 @@ void tst_StageScene::ticksTellModelUnits()
     }
 }
 
-void tst_StageScene::rulersAreDrawn()
+void TestStageScene::rulersAreDrawn()
 {
     Stage stage;
     stage.setBackground(Qt::white, QColor(0, 255, 0), GraphicsRenderer::GradientBackground, {}, {},
@@ -508,7 +508,7 @@ void tst_StageScene::rulersAreDrawn()
     QCOMPARE(image.pixel(40, 12), qRgb(0, 255, 0));
 }
 
-void tst_StageScene::pictureStandsAtTheOrigin()
+void TestStageScene::pictureStandsAtTheOrigin()
 {
     QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("ground.png"));
@@ -530,7 +530,7 @@ void tst_StageScene::pictureStandsAtTheOrigin()
     QCOMPARE(stage.picture({50, 40}).pixel(20, 15), qRgb(0, 0, 0));
 }
 
-void tst_StageScene::picturesOfTheLibrary()
+void TestStageScene::picturesOfTheLibrary()
 {
     const struct
     {
@@ -558,7 +558,7 @@ void tst_StageScene::picturesOfTheLibrary()
     }
 }
 
-void tst_StageScene::crossesMarkTheirPoint()
+void TestStageScene::crossesMarkTheirPoint()
 {
     Stage stage;
     for (const auto type : {GraphicsRenderer::LargeCrosses, GraphicsRenderer::SmallCrosses}) {
@@ -585,6 +585,6 @@ void tst_StageScene::crossesMarkTheirPoint()
     QCOMPARE(stage.scene().crossImage(Cross::Main).size(), small);
 }
 
-QTEST_MAIN(tst_StageScene)
+QTEST_MAIN(TestStageScene)
 
 #include "tst_stagescene.moc"

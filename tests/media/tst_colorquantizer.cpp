@@ -121,7 +121,7 @@ QVector<RGBA> improved(const QImage& image, QVector<RGBA> palette, int steps)
 
 }  // namespace
 
-class tst_ColorQuantizer : public QObject
+class TestColorQuantizer : public QObject
 {
     Q_OBJECT
 
@@ -140,7 +140,7 @@ private slots:
     void nothing();
 };
 
-void tst_ColorQuantizer::fewColorsAreExact()
+void TestColorQuantizer::fewColorsAreExact()
 {
     QRandomGenerator random(Seed);
     for (const int count : {1, 2, 3, 16, 100, 255, 256}) {
@@ -162,7 +162,7 @@ void tst_ColorQuantizer::fewColorsAreExact()
     }
 }
 
-void tst_ColorQuantizer::nearestOfAll_data()
+void TestColorQuantizer::nearestOfAll_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<quint32>("mask");  ///< of the channels' bits that differ
@@ -175,7 +175,7 @@ void tst_ColorQuantizer::nearestOfAll_data()
     QTest::newRow("gray steps, with ties") << 256 << 0x00101010U;
 }
 
-void tst_ColorQuantizer::nearestOfAll()
+void TestColorQuantizer::nearestOfAll()
 {
     QFETCH(const int, count);
     QFETCH(const quint32, mask);
@@ -199,7 +199,7 @@ void tst_ColorQuantizer::nearestOfAll()
     }
 }
 
-void tst_ColorQuantizer::errorIsNearALocalBest_data()
+void TestColorQuantizer::errorIsNearALocalBest_data()
 {
     QTest::addColumn<bool>("hasAlpha");
     QTest::addColumn<int>("count");
@@ -211,7 +211,7 @@ void tst_ColorQuantizer::errorIsNearALocalBest_data()
 }
 
 /// Plain k-means, which takes a hundred times as long, may not find much left to improve.
-void tst_ColorQuantizer::errorIsNearALocalBest()
+void TestColorQuantizer::errorIsNearALocalBest()
 {
     QFETCH(const bool, hasAlpha);
     QFETCH(const int, count);
@@ -228,7 +228,7 @@ void tst_ColorQuantizer::errorIsNearALocalBest()
     QVERIFY2(error <= 1.35 * best, qPrintable(QStringLiteral("%1, %2").arg(error).arg(best)));
 }
 
-void tst_ColorQuantizer::indexedImages()
+void TestColorQuantizer::indexedImages()
 {
     QImage image(5, 1, QImage::Format_Indexed8);
     image.setColorTable({qRgb(1, 2, 3), qRgb(9, 9, 9), qRgb(1, 2, 3), qRgb(200, 0, 0)});
@@ -258,7 +258,7 @@ void tst_ColorQuantizer::indexedImages()
     QCOMPARE(fewer.pixelIndex(4, 0), 0);
 }
 
-void tst_ColorQuantizer::allForms()
+void TestColorQuantizer::allForms()
 {
     for (int form = QImage::Format_Mono; form < QImage::NImageFormats; ++form) {
         const QImage image = picture(20, true).convertToFormat(QImage::Format(form));
@@ -269,7 +269,7 @@ void tst_ColorQuantizer::allForms()
     }
 }
 
-void tst_ColorQuantizer::weights()
+void TestColorQuantizer::weights()
 {
     ColorQuantizer quantizer;
     quantizer.addColor({0, 0, 0, 255}, 3);
@@ -282,7 +282,7 @@ void tst_ColorQuantizer::weights()
 }
 
 /// They have an entry of their own as soon as there is place for two.
-void tst_ColorQuantizer::transparentPixels()
+void TestColorQuantizer::transparentPixels()
 {
     ColorQuantizer quantizer;
     quantizer.addColor({200, 100, 0, 0});
@@ -294,7 +294,7 @@ void tst_ColorQuantizer::transparentPixels()
     QCOMPARE(int(quantizer.palette(1)[0].a), 200);
 }
 
-void tst_ColorQuantizer::memoryIsBounded()
+void TestColorQuantizer::memoryIsBounded()
 {
     ColorQuantizer quantizer;
     QRandomGenerator random(Seed);
@@ -308,7 +308,7 @@ void tst_ColorQuantizer::memoryIsBounded()
     QCOMPARE(quantizer.palette(256).size(), 256);
 }
 
-void tst_ColorQuantizer::nothing()
+void TestColorQuantizer::nothing()
 {
     QVERIFY(ColorQuantizer().palette(16).isEmpty());
     QVERIFY(ColorQuantizer::quantize({}, 16).isNull());
@@ -316,6 +316,6 @@ void tst_ColorQuantizer::nothing()
     QVERIFY(ColorQuantizer::adapt({}, {{1, 2, 3, 4}}).isNull());
 }
 
-QTEST_GUILESS_MAIN(tst_ColorQuantizer)
+QTEST_GUILESS_MAIN(TestColorQuantizer)
 
 #include "tst_colorquantizer.moc"

@@ -119,7 +119,7 @@ private:
 
 }  // namespace
 
-class tst_PaletteFiles : public QObject
+class TestPaletteFiles : public QObject
 {
     Q_OBJECT
 
@@ -136,7 +136,7 @@ private slots:
     void brokenBytes();
 };
 
-void tst_PaletteFiles::read_data()
+void TestPaletteFiles::read_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("format");
@@ -199,7 +199,7 @@ void tst_PaletteFiles::read_data()
     row("ACO, more than there are", words({1, 0xFFFF}), "ACO", {{1, black}, {255, black}});
 }
 
-void tst_PaletteFiles::read()
+void TestPaletteFiles::read()
 {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QByteArray, format);
@@ -213,7 +213,7 @@ void tst_PaletteFiles::read()
     }
 }
 
-void tst_PaletteFiles::refuse_data()
+void TestPaletteFiles::refuse_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("format");
@@ -232,7 +232,7 @@ void tst_PaletteFiles::refuse_data()
     QTest::newRow("no image") << QByteArray("hello, image") << QByteArray("PNG");
 }
 
-void tst_PaletteFiles::refuse()
+void TestPaletteFiles::refuse()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(const QByteArray, format);
@@ -251,7 +251,7 @@ void tst_PaletteFiles::refuse()
     QVERIFY(!object.toFile(&buffer, "ACT"));
 }
 
-void tst_PaletteFiles::imagesGiveTheirPalette_data()
+void TestPaletteFiles::imagesGiveTheirPalette_data()
 {
     QTest::addColumn<QByteArray>("format");
     for (const char* format : {"PNG", "BMP", "PCX", "GIF"}) {
@@ -259,7 +259,7 @@ void tst_PaletteFiles::imagesGiveTheirPalette_data()
     }
 }
 
-void tst_PaletteFiles::imagesGiveTheirPalette()
+void TestPaletteFiles::imagesGiveTheirPalette()
 {
     QFETCH(const QByteArray, format);
     QImage indexed(4, 4, QImage::Format_Indexed8);
@@ -292,7 +292,7 @@ void tst_PaletteFiles::imagesGiveTheirPalette()
     }
 }
 
-void tst_PaletteFiles::extensions()
+void TestPaletteFiles::extensions()
 {
     Loader failing(false, 1);
     Loader working(true, 2);
@@ -306,7 +306,7 @@ void tst_PaletteFiles::extensions()
     list.clear();
 }
 
-void tst_PaletteFiles::actRoundTrip()
+void TestPaletteFiles::actRoundTrip()
 {
     Colors256 colors;
     QVERIFY(load(act(), "ACT", colors));
@@ -319,7 +319,7 @@ void tst_PaletteFiles::actRoundTrip()
     QVERIFY(!object.toFile(&buffer, "PAL"));
 }
 
-void tst_PaletteFiles::brokenBytes_data()
+void TestPaletteFiles::brokenBytes_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("format");
@@ -332,7 +332,7 @@ void tst_PaletteFiles::brokenBytes_data()
 }
 
 /// Whatever the bytes, a palette is either left alone or one of a file.
-void tst_PaletteFiles::brokenBytes()
+void TestPaletteFiles::brokenBytes()
 {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QByteArray, format);
@@ -345,6 +345,6 @@ void tst_PaletteFiles::brokenBytes()
     });
 }
 
-QTEST_GUILESS_MAIN(tst_PaletteFiles)
+QTEST_GUILESS_MAIN(TestPaletteFiles)
 
 #include "tst_palettefiles.moc"

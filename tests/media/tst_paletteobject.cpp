@@ -147,7 +147,7 @@ void addColors(Entries& entries, const Input& input)
 Q_DECLARE_METATYPE(Operation)
 Q_DECLARE_METATYPE(Model)
 
-class tst_PaletteObject : public QObject
+class TestPaletteObject : public QObject
 {
     Q_OBJECT
 
@@ -163,7 +163,7 @@ private slots:
     void addHueSaturation();
 };
 
-void tst_PaletteObject::models_data()
+void TestPaletteObject::models_data()
 {
     QTest::addColumn<Operation>("operation");
     QTest::addColumn<Model>("model");
@@ -219,7 +219,7 @@ void tst_PaletteObject::models_data()
         "sortByTones", [](auto& o, auto&) { o.sortByTones(); }, sortByTones);
 }
 
-void tst_PaletteObject::models()
+void TestPaletteObject::models()
 {
     QFETCH(const Operation, operation);
     QFETCH(const Model, model);
@@ -233,7 +233,7 @@ void tst_PaletteObject::models()
     }
 }
 
-void tst_PaletteObject::index_data()
+void TestPaletteObject::index_data()
 {
     QTest::addColumn<QVector<int>>("alphas");  ///< of entries as near, for an alpha of 100
     QTest::addColumn<int>("expected");
@@ -245,7 +245,7 @@ void tst_PaletteObject::index_data()
     QTest::newRow("far above takes from just below") << QVector<int>{99, 255, 101} << 3;
 }
 
-void tst_PaletteObject::index()
+void TestPaletteObject::index()
 {
     QFETCH(const QVector<int>, alphas);
     RGBA palette[256];
@@ -256,7 +256,7 @@ void tst_PaletteObject::index()
     QTEST(int(PaletteObject(palette).index({10, 20, 30, 100})), "expected");
 }
 
-void tst_PaletteObject::effects_data()
+void TestPaletteObject::effects_data()
 {
     QTest::addColumn<QVector<int>>("dark");    ///< of 30, 60, 100
     QTest::addColumn<QVector<int>>("bright");  ///< of 250, 200, 120
@@ -275,7 +275,7 @@ void tst_PaletteObject::effects_data()
     }
 }
 
-void tst_PaletteObject::effects()
+void TestPaletteObject::effects()
 {
     QFETCH(const QVector<int>, dark);
     QFETCH(const QVector<int>, bright);
@@ -292,7 +292,7 @@ void tst_PaletteObject::effects()
              text(expected));
 }
 
-void tst_PaletteObject::addHueSaturation_data()
+void TestPaletteObject::addHueSaturation_data()
 {
     QTest::addColumn<QColor>("before");
     QTest::addColumn<int>("hue");
@@ -306,7 +306,7 @@ void tst_PaletteObject::addHueSaturation_data()
     QTest::newRow("gray to red") << QColor(128, 128, 128) << 0 << 30000 << QColor(255, 1, 1);
 }
 
-void tst_PaletteObject::addHueSaturation()
+void TestPaletteObject::addHueSaturation()
 {
     QFETCH(const QColor, before);
     QFETCH(const QColor, after);
@@ -325,6 +325,6 @@ void tst_PaletteObject::addHueSaturation()
              text(expected));
 }
 
-QTEST_GUILESS_MAIN(tst_PaletteObject)
+QTEST_GUILESS_MAIN(TestPaletteObject)
 
 #include "tst_paletteobject.moc"

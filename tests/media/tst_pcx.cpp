@@ -97,7 +97,7 @@ QPCXHeader headerOf(int width, int height, int planes = 1, int bits = 8)
 
 }  // namespace
 
-class tst_Pcx : public QObject
+class TestPcx : public QObject
 {
     Q_OBJECT
 
@@ -114,7 +114,7 @@ private slots:
     void otherPrograms();
 };
 
-void tst_Pcx::roundTrip()
+void TestPcx::roundTrip()
 {
     QRandomGenerator random(seed);
     for (const int width : {1, 2, 7, 63, 64, 200}) {
@@ -135,7 +135,7 @@ void tst_Pcx::roundTrip()
     QVERIFY(saved(QImage(65536, 1, QImage::Format_Indexed8)).isEmpty());
 }
 
-void tst_Pcx::palettes_data()
+void TestPcx::palettes_data()
 {
     QTest::addColumn<QByteArray>("behind");
     QTest::addColumn<int>("colors");
@@ -150,7 +150,7 @@ void tst_Pcx::palettes_data()
     QTest::newRow("bytes between, red of 12") << "between\x0C\x0C" + colors.mid(1) << 256 << false;
 }
 
-void tst_Pcx::palettes()
+void TestPcx::palettes()
 {
     QFETCH(QByteArray, behind);
     QFETCH(int, colors);
@@ -165,7 +165,7 @@ void tst_Pcx::palettes()
     QCOMPARE(differenceOf(file), QString());
 }
 
-void tst_Pcx::forms_data()
+void TestPcx::forms_data()
 {
     QTest::addColumn<int>("planes");
     QTest::addColumn<int>("bits");
@@ -179,7 +179,7 @@ void tst_Pcx::forms_data()
 }
 
 /// Odd numbers of planes, of bytes a line and runs that reach over both.
-void tst_Pcx::forms()
+void TestPcx::forms()
 {
     QFETCH(int, planes);
     QFETCH(int, bits);
@@ -200,7 +200,7 @@ void tst_Pcx::forms()
     }
 }
 
-void tst_Pcx::brokenFiles()
+void TestPcx::brokenFiles()
 {
     QRandomGenerator random(seed);
     QVector<QImage> seeds = {colored(QImage::Format_RGB32, 5, 2, random),
@@ -212,7 +212,7 @@ void tst_Pcx::brokenFiles()
     }
 }
 
-void tst_Pcx::refused_data()
+void TestPcx::refused_data()
 {
     QTest::addColumn<QByteArray>("file");
     const QByteArray bytes(900, '\xFF');
@@ -234,7 +234,7 @@ void tst_Pcx::refused_data()
     QTest::newRow("no planes") << fileOf(headerOf(4, 4, 0), bytes);
 }
 
-void tst_Pcx::refused()
+void TestPcx::refused()
 {
     QFETCH(QByteArray, file);
     QBuffer buffer;
@@ -245,7 +245,7 @@ void tst_Pcx::refused()
 }
 
 /// ImageMagick and Netpbm read what is written here, and write what is read here.
-void tst_Pcx::otherPrograms()
+void TestPcx::otherPrograms()
 {
     QTemporaryDir folder;
     const auto run = [&](const QString& command) {
@@ -279,5 +279,5 @@ void tst_Pcx::otherPrograms()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_Pcx)
+QTEST_APPLESS_MAIN(TestPcx)
 #include "tst_pcx.moc"

@@ -120,7 +120,7 @@ private:
 
 }  // namespace
 
-class tst_PixelCodecs : public QObject
+class TestPixelCodecs : public QObject
 {
     Q_OBJECT
 
@@ -145,7 +145,7 @@ private:
     static void addCodecs();
 };
 
-void tst_PixelCodecs::addCodecs()
+void TestPixelCodecs::addCodecs()
 {
     QTest::addColumn<int>("codec");
     for (int i = 0; i < int(std::size(codecs)); ++i) {
@@ -153,7 +153,7 @@ void tst_PixelCodecs::addCodecs()
     }
 }
 
-void tst_PixelCodecs::writers_data()
+void TestPixelCodecs::writers_data()
 {
     QTest::addColumn<int>("codec");
     QTest::addColumn<int>("kind");
@@ -166,7 +166,7 @@ void tst_PixelCodecs::writers_data()
     }
 }
 
-void tst_PixelCodecs::writers()
+void TestPixelCodecs::writers()
 {
     QFETCH(int, codec);
     QFETCH(int, kind);
@@ -190,7 +190,7 @@ void tst_PixelCodecs::writers()
     }
 }
 
-void tst_PixelCodecs::matches()
+void TestPixelCodecs::matches()
 {
     QRandomGenerator random(seed);
     for (int round = 0; round < 40; ++round) {
@@ -207,7 +207,7 @@ void tst_PixelCodecs::matches()
     }
 }
 
-void tst_PixelCodecs::streams_data()
+void TestPixelCodecs::streams_data()
 {
     QTest::addColumn<int>("codec");
     QTest::addColumn<QByteArray>("pixels");
@@ -233,7 +233,7 @@ void tst_PixelCodecs::streams_data()
     row("RLE8: pairs", 2, QByteArray::fromHex("c8c8404040"), "42 c8 43 40");
 }
 
-void tst_PixelCodecs::streams()
+void TestPixelCodecs::streams()
 {
     QFETCH(int, codec);
     QFETCH(QByteArray, pixels);
@@ -243,7 +243,7 @@ void tst_PixelCodecs::streams()
              bytes.toHex(' '));
 }
 
-void tst_PixelCodecs::brokenStreams()
+void TestPixelCodecs::brokenStreams()
 {
     QFETCH(int, codec);
     QRandomGenerator random(seed);
@@ -255,7 +255,7 @@ void tst_PixelCodecs::brokenStreams()
     }
 }
 
-void tst_PixelCodecs::randomStreams()
+void TestPixelCodecs::randomStreams()
 {
     QFETCH(int, codec);
     QRandomGenerator random(seed);
@@ -272,7 +272,7 @@ void tst_PixelCodecs::randomStreams()
 }
 
 /// Three bytes a pixel are read into an image of `Format_RGB32`, whose lines have four.
-void tst_PixelCodecs::widePixels()
+void TestPixelCodecs::widePixels()
 {
     QImage image(3, 2, QImage::Format_RGB32);
     memset(image.bits(), Untouched, size_t(image.sizeInBytes()));
@@ -287,7 +287,7 @@ void tst_PixelCodecs::widePixels()
 }
 
 /// Lines that have fewer bytes than pixels, or none: nothing is read or written beside them.
-void tst_PixelCodecs::formsWithoutBytes()
+void TestPixelCodecs::formsWithoutBytes()
 {
     QFETCH(int, codec);
     for (QImage image :
@@ -302,7 +302,7 @@ void tst_PixelCodecs::formsWithoutBytes()
     }
 }
 
-void tst_PixelCodecs::devices()
+void TestPixelCodecs::devices()
 {
     QFETCH(int, codec);
     const Codec& it = codecs[codec];
@@ -331,5 +331,5 @@ void tst_PixelCodecs::devices()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_PixelCodecs)
+QTEST_APPLESS_MAIN(TestPixelCodecs)
 #include "tst_pixelcodecs.moc"

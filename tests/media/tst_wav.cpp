@@ -99,7 +99,7 @@ void runSox(const QTemporaryDir& folder, const QString& words)
 
 }  // namespace
 
-class tst_WAV : public QObject
+class TestWAV : public QObject
 {
     Q_OBJECT
 
@@ -116,7 +116,7 @@ private slots:
     void wholeWhateverTheSizes();
 };
 
-void tst_WAV::filesOfSox_data()
+void TestWAV::filesOfSox_data()
 {
     QTest::addColumn<int>("bits");
     QTest::addColumn<int>("channels");
@@ -128,7 +128,7 @@ void tst_WAV::filesOfSox_data()
 }
 
 /// The samples are those that sox writes without a header, and sox reads what is written here.
-void tst_WAV::filesOfSox()
+void TestWAV::filesOfSox()
 {
     QFETCH(const int, bits);
     QFETCH(const int, channels);
@@ -159,7 +159,7 @@ void tst_WAV::filesOfSox()
     QCOMPARE(fileBytes(folder.filePath(QStringLiteral("b.wav.raw"))), samples);
 }
 
-void tst_WAV::byHand_data()
+void TestWAV::byHand_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("sound");
@@ -198,7 +198,7 @@ void tst_WAV::byHand_data()
     row("nothing", {}, none, {}, none);
 }
 
-void tst_WAV::byHand()
+void TestWAV::byHand()
 {
     QFETCH(const QByteArray, bytes);
     const SoundSample sample = read(bytes);
@@ -208,7 +208,7 @@ void tst_WAV::byHand()
 }
 
 /// Sizes of four billion are cut to the bytes that are there.
-void tst_WAV::hugeSizes()
+void TestWAV::hugeSizes()
 {
     QByteArray bytes = riff(format(1, 1, 8) + "data" + little(~0U) + "1234567");
     bytes.replace(4, 4, little(~0U));
@@ -219,7 +219,7 @@ void tst_WAV::hugeSizes()
     QVERIFY(sample.data.capacity() < 100);
 }
 
-void tst_WAV::longSoundsAreSearchedInPieces()
+void TestWAV::longSoundsAreSearchedInPieces()
 {
     for (int length = 65536 - 50; length < 65536 + 10; ++length) {
         const QByteArray bytes =
@@ -228,7 +228,7 @@ void tst_WAV::longSoundsAreSearchedInPieces()
     }
 }
 
-void tst_WAV::failingDevices()
+void TestWAV::failingDevices()
 {
     QCOMPARE(written({}).size(), 44);
     SoundSample sample;
@@ -248,7 +248,7 @@ void tst_WAV::failingDevices()
     QVERIFY(!Zorv::soundToWAV(sample, &readOnly));
 }
 
-void tst_WAV::gateways()
+void TestWAV::gateways()
 {
     SoundSample sample;
     sample.data = "data";
@@ -270,7 +270,7 @@ void tst_WAV::gateways()
     QVERIFY(!Zorv::loadSound(&buffer, "WAV", loaded));
 }
 
-void tst_WAV::brokenBytes()
+void TestWAV::brokenBytes()
 {
     const QByteArray whole =
         riff(format(1, 2, 16) + chunk("LIST", "some") + chunk("data", "12345678"));
@@ -290,7 +290,7 @@ void tst_WAV::brokenBytes()
 }
 
 /// All samples are found where programs that record without an end left the sizes.
-void tst_WAV::wholeWhateverTheSizes()
+void TestWAV::wholeWhateverTheSizes()
 {
     const QByteArray samples(800, 'x');
     const QByteArray bytes =
@@ -311,6 +311,6 @@ void tst_WAV::wholeWhateverTheSizes()
     QCOMPARE(contents(riff(format(65534, 2, 16) + chunk("data", samples))).formatTag, 65534);
 }
 
-QTEST_GUILESS_MAIN(tst_WAV)
+QTEST_GUILESS_MAIN(TestWAV)
 
 #include "tst_wav.moc"

@@ -13,6 +13,7 @@
 #include <functional>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 

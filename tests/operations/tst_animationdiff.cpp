@@ -5,6 +5,7 @@
 #include <QtTest>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include <QtTest>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 

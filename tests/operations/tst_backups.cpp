@@ -1,6 +1,5 @@
 #include "operations/backups.h"
 
-#include "core/progressreporter.h"
 #include "family/check/check.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
@@ -8,16 +7,18 @@
 #include "operations/hostinterface.h"
 #include "operations/sharedfiles.h"
 
+#include <zorv/core/progressreporter.h>
+
 #include <QTemporaryDir>
 #include <QTextCursor>
 #include <QtTest>
-
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <memory>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 

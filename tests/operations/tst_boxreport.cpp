@@ -11,6 +11,7 @@
 #include <memory>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 

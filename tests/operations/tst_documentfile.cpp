@@ -1,18 +1,19 @@
 #include "operations/documentfile.h"
 
-#include "code/codecs/textcodecs.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
 #include "operations/hostinterface.h"
 #include "support/planneddialogs.h"
 
+#include <zorv/code/codecs/textcodecs.h>
+
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
-
 #include <memory>
 
 using namespace Family;
+using namespace Operations;
 using Zorv::TextCodecs;
 
 namespace {

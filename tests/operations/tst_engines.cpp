@@ -7,6 +7,7 @@
 #include <QtTest>
 
 using namespace Family;
+using namespace Operations;
 using Zorv::EngineInfo;
 
 namespace {

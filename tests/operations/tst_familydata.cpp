@@ -1,7 +1,8 @@
-#include "core/files.h"
 #include "family/completer/completerfile.h"
 #include "family/project/familyenginemodel.h"
 #include "operations/familydata.h"
+
+#include <zorv/core/files.h>
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -9,6 +10,7 @@
 #include <QtTest>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 

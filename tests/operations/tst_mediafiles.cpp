@@ -15,6 +15,7 @@
 #include <atomic>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 
@@ -140,7 +141,7 @@ void TestMediaFiles::places()
     OutputRequest request;
     request.place = place;
     request.format = format;
-    Family::MediaResult refusal;
+    Operations::MediaResult refusal;
     QCOMPARE(outputs.plan(names.split(' '), request, {}, &refusal), !paths.isEmpty());
     QVERIFY(!refusal.isTaken);
     QStringList planned;
@@ -154,7 +155,7 @@ void TestMediaFiles::nothingIsReplaced()
 {
     OutputFiles outputs;
     OutputRequest request;
-    Family::MediaResult refusal;
+    Operations::MediaResult refusal;
     QVERIFY(!outputs.plan({"a/y.pcx"}, request, {}, &refusal) && refusal.isTaken);
     request.force = true;
     QVERIFY(outputs.plan({"a/y.pcx"}, request, {}, &refusal));

@@ -1,17 +1,18 @@
 #include "operations/nodetree.h"
 
-#include "code/codedoc/parentcode.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
 #include "operations/documentfile.h"
 #include "operations/hostinterface.h"
 
+#include <zorv/code/codedoc/parentcode.h>
+
 #include <QDirIterator>
 #include <QtTest>
-
 #include <memory>
 
 using namespace Family;
+using namespace Operations;
 
 // Every code file of the samples, the sound ones and the broken ones.
 class TestNodeTree : public QObject

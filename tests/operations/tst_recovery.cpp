@@ -18,6 +18,7 @@
 #include <sys/resource.h>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 

@@ -1,9 +1,10 @@
-#include "editors/snipman/snipdlg.h"
-#include "editors/snipman/snippetmanager.h"
 #include "family/check/check.h"
 #include "family/data/snippettexts.h"
 #include "operations/hostinterface.h"
 #include "support/planneddialogs.h"
+
+#include <zorv/editors/snipman/snipdlg.h>
+#include <zorv/editors/snipman/snippetmanager.h>
 
 #include <QApplication>
 #include <QDialog>
@@ -191,7 +192,7 @@ private:
         return entries;
     }
 
-    Family::HostInterface m_host;
+    Operations::HostInterface m_host;
     PlannedDialogs m_dialogs;
 };
 

@@ -1,24 +1,24 @@
+#include "family/assets/newsprites.h"
+#include "family/assets/spritecollection.h"
+#include "operations/hostinterface.h"
+#include "operations/media/imagefiles.h"
 #include "operations/media/spriteexport.h"
 #include "operations/media/spriteimport.h"
 #include "operations/media/spritesheet.h"
 
-#include "assets/newsprites.h"
-#include "assets/spritecollection.h"
-#include "media/imagefile.h"
-#include "media/losslessimages.h"
-#include "media/pcx.h"
-#include "operations/hostinterface.h"
-#include "operations/media/imagefiles.h"
+#include <zorv/media/imagefile.h>
+#include <zorv/media/losslessimages.h>
+#include <zorv/media/pcx.h>
 
 #include <QBuffer>
 #include <QDir>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QtTest>
-
 #include <memory>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 

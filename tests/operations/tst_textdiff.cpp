@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QtTest>
 
-using namespace Family;
+using namespace Operations;
 
 namespace {
 

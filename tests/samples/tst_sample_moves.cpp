@@ -1,12 +1,12 @@
 // The sample game in itself: that its moves fit together, that it shows the whole grammar, and
 // that its files are those that the tables make.
 
-#include "grammar/grammar.h"
-#include "nodes/groupnode.h"
-#include "nodes/valuenode.h"
+#include "family/grammar/grammar.h"
+#include "family/nodes/groupnode.h"
+#include "family/nodes/valuenode.h"
 #include "samplefiles.h"
 
-#include "code/codecs/textcodecs.h"
+#include <zorv/code/codecs/textcodecs.h>
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -14,7 +14,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
-
 #include <functional>
 
 using namespace Family;

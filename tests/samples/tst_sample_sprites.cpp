@@ -1,24 +1,23 @@
 // The pictures and sounds of the sample game as the library reads them. They were written by the
 // script, which knows the formats by itself: what both agree on is what the docs tell.
 
-#include "assets/familysound.h"
-#include "assets/familysprite.h"
-#include "assets/newsprites.h"
-#include "assets/soundfile.h"
-#include "assets/spritecollection.h"
-#include "code/codecs/textcodecs.h"
-#include "core/filesystemarchive.h"
-#include "media/losslessimages.h"
-#include "media/paletteobject.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
+#include "family/assets/familysound.h"
+#include "family/assets/familysprite.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
 #include "samplefiles.h"
 #include "support/testinterface.h"
 
-#include "code/codedoc/contactboxescode.h"
+#include <zorv/code/codecs/textcodecs.h>
+#include <zorv/code/codedoc/contactboxescode.h>
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/losslessimages.h>
+#include <zorv/media/paletteobject.h>
 
 #include <QtTest>
-
 #include <functional>
 
 using namespace Family;

@@ -1,8 +1,9 @@
 // The sample games against the checks: one without a problem, one with every problem there is.
 
-#include "check/check.h"
-#include "code/codecs/textcodecs.h"
+#include "family/check/check.h"
 #include "samplefiles.h"
+
+#include <zorv/code/codecs/textcodecs.h>
 
 #include <QRegularExpression>
 #include <QtTest>

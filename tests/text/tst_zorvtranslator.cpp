@@ -33,7 +33,7 @@ QString tip(unsigned id)
 
 }  // namespace
 
-class ZorvTranslatorTest : public QObject
+class TestZorvTranslator : public QObject
 {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ private slots:
     void menuFollowsLanguage();
 };
 
-void ZorvTranslatorTest::tables()
+void TestZorvTranslator::tables()
 {
     QVERIFY(label(172).isEmpty() && tip(0).isEmpty() && tip(156).isEmpty());
     // Every number has a label; some share that of another, by up to two steps.
@@ -60,7 +60,7 @@ void ZorvTranslatorTest::tables()
     QCOMPARE(tip(64), QStringLiteral("Remove all Contact boxs of current animation"));
 }
 
-void ZorvTranslatorTest::menuFollowsLanguage()
+void TestZorvTranslator::menuFollowsLanguage()
 {
     QMenu menu;
     menu.setWhatsThis(QStringLiteral("old"));
@@ -79,5 +79,5 @@ void ZorvTranslatorTest::menuFollowsLanguage()
     QCOMPARE(label(105), QStringLiteral("Add"));
 }
 
-QTEST_MAIN(ZorvTranslatorTest)
+QTEST_MAIN(TestZorvTranslator)
 #include "tst_zorvtranslator.moc"

@@ -3,13 +3,13 @@
 #include "app/controls/activeareas.h"
 #include "app/controls/areagate.h"
 #include "app/look/icon.h"
-#include "core/interface.h"
+
+#include <zorv/core/interface.h>
 
 #include <QAction>
 #include <QHash>
 #include <QIcon>
 #include <QMenu>
-
 #include <algorithm>
 
 namespace App {
@@ -42,7 +42,7 @@ const struct
     {"stop_engine", "stop"},
     {"restore_backup", "restore"},
     {"save_all_as", "save_as"},
-    {"palette", "find"},
+    {"search_actions", "find"},
 };
 
 QString pictureOf(const QString& name)

@@ -1,6 +1,6 @@
 #include "app/actions/actiontable.h"
 
-#include "app/actions/actionpalette.h"
+#include "app/actions/actionsearch.h"
 #include "app/actions/keysdialog.h"
 #include "app/assets/soundcommands.h"
 #include "app/assets/spritecommands.h"
@@ -13,8 +13,9 @@
 #include "app/run/runcommands.h"
 #include "app/settings/showsettings.h"
 #include "app/stage/stagecommands.h"
-#include "editors/code/codeeditor.h"
-#include "editors/code/codeworkspace.h"
+
+#include <zorv/editors/code/codeeditor.h>
+#include <zorv/editors/code/codeworkspace.h>
 
 namespace App {
 
@@ -203,7 +204,7 @@ const QVector<ActionRow>& actionTable()
         {"run",            "tools", QT_TRANSLATE_NOOP("App::Actions", "R&un in engine"),                 NoKey,        "F5",           NeedsProject | NeedsNoEngine, onEngine<&RunCommands::run>},
         {"stop_engine",    "tools", QT_TRANSLATE_NOOP("App::Actions", "&End the engine"),                NoKey,        "Shift+F5",     NeedsEngine,     onEngine<&RunCommands::stop>},
         {nullptr,          "tools", nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
-        {"palette",        "tools", QT_TRANSLATE_NOOP("App::Actions", "&Find action..."),                NoKey,        "Ctrl+Shift+P", NoNeed,          showPalette},
+        {"search_actions", "tools", QT_TRANSLATE_NOOP("App::Actions", "&Find action..."),                NoKey,        "Ctrl+Shift+P", NoNeed,          searchActions},
         {nullptr,          "tools", nullptr,                                                             NoKey,        nullptr,        NoNeed,          nullptr},
         {"settings",       "tools", QT_TRANSLATE_NOOP("App::Actions", "&Options..."),                    NoKey,        "Ctrl+,",       NoNeed,          showSettings},
 

@@ -46,7 +46,7 @@ QByteArray manyWords(int count, const QByteArray& trigger)
 }  // namespace
 
 /// The popup on the screen, by the keys of a person.
-class CodeCompletionTest : public QObject
+class TestCodeCompletion : public QObject
 {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ private:
     std::unique_ptr<CodeEditor> editor;
 };
 
-void CodeCompletionTest::init()
+void TestCodeCompletion::init()
 {
     document = std::make_unique<GrammarDocument>();
     editor = std::make_unique<CodeEditor>();
@@ -97,32 +97,32 @@ void CodeCompletionTest::init()
     QCOMPARE(editor->completerError(), QString());
 }
 
-void CodeCompletionTest::cleanup()
+void TestCodeCompletion::cleanup()
 {
     editor.reset();
     document.reset();
 }
 
-bool CodeCompletionTest::load(const QByteArray& content)
+bool TestCodeCompletion::load(const QByteArray& content)
 {
     QFile file(folder.filePath(QStringLiteral("completer.xml")));
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
            (file.close(), editor->completerFromFile(file.fileName()));
 }
 
-void CodeCompletionTest::start(const QString& text)
+void TestCodeCompletion::start(const QString& text)
 {
     document->setPlainText(text);
     editor->moveCursor(QTextCursor::End);
 }
 
 /// Keys go where Qt sends them: to the popup while it is open.
-QWidget* CodeCompletionTest::target() const
+QWidget* TestCodeCompletion::target() const
 {
     return popup()->isVisible() ? static_cast<QWidget*>(popup()) : editor.get();
 }
 
-QStringList CodeCompletionTest::shown() const
+QStringList TestCodeCompletion::shown() const
 {
     QStringList rows;
     for (int i = 0; popup()->isVisible() && i < popup()->model()->rowCount(); ++i) {
@@ -131,7 +131,7 @@ QStringList CodeCompletionTest::shown() const
     return rows;
 }
 
-void CodeCompletionTest::opens_data()
+void TestCodeCompletion::opens_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("keys");
@@ -172,7 +172,7 @@ void CodeCompletionTest::opens_data()
                                  << "m" << groups;
 }
 
-void CodeCompletionTest::opens()
+void TestCodeCompletion::opens()
 {
     QFETCH(QString, before);
     QFETCH(QString, keys);
@@ -184,7 +184,7 @@ void CodeCompletionTest::opens()
     QCOMPARE(text(), before + keys);
 }
 
-void CodeCompletionTest::popupKeys_data()
+void TestCodeCompletion::popupKeys_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
@@ -201,7 +201,7 @@ void CodeCompletionTest::popupKeys_data()
     QTest::newRow("a key without a text") << int(Qt::Key_Left) << 0 << "[mo" << false;
 }
 
-void CodeCompletionTest::popupKeys()
+void TestCodeCompletion::popupKeys()
 {
     QFETCH(int, key);
     QFETCH(int, modifiers);
@@ -214,7 +214,7 @@ void CodeCompletionTest::popupKeys()
     QTEST(popup()->isVisible(), "isOpen");
 }
 
-void CodeCompletionTest::wordsFollowThePrefix()
+void TestCodeCompletion::wordsFollowThePrefix()
 {
     start(QStringLiteral("air="));
     type(QStringLiteral(" "));
@@ -230,7 +230,7 @@ void CodeCompletionTest::wordsFollowThePrefix()
     QCOMPARE(text(), QStringLiteral("air= only"));
 }
 
-void CodeCompletionTest::descriptionsStandInThePopup()
+void TestCodeCompletion::descriptionsStandInThePopup()
 {
     start(QStringLiteral("air="));
     type(QStringLiteral(" "));
@@ -254,7 +254,7 @@ void CodeCompletionTest::descriptionsStandInThePopup()
     QVERIFY(inked > 10);
 }
 
-void CodeCompletionTest::hostOpensIt()
+void TestCodeCompletion::hostOpensIt()
 {
     CompletionModel model;
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -275,7 +275,7 @@ void CodeCompletionTest::hostOpensIt()
     QVERIFY(!popup()->isVisible());
 }
 
-void CodeCompletionTest::modelsGoUnderThePopup()
+void TestCodeCompletion::modelsGoUnderThePopup()
 {
     auto model = std::make_unique<CompletionModel>();
     model->setWords({{"alpha", {}}, {"beta", {}}});
@@ -296,7 +296,7 @@ void CodeCompletionTest::modelsGoUnderThePopup()
     QCOMPARE(shown(), QStringList(QStringLiteral("new")));
 }
 
-void CodeCompletionTest::documentsGoUnderThePopup()
+void TestCodeCompletion::documentsGoUnderThePopup()
 {
     for (const bool swap : {true, false}) {
         start(QStringLiteral("["));
@@ -314,7 +314,7 @@ void CodeCompletionTest::documentsGoUnderThePopup()
     }
 }
 
-void CodeCompletionTest::readOnlyStaysWhole()
+void TestCodeCompletion::readOnlyStaysWhole()
 {
     start(QStringLiteral("["));
     type(QStringLiteral("m"));
@@ -323,7 +323,7 @@ void CodeCompletionTest::readOnlyStaysWhole()
     QCOMPARE(text(), QStringLiteral("[m"));
 }
 
-void CodeCompletionTest::brokenFiles_data()
+void TestCodeCompletion::brokenFiles_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("place");
@@ -348,7 +348,7 @@ void CodeCompletionTest::brokenFiles_data()
     QTest::newRow("long") << rootOf(QByteArray(5 << 20, ' ')) << "MiB";
 }
 
-void CodeCompletionTest::brokenFiles()
+void TestCodeCompletion::brokenFiles()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, place);
@@ -363,7 +363,7 @@ void CodeCompletionTest::brokenFiles()
 }
 
 /// What a later version of the format may have is passed over.
-void CodeCompletionTest::missingFileHasNoWords()
+void TestCodeCompletion::missingFileHasNoWords()
 {
     QVERIFY(
         load(rootOf("<later><words trigger=\"[m\"/></later>"
@@ -381,5 +381,5 @@ void CodeCompletionTest::missingFileHasNoWords()
     QVERIFY(!popup()->isVisible());
 }
 
-QTEST_MAIN(CodeCompletionTest)
+QTEST_MAIN(TestCodeCompletion)
 #include "tst_codecompletion.moc"

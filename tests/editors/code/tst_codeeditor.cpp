@@ -59,7 +59,7 @@ public:
 }  // namespace
 
 /// Places, pointer, tips and documents of the code editor; its parts have tests of their own.
-class CodeEditorTest : public QObject
+class TestCodeEditor : public QObject
 {
     Q_OBJECT
 
@@ -84,7 +84,7 @@ private slots:
     void clickOnHalfALine();
 };
 
-void CodeEditorTest::putsLinesIntoTheView_data()
+void TestCodeEditor::putsLinesIntoTheView_data()
 {
     QTest::addColumn<bool>("folded");
     QTest::addColumn<int>("line");
@@ -100,7 +100,7 @@ void CodeEditorTest::putsLinesIntoTheView_data()
     QTest::newRow("middle, in a fold") << true << 555 << int(CodeEditor::CenterLine) << 0.5;
 }
 
-void CodeEditorTest::putsLinesIntoTheView()
+void TestCodeEditor::putsLinesIntoTheView()
 {
     QFETCH(bool, folded);
     QFETCH(int, line);
@@ -125,7 +125,7 @@ void CodeEditorTest::putsLinesIntoTheView()
     }
 }
 
-void CodeEditorTest::goesToAPlace()
+void TestCodeEditor::goesToAPlace()
 {
     ShownEditor shown(groups(5));
     QSignalSpy spy(&shown.editor, &CodeEditor::cursorChanged);
@@ -144,7 +144,7 @@ void CodeEditorTest::goesToAPlace()
     QVERIFY(shown.editor.textCursor().atEnd());
 }
 
-void CodeEditorTest::firstMessageIsTheTip()
+void TestCodeEditor::firstMessageIsTheTip()
 {
     ShownEditor shown(QStringLiteral("#\n?e <b>x</b>\n?w"));
     const auto tip = [&](int line, int column) {
@@ -158,7 +158,7 @@ void CodeEditorTest::firstMessageIsTheTip()
     QTRY_VERIFY((tip(0, 0), !QToolTip::isVisible()));
 }
 
-void CodeEditorTest::controlSwallowsTheTip()
+void TestCodeEditor::controlSwallowsTheTip()
 {
     ShownEditor shown(QStringLiteral("?w"));
     QTest::keyPress(&shown.editor, Qt::Key_Control, Qt::ControlModifier);
@@ -166,7 +166,7 @@ void CodeEditorTest::controlSwallowsTheTip()
     QVERIFY(QCoreApplication::sendEvent(shown.viewport(), &event));
 }
 
-void CodeEditorTest::menuTakesTheCursorAlong_data()
+void TestCodeEditor::menuTakesTheCursorAlong_data()
 {
     QTest::addColumn<int>("reason");
     QTest::addColumn<bool>("selected");
@@ -176,7 +176,7 @@ void CodeEditorTest::menuTakesTheCursorAlong_data()
     QTest::newRow("keyboard") << int(QContextMenuEvent::Keyboard) << false << 0;
 }
 
-void CodeEditorTest::menuTakesTheCursorAlong()
+void TestCodeEditor::menuTakesTheCursorAlong()
 {
     QFETCH(int, reason);
     QFETCH(bool, selected);
@@ -193,7 +193,7 @@ void CodeEditorTest::menuTakesTheCursorAlong()
     QTEST(shown.editor.textCursor().blockNumber(), "expected");
 }
 
-void CodeEditorTest::typingHidesThePointer()
+void TestCodeEditor::typingHidesThePointer()
 {
     ShownEditor shown(QStringLiteral("[1]\na=1"));
     const auto pointer = [&] { return shown.viewport()->cursor().shape(); };
@@ -209,7 +209,7 @@ void CodeEditorTest::typingHidesThePointer()
     QCOMPARE(pointer(), Qt::IBeamCursor);
 }
 
-void CodeEditorTest::insertTogglesOverwriting()
+void TestCodeEditor::insertTogglesOverwriting()
 {
     ShownEditor shown(QStringLiteral("#bcd"));
     QTest::keyClick(&shown.editor, Qt::Key_Insert);
@@ -224,7 +224,7 @@ void CodeEditorTest::insertTogglesOverwriting()
     QCOMPARE(shown.document.text(), QStringLiteral("xyzpcd"));
 }
 
-void CodeEditorTest::lineEndsAreLineEnds()
+void TestCodeEditor::lineEndsAreLineEnds()
 {
     ShownEditor shown(QStringLiteral("ab"));
     shown.putCursor(0, 1);
@@ -236,7 +236,7 @@ void CodeEditorTest::lineEndsAreLineEnds()
     QCOMPARE(shown.document.blockCount(), 2);
 }
 
-void CodeEditorTest::readingAgainKeepsThePlace_data()
+void TestCodeEditor::readingAgainKeepsThePlace_data()
 {
     QTest::addColumn<QString>("newText");
     QTest::addColumn<int>("line");
@@ -250,7 +250,7 @@ void CodeEditorTest::readingAgainKeepsThePlace_data()
     QTest::newRow("nothing") << QString() << 0 << 0;
 }
 
-void CodeEditorTest::readingAgainKeepsThePlace()
+void TestCodeEditor::readingAgainKeepsThePlace()
 {
     QFETCH(QString, newText);
     QFETCH(int, line);
@@ -278,7 +278,7 @@ void CodeEditorTest::readingAgainKeepsThePlace()
     }
 }
 
-void CodeEditorTest::documentsGoUnderTheHands_data()
+void TestCodeEditor::documentsGoUnderTheHands_data()
 {
     QTest::addColumn<QString>("how");
     QTest::newRow("swapped") << "swap";
@@ -289,7 +289,7 @@ void CodeEditorTest::documentsGoUnderTheHands_data()
 }
 
 /// With a preview, one that waits, a drag in the gutter, and all timers running.
-void CodeEditorTest::documentsGoUnderTheHands()
+void TestCodeEditor::documentsGoUnderTheHands()
 {
     QFETCH(QString, how);
     OpenFile open(groups(3));
@@ -333,7 +333,7 @@ void CodeEditorTest::documentsGoUnderTheHands()
     shown.editor.setDocument(nullptr);
 }
 
-void CodeEditorTest::outlivedByItsDocuments()
+void TestCodeEditor::outlivedByItsDocuments()
 {
     GrammarDocument first(groups(2));
     GrammarDocument second(groups(1));
@@ -352,7 +352,7 @@ void CodeEditorTest::outlivedByItsDocuments()
     again.editor.setDocument(nullptr);
 }
 
-void CodeEditorTest::copiesTheTextAsItIs()
+void TestCodeEditor::copiesTheTextAsItIs()
 {
     const QString text = QStringLiteral("a\u00a0b\nc\u2003d");
     ShownEditor shown(text);
@@ -361,7 +361,7 @@ void CodeEditorTest::copiesTheTextAsItIs()
     QCOMPARE(QGuiApplication::clipboard()->text(), text);
 }
 
-void CodeEditorTest::clickOnHalfALine_data()
+void TestCodeEditor::clickOnHalfALine_data()
 {
     QTest::addColumn<bool>("isInGutter");
     QTest::addColumn<QString>("selected");
@@ -370,7 +370,7 @@ void CodeEditorTest::clickOnHalfALine_data()
 }
 
 /// The view must not scroll between the two presses of a double click, nor when a click trembles.
-void CodeEditorTest::clickOnHalfALine()
+void TestCodeEditor::clickOnHalfALine()
 {
     QFETCH(bool, isInGutter);
     ShownEditor shown(groups(2));
@@ -394,5 +394,5 @@ void CodeEditorTest::clickOnHalfALine()
     QVERIFY(shown.editor.verticalScrollBar()->value() > 20);
 }
 
-QTEST_MAIN(CodeEditorTest)
+QTEST_MAIN(TestCodeEditor)
 #include "tst_codeeditor.moc"

@@ -53,7 +53,7 @@ public:
 
 }  // namespace
 
-class CodeFileEditorTest : public QObject
+class TestCodeFileEditor : public QObject
 {
     Q_OBJECT
 
@@ -91,7 +91,7 @@ private:
     CodeEditor* editor = nullptr;
 };
 
-void CodeFileEditorTest::init()
+void TestCodeFileEditor::init()
 {
     host = std::make_unique<Host>();
     dialogs = std::make_unique<PlannedDialogs>();
@@ -104,7 +104,7 @@ void CodeFileEditorTest::init()
     setText(QStringLiteral("[1]\na=1\nb=2\n!x\n-f\n[2]\na=3"));
 }
 
-void CodeFileEditorTest::cleanup()
+void TestCodeFileEditor::cleanup()
 {
     text.reset();
     workspace.reset();
@@ -113,7 +113,7 @@ void CodeFileEditorTest::cleanup()
     host.reset();
 }
 
-void CodeFileEditorTest::setText(const QString& content)
+void TestCodeFileEditor::setText(const QString& content)
 {
     text->deactivate();
     document = std::make_unique<GrammarDocument>(content);
@@ -123,7 +123,7 @@ void CodeFileEditorTest::setText(const QString& content)
     text->activate();
 }
 
-void CodeFileEditorTest::select(int from, int to)
+void TestCodeFileEditor::select(int from, int to)
 {
     QTextCursor cursor(document.get());
     cursor.setPosition(from);
@@ -131,12 +131,12 @@ void CodeFileEditorTest::select(int from, int to)
     editor->setTextCursor(cursor);
 }
 
-QPair<int, int> CodeFileEditorTest::selection() const
+QPair<int, int> TestCodeFileEditor::selection() const
 {
     return {editor->textCursor().selectionStart(), editor->textCursor().selectionEnd()};
 }
 
-void CodeFileEditorTest::find_data()
+void TestCodeFileEditor::find_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<unsigned>("flags");
@@ -161,7 +161,7 @@ void CodeFileEditorTest::find_data()
     QTest::newRow("nothing to look for") << "" << 0u << 2 << 4 << 2 << 4;
 }
 
-void CodeFileEditorTest::find()
+void TestCodeFileEditor::find()
 {
     QFETCH(QString, pattern);
     QFETCH(unsigned, flags);
@@ -175,7 +175,7 @@ void CodeFileEditorTest::find()
     QCOMPARE(selection(), qMakePair(start, end));
 }
 
-void CodeFileEditorTest::nothingFound()
+void TestCodeFileEditor::nothingFound()
 {
     select(3, 5);
     text->find(QStringLiteral("nowhere"), 0);
@@ -186,7 +186,7 @@ void CodeFileEditorTest::nothingFound()
     QCOMPARE(selection(), qMakePair(0, 0));
 }
 
-void CodeFileEditorTest::findUnfolds()
+void TestCodeFileEditor::findUnfolds()
 {
     editor->toggleBlockVisible(document->firstBlock());
     QVERIFY(!document->findBlockByNumber(2).isVisible());
@@ -195,7 +195,7 @@ void CodeFileEditorTest::findUnfolds()
     QCOMPARE(editor->textCursor().blockNumber(), 2);
 }
 
-void CodeFileEditorTest::findComesToTheMiddle()
+void TestCodeFileEditor::findComesToTheMiddle()
 {
     setText(QStringLiteral("# n\n").repeated(200) + QStringLiteral("[7]\n") +
             QStringLiteral("# n\n").repeated(200));
@@ -209,7 +209,7 @@ void CodeFileEditorTest::findComesToTheMiddle()
     QVERIFY2(place() >= 3 && place() <= 6, qPrintable(QString::number(place())));
 }
 
-void CodeFileEditorTest::replaceOne_data()
+void TestCodeFileEditor::replaceOne_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("with");
@@ -230,7 +230,7 @@ void CodeFileEditorTest::replaceOne_data()
                                                << "x" << Expression << 3 << 5 << "ab\nx\nab" << 0;
 }
 
-void CodeFileEditorTest::replaceOne()
+void TestCodeFileEditor::replaceOne()
 {
     QFETCH(QString, pattern);
     QFETCH(QString, with);
@@ -246,7 +246,7 @@ void CodeFileEditorTest::replaceOne()
     QCOMPARE(selection().first, start);
 }
 
-void CodeFileEditorTest::replaceAllIsOneStep()
+void TestCodeFileEditor::replaceAllIsOneStep()
 {
     const QString before = document->text();
     const QTextBlockUserData* line = document->findBlockByNumber(3).userData();
@@ -261,7 +261,7 @@ void CodeFileEditorTest::replaceAllIsOneStep()
     QCOMPARE(dialogs->count(), 0);
 }
 
-void CodeFileEditorTest::replaceAllOfNothing()
+void TestCodeFileEditor::replaceAllOfNothing()
 {
     const QString before = document->text();
     text->replace(QStringLiteral("nowhere"), QStringLiteral("x"), 0, true);
@@ -272,7 +272,7 @@ void CodeFileEditorTest::replaceAllOfNothing()
     QVERIFY(!document->isUndoAvailable());
 }
 
-void CodeFileEditorTest::statusFollowsTheCursor()
+void TestCodeFileEditor::statusFollowsTheCursor()
 {
     setText(QStringLiteral("[1]\n?e\na=1\n?e"));
     editor->toggleBlockVisible(document->firstBlock());
@@ -281,7 +281,7 @@ void CodeFileEditorTest::statusFollowsTheCursor()
     QCOMPARE(host->status(1), QStringLiteral("Syntax error count: 2"));
 }
 
-void CodeFileEditorTest::treeFollowsTheCursor()
+void TestCodeFileEditor::treeFollowsTheCursor()
 {
     const auto current = [this] {
         const QModelIndexList rows = text->tree()->selectionModel()->selectedIndexes();
@@ -307,7 +307,7 @@ void CodeFileEditorTest::treeFollowsTheCursor()
     QCOMPARE(current(), QStringLiteral("new"));
 }
 
-void CodeFileEditorTest::chosenNodeIsShown()
+void TestCodeFileEditor::chosenNodeIsShown()
 {
     QTreeView* tree = text->tree();
     const QModelIndex group = text->model()->index(2, 0);
@@ -320,7 +320,7 @@ void CodeFileEditorTest::chosenNodeIsShown()
     QCOMPARE(editor->textCursor().blockNumber(), 5);
 }
 
-void CodeFileEditorTest::modifiedIsTold()
+void TestCodeFileEditor::modifiedIsTold()
 {
     QSignalSpy modified(text.get(), &Editor::modified);
     QTest::keyClicks(editor, QStringLiteral("ab"));
@@ -330,7 +330,7 @@ void CodeFileEditorTest::modifiedIsTold()
     QVERIFY(!text->isModified());
 }
 
-void CodeFileEditorTest::inactiveTouchesNothing()
+void TestCodeFileEditor::inactiveTouchesNothing()
 {
     const QModelIndex group = text->model()->index(2, 0);
     text->deactivate();
@@ -346,7 +346,7 @@ void CodeFileEditorTest::inactiveTouchesNothing()
     QVERIFY(!document->isModified());
 }
 
-void CodeFileEditorTest::documentDiesWhileActive()
+void TestCodeFileEditor::documentDiesWhileActive()
 {
     document.reset();
     QVERIFY(!text->isActive());
@@ -361,7 +361,7 @@ void CodeFileEditorTest::documentDiesWhileActive()
 }
 
 /// What another editor has brought to the workspace stays when this one goes after it.
-void CodeFileEditorTest::documentsTakeTurns()
+void TestCodeFileEditor::documentsTakeTurns()
 {
     GrammarDocument other(QStringLiteral("[1]"));
     workspace->setDocument(&other);
@@ -378,7 +378,7 @@ void CodeFileEditorTest::documentsTakeTurns()
 }
 
 /// Two editors of one document in one workspace: the text stays, and the one in front works on it.
-void CodeFileEditorTest::editorsTakeTurns()
+void TestCodeFileEditor::editorsTakeTurns()
 {
     TextEditor other(workspace.get());
     other.setDocument(document.get());
@@ -394,5 +394,5 @@ void CodeFileEditorTest::editorsTakeTurns()
     }
 }
 
-QTEST_MAIN(CodeFileEditorTest)
+QTEST_MAIN(TestCodeFileEditor)
 #include "tst_codefileeditor.moc"

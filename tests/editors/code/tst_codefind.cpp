@@ -36,7 +36,7 @@ QString randomText(QRandomGenerator& random)
 
 }  // namespace
 
-class CodeFindTest : public QObject
+class TestCodeFind : public QObject
 {
     Q_OBJECT
 
@@ -56,7 +56,7 @@ private:
     TestInterface host;
 };
 
-void CodeFindTest::previousIsTheLastStart_data()
+void TestCodeFind::previousIsTheLastStart_data()
 {
     QTest::addColumn<QString>("pattern");
     for (const char* pattern : {"a", "aa", "a*", "b|ab", "a.*b", "(?<=a)b", "^", "$", "x(?=\\n)",
@@ -66,7 +66,7 @@ void CodeFindTest::previousIsTheLastStart_data()
 }
 
 /// Compares with a try at each place, from behind.
-void CodeFindTest::previousIsTheLastStart()
+void TestCodeFind::previousIsTheLastStart()
 {
     QFETCH(QString, pattern);
     QRandomGenerator random(Seed);
@@ -90,7 +90,7 @@ void CodeFindTest::previousIsTheLastStart()
     }
 }
 
-void CodeFindTest::replaceAllEqualsReplace_data()
+void TestCodeFind::replaceAllEqualsReplace_data()
 {
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("with");
@@ -122,7 +122,7 @@ void CodeFindTest::replaceAllEqualsReplace_data()
                            << "ab";
 }
 
-void CodeFindTest::replaceAllEqualsReplace()
+void TestCodeFind::replaceAllEqualsReplace()
 {
     QFETCH(QString, pattern);
     QFETCH(QString, with);
@@ -146,7 +146,7 @@ void CodeFindTest::replaceAllEqualsReplace()
     }
 }
 
-void CodeFindTest::matchOfTakesTheWholePart()
+void TestCodeFind::matchOfTakesTheWholePart()
 {
     const QString text = QStringLiteral("see abc");
     const auto matches = [&text](const char* pattern) {
@@ -161,7 +161,7 @@ void CodeFindTest::matchOfTakesTheWholePart()
     QVERIFY(!matches("see ab"));
 }
 
-void CodeFindTest::badExpressions()
+void TestCodeFind::badExpressions()
 {
     const CodeFind find(QStringLiteral("a(b"), FindRegularExpression);
     QVERIFY(!find.isValid());
@@ -173,7 +173,7 @@ void CodeFindTest::badExpressions()
     QVERIFY(!CodeFind(QString()).isValid());
 }
 
-void CodeFindTest::loneSurrogates()
+void TestCodeFind::loneSurrogates()
 {
     CodeEditor editor;
     GrammarDocument document;
@@ -186,7 +186,7 @@ void CodeFindTest::loneSurrogates()
     QCOMPARE(document.text(), QString(text).replace(QLatin1Char('b'), QLatin1Char('c')));
 }
 
-void CodeFindTest::cursorAndViewStay()
+void TestCodeFind::cursorAndViewStay()
 {
     GrammarDocument document(QStringLiteral("a=1\nb=2\n").repeated(200));
     CodeEditor editor;
@@ -205,7 +205,7 @@ void CodeFindTest::cursorAndViewStay()
     QCOMPARE(editor.textCursor().positionInBlock(), 1);
 }
 
-void CodeFindTest::copyFollowsTheDocument()
+void TestCodeFind::copyFollowsTheDocument()
 {
     auto document = std::make_unique<GrammarDocument>(QStringLiteral("a=1"));
     CodeFindText text;
@@ -220,5 +220,5 @@ void CodeFindTest::copyFollowsTheDocument()
     QCOMPARE(text.text(), QString());
 }
 
-QTEST_MAIN(CodeFindTest)
+QTEST_MAIN(TestCodeFind)
 #include "tst_codefind.moc"

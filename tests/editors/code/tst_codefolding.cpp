@@ -39,7 +39,7 @@ void toggleVisible(ShownEditor& shown, int line)
 }  // namespace
 
 /// Folds by the editor, by keys and by the mouse; what edits make of them.
-class CodeFoldingTest : public QObject
+class TestCodeFolding : public QObject
 {
     Q_OBJECT
 
@@ -67,7 +67,7 @@ private slots:
     void previewLeavesTheScrollBarsAlone();
 };
 
-void CodeFoldingTest::toggles_data()
+void TestCodeFolding::toggles_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QVector<int>>("lines");
@@ -85,7 +85,7 @@ void CodeFoldingTest::toggles_data()
     QTest::newRow("around an opened fold") << Nested << QVector<int>{2, 2, 5, 0, 0} << "......h...";
 }
 
-void CodeFoldingTest::toggles()
+void TestCodeFolding::toggles()
 {
     QFETCH(QString, text);
     QFETCH(QVector<int>, lines);
@@ -98,7 +98,7 @@ void CodeFoldingTest::toggles()
     QCOMPARE(shown.document.text(), text);
 }
 
-void CodeFoldingTest::foldsAndUnfoldsAll()
+void TestCodeFolding::foldsAndUnfoldsAll()
 {
     QRandomGenerator random(Seed);
     for (int round = 0; round < 150; ++round) {
@@ -124,7 +124,7 @@ void CodeFoldingTest::foldsAndUnfoldsAll()
     }
 }
 
-void CodeFoldingTest::revealsNoMoreThanItTakes_data()
+void TestCodeFolding::revealsNoMoreThanItTakes_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<QString>("expected");
@@ -135,7 +135,7 @@ void CodeFoldingTest::revealsNoMoreThanItTakes_data()
     QTest::newRow("a visible one") << 5 << ".hhhh.h.h.";
 }
 
-void CodeFoldingTest::revealsNoMoreThanItTakes()
+void TestCodeFolding::revealsNoMoreThanItTakes()
 {
     QFETCH(int, line);
     ShownEditor shown(Nested);
@@ -147,7 +147,7 @@ void CodeFoldingTest::revealsNoMoreThanItTakes()
     QCOMPARE(faultOfFolds(&shown.document), QString());
 }
 
-void CodeFoldingTest::cursorLeavesUpwards()
+void TestCodeFolding::cursorLeavesUpwards()
 {
     ShownEditor shown(Nested);
     shown.putCursor(4, 2);
@@ -156,7 +156,7 @@ void CodeFoldingTest::cursorLeavesUpwards()
     QCOMPARE(shown.visibility(), QStringLiteral(".hhhh.h.h."));
 }
 
-void CodeFoldingTest::foldsAtTheCursor_data()
+void TestCodeFolding::foldsAtTheCursor_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<QString>("expected");
@@ -167,7 +167,7 @@ void CodeFoldingTest::foldsAtTheCursor_data()
     QTest::newRow("in none") << 9 << "........h.";
 }
 
-void CodeFoldingTest::foldsAtTheCursor()
+void TestCodeFolding::foldsAtTheCursor()
 {
     QFETCH(int, line);
     ShownEditor shown(Nested);
@@ -178,7 +178,7 @@ void CodeFoldingTest::foldsAtTheCursor()
     QVERIFY(shown.editor.textCursor().block().isVisible());
 }
 
-void CodeFoldingTest::keysGoAround_data()
+void TestCodeFolding::keysGoAround_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<int>("column");
@@ -192,7 +192,7 @@ void CodeFoldingTest::keysGoAround_data()
     QTest::newRow("a page up") << 9 << 0 << int(Qt::Key_PageUp) << 0;
 }
 
-void CodeFoldingTest::keysGoAround()
+void TestCodeFolding::keysGoAround()
 {
     QFETCH(int, line);
     QFETCH(int, column);
@@ -205,7 +205,7 @@ void CodeFoldingTest::keysGoAround()
     QCOMPARE(shown.visibility(), QStringLiteral(".hhhh.h.h."));
 }
 
-void CodeFoldingTest::editsShow_data()
+void TestCodeFolding::editsShow_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<int>("column");
@@ -228,7 +228,7 @@ void CodeFoldingTest::editsShow_data()
     row("the line behind the fold a part of it", 7, 0, ">>>>e=5", ".hhhh.h...", 7);
 }
 
-void CodeFoldingTest::editsShow()
+void TestCodeFolding::editsShow()
 {
     QFETCH(int, line);
     QFETCH(int, column);
@@ -256,7 +256,7 @@ void CodeFoldingTest::editsShow()
 }
 
 /// The level of a comment depends on the next line that is none.
-void CodeFoldingTest::editsShowFurtherAbove()
+void TestCodeFolding::editsShowFurtherAbove()
 {
     ShownEditor shown(QStringLiteral("[1*]\n# one\n[2]"));
     shown.toggle({0});
@@ -268,7 +268,7 @@ void CodeFoldingTest::editsShowFurtherAbove()
     QCOMPARE(shown.visibility(), QStringLiteral("...."));
 }
 
-void CodeFoldingTest::joinedLinesComeOut()
+void TestCodeFolding::joinedLinesComeOut()
 {
     ShownEditor shown(QStringLiteral("#\n[1]\na=1\nb=2\nc=3\n[2*]"));
     shown.toggle({1});
@@ -284,7 +284,7 @@ void CodeFoldingTest::joinedLinesComeOut()
 }
 
 /// Edits by another hand too: no view's cursor is there to open the fold.
-void CodeFoldingTest::randomEditsHideNothingForGood()
+void TestCodeFolding::randomEditsHideNothingForGood()
 {
     QRandomGenerator random(Seed);
     for (int round = 0; round < 60; ++round) {
@@ -308,7 +308,7 @@ void CodeFoldingTest::randomEditsHideNothingForGood()
     }
 }
 
-void CodeFoldingTest::levelsThatGoWithoutAnEdit()
+void TestCodeFolding::levelsThatGoWithoutAnEdit()
 {
     ShownEditor shown;
     FlatDocument document(Nested);
@@ -319,7 +319,7 @@ void CodeFoldingTest::levelsThatGoWithoutAnEdit()
     QTRY_COMPARE(shown.visibility(), QStringLiteral(".........."));
 }
 
-void CodeFoldingTest::boxOpens()
+void TestCodeFolding::boxOpens()
 {
     ShownEditor shown(Nested);
     shown.toggle({5});
@@ -331,7 +331,7 @@ void CodeFoldingTest::boxOpens()
     QVERIFY(shown.editor.textCursor().atBlockEnd());
 }
 
-void CodeFoldingTest::boxIsPainted()
+void TestCodeFolding::boxIsPainted()
 {
     ShownEditor shown(Nested);
     const QPoint place = shown.box(5);
@@ -348,7 +348,7 @@ void CodeFoldingTest::boxIsPainted()
     QCOMPARE(colour(-width / 2 + 3, -3), shown.editor.palette().color(QPalette::Highlight));
 }
 
-void CodeFoldingTest::previewComesAndGoes()
+void TestCodeFolding::previewComesAndGoes()
 {
     ShownEditor shown(Nested);
     shown.toggle({0});
@@ -386,7 +386,7 @@ void CodeFoldingTest::previewComesAndGoes()
     QCOMPARE(shown.viewport()->grab().toImage().copy(below).allGray(), true);
 }
 
-void CodeFoldingTest::previewLeavesTheScrollBarsAlone()
+void TestCodeFolding::previewLeavesTheScrollBarsAlone()
 {
     // Nothing of the fold has ever been on the screen.
     const QString lines = QStringLiteral("a=1\n").repeated(100);
@@ -402,5 +402,5 @@ void CodeFoldingTest::previewLeavesTheScrollBarsAlone()
     QCOMPARE(faultOfFolds(&shown.document), QString());
 }
 
-QTEST_MAIN(CodeFoldingTest)
+QTEST_MAIN(TestCodeFolding)
 #include "tst_codefolding.moc"

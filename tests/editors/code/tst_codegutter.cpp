@@ -73,7 +73,7 @@ bool contains(const QImage& image, const QRect& area, const QColor& color)
 }  // namespace
 
 /// The gutter, by mouse events and by what is to be seen.
-class CodeGutterTest : public QObject
+class TestCodeGutter : public QObject
 {
     Q_OBJECT
 
@@ -97,7 +97,7 @@ private slots:
     void hasAName();
 };
 
-void CodeGutterTest::widthFollowsItsColumns_data()
+void TestCodeGutter::widthFollowsItsColumns_data()
 {
     QTest::addColumn<int>("lines");
     QTest::addColumn<bool>("numbers");
@@ -112,7 +112,7 @@ void CodeGutterTest::widthFollowsItsColumns_data()
     QTest::newRow("nothing") << 100 << false << false << false << 0;
 }
 
-void CodeGutterTest::widthFollowsItsColumns()
+void TestCodeGutter::widthFollowsItsColumns()
 {
     QFETCH(int, lines);
     QFETCH(bool, numbers);
@@ -133,7 +133,7 @@ void CodeGutterTest::widthFollowsItsColumns()
     QCOMPARE(shown.viewport()->x(), expected);
 }
 
-void CodeGutterTest::standsAtTheStartOfLines()
+void TestCodeGutter::standsAtTheStartOfLines()
 {
     ShownEditor shown(Nested);
     const int width = shown.gutter()->width();
@@ -151,7 +151,7 @@ void CodeGutterTest::standsAtTheStartOfLines()
     QCOMPARE(shown.viewport()->x(), shown.gutter()->width());
 }
 
-void CodeGutterTest::strongNumbers()
+void TestCodeGutter::strongNumbers()
 {
     ShownEditor shown(Nested);
     const auto strength = [&](int line) {
@@ -169,7 +169,7 @@ void CodeGutterTest::strongNumbers()
     QVERIFY(strength(5) > strength(7) + 60);
 }
 
-void CodeGutterTest::blinkingLeavesItAlone()
+void TestCodeGutter::blinkingLeavesItAlone()
 {
     ShownEditor shown(Nested);
     QTest::qWait(150);
@@ -184,7 +184,7 @@ void CodeGutterTest::blinkingLeavesItAlone()
     QTRY_VERIFY(gutter.count > 0);
 }
 
-void CodeGutterTest::hoveringShowsRanges()
+void TestCodeGutter::hoveringShowsRanges()
 {
     ShownEditor shown(Nested);
     const auto hasLine = [&](int line) {
@@ -207,7 +207,7 @@ void CodeGutterTest::hoveringShowsRanges()
     QVERIFY(!hasLine(6));
 }
 
-void CodeGutterTest::pressFolds_data()
+void TestCodeGutter::pressFolds_data()
 {
     QTest::addColumn<QVector<int>>("lines");
     QTest::addColumn<QString>("expected");
@@ -218,7 +218,7 @@ void CodeGutterTest::pressFolds_data()
     QTest::newRow("outside of all ranges") << QVector<int>{9} << "..........";
 }
 
-void CodeGutterTest::pressFolds()
+void TestCodeGutter::pressFolds()
 {
     QFETCH(QVector<int>, lines);
     ShownEditor shown(Nested);
@@ -231,7 +231,7 @@ void CodeGutterTest::pressFolds()
     QVERIFY(!shown.editor.textCursor().hasSelection());
 }
 
-void CodeGutterTest::pressSelectsLines_data()
+void TestCodeGutter::pressSelectsLines_data()
 {
     QTest::addColumn<int>("line");
     QTest::addColumn<QString>("expected");
@@ -240,7 +240,7 @@ void CodeGutterTest::pressSelectsLines_data()
     QTest::newRow("the last one") << 9 << "# end";
 }
 
-void CodeGutterTest::pressSelectsLines()
+void TestCodeGutter::pressSelectsLines()
 {
     QFETCH(int, line);
     ShownEditor shown(Nested);
@@ -258,7 +258,7 @@ void CodeGutterTest::pressSelectsLines()
     QCOMPARE(shown.editor.textCursor().anchor(), selected.anchor());
 }
 
-void CodeGutterTest::dragSelectsLines()
+void TestCodeGutter::dragSelectsLines()
 {
     ShownEditor shown(Nested);
     shown.toggle({5});
@@ -280,7 +280,7 @@ void CodeGutterTest::dragSelectsLines()
     shown.editor.setDocument(nullptr);
 }
 
-void CodeGutterTest::dragScrolls()
+void TestCodeGutter::dragScrolls()
 {
     ShownEditor shown(QString(500, QLatin1Char('\n')));
     QScrollBar* bar = shown.editor.verticalScrollBar();
@@ -303,7 +303,7 @@ void CodeGutterTest::dragScrolls()
     QCOMPARE(bar->value(), value);
 }
 
-void CodeGutterTest::worstMarkIsShown_data()
+void TestCodeGutter::worstMarkIsShown_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("icon");
@@ -316,7 +316,7 @@ void CodeGutterTest::worstMarkIsShown_data()
     QTest::newRow("none") << "# ?e" << QString();
 }
 
-void CodeGutterTest::worstMarkIsShown()
+void TestCodeGutter::worstMarkIsShown()
 {
     QFETCH(QString, line);
     QFETCH(QString, icon);
@@ -339,7 +339,7 @@ void CodeGutterTest::worstMarkIsShown()
     QCOMPARE(strip, expected);
 }
 
-void CodeGutterTest::pressOnAMark()
+void TestCodeGutter::pressOnAMark()
 {
     ShownEditor shown(QStringLiteral("#\n?e\n#"));
     showMarks(shown);
@@ -355,7 +355,7 @@ void CodeGutterTest::pressOnAMark()
     QCOMPARE(shown.gutter()->cursor().shape(), Qt::ArrowCursor);
 }
 
-void CodeGutterTest::tipOfAMark()
+void TestCodeGutter::tipOfAMark()
 {
     ShownEditor shown(QStringLiteral("#\n?e <b>\n#"));
     showMarks(shown);
@@ -372,11 +372,11 @@ void CodeGutterTest::tipOfAMark()
     QCOMPARE(tip(1, 30), QString());
 }
 
-void CodeGutterTest::hasAName()
+void TestCodeGutter::hasAName()
 {
     ShownEditor shown(Nested);
     QVERIFY(!shown.gutter()->accessibleName().isEmpty());
 }
 
-QTEST_MAIN(CodeGutterTest)
+QTEST_MAIN(TestCodeGutter)
 #include "tst_codegutter.moc"

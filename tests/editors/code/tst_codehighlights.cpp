@@ -64,7 +64,7 @@ QStringList selected(const CodeEditor& editor)
 }  // namespace
 
 /// What is marked around the cursor.
-class CodeHighlightsTest : public QObject
+class TestCodeHighlights : public QObject
 {
     Q_OBJECT
 
@@ -78,7 +78,7 @@ private slots:
     void tellsOfLines();
 };
 
-void CodeHighlightsTest::brackets_data()
+void TestCodeHighlights::brackets_data()
 {
     QTest::addColumn<QString>("text");  // with the cursor at |
     QTest::addColumn<QStringList>("expected");
@@ -99,7 +99,7 @@ void CodeHighlightsTest::brackets_data()
     QTest::newRow("none is left") << "|(\n(\n)\n()" << L{};
 }
 
-void CodeHighlightsTest::brackets()
+void TestCodeHighlights::brackets()
 {
     QFETCH(QString, text);
     QFETCH(QStringList, expected);
@@ -114,7 +114,7 @@ void CodeHighlightsTest::brackets()
     QCOMPARE(selected(shown.editor), expected);
 }
 
-void CodeHighlightsTest::bracketsFollowEdits()
+void TestCodeHighlights::bracketsFollowEdits()
 {
     ShownEditor shown(QStringLiteral("# (\n# b"));
     shown.putCursor(1, -1);
@@ -131,7 +131,7 @@ void CodeHighlightsTest::bracketsFollowEdits()
 }
 
 /// The pointer in the folding column shows the ranges of its line.
-void CodeHighlightsTest::rangesAreThoseOfAWalk()
+void TestCodeHighlights::rangesAreThoseOfAWalk()
 {
     QRandomGenerator random(Seed);
     for (int run = 0; run < 12; ++run) {
@@ -158,7 +158,7 @@ void CodeHighlightsTest::rangesAreThoseOfAWalk()
     }
 }
 
-void CodeHighlightsTest::rangesAreSwitchedOff()
+void TestCodeHighlights::rangesAreSwitchedOff()
 {
     ShownEditor shown(QStringLiteral("[1]\na=1\n[2]\nb=2"));
     CodeEditor::SyntaxFormatting formatting;
@@ -172,7 +172,7 @@ void CodeHighlightsTest::rangesAreSwitchedOff()
     QCOMPARE(shown.editor.rangeStarts(), QList<int>());
 }
 
-void CodeHighlightsTest::tellsOfLines()
+void TestCodeHighlights::tellsOfLines()
 {
     ShownEditor shown(QStringLiteral("[1]\na=1"));
     QSignalSpy lines(&shown.editor, &CodeEditor::currentLineChanged);
@@ -186,5 +186,5 @@ void CodeHighlightsTest::tellsOfLines()
     QCOMPARE(places.last().first().toPoint(), QPoint(1, 1));
 }
 
-QTEST_MAIN(CodeHighlightsTest)
+QTEST_MAIN(TestCodeHighlights)
 #include "tst_codehighlights.moc"

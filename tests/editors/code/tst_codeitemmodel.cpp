@@ -68,7 +68,7 @@ const CodeNode* walkToLine(const ParentCode* parent, int line)
 
 }  // namespace
 
-class CodeItemModelTest : public QObject
+class TestCodeItemModel : public QObject
 {
     Q_OBJECT
 
@@ -81,7 +81,7 @@ private slots:
     void documentDies();
 };
 
-void CodeItemModelTest::randomEdits_data()
+void TestCodeItemModel::randomEdits_data()
 {
     QTest::addColumn<int>("run");
     for (int run = 0; run < 8; ++run) {
@@ -91,7 +91,7 @@ void CodeItemModelTest::randomEdits_data()
 
 /// Rows and lines are those of the tree, and an index that was made at any time before can be
 /// asked for anything.
-void CodeItemModelTest::randomEdits()
+void TestCodeItemModel::randomEdits()
 {
     QFETCH(int, run);
     QRandomGenerator random(Seed + quint32(run));
@@ -120,7 +120,7 @@ void CodeItemModelTest::randomEdits()
     }
 }
 
-void CodeItemModelTest::updateAnnouncesAllRows()
+void TestCodeItemModel::updateAnnouncesAllRows()
 {
     GrammarDocument document(QStringLiteral("[1]\na=1\n[2]\n!x\n-f"));
     CodeItemModel model;
@@ -135,7 +135,7 @@ void CodeItemModelTest::updateAnnouncesAllRows()
     QCOMPARE(inserted.takeFirst(), (QVariantList{QModelIndex(), 0, 3}));
 }
 
-void CodeItemModelTest::indexesOutliveTheirNodes()
+void TestCodeItemModel::indexesOutliveTheirNodes()
 {
     GrammarDocument document(QStringLiteral("[1]\na=1\n[2]\nb=2"));
     CodeItemModel model;
@@ -155,7 +155,7 @@ void CodeItemModelTest::indexesOutliveTheirNodes()
     QCOMPARE(model.lineNo(value), -1);
 }
 
-void CodeItemModelTest::documentDies()
+void TestCodeItemModel::documentDies()
 {
     auto document = std::make_unique<GrammarDocument>(QStringLiteral("[1]\na=1"));
     CodeItemModel model;
@@ -168,5 +168,5 @@ void CodeItemModelTest::documentDies()
     QVERIFY(!model.document());
 }
 
-QTEST_MAIN(CodeItemModelTest)
+QTEST_MAIN(TestCodeItemModel)
 #include "tst_codeitemmodel.moc"

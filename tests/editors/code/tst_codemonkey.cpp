@@ -346,7 +346,7 @@ QString Monkey::fault() const
 }
 
 /// The editor survives whatever happens, and nothing of the text is ever out of reach.
-class CodeMonkeyTest : public QObject
+class TestCodeMonkey : public QObject
 {
     Q_OBJECT
 
@@ -354,7 +354,7 @@ private slots:
     void survives();
 };
 
-void CodeMonkeyTest::survives()
+void TestCodeMonkey::survives()
 {
     qInfo("seed %u", Seed);
     Monkey monkey;
@@ -368,5 +368,5 @@ void CodeMonkeyTest::survives()
     }
 }
 
-QTEST_MAIN(CodeMonkeyTest)
+QTEST_MAIN(TestCodeMonkey)
 #include "tst_codemonkey.moc"

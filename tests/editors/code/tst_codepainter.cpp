@@ -58,7 +58,7 @@ void select(QPlainTextEdit& edit, int anchor, int position)
 }  // namespace
 
 /// What is to be seen of the text, read from a picture of it.
-class CodePainterTest : public QObject
+class TestCodePainter : public QObject
 {
     Q_OBJECT
 
@@ -77,7 +77,7 @@ private slots:
     void underlinesLieOnTop();
 };
 
-void CodePainterTest::asTheBaseClass_data()
+void TestCodePainter::asTheBaseClass_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("state");
@@ -110,7 +110,7 @@ void CodePainterTest::asTheBaseClass_data()
 }
 
 /// Where nothing is marked, a plain text widget on the same document looks the same.
-void CodePainterTest::asTheBaseClass()
+void TestCodePainter::asTheBaseClass()
 {
     QFETCH(QString, text);
     QFETCH(int, state);
@@ -154,7 +154,7 @@ void CodePainterTest::asTheBaseClass()
     plain.setDocument(nullptr);
 }
 
-void CodePainterTest::ranges_data()
+void TestCodePainter::ranges_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("line");
@@ -175,7 +175,7 @@ void CodePainterTest::ranges_data()
     QTest::newRow("four, dark") << deep << 6 << dark << Grays{70, 60, 50, 50, 30};
 }
 
-void CodePainterTest::ranges()
+void TestCodePainter::ranges()
 {
     QFETCH(QString, text);
     QFETCH(int, line);
@@ -200,7 +200,7 @@ void CodePainterTest::ranges()
 
 /// The left edge is that of the text of the outer of both lines, wherever the view was when
 /// the ranges were found.
-void CodePainterTest::rangesStartAtTheText()
+void TestCodePainter::rangesStartAtTheText()
 {
     ShownEditor shown(QStringLiteral("    z=1\n[1]\ny=1\n        x=") + QString(200, u'1'));
     Formatting formatting = bare();
@@ -217,7 +217,7 @@ void CodePainterTest::rangesStartAtTheText()
 }
 
 /// Qt moves what is painted, or paints a part of it alone.
-void CodePainterTest::screenIsPaintedAnew()
+void TestCodePainter::screenIsPaintedAnew()
 {
     ShownEditor shown(QStringLiteral("[1]\ny=1\nx=") + QString(200, u'1'));
     Formatting formatting = bare();
@@ -241,7 +241,7 @@ void CodePainterTest::screenIsPaintedAnew()
     }
 }
 
-void CodePainterTest::currentLine()
+void TestCodePainter::currentLine()
 {
     ShownEditor shown(QStringLiteral("[1]\na=") + QStringLiteral("word ").repeated(40));
     Formatting formatting = bare();
@@ -264,7 +264,7 @@ void CodePainterTest::currentLine()
     }
 }
 
-void CodePainterTest::overwriteCell_data()
+void TestCodePainter::overwriteCell_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("column");
@@ -276,7 +276,7 @@ void CodePainterTest::overwriteCell_data()
     QTest::newRow("a blank") << "# b" << 1 << 0 << false;
 }
 
-void CodePainterTest::overwriteCell()
+void TestCodePainter::overwriteCell()
 {
     QFETCH(QString, text);
     QFETCH(int, column);
@@ -304,7 +304,7 @@ void CodePainterTest::overwriteCell()
              glyph);
 }
 
-void CodePainterTest::noCursorIfReadOnly()
+void TestCodePainter::noCursorIfReadOnly()
 {
     ShownEditor shown(QStringLiteral("  "));
     shown.editor.setSyntaxFormatting(bare());
@@ -316,7 +316,7 @@ void CodePainterTest::noCursorIfReadOnly()
     QCOMPARE(count(picture(shown.editor), cursor, Qt::black), 0);
 }
 
-void CodePainterTest::selectionLiesOnBrackets()
+void TestCodePainter::selectionLiesOnBrackets()
 {
     ShownEditor shown(QStringLiteral("(  )"));
     Formatting formatting = bare();
@@ -333,7 +333,7 @@ void CodePainterTest::selectionLiesOnBrackets()
 }
 
 /// A mark of a problem is to be seen whatever else is marked, and in whatever order.
-void CodePainterTest::underlinesLieOnTop()
+void TestCodePainter::underlinesLieOnTop()
 {
     ShownEditor shown(QStringLiteral("    "));
     shown.editor.setSyntaxFormatting(bare());
@@ -352,5 +352,5 @@ void CodePainterTest::underlinesLieOnTop()
     }
 }
 
-QTEST_MAIN(CodePainterTest)
+QTEST_MAIN(TestCodePainter)
 #include "tst_codepainter.moc"

@@ -148,7 +148,7 @@ void inNextDialog(Function function)
 }  // namespace
 
 /// The workspace with real actions, dialogs and documents.
-class tst_CodeWorkspace : public QObject
+class TestCodeWorkspace : public QObject
 {
     Q_OBJECT
 
@@ -210,7 +210,7 @@ private:
     std::unique_ptr<CodeWorkspace> m_workspace;
 };
 
-void tst_CodeWorkspace::init()
+void TestCodeWorkspace::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_engines.folder = m_folder->path();
@@ -221,7 +221,7 @@ void tst_CodeWorkspace::init()
     m_workspace = std::make_unique<CodeWorkspace>();
 }
 
-void tst_CodeWorkspace::cleanup()
+void TestCodeWorkspace::cleanup()
 {
     m_workspace.reset();
     m_dialogs.reset();
@@ -229,7 +229,7 @@ void tst_CodeWorkspace::cleanup()
     m_folder.reset();
 }
 
-void tst_CodeWorkspace::actionsAreOfTheAreaOfCode()
+void TestCodeWorkspace::actionsAreOfTheAreaOfCode()
 {
     QStringList created = m_host->calls.filter(QStringLiteral("createAction"));
     QCOMPARE(created.size(), 12);
@@ -253,7 +253,7 @@ void tst_CodeWorkspace::actionsAreOfTheAreaOfCode()
     QVERIFY(!m_workspace->tabBar()->accessibleName().isEmpty());
 }
 
-void tst_CodeWorkspace::barIsShownBySetting()
+void TestCodeWorkspace::barIsShownBySetting()
 {
     QAction* action = m_host->actions.value(QStringLiteral("view_code_bar"));
     m_workspace->tabBar()->addTab(QStringLiteral("a text"));
@@ -275,7 +275,7 @@ void tst_CodeWorkspace::barIsShownBySetting()
     QVERIFY(m_workspace->toolBar()->isVisible() && action->isChecked());
 }
 
-void tst_CodeWorkspace::settingsReachTheEditor()
+void TestCodeWorkspace::settingsReachTheEditor()
 {
     using Format = CodeEditor::SyntaxFormatting;
     const std::pair<const char*, bool Format::*> switches[] = {
@@ -309,7 +309,7 @@ void tst_CodeWorkspace::settingsReachTheEditor()
 }
 
 /// The document has the font too, a tab stays four blanks wide, and text can always be read.
-void tst_CodeWorkspace::zoom()
+void TestCodeWorkspace::zoom()
 {
     QVERIFY(QFontInfo(editor()->font()).fixedPitch());
     m_host->options[QStringLiteral("font_size")] = 11;
@@ -351,7 +351,7 @@ void tst_CodeWorkspace::zoom()
     QVERIFY(isSize(11));
 }
 
-void tst_CodeWorkspace::documentsKeepTheirScrollPosition()
+void TestCodeWorkspace::documentsKeepTheirScrollPosition()
 {
     GrammarDocument first(numberedLines(200));
     GrammarDocument second(QStringLiteral("?e\nsecond"));
@@ -375,7 +375,7 @@ void tst_CodeWorkspace::documentsKeepTheirScrollPosition()
     QCOMPARE(box->count(), 0);
 }
 
-void tst_CodeWorkspace::documentDiesWhileShown()
+void TestCodeWorkspace::documentDiesWhileShown()
 {
     auto document = std::make_unique<GrammarDocument>(QStringLiteral("?e\n?e"));
     show(document.get());
@@ -392,7 +392,7 @@ void tst_CodeWorkspace::documentDiesWhileShown()
     QCOMPARE(editor()->toPlainText(), QStringLiteral("next"));
 }
 
-void tst_CodeWorkspace::jumpsLeadWhereAWalkDoes()
+void TestCodeWorkspace::jumpsLeadWhereAWalkDoes()
 {
     constexpr quint32 Seed = 20260817;
     qInfo("seed %u", Seed);
@@ -428,7 +428,7 @@ void tst_CodeWorkspace::jumpsLeadWhereAWalkDoes()
     }
 }
 
-void tst_CodeWorkspace::jumpUnfolds()
+void TestCodeWorkspace::jumpUnfolds()
 {
     GrammarDocument document(QStringLiteral("[1*]\na=1\n?e\n[2*]\nb=1"));
     show(&document);
@@ -444,7 +444,7 @@ void tst_CodeWorkspace::jumpUnfolds()
 }
 
 /// Keys and the wheel look through the list; Return goes there.
-void tst_CodeWorkspace::messageIsPicked()
+void TestCodeWorkspace::messageIsPicked()
 {
     WordParser parser;
     GrammarDocument document;
@@ -463,7 +463,7 @@ void tst_CodeWorkspace::messageIsPicked()
     QVERIFY(editor()->hasFocus());
 }
 
-void tst_CodeWorkspace::longListsAreNotWalked()
+void TestCodeWorkspace::longListsAreNotWalked()
 {
     CountingList list;
     auto* box = m_workspace->toolBar()->findChild<QComboBox*>(QStringLiteral("code_messages"));
@@ -476,7 +476,7 @@ void tst_CodeWorkspace::longListsAreNotWalked()
     box->setModel(new QStringListModel(box));
 }
 
-void tst_CodeWorkspace::comment_data()
+void TestCodeWorkspace::comment_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<int>("from");
@@ -496,7 +496,7 @@ void tst_CodeWorkspace::comment_data()
     QTest::newRow("indented is none") << " #a" << 0 << 3 << "# #a" << 0;
 }
 
-void tst_CodeWorkspace::comment()
+void TestCodeWorkspace::comment()
 {
     QFETCH(QString, before);
     QFETCH(int, from);
@@ -513,7 +513,7 @@ void tst_CodeWorkspace::comment()
     QVERIFY(!document.isUndoAvailable());
 }
 
-void tst_CodeWorkspace::goToLine_data()
+void TestCodeWorkspace::goToLine_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("answer");
@@ -526,7 +526,7 @@ void tst_CodeWorkspace::goToLine_data()
     QTest::newRow("behind the end, no") << "100000000" << int(Dialogs::No) << 20;
 }
 
-void tst_CodeWorkspace::goToLine()
+void TestCodeWorkspace::goToLine()
 {
     QFETCH(QString, typed);
     QFETCH(int, answer);
@@ -553,7 +553,7 @@ void tst_CodeWorkspace::goToLine()
     QTEST(editor()->textCursor().blockNumber(), "line");
 }
 
-void tst_CodeWorkspace::encoding_data()
+void TestCodeWorkspace::encoding_data()
 {
     QTest::addColumn<bool>("isOnDisk");
     QTest::addColumn<bool>("isAccepted");
@@ -565,7 +565,7 @@ void tst_CodeWorkspace::encoding_data()
     QTest::newRow("without a file") << false << true << 0 << QStringLiteral("# \u0449");
 }
 
-void tst_CodeWorkspace::encoding()
+void TestCodeWorkspace::encoding()
 {
     QFETCH(bool, isOnDisk);
     QFETCH(bool, isAccepted);
@@ -593,7 +593,7 @@ void tst_CodeWorkspace::encoding()
     QCOMPARE(m_dialogs->count(QStringLiteral("question")), isOnDisk && isAccepted ? 1 : 0);
 }
 
-void tst_CodeWorkspace::snippets_data()
+void TestCodeWorkspace::snippets_data()
 {
     QTest::addColumn<QString>("code");
     QTest::addColumn<QString>("after");
@@ -615,7 +615,7 @@ void tst_CodeWorkspace::snippets_data()
 }
 
 /// In place of the selection, in one step of undo.
-void tst_CodeWorkspace::snippets()
+void TestCodeWorkspace::snippets()
 {
     QFETCH(QString, code);
     writeSnippet(QStringLiteral("a"), QStringLiteral("first"));
@@ -642,7 +642,7 @@ void tst_CodeWorkspace::snippets()
     QVERIFY(!document.isUndoAvailable());
 }
 
-void tst_CodeWorkspace::snippetIsEdited()
+void TestCodeWorkspace::snippetIsEdited()
 {
     writeSnippet(QStringLiteral("a"), QStringLiteral("inside"));
     m_workspace->engineSwitched(true);
@@ -666,7 +666,7 @@ void tst_CodeWorkspace::snippetIsEdited()
     QCOMPARE(box->currentText(), QStringLiteral("a"));
 }
 
-void tst_CodeWorkspace::brokenWordsAreTold()
+void TestCodeWorkspace::brokenWordsAreTold()
 {
     m_workspace->engineSwitched(true);
     QCOMPARE(m_dialogs->count(), 0);
@@ -677,7 +677,7 @@ void tst_CodeWorkspace::brokenWordsAreTold()
     QCOMPARE(m_dialogs->texts(QStringLiteral("warning")), QStringList{editor()->completerError()});
 }
 
-void tst_CodeWorkspace::readOnlyStaysAsItIs()
+void TestCodeWorkspace::readOnlyStaysAsItIs()
 {
     writeSnippet(QStringLiteral("a"), QStringLiteral("code"));
     m_workspace->engineSwitched(true);
@@ -693,5 +693,5 @@ void tst_CodeWorkspace::readOnlyStaysAsItIs()
     }
 }
 
-QTEST_MAIN(tst_CodeWorkspace)
+QTEST_MAIN(TestCodeWorkspace)
 #include "tst_codeworkspace.moc"

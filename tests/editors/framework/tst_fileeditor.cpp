@@ -49,7 +49,7 @@ public:
 }  // namespace
 
 /// An editor of blobs on a project in a folder of its own, with another folder beside it.
-class FileEditorTest : public QObject
+class TestFileEditor : public QObject
 {
     Q_OBJECT
 
@@ -86,7 +86,7 @@ private:
     BlobFile* m_file = nullptr;
 };
 
-void FileEditorTest::init()
+void TestFileEditor::init()
 {
     m_root = std::make_unique<QTemporaryDir>();
     QVERIFY(writeFile(path("/game/in.blob"), "inside"));
@@ -105,7 +105,7 @@ void FileEditorTest::init()
     m_modified = std::make_unique<QSignalSpy>(m_editor.get(), &Editor::modified);
 }
 
-void FileEditorTest::cleanup()
+void TestFileEditor::cleanup()
 {
     m_editor.reset();
     m_parent.reset();
@@ -113,7 +113,7 @@ void FileEditorTest::cleanup()
     m_host.reset();
 }
 
-void FileEditorTest::commandsComeForward()
+void TestFileEditor::commandsComeForward()
 {
     const QString call = QStringLiteral("activateEditor()");
     for (const auto command :
@@ -138,7 +138,7 @@ void FileEditorTest::commandsComeForward()
     QCOMPARE(m_dialogs->count(), 0);
 }
 
-void FileEditorTest::canDiscard_data()
+void TestFileEditor::canDiscard_data()
 {
     QTest::addColumn<int>("bits");
     QTest::addColumn<bool>("modified");
@@ -152,7 +152,7 @@ void FileEditorTest::canDiscard_data()
     QTest::newRow("closed") << 0 << true << int(Dialogs::NoButton) << 1 << false;
 }
 
-void FileEditorTest::canDiscard()
+void TestFileEditor::canDiscard()
 {
     QFETCH(int, bits);
     QFETCH(bool, modified);
@@ -172,7 +172,7 @@ void FileEditorTest::canDiscard()
     }
 }
 
-void FileEditorTest::reset()
+void TestFileEditor::reset()
 {
     m_editor->fileType = 1;
     m_editor->reset();
@@ -191,7 +191,7 @@ void FileEditorTest::reset()
     QCOMPARE(m_dialogs->count(QStringLiteral("warning")), 1);
 }
 
-void FileEditorTest::openFilters_data()
+void TestFileEditor::openFilters_data()
 {
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QString>("open");
@@ -210,7 +210,7 @@ void FileEditorTest::openFilters_data()
                               << "Any (*);;Blob (*.blob)";
 }
 
-void FileEditorTest::openFilters()
+void TestFileEditor::openFilters()
 {
     QFETCH(QString, filter);
     QFETCH(QString, open);
@@ -225,7 +225,7 @@ void FileEditorTest::openFilters()
     QCOMPARE(m_dialogs->count(QStringLiteral("warning")), 0);
 }
 
-void FileEditorTest::open_data()
+void TestFileEditor::open_data()
 {
     QTest::addColumn<QString>("choice");
     QTest::addColumn<int>("answer");
@@ -244,7 +244,7 @@ void FileEditorTest::open_data()
     QTest::newRow("missing") << "/game/no.blob" << 0 << 0 << QByteArray("work") << in << "/game";
 }
 
-void FileEditorTest::open()
+void TestFileEditor::open()
 {
     QFETCH(QString, choice);
     QFETCH(int, answer);
@@ -264,7 +264,7 @@ void FileEditorTest::open()
     QCOMPARE(m_modified->count(), choice.isEmpty() ? 0 : 1);
 }
 
-void FileEditorTest::startFolder()
+void TestFileEditor::startFolder()
 {
     m_host->options[QStringLiteral("project_path")] = QStringLiteral("/all");
     m_editor->open();
@@ -280,7 +280,7 @@ void FileEditorTest::startFolder()
     QCOMPARE(folders, QStringList({"/all", "/host", "/mine", "/mine"}));
 }
 
-void FileEditorTest::save()
+void TestFileEditor::save()
 {
     m_file->isSavable = false;
     m_editor->save();
@@ -298,7 +298,7 @@ void FileEditorTest::save()
     QCOMPARE(m_dialogs->count(), 0);
 }
 
-void FileEditorTest::failedSaveAsksForName()
+void TestFileEditor::failedSaveAsksForName()
 {
     m_file->name = path("/game");
     m_dialogs->fileAnswers = {{path("/game/new.blob")}};
@@ -308,7 +308,7 @@ void FileEditorTest::failedSaveAsksForName()
     QCOMPARE(m_file->name, path("/game/new.blob"));
 }
 
-void FileEditorTest::saveAs_data()
+void TestFileEditor::saveAs_data()
 {
     QTest::addColumn<QString>("choice");
     QTest::addColumn<int>("answer");
@@ -326,7 +326,7 @@ void FileEditorTest::saveAs_data()
     QTest::newRow("fails") << "/game/in.blob/x" << int(Dialogs::No) << QString() << in;
 }
 
-void FileEditorTest::saveAs()
+void TestFileEditor::saveAs()
 {
     QFETCH(QString, choice);
     QFETCH(int, answer);
@@ -347,7 +347,7 @@ void FileEditorTest::saveAs()
     QCOMPARE(m_modified->count(), 1);
 }
 
-void FileEditorTest::saveAsRefuses()
+void TestFileEditor::saveAsRefuses()
 {
     m_file->isSavable = false;
     m_editor->saveAs();
@@ -358,7 +358,7 @@ void FileEditorTest::saveAsRefuses()
     QCOMPARE(m_modified->count(), 0);
 }
 
-void FileEditorTest::otherFileOfProject()
+void TestFileEditor::otherFileOfProject()
 {
     auto* other = new BlobFile(path("/game/other.blob"), "other");
     m_project->addFile(other, FileID::Sprites);
@@ -371,5 +371,5 @@ void FileEditorTest::otherFileOfProject()
     QVERIFY(!FileEditor::saveFileAs(other, m_editor.get(), m_host.get()));
 }
 
-QTEST_MAIN(FileEditorTest)
+QTEST_MAIN(TestFileEditor)
 #include "tst_fileeditor.moc"

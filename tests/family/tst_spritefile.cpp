@@ -1,23 +1,23 @@
 #include "plainsprites.h"
 
-#include "assets/newsprites.h"
-#include "assets/pixelstore.h"
-#include "assets/recordbytes.h"
-#include "assets/spritefile.h"
-#include "assets/spritefiledata.h"
-#include "assets/spritejobs.h"
-#include "core/filesystemarchive.h"
-#include "media/losslessimages.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/pixelstore.h"
+#include "family/assets/recordbytes.h"
+#include "family/assets/spritefile.h"
+#include "family/assets/spritefiledata.h"
+#include "family/assets/spritejobs.h"
 #include "support/brokenbytes.h"
 #include "support/faultshim.h"
 #include "support/testinterface.h"
+
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/losslessimages.h>
 
 #include <QBuffer>
 #include <QDirIterator>
 #include <QMutex>
 #include <QTemporaryDir>
 #include <QtTest>
-
 #include <cerrno>
 
 using namespace Family;

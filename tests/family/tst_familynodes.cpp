@@ -1,6 +1,6 @@
 #include "familydump.h"
 
-#include "code/codedoc/codeblockdata.h"
+#include <zorv/code/codedoc/codeblockdata.h>
 
 #include <QDir>
 #include <QTextCursor>

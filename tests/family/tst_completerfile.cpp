@@ -1,7 +1,7 @@
-#include "completer/completerfile.h"
+#include "family/completer/completerfile.h"
 
-#include "grammar/grammar.h"
-#include "grammar/linereader.h"
+#include "family/grammar/grammar.h"
+#include "family/grammar/linereader.h"
 
 #include <QXmlStreamReader>
 #include <QtTest>
@@ -62,7 +62,7 @@ bool isReadSomewhere(const QString& line)
 }  // namespace
 
 /// The generated file of words, against the parser and the tables.
-class CompleterFileTest : public QObject
+class TestCompleterFile : public QObject
 {
     Q_OBJECT
 
@@ -72,7 +72,7 @@ private slots:
     void ownFiles();
 };
 
-void CompleterFileTest::everyWordIsRead()
+void TestCompleterFile::everyWordIsRead()
 {
     const QVector<Offer> offers = offersOf(completerXml());
     QVERIFY(offers.size() > 30);
@@ -91,7 +91,7 @@ void CompleterFileTest::everyWordIsRead()
     }
 }
 
-void CompleterFileTest::nothingIsMissing()
+void TestCompleterFile::nothingIsMissing()
 {
     QSet<QString> offered;
     const QVector<Offer> offers = offersOf(completerXml());
@@ -111,7 +111,7 @@ void CompleterFileTest::nothingIsMissing()
     }
 }
 
-void CompleterFileTest::ownFiles()
+void TestCompleterFile::ownFiles()
 {
     QVERIFY(isOwnCompleter(completerXml()));
     QByteArray changed = completerXml();
@@ -121,5 +121,5 @@ void CompleterFileTest::ownFiles()
     QVERIFY(!isOwnCompleter("<snippets origin=\"zorv\"/>"));
 }
 
-QTEST_GUILESS_MAIN(CompleterFileTest)
+QTEST_GUILESS_MAIN(TestCompleterFile)
 #include "tst_completerfile.moc"

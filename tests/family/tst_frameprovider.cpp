@@ -1,10 +1,10 @@
-#include "assets/remapmodel.h"
-#include "assets/spritefile.h"
-#include "familyanimations.h"
-#include "familydocument.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
-#include "stage/frameprovider.h"
+#include "family/assets/remapmodel.h"
+#include "family/assets/spritefile.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/stage/frameprovider.h"
 
 #include <QRandomGenerator>
 #include <QTextCursor>

@@ -1,14 +1,14 @@
 #include "familydump.h"
 
-#include "core/filesystemarchive.h"
 #include "support/randomtext.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTextCursor>
 #include <QtTest>
-
 #include <memory>
 
 using namespace Family;

@@ -1,4 +1,4 @@
-#include "app/actions/actionpalette.h"
+#include "app/actions/actionsearch.h"
 
 #include "app/actions/actionlist.h"
 #include "app/actions/actionregistry.h"
@@ -20,7 +20,7 @@ const QSize FirstSize(560, 380);
 
 }  // namespace
 
-ActionPalette::ActionPalette(ActionRegistry* registry, QWidget* parent)
+ActionSearch::ActionSearch(ActionRegistry* registry, QWidget* parent)
     : QDialog(parent), m_registry(registry), m_list(new ActionList(registry, this)),
       m_field(new QLineEdit), m_view(new QTreeView)
 {
@@ -37,13 +37,13 @@ ActionPalette::ActionPalette(ActionRegistry* registry, QWidget* parent)
         m_field->setAccessibleName(tr("Find action"));
         m_view->setAccessibleName(tr("Actions"));
     });
-    connect(m_field, &QLineEdit::textChanged, this, &ActionPalette::filter);
-    connect(m_view, &QTreeView::activated, this, &ActionPalette::choose);
+    connect(m_field, &QLineEdit::textChanged, this, &ActionSearch::filter);
+    connect(m_view, &QTreeView::activated, this, &ActionSearch::choose);
     filter({});
     m_field->setFocus();
 }
 
-void ActionPalette::makeView()
+void ActionSearch::makeView()
 {
     m_view->setModel(m_list);
     m_view->setRootIsDecorated(false);
@@ -57,14 +57,14 @@ void ActionPalette::makeView()
     m_view->header()->setSectionResizeMode(ActionList::KeyColumn, QHeaderView::Stretch);
 }
 
-void ActionPalette::filter(const QString& typed)
+void ActionSearch::filter(const QString& typed)
 {
     m_list->setFilter(typed);
     m_view->setCurrentIndex(m_list->index(firstEnabledRow(0, 1), 0));
 }
 
 /// The first row from one on that can be run; -1 if there is none.
-int ActionPalette::firstEnabledRow(int from, int step) const
+int ActionSearch::firstEnabledRow(int from, int step) const
 {
     for (int row = from; row >= 0 && row < m_list->rowCount(); row += step) {
         if (m_list->flags(m_list->index(row, 0)) & Qt::ItemIsEnabled) {
@@ -74,7 +74,7 @@ int ActionPalette::firstEnabledRow(int from, int step) const
     return -1;
 }
 
-bool ActionPalette::eventFilter(QObject* watched, QEvent* event)
+bool ActionSearch::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != m_field || event->type() != QEvent::KeyPress) {
         return QDialog::eventFilter(watched, event);
@@ -96,7 +96,7 @@ bool ActionPalette::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
-void ActionPalette::choose(const QModelIndex& index)
+void ActionSearch::choose(const QModelIndex& index)
 {
     QAction* action = m_registry->action(m_list->name(index.row()));
     if (!index.isValid() || !action || !action->isEnabled()) {
@@ -107,11 +107,11 @@ void ActionPalette::choose(const QModelIndex& index)
     QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
 }
 
-void showPalette(MainWindow& window)
+void searchActions(MainWindow& window)
 {
-    auto* palette = new ActionPalette(window.registry(), &window);
-    palette->setAttribute(Qt::WA_DeleteOnClose);
-    palette->open();
+    auto* dialog = new ActionSearch(window.registry(), &window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
 }
 
 }  // namespace App

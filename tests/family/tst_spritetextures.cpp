@@ -1,9 +1,10 @@
-#include "assets/pixelstore.h"
-#include "assets/remapmodel.h"
-#include "assets/spritefile.h"
-#include "assets/spritetextures.h"
-#include "graphics/texture.h"
+#include "family/assets/pixelstore.h"
+#include "family/assets/remapmodel.h"
+#include "family/assets/spritefile.h"
+#include "family/assets/spritetextures.h"
 #include "support/gltest.h"
+
+#include <zorv/graphics/texture.h>
 
 #include <QtTest>
 

@@ -1,4 +1,4 @@
-#include "app/picturescene.h"
+#include "app/picture/picturescene.h"
 
 #include "app/assets/spritepanel.h"
 #include "app/code/codetexteditor.h"
@@ -10,15 +10,16 @@
 #include "app/stage/stagecommands.h"
 #include "app/stage/stagerenderer.h"
 #include "app/stage/stageview.h"
-#include "code/codedoc/contactboxescode.h"
-#include "core/interface.h"
-#include "core/message.h"
-#include "core/messages.h"
-#include "editors/code/codeeditor.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+
+#include <zorv/code/codedoc/contactboxescode.h>
+#include <zorv/core/interface.h>
+#include <zorv/core/message.h>
+#include <zorv/core/messages.h>
+#include <zorv/editors/code/codeeditor.h>
 
 #include <QAction>
 #include <QApplication>
@@ -28,7 +29,6 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QThread>
-
 #include <algorithm>
 #include <iterator>
 #include <tuple>

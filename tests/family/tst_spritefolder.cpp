@@ -1,9 +1,10 @@
 #include "plainsprites.h"
 
-#include "assets/newsprites.h"
-#include "assets/spritefolder.h"
-#include "core/filesystemarchive.h"
-#include "media/losslessimages.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/spritefolder.h"
+
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/losslessimages.h>
 
 #include <QDir>
 #include <QTemporaryDir>

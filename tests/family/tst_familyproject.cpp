@@ -1,26 +1,26 @@
 #include "familydump.h"
 
-#include "assets/familysprite.h"
-#include "assets/newsprites.h"
-#include "assets/soundfile.h"
-#include "assets/spritecollection.h"
-#include "check/check.h"
-#include "core/filesystemarchive.h"
-#include "core/messagelist.h"
-#include "media/soundsample.h"
-#include "project/familyenginemodel.h"
-#include "project/familyparentproject.h"
-#include "project/familyproject.h"
-#include "project/filereference.h"
+#include "family/assets/familysprite.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
+#include "family/check/check.h"
+#include "family/project/familyenginemodel.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "family/project/filereference.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
+
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/core/messagelist.h>
+#include <zorv/media/soundsample.h>
 
 #include <QAbstractItemModelTester>
 #include <QDir>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QtTest>
-
 #include <memory>
 
 using namespace Family;

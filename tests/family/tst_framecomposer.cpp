@@ -1,12 +1,12 @@
-#include "assets/newsprites.h"
-#include "assets/spritecollection.h"
-#include "familyanimations.h"
-#include "familydocument.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
-#include "stage/framecomposer.h"
-#include "stage/pictureraster.h"
-#include "stage/placedpicture.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/spritecollection.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/stage/framecomposer.h"
+#include "family/stage/pictureraster.h"
+#include "family/stage/placedpicture.h"
 
 #include <QTransform>
 #include <QtTest>

@@ -1,17 +1,17 @@
-#include "assets/soundfile.h"
-#include "cache/crc64.h"
-#include "core/filesystemarchive.h"
-#include "media/soundsample.h"
+#include "family/assets/soundfile.h"
 #include "support/brokenbytes.h"
 #include "support/memoryarchive.h"
 #include "support/testinterface.h"
+
+#include <zorv/cache/crc64.h>
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/soundsample.h>
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
-
 #include <algorithm>
 
 using namespace Family;
@@ -105,7 +105,7 @@ void seal(QByteArray& file, int start, int size)
 
 }  // namespace
 
-class tst_SoundFile : public QObject
+class TestSoundFile : public QObject
 {
     Q_OBJECT
 
@@ -131,7 +131,7 @@ private:
 
 // Every operation against a plain list, every step undone and done again, every state saved and
 // opened.
-void tst_SoundFile::randomOperations()
+void TestSoundFile::randomOperations()
 {
     QRandomGenerator random(1835);
     SoundFile file;
@@ -213,7 +213,7 @@ void tst_SoundFile::randomOperations()
     }
 }
 
-void tst_SoundFile::equalSamplesAreStoredOnce()
+void TestSoundFile::equalSamplesAreStoredOnce()
 {
     SoundFile file;
     QRandomGenerator noise(7);
@@ -227,7 +227,7 @@ void tst_SoundFile::equalSamplesAreStoredOnce()
     QCOMPARE(read(path("three.sounds")).size(), read(path("one.sounds")).size() + 2 * RecordSize);
 }
 
-QByteArray tst_SoundFile::smallFile()
+QByteArray TestSoundFile::smallFile()
 {
     SoundFile file;
     file.add(0, "1,2", sample(QByteArray(200, 'a')));
@@ -240,7 +240,7 @@ QByteArray tst_SoundFile::smallFile()
 
 // Whatever became of a byte: the sounds that are whole play what they did, the others are told, and
 // saving loses no byte and changes nothing.
-void tst_SoundFile::brokenForms()
+void TestSoundFile::brokenForms()
 {
     const QByteArray whole = smallFile();
     SoundFile sound;
@@ -271,7 +271,7 @@ void tst_SoundFile::brokenForms()
     QVERIFY(opened > 4 * RecordSize * 4);
 }
 
-void tst_SoundFile::brokenRecords_data()
+void TestSoundFile::brokenRecords_data()
 {
     QTest::addColumn<int>("at");
     QTest::addColumn<quint64>("value");
@@ -293,7 +293,7 @@ void tst_SoundFile::brokenRecords_data()
 }
 
 // Values that no damage makes, but a program that writes such files could.
-void tst_SoundFile::brokenRecords()
+void TestSoundFile::brokenRecords()
 {
     QFETCH(int, at);
     QFETCH(quint64, value);
@@ -327,7 +327,7 @@ void tst_SoundFile::brokenRecords()
     QCOMPARE(file.sound(1)->sampleData(), QByteArray("whole again!"));
 }
 
-void tst_SoundFile::noSoundFile_data()
+void TestSoundFile::noSoundFile_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::addColumn<QString>("reason");
@@ -341,7 +341,7 @@ void tst_SoundFile::noSoundFile_data()
     QTest::newRow("newer") << newer << "newer version";
 }
 
-void tst_SoundFile::noSoundFile()
+void TestSoundFile::noSoundFile()
 {
     QFETCH(QByteArray, data);
     QFETCH(QString, reason);
@@ -356,7 +356,7 @@ void tst_SoundFile::noSoundFile()
     QVERIFY(file.steps().canUndo());
 }
 
-void tst_SoundFile::everyKindOfCache_data()
+void TestSoundFile::everyKindOfCache_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<bool>("hasPlace");
@@ -365,7 +365,7 @@ void tst_SoundFile::everyKindOfCache_data()
     QTest::newRow("no place for a temporary file") << 2 << false;
 }
 
-void tst_SoundFile::everyKindOfCache()
+void TestSoundFile::everyKindOfCache()
 {
     QFETCH(int, type);
     QFETCH(bool, hasPlace);
@@ -386,7 +386,7 @@ void tst_SoundFile::everyKindOfCache()
     QCOMPARE(file.sound(1)->sampleData(), QByteArray(1000, 'x'));
 }
 
-void tst_SoundFile::identity()
+void TestSoundFile::identity()
 {
     smallFile();
     SoundFile file;
@@ -416,7 +416,7 @@ void tst_SoundFile::identity()
     QVERIFY(file.isEmpty() && !file.isModified() && file.fileName().isEmpty());
 }
 
-void tst_SoundFile::formsThatAreRefused()
+void TestSoundFile::formsThatAreRefused()
 {
     SoundFile file;
     const auto isTaken = [&file](quint16 channels, quint16 bits, qint32 rate) {
@@ -438,5 +438,5 @@ void tst_SoundFile::formsThatAreRefused()
     QCOMPARE(file.sound(0)->id().text(), QString("0,1"));
 }
 
-QTEST_GUILESS_MAIN(tst_SoundFile)
+QTEST_GUILESS_MAIN(TestSoundFile)
 #include "tst_soundfile.moc"

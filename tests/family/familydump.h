@@ -1,16 +1,17 @@
 #pragma once
 
-#include "code/codedoc/codeblockdata.h"
-#include "code/codedoc/contactboxescode.h"
-#include "core/messages.h"
-#include "familyanimations.h"
-#include "familydocument.h"
-#include "nodepath.h"
-#include "nodes/animationnode.h"
-#include "nodes/boxnode.h"
-#include "nodes/framenode.h"
-#include "nodes/groupnode.h"
-#include "nodes/valuenode.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodepath.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/boxnode.h"
+#include "family/nodes/framenode.h"
+#include "family/nodes/groupnode.h"
+#include "family/nodes/valuenode.h"
+
+#include <zorv/code/codedoc/codeblockdata.h>
+#include <zorv/code/codedoc/contactboxescode.h>
+#include <zorv/core/messages.h>
 
 #include <QTextBlock>
 

@@ -1,9 +1,9 @@
-#include "familyanimations.h"
-#include "familydocument.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
-#include "stage/animationrow.h"
-#include "stage/followedanimation.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/stage/animationrow.h"
+#include "family/stage/followedanimation.h"
 
 #include <QRandomGenerator>
 #include <QTextCursor>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "assets/palettelist.h"
-#include "assets/remapmodel.h"
-#include "assets/spritecollection.h"
+#include "family/assets/palettelist.h"
+#include "family/assets/remapmodel.h"
+#include "family/assets/spritecollection.h"
 
 #include <QImage>
 #include <QStringList>

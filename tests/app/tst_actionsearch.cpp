@@ -1,8 +1,8 @@
 #include "windowfixture.h"
 
 #include "app/actions/actionlist.h"
-#include "app/actions/actionpalette.h"
 #include "app/actions/actionregistry.h"
+#include "app/actions/actionsearch.h"
 #include "app/actions/keysdialog.h"
 #include "app/actions/keysheet.h"
 #include "app/actions/wordmatch.h"
@@ -16,11 +16,11 @@
 #include <QTreeView>
 
 using App::ActionList;
-using App::ActionPalette;
+using App::ActionSearch;
 using App::KeysDialog;
 
 /// Actions that are found by typing, and their keys on paper.
-class tst_Palette : public QObject
+class TestActionSearch : public QObject
 {
     Q_OBJECT
 
@@ -51,13 +51,13 @@ private:
     std::unique_ptr<WindowFixture> m;
 };
 
-void tst_Palette::init()
+void TestActionSearch::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m = std::make_unique<WindowFixture>(m_folder->filePath(QStringLiteral("zorv.ini")));
 }
 
-void tst_Palette::matches_data()
+void TestActionSearch::matches_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<bool>("fits");
@@ -74,7 +74,7 @@ void tst_Palette::matches_data()
     QTest::newRow("other letters") << QString::fromUtf8("Über") << false;
 }
 
-void tst_Palette::matches()
+void TestActionSearch::matches()
 {
     QFETCH(QString, typed);
     QFETCH(bool, fits);
@@ -82,7 +82,7 @@ void tst_Palette::matches()
     QVERIFY(App::matchWords(QString::fromUtf8("über"), QString::fromUtf8("Über Zorv"), {}) > 0);
 }
 
-void tst_Palette::prefersTheBetter()
+void TestActionSearch::prefersTheBetter()
 {
     // From the best to the worst for "run".
     const QList<QPair<QString, QString>> actions{{"Run in engine", "File"},
@@ -98,7 +98,7 @@ void tst_Palette::prefersTheBetter()
     }
 }
 
-void tst_Palette::listsWhatCanBeReached()
+void TestActionSearch::listsWhatCanBeReached()
 {
     ActionList list(m->window->registry());
     const QAbstractItemModelTester tester(&list);
@@ -129,26 +129,26 @@ void tst_Palette::listsWhatCanBeReached()
     QVERIFY(!has(QStringLiteral("snd_thing")));
 }
 
-void tst_Palette::runsWhatIsTyped()
+void TestActionSearch::runsWhatIsTyped()
 {
     QTest::keyClick(m->window.get(), Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
-    QPointer<ActionPalette> palette = m->window->findChild<ActionPalette*>();
-    QVERIFY(palette && QTest::qWaitForWindowActive(palette));
-    auto* field = palette->findChild<QLineEdit*>();
+    QPointer<ActionSearch> dialog = m->window->findChild<ActionSearch*>();
+    QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
+    auto* field = dialog->findChild<QLineEdit*>();
     QTRY_COMPARE(QApplication::focusWidget(), field);
     QSignalSpy shown(m->action("show_nodes"), &QAction::triggered);
     QTest::keyClicks(field, QStringLiteral("view nod"));
     QTest::keyClick(field, Qt::Key_Return);
     QTRY_COMPARE(shown.count(), 1);
-    QTRY_VERIFY(!palette);
+    QTRY_VERIFY(!dialog);
 }
 
-void tst_Palette::skipsWhatIsDisabled()
+void TestActionSearch::skipsWhatIsDisabled()
 {
-    auto* palette = open<ActionPalette>("palette");
-    QVERIFY(palette);
-    auto* field = palette->findChild<QLineEdit*>();
-    auto* view = palette->findChild<QTreeView*>();
+    auto* dialog = open<ActionSearch>("search_actions");
+    QVERIFY(dialog);
+    auto* field = dialog->findChild<QLineEdit*>();
+    auto* view = dialog->findChild<QTreeView*>();
     QSignalSpy saved(m->action("save"), &QAction::triggered);
     QVERIFY(!m->action("save")->isEnabled());
     const auto name = [&] {
@@ -165,13 +165,13 @@ void tst_Palette::skipsWhatIsDisabled()
     field->clear();
     QTest::keyClicks(field, QStringLiteral("no such action at all"));
     QTest::keyClick(field, Qt::Key_Return);
-    QVERIFY(palette->isVisible());
+    QVERIFY(dialog->isVisible());
     QTest::keyClick(field, Qt::Key_Escape);
-    QTRY_VERIFY(!m->window->findChild<ActionPalette*>());
+    QTRY_VERIFY(!m->window->findChild<ActionSearch*>());
     QCOMPARE(saved.count(), 0);
 }
 
-void tst_Palette::showsTheKeys()
+void TestActionSearch::showsTheKeys()
 {
     m->window->registry()->setShortcut(QStringLiteral("about"), QKeySequence("Ctrl+Alt+A"));
     auto* dialog = open<KeysDialog>("keys");
@@ -185,7 +185,7 @@ void tst_Palette::showsTheKeys()
     QCOMPARE(list->index(0, ActionList::MenuColumn).data().toString(), QStringLiteral("Help"));
 }
 
-void tst_Palette::savesTheKeys_data()
+void TestActionSearch::savesTheKeys_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("extension");
@@ -196,7 +196,7 @@ void tst_Palette::savesTheKeys_data()
                           << ".html" << QByteArray("<!DOCTYPE html>");
 }
 
-void tst_Palette::savesTheKeys()
+void TestActionSearch::savesTheKeys()
 {
     QFETCH(QString, button);
     QFETCH(QString, extension);
@@ -224,5 +224,5 @@ void tst_Palette::savesTheKeys()
     QCOMPARE(m->dialogs.count(QStringLiteral("error")), 1);
 }
 
-QTEST_MAIN(tst_Palette)
-#include "tst_palette.moc"
+QTEST_MAIN(TestActionSearch)
+#include "tst_actionsearch.moc"

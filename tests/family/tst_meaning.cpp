@@ -1,12 +1,12 @@
-#include "meaning/completions.h"
-#include "meaning/linecontext.h"
-#include "meaning/reference.h"
-#include "meaning/wordmeaning.h"
+#include "family/meaning/completions.h"
+#include "family/meaning/linecontext.h"
+#include "family/meaning/reference.h"
+#include "family/meaning/wordmeaning.h"
 
-#include "familydocument.h"
-#include "grammar/grammar.h"
-#include "project/familyparentproject.h"
-#include "project/familyproject.h"
+#include "family/familydocument.h"
+#include "family/grammar/grammar.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
 #include "support/testinterface.h"
 
 #include <QDir>
@@ -52,7 +52,7 @@ struct MarkedText
 }  // namespace
 
 /// What a place of a text offers, means and refers to, in a project of four files.
-class MeaningTest : public QObject
+class TestMeaning : public QObject
 {
     Q_OBJECT
 
@@ -80,12 +80,12 @@ private:
     TestInterface host;
 };
 
-void MeaningTest::initTestCase()
+void TestMeaning::initTestCase()
 {
     setGlobalInterface(&host);
 }
 
-void MeaningTest::write(const char* name, const QByteArray& data) const
+void TestMeaning::write(const char* name, const QByteArray& data) const
 {
     const QString path = folder->filePath(QLatin1String("characters/hero/") + QLatin1String(name));
     QVERIFY(QDir().mkpath(QFileInfo(path).path()));
@@ -94,7 +94,7 @@ void MeaningTest::write(const char* name, const QByteArray& data) const
     QCOMPARE(file.write(data), qint64(data.size()));
 }
 
-void MeaningTest::init()
+void TestMeaning::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     write("hero.character", mainText);
@@ -112,7 +112,7 @@ void MeaningTest::init()
     QCOMPARE(project->documents().size(), 4);
 }
 
-void MeaningTest::cleanup()
+void TestMeaning::cleanup()
 {
     project->release();
     project = nullptr;
@@ -121,7 +121,7 @@ void MeaningTest::cleanup()
 }
 
 /// The text as that of the project's code file.
-FamilyDocument* MeaningTest::take(const MarkedText& marked)
+FamilyDocument* TestMeaning::take(const MarkedText& marked)
 {
     const QList<FamilyDocument*> documents = project->documents();
     for (FamilyDocument* document : documents) {
@@ -134,7 +134,7 @@ FamilyDocument* MeaningTest::take(const MarkedText& marked)
 }
 
 // clang-format off
-void MeaningTest::completions_data()
+void TestMeaning::completions_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("some");
@@ -175,7 +175,7 @@ void MeaningTest::completions_data()
 }
 // clang-format on
 
-void MeaningTest::completions()
+void TestMeaning::completions()
 {
     QFETCH(QString, text);
     QFETCH(QStringList, some);
@@ -198,7 +198,7 @@ void MeaningTest::completions()
 }
 
 /// What is offered for a value, a frame or a group is free of problems when it stands there.
-void MeaningTest::everyOfferIsRead()
+void TestMeaning::everyOfferIsRead()
 {
     QStringList texts{"[|]", "animation 1\nframe 1,0 flip |"};
     for (const GroupInfo* group : Grammar::groups()) {
@@ -234,7 +234,7 @@ void MeaningTest::everyOfferIsRead()
 }
 
 // clang-format off
-void MeaningTest::meanings_data()
+void TestMeaning::meanings_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("title");
@@ -264,7 +264,7 @@ void MeaningTest::meanings_data()
 }
 // clang-format on
 
-void MeaningTest::meanings()
+void TestMeaning::meanings()
 {
     QFETCH(QString, text);
     QFETCH(QString, title);
@@ -277,7 +277,7 @@ void MeaningTest::meanings()
 }
 
 // clang-format off
-void MeaningTest::references_data()
+void TestMeaning::references_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("word");
@@ -299,7 +299,7 @@ void MeaningTest::references_data()
 }
 // clang-format on
 
-void MeaningTest::references()
+void TestMeaning::references()
 {
     QFETCH(QString, text);
     const MarkedText marked(text);
@@ -324,7 +324,7 @@ void MeaningTest::references()
 }
 
 /// Columns stay within the line, whatever stands in it and wherever one asks.
-void MeaningTest::anyPlaceOfAnyText()
+void TestMeaning::anyPlaceOfAnyText()
 {
     const MarkedText marked(
         "|[move \"\\\n[.\nfile = \"\\\n= =\n[[]]\nanimation = \u05d0\u05d1 \U0001f600,\n"
@@ -347,7 +347,7 @@ void MeaningTest::anyPlaceOfAnyText()
     }
 }
 
-void MeaningTest::withoutProject()
+void TestMeaning::withoutProject()
 {
     FamilyDocument document(FileKind::Code);
     document.setPlainText("[move a]\nanimation = 1\nfile = \nanimation 1\n");
@@ -357,5 +357,5 @@ void MeaningTest::withoutProject()
     QVERIFY(!meaningAt(&document, nullptr, 1, 12).isEmpty());
 }
 
-QTEST_MAIN(MeaningTest)
+QTEST_MAIN(TestMeaning)
 #include "tst_meaning.moc"

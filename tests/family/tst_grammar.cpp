@@ -1,17 +1,17 @@
-#include "assets/familysprite.h"
-#include "assets/palettelist.h"
-#include "assets/soundfile.h"
-#include "assets/spritefile.h"
-#include "check/check.h"
-#include "familydocument.h"
-#include "grammar/grammar.h"
-#include "grammar/linereader.h"
-#include "nodes/groupnode.h"
-#include "nodes/valuenode.h"
+#include "family/assets/familysprite.h"
+#include "family/assets/palettelist.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritefile.h"
+#include "family/check/check.h"
+#include "family/familydocument.h"
+#include "family/grammar/grammar.h"
+#include "family/grammar/linereader.h"
+#include "family/nodes/groupnode.h"
+#include "family/nodes/valuenode.h"
 
-#include "code/codedoc/codeblockdata.h"
-#include "core/filesystemarchive.h"
-#include "media/soundsample.h"
+#include <zorv/code/codedoc/codeblockdata.h>
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/soundsample.h>
 
 #include <QDate>
 #include <QDir>

@@ -1,9 +1,10 @@
 #include "plainsprites.h"
 
-#include "assets/pixelstore.h"
-#include "assets/spritefile.h"
-#include "core/filesystemarchive.h"
-#include "media/losslessimages.h"
+#include "family/assets/pixelstore.h"
+#include "family/assets/spritefile.h"
+
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/losslessimages.h>
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>

@@ -11,14 +11,14 @@ class ActionList;
 class ActionRegistry;
 class MainWindow;
 
-/// All actions, to be found by typing. Return runs the chosen one when the palette has closed.
-class ActionPalette : public QDialog
+/// All actions, to be found by typing. Return runs the chosen one when the dialog has closed.
+class ActionSearch : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// The registry is not owned and must outlive the palette.
-    explicit ActionPalette(ActionRegistry* registry, QWidget* parent = nullptr);
+    /// The registry is not owned and must outlive the dialog.
+    explicit ActionSearch(ActionRegistry* registry, QWidget* parent = nullptr);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -34,7 +34,7 @@ private:
     QTreeView* m_view;
 };
 
-/// Opens the palette on a window.
-void showPalette(MainWindow& window);
+/// Opens the dialog on a window.
+void searchActions(MainWindow& window);
 
 }  // namespace App

@@ -1,8 +1,8 @@
-#include "app/screenshot.h"
+#include "app/picture/screenshot.h"
 
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
-#include "app/picturescene.h"
+#include "app/picture/picturescene.h"
 
 #include <QApplication>
 #include <QDir>
