@@ -1,6 +1,6 @@
 #pragma once
 
-#include "assets/recordbytes.h"
+#include "family/assets/recordbytes.h"
 #include "support/memoryarchive.h"
 
 #include <QStringList>

@@ -91,7 +91,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size)
 {
     static const QTemporaryDir folder;
-    static Family::HostInterface host;
+    static Operations::HostInterface host;
     static SilentDialogs dialogs;
     Zorv::Dialogs::setInstance(&dialogs);
     const QString snippets = folder.filePath(QStringLiteral("snippets"));

@@ -2,7 +2,7 @@
 // once with right checksums, for these keep all else that is wrong out.
 
 #include "assetfile.h"
-#include "assets/soundfile.h"
+#include "family/assets/soundfile.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // once with right checksums, for these keep all else that is wrong out.
 
 #include "assetfile.h"
-#include "assets/spritefile.h"
+#include "family/assets/spritefile.h"
 
 #include <QImage>
 

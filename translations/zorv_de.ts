@@ -17,7 +17,7 @@
     </message>
 </context>
 <context>
-    <name>App::ActionPalette</name>
+    <name>App::ActionSearch</name>
     <message>
         <source>Find action</source>
         <translation>Aktion suchen</translation>
@@ -2776,226 +2776,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
-    <name>Family::AbandonedTexts</name>
-    <message>
-        <source>The copy cannot be read.</source>
-        <translation>Die Kopie kann nicht gelesen werden.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::AnimationEdits</name>
-    <message>
-        <source>There is no animation in the file.</source>
-        <translation>In der Datei ist keine Animation.</translation>
-    </message>
-    <message>
-        <source>There is no animation &apos;%1&apos;. Expected a place from #0 to #%2.</source>
-        <translation>Die Animation &apos;%1&apos; gibt es nicht. Erwartet: ein Platz von #0 bis #%2.</translation>
-    </message>
-    <message>
-        <source>There is no animation &apos;%1&apos;. %2</source>
-        <translation>Die Animation &apos;%1&apos; gibt es nicht. %2</translation>
-    </message>
-    <message>
-        <source>There are several animations &apos;%1&apos;. Name one by its place, &apos;#%2&apos; or &apos;#%3&apos;.</source>
-        <translation>Es gibt mehrere Animationen &apos;%1&apos;. Bitte eine mit ihrem Platz nennen, &apos;#%2&apos; oder &apos;#%3&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; cannot name an animation. Write a number, or a word of letters, digits, &apos;_&apos; and &apos;-&apos;.</source>
-        <translation>&apos;%1&apos; kann keine Animation benennen. Bitte eine Zahl oder ein Wort aus Buchstaben, Ziffern, &apos;_&apos; und &apos;-&apos; schreiben.</translation>
-    </message>
-    <message>
-        <source>There is an animation &apos;%1&apos; already. Choose another name.</source>
-        <translation>Die Animation &apos;%1&apos; gibt es schon. Bitte einen anderen Namen wählen.</translation>
-    </message>
-    <message>
-        <source>Remove animations</source>
-        <translation>Animationen entfernen</translation>
-    </message>
-</context>
-<context>
-    <name>Family::AnimationGif</name>
-    <message>
-        <source>The frames are too far from each other for one picture.</source>
-        <translation>Die Bilder liegen für ein gemeinsames Bild zu weit auseinander.</translation>
-    </message>
-    <message>
-        <source>The animation has no frame to show.</source>
-        <translation>Die Animation hat kein Bild, das zu sehen wäre.</translation>
-    </message>
-    <message>
-        <source>The animation is larger than a GIF file can be, 65535 by 65535.</source>
-        <translation>Die Animation ist größer, als eine GIF-Datei sein kann: 65535 mal 65535.</translation>
-    </message>
-    <message>
-        <source>There is no sprite file beside &apos;%1&apos;. Name one with &apos;--sprites&apos;.</source>
-        <translation>Neben &apos;%1&apos; steht keine Sprite-Datei. Bitte eine mit &apos;--sprites&apos; nennen.</translation>
-    </message>
-    <message>
-        <source>There are several sprite files beside &apos;%1&apos;: %2. Name one with &apos;--sprites&apos;.</source>
-        <translation>Neben &apos;%1&apos; stehen mehrere Sprite-Dateien: %2. Bitte eine mit &apos;--sprites&apos; nennen.</translation>
-    </message>
-    <message>
-        <source>The frames together are too large for one file. Choose a smaller zoom.</source>
-        <translation>Die Einzelbilder zusammen sind zu groß für eine Datei. Bitte einen kleineren Zoom wählen.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::AnimationRender</name>
-    <message>
-        <source>The animation has no frame.</source>
-        <translation>Die Animation hat kein Einzelbild.</translation>
-    </message>
-    <message>
-        <source>There is no frame %1. Expected a number from 0 to %2.</source>
-        <translation>Es gibt kein Einzelbild %1. Erwartet wurde eine Zahl von 0 bis %2.</translation>
-    </message>
-    <message>
-        <source>The sheet would be too large. Choose a smaller zoom.</source>
-        <translation>Der Bogen würde zu groß. Bitte einen kleineren Zoom wählen.</translation>
-    </message>
-    <message>
-        <source>The sheet is larger than the memory. Choose a smaller zoom.</source>
-        <translation>Der Bogen ist größer als der Speicher. Bitte einen kleineren Zoom wählen.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::AssetNames</name>
-    <message>
-        <source>The group %1 has no room for &apos;%2&apos;.</source>
-        <translation>Die Gruppe %1 hat keinen Platz für &apos;%2&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; does not tell its group and number. Expected a name such as &apos;200-3.%2&apos;.</source>
-        <translation>&apos;%1&apos; nennt Gruppe und Nummer nicht. Erwartet: ein Name wie &apos;200-3.%2&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; and &apos;%2&apos; both go to %3.</source>
-        <translation>&apos;%1&apos; und &apos;%2&apos; gehören beide zu %3.</translation>
-    </message>
-</context>
-<context>
     <name>Family::AssetReload</name>
     <message>
         <source>%1 is being worked with, and was not read again. Close its project and open it to see what has changed on the disk.</source>
         <translation>Mit %1 wird gerade gearbeitet, die Datei wurde nicht neu gelesen. Schließen Sie das Projekt und öffnen Sie es wieder, um zu sehen, was sich auf der Platte geändert hat.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::Backups</name>
-    <message>
-        <source>Before restore</source>
-        <translation>Vor Wiederherstellung</translation>
-    </message>
-    <message>
-        <source>Nothing was restored, for not all files that would change could be copied aside first. Check that there is space on the disk, or restore without a backup of the present files.</source>
-        <translation>Nichts wurde wiederhergestellt, denn nicht alle Dateien, die sich ändern würden, konnten zuvor gesichert werden. Bitte prüfen, ob auf dem Datenträger Platz ist, oder ohne Sicherung der jetzigen Dateien wiederherstellen.</translation>
-    </message>
-    <message>
-        <source>The name of the backup is empty. Give it a name such as &quot;Before the new moves&quot;.</source>
-        <translation>Der Name der Sicherung ist leer. Bitte einen Namen wie &quot;Vor den neuen Angriffen&quot; geben.</translation>
-    </message>
-    <message>
-        <source>The name &apos;%1&apos; cannot be that of a folder: it must have none of %2 and no control characters. Choose another name.</source>
-        <translation>Der Name &apos;%1&apos; kann nicht der eines Ordners sein: Er darf keines von %2 und keine Steuerzeichen enthalten. Bitte einen anderen Namen wählen.</translation>
-    </message>
-    <message>
-        <source>The name &apos;%1&apos; ends in a point or a blank, which some systems drop. Choose another name.</source>
-        <translation>Der Name &apos;%1&apos; endet mit einem Punkt oder Leerzeichen, was manche Systeme weglassen. Bitte einen anderen Namen wählen.</translation>
-    </message>
-    <message>
-        <source>The name of the backup is too long. Choose one of at most %1 letters.</source>
-        <translation>Der Name der Sicherung ist zu lang. Bitte einen mit höchstens %1 Buchstaben wählen.</translation>
-    </message>
-    <message>
-        <source>There is no backup &apos;%1&apos; in %2. Choose one of the list of backups.</source>
-        <translation>Die Sicherung &apos;%1&apos; gibt es in %2 nicht. Bitte eine aus der Liste der Sicherungen wählen.</translation>
-    </message>
-    <message>
-        <source>Cannot make the folder %1. Check that there is space on the disk and that the folder of the game may be written to.</source>
-        <translation>Der Ordner %1 kann nicht angelegt werden. Bitte prüfen, ob auf dem Datenträger Platz ist und in den Spielordner geschrieben werden darf.</translation>
-    </message>
-    <message>
-        <source>The game cannot be written to, so nothing was restored.</source>
-        <translation>In das Spiel kann nicht geschrieben werden; nichts wurde wiederhergestellt.</translation>
-    </message>
-    <message>
-        <source>Some files were not restored and are as before. Check that there is space on the disk and that they may be written to, then restore again.</source>
-        <translation>Einige Dateien wurden nicht wiederhergestellt und sind wie zuvor. Bitte prüfen, ob auf dem Datenträger Platz ist und in sie geschrieben werden darf, und dann erneut wiederherstellen.</translation>
-    </message>
-    <message>
-        <source>The restore was given up in its middle: some files are those of the backup, the others are as before. Restore again, or put back what was there before.</source>
-        <translation>Die Wiederherstellung wurde mittendrin abgebrochen: Einige Dateien sind die der Sicherung, die anderen sind wie zuvor. Bitte erneut wiederherstellen oder zurückholen, was vorher da war.</translation>
-    </message>
-    <message>
-        <source>There is no backup, for it would not be complete. Check that there is space on the disk and that all files may be read, then try again.</source>
-        <translation>Es wurde keine Sicherung angelegt, denn sie wäre nicht vollständig. Bitte prüfen, ob auf dem Datenträger Platz ist und alle Dateien gelesen werden dürfen, und es dann erneut versuchen.</translation>
-    </message>
-    <message>
-        <source>Nothing is restored: %1 lies behind a link that leads out of the game. Remove the link, or put a folder or file in its place.</source>
-        <translation>Nichts wird wiederhergestellt: %1 liegt hinter einem Link, der aus dem Spiel herausführt. Entfernen Sie den Link, oder legen Sie einen Ordner oder eine Datei an seine Stelle.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::DiffPicture</name>
-    <message>
-        <source>Nothing can be drawn of the frames that differ.</source>
-        <translation>Von den Einzelbildern, die sich unterscheiden, lässt sich nichts zeichnen.</translation>
-    </message>
-    <message>
-        <source>The picture of the frames that differ would be too large.</source>
-        <translation>Das Bild der Einzelbilder, die sich unterscheiden, würde zu groß.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::DocumentFile</name>
-    <message>
-        <source>Expected the name of a file; found an empty text.</source>
-        <translation>Erwartet: der Name einer Datei; gefunden: ein leerer Text.</translation>
-    </message>
-    <message>
-        <source>Cannot open %1: It is larger than %2 MB. Divide it into several files.</source>
-        <translation>%1 kann nicht geöffnet werden: Die Datei ist größer als %2 MB. Bitte in mehrere Dateien teilen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; (%2)</source>
-        <translation>&apos;%1&apos; (%2)</translation>
-    </message>
-    <message>
-        <source>Encoding</source>
-        <translation>Kodierung</translation>
-    </message>
-    <message>
-        <source>%1 does not come back byte for byte from its encoding, %2: saving it would change characters.</source>
-        <translation>%1 kommt aus der Kodierung %2 nicht Byte für Byte zurück: Speichern würde Zeichen ändern.</translation>
-    </message>
-    <message>
-        <source>Open it in %1</source>
-        <translation>In %1 öffnen</translation>
-    </message>
-    <message>
-        <source>Keep %1</source>
-        <translation>%1 behalten</translation>
-    </message>
-    <message>
-        <source>%1 It does from %2.</source>
-        <translation>%1 Aus %2 kommt sie so zurück.</translation>
-    </message>
-    <message>
-        <source>%1, line %2: The encoding %3 has no %4. Change the character, or save the file in UTF-8.</source>
-        <translation>%1, Zeile %2: Die Kodierung %3 kennt kein %4. Bitte das Zeichen ändern oder die Datei in UTF-8 speichern.</translation>
-    </message>
-    <message>
-        <source>Saving %1 ends each of its lines with a carriage return and a line feed.</source>
-        <translation>Beim Speichern von %1 endet jede Zeile mit Wagenrücklauf und Zeilenvorschub.</translation>
-    </message>
-    <message>
-        <source>Save it in UTF-8</source>
-        <translation>In UTF-8 speichern</translation>
-    </message>
-    <message>
-        <source>Do not save</source>
-        <translation>Nicht speichern</translation>
     </message>
 </context>
 <context>
@@ -3101,29 +2885,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
-    <name>Family::FilePatterns</name>
-    <message>
-        <source>Expected the name of a file; found an empty text.</source>
-        <translation>Erwartet: der Name einer Datei; gefunden: ein leerer Text.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is a folder. Name files in it, as with &apos;%2&apos;.</source>
-        <translation>&apos;%1&apos; ist ein Ordner. Bitte Dateien darin nennen, etwa mit &apos;%2&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not a plain file. Name a file on a disk.</source>
-        <translation>&apos;%1&apos; ist keine gewöhnliche Datei. Bitte eine Datei auf einem Datenträger nennen.</translation>
-    </message>
-    <message>
-        <source>No file matches &apos;%1&apos;.</source>
-        <translation>Auf &apos;%1&apos; passt keine Datei.</translation>
-    </message>
-    <message>
-        <source>There is no file &apos;%1&apos;.</source>
-        <translation>Es gibt keine Datei &apos;%1&apos;.</translation>
-    </message>
-</context>
-<context>
     <name>Family::FolderContent</name>
     <message>
         <source>%1 is no image that can be read.</source>
@@ -3165,136 +2926,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
-    <name>Family::GameDocuments</name>
-    <message>
-        <source>There is no file or folder &apos;%1&apos;.</source>
-        <translation>Die Datei oder den Ordner &apos;%1&apos; gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>There is no character or stage in &apos;%1&apos;. Expected files such as &apos;characters/hero/hero.character&apos;.</source>
-        <translation>In &apos;%1&apos; ist weder Figur noch Bühne. Erwartet werden Dateien wie &apos;characters/hero/hero.character&apos;.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::HostInterface</name>
-    <message>
-        <source>All known files</source>
-        <translation>Alle bekannten Dateien</translation>
-    </message>
-    <message>
-        <source>Find</source>
-        <translation>Suchen</translation>
-    </message>
-</context>
-<context>
-    <name>Family::ImageEdits</name>
-    <message>
-        <source>Images</source>
-        <translation>Bilder</translation>
-    </message>
-    <message>
-        <source>The result would be too large.</source>
-        <translation>Das Ergebnis wäre zu groß.</translation>
-    </message>
-    <message>
-        <source>It has no palette. Have its pixels take the nearest colours instead.</source>
-        <translation>Es hat keine Palette. Bitte seine Pixel stattdessen die nächsten Farben annehmen lassen.</translation>
-    </message>
-    <message>
-        <source>Colours</source>
-        <translation>Farben</translation>
-    </message>
-</context>
-<context>
-    <name>Family::ImageFiles</name>
-    <message>
-        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
-        <translation>&apos;%1&apos; lässt sich nicht öffnen: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
-    </message>
-    <message>
-        <source>Cannot read &apos;%1&apos;: it is no whole image of the format of its suffix. Expected .png, .pcx, .bmp or .gif.</source>
-        <translation>&apos;%1&apos; lässt sich nicht lesen: Es ist kein vollständiges Bild im Format seiner Endung. Erwartet: .png, .pcx, .bmp oder .gif.</translation>
-    </message>
-    <message>
-        <source>Cannot write &apos;%1&apos;: &apos;%2&apos; is no format of images. Expected .png, .pcx, .bmp or .gif.</source>
-        <translation>&apos;%1&apos; lässt sich nicht schreiben: &apos;%2&apos; ist kein Bildformat. Erwartet: .png, .pcx, .bmp oder .gif.</translation>
-    </message>
-    <message>
-        <source>Cannot write &apos;%1&apos;: an image of %2 by %3 does not fit the format. Choose another one.</source>
-        <translation>&apos;%1&apos; lässt sich nicht schreiben: Ein Bild von %2 mal %3 passt nicht in das Format. Bitte ein anderes wählen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; was replaced without the transparency of the picture: %2 has no place for it. PNG keeps it.</source>
-        <translation>&apos;%1&apos; wurde ohne die Transparenz des Bildes ersetzt: %2 hat keinen Platz dafür. PNG behält sie.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; was written without the transparency of the picture: %2 has no place for it. PNG keeps it.</source>
-        <translation>&apos;%1&apos; wurde ohne die Transparenz des Bildes geschrieben: %2 hat keinen Platz dafür. PNG behält sie.</translation>
-    </message>
-    <message>
-        <source>PCX with indexed colours</source>
-        <translation>PCX mit indizierten Farben</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; was replaced without what is half transparent in the picture: GIF has no place for it. PNG keeps it.</source>
-        <translation>&apos;%1&apos; wurde ohne das ersetzt, was im Bild halb durchsichtig ist: GIF hat keinen Platz dafür. PNG behält es.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; was written without what is half transparent in the picture: GIF has no place for it. PNG keeps it.</source>
-        <translation>&apos;%1&apos; wurde ohne das geschrieben, was im Bild halb durchsichtig ist: GIF hat keinen Platz dafür. PNG behält es.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::OpenAnimation</name>
-    <message>
-        <source>There is no file or folder &apos;%1&apos;.</source>
-        <translation>Es gibt keine Datei und keinen Ordner &apos;%1&apos;.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; names its own sprites. &apos;--sprites&apos; is for a single file of animations.</source>
-        <translation>&apos;%1&apos; nennt seine eigenen Sprites. &apos;--sprites&apos; gilt für eine einzelne Datei mit Animationen.</translation>
-    </message>
-    <message>
-        <source>Animation &apos;%1&apos; is in several files: %2. Name one of them in place of &apos;%3&apos;, with &apos;--sprites&apos;.</source>
-        <translation>Die Animation &apos;%1&apos; steht in mehreren Dateien: %2. Bitte eine davon anstelle von &apos;%3&apos; nennen, mit &apos;--sprites&apos;.</translation>
-    </message>
-    <message>
-        <source>Animation &apos;%1&apos; is in several projects. Name one of them in place of &apos;%2&apos;: %3.</source>
-        <translation>Die Animation &apos;%1&apos; steht in mehreren Projekten. Bitte eines davon anstelle von &apos;%2&apos; nennen: %3.</translation>
-    </message>
-    <message>
-        <source>There is no character or stage in &apos;%1&apos;.</source>
-        <translation>In &apos;%1&apos; gibt es keine Figur und keine Bühne.</translation>
-    </message>
-    <message>
-        <source>There is no animation &apos;%1&apos; in &apos;%2&apos;. %3</source>
-        <translation>Es gibt keine Animation &apos;%1&apos; in &apos;%2&apos;. %3</translation>
-    </message>
-</context>
-<context>
-    <name>Family::OutputFiles</name>
-    <message>
-        <source>&apos;%1&apos; is one file, and there are %2 to write. Name a folder, or a pattern such as &apos;%3&apos;.</source>
-        <translation>&apos;%1&apos; ist eine Datei, zu schreiben sind %2. Bitte einen Ordner oder ein Muster wie &apos;%3&apos; nennen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; and &apos;%2&apos; would both become &apos;%3&apos;. Write them to different folders.</source>
-        <translation>&apos;%1&apos; und &apos;%2&apos; würden beide zu &apos;%3&apos;. Bitte in verschiedene Ordner schreiben.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no plain file and cannot be replaced.</source>
-        <translation>&apos;%1&apos; ist keine gewöhnliche Datei und lässt sich nicht ersetzen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is there already. Nothing is written.</source>
-        <translation>&apos;%1&apos; ist schon da. Nichts wurde geschrieben.</translation>
-    </message>
-    <message>
-        <source>%1 files are there already, such as &apos;%2&apos;. Nothing is written.</source>
-        <translation>%1 Dateien sind schon da, etwa &apos;%2&apos;. Nichts wurde geschrieben.</translation>
-    </message>
-</context>
-<context>
     <name>Family::PaletteList</name>
     <message>
         <source>Add palette</source>
@@ -3331,58 +2962,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Colors: %1</source>
         <translation>Farben: %1</translation>
-    </message>
-</context>
-<context>
-    <name>Family::PaletteWork</name>
-    <message>
-        <source>Cannot read a palette from &apos;%1&apos;. Expected .act, .pal, .aco, .ase, .txt, or an indexed image.</source>
-        <translation>Aus &apos;%1&apos; lässt sich keine Palette lesen. Erwartet: .act, .pal, .aco, .ase, .txt oder ein Bild mit Palette.</translation>
-    </message>
-    <message>
-        <source>Palettes</source>
-        <translation>Paletten</translation>
-    </message>
-    <message>
-        <source>Cannot write &apos;%1&apos;: palettes are written as .act.</source>
-        <translation>&apos;%1&apos; lässt sich nicht schreiben: Paletten werden als .act geschrieben.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::Preparation</name>
-    <message>
-        <source>Cannot write %1: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
-    </message>
-</context>
-<context>
-    <name>Family::RecoveryCopy</name>
-    <message>
-        <source>It is no copy of Zorv.</source>
-        <translation>Es ist keine Kopie von Zorv.</translation>
-    </message>
-    <message>
-        <source>The copy is damaged: it is cut, or its checksum is wrong.</source>
-        <translation>Die Kopie ist beschädigt: Sie ist abgeschnitten, oder ihre Prüfsumme ist falsch.</translation>
-    </message>
-    <message>
-        <source>Another version of Zorv made the copy. Open it with that one.</source>
-        <translation>Die Kopie stammt von einer anderen Version von Zorv. Bitte mit dieser öffnen.</translation>
-    </message>
-    <message>
-        <source>The copy has no sense.</source>
-        <translation>Die Kopie ergibt keinen Sinn.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::RecoveryKeeper</name>
-    <message>
-        <source>Unsaved texts cannot be put aside: %1. Save often, and make room on the disk.</source>
-        <translation>Ungespeicherte Texte können nicht gesichert werden: %1. Bitte oft speichern und auf dem Datenträger Platz schaffen.</translation>
-    </message>
-    <message>
-        <source>Unsaved texts cannot be put aside. %1</source>
-        <translation>Ungespeicherte Texte können nicht gesichert werden. %1</translation>
     </message>
 </context>
 <context>
@@ -3429,13 +3008,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Shown as</source>
         <translation>Gezeigt als</translation>
-    </message>
-</context>
-<context>
-    <name>Family::SessionFolder</name>
-    <message>
-        <source>Cannot make a folder in %1. Check its permissions, and that there is room on the disk.</source>
-        <translation>In %1 kann kein Ordner angelegt werden. Bitte die Rechte prüfen und ob auf dem Datenträger Platz ist.</translation>
     </message>
 </context>
 <context>
@@ -3490,85 +3062,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
-    <name>Family::SoundWork</name>
-    <message>
-        <source>Sound %1 is broken.</source>
-        <translation>Klang %1 ist beschädigt.</translation>
-    </message>
-    <message>
-        <source>Cannot write &apos;%1&apos;: sounds are written as .wav.</source>
-        <translation>&apos;%1&apos; lässt sich nicht schreiben: Klänge werden als .wav geschrieben.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; has a form that a sound file cannot hold. Expected 1 to 8 channels of 8, 16, 24 or 32 bits.</source>
-        <translation>&apos;%1&apos; hat eine Form, die eine Klangdatei nicht aufnimmt. Erwartet: 1 bis 8 Kanäle mit 8, 16, 24 oder 32 Bit.</translation>
-    </message>
-    <message>
-        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
-        <translation>&apos;%1&apos; lässt sich nicht öffnen: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
-    </message>
-    <message>
-        <source>Cannot read &apos;%1&apos;: it is no WAV file with plain samples (PCM).</source>
-        <translation>&apos;%1&apos; lässt sich nicht lesen: Es ist keine WAV-Datei mit einfachen Abtastwerten (PCM).</translation>
-    </message>
-    <message>
-        <source>There is no such sound.</source>
-        <translation>Es gibt keinen solchen Klang.</translation>
-    </message>
-    <message>
-        <source>Sounds</source>
-        <translation>Klänge</translation>
-    </message>
-    <message>
-        <source>Import sounds</source>
-        <translation>Klänge einlesen</translation>
-    </message>
-    <message>
-        <source>There is a sound %1 already, which &apos;%2&apos; would replace. Nothing is changed.</source>
-        <translation>Es gibt schon einen Klang %1, den &apos;%2&apos; ersetzen würde. Nichts wurde geändert.</translation>
-    </message>
-    <message>
-        <source>ADPCM</source>
-        <translation>ADPCM</translation>
-    </message>
-    <message>
-        <source>floating point</source>
-        <translation>Gleitkomma</translation>
-    </message>
-    <message>
-        <source>A-law</source>
-        <translation>A-law</translation>
-    </message>
-    <message>
-        <source>mu-law</source>
-        <translation>mu-law</translation>
-    </message>
-    <message>
-        <source>MP3</source>
-        <translation>MP3</translation>
-    </message>
-    <message>
-        <source>the extensible form</source>
-        <translation>die erweiterbare Form</translation>
-    </message>
-    <message>
-        <source>Cannot read &apos;%1&apos;: the sizes in it do not fit, and lead to none of its %2 frames.</source>
-        <translation>&apos;%1&apos; lässt sich nicht lesen: Die Größen darin passen nicht und führen zu keinem der %2 Frames.</translation>
-    </message>
-    <message>
-        <source>Cannot read &apos;%1&apos;: its samples are not plain ones (PCM), but of format %2. Save it as plain WAV, of 16 bits for example, with the program that made it.</source>
-        <translation>&apos;%1&apos; lässt sich nicht lesen: Die Samples sind nicht einfach (PCM), sondern vom Format %2. Bitte mit dem Programm, von dem die Datei stammt, als einfaches WAV speichern, zum Beispiel mit 16 Bit.</translation>
-    </message>
-    <message>
-        <source>Of the %1 frames in &apos;%2&apos; %3 are read: the sizes in it do not fit.</source>
-        <translation>Von den %1 Frames in &apos;%2&apos; werden %3 gelesen: Die Größen in der Datei passen nicht.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is cut short: of %2 frames it has %3.</source>
-        <translation>&apos;%1&apos; ist abgeschnitten: Von %2 Frames sind %3 da.</translation>
-    </message>
-</context>
-<context>
     <name>Family::SpriteCollection</name>
     <message>
         <source>Remove broken records</source>
@@ -3605,29 +3098,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Broken: %1</source>
         <translation>Beschädigt: %1</translation>
-    </message>
-</context>
-<context>
-    <name>Family::SpriteExport</name>
-    <message>
-        <source>There is no palette %1.</source>
-        <translation>Es gibt keine Palette %1.</translation>
-    </message>
-    <message>
-        <source>There is no such sprite.</source>
-        <translation>Es gibt keinen solchen Sprite.</translation>
-    </message>
-    <message>
-        <source>Sprite %1 has no pixels, or they are broken.</source>
-        <translation>Sprite %1 hat keine Pixel, oder sie sind beschädigt.</translation>
-    </message>
-    <message>
-        <source>Sprites</source>
-        <translation>Sprites</translation>
-    </message>
-    <message>
-        <source>There is no such palette.</source>
-        <translation>Es gibt keine solche Palette.</translation>
     </message>
 </context>
 <context>
@@ -3733,52 +3203,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Cannot write %1: it is a link. Remove it, or put a file in its place.</source>
         <translation>%1 kann nicht geschrieben werden: Es ist ein Link. Entfernen Sie ihn, oder legen Sie eine Datei an seine Stelle.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::SpriteImport</name>
-    <message>
-        <source>&apos;%1&apos; is larger than a sprite can be, %2 by %2.</source>
-        <translation>&apos;%1&apos; ist größer, als ein Sprite sein kann: %2 mal %2.</translation>
-    </message>
-    <message>
-        <source>Import sprites</source>
-        <translation>Sprites einlesen</translation>
-    </message>
-    <message>
-        <source>Images</source>
-        <translation>Bilder</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; would lose something as %2. Choose another codec.</source>
-        <translation>&apos;%1&apos; würde als %2 etwas verlieren. Bitte ein anderes Verfahren wählen.</translation>
-    </message>
-    <message>
-        <source>There is a sprite %1 already, which &apos;%2&apos; would replace. Nothing is changed.</source>
-        <translation>Es gibt schon einen Sprite %1, den &apos;%2&apos; ersetzen würde. Nichts wurde geändert.</translation>
-    </message>
-</context>
-<context>
-    <name>Family::SpriteSheet</name>
-    <message>
-        <source>The sheet is larger than the memory. Select fewer sprites.</source>
-        <translation>Der Bogen ist größer als der Speicher. Bitte weniger Sprites auswählen.</translation>
-    </message>
-    <message>
-        <source>Sprites</source>
-        <translation>Sprites</translation>
-    </message>
-    <message>
-        <source>Sprite %1 has no pixels, or they are broken.</source>
-        <translation>Sprite %1 hat keine Pixel, oder sie sind beschädigt.</translation>
-    </message>
-    <message>
-        <source>There is no such sprite.</source>
-        <translation>Es gibt keinen solchen Sprite.</translation>
-    </message>
-    <message>
-        <source>The sheet would be too large. Select fewer sprites.</source>
-        <translation>Der Bogen wäre zu groß. Bitte weniger Sprites auswählen.</translation>
     </message>
 </context>
 <context>
@@ -4379,6 +3803,582 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Invert selection</source>
         <translation>Auswahl umkehren</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::AbandonedTexts</name>
+    <message>
+        <source>The copy cannot be read.</source>
+        <translation>Die Kopie kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::AnimationEdits</name>
+    <message>
+        <source>There is no animation in the file.</source>
+        <translation>In der Datei ist keine Animation.</translation>
+    </message>
+    <message>
+        <source>There is no animation &apos;%1&apos;. Expected a place from #0 to #%2.</source>
+        <translation>Die Animation &apos;%1&apos; gibt es nicht. Erwartet: ein Platz von #0 bis #%2.</translation>
+    </message>
+    <message>
+        <source>There is no animation &apos;%1&apos;. %2</source>
+        <translation>Die Animation &apos;%1&apos; gibt es nicht. %2</translation>
+    </message>
+    <message>
+        <source>There are several animations &apos;%1&apos;. Name one by its place, &apos;#%2&apos; or &apos;#%3&apos;.</source>
+        <translation>Es gibt mehrere Animationen &apos;%1&apos;. Bitte eine mit ihrem Platz nennen, &apos;#%2&apos; oder &apos;#%3&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot name an animation. Write a number, or a word of letters, digits, &apos;_&apos; and &apos;-&apos;.</source>
+        <translation>&apos;%1&apos; kann keine Animation benennen. Bitte eine Zahl oder ein Wort aus Buchstaben, Ziffern, &apos;_&apos; und &apos;-&apos; schreiben.</translation>
+    </message>
+    <message>
+        <source>There is an animation &apos;%1&apos; already. Choose another name.</source>
+        <translation>Die Animation &apos;%1&apos; gibt es schon. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>Remove animations</source>
+        <translation>Animationen entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::AnimationGif</name>
+    <message>
+        <source>The frames are too far from each other for one picture.</source>
+        <translation>Die Bilder liegen für ein gemeinsames Bild zu weit auseinander.</translation>
+    </message>
+    <message>
+        <source>The animation has no frame to show.</source>
+        <translation>Die Animation hat kein Bild, das zu sehen wäre.</translation>
+    </message>
+    <message>
+        <source>The animation is larger than a GIF file can be, 65535 by 65535.</source>
+        <translation>Die Animation ist größer, als eine GIF-Datei sein kann: 65535 mal 65535.</translation>
+    </message>
+    <message>
+        <source>There is no sprite file beside &apos;%1&apos;. Name one with &apos;--sprites&apos;.</source>
+        <translation>Neben &apos;%1&apos; steht keine Sprite-Datei. Bitte eine mit &apos;--sprites&apos; nennen.</translation>
+    </message>
+    <message>
+        <source>There are several sprite files beside &apos;%1&apos;: %2. Name one with &apos;--sprites&apos;.</source>
+        <translation>Neben &apos;%1&apos; stehen mehrere Sprite-Dateien: %2. Bitte eine mit &apos;--sprites&apos; nennen.</translation>
+    </message>
+    <message>
+        <source>The frames together are too large for one file. Choose a smaller zoom.</source>
+        <translation>Die Einzelbilder zusammen sind zu groß für eine Datei. Bitte einen kleineren Zoom wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::AnimationRender</name>
+    <message>
+        <source>The animation has no frame.</source>
+        <translation>Die Animation hat kein Einzelbild.</translation>
+    </message>
+    <message>
+        <source>There is no frame %1. Expected a number from 0 to %2.</source>
+        <translation>Es gibt kein Einzelbild %1. Erwartet wurde eine Zahl von 0 bis %2.</translation>
+    </message>
+    <message>
+        <source>The sheet would be too large. Choose a smaller zoom.</source>
+        <translation>Der Bogen würde zu groß. Bitte einen kleineren Zoom wählen.</translation>
+    </message>
+    <message>
+        <source>The sheet is larger than the memory. Choose a smaller zoom.</source>
+        <translation>Der Bogen ist größer als der Speicher. Bitte einen kleineren Zoom wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::AssetNames</name>
+    <message>
+        <source>The group %1 has no room for &apos;%2&apos;.</source>
+        <translation>Die Gruppe %1 hat keinen Platz für &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not tell its group and number. Expected a name such as &apos;200-3.%2&apos;.</source>
+        <translation>&apos;%1&apos; nennt Gruppe und Nummer nicht. Erwartet: ein Name wie &apos;200-3.%2&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; both go to %3.</source>
+        <translation>&apos;%1&apos; und &apos;%2&apos; gehören beide zu %3.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::Backups</name>
+    <message>
+        <source>Before restore</source>
+        <translation>Vor Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Nothing was restored, for not all files that would change could be copied aside first. Check that there is space on the disk, or restore without a backup of the present files.</source>
+        <translation>Nichts wurde wiederhergestellt, denn nicht alle Dateien, die sich ändern würden, konnten zuvor gesichert werden. Bitte prüfen, ob auf dem Datenträger Platz ist, oder ohne Sicherung der jetzigen Dateien wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>The name of the backup is empty. Give it a name such as &quot;Before the new moves&quot;.</source>
+        <translation>Der Name der Sicherung ist leer. Bitte einen Namen wie &quot;Vor den neuen Angriffen&quot; geben.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; cannot be that of a folder: it must have none of %2 and no control characters. Choose another name.</source>
+        <translation>Der Name &apos;%1&apos; kann nicht der eines Ordners sein: Er darf keines von %2 und keine Steuerzeichen enthalten. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; ends in a point or a blank, which some systems drop. Choose another name.</source>
+        <translation>Der Name &apos;%1&apos; endet mit einem Punkt oder Leerzeichen, was manche Systeme weglassen. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>The name of the backup is too long. Choose one of at most %1 letters.</source>
+        <translation>Der Name der Sicherung ist zu lang. Bitte einen mit höchstens %1 Buchstaben wählen.</translation>
+    </message>
+    <message>
+        <source>There is no backup &apos;%1&apos; in %2. Choose one of the list of backups.</source>
+        <translation>Die Sicherung &apos;%1&apos; gibt es in %2 nicht. Bitte eine aus der Liste der Sicherungen wählen.</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder %1. Check that there is space on the disk and that the folder of the game may be written to.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden. Bitte prüfen, ob auf dem Datenträger Platz ist und in den Spielordner geschrieben werden darf.</translation>
+    </message>
+    <message>
+        <source>The game cannot be written to, so nothing was restored.</source>
+        <translation>In das Spiel kann nicht geschrieben werden; nichts wurde wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>Some files were not restored and are as before. Check that there is space on the disk and that they may be written to, then restore again.</source>
+        <translation>Einige Dateien wurden nicht wiederhergestellt und sind wie zuvor. Bitte prüfen, ob auf dem Datenträger Platz ist und in sie geschrieben werden darf, und dann erneut wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>The restore was given up in its middle: some files are those of the backup, the others are as before. Restore again, or put back what was there before.</source>
+        <translation>Die Wiederherstellung wurde mittendrin abgebrochen: Einige Dateien sind die der Sicherung, die anderen sind wie zuvor. Bitte erneut wiederherstellen oder zurückholen, was vorher da war.</translation>
+    </message>
+    <message>
+        <source>There is no backup, for it would not be complete. Check that there is space on the disk and that all files may be read, then try again.</source>
+        <translation>Es wurde keine Sicherung angelegt, denn sie wäre nicht vollständig. Bitte prüfen, ob auf dem Datenträger Platz ist und alle Dateien gelesen werden dürfen, und es dann erneut versuchen.</translation>
+    </message>
+    <message>
+        <source>Nothing is restored: %1 lies behind a link that leads out of the game. Remove the link, or put a folder or file in its place.</source>
+        <translation>Nichts wird wiederhergestellt: %1 liegt hinter einem Link, der aus dem Spiel herausführt. Entfernen Sie den Link, oder legen Sie einen Ordner oder eine Datei an seine Stelle.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::DiffPicture</name>
+    <message>
+        <source>Nothing can be drawn of the frames that differ.</source>
+        <translation>Von den Einzelbildern, die sich unterscheiden, lässt sich nichts zeichnen.</translation>
+    </message>
+    <message>
+        <source>The picture of the frames that differ would be too large.</source>
+        <translation>Das Bild der Einzelbilder, die sich unterscheiden, würde zu groß.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::DocumentFile</name>
+    <message>
+        <source>Expected the name of a file; found an empty text.</source>
+        <translation>Erwartet: der Name einer Datei; gefunden: ein leerer Text.</translation>
+    </message>
+    <message>
+        <source>Cannot open %1: It is larger than %2 MB. Divide it into several files.</source>
+        <translation>%1 kann nicht geöffnet werden: Die Datei ist größer als %2 MB. Bitte in mehrere Dateien teilen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; (%2)</source>
+        <translation>&apos;%1&apos; (%2)</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Kodierung</translation>
+    </message>
+    <message>
+        <source>%1 does not come back byte for byte from its encoding, %2: saving it would change characters.</source>
+        <translation>%1 kommt aus der Kodierung %2 nicht Byte für Byte zurück: Speichern würde Zeichen ändern.</translation>
+    </message>
+    <message>
+        <source>Open it in %1</source>
+        <translation>In %1 öffnen</translation>
+    </message>
+    <message>
+        <source>Keep %1</source>
+        <translation>%1 behalten</translation>
+    </message>
+    <message>
+        <source>%1 It does from %2.</source>
+        <translation>%1 Aus %2 kommt sie so zurück.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: The encoding %3 has no %4. Change the character, or save the file in UTF-8.</source>
+        <translation>%1, Zeile %2: Die Kodierung %3 kennt kein %4. Bitte das Zeichen ändern oder die Datei in UTF-8 speichern.</translation>
+    </message>
+    <message>
+        <source>Saving %1 ends each of its lines with a carriage return and a line feed.</source>
+        <translation>Beim Speichern von %1 endet jede Zeile mit Wagenrücklauf und Zeilenvorschub.</translation>
+    </message>
+    <message>
+        <source>Save it in UTF-8</source>
+        <translation>In UTF-8 speichern</translation>
+    </message>
+    <message>
+        <source>Do not save</source>
+        <translation>Nicht speichern</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::FilePatterns</name>
+    <message>
+        <source>Expected the name of a file; found an empty text.</source>
+        <translation>Erwartet: der Name einer Datei; gefunden: ein leerer Text.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a folder. Name files in it, as with &apos;%2&apos;.</source>
+        <translation>&apos;%1&apos; ist ein Ordner. Bitte Dateien darin nennen, etwa mit &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a plain file. Name a file on a disk.</source>
+        <translation>&apos;%1&apos; ist keine gewöhnliche Datei. Bitte eine Datei auf einem Datenträger nennen.</translation>
+    </message>
+    <message>
+        <source>No file matches &apos;%1&apos;.</source>
+        <translation>Auf &apos;%1&apos; passt keine Datei.</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos;.</source>
+        <translation>Es gibt keine Datei &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::GameDocuments</name>
+    <message>
+        <source>There is no file or folder &apos;%1&apos;.</source>
+        <translation>Die Datei oder den Ordner &apos;%1&apos; gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>There is no character or stage in &apos;%1&apos;. Expected files such as &apos;characters/hero/hero.character&apos;.</source>
+        <translation>In &apos;%1&apos; ist weder Figur noch Bühne. Erwartet werden Dateien wie &apos;characters/hero/hero.character&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::HostInterface</name>
+    <message>
+        <source>All known files</source>
+        <translation>Alle bekannten Dateien</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::ImageEdits</name>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>The result would be too large.</source>
+        <translation>Das Ergebnis wäre zu groß.</translation>
+    </message>
+    <message>
+        <source>It has no palette. Have its pixels take the nearest colours instead.</source>
+        <translation>Es hat keine Palette. Bitte seine Pixel stattdessen die nächsten Farben annehmen lassen.</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::ImageFiles</name>
+    <message>
+        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
+        <translation>&apos;%1&apos; lässt sich nicht öffnen: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: it is no whole image of the format of its suffix. Expected .png, .pcx, .bmp or .gif.</source>
+        <translation>&apos;%1&apos; lässt sich nicht lesen: Es ist kein vollständiges Bild im Format seiner Endung. Erwartet: .png, .pcx, .bmp oder .gif.</translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: &apos;%2&apos; is no format of images. Expected .png, .pcx, .bmp or .gif.</source>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: &apos;%2&apos; ist kein Bildformat. Erwartet: .png, .pcx, .bmp oder .gif.</translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: an image of %2 by %3 does not fit the format. Choose another one.</source>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: Ein Bild von %2 mal %3 passt nicht in das Format. Bitte ein anderes wählen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was replaced without the transparency of the picture: %2 has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne die Transparenz des Bildes ersetzt: %2 hat keinen Platz dafür. PNG behält sie.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was written without the transparency of the picture: %2 has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne die Transparenz des Bildes geschrieben: %2 hat keinen Platz dafür. PNG behält sie.</translation>
+    </message>
+    <message>
+        <source>PCX with indexed colours</source>
+        <translation>PCX mit indizierten Farben</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was replaced without what is half transparent in the picture: GIF has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne das ersetzt, was im Bild halb durchsichtig ist: GIF hat keinen Platz dafür. PNG behält es.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was written without what is half transparent in the picture: GIF has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne das geschrieben, was im Bild halb durchsichtig ist: GIF hat keinen Platz dafür. PNG behält es.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::OpenAnimation</name>
+    <message>
+        <source>There is no file or folder &apos;%1&apos;.</source>
+        <translation>Es gibt keine Datei und keinen Ordner &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names its own sprites. &apos;--sprites&apos; is for a single file of animations.</source>
+        <translation>&apos;%1&apos; nennt seine eigenen Sprites. &apos;--sprites&apos; gilt für eine einzelne Datei mit Animationen.</translation>
+    </message>
+    <message>
+        <source>Animation &apos;%1&apos; is in several files: %2. Name one of them in place of &apos;%3&apos;, with &apos;--sprites&apos;.</source>
+        <translation>Die Animation &apos;%1&apos; steht in mehreren Dateien: %2. Bitte eine davon anstelle von &apos;%3&apos; nennen, mit &apos;--sprites&apos;.</translation>
+    </message>
+    <message>
+        <source>Animation &apos;%1&apos; is in several projects. Name one of them in place of &apos;%2&apos;: %3.</source>
+        <translation>Die Animation &apos;%1&apos; steht in mehreren Projekten. Bitte eines davon anstelle von &apos;%2&apos; nennen: %3.</translation>
+    </message>
+    <message>
+        <source>There is no character or stage in &apos;%1&apos;.</source>
+        <translation>In &apos;%1&apos; gibt es keine Figur und keine Bühne.</translation>
+    </message>
+    <message>
+        <source>There is no animation &apos;%1&apos; in &apos;%2&apos;. %3</source>
+        <translation>Es gibt keine Animation &apos;%1&apos; in &apos;%2&apos;. %3</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::OutputFiles</name>
+    <message>
+        <source>&apos;%1&apos; is one file, and there are %2 to write. Name a folder, or a pattern such as &apos;%3&apos;.</source>
+        <translation>&apos;%1&apos; ist eine Datei, zu schreiben sind %2. Bitte einen Ordner oder ein Muster wie &apos;%3&apos; nennen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; would both become &apos;%3&apos;. Write them to different folders.</source>
+        <translation>&apos;%1&apos; und &apos;%2&apos; würden beide zu &apos;%3&apos;. Bitte in verschiedene Ordner schreiben.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no plain file and cannot be replaced.</source>
+        <translation>&apos;%1&apos; ist keine gewöhnliche Datei und lässt sich nicht ersetzen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is there already. Nothing is written.</source>
+        <translation>&apos;%1&apos; ist schon da. Nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1 files are there already, such as &apos;%2&apos;. Nothing is written.</source>
+        <translation>%1 Dateien sind schon da, etwa &apos;%2&apos;. Nichts wurde geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::PaletteWork</name>
+    <message>
+        <source>Cannot read a palette from &apos;%1&apos;. Expected .act, .pal, .aco, .ase, .txt, or an indexed image.</source>
+        <translation>Aus &apos;%1&apos; lässt sich keine Palette lesen. Erwartet: .act, .pal, .aco, .ase, .txt oder ein Bild mit Palette.</translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <translation>Paletten</translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: palettes are written as .act.</source>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: Paletten werden als .act geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::Preparation</name>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::RecoveryCopy</name>
+    <message>
+        <source>It is no copy of Zorv.</source>
+        <translation>Es ist keine Kopie von Zorv.</translation>
+    </message>
+    <message>
+        <source>The copy is damaged: it is cut, or its checksum is wrong.</source>
+        <translation>Die Kopie ist beschädigt: Sie ist abgeschnitten, oder ihre Prüfsumme ist falsch.</translation>
+    </message>
+    <message>
+        <source>Another version of Zorv made the copy. Open it with that one.</source>
+        <translation>Die Kopie stammt von einer anderen Version von Zorv. Bitte mit dieser öffnen.</translation>
+    </message>
+    <message>
+        <source>The copy has no sense.</source>
+        <translation>Die Kopie ergibt keinen Sinn.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::RecoveryKeeper</name>
+    <message>
+        <source>Unsaved texts cannot be put aside. %1</source>
+        <translation>Ungespeicherte Texte können nicht gesichert werden. %1</translation>
+    </message>
+    <message>
+        <source>Unsaved texts cannot be put aside: %1. Save often, and make room on the disk.</source>
+        <translation>Ungespeicherte Texte können nicht gesichert werden: %1. Bitte oft speichern und auf dem Datenträger Platz schaffen.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::SessionFolder</name>
+    <message>
+        <source>Cannot make a folder in %1. Check its permissions, and that there is room on the disk.</source>
+        <translation>In %1 kann kein Ordner angelegt werden. Bitte die Rechte prüfen und ob auf dem Datenträger Platz ist.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::SoundWork</name>
+    <message>
+        <source>Sound %1 is broken.</source>
+        <translation>Klang %1 ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: sounds are written as .wav.</source>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: Klänge werden als .wav geschrieben.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a form that a sound file cannot hold. Expected 1 to 8 channels of 8, 16, 24 or 32 bits.</source>
+        <translation>&apos;%1&apos; hat eine Form, die eine Klangdatei nicht aufnimmt. Erwartet: 1 bis 8 Kanäle mit 8, 16, 24 oder 32 Bit.</translation>
+    </message>
+    <message>
+        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
+        <translation>&apos;%1&apos; lässt sich nicht öffnen: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: it is no WAV file with plain samples (PCM).</source>
+        <translation>&apos;%1&apos; lässt sich nicht lesen: Es ist keine WAV-Datei mit einfachen Abtastwerten (PCM).</translation>
+    </message>
+    <message>
+        <source>There is no such sound.</source>
+        <translation>Es gibt keinen solchen Klang.</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Klänge</translation>
+    </message>
+    <message>
+        <source>Import sounds</source>
+        <translation>Klänge einlesen</translation>
+    </message>
+    <message>
+        <source>There is a sound %1 already, which &apos;%2&apos; would replace. Nothing is changed.</source>
+        <translation>Es gibt schon einen Klang %1, den &apos;%2&apos; ersetzen würde. Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>ADPCM</source>
+        <translation>ADPCM</translation>
+    </message>
+    <message>
+        <source>floating point</source>
+        <translation>Gleitkomma</translation>
+    </message>
+    <message>
+        <source>A-law</source>
+        <translation>A-law</translation>
+    </message>
+    <message>
+        <source>mu-law</source>
+        <translation>mu-law</translation>
+    </message>
+    <message>
+        <source>MP3</source>
+        <translation>MP3</translation>
+    </message>
+    <message>
+        <source>the extensible form</source>
+        <translation>die erweiterbare Form</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: the sizes in it do not fit, and lead to none of its %2 frames.</source>
+        <translation>&apos;%1&apos; lässt sich nicht lesen: Die Größen darin passen nicht und führen zu keinem der %2 Frames.</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: its samples are not plain ones (PCM), but of format %2. Save it as plain WAV, of 16 bits for example, with the program that made it.</source>
+        <translation>&apos;%1&apos; lässt sich nicht lesen: Die Samples sind nicht einfach (PCM), sondern vom Format %2. Bitte mit dem Programm, von dem die Datei stammt, als einfaches WAV speichern, zum Beispiel mit 16 Bit.</translation>
+    </message>
+    <message>
+        <source>Of the %1 frames in &apos;%2&apos; %3 are read: the sizes in it do not fit.</source>
+        <translation>Von den %1 Frames in &apos;%2&apos; werden %3 gelesen: Die Größen in der Datei passen nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is cut short: of %2 frames it has %3.</source>
+        <translation>&apos;%1&apos; ist abgeschnitten: Von %2 Frames sind %3 da.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::SpriteExport</name>
+    <message>
+        <source>There is no palette %1.</source>
+        <translation>Es gibt keine Palette %1.</translation>
+    </message>
+    <message>
+        <source>There is no such sprite.</source>
+        <translation>Es gibt keinen solchen Sprite.</translation>
+    </message>
+    <message>
+        <source>Sprite %1 has no pixels, or they are broken.</source>
+        <translation>Sprite %1 hat keine Pixel, oder sie sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprites</translation>
+    </message>
+    <message>
+        <source>There is no such palette.</source>
+        <translation>Es gibt keine solche Palette.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::SpriteImport</name>
+    <message>
+        <source>&apos;%1&apos; is larger than a sprite can be, %2 by %2.</source>
+        <translation>&apos;%1&apos; ist größer, als ein Sprite sein kann: %2 mal %2.</translation>
+    </message>
+    <message>
+        <source>Import sprites</source>
+        <translation>Sprites einlesen</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; would lose something as %2. Choose another codec.</source>
+        <translation>&apos;%1&apos; würde als %2 etwas verlieren. Bitte ein anderes Verfahren wählen.</translation>
+    </message>
+    <message>
+        <source>There is a sprite %1 already, which &apos;%2&apos; would replace. Nothing is changed.</source>
+        <translation>Es gibt schon einen Sprite %1, den &apos;%2&apos; ersetzen würde. Nichts wurde geändert.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::SpriteSheet</name>
+    <message>
+        <source>The sheet is larger than the memory. Select fewer sprites.</source>
+        <translation>Der Bogen ist größer als der Speicher. Bitte weniger Sprites auswählen.</translation>
+    </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprites</translation>
+    </message>
+    <message>
+        <source>Sprite %1 has no pixels, or they are broken.</source>
+        <translation>Sprite %1 hat keine Pixel, oder sie sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>There is no such sprite.</source>
+        <translation>Es gibt keinen solchen Sprite.</translation>
+    </message>
+    <message>
+        <source>The sheet would be too large. Select fewer sprites.</source>
+        <translation>Der Bogen wäre zu groß. Bitte weniger Sprites auswählen.</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,7 @@
 #include "support/codetext.h"
 
 #include "core/messages.h"
-#include "familydocument.h"
+#include "family/familydocument.h"
 
 #include <QGuiApplication>
 #include <QPlainTextDocumentLayout>

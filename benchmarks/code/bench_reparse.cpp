@@ -8,8 +8,8 @@
 #include "code/codedoc/animationcode.h"
 #include "core/messagelist.h"
 #include "core/messages.h"
-#include "familyanimations.h"
-#include "familydocument.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
 
 #include <QGuiApplication>
 #include <QPlainTextDocumentLayout>

@@ -6,7 +6,7 @@
 #include "support/document.h"
 
 #include "editors/code/codeeditor.h"
-#include "familydocument.h"
+#include "family/familydocument.h"
 
 #include <QApplication>
 #include <QScrollBar>

@@ -8,7 +8,7 @@
 #include "code/codedoc/codeblockdata.h"
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
-#include "familydocument.h"
+#include "family/familydocument.h"
 #include "operations/hostinterface.h"
 
 #include <QApplication>
@@ -48,7 +48,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    Family::HostInterface host;
+    Operations::HostInterface host;
     setGlobalInterface(&host);
     Zorv::CodeWorkspace workspace;
     QStringList lines = CodeText::make(CodeText::Form::Comments, Lines).split(QLatin1Char('\n'));

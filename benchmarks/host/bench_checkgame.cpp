@@ -1,10 +1,10 @@
 // Checking and copying aside a game of 5,000 small projects: the time that passes against that of
 // the processor, and against a game of 500, project by project.
 
-#include "check/check.h"
+#include "family/check/check.h"
+#include "family/project/familyparentproject.h"
 #include "operations/backups.h"
 #include "operations/hostinterface.h"
-#include "project/familyparentproject.h"
 #include "support/bench.h"
 
 #include <QDir>
@@ -15,6 +15,7 @@
 #include <ctime>
 
 using namespace Family;
+using namespace Operations;
 
 namespace {
 

@@ -2,18 +2,19 @@
 // a character to the GIF, against ImageMagick's `convert` making it of the same frames as PNG
 // files. Both are processes of their own.
 
-#include "assets/newsprites.h"
-#include "assets/spritecollection.h"
-#include "core/filesystemarchive.h"
-#include "media/tools/savegif.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/spritecollection.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/stage/framecomposer.h"
 #include "operations/hostinterface.h"
 #include "operations/media/animationgif.h"
 #include "operations/media/animationrender.h"
 #include "operations/media/openanimation.h"
-#include "stage/framecomposer.h"
 #include "support/bench.h"
+
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/tools/savegif.h>
 
 #include <QBuffer>
 #include <QDir>
@@ -24,9 +25,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtMath>
-
 #include <functional>
-
 #include <sys/resource.h>
 
 namespace {
@@ -89,12 +88,12 @@ bool writeAnimation(const QString& fileName)
 
 bool renderGif(const QString& fileName, const QString& target)
 {
-    const Family::OpenAnimation opened(fileName, QStringLiteral("1"));
+    const Operations::OpenAnimation opened(fileName, QStringLiteral("1"));
     QString error = opened.errorString();
     QByteArray bytes;
     if (opened) {
-        Family::FrameComposer composer(opened.sprites(), Family::stageStyle());
-        bytes = Family::animationGif(opened.animation(), &composer, &error);
+        Family::FrameComposer composer(opened.sprites(), Operations::stageStyle());
+        bytes = Operations::animationGif(opened.animation(), &composer, &error);
     }
     QFile file(target);
     return error.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
@@ -130,7 +129,7 @@ public:
 
     double compose(QVector<Zorv::GIFFrame>* pictures) const
     {
-        Family::FrameComposer composer(m_opened.sprites(), Family::stageStyle());
+        Family::FrameComposer composer(m_opened.sprites(), Operations::stageStyle());
         const auto draw = [&] {
             pictures->clear();
             forEachFrame([&](const Family::FrameNode& frame) {
@@ -145,10 +144,11 @@ public:
 
     bool writePictures(const QDir& folder) const
     {
-        Family::FrameComposer composer(m_opened.sprites(), Family::stageStyle());
+        Family::FrameComposer composer(m_opened.sprites(), Operations::stageStyle());
         QString error;
         for (int i = 0; i < Frames; ++i) {
-            const QImage image = Family::renderFrame(m_opened.animation(), i, &composer, &error);
+            const QImage image =
+                Operations::renderFrame(m_opened.animation(), i, &composer, &error);
             if (!image.save(
                     folder.filePath(QStringLiteral("%1.png").arg(i, 3, 10, QLatin1Char('0'))))) {
                 return false;
@@ -158,7 +158,7 @@ public:
     }
 
 private:
-    Family::OpenAnimation m_opened;
+    Operations::OpenAnimation m_opened;
 };
 
 struct Times
@@ -223,8 +223,8 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "minimal");
     const QGuiApplication application(argc, argv);
-    Family::HostInterface host;
-    Family::startHost(&host);
+    Operations::HostInterface host;
+    Operations::startHost(&host);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() == 3) {
         return renderGif(arguments[1], arguments[2]) ? 0 : 1;

@@ -1,18 +1,18 @@
 // Memory that the export of sprites as PNG files takes, at its peak: 20,000 of them against 2,000.
 // Each count is measured in a process of its own, as the command line would do it.
 
-#include "assets/newsprites.h"
-#include "assets/spritecollection.h"
-#include "core/filesystemarchive.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/spritecollection.h"
 #include "operations/hostinterface.h"
 #include "operations/media/spriteexport.h"
 #include "support/bench.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QTemporaryDir>
-
 #include <sys/resource.h>
 
 namespace {
@@ -60,10 +60,10 @@ double exportAndMeasure(const QString& fileName, const QString& folder)
     if (!sprites) {
         return 0;
     }
-    Family::OutputRequest request;
+    Operations::OutputRequest request;
     request.place = folder;
     const int count = int(sprites->count());
-    const int done = Family::exportSprites(*sprites, {}, request).done;
+    const int done = Operations::exportSprites(*sprites, {}, request).done;
     sprites->release();
     rusage usage;
     getrusage(RUSAGE_SELF, &usage);
@@ -93,8 +93,8 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "minimal");
     const QGuiApplication application(argc, argv);
-    Family::HostInterface host;
-    Family::startHost(&host);
+    Operations::HostInterface host;
+    Operations::startHost(&host);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() == 3) {
         std::printf("%f\n", exportAndMeasure(arguments[1], arguments[2]));

@@ -1,15 +1,14 @@
 // A file of 20,000 sprites of 128 by 144 pixels: opening it beside unpacking them all, unpacking
 // with two threads beside one, and how adding sprites grows with their number.
 
+#include "family/assets/spritefile.h"
+#include "family/assets/spritejobs.h"
 #include "support/bench.h"
 
-#include "assets/spritefile.h"
-#include "assets/spritejobs.h"
-#include "core/filesystemarchive.h"
+#include <zorv/core/filesystemarchive.h>
 
 #include <QGuiApplication>
 #include <QTemporaryDir>
-
 #include <atomic>
 #include <ctime>
 #include <numeric>

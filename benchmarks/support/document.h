@@ -1,6 +1,6 @@
 #pragma once
 
-#include "familydocument.h"
+#include "family/familydocument.h"
 
 #include <QTextCursor>
 

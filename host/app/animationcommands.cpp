@@ -1,16 +1,16 @@
 #include "app/animationcommands.h"
 
-#include "animation/organizereditor.h"
-#include "core/interface.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
 #include "operations/animationedits.h"
 
+#include <zorv/animation/organizereditor.h>
+#include <zorv/core/interface.h>
+
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QTextBlock>
-
 #include <algorithm>
 
 namespace App {
@@ -34,7 +34,7 @@ QString newIdentifier(const FamilyAnimations* list)
         const qint64 number = list->animation(i)->identifier().toLongLong(&isNumber);
         highest = isNumber ? std::max(highest, number) : highest;
     }
-    return freeIdentifier(list, highest < 0 ? BelowFirst : QString::number(highest));
+    return Operations::freeIdentifier(list, highest < 0 ? BelowFirst : QString::number(highest));
 }
 
 // A new animation starts on a line of its own, with an empty one above it.
@@ -117,7 +117,7 @@ void AnimationCommands::duplicateCurrent()
     }
     const int row = m_organizer->currentRow();
     FamilyAnimations* list = m_document->animations();
-    const QString identifier = freeIdentifier(list, list->animation(row)->identifier());
+    const QString identifier = Operations::freeIdentifier(list, list->animation(row)->identifier());
     if (list->duplicateAnimation(row, identifier)) {
         requestIdentifier(row + 1);
     }
@@ -129,7 +129,7 @@ void AnimationCommands::removeSelected()
     if (!m_document || rows.isEmpty()) {
         return;
     }
-    Family::removeAnimations(m_document->animations(), rows);
+    Operations::removeAnimations(m_document->animations(), rows);
     m_organizer->setCurrentRow(std::min(rows.first(), m_document->animations()->count() - 1));
 }
 

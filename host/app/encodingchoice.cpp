@@ -1,9 +1,10 @@
 #include "app/encodingchoice.h"
 
-#include "code/codecs/textcodecs.h"
-#include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
 #include "operations/documentfile.h"
+
+#include <zorv/code/codecs/textcodecs.h>
+#include <zorv/core/dialogs/dialogs.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -49,7 +50,7 @@ void readAgain(FamilyDocument* document, int codec)
         Dialogs::instance()->error(Text::tr("Encoding"), document->errorString());
         return;
     }
-    Family::ensureFaithful(document);
+    Operations::ensureFaithful(document);
 }
 
 void keepText(FamilyDocument* document, int codec)
@@ -57,7 +58,7 @@ void keepText(FamilyDocument* document, int codec)
     document->setCodecId(codec);
     // The file on disk is another one now, though no character has changed.
     document->setModified(true);
-    const QString obstacle = Family::encodingObstacle(document);
+    const QString obstacle = Operations::encodingObstacle(document);
     if (!obstacle.isEmpty()) {
         Dialogs::instance()->warning(Text::tr("Encoding"), obstacle);
     }

@@ -1,6 +1,5 @@
 #include "app/mainwindow.h"
 
-#include "animation/organizereditor.h"
 #include "app/actions/actionregistry.h"
 #include "app/actions/actiontable.h"
 #include "app/actions/shortcutguard.h"
@@ -32,17 +31,19 @@
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
 #include "app/windowstate.h"
-#include "code/codedoc/framecode.h"
-#include "core/dialogs/dialogs.h"
-#include "core/interface.h"
-#include "editors/code/codeeditor.h"
-#include "editors/code/codeworkspace.h"
-#include "editors/framework/editor.h"
-#include "editors/framework/workspace.h"
 #include "family/assets/soundfile.h"
 #include "family/assets/spritecollection.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
+
+#include <zorv/animation/organizereditor.h>
+#include <zorv/code/codedoc/framecode.h>
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/interface.h>
+#include <zorv/editors/code/codeeditor.h>
+#include <zorv/editors/code/codeworkspace.h>
+#include <zorv/editors/framework/editor.h>
+#include <zorv/editors/framework/workspace.h>
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -19,12 +19,13 @@
 #include "app/stage/stageview.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
-#include "core/dialogs/dialogs.h"
-#include "editors/code/codeeditor.h"
-#include "editors/code/codeworkspace.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "operations/documentfile.h"
+
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/editors/code/codeeditor.h>
+#include <zorv/editors/code/codeworkspace.h>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -43,7 +44,7 @@ void MainWindow::showDocument(FamilyDocument* document)
     const bool isNew = tabs()->indexOf(document) < 0;
     tabs()->showDocument(document);
     if (isNew) {
-        Family::ensureFaithful(document);
+        Operations::ensureFaithful(document);
         m_status->updateFile();
     }
 }

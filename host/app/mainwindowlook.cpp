@@ -5,11 +5,12 @@
 #include "app/look/look.h"
 #include "app/mainwindow.h"
 #include "app/stage/stagecommands.h"
-#include "editors/framework/editor.h"
-#include "editors/framework/extraeditor.h"
-#include "editors/framework/workspace.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
+
+#include <zorv/editors/framework/editor.h>
+#include <zorv/editors/framework/extraeditor.h>
+#include <zorv/editors/framework/workspace.h>
 
 #include <QAbstractButton>
 #include <QDockWidget>

@@ -2,14 +2,14 @@
 
 #include "app/look/language.h"
 #include "app/panelplace.h"
-#include "code/codedoc/codedocument.h"
-#include "core/messagelist.h"
-#include "core/messages.h"
+
+#include <zorv/code/codedoc/codedocument.h>
+#include <zorv/core/messagelist.h>
+#include <zorv/core/messages.h>
 
 #include <QHelpEvent>
 #include <QScrollBar>
 #include <QToolTip>
-
 #include <algorithm>
 
 namespace App {

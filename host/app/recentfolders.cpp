@@ -1,9 +1,8 @@
 #include "app/recentfolders.h"
 
-#include "core/interface.h"
+#include <zorv/core/interface.h>
 
 #include <QDir>
-
 #include <algorithm>
 
 namespace App {

@@ -95,7 +95,7 @@ void StatusFields::setDocument(Family::FamilyDocument* document)
 void StatusFields::updateFile()
 {
     m_state->setText(m_document ? stateOf(m_document) : QString());
-    const QString note = m_document ? Family::lineEndNote(m_document) : QString();
+    const QString note = m_document ? Operations::lineEndNote(m_document) : QString();
     m_lineEnds->setText(note.isEmpty() ? QString() : tr("Line ends: converted when saved"));
     m_lineEnds->setToolTip(note);
     m_lineEnds->setVisible(!note.isEmpty());

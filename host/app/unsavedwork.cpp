@@ -1,18 +1,18 @@
 #include "app/unsavedwork.h"
 
-#include "core/dialogs/dialogs.h"
-#include "core/filechange.h"
-#include "core/filewatchobject.h"
-#include "core/interface.h"
-#include "core/project.h"
-#include "editors/framework/fileeditor.h"
 #include "family/familydocument.h"
 #include "operations/documentfile.h"
+
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/filechange.h>
+#include <zorv/core/filewatchobject.h>
+#include <zorv/core/interface.h>
+#include <zorv/core/project.h>
+#include <zorv/editors/framework/fileeditor.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QMap>
-
 #include <algorithm>
 
 namespace App {
@@ -148,40 +148,40 @@ bool readSaved(const Twins& twins)
 }
 
 /// Asks for the name of a document that has none.
-Family::Saved saveNew(FamilyDocument* document, QString* error)
+Operations::Saved saveNew(FamilyDocument* document, QString* error)
 {
     Zorv::Interface* host = Zorv::Interface::instance();
     auto* editor = qobject_cast<Zorv::FileEditor*>(
         host->fileEditor(document, Family::fileType(document->kind())));
-    if (!editor || !Family::settleEncoding(document)) {
-        return Family::Saved::GivenUp;
+    if (!editor || !Operations::settleEncoding(document)) {
+        return Operations::Saved::GivenUp;
     }
     if (Zorv::FileEditor::saveFileAs(document, editor, host)) {
-        return Family::Saved::Done;
+        return Operations::Saved::Done;
     }
     *error = document->errorString();
-    return error->isEmpty() ? Family::Saved::GivenUp : Family::Saved::Failed;
+    return error->isEmpty() ? Operations::Saved::GivenUp : Operations::Saved::Failed;
 }
 
-Family::Saved writeFile(ProjectFile* file, QString* error)
+Operations::Saved writeFile(ProjectFile* file, QString* error)
 {
     FamilyDocument* document = documentOf(file);
     if (document) {
         return document->fileName().isEmpty()
                    ? saveNew(document, error)
-                   : Family::saveDocument(document, document->fileName(), error);
+                   : Operations::saveDocument(document, document->fileName(), error);
     }
     const bool isSaved = file->toFile(*file->archive(), file->fileName(), false);
     *error = file->errorString();
-    return isSaved ? Family::Saved::Done : Family::Saved::Failed;
+    return isSaved ? Operations::Saved::Done : Operations::Saved::Failed;
 }
 
 /// What another program writes at this moment is not written over: the file is left alone, and the
 /// person asked about it as about any change.
-Family::Saved saveFile(ProjectFile* file, QString* error)
+Operations::Saved saveFile(ProjectFile* file, QString* error)
 {
     const Zorv::FileChange change(file->fileName());
-    const Family::Saved saved = writeFile(file, error);
+    const Operations::Saved saved = writeFile(file, error);
     if (change.isOvertaken()) {
         pauseWatch(file, false);
     }
@@ -213,9 +213,9 @@ bool saveFiles(QList<ProjectFile*> files)
     bool all = true;
     for (ProjectFile* file : qAsConst(files)) {
         QString error;
-        const Family::Saved saved = saveFile(file, &error);
-        all = all && saved == Family::Saved::Done;
-        if (saved == Family::Saved::Failed) {
+        const Operations::Saved saved = saveFile(file, &error);
+        all = all && saved == Operations::Saved::Done;
+        if (saved == Operations::Saved::Failed) {
             errors.append(error);
         }
     }

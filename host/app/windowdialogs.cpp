@@ -1,6 +1,6 @@
 #include "app/windowdialogs.h"
 
-#include "core/interface.h"
+#include <zorv/core/interface.h>
 
 #include <QInputDialog>
 #include <QMessageBox>

@@ -1,6 +1,5 @@
 #include "app/windowinterface.h"
 
-#include "animation/organizereditor.h"
 #include "app/animationcommands.h"
 #include "app/code/codetexteditor.h"
 #include "app/controls/controlplacer.h"
@@ -10,9 +9,11 @@
 #include "app/mainwindow.h"
 #include "app/progressdialog.h"
 #include "app/statusfields.h"
-#include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
+
+#include <zorv/animation/organizereditor.h>
+#include <zorv/core/dialogs/dialogs.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -9,7 +9,7 @@ namespace App {
 class MainWindow;
 
 /// The host's side of the library with a window. The one editor is that of texts.
-class WindowInterface : public Family::HostInterface
+class WindowInterface : public Operations::HostInterface
 {
 public:
     using HostInterface::HostInterface;

@@ -4,9 +4,10 @@
 #include "app/gamesession.h"
 #include "app/mainwindow.h"
 #include "app/stage/stagecommands.h"
-#include "core/interface.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
+
+#include <zorv/core/interface.h>
 
 #include <QDir>
 #include <QFileInfo>

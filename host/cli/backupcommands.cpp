@@ -1,13 +1,13 @@
-#include "cli.h"
-#include "command.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/jsonlist.h"
+#include "cli/output.h"
+#include "cli/progresshost.h"
 #include "family/check/check.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
 #include "family/project/unreachable.h"
-#include "jsonlist.h"
 #include "operations/backups.h"
-#include "output.h"
-#include "progresshost.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -19,10 +19,10 @@ namespace Cli {
 
 namespace {
 
-using Family::Backup;
-using Family::BackupResult;
 using Family::FamilyParentProject;
-using Family::RestoredFile;
+using Operations::Backup;
+using Operations::BackupResult;
+using Operations::RestoredFile;
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -36,10 +36,10 @@ class OpenGame
 public:
     explicit OpenGame(const QString& folder)
         : m_game(std::make_unique<FamilyParentProject>(folder)),
-          m_projects(Family::openAllProjects(m_game.get(), &m_errors))
+          m_projects(Operations::openAllProjects(m_game.get(), &m_errors))
     {
     }
-    ~OpenGame() { Family::closeProjects(m_projects); }
+    ~OpenGame() { Operations::closeProjects(m_projects); }
 
     FamilyParentProject* game() const { return m_game.get(); }
     bool isEmpty() const { return m_projects.isEmpty() && m_errors.isEmpty(); }
@@ -104,7 +104,7 @@ int finish(const BackupResult& result, Output& output)
 int listChanges(const FamilyParentProject& game, const QString& folder, Output& output)
 {
     QString error;
-    const QVector<RestoredFile> files = Family::filesToRestore(game, folder, &error);
+    const QVector<RestoredFile> files = Operations::filesToRestore(game, folder, &error);
     if (!error.isEmpty()) {
         complain(error);
         return NotDone;
@@ -132,7 +132,7 @@ void writeJson(const QVector<Backup>& backups, Output& output)
 int backUp(const Invocation& invocation, Output& output)
 {
     const QString name = invocation.operands.value(1, Text::tr("Manual"));
-    const QString fault = Family::backupNameFault(name);
+    const QString fault = Operations::backupNameFault(name);
     if (!fault.isEmpty()) {
         complain(fault);
         return WrongUsage;
@@ -152,7 +152,7 @@ int backUp(const Invocation& invocation, Output& output)
     for (const QString& error : opened.errors()) {
         complain(error);
     }
-    const BackupResult result = Family::makeBackup(opened.game(), name, opened.errors());
+    const BackupResult result = Operations::makeBackup(opened.game(), name, opened.errors());
     const QStringList missing = result.folder.isEmpty() ? QStringList() : result.missing;
     for (const QString& file : missing) {
         complain(Text::tr("'%1' is named and not there. The backup lacks it.").arg(file));
@@ -167,7 +167,7 @@ int listBackups(const Invocation& invocation, Output& output)
         return NotDone;
     }
     const FamilyParentProject game(folder);
-    const QVector<Backup> backups = Family::listBackups(game);
+    const QVector<Backup> backups = Operations::listBackups(game);
     if (invocation.json) {
         writeJson(backups, output);
         return Fine;
@@ -192,7 +192,8 @@ int restore(const Invocation& invocation, Output& output)
     }
     ProgressHost host;
     const OpenGame opened(folder);
-    return finish(Family::restoreBackup(opened.game(), backup, !invocation.noSafetyBackup), output);
+    return finish(Operations::restoreBackup(opened.game(), backup, !invocation.noSafetyBackup),
+                  output);
 }
 
 }  // namespace Cli

@@ -1,6 +1,8 @@
-#include "boxlisting.h"
-#include "cli.h"
-#include "command.h"
+#include "cli/boxlisting.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/output.h"
+#include "cli/results.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/grammar/grammar.h"
@@ -8,8 +10,6 @@
 #include "family/nodes/animationnode.h"
 #include "operations/boxes/boxreport.h"
 #include "operations/gamedocuments.h"
-#include "output.h"
-#include "results.h"
 
 #include <QCoreApplication>
 
@@ -50,11 +50,11 @@ int listBoxes(const Invocation& invocation, Output& output)
             identifiers.append(animation->identifier());
             if (wanted.isNull() || wanted == animation->identifier()) {
                 listing->add({*animation, file, paths.value(animation)},
-                             Family::AnimationBoxReport(*animation));
+                             Operations::AnimationBoxReport(*animation));
             }
         }
     };
-    Family::visitDocuments(path, list, &errors);
+    Operations::visitDocuments(path, list, &errors);
     if (errors.isEmpty() && !wanted.isNull() && !identifiers.contains(wanted)) {
         errors.append(Text::tr("There is no animation '%1' in '%2'. %3")
                           .arg(wanted, path, Family::nameHint(wanted, identifiers)));

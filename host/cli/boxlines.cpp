@@ -1,18 +1,18 @@
-#include "boxlisting.h"
+#include "cli/boxlisting.h"
 
+#include "cli/output.h"
 #include "family/nodes/animationnode.h"
 #include "operations/boxes/boxreport.h"
-#include "output.h"
 
 namespace Cli {
 
 namespace {
 
-using Family::ActiveTime;
-using Family::AnimationBoxReport;
-using Family::BoxesInFrame;
-using Family::BoxInFrame;
-using Family::FrameBoxReport;
+using Operations::ActiveTime;
+using Operations::AnimationBoxReport;
+using Operations::BoxesInFrame;
+using Operations::BoxInFrame;
+using Operations::FrameBoxReport;
 
 QString numbers(const QVector<int>& list)
 {

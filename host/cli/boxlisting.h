@@ -4,9 +4,12 @@
 
 namespace Family {
 class AnimationNode;
+}  // namespace Family
+
+namespace Operations {
 struct AnimationBoxReport;
 struct BoxesInFrame;
-}  // namespace Family
+}  // namespace Operations
 
 namespace Cli {
 
@@ -25,7 +28,8 @@ class BoxListing
 {
 public:
     virtual ~BoxListing() = default;
-    virtual void add(const AnimationInFile& found, const Family::AnimationBoxReport& report) = 0;
+    virtual void add(const AnimationInFile& found,
+                     const Operations::AnimationBoxReport& report) = 0;
 };
 
 /// A line for each animation, frame and box.
@@ -33,10 +37,10 @@ class BoxLines final : public BoxListing
 {
 public:
     explicit BoxLines(Output& output) : m_output(output) {}
-    void add(const AnimationInFile& found, const Family::AnimationBoxReport& report) override;
+    void add(const AnimationInFile& found, const Operations::AnimationBoxReport& report) override;
 
 private:
-    void writeBoxes(const char* kind, const Family::BoxesInFrame& list);
+    void writeBoxes(const char* kind, const Operations::BoxesInFrame& list);
     void writeLine(int line, const QString& what, const QStringList& facts);
 
     Output& m_output;
@@ -49,7 +53,7 @@ class BoxObjects final : public BoxListing
 public:
     explicit BoxObjects(Output& output) : m_output(output) {}
     ~BoxObjects() override;
-    void add(const AnimationInFile& found, const Family::AnimationBoxReport& report) override;
+    void add(const AnimationInFile& found, const Operations::AnimationBoxReport& report) override;
 
 private:
     Output& m_output;

@@ -1,8 +1,8 @@
-#include "boxlisting.h"
+#include "cli/boxlisting.h"
 
+#include "cli/output.h"
 #include "family/nodes/animationnode.h"
 #include "operations/boxes/boxreport.h"
-#include "output.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -11,11 +11,11 @@ namespace Cli {
 
 namespace {
 
-using Family::ActiveTime;
-using Family::AnimationBoxReport;
-using Family::BoxesInFrame;
-using Family::BoxInFrame;
-using Family::FrameBoxReport;
+using Operations::ActiveTime;
+using Operations::AnimationBoxReport;
+using Operations::BoxesInFrame;
+using Operations::BoxInFrame;
+using Operations::FrameBoxReport;
 
 QJsonObject objectOf(const BoxInFrame& box)
 {

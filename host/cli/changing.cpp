@@ -1,11 +1,12 @@
-#include "changing.h"
+#include "cli/changing.h"
 
-#include "output.h"
-#include "results.h"
+#include "cli/output.h"
+#include "cli/results.h"
 
 namespace Cli {
 
-int changeFile(const QString& fileName, const std::function<int()>& change, Family::Others others)
+int changeFile(const QString& fileName, const std::function<int()>& change,
+               Operations::Others others)
 {
     int status = 0;
     QString error;
@@ -14,7 +15,7 @@ int changeFile(const QString& fileName, const std::function<int()>& change, Fami
         complaints.forget();
         status = change();
     };
-    return Family::changeAsOne(fileName, others, attempt, &error) ? status : notDone(error);
+    return Operations::changeAsOne(fileName, others, attempt, &error) ? status : notDone(error);
 }
 
 }  // namespace Cli

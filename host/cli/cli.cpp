@@ -1,11 +1,11 @@
-#include "cli.h"
+#include "cli/cli.h"
 
-#include "command.h"
-#include "commanddialogs.h"
-#include "endingsignals.h"
+#include "cli/command.h"
+#include "cli/commanddialogs.h"
+#include "cli/endingsignals.h"
+#include "cli/output.h"
 #include "family/grammar/grammar.h"
 #include "operations/hostinterface.h"
-#include "output.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -89,8 +89,8 @@ int run(const Command& command, const QStringList& arguments, Output& output)
         return refuse(error, command.usage());
     }
     EndingSignals::watch();
-    Family::HostInterface host;
-    Family::startHost(&host);
+    Operations::HostInterface host;
+    Operations::startHost(&host);
     CommandDialogs dialogs;
     const int status = command.run(invocation, output);
     return dialogs.wasShown() ? NotDone : status;

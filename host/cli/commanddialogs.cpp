@@ -1,6 +1,6 @@
-#include "commanddialogs.h"
+#include "cli/commanddialogs.h"
 
-#include "output.h"
+#include "cli/output.h"
 
 #include <QAbstractItemModel>
 #include <QCoreApplication>

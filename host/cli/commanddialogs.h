@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/dialogs/dialogs.h"
+#include <zorv/core/dialogs/dialogs.h>
 
 namespace Cli {
 

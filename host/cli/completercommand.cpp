@@ -1,8 +1,8 @@
-#include "command.h"
+#include "cli/command.h"
 
-#include "cli.h"
-#include "completer/completerfile.h"
-#include "output.h"
+#include "cli/cli.h"
+#include "cli/output.h"
+#include "family/completer/completerfile.h"
 
 namespace Cli {
 

@@ -1,11 +1,13 @@
-#include "assets/spritecollection.h"
-#include "cli.h"
-#include "command.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/jsonlist.h"
+#include "cli/output.h"
+#include "cli/results.h"
+#include "family/assets/spritecollection.h"
 #include "family/grammar/linereader.h"
 #include "family/nodes/animationnode.h"
 #include "family/nodes/frameedit.h"
 #include "family/stage/framecomposer.h"
-#include "jsonlist.h"
 #include "operations/diff/redrawnsprites.h"
 #include "operations/media/animationrender.h"
 #include "operations/media/diffpicture.h"
@@ -13,8 +15,6 @@
 #include "operations/media/mediaresult.h"
 #include "operations/media/openanimation.h"
 #include "operations/media/outputfiles.h"
-#include "output.h"
-#include "results.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -26,12 +26,12 @@ namespace Cli {
 
 namespace {
 
-using Family::BoxDiff;
-using Family::DiffKind;
 using Family::FrameData;
-using Family::FrameDiff;
-using Family::FrameRecord;
-using Family::OptionDiff;
+using Operations::BoxDiff;
+using Operations::DiffKind;
+using Operations::FrameDiff;
+using Operations::FrameRecord;
+using Operations::OptionDiff;
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -42,19 +42,20 @@ class Text
 /// Both animations, and how they differ.
 struct Comparison
 {
-    const Family::OpenAnimation& before;
-    const Family::OpenAnimation& after;
+    const Operations::OpenAnimation& before;
+    const Operations::OpenAnimation& after;
     QVector<FrameRecord> oldFrames;
     QVector<FrameRecord> newFrames;
     QVector<FrameDiff> frames;
 
-    Comparison(const Family::OpenAnimation& oldOne, const Family::OpenAnimation& newOne)
-        : before(oldOne), after(newOne), oldFrames(Family::frameRecords(oldOne.animation())),
-          newFrames(Family::frameRecords(newOne.animation())),
-          frames(Family::diffFrames(oldFrames, newFrames))
+    Comparison(const Operations::OpenAnimation& oldOne, const Operations::OpenAnimation& newOne)
+        : before(oldOne), after(newOne), oldFrames(Operations::frameRecords(oldOne.animation())),
+          newFrames(Operations::frameRecords(newOne.animation())),
+          frames(Operations::diffFrames(oldFrames, newFrames))
     {
         if (before.sprites() && after.sprites()) {
-            Family::markRedrawn(oldFrames, *before.sprites(), newFrames, *after.sprites(), &frames);
+            Operations::markRedrawn(oldFrames, *before.sprites(), newFrames, *after.sprites(),
+                                    &frames);
         }
     }
 
@@ -233,10 +234,10 @@ void printObjects(const Comparison& comparison, Output& output)
     }
 }
 
-Family::Outcome writePicture(const Comparison& comparison, const Invocation& invocation,
-                             const Family::OutputFiles& outputs)
+Operations::Outcome writePicture(const Comparison& comparison, const Invocation& invocation,
+                                 const Operations::OutputFiles& outputs)
 {
-    Family::FrameStyle style = Family::stageStyle();
+    Family::FrameStyle style = Operations::stageStyle();
     style.zoom = float(invocation.zoom);
     style.parts = Family::FrameStyle::Sprite | Family::FrameStyle::Boxes;
     style.parts.setFlag(Family::FrameStyle::Axis, invocation.showsAxis);
@@ -245,13 +246,14 @@ Family::Outcome writePicture(const Comparison& comparison, const Invocation& inv
     QStringList notes = comparison.before.notes() + comparison.after.notes();
     QString error;
     const QImage picture =
-        Family::diffPicture(comparison.frames, {&comparison.before.animation(), &before},
-                            {&comparison.after.animation(), &after}, &notes, &error);
+        Operations::diffPicture(comparison.frames, {&comparison.before.animation(), &before},
+                                {&comparison.after.animation(), &after}, &notes, &error);
     notes.removeDuplicates();
     for (const QString& note : qAsConst(notes)) {
         complain(note);
     }
-    return picture.isNull() ? Family::Outcome(error) : Family::writeImage(picture, outputs, 0);
+    return picture.isNull() ? Operations::Outcome(error)
+                            : Operations::writeImage(picture, outputs, 0);
 }
 
 }  // namespace
@@ -259,15 +261,15 @@ Family::Outcome writePicture(const Comparison& comparison, const Invocation& inv
 int diffAnimations(const Invocation& invocation, Output& output)
 {
     const bool isDrawn = !invocation.output.place.isEmpty();
-    Family::OutputFiles outputs;
-    Family::MediaResult refusal;
+    Operations::OutputFiles outputs;
+    Operations::MediaResult refusal;
     if (isDrawn && !outputs.plan({invocation.operands.at(2)}, invocation.output, "PNG", &refusal)) {
         return tell(refusal);
     }
     const auto open = [&](int operand) {
-        return std::make_unique<Family::OpenAnimation>(
+        return std::make_unique<Operations::OpenAnimation>(
             invocation.operands.at(operand), invocation.operands.at(2), invocation.sprites,
-            Family::OpenAnimation::OptionalSprites);
+            Operations::OpenAnimation::OptionalSprites);
     };
     const auto before = open(0);
     const auto after = open(1);
@@ -279,7 +281,7 @@ int diffAnimations(const Invocation& invocation, Output& output)
     const Comparison comparison(*before, *after);
     invocation.json ? printObjects(comparison, output) : printLines(comparison, output);
     if (isDrawn && comparison.hasDifferentFrames()) {
-        Family::MediaResult result;
+        Operations::MediaResult result;
         result.note(writePicture(comparison, invocation, outputs));
         if (tell(result) != Fine) {
             return NotDone;

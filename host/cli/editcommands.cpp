@@ -1,13 +1,13 @@
-#include "cli.h"
-#include "command.h"
-#include "editing.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/editing.h"
+#include "cli/jsonlist.h"
+#include "cli/output.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
 #include "family/nodes/animationnode.h"
-#include "jsonlist.h"
 #include "operations/animationedits.h"
-#include "output.h"
 
 #include <QCoreApplication>
 #include <QJsonObject>
@@ -101,16 +101,16 @@ int duplicateAnimation(const Invocation& invocation, Output& output)
     QString chosen;
     const int status = editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
         FamilyAnimations* list = document->animations();
-        const int index = Family::findAnimation(list, invocation.operands.at(1), error);
+        const int index = Operations::findAnimation(list, invocation.operands.at(1), error);
         if (index < 0) {
             return false;
         }
         QString identifier = invocation.operands.value(2);
         if (invocation.operands.size() < 3) {
-            identifier = Family::freeIdentifier(list, list->animation(index)->identifier());
+            identifier = Operations::freeIdentifier(list, list->animation(index)->identifier());
             chosen = identifier;
         }
-        return Family::duplicateAnimation(list, index, identifier, error);
+        return Operations::duplicateAnimation(list, index, identifier, error);
     });
     if (status == Fine && !chosen.isEmpty() && !invocation.dryRun) {
         output.write(chosen + QLatin1Char('\n'));
@@ -122,7 +122,7 @@ int moveAnimation(const Invocation& invocation, Output& output)
 {
     return editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
         FamilyAnimations* list = document->animations();
-        const int from = Family::findAnimation(list, invocation.operands.at(1), error);
+        const int from = Operations::findAnimation(list, invocation.operands.at(1), error);
         int to = 0;
         return from >= 0 && toPosition(invocation.operands.at(2), list->count(), &to, error) &&
                Family::moveAnimation(list, from, to);
@@ -134,13 +134,13 @@ int removeAnimations(const Invocation& invocation, Output& output)
     return editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
         QVector<int> indexes;
         for (const QString& reference : invocation.operands.mid(1)) {
-            const int index = Family::findAnimation(document->animations(), reference, error);
+            const int index = Operations::findAnimation(document->animations(), reference, error);
             if (index < 0) {
                 return false;
             }
             indexes.append(index);
         }
-        Family::removeAnimations(document->animations(), indexes);
+        Operations::removeAnimations(document->animations(), indexes);
         return true;
     });
 }

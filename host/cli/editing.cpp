@@ -1,17 +1,17 @@
-#include "editing.h"
+#include "cli/editing.h"
 
-#include "changing.h"
-#include "cli.h"
-#include "code/codecs/textcodecs.h"
-#include "command.h"
+#include "cli/changing.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/output.h"
+#include "cli/results.h"
 #include "family/familydocument.h"
 #include "operations/documentfile.h"
 #include "operations/textdiff.h"
-#include "output.h"
-#include "results.h"
+
+#include <zorv/code/codecs/textcodecs.h>
 
 #include <QCoreApplication>
-
 #include <memory>
 
 namespace Cli {
@@ -35,7 +35,7 @@ using Document = std::unique_ptr<FamilyDocument, Release>;
 // What can be done here about a file that its encoding would spoil.
 QString encodingAdvice(const QString& fileName)
 {
-    const int codec = Family::faithfulCodec(fileName);
+    const int codec = Operations::faithfulCodec(fileName);
     const QString unchanged = tr("Nothing is written.");
     return codec < 0 ? unchanged
                      : tr("%1 '--encoding %2' reads the file so.")
@@ -52,28 +52,28 @@ QString conversionAdvice(const FamilyDocument& document)
 int printDifference(const FamilyDocument& document, const QString& before, const QString& fileName,
                     Output& output)
 {
-    const QString obstacle = Family::encodingObstacle(&document);
+    const QString obstacle = Operations::encodingObstacle(&document);
     if (!obstacle.isEmpty()) {
         complain(obstacle);
         return notDone(conversionAdvice(document));
     }
-    const QString note = Family::lineEndNote(&document);
+    const QString note = Operations::lineEndNote(&document);
     if (!note.isEmpty()) {
         output.write(note + QLatin1Char('\n'));
     }
-    output.write(Family::unifiedDiff(before, document.text(), fileName, fileName));
+    output.write(Operations::unifiedDiff(before, document.text(), fileName, fileName));
     return Fine;
 }
 
 int save(FamilyDocument& document, const QString& fileName)
 {
     QString error;
-    switch (Family::saveDocument(&document, fileName, &error)) {
-    case Family::Saved::Done:
+    switch (Operations::saveDocument(&document, fileName, &error)) {
+    case Operations::Saved::Done:
         return Fine;
-    case Family::Saved::GivenUp:
+    case Operations::Saved::GivenUp:
         return notDone(conversionAdvice(document));
-    case Family::Saved::Failed:
+    case Operations::Saved::Failed:
         break;
     }
     return notDone(error);
@@ -83,11 +83,11 @@ int editOnce(const Invocation& invocation, Output& output, const Edit& edit)
 {
     const QString fileName = invocation.operands.first();
     QString error;
-    const Document document(Family::openDocument(fileName, invocation.codec, &error));
+    const Document document(Operations::openDocument(fileName, invocation.codec, &error));
     if (!document) {
         return notDone(error);
     }
-    if (!Family::ensureFaithful(document.get())) {
+    if (!Operations::ensureFaithful(document.get())) {
         return notDone(encodingAdvice(fileName));
     }
     const QString before = document->text();
@@ -113,7 +113,7 @@ int readFile(const Invocation& invocation, const Edit& look)
 {
     QString error;
     const Document document(
-        Family::openDocument(invocation.operands.first(), invocation.codec, &error));
+        Operations::openDocument(invocation.operands.first(), invocation.codec, &error));
     return document && look(document.get(), &error) ? int(Fine) : notDone(error);
 }
 

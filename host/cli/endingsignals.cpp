@@ -1,12 +1,11 @@
-#include "endingsignals.h"
+#include "cli/endingsignals.h"
 
-#include "core/files.h"
+#include <zorv/core/files.h>
 
 #include <cerrno>
 #include <csignal>
-#include <thread>
-
 #include <poll.h>
+#include <thread>
 #include <unistd.h>
 
 namespace Cli {

@@ -1,18 +1,19 @@
-#include "cli.h"
-#include "command.h"
-#include "core/dialogs/dialogs.h"
-#include "core/run/temporarycopies.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/notedsignals.h"
+#include "cli/output.h"
 #include "family/check/check.h"
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
 #include "family/project/gameprogram.h"
 #include "family/project/unreachable.h"
-#include "notedsignals.h"
 #include "operations/agreements.h"
 #include "operations/engines.h"
 #include "operations/hostinterface.h"
-#include "output.h"
+
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/run/temporarycopies.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,7 +21,6 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
-
 #include <algorithm>
 #include <map>
 #include <memory>
@@ -29,10 +29,10 @@ namespace Cli {
 
 namespace {
 
-using Family::Agreement;
 using Family::FamilyParentProject;
 using Family::FamilyProject;
 using Family::GameProgram;
+using Operations::Agreement;
 using Zorv::EngineInfo;
 using Zorv::RunResult;
 
@@ -46,7 +46,7 @@ class Text
 };
 
 /// The projects of the command, each in its game.
-class RunHost final : public Family::HostInterface
+class RunHost final : public Operations::HostInterface
 {
 public:
     ~RunHost() override
@@ -197,7 +197,7 @@ bool isTrusted(const Invocation& invocation, const GameProgram& program, QSettin
                QString* error)
 {
     const QString shown = shownPath(program.path());
-    const Agreement agreement = agreementTo(program, settings);
+    const Agreement agreement = Operations::agreementTo(program, settings);
     if (program.checksum().isEmpty()) {
         *error = Text::tr("'%1' cannot be read, so it is not started. Name another engine with "
                           "'--engine'.")
@@ -221,7 +221,7 @@ bool chooseEngines(const Invocation& invocation, const RunHost& host, QSettings&
                    QString* error)
 {
     const FamilyParentProject* game = host.game();
-    QVector<EngineInfo> engines = Family::loadEngines(settings);
+    QVector<EngineInfo> engines = Operations::loadEngines(settings);
     if (!invocation.engine.isNull() &&
         !findEngine(invocation.engine, game, host.currentProject()->kind(), &engines, error)) {
         return false;
@@ -233,7 +233,7 @@ bool chooseEngines(const Invocation& invocation, const RunHost& host, QSettings&
     if (engines.isEmpty()) {
         *error = Text::tr("No engine is configured. Name a program with '--engine'.");
     } else if (engines.size() == 1) {
-        *error = Family::engineProblem(engines.first());
+        *error = Operations::engineProblem(engines.first());
     }
     Family::FamilyEngineModel::instance()->setEngines(engines);
     return error->isEmpty();
@@ -333,7 +333,7 @@ int runInEngine(const Invocation& invocation, Output& output)
                           "engines.")
                      .arg(shownPath(program.path())));
     }
-    const Family::NamedProgram named(program);
+    const Operations::NamedProgram named(program);
     return runEngine(host.game(), output);
 }
 

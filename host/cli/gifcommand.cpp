@@ -1,7 +1,9 @@
-#include "assets/spritecollection.h"
-#include "cli.h"
-#include "command.h"
-#include "editing.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/editing.h"
+#include "cli/results.h"
+#include "cli/spriteopening.h"
+#include "family/assets/spritecollection.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
@@ -11,8 +13,6 @@
 #include "operations/media/mediaresult.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/spriteexport.h"
-#include "results.h"
-#include "spriteopening.h"
 
 namespace Cli {
 
@@ -22,14 +22,14 @@ namespace {
 bool writeGif(const Family::FamilyDocument* document, const Invocation& invocation, QString* error)
 {
     const Family::FamilyAnimations* list = document->animations();
-    const int index = Family::findAnimation(list, invocation.operands.at(1), error);
+    const int index = Operations::findAnimation(list, invocation.operands.at(1), error);
     const QString spriteFile = index < 0 || !invocation.sprites.isNull()
                                    ? invocation.sprites
-                                   : Family::spritesBeside(invocation.operands.first(), error);
-    Family::OutputRequest request = invocation.output;
+                                   : Operations::spritesBeside(invocation.operands.first(), error);
+    Operations::OutputRequest request = invocation.output;
     request.place = invocation.operands.at(2);
-    Family::OutputFiles outputs;
-    Family::MediaResult refusal;
+    Operations::OutputFiles outputs;
+    Operations::MediaResult refusal;
     if (!error->isEmpty() ||
         !outputs.plan({invocation.operands.at(1)}, request, QByteArrayLiteral("GIF"), &refusal)) {
         tell(refusal);
@@ -39,11 +39,11 @@ bool writeGif(const Family::FamilyDocument* document, const Invocation& invocati
     Family::PaletteColors colors;
     const bool isRecolored = !invocation.palette.isNull();
     if (!sprites ||
-        (isRecolored && !Family::findPalette(*sprites, invocation.palette, &colors, error))) {
+        (isRecolored && !Operations::findPalette(*sprites, invocation.palette, &colors, error))) {
         return false;
     }
     Family::FrameComposer composer(sprites.get(), {}, isRecolored ? &colors : nullptr);
-    const QByteArray bytes = Family::animationGif(*list->animation(index), &composer, error);
+    const QByteArray bytes = Operations::animationGif(*list->animation(index), &composer, error);
     if (error->isEmpty()) {
         *error = outputs.write(0, bytes);
     }

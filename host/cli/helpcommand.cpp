@@ -1,6 +1,6 @@
-#include "cli.h"
-#include "command.h"
-#include "output.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/output.h"
 
 #include <QCoreApplication>
 

@@ -1,10 +1,10 @@
-#include "cli.h"
-#include "command.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/progresshost.h"
+#include "cli/results.h"
 #include "operations/media/filepatterns.h"
 #include "operations/media/imageedits.h"
 #include "operations/media/palettework.h"
-#include "progresshost.h"
-#include "results.h"
 
 #include <QCoreApplication>
 
@@ -19,44 +19,45 @@ QString tr(const char* text)
     return QCoreApplication::translate("Cli", text);
 }
 
-int editImages(const Invocation& invocation, const Family::ImageEdit& edit)
+int editImages(const Invocation& invocation, const Operations::ImageEdit& edit)
 {
     QString error;
-    const QStringList files = Family::expandPatterns(invocation.operands, &error);
+    const QStringList files = Operations::expandPatterns(invocation.operands, &error);
     if (!error.isEmpty()) {
         return notDone(error);
     }
     ProgressHost host;
-    return tell(Family::editImages(files, invocation.output, edit));
+    return tell(Operations::editImages(files, invocation.output, edit));
 }
 
 /// One palette for all images.
 int quantizeTogether(const Invocation& invocation)
 {
     QString error;
-    const QStringList files = Family::expandPatterns(invocation.operands, &error);
+    const QStringList files = Operations::expandPatterns(invocation.operands, &error);
     if (!error.isEmpty()) {
         return notDone(error);
     }
     ProgressHost host;
-    Family::MediaResult result;
-    const auto colors = Family::commonPalette(files, invocation.colors, &result);
+    Operations::MediaResult result;
+    const auto colors = Operations::commonPalette(files, invocation.colors, &result);
     if (colors.isEmpty()) {
         return tell(result);
     }
-    return tell(Family::editImages(files, invocation.output, Family::adaptingImage(colors)));
+    return tell(
+        Operations::editImages(files, invocation.output, Operations::adaptingImage(colors)));
 }
 
 }  // namespace
 
 int convertImages(const Invocation& invocation, Output&)
 {
-    return editImages(invocation, Family::keepingImage());
+    return editImages(invocation, Operations::keepingImage());
 }
 
 int cropImages(const Invocation& invocation, Output&)
 {
-    return editImages(invocation, Family::croppingImage(invocation.background));
+    return editImages(invocation, Operations::croppingImage(invocation.background));
 }
 
 int resizeImages(const Invocation& invocation, Output&)
@@ -64,8 +65,8 @@ int resizeImages(const Invocation& invocation, Output&)
     if (invocation.size.isEmpty() == (invocation.factor <= 0)) {
         return wrongUsage(tr("Expected the new size: either '--size' or '--factor'."));
     }
-    return editImages(invocation,
-                      Family::resizingImage(invocation.size, invocation.factor, invocation.filter));
+    return editImages(invocation, Operations::resizingImage(invocation.size, invocation.factor,
+                                                            invocation.filter));
 }
 
 int rotateImages(const Invocation& invocation, Output&)
@@ -73,9 +74,9 @@ int rotateImages(const Invocation& invocation, Output&)
     if (invocation.angle == 0) {
         return wrongUsage(tr("Expected how far to turn, as in '--angle 90'."));
     }
-    return editImages(
-        invocation,
-        Family::rotatingImage(invocation.angle, qMax(invocation.background, 0), invocation.filter));
+    return editImages(invocation,
+                      Operations::rotatingImage(invocation.angle, qMax(invocation.background, 0),
+                                                invocation.filter));
 }
 
 int quantizeImages(const Invocation& invocation, Output&)
@@ -86,14 +87,15 @@ int quantizeImages(const Invocation& invocation, Output&)
     if (!invocation.palette.isNull()) {
         Zorv::RGBA colors[256];
         QString error;
-        if (!Family::readPalette(invocation.palette, colors, &error)) {
+        if (!Operations::readPalette(invocation.palette, colors, &error)) {
             return notDone(error);
         }
-        return editImages(invocation, Family::adaptingImage(QVector<Zorv::RGBA>(std::begin(colors),
-                                                                                std::end(colors))));
+        return editImages(invocation, Operations::adaptingImage(QVector<Zorv::RGBA>(
+                                          std::begin(colors), std::end(colors))));
     }
-    return invocation.isCommon ? quantizeTogether(invocation)
-                               : editImages(invocation, Family::quantizingImage(invocation.colors));
+    return invocation.isCommon
+               ? quantizeTogether(invocation)
+               : editImages(invocation, Operations::quantizingImage(invocation.colors));
 }
 
 }  // namespace Cli

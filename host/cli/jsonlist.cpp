@@ -1,6 +1,6 @@
-#include "jsonlist.h"
+#include "cli/jsonlist.h"
 
-#include "output.h"
+#include "cli/output.h"
 
 #include <QJsonObject>
 

@@ -1,6 +1,6 @@
-#include "notedsignals.h"
+#include "cli/notedsignals.h"
 
-#include "endingsignals.h"
+#include "cli/endingsignals.h"
 
 namespace Cli {
 

@@ -1,13 +1,13 @@
-#include "options.h"
+#include "cli/options.h"
 
-#include "code/codecs/textcodecs.h"
 #include "family/stage/framecomposer.h"
 #include "operations/media/imagefiles.h"
+
+#include <zorv/code/codecs/textcodecs.h>
 
 #include <QCoreApplication>
 #include <QRegularExpression>
 #include <QTextCodec>
-
 #include <algorithm>
 
 namespace Cli {
@@ -133,7 +133,7 @@ QString takePlace(const QString& text, Invocation& invocation)
 QString takeFormat(const QString& text, Invocation& invocation)
 {
     invocation.output.format = text.toUpper().toLatin1();
-    return Family::isImageFormat(invocation.output.format)
+    return Operations::isImageFormat(invocation.output.format)
                ? QString()
                : expected(QT_TRANSLATE_NOOP("Cli", "png, pcx, bmp or gif"), text);
 }

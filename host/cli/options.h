@@ -1,8 +1,9 @@
 #pragma once
 
-#include "media/tools/imageresizefilter.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/selection.h"
+
+#include <zorv/media/tools/imageresizefilter.h>
 
 #include <QPoint>
 #include <QSize>
@@ -22,8 +23,8 @@ struct Invocation
     QString parameters;   ///< for the engine; null if none were given
     bool trusts = false;  ///< the program of the game folder
 
-    Family::OutputRequest output;  ///< --out, --format, --force
-    Family::Selection selection;
+    Operations::OutputRequest output;  ///< --out, --format, --force
+    Operations::Selection selection;
     QString palette;  ///< an identifier or a file; null if none was named
     bool adapts = false;
     bool recolors = false;

@@ -1,16 +1,16 @@
-#include "assets/palettelist.h"
-#include "assets/spritecollection.h"
-#include "changing.h"
-#include "cli.h"
-#include "command.h"
-#include "jsonlist.h"
+#include "cli/changing.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/jsonlist.h"
+#include "cli/output.h"
+#include "cli/progresshost.h"
+#include "cli/results.h"
+#include "cli/spriteopening.h"
+#include "family/assets/palettelist.h"
+#include "family/assets/spritecollection.h"
 #include "operations/media/filepatterns.h"
 #include "operations/media/palettework.h"
 #include "operations/media/spriteexport.h"
-#include "output.h"
-#include "progresshost.h"
-#include "results.h"
-#include "spriteopening.h"
 
 #include <QColor>
 #include <QCoreApplication>
@@ -88,7 +88,7 @@ int listOfSprites(const Invocation& invocation, Output& output)
 
 /// The palettes that a selection means; all others are left as they are.
 QVector<FamilyPalette*> selectedPalettes(const Family::SpriteCollection& sprites,
-                                         const Family::Selection& selection)
+                                         const Operations::Selection& selection)
 {
     QVector<FamilyPalette*> selected;
     for (const auto& palette : sprites.palettes()->items()) {
@@ -115,8 +115,8 @@ int applyToSprites(const Invocation& invocation, const Zorv::RGBA (&colors)[256]
                                       "'--select 1,1'.")
                                  .arg(fileName, QString::number(palettes.size())));
     }
-    Family::OutputFiles outputs;
-    Family::MediaResult refusal;
+    Operations::OutputFiles outputs;
+    Operations::MediaResult refusal;
     if (!outputs.plan({fileName}, invocation.output, {}, &refusal)) {
         return tell(refusal);
     }
@@ -139,7 +139,7 @@ int listPalettes(const Invocation& invocation, Output& output)
     }
     Zorv::RGBA colors[256];
     QString error;
-    if (!Family::readPalette(fileName, colors, &error)) {
+    if (!Operations::readPalette(fileName, colors, &error)) {
         return notDone(error);
     }
     listColors(colors, invocation.json, output);
@@ -152,48 +152,48 @@ int exportPalettes(const Invocation& invocation, Output&)
     if (!sprites) {
         return NotDone;
     }
-    Family::OutputRequest request = invocation.output;
+    Operations::OutputRequest request = invocation.output;
     request.place = invocation.operands.at(1);
-    return tell(Family::exportPalettes(*sprites, invocation.selection, request));
+    return tell(Operations::exportPalettes(*sprites, invocation.selection, request));
 }
 
 int applyPalette(const Invocation& invocation, Output&)
 {
     Zorv::RGBA colors[256];
     QString error;
-    if (!Family::readPalette(invocation.operands.first(), colors, &error)) {
+    if (!Operations::readPalette(invocation.operands.first(), colors, &error)) {
         return notDone(error);
     }
     ProgressHost host;
     const QStringList names = invocation.operands.mid(1);
     if (std::any_of(names.begin(), names.end(), isSpriteFile)) {
         // What is written elsewhere takes the lock of that place.
-        const auto others =
-            invocation.output.place.isEmpty() ? Family::Others::Wait : Family::Others::GoAhead;
+        const auto others = invocation.output.place.isEmpty() ? Operations::Others::Wait
+                                                              : Operations::Others::GoAhead;
         return names.size() == 1
                    ? changeFile(
                          names.first(), [&] { return applyToSprites(invocation, colors); }, others)
                    : wrongUsage(Text::tr("Expected one sprite file, or images alone."));
     }
-    const QStringList files = Family::expandPatterns(names, &error);
+    const QStringList files = Operations::expandPatterns(names, &error);
     if (!error.isEmpty()) {
         return notDone(error);
     }
     const QVector<Zorv::RGBA> given(std::begin(colors), std::end(colors));
-    return tell(Family::editImages(files, invocation.output,
-                                   invocation.adapts ? Family::adaptingImage(given)
-                                                     : Family::recoloringImage(given)));
+    return tell(Operations::editImages(files, invocation.output,
+                                       invocation.adapts ? Operations::adaptingImage(given)
+                                                         : Operations::recoloringImage(given)));
 }
 
 int convertPalettes(const Invocation& invocation, Output&)
 {
     QString error;
-    const QStringList files = Family::expandPatterns(invocation.operands, &error);
+    const QStringList files = Operations::expandPatterns(invocation.operands, &error);
     if (!error.isEmpty()) {
         return notDone(error);
     }
     ProgressHost host;
-    return tell(Family::convertPalettes(files, invocation.output));
+    return tell(Operations::convertPalettes(files, invocation.output));
 }
 
 }  // namespace Cli

@@ -1,12 +1,12 @@
-#include "progresshost.h"
+#include "cli/progresshost.h"
 
-#include "progressline.h"
+#include "cli/progressline.h"
 
 namespace Cli {
 
 ProgressHost::ProgressHost()
 {
-    Family::startHost(this);
+    Operations::startHost(this);
 }
 
 Zorv::ProgressReporter* ProgressHost::progress(const QString& title, int)

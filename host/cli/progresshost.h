@@ -1,12 +1,12 @@
 #pragma once
 
-#include "notedsignals.h"
+#include "cli/notedsignals.h"
 #include "operations/hostinterface.h"
 
 namespace Cli {
 
 /// Shows how far the work is, and lets Ctrl+C end it where every file is whole.
-class ProgressHost final : public Family::HostInterface
+class ProgressHost final : public Operations::HostInterface
 {
 public:
     ProgressHost();

@@ -1,7 +1,7 @@
-#include "progressline.h"
+#include "cli/progressline.h"
 
-#include "notedsignals.h"
-#include "output.h"
+#include "cli/notedsignals.h"
+#include "cli/output.h"
 
 #include <cstdio>
 #include <unistd.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/progressreporter.h"
+#include <zorv/core/progressreporter.h>
 
 #include <QElapsedTimer>
 #include <QString>

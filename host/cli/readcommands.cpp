@@ -1,12 +1,12 @@
-#include "cli.h"
-#include "command.h"
-#include "editing.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/editing.h"
+#include "cli/jsonlist.h"
+#include "cli/output.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
-#include "jsonlist.h"
 #include "operations/checkpath.h"
 #include "operations/nodetree.h"
-#include "output.h"
 
 #include <QJsonObject>
 
@@ -37,12 +37,12 @@ void writeJsonProblems(const Family::Problems& problems, Output& output)
     }
 }
 
-int lineOf(const Family::TreeEntry& entry)
+int lineOf(const Operations::TreeEntry& entry)
 {
     return entry.node->block().blockNumber() + 1;
 }
 
-QStringList treeColumns(const Family::TreeEntry& entry, const QString& path)
+QStringList treeColumns(const Operations::TreeEntry& entry, const QString& path)
 {
     const QString indent(2 * entry.depth, QLatin1Char(' '));
     return {QString::number(lineOf(entry)),
@@ -51,7 +51,7 @@ QStringList treeColumns(const Family::TreeEntry& entry, const QString& path)
             path};
 }
 
-QString treeObject(const Family::TreeEntry& entry, const QString& path)
+QString treeObject(const Operations::TreeEntry& entry, const QString& path)
 {
     QJsonObject object{{QStringLiteral("kind"), Family::nodeKind(entry.node)},
                        {QStringLiteral("line"), lineOf(entry)},
@@ -65,8 +65,8 @@ QString treeObject(const Family::TreeEntry& entry, const QString& path)
 void writeTree(const FamilyDocument* document, Output& output)
 {
     const auto paths = Family::nodePaths(document);
-    const QVector<Family::TreeEntry> tree = Family::nodeTree(document);
-    for (const Family::TreeEntry& entry : tree) {
+    const QVector<Operations::TreeEntry> tree = Operations::nodeTree(document);
+    for (const Operations::TreeEntry& entry : tree) {
         output.writeLine(treeColumns(entry, paths.value(entry.node)));
     }
 }
@@ -75,7 +75,7 @@ void writeTree(const FamilyDocument* document, Output& output)
 void writeJsonTree(const FamilyDocument* document, Output& output)
 {
     const auto paths = Family::nodePaths(document);
-    const QVector<Family::TreeEntry> tree = Family::nodeTree(document);
+    const QVector<Operations::TreeEntry> tree = Operations::nodeTree(document);
     if (tree.isEmpty()) {
         output.write(QStringLiteral("[]\n"));
         return;
@@ -104,7 +104,7 @@ void writeJsonTree(const FamilyDocument* document, Output& output)
 int checkCommand(const Invocation& invocation, Output& output)
 {
     QString error;
-    const Family::Problems problems = Family::checkPath(invocation.operands.first(), &error);
+    const Family::Problems problems = Operations::checkPath(invocation.operands.first(), &error);
     if (!error.isEmpty()) {
         complain(error);
         return NotDone;
@@ -128,7 +128,7 @@ int treeCommand(const Invocation& invocation, Output& output)
 int getCommand(const Invocation& invocation, Output& output)
 {
     return readFile(invocation, [&](FamilyDocument* document, QString* error) {
-        const QString text = Family::textAt(document, invocation.operands.at(1), error);
+        const QString text = Operations::textAt(document, invocation.operands.at(1), error);
         if (!text.isNull()) {
             output.write(text + QLatin1Char('\n'));
         }

@@ -1,6 +1,8 @@
-#include "assets/spritecollection.h"
-#include "cli.h"
-#include "command.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/output.h"
+#include "cli/results.h"
+#include "family/assets/spritecollection.h"
 #include "family/nodes/animationnode.h"
 #include "family/stage/framecomposer.h"
 #include "operations/media/animationgif.h"
@@ -10,8 +12,6 @@
 #include "operations/media/openanimation.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/spriteexport.h"
-#include "output.h"
-#include "results.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -44,16 +44,16 @@ QString optionFault(const Invocation& invocation)
                                                          : QString();
 }
 
-using Family::Outcome;
+using Operations::Outcome;
 
 /// The files of a picture and, for a sheet, of what is told of it.
 struct Outputs
 {
-    Family::OutputFiles image;
-    Family::OutputFiles text;
+    Operations::OutputFiles image;
+    Operations::OutputFiles text;
 };
 
-bool plan(const Invocation& invocation, Outputs* outputs, Family::MediaResult* refusal)
+bool plan(const Invocation& invocation, Outputs* outputs, Operations::MediaResult* refusal)
 {
     const QByteArray format(invocation.asGif ? "GIF" : "PNG");
     if (!outputs->image.plan({invocation.operands.at(1)}, invocation.output, format, refusal)) {
@@ -63,7 +63,7 @@ bool plan(const Invocation& invocation, Outputs* outputs, Family::MediaResult* r
         return true;
     }
     const QFileInfo image(outputs->image.path(0));
-    Family::OutputRequest request = invocation.output;
+    Operations::OutputRequest request = invocation.output;
     request.place =
         image.path() + QLatin1Char('/') + image.completeBaseName() + QLatin1String(".json");
     return outputs->text.plan({request.place}, request, {}, refusal);
@@ -71,7 +71,7 @@ bool plan(const Invocation& invocation, Outputs* outputs, Family::MediaResult* r
 
 Family::FrameStyle styleOf(const Invocation& invocation)
 {
-    Family::FrameStyle style = Family::stageStyle();
+    Family::FrameStyle style = Operations::stageStyle();
     style.zoom = float(invocation.zoom);
     style.parts.setFlag(Family::FrameStyle::Boxes, invocation.showsBoxes);
     style.parts.setFlag(Family::FrameStyle::Axis, invocation.showsAxis);
@@ -84,19 +84,19 @@ Outcome render(const Invocation& invocation, const Family::AnimationNode& animat
 {
     QString error;
     if (invocation.asGif) {
-        const QByteArray bytes = Family::animationGif(animation, composer, &error);
+        const QByteArray bytes = Operations::animationGif(animation, composer, &error);
         return error.isEmpty() ? outputs.image.write(0, bytes) : error;
     }
     if (!invocation.asSheet) {
         const QImage image =
-            Family::renderFrame(animation, qMax(invocation.frame, 0), composer, &error);
-        return error.isEmpty() ? Family::writeImage(image, outputs.image, 0) : Outcome(error);
+            Operations::renderFrame(animation, qMax(invocation.frame, 0), composer, &error);
+        return error.isEmpty() ? Operations::writeImage(image, outputs.image, 0) : Outcome(error);
     }
     const QString name = QFileInfo(outputs.image.path(0)).fileName();
-    const Family::AnimationSheet sheet =
-        Family::renderSheet(animation, invocation.columns, name, composer, &error);
+    const Operations::AnimationSheet sheet =
+        Operations::renderSheet(animation, invocation.columns, name, composer, &error);
     Outcome outcome =
-        error.isEmpty() ? Family::writeImage(sheet.image, outputs.image, 0) : Outcome(error);
+        error.isEmpty() ? Operations::writeImage(sheet.image, outputs.image, 0) : Outcome(error);
     if (outcome.error.isEmpty()) {
         outcome.error = outputs.text.write(0, sheet.json);
     }
@@ -112,12 +112,12 @@ int renderAnimation(const Invocation& invocation, Output&)
         return wrongUsage(fault);
     }
     Outputs outputs;
-    Family::MediaResult refusal;
+    Operations::MediaResult refusal;
     if (!plan(invocation, &outputs, &refusal)) {
         return tell(refusal);
     }
-    const Family::OpenAnimation opened(invocation.operands.at(0), invocation.operands.at(1),
-                                       invocation.sprites);
+    const Operations::OpenAnimation opened(invocation.operands.at(0), invocation.operands.at(1),
+                                           invocation.sprites);
     if (!opened) {
         return notDone(opened.errorString());
     }
@@ -133,12 +133,12 @@ int renderAnimation(const Invocation& invocation, Output&)
     const bool isRecolored = !invocation.palette.isNull();
     QString error;
     if (isRecolored &&
-        !Family::findPalette(*opened.sprites(), invocation.palette, &colors, &error)) {
+        !Operations::findPalette(*opened.sprites(), invocation.palette, &colors, &error)) {
         return notDone(error);
     }
     Family::FrameComposer composer(opened.sprites(), styleOf(invocation),
                                    isRecolored ? &colors : nullptr);
-    Family::MediaResult result;
+    Operations::MediaResult result;
     result.note(render(invocation, opened.animation(), &composer, outputs));
     return tell(result);
 }

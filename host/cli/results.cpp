@@ -1,15 +1,15 @@
-#include "results.h"
+#include "cli/results.h"
 
-#include "cli.h"
-#include "notedsignals.h"
+#include "cli/cli.h"
+#include "cli/notedsignals.h"
+#include "cli/output.h"
 #include "operations/media/imageedits.h"
-#include "output.h"
 
 #include <QCoreApplication>
 
 namespace Cli {
 
-int tell(const Family::MediaResult& result)
+int tell(const Operations::MediaResult& result)
 {
     for (const QString& error : result.errors) {
         complain(result.isTaken ? error + QLatin1Char(' ') +

@@ -2,14 +2,14 @@
 
 #include <QStringList>
 
-namespace Family {
+namespace Operations {
 struct MediaResult;
 }
 
 namespace Cli {
 
 /// Says what went wrong; gives the status.
-int tell(const Family::MediaResult& result);
+int tell(const Operations::MediaResult& result);
 
 /// Says it, unless it is empty because that was done; gives `NotDone`.
 int notDone(const QString& error);

@@ -1,19 +1,19 @@
-#include "assets/soundfile.h"
-#include "changing.h"
-#include "cli.h"
-#include "command.h"
-#include "core/filesystemarchive.h"
-#include "jsonlist.h"
+#include "cli/changing.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/jsonlist.h"
+#include "cli/output.h"
+#include "cli/progresshost.h"
+#include "cli/results.h"
+#include "family/assets/soundfile.h"
 #include "operations/media/filepatterns.h"
 #include "operations/media/soundwork.h"
-#include "output.h"
-#include "progresshost.h"
-#include "results.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonObject>
-
 #include <memory>
 
 namespace Cli {
@@ -46,7 +46,7 @@ QStringList columnsOf(const Zorv::SampleInfo& info)
 {
     return {QString::number(info.channels), QString::number(info.bits),
             QString::number(info.sampleRate), QString::number(info.frames),
-            QString::number(Family::duration(info), 'f', 3)};
+            QString::number(Operations::duration(info), 'f', 3)};
 }
 
 QJsonObject objectOf(const Zorv::SampleInfo& info)
@@ -55,15 +55,15 @@ QJsonObject objectOf(const Zorv::SampleInfo& info)
             {QStringLiteral("bits"), info.bits},
             {QStringLiteral("rate"), info.sampleRate},
             {QStringLiteral("frames"), info.frames},
-            {QStringLiteral("seconds"), Family::duration(info)}};
+            {QStringLiteral("seconds"), Operations::duration(info)}};
 }
 
-Family::SoundExtent extentOf(const Invocation& invocation)
+Operations::SoundExtent extentOf(const Invocation& invocation)
 {
-    return invocation.isLenient ? Family::SoundExtent::Whole : Family::SoundExtent::AsTold;
+    return invocation.isLenient ? Operations::SoundExtent::Whole : Operations::SoundExtent::AsTold;
 }
 
-int tellOfParts(const Family::MediaResult& result)
+int tellOfParts(const Operations::MediaResult& result)
 {
     const int status = tell(result);
     if (result.isPart) {
@@ -106,21 +106,21 @@ int exportSounds(const Invocation& invocation, Output&)
     if (!sounds) {
         return NotDone;
     }
-    Family::OutputRequest request = invocation.output;
+    Operations::OutputRequest request = invocation.output;
     request.place = invocation.operands.at(1);
-    return tell(Family::exportSounds(*sounds, invocation.selection, request));
+    return tell(Operations::exportSounds(*sounds, invocation.selection, request));
 }
 
 int importSounds(const Invocation& invocation, Output&)
 {
     const QString fileName = invocation.operands.first();
     QString error;
-    const QStringList files = Family::expandPatterns(invocation.operands.mid(1), &error);
+    const QStringList files = Operations::expandPatterns(invocation.operands.mid(1), &error);
     if (!error.isEmpty()) {
         return notDone(error);
     }
     ProgressHost host;
-    Family::SoundImport request;
+    Operations::SoundImport request;
     request.group = invocation.group;
     request.force = invocation.output.force;
     request.extent = extentOf(invocation);
@@ -130,7 +130,7 @@ int importSounds(const Invocation& invocation, Output&)
         if (!sounds) {
             return NotDone;
         }
-        const int status = tellOfParts(Family::importSounds(sounds.get(), files, request));
+        const int status = tellOfParts(Operations::importSounds(sounds.get(), files, request));
         if (status != Fine || !sounds->isModified()) {
             return status;
         }
@@ -143,15 +143,16 @@ int importSounds(const Invocation& invocation, Output&)
 int tellOfSounds(const Invocation& invocation, Output& output)
 {
     QString error;
-    const QStringList files = Family::expandPatterns(invocation.operands, &error);
+    const QStringList files = Operations::expandPatterns(invocation.operands, &error);
     if (!error.isEmpty()) {
         return notDone(error);
     }
-    Family::MediaResult result;
+    Operations::MediaResult result;
     std::unique_ptr<JsonList> list(invocation.json ? new JsonList(output) : nullptr);
     for (const QString& file : files) {
         Zorv::SoundSample sample;
-        const Family::Outcome outcome = Family::readSound(file, extentOf(invocation), &sample);
+        const Operations::Outcome outcome =
+            Operations::readSound(file, extentOf(invocation), &sample);
         if (outcome.error.isEmpty() && list) {
             QJsonObject object = objectOf(sample);
             object.insert(QStringLiteral("file"), file);

@@ -1,19 +1,20 @@
-#include "assets/newsprites.h"
-#include "assets/spritecollection.h"
-#include "changing.h"
-#include "cli.h"
-#include "command.h"
-#include "core/filesystemarchive.h"
-#include "jsonlist.h"
+#include "cli/changing.h"
+#include "cli/cli.h"
+#include "cli/command.h"
+#include "cli/jsonlist.h"
+#include "cli/output.h"
+#include "cli/progresshost.h"
+#include "cli/results.h"
+#include "cli/spriteopening.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/spritecollection.h"
 #include "operations/media/filepatterns.h"
 #include "operations/media/imagefiles.h"
 #include "operations/media/spriteexport.h"
 #include "operations/media/spriteimport.h"
 #include "operations/media/spritesheet.h"
-#include "output.h"
-#include "progresshost.h"
-#include "results.h"
-#include "spriteopening.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -77,17 +78,18 @@ bool givenColors(const Invocation& invocation, const SpriteCollection& sprites,
 {
     *given = invocation.palette.isNull() ? nullptr : colors;
     QString error;
-    if (!*given || Family::findPalette(sprites, invocation.palette, colors, &error)) {
+    if (!*given || Operations::findPalette(sprites, invocation.palette, colors, &error)) {
         return true;
     }
     complain(error);
     return false;
 }
 
-void writePlaces(const Family::SpriteSheet& sheet, const SpriteCollection& sprites, Output& output)
+void writePlaces(const Operations::SpriteSheet& sheet, const SpriteCollection& sprites,
+                 Output& output)
 {
     JsonList list(output);
-    for (const Family::SpriteSheet::Place& place : sheet.places) {
+    for (const Operations::SpriteSheet::Place& place : sheet.places) {
         QJsonObject object = objectOf(*sprites.sprite(place.row));
         object.insert(QStringLiteral("x"), place.rect.x());
         object.insert(QStringLiteral("y"), place.rect.y());
@@ -95,9 +97,9 @@ void writePlaces(const Family::SpriteSheet& sheet, const SpriteCollection& sprit
     }
 }
 
-Family::ImportRequest importRequest(const Invocation& invocation)
+Operations::ImportRequest importRequest(const Invocation& invocation)
 {
-    Family::ImportRequest request;
+    Operations::ImportRequest request;
     request.group = invocation.group;
     request.axis = invocation.axis;
     request.hasAxis = invocation.hasAxis;
@@ -153,9 +155,9 @@ int exportSprites(const Invocation& invocation, Output&)
     if (!sprites || !givenColors(invocation, *sprites, &colors, &given)) {
         return NotDone;
     }
-    Family::OutputRequest request = invocation.output;
+    Operations::OutputRequest request = invocation.output;
     request.place = invocation.operands.at(1);
-    return tell(Family::exportSprites(*sprites, invocation.selection, request, given));
+    return tell(Operations::exportSprites(*sprites, invocation.selection, request, given));
 }
 
 int importSprites(const Invocation& invocation, Output&)
@@ -165,7 +167,7 @@ int importSprites(const Invocation& invocation, Output&)
         return wrongUsage(error);
     }
     const QString fileName = invocation.operands.first();
-    const QStringList files = Family::expandPatterns(invocation.operands.mid(1), &error);
+    const QStringList files = Operations::expandPatterns(invocation.operands.mid(1), &error);
     if (!error.isEmpty()) {
         return notDone(error);
     }
@@ -176,7 +178,7 @@ int importSprites(const Invocation& invocation, Output&)
             return NotDone;
         }
         const int status =
-            tell(Family::importSprites(sprites.get(), files, importRequest(invocation)));
+            tell(Operations::importSprites(sprites.get(), files, importRequest(invocation)));
         return status == Fine ? sprites.save(fileName) : status;
     });
 }
@@ -190,22 +192,22 @@ int makeSheet(const Invocation& invocation, Output& output)
     if (!sprites || !givenColors(invocation, *sprites, &colors, &given)) {
         return NotDone;
     }
-    Family::OutputRequest request = invocation.output;
+    Operations::OutputRequest request = invocation.output;
     request.place = invocation.operands.at(1);
-    Family::OutputFiles outputs;
-    Family::MediaResult refusal;
+    Operations::OutputFiles outputs;
+    Operations::MediaResult refusal;
     if (!outputs.plan({QFileInfo(invocation.operands.first()).completeBaseName()}, request,
                       QByteArrayLiteral("PNG"), &refusal)) {
         return tell(refusal);
     }
-    const Family::SpriteSheet sheet =
-        Family::makeSpriteSheet(*sprites, invocation.selection, invocation.columns, given);
-    Family::MediaResult result;
+    const Operations::SpriteSheet sheet =
+        Operations::makeSpriteSheet(*sprites, invocation.selection, invocation.columns, given);
+    Operations::MediaResult result;
     result.errors = sheet.broken;
     result.isCanceled = sheet.isCanceled;
     if (!sheet.isCanceled) {
-        result.note(sheet.error.isEmpty() ? Family::writeImage(sheet.image, outputs, 0)
-                                          : Family::Outcome(sheet.error));
+        result.note(sheet.error.isEmpty() ? Operations::writeImage(sheet.image, outputs, 0)
+                                          : Operations::Outcome(sheet.error));
     }
     if (invocation.json && result.done > 0) {
         writePlaces(sheet, *sprites, output);

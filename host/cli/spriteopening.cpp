@@ -1,11 +1,12 @@
-#include "spriteopening.h"
+#include "cli/spriteopening.h"
 
-#include "assets/newsprites.h"
-#include "assets/spritecollection.h"
-#include "cli.h"
-#include "core/filesystemarchive.h"
-#include "output.h"
-#include "results.h"
+#include "cli/cli.h"
+#include "cli/output.h"
+#include "cli/results.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/spritecollection.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 #include <QFileInfo>
 

@@ -1,9 +1,9 @@
-#include "familyanimations.h"
+#include "family/familyanimations.h"
 
-#include "familydocument.h"
-#include "grammar/linescanner.h"
-#include "nodes/animationnode.h"
-#include "nodes/lineedit.h"
+#include "family/familydocument.h"
+#include "family/grammar/linescanner.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/lineedit.h"
 
 #include <QTextBlock>
 #include <QTextCursor>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "code/codedoc/animations.h"
+#include <zorv/code/codedoc/animations.h>
 
 namespace Family {
 

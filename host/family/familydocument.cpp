@@ -1,9 +1,10 @@
-#include "familydocument.h"
+#include "family/familydocument.h"
 
-#include "core/filesystemarchive.h"
-#include "familyanimations.h"
-#include "grammar/linescanner.h"
-#include "nodes/familyparser.h"
+#include "family/familyanimations.h"
+#include "family/grammar/linescanner.h"
+#include "family/nodes/familyparser.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 namespace Family {
 

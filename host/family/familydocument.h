@@ -1,7 +1,8 @@
 #pragma once
 
-#include "code/codedoc/codedocument.h"
-#include "grammar/filekind.h"
+#include "family/grammar/filekind.h"
+
+#include <zorv/code/codedoc/codedocument.h>
 
 #include <memory>
 

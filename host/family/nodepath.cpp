@@ -1,17 +1,17 @@
-#include "nodepath.h"
+#include "family/nodepath.h"
 
-#include "code/codedoc/contactboxescode.h"
-#include "familydocument.h"
-#include "grammar/grammar.h"
-#include "nodepathparts.h"
-#include "nodes/animationnode.h"
-#include "nodes/boxnode.h"
-#include "nodes/framenode.h"
-#include "nodes/groupnode.h"
-#include "nodes/valuenode.h"
+#include "family/familydocument.h"
+#include "family/grammar/grammar.h"
+#include "family/nodepathparts.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/boxnode.h"
+#include "family/nodes/framenode.h"
+#include "family/nodes/groupnode.h"
+#include "family/nodes/valuenode.h"
+
+#include <zorv/code/codedoc/contactboxescode.h>
 
 #include <QCoreApplication>
-
 #include <algorithm>
 
 namespace Family {

@@ -1,7 +1,7 @@
-#include "nodepathparts.h"
+#include "family/nodepathparts.h"
 
-#include "grammar/linescanner.h"
-#include "nodes/valuetext.h"
+#include "family/grammar/linescanner.h"
+#include "family/nodes/valuetext.h"
 
 #include <QCoreApplication>
 

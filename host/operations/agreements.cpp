@@ -7,7 +7,10 @@
 #include <QSettings>
 #include <QStringList>
 
-namespace Family {
+namespace Operations {
+
+using Family::FamilyEngineModel;
+using Family::GameProgram;
 
 namespace {
 
@@ -49,4 +52,4 @@ NamedProgram::~NamedProgram()
     FamilyEngineModel::instance()->setGameProgram({});
 }
 
-}  // namespace Family
+}  // namespace Operations

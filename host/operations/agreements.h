@@ -3,8 +3,10 @@
 class QSettings;
 
 namespace Family {
-
 class GameProgram;
+}  // namespace Family
+
+namespace Operations {
 
 /// What the person has said to the program of a game folder.
 enum class Agreement {
@@ -13,11 +15,11 @@ enum class Agreement {
     Given
 };
 
-Agreement agreementTo(const GameProgram& program, QSettings& settings);
+Agreement agreementTo(const Family::GameProgram& program, QSettings& settings);
 
 /// Keeps the agreement in the settings, where no game folder reaches. False if it could not be
 /// stored.
-bool agreeTo(const GameProgram& program, QSettings& settings);
+bool agreeTo(const Family::GameProgram& program, QSettings& settings);
 
 /// As long as it lives, the program is the one that `ParentProject::run()` starts for its game. It
 /// is looked at once more right before that, and not started if it has changed.
@@ -25,7 +27,7 @@ class NamedProgram
 {
 public:
     /// A program that is not there names none.
-    explicit NamedProgram(const GameProgram& program);
+    explicit NamedProgram(const Family::GameProgram& program);
     ~NamedProgram();
 
 private:
@@ -33,4 +35,4 @@ private:
     NamedProgram& operator=(const NamedProgram&) = delete;
 };
 
-}  // namespace Family
+}  // namespace Operations

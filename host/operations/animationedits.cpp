@@ -10,14 +10,17 @@
 
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
+
+using Family::AnimationNode;
+using Family::FamilyAnimations;
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::AnimationEdits)
+    Q_DECLARE_TR_FUNCTIONS(Operations::AnimationEdits)
 };
 
 QStringList identifiers(const FamilyAnimations* list)
@@ -53,8 +56,8 @@ int findAnimation(const FamilyAnimations* list, const QString& reference, QStrin
     }
     const int place = all.indexOf(reference);
     if (place < 0) {
-        *error =
-            Text::tr("There is no animation '%1'. %2").arg(reference, nameHint(reference, all));
+        *error = Text::tr("There is no animation '%1'. %2")
+                     .arg(reference, Family::nameHint(reference, all));
         return -1;
     }
     const int other = all.indexOf(reference, place + 1);
@@ -87,7 +90,7 @@ QString freeIdentifier(const FamilyAnimations* list, const QString& identifier)
 bool duplicateAnimation(FamilyAnimations* list, int index, const QString& identifier,
                         QString* error)
 {
-    if (!isAnimationIdentifier(identifier)) {
+    if (!Family::isAnimationIdentifier(identifier)) {
         *error =
             Text::tr("'%1' cannot name an animation. Write a number, or a word of letters, digits, "
                      "'_' and '-'.")
@@ -115,4 +118,4 @@ void removeAnimations(FamilyAnimations* list, QVector<int> indexes)
     list->endChange();
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,8 +1,5 @@
 #include "operations/backups.h"
 
-#include "core/filechange.h"
-#include "core/files.h"
-#include "core/filesystemarchive.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
@@ -11,18 +8,25 @@
 #include "family/project/unreachable.h"
 #include "operations/sharedfiles.h"
 
+#include <zorv/core/filechange.h>
+#include <zorv/core/files.h>
+#include <zorv/core/filesystemarchive.h>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
 #include <algorithm>
 #include <functional>
 #include <memory>
 #include <vector>
 
-namespace Family {
+namespace Operations {
+
+using Family::FamilyDocument;
+using Family::FamilyParentProject;
+using Family::FamilyProject;
 
 namespace {
 
@@ -32,7 +36,7 @@ const int CompareBlock = 128 * 1024;
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::Backups)
+    Q_DECLARE_TR_FUNCTIONS(Operations::Backups)
 };
 
 QString folderOf(const FamilyParentProject& game, const QString& backup)
@@ -219,11 +223,11 @@ QList<FamilyProject*> openAllProjects(FamilyParentProject* game, QStringList* er
     for (const FamilyProject* project : openProjectsOf(*game)) {
         opened.append(project->fileName());
     }
-    for (const QString& path : unnamedProjects(game->absolutePath())) {
-        errors->append(unnamedProjectText(path));
+    for (const QString& path : Family::unnamedProjects(game->absolutePath())) {
+        errors->append(Family::unnamedProjectText(path));
     }
-    for (const QString& path : closedFolders(game->absolutePath())) {
-        errors->append(unreachable(path));
+    for (const QString& path : Family::closedFolders(game->absolutePath())) {
+        errors->append(Family::unreachable(path));
     }
     QList<FamilyProject*> projects;
     for (const QString& mainFile : FamilyParentProject::mainFiles(game->absolutePath())) {
@@ -279,7 +283,7 @@ QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QStr
     QVector<RestoredFile> result;
     for (const QString& file : qAsConst(files)) {
         const QString present = game.absolutePath() + file;
-        if (!staysInside(game.absolutePath(), present)) {
+        if (!Family::staysInside(game.absolutePath(), present)) {
             *error =
                 Text::tr("Nothing is restored: %1 lies behind a link that leads out of the game. "
                          "Remove the link, or put a folder or file in its place.")
@@ -351,4 +355,4 @@ BackupResult restoreBackup(FamilyParentProject* game, const QString& folder, boo
     return result;
 }
 
-}  // namespace Family
+}  // namespace Operations

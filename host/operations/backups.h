@@ -7,9 +7,11 @@
 #include <QVector>
 
 namespace Family {
-
 class FamilyParentProject;
 class FamilyProject;
+}  // namespace Family
+
+namespace Operations {
 
 /// One backup of a game: a folder below its folder "backup".
 struct Backup
@@ -50,23 +52,24 @@ QString backupNameFault(const QString& name);
 /// Opens every project of a game that is not open yet and gives those; the
 /// caller ends them (`closeProjects()`). One whose main file cannot be read, or has a
 /// name that is no text, stays closed, and the reason goes into `errors`.
-QList<FamilyProject*> openAllProjects(FamilyParentProject* game, QStringList* errors);
-void closeProjects(const QList<FamilyProject*>& projects);
+QList<Family::FamilyProject*> openAllProjects(Family::FamilyParentProject* game,
+                                              QStringList* errors);
+void closeProjects(const QList<Family::FamilyProject*>& projects);
 
 /// The backups of a game, the youngest first.
-QVector<Backup> listBackups(const FamilyParentProject& game);
+QVector<Backup> listBackups(const Family::FamilyParentProject& game);
 
 /// What restoring the backup in `folder` would do, file by file in order of
 /// path. Compares with what is on disk, not with unsaved changes. Empty, with
 /// `error`, if there is no such backup.
-QVector<RestoredFile> filesToRestore(const FamilyParentProject& game, const QString& folder,
+QVector<RestoredFile> filesToRestore(const Family::FamilyParentProject& game, const QString& folder,
                                      QString* error);
 
 /// Copies the open projects, with unsaved changes and with the files of the game
 /// that they share, into a new backup. There is none if it is given up, if a file that is
 /// there cannot be copied, or if projects could not be opened: `unopened` tells why. If a
 /// backup of the same moment has the name, a number comes behind it.
-BackupResult makeBackup(FamilyParentProject* game, const QString& name,
+BackupResult makeBackup(Family::FamilyParentProject* game, const QString& name,
                         const QStringList& unopened = {});
 
 /// Puts a backup back and reads the open projects again; unsaved changes of
@@ -74,7 +77,7 @@ BackupResult makeBackup(FamilyParentProject* game, const QString& name,
 /// about to change, with unsaved changes of the open projects, is copied into a
 /// backup "Before restore", unless `makesSafety` is false; if that fails nothing
 /// is restored.
-BackupResult restoreBackup(FamilyParentProject* game, const QString& folder,
+BackupResult restoreBackup(Family::FamilyParentProject* game, const QString& folder,
                            bool makesSafety = true);
 
-}  // namespace Family
+}  // namespace Operations

@@ -6,7 +6,11 @@
 #include <QCoreApplication>
 #include <QDir>
 
-namespace Family {
+namespace Operations {
+
+using Family::Problem;
+using Family::ProblemId;
+using Family::Problems;
 
 namespace {
 
@@ -14,9 +18,9 @@ Problem problemOf(const QString& closedFolder, const QDir& game)
 {
     Problem problem;
     problem.id = ProblemId::FileUnreadable;
-    problem.level = problemInfo(problem.id).level;
+    problem.level = Family::problemInfo(problem.id).level;
     problem.file = game.relativeFilePath(closedFolder);
-    problem.text = problemText(
+    problem.text = Family::problemText(
         problem.id, {problem.file, QCoreApplication::translate("Family", "Permission denied")});
     return problem;
 }
@@ -25,17 +29,17 @@ Problem problemOf(const QString& closedFolder, const QDir& game)
 
 Problems checkPath(const QString& path, QString* error)
 {
-    Problems problems = checkGame(path, error);
-    const QString folder = checkedFolder(path);
+    Problems problems = Family::checkGame(path, error);
+    const QString folder = Family::checkedFolder(path);
     if (folder.isEmpty()) {
         return problems;
     }
     const QDir game(folder);
     if (error->isEmpty() && QFileInfo(path).isDir()) {
-        for (const QString& closed : closedFolders(QFileInfo(path).absoluteFilePath())) {
+        for (const QString& closed : Family::closedFolders(QFileInfo(path).absoluteFilePath())) {
             problems.append(problemOf(closed, game));
         }
-        sortProblems(&problems);
+        Family::sortProblems(&problems);
     }
     const bool isRelative = QDir::isRelativePath(path);
     for (Problem& problem : problems) {
@@ -45,4 +49,4 @@ Problems checkPath(const QString& path, QString* error)
     return problems;
 }
 
-}  // namespace Family
+}  // namespace Operations

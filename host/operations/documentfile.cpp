@@ -1,17 +1,19 @@
 #include "operations/documentfile.h"
 
-#include "code/codecs/textcodecs.h"
-#include "core/dialogs/dialogs.h"
-#include "core/filesystemarchive.h"
 #include "family/familydocument.h"
+
+#include <zorv/code/codecs/textcodecs.h>
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/filesystemarchive.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-
 #include <memory>
 
-namespace Family {
+namespace Operations {
+
+using Family::FamilyDocument;
 
 namespace {
 
@@ -21,7 +23,7 @@ const qint64 MaxFileSize = qint64(256) * 1024 * 1024;
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::DocumentFile)
+    Q_DECLARE_TR_FUNCTIONS(Operations::DocumentFile)
 };
 
 // As a person in the current folder would name it.
@@ -64,7 +66,7 @@ FamilyDocument* openDocument(const QString& fileName, int codec, QString* error)
     if (!error->isEmpty()) {
         return nullptr;
     }
-    auto document = std::make_unique<FamilyDocument>(fileKindOf(fileName));
+    auto document = std::make_unique<FamilyDocument>(Family::fileKindOf(fileName));
     if (!document->fromFile(*Zorv::FileSystemArchive::instance(), fileName, codec, false)) {
         *error = document->errorString();
         return nullptr;
@@ -85,7 +87,7 @@ int faithfulCodec(const QString& fileName)
     // says: each candidate is tried. The last one reads no byte as one of them.
     for (int codec :
          {Zorv::TextCodecs::faithfulCodec(data), Zorv::TextCodecs::index("ISO-8859-1")}) {
-        FamilyDocument trial(fileKindOf(fileName));
+        FamilyDocument trial(Family::fileKindOf(fileName));
         if (trial.fromFile(*archive, fileName, codec, false) && trial.isFaithful()) {
             return codec;
         }
@@ -172,4 +174,4 @@ Saved saveDocument(Zorv::CodeDocument* document, const QString& fileName, QStrin
     return Saved::Failed;
 }
 
-}  // namespace Family
+}  // namespace Operations

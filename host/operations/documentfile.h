@@ -7,13 +7,15 @@ class CodeDocument;
 }
 
 namespace Family {
-
 class FamilyDocument;
+}  // namespace Family
+
+namespace Operations {
 
 /// Opens a code file, of the kind of its suffix. `codec` is a number of
 /// `Zorv::TextCodecs`, negative to detect. The caller owns the document. Null if
 /// it cannot be read; `error` takes the reason. The file is not watched.
-FamilyDocument* openDocument(const QString& fileName, int codec, QString* error);
+Family::FamilyDocument* openDocument(const QString& fileName, int codec, QString* error);
 
 /// A codec in which a file comes back byte for byte, line ends aside; -1 if
 /// there is none, or the file cannot be read.
@@ -49,4 +51,4 @@ enum class Saved {
 /// reason of a failure.
 Saved saveDocument(Zorv::CodeDocument* document, const QString& fileName, QString* error);
 
-}  // namespace Family
+}  // namespace Operations

@@ -8,7 +8,9 @@
 #include <QRegularExpression>
 #include <QSettings>
 
-namespace Family {
+namespace Operations {
+
+using Family::FamilyEngineModel;
 
 namespace {
 
@@ -108,4 +110,4 @@ QString engineProblem(const Zorv::EngineInfo& engine)
     return {};
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "core/enginemodel.h"
+#include <zorv/core/enginemodel.h>
 
 #include <QString>
 #include <QVector>
 
 class QSettings;
 
-namespace Family {
+namespace Operations {
 
 /// The parameter string that a new engine begins with: the project in front.
 QString defaultEngineParameters();
@@ -29,4 +29,4 @@ QString engineProblem(const Zorv::EngineInfo& engine);
 /// More engines than these are not read.
 constexpr int MaxEngines = 1000;
 
-}  // namespace Family
+}  // namespace Operations

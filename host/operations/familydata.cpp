@@ -1,8 +1,9 @@
 #include "operations/familydata.h"
 
-#include "core/filesystemarchive.h"
 #include "family/completer/completerfile.h"
 #include "family/project/familyenginemodel.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -15,7 +16,9 @@ static void initResources()
     Q_INIT_RESOURCE(family_data);
 }
 
-namespace Family {
+namespace Operations {
+
+using Family::FamilyEngineModel;
 
 namespace {
 
@@ -29,7 +32,7 @@ QByteArray hashOf(const QByteArray& bytes)
 
 class Preparation
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::Preparation)
+    Q_DECLARE_TR_FUNCTIONS(Operations::Preparation)
 
 public:
     explicit Preparation(const QString& folder) : m_folder(folder + QLatin1Char('/')) {}
@@ -97,10 +100,10 @@ private:
 
     void putCompleter()
     {
-        const QString name = completerFileName();
+        const QString name = Family::completerFileName();
         const QByteArray now = isThere(name) ? read(name) : QByteArray();
-        const QByteArray words = completerXml();
-        if (now != words && (!isThere(name) || isOwnCompleter(now))) {
+        const QByteArray words = Family::completerXml();
+        if (now != words && (!isThere(name) || Family::isOwnCompleter(now))) {
             write(name, words);
         }
     }
@@ -146,4 +149,4 @@ bool prepareFamilyData(QString* error)
     return error->isEmpty();
 }
 
-}  // namespace Family
+}  // namespace Operations

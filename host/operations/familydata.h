@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace Family {
+namespace Operations {
 
 /// Puts what the program ships for code editing into the person's data folder,
 /// `FamilyEngineModel::dataPath()`: snippets, and the words to complete. Call it once
@@ -17,4 +17,4 @@ namespace Family {
 /// and the files that were there are whole.
 bool prepareFamilyData(QString* error);
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,13 +1,16 @@
 #include "operations/filechanges.h"
 
-#include "assets/folderlist.h"
-#include "core/filechange.h"
+#include "family/assets/folderlist.h"
+
+#include <zorv/core/filechange.h>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QThread>
 
-namespace Family {
+namespace Operations {
+
+using Family::FolderList;
 
 namespace {
 
@@ -36,4 +39,4 @@ bool changeAsOne(const QString& fileName, Others others, const std::function<voi
     return true;
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-namespace Family {
+namespace Operations {
 
 /// What other programs may do while a file is changed.
 enum class Others {
@@ -19,4 +19,4 @@ enum class Others {
 bool changeAsOne(const QString& fileName, Others others, const std::function<void()>& change,
                  QString* error);
 
-}  // namespace Family
+}  // namespace Operations

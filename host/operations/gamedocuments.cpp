@@ -1,32 +1,37 @@
 #include "operations/gamedocuments.h"
 
-#include "check/check.h"
-#include "familydocument.h"
+#include "family/check/check.h"
+#include "family/familydocument.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/filereference.h"
+#include "family/project/unreachable.h"
 #include "operations/documentfile.h"
-#include "project/familyparentproject.h"
-#include "project/filereference.h"
-#include "project/unreachable.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
 
-namespace Family {
+namespace Operations {
+
+using Family::FamilyDocument;
+using Family::FamilyParentProject;
+using Family::FileReference;
+using Family::PathFault;
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::GameDocuments)
+    Q_DECLARE_TR_FUNCTIONS(Operations::GameDocuments)
 };
 
 class Walk
 {
 public:
     Walk(const QString& path, const DocumentVisitor& visit, QStringList* errors)
-        : m_path(path), m_game(checkedFolder(path)), m_visit(visit), m_errors(errors)
+        : m_path(path), m_game(Family::checkedFolder(path)), m_visit(visit), m_errors(errors)
     {
     }
 
@@ -46,7 +51,7 @@ public:
         }
         m_visit(*document, shownName(path));
         const QStringList named =
-            isMainFile(document->kind()) ? codeFiles(*document, path) : QStringList();
+            Family::isMainFile(document->kind()) ? codeFiles(*document, path) : QStringList();
         document->release();
         return named;
     }
@@ -56,10 +61,10 @@ private:
     {
         QStringList paths;
         const QString folder = QFileInfo(path).path() + QLatin1Char('/');
-        const QVector<FileReference> references = fileReferences(&document);
+        const QVector<FileReference> references = Family::fileReferences(&document);
         for (const FileReference& reference : references) {
-            if (isCodeFile(reference.type) &&
-                pathFault(m_game, path, reference.path) == PathFault::Fine) {
+            if (Family::isCodeFile(reference.type) &&
+                Family::pathFault(m_game, path, reference.path) == PathFault::Fine) {
                 paths.append(folder + reference.path);
             }
         }
@@ -86,13 +91,14 @@ void visitDocuments(const QString& path, const DocumentVisitor& visit, QStringLi
     const QStringList mainFiles =
         info.isDir() ? FamilyParentProject::mainFiles(path) : QStringList(info.absoluteFilePath());
     if (!info.exists()) {
-        errors->append(orUnreachable(Text::tr("There is no file or folder '%1'."), path));
+        errors->append(Family::orUnreachable(Text::tr("There is no file or folder '%1'."), path));
         return;
     }
     if (mainFiles.isEmpty()) {
-        errors->append(orUnreachable(Text::tr("There is no character or stage in '%1'. Expected "
-                                              "files such as 'characters/hero/hero.character'."),
-                                     path));
+        errors->append(
+            Family::orUnreachable(Text::tr("There is no character or stage in '%1'. Expected "
+                                           "files such as 'characters/hero/hero.character'."),
+                                  path));
     }
     Walk walk(path, visit, errors);
     for (const QString& mainFile : mainFiles) {
@@ -103,4 +109,4 @@ void visitDocuments(const QString& path, const DocumentVisitor& visit, QStringLi
     }
 }
 
-}  // namespace Family
+}  // namespace Operations

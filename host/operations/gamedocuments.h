@@ -5,11 +5,14 @@
 #include <functional>
 
 namespace Family {
-
 class FamilyDocument;
+}  // namespace Family
+
+namespace Operations {
 
 /// Takes a code file that is open for as long as this runs, and what it is called.
-using DocumentVisitor = std::function<void(const FamilyDocument& document, const QString& name)>;
+using DocumentVisitor =
+    std::function<void(const Family::FamilyDocument& document, const QString& name)>;
 
 /// Opens the code files of a game one after the other, without sprites and sounds: those of each
 /// main file, itself first, in the order in which it names them. A file that several name is opened
@@ -20,4 +23,4 @@ using DocumentVisitor = std::function<void(const FamilyDocument& document, const
 /// reasons in `errors`, a line each for the person. A game without a main file is one.
 void visitDocuments(const QString& path, const DocumentVisitor& visit, QStringList* errors);
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,15 +1,18 @@
 #include "operations/hostinterface.h"
 
-#include "code/codecs/textcodecs.h"
-#include "core/progressreporter.h"
 #include "family/project/familyenginemodel.h"
+
+#include <zorv/code/codecs/textcodecs.h>
+#include <zorv/core/progressreporter.h>
 
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
 
-namespace Family {
+namespace Operations {
+
+using Family::FamilyEngineModel;
 
 namespace {
 
@@ -136,9 +139,9 @@ QString HostInterface::text(unsigned id) const
 {
     switch (id) {
     case 7:
-        return QCoreApplication::translate("Family::HostInterface", "All known files");
+        return QCoreApplication::translate("Operations::HostInterface", "All known files");
     case 8:
-        return QCoreApplication::translate("Family::HostInterface", "Find");
+        return QCoreApplication::translate("Operations::HostInterface", "Find");
     default:
         return {};
     }
@@ -245,4 +248,4 @@ void startHost(HostInterface* host)
     Zorv::TextCodecs::setDefaultCodec(Zorv::TextCodecs::index("UTF-8"));
 }
 
-}  // namespace Family
+}  // namespace Operations

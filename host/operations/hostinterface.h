@@ -1,12 +1,12 @@
 #pragma once
 
-#include "core/interface.h"
+#include <zorv/core/interface.h>
 
 #include <QHash>
 
 class QSettings;
 
-namespace Family {
+namespace Operations {
 
 /// The host's side of the library, as far as it needs no widget: settings,
 /// engine, texts. The window derives from it; the command line uses it as it is.
@@ -80,4 +80,4 @@ private:
 /// shows itself. Called once, before anything else of the library.
 void startHost(HostInterface* host);
 
-}  // namespace Family
+}  // namespace Operations

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
@@ -244,4 +244,4 @@ QVector<DiffRun> diffLines(const QVector<QStringRef>& oldLines, const QVector<QS
     return LineMatcher(oldLines, newLines).runs();
 }
 
-}  // namespace Family
+}  // namespace Operations

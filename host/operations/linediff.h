@@ -3,7 +3,7 @@
 #include <QStringRef>
 #include <QVector>
 
-namespace Family {
+namespace Operations {
 
 /// One run of lines that differ.
 struct DiffRun
@@ -20,4 +20,4 @@ struct DiffRun
 QVector<DiffRun> diffLines(const QVector<QStringRef>& oldLines,
                            const QVector<QStringRef>& newLines);
 
-}  // namespace Family
+}  // namespace Operations

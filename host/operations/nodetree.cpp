@@ -10,7 +10,10 @@
 
 #include <memory>
 
-namespace Family {
+namespace Operations {
+
+using Family::BoxNode;
+using Family::FamilyDocument;
 
 namespace {
 
@@ -67,12 +70,12 @@ QVector<TreeEntry> nodeTree(const FamilyDocument* document)
 
 QString textAt(const FamilyDocument* document, const QString& path, QString* error)
 {
-    const QString value = getValue(document, path, error);
+    const QString value = Family::getValue(document, path, error);
     if (!value.isNull()) {
         return value;
     }
     QString part;
-    const Zorv::CodeNode* node = nodeAt(document, path, &part);
+    const Zorv::CodeNode* node = Family::nodeAt(document, path, &part);
     if (!node || !part.isEmpty()) {
         return {};
     }
@@ -80,4 +83,4 @@ QString textAt(const FamilyDocument* document, const QString& path, QString* err
     return linesOf(document, node);
 }
 
-}  // namespace Family
+}  // namespace Operations

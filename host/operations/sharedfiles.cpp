@@ -1,17 +1,21 @@
 #include "operations/sharedfiles.h"
 
-#include "core/files.h"
-#include "core/filesystemarchive.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
 
+#include <zorv/core/files.h>
+#include <zorv/core/filesystemarchive.h>
+
 #include <QDir>
 #include <QFileInfo>
-
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
+
+using Family::FamilyDocument;
+using Family::FamilyParentProject;
+using Family::FamilyProject;
 
 QList<FamilyProject*> openProjectsOf(const FamilyParentProject& game)
 {
@@ -71,4 +75,4 @@ QStringList moveSharedFiles(FamilyParentProject* game, const QString& oldRoot)
     return failed;
 }
 
-}  // namespace Family
+}  // namespace Operations

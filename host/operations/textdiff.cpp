@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
@@ -115,4 +115,4 @@ QString unifiedDiff(const QString& oldText, const QString& newText, const QStrin
     return result;
 }
 
-}  // namespace Family
+}  // namespace Operations

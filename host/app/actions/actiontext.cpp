@@ -1,6 +1,6 @@
 #include "app/actions/actiontext.h"
 
-#include "text/translator.h"
+#include <zorv/text/translator.h>
 
 #include <QAction>
 #include <QCoreApplication>

@@ -5,7 +5,8 @@
 #include "app/actions/keysheet.h"
 #include "app/look/language.h"
 #include "app/mainwindow.h"
-#include "core/dialogs/dialogs.h"
+
+#include <zorv/core/dialogs/dialogs.h>
 
 #include <QDialogButtonBox>
 #include <QHeaderView>

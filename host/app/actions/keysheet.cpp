@@ -1,14 +1,14 @@
 #include "app/actions/keysheet.h"
 
 #include "app/actions/actionregistry.h"
-#include "core/filesystemarchive.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QTextDocument>
-
 #include <algorithm>
 
 namespace App {

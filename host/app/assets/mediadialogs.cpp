@@ -1,10 +1,11 @@
 #include "app/assets/mediadialogs.h"
 
-#include "core/dialogs/dialogs.h"
-#include "core/interface.h"
-#include "core/project.h"
-#include "media/fileextensiontype.h"
 #include "operations/media/mediaresult.h"
+
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/interface.h>
+#include <zorv/core/project.h>
+#include <zorv/media/fileextensiontype.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -112,7 +113,7 @@ bool mayReplace(const QString& title, const QString& text)
                Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
 }
 
-void tellResult(const QString& title, const QString& done, const Family::MediaResult& result)
+void tellResult(const QString& title, const QString& done, const Operations::MediaResult& result)
 {
     const QString text = (result.errors + result.warnings).mid(0, 12).join(QLatin1Char('\n'));
     if (!result.errors.isEmpty()) {

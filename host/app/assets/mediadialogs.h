@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-namespace Family {
+namespace Operations {
 struct MediaResult;
 }
 
@@ -26,6 +26,6 @@ QString askForFolder(const QString& title, MediaKind kind);
 bool mayReplace(const QString& title, const QString& text);
 
 /// Tells how a piece of work ended: what was done in the status bar, what was not in a box.
-void tellResult(const QString& title, const QString& done, const Family::MediaResult& result);
+void tellResult(const QString& title, const QString& done, const Operations::MediaResult& result);
 
 }  // namespace App

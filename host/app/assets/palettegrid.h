@@ -1,6 +1,6 @@
 #pragma once
 
-#include "media/colortypes.h"
+#include <zorv/media/colortypes.h>
 
 #include <QWidget>
 

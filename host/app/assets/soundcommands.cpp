@@ -4,16 +4,17 @@
 #include "app/assets/soundpanel.h"
 #include "app/assets/transfer.h"
 #include "app/mainwindow.h"
-#include "core/dialogs/dialogs.h"
 #include "family/assets/soundfile.h"
 #include "operations/media/soundwork.h"
+
+#include <zorv/core/dialogs/dialogs.h>
 
 #include <algorithm>
 
 namespace App {
 
-using Family::MediaResult;
 using Family::SoundFile;
+using Operations::MediaResult;
 using Zorv::Dialogs;
 
 SoundCommands::SoundCommands(MainWindow* window) : QObject(window), m_panel(window->soundPanel()) {}
@@ -29,16 +30,17 @@ int SoundCommands::presentNeeds() const
 
 /// Asks for how much of files whose sizes are wrong. False if the person gave up.
 bool SoundCommands::chooseExtent(const QString& title, const QStringList& files,
-                                 Family::SoundExtent* extent) const
+                                 Operations::SoundExtent* extent) const
 {
-    const QString parts = Family::partialSounds(files);
+    const QString parts = Operations::partialSounds(files);
     if (parts.isEmpty()) {
         return true;
     }
     const auto answer = Dialogs::instance()->question(
         title, parts + QLatin1String("\n\n") + tr("Take all frames that are there?"),
         Dialogs::Yes | Dialogs::No | Dialogs::Cancel, Dialogs::Yes);
-    *extent = answer == Dialogs::Yes ? Family::SoundExtent::Whole : Family::SoundExtent::AsTold;
+    *extent =
+        answer == Dialogs::Yes ? Operations::SoundExtent::Whole : Operations::SoundExtent::AsTold;
     return answer == Dialogs::Yes || answer == Dialogs::No;
 }
 
@@ -56,14 +58,14 @@ void SoundCommands::addSounds()
     if (choice.files.isEmpty()) {
         return;
     }
-    Family::SoundImport request;
+    Operations::SoundImport request;
     request.group = choice.group;
     request.force = choice.force;
     if (!chooseExtent(title, choice.files, &request.extent) || sounds != m_panel->sounds()) {
         return;
     }
     const unsigned before = sounds->count();
-    const MediaResult result = Family::importSounds(sounds, choice.files, request);
+    const MediaResult result = Operations::importSounds(sounds, choice.files, request);
     tellResult(title, tr("%1 sounds are taken up.").arg(result.done), result);
     if (sounds->count() > before) {
         m_panel->setCurrentRow(int(sounds->count()) - 1);
@@ -77,7 +79,7 @@ void SoundCommands::exportSounds()
     if (!ids.isEmpty()) {
         exportSelected(tr("Save sounds as"), MediaKind::Sounds, ids, QStringLiteral(".wav"),
                        [sounds](const auto& selection, const auto& request) {
-                           return Family::exportSounds(*sounds, selection, request);
+                           return Operations::exportSounds(*sounds, selection, request);
                        });
     }
 }

@@ -2,9 +2,9 @@
 
 #include <QObject>
 
-namespace Family {
+namespace Operations {
 enum class SoundExtent;
-}  // namespace Family
+}  // namespace Operations
 
 namespace App {
 
@@ -34,7 +34,7 @@ public:
 
 private:
     bool chooseExtent(const QString& title, const QStringList& files,
-                      Family::SoundExtent* extent) const;
+                      Operations::SoundExtent* extent) const;
 
     SoundPanel* m_panel;
 };

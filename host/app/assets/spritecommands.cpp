@@ -4,7 +4,6 @@
 #include "app/assets/spritepanel.h"
 #include "app/assets/transfer.h"
 #include "app/mainwindow.h"
-#include "core/dialogs/dialogs.h"
 #include "family/assets/familypalette.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/spritecollection.h"
@@ -13,15 +12,16 @@
 #include "operations/media/spriteexport.h"
 #include "operations/media/spriteimport.h"
 
-#include <QImage>
+#include <zorv/core/dialogs/dialogs.h>
 
+#include <QImage>
 #include <algorithm>
 
 namespace App {
 
 using Family::FamilySprite;
-using Family::MediaResult;
 using Family::SpriteCollection;
+using Operations::MediaResult;
 using Zorv::Dialogs;
 
 SpriteCommands::SpriteCommands(MainWindow* window) : QObject(window), m_panel(window->spritePanel())
@@ -53,11 +53,11 @@ void SpriteCommands::addImages()
     if (choice.files.isEmpty()) {
         return;
     }
-    Family::ImportRequest request;
+    Operations::ImportRequest request;
     request.group = choice.group;
     request.force = choice.force;
     const unsigned before = sprites->count();
-    const MediaResult result = Family::importSprites(sprites, choice.files, request);
+    const MediaResult result = Operations::importSprites(sprites, choice.files, request);
     tellResult(title, tr("%1 images are taken up.").arg(result.done), result);
     if (sprites->count() > before) {
         m_panel->setCurrentRow(int(sprites->count()) - 1);
@@ -97,7 +97,7 @@ void SpriteCommands::replaceImage()
         return;
     }
     QString error;
-    const QImage image = Family::readImage(file, &error);
+    const QImage image = Operations::readImage(file, &error);
     if (image.isNull()) {
         Dialogs::instance()->error(title, error);
         return;
@@ -119,7 +119,7 @@ void SpriteCommands::exportImages()
     if (!ids.isEmpty()) {
         exportSelected(tr("Save images as"), MediaKind::Images, ids, QStringLiteral(".png"),
                        [sprites](const auto& selection, const auto& request) {
-                           return Family::exportSprites(*sprites, selection, request);
+                           return Operations::exportSprites(*sprites, selection, request);
                        });
     }
 }
@@ -164,7 +164,7 @@ void SpriteCommands::openPalette()
     }
     Zorv::RGBA colors[256];
     QString error;
-    if (!Family::readPalette(file, colors, &error)) {
+    if (!Operations::readPalette(file, colors, &error)) {
         Dialogs::instance()->error(title, error);
         return;
     }
@@ -191,14 +191,14 @@ void SpriteCommands::savePalette()
     if (target.isEmpty()) {
         return;
     }
-    Family::OutputRequest request;
+    Operations::OutputRequest request;
     request.place = target;
     request.force = true;
-    Family::OutputFiles files;
+    Operations::OutputFiles files;
     MediaResult result;
     if (files.plan({name}, request, QByteArrayLiteral("ACT"), &result)) {
         QString error;
-        const QByteArray bytes = Family::paletteFile(colors, files.format(0), target, &error);
+        const QByteArray bytes = Operations::paletteFile(colors, files.format(0), target, &error);
         result.note(error.isEmpty() ? files.write(0, bytes) : error);
     }
     tellResult(title, tr("The palette is saved."), result);

@@ -3,13 +3,13 @@
 #include "app/assets/thumbnails.h"
 #include "app/look/language.h"
 #include "app/look/theme.h"
-#include "cache/palettes.h"
-#include "cache/sprites.h"
+
+#include <zorv/cache/palettes.h>
+#include <zorv/cache/sprites.h>
 
 #include <QEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
-
 #include <algorithm>
 
 namespace App {

@@ -4,10 +4,11 @@
 #include "app/assets/spritelist.h"
 #include "app/assets/spritepicture.h"
 #include "app/look/language.h"
-#include "cache/palette.h"
-#include "cache/palettes.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/spritecollection.h"
+
+#include <zorv/cache/palette.h>
+#include <zorv/cache/palettes.h>
 
 #include <QLabel>
 #include <QSplitter>

@@ -1,11 +1,10 @@
 #include "app/assets/thumbnails.h"
 
-#include "cache/sprite.h"
-#include "cache/sprites.h"
+#include <zorv/cache/sprite.h>
+#include <zorv/cache/sprites.h>
 
 #include <QElapsedTimer>
 #include <QImage>
-
 #include <algorithm>
 
 namespace App {

@@ -9,8 +9,8 @@
 namespace App {
 
 using Family::AssetId;
-using Family::ImportTarget;
-using Family::MediaResult;
+using Operations::ImportTarget;
+using Operations::MediaResult;
 
 namespace {
 
@@ -30,7 +30,7 @@ ImportChoice askForImport(const QString& title, MediaKind kind, int group,
     bool areNamed = true;
     for (const QString& file : qAsConst(choice.files)) {
         ImportTarget target;
-        areNamed = areNamed && Family::importTarget(file, &target);
+        areNamed = areNamed && Operations::importTarget(file, &target);
         choice.force = choice.force || (areNamed && contains(target.id));
     }
     choice.group = areNamed ? -1 : group;
@@ -42,18 +42,19 @@ ImportChoice askForImport(const QString& title, MediaKind kind, int group,
     return choice;
 }
 
-void exportSelected(
-    const QString& title, MediaKind kind, const QVector<AssetId>& ids, const QString& suffix,
-    const std::function<MediaResult(const Family::Selection&, const Family::OutputRequest&)>& write)
+void exportSelected(const QString& title, MediaKind kind, const QVector<AssetId>& ids,
+                    const QString& suffix,
+                    const std::function<MediaResult(const Operations::Selection&,
+                                                    const Operations::OutputRequest&)>& write)
 {
-    Family::Selection selection;
+    Operations::Selection selection;
     for (AssetId id : ids) {
         selection.add(id.text());
     }
-    Family::OutputRequest request;
+    Operations::OutputRequest request;
     request.force = ids.size() == 1;
     request.place = request.force
-                        ? askForTarget(title, Family::exportNames(ids).first() + suffix, kind)
+                        ? askForTarget(title, Operations::exportNames(ids).first() + suffix, kind)
                         : askForFolder(title, kind);
     if (request.place.isEmpty()) {
         return;

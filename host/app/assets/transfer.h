@@ -29,7 +29,7 @@ ImportChoice askForImport(const QString& title, MediaKind kind, int group,
 /// `write` is called again with the leave to replace if the person gives it.
 void exportSelected(const QString& title, MediaKind kind, const QVector<Family::AssetId>& ids,
                     const QString& suffix,
-                    const std::function<Family::MediaResult(const Family::Selection&,
-                                                            const Family::OutputRequest&)>& write);
+                    const std::function<Operations::MediaResult(
+                        const Operations::Selection&, const Operations::OutputRequest&)>& write);
 
 }  // namespace App

@@ -2,7 +2,8 @@
 
 #include "app/code/wordhover.h"
 #include "app/code/wordpopup.h"
-#include "editors/code/codeeditor.h"
+
+#include <zorv/editors/code/codeeditor.h>
 
 namespace App {
 

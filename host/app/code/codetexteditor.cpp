@@ -2,17 +2,17 @@
 
 #include "app/code/nodemodel.h"
 #include "app/look/language.h"
-#include "core/interface.h"
-#include "editors/code/codeeditor.h"
-#include "editors/code/codeworkspace.h"
 #include "family/familydocument.h"
+
+#include <zorv/core/interface.h>
+#include <zorv/editors/code/codeeditor.h>
+#include <zorv/editors/code/codeworkspace.h>
 
 #include <QAction>
 #include <QEvent>
 #include <QTextBlock>
 #include <QTimer>
 #include <QTreeView>
-
 #include <algorithm>
 
 namespace App {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/code/codefileeditor.h"
+#include <zorv/editors/code/codefileeditor.h>
 
 class QTimer;
 

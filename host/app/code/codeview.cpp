@@ -3,9 +3,10 @@
 #include "app/code/codetexteditor.h"
 #include "app/code/documenttabs.h"
 #include "app/find/findbar.h"
-#include "editors/code/codeeditor.h"
-#include "editors/code/codeworkspace.h"
 #include "family/familydocument.h"
+
+#include <zorv/editors/code/codeeditor.h>
+#include <zorv/editors/code/codeworkspace.h>
 
 #include <QVBoxLayout>
 

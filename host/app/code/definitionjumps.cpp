@@ -3,9 +3,10 @@
 #include "app/code/linkmark.h"
 #include "app/code/textposition.h"
 #include "app/gamesession.h"
-#include "editors/code/codeeditor.h"
 #include "family/familydocument.h"
 #include "family/meaning/reference.h"
+
+#include <zorv/editors/code/codeeditor.h>
 
 #include <QDir>
 #include <QMouseEvent>

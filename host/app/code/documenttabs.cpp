@@ -1,17 +1,17 @@
 #include "app/code/documenttabs.h"
 
 #include "app/code/codetexteditor.h"
-#include "code/codedoc/editordata.h"
-#include "editors/code/codeeditor.h"
-#include "editors/code/codeworkspace.h"
 #include "family/familydocument.h"
+
+#include <zorv/code/codedoc/editordata.h>
+#include <zorv/editors/code/codeeditor.h>
+#include <zorv/editors/code/codeworkspace.h>
 
 #include <QDir>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTextBlock>
-
 #include <algorithm>
 
 namespace App {

@@ -1,10 +1,9 @@
 #include "app/code/linkmark.h"
 
-#include "editors/code/codeeditor.h"
+#include <zorv/editors/code/codeeditor.h>
 
 #include <QPainter>
 #include <QTextBlock>
-
 #include <algorithm>
 
 namespace App {

@@ -1,8 +1,9 @@
 #include "app/code/nodechildren.h"
 
-#include "code/codedoc/parentcode.h"
 #include "family/nodes/boxnode.h"
 #include "family/nodes/framenode.h"
+
+#include <zorv/code/codedoc/parentcode.h>
 
 #include <algorithm>
 

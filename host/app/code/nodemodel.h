@@ -1,9 +1,8 @@
 #pragma once
 
-#include "editors/code/codeitemmodel.h"
+#include <zorv/editors/code/codeitemmodel.h>
 
 #include <QVector>
-
 #include <memory>
 
 class QTimer;

@@ -1,7 +1,8 @@
 #include "app/code/textposition.h"
 
-#include "editors/code/codeeditor.h"
 #include "family/familydocument.h"
+
+#include <zorv/editors/code/codeeditor.h>
 
 #include <QTextBlock>
 

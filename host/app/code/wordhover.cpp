@@ -2,15 +2,15 @@
 
 #include "app/code/textposition.h"
 #include "app/gamesession.h"
-#include "code/codedoc/codeblockdata.h"
-#include "editors/code/codeeditor.h"
 #include "family/familydocument.h"
 #include "family/meaning/wordmeaning.h"
+
+#include <zorv/code/codedoc/codeblockdata.h>
+#include <zorv/editors/code/codeeditor.h>
 
 #include <QHelpEvent>
 #include <QTextBlock>
 #include <QToolTip>
-
 #include <algorithm>
 
 namespace App {

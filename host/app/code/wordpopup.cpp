@@ -2,10 +2,11 @@
 
 #include "app/code/textposition.h"
 #include "app/gamesession.h"
-#include "editors/code/codeeditor.h"
-#include "editors/code/completionmodel.h"
 #include "family/familydocument.h"
 #include "family/meaning/completions.h"
+
+#include <zorv/editors/code/codeeditor.h>
+#include <zorv/editors/code/completionmodel.h>
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -2,7 +2,8 @@
 
 #include "app/actions/windowactions.h"
 #include "app/controls/controllayout.h"
-#include "core/interface.h"
+
+#include <zorv/core/interface.h>
 
 #include <QDockWidget>
 #include <QEvent>
@@ -13,7 +14,6 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
-
 #include <algorithm>
 #include <vector>
 

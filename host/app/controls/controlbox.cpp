@@ -2,8 +2,9 @@
 
 #include "app/actions/actiontext.h"
 #include "app/controls/controllink.h"
-#include "editors/framework/trwidgetcontrol.h"
-#include "text/translator.h"
+
+#include <zorv/editors/framework/trwidgetcontrol.h>
+#include <zorv/text/translator.h>
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #include "app/controls/controllayout.h"
 
-#include "text/zorvtranslator.h"
+#include <zorv/text/zorvtranslator.h>
 
 #include <cstring>
 

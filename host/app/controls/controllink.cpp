@@ -1,6 +1,6 @@
 #include "app/controls/controllink.h"
 
-#include "editors/framework/widgetcontrol.h"
+#include <zorv/editors/framework/widgetcontrol.h>
 
 #include <QAbstractItemView>
 #include <QAbstractSlider>

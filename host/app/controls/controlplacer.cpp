@@ -6,9 +6,10 @@
 #include "app/controls/controlbars.h"
 #include "app/controls/controlbox.h"
 #include "app/controls/controllayout.h"
-#include "core/interface.h"
-#include "editors/framework/toolbuttoncontrol.h"
-#include "editors/framework/widgetcontrol.h"
+
+#include <zorv/core/interface.h>
+#include <zorv/editors/framework/toolbuttoncontrol.h>
+#include <zorv/editors/framework/widgetcontrol.h>
 
 #include <QActionGroup>
 #include <QMainWindow>

@@ -5,9 +5,10 @@
 #include "app/look/icon.h"
 #include "app/look/language.h"
 #include "app/look/theme.h"
-#include "code/codedoc/codedocument.h"
-#include "core/interface.h"
-#include "editors/code/codeeditor.h"
+
+#include <zorv/code/codedoc/codedocument.h>
+#include <zorv/core/interface.h>
+#include <zorv/editors/code/codeeditor.h>
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -21,7 +22,6 @@
 #include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QToolButton>
-
 #include <algorithm>
 
 namespace App {

@@ -1,6 +1,6 @@
 #include "app/find/findfield.h"
 
-#include "core/interface.h"
+#include <zorv/core/interface.h>
 
 #include <QLineEdit>
 #include <QSignalBlocker>

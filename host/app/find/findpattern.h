@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/code/codefind.h"
+#include <zorv/editors/code/codefind.h>
 
 #include <QString>
 

@@ -1,12 +1,11 @@
 #include "app/find/findsearch.h"
 
-#include "code/codedoc/codedocument.h"
-#include "editors/code/codeeditor.h"
+#include <zorv/code/codedoc/codedocument.h>
+#include <zorv/editors/code/codeeditor.h>
 
 #include <QElapsedTimer>
 #include <QScopedValueRollback>
 #include <QTimer>
-
 #include <algorithm>
 
 namespace App {

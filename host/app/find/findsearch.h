@@ -2,7 +2,8 @@
 
 #include "app/find/findpattern.h"
 #include "app/find/matchcounter.h"
-#include "editors/code/codefindtext.h"
+
+#include <zorv/editors/code/codefindtext.h>
 
 #include <QObject>
 #include <QTextCursor>

@@ -49,7 +49,7 @@ bool BackupNameDialog::wantsAll() const
 
 void BackupNameDialog::check()
 {
-    const QString fault = Family::backupNameFault(m_name->text());
+    const QString fault = Operations::backupNameFault(m_name->text());
     m_fault->setText(fault);
     resize(width(), qMax(height(), layout()->totalHeightForWidth(width())));
     m_ok->setEnabled(fault.isEmpty());

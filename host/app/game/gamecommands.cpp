@@ -9,7 +9,6 @@
 #include "app/recentfolders.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
-#include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
@@ -18,15 +17,17 @@
 #include "operations/documentfile.h"
 #include "operations/sharedfiles.h"
 
+#include <zorv/core/dialogs/dialogs.h>
+
 #include <QDir>
 #include <QFileInfo>
 
 namespace App {
 
-using Family::BackupResult;
 using Family::FamilyDocument;
 using Family::FamilyParentProject;
 using Family::FamilyProject;
+using Operations::BackupResult;
 using Zorv::Dialogs;
 
 namespace {
@@ -67,9 +68,9 @@ void GameCommands::makeBackup()
     }
     QStringList errors;
     const QList<FamilyProject*> others =
-        dialog.wantsAll() ? Family::openAllProjects(game, &errors) : QList<FamilyProject*>();
-    BackupResult result = Family::makeBackup(game, dialog.name(), errors);
-    Family::closeProjects(others);
+        dialog.wantsAll() ? Operations::openAllProjects(game, &errors) : QList<FamilyProject*>();
+    BackupResult result = Operations::makeBackup(game, dialog.name(), errors);
+    Operations::closeProjects(others);
     result.failed = errors + result.failed;
     tell(tr("Back up"), tr("The backup is in %1.").arg(result.folder), result);
 }
@@ -93,7 +94,7 @@ void GameCommands::restoreBackup()
             readAgain(file);
         }
     }
-    const BackupResult result = Family::restoreBackup(game, dialog.folder());
+    const BackupResult result = Operations::restoreBackup(game, dialog.folder());
     tell(tr("Restore backup"),
          result.folder.isEmpty()
              ? tr("The backup is restored.")
@@ -195,7 +196,7 @@ bool GameCommands::settleEncodings() const
 {
     const QList<FamilyDocument*> documents = m_window->session()->modifiedDocuments();
     for (FamilyDocument* document : documents) {
-        if (!Family::settleEncoding(document)) {
+        if (!Operations::settleEncoding(document)) {
             return false;
         }
     }
@@ -221,7 +222,7 @@ QStringList GameCommands::saveFolderAs(const QString& folder) const
         delete second;
     }
     if (game->absolutePath() != oldRoot) {
-        failed += Family::moveSharedFiles(game, oldRoot);
+        failed += Operations::moveSharedFiles(game, oldRoot);
     }
     return failed;
 }

@@ -6,8 +6,11 @@
 
 namespace Family {
 class FamilyDocument;
-struct BackupResult;
 }  // namespace Family
+
+namespace Operations {
+struct BackupResult;
+}  // namespace Operations
 
 namespace App {
 
@@ -46,7 +49,8 @@ private:
     bool mayWriteInto(const QString& folder) const;
     bool settleEncodings() const;
     bool settleTwins() const;
-    void tell(const QString& title, const QString& done, const Family::BackupResult& result) const;
+    void tell(const QString& title, const QString& done,
+              const Operations::BackupResult& result) const;
 
     MainWindow* m_window;
 };

@@ -7,10 +7,11 @@
 #include "app/run/runcommands.h"
 #include "app/statusfields.h"
 #include "app/unsavedwork.h"
-#include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+
+#include <zorv/core/dialogs/dialogs.h>
 
 #include <QApplication>
 #include <QDir>

@@ -15,8 +15,8 @@
 
 namespace App {
 
-using Family::Backup;
-using Family::RestoredFile;
+using Operations::Backup;
+using Operations::RestoredFile;
 
 namespace {
 
@@ -79,7 +79,7 @@ void RestoreDialog::makeLists()
 
 void RestoreDialog::fillBackups()
 {
-    m_backups = Family::listBackups(m_game);
+    m_backups = Operations::listBackups(m_game);
     const QLocale locale;
     for (const Backup& backup : qAsConst(m_backups)) {
         auto* item = new QTreeWidgetItem(m_list);
@@ -108,7 +108,7 @@ void RestoreDialog::showFiles()
         return;
     }
     QString error;
-    QVector<RestoredFile> files = Family::filesToRestore(m_game, folder(), &error);
+    QVector<RestoredFile> files = Operations::filesToRestore(m_game, folder(), &error);
     const int all = files.size();
     files.erase(std::remove_if(files.begin(), files.end(),
                                [](const auto& file) { return file.change == RestoredFile::Same; }),

@@ -28,7 +28,7 @@ private:
     void showFiles();
 
     const Family::FamilyParentProject& m_game;
-    QVector<Family::Backup> m_backups;
+    QVector<Operations::Backup> m_backups;
     QTreeWidget* m_list;
     QTreeWidget* m_files;
     QLabel* m_summary;

@@ -1,7 +1,7 @@
 #include "app/look/codefont.h"
 
-#include "code/codedoc/codedocument.h"
-#include "editors/code/codefont.h"
+#include <zorv/code/codedoc/codedocument.h>
+#include <zorv/editors/code/codefont.h>
 
 #include <QTextCharFormat>
 

@@ -3,7 +3,8 @@
 #include "app/look/codefont.h"
 #include "app/look/language.h"
 #include "app/look/theme.h"
-#include "core/interface.h"
+
+#include <zorv/core/interface.h>
 
 #include <QVariant>
 

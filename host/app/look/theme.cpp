@@ -1,7 +1,8 @@
 #include "app/look/theme.h"
 
 #include "app/look/lookstyle.h"
-#include "code/codedoc/codedocument.h"
+
+#include <zorv/code/codedoc/codedocument.h>
 
 #include <QApplication>
 #include <QTextCharFormat>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "code/codedoc/codeparsersyntax.h"
+#include <zorv/code/codedoc/codeparsersyntax.h>
 
 #include <QColor>
 #include <QPalette>

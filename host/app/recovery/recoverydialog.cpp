@@ -2,8 +2,9 @@
 
 #include "app/look/codefont.h"
 #include "app/look/theme.h"
-#include "core/dialogs/dialogs.h"
 #include "operations/textdiff.h"
+
+#include <zorv/core/dialogs/dialogs.h>
 
 #include <QButtonGroup>
 #include <QDialogButtonBox>
@@ -19,12 +20,11 @@
 #include <QSyntaxHighlighter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-
 #include <algorithm>
 
 namespace App {
 
-using Family::AbandonedText;
+using Operations::AbandonedText;
 using Zorv::Dialogs;
 
 namespace {
@@ -237,8 +237,8 @@ QString RecoveryDialog::comparison(const AbandonedText& text) const
 {
     QString diff = QStringLiteral("");
     if (text.state != AbandonedText::Damaged) {
-        diff += Family::unifiedDiff(text.fileText(), text.copy.text, tr("the file"),
-                                    tr("the unsaved text"));
+        diff += Operations::unifiedDiff(text.fileText(), text.copy.text, tr("the file"),
+                                        tr("the unsaved text"));
     }
     if (diff.size() > MaxComparison) {
         diff.truncate(MaxComparison);

@@ -23,7 +23,7 @@ class RecoveryDialog : public QDialog
 public:
     enum Decision { Restore, Discard, Later };
 
-    RecoveryDialog(QWidget* parent, const QList<Family::AbandonedText>& texts);
+    RecoveryDialog(QWidget* parent, const QList<Operations::AbandonedText>& texts);
 
     /// For each text, in order; all `Later` if the dialog was given up.
     QVector<Decision> decisions() const;
@@ -36,11 +36,11 @@ private:
     void decide(Decision decision);
     void restoreAll();
     void saveCurrentElsewhere();
-    QString stateText(const Family::AbandonedText& text) const;
-    QString comparison(const Family::AbandonedText& text) const;
+    QString stateText(const Operations::AbandonedText& text) const;
+    QString comparison(const Operations::AbandonedText& text) const;
     int current() const;
 
-    QList<Family::AbandonedText> m_texts;
+    QList<Operations::AbandonedText> m_texts;
     QVector<Decision> m_decisions;
     QVector<QString> m_comparisons;  ///< made when they are looked at; null until then
     QTreeWidget* m_list;

@@ -5,26 +5,26 @@
 #include "app/mainwindow.h"
 #include "app/recovery/recoverydialog.h"
 #include "app/statusfields.h"
-#include "core/dialogs/dialogs.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "operations/recovery/abandonedtexts.h"
 #include "operations/recovery/recoverykeeper.h"
 
+#include <zorv/core/dialogs/dialogs.h>
+
 #include <QDir>
 #include <QScopedValueRollback>
 #include <QTimer>
-
 #include <algorithm>
 
 namespace App {
 
-using Family::AbandonedText;
 using Family::FamilyDocument;
 using Family::FamilyProject;
+using Operations::AbandonedText;
 
 WorkRecovery::WorkRecovery(MainWindow* window, const QString& root)
-    : m_window(window), m_keeper(new Family::RecoveryKeeper(root, this)), m_root(root)
+    : m_window(window), m_keeper(new Operations::RecoveryKeeper(root, this)), m_root(root)
 {
     const GameSession* session = window->session();
     connect(session, &GameSession::projectOpened, this, &WorkRecovery::watchAll);
@@ -34,7 +34,7 @@ WorkRecovery::WorkRecovery(MainWindow* window, const QString& root)
         m_isOfferPending = m_offers == 0;
         QTimer::singleShot(0, this, &WorkRecovery::offerForGame);
     });
-    connect(m_keeper, &Family::RecoveryKeeper::failed, window->status(),
+    connect(m_keeper, &Operations::RecoveryKeeper::failed, window->status(),
             [window](const QString& reason) { window->status()->showField(0, reason); });
     watchAll();
 }
@@ -68,7 +68,7 @@ void WorkRecovery::offer(const QString& gameFolder)
     }
     const QScopedValueRollback<int> guard(m_offers, m_offers + 1);
     m_isOfferPending = false;
-    const Family::AbandonedTexts found(m_root, gameFolder);
+    const Operations::AbandonedTexts found(m_root, gameFolder);
     if (found.all().isEmpty()) {
         return;
     }
@@ -114,7 +114,7 @@ void WorkRecovery::restore(const QList<AbandonedText>& texts)
             continue;
         }
         m_keeper->watch(document);
-        Family::applyText(document, text.copy.text, text.copy.codec);
+        Operations::applyText(document, text.copy.text, text.copy.codec);
         m_window->showDocument(document);
         done.append(text);
     }
@@ -132,7 +132,7 @@ void WorkRecovery::restore(const QList<AbandonedText>& texts)
 FamilyDocument* WorkRecovery::documentOf(const AbandonedText& text, QString* error)
 {
     GameSession* session = m_window->session();
-    const Family::RecoveryCopy& copy = text.copy;
+    const Operations::RecoveryCopy& copy = text.copy;
     const QString shown = QDir::toNativeSeparators(copy.fileName);
     if (copy.gameFolder != session->folder()) {
         *error = tr("%1 belongs to the game %2. It is offered again when that is opened.")

@@ -5,9 +5,12 @@
 
 namespace Family {
 class FamilyDocument;
+}  // namespace Family
+
+namespace Operations {
 class RecoveryKeeper;
 struct AbandonedText;
-}  // namespace Family
+}  // namespace Operations
 
 namespace App {
 
@@ -23,7 +26,7 @@ public:
     /// Copies are below `root`. The window must outlive the object.
     WorkRecovery(MainWindow* window, const QString& root);
 
-    Family::RecoveryKeeper* keeper() const { return m_keeper; }
+    Operations::RecoveryKeeper* keeper() const { return m_keeper; }
 
     /// Offers all that is there.
     void offerAll();
@@ -32,12 +35,12 @@ private:
     void watchAll();
     void offerForGame();
     void offer(const QString& gameFolder);
-    void restore(const QList<Family::AbandonedText>& texts);
-    bool openGame(const QList<Family::AbandonedText>& texts);
-    Family::FamilyDocument* documentOf(const Family::AbandonedText& text, QString* error);
+    void restore(const QList<Operations::AbandonedText>& texts);
+    bool openGame(const QList<Operations::AbandonedText>& texts);
+    Family::FamilyDocument* documentOf(const Operations::AbandonedText& text, QString* error);
 
     MainWindow* m_window;
-    Family::RecoveryKeeper* m_keeper;
+    Operations::RecoveryKeeper* m_keeper;
     QString m_root;
     bool m_isOfferPending = false;
     int m_offers = 0;  ///< games that are opened meanwhile raise no question

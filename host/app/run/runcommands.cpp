@@ -4,19 +4,19 @@
 #include "app/mainwindow.h"
 #include "app/run/outputpanel.h"
 #include "app/run/outputtext.h"
-#include "core/dialogs/dialogs.h"
-#include "core/run/temporarycopies.h"
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/gameprogram.h"
 #include "operations/agreements.h"
 #include "operations/hostinterface.h"
 
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/run/temporarycopies.h>
+
 #include <QDir>
 #include <QPointer>
 #include <QSettings>
 #include <QTimer>
-
 #include <utility>
 
 namespace App {
@@ -63,7 +63,7 @@ QString otherEngine()
     }
 }
 
-Dialogs::Button askToStart(const QString& program, Family::Agreement agreement)
+Dialogs::Button askToStart(const QString& program, Operations::Agreement agreement)
 {
     const QString other = otherEngine();
     QStringList parts{
@@ -72,7 +72,7 @@ Dialogs::Button askToStart(const QString& program, Family::Agreement agreement)
         program,
         RunCommands::tr("A program can do everything that you can on this computer. Start it only "
                         "if you trust whoever made it. You are asked again when it has changed.")};
-    if (agreement == Family::Agreement::Outdated) {
+    if (agreement == Operations::Agreement::Outdated) {
         parts.insert(2, RunCommands::tr("It has changed since you last agreed to it."));
     }
     if (!other.isEmpty()) {
@@ -122,7 +122,7 @@ void RunCommands::run()
     ++m_runs;
     emit stateChanged();
     {
-        const Family::NamedProgram named(program);
+        const Operations::NamedProgram named(program);
         // Everything may have been closed when this comes back.
         game->run();
     }
@@ -145,7 +145,7 @@ void RunCommands::run()
 bool RunCommands::settleProgram(Family::GameProgram* program) const
 {
     const Family::GameProgram found(m_window->session()->folder());
-    const auto* host = dynamic_cast<Family::HostInterface*>(Zorv::Interface::instance());
+    const auto* host = dynamic_cast<Operations::HostInterface*>(Zorv::Interface::instance());
     if (!found.isThere() || !host || !host->settings()) {
         return true;
     }
@@ -156,11 +156,11 @@ bool RunCommands::settleProgram(Family::GameProgram* program) const
                                      tr("%1 cannot be read, so it is not started.").arg(shown));
         return hasOthers;
     }
-    const Family::Agreement agreement = agreementTo(found, *host->settings());
+    const Operations::Agreement agreement = Operations::agreementTo(found, *host->settings());
     const Dialogs::Button answer =
-        agreement == Family::Agreement::Given ? Dialogs::Yes : askToStart(shown, agreement);
+        agreement == Operations::Agreement::Given ? Dialogs::Yes : askToStart(shown, agreement);
     if (answer == Dialogs::Yes) {
-        agreeTo(found, *host->settings());
+        Operations::agreeTo(found, *host->settings());
         *program = found;
         return true;
     }

@@ -24,7 +24,7 @@ namespace {
 
 QSettings* settings()
 {
-    const auto* host = dynamic_cast<Family::HostInterface*>(Zorv::Interface::instance());
+    const auto* host = dynamic_cast<Operations::HostInterface*>(Zorv::Interface::instance());
     return host ? host->settings() : nullptr;
 }
 
@@ -132,7 +132,7 @@ bool EnginesPage::write(QString* error)
 {
     auto* model = Family::FamilyEngineModel::instance();
     if (QSettings* store = settings()) {
-        if (!Family::saveEngines(*store, m_engines)) {
+        if (!Operations::saveEngines(*store, m_engines)) {
             // It is the first that looks whether the file was written; nothing else was either.
             *error = tr("The settings could not be saved. Check the permissions of the settings "
                         "file.");
@@ -151,7 +151,7 @@ void EnginesPage::restoreDefaults()
 
 void EnginesPage::add()
 {
-    m_engines.append({tr("New engine"), {}, Family::defaultEngineParameters(), {}});
+    m_engines.append({tr("New engine"), {}, Operations::defaultEngineParameters(), {}});
     m_list->addItem(m_engines.last().name);
     m_list->setCurrentRow(m_engines.size() - 1);
     m_name->setFocus();
@@ -232,7 +232,7 @@ void EnginesPage::takeEngine()
 void EnginesPage::showProblem()
 {
     const int row = m_list->currentRow();
-    m_problem->setText(row < 0 ? QString() : Family::engineProblem(m_engines.at(row)));
+    m_problem->setText(row < 0 ? QString() : Operations::engineProblem(m_engines.at(row)));
     QPalette palette = m_fields->palette();
     palette.setColor(QPalette::WindowText, Theme::colour(Theme::ErrorText));
     m_problem->setPalette(palette);

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "app/settings/settingspage.h"
-#include "core/enginemodel.h"
+
+#include <zorv/core/enginemodel.h>
 
 #include <QVector>
 

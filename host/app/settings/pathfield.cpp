@@ -1,7 +1,8 @@
 #include "app/settings/pathfield.h"
 
 #include "app/look/language.h"
-#include "core/dialogs/dialogs.h"
+
+#include <zorv/core/dialogs/dialogs.h>
 
 #include <QDir>
 #include <QFileInfo>

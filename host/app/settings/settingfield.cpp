@@ -226,7 +226,7 @@ private:
     /// Invalid where it is that of the theme.
     QColor firstColour() const
     {
-        return Family::HostInterface::defaultOption(QLatin1String(row().key)).value<QColor>();
+        return Operations::HostInterface::defaultOption(QLatin1String(row().key)).value<QColor>();
     }
 
     void take(const QColor& colour)

@@ -5,8 +5,9 @@
 #include "app/settings/keyspage.h"
 #include "app/settings/settingtable.h"
 #include "app/settings/tablepage.h"
-#include "core/dialogs/dialogs.h"
-#include "core/interface.h"
+
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/interface.h>
 
 #include <QDialogButtonBox>
 #include <QGridLayout>

@@ -16,7 +16,7 @@ namespace {
 /// What the person has chosen: nothing, where a colour is left to the theme.
 QVariant storedOption(const SettingRow& row)
 {
-    const auto* host = static_cast<Family::HostInterface*>(Zorv::Interface::instance());
+    const auto* host = static_cast<Operations::HostInterface*>(Zorv::Interface::instance());
     return host->storedOption(QLatin1String(row.key));
 }
 
@@ -95,7 +95,7 @@ bool TablePage::write(QString*)
         const QString key = QLatin1String(line.row.key);
         const QVariant value = line.field->value();
         if (value != storedOption(line.row)) {
-            const bool isDefault = value == Family::HostInterface::defaultOption(key);
+            const bool isDefault = value == Operations::HostInterface::defaultOption(key);
             host->setOption(key, isDefault ? QVariant() : value);
         }
     }
@@ -105,7 +105,7 @@ bool TablePage::write(QString*)
 void TablePage::restoreDefaults()
 {
     for (const Line& line : m_lines) {
-        line.field->setValue(Family::HostInterface::defaultOption(QLatin1String(line.row.key)));
+        line.field->setValue(Operations::HostInterface::defaultOption(QLatin1String(line.row.key)));
     }
     emit edited();
 }

@@ -1,7 +1,8 @@
 #include "app/stage/onioncontrols.h"
 
 #include "app/look/language.h"
-#include "core/interface.h"
+
+#include <zorv/core/interface.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -9,7 +10,6 @@
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSpinBox>
-
 #include <cmath>
 #include <iterator>
 

@@ -1,6 +1,5 @@
 #include "app/stage/stagecommands.h"
 
-#include "animation/timeline/timelinewidget.h"
 #include "app/actions/actiontable.h"
 #include "app/assets/spritepanel.h"
 #include "app/gamesession.h"
@@ -13,7 +12,6 @@
 #include "app/stage/stagesettings.h"
 #include "app/stage/stageview.h"
 #include "app/statusfields.h"
-#include "core/interface.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
@@ -21,6 +19,9 @@
 #include "family/nodes/framenode.h"
 #include "family/project/familyproject.h"
 #include "family/stage/framecomposer.h"
+
+#include <zorv/animation/timeline/timelinewidget.h>
+#include <zorv/core/interface.h>
 
 #include <QAction>
 #include <QActionGroup>

@@ -1,6 +1,5 @@
 #include "app/stage/stagecontroller.h"
 
-#include "animation/timeline/timelinewidget.h"
 #include "app/stage/stageedits.h"
 #include "app/stage/stageplayer.h"
 #include "app/stage/stagerenderer.h"
@@ -9,9 +8,10 @@
 #include "family/nodes/animationnode.h"
 #include "family/nodes/framenode.h"
 
+#include <zorv/animation/timeline/timelinewidget.h>
+
 #include <QTextBlock>
 #include <QTimer>
-
 #include <algorithm>
 
 namespace App {

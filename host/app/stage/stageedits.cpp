@@ -1,10 +1,11 @@
 #include "app/stage/stageedits.h"
 
 #include "app/stage/stagerenderer.h"
-#include "code/codedoc/contactboxescode.h"
 #include "family/familydocument.h"
 #include "family/nodes/framenode.h"
 #include "family/stage/frameprovider.h"
+
+#include <zorv/code/codedoc/contactboxescode.h>
 
 namespace App {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "graphics/stage/graphicsrenderer.h"
+#include <zorv/graphics/stage/graphicsrenderer.h>
 
 #include <QObject>
 

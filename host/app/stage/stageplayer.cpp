@@ -1,7 +1,8 @@
 #include "app/stage/stageplayer.h"
 
-#include "animation/timeline/timelinewidget.h"
 #include "family/stage/followedanimation.h"
+
+#include <zorv/animation/timeline/timelinewidget.h>
 
 #include <QScopedValueRollback>
 

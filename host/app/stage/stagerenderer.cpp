@@ -1,8 +1,9 @@
 #include "app/stage/stagerenderer.h"
 
-#include "core/interface.h"
 #include "family/stage/placedpicture.h"
-#include "graphics/renderwidget.h"
+
+#include <zorv/core/interface.h>
+#include <zorv/graphics/renderwidget.h>
 
 #include <QMatrix4x4>
 #include <QVariant>

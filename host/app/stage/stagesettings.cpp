@@ -1,8 +1,8 @@
 #include "app/stage/stagesettings.h"
 
-#include "core/interface.h"
-#include "graphics/renderwidget.h"
-#include "graphics/stage/graphicsrenderer.h"
+#include <zorv/core/interface.h>
+#include <zorv/graphics/renderwidget.h>
+#include <zorv/graphics/stage/graphicsrenderer.h>
 
 #include <QRect>
 #include <QVariant>

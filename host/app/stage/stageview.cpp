@@ -1,11 +1,12 @@
 #include "app/stage/stageview.h"
 
-#include "animation/timeline/timelinewidget.h"
 #include "app/look/language.h"
 #include "app/stage/stagerenderer.h"
 #include "app/stage/timelineplace.h"
-#include "graphics/glcontext.h"
-#include "graphics/renderwidget.h"
+
+#include <zorv/animation/timeline/timelinewidget.h>
+#include <zorv/graphics/glcontext.h>
+#include <zorv/graphics/renderwidget.h>
 
 #include <QApplication>
 #include <QKeyEvent>

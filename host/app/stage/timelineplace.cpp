@@ -1,9 +1,8 @@
 #include "app/stage/timelineplace.h"
 
-#include "animation/timeline/timelinewidget.h"
+#include <zorv/animation/timeline/timelinewidget.h>
 
 #include <QEvent>
-
 #include <algorithm>
 
 namespace App {

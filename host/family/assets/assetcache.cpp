@@ -1,6 +1,6 @@
-#include "assets/assetcache.h"
+#include "family/assets/assetcache.h"
 
-#include "cache/diskcache.h"
+#include <zorv/cache/diskcache.h>
 
 namespace Family {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cache/streamcache.h"
+#include <zorv/cache/streamcache.h>
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "assets/assethistory.h"
+#include "family/assets/assethistory.h"
 
 #include <QScopedValueRollback>
 

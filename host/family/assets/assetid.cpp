@@ -1,4 +1,4 @@
-#include "assets/assetid.h"
+#include "family/assets/assetid.h"
 
 namespace Family {
 

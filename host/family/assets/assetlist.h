@@ -1,6 +1,6 @@
 #pragma once
 
-#include "assets/assethistory.h"
+#include "family/assets/assethistory.h"
 
 #include <QAbstractItemModel>
 #include <QVector>

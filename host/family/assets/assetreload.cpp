@@ -1,8 +1,9 @@
-#include "assets/assetreload.h"
+#include "family/assets/assetreload.h"
 
-#include "assets/assethistory.h"
-#include "core/dialogs/dialogs.h"
-#include "core/projectfile.h"
+#include "family/assets/assethistory.h"
+
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/projectfile.h>
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,9 +1,10 @@
-#include "assets/familypalette.h"
+#include "family/assets/familypalette.h"
 
-#include "assets/palettelist.h"
-#include "assets/spritetextures.h"
-#include "graphics/glcontext.h"
-#include "graphics/texture.h"
+#include "family/assets/palettelist.h"
+#include "family/assets/spritetextures.h"
+
+#include <zorv/graphics/glcontext.h>
+#include <zorv/graphics/texture.h>
 
 #include <algorithm>
 

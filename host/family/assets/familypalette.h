@@ -1,11 +1,11 @@
 #pragma once
 
-#include "assets/assetid.h"
-#include "cache/palette.h"
+#include "family/assets/assetid.h"
+
+#include <zorv/cache/palette.h>
 
 #include <QColor>
 #include <QVector>
-
 #include <array>
 #include <memory>
 

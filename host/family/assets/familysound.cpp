@@ -1,8 +1,8 @@
-#include "assets/familysound.h"
+#include "family/assets/familysound.h"
 
-#include "assets/samplestore.h"
-#include "assets/soundfile.h"
-#include "assets/soundfiledata.h"
+#include "family/assets/samplestore.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/soundfiledata.h"
 
 namespace Family {
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "assets/assetid.h"
-#include "assets/sampledata.h"
-#include "cache/sound.h"
+#include "family/assets/assetid.h"
+#include "family/assets/sampledata.h"
+
+#include <zorv/cache/sound.h>
 
 namespace Family {
 

@@ -1,13 +1,13 @@
-#include "assets/familysprite.h"
+#include "family/assets/familysprite.h"
 
-#include "assets/palettelist.h"
-#include "assets/pixelstore.h"
-#include "assets/spritecollection.h"
-#include "assets/spritetextures.h"
-#include "media/tools/colorquantizer.h"
+#include "family/assets/palettelist.h"
+#include "family/assets/pixelstore.h"
+#include "family/assets/spritecollection.h"
+#include "family/assets/spritetextures.h"
+
+#include <zorv/media/tools/colorquantizer.h>
 
 #include <QImage>
-
 #include <algorithm>
 #include <limits>
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "assets/assetid.h"
-#include "assets/pixeldata.h"
-#include "cache/sprite.h"
+#include "family/assets/assetid.h"
+#include "family/assets/pixeldata.h"
+
+#include <zorv/cache/sprite.h>
 
 #include <QCoreApplication>
 #include <QVector>
-
 #include <memory>
 
 namespace Family {

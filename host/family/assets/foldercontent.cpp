@@ -1,14 +1,13 @@
-#include "assets/foldercontent.h"
+#include "family/assets/foldercontent.h"
 
-#include "cache/crc64.h"
-#include "core/archive.h"
+#include <zorv/cache/crc64.h>
+#include <zorv/core/archive.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
-
 #include <algorithm>
 
 namespace Family {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "assets/familypalette.h"
-#include "assets/folderlist.h"
-#include "assets/pixelcodec.h"
+#include "family/assets/familypalette.h"
+#include "family/assets/folderlist.h"
+#include "family/assets/pixelcodec.h"
 
 namespace Zorv {
 class Archive;

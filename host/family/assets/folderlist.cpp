@@ -1,4 +1,4 @@
-#include "assets/folderlist.h"
+#include "family/assets/folderlist.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

@@ -1,8 +1,9 @@
-#include "assets/newsprites.h"
+#include "family/assets/newsprites.h"
 
-#include "assets/spritefile.h"
-#include "assets/spritefolder.h"
-#include "core/filesystemarchive.h"
+#include "family/assets/spritefile.h"
+#include "family/assets/spritefolder.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 #include <QFileInfo>
 

@@ -1,13 +1,13 @@
-#include "assets/palettelist.h"
+#include "family/assets/palettelist.h"
 
-#include "assets/pixelstore.h"
-#include "assets/remapmodel.h"
-#include "assets/spritecollection.h"
-#include "cache/crc64.h"
-#include "media/colorconversion.h"
+#include "family/assets/pixelstore.h"
+#include "family/assets/remapmodel.h"
+#include "family/assets/spritecollection.h"
+
+#include <zorv/cache/crc64.h>
+#include <zorv/media/colorconversion.h>
 
 #include <QSet>
-
 #include <algorithm>
 #include <numeric>
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "assets/assetlist.h"
-#include "assets/familypalette.h"
-#include "cache/palettes.h"
+#include "family/assets/assetlist.h"
+#include "family/assets/familypalette.h"
+
+#include <zorv/cache/palettes.h>
 
 namespace Family {
 

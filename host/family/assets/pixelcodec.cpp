@@ -1,14 +1,13 @@
-#include "assets/pixelcodec.h"
+#include "family/assets/pixelcodec.h"
 
-#include "media/imagefile.h"
-#include "media/lz5.h"
-#include "media/pcx.h"
-#include "media/png.h"
-#include "media/rle.h"
+#include <zorv/media/imagefile.h>
+#include <zorv/media/lz5.h>
+#include <zorv/media/pcx.h>
+#include <zorv/media/png.h>
+#include <zorv/media/rle.h>
 
 #include <QBuffer>
 #include <QtEndian>
-
 #include <algorithm>
 #include <cstring>
 

@@ -1,6 +1,6 @@
-#include "assets/pixeldata.h"
+#include "family/assets/pixeldata.h"
 
-#include "assets/pixelstore.h"
+#include "family/assets/pixelstore.h"
 
 namespace Family {
 

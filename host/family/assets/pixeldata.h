@@ -1,8 +1,9 @@
 #pragma once
 
-#include "assets/assetref.h"
-#include "assets/pixelcodec.h"
-#include "cache/streamcachedata.h"
+#include "family/assets/assetref.h"
+#include "family/assets/pixelcodec.h"
+
+#include <zorv/cache/streamcachedata.h>
 
 namespace Family {
 

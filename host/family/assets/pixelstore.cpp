@@ -1,12 +1,12 @@
-#include "assets/pixelstore.h"
+#include "family/assets/pixelstore.h"
 
-#include "assets/assetcache.h"
-#include "assets/spritetextures.h"
-#include "cache/crc64.h"
-#include "cache/filecache.h"
+#include "family/assets/assetcache.h"
+#include "family/assets/spritetextures.h"
+
+#include <zorv/cache/crc64.h>
+#include <zorv/cache/filecache.h>
 
 #include <QtEndian>
-
 #include <limits>
 
 namespace Family {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "assets/pixeldata.h"
+#include "family/assets/pixeldata.h"
 
 #include <QCache>
 #include <QHash>

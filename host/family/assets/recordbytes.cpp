@@ -1,6 +1,6 @@
-#include "assets/recordbytes.h"
+#include "family/assets/recordbytes.h"
 
-#include "cache/crc64.h"
+#include <zorv/cache/crc64.h>
 
 namespace Family {
 

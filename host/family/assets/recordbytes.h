@@ -1,6 +1,6 @@
 #pragma once
 
-#include "assets/assetid.h"
+#include "family/assets/assetid.h"
 
 #include <QByteArray>
 #include <QtEndian>

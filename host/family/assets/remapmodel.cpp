@@ -1,4 +1,4 @@
-#include "assets/remapmodel.h"
+#include "family/assets/remapmodel.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "assets/assetid.h"
-#include "assets/assetlist.h"
+#include "family/assets/assetid.h"
+#include "family/assets/assetlist.h"
 
 #include <QAbstractTableModel>
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "assets/assetref.h"
-#include "cache/streamcachedata.h"
+#include "family/assets/assetref.h"
+
+#include <zorv/cache/streamcachedata.h>
 
 namespace Family {
 

@@ -1,4 +1,4 @@
-#include "assets/samplepacking.h"
+#include "family/assets/samplepacking.h"
 
 #include <QtEndian>
 

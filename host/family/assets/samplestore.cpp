@@ -1,8 +1,9 @@
-#include "assets/samplestore.h"
+#include "family/assets/samplestore.h"
 
-#include "assets/assetcache.h"
-#include "assets/samplepacking.h"
-#include "cache/crc64.h"
+#include "family/assets/assetcache.h"
+#include "family/assets/samplepacking.h"
+
+#include <zorv/cache/crc64.h>
 
 namespace Family {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "assets/sampledata.h"
+#include "family/assets/sampledata.h"
 
 #include <QHash>
 #include <QObject>

@@ -1,7 +1,7 @@
-#include "assets/soundfile.h"
+#include "family/assets/soundfile.h"
 
-#include "assets/samplestore.h"
-#include "assets/soundfiledata.h"
+#include "family/assets/samplestore.h"
+#include "family/assets/soundfiledata.h"
 
 #include <QSet>
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "assets/assetlist.h"
-#include "assets/familysound.h"
-#include "cache/sounds.h"
-#include "core/filewatchobject.h"
+#include "family/assets/assetlist.h"
+#include "family/assets/familysound.h"
+
+#include <zorv/cache/sounds.h>
+#include <zorv/core/filewatchobject.h>
 
 #include <QStringList>
 

@@ -1,11 +1,10 @@
-#include "assets/soundfiledata.h"
+#include "family/assets/soundfiledata.h"
 
-#include "cache/crc64.h"
+#include <zorv/cache/crc64.h>
 
 #include <QCoreApplication>
 #include <QIODevice>
 #include <QtEndian>
-
 #include <algorithm>
 #include <cstring>
 #include <iterator>

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "assets/assetid.h"
-#include "assets/sampledata.h"
-#include "media/soundsample.h"
+#include "family/assets/assetid.h"
+#include "family/assets/sampledata.h"
+
+#include <zorv/media/soundsample.h>
 
 #include <QByteArray>
 #include <QString>
 #include <QVector>
-
 #include <functional>
 
 class QIODevice;

@@ -1,8 +1,9 @@
-#include "assets/assetreload.h"
-#include "assets/samplestore.h"
-#include "assets/soundfile.h"
-#include "assets/soundfiledata.h"
-#include "core/archive.h"
+#include "family/assets/assetreload.h"
+#include "family/assets/samplestore.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/soundfiledata.h"
+
+#include <zorv/core/archive.h>
 
 #include <QDir>
 #include <QHash>

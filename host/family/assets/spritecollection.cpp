@@ -1,8 +1,8 @@
-#include "assets/spritecollection.h"
+#include "family/assets/spritecollection.h"
 
-#include "assets/pixelstore.h"
-#include "assets/remapmodel.h"
-#include "assets/spritetextures.h"
+#include "family/assets/pixelstore.h"
+#include "family/assets/remapmodel.h"
+#include "family/assets/spritetextures.h"
 
 #include <QSet>
 

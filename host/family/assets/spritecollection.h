@@ -1,9 +1,10 @@
 #pragma once
 
-#include "assets/assetlist.h"
-#include "assets/familysprite.h"
-#include "assets/palettelist.h"
-#include "cache/sprites.h"
+#include "family/assets/assetlist.h"
+#include "family/assets/familysprite.h"
+#include "family/assets/palettelist.h"
+
+#include <zorv/cache/sprites.h>
 
 #include <QStringList>
 

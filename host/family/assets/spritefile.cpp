@@ -1,15 +1,15 @@
-#include "assets/spritefile.h"
+#include "family/assets/spritefile.h"
 
-#include "assets/assetreload.h"
-#include "assets/pixelstore.h"
-#include "assets/remapmodel.h"
-#include "assets/spritefiledata.h"
-#include "core/archive.h"
+#include "family/assets/assetreload.h"
+#include "family/assets/pixelstore.h"
+#include "family/assets/remapmodel.h"
+#include "family/assets/spritefiledata.h"
+
+#include <zorv/core/archive.h>
 
 #include <QBuffer>
 #include <QDir>
 #include <QHash>
-
 #include <algorithm>
 
 namespace Family {

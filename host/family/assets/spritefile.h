@@ -1,7 +1,8 @@
 #pragma once
 
-#include "assets/spritecollection.h"
-#include "core/filewatchobject.h"
+#include "family/assets/spritecollection.h"
+
+#include <zorv/core/filewatchobject.h>
 
 class QIODevice;
 

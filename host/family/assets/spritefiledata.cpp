@@ -1,6 +1,6 @@
-#include "assets/spritefiledata.h"
+#include "family/assets/spritefiledata.h"
 
-#include "assets/recordbytes.h"
+#include "family/assets/recordbytes.h"
 
 #include <QIODevice>
 

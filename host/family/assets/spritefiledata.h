@@ -1,8 +1,8 @@
 #pragma once
 
-#include "assets/assetid.h"
-#include "assets/familypalette.h"
-#include "assets/pixelcodec.h"
+#include "family/assets/assetid.h"
+#include "family/assets/familypalette.h"
+#include "family/assets/pixelcodec.h"
 
 #include <QCoreApplication>
 #include <QStringList>

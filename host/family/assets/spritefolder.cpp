@@ -1,16 +1,16 @@
-#include "assets/spritefolder.h"
+#include "family/assets/spritefolder.h"
 
-#include "assets/foldercontent.h"
-#include "assets/pixelstore.h"
-#include "assets/remapmodel.h"
-#include "core/archive.h"
-#include "media/imagefile.h"
-#include "project/unreachable.h"
+#include "family/assets/foldercontent.h"
+#include "family/assets/pixelstore.h"
+#include "family/assets/remapmodel.h"
+#include "family/project/unreachable.h"
+
+#include <zorv/core/archive.h>
+#include <zorv/media/imagefile.h>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
-
 #include <algorithm>
 
 namespace Family {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "assets/folderlist.h"
-#include "assets/spritecollection.h"
+#include "family/assets/folderlist.h"
+#include "family/assets/spritecollection.h"
 
 namespace Family {
 

@@ -1,7 +1,7 @@
-#include "assets/spritejobs.h"
+#include "family/assets/spritejobs.h"
 
-#include "assets/pixelstore.h"
-#include "assets/spritecollection.h"
+#include "family/assets/pixelstore.h"
+#include "family/assets/spritecollection.h"
 
 #include <QThread>
 #include <QThreadPool>

@@ -1,12 +1,11 @@
-#include "assets/spritetextures.h"
+#include "family/assets/spritetextures.h"
 
-#include "graphics/glcontext.h"
-#include "graphics/texture.h"
+#include <zorv/graphics/glcontext.h>
+#include <zorv/graphics/texture.h>
 
 #include <QImage>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
-
 #include <algorithm>
 
 namespace Family {

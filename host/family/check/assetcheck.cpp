@@ -1,12 +1,12 @@
-#include "check/assetcheck.h"
+#include "family/check/assetcheck.h"
 
-#include "assets/familypalette.h"
-#include "assets/familysprite.h"
-#include "assets/palettelist.h"
-#include "assets/remapmodel.h"
-#include "assets/soundfile.h"
-#include "assets/spritecollection.h"
-#include "project/familyproject.h"
+#include "family/assets/familypalette.h"
+#include "family/assets/familysprite.h"
+#include "family/assets/palettelist.h"
+#include "family/assets/remapmodel.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
+#include "family/project/familyproject.h"
 
 #include <QCoreApplication>
 #include <QDir>

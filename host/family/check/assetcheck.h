@@ -1,7 +1,8 @@
 #pragma once
 
-#include "check/documentcheck.h"
-#include "core/fileid.h"
+#include "family/check/documentcheck.h"
+
+#include <zorv/core/fileid.h>
 
 #include <QSet>
 

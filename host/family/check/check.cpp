@@ -1,20 +1,20 @@
-#include "check/check.h"
+#include "family/check/check.h"
 
-#include "assets/newsprites.h"
-#include "assets/soundfile.h"
-#include "assets/spritecollection.h"
-#include "check/projectcheck.h"
-#include "core/filesystemarchive.h"
-#include "familydocument.h"
-#include "project/familyparentproject.h"
-#include "project/familyproject.h"
-#include "project/unnamedprojects.h"
-#include "project/unreachable.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
+#include "family/check/projectcheck.h"
+#include "family/familydocument.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "family/project/unnamedprojects.h"
+#include "family/project/unreachable.h"
+
+#include <zorv/core/filesystemarchive.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-
 #include <memory>
 
 namespace Family {

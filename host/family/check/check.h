@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/problem.h"
+#include "family/check/problem.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
-#include "check/documentcheck.h"
+#include "family/check/documentcheck.h"
 
-#include "assets/assetid.h"
-#include "familydocument.h"
+#include "family/assets/assetid.h"
+#include "family/familydocument.h"
 
 #include <QTextBlock>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "check/problem.h"
-#include "grammar/linereader.h"
+#include "family/check/problem.h"
+#include "family/grammar/linereader.h"
 
 #include <QHash>
 

@@ -1,4 +1,4 @@
-#include "check/problem.h"
+#include "family/check/problem.h"
 
 #include <algorithm>
 #include <tuple>

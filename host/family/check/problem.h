@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grammar/problems.h"
+#include "family/grammar/problems.h"
 
 #include <QString>
 #include <QVector>

@@ -1,12 +1,12 @@
-#include "check/projectcheck.h"
+#include "family/check/projectcheck.h"
 
-#include "check/assetcheck.h"
-#include "familydocument.h"
-#include "grammar/grammar.h"
-#include "project/familyparentproject.h"
-#include "project/familyproject.h"
-#include "project/filereference.h"
-#include "project/unreachable.h"
+#include "family/check/assetcheck.h"
+#include "family/familydocument.h"
+#include "family/grammar/grammar.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "family/project/filereference.h"
+#include "family/project/unreachable.h"
 
 #include <QCoreApplication>
 #include <QDir>

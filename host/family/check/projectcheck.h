@@ -1,6 +1,6 @@
 #pragma once
 
-#include "check/documentcheck.h"
+#include "family/check/documentcheck.h"
 
 namespace Family {
 

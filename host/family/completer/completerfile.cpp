@@ -1,6 +1,6 @@
-#include "completer/completerfile.h"
+#include "family/completer/completerfile.h"
 
-#include "grammar/grammar.h"
+#include "family/grammar/grammar.h"
 
 #include <QMap>
 #include <QXmlStreamReader>

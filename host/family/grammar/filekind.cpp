@@ -1,4 +1,4 @@
-#include "grammar/filekind.h"
+#include "family/grammar/filekind.h"
 
 #include <QCoreApplication>
 #include <QStringList>

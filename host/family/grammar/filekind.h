@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/fileid.h"
+#include <zorv/core/fileid.h>
 
 #include <QString>
 

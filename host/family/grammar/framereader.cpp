@@ -1,6 +1,6 @@
-#include "grammar/framereader.h"
+#include "family/grammar/framereader.h"
 
-#include "grammar/grammar.h"
+#include "family/grammar/grammar.h"
 
 #include <QCoreApplication>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grammar/linereader.h"
-#include "grammar/valuereader.h"
+#include "family/grammar/linereader.h"
+#include "family/grammar/valuereader.h"
 
 namespace Family {
 

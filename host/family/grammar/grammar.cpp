@@ -1,4 +1,4 @@
-#include "grammar/grammar.h"
+#include "family/grammar/grammar.h"
 
 #include <QCoreApplication>
 

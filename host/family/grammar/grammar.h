@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grammar/groupinfo.h"
+#include "family/grammar/groupinfo.h"
 
 #include <QVector>
 

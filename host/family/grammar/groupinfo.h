@@ -1,7 +1,7 @@
 #pragma once
 
-#include "grammar/filekind.h"
-#include "grammar/keyinfo.h"
+#include "family/grammar/filekind.h"
+#include "family/grammar/keyinfo.h"
 
 namespace Family {
 

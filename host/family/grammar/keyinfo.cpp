@@ -1,4 +1,4 @@
-#include "grammar/keyinfo.h"
+#include "family/grammar/keyinfo.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "code/codedoc/valuecode.h"
+#include <zorv/code/codedoc/valuecode.h>
 
 #include <QLatin1String>
 #include <QStringList>

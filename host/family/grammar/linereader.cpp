@@ -1,9 +1,9 @@
-#include "grammar/linereader.h"
+#include "family/grammar/linereader.h"
 
-#include "grammar/framereader.h"
-#include "grammar/grammar.h"
-#include "grammar/linescanner.h"
-#include "grammar/valuereader.h"
+#include "family/grammar/framereader.h"
+#include "family/grammar/grammar.h"
+#include "family/grammar/linescanner.h"
+#include "family/grammar/valuereader.h"
 
 namespace Family {
 

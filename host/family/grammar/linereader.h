@@ -1,9 +1,9 @@
 #pragma once
 
-#include "grammar/filekind.h"
-#include "grammar/groupinfo.h"
-#include "grammar/linereport.h"
-#include "nodes/framedata.h"
+#include "family/grammar/filekind.h"
+#include "family/grammar/groupinfo.h"
+#include "family/grammar/linereport.h"
+#include "family/nodes/framedata.h"
 
 #include <QRect>
 #include <QVariant>

@@ -1,4 +1,4 @@
-#include "grammar/linereport.h"
+#include "family/grammar/linereport.h"
 
 namespace Family {
 

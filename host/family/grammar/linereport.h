@@ -1,7 +1,8 @@
 #pragma once
 
-#include "code/codedoc/codeparsersyntax.h"
-#include "grammar/problems.h"
+#include "family/grammar/problems.h"
+
+#include <zorv/code/codedoc/codeparsersyntax.h>
 
 #include <QVector>
 

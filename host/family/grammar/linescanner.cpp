@@ -1,4 +1,4 @@
-#include "grammar/linescanner.h"
+#include "family/grammar/linescanner.h"
 
 namespace Family {
 

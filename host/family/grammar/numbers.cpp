@@ -1,4 +1,4 @@
-#include "grammar/numbers.h"
+#include "family/grammar/numbers.h"
 
 #include <QLocale>
 

@@ -1,4 +1,4 @@
-#include "grammar/problems.h"
+#include "family/grammar/problems.h"
 
 #include <QCoreApplication>
 

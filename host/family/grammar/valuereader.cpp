@@ -1,7 +1,7 @@
-#include "grammar/valuereader.h"
+#include "family/grammar/valuereader.h"
 
-#include "grammar/grammar.h"
-#include "grammar/numbers.h"
+#include "family/grammar/grammar.h"
+#include "family/grammar/numbers.h"
 
 #include <QDate>
 #include <QPoint>

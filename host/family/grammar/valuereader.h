@@ -1,8 +1,8 @@
 #pragma once
 
-#include "grammar/keyinfo.h"
-#include "grammar/linereport.h"
-#include "grammar/linescanner.h"
+#include "family/grammar/keyinfo.h"
+#include "family/grammar/linereport.h"
+#include "family/grammar/linescanner.h"
 
 #include <QVariant>
 

@@ -1,9 +1,9 @@
-#include "meaning/completions.h"
+#include "family/meaning/completions.h"
 
-#include "familydocument.h"
-#include "grammar/grammar.h"
-#include "meaning/linecontext.h"
-#include "meaning/projectnames.h"
+#include "family/familydocument.h"
+#include "family/grammar/grammar.h"
+#include "family/meaning/linecontext.h"
+#include "family/meaning/projectnames.h"
 
 namespace Family {
 

@@ -1,8 +1,9 @@
-#include "meaning/linecontext.h"
+#include "family/meaning/linecontext.h"
 
-#include "code/codedoc/codedocument.h"
-#include "grammar/linescanner.h"
-#include "nodes/familyparser.h"
+#include "family/grammar/linescanner.h"
+#include "family/nodes/familyparser.h"
+
+#include <zorv/code/codedoc/codedocument.h>
 
 #include <algorithm>
 

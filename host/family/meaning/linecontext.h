@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grammar/linereader.h"
+#include "family/grammar/linereader.h"
 
 namespace Zorv {
 class CodeDocument;

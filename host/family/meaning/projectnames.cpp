@@ -1,15 +1,15 @@
-#include "meaning/projectnames.h"
+#include "family/meaning/projectnames.h"
 
-#include "familyanimations.h"
-#include "familydocument.h"
-#include "grammar/groupinfo.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
-#include "nodes/groupnode.h"
-#include "nodes/lineedit.h"
-#include "nodes/valuenode.h"
-#include "project/familyproject.h"
-#include "project/filereference.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/grammar/groupinfo.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/nodes/groupnode.h"
+#include "family/nodes/lineedit.h"
+#include "family/nodes/valuenode.h"
+#include "family/project/familyproject.h"
+#include "family/project/filereference.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grammar/keyinfo.h"
+#include "family/grammar/keyinfo.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,8 +1,8 @@
-#include "meaning/reference.h"
+#include "family/meaning/reference.h"
 
-#include "familydocument.h"
-#include "grammar/groupinfo.h"
-#include "meaning/linecontext.h"
+#include "family/familydocument.h"
+#include "family/grammar/groupinfo.h"
+#include "family/meaning/linecontext.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meaning/projectnames.h"
+#include "family/meaning/projectnames.h"
 
 namespace Family {
 

@@ -1,11 +1,11 @@
-#include "meaning/wordmeaning.h"
+#include "family/meaning/wordmeaning.h"
 
-#include "familyanimations.h"
-#include "familydocument.h"
-#include "grammar/grammar.h"
-#include "meaning/linecontext.h"
-#include "meaning/projectnames.h"
-#include "nodes/animationnode.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/grammar/grammar.h"
+#include "family/meaning/linecontext.h"
+#include "family/meaning/projectnames.h"
+#include "family/nodes/animationnode.h"
 
 #include <QCoreApplication>
 #include <QDir>

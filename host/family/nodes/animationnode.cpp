@@ -1,10 +1,10 @@
-#include "nodes/animationnode.h"
+#include "family/nodes/animationnode.h"
 
-#include "grammar/linescanner.h"
-#include "nodes/boxnode.h"
-#include "nodes/framenode.h"
-#include "nodes/lineedit.h"
-#include "nodes/valuetext.h"
+#include "family/grammar/linescanner.h"
+#include "family/nodes/boxnode.h"
+#include "family/nodes/framenode.h"
+#include "family/nodes/lineedit.h"
+#include "family/nodes/valuetext.h"
 
 namespace Family {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "code/codedoc/animationcode.h"
+#include <zorv/code/codedoc/animationcode.h>
 
 namespace Family {
 

@@ -1,8 +1,8 @@
-#include "nodes/boxnode.h"
+#include "family/nodes/boxnode.h"
 
-#include "grammar/linereader.h"
-#include "nodes/framenode.h"
-#include "nodes/lineedit.h"
+#include "family/grammar/linereader.h"
+#include "family/nodes/framenode.h"
+#include "family/nodes/lineedit.h"
 
 namespace Family {
 

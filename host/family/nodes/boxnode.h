@@ -1,7 +1,7 @@
 #pragma once
 
-#include "code/codedoc/contactboxcode.h"
-#include "code/codedoc/valuecode.h"
+#include <zorv/code/codedoc/contactboxcode.h>
+#include <zorv/code/codedoc/valuecode.h>
 
 namespace Family {
 

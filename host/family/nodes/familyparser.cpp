@@ -1,12 +1,13 @@
-#include "nodes/familyparser.h"
+#include "family/nodes/familyparser.h"
 
-#include "code/codedoc/rootcode.h"
-#include "grammar/linescanner.h"
-#include "nodes/animationnode.h"
-#include "nodes/boxnode.h"
-#include "nodes/framenode.h"
-#include "nodes/groupnode.h"
-#include "nodes/valuenode.h"
+#include "family/grammar/linescanner.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/boxnode.h"
+#include "family/nodes/framenode.h"
+#include "family/nodes/groupnode.h"
+#include "family/nodes/valuenode.h"
+
+#include <zorv/code/codedoc/rootcode.h>
 
 namespace Family {
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "code/codedoc/codeparser.h"
-#include "grammar/linereader.h"
+#include "family/grammar/linereader.h"
+
+#include <zorv/code/codedoc/codeparser.h>
 
 namespace Family {
 

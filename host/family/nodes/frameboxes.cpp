@@ -1,9 +1,10 @@
-#include "nodes/frameboxes.h"
+#include "family/nodes/frameboxes.h"
 
-#include "code/codedoc/codedocument.h"
-#include "grammar/linereader.h"
-#include "nodes/boxnode.h"
-#include "nodes/framenode.h"
+#include "family/grammar/linereader.h"
+#include "family/nodes/boxnode.h"
+#include "family/nodes/framenode.h"
+
+#include <zorv/code/codedoc/codedocument.h>
 
 #include <algorithm>
 

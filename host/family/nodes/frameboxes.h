@@ -1,6 +1,6 @@
 #pragma once
 
-#include "code/codedoc/contactboxescode.h"
+#include <zorv/code/codedoc/contactboxescode.h>
 
 #include <QVector>
 

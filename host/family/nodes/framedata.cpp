@@ -1,4 +1,4 @@
-#include "nodes/framedata.h"
+#include "family/nodes/framedata.h"
 
 namespace Family {
 

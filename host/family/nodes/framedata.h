@@ -1,6 +1,6 @@
 #pragma once
 
-#include "code/codedoc/framecode.h"
+#include <zorv/code/codedoc/framecode.h>
 
 namespace Family {
 

@@ -1,9 +1,9 @@
-#include "nodes/frameedit.h"
+#include "family/nodes/frameedit.h"
 
-#include "grammar/framereader.h"
-#include "grammar/numbers.h"
-#include "nodes/framenode.h"
-#include "nodes/lineedit.h"
+#include "family/grammar/framereader.h"
+#include "family/grammar/numbers.h"
+#include "family/nodes/framenode.h"
+#include "family/nodes/lineedit.h"
 
 #include <QCoreApplication>
 

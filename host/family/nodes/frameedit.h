@@ -1,6 +1,6 @@
 #pragma once
 
-#include "nodes/framedata.h"
+#include "family/nodes/framedata.h"
 
 namespace Family {
 

@@ -1,9 +1,9 @@
-#include "nodes/framenode.h"
+#include "family/nodes/framenode.h"
 
-#include "grammar/linereader.h"
-#include "nodes/boxnode.h"
-#include "nodes/frameboxes.h"
-#include "nodes/frameedit.h"
+#include "family/grammar/linereader.h"
+#include "family/nodes/boxnode.h"
+#include "family/nodes/frameboxes.h"
+#include "family/nodes/frameedit.h"
 
 namespace Family {
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "code/codedoc/framecode.h"
-#include "nodes/framedata.h"
+#include "family/nodes/framedata.h"
+
+#include <zorv/code/codedoc/framecode.h>
 
 #include <memory>
 

@@ -1,10 +1,10 @@
-#include "nodes/groupnode.h"
+#include "family/nodes/groupnode.h"
 
-#include "grammar/grammar.h"
-#include "grammar/linescanner.h"
-#include "nodes/boxnode.h"
-#include "nodes/lineedit.h"
-#include "nodes/valuetext.h"
+#include "family/grammar/grammar.h"
+#include "family/grammar/linescanner.h"
+#include "family/nodes/boxnode.h"
+#include "family/nodes/lineedit.h"
+#include "family/nodes/valuetext.h"
 
 #include <QTextBlock>
 

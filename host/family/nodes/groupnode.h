@@ -1,6 +1,6 @@
 #pragma once
 
-#include "code/codedoc/groupcode.h"
+#include <zorv/code/codedoc/groupcode.h>
 
 namespace Family {
 

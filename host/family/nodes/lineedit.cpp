@@ -1,15 +1,15 @@
-#include "nodes/lineedit.h"
+#include "family/nodes/lineedit.h"
 
-#include "code/codedoc/codedocument.h"
-#include "core/interface.h"
-#include "grammar/grammar.h"
-#include "grammar/linereader.h"
-#include "grammar/linescanner.h"
-#include "nodes/familyparser.h"
+#include "family/grammar/grammar.h"
+#include "family/grammar/linereader.h"
+#include "family/grammar/linescanner.h"
+#include "family/nodes/familyparser.h"
+
+#include <zorv/code/codedoc/codedocument.h>
+#include <zorv/core/interface.h>
 
 #include <QTextBlock>
 #include <QTextCursor>
-
 #include <algorithm>
 
 namespace Family {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grammar/linereport.h"
+#include "family/grammar/linereport.h"
 
 #include <QString>
 #include <QVector>

@@ -1,10 +1,11 @@
-#include "nodes/valuenode.h"
+#include "family/nodes/valuenode.h"
 
-#include "code/codedoc/parentcode.h"
-#include "grammar/grammar.h"
-#include "grammar/linescanner.h"
-#include "nodes/lineedit.h"
-#include "nodes/valuetext.h"
+#include "family/grammar/grammar.h"
+#include "family/grammar/linescanner.h"
+#include "family/nodes/lineedit.h"
+#include "family/nodes/valuetext.h"
+
+#include <zorv/code/codedoc/parentcode.h>
 
 #include <QTextBlock>
 

@@ -1,7 +1,7 @@
-#include "nodes/valuetext.h"
+#include "family/nodes/valuetext.h"
 
-#include "grammar/numbers.h"
-#include "grammar/valuereader.h"
+#include "family/grammar/numbers.h"
+#include "family/grammar/valuereader.h"
 
 #include <QCoreApplication>
 #include <QDate>

@@ -1,6 +1,6 @@
-#include "project/familyenginemodel.h"
+#include "family/project/familyenginemodel.h"
 
-#include "grammar/grammar.h"
+#include "family/grammar/grammar.h"
 
 #include <QDir>
 #include <QIcon>

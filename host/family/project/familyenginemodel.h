@@ -1,7 +1,8 @@
 #pragma once
 
-#include "core/enginemodel.h"
-#include "project/gameprogram.h"
+#include "family/project/gameprogram.h"
+
+#include <zorv/core/enginemodel.h>
 
 #include <QVector>
 

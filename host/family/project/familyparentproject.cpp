@@ -1,19 +1,19 @@
-#include "project/familyparentproject.h"
+#include "family/project/familyparentproject.h"
 
-#include "core/dialogs/dialogs.h"
-#include "core/filesystemarchive.h"
-#include "familydocument.h"
-#include "grammar/filekind.h"
-#include "project/familyenginemodel.h"
-#include "project/filereference.h"
-#include "project/gameprogram.h"
+#include "family/familydocument.h"
+#include "family/grammar/filekind.h"
+#include "family/project/familyenginemodel.h"
+#include "family/project/filereference.h"
+#include "family/project/gameprogram.h"
+
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/filesystemarchive.h>
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QUuid>
-
 #include <algorithm>
 #include <memory>
 

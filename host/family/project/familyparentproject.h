@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/parentproject.h"
+#include <zorv/core/parentproject.h>
 
 namespace Family {
 

@@ -1,23 +1,23 @@
-#include "project/familyproject.h"
+#include "family/project/familyproject.h"
 
-#include "assets/newsprites.h"
-#include "assets/soundfile.h"
-#include "assets/spritecollection.h"
-#include "assets/spritefile.h"
-#include "core/archive.h"
-#include "core/files.h"
-#include "core/filesystemarchive.h"
-#include "core/interface.h"
-#include "familydocument.h"
-#include "nodes/groupnode.h"
-#include "nodes/valuenode.h"
-#include "project/familyparentproject.h"
-#include "project/filereference.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
+#include "family/assets/spritefile.h"
+#include "family/familydocument.h"
+#include "family/nodes/groupnode.h"
+#include "family/nodes/valuenode.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/filereference.h"
+
+#include <zorv/core/archive.h>
+#include <zorv/core/files.h>
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/core/interface.h>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
-
 #include <memory>
 
 namespace Family {

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "core/project.h"
-#include "grammar/filekind.h"
+#include "family/grammar/filekind.h"
+
+#include <zorv/core/project.h>
 
 namespace Family {
 

@@ -1,10 +1,10 @@
-#include "project/filereference.h"
+#include "family/project/filereference.h"
 
-#include "familydocument.h"
-#include "grammar/keyinfo.h"
-#include "nodes/groupnode.h"
-#include "nodes/lineedit.h"
-#include "nodes/valuenode.h"
+#include "family/familydocument.h"
+#include "family/grammar/keyinfo.h"
+#include "family/nodes/groupnode.h"
+#include "family/nodes/lineedit.h"
+#include "family/nodes/valuenode.h"
 
 #include <QDir>
 #include <QFileInfo>

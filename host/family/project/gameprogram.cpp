@@ -1,4 +1,4 @@
-#include "project/gameprogram.h"
+#include "family/project/gameprogram.h"
 
 #include <QCryptographicHash>
 #include <QDir>

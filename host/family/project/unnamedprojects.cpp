@@ -1,7 +1,7 @@
-#include "project/unnamedprojects.h"
+#include "family/project/unnamedprojects.h"
 
-#include "grammar/filekind.h"
-#include "project/familyparentproject.h"
+#include "family/grammar/filekind.h"
+#include "family/project/familyparentproject.h"
 
 #include <QCoreApplication>
 #include <QFile>

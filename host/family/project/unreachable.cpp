@@ -1,6 +1,6 @@
-#include "project/unreachable.h"
+#include "family/project/unreachable.h"
 
-#include "project/familyparentproject.h"
+#include "family/project/familyparentproject.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "stage/animationrow.h"
+#include "family/stage/animationrow.h"
 
-#include "nodes/animationnode.h"
-#include "stage/followedanimation.h"
+#include "family/nodes/animationnode.h"
+#include "family/stage/followedanimation.h"
 
 namespace Family {
 

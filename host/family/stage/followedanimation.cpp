@@ -1,8 +1,8 @@
-#include "stage/followedanimation.h"
+#include "family/stage/followedanimation.h"
 
-#include "familyanimations.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
+#include "family/familyanimations.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
 
 namespace Family {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "familydocument.h"
-#include "stage/frameticks.h"
+#include "family/familydocument.h"
+#include "family/stage/frameticks.h"
 
 #include <QObject>
 #include <QPointer>

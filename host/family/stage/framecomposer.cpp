@@ -1,11 +1,12 @@
-#include "stage/framecomposer.h"
+#include "family/stage/framecomposer.h"
 
-#include "assets/spritecollection.h"
-#include "code/codedoc/animationcode.h"
-#include "code/codedoc/contactboxescode.h"
-#include "nodes/framenode.h"
-#include "stage/pictureraster.h"
-#include "stage/placedpicture.h"
+#include "family/assets/spritecollection.h"
+#include "family/nodes/framenode.h"
+#include "family/stage/pictureraster.h"
+#include "family/stage/placedpicture.h"
+
+#include <zorv/code/codedoc/animationcode.h>
+#include <zorv/code/codedoc/contactboxescode.h>
 
 #include <algorithm>
 #include <array>

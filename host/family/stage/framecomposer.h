@@ -1,7 +1,7 @@
 #pragma once
 
-#include "assets/palettelist.h"
-#include "stage/framepose.h"
+#include "family/assets/palettelist.h"
+#include "family/stage/framepose.h"
 
 #include <QCache>
 #include <QColor>

@@ -1,6 +1,6 @@
-#include "stage/framepose.h"
+#include "family/stage/framepose.h"
 
-#include "nodes/framedata.h"
+#include "family/nodes/framedata.h"
 
 namespace Family {
 

@@ -1,6 +1,6 @@
-#include "stage/frameprovider.h"
+#include "family/stage/frameprovider.h"
 
-#include "nodes/framenode.h"
+#include "family/nodes/framenode.h"
 
 namespace Family {
 

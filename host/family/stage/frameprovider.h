@@ -1,10 +1,11 @@
 #pragma once
 
-#include "assets/spritecollection.h"
-#include "cache/spriteprovider.h"
-#include "nodes/framedata.h"
-#include "stage/followedanimation.h"
-#include "stage/framepose.h"
+#include "family/assets/spritecollection.h"
+#include "family/nodes/framedata.h"
+#include "family/stage/followedanimation.h"
+#include "family/stage/framepose.h"
+
+#include <zorv/cache/spriteprovider.h>
 
 #include <QPointer>
 

@@ -1,7 +1,7 @@
-#include "stage/frameticks.h"
+#include "family/stage/frameticks.h"
 
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "animation/timeline/timeline.h"
+#include <zorv/animation/timeline/timeline.h>
 
 #include <QVector>
 

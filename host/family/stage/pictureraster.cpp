@@ -1,6 +1,6 @@
-#include "stage/pictureraster.h"
+#include "family/stage/pictureraster.h"
 
-#include "stage/placedpicture.h"
+#include "family/stage/placedpicture.h"
 
 #include <QVector>
 

@@ -1,6 +1,6 @@
-#include "stage/placedpicture.h"
+#include "family/stage/placedpicture.h"
 
-#include "stage/framepose.h"
+#include "family/stage/framepose.h"
 
 #include <QtMath>
 

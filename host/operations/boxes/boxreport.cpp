@@ -1,17 +1,22 @@
 #include "operations/boxes/boxreport.h"
 
-#include "code/codedoc/contactboxescode.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/stage/frameticks.h"
 #include "operations/boxes/coveredarea.h"
-#include "stage/frameticks.h"
+
+#include <zorv/code/codedoc/contactboxescode.h>
 
 #include <algorithm>
 #include <limits>
 #include <set>
 #include <tuple>
 
-namespace Family {
+namespace Operations {
+
+using Family::AnimationNode;
+using Family::FrameNode;
+using Family::FrameTicks;
 
 namespace {
 
@@ -212,4 +217,4 @@ bool AnimationBoxReport::hasBoxes() const
     });
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -4,8 +4,10 @@
 #include <QVector>
 
 namespace Family {
-
 class AnimationNode;
+}  // namespace Family
+
+namespace Operations {
 
 /// A contact box and what comes of it while the animation plays. Areas are in pixels of the game.
 struct BoxInFrame
@@ -56,7 +58,7 @@ struct ActiveTime
 struct AnimationBoxReport
 {
     /// Of the animation as it stands in the text. Takes n log n for n boxes of a frame.
-    explicit AnimationBoxReport(const AnimationNode& animation);
+    explicit AnimationBoxReport(const Family::AnimationNode& animation);
 
     bool hasBoxes() const;
 
@@ -72,4 +74,4 @@ struct AnimationBoxReport
     QVector<int> withoutBody;  ///< frames that are shown and cannot be hit
 };
 
-}  // namespace Family
+}  // namespace Operations

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
@@ -118,4 +118,4 @@ qint64 sharedArea(const QVector<QRect>& one, const QVector<QRect>& other)
     return coveredArea(one) + coveredArea(other) - coveredArea(one + other);
 }
 
-}  // namespace Family
+}  // namespace Operations

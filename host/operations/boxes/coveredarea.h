@@ -3,7 +3,7 @@
 #include <QRect>
 #include <QVector>
 
-namespace Family {
+namespace Operations {
 
 /// The count of pixels that at least one of the rectangles covers. Right and bottom belong to a
 /// rectangle, whichever way round its sides are named. Takes n log n.
@@ -15,4 +15,4 @@ qint64 sharedArea(const QVector<QRect>& one, const QVector<QRect>& other);
 /// A rectangle with left before right and top before bottom.
 QRect upright(const QRect& rect);
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,16 +1,21 @@
 #include "operations/diff/animationdiff.h"
 
-#include "code/codedoc/contactboxescode.h"
-#include "grammar/linereader.h"
-#include "nodes/animationnode.h"
-#include "nodes/frameedit.h"
-#include "nodes/framenode.h"
+#include "family/grammar/linereader.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/frameedit.h"
+#include "family/nodes/framenode.h"
 #include "operations/diff/boxmatching.h"
 #include "operations/linediff.h"
 
+#include <zorv/code/codedoc/contactboxescode.h>
+
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
+
+using Family::AnimationNode;
+using Family::FrameData;
+using Family::FrameNode;
 
 namespace {
 
@@ -27,11 +32,11 @@ QVector<OptionDiff> diffOptions(const FrameData& before, const FrameData& after)
     if (spriteText(before) != spriteText(after)) {
         result.append({spriteName, spriteText(before), spriteText(after)});
     }
-    for (int option = 0; option < FrameOptionCount; ++option) {
-        const QString oldText = optionText(option, before);
-        const QString newText = optionText(option, after);
+    for (int option = 0; option < Family::FrameOptionCount; ++option) {
+        const QString oldText = Family::optionText(option, before);
+        const QString newText = Family::optionText(option, after);
         if (oldText != newText) {
-            result.append({frameOption(option).name, oldText, newText});
+            result.append({Family::frameOption(option).name, oldText, newText});
         }
     }
     return result;
@@ -41,8 +46,8 @@ QVector<OptionDiff> diffOptions(const FrameData& before, const FrameData& after)
 QString lineOf(const FrameRecord& frame)
 {
     QString line = spriteText(frame.data);
-    for (int option = 0; option < FrameOptionCount; ++option) {
-        line += QLatin1Char(' ') + optionText(option, frame.data);
+    for (int option = 0; option < Family::FrameOptionCount; ++option) {
+        line += QLatin1Char(' ') + Family::optionText(option, frame.data);
     }
     for (const BoxRecord& box : frame.boxes) {
         line += QStringLiteral(" %1 %2 %3 %4 %5")
@@ -225,4 +230,4 @@ QVector<FrameDiff> diffFrames(const QVector<FrameRecord>& oldFrames,
     return result;
 }
 
-}  // namespace Family
+}  // namespace Operations

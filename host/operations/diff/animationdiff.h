@@ -1,14 +1,16 @@
 #pragma once
 
-#include "nodes/framedata.h"
+#include "family/nodes/framedata.h"
 
 #include <QRect>
 #include <QString>
 #include <QVector>
 
 namespace Family {
-
 class AnimationNode;
+}  // namespace Family
+
+namespace Operations {
 
 /// What has become of something between two texts.
 enum class DiffKind { Same, Changed, Added, Removed };
@@ -25,14 +27,14 @@ struct BoxRecord
 /// A frame by itself, with its attack boxes and then its body boxes, each in the order of the text.
 struct FrameRecord
 {
-    FrameData data;
+    Family::FrameData data;
     QVector<BoxRecord> boxes;
 
     bool operator==(const FrameRecord& other) const;
     bool operator!=(const FrameRecord& other) const { return !(*this == other); }
 };
 
-QVector<FrameRecord> frameRecords(const AnimationNode& animation);
+QVector<FrameRecord> frameRecords(const Family::AnimationNode& animation);
 
 /// A box that differs. Places count the boxes of its kind in the frame, from 0; -1 where it is not
 /// there. A box whose rectangle differs has been moved.
@@ -74,4 +76,4 @@ struct FrameDiff
 QVector<FrameDiff> diffFrames(const QVector<FrameRecord>& oldFrames,
                               const QVector<FrameRecord>& newFrames);
 
-}  // namespace Family
+}  // namespace Operations

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
@@ -97,4 +97,4 @@ QVector<BoxDiff> diffBoxes(const QVector<BoxRecord>& oldBoxes, const QVector<Box
     return result;
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,11 +1,16 @@
 #include "operations/diff/redrawnsprites.h"
 
-#include "assets/spritecollection.h"
+#include "family/assets/spritecollection.h"
 
 #include <QHash>
 #include <QImage>
 
-namespace Family {
+namespace Operations {
+
+using Family::AssetId;
+using Family::FamilySprite;
+using Family::FrameData;
+using Family::SpriteCollection;
 
 namespace {
 
@@ -49,4 +54,4 @@ void markRedrawn(const QVector<FrameRecord>& oldFrames, const SpriteCollection& 
     }
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,16 +1,20 @@
 #include "operations/media/animationgif.h"
 
-#include "code/codedoc/animationcode.h"
-#include "media/tools/savegif.h"
-#include "nodes/framenode.h"
-#include "stage/framecomposer.h"
+#include "family/nodes/framenode.h"
+#include "family/stage/framecomposer.h"
+
+#include <zorv/code/codedoc/animationcode.h>
+#include <zorv/media/tools/savegif.h>
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
-namespace Family {
+namespace Operations {
+
+using Family::FrameComposer;
+using Family::FrameNode;
 
 namespace {
 
@@ -20,7 +24,7 @@ const qint64 MaxBytes = qint64(1) << 30;
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::AnimationGif)
+    Q_DECLARE_TR_FUNCTIONS(Operations::AnimationGif)
 };
 
 /// What a GIF shows, one after another.
@@ -115,4 +119,4 @@ QString spritesBeside(const QString& codeFile, QString* error)
     return folder.filePath(names.first());
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,23 +1,29 @@
 #include "operations/media/animationrender.h"
 
-#include "code/codedoc/contactboxescode.h"
-#include "core/interface.h"
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/stage/framecomposer.h"
 #include "operations/media/assetnames.h"
-#include "stage/framecomposer.h"
+
+#include <zorv/code/codedoc/contactboxescode.h>
+#include <zorv/core/interface.h>
 
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QVector>
-
 #include <algorithm>
 #include <cmath>
 #include <cstring>
 
-namespace Family {
+namespace Operations {
+
+using Family::AnimationNode;
+using Family::FrameComposer;
+using Family::FrameData;
+using Family::FrameNode;
+using Family::FrameStyle;
 
 namespace {
 
@@ -28,7 +34,7 @@ const int MaxSide = 32767;
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::AnimationRender)
+    Q_DECLARE_TR_FUNCTIONS(Operations::AnimationRender)
 };
 
 const FrameNode& frameAt(const AnimationNode& animation, int index)
@@ -231,4 +237,4 @@ AnimationSheet renderSheet(const AnimationNode& animation, int columns, const QS
     return sheet;
 }
 
-}  // namespace Family
+}  // namespace Operations

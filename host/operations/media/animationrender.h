@@ -5,20 +5,22 @@
 #include <QString>
 
 namespace Family {
-
 class AnimationNode;
 class FrameComposer;
 struct FrameStyle;
+}  // namespace Family
+
+namespace Operations {
 
 /// Nothing but the sprite, with the colours that boxes have in the host's settings.
-FrameStyle stageStyle();
+Family::FrameStyle stageStyle();
 
 /// A frame of an animation, counted from 0, as a picture. It covers the area of all frames, so
 /// that the pictures of an animation lie upon each other; where the axis is on it stands in its
 /// text `axis`, as in the files that sprites are written to. Indexed where that is enough. Null,
 /// with `error`, if there is no such frame, or it cannot be drawn as a whole.
-QImage renderFrame(const AnimationNode& animation, int frame, FrameComposer* composer,
-                   QString* error);
+QImage renderFrame(const Family::AnimationNode& animation, int frame,
+                   Family::FrameComposer* composer, QString* error);
 
 /// All frames of an animation side by side on one picture.
 struct AnimationSheet
@@ -33,7 +35,8 @@ struct AnimationSheet
 /// have the same size, with the axis at the same place. `imageName` is what the JSON calls the
 /// picture. Without an image, with `error`, if a frame cannot be drawn as a whole, or there is
 /// none.
-AnimationSheet renderSheet(const AnimationNode& animation, int columns, const QString& imageName,
-                           FrameComposer* composer, QString* error);
+AnimationSheet renderSheet(const Family::AnimationNode& animation, int columns,
+                           const QString& imageName, Family::FrameComposer* composer,
+                           QString* error);
 
-}  // namespace Family
+}  // namespace Operations

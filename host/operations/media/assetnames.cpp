@@ -5,14 +5,16 @@
 #include <QHash>
 #include <QRegularExpression>
 
-namespace Family {
+namespace Operations {
+
+using Family::AssetId;
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::AssetNames)
+    Q_DECLARE_TR_FUNCTIONS(Operations::AssetNames)
 };
 
 QVector<ImportTarget> targetsInGroup(const QStringList& files, int group,
@@ -93,4 +95,4 @@ QVector<ImportTarget> importTargets(const QStringList& files, int group,
     return targets;
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,24 +1,24 @@
 #pragma once
 
-#include "assets/assetid.h"
+#include "family/assets/assetid.h"
 
 #include <QStringList>
 #include <QVector>
 
 #include <functional>
 
-namespace Family {
+namespace Operations {
 
 /// Where a file goes: a sprite or sound, and which one of several with its identifier.
 struct ImportTarget
 {
-    AssetId id;
+    Family::AssetId id;
     int copy = 1;
 };
 
 /// What sprites, palettes and sounds are called as files, without a suffix: "GROUP-NUMBER", and
 /// "GROUP-NUMBER_2" for the second of one identifier.
-QStringList exportNames(const QVector<AssetId>& ids);
+QStringList exportNames(const QVector<Family::AssetId>& ids);
 
 /// Reads such a name, with anything that is no digit in front, as in "hero-200-3.png", or one of a
 /// folder of sprites, "200_3.png". False for any other.
@@ -33,6 +33,7 @@ constexpr char PaletteText[] = "palette";
 /// which `freeId` gives from an identifier on. Empty, with `error`, if a name does not tell it, two
 /// files go to the same place, or the group is full.
 QVector<ImportTarget> importTargets(const QStringList& files, int group,
-                                    const std::function<AssetId(AssetId)>& freeId, QString* error);
+                                    const std::function<Family::AssetId(Family::AssetId)>& freeId,
+                                    QString* error);
 
-}  // namespace Family
+}  // namespace Operations

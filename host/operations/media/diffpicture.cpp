@@ -1,20 +1,23 @@
 #include "operations/media/diffpicture.h"
 
-#include "nodes/animationnode.h"
-#include "nodes/framenode.h"
-#include "stage/framecomposer.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/framenode.h"
+#include "family/stage/framecomposer.h"
 
 #include <QCoreApplication>
 #include <QPainter>
 
-namespace Family {
+namespace Operations {
+
+using Family::FrameComposer;
+using Family::FrameNode;
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::DiffPicture)
+    Q_DECLARE_TR_FUNCTIONS(Operations::DiffPicture)
 };
 
 constexpr int Gap = 8;  // pixels around each frame
@@ -99,4 +102,4 @@ QImage diffPicture(const QVector<FrameDiff>& diffs, const DiffSide& before, cons
     return picture;
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -6,15 +6,17 @@
 #include <QStringList>
 
 namespace Family {
-
 class AnimationNode;
 class FrameComposer;
+}  // namespace Family
+
+namespace Operations {
 
 /// One of two animations, and what draws it.
 struct DiffSide
 {
-    const AnimationNode* animation;
-    FrameComposer* composer;
+    const Family::AnimationNode* animation;
+    Family::FrameComposer* composer;
 };
 
 /// The frames that differ on one picture, a row each: the old one at the left, the new one at the
@@ -24,4 +26,4 @@ struct DiffSide
 QImage diffPicture(const QVector<FrameDiff>& diffs, const DiffSide& before, const DiffSide& after,
                    QStringList* notes, QString* error);
 
-}  // namespace Family
+}  // namespace Operations

@@ -10,14 +10,14 @@
 
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::FilePatterns)
+    Q_DECLARE_TR_FUNCTIONS(Operations::FilePatterns)
 };
 
 bool isPattern(const QString& name)
@@ -80,7 +80,7 @@ QString obstacle(const QString& name)
         return Text::tr("'%1' is not a plain file. Name a file on a disk.").arg(name);
     }
     return isPattern(name) ? Text::tr("No file matches '%1'.").arg(name)
-                           : orUnreachable(Text::tr("There is no file '%1'."), name);
+                           : Family::orUnreachable(Text::tr("There is no file '%1'."), name);
 }
 
 }  // namespace
@@ -110,4 +110,4 @@ QStringList expandPatterns(const QStringList& names, QString* error)
     return files;
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-namespace Family {
+namespace Operations {
 
 /// The files that names and patterns mean, each once, in the order of the names; those of one
 /// pattern are sorted, numbers by value. A link is a file beside the one that it leads to.
@@ -12,4 +12,4 @@ namespace Family {
 /// quotes. Empty, with `error`, if one of them means no plain file.
 QStringList expandPatterns(const QStringList& names, QString* error);
 
-}  // namespace Family
+}  // namespace Operations

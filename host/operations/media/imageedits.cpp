@@ -1,16 +1,17 @@
 #include "operations/media/imageedits.h"
 
-#include "media/colorconversion.h"
-#include "media/tools/colorquantizer.h"
-#include "media/tools/cropimage.h"
-#include "media/tools/resizeimage.h"
-#include "media/tools/rotateimage.h"
 #include "operations/media/imagefiles.h"
 #include "operations/media/jobs.h"
 
+#include <zorv/media/colorconversion.h>
+#include <zorv/media/tools/colorquantizer.h>
+#include <zorv/media/tools/cropimage.h>
+#include <zorv/media/tools/resizeimage.h>
+#include <zorv/media/tools/rotateimage.h>
+
 #include <QCoreApplication>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
@@ -22,7 +23,7 @@ const double MaxPixels = 1 << 27;
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::ImageEdits)
+    Q_DECLARE_TR_FUNCTIONS(Operations::ImageEdits)
 };
 
 Outcome editFile(const QString& fileName, const ImageEdit& edit, const OutputFiles& outputs,
@@ -165,4 +166,4 @@ QVector<Zorv::RGBA> commonPalette(const QStringList& files, int colors, MediaRes
     return isDone ? quantizer.palette(colors) : QVector<Zorv::RGBA>();
 }
 
-}  // namespace Family
+}  // namespace Operations

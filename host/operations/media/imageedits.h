@@ -1,17 +1,17 @@
 #pragma once
 
-#include "media/colortypes.h"
-#include "media/tools/imageresizefilter.h"
 #include "operations/media/mediaresult.h"
 #include "operations/media/outputfiles.h"
+
+#include <zorv/media/colortypes.h>
+#include <zorv/media/tools/imageresizefilter.h>
 
 #include <QImage>
 #include <QSize>
 #include <QVector>
-
 #include <functional>
 
-namespace Family {
+namespace Operations {
 
 /// What is done with each image of a piece of work, in other threads: gives the result, or null
 /// with a reason for the person.
@@ -48,4 +48,4 @@ ImageEdit recoloringImage(const QVector<Zorv::RGBA>& colors);
 /// if one of them cannot be read, or the person has given up.
 QVector<Zorv::RGBA> commonPalette(const QStringList& files, int colors, MediaResult* result);
 
-}  // namespace Family
+}  // namespace Operations

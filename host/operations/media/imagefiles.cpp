@@ -1,19 +1,19 @@
 #include "operations/media/imagefiles.h"
 
-#include "assets/familypalette.h"
-#include "core/files.h"
-#include "media/imagefile.h"
-#include "media/tools/colorquantizer.h"
+#include "family/assets/familypalette.h"
 #include "operations/media/outputfiles.h"
+
+#include <zorv/core/files.h>
+#include <zorv/media/imagefile.h>
+#include <zorv/media/tools/colorquantizer.h>
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
@@ -22,7 +22,7 @@ const int GifColors = 256;
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::ImageFiles)
+    Q_DECLARE_TR_FUNCTIONS(Operations::ImageFiles)
 };
 
 /// Which pixels a format shows otherwise than the picture has them.
@@ -109,7 +109,7 @@ QImage readImage(const QString& fileName, QString* error)
                      .arg(fileName);
     } else if (image.format() == QImage::Format_Indexed8 && image.colorCount() == 0) {
         // A PCX file may lack its palette. Without any, other formats would show nothing.
-        image.setColorTable(tableOfColors(greyColors()));
+        image.setColorTable(Family::tableOfColors(Family::greyColors()));
     }
     return image;
 }
@@ -176,4 +176,4 @@ bool isImageFormat(const QByteArray& format)
     return format == "PNG" || format == "PCX" || format == "BMP" || format == "GIF";
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -6,7 +6,7 @@
 #include <QImage>
 #include <QString>
 
-namespace Family {
+namespace Operations {
 
 class OutputFiles;
 
@@ -31,4 +31,4 @@ Outcome writeImage(const QImage& image, const OutputFiles& outputs, int index);
 /// True for the formats in which images are written.
 bool isImageFormat(const QByteArray& format);
 
-}  // namespace Family
+}  // namespace Operations

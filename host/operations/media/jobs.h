@@ -1,17 +1,16 @@
 #pragma once
 
-#include "core/interface.h"
-#include "core/progressreporter.h"
+#include <zorv/core/interface.h>
+#include <zorv/core/progressreporter.h>
 
 #include <QFuture>
 #include <QThread>
 #include <QtConcurrent>
-
 #include <deque>
 #include <functional>
 #include <memory>
 
-namespace Family {
+namespace Operations {
 
 /// The host's display of how far a piece of work is, for as long as it lives.
 class JobProgress
@@ -70,4 +69,4 @@ bool runJobs(const QString& title, int count,
     return goesOn;
 }
 
-}  // namespace Family
+}  // namespace Operations

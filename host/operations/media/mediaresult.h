@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-namespace Family {
+namespace Operations {
 
 /// How the work on one file ended.
 struct Outcome
@@ -43,4 +43,4 @@ struct MediaResult
     bool isTaken = false;  ///< nothing was begun: leave is needed to replace what is there already
 };
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,31 +1,37 @@
 #include "operations/media/openanimation.h"
 
-#include "assets/newsprites.h"
-#include "assets/spritecollection.h"
-#include "check/check.h"
-#include "familyanimations.h"
-#include "familydocument.h"
-#include "grammar/grammar.h"
-#include "nodes/animationnode.h"
+#include "family/assets/newsprites.h"
+#include "family/assets/spritecollection.h"
+#include "family/check/check.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/grammar/grammar.h"
+#include "family/nodes/animationnode.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "family/project/unreachable.h"
 #include "operations/animationedits.h"
 #include "operations/documentfile.h"
 #include "operations/media/animationgif.h"
-#include "project/familyparentproject.h"
-#include "project/familyproject.h"
-#include "project/unreachable.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
-namespace Family {
+namespace Operations {
+
+using Family::AnimationNode;
+using Family::FamilyAnimations;
+using Family::FamilyDocument;
+using Family::FamilyParentProject;
+using Family::FamilyProject;
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::OpenAnimation)
+    Q_DECLARE_TR_FUNCTIONS(Operations::OpenAnimation)
 };
 
 void close(FamilyProject* project)
@@ -44,8 +50,8 @@ OpenAnimation::OpenAnimation(const QString& path, const QString& name, const QSt
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        m_error = orUnreachable(Text::tr("There is no file or folder '%1'."), path);
-    } else if (!info.isDir() && !isMainFile(fileKindOf(path))) {
+        m_error = Family::orUnreachable(Text::tr("There is no file or folder '%1'."), path);
+    } else if (!info.isDir() && !Family::isMainFile(Family::fileKindOf(path))) {
         findInFile(path, name, spriteFile, need);
     } else if (!spriteFile.isNull()) {
         m_error = Text::tr("'%1' names its own sprites. '--sprites' is for a single file of "
@@ -78,7 +84,7 @@ void OpenAnimation::findInFile(const QString& fileName, const QString& name,
         return;
     }
     const QString sprites = spriteFile.isNull() ? spritesBeside(fileName, &m_error) : spriteFile;
-    m_sprites = m_error.isEmpty() ? openSprites(sprites, &m_error) : nullptr;
+    m_sprites = m_error.isEmpty() ? Family::openSprites(sprites, &m_error) : nullptr;
     if (!m_sprites && need == OptionalSprites && spriteFile.isNull()) {
         m_notes.append(m_error);
         m_error.clear();
@@ -125,7 +131,7 @@ bool OpenAnimation::findInProject(const FamilyProject& project, const QString& n
 
 void OpenAnimation::findInProjects(const QStringList& mainFiles, const QString& name)
 {
-    m_game = std::make_unique<FamilyParentProject>(checkedFolder(m_path));
+    m_game = std::make_unique<FamilyParentProject>(Family::checkedFolder(m_path));
     QStringList found;
     QString unreadable;
     for (const QString& mainFile : mainFiles) {
@@ -145,12 +151,13 @@ void OpenAnimation::findInProjects(const QStringList& mainFiles, const QString& 
                            "'%2': %3.")
                       .arg(name, m_path, found.join(QLatin1String(", ")));
     } else if (found.isEmpty() && mainFiles.isEmpty()) {
-        m_error = orUnreachable(Text::tr("There is no character or stage in '%1'."), m_path);
+        m_error =
+            Family::orUnreachable(Text::tr("There is no character or stage in '%1'."), m_path);
     } else if (found.isEmpty()) {
         m_error = m_identifiers.isEmpty() && !unreadable.isEmpty()
                       ? unreadable
                       : Text::tr("There is no animation '%1' in '%2'. %3")
-                            .arg(name, m_path, nameHint(name, m_identifiers));
+                            .arg(name, m_path, Family::nameHint(name, m_identifiers));
     }
     if (!m_error.isEmpty()) {
         m_animation = nullptr;
@@ -160,4 +167,4 @@ void OpenAnimation::findInProjects(const QStringList& mainFiles, const QString& 
     m_notes = m_project->loadErrors();
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -6,12 +6,14 @@
 #include <memory>
 
 namespace Family {
-
 class AnimationNode;
 class FamilyDocument;
 class FamilyParentProject;
 class FamilyProject;
 class SpriteCollection;
+}  // namespace Family
+
+namespace Operations {
 
 /// An animation on disk with the sprites that it shows, open for as long as this lives.
 class OpenAnimation
@@ -32,12 +34,12 @@ public:
 
     /// True if the animation was found.
     explicit operator bool() const { return m_animation; }
-    const AnimationNode& animation() const { return *m_animation; }
+    const Family::AnimationNode& animation() const { return *m_animation; }
     QString errorString() const { return m_error; }
 
     /// Null for a project without any, or whose sprites could not be read, and where they are
     /// optional.
-    const SpriteCollection* sprites() const { return m_sprites; }
+    const Family::SpriteCollection* sprites() const { return m_sprites; }
 
     /// What of the project could not be read, a line each for the person.
     QStringList notes() const { return m_notes; }
@@ -47,18 +49,18 @@ private:
     void findInFile(const QString& fileName, const QString& name, const QString& spriteFile,
                     SpriteNeed need);
     void findInProjects(const QStringList& mainFiles, const QString& name);
-    bool findInProject(const FamilyProject& project, const QString& name);
+    bool findInProject(const Family::FamilyProject& project, const QString& name);
     QString shownName(const QString& fileName) const;
 
-    std::unique_ptr<FamilyParentProject> m_game;
-    FamilyProject* m_project = nullptr;
-    FamilyDocument* m_document = nullptr;
-    SpriteCollection* m_sprites = nullptr;
-    const AnimationNode* m_animation = nullptr;
+    std::unique_ptr<Family::FamilyParentProject> m_game;
+    Family::FamilyProject* m_project = nullptr;
+    Family::FamilyDocument* m_document = nullptr;
+    Family::SpriteCollection* m_sprites = nullptr;
+    const Family::AnimationNode* m_animation = nullptr;
     QString m_path;
     QString m_error;
     QStringList m_notes;
     QStringList m_identifiers;  // that were seen on the way
 };
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,24 +1,24 @@
 #include "operations/media/outputfiles.h"
 
-#include "core/files.h"
 #include "operations/filechanges.h"
 #include "operations/media/mediaresult.h"
+
+#include <zorv/core/files.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QVector>
-
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::OutputFiles)
+    Q_DECLARE_TR_FUNCTIONS(Operations::OutputFiles)
 };
 
 QString suffixOf(const QString& name)
@@ -161,4 +161,4 @@ bool OutputFiles::checkExisting(MediaResult* refusal) const
     return false;
 }
 
-}  // namespace Family
+}  // namespace Operations

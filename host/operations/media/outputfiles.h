@@ -5,7 +5,7 @@
 
 #include <functional>
 
-namespace Family {
+namespace Operations {
 
 struct MediaResult;
 
@@ -56,4 +56,4 @@ private:
     bool m_force = false;
 };
 
-}  // namespace Family
+}  // namespace Operations

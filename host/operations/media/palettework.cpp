@@ -1,21 +1,22 @@
 #include "operations/media/palettework.h"
 
-#include "core/files.h"
-#include "core/filesystemarchive.h"
-#include "media/paletteobject.h"
 #include "operations/media/jobs.h"
+
+#include <zorv/core/files.h>
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/paletteobject.h>
 
 #include <QBuffer>
 #include <QCoreApplication>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::PaletteWork)
+    Q_DECLARE_TR_FUNCTIONS(Operations::PaletteWork)
 };
 
 }  // namespace
@@ -75,4 +76,4 @@ QByteArray paletteFile(const Zorv::RGBA (&colors)[256], const QByteArray& format
     return bytes;
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "media/colortypes.h"
 #include "operations/media/imageedits.h"
 
-namespace Family {
+#include <zorv/media/colortypes.h>
+
+namespace Operations {
 
 /// Reads a palette file, of the format of its suffix and content, or the palette of an indexed
 /// image. Colour 0 is transparent. False, with `error` for the person, if it cannot be read. Main
@@ -18,4 +19,4 @@ MediaResult convertPalettes(const QStringList& files, const OutputRequest& reque
 QByteArray paletteFile(const Zorv::RGBA (&colors)[256], const QByteArray& format,
                        const QString& name, QString* error);
 
-}  // namespace Family
+}  // namespace Operations

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
@@ -66,4 +66,4 @@ bool parseIdentifier(const QString& text, int* group, int* number)
     return match.hasMatch() && qMax(*group, *number) <= MaxPart;
 }
 
-}  // namespace Family
+}  // namespace Operations

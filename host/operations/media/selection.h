@@ -4,7 +4,7 @@
 #include <QString>
 #include <QVector>
 
-namespace Family {
+namespace Operations {
 
 /// Which sprites, palettes or sounds are meant, by group and number.
 class Selection
@@ -36,4 +36,4 @@ private:
 /// Reads "GROUP,NUMBER", each 0 to 65535. False for any other text.
 bool parseIdentifier(const QString& text, int* group, int* number);
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,19 +1,24 @@
 #include "operations/media/soundwork.h"
 
-#include "assets/soundfile.h"
-#include "core/files.h"
-#include "media/soundfile.h"
-#include "media/wavecontents.h"
+#include "family/assets/soundfile.h"
 #include "operations/media/assetnames.h"
 #include "operations/media/jobs.h"
+
+#include <zorv/core/files.h>
+#include <zorv/media/soundfile.h>
+#include <zorv/media/wavecontents.h>
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
-
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
+
+using Family::AssetHistory;
+using Family::AssetId;
+using Family::FamilySound;
+using Family::SoundFile;
 
 namespace {
 
@@ -22,7 +27,7 @@ const int PlainTag = 1;
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::SoundWork)
+    Q_DECLARE_TR_FUNCTIONS(Operations::SoundWork)
 };
 
 QString writeSound(const FamilySound& sound, const OutputFiles& outputs, int index)
@@ -82,13 +87,13 @@ QString formOfTag(int tag)
         int tag;
         const char* form;
     } forms[] = {
-        {2, QT_TRANSLATE_NOOP("Family::SoundWork", "ADPCM")},
-        {3, QT_TRANSLATE_NOOP("Family::SoundWork", "floating point")},
-        {6, QT_TRANSLATE_NOOP("Family::SoundWork", "A-law")},
-        {7, QT_TRANSLATE_NOOP("Family::SoundWork", "mu-law")},
-        {17, QT_TRANSLATE_NOOP("Family::SoundWork", "ADPCM")},
-        {85, QT_TRANSLATE_NOOP("Family::SoundWork", "MP3")},
-        {65534, QT_TRANSLATE_NOOP("Family::SoundWork", "the extensible form")},
+        {2, QT_TRANSLATE_NOOP("Operations::SoundWork", "ADPCM")},
+        {3, QT_TRANSLATE_NOOP("Operations::SoundWork", "floating point")},
+        {6, QT_TRANSLATE_NOOP("Operations::SoundWork", "A-law")},
+        {7, QT_TRANSLATE_NOOP("Operations::SoundWork", "mu-law")},
+        {17, QT_TRANSLATE_NOOP("Operations::SoundWork", "ADPCM")},
+        {85, QT_TRANSLATE_NOOP("Operations::SoundWork", "MP3")},
+        {65534, QT_TRANSLATE_NOOP("Operations::SoundWork", "the extensible form")},
     };
     const auto found = std::find_if(std::begin(forms), std::end(forms),
                                     [tag](const auto& row) { return row.tag == tag; });
@@ -237,4 +242,4 @@ MediaResult importSounds(SoundFile* sounds, const QStringList& files, const Soun
     return result;
 }
 
-}  // namespace Family
+}  // namespace Operations

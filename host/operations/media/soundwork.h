@@ -1,13 +1,16 @@
 #pragma once
 
-#include "media/soundsample.h"
 #include "operations/media/mediaresult.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/selection.h"
 
-namespace Family {
+#include <zorv/media/soundsample.h>
 
+namespace Family {
 class SoundFile;
+}  // namespace Family
+
+namespace Operations {
 
 /// Which samples are read of a file whose sizes are wrong, as programs leave them that record
 /// without an end.
@@ -29,7 +32,7 @@ double duration(const Zorv::SampleInfo& info);
 
 /// Writes a WAV file for each sound. One that is broken does not keep the others from it. Main
 /// thread only.
-MediaResult exportSounds(const SoundFile& sounds, const Selection& selection,
+MediaResult exportSounds(const Family::SoundFile& sounds, const Selection& selection,
                          const OutputRequest& request);
 
 /// How files become sounds.
@@ -42,6 +45,7 @@ struct SoundImport
 
 /// Adds sounds to a collection, or replaces those that are there if that is allowed, as one step of
 /// undo. If one of them cannot be read, or may not be replaced, nothing is changed.
-MediaResult importSounds(SoundFile* sounds, const QStringList& files, const SoundImport& request);
+MediaResult importSounds(Family::SoundFile* sounds, const QStringList& files,
+                         const SoundImport& request);
 
-}  // namespace Family
+}  // namespace Operations

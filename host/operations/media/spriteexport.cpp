@@ -1,7 +1,7 @@
 #include "operations/media/spriteexport.h"
 
-#include "assets/spritecollection.h"
-#include "assets/spritejobs.h"
+#include "family/assets/spritecollection.h"
+#include "family/assets/spritejobs.h"
 #include "operations/media/assetnames.h"
 #include "operations/media/imagefiles.h"
 #include "operations/media/jobs.h"
@@ -11,14 +11,21 @@
 
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
+
+using Family::AssetId;
+using Family::FamilyPalette;
+using Family::FamilySprite;
+using Family::ImageJob;
+using Family::PaletteColors;
+using Family::SpriteCollection;
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::SpriteExport)
+    Q_DECLARE_TR_FUNCTIONS(Operations::SpriteExport)
 };
 
 /// What is told of a sprite besides its pixels. Small, for there may be many.
@@ -110,7 +117,7 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
     if (!outputs.plan(namesOf(labels), request, QByteArrayLiteral("PNG"), &refusal)) {
         return refusal;
     }
-    const QVector<QRgb> table = colors ? tableOfColors(*colors) : QVector<QRgb>();
+    const QVector<QRgb> table = colors ? Family::tableOfColors(*colors) : QVector<QRgb>();
     QVector<int> placeOf(int(sprites.count()));
     for (int i = 0; i < rows.size(); ++i) {
         placeOf[rows[i]] = i;
@@ -135,7 +142,7 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
     JobProgress progress(Text::tr("Sprites"), rows.size());
     job.progress = [&](int done) { return progress.update(done); };
     MediaResult result;
-    result.isCanceled = !forEachImage(sprites, job);
+    result.isCanceled = !Family::forEachImage(sprites, job);
     for (const Outcome& one : qAsConst(outcomes)) {
         result.note(one);
     }
@@ -173,4 +180,4 @@ MediaResult exportPalettes(const SpriteCollection& sprites, const Selection& sel
     return result;
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,22 +1,32 @@
 #include "operations/media/spriteimport.h"
 
-#include "assets/spritecollection.h"
-#include "media/tools/cropimage.h"
+#include "family/assets/spritecollection.h"
 #include "operations/media/assetnames.h"
 #include "operations/media/imagefiles.h"
 #include "operations/media/jobs.h"
 #include "operations/media/spriteexport.h"
 
+#include <zorv/media/tools/cropimage.h>
+
 #include <QCoreApplication>
 
-namespace Family {
+namespace Operations {
+
+using Family::AssetHistory;
+using Family::AssetId;
+using Family::FamilyPalette;
+using Family::FamilySprite;
+using Family::PaletteColors;
+using Family::PaletteList;
+using Family::PixelCodec;
+using Family::SpriteCollection;
 
 namespace {
 
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::SpriteImport)
+    Q_DECLARE_TR_FUNCTIONS(Operations::SpriteImport)
 };
 
 /// An image on its way into a collection.
@@ -61,9 +71,9 @@ ImportImage readCropped(const QString& file, bool crops)
     if (crops && !read.image.isNull()) {
         Zorv::cropImage(read.image, &read.corner);
     }
-    if (qMax(read.image.width(), read.image.height()) > LargestSprite) {
+    if (qMax(read.image.width(), read.image.height()) > Family::LargestSprite) {
         read.error = Text::tr("'%1' is larger than a sprite can be, %2 by %2.")
-                         .arg(file, QString::number(LargestSprite));
+                         .arg(file, QString::number(Family::LargestSprite));
     }
     return read;
 }
@@ -152,7 +162,7 @@ bool Import::findPalette(QString* error)
         m_palette = m_sprites->palettes()->byId(id);
     }
     PaletteColors colors;
-    if (!m_palette && Family::findPalette(*m_sprites, m_request.palette, &colors, error)) {
+    if (!m_palette && Operations::findPalette(*m_sprites, m_request.palette, &colors, error)) {
         m_palette = m_sprites->palettes()->ensure(colors);
         m_isTouched = true;
     }
@@ -188,10 +198,10 @@ QString Import::put(int index, const ImportImage& read)
     sprite->setAxis(axis - read.corner);
     const PixelCodec codec = m_request.codec;
     if (codec != PixelCodec::None && sprite->codec() != codec) {
-        sprite->setProperty(QStringLiteral("Codec"), codecName(codec));
+        sprite->setProperty(QStringLiteral("Codec"), Family::codecName(codec));
         if (sprite->codec() != codec) {
             return Text::tr("'%1' would lose something as %2. Choose another codec.")
-                .arg(m_files[index], codecName(codec));
+                .arg(m_files[index], Family::codecName(codec));
         }
     }
     return {};
@@ -206,4 +216,4 @@ MediaResult importSprites(SpriteCollection* sprites, const QStringList& files,
     return Import(sprites, files, request).run();
 }
 
-}  // namespace Family
+}  // namespace Operations

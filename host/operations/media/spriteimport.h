@@ -1,15 +1,18 @@
 #pragma once
 
-#include "assets/pixelcodec.h"
-#include "cache/sprite.h"
+#include "family/assets/pixelcodec.h"
 #include "operations/media/mediaresult.h"
+
+#include <zorv/cache/sprite.h>
 
 #include <QPoint>
 #include <QStringList>
 
 namespace Family {
-
 class SpriteCollection;
+}  // namespace Family
+
+namespace Operations {
 
 /// How images become sprites.
 struct ImportRequest
@@ -19,14 +22,14 @@ struct ImportRequest
     bool hasAxis = false;  ///< without it that of a PNG file counts, else sprites keep theirs
     bool crops = false;    ///< what does not show is cut off, and the axis moves with it
     QString palette;  ///< identifier of a palette, or a palette file; empty for each image's own
-    bool recolors = false;                ///< that palette takes the colours of the images
-    PixelCodec codec = PixelCodec::None;  ///< `None` for the smallest one
-    bool force = false;                   ///< sprites that are there already may be replaced
+    bool recolors = false;  ///< that palette takes the colours of the images
+    Family::PixelCodec codec = Family::PixelCodec::None;  ///< `None` for the smallest one
+    bool force = false;  ///< sprites that are there already may be replaced
 };
 
 /// Reads images and adds them to a collection, or replaces its sprites, as one step of undo. If one
 /// of them cannot be read, or is there already and may not be replaced, nothing is changed.
-MediaResult importSprites(SpriteCollection* sprites, const QStringList& files,
+MediaResult importSprites(Family::SpriteCollection* sprites, const QStringList& files,
                           const ImportRequest& request);
 
-}  // namespace Family
+}  // namespace Operations

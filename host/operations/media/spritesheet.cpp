@@ -1,7 +1,7 @@
 #include "operations/media/spritesheet.h"
 
-#include "assets/spritecollection.h"
-#include "assets/spritejobs.h"
+#include "family/assets/spritecollection.h"
+#include "family/assets/spritejobs.h"
 #include "operations/media/jobs.h"
 #include "operations/media/spriteexport.h"
 
@@ -11,7 +11,11 @@
 #include <cmath>
 #include <cstring>
 
-namespace Family {
+namespace Operations {
+
+using Family::ImageJob;
+using Family::PaletteColors;
+using Family::SpriteCollection;
 
 namespace {
 
@@ -21,7 +25,7 @@ const qint64 MaxPixels = qint64(1) << 27;
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::SpriteSheet)
+    Q_DECLARE_TR_FUNCTIONS(Operations::SpriteSheet)
 };
 
 /// Puts the places of a sheet into a grid; gives the size of the whole.
@@ -112,7 +116,7 @@ public:
         job.rows = rows;
         job.work = [=](int row, const QImage& image) { isDrawn[row] = draw(row, image); };
         job.progress = [&](int done) { return progress.update(done); };
-        m_sheet->isCanceled = !forEachImage(m_sprites, job);
+        m_sheet->isCanceled = !Family::forEachImage(m_sprites, job);
         for (int row : rows) {
             if (!isDrawn[row] && !m_sheet->isCanceled) {
                 m_sheet->broken.append(Text::tr("Sprite %1 has no pixels, or they are broken.")
@@ -171,7 +175,7 @@ SpriteSheet makeSpriteSheet(const SpriteCollection& sprites, const Selection& se
                qint64(size.width()) * size.height() > MaxPixels) {
         sheet.error = Text::tr("The sheet would be too large. Select fewer sprites.");
     } else {
-        const QVector<QRgb> given = colors ? tableOfColors(*colors) : QVector<QRgb>();
+        const QVector<QRgb> given = colors ? Family::tableOfColors(*colors) : QVector<QRgb>();
         const bool isIndexed = areAllIndexed(sprites, sheet.places);
         sheet.image =
             emptySheet(size.expandedTo({1, 1}), !isIndexed ? QVector<QRgb>()
@@ -182,4 +186,4 @@ SpriteSheet makeSpriteSheet(const SpriteCollection& sprites, const Selection& se
     return sheet;
 }
 
-}  // namespace Family
+}  // namespace Operations

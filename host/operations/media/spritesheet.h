@@ -1,14 +1,16 @@
 #pragma once
 
-#include "assets/palettelist.h"
+#include "family/assets/palettelist.h"
 #include "operations/media/selection.h"
 
 #include <QImage>
 #include <QRect>
 
 namespace Family {
-
 class SpriteCollection;
+}  // namespace Family
+
+namespace Operations {
 
 /// Sprites side by side on one picture.
 struct SpriteSheet
@@ -30,7 +32,7 @@ struct SpriteSheet
 /// Draws the selected sprites in rows of so many; 0 makes the sheet about square. Each column is as
 /// wide as its widest sprite and each row as high as its highest. With `colors` sprites that are
 /// indexed are shown in them.
-SpriteSheet makeSpriteSheet(const SpriteCollection& sprites, const Selection& selection,
-                            int columns, const PaletteColors* colors = nullptr);
+SpriteSheet makeSpriteSheet(const Family::SpriteCollection& sprites, const Selection& selection,
+                            int columns, const Family::PaletteColors* colors = nullptr);
 
-}  // namespace Family
+}  // namespace Operations

@@ -1,19 +1,19 @@
 #include "operations/recovery/abandonedtexts.h"
 
-#include "code/codecs/textcodecs.h"
-#include "code/codedoc/codedocument.h"
-#include "core/filesystemarchive.h"
 #include "operations/recovery/sessionfolder.h"
+
+#include <zorv/code/codecs/textcodecs.h>
+#include <zorv/code/codedoc/codedocument.h>
+#include <zorv/core/filesystemarchive.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTextBlock>
-
 #include <algorithm>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
@@ -89,7 +89,7 @@ void AbandonedTexts::read(const QString& path, const QString& gameFolder)
         text.state = stateOf(text.copy);
     } else if (!isRead) {
         text.fault =
-            QCoreApplication::translate("Family::AbandonedTexts", "The copy cannot be read.");
+            QCoreApplication::translate("Operations::AbandonedTexts", "The copy cannot be read.");
     }
     if (!gameFolder.isEmpty() && text.copy.gameFolder != gameFolder) {
         return;
@@ -156,4 +156,4 @@ void applyText(Zorv::CodeDocument* document, const QString& text, const QString&
     document->setModified(true);
 }
 
-}  // namespace Family
+}  // namespace Operations

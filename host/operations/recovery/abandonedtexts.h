@@ -12,7 +12,7 @@ namespace Zorv {
 class CodeDocument;
 }
 
-namespace Family {
+namespace Operations {
 
 class SessionFolder;
 
@@ -69,4 +69,4 @@ private:
 /// that name is set if there is one.
 void applyText(Zorv::CodeDocument* document, const QString& text, const QString& codec);
 
-}  // namespace Family
+}  // namespace Operations

@@ -6,7 +6,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace Family {
+namespace Operations {
+
+using Family::FileKind;
 
 namespace {
 
@@ -18,7 +20,7 @@ constexpr int HeadSize = 8 + 4 + 8 + HashSize;
 /// Makes the texts of this file known to translators.
 class Text
 {
-    Q_DECLARE_TR_FUNCTIONS(Family::RecoveryCopy)
+    Q_DECLARE_TR_FUNCTIONS(Operations::RecoveryCopy)
 };
 
 QByteArray hashOf(const QByteArray& bytes)
@@ -122,4 +124,4 @@ bool RecoveryCopy::fromBytes(const QByteArray& bytes, QString* error)
     return true;
 }
 
-}  // namespace Family
+}  // namespace Operations

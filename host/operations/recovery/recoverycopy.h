@@ -6,7 +6,7 @@
 #include <QDateTime>
 #include <QString>
 
-namespace Family {
+namespace Operations {
 
 /// A file as it was at some moment.
 struct FileStamp
@@ -37,7 +37,7 @@ struct RecoveryCopy
     QString fileName;    ///< empty for a file that was never saved
     QString mainFile;    ///< of the project; empty likewise
     QString gameFolder;  ///< with "/" at its end; empty if there was none
-    FileKind kind = FileKind::Code;
+    Family::FileKind kind = Family::FileKind::Code;
     QString codec;
     QDateTime time;   ///< when the copy was made
     FileStamp stamp;  ///< the file that the text was read from
@@ -50,4 +50,4 @@ struct RecoveryCopy
     bool fromBytes(const QByteArray& bytes, QString* error);
 };
 
-}  // namespace Family
+}  // namespace Operations

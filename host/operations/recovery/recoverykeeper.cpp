@@ -1,11 +1,12 @@
 #include "operations/recovery/recoverykeeper.h"
 
-#include "core/interface.h"
-#include "core/parentproject.h"
-#include "core/project.h"
 #include "family/familydocument.h"
 #include "operations/recovery/recoverycopy.h"
 #include "operations/recovery/sessionfolder.h"
+
+#include <zorv/core/interface.h>
+#include <zorv/core/parentproject.h>
+#include <zorv/core/project.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,7 +15,9 @@
 #include <QThreadPool>
 #include <QTimer>
 
-namespace Family {
+namespace Operations {
+
+using Family::FamilyDocument;
 
 namespace {
 
@@ -294,4 +297,4 @@ void RecoveryKeeper::Private::fail(const QString& reason)
     }
 }
 
-}  // namespace Family
+}  // namespace Operations

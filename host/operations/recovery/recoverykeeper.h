@@ -6,8 +6,10 @@
 #include <memory>
 
 namespace Family {
-
 class FamilyDocument;
+}  // namespace Family
+
+namespace Operations {
 
 /// Puts unsaved texts aside, outside of the files of any game, so that they
 /// outlive a crash.
@@ -35,7 +37,7 @@ public:
     /// Follows a document until it dies; nothing for one that is known. Call it
     /// before the document changes: what its file is then tells later whether
     /// the copy is older than the file.
-    void watch(FamilyDocument* document);
+    void watch(Family::FamilyDocument* document);
 
     /// Copies now what has changed, and waits until it is written. True if every
     /// unsaved text has a copy then.
@@ -56,4 +58,4 @@ private:
     std::unique_ptr<Private> d;
 };
 
-}  // namespace Family
+}  // namespace Operations

@@ -8,7 +8,7 @@
 #include <QRandomGenerator>
 #include <QStandardPaths>
 
-namespace Family {
+namespace Operations {
 
 namespace {
 
@@ -68,7 +68,7 @@ std::unique_ptr<SessionFolder> SessionFolder::create(const QString& root, QStrin
         }
         QDir().rmdir(path);
     }
-    *error = QCoreApplication::translate("Family::SessionFolder",
+    *error = QCoreApplication::translate("Operations::SessionFolder",
                                          "Cannot make a folder in %1. Check its permissions, and "
                                          "that there is room on the disk.")
                  .arg(QDir::toNativeSeparators(root));
@@ -109,4 +109,4 @@ void SessionFolder::removeCopies()
     }
 }
 
-}  // namespace Family
+}  // namespace Operations

@@ -8,7 +8,7 @@
 
 class QLockFile;
 
-namespace Family {
+namespace Operations {
 
 /// The folder in which one process keeps its recovery copies, locked as long as
 /// the object lives. A process that dies leaves it, and another one takes it
@@ -49,4 +49,4 @@ private:
     std::unique_ptr<QLockFile> m_lock;
 };
 
-}  // namespace Family
+}  // namespace Operations
