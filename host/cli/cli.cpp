@@ -65,18 +65,34 @@ int refuseUnknown(const QStringList& arguments)
         {});
 }
 
-// The options that stand in the place of a command.
-QStringList withoutLeadingOption(QStringList arguments)
+/// True if the argument at a place is what an option of the command takes.
+bool isValue(const Command& command, const QStringList& arguments, int place)
 {
+    const OptionInfo* option = findOption(command.options, arguments.value(place - 1));
+    return option && option->value;
+}
+
+/// Help is asked for in the place of a command, or anywhere behind one.
+QStringList withHelpInFront(const QStringList& arguments)
+{
+    const QString help = QStringLiteral("help");
     const QString first = arguments.value(0);
     if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
-        arguments[0] = QStringLiteral("help");
+        return QStringList(help) + arguments.mid(1);
     }
-    const int dashes = arguments.indexOf(QStringLiteral("--"));
-    const int help = arguments.indexOf(QStringLiteral("--help"));
     int words = 0;
-    if (help > 0 && (dashes < 0 || help < dashes) && findCommand(arguments, &words)) {
-        arguments = QStringList(QStringLiteral("help")) + arguments.mid(0, words);
+    const Command* command = findCommand(arguments, &words);
+    const int end = arguments.indexOf(QStringLiteral("--"));
+    for (int i = 1; i < (end < 0 ? arguments.size() : end); ++i) {
+        if (arguments.at(i) != QLatin1String("--help")) {
+            continue;
+        }
+        if (command && !isValue(*command, arguments, i)) {
+            return QStringList(help) + arguments.mid(0, words);
+        }
+        if (!command && isGroupOfCommands(first)) {
+            return {help, first};
+        }
     }
     return arguments;
 }
@@ -119,7 +135,7 @@ int runCommand(const QStringList& arguments)
     Output output;
     int status = Fine;
     int words = 0;
-    const QStringList given = withoutLeadingOption(arguments);
+    const QStringList given = withHelpInFront(arguments);
     if (given.value(0) == QLatin1String("--version")) {
         output.write(QStringLiteral("zorv " ZORV_VERSION "\n"));
     } else if (const Command* command = findCommand(given, &words)) {
