@@ -5,8 +5,7 @@
 namespace Operations {
 
 /// As `checkGame()`, with file names that can be opened from the current
-/// folder: they begin as `path` does. Folders below it that cannot be read are
-/// problems too.
+/// folder: they begin as `path` does.
 Family::Problems checkPath(const QString& path, QString* error);
 
 }  // namespace Operations

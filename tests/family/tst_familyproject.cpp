@@ -5,6 +5,7 @@
 #include "family/assets/soundfile.h"
 #include "family/assets/spritecollection.h"
 #include "family/check/check.h"
+#include "family/check/filefacts.h"
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
@@ -158,7 +159,7 @@ private slots:
     void assetsMoveWithTheProject();
     void assetsThatOthersChange();
     void runBesideTheGame();
-    void checkOfOpenProject();
+    void checkOfProject();
     void checkOfWhatIsNotThere_data();
     void checkOfWhatIsNotThere();
     void engines();
@@ -255,7 +256,7 @@ void TestFamilyProject::newProjectIsFine()
     FamilyProject* project = FamilyProject::create(&parent, FileKind(kind));
     QVERIFY(project->mainDocument()->isModified());
     QCOMPARE(project->kind(), kind);
-    const Problems problems = checkProject(project);
+    const Problems problems = checkText(SourceText(project->mainDocument()), QString());
     QVERIFY2(problems.isEmpty(), qPrintable(problems.value(0).text));
     project->release();
     delete project;
@@ -556,13 +557,14 @@ void TestFamilyProject::runBesideTheGame()
     delete project;
 }
 
-void TestFamilyProject::checkOfOpenProject()
+void TestFamilyProject::checkOfProject()
 {
     const Game game;
     FamilyParentProject parent(game.path(""));
     FamilyProject* project = FamilyProject::open(&parent, game.hero("hero.character"), nullptr);
     QStringList names;
-    for (const Problem& problem : checkProject(project)) {
+    QString error;
+    for (const Problem& problem : checkGame(game.hero("hero.character"), &error)) {
         names.append(QStringLiteral("%1:%2 %3")
                          .arg(QFileInfo(problem.file).fileName())
                          .arg(problem.line)

@@ -3,6 +3,7 @@
 #include "family/assets/soundfile.h"
 #include "family/assets/spritefile.h"
 #include "family/check/check.h"
+#include "family/check/filefacts.h"
 #include "family/familydocument.h"
 #include "family/grammar/grammar.h"
 #include "family/grammar/linereader.h"
@@ -361,7 +362,7 @@ void TestGrammar::messagesAreThoseOfTheCheck()
             }
         }
         QStringList found;
-        for (const Problem& problem : checkDocument(&document, QStringLiteral("f"))) {
+        for (const Problem& problem : checkText(SourceText(&document), QStringLiteral("f"))) {
             if (problem.id < FirstFileProblem) {
                 found.append(QStringLiteral("%1:%2+%3 %4 %5")
                                  .arg(problem.line)

@@ -30,9 +30,7 @@ QStringList SoundFile::loadErrors() const
     QStringList lines;
     for (const ItemPtr& sound : items()) {
         if (!sound->state.record.isEmpty()) {
-            lines.append(
-                tr("Sound %1 (%2): %3.")
-                    .arg(QString::number(sound->row + 1), sound->id().text(), sound->fault()));
+            lines.append(SoundFileData::faultLine(sound->row + 1, sound->id(), sound->fault()));
         }
     }
     return lines;

@@ -346,6 +346,11 @@ bool SoundFileData::write(QIODevice* device, const std::function<QByteArray(int)
     return done;
 }
 
+QString SoundFileData::faultLine(int place, AssetId id, const QString& fault)
+{
+    return Text::tr("Sound %1 (%2): %3.").arg(QString::number(place), id.text(), fault);
+}
+
 bool SoundFileData::isFine(const SampleInfo& info)
 {
     return info.channels >= 1 && info.channels <= MaxChannels && info.bits >= 8 &&

@@ -50,6 +50,9 @@ struct SoundFileData
     /// of all streams. False, with `error`, if it is no such file, or cut off in its table.
     bool read(QIODevice* device, QString* error);
 
+    /// What the person is told of a broken record; places count from 1.
+    static QString faultLine(int place, AssetId id, const QString& fault);
+
     /// The bytes of a stream; empty if they are not to be had.
     static QByteArray readStream(QIODevice* device, const Stream& stream);
 

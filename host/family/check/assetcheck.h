@@ -1,43 +1,39 @@
 #pragma once
 
-#include "family/check/documentcheck.h"
-
-#include <zorv/core/fileid.h>
+#include "family/check/assetfacts.h"
+#include "family/check/factstore.h"
 
 #include <QSet>
 
-namespace Zorv {
-class ProjectFile;
-}
-
 namespace Family {
 
-class FamilyProject;
-class SoundFile;
-class SpriteCollection;
-
-/// The problems of the sprites and sounds of a project, and of what names them.
+/// The problems of the sprites or sounds of a project, and of what names them.
 class AssetCheck
 {
 public:
-    explicit AssetCheck(const FamilyProject* project) : m_project(project) {}
-
     /// `place` is the path of a file that is there, in the main file. Only with `isComplete` all
-    /// that could name sprites and sounds is known.
-    void checkSprites(const NamedPlace& place, const QVector<NamedPlace>& named, bool isComplete);
-    void checkSounds(const NamedPlace& place, const QVector<NamedPlace>& named, bool isComplete);
+    /// that could name its sprites and sounds is known.
+    AssetCheck(const NamedPlace& place, const QVector<FactStore::Code>& code, bool isComplete)
+        : m_place(place), m_code(code), m_isComplete(isComplete)
+    {
+    }
+
+    void checkSprites(const AssetFacts& facts);
+    void checkSounds(const AssetFacts& facts);
 
     const Problems& problems() const { return m_problems; }
 
 private:
-    Zorv::ProjectFile* loaded(Zorv::FileID::Type type, const NamedPlace& place) const;
-    bool checkRecords(const NamedPlace& place, const QStringList& lines);
-    void checkMissing(ProblemId id, const NamedPlace& place, const QVector<NamedPlace>& named,
-                      const QSet<quint32>& known);
-    void checkPalettes(const NamedPlace& place, const SpriteCollection* sprites);
-    void tellList(ProblemId id, const NamedPlace& place, const QStringList& names);
+    using Uses = QVector<AssetUse> FileFacts::*;
 
-    const FamilyProject* m_project;
+    void check(const AssetFacts& facts, Uses uses, ProblemId missing, ProblemId unused);
+    void tellFaults(const QStringList& lines);
+    void tellList(ProblemId id, const QStringList& names);
+    void tell(ProblemId id, const QString& text);
+
+    NamedPlace m_place;
+    const QVector<FactStore::Code>& m_code;
+    bool m_isComplete;
     Problems m_problems;
 };
 

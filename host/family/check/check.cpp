@@ -3,19 +3,15 @@
 #include "family/assets/newsprites.h"
 #include "family/assets/soundfile.h"
 #include "family/assets/spritecollection.h"
-#include "family/check/projectcheck.h"
-#include "family/familydocument.h"
+#include "family/check/gamecheck.h"
 #include "family/project/familyparentproject.h"
-#include "family/project/familyproject.h"
-#include "family/project/unnamedprojects.h"
 #include "family/project/unreachable.h"
 
+#include <zorv/code/codecs/filetext.h>
 #include <zorv/core/filesystemarchive.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
-#include <memory>
 
 namespace Family {
 
@@ -27,51 +23,12 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Family)
 };
 
-Problems checkMainFile(FamilyParentProject* game, const QString& mainFile)
-{
-    QString error;
-    FamilyProject* project = FamilyProject::open(game, mainFile, &error);
-    if (!project) {
-        const QString name = QDir(game->absolutePath()).relativeFilePath(mainFile);
-        const QString reason = unreadableReason(mainFile);
-        Problem problem = problemAt(ProblemId::FileUnreadable, {name, reason}, {{}, name, 1, 1, 0});
-        // Each text has advice of its own.
-        problem.text = reason.isEmpty() ? error : problem.text;
-        return {problem};
-    }
-    const Problems problems = ProjectCheck(project).run();
-    project->release();
-    delete project;
-    return problems;
-}
-
-Problems checkNames(const QStringList& unnamed)
-{
-    Problems problems;
-    for (const QString& name : unnamed) {
-        Problem problem = problemAt(ProblemId::FileUnreadable, {name, {}}, {{}, name, 1, 1, 0});
-        problem.text = unnamedProjectText(name);
-        problems.append(problem);
-    }
-    return problems;
-}
-
-Problems checkMainFiles(const QString& gameFolder, const QStringList& mainFiles,
-                        const QStringList& unnamed = {})
-{
-    FamilyParentProject game(gameFolder);
-    Problems problems = checkNames(unnamed);
-    for (const QString& mainFile : mainFiles) {
-        problems += checkMainFile(&game, mainFile);
-    }
-    sortProblems(&problems);
-    return problems;
-}
-
 Problems checkCodeFile(const QString& fileName, QString* error)
 {
-    const std::unique_ptr<FamilyDocument> document(FamilyDocument::open(fileName, error));
-    return document ? checkDocument(document.get(), fileName) : Problems();
+    Zorv::FileText text;
+    return text.read(*Zorv::FileSystemArchive::instance(), fileName, -1, error)
+               ? checkText({text, fileKindOf(fileName)}, fileName)
+               : Problems();
 }
 
 /// The broken records of a sprite or sound file.
@@ -116,48 +73,36 @@ Problems checkSingleFile(const QString& fileName, QString* error)
 
 }  // namespace
 
-Problems checkDocument(const FamilyDocument* document, const QString& file)
+Problems checkText(const SourceText& source, const QString& file)
 {
-    DocumentCheck check(document, file);
-    Problems problems = check.run();
-    checkAnimationNames(check.animations(), &problems);
+    const FileFacts facts = factsOf(source, file);
+    Problems problems = facts.problems;
+    checkAnimationNames(facts.animations, &problems);
     sortProblems(&problems);
     return problems;
 }
 
-Problems checkProject(const FamilyProject* project)
+Problems checkGame(const QString& path, QString* error)
 {
-    Problems problems = ProjectCheck(project).run();
-    sortProblems(&problems);
-    return problems;
-}
-
-Problems checkGame(const QString& gameFolder, QString* error)
-{
-    const QFileInfo given(gameFolder);
     error->clear();
-    if (!given.exists()) {
-        *error = orUnreachable(Text::tr("There is no file or folder '%1'."), gameFolder);
+    if (!QFileInfo::exists(path)) {
+        *error = orUnreachable(Text::tr("There is no file or folder '%1'."), path);
         return {};
     }
-    if (!given.isDir()) {
-        return isMainFile(fileKindOf(gameFolder))
-                   ? checkMainFiles(checkedFolder(gameFolder), {given.absoluteFilePath()})
-                   : checkSingleFile(gameFolder, error);
+    if (!QFileInfo(path).isDir() && !isMainFile(fileKindOf(path))) {
+        return checkSingleFile(path, error);
     }
-    const QStringList mainFiles = FamilyParentProject::mainFiles(gameFolder);
-    const QString game = checkedFolder(gameFolder);
-    QStringList unnamed = unnamedProjects(gameFolder);
-    for (QString& name : unnamed) {
-        name = QDir(game).relativeFilePath(given.absoluteFilePath() + QLatin1Char('/') + name);
-    }
-    if (mainFiles.isEmpty() && unnamed.isEmpty()) {
+    GameCheck check(path);
+    if (!check.look()) {
         *error = orUnreachable(Text::tr("There is no character or stage in '%1'. Expected files "
                                         "such as 'characters/hero/hero.character'."),
-                               gameFolder);
+                               path);
         return {};
     }
-    return checkMainFiles(game, mainFiles, unnamed);
+    while (!check.isDone()) {
+        check.check();
+    }
+    return check.problems();
 }
 
 QString checkedFolder(const QString& path)

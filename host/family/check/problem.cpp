@@ -15,14 +15,16 @@ auto sortKey(const Problem& problem)
 
 }  // namespace
 
+bool operator==(const Problem& a, const Problem& b)
+{
+    return sortKey(a) == sortKey(b);
+}
+
 void sortProblems(Problems* problems)
 {
     std::sort(problems->begin(), problems->end(),
               [](const Problem& a, const Problem& b) { return sortKey(a) < sortKey(b); });
-    const auto end =
-        std::unique(problems->begin(), problems->end(),
-                    [](const Problem& a, const Problem& b) { return sortKey(a) == sortKey(b); });
-    problems->erase(end, problems->end());
+    problems->erase(std::unique(problems->begin(), problems->end()), problems->end());
 }
 
 QString problemLine(const Problem& problem)

@@ -21,6 +21,8 @@ struct Problem
 
 using Problems = QVector<Problem>;
 
+bool operator==(const Problem& a, const Problem& b);
+
 /// Order by file, line, column, kind and text; equal ones are left once.
 void sortProblems(Problems* problems);
 

@@ -1,144 +1,230 @@
 #include "family/check/projectcheck.h"
 
 #include "family/check/assetcheck.h"
-#include "family/familydocument.h"
 #include "family/grammar/grammar.h"
-#include "family/project/familyparentproject.h"
-#include "family/project/familyproject.h"
-#include "family/project/filereference.h"
 #include "family/project/unreachable.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
-#include <QSet>
+#include <QMap>
 
 namespace Family {
 
-ProjectCheck::ProjectCheck(const FamilyProject* project) : m_project(project) {}
+using Zorv::FileID;
 
-QString ProjectCheck::shownName(const FamilyDocument* document) const
+ProjectCheck::ProjectCheck(const QString& mainFile, FileKind kind, FactStore* facts)
+    : m_kind(kind), m_facts(facts)
 {
-    if (document->fileName().isEmpty()) {
-        return FamilyProject::tr("new file");
-    }
-    return QDir(m_project->parent()->absolutePath()).relativeFilePath(document->fileName());
+    m_found.mainFile = mainFile;
 }
 
-Problems ProjectCheck::run()
+void ProjectCheck::tell(ProblemId id, const QStringList& arguments, const NamedPlace& place)
 {
-    QVector<NamedPlace> animations;
-    QVector<NamedPlace> references;
-    QVector<NamedPlace> sprites;
-    QVector<NamedPlace> sounds;
-    const QList<FamilyDocument*> documents = m_project->documents();
-    for (const FamilyDocument* document : documents) {
-        DocumentCheck check(document, shownName(document));
-        m_problems += check.run();
-        animations += check.animations();
-        references += check.references();
-        sprites += check.sprites();
-        sounds += check.sounds();
-        checkFiles(document);
-    }
-    checkAnimationNames(animations, &m_problems);
-    // With a file missing, animations may only seem to be missing.
-    if (m_complete) {
-        checkReferences(references, animations);
-    }
-    checkAssets(sprites, sounds);
-    return m_problems;
+    m_found.problems.append(problemAt(id, arguments, place));
 }
 
-void ProjectCheck::checkAssets(const QVector<NamedPlace>& sprites,
-                               const QVector<NamedPlace>& sounds)
+QString ProjectCheck::resolved(const QString& path) const
 {
-    AssetCheck check(m_project);
-    if (!m_sprites.name.isEmpty()) {
-        check.checkSprites(m_sprites, sprites, m_complete);
-    }
-    if (!m_sounds.name.isEmpty()) {
-        check.checkSounds(m_sounds, sounds, m_complete);
-    }
-    m_problems += check.problems();
+    return QDir::cleanPath(QFileInfo(m_found.mainFile).absolutePath() + QLatin1Char('/') + path);
 }
 
-// The first one counts, as for every key that stands twice.
-void ProjectCheck::takeAsset(const NamedPlace& place, const FileReference& reference)
+void ProjectCheck::dependOn(const QString& path)
 {
-    NamedPlace& taken = reference.type == Zorv::FileID::Sprites ? m_sprites : m_sounds;
-    if (taken.name.isEmpty()) {
-        taken = place;
+    if (!m_known.contains(path)) {
+        m_known.insert(path);
+        m_found.paths.append(path);
+        m_facts->watch(path);
     }
 }
 
-void ProjectCheck::checkFiles(const FamilyDocument* document)
+ProjectFindings ProjectCheck::run()
+{
+    dependOn(m_found.mainFile);
+    const FactStore::Code main = m_facts->code(m_found.mainFile, m_kind);
+    if (!main->error.isEmpty()) {
+        const QString name = m_facts->shownName(m_found.mainFile);
+        const QString reason = unreadableReason(m_found.mainFile);
+        tell(ProblemId::FileUnreadable, {name, reason}, {{}, name, 1, 1, 0});
+        // Each text has advice of its own.
+        Problem& problem = m_found.problems.last();
+        problem.text = reason.isEmpty() ? main->error : problem.text;
+        return m_found;
+    }
+    m_found.code.append(main);
+    readNamed();
+    for (const FactStore::Code& code : qAsConst(m_found.code)) {
+        m_found.problems += code->problems;
+        checkFiles(*code);
+    }
+    checkAnimations();
+    checkAssets();
+    return m_found;
+}
+
+/// The code files that the main file names, kind by kind. Each file is of one kind alone: the
+/// first.
+void ProjectCheck::readNamed()
+{
+    const FactStore::Code main = m_found.code.first();
+    QSet<QString> taken{m_found.mainFile};
+    QMap<int, QVector<FactStore::Code>> read;
+    for (const FileReference& reference : main->files) {
+        const QString path = resolved(reference.path);
+        const bool isLoaded = isCodeFile(reference.type) || isAssetFile(reference.type);
+        if (!isLoaded || taken.contains(path) || faultOf(reference.path) != PathFault::Fine) {
+            continue;
+        }
+        taken.insert(path);
+        if (isCodeFile(reference.type)) {
+            const FactStore::Code code = m_facts->code(path, fileKindOfType(reference.type));
+            code->error.isEmpty() ? read[reference.type].append(code)
+                                  : tellUnread(placeOf(*main, reference), path, code->error);
+        }
+    }
+    for (const auto type : {FileID::Code, FileID::Animations, FileID::Commands}) {
+        m_found.code += read.value(type);
+    }
+}
+
+/// What is wrong with the path is told with the path.
+void ProjectCheck::tellUnread(const NamedPlace& place, const QString& path, const QString& error)
+{
+    m_isComplete = false;
+    if (QFileInfo::exists(path) && unreadableReason(path).isEmpty()) {
+        tell(ProblemId::FileUnreadable, {}, place);
+        m_found.problems.last().text = error;
+    }
+}
+
+PathFault ProjectCheck::faultOf(const QString& path)
+{
+    const auto known = m_faults.constFind(path);
+    return known != m_faults.cend()
+               ? *known
+               : *m_faults.insert(path, pathFault(m_facts->gameFolder(), m_found.mainFile, path));
+}
+
+NamedPlace ProjectCheck::placeOf(const FileFacts& facts, const FileReference& reference) const
+{
+    return {reference.path, facts.file, reference.line + 1, reference.column + 1, reference.length};
+}
+
+void ProjectCheck::checkFiles(const FileFacts& facts)
 {
     QHash<QString, int> named;
-    const QVector<FileReference> references = fileReferences(document);
-    for (const FileReference& reference : references) {
-        const NamedPlace place{reference.path, shownName(document), reference.line + 1,
-                               reference.column + 1, reference.length};
+    for (const FileReference& reference : facts.files) {
+        const NamedPlace place = placeOf(facts, reference);
         const bool listed = reference.type != ResourceFile;
         int& first = named[QDir::cleanPath(reference.path)];
         if (listed && first > 0) {
-            m_problems.append(
-                problemAt(ProblemId::FileTwice, {reference.path, QString::number(first)}, place));
+            tell(ProblemId::FileTwice, {reference.path, QString::number(first)}, place);
             continue;
         }
         first = listed ? place.line : 0;
         const bool isThere = checkFile(place, reference);
         if (isAssetFile(reference.type)) {
-            if (isThere && document == m_project->mainDocument()) {
+            if (isThere && &facts == m_found.code.first().get()) {
                 takeAsset(place, reference);
             }
         } else if (!isThere && listed) {
-            m_complete = false;
+            m_isComplete = false;
         }
     }
 }
 
 bool ProjectCheck::checkFile(const NamedPlace& place, const FileReference& reference)
 {
-    const PathFault fault =
-        pathFault(m_project->parent()->absolutePath(), m_project->fileName(), place.name);
+    const QString path = resolved(place.name);
+    dependOn(path);
+    const PathFault fault = faultOf(place.name);
     if (fault == PathFault::LeavesGame) {
-        m_problems.append(problemAt(ProblemId::FileOutside, {place.name}, place));
+        tell(ProblemId::FileOutside, {place.name}, place);
         return false;
     }
     if (fault == PathFault::NamesItself) {
-        m_problems.append(problemAt(ProblemId::FileItself, {}, place));
+        tell(ProblemId::FileItself, {}, place);
         return true;
     }
-    const QFileInfo info(m_project->resolvePath(place.name));
+    if (fault == PathFault::Fine && m_facts->isReplaced(path)) {
+        return true;
+    }
+    const QFileInfo info(path);
     if (fault == PathFault::Empty || !info.exists()) {
-        m_problems.append(problemAt(ProblemId::FileMissing, {place.name}, place));
+        tell(ProblemId::FileMissing, {place.name}, place);
         return false;
     }
-    if (reference.type == Zorv::FileID::Sprites && info.isDir()) {
+    if (reference.type == FileID::Sprites && info.isDir()) {
         return true;
     }
-    const QString reason = unreadableReason(info.filePath());
+    const QString reason = unreadableReason(path);
     if (!reason.isEmpty()) {
-        m_problems.append(problemAt(ProblemId::FileUnreadable, {place.name, reason}, place));
+        tell(ProblemId::FileUnreadable, {place.name, reason}, place);
     }
     return reason.isEmpty();
 }
 
-void ProjectCheck::checkReferences(const QVector<NamedPlace>& references,
-                                   const QVector<NamedPlace>& animations)
+// The first one counts, as for every key that stands twice.
+void ProjectCheck::takeAsset(const NamedPlace& place, const FileReference& reference)
 {
+    const bool isSprites = reference.type == FileID::Sprites;
+    NamedPlace& taken = isSprites ? m_sprites : m_sounds;
+    if (taken.name.isEmpty()) {
+        taken = place;
+        (isSprites ? m_found.sprites : m_found.sounds) = resolved(place.name);
+    }
+}
+
+void ProjectCheck::checkAnimations()
+{
+    QVector<NamedPlace> animations;
+    for (const FactStore::Code& code : qAsConst(m_found.code)) {
+        animations += code->animations;
+    }
+    checkAnimationNames(animations, &m_found.problems);
+    // With a file missing, animations may only seem to be missing.
+    if (!m_isComplete) {
+        return;
+    }
     QSet<QString> known;
     QStringList names;
-    for (const NamedPlace& animation : animations) {
+    for (const NamedPlace& animation : qAsConst(animations)) {
         known.insert(animation.name);
         names.append(animation.name);
     }
-    for (const NamedPlace& reference : references) {
-        if (!known.contains(reference.name)) {
-            m_problems.append(problemAt(ProblemId::AnimationMissing,
-                                        {reference.name, nameHint(reference.name, names)},
-                                        reference));
+    for (const FactStore::Code& code : qAsConst(m_found.code)) {
+        for (const NamedPlace& reference : code->references) {
+            if (!known.contains(reference.name)) {
+                tell(ProblemId::AnimationMissing, {reference.name, nameHint(reference.name, names)},
+                     reference);
+            }
+        }
+    }
+}
+
+void ProjectCheck::checkAssets()
+{
+    if (!m_found.sprites.isEmpty()) {
+        AssetCheck check(m_sprites, m_found.code, m_isComplete);
+        check.checkSprites(*m_facts->assets(FileID::Sprites, m_found.sprites));
+        m_found.problems += check.problems();
+    }
+    if (!m_found.sounds.isEmpty()) {
+        AssetCheck check(m_sounds, m_found.code, m_isComplete);
+        check.checkSounds(*m_facts->assets(FileID::Sounds, m_found.sounds));
+        m_found.problems += check.problems();
+    }
+}
+
+void checkAnimationNames(const QVector<NamedPlace>& animations, Problems* problems)
+{
+    QHash<QString, const NamedPlace*> first;
+    for (const NamedPlace& place : animations) {
+        const NamedPlace*& known = first[place.name];
+        if (known) {
+            problems->append(problemAt(ProblemId::AnimationTwice,
+                                       {place.name, known->file, QString::number(known->line)},
+                                       place));
+        } else {
+            known = &place;
         }
     }
 }

@@ -1,34 +1,57 @@
 #pragma once
 
-#include "family/check/documentcheck.h"
+#include "family/check/factstore.h"
+
+#include <QSet>
 
 namespace Family {
 
-class FamilyProject;
-struct FileReference;
+/// What the check of a project has found, and what it comes from.
+struct ProjectFindings
+{
+    QString mainFile;
+    Problems problems;
+    QStringList paths;              ///< absolute, of all files that it depends on, there or not
+    QVector<FactStore::Code> code;  ///< what its code files say, that of the main file first
+    QString sprites;                ///< absolute; empty if it names none that are there
+    QString sounds;
+};
 
-/// The problems of a project beyond those of single files.
+/// Checks a project: its code files, the files that it names, and references between them.
+///
+/// A main file that cannot be read is a problem by itself.
 class ProjectCheck
 {
 public:
-    explicit ProjectCheck(const FamilyProject* project);
+    ProjectCheck(const QString& mainFile, FileKind kind, FactStore* facts);
 
-    Problems run();
+    ProjectFindings run();
 
 private:
-    QString shownName(const FamilyDocument* document) const;
-    void checkFiles(const FamilyDocument* document);
+    void readNamed();
+    void tellUnread(const NamedPlace& place, const QString& path, const QString& error);
+    void checkFiles(const FileFacts& facts);
     bool checkFile(const NamedPlace& place, const FileReference& reference);
     void takeAsset(const NamedPlace& place, const FileReference& reference);
-    void checkAssets(const QVector<NamedPlace>& sprites, const QVector<NamedPlace>& sounds);
-    void checkReferences(const QVector<NamedPlace>& references,
-                         const QVector<NamedPlace>& animations);
+    void checkAnimations();
+    void checkAssets();
+    NamedPlace placeOf(const FileFacts& facts, const FileReference& reference) const;
+    QString resolved(const QString& path) const;
+    PathFault faultOf(const QString& path);
+    void dependOn(const QString& path);
+    void tell(ProblemId id, const QStringList& arguments, const NamedPlace& place);
 
-    const FamilyProject* m_project;
-    Problems m_problems;
+    FileKind m_kind;
+    FactStore* m_facts;
+    ProjectFindings m_found;
+    QSet<QString> m_known;
+    QHash<QString, PathFault> m_faults;
     NamedPlace m_sprites;  // the paths in the main file, if the files are there
     NamedPlace m_sounds;
-    bool m_complete = true;
+    bool m_isComplete = true;  // all that could name sprites and sounds is known
 };
+
+/// Tells every animation whose identifier an earlier one of the list has.
+void checkAnimationNames(const QVector<NamedPlace>& animations, Problems* problems);
 
 }  // namespace Family

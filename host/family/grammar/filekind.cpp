@@ -79,4 +79,13 @@ Zorv::FileID::Type fileType(FileKind kind)
     return kindRows[int(kind)].type;
 }
 
+FileKind fileKindOfType(Zorv::FileID::Type type)
+{
+    const auto found =
+        std::find_if(std::begin(kindRows), std::end(kindRows), [type](const KindRow& row) {
+            return row.type == type && !isMainFile(row.kind);
+        });
+    return found == std::end(kindRows) ? FileKind::Code : found->kind;
+}
+
 }  // namespace Family

@@ -30,4 +30,7 @@ QStringList mainFileFilters();
 /// Under what a project registers a file of that kind.
 Zorv::FileID::Type fileType(FileKind kind);
 
+/// The kind of the code files that are registered under a type.
+FileKind fileKindOfType(Zorv::FileID::Type type);
+
 }  // namespace Family

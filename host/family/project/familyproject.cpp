@@ -28,18 +28,6 @@ namespace {
 
 constexpr quint32 codeTypes = FileID::Code | FileID::Animations | FileID::Commands;
 
-FileKind kindOfType(FileID::Type type)
-{
-    switch (type) {
-    case FileID::Animations:
-        return FileKind::Animations;
-    case FileID::Commands:
-        return FileKind::Commands;
-    default:
-        return FileKind::Code;
-    }
-}
-
 constexpr int MostBrokenLines = 20;
 
 // Ends as all files of a project do.
@@ -204,7 +192,7 @@ void FamilyProject::loadFiles()
 
 void FamilyProject::loadDocument(FileID::Type type, const QString& path)
 {
-    auto document = std::make_unique<FamilyDocument>(kindOfType(type));
+    auto document = std::make_unique<FamilyDocument>(fileKindOfType(type));
     if (document->fromFile(*archive(), path, false)) {
         FamilyDocument* added = document.release();
         addFile(added, type);
@@ -262,7 +250,7 @@ Zorv::ProjectFile* FamilyProject::newFile(FileID::Type type)
     if (!isCodeFile(type)) {
         return nullptr;
     }
-    auto* document = new FamilyDocument(kindOfType(type));
+    auto* document = new FamilyDocument(fileKindOfType(type));
     addFile(document, type);
     followSetting(document);
     return document;
