@@ -2774,6 +2774,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>&apos;%1&apos; is another program in each folder. Write its whole path.</source>
         <translation>&apos;%1&apos; ist in jedem Ordner ein anderes Programm. Bitte den ganzen Pfad schreiben.</translation>
     </message>
+    <message>
+        <source>Sound %1 (%2): %3.</source>
+        <translation>Klang %1 (%2): %3.</translation>
+    </message>
 </context>
 <context>
     <name>Family::AssetReload</name>
@@ -3023,10 +3027,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Renumber sound</source>
         <translation>Klang umnummerieren</translation>
-    </message>
-    <message>
-        <source>Sound %1 (%2): %3.</source>
-        <translation>Klang %1 (%2): %3.</translation>
     </message>
     <message>
         <source>Remove broken sounds</source>
@@ -4379,6 +4379,28 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>The sheet would be too large. Select fewer sprites.</source>
         <translation>Der Bogen wäre zu groß. Bitte weniger Sprites auswählen.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::Uses</name>
+    <message>
+        <source>sprite %1</source>
+        <translation>Sprite %1</translation>
+    </message>
+    <message>
+        <source>remap from %1 to %2</source>
+        <translation>Umfärbung von %1 auf %2</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, Zeile %2: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
