@@ -210,9 +210,11 @@ QVariant CodeItemModel::data(const QModelIndex& index, int role) const
     if (role == Qt::DecorationRole) {
         return nodeIcon(node);
     }
-    if (role != Qt::DisplayRole) {
-        return {};
-    }
+    return role == Qt::DisplayRole ? nodeLabel(node) : QVariant();
+}
+
+QString CodeItemModel::nodeLabel(const CodeNode* node) const
+{
     switch (node->type()) {
     case CodeNode::Group:
         return static_cast<const GroupCode*>(node)->displayName();

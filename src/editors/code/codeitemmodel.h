@@ -19,8 +19,8 @@ class CodeNode;
 /// The pointer of an index is its node. Nodes die at any keystroke, so an index
 /// whose node is gone has neither parent nor children; the document tracks the
 /// nodes that indexes were made of, and tells these from others without a walk.
-/// `update()` announces all rows anew; a host that wants to keep what is expanded
-/// derives and overrides it. Main thread only.
+/// `update()` announces all rows anew; `CodeTreeModel` keeps what is expanded. Main
+/// thread only.
 class ZORV_EXPORT CodeItemModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
 
     /// Null for none; not owned, and let go of when it dies.
     virtual void setDocument(const CodeDocument* document);
-    const CodeDocument* document() const;
+    virtual const CodeDocument* document() const;
 
     /// Brings the rows in line with the document: the top ones are removed and
     /// inserted. Until then there are as many as were announced.
@@ -53,12 +53,15 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
 
-    /// The display name of a group, a value or an animation, "Frame" for a frame; and
-    /// the icon of `nodeIcon()`.
+    /// `nodeLabel()` and `nodeIcon()`.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     using QObject::parent;
 
 protected:
+    /// The text of a node in the tree. The default is the display name of a group, a
+    /// value or an animation, and "Frame" for a frame.
+    virtual QString nodeLabel(const CodeNode* node) const;
+
     /// The picture of a node in the tree. The default has one of the library's for
     /// each type of node.
     virtual QIcon nodeIcon(const CodeNode* node) const;

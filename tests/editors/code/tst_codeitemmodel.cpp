@@ -1,5 +1,6 @@
 #include "editors/code/codeitemmodel.h"
 
+#include "editors/code/codetreemodel.h"
 #include "support/randomtext.h"
 #include "support/testgrammar.h"
 
@@ -76,6 +77,8 @@ private slots:
     void initTestCase() { qInfo("seed %u", Seed); }
     void randomEdits_data();
     void randomEdits();
+    void rowsThatStay_data() { randomEdits_data(); }
+    void rowsThatStay();
     void updateAnnouncesAllRows();
     void indexesOutliveTheirNodes();
     void documentDies();
@@ -117,6 +120,39 @@ void TestCodeItemModel::randomEdits()
             model.data(index, Qt::DisplayRole);
             model.lineNo(index);
         }
+    }
+}
+
+/// Stale rows can be asked for anything; in line, they are those of the tree. A row above all
+/// edits, its branch and its place are the same ones for ever.
+void TestCodeItemModel::rowsThatStay()
+{
+    QFETCH(int, run);
+    QRandomGenerator random(Seed + quint32(run));
+    GrammarDocument document(QStringLiteral("[1]\na=1\n[2]\n") + Text.lines(random, 40));
+    CodeTreeModel model;
+    model.setDocument(&document);
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const QPersistentModelIndex group = model.index(0, 0);
+    const QPersistentModelIndex value = model.index(0, 0, group);
+    for (int step = 0; step < 120; ++step) {
+        // One group is put in front of the other, or its head is typed anew.
+        QTextCursor head(document.findBlockByNumber(0));
+        head.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+        head.insertText(random.bounded(2) ? QStringLiteral("[1]") : QStringLiteral("[4]"));
+        QTextCursor edit(document.findBlockByNumber(3 + random.bounded(document.blockCount() - 3)));
+        edit.insertText(Text.lines(random, 1) + QLatin1Char('\n'));
+        edit.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor, random.bounded(3));
+        edit.removeSelectedText();
+        rowsOf(model);
+        QVERIFY(model.isStale() && !model.indexInLine(0).isValid());
+        if (random.bounded(2)) {
+            model.refresh();
+            QCOMPARE(rowsOf(model), treeOf(&document));
+            QCOMPARE(model.indexInLine(1), QModelIndex(value));
+            QCOMPARE(model.lineNo(group), 0);
+        }
+        QVERIFY(group.isValid() && value.parent() == group);
     }
 }
 
