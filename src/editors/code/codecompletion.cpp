@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 
@@ -50,8 +51,13 @@ bool CodeCompletion::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
         m_completer->popup()->setAccessibleName(tr("Words to complete"));
+    } else if (event->type() == QEvent::Show) {
+        // With each list of words, the completer puts a filter of its own in front.
+        watched->installEventFilter(this);
     }
-    return QObject::eventFilter(watched, event);
+    const bool isKey = m_finder && event->type() == QEvent::KeyPress;
+    return (isKey && endWord(static_cast<QKeyEvent*>(event))) ||
+           QObject::eventFilter(watched, event);
 }
 
 bool CodeCompletion::readFile(const QString& fileName)
@@ -108,7 +114,24 @@ void CodeCompletion::show(QStringListModel* words)
         return;
     }
     useModel(words);
-    open(wordAtCursor());
+    const auto word = m_finder ? m_finder(m_editor->q->textCursor()) : std::nullopt;
+    if (word) {
+        showFrom(word->start);
+    } else {
+        open(wordAtCursor());
+    }
+}
+
+/// Any part of a word can have been typed, which is looked for among all.
+void CodeCompletion::showFrom(int start)
+{
+    hide();
+    const QTextCursor cursor = m_editor->q->textCursor();
+    const QString prefix = cursor.block().text().mid(start, cursor.positionInBlock() - start);
+    open(prefix);
+    // The words may be others than those that it was looked for among before.
+    m_completer->setCompletionPrefix(prefix);
+    m_completer->popup()->setCurrentIndex(m_completer->currentIndex());
 }
 
 bool CodeCompletion::takesKey(const QKeyEvent* event) const
@@ -200,11 +223,64 @@ void CodeCompletion::insert(const QString& text)
     if (m_editor->q->isReadOnly()) {
         return;
     }
+    if (m_finder) {
+        replace(text);
+        return;
+    }
     QTextCursor cursor = m_editor->q->textCursor();
     cursor.movePosition(QTextCursor::Left);
     cursor.movePosition(QTextCursor::EndOfWord);
     cursor.insertText(text.right(text.size() - m_completer->completionPrefix().size()));
     m_editor->q->setTextCursor(cursor);
+}
+
+/// The columns that a word replaces. Where the finder expects nothing, the trigger of a file of
+/// words may have opened the popup.
+CodeEditor::WordRange CodeCompletion::range() const
+{
+    const QTextCursor cursor = m_editor->q->textCursor();
+    if (const auto word = m_finder(cursor)) {
+        return *word;
+    }
+    const int column = cursor.positionInBlock();
+    const QString prefix = m_completer->completionPrefix();
+    const bool isTyped = cursor.block().text().left(column).endsWith(prefix, Qt::CaseInsensitive);
+    return {isTyped ? column - prefix.size() : column, column};
+}
+
+void CodeCompletion::replace(const QString& word)
+{
+    const CodeEditor::WordRange columns = range();
+    QTextCursor cursor = m_editor->q->textCursor();
+    const int line = cursor.block().position();
+    cursor.setPosition(line + columns.start);
+    cursor.setPosition(line + columns.end, QTextCursor::KeepAnchor);
+    if (cursor.selectedText() == word) {
+        cursor.clearSelection();
+    } else {
+        cursor.insertText(word);
+    }
+    m_editor->q->setTextCursor(cursor);
+}
+
+/// A word that stands there whole needs no key to take it, and a blank ends any word: both go to
+/// the text.
+bool CodeCompletion::endWord(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn && event->key() != Qt::Key_Space) {
+        return false;
+    }
+    const QString word = m_completer->popup()->currentIndex().data().toString();
+    const CodeEditor::WordRange columns = range();
+    const QString line = m_editor->q->textCursor().block().text();
+    const bool isWhole = line.mid(columns.start, columns.end - columns.start) == word;
+    if (isReturn && !word.isEmpty() && !isWhole) {
+        return false;
+    }
+    hide();
+    QCoreApplication::sendEvent(m_editor->q, event);
+    return true;
 }
 
 }  // namespace Zorv

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "editors/code/codeeditor.h"
+
 #include <QMap>
 #include <QObject>
 #include <QString>
 
-class QCompleter;
 class QKeyEvent;
-class QStringListModel;
 
 namespace Zorv {
 
@@ -25,6 +25,7 @@ public:
     bool readFile(const QString& fileName);
     QString error() const { return m_error; }
     QCompleter* completer() const { return m_completer; }
+    void setFinder(const CodeEditor::WordFinder& finder) { m_finder = finder; }
     void show(QStringListModel* words);
     void hide();
 
@@ -35,7 +36,8 @@ public:
     void keyPressed(const QKeyEvent* event);
 
 protected:
-    /// The popup hears of another language by itself.
+    /// The popup hears of another language by itself; and of keys, which end a word that is
+    /// replaced.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -44,12 +46,17 @@ private:
     QString lineEnd() const;
     QStringListModel* modelForLine() const;
     void useModel(QStringListModel* words);
+    void showFrom(int start);
     void open(const QString& prefix);
     void insert(const QString& text);
+    CodeEditor::WordRange range() const;
+    void replace(const QString& word);
+    bool endWord(QKeyEvent* event);
 
     CodeEditorPrivate* m_editor;
     QCompleter* m_completer;
     CompletionDelegate* m_delegate;
+    CodeEditor::WordFinder m_finder;
     QMap<QString, QStringListModel*> m_models;  // by trigger
     QString m_error;
     int m_longest = 0;  // trigger, in characters

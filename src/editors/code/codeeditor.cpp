@@ -241,6 +241,11 @@ QCompleter* CodeEditor::completer() const
     return d->completion->completer();
 }
 
+void CodeEditor::setWordFinder(const WordFinder& finder)
+{
+    d->completion->setFinder(finder);
+}
+
 void CodeEditor::showCompletions(QStringListModel* words)
 {
     d->completion->show(words);

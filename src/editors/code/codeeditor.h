@@ -6,7 +6,9 @@
 #include <QPlainTextEdit>
 #include <QTextCharFormat>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 class QCompleter;
 class QStringListModel;
@@ -53,6 +55,16 @@ public:
         int column = 0;
         int scroll = 0;  ///< value of the vertical scroll bar
     };
+
+    /// Columns of a line, from `start` to in front of `end`.
+    struct WordRange
+    {
+        int start = 0;
+        int end = 0;
+    };
+
+    /// Tells where the word at a cursor stands in its line; nothing if it knows of none there.
+    using WordFinder = std::function<std::optional<WordRange>(const QTextCursor& cursor)>;
 
     /// Where in the view a line is to land.
     enum LineType { NearestLine = 0, TopLine = 1, CenterLine = 2 };
@@ -129,9 +141,16 @@ public:
     QString completerError() const;
 
     /// The completer, whose popup follows what the person types. A word that is chosen
-    /// adds what it has more than was typed; a host that wants it otherwise takes its
-    /// signal `activated(QString)` from all that it is connected to.
+    /// adds what it has more than was typed, unless there is a word finder.
     QCompleter* completer() const;
+
+    /// With a finder, a word that is chosen takes the place of the whole word at the
+    /// cursor: its case is right, and nothing is left of what stood there. Where the
+    /// finder knows of none, that of what was typed. A blank then ends any word, and
+    /// Return one that stands there whole: both close the popup and go to the text. An
+    /// empty finder brings the adding back. It is asked while the popup is open, and
+    /// must not edit.
+    void setWordFinder(const WordFinder& finder);
 
     /// Opens the popup on words for the cursor's place, whatever was typed before.
     /// The model is not owned and must live until another one takes its place.

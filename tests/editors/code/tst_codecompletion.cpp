@@ -60,6 +60,8 @@ private slots:
     void wordsFollowThePrefix();
     void descriptionsStandInThePopup();
     void hostOpensIt();
+    void replacesTheWord_data();
+    void replacesTheWord();
     void modelsGoUnderThePopup();
     void documentsGoUnderThePopup();
     void readOnlyStaysWhole();
@@ -273,6 +275,43 @@ void TestCodeCompletion::hostOpensIt()
     model.setWords({});
     editor->showCompletions(&model);
     QVERIFY(!popup()->isVisible());
+}
+
+void TestCodeCompletion::replacesTheWord_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("with its own case") << "say ALP|" << int(Qt::Key_Return) << "say x-Alpha|";
+    QTest::newRow("all of it") << "say x-|beth on" << int(Qt::Key_Return) << "say x-Alpha| on";
+    QTest::newRow("a whole one") << "say x-Alpha| on" << int(Qt::Key_Return) << "say x-Alpha\n| on";
+    QTest::newRow("a blank ends it") << "say x-|" << int(Qt::Key_Space) << "say x- |";
+    QTest::newRow("none is known") << "what a|" << int(Qt::Key_Return) << "what x-Alpha|";
+}
+
+/// Words here go from blank to blank, behind "say".
+void TestCodeCompletion::replacesTheWord()
+{
+    QFETCH(QString, before);
+    QFETCH(int, key);
+    editor->setWordFinder([](const QTextCursor& cursor) {
+        const QString line = cursor.block().text() + QLatin1Char(' ');
+        const int at = cursor.positionInBlock();
+        using Range = CodeEditor::WordRange;
+        const Range range{line.left(at).lastIndexOf(QLatin1Char(' ')) + 1, line.indexOf(' ', at)};
+        return line.startsWith("say") ? std::make_optional(range) : std::nullopt;
+    });
+    CompletionModel model;
+    model.setWords({{"x-Alpha", {}}});
+    document->setPlainText(QString(before).remove(QLatin1Char('|')));
+    QTextCursor cursor(document.get());
+    cursor.setPosition(before.indexOf(QLatin1Char('|')));
+    editor->setTextCursor(cursor);
+    editor->showCompletions(&model);
+    popup()->setCurrentIndex(popup()->model()->index(0, 0));
+    QTest::keyClick(target(), Qt::Key(key));
+    QVERIFY(!popup()->isVisible());
+    QTEST(text().insert(editor->textCursor().position(), QLatin1Char('|')), "after");
 }
 
 void TestCodeCompletion::modelsGoUnderThePopup()
