@@ -95,6 +95,7 @@ private slots:
     void playing();
     void handler_data();
     void handler();
+    void wholePages();
     void paintedFrames();
     void endsOfTheRange();
 
@@ -302,6 +303,31 @@ void TestTimeLine::handler()
         QTest::qWait(100);
         QCOMPARE(ticks(spy), QVector<unsigned>({0, 1, 2, 3}));
         QVERIFY(!widget || !widget->isPlaying());
+    }
+}
+
+// The bar of the tick is seen whole wherever it goes, and however the window is resized; a click in
+// the rest of the width, where nothing is painted, is none.
+void TestTimeLine::wholePages()
+{
+    QRandomGenerator random(61);
+    widget->setWholePages(true);
+    for (int round = 0; round < 200; ++round) {
+        const bool isResized = random.bounded(2) == 0;
+        const QSize size = isResized ? QSize(random.bounded(185, 1500), 60) : widget->size();
+        widget->resize(size);
+        widget->setCurrentTick(isResized ? widget->currentTick() : random.bounded(2000U));
+        const QImage image = widget->grab().toImage();
+        const int end = 125 + (image.width() - 125) / 60 * 60;
+        int bars = 0;
+        for (int x = 125; x < image.width(); ++x) {
+            bars += x < end && image.pixelColor(x, 55) == QColor(Qt::yellow);
+            QVERIFY(x <= end || image.pixel(x, 15) == image.pixel(2, 2));
+        }
+        QVERIFY2(bars == 2, qPrintable(QString::number(widget->currentTick())));
+        const unsigned tick = widget->currentTick();
+        QTest::mouseClick(widget, Qt::LeftButton, {}, {end + 1, 55});
+        QCOMPARE(widget->currentTick(), image.width() > end + 1 ? tick : widget->currentTick());
     }
 }
 

@@ -2,7 +2,6 @@
 
 #include "app/look/language.h"
 #include "app/stage/stagerenderer.h"
-#include "app/stage/timelineplace.h"
 
 #include <zorv/animation/timeline/timelinewidget.h>
 #include <zorv/graphics/glcontext.h>
@@ -51,7 +50,9 @@ StageView::StageView(QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(m_bar);
     layout->addWidget(m_pages, 1);
-    layout->addWidget(new TimeLinePlace(m_timeLine));
+    m_timeLine->setWholePages(true);
+    m_timeLine->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    layout->addWidget(m_timeLine);
     m_info->setMargin(4);
     followLanguage(this, [this] { retranslate(); });
 }

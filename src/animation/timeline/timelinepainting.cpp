@@ -45,6 +45,9 @@ QColor TimeLinePrivate::borderColor() const
 
 void TimeLinePrivate::paint(QPainter& painter) const
 {
+    if (hasWholePages) {
+        painter.setClipRect(0, 0, leftOf(visibleTicks) + 1, owner->height());
+    }
     paintScale(painter);
     for (int index = 0; index < timeLines.size(); ++index) {
         if (HeaderHeight + RowHeight * index > owner->height()) {

@@ -88,6 +88,16 @@ void TimeLinePrivate::turnPage()
     }
 }
 
+void TimeLinePrivate::fitPage()
+{
+    visibleTicks = static_cast<unsigned int>(std::max(owner->width() - LabelWidth, 0) / TickWidth);
+    if (hasWholePages) {
+        visibleTicks = visibleTicks / 10 * 10;
+        turnPage();
+    }
+    owner->update();
+}
+
 qint64 TimeLinePrivate::cursorPlace() const
 {
     return (qint64(currentTick) - firstTick) * TickWidth + LabelWidth;
@@ -99,7 +109,7 @@ TimeLinePrivate::Target TimeLinePrivate::hitTest(const QPoint& place)
     if (place.x() >= cursor && place.x() < cursor + TickWidth) {
         return Cursor;
     }
-    if (place.x() > LabelWidth) {
+    if (place.x() > LabelWidth && !(hasWholePages && place.x() >= leftOf(visibleTicks))) {
         row = static_cast<unsigned int>(std::max(place.y() - HeaderHeight, 0) / RowHeight);
         return Strip;
     }
@@ -119,8 +129,6 @@ TimeLineWidget::TimeLineWidget(QWidget* parent)
     setAttribute(Qt::WA_MouseTracking);
     setAutoFillBackground(false);
     setFocusPolicy(Qt::StrongFocus);
-    setBaseSize(d->LabelWidth, d->HeaderHeight);
-    setSizeIncrement(10 * d->TickWidth, d->RowHeight);
 }
 
 TimeLineWidget::~TimeLineWidget() = default;
@@ -159,6 +167,12 @@ unsigned int TimeLineWidget::currentTick() const
 void TimeLineWidget::setCurrentTick(unsigned int tick)
 {
     d->moveTo(tick);
+}
+
+void TimeLineWidget::setWholePages(bool isOn)
+{
+    d->hasWholePages = isOn;
+    d->fitPage();
 }
 
 float TimeLineWidget::currentFPS() const
@@ -202,8 +216,7 @@ void TimeLineWidget::paintEvent(QPaintEvent*)
 void TimeLineWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    d->visibleTicks =
-        static_cast<unsigned int>(std::max(width() - d->LabelWidth, 0) / d->TickWidth);
+    d->fitPage();
 }
 
 void TimeLineWidget::mousePressEvent(QMouseEvent* event)

@@ -19,9 +19,9 @@ class TimeLinePrivate;
 /// the clock stands, the mouse sets the tick: the cursor follows it when it is dragged, and jumps
 /// to where a click in the strip ends. The keys Left and Right go by one tick at any time.
 ///
-/// A page begins at a multiple of ten. Unless it is a multiple of ten wide, too, its last ticks can
-/// lie beyond the right border. `baseSize()` and one `sizeIncrement()` for each ten ticks fit.
-/// Main thread only.
+/// A page begins at a multiple of ten, and is as wide as the widget. Unless that is a multiple of
+/// ten, too, its last ticks can lie beyond the right border; `setWholePages()` has none of it. Main
+/// thread only.
 class ZORV_EXPORT TimeLineWidget : public QWidget
 {
     Q_OBJECT
@@ -43,6 +43,10 @@ public:
 
     /// Turns to the page of the tick. Emits `tickChanged()` if it is another one.
     void setCurrentTick(unsigned int tick);
+
+    /// With true, pages have whole tens of ticks, the rest of the width stays free, and another
+    /// width turns to the page of the present tick: it is always in sight. False at first.
+    void setWholePages(bool isOn);
 
     /// Ticks a second, as reached in the last second of playing; 60 until then.
     float currentFPS() const;

@@ -32,6 +32,9 @@ public:
     /// Turns to a tick and tells of it, if it is another one. The widget may be gone afterwards.
     void moveTo(unsigned int tick);
 
+    /// The widget has another width, or pages of another kind.
+    void fitPage();
+
     /// The same for the tick below a place in the strip.
     void moveToPlace(int x);
 
@@ -52,6 +55,7 @@ public:
     Target dragTarget = NoTarget;
     unsigned int row = 0;
     bool dragging = false;
+    bool hasWholePages = false;
     unsigned int visibleTicks = 0;  // none before the first resize
     unsigned int firstTick = 0;
 
