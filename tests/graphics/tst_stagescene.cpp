@@ -123,6 +123,7 @@ private slots:
     void providerIsFollowed();
     void selectionOutlivesEqualBoxes();
     void onionSkinIsAboutTheMainCross();
+    void groundFits();
     void boxesAreDrawn();
     void insideShinesThrough();
     void guidesAreDrawn();
@@ -388,6 +389,26 @@ void TestStageScene::onionSkinIsAboutTheMainCross()
     QCOMPARE(stage.onionSkin.base, QPoint(100, 50));
     QCOMPARE(stage.onionSkin.offset, QPoint(-4, 8));  // halves go up
     QCOMPARE(stage.onionSkin.size, QSize(15, 30));
+    stage.replaceOnionSkinSprite(&sprite, {4, 6});
+    stage.picture({8, 8});
+    QCOMPARE(stage.onionSkin.offset, QPoint(-6, -9));
+}
+
+// Stages share the ground, and each comes to its lower colour at its own bottom.
+void TestStageScene::groundFits()
+{
+    for (const bool isFitted : {false, true}) {
+        Stage high, low;
+        high.setGroundFitted(isFitted);
+        high.picture({40, 800});
+        low.picture({40, 100});
+        high.setBackground(Qt::black, Qt::white, GraphicsRenderer::GradientBackground, {}, {}, {});
+        QImage image(40, 800, QImage::Format_RGB32);
+        QPainter painter(&image);
+        high.render(painter);
+        QCOMPARE(qRed(image.pixel(20, 400)) < 140, isFitted);
+        QVERIFY(qRed(image.pixel(20, 799)) > 250);
+    }
 }
 
 void TestStageScene::boxesAreDrawn()

@@ -253,12 +253,9 @@ void StageController::showScene()
     m_stage->Renderer::update();
 }
 
-/// The stage looks at the sprite alone: a new offset comes by way of none.
 void StageController::showOnion()
 {
-    m_stage->setOnionSkinSprite(nullptr, {});
-    m_stage->setOnionSkinSprite(m_onion.sprite(), m_onion.onionOffset());
-    m_stage->Renderer::update();
+    m_stage->replaceOnionSkinSprite(m_onion.sprite(), m_onion.onionOffset());
 }
 
 void StageController::inputComes()

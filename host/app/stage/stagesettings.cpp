@@ -1,7 +1,6 @@
 #include "app/stage/stagesettings.h"
 
 #include <zorv/core/interface.h>
-#include <zorv/graphics/renderwidget.h>
 #include <zorv/graphics/stage/graphicsrenderer.h>
 
 #include <QRect>
@@ -52,6 +51,7 @@ Value choice(const char* key, int count)
 
 StageSettings::StageSettings(GraphicsRenderer* stage) : m_stage(stage)
 {
+    m_stage->setGroundFitted(true);
     for (int i = 0; i < PartCount; ++i) {
         m_isShown[size_t(i)] = !parts[i].key || option(parts[i].key).toBool();
     }
@@ -91,10 +91,6 @@ void StageSettings::apply(QSize screen)
                            choice<GraphicsRenderer::BackgroundType>("background_type", 3),
                            QPoint(option("background_x").toInt(), option("background_y").toInt()),
                            option("background_file").toString(), screen);
-    // A new ground has colours for the usual height; the stage fits them to its own.
-    if (const Zorv::RenderWidget* widget = m_stage->widget()) {
-        m_stage->sizeChanged(widget->width(), widget->height());
-    }
     m_stage->setupContactBoxes(colour("attackbox"), colour("collisionbox"),
                                qBound(0.0F, option("box_opacity").toFloat(), 1.0F));
     m_stage->setCrossHair(choice<GraphicsRenderer::CrossHairType>("crosshair_type", 3),

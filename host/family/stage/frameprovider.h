@@ -47,7 +47,7 @@ public:
     /// How the sprite stands, and the frame's offset also without a sprite.
     const FramePose& pose() const { return m_pose; }
 
-    /// For `Zorv::GraphicsRenderer::setOnionSkinSprite()`.
+    /// For `Zorv::GraphicsRenderer::replaceOnionSkinSprite()`.
     QPoint onionOffset() const;
 
     unsigned count() const override { return m_sprite ? 1 : 0; }

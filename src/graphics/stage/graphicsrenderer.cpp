@@ -235,9 +235,13 @@ void GraphicsRenderer::setOnionSkin(bool enabled, OnionEffect effect, float opac
 void GraphicsRenderer::setOnionSkinSprite(const Sprite* sprite, QPoint offset)
 {
     // The offset alone is not looked at: callers that step through equal sprites rely on it.
-    if (sprite == d->onionSprite) {
-        return;
+    if (sprite != d->onionSprite) {
+        replaceOnionSkinSprite(sprite, offset);
     }
+}
+
+void GraphicsRenderer::replaceOnionSkinSprite(const Sprite* sprite, QPoint offset)
+{
     d->onionSprite = sprite;
     d->onionOffset = offset;
     update();

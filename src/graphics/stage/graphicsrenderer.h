@@ -97,9 +97,13 @@ public:
     /// The colours of the ground from top to bottom, and the picture on it. `position` is in model
     /// units from the origin; that of a resolution picture is its own. `resolution` is the size of
     /// screen that it is for. A file that cannot be read is left out. The colours reach down 256
-    /// pixels until `sizeChanged()` fits them to the widget.
+    /// pixels until `sizeChanged()` of any stage fits them to its widget; see `setGroundFitted()`.
     void setBackground(QColor start, QColor end, BackgroundType type, QPoint position,
                        const QString& file, QSize resolution);
+
+    /// With true, the colours of the ground always reach to the bottom of this stage, whatever the
+    /// others do. False at first.
+    void setGroundFitted(bool isOn);
 
     /// The pictures of the crosses; a file that does not exist is replaced by the small cross of
     /// its place.
@@ -136,9 +140,12 @@ public:
     void setOnionSkin(bool enabled, OnionEffect effect, float opacity);
 
     /// That sprite, and the place of the anchor of the main cross on it in model units. Compares
-    /// the sprite alone: the offset of the same sprite changes by way of null. Not owned: null is
-    /// to be set before it goes.
+    /// the sprite alone: nothing for the one that is there. Not owned: null is to be set before it
+    /// goes.
     void setOnionSkinSprite(const Sprite* sprite, QPoint offset);
+
+    /// The same, and the one that is there may have another place, or other pixels.
+    void replaceOnionSkinSprite(const Sprite* sprite, QPoint offset);
 
     /// @}
     /// @name Zoom

@@ -118,6 +118,7 @@ public:
     unsigned char zoomLevel = 3;
     float zoom = 1.0F;
     float previousZoom = 1.0F;
+    bool groundFitted = false;
     bool guidesVisible = false;
     QPoint guideLines;
     GraphicsRenderer::OnionEffect onionEffect = GraphicsRenderer::NoEffect;

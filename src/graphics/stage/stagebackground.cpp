@@ -109,6 +109,12 @@ void GraphicsRenderer::setBackground(QColor start, QColor end, BackgroundType ty
     update();
 }
 
+void GraphicsRenderer::setGroundFitted(bool isOn)
+{
+    d->groundFitted = isOn;
+    update();
+}
+
 void GraphicsRenderer::setCrossHair(CrossHairType type, const QString& main,
                                     const QString& secondary, const QString& extra)
 {
@@ -138,7 +144,9 @@ void GraphicsRenderer::sizeChanged(int width, int height)
 void GraphicsRendererPrivate::renderBackground(QPainter& painter)
 {
     const Background& ground = background();
-    painter.fillRect(QRect(QPoint(), widgetSize), ground.gradient);
+    painter.fillRect(QRect(QPoint(), widgetSize),
+                     groundFitted ? verticalGradient(ground, widgetSize.height())
+                                  : ground.gradient);
     if (!ground.image.isNull()) {
         const QPoint place = stageSum(m_origin, scaled(ground.position));
         const QSize size(scaled(ground.image.width()), scaled(ground.image.height()));
