@@ -1335,10 +1335,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>There is no picture without the game.</source>
         <translation>Ohne das Spiel gibt es kein Bild.</translation>
     </message>
-    <message>
-        <source>The picture %1 cannot be written. Check the folder and its permissions.</source>
-        <translation>Das Bild %1 kann nicht geschrieben werden. Bitte den Ordner und seine Rechte prüfen.</translation>
-    </message>
 </context>
 <context>
     <name>App::Settings</name>
@@ -4190,13 +4186,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
-    <name>Operations::Preparation</name>
-    <message>
-        <source>Cannot write %1: %2</source>
-        <translation>%1 kann nicht geschrieben werden: %2</translation>
-    </message>
-</context>
-<context>
     <name>Operations::RecoveryCopy</name>
     <message>
         <source>It is no copy of Zorv.</source>
@@ -4220,10 +4209,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Unsaved texts cannot be put aside. %1</source>
         <translation>Ungespeicherte Texte können nicht gesichert werden. %1</translation>
-    </message>
-    <message>
-        <source>Unsaved texts cannot be put aside: %1. Save often, and make room on the disk.</source>
-        <translation>Ungespeicherte Texte können nicht gesichert werden: %1. Bitte oft speichern und auf dem Datenträger Platz schaffen.</translation>
     </message>
 </context>
 <context>

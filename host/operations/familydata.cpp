@@ -4,8 +4,8 @@
 #include "family/project/familyenginemodel.h"
 
 #include <zorv/core/filesystemarchive.h>
+#include <zorv/core/safefile.h>
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -32,8 +32,6 @@ QByteArray hashOf(const QByteArray& bytes)
 
 class Preparation
 {
-    Q_DECLARE_TR_FUNCTIONS(Operations::Preparation)
-
 public:
     explicit Preparation(const QString& folder) : m_folder(folder + QLatin1Char('/')) {}
 
@@ -69,19 +67,12 @@ private:
 
     bool write(const QString& name, const QByteArray& bytes)
     {
-        Zorv::Archive& disk = *Zorv::FileSystemArchive::instance();
         QString error;
-        QIODevice* device = disk.openFile(path(name), QIODevice::WriteOnly, &error);
-        if (device) {
-            device->write(bytes);
-            if (disk.closeFile(device, &error)) {
-                return true;
-            }
-        }
+        const bool isWritten = Zorv::SafeFile::save(path(name), bytes, &error);
         if (m_error.isEmpty()) {
-            m_error = tr("Cannot write %1: %2").arg(QDir::toNativeSeparators(path(name)), error);
+            m_error = error;
         }
-        return false;
+        return isWritten;
     }
 
     void putSnippet(const QString& name, const QByteArray& bytes)

@@ -99,13 +99,6 @@ bool copyFile(Archive& source, const QString& sourceName, Archive& target,
     return opened;
 }
 
-bool writeFile(const QString& fileName, const QByteArray& bytes, Existing existing, QString* error)
-{
-    SafeFile::Options options = SafeFile::IsCopy;
-    options.setFlag(SafeFile::KeepsExisting, existing == Existing::Stays);
-    return SafeFile::save(fileName, bytes, error, options);
-}
-
 void removeUnfinished()
 {
     Unfinished::removeAll();

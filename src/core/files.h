@@ -30,16 +30,6 @@ ZORV_EXPORT bool forcePath(const QString& fileName);
 ZORV_EXPORT bool copyFile(Archive& source, const QString& sourceName, Archive& target,
                           const QString& targetName, QString* error = nullptr);
 
-/// What `writeFile()` does about a file that is there already.
-enum class Existing {
-    Stays,      ///< nothing is written
-    IsReplaced  ///< in one step, once the new one has reached the disk
-};
-
-/// `SafeFile::save()` of a copy.
-ZORV_EXPORT bool writeFile(const QString& fileName, const QByteArray& bytes, Existing existing,
-                           QString* error);
-
 /// Removes what is being written, and the backup that is being made, and lets nothing more be
 /// written: any write waits for ever. For a process that ends at once, in a thread of its own.
 ZORV_EXPORT void removeUnfinished();

@@ -185,11 +185,19 @@ def check_own_header(tree, name):
         tree.fault(name, includes[0][0] if includes else 1, f"has to include {own[0]} first")
 
 
+def check_saving(tree, name):
+    """With its buffer it takes a short write on a full disk for success."""
+    for line, included in tree.includes[name]:
+        if included.split("/")[-1] == "QSaveFile":
+            tree.fault(name, line, "includes QSaveFile; files are written by Zorv::SafeFile")
+
+
 def check(root, widget_headers, exceptions):
     """The faults of a tree, as lines of text."""
     tree = Tree(root, widget_headers, exceptions)
     for name in tree.includes:
-        for rule in (check_order, check_widgets, check_private, check_spelling, check_own_header):
+        for rule in (check_order, check_widgets, check_private, check_spelling, check_own_header,
+                     check_saving):
             rule(tree, name)
     for name, target in sorted(set(exceptions) - tree.used_exceptions):
         tree.fault(name, 1, f"the exception for {target} is listed, but no longer needed")

@@ -123,6 +123,9 @@ class CheckLayers(unittest.TestCase):
             "src/code/index.cpp": source("<QString>", '"code/index_p.h"'),
         })), 1)
 
+    def test_files_are_written_whole(self):
+        self.assertEqual(len(faults({"host/app/window.cpp": source("<QtCore/QSaveFile>")})), 1)
+
     def test_pragma_once(self):
         self.assertEqual(faults({"host/app/window.h": "// #pragma once\n"}),
                          ["host/app/window.h:1: the header lacks #pragma once"])

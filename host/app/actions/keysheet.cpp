@@ -2,7 +2,7 @@
 
 #include "app/actions/actionregistry.h"
 
-#include <zorv/core/filesystemarchive.h>
+#include <zorv/core/safefile.h>
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -52,17 +52,6 @@ QVector<Table> tablesOf(const ActionRegistry* registry)
     return tables;
 }
 
-bool write(const QByteArray& data, const QString& fileName, QString* error)
-{
-    auto* archive = Zorv::FileSystemArchive::instance();
-    QIODevice* device = archive->openFile(fileName, QIODevice::WriteOnly, error);
-    if (!device) {
-        return false;
-    }
-    device->write(data);
-    return archive->closeFile(device, error);
-}
-
 }  // namespace
 
 QString keySheet(const ActionRegistry* registry)
@@ -83,7 +72,7 @@ QString keySheet(const ActionRegistry* registry)
 
 bool saveKeySheetAsHtml(const ActionRegistry* registry, const QString& fileName, QString* error)
 {
-    return write(keySheet(registry).toUtf8(), fileName, error);
+    return Zorv::SafeFile::save(fileName, keySheet(registry).toUtf8(), error);
 }
 
 bool saveKeySheetAsPdf(const ActionRegistry* registry, const QString& fileName, QString* error)
@@ -102,7 +91,7 @@ bool saveKeySheetAsPdf(const ActionRegistry* registry, const QString& fileName, 
         document.setHtml(keySheet(registry));
         document.print(&writer);
     }
-    return write(data, fileName, error);
+    return Zorv::SafeFile::save(fileName, data, error);
 }
 
 }  // namespace App

@@ -4,8 +4,9 @@
 #include "app/mainwindow.h"
 #include "app/picture/picturescene.h"
 
+#include <zorv/core/safefile.h>
+
 #include <QApplication>
-#include <QDir>
 #include <QOpenGLWidget>
 #include <QPainter>
 #include <QPixmap>
@@ -59,12 +60,11 @@ bool drawWindow(MainWindow* window, const PictureRequest& request, QString* erro
         arrangeScene(window, request.scene);
     }
     settleWindow();
-    if (!pictureOf(window).save(request.file, "PNG")) {
-        *error = Text::tr("The picture %1 cannot be written. Check the folder and its permissions.")
-                     .arg(QDir::toNativeSeparators(request.file));
-        return false;
-    }
-    return true;
+    Zorv::SafeFile file(request.file);
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           pictureOf(window).save(&file, "PNG") && file.commit();
+    *error = file.failure();
+    return isWritten;
 }
 
 }  // namespace App

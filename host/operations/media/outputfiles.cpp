@@ -4,6 +4,7 @@
 #include "operations/media/mediaresult.h"
 
 #include <zorv/core/files.h>
+#include <zorv/core/safefile.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -93,9 +94,10 @@ QByteArray OutputFiles::format(int index) const
 
 QString OutputFiles::write(int index, const QByteArray& bytes) const
 {
+    Zorv::SafeFile::Options options = Zorv::SafeFile::IsCopy;
+    options.setFlag(Zorv::SafeFile::KeepsExisting, !m_force);
     QString error;
-    Zorv::writeFile(path(index), bytes,
-                    m_force ? Zorv::Existing::IsReplaced : Zorv::Existing::Stays, &error);
+    Zorv::SafeFile::save(path(index), bytes, &error, options);
     return error;
 }
 

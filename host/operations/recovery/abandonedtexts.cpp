@@ -4,7 +4,7 @@
 
 #include <zorv/code/codecs/textcodecs.h>
 #include <zorv/code/codedoc/codedocument.h>
-#include <zorv/core/filesystemarchive.h>
+#include <zorv/core/safefile.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -121,13 +121,7 @@ bool AbandonedText::saveElsewhere(const QString& fileName, QString* error) const
     if (Zorv::TextCodecs::firstUnencodable(content, codec) >= 0) {
         codec = Zorv::TextCodecs::index("UTF-8");
     }
-    auto* archive = Zorv::FileSystemArchive::instance();
-    QIODevice* device = archive->openFile(fileName, QIODevice::WriteOnly, error);
-    if (!device) {
-        return false;
-    }
-    device->write(Zorv::TextCodecs::stringToData(content, codec));
-    return archive->closeFile(device, error);
+    return Zorv::SafeFile::save(fileName, Zorv::TextCodecs::stringToData(content, codec), error);
 }
 
 void applyText(Zorv::CodeDocument* document, const QString& text, const QString& codec)

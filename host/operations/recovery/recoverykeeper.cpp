@@ -7,11 +7,10 @@
 #include <zorv/core/interface.h>
 #include <zorv/core/parentproject.h>
 #include <zorv/core/project.h>
+#include <zorv/core/safefile.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QHash>
-#include <QSaveFile>
 #include <QThreadPool>
 #include <QTimer>
 
@@ -58,23 +57,6 @@ struct Watched
         hasHash = false;
     }
 };
-
-// Without a buffer, so that a disk that is full shows itself at the write.
-QString writeWhole(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        return file.errorString();
-    }
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    if (file.write(bytes) != bytes.size()) {
-        const QString reason = file.errorString();
-        file.cancelWriting();
-        return reason;
-    }
-    return file.commit() ? QString() : file.errorString();
-}
 
 }  // namespace
 
@@ -259,7 +241,8 @@ void RecoveryKeeper::Private::copy(FamilyDocument* document, Watched* watched)
     writer.start([this, document, content, stamp = watched->stamp, number = watched->number,
                   path = folder->copyPath(watched->number)]() mutable {
         content.stamp = *stamp;
-        const QString reason = writeWhole(path, content.toBytes());
+        QString reason;
+        Zorv::SafeFile::save(path, content.toBytes(), &reason, Zorv::SafeFile::OwnerOnly);
         QMetaObject::invokeMethod(
             q, [this, document, number, reason] { written(document, number, reason); },
             Qt::QueuedConnection);
@@ -279,9 +262,7 @@ void RecoveryKeeper::Private::written(FamilyDocument* document, int number, cons
         }
     }
     if (!reason.isEmpty()) {
-        fail(RecoveryKeeper::tr("Unsaved texts cannot be put aside: %1. Save often, and make room "
-                                "on the disk.")
-                 .arg(reason));
+        fail(RecoveryKeeper::tr("Unsaved texts cannot be put aside. %1").arg(reason));
     } else if (pendingCount == 0) {
         hasFailed = false;
         emit q->copied();
