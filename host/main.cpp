@@ -1,5 +1,6 @@
 #include "app/application.h"
 #include "cli/cli.h"
+#include "operations/settingsformat.h"
 
 #include <zorv/media/losslessimages.h>
 
@@ -158,6 +159,7 @@ int main(int argc, char** argv)
     const QStringList arguments = argumentsOf(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("zorv"));
     QCoreApplication::setOrganizationName(QStringLiteral("zorv"));
+    QSettings::setDefaultFormat(Operations::settingsFormat());
     return Cli::isCommand(arguments) ? runOnCommandLine(argv, arguments)
                                      : runInWindow(argc, argv, arguments);
 }

@@ -3,6 +3,7 @@
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
 #include "operations/backups.h"
+#include "operations/settingsformat.h"
 #include "support/planneddialogs.h"
 
 #include <QDir>
@@ -76,7 +77,7 @@ void TestAgreements::holdsForOneFileAsItIs()
     QFETCH(Change, change);
     QTemporaryDir folder;
     PlannedDialogs dialogs;
-    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
+    QSettings settings(folder.filePath("settings.ini"), settingsFormat());
     const QString game = folder.filePath("game");
     QVERIFY(write(game + "/zorv-player", "one"));
     QVERIFY(write(game + "/hero.character", "[info]\r\n"));
@@ -92,7 +93,7 @@ void TestAgreements::holdsForOneFileAsItIs()
     QTEST(mayStart, "mayStart");
     QCOMPARE(dialogs.count(), mayStart ? 0 : 1);
     QVERIFY(tree.mayStart("/bin/true"));
-    QSettings again(folder.filePath("settings.ini"), QSettings::IniFormat);
+    QSettings again(folder.filePath("settings.ini"), settingsFormat());
     QFETCH(Agreement, then);
     QCOMPARE(int(agreementTo(GameProgram(game), again)), int(then));
 }

@@ -1,6 +1,7 @@
 #include "operations/engines.h"
 
 #include "family/project/familyenginemodel.h"
+#include "operations/settingsformat.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -46,10 +47,10 @@ void TestEngines::listsComeBack()
         {"Fight", "/games/a b/fight.exe", "-p1 %1  -s \"%2\", x=1;\\", "/games/fight.png"},
         {"Übung %0", "relative", "", ""},
         {"", "", "@Invalid()", ""}};
-    QSettings settings(fileName, QSettings::IniFormat);
+    QSettings settings(fileName, settingsFormat());
     for (const auto& list : {engines, engines.mid(1, 1), QVector<EngineInfo>(), engines}) {
         QVERIFY(saveEngines(settings, list));
-        QSettings again(fileName, QSettings::IniFormat);
+        QSettings again(fileName, settingsFormat());
         QCOMPARE(texts(loadEngines(again)), texts(list));
         // Nothing of a longer list is left.
         QCOMPARE(again.allKeys().size(), list.size() * 4 + 1);
@@ -58,7 +59,7 @@ void TestEngines::listsComeBack()
     QCOMPARE(texts(FamilyEngineModel::instance()->engines()), texts(engines));
     QCOMPARE(FamilyEngineModel::instance()->engine(1).executable,
              QDir::home().filePath("relative"));
-    useEngines(*std::make_unique<QSettings>(m_dir.filePath("none"), QSettings::IniFormat));
+    useEngines(*std::make_unique<QSettings>(m_dir.filePath("none"), settingsFormat()));
     QCOMPARE(FamilyEngineModel::instance()->engineCount(), 0);
 }
 
@@ -69,10 +70,10 @@ void TestEngines::damagedFileIsWrittenAnew()
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("[General\n");
     file.close();
-    QSettings settings(fileName, QSettings::IniFormat);
+    QSettings settings(fileName, settingsFormat());
     QCOMPARE(settings.status(), QSettings::FormatError);
     QVERIFY(saveEngines(settings, {{"Fight", "/fight", "%0", ""}}));
-    QCOMPARE(loadEngines(*std::make_unique<QSettings>(fileName, QSettings::IniFormat)).size(), 1);
+    QCOMPARE(loadEngines(*std::make_unique<QSettings>(fileName, settingsFormat())).size(), 1);
 }
 
 void TestEngines::settingsOfAnyKind_data()
@@ -94,7 +95,7 @@ void TestEngines::settingsOfAnyKind()
     QFile file(m_dir.filePath("any.conf"));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
     file.close();
-    QSettings settings(file.fileName(), QSettings::IniFormat);
+    QSettings settings(file.fileName(), settingsFormat());
     settings.sync();
     QCOMPARE(loadEngines(settings).size(), count);
 }

@@ -61,8 +61,8 @@ bool drawWindow(MainWindow* window, const PictureRequest& request, QString* erro
     }
     settleWindow();
     Zorv::SafeFile file(request.file);
-    const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                           pictureOf(window).save(&file, "PNG") && file.commit();
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly) && pictureOf(window).save(&file, "PNG") && file.commit();
     *error = file.failure();
     return isWritten;
 }
