@@ -2329,10 +2329,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>&apos;%1&apos; gibt es in &apos;%2&apos; nicht. %3</translation>
     </message>
     <message>
-        <source>There is no &apos;%1&apos; in &apos;%2&apos;: it has %3 frame(s), counted from 0.</source>
-        <translation>&apos;%1&apos; gibt es in &apos;%2&apos; nicht: Dort sind %3 Einzelbilder, gezählt ab 0.</translation>
-    </message>
-    <message>
         <source>There is no &apos;%1&apos; in &apos;%2&apos;: it has %3 of them, counted from 0.</source>
         <translation>&apos;%1&apos; gibt es in &apos;%2&apos; nicht: Dort sind %3 davon, gezählt ab 0.</translation>
     </message>
@@ -2697,13 +2693,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Klang</translation>
     </message>
     <message numerus="yes">
-        <source>%n more records are broken.</source>
-        <translation>
-            <numerusform>%n weiterer Eintrag ist beschädigt.</numerusform>
-            <numerusform>%n weitere Einträge sind beschädigt.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%1 and %n more</source>
         <translation>
             <numerusform>%1 und %n weiterer</numerusform>
@@ -2773,6 +2762,20 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Sound %1 (%2): %3.</source>
         <translation>Klang %1 (%2): %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more record(s) are broken.</source>
+        <translation>
+            <numerusform>%n weiterer Eintrag ist beschädigt.</numerusform>
+            <numerusform>%n weitere Einträge sind beschädigt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There is no &apos;%1&apos; in &apos;%2&apos;: it has %n frame(s), counted from 0.</source>
+        <translation>
+            <numerusform>&apos;%1&apos; gibt es in &apos;%2&apos; nicht: Dort ist %n Einzelbild, gezählt ab 0.</numerusform>
+            <numerusform>&apos;%1&apos; gibt es in &apos;%2&apos; nicht: Dort sind %n Einzelbilder, gezählt ab 0.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4281,20 +4284,29 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>die erweiterbare Form</translation>
     </message>
     <message>
-        <source>Cannot read &apos;%1&apos;: the sizes in it do not fit, and lead to none of its %2 frames.</source>
-        <translation>&apos;%1&apos; lässt sich nicht lesen: Die Größen darin passen nicht und führen zu keinem der %2 Frames.</translation>
-    </message>
-    <message>
         <source>Cannot read &apos;%1&apos;: its samples are not plain ones (PCM), but of format %2. Save it as plain WAV, of 16 bits for example, with the program that made it.</source>
         <translation>&apos;%1&apos; lässt sich nicht lesen: Die Samples sind nicht einfach (PCM), sondern vom Format %2. Bitte mit dem Programm, von dem die Datei stammt, als einfaches WAV speichern, zum Beispiel mit 16 Bit.</translation>
     </message>
-    <message>
-        <source>Of the %1 frames in &apos;%2&apos; %3 are read: the sizes in it do not fit.</source>
-        <translation>Von den %1 Frames in &apos;%2&apos; werden %3 gelesen: Die Größen in der Datei passen nicht.</translation>
+    <message numerus="yes">
+        <source>Cannot read &apos;%1&apos;: the sizes in it do not fit, and lead to none of its %n frame(s).</source>
+        <translation>
+            <numerusform>&apos;%1&apos; lässt sich nicht lesen: Die Größen darin passen nicht und führen nicht zu dem %n Frame.</numerusform>
+            <numerusform>&apos;%1&apos; lässt sich nicht lesen: Die Größen darin passen nicht und führen zu keinem der %n Frames.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>&apos;%1&apos; is cut short: of %2 frames it has %3.</source>
-        <translation>&apos;%1&apos; ist abgeschnitten: Von %2 Frames sind %3 da.</translation>
+    <message numerus="yes">
+        <source>Of the %n frame(s) in &apos;%1&apos; %2 are read: the sizes in it do not fit.</source>
+        <translation>
+            <numerusform>Von dem %n Frame in &apos;%1&apos; werden %2 gelesen: Die Größen in der Datei passen nicht.</numerusform>
+            <numerusform>Von den %n Frames in &apos;%1&apos; werden %2 gelesen: Die Größen in der Datei passen nicht.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>&apos;%1&apos; is cut short: of %n frame(s) it has %2.</source>
+        <translation>
+            <numerusform>&apos;%1&apos; ist abgeschnitten: Von %n Frame sind %2 da.</numerusform>
+            <numerusform>&apos;%1&apos; ist abgeschnitten: Von %n Frames sind %2 da.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -181,8 +181,9 @@ bool Walk::stepToFrame(const AnimationNode* animation, const PathPart& part)
             m_node = animation->childAt(unsigned(index));
             return true;
         }
-        m_error = Text::tr("There is no '%1' in '%2': it has %3 frame(s), counted from 0.")
-                      .arg(part.text(), m_walked, QString::number(animation->childCount()));
+        m_error = Text::tr("There is no '%1' in '%2': it has %n frame(s), counted from 0.", nullptr,
+                           animation->childCount())
+                      .arg(part.text(), m_walked);
         return false;
     }
     return endAt(part,

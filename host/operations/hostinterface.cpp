@@ -1,6 +1,7 @@
 #include "operations/hostinterface.h"
 
 #include "family/project/familyenginemodel.h"
+#include "operations/english.h"
 
 #include <zorv/code/codecs/textcodecs.h>
 #include <zorv/core/progressreporter.h>
@@ -245,6 +246,7 @@ bool HostInterface::watchesFiles() const
 void startHost(HostInterface* host)
 {
     setGlobalInterface(host);
+    speakEnglish();
     Zorv::TextCodecs::setDefaultCodec(Zorv::TextCodecs::index("UTF-8"));
 }
 

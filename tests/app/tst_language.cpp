@@ -49,7 +49,7 @@ QSet<QString> englishTexts()
             source = plain(reader.readElementText());
         } else if (reader.isStartElement() && reader.name() == QLatin1String("translation")) {
             english.insert(source);
-            german.insert(plain(reader.readElementText()));
+            german.insert(plain(reader.readElementText(QXmlStreamReader::IncludeChildElements)));
         }
     }
     return english - german;

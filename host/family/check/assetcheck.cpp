@@ -77,7 +77,7 @@ void AssetCheck::tellFaults(const QStringList& lines)
     }
     if (lines.size() > MostRecords) {
         tell(ProblemId::RecordBroken,
-             Text::tr("%n more records are broken.", nullptr, lines.size() - MostRecords));
+             Text::tr("%n more record(s) are broken.", nullptr, lines.size() - MostRecords));
     }
 }
 

@@ -12,6 +12,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <algorithm>
+#include <limits>
 
 namespace Operations {
 
@@ -100,14 +101,21 @@ QString formOfTag(int tag)
     return found == std::end(forms) ? QString() : Text::tr(found->form);
 }
 
+/// As texts count; a file of more cannot be read at all.
+int numberOf(qint64 frames)
+{
+    return int(qBound<qint64>(0, frames, std::numeric_limits<int>::max()));
+}
+
 /// Why a file gives no sample.
 QString unreadText(const QString& fileName, const Zorv::WaveContents& contents)
 {
     const int tag = contents.formatTag;
     if (tag == PlainTag && contents.info.frames > 0) {
-        return Text::tr("Cannot read '%1': the sizes in it do not fit, and lead to none of its %2 "
-                        "frames.")
-            .arg(fileName, QString::number(contents.info.frames));
+        return Text::tr("Cannot read '%1': the sizes in it do not fit, and lead to none of its %n "
+                        "frame(s).",
+                        nullptr, numberOf(contents.info.frames))
+            .arg(fileName);
     }
     if (tag == 0 || tag == PlainTag) {
         return Text::tr("Cannot read '%1': it is no WAV file with plain samples (PCM).")
@@ -126,13 +134,14 @@ QString partText(const QString& fileName, qint64 read, const Zorv::WaveContents&
 {
     const qint64 held = contents.info.frames;
     if (read < held) {
-        return Text::tr("Of the %1 frames in '%2' %3 are read: the sizes in it do not fit.")
-            .arg(QString::number(held), fileName, QString::number(read));
+        return Text::tr("Of the %n frame(s) in '%1' %2 are read: the sizes in it do not fit.",
+                        nullptr, numberOf(held))
+            .arg(fileName, QString::number(read));
     }
     return contents.missing == 0 ? QString()
-                                 : Text::tr("'%1' is cut short: of %2 frames it has %3.")
-                                       .arg(fileName, QString::number(held + contents.missing),
-                                            QString::number(held));
+                                 : Text::tr("'%1' is cut short: of %n frame(s) it has %2.", nullptr,
+                                            numberOf(held + contents.missing))
+                                       .arg(fileName, QString::number(held));
 }
 
 }  // namespace

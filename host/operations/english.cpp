@@ -1,0 +1,32 @@
+#include "operations/english.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+
+// The library is a static one: nothing else brings its resources in. Qt's macro names a
+// function of the global namespace.
+static void loadEnglish()
+{
+    Q_INIT_RESOURCE(english);
+}
+
+namespace Operations {
+
+void speakEnglish()
+{
+    const QLatin1String name("english");
+    QCoreApplication* application = QCoreApplication::instance();
+    if (!application || application->findChild<QTranslator*>(name)) {
+        return;
+    }
+    loadEnglish();
+    for (const char* file : {"zorv_en_words", "zorv_en"}) {
+        auto* translator = new QTranslator(application);
+        translator->setObjectName(name);
+        if (translator->load(QLatin1String(file), QStringLiteral(":/english"))) {
+            QCoreApplication::installTranslator(translator);
+        }
+    }
+}
+
+}  // namespace Operations
