@@ -12,6 +12,7 @@ QString tr(const char* text)
 }
 
 constexpr quint64 Editing = DryRun | Encoding;
+constexpr quint64 Arranging = Editing | LeaveComments;
 constexpr quint64 Written = Out | Format | Force;
 
 // clang-format off
@@ -39,19 +40,21 @@ constexpr Command table[] = {
      "Print the animations of a file.",
      "A line for each, with a tab between its place, identifier, name, count of frames, time in\n"
      "ticks (-1: it never ends), and line in the file."},
-    {"anim duplicate", "FILE ID [NEWID]", 2, 3, Editing, duplicateAnimation,
+    {"anim duplicate", "FILE ID [NEWID]", 2, 3, Arranging, duplicateAnimation,
      "Copy an animation.",
      "The copy stands behind the animation ID and is called NEWID. Without NEWID a free\n"
-     "identifier is chosen and printed."},
-    {"anim move", "FILE ID POSITION", 3, 3, Editing, moveAnimation,
+     "identifier is chosen and printed. Comments directly above the animation are copied too."},
+    {"anim move", "FILE ID POSITION", 3, 3, Arranging, moveAnimation,
      "Move an animation to another place.",
-     "It stands at POSITION afterwards, counted from 0 as in 'anim list'."},
-    {"anim remove", "FILE ID...", 2, Command::Any, Editing, removeAnimations,
+     "It stands at POSITION afterwards, counted from 0 as in 'anim list'. Comments directly above\n"
+     "it go along."},
+    {"anim remove", "FILE ID...", 2, Command::Any, Arranging, removeAnimations,
      "Remove animations.",
-     "If one of them is not there, none is removed."},
-    {"anim sort", "FILE", 1, 1, Editing, sortAnimations,
+     "If one of them is not there, none is removed. Comments directly above one go with it."},
+    {"anim sort", "FILE", 1, 1, Arranging, sortAnimations,
      "Sort the animations.",
-     "Numbers are sorted by value, words without regard to case."},
+     "Numbers are sorted by value, words without regard to case. Comments directly above an\n"
+     "animation go along."},
     {"anim gif", "FILE ID IMAGE", 3, 3, Encoding | SpriteFile | PaletteId | Force,
      writeAnimationGif,
      "Write an animation as an animated GIF.",

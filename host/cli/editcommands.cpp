@@ -99,19 +99,20 @@ int listAnimations(const Invocation& invocation, Output& output)
 int duplicateAnimation(const Invocation& invocation, Output& output)
 {
     QString chosen;
-    const int status = editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
-        FamilyAnimations* list = document->animations();
-        const int index = Operations::findAnimation(list, invocation.operands.at(1), error);
-        if (index < 0) {
-            return false;
-        }
-        QString identifier = invocation.operands.value(2);
-        if (invocation.operands.size() < 3) {
-            identifier = Operations::freeIdentifier(list, list->animation(index)->identifier());
-            chosen = identifier;
-        }
-        return Operations::duplicateAnimation(list, index, identifier, error);
-    });
+    const int status =
+        arrangeFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+            FamilyAnimations* list = document->animations();
+            const int index = Operations::findAnimation(list, invocation.operands.at(1), error);
+            if (index < 0) {
+                return false;
+            }
+            QString identifier = invocation.operands.value(2);
+            if (invocation.operands.size() < 3) {
+                identifier = Operations::freeIdentifier(list, list->animation(index)->identifier());
+                chosen = identifier;
+            }
+            return Operations::duplicateAnimation(list, index, identifier, error);
+        });
     if (status == Fine && !chosen.isEmpty() && !invocation.dryRun) {
         output.write(chosen + QLatin1Char('\n'));
     }
@@ -120,7 +121,7 @@ int duplicateAnimation(const Invocation& invocation, Output& output)
 
 int moveAnimation(const Invocation& invocation, Output& output)
 {
-    return editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+    return arrangeFile(invocation, output, [&](FamilyDocument* document, QString* error) {
         FamilyAnimations* list = document->animations();
         const int from = Operations::findAnimation(list, invocation.operands.at(1), error);
         int to = 0;
@@ -131,7 +132,7 @@ int moveAnimation(const Invocation& invocation, Output& output)
 
 int removeAnimations(const Invocation& invocation, Output& output)
 {
-    return editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+    return arrangeFile(invocation, output, [&](FamilyDocument* document, QString* error) {
         QVector<int> indexes;
         for (const QString& reference : invocation.operands.mid(1)) {
             const int index = Operations::findAnimation(document->animations(), reference, error);
@@ -147,7 +148,7 @@ int removeAnimations(const Invocation& invocation, Output& output)
 
 int sortAnimations(const Invocation& invocation, Output& output)
 {
-    return editFile(invocation, output, [](FamilyDocument* document, QString*) {
+    return arrangeFile(invocation, output, [](FamilyDocument* document, QString*) {
         document->animations()->autoOrganize();
         return true;
     });

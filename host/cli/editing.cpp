@@ -109,6 +109,15 @@ int editFile(const Invocation& invocation, Output& output, const Edit& edit)
     return invocation.dryRun ? change() : changeFile(invocation.operands.first(), change);
 }
 
+int arrangeFile(const Invocation& invocation, Output& output, const Edit& edit)
+{
+    return editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+        document->setOption(QStringLiteral("code_comments_travel"), !invocation.leavesComments,
+                            false, false);
+        return edit(document, error);
+    });
+}
+
 int readFile(const Invocation& invocation, const Edit& look)
 {
     QString error;

@@ -21,6 +21,10 @@ using Edit = std::function<bool(Family::FamilyDocument* document, QString* error
 /// instead. Gives the exit status. `edit` may be called several times.
 int editFile(const Invocation& invocation, Output& output, const Edit& edit);
 
+/// As `editFile()`, for what is done with animations: with `--leave-comments` the comments above
+/// them stay.
+int arrangeFile(const Invocation& invocation, Output& output, const Edit& edit);
+
 /// As `editFile()`, but only looks at the document.
 int readFile(const Invocation& invocation, const Edit& look);
 

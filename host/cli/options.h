@@ -31,6 +31,7 @@ struct Invocation
     bool crops = false;
     bool isCommon = false;
     bool isLenient = false;
+    bool leavesComments = false;
     int columns = 0;  ///< 0 for as many as make the sheet about square
     int group = -1;
     QPoint axis;
@@ -91,7 +92,8 @@ enum Option : quint64 {
     AsSheet = quint64(1) << 33,
     OneAnimation = quint64(1) << 34,
     Trust = quint64(1) << 35,
-    Lenient = quint64(1) << 36
+    Lenient = quint64(1) << 36,
+    LeaveComments = quint64(1) << 37
 };
 
 /// One option: a row of the table.

@@ -3,6 +3,7 @@
 #include "family/familydocument.h"
 #include "family/grammar/linescanner.h"
 #include "family/nodes/animationnode.h"
+#include "family/nodes/headcomments.h"
 #include "family/nodes/lineedit.h"
 
 #include <QTextBlock>
@@ -12,11 +13,12 @@ namespace Family {
 
 namespace {
 
-/// One step of undo, as long as the object lives.
+/// One step of undo, as long as the object lives; comments travel in it.
 class Change
 {
 public:
-    Change(Zorv::Animations* list, const QString& title) : m_list(list)
+    Change(Zorv::Animations* list, const QString& title)
+        : m_list(list), m_travel(static_cast<FamilyDocument*>(list->document()))
     {
         m_list->beginChange(title);
     }
@@ -25,18 +27,21 @@ public:
 private:
     Q_DISABLE_COPY(Change)
     Zorv::Animations* m_list;
+    CommentTravel m_travel;
 };
 
 /// The text of an animation with another identifier in its head line.
 QString renamed(const AnimationNode* animation, const QString& identifier)
 {
-    QString text = animation->selectAll().selectedText();
+    const QTextCursor all = animation->selectAll();
+    QString text = all.selectedText();
     const NodeLine line(animation);
     const LinePart* old = line.details.part(LinePart::Argument);
     if (identifier.isEmpty() || !old || old->start == old->end) {
         return text;
     }
-    return text.replace(old->start, old->end - old->start, identifier);
+    const int head = animation->block().position() - all.selectionStart();
+    return text.replace(head + old->start, old->end - old->start, identifier);
 }
 
 }  // namespace
@@ -89,12 +94,19 @@ QVariant FamilyAnimations::data(const QModelIndex& index, int role) const
 
 /// The last animation reaches to the end of the text. Without a line end there
 /// the library would cut its last character, or join it with what comes behind.
-void FamilyAnimations::ensureLineEndBehind(unsigned index)
+/// A comment there must not come to stand above another head.
+void FamilyAnimations::ensureEndBehind(unsigned index)
 {
-    Zorv::CodeDocument* text = document();
+    auto* text = static_cast<FamilyDocument*>(document());
     const Zorv::AnimationCode* moved = at(index);
-    if (moved && moved->lastLine() >= text->blockCount() && text->lastBlock().length() > 1) {
-        text->insert(QStringLiteral("\n"));
+    if (!moved || moved->lastLine() < text->blockCount()) {
+        return;
+    }
+    const bool hasEnd = text->lastBlock().length() == 1;
+    const QTextBlock last = hasEnd ? text->lastBlock().previous() : text->lastBlock();
+    const bool isNextToHead = text->doCommentsTravel() && isCommentLine(last);
+    if (!hasEnd || isNextToHead) {
+        text->insert(QString(int(!hasEnd) + int(isNextToHead), QLatin1Char('\n')));
     }
 }
 
@@ -104,7 +116,7 @@ bool FamilyAnimations::duplicateAnimation(int index, const QString& identifier)
         return false;
     }
     const Change change(this, tr("Duplicate animation"));
-    ensureLineEndBehind(unsigned(index));
+    ensureEndBehind(unsigned(index));
     const AnimationNode* source = animation(index);
     const QString text = renamed(source, identifier);
     QTextCursor cursor = source->selectAll();
@@ -122,7 +134,7 @@ void FamilyAnimations::remove(unsigned index)
 void FamilyAnimations::move(unsigned from, unsigned to)
 {
     const Change change(this, tr("Move animation"));
-    ensureLineEndBehind(from);
+    ensureEndBehind(from);
     Animations::move(from, to);
 }
 

@@ -9,7 +9,7 @@ class FamilyDocument;
 
 /// The animations of a document. The operations of the library that would join
 /// lines of a text without a final line end put that end first, within the same
-/// step of undo.
+/// step of undo. Comments directly above an animation go with it, see `CommentTravel`.
 class FamilyAnimations final : public Zorv::Animations
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     /// The place of the first animation with that identifier, -1 without one.
     int indexOfIdentifier(const QString& identifier) const;
 
-    /// Writes a copy right behind an animation; `identifier` replaces its own
+    /// Writes a copy right behind an animation, with its comments; `identifier` replaces its own
     /// unless it is empty. One step of undo. False, and no change, for a place
     /// outside of the list or a text that is no identifier.
     bool duplicateAnimation(int index, const QString& identifier);
@@ -46,7 +46,7 @@ public:
     void release() override;
 
 private:
-    void ensureLineEndBehind(unsigned index);
+    void ensureEndBehind(unsigned index);
 };
 
 /// Moves an animation so that it stands at `to` afterwards, also at the end.

@@ -17,11 +17,29 @@ constexpr int outermost = 4;
 
 }  // namespace
 
+CommentTravel::CommentTravel(FamilyDocument* document)
+{
+    const QVariant option =
+        document ? document->option(QStringLiteral("code_comments_travel")) : QVariant(false);
+    m_document = !option.isValid() || option.toBool() ? document : nullptr;
+    if (m_document) {
+        ++m_document->m_commentTravels;
+    }
+}
+
+CommentTravel::~CommentTravel()
+{
+    if (m_document) {
+        --m_document->m_commentTravels;
+    }
+}
+
 FamilyDocument::FamilyDocument(FileKind kind) : CodeDocument(short(kind))
 {
     setOption(QStringLiteral("parseCode"), true, false, false);
     setOption(QStringLiteral("highlightCode"), true, false, false);
     m_animations = new FamilyAnimations(this);
+    connect(this, &CodeDocument::haveRead, this, &FamilyDocument::synchronized);
     setParser(FamilyParser::instance());
 }
 
@@ -64,6 +82,15 @@ int FamilyDocument::blockFolding(const QString& line) const
     scanner.skipBlanks();
     const bool isHead = word == QLatin1String("animation") && scanner.current() != QLatin1Char('=');
     return isHead ? headLine | outermost : bodyLine;
+}
+
+bool FamilyDocument::toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy)
+{
+    const bool isWritten = CodeDocument::toFile(archive, fileName, asCopy);
+    if (isWritten && !asCopy) {
+        emit synchronized();
+    }
+    return isWritten;
 }
 
 void FamilyDocument::release()

@@ -42,6 +42,7 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("code_highlight_line"), true},
         {QStringLiteral("code_highlight_blocks"), false},
         {QStringLiteral("code_paren_matching"), true},
+        {QStringLiteral("code_comments_travel"), true},
         {QStringLiteral("line"), QColor()},
         {QStringLiteral("block_range"), QColor()},
         {QStringLiteral("paren_range"), QColor()},

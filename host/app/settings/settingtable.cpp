@@ -108,6 +108,8 @@ const QVector<SettingRow>& settingTable()
          QT_TRANSLATE_NOOP("App::Settings", "Sets the part of the text in which the cursor is off from the rest")},
         {"code_paren_matching", "code", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "Show matching brac&kets"),
          QT_TRANSLATE_NOOP("App::Settings", "At a bracket, the one that belongs to it and what stands between")},
+        {"code_comments_travel", "code", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "Comments above an animation go &with it"),
+         QT_TRANSLATE_NOOP("App::Settings", "They are moved, sorted, copied and removed with the animation that stands directly below")},
         {"show_code_bar", "code", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "Show the &tool bar of code"),
          QT_TRANSLATE_NOOP("App::Settings", "Snippets and problems, above the text")},
         {"auto_expand_tree", "code", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "&Open only the present branch of the tree"),
@@ -121,7 +123,7 @@ const QVector<SettingRow>& settingTable()
         {"paren", "code", Row::Colour, QT_TRANSLATE_NOOP("App::Settings", "Matchin&g brackets:"),
          QT_TRANSLATE_NOOP("App::Settings", "What the brackets themselves are written in"), 0, 0, QT_TRANSLATE_NOOP("App::Settings", "As the theme")},
 
-        {"recovery_seconds", "files", Row::Number, QT_TRANSLATE_NOOP("App::Settings", "&Copy unsaved texts aside after:"),
+        {"recovery_seconds", "files", Row::Number, QT_TRANSLATE_NOOP("App::Settings", "&Copy unsaved work aside after:"),
          QT_TRANSLATE_NOOP("App::Settings", "The copies are offered after a crash. 0 makes none."), 0, 600,
          QT_TRANSLATE_NOOP("App::Settings", "Never"), QT_TRANSLATE_NOOP("App::Settings", " s")},
         {"enable_file_watcher", "files", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "&Watch for changes on disk"),

@@ -3,6 +3,7 @@
 #include "family/grammar/linescanner.h"
 #include "family/nodes/boxnode.h"
 #include "family/nodes/framenode.h"
+#include "family/nodes/headcomments.h"
 #include "family/nodes/lineedit.h"
 #include "family/nodes/valuetext.h"
 
@@ -61,6 +62,11 @@ void AnimationNode::setName(const QString& name)
     } else {
         replaceColumns(this, {{start, start, QLatin1Char(' ') + quotedText(name)}});
     }
+}
+
+int AnimationNode::firstLine() const
+{
+    return firstLineOfHead(this);
 }
 
 int AnimationNode::duration() const

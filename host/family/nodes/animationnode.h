@@ -26,6 +26,9 @@ public:
     /// Edits the text in quotes; an empty name takes it away.
     void setName(const QString& name) override;
 
+    /// With the comments directly above while they travel, see `CommentTravel`.
+    int firstLine() const override;
+
     int duration() const override;
     int loopFrame() const override;
 

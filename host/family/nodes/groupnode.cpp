@@ -3,6 +3,7 @@
 #include "family/grammar/grammar.h"
 #include "family/grammar/linescanner.h"
 #include "family/nodes/boxnode.h"
+#include "family/nodes/headcomments.h"
 #include "family/nodes/lineedit.h"
 #include "family/nodes/valuetext.h"
 
@@ -92,6 +93,11 @@ void GroupNode::setName(const QString& name)
         text.prepend(QLatin1Char(' '));
     }
     replaceColumns(this, {{old->start, old->end, text}});
+}
+
+int GroupNode::firstLine() const
+{
+    return firstLineOfHead(this);
 }
 
 GroupNode* GroupNode::subGroup(const QString& name) const

@@ -31,6 +31,9 @@ public:
     /// name. Nothing for a name that cannot be written.
     void setName(const QString& name) override;
 
+    /// With the comments directly above while they travel, see `CommentTravel`.
+    int firstLine() const override;
+
     /// The first sub-group of that name, null without one; sub-groups of a sub-group do not exist.
     GroupNode* subGroup(const QString& name) const;
 
