@@ -421,6 +421,17 @@
     </message>
 </context>
 <context>
+    <name>App::DiffView</name>
+    <message>
+        <source>Comparison of the file and the unsaved work</source>
+        <translation>Vergleich der Datei mit der ungespeicherten Arbeit</translation>
+    </message>
+    <message>
+        <source>The rest is not shown.</source>
+        <translation>Der Rest wird nicht gezeigt.</translation>
+    </message>
+</context>
+<context>
     <name>App::DocumentTabs</name>
     <message>
         <source>new file</source>
@@ -1111,14 +1122,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Kopie speichern &amp;unter ...</translation>
     </message>
     <message>
-        <source>Unsaved texts</source>
-        <translation>Ungespeicherte Texte</translation>
-    </message>
-    <message>
-        <source>Zorv ended before these texts were saved. Restoring puts a text into its document as unsaved changes; no file is written.</source>
-        <translation>Zorv wurde beendet, bevor diese Texte gespeichert waren. Beim Wiederherstellen kommt ein Text als ungespeicherte Änderung in sein Dokument; keine Datei wird geschrieben.</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>Datei</translation>
     </message>
@@ -1129,10 +1132,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Decision</source>
         <translation>Entscheidung</translation>
-    </message>
-    <message>
-        <source>Comparison of the file and the unsaved text</source>
-        <translation>Vergleich der Datei mit dem ungespeicherten Text</translation>
     </message>
     <message>
         <source>Restore a&amp;ll</source>
@@ -1147,10 +1146,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Das ändert die Wiederherstellung:</translation>
     </message>
     <message>
-        <source>Cannot be applied: the file was changed after this text was read from it. The copy can be saved under another name.</source>
-        <translation>Nicht anwendbar: Die Datei wurde geändert, nachdem dieser Text aus ihr gelesen worden war. Die Kopie kann unter einem anderen Namen gespeichert werden.</translation>
-    </message>
-    <message>
         <source>Cannot be applied: the file is no longer there. The copy can be saved under another name.</source>
         <translation>Nicht anwendbar: Die Datei ist nicht mehr da. Die Kopie kann unter einem anderen Namen gespeichert werden.</translation>
     </message>
@@ -1163,12 +1158,28 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>die Datei</translation>
     </message>
     <message>
-        <source>the unsaved text</source>
-        <translation>der ungespeicherte Text</translation>
+        <source>sprites</source>
+        <translation>Sprites</translation>
     </message>
     <message>
-        <source>The rest is not shown.</source>
-        <translation>Der Rest wird nicht gezeigt.</translation>
+        <source>sounds</source>
+        <translation>Klänge</translation>
+    </message>
+    <message>
+        <source>Unsaved work</source>
+        <translation>Ungespeicherte Arbeit</translation>
+    </message>
+    <message>
+        <source>Zorv ended before this work was saved. Restoring brings it back as unsaved changes; no file is written.</source>
+        <translation>Zorv wurde beendet, bevor diese Arbeit gespeichert war. Beim Wiederherstellen kommt sie als ungespeicherte Änderung zurück; keine Datei wird geschrieben.</translation>
+    </message>
+    <message>
+        <source>Cannot be applied: the file was changed after this work had begun. The copy can be saved under another name.</source>
+        <translation>Nicht anwendbar: Die Datei wurde geändert, nachdem diese Arbeit begonnen hatte. Die Kopie kann unter einem anderen Namen gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>the unsaved work</source>
+        <translation>die ungespeicherte Arbeit</translation>
     </message>
 </context>
 <context>
@@ -1445,10 +1456,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Shows words, numbers and texts in colours, and lists what is wrong</source>
         <translation>Zeigt Wörter, Zahlen und Texte farbig und listet auf, was falsch ist</translation>
-    </message>
-    <message>
-        <source>&amp;Copy unsaved texts aside after:</source>
-        <translation>&amp;Ungespeicherte Texte sichern nach:</translation>
     </message>
     <message>
         <source>The copies are offered after a crash. 0 makes none.</source>
@@ -1785,6 +1792,18 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Boxes are drawn over crosses, and the mouse finds boxes first</source>
         <translation>Boxen werden über Kreuzen gezeichnet, und die Maus findet Boxen zuerst</translation>
+    </message>
+    <message>
+        <source>Comments above an animation go &amp;with it</source>
+        <translation>Kommentare über einer Animation &amp;wandern mit</translation>
+    </message>
+    <message>
+        <source>They are moved, sorted, copied and removed with the animation that stands directly below</source>
+        <translation>Sie werden mit der Animation direkt darunter verschoben, sortiert, kopiert und entfernt</translation>
+    </message>
+    <message>
+        <source>&amp;Copy unsaved work aside after:</source>
+        <translation>&amp;Ungespeicherte Arbeit sichern nach:</translation>
     </message>
 </context>
 <context>
@@ -2175,10 +2194,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>App::WorkRecovery</name>
     <message>
-        <source>Unsaved texts</source>
-        <translation>Ungespeicherte Texte</translation>
-    </message>
-    <message>
         <source>%1 belongs to the game %2. It is offered again when that is opened.</source>
         <translation>%1 gehört zum Spiel %2 und wird wieder angeboten, wenn dieses geöffnet wird.</translation>
     </message>
@@ -2189,6 +2204,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>%1 is no longer named by its project. The copy is kept.</source>
         <translation>%1 wird von seinem Projekt nicht mehr genannt. Die Kopie bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>Unsaved work</source>
+        <translation>Ungespeicherte Arbeit</translation>
     </message>
 </context>
 <context>
@@ -3059,6 +3078,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Sounds</source>
         <translation>Klänge</translation>
     </message>
+    <message>
+        <source>Restore unsaved sounds</source>
+        <translation>Ungespeicherte Klänge wiederherstellen</translation>
+    </message>
 </context>
 <context>
     <name>Family::SpriteCollection</name>
@@ -3097,6 +3120,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Broken: %1</source>
         <translation>Beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>Restore unsaved sprites</source>
+        <translation>Ungespeicherte Sprites wiederherstellen</translation>
     </message>
 </context>
 <context>
@@ -3805,7 +3832,11 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
-    <name>Operations::AbandonedTexts</name>
+    <name>Operations::AbandonedWork</name>
+    <message>
+        <source>The copy is of another kind than its file.</source>
+        <translation>Die Kopie ist von anderer Art als ihre Datei.</translation>
+    </message>
     <message>
         <source>The copy cannot be read.</source>
         <translation>Die Kopie kann nicht gelesen werden.</translation>
@@ -4210,8 +4241,16 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>Operations::RecoveryKeeper</name>
     <message>
-        <source>Unsaved texts cannot be put aside. %1</source>
-        <translation>Ungespeicherte Texte können nicht gesichert werden. %1</translation>
+        <source>bytes are missing</source>
+        <translation>Bytes fehlen</translation>
+    </message>
+    <message>
+        <source>Unsaved work cannot be put aside. %1</source>
+        <translation>Ungespeicherte Arbeit kann nicht gesichert werden. %1</translation>
+    </message>
+    <message>
+        <source>Unsaved work cannot be put aside. Save often, and make room on the disk. %1</source>
+        <translation>Ungespeicherte Arbeit kann nicht gesichert werden. Speichern Sie oft, und schaffen Sie Platz auf der Festplatte. %1</translation>
     </message>
 </context>
 <context>

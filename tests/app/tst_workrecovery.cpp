@@ -1,8 +1,14 @@
 #include "app/recovery/recoverydialog.h"
 #include "app/recovery/workrecovery.h"
-#include "operations/recovery/abandonedtexts.h"
+#include "family/assets/familysound.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritefile.h"
+#include "operations/recovery/abandonedwork.h"
 #include "operations/recovery/recoverykeeper.h"
 #include "windowfixture.h"
+
+#include <zorv/core/filesystemarchive.h>
+#include <zorv/media/soundsample.h>
 
 #include <QApplication>
 #include <QPlainTextEdit>
@@ -16,12 +22,14 @@
 
 using App::RecoveryDialog;
 using App::WorkRecovery;
-using Operations::AbandonedTexts;
+using Operations::AbandonedWorks;
 
 namespace {
 
 constexpr int Kills = 50;
 constexpr int KillsWithWindow = 10;
+constexpr int AssetKills = 25;
+constexpr int KillsWithAssetWindow = 4;
 
 QChar letter(int number)
 {
@@ -48,6 +56,62 @@ int typeUntilKilled(const QString& root, const QString& folder, const QString& f
         ++typed;
     });
     keys.start(2);
+    return QApplication::exec();
+}
+
+/// Sprites, palettes and sounds that tell which one they are.
+void addTo(const Family::FamilyProject* project, int number)
+{
+    QImage image(4, 4, QImage::Format_Indexed8);
+    image.setColorTable({qRgb(0, 0, 0), qRgb(number, 1, 1)});
+    image.fill(number % 2);
+    Family::SpriteCollection* sprites = project->sprites();
+    sprites->insertSprite(int(sprites->count()) - 1, {9, quint16(number)}, {number, 1}, image);
+    Zorv::SoundSample sample;
+    sample.channels = 1;
+    sample.bits = 8;
+    sample.sampleRate = 8000;
+    sample.data = QByteArray(100 + number, char(number));
+    project->sounds()->add(int(project->sounds()->count()), QString("9,%1").arg(number), sample);
+}
+
+/// At least so many have come back, each as it was, and as one step.
+void compareAdded(Family::SpriteCollection* sprites, Family::SoundFile* sounds, int least)
+{
+    QVERIFY(int(std::min(sprites->count(), sounds->count())) >= least);
+    for (int at = 0; at < int(sprites->count()); ++at) {
+        QCOMPARE(sprites->sprite(at)->axis(), QPoint(at, 1));
+        QCOMPARE(sprites->sprite(at)->image().pixel(1, 1), at % 2 ? qRgb(at, 1, 1) : qRgb(0, 0, 0));
+    }
+    for (int at = 0; at < int(sounds->count()); ++at) {
+        QCOMPARE(sounds->sound(at)->sampleData(), QByteArray(100 + at, char(at)));
+    }
+    QVERIFY(sprites->isModified() && sounds->isModified());
+    sprites->undo();
+    sounds->undo();
+    QVERIFY(sprites->isEmpty() && !sprites->isModified());
+    QVERIFY(sounds->isEmpty() && !sounds->isModified());
+}
+
+/// As `typeUntilKilled()`, with sprites and sounds.
+int addUntilKilled(const QString& root, const QString& folder, const QString& file)
+{
+    WindowFixture fixture(folder + "/child.ini");
+    WorkRecovery recovery(fixture.window.get(), root);
+    recovery.keeper()->setInterval(20);
+    fixture.window->openPath(folder);
+    fixture.window->openFile(file);
+    int added = 0;
+    QObject::connect(recovery.keeper(), &Operations::RecoveryKeeper::copied, [&added] {
+        printf("%d\n", added);
+        fflush(stdout);
+    });
+    QTimer adding;
+    QObject::connect(&adding, &QTimer::timeout, [&] {
+        addTo(fixture.window->currentProject(), added);
+        ++added;
+    });
+    adding.start(2);
     return QApplication::exec();
 }
 
@@ -85,6 +149,7 @@ class TestWorkRecovery : public QObject
 private slots:
     void init();
     void killedWindowLosesLittle();
+    void killedWindowLosesFewSpritesAndSounds();
     void decisionsAreKept();
     void otherGameIsOpened();
     void gameIsAskedAboutWhenOpened();
@@ -95,7 +160,7 @@ private:
     QString root() const { return m_dir->filePath("recovery"); }
     QString settings() const { return m_dir->filePath("settings.ini"); }
     void leave(const QString& name, const QString& file, const QString& text);
-    int killWhileTyping(const QString& file, QRandomGenerator* random);
+    int killWhile(const QString& task, const QString& file, QRandomGenerator* random);
 
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<TemporaryGame> m_game;
@@ -108,11 +173,11 @@ void TestWorkRecovery::init()
 }
 
 /// Gives the letters that were typed when the last copy but one was whole.
-int TestWorkRecovery::killWhileTyping(const QString& file, QRandomGenerator* random)
+int TestWorkRecovery::killWhile(const QString& task, const QString& file, QRandomGenerator* random)
 {
     QProcess child;
     child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    child.start(QCoreApplication::applicationFilePath(), {"type", root(), m_game->root(), file});
+    child.start(QCoreApplication::applicationFilePath(), {task, root(), m_game->root(), file});
     QList<int> reported;
     const auto read = [&] {
         while (child.canReadLine()) {
@@ -137,7 +202,7 @@ void TestWorkRecovery::killedWindowLosesLittle()
     const QByteArray before = m_game->read("characters/ryn/moves.code");
     const QString text = QString::fromLatin1(before).replace("\r\n", "\n");
     for (int i = 0; i < Kills; ++i) {
-        const int safe = killWhileTyping(m_game->path("characters/ryn/moves.code"), &random);
+        const int safe = killWhile("type", m_game->path("characters/ryn/moves.code"), &random);
         QVERIFY(safe > 0);
         QCOMPARE(m_game->read("characters/ryn/moves.code"), before);
         QString recovered;
@@ -152,9 +217,9 @@ void TestWorkRecovery::killedWindowLosesLittle()
             fixture.press(Qt::Key_Z, Qt::ControlModifier);
             QCOMPARE(fixture.document()->text(), text);
         } else {
-            const AbandonedTexts found(root());
+            const AbandonedWorks found(root());
             QCOMPARE(found.all().size(), 1);
-            QCOMPARE(found.all().first().state, Operations::AbandonedText::Applicable);
+            QCOMPARE(found.all().first().state, Operations::AbandonedWork::Applicable);
             recovered = found.all().first().copy.text;
             QVERIFY(found.all().first().discard());
         }
@@ -164,7 +229,58 @@ void TestWorkRecovery::killedWindowLosesLittle()
         for (int at = 0; at < count; ++at) {
             QCOMPARE(recovered.at(at), letter(at));
         }
-        QVERIFY(AbandonedTexts(root()).all().isEmpty());
+        QVERIFY(AbandonedWorks(root()).all().isEmpty());
+    }
+}
+
+// What was there when the last copy but one was whole comes back, step for step.
+void TestWorkRecovery::killedWindowLosesFewSpritesAndSounds()
+{
+    const quint32 seed = 20241122;
+    qInfo("seed %u", seed);
+    QRandomGenerator random(seed);
+    m_game->write("characters/ryn/ryn.character",
+                  m_game->read("characters/ryn/ryn.character")
+                      .replace("[files]\r\n", "[files]\r\nsprites = \"a.sprites\"\r\n"
+                                              "sounds = \"a.sounds\"\r\n"));
+    auto* disk = Zorv::FileSystemArchive::instance();
+    QVERIFY(Family::SpriteFile().toFile(*disk, m_game->path("characters/ryn/a.sprites"), true));
+    QVERIFY(Family::SoundFile().toFile(*disk, m_game->path("characters/ryn/a.sounds"), true));
+    const auto bytes = [this] {
+        return m_game->read("characters/ryn/a.sprites") + m_game->read("characters/ryn/a.sounds");
+    };
+    const QByteArray before = bytes();
+    for (int i = 0; i < AssetKills; ++i) {
+        const int safe = killWhile("add", m_game->ryn(), &random);
+        QVERIFY(safe > 0);
+        QCOMPARE(bytes(), before);
+        if (i >= KillsWithAssetWindow) {
+            Family::SpriteFile sprites;
+            Family::SoundFile sounds;
+            const AbandonedWorks found(root());
+            for (const Operations::AbandonedWork& work : found.all()) {
+                QString error;
+                const bool areSprites = work.copy.content == Operations::RecoveryCopy::Sprites;
+                QVERIFY(areSprites ? work.restore(&sprites, &error)
+                                   : work.restore(&sounds, &error));
+                QCOMPARE(work.state, Operations::AbandonedWork::Applicable);
+                QVERIFY(work.discard());
+            }
+            compareAdded(&sprites, &sounds, safe);
+            continue;
+        }
+        WindowFixture fixture(settings());
+        WorkRecovery recovery(fixture.window.get(), root());
+        whenAsked([](RecoveryDialog* dialog) {
+            const QString diff = dialog->findChild<QPlainTextEdit*>()->toPlainText();
+            QVERIFY(diff.contains("+sprite 9,0 axis 0,1") || diff.contains("+sound 9,0 8000 Hz"));
+            clickButton(dialog, "Restore all");
+        });
+        recovery.offerAll();
+        const Family::FamilyProject* project = fixture.window->currentProject();
+        QVERIFY(project);
+        compareAdded(project->sprites(), project->sounds(), safe);
+        QVERIFY(AbandonedWorks(root()).all().isEmpty());
     }
 }
 
@@ -185,7 +301,7 @@ void TestWorkRecovery::leave(const QString& name, const QString& file, const QSt
     QDir().mkpath(root() + "/dead");
     QFile out(root() + "/dead/" + name + ".zorvcopy");
     QVERIFY(out.open(QIODevice::WriteOnly));
-    out.write(copy.toBytes());
+    QVERIFY(copy.write(&out));
 }
 
 void TestWorkRecovery::decisionsAreKept()
@@ -200,7 +316,7 @@ void TestWorkRecovery::decisionsAreKept()
     WorkRecovery recovery(fixture.window.get(), root());
     fixture.dialogs.fileAnswers = {{m_game->path("rescued.character")}};
     whenAsked([](RecoveryDialog* dialog) {
-        auto* list = dialog->findChild<QTreeWidget*>("texts");
+        auto* list = dialog->findChild<QTreeWidget*>("works");
         QCOMPARE(list->topLevelItemCount(), 4);
         QVERIFY(dialog->findChild<QPlainTextEdit*>()->toPlainText().contains("+restored"));
         QTest::keyClick(list, Qt::Key_Down);
@@ -219,7 +335,7 @@ void TestWorkRecovery::decisionsAreKept()
     QCOMPARE(fixture.document()->fileName(), m_game->ryn());
     QCOMPARE(fixture.document()->text(), QString("restored\n"));
     QCOMPARE(fixture.window->session()->modifiedDocuments().size(), 1);
-    const AbandonedTexts left(root());
+    const AbandonedWorks left(root());
     QCOMPARE(left.all().size(), 2);
     QCOMPARE(left.all().first().copy.text, QString("older\n"));
     QCOMPARE(left.all().last().copy.text, QString("later\n"));
@@ -257,7 +373,7 @@ void TestWorkRecovery::gameIsAskedAboutWhenOpened()
         clickButton(dialog, "Cancel");
     });
     QTRY_COMPARE(asked, 1);
-    QCOMPARE(AbandonedTexts(root()).all().size(), 1);
+    QCOMPARE(AbandonedWorks(root()).all().size(), 1);
 }
 
 void TestWorkRecovery::newFileComesBack()
@@ -294,6 +410,9 @@ int main(int argc, char** argv)
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == "type" && arguments.size() == 5) {
         return typeUntilKilled(arguments[2], arguments[3], arguments[4]);
+    }
+    if (arguments.value(1) == "add" && arguments.size() == 5) {
+        return addUntilKilled(arguments[2], arguments[3], arguments[4]);
     }
     TestWorkRecovery test;
     return QTest::qExec(&test, argc, argv);

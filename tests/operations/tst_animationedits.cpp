@@ -24,15 +24,16 @@ QString textOf(const QStringList& identifiers)
 
 QString randomText(QRandomGenerator* random)
 {
-    const QStringList others{"", "", "frame 0,0 loop", "# note", "\t# note", "[move jab]", "life = 1"};
+    const QStringList others{"",         "",           "frame 0,0 loop", "# note",
+                             "\t# note", "[move jab]", "life = 1"};
     QStringList lines;
     QList<int> ids{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
     for (int i = random->bounded(20); i >= 0; --i) {
         const int kind = random->bounded(others.size() + 4);
-        const QString line = kind < others.size()
-                                 ? others[kind]
-                                 : QString("animation %1 \"A\" # 1")
-                                       .arg(ids.takeAt(random->bounded(ids.size())));
+        const QString line =
+            kind < others.size()
+                ? others[kind]
+                : QString("animation %1 \"A\" # 1").arg(ids.takeAt(random->bounded(ids.size())));
         lines.append(line.endsWith("note") ? line + QString::number(i) : line);
         if (ids.isEmpty()) {
             break;
@@ -211,8 +212,8 @@ void TestAnimationEdits::editsAreOneStepOfUndo()
                 [](const Part& a, const Part& b) { return a.id().toInt() < b.id().toInt(); });
         }
         const Parts now(document.text(), commentsTravel);
-        const QString what = edit + QString(" %1 %2\n").arg(place).arg(other) + text + "\n->\n" +
-                             document.text();
+        const QString what =
+            edit + QString(" %1 %2\n").arg(place).arg(other) + text + "\n->\n" + document.text();
         QVERIFY2(now == parts, qPrintable(what));
         if (document.text() != text) {
             document.undo();

@@ -1,9 +1,10 @@
 #include "family/familydocument.h"
 #include "operations/hostinterface.h"
-#include "operations/recovery/abandonedtexts.h"
+#include "operations/recovery/abandonedwork.h"
 #include "operations/recovery/recoverykeeper.h"
 #include "operations/recovery/sessionfolder.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QGuiApplication>
 #include <QProcess>
@@ -48,6 +49,16 @@ RecoveryCopy someCopy()
     copy.stamp = {true, 12, QDateTime::fromMSecsSinceEpoch(1600000000000), QByteArray(32, 'h')};
     copy.text = QStringLiteral("one\n\u00e4 \u2028 ") + QChar(0xD83D) + QStringLiteral("\n");
     return copy;
+}
+
+QByteArray bytesOf(const RecoveryCopy& copy)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    copy.write(&buffer, [&copy](QIODevice* device) {
+        return device->write(copy.assets) == copy.assets.size();
+    });
+    return buffer.data();
 }
 
 }  // namespace
@@ -126,8 +137,8 @@ void TestRecovery::copyComesBackWhole()
     const RecoveryCopy copy = someCopy();
     RecoveryCopy read;
     QString error;
-    QVERIFY2(read.fromBytes(copy.toBytes(), &error), qPrintable(error));
-    QCOMPARE(read.toBytes(), copy.toBytes());
+    QVERIFY2(read.fromBytes(bytesOf(copy), &error), qPrintable(error));
+    QCOMPARE(bytesOf(read), bytesOf(copy));
     QCOMPARE(read.text, copy.text);
     QCOMPARE(read.stamp.hash, copy.stamp.hash);
     QCOMPARE(read.time, copy.time);
@@ -144,7 +155,7 @@ void TestRecovery::damagedCopyIsNeverRead_data()
 void TestRecovery::damagedCopyIsNeverRead()
 {
     QFETCH(QString, damage);
-    const QByteArray whole = someCopy().toBytes();
+    const QByteArray whole = bytesOf(someCopy());
     for (int at = 0; at < whole.size(); ++at) {
         QByteArray bytes = whole;
         if (damage == "cut") {
@@ -168,12 +179,12 @@ void TestRecovery::unsavedTextSurvives()
     const QString other = root() + "/dead/2.zorvcopy";
     QVERIFY(write(other, contentOf(copy).chopped(1)));
     QVERIFY(write(root() + "/dead/notes.txt", "not ours"));
-    const AbandonedTexts found(root());
+    const AbandonedWorks found(root());
     QCOMPARE(found.all().size(), 2);
-    const AbandonedText text = found.all().first();
-    QCOMPARE(text.state, AbandonedText::Applicable);
+    const AbandonedWork text = found.all().first();
+    QCOMPARE(text.state, AbandonedWork::Applicable);
     QCOMPARE(text.copy.fileName, m_file);
-    QCOMPARE(found.all().last().state, AbandonedText::Damaged);
+    QCOMPARE(found.all().last().state, AbandonedWork::Damaged);
     QVERIFY(found.all().last().copy.text.isEmpty());
 
     const auto document = openFile();
@@ -220,11 +231,11 @@ void TestRecovery::fileThatChangedIsNotOverwritten_data()
 {
     QTest::addColumn<QByteArray>("now");
     QTest::addColumn<int>("state");
-    QTest::newRow("as it was") << QByteArray(fileContent) << int(AbandonedText::Applicable);
-    QTest::newRow("other size") << QByteArray("[info]\r\n") << int(AbandonedText::FileChanged);
+    QTest::newRow("as it was") << QByteArray(fileContent) << int(AbandonedWork::Applicable);
+    QTest::newRow("other size") << QByteArray("[info]\r\n") << int(AbandonedWork::FileChanged);
     QTest::newRow("same size") << QByteArray(fileContent).replace('1', '2')
-                               << int(AbandonedText::FileChanged);
-    QTest::newRow("gone") << QByteArray() << int(AbandonedText::FileGone);
+                               << int(AbandonedWork::FileChanged);
+    QTest::newRow("gone") << QByteArray() << int(AbandonedWork::FileGone);
     QTest::newRow("what the copy says") << QByteArray("; typed\r\n") + fileContent << -1;
 }
 
@@ -234,7 +245,7 @@ void TestRecovery::fileThatChangedIsNotOverwritten()
     QFETCH(int, state);
     const QString copy = leaveCopy();
     QVERIFY(now.isEmpty() ? QFile::remove(m_file) : write(m_file, now));
-    const AbandonedTexts found(root());
+    const AbandonedWorks found(root());
     QCOMPARE(found.all().size(), state < 0 ? 0 : 1);
     QCOMPARE(QFile::exists(copy), state >= 0);
     if (state < 0) {
@@ -257,9 +268,9 @@ void TestRecovery::textWithoutFileSurvives()
     QVERIFY(keeper.flush());
     QDir().mkpath(root() + "/dead");
     QVERIFY(QFile::copy(keeper.folder() + "1.zorvcopy", root() + "/dead/1.zorvcopy"));
-    const AbandonedTexts found(root());
+    const AbandonedWorks found(root());
     QCOMPARE(found.all().size(), 1);
-    QCOMPARE(found.all().first().state, AbandonedText::Applicable);
+    QCOMPARE(found.all().first().state, AbandonedWork::Applicable);
     QCOMPARE(found.all().first().copy.kind, FileKind::Animations);
     QCOMPARE(found.all().first().copy.text, QStringLiteral("animation 7\n"));
 }
@@ -290,17 +301,17 @@ void TestRecovery::otherProcessKeepsItsCopies()
     killed.start(QCoreApplication::applicationFilePath(), {"leave", root()});
     QVERIFY(killed.waitForFinished());
     {
-        const AbandonedTexts found(root());
+        const AbandonedWorks found(root());
         QCOMPARE(found.all().size(), 1);
         QCOMPARE(found.all().first().copy.text, QStringLiteral("leave"));
         // Who has found them has them alone.
-        QVERIFY(AbandonedTexts(root()).all().isEmpty());
+        QVERIFY(AbandonedWorks(root()).all().isEmpty());
         QVERIFY(found.all().first().discard());
     }
     QCOMPARE(QDir(root()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 1);
     holder.kill();
     QVERIFY(holder.waitForFinished());
-    QCOMPARE(AbandonedTexts(root()).all().size(), 1);
+    QCOMPARE(AbandonedWorks(root()).all().size(), 1);
 }
 
 void TestRecovery::failureIsToldOnce()

@@ -1,8 +1,6 @@
 #include "app/recovery/recoverydialog.h"
 
-#include "app/look/codefont.h"
-#include "app/look/theme.h"
-#include "operations/textdiff.h"
+#include "app/changes/diffview.h"
 
 #include <zorv/core/dialogs/dialogs.h>
 
@@ -14,53 +12,40 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSyntaxHighlighter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
 namespace App {
 
-using Operations::AbandonedText;
+using Operations::AbandonedWork;
 using Zorv::Dialogs;
 
 namespace {
 
 enum Column { FileColumn, TimeColumn, DecisionColumn };
 
-// Nobody reads more of a comparison, and a view of it would take long to fill.
-constexpr int MaxComparison = 400000;
-
-/// Lines that come and go.
-class DiffColours : public QSyntaxHighlighter
+QString kindOf(const Operations::RecoveryCopy& copy)
 {
-public:
-    explicit DiffColours(QPlainTextEdit* edit) : QSyntaxHighlighter(edit->document()) {}
-
-protected:
-    void highlightBlock(const QString& line) override
-    {
-        if (line.startsWith(QLatin1Char('+'))) {
-            setFormat(0, line.size(), Theme::colour(Theme::AddedText));
-        } else if (line.startsWith(QLatin1Char('-'))) {
-            setFormat(0, line.size(), Theme::colour(Theme::RemovedText));
-        } else if (line.startsWith(QLatin1String("@@"))) {
-            setFormat(0, line.size(), Theme::colour(Theme::PlaceText));
-        }
+    switch (copy.content) {
+    case Operations::RecoveryCopy::Sprites:
+        return RecoveryDialog::tr("sprites");
+    case Operations::RecoveryCopy::Sounds:
+        return RecoveryDialog::tr("sounds");
+    default:
+        return Family::fileKindName(copy.kind);
     }
-};
+}
 
-QString nameOf(const AbandonedText& text)
+QString nameOf(const AbandonedWork& work)
 {
-    if (text.state == AbandonedText::Damaged) {
-        return QFileInfo(text.path).fileName();
+    if (work.state == AbandonedWork::Damaged) {
+        return QFileInfo(work.path).fileName();
     }
-    return text.copy.fileName.isEmpty()
-               ? RecoveryDialog::tr("new file (%1)").arg(Family::fileKindName(text.copy.kind))
-               : QDir::toNativeSeparators(text.copy.fileName);
+    return work.copy.fileName.isEmpty() ? RecoveryDialog::tr("new file (%1)").arg(kindOf(work.copy))
+                                        : QDir::toNativeSeparators(work.copy.fileName);
 }
 
 QString decisionText(RecoveryDialog::Decision decision)
@@ -77,15 +62,15 @@ QString decisionText(RecoveryDialog::Decision decision)
 
 }  // namespace
 
-RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<AbandonedText>& texts)
-    : QDialog(parent), m_texts(texts), m_comparisons(texts.size()), m_list(new QTreeWidget),
-      m_state(new QLabel), m_diff(new QPlainTextEdit), m_choices(new QButtonGroup(this)),
+RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<AbandonedWork>& works)
+    : QDialog(parent), m_works(works), m_comparisons(works.size()), m_list(new QTreeWidget),
+      m_state(new QLabel), m_diff(new DiffView), m_choices(new QButtonGroup(this)),
       m_saveAs(new QPushButton(tr("Save the copy &as...")))
 {
-    setWindowTitle(tr("Unsaved texts"));
+    setWindowTitle(tr("Unsaved work"));
     auto* layout = new QVBoxLayout(this);
-    auto* head = new QLabel(tr("Zorv ended before these texts were saved. Restoring puts a text "
-                               "into its document as unsaved changes; no file is written."));
+    auto* head = new QLabel(tr("Zorv ended before this work was saved. Restoring brings it back "
+                               "as unsaved changes; no file is written."));
     head->setWordWrap(true);
     layout->addWidget(head);
     layout->addWidget(m_list, 1);
@@ -100,18 +85,18 @@ RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<AbandonedText>& text
 
 void RecoveryDialog::makeList()
 {
-    m_list->setObjectName(QStringLiteral("texts"));
+    m_list->setObjectName(QStringLiteral("works"));
     m_list->setHeaderLabels({tr("File"), tr("Last change put aside"), tr("Decision")});
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
-    m_list->setAccessibleName(tr("Unsaved texts"));
-    for (const AbandonedText& text : qAsConst(m_texts)) {
-        const bool isWhole = text.state == AbandonedText::Applicable;
+    m_list->setAccessibleName(tr("Unsaved work"));
+    for (const AbandonedWork& work : qAsConst(m_works)) {
+        const bool isWhole = work.state == AbandonedWork::Applicable;
         m_decisions.append(isWhole ? Restore : Later);
         auto* item = new QTreeWidgetItem(m_list);
-        item->setText(FileColumn, nameOf(text));
-        item->setToolTip(FileColumn, nameOf(text));
-        item->setText(TimeColumn, QLocale().toString(text.copy.time, QLocale::ShortFormat));
+        item->setText(FileColumn, nameOf(work));
+        item->setToolTip(FileColumn, nameOf(work));
+        item->setText(TimeColumn, QLocale().toString(work.copy.time, QLocale::ShortFormat));
         item->setText(DecisionColumn, decisionText(m_decisions.last()));
     }
     m_list->header()->setStretchLastSection(false);
@@ -120,11 +105,6 @@ void RecoveryDialog::makeList()
     connect(m_list, &QTreeWidget::currentItemChanged, this, &RecoveryDialog::showCurrent);
     m_state->setWordWrap(true);
     m_state->setTextFormat(Qt::PlainText);
-    m_diff->setReadOnly(true);
-    m_diff->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_diff->setFont(codeFont());
-    m_diff->setAccessibleName(tr("Comparison of the file and the unsaved text"));
-    new DiffColours(m_diff);
 }
 
 void RecoveryDialog::makeDecisions()
@@ -148,8 +128,8 @@ void RecoveryDialog::makeButtons()
     auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     QPushButton* all = box->addButton(tr("Restore a&ll"), QDialogButtonBox::ApplyRole);
     all->setObjectName(QStringLiteral("restore_all"));
-    all->setEnabled(std::any_of(m_texts.begin(), m_texts.end(), [](const AbandonedText& text) {
-        return text.state == AbandonedText::Applicable;
+    all->setEnabled(std::any_of(m_works.begin(), m_works.end(), [](const AbandonedWork& work) {
+        return work.state == AbandonedWork::Applicable;
     }));
     connect(all, &QPushButton::clicked, this, &RecoveryDialog::restoreAll);
     connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -168,15 +148,15 @@ void RecoveryDialog::showCurrent()
     if (row < 0) {
         return;
     }
-    const AbandonedText& text = m_texts.at(row);
+    const AbandonedWork& work = m_works.at(row);
     if (m_comparisons.at(row).isNull()) {
-        m_comparisons[row] = comparison(text);
+        m_comparisons[row] = comparison(work);
     }
-    m_state->setText(stateText(text));
+    m_state->setText(stateText(work));
     m_diff->setPlainText(m_comparisons.at(row));
-    m_choices->button(Restore)->setEnabled(text.state == AbandonedText::Applicable);
+    m_choices->button(Restore)->setEnabled(work.state == AbandonedWork::Applicable);
     m_choices->button(m_decisions.at(row))->setChecked(true);
-    m_saveAs->setEnabled(text.state != AbandonedText::Damaged);
+    m_saveAs->setEnabled(work.state != AbandonedWork::Damaged);
 }
 
 void RecoveryDialog::decide(Decision decision)
@@ -190,8 +170,8 @@ void RecoveryDialog::decide(Decision decision)
 
 void RecoveryDialog::restoreAll()
 {
-    for (int i = 0; i < m_texts.size(); ++i) {
-        if (m_texts.at(i).state == AbandonedText::Applicable) {
+    for (int i = 0; i < m_works.size(); ++i) {
+        if (m_works.at(i).state == AbandonedWork::Applicable) {
             m_decisions[i] = Restore;
         }
     }
@@ -205,46 +185,40 @@ void RecoveryDialog::saveCurrentElsewhere()
         return;
     }
     const QString name = Dialogs::instance()->saveFileName(
-        this, tr("Save the copy as"), m_texts.at(row).copy.fileName, QString());
+        this, tr("Save the copy as"), m_works.at(row).copy.fileName, QString());
     QString error;
-    if (!name.isEmpty() && !m_texts.at(row).saveElsewhere(name, &error)) {
+    if (!name.isEmpty() && !m_works.at(row).saveElsewhere(name, &error)) {
         Dialogs::instance()->error(tr("Save the copy as"), error);
     }
 }
 
 QVector<RecoveryDialog::Decision> RecoveryDialog::decisions() const
 {
-    return result() == Accepted ? m_decisions : QVector<Decision>(m_texts.size(), Later);
+    return result() == Accepted ? m_decisions : QVector<Decision>(m_works.size(), Later);
 }
 
-QString RecoveryDialog::stateText(const AbandonedText& text) const
+QString RecoveryDialog::stateText(const AbandonedWork& work) const
 {
-    switch (text.state) {
-    case AbandonedText::Applicable:
+    switch (work.state) {
+    case AbandonedWork::Applicable:
         return tr("What restoring changes:");
-    case AbandonedText::FileChanged:
-        return tr("Cannot be applied: the file was changed after this text was read from it. The "
-                  "copy can be saved under another name.");
-    case AbandonedText::FileGone:
+    case AbandonedWork::FileChanged:
+        return tr("Cannot be applied: the file was changed after this work had begun. The copy can "
+                  "be saved under another name.");
+    case AbandonedWork::FileGone:
         return tr("Cannot be applied: the file is no longer there. The copy can be saved under "
                   "another name.");
     default:
-        return tr("Cannot be applied: %1").arg(text.fault);
+        return tr("Cannot be applied: %1").arg(work.fault);
     }
 }
 
-QString RecoveryDialog::comparison(const AbandonedText& text) const
+QString RecoveryDialog::comparison(const AbandonedWork& work) const
 {
-    QString diff = QStringLiteral("");
-    if (text.state != AbandonedText::Damaged) {
-        diff += Operations::unifiedDiff(text.fileText(), text.copy.text, tr("the file"),
-                                        tr("the unsaved text"));
-    }
-    if (diff.size() > MaxComparison) {
-        diff.truncate(MaxComparison);
-        diff += QLatin1Char('\n') + tr("The rest is not shown.");
-    }
-    return diff;
+    return work.state == AbandonedWork::Damaged
+               ? QStringLiteral("")
+               : DiffView::comparison(work.fileLines(), work.unsavedLines(), tr("the file"),
+                                      tr("the unsaved work"));
 }
 
 }  // namespace App

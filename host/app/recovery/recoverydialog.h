@@ -1,19 +1,20 @@
 #pragma once
 
-#include "operations/recovery/abandonedtexts.h"
+#include "operations/recovery/abandonedwork.h"
 
 #include <QDialog>
 #include <QVector>
 
 class QButtonGroup;
 class QLabel;
-class QPlainTextEdit;
 class QPushButton;
 class QTreeWidget;
 
 namespace App {
 
-/// Shows unsaved texts that a crash left, each beside what its file holds now,
+class DiffView;
+
+/// Shows unsaved work that a crash left, each beside what its file holds now,
 /// and asks what becomes of them. It changes nothing but what the person saves
 /// elsewhere.
 class RecoveryDialog : public QDialog
@@ -23,9 +24,9 @@ class RecoveryDialog : public QDialog
 public:
     enum Decision { Restore, Discard, Later };
 
-    RecoveryDialog(QWidget* parent, const QList<Operations::AbandonedText>& texts);
+    RecoveryDialog(QWidget* parent, const QList<Operations::AbandonedWork>& works);
 
-    /// For each text, in order; all `Later` if the dialog was given up.
+    /// For each of them, in order; all `Later` if the dialog was given up.
     QVector<Decision> decisions() const;
 
 private:
@@ -36,16 +37,16 @@ private:
     void decide(Decision decision);
     void restoreAll();
     void saveCurrentElsewhere();
-    QString stateText(const Operations::AbandonedText& text) const;
-    QString comparison(const Operations::AbandonedText& text) const;
+    QString stateText(const Operations::AbandonedWork& work) const;
+    QString comparison(const Operations::AbandonedWork& work) const;
     int current() const;
 
-    QList<Operations::AbandonedText> m_texts;
+    QList<Operations::AbandonedWork> m_works;
     QVector<Decision> m_decisions;
     QVector<QString> m_comparisons;  ///< made when they are looked at; null until then
     QTreeWidget* m_list;
     QLabel* m_state;
-    QPlainTextEdit* m_diff;
+    DiffView* m_diff;
     QButtonGroup* m_choices;
     QPushButton* m_saveAs;
 };

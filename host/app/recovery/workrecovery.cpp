@@ -7,7 +7,7 @@
 #include "app/statusfields.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
-#include "operations/recovery/abandonedtexts.h"
+#include "operations/recovery/abandonedwork.h"
 #include "operations/recovery/recoverykeeper.h"
 
 #include <zorv/core/dialogs/dialogs.h>
@@ -21,15 +21,41 @@ namespace App {
 
 using Family::FamilyDocument;
 using Family::FamilyProject;
-using Operations::AbandonedText;
+using Operations::AbandonedWork;
+
+namespace {
+
+Zorv::FileID::Type typeOf(const Operations::RecoveryCopy& copy)
+{
+    switch (copy.content) {
+    case Operations::RecoveryCopy::Sprites:
+        return Zorv::FileID::Sprites;
+    case Operations::RecoveryCopy::Sounds:
+        return Zorv::FileID::Sounds;
+    default:
+        return Family::fileType(copy.kind);
+    }
+}
+
+/// Null if the project has no such file.
+Zorv::ProjectFile* assetsOf(FamilyProject* project, Zorv::FileID::Type type,
+                            const QString& fileName)
+{
+    project->loadFiles();
+    const QList<Zorv::ProjectFile*> files = project->filesByType(type);
+    const auto found = std::find_if(files.begin(), files.end(), [&fileName](const auto* file) {
+        return QDir::cleanPath(file->fileName()) == QDir::cleanPath(fileName);
+    });
+    return found == files.end() ? nullptr : *found;
+}
+
+}  // namespace
 
 WorkRecovery::WorkRecovery(MainWindow* window, const QString& root)
     : m_window(window), m_keeper(new Operations::RecoveryKeeper(root, this)), m_root(root)
 {
     const GameSession* session = window->session();
     connect(session, &GameSession::projectOpened, this, &WorkRecovery::watchAll);
-    // Documents that a project loads later come to the window before they change.
-    connect(window->tabs(), &DocumentTabs::currentDocumentChanged, this, &WorkRecovery::watchAll);
     connect(session, &GameSession::folderOpened, this, [this] {
         m_isOfferPending = m_offers == 0;
         QTimer::singleShot(0, this, &WorkRecovery::offerForGame);
@@ -42,9 +68,11 @@ WorkRecovery::WorkRecovery(MainWindow* window, const QString& root)
 void WorkRecovery::watchAll()
 {
     for (const FamilyProject* project : m_window->session()->projects()) {
-        const QList<FamilyDocument*> documents = project->documents();
-        for (FamilyDocument* document : documents) {
-            m_keeper->watch(document);
+        connect(project, &FamilyProject::filesChanged, this, &WorkRecovery::watchAll,
+                Qt::UniqueConnection);
+        const QList<Zorv::ProjectFile*> files = project->files();
+        for (Zorv::ProjectFile* file : files) {
+            m_keeper->watch(file);
         }
     }
 }
@@ -68,14 +96,14 @@ void WorkRecovery::offer(const QString& gameFolder)
     }
     const QScopedValueRollback<int> guard(m_offers, m_offers + 1);
     m_isOfferPending = false;
-    const Operations::AbandonedTexts found(m_root, gameFolder);
+    const Operations::AbandonedWorks found(m_root, gameFolder);
     if (found.all().isEmpty()) {
         return;
     }
     RecoveryDialog dialog(m_window, found.all());
     dialog.exec();
     const QVector<RecoveryDialog::Decision> decisions = dialog.decisions();
-    QList<AbandonedText> restored;
+    QList<AbandonedWork> restored;
     for (int i = 0; i < decisions.size(); ++i) {
         if (decisions.at(i) == RecoveryDialog::Restore) {
             restored.append(found.all().at(i));
@@ -88,62 +116,83 @@ void WorkRecovery::offer(const QString& gameFolder)
     }
 }
 
-/// One game is open at a time: that in front if a text is of it, else that of the
-/// first text. True if a game is open then.
-bool WorkRecovery::openGame(const QList<AbandonedText>& texts)
+/// One game is open at a time: that in front if some of the work is of it, else that of the
+/// first. True if a game is open then.
+bool WorkRecovery::openGame(const QList<AbandonedWork>& works)
 {
     const QString open = m_window->session()->folder();
-    const bool isOfOpen = std::any_of(texts.begin(), texts.end(), [&open](const auto& text) {
-        return text.copy.gameFolder == open;
+    const bool isOfOpen = std::any_of(works.begin(), works.end(), [&open](const auto& work) {
+        return work.copy.gameFolder == open;
     });
-    return (isOfOpen && !open.isEmpty()) || m_window->openPath(texts.first().copy.gameFolder);
+    return (isOfOpen && !open.isEmpty()) || m_window->openPath(works.first().copy.gameFolder);
 }
 
-void WorkRecovery::restore(const QList<AbandonedText>& texts)
+void WorkRecovery::restore(const QList<AbandonedWork>& works)
 {
-    if (!openGame(texts)) {
+    if (!openGame(works)) {
         return;
     }
     QStringList errors;
-    QList<AbandonedText> done;
-    for (const AbandonedText& text : texts) {
+    QList<AbandonedWork> done;
+    for (const AbandonedWork& work : works) {
         QString error;
-        FamilyDocument* document = documentOf(text, &error);
-        if (!document) {
+        if (Zorv::ProjectFile* file = bringBack(work, &error)) {
+            show(file);
+            done.append(work);
+        } else {
             errors.append(error);
-            continue;
         }
-        m_keeper->watch(document);
-        Operations::applyText(document, text.copy.text, text.copy.codec);
-        m_window->showDocument(document);
-        done.append(text);
     }
     // The old copies go when the new ones are there.
     if (m_keeper->flush()) {
-        for (const AbandonedText& text : qAsConst(done)) {
-            text.discard();
+        for (const AbandonedWork& work : qAsConst(done)) {
+            work.discard();
         }
     }
     if (!errors.isEmpty()) {
-        Zorv::Dialogs::instance()->warning(tr("Unsaved texts"), errors.join(QLatin1Char('\n')));
+        Zorv::Dialogs::instance()->warning(tr("Unsaved work"), errors.join(QLatin1Char('\n')));
     }
 }
 
-FamilyDocument* WorkRecovery::documentOf(const AbandonedText& text, QString* error)
+/// Gives the file that the work is in then; null, with `error`, if that fails.
+Zorv::ProjectFile* WorkRecovery::bringBack(const AbandonedWork& work, QString* error)
+{
+    Zorv::ProjectFile* file = fileOf(work, error);
+    if (!file) {
+        return nullptr;
+    }
+    m_keeper->watch(file);
+    return work.restore(file, error) ? file : nullptr;
+}
+
+/// Sprites and sounds are seen with a text of their project.
+void WorkRecovery::show(Zorv::ProjectFile* file)
+{
+    auto* document = dynamic_cast<FamilyDocument*>(file);
+    if (document) {
+        m_window->showDocument(document);
+    } else if (m_window->currentProject() != file->project() ||
+               !m_window->tabs()->currentDocument()) {
+        m_window->showDocument(static_cast<FamilyProject*>(file->project())->mainDocument());
+    }
+}
+
+Zorv::ProjectFile* WorkRecovery::fileOf(const AbandonedWork& work, QString* error)
 {
     GameSession* session = m_window->session();
-    const Operations::RecoveryCopy& copy = text.copy;
+    const Operations::RecoveryCopy& copy = work.copy;
     const QString shown = QDir::toNativeSeparators(copy.fileName);
     if (copy.gameFolder != session->folder()) {
         *error = tr("%1 belongs to the game %2. It is offered again when that is opened.")
                      .arg(shown, QDir::toNativeSeparators(copy.gameFolder));
         return nullptr;
     }
-    if (!text.isStillApplicable()) {
+    if (!work.isStillApplicable()) {
         *error = tr("%1 was changed meanwhile. The copy is kept.").arg(shown);
         return nullptr;
     }
-    if (copy.mainFile.isEmpty()) {
+    const bool isText = copy.content == Operations::RecoveryCopy::Document;
+    if (copy.mainFile.isEmpty() && isText) {
         FamilyProject* project = session->newProject(copy.kind);
         return project ? project->mainDocument() : nullptr;
     }
@@ -152,13 +201,14 @@ FamilyDocument* WorkRecovery::documentOf(const AbandonedText& text, QString* err
         return nullptr;
     }
     if (copy.fileName.isEmpty()) {
-        return dynamic_cast<FamilyDocument*>(project->newFile(Family::fileType(copy.kind)));
+        return project->newFile(typeOf(copy));
     }
-    FamilyDocument* document = session->document(copy.fileName, project, true);
-    if (!document) {
+    Zorv::ProjectFile* file = isText ? session->document(copy.fileName, project, true)
+                                     : assetsOf(project, typeOf(copy), copy.fileName);
+    if (!file) {
         *error = tr("%1 is no longer named by its project. The copy is kept.").arg(shown);
     }
-    return document;
+    return file;
 }
 
 }  // namespace App

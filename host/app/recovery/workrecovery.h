@@ -3,20 +3,20 @@
 #include <QObject>
 #include <QString>
 
-namespace Family {
-class FamilyDocument;
-}  // namespace Family
-
 namespace Operations {
 class RecoveryKeeper;
-struct AbandonedText;
+struct AbandonedWork;
 }  // namespace Operations
+
+namespace Zorv {
+class ProjectFile;
+}
 
 namespace App {
 
 class MainWindow;
 
-/// Keeps the unsaved texts of a window safe, and offers those that a process
+/// Keeps the unsaved texts, sprites and sounds of a window safe, and offers those that a process
 /// that is gone has left: at the start, and for a game when it is opened.
 class WorkRecovery : public QObject
 {
@@ -35,9 +35,11 @@ private:
     void watchAll();
     void offerForGame();
     void offer(const QString& gameFolder);
-    void restore(const QList<Operations::AbandonedText>& texts);
-    bool openGame(const QList<Operations::AbandonedText>& texts);
-    Family::FamilyDocument* documentOf(const Operations::AbandonedText& text, QString* error);
+    void restore(const QList<Operations::AbandonedWork>& works);
+    bool openGame(const QList<Operations::AbandonedWork>& works);
+    Zorv::ProjectFile* fileOf(const Operations::AbandonedWork& work, QString* error);
+    Zorv::ProjectFile* bringBack(const Operations::AbandonedWork& work, QString* error);
+    void show(Zorv::ProjectFile* file);
 
     MainWindow* m_window;
     Operations::RecoveryKeeper* m_keeper;

@@ -93,6 +93,12 @@ QString AssetHistory::redoTitle() const
     return canRedo() ? m_steps[size_t(m_done)].title : QString();
 }
 
+bool AssetHistory::hasCleanChanged()
+{
+    const bool wasClean = std::exchange(m_toldClean, isClean());
+    return wasClean != m_toldClean;
+}
+
 void AssetHistory::clear()
 {
     m_steps.clear();

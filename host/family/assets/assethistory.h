@@ -24,6 +24,20 @@ public:
         virtual void redo() = 0;
     };
 
+    /// Another value in a place that outlives the history. It changes when it is recorded.
+    template <class Value>
+    class Swap final : public Change
+    {
+    public:
+        Swap(Value* place, Value other) : m_place(place), m_other(std::move(other)) { redo(); }
+        void undo() override { std::swap(*m_place, m_other); }
+        void redo() override { std::swap(*m_place, m_other); }
+
+    private:
+        Value* m_place;
+        Value m_other;
+    };
+
     /// Opens a step, and closes it at the end of a block.
     class Step
     {
@@ -90,6 +104,9 @@ public:
     void setClean() { m_clean = m_done; }
     void setDirty() { m_clean = -1; }
 
+    /// True if `isClean()` is another one than when this was asked last.
+    bool hasCleanChanged();
+
     /// Forgets all steps; the present state is clean.
     void clear();
 
@@ -109,6 +126,7 @@ private:
     int m_depth = 0;
     mutable int m_holds = 0;
     bool m_replaying = false;
+    bool m_toldClean = true;
 };
 
 }  // namespace Family

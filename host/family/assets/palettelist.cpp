@@ -323,6 +323,12 @@ void PaletteList::reset(const QVector<ItemPtr>& palettes)
     resetItems(palettes);
 }
 
+void PaletteList::replace(const QVector<ItemPtr>& palettes)
+{
+    removeItems(0, count());
+    insertItems(0, palettes);
+}
+
 void PaletteList::removeBroken()
 {
     QVector<int> rows;

@@ -75,6 +75,9 @@ public:
     void setColors(FamilyPalette* palette, const PaletteColors& colors, int mode);
     void setId(FamilyPalette* palette, AssetId id);
 
+    /// For the collection, while no sprite is there: other palettes, with undo.
+    void replace(const QVector<ItemPtr>& items);
+
     /// For the collection: replaces everything, without undo; removes broken records; tells of a
     /// finished step.
     void reset(const QVector<ItemPtr>& items);

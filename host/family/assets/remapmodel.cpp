@@ -132,6 +132,12 @@ void RemapModel::removeBroken()
     }
 }
 
+void RemapModel::replace(const QVector<ItemPtr>& rows)
+{
+    removeItems(0, rowCount());
+    insertItems(0, rows);
+}
+
 void RemapModel::reset(const QVector<ItemPtr>& rows)
 {
     resetItems(rows);

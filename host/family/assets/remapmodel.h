@@ -63,8 +63,9 @@ public:
     bool insertRows(int row, int count, const QModelIndex& parent = {}) override;
     bool removeRows(int row, int count, const QModelIndex& parent = {}) override;
 
-    /// For the collection: removes broken records; replaces everything, without undo.
+    /// For the collection: removes broken records; replaces everything, with undo and without.
     void removeBroken();
+    void replace(const QVector<ItemPtr>& items);
     void reset(const QVector<ItemPtr>& items);
 
 private:

@@ -189,10 +189,19 @@ void SoundFile::stepDone()
         emit changed(count);
         emit modified();
     }
+    tellModified();
+}
+
+void SoundFile::tellModified()
+{
+    if (m_history.hasCleanChanged()) {
+        emit modificationChanged(isModified());
+    }
 }
 
 void SoundFile::close()
 {
+    m_snapshots.cancel();
     m_history.clear();
     resetItems({});
     m_rest.clear();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "family/assets/assetlist.h"
+#include "family/assets/assetsnapshot.h"
 #include "family/assets/familysound.h"
 
 #include <zorv/cache/sounds.h>
@@ -84,6 +85,13 @@ public:
     bool reload() override;
     void release() override { delete this; }
 
+    /// What is here now, in the form of a sound file.
+    std::shared_ptr<AssetSnapshot> snapshot();
+
+    /// Brings back what a snapshot has written: one step of undo. False, with `error` and all as it
+    /// was, for what is no sound file.
+    bool restore(QIODevice* device, QString* error);
+
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /// For sounds: the store of samples, and changes with undo.
@@ -96,10 +104,25 @@ public:
     bool setSamples(FamilySound::State* state, const Zorv::SampleInfo& info,
                     const QByteArray& data);
 
+signals:
+    /// There is something to save, or no longer.
+    void modificationChanged(bool isModified);
+
+    /// What is here has just been read from its file, or written to it.
+    void synchronized();
+
 private:
+    struct Content
+    {
+        QVector<ItemPtr> sounds;
+        QVector<SampleRef> rest;
+    };
+
     void listChanged(bool count) override;
     void stepDone();
     void close();
+    void tellModified();
+    Content contentOf(const SoundFileData& data, QIODevice* device, SampleStore* newStore);
     void take(const SoundFileData& data, QIODevice* device);
     SoundFileData tables(QVector<SampleRef>* streams) const;
     bool write(Zorv::Archive& archive, const QString& fileName, QString* error);
@@ -108,6 +131,7 @@ private:
     std::unique_ptr<SampleStore> m_store;
     AssetHistory m_history;
     QVector<SampleRef> m_rest;  // what broken records may have meant
+    AssetSnapshots m_snapshots;
     QString m_fileName;
     bool m_changed = false;
     bool m_countChanged = false;

@@ -32,6 +32,7 @@ void SoundFile::reset()
     setArchive(nullptr);
     currentIndex = -1;
     emit changed(true);
+    tellModified();
 }
 
 bool SoundFile::fromFile(Zorv::Archive& archive, const QString& fileName, bool asCopy)
@@ -62,39 +63,77 @@ bool SoundFile::fromFile(Zorv::Archive& archive, const QString& fileName, bool a
     }
     setErrorString({});
     emit changed(true);
+    tellModified();
+    if (!asCopy) {
+        emit synchronized();
+    }
     return true;
 }
 
-void SoundFile::take(const SoundFileData& data, QIODevice* device)
+SoundFile::Content SoundFile::contentOf(const SoundFileData& data, QIODevice* device,
+                                        SampleStore* newStore)
 {
-    auto store = std::make_unique<SampleStore>();
     const auto adopt = [&](const SoundFileData::Stream& stream) {
-        return store->adopt(stream.packing, SoundFileData::readStream(device, stream),
-                            qint64(stream.plainSize), stream.plainCrc, stream.streamCrc);
+        return newStore->adopt(stream.packing, SoundFileData::readStream(device, stream),
+                               qint64(stream.plainSize), stream.plainCrc, stream.streamCrc);
     };
     QVector<SampleRef> streams;
     for (const SoundFileData::Stream& stream : data.streams) {
         streams.append(adopt(stream));
     }
-    QVector<SampleRef> rest;
+    Content content;
     for (const SoundFileData::Stream& stream : data.rest) {
-        rest.append(adopt(stream));
+        content.rest.append(adopt(stream));
     }
-    QVector<ItemPtr> sounds;
     for (const SoundFileData::Sound& record : data.sounds) {
         auto sound = std::make_shared<FamilySound>(this);
         sound->state = {record.id, record.info, streams.value(record.stream), record.broken,
                         record.fault};
-        sounds.append(sound);
+        content.sounds.append(sound);
     }
+    return content;
+}
+
+void SoundFile::take(const SoundFileData& data, QIODevice* device)
+{
+    auto newStore = std::make_unique<SampleStore>();
+    const Content content = contentOf(data, device, newStore.get());
     close();
-    m_store = std::move(store);
+    m_store = std::move(newStore);
     setCache(m_store->cache());
-    m_rest = rest;
+    m_rest = content.rest;
     currentIndex = -1;
-    resetItems(sounds);
+    resetItems(content.sounds);
     m_changed = false;
     m_countChanged = false;
+}
+
+std::shared_ptr<AssetSnapshot> SoundFile::snapshot()
+{
+    QVector<SampleRef> streams;
+    const SoundFileData data = tables(&streams);
+    return m_snapshots.add(
+        streams.size(),
+        [store = m_store.get(), streams](int i) { return store->stream(streams[i].get()); },
+        [data](QIODevice* device, const AssetSnapshot::BytesOf& bytesOf) {
+            QString reason;
+            return data.write(device, bytesOf, &reason);
+        });
+}
+
+bool SoundFile::restore(QIODevice* device, QString* error)
+{
+    SoundFileData data;
+    if (!data.read(device, error)) {
+        return false;
+    }
+    const Content content = contentOf(data, device, m_store.get());
+    const AssetHistory::Step step(m_history, tr("Restore unsaved sounds"));
+    removeItems(0, items().size());
+    m_history.record(
+        std::make_unique<AssetHistory::Swap<QVector<SampleRef>>>(&m_rest, content.rest));
+    insertItems(0, content.sounds);
+    return true;
 }
 
 SoundFileData SoundFile::tables(QVector<SampleRef>* streams) const
@@ -145,6 +184,8 @@ bool SoundFile::toFile(Zorv::Archive& archive, const QString& fileName, bool asC
         setArchive(&archive);
         m_history.setClean();
         renewWatch(fileName);
+        tellModified();
+        emit synchronized();
     }
     setErrorString({});
     return true;

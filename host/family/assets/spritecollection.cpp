@@ -18,17 +18,6 @@ AssetId next(AssetId id)
     return AssetId::fromKey(id.key() + 1);
 }
 
-// Pixels that stay in the file are let go, or come back.
-struct UnshownChange final : AssetHistory::Change
-{
-    explicit UnshownChange(QVector<PixelRef>* list) : unshown(list) {}
-    void undo() override { unshown->swap(other); }
-    void redo() override { unshown->swap(other); }
-
-    QVector<PixelRef>* unshown;
-    QVector<PixelRef> other;
-};
-
 }  // namespace
 
 SpriteCollection::Content::Content() = default;
@@ -52,6 +41,7 @@ SpriteCollection::~SpriteCollection()
 // Lets go of pixels in all places but the list.
 void SpriteCollection::letGo()
 {
+    m_snapshots.cancel();
     m_pending.clear();
     m_history.clear();
     m_unshown.clear();
@@ -97,9 +87,8 @@ void SpriteCollection::removeBroken()
     m_palettes->removeBroken();
     m_palettes->remaps()->removeBroken();
     if (!m_unshown.isEmpty()) {
-        auto change = std::make_unique<UnshownChange>(&m_unshown);
-        change->redo();
-        m_history.record(std::move(change));
+        m_history.record(std::make_unique<AssetHistory::Swap<QVector<PixelRef>>>(
+            &m_unshown, QVector<PixelRef>()));
     }
 }
 
@@ -273,6 +262,19 @@ void SpriteCollection::reset()
     m_fileName.clear();
 }
 
+void SpriteCollection::setClean()
+{
+    m_history.setClean();
+    tellModified();
+}
+
+void SpriteCollection::tellModified()
+{
+    if (m_history.hasCleanChanged()) {
+        emit modificationChanged(isModified());
+    }
+}
+
 QVariant SpriteCollection::data(const QModelIndex& index, int role) const
 {
     const FamilySprite* sprite = index.model() == this ? item(index.row()) : nullptr;
@@ -339,6 +341,7 @@ void SpriteCollection::take(Content&& content, bool asCopy)
         m_history.setDirty();
         emit modified();
     }
+    tellModified();
 }
 
 void SpriteCollection::listChanged(bool count)
@@ -380,6 +383,7 @@ void SpriteCollection::stepDone()
         emit changed(count);
     }
     emit modified();
+    tellModified();
 }
 
 }  // namespace Family

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "family/assets/assetlist.h"
+#include "family/assets/assetsnapshot.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/palettelist.h"
+#include "family/assets/spritefiledata.h"
 
 #include <zorv/cache/sprites.h>
 
@@ -92,6 +94,16 @@ public:
     QString fileName() const override { return m_fileName; }
     void release() override { delete this; }
 
+    /// What is here now, in the form of a sprite file.
+    std::shared_ptr<AssetSnapshot> snapshot();
+
+    /// Brings back what a snapshot has written, `images` being its own: one step of undo. False,
+    /// with `error` and all as it was, for what is no sprite file.
+    bool restore(QIODevice* device, const QStringList& images, QString* error);
+
+    /// True if the sprites are loose images in a folder.
+    virtual bool isFolder() const { return false; }
+
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /// For sprites and palettes: the store of pixels, and changes with undo.
@@ -104,6 +116,12 @@ public:
     void shownChanged();
 
 signals:
+    /// There is something to save, or no longer.
+    void modificationChanged(bool isModified);
+
+    /// What is here has just been read from its file, or written to it.
+    void synchronized();
+
     /// The collection is about to die, and its sprites are still there: whoever shows one lets go.
     void closing();
 
@@ -124,11 +142,19 @@ protected:
 
     SpriteCollection();
 
+    /// Takes pixels of a file up.
+    using Adopt = std::function<PixelRef(const SpriteFileData::Stream& stream, const QByteArray&)>;
+    static PixelRef adopted(PixelStore* store, const SpriteFileData::Stream& stream,
+                            const QByteArray& bytes);
+
+    /// Reads a sprite file. False, with `error`, for what is none.
+    bool readContent(QIODevice* device, const Adopt& adopt, Content* content, QString* error);
+
     /// Takes a content over in place of the old one, without undo; with `asCopy` it counts as
     /// modified.
     void take(Content&& content, bool asCopy);
     void setFileName(const QString& fileName) { m_fileName = fileName; }
-    void setClean() { m_history.setClean(); }
+    void setClean();
 
     /// Pixels that must stay in the file though no sprite may show them.
     const QVector<PixelRef>& keptPixels() const;
@@ -139,11 +165,14 @@ private:
     void stateWent(const FamilySprite::State& state) override;
     void stepDone();
     void letGo();
+    void tellModified();
+    void takeSprites(const SpriteFileData& data, const QVector<PixelRef>& pixels, Content* content);
 
     // Records die before the store of their pixels, and steps of undo hold records.
     std::unique_ptr<PixelStore> m_store;
     AssetHistory m_history;
     std::unique_ptr<PaletteList> m_palettes;
+    AssetSnapshots m_snapshots;
     QVector<ItemPtr> m_pending;
     QVector<PixelRef> m_unshown;
     QVector<PixelRef> m_all;

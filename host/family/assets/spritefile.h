@@ -4,8 +4,6 @@
 
 #include <zorv/core/filewatchobject.h>
 
-class QIODevice;
-
 namespace Family {
 
 /// A collection in a sprite file (`.sprites`, see docs/formats.md).
@@ -29,9 +27,6 @@ public:
     /// The file has changed on disk, and the person wants it: reads it, without undo. If that
     /// fails, the person is told, and all stays as it is.
     bool reload() override;
-
-private:
-    bool readContent(QIODevice* device, Content* content, QString* error);
 };
 
 }  // namespace Family

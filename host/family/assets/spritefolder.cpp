@@ -93,6 +93,7 @@ bool SpriteFolder::fromFile(Zorv::Archive& archive, const QString& fileName, boo
         }
         setFileName(fileName);
         setArchive(&archive);
+        emit synchronized();
     }
     setErrorString({});
     return true;
@@ -270,9 +271,10 @@ bool SpriteFolder::toFile(Zorv::Archive& archive, const QString& folder, bool as
         removeOld(folder);
     }
     if (!asCopy) {
-        setClean();
         setFileName(folder);
         setArchive(&archive);
+        setClean();
+        emit synchronized();
     }
     setErrorString({});
     return true;

@@ -25,6 +25,7 @@ public:
     bool toFile(Zorv::Archive& archive, const QString& fileName, bool asCopy) override;
 
     void reset() override;
+    bool isFolder() const override { return true; }
 
 private:
     /// What a file of the folder holds.

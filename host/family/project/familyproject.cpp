@@ -188,6 +188,7 @@ void FamilyProject::loadFiles()
         known.insert(path);
         isAsset ? loadAsset(reference.type, path) : loadDocument(reference.type, path);
     }
+    emit filesChanged();
 }
 
 void FamilyProject::loadDocument(FileID::Type type, const QString& path)
@@ -245,6 +246,7 @@ Zorv::ProjectFile* FamilyProject::newFile(FileID::Type type)
     if (isAssetFile(type)) {
         Zorv::ProjectFile* file = newAsset(type, {}).release();
         addFile(file, type);
+        emit filesChanged();
         return file;
     }
     if (!isCodeFile(type)) {
@@ -253,6 +255,7 @@ Zorv::ProjectFile* FamilyProject::newFile(FileID::Type type)
     auto* document = new FamilyDocument(fileKindOfType(type));
     addFile(document, type);
     followSetting(document);
+    emit filesChanged();
     return document;
 }
 

@@ -71,6 +71,10 @@ public:
     /// them would find nothing there.
     void saveAll(const QString& path, bool asCopy, QStringList* files) override;
 
+signals:
+    /// Files have come into the project.
+    void filesChanged();
+
 private:
     void loadDocument(Zorv::FileID::Type type, const QString& path);
     void loadAsset(Zorv::FileID::Type type, const QString& path);

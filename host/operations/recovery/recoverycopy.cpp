@@ -3,17 +3,16 @@
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDataStream>
-#include <QFile>
-#include <QFileInfo>
+#include <QIODevice>
+
+#include <algorithm>
 
 namespace Operations {
-
-using Family::FileKind;
 
 namespace {
 
 const QByteArray Magic = QByteArrayLiteral("ZORVCOPY");
-constexpr quint32 Version = 1;
+constexpr quint32 Version = 2;
 constexpr int HashSize = 32;
 constexpr int HeadSize = 8 + 4 + 8 + HashSize;
 
@@ -23,10 +22,33 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::RecoveryCopy)
 };
 
-QByteArray hashOf(const QByteArray& bytes)
+/// Passes bytes on, and sums them up.
+class SummedDevice final : public QIODevice
 {
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
-}
+public:
+    explicit SummedDevice(QIODevice* target) : m_target(target), m_sum(QCryptographicHash::Sha256)
+    {
+        open(WriteOnly | Unbuffered);
+    }
+
+    bool isSequential() const override { return true; }
+    quint64 length() const { return m_length; }
+    QByteArray sum() const { return m_sum.result(); }
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* data, qint64 size) override
+    {
+        m_sum.addData(data, int(size));
+        m_length += quint64(size);
+        return m_target->write(data, size);
+    }
+
+private:
+    QIODevice* m_target;
+    QCryptographicHash m_sum;
+    quint64 m_length = 0;
+};
 
 void prepare(QDataStream& stream)
 {
@@ -39,48 +61,66 @@ QDateTime fromMilliseconds(qint64 milliseconds)
     return QDateTime::fromMSecsSinceEpoch(milliseconds);
 }
 
-}  // namespace
-
-FileStamp FileStamp::of(const QString& fileName)
+QByteArray fieldsOf(const RecoveryCopy& copy)
 {
-    const QFileInfo info(fileName);
-    FileStamp stamp;
-    if (!fileName.isEmpty() && info.isFile()) {
-        stamp.exists = true;
-        stamp.size = info.size();
-        stamp.changed = info.lastModified();
-    }
-    return stamp;
-}
-
-void FileStamp::addHash(const QString& fileName)
-{
-    QFile file(fileName);
-    QCryptographicHash sum(QCryptographicHash::Sha256);
-    if (exists && isSameState(of(fileName)) && file.open(QIODevice::ReadOnly) &&
-        sum.addData(&file) && isSameState(of(fileName))) {
-        hash = sum.result();
-    }
-}
-
-bool FileStamp::isSameState(const FileStamp& other) const
-{
-    return exists == other.exists && size == other.size && changed == other.changed;
-}
-
-QByteArray RecoveryCopy::toBytes() const
-{
-    QByteArray body;
-    QDataStream fields(&body, QIODevice::WriteOnly);
+    QByteArray bytes;
+    QDataStream fields(&bytes, QIODevice::WriteOnly);
     prepare(fields);
-    fields << fileName << mainFile << gameFolder << qint32(kind) << codec
-           << time.toMSecsSinceEpoch() << stamp.exists << stamp.size
-           << stamp.changed.toMSecsSinceEpoch() << stamp.hash << text;
+    fields << copy.fileName << copy.mainFile << copy.gameFolder << qint32(copy.kind) << copy.codec
+           << copy.time.toMSecsSinceEpoch() << copy.stamp.exists << copy.stamp.size
+           << copy.stamp.changed.toMSecsSinceEpoch() << copy.stamp.hash << copy.text
+           << qint32(copy.content) << copy.images;
+    return bytes;
+}
+
+QByteArray headOf(const SummedDevice& body)
+{
     QByteArray bytes = Magic;
     QDataStream head(&bytes, QIODevice::WriteOnly | QIODevice::Append);
     prepare(head);
-    head << Version << quint64(body.size());
-    return bytes + hashOf(body) + body;
+    head << Version << body.length();
+    return bytes + body.sum();
+}
+
+bool readFields(const QByteArray& body, RecoveryCopy* read)
+{
+    QDataStream fields(body);
+    prepare(fields);
+    qint32 kind = -1;
+    qint32 content = -1;
+    qint64 made = 0;
+    qint64 changed = 0;
+    fields >> read->fileName >> read->mainFile >> read->gameFolder >> kind >> read->codec >> made >>
+        read->stamp.exists >> read->stamp.size >> changed >> read->stamp.hash >> read->text >>
+        content >> read->images;
+    read->assets = body.mid(int(fields.device()->pos()));
+    if (fields.status() != QDataStream::Ok || kind < 0 ||
+        kind > qint32(Family::FileKind::Commands) || content < RecoveryCopy::Document ||
+        content > RecoveryCopy::Sounds || (content == RecoveryCopy::Document && !fields.atEnd())) {
+        return false;
+    }
+    read->kind = Family::FileKind(kind);
+    read->content = RecoveryCopy::Content(content);
+    read->time = fromMilliseconds(made);
+    read->stamp.changed = fromMilliseconds(changed);
+    return true;
+}
+
+}  // namespace
+
+// The head is written last: it tells what has been written.
+bool RecoveryCopy::write(QIODevice* device,
+                         const std::function<bool(QIODevice*)>& writeAssets) const
+{
+    const QByteArray room(HeadSize, '\0');
+    const QByteArray fields = fieldsOf(*this);
+    SummedDevice body(device);
+    if (device->write(room) != room.size() || body.write(fields) != fields.size() ||
+        (writeAssets && !writeAssets(&body))) {
+        return false;
+    }
+    const QByteArray head = headOf(body);
+    return device->seek(0) && device->write(head) == head.size();
 }
 
 bool RecoveryCopy::fromBytes(const QByteArray& bytes, QString* error)
@@ -94,9 +134,11 @@ bool RecoveryCopy::fromBytes(const QByteArray& bytes, QString* error)
     quint32 version = 0;
     quint64 length = 0;
     head >> version >> length;
-    const QByteArray body = bytes.mid(HeadSize);
+    const QByteArray body =
+        QByteArray::fromRawData(bytes.constData() + HeadSize, std::max(0, bytes.size() - HeadSize));
     if (head.status() != QDataStream::Ok || length != quint64(body.size()) ||
-        bytes.mid(HeadSize - HashSize, HashSize) != hashOf(body)) {
+        bytes.mid(HeadSize - HashSize, HashSize) !=
+            QCryptographicHash::hash(body, QCryptographicHash::Sha256)) {
         *error = Text::tr("The copy is damaged: it is cut, or its checksum is wrong.");
         return false;
     }
@@ -104,22 +146,11 @@ bool RecoveryCopy::fromBytes(const QByteArray& bytes, QString* error)
         *error = Text::tr("Another version of Zorv made the copy. Open it with that one.");
         return false;
     }
-    QDataStream fields(body);
-    prepare(fields);
     RecoveryCopy read;
-    qint32 kindNumber = -1;
-    qint64 made = 0;
-    qint64 changed = 0;
-    fields >> read.fileName >> read.mainFile >> read.gameFolder >> kindNumber >> read.codec >>
-        made >> read.stamp.exists >> read.stamp.size >> changed >> read.stamp.hash >> read.text;
-    if (fields.status() != QDataStream::Ok || !fields.atEnd() || kindNumber < 0 ||
-        kindNumber > qint32(FileKind::Commands)) {
+    if (!readFields(body, &read)) {
         *error = Text::tr("The copy has no sense.");
         return false;
     }
-    read.kind = FileKind(kindNumber);
-    read.time = fromMilliseconds(made);
-    read.stamp.changed = fromMilliseconds(changed);
     *this = read;
     return true;
 }

@@ -1,49 +1,43 @@
 #pragma once
 
 #include "family/grammar/filekind.h"
+#include "operations/filestamp.h"
 
 #include <QByteArray>
-#include <QDateTime>
-#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+class QIODevice;
 
 namespace Operations {
 
-/// A file as it was at some moment.
-struct FileStamp
-{
-    bool exists = false;
-    qint64 size = 0;
-    QDateTime changed;
-    QByteArray hash;  ///< SHA-256 of its bytes; empty if they were not looked at
-
-    /// All but the hash.
-    static FileStamp of(const QString& fileName);
-
-    /// Reads the file for the hash, which stays empty if the file is no longer
-    /// what the stamp says. For any thread.
-    void addHash(const QString& fileName);
-
-    bool isSameState(const FileStamp& other) const;
-};
-
-/// An unsaved text that was put aside, with all that is needed to bring it back.
+/// Unsaved work that was put aside, with all that is needed to bring it back.
 ///
 /// As bytes: "ZORVCOPY", the version (32 bits), the length of what follows the
 /// head (64 bits), its SHA-256 (32 bytes), all big endian; then the fields in the
-/// order below as `QDataStream` writes them. A single byte that is wrong or
-/// missing makes the copy unreadable as a whole.
+/// order below as `QDataStream` writes them, and the bytes of sprites and sounds as their
+/// files have them. A single byte that is wrong or missing makes the copy unreadable as a
+/// whole.
 struct RecoveryCopy
 {
+    enum Content { Document, Sprites, Sounds };
+
     QString fileName;    ///< empty for a file that was never saved
     QString mainFile;    ///< of the project; empty likewise
     QString gameFolder;  ///< with "/" at its end; empty if there was none
-    Family::FileKind kind = Family::FileKind::Code;
-    QString codec;
-    QDateTime time;   ///< when the copy was made
-    FileStamp stamp;  ///< the file that the text was read from
-    QString text;     ///< lines end in a line feed
+    Family::FileKind kind = Family::FileKind::Code;  ///< of a text
+    QString codec;                                   ///< likewise
+    QDateTime time;                                  ///< when the copy was made
+    FileStamp stamp;                                 ///< the file that the work began with
+    QString text;                                    ///< lines end in a line feed
+    Content content = Document;
+    QStringList images;  ///< of a loose folder, see `Family::AssetSnapshot`
+    QByteArray assets;   ///< a sprite file or a sound file
 
-    QByteArray toBytes() const;
+    /// Writes the copy to a device that can seek; `writeAssets` gives what `assets` holds when it
+    /// is read again. False if the device takes not all.
+    bool write(QIODevice* device, const std::function<bool(QIODevice*)>& writeAssets = {}) const;
 
     /// False, with `error` for the person, for anything but the whole of a copy;
     /// the copy is as it was then.

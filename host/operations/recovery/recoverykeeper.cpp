@@ -1,8 +1,11 @@
 #include "operations/recovery/recoverykeeper.h"
 
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
 #include "family/familydocument.h"
 #include "operations/recovery/recoverycopy.h"
 #include "operations/recovery/sessionfolder.h"
+#include "operations/workfile.h"
 
 #include <zorv/core/interface.h>
 #include <zorv/core/parentproject.h>
@@ -10,30 +13,35 @@
 #include <zorv/core/safefile.h>
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QHash>
 #include <QThreadPool>
 #include <QTimer>
 
 namespace Operations {
 
+using Family::AssetSnapshot;
 using Family::FamilyDocument;
+using Zorv::ProjectFile;
 
 namespace {
 
 constexpr int MaxSeconds = 24 * 60 * 60;
+constexpr int GatherMilliseconds = 4;
 
-/// What tells one unsaved state of a text from another.
-struct TextState
+// What takes long to write is written again when so many times as long has passed.
+constexpr int LongWrite = 100;  // milliseconds
+constexpr int Rest = 10;
+
+/// What tells one unsaved state of a file from another.
+struct WorkState
 {
     int revision = -1;
     int codec = -1;
 
-    static TextState of(const FamilyDocument* document)
-    {
-        return {document->revision(), document->codecId()};
-    }
-
-    bool operator==(const TextState& other) const
+    bool operator==(const WorkState& other) const
     {
         return revision == other.revision && codec == other.codec;
     }
@@ -42,21 +50,70 @@ struct TextState
 struct Watched
 {
     int number = 0;                    ///< of the copy
+    int changes = 0;                   ///< that were told of
     QString fileName;                  ///< whose stamp it is
-    std::shared_ptr<FileStamp> stamp;  ///< the hash is added by the thread that writes
+    std::shared_ptr<FileStamp> stamp;  ///< once it is made, for the thread that writes
     bool hasHash = false;              ///< or it is on its way
-    TextState copied;
-    TextState pending;
+    WorkState copied;
+    WorkState pending;
     bool isPending = false;
     bool hasCopy = false;
-
-    void setStamp(const QString& name)
-    {
-        fileName = name;
-        stamp = std::make_shared<FileStamp>(FileStamp::of(name));
-        hasHash = false;
-    }
+    RecoveryCopy content;                     ///< while the snapshot is being gathered
+    std::shared_ptr<AssetSnapshot> snapshot;  ///< likewise
+    QDeadlineTimer rest;
 };
+
+/// How a copy was written.
+struct Outcome
+{
+    QString reason;  ///< of a failure
+    qint64 milliseconds = 0;
+};
+
+WorkState stateOf(const ProjectFile* file, const Watched& watched)
+{
+    const auto* document = dynamic_cast<const FamilyDocument*>(file);
+    return document ? WorkState{document->revision(), document->codecId()}
+                    : WorkState{watched.changes, 0};
+}
+
+/// What is to be copied; the bytes of sprites and sounds are in the snapshot.
+RecoveryCopy contentOf(ProjectFile* file, std::shared_ptr<AssetSnapshot>* snapshot)
+{
+    RecoveryCopy content;
+    const Zorv::Project* project = file->project();
+    content.fileName = file->fileName();
+    content.mainFile = project ? project->fileName() : QString();
+    content.gameFolder =
+        project && project->parent() ? project->parent()->absolutePath() : QString();
+    content.time = QDateTime::currentDateTime();
+    if (const auto* document = dynamic_cast<FamilyDocument*>(file)) {
+        content.kind = document->kind();
+        content.codec = document->codecName();
+        content.text = document->text();
+    } else if (auto* sprites = dynamic_cast<Family::SpriteCollection*>(file)) {
+        content.content = RecoveryCopy::Sprites;
+        *snapshot = sprites->snapshot();
+        content.images = (*snapshot)->images;
+    } else if (auto* sounds = dynamic_cast<Family::SoundFile*>(file)) {
+        content.content = RecoveryCopy::Sounds;
+        *snapshot = sounds->snapshot();
+    }
+    return content;
+}
+
+QString writeWhole(const QString& path, const RecoveryCopy& copy, const AssetSnapshot* snapshot)
+{
+    const auto writeAssets = [snapshot](QIODevice* device) { return snapshot->write(device); };
+    Zorv::SafeFile file(path, Zorv::SafeFile::OwnerOnly);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return file.failure();
+    }
+    if (!(snapshot ? copy.write(&file, writeAssets) : copy.write(&file))) {
+        file.fail(RecoveryKeeper::tr("bytes are missing"));
+    }
+    return file.commit() ? QString() : file.failure();
+}
 
 }  // namespace
 
@@ -65,21 +122,27 @@ struct RecoveryKeeper::Private
     RecoveryKeeper* q;
     QString root;
     std::unique_ptr<SessionFolder> folder;
-    QHash<FamilyDocument*, Watched> documents;
+    QHash<ProjectFile*, Watched> files;
     QTimer timer;
+    QTimer gathering;
     QThreadPool writer;  ///< of one thread: what is written and removed keeps its order
     int ownInterval = -1;
     int lastNumber = 0;
     int pendingCount = 0;
     bool hasFailed = false;
+    bool isLate = false;  ///< something was left out at the last turn
 
-    void documentChanged(FamilyDocument* document);
+    void setStamp(Watched* watched, const QString& fileName);
+    void changed(ProjectFile* file);
     void startTimer();
     void drop(Watched* watched);
-    bool needsCopy(FamilyDocument* document) const;
-    void copyAll();
-    void copy(FamilyDocument* document, Watched* watched);
-    void written(FamilyDocument* document, int number, const QString& reason);
+    bool needsCopy(ProjectFile* file) const;
+    void copyAll(bool isUrgent);
+    void copy(ProjectFile* file, Watched* watched);
+    void gather(int milliseconds);
+    void forgetSnapshot(Watched* watched);
+    void write(ProjectFile* file, Watched* watched);
+    void written(ProjectFile* file, int number, const Outcome& outcome);
     void fail(const QString& reason);
 };
 
@@ -90,7 +153,8 @@ RecoveryKeeper::RecoveryKeeper(const QString& root, QObject* parent)
     d->root = root;
     d->writer.setMaxThreadCount(1);
     d->timer.setSingleShot(true);
-    connect(&d->timer, &QTimer::timeout, this, [this] { d->copyAll(); });
+    connect(&d->timer, &QTimer::timeout, this, [this] { d->copyAll(false); });
+    connect(&d->gathering, &QTimer::timeout, this, [this] { d->gather(GatherMilliseconds); });
 }
 
 RecoveryKeeper::~RecoveryKeeper()
@@ -113,23 +177,24 @@ int RecoveryKeeper::interval() const
     return d->ownInterval >= 0 ? d->ownInterval : qBound(0, seconds.toInt(), MaxSeconds) * 1000;
 }
 
-void RecoveryKeeper::watch(FamilyDocument* document)
+void RecoveryKeeper::watch(ProjectFile* file)
 {
-    if (d->documents.contains(document)) {
+    if (d->files.contains(file)) {
         return;
     }
     Watched watched;
     watched.number = ++d->lastNumber;
-    watched.setStamp(document->fileName());
-    d->documents.insert(document, watched);
-    const auto changed = [this, document] { d->documentChanged(document); };
-    connect(document, &QTextDocument::contentsChanged, this, changed);
-    connect(document, &QTextDocument::modificationChanged, this, changed);
-    connect(document, &QObject::destroyed, this, [this, document] {
-        Watched gone = d->documents.take(document);
+    d->setStamp(&watched, file->fileName());
+    d->files.insert(file, watched);
+    WorkEvents events;
+    events.changed = [this, file] { d->changed(file); };
+    events.synchronized = [this, file] { d->setStamp(&d->files[file], file->fileName()); };
+    events.gone = [this, file] {
+        Watched gone = d->files.take(file);
         d->drop(&gone);
-    });
-    d->documentChanged(document);
+    };
+    followWork(file, this, events);
+    d->changed(file);
 }
 
 QString RecoveryKeeper::folder() const
@@ -139,11 +204,15 @@ QString RecoveryKeeper::folder() const
 
 bool RecoveryKeeper::flush()
 {
-    d->copyAll();
-    d->writer.waitForDone();
-    // The answers of the other thread are on their way.
-    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
-    for (auto it = d->documents.constBegin(); it != d->documents.constEnd(); ++it) {
+    // What is on its way is older than what has changed meanwhile.
+    for (int i = 0; i < 2; ++i) {
+        d->copyAll(true);
+        d->gather(-1);
+        d->writer.waitForDone();
+        // The answers of the other thread are on their way.
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    }
+    for (auto it = d->files.constBegin(); it != d->files.constEnd(); ++it) {
         if (d->needsCopy(it.key())) {
             return false;
         }
@@ -151,20 +220,31 @@ bool RecoveryKeeper::flush()
     return true;
 }
 
-// A document without changes was just read or written: its file is what counts
-// from now on. The hash is taken with the first change only, for most files are
-// looked at and no more.
-void RecoveryKeeper::Private::documentChanged(FamilyDocument* document)
+// To look at each image of a folder takes a while.
+void RecoveryKeeper::Private::setStamp(Watched* watched, const QString& fileName)
 {
-    Watched& watched = documents[document];
-    if (!document->isModified()) {
+    watched->fileName = fileName;
+    watched->hasHash = false;
+    watched->stamp = std::make_shared<FileStamp>();
+    if (QFileInfo(fileName).isDir()) {
+        writer.start([stamp = watched->stamp, fileName] { *stamp = FileStamp::of(fileName); });
+    } else {
+        *watched->stamp = FileStamp::of(fileName);
+    }
+}
+
+// The hash is taken with the first change only, for most files are looked at and no more.
+void RecoveryKeeper::Private::changed(ProjectFile* file)
+{
+    Watched& watched = files[file];
+    ++watched.changes;
+    if (!file->isModified()) {
         drop(&watched);
-        watched.setStamp(document->fileName());
         return;
     }
-    // A document that is saved under another name hears of the name last.
-    if (watched.fileName != document->fileName()) {
-        watched.setStamp(document->fileName());
+    // A file that is saved under another name hears of the name last.
+    if (watched.fileName != file->fileName()) {
+        setStamp(&watched, file->fileName());
     }
     if (!watched.hasHash) {
         watched.hasHash = true;
@@ -187,27 +267,29 @@ void RecoveryKeeper::Private::startTimer()
 
 void RecoveryKeeper::Private::drop(Watched* watched)
 {
-    watched->copied = TextState();
-    watched->pending = TextState();
+    watched->copied = WorkState();
+    watched->pending = WorkState();
+    forgetSnapshot(watched);
     if (folder && (watched->hasCopy || watched->isPending)) {
         writer.start([path = folder->copyPath(watched->number)] { QFile::remove(path); });
         watched->hasCopy = false;
     }
 }
 
-bool RecoveryKeeper::Private::needsCopy(FamilyDocument* document) const
+bool RecoveryKeeper::Private::needsCopy(ProjectFile* file) const
 {
-    return document->isModified() && !(documents.value(document).copied == TextState::of(document));
+    const Watched& watched = *files.constFind(file);
+    return file->isModified() && !(watched.copied == stateOf(file, watched));
 }
 
-void RecoveryKeeper::Private::copyAll()
+void RecoveryKeeper::Private::copyAll(bool isUrgent)
 {
-    bool isLate = false;
-    for (auto it = documents.begin(); it != documents.end(); ++it) {
+    isLate = false;
+    for (auto it = files.begin(); it != files.end(); ++it) {
         if (!needsCopy(it.key())) {
             continue;
         }
-        if (it->isPending) {
+        if (it->isPending || !(isUrgent || it->rest.hasExpired())) {
             isLate = true;
         } else {
             copy(it.key(), &it.value());
@@ -218,52 +300,95 @@ void RecoveryKeeper::Private::copyAll()
     }
 }
 
-void RecoveryKeeper::Private::copy(FamilyDocument* document, Watched* watched)
+void RecoveryKeeper::Private::copy(ProjectFile* file, Watched* watched)
 {
     QString error;
     if (!folder && !(folder = SessionFolder::create(root, &error))) {
-        fail(RecoveryKeeper::tr("Unsaved texts cannot be put aside. %1").arg(error));
+        fail(RecoveryKeeper::tr("Unsaved work cannot be put aside. %1").arg(error));
         return;
     }
-    RecoveryCopy content;
-    const Zorv::Project* project = document->project();
-    content.fileName = document->fileName();
-    content.mainFile = project ? project->fileName() : QString();
-    content.gameFolder =
-        project && project->parent() ? project->parent()->absolutePath() : QString();
-    content.kind = document->kind();
-    content.codec = document->codecName();
-    content.time = QDateTime::currentDateTime();
-    content.text = document->text();
-    watched->pending = TextState::of(document);
+    watched->content = contentOf(file, &watched->snapshot);
+    watched->pending = stateOf(file, *watched);
     watched->isPending = true;
     ++pendingCount;
-    writer.start([this, document, content, stamp = watched->stamp, number = watched->number,
-                  path = folder->copyPath(watched->number)]() mutable {
-        content.stamp = *stamp;
-        QString reason;
-        Zorv::SafeFile::save(path, content.toBytes(), &reason, Zorv::SafeFile::OwnerOnly);
-        QMetaObject::invokeMethod(
-            q, [this, document, number, reason] { written(document, number, reason); },
-            Qt::QueuedConnection);
-    });
+    if (watched->snapshot) {
+        gathering.start();
+    } else {
+        write(file, watched);
+    }
 }
 
-void RecoveryKeeper::Private::written(FamilyDocument* document, int number, const QString& reason)
+/// One file a turn, unless all is to be had at once.
+void RecoveryKeeper::Private::gather(int milliseconds)
+{
+    bool isDone = false;
+    bool isMore = false;
+    for (auto it = files.begin(); it != files.end(); ++it) {
+        if (it->snapshot && !isDone) {
+            it->snapshot->gather(milliseconds);
+            isDone = milliseconds >= 0;
+            if (it->snapshot->isWhole()) {
+                write(it.key(), &it.value());
+            } else if (it->snapshot->isCanceled()) {
+                forgetSnapshot(&it.value());
+                startTimer();
+            }
+        }
+        isMore = isMore || it->snapshot;
+    }
+    isMore ? gathering.start() : gathering.stop();
+}
+
+/// What has not come to the other thread yet never will.
+void RecoveryKeeper::Private::forgetSnapshot(Watched* watched)
+{
+    if (watched->snapshot) {
+        watched->snapshot.reset();
+        watched->content = RecoveryCopy();
+        watched->isPending = false;
+        --pendingCount;
+    }
+}
+
+void RecoveryKeeper::Private::write(ProjectFile* file, Watched* watched)
+{
+    writer.start([this, file, content = watched->content, snapshot = watched->snapshot,
+                  stamp = watched->stamp, number = watched->number,
+                  path = folder->copyPath(watched->number)]() mutable {
+        QElapsedTimer clock;
+        clock.start();
+        content.stamp = *stamp;
+        Outcome outcome;
+        outcome.reason = writeWhole(path, content, snapshot.get());
+        outcome.milliseconds = clock.elapsed();
+        QMetaObject::invokeMethod(
+            q, [this, file, number, outcome] { written(file, number, outcome); },
+            Qt::QueuedConnection);
+    });
+    watched->content = RecoveryCopy();
+    watched->snapshot.reset();
+}
+
+void RecoveryKeeper::Private::written(ProjectFile* file, int number, const Outcome& outcome)
 {
     --pendingCount;
-    const auto found = documents.find(document);
-    if (found != documents.end() && found->number == number) {
+    const bool isDone = outcome.reason.isEmpty();
+    const auto found = files.find(file);
+    if (found != files.end() && found->number == number) {
         found->isPending = false;
+        const bool isLong = outcome.milliseconds > LongWrite;
+        found->rest.setRemainingTime(isLong ? Rest * outcome.milliseconds : 0);
         // It was dropped meanwhile if nothing is pending any more.
-        found->hasCopy = found->hasCopy || (reason.isEmpty() && found->pending.revision >= 0);
-        if (reason.isEmpty()) {
+        found->hasCopy = found->hasCopy || (isDone && found->pending.revision >= 0);
+        if (isDone) {
             found->copied = found->pending;
         }
     }
-    if (!reason.isEmpty()) {
-        fail(RecoveryKeeper::tr("Unsaved texts cannot be put aside. %1").arg(reason));
-    } else if (pendingCount == 0) {
+    if (!isDone) {
+        fail(RecoveryKeeper::tr("Unsaved work cannot be put aside. Save often, and make room on "
+                                "the disk. %1")
+                 .arg(outcome.reason));
+    } else if (pendingCount == 0 && !isLate) {
         hasFailed = false;
         emit q->copied();
     }

@@ -5,19 +5,20 @@
 
 #include <memory>
 
-namespace Family {
-class FamilyDocument;
-}  // namespace Family
+namespace Zorv {
+class ProjectFile;
+}
 
 namespace Operations {
 
-/// Puts unsaved texts aside, outside of the files of any game, so that they
+/// Puts unsaved texts, sprites and sounds aside, outside of the files of any game, so that they
 /// outlive a crash.
 ///
-/// A text that has changed is copied at most once an interval; it is taken
-/// at once and written by another thread, to a new file that takes the place of
-/// the last copy when it is whole. The copy of a text goes when that is saved,
-/// read again, or closed. Main thread only.
+/// What has changed is copied at most once an interval, large files less often. A text
+/// is taken at once; the bytes of sprites and sounds are brought together in small parts between
+/// other events. Another thread writes the copy, to a new file that takes the place of the last
+/// one when it is whole. The copy of a file goes when that is saved, read again, or closed. Main
+/// thread only.
 class RecoveryKeeper : public QObject
 {
     Q_OBJECT
@@ -34,13 +35,13 @@ public:
     void setInterval(int interval);
     int interval() const;
 
-    /// Follows a document until it dies; nothing for one that is known. Call it
-    /// before the document changes: what its file is then tells later whether
-    /// the copy is older than the file.
-    void watch(Family::FamilyDocument* document);
+    /// Follows a document or a collection until it dies; nothing for one that is known. Call it
+    /// before it changes: what its file is then tells later whether the copy is older
+    /// than the file.
+    void watch(Zorv::ProjectFile* file);
 
-    /// Copies now what has changed, and waits until it is written. True if every
-    /// unsaved text has a copy then.
+    /// Copies now what has changed, and waits until it is written. True if
+    /// all unsaved work has a copy then.
     bool flush();
 
     /// Where the copies are; empty before the first one.

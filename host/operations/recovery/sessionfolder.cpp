@@ -37,6 +37,9 @@ SessionFolder::SessionFolder(const QString& path, std::unique_ptr<QLockFile> loc
 
 SessionFolder::~SessionFolder()
 {
+    if (copies().isEmpty()) {
+        removeCopies();
+    }
     m_lock->unlock();
     QDir().rmdir(m_path);
 }

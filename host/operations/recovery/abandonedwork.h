@@ -10,29 +10,32 @@
 
 namespace Zorv {
 class CodeDocument;
-}
+class ProjectFile;
+}  // namespace Zorv
 
 namespace Operations {
 
 class SessionFolder;
 
 /// A copy that a process left behind, and what can be done with it.
-struct AbandonedText
+struct AbandonedWork
 {
     enum State {
-        Applicable,   ///< its file is what it was when the text was read, or was never saved
-        FileChanged,  ///< the file was changed after the text was read
+        Applicable,   ///< its file is what it was when the work began, or was never saved
+        FileChanged,  ///< the file was changed since
         FileGone,
         Damaged  ///< `copy` is empty, `fault` tells why
     };
 
-    QString path;  ///< of the copy
-    RecoveryCopy copy;
+    QString path;       ///< of the copy
+    RecoveryCopy copy;  ///< without `assets`, which stay on the disk
     State state = Damaged;
     QString fault;  ///< why a damaged copy cannot be read
 
-    /// What the file holds now, in the encoding of the copy.
-    QString fileText() const;
+    /// The copy, and what its file holds now, as lines that can be compared. A text is read in the
+    /// encoding of the copy.
+    QString unsavedLines() const;
+    QString fileLines() const;
 
     /// Looks at the file again.
     bool isStillApplicable() const;
@@ -40,29 +43,33 @@ struct AbandonedText
     /// Removes the copy for good; false if that fails.
     bool discard() const;
 
-    /// Writes the text to a file, which keeps its old content if that fails. False
+    /// Writes the work to a file, which keeps its old content if that fails. False
     /// with `error` then.
     bool saveElsewhere(const QString& fileName, QString* error) const;
+
+    /// Gives it to a document or collection of that file as unsaved changes: one step of undo.
+    /// False, with `error`, for a file of another kind, or if the copy is damaged by now.
+    bool restore(Zorv::ProjectFile* file, QString* error) const;
 };
 
 /// The copies of all processes that are gone. As long as the object lives no
 /// other process finds them; those that are not discarded are found again
 /// afterwards. Copies that say what their file says are removed at once.
-class AbandonedTexts
+class AbandonedWorks
 {
 public:
     /// Looks below `root`; with a game folder (with "/" at its end) only for
     /// copies of that game.
-    explicit AbandonedTexts(const QString& root, const QString& gameFolder = {});
-    ~AbandonedTexts();
+    explicit AbandonedWorks(const QString& root, const QString& gameFolder = {});
+    ~AbandonedWorks();
 
-    const QList<AbandonedText>& all() const { return m_texts; }
+    const QList<AbandonedWork>& all() const { return m_works; }
 
 private:
     void read(const QString& path, const QString& gameFolder);
 
     std::vector<std::unique_ptr<SessionFolder>> m_folders;
-    QList<AbandonedText> m_texts;
+    QList<AbandonedWork> m_works;
 };
 
 /// Gives a document a text as unsaved changes: one step of undo. The codec of
