@@ -9,7 +9,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
 #include <QTreeView>
@@ -100,14 +99,8 @@ private slots:
     void initTestCase() { Operations::startHost(&m_host); }
 
     void showsTheTree();
-    void touchesNothingAtAKey();
-    void followsAnEdit();
-    void keepsBranchesOpenWhenAHeadIsEdited();
     void findsLines_data();
     void findsLines();
-    void waitsWhileNobodyLooks();
-    void waitsForTheEndOfAChange();
-    void survivesItsDocument();
     void equalsTheDocumentAfterRandomEdits_data();
     void equalsTheDocumentAfterRandomEdits();
 
@@ -126,70 +119,6 @@ void TestNodeModel::showsTheTree()
     QCOMPARE(shown(model).size(), document.blockCount() - 1);
     model.setDocument(nullptr);
     QCOMPARE(model.rowCount(), 0);
-}
-
-void TestNodeModel::touchesNothingAtAKey()
-{
-    FamilyDocument document(Family::FileKind::Character);
-    document.fromString(SomeText);
-    NodeModel model;
-    model.setDocument(&document);
-    const QStringList before = shown(model);
-    QSignalSpy rows(&model, &QAbstractItemModel::rowsInserted);
-    QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
-    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
-    QTextCursor cursor(&document);
-    cursor.movePosition(QTextCursor::End);
-    cursor.insertText(QStringLiteral("[music]\n"));
-    // Nearly all nodes die here; what the views hold stays as it was.
-    cursor.setPosition(document.findBlockByNumber(2).position(), QTextCursor::KeepAnchor);
-    cursor.removeSelectedText();
-    QVERIFY(model.isStale());
-    QCOMPARE(rows.size() + changes.size() + resets.size(), 0);
-    QCOMPARE(shown(model), before);
-    QVERIFY(QTest::qWaitFor([&] { return !model.isStale(); }));
-    QCOMPARE(shown(model), expected(&document));
-}
-
-void TestNodeModel::followsAnEdit()
-{
-    FamilyDocument document(Family::FileKind::Character);
-    document.fromString(SomeText);
-    NodeModel model;
-    const QAbstractItemModelTester tester(&model);
-    model.setDocument(&document);
-    shown(model);
-    QTextCursor cursor(document.findBlockByNumber(1));
-    cursor.movePosition(QTextCursor::EndOfBlock);
-    cursor.insertText(QStringLiteral("\nauthor = \"A\""));
-    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
-    QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
-    model.refresh();
-    QCOMPARE(removed.size(), 0);
-    QCOMPARE(inserted.size(), 1);
-    QCOMPARE(inserted[0][0].toModelIndex().data().toString(), model.index(0, 0).data().toString());
-    QCOMPARE(shown(model), expected(&document));
-}
-
-void TestNodeModel::keepsBranchesOpenWhenAHeadIsEdited()
-{
-    FamilyDocument document(Family::FileKind::Character);
-    document.fromString(SomeText);
-    NodeModel model;
-    QTreeView view;
-    model.setDocument(&document);
-    view.setModel(&model);
-    view.expand(model.index(2, 0));
-    QVERIFY(!view.isExpanded(model.index(3, 0)));
-    QTextCursor cursor(document.findBlockByNumber(6));
-    cursor.movePosition(QTextCursor::EndOfBlock);
-    cursor.deletePreviousChar();
-    cursor.deletePreviousChar();
-    cursor.insertText(QStringLiteral("\nframe 1,1"));
-    model.refresh();
-    QVERIFY(view.isExpanded(model.index(2, 0)));
-    QVERIFY(!view.isExpanded(model.index(3, 0)));
-    QCOMPARE(model.rowCount(model.index(2, 0)), 3);
 }
 
 void TestNodeModel::findsLines_data()
@@ -226,52 +155,6 @@ void TestNodeModel::findsLines()
         index = index.parent();
     }
     QVERIFY(!index.isValid());
-}
-
-void TestNodeModel::waitsWhileNobodyLooks()
-{
-    FamilyDocument document(Family::FileKind::Character);
-    document.fromString(SomeText);
-    NodeModel model;
-    model.setActive(false);
-    model.setDocument(&document);
-    QCOMPARE(model.rowCount(), 0);
-    QTextCursor(&document).insertText(QStringLiteral("[arena]\n"));
-    QTest::qWait(300);
-    QVERIFY(model.isStale());
-    model.setActive(true);
-    QCOMPARE(shown(model), expected(&document));
-}
-
-void TestNodeModel::waitsForTheEndOfAChange()
-{
-    FamilyDocument document(Family::FileKind::Character);
-    document.fromString(SomeText);
-    NodeModel model;
-    model.setDocument(&document);
-    const QStringList before = shown(model);
-    document.beginChange(QStringLiteral("several"));
-    document.insertAfter(nullptr, QStringLiteral("[music]"), true);
-    model.refresh();
-    QCOMPARE(shown(model), before);
-    QCOMPARE(model.lineNo(model.index(0, 0)), -1);
-    document.endChange();
-    model.refresh();
-    QCOMPARE(shown(model), expected(&document));
-}
-
-void TestNodeModel::survivesItsDocument()
-{
-    NodeModel model;
-    const QAbstractItemModelTester tester(&model);
-    {
-        FamilyDocument document(Family::FileKind::Character);
-        document.fromString(SomeText);
-        model.setDocument(&document);
-        QVERIFY(model.rowCount() > 0);
-    }
-    QCOMPARE(model.rowCount(), 0);
-    QVERIFY(!model.document());
 }
 
 void TestNodeModel::equalsTheDocumentAfterRandomEdits_data()

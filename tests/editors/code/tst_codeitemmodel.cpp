@@ -7,6 +7,7 @@
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
 #include <QSignalSpy>
+#include <QTreeView>
 #include <QtTest>
 
 #include <memory>
@@ -16,6 +17,7 @@ using namespace Zorv;
 namespace {
 
 constexpr quint32 Seed = 20260802;
+const QString Some = QStringLiteral("[1]\na=1\n[2]\nb=2\n!x\n-f\n!z\n-h");
 
 const RandomText Text({"[1]", "[2]", "[3*]", "a=1", "b=2", "c=3", "d=4", "!x", "!y", "-f", "-g",
                        "-h", "# note", "", "?e", "junk"},
@@ -79,6 +81,10 @@ private slots:
     void randomEdits();
     void rowsThatStay_data() { randomEdits_data(); }
     void rowsThatStay();
+    void staleRowsAreThoseOfBefore();
+    void branchesStayOpen();
+    void waitsWhileNobodyLooks();
+    void waitsForTheEndOfAChange();
     void updateAnnouncesAllRows();
     void indexesOutliveTheirNodes();
     void documentDies();
@@ -154,6 +160,82 @@ void TestCodeItemModel::rowsThatStay()
         }
         QVERIFY(group.isValid() && value.parent() == group);
     }
+}
+
+void TestCodeItemModel::staleRowsAreThoseOfBefore()
+{
+    GrammarDocument document(Some);
+    CodeTreeModel model;
+    model.setDocument(&document);
+    const QStringList before = rowsOf(model);
+    QSignalSpy rows(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText(QStringLiteral("\n[4]\n"));
+    // Nearly all nodes die here; what the views hold stays as it was.
+    cursor.setPosition(document.findBlockByNumber(1).position(), QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    QVERIFY(model.isStale());
+    QCOMPARE(rows.size() + changes.size(), 0);
+    QCOMPARE(rowsOf(model), before);
+    QTRY_VERIFY(!model.isStale());
+    QCOMPARE(rowsOf(model), treeOf(&document));
+}
+
+void TestCodeItemModel::branchesStayOpen()
+{
+    GrammarDocument document(Some);
+    CodeTreeModel model;
+    const QAbstractItemModelTester tester(&model);
+    QTreeView view;
+    model.setDocument(&document);
+    view.setModel(&model);
+    view.expand(model.index(2, 0));
+    QTextCursor cursor(document.findBlockByNumber(4));
+    cursor.select(QTextCursor::LineUnderCursor);
+    cursor.insertText(QStringLiteral("!y\n-g"));
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+    model.refresh();
+    QCOMPARE(inserted.size(), 1);
+    QCOMPARE(removed.size(), 0);
+    QVERIFY(view.isExpanded(model.index(2, 0)) && !view.isExpanded(model.index(1, 0)));
+    QCOMPARE(rowsOf(model), treeOf(&document));
+}
+
+void TestCodeItemModel::waitsWhileNobodyLooks()
+{
+    auto document = std::make_unique<GrammarDocument>(Some);
+    CodeTreeModel model;
+    const QAbstractItemModelTester tester(&model);
+    model.setActive(false);
+    model.setDocument(document.get());
+    QCOMPARE(model.rowCount(), 0);
+    QTextCursor(document.get()).insertText(QStringLiteral("[4]\n"));
+    QTest::qWait(300);  // nothing may happen
+    QVERIFY(model.isStale());
+    model.setActive(true);
+    QCOMPARE(rowsOf(model), treeOf(document.get()));
+    document.reset();
+    QCOMPARE(model.rowCount(), 0);
+    QVERIFY(!model.document());
+}
+
+void TestCodeItemModel::waitsForTheEndOfAChange()
+{
+    GrammarDocument document(Some);
+    CodeTreeModel model;
+    model.setDocument(&document);
+    const QStringList before = rowsOf(model);
+    document.beginChange(QStringLiteral("several"));
+    document.insertAfter(nullptr, QStringLiteral("[4]"), true);
+    model.refresh();
+    QCOMPARE(rowsOf(model), before);
+    QCOMPARE(model.lineNo(model.index(0, 0)), -1);
+    document.endChange();
+    model.refresh();
+    QCOMPARE(rowsOf(model), treeOf(&document));
 }
 
 void TestCodeItemModel::updateAnnouncesAllRows()
