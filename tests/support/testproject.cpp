@@ -1,10 +1,8 @@
 #include "support/testproject.h"
 
 #include "core/archive.h"
-#include "core/files.h"
 #include "core/filesystemarchive.h"
 
-#include <QFile>
 #include <QPlainTextDocumentLayout>
 #include <QTextCursor>
 
@@ -134,17 +132,4 @@ QStringList TestParent::dump(const QModelIndex& index, int depth) const
         lines << line << dump(child, depth + 1);
     }
     return lines;
-}
-
-bool writeFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    return Zorv::forcePath(path) && file.open(QIODevice::WriteOnly) &&
-           file.write(content) == content.size();
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

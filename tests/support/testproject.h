@@ -4,6 +4,7 @@
 #include "core/messages.h"
 #include "core/parentproject.h"
 #include "core/project.h"
+#include "support/folders.h"
 
 /// A document without a grammar: its text is a file like any other.
 class TestDocument : public Zorv::CodeDocument
@@ -98,7 +99,3 @@ public:
 private:
     QList<TestProject*> m_projects;
 };
-
-/// Makes a file with its folders. A test fails through the result.
-bool writeFile(const QString& path, const QByteArray& content = {});
-QByteArray readFile(const QString& path);
