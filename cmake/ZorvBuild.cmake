@@ -55,23 +55,36 @@ if(ZORV_COVERAGE)
     target_link_options(zorv_options INTERFACE --coverage)
 endif()
 
-# zorv_test(tst_name [GUI] [SOURCES file...] [LIBRARIES target...] [ARGUMENTS arg...])
+# zorv_test(tst_name [GUI [SCREENS size...]] [SOURCES file...] [LIBRARIES target...]
+#           [ARGUMENTS arg...])
 #
 # A QtTest program of tst_name.cpp and the further sources, and its test. With GUI it runs on an X
-# server of its own and carries the label "gui"; without, it needs no display.
+# server of its own and carries the label "gui"; without, it needs no display. With SCREENS it is a
+# test for each of these sizes of the screen, as in 1024x700.
 function(zorv_test name)
-    cmake_parse_arguments(arg "GUI" "" "SOURCES;LIBRARIES;ARGUMENTS" ${ARGN})
+    cmake_parse_arguments(arg "GUI" "" "SCREENS;SOURCES;LIBRARIES;ARGUMENTS" ${ARGN})
     add_executable(${name} ${name}.cpp ${arg_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE Zorv::zorv zorv_options Qt5::Test ${arg_LIBRARIES})
     if(arg_GUI)
         find_program(XVFB_RUN xvfb-run REQUIRED)
-        add_test(NAME ${name} COMMAND ${XVFB_RUN} -a -s "-screen 0 1280x1024x24"
-                                      $<TARGET_FILE:${name}> ${arg_ARGUMENTS})
+        set(tests)
+        foreach(screen IN LISTS arg_SCREENS)
+            list(APPEND tests ${name}_${screen})
+        endforeach()
+        if(NOT tests)
+            set(tests ${name})
+            set(arg_SCREENS 1280x1024)
+        endif()
+        foreach(test screen IN ZIP_LISTS tests arg_SCREENS)
+            add_test(NAME ${test} COMMAND ${XVFB_RUN} -a -s "-screen 0 ${screen}x24"
+                                          $<TARGET_FILE:${name}> ${arg_ARGUMENTS})
+        endforeach()
         # Two xvfb-run at once may choose the same display number.
-        set_tests_properties(${name} PROPERTIES LABELS gui RESOURCE_LOCK xvfb)
+        set_tests_properties(${tests} PROPERTIES LABELS gui RESOURCE_LOCK xvfb)
         set(platform xcb)
     else()
+        set(tests ${name})
         add_test(NAME ${name} COMMAND ${name} ${arg_ARGUMENTS})
         set(platform offscreen)
     endif()
@@ -84,7 +97,7 @@ function(zorv_test name)
              LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0
              UBSAN_OPTIONS=print_stacktrace=1)
     endif()
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT "${environment}")
+    set_tests_properties(${tests} PROPERTIES TIMEOUT 600 ENVIRONMENT "${environment}")
 endfunction()
 
 # zorv_benchmark(bench_name [SOURCES file...] [LIBRARIES target...])

@@ -982,6 +982,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
     </message>
+    <message>
+        <source>No messages</source>
+        <translation>Keine Meldungen</translation>
+    </message>
 </context>
 <context>
     <name>App::OnionControls</name>
@@ -1805,6 +1809,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>&amp;Copy unsaved work aside after:</source>
         <translation>&amp;Ungespeicherte Arbeit sichern nach:</translation>
     </message>
+    <message>
+        <source>The pointer, by the wheel</source>
+        <translation>Den Mauszeiger, mit dem Rad</translation>
+    </message>
 </context>
 <context>
     <name>App::SettingsDialog</name>
@@ -2006,10 +2014,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Farbe %1 der Palette</translation>
     </message>
     <message>
-        <source>Put the cursor of the text into an animation, or choose one in the organizer.</source>
-        <translation>Setzen Sie den Textcursor in eine Animation, oder wählen Sie eine im Organisator.</translation>
-    </message>
-    <message>
         <source>This animation has no frames yet. A line such as &quot;frame 0,0 delay 4&quot; makes one.</source>
         <translation>Diese Animation hat noch keine Einzelbilder. Eine Zeile wie &quot;frame 0,0 delay 4&quot; macht eines.</translation>
     </message>
@@ -2032,6 +2036,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>endless</source>
         <translation>endlos</translation>
+    </message>
+    <message>
+        <source>The frames of animations are shown here. A line such as &quot;animation 0&quot; begins one.</source>
+        <translation>Hier erscheinen die Einzelbilder von Animationen. Eine Zeile wie &quot;animation 0&quot; beginnt eine.</translation>
     </message>
 </context>
 <context>

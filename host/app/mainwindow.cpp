@@ -23,6 +23,7 @@
 #include "app/gametree.h"
 #include "app/look/plaintexts.h"
 #include "app/messagepanel.h"
+#include "app/messageroom.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
 #include "app/stage/stagecommands.h"
@@ -77,6 +78,7 @@ MainWindow::MainWindow(QWidget* parent)
     new PlainTexts(this);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setEnabled(false);
+    m_hint->setWordWrap(true);
     m_centre->addWidget(m_hint);
     m_centre->addWidget(m_middle);
     m_middle->setChildrenCollapsible(false);
@@ -161,6 +163,7 @@ void MainWindow::makeDocks()
     QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
     resizeDocks({messages}, {100}, Qt::Vertical);
+    new MessageRoom(this, messages, m_messagePanel);
     resizeDocks({projects, sprites}, {280, 480}, Qt::Vertical);
 }
 

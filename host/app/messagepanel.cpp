@@ -8,6 +8,7 @@
 #include <zorv/core/messages.h>
 
 #include <QHelpEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
 #include <algorithm>
@@ -114,6 +115,22 @@ QString MessagePanel::summary() const
     const QString errorText = errors == 1 ? tr("1 error") : tr("%1 errors").arg(errors);
     const QString warningText = warnings == 1 ? tr("1 warning") : tr("%1 warnings").arg(warnings);
     return tr("%1, %2").arg(errorText, warningText);
+}
+
+QSize MessagePanel::minimumSizeHint() const
+{
+    return {QListView::minimumSizeHint().width(), fontMetrics().height() + 2 * frameWidth() + 2};
+}
+
+void MessagePanel::paintEvent(QPaintEvent* event)
+{
+    QListView::paintEvent(event);
+    if (!model() || model()->rowCount() == 0) {
+        QPainter painter(viewport());
+        painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+        painter.drawText(viewport()->rect().adjusted(2, 0, 0, 0), Qt::AlignVCenter,
+                         tr("No messages"));
+    }
 }
 
 bool MessagePanel::viewportEvent(QEvent* event)

@@ -37,6 +37,9 @@ public:
     /// "3 errors, 1 warning"; empty while there is no list.
     QString summary() const;
 
+    /// One line: all that an empty list needs.
+    QSize minimumSizeHint() const override;
+
 signals:
     /// The person wants to see a place of a file, counted from 0.
     void placeRequested(Zorv::CodeDocument* document, int line, int column);
@@ -46,6 +49,7 @@ signals:
 
 protected:
     /// A message that is too long for its row is read in its tool tip.
+    void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 

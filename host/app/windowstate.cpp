@@ -10,8 +10,10 @@
 #include <zorv/core/interface.h>
 
 #include <QDir>
+#include <QDockWidget>
 #include <QFileInfo>
-#include <QSplitter>
+#include <QScreen>
+#include <QStyle>
 
 namespace App {
 
@@ -21,12 +23,13 @@ namespace {
 
 const QString GeometryKey = QStringLiteral("window_geometry");
 const QString PanelsKey = QStringLiteral("window_panels");
-const QString MiddleKey = QStringLiteral("window_middle");
 const QString GameKey = QStringLiteral("last_game");
 const QString TextsKey = QStringLiteral("open_texts");
 const QString FrontKey = QStringLiteral("front_text");
 
-constexpr int PanelsVersion = 4;  // raised when panels come or go
+constexpr QSize UsualSize(1280, 800);
+constexpr int RoomOfAllPanels = 450;  // pixels; below that some are hidden at first
+constexpr int PanelsVersion = 4;      // raised when panels come or go
 
 QVariant setting(const QString& key)
 {
@@ -36,6 +39,14 @@ QVariant setting(const QString& key)
 void store(const QString& key, const QVariant& value)
 {
     Zorv::Interface::instance()->setOption(key, value);
+}
+
+/// What the screen has for a window without its frame.
+QSize roomOf(const QWidget* window)
+{
+    const int title = window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window);
+    const int border = window->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    return window->screen()->availableSize() - QSize(2 * border, title + border);
 }
 
 QVariantMap stateOf(const DocumentTabs* tabs, const FamilyDocument* document)
@@ -75,7 +86,6 @@ void WindowState::save(const MainWindow* window)
 {
     store(GeometryKey, window->saveGeometry());
     store(PanelsKey, window->saveState(PanelsVersion));
-    store(MiddleKey, window->middle()->saveState());
     window->stage()->keepPlace();
     store(GameKey, window->session()->folder());
     QVariantList texts;
@@ -90,10 +100,15 @@ void WindowState::save(const MainWindow* window)
 void WindowState::restoreShape(MainWindow* window)
 {
     if (!window->restoreGeometry(setting(GeometryKey).toByteArray())) {
-        window->resize(1280, 800);
+        const QSize room = roomOf(window);
+        window->resize(UsualSize.boundedTo(room));
+        if (room.height() < RoomOfAllPanels) {
+            for (const QString& name : {QStringLiteral("sprites"), QStringLiteral("sounds")}) {
+                window->findChild<QDockWidget*>(name)->hide();
+            }
+        }
     }
     window->restoreState(setting(PanelsKey).toByteArray(), PanelsVersion);
-    window->middle()->restoreState(setting(MiddleKey).toByteArray());
 }
 
 void WindowState::restoreWork(MainWindow* window, const QString& otherwise)

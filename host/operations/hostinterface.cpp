@@ -71,7 +71,7 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("sprite_over_guides"), false},
         {QStringLiteral("contact_over_cross"), false},
         {QStringLiteral("zoom_mode"), 0},
-        {QStringLiteral("zoom_center"), 1},
+        {QStringLiteral("zoom_center"), 2},
         {QStringLiteral("zoom_level"), 5},
         {QStringLiteral("show_cross1"), true},
         {QStringLiteral("show_cross2"), false},

@@ -67,6 +67,7 @@ private slots:
     void zoomsAboutAPlace();
     void placeIsKept();
     void wheelZooms();
+    void wheelZoomsAboutThePointer();
 
 private:
     QColor colourAt(QPoint model) const { return colourOf(m->at(model)); }
@@ -531,14 +532,15 @@ void TestStage::placeIsKept()
 {
     m->stage()->setOrigin({123, 45});
     m->stage()->setZoomLevel(2);
+    const QSize size = m->widget()->size();
     m->window()->close();
     Zorv::GraphicsRenderer next;
-    StageSettings settings(&next);
-    settings.restorePlace({400, 300});
-    QCOMPARE(next.origin(), QPoint(123, 45));
+    const StageSettings::Place place =
+        StageSettings(&next).restorePlace({400, 300}, m->game.animations());
+    QCOMPARE(place.origin, QPoint(123, 45));
+    QCOMPARE(place.size, size);
+    QVERIFY(place.isKept);
     QCOMPARE(int(next.zoomLevel()), 2);
-    settings.restorePlace({100, 40});
-    QVERIFY(QRect(0, 0, 100, 40).contains(next.origin()));
 }
 
 void TestStage::wheelZooms()
@@ -560,6 +562,37 @@ void TestStage::wheelZooms()
     stage->setZoomLevel(11);  // by keys alone
     turn(120);
     QCOMPARE(int(stage->zoomLevel()), 11);
+}
+
+/// Wherever it stands, at every step, and to and fro comes out at the same place.
+void TestStage::wheelZoomsAboutThePointer()
+{
+    App::StageRenderer* stage = m->stage();
+    const auto turn = [this](QPoint place, int delta) {
+        QWheelEvent event(place, m->widget()->mapToGlobal(place), {}, {0, delta}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(m->widget(), &event);
+    };
+    const auto modelAt = [stage](QPoint place) {
+        return QPointF(place - stage->origin()) / double(stage->zoom());
+    };
+    QRandomGenerator random(20261122);
+    for (int run = 0; run < 50; ++run) {
+        const QPoint place(random.bounded(m->widget()->width()),
+                           random.bounded(m->widget()->height()));
+        const int way = random.bounded(-4, 5) * 120;
+        const QPoint origin = stage->origin();
+        const int level = stage->zoomLevel();
+        const QPointF before = modelAt(place);
+        turn(place, way);
+        const QPointF moved = (modelAt(place) - before) * double(stage->zoom());
+        QVERIFY(qAbs(moved.x()) <= 1 && qAbs(moved.y()) <= 1);
+        turn(place, (level - stage->zoomLevel()) * 120);
+        QCOMPARE(int(stage->zoomLevel()), level);
+        QCOMPARE(stage->origin(), origin);
+        turn(place, -way);
+        stage->setOrigin(m->widget()->rect().center());
+    }
 }
 
 ZORV_GL_TEST_MAIN(TestStage)

@@ -89,8 +89,7 @@ void TestStepTitles::followsAnyEdits()
             m_document->redo();
         }
         const QString text = m_document->text();
-        QCOMPARE(m_document->redoTitle(),
-                 m_document->canRedo() ? m_titles.value(text) : QString());
+        QCOMPARE(m_document->redoTitle(), m_document->canRedo() ? m_titles.value(text) : QString());
         const QString title = m_document->undoTitle();
         if (m_document->canUndo()) {
             m_document->undo();

@@ -55,7 +55,8 @@ QVector<SettingChoice> zoomTables()
 
 QVector<SettingChoice> zoomCentres()
 {
-    return {{1, settingText(QT_TRANSLATE_NOOP("App::Settings", "The origin"))},
+    return {{2, settingText(QT_TRANSLATE_NOOP("App::Settings", "The pointer, by the wheel"))},
+            {1, settingText(QT_TRANSLATE_NOOP("App::Settings", "The origin"))},
             {0, settingText(QT_TRANSLATE_NOOP("App::Settings", "The middle of the stage"))}};
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/actions/actiontable.h"
 #include "app/assets/spritepanel.h"
+#include "app/code/codeview.h"
 #include "app/gamesession.h"
 #include "app/look/icon.h"
 #include "app/look/language.h"
@@ -9,6 +10,7 @@
 #include "app/stage/onioncontrols.h"
 #include "app/stage/stagecontroller.h"
 #include "app/stage/stagerenderer.h"
+#include "app/stage/stageroom.h"
 #include "app/stage/stagesettings.h"
 #include "app/stage/stageview.h"
 #include "app/statusfields.h"
@@ -89,6 +91,17 @@ bool hasAnimations(const FamilyDocument* document)
                         document->animations()->count() > 0);
 }
 
+bool hasFrames(const FamilyDocument* document)
+{
+    const Family::FamilyAnimations* animations = document ? document->animations() : nullptr;
+    for (int row = 0; animations && row < animations->count(); ++row) {
+        if (animations->animation(row)->childCount() > 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// Empty if the project does not tell.
 QSize screenOf(const Family::FamilyProject* project)
 {
@@ -105,8 +118,9 @@ QSize screenOf(const Family::FamilyProject* project)
 StageCommands::StageCommands(MainWindow* window)
     : QObject(window), m_window(window), m_view(new StageView),
       m_controller(new StageController(m_view->renderer(), m_view->timeLine(), this)),
-      m_settings(std::make_unique<StageSettings>(m_view->renderer())), m_onion(new OnionControls),
-      m_modes(new QActionGroup(this))
+      m_settings(std::make_unique<StageSettings>(m_view->renderer())),
+      m_room(new StageRoom(window->middle(), m_view, window->code()->editor(), this)),
+      m_onion(new OnionControls), m_modes(new QActionGroup(this))
 {
     setUpModes();
     setUpSwitches();
@@ -125,7 +139,9 @@ void StageCommands::connectStage()
     StatusFields* status = m_window->status();
     connect(m_view, &StageView::placed, this, [this](QSize size) {
         m_isPlaced = true;
-        m_settings->restorePlace(size);
+        const StageSettings::Place place = m_settings->restorePlace(size, shownFile());
+        m_view->placeOrigin(place.origin, place.size);
+        m_controller->placeTaken(place.isKept);
     });
     connect(m_view, &StageView::pointerLeft, status, [status] { status->setStagePlace({}); });
     connect(stage, &GraphicsRenderer::cursorChanged, status, [status](QPoint place) {
@@ -223,13 +239,14 @@ void StageCommands::updateShown()
     if (m_view->isHidden() == isShown) {
         m_view->setVisible(isShown);
         m_controller->breakOff();
+        takeRoom();
     }
 }
 
 int StageCommands::presentNeeds() const
 {
     const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
-    const bool isShown = m_view->isUsable() && !m_view->isHidden();
+    const bool isShown = m_view->isUsable() && !m_view->isHidden() && !m_view->isEmpty();
     const bool hasFrame = m_controller->frameIndex() >= 0;
     return when(hasFrame, NeedsFrame) | when(hasFrame && isShown, NeedsStageFrame) |
            when(isShown, NeedsStage) | when(m_controller->hasSelectedBoxes(), NeedsBox);
@@ -244,8 +261,9 @@ void StageCommands::reconfig()
 void StageCommands::keepPlace() const
 {
     if (m_isPlaced) {
-        m_settings->keepPlace();
+        m_settings->keepPlace(m_view->stageSize(), shownFile());
     }
+    m_room->keep();
 }
 
 void StageCommands::showStage()
@@ -385,6 +403,7 @@ void StageCommands::followState()
     action("anim_play")->setChecked(isPlaying);
     action("anim_stop")->setChecked(!isPlaying);
     m_view->setHint(hint());
+    takeRoom();
     m_view->setInfo(info());
     followOnion();
     const int needs = presentNeeds();
@@ -402,10 +421,24 @@ void StageCommands::followOnion()
                                                 : -1);
 }
 
+QString StageCommands::shownFile() const
+{
+    return m_document ? m_document->fileName() : QString();
+}
+
+/// An animation without frames among others leaves the stage as it is: the text would jump under
+/// the hands of who types one.
+void StageCommands::takeRoom()
+{
+    m_view->setEmpty(m_controller->frameCount() == 0 && !hasFrames(m_document));
+    m_room->update();
+}
+
 QString StageCommands::hint() const
 {
     if (!m_controller->animation()) {
-        return tr("Put the cursor of the text into an animation, or choose one in the organizer.");
+        return tr("The frames of animations are shown here. A line such as \"animation 0\" begins "
+                  "one.");
     }
     return m_controller->frameCount() > 0
                ? QString()

@@ -17,6 +17,7 @@ namespace App {
 class MainWindow;
 class OnionControls;
 class StageController;
+class StageRoom;
 class StageSettings;
 class StageView;
 
@@ -88,6 +89,8 @@ private:
     void colorCaptured();
     void followState();
     void followOnion();
+    void takeRoom();
+    QString shownFile() const;
     QString hint() const;
     QString info() const;
     QAction* action(const char* name) const;
@@ -96,6 +99,7 @@ private:
     StageView* m_view;
     StageController* m_controller;
     std::unique_ptr<StageSettings> m_settings;
+    StageRoom* m_room;
     OnionControls* m_onion;
     QActionGroup* m_modes;
     Family::FamilyDocument* m_document = nullptr;

@@ -3,12 +3,14 @@
 #include "app/stage/stageedits.h"
 #include "app/stage/stageplayer.h"
 #include "app/stage/stagerenderer.h"
+#include "app/stage/stagesight.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
 #include "family/nodes/framenode.h"
 
 #include <zorv/animation/timeline/timelinewidget.h>
+#include <zorv/graphics/renderwidget.h>
 
 #include <QTextBlock>
 #include <QTimer>
@@ -95,6 +97,7 @@ void StageController::setDocument(FamilyDocument* document)
 
 void StageController::setSprites(Family::SpriteCollection* sprites)
 {
+    m_sprites = sprites;
     m_provider.setSprites(sprites);
     m_onion.setSprites(sprites);
 }
@@ -106,7 +109,9 @@ void StageController::followLine(int line)
     }
     AnimationNode* found = m_document->animations()->animationAt(line);
     const int index = found ? frameOfLine(m_document, found, line) : -1;
-    setAnimation(found);
+    if (found || !animation()) {
+        setAnimation(found ? found : m_document->animations()->animation(0));
+    }
     if (!isPlaying()) {
         showFrame(index);
     }
@@ -131,6 +136,9 @@ void StageController::setAnimation(AnimationNode* animation)
     m_provider.setFrame(std::min(last, std::max(frameCount() - 1, 0)));
     m_isStale = true;
     update();
+    if (animation) {
+        bringSoon();
+    }
 }
 
 int StageController::frameIndex() const
@@ -140,11 +148,45 @@ int StageController::frameIndex() const
 
 void StageController::showFrame(int index)
 {
-    if (index >= 0 && index < frameCount() && index != m_provider.frameIndex()) {
-        m_provider.setFrame(index);
-        m_isStale = true;
-        update();
+    if (index < 0 || index >= frameCount() || index == m_provider.frameIndex()) {
+        return;
     }
+    // Who has chosen a detail sees it from frame to frame.
+    const bool wasWhole = !frame() || StageSight(m_stage).isWhole(*frame(), m_sprites);
+    m_provider.setFrame(index);
+    m_isStale = true;
+    update();
+    if (wasWhole && !isPlaying()) {
+        bringSoon();
+    }
+}
+
+/// The stage may have to get its room first.
+void StageController::bringSoon()
+{
+    if (!m_isBringPending) {
+        m_isBringPending = true;
+        QTimer::singleShot(0, this, &StageController::bring);
+    }
+}
+
+void StageController::bring()
+{
+    m_isBringPending = false;
+    const Zorv::RenderWidget* widget = m_stage->widget();
+    if (!frame() || !widget || !widget->isVisible() || isPlaying()) {
+        return;
+    }
+    if (!m_isPlaceKept) {
+        StageSight(m_stage).bring(*frame(), m_sprites);
+    }
+    m_isPlaceKept = false;
+}
+
+void StageController::placeTaken(bool isKept)
+{
+    m_isPlaceKept = isKept;
+    bringSoon();
 }
 
 void StageController::stepFrame(int step)

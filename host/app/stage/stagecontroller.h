@@ -36,7 +36,8 @@ public:
     void setSprites(Family::SpriteCollection* sprites);
 
     /// Shows the frame that a line, counted from 0, belongs to: boxes to the frame behind them, the
-    /// head of an animation to the frame of it that was shown last. Nothing outside of animations.
+    /// head of an animation to the frame of it that was shown last. Outside of animations the one
+    /// that is shown stays, or the first comes.
     void followLine(int line);
 
     /// Shows an animation by its place in the list, with the frame that was shown last.
@@ -67,6 +68,10 @@ public:
     bool hasSelectedBoxes() const { return m_hasSelection; }
     void removeSelectedBoxes();
 
+    /// The stage has its place. With `isKept` the person has left it there, and the first frame is
+    /// shown as it was.
+    void placeTaken(bool isKept);
+
     /// Looks at what is selected, after a change of the stage's mode.
     void followSelection();
 
@@ -91,10 +96,13 @@ private:
     void inputTaken();
     void requestLine();
     void requestEditedLine();
+    void bringSoon();
+    void bring();
 
     StageRenderer* m_stage;
     QPointer<Zorv::TimeLineWidget> m_timeLine;
     QPointer<Family::FamilyDocument> m_document;
+    QPointer<Family::SpriteCollection> m_sprites;
     Family::FollowedAnimation m_animation;
     Family::FrameProvider m_provider;
     Family::FrameProvider m_onion;
@@ -105,6 +113,8 @@ private:
     int m_revision = 0;                // of the text in front of an input
     bool m_isStale = false;
     bool m_isUpdatePending = false;
+    bool m_isBringPending = false;
+    bool m_isPlaceKept = false;
     bool m_hasSelection = false;
 };
 

@@ -15,6 +15,14 @@ namespace {
 constexpr int WheelStep = 120;
 constexpr int HighestByWheel = 9;  // higher ones are for keys
 
+/// The setting "zoom_center": both modes of the library, and for the wheel a third.
+constexpr int ZoomAboutPointer = 2;
+
+int zoomCenter()
+{
+    return Zorv::Interface::instance()->option(QStringLiteral("zoom_center")).toInt();
+}
+
 /// Tells of the input around it.
 class Input
 {
@@ -36,8 +44,7 @@ public:
 
     ~Zooming()
     {
-        const QVariant center = Zorv::Interface::instance()->option(QStringLiteral("zoom_center"));
-        if (m_stage->widget() && center.toInt() == StageRenderer::ZoomAboutCenter) {
+        if (m_stage->widget() && zoomCenter() == StageRenderer::ZoomAboutCenter) {
             const QPoint middle = m_stage->widget()->rect().center();
             m_stage->setOrigin(middle +
                                (m_stage->origin() - middle) * (m_stage->zoom() / m_before));
@@ -143,10 +150,26 @@ void StageRenderer::mouseWheel(int delta)
     const int steps = m_turned / WheelStep;
     m_turned %= WheelStep;
     const bool isFarther = steps < 0;
-    if (isFarther || (steps > 0 && zoomLevel() < HighestByWheel)) {
+    if (!isFarther && (steps == 0 || zoomLevel() >= HighestByWheel)) {
+        return;
+    }
+    if (zoomCenter() == ZoomAboutPointer) {
+        turnAboutPointer(steps * WheelStep);
+    } else {
         const Zooming zooming(this);
         GraphicsRenderer::mouseWheel(steps * WheelStep);
     }
+}
+
+/// To and fro comes out at the same place: what is rounded is the origin alone.
+void StageRenderer::turnAboutPointer(int delta)
+{
+    if (m_held.pointer != m_pointer || m_held.origin != origin()) {
+        m_held = {m_pointer, origin(), QPointF(m_pointer - origin()) / double(zoom())};
+    }
+    GraphicsRenderer::mouseWheel(delta);
+    setOrigin(m_pointer - (m_held.model * double(zoom())).toPoint());
+    m_held.origin = origin();
 }
 
 void StageRenderer::addZoom()

@@ -21,6 +21,8 @@ public:
     void mouseReleased(QPoint pos, Qt::MouseButton button,
                        Qt::KeyboardModifiers modifiers) override;
     void mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers) override;
+
+    /// The place under the pointer stays there, or what the settings say.
     void mouseWheel(int delta) override;
 
     /// Where the settings say so, the place in the middle of the stage stays there.
@@ -30,6 +32,7 @@ public:
 
     /// Where the pointer was last, in pixels of the widget.
     QPoint pointer() const { return m_pointer; }
+    void setPointer(QPoint place) { m_pointer = place; }
 
 signals:
     void inputComes();
@@ -54,8 +57,18 @@ protected:
 
 private:
     bool takeKey(int key);
+    void turnAboutPointer(int delta);
+
+    /// What the wheel holds under the pointer: as long as both stand still, in parts of a pixel.
+    struct Held
+    {
+        QPoint pointer;
+        QPoint origin;
+        QPointF model;
+    };
 
     QPoint m_pointer;
+    Held m_held;
     int m_turned = 0;       // of the wheel, less than a step
     bool m_isHeld = false;  // by the left button
 };

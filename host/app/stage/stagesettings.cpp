@@ -3,7 +3,6 @@
 #include <zorv/core/interface.h>
 #include <zorv/graphics/stage/graphicsrenderer.h>
 
-#include <QRect>
 #include <QVariant>
 
 namespace App {
@@ -13,6 +12,7 @@ using Zorv::GraphicsRenderer;
 namespace {
 
 constexpr int HighestZoom = 11;
+constexpr int Farthest = 100000;  // of an origin, in pixels
 
 struct PartRow
 {
@@ -101,25 +101,31 @@ void StageSettings::apply(QSize screen)
                          option("contact_over_cross").toBool());
     // The names of the two settings are crossed; files of settings have them so.
     m_stage->setZoomTable(choice<unsigned char>("zoom_mode", 2));
+    // The pointer is for the wheel alone; all else goes about the origin then.
     m_stage->setZoomMode(choice<GraphicsRenderer::ZoomMode>("zoom_center", 2));
     m_stage->setZoomLevel(m_stage->zoomLevel());
 }
 
-void StageSettings::restorePlace(QSize stageSize)
+StageSettings::Place StageSettings::restorePlace(QSize stageSize, const QString& file)
 {
     m_stage->setZoomLevel(choice<unsigned char>("zoom_level", HighestZoom + 1));
     const QVariant x = option("origin_x");
     const QVariant y = option("origin_y");
-    const QPoint kept(x.toInt(), y.toInt());
-    const bool isOnStage = x.isValid() && y.isValid() && QRect(QPoint(), stageSize).contains(kept);
-    m_stage->setOrigin(isOnStage ? kept
-                                 : QPoint(stageSize.width() / 2, stageSize.height() * 3 / 4));
+    const QSize size = option("origin_size").toSize();
+    if (!x.isValid() || !y.isValid()) {
+        return {QPoint(stageSize.width() / 2, stageSize.height() * 3 / 4), stageSize, false};
+    }
+    return {{qBound(-Farthest, x.toInt(), Farthest), qBound(-Farthest, y.toInt(), Farthest)},
+            size.isEmpty() ? stageSize : size,
+            file == option("origin_text").toString()};
 }
 
-void StageSettings::keepPlace() const
+void StageSettings::keepPlace(QSize stageSize, const QString& file) const
 {
     keep("origin_x", m_stage->origin().x());
     keep("origin_y", m_stage->origin().y());
+    keep("origin_size", stageSize);
+    keep("origin_text", file);
     keep("zoom_level", m_stage->zoomLevel());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPoint>
 #include <QSize>
 
 #include <array>
@@ -42,10 +43,19 @@ public:
     /// size that the project was made for, which chooses the floor of the background.
     void apply(QSize screen);
 
-    /// Puts origin and zoom back to where they were, on a stage of that size. An origin that is
-    /// not on it stands in its middle, a quarter above the bottom: fighters stand on it.
-    void restorePlace(QSize stageSize);
-    void keepPlace() const;
+    /// Where the origin stands on a stage of some size.
+    struct Place
+    {
+        QPoint origin;
+        QSize size;
+        bool isKept;  ///< from the last session, with the same text on the stage
+    };
+
+    /// Puts the zoom back to what it was, and gives the place of the origin, which is that of the
+    /// last session, far from the view as it may be. The first is in the middle, a quarter above
+    /// the bottom: fighters stand on it. `file` is the text on the stage.
+    Place restorePlace(QSize stageSize, const QString& file);
+    void keepPlace(QSize stageSize, const QString& file) const;
 
 private:
     void showParts();

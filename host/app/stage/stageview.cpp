@@ -14,6 +14,7 @@
 #include <QStackedWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace App {
 
@@ -21,7 +22,7 @@ namespace {
 
 const QSize ButtonSize(16, 16);
 const QSize UsualSize(640, 420);
-const QSize SmallestStage(80, 60);
+const QSize SmallestStage(80, 45);
 
 QLabel* makeMessage()
 {
@@ -38,16 +39,22 @@ QLabel* makeMessage()
 StageView::StageView(QWidget* parent)
     : QWidget(parent), m_renderer(new StageRenderer(this)),
       m_timeLine(new Zorv::TimeLineWidget(this)), m_bar(new QToolBar(this)),
-      m_pages(new QStackedWidget(this)), m_hint(makeMessage()), m_info(new QLabel)
+      m_pages(new QStackedWidget(this)), m_hint(makeMessage()), m_line(new QLabel(this)),
+      m_info(new QLabel)
 {
     m_bar->setObjectName(QStringLiteral("stage_tools"));
     m_bar->setIconSize(ButtonSize);
     m_pages->addWidget(makeStage());
     m_pages->addWidget(m_hint);
     m_hint->setEnabled(false);
+    m_line->setEnabled(false);
+    m_line->setAlignment(Qt::AlignCenter);
+    m_line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_line->hide();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
+    layout->addWidget(m_line);
     layout->addWidget(m_bar);
     layout->addWidget(m_pages, 1);
     m_timeLine->setWholePages(true);
@@ -111,7 +118,37 @@ bool StageView::hasKeyboard() const
 void StageView::setHint(const QString& text)
 {
     m_hint->setText(text);
+    m_line->setText(text);
     m_pages->setCurrentIndex(text.isEmpty() || !m_widget ? 0 : 1);
+}
+
+void StageView::setEmpty(bool isEmpty)
+{
+    m_isEmpty = isEmpty;
+    m_line->setVisible(isEmpty);
+    m_pages->setHidden(isEmpty);
+    showWhatFits();
+}
+
+/// The stage itself is worth more than what is around it.
+void StageView::showWhatFits()
+{
+    const int room = height() - SmallestStage.height();
+    const int bar = m_bar->sizeHint().height();
+    m_bar->setVisible(!m_isEmpty && room >= bar);
+    m_timeLine->setVisible(!m_isEmpty && room >= bar + m_timeLine->sizeHint().height());
+}
+
+QSize StageView::minimumSizeHint() const
+{
+    return {SmallestStage.width(),
+            m_isEmpty ? m_line->sizeHint().height() : SmallestStage.height()};
+}
+
+void StageView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    showWhatFits();
 }
 
 void StageView::setInfo(const QString& text)
@@ -134,6 +171,8 @@ bool StageView::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_widget && event->type() == QEvent::Resize) {
         keepOrigin(static_cast<QResizeEvent*>(event)->size());
+    } else if (watched == m_widget && event->type() == QEvent::Wheel) {
+        m_renderer->setPointer(static_cast<QWheelEvent*>(event)->position().toPoint());
     } else if (watched == m_widget && event->type() == QEvent::Leave) {
         emit pointerLeft();
     }
@@ -160,15 +199,21 @@ void StageView::keepOrigin(QSize size)
         emit placed(size);
     } else {
         const QPoint origin = m_renderer->origin();
-        if (origin != m_origin) {
-            m_originShare = {origin.x() / double(m_size.width()),
-                             origin.y() / double(m_size.height())};
-        }
+        const QSize before = m_size;
         m_size = size;
-        m_origin = QPoint(qRound(m_originShare.x() * size.width()),
-                          qRound(m_originShare.y() * size.height()));
-        m_renderer->setOrigin(m_origin);
+        placeOrigin(origin, origin == m_origin ? QSize() : before);
     }
+}
+
+void StageView::placeOrigin(QPoint origin, QSize size)
+{
+    // One that was put here keeps its share, or what is rounded would add up.
+    if (!size.isEmpty()) {
+        m_originShare = {origin.x() / double(size.width()), origin.y() / double(size.height())};
+    }
+    m_origin = QPoint(qRound(m_originShare.x() * m_size.width()),
+                      qRound(m_originShare.y() * m_size.height()));
+    m_renderer->setOrigin(m_origin);
 }
 
 }  // namespace App

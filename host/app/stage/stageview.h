@@ -47,10 +47,23 @@ public:
     /// Shows in place of the stage what the person can do; an empty text shows the stage.
     void setHint(const QString& text);
 
+    /// Puts the origin where it was on a stage of some size, and keeps it there in every other.
+    void placeOrigin(QPoint origin, QSize size);
+
+    /// The size that the stage has, or had last; empty before it has one.
+    QSize stageSize() const { return m_size; }
+
+    /// With nothing to show there is one line with the hint, and nothing else.
+    void setEmpty(bool isEmpty);
+    bool isEmpty() const { return m_isEmpty; }
+
     /// What stands at the end of the tool bar.
     void setInfo(const QString& text);
 
     QSize sizeHint() const override;
+
+    /// The stage alone: the bar and the time line come where there is room.
+    QSize minimumSizeHint() const override;
 
 signals:
     /// The stage has its first size: what was kept of its place can be put back.
@@ -61,6 +74,7 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
     /// Keys of the stage are its own: Escape does not lead from a drawing straight into the text.
     void keyPressEvent(QKeyEvent* event) override;
@@ -69,6 +83,7 @@ private:
     QWidget* makeStage();
     void retranslate();
     void keepOrigin(QSize size);
+    void showWhatFits();
 
     StageRenderer* m_renderer;
     Zorv::RenderWidget* m_widget = nullptr;
@@ -76,11 +91,13 @@ private:
     QToolBar* m_bar;
     QStackedWidget* m_pages;
     QLabel* m_hint;
+    QLabel* m_line;  // the same, while nothing else is there
     QLabel* m_info;
     QLabel* m_message = nullptr;  // in place of the stage
-    QSize m_size;                 // of the stage; empty before it has one
-    QPoint m_origin;              // as it was put here last
-    QPointF m_originShare;        // in shares of the size
+    bool m_isEmpty = false;
+    QSize m_size;           // of the stage; empty before it has one
+    QPoint m_origin;        // as it was put here last
+    QPointF m_originShare;  // in shares of the size
 };
 
 }  // namespace App

@@ -1,0 +1,93 @@
+#include "app/stage/stageroom.h"
+
+#include "app/stage/stageview.h"
+
+#include <zorv/core/interface.h>
+#include <zorv/editors/code/codeeditor.h>
+
+#include <QEvent>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QVariant>
+#include <algorithm>
+
+namespace App {
+
+namespace {
+
+const QString ShareKey = QStringLiteral("stage_share");
+constexpr int LinesOfText = 18;       // that a stage leaves at first, where it can
+constexpr double LargestShare = 0.6;  // that it takes at first
+
+}  // namespace
+
+StageRoom::StageRoom(QSplitter* splitter, StageView* view, Zorv::CodeEditor* editor,
+                     QObject* parent)
+    : QObject(parent), m_splitter(splitter), m_view(view), m_editor(editor),
+      m_share(qBound(0.0, Zorv::Interface::instance()->option(ShareKey).toDouble(), 1.0))
+{
+    m_splitter->installEventFilter(this);
+}
+
+void StageRoom::update()
+{
+    const bool isFull = !m_view->isHidden() && !m_view->isEmpty();
+    if (isFull == m_isFull) {
+        return;
+    }
+    note();
+    m_isFull = isFull;
+    m_isNeeded = isFull;
+    m_view->setMaximumHeight(isFull ? QWIDGETSIZE_MAX : m_view->minimumSizeHint().height());
+    // The text gets its own parts first.
+    QMetaObject::invokeMethod(
+        this, [this] { apply(); }, Qt::QueuedConnection);
+}
+
+void StageRoom::keep()
+{
+    note();
+    Zorv::Interface::instance()->setOption(ShareKey, m_share > 0 ? QVariant(m_share) : QVariant());
+}
+
+/// What the person has made of the stage while it was there.
+void StageRoom::note()
+{
+    if (m_isFull && !m_isNeeded && m_splitter->height() > 0) {
+        m_share = m_view->height() / double(m_splitter->height());
+    }
+}
+
+void StageRoom::apply()
+{
+    if (!m_isNeeded || !m_splitter->isVisible()) {
+        return;
+    }
+    m_isNeeded = false;
+    const int whole = m_splitter->height();
+    const int height = m_share > 0 ? qRound(m_share * whole) : usualHeight();
+    m_splitter->setSizes({height, whole - m_splitter->handleWidth() - height});
+    m_editor->ensureCursorVisible();
+}
+
+int StageRoom::usualHeight() const
+{
+    // A long line brings the lower scroll bar.
+    const int around = m_splitter->widget(1)->height() - m_editor->height() +
+                       m_editor->horizontalScrollBar()->sizeHint().height();
+    const int lines = LinesOfText * m_editor->fontMetrics().height() +
+                      2 * int(m_editor->document()->documentMargin());
+    const int whole = m_splitter->height();
+    return std::min(int(whole * LargestShare), whole - m_splitter->handleWidth() - around - lines);
+}
+
+bool StageRoom::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show || event->type() == QEvent::Resize) {
+        QMetaObject::invokeMethod(
+            this, [this] { apply(); }, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace App
