@@ -5,8 +5,8 @@
 #include "family/nodes/animationnode.h"
 #include "operations/animationedits.h"
 
-#include <zorv/animation/organizereditor.h>
 #include <zorv/core/interface.h>
+#include <zorv/editors/organizer/organizereditor.h>
 
 #include <QAbstractItemView>
 #include <QKeyEvent>

@@ -37,7 +37,6 @@
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
-#include <zorv/animation/organizereditor.h>
 #include <zorv/code/codedoc/framecode.h>
 #include <zorv/core/dialogs/dialogs.h>
 #include <zorv/core/interface.h>
@@ -45,6 +44,7 @@
 #include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/framework/editor.h>
 #include <zorv/editors/framework/workspace.h>
+#include <zorv/editors/organizer/organizereditor.h>
 
 #include <QApplication>
 #include <QCloseEvent>

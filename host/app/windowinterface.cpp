@@ -12,8 +12,8 @@
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
-#include <zorv/animation/organizereditor.h>
 #include <zorv/core/dialogs/dialogs.h>
+#include <zorv/editors/organizer/organizereditor.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>

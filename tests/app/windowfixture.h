@@ -16,9 +16,9 @@
 #include "family/project/familyproject.h"
 #include "support/planneddialogs.h"
 
-#include <zorv/animation/organizereditor.h>
 #include <zorv/editors/code/codeeditor.h>
 #include <zorv/editors/code/codeworkspace.h>
+#include <zorv/editors/organizer/organizereditor.h>
 
 #include <QDir>
 #include <QFile>

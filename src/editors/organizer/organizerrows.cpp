@@ -1,4 +1,4 @@
-#include "animation/organizerrows_p.h"
+#include "editors/organizer/organizerrows_p.h"
 
 #include "core/organizableobject.h"
 

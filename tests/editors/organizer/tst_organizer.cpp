@@ -1,4 +1,4 @@
-#include "animation/organizereditor.h"
+#include "editors/organizer/organizereditor.h"
 
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
@@ -265,6 +265,10 @@ void TestOrganizer::publishes()
     QCOMPARE(m_organizer->displayName(), QStringLiteral("Organizer"));
     for (const QAction* action : qAsConst(m_host->actions)) {
         QVERIFY(!action->isEnabled());
+    }
+    for (const bool isShown : {true, false}) {
+        isShown ? m_organizer->activate() : m_organizer->deactivate();
+        QCOMPARE(m_organizer->isActive(), isShown);
     }
 }
 

@@ -1,10 +1,10 @@
-#include "animation/organizereditor.h"
+#include "editors/organizer/organizereditor.h"
 
-#include "animation/organizerrows_p.h"
 #include "core/interface.h"
 #include "core/organizableobject.h"
 #include "editors/framework/toolbuttoncontrol.h"
 #include "editors/framework/widgetcontrol.h"
+#include "editors/organizer/organizerrows_p.h"
 #include "text/zorvtranslator.h"
 
 #include <QCoreApplication>

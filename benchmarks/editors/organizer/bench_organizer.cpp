@@ -4,8 +4,8 @@
 #include "support/bench.h"
 #include "support/testinterface.h"
 
-#include "animation/organizereditor.h"
 #include "core/organizableobject.h"
+#include "editors/organizer/organizereditor.h"
 
 #include <QApplication>
 #include <QListView>
