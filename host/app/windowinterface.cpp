@@ -2,6 +2,7 @@
 
 #include "app/animationcommands.h"
 #include "app/code/codetexteditor.h"
+#include "app/code/codeview.h"
 #include "app/controls/controlplacer.h"
 #include "app/game/gamecommands.h"
 #include "app/gamesession.h"
@@ -13,6 +14,7 @@
 #include "family/project/familyproject.h"
 
 #include <zorv/core/dialogs/dialogs.h>
+#include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
 
 #include <QCoreApplication>
@@ -162,10 +164,16 @@ void WindowInterface::activateEditor(Zorv::Editor* editor)
     if (!m_window || !editor || editor != m_window->textEditor()) {
         return;
     }
-    // One that becomes active comes here by itself.
     if (!editor->isActive() && m_window->currentEdit()) {
         editor->activate();
     } else {
+        m_window->showText();
+    }
+}
+
+void WindowInterface::showWorkspace(Zorv::Workspace* workspace)
+{
+    if (m_window && workspace == m_window->code()->workspace()) {
         m_window->showText();
     }
 }

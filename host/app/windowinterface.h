@@ -27,6 +27,7 @@ public:
     /// That of texts, with the file in front; null for a file of another kind.
     Zorv::Editor* fileEditor(Zorv::ProjectFile* file, Zorv::FileID id) const override;
     void activateEditor(Zorv::Editor* editor) override;
+    void showWorkspace(Zorv::Workspace* workspace) override;
     bool watchesFiles() const override { return true; }
     unsigned projectCount() const override;
     Zorv::Project* projectAt(unsigned index) const override;

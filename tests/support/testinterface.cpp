@@ -153,6 +153,9 @@ void TestInterface::showStatus(int field, const QString& text)
 QObject* TestInterface::addControl(const QString& name, const Zorv::Control& control)
 {
     record("addControl", {name});
+    if (name.isEmpty()) {
+        return nullptr;
+    }
     if (!m_controls) {
         m_controls = std::make_unique<TestControls>();
     }
@@ -177,6 +180,9 @@ QAction* TestInterface::createAction(const char* const* areas, const QString& na
                                      const char* enableSignal, const char* checkSignal)
 {
     record("createAction", {name});
+    if (name.isEmpty()) {
+        return nullptr;
+    }
     QAction* action = makeAction(name, translator, textId);
     for (const char* const* area = areas; area && *area; ++area) {
         areasOf[name].append(QString::fromLatin1(*area));
@@ -234,6 +240,18 @@ void TestInterface::activateEditor(Zorv::Editor* newEditor)
 {
     record("activateEditor");
     editor = newEditor;
+}
+
+void TestInterface::showWorkspace(Zorv::Workspace* newWorkspace)
+{
+    record("showWorkspace");
+    workspace = newWorkspace;
+}
+
+void TestInterface::showExtraEditor(Zorv::ExtraEditor* extraEditor)
+{
+    record("showExtraEditor");
+    panel = extraEditor;
 }
 
 void TestInterface::record(const char* call, const QStringList& arguments)

@@ -36,6 +36,8 @@ public:
     QPointer<QWidget> window;
     Zorv::EngineModel* engines = nullptr;
     Zorv::Editor* editor = nullptr;           ///< the active one
+    Zorv::Workspace* workspace = nullptr;     ///< the one in the middle
+    Zorv::ExtraEditor* panel = nullptr;       ///< the one that was shown last
     QMap<QByteArray, Zorv::Editor*> editors;  ///< by name
     QMap<Zorv::ProjectFile*, Zorv::Editor*> fileEditors;
     QMap<unsigned, Zorv::ExtraEditor*> extraEditors;
@@ -90,6 +92,8 @@ public:
     Zorv::ExtraEditor* extraEditor(unsigned index) const override;
     void refreshProjects() override;
     void activateEditor(Zorv::Editor* newEditor) override;
+    void showWorkspace(Zorv::Workspace* newWorkspace) override;
+    void showExtraEditor(Zorv::ExtraEditor* extraEditor) override;
 
 private:
     void record(const char* call, const QStringList& arguments = {});

@@ -50,18 +50,19 @@ void CodeTextEditor::setUpTree()
 
 void CodeTextEditor::showDocument(Family::FamilyDocument* document)
 {
-    deactivate();
     setDocument(document);
     if (document) {
         activate();
         selectLine();
+    } else {
+        deactivate();
     }
     emit modified();
 }
 
 void CodeTextEditor::goTo(int line, int column, int length)
 {
-    const QTextDocument* text = workspace()->editor()->document();
+    const QTextDocument* text = codeWorkspace()->editor()->document();
     QTextBlock block = text->findBlockByNumber(std::max(line, 0));
     if (!block.isValid()) {
         block = text->lastBlock();
@@ -71,9 +72,9 @@ void CodeTextEditor::goTo(int line, int column, int length)
     navigateTo({}, 0, unsigned(block.blockNumber()), unsigned(start));
     const int end = std::min(start + length, last);
     if (end > start) {
-        QTextCursor cursor = workspace()->editor()->textCursor();
+        QTextCursor cursor = codeWorkspace()->editor()->textCursor();
         cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, end - start);
-        workspace()->editor()->setTextCursor(cursor);
+        codeWorkspace()->editor()->setTextCursor(cursor);
     }
 }
 
@@ -96,7 +97,7 @@ void CodeTextEditor::retranslate()
 {
     m_action->setText(tr("Code"));
     if (isActive()) {
-        const QTextCursor cursor = workspace()->editor()->textCursor();
+        const QTextCursor cursor = codeWorkspace()->editor()->textCursor();
         cursorChanged({cursor.blockNumber(), cursor.positionInBlock()});
     }
 }
@@ -122,7 +123,7 @@ void CodeTextEditor::selectLine()
         tree()->model() != m_nodes) {
         return;
     }
-    const int line = workspace()->editor()->textCursor().blockNumber();
+    const int line = codeWorkspace()->editor()->textCursor().blockNumber();
     const QModelIndex index = m_nodes->indexInLine(unsigned(line));
     const QModelIndexList selected = tree()->selectionModel()->selectedIndexes();
     // Who has closed the branch of this line wants it closed.

@@ -64,7 +64,7 @@ void restorePlace(CodeEditor* editor, const TextPlace& place)
 }  // namespace
 
 DocumentTabs::DocumentTabs(CodeTextEditor* editor)
-    : QObject(editor), m_editor(editor), m_bar(editor->workspace()->tabBar())
+    : QObject(editor), m_editor(editor), m_bar(editor->codeWorkspace()->tabBar())
 {
     m_bar->setDocumentMode(true);
     m_bar->setUsesScrollButtons(true);
@@ -84,7 +84,7 @@ void DocumentTabs::showDocument(FamilyDocument* document)
     }
     m_bar->setCurrentIndex(indexOf(document));
     bringForward();
-    m_editor->workspace()->editor()->setFocus();
+    m_editor->codeWorkspace()->editor()->setFocus();
 }
 
 void DocumentTabs::addTab(FamilyDocument* document)
@@ -125,14 +125,14 @@ void DocumentTabs::bringForward()
     m_front = document;
     m_editor->showDocument(document);
     if (document) {
-        restorePlace(m_editor->workspace()->editor(), keptPlace(document));
+        restorePlace(m_editor->codeWorkspace()->editor(), keptPlace(document));
     }
     emit currentDocumentChanged(document);
 }
 
 void DocumentTabs::keepPlace()
 {
-    const CodeEditor* editor = m_editor->workspace()->editor();
+    const CodeEditor* editor = m_editor->codeWorkspace()->editor();
     if (m_front && editor->codeDocument() == m_front) {
         m_front->setEditorData(std::make_unique<KeptPlace>(placeIn(editor)));
     }
@@ -140,14 +140,14 @@ void DocumentTabs::keepPlace()
 
 TextPlace DocumentTabs::placeOf(const FamilyDocument* document) const
 {
-    return document && document == m_front ? placeIn(m_editor->workspace()->editor())
+    return document && document == m_front ? placeIn(m_editor->codeWorkspace()->editor())
                                            : keptPlace(document);
 }
 
 void DocumentTabs::setPlace(FamilyDocument* document, const TextPlace& place)
 {
     if (document == m_front) {
-        restorePlace(m_editor->workspace()->editor(), place);
+        restorePlace(m_editor->codeWorkspace()->editor(), place);
     } else {
         document->setEditorData(std::make_unique<KeptPlace>(place));
     }
@@ -155,7 +155,7 @@ void DocumentTabs::setPlace(FamilyDocument* document, const TextPlace& place)
 
 CodeEditor* DocumentTabs::currentEdit() const
 {
-    return m_front ? m_editor->workspace()->editor() : nullptr;
+    return m_front ? m_editor->codeWorkspace()->editor() : nullptr;
 }
 
 int DocumentTabs::count() const

@@ -11,6 +11,8 @@
 #include "editors/code/codeworkspace.h"
 #include "editors/framework/widgetcontrol.h"
 
+#include <QScopedValueRollback>
+
 #include <climits>
 
 namespace Zorv {
@@ -85,17 +87,30 @@ CodeFileEditor::CodeFileEditor(CodeWorkspace* workspace, CodeItemModel* model, c
     if (model) {
         model->setParent(this);
     }
+    const QLatin1String name(treeName);
+    if (!model || name.isEmpty()) {
+        return;
+    }
     const WidgetControl control(WidgetControl::TreeView, TreeRows, this,
                                 SLOT(selectedItem(QModelIndex)), nullptr, nullptr,
                                 WidgetControl::SingleClick);
-    d->tree = qobject_cast<QTreeView*>(host()->addControl(QLatin1String(treeName), control));
+    d->tree = qobject_cast<QTreeView*>(host()->addControl(name, control));
 }
 
 CodeFileEditor::~CodeFileEditor() = default;
 
 void CodeFileEditor::setDocument(CodeDocument* document)
 {
+    if (document == d->document) {
+        return;
+    }
+    if (isActive()) {
+        detach();
+    }
     d->document = document;
+    if (isActive()) {
+        attach();
+    }
 }
 
 CodeDocument* CodeFileEditor::document() const
@@ -103,7 +118,12 @@ CodeDocument* CodeFileEditor::document() const
     return d->document;
 }
 
-CodeWorkspace* CodeFileEditor::workspace() const
+CodeWorkspace* CodeFileEditor::codeWorkspace() const
+{
+    return d->workspace;
+}
+
+Workspace* CodeFileEditor::workspace() const
 {
     return d->workspace;
 }
@@ -120,12 +140,33 @@ QTreeView* CodeFileEditor::tree() const
 
 void CodeFileEditor::activate()
 {
-    // The host, asked below to bring the editor forward, may call this again.
     if (isActive()) {
         return;
     }
+    // The call that the host makes in answer goes on below, and this one has nothing left to do.
+    if (!d->isAsking) {
+        const QScopedValueRollback<bool> asking(d->isAsking, true);
+        host()->activateEditor(this);
+        if (isActive()) {
+            return;
+        }
+    }
     FileEditor::activate();
-    CodeEditor* editor = d->workspace->editor();
+    attach();
+    host()->showWorkspace(workspace());
+}
+
+void CodeFileEditor::deactivate()
+{
+    if (isActive()) {
+        FileEditor::deactivate();
+        detach();
+    }
+}
+
+void CodeFileEditor::attach()
+{
+    const CodeEditor* editor = d->workspace->editor();
     if (CodeDocument* document = d->document) {
         d->connections << connect(document, &QTextDocument::modificationChanged, this,
                                   &CodeFileEditor::contentsChanged);
@@ -144,26 +185,14 @@ void CodeFileEditor::activate()
                               &CodeFileEditor::cursorChanged);
     d->text.setDocument(d->document);
     d->workspace->setDocument(d->document);
-    host()->activateEditor(this);
-    if (!isActive()) {
-        return;
-    }
-    // The host may have put away another editor of the same document only now.
-    if (d->document && !d->editor()) {
-        d->workspace->setDocument(d->document);
-    }
     if (d->model) {
         d->model->setDocument(d->document);
     }
     d->showModel(d->model);
 }
 
-void CodeFileEditor::deactivate()
+void CodeFileEditor::detach()
 {
-    if (!isActive()) {
-        return;
-    }
-    FileEditor::deactivate();
     for (const QMetaObject::Connection& connection : qAsConst(d->connections)) {
         disconnect(connection);
     }

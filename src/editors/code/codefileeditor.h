@@ -1,6 +1,5 @@
 #pragma once
 
-#include "editors/code/codeworkspace.h"
 #include "editors/framework/fileeditor.h"
 
 #include <memory>
@@ -14,13 +13,15 @@ namespace Zorv {
 class CodeDocument;
 class CodeFileEditorPrivate;
 class CodeItemModel;
+class CodeWorkspace;
 
 /// The editor of any file that is shown as text in the code workspace.
 ///
 /// While it is active it joins one `CodeDocument` to the one `CodeEditor` of the
 /// workspace: find and replace, place and number of errors in the status bar, and
 /// a tree of the document's nodes that follows the cursor. Derived editors give
-/// it a name, areas and an action. Main thread only.
+/// it a name, areas and an action, and join what they have beside the text in
+/// `attach()` and `detach()`. Main thread only.
 class ZORV_EXPORT CodeFileEditor : public FileEditor
 {
     Q_OBJECT
@@ -28,22 +29,29 @@ class ZORV_EXPORT CodeFileEditor : public FileEditor
 public:
     /// Publishes a tree under `treeName` and shows `model` in it. The workspace
     /// stays the host's and outlives the editor; the model is the editor's from now
-    /// on. A null model, or a host that makes no tree, leaves the editor without one.
+    /// on. Without a model or a name none is published; without one, or with a host
+    /// that makes no tree, the editor has none.
     CodeFileEditor(CodeWorkspace* workspace, CodeItemModel* model, const char* treeName,
                    QObject* parent = nullptr);
     ~CodeFileEditor() override;
 
-    /// The document to work on, null for none; not owned. To be called while the
-    /// editor is inactive. A document that dies is let go of.
+    /// The document to work on, null for none; not owned. An active editor shows it at
+    /// once in place of the one before. A document that dies is let go of.
     void setDocument(CodeDocument* document);
     CodeDocument* document() const;
 
-    CodeWorkspace* workspace() const override;
+    /// The workspace of the constructor, which an editor that shows more than text need
+    /// not be shown in.
+    CodeWorkspace* codeWorkspace() const;
+    Workspace* workspace() const override;
 
     /// Null for none; the editor's, and the host's.
     CodeItemModel* model() const;
     QTreeView* tree() const;
 
+    /// Asks the host to bring the editor forward, which puts the one before away, and then
+    /// joins document and workspace and has the workspace shown. The host may call it again
+    /// from there, or leave it at that. Nothing while the editor is active.
     void activate() override;
     void deactivate() override;
 
@@ -85,6 +93,13 @@ public slots:
     /// The person has chosen a node in the tree: the cursor goes there. Nothing while
     /// the editor is inactive.
     void selectedItem(const QModelIndex& index);
+
+protected:
+    /// Join the document to the workspace and part them, once for each time that the editor
+    /// comes forward and goes, and around another document while it is active. `document()`
+    /// may be null. A derived one calls these first in `attach()`, last in `detach()`.
+    virtual void attach();
+    virtual void detach();
 
 private:
     std::unique_ptr<CodeFileEditorPrivate> d;

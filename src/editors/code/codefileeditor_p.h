@@ -40,6 +40,7 @@ public:
     QPointer<QTreeView> tree;
     QVector<QMetaObject::Connection> connections;
     CodeFindText text;
+    bool isAsking = false;  ///< the host, to bring the editor forward
 };
 
 }  // namespace Zorv

@@ -33,15 +33,19 @@ public:
             editor->deactivate();
         }
         TestInterface::activateEditor(newEditor);
-        newEditor->activate();
+        for (int i = 0; i < activations; ++i) {
+            newEditor->activate();
+        }
     }
+
+    int activations = 1;  ///< in answer to one call; none for a host that leaves it to the editor
 };
 
 class TextEditor : public CodeFileEditor
 {
 public:
-    explicit TextEditor(CodeWorkspace* workspace)
-        : CodeFileEditor(workspace, new CodeItemModel, "code_tree")
+    explicit TextEditor(CodeWorkspace* workspace, const char* tree = "code_tree")
+        : CodeFileEditor(workspace, new CodeItemModel, tree)
     {
     }
     QAction* action() const override { return nullptr; }
@@ -49,6 +53,20 @@ public:
     int canEditFileType() const override { return 1; }
     QStringList areas() const override { return {}; }
     void retranslate() override {}
+
+    QStringList joined;  ///< the text at each attach(), nothing at each detach()
+
+protected:
+    void attach() override
+    {
+        CodeFileEditor::attach();
+        joined.append(document() ? document()->text() : QStringLiteral("none"));
+    }
+    void detach() override
+    {
+        joined.append(QString());
+        CodeFileEditor::detach();
+    }
 };
 
 }  // namespace
@@ -77,6 +95,10 @@ private slots:
     void documentDiesWhileActive();
     void documentsTakeTurns();
     void editorsTakeTurns();
+    void anotherDocumentWhileActive();
+    void joinsOnce_data();
+    void joinsOnce();
+    void treeNeedsName();
 
 private:
     void setText(const QString& text);
@@ -149,6 +171,7 @@ void TestCodeFileEditor::find_data()
     QTest::newRow("case") << "ab" << unsigned(FindCaseSensitive) << 0 << 1 << 6 << 8;
     QTest::newRow("at the cursor") << "ab" << 0u << 3 << 3 << 3 << 5;
     QTest::newRow("around") << "ab" << 0u << 6 << 8 << 0 << 2;
+    QTest::newRow("around, as asked for") << "ab" << unsigned(FindWrap) << 6 << 8 << 0 << 2;
     QTest::newRow("backward") << "ab" << unsigned(FindBackward) << 6 << 8 << 3 << 5;
     QTest::newRow("backward around")
         << "Ab" << (FindBackward | FindCaseSensitive) << 2 << 4 << 3 << 5;
@@ -392,6 +415,68 @@ void TestCodeFileEditor::editorsTakeTurns()
         next->find(QStringLiteral("a=3"), 0);
         QCOMPARE(editor->textCursor().selectedText(), QStringLiteral("a=3"));
     }
+}
+
+void TestCodeFileEditor::anotherDocumentWhileActive()
+{
+    GrammarDocument other(QStringLiteral("[3]\nc=9\nd=9"));
+    other.setModified(false);
+    text->setDocument(&other);
+    QVERIFY(text->isActive());
+    QCOMPARE(editor->codeDocument(), &other);
+    QCOMPARE(text->model()->document(), &other);
+    QCOMPARE(text->tree()->model(), text->model());
+    text->find(QStringLiteral("9"), 0);
+    QCOMPARE(editor->textCursor().blockNumber(), 1);
+    const QSignalSpy told(text.get(), &Editor::modified);
+    QTextCursor(document.get()).insertText(QStringLiteral("# "));
+    QCOMPARE(told.size(), 0);
+    text->replace(QStringLiteral("9"), QStringLiteral("7"), 0, true);
+    QCOMPARE(told.size(), 1);
+    QCOMPARE(other.text(), QStringLiteral("[3]\nc=7\nd=7"));
+
+    text->setDocument(nullptr);
+    QVERIFY(text->isActive());
+    QVERIFY(!editor->codeDocument() && !text->file());
+}
+
+void TestCodeFileEditor::joinsOnce_data()
+{
+    QTest::addColumn<int>("activations");
+    QTest::newRow("the host leaves it to the editor") << 0;
+    QTest::newRow("the host activates") << 1;
+    QTest::newRow("the host activates twice") << 2;
+}
+
+/// What a derived editor joins is joined once, after the editor before has parted.
+void TestCodeFileEditor::joinsOnce()
+{
+    QFETCH(int, activations);
+    GrammarDocument second(QStringLiteral("# 2"));
+    TextEditor other(workspace.get());
+    host->activations = activations;
+    host->workspace = nullptr;
+    other.activate();
+    QCOMPARE(host->editor, &other);
+    QCOMPARE(host->workspace, workspace.get());
+    QVERIFY(other.isActive() && !text->isActive());
+    other.setDocument(&second);
+    other.setDocument(&second);
+    other.deactivate();
+    other.deactivate();
+    QCOMPARE(other.joined, QStringList({"none", "", "# 2", ""}));
+    text->joined.clear();
+    text->activate();
+    QCOMPARE(text->joined, QStringList(document->text()));
+}
+
+void TestCodeFileEditor::treeNeedsName()
+{
+    for (const char* name : {static_cast<const char*>(nullptr), ""}) {
+        const TextEditor nameless(workspace.get(), name);
+        QVERIFY(!nameless.tree());
+    }
+    QVERIFY(!host->controls.contains(QString()));
 }
 
 QTEST_MAIN(TestCodeFileEditor)
