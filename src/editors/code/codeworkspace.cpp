@@ -6,6 +6,7 @@
 #include "core/interface.h"
 #include "editors/code/codeeditor.h"
 #include "editors/code/codefont.h"
+#include "editors/code/codeformatting.h"
 #include "editors/code/codeworkspace_p.h"
 #include "editors/code/encdlg.h"
 #include "editors/code/pickbox_p.h"
@@ -32,41 +33,6 @@ constexpr unsigned SnippetsText = 10;
 constexpr double ZoomStep = 2;  // points
 constexpr double SmallestFont = 6;
 constexpr double LargestFont = 96;
-
-void takeSwitch(const Interface* host, const char* key, bool* field)
-{
-    const QVariant value = host->option(QLatin1String(key));
-    if (value.isValid()) {
-        *field = value.toBool();
-    }
-}
-
-void takeColour(const Interface* host, const char* key, QColor* field)
-{
-    const auto value = host->option(QLatin1String(key)).value<QColor>();
-    if (value.isValid()) {
-        *field = value;
-    }
-}
-
-CodeEditor::SyntaxFormatting formattingOf(const Interface* host)
-{
-    CodeEditor::SyntaxFormatting result;
-    takeSwitch(host, "code_line_numbers", &result.lineNumbers);
-    takeSwitch(host, "code_highlight_line", &result.highlightCurrentLine);
-    takeSwitch(host, "code_highlight_blocks", &result.highlightBlocks);
-    takeSwitch(host, "code_folding_markers", &result.foldingMarkers);
-    takeSwitch(host, "code_paren_matching", &result.parenMatching);
-    takeColour(host, "line", &result.currentLineColor);
-    takeColour(host, "block_range", &result.blockRangeColor);
-    QColor range;
-    takeColour(host, "paren_range", &range);
-    if (range.isValid()) {
-        result.parenRangeFormat.setBackground(range);
-    }
-    result.parenFormat = host->option(QStringLiteral("paren")).value<QTextFormat>().toCharFormat();
-    return result;
-}
 
 QFont fontOf(const Interface* host)
 {
