@@ -506,7 +506,7 @@ void TestCodeDocument::fullParseInsideChange()
     QCOMPARE(document.dump(), GrammarDocument(document.text()).dump());
 }
 
-/// What an editor keeps goes with its document, or when something else takes its place.
+/// What an editor keeps goes with its document, or when something else of it takes its place.
 void TestCodeDocument::editorDataEnds()
 {
     struct State : EditorData
@@ -517,12 +517,17 @@ void TestCodeDocument::editorDataEnds()
     };
     int alive = 0;
     {
+        const QString code = QStringLiteral("code");
+        const QString other = QStringLiteral("anim");
         GrammarDocument document;
-        QVERIFY(!document.editorData());
-        document.setEditorData(std::make_unique<State>(alive));
-        document.setEditorData(std::make_unique<State>(alive));
-        QVERIFY(document.editorData());
-        QCOMPARE(alive, 1);
+        QVERIFY(!document.editorData(code));
+        document.setEditorData(code, std::make_unique<State>(alive));
+        document.setEditorData(other, std::make_unique<State>(alive));
+        QVERIFY(document.editorData(code) != document.editorData(other));
+        document.setEditorData(code, std::make_unique<State>(alive));
+        QCOMPARE(alive, 2);
+        document.setEditorData(code, nullptr);
+        QVERIFY(!document.editorData(code) && document.editorData(other));
     }
     QCOMPARE(alive, 0);
 }

@@ -45,9 +45,11 @@ int positionOf(const QTextDocument* document, int line, int column)
                            : document->characterCount() - 1;
 }
 
-TextPlace keptPlace(const FamilyDocument* document)
+/// What is kept under the name of the editor.
+TextPlace keptPlace(const CodeTextEditor* editor, const FamilyDocument* document)
 {
-    const auto* kept = document ? dynamic_cast<const KeptPlace*>(document->editorData()) : nullptr;
+    const auto* kept =
+        document ? static_cast<const KeptPlace*>(document->editorData(editor->name())) : nullptr;
     return kept ? kept->place : TextPlace();
 }
 
@@ -125,7 +127,7 @@ void DocumentTabs::bringForward()
     m_front = document;
     m_editor->showDocument(document);
     if (document) {
-        restorePlace(m_editor->codeWorkspace()->editor(), keptPlace(document));
+        restorePlace(m_editor->codeWorkspace()->editor(), keptPlace(m_editor, document));
     }
     emit currentDocumentChanged(document);
 }
@@ -134,14 +136,14 @@ void DocumentTabs::keepPlace()
 {
     const CodeEditor* editor = m_editor->codeWorkspace()->editor();
     if (m_front && editor->codeDocument() == m_front) {
-        m_front->setEditorData(std::make_unique<KeptPlace>(placeIn(editor)));
+        m_front->setEditorData(m_editor->name(), std::make_unique<KeptPlace>(placeIn(editor)));
     }
 }
 
 TextPlace DocumentTabs::placeOf(const FamilyDocument* document) const
 {
     return document && document == m_front ? placeIn(m_editor->codeWorkspace()->editor())
-                                           : keptPlace(document);
+                                           : keptPlace(m_editor, document);
 }
 
 void DocumentTabs::setPlace(FamilyDocument* document, const TextPlace& place)
@@ -149,7 +151,7 @@ void DocumentTabs::setPlace(FamilyDocument* document, const TextPlace& place)
     if (document == m_front) {
         restorePlace(m_editor->codeWorkspace()->editor(), place);
     } else {
-        document->setEditorData(std::make_unique<KeptPlace>(place));
+        document->setEditorData(m_editor->name(), std::make_unique<KeptPlace>(place));
     }
 }
 

@@ -213,14 +213,15 @@ quint64 CodeDocument::parsedLineCount() const
     return d->parsedLines;
 }
 
-EditorData* CodeDocument::editorData() const
+EditorData* CodeDocument::editorData(const QString& editor) const
 {
-    return d->editorData.get();
+    const auto found = d->editorData.find(editor);
+    return found == d->editorData.end() ? nullptr : found->second.get();
 }
 
-void CodeDocument::setEditorData(std::unique_ptr<EditorData> data)
+void CodeDocument::setEditorData(const QString& editor, std::unique_ptr<EditorData> data)
 {
-    d->editorData = std::move(data);
+    d->editorData[editor] = std::move(data);
 }
 
 }  // namespace Zorv

@@ -241,10 +241,10 @@ public:
     /// Removes every entry of the editor, as it does by itself when it dies.
     void removeDocumentEditor(CodeDocumentEditor* editor);
 
-    /// What an editor keeps with this document; null if it has kept nothing.
-    /// The document owns it.
-    EditorData* editorData() const;
-    void setEditorData(std::unique_ptr<EditorData> data);
+    /// What an editor keeps with this document, by its name (`Editor::name()`), so that
+    /// several can; null if it has kept nothing. The document owns it.
+    EditorData* editorData(const QString& editor) const;
+    void setEditorData(const QString& editor, std::unique_ptr<EditorData> data);
 
     CodeDocument* document() const override;
     void insertChild(CodeNode* child, unsigned index) override;

@@ -12,6 +12,7 @@
 #include <QVector>
 
 #include <array>
+#include <map>
 #include <memory>
 
 namespace Zorv {
@@ -95,7 +96,7 @@ public:
     QMap<unsigned, CodeDocumentEditor*> editors;
     LineIndex lines;
     QSet<const CodeNode*> tracked;
-    std::unique_ptr<EditorData> editorData;
+    std::map<QString, std::unique_ptr<EditorData>> editorData;  ///< by the name of its editor
     quint64 parsedLines = 0;
 
     enum class Mark { AsCodec, Present, Absent };
