@@ -2,6 +2,7 @@
 
 #include "app/actions/actionregistry.h"
 
+#include <zorv/editors/framework/ownwidgetcontrol.h>
 #include <zorv/editors/framework/toolbuttoncontrol.h>
 #include <zorv/editors/framework/trwidgetcontrol.h>
 #include <zorv/text/translator.h>
@@ -96,9 +97,12 @@ private slots:
     void bringsAnEditorForward();
     void staysSwitchedOff();
     void goesWithItsReceiver();
+    void placesAFinishedWidget();
+    void enablesInTheAreasOfAControl();
+    void refusesWhatHasNoName();
 
 private:
-    QWidget* add(const char* name, const WidgetControl& control)
+    QWidget* add(const char* name, const Zorv::Control& control)
     {
         return qobject_cast<QWidget*>(m->host.addControl(QLatin1String(name), control));
     }
@@ -458,6 +462,59 @@ void TestControls::goesWithItsReceiver()
     m_publisher = std::make_unique<Publisher>();
     QVERIFY(addAction("pal_add"));
     QVERIFY(m->window->registry()->action(QStringLiteral("pal_add")));
+}
+
+void TestControls::placesAFinishedWidget()
+{
+    QPointer<QListView> grid = new QListView;
+    const Zorv::OwnWidgetControl control(grid, m_publisher.get(), SIGNAL(enabled(bool)));
+    QCOMPARE(add("pal_view", control), grid.data());
+    const auto* panel = m->window->findChild<QDockWidget*>(QStringLiteral("palette"));
+    QVERIFY(panel->isAncestorOf(grid));
+    QTRY_VERIFY(panel->isVisible());
+    m->window->registry()->setActiveAreas({QStringLiteral("sprites")});
+    QVERIFY(!grid->isEnabled());
+    emit m_publisher->enabled(true);
+    QVERIFY(grid->isEnabled());
+    m->window->registry()->setActiveAreas({});
+    QVERIFY(!grid->isEnabled());
+    // Another one takes the place, and goes first or with its publisher.
+    QPointer<QLabel> well = new QLabel;
+    add("pal_view", Zorv::OwnWidgetControl(well, m_publisher.get()));
+    QTRY_VERIFY(!grid);
+    QPointer<QLabel> second = new QLabel;
+    add("spr_foreground", Zorv::OwnWidgetControl(second));
+    delete second.data();
+    m_publisher.reset();
+    QTRY_VERIFY(!well);
+    QTRY_VERIFY(!panel->isVisible());
+    QTRY_VERIFY(!m->window->findChild<QToolBar*>(QStringLiteral("sprites_bar"))->isVisible());
+}
+
+/// The place of the name says "animations"; what the control says counts.
+void TestControls::enablesInTheAreasOfAControl()
+{
+    WidgetControl box(WidgetControl::CheckBox, 0, m_publisher.get(), SLOT(switched(bool)));
+    box.setAreas(sprites);
+    Zorv::OwnWidgetControl own(new QLabel, m_publisher.get());
+    own.setAreas(sprites);
+    for (const QWidget* widget : {add("anim_onion_skin", box), add("anim_onion_lb", own)}) {
+        for (const char* area : {"sprites", "animations"}) {
+            m->window->registry()->setActiveAreas({QLatin1String(area)});
+            QCOMPARE(widget->isEnabled(), QLatin1String(area) == QLatin1String("sprites"));
+        }
+    }
+}
+
+void TestControls::refusesWhatHasNoName()
+{
+    const int before = m->window->findChildren<QAction*>().size();
+    QVERIFY(!addAction(""));
+    QLabel label;
+    QVERIFY(!add("", Zorv::OwnWidgetControl(&label)));
+    QVERIFY(!add("", WidgetControl(WidgetControl::CheckBox, 0, nullptr)));
+    QVERIFY(!add("pal_view", Zorv::OwnWidgetControl(nullptr)));
+    QCOMPARE(m->window->findChildren<QAction*>().size(), before);
 }
 
 QTEST_MAIN(TestControls)

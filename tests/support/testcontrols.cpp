@@ -1,5 +1,6 @@
 #include "support/testcontrols.h"
 
+#include "editors/framework/ownwidgetcontrol.h"
 #include "editors/framework/toolbuttoncontrol.h"
 
 #include <QCheckBox>
@@ -111,6 +112,12 @@ QWidget* TestControls::add(const QString& name, const Zorv::Control& control)
         auto* toolButton = new QToolButton;
         toolButton->setDefaultAction(button->action());
         widget = toolButton;
+    } else if (const auto* own = dynamic_cast<const Zorv::OwnWidgetControl*>(&control)) {
+        widget = own->widget();
+        if (!own->enableSignal().isEmpty()) {
+            connect(own->receiver(), own->enableSignal().constData(), widget,
+                    SLOT(setEnabled(bool)));
+        }
     } else {
         widget = makeWidget(dynamic_cast<const Zorv::WidgetControl&>(control));
     }

@@ -3,6 +3,7 @@
 #include "app/actions/actiontext.h"
 #include "app/controls/controllink.h"
 
+#include <zorv/editors/framework/ownwidgetcontrol.h>
 #include <zorv/editors/framework/trwidgetcontrol.h>
 #include <zorv/text/translator.h>
 
@@ -120,13 +121,26 @@ QWidget* makeWidget(const WidgetControl& control)
 ControlBox::ControlBox(const QString& name, const WidgetControl& control, QWidget* parent)
     : QWidget(parent), m_field(makeWidget(control))
 {
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    new QHBoxLayout(this);
     makeLabel(control);
-    layout->addWidget(m_field, 1);
-    m_field->setObjectName(name);
+    hold(name);
     new ControlLink(m_field, control);
     retranslate();
+}
+
+ControlBox::ControlBox(const QString& name, const Zorv::OwnWidgetControl& control, QWidget* parent)
+    : QWidget(parent), m_field(control.widget())
+{
+    new QHBoxLayout(this);
+    hold(m_field->objectName().isEmpty() ? name : m_field->objectName());
+    connect(m_field, &QObject::destroyed, this, &QObject::deleteLater);
+}
+
+void ControlBox::hold(const QString& name)
+{
+    layout()->setContentsMargins(0, 0, 0, 0);
+    static_cast<QHBoxLayout*>(layout())->addWidget(m_field, 1);
+    m_field->setObjectName(name);
 }
 
 void ControlBox::makeLabel(const WidgetControl& control)
@@ -145,9 +159,9 @@ void ControlBox::makeLabel(const WidgetControl& control)
     }
 }
 
-bool ControlBox::isView() const
+bool ControlBox::takesRoom() const
 {
-    return qobject_cast<QAbstractItemView*>(m_field);
+    return m_field->sizePolicy().expandingDirections() & Qt::Vertical;
 }
 
 void ControlBox::retranslate()

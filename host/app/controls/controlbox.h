@@ -5,6 +5,7 @@
 class QLabel;
 
 namespace Zorv {
+class OwnWidgetControl;
 class Translator;
 class WidgetControl;
 }  // namespace Zorv
@@ -20,16 +21,22 @@ public:
     /// Makes the widget, named `name`, and connects it with the receiver of the control.
     ControlBox(const QString& name, const Zorv::WidgetControl& control, QWidget* parent = nullptr);
 
+    /// Takes the widget of the control, which gets `name` if it has none. The box goes when the
+    /// widget does.
+    ControlBox(const QString& name, const Zorv::OwnWidgetControl& control,
+               QWidget* parent = nullptr);
+
     /// The widget itself: a slider, a field, a view.
     QWidget* field() const { return m_field; }
 
-    /// True for lists and trees, which take all the room that there is.
-    bool isView() const;
+    /// True for a list, a tree and what else grows in height: it gets all the room that is left.
+    bool takesRoom() const;
 
     /// Label, tool tip and status tip again, in the present language.
     void retranslate();
 
 private:
+    void hold(const QString& name);
     void makeLabel(const Zorv::WidgetControl& control);
 
     QWidget* m_field;

@@ -8,6 +8,7 @@
 #include "app/controls/controllayout.h"
 
 #include <zorv/core/interface.h>
+#include <zorv/editors/framework/ownwidgetcontrol.h>
 #include <zorv/editors/framework/toolbuttoncontrol.h>
 #include <zorv/editors/framework/widgetcontrol.h>
 
@@ -88,6 +89,9 @@ QAction* ControlPlacer::addAction(const ActionRequest& request)
 
 QAction* ControlPlacer::createAction(const ActionRequest& request)
 {
+    if (request.name.isEmpty()) {
+        return nullptr;
+    }
     QAction* action = addAction(request);
     if (!request.receiver) {
         return action;
@@ -124,8 +128,14 @@ QAction* ControlPlacer::createEditorAction(const QString& name, const Zorv::Tran
 
 QObject* ControlPlacer::addControl(const QString& name, const Zorv::Control& control)
 {
+    if (name.isEmpty()) {
+        return nullptr;
+    }
     if (const auto* button = dynamic_cast<const Zorv::ToolButtonControl*>(&control)) {
         return button->action() ? addButton(name, *button) : nullptr;
+    }
+    if (const auto* own = dynamic_cast<const Zorv::OwnWidgetControl*>(&control)) {
+        return own->widget() ? addWidget(name, *own) : nullptr;
     }
     const auto* widget = dynamic_cast<const Zorv::WidgetControl*>(&control);
     return widget ? addWidget(name, *widget) : nullptr;
@@ -148,7 +158,8 @@ QToolButton* ControlPlacer::addButton(const QString& name, const Zorv::ToolButto
     return button;
 }
 
-QWidget* ControlPlacer::addWidget(const QString& name, const Zorv::WidgetControl& control)
+template <typename WidgetKind>
+QWidget* ControlPlacer::addWidget(const QString& name, const WidgetKind& control)
 {
     if (ControlBox* old = m_boxes.value(name)) {
         old->hide();
@@ -158,8 +169,10 @@ QWidget* ControlPlacer::addWidget(const QString& name, const Zorv::WidgetControl
     m_boxes.insert(name, box);
     QObject* receiver = control.receiver();
     const bool waitsForOwner = receiver && !control.enableSignal().isEmpty();
-    auto* gate = new AreaGate(m_actions->registry()->activeAreas(),
-                              {QLatin1String(placeOf(name).area)}, box, waitsForOwner);
+    const QStringList areas = control.areas().isEmpty()
+                                  ? QStringList(QLatin1String(placeOf(name).area))
+                                  : control.areas();
+    auto* gate = new AreaGate(m_actions->registry()->activeAreas(), areas, box, waitsForOwner);
     keepGate(name, gate);
     if (waitsForOwner) {
         connect(receiver, control.enableSignal().constData(), gate, SLOT(setAllowed(bool)));
@@ -167,7 +180,7 @@ QWidget* ControlPlacer::addWidget(const QString& name, const Zorv::WidgetControl
     if (receiver) {
         goWith(receiver, box);
     }
-    m_bars->addWidget(barOf(name), box, box->isView());
+    m_bars->addWidget(barOf(name), box, box->takesRoom());
     return box->field();
 }
 

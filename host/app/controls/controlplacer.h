@@ -51,14 +51,15 @@ public:
     /// Lives as a child of the window.
     ControlPlacer(QMainWindow* window, WindowActions* actions);
 
+    /// Null for a request without a name.
     QAction* createAction(const ActionRequest& request);
 
     /// Its trigger brings the editor forward that is named behind "editor_".
     QAction* createEditorAction(const QString& name, const Zorv::Translator* translator,
                                 unsigned textId);
 
-    /// The button or the widget, of which the window stays the owner; null for a control of an
-    /// unknown class.
+    /// The button or the widget, of which the window stays or becomes the owner; null for a
+    /// control of an unknown class, and for one without a name.
     QObject* addControl(const QString& name, const Zorv::Control& control);
 
     void setMenuEnabled(const char* menu, const char* group, bool isEnabled);
@@ -71,7 +72,8 @@ public:
 private:
     QAction* addAction(const ActionRequest& request);
     QToolButton* addButton(const QString& name, const Zorv::ToolButtonControl& control);
-    QWidget* addWidget(const QString& name, const Zorv::WidgetControl& control);
+    template <typename WidgetKind>
+    QWidget* addWidget(const QString& name, const WidgetKind& control);
     void keepGate(const QString& name, AreaGate* gate);
 
     QMainWindow* m_window;
