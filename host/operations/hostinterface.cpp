@@ -1,7 +1,10 @@
 #include "operations/hostinterface.h"
 
+#include "family/assets/soundfile.h"
 #include "family/project/familyenginemodel.h"
+#include "family/project/familyproject.h"
 #include "operations/english.h"
+#include "operations/media/assetnames.h"
 
 #include <zorv/code/codecs/textcodecs.h>
 #include <zorv/core/progressreporter.h>
@@ -140,12 +143,34 @@ QColor HostInterface::colorOption(const QString& key) const
 QString HostInterface::text(unsigned id) const
 {
     switch (id) {
+    case 2:
+        return QCoreApplication::translate("Operations::HostInterface", "Left out");
+    case 3:
+        return QCoreApplication::translate("Operations::HostInterface",
+                                           "'%1' could not be read. It is damaged, or its format "
+                                           "is not known here.");
+    case 4:
+        return QCoreApplication::translate("Operations::HostInterface",
+                                           "The %1 %2 of the project '%3' is empty.");
     case 7:
         return QCoreApplication::translate("Operations::HostInterface", "All known files");
     case 8:
         return QCoreApplication::translate("Operations::HostInterface", "Find");
     default:
         return {};
+    }
+}
+
+void HostInterface::soundIdentifiers(const QStringList& files, QList<QVariant>* identifiers)
+{
+    const auto* project = dynamic_cast<const Family::FamilyProject*>(currentProject());
+    const Family::SoundFile* sounds = project ? project->sounds() : nullptr;
+    identifiers->clear();
+    const auto free = [sounds](Family::AssetId from) {
+        return sounds ? sounds->freeId(from) : from;
+    };
+    for (const Family::AssetId id : newIds(files, free)) {
+        identifiers->append(id.text());
     }
 }
 

@@ -38,6 +38,9 @@ public:
     QColor colorOption(const QString& key) const override;
 
     QString text(unsigned id) const override;
+
+    /// As `newIds()`, for the project in front.
+    void soundIdentifiers(const QStringList& files, QList<QVariant>* identifiers) override;
     Zorv::EngineModel* engineModel() const override;
 
     /// By the logical resolution of the first screen.

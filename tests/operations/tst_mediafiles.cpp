@@ -58,6 +58,7 @@ private slots:
     void selections();
     void targets_data();
     void targets();
+    void newSoundsHaveNames();
     void jobsKeepTheirOrder();
     void jobsAreGivenUp();
 
@@ -231,6 +232,27 @@ void TestMediaFiles::targets()
     ImportTarget found;
     const bool isFound = importTarget(name, &found);
     QCOMPARE(isFound ? QString("%1 %2").arg(found.id.text()).arg(found.copy) : QString(), target);
+}
+
+void TestMediaFiles::newSoundsHaveNames()
+{
+    const auto ids = newIds({"hit.wav", "ash-200-3.wav", "miss.wav", "rai-200-3.wav", "0-2.wav"},
+                            [](AssetId from) { return from.key() ? from : AssetId::fromKey(1); });
+    QStringList texts;
+    for (const AssetId id : ids) {
+        texts.append(id.text());
+    }
+    QCOMPARE(texts, QStringList({"0,1", "200,3", "0,3", "200,4", "0,2"}));
+    // A host that does not say takes the names of the files, the window those.
+    const QStringList files{"in/200-3.wav", "in/hit.2.wav"};
+    QVariantList names;
+    HostInterface host;
+    host.Interface::soundIdentifiers(files, &names);
+    QCOMPARE(names, QVariantList({"200-3", "hit.2"}));
+    host.soundIdentifiers(files, &names);
+    QCOMPARE(names, QVariantList({"200,3", "0,0"}));
+    QVERIFY(host.text(3).contains(QLatin1String("%1")) &&
+            host.text(4).contains(QLatin1String("%3")));
 }
 
 // Results come in order, whatever order they are done in; and only a few are on their way.

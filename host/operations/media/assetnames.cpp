@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 
 namespace Operations {
 
@@ -93,6 +94,33 @@ QVector<ImportTarget> importTargets(const QStringList& files, int group,
         targets.append(target);
     }
     return targets;
+}
+
+QVector<AssetId> newIds(const QStringList& files, const std::function<AssetId(AssetId)>& freeId)
+{
+    QVector<AssetId> ids(files.size());
+    QSet<quint32> given;
+    const auto give = [&](int file, AssetId from) {
+        AssetId id = freeId(from);
+        while (given.contains(id.key())) {
+            id = freeId(AssetId::fromKey(id.key() + 1));
+        }
+        given.insert(id.key());
+        ids[file] = id;
+    };
+    QVector<int> nameless;
+    for (int i = 0; i < files.size(); ++i) {
+        ImportTarget target;
+        if (importTarget(files[i], &target)) {
+            give(i, target.id);
+        } else {
+            nameless.append(i);
+        }
+    }
+    for (const int i : qAsConst(nameless)) {
+        give(i, {});
+    }
+    return ids;
 }
 
 }  // namespace Operations

@@ -36,4 +36,10 @@ QVector<ImportTarget> importTargets(const QStringList& files, int group,
                                     const std::function<Family::AssetId(Family::AssetId)>& freeId,
                                     QString* error);
 
+/// An identifier for each file that is about to be added, each another one: what its name tells, or
+/// the next one that is free; for a name that tells none the first that is. `freeId` gives the free
+/// one at an identifier or behind it.
+QVector<Family::AssetId> newIds(const QStringList& files,
+                                const std::function<Family::AssetId(Family::AssetId)>& freeId);
+
 }  // namespace Operations
