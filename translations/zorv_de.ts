@@ -2830,6 +2830,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Sort animations</source>
         <translation>Animationen sortieren</translation>
     </message>
+    <message>
+        <source>Remove redundant lines</source>
+        <translation>Überflüssige Zeilen entfernen</translation>
+    </message>
 </context>
 <context>
     <name>Family::FamilyEngineModel</name>
@@ -4102,6 +4106,18 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Find</source>
         <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Ausgelassen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; could not be read. It is damaged, or its format is not known here.</source>
+        <translation>„%1“ konnte nicht gelesen werden. Die Datei ist beschädigt, oder ihr Format ist hier nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The %1 %2 of the project &apos;%3&apos; is empty.</source>
+        <translation>Leer im Projekt „%3“: %1 %2.</translation>
     </message>
 </context>
 <context>

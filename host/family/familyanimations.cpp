@@ -5,6 +5,7 @@
 #include "family/nodes/animationnode.h"
 #include "family/nodes/headcomments.h"
 #include "family/nodes/lineedit.h"
+#include "family/redundantlines.h"
 
 #include <QTextBlock>
 #include <QTextCursor>
@@ -74,9 +75,9 @@ int FamilyAnimations::indexOfIdentifier(const QString& identifier) const
     return find(0, identifier);
 }
 
-bool FamilyAnimations::allowsDuplicates(const QString&) const
+int FamilyAnimations::optimize()
 {
-    return false;
+    return removeRedundantLines(this);
 }
 
 QString FamilyAnimations::animationTemplate() const

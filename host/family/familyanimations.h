@@ -32,7 +32,8 @@ public:
     /// outside of the list or a text that is no identifier.
     bool duplicateAnimation(int index, const QString& identifier);
 
-    bool allowsDuplicates(const QString& identifier) const override;
+    /// As `removeRedundantLines()`.
+    int optimize() override;
     QString animationTemplate() const override;
 
     /// As that of the library; the head line for an animation without any name.

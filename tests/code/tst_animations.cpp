@@ -1,3 +1,4 @@
+#include "support/laddergrammar.h"
 #include "support/testgrammar.h"
 
 #include "core/messages.h"
@@ -5,7 +6,10 @@
 #include <QAbstractItemModelTester>
 #include <QMimeData>
 #include <QRandomGenerator>
+#include <QTextCursor>
 #include <QtTest>
+
+#include <functional>
 
 using namespace Zorv;
 
@@ -59,6 +63,12 @@ private slots:
     void duplicates();
     void insertAndFind();
     void extents();
+    void insertsFrames_data();
+    void insertsFrames();
+    void framesOfGrammarWithNewNodes_data();
+    void framesOfGrammarWithNewNodes();
+    void currentGoesAlong_data();
+    void currentGoesAlong();
     void drop();
     void randomOperations();
 };
@@ -160,6 +170,138 @@ void TestAnimationList::extents()
     QCOMPARE(fixture.list->at(1)->lastLine(), fixture.document.blockCount());
     fixture.list->at(0)->removeFrame(1);
     QCOMPARE(fixture.document.text(), QStringLiteral("!a\n# box\n-f\n!b\n-h"));
+}
+
+void TestAnimationList::insertsFrames_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<unsigned>("index");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<int>("place");
+    const QString two = QStringLiteral("!a\n# box\n-f\n# one\n-g\n# end\n!b\n");
+    QTest::newRow("first") << two << 0U
+                           << QStringLiteral("!a\n-new\n# box\n-f\n# one\n-g\n# end\n!b\n") << 0;
+    QTest::newRow("between, in front of the lines of the next")
+        << two << 1U << QStringLiteral("!a\n# box\n-f\n-new\n# one\n-g\n# end\n!b\n") << 1;
+    QTest::newRow("behind") << two << 2U
+                            << QStringLiteral("!a\n# box\n-f\n# one\n-g\n-new\n# end\n!b\n") << 2;
+    QTest::newRow("far behind") << two << 99U
+                                << QStringLiteral("!a\n# box\n-f\n# one\n-g\n-new\n# end\n!b\n")
+                                << 2;
+    QTest::newRow("empty") << QStringLiteral("!a\n!b\n-h") << 3U
+                           << QStringLiteral("!a\n-new\n!b\n-h") << 0;
+    QTest::newRow("empty, without a line end")
+        << QStringLiteral("!a") << 0U << QStringLiteral("!a\n-new") << 0;
+}
+
+void TestAnimationList::insertsFrames()
+{
+    QFETCH(QString, text);
+    QFETCH(unsigned, index);
+    QFETCH(QString, result);
+    QFETCH(int, place);
+    for (const bool isInChange : {false, true}) {
+        Fixture fixture(text);
+        fixture.document.clearUndoRedoStacks();
+        if (isInChange) {
+            fixture.document.beginChange(QString());
+        }
+        const FrameCode* frame = fixture.list->at(0)->insertFrame(index);
+        QVERIFY(frame);
+        QCOMPARE(frame->index(), place);
+        QCOMPARE(frame->block().text(), QStringLiteral("-new"));
+        if (isInChange) {
+            fixture.document.endChange();
+        }
+        QCOMPARE(fixture.document.text(), result);
+        QCOMPARE(fixture.document.dump(), GrammarDocument(result).dump());
+        fixture.document.undo();
+        QCOMPARE(fixture.document.text(), text);
+        QVERIFY(!fixture.document.isUndoAvailable());
+    }
+}
+
+void TestAnimationList::framesOfGrammarWithNewNodes_data()
+{
+    QTest::addColumn<bool>("isReusing");
+    QTest::newRow("nodes are made anew") << false;
+    QTest::newRow("nodes are kept") << true;
+}
+
+/// The line of the head is parsed again: with it the animation may become another node.
+void TestAnimationList::framesOfGrammarWithNewNodes()
+{
+    QFETCH(bool, isReusing);
+    const auto reuse = isReusing ? LadderGrammar::Reuse::All : LadderGrammar::Reuse::None;
+    LadderDocument document(reuse, QStringLiteral("@a\n@b\n+ p"));
+    auto* list = new LadderAnimations(&document);
+    document.registerDocumentEditor(list, CodeNode::Animation, 0);
+    document.reparse();
+    list->at(1)->setCurrentFrame(7);
+    for (unsigned animation : {0U, 1U}) {
+        const FrameCode* frame = list->at(animation)->insertFrame(0);
+        QVERIFY(frame);
+        QCOMPARE(frame->identifier().toString(), QStringLiteral(" new"));
+        QCOMPARE(list->at(animation)->frames().indexOf(const_cast<FrameCode*>(frame)), 0);
+    }
+    QCOMPARE(document.text(), QStringLiteral("@a\n; box\n+ new\n@b\n; box\n+ new\n+ p"));
+    QCOMPARE(list->at(1)->currentFrame(), 7);
+}
+
+using Edit = std::function<void(Fixture&)>;
+Q_DECLARE_METATYPE(Edit)
+
+void TestAnimationList::currentGoesAlong_data()
+{
+    QTest::addColumn<Edit>("edit");
+    QTest::addColumn<QString>("name");  // of the animation that is current then, empty for none
+    QTest::addColumn<int>("frame");     // that it remembers
+    const auto row = [](const char* title, const char* name, int frame, const Edit& edit) {
+        QTest::newRow(title) << edit << QString::fromLatin1(name) << frame;
+    };
+    const auto typeInto = [](Fixture& f, int line, const QString& text) {
+        QTextCursor cursor(f.document.findBlockByNumber(line));
+        cursor.movePosition(QTextCursor::EndOfBlock);
+        cursor.insertText(text);
+    };
+    row("its head is edited", "cx", 1, [=](Fixture& f) { typeInto(f, 8, "x"); });
+    row("the head above is edited", "c", 1, [=](Fixture& f) { typeInto(f, 4, "x"); });
+    row("one comes above", "c", 1, [](Fixture& f) { f.list->insert(0, "n"); });
+    row("one comes right above", "c", 1, [](Fixture& f) { f.list->insert(2, "n"); });
+    row("one comes below", "c", 1, [](Fixture& f) { f.list->insert(3, "n"); });
+    row("one above goes", "c", 1, [](Fixture& f) { f.list->remove(1); });
+    row("it goes", "d", 0, [](Fixture& f) { f.list->remove(2); });
+    row("it moves up", "c", 1, [](Fixture& f) { f.list->move(2, 0); });
+    row("it moves to the last place", "c", 1, [](Fixture& f) { f.list->move(2, 3); });
+    row("another one passes it", "c", 1, [](Fixture& f) { f.list->move(0, 2); });
+    row("all are sorted", "c", 1, [=](Fixture& f) {
+        typeInto(f, 0, "z");
+        f.list->autoOrganize();
+    });
+    row("undo", "c", 1, [](Fixture& f) {
+        f.list->move(3, 0);
+        f.document.undo();
+    });
+    row("the text is parsed anew", "c", 0, [](Fixture& f) { f.document.reparse(); });
+    row("the file is read again", "c", 0,
+        [](Fixture& f) { f.document.setPlainText(f.document.text()); });
+    row("everything goes", "", 0, [](Fixture& f) { f.document.setPlainText({}); });
+}
+
+/// A person comes back to the animation and to the frame that they left.
+void TestAnimationList::currentGoesAlong()
+{
+    QFETCH(Edit, edit);
+    QFETCH(QString, name);
+    QFETCH(int, frame);
+    Fixture fixture(withNames({"a", "b", "c", "d"}));
+    QCOMPARE(fixture.list->currentIndex(), 0);
+    fixture.list->setCurrent(2);
+    fixture.list->at(2)->setCurrentFrame(1);
+    edit(fixture);
+    const AnimationCode* current = fixture.list->at(unsigned(fixture.list->currentIndex()));
+    QCOMPARE(current ? current->name() : QString(), name);
+    QCOMPARE(current ? current->currentFrame() : 0, frame);
 }
 
 void TestAnimationList::drop()

@@ -367,6 +367,12 @@ void TestFamilyNodes::frameProperties()
     QCOMPARE(document.lastBlock().text(),
              QStringLiteral("frame 3,4  offset 5,-6  delay 7  flip hv  scale 0.1,2  "
                             "angle 12.25  loop"));
+    // A new one looks as the one in front of it.
+    const auto* behind = document.animations()->at(0)->insertFrame(1);
+    QCOMPARE(behind->block().text(), QStringLiteral("frame 3,4  offset 5,-6  delay 10  flip hv  "
+                                                    "scale 0.1,2  angle 12.25"));
+    const auto* first = document.animations()->at(0)->insertFrame(0);
+    QCOMPARE(first->block().text(), QStringLiteral("frame 0,0  delay 10"));
 }
 
 void TestFamilyNodes::boxesOfFrame()

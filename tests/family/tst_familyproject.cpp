@@ -390,6 +390,12 @@ void TestFamilyProject::assetsAreLoaded()
     QCOMPARE(project->sounds()->count(), 1U);
     QVERIFY(!project->sprites()->isModified());
     QCOMPARE(project->loadErrors().size(), 1);
+    // Frames show them.
+    project->mainDocument()->insert(QStringLiteral("\nanimation 9\nframe %1\nframe 65535,65535\n")
+                                        .arg(project->sprites()->sprite(0)->id().text()));
+    const auto frames = project->mainDocument()->animations()->animations().last()->frames();
+    QCOMPARE(frames.at(0)->sprite(), static_cast<Zorv::Sprite*>(project->sprites()->sprite(0)));
+    QVERIFY(!frames.at(1)->sprite());
     // The same files are not loaded again; others that the text names then are the ones that count.
     SoundFile* sounds = project->sounds();
     project->loadFiles();

@@ -81,6 +81,10 @@ public:
     void setName(const QString&) override {}
     int duration() const override { return 0; }
     int loopFrame() const override { return -1; }
+    QString frameTemplate(const Zorv::FrameCode*) const override
+    {
+        return QStringLiteral("; box\n+ new");
+    }
 
 private:
     QString m_name;
@@ -106,7 +110,7 @@ class LadderAnimations : public Zorv::Animations
 public:
     using Animations::Animations;
     void release() override { delete this; }
-    bool allowsDuplicates(const QString&) const override { return true; }
+    int optimize() override { return 0; }
     QString animationTemplate() const override { return QStringLiteral("@%1\n"); }
 };
 

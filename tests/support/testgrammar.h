@@ -67,6 +67,7 @@ public:
     QVariant property(const QString& key) const override;
     int duration() const override { return 0; }
     int loopFrame() const override { return -1; }
+    QString frameTemplate(const Zorv::FrameCode*) const override { return QStringLiteral("-new"); }
 
 private:
     QString m_name;
@@ -109,7 +110,7 @@ class TestAnimations : public Zorv::Animations
 public:
     using Animations::Animations;
     void release() override { delete this; }
-    bool allowsDuplicates(const QString&) const override { return true; }
+    int optimize() override { return 0; }
     QString animationTemplate() const override { return QStringLiteral("!%1\n-new\n"); }
 };
 

@@ -2,12 +2,19 @@
 
 #include "family/grammar/linescanner.h"
 #include "family/nodes/boxnode.h"
+#include "family/nodes/frameedit.h"
 #include "family/nodes/framenode.h"
 #include "family/nodes/headcomments.h"
 #include "family/nodes/lineedit.h"
 #include "family/nodes/valuetext.h"
 
 namespace Family {
+
+namespace {
+
+constexpr int NewFrameDelay = 10;  // ticks
+
+}  // namespace
 
 AnimationNode::AnimationNode(Zorv::CodeNode* previous, const QString& identifier,
                              const QString& name)
@@ -92,6 +99,14 @@ int AnimationNode::loopFrame() const
         ++index;
     }
     return -1;
+}
+
+QString AnimationNode::frameTemplate(const Zorv::FrameCode* before) const
+{
+    FrameData data = before ? static_cast<const FrameNode*>(before)->data() : FrameData();
+    data.delay = NewFrameDelay;
+    data.loop = false;
+    return frameText(data);
 }
 
 QVariant AnimationNode::property(const QString& name) const

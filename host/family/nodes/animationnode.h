@@ -32,6 +32,9 @@ public:
     int duration() const override;
     int loopFrame() const override;
 
+    /// Looks as the frame in front of it, without its boxes, and stands for 10 ticks.
+    QString frameTemplate(const Zorv::FrameCode* before) const override;
+
     QVariant property(const QString& name) const override;
     void setProperty(const QString& name, const QVariant& value) override;
 

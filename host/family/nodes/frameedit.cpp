@@ -163,6 +163,19 @@ bool writeOption(FrameNode* frame, int option, const FrameData& wanted)
     return true;
 }
 
+QString frameText(const FrameData& data)
+{
+    QString text = QStringLiteral("frame %1,%2")
+                       .arg(QString::number(data.group), QString::number(data.number));
+    for (int option = OffsetOption; option <= LoopOption; ++option) {
+        const QStringList elements = optionElements(option, data);
+        if (!elements.isEmpty()) {
+            text += QLatin1String("  ") + optionCode(option, elements);
+        }
+    }
+    return text;
+}
+
 QString optionText(int option, const FrameData& data)
 {
     switch (option) {

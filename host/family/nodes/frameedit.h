@@ -16,6 +16,9 @@ bool writeSprite(FrameNode* frame, int group, int number);
 /// option does not take.
 bool writeOption(FrameNode* frame, int option, const FrameData& wanted);
 
+/// The line of a frame, with the options that are not at their defaults, in the order of the docs.
+QString frameText(const FrameData& data);
+
 /// The value of an option as code, also at its default: "0, 0", "h", "yes" or "no" for `loop`.
 QString optionText(int option, const FrameData& data);
 

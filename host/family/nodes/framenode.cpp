@@ -1,9 +1,14 @@
 #include "family/nodes/framenode.h"
 
+#include "family/assets/familysprite.h"
+#include "family/assets/spritecollection.h"
 #include "family/grammar/linereader.h"
 #include "family/nodes/boxnode.h"
 #include "family/nodes/frameboxes.h"
 #include "family/nodes/frameedit.h"
+#include "family/project/familyproject.h"
+
+#include <zorv/code/codedoc/codedocument.h>
 
 namespace Family {
 
@@ -57,6 +62,14 @@ int FrameNode::spriteNumber() const
 void FrameNode::setSprite(int group, int number)
 {
     writeSprite(this, group, number);
+}
+
+Zorv::Sprite* FrameNode::sprite() const
+{
+    const Zorv::CodeDocument* text = document();
+    const auto* project = text ? dynamic_cast<const FamilyProject*>(text->project()) : nullptr;
+    const SpriteCollection* sprites = project ? project->sprites() : nullptr;
+    return sprites ? sprites->byId({quint16(m_data.group), quint16(m_data.number)}) : nullptr;
 }
 
 QPoint FrameNode::offset() const

@@ -29,6 +29,7 @@ public:
     int spriteGroup() const override;
     int spriteNumber() const override;
     void setSprite(int group, int number) override;
+    Zorv::Sprite* sprite() const override;
     QPoint offset() const override;
     void setOffset(const QPoint& offset) override;
     int delay() const override;

@@ -81,6 +81,37 @@ void AnimationCode::removeFrame(unsigned index)
     }
 }
 
+QString AnimationCode::frameTemplate(const FrameCode*) const
+{
+    return {};
+}
+
+/// The grammar may make a new node of each line that the edit touches, so all of them are
+/// looked up again.
+FrameCode* AnimationCode::insertFrame(unsigned index)
+{
+    CodeDocument* document = this->document();
+    const QList<FrameCode*> all = frames();
+    const int place = int(qMin(index, unsigned(all.size())));
+    const FrameCode* before = all.value(place - 1);
+    const QString text = frameTemplate(before);
+    if (text.isEmpty() || !document) {
+        return nullptr;
+    }
+    const int headLine = block().blockNumber();
+    const CodeNode* above = before ? static_cast<const CodeNode*>(before) : this;
+    const int line = above->block().blockNumber() + 1;
+    document->insertAfter(above, text, true);
+
+    const CodeNode* head = document->nodeInBlock(document->findBlockByNumber(headLine));
+    if (!head || head->type() != CodeNode::Animation) {
+        return nullptr;
+    }
+    FrameCode* made = static_cast<const AnimationCode*>(head)->frames().value(place);
+    const int madeLine = made ? made->block().blockNumber() : -1;
+    return madeLine >= line && madeLine <= line + text.count(QLatin1Char('\n')) ? made : nullptr;
+}
+
 int AnimationCode::lastLine() const
 {
     if (const CodeNode* node = NodeChain::forward(this, CodeNode::Group | CodeNode::Animation)) {

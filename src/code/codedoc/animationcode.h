@@ -38,6 +38,22 @@ public:
     /// `frames()`, nothing outside of them.
     void removeFrame(unsigned index);
 
+    /// Writes a new frame, by `frameTemplate()`, right behind the line of the frame in front of
+    /// it: it stands at `index`, or behind the last one. Gives it; null for a grammar without a
+    /// template, and while the lines of a change are not parsed at once ("parseCode"). The
+    /// animation itself may be another node afterwards.
+    FrameCode* insertFrame(unsigned index);
+
+    /// The lines of a new frame, with no line end behind the last; `before` is the frame in
+    /// front of it, null for the first. As it stands here it is empty: no frame can be inserted.
+    virtual QString frameTemplate(const FrameCode* before) const;
+
+    /// The frame that a person looked at last, so that they come back to it; 0 at first. It may
+    /// be behind the last one by now. A node that takes the place of this one in the same line
+    /// takes it over.
+    int currentFrame() const { return m_currentFrame; }
+    void setCurrentFrame(int index) { m_currentFrame = index; }
+
     /// The whole time of one pass in ticks of 1/60 second; -1 if it never ends.
     virtual int duration() const = 0;
 
@@ -67,6 +83,7 @@ private:
     int indexOfFrame(const FrameCode* frame) const;
 
     CodeNodeList m_children;
+    int m_currentFrame = 0;
     bool m_isMixed = false;  ///< has had children that are no frames
 };
 

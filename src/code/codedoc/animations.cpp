@@ -14,9 +14,48 @@ namespace Zorv {
 class AnimationsPrivate
 {
 public:
+    void inserted(int row);
+    void removed(int row);
+    void settle();
+
     QList<AnimationCode*> list;
     bool moving = false;
+    int current = 0;
+    int settled = 0;             ///< `current` when the text was last at rest
+    bool isCurrentGone = false;  ///< it is a number alone until then
 };
+
+void AnimationsPrivate::inserted(int row)
+{
+    const int before = list.size() - 1;
+    if (!isCurrentGone && row <= current && current < before) {
+        ++current;
+    }
+}
+
+/// The row is still in the list. A line that is parsed again has its new node in front of the old
+/// one for a moment. A text that is read anew loses all rows and gets others: then the place
+/// counts.
+void AnimationsPrivate::removed(int row)
+{
+    const AnimationCode* above = list.value(row - 1);
+    if (list.size() == 1) {
+        current = settled;
+        isCurrentGone = true;
+    } else if (isCurrentGone || row > current) {
+        return;
+    } else if (row < current || (above && above->block() == list.at(row)->block())) {
+        --current;
+    } else {
+        isCurrentGone = true;
+    }
+}
+
+void AnimationsPrivate::settle()
+{
+    settled = current;
+    isCurrentGone = false;
+}
 
 namespace {
 
@@ -62,6 +101,7 @@ Animations::Animations(CodeDocument* document)
         d->list.clear();
         endResetModel();
     });
+    connect(document, &CodeDocument::codeChanged, this, [this] { d->settle(); });
 }
 
 Animations::~Animations() = default;
@@ -79,6 +119,17 @@ int Animations::count() const
 AnimationCode* Animations::at(unsigned index) const
 {
     return d->list.value(int(index));
+}
+
+int Animations::currentIndex() const
+{
+    return d->current;
+}
+
+void Animations::setCurrent(int index)
+{
+    d->current = index;
+    d->settle();
 }
 
 int Animations::indexOf(const AnimationCode* animation) const
@@ -155,10 +206,20 @@ void Animations::move(unsigned from, unsigned to)
     QScopedValueRollback<bool> moving(d->moving, true);
     beginMoveRows({}, int(from), int(from), {}, int(from < to ? to + 1 : to));
     beginChange(QString());
+    const bool isCurrent = int(from) == d->current;
+    d->removed(int(from));
     AnimationCode* animation = d->list.takeAt(int(from));
+    const int frame = animation->currentFrame();
     animation->remove(true);
     document()->insertBefore(at(to), text, false);
     endChange();
+    const unsigned place = to == size - 1 ? 0 : to;
+    if (AnimationCode* moved = at(place)) {
+        moved->setCurrentFrame(frame);
+    }
+    if (isCurrent) {
+        setCurrent(int(place));
+    }
     endMoveRows();
     emit changed(false);
 }
@@ -209,14 +270,15 @@ QVariant Animations::data(const QModelIndex& index, int role) const
 void Animations::insertChild(CodeNode* child, unsigned index)
 {
     const int row = int(std::min(index, unsigned(d->list.size())));
-    if (d->moving) {
-        d->list.insert(row, static_cast<AnimationCode*>(child));
-        return;
+    if (!d->moving) {
+        beginInsertRows({}, row, row);
     }
-    beginInsertRows({}, row, row);
     d->list.insert(row, static_cast<AnimationCode*>(child));
-    endInsertRows();
-    emit changed(true);
+    d->inserted(row);
+    if (!d->moving) {
+        endInsertRows();
+        emit changed(true);
+    }
 }
 
 void Animations::removeChild(CodeNode* child)
@@ -225,14 +287,15 @@ void Animations::removeChild(CodeNode* child)
     if (row < 0) {
         return;
     }
-    if (d->moving) {
-        d->list.removeAt(row);
-        return;
+    if (!d->moving) {
+        beginRemoveRows({}, row, row);
     }
-    beginRemoveRows({}, row, row);
+    d->removed(row);
     d->list.removeAt(row);
-    endRemoveRows();
-    emit changed(true);
+    if (!d->moving) {
+        endRemoveRows();
+        emit changed(true);
+    }
 }
 
 void Animations::childChanged(CodeNode* child)

@@ -25,9 +25,9 @@ public:
     explicit Animations(CodeDocument* document);
     ~Animations() override;
 
-    /// True if two animations with that identifier could stand side by side;
-    /// the library does not ask.
-    virtual bool allowsDuplicates(const QString& identifier) const = 0;
+    /// Removes the lines of animations that change nothing in the game, as one step of undo,
+    /// and gives their number. What those are is for the grammar to say.
+    virtual int optimize() = 0;
 
     /// The text of a new animation, with "%1" where the identifier goes.
     virtual QString animationTemplate() const = 0;
@@ -37,6 +37,14 @@ public:
 
     /// The animation at a place, null outside of the list.
     AnimationCode* at(unsigned index) const;
+
+    /// The place of the animation that a person looked at last; 0 at first. It goes with the
+    /// animation when the text is edited and rows are moved. When that is removed the place
+    /// stays, and may be behind the last one.
+    int currentIndex() const;
+
+    /// Makes a place current; one outside of the list means that none is.
+    void setCurrent(int index);
 
     /// -1 for a stranger.
     int indexOf(const AnimationCode* animation) const;

@@ -1,5 +1,6 @@
 #include "code/codedoc/codedocument_p.h"
 
+#include "code/codedoc/animationcode.h"
 #include "code/codedoc/codeparser.h"
 #include "code/codedoc/folding_p.h"
 #include "code/codedoc/groupcode.h"
@@ -15,6 +16,15 @@ namespace {
 bool isHead(const CodeNode* node)
 {
     return (node->type() & (CodeNode::Group | CodeNode::Animation)) != 0;
+}
+
+/// Whoever edits the head of an animation still looks at the same frame of it.
+void handOnFrame(const CodeNode* old, CodeNode* node)
+{
+    if (old->type() == CodeNode::Animation && node->type() == CodeNode::Animation) {
+        const int frame = static_cast<const AnimationCode*>(old)->currentFrame();
+        static_cast<AnimationCode*>(node)->setCurrentFrame(frame);
+    }
 }
 
 }  // namespace
@@ -170,6 +180,9 @@ CodeNode* CodeDocumentPrivate::parseLine(const QTextBlock& block, CodeBlockData*
     data->d->contextAbove = contextAbove;
     data->d->context = contextOf(node, old, data, text);
     data->d->node = node;
+    if (node && old && old != node) {
+        handOnFrame(old, node);
+    }
     return old == node ? nullptr : old;
 }
 

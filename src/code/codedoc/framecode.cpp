@@ -87,6 +87,11 @@ bool FrameCode::isLoopPoint() const
     return false;
 }
 
+Sprite* FrameCode::sprite() const
+{
+    return nullptr;
+}
+
 void FrameCode::setIdentifier(const QVariant&) {}
 
 void FrameCode::setSprite(int, int) {}

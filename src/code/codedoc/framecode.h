@@ -11,6 +11,7 @@
 namespace Zorv {
 
 class ContactBoxesCode;
+class Sprite;
 
 /// One frame of an animation.
 ///
@@ -50,6 +51,10 @@ public:
     virtual int spriteGroup() const;
     virtual int spriteNumber() const;
     virtual void setSprite(int group, int number);
+
+    /// That sprite of the document's project, to be drawn and not kept: it goes when the
+    /// collection changes. Null if the project has none, or the document no project.
+    virtual Sprite* sprite() const;
 
     /// Where the picture is moved to, in pixels of the game.
     virtual QPoint offset() const;

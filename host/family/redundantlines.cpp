@@ -1,0 +1,205 @@
+#include "family/redundantlines.h"
+
+// Everything is decided before the first edit: which lines go, and which frames stay longer. The
+// edits then run from the bottom up, so that the numbers of the lines above stay true.
+
+#include "family/familyanimations.h"
+#include "family/grammar/framereader.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/boxnode.h"
+#include "family/nodes/framenode.h"
+#include "family/nodes/lineedit.h"
+
+#include <zorv/code/codedoc/codedocument.h>
+
+#include <QTextBlock>
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <vector>
+
+namespace Family {
+
+namespace {
+
+/// The kind of a box and its four numbers.
+using Box = std::array<int, 5>;
+
+Box boxOf(const BoxNode* node)
+{
+    const QRect rect = node->rect();
+    return {node->isAttack(), rect.left(), rect.top(), rect.right(), rect.bottom()};
+}
+
+/// Lines that go; or, if `last` is -1, a frame in line `first` that stays for another time.
+struct Edit
+{
+    int first;
+    int last;
+    int delay;
+};
+
+/// Goes along the lines of one animation.
+class AnimationWalk
+{
+public:
+    AnimationWalk(const AnimationNode* animation, std::vector<Edit>* edits);
+
+private:
+    void visitFrame(const FrameNode* frame, int line);
+    bool canGo(int first, int last) const;
+    bool canStay(int line) const;
+    bool canJoin(const FrameData& data) const;
+    void leaveFrame();
+
+    const Zorv::CodeDocument* m_document;
+    std::vector<Edit>* m_edits;
+    int m_first;                 // line of the frame that comes next
+    std::set<Box> m_boxes;       // of it, as far as they are read
+    std::vector<int> m_repeats;  // lines of the boxes that it has already
+
+    // The frame that the next one may join.
+    int m_line = -1;
+    int m_ownDelay = 0;
+    FrameData m_data;
+    std::set<Box> m_dataBoxes;
+};
+
+AnimationWalk::AnimationWalk(const AnimationNode* animation, std::vector<Edit>* edits)
+    : m_document(animation->document()), m_edits(edits),
+      m_first(animation->block().blockNumber() + 1)
+{
+    const int end = qMin(animation->lastLine() + 1, m_document->blockCount());
+    QTextBlock block = m_document->findBlockByNumber(m_first);
+    for (int line = m_first; line < end; ++line, block = block.next()) {
+        const Zorv::CodeNode* node = m_document->nodeInBlock(block);
+        if (const auto* frame = dynamic_cast<const FrameNode*>(node)) {
+            visitFrame(frame, line);
+        } else if (const auto* box = dynamic_cast<const BoxNode*>(node)) {
+            if (!m_boxes.insert(boxOf(box)).second) {
+                m_repeats.push_back(line);
+            }
+        }
+    }
+    leaveFrame();
+}
+
+void AnimationWalk::visitFrame(const FrameNode* frame, int line)
+{
+    const FrameData& data = frame->data();
+    if (canJoin(data) && canGo(m_first, line) && canStay(m_line)) {
+        m_edits->push_back({m_first, line, 0});
+        m_data.delay = data.delay < 0 ? -1 : m_data.delay + data.delay;
+    } else {
+        leaveFrame();
+        for (const int repeat : m_repeats) {
+            if (canGo(repeat, repeat)) {
+                m_edits->push_back({repeat, repeat, 0});
+            }
+        }
+        m_line = line;
+        m_data = data;
+        m_ownDelay = data.delay;
+        m_dataBoxes.swap(m_boxes);
+    }
+    m_boxes.clear();
+    m_repeats.clear();
+    m_first = line + 1;
+}
+
+bool AnimationWalk::canJoin(const FrameData& data) const
+{
+    FrameData same = m_data;
+    same.delay = data.delay;
+    same.loop = false;
+    const double most = frameOption(DelayOption).maximum;
+    return m_line >= 0 && m_data.delay >= 0 && m_data.delay + data.delay <= most && data == same &&
+           m_boxes == m_dataBoxes;
+}
+
+/// True if nobody would miss the lines: they are empty, or boxes and frames without a comment and
+/// without a problem, whose text somebody has still to look at.
+bool AnimationWalk::canGo(int first, int last) const
+{
+    for (int line = first; line <= last; ++line) {
+        const QTextBlock block = m_document->findBlockByNumber(line);
+        const Zorv::CodeNode* node = m_document->nodeInBlock(block);
+        if (!node && !block.text().trimmed().isEmpty()) {
+            return false;
+        }
+        if (node) {
+            const NodeLine parts(node);
+            const bool isBoxOrFrame = node->type() == Zorv::CodeNode::Frame ||
+                                      dynamic_cast<const BoxNode*>(node) != nullptr;
+            if (!isBoxOrFrame || !parts.details.problems.isEmpty() ||
+                parts.details.part(LinePart::Comment)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+/// A frame with a problem is no measure for another one, and may not take its time.
+bool AnimationWalk::canStay(int line) const
+{
+    const QTextBlock block = m_document->findBlockByNumber(line);
+    return NodeLine(m_document->nodeInBlock(block)).details.problems.isEmpty();
+}
+
+void AnimationWalk::leaveFrame()
+{
+    if (m_line >= 0 && m_data.delay != m_ownDelay) {
+        m_edits->push_back({m_line, -1, m_data.delay});
+    }
+    m_line = -1;
+}
+
+/// With the line end behind them, or at the end of the text with the one in front.
+void removeLines(Zorv::CodeDocument* document, int first, int last)
+{
+    const QTextBlock begin = document->findBlockByNumber(first);
+    const QTextBlock behind = document->findBlockByNumber(last + 1);
+    QTextCursor cursor(document);
+    cursor.setPosition(behind.isValid() || first == 0 ? begin.position() : begin.position() - 1);
+    if (behind.isValid()) {
+        cursor.setPosition(behind.position(), QTextCursor::KeepAnchor);
+    } else {
+        cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+    }
+    document->replaceSelection(QString(), cursor);
+}
+
+}  // namespace
+
+int removeRedundantLines(FamilyAnimations* animations)
+{
+    Zorv::CodeDocument* document = animations->document();
+    std::vector<Edit> edits;
+    for (int i = 0; i < animations->count(); ++i) {
+        const AnimationWalk walk(animations->animation(i), &edits);
+    }
+    if (edits.empty()) {
+        return 0;
+    }
+    std::sort(edits.begin(), edits.end(),
+              [](const Edit& a, const Edit& b) { return a.first > b.first; });
+    int count = 0;
+    animations->beginChange(FamilyAnimations::tr("Remove redundant lines"));
+    for (const Edit& edit : edits) {
+        if (edit.last >= 0) {
+            removeLines(document, edit.first, edit.last);
+            count += edit.last - edit.first + 1;
+            continue;
+        }
+        Zorv::CodeNode* node = document->nodeInBlock(document->findBlockByNumber(edit.first));
+        if (auto* frame = dynamic_cast<FrameNode*>(node)) {
+            frame->setDelay(edit.delay);
+        }
+    }
+    animations->endChange();
+    return count;
+}
+
+}  // namespace Family

@@ -1,0 +1,18 @@
+#pragma once
+
+namespace Family {
+
+class FamilyAnimations;
+
+/// Removes the lines of animations that change nothing in the game, as one step of undo, and gives
+/// their number. Those are:
+///
+/// - a contact box that its frame has already, of the same kind;
+/// - a frame that looks like the one in front of it and has the same boxes: that one stays for the
+///   time of both. Not one that is the loop frame, nor where the times have no room together.
+///
+/// A line with a comment stays, and so does one with a problem; with it its frame. Nothing to
+/// remove leaves the document alone.
+int removeRedundantLines(FamilyAnimations* animations);
+
+}  // namespace Family
