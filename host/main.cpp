@@ -1,4 +1,4 @@
-#include "app/application.h"
+#include "app/main/application.h"
 #include "cli/cli.h"
 #include "operations/settingsformat.h"
 

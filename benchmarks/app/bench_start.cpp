@@ -3,7 +3,7 @@
 
 #include "support/bench.h"
 
-#include "app/application.h"
+#include "app/main/application.h"
 
 #include <QApplication>
 #include <QDir>

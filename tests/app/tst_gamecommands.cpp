@@ -1,9 +1,9 @@
 #include "app/code/codetexteditor.h"
+#include "app/dialogs/progressdialog.h"
 #include "app/game/backupnamedialog.h"
 #include "app/game/gamecommands.h"
 #include "app/game/restoredialog.h"
-#include "app/progressdialog.h"
-#include "app/recentfolders.h"
+#include "app/session/recentfolders.h"
 #include "family/project/familyparentproject.h"
 #include "windowfixture.h"
 

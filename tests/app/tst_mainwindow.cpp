@@ -1,9 +1,9 @@
 #include "windowfixture.h"
 
-#include "app/application.h"
 #include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
-#include "app/recentfolders.h"
+#include "app/main/application.h"
+#include "app/session/recentfolders.h"
 
 #include <zorv/core/interface.h>
 #include <zorv/core/messagelist.h>

@@ -1,6 +1,6 @@
-#include "app/application.h"
 #include "app/look/icon.h"
 #include "app/look/theme.h"
+#include "app/main/application.h"
 #include "windowfixture.h"
 
 #include <QApplication>

@@ -3,7 +3,7 @@
 #include "app/actions/actionlist.h"
 #include "app/actions/actionregistry.h"
 #include "app/look/language.h"
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
 
 #include <QAction>
 #include <QHeaderView>

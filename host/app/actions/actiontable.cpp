@@ -9,7 +9,7 @@
 #include "app/code/codeview.h"
 #include "app/find/findbar.h"
 #include "app/game/gamecommands.h"
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
 #include "app/run/runcommands.h"
 #include "app/settings/showsettings.h"
 #include "app/stage/stagecommands.h"

@@ -4,7 +4,7 @@
 #include "app/actions/actionregistry.h"
 #include "app/actions/keysheet.h"
 #include "app/look/language.h"
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
 
 #include <zorv/core/dialogs/dialogs.h>
 

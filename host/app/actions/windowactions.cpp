@@ -2,8 +2,8 @@
 
 #include "app/actions/actionregistry.h"
 #include "app/actions/actiontable.h"
-#include "app/mainwindow.h"
-#include "app/recentfolders.h"
+#include "app/main/mainwindow.h"
+#include "app/session/recentfolders.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -3,7 +3,7 @@
 #include "app/actions/actiontable.h"
 #include "app/assets/soundpanel.h"
 #include "app/assets/transfer.h"
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
 #include "family/assets/soundfile.h"
 #include "operations/media/soundwork.h"
 

@@ -3,7 +3,7 @@
 #include "app/actions/actiontable.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/transfer.h"
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
 #include "family/assets/familypalette.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/spritecollection.h"

@@ -2,7 +2,7 @@
 
 #include "app/code/linkmark.h"
 #include "app/code/textposition.h"
-#include "app/gamesession.h"
+#include "app/session/gamesession.h"
 #include "family/familydocument.h"
 #include "family/meaning/reference.h"
 

@@ -1,7 +1,7 @@
 #include "app/code/wordhover.h"
 
 #include "app/code/textposition.h"
-#include "app/gamesession.h"
+#include "app/session/gamesession.h"
 #include "family/familydocument.h"
 #include "family/meaning/wordmeaning.h"
 

@@ -1,7 +1,7 @@
 #include "app/code/wordpopup.h"
 
 #include "app/code/textposition.h"
-#include "app/gamesession.h"
+#include "app/session/gamesession.h"
 #include "family/familydocument.h"
 #include "family/meaning/completions.h"
 

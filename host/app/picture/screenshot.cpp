@@ -1,8 +1,8 @@
 #include "app/picture/screenshot.h"
 
-#include "app/gamesession.h"
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
 #include "app/picture/picturescene.h"
+#include "app/session/gamesession.h"
 
 #include <zorv/core/safefile.h>
 

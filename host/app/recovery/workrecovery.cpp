@@ -1,10 +1,10 @@
 #include "app/recovery/workrecovery.h"
 
 #include "app/code/documenttabs.h"
-#include "app/gamesession.h"
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
 #include "app/recovery/recoverydialog.h"
-#include "app/statusfields.h"
+#include "app/session/gamesession.h"
+#include "app/window/statusfields.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "operations/recovery/abandonedwork.h"

@@ -1,9 +1,9 @@
 #include "app/run/runcommands.h"
 
-#include "app/gamesession.h"
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
 #include "app/run/outputpanel.h"
 #include "app/run/outputtext.h"
+#include "app/session/gamesession.h"
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/gameprogram.h"

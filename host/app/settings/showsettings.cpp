@@ -1,6 +1,6 @@
 #include "app/settings/showsettings.h"
 
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
 #include "app/settings/settingsdialog.h"
 
 namespace App {

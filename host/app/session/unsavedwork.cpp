@@ -1,4 +1,4 @@
-#include "app/unsavedwork.h"
+#include "app/session/unsavedwork.h"
 
 #include "family/familydocument.h"
 #include "operations/documentfile.h"

@@ -1,8 +1,8 @@
-#include "app/windowstate.h"
+#include "app/main/windowstate.h"
 
 #include "app/code/documenttabs.h"
-#include "app/gamesession.h"
-#include "app/mainwindow.h"
+#include "app/main/mainwindow.h"
+#include "app/session/gamesession.h"
 #include "app/stage/stagecommands.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"

@@ -1,4 +1,4 @@
-#include "app/encodingchoice.h"
+#include "app/code/encodingchoice.h"
 
 #include "family/familydocument.h"
 #include "operations/documentfile.h"

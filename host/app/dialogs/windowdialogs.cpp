@@ -1,4 +1,4 @@
-#include "app/windowdialogs.h"
+#include "app/dialogs/windowdialogs.h"
 
 #include <zorv/core/interface.h>
 

@@ -1,7 +1,7 @@
-#include "app/messagepanel.h"
+#include "app/messages/messagepanel.h"
 
 #include "app/look/language.h"
-#include "app/panelplace.h"
+#include "app/window/panelplace.h"
 
 #include <zorv/code/codedoc/codedocument.h>
 #include <zorv/core/messagelist.h>

@@ -1,4 +1,4 @@
-#include "app/gametree.h"
+#include "app/game/gametree.h"
 
 #include "app/look/icon.h"
 #include "app/look/language.h"

@@ -1,6 +1,6 @@
-#include "app/messageroom.h"
+#include "app/messages/messageroom.h"
 
-#include "app/messagepanel.h"
+#include "app/messages/messagepanel.h"
 
 #include <zorv/core/interface.h>
 

@@ -1,4 +1,4 @@
-#include "app/panelplace.h"
+#include "app/window/panelplace.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "app/animationcommands.h"
+#include "app/animations/animationcommands.h"
 
 #include "family/familyanimations.h"
 #include "family/familydocument.h"

@@ -1,4 +1,4 @@
-#include "app/gamesession.h"
+#include "app/session/gamesession.h"
 
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"

@@ -1,4 +1,4 @@
-#include "app/statusfields.h"
+#include "app/window/statusfields.h"
 
 #include "app/look/language.h"
 #include "family/familydocument.h"

@@ -1,4 +1,4 @@
-#include "app/recentfolders.h"
+#include "app/session/recentfolders.h"
 
 #include <zorv/core/interface.h>
 
