@@ -410,6 +410,13 @@
     </message>
 </context>
 <context>
+    <name>App::CodeView</name>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
+    </message>
+</context>
+<context>
     <name>App::DefinitionJumps</name>
     <message>
         <source>%1 is no text that can be shown here.</source>
@@ -694,6 +701,33 @@
     </message>
 </context>
 <context>
+    <name>App::GameOpener</name>
+    <message>
+        <source>Open game folder</source>
+        <translation>Spielordner öffnen</translation>
+    </message>
+    <message>
+        <source>All files are saved.</source>
+        <translation>Alle Dateien sind gespeichert.</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>%1 cannot be shown: no project names it as a code file.</source>
+        <translation>%1 kann nicht gezeigt werden: Kein Projekt nennt die Datei als Code-Datei.</translation>
+    </message>
+    <message>
+        <source>Open file</source>
+        <translation>Datei öffnen</translation>
+    </message>
+    <message>
+        <source>There is no file %1. Correct the path in the main file of the project, or put the file there.</source>
+        <translation>Die Datei %1 gibt es nicht. Bitte den Pfad in der Hauptdatei des Projekts berichtigen oder die Datei dort ablegen.</translation>
+    </message>
+</context>
+<context>
     <name>App::GameSession</name>
     <message>
         <source>There is no folder %1. Choose another one.</source>
@@ -820,50 +854,6 @@
     <message>
         <source>Messages</source>
         <translation>Meldungen</translation>
-    </message>
-    <message>
-        <source>Open game folder</source>
-        <translation>Spielordner öffnen</translation>
-    </message>
-    <message>
-        <source>Open project</source>
-        <translation>Projekt öffnen</translation>
-    </message>
-    <message>
-        <source>%1 cannot be shown: no project names it as a code file.</source>
-        <translation>%1 kann nicht gezeigt werden: Kein Projekt nennt die Datei als Code-Datei.</translation>
-    </message>
-    <message>
-        <source>Open file</source>
-        <translation>Datei öffnen</translation>
-    </message>
-    <message>
-        <source>There is no file %1. Correct the path in the main file of the project, or put the file there.</source>
-        <translation>Die Datei %1 gibt es nicht. Bitte den Pfad in der Hauptdatei des Projekts berichtigen oder die Datei dort ablegen.</translation>
-    </message>
-    <message>
-        <source>%1 is saved.</source>
-        <translation>%1 ist gespeichert.</translation>
-    </message>
-    <message>
-        <source>All files are saved.</source>
-        <translation>Alle Dateien sind gespeichert.</translation>
-    </message>
-    <message>
-        <source>About Zorv</source>
-        <translation>Über Zorv</translation>
-    </message>
-    <message>
-        <source>Zorv %1
-
-An editor for people who make characters and stages for two-dimensional fighting games. The text is the only truth; trees and lists follow.
-
-Under the MIT licence. Made with Qt %2.</source>
-        <translation>Zorv %1
-
-Ein Editor für alle, die Figuren und Bühnen für zweidimensionale Kampfspiele machen. Der Text ist die einzige Wahrheit; Bäume und Listen folgen ihm.
-
-Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>Engine output</source>
@@ -1101,6 +1091,17 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Pictures (*.png *.bmp *.gif *.svg *.ico)</source>
         <translation>Bilder (*.png *.bmp *.gif *.svg *.ico)</translation>
+    </message>
+</context>
+<context>
+    <name>App::RecentMenu</name>
+    <message>
+        <source>&amp;Recent game folders</source>
+        <translation>&amp;Zuletzt geöffnete Spielordner</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>Liste &amp;leeren</translation>
     </message>
 </context>
 <context>
@@ -2178,14 +2179,22 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
-    <name>App::WindowActions</name>
+    <name>App::WindowCommands</name>
     <message>
-        <source>&amp;Recent game folders</source>
-        <translation>&amp;Zuletzt geöffnete Spielordner</translation>
+        <source>About Zorv</source>
+        <translation>Über Zorv</translation>
     </message>
     <message>
-        <source>&amp;Clear the list</source>
-        <translation>Liste &amp;leeren</translation>
+        <source>Zorv %1
+
+An editor for people who make characters and stages for two-dimensional fighting games. The text is the only truth; trees and lists follow.
+
+Under the MIT licence. Made with Qt %2.</source>
+        <translation>Zorv %1
+
+Ein Editor für alle, die Figuren und Bühnen für zweidimensionale Kampfspiele machen. Der Text ist die einzige Wahrheit; Bäume und Listen folgen ihm.
+
+Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>

@@ -298,7 +298,7 @@ void TestCodeView::editorComesForwardOnDemand()
     editor->action()->trigger();
     QCOMPARE(window()->focusWidget(), m->edit());
     editor->deactivate();
-    QVERIFY(!m->edit()->codeDocument());
+    QVERIFY(!m->edit());
     m->host.activateEditor(editor);
     QVERIFY(editor->isActive());
     QCOMPARE(m->edit()->codeDocument(), m->document());

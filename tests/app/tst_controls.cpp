@@ -401,14 +401,15 @@ void TestControls::bringsAnEditorForward()
 {
     const TemporaryGame game;
     m->open(game, game.ryn());
-    QAction* action = m->host.createEditorAction(QStringLiteral("editor_code"), &m_texts, 5);
-    QCOMPARE(action->text(), QStringLiteral("Label 5 en"));
+    QAction* action = m->window->textEditor()->action();
+    QAction* other = m->host.createEditorAction(QStringLiteral("editor_none"), &m_texts, 5);
+    QCOMPARE(other->text(), QStringLiteral("Label 5 en"));
     const auto* bar = m->window->findChild<QToolBar*>(QStringLiteral("editors_bar"));
     QTRY_VERIFY(bar->isVisible());
     m->window->gameTree()->setFocus();
     QTest::mouseClick(bar->widgetForAction(action), Qt::LeftButton);
     QVERIFY(m->edit()->hasFocus());
-    m->host.createEditorAction(QStringLiteral("editor_none"), &m_texts, 5)->trigger();
+    other->trigger();
     QVERIFY(m->edit()->hasFocus());
 }
 

@@ -41,7 +41,7 @@ QChar letter(int number)
 int typeUntilKilled(const QString& root, const QString& folder, const QString& file)
 {
     WindowFixture fixture(folder + "/child.ini");
-    WorkRecovery recovery(fixture.window.get(), root);
+    WorkRecovery recovery(fixture.window->services(), root);
     recovery.keeper()->setInterval(20);
     fixture.window->openPath(folder);
     fixture.window->openFile(file);
@@ -97,7 +97,7 @@ void compareAdded(Family::SpriteCollection* sprites, Family::SoundFile* sounds, 
 int addUntilKilled(const QString& root, const QString& folder, const QString& file)
 {
     WindowFixture fixture(folder + "/child.ini");
-    WorkRecovery recovery(fixture.window.get(), root);
+    WorkRecovery recovery(fixture.window->services(), root);
     recovery.keeper()->setInterval(20);
     fixture.window->openPath(folder);
     fixture.window->openFile(file);
@@ -208,7 +208,7 @@ void TestWorkRecovery::killedWindowLosesLittle()
         QString recovered;
         if (i < KillsWithWindow) {
             WindowFixture fixture(settings());
-            WorkRecovery recovery(fixture.window.get(), root());
+            WorkRecovery recovery(fixture.window->services(), root());
             whenAsked([](RecoveryDialog* dialog) { clickButton(dialog, "Restore all"); });
             recovery.offerAll();
             QVERIFY(fixture.document());
@@ -270,7 +270,7 @@ void TestWorkRecovery::killedWindowLosesFewSpritesAndSounds()
             continue;
         }
         WindowFixture fixture(settings());
-        WorkRecovery recovery(fixture.window.get(), root());
+        WorkRecovery recovery(fixture.window->services(), root());
         whenAsked([](RecoveryDialog* dialog) {
             const QString diff = dialog->findChild<QPlainTextEdit*>()->toPlainText();
             QVERIFY(diff.contains("+sprite 9,0 axis 0,1") || diff.contains("+sound 9,0 8000 Hz"));
@@ -313,7 +313,7 @@ void TestWorkRecovery::decisionsAreKept()
     m_game->write("characters/oda/oda.character", "[info]\r\nname = \"New\"\r\n");
     WindowFixture fixture(settings());
     QVERIFY(fixture.window->openPath(m_game->root()));
-    WorkRecovery recovery(fixture.window.get(), root());
+    WorkRecovery recovery(fixture.window->services(), root());
     fixture.dialogs.fileAnswers = {{m_game->path("rescued.character")}};
     whenAsked([](RecoveryDialog* dialog) {
         auto* list = dialog->findChild<QTreeWidget*>("works");
@@ -350,7 +350,7 @@ void TestWorkRecovery::otherGameIsOpened()
     const TemporaryGame other;
     WindowFixture fixture(settings());
     QVERIFY(fixture.window->openPath(other.root()));
-    WorkRecovery recovery(fixture.window.get(), root());
+    WorkRecovery recovery(fixture.window->services(), root());
     whenAsked([](RecoveryDialog* dialog) { clickButton(dialog, "Restore all"); });
     recovery.offerAll();
     QCOMPARE(fixture.window->session()->folder(), m_game->root() + '/');
@@ -363,7 +363,7 @@ void TestWorkRecovery::gameIsAskedAboutWhenOpened()
     leave("1", m_game->animations(), "animation 9\n");
     const TemporaryGame other;
     WindowFixture fixture(settings());
-    WorkRecovery recovery(fixture.window.get(), root());
+    WorkRecovery recovery(fixture.window->services(), root());
     QVERIFY(fixture.window->openPath(other.root()));
     QCoreApplication::processEvents();
     QVERIFY(fixture.window->openPath(m_game->root()));
@@ -380,7 +380,7 @@ void TestWorkRecovery::newFileComesBack()
 {
     leave("1", QString(), "animation 9\n");
     WindowFixture fixture(settings());
-    WorkRecovery recovery(fixture.window.get(), root());
+    WorkRecovery recovery(fixture.window->services(), root());
     whenAsked([](RecoveryDialog* dialog) { clickButton(dialog, "Restore all"); });
     recovery.offerAll();
     QVERIFY(fixture.document()->fileName().isEmpty());
@@ -393,7 +393,7 @@ void TestWorkRecovery::normalEndLeavesNothing()
 {
     {
         WindowFixture fixture(settings());
-        WorkRecovery recovery(fixture.window.get(), root());
+        WorkRecovery recovery(fixture.window->services(), root());
         fixture.open(*m_game, m_game->ryn());
         fixture.type("x");
         QVERIFY(recovery.keeper()->flush());

@@ -36,9 +36,31 @@ LAYERS = {
     "host/family/": 20,
     "host/operations/": 21,
     "host/cli/": 22,
-    "host/app/": 23,
-    "host/main.cpp": 24,
+    "host/app/look/": 23,
+    "host/app/actions/": 24,
+    "host/app/changes/": 24,
+    "host/app/controls/": 24,
+    "host/app/dialogs/": 24,
+    "host/app/find/": 24,
+    "host/app/session/": 24,
+    "host/app/window/": 25,
+    "host/app/animations/": 26,
+    "host/app/assets/": 26,
+    "host/app/code/": 26,
+    "host/app/game/": 26,
+    "host/app/messages/": 26,
+    "host/app/recovery/": 26,
+    "host/app/run/": 26,
+    "host/app/settings/": 26,
+    "host/app/stage/": 26,
+    "host/app/main/": 27,
+    "host/app/picture/": 27,
+    "host/main.cpp": 28,
 }
+
+# A folder of this layer has one subject, and knows no other: what goes on between two of them is
+# joined above.
+SUBJECTS = 26
 
 # Where the compiler looks for an include, after the folder of the file itself.
 INCLUDE_FOLDERS = ["src", "host", ""]
@@ -123,6 +145,10 @@ def layer(name):
     return LAYERS[max(prefixes, key=len)] if prefixes else None
 
 
+def folder(name):
+    return name.rsplit("/", 1)[0]
+
+
 def starts_with_any(name, prefixes):
     return any(name.startswith(prefix) for prefix in prefixes)
 
@@ -134,7 +160,12 @@ def check_order(tree, name):
         return
     for line, included in tree.includes[name]:
         target = tree.resolve(name, included)
-        if not target or (layer(target) or 0) <= own:
+        if not target:
+            continue
+        if own == SUBJECTS == layer(target) and folder(target) != folder(name):
+            tree.fault(name, line, f"includes {target}, of another subject of the same layer")
+            continue
+        if (layer(target) or 0) <= own:
             continue
         if (name, target) in tree.exceptions:
             tree.used_exceptions.add((name, target))

@@ -39,9 +39,9 @@ class CheckLayers(unittest.TestCase):
             "src/editors/framework/editor.h": header('"core/project.h"', "<QWidget>"),
             "host/family/parser.h": header("<zorv/core/project.h>"),
             "host/cli/check.cpp": source('"family/parser.h"'),
-            "host/app/window.cpp": source('"cli/commands.h"', "<QWidget>"),
+            "host/app/main/window.cpp": source('"cli/commands.h"', "<QWidget>"),
             "host/cli/commands.h": header(),
-            "host/app/main.cpp": source("<QAction>"),
+            "host/app/main/main.cpp": source("<QAction>"),
         }), [])
 
     def test_an_upward_include(self):
@@ -55,6 +55,16 @@ class CheckLayers(unittest.TestCase):
             "src/image/canvas/layer.h": header('"image/renderer.h"'),
             "src/image/renderer.h": header('"image/canvas/layer.h"'),
         }), ["src/image/canvas/layer.h:2: layer 5 includes src/image/renderer.h of layer 7"])
+
+    def test_subjects_of_the_window_do_not_know_each_other(self):
+        self.assertEqual(faults({
+            "host/app/stage/view.cpp": source('"app/stage/clock.h"', '"app/window/part.h"',
+                                              '"app/assets/panel.h"'),
+            "host/app/stage/clock.h": header(),
+            "host/app/window/part.h": header(),
+            "host/app/assets/panel.h": header(),
+        }), ["host/app/stage/view.cpp:3: includes host/app/assets/panel.h, of another subject of "
+             "the same layer"])
 
     def test_the_library_does_not_reach_the_host(self):
         self.assertEqual(len(faults({
@@ -105,7 +115,7 @@ class CheckLayers(unittest.TestCase):
         for include in ('"core/project_p.h"', "<zorv/core/project_p.h>",
                         '"src/core/project_p.h"'):
             with self.subTest(include):
-                found = faults({"host/app/window.cpp": source(include),
+                found = faults({"host/app/main/window.cpp": source(include),
                                 "src/core/project_p.h": header()})
                 self.assertTrue(any("private to the library" in fault for fault in found))
 
@@ -124,11 +134,11 @@ class CheckLayers(unittest.TestCase):
         })), 1)
 
     def test_files_are_written_whole(self):
-        self.assertEqual(len(faults({"host/app/window.cpp": source("<QtCore/QSaveFile>")})), 1)
+        self.assertEqual(len(faults({"host/app/main/window.cpp": source("<QtCore/QSaveFile>")})), 1)
 
     def test_pragma_once(self):
-        self.assertEqual(faults({"host/app/window.h": "// #pragma once\n"}),
-                         ["host/app/window.h:1: the header lacks #pragma once"])
+        self.assertEqual(faults({"host/app/main/window.h": "// #pragma once\n"}),
+                         ["host/app/main/window.h:1: the header lacks #pragma once"])
 
 
 if __name__ == "__main__":

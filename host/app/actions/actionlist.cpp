@@ -47,18 +47,20 @@ void ActionList::fill()
     {
         QString name;
         int score;
+        QVector<int> place;
     };
     QVector<Found> found;
     const QStringList names = m_registry ? m_registry->names() : QStringList();
     for (const QString& name : names) {
         const int score = matchWords(m_typed, m_registry->text(name), m_registry->menuPath(name));
         if (score >= 0 && isOffered(name)) {
-            found.append({name, score});
+            found.append({name, score, m_registry->menuPlace(name)});
         }
     }
-    // Equal ones stay in the order of the menus.
-    std::stable_sort(found.begin(), found.end(),
-                     [](const Found& a, const Found& b) { return a.score > b.score; });
+    // Equal ones in the order of the menus.
+    std::stable_sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
+        return a.score != b.score ? a.score > b.score : a.place < b.place;
+    });
     beginResetModel();
     m_names.clear();
     for (const Found& each : qAsConst(found)) {

@@ -33,32 +33,11 @@ QVariant chosenKey(const QString& name)
     return Zorv::Interface::instance()->option(settingOf(name));
 }
 
-// Actions whose picture has another name.
-const struct
-{
-    const char* action;
-    const char* picture;
-} pictures[] = {
-    {"stop_engine", "stop"},
-    {"restore_backup", "restore"},
-    {"save_all_as", "save_as"},
-    {"search_actions", "find"},
-};
-
-QString pictureOf(const QString& name)
-{
-    for (const auto& row : pictures) {
-        if (name == QLatin1String(row.action)) {
-            return QString::fromLatin1(row.picture);
-        }
-    }
-    return name;
-}
-
-void setIcon(QAction* action, const QString& name)
+void setIcon(QAction* action, const ActionInfo& info)
 {
     if (action->icon().isNull()) {
-        action->setIcon(icon(QStringLiteral(":/icons/icons/%1.png").arg(pictureOf(name))));
+        const QString picture = info.picture.isEmpty() ? info.name : info.picture;
+        action->setIcon(icon(QStringLiteral(":/icons/icons/%1.png").arg(picture)));
     }
 }
 
@@ -153,7 +132,7 @@ AreaGate* ActionRegistry::add(QAction* action, const ActionInfo& info)
     // A dialog, and any other window, has keys of its own.
     action->setShortcutContext(Qt::WindowShortcut);
     info.text.apply(action);
-    setIcon(action, info.name);
+    setIcon(action, info);
     d->applyKeys(info.name);
     connect(action, &QObject::destroyed, this, [this, name = info.name] {
         d->forget(name);
@@ -187,6 +166,23 @@ QString ActionRegistry::menuPath(const QString& name) const
         titles.prepend(ActionText::plain(menu->title()));
     }
     return titles.join(QLatin1String(" > "));
+}
+
+QVector<int> ActionRegistry::menuPlace(const QString& name) const
+{
+    QVector<int> place;
+    const QAction* at = action(name);
+    QMenu* menu = at ? menuOf(at) : nullptr;
+    while (menu) {
+        place.prepend(menu->actions().indexOf(const_cast<QAction*>(at)));
+        at = menu->menuAction();
+        QMenu* above = menuOf(at);
+        if (!above && menu->parentWidget()) {
+            place.prepend(menu->parentWidget()->actions().indexOf(menu->menuAction()));
+        }
+        menu = above;
+    }
+    return place;
 }
 
 bool ActionRegistry::isMenuVisible(const QString& name) const

@@ -26,6 +26,7 @@ struct ActionInfo
     QStringList areas;  ///< where it can be enabled; empty for everywhere
     QList<QKeySequence> defaultKeys;
     bool waitsForOwner = false;  ///< disabled until `ActionRegistry::setAllowed()`
+    QString picture = {};        ///< of ":/icons/icons"; empty for the one of its name
 };
 
 /// Two actions that can be enabled at the same time and have one key, or of which the key of
@@ -40,7 +41,7 @@ struct KeyClash
 /// Every action of the program, by name: those of the menus, of the editors, and the switches
 /// of panels and bars.
 ///
-/// It gives them texts, icon (":/icons/icons/NAME.png", where there is one), keys and enabled
+/// It gives them texts, icon (":/icons/icons/PICTURE.png", where there is one), keys and enabled
 /// state, and does not own them: an action that dies is forgotten. A key that the person has
 /// chosen is kept as the setting "shortcut_" + name, in the portable form, empty for none. The
 /// host (`Zorv::Interface`) must be installed.
@@ -68,6 +69,9 @@ public:
     /// The titles from the menu bar down to where the action stands, joined by
     /// " > "; empty for an action that is in no menu.
     QString menuPath(const QString& name) const;
+
+    /// Where the action stands, from the menu bar down; empty for one that is in no menu.
+    QVector<int> menuPlace(const QString& name) const;
 
     /// False for an action of a menu that is hidden, or within one.
     bool isMenuVisible(const QString& name) const;

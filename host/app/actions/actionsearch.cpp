@@ -3,7 +3,6 @@
 #include "app/actions/actionlist.h"
 #include "app/actions/actionregistry.h"
 #include "app/look/language.h"
-#include "app/main/mainwindow.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -107,9 +106,9 @@ void ActionSearch::choose(const QModelIndex& index)
     QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
 }
 
-void searchActions(MainWindow& window)
+void searchActions(ActionRegistry* registry, QWidget* window)
 {
-    auto* dialog = new ActionSearch(window.registry(), &window);
+    auto* dialog = new ActionSearch(registry, window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

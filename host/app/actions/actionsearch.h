@@ -9,7 +9,6 @@ namespace App {
 
 class ActionList;
 class ActionRegistry;
-class MainWindow;
 
 /// All actions, to be found by typing. Return runs the chosen one when the dialog has closed.
 class ActionSearch : public QDialog
@@ -35,6 +34,6 @@ private:
 };
 
 /// Opens the dialog on a window.
-void searchActions(MainWindow& window);
+void searchActions(ActionRegistry* registry, QWidget* window);
 
 }  // namespace App

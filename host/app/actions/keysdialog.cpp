@@ -4,7 +4,6 @@
 #include "app/actions/actionregistry.h"
 #include "app/actions/keysheet.h"
 #include "app/look/language.h"
-#include "app/main/mainwindow.h"
 
 #include <zorv/core/dialogs/dialogs.h>
 
@@ -101,9 +100,9 @@ void KeysDialog::save(const QString& filter, const QString& extension, Writer wr
     }
 }
 
-void showKeys(MainWindow& window)
+void showKeys(const ActionRegistry* registry, QWidget* window)
 {
-    auto* dialog = new KeysDialog(window.registry(), &window);
+    auto* dialog = new KeysDialog(registry, window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }

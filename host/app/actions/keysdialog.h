@@ -9,7 +9,6 @@ namespace App {
 
 class ActionList;
 class ActionRegistry;
-class MainWindow;
 
 /// The keys of all actions, which can be searched, and saved to be printed.
 class KeysDialog : public QDialog
@@ -38,6 +37,6 @@ private:
 };
 
 /// Opens the dialog on a window.
-void showKeys(MainWindow& window);
+void showKeys(const ActionRegistry* registry, QWidget* window);
 
 }  // namespace App

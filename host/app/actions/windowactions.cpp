@@ -1,14 +1,13 @@
 #include "app/actions/windowactions.h"
 
 #include "app/actions/actionregistry.h"
-#include "app/actions/actiontable.h"
-#include "app/main/mainwindow.h"
-#include "app/session/recentfolders.h"
 
 #include <QCoreApplication>
-#include <QDir>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+
+#include <algorithm>
 
 // The library is a static one: nothing else brings its resources in. Qt's macro
 // names a function of the global namespace.
@@ -21,16 +20,6 @@ namespace App {
 
 namespace {
 
-QList<QKeySequence> defaultKeys(const ActionRow& row)
-{
-    if (row.shortcut) {
-        return QKeySequence::listFromString(QLatin1String(row.shortcut),
-                                            QKeySequence::PortableText);
-    }
-    return row.standardKey == QKeySequence::UnknownKey ? QList<QKeySequence>()
-                                                       : QKeySequence::keyBindings(row.standardKey);
-}
-
 QString menuTitle(const MenuRow& row)
 {
     return QCoreApplication::translate("App::Menus", row.text);
@@ -38,45 +27,62 @@ QString menuTitle(const MenuRow& row)
 
 }  // namespace
 
-WindowActions::WindowActions(MainWindow* window)
+WindowActions::WindowActions(QMainWindow* window)
     : QObject(window), m_window(window), m_registry(new ActionRegistry(this))
 {
     loadResources();
-    makeMenus();
-    makeActions();
-    makeRecentMenu();
-    retranslate();
-}
-
-void WindowActions::makeMenus()
-{
     for (const MenuRow& row : menuTable()) {
-        QMenu* made = m_window->menuBar()->addMenu(menuTitle(row));
-        made->setObjectName(QLatin1String(row.name));
-        made->setToolTipsVisible(true);
-        m_menus.insert(row.name, made);
+        makeMenu(row);
     }
 }
 
-void WindowActions::makeActions()
+/// A line ends a section, or marks its end unseen. Lines with nothing between them are shown as
+/// one, and none at an end.
+void WindowActions::makeMenu(const MenuRow& row)
 {
-    for (const ActionRow& row : actionTable()) {
-        QMenu* owner = m_menus.value(row.menu);
-        if (!row.name) {
-            owner->addSeparator();
-            continue;
+    QMenu* made = m_window->menuBar()->addMenu(menuTitle(row));
+    made->setObjectName(QLatin1String(row.name));
+    made->setToolTipsVisible(true);
+    m_menus.insert(row.name, made);
+    const QList<QByteArray> sections = QByteArray(row.sections).split(' ');
+    for (QByteArray section : sections) {
+        QAction* end = made->addSeparator();
+        if (section.endsWith('+')) {
+            end->setVisible(false);
+            section.chop(1);
         }
+        m_places.append(QByteArray(row.name) + '.' + section);
+        m_sections.insert(m_places.last(), end);
+    }
+}
+
+void WindowActions::add(QVector<ActionRow> rows)
+{
+    std::stable_sort(rows.begin(), rows.end(), [this](const ActionRow& a, const ActionRow& b) {
+        return m_places.indexOf(a.place) < m_places.indexOf(b.place);
+    });
+    for (const ActionRow& row : qAsConst(rows)) {
         auto* made = new QAction(m_window);
         made->setCheckable(row.kind == ActionRow::Switch);
-        ActionInfo info{QLatin1String(row.name), {"App::Actions", row.text}, {}, defaultKeys(row)};
+        ActionInfo info{QLatin1String(row.name), {"App::Actions", row.text}, {}, row.keys.keys()};
+        info.picture = QLatin1String(row.picture);
         if (row.area) {
             info.areas.append(QLatin1String(row.area));
         }
-        owner->addAction(made);
+        place(made, row.place);
         m_registry->add(made, info);
-        connect(made, &QAction::triggered, m_window,
-                [window = m_window, slot = row.slot] { slot(*window); });
+        connect(made, &QAction::triggered, m_window, row.run);
+        if (row.isAllowed) {
+            m_conditions.append({info.name, row.isAllowed});
+        }
     }
+}
+
+void WindowActions::place(QAction* action, const char* section)
+{
+    QAction* end = m_sections.value(section);
+    Q_ASSERT(end);
+    static_cast<QMenu*>(end->parent())->insertAction(end, action);
 }
 
 void WindowActions::addSwitch(QAction* action, const QString& name)
@@ -97,12 +103,10 @@ void WindowActions::showMenu(const char* name, bool isShown)
     }
 }
 
-void WindowActions::update(int present)
+void WindowActions::update()
 {
-    for (const ActionRow& row : actionTable()) {
-        if (row.name) {
-            m_registry->setAllowed(QLatin1String(row.name), (row.needs & ~present) == 0);
-        }
+    for (const Condition& condition : qAsConst(m_conditions)) {
+        m_registry->setAllowed(condition.name, condition.isMet());
     }
 }
 
@@ -111,35 +115,7 @@ void WindowActions::retranslate()
     for (const MenuRow& row : menuTable()) {
         m_menus.value(row.name)->setTitle(menuTitle(row));
     }
-    m_recentMenu->setTitle(tr("&Recent game folders"));
-    fillRecentMenu();
     m_registry->retranslate();
-}
-
-void WindowActions::makeRecentMenu()
-{
-    m_recentMenu = new QMenu(m_window);
-    m_recentMenu->setObjectName(QStringLiteral("recent"));
-    QMenu* file = menu("file");
-    file->insertMenu(file->actions().at(1), m_recentMenu);
-    connect(m_recentMenu, &QMenu::aboutToShow, this, &WindowActions::fillRecentMenu);
-}
-
-void WindowActions::fillRecentMenu()
-{
-    m_recentMenu->clear();
-    const QStringList folders = RecentFolders::list();
-    for (const QString& folder : folders) {
-        QString text = QDir::toNativeSeparators(folder);
-        text.replace(QLatin1Char('&'), QLatin1String("&&"));
-        m_recentMenu->addAction(text, m_window, [this, folder] { m_window->openPath(folder); });
-    }
-    m_recentMenu->addSeparator();
-    QAction* clear = m_recentMenu->addAction(tr("&Clear the list"), this, [this] {
-        RecentFolders::clear();
-        fillRecentMenu();
-    });
-    clear->setEnabled(!folders.isEmpty());
 }
 
 }  // namespace App

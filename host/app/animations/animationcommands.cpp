@@ -1,11 +1,14 @@
 #include "app/animations/animationcommands.h"
 
+#include "app/window/editorregistry.h"
+#include "app/window/jumps.h"
+#include "app/window/partlist.h"
+#include "app/window/windowservices.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
 #include "operations/animationedits.h"
 
-#include <zorv/core/interface.h>
 #include <zorv/editors/organizer/organizereditor.h>
 
 #include <QAbstractItemView>
@@ -50,19 +53,32 @@ int lineEndsBeforeNew(const Family::FamilyDocument* document)
 
 }  // namespace
 
-void AnimationCommands::publish()
+AnimationCommands::AnimationCommands(const WindowServices& services)
+    : QObject(services.window), m_services(services), m_organizer(new OrganizerEditor(this)),
+      m_list(services.window->findChild<QAbstractItemView*>(ListName))
 {
-    m_organizer = new OrganizerEditor(this);
-    m_list = Zorv::Interface::instance()->mainWindow()->findChild<QAbstractItemView*>(ListName);
+    services.editors->addPanel(m_organizer);
     if (m_list) {
         m_list->installEventFilter(this);
     }
     connect(m_organizer, &OrganizerEditor::rowActivated, this, &AnimationCommands::requestRow);
-    connect(m_organizer, &OrganizerEditor::currentRowChanged, this,
-            &AnimationCommands::stateChanged);
+    connect(m_organizer, &OrganizerEditor::currentRowChanged, services.parts,
+            &PartList::updateSoon);
     // Edits have taken the cursor of the text to where the animations were.
     connect(m_organizer, &OrganizerEditor::selectionMoved, this,
             [this] { requestRow(m_organizer->currentRow()); });
+}
+
+QVector<ActionRow> AnimationCommands::actions()
+{
+    const Members<AnimationCommands> on(this);
+    // clang-format off
+    return {
+        {"anim_add",       "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Add"),       "Ctrl+Shift+A", on(&AnimationCommands::addNew),           on(&AnimationCommands::hasText)},
+        {"anim_duplicate", "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"), "Ctrl+Shift+D", on(&AnimationCommands::duplicateCurrent), on(&AnimationCommands::hasCurrent)},
+        {"anim_remove",    "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Remove"),    "Ctrl+Shift+R", on(&AnimationCommands::removeSelected),   on(&AnimationCommands::hasCurrent)},
+    };
+    // clang-format on
 }
 
 QAbstractItemView* AnimationCommands::list() const
@@ -70,12 +86,15 @@ QAbstractItemView* AnimationCommands::list() const
     return m_list;
 }
 
-void AnimationCommands::setDocument(Family::FamilyDocument* document)
+QVector<PanelPlace> AnimationCommands::places() const
 {
-    m_document = m_organizer ? document : nullptr;
-    if (m_organizer) {
-        m_organizer->setObject(document ? document->animations() : nullptr);
-    }
+    return {PanelPlace::of(m_list)};
+}
+
+void AnimationCommands::showDocument(Family::FamilyDocument* document)
+{
+    m_document = document;
+    m_organizer->setObject(document ? document->animations() : nullptr);
 }
 
 void AnimationCommands::followCursor(int line)
@@ -88,6 +107,11 @@ void AnimationCommands::followCursor(int line)
     if (row != m_organizer->currentRow()) {
         m_organizer->setCurrentRow(row);
     }
+}
+
+bool AnimationCommands::hasText() const
+{
+    return m_document;
 }
 
 bool AnimationCommands::hasCurrent() const
@@ -125,7 +149,7 @@ void AnimationCommands::duplicateCurrent()
 
 void AnimationCommands::removeSelected()
 {
-    const QVector<int> rows = m_organizer ? m_organizer->selectedRows() : QVector<int>();
+    const QVector<int> rows = m_organizer->selectedRows();
     if (!m_document || rows.isEmpty()) {
         return;
     }
@@ -147,7 +171,7 @@ void AnimationCommands::requestRow(int row)
 {
     if (const AnimationNode* animation =
             m_document ? m_document->animations()->animation(row) : nullptr) {
-        emit lineRequested(animation->firstLine(), 0, 0);
+        m_services.jumps->showPlace(m_document, animation->firstLine(), 0, 0);
     }
 }
 
@@ -161,8 +185,8 @@ void AnimationCommands::requestIdentifier(int row)
     const int keyword = animation->block().text().indexOf(QLatin1String("animation"));
     const int column =
         animation->block().text().indexOf(identifier, keyword + QLatin1String("animation").size());
-    emit lineRequested(animation->firstLine(), std::max(column, 0),
-                       column < 0 ? 0 : identifier.size());
+    m_services.jumps->showPlace(m_document, animation->firstLine(), std::max(column, 0),
+                                column < 0 ? 0 : identifier.size());
 }
 
 }  // namespace App

@@ -1,13 +1,11 @@
 #pragma once
 
+#include "app/window/part.h"
+
 #include <QObject>
 #include <QPointer>
 
 class QAbstractItemView;
-
-namespace Family {
-class FamilyDocument;
-}
 
 namespace Zorv {
 class OrganizerEditor;
@@ -15,31 +13,30 @@ class OrganizerEditor;
 
 namespace App {
 
+struct WindowServices;
+
 /// What can be done with the animations of the text in front, in the organizer: it shows
 /// them, follows the cursor of the text, and leads to it. All of it edits the text.
-class AnimationCommands : public QObject
+class AnimationCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    /// Makes the organizer, which places its tools in the window of the host. Lives as a child of
+    /// the window.
+    explicit AnimationCommands(const WindowServices& services);
 
-    /// Makes the organizer. The host of the library must know the window by then, in which
-    /// the organizer places its tools; until then there are no animations here.
-    void publish();
-
-    /// Null before `publish()`.
     Zorv::OrganizerEditor* organizer() const { return m_organizer; }
 
-    /// The list of the organizer, and null before.
+    /// The list of the organizer; null if the host has made none.
     QAbstractItemView* list() const;
 
-    void setDocument(Family::FamilyDocument* document);
+    QVector<ActionRow> actions() override;
+    void showDocument(Family::FamilyDocument* document) override;
 
-    /// The cursor stands there now: the animation of that line becomes the current row.
-    void followCursor(int line);
-
-    bool hasCurrent() const;
+    /// The animation of that line becomes the current row.
+    void followCursor(int line) override;
+    QVector<PanelPlace> places() const override;
 
     /// A new animation at the end, with the next free number.
     void addNew();
@@ -48,23 +45,18 @@ public:
     void duplicateCurrent();
     void removeSelected();
 
-signals:
-    /// The person wants to see a line, counted from 0: of an animation, whose
-    /// identifier stands at `column` for a new one.
-    void lineRequested(int line, int column, int length);
-
-    /// The current row has changed.
-    void stateChanged();
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool hasText() const;
+    bool hasCurrent() const;
     void requestRow(int row);
     void requestIdentifier(int row);
 
+    const WindowServices& m_services;
     Family::FamilyDocument* m_document = nullptr;
-    Zorv::OrganizerEditor* m_organizer = nullptr;
+    Zorv::OrganizerEditor* m_organizer;
     QPointer<QAbstractItemView> m_list;
 };
 

@@ -1,10 +1,13 @@
 #include "app/assets/soundcommands.h"
 
-#include "app/actions/actiontable.h"
+#include "app/actions/actionregistry.h"
+#include "app/assets/rowlist.h"
 #include "app/assets/soundpanel.h"
 #include "app/assets/transfer.h"
-#include "app/main/mainwindow.h"
+#include "app/window/partlist.h"
+#include "app/window/windowservices.h"
 #include "family/assets/soundfile.h"
+#include "family/project/familyproject.h"
 #include "operations/media/soundwork.h"
 
 #include <zorv/core/dialogs/dialogs.h>
@@ -17,15 +20,63 @@ using Family::SoundFile;
 using Operations::MediaResult;
 using Zorv::Dialogs;
 
-SoundCommands::SoundCommands(MainWindow* window) : QObject(window), m_panel(window->soundPanel()) {}
-
-int SoundCommands::presentNeeds() const
+SoundCommands::SoundCommands(const WindowServices& services)
+    : QObject(services.window), m_services(services), m_panel(new SoundPanel)
 {
-    const SoundFile* sounds = m_panel->sounds();
-    const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
-    return when(sounds, NeedsSounds) | when(m_panel->currentRow() >= 0, NeedsSound) |
-           when(sounds && sounds->steps().canUndo(), NeedsSoundUndo) |
-           when(sounds && sounds->steps().canRedo(), NeedsSoundRedo);
+    connect(m_panel, &SoundPanel::changed, services.parts, &PartList::updateSoon);
+}
+
+QVector<ActionRow> SoundCommands::actions()
+{
+    const Members<SoundCommands> on(this);
+    // clang-format off
+    return {
+        {"sound_add",    "snd.files", QT_TRANSLATE_NOOP("App::Actions", "&Add sounds..."),         {}, on(&SoundCommands::addSounds),      on(&SoundCommands::hasFile)},
+        {"sound_export", "snd.files", QT_TRANSLATE_NOOP("App::Actions", "&Save sounds as..."),     {}, on(&SoundCommands::exportSounds),   on(&SoundCommands::hasSound)},
+        {"sound_remove", "snd.files", QT_TRANSLATE_NOOP("App::Actions", "Re&move sounds"),         {}, on(&SoundCommands::removeSelected), on(&SoundCommands::hasSound)},
+        {"sound_undo",   "snd.steps", QT_TRANSLATE_NOOP("App::Actions", "&Undo change of sounds"), {}, on(&SoundCommands::undo),           on(&SoundCommands::canUndo)},
+        {"sound_redo",   "snd.steps", QT_TRANSLATE_NOOP("App::Actions", "Re&do change of sounds"), {}, on(&SoundCommands::redo),           on(&SoundCommands::canRedo)},
+    };
+    // clang-format on
+}
+
+void SoundCommands::actionsMade()
+{
+    for (const char* name : {"sound_add", "sound_export", "sound_remove"}) {
+        m_panel->list()->addAction(m_services.actions->action(QLatin1String(name)));
+    }
+}
+
+/// A text can come to name another file.
+void SoundCommands::showProject(Family::FamilyProject* project)
+{
+    m_panel->setSounds(
+        dynamic_cast<SoundFile*>(project ? project->file(Zorv::FileID::Sounds) : nullptr));
+}
+
+QVector<PanelPlace> SoundCommands::places() const
+{
+    return {PanelPlace::of(m_panel->list())};
+}
+
+bool SoundCommands::hasFile() const
+{
+    return m_panel->sounds();
+}
+
+bool SoundCommands::hasSound() const
+{
+    return m_panel->currentRow() >= 0;
+}
+
+bool SoundCommands::canUndo() const
+{
+    return m_panel->sounds() && m_panel->sounds()->steps().canUndo();
+}
+
+bool SoundCommands::canRedo() const
+{
+    return m_panel->sounds() && m_panel->sounds()->steps().canRedo();
 }
 
 /// Asks for how much of files whose sizes are wrong. False if the person gave up.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/window/part.h"
+
 #include <QObject>
 
 namespace Operations {
@@ -8,34 +10,40 @@ enum class SoundExtent;
 
 namespace App {
 
-class MainWindow;
 class SoundPanel;
+struct WindowServices;
 
-/// What can be done with the sounds of the panel: files come in and go out. Each change is one
-/// step of the collection's undo.
-class SoundCommands : public QObject
+/// The panel of the sounds of the project in front, and what can be done with them: files come in
+/// and go out. Each change is one step of the collection's undo.
+class SoundCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    explicit SoundCommands(MainWindow* window);
+    /// Lives as a child of the window, which places the panel.
+    explicit SoundCommands(const WindowServices& services);
 
-    /// Flags of `Need` that are present.
-    int presentNeeds() const;
+    SoundPanel* panel() const { return m_panel; }
 
-    /// @name The actions
-    /// @{
+    QVector<ActionRow> actions() override;
+    void actionsMade() override;
+    void showProject(Family::FamilyProject* project) override;
+    QVector<PanelPlace> places() const override;
+
+private:
+    bool hasFile() const;
+    bool hasSound() const;
+    bool canUndo() const;
+    bool canRedo() const;
     void addSounds();
     void exportSounds();
     void removeSelected();
     void undo();
     void redo();
-    /// @}
-
-private:
     bool chooseExtent(const QString& title, const QStringList& files,
                       Operations::SoundExtent* extent) const;
 
+    const WindowServices& m_services;
     SoundPanel* m_panel;
 };
 

@@ -1,17 +1,22 @@
 #include "app/assets/spritecommands.h"
 
-#include "app/actions/actiontable.h"
+#include "app/actions/actionregistry.h"
+#include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/transfer.h"
-#include "app/main/mainwindow.h"
+#include "app/window/partlist.h"
+#include "app/window/windowservices.h"
 #include "family/assets/familypalette.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/spritecollection.h"
+#include "family/familydocument.h"
+#include "family/project/familyproject.h"
 #include "operations/media/imagefiles.h"
 #include "operations/media/palettework.h"
 #include "operations/media/spriteexport.h"
 #include "operations/media/spriteimport.h"
 
+#include <zorv/code/codedoc/framecode.h>
 #include <zorv/core/dialogs/dialogs.h>
 
 #include <QImage>
@@ -24,19 +29,86 @@ using Family::SpriteCollection;
 using Operations::MediaResult;
 using Zorv::Dialogs;
 
-SpriteCommands::SpriteCommands(MainWindow* window) : QObject(window), m_panel(window->spritePanel())
+SpriteCommands::SpriteCommands(const WindowServices& services)
+    : QObject(services.window), m_services(services), m_panel(new SpritePanel)
 {
+    connect(m_panel, &SpritePanel::changed, services.parts, &PartList::updateSoon);
 }
 
-int SpriteCommands::presentNeeds() const
+QVector<ActionRow> SpriteCommands::actions()
 {
-    const SpriteCollection* sprites = m_panel->sprites();
+    const Members<SpriteCommands> on(this);
+    // clang-format off
+    return {
+        {"sprite_add",     "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Add images..."),          {}, on(&SpriteCommands::addImages),      on(&SpriteCommands::hasFile)},
+        {"sprite_replace", "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Replace image..."),       {}, on(&SpriteCommands::replaceImage),   on(&SpriteCommands::hasSprite)},
+        {"sprite_export",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Save images as..."),      {}, on(&SpriteCommands::exportImages),   on(&SpriteCommands::hasSprite)},
+        {"sprite_remove",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "Re&move sprites"),         {}, on(&SpriteCommands::removeSelected), on(&SpriteCommands::hasSprite)},
+        {"sprite_undo",    "spr.steps", QT_TRANSLATE_NOOP("App::Actions", "&Undo change of sprites"), {}, on(&SpriteCommands::undo),           on(&SpriteCommands::canUndo)},
+        {"sprite_redo",    "spr.steps", QT_TRANSLATE_NOOP("App::Actions", "Re&do change of sprites"), {}, on(&SpriteCommands::redo),           on(&SpriteCommands::canRedo)},
+        {"palette_open",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Load palette..."),        {}, on(&SpriteCommands::openPalette),    on(&SpriteCommands::hasPalette)},
+        {"palette_save",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Save palette as..."),     {}, on(&SpriteCommands::savePalette),    on(&SpriteCommands::hasPalette)},
+    };
+    // clang-format on
+}
+
+void SpriteCommands::actionsMade()
+{
+    for (const char* name : {"sprite_add", "sprite_replace", "sprite_export", "sprite_remove",
+                             "palette_open", "palette_save"}) {
+        m_panel->list()->addAction(m_services.actions->action(QLatin1String(name)));
+    }
+}
+
+/// A text can come to name another file.
+void SpriteCommands::showProject(Family::FamilyProject* project)
+{
+    m_panel->setSprites(
+        dynamic_cast<SpriteCollection*>(project ? project->file(Zorv::FileID::Sprites) : nullptr));
+}
+
+void SpriteCommands::followRest(int line)
+{
+    const Family::FamilyDocument* document = m_services.parts->document();
+    if (m_panel->visibleRegion().isEmpty() || !document || document->isCodeBeingChanged()) {
+        return;
+    }
+    const Zorv::CodeNode* node = document->nodeInBlock(document->findBlockByNumber(line));
+    if (node && node->type() == Zorv::CodeNode::Frame) {
+        const auto* frame = static_cast<const Zorv::FrameCode*>(node);
+        m_panel->showSprite(frame->spriteGroup(), frame->spriteNumber());
+    }
+}
+
+QVector<PanelPlace> SpriteCommands::places() const
+{
+    return {PanelPlace::of(m_panel->list())};
+}
+
+bool SpriteCommands::hasFile() const
+{
+    return m_panel->sprites();
+}
+
+bool SpriteCommands::hasSprite() const
+{
+    return m_panel->currentSprite();
+}
+
+bool SpriteCommands::hasPalette() const
+{
     const FamilySprite* sprite = m_panel->currentSprite();
-    const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
-    return when(sprites, NeedsSprites) | when(sprite, NeedsSprite) |
-           when(sprite && sprite->palette(), NeedsPalette) |
-           when(sprites && sprites->steps().canUndo(), NeedsSpriteUndo) |
-           when(sprites && sprites->steps().canRedo(), NeedsSpriteRedo);
+    return sprite && sprite->palette();
+}
+
+bool SpriteCommands::canUndo() const
+{
+    return m_panel->sprites() && m_panel->sprites()->steps().canUndo();
+}
+
+bool SpriteCommands::canRedo() const
+{
+    return m_panel->sprites() && m_panel->sprites()->steps().canRedo();
 }
 
 void SpriteCommands::addImages()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/window/part.h"
+
 #include <QObject>
 
 class QImage;
@@ -11,23 +13,36 @@ class FamilySprite;
 
 namespace App {
 
-class MainWindow;
 class SpritePanel;
+struct WindowServices;
 
-/// What can be done with the sprites of the panel and their palettes: images and palettes come
-/// in and go out. Each change is one step of the collection's undo.
-class SpriteCommands : public QObject
+/// The panel of the sprites of the project in front, and what can be done with them and their
+/// palettes: images and palettes come in and go out. Each change is one step of the collection's
+/// undo.
+class SpriteCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    explicit SpriteCommands(MainWindow* window);
+    /// Lives as a child of the window, which places the panel.
+    explicit SpriteCommands(const WindowServices& services);
 
-    /// Flags of `Need` that are present.
-    int presentNeeds() const;
+    SpritePanel* panel() const { return m_panel; }
 
-    /// @name The actions
-    /// @{
+    QVector<ActionRow> actions() override;
+    void actionsMade() override;
+    void showProject(Family::FamilyProject* project) override;
+
+    /// The sprite that the line of the cursor names becomes the current one.
+    void followRest(int line) override;
+    QVector<PanelPlace> places() const override;
+
+private:
+    bool hasFile() const;
+    bool hasSprite() const;
+    bool hasPalette() const;
+    bool canUndo() const;
+    bool canRedo() const;
     void addImages();
     void replaceImage();
     void exportImages();
@@ -36,12 +51,10 @@ public:
     void redo();
     void openPalette();
     void savePalette();
-    /// @}
-
-private:
     Family::FamilySprite* stillCurrent(int row, Family::AssetId id) const;
     int chosenMode(const QImage& image, const Family::FamilySprite* sprite) const;
 
+    const WindowServices& m_services;
     SpritePanel* m_panel;
 };
 

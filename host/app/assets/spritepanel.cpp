@@ -120,6 +120,12 @@ void SpritePanel::markColour(int entry)
     m_palette->setMarked(entry);
 }
 
+void SpritePanel::showColour(int group, int number, int entry)
+{
+    showSprite(group, number);
+    markColour(entry);
+}
+
 void SpritePanel::updateCurrent()
 {
     const FamilySprite* sprite = currentSprite();

@@ -47,6 +47,9 @@ public:
     /// Marks an entry of the palette of the current sprite, until another sprite is selected.
     void markColour(int entry);
 
+    /// The same for the sprite of that group and number, which becomes the current one.
+    void showColour(int group, int number, int entry);
+
 signals:
     /// The current row, or anything in the collection.
     void changed();

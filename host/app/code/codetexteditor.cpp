@@ -1,6 +1,7 @@
 #include "app/code/codetexteditor.h"
 
 #include "app/code/nodemodel.h"
+#include "app/look/icon.h"
 #include "app/look/language.h"
 #include "family/familydocument.h"
 
@@ -25,11 +26,12 @@ constexpr int FollowWait = 60;  // milliseconds
 
 CodeTextEditor::CodeTextEditor(Zorv::CodeWorkspace* workspace, QObject* parent)
     : CodeFileEditor(workspace, new NodeModel, "code_tree", parent),
-      m_nodes(static_cast<NodeModel*>(model())), m_action(new QAction(this)),
+      m_nodes(static_cast<NodeModel*>(model())),
+      m_action(host()->createEditorAction(QStringLiteral("editor_code"), nullptr, 0)),
       m_follow(new QTimer(this))
 {
-    m_action->setObjectName(QStringLiteral("editor_code"));
-    connect(m_action, &QAction::triggered, this, [this] { host()->activateEditor(this); });
+    m_action->setIcon(icon(QStringLiteral(":/zorvl_icons/icons/code.png")));
+    m_action->setEnabled(false);
     m_follow->setSingleShot(true);
     m_follow->setInterval(FollowWait);
     connect(m_follow, &QTimer::timeout, this, &CodeTextEditor::selectLine);
@@ -51,6 +53,7 @@ void CodeTextEditor::setUpTree()
 void CodeTextEditor::showDocument(Family::FamilyDocument* document)
 {
     setDocument(document);
+    m_action->setEnabled(document);
     if (document) {
         activate();
         selectLine();
@@ -58,6 +61,18 @@ void CodeTextEditor::showDocument(Family::FamilyDocument* document)
         deactivate();
     }
     emit modified();
+}
+
+void CodeTextEditor::attach()
+{
+    CodeFileEditor::attach();
+    emit shown();
+}
+
+void CodeTextEditor::detach()
+{
+    emit leaving();
+    CodeFileEditor::detach();
 }
 
 void CodeTextEditor::goTo(int line, int column, int length)

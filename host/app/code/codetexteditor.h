@@ -29,7 +29,7 @@ public:
     /// view. A place behind an end is that end.
     void goTo(int line, int column = 0, int length = 0);
 
-    /// Brings the text to the front.
+    /// Brings the text to the front; disabled without one.
     QAction* action() const override { return m_action; }
 
     QString name() const override;
@@ -47,7 +47,14 @@ public:
 
     NodeModel* nodes() const { return m_nodes; }
 
+signals:
+    /// The document has come into the workspace, or is about to leave it.
+    void shown();
+    void leaving();
+
 protected:
+    void attach() override;
+    void detach() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

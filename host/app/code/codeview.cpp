@@ -1,32 +1,78 @@
 #include "app/code/codeview.h"
 
+#include "app/actions/actionregistry.h"
+#include "app/code/codehelp.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/documenttabs.h"
+#include "app/code/encodingchoice.h"
 #include "app/find/findbar.h"
+#include "app/session/gamesession.h"
+#include "app/session/unsavedwork.h"
+#include "app/window/editorregistry.h"
+#include "app/window/jumps.h"
+#include "app/window/partlist.h"
+#include "app/window/statusfields.h"
+#include "app/window/windowservices.h"
 #include "family/familydocument.h"
+#include "family/project/familyproject.h"
+#include "operations/documentfile.h"
 
+#include <zorv/core/fileid.h>
 #include <zorv/editors/code/codeeditor.h>
 #include <zorv/editors/code/codeworkspace.h>
 
+#include <QFileInfo>
+#include <QSplitter>
+#include <QTimer>
+#include <QToolBar>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace App {
 
+using Family::FamilyDocument;
 using Zorv::CodeEditor;
 
-CodeView::CodeView(QObject* parent)
-    : QObject(parent), m_widget(new QWidget), m_layout(new QVBoxLayout(m_widget)),
+namespace {
+
+/// All files that are texts.
+constexpr Zorv::FileID TextFiles{~(quint32(Zorv::FileID::Sprites) | Zorv::FileID::Sounds)};
+
+JumpServices jumpServices(const WindowServices& services)
+{
+    return {[jumps = services.jumps](FamilyDocument* document, int line, int column) {
+                jumps->showPlace(document, line, column, 0);
+            },
+            [jumps = services.jumps](const QString& file) { return jumps->openFile(file); },
+            [status = services.status](const QString& text) { status->showPassing(text); }};
+}
+
+}  // namespace
+
+CodeView::CodeView(const WindowServices& services, QSplitter* page)
+    : QObject(services.window), m_services(services), m_widget(new QWidget),
       m_workspace(new Zorv::CodeWorkspace(this)),
       m_textEditor(new CodeTextEditor(m_workspace, this)), m_tabs(new DocumentTabs(m_textEditor)),
-      m_findBar(new FindBar(m_workspace->editor()))
+      m_findBar(new FindBar(m_workspace->editor())),
+      m_help(new CodeHelp(m_workspace->editor(), jumpServices(services)))
 {
-    m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->setSpacing(0);
-    m_layout->addWidget(m_workspace->widget());
-    addBar(m_findBar);
+    auto* layout = new QVBoxLayout(m_widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_workspace->widget());
+    layout->addWidget(m_findBar);
+    page->addWidget(m_widget);
+    services.editors->add(m_textEditor, TextFiles, page);
+    m_workspace->widget()->setFocusProxy(editor());
+    m_workspace->engineSwitched(true);
     setUpEditor();
+    reconfig();
     connect(m_tabs, &DocumentTabs::currentDocumentChanged, this, &CodeView::showFront);
-    connect(m_tabs, &DocumentTabs::stateChanged, this, &CodeView::stateChanged);
+    connect(m_tabs, &DocumentTabs::closeRequested, this, &CodeView::close);
+    connect(m_tabs, &DocumentTabs::stateChanged, services.parts, &PartList::update);
+    connect(services.status, &StatusFields::encodingClicked, this, &CodeView::changeEncoding);
+    connect(services.status, &StatusFields::placeClicked, m_workspace,
+            &Zorv::CodeWorkspace::goToLine);
 }
 
 // The editor lets its document and the workspace go while both are there.
@@ -45,23 +91,60 @@ void CodeView::setUpEditor()
     text->setLineWrapMode(QPlainTextEdit::NoWrap);
     connect(text, &QPlainTextEdit::cursorPositionChanged, this, [this] {
         if (m_textEditor->isActive()) {
-            emit cursorMoved();
+            cursorMoved();
         }
     });
     connect(text, &CodeEditor::currentLineChanged, this, [this](int line) {
         if (m_textEditor->isActive()) {
-            emit lineChanged(line);
+            m_services.parts->followLine(line);
         }
     });
     for (const auto signal : {&QPlainTextEdit::copyAvailable, &QPlainTextEdit::undoAvailable,
                               &QPlainTextEdit::redoAvailable}) {
-        connect(text, signal, this, &CodeView::stateChanged);
+        connect(text, signal, m_services.parts, &PartList::update);
     }
 }
 
-void CodeView::addBar(QWidget* bar)
+QVector<ActionRow> CodeView::actions()
 {
-    m_layout->addWidget(bar);
+    const Members<CodeView> on(this);
+    const Members<CodeTextEditor> text(m_textEditor);
+    const Members<CodeEditor> editing(editor());
+    const Members<CodeHelp> help(m_help);
+    const Members<FindBar> bar(m_findBar);
+    const auto hasText = on(&CodeView::hasText);
+    using K = QKeySequence;
+    // clang-format off
+    return {
+        {"save",            "file.save",      QT_TRANSLATE_NOOP("App::Actions", "&Save"),             K::Save,      on(&CodeView::save),                hasText},
+        {"close_text",      "file.text",      QT_TRANSLATE_NOOP("App::Actions", "&Close text"),       K::Close,     on(&CodeView::closeText),           hasText},
+        {"undo",            "edit.undo",      QT_TRANSLATE_NOOP("App::Actions", "&Undo"),             K::Undo,      text(&CodeTextEditor::undo),        on(&CodeView::canUndo)},
+        {"redo",            "edit.undo",      QT_TRANSLATE_NOOP("App::Actions", "&Redo"),             K::Redo,      text(&CodeTextEditor::redo),        on(&CodeView::canRedo)},
+        {"cut",             "edit.clipboard", QT_TRANSLATE_NOOP("App::Actions", "Cu&t"),              K::Cut,       text(&CodeTextEditor::cut),         on(&CodeView::hasSelection)},
+        {"copy",            "edit.clipboard", QT_TRANSLATE_NOOP("App::Actions", "&Copy"),             K::Copy,      text(&CodeTextEditor::copy),        on(&CodeView::hasSelection)},
+        {"paste",           "edit.clipboard", QT_TRANSLATE_NOOP("App::Actions", "&Paste"),            K::Paste,     text(&CodeTextEditor::paste),       hasText},
+        {"select_all",      "edit.clipboard", QT_TRANSLATE_NOOP("App::Actions", "Select &all"),       K::SelectAll, text(&CodeTextEditor::selectAll),   hasText},
+        {"find",            "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "&Find..."),          K::Find,      bar(&FindBar::openFind),            hasText, "code"},
+        {"find_next",       "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Find &next"),        "F3",         bar(&FindBar::findNext),            hasText, "code"},
+        {"find_previous",   "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Find pre&vious"),    "Shift+F3",   bar(&FindBar::findPrevious),        hasText, "code"},
+        {"find_selection",  "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Find &selection"),   "Ctrl+F3",    bar(&FindBar::findSelection),       hasText, "code"},
+        {"replace",         "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Rep&lace..."),       "Ctrl+H",     bar(&FindBar::openReplace),         hasText, "code"},
+        {"encoding",        "edit.text",      QT_TRANSLATE_NOOP("App::Actions", "&Encoding..."),      {},           on(&CodeView::changeEncoding),      hasText, "code"},
+        {"code_complete",   "code.write",     QT_TRANSLATE_NOOP("App::Actions", "Co&mplete word"),    "Ctrl+Space", help(&CodeHelp::completeWord),      hasText, "code"},
+        {"code_definition", "code.write",     QT_TRANSLATE_NOOP("App::Actions", "&Go to definition"), "F12",        help(&CodeHelp::goToDefinition),    hasText, "code"},
+        {"code_back",       "code.write",     QT_TRANSLATE_NOOP("App::Actions", "Go &back"),          "Alt+Left",   help(&CodeHelp::goBack),            hasText, "code"},
+        {"code_fold",       "code.write",     QT_TRANSLATE_NOOP("App::Actions", "&Fold or unfold"),   "Alt+Shift+Up", editing(&CodeEditor::toggleFold), hasText, "code"},
+        {"next_text",       "view.texts",     QT_TRANSLATE_NOOP("App::Actions", "Next te&xt"),        "Ctrl+PgDown; Ctrl+Tab",     on(&CodeView::showNext),     hasText},
+        {"previous_text",   "view.texts",     QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),    "Ctrl+PgUp; Ctrl+Shift+Tab", on(&CodeView::showPrevious), hasText},
+    };
+    // clang-format on
+}
+
+void CodeView::actionsMade()
+{
+    for (const char* name : {"find", "find_next", "find_previous", "find_selection", "replace"}) {
+        m_findBar->addAction(m_services.actions->action(QLatin1String(name)));
+    }
 }
 
 CodeEditor* CodeView::editor() const
@@ -76,17 +159,148 @@ void CodeView::reconfig()
     editor()->setSyntaxFormatting(formatting);
 }
 
-void CodeView::showFront(const Family::FamilyDocument* document)
+void CodeView::showFront(FamilyDocument* document)
 {
-    if (document && !m_workspace->isActive()) {
-        m_workspace->activate();
-    } else if (!document) {
-        m_workspace->deactivate();
-    }
     m_findBar->follow();
+    m_services.parts->showDocument(document);
     if (document) {
-        emit lineChanged(editor()->textCursor().blockNumber());
+        cursorMoved();
+        m_services.parts->followLine(editor()->textCursor().blockNumber());
     }
+}
+
+void CodeView::cursorMoved()
+{
+    m_services.parts->followCursor(editor()->textCursor().blockNumber());
+    if (!m_isRestPending) {
+        m_isRestPending = true;
+        QTimer::singleShot(0, this, &CodeView::cursorRests);
+    }
+}
+
+void CodeView::cursorRests()
+{
+    m_isRestPending = false;
+    if (m_tabs->currentDocument()) {
+        m_services.parts->followRest(editor()->textCursor().blockNumber());
+    }
+}
+
+void CodeView::openText(FamilyDocument* document)
+{
+    const bool isNew = m_tabs->indexOf(document) < 0;
+    m_tabs->showDocument(document);
+    if (isNew) {
+        Operations::ensureFaithful(document);
+        m_services.status->updateFile();
+    }
+}
+
+void CodeView::showPlace(FamilyDocument* document, int line, int column, int length)
+{
+    if (document) {
+        openText(document);
+        m_textEditor->goTo(line, column, length);
+    }
+}
+
+void CodeView::moveCursor(int line)
+{
+    CodeEditor* edit = m_tabs->currentEdit();
+    if (edit && edit->textCursor().blockNumber() != line) {
+        edit->setTextCursor(QTextCursor(edit->document()->findBlockByNumber(line)));
+    }
+}
+
+void CodeView::forgetProject(Family::FamilyProject* project)
+{
+    const QList<FamilyDocument*> documents = project->documents();
+    for (const FamilyDocument* document : documents) {
+        m_tabs->closeDocument(document);
+    }
+}
+
+void CodeView::gameChanged()
+{
+    m_tabs->updateTabs();
+}
+
+QVector<PanelPlace> CodeView::places() const
+{
+    return {PanelPlace::inside(m_workspace->toolBar()), PanelPlace::of(m_tabs->currentEdit()),
+            PanelPlace::inside(m_findBar), PanelPlace::of(m_textEditor->tree())};
+}
+
+bool CodeView::hasText() const
+{
+    return m_tabs->currentEdit();
+}
+
+bool CodeView::hasSelection() const
+{
+    const CodeEditor* edit = m_tabs->currentEdit();
+    return edit && edit->textCursor().hasSelection();
+}
+
+bool CodeView::canUndo() const
+{
+    const CodeEditor* edit = m_tabs->currentEdit();
+    return edit && edit->document()->isUndoAvailable();
+}
+
+bool CodeView::canRedo() const
+{
+    const CodeEditor* edit = m_tabs->currentEdit();
+    return edit && edit->document()->isRedoAvailable();
+}
+
+void CodeView::save()
+{
+    if (FamilyDocument* document = m_tabs->currentDocument()) {
+        if (saveFiles({document})) {
+            m_services.status->showPassing(
+                tr("%1 is saved.").arg(m_services.session->shownPath(document->fileName())));
+        }
+        m_services.parts->gameChanged();
+    }
+}
+
+void CodeView::closeText()
+{
+    if (FamilyDocument* document = m_tabs->currentDocument()) {
+        close(document);
+    }
+}
+
+/// What is discarded leaves the memory too: the project of the text stays open.
+void CodeView::close(FamilyDocument* document)
+{
+    if (document->isModified() && !askAboutUnsaved({document})) {
+        return;
+    }
+    m_tabs->closeDocument(document);
+    if (document->isModified() && QFileInfo::exists(document->fileName())) {
+        document->reload();
+    }
+    m_services.parts->updateSoon();
+}
+
+void CodeView::changeEncoding()
+{
+    if (FamilyDocument* document = m_tabs->currentDocument()) {
+        chooseEncoding(document);
+        m_services.status->updateFile();
+    }
+}
+
+void CodeView::showNext()
+{
+    m_tabs->setCurrentIndex((m_tabs->currentIndex() + 1) % m_tabs->count());
+}
+
+void CodeView::showPrevious()
+{
+    m_tabs->setCurrentIndex((m_tabs->currentIndex() + m_tabs->count() - 1) % m_tabs->count());
 }
 
 }  // namespace App

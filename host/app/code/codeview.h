@@ -1,13 +1,12 @@
 #pragma once
 
+#include "app/window/part.h"
+
 #include <QObject>
 
+class QSplitter;
 class QVBoxLayout;
 class QWidget;
-
-namespace Family {
-class FamilyDocument;
-}
 
 namespace Zorv {
 class CodeEditor;
@@ -16,59 +15,71 @@ class CodeWorkspace;
 
 namespace App {
 
+class CodeHelp;
 class CodeTextEditor;
 class DocumentTabs;
 class FindBar;
+struct WindowServices;
 
-/// The texts in the middle of the window: the library's code workspace, the editor that
-/// works in it, the tabs of the open texts, and the bars below.
-class CodeView : public QObject
+/// The texts in the middle of the window: the library's code workspace, the editor that works in
+/// it, the tabs of the open texts, and the bars below. It tells the parts of the window which text
+/// is in front and where its cursor is.
+class CodeView : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Publishes the tools of code: the host must know the window by then. The widget is
-    /// the window's to place.
-    explicit CodeView(QObject* parent = nullptr);
+    /// Publishes the tools of code: the host must know the window by then. The texts go to the
+    /// end of `page`, which is what stands in the middle of the window with them.
+    CodeView(const WindowServices& services, QSplitter* page);
     ~CodeView() override;
-
-    /// What stands in the middle of the window.
-    QWidget* widget() const { return m_widget; }
-
-    /// Puts a bar below the text.
-    void addBar(QWidget* bar);
 
     Zorv::CodeWorkspace* workspace() const { return m_workspace; }
     CodeTextEditor* textEditor() const { return m_textEditor; }
     DocumentTabs* tabs() const { return m_tabs; }
     FindBar* findBar() const { return m_findBar; }
+    CodeHelp* help() const { return m_help; }
 
     /// The one in which all texts are shown, whether there is a text or not.
     Zorv::CodeEditor* editor() const;
 
-    /// Completes what the workspace has taken from the settings.
-    void reconfig();
+    /// See `showDocument()` and the others of `Jumps`.
+    void openText(Family::FamilyDocument* document);
+    void showPlace(Family::FamilyDocument* document, int line, int column, int length);
+    void moveCursor(int line);
 
-signals:
-    /// The cursor of the text in front has moved.
-    void cursorMoved();
-
-    /// The cursor has come to another line, or another text to the front.
-    void lineChanged(int line);
-
-    /// What can be done with the text in front has changed.
-    void stateChanged();
+    QVector<ActionRow> actions() override;
+    void actionsMade() override;
+    void forgetProject(Family::FamilyProject* project) override;
+    void gameChanged() override;
+    QVector<PanelPlace> places() const override;
+    void reconfig() override;
 
 private:
     void setUpEditor();
-    void showFront(const Family::FamilyDocument* document);
+    void showFront(Family::FamilyDocument* document);
+    void cursorMoved();
+    void cursorRests();
 
+    bool hasText() const;
+    bool hasSelection() const;
+    bool canUndo() const;
+    bool canRedo() const;
+    void save();
+    void closeText();
+    void close(Family::FamilyDocument* document);
+    void changeEncoding();
+    void showNext();
+    void showPrevious();
+
+    const WindowServices& m_services;
     QWidget* m_widget;
-    QVBoxLayout* m_layout;
     Zorv::CodeWorkspace* m_workspace;
     CodeTextEditor* m_textEditor;
     DocumentTabs* m_tabs;
     FindBar* m_findBar;
+    CodeHelp* m_help;
+    bool m_isRestPending = false;
 };
 
 }  // namespace App

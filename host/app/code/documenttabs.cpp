@@ -73,6 +73,12 @@ DocumentTabs::DocumentTabs(CodeTextEditor* editor)
     m_bar->setObjectName(QStringLiteral("open_texts"));
     m_bar->installEventFilter(this);
     connect(m_bar, &QTabBar::currentChanged, this, &DocumentTabs::bringForward);
+    connect(editor, &CodeTextEditor::leaving, this, &DocumentTabs::keepPlace);
+    connect(editor, &CodeTextEditor::shown, this, [this] {
+        if (isShown()) {
+            restorePlace(m_editor->codeWorkspace()->editor(), keptPlace(m_editor, m_front));
+        }
+    });
     connect(m_bar, &QTabBar::tabCloseRequested, this,
             [this](int index) { emit closeRequested(documentAt(index)); });
 }
@@ -86,6 +92,7 @@ void DocumentTabs::showDocument(FamilyDocument* document)
     }
     m_bar->setCurrentIndex(indexOf(document));
     bringForward();
+    m_editor->activate();
     m_editor->codeWorkspace()->editor()->setFocus();
 }
 
@@ -126,29 +133,32 @@ void DocumentTabs::bringForward()
     keepPlace();
     m_front = document;
     m_editor->showDocument(document);
-    if (document) {
-        restorePlace(m_editor->codeWorkspace()->editor(), keptPlace(m_editor, document));
-    }
     emit currentDocumentChanged(document);
+}
+
+/// False while another editor is in front.
+bool DocumentTabs::isShown() const
+{
+    return m_front && m_editor->codeWorkspace()->editor()->codeDocument() == m_front;
 }
 
 void DocumentTabs::keepPlace()
 {
-    const CodeEditor* editor = m_editor->codeWorkspace()->editor();
-    if (m_front && editor->codeDocument() == m_front) {
+    if (isShown()) {
+        const CodeEditor* editor = m_editor->codeWorkspace()->editor();
         m_front->setEditorData(m_editor->name(), std::make_unique<KeptPlace>(placeIn(editor)));
     }
 }
 
 TextPlace DocumentTabs::placeOf(const FamilyDocument* document) const
 {
-    return document && document == m_front ? placeIn(m_editor->codeWorkspace()->editor())
-                                           : keptPlace(m_editor, document);
+    return document == m_front && isShown() ? placeIn(m_editor->codeWorkspace()->editor())
+                                            : keptPlace(m_editor, document);
 }
 
 void DocumentTabs::setPlace(FamilyDocument* document, const TextPlace& place)
 {
-    if (document == m_front) {
+    if (document == m_front && isShown()) {
         restorePlace(m_editor->codeWorkspace()->editor(), place);
     } else {
         document->setEditorData(m_editor->name(), std::make_unique<KeptPlace>(place));
@@ -157,7 +167,7 @@ void DocumentTabs::setPlace(FamilyDocument* document, const TextPlace& place)
 
 CodeEditor* DocumentTabs::currentEdit() const
 {
-    return m_front ? m_editor->codeWorkspace()->editor() : nullptr;
+    return isShown() ? m_editor->codeWorkspace()->editor() : nullptr;
 }
 
 int DocumentTabs::count() const

@@ -50,7 +50,7 @@ public:
     /// The document in front, or null.
     Family::FamilyDocument* currentDocument() const { return m_front; }
 
-    /// The editor while a document is in front, else null.
+    /// The editor while it shows the document in front, else null.
     Zorv::CodeEditor* currentEdit() const;
 
     /// The place of an open document, or of one that was.
@@ -73,6 +73,7 @@ private:
     void addTab(Family::FamilyDocument* document);
     void updateTab(const Family::FamilyDocument* document);
     void bringForward();
+    bool isShown() const;
     void keepPlace();
 
     CodeTextEditor* m_editor;

@@ -49,10 +49,11 @@ const BarRow* rowOf(const QString& name)
 struct ControlBars::Bar
 {
     QString name;
-    const BarRow* row = nullptr;    // null for a bar that the table does not have
-    QToolBar* tools = nullptr;      // the bar itself, or the one at the top of the panel
-    QDockWidget* panel = nullptr;   // null for a tool bar
-    QVBoxLayout* layout = nullptr;  // of the panel
+    const BarRow* row = nullptr;             // null for a bar that the table does not have
+    std::function<QString()> ownTitle = {};  // in place of one of the table
+    QToolBar* tools = nullptr;               // the bar itself, or the one at the top of the panel
+    QDockWidget* panel = nullptr;            // null for a tool bar
+    QVBoxLayout* layout = nullptr;           // of the panel
 
     QWidget* host() const { return panel ? static_cast<QWidget*>(panel) : tools; }
 
@@ -63,13 +64,22 @@ struct ControlBars::Bar
 
     void retranslate() const
     {
-        const QString title = row ? row->title.label() : name;
+        const QString title = row ? row->title.label() : ownTitle ? ownTitle() : name;
         host()->setWindowTitle(title);
         tools->setAccessibleName(title);
     }
 
+    bool isChoice() const { return row && row->fewest > 1; }
+
     // The first item of a panel's layout is its tool bar.
-    bool isEmpty() const { return tools->actions().isEmpty() && (!layout || layout->count() < 2); }
+    bool isEmpty() const
+    {
+        const QList<QAction*> all = tools->actions();
+        const auto count = std::count_if(all.begin(), all.end(), [this](const QAction* tool) {
+            return tool->isVisible() || !isChoice();
+        });
+        return count < (isChoice() ? row->fewest : 1) && (!layout || layout->count() < 2);
+    }
 };
 
 struct ControlBars::Private
@@ -96,20 +106,26 @@ ControlBars::ControlBars(QMainWindow* window, WindowActions* actions)
 
 ControlBars::~ControlBars() = default;
 
-ControlBars::Bar* ControlBars::bar(const QString& name)
+ControlBars::Bar* ControlBars::find(const QString& name) const
 {
     const auto found = std::find_if(d->bars.begin(), d->bars.end(),
                                     [&name](const auto& bar) { return bar->name == name; });
-    return found == d->bars.end() ? makeBar(name) : found->get();
+    return found == d->bars.end() ? nullptr : found->get();
 }
 
-ControlBars::Bar* ControlBars::makeBar(const QString& name)
+ControlBars::Bar* ControlBars::bar(const QString& name)
+{
+    Bar* found = find(name);
+    return found ? found : makeBar(name);
+}
+
+ControlBars::Bar* ControlBars::makeBar(const QString& name, bool isPanel)
 {
     d->bars.push_back(std::make_unique<Bar>());
     Bar* made = d->bars.back().get();
     made->name = name;
     made->row = rowOf(name);
-    if (made->row && made->row->kind == BarRow::Panel) {
+    if (isPanel || (made->row && made->row->kind == BarRow::Panel)) {
         makePanel(made);
     } else {
         makeToolBar(made);
@@ -139,7 +155,8 @@ void ControlBars::makePanel(Bar* bar)
     bar->layout->addWidget(bar->tools);
     bar->panel->setWidget(content);
     bar->panel->hide();
-    d->window->addDockWidget(Qt::DockWidgetArea(bar->row->area), bar->panel);
+    d->window->addDockWidget(
+        bar->row ? Qt::DockWidgetArea(bar->row->area) : Qt::RightDockWidgetArea, bar->panel);
     d->window->restoreDockWidget(bar->panel);
     bar->panel->installEventFilter(this);
 }
@@ -184,6 +201,9 @@ QToolButton* ControlBars::addButton(const QString& name, QAction* action)
     Bar* found = bar(name);
     found->tools->addAction(action);
     connect(action, &QObject::destroyed, this, &ControlBars::updateSoon);
+    if (found->isChoice()) {
+        connect(action, &QAction::changed, this, &ControlBars::updateSoon);
+    }
     updateSoon();
     return qobject_cast<QToolButton*>(found->tools->widgetForAction(action));
 }
@@ -200,6 +220,29 @@ void ControlBars::addWidget(const QString& name, QWidget* widget, bool takesRoom
     }
     connect(widget, &QObject::destroyed, this, &ControlBars::updateSoon);
     updateSoon();
+}
+
+void ControlBars::addPanel(const QString& name, QWidget* widget,
+                           const std::function<QString()>& title)
+{
+    Bar* found = find(name);
+    found = found ? found : makeBar(name, true);
+    found->ownTitle = title;
+    found->retranslate();
+    addWidget(name, widget, true);
+}
+
+void ControlBars::bringForward(const QString& name)
+{
+    Bar* found = find(name);
+    if (!found) {
+        return;
+    }
+    if (barsThatAreOff().contains(name)) {
+        setOff(name, false);
+    }
+    updateVisibility();
+    found->host()->raise();
 }
 
 void ControlBars::addSeparator(const QString& name)

@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 class QAction;
@@ -34,6 +35,12 @@ public:
     /// The bar owns it.
     void addWidget(const QString& name, QWidget* widget, bool takesRoom = false);
 
+    /// The same into the panel of a name, which gets that title if the table has none.
+    void addPanel(const QString& name, QWidget* widget, const std::function<QString()>& title);
+
+    /// Switches a bar or panel on, and shows a panel in front of those in its place.
+    void bringForward(const QString& name);
+
     void addSeparator(const QString& name);
 
     /// Allows the bars of a menu and a group, or hides them.
@@ -55,8 +62,9 @@ private:
     struct Bar;
     struct Private;
 
+    Bar* find(const QString& name) const;
     Bar* bar(const QString& name);
-    Bar* makeBar(const QString& name);
+    Bar* makeBar(const QString& name, bool isPanel = false);
     void makeToolBar(Bar* bar);
     void makePanel(Bar* bar);
     void addSwitch(const Bar* bar);

@@ -56,7 +56,7 @@ const QVector<BarRow>& barTable()
     // clang-format off
     static const QVector<BarRow> table{
         {"main",         BarRow::ToolBar, Qt::TopToolBarArea,      nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Main"))},
-        {"editors",      BarRow::ToolBar, Qt::TopToolBarArea,      nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Editors"))},
+        {"editors",      BarRow::ToolBar, Qt::TopToolBarArea,      nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Editors")), nullptr, 2},
         {"code",         BarRow::ToolBar, Qt::TopToolBarArea,      nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Code"))},
         {"stage",        BarRow::ToolBar, Qt::TopToolBarArea,      nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Stage"))},
         {"animation",    BarRow::ToolBar, Qt::TopToolBarArea,      "anim",  "animations", shared(AnimationsText)},

@@ -19,6 +19,7 @@ struct BarRow
     const char* group;  ///< group of `setMenuEnabled()`; null for never
     ActionText title;
     const char* setting = nullptr;  ///< the setting that shows it, if editors read that too
+    int fewest = 1;                 ///< tools that it is shown for: one selector is no choice
 };
 
 /// Where tools whose names begin with a prefix stand: a row of the table.

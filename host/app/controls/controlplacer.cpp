@@ -8,11 +8,13 @@
 #include "app/controls/controllayout.h"
 
 #include <zorv/core/interface.h>
+#include <zorv/editors/framework/extraeditor.h>
 #include <zorv/editors/framework/ownwidgetcontrol.h>
 #include <zorv/editors/framework/toolbuttoncontrol.h>
 #include <zorv/editors/framework/widgetcontrol.h>
 
 #include <QActionGroup>
+#include <QDockWidget>
 #include <QMainWindow>
 #include <QMenu>
 #include <QToolButton>
@@ -35,6 +37,12 @@ QString barOf(const QString& name)
 {
     const char* bar = placeOf(name).bar;
     return bar ? QString::fromLatin1(bar) : prefixOf(name);
+}
+
+/// That of the tools that are named after the panel, or one of its own.
+QString barOfPanel(const Zorv::ExtraEditor* panel)
+{
+    return barOf(panel->name() + QLatin1Char('_'));
 }
 
 QList<QKeySequence> firstKeys(const ActionRequest& request)
@@ -61,10 +69,14 @@ ControlPlacer::ControlPlacer(QMainWindow* window, WindowActions* actions)
     : QObject(window), m_window(window), m_actions(actions),
       m_bars(new ControlBars(window, actions)), m_editors(new QActionGroup(this))
 {
+}
+
+void ControlPlacer::fillMainBar()
+{
     for (const char* name : mainBarTable()) {
         if (!name) {
             m_bars->addSeparator(QStringLiteral("main"));
-        } else if (QAction* action = actions->registry()->action(QLatin1String(name))) {
+        } else if (QAction* action = m_actions->registry()->action(QLatin1String(name))) {
             m_bars->addButton(QStringLiteral("main"), action);
         }
     }
@@ -182,6 +194,20 @@ QWidget* ControlPlacer::addWidget(const QString& name, const WidgetKind& control
     }
     m_bars->addWidget(barOf(name), box, box->takesRoom());
     return box->field();
+}
+
+QDockWidget* ControlPlacer::addPanel(Zorv::ExtraEditor* panel)
+{
+    QWidget* widget = panel->widget();
+    if (widget && !widget->parentWidget()) {
+        m_bars->addPanel(barOfPanel(panel), widget, [panel] { return panel->displayName(); });
+    }
+    return m_window->findChild<QDockWidget*>(barOfPanel(panel));
+}
+
+void ControlPlacer::showPanel(const Zorv::ExtraEditor* panel)
+{
+    m_bars->bringForward(barOfPanel(panel));
 }
 
 void ControlPlacer::keepGate(const QString& name, AreaGate* gate)

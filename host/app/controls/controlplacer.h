@@ -8,11 +8,13 @@
 
 class QAction;
 class QActionGroup;
+class QDockWidget;
 class QMainWindow;
 class QToolButton;
 
 namespace Zorv {
 class Control;
+class ExtraEditor;
 class ToolButtonControl;
 class Translator;
 class WidgetControl;
@@ -61,6 +63,16 @@ public:
     /// The button or the widget, of which the window stays or becomes the owner; null for a
     /// control of an unknown class, and for one without a name.
     QObject* addControl(const QString& name, const Zorv::Control& control);
+
+    /// The dock of a panel, which is that of its tools, or with a widget of its own one that is
+    /// made for it; null for a panel that has neither.
+    QDockWidget* addPanel(Zorv::ExtraEditor* panel);
+
+    /// Shows the dock of a panel, in front of those in its place.
+    void showPanel(const Zorv::ExtraEditor* panel);
+
+    /// Puts the actions of the table, which must be there, into the main tool bar.
+    void fillMainBar();
 
     void setMenuEnabled(const char* menu, const char* group, bool isEnabled);
 

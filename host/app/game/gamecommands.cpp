@@ -1,14 +1,14 @@
 #include "app/game/gamecommands.h"
 
-#include "app/code/documenttabs.h"
 #include "app/game/backupnamedialog.h"
 #include "app/game/gametree.h"
 #include "app/game/restoredialog.h"
-#include "app/main/mainwindow.h"
 #include "app/session/gamesession.h"
 #include "app/session/recentfolders.h"
 #include "app/session/unsavedwork.h"
+#include "app/window/partlist.h"
 #include "app/window/statusfields.h"
+#include "app/window/windowservices.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
@@ -57,12 +57,32 @@ QString realPath(const QString& folder)
 
 }  // namespace
 
-GameCommands::GameCommands(MainWindow* window) : QObject(window), m_window(window) {}
+GameCommands::GameCommands(const WindowServices& services, GameTree* tree)
+    : QObject(services.window), m_services(services), m_tree(tree)
+{
+}
+
+QVector<ActionRow> GameCommands::actions()
+{
+    const Members<GameCommands> on(this);
+    // clang-format off
+    return {
+        {"save_all_as",    "file.all",    QT_TRANSLATE_NOOP("App::Actions", "Save all &as..."),     {}, on(&GameCommands::saveAllAs),     on(&GameCommands::hasGame), nullptr, ActionRow::Button, "save_as"},
+        {"backup",         "file.backup", QT_TRANSLATE_NOOP("App::Actions", "&Back up..."),         {}, on(&GameCommands::makeBackup),    on(&GameCommands::hasGame)},
+        {"restore_backup", "file.backup", QT_TRANSLATE_NOOP("App::Actions", "Res&tore backup..."),  {}, on(&GameCommands::restoreBackup), on(&GameCommands::hasGame), nullptr, ActionRow::Button, "restore"},
+    };
+    // clang-format on
+}
+
+bool GameCommands::hasGame() const
+{
+    return m_services.session->game();
+}
 
 void GameCommands::makeBackup()
 {
-    FamilyParentProject* game = m_window->session()->game();
-    BackupNameDialog dialog(m_window);
+    FamilyParentProject* game = m_services.session->game();
+    BackupNameDialog dialog(m_services.window);
     if (!game || dialog.exec() != QDialog::Accepted) {
         return;
     }
@@ -77,18 +97,18 @@ void GameCommands::makeBackup()
 
 void GameCommands::restoreBackup()
 {
-    FamilyParentProject* game = m_window->session()->game();
+    FamilyParentProject* game = m_services.session->game();
     if (!game) {
         return;
     }
-    RestoreDialog dialog(m_window, *game);
+    RestoreDialog dialog(m_services.window, *game);
     if (dialog.exec() != QDialog::Accepted || dialog.folder().isEmpty() ||
-        !askAboutUnsaved(m_window->session()->modifiedFiles())) {
+        !askAboutUnsaved(m_services.session->modifiedFiles())) {
         return;
     }
     // What is discarded leaves the memory too, or the backup of what is replaced would hold it
     // instead of the files.
-    const QList<Zorv::ProjectFile*> discarded = m_window->session()->modifiedFiles();
+    const QList<Zorv::ProjectFile*> discarded = m_services.session->modifiedFiles();
     for (Zorv::ProjectFile* file : discarded) {
         if (QFileInfo::exists(file->fileName())) {
             readAgain(file);
@@ -108,9 +128,9 @@ void GameCommands::tell(const QString& title, const QString& done, const BackupR
                       paragraph(tr("These are named by a project and not there:"), result.missing)};
     parts.removeAll(QString());
     if (result.isCanceled) {
-        m_window->status()->showField(0, tr("Given up."));
+        m_services.status->showField(0, tr("Given up."));
     } else if (result.error.isEmpty()) {
-        m_window->status()->showField(0, done);
+        m_services.status->showField(0, done);
     }
     if (!result.error.isEmpty()) {
         Dialogs::instance()->error(title, parts.join(QLatin1String("\n\n")));
@@ -122,28 +142,28 @@ void GameCommands::tell(const QString& title, const QString& done, const BackupR
 void GameCommands::refresh()
 {
     QStringList errors;
-    for (FamilyProject* project : m_window->session()->projects()) {
+    for (FamilyProject* project : m_services.session->projects()) {
         project->loadFiles();
         errors += project->loadErrors();
     }
     if (!errors.isEmpty()) {
-        m_window->status()->showField(0, errors.first());
+        m_services.status->showField(0, errors.first());
     }
-    emit gameChanged();
+    m_services.parts->gameChanged();
 }
 
 /// A loose project in the folder itself has the new name of its main file, with a
 /// suffix, anything else a folder with "/" at its end. Empty if the person gives up.
 QString GameCommands::askForPlace(bool* isFile) const
 {
-    const FamilyParentProject* game = m_window->session()->game();
-    const QList<FamilyProject*> projects = m_window->session()->projects();
+    const FamilyParentProject* game = m_services.session->game();
+    const QList<FamilyProject*> projects = m_services.session->projects();
     *isFile = projects.size() == 1 && projects.first()->basePath().isEmpty() &&
               !Family::GameProgram::isIn(game->absolutePath());
     const QString title = tr("Save all as");
     if (!*isFile) {
         const QString folder =
-            Dialogs::instance()->existingFolder(m_window, title, game->absolutePath());
+            Dialogs::instance()->existingFolder(m_services.window, title, game->absolutePath());
         return folder.isEmpty() || !mayWriteInto(folder)
                    ? QString()
                    : QDir(folder).absolutePath() + QLatin1Char('/');
@@ -151,7 +171,7 @@ QString GameCommands::askForPlace(bool* isFile) const
     const FamilyDocument* document = projects.first()->mainDocument();
     const QString suffix = Family::fileSuffix(document->kind());
     QString name = Dialogs::instance()->saveFileName(
-        m_window, title, document->fileName(),
+        m_services.window, title, document->fileName(),
         QStringLiteral("%1 (*%2)").arg(Family::fileKindName(document->kind()), suffix));
     if (!name.isEmpty() && !name.endsWith(suffix, Qt::CaseInsensitive)) {
         name += suffix;
@@ -165,7 +185,7 @@ bool GameCommands::mayWriteInto(const QString& folder) const
 {
     const QString shown = QDir::toNativeSeparators(folder);
     const QDir target(folder);
-    if (realPath(folder).startsWith(realPath(m_window->session()->folder()))) {
+    if (realPath(folder).startsWith(realPath(m_services.session->folder()))) {
         Dialogs::instance()->warning(
             tr("Save all as"),
             tr("%1 lies in the folder of the game. Choose a folder outside of it.").arg(shown));
@@ -182,7 +202,7 @@ bool GameCommands::mayWriteInto(const QString& folder) const
 
 bool GameCommands::settleTwins() const
 {
-    const QString file = fileWithTwoContents(m_window->session()->modifiedFiles());
+    const QString file = fileWithTwoContents(m_services.session->modifiedFiles());
     if (!file.isEmpty()) {
         Dialogs::instance()->warning(
             tr("Save all as"), tr("%1 was changed in several projects in different ways. Save it "
@@ -194,7 +214,7 @@ bool GameCommands::settleTwins() const
 
 bool GameCommands::settleEncodings() const
 {
-    const QList<FamilyDocument*> documents = m_window->session()->modifiedDocuments();
+    const QList<FamilyDocument*> documents = m_services.session->modifiedDocuments();
     for (FamilyDocument* document : documents) {
         if (!Operations::settleEncoding(document)) {
             return false;
@@ -208,7 +228,7 @@ bool GameCommands::settleEncodings() const
 /// what could not be written.
 QStringList GameCommands::saveFolderAs(const QString& folder) const
 {
-    FamilyParentProject* game = m_window->session()->game();
+    FamilyParentProject* game = m_services.session->game();
     FamilyProject* second = nullptr;
     if (game->openedProjects().size() == 1 && !game->isGame()) {
         second = FamilyProject::create(game, Family::FileKind::Stage);
@@ -229,7 +249,7 @@ QStringList GameCommands::saveFolderAs(const QString& folder) const
 
 void GameCommands::saveAllAs()
 {
-    FamilyParentProject* game = m_window->session()->game();
+    FamilyParentProject* game = m_services.session->game();
     bool isFile = false;
     const QString place =
         game && settleTwins() && settleEncodings() ? askForPlace(&isFile) : QString();
@@ -250,15 +270,15 @@ void GameCommands::saveAllAs()
     if (hasMoved) {
         RecentFolders::add(game->absolutePath());
         // What the tree had open are paths of the old place.
-        m_window->gameTree()->setGame(game);
-        if (const FamilyProject* project = m_window->currentProject()) {
-            m_window->gameTree()->reveal(project->fileName());
+        m_tree->showGame(game);
+        if (const FamilyProject* project = m_services.parts->project()) {
+            m_tree->reveal(project->fileName());
         }
-        m_window->status()->showField(0, tr("All is saved in %1.").arg(shown));
+        m_services.status->showField(0, tr("All is saved in %1.").arg(shown));
     } else if (game->wasCanceled()) {
-        m_window->status()->showField(0, tr("Given up; the work goes on in %1.").arg(shown));
+        m_services.status->showField(0, tr("Given up; the work goes on in %1.").arg(shown));
     }
-    emit gameChanged();
+    m_services.parts->gameChanged();
     if (hasMoved && !failed.isEmpty()) {
         Dialogs::instance()->warning(tr("Save all as"), failed);
     } else if (!hasMoved && !game->wasCanceled()) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/window/part.h"
+
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -14,16 +16,19 @@ struct BackupResult;
 
 namespace App {
 
-class MainWindow;
+class GameTree;
+struct WindowServices;
 
 /// What is done with a whole game: backups, and saving it under a new place.
-class GameCommands : public QObject
+class GameCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window.
-    explicit GameCommands(MainWindow* window);
+    /// Lives as a child of the window. The tree outlives it.
+    GameCommands(const WindowServices& services, GameTree* tree);
+
+    QVector<ActionRow> actions() override;
 
     /// Asks for a name and makes a backup.
     void makeBackup();
@@ -39,11 +44,8 @@ public:
     /// come to name is loaded.
     void refresh();
 
-signals:
-    /// The game, or files of it, have other names or other contents.
-    void gameChanged();
-
 private:
+    bool hasGame() const;
     QString askForPlace(bool* isFile) const;
     QStringList saveFolderAs(const QString& folder) const;
     bool mayWriteInto(const QString& folder) const;
@@ -52,7 +54,8 @@ private:
     void tell(const QString& title, const QString& done,
               const Operations::BackupResult& result) const;
 
-    MainWindow* m_window;
+    const WindowServices& m_services;
+    GameTree* m_tree;
 };
 
 }  // namespace App

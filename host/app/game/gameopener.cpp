@@ -1,12 +1,13 @@
 #include "app/game/gameopener.h"
 
 #include "app/game/gametree.h"
-#include "app/main/mainwindow.h"
-#include "app/run/runcommands.h"
 #include "app/session/gamesession.h"
 #include "app/session/recentfolders.h"
 #include "app/session/unsavedwork.h"
+#include "app/window/jumps.h"
+#include "app/window/partlist.h"
 #include "app/window/statusfields.h"
+#include "app/window/windowservices.h"
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
@@ -39,7 +40,71 @@ private:
 
 }  // namespace
 
-GameOpener::GameOpener(MainWindow* window) : QObject(window), m_window(window) {}
+GameOpener::GameOpener(const WindowServices& services, GameTree* tree)
+    : QObject(services.window), m_services(services), m_tree(tree)
+{
+}
+
+QVector<ActionRow> GameOpener::actions()
+{
+    const Members<GameOpener> on(this);
+    // clang-format off
+    return {
+        {"open_folder",   "file.open",  QT_TRANSLATE_NOOP("App::Actions", "&Open game folder..."),  QKeySequence::Open, on(&GameOpener::chooseFolder)},
+        {"save_all",      "file.all",   QT_TRANSLATE_NOOP("App::Actions", "Save a&ll"),             "Ctrl+Shift+S",     on(&GameOpener::saveAll),      on(&GameOpener::hasUnsaved)},
+        {"close_project", "file.close", QT_TRANSLATE_NOOP("App::Actions", "Close &project"),        "Ctrl+Shift+W",     on(&GameOpener::closeProject), on(&GameOpener::hasProject)},
+        {"close_folder",  "file.close", QT_TRANSLATE_NOOP("App::Actions", "Close &game folder"),    {},                 on(&GameOpener::closeFolder),  on(&GameOpener::hasGame)},
+    };
+    // clang-format on
+}
+
+bool GameOpener::hasGame() const
+{
+    return m_services.session->game();
+}
+
+bool GameOpener::hasProject() const
+{
+    return m_services.parts->project();
+}
+
+bool GameOpener::hasUnsaved() const
+{
+    return !m_services.session->modifiedFiles().isEmpty();
+}
+
+void GameOpener::chooseFolder()
+{
+    const QString folder = Zorv::Dialogs::instance()->existingFolder(
+        m_services.window, tr("Open game folder"), m_services.session->folder());
+    if (!folder.isEmpty()) {
+        openPath(folder);
+    }
+}
+
+void GameOpener::saveAll()
+{
+    if (saveFiles(m_services.session->modifiedFiles())) {
+        m_services.status->showPassing(tr("All files are saved."));
+    }
+    m_services.parts->gameChanged();
+}
+
+void GameOpener::closeProject()
+{
+    FamilyProject* project = m_services.parts->project();
+    if (project && m_services.jumps->mayClose(project, {})) {
+        m_services.session->closeProject(project);
+    }
+}
+
+void GameOpener::closeFolder()
+{
+    if (m_services.jumps->mayClose(nullptr, [this] { closeFolder(); })) {
+        m_services.session->closeFolder();
+        m_services.parts->updateSoon();
+    }
+}
 
 bool GameOpener::openPath(const QString& path)
 {
@@ -58,33 +123,32 @@ bool GameOpener::openPath(const QString& path)
 
 bool GameOpener::openFolder(const QString& folder)
 {
-    if (!m_window->runCommands()->mayClose([this, folder] { openFolder(folder); }) ||
-        !askAboutUnsaved(m_window->session()->modifiedFiles())) {
+    if (!m_services.jumps->mayClose(nullptr, [this, folder] { openFolder(folder); })) {
         return false;
     }
     QString error;
     bool isOpen = false;
     {
         const WaitCursor cursor;
-        isOpen = m_window->session()->openFolder(folder, &error);
+        isOpen = m_services.session->openFolder(folder, &error);
     }
     if (!isOpen) {
-        Zorv::Dialogs::instance()->error(MainWindow::tr("Open game folder"), error);
+        Zorv::Dialogs::instance()->error(tr("Open game folder"), error);
         return false;
     }
     RecentFolders::add(folder);
-    m_window->gameTree()->setFocus();
+    m_tree->setFocus();
     return true;
 }
 
 bool GameOpener::openFile(const QString& fileName)
 {
-    FamilyDocument* document = m_window->session()->document(fileName, m_window->currentProject());
+    FamilyDocument* document = m_services.session->document(fileName, m_services.parts->project());
     if (!document && isMainFile(Family::fileKindOf(fileName))) {
         return openProject(fileName);
     }
     if (!document) {
-        document = m_window->session()->document(fileName, m_window->currentProject(), true);
+        document = m_services.session->document(fileName, m_services.parts->project(), true);
     }
     if (!document) {
         document = openFileOfClosedProject(fileName);
@@ -92,7 +156,7 @@ bool GameOpener::openFile(const QString& fileName)
     if (!document) {
         return tellWhyNot(fileName);
     }
-    m_window->showDocument(document);
+    m_services.jumps->showDocument(document);
     return true;
 }
 
@@ -101,10 +165,10 @@ FamilyDocument* GameOpener::openFileOfClosedProject(const QString& fileName)
     QString mainFile;
     {
         const WaitCursor cursor;
-        mainFile = m_window->session()->closedProjectOf(fileName);
+        mainFile = m_services.session->closedProjectOf(fileName);
     }
     return !mainFile.isEmpty() && openProject(mainFile)
-               ? m_window->session()->document(fileName, m_window->session()->projectOf(mainFile))
+               ? m_services.session->document(fileName, m_services.session->projectOf(mainFile))
                : nullptr;
 }
 
@@ -114,16 +178,16 @@ bool GameOpener::openProject(const QString& mainFile)
     FamilyProject* project = nullptr;
     {
         const WaitCursor cursor;
-        project = m_window->session()->openProject(mainFile, &error);
+        project = m_services.session->openProject(mainFile, &error);
     }
     if (!project) {
-        Zorv::Dialogs::instance()->error(MainWindow::tr("Open project"), error);
+        Zorv::Dialogs::instance()->error(tr("Open project"), error);
         return false;
     }
-    m_window->showDocument(project->mainDocument());
-    m_window->gameTree()->reveal(project->fileName());
+    m_services.jumps->showDocument(project->mainDocument());
+    m_tree->reveal(project->fileName());
     if (!project->loadErrors().isEmpty()) {
-        Zorv::Dialogs::instance()->warning(MainWindow::tr("Open project"),
+        Zorv::Dialogs::instance()->warning(tr("Open project"),
                                            project->loadErrors().join(QLatin1Char('\n')));
     }
     return true;
@@ -131,17 +195,15 @@ bool GameOpener::openProject(const QString& mainFile)
 
 bool GameOpener::tellWhyNot(const QString& fileName)
 {
-    const QString shown = m_window->session()->shownPath(fileName);
+    const QString shown = m_services.session->shownPath(fileName);
     if (QFileInfo::exists(fileName)) {
-        m_window->status()->showField(
-            0,
-            MainWindow::tr("%1 cannot be shown: no project names it as a code file.").arg(shown));
+        m_services.status->showField(
+            0, tr("%1 cannot be shown: no project names it as a code file.").arg(shown));
     } else {
         Zorv::Dialogs::instance()->warning(
-            MainWindow::tr("Open file"),
-            MainWindow::tr("There is no file %1. Correct the path in the main file of the "
-                           "project, or put the file there.")
-                .arg(shown));
+            tr("Open file"), tr("There is no file %1. Correct the path in the main file of the "
+                                "project, or put the file there.")
+                                 .arg(shown));
     }
     return false;
 }

@@ -2,6 +2,8 @@
 
 #include "app/look/icon.h"
 #include "app/look/language.h"
+#include "app/window/jumps.h"
+#include "app/window/windowservices.h"
 #include "family/grammar/filekind.h"
 #include "family/project/familyparentproject.h"
 
@@ -43,7 +45,7 @@ private:
 
 }  // namespace
 
-GameTree::GameTree(QWidget* parent) : QTreeView(parent)
+GameTree::GameTree(const WindowServices& services) : m_services(services)
 {
     followLanguage(this, [this] { setAccessibleName(tr("Projects and files of the game")); });
     setHeaderHidden(true);
@@ -58,7 +60,7 @@ GameTree::GameTree(QWidget* parent) : QTreeView(parent)
             [this](const QModelIndex& index) { m_expanded.remove(pathOf(index)); });
 }
 
-void GameTree::setGame(Family::FamilyParentProject* game)
+void GameTree::showGame(Family::FamilyParentProject* game)
 {
     if (m_game) {
         m_game->disconnect(this);
@@ -89,6 +91,11 @@ void GameTree::setGame(Family::FamilyParentProject* game)
             expand(game->index(j, 0, folder));
         }
     }
+}
+
+QVector<PanelPlace> GameTree::places() const
+{
+    return {PanelPlace::of(this)};
 }
 
 QString GameTree::pathOf(const QModelIndex& index) const
@@ -124,14 +131,14 @@ void GameTree::request(const QModelIndex& index)
         return;
     }
     if (!path->isDirectory()) {
-        emit fileRequested(QDir::cleanPath(pathOf(index)));
+        m_services.jumps->openFile(QDir::cleanPath(pathOf(index)));
     } else if (path->isProject() && !m_game->hasChildren(index)) {
         // The folder of a closed project shows nothing and stands for it. It is
         // opened when the double click is over, which would close it again.
         QTimer::singleShot(0, this, [this, folder = QDir(path->absolutePath())] {
             const QStringList names = folder.entryList(Family::mainFileFilters(), QDir::Files);
             for (const QString& name : names) {
-                emit fileRequested(folder.absoluteFilePath(name));
+                m_services.jumps->openFile(folder.absoluteFilePath(name));
             }
         });
     }

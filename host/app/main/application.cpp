@@ -135,7 +135,7 @@ int runWindow(QApplication&, const QStringList& arguments)
     Operations::prepareFamilyData(&dataError);
     MainWindow window;
     host.setWindow(&window);
-    WorkRecovery recovery(&window, Operations::SessionFolder::defaultRoot());
+    WorkRecovery recovery(window.services(), Operations::SessionFolder::defaultRoot());
     window.show();
     window.restoreWork(usage.game);
     recovery.offerAll();

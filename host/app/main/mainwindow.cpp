@@ -1,26 +1,24 @@
 #include "app/main/mainwindow.h"
 
 #include "app/actions/actionregistry.h"
-#include "app/actions/actiontable.h"
 #include "app/actions/shortcutguard.h"
 #include "app/actions/windowactions.h"
 #include "app/animations/animationcommands.h"
-#include "app/assets/rowlist.h"
 #include "app/assets/soundcommands.h"
 #include "app/assets/soundpanel.h"
 #include "app/assets/spritecommands.h"
-#include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
-#include "app/code/codehelp.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
 #include "app/code/documenttabs.h"
 #include "app/controls/controlplacer.h"
-#include "app/find/findbar.h"
 #include "app/game/gamecommands.h"
 #include "app/game/gameopener.h"
 #include "app/game/gametree.h"
+#include "app/game/recentmenu.h"
+#include "app/look/look.h"
 #include "app/look/plaintexts.h"
+#include "app/main/windowcommands.h"
 #include "app/main/windowstate.h"
 #include "app/messages/messagepanel.h"
 #include "app/messages/messageroom.h"
@@ -31,51 +29,62 @@
 #include "app/stage/stagecommands.h"
 #include "app/stage/stagecontroller.h"
 #include "app/stage/stageview.h"
+#include "app/window/editorregistry.h"
+#include "app/window/partlist.h"
 #include "app/window/statusfields.h"
-#include "family/assets/soundfile.h"
-#include "family/assets/spritecollection.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
-#include <zorv/code/codedoc/framecode.h>
-#include <zorv/core/dialogs/dialogs.h>
-#include <zorv/core/interface.h>
 #include <zorv/editors/code/codeeditor.h>
-#include <zorv/editors/code/codeworkspace.h>
-#include <zorv/editors/framework/editor.h>
-#include <zorv/editors/framework/workspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
 
-#include <QApplication>
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDockWidget>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTimer>
 
 namespace App {
 
 using Family::FamilyDocument;
 using Family::FamilyProject;
 
-MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), m_session(new GameSession(this)), m_centre(new QStackedWidget(this)),
-      m_hint(new QLabel), m_middle(new QSplitter(Qt::Vertical)), m_gameTree(new GameTree),
-      m_animations(new AnimationCommands(this)), m_spritePanel(new SpritePanel),
-      m_soundPanel(new SoundPanel), m_messagePanel(new MessagePanel),
-      m_status(new StatusFields(statusBar())), m_opener(new GameOpener(this)),
-      m_gameCommands(new GameCommands(this)), m_runCommands(new RunCommands(this)),
-      m_spriteCommands(new SpriteCommands(this)), m_soundCommands(new SoundCommands(this)),
-      m_actions(new WindowActions(this)), m_controls(new ControlPlacer(this, m_actions))
+namespace {
+
+struct PanelTitle
 {
-    new ShortcutGuard(this, registry());
-    new PlainTexts(this);
+    const char* name;
+    const char* title;
+};
+
+const PanelTitle panelTitles[] = {
+    {"projects", QT_TRANSLATE_NOOP("App::MainWindow", "Projects")},
+    {"sprites", QT_TRANSLATE_NOOP("App::MainWindow", "Sprites")},
+    {"sounds", QT_TRANSLATE_NOOP("App::MainWindow", "Sounds")},
+    {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
+    {"output", QT_TRANSLATE_NOOP("App::MainWindow", "Engine output")},
+};
+
+/// Qt names these buttons once, all alike, in the language of the moment.
+void nameButton(const QDockWidget* dock, const char* button, const QString& name)
+{
+    if (auto* found = dock->findChild<QAbstractButton*>(QLatin1String(button))) {
+        found->setAccessibleName(name);
+    }
+}
+
+}  // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent), m_centre(new QStackedWidget(this)), m_hint(new QLabel),
+      m_middle(new QSplitter(Qt::Vertical)), m_actions(new WindowActions(this)),
+      m_controls(new ControlPlacer(this, m_actions))
+{
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setEnabled(false);
     m_hint->setWordWrap(true);
@@ -83,72 +92,63 @@ MainWindow::MainWindow(QWidget* parent)
     m_centre->addWidget(m_middle);
     m_middle->setChildrenCollapsible(false);
     setCentralWidget(m_centre);
+
+    m_services.window = this;
+    m_services.jumps = this;
+    m_services.session = new GameSession(this);
+    m_services.status = new StatusFields(statusBar());
+    m_services.actions = m_actions->registry();
+    m_services.editors = new EditorRegistry(m_centre, m_controls, this);
+    m_services.parts = new PartList(m_services.session, m_actions, this);
+    new ShortcutGuard(this, registry());
+    new PlainTexts(this);
+
+    m_gameTree = new GameTree(m_services);
+    m_opener = new GameOpener(m_services, m_gameTree);
+    m_gameCommands = new GameCommands(m_services, m_gameTree);
+    m_runCommands = new RunCommands(m_services);
+    m_sprites = new SpriteCommands(m_services);
+    m_sounds = new SoundCommands(m_services);
+    m_messagePanel = new MessagePanel(m_services);
+    m_commands = new WindowCommands(this);
     makeDocks();
 }
 
 void MainWindow::publishTools()
 {
-    makeCode();
-    m_animations->publish();
-    makeStage();
+    m_code = new CodeView(m_services, m_middle);
+    m_animations = new AnimationCommands(m_services);
+    m_stage = new StageCommands(m_services, m_middle, m_code->editor());
     resizeDocks({findChild<QDockWidget*>(QStringLiteral("projects")),
                  findChild<QDockWidget*>(QStringLiteral("nodes"))},
                 {240, 280}, Qt::Horizontal);
+    addParts();
     connectParts();
-    connectPanels();
-    connectCode();
-    connectAssets();
-    connectStage();
+    m_services.parts->begin();
+    m_actions->place((new RecentMenu(this, this))->menuAction(), "file.open");
+    m_controls->fillMainBar();
     retranslate();
-    currentDocumentChanged(nullptr);
     WindowState::restoreShape(this);
     m_controls->updateVisibility();
 }
 
-void MainWindow::makeCode()
+/// In the order in which the keyboard goes round, and in which sections of menus are filled.
+void MainWindow::addParts()
 {
-    m_code = new CodeView(this);
-    m_middle->addWidget(m_code->widget());
-    makeCodeHelp();
-    for (const char* name : {"find", "find_next", "find_previous", "find_selection", "replace"}) {
-        m_code->findBar()->addAction(actionByName(name));
+    for (Part* part : std::initializer_list<Part*>{
+             m_opener, m_gameCommands, m_gameTree, m_services.editors, m_sprites, m_sounds, m_stage,
+             m_code, m_animations, m_messagePanel, m_runCommands, m_services.status, m_commands}) {
+        m_services.parts->add(part);
     }
-    m_code->workspace()->engineSwitched(true);
-    m_code->reconfig();
-}
-
-void MainWindow::makeCodeHelp()
-{
-    JumpServices services;
-    services.show = [this](FamilyDocument* document, int line, int column) {
-        showPlace(document, line, column, 0);
-    };
-    services.open = [this](const QString& fileName) { return openFile(fileName); };
-    services.tell = [this](const QString& text) { statusBarText(text); };
-    m_codeHelp = new CodeHelp(m_code->editor(), services);
-}
-
-void MainWindow::makeStage()
-{
-    m_stage = new StageCommands(this);
-    m_middle->insertWidget(0, m_stage->view());
 }
 
 // Views go before what they show.
 MainWindow::~MainWindow()
 {
-    m_session->disconnect(this);
-    m_stage->setDocument(nullptr);
-    m_stage->setSprites(nullptr);
-    m_status->setDocument(nullptr);
-    m_animations->setDocument(nullptr);
-    m_spritePanel->setSprites(nullptr);
-    m_soundPanel->setSounds(nullptr);
-    m_messagePanel->setMessages(nullptr);
-    m_gameTree->setGame(nullptr);
+    m_services.parts->end();
     delete m_code;
     delete m_stage;
-    delete m_session;
+    delete m_services.session;
 }
 
 void MainWindow::makeDocks()
@@ -157,8 +157,8 @@ void MainWindow::makeDocks()
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     QDockWidget* projects = addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
-    QDockWidget* sprites = addDock(m_spritePanel, "sprites", Qt::LeftDockWidgetArea);
-    tabifyDockWidget(sprites, addDock(m_soundPanel, "sounds", Qt::LeftDockWidgetArea));
+    QDockWidget* sprites = addDock(m_sprites->panel(), "sprites", Qt::LeftDockWidgetArea);
+    tabifyDockWidget(sprites, addDock(m_sounds->panel(), "sounds", Qt::LeftDockWidgetArea));
     sprites->raise();
     QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
@@ -177,74 +177,26 @@ QDockWidget* MainWindow::addDock(QWidget* widget, const char* name, Qt::DockWidg
     return dock;
 }
 
+/// What goes on between two parts, which do not know each other.
 void MainWindow::connectParts()
 {
-    connect(m_session, &GameSession::folderOpened, this, [this] {
-        m_gameTree->setGame(m_session->game());
-        updateSoon();
+    PartList* parts = m_services.parts;
+    connect(parts, &PartList::updated, this, [this] {
+        registry()->setActiveAreas(editors()->areas());
+        updateTitle();
     });
-    connect(m_session, &GameSession::folderAboutToClose, this, [this] {
-        m_gameTree->setGame(nullptr);
-        updateSoon();
-    });
-    connect(m_session, &GameSession::projectOpened, this, &MainWindow::updateMessages);
-    connect(m_session, &GameSession::projectAboutToClose, this, &MainWindow::forgetProject);
-    connect(m_gameCommands, &GameCommands::gameChanged, this, &MainWindow::gameChanged);
-    connect(m_runCommands, &RunCommands::stateChanged, this, &MainWindow::updateSoon);
-}
-
-void MainWindow::connectPanels()
-{
-    connect(m_gameTree, &GameTree::fileRequested, this, &MainWindow::openFile);
-    connect(m_animations, &AnimationCommands::lineRequested, this,
-            [this](int line, int column, int length) {
-                showPlace(tabs()->currentDocument(), line, column, length);
-            });
-    connect(m_animations, &AnimationCommands::stateChanged, this, &MainWindow::updateSoon);
-    connect(m_messagePanel, &MessagePanel::placeRequested, this,
-            [this](Zorv::CodeDocument* document, int line, int column) {
-                showPlace(document, line, column, 0);
-            });
-    connect(m_messagePanel, &MessagePanel::summaryChanged, this,
-            [this] { m_status->setProblems(m_messagePanel->summary()); });
-    connect(m_status, &StatusFields::problemsClicked, m_messagePanel, &MessagePanel::comeForward);
-}
-
-void MainWindow::connectCode()
-{
-    connect(tabs(), &DocumentTabs::currentDocumentChanged, this,
-            &MainWindow::currentDocumentChanged);
-    connect(tabs(), &DocumentTabs::closeRequested, this, &MainWindow::closeDocument);
-    connect(m_code, &CodeView::cursorMoved, this, &MainWindow::followCursor);
-    connect(m_code, &CodeView::lineChanged, this, &MainWindow::followLine);
-    connect(m_code, &CodeView::stateChanged, this, &MainWindow::updateNow);
-    connect(m_code->editor(), &Zorv::CodeEditor::markClicked, this, &MainWindow::showMessageOfLine);
-    connect(m_status, &StatusFields::encodingClicked, this, &MainWindow::changeEncoding);
-    connect(m_status, &StatusFields::placeClicked, m_code->workspace(),
-            &Zorv::CodeWorkspace::goToLine);
-}
-
-void MainWindow::connectAssets()
-{
-    for (const char* name : {"sprite_add", "sprite_replace", "sprite_export", "sprite_remove",
-                             "palette_open", "palette_save"}) {
-        m_spritePanel->list()->addAction(actionByName(name));
-    }
-    for (const char* name : {"sound_add", "sound_export", "sound_remove"}) {
-        m_soundPanel->list()->addAction(actionByName(name));
-    }
-    connect(m_spritePanel, &SpritePanel::changed, this, &MainWindow::updateSoon);
-    connect(m_soundPanel, &SoundPanel::changed, this, &MainWindow::updateSoon);
-}
-
-void MainWindow::connectStage()
-{
-    connect(m_stage, &StageCommands::stateChanged, this, &MainWindow::updateSoon);
-    connect(m_stage->controller(), &StageController::lineRequested, this, &MainWindow::followStage);
+    connect(editors(), &EditorRegistry::currentChanged, parts, &PartList::update);
+    connect(editors(), &EditorRegistry::modified, parts, &PartList::updateSoon);
+    connect(m_code->editor(), &Zorv::CodeEditor::markClicked, m_messagePanel,
+            &MessagePanel::showMessageOfLine);
+    connect(m_services.status, &StatusFields::problemsClicked, m_messagePanel,
+            &MessagePanel::comeForward);
+    connect(m_stage, &StageCommands::colourPicked, m_sprites->panel(), &SpritePanel::showColour);
     // Rows change while lines are being parsed.
+    const Zorv::OrganizerEditor* organizer = m_animations->organizer();
     connect(
-        m_animations->organizer(), &Zorv::OrganizerEditor::currentRowChanged, m_stage,
-        [this] { m_stage->controller()->showAnimation(m_animations->organizer()->currentRow()); },
+        organizer, &Zorv::OrganizerEditor::currentRowChanged, m_stage,
+        [this, organizer] { m_stage->controller()->showAnimation(organizer->currentRow()); },
         Qt::QueuedConnection);
 }
 
@@ -258,194 +210,118 @@ bool MainWindow::openFile(const QString& fileName)
     return m_opener->openFile(fileName);
 }
 
-void MainWindow::forgetProject(FamilyProject* project)
+void MainWindow::showDocument(FamilyDocument* document)
 {
-    const QList<FamilyDocument*> documents = project->documents();
-    for (const FamilyDocument* document : documents) {
-        tabs()->closeDocument(document);
-    }
-    if (m_messagePanel->messages() == project->messages()) {
-        m_messagePanel->setMessages(nullptr);
-    }
-    if (m_spritePanel->sprites() && m_spritePanel->sprites()->project() == project) {
-        m_spritePanel->setSprites(nullptr);
-        m_stage->setSprites(nullptr);
-    }
-    if (m_soundPanel->sounds() && m_soundPanel->sounds()->project() == project) {
-        m_soundPanel->setSounds(nullptr);
-    }
-    // The project itself goes after this: what is left is looked at then.
-    QMetaObject::invokeMethod(this, &MainWindow::updateMessages, Qt::QueuedConnection);
+    m_code->openText(document);
 }
 
-void MainWindow::gameChanged()
+void MainWindow::showPlace(FamilyDocument* document, int line, int column, int length)
 {
-    tabs()->updateTabs();
-    m_status->setDocument(tabs()->currentDocument());
-    updateMessages();
-    updateSoon();
+    m_code->showPlace(document, line, column, length);
 }
 
-void MainWindow::currentDocumentChanged(FamilyDocument* document)
+void MainWindow::moveCursor(int line)
 {
-    m_centre->setCurrentIndex(document ? 1 : 0);
-    m_animations->setDocument(document);
-    m_stage->setDocument(document);
-    m_status->setDocument(document);
-    updateMessages();
-    updateNow();
-    if (document) {
-        followCursor();
-        followLine(currentEdit()->textCursor().blockNumber());
-    }
+    m_code->moveCursor(line);
 }
 
-void MainWindow::followCursor()
+void MainWindow::showMiddle()
 {
-    m_animations->followCursor(m_code->editor()->textCursor().blockNumber());
-    // A jump takes the cursor through other frames, to bring its line to the middle.
-    if (!m_isFollowPending) {
-        m_isFollowPending = true;
-        QTimer::singleShot(0, this, &MainWindow::followFrame);
-    }
+    editors()->focusWorkspace();
 }
 
-/// The frame of the cursor is shown, and the sprite that its line names.
-void MainWindow::followFrame()
+bool MainWindow::mayClose(const FamilyProject* project, const std::function<void()>& then)
 {
-    m_isFollowPending = false;
-    if (const Zorv::CodeEditor* edit = currentEdit()) {
-        const int line = edit->textCursor().blockNumber();
-        m_stage->controller()->followLine(line);
-        followSprite(line);
-    }
-}
-
-/// The sprite that the line of the cursor names becomes the current one.
-void MainWindow::followSprite(int line)
-{
-    const FamilyDocument* document = tabs()->currentDocument();
-    if (m_spritePanel->visibleRegion().isEmpty() || !document || document->isCodeBeingChanged()) {
-        return;
-    }
-    const Zorv::CodeNode* node = document->nodeInBlock(document->findBlockByNumber(line));
-    if (node && node->type() == Zorv::CodeNode::Frame) {
-        const auto* frame = static_cast<const Zorv::FrameCode*>(node);
-        m_spritePanel->showSprite(frame->spriteGroup(), frame->spriteNumber());
-    }
-}
-
-/// What is done on the stage is seen in the text; the keyboard stays on the stage.
-void MainWindow::followStage(int line)
-{
-    Zorv::CodeEditor* edit = currentEdit();
-    if (edit && edit->textCursor().blockNumber() != line) {
-        edit->setTextCursor(QTextCursor(edit->document()->findBlockByNumber(line)));
-    }
-}
-
-void MainWindow::followLine(int line)
-{
-    m_messagePanel->followCursor(tabs()->currentDocument(), line);
-}
-
-void MainWindow::showMessageOfLine(int line)
-{
-    if (m_messagePanel->followCursor(tabs()->currentDocument(), line)) {
-        m_messagePanel->comeForward();
-    }
-}
-
-void MainWindow::updateMessages()
-{
-    const FamilyProject* project = currentProject();
-    m_messagePanel->setMessages(project ? project->messages() : nullptr);
-    m_status->setProblems(m_messagePanel->summary());
-    updateSoon();
+    const QList<Zorv::ProjectFile*> files = session()->modifiedFiles(project);
+    return (project || m_services.parts->mayEnd(then)) && askAboutUnsaved(files) &&
+           editors()->canDiscard(project, files);
 }
 
 void MainWindow::updateTitle()
 {
     const FamilyDocument* document = tabs()->currentDocument();
     QString text =
-        document ? m_session->shownPath(document->fileName()) + QLatin1String("[*]") : QString();
-    const QString game = QDir(m_session->folder()).dirName();
-    for (const QString& part : {m_session->game() ? game : QString(), QStringLiteral("Zorv")}) {
+        document ? session()->shownPath(document->fileName()) + QLatin1String("[*]") : QString();
+    const QString game = QDir(session()->folder()).dirName();
+    for (const QString& part : {session()->game() ? game : QString(), QStringLiteral("Zorv")}) {
         text += !text.isEmpty() && !part.isEmpty() ? QLatin1String(" - ") + part : part;
     }
     setWindowTitle(text);
     setWindowModified(document && document->isModified());
-}
-
-/// A file that is read brings thousands of rows one by one.
-void MainWindow::updateSoon()
-{
-    if (!m_isUpdatePending) {
-        m_isUpdatePending = true;
-        QTimer::singleShot(0, this, &MainWindow::updateNow);
-    }
-}
-
-void MainWindow::updateNow()
-{
-    m_isUpdatePending = false;
-    updateTitle();
-    updateHint();
-    updateAssets();
-    m_stage->updateShown();
-    updateActions();
-}
-
-/// A text can come to name another file.
-void MainWindow::updateAssets()
-{
-    const FamilyProject* project = currentProject();
-    const auto file = [project](Zorv::FileID::Type type) {
-        return project ? project->file(type) : nullptr;
-    };
-    m_spritePanel->setSprites(dynamic_cast<Family::SpriteCollection*>(file(Zorv::FileID::Sprites)));
-    m_soundPanel->setSounds(dynamic_cast<Family::SoundFile*>(file(Zorv::FileID::Sounds)));
-    m_stage->setSprites(m_spritePanel->sprites());
-}
-
-void MainWindow::updateHint()
-{
-    m_hint->setText(m_session->game() ? tr("A double click in the tree of projects shows a text.")
+    m_hint->setText(session()->game() ? tr("A double click in the tree of projects shows a text.")
                                       : tr("The menu File opens a game folder."));
 }
 
-void MainWindow::updateActions()
+void MainWindow::retranslate()
 {
-    registry()->setActiveAreas(activeAreas());
-    m_actions->update(presentNeeds());
+    for (const PanelTitle& row : panelTitles) {
+        if (auto* dock = findChild<QDockWidget*>(QLatin1String(row.name))) {
+            dock->setWindowTitle(tr(row.title));
+        }
+    }
+    m_actions->retranslate();
+    m_controls->retranslate();
+    const QList<QDockWidget*> docks = findChildren<QDockWidget*>();
+    for (const QDockWidget* dock : docks) {
+        nameButton(dock, "qt_dockwidget_closebutton",
+                   tr("Close panel %1").arg(dock->windowTitle()));
+        nameButton(dock, "qt_dockwidget_floatbutton",
+                   tr("Detach panel %1").arg(dock->windowTitle()));
+    }
+    m_services.parts->retranslate();
+    updateTitle();
 }
 
-QSet<QString> MainWindow::activeAreas() const
+/// Texts keep the colours that they were given, and their messages the language.
+void MainWindow::parseAgain()
 {
-    QSet<QString> areas;
-    if (currentEdit()) {
-        areas.insert(QStringLiteral("code"));
+    for (const FamilyProject* project : session()->projects()) {
+        const QList<FamilyDocument*> documents = project->documents();
+        for (FamilyDocument* document : documents) {
+            document->rehighlight();
+        }
     }
-    if (const Zorv::Editor* editor = Zorv::Interface::instance()->currentEditor()) {
-        const QStringList names = editor->areas();
-        areas.unite({names.begin(), names.end()});
-    }
-    return areas;
 }
 
-int MainWindow::presentNeeds() const
+void MainWindow::reconfig()
 {
-    const Zorv::CodeEditor* edit = currentEdit();
-    const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
-    return when(m_session->game(), NeedsGame) | when(currentProject(), NeedsProject) |
-           when(edit, NeedsText) | when(!m_session->modifiedFiles().isEmpty(), NeedsUnsaved) |
-           when(edit && edit->document()->isUndoAvailable(), NeedsUndo) |
-           when(edit && edit->document()->isRedoAvailable(), NeedsRedo) |
-           when(edit && edit->textCursor().hasSelection(), NeedsSelection) |
-           when(m_animations->hasCurrent(), NeedsAnimation) |
-           when(m_runCommands->isRunning(), NeedsEngine) | m_spriteCommands->presentNeeds() |
-           m_soundCommands->presentNeeds() | m_stage->presentNeeds() |
-           when(!m_runCommands->isRunning(), NeedsNoEngine);
+    applyLook();
+    m_controls->updateVisibility();
+    parseAgain();
+    m_services.parts->reconfig();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && m_code) {
+        retranslate();
+        parseAgain();
+    }
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+        showMiddle();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!mayClose(nullptr, [this] { close(); })) {
+        event->ignore();
+        return;
+    }
+    WindowState::save(this);
+    event->accept();
+}
+
+void MainWindow::restoreWork(const QString& otherwise)
+{
+    WindowState::restoreWork(this, otherwise);
 }
 
 DocumentTabs* MainWindow::tabs() const
@@ -463,18 +339,19 @@ Zorv::CodeEditor* MainWindow::currentEdit() const
     return m_code ? tabs()->currentEdit() : nullptr;
 }
 
-void MainWindow::showText()
+SpritePanel* MainWindow::spritePanel() const
 {
-    if (Zorv::CodeEditor* edit = currentEdit()) {
-        m_centre->setCurrentWidget(m_middle);
-        edit->setFocus();
-    }
+    return m_sprites->panel();
+}
+
+SoundPanel* MainWindow::soundPanel() const
+{
+    return m_sounds->panel();
 }
 
 FamilyProject* MainWindow::currentProject() const
 {
-    FamilyProject* project = m_code ? projectOf(tabs()->currentDocument()) : nullptr;
-    return project || m_session->projects().isEmpty() ? project : m_session->projects().last();
+    return m_services.parts->project();
 }
 
 QMenu* MainWindow::menuByName(const char* name) const
@@ -485,37 +362,6 @@ QMenu* MainWindow::menuByName(const char* name) const
 QAction* MainWindow::actionByName(const char* name) const
 {
     return registry()->action(QLatin1String(name));
-}
-
-ActionRegistry* MainWindow::registry() const
-{
-    return m_actions->registry();
-}
-
-void MainWindow::keyPressEvent(QKeyEvent* event)
-{
-    const bool isTextShown = m_code && m_centre->currentWidget() == m_middle;
-    if (isTextShown && event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
-        showText();
-    } else {
-        QMainWindow::keyPressEvent(event);
-    }
-}
-
-void MainWindow::closeEvent(QCloseEvent* event)
-{
-    if (!m_runCommands->mayClose([this] { close(); }) ||
-        !askAboutUnsaved(m_session->modifiedFiles())) {
-        event->ignore();
-        return;
-    }
-    WindowState::save(this);
-    event->accept();
-}
-
-void MainWindow::restoreWork(const QString& otherwise)
-{
-    WindowState::restoreWork(this, otherwise);
 }
 
 }  // namespace App

@@ -1,21 +1,18 @@
 #include "app/main/windowinterface.h"
 
-#include "app/animations/animationcommands.h"
 #include "app/code/codetexteditor.h"
-#include "app/code/codeview.h"
 #include "app/controls/controlplacer.h"
 #include "app/dialogs/progressdialog.h"
 #include "app/game/gamecommands.h"
 #include "app/look/theme.h"
 #include "app/main/mainwindow.h"
 #include "app/session/gamesession.h"
+#include "app/window/editorregistry.h"
 #include "app/window/statusfields.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
 #include <zorv/core/dialogs/dialogs.h>
-#include <zorv/editors/code/codeworkspace.h>
-#include <zorv/editors/organizer/organizereditor.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -135,46 +132,47 @@ void WindowInterface::setMenuEnabled(const char* menu, const char* group, bool e
 
 Zorv::ExtraEditor* WindowInterface::extraEditor(unsigned index) const
 {
-    return m_window && index == 0 ? m_window->animations()->organizer() : nullptr;
+    return m_window ? m_window->editors()->panel(int(index)) : nullptr;
 }
 
 Zorv::Editor* WindowInterface::currentEditor() const
 {
-    return m_window && m_window->currentEdit() ? m_window->textEditor() : nullptr;
+    return m_window ? m_window->editors()->current() : nullptr;
 }
 
 Zorv::Editor* WindowInterface::editorByName(const char* name) const
 {
-    Zorv::Editor* editor = m_window ? m_window->textEditor() : nullptr;
-    return editor && editor->name() == QLatin1String(name) ? editor : nullptr;
+    return m_window ? m_window->editors()->byName(QLatin1String(name)) : nullptr;
 }
 
-Zorv::Editor* WindowInterface::fileEditor(Zorv::ProjectFile* file, Zorv::FileID) const
+Zorv::Editor* WindowInterface::fileEditor(Zorv::ProjectFile* file, Zorv::FileID id) const
 {
+    Zorv::Editor* editor = m_window && file ? m_window->editors()->forFile(id) : nullptr;
     auto* document = dynamic_cast<Family::FamilyDocument*>(file);
-    if (!m_window || !document) {
-        return nullptr;
+    if (document && editor == m_window->textEditor()) {
+        m_window->showDocument(document);
     }
-    m_window->showDocument(document);
-    return m_window->textEditor();
+    return editor;
 }
 
 void WindowInterface::activateEditor(Zorv::Editor* editor)
 {
-    if (!m_window || !editor || editor != m_window->textEditor()) {
-        return;
-    }
-    if (!editor->isActive() && m_window->currentEdit()) {
-        editor->activate();
-    } else {
-        m_window->showText();
+    if (m_window) {
+        m_window->editors()->activate(editor);
     }
 }
 
 void WindowInterface::showWorkspace(Zorv::Workspace* workspace)
 {
-    if (m_window && workspace == m_window->code()->workspace()) {
-        m_window->showText();
+    if (m_window) {
+        m_window->editors()->showWorkspace(workspace);
+    }
+}
+
+void WindowInterface::showExtraEditor(Zorv::ExtraEditor* editor)
+{
+    if (m_window) {
+        m_window->editors()->showPanel(editor);
     }
 }
 

@@ -8,7 +8,8 @@ namespace App {
 
 class MainWindow;
 
-/// The host's side of the library with a window. The one editor is that of texts.
+/// The host's side of the library with a window. Editors, workspaces and panels are those of the
+/// window's registry (`EditorRegistry`).
 class WindowInterface : public Operations::HostInterface
 {
 public:
@@ -20,14 +21,17 @@ public:
     QWidget* mainWindow() const override;
     Zorv::ProgressReporter* progress(const QString& title, int style) override;
 
-    /// Null while no text is in front.
+    /// Null while no editor is in front.
     Zorv::Editor* currentEditor() const override;
+
+    /// Also by the name of an area: "sprites" for the editor "spr".
     Zorv::Editor* editorByName(const char* name) const override;
 
-    /// That of texts, with the file in front; null for a file of another kind.
+    /// A text that its editor is asked for comes to the front.
     Zorv::Editor* fileEditor(Zorv::ProjectFile* file, Zorv::FileID id) const override;
     void activateEditor(Zorv::Editor* editor) override;
     void showWorkspace(Zorv::Workspace* workspace) override;
+    void showExtraEditor(Zorv::ExtraEditor* editor) override;
     bool watchesFiles() const override { return true; }
     unsigned projectCount() const override;
     Zorv::Project* projectAt(unsigned index) const override;
@@ -58,7 +62,6 @@ public:
                           const char* checkSignal) override;
     QAction* createEditorAction(const QString& name, Zorv::Translator* translator,
                                 unsigned textId) override;
-    /// 0 is the organizer; there are no others.
     Zorv::ExtraEditor* extraEditor(unsigned index) const override;
     void setMenuEnabled(const char* menu, const char* group, bool enabled) override;
 

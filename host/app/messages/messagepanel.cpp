@@ -1,7 +1,12 @@
 #include "app/messages/messagepanel.h"
 
 #include "app/look/language.h"
-#include "app/window/panelplace.h"
+#include "app/window/jumps.h"
+#include "app/window/partlist.h"
+#include "app/window/statusfields.h"
+#include "app/window/windowservices.h"
+#include "family/familydocument.h"
+#include "family/project/familyproject.h"
 
 #include <zorv/code/codedoc/codedocument.h>
 #include <zorv/core/messagelist.h>
@@ -18,7 +23,7 @@ namespace App {
 using Zorv::Message;
 using Zorv::Messages;
 
-MessagePanel::MessagePanel(QWidget* parent) : QListView(parent)
+MessagePanel::MessagePanel(const WindowServices& services) : m_services(services)
 {
     followLanguage(this, [this] {
         setAccessibleName(tr("Messages of the project"));
@@ -27,6 +32,8 @@ MessagePanel::MessagePanel(QWidget* parent) : QListView(parent)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setUniformItemSizes(true);
     connect(this, &QListView::activated, this, &MessagePanel::request);
+    connect(this, &MessagePanel::summaryChanged, services.status,
+            [this] { m_services.status->setProblems(summary()); });
 }
 
 void MessagePanel::setMessages(Zorv::MessageList* messages)
@@ -80,7 +87,7 @@ void MessagePanel::showMessagesOf(const Zorv::CodeDocument* document)
     }
 }
 
-bool MessagePanel::followCursor(const Zorv::CodeDocument* document, int line)
+bool MessagePanel::goToMessage(const Zorv::CodeDocument* document, int line)
 {
     const Messages* messages = document ? document->messages() : nullptr;
     const int first = messages ? firstRowOf(messages) : -1;
@@ -94,6 +101,28 @@ bool MessagePanel::followCursor(const Zorv::CodeDocument* document, int line)
     }
     scrollTo(currentIndex());
     return true;
+}
+
+void MessagePanel::showProject(Family::FamilyProject* project)
+{
+    setMessages(project ? project->messages() : nullptr);
+}
+
+void MessagePanel::followLine(int line)
+{
+    goToMessage(m_services.parts->document(), line);
+}
+
+void MessagePanel::showMessageOfLine(int line)
+{
+    if (goToMessage(m_services.parts->document(), line)) {
+        comeForward();
+    }
+}
+
+QVector<PanelPlace> MessagePanel::places() const
+{
+    return {PanelPlace::of(this)};
 }
 
 void MessagePanel::comeForward()
@@ -160,10 +189,10 @@ void MessagePanel::request(const QModelIndex& index)
 {
     int place = 0;
     const Messages* messages = m_list ? m_list->messagesAt(index.row(), &place) : nullptr;
-    auto* document = messages ? dynamic_cast<Zorv::CodeDocument*>(messages->file()) : nullptr;
+    auto* document = messages ? dynamic_cast<Family::FamilyDocument*>(messages->file()) : nullptr;
     if (document) {
         const Message message = messages->at(place);
-        emit placeRequested(document, message.line, message.column);
+        m_services.jumps->showPlace(document, message.line, message.column, 0);
     }
 }
 

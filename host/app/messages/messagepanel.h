@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/window/part.h"
+
 #include <QListView>
 #include <QPointer>
 
@@ -11,14 +13,16 @@ class Messages;
 
 namespace App {
 
+struct WindowServices;
+
 /// The messages of one project. The row that the person is at stays current,
 /// though every edit announces all rows anew.
-class MessagePanel : public QListView
+class MessagePanel : public QListView, public Part
 {
     Q_OBJECT
 
 public:
-    explicit MessagePanel(QWidget* parent = nullptr);
+    explicit MessagePanel(const WindowServices& services);
 
     /// Null for none; a list that dies is let go of.
     void setMessages(Zorv::MessageList* messages);
@@ -29,7 +33,10 @@ public:
 
     /// Makes the first message of a line of a file the current row, unless that is of this
     /// line already. False if the line has none, and nothing changes.
-    bool followCursor(const Zorv::CodeDocument* document, int line);
+    bool goToMessage(const Zorv::CodeDocument* document, int line);
+
+    /// Leads to the message of a line of the text in front.
+    void showMessageOfLine(int line);
 
     /// Shows the panel and gives it the keyboard.
     void comeForward();
@@ -37,13 +44,14 @@ public:
     /// "3 errors, 1 warning"; empty while there is no list.
     QString summary() const;
 
+    void showProject(Family::FamilyProject* project) override;
+    void followLine(int line) override;
+    QVector<PanelPlace> places() const override;
+
     /// One line: all that an empty list needs.
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The person wants to see a place of a file, counted from 0.
-    void placeRequested(Zorv::CodeDocument* document, int line, int column);
-
     /// The numbers of messages may have changed.
     void summaryChanged();
 
@@ -59,6 +67,7 @@ private:
     void beginUpdate();
     void endUpdate();
 
+    const WindowServices& m_services;
     QPointer<Zorv::MessageList> m_list;
     Zorv::Messages* m_currentFile = nullptr;  ///< compared, not followed
     int m_currentLine = -1;

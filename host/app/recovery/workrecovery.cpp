@@ -1,10 +1,11 @@
 #include "app/recovery/workrecovery.h"
 
-#include "app/code/documenttabs.h"
-#include "app/main/mainwindow.h"
 #include "app/recovery/recoverydialog.h"
 #include "app/session/gamesession.h"
+#include "app/window/jumps.h"
+#include "app/window/partlist.h"
 #include "app/window/statusfields.h"
+#include "app/window/windowservices.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "operations/recovery/abandonedwork.h"
@@ -51,23 +52,23 @@ Zorv::ProjectFile* assetsOf(FamilyProject* project, Zorv::FileID::Type type,
 
 }  // namespace
 
-WorkRecovery::WorkRecovery(MainWindow* window, const QString& root)
-    : m_window(window), m_keeper(new Operations::RecoveryKeeper(root, this)), m_root(root)
+WorkRecovery::WorkRecovery(const WindowServices& services, const QString& root)
+    : m_services(services), m_keeper(new Operations::RecoveryKeeper(root, this)), m_root(root)
 {
-    const GameSession* session = window->session();
+    const GameSession* session = services.session;
     connect(session, &GameSession::projectOpened, this, &WorkRecovery::watchAll);
     connect(session, &GameSession::folderOpened, this, [this] {
         m_isOfferPending = m_offers == 0;
         QTimer::singleShot(0, this, &WorkRecovery::offerForGame);
     });
-    connect(m_keeper, &Operations::RecoveryKeeper::failed, window->status(),
-            [window](const QString& reason) { window->status()->showField(0, reason); });
+    connect(m_keeper, &Operations::RecoveryKeeper::failed, services.status,
+            [status = services.status](const QString& reason) { status->showField(0, reason); });
     watchAll();
 }
 
 void WorkRecovery::watchAll()
 {
-    for (const FamilyProject* project : m_window->session()->projects()) {
+    for (const FamilyProject* project : m_services.session->projects()) {
         connect(project, &FamilyProject::filesChanged, this, &WorkRecovery::watchAll,
                 Qt::UniqueConnection);
         const QList<Zorv::ProjectFile*> files = project->files();
@@ -84,8 +85,8 @@ void WorkRecovery::offerAll()
 
 void WorkRecovery::offerForGame()
 {
-    if (m_isOfferPending && m_window->session()->game()) {
-        offer(m_window->session()->folder());
+    if (m_isOfferPending && m_services.session->game()) {
+        offer(m_services.session->folder());
     }
 }
 
@@ -100,7 +101,7 @@ void WorkRecovery::offer(const QString& gameFolder)
     if (found.all().isEmpty()) {
         return;
     }
-    RecoveryDialog dialog(m_window, found.all());
+    RecoveryDialog dialog(m_services.window, found.all());
     dialog.exec();
     const QVector<RecoveryDialog::Decision> decisions = dialog.decisions();
     QList<AbandonedWork> restored;
@@ -120,11 +121,12 @@ void WorkRecovery::offer(const QString& gameFolder)
 /// first. True if a game is open then.
 bool WorkRecovery::openGame(const QList<AbandonedWork>& works)
 {
-    const QString open = m_window->session()->folder();
+    const QString open = m_services.session->folder();
     const bool isOfOpen = std::any_of(works.begin(), works.end(), [&open](const auto& work) {
         return work.copy.gameFolder == open;
     });
-    return (isOfOpen && !open.isEmpty()) || m_window->openPath(works.first().copy.gameFolder);
+    return (isOfOpen && !open.isEmpty()) ||
+           m_services.jumps->openPath(works.first().copy.gameFolder);
 }
 
 void WorkRecovery::restore(const QList<AbandonedWork>& works)
@@ -170,16 +172,16 @@ void WorkRecovery::show(Zorv::ProjectFile* file)
 {
     auto* document = dynamic_cast<FamilyDocument*>(file);
     if (document) {
-        m_window->showDocument(document);
-    } else if (m_window->currentProject() != file->project() ||
-               !m_window->tabs()->currentDocument()) {
-        m_window->showDocument(static_cast<FamilyProject*>(file->project())->mainDocument());
+        m_services.jumps->showDocument(document);
+    } else if (m_services.parts->project() != file->project() || !m_services.parts->document()) {
+        m_services.jumps->showDocument(
+            static_cast<FamilyProject*>(file->project())->mainDocument());
     }
 }
 
 Zorv::ProjectFile* WorkRecovery::fileOf(const AbandonedWork& work, QString* error)
 {
-    GameSession* session = m_window->session();
+    GameSession* session = m_services.session;
     const Operations::RecoveryCopy& copy = work.copy;
     const QString shown = QDir::toNativeSeparators(copy.fileName);
     if (copy.gameFolder != session->folder()) {

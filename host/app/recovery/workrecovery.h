@@ -14,7 +14,7 @@ class ProjectFile;
 
 namespace App {
 
-class MainWindow;
+struct WindowServices;
 
 /// Keeps the unsaved texts, sprites and sounds of a window safe, and offers those that a process
 /// that is gone has left: at the start, and for a game when it is opened.
@@ -24,7 +24,7 @@ class WorkRecovery : public QObject
 
 public:
     /// Copies are below `root`. The window must outlive the object.
-    WorkRecovery(MainWindow* window, const QString& root);
+    WorkRecovery(const WindowServices& services, const QString& root);
 
     Operations::RecoveryKeeper* keeper() const { return m_keeper; }
 
@@ -41,7 +41,7 @@ private:
     Zorv::ProjectFile* bringBack(const Operations::AbandonedWork& work, QString* error);
     void show(Zorv::ProjectFile* file);
 
-    MainWindow* m_window;
+    const WindowServices& m_services;
     Operations::RecoveryKeeper* m_keeper;
     QString m_root;
     bool m_isOfferPending = false;

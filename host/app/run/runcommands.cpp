@@ -1,9 +1,10 @@
 #include "app/run/runcommands.h"
 
-#include "app/main/mainwindow.h"
 #include "app/run/outputpanel.h"
 #include "app/run/outputtext.h"
 #include "app/session/gamesession.h"
+#include "app/window/partlist.h"
+#include "app/window/windowservices.h"
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/gameprogram.h"
@@ -87,30 +88,51 @@ Dialogs::Button askToStart(const QString& program, Operations::Agreement agreeme
 
 }  // namespace
 
-RunCommands::RunCommands(MainWindow* window)
-    : QObject(window), m_window(window), m_panel(new OutputPanel)
+RunCommands::RunCommands(const WindowServices& services)
+    : QObject(services.window), m_services(services), m_panel(new OutputPanel)
 {
-    connect(window->session(), &GameSession::folderOpened, this, &RunCommands::followGame);
-    connect(window, &MainWindow::reconfigured, m_panel, &OutputPanel::reconfig);
 }
 
-void RunCommands::followGame()
+QVector<ActionRow> RunCommands::actions()
+{
+    const Members<RunCommands> on(this);
+    // clang-format off
+    return {
+        {"run",         "tools.run", QT_TRANSLATE_NOOP("App::Actions", "R&un in engine"),  "F5",       on(&RunCommands::run),  on(&RunCommands::canRun)},
+        {"stop_engine", "tools.run", QT_TRANSLATE_NOOP("App::Actions", "&End the engine"), "Shift+F5", on(&RunCommands::stop), on(&RunCommands::isRunning), nullptr, ActionRow::Button, "stop"},
+    };
+    // clang-format on
+}
+
+bool RunCommands::canRun() const
+{
+    return m_services.parts->project() && !isRunning();
+}
+
+void RunCommands::reconfig()
+{
+    m_panel->reconfig();
+}
+
+void RunCommands::showGame(Family::FamilyParentProject* game)
 {
     using Zorv::ParentProject;
-    const ParentProject* game = m_window->session()->game();
+    if (!game) {
+        return;
+    }
     connect(game, &ParentProject::engineStarted, this,
             [this](const QString& program, const QStringList& arguments) {
                 m_panel->addNote(
                     tr("Started: %1").arg((QStringList{program} + arguments).join(' ')));
                 m_panel->parentWidget()->show();
-                emit stateChanged();
+                m_services.parts->updateSoon();
             });
     connect(game, &ParentProject::engineOutput, m_panel, &OutputPanel::add);
 }
 
 void RunCommands::run()
 {
-    const QPointer<Family::FamilyParentProject> game = m_window->session()->game();
+    const QPointer<Family::FamilyParentProject> game = m_services.session->game();
     if (!game) {
         return;
     }
@@ -120,7 +142,7 @@ void RunCommands::run()
         return;
     }
     ++m_runs;
-    emit stateChanged();
+    m_services.parts->updateSoon();
     {
         const Operations::NamedProgram named(program);
         // Everything may have been closed when this comes back.
@@ -134,7 +156,7 @@ void RunCommands::run()
         noteEnd(game->runResult());
         tell(game->runResult());
     }
-    emit stateChanged();
+    m_services.parts->updateSoon();
     if (m_runs == 0 && m_then) {
         QTimer::singleShot(0, this, std::exchange(m_then, nullptr));
     }
@@ -144,7 +166,7 @@ void RunCommands::run()
 /// there is nothing else to be started.
 bool RunCommands::settleProgram(Family::GameProgram* program) const
 {
-    const Family::GameProgram found(m_window->session()->folder());
+    const Family::GameProgram found(m_services.session->folder());
     const auto* host = dynamic_cast<Operations::HostInterface*>(Zorv::Interface::instance());
     if (!found.isThere() || !host || !host->settings()) {
         return true;
@@ -169,12 +191,12 @@ bool RunCommands::settleProgram(Family::GameProgram* program) const
 
 void RunCommands::stop()
 {
-    if (Family::FamilyParentProject* game = m_window->session()->game()) {
+    if (Family::FamilyParentProject* game = m_services.session->game()) {
         game->stopEngine();
     }
 }
 
-bool RunCommands::mayClose(const std::function<void()>& then)
+bool RunCommands::mayEnd(const std::function<void()>& then)
 {
     if (!isRunning()) {
         return true;

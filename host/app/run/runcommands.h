@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/window/part.h"
+
 #include <QObject>
 
 #include <functional>
@@ -14,17 +16,17 @@ struct RunResult;
 
 namespace App {
 
-class MainWindow;
 class OutputPanel;
+struct WindowServices;
 
 /// Starts the engine on the work in progress, shows what it prints, and ends it.
-class RunCommands : public QObject
+class RunCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
     /// Lives as a child of the window.
-    explicit RunCommands(MainWindow* window);
+    explicit RunCommands(const WindowServices& services);
 
     OutputPanel* panel() const { return m_panel; }
 
@@ -36,23 +38,23 @@ public:
 
     bool isRunning() const { return m_runs > 0; }
 
-    /// True if what is open may be closed: no engine runs on it. Else asks whether
-    /// the engine is to be ended, and is false; `then` is called when it has ended.
-    bool mayClose(const std::function<void()>& then);
+    QVector<ActionRow> actions() override;
+    void showGame(Family::FamilyParentProject* game) override;
+    void reconfig() override;
+
+    /// Asks whether a running engine is to be ended.
+    bool mayEnd(const std::function<void()>& then) override;
 
     /// Offers to remove the temporary copies that a process that is gone has left.
     static void offerLeftovers();
 
-signals:
-    void stateChanged();
-
 private:
-    void followGame();
+    bool canRun() const;
     bool settleProgram(Family::GameProgram* program) const;
     void tell(const Zorv::RunResult& result);
     void noteEnd(const Zorv::RunResult& result);
 
-    MainWindow* m_window;
+    const WindowServices& m_services;
     OutputPanel* m_panel;
     int m_runs = 0;
     std::function<void()> m_then;

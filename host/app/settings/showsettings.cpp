@@ -1,17 +1,16 @@
 #include "app/settings/showsettings.h"
 
-#include "app/main/mainwindow.h"
 #include "app/settings/settingsdialog.h"
 
 namespace App {
 
-void showSettings(MainWindow& window)
+void showSettings(ActionRegistry* registry, QWidget* window, const std::function<void()>& applied)
 {
-    auto* dialog = window.findChild<SettingsDialog*>();
+    auto* dialog = window->findChild<SettingsDialog*>();
     if (!dialog) {
-        dialog = new SettingsDialog(window.registry(), &window);
+        dialog = new SettingsDialog(registry, window);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
-        QObject::connect(dialog, &SettingsDialog::applied, &window, &MainWindow::reconfig);
+        QObject::connect(dialog, &SettingsDialog::applied, window, applied);
         dialog->open();
     }
     dialog->raise();

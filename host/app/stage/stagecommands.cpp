@@ -1,11 +1,8 @@
 #include "app/stage/stagecommands.h"
 
-#include "app/actions/actiontable.h"
-#include "app/assets/spritepanel.h"
-#include "app/code/codeview.h"
+#include "app/actions/actionregistry.h"
 #include "app/look/icon.h"
 #include "app/look/language.h"
-#include "app/main/mainwindow.h"
 #include "app/session/gamesession.h"
 #include "app/stage/onioncontrols.h"
 #include "app/stage/stagecontroller.h"
@@ -13,7 +10,11 @@
 #include "app/stage/stageroom.h"
 #include "app/stage/stagesettings.h"
 #include "app/stage/stageview.h"
+#include "app/window/jumps.h"
+#include "app/window/partlist.h"
 #include "app/window/statusfields.h"
+#include "app/window/windowservices.h"
+#include "family/assets/spritecollection.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodepath.h"
@@ -30,6 +31,7 @@
 #include <QEvent>
 #include <QLocale>
 #include <QMenu>
+#include <QSplitter>
 #include <QToolBar>
 #include <QToolButton>
 #include <QWidgetAction>
@@ -115,28 +117,68 @@ QSize screenOf(const Family::FamilyProject* project)
 
 }  // namespace
 
-StageCommands::StageCommands(MainWindow* window)
-    : QObject(window), m_window(window), m_view(new StageView),
+StageCommands::StageCommands(const WindowServices& services, QSplitter* page,
+                             Zorv::CodeEditor* text)
+    : QObject(services.window), m_services(services), m_view(new StageView),
       m_controller(new StageController(m_view->renderer(), m_view->timeLine(), this)),
       m_settings(std::make_unique<StageSettings>(m_view->renderer())),
-      m_room(new StageRoom(window->middle(), m_view, window->code()->editor(), this)),
-      m_onion(new OnionControls), m_modes(new QActionGroup(this))
+      m_room(new StageRoom(page, m_view, text, this)), m_onion(new OnionControls),
+      m_modes(new QActionGroup(this))
+{
+    page->insertWidget(0, m_view);
+    services.window->installEventFilter(this);
+}
+
+StageCommands::~StageCommands() = default;
+
+QVector<ActionRow> StageCommands::actions()
+{
+    const Members<StageCommands> on(this);
+    const auto hasFrame = on(&StageCommands::hasFrame);
+    const auto hasShownFrame = on(&StageCommands::hasShownFrame);
+    const auto takeMode = on(&StageCommands::takeMode);
+    const auto takeVisibility = on(&StageCommands::takeVisibility);
+    const std::function<bool()> always;
+    const auto isSwitch = ActionRow::Switch;
+    // clang-format off
+    return {
+        {"anim_play",              "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Play"),                  "F9",           on(&StageCommands::play),              hasFrame, nullptr, isSwitch},
+        {"anim_stop",              "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Stop"),                  "Shift+F9",     on(&StageCommands::stop),              hasFrame, nullptr, isSwitch},
+        {"anim_prev_frame",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "Pre&vious frame"),        "Alt+PgUp",     on(&StageCommands::showPreviousFrame), hasFrame},
+        {"anim_next_frame",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Next frame"),            "Alt+PgDown",   on(&StageCommands::showNextFrame),     hasFrame},
+        {"anim_onion_skin",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Onion skin"),            "Ctrl+Shift+O", on(&StageCommands::takeOnionSkin),     hasFrame, nullptr, isSwitch},
+        {"anim_box_add_attack",    "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw a&ttack boxes"),     "Ctrl+1",       takeMode,                              hasShownFrame, nullptr, isSwitch},
+        {"anim_box_add_collision", "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw &body boxes"),       "Ctrl+2",       takeMode,                              hasShownFrame, nullptr, isSwitch},
+        {"anim_box_del",           "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Remove se&lected boxes"), {},             on(&StageCommands::removeBoxes),       on(&StageCommands::hasBox)},
+        {"stage_capture",          "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Pick &colour"),           "Ctrl+Shift+K", takeMode,                              hasShownFrame, nullptr, isSwitch},
+
+        {"view_stage",             "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Sta&ge"),                 "F7",           on(&StageCommands::showStage),         always, nullptr, isSwitch},
+        {"view_center_origin",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Centre the &origin"),     {},             on(&StageCommands::centerOrigin),      on(&StageCommands::isShown)},
+        {"view_main_cross",        "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Ax&is of the animation"), {},             takeVisibility,                        always, nullptr, isSwitch},
+        {"view_secondary_cross",   "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Axis of the spri&te"),    {},             takeVisibility,                        always, nullptr, isSwitch},
+        {"view_extra_cross",       "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Extr&a cross"),           {},             takeVisibility,                        always, nullptr, isSwitch},
+        {"view_rulers",            "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Rulers"),                {},             takeVisibility,                        always, nullptr, isSwitch},
+        {"view_guide_lines",       "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Gui&des"),                {},             takeVisibility,                        always, nullptr, isSwitch},
+        {"view_attack_box",        "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Attac&k boxes"),          {},             takeVisibility,                        always, nullptr, isSwitch},
+        {"view_collision_box",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Body boxes"),            {},             takeVisibility,                        always, nullptr, isSwitch},
+    };
+    // clang-format on
+}
+
+void StageCommands::actionsMade()
 {
     setUpModes();
     setUpSwitches();
     fillBar();
     connectStage();
     m_settings->apply({});
-    window->installEventFilter(this);
-    followLanguage(this, [this] { retranslate(); });
+    followLanguage(this, [this] { giveTexts(); });
 }
-
-StageCommands::~StageCommands() = default;
 
 void StageCommands::connectStage()
 {
     const StageRenderer* stage = m_view->renderer();
-    StatusFields* status = m_window->status();
+    StatusFields* status = m_services.status;
     connect(m_view, &StageView::placed, this, [this](QSize size) {
         m_isPlaced = true;
         const StageSettings::Place place = m_settings->restorePlace(size, shownFile());
@@ -155,6 +197,8 @@ void StageCommands::connectStage()
     connect(stage, &StageRenderer::playKeyPressed, this,
             [this] { m_controller->isPlaying() ? stop() : play(); });
     connect(m_controller, &StageController::stateChanged, this, &StageCommands::followState);
+    connect(m_controller, &StageController::lineRequested, this,
+            [this](int line) { m_services.jumps->moveCursor(line); });
     connect(m_onion, &OnionControls::changed, this, &StageCommands::followOnion);
     connect(m_onion, &OnionControls::switched, action("anim_onion_skin"), &QAction::setChecked);
 }
@@ -207,7 +251,7 @@ void StageCommands::addZoomButtons()
     }
 }
 
-void StageCommands::retranslate()
+void StageCommands::giveTexts()
 {
     for (const auto& row : zoomButtons) {
         auto* button = m_view->bar()->findChild<QToolButton*>(QLatin1String(row.name));
@@ -217,44 +261,76 @@ void StageCommands::retranslate()
     followState();
 }
 
-void StageCommands::setDocument(FamilyDocument* document)
+void StageCommands::showDocument(FamilyDocument* document)
 {
     m_document = document;
     m_controller->setDocument(document);
     if (document) {
         m_settings->apply(screenOf(projectOf(document)));
     }
-    updateShown();
+    updateState();
     followState();
 }
 
-void StageCommands::setSprites(Family::SpriteCollection* sprites)
+/// A text can come to name another file.
+void StageCommands::showProject(Family::FamilyProject* project)
 {
-    m_controller->setSprites(sprites);
+    m_controller->setSprites(dynamic_cast<Family::SpriteCollection*>(
+        project ? project->file(Zorv::FileID::Sprites) : nullptr));
 }
 
-void StageCommands::updateShown()
+void StageCommands::followRest(int line)
 {
-    const bool isShown = action("view_stage")->isChecked() && hasAnimations(m_document);
-    if (m_view->isHidden() == isShown) {
-        m_view->setVisible(isShown);
+    m_controller->followLine(line);
+}
+
+QVector<PanelPlace> StageCommands::places() const
+{
+    return {{m_view->focusTarget(), m_view}};
+}
+
+void StageCommands::updateState()
+{
+    const bool isWanted = action("view_stage")->isChecked() && hasAnimations(m_document);
+    if (m_view->isHidden() == isWanted) {
+        m_view->setVisible(isWanted);
         m_controller->breakOff();
         takeRoom();
     }
 }
 
-int StageCommands::presentNeeds() const
+StageCommands::Conditions StageCommands::conditions() const
 {
-    const auto when = [](bool condition, Need need) { return condition ? int(need) : 0; };
-    const bool isShown = m_view->isUsable() && !m_view->isHidden() && !m_view->isEmpty();
-    const bool hasFrame = m_controller->frameIndex() >= 0;
-    return when(hasFrame, NeedsFrame) | when(hasFrame && isShown, NeedsStageFrame) |
-           when(isShown, NeedsStage) | when(m_controller->hasSelectedBoxes(), NeedsBox);
+    Conditions met;
+    met.setFlag(Frame, hasFrame());
+    met.setFlag(Shown, isShown());
+    met.setFlag(Box, hasBox());
+    return met;
+}
+
+bool StageCommands::hasFrame() const
+{
+    return m_controller->frameIndex() >= 0;
+}
+
+bool StageCommands::isShown() const
+{
+    return m_view->isUsable() && !m_view->isHidden() && !m_view->isEmpty();
+}
+
+bool StageCommands::hasShownFrame() const
+{
+    return hasFrame() && isShown();
+}
+
+bool StageCommands::hasBox() const
+{
+    return m_controller->hasSelectedBoxes();
 }
 
 void StageCommands::reconfig()
 {
-    m_settings->apply(screenOf(m_window->currentProject()));
+    m_settings->apply(screenOf(m_services.parts->project()));
     m_onion->reconfig();
 }
 
@@ -269,7 +345,7 @@ void StageCommands::keepPlace() const
 void StageCommands::showStage()
 {
     Zorv::Interface::instance()->setOption(ShownKey, action("view_stage")->isChecked());
-    updateShown();
+    updateState();
 }
 
 void StageCommands::play()
@@ -324,7 +400,7 @@ void StageCommands::leaveMode()
 
 void StageCommands::leaveModeOrStage(bool isFree)
 {
-    isFree ? m_window->showText() : leaveMode();
+    isFree ? m_services.jumps->showMiddle() : leaveMode();
 }
 
 void StageCommands::removeBoxes()
@@ -390,10 +466,8 @@ void StageCommands::colorCaptured()
     const int color = Family::FrameComposer::colorAt(
         sprite->image(), m_controller->pose(), stage->zoom(), stage->pointer() - stage->origin());
     if (color >= 0) {
-        SpritePanel* panel = m_window->spritePanel();
-        panel->showSprite(frame->spriteGroup(), frame->spriteNumber());
-        panel->markColour(color);
-        m_window->status()->showPassing(tr("Colour %1 of the palette").arg(color));
+        emit colourPicked(frame->spriteGroup(), frame->spriteNumber(), color);
+        m_services.status->showPassing(tr("Colour %1 of the palette").arg(color));
     }
 }
 
@@ -406,10 +480,9 @@ void StageCommands::followState()
     takeRoom();
     m_view->setInfo(info());
     followOnion();
-    const int needs = presentNeeds();
-    if (needs != m_needs) {
-        m_needs = needs;
-        emit stateChanged();
+    if (m_conditions != conditions()) {
+        m_conditions = conditions();
+        m_services.parts->updateSoon();
     }
 }
 
@@ -480,7 +553,7 @@ bool StageCommands::eventFilter(QObject* watched, QEvent* event)
 
 QAction* StageCommands::action(const char* name) const
 {
-    return m_window->actionByName(name);
+    return m_services.actions->action(QLatin1String(name));
 }
 
 }  // namespace App

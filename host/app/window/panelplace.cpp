@@ -8,7 +8,7 @@
 
 namespace App {
 
-PanelPlace PanelPlace::inside(QWidget* bar)
+PanelPlace PanelPlace::inside(const QWidget* bar)
 {
     const QList<QComboBox*> fields = bar->findChildren<QComboBox*>();
     const auto found = std::find_if(fields.begin(), fields.end(),

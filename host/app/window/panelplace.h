@@ -12,10 +12,10 @@ struct PanelPlace
     QWidget* field;       ///< takes the keyboard; null for a place that is not there
     const QWidget* area;  ///< with the keyboard in here the person is at this place
 
-    static PanelPlace of(QWidget* panel) { return {panel, panel}; }
+    static PanelPlace of(const QWidget* panel) { return {const_cast<QWidget*>(panel), panel}; }
 
     /// A bar, by the first of its fields that can be used.
-    static PanelPlace inside(QWidget* bar);
+    static PanelPlace inside(const QWidget* bar);
 };
 
 /// Leads from where the keyboard is to the next of the places that are shown, round and round;

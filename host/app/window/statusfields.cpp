@@ -54,7 +54,7 @@ StatusFields::StatusFields(QStatusBar* bar)
     connect(m_place, &QToolButton::clicked, this, &StatusFields::placeClicked);
     connect(m_watcher, &QFileSystemWatcher::directoryChanged, this, &StatusFields::updateFile);
     setStagePlace({});
-    setDocument(nullptr);
+    StatusFields::showDocument(nullptr);
     followLanguage(this, [this] { retranslate(); });
 }
 
@@ -79,7 +79,7 @@ void StatusFields::updateProblemHelp()
                             : help);
 }
 
-void StatusFields::setDocument(Family::FamilyDocument* document)
+void StatusFields::showDocument(Family::FamilyDocument* document)
 {
     if (m_document) {
         m_document->disconnect(this);
@@ -90,6 +90,12 @@ void StatusFields::setDocument(Family::FamilyDocument* document)
     }
     watchFolder();
     updateFile();
+}
+
+/// The file can have another folder.
+void StatusFields::gameChanged()
+{
+    showDocument(m_document);
 }
 
 void StatusFields::updateFile()

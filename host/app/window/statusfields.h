@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/window/part.h"
+
 #include <QObject>
 #include <QString>
 
@@ -8,16 +10,12 @@ class QLabel;
 class QStatusBar;
 class QToolButton;
 
-namespace Family {
-class FamilyDocument;
-}
-
 namespace App {
 
 /// The fields of the status bar: problems of the project, state of the file, its
 /// line ends and encoding, place of the cursor. Those that can be clicked are
 /// buttons, and reached by the keyboard.
-class StatusFields : public QObject
+class StatusFields : public QObject, public Part
 {
     Q_OBJECT
 
@@ -25,8 +23,8 @@ public:
     /// Lives as a child of the bar.
     explicit StatusFields(QStatusBar* bar);
 
-    /// The document in front, or null.
-    void setDocument(Family::FamilyDocument* document);
+    void showDocument(Family::FamilyDocument* document) override;
+    void gameChanged() override;
 
     /// Brings state, line ends and encoding up to date.
     void updateFile();

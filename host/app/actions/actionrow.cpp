@@ -1,0 +1,32 @@
+#include "app/actions/actionrow.h"
+
+namespace App {
+
+QList<QKeySequence> FirstKeys::keys() const
+{
+    if (m_portable) {
+        return QKeySequence::listFromString(QLatin1String(m_portable), QKeySequence::PortableText);
+    }
+    return m_standard == QKeySequence::UnknownKey ? QList<QKeySequence>()
+                                                  : QKeySequence::keyBindings(m_standard);
+}
+
+const QVector<MenuRow>& menuTable()
+{
+    static const QVector<MenuRow> table{
+        {"file", QT_TRANSLATE_NOOP("App::Menus", "&File"),
+         "open save+ all backup text+ close quit"},
+        {"edit", QT_TRANSLATE_NOOP("App::Menus", "&Edit"), "undo clipboard find text"},
+        {"code", QT_TRANSLATE_NOOP("App::Menus", "&Code"), "write"},
+        {"anim", QT_TRANSLATE_NOOP("App::Menus", "&Animation"), "list play boxes"},
+        {"spr", QT_TRANSLATE_NOOP("App::Menus", "Sp&rites"), "files steps"},
+        {"pal", QT_TRANSLATE_NOOP("App::Menus", "Pa&lettes"), "files"},
+        {"snd", QT_TRANSLATE_NOOP("App::Menus", "S&ounds"), "files steps"},
+        {"view", QT_TRANSLATE_NOOP("App::Menus", "&View"), "panels+ texts zoom stage"},
+        {"tools", QT_TRANSLATE_NOOP("App::Menus", "&Tools"), "run find settings"},
+        {"help", QT_TRANSLATE_NOOP("App::Menus", "&Help"), "keys"},
+    };
+    return table;
+}
+
+}  // namespace App

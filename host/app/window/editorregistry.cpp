@@ -1,0 +1,291 @@
+#include "app/window/editorregistry.h"
+
+#include "app/controls/controllayout.h"
+#include "app/controls/controlplacer.h"
+#include "family/project/familyproject.h"
+
+#include <zorv/core/projectfile.h>
+#include <zorv/editors/framework/fileeditor.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDockWidget>
+#include <QScopedValueRollback>
+#include <QStackedWidget>
+
+#include <algorithm>
+#include <utility>
+
+namespace App {
+
+using Zorv::Editor;
+using Zorv::ExtraEditor;
+using Zorv::FileID;
+using Zorv::ProjectFile;
+using Zorv::Workspace;
+
+namespace {
+
+/// Editors disable or hide their action while they have nothing to work on.
+bool isUsable(const Editor* editor)
+{
+    const QAction* action = editor->action();
+    return !action || (action->isVisible() && action->isEnabled());
+}
+
+/// The area of the tools that are named after an editor or a panel.
+QString areaOfTools(const QString& name)
+{
+    return QLatin1String(placeOf(name + QLatin1Char('_')).area);
+}
+
+/// The files of a project that editors fetch from it.
+QVector<const ProjectFile*> filesOf(const Zorv::Project* project)
+{
+    QVector<const ProjectFile*> files;
+    for (const auto type :
+         {FileID::MainCode, FileID::Sprites, FileID::Sounds, FileID::Animations}) {
+        files.append(project ? project->file(type) : nullptr);
+    }
+    return files;
+}
+
+}  // namespace
+
+EditorRegistry::EditorRegistry(QStackedWidget* pages, ControlPlacer* controls, QObject* parent)
+    : QObject(parent), m_pages(pages), m_controls(controls)
+{
+}
+
+EditorRegistry::~EditorRegistry() = default;
+
+void EditorRegistry::add(Editor* editor, FileID files, QWidget* page)
+{
+    Workspace* workspace = editor->workspace();
+    page = page || !workspace ? page : workspace->widget();
+    if (page && m_pages->indexOf(page) < 0) {
+        m_pages->addWidget(page);
+    }
+    m_entries.append({editor, files, workspace, page});
+    connect(editor, &Editor::modified, this, &EditorRegistry::modified);
+    editor->setProject(m_project);
+}
+
+void EditorRegistry::addPanel(ExtraEditor* panel)
+{
+    m_panels.append(panel);
+    if (QDockWidget* dock = m_controls->addPanel(panel)) {
+        connect(dock, &QDockWidget::visibilityChanged, panel, [panel](bool isVisible) {
+            if (isVisible != panel->isActive()) {
+                isVisible ? panel->activate() : panel->deactivate();
+            }
+        });
+    }
+}
+
+bool EditorRegistry::has(const Editor* editor) const
+{
+    return editor && std::any_of(m_entries.begin(), m_entries.end(),
+                                 [editor](const Entry& entry) { return entry.editor == editor; });
+}
+
+Editor* EditorRegistry::byName(const QString& name) const
+{
+    const auto find = [this](auto fits) -> Editor* {
+        for (const Entry& entry : m_entries) {
+            if (entry.editor && fits(entry.editor.data())) {
+                return entry.editor;
+            }
+        }
+        return nullptr;
+    };
+    const auto appliesIn = [](const QString& area) {
+        return [area](const Editor* editor) { return editor->areas().contains(area); };
+    };
+    Editor* found = find([&name](const Editor* editor) { return editor->name() == name; });
+    found = found ? found : find(appliesIn(name));
+    return found ? found : find(appliesIn(areaOfTools(name)));
+}
+
+Editor* EditorRegistry::forFile(FileID id) const
+{
+    Editor* found = nullptr;
+    for (const Entry& entry : m_entries) {
+        if (entry.editor && (entry.files & id) != 0 && (!found || entry.editor == m_current)) {
+            found = entry.editor;
+        }
+    }
+    return found;
+}
+
+ExtraEditor* EditorRegistry::panel(int index) const
+{
+    return m_panels.value(index);
+}
+
+/// An editor that is activated by hand comes here by itself, and so does one that is activated
+/// here: the second call finds the work in hand.
+void EditorRegistry::activate(Editor* editor)
+{
+    if (!has(editor) || !isUsable(editor) || editor == m_activating) {
+        return;
+    }
+    const QScopedValueRollback<const Editor*> guard(m_activating, editor);
+    if (m_current != editor) {
+        const QPointer<Editor> before = std::exchange(m_current, editor);
+        if (before && before->isActive()) {
+            before->deactivate();
+        }
+    }
+    if (!editor->isActive()) {
+        editor->activate();
+    }
+    if (Workspace* workspace = editor->workspace()) {
+        showWorkspace(workspace);
+    }
+    focusWorkspace();
+    if (QAction* action = editor->action()) {
+        action->setChecked(true);
+    }
+    emit currentChanged();
+}
+
+void EditorRegistry::showWorkspace(Workspace* workspace)
+{
+    const auto found =
+        std::find_if(m_entries.begin(), m_entries.end(), [workspace](const Entry& entry) {
+            return entry.workspace == workspace && entry.page;
+        });
+    if (!workspace || found == m_entries.end()) {
+        return;
+    }
+    m_pages->setCurrentWidget(found->page);
+    if (m_workspace != workspace) {
+        const QPointer<Workspace> before = std::exchange(m_workspace, workspace);
+        if (before) {
+            before->deactivate();
+        }
+        workspace->activate();
+    }
+}
+
+void EditorRegistry::focusWorkspace()
+{
+    if (m_workspace) {
+        m_workspace->widget()->setFocus();
+    }
+}
+
+/// The editor in front has nothing to work on any more.
+void EditorRegistry::leave()
+{
+    const QPointer<Editor> before = std::exchange(m_current, nullptr);
+    if (before->isActive()) {
+        before->deactivate();
+    }
+    if (QAction* action = before ? before->action() : nullptr) {
+        action->setChecked(false);
+    }
+    Editor* first = m_entries.first().editor;
+    if (first && isUsable(first)) {
+        activate(first);
+        return;
+    }
+    m_pages->setCurrentIndex(0);
+    if (const QPointer<Workspace> left = std::exchange(m_workspace, nullptr)) {
+        left->deactivate();
+    }
+    emit currentChanged();
+}
+
+void EditorRegistry::showPanel(ExtraEditor* panel)
+{
+    if (m_panels.contains(panel)) {
+        m_controls->showPanel(panel);
+    }
+}
+
+QSet<QString> EditorRegistry::areas() const
+{
+    const QStringList names = m_current ? m_current->areas() : QStringList();
+    return {names.begin(), names.end()};
+}
+
+bool EditorRegistry::canDiscard(const Zorv::Project* project,
+                                const QList<ProjectFile*>& files) const
+{
+    return std::all_of(m_entries.begin(), m_entries.end(), [&](const Entry& entry) {
+        const auto* editor = qobject_cast<const Zorv::FileEditor*>(entry.editor.data());
+        ProjectFile* file = editor ? editor->file() : nullptr;
+        const bool isConcerned = file && (!project || file->project() == project);
+        const bool isDiscarded = isConcerned && file->isModified() && files.contains(file);
+        return !isConcerned || isDiscarded || editor->canDiscard();
+    });
+}
+
+void EditorRegistry::showProject(Family::FamilyProject* project)
+{
+    const QVector<const ProjectFile*> files = filesOf(project);
+    if (project == m_project && files == m_files) {
+        return;
+    }
+    m_project = project;
+    m_files = files;
+    for (const Entry& entry : qAsConst(m_entries)) {
+        if (entry.editor) {
+            entry.editor->setProject(project);
+        }
+    }
+}
+
+void EditorRegistry::forgetProject(Family::FamilyProject* project)
+{
+    for (const Entry& entry : qAsConst(m_entries)) {
+        if (entry.editor) {
+            entry.editor->projectAboutToClose(project);
+        }
+    }
+}
+
+void EditorRegistry::updateState()
+{
+    if (m_current && !isUsable(m_current)) {
+        leave();
+    }
+}
+
+void EditorRegistry::reconfig()
+{
+    for (const Entry& entry : qAsConst(m_entries)) {
+        if (entry.editor) {
+            entry.editor->reconfig();
+        }
+        if (entry.workspace) {
+            entry.workspace->reconfig();
+        }
+    }
+    for (ExtraEditor* panel : qAsConst(m_panels)) {
+        if (panel) {
+            panel->reconfig();
+        }
+    }
+}
+
+void EditorRegistry::retranslate()
+{
+    for (const Entry& entry : qAsConst(m_entries)) {
+        if (entry.editor) {
+            entry.editor->retranslate();
+        }
+        if (entry.workspace) {
+            entry.workspace->retranslate();
+        }
+    }
+    for (ExtraEditor* panel : qAsConst(m_panels)) {
+        if (panel) {
+            panel->retranslate();
+        }
+    }
+}
+
+}  // namespace App
