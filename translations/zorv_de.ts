@@ -511,16 +511,16 @@
         <translation>&amp;Symbol:</translation>
     </message>
     <message>
-        <source>The parameters are divided at blanks. Each mark becomes the name of the copy of a project: %0 of the project in front, %1 of the first open project, %2 of the second, and so on. At least one mark is needed.</source>
-        <translation>Die Parameter werden an Leerzeichen getrennt. Jede Marke wird durch den Namen der Kopie eines Projekts ersetzt: %0 durch das vordere Projekt, %1 durch das erste geöffnete, %2 durch das zweite und so weiter. Mindestens eine Marke ist nötig.</translation>
-    </message>
-    <message>
         <source>The settings could not be saved. Check the permissions of the settings file.</source>
         <translation>Die Einstellungen konnten nicht gespeichert werden. Bitte die Rechte der Einstellungsdatei prüfen.</translation>
     </message>
     <message>
         <source>New engine</source>
         <translation>Neue Engine</translation>
+    </message>
+    <message>
+        <source>Blanks separate the parameters. Each mark becomes the name of the copy of a project: %0 of the project in front, %1 of the first open project, %2 of the second, and so on. At least one mark is needed.</source>
+        <translation>Leerzeichen trennen die Parameter. Jede Marke wird zum Namen der Kopie eines Projekts: %0 des Projekts im Vordergrund, %1 des ersten offenen Projekts, %2 des zweiten und so weiter. Mindestens eine Marke ist nötig.</translation>
     </message>
 </context>
 <context>
@@ -605,10 +605,6 @@
         <translation>Keine Treffer</translation>
     </message>
     <message>
-        <source>more than %1 matches</source>
-        <translation>mehr als %1 Treffer</translation>
-    </message>
-    <message>
         <source>%1 of more than %2</source>
         <translation>%1 von mehr als %2</translation>
     </message>
@@ -617,16 +613,22 @@
         <translation>%1 von %2</translation>
     </message>
     <message>
-        <source>1 match</source>
-        <translation>1 Treffer</translation>
-    </message>
-    <message>
-        <source>%1 matches</source>
-        <translation>%1 Treffer</translation>
-    </message>
-    <message>
         <source>%1, %2</source>
         <translation>%1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>more than %n match(es)</source>
+        <translation>
+            <numerusform>mehr als %n Treffer</numerusform>
+            <numerusform>mehr als %n Treffer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n match(es)</source>
+        <translation>
+            <numerusform>%n Treffer</numerusform>
+            <numerusform>%n Treffer</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -945,36 +947,8 @@
 <context>
     <name>App::MessagePanel</name>
     <message>
-        <source>Messages of the project</source>
-        <translation>Meldungen des Projekts</translation>
-    </message>
-    <message>
-        <source>No problems</source>
-        <translation>Keine Probleme</translation>
-    </message>
-    <message>
-        <source>1 error</source>
-        <translation>1 Fehler</translation>
-    </message>
-    <message>
-        <source>%1 errors</source>
-        <translation>%1 Fehler</translation>
-    </message>
-    <message>
-        <source>1 warning</source>
-        <translation>1 Warnung</translation>
-    </message>
-    <message>
-        <source>%1 warnings</source>
-        <translation>%1 Warnungen</translation>
-    </message>
-    <message>
-        <source>%1, %2</source>
-        <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>No messages</source>
-        <translation>Keine Meldungen</translation>
+        <source>Problems of the game</source>
+        <translation>Probleme des Spiels</translation>
     </message>
 </context>
 <context>
@@ -1091,6 +1065,44 @@
     <message>
         <source>Pictures (*.png *.bmp *.gif *.svg *.ico)</source>
         <translation>Bilder (*.png *.bmp *.gif *.svg *.ico)</translation>
+    </message>
+</context>
+<context>
+    <name>App::ProblemWatch</name>
+    <message>
+        <source>new file %1</source>
+        <translation>neue Datei %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is to be removed is used in %n place(s):</source>
+        <translation>
+            <numerusform>Was entfernt werden soll, wird an %n Stelle verwendet:</numerusform>
+            <numerusform>Was entfernt werden soll, wird an %n Stellen verwendet:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The game is still being checked, so there may be more.</source>
+        <translation>Das Spiel wird noch geprüft, es können also mehr sein.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove it all the same?</source>
+        <translation>Trotzdem entfernen?</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Nicht geprüft</translation>
+    </message>
+    <message>
+        <source>Checking...</source>
+        <translation>Wird geprüft ...</translation>
+    </message>
+    <message>
+        <source>No problems</source>
+        <translation>Keine Probleme</translation>
     </message>
 </context>
 <context>
@@ -1246,12 +1258,15 @@
         <translation>Von diesem Spiel gibt es keine Sicherung.</translation>
     </message>
     <message>
-        <source>%1 of %2 files differ from those on the disk:</source>
-        <translation>%1 von %2 Dateien unterscheiden sich von denen auf dem Datenträger:</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>und %1 weitere</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n file(s) differ from those on the disk:</source>
+        <translation>
+            <numerusform>%1 von %n Datei unterscheidet sich von der auf dem Datenträger:</numerusform>
+            <numerusform>%1 von %n Dateien unterscheiden sich von denen auf dem Datenträger:</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1837,10 +1852,6 @@
         <translation>Klänge hinzufügen</translation>
     </message>
     <message>
-        <source>%1 sounds are taken up.</source>
-        <translation>%1 Klänge wurden aufgenommen.</translation>
-    </message>
-    <message>
         <source>Save sounds as</source>
         <translation>Klänge speichern unter</translation>
     </message>
@@ -1852,6 +1863,13 @@
         <source>Take all frames that are there?</source>
         <translation>Alle vorhandenen Frames nehmen?</translation>
     </message>
+    <message numerus="yes">
+        <source>%n sound(s) added.</source>
+        <translation>
+            <numerusform>%n Klang hinzugefügt.</numerusform>
+            <numerusform>%n Klänge hinzugefügt.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>App::SoundPanel</name>
@@ -1862,14 +1880,6 @@
     <message>
         <source>No sound file</source>
         <translation>Keine Klangdatei</translation>
-    </message>
-    <message>
-        <source>1 sound</source>
-        <translation>1 Klang</translation>
-    </message>
-    <message>
-        <source>%1 sounds</source>
-        <translation>%1 Klänge</translation>
     </message>
     <message>
         <source>Sound %1: %2 Hz, %3 bits, %4, %5 s</source>
@@ -1887,16 +1897,19 @@
         <source>%1 channels</source>
         <translation>%1 Kanäle</translation>
     </message>
+    <message numerus="yes">
+        <source>%n sound(s)</source>
+        <translation>
+            <numerusform>%n Klang</numerusform>
+            <numerusform>%n Klänge</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>App::SpriteCommands</name>
     <message>
         <source>Add images</source>
         <translation>Bilder hinzufügen</translation>
-    </message>
-    <message>
-        <source>%1 images are taken up.</source>
-        <translation>%1 Bilder wurden aufgenommen.</translation>
     </message>
     <message>
         <source>The image&apos;s palette, added if it is not there yet</source>
@@ -1938,6 +1951,13 @@
         <source>The palette is saved.</source>
         <translation>Die Palette ist gespeichert.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n image(s) added.</source>
+        <translation>
+            <numerusform>%n Bild hinzugefügt.</numerusform>
+            <numerusform>%n Bilder hinzugefügt.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>App::SpriteList</name>
@@ -1953,20 +1973,19 @@
         <translation>Keine Spritedatei</translation>
     </message>
     <message>
-        <source>1 sprite</source>
-        <translation>1 Sprite</translation>
-    </message>
-    <message>
-        <source>%1 sprites</source>
-        <translation>%1 Sprites</translation>
-    </message>
-    <message>
         <source>Sprite %1: %2 × %3, axis %4,%5</source>
         <translation>Sprite %1: %2 × %3, Achse %4,%5</translation>
     </message>
     <message>
         <source>, palette %1</source>
         <translation>, Palette %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s)</source>
+        <translation>
+            <numerusform>%n Sprite</numerusform>
+            <numerusform>%n Sprites</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2027,10 +2046,6 @@
         <translation>kein Sprite %1,%2</translation>
     </message>
     <message>
-        <source>%1 ticks</source>
-        <translation>%1 Ticks</translation>
-    </message>
-    <message>
         <source>%1 / %2</source>
         <translation>%1 / %2</translation>
     </message>
@@ -2041,6 +2056,13 @@
     <message>
         <source>The frames of animations are shown here. A line such as &quot;animation 0&quot; begins one.</source>
         <translation>Hier erscheinen die Einzelbilder von Animationen. Eine Zeile wie &quot;animation 0&quot; beginnt eine.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tick(s)</source>
+        <translation>
+            <numerusform>%n Tick</numerusform>
+            <numerusform>%n Ticks</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2092,24 +2114,12 @@
         <translation>Gespeichert</translation>
     </message>
     <message>
-        <source>Problems of the project. Click for the list.</source>
-        <translation>Probleme des Projekts. Ein Klick zeigt die Liste.</translation>
-    </message>
-    <message>
         <source>Encoding of the file. Click to change it.</source>
         <translation>Kodierung der Datei. Ein Klick ändert sie.</translation>
     </message>
     <message>
         <source>Line and column. Click to go to a line.</source>
         <translation>Zeile und Spalte. Ein Klick führt zu einer Zeile.</translation>
-    </message>
-    <message>
-        <source>State of the file</source>
-        <translation>Zustand der Datei</translation>
-    </message>
-    <message>
-        <source>Line ends of the file</source>
-        <translation>Zeilenenden der Datei</translation>
     </message>
     <message>
         <source>Line ends: converted when saved</source>
@@ -2120,8 +2130,16 @@
         <translation>Kodierung: %1</translation>
     </message>
     <message>
-        <source>Place of the pointer on the stage</source>
-        <translation>Ort des Mauszeigers auf der Bühne</translation>
+        <source>Problems of the game. Click for the list.</source>
+        <translation>Probleme des Spiels. Ein Klick führt zur Liste.</translation>
+    </message>
+    <message>
+        <source>State of the file: %1</source>
+        <translation>Zustand der Datei: %1</translation>
+    </message>
+    <message>
+        <source>Place of the pointer on the stage: %1</source>
+        <translation>Ort des Zeigers auf der Bühne: %1</translation>
     </message>
 </context>
 <context>
@@ -2130,9 +2148,12 @@
         <source>The numbers in the names of some files are taken already.</source>
         <translation>Die Nummern in den Namen einiger Dateien sind schon vergeben.</translation>
     </message>
-    <message>
-        <source>%1 files are written.</source>
-        <translation>%1 Dateien wurden geschrieben.</translation>
+    <message numerus="yes">
+        <source>%n file(s) written.</source>
+        <translation>
+            <numerusform>%n Datei geschrieben.</numerusform>
+            <numerusform>%n Dateien geschrieben.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2811,6 +2832,24 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>
             <numerusform>&apos;%1&apos; gibt es in &apos;%2&apos; nicht: Dort ist %n Einzelbild, gezählt ab 0.</numerusform>
             <numerusform>&apos;%1&apos; gibt es in &apos;%2&apos; nicht: Dort sind %n Einzelbilder, gezählt ab 0.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation>
+            <numerusform>%n Fehler</numerusform>
+            <numerusform>%n Fehler</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation>
+            <numerusform>%n Warnung</numerusform>
+            <numerusform>%n Warnungen</numerusform>
         </translation>
     </message>
 </context>

@@ -2,6 +2,103 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="en">
 <context>
+    <name>App::FindSearch</name>
+    <message numerus="yes">
+        <source>more than %n match(es)</source>
+        <translation>
+            <numerusform>more than %n match</numerusform>
+            <numerusform>more than %n matches</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n match(es)</source>
+        <translation>
+            <numerusform>%n match</numerusform>
+            <numerusform>%n matches</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::ProblemWatch</name>
+    <message numerus="yes">
+        <source>What is to be removed is used in %n place(s):</source>
+        <translation>
+            <numerusform>What is to be removed is used in %n place:</numerusform>
+            <numerusform>What is to be removed is used in %n places:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::RestoreDialog</name>
+    <message numerus="yes">
+        <source>%1 of %n file(s) differ from those on the disk:</source>
+        <translation>
+            <numerusform>%1 of %n file differs from the one on the disk:</numerusform>
+            <numerusform>%1 of %n files differ from those on the disk:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::SoundCommands</name>
+    <message numerus="yes">
+        <source>%n sound(s) added.</source>
+        <translation>
+            <numerusform>%n sound added.</numerusform>
+            <numerusform>%n sounds added.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::SoundPanel</name>
+    <message numerus="yes">
+        <source>%n sound(s)</source>
+        <translation>
+            <numerusform>%n sound</numerusform>
+            <numerusform>%n sounds</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::SpriteCommands</name>
+    <message numerus="yes">
+        <source>%n image(s) added.</source>
+        <translation>
+            <numerusform>%n image added.</numerusform>
+            <numerusform>%n images added.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::SpritePanel</name>
+    <message numerus="yes">
+        <source>%n sprite(s)</source>
+        <translation>
+            <numerusform>%n sprite</numerusform>
+            <numerusform>%n sprites</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::StageCommands</name>
+    <message numerus="yes">
+        <source>%n tick(s)</source>
+        <translation>
+            <numerusform>%n tick</numerusform>
+            <numerusform>%n ticks</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::Transfer</name>
+    <message numerus="yes">
+        <source>%n file(s) written.</source>
+        <translation>
+            <numerusform>%n file written.</numerusform>
+            <numerusform>%n files written.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Family</name>
     <message numerus="yes">
         <source>%n more record(s) are broken.</source>
@@ -22,6 +119,20 @@
         <translation>
             <numerusform>There is no &apos;%1&apos; in &apos;%2&apos;: it has %n frame, counted from 0.</numerusform>
             <numerusform>There is no &apos;%1&apos; in &apos;%2&apos;: it has %n frames, counted from 0.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation>
+            <numerusform>%n error</numerusform>
+            <numerusform>%n errors</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation>
+            <numerusform>%n warning</numerusform>
+            <numerusform>%n warnings</numerusform>
         </translation>
     </message>
 </context>

@@ -179,7 +179,7 @@ void TestCodeView::tellsPlaceAndProblems()
     QVERIFY(window()->openFile(m_game->oda()));
     m->goTo(3, 4);
     QCOMPARE(window()->status()->placeText(), QStringLiteral("Line: 4, Column: 5, Line count: 9"));
-    QCOMPARE(window()->status()->problemText(), QStringLiteral("2 errors, 0 warnings"));
+    QCOMPARE(m->problemsShown(), QStringLiteral("2 errors, 0 warnings"));
     QVERIFY(problems->toolTip().contains(QLatin1String("Syntax error count: 2")));
     m->host.showStatus(7, QStringLiteral("passing"));
     QCOMPARE(window()->status()->placeText(), QStringLiteral("Line: 4, Column: 5, Line count: 9"));
@@ -213,15 +213,14 @@ void TestCodeView::messagesFollowTheCursor()
                                                   "life = full\r\n"
                                                   "[.walk]\r\n"
                                                   "forward = 2 2 x\r\n"
-                                                  "unknown\r\n");
+                                                  "unknown\r\n"
+                                                  "back = -2\r\n");
     m->open(*m_game, m_game->ryn());
     QVERIFY(window()->openFile(m_game->oda()));
     App::MessagePanel* panel = window()->messagePanel();
     const auto line = [panel] {
-        int place = 0;
-        const Zorv::Messages* of =
-            panel->messages()->messagesAt(panel->currentIndex().row(), &place);
-        return of ? of->at(place).line : -1;
+        const Family::Problem* problem = panel->problems()->problemAt(panel->currentIndex().row());
+        return problem ? problem->line - 1 : -1;
     };
     m->goTo(1);
     QCOMPARE(line(), 1);

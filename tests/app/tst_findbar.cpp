@@ -1,6 +1,7 @@
 #include "app/find/findbar.h"
 
 #include "app/find/matchcounter.h"
+#include "operations/english.h"
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
 #include "windowfixture.h"
@@ -78,6 +79,7 @@ private:
 
 void TestFindBar::init()
 {
+    Operations::speakEnglish();
     host = std::make_unique<TestInterface>();
     window = std::make_unique<QWidget>();
     document = std::make_unique<GrammarDocument>(QStringLiteral("[1]\nab=1\nAb=2\n!ab cab\n-f"));

@@ -230,6 +230,7 @@ void TestSettingsDialog::applyReachesTheWindow()
         press(QDialogButtonBox::Apply);
         QCOMPARE(option("highlightCode"), QVariant(isOn));
         QVERIFY(m_fixture->document()->next());
+        QVERIFY(m_fixture->window->problems()->settle());
         QCOMPARE(m_fixture->window->messagePanel()->model()->rowCount() > 0, isOn);
     }
 }

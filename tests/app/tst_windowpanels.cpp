@@ -79,7 +79,8 @@ void TestWindowPanels::followsTypingUndoAndRedo()
 {
     m->open(*m_game, m_game->ryn());
     const QString before = m->document()->text();
-    QCOMPARE(window()->status()->problemText(), QStringLiteral("No problems"));
+    const QString othersAlone = QStringLiteral("2 errors, 0 warnings");
+    QCOMPARE(m->problemsShown(), othersAlone);
     m->goTo(6, 0);
     m->press(Qt::Key_End);
     m->press(Qt::Key_Return);
@@ -90,8 +91,8 @@ void TestWindowPanels::followsTypingUndoAndRedo()
                nodes()->index(1, 0, group).data().toString().contains(label);
     };
     QTRY_VERIFY(shows(3, QStringLiteral("power")));
-    QCOMPARE(window()->messagePanel()->messages()->rowCount(), 1);
-    QCOMPARE(window()->status()->problemText(), QStringLiteral("1 error, 0 warnings"));
+    QCOMPARE(m->problemsShown(), QStringLiteral("3 errors, 0 warnings"));
+    QCOMPARE(window()->messagePanel()->problems()->rowCount(), 3);
     QCOMPARE(window()->status()->placeText(),
              QStringLiteral("Line: 8, Column: 13, Line count: 12"));
     const QString after = m->document()->text();
@@ -100,7 +101,7 @@ void TestWindowPanels::followsTypingUndoAndRedo()
         m->press(Qt::Key_Z, Qt::ControlModifier);
     }
     QCOMPARE(m->document()->text(), before);
-    QCOMPARE(window()->status()->problemText(), QStringLiteral("No problems"));
+    QCOMPARE(m->problemsShown(), othersAlone);
     QTRY_VERIFY(shows(2, QStringLiteral("walk")));
     QVERIFY(!m->document()->isModified());
     for (int i = 0; i < 20 && m->document()->text() != after; ++i) {
@@ -108,14 +109,14 @@ void TestWindowPanels::followsTypingUndoAndRedo()
     }
     QCOMPARE(m->document()->text(), after);
     QTRY_VERIFY(shows(3, QStringLiteral("power")));
-    QCOMPARE(window()->messagePanel()->messages()->rowCount(), 1);
+    QCOMPARE(m->problemsShown(), QStringLiteral("3 errors, 0 warnings"));
 }
 
 void TestWindowPanels::jumpsToAMessage()
 {
     m->open(*m_game, m_game->oda());
     MessagePanel* panel = window()->messagePanel();
-    QCOMPARE(panel->messages()->rowCount(), 2);
+    QCOMPARE(panel->problems()->rowCount(), 2);
     m->action("close_text")->trigger();
     QCOMPARE(window()->tabs()->count(), 0);
     doubleClickRow(panel, panel->model()->index(1, 0));
@@ -145,11 +146,12 @@ void TestWindowPanels::keepsTheCurrentMessage()
     panel->setCurrentIndex(panel->model()->index(40, 0));
     const int scroll = panel->verticalScrollBar()->value();
     QVERIFY(scroll > 0);
-    // An edit announces all rows anew.
+    // A problem comes above it.
     m->goTo(3, 0);
     m->press(Qt::Key_End);
     m->type(QStringLiteral("1234567890"));
-    QCOMPARE(panel->messages()->rowCount(), 61);
+    QVERIFY(window()->problems()->settle());
+    QCOMPARE(panel->problems()->rowCount(), 61);
     QCOMPARE(panel->currentIndex().row(), 41);
     QCOMPARE(panel->verticalScrollBar()->value(), scroll);
 }

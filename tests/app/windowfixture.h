@@ -9,6 +9,8 @@
 #include "app/main/mainwindow.h"
 #include "app/main/windowinterface.h"
 #include "app/messages/messagepanel.h"
+#include "app/messages/problemmodel.h"
+#include "app/messages/problemwatch.h"
 #include "app/session/gamesession.h"
 #include "app/window/statusfields.h"
 #include "family/familyanimations.h"
@@ -127,6 +129,13 @@ public:
         QVERIFY(window->openPath(game.root()));
         QVERIFY(window->openFile(mainFile));
         QVERIFY(file.isEmpty() || window->openFile(file));
+        QVERIFY(window->problems()->settle());
+    }
+
+    /// How many problems there are, when all that was done is checked.
+    QString problemsShown() const
+    {
+        return window->problems()->settle() ? window->status()->problemText() : QString();
     }
 
     /// A key in the text in front, as the person presses it.

@@ -8,6 +8,7 @@
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
 #include "operations/animationedits.h"
+#include "operations/check/uses.h"
 
 #include <zorv/editors/organizer/organizereditor.h>
 
@@ -150,7 +151,8 @@ void AnimationCommands::duplicateCurrent()
 void AnimationCommands::removeSelected()
 {
     const QVector<int> rows = m_organizer->selectedRows();
-    if (!m_document || rows.isEmpty()) {
+    if (!m_document || rows.isEmpty() ||
+        !m_services.mayRemove(Operations::removalOf(*m_document, rows)) || !m_document) {
         return;
     }
     Operations::removeAnimations(m_document->animations(), rows);

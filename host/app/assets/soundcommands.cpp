@@ -8,6 +8,7 @@
 #include "app/window/windowservices.h"
 #include "family/assets/soundfile.h"
 #include "family/project/familyproject.h"
+#include "operations/check/uses.h"
 #include "operations/media/soundwork.h"
 
 #include <zorv/core/dialogs/dialogs.h>
@@ -117,7 +118,7 @@ void SoundCommands::addSounds()
     }
     const unsigned before = sounds->count();
     const MediaResult result = Operations::importSounds(sounds, choice.files, request);
-    tellResult(title, tr("%1 sounds are taken up.").arg(result.done), result);
+    tellResult(title, tr("%n sound(s) added.", nullptr, result.done), result);
     if (sounds->count() > before) {
         m_panel->setCurrentRow(int(sounds->count()) - 1);
     }
@@ -139,7 +140,9 @@ void SoundCommands::removeSelected()
 {
     SoundFile* sounds = m_panel->sounds();
     const QVector<int> rows = m_panel->selectedRows();
-    if (rows.isEmpty()) {
+    if (rows.isEmpty() ||
+        !m_services.mayRemove(Operations::removalOf(Operations::Removal::Sounds, *sounds, rows)) ||
+        sounds != m_panel->sounds()) {
         return;
     }
     sounds->beginChange(tr("Remove sounds"));

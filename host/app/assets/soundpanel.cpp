@@ -88,9 +88,7 @@ QString SoundPanel::currentText() const
 {
     const Family::FamilySound* sound = m_sounds ? m_sounds->sound(currentRow()) : nullptr;
     if (!sound) {
-        return !m_sounds                ? tr("No sound file")
-               : m_sounds->count() == 1 ? tr("1 sound")
-                                        : tr("%1 sounds").arg(m_sounds->count());
+        return !m_sounds ? tr("No sound file") : tr("%n sound(s)", nullptr, int(m_sounds->count()));
     }
     const Zorv::SampleInfo info = sound->sampleInfo();
     const double seconds = info.sampleRate > 0 ? double(info.frames) / info.sampleRate : 0;

@@ -11,6 +11,7 @@
 #include "family/assets/spritecollection.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
+#include "operations/check/uses.h"
 #include "operations/media/imagefiles.h"
 #include "operations/media/palettework.h"
 #include "operations/media/spriteexport.h"
@@ -130,7 +131,7 @@ void SpriteCommands::addImages()
     request.force = choice.force;
     const unsigned before = sprites->count();
     const MediaResult result = Operations::importSprites(sprites, choice.files, request);
-    tellResult(title, tr("%1 images are taken up.").arg(result.done), result);
+    tellResult(title, tr("%n image(s) added.", nullptr, result.done), result);
     if (sprites->count() > before) {
         m_panel->setCurrentRow(int(sprites->count()) - 1);
     }
@@ -200,7 +201,10 @@ void SpriteCommands::removeSelected()
 {
     SpriteCollection* sprites = m_panel->sprites();
     const QVector<int> rows = m_panel->selectedRows();
-    if (!sprites || rows.isEmpty()) {
+    if (!sprites || rows.isEmpty() ||
+        !m_services.mayRemove(
+            Operations::removalOf(Operations::Removal::Sprites, *sprites, rows)) ||
+        sprites != m_panel->sprites()) {
         return;
     }
     sprites->beginChange(tr("Remove sprites"));

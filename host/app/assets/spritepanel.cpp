@@ -146,9 +146,8 @@ QString SpritePanel::currentText() const
 {
     const FamilySprite* sprite = currentSprite();
     if (!sprite) {
-        return !m_sprites                ? tr("No sprite file")
-               : m_sprites->count() == 1 ? tr("1 sprite")
-                                         : tr("%1 sprites").arg(m_sprites->count());
+        return !m_sprites ? tr("No sprite file")
+                          : tr("%n sprite(s)", nullptr, int(m_sprites->count()));
     }
     const QSize size = sprite->size();
     const QPoint axis = sprite->axis();

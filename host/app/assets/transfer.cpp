@@ -67,7 +67,7 @@ void exportSelected(const QString& title, MediaKind kind, const QVector<AssetId>
         request.force = true;
         result = write(selection, request);
     }
-    tellResult(title, Text::tr("%1 files are written.").arg(result.done), result);
+    tellResult(title, Text::tr("%n file(s) written.", nullptr, result.done), result);
 }
 
 }  // namespace App

@@ -13,6 +13,7 @@
 
 namespace App {
 
+using Family::FamilyParentProject;
 using Zorv::ParentProject;
 
 namespace {
@@ -28,6 +29,19 @@ class PathDelegate final : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    /// What is wrong with a file, or in a folder, stands at the end of its row.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        const bool isError = index.data(FamilyParentProject::ErrorRole).toInt() > 0;
+        if (isError || index.data(FamilyParentProject::WarningRole).toInt() > 0) {
+            const int size = option.rect.height() - 2;
+            const QRect place(option.rect.right() - size, option.rect.top() + 1, size, size);
+            (isError ? m_error : m_warning).paint(painter, place);
+        }
+    }
+
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
@@ -40,6 +54,8 @@ protected:
     }
 
 private:
+    const QIcon m_error{QStringLiteral(":/icons/icons/error.png")};
+    const QIcon m_warning{QStringLiteral(":/icons/icons/warn.png")};
     const QIcon m_mainFile = icon(QStringLiteral(":/zorvl_icons/icons/code.png"));
 };
 

@@ -22,6 +22,7 @@
 #include "app/main/windowstate.h"
 #include "app/messages/messagepanel.h"
 #include "app/messages/messageroom.h"
+#include "app/messages/problemwatch.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
 #include "app/session/gamesession.h"
@@ -109,7 +110,11 @@ MainWindow::MainWindow(QWidget* parent)
     m_runCommands = new RunCommands(m_services);
     m_sprites = new SpriteCommands(m_services);
     m_sounds = new SoundCommands(m_services);
-    m_messagePanel = new MessagePanel(m_services);
+    m_problems = new ProblemWatch(m_services);
+    m_services.mayRemove = [this](const Operations::Removal& removal) {
+        return m_problems->mayRemove(removal);
+    };
+    m_messagePanel = new MessagePanel(m_services, m_problems);
     m_commands = new WindowCommands(this);
     makeDocks();
 }
@@ -135,9 +140,10 @@ void MainWindow::publishTools()
 /// In the order in which the keyboard goes round, and in which sections of menus are filled.
 void MainWindow::addParts()
 {
-    for (Part* part : std::initializer_list<Part*>{
-             m_opener, m_gameCommands, m_gameTree, m_services.editors, m_sprites, m_sounds, m_stage,
-             m_code, m_animations, m_messagePanel, m_runCommands, m_services.status, m_commands}) {
+    for (Part* part : std::initializer_list<Part*>{m_opener, m_gameCommands, m_gameTree,
+                                                   m_services.editors, m_sprites, m_sounds, m_stage,
+                                                   m_code, m_animations, m_problems, m_messagePanel,
+                                                   m_runCommands, m_services.status, m_commands}) {
         m_services.parts->add(part);
     }
 }

@@ -26,6 +26,7 @@ class GameCommands;
 class GameOpener;
 class GameTree;
 class MessagePanel;
+class ProblemWatch;
 class RunCommands;
 class SoundCommands;
 class SoundPanel;
@@ -70,6 +71,7 @@ public:
     SpritePanel* spritePanel() const;
     SoundPanel* soundPanel() const;
     StageCommands* stage() const { return m_stage; }
+    ProblemWatch* problems() const { return m_problems; }
     MessagePanel* messagePanel() const { return m_messagePanel; }
     /// @}
 
@@ -136,6 +138,7 @@ private:
     AnimationCommands* m_animations = nullptr;
     SpriteCommands* m_sprites;
     SoundCommands* m_sounds;
+    ProblemWatch* m_problems;
     MessagePanel* m_messagePanel;
     WindowCommands* m_commands;
 };

@@ -1,111 +1,62 @@
 #include "app/messages/messagepanel.h"
 
 #include "app/look/language.h"
+#include "app/messages/problemmodel.h"
+#include "app/messages/problemwatch.h"
 #include "app/window/jumps.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
 #include "app/window/windowservices.h"
 #include "family/familydocument.h"
-#include "family/project/familyproject.h"
-
-#include <zorv/code/codedoc/codedocument.h>
-#include <zorv/core/messagelist.h>
-#include <zorv/core/messages.h>
 
 #include <QHelpEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <QToolTip>
-#include <algorithm>
 
 namespace App {
 
-using Zorv::Message;
-using Zorv::Messages;
-
-MessagePanel::MessagePanel(const WindowServices& services) : m_services(services)
+MessagePanel::MessagePanel(const WindowServices& services, ProblemWatch* problems)
+    : m_services(services), m_problems(problems)
 {
+    setModel(problems->model());
+    connect(problems, &ProblemWatch::summaryChanged, this, &MessagePanel::tellSummary);
     followLanguage(this, [this] {
-        setAccessibleName(tr("Messages of the project"));
-        emit summaryChanged();
+        setAccessibleName(tr("Problems of the game"));
+        tellSummary();
     });
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setUniformItemSizes(true);
     connect(this, &QListView::activated, this, &MessagePanel::request);
-    connect(this, &MessagePanel::summaryChanged, services.status,
-            [this] { m_services.status->setProblems(summary()); });
 }
 
-void MessagePanel::setMessages(Zorv::MessageList* messages)
+ProblemModel* MessagePanel::problems() const
 {
-    if (messages == m_list) {
-        return;
-    }
-    if (m_list) {
-        m_list->disconnect(this);
-    }
-    m_list = messages;
-    m_currentLine = -1;
-    if (messages) {
-        // Before the view's own connections, which drop the current row.
-        connect(messages, &QAbstractItemModel::rowsAboutToBeRemoved, this,
-                &MessagePanel::beginUpdate);
-    }
-    setModel(messages);
-    if (messages) {
-        connect(messages, &Zorv::MessageList::updated, this, &MessagePanel::endUpdate);
-    }
-    emit summaryChanged();
+    return m_problems->model();
 }
 
-Zorv::MessageList* MessagePanel::messages() const
+void MessagePanel::showMessagesOf(const Family::FamilyDocument* document)
 {
-    return m_list;
-}
-
-/// The row of the first message of a file, -1 for one without any.
-int MessagePanel::firstRowOf(const Messages* messages) const
-{
-    int row = 0;
-    const QList<Messages*> lists = m_list ? m_list->lists() : QList<Messages*>();
-    for (const Messages* before : lists) {
-        const int count = before->count(Message::AllTypes);
-        if (before == messages) {
-            return count > 0 ? row : -1;
-        }
-        row += count;
-    }
-    return -1;
-}
-
-void MessagePanel::showMessagesOf(const Zorv::CodeDocument* document)
-{
-    const int row = firstRowOf(document->messages());
+    const int row = problems()->firstRowOf(m_problems->nameOf(document));
     if (row >= 0) {
-        setCurrentIndex(m_list->index(row));
+        setCurrentIndex(problems()->index(row));
         scrollTo(currentIndex(), QAbstractItemView::PositionAtTop);
     }
 }
 
-bool MessagePanel::goToMessage(const Zorv::CodeDocument* document, int line)
+bool MessagePanel::goToMessage(const Family::FamilyDocument* document, int line)
 {
-    const Messages* messages = document ? document->messages() : nullptr;
-    const int first = messages ? firstRowOf(messages) : -1;
-    const int place = first < 0 ? -1 : messages->indexOfLine(line);
-    if (place < 0 || place >= messages->count(Message::AllTypes) ||
-        messages->at(place).line != line) {
+    const QString file = document ? m_problems->nameOf(document) : QString();
+    const int row = problems()->rowAt(file, line + 1);
+    const Family::Problem* problem = problems()->problemAt(row);
+    if (!problem || problem->line != line + 1) {
         return false;
     }
-    if (messages != m_currentFile || line != m_currentLine || !currentIndex().isValid()) {
-        setCurrentIndex(m_list->index(first + place));
+    const Family::Problem* current = problems()->problemAt(currentIndex().row());
+    if (!current || current->file != file || current->line != line + 1) {
+        setCurrentIndex(problems()->index(row));
     }
     scrollTo(currentIndex());
     return true;
-}
-
-void MessagePanel::showProject(Family::FamilyProject* project)
-{
-    setMessages(project ? project->messages() : nullptr);
 }
 
 void MessagePanel::followLine(int line)
@@ -115,6 +66,7 @@ void MessagePanel::followLine(int line)
 
 void MessagePanel::showMessageOfLine(int line)
 {
+    m_problems->settle();
     if (goToMessage(m_services.parts->document(), line)) {
         comeForward();
     }
@@ -131,19 +83,11 @@ void MessagePanel::comeForward()
     setFocus();
 }
 
-QString MessagePanel::summary() const
+void MessagePanel::tellSummary()
 {
-    if (!m_list) {
-        return {};
-    }
-    const int errors = m_list->errorCount();
-    const int warnings = m_list->warningCount();
-    if (errors + warnings == 0) {
-        return tr("No problems");
-    }
-    const QString errorText = errors == 1 ? tr("1 error") : tr("%1 errors").arg(errors);
-    const QString warningText = warnings == 1 ? tr("1 warning") : tr("%1 warnings").arg(warnings);
-    return tr("%1, %2").arg(errorText, warningText);
+    m_services.status->setProblems(m_problems->summary());
+    viewport()->update();
+    emit summaryChanged();
 }
 
 QSize MessagePanel::minimumSizeHint() const
@@ -154,11 +98,11 @@ QSize MessagePanel::minimumSizeHint() const
 void MessagePanel::paintEvent(QPaintEvent* event)
 {
     QListView::paintEvent(event);
-    if (!model() || model()->rowCount() == 0) {
+    if (problems()->rowCount() == 0) {
         QPainter painter(viewport());
         painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
         painter.drawText(viewport()->rect().adjusted(2, 0, 0, 0), Qt::AlignVCenter,
-                         tr("No messages"));
+                         m_problems->summary());
     }
 }
 
@@ -174,57 +118,23 @@ bool MessagePanel::viewportEvent(QEvent* event)
     return true;
 }
 
-void MessagePanel::currentChanged(const QModelIndex& current, const QModelIndex& previous)
-{
-    QListView::currentChanged(current, previous);
-    if (m_isUpdating || !m_list) {
-        return;
-    }
-    int place = 0;
-    m_currentFile = m_list->messagesAt(current.row(), &place);
-    m_currentLine = m_currentFile ? m_currentFile->at(place).line : -1;
-}
-
+/// A file that is not open is opened, with its project.
 void MessagePanel::request(const QModelIndex& index)
 {
-    int place = 0;
-    const Messages* messages = m_list ? m_list->messagesAt(index.row(), &place) : nullptr;
-    auto* document = messages ? dynamic_cast<Family::FamilyDocument*>(messages->file()) : nullptr;
-    if (document) {
-        const Message message = messages->at(place);
-        m_services.jumps->showPlace(document, message.line, message.column, 0);
+    const Family::Problem* problem = problems()->problemAt(index.row());
+    if (!problem) {
+        return;
     }
-}
-
-void MessagePanel::beginUpdate()
-{
-    m_isUpdating = true;
-    m_scroll = verticalScrollBar()->value();
-}
-
-/// The message on the line of the current row, or the next one of its file,
-/// becomes the current row.
-void MessagePanel::endUpdate()
-{
-    const QList<Messages*> lists = m_list->lists();
-    int row = 0;
-    for (const Messages* messages : lists) {
-        const int count = messages->count(Message::AllTypes);
-        if (m_currentLine >= 0 && messages == m_currentFile && count > 0) {
-            row += std::min(messages->indexOfLine(m_currentLine), count - 1);
-            setCurrentIndex(m_list->index(row));
-            break;
-        }
-        row += count;
+    // Opening a file takes time in which the list can change.
+    const Family::Problem place = *problem;
+    if (!m_problems->documentOf(place.file) &&
+        !m_services.jumps->openFile(m_problems->pathOf(place.file))) {
+        return;
     }
-    if (m_scroll > 0) {
-        // The rows are laid out first: the range of the bar is that of none.
-        executeDelayedItemsLayout();
-        verticalScrollBar()->setValue(m_scroll);
+    m_problems->updateState();
+    if (Family::FamilyDocument* document = m_problems->documentOf(place.file)) {
+        m_services.jumps->showPlace(document, place.line - 1, place.column - 1, 0);
     }
-    m_isUpdating = false;
-    m_scroll = 0;
-    emit summaryChanged();
 }
 
 }  // namespace App

@@ -5,6 +5,7 @@
 #include "app/code/documenttabs.h"
 #include "app/main/mainwindow.h"
 #include "app/messages/messagepanel.h"
+#include "app/messages/problemwatch.h"
 #include "app/session/gamesession.h"
 #include "app/stage/stagecommands.h"
 #include "app/stage/stagerenderer.h"
@@ -105,6 +106,7 @@ void showProblem(MainWindow* window, const FamilyDocument* document)
 {
     const Zorv::Message first = document->messages()->at(0);
     window->textEditor()->goTo(first.line, first.column);
+    window->problems()->settle();
     window->messagePanel()->showMessagesOf(document);
 }
 

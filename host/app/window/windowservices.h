@@ -2,6 +2,12 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
+namespace Operations {
+struct Removal;
+}
+
 namespace App {
 
 class ActionRegistry;
@@ -22,6 +28,9 @@ struct WindowServices
     EditorRegistry* editors = nullptr;
     PartList* parts = nullptr;
     Jumps* jumps = nullptr;
+
+    /// Asks before something is removed that is used elsewhere, and tells where. True to remove it.
+    std::function<bool(const Operations::Removal& removal)> mayRemove;
 };
 
 }  // namespace App

@@ -1,11 +1,19 @@
 #include "family/check/problem.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <tuple>
 
 namespace Family {
 
 namespace {
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Family)
+};
 
 auto sortKey(const Problem& problem)
 {
@@ -32,6 +40,19 @@ QString problemLine(const Problem& problem)
     return QStringLiteral("%1:%2:%3: ")
                .arg(problem.file, QString::number(problem.line), QString::number(problem.column)) +
            levelName(problem.level) + QLatin1String(": ") + problem.text;
+}
+
+void ProblemTally::add(const Problems& problems)
+{
+    for (const Problem& problem : problems) {
+        ++(problem.level == Level::Error ? errors : warnings);
+    }
+}
+
+QString ProblemTally::inWords() const
+{
+    return Text::tr("%1, %2").arg(Text::tr("%n error(s)", nullptr, errors),
+                                  Text::tr("%n warning(s)", nullptr, warnings));
 }
 
 }  // namespace Family

@@ -29,4 +29,22 @@ void sortProblems(Problems* problems);
 /// "file:line:column: error: text".
 QString problemLine(const Problem& problem);
 
+/// How many problems there are.
+struct ProblemTally
+{
+    int errors = 0;
+    int warnings = 0;  ///< and what is deprecated
+
+    void add(const Problems& problems);
+    bool isEmpty() const { return errors + warnings == 0; }
+
+    /// "3 errors, 1 warning".
+    QString inWords() const;
+
+    bool operator==(const ProblemTally& other) const
+    {
+        return errors == other.errors && warnings == other.warnings;
+    }
+};
+
 }  // namespace Family

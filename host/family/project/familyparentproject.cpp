@@ -13,6 +13,7 @@
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <QUuid>
 #include <algorithm>
 #include <memory>
@@ -211,6 +212,59 @@ QString FamilyParentProject::runPath(int, const QString& name, bool* wholeFolder
     *wholeFolder = true;
     return name + QLatin1Char('-') + QUuid::createUuid().toString(QUuid::WithoutBraces) +
            QLatin1Char('/');
+}
+
+void FamilyParentProject::setProblems(const QHash<QString, Problems>& problems)
+{
+    QHash<QString, ProblemTally> counts;
+    const QString root = QDir::cleanPath(absolutePath());
+    for (auto it = problems.cbegin(); it != problems.cend(); ++it) {
+        for (QString path = it.key(); path.size() > root.size(); path = QFileInfo(path).path()) {
+            counts[path].add(it.value());
+        }
+    }
+    counts.swap(m_problems);
+    QSet<QString> paths;
+    for (const auto* each : {&counts, &m_problems}) {
+        for (auto it = each->cbegin(); it != each->cend(); ++it) {
+            if (!(counts.value(it.key()) == m_problems.value(it.key()))) {
+                paths.insert(it.key());
+            }
+        }
+    }
+    for (const QString& path : qAsConst(paths)) {
+        const QModelIndex index = indexOf(path);
+        if (index.isValid()) {
+            emit dataChanged(index, index);
+        }
+    }
+}
+
+QVariant FamilyParentProject::data(const QModelIndex& index, int role) const
+{
+    const QVariant value = ParentProject::data(index, role);
+    const Path* item = role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole ||
+                               role == ErrorRole || role == WarningRole
+                           ? itemPath(index)
+                           : nullptr;
+    if (!item) {
+        return value;
+    }
+    // A main file of a closed project gives the path of its folder.
+    const bool isMainFile = item->isProject() && !item->isDirectory();
+    const QString path = item->absolutePath() + (isMainFile ? item->pathName() : QString());
+    const ProblemTally count = m_problems.value(QDir::cleanPath(path));
+    switch (role) {
+    case ErrorRole:
+        return count.errors;
+    case WarningRole:
+        return count.warnings;
+    case Qt::AccessibleDescriptionRole:
+        return count.isEmpty() ? value : QVariant(count.inWords());
+    default:
+        return count.isEmpty() ? value
+                               : QVariant(value.toString() + QLatin1Char('\n') + count.inWords());
+    }
 }
 
 void FamilyParentProject::lastReferenceGone()

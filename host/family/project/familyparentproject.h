@@ -1,6 +1,10 @@
 #pragma once
 
+#include "family/check/problem.h"
+
 #include <zorv/core/parentproject.h>
+
+#include <QHash>
 
 namespace Family {
 
@@ -42,12 +46,23 @@ public:
     /// what `FamilyEngineModel::gameProgram()` says.
     bool mayStart(const QString& executable) override;
 
+    /// What is wrong with the files of the tree, by absolute path. Folders show what lies in them.
+    void setProblems(const QHash<QString, Problems>& problems);
+
+    /// The number of errors, and of warnings, of a row.
+    enum Role { ErrorRole = Qt::UserRole + 1, WarningRole };
+
+    /// With what is wrong in the tool tip, and as `Qt::AccessibleDescriptionRole`.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
 signals:
     /// The last project has gone; the host may delete this object later.
     void unused();
 
 private:
     void addLooseFolder(const QString& folder);
+
+    QHash<QString, ProblemTally> m_problems;  // by path, without "/" at its end
 };
 
 }  // namespace Family

@@ -31,7 +31,10 @@ constexpr int LookShare = 50;
 /// tells now and then what it has found, up to which task.
 struct BackgroundCheck::Worker : public QThread
 {
-    Worker(BackgroundCheck* owner, const QString& folder) : q(owner), check(folder) {}
+    Worker(BackgroundCheck* owner, const QString& path)
+        : q(owner), check(path), folder(check.folder())
+    {
+    }
 
     void run() override;
     void post(const Task& task);
@@ -45,6 +48,7 @@ struct BackgroundCheck::Worker : public QThread
 
     BackgroundCheck* q;
     GameCheck check;
+    const QString folder;
     QMutex mutex;
     QWaitCondition news;
     QWaitCondition idle;
@@ -232,6 +236,11 @@ void BackgroundCheck::prefer(const QStringList& mainFiles)
 void BackgroundCheck::look()
 {
     post([](GameCheck& check) { check.look(); });
+}
+
+QString BackgroundCheck::folder() const
+{
+    return m_worker ? m_worker->folder : QString();
 }
 
 bool BackgroundCheck::isDone() const

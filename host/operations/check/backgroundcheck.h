@@ -37,6 +37,9 @@ public:
     void prefer(const QStringList& mainFiles);
     /// @}
 
+    /// The folder to which names are relative; empty without a game.
+    QString folder() const;
+
     /// Looks at the disk now.
     void look();
 

@@ -2,6 +2,9 @@
 
 #include "family/assets/remapmodel.h"
 #include "family/assets/spritecollection.h"
+#include "family/familyanimations.h"
+#include "family/familydocument.h"
+#include "family/nodes/animationnode.h"
 #include "family/project/familyparentproject.h"
 
 #include <QCoreApplication>
@@ -69,6 +72,17 @@ void collectReferences(const ProjectFindings& project, const QString& path, QSet
 }
 
 }  // namespace
+
+Removal removalOf(const Family::FamilyDocument& document, const QVector<int>& rows)
+{
+    Removal removal{Removal::Animations, document.fileName(), {}, {}};
+    const Family::FamilyAnimations* list = document.animations();
+    for (int row = 0; row < list->count(); ++row) {
+        (rows.contains(row) ? removal.names : removal.staying)
+            .append(list->animation(row)->identifier());
+    }
+    return removal;
+}
 
 QVector<NamedPlace> usesOf(const Removal& removal, const ProjectsFound& projects)
 {

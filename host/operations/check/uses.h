@@ -3,6 +3,7 @@
 #include "family/check/projectcheck.h"
 
 namespace Family {
+class FamilyDocument;
 class FamilyPalette;
 class SpriteCollection;
 }  // namespace Family
@@ -21,6 +22,21 @@ struct Removal
     QStringList names;    ///< "GROUP,NUMBER", or identifiers of animations
     QStringList staying;  ///< those of what stays in the file: it takes the place of its namesakes
 };
+
+/// Of the rows of a list of sprites or sounds, those to be removed.
+template <class List>
+Removal removalOf(Removal::Kind kind, const List& list, const QVector<int>& rows)
+{
+    Removal removal{kind, list.fileName(), {}, {}};
+    for (int row = 0; row < list.items().size(); ++row) {
+        (rows.contains(row) ? removal.names : removal.staying)
+            .append(list.items()[row]->id().text());
+    }
+    return removal;
+}
+
+/// Likewise of the animations of a document.
+Removal removalOf(const Family::FamilyDocument& document, const QVector<int>& rows);
 
 /// The places that name what would not be there any more, each once, in the order of files and
 /// lines. `NamedPlace::name` is the name that stands there.
