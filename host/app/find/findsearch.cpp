@@ -235,13 +235,13 @@ QString FindSearch::countText() const
         return tr("No matches");
     }
     if (m_counter.isCapped()) {
-        return index < 0 ? tr("more than %1 matches").arg(number)
+        return index < 0 ? tr("more than %n match(es)", nullptr, count)
                          : tr("%1 of more than %2").arg(QString::number(index + 1), number);
     }
     if (index >= 0) {
         return tr("%1 of %2").arg(QString::number(index + 1), number);
     }
-    return count == 1 ? tr("1 match") : tr("%1 matches").arg(number);
+    return tr("%n match(es)", nullptr, count);
 }
 
 QString FindSearch::state() const

@@ -114,10 +114,10 @@ void RestoreDialog::showFiles()
                                [](const auto& file) { return file.change == RestoredFile::Same; }),
                 files.end());
     m_restore->setEnabled(error.isEmpty());
-    m_summary->setText(error.isEmpty()
-                           ? tr("%1 of %2 files differ from those on the disk:")
-                                 .arg(QString::number(files.size()), QString::number(all))
-                           : error);
+    m_summary->setText(
+        error.isEmpty()
+            ? tr("%1 of %n file(s) differ from those on the disk:", nullptr, all).arg(files.size())
+            : error);
     QList<QTreeWidgetItem*> items;
     for (const RestoredFile& file : files.mid(0, MaxFiles)) {
         items.append(

@@ -112,7 +112,7 @@ void EnginesPage::retranslate()
         label->setText(text);
         label->setBuddy(widget);
     }
-    m_help->setText(tr("The parameters are divided at blanks. Each mark becomes the name of the "
+    m_help->setText(tr("Blanks separate the parameters. Each mark becomes the name of the "
                        "copy of a project: %0 of the project in front, %1 of the first open "
                        "project, %2 of the second, and so on. At least one mark is needed."));
     showProblem();

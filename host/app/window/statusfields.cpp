@@ -30,6 +30,13 @@ QString stateOf(const Family::FamilyDocument* document)
     return document->isModified() ? StatusFields::tr("Modified") : StatusFields::tr("Saved");
 }
 
+/// What is read aloud says what the text is, and the text.
+void setText(QLabel* label, const QString& text, const QString& name)
+{
+    label->setText(text);
+    label->setAccessibleName(text.isEmpty() ? QString() : name.arg(text));
+}
+
 void setHelp(QToolButton* button, const QString& help)
 {
     button->setToolTip(help);
@@ -64,16 +71,13 @@ void StatusFields::retranslate()
     setHelp(m_encoding, tr("Encoding of the file. Click to change it."));
     setHelp(m_place, tr("Line and column. Click to go to a line."));
     setStagePlace({});
-    m_stage->setAccessibleName(tr("Place of the pointer on the stage"));
-    m_state->setAccessibleName(tr("State of the file"));
-    m_lineEnds->setAccessibleName(tr("Line ends of the file"));
     m_bar->clearMessage();
     updateFile();
 }
 
 void StatusFields::updateProblemHelp()
 {
-    const QString help = tr("Problems of the project. Click for the list.");
+    const QString help = tr("Problems of the game. Click for the list.");
     setHelp(m_problems, m_document && !m_fileProblems.isEmpty()
                             ? help + QLatin1Char('\n') + m_fileProblems
                             : help);
@@ -100,9 +104,10 @@ void StatusFields::gameChanged()
 
 void StatusFields::updateFile()
 {
-    m_state->setText(m_document ? stateOf(m_document) : QString());
+    setText(m_state, m_document ? stateOf(m_document) : QString(), tr("State of the file: %1"));
     const QString note = m_document ? Operations::lineEndNote(m_document) : QString();
-    m_lineEnds->setText(note.isEmpty() ? QString() : tr("Line ends: converted when saved"));
+    setText(m_lineEnds, note.isEmpty() ? QString() : tr("Line ends: converted when saved"),
+            QStringLiteral("%1"));
     m_lineEnds->setToolTip(note);
     m_lineEnds->setVisible(!note.isEmpty());
     m_encoding->setText(m_document ? tr("Encoding: %1").arg(m_document->codecName()) : QString());
@@ -123,7 +128,7 @@ void StatusFields::setProblems(const QString& text)
 
 void StatusFields::setStagePlace(const QString& text)
 {
-    m_stage->setText(text);
+    setText(m_stage, text, tr("Place of the pointer on the stage: %1"));
     m_stage->setVisible(!text.isEmpty());
 }
 

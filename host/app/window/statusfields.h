@@ -12,7 +12,7 @@ class QToolButton;
 
 namespace App {
 
-/// The fields of the status bar: problems of the project, state of the file, its
+/// The fields of the status bar: problems of the game, state of the file, its
 /// line ends and encoding, place of the cursor. Those that can be clicked are
 /// buttons, and reached by the keyboard.
 class StatusFields : public QObject, public Part
@@ -29,11 +29,11 @@ public:
     /// Brings state, line ends and encoding up to date.
     void updateFile();
 
-    /// How many problems the project has, in words.
+    /// How many problems the game has, in words.
     void setProblems(const QString& text);
 
     /// Field 0 is the place, 1 how many problems the file has, which is told with those of
-    /// the project, and 2 the encoding; any other number shows a passing text.
+    /// the game, and 2 the encoding; any other number shows a passing text.
     void showField(int field, const QString& text);
 
     /// Where the pointer is on the stage, in words; empty for elsewhere.
