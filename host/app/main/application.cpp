@@ -1,6 +1,8 @@
 #include "app/main/application.h"
 
+#include "app/code/codeview.h"
 #include "app/dialogs/windowdialogs.h"
+#include "app/look/firstframe.h"
 #include "app/look/icon.h"
 #include "app/look/look.h"
 #include "app/main/mainwindow.h"
@@ -13,6 +15,8 @@
 #include "operations/engines.h"
 #include "operations/familydata.h"
 #include "operations/recovery/sessionfolder.h"
+
+#include <zorv/editors/code/codeworkspace.h>
 
 #include <QApplication>
 #include <QSettings>
@@ -131,18 +135,20 @@ int runWindow(QApplication&, const QStringList& arguments)
     Operations::useEngines(settings);
     applyLook();
     const WindowDialogs dialogs;
-    QString dataError;
-    Operations::prepareFamilyData(&dataError);
     MainWindow window;
     host.setWindow(&window);
     WorkRecovery recovery(window.services(), Operations::SessionFolder::defaultRoot());
     window.show();
     window.restoreWork(usage.game);
-    recovery.offerAll();
-    RunCommands::offerLeftovers();
-    if (!dataError.isEmpty()) {
-        host.showStatus(0, dataError);
-    }
+    afterFirstFrame(&window, [&] {
+        QString dataError;
+        if (!Operations::prepareFamilyData(&dataError)) {
+            host.showStatus(0, dataError);
+        }
+        window.code()->workspace()->engineSwitched(true);
+        recovery.offerAll();
+        RunCommands::offerLeftovers();
+    });
     return QApplication::exec();
 }
 

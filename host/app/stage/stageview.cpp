@@ -44,7 +44,6 @@ StageView::StageView(QWidget* parent)
 {
     m_bar->setObjectName(QStringLiteral("stage_tools"));
     m_bar->setIconSize(ButtonSize);
-    m_pages->addWidget(makeStage());
     m_pages->addWidget(m_hint);
     m_hint->setEnabled(false);
     m_line->setEnabled(false);
@@ -119,12 +118,15 @@ void StageView::setHint(const QString& text)
 {
     m_hint->setText(text);
     m_line->setText(text);
-    m_pages->setCurrentIndex(text.isEmpty() || !m_widget ? 0 : 1);
+    m_pages->setCurrentWidget(text.isEmpty() || !m_widget ? m_pages->widget(0) : m_hint);
 }
 
 void StageView::setEmpty(bool isEmpty)
 {
     m_isEmpty = isEmpty;
+    if (isVisible()) {
+        ensureStage();
+    }
     m_line->setVisible(isEmpty);
     m_pages->setHidden(isEmpty);
     showWhatFits();
@@ -143,6 +145,21 @@ QSize StageView::minimumSizeHint() const
 {
     return {SmallestStage.width(),
             m_isEmpty ? m_line->sizeHint().height() : SmallestStage.height()};
+}
+
+void StageView::showEvent(QShowEvent* event)
+{
+    ensureStage();
+    QWidget::showEvent(event);
+}
+
+void StageView::ensureStage()
+{
+    if (m_pages->count() == 1 && !m_isEmpty) {
+        m_pages->insertWidget(0, makeStage());
+        retranslate();
+        setHint(m_hint->text());
+    }
 }
 
 void StageView::resizeEvent(QResizeEvent* event)

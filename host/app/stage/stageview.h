@@ -18,8 +18,9 @@ class StageRenderer;
 
 /// The stage of the window with its tool bar and time line.
 ///
-/// Without usable GL a message in plain words stands in place of the stage, and no GL widget is
-/// made; the renderer is there all the same, on no widget.
+/// The stage is made when the view is shown first: a start without a frame to show pays for no GL.
+/// Without usable GL a message in plain words stands in its place, and no GL widget is made; the
+/// renderer is there all the same, on no widget.
 class StageView : public QWidget
 {
     Q_OBJECT
@@ -28,12 +29,12 @@ public:
     explicit StageView(QWidget* parent = nullptr);
     ~StageView() override;
 
-    /// False without usable GL.
+    /// False without usable GL, and before the view was shown.
     bool isUsable() const { return m_widget; }
 
     StageRenderer* renderer() const { return m_renderer; }
 
-    /// Null without usable GL.
+    /// Null while `isUsable()` is false.
     Zorv::RenderWidget* stage() const { return m_widget; }
     Zorv::TimeLineWidget* timeLine() const { return m_timeLine; }
     QToolBar* bar() const { return m_bar; }
@@ -75,6 +76,7 @@ signals:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
     /// Keys of the stage are its own: Escape does not lead from a drawing straight into the text.
     void keyPressEvent(QKeyEvent* event) override;
@@ -84,6 +86,7 @@ private:
     void retranslate();
     void keepOrigin(QSize size);
     void showWhatFits();
+    void ensureStage();
 
     StageRenderer* m_renderer;
     Zorv::RenderWidget* m_widget = nullptr;
