@@ -325,6 +325,14 @@
         <source>&amp;Body boxes</source>
         <translation>Kö&amp;rperboxen</translation>
     </message>
+    <message>
+        <source>Move line &amp;up</source>
+        <translation>Zeile nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move line do&amp;wn</source>
+        <translation>Zeile nach &amp;unten</translation>
+    </message>
 </context>
 <context>
     <name>App::AnimationCommands</name>

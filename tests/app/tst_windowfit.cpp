@@ -115,7 +115,7 @@ void TestWindowFit::emptyPartsAreLines()
     QTRY_VERIFY(m.window()->messagePanel()->height() < line);
     // The first frame brings the stage.
     m.fixture.edit()->textCursor().insertText(QStringLiteral("animation 1\nframe 0,0"));
-    QTRY_VERIFY(m.view()->stage()->isVisible());
+    QTRY_VERIFY(m.view()->stage() && m.view()->stage()->isVisible());
     QVERIFY(m.view()->height() > line);
 }
 

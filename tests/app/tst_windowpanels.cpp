@@ -1,19 +1,29 @@
 #include "windowfixture.h"
 
+#include "app/actions/actionregistry.h"
+#include "app/assets/spritelist.h"
+#include "app/assets/spritepanel.h"
+#include "app/stage/stagecommands.h"
+#include "app/stage/stageview.h"
 #include "family/nodes/animationnode.h"
 
+#include <zorv/animation/timeline/timelinewidget.h>
 #include <zorv/core/messagelist.h>
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTextBlock>
+#include <QTimer>
 #include <QToolTip>
 
 using App::MainWindow;
@@ -44,6 +54,9 @@ private slots:
     void dropsAnimations_data();
     void dropsAnimations();
     void refusesDropsFromElsewhere();
+    void hasMenusAtThePointer_data();
+    void hasMenusAtThePointer();
+    void movesWhatHasTheFocus();
 
 private:
     MainWindow* window() const { return m->window.get(); }
@@ -384,6 +397,81 @@ void TestWindowPanels::refusesDropsFromElsewhere()
     QVERIFY(window()->openFile(m_game->ryn()));
     QVERIFY(!model->dropMimeData(own.get(), Qt::MoveAction, 0, 0, {}));
     QVERIFY(!m->document()->isModified());
+}
+
+void TestWindowPanels::hasMenusAtThePointer_data()
+{
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<QString>("action");
+    QTest::newRow("stage") << "stage"
+                           << "anim_next_frame";
+    QTest::newRow("time line") << "time line"
+                               << "anim_play";
+    QTest::newRow("animations") << "animations"
+                                << "org_down";
+    QTest::newRow("game") << "game"
+                          << "close_project";
+    QTest::newRow("nodes") << "nodes"
+                           << "code_fold_all";
+    QTest::newRow("tabs") << "tabs"
+                          << "close_text";
+    QTest::newRow("sprites") << "sprites"
+                             << "sprite_add";
+}
+
+/// By the mouse, and by both keys that mean it; of the actions of the window alone.
+void TestWindowPanels::hasMenusAtThePointer()
+{
+    QFETCH(QString, part);
+    QFETCH(QString, action);
+    openAnimations();
+    m->goTo(0);
+    App::StageView* stage = window()->stage()->view();
+    const QHash<QString, QWidget*> parts{{"stage", stage},
+                                         {"time line", stage->timeLine()},
+                                         {"animations", animations()},
+                                         {"game", window()->gameTree()},
+                                         {"nodes", m->tree()},
+                                         {"tabs", window()->tabs()->bar()},
+                                         {"sprites", window()->spritePanel()->list()}};
+    QWidget* widget = parts.value(part);
+    const QPoint place = widget->rect().center();
+    bool isThere = false;
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&] {
+        if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            isThere = menu->actions().contains(m->action(qPrintable(action)));
+            menu->close();
+        }
+    });
+    watch.start(0);
+    for (const auto reason : {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard}) {
+        isThere = false;
+        QContextMenuEvent event(reason, place, widget->mapToGlobal(place));
+        QApplication::sendEvent(widget, &event);
+        QTRY_VERIFY(isThere);
+    }
+    isThere = false;
+    QTest::keyClick(widget, Qt::Key_F10, Qt::ShiftModifier);
+    QTRY_VERIFY(isThere);
+}
+
+void TestWindowPanels::movesWhatHasTheFocus()
+{
+    openAnimations();
+    const QString before = m->document()->text();
+    m->goTo(4);
+    m->edit()->setFocus();
+    m->press(Qt::Key_Up, Qt::AltModifier);
+    QVERIFY(m->document()->text().startsWith(
+        QStringLiteral("animation 1 \"One\"\nbody 0,0, 9,9\nframe 0,0 loop\nanimation 2")));
+    m->action("undo")->trigger();
+    QCOMPARE(m->document()->text(), before);
+    m->goTo(4);
+    animations()->setFocus();
+    QTest::keyClick(animations(), Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(order(), QStringLiteral("2 1 3"));
+    QVERIFY(window()->registry()->clashes().isEmpty());
 }
 
 QTEST_MAIN(TestWindowPanels)

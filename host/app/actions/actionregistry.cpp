@@ -86,6 +86,19 @@ struct ActionRegistry::Private
         entry.action->setShortcut(QKeySequence(chosen.toString(), QKeySequence::PortableText));
     }
 
+    /// Keys of one widget each do not meet: one of the two has the focus.
+    static bool canMeet(const Entry& one, const Entry& other)
+    {
+        const bool areOfWidgets = one.action && isOfWidget(one.action) && isOfWidget(other.action);
+        return !areOfWidgets && ActiveAreas::canMeet(one.info.areas, other.info.areas);
+    }
+
+    static bool isOfWidget(const QAction* action)
+    {
+        return action->shortcutContext() == Qt::WidgetShortcut ||
+               action->shortcutContext() == Qt::WidgetWithChildrenShortcut;
+    }
+
     /// The key of `entry` that is in the way of one of `keys`; empty if none is.
     static QKeySequence keyInTheWay(const Entry& entry, const QList<QKeySequence>& keys)
     {
@@ -255,7 +268,7 @@ QVector<KeyClash> ActionRegistry::clashes() const
         for (auto second = first + 1; !own.isEmpty() && second != d->names.cend(); ++second) {
             const Entry& other = d->entries[*second];
             const QKeySequence key = Private::keyInTheWay(other, own);
-            if (!key.isEmpty() && ActiveAreas::canMeet(entry.info.areas, other.info.areas)) {
+            if (!key.isEmpty() && Private::canMeet(entry, other)) {
                 found.append({*first, *second, key});
             }
         }
@@ -265,12 +278,12 @@ QVector<KeyClash> ActionRegistry::clashes() const
 
 QStringList ActionRegistry::clashesOf(const QString& name, const QKeySequence& key) const
 {
-    const QStringList own = areas(name);
+    const Entry own = d->entries.value(name);
     QStringList found;
     std::copy_if(d->names.cbegin(), d->names.cend(), std::back_inserter(found),
                  [&](const QString& other) {
                      const Entry& entry = d->entries[other];
-                     return other != name && ActiveAreas::canMeet(own, entry.info.areas) &&
+                     return other != name && Private::canMeet(own, entry) &&
                             !Private::keyInTheWay(entry, {key}).isEmpty();
                  });
     return found;

@@ -18,6 +18,7 @@
 #include "app/game/recentmenu.h"
 #include "app/look/look.h"
 #include "app/look/plaintexts.h"
+#include "app/main/contextmenus.h"
 #include "app/main/windowcommands.h"
 #include "app/main/windowstate.h"
 #include "app/messages/messagepanel.h"
@@ -79,6 +80,16 @@ void nameButton(const QDockWidget* dock, const char* button, const QString& name
     }
 }
 
+void keepKeysTo(QWidget* widget, const QList<QAction*>& actions)
+{
+    for (QAction* action : actions) {
+        if (widget && action) {
+            action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+            widget->addAction(action);
+        }
+    }
+}
+
 }  // namespace
 
 MainWindow::MainWindow(QWidget* parent)
@@ -132,6 +143,10 @@ void MainWindow::publishTools()
     m_services.parts->begin();
     m_actions->place((new RecentMenu(this, this))->menuAction(), "file.open");
     m_controls->fillMainBar();
+    // Both move what is selected up and down, each while it has the focus.
+    keepKeysTo(m_code->editor(), {actionByName("code_line_up"), actionByName("code_line_down")});
+    keepKeysTo(m_animations->list(), {actionByName("org_up"), actionByName("org_down")});
+    new ContextMenus(this);
     retranslate();
     WindowState::restoreShape(this);
     m_controls->updateVisibility();

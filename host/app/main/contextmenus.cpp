@@ -1,0 +1,122 @@
+#include "app/main/contextmenus.h"
+
+#include "app/animations/animationcommands.h"
+#include "app/assets/rowlist.h"
+#include "app/assets/soundpanel.h"
+#include "app/assets/spritelist.h"
+#include "app/assets/spritepanel.h"
+#include "app/code/codetexteditor.h"
+#include "app/code/documenttabs.h"
+#include "app/game/gametree.h"
+#include "app/main/mainwindow.h"
+#include "app/stage/stagecommands.h"
+#include "app/stage/stagerenderer.h"
+#include "app/stage/stageview.h"
+
+#include <zorv/animation/timeline/timelinewidget.h>
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QTabBar>
+#include <QTreeView>
+#include <algorithm>
+
+namespace App {
+
+namespace {
+
+/// Where a menu that is asked for by keys opens.
+QPoint placeForKeys(const QWidget* widget)
+{
+    if (const auto* view = qobject_cast<const QAbstractItemView*>(widget)) {
+        return view->viewport()->mapTo(widget, view->visualRect(view->currentIndex()).bottomLeft());
+    }
+    if (const auto* tabs = qobject_cast<const QTabBar*>(widget)) {
+        return tabs->tabRect(tabs->currentIndex()).bottomLeft();
+    }
+    return widget->rect().center();
+}
+
+}  // namespace
+
+ContextMenus::ContextMenus(MainWindow* window) : QObject(window), m_window(window)
+{
+    StageView* stage = window->stage()->view();
+    add(stage->timeLine(), {"anim_play", "anim_stop", nullptr, "anim_prev_frame", "anim_next_frame",
+                            nullptr, "anim_onion_skin"});
+    add(stage, {"anim_play", "anim_stop", "anim_prev_frame", "anim_next_frame", nullptr,
+                "anim_box_add_attack", "anim_box_add_collision", "anim_box_del", "stage_capture",
+                nullptr, "anim_onion_skin", "view_rulers", "view_guide_lines", "view_attack_box",
+                "view_collision_box", nullptr, "view_center_origin"});
+    add(window->animations()->list(),
+        {"anim_add", "anim_duplicate", "anim_remove", nullptr, "org_up", "org_down", "org_top",
+         "org_bottom", nullptr, "org_auto"});
+    add(window->gameTree(),
+        {"run", nullptr, "save_all", "backup", nullptr, "close_project", "close_folder"});
+    add(window->textEditor()->tree(),
+        {"anim_add", nullptr, "code_definition", "code_fold", "code_fold_all", "code_unfold_all"});
+    // With the actions that their commands have given them.
+    add(window->spritePanel()->list(), {});
+    add(window->soundPanel()->list(), {});
+    add(window->tabs()->bar(),
+        {"save", "close_text", nullptr, "next_text", "previous_text", nullptr, "encoding"});
+}
+
+void ContextMenus::add(QWidget* widget, const QVector<const char*>& actions)
+{
+    if (widget) {
+        widget->installEventFilter(this);
+        m_places.append({widget, actions});
+    }
+}
+
+bool ContextMenus::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto place = std::find_if(m_places.cbegin(), m_places.cend(),
+                                    [watched](const Place& p) { return p.widget == watched; });
+    if (place == m_places.cend()) {
+        return false;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        return key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier &&
+               open(*place, nullptr);
+    }
+    if (event->type() == QEvent::ContextMenu) {
+        const auto* asked = static_cast<QContextMenuEvent*>(event);
+        const QPoint pointer = place->widget->mapFromGlobal(asked->globalPos());
+        return open(*place, asked->reason() == QContextMenuEvent::Mouse ? &pointer : nullptr);
+    }
+    return false;
+}
+
+/// The right button ends the drawing of boxes, and no menu comes then.
+bool ContextMenus::open(const Place& place, const QPoint* pointer)
+{
+    const StageView* stage = m_window->stage()->view();
+    if (place.widget == stage && stage->renderer()->clickMode() != StageRenderer::PositioningMode) {
+        return false;
+    }
+    auto* tabs = qobject_cast<QTabBar*>(place.widget);
+    if (tabs && pointer && tabs->tabAt(*pointer) >= 0) {
+        tabs->setCurrentIndex(tabs->tabAt(*pointer));
+    }
+    auto* menu = new QMenu(place.widget);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (place.actions.isEmpty()) {
+        menu->addActions(place.widget->actions());
+    }
+    for (const char* name : place.actions) {
+        QAction* action = name ? m_window->actionByName(name) : menu->addSeparator();
+        if (action && name) {
+            menu->addAction(action);
+        }
+    }
+    menu->popup(place.widget->mapToGlobal(pointer ? *pointer : placeForKeys(place.widget)));
+    return true;
+}
+
+}  // namespace App
