@@ -2,6 +2,7 @@
 
 #include "app/stage/onioncontrols.h"
 #include "support/gltest.h"
+#include "support/monkey.h"
 #include "support/randomtext.h"
 
 #include <zorv/animation/timeline/timelinewidget.h>
@@ -13,7 +14,6 @@ namespace {
 
 constexpr quint32 Seed = 20261122;
 constexpr int Events = 20000;
-constexpr int Round = 100;
 constexpr int MostLines = 60;
 constexpr int Discard = 1;  // in the question about what is unsaved
 
@@ -69,22 +69,15 @@ const char* const Actions[] = {"anim_play",
                                "anim_remove"};
 
 /// Does something at random to the stage and to its text.
-class Monkey
+class Monkey : public MonkeyOf<Monkey>
 {
 public:
     Monkey();
 
-    void act();
+    void tidy();
     QString fault();
 
 private:
-    int number(int end) { return random.bounded(std::max(end, 1)); }
-    bool chance(int of) { return number(of) == 0; }
-    template <class Value, std::size_t count>
-    Value anyOf(const Value (&values)[count])
-    {
-        return values[number(int(count))];
-    }
     Qt::KeyboardModifiers anyModifiers()
     {
         static const Qt::KeyboardModifiers modifiers[] = {
@@ -114,37 +107,33 @@ private:
     void resizeOrClose();
     void wait();
 
-    QRandomGenerator random{Seed};
     StageFixture m;
-    std::vector<std::pair<int, void (Monkey::*)()>> actions;
 };
 
 }  // namespace
 
 Monkey::Monkey()
-    : actions{
-          {40, &Monkey::press},        {60, &Monkey::move},          {40, &Monkey::release},
-          {8, &Monkey::turnTheWheel},  {25, &Monkey::keyOnStage},    {15, &Monkey::keyInText},
-          {15, &Monkey::type},         {10, &Monkey::edit},          {15, &Monkey::undoOrRedo},
-          {20, &Monkey::trigger},      {20, &Monkey::goSomewhere},   {10, &Monkey::scrub},
-          {4, &Monkey::changeSprites}, {1, &Monkey::changeSettings}, {1, &Monkey::resizeOrClose},
-          {10, &Monkey::wait}}
+    : MonkeyOf(Seed, {{40, &Monkey::press},
+                      {60, &Monkey::move},
+                      {40, &Monkey::release},
+                      {8, &Monkey::turnTheWheel},
+                      {25, &Monkey::keyOnStage},
+                      {15, &Monkey::keyInText},
+                      {15, &Monkey::type},
+                      {10, &Monkey::edit},
+                      {15, &Monkey::undoOrRedo},
+                      {20, &Monkey::trigger},
+                      {20, &Monkey::goSomewhere},
+                      {10, &Monkey::scrub},
+                      {4, &Monkey::changeSprites},
+                      {1, &Monkey::changeSettings},
+                      {1, &Monkey::resizeOrClose},
+                      {10, &Monkey::wait}})
 {
 }
 
-void Monkey::act()
+void Monkey::tidy()
 {
-    int weight = 0;
-    for (const auto& action : actions) {
-        weight += action.first;
-    }
-    int chosen = number(weight);
-    for (const auto& [share, action] : actions) {
-        if ((chosen -= share) < 0) {
-            (this->*action)();
-            break;
-        }
-    }
     if (m.document()->blockCount() > MostLines || m.document()->blockCount() < 4) {
         m.document()->setPlainText("animation 1\n" + Text.lines(random, 30));
     }
@@ -323,16 +312,7 @@ private slots:
 
 void TestStageMonkey::survives()
 {
-    qInfo("seed %u", Seed);
-    Monkey monkey;
-    for (int i = 1; i <= Events; ++i) {
-        monkey.act();
-        if (i % Round == 0) {
-            QCoreApplication::processEvents();
-            const QString fault = monkey.fault();
-            QVERIFY2(fault.isEmpty(), qPrintable(QStringLiteral("event %1: %2").arg(i).arg(fault)));
-        }
-    }
+    Monkey().survive(Events);
 }
 
 ZORV_GL_TEST_MAIN(TestStageMonkey)

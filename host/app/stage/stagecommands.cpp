@@ -539,7 +539,8 @@ QString StageCommands::info() const
                         QString::number(frame->spriteNumber()));
     }
     const int ticks = m_controller->ticks().total();
-    return place + QLatin1String(" - ") + (ticks < 0 ? tr("endless") : tr("%n tick(s)", nullptr, ticks));
+    return place + QLatin1String(" - ") +
+           (ticks < 0 ? tr("endless") : tr("%n tick(s)", nullptr, ticks));
 }
 
 /// A dialog comes up: nothing moves behind it.

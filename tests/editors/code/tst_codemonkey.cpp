@@ -2,6 +2,7 @@
 
 #include "core/filesystemarchive.h"
 #include "showneditor.h"
+#include "support/monkey.h"
 #include "support/randomtext.h"
 
 #include <QAbstractItemView>
@@ -19,7 +20,6 @@ namespace {
 
 constexpr quint32 Seed = 20261121;
 constexpr int Events = 20000;
-constexpr int Round = 100;
 constexpr int MostLines = 250;
 
 const RandomText Text({"[1]", "[1*]", "!x", "!y*", "a=(1)", "b=2", "-f", "# note", "", "?e", "?w"},
@@ -46,18 +46,16 @@ const QKeySequence::StandardKey Sequences[] = {QKeySequence::Undo,
                                                QKeySequence::SelectNextWord};
 
 /// Does something at random to a code editor and its documents.
-class Monkey
+class Monkey : public MonkeyOf<Monkey>
 {
 public:
     Monkey();
     ~Monkey() { shown.editor.setDocument(nullptr); }
 
-    void act();
+    void tidy();
     QString fault() const;
 
 private:
-    int number(int end) { return int(random.bounded(quint32(std::max(end, 1)))); }
-    bool chance(int of) { return number(of) == 0; }
     QTextDocument* text() { return shown.editor.document(); }
     QTextBlock anyLine() { return text()->findBlockByNumber(number(text()->blockCount())); }
     QPoint placeIn(QWidget* widget)
@@ -83,10 +81,8 @@ private:
     void goSomewhere();
     void wait();
 
-    QRandomGenerator random{Seed};
     QTemporaryDir folder;
     std::array<std::unique_ptr<GrammarDocument>, 3> documents;
-    std::vector<std::pair<int, void (Monkey::*)()>> actions;
     ShownEditor shown;
 };
 
@@ -100,14 +96,22 @@ void move(QWidget* widget, const QPoint& place, Qt::MouseButtons buttons)
 }  // namespace
 
 Monkey::Monkey()
-    : actions{{60, &Monkey::type},         {60, &Monkey::press},
-              {20, &Monkey::clickInText},  {10, &Monkey::dragInText},
-              {20, &Monkey::hover},        {20, &Monkey::clickInGutter},
-              {10, &Monkey::dragInGutter}, {8, &Monkey::turnTheWheel},
-              {25, &Monkey::fold},         {10, &Monkey::editElsewhere},
-              {4, &Monkey::showAnother},   {2, &Monkey::replaceADocument},
-              {3, &Monkey::readAgain},     {4, &Monkey::changeTheWidget},
-              {8, &Monkey::goSomewhere},   {8, &Monkey::wait}}
+    : MonkeyOf(Seed, {{60, &Monkey::type},
+                      {60, &Monkey::press},
+                      {20, &Monkey::clickInText},
+                      {10, &Monkey::dragInText},
+                      {20, &Monkey::hover},
+                      {20, &Monkey::clickInGutter},
+                      {10, &Monkey::dragInGutter},
+                      {8, &Monkey::turnTheWheel},
+                      {25, &Monkey::fold},
+                      {10, &Monkey::editElsewhere},
+                      {4, &Monkey::showAnother},
+                      {2, &Monkey::replaceADocument},
+                      {3, &Monkey::readAgain},
+                      {4, &Monkey::changeTheWidget},
+                      {8, &Monkey::goSomewhere},
+                      {8, &Monkey::wait}})
 {
     for (auto& document : documents) {
         document = std::make_unique<GrammarDocument>(Text.lines(random, 80));
@@ -121,19 +125,8 @@ Monkey::Monkey()
     shown.editor.completerFromFile(words.fileName());
 }
 
-void Monkey::act()
+void Monkey::tidy()
 {
-    int weight = 0;
-    for (const auto& action : actions) {
-        weight += action.first;
-    }
-    int chosen = number(weight);
-    for (const auto& [share, action] : actions) {
-        if ((chosen -= share) < 0) {
-            (this->*action)();
-            break;
-        }
-    }
     if (text()->blockCount() > MostLines) {
         text()->setPlainText(Text.lines(random, 80));
     }
@@ -356,16 +349,7 @@ private slots:
 
 void TestCodeMonkey::survives()
 {
-    qInfo("seed %u", Seed);
-    Monkey monkey;
-    for (int i = 1; i <= Events; ++i) {
-        monkey.act();
-        if (i % Round == 0) {
-            QCoreApplication::processEvents();
-            const QString fault = monkey.fault();
-            QVERIFY2(fault.isEmpty(), qPrintable(QStringLiteral("event %1: %2").arg(i).arg(fault)));
-        }
-    }
+    Monkey().survive(Events);
 }
 
 QTEST_MAIN(TestCodeMonkey)
