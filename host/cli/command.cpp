@@ -50,7 +50,8 @@ constexpr Command table[] = {
      "it go along."},
     {"anim remove", "FILE ID...", 2, Command::Any, Arranging, removeAnimations,
      "Remove animations.",
-     "If one of them is not there, none is removed. Comments directly above one go with it."},
+     "If one of them is not there, none is removed. Comments directly above one go with it. What\n"
+     "still names one is told."},
     {"anim sort", "FILE", 1, 1, Arranging, sortAnimations,
      "Sort the animations.",
      "Numbers are sorted by value, words without regard to case. Comments directly above an\n"

@@ -7,9 +7,12 @@
 #include "family/familydocument.h"
 #include "family/nodepath.h"
 #include "family/nodes/animationnode.h"
+#include "family/project/familyparentproject.h"
 #include "operations/animationedits.h"
+#include "operations/check/uses.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QJsonObject>
 
 namespace Cli {
@@ -78,6 +81,21 @@ bool toPosition(const QString& text, int count, int* position, QString* error)
     return false;
 }
 
+/// What is removed may be missed: that is told, and no failure.
+void tellUses(const Operations::Removal& removal)
+{
+    const QDir game(Family::FamilyParentProject::folderOf(removal.path));
+    QVector<Family::NamedPlace> places =
+        Operations::usesOf(removal, Operations::projectsNaming(removal.path));
+    for (Family::NamedPlace& place : places) {
+        place.file = QDir::current().relativeFilePath(game.absoluteFilePath(place.file));
+    }
+    const QStringList lines = Operations::inWords(places);
+    for (const QString& line : lines) {
+        complain(tr("Still used: %1").arg(line));
+    }
+}
+
 }  // namespace
 
 int setCommand(const Invocation& invocation, Output& output)
@@ -132,7 +150,8 @@ int moveAnimation(const Invocation& invocation, Output& output)
 
 int removeAnimations(const Invocation& invocation, Output& output)
 {
-    return arrangeFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+    Operations::Removal removal;
+    const auto edit = [&](FamilyDocument* document, QString* error) {
         QVector<int> indexes;
         for (const QString& reference : invocation.operands.mid(1)) {
             const int index = Operations::findAnimation(document->animations(), reference, error);
@@ -141,9 +160,15 @@ int removeAnimations(const Invocation& invocation, Output& output)
             }
             indexes.append(index);
         }
+        removal = Operations::removalOf(*document, indexes);
         Operations::removeAnimations(document->animations(), indexes);
         return true;
-    });
+    };
+    const int status = arrangeFile(invocation, output, edit);
+    if (status == Fine) {
+        tellUses(removal);
+    }
+    return status;
 }
 
 int sortAnimations(const Invocation& invocation, Output& output)

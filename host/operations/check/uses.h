@@ -17,7 +17,7 @@ struct Removal
 {
     enum Kind { Sprites, Sounds, Animations };
 
-    Kind kind;
+    Kind kind = Sprites;
     QString path;         ///< absolute, of the file
     QStringList names;    ///< "GROUP,NUMBER", or identifiers of animations
     QStringList staying;  ///< those of what stays in the file: it takes the place of its namesakes
