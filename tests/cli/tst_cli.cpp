@@ -1,5 +1,6 @@
+#include "support/folders.h"
+
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -11,12 +12,6 @@
 // for a status that is not 0. With ZORV_RENEW set in the environment the files are written anew.
 
 namespace {
-
-QString readFile(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 QStringList linesWith(const QString& mark, const QByteArray& output)
 {
@@ -51,17 +46,18 @@ QProcessEnvironment bareEnvironment(const QString& folder)
     return bare;
 }
 
-void copyFolder(const QString& from, const QString& to)
+/// The commands of the README in their order, without what it says about each. Those of scripts/
+/// are left out: they install packages and open a window.
+QStringList readmeCommands()
 {
-    QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString source = files.next();
-        const QString target = to + source.mid(from.size());
-        QDir().mkpath(QFileInfo(target).path());
-        QVERIFY2(QFile::copy(source, target), qPrintable(target));
-        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther |
-                                          QFile::ReadGroup);
+    QStringList commands;
+    const QStringList lines = QString::fromUtf8(readFile(ZORV_README)).split('\n');
+    for (const QString& line : lines) {
+        if (line.startsWith("    ") && !line.startsWith("    scripts/")) {
+            commands.append(line.trimmed().section(QRegularExpression(" {2,}"), 0, 0));
+        }
     }
+    return commands;
 }
 
 QStringList runCommand(const QString& command, const QString& folder)
@@ -93,6 +89,7 @@ private slots:
     void initTestCase() { QVERIFY(QFileInfo::exists(ZORV_PROGRAM)); }
     void transcript_data();
     void transcript();
+    void readmeInOrder();
 };
 
 void TestCli::transcript_data()
@@ -111,8 +108,8 @@ void TestCli::transcript()
     QFETCH(QString, fileName);
     QTemporaryDir temporary;
     const QString folder = QFileInfo(temporary.path()).canonicalFilePath();
-    copyFolder(CLI_TESTS "/game", folder);
-    const QString expected = readFile(fileName);
+    QVERIFY(copyFolder(CLI_TESTS "/game", folder));
+    const QString expected = QString::fromUtf8(readFile(fileName));
     QStringList session;
     for (const QString& line : expected.split('\n')) {
         if (line.startsWith("$ ")) {
@@ -135,6 +132,33 @@ void TestCli::transcript()
                                 .arg(i + 1)
                                 .arg(session.value(i), wanted.value(i))));
     }
+}
+
+/// One shell goes through all of them, as a person does. There is an engine where the README has
+/// one.
+void TestCli::readmeInOrder()
+{
+    const QTemporaryDir temporary;
+    const QString folder = QFileInfo(temporary.path()).canonicalFilePath();
+    QVERIFY(copyFolder(ZORV_SAMPLES, folder + "/samples"));
+    const QString engine = folder + "/games/fight/fight.exe";
+    QVERIFY(writeFile(engine, "#!/bin/sh\ntest \"$1\" = -p1 && ls -d \"$2\"*\n"));
+    QVERIFY(QFile::setPermissions(engine, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner));
+    const QStringList commands = readmeCommands();
+    QVERIFY(commands.size() > 20);
+    QString script;
+    for (QString command : commands) {
+        // Problems and differences are what these are asked for.
+        const bool mayFind =
+            command == "zorv check samples/broken" || command.startsWith("zorv diff");
+        command.replace("FOLDER", "\"$(zorv backups mygame | head -1 | cut -f1)\"");
+        script += command + "\ns=$?; [ $s = " + (mayFind ? "1" : "0") + " ] || echo \"BROKEN $s: " +
+                  QString(command).replace('"', '\'').replace('$', "") + "\"\n";
+    }
+    const QStringList told = runCommand(script, folder);
+    const QStringList broken = told.filter(QRegularExpression("^BROKEN|^[?]"));
+    QVERIFY2(broken.isEmpty(), qPrintable(broken.join('\n') + '\n' + told.filter("! ").join('\n')));
+    QVERIFY(QFileInfo::exists(folder + "/mygame/characters/maren/diff.png"));
 }
 
 QTEST_GUILESS_MAIN(TestCli)
