@@ -153,6 +153,9 @@ void TestEveryAction::opensFromTheMenus()
             continue;
         }
         QVERIFY2(menuOf(action), qPrintable(name));
+        if (name.endsWith(QLatin1String("_remove"))) {
+            m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};  // though it is used
+        }
         if (!click(action)) {
             missed.append(name);
         }

@@ -3,6 +3,10 @@
 #include "support/randomtext.h"
 #include "windowfixture.h"
 
+#include "family/nodes/animationnode.h"
+
+#include <QAction>
+
 using namespace App;
 using Family::FamilyDocument;
 using Family::FamilyProject;
@@ -39,6 +43,7 @@ private slots:
     void leadToFilesThatAreNotOpen();
     void areSeenInTheTree();
     void noneMeansThatTheCheckFindsNone();
+    void removalTellsWhoUsesIt();
 
 private:
     void open(const QString& game);
@@ -188,6 +193,31 @@ void TestProblems::noneMeansThatTheCheckFindsNone()
     window()->problems()->gameChanged();
     QCOMPARE(m->problemsShown(), QStringLiteral("1 error, 0 warnings"));
     QCOMPARE(shown(), expected());
+}
+
+/// The first animation of the file is that of a move; a text that is not saved counts.
+void TestProblems::removalTellsWhoUsesIt()
+{
+    open(QStringLiteral("arena"));
+    QVERIFY(window()->openFile(m_root + QStringLiteral("/characters/maren/maren.character")));
+    QVERIFY(window()->openFile(m_root + QStringLiteral("/characters/maren/attacks.anim")));
+    const auto* animations = m->document()->animations();
+    const QString identifier = animations->animation(0)->identifier();
+    const int count = animations->count();
+    m->goTo(animations->animation(0)->firstLine());
+    QTRY_VERIFY(m->action("anim_remove")->isEnabled());
+    m->action("anim_remove")->trigger();
+    QCOMPARE(m->dialogs.count(QStringLiteral("question")), 1);
+    const QString text = m->dialogs.shown.last().text;
+    QVERIFY2(text.contains(QRegularExpression(
+                 QStringLiteral("characters/maren/\\w+\\.\\w+, line \\d+: %1\n").arg(identifier))),
+             qPrintable(text));
+    QCOMPARE(animations->count(), count);
+    m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
+    m->action("anim_remove")->trigger();
+    QCOMPARE(animations->count(), count - 1);
+    QVERIFY(window()->problems()->settle());
+    QVERIFY(shown().filter(identifier).size() > 0);
 }
 
 QTEST_MAIN(TestProblems)
