@@ -253,25 +253,23 @@ QString sectionOf(const QByteArray& name)
     return (isNamedSo ? QString::fromLatin1(General) : unescapedKey(name)) + QLatin1Char('/');
 }
 
+/// What is no setting is passed over: on false, QSettings would take none of the others either, and
+/// the next change would write the file without them.
 bool readSettings(QIODevice& device, Settings& settings)
 {
     QString section;
-    bool isWhole = true;
     const QList<QByteArray> lines = device.readAll().split('\n');
     for (const QByteArray& whole : lines) {
         const QByteArray line = whole.trimmed();
         const int sign = line.indexOf('=');
         if (line.startsWith('[')) {
-            isWhole = isWhole && line.contains(']');
-            section = sectionOf(line.mid(1, line.indexOf(']') - 1).trimmed());
-        } else if (sign >= 0) {
+            section = sectionOf(line.mid(1).split(']').first().trimmed());
+        } else if (sign >= 0 && !line.startsWith(';')) {
             const QString key = section + unescapedKey(line.left(sign).trimmed());
             settings.insert(key, unescapedValue(line.mid(sign + 1)));
-        } else {
-            isWhole = isWhole && (line.isEmpty() || line.startsWith(';'));
         }
     }
-    return isWhole;
+    return true;
 }
 
 // The device is a QSaveFile, which does not look at what it keeps in its buffer.

@@ -30,7 +30,6 @@ class TestEngines : public QObject
 
 private slots:
     void listsComeBack();
-    void damagedFileIsWrittenAnew();
     void settingsOfAnyKind_data();
     void settingsOfAnyKind();
     void problems_data();
@@ -63,19 +62,6 @@ void TestEngines::listsComeBack()
     QCOMPARE(FamilyEngineModel::instance()->engineCount(), 0);
 }
 
-void TestEngines::damagedFileIsWrittenAnew()
-{
-    const QString fileName = m_dir.filePath("damaged.conf");
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[General\n");
-    file.close();
-    QSettings settings(fileName, settingsFormat());
-    QCOMPARE(settings.status(), QSettings::FormatError);
-    QVERIFY(saveEngines(settings, {{"Fight", "/fight", "%0", ""}}));
-    QCOMPARE(loadEngines(*std::make_unique<QSettings>(fileName, settingsFormat())).size(), 1);
-}
-
 void TestEngines::settingsOfAnyKind_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -85,6 +71,7 @@ void TestEngines::settingsOfAnyKind_data()
     QTest::newRow("no number") << QByteArray("[engines]\nsize=many\n1\\name=a\n") << 0;
     QTest::newRow("too many") << QByteArray("[engines]\nsize=2000000000\n1\\name=a\n")
                               << MaxEngines;
+    QTest::newRow("damaged") << QByteArray("nothing\n[engines\nsize=2\n1\\name=a\n") << 2;
     QTest::newRow("gaps") << QByteArray("[engines]\nsize=3\n3\\name=a\n") << 3;
 }
 

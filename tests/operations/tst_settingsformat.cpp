@@ -1,6 +1,7 @@
 #include "operations/settingsformat.h"
 
 #include "support/brokenbytes.h"
+#include "support/folders.h"
 
 #include <QColor>
 #include <QRandomGenerator>
@@ -128,6 +129,14 @@ void TestSettingsFormat::brokenFiles()
             settings.sync();
             QVERIFY(settings.status() != QSettings::AccessError);
         });
+    const QString name = m_dir.filePath("line");
+    writeFile(name, "[General]\na=1\nno setting\n[b\nc=2\n");
+    QSettings settings(name, settingsFormat());
+    settings.setValue("new", 1);
+    settings.sync();
+    QVERIFY(QFile::rename(name, name + "r"));
+    const QSettings again(name + "r", settingsFormat());
+    QCOMPARE(again.allKeys(), (QStringList{"a", "b/c", "new"}));
 }
 
 /// What no longer fits: the file may have 50 bytes.
