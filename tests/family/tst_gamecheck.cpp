@@ -219,6 +219,10 @@ void TestGameCheck::unsavedProjectsCount()
     QVERIFY(result(check).contains("new file:1:1: error"));
     check.setText(path("new file"), nullptr);
     QCOMPARE(result(check), before);
+    // It came and went before anybody looked.
+    check.setText(path("new file"), std::make_shared<const SourceText>(text));
+    check.setText(path("new file"), nullptr);
+    QCOMPARE(result(check), before);
 }
 
 QTEST_GUILESS_MAIN(TestGameCheck)

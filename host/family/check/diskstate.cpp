@@ -9,9 +9,9 @@ namespace Family {
 
 namespace {
 
-qint64 nanoseconds(const timespec& time)
+quint64 nanoseconds(const timespec& time)
 {
-    return qint64(time.tv_sec) * 1000000000 + time.tv_nsec;
+    return quint64(time.tv_sec) * 1000000000 + quint64(time.tv_nsec);
 }
 
 }  // namespace
@@ -24,7 +24,7 @@ DiskState DiskState::of(const QString& path)
         return state;
     }
     state.m_inode = info.st_ino;
-    state.m_size = info.st_size;
+    state.m_size = quint64(info.st_size);
     state.m_written = nanoseconds(info.st_mtim);
     state.m_changed = nanoseconds(info.st_ctim);
     const QStringList names =

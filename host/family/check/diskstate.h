@@ -23,9 +23,9 @@ public:
 
 private:
     quint64 m_inode = 0;
-    qint64 m_size = -1;
-    qint64 m_written = 0;  // nanoseconds
-    qint64 m_changed = 0;  // owner and permissions count too
+    quint64 m_size = ~quint64(0);
+    quint64 m_written = 0;  // nanoseconds
+    quint64 m_changed = 0;  // owner and permissions count too
 };
 
 }  // namespace Family

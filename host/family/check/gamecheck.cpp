@@ -109,8 +109,11 @@ void GameCheck::setText(const QString& path, const std::shared_ptr<const SourceT
         m_due.insert(path);
     }
     lookAt(path);
-    if (!text && m_projects.contains(path) && !m_onDisk.contains(path)) {
-        leave(path);
+    if (!text && !m_onDisk.contains(path)) {
+        m_due.erase(path);
+        if (m_projects.contains(path)) {
+            leave(path);
+        }
     }
 }
 
