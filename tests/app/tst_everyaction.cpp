@@ -98,6 +98,7 @@ void TestEveryAction::prepare()
     // The second animation: it becomes the current one of the list.
     m->goTo(m->document()->animations()->animation(1)->firstLine(), 0, 1);
     m->dialogs.choiceAnswers = {SecondChoice};
+    m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};  // a sprite in use may go
     QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_remove")->isEnabled() &&
                 m->action("anim_next_frame")->isEnabled());
 }

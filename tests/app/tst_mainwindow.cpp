@@ -372,7 +372,7 @@ void TestMainWindow::closesProjectsWhileTheyAreShown()
     m->action("close_project")->trigger();
     QCOMPARE(window()->tabs()->count(), 2);
     m->type(QStringLiteral("x"));
-    QTest::qWait(300);
+    QTRY_VERIFY(window()->isWindowModified());
     m->dialogs.choiceAnswers = {GiveUp, Discard};
     m->action("close_project")->trigger();
     QCOMPARE(window()->tabs()->count(), 2);

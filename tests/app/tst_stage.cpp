@@ -389,7 +389,7 @@ void TestStage::closesWhileItPlays()
     m->press(m->at(SpriteMiddle));
     m->trigger("anim_play");
     m->move(m->at(Body));
-    QTest::qWait(30);
+    QTRY_VERIFY(m->view()->timeLine()->currentTick() > 0);
     m->trigger(action.constData());
     QVERIFY(!m->controller()->isPlaying());
     if (m->view()->isVisible()) {
