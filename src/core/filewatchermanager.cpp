@@ -1,6 +1,7 @@
 #include "core/filewatchermanager_p.h"
 
 #include "core/dialogs/dialogs.h"
+#include "core/filewatchhandler.h"
 #include "core/filewatchobject.h"
 #include "core/folders_p.h"
 #include "core/interface.h"
@@ -76,7 +77,12 @@ void FileWatcherManager::fileChanged(const QString& path)
         return;
     }
     watch(path);
-    if (!QFileInfo::exists(path) || !isEnabled()) {
+    FileWatchHandler* handler = FileWatchHandler::instance();
+    const bool isThere = QFileInfo::exists(path);
+    if (!isThere && handler) {
+        handler->fileGone(path);
+    }
+    if (!isThere || !isEnabled()) {
         return;
     }
     QList<FileWatchObject*> changed;
@@ -86,6 +92,9 @@ void FileWatcherManager::fileChanged(const QString& path)
         } else {
             changed.append(object);
         }
+    }
+    if (handler && !changed.isEmpty()) {
+        changed = handler->fileChanged(path, changed);
     }
     if (!changed.isEmpty()) {
         askToReload(path, changed);

@@ -1,4 +1,5 @@
 #include "core/filesystemarchive.h"
+#include "core/filewatchhandler.h"
 #include "core/filewatchobject.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
@@ -61,6 +62,27 @@ public:
     QString name;
     int reloads = 0;
     const Watched* other = nullptr;
+};
+
+/// Sees to one object, and leaves the others to the library.
+class Handler : public FileWatchHandler
+{
+public:
+    Handler() { setInstance(this); }
+
+    QList<FileWatchObject*> fileChanged(const QString&,
+                                        const QList<FileWatchObject*>& objects) override
+    {
+        QList<FileWatchObject*> others = objects;
+        seenTo += others.removeAll(own);
+        return others;
+    }
+
+    void fileGone(const QString& path) override { gone.append(path); }
+
+    FileWatchObject* own = nullptr;
+    int seenTo = 0;
+    QStringList gone;
 };
 
 // A change from outside, in place.
@@ -408,6 +430,29 @@ private slots:
         QCOMPARE(watcherCount(), open);
         document.save(folder->filePath(QStringLiteral("elsewhere")));
         QVERIFY(document.reload());
+    }
+
+    void handlerTakesWhatItSeesTo()
+    {
+        Watched own(path);
+        Watched other(path);
+        {
+            Handler handler;
+            handler.own = &own;
+            dialogs->buttonAnswers = {Dialogs::Yes};
+            change(path);
+            QTRY_COMPARE(other.reloads, 1);
+            QCOMPARE(handler.seenTo, 1);
+            QCOMPARE(own.reloads, 0);
+            settle();
+            QVERIFY(QFile::remove(path));
+            QTRY_COMPARE(handler.gone, QStringList(path));
+            QCOMPARE(dialogs->count(), 1);
+        }
+        QVERIFY(!FileWatchHandler::instance());
+        dialogs->buttonAnswers = {Dialogs::Yes};
+        change(path);
+        QTRY_COMPARE(own.reloads, 1);
     }
 
 private:
