@@ -425,6 +425,21 @@
     </message>
 </context>
 <context>
+    <name>App::CompareDialog</name>
+    <message>
+        <source>the file</source>
+        <translation>die Datei</translation>
+    </message>
+    <message>
+        <source>what is open here</source>
+        <translation>was hier offen ist</translation>
+    </message>
+    <message>
+        <source>There is no difference.</source>
+        <translation>Es gibt keinen Unterschied.</translation>
+    </message>
+</context>
+<context>
     <name>App::DefinitionJumps</name>
     <message>
         <source>%1 is no text that can be shown here.</source>
@@ -451,6 +466,10 @@
     <message>
         <source>new file</source>
         <translation>neue Datei</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1 (fehlt)</translation>
     </message>
 </context>
 <context>
@@ -529,6 +548,45 @@
     <message>
         <source>Blanks separate the parameters. Each mark becomes the name of the copy of a project: %0 of the project in front, %1 of the first open project, %2 of the second, and so on. At least one mark is needed.</source>
         <translation>Leerzeichen trennen die Parameter. Jede Marke wird zum Namen der Kopie eines Projekts: %0 des Projekts im Vordergrund, %1 des ersten offenen Projekts, %2 des zweiten und so weiter. Mindestens eine Marke ist nötig.</translation>
+    </message>
+</context>
+<context>
+    <name>App::FileStates</name>
+    <message>
+        <source>(missing)</source>
+        <translation>(fehlt)</translation>
+    </message>
+    <message>
+        <source>Keep the changes here</source>
+        <translation>Die Änderungen hier behalten</translation>
+    </message>
+    <message>
+        <source>Read the file, and drop the changes here</source>
+        <translation>Die Datei lesen und die Änderungen hier verwerfen</translation>
+    </message>
+    <message>
+        <source>Compare...</source>
+        <translation>Vergleichen...</translation>
+    </message>
+    <message>
+        <source>File modified</source>
+        <translation>Datei geändert</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program, and has unsaved changes here.</source>
+        <translation>%1 wurde von einem anderen Programm geändert und hat hier ungespeicherte Änderungen.</translation>
+    </message>
+    <message>
+        <source>Write over it</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program after it was read or saved here. Saving writes over what that has changed.</source>
+        <translation>%1 wurde von einem anderen Programm geändert, nachdem es hier gelesen oder gespeichert worden war. Speichern überschreibt diese Änderungen.</translation>
     </message>
 </context>
 <context>
@@ -2149,6 +2207,14 @@
         <source>Place of the pointer on the stage: %1</source>
         <translation>Ort des Zeigers auf der Bühne: %1</translation>
     </message>
+    <message>
+        <source>sprites modified</source>
+        <translation>Sprites geändert</translation>
+    </message>
+    <message>
+        <source>sounds modified</source>
+        <translation>Klänge geändert</translation>
+    </message>
 </context>
 <context>
     <name>App::Transfer</name>
@@ -2205,6 +2271,22 @@
     <message>
         <source>Save the file of %1</source>
         <translation>Die Datei von %1 speichern</translation>
+    </message>
+    <message>
+        <source>%1 (no longer on the disk)</source>
+        <translation>%1 (nicht mehr auf der Festplatte)</translation>
+    </message>
+    <message>
+        <source>This file is no longer on the disk. What is open here is its last copy:</source>
+        <translation>Diese Datei ist nicht mehr auf der Festplatte. Was hier offen ist, ist ihre letzte Kopie:</translation>
+    </message>
+    <message>
+        <source>These files have unsaved changes, or are no longer on the disk. What is open here is their last copy:</source>
+        <translation>Diese Dateien haben ungespeicherte Änderungen oder sind nicht mehr auf der Festplatte. Was hier offen ist, ist ihre letzte Kopie:</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Schließen ohne zu speichern</translation>
     </message>
 </context>
 <context>

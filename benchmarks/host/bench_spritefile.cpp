@@ -1,5 +1,6 @@
 // A file of 20,000 sprites of 128 by 144 pixels: opening it beside unpacking them all, unpacking
-// with two threads beside one, and how adding sprites grows with their number.
+// with two threads beside one, a copy for recovery beside saving, and how adding sprites grows with
+// their number.
 
 #include "family/assets/spritefile.h"
 #include "family/assets/spritejobs.h"
@@ -113,6 +114,14 @@ int main(int argc, char** argv)
                   1 / Bench::pairedRatio(
                           Rounds, [&] { unpackAll(file, 2); }, [&] { unpackAll(file, 1); }),
                   "times (at least 1.70)");
+
+    const QString copy = folder.filePath(QStringLiteral("copy.sprites"));
+    const double saving =
+        Bench::medianOf(Rounds, [&] { return worked([&] { file.toFile(archive, copy, true); }); });
+    const double taking =
+        Bench::medianOf(Rounds, [&] { return worked([&] { file.snapshot()->gather(-1); }); });
+    Bench::figure("saving them", saving, "ms");
+    Bench::ratio("what a recovery copy takes of the main thread / saving", taking, saving, 0.5);
 
     const auto adding = [&](int count) {
         return Bench::medianOf(3, [&] {

@@ -195,6 +195,7 @@ void TestGameCommands::restoreBringsNewFiles()
 void TestGameCommands::looseProjectIsSavedAsFile()
 {
     const QString loose = m_dir->filePath("loose");
+    w().action("close_folder")->trigger();
     QVERIFY(QFile::rename(m_game->path("characters/ryn"), loose));
     QVERIFY(w().window->openPath(loose));
     QVERIFY(w().window->openFile(loose + "/ryn.character"));

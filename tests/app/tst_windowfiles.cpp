@@ -1,10 +1,17 @@
+#include "app/changes/comparedialog.h"
 #include "windowfixture.h"
 
 #include <zorv/code/codecs/textcodecs.h>
+#include <zorv/media/soundsample.h>
 
 #include <QAction>
+#include <QApplication>
+#include <QDockWidget>
+#include <QPlainTextEdit>
+#include <QTabBar>
 #include <QTextBlock>
 #include <QThread>
+#include <QTimer>
 #include <QToolButton>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -18,6 +25,9 @@ using Zorv::TextCodecs;
 namespace {
 
 enum Answer { GiveUp = -1, ReadAgain = 0, KeepText = 1 };
+
+// Of a file that another program has changed.
+enum Overtaken { KeepChanges = 0, WriteOver = 0, ReadFile = 1, CompareFile = 2 };
 
 }  // namespace
 
@@ -33,6 +43,11 @@ private slots:
 
     void asksWhenAFileChanges_data();
     void asksWhenAFileChanges();
+    void asksBeforeWritingOverAFile_data();
+    void asksBeforeWritingOverAFile();
+    void asksAboutAFileThatWentAway_data();
+    void asksAboutAFileThatWentAway();
+    void showsUnsavedSpritesAndSounds();
     void asksAboutWhatIsWrittenDuringASave();
     void staysQuietAboutItsOwnSave();
     void showsAFileThatWentAway();
@@ -61,17 +76,21 @@ void TestWindowFiles::init()
 void TestWindowFiles::asksWhenAFileChanges_data()
 {
     QTest::addColumn<bool>("byRename");
-    QTest::addColumn<int>("answer");
-    QTest::newRow("written, reload") << false << int(Dialogs::Yes);
-    QTest::newRow("written, keep") << false << int(Dialogs::No);
-    QTest::newRow("renamed, reload") << true << int(Dialogs::Yes);
-    QTest::newRow("renamed, keep") << true << int(Dialogs::No);
+    QTest::addColumn<bool>("isModified");
+    QTest::addColumn<bool>("isReloaded");
+    for (const bool isReloaded : {true, false}) {
+        const char* answer = isReloaded ? "reload" : "keep";
+        QTest::addRow("written, %s", answer) << false << true << isReloaded;
+        QTest::addRow("renamed, %s", answer) << true << true << isReloaded;
+        QTest::addRow("without changes here, %s", answer) << false << false << isReloaded;
+    }
 }
 
 void TestWindowFiles::asksWhenAFileChanges()
 {
     QFETCH(bool, byRename);
-    QFETCH(int, answer);
+    QFETCH(bool, isModified);
+    QFETCH(bool, isReloaded);
     QByteArray text = m_game->read("characters/ryn/basic.anim");
     for (int i = 0; i < 200; ++i) {
         text += "# line\r\n";
@@ -79,7 +98,7 @@ void TestWindowFiles::asksWhenAFileChanges()
     m_game->write("characters/ryn/basic.anim", text);
     m->open(*m_game, m_game->ryn(), m_game->animations());
     m->goTo(120, 2);
-    m->type(QStringLiteral("mine"));
+    m->type(isModified ? QStringLiteral("mine") : QString());
     const App::TextPlace before = m->place();
     const auto change = [&](const QByteArray& line) {
         text += line;
@@ -89,23 +108,175 @@ void TestWindowFiles::asksWhenAFileChanges()
                            qPrintable(m_game->animations())) == 0);
         }
     };
-    m->dialogs.buttonAnswers = {Dialogs::Button(answer), Dialogs::Yes};
+    m->dialogs.buttonAnswers = {isReloaded || isModified ? Dialogs::Yes : Dialogs::No,
+                                Dialogs::Yes};
+    m->dialogs.choiceAnswers = {isReloaded ? ReadFile : KeepChanges, ReadFile};
     change("# theirs\r\n");
-    QTRY_COMPARE(m->dialogs.count(QStringLiteral("question")), 1);
-    const bool isReloaded = answer == Dialogs::Yes;
+    QTRY_COMPARE(m->dialogs.count(), 1);
+    QCOMPARE(m->dialogs.shown[0].kind, QString(isModified ? "choose" : "question"));
     QCOMPARE(m->document()->text().contains(QLatin1String("theirs")), isReloaded);
-    QCOMPARE(m->document()->text().contains(QLatin1String("mine")), !isReloaded);
-    QCOMPARE(m->document()->isModified(), !isReloaded);
+    QCOMPARE(m->document()->text().contains(QLatin1String("mine")), isModified && !isReloaded);
+    QCOMPARE(m->document()->isModified(), isModified && !isReloaded);
     QTest::qWait(20);
     QCOMPARE(m->place().line, before.line);
     QCOMPARE(m->place().scroll, before.scroll);
     QVERIFY(isReloaded || m->place().column == before.column);
     // And again, whatever the answer was.
     change("# again\r\n");
-    QTRY_COMPARE(m->dialogs.count(QStringLiteral("question")), 2);
+    QTRY_COMPARE(m->dialogs.count(), 2);
     QTRY_VERIFY(m->document()->text().contains(QLatin1String("again")));
     QTest::qWait(20);
     QCOMPARE(m->place().line, before.line);
+}
+
+void TestWindowFiles::asksBeforeWritingOverAFile_data()
+{
+    QTest::addColumn<bool>("wasModified");
+    QTest::addColumn<QList<int>>("answers");
+    QTest::addColumn<bool>("isWritten");
+    QTest::addColumn<bool>("isMine");
+    for (const bool wasModified : {true, false}) {
+        const char* when = wasModified ? "before" : "after";
+        QTest::addRow("changed here %s, write", when)
+            << wasModified << QList<int>{WriteOver} << true << true;
+        QTest::addRow("changed here %s, read", when)
+            << wasModified << QList<int>{ReadFile} << false << false;
+        QTest::addRow("changed here %s, give up", when)
+            << wasModified << QList<int>{GiveUp} << false << true;
+        QTest::addRow("changed here %s, compare", when)
+            << wasModified << QList<int>{CompareFile, WriteOver} << true << true;
+    }
+}
+
+// Once the person has kept what is open here, saving does not lose the rest without a word.
+void TestWindowFiles::asksBeforeWritingOverAFile()
+{
+    QFETCH(bool, wasModified);
+    QFETCH(QList<int>, answers);
+    QFETCH(bool, isWritten);
+    QFETCH(bool, isMine);
+    const char* const name = "characters/ryn/ryn.character";
+    m->open(*m_game, m_game->ryn());
+    const auto typeMine = [this] { m->type(QStringLiteral("#mine ")); };
+    wasModified ? typeMine() : void();
+    m->dialogs.choiceAnswers = {KeepChanges};
+    m_game->write(name, "# theirs\r\n");
+    QTRY_COMPARE(m->dialogs.count(), 1);
+    wasModified ? void() : typeMine();
+    QString compared;
+    QTimer closing;
+    connect(&closing, &QTimer::timeout, [&compared] {
+        if (auto* dialog = qobject_cast<App::CompareDialog*>(QApplication::activeModalWidget())) {
+            compared = dialog->findChild<QPlainTextEdit*>()->toPlainText();
+            dialog->reject();
+        }
+    });
+    closing.start(5);
+    m->dialogs.choiceAnswers = answers;
+    m->press(Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(m->dialogs.count(), 1 + answers.size());
+    QCOMPARE(m_game->read(name).startsWith("#mine [info]"), isWritten);
+    QCOMPARE(m_game->read(name) == "# theirs\r\n", !isWritten);
+    QCOMPARE(m->document()->text().contains(QLatin1String("mine")), isMine);
+    QCOMPARE(m->document()->isModified(), isMine && !isWritten);
+    QCOMPARE(compared.contains(QLatin1String("-# theirs")), answers.contains(CompareFile));
+    QCOMPARE(compared.contains(QLatin1String("+#mine")), answers.contains(CompareFile));
+    // What was settled is not asked again.
+    if (!m->document()->isModified()) {
+        window()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window()));
+        m->type(QStringLiteral("#more "));
+        m->press(Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(m->dialogs.count(), 1 + answers.size());
+        QVERIFY(m_game->read(name).contains("#more"));
+    }
+}
+
+void TestWindowFiles::asksAboutAFileThatWentAway_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<int>("answer");
+    for (const char* what : {"close_text", "close_project", "close_folder", "quit"}) {
+        QTest::addRow("%s, save", what) << what << 0;
+        QTest::addRow("%s, let go", what) << what << 1;
+        QTest::addRow("%s, give up", what) << what << int(GiveUp);
+    }
+}
+
+void TestWindowFiles::asksAboutAFileThatWentAway()
+{
+    QFETCH(QString, what);
+    QFETCH(int, answer);
+    const char* const name = "characters/ryn/basic.anim";
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    const QByteArray before = m_game->read(name);
+    const QTabBar* bar = window()->tabs()->bar();
+    const auto treeText = [this] {
+        return window()->gameTree()->indexOf(m_game->animations()).data().toString();
+    };
+    // Moved to where nothing looks for it.
+    QVERIFY(QFile::rename(m_game->animations(), m_game->path("elsewhere.anim")));
+    QTRY_COMPARE(bar->tabText(bar->currentIndex()), QStringLiteral("basic.anim (missing)"));
+    QCOMPARE(treeText(), QStringLiteral("basic.anim (missing)"));
+    QTRY_COMPARE(window()->status()->stateText(), QStringLiteral("Missing on disk"));
+    m->dialogs.choiceAnswers = {answer};
+    m->action(qPrintable(what))->trigger();
+    QCOMPARE(m->dialogs.count(QStringLiteral("choose")), 1);
+    QVERIFY(m->dialogs.shown.last().text.contains(QLatin1String("no longer on the disk")));
+    QCOMPARE(m_game->read(name), answer == 0 ? before : QByteArray());
+    const App::GameSession* session = window()->session();
+    const bool isOpen = what == QLatin1String("close_text")      ? bar->count() == 2
+                        : what == QLatin1String("close_project") ? !session->projects().isEmpty()
+                        : what == QLatin1String("close_folder")  ? session->game() != nullptr
+                                                                 : window()->isVisible();
+    QCOMPARE(isOpen, answer == GiveUp);
+    if (answer == GiveUp) {
+        QVERIFY(QFile::rename(m_game->path("elsewhere.anim"), m_game->animations()));
+        QTRY_COMPARE(bar->tabText(bar->currentIndex()), QStringLiteral("basic.anim"));
+        QCOMPARE(treeText(), QStringLiteral("basic.anim"));
+    }
+}
+
+void TestWindowFiles::showsUnsavedSpritesAndSounds()
+{
+    m_game->addAssets();
+    m->open(*m_game, m_game->ryn());
+    const Family::FamilyProject* project = window()->session()->projects().first();
+    const auto tree = [this](const char* name) {
+        const QString path = m_game->path(QString("characters/ryn/") + name);
+        return window()->gameTree()->indexOf(path).data().toString();
+    };
+    const auto compare = [&](bool areSprites, bool areSounds) {
+        QTRY_COMPARE(window()->isWindowModified(), areSprites || areSounds);
+        QTRY_COMPARE(tree("a.sprites"), QString(areSprites ? "a.sprites*" : "a.sprites"));
+        QTRY_COMPARE(tree("a.sounds"), QString(areSounds ? "a.sounds*" : "a.sounds"));
+        QTRY_COMPARE(window()->findChild<QDockWidget*>("sprites")->isWindowModified(), areSprites);
+        QTRY_COMPARE(window()->findChild<QDockWidget*>("sounds")->isWindowModified(), areSounds);
+        QTRY_COMPARE(window()->status()->stateText(), QString("Saved") +
+                                                          (areSprites ? ", sprites modified" : "") +
+                                                          (areSounds ? ", sounds modified" : ""));
+    };
+    compare(false, false);
+    QImage image(2, 2, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    project->sprites()->insertSprite(0, {1, 1}, {}, image);
+    compare(true, false);
+    Zorv::SoundSample sample;
+    sample.channels = 1;
+    sample.bits = 8;
+    sample.sampleRate = 8000;
+    sample.data = QByteArray(20, 'x');
+    project->sounds()->add(0, {}, sample);
+    compare(true, true);
+    project->sprites()->undo();
+    compare(false, true);
+    m->action("save_all")->trigger();
+    compare(false, false);
+    project->sprites()->redo();
+    compare(true, false);
+    m->action("close_project")->trigger();
+    QVERIFY(m->dialogs.shown.last().text.contains(QLatin1String("a.sprites")));
+    QCOMPARE(window()->session()->projects().size(), 1);
 }
 
 // A save waits for another program, and does not write over what that has written.
@@ -127,7 +298,8 @@ void TestWindowFiles::asksAboutWhatIsWrittenDuringASave()
     QCOMPARE(m->dialogs.count(QStringLiteral("error")), 1);
     QCOMPARE(m_game->read("characters/ryn/ryn.character"), QByteArray("# theirs\r\n"));
     QVERIFY(m->document()->isModified());
-    QTRY_COMPARE(m->dialogs.count(QStringLiteral("question")), 1);
+    m->dialogs.choiceAnswers = {KeepChanges, WriteOver};
+    QTRY_COMPARE(m->dialogs.count(QStringLiteral("choose")), 1);
     m->press(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(m_game->read("characters/ryn/ryn.character").startsWith("#[info]"));
 }

@@ -1,13 +1,10 @@
 #include "app/recovery/recoverydialog.h"
 #include "app/recovery/workrecovery.h"
 #include "family/assets/familysound.h"
-#include "family/assets/soundfile.h"
-#include "family/assets/spritefile.h"
 #include "operations/recovery/abandonedwork.h"
 #include "operations/recovery/recoverykeeper.h"
 #include "windowfixture.h"
 
-#include <zorv/core/filesystemarchive.h>
 #include <zorv/media/soundsample.h>
 
 #include <QApplication>
@@ -239,13 +236,7 @@ void TestWorkRecovery::killedWindowLosesFewSpritesAndSounds()
     const quint32 seed = 20241122;
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
-    m_game->write("characters/ryn/ryn.character",
-                  m_game->read("characters/ryn/ryn.character")
-                      .replace("[files]\r\n", "[files]\r\nsprites = \"a.sprites\"\r\n"
-                                              "sounds = \"a.sounds\"\r\n"));
-    auto* disk = Zorv::FileSystemArchive::instance();
-    QVERIFY(Family::SpriteFile().toFile(*disk, m_game->path("characters/ryn/a.sprites"), true));
-    QVERIFY(Family::SoundFile().toFile(*disk, m_game->path("characters/ryn/a.sounds"), true));
+    m_game->addAssets();
     const auto bytes = [this] {
         return m_game->read("characters/ryn/a.sprites") + m_game->read("characters/ryn/a.sounds");
     };

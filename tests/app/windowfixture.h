@@ -13,11 +13,14 @@
 #include "app/messages/problemwatch.h"
 #include "app/session/gamesession.h"
 #include "app/window/statusfields.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritefile.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "support/planneddialogs.h"
 
+#include <zorv/core/filesystemarchive.h>
 #include <zorv/editors/code/codeeditor.h>
 #include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
@@ -64,6 +67,19 @@ public:
                                               "[.walk]\r\n"
                                               "forward = 2\r\n"
                                               "back = 2\r\n");
+    }
+
+    /// Gives one of them sprites and sounds, none so far.
+    void addAssets() const
+    {
+        write("characters/ryn/ryn.character",
+              read("characters/ryn/ryn.character")
+                  .replace("[files]\r\n", "[files]\r\n"
+                                          "sprites = \"a.sprites\"\r\n"
+                                          "sounds = \"a.sounds\"\r\n"));
+        auto* disk = Zorv::FileSystemArchive::instance();
+        QVERIFY(Family::SpriteFile().toFile(*disk, path("characters/ryn/a.sprites"), true));
+        QVERIFY(Family::SoundFile().toFile(*disk, path("characters/ryn/a.sounds"), true));
     }
 
     QString root() const { return QDir(m_dir.path()).canonicalPath(); }

@@ -277,7 +277,7 @@ void CodeView::closeText()
 /// What is discarded leaves the memory too: the project of the text stays open.
 void CodeView::close(FamilyDocument* document)
 {
-    if (document->isModified() && !askAboutUnsaved({document})) {
+    if ((document->isModified() || isGone(document)) && !askAboutUnsaved({document})) {
         return;
     }
     m_tabs->closeDocument(document);

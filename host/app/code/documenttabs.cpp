@@ -1,6 +1,7 @@
 #include "app/code/documenttabs.h"
 
 #include "app/code/codetexteditor.h"
+#include "app/session/gamesession.h"
 #include "family/familydocument.h"
 
 #include <zorv/code/codedoc/editordata.h>
@@ -211,7 +212,10 @@ void DocumentTabs::updateTab(const FamilyDocument* document)
     const int index = indexOf(document);
     QString title = document->title().isEmpty() ? tr("new file") : document->title();
     title.replace(QLatin1Char('&'), QLatin1String("&&"));
-    m_bar->setTabText(index, document->isModified() ? title + QLatin1Char('*') : title);
+    if (document->isModified()) {
+        title += QLatin1Char('*');
+    }
+    m_bar->setTabText(index, isGone(document) ? tr("%1 (missing)").arg(title) : title);
     m_bar->setTabToolTip(index, QDir::toNativeSeparators(document->fileName()));
     emit stateChanged();
 }

@@ -8,6 +8,7 @@
 #include "app/assets/soundpanel.h"
 #include "app/assets/spritecommands.h"
 #include "app/assets/spritepanel.h"
+#include "app/changes/filestates.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
 #include "app/code/documenttabs.h"
@@ -34,6 +35,8 @@
 #include "app/window/editorregistry.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
@@ -57,6 +60,9 @@ using Family::FamilyDocument;
 using Family::FamilyProject;
 
 namespace {
+
+// Where Qt shows that there is something to save.
+const QLatin1String Modified("[*]");
 
 struct PanelTitle
 {
@@ -208,6 +214,7 @@ void MainWindow::connectParts()
     });
     connect(editors(), &EditorRegistry::currentChanged, parts, &PartList::update);
     connect(editors(), &EditorRegistry::modified, parts, &PartList::updateSoon);
+    connect(new FileStates(session()), &FileStates::changed, parts, &PartList::gameChanged);
     connect(m_code->editor(), &Zorv::CodeEditor::markClicked, m_messagePanel,
             &MessagePanel::showMessageOfLine);
     connect(m_services.status, &StatusFields::problemsClicked, m_messagePanel,
@@ -253,7 +260,7 @@ void MainWindow::showMiddle()
 
 bool MainWindow::mayClose(const FamilyProject* project, const std::function<void()>& then)
 {
-    const QList<Zorv::ProjectFile*> files = session()->modifiedFiles(project);
+    const QList<Zorv::ProjectFile*> files = session()->unkeptFiles(project);
     return (project || m_services.parts->mayEnd(then)) && askAboutUnsaved(files) &&
            editors()->canDiscard(project, files);
 }
@@ -261,14 +268,18 @@ bool MainWindow::mayClose(const FamilyProject* project, const std::function<void
 void MainWindow::updateTitle()
 {
     const FamilyDocument* document = tabs()->currentDocument();
-    QString text =
-        document ? session()->shownPath(document->fileName()) + QLatin1String("[*]") : QString();
+    QString text = document ? session()->shownPath(document->fileName()) + Modified : QString();
     const QString game = QDir(session()->folder()).dirName();
     for (const QString& part : {session()->game() ? game : QString(), QStringLiteral("Zorv")}) {
         text += !text.isEmpty() && !part.isEmpty() ? QLatin1String(" - ") + part : part;
     }
     setWindowTitle(text);
-    setWindowModified(document && document->isModified());
+    const FamilyProject* project = m_services.parts->project();
+    const bool areSprites = project && project->sprites() && project->sprites()->isModified();
+    const bool areSounds = project && project->sounds() && project->sounds()->isModified();
+    setWindowModified((document && document->isModified()) || areSprites || areSounds);
+    m_sprites->panel()->parentWidget()->setWindowModified(areSprites);
+    m_sounds->panel()->parentWidget()->setWindowModified(areSounds);
     m_hint->setText(session()->game() ? tr("A double click in the tree of projects shows a text.")
                                       : tr("The menu File opens a game folder."));
 }
@@ -277,7 +288,7 @@ void MainWindow::retranslate()
 {
     for (const PanelTitle& row : panelTitles) {
         if (auto* dock = findChild<QDockWidget*>(QLatin1String(row.name))) {
-            dock->setWindowTitle(tr(row.title));
+            dock->setWindowTitle(tr(row.title) + Modified);
         }
     }
     m_actions->retranslate();
@@ -285,9 +296,9 @@ void MainWindow::retranslate()
     const QList<QDockWidget*> docks = findChildren<QDockWidget*>();
     for (const QDockWidget* dock : docks) {
         nameButton(dock, "qt_dockwidget_closebutton",
-                   tr("Close panel %1").arg(dock->windowTitle()));
+                   tr("Close panel %1").arg(dock->windowTitle().remove(Modified)));
         nameButton(dock, "qt_dockwidget_floatbutton",
-                   tr("Detach panel %1").arg(dock->windowTitle()));
+                   tr("Detach panel %1").arg(dock->windowTitle().remove(Modified)));
     }
     m_services.parts->retranslate();
     updateTitle();

@@ -4,6 +4,8 @@
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
 
+#include <zorv/core/projectfile.h>
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -229,6 +231,25 @@ QList<Zorv::ProjectFile*> GameSession::modifiedFiles(const FamilyProject* projec
         }
     }
     return result;
+}
+
+QList<Zorv::ProjectFile*> GameSession::unkeptFiles(const FamilyProject* project) const
+{
+    QList<Zorv::ProjectFile*> result = modifiedFiles(project);
+    for (const FamilyProject* open : m_projects) {
+        const QList<Zorv::ProjectFile*> files = open->files();
+        for (Zorv::ProjectFile* file : files) {
+            if ((!project || project == open) && isGone(file) && !result.contains(file)) {
+                result.append(file);
+            }
+        }
+    }
+    return result;
+}
+
+bool isGone(const Zorv::ProjectFile* file)
+{
+    return !file->fileName().isEmpty() && !QFileInfo::exists(file->fileName());
 }
 
 FamilyProject* projectOf(const FamilyDocument* document)

@@ -83,6 +83,9 @@ public:
     /// The same with sprites and sounds, behind the documents.
     QList<Zorv::ProjectFile*> modifiedFiles(const Family::FamilyProject* project = nullptr) const;
 
+    /// The same with those that are no longer on the disk: closing them loses what is in them.
+    QList<Zorv::ProjectFile*> unkeptFiles(const Family::FamilyProject* project = nullptr) const;
+
 signals:
     void folderOpened();
     void folderAboutToClose();
@@ -93,6 +96,9 @@ private:
     std::unique_ptr<Family::FamilyParentProject> m_game;
     QList<Family::FamilyProject*> m_projects;
 };
+
+/// True if the file of a document or collection is no longer on the disk.
+bool isGone(const Zorv::ProjectFile* file);
 
 /// The project that a document is registered in, or null.
 Family::FamilyProject* projectOf(const Family::FamilyDocument* document);

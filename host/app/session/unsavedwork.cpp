@@ -1,10 +1,13 @@
 #include "app/session/unsavedwork.h"
 
+#include "app/changes/filestates.h"
+#include "app/session/gamesession.h"
 #include "family/familydocument.h"
 #include "operations/documentfile.h"
 
 #include <zorv/core/dialogs/dialogs.h>
 #include <zorv/core/filechange.h>
+#include <zorv/core/files.h>
 #include <zorv/core/filewatchobject.h>
 #include <zorv/core/interface.h>
 #include <zorv/core/project.h>
@@ -37,8 +40,10 @@ QString namesOf(const QList<ProjectFile*>& files)
 {
     QStringList names;
     for (const ProjectFile* file : files) {
-        names.append(file->fileName().isEmpty() ? Text::tr("new file")
-                                                : QDir::toNativeSeparators(file->fileName()));
+        const QString name = QDir::toNativeSeparators(file->fileName());
+        names.append(name.isEmpty() ? Text::tr("new file")
+                     : isGone(file) ? Text::tr("%1 (no longer on the disk)").arg(name)
+                                    : name);
     }
     const int more = names.size() - MaxNames;
     if (more > 0) {
@@ -176,10 +181,19 @@ Operations::Saved writeFile(ProjectFile* file, QString* error)
     return isSaved ? Operations::Saved::Done : Operations::Saved::Failed;
 }
 
-/// What another program writes at this moment is not written over: the file is left alone, and the
+/// What another program has written since is not lost without a word. What it writes at this
+/// moment is not written over: the file is left alone, and the
 /// person asked about it as about any change.
 Operations::Saved saveFile(ProjectFile* file, QString* error)
 {
+    FileStates* states = FileStates::instance();
+    const auto answer = states ? states->askBeforeWriting(file) : FileStates::Write;
+    if (answer != FileStates::Write) {
+        return answer == FileStates::Read ? Operations::Saved::Done : Operations::Saved::GivenUp;
+    }
+    if (isGone(file)) {
+        Zorv::forcePath(file->fileName());
+    }
     const Zorv::FileChange change(file->fileName());
     const Operations::Saved saved = writeFile(file, error);
     if (change.isOvertaken()) {
@@ -188,13 +202,24 @@ Operations::Saved saveFile(ProjectFile* file, QString* error)
     return saved;
 }
 
+QString questionAbout(bool isOne, bool areChanged)
+{
+    if (areChanged) {
+        return isOne ? Text::tr("This file has unsaved changes:")
+                     : Text::tr("These files have unsaved changes:");
+    }
+    return isOne ? Text::tr("This file is no longer on the disk. What is open here is its last "
+                            "copy:")
+                 : Text::tr("These files have unsaved changes, or are no longer on the disk. What "
+                            "is open here is their last copy:");
+}
+
 }  // namespace
 
 bool readAgain(ProjectFile* file)
 {
-    FamilyDocument* document = documentOf(file);
-    return document ? document->reload()
-                    : file->fromFile(*file->archive(), file->fileName(), false);
+    auto* watched = dynamic_cast<Zorv::FileWatchObject*>(file);
+    return watched ? watched->reload() : file->fromFile(*file->archive(), file->fileName(), false);
 }
 
 bool saveFiles(QList<ProjectFile*> files)
@@ -245,13 +270,14 @@ bool askAboutUnsaved(const QList<ProjectFile*>& files)
         return true;
     }
     const bool isOne = files.size() == 1;
-    const QString text = isOne ? Text::tr("This file has unsaved changes:")
-                               : Text::tr("These files have unsaved changes:");
+    const bool areChanged = std::all_of(files.begin(), files.end(),
+                                        [](const ProjectFile* file) { return file->isModified(); });
     const QStringList choices{isOne ? Text::tr("Save") : Text::tr("Save all"),
-                              Text::tr("Discard the changes")};
-    switch (Dialogs::instance()->choose(Text::tr("Unsaved changes"),
-                                        text + QLatin1String("\n\n") + namesOf(files), choices,
-                                        Save)) {
+                              areChanged ? Text::tr("Discard the changes")
+                                         : Text::tr("Close without saving")};
+    switch (Dialogs::instance()->choose(
+        Text::tr("Unsaved changes"),
+        questionAbout(isOne, areChanged) + QLatin1String("\n\n") + namesOf(files), choices, Save)) {
     case Save:
         return saveFiles(files);
     case Discard:

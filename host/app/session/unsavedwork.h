@@ -9,13 +9,15 @@ class ProjectFile;
 
 namespace App {
 
-/// Saves texts, sprites and sounds, one after the other; a text without a name is asked for it;
+/// Saves texts, sprites and sounds, one after the other; a text without a name is asked for it,
+/// and the person is asked about a file that another program has changed;
 /// failures are told at the end, all at once. Of several objects of one file with different
 /// contents the person chooses one, and the others read it. True if all is done.
 bool saveFiles(QList<Zorv::ProjectFile*> files);
 
-/// Asks what becomes of unsaved files before they are closed: saved, discarded, or
-/// neither. True if they can be closed. Nothing is asked for an empty list.
+/// Asks what becomes of unsaved files, and of those that are no longer on the disk, before they are
+/// closed: saved, discarded, or neither. True if they can be closed. Nothing is asked for an empty
+/// list.
 bool askAboutUnsaved(const QList<Zorv::ProjectFile*>& files);
 
 /// Reads a file again and drops its changes. False if it cannot be read; all stays then.

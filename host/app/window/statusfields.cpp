@@ -1,7 +1,11 @@
 #include "app/window/statusfields.h"
 
 #include "app/look/language.h"
+#include "app/session/gamesession.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
 #include "family/familydocument.h"
+#include "family/project/familyproject.h"
 #include "operations/documentfile.h"
 
 #include <QFileInfo>
@@ -24,10 +28,24 @@ QString stateOf(const Family::FamilyDocument* document)
     if (document->fileName().isEmpty()) {
         return StatusFields::tr("Not saved yet");
     }
-    if (!QFileInfo::exists(document->fileName())) {
+    if (isGone(document)) {
         return StatusFields::tr("Missing on disk");
     }
     return document->isModified() ? StatusFields::tr("Modified") : StatusFields::tr("Saved");
+}
+
+/// Sprites and sounds are seen beside the text.
+QString stateWithAssets(const Family::FamilyDocument* document)
+{
+    QStringList parts{stateOf(document)};
+    const Family::FamilyProject* project = projectOf(document);
+    if (project && project->sprites() && project->sprites()->isModified()) {
+        parts.append(StatusFields::tr("sprites modified"));
+    }
+    if (project && project->sounds() && project->sounds()->isModified()) {
+        parts.append(StatusFields::tr("sounds modified"));
+    }
+    return parts.join(QLatin1String(", "));
 }
 
 /// What is read aloud says what the text is, and the text.
@@ -104,7 +122,8 @@ void StatusFields::gameChanged()
 
 void StatusFields::updateFile()
 {
-    setText(m_state, m_document ? stateOf(m_document) : QString(), tr("State of the file: %1"));
+    setText(m_state, m_document ? stateWithAssets(m_document) : QString(),
+            tr("State of the file: %1"));
     const QString note = m_document ? Operations::lineEndNote(m_document) : QString();
     setText(m_lineEnds, note.isEmpty() ? QString() : tr("Line ends: converted when saved"),
             QStringLiteral("%1"));

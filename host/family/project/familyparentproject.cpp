@@ -214,20 +214,15 @@ QString FamilyParentProject::runPath(int, const QString& name, bool* wholeFolder
            QLatin1Char('/');
 }
 
-void FamilyParentProject::setProblems(const QHash<QString, Problems>& problems)
+/// Rows whose value is another one.
+template <class Value>
+void FamilyParentProject::tellRows(const QHash<QString, Value>& before,
+                                   const QHash<QString, Value>& after)
 {
-    QHash<QString, ProblemTally> counts;
-    const QString root = QDir::cleanPath(absolutePath());
-    for (auto it = problems.cbegin(); it != problems.cend(); ++it) {
-        for (QString path = it.key(); path.size() > root.size(); path = QFileInfo(path).path()) {
-            counts[path].add(it.value());
-        }
-    }
-    counts.swap(m_problems);
     QSet<QString> paths;
-    for (const auto* each : {&counts, &m_problems}) {
+    for (const auto* each : {&before, &after}) {
         for (auto it = each->cbegin(); it != each->cend(); ++it) {
-            if (!(counts.value(it.key()) == m_problems.value(it.key()))) {
+            if (!(before.value(it.key()) == after.value(it.key()))) {
                 paths.insert(it.key());
             }
         }
@@ -240,11 +235,31 @@ void FamilyParentProject::setProblems(const QHash<QString, Problems>& problems)
     }
 }
 
+void FamilyParentProject::setProblems(const QHash<QString, Problems>& problems)
+{
+    QHash<QString, ProblemTally> counts;
+    const QString root = QDir::cleanPath(absolutePath());
+    for (auto it = problems.cbegin(); it != problems.cend(); ++it) {
+        for (QString path = it.key(); path.size() > root.size(); path = QFileInfo(path).path()) {
+            counts[path].add(it.value());
+        }
+    }
+    counts.swap(m_problems);
+    tellRows(counts, m_problems);
+}
+
+void FamilyParentProject::setFileMarks(const QHash<QString, QString>& marks)
+{
+    const QHash<QString, QString> before = std::exchange(m_marks, marks);
+    tellRows(before, marks);
+}
+
 QVariant FamilyParentProject::data(const QModelIndex& index, int role) const
 {
     const QVariant value = ParentProject::data(index, role);
-    const Path* item = role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole ||
-                               role == ErrorRole || role == WarningRole
+    const Path* item = role == Qt::DisplayRole || role == Qt::ToolTipRole ||
+                               role == Qt::AccessibleDescriptionRole || role == ErrorRole ||
+                               role == WarningRole
                            ? itemPath(index)
                            : nullptr;
     if (!item) {
@@ -252,9 +267,12 @@ QVariant FamilyParentProject::data(const QModelIndex& index, int role) const
     }
     // A main file of a closed project gives the path of its folder.
     const bool isMainFile = item->isProject() && !item->isDirectory();
-    const QString path = item->absolutePath() + (isMainFile ? item->pathName() : QString());
-    const ProblemTally count = m_problems.value(QDir::cleanPath(path));
+    const QString path =
+        QDir::cleanPath(item->absolutePath() + (isMainFile ? item->pathName() : QString()));
+    const ProblemTally count = m_problems.value(path);
     switch (role) {
+    case Qt::DisplayRole:
+        return m_marks.contains(path) ? value.toString() + m_marks.value(path) : value;
     case ErrorRole:
         return count.errors;
     case WarningRole:

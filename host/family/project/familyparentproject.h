@@ -52,7 +52,11 @@ public:
     /// The number of errors, and of warnings, of a row.
     enum Role { ErrorRole = Qt::UserRole + 1, WarningRole };
 
-    /// With what is wrong in the tool tip, and as `Qt::AccessibleDescriptionRole`.
+    /// What stands behind the names of files in the tree, by path; others have nothing there.
+    void setFileMarks(const QHash<QString, QString>& marks);
+
+    /// With the marks behind names, and what is wrong in the tool tip, and as
+    /// `Qt::AccessibleDescriptionRole`.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
 signals:
@@ -62,7 +66,11 @@ signals:
 private:
     void addLooseFolder(const QString& folder);
 
+    template <class Value>
+    void tellRows(const QHash<QString, Value>& before, const QHash<QString, Value>& after);
+
     QHash<QString, ProblemTally> m_problems;  // by path, without "/" at its end
+    QHash<QString, QString> m_marks;          // likewise
 };
 
 }  // namespace Family
