@@ -229,6 +229,7 @@ bool SafeFilePrivate::makeFile()
         setFailure(file.errorString(),
                    tr("Check that the folder is there and may be written to, or save in "
                       "another place."));
+        file.setFileName({});  // what has the name is somebody else's
         return false;
     }
     Unfinished::add(file.fileName());
