@@ -154,18 +154,6 @@
         <translation>&amp;Optionen ...</translation>
     </message>
     <message>
-        <source>&amp;Larger text</source>
-        <translation>&amp;Größere Schrift</translation>
-    </message>
-    <message>
-        <source>&amp;Smaller text</source>
-        <translation>&amp;Kleinere Schrift</translation>
-    </message>
-    <message>
-        <source>&amp;Usual size of text</source>
-        <translation>&amp;Übliche Schriftgröße</translation>
-    </message>
-    <message>
         <source>&amp;Find...</source>
         <translation>&amp;Suchen ...</translation>
     </message>
@@ -218,14 +206,6 @@
         <translation>Sprites e&amp;ntfernen</translation>
     </message>
     <message>
-        <source>&amp;Undo change of sprites</source>
-        <translation>Änderung der Sprites &amp;rückgängig machen</translation>
-    </message>
-    <message>
-        <source>Re&amp;do change of sprites</source>
-        <translation>Änderung der Sprites &amp;wiederholen</translation>
-    </message>
-    <message>
         <source>&amp;Load palette...</source>
         <translation>Palette &amp;laden ...</translation>
     </message>
@@ -244,14 +224,6 @@
     <message>
         <source>Re&amp;move sounds</source>
         <translation>Klänge e&amp;ntfernen</translation>
-    </message>
-    <message>
-        <source>&amp;Undo change of sounds</source>
-        <translation>Änderung der Klänge &amp;rückgängig machen</translation>
-    </message>
-    <message>
-        <source>Re&amp;do change of sounds</source>
-        <translation>Änderung der Klänge &amp;wiederholen</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -332,6 +304,22 @@
     <message>
         <source>Move line do&amp;wn</source>
         <translation>Zeile nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Larger</source>
+        <translation>&amp;Größer</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller</source>
+        <translation>&amp;Kleiner</translation>
+    </message>
+    <message>
+        <source>&amp;Usual size</source>
+        <translation>&amp;Übliche Größe</translation>
     </message>
 </context>
 <context>
@@ -470,6 +458,17 @@
     <message>
         <source>%1 (missing)</source>
         <translation>%1 (fehlt)</translation>
+    </message>
+</context>
+<context>
+    <name>App::EditorRegistry</name>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Text:</source>
+        <translation>Text:</translation>
     </message>
 </context>
 <context>
@@ -1936,6 +1935,10 @@
             <numerusform>%n Klänge hinzugefügt.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>App::SoundPanel</name>
@@ -2023,6 +2026,10 @@
             <numerusform>%n Bild hinzugefügt.</numerusform>
             <numerusform>%n Bilder hinzugefügt.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
     </message>
 </context>
 <context>

@@ -155,9 +155,10 @@ inline QString StageFixture::fault(QRandomGenerator& random) const
     other.setZoomLevel(stage()->zoomLevel());
     other.setGuideLines(stage()->guideLines());
     const auto isOn = [this](const char* name) { return fixture.action(name)->isChecked(); };
-    other.setVisibility(isOn("view_main_cross"), isOn("view_secondary_cross"),
-                        isOn("view_extra_cross"), isOn("view_attack_box"),
-                        isOn("view_collision_box"), isOn("view_rulers"), isOn("view_guide_lines"));
+    other.setVisibility(isOn("stage_main_cross"), isOn("stage_secondary_cross"),
+                        isOn("stage_extra_cross"), isOn("stage_attack_box"),
+                        isOn("stage_collision_box"), isOn("stage_rulers"),
+                        isOn("stage_guide_lines"));
     other.setItemPositionMode(Zorv::GraphicsRenderer::MainCross, 1, 0, 0);
     other.setItemPosition(Zorv::GraphicsRenderer::SecondaryCross, frame.frame()->offset(), 0);
     const auto extra = Zorv::GraphicsRenderer::ExtraCross;

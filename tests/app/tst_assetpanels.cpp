@@ -5,6 +5,7 @@
 #include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/spritepicture.h"
+#include "app/window/panelplace.h"
 #include "family/assets/soundfile.h"
 #include "family/assets/spritefile.h"
 
@@ -74,6 +75,12 @@ private:
     App::SpritePanel* panel() const { return m->fixture.window->spritePanel(); }
     Family::SpriteCollection* sprites() const { return panel()->sprites(); }
     void trigger(const char* name) const { m->fixture.action(name)->trigger(); }
+
+    static void undo(QWidget* list)
+    {
+        App::bringForward(list);
+        pressIn(list, QKeySequence::Undo);
+    }
     QString image(const QString& name, const QImage& image) const;
 
     struct Open
@@ -165,9 +172,9 @@ void TestAssetPanels::bringsImagesIn()
         QCOMPARE(sprites()->sprite(7)->size(),
                  answer == Zorv::Dialogs::Yes ? QSize(5, 5) : QSize(8, 6));
     }
-    trigger("sprite_undo");
+    undo(panel()->list());
     QCOMPARE(sprites()->sprite(7)->size(), QSize(8, 6));
-    trigger("sprite_undo");
+    undo(panel()->list());
     QCOMPARE(sprites()->count(), 500U);
     QTRY_VERIFY(!m->fixture.action("save_all")->isEnabled());
 
@@ -281,7 +288,7 @@ void TestAssetPanels::soundsComeAndGo()
     QCOMPARE(sounds->sounds()->find(0, QStringLiteral("5,9")), 1);
     trigger("sound_remove");
     QCOMPARE(sounds->sounds()->count(), 1U);
-    trigger("sound_undo");
+    undo(sounds->list());
     QCOMPARE(sounds->sounds()->sound(1)->sampleData(), QByteArray(4410, 1));
 
     // The size of the whole as a program leaves it that records without an end.
@@ -300,7 +307,7 @@ void TestAssetPanels::soundsComeAndGo()
         if (row >= 0) {
             QCOMPARE(sounds->sounds()->sound(row)->sampleData().size(),
                      answer == Dialogs::Yes ? 4410 : 4);
-            trigger("sound_undo");
+            undo(sounds->list());
         }
     }
     QCOMPARE(m->fixture.dialogs.count(QStringLiteral("question")), 3);

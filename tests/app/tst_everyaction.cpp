@@ -99,8 +99,8 @@ void TestEveryAction::prepare()
     m->goTo(m->document()->animations()->animation(1)->firstLine(), 0, 1);
     m->dialogs.choiceAnswers = {SecondChoice};
     m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};  // a sprite in use may go
-    QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_remove")->isEnabled() &&
-                m->action("anim_next_frame")->isEnabled());
+    QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("animation_remove")->isEnabled() &&
+                m->action("stage_next_frame")->isEnabled());
 }
 
 QMenu* TestEveryAction::menuOf(const QAction* action) const
@@ -163,8 +163,8 @@ void TestEveryAction::opensFromTheMenus()
     }
     // Nothing runs that could be ended, no box is selected, and without GL there is no stage.
     QCOMPARE(missed.join(' '),
-             QStringLiteral("anim_box_add_attack anim_box_add_collision anim_box_del stage_capture "
-                            "view_center_origin stop_engine"));
+             QStringLiteral("stage_draw_attack stage_draw_body stage_remove_boxes stage_capture "
+                            "stage_center_origin stop_engine"));
     QVERIFY(!m->window->isVisible());
 }
 

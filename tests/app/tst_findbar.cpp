@@ -455,7 +455,7 @@ void TestFindBar::worksInTheWindow()
     QTest::mouseClick(bar->findChild<QToolButton*>(QStringLiteral("replace_all")), Qt::LeftButton);
     QCOMPARE(m.document()->text().count(QLatin1String("animation 7")), 3);
     QCOMPARE(m.place().line, 4);
-    m.action("undo")->trigger();
+    pressIn(m.edit(), QKeySequence::Undo);
     QVERIFY(!m.document()->isModified());
     QVERIFY(m.window->openFile(game.oda()));
     QTRY_COMPARE(state(), QStringLiteral("No matches"));

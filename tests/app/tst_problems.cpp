@@ -205,8 +205,8 @@ void TestProblems::removalTellsWhoUsesIt()
     const QString identifier = animations->animation(0)->identifier();
     const int count = animations->count();
     m->goTo(animations->animation(0)->firstLine());
-    QTRY_VERIFY(m->action("anim_remove")->isEnabled());
-    m->action("anim_remove")->trigger();
+    QTRY_VERIFY(m->action("animation_remove")->isEnabled());
+    m->action("animation_remove")->trigger();
     QCOMPARE(m->dialogs.count(QStringLiteral("question")), 1);
     const QString text = m->dialogs.shown.last().text;
     QVERIFY2(text.contains(QRegularExpression(
@@ -214,7 +214,7 @@ void TestProblems::removalTellsWhoUsesIt()
              qPrintable(text));
     QCOMPARE(animations->count(), count);
     m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
-    m->action("anim_remove")->trigger();
+    m->action("animation_remove")->trigger();
     QCOMPARE(animations->count(), count - 1);
     QVERIFY(window()->problems()->settle());
     QVERIFY(shown().filter(identifier).size() > 0);

@@ -161,8 +161,8 @@ void TestStage::boxesAreDrawn_data()
     QTest::addColumn<QPoint>("to");
     QTest::addColumn<int>("line");
     QTest::addColumn<QString>("text");
-    const QByteArray attack("anim_box_add_attack");
-    const QByteArray body("anim_box_add_collision");
+    const QByteArray attack("stage_draw_attack");
+    const QByteArray body("stage_draw_body");
     QTest::newRow("attack") << attack << QPoint(120, 30) << 3 << "attack 100,10, 120,30";
     QTest::newRow("body") << body << QPoint(120, 30) << 3 << "body 100,10, 120,30";
     QTest::newRow("to the top left") << body << QPoint(90, 0) << 3 << "body 90,0, 100,10";
@@ -198,16 +198,16 @@ void TestStage::boxesAreDrawn()
 /// However a mode is left, the box that was drawn can be deleted; one that begins lets boxes go.
 void TestStage::modesTellTheSelection()
 {
-    const QAction* remove = m->fixture.action("anim_box_del");
+    const QAction* remove = m->fixture.action("stage_remove_boxes");
     const auto expectEnabled = [remove](bool isEnabled) {
         QCoreApplication::processEvents();
         QCOMPARE(remove->isEnabled(), isEnabled);
     };
     for (const bool byKey : {true, false}) {
-        m->trigger("anim_box_add_attack");
+        m->trigger("stage_draw_attack");
         expectEnabled(false);
         m->drag({100, 10}, {120, 30});
-        byKey ? QTest::keyClick(m->widget(), Qt::Key_Escape) : m->trigger("anim_box_add_attack");
+        byKey ? QTest::keyClick(m->widget(), Qt::Key_Escape) : m->trigger("stage_draw_attack");
         expectEnabled(true);
         QTest::keyClick(m->widget(), Qt::Key_Delete);
         expectEnabled(false);
@@ -219,12 +219,12 @@ void TestStage::modesTellTheSelection()
 void TestStage::boxesGo()
 {
     const QStringList before = m->lines();
-    QVERIFY(!m->fixture.action("anim_box_del")->isEnabled());
+    QVERIFY(!m->fixture.action("stage_remove_boxes")->isEnabled());
     m->click(Body);
     m->click(Attack, Qt::ShiftModifier);
     QCOMPARE(m->stage()->selectedContactBoxes().size(), 2);
     QCoreApplication::processEvents();
-    QVERIFY(m->fixture.action("anim_box_del")->isEnabled());
+    QVERIFY(m->fixture.action("stage_remove_boxes")->isEnabled());
     m->drag(Body, Body + QPoint(1, 2));
     QStringList expected = before;
     expected[BodyLine] = "body 41,-38, 60,-9";
@@ -343,7 +343,7 @@ void TestStage::scrubbingLeadsTheText()
         QCoreApplication::processEvents();
         QCOMPARE(m->cursorLine(), row.cursor);
     }
-    m->trigger("anim_next_frame");
+    m->trigger("stage_next_frame");
     QCOMPARE(m->cursorLine(), FlippedLine);
     QTest::keyClick(m->widget(), Qt::Key_PageUp);
     QTest::keyClick(m->widget(), Qt::Key_PageUp);
@@ -358,13 +358,13 @@ void TestStage::plays()
     connect(m->controller(), &App::StageController::stateChanged, &scope,
             [&] { seen.insert(m->controller()->frameIndex()); });
     const QStringList before = m->lines();
-    m->trigger("anim_play");
+    m->trigger("stage_play");
     QVERIFY(m->controller()->isPlaying());
     QTRY_COMPARE_WITH_TIMEOUT(seen.size(), 3, LongWait);
     seen.clear();
     QTRY_COMPARE_WITH_TIMEOUT(seen.size(), 3, LongWait);
     QCOMPARE(m->cursorLine(), 0);
-    m->trigger("anim_stop");
+    m->trigger("stage_stop");
     QVERIFY(!m->controller()->isPlaying());
     QCOMPARE(m->controller()->frame()->block().blockNumber(), m->cursorLine());
     m->goTo(9);
@@ -387,7 +387,7 @@ void TestStage::closesWhileItPlays()
 {
     QFETCH(QByteArray, action);
     m->press(m->at(SpriteMiddle));
-    m->trigger("anim_play");
+    m->trigger("stage_play");
     m->move(m->at(Body));
     QTRY_VERIFY(m->view()->timeLine()->currentTick() > 0);
     m->trigger(action.constData());

@@ -48,25 +48,12 @@ const Qt::Key TextKeys[] = {Qt::Key_Up,     Qt::Key_Down,      Qt::Key_Left,  Qt
                             Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Home,  Qt::Key_End,
                             Qt::Key_Return, Qt::Key_PageUp,    Qt::Key_Escape};
 
-const char* const Actions[] = {"anim_play",
-                               "anim_stop",
-                               "anim_next_frame",
-                               "anim_prev_frame",
-                               "anim_box_add_attack",
-                               "anim_box_add_collision",
-                               "anim_box_del",
-                               "stage_capture",
-                               "anim_onion_skin",
-                               "view_main_cross",
-                               "view_secondary_cross",
-                               "view_extra_cross",
-                               "view_rulers",
-                               "view_guide_lines",
-                               "view_attack_box",
-                               "view_collision_box",
-                               "view_center_origin",
-                               "anim_duplicate",
-                               "anim_remove"};
+const char* const Actions[] = {
+    "stage_play",          "stage_stop",          "stage_next_frame",      "stage_prev_frame",
+    "stage_draw_attack",   "stage_draw_body",     "stage_remove_boxes",    "stage_capture",
+    "stage_onion_skin",    "stage_main_cross",    "stage_secondary_cross", "stage_extra_cross",
+    "stage_rulers",        "stage_guide_lines",   "stage_attack_box",      "stage_collision_box",
+    "stage_center_origin", "animation_duplicate", "animation_remove"};
 
 /// Does something at random to the stage and to its text.
 class Monkey : public MonkeyOf<Monkey>
@@ -291,7 +278,7 @@ QString Monkey::fault()
 {
     m.release({-5, -5});
     QTest::keyClick(m.widget(), Qt::Key_Escape);
-    m.trigger("anim_stop");
+    m.trigger("stage_stop");
     QCoreApplication::processEvents();
     QString found = m.fault(random);
     for (int i = 0; i < 5 && found.isEmpty(); ++i) {

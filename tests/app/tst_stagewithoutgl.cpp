@@ -51,7 +51,7 @@ void TestStageWithoutGl::messageStandsThere()
     const auto* message = m_fixture->window->findChild<QLabel*>("stage_message");
     QVERIFY(message && message->isVisible());
     QVERIFY(message->text().contains("OpenGL"));
-    for (const char* name : {"anim_box_add_attack", "stage_capture", "view_center_origin"}) {
+    for (const char* name : {"stage_draw_attack", "stage_capture", "stage_center_origin"}) {
         QVERIFY2(!m_fixture->action(name)->isEnabled(), name);
     }
 }
@@ -62,7 +62,7 @@ void TestStageWithoutGl::timeLineWorks()
     QCoreApplication::processEvents();
     QCOMPARE(m_fixture->edit()->textCursor().blockNumber(), 3);
     m_fixture->goTo(2);
-    m_fixture->action("anim_play")->trigger();
+    m_fixture->action("stage_play")->trigger();
     QVERIFY(stage()->controller()->isPlaying());
     QTRY_VERIFY(!stage()->controller()->isPlaying());
     QCOMPARE(m_fixture->edit()->textCursor().blockNumber(), 3);

@@ -147,7 +147,7 @@ void TestWindowFit::jumpsBringFramesIntoSight()
     // A detail that the person has chosen stays, from frame to frame of the animation.
     m.stage()->setZoomLevel(11);
     m.stage()->setOrigin({0, 0});
-    m.fixture.action("anim_next_frame")->trigger();
+    m.fixture.action("stage_next_frame")->trigger();
     settle();
     QCOMPARE(m.stage()->origin(), QPoint());
     QCOMPARE(int(m.stage()->zoomLevel()), 11);

@@ -184,7 +184,7 @@ void TestWindowPanels::followsTheCursor()
     m->press(Qt::Key_Return);
     m->type(QStringLiteral("frame 0,3"));
     QCOMPARE(animations()->currentIndex().row(), 2);
-    QVERIFY(m->action("anim_duplicate")->isEnabled());
+    QVERIFY(m->action("animation_duplicate")->isEnabled());
     QVERIFY(window()->openFile(m_game->ryn()));
     QCOMPARE(animations()->model()->rowCount(), 0);
 }
@@ -241,10 +241,10 @@ void TestWindowPanels::changesAnimations_data()
     QTest::addColumn<QString>("expected");
     QTest::addColumn<int>("current");
     QTest::addColumn<int>("undoLine");
-    QTest::newRow("add") << "anim_add" << 0 << "1 2 3 4" << 3 << 9;
-    QTest::newRow("duplicate") << "anim_duplicate" << 0 << "1 4 2 3" << 1 << 4;
-    QTest::newRow("remove") << "anim_remove" << 1 << "1 3" << 1 << 4;
-    QTest::newRow("remove the last") << "anim_remove" << 2 << "1 2" << 1 << 7;
+    QTest::newRow("add") << "animation_add" << 0 << "1 2 3 4" << 3 << 9;
+    QTest::newRow("duplicate") << "animation_duplicate" << 0 << "1 4 2 3" << 1 << 4;
+    QTest::newRow("remove") << "animation_remove" << 1 << "1 3" << 1 << 4;
+    QTest::newRow("remove the last") << "animation_remove" << 2 << "1 2" << 1 << 7;
     QTest::newRow("up") << "org_up" << 2 << "1 3 2" << 1 << 7;
     QTest::newRow("to the top") << "org_top" << 2 << "3 1 2" << 0 << 7;
     QTest::newRow("down") << "org_down" << 0 << "2 1 3" << 1 << 0;
@@ -299,8 +299,7 @@ void TestWindowPanels::movesSeveralAnimations()
     m->action("undo")->trigger();
     m->action("undo")->trigger();
     QCOMPARE(m->document()->text(), before);
-    animations()->setFocus();
-    QTest::keyClick(animations(), Qt::Key_Delete);
+    pressIn(animations(), Qt::Key_Delete);
     QCOMPARE(m->document()->animations()->count(), 2);
 }
 
@@ -323,14 +322,14 @@ void TestWindowPanels::putsANewAnimationOnLinesOfItsOwn()
 {
     m_game->write("characters/ryn/basic.anim", "animation 7\r\nframe 0,0 loop");
     openAnimations();
-    m->action("anim_add")->trigger();
+    m->action("animation_add")->trigger();
     QVERIFY(m->document()->text().startsWith(
         QLatin1String("animation 7\nframe 0,0 loop\n\nanimation 8\n")));
     // The new identifier is selected, to be typed over.
     QCOMPARE(m->edit()->textCursor().selectedText(), QStringLiteral("8"));
     m->type(QStringLiteral("jab"));
     QCOMPARE(order(), QStringLiteral("7 jab"));
-    m->action("anim_duplicate")->trigger();
+    m->action("animation_duplicate")->trigger();
     QCOMPARE(order(), QStringLiteral("7 jab jab-2"));
 }
 
@@ -404,9 +403,9 @@ void TestWindowPanels::hasMenusAtThePointer_data()
     QTest::addColumn<QString>("part");
     QTest::addColumn<QString>("action");
     QTest::newRow("stage") << "stage"
-                           << "anim_next_frame";
+                           << "stage_next_frame";
     QTest::newRow("time line") << "time line"
-                               << "anim_play";
+                               << "stage_play";
     QTest::newRow("animations") << "animations"
                                 << "org_down";
     QTest::newRow("game") << "game"

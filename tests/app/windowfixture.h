@@ -163,6 +163,18 @@ public:
     void type(const QString& text) const { QTest::keyClicks(edit(), text); }
 };
 
+/// A key in a widget that has the keyboard since a while. Ctrl does not stay down behind it, as it
+/// does for lists after a key of QTest's.
+inline void pressIn(QWidget* widget, const QKeySequence& key)
+{
+    widget->setFocus();
+    QCoreApplication::processEvents();
+    QTest::keyClick(widget, Qt::Key(key[0] & ~int(Qt::KeyboardModifierMask)),
+                    Qt::KeyboardModifiers(key[0] & int(Qt::KeyboardModifierMask)));
+    QTest::keyRelease(widget, Qt::Key_Control);
+    QCoreApplication::processEvents();
+}
+
 /// A double click in the middle of a row.
 inline void doubleClickRow(QAbstractItemView* view, const QModelIndex& index)
 {

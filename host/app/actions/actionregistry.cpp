@@ -307,6 +307,23 @@ void ActionRegistry::setAllowed(const QString& name, bool isAllowed)
     }
 }
 
+void ActionRegistry::setDetail(const QString& name, const QString& detail)
+{
+    const Entry entry = d->entries.value(name);
+    if (!entry.action) {
+        return;
+    }
+    QString text = entry.info.text.label();
+    if (!detail.isEmpty()) {
+        text +=
+            QLatin1String(": ") + QString(detail).replace(QLatin1Char('&'), QLatin1String("&&"));
+    }
+    if (entry.action->text() != text) {
+        entry.action->setText(text);
+        entry.action->setToolTip(ActionText::plain(text));
+    }
+}
+
 void ActionRegistry::retranslate()
 {
     for (const Entry& entry : qAsConst(d->entries)) {

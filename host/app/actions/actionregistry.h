@@ -110,6 +110,9 @@ public:
     void setAllowed(const QString& name, bool isAllowed);
     /// @}
 
+    /// Puts something behind the text of an action, as in "Undo: Move box"; empty for nothing.
+    void setDetail(const QString& name, const QString& detail);
+
     /// Gives all actions their texts in the present language.
     void retranslate();
 

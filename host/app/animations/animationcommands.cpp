@@ -13,7 +13,6 @@
 #include <zorv/editors/organizer/organizereditor.h>
 
 #include <QAbstractItemView>
-#include <QKeyEvent>
 #include <QTextBlock>
 #include <algorithm>
 
@@ -59,9 +58,6 @@ AnimationCommands::AnimationCommands(const WindowServices& services)
       m_list(services.window->findChild<QAbstractItemView*>(ListName))
 {
     services.editors->addPanel(m_organizer);
-    if (m_list) {
-        m_list->installEventFilter(this);
-    }
     connect(m_organizer, &OrganizerEditor::rowActivated, this, &AnimationCommands::requestRow);
     connect(m_organizer, &OrganizerEditor::currentRowChanged, services.parts,
             &PartList::updateSoon);
@@ -75,9 +71,9 @@ QVector<ActionRow> AnimationCommands::actions()
     const Members<AnimationCommands> on(this);
     // clang-format off
     return {
-        {"anim_add",       "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Add"),       "Ctrl+Shift+A", on(&AnimationCommands::addNew),           on(&AnimationCommands::hasText)},
-        {"anim_duplicate", "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"), "Ctrl+Shift+D", on(&AnimationCommands::duplicateCurrent), on(&AnimationCommands::hasCurrent)},
-        {"anim_remove",    "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Remove"),    "Ctrl+Shift+R", on(&AnimationCommands::removeSelected),   on(&AnimationCommands::hasCurrent)},
+        {"animation_add",       "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Add"),       "Ctrl+Shift+A", on(&AnimationCommands::addNew),           on(&AnimationCommands::hasText), nullptr, ActionRow::Button, "anim_add"},
+        {"animation_duplicate", "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"), "Ctrl+Shift+D", on(&AnimationCommands::duplicateCurrent), on(&AnimationCommands::hasCurrent), nullptr, ActionRow::Button, "anim_duplicate"},
+        {"animation_remove",    "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Remove"),    "Ctrl+Shift+R", on(&AnimationCommands::removeSelected),   on(&AnimationCommands::hasCurrent), nullptr, ActionRow::Button, "anim_remove"},
     };
     // clang-format on
 }
@@ -87,9 +83,11 @@ QAbstractItemView* AnimationCommands::list() const
     return m_list;
 }
 
-QVector<PanelPlace> AnimationCommands::places() const
+QVector<PanelPlace> AnimationCommands::places()
 {
-    return {PanelPlace::of(m_list)};
+    return {PanelPlace::of(
+        m_list, {{Command::Delete, [this] { removeSelected(); }, [this] { return hasCurrent(); }},
+                 {Command::SelectAll, [list = m_list] { list->selectAll(); }}})};
 }
 
 void AnimationCommands::showDocument(Family::FamilyDocument* document)
@@ -157,16 +155,6 @@ void AnimationCommands::removeSelected()
     }
     Operations::removeAnimations(m_document->animations(), rows);
     m_organizer->setCurrentRow(std::min(rows.first(), m_document->animations()->count() - 1));
-}
-
-bool AnimationCommands::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::KeyPress && watched == m_list &&
-        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Delete)) {
-        removeSelected();
-        return true;
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 void AnimationCommands::requestRow(int row)

@@ -36,7 +36,7 @@ public:
 
     /// The animation of that line becomes the current row.
     void followCursor(int line) override;
-    QVector<PanelPlace> places() const override;
+    QVector<PanelPlace> places() override;
 
     /// A new animation at the end, with the next free number.
     void addNew();
@@ -44,9 +44,6 @@ public:
     /// Act on the current row, or on the selected ones; nothing without one.
     void duplicateCurrent();
     void removeSelected();
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     bool hasText() const;

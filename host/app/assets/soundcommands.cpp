@@ -4,7 +4,11 @@
 #include "app/assets/rowlist.h"
 #include "app/assets/soundpanel.h"
 #include "app/assets/transfer.h"
+#include "app/session/gamesession.h"
+#include "app/session/unsavedwork.h"
+#include "app/window/fieldcommands.h"
 #include "app/window/partlist.h"
+#include "app/window/statusfields.h"
 #include "app/window/windowservices.h"
 #include "family/assets/soundfile.h"
 #include "family/project/familyproject.h"
@@ -35,8 +39,6 @@ QVector<ActionRow> SoundCommands::actions()
         {"sound_add",    "snd.files", QT_TRANSLATE_NOOP("App::Actions", "&Add sounds..."),         {}, on(&SoundCommands::addSounds),      on(&SoundCommands::hasFile)},
         {"sound_export", "snd.files", QT_TRANSLATE_NOOP("App::Actions", "&Save sounds as..."),     {}, on(&SoundCommands::exportSounds),   on(&SoundCommands::hasSound)},
         {"sound_remove", "snd.files", QT_TRANSLATE_NOOP("App::Actions", "Re&move sounds"),         {}, on(&SoundCommands::removeSelected), on(&SoundCommands::hasSound)},
-        {"sound_undo",   "snd.steps", QT_TRANSLATE_NOOP("App::Actions", "&Undo change of sounds"), {}, on(&SoundCommands::undo),           on(&SoundCommands::canUndo)},
-        {"sound_redo",   "snd.steps", QT_TRANSLATE_NOOP("App::Actions", "Re&do change of sounds"), {}, on(&SoundCommands::redo),           on(&SoundCommands::canRedo)},
     };
     // clang-format on
 }
@@ -55,9 +57,28 @@ void SoundCommands::showProject(Family::FamilyProject* project)
         dynamic_cast<SoundFile*>(project ? project->file(Zorv::FileID::Sounds) : nullptr));
 }
 
-QVector<PanelPlace> SoundCommands::places() const
+QVector<PanelPlace> SoundCommands::places()
 {
-    return {PanelPlace::of(m_panel->list())};
+    CommandRows rows = historyCommands([this] { return m_panel->sounds(); });
+    rows +=
+        CommandRows{{Command::Delete, [this] { removeSelected(); }, [this] { return hasSound(); }},
+                    {Command::SelectAll, [this] { m_panel->list()->selectAll(); }},
+                    {Command::Save, [this] { save(); }, [this] { return isModified(); }}};
+    return {PanelPlace::of(m_panel, rows)};
+}
+
+bool SoundCommands::isModified() const
+{
+    return m_panel->sounds() && m_panel->sounds()->isModified();
+}
+
+void SoundCommands::save()
+{
+    if (saveFiles({m_panel->sounds()})) {
+        m_services.status->showPassing(
+            tr("%1 is saved.").arg(m_services.session->shownPath(m_panel->sounds()->fileName())));
+    }
+    m_services.parts->gameChanged();
 }
 
 bool SoundCommands::hasFile() const
@@ -68,16 +89,6 @@ bool SoundCommands::hasFile() const
 bool SoundCommands::hasSound() const
 {
     return m_panel->currentRow() >= 0;
-}
-
-bool SoundCommands::canUndo() const
-{
-    return m_panel->sounds() && m_panel->sounds()->steps().canUndo();
-}
-
-bool SoundCommands::canRedo() const
-{
-    return m_panel->sounds() && m_panel->sounds()->steps().canRedo();
 }
 
 /// Asks for how much of files whose sizes are wrong. False if the person gave up.
@@ -151,20 +162,6 @@ void SoundCommands::removeSelected()
     }
     sounds->endChange();
     m_panel->setCurrentRow(std::min(rows.first(), int(sounds->count()) - 1));
-}
-
-void SoundCommands::undo()
-{
-    if (m_panel->sounds()) {
-        m_panel->sounds()->undo();
-    }
-}
-
-void SoundCommands::redo()
-{
-    if (m_panel->sounds()) {
-        m_panel->sounds()->redo();
-    }
 }
 
 }  // namespace App

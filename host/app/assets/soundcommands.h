@@ -28,18 +28,16 @@ public:
     QVector<ActionRow> actions() override;
     void actionsMade() override;
     void showProject(Family::FamilyProject* project) override;
-    QVector<PanelPlace> places() const override;
+    QVector<PanelPlace> places() override;
 
 private:
     bool hasFile() const;
     bool hasSound() const;
-    bool canUndo() const;
-    bool canRedo() const;
+    bool isModified() const;
+    void save();
     void addSounds();
     void exportSounds();
     void removeSelected();
-    void undo();
-    void redo();
     bool chooseExtent(const QString& title, const QStringList& files,
                       Operations::SoundExtent* extent) const;
 

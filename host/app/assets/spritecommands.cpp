@@ -4,7 +4,11 @@
 #include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/transfer.h"
+#include "app/session/gamesession.h"
+#include "app/session/unsavedwork.h"
+#include "app/window/fieldcommands.h"
 #include "app/window/partlist.h"
+#include "app/window/statusfields.h"
 #include "app/window/windowservices.h"
 #include "family/assets/familypalette.h"
 #include "family/assets/familysprite.h"
@@ -45,8 +49,6 @@ QVector<ActionRow> SpriteCommands::actions()
         {"sprite_replace", "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Replace image..."),       {}, on(&SpriteCommands::replaceImage),   on(&SpriteCommands::hasSprite)},
         {"sprite_export",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Save images as..."),      {}, on(&SpriteCommands::exportImages),   on(&SpriteCommands::hasSprite)},
         {"sprite_remove",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "Re&move sprites"),         {}, on(&SpriteCommands::removeSelected), on(&SpriteCommands::hasSprite)},
-        {"sprite_undo",    "spr.steps", QT_TRANSLATE_NOOP("App::Actions", "&Undo change of sprites"), {}, on(&SpriteCommands::undo),           on(&SpriteCommands::canUndo)},
-        {"sprite_redo",    "spr.steps", QT_TRANSLATE_NOOP("App::Actions", "Re&do change of sprites"), {}, on(&SpriteCommands::redo),           on(&SpriteCommands::canRedo)},
         {"palette_open",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Load palette..."),        {}, on(&SpriteCommands::openPalette),    on(&SpriteCommands::hasPalette)},
         {"palette_save",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Save palette as..."),     {}, on(&SpriteCommands::savePalette),    on(&SpriteCommands::hasPalette)},
     };
@@ -81,9 +83,28 @@ void SpriteCommands::followRest(int line)
     }
 }
 
-QVector<PanelPlace> SpriteCommands::places() const
+QVector<PanelPlace> SpriteCommands::places()
 {
-    return {PanelPlace::of(m_panel->list())};
+    CommandRows rows = historyCommands([this] { return m_panel->sprites(); });
+    rows +=
+        CommandRows{{Command::Delete, [this] { removeSelected(); }, [this] { return hasSprite(); }},
+                    {Command::SelectAll, [this] { m_panel->list()->selectAll(); }},
+                    {Command::Save, [this] { save(); }, [this] { return isModified(); }}};
+    return {PanelPlace::of(m_panel, rows)};
+}
+
+bool SpriteCommands::isModified() const
+{
+    return m_panel->sprites() && m_panel->sprites()->isModified();
+}
+
+void SpriteCommands::save()
+{
+    if (saveFiles({m_panel->sprites()})) {
+        m_services.status->showPassing(
+            tr("%1 is saved.").arg(m_services.session->shownPath(m_panel->sprites()->fileName())));
+    }
+    m_services.parts->gameChanged();
 }
 
 bool SpriteCommands::hasFile() const
@@ -100,16 +121,6 @@ bool SpriteCommands::hasPalette() const
 {
     const FamilySprite* sprite = m_panel->currentSprite();
     return sprite && sprite->palette();
-}
-
-bool SpriteCommands::canUndo() const
-{
-    return m_panel->sprites() && m_panel->sprites()->steps().canUndo();
-}
-
-bool SpriteCommands::canRedo() const
-{
-    return m_panel->sprites() && m_panel->sprites()->steps().canRedo();
 }
 
 void SpriteCommands::addImages()
@@ -211,20 +222,6 @@ void SpriteCommands::removeSelected()
     sprites->removeSprites(rows);
     sprites->endChange();
     m_panel->setCurrentRow(std::min(rows.first(), int(sprites->count()) - 1));
-}
-
-void SpriteCommands::undo()
-{
-    if (m_panel->sprites()) {
-        m_panel->sprites()->undo();
-    }
-}
-
-void SpriteCommands::redo()
-{
-    if (m_panel->sprites()) {
-        m_panel->sprites()->redo();
-    }
 }
 
 void SpriteCommands::openPalette()

@@ -35,20 +35,18 @@ public:
 
     /// The sprite that the line of the cursor names becomes the current one.
     void followRest(int line) override;
-    QVector<PanelPlace> places() const override;
+    QVector<PanelPlace> places() override;
 
 private:
     bool hasFile() const;
     bool hasSprite() const;
     bool hasPalette() const;
-    bool canUndo() const;
-    bool canRedo() const;
+    bool isModified() const;
+    void save();
     void addImages();
     void replaceImage();
     void exportImages();
     void removeSelected();
-    void undo();
-    void redo();
     void openPalette();
     void savePalette();
     Family::FamilySprite* stillCurrent(int row, Family::AssetId id) const;

@@ -62,7 +62,7 @@ CodeView::CodeView(const WindowServices& services, QSplitter* page)
     layout->addWidget(m_workspace->widget());
     layout->addWidget(m_findBar);
     page->addWidget(m_widget);
-    services.editors->add(m_textEditor, TextFiles, page);
+    services.editors->add(m_textEditor, TextFiles, page, commands());
     m_workspace->widget()->setFocusProxy(editor());
     m_workspace->engineSwitched(true);
     setUpEditor();
@@ -108,7 +108,6 @@ void CodeView::setUpEditor()
 QVector<ActionRow> CodeView::actions()
 {
     const Members<CodeView> on(this);
-    const Members<CodeTextEditor> text(m_textEditor);
     const Members<CodeEditor> editing(editor());
     const Members<CodeHelp> help(m_help);
     const Members<FindBar> bar(m_findBar);
@@ -116,17 +115,7 @@ QVector<ActionRow> CodeView::actions()
     using K = QKeySequence;
     // clang-format off
     return {
-        {"save",            "file.save",      QT_TRANSLATE_NOOP("App::Actions", "&Save"),             K::Save,      on(&CodeView::save),                hasText},
         {"close_text",      "file.text",      QT_TRANSLATE_NOOP("App::Actions", "&Close text"),       K::Close,     on(&CodeView::closeText),           hasText},
-        {"undo",            "edit.undo",      QT_TRANSLATE_NOOP("App::Actions", "&Undo"),             K::Undo,      text(&CodeTextEditor::undo),        on(&CodeView::canUndo)},
-        {"redo",            "edit.undo",      QT_TRANSLATE_NOOP("App::Actions", "&Redo"),             K::Redo,      text(&CodeTextEditor::redo),        on(&CodeView::canRedo)},
-        {"cut",             "edit.clipboard", QT_TRANSLATE_NOOP("App::Actions", "Cu&t"),              K::Cut,       text(&CodeTextEditor::cut),         on(&CodeView::hasSelection)},
-        {"copy",            "edit.clipboard", QT_TRANSLATE_NOOP("App::Actions", "&Copy"),             K::Copy,      text(&CodeTextEditor::copy),        on(&CodeView::hasSelection)},
-        {"paste",           "edit.clipboard", QT_TRANSLATE_NOOP("App::Actions", "&Paste"),            K::Paste,     text(&CodeTextEditor::paste),       hasText},
-        {"select_all",      "edit.clipboard", QT_TRANSLATE_NOOP("App::Actions", "Select &all"),       K::SelectAll, text(&CodeTextEditor::selectAll),   hasText},
-        {"find",            "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "&Find..."),          K::Find,      bar(&FindBar::openFind),            hasText, "code"},
-        {"find_next",       "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Find &next"),        "F3",         bar(&FindBar::findNext),            hasText, "code"},
-        {"find_previous",   "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Find pre&vious"),    "Shift+F3",   bar(&FindBar::findPrevious),        hasText, "code"},
         {"find_selection",  "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Find &selection"),   "Ctrl+F3",    bar(&FindBar::findSelection),       hasText, "code"},
         {"replace",         "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Rep&lace..."),       "Ctrl+H",     bar(&FindBar::openReplace),         hasText, "code"},
         {"encoding",        "edit.text",      QT_TRANSLATE_NOOP("App::Actions", "&Encoding..."),      {},           on(&CodeView::changeEncoding),      hasText, "code"},
@@ -140,6 +129,23 @@ QVector<ActionRow> CodeView::actions()
         {"previous_text",   "view.texts",     QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),    "Ctrl+PgUp; Ctrl+Shift+Tab", on(&CodeView::showPrevious), hasText},
     };
     // clang-format on
+}
+
+/// Where the window does more than the library's editor.
+CommandRows CodeView::commands()
+{
+    const Members<CodeView> on(this);
+    const Members<FindBar> bar(m_findBar);
+    const auto hasText = on(&CodeView::hasText);
+    const auto hasSelection = on(&CodeView::hasSelection);
+    return {
+        {Command::Save, on(&CodeView::save), hasText},
+        {Command::Cut, [this] { m_textEditor->cut(); }, hasSelection},
+        {Command::Copy, [this] { m_textEditor->copy(); }, hasSelection},
+        {Command::Delete, [this] { editor()->textCursor().removeSelectedText(); }, hasSelection},
+        {Command::Find, bar(&FindBar::openFind), hasText},
+        {Command::FindNext, bar(&FindBar::findNext), hasText},
+        {Command::FindPrevious, bar(&FindBar::findPrevious), hasText}};
 }
 
 void CodeView::actionsMade()
@@ -227,7 +233,7 @@ void CodeView::gameChanged()
     m_tabs->updateTabs();
 }
 
-QVector<PanelPlace> CodeView::places() const
+QVector<PanelPlace> CodeView::places()
 {
     return {PanelPlace::inside(m_workspace->toolBar()), PanelPlace::of(m_tabs->currentEdit()),
             PanelPlace::inside(m_findBar), PanelPlace::of(m_textEditor->tree())};
@@ -242,18 +248,6 @@ bool CodeView::hasSelection() const
 {
     const CodeEditor* edit = m_tabs->currentEdit();
     return edit && edit->textCursor().hasSelection();
-}
-
-bool CodeView::canUndo() const
-{
-    const CodeEditor* edit = m_tabs->currentEdit();
-    return edit && edit->document()->isUndoAvailable();
-}
-
-bool CodeView::canRedo() const
-{
-    const CodeEditor* edit = m_tabs->currentEdit();
-    return edit && edit->document()->isRedoAvailable();
 }
 
 void CodeView::save()

@@ -52,7 +52,7 @@ public:
     void actionsMade() override;
     void forgetProject(Family::FamilyProject* project) override;
     void gameChanged() override;
-    QVector<PanelPlace> places() const override;
+    QVector<PanelPlace> places() override;
     void reconfig() override;
 
 private:
@@ -63,8 +63,7 @@ private:
 
     bool hasText() const;
     bool hasSelection() const;
-    bool canUndo() const;
-    bool canRedo() const;
+    CommandRows commands();
     void save();
     void closeText();
     void close(Family::FamilyDocument* document);

@@ -109,7 +109,7 @@ void GameTree::showGame(Family::FamilyParentProject* game)
     }
 }
 
-QVector<PanelPlace> GameTree::places() const
+QVector<PanelPlace> GameTree::places()
 {
     return {PanelPlace::of(this)};
 }

@@ -30,7 +30,7 @@ public:
     /// Opens the folder of a file in the tree and makes the file the current row.
     void reveal(const QString& fileName);
 
-    QVector<PanelPlace> places() const override;
+    QVector<PanelPlace> places() override;
 
 private:
     void request(const QModelIndex& index);

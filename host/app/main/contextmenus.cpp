@@ -45,19 +45,19 @@ QPoint placeForKeys(const QWidget* widget)
 ContextMenus::ContextMenus(MainWindow* window) : QObject(window), m_window(window)
 {
     StageView* stage = window->stage()->view();
-    add(stage->timeLine(), {"anim_play", "anim_stop", nullptr, "anim_prev_frame", "anim_next_frame",
-                            nullptr, "anim_onion_skin"});
-    add(stage, {"anim_play", "anim_stop", "anim_prev_frame", "anim_next_frame", nullptr,
-                "anim_box_add_attack", "anim_box_add_collision", "anim_box_del", "stage_capture",
-                nullptr, "anim_onion_skin", "view_rulers", "view_guide_lines", "view_attack_box",
-                "view_collision_box", nullptr, "view_center_origin"});
+    add(stage->timeLine(), {"stage_play", "stage_stop", nullptr, "stage_prev_frame",
+                            "stage_next_frame", nullptr, "stage_onion_skin"});
+    add(stage, {"stage_play", "stage_stop", "stage_prev_frame", "stage_next_frame", nullptr,
+                "stage_draw_attack", "stage_draw_body", "stage_remove_boxes", "stage_capture",
+                nullptr, "stage_onion_skin", "stage_rulers", "stage_guide_lines",
+                "stage_attack_box", "stage_collision_box", nullptr, "stage_center_origin"});
     add(window->animations()->list(),
-        {"anim_add", "anim_duplicate", "anim_remove", nullptr, "org_up", "org_down", "org_top",
-         "org_bottom", nullptr, "org_auto"});
+        {"animation_add", "animation_duplicate", "animation_remove", nullptr, "org_up", "org_down",
+         "org_top", "org_bottom", nullptr, "org_auto"});
     add(window->gameTree(),
         {"run", nullptr, "save_all", "backup", nullptr, "close_project", "close_folder"});
-    add(window->textEditor()->tree(),
-        {"anim_add", nullptr, "code_definition", "code_fold", "code_fold_all", "code_unfold_all"});
+    add(window->textEditor()->tree(), {"animation_add", nullptr, "code_definition", "code_fold",
+                                       "code_fold_all", "code_unfold_all"});
     // With the actions that their commands have given them.
     add(window->spritePanel()->list(), {});
     add(window->soundPanel()->list(), {});

@@ -32,6 +32,7 @@
 #include "app/stage/stagecommands.h"
 #include "app/stage/stagecontroller.h"
 #include "app/stage/stageview.h"
+#include "app/window/commandrouter.h"
 #include "app/window/editorregistry.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
@@ -132,6 +133,7 @@ MainWindow::MainWindow(QWidget* parent)
         return m_problems->mayRemove(removal);
     };
     m_messagePanel = new MessagePanel(m_services, m_problems);
+    m_router = new CommandRouter(m_services);
     m_commands = new WindowCommands(this);
     makeDocks();
 }
@@ -161,7 +163,7 @@ void MainWindow::publishTools()
 /// In the order in which the keyboard goes round, and in which sections of menus are filled.
 void MainWindow::addParts()
 {
-    for (Part* part : std::initializer_list<Part*>{m_opener, m_gameCommands, m_gameTree,
+    for (Part* part : std::initializer_list<Part*>{m_router, m_opener, m_gameCommands, m_gameTree,
                                                    m_services.editors, m_sprites, m_sounds, m_stage,
                                                    m_code, m_animations, m_problems, m_messagePanel,
                                                    m_runCommands, m_services.status, m_commands}) {

@@ -20,6 +20,7 @@ namespace App {
 class AnimationCommands;
 class CodeTextEditor;
 class CodeView;
+class CommandRouter;
 class ControlPlacer;
 class DocumentTabs;
 class GameCommands;
@@ -140,6 +141,7 @@ private:
     SoundCommands* m_sounds;
     ProblemWatch* m_problems;
     MessagePanel* m_messagePanel;
+    CommandRouter* m_router;
     WindowCommands* m_commands;
 };
 

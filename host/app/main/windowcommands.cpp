@@ -4,12 +4,9 @@
 #include "app/actions/keysdialog.h"
 #include "app/main/mainwindow.h"
 #include "app/settings/showsettings.h"
-#include "app/stage/stagecommands.h"
-#include "app/window/editorregistry.h"
 #include "app/window/partlist.h"
 
 #include <zorv/core/dialogs/dialogs.h>
-#include <zorv/editors/framework/workspace.h>
 
 namespace App {
 
@@ -18,15 +15,11 @@ WindowCommands::WindowCommands(MainWindow* window) : QObject(window), m_window(w
 QVector<ActionRow> WindowCommands::actions()
 {
     const Members<WindowCommands> on(this);
-    const auto hasText = on(&WindowCommands::hasWorkspace);
     // clang-format off
     return {
         {"quit",           "file.quit",      QT_TRANSLATE_NOOP("App::Actions", "&Quit"),           "Ctrl+Q",            on(&WindowCommands::quit)},
         {"next_panel",     "view.panels",    QT_TRANSLATE_NOOP("App::Actions", "&Next panel"),     "F6",                on(&WindowCommands::focusNextPanel)},
         {"previous_panel", "view.panels",    QT_TRANSLATE_NOOP("App::Actions", "&Previous panel"), "Shift+F6",          on(&WindowCommands::focusPreviousPanel)},
-        {"zoom_in",        "view.zoom",      QT_TRANSLATE_NOOP("App::Actions", "&Larger text"),        QKeySequence::ZoomIn,  on(&WindowCommands::zoomIn),     hasText},
-        {"zoom_out",       "view.zoom",      QT_TRANSLATE_NOOP("App::Actions", "&Smaller text"),       QKeySequence::ZoomOut, on(&WindowCommands::zoomOut),    hasText},
-        {"zoom_actual",    "view.zoom",      QT_TRANSLATE_NOOP("App::Actions", "&Usual size of text"), "Ctrl+0",              on(&WindowCommands::zoomActual), hasText},
         {"search_actions", "tools.find",     QT_TRANSLATE_NOOP("App::Actions", "&Find action..."), "Ctrl+Shift+P",      on(&WindowCommands::searchActions), {}, nullptr, ActionRow::Button, "find"},
         {"settings",       "tools.settings", QT_TRANSLATE_NOOP("App::Actions", "&Options..."),     "Ctrl+,",            on(&WindowCommands::changeSettings)},
         {"keys",           "help.keys",      QT_TRANSLATE_NOOP("App::Actions", "&Keys..."),        QKeySequence::HelpContents, on(&WindowCommands::listKeys)},
@@ -48,33 +41,6 @@ void WindowCommands::focusNextPanel()
 void WindowCommands::focusPreviousPanel()
 {
     goToPanel(m_window->services().parts->places(), -1);
-}
-
-bool WindowCommands::hasWorkspace() const
-{
-    return m_window->editors()->workspace();
-}
-
-/// What has the keyboard is zoomed: the stage or the workspace.
-void WindowCommands::zoomIn()
-{
-    if (!m_window->stage()->zoomIn()) {
-        m_window->editors()->workspace()->zoomIn();
-    }
-}
-
-void WindowCommands::zoomOut()
-{
-    if (!m_window->stage()->zoomOut()) {
-        m_window->editors()->workspace()->zoomOut();
-    }
-}
-
-void WindowCommands::zoomActual()
-{
-    if (!m_window->stage()->zoomActual()) {
-        m_window->editors()->workspace()->zoomActual();
-    }
 }
 
 void WindowCommands::searchActions()

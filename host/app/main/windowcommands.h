@@ -23,10 +23,6 @@ private:
     void quit();
     void focusNextPanel();
     void focusPreviousPanel();
-    bool hasWorkspace() const;
-    void zoomIn();
-    void zoomOut();
-    void zoomActual();
     void searchActions();
     void changeSettings();
     void listKeys();

@@ -9,6 +9,8 @@
 #include "app/window/windowservices.h"
 #include "family/familydocument.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -72,9 +74,12 @@ void MessagePanel::showMessageOfLine(int line)
     }
 }
 
-QVector<PanelPlace> MessagePanel::places() const
+QVector<PanelPlace> MessagePanel::places()
 {
-    return {PanelPlace::of(this)};
+    return {PanelPlace::of(
+        this, {{Command::Copy,
+                [this] { QApplication::clipboard()->setText(currentIndex().data().toString()); },
+                [this] { return currentIndex().isValid(); }}})};
 }
 
 void MessagePanel::comeForward()

@@ -35,7 +35,7 @@ public:
     void comeForward();
 
     void followLine(int line) override;
-    QVector<PanelPlace> places() const override;
+    QVector<PanelPlace> places() override;
 
     /// One line: all that an empty list needs.
     QSize minimumSizeHint() const override;

@@ -189,7 +189,7 @@ void showStage(MainWindow* window, const FamilyDocument* document)
     window->actionByName("view_stage")->trigger();
     window->findChild<QDockWidget*>(QStringLiteral("messages"))->hide();
     showAttack(window, document, 3);
-    for (const char* name : {"view_rulers", "anim_onion_skin"}) {
+    for (const char* name : {"stage_rulers", "stage_onion_skin"}) {
         window->actionByName(name)->trigger();
     }
     settleWindow();

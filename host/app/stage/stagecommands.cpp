@@ -48,27 +48,27 @@ const QString ShownKey = QStringLiteral("show_stage");
 
 // The tool bar, in its order; null for a gap.
 const char* const barActions[] = {
-    "anim_prev_frame",
-    "anim_play",
-    "anim_stop",
-    "anim_next_frame",
+    "stage_prev_frame",
+    "stage_play",
+    "stage_stop",
+    "stage_next_frame",
     nullptr,
-    "anim_box_add_attack",
-    "anim_box_add_collision",
-    "anim_box_del",
+    "stage_draw_attack",
+    "stage_draw_body",
+    "stage_remove_boxes",
     "stage_capture",
     nullptr,
-    "view_main_cross",
-    "view_secondary_cross",
-    "view_extra_cross",
-    "view_rulers",
-    "view_guide_lines",
-    "view_attack_box",
-    "view_collision_box",
+    "stage_main_cross",
+    "stage_secondary_cross",
+    "stage_extra_cross",
+    "stage_rulers",
+    "stage_guide_lines",
+    "stage_attack_box",
+    "stage_collision_box",
     nullptr,
-    "anim_onion_skin",
+    "stage_onion_skin",
     nullptr,
-    "view_center_origin",
+    "stage_center_origin",
 };
 
 const struct
@@ -142,25 +142,25 @@ QVector<ActionRow> StageCommands::actions()
     const auto isSwitch = ActionRow::Switch;
     // clang-format off
     return {
-        {"anim_play",              "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Play"),                  "F9",           on(&StageCommands::play),              hasFrame, nullptr, isSwitch},
-        {"anim_stop",              "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Stop"),                  "Shift+F9",     on(&StageCommands::stop),              hasFrame, nullptr, isSwitch},
-        {"anim_prev_frame",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "Pre&vious frame"),        "Alt+PgUp",     on(&StageCommands::showPreviousFrame), hasFrame},
-        {"anim_next_frame",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Next frame"),            "Alt+PgDown",   on(&StageCommands::showNextFrame),     hasFrame},
-        {"anim_onion_skin",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Onion skin"),            "Ctrl+Shift+O", on(&StageCommands::takeOnionSkin),     hasFrame, nullptr, isSwitch},
-        {"anim_box_add_attack",    "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw a&ttack boxes"),     "Ctrl+1",       takeMode,                              hasShownFrame, nullptr, isSwitch},
-        {"anim_box_add_collision", "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw &body boxes"),       "Ctrl+2",       takeMode,                              hasShownFrame, nullptr, isSwitch},
-        {"anim_box_del",           "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Remove se&lected boxes"), {},             on(&StageCommands::removeBoxes),       on(&StageCommands::hasBox)},
+        {"stage_play",              "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Play"),                  "F9",           on(&StageCommands::play),              hasFrame, nullptr, isSwitch, "anim_play"},
+        {"stage_stop",              "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Stop"),                  "Shift+F9",     on(&StageCommands::stop),              hasFrame, nullptr, isSwitch, "anim_stop"},
+        {"stage_prev_frame",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "Pre&vious frame"),        "Alt+PgUp",     on(&StageCommands::showPreviousFrame), hasFrame, nullptr, ActionRow::Button, "anim_prev_frame"},
+        {"stage_next_frame",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Next frame"),            "Alt+PgDown",   on(&StageCommands::showNextFrame),     hasFrame, nullptr, ActionRow::Button, "anim_next_frame"},
+        {"stage_onion_skin",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Onion skin"),            "Ctrl+Shift+O", on(&StageCommands::takeOnionSkin),     hasFrame, nullptr, isSwitch, "anim_onion_skin"},
+        {"stage_draw_attack",    "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw a&ttack boxes"),     "Ctrl+1",       takeMode,                              hasShownFrame, nullptr, isSwitch, "anim_box_add_attack"},
+        {"stage_draw_body", "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw &body boxes"),       "Ctrl+2",       takeMode,                              hasShownFrame, nullptr, isSwitch, "anim_box_add_collision"},
+        {"stage_remove_boxes",           "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Remove se&lected boxes"), {},             on(&StageCommands::removeBoxes),       on(&StageCommands::hasBox), nullptr, ActionRow::Button, "anim_box_del"},
         {"stage_capture",          "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Pick &colour"),           "Ctrl+Shift+K", takeMode,                              hasShownFrame, nullptr, isSwitch},
 
         {"view_stage",             "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Sta&ge"),                 "F7",           on(&StageCommands::showStage),         always, nullptr, isSwitch},
-        {"view_center_origin",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Centre the &origin"),     {},             on(&StageCommands::centerOrigin),      on(&StageCommands::isShown)},
-        {"view_main_cross",        "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Ax&is of the animation"), {},             takeVisibility,                        always, nullptr, isSwitch},
-        {"view_secondary_cross",   "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Axis of the spri&te"),    {},             takeVisibility,                        always, nullptr, isSwitch},
-        {"view_extra_cross",       "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Extr&a cross"),           {},             takeVisibility,                        always, nullptr, isSwitch},
-        {"view_rulers",            "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Rulers"),                {},             takeVisibility,                        always, nullptr, isSwitch},
-        {"view_guide_lines",       "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Gui&des"),                {},             takeVisibility,                        always, nullptr, isSwitch},
-        {"view_attack_box",        "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Attac&k boxes"),          {},             takeVisibility,                        always, nullptr, isSwitch},
-        {"view_collision_box",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Body boxes"),            {},             takeVisibility,                        always, nullptr, isSwitch},
+        {"stage_center_origin",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Centre the &origin"),     {},             on(&StageCommands::centerOrigin),      on(&StageCommands::isShown), nullptr, ActionRow::Button, "view_center_origin"},
+        {"stage_main_cross",        "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Ax&is of the animation"), {},             takeVisibility,                        always, nullptr, isSwitch, "view_main_cross"},
+        {"stage_secondary_cross",   "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Axis of the spri&te"),    {},             takeVisibility,                        always, nullptr, isSwitch, "view_secondary_cross"},
+        {"stage_extra_cross",       "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Extr&a cross"),           {},             takeVisibility,                        always, nullptr, isSwitch, "view_extra_cross"},
+        {"stage_rulers",            "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Rulers"),                {},             takeVisibility,                        always, nullptr, isSwitch, "view_rulers"},
+        {"stage_guide_lines",       "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Gui&des"),                {},             takeVisibility,                        always, nullptr, isSwitch, "view_guide_lines"},
+        {"stage_attack_box",        "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Attac&k boxes"),          {},             takeVisibility,                        always, nullptr, isSwitch, "view_attack_box"},
+        {"stage_collision_box",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Body boxes"),            {},             takeVisibility,                        always, nullptr, isSwitch, "view_collision_box"},
     };
     // clang-format on
 }
@@ -200,13 +200,13 @@ void StageCommands::connectStage()
     connect(m_controller, &StageController::lineRequested, this,
             [this](int line) { m_services.jumps->moveCursor(line); });
     connect(m_onion, &OnionControls::changed, this, &StageCommands::followOnion);
-    connect(m_onion, &OnionControls::switched, action("anim_onion_skin"), &QAction::setChecked);
+    connect(m_onion, &OnionControls::switched, action("stage_onion_skin"), &QAction::setChecked);
 }
 
 void StageCommands::setUpModes()
 {
     m_modes->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
-    for (const char* name : {"anim_box_add_attack", "anim_box_add_collision", "stage_capture"}) {
+    for (const char* name : {"stage_draw_attack", "stage_draw_body", "stage_capture"}) {
         m_modes->addAction(action(name));
     }
 }
@@ -219,7 +219,7 @@ void StageCommands::setUpSwitches()
     }
     const QVariant isShown = Zorv::Interface::instance()->option(ShownKey);
     action("view_stage")->setChecked(!isShown.isValid() || isShown.toBool());
-    action("anim_stop")->setChecked(true);
+    action("stage_stop")->setChecked(true);
 }
 
 void StageCommands::fillBar()
@@ -228,7 +228,7 @@ void StageCommands::fillBar()
     for (const char* name : barActions) {
         name ? bar->addAction(action(name)) : void(bar->addSeparator());
     }
-    auto* onion = qobject_cast<QToolButton*>(bar->widgetForAction(action("anim_onion_skin")));
+    auto* onion = qobject_cast<QToolButton*>(bar->widgetForAction(action("stage_onion_skin")));
     auto* menu = new QMenu(onion);
     auto* content = new QWidgetAction(menu);
     content->setDefaultWidget(m_onion);
@@ -284,9 +284,16 @@ void StageCommands::followRest(int line)
     m_controller->followLine(line);
 }
 
-QVector<PanelPlace> StageCommands::places() const
+QVector<PanelPlace> StageCommands::places()
 {
-    return {{m_view->focusTarget(), m_view}};
+    StageRenderer* stage = m_view->renderer();
+    return {{m_view->focusTarget(),
+             m_view,
+             {{Command::Delete, [this] { m_controller->removeSelectedBoxes(); },
+               [this] { return hasBox(); }},
+              {Command::ZoomIn, [stage] { stage->addZoom(); }},
+              {Command::ZoomOut, [stage] { stage->subZoom(); }},
+              {Command::ZoomActual, [stage] { stage->zoomActual(); }}}}};
 }
 
 void StageCommands::updateState()
@@ -373,9 +380,9 @@ void StageCommands::showNextFrame()
 void StageCommands::takeMode()
 {
     StageRenderer* stage = m_view->renderer();
-    if (action("anim_box_add_attack")->isChecked()) {
+    if (action("stage_draw_attack")->isChecked()) {
         stage->setDrawContactBoxMode(ContactBoxCode::Attack);
-    } else if (action("anim_box_add_collision")->isChecked()) {
+    } else if (action("stage_draw_body")->isChecked()) {
         stage->setDrawContactBoxMode(ContactBoxCode::Collision);
     } else if (action("stage_capture")->isChecked()) {
         stage->setCaptureMode();
@@ -410,7 +417,7 @@ void StageCommands::removeBoxes()
 
 void StageCommands::takeOnionSkin()
 {
-    m_onion->setOn(action("anim_onion_skin")->isChecked());
+    m_onion->setOn(action("stage_onion_skin")->isChecked());
 }
 
 void StageCommands::takeVisibility()
@@ -425,33 +432,6 @@ void StageCommands::centerOrigin()
 {
     m_view->renderer()->centralize();
     m_view->renderer()->Renderer::update();
-}
-
-bool StageCommands::zoomIn()
-{
-    const bool isHere = m_view->hasKeyboard();
-    if (isHere) {
-        m_view->renderer()->addZoom();
-    }
-    return isHere;
-}
-
-bool StageCommands::zoomOut()
-{
-    const bool isHere = m_view->hasKeyboard();
-    if (isHere) {
-        m_view->renderer()->subZoom();
-    }
-    return isHere;
-}
-
-bool StageCommands::zoomActual()
-{
-    const bool isHere = m_view->hasKeyboard();
-    if (isHere) {
-        m_view->renderer()->zoomActual();
-    }
-    return isHere;
 }
 
 /// The sprite may be turned or mirrored: what is seen is looked for in its pose.
@@ -474,8 +454,8 @@ void StageCommands::colorCaptured()
 void StageCommands::followState()
 {
     const bool isPlaying = m_controller->isPlaying();
-    action("anim_play")->setChecked(isPlaying);
-    action("anim_stop")->setChecked(!isPlaying);
+    action("stage_play")->setChecked(isPlaying);
+    action("stage_stop")->setChecked(!isPlaying);
     m_view->setHint(hint());
     takeRoom();
     m_view->setInfo(info());

@@ -48,7 +48,7 @@ public:
     void showDocument(Family::FamilyDocument* document) override;
     void showProject(Family::FamilyProject* project) override;
     void followRest(int line) override;
-    QVector<PanelPlace> places() const override;
+    QVector<PanelPlace> places() override;
 
     /// Shows the view if it is wanted and there is something that it could show.
     void updateState() override;
@@ -70,11 +70,6 @@ public:
     void takeVisibility();
     void centerOrigin();
     /// @}
-
-    /// On the stage while it has the keyboard; false if it has not.
-    bool zoomIn();
-    bool zoomOut();
-    bool zoomActual();
 
 signals:
     /// The person has picked a colour of the palette of a sprite.

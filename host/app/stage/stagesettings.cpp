@@ -21,13 +21,13 @@ struct PartRow
 };
 
 constexpr PartRow parts[StageSettings::PartCount] = {
-    {"view_main_cross", nullptr},
-    {"view_secondary_cross", "show_cross1"},
-    {"view_extra_cross", "show_cross2"},
-    {"view_rulers", "show_rulers"},
-    {"view_guide_lines", "show_guides"},
-    {"view_attack_box", "show_attack_box"},
-    {"view_collision_box", "show_collision_box"},
+    {"stage_main_cross", nullptr},
+    {"stage_secondary_cross", "show_cross1"},
+    {"stage_extra_cross", "show_cross2"},
+    {"stage_rulers", "show_rulers"},
+    {"stage_guide_lines", "show_guides"},
+    {"stage_attack_box", "show_attack_box"},
+    {"stage_collision_box", "show_collision_box"},
 };
 
 QVariant option(const char* key)

@@ -108,12 +108,6 @@ QWidget* StageView::focusTarget() const
     return m_widget ? static_cast<QWidget*>(m_widget) : m_timeLine;
 }
 
-bool StageView::hasKeyboard() const
-{
-    const QWidget* focus = QApplication::focusWidget();
-    return focus && (focus == m_widget || focus == m_timeLine);
-}
-
 void StageView::setHint(const QString& text)
 {
     m_hint->setText(text);

@@ -42,9 +42,6 @@ public:
     /// What takes the keyboard: the stage, or the time line without one.
     QWidget* focusTarget() const;
 
-    /// True while the keyboard is on the stage or the time line.
-    bool hasKeyboard() const;
-
     /// Shows in place of the stage what the person can do; an empty text shows the stage.
     void setHint(const QString& text);
 

@@ -6,10 +6,12 @@
 
 #include <zorv/core/projectfile.h>
 #include <zorv/editors/framework/fileeditor.h>
+#include <zorv/editors/framework/findflag.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
+#include <QInputDialog>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
 
@@ -39,6 +41,25 @@ QString areaOfTools(const QString& name)
     return QLatin1String(placeOf(name + QLatin1Char('_')).area);
 }
 
+CommandRows editorCommands(Editor* editor)
+{
+    const auto file = [editor] { return editor->file(); };
+    CommandRows rows{
+        {Command::Undo, [editor] { editor->undo(); },
+         [file] { return file() && file()->canUndo(); }, [file] { return file()->undoTitle(); }},
+        {Command::Redo, [editor] { editor->redo(); },
+         [file] { return file() && file()->canRedo(); }, [file] { return file()->redoTitle(); }},
+        {Command::SelectAll, [editor] { editor->selectAll(); }}};
+    if (auto* files = qobject_cast<Zorv::FileEditor*>(editor)) {
+        rows += CommandRows{
+            {Command::Cut, [files] { files->cut(); }},
+            {Command::Copy, [files] { files->copy(); }},
+            {Command::Paste, [files] { files->paste(); }},
+            {Command::Save, [files] { files->save(); }, [files] { return files->isModified(); }}};
+    }
+    return rows;
+}
+
 /// The files of a project that editors fetch from it.
 QVector<const ProjectFile*> filesOf(const Zorv::Project* project)
 {
@@ -59,14 +80,14 @@ EditorRegistry::EditorRegistry(QStackedWidget* pages, ControlPlacer* controls, Q
 
 EditorRegistry::~EditorRegistry() = default;
 
-void EditorRegistry::add(Editor* editor, FileID files, QWidget* page)
+void EditorRegistry::add(Editor* editor, FileID files, QWidget* page, const CommandRows& commands)
 {
     Workspace* workspace = editor->workspace();
     page = page || !workspace ? page : workspace->widget();
     if (page && m_pages->indexOf(page) < 0) {
         m_pages->addWidget(page);
     }
-    m_entries.append({editor, files, workspace, page});
+    m_entries.append({editor, files, workspace, page, commands});
     connect(editor, &Editor::modified, this, &EditorRegistry::modified);
     editor->setProject(m_project);
 }
@@ -174,6 +195,48 @@ void EditorRegistry::focusWorkspace()
     if (m_workspace) {
         m_workspace->widget()->setFocus();
     }
+}
+
+QWidget* EditorRegistry::focusTarget() const
+{
+    QWidget* widget = m_workspace ? m_workspace->widget() : nullptr;
+    return widget && widget->focusProxy() ? widget->focusProxy() : widget;
+}
+
+/// What is looked for is asked once, and then taken again.
+void EditorRegistry::find(Editor* editor, bool isAgain, unsigned flags)
+{
+    if (!isAgain || m_sought.isEmpty()) {
+        bool isGiven = false;
+        const QString text = QInputDialog::getText(m_pages->window(), tr("Find"), tr("Text:"),
+                                                   QLineEdit::Normal, m_sought, &isGiven);
+        m_sought = isGiven ? text : QString();
+    }
+    if (!m_sought.isEmpty()) {
+        editor->find(m_sought, flags | Zorv::FindWrap);
+    }
+}
+
+CommandRows EditorRegistry::commands()
+{
+    Editor* editor = m_current;
+    const auto entry = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [editor](const Entry& each) { return each.editor == editor; });
+    if (!editor || entry == m_entries.end()) {
+        return {};
+    }
+    CommandRows rows = entry->commands;
+    rows += editorCommands(editor);
+    rows += CommandRows{
+        {Command::Find, [this, editor] { find(editor, false, 0); }},
+        {Command::FindNext, [this, editor] { find(editor, true, 0); }},
+        {Command::FindPrevious, [this, editor] { find(editor, true, Zorv::FindBackward); }}};
+    if (Workspace* workspace = m_workspace) {
+        rows += CommandRows{{Command::ZoomIn, [workspace] { workspace->zoomIn(); }},
+                            {Command::ZoomOut, [workspace] { workspace->zoomOut(); }},
+                            {Command::ZoomActual, [workspace] { workspace->zoomActual(); }}};
+    }
+    return rows;
 }
 
 /// The editor in front has nothing to work on any more.

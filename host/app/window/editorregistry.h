@@ -45,9 +45,11 @@ public:
     ~EditorRegistry() override;
 
     /// Takes an editor in that is in charge of some kinds of files. What stands in the middle
-    /// with it is `page`, or with null the widget of its workspace. The first one is that which
-    /// comes back when another has nothing to work on any more.
-    void add(Zorv::Editor* editor, Zorv::FileID files, QWidget* page = nullptr);
+    /// with it is `page`, or with null the widget of its workspace. `commands` are what the host
+    /// does for it in place of its own operations. The first editor is that which comes back
+    /// when another has nothing to work on any more.
+    void add(Zorv::Editor* editor, Zorv::FileID files, QWidget* page = nullptr,
+             const CommandRows& commands = {});
 
     /// Takes a panel in, behind the others.
     void addPanel(Zorv::ExtraEditor* panel);
@@ -80,6 +82,12 @@ public:
     /// editor to the front does so.
     void focusWorkspace();
 
+    /// What takes the keyboard of the workspace in the middle; null without one.
+    QWidget* focusTarget() const;
+
+    /// How the editor in front does the commands.
+    CommandRows commands();
+
     /// Shows a panel in front of those in its place.
     void showPanel(Zorv::ExtraEditor* panel);
 
@@ -110,10 +118,12 @@ private:
         Zorv::FileID files;
         QPointer<Zorv::Workspace> workspace;
         QWidget* page;
+        CommandRows commands;
     };
 
     bool has(const Zorv::Editor* editor) const;
     void leave();
+    void find(Zorv::Editor* editor, bool isAgain, unsigned flags);
 
     QStackedWidget* m_pages;
     ControlPlacer* m_controls;
@@ -123,6 +133,7 @@ private:
     QPointer<Zorv::Workspace> m_workspace;
     const Zorv::Editor* m_activating = nullptr;
     Family::FamilyProject* m_project = nullptr;
+    QString m_sought;
     QVector<const Zorv::ProjectFile*> m_files;  ///< of the project, as the editors were told
 };
 

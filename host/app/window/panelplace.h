@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/window/command.h"
+
 #include <QVector>
 
 class QWidget;
@@ -9,10 +11,14 @@ namespace App {
 /// A place of the window to which a key leads.
 struct PanelPlace
 {
-    QWidget* field;       ///< takes the keyboard; null for a place that is not there
-    const QWidget* area;  ///< with the keyboard in here the person is at this place
+    QWidget* field;             ///< takes the keyboard; null for a place that is not there
+    const QWidget* area;        ///< with the keyboard in here the person is at this place
+    CommandRows commands = {};  ///< what it does itself
 
-    static PanelPlace of(const QWidget* panel) { return {const_cast<QWidget*>(panel), panel}; }
+    static PanelPlace of(const QWidget* panel, const CommandRows& commands = {})
+    {
+        return {const_cast<QWidget*>(panel), panel, commands};
+    }
 
     /// A bar, by the first of its fields that can be used.
     static PanelPlace inside(const QWidget* bar);

@@ -63,7 +63,7 @@ public:
     }
 
     /// Where the keyboard can go, in the order of the keys.
-    virtual QVector<PanelPlace> places() const { return {}; }
+    virtual QVector<PanelPlace> places() { return {}; }
 
     /// What the part shows besides, after anything has changed: states, titles.
     virtual void updateState() {}

@@ -166,10 +166,10 @@ bool PartList::mayEnd(const std::function<void()>& then) const
                        [&then](Part* part) { return part->mayEnd(then); });
 }
 
-QVector<PanelPlace> PartList::places() const
+QVector<PanelPlace> PartList::places()
 {
     QVector<PanelPlace> places;
-    for (const Part* part : m_parts) {
+    for (Part* part : qAsConst(m_parts)) {
         places += part->places();
     }
     return places;

@@ -62,7 +62,7 @@ public:
     /// Asks the parts; see `Part::mayEnd()`.
     bool mayEnd(const std::function<void()>& then) const;
 
-    QVector<PanelPlace> places() const;
+    QVector<PanelPlace> places();
     void reconfig();
     void retranslate();
 

@@ -77,6 +77,10 @@ public:
     void endChange() override;
     void undo() override;
     void redo() override;
+    bool canUndo() const override { return m_history.canUndo(); }
+    bool canRedo() const override { return m_history.canRedo(); }
+    QString undoTitle() const override { return m_history.undoTitle(); }
+    QString redoTitle() const override { return m_history.redoTitle(); }
 
     /// Whether there is a step, and its title.
     const AssetHistory& steps() const { return m_history; }
