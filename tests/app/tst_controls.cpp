@@ -1,7 +1,9 @@
 #include "windowfixture.h"
 
 #include "app/actions/actionregistry.h"
+#include "app/window/editorregistry.h"
 
+#include <zorv/editors/framework/extraeditor.h>
 #include <zorv/editors/framework/ownwidgetcontrol.h>
 #include <zorv/editors/framework/toolbuttoncontrol.h>
 #include <zorv/editors/framework/trwidgetcontrol.h>
@@ -69,6 +71,20 @@ signals:
     void setText(const QString& text);
 };
 
+/// A panel with a widget of its own.
+class Panel : public Zorv::ExtraEditor
+{
+public:
+    QString name() const override { return QStringLiteral("own"); }
+    QString displayName() const override { return title; }
+    QWidget* widget() const override { return m_widget; }
+
+    QString title = QStringLiteral("Own");
+
+private:
+    QPointer<QWidget> m_widget = new QLabel;
+};
+
 Q_DECLARE_METATYPE(WidgetControl::Kind)
 
 /// Tools that editors publish, as widgets of the window that are really used.
@@ -98,6 +114,7 @@ private slots:
     void staysSwitchedOff();
     void goesWithItsReceiver();
     void placesAFinishedWidget();
+    void showsAPanel();
     void enablesInTheAreasOfAControl();
     void refusesWhatHasNoName();
 
@@ -490,6 +507,27 @@ void TestControls::placesAFinishedWidget()
     QTRY_VERIFY(!well);
     QTRY_VERIFY(!panel->isVisible());
     QTRY_VERIFY(!m->window->findChild<QToolBar*>(QStringLiteral("sprites_bar"))->isVisible());
+}
+
+void TestControls::showsAPanel()
+{
+    auto panel = std::make_unique<Panel>();
+    m->window->editors()->addPanel(panel.get());
+    const auto* dock = m->window->findChild<QDockWidget*>(QStringLiteral("own"));
+    QVERIFY(dock->isAncestorOf(panel->widget()));
+    m->host.showExtraEditor(panel.get());
+    QTRY_VERIFY(dock->isVisible() && panel->isActive());
+    const auto changeLanguage = [this] {
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(m->window.get(), &change);
+    };
+    panel->title = QStringLiteral("Eigenes");
+    changeLanguage();
+    QTRY_COMPARE(dock->windowTitle(), QStringLiteral("Eigenes"));
+    // It may go before the window.
+    panel.reset();
+    changeLanguage();
+    QTRY_COMPARE(dock->windowTitle(), QString());
 }
 
 /// The place of the name says "animations"; what the control says counts.

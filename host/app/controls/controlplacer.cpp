@@ -17,6 +17,7 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QMenu>
+#include <QPointer>
 #include <QToolButton>
 
 namespace App {
@@ -200,7 +201,9 @@ QDockWidget* ControlPlacer::addPanel(Zorv::ExtraEditor* panel)
 {
     QWidget* widget = panel->widget();
     if (widget && !widget->parentWidget()) {
-        m_bars->addPanel(barOfPanel(panel), widget, [panel] { return panel->displayName(); });
+        m_bars->addPanel(barOfPanel(panel), widget, [left = QPointer<Zorv::ExtraEditor>(panel)] {
+            return left ? left->displayName() : QString();
+        });
     }
     return m_window->findChild<QDockWidget*>(barOfPanel(panel));
 }
