@@ -1169,6 +1169,10 @@
         <source>No problems</source>
         <translation>Keine Probleme</translation>
     </message>
+    <message>
+        <source>The game is still being checked: what uses it is not known.</source>
+        <translation>Das Spiel wird noch geprüft: Es ist nicht bekannt, was dies verwendet.</translation>
+    </message>
 </context>
 <context>
     <name>App::RecentMenu</name>

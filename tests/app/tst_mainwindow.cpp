@@ -369,8 +369,15 @@ void TestMainWindow::closesProjectsWhileTheyAreShown()
 {
     m->open(*m_game, m_game->ryn(), m_game->animations());
     QVERIFY(window()->openFile(m_game->oda()));
+    QVERIFY(window()->openFile(m_game->animations()));
+    // The one of the tree's row, while that has the keyboard.
+    window()->gameTree()->reveal(m_game->oda());
+    window()->gameTree()->setFocus();
     m->action("close_project")->trigger();
     QCOMPARE(window()->tabs()->count(), 2);
+    QCOMPARE(m->document()->fileName(), m_game->animations());
+    QTRY_VERIFY(!m->action("close_project")->isEnabled());
+    m->edit()->setFocus();
     m->type(QStringLiteral("x"));
     QTRY_VERIFY(window()->isWindowModified());
     m->dialogs.choiceAnswers = {GiveUp, Discard};

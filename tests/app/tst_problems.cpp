@@ -213,6 +213,24 @@ void TestProblems::removalTellsWhoUsesIt()
                  QStringLiteral("characters/maren/\\w+\\.\\w+, line \\d+: %1\n").arg(identifier))),
              qPrintable(text));
     QCOMPARE(animations->count(), count);
+    // What has taken the place of the animation behind the question stays.
+    m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
+    m->dialogs.whileOpen = [this](const auto&) {
+        QTextCursor(m->document()).insertText(QStringLiteral("animation 98765\nframe 0,0 loop\n"));
+    };
+    m->action("animation_remove")->trigger();
+    QCOMPARE(animations->count(), count + 1);
+    m->dialogs.whileOpen = nullptr;
+    m->document()->undo();
+    m->goTo(animations->animation(0)->firstLine());
+    // Who has switched the check off is told as well.
+    for (const bool isOn : {false, true}) {
+        m->host.setOption(QStringLiteral("highlightCode"), isOn);
+        window()->reconfig();
+        m->action("animation_remove")->trigger();
+        QCOMPARE(m->dialogs.count(QStringLiteral("question")), isOn ? 4 : 3);
+        QCOMPARE(animations->count(), count);
+    }
     m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
     m->action("animation_remove")->trigger();
     QCOMPARE(animations->count(), count - 1);

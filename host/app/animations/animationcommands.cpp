@@ -148,11 +148,14 @@ void AnimationCommands::duplicateCurrent()
 
 void AnimationCommands::removeSelected()
 {
-    const QVector<int> rows = m_organizer->selectedRows();
-    if (!m_document || rows.isEmpty() ||
-        !m_services.mayRemove(Operations::removalOf(*m_document, rows)) || !m_document) {
+    const auto removal = [this] {
+        return m_document ? Operations::removalOf(*m_document, m_organizer->selectedRows())
+                          : Operations::Removal();
+    };
+    if (removal().names.isEmpty() || !m_services.mayRemove(removal)) {
         return;
     }
+    const QVector<int> rows = m_organizer->selectedRows();
     Operations::removeAnimations(m_document->animations(), rows);
     m_organizer->setCurrentRow(std::min(rows.first(), m_document->animations()->count() - 1));
 }

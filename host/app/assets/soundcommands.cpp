@@ -149,13 +149,17 @@ void SoundCommands::exportSounds()
 
 void SoundCommands::removeSelected()
 {
-    SoundFile* sounds = m_panel->sounds();
-    const QVector<int> rows = m_panel->selectedRows();
-    if (rows.isEmpty() ||
-        !m_services.mayRemove(Operations::removalOf(Operations::Removal::Sounds, *sounds, rows)) ||
-        sounds != m_panel->sounds()) {
+    const auto removal = [this] {
+        const SoundFile* from = m_panel->sounds();
+        return from ? Operations::removalOf(Operations::Removal::Sounds, *from,
+                                            m_panel->selectedRows())
+                    : Operations::Removal();
+    };
+    if (removal().names.isEmpty() || !m_services.mayRemove(removal)) {
         return;
     }
+    SoundFile* sounds = m_panel->sounds();
+    const QVector<int> rows = m_panel->selectedRows();
     sounds->beginChange(tr("Remove sounds"));
     for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
         sounds->remove(unsigned(*row));

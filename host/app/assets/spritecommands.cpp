@@ -210,14 +210,17 @@ void SpriteCommands::exportImages()
 
 void SpriteCommands::removeSelected()
 {
-    SpriteCollection* sprites = m_panel->sprites();
-    const QVector<int> rows = m_panel->selectedRows();
-    if (!sprites || rows.isEmpty() ||
-        !m_services.mayRemove(
-            Operations::removalOf(Operations::Removal::Sprites, *sprites, rows)) ||
-        sprites != m_panel->sprites()) {
+    const auto removal = [this] {
+        const SpriteCollection* from = m_panel->sprites();
+        return from ? Operations::removalOf(Operations::Removal::Sprites, *from,
+                                            m_panel->selectedRows())
+                    : Operations::Removal();
+    };
+    if (removal().names.isEmpty() || !m_services.mayRemove(removal)) {
         return;
     }
+    SpriteCollection* sprites = m_panel->sprites();
+    const QVector<int> rows = m_panel->selectedRows();
     sprites->beginChange(tr("Remove sprites"));
     sprites->removeSprites(rows);
     sprites->endChange();

@@ -63,9 +63,29 @@ bool GameOpener::hasGame() const
     return m_services.session->game();
 }
 
+/// The open project of the current row while the tree has the keyboard, else that in front.
+FamilyProject* GameOpener::project() const
+{
+    if (!m_tree->hasFocus()) {
+        return m_services.parts->project();
+    }
+    const QString path = m_tree->pathOf(m_tree->currentIndex());
+    FamilyProject* found = path.isEmpty() ? m_services.parts->project() : nullptr;
+    for (FamilyProject* open : m_services.session->projects()) {
+        if (path == open->fileName()) {
+            return open;
+        }
+        const QString folder = open->absolutePath();
+        if (path.startsWith(folder) && (!found || folder.size() > found->absolutePath().size())) {
+            found = open;
+        }
+    }
+    return found;
+}
+
 bool GameOpener::hasProject() const
 {
-    return m_services.parts->project();
+    return project();
 }
 
 bool GameOpener::hasUnsaved() const
@@ -92,9 +112,9 @@ void GameOpener::saveAll()
 
 void GameOpener::closeProject()
 {
-    FamilyProject* project = m_services.parts->project();
-    if (project && m_services.jumps->mayClose(project, {})) {
-        m_services.session->closeProject(project);
+    FamilyProject* closing = project();
+    if (closing && m_services.jumps->mayClose(closing, {})) {
+        m_services.session->closeProject(closing);
     }
 }
 

@@ -30,6 +30,7 @@ public:
 
 private:
     bool hasGame() const;
+    Family::FamilyProject* project() const;
     bool hasProject() const;
     bool hasUnsaved() const;
     void chooseFolder();

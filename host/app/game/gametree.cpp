@@ -3,6 +3,7 @@
 #include "app/look/icon.h"
 #include "app/look/language.h"
 #include "app/window/jumps.h"
+#include "app/window/partlist.h"
 #include "app/window/windowservices.h"
 #include "family/grammar/filekind.h"
 #include "family/project/familyparentproject.h"
@@ -97,6 +98,7 @@ void GameTree::showGame(Family::FamilyParentProject* game)
             [this](const QModelIndex& current) {
                 if (!m_isChanging && current.isValid()) {
                     m_current = pathOf(current);
+                    m_services.parts->updateSoon();
                 }
             });
     // The folders of characters and stages, and those of the projects in them.

@@ -129,9 +129,7 @@ MainWindow::MainWindow(QWidget* parent)
     m_sprites = new SpriteCommands(m_services);
     m_sounds = new SoundCommands(m_services);
     m_problems = new ProblemWatch(m_services);
-    m_services.mayRemove = [this](const Operations::Removal& removal) {
-        return m_problems->mayRemove(removal);
-    };
+    m_services.mayRemove = [this](const auto& removal) { return m_problems->mayRemove(removal); };
     m_messagePanel = new MessagePanel(m_services, m_problems);
     m_router = new CommandRouter(m_services);
     m_commands = new WindowCommands(this);

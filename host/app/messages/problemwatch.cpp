@@ -239,22 +239,31 @@ bool ProblemWatch::settle()
     return m_check->waitForDone(SettleTime);
 }
 
-bool ProblemWatch::mayRemove(const Operations::Removal& removal)
+/// While nothing is checked, the files on the disk tell who uses it.
+bool ProblemWatch::mayRemove(const std::function<Operations::Removal()>& removal)
 {
     const bool isSettled = settle();
-    const QVector<Family::NamedPlace> uses = Operations::usesOf(removal, m_check->projects());
-    if (uses.isEmpty()) {
+    const Operations::Removal asked = removal();
+    const QVector<Family::NamedPlace> uses = Operations::usesOf(
+        asked, m_folder.isEmpty() ? Operations::projectsNaming(asked.path) : m_check->projects());
+    if (uses.isEmpty() && isSettled) {
         return true;
     }
-    QString text = tr("What is to be removed is used in %n place(s):", nullptr, uses.size()) +
-                   QLatin1String("\n\n") + Operations::inWords(uses).join(QLatin1Char('\n')) +
-                   QLatin1String("\n\n");
+    QString text;
+    if (!uses.isEmpty()) {
+        text = tr("What is to be removed is used in %n place(s):", nullptr, uses.size()) +
+               QLatin1String("\n\n") + Operations::inWords(uses).join(QLatin1Char('\n')) +
+               QLatin1String("\n\n");
+    }
     if (!isSettled) {
-        text += tr("The game is still being checked, so there may be more.") + QLatin1Char('\n');
+        text += (uses.isEmpty() ? tr("The game is still being checked: what uses it is not known.")
+                                : tr("The game is still being checked, so there may be more.")) +
+                QLatin1Char('\n');
     }
     return Zorv::Dialogs::instance()->question(tr("Remove"), text + tr("Remove it all the same?"),
                                                Zorv::Dialogs::Yes | Zorv::Dialogs::No,
-                                               Zorv::Dialogs::Yes) == Zorv::Dialogs::Yes;
+                                               Zorv::Dialogs::Yes) == Zorv::Dialogs::Yes &&
+           removal() == asked;
 }
 
 void ProblemWatch::takeProblems(const QStringList& files)

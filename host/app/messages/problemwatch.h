@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QSet>
 
+#include <functional>
 #include <memory>
 
 class QTimer;
@@ -57,7 +58,7 @@ public:
 
     /// Tells the person who uses what is to be removed, if anybody does, and asks. True to remove
     /// it.
-    bool mayRemove(const Operations::Removal& removal);
+    bool mayRemove(const std::function<Operations::Removal()>& removal);
 
     void showGame(Family::FamilyParentProject* game) override;
     void showProject(Family::FamilyProject* project) override;

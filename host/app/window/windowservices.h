@@ -30,7 +30,9 @@ struct WindowServices
     Jumps* jumps = nullptr;
 
     /// Asks before something is removed that is used elsewhere, and tells where. True to remove it.
-    std::function<bool(const Operations::Removal& removal)> mayRemove;
+    /// `removal()` gives what is to go at the moment: files can be read anew behind the question,
+    /// and what the person was not asked about stays.
+    std::function<bool(const std::function<Operations::Removal()>& removal)> mayRemove;
 };
 
 }  // namespace App

@@ -21,6 +21,12 @@ struct Removal
     QString path;         ///< absolute, of the file
     QStringList names;    ///< "GROUP,NUMBER", or identifiers of animations
     QStringList staying;  ///< those of what stays in the file: it takes the place of its namesakes
+
+    bool operator==(const Removal& other) const
+    {
+        return kind == other.kind && path == other.path && names == other.names &&
+               staying == other.staying;
+    }
 };
 
 /// Of the rows of a list of sprites or sounds, those to be removed.
