@@ -572,10 +572,6 @@
         <translation>Datei geändert</translation>
     </message>
     <message>
-        <source>%1 was changed by another program, and has unsaved changes here.</source>
-        <translation>%1 wurde von einem anderen Programm geändert und hat hier ungespeicherte Änderungen.</translation>
-    </message>
-    <message>
         <source>Write over it</source>
         <translation>Überschreiben</translation>
     </message>
@@ -584,8 +580,12 @@
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>%1 was changed by another program after it was read or saved here. Saving writes over what that has changed.</source>
-        <translation>%1 wurde von einem anderen Programm geändert, nachdem es hier gelesen oder gespeichert worden war. Speichern überschreibt diese Änderungen.</translation>
+        <source>%1 was changed by another program or in another project, and has unsaved changes here.</source>
+        <translation>%1 wurde von einem anderen Programm oder in einem anderen Projekt geändert und hat hier ungespeicherte Änderungen.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program or in another project after it was read or saved here. Saving writes over those changes.</source>
+        <translation>%1 wurde von einem anderen Programm oder in einem anderen Projekt geändert, nachdem es hier gelesen oder gespeichert worden war. Speichern überschreibt diese Änderungen.</translation>
     </message>
 </context>
 <context>
@@ -699,10 +699,6 @@
 <context>
     <name>App::GameCommands</name>
     <message>
-        <source>and %1 more</source>
-        <translation>und %1 weitere</translation>
-    </message>
-    <message>
         <source>Back up</source>
         <translation>Sichern</translation>
     </message>
@@ -765,6 +761,13 @@
     <message>
         <source>%1 was changed in several projects in different ways. Save it first, and choose what stays.</source>
         <translation>%1 wurde in mehreren Projekten unterschiedlich geändert. Speichern Sie zuerst und wählen Sie, was bleibt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1326,10 +1329,6 @@
         <source>There is no backup of this game.</source>
         <translation>Von diesem Spiel gibt es keine Sicherung.</translation>
     </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>und %1 weitere</translation>
-    </message>
     <message numerus="yes">
         <source>%1 of %n file(s) differ from those on the disk:</source>
         <translation>
@@ -1337,13 +1336,16 @@
             <numerusform>%1 von %n Dateien unterscheiden sich von denen auf dem Datenträger:</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>App::RunCommands</name>
-    <message>
-        <source>and %1 more</source>
-        <translation>und %1 weitere</translation>
-    </message>
     <message>
         <source>Started: %1</source>
         <translation>Gestartet: %1</translation>
@@ -1427,6 +1429,13 @@
     <message>
         <source>No lets you choose an engine of the options in its place.</source>
         <translation>Nein lässt Sie an seiner Stelle eine Engine der Optionen wählen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2244,10 +2253,6 @@
 <context>
     <name>App::UnsavedWork</name>
     <message>
-        <source>and %1 more</source>
-        <translation>und %1 weitere</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
@@ -2298,6 +2303,13 @@
     <message>
         <source>Close without saving</source>
         <translation>Schließen ohne zu speichern</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>

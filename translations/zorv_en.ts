@@ -19,6 +19,16 @@
     </message>
 </context>
 <context>
+    <name>App::GameCommands</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::ProblemWatch</name>
     <message numerus="yes">
         <source>What is to be removed is used in %n place(s):</source>
@@ -35,6 +45,23 @@
         <translation>
             <numerusform>%1 of %n file differs from the one on the disk:</numerusform>
             <numerusform>%1 of %n files differ from those on the disk:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::RunCommands</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
         </translation>
     </message>
 </context>
@@ -95,6 +122,16 @@
         <translation>
             <numerusform>%n file written.</numerusform>
             <numerusform>%n files written.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::UnsavedWork</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
         </translation>
     </message>
 </context>

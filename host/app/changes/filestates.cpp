@@ -211,7 +211,9 @@ void FileStates::askAboutChanged(ProjectFile* file)
     const QString name = QDir::toNativeSeparators(file->fileName());
     const int answer = ask(
         file, tr("File modified"),
-        tr("%1 was changed by another program, and has unsaved changes here.").arg(name), choices);
+        tr("%1 was changed by another program or in another project, and has unsaved changes here.")
+            .arg(name),
+        choices);
     if (answer == Second) {
         read(file);
     }
@@ -236,8 +238,8 @@ FileStates::Answer FileStates::askBeforeWriting(ProjectFile* file)
                               tr("Compare...")};
     const QString name = QDir::toNativeSeparators(file->fileName());
     switch (ask(file, tr("Save"),
-                tr("%1 was changed by another program after it was read or saved here. Saving "
-                   "writes over what that has changed.")
+                tr("%1 was changed by another program or in another project after it was read or "
+                   "saved here. Saving writes over those changes.")
                     .arg(name),
                 choices)) {
     case First:

@@ -38,7 +38,7 @@ QString namesOf(const QStringList& paths)
 {
     QStringList names = paths.mid(0, MaxNames);
     if (paths.size() > MaxNames) {
-        names.append(GameCommands::tr("and %1 more").arg(paths.size() - MaxNames));
+        names.append(GameCommands::tr("and %n more", nullptr, paths.size() - MaxNames));
     }
     return QDir::toNativeSeparators(names.join(QLatin1Char('\n')));
 }

@@ -124,7 +124,7 @@ void RestoreDialog::showFiles()
             new QTreeWidgetItem({QDir::toNativeSeparators(file.path), changeText(file.change)}));
     }
     if (files.size() > MaxFiles) {
-        items.append(new QTreeWidgetItem({tr("and %1 more").arg(files.size() - MaxFiles)}));
+        items.append(new QTreeWidgetItem({tr("and %n more", nullptr, files.size() - MaxFiles)}));
     }
     m_files->addTopLevelItems(items);
 }

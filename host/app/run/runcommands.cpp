@@ -36,7 +36,7 @@ QString namesOf(const QStringList& paths)
         names.append(QDir::toNativeSeparators(path));
     }
     if (paths.size() > MaxNames) {
-        names.append(RunCommands::tr("and %1 more").arg(paths.size() - MaxNames));
+        names.append(RunCommands::tr("and %n more", nullptr, paths.size() - MaxNames));
     }
     return names.join(QLatin1Char('\n'));
 }

@@ -48,7 +48,7 @@ QString namesOf(const QList<ProjectFile*>& files)
     const int more = names.size() - MaxNames;
     if (more > 0) {
         names = names.mid(0, MaxNames);
-        names.append(Text::tr("and %1 more").arg(more));
+        names.append(Text::tr("and %n more", nullptr, more));
     }
     return names.join(QLatin1Char('\n'));
 }
