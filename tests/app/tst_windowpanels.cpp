@@ -56,6 +56,7 @@ private slots:
     void refusesDropsFromElsewhere();
     void hasMenusAtThePointer_data();
     void hasMenusAtThePointer();
+    void menuOfNodesIsForTheirRow();
     void movesWhatHasTheFocus();
 
 private:
@@ -453,6 +454,22 @@ void TestWindowPanels::hasMenusAtThePointer()
     isThere = false;
     QTest::keyClick(widget, Qt::Key_F10, Qt::ShiftModifier);
     QTRY_VERIFY(isThere);
+}
+
+/// Not for the line of the cursor, which the right button leaves where it is.
+void TestWindowPanels::menuOfNodesIsForTheirRow()
+{
+    openAnimations();
+    m->goTo(0);
+    QTRY_COMPARE(nodes()->lineNo(m->tree()->currentIndex()), 0);
+    const QModelIndex second = nodes()->index(1, 0);
+    const QPoint place = m->tree()->visualRect(second).center();
+    QTest::mouseClick(m->tree()->viewport(), Qt::RightButton, {}, place);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, m->tree()->mapToGlobal(place));
+    QApplication::sendEvent(m->tree(), &event);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QApplication::activePopupWidget()->close();
+    QCOMPARE(m->place().line, nodes()->lineNo(second));
 }
 
 void TestWindowPanels::movesWhatHasTheFocus()

@@ -7,6 +7,7 @@
 #include "app/assets/spritepanel.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/documenttabs.h"
+#include "app/code/nodemodel.h"
 #include "app/game/gametree.h"
 #include "app/main/mainwindow.h"
 #include "app/stage/stagecommands.h"
@@ -103,6 +104,13 @@ bool ContextMenus::open(const Place& place, const QPoint* pointer)
     auto* tabs = qobject_cast<QTabBar*>(place.widget);
     if (tabs && pointer && tabs->tabAt(*pointer) >= 0) {
         tabs->setCurrentIndex(tabs->tabAt(*pointer));
+    }
+    const CodeTextEditor* text = m_window->textEditor();
+    const int line =
+        place.widget == text->tree() ? text->nodes()->lineNo(text->tree()->currentIndex()) : -1;
+    if (line >= 0) {
+        // The right button leaves the cursor where it was, and the menu is for the row.
+        m_window->moveCursor(line);
     }
     auto* menu = new QMenu(place.widget);
     menu->setAttribute(Qt::WA_DeleteOnClose);
