@@ -337,7 +337,7 @@ void TestFamilyDocument::movesEndWhereTheyShould()
                     parts.append(QStringLiteral("animation %1\n# of %1\nframe %1,0\n").arg(i));
                 }
                 FamilyDocument document(FileKind::Animations);
-                document.fromString(QStringLiteral("# top\n") + parts.join(QString()).chopped(1) +
+                document.fromString(QStringLiteral("# top\n\n") + parts.join(QString()).chopped(1) +
                                     end);
                 QVERIFY(moveAnimation(document.animations(), from, to));
                 parts.move(from, to);
