@@ -1,3 +1,7 @@
+#include "app/assets/rowlist.h"
+#include "app/assets/soundpanel.h"
+#include "app/assets/spritelist.h"
+#include "app/assets/spritepanel.h"
 #include "app/changes/comparedialog.h"
 #include "windowfixture.h"
 
@@ -315,6 +319,7 @@ void TestWindowFiles::staysQuietAboutItsOwnSave()
 
 void TestWindowFiles::showsAFileThatWentAway()
 {
+    m_game->addAssets();
     m->open(*m_game, m_game->ryn());
     QCOMPARE(window()->status()->stateText(), QStringLiteral("Saved"));
     QVERIFY(QFile::remove(m_game->ryn()));
@@ -323,6 +328,17 @@ void TestWindowFiles::showsAFileThatWentAway()
     m->press(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(m_game->read("characters/ryn/ryn.character").startsWith("[info]\r\n"));
     QTRY_COMPARE(window()->status()->stateText(), QStringLiteral("Saved"));
+    const QPair<QWidget*, QString> panels[] = {
+        {window()->spritePanel()->list(), m_game->path("characters/ryn/a.sprites")},
+        {window()->soundPanel()->list(), m_game->path("characters/ryn/a.sounds")}};
+    for (const auto& [list, file] : panels) {
+        list->parentWidget()->parentWidget()->raise();
+        list->setFocus();
+        QVERIFY(QFile::remove(file));
+        QTRY_VERIFY(m->action("save")->isEnabled());
+        m->action("save")->trigger();
+        QVERIFY(QFile::exists(file));
+    }
 }
 
 /// A file of Windows-1252 that is taken for UTF-8 or whatever else at first.

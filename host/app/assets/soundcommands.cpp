@@ -63,13 +63,14 @@ QVector<PanelPlace> SoundCommands::places()
     rows +=
         CommandRows{{Command::Delete, [this] { removeSelected(); }, [this] { return hasSound(); }},
                     {Command::SelectAll, [this] { m_panel->list()->selectAll(); }},
-                    {Command::Save, [this] { save(); }, [this] { return isModified(); }}};
+                    {Command::Save, [this] { save(); }, [this] { return canSave(); }}};
     return {PanelPlace::of(m_panel, rows)};
 }
 
-bool SoundCommands::isModified() const
+/// A file that has gone can be brought back.
+bool SoundCommands::canSave() const
 {
-    return m_panel->sounds() && m_panel->sounds()->isModified();
+    return m_panel->sounds() && (m_panel->sounds()->isModified() || isGone(m_panel->sounds()));
 }
 
 void SoundCommands::save()

@@ -33,7 +33,7 @@ public:
 private:
     bool hasFile() const;
     bool hasSound() const;
-    bool isModified() const;
+    bool canSave() const;
     void save();
     void addSounds();
     void exportSounds();

@@ -89,13 +89,14 @@ QVector<PanelPlace> SpriteCommands::places()
     rows +=
         CommandRows{{Command::Delete, [this] { removeSelected(); }, [this] { return hasSprite(); }},
                     {Command::SelectAll, [this] { m_panel->list()->selectAll(); }},
-                    {Command::Save, [this] { save(); }, [this] { return isModified(); }}};
+                    {Command::Save, [this] { save(); }, [this] { return canSave(); }}};
     return {PanelPlace::of(m_panel, rows)};
 }
 
-bool SpriteCommands::isModified() const
+/// A file that has gone can be brought back.
+bool SpriteCommands::canSave() const
 {
-    return m_panel->sprites() && m_panel->sprites()->isModified();
+    return m_panel->sprites() && (m_panel->sprites()->isModified() || isGone(m_panel->sprites()));
 }
 
 void SpriteCommands::save()

@@ -41,7 +41,7 @@ private:
     bool hasFile() const;
     bool hasSprite() const;
     bool hasPalette() const;
-    bool isModified() const;
+    bool canSave() const;
     void save();
     void addImages();
     void replaceImage();
