@@ -71,7 +71,7 @@ QVector<ActionRow> AnimationCommands::actions()
     const Members<AnimationCommands> on(this);
     // clang-format off
     return {
-        {"animation_add",       "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Add"),       "Ctrl+Shift+A", on(&AnimationCommands::addNew),           on(&AnimationCommands::hasText), nullptr, ActionRow::Button, "anim_add"},
+        {"animation_add",       "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Add"),       "Ctrl+Shift+A", on(&AnimationCommands::addNew),           on(&AnimationCommands::hasText),    nullptr, ActionRow::Button, "anim_add"},
         {"animation_duplicate", "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"), "Ctrl+Shift+D", on(&AnimationCommands::duplicateCurrent), on(&AnimationCommands::hasCurrent), nullptr, ActionRow::Button, "anim_duplicate"},
         {"animation_remove",    "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Remove"),    "Ctrl+Shift+R", on(&AnimationCommands::removeSelected),   on(&AnimationCommands::hasCurrent), nullptr, ActionRow::Button, "anim_remove"},
     };

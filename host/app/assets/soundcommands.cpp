@@ -36,9 +36,9 @@ QVector<ActionRow> SoundCommands::actions()
     const Members<SoundCommands> on(this);
     // clang-format off
     return {
-        {"sound_add",    "snd.files", QT_TRANSLATE_NOOP("App::Actions", "&Add sounds..."),         {}, on(&SoundCommands::addSounds),      on(&SoundCommands::hasFile)},
-        {"sound_export", "snd.files", QT_TRANSLATE_NOOP("App::Actions", "&Save sounds as..."),     {}, on(&SoundCommands::exportSounds),   on(&SoundCommands::hasSound)},
-        {"sound_remove", "snd.files", QT_TRANSLATE_NOOP("App::Actions", "Re&move sounds"),         {}, on(&SoundCommands::removeSelected), on(&SoundCommands::hasSound)},
+        {"sound_add",    "snd.files", QT_TRANSLATE_NOOP("App::Actions", "&Add sounds..."),     {}, on(&SoundCommands::addSounds),      on(&SoundCommands::hasFile)},
+        {"sound_export", "snd.files", QT_TRANSLATE_NOOP("App::Actions", "&Save sounds as..."), {}, on(&SoundCommands::exportSounds),   on(&SoundCommands::hasSound)},
+        {"sound_remove", "snd.files", QT_TRANSLATE_NOOP("App::Actions", "Re&move sounds"),     {}, on(&SoundCommands::removeSelected), on(&SoundCommands::hasSound)},
     };
     // clang-format on
 }

@@ -45,12 +45,12 @@ QVector<ActionRow> SpriteCommands::actions()
     const Members<SpriteCommands> on(this);
     // clang-format off
     return {
-        {"sprite_add",     "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Add images..."),          {}, on(&SpriteCommands::addImages),      on(&SpriteCommands::hasFile)},
-        {"sprite_replace", "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Replace image..."),       {}, on(&SpriteCommands::replaceImage),   on(&SpriteCommands::hasSprite)},
-        {"sprite_export",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Save images as..."),      {}, on(&SpriteCommands::exportImages),   on(&SpriteCommands::hasSprite)},
-        {"sprite_remove",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "Re&move sprites"),         {}, on(&SpriteCommands::removeSelected), on(&SpriteCommands::hasSprite)},
-        {"palette_open",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Load palette..."),        {}, on(&SpriteCommands::openPalette),    on(&SpriteCommands::hasPalette)},
-        {"palette_save",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Save palette as..."),     {}, on(&SpriteCommands::savePalette),    on(&SpriteCommands::hasPalette)},
+        {"sprite_add",     "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Add images..."),      {}, on(&SpriteCommands::addImages),      on(&SpriteCommands::hasFile)},
+        {"sprite_replace", "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Replace image..."),   {}, on(&SpriteCommands::replaceImage),   on(&SpriteCommands::hasSprite)},
+        {"sprite_export",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Save images as..."),  {}, on(&SpriteCommands::exportImages),   on(&SpriteCommands::hasSprite)},
+        {"sprite_remove",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "Re&move sprites"),     {}, on(&SpriteCommands::removeSelected), on(&SpriteCommands::hasSprite)},
+        {"palette_open",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Load palette..."),    {}, on(&SpriteCommands::openPalette),    on(&SpriteCommands::hasPalette)},
+        {"palette_save",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Save palette as..."), {}, on(&SpriteCommands::savePalette),    on(&SpriteCommands::hasPalette)},
     };
     // clang-format on
 }

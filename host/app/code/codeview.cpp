@@ -115,18 +115,18 @@ QVector<ActionRow> CodeView::actions()
     using K = QKeySequence;
     // clang-format off
     return {
-        {"close_text",      "file.text",      QT_TRANSLATE_NOOP("App::Actions", "&Close text"),       K::Close,     on(&CodeView::closeText),           hasText},
-        {"find_selection",  "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Find &selection"),   "Ctrl+F3",    bar(&FindBar::findSelection),       hasText, "code"},
-        {"replace",         "edit.find",      QT_TRANSLATE_NOOP("App::Actions", "Rep&lace..."),       "Ctrl+H",     bar(&FindBar::openReplace),         hasText, "code"},
-        {"encoding",        "edit.text",      QT_TRANSLATE_NOOP("App::Actions", "&Encoding..."),      {},           on(&CodeView::changeEncoding),      hasText, "code"},
-        {"code_complete",   "code.write",     QT_TRANSLATE_NOOP("App::Actions", "Co&mplete word"),    "Ctrl+Space", help(&CodeHelp::completeWord),      hasText, "code"},
-        {"code_definition", "code.write",     QT_TRANSLATE_NOOP("App::Actions", "&Go to definition"), "F12",        help(&CodeHelp::goToDefinition),    hasText, "code"},
-        {"code_back",       "code.write",     QT_TRANSLATE_NOOP("App::Actions", "Go &back"),          "Alt+Left",   help(&CodeHelp::goBack),            hasText, "code"},
-        {"code_line_up",    "code.write",     QT_TRANSLATE_NOOP("App::Actions", "Move line &up"),     "Alt+Up",     editing(&CodeEditor::moveLinesUp),   hasText, "code"},
-        {"code_line_down",  "code.write",     QT_TRANSLATE_NOOP("App::Actions", "Move line do&wn"),   "Alt+Down",   editing(&CodeEditor::moveLinesDown), hasText, "code"},
-        {"code_fold",       "code.write",     QT_TRANSLATE_NOOP("App::Actions", "&Fold or unfold"),   "Alt+Shift+Up", editing(&CodeEditor::toggleFold), hasText, "code"},
-        {"next_text",       "view.texts",     QT_TRANSLATE_NOOP("App::Actions", "Next te&xt"),        "Ctrl+PgDown; Ctrl+Tab",     on(&CodeView::showNext),     hasText},
-        {"previous_text",   "view.texts",     QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),    "Ctrl+PgUp; Ctrl+Shift+Tab", on(&CodeView::showPrevious), hasText},
+        {"close_text",      "file.text",  QT_TRANSLATE_NOOP("App::Actions", "&Close text"),       K::Close,                    on(&CodeView::closeText),            hasText},
+        {"find_selection",  "edit.find",  QT_TRANSLATE_NOOP("App::Actions", "Find &selection"),   "Ctrl+F3",                   bar(&FindBar::findSelection),        hasText, "code"},
+        {"replace",         "edit.find",  QT_TRANSLATE_NOOP("App::Actions", "Rep&lace..."),       "Ctrl+H",                    bar(&FindBar::openReplace),          hasText, "code"},
+        {"encoding",        "edit.text",  QT_TRANSLATE_NOOP("App::Actions", "&Encoding..."),      {},                          on(&CodeView::changeEncoding),       hasText, "code"},
+        {"code_complete",   "code.write", QT_TRANSLATE_NOOP("App::Actions", "Co&mplete word"),    "Ctrl+Space",                help(&CodeHelp::completeWord),       hasText, "code"},
+        {"code_definition", "code.write", QT_TRANSLATE_NOOP("App::Actions", "&Go to definition"), "F12",                       help(&CodeHelp::goToDefinition),     hasText, "code"},
+        {"code_back",       "code.write", QT_TRANSLATE_NOOP("App::Actions", "Go &back"),          "Alt+Left",                  help(&CodeHelp::goBack),             hasText, "code"},
+        {"code_line_up",    "code.write", QT_TRANSLATE_NOOP("App::Actions", "Move line &up"),     "Alt+Up",                    editing(&CodeEditor::moveLinesUp),   hasText, "code"},
+        {"code_line_down",  "code.write", QT_TRANSLATE_NOOP("App::Actions", "Move line do&wn"),   "Alt+Down",                  editing(&CodeEditor::moveLinesDown), hasText, "code"},
+        {"code_fold",       "code.write", QT_TRANSLATE_NOOP("App::Actions", "&Fold or unfold"),   "Alt+Shift+Up",              editing(&CodeEditor::toggleFold),    hasText, "code"},
+        {"next_text",       "view.texts", QT_TRANSLATE_NOOP("App::Actions", "Next te&xt"),        "Ctrl+PgDown; Ctrl+Tab",     on(&CodeView::showNext),             hasText},
+        {"previous_text",   "view.texts", QT_TRANSLATE_NOOP("App::Actions", "Previous t&ext"),    "Ctrl+PgUp; Ctrl+Shift+Tab", on(&CodeView::showPrevious),         hasText},
     };
     // clang-format on
 }

@@ -67,9 +67,9 @@ QVector<ActionRow> GameCommands::actions()
     const Members<GameCommands> on(this);
     // clang-format off
     return {
-        {"save_all_as",    "file.all",    QT_TRANSLATE_NOOP("App::Actions", "Save all &as..."),     {}, on(&GameCommands::saveAllAs),     on(&GameCommands::hasGame), nullptr, ActionRow::Button, "save_as"},
-        {"backup",         "file.backup", QT_TRANSLATE_NOOP("App::Actions", "&Back up..."),         {}, on(&GameCommands::makeBackup),    on(&GameCommands::hasGame)},
-        {"restore_backup", "file.backup", QT_TRANSLATE_NOOP("App::Actions", "Res&tore backup..."),  {}, on(&GameCommands::restoreBackup), on(&GameCommands::hasGame), nullptr, ActionRow::Button, "restore"},
+        {"save_all_as",    "file.all",    QT_TRANSLATE_NOOP("App::Actions", "Save all &as..."),    {}, on(&GameCommands::saveAllAs),     on(&GameCommands::hasGame), nullptr, ActionRow::Button, "save_as"},
+        {"backup",         "file.backup", QT_TRANSLATE_NOOP("App::Actions", "&Back up..."),        {}, on(&GameCommands::makeBackup),    on(&GameCommands::hasGame)},
+        {"restore_backup", "file.backup", QT_TRANSLATE_NOOP("App::Actions", "Res&tore backup..."), {}, on(&GameCommands::restoreBackup), on(&GameCommands::hasGame), nullptr, ActionRow::Button, "restore"},
     };
     // clang-format on
 }

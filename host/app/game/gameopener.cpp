@@ -50,10 +50,10 @@ QVector<ActionRow> GameOpener::actions()
     const Members<GameOpener> on(this);
     // clang-format off
     return {
-        {"open_folder",   "file.open",  QT_TRANSLATE_NOOP("App::Actions", "&Open game folder..."),  QKeySequence::Open, on(&GameOpener::chooseFolder)},
-        {"save_all",      "file.all",   QT_TRANSLATE_NOOP("App::Actions", "Save a&ll"),             "Ctrl+Shift+S",     on(&GameOpener::saveAll),      on(&GameOpener::hasUnsaved)},
-        {"close_project", "file.close", QT_TRANSLATE_NOOP("App::Actions", "Close &project"),        "Ctrl+Shift+W",     on(&GameOpener::closeProject), on(&GameOpener::hasProject)},
-        {"close_folder",  "file.close", QT_TRANSLATE_NOOP("App::Actions", "Close &game folder"),    {},                 on(&GameOpener::closeFolder),  on(&GameOpener::hasGame)},
+        {"open_folder",   "file.open",  QT_TRANSLATE_NOOP("App::Actions", "&Open game folder..."), QKeySequence::Open, on(&GameOpener::chooseFolder)},
+        {"save_all",      "file.all",   QT_TRANSLATE_NOOP("App::Actions", "Save a&ll"),            "Ctrl+Shift+S",     on(&GameOpener::saveAll),      on(&GameOpener::hasUnsaved)},
+        {"close_project", "file.close", QT_TRANSLATE_NOOP("App::Actions", "Close &project"),       "Ctrl+Shift+W",     on(&GameOpener::closeProject), on(&GameOpener::hasProject)},
+        {"close_folder",  "file.close", QT_TRANSLATE_NOOP("App::Actions", "Close &game folder"),   {},                 on(&GameOpener::closeFolder),  on(&GameOpener::hasGame)},
     };
     // clang-format on
 }

@@ -17,13 +17,13 @@ QVector<ActionRow> WindowCommands::actions()
     const Members<WindowCommands> on(this);
     // clang-format off
     return {
-        {"quit",           "file.quit",      QT_TRANSLATE_NOOP("App::Actions", "&Quit"),           "Ctrl+Q",            on(&WindowCommands::quit)},
-        {"next_panel",     "view.panels",    QT_TRANSLATE_NOOP("App::Actions", "&Next panel"),     "F6",                on(&WindowCommands::focusNextPanel)},
-        {"previous_panel", "view.panels",    QT_TRANSLATE_NOOP("App::Actions", "&Previous panel"), "Shift+F6",          on(&WindowCommands::focusPreviousPanel)},
-        {"search_actions", "tools.find",     QT_TRANSLATE_NOOP("App::Actions", "&Find action..."), "Ctrl+Shift+P",      on(&WindowCommands::searchActions), {}, nullptr, ActionRow::Button, "find"},
-        {"settings",       "tools.settings", QT_TRANSLATE_NOOP("App::Actions", "&Options..."),     "Ctrl+,",            on(&WindowCommands::changeSettings)},
+        {"quit",           "file.quit",      QT_TRANSLATE_NOOP("App::Actions", "&Quit"),           "Ctrl+Q",                   on(&WindowCommands::quit)},
+        {"next_panel",     "view.panels",    QT_TRANSLATE_NOOP("App::Actions", "&Next panel"),     "F6",                       on(&WindowCommands::focusNextPanel)},
+        {"previous_panel", "view.panels",    QT_TRANSLATE_NOOP("App::Actions", "&Previous panel"), "Shift+F6",                 on(&WindowCommands::focusPreviousPanel)},
+        {"search_actions", "tools.find",     QT_TRANSLATE_NOOP("App::Actions", "&Find action..."), "Ctrl+Shift+P",             on(&WindowCommands::searchActions),      {}, nullptr, ActionRow::Button, "find"},
+        {"settings",       "tools.settings", QT_TRANSLATE_NOOP("App::Actions", "&Options..."),     "Ctrl+,",                   on(&WindowCommands::changeSettings)},
         {"keys",           "help.keys",      QT_TRANSLATE_NOOP("App::Actions", "&Keys..."),        QKeySequence::HelpContents, on(&WindowCommands::listKeys)},
-        {"about",          "help.keys",      QT_TRANSLATE_NOOP("App::Actions", "&About Zorv"),     {},                  on(&WindowCommands::tellAbout)},
+        {"about",          "help.keys",      QT_TRANSLATE_NOOP("App::Actions", "&About Zorv"),     {},                         on(&WindowCommands::tellAbout)},
     };
     // clang-format on
 }

@@ -142,25 +142,25 @@ QVector<ActionRow> StageCommands::actions()
     const auto isSwitch = ActionRow::Switch;
     // clang-format off
     return {
-        {"stage_play",              "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Play"),                  "F9",           on(&StageCommands::play),              hasFrame, nullptr, isSwitch, "anim_play"},
-        {"stage_stop",              "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Stop"),                  "Shift+F9",     on(&StageCommands::stop),              hasFrame, nullptr, isSwitch, "anim_stop"},
-        {"stage_prev_frame",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "Pre&vious frame"),        "Alt+PgUp",     on(&StageCommands::showPreviousFrame), hasFrame, nullptr, ActionRow::Button, "anim_prev_frame"},
-        {"stage_next_frame",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Next frame"),            "Alt+PgDown",   on(&StageCommands::showNextFrame),     hasFrame, nullptr, ActionRow::Button, "anim_next_frame"},
-        {"stage_onion_skin",        "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Onion skin"),            "Ctrl+Shift+O", on(&StageCommands::takeOnionSkin),     hasFrame, nullptr, isSwitch, "anim_onion_skin"},
-        {"stage_draw_attack",    "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw a&ttack boxes"),     "Ctrl+1",       takeMode,                              hasShownFrame, nullptr, isSwitch, "anim_box_add_attack"},
-        {"stage_draw_body", "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw &body boxes"),       "Ctrl+2",       takeMode,                              hasShownFrame, nullptr, isSwitch, "anim_box_add_collision"},
-        {"stage_remove_boxes",           "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Remove se&lected boxes"), {},             on(&StageCommands::removeBoxes),       on(&StageCommands::hasBox), nullptr, ActionRow::Button, "anim_box_del"},
-        {"stage_capture",          "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Pick &colour"),           "Ctrl+Shift+K", takeMode,                              hasShownFrame, nullptr, isSwitch},
+        {"stage_play",            "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Play"),                  "F9",           on(&StageCommands::play),              hasFrame,                    nullptr, isSwitch,          "anim_play"},
+        {"stage_stop",            "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Stop"),                  "Shift+F9",     on(&StageCommands::stop),              hasFrame,                    nullptr, isSwitch,          "anim_stop"},
+        {"stage_prev_frame",      "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "Pre&vious frame"),        "Alt+PgUp",     on(&StageCommands::showPreviousFrame), hasFrame,                    nullptr, ActionRow::Button, "anim_prev_frame"},
+        {"stage_next_frame",      "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Next frame"),            "Alt+PgDown",   on(&StageCommands::showNextFrame),     hasFrame,                    nullptr, ActionRow::Button, "anim_next_frame"},
+        {"stage_onion_skin",      "anim.play",  QT_TRANSLATE_NOOP("App::Actions", "&Onion skin"),            "Ctrl+Shift+O", on(&StageCommands::takeOnionSkin),     hasFrame,                    nullptr, isSwitch,          "anim_onion_skin"},
+        {"stage_draw_attack",     "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw a&ttack boxes"),     "Ctrl+1",       takeMode,                              hasShownFrame,               nullptr, isSwitch,          "anim_box_add_attack"},
+        {"stage_draw_body",       "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Draw &body boxes"),       "Ctrl+2",       takeMode,                              hasShownFrame,               nullptr, isSwitch,          "anim_box_add_collision"},
+        {"stage_remove_boxes",    "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Remove se&lected boxes"), {},             on(&StageCommands::removeBoxes),       on(&StageCommands::hasBox),  nullptr, ActionRow::Button, "anim_box_del"},
+        {"stage_capture",         "anim.boxes", QT_TRANSLATE_NOOP("App::Actions", "Pick &colour"),           "Ctrl+Shift+K", takeMode,                              hasShownFrame,               nullptr, isSwitch},
 
-        {"view_stage",             "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Sta&ge"),                 "F7",           on(&StageCommands::showStage),         always, nullptr, isSwitch},
-        {"stage_center_origin",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Centre the &origin"),     {},             on(&StageCommands::centerOrigin),      on(&StageCommands::isShown), nullptr, ActionRow::Button, "view_center_origin"},
-        {"stage_main_cross",        "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Ax&is of the animation"), {},             takeVisibility,                        always, nullptr, isSwitch, "view_main_cross"},
-        {"stage_secondary_cross",   "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Axis of the spri&te"),    {},             takeVisibility,                        always, nullptr, isSwitch, "view_secondary_cross"},
-        {"stage_extra_cross",       "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Extr&a cross"),           {},             takeVisibility,                        always, nullptr, isSwitch, "view_extra_cross"},
-        {"stage_rulers",            "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Rulers"),                {},             takeVisibility,                        always, nullptr, isSwitch, "view_rulers"},
-        {"stage_guide_lines",       "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Gui&des"),                {},             takeVisibility,                        always, nullptr, isSwitch, "view_guide_lines"},
-        {"stage_attack_box",        "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Attac&k boxes"),          {},             takeVisibility,                        always, nullptr, isSwitch, "view_attack_box"},
-        {"stage_collision_box",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Body boxes"),            {},             takeVisibility,                        always, nullptr, isSwitch, "view_collision_box"},
+        {"view_stage",            "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Sta&ge"),                 "F7",           on(&StageCommands::showStage),         always,                      nullptr, isSwitch},
+        {"stage_center_origin",   "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Centre the &origin"),     {},             on(&StageCommands::centerOrigin),      on(&StageCommands::isShown), nullptr, ActionRow::Button, "view_center_origin"},
+        {"stage_main_cross",      "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Ax&is of the animation"), {},             takeVisibility,                        always,                      nullptr, isSwitch,          "view_main_cross"},
+        {"stage_secondary_cross", "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Axis of the spri&te"),    {},             takeVisibility,                        always,                      nullptr, isSwitch,          "view_secondary_cross"},
+        {"stage_extra_cross",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Extr&a cross"),           {},             takeVisibility,                        always,                      nullptr, isSwitch,          "view_extra_cross"},
+        {"stage_rulers",          "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Rulers"),                {},             takeVisibility,                        always,                      nullptr, isSwitch,          "view_rulers"},
+        {"stage_guide_lines",     "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Gui&des"),                {},             takeVisibility,                        always,                      nullptr, isSwitch,          "view_guide_lines"},
+        {"stage_attack_box",      "view.stage", QT_TRANSLATE_NOOP("App::Actions", "Attac&k boxes"),          {},             takeVisibility,                        always,                      nullptr, isSwitch,          "view_attack_box"},
+        {"stage_collision_box",   "view.stage", QT_TRANSLATE_NOOP("App::Actions", "&Body boxes"),            {},             takeVisibility,                        always,                      nullptr, isSwitch,          "view_collision_box"},
     };
     // clang-format on
 }
