@@ -100,21 +100,23 @@ QString workLines(Zorv::ProjectFile* file)
     return sounds ? ended(linesOf(*sounds)) : QString();
 }
 
-QString savedLines(Zorv::ProjectFile* file)
+std::optional<QString> savedLines(Zorv::ProjectFile* file)
 {
     Zorv::Archive& archive = *file->archive();
     const QString name = file->fileName();
+    const auto linesIf = [](bool isRead, Zorv::ProjectFile* saved) {
+        return isRead ? std::make_optional(workLines(saved)) : std::nullopt;
+    };
     if (const auto* document = dynamic_cast<FamilyDocument*>(file)) {
         FamilyDocument saved(document->kind());
-        return saved.fromFile(archive, name, document->codecId(), false, true) ? saved.text()
-                                                                               : QString();
+        return linesIf(saved.fromFile(archive, name, document->codecId(), false, true), &saved);
     }
     if (dynamic_cast<SoundFile*>(file)) {
         SoundFile saved;
-        return saved.fromFile(archive, name, true) ? workLines(&saved) : QString();
+        return linesIf(saved.fromFile(archive, name, true), &saved);
     }
     const std::unique_ptr<SpriteCollection> saved(Family::newSprites(name));
-    return saved->fromFile(archive, name, true) ? workLines(saved.get()) : QString();
+    return linesIf(saved->fromFile(archive, name, true), saved.get());
 }
 
 }  // namespace Operations

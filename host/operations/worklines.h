@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace Zorv {
 class ProjectFile;
 }
@@ -12,8 +14,8 @@ namespace Operations {
 /// sprite, palette, remap or sound.
 QString workLines(Zorv::ProjectFile* file);
 
-/// The same for what its file holds now; a document is read in the encoding that it has. Empty if
+/// The same for what its file holds now; a document is read in the encoding that it has. None if
 /// the file cannot be read.
-QString savedLines(Zorv::ProjectFile* file);
+std::optional<QString> savedLines(Zorv::ProjectFile* file);
 
 }  // namespace Operations

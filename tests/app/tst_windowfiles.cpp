@@ -52,6 +52,7 @@ private slots:
     void asksAboutAFileThatWentAway_data();
     void asksAboutAFileThatWentAway();
     void showsUnsavedSpritesAndSounds();
+    void asksBeforeWritingOverWhatCannotBeRead();
     void asksAboutWhatIsWrittenDuringASave();
     void staysQuietAboutItsOwnSave();
     void showsAFileThatWentAway();
@@ -281,6 +282,25 @@ void TestWindowFiles::showsUnsavedSpritesAndSounds()
     m->action("close_project")->trigger();
     QVERIFY(m->dialogs.shown.last().text.contains(QLatin1String("a.sprites")));
     QCOMPARE(window()->session()->projects().size(), 1);
+}
+
+// A file that cannot be read is not one without sprites.
+void TestWindowFiles::asksBeforeWritingOverWhatCannotBeRead()
+{
+    m_game->addAssets();
+    m->open(*m_game, m_game->ryn());
+    Family::SpriteCollection* sprites = window()->session()->projects().first()->sprites();
+    QImage image(2, 2, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    sprites->insertSprite(0, {1, 1}, {}, image);
+    sprites->removeSprites({0});
+    m->dialogs.choiceAnswers = {KeepChanges};
+    m_game->write("characters/ryn/a.sprites", "theirs");
+    QTRY_COMPARE(m->dialogs.count(), 1);
+    m->dialogs.choiceAnswers = {GiveUp};
+    m->action("save_all")->trigger();
+    QCOMPARE(m->dialogs.count(QStringLiteral("choose")), 2);
+    QCOMPARE(m_game->read("characters/ryn/a.sprites"), QByteArray("theirs"));
 }
 
 // A save waits for another program, and does not write over what that has written.

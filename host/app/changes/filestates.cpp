@@ -264,7 +264,8 @@ int FileStates::ask(ProjectFile* file, const QString& title, const QString& text
         if (answer == Compare) {
             CompareDialog dialog(Zorv::Interface::instance()->mainWindow(),
                                  QFileInfo(file->fileName()).fileName(),
-                                 Operations::savedLines(file), Operations::workLines(file));
+                                 Operations::savedLines(file).value_or(QString()),
+                                 Operations::workLines(file));
             dialog.exec();
         }
     }
