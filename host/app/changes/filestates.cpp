@@ -262,10 +262,9 @@ int FileStates::ask(ProjectFile* file, const QString& title, const QString& text
             return -1;
         }
         if (answer == Compare) {
-            CompareDialog dialog(Zorv::Interface::instance()->mainWindow(),
-                                 QFileInfo(file->fileName()).fileName(),
-                                 Operations::savedLines(file).value_or(QString()),
-                                 Operations::workLines(file));
+            CompareDialog dialog(
+                Zorv::Interface::instance()->mainWindow(), QFileInfo(file->fileName()).fileName(),
+                Operations::savedLines(file).value_or(QString()), Operations::workLines(file));
             dialog.exec();
         }
     }
