@@ -107,7 +107,7 @@ QString TestGameCheck::anyFile(QRandomGenerator& random, const QString& filter) 
         files.append(each.next());
     }
     files.sort();
-    return files.at(random.bounded(files.size()));
+    return files.isEmpty() ? QString() : files.at(random.bounded(files.size()));
 }
 
 QString TestGameCheck::edited(QRandomGenerator& random, const QString& file) const
@@ -123,7 +123,8 @@ QString TestGameCheck::edited(QRandomGenerator& random, const QString& file) con
 void TestGameCheck::changeSomething(QRandomGenerator& random, GameCheck& check)
 {
     const QString file = anyFile(random, random.bounded(3) ? "*.c*" : "*");
-    switch (random.bounded(8)) {
+    // Where nothing is left, what was removed comes back.
+    switch (file.isEmpty() ? 4 : random.bounded(8)) {
     case 0:
     case 1:
         m_texts.insert(file, edited(random, file));
