@@ -27,6 +27,7 @@ LAYERS = {
     "src/editors/organizer/": 6,
     "src/editors/snipman/": 6,
     "src/editors/palette/": 6,
+    "src/animation/spritedrag.": 4,
     "src/animation/timeline/": 6,
     "src/image/tools/": 7,
     "src/image/": 7,
