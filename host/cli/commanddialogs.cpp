@@ -61,6 +61,12 @@ int CommandDialogs::choose(const QString&, const QString& text, const QStringLis
     return -1;
 }
 
+std::optional<QString> CommandDialogs::askText(const QString&, const QString& label, const QString&)
+{
+    show(label);
+    return std::nullopt;
+}
+
 QString CommandDialogs::openFileName(QWidget*, const QString& caption, const QString&,
                                      const QString&)
 {

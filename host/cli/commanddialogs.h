@@ -23,6 +23,8 @@ public:
     void error(const QString& title, const QString& text) override;
     int choose(const QString& title, const QString& text, const QStringList& choices,
                int defaultChoice) override;
+    std::optional<QString> askText(const QString& title, const QString& label,
+                                   const QString& text) override;
     QString openFileName(QWidget* parent, const QString& caption, const QString& dir,
                          const QString& filter) override;
     QStringList openFileNames(QWidget* parent, const QString& caption, const QString& dir,

@@ -75,9 +75,9 @@ int FamilyAnimations::indexOfIdentifier(const QString& identifier) const
     return find(0, identifier);
 }
 
-int FamilyAnimations::optimize()
+int FamilyAnimations::optimize(bool dryRun, QStringList* lines)
 {
-    return removeRedundantLines(this);
+    return removeRedundantLines(this, dryRun, lines);
 }
 
 QString FamilyAnimations::animationTemplate() const

@@ -33,7 +33,7 @@ public:
     bool duplicateAnimation(int index, const QString& identifier);
 
     /// As `removeRedundantLines()`.
-    int optimize() override;
+    int optimize(bool dryRun = false, QStringList* lines = nullptr) override;
     QString animationTemplate() const override;
 
     /// As that of the library; the head line for an animation without any name.

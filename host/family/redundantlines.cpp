@@ -171,26 +171,34 @@ void removeLines(Zorv::CodeDocument* document, int first, int last)
     document->replaceSelection(QString(), cursor);
 }
 
-}  // namespace
+void tell(const Zorv::CodeDocument* document, const std::vector<Edit>& edits, QStringList* lines)
+{
+    const auto textOf = [document](int line) {
+        return document->findBlockByNumber(line).text().trimmed();
+    };
+    for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit) {
+        if (edit->last < 0) {
+            lines->append(QStringLiteral("%1: %2 -> delay %3")
+                              .arg(QString::number(edit->first + 1), textOf(edit->first),
+                                   QString::number(edit->delay)));
+        }
+        for (int line = edit->first; line <= edit->last; ++line) {
+            if (!textOf(line).isEmpty()) {
+                lines->append(
+                    QStringLiteral("%1: %2").arg(QString::number(line + 1), textOf(line)));
+            }
+        }
+    }
+}
 
-int removeRedundantLines(FamilyAnimations* animations)
+/// From the bottom up.
+void applyEdits(FamilyAnimations* animations, const std::vector<Edit>& edits)
 {
     Zorv::CodeDocument* document = animations->document();
-    std::vector<Edit> edits;
-    for (int i = 0; i < animations->count(); ++i) {
-        const AnimationWalk walk(animations->animation(i), &edits);
-    }
-    if (edits.empty()) {
-        return 0;
-    }
-    std::sort(edits.begin(), edits.end(),
-              [](const Edit& a, const Edit& b) { return a.first > b.first; });
-    int count = 0;
     animations->beginChange(FamilyAnimations::tr("Remove redundant lines"));
     for (const Edit& edit : edits) {
         if (edit.last >= 0) {
             removeLines(document, edit.first, edit.last);
-            count += edit.last - edit.first + 1;
             continue;
         }
         Zorv::CodeNode* node = document->nodeInBlock(document->findBlockByNumber(edit.first));
@@ -199,6 +207,29 @@ int removeRedundantLines(FamilyAnimations* animations)
         }
     }
     animations->endChange();
+}
+
+}  // namespace
+
+int removeRedundantLines(FamilyAnimations* animations, bool dryRun, QStringList* lines)
+{
+    Zorv::CodeDocument* document = animations->document();
+    std::vector<Edit> edits;
+    for (int i = 0; i < animations->count(); ++i) {
+        const AnimationWalk walk(animations->animation(i), &edits);
+    }
+    std::sort(edits.begin(), edits.end(),
+              [](const Edit& a, const Edit& b) { return a.first > b.first; });
+    if (lines) {
+        tell(document, edits, lines);
+    }
+    int count = 0;
+    for (const Edit& edit : edits) {
+        count += edit.last >= 0 ? edit.last - edit.first + 1 : 0;
+    }
+    if (!dryRun && !edits.empty()) {
+        applyEdits(animations, edits);
+    }
     return count;
 }
 

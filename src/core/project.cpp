@@ -72,6 +72,16 @@ bool Project::isEmpty() const
     return std::all_of(all.begin(), all.end(), [](ProjectFile* file) { return file->isEmpty(); });
 }
 
+QSize Project::gameSize() const
+{
+    return {};
+}
+
+QPointF Project::scale() const
+{
+    return {};
+}
+
 ProjectFile* Project::file(FileID::Type type) const
 {
     const QList<ProjectFile*> list = d->files.value(type);

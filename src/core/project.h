@@ -6,6 +6,8 @@
 #include <QList>
 #include <QMap>
 #include <QObject>
+#include <QPointF>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -83,6 +85,11 @@ public:
 
     /// Appends every file that the main document refers to, loaded or not.
     virtual void fileInfos(QList<FileInfo>& list) = 0;
+
+    /// The screen of the game in pixels, and by how much its pixels are larger than those of
+    /// sprites in x and y. As they stand here, empty and 0: nothing is known.
+    virtual QSize gameSize() const;
+    virtual QPointF scale() const;
 
     /// Writes the whole project below the folder `path`, which ends in a
     /// separator, keeping the project's place below its parent folder.

@@ -142,7 +142,7 @@ inline QString StageFixture::fault(QRandomGenerator& random) const
     }
     Family::FamilyDocument text(Family::FileKind::Animations);
     text.setPlainText(document()->text());
-    Family::FollowedAnimation animation;
+    Zorv::FollowedAnimation animation;
     animation.setAnimation(text.animations()->animationAt(shown->block().blockNumber()));
     Family::FrameProvider frame;
     frame.setAnimation(&animation);

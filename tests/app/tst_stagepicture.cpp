@@ -68,7 +68,7 @@ public:
     SpriteCollection* sprites;
     Zorv::RenderWidget widget;
     App::StageRenderer renderer;
-    FollowedAnimation animation;
+    Zorv::FollowedAnimation animation;
     FrameProvider provider;
 };
 
@@ -228,7 +228,7 @@ void TestStagePicture::samples()
         for (int i = 0; i < list->count(); ++i) {
             stage.animation.setAnimation(list->animation(i));
             for (int index = 0; index < stage.animation.frameCount(); ++index) {
-                const FrameNode* frame = stage.animation.frame(index);
+                const auto* frame = static_cast<const FrameNode*>(stage.animation.frame(index));
                 const FrameData& data = frame->data();
                 const bool isPlain = data.angle == 0.0 && data.scaleX == 1.0 && data.scaleY == 1.0;
                 const QString what = QStringLiteral("%1 frame %2: %3")
@@ -306,7 +306,7 @@ void TestStagePicture::randomPoses()
     QVERIFY(stage.show());
     Difference all;
     for (int i = 0; i < stage.animation.frameCount(); ++i) {
-        const FrameNode* frame = stage.animation.frame(i);
+        const auto* frame = static_cast<const FrameNode*>(stage.animation.frame(i));
         const Difference one = compare(stage, i);
         const bool isPlain = i % 4 == 0 && zoom == 1;
         QVERIFY2(one.isSmall(!isPlain), told(frame->block().text(), one).constData());

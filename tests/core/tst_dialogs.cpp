@@ -103,6 +103,23 @@ private slots:
         QCOMPARE(ask(), -1);
     }
 
+    void askText()
+    {
+        const auto ask = [] {
+            return Dialogs::instance()->askText(QStringLiteral("t"), QStringLiteral("x"),
+                                                QStringLiteral("first"));
+        };
+        whenOpen<QInputDialog>([](QInputDialog* dialog) { dialog->accept(); });
+        QCOMPARE(ask().value(), QStringLiteral("first"));
+        whenOpen<QInputDialog>([](QInputDialog* dialog) {
+            dialog->setTextValue({});
+            dialog->accept();
+        });
+        QCOMPARE(ask().value(), QString());
+        whenOpen<QInputDialog>([](QInputDialog* dialog) { dialog->reject(); });
+        QVERIFY(!ask());
+    }
+
     void fileNames_data()
     {
         QTest::addColumn<QVariant>("option");

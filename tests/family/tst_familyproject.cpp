@@ -162,6 +162,7 @@ private slots:
     void checkOfProject();
     void checkOfWhatIsNotThere_data();
     void checkOfWhatIsNotThere();
+    void screenOfTheGame();
     void engines();
 };
 
@@ -194,6 +195,23 @@ void TestFamilyProject::openLoadsWhatIsNamed()
     project->release();
     delete project;
     QCOMPARE(unused.count(), 1);
+}
+
+void TestFamilyProject::screenOfTheGame()
+{
+    const Game game;
+    FamilyParentProject parent(game.path(""));
+    FamilyProject* project = FamilyProject::create(&parent, FileKind::Character);
+    FamilyDocument* document = project->mainDocument();
+    document->fromString(QStringLiteral("[info]\nname = \"A\"\n"));
+    QVERIFY(project->gameSize().isEmpty() && project->scale().isNull());
+    document->fromString(QStringLiteral("[info]\nresolution = 640, 360\n"));
+    QCOMPARE(project->gameSize(), QSize(640, 360));
+    QCOMPARE(project->scale(), QPointF(1, 1));
+    document->insert(QStringLiteral("[constants]\nscale = 2, 0.5\n"));
+    QCOMPARE(project->scale(), QPointF(2, 0.5));
+    project->release();
+    delete project;
 }
 
 void TestFamilyProject::fileInfosFollowTheText()

@@ -162,7 +162,7 @@ void TestFrameProvider::stageNeverHoldsADeadSprite()
         QStringLiteral("animation 1\nframe 0,1\nframe 0,2 scale 2, -3 angle 30\nframe 0,3\n");
     document.fromString(text);
     SpriteFile sprites;
-    FollowedAnimation animation;
+    Zorv::FollowedAnimation animation;
     animation.setAnimation(document.animations()->animation(0));
     FrameProvider provider;
     provider.setAnimation(&animation);
@@ -190,7 +190,7 @@ void TestFrameProvider::stageNeverHoldsADeadSprite()
             random.bounded(2) ? edits.editText() : edits.editSprites();
             break;
         }
-        const FrameNode* frame = animation.frame(provider.frameIndex());
+        const auto* frame = static_cast<FrameNode*>(animation.frame(provider.frameIndex()));
         FamilySprite* sprite =
             frame ? sprites.sprite(sprites.find(0, frame->identifier())) : nullptr;
         QCOMPARE(held.sprite, static_cast<Zorv::Sprite*>(sprite));
@@ -219,7 +219,7 @@ void TestFrameProvider::colorsAreTold()
     document.fromString(QStringLiteral("animation 1\nframe 0,1\n"));
     SpriteFile sprites;
     FamilySprite* sprite = sprites.insertSprite(-1, {0, 1}, {}, indexed(4, 1));
-    FollowedAnimation animation;
+    Zorv::FollowedAnimation animation;
     animation.setAnimation(document.animations()->animation(0));
     FrameProvider provider;
     provider.setAnimation(&animation);
@@ -253,7 +253,7 @@ void TestFrameProvider::whatGoesIsLetGo()
     document->fromString(QStringLiteral("animation 1\nframe 0,1\n"));
     auto sprites = std::make_unique<SpriteFile>();
     sprites->insertSprite(-1, {0, 1}, {}, indexed(4, 1));
-    auto animation = std::make_unique<FollowedAnimation>();
+    auto animation = std::make_unique<Zorv::FollowedAnimation>();
     animation->setAnimation(document->animations()->animation(0));
     FrameProvider provider;
     provider.setAnimation(animation.get());

@@ -71,6 +71,7 @@ class TestRedundantLines : public QObject
 private slots:
     void removes_data();
     void removes();
+    void linesAreTold();
     void nobodySeesADifference();
 };
 
@@ -111,11 +112,31 @@ void TestRedundantLines::removes()
     QFETCH(int, count);
     FamilyDocument document(FileKind::Animations);
     document.fromString(before);
-    QCOMPARE(document.animations()->optimize(), count);
+    QStringList told;
+    QCOMPARE(document.animations()->optimize(true, &told), count);
+    QCOMPARE(document.text(), before);
+    QVERIFY(!document.isUndoAvailable());
+    QStringList done;
+    QCOMPARE(document.animations()->optimize(false, &done), count);
+    QCOMPARE(done, told);
+    QCOMPARE(told.isEmpty(), count == 0);
     QCOMPARE(document.text(), after);
     document.undo();
     QCOMPARE(document.text(), before);
     QVERIFY(!document.isUndoAvailable());
+}
+
+void TestRedundantLines::linesAreTold()
+{
+    FamilyDocument document(FileKind::Animations);
+    document.fromString(QStringLiteral("animation 1\nframe 1,0  delay 3\n\nframe 1,0  delay 4\n"
+                                       "body 0,0,1,1\nbody 0,0,1,1\nframe 1,0\n"));
+    QStringList lines{QStringLiteral("above")};
+    QCOMPARE(document.animations()->optimize(true, &lines), 3);
+    QCOMPARE(
+        lines,
+        QStringList({QStringLiteral("above"), QStringLiteral("2: frame 1,0  delay 3 -> delay 7"),
+                     QStringLiteral("4: frame 1,0  delay 4"), QStringLiteral("6: body 0,0,1,1")}));
 }
 
 void TestRedundantLines::nobodySeesADifference()

@@ -110,7 +110,7 @@ class LadderAnimations : public Zorv::Animations
 public:
     using Animations::Animations;
     void release() override { delete this; }
-    int optimize() override { return 0; }
+    int optimize(bool, QStringList*) override { return 0; }
     QString animationTemplate() const override { return QStringLiteral("@%1\n"); }
 };
 

@@ -61,6 +61,13 @@ int PlannedDialogs::choose(const QString& title, const QString& text, const QStr
     return choiceAnswers.isEmpty() ? -1 : choiceAnswers.takeFirst();
 }
 
+std::optional<QString> PlannedDialogs::askText(const QString& title, const QString& label,
+                                               const QString& text)
+{
+    show({QStringLiteral("askText"), title, label, {}, NoButton, {text}, {}});
+    return textAnswers.isEmpty() ? std::nullopt : std::optional(textAnswers.takeFirst());
+}
+
 QString PlannedDialogs::openFileName(QWidget*, const QString& caption, const QString& dir,
                                      const QString& filter)
 {

@@ -17,7 +17,7 @@ public:
     /// One dialog that was shown.
     struct Shown
     {
-        QString kind;  ///< "question", "warning", "information", "error", "choose", "openFile", ...
+        QString kind;  ///< "question", "warning", "information", "error", "choose", "askText", ...
         QString title;
         QString text;  ///< the filter, for a question for files
         Buttons buttons;
@@ -31,6 +31,7 @@ public:
 
     QList<Button> buttonAnswers;     ///< of question() and warning()
     QList<int> choiceAnswers;        ///< of choose()
+    QStringList textAnswers;         ///< of askText()
     QList<QStringList> fileAnswers;  ///< of every question for files and folders
     QList<int> targetAnswers;        ///< of runTarget()
     QRect targetGeometry;            ///< where that dialog stands; null to leave it
@@ -53,6 +54,8 @@ public:
     void error(const QString& title, const QString& text) override;
     int choose(const QString& title, const QString& text, const QStringList& choices,
                int defaultChoice) override;
+    std::optional<QString> askText(const QString& title, const QString& label,
+                                   const QString& text) override;
     QString openFileName(QWidget* parent, const QString& caption, const QString& dir,
                          const QString& filter) override;
     QStringList openFileNames(QWidget* parent, const QString& caption, const QString& dir,

@@ -61,7 +61,7 @@ StageController::StageController(StageRenderer* stage, Zorv::TimeLineWidget* tim
     stage->setItemPositionMode(GraphicsRenderer::MainCross, AxisMode, 0, 0);
     stage->setSprites(&m_provider);
 
-    connect(&m_animation, &Family::FollowedAnimation::changed, this, &StageController::updateSoon);
+    connect(&m_animation, &Zorv::FollowedAnimation::changed, this, &StageController::updateSoon);
     connect(&m_provider, &Zorv::SpriteProvider::changed, this, &StageController::updateSoon);
     connect(&m_onion, &Zorv::SpriteProvider::changed, this, &StageController::showOnion);
     connect(m_player, &StagePlayer::frameReached, this, &StageController::frameReached);
@@ -122,6 +122,11 @@ void StageController::showAnimation(int row)
     if (m_document && !m_document->isCodeBeingChanged() && row >= 0) {
         setAnimation(m_document->animations()->animation(row));
     }
+}
+
+AnimationNode* StageController::animation() const
+{
+    return static_cast<AnimationNode*>(m_animation.animation());
 }
 
 /// With the frame that was shown last; the same animation stays as it is.

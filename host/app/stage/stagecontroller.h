@@ -1,12 +1,18 @@
 #pragma once
 
 #include "family/stage/animationrow.h"
-#include "family/stage/followedanimation.h"
 #include "family/stage/frameprovider.h"
+
+#include <zorv/animation/followedanimation.h>
 
 #include <QHash>
 #include <QObject>
 #include <QPointer>
+
+namespace Family {
+class AnimationNode;
+class FamilyDocument;
+}  // namespace Family
 
 namespace Zorv {
 class TimeLineWidget;
@@ -44,12 +50,12 @@ public:
     void showAnimation(int row);
 
     /// Null, 0 and -1 for none. Nodes are good until the next edit.
-    Family::AnimationNode* animation() const { return m_animation.animation(); }
+    Family::AnimationNode* animation() const;
     Family::FrameNode* frame() const { return m_provider.frame(); }
     Family::FamilySprite* sprite() const { return m_provider.sprite(); }
     int frameIndex() const;
     int frameCount() const { return m_animation.frameCount(); }
-    const Family::FrameTicks& ticks() const { return m_animation.ticks(); }
+    const Zorv::FrameTicks& ticks() const { return m_animation.ticks(); }
     const Family::FramePose& pose() const { return m_provider.pose(); }
 
     /// A frame of the animation; nothing for one that is not there.
@@ -103,7 +109,7 @@ private:
     QPointer<Zorv::TimeLineWidget> m_timeLine;
     QPointer<Family::FamilyDocument> m_document;
     QPointer<Family::SpriteCollection> m_sprites;
-    Family::FollowedAnimation m_animation;
+    Zorv::FollowedAnimation m_animation;
     Family::FrameProvider m_provider;
     Family::FrameProvider m_onion;
     Family::AnimationRow m_row;

@@ -1,14 +1,13 @@
 #include "app/stage/stageplayer.h"
 
-#include "family/stage/followedanimation.h"
-
+#include <zorv/animation/followedanimation.h>
 #include <zorv/animation/timeline/timelinewidget.h>
 
 #include <QScopedValueRollback>
 
 namespace App {
 
-using Family::FrameTicks;
+using Zorv::FrameTicks;
 
 namespace {
 
@@ -19,7 +18,7 @@ constexpr qint64 LongestStall = 250;  // milliseconds
 
 }  // namespace
 
-StagePlayer::StagePlayer(Family::FollowedAnimation* animation, Zorv::TimeLineWidget* timeLine,
+StagePlayer::StagePlayer(Zorv::FollowedAnimation* animation, Zorv::TimeLineWidget* timeLine,
                          QObject* parent)
     : QObject(parent), m_animation(animation), m_timeLine(timeLine)
 {

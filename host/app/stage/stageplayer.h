@@ -3,13 +3,10 @@
 #include <QElapsedTimer>
 #include <QObject>
 
-namespace Family {
-class FollowedAnimation;
-}
-
 namespace Zorv {
+class FollowedAnimation;
 class TimeLineWidget;
-}
+}  // namespace Zorv
 
 namespace App {
 
@@ -22,7 +19,7 @@ class StagePlayer : public QObject
 
 public:
     /// Both outlive it.
-    StagePlayer(Family::FollowedAnimation* animation, Zorv::TimeLineWidget* timeLine,
+    StagePlayer(Zorv::FollowedAnimation* animation, Zorv::TimeLineWidget* timeLine,
                 QObject* parent);
 
     bool isPlaying() const;
@@ -48,7 +45,7 @@ private:
     void tickChanged(unsigned tick);
     void playTick(unsigned tick);
 
-    Family::FollowedAnimation* m_animation;
+    Zorv::FollowedAnimation* m_animation;
     Zorv::TimeLineWidget* m_timeLine;
     QElapsedTimer m_sinceTick;
     bool m_isMoving = false;  // the tick follows a frame

@@ -8,6 +8,8 @@
 #include "family/nodes/lineedit.h"
 #include "family/nodes/valuetext.h"
 
+#include <zorv/animation/frameticks.h>
+
 namespace Family {
 
 namespace {
@@ -78,15 +80,7 @@ int AnimationNode::firstLine() const
 
 int AnimationNode::duration() const
 {
-    int ticks = 0;
-    for (Zorv::CodeNode* node = childAt(0); node; node = Zorv::CodeNodeList::next(node)) {
-        const int delay = static_cast<FrameNode*>(node)->delay();
-        if (delay < 0) {
-            return -1;
-        }
-        ticks += delay;
-    }
-    return ticks;
+    return Zorv::FrameTicks(this).total();
 }
 
 int AnimationNode::loopFrame() const

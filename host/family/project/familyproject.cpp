@@ -136,20 +136,45 @@ QList<FamilyDocument*> FamilyProject::documents() const
     return result;
 }
 
-QString FamilyProject::title() const
+/// What the first group of that name says in the main file.
+QVariant FamilyProject::mainValue(const char* groupName, const char* key) const
 {
     const FamilyDocument* document = mainDocument();
     for (int i = 0; document && i < document->childCount(); ++i) {
         const auto* group = dynamic_cast<GroupNode*>(document->childAt(unsigned(i)));
-        if (group && group->name() == QLatin1String("info")) {
-            const QString name = group->value(QStringLiteral("name")).toString();
-            if (!name.isEmpty()) {
-                return name;
+        if (group && group->name() == QLatin1String(groupName)) {
+            const QVariant value = group->value(QLatin1String(key));
+            if (value.isValid()) {
+                return value;
             }
         }
     }
+    return {};
+}
+
+QString FamilyProject::title() const
+{
+    const QString name = mainValue("info", "name").toString();
+    if (!name.isEmpty()) {
+        return name;
+    }
     const QString fileName = QFileInfo(this->fileName()).completeBaseName();
     return fileName.isEmpty() ? tr("New project") : fileName;
+}
+
+QSize FamilyProject::gameSize() const
+{
+    const QVariantList pair = mainValue("info", "resolution").toList();
+    return pair.size() == 2 ? QSize(pair[0].toInt(), pair[1].toInt()) : QSize();
+}
+
+QPointF FamilyProject::scale() const
+{
+    if (gameSize().isEmpty()) {
+        return {};
+    }
+    const QVariantList pair = mainValue("constants", "scale").toList();
+    return pair.size() == 2 ? QPointF(pair[0].toDouble(), pair[1].toDouble()) : QPointF(1, 1);
 }
 
 SpriteCollection* FamilyProject::sprites() const

@@ -49,6 +49,11 @@ public:
     /// The name in `[info]`, else the name of the main file.
     QString title() const override;
 
+    /// `resolution` of `[info]`, and with it `scale` of `[constants]`, which is 1 if nothing is
+    /// said.
+    QSize gameSize() const override;
+    QPointF scale() const override;
+
     /// Loads the code files that are named and not registered, and the first sprites and sounds.
     /// Files outside of the game folder, and the main file itself, are refused.
     void loadFiles() override;
@@ -76,6 +81,7 @@ signals:
     void filesChanged();
 
 private:
+    QVariant mainValue(const char* groupName, const char* key) const;
     void loadDocument(Zorv::FileID::Type type, const QString& path);
     void loadAsset(Zorv::FileID::Type type, const QString& path);
     void selectAsset(Zorv::FileID::Type type, const QString& path);

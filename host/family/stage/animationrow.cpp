@@ -1,13 +1,13 @@
 #include "family/stage/animationrow.h"
 
-#include "family/nodes/animationnode.h"
-#include "family/stage/followedanimation.h"
+#include <zorv/animation/followedanimation.h>
+#include <zorv/code/codedoc/animationcode.h>
 
 namespace Family {
 
 QString AnimationRow::name() const
 {
-    const AnimationNode* node = m_animation->animation();
+    const Zorv::AnimationCode* node = m_animation->animation();
     return node ? node->displayName() : QString();
 }
 

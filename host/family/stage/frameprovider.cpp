@@ -6,14 +6,14 @@ namespace Family {
 
 FrameProvider::FrameProvider(QObject* parent) : SpriteProvider(parent) {}
 
-void FrameProvider::setAnimation(FollowedAnimation* animation)
+void FrameProvider::setAnimation(Zorv::FollowedAnimation* animation)
 {
     if (m_animation) {
         m_animation->disconnect(this);
     }
     m_animation = animation;
     if (animation) {
-        connect(animation, &FollowedAnimation::changed, this, &FrameProvider::follow);
+        connect(animation, &Zorv::FollowedAnimation::changed, this, &FrameProvider::follow);
         connect(animation, &QObject::destroyed, this, &FrameProvider::follow);
     }
     update(true);
@@ -49,7 +49,7 @@ void FrameProvider::setFrame(int index)
 
 FrameNode* FrameProvider::frame() const
 {
-    return m_animation ? m_animation->frame(m_index) : nullptr;
+    return m_animation ? static_cast<FrameNode*>(m_animation->frame(m_index)) : nullptr;
 }
 
 QPoint FrameProvider::onionOffset() const

@@ -2,14 +2,16 @@
 
 #include "family/assets/spritecollection.h"
 #include "family/nodes/framedata.h"
-#include "family/stage/followedanimation.h"
 #include "family/stage/framepose.h"
 
+#include <zorv/animation/followedanimation.h>
 #include <zorv/cache/spriteprovider.h>
 
 #include <QPointer>
 
 namespace Family {
+
+class FrameNode;
 
 /// The sprite of one frame of an animation, for the stage.
 ///
@@ -29,7 +31,7 @@ public:
     explicit FrameProvider(QObject* parent = nullptr);
 
     /// Null for none; not owned. Keeps the place of the frame.
-    void setAnimation(FollowedAnimation* animation);
+    void setAnimation(Zorv::FollowedAnimation* animation);
 
     /// Null for none; not owned.
     void setSprites(SpriteCollection* sprites);
@@ -63,7 +65,7 @@ private:
     void resetGo();
     void rowsGo(const QModelIndex& parent, int first, int last);
 
-    QPointer<FollowedAnimation> m_animation;
+    QPointer<Zorv::FollowedAnimation> m_animation;
     QPointer<SpriteCollection> m_sprites;
     FamilySprite* m_sprite = nullptr;
     FramePose m_pose;

@@ -2,9 +2,9 @@
 
 #include "family/nodes/animationnode.h"
 #include "family/nodes/framenode.h"
-#include "family/stage/frameticks.h"
 #include "operations/boxes/coveredarea.h"
 
+#include <zorv/animation/frameticks.h>
 #include <zorv/code/codedoc/contactboxescode.h>
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace Operations {
 
 using Family::AnimationNode;
 using Family::FrameNode;
-using Family::FrameTicks;
+using Zorv::FrameTicks;
 
 namespace {
 

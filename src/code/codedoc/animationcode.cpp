@@ -69,6 +69,20 @@ QList<FrameCode*> AnimationCode::frames() const
     return m_children.ofType<FrameCode>(CodeNode::Frame);
 }
 
+int AnimationCode::frameCount() const
+{
+    return m_isMixed ? frames().size() : m_children.size();
+}
+
+FrameCode* AnimationCode::frame(int index) const
+{
+    if (m_isMixed) {
+        return frames().value(index);
+    }
+    return index >= 0 && index < m_children.size() ? static_cast<FrameCode*>(m_children.at(index))
+                                                   : nullptr;
+}
+
 int AnimationCode::indexOfFrame(const FrameCode* frame) const
 {
     return m_isMixed ? frames().indexOf(const_cast<FrameCode*>(frame)) : m_children.indexOf(frame);

@@ -34,6 +34,11 @@ public:
     /// The frames in their order.
     QList<FrameCode*> frames() const;
 
+    /// Their number, and the one at a place, null outside of them. Logarithmic, where `frames()`
+    /// copies the list.
+    int frameCount() const;
+    FrameCode* frame(int index) const;
+
     /// Takes a frame and its lines out of the document; `index` is its place among
     /// `frames()`, nothing outside of them.
     void removeFrame(unsigned index);

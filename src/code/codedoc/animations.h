@@ -26,8 +26,9 @@ public:
     ~Animations() override;
 
     /// Removes the lines of animations that change nothing in the game, as one step of undo,
-    /// and gives their number. What those are is for the grammar to say.
-    virtual int optimize() = 0;
+    /// and gives their number. What those are is for the grammar to say. With `dryRun` nothing is
+    /// edited. `lines` takes what is done, a line of plain text each, at its end.
+    virtual int optimize(bool dryRun = false, QStringList* lines = nullptr) = 0;
 
     /// The text of a new animation, with "%1" where the identifier goes.
     virtual QString animationTemplate() const = 0;

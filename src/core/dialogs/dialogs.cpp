@@ -160,6 +160,19 @@ int Dialogs::choose(const QString& title, const QString& text, const QStringList
     return dialog.exec() == QDialog::Accepted ? choices.indexOf(dialog.textValue()) : -1;
 }
 
+std::optional<QString> Dialogs::askText(const QString& title, const QString& label,
+                                        const QString& text)
+{
+    if (!canShow()) {
+        return std::nullopt;
+    }
+    QInputDialog dialog(mainWindow());
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(label);
+    dialog.setTextValue(text);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
+}
+
 QString Dialogs::openFileName(QWidget* parent, const QString& caption, const QString& dir,
                               const QString& filter)
 {

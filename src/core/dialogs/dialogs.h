@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class QAbstractItemModel;
 class QRect;
 class QWidget;
@@ -50,6 +52,10 @@ public:
     /// -1 if the person gave up.
     virtual int choose(const QString& title, const QString& text, const QStringList& choices,
                        int defaultChoice);
+
+    /// Asks for a line of text, which is `text` at first; nothing if the person gave up.
+    virtual std::optional<QString> askText(const QString& title, const QString& label,
+                                           const QString& text = {});
 
     /// Ask for a file; empty if the person gave up. `parent` null stands for
     /// the main window.

@@ -1,12 +1,12 @@
-#include "family/stage/frameticks.h"
+#include "animation/frameticks.h"
 
-#include "family/nodes/animationnode.h"
-#include "family/nodes/framenode.h"
+#include "code/codedoc/animationcode.h"
+#include "code/codedoc/framecode.h"
 
 #include <algorithm>
 #include <limits>
 
-namespace Family {
+namespace Zorv {
 
 namespace {
 
@@ -19,14 +19,15 @@ int sumOf(int ticks, int delay)
     return int(std::min<qint64>(qint64(ticks) + delay, std::numeric_limits<int>::max()));
 }
 
-QVector<int> delaysOf(const AnimationNode* animation)
+QVector<int> delaysOf(const AnimationCode* animation)
 {
     QVector<int> delays;
     if (animation) {
         delays.reserve(animation->childCount());
-        for (const Zorv::CodeNode* node = animation->childAt(0); node;
-             node = Zorv::CodeNodeList::next(node)) {
-            delays.append(static_cast<const FrameNode*>(node)->delay());
+        for (const CodeNode* node = animation->childAt(0); node; node = CodeNodeList::next(node)) {
+            if (node->type() == CodeNode::Frame) {
+                delays.append(static_cast<const FrameCode*>(node)->delay());
+            }
         }
     }
     return delays;
@@ -34,7 +35,7 @@ QVector<int> delaysOf(const AnimationNode* animation)
 
 }  // namespace
 
-FrameTicks::FrameTicks(const AnimationNode* animation)
+FrameTicks::FrameTicks(const AnimationCode* animation)
     : FrameTicks(delaysOf(animation), animation ? animation->loopFrame() : -1)
 {
 }
@@ -78,7 +79,7 @@ int FrameTicks::loopTick() const
     return tick < m_total || m_total < 0 ? tick : 0;
 }
 
-bool FrameTicks::markerAt(unsigned tick, Zorv::TimeLine::Marker& marker) const
+bool FrameTicks::markerAt(unsigned tick, TimeLine::Marker& marker) const
 {
     const int frame = frameAt(tick);
     if (frame < 0 || delay(frame) == 0 || unsigned(firstTick(frame)) != tick) {
@@ -89,4 +90,4 @@ bool FrameTicks::markerAt(unsigned tick, Zorv::TimeLine::Marker& marker) const
     return true;
 }
 
-}  // namespace Family
+}  // namespace Zorv

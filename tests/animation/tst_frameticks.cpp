@@ -1,9 +1,7 @@
+#include "animation/followedanimation.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
-#include "family/nodes/framenode.h"
-#include "family/stage/animationrow.h"
-#include "family/stage/followedanimation.h"
 
 #include <QRandomGenerator>
 #include <QTextCursor>
@@ -11,7 +9,11 @@
 
 #include <limits>
 
-using namespace Family;
+using Family::FamilyDocument;
+using Family::FileKind;
+using Zorv::FollowedAnimation;
+using Zorv::FrameTicks;
+using Zorv::TimeLine;
 
 namespace {
 
@@ -35,6 +37,11 @@ QVector<int> delaysOf(const FrameTicks& ticks)
         delays.append(ticks.delay(frame));
     }
     return delays;
+}
+
+QString identifierOf(const Zorv::AnimationCode* animation)
+{
+    return animation->property(QStringLiteral("Identifier")).toString();
 }
 
 }  // namespace
@@ -70,7 +77,7 @@ void TestFrameTicks::ticksAgreeWithAWalk()
             QCOMPARE(ticks.frameAt(unsigned(tick)), shown.value(tick, last));
             const bool begins =
                 tick < shown.size() && (tick == 0 || shown[tick - 1] != shown[tick]);
-            Zorv::TimeLine::Marker marker;
+            TimeLine::Marker marker;
             QCOMPARE(ticks.markerAt(unsigned(tick), marker), begins);
             if (begins) {
                 QCOMPARE(ticks.firstTick(shown[tick]), tick);
@@ -97,20 +104,13 @@ void TestFrameTicks::sumsDoNotOverflow()
 
 void TestFrameTicks::colorsOfMarkers()
 {
-    FamilyDocument document(FileKind::Animations);
-    document.fromString(QStringLiteral(
-        "animation 5 \"Wait\"\nframe 0,0 delay 3\nframe 0,1 delay 4 loop\nframe 0,2 delay -1\n"));
-    FollowedAnimation animation;
-    const AnimationRow row(&animation);
-    Zorv::TimeLine::Marker marker;
-    QVERIFY(!row.markerAtTick(0, marker) && row.name().isEmpty());
-    animation.setAnimation(document.animations()->animation(0));
-    QCOMPARE(row.name(), QStringLiteral("5 Wait"));
-    QVERIFY(row.markerAtTick(0, marker));
+    const FrameTicks ticks({3, 4, -1}, 1);
+    TimeLine::Marker marker;
+    QVERIFY(ticks.markerAt(0, marker));
     QCOMPARE(marker.color, QColor(160, 140, 40));
-    QVERIFY(row.markerAtTick(3, marker));
+    QVERIFY(ticks.markerAt(3, marker));
     QCOMPARE(marker.color, QColor(140, 190, 40));
-    QVERIFY(row.markerAtTick(7, marker));
+    QVERIFY(ticks.markerAt(7, marker));
     QCOMPARE(marker.color, QColor(190, 110, 40));
 }
 
@@ -156,12 +156,12 @@ void TestFrameTicks::animationIsFollowed()
             break;
         }
         const int place = document.animations()->indexOfIdentifier(QStringLiteral("7"));
-        const AnimationNode* node = followed.animation();
+        const Zorv::AnimationCode* node = followed.animation();
         QCOMPARE(node != nullptr, place >= 0);
         if (node) {
             ++found;
             QVERIFY(document.animations()->indexOf(node) >= 0);
-            QCOMPARE(node->identifier(), QStringLiteral("7"));
+            QCOMPARE(identifierOf(node), QStringLiteral("7"));
         }
         QCOMPARE(delaysOf(followed.ticks()), delaysOf(FrameTicks(node)));
         QCOMPARE(followed.ticks().frameCount(), followed.frameCount());
@@ -172,20 +172,18 @@ void TestFrameTicks::animationIsFollowed()
     QTextCursor typed(document.findBlockByNumber(0));
     typed.movePosition(QTextCursor::EndOfBlock);
     typed.insertText(QStringLiteral("5"));
-    QCOMPARE(followed.animation()->identifier(), QStringLiteral("75"));
+    QCOMPARE(identifierOf(followed.animation()), QStringLiteral("75"));
 }
 
 void TestFrameTicks::documentCloses()
 {
     FollowedAnimation followed;
-    const AnimationRow row(&followed);
     auto document = std::make_unique<FamilyDocument>(FileKind::Animations);
     document->fromString(QStringLiteral("animation 7\nframe 0,0\n"));
     followed.setAnimation(document->animations()->animation(0));
     QCOMPARE(followed.ticks().frameCount(), 1);
-    connect(&followed, &FollowedAnimation::changed, this, [&] {
-        QVERIFY(!followed.animation() && !followed.document() && row.name().isEmpty());
-    });
+    connect(&followed, &FollowedAnimation::changed, this,
+            [&] { QVERIFY(!followed.animation() && !followed.document()); });
     QSignalSpy spy(&followed, &FollowedAnimation::changed);
     document.reset();
     QCOMPARE(spy.count(), 1);

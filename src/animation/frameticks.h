@@ -1,25 +1,26 @@
 #pragma once
 
-#include <zorv/animation/timeline/timeline.h>
+#include "animation/timeline/timeline.h"
+#include "zorv_export.h"
 
 #include <QVector>
 
-namespace Family {
+namespace Zorv {
 
-class AnimationNode;
+class AnimationCode;
 
 /// Which frame of an animation stands at which tick.
 ///
 /// Frames stand one behind the other from tick 0 on, each for its delay. One with a delay of 0 is
 /// never shown, one with a negative delay never ends. Ticks end at the largest `int`. A value that
 /// knows no node; finding a frame is logarithmic.
-class FrameTicks
+class ZORV_EXPORT FrameTicks
 {
 public:
     FrameTicks() = default;
 
     /// The frames of an animation as they are now; null for none.
-    explicit FrameTicks(const AnimationNode* animation);
+    explicit FrameTicks(const AnimationCode* animation);
 
     /// `loopFrame` is the frame that is marked as where the animation starts again, -1 for none.
     FrameTicks(const QVector<int>& delays, int loopFrame);
@@ -48,7 +49,7 @@ public:
     int loopFrame() const { return m_loopFrame; }
 
     /// True if a frame begins at that tick and is shown, which is then filled in.
-    bool markerAt(unsigned tick, Zorv::TimeLine::Marker& marker) const;
+    bool markerAt(unsigned tick, TimeLine::Marker& marker) const;
 
 private:
     QVector<int> m_delays;
@@ -58,4 +59,4 @@ private:
     int m_loopFrame = -1;
 };
 
-}  // namespace Family
+}  // namespace Zorv

@@ -1,23 +1,25 @@
 #pragma once
 
-#include "family/familydocument.h"
-#include "family/stage/frameticks.h"
+#include "animation/frameticks.h"
+#include "code/codedoc/codedocument.h"
+#include "zorv_export.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QTextCursor>
 
-namespace Family {
+namespace Zorv {
 
-class AnimationNode;
-class FrameNode;
+class AnimationCode;
+class Animations;
+class FrameCode;
 
 /// One animation of a document, found again after every edit.
 ///
 /// Nodes die at any keystroke, so none is held: the animation is the one on a line that moves with
-/// the text, or, if another stands there now, the first one with the identifier that it had. Main
-/// thread only.
-class FollowedAnimation : public QObject
+/// the text, or, if another stands there now, the first one with the "Identifier" that it had, in
+/// the document's list of animations. Main thread only.
+class ZORV_EXPORT FollowedAnimation : public QObject
 {
     Q_OBJECT
 
@@ -26,24 +28,24 @@ public:
     ~FollowedAnimation() override;
 
     /// Null for none.
-    void setAnimation(AnimationNode* animation);
+    void setAnimation(AnimationCode* animation);
 
     /// Null if there is none, or it has gone from the text. Good until the next edit.
-    AnimationNode* animation() const;
+    AnimationCode* animation() const;
 
     /// A frame of it; null outside of the list. Good until the next edit.
-    FrameNode* frame(int index) const;
+    FrameCode* frame(int index) const;
     int frameCount() const;
 
     /// Null for none, and once it is about to close.
-    FamilyDocument* document() const;
+    CodeDocument* document() const;
 
-    /// When its frames stand, as of the last edit.
+    /// When its frames stand, as of the last edit. Made once an edit, when it is asked for.
     const FrameTicks& ticks() const;
 
 signals:
     /// Another animation, or the text has changed, or is about to close. As with
-    /// `Zorv::CodeDocument::codeChanged()` a slot must not edit.
+    /// `CodeDocument::codeChanged()` a slot must not edit.
     void changed();
 
 private:
@@ -51,8 +53,9 @@ private:
     void close();
     void follow();
     void find();
+    Animations* list() const;
 
-    QPointer<Zorv::CodeDocument> m_document;  // one of the family until it is about to close
+    QPointer<CodeDocument> m_document;
     QTextCursor m_head;
     const void* m_known = nullptr;  // the node as it was, only to be compared
     QString m_identifier;
@@ -60,4 +63,4 @@ private:
     mutable bool m_ticksKnown = false;
 };
 
-}  // namespace Family
+}  // namespace Zorv
