@@ -4,8 +4,8 @@
 #include "family/grammar/linescanner.h"
 #include "family/nodes/animationnode.h"
 #include "family/nodes/headcomments.h"
-#include "family/nodes/lineedit.h"
 #include "family/redundantlines.h"
+#include "family/takencode.h"
 
 #include <QTextBlock>
 #include <QTextCursor>
@@ -35,14 +35,9 @@ private:
 QString renamed(const AnimationNode* animation, const QString& identifier)
 {
     const QTextCursor all = animation->selectAll();
-    QString text = all.selectedText();
-    const NodeLine line(animation);
-    const LinePart* old = line.details.part(LinePart::Argument);
-    if (identifier.isEmpty() || !old || old->start == old->end) {
-        return text;
-    }
-    const int head = animation->block().position() - all.selectionStart();
-    return text.replace(head + old->start, old->end - old->start, identifier);
+    const QTextBlock head = animation->block();
+    return all.selectedText().replace(head.position() - all.selectionStart(), head.length() - 1,
+                                      headLineFor(animation, identifier));
 }
 
 }  // namespace
@@ -83,6 +78,26 @@ int FamilyAnimations::optimize(bool dryRun, QStringList* lines)
 QString FamilyAnimations::animationTemplate() const
 {
     return QStringLiteral("animation %1\nframe 0,0  delay -1\n");
+}
+
+bool FamilyAnimations::canName(const QString& identifier) const
+{
+    return isAnimationIdentifier(identifier);
+}
+
+QTextCursor FamilyAnimations::ownLines(unsigned index) const
+{
+    const CommentTravel travel(static_cast<FamilyDocument*>(document()));
+    const AnimationNode* own = animation(int(index));
+    return own ? ownLinesOf(own) : QTextCursor();
+}
+
+QString FamilyAnimations::codeFor(unsigned index, const QString& identifier,
+                                  const SpriteMap& sprites) const
+{
+    const CommentTravel travel(static_cast<FamilyDocument*>(document()));
+    const AnimationNode* own = animation(int(index));
+    return own && canName(identifier) ? ownCodeFor(own, identifier, sprites) : QString();
 }
 
 QVariant FamilyAnimations::data(const QModelIndex& index, int role) const

@@ -35,6 +35,13 @@ public:
     /// As `removeRedundantLines()`.
     int optimize(bool dryRun = false, QStringList* lines = nullptr) override;
     QString animationTemplate() const override;
+    bool canName(const QString& identifier) const override;
+
+    /// With the comments directly above, see `CommentTravel`, and without those behind an empty
+    /// line.
+    QTextCursor ownLines(unsigned index) const override;
+    QString codeFor(unsigned index, const QString& identifier,
+                    const QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>& sprites) const override;
 
     /// As that of the library; the head line for an animation without any name.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;

@@ -4,6 +4,7 @@
 #include "code/codedoc/codedocument.h"
 
 #include <QScopedValueRollback>
+#include <QTextBlock>
 #include <QTextCursor>
 
 #include <algorithm>
@@ -105,6 +106,34 @@ Animations::Animations(CodeDocument* document)
 }
 
 Animations::~Animations() = default;
+
+bool Animations::canName(const QString& identifier) const
+{
+    return !identifier.trimmed().isEmpty();
+}
+
+QTextCursor Animations::ownLines(unsigned index) const
+{
+    const AnimationCode* animation = at(index);
+    if (!animation) {
+        return {};
+    }
+    QTextCursor cursor = animation->selectAll();
+    const int start = cursor.selectionStart();
+    QTextBlock last = document()->findBlock(qMax(start, cursor.selectionEnd() - 1));
+    while (last.position() > start && last.text().trimmed().isEmpty()) {
+        last = last.previous();
+    }
+    cursor.setPosition(start);
+    cursor.setPosition(last.position() + last.length() - 1, QTextCursor::KeepAnchor);
+    return cursor;
+}
+
+QString Animations::codeFor(unsigned, const QString&,
+                            const QHash<SpriteNumber, SpriteNumber>&) const
+{
+    return {};
+}
 
 QList<AnimationCode*> Animations::animations() const
 {

@@ -3,14 +3,18 @@
 #include "code/codedoc/codedocumenteditor.h"
 #include "core/organizableobject.h"
 
+#include <QHash>
 #include <QList>
 
 #include <memory>
+
+class QTextCursor;
 
 namespace Zorv {
 
 class AnimationCode;
 class AnimationsPrivate;
+struct SpriteNumber;
 
 /// All animations of a document as a list that can be rearranged.
 ///
@@ -32,6 +36,25 @@ public:
 
     /// The text of a new animation, with "%1" where the identifier goes.
     virtual QString animationTemplate() const = 0;
+
+    /// @name What an import takes from one text to another
+    /// @{
+    /// True for a text that can name an animation. As it stands here any that is not blank.
+    virtual bool canName(const QString& identifier) const;
+
+    /// The lines that an animation takes along, also the place of what replaces it, without the
+    /// last line end. As it stands here all its lines but empty ones at the end; in a grammar
+    /// whose comments belong to an animation the host says which do. A null cursor outside of the
+    /// list.
+    virtual QTextCursor ownLines(unsigned index) const;
+
+    /// Those lines as another text would have them, with a line feed between two: under
+    /// `identifier`, and with another sprite in each frame whose own is a key of `sprites`. The
+    /// text of this document stays. Null if there is none: outside of the list, and for an
+    /// identifier that cannot name an animation. As it stands here there never is.
+    virtual QString codeFor(unsigned index, const QString& identifier,
+                            const QHash<SpriteNumber, SpriteNumber>& sprites) const;
+    /// @}
 
     QList<AnimationCode*> animations() const;
     int count() const;
