@@ -8,6 +8,7 @@
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QPainter>
+#include <QPointer>
 #include <QWheelEvent>
 
 namespace Zorv {
@@ -37,6 +38,11 @@ Renderer* RenderWidget::renderer() const
 
 void RenderWidget::setRenderer(Renderer* renderer)
 {
+    const QPointer<RenderWidget> self = this;
+    releaseButtons();
+    if (!self) {
+        return;
+    }
     if (d->renderer) {
         d->renderer->m_widget = nullptr;
     }
@@ -45,7 +51,7 @@ void RenderWidget::setRenderer(Renderer* renderer)
         return;
     }
     if (renderer->m_widget) {
-        renderer->m_widget->d->renderer = nullptr;
+        renderer->m_widget->setRenderer(nullptr);
     }
     renderer->m_widget = this;
     makeCurrent();
@@ -53,6 +59,21 @@ void RenderWidget::setRenderer(Renderer* renderer)
         renderer->initializeOpenGLFunctions();
     }
     renderer->sizeChanged(width(), height());
+}
+
+/// Else a drag would go on when the renderer comes back, and what was dragged would not be told.
+void RenderWidget::releaseButtons()
+{
+    const QPointer<RenderWidget> self = this;
+    for (const auto button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        if (self && d->renderer && d->pressed.testFlag(button)) {
+            d->pressed.setFlag(button, false);
+            d->renderer->mouseReleased(d->pointer, button, Qt::NoModifier);
+        }
+    }
+    if (self) {
+        d->pressed = {};
+    }
 }
 
 void RenderWidget::setCustomPixelShader(const char* indexedSource, const char* rgbaSource)
@@ -137,7 +158,9 @@ void RenderWidget::mousePressEvent(QMouseEvent* event)
 {
     QOpenGLWidget::mousePressEvent(event);
     if (d->renderer) {
-        d->renderer->mousePressed(event->localPos().toPoint(), event->button(), event->modifiers());
+        d->pressed.setFlag(event->button());
+        d->pointer = event->localPos().toPoint();
+        d->renderer->mousePressed(d->pointer, event->button(), event->modifiers());
     }
 }
 
@@ -145,6 +168,7 @@ void RenderWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     QOpenGLWidget::mouseReleaseEvent(event);
     if (d->renderer) {
+        d->pressed.setFlag(event->button(), false);
         d->renderer->mouseReleased(event->localPos().toPoint(), event->button(),
                                    event->modifiers());
     }
@@ -154,7 +178,8 @@ void RenderWidget::mouseMoveEvent(QMouseEvent* event)
 {
     QOpenGLWidget::mouseMoveEvent(event);
     if (d->renderer) {
-        d->renderer->mouseMoved(event->localPos().toPoint(), event->modifiers());
+        d->pointer = event->localPos().toPoint();
+        d->renderer->mouseMoved(d->pointer, event->modifiers());
     }
 }
 

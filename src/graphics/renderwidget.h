@@ -28,7 +28,8 @@ public:
     Renderer* renderer() const;
 
     /// Attaches a renderer, which is not owned and may be attached to one widget at a time; null
-    /// detaches. Without one the widget clears to its last colour and ignores input.
+    /// detaches. Without one the widget clears to its last colour and ignores input. To the one
+    /// that was there a button that is held is released first.
     void setRenderer(Renderer* renderer);
 
     /// Takes other fragment shaders, for images with a palette and for true colour; null is that
@@ -63,6 +64,7 @@ private:
     friend class Renderer;
 
     void freePrograms();
+    void releaseButtons();
 
     std::unique_ptr<RenderWidgetPrivate> d;
 };

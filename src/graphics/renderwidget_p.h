@@ -7,6 +7,8 @@ namespace Zorv {
 struct RenderWidgetPrivate
 {
     Renderer* renderer = nullptr;
+    Qt::MouseButtons pressed;  // that the renderer has heard of
+    QPoint pointer;            // where it was then, or later
     TextureDrawing drawing;
 };
 
