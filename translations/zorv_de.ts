@@ -2373,6 +2373,21 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>ExAxisDlg</name>
+    <message>
+        <source>Extra cross</source>
+        <translation>Zusatzkreuz</translation>
+    </message>
+    <message>
+        <source>X:</source>
+        <translation>X:</translation>
+    </message>
+    <message>
+        <source>Y:</source>
+        <translation>Y:</translation>
+    </message>
+</context>
+<context>
     <name>Family</name>
     <message>
         <source>There is no file or folder &apos;%1&apos;.</source>
@@ -5415,6 +5430,17 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     <message>
         <source>Remove selected contact boxes</source>
         <translation>Gewählte Kontaktboxen entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::GraphicsWorkspace</name>
+    <message>
+        <source>Time line</source>
+        <translation>Zeitleiste</translation>
+    </message>
+    <message>
+        <source>Stage</source>
+        <translation>Bühne</translation>
     </message>
 </context>
 <context>

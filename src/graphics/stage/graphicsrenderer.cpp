@@ -90,8 +90,11 @@ QPoint GraphicsRenderer::origin() const
 
 void GraphicsRenderer::setOrigin(QPoint origin)
 {
-    GraphicsRendererPrivate::m_origin = origin;
+    const bool isOther = replace(GraphicsRendererPrivate::m_origin, origin);
     update();
+    if (isOther) {
+        emit viewChanged();
+    }
 }
 
 void GraphicsRenderer::centralize()

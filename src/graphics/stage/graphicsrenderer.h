@@ -262,6 +262,9 @@ signals:
     /// A drag has ended; for boxes also a move by keys, with null and (0,0).
     void itemReleased(Zorv::GraphicsRenderer::ItemType type, void* item, QPoint offsetToParent);
 
+    /// The origin or the zoom is another: by a person, at each step of a drag, or by a call.
+    void viewChanged();
+
     /// For hosts; the library does not emit them.
     void changed();
     void changedAt(unsigned int index);

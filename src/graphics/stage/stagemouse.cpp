@@ -202,7 +202,7 @@ void GraphicsRendererPrivate::dragElement(QPoint delta, QPoint modelDelta)
 {
     switch (element) {
     case GraphicsRenderer::StageElement:
-        m_origin = stageSum(m_origin, delta);
+        q->setOrigin(stageSum(m_origin, delta));
         break;
     case GraphicsRenderer::SpriteElement:
         dragSprite(delta, modelDelta);

@@ -65,11 +65,15 @@ void GraphicsRenderer::mouseWheel(int delta)
 
 void GraphicsRendererPrivate::applyZoomLevel(int level)
 {
+    const bool isOther = level != zoomLevel || s_zoomTable[Zoom::table][level] != zoom;
     zoomLevel = static_cast<unsigned char>(level);
     zoom = s_zoomTable[Zoom::table][level];
     zoomChanged();
     previousZoom = zoom;
     q->update();
+    if (isOther) {
+        emit q->viewChanged();
+    }
 }
 
 void GraphicsRendererPrivate::zoomChanged()
