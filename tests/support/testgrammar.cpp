@@ -135,6 +135,18 @@ TestFrame::TestFrame(CodeNode* previous, const QString& text)
 {
 }
 
+int TestFrame::spritePart(int part) const
+{
+    bool isNumber = false;
+    const int value = m_text.mid(1).section(QLatin1Char(','), part, part).toInt(&isNumber);
+    return isNumber ? value : -1;
+}
+
+void TestFrame::setSprite(int group, int number)
+{
+    change(QStringLiteral("-%1,%2").arg(QString::number(group), QString::number(number)));
+}
+
 GrammarDocument::GrammarDocument(const QString& text) : CodeDocument(0)
 {
     setOption(QStringLiteral("parseCode"), true, false, false);

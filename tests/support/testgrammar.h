@@ -15,7 +15,7 @@
 ///     [7]         a group of number 7; [7*] one of the outermost folding level
 ///     key=text    a value, under a group
 ///     !name       an animation
-///     -text       a frame, under an animation
+///     -text       a frame, under an animation; -3,1 one that shows the sprite 3,1
 ///     # text      a comment
 ///     ?e ?w ?d    an error, a warning, a deprecation; anything unknown is an error
 ///     ( ) { }     brackets, wherever they stand
@@ -82,9 +82,9 @@ public:
     void setProperty(const QString&, const QVariant&) override {}
     QVariant identifier() const override { return m_text; }
     void setIdentifier(const QVariant& identifier) override { m_text = identifier.toString(); }
-    int spriteGroup() const override { return 0; }
-    int spriteNumber() const override { return 0; }
-    void setSprite(int, int) override {}
+    int spriteGroup() const override { return spritePart(0); }
+    int spriteNumber() const override { return spritePart(1); }
+    void setSprite(int group, int number) override;
     QPoint offset() const override { return {}; }
     void setOffset(const QPoint&) override {}
     int delay() const override { return 1; }
@@ -100,6 +100,8 @@ public:
     void boxesChanged() override {}
 
 private:
+    int spritePart(int part) const;
+
     QString m_text;
 };
 
