@@ -2046,13 +2046,6 @@
     </message>
 </context>
 <context>
-    <name>App::SpriteList</name>
-    <message>
-        <source>Sprites of the project</source>
-        <translation>Sprites des Projekts</translation>
-    </message>
-</context>
-<context>
     <name>App::SpritePanel</name>
     <message>
         <source>No sprite file</source>
@@ -2072,6 +2065,10 @@
             <numerusform>%n Sprite</numerusform>
             <numerusform>%n Sprites</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Sprites of the project</source>
+        <translation>Sprites des Projekts</translation>
     </message>
 </context>
 <context>
@@ -5631,6 +5628,17 @@ Zeile %2, Spalte %3.</translation>
 %2</source>
         <translation>&apos;%1&apos; kann nicht verwendet werden.
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SpriteList</name>
+    <message>
+        <source>The pixels of this sprite are missing or broken.</source>
+        <translation>Die Pixel dieses Sprites fehlen oder sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>No frame shows this sprite.</source>
+        <translation>Kein Frame zeigt diesen Sprite.</translation>
     </message>
 </context>
 <context>

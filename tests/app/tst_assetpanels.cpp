@@ -1,15 +1,15 @@
 #include "windowfixture.h"
 
-#include "app/assets/rowlist.h"
 #include "app/assets/soundpanel.h"
-#include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/spritepicture.h"
 #include "app/window/panelplace.h"
 #include "family/assets/soundfile.h"
 #include "family/assets/spritefile.h"
 
+#include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/core/filesystemarchive.h>
+#include <zorv/editors/framework/rowlist.h>
 #include <zorv/media/soundsample.h>
 
 #include <QAction>
@@ -129,7 +129,7 @@ QString TestAssetPanels::image(const QString& name, const QImage& image) const
 
 void TestAssetPanels::showsWhatIsInSight()
 {
-    App::SpriteList* list = panel()->list();
+    Zorv::SpriteList* list = panel()->list();
     QCOMPARE(list->model()->rowCount(), 500);
     QTRY_VERIFY(hasColor(list->viewport(), QColor(0xff, 0, 0)));
     panel()->setCurrentRow(402);

@@ -1,10 +1,11 @@
 #include "stagefixture.h"
 
-#include "app/assets/rowlist.h"
 #include "app/assets/soundpanel.h"
-#include "app/assets/spritelist.h"
 #include "app/window/panelplace.h"
 #include "family/assets/soundfile.h"
+
+#include <zorv/animation/thumbnails/spritelist.h>
+#include <zorv/editors/framework/rowlist.h>
 
 #include <QClipboard>
 #include <QComboBox>

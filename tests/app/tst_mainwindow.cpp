@@ -1,10 +1,10 @@
 #include "windowfixture.h"
 
-#include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/main/application.h"
 #include "app/session/recentfolders.h"
 
+#include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/core/interface.h>
 #include <zorv/core/messagelist.h>
 #include <zorv/core/progressreporter.h>

@@ -1,11 +1,11 @@
-#include "app/assets/rowlist.h"
 #include "app/assets/soundpanel.h"
-#include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/changes/comparedialog.h"
 #include "windowfixture.h"
 
+#include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/code/codecs/textcodecs.h>
+#include <zorv/editors/framework/rowlist.h>
 #include <zorv/media/soundsample.h>
 
 #include <QAction>

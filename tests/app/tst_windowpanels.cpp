@@ -1,12 +1,12 @@
 #include "windowfixture.h"
 
 #include "app/actions/actionregistry.h"
-#include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/stage/stagecommands.h"
 #include "app/stage/stageview.h"
 #include "family/nodes/animationnode.h"
 
+#include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/animation/timeline/timelinewidget.h>
 #include <zorv/core/messagelist.h>
 

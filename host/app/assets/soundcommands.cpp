@@ -1,7 +1,6 @@
 #include "app/assets/soundcommands.h"
 
 #include "app/actions/actionregistry.h"
-#include "app/assets/rowlist.h"
 #include "app/assets/soundpanel.h"
 #include "app/assets/transfer.h"
 #include "app/session/gamesession.h"
@@ -16,6 +15,7 @@
 #include "operations/media/soundwork.h"
 
 #include <zorv/core/dialogs/dialogs.h>
+#include <zorv/editors/framework/rowlist.h>
 
 #include <algorithm>
 

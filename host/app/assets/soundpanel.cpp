@@ -1,8 +1,9 @@
 #include "app/assets/soundpanel.h"
 
-#include "app/assets/rowlist.h"
 #include "app/look/language.h"
 #include "family/assets/soundfile.h"
+
+#include <zorv/editors/framework/rowlist.h>
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -10,6 +11,7 @@
 namespace App {
 
 using Family::SoundFile;
+using Zorv::RowList;
 
 SoundPanel::SoundPanel(QWidget* parent) : QWidget(parent), m_list(new RowList), m_text(new QLabel)
 {

@@ -11,9 +11,11 @@ struct AssetId;
 class SoundFile;
 }  // namespace Family
 
-namespace App {
-
+namespace Zorv {
 class RowList;
+}
+
+namespace App {
 
 /// The sounds of the project in front: a list, and what the selected one is like.
 class SoundPanel : public QWidget
@@ -27,7 +29,7 @@ public:
     void setSounds(Family::SoundFile* sounds);
     Family::SoundFile* sounds() const;
 
-    RowList* list() const { return m_list; }
+    Zorv::RowList* list() const { return m_list; }
     int currentRow() const;
 
     /// The selected rows in their order.
@@ -46,7 +48,7 @@ private:
     QString currentText() const;
 
     QPointer<Family::SoundFile> m_sounds;
-    RowList* m_list;
+    Zorv::RowList* m_list;
     QLabel* m_text;
 };
 

@@ -1,7 +1,6 @@
 #include "app/assets/spritecommands.h"
 
 #include "app/actions/actionregistry.h"
-#include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/transfer.h"
 #include "app/session/gamesession.h"
@@ -21,6 +20,7 @@
 #include "operations/media/spriteexport.h"
 #include "operations/media/spriteimport.h"
 
+#include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/code/codedoc/framecode.h>
 #include <zorv/core/dialogs/dialogs.h>
 

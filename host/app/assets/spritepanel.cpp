@@ -1,12 +1,12 @@
 #include "app/assets/spritepanel.h"
 
 #include "app/assets/palettegrid.h"
-#include "app/assets/spritelist.h"
 #include "app/assets/spritepicture.h"
 #include "app/look/language.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/spritecollection.h"
 
+#include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/cache/palette.h>
 #include <zorv/cache/palettes.h>
 
@@ -18,6 +18,7 @@ namespace App {
 
 using Family::FamilySprite;
 using Family::SpriteCollection;
+using Zorv::SpriteList;
 
 SpritePanel::SpritePanel(QWidget* parent)
     : QWidget(parent), m_list(new SpriteList), m_picture(new SpritePicture),
@@ -44,7 +45,10 @@ SpritePanel::SpritePanel(QWidget* parent)
     connect(m_list, &SpriteList::currentRowChanged, this, &SpritePanel::updateCurrent);
     connect(m_list, &QListView::activated, this,
             [this](const QModelIndex& index) { emit spriteActivated(index.row()); });
-    followLanguage(this, [this] { m_text->setText(currentText()); });
+    followLanguage(this, [this] {
+        m_list->setAccessibleName(tr("Sprites of the project"));
+        m_text->setText(currentText());
+    });
 }
 
 void SpritePanel::setSprites(SpriteCollection* sprites)

@@ -12,10 +12,13 @@ class FamilySprite;
 class SpriteCollection;
 }  // namespace Family
 
+namespace Zorv {
+class SpriteList;
+}
+
 namespace App {
 
 class PaletteGrid;
-class SpriteList;
 class SpritePicture;
 
 /// The sprites of the project in front: a list, and the selected one with its palette.
@@ -30,7 +33,7 @@ public:
     void setSprites(Family::SpriteCollection* sprites);
     Family::SpriteCollection* sprites() const;
 
-    SpriteList* list() const { return m_list; }
+    Zorv::SpriteList* list() const { return m_list; }
     int currentRow() const;
 
     /// The sprite of the current row, or null.
@@ -62,7 +65,7 @@ private:
     QString currentText() const;
 
     QPointer<Family::SpriteCollection> m_sprites;
-    SpriteList* m_list;
+    Zorv::SpriteList* m_list;
     SpritePicture* m_picture;
     PaletteGrid* m_palette;
     QLabel* m_text;

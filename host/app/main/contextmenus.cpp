@@ -1,9 +1,7 @@
 #include "app/main/contextmenus.h"
 
 #include "app/animations/animationcommands.h"
-#include "app/assets/rowlist.h"
 #include "app/assets/soundpanel.h"
-#include "app/assets/spritelist.h"
 #include "app/assets/spritepanel.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/documenttabs.h"
@@ -14,7 +12,9 @@
 #include "app/stage/stagerenderer.h"
 #include "app/stage/stageview.h"
 
+#include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/animation/timeline/timelinewidget.h>
+#include <zorv/editors/framework/rowlist.h>
 
 #include <QAbstractItemView>
 #include <QAction>

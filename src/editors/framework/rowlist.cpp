@@ -1,8 +1,8 @@
-#include "app/assets/rowlist.h"
+#include "editors/framework/rowlist.h"
 
 #include <algorithm>
 
-namespace App {
+namespace Zorv {
 
 RowList::RowList(QWidget* parent) : QListView(parent)
 {
@@ -55,4 +55,4 @@ void RowList::currentChanged(const QModelIndex& current, const QModelIndex& prev
     emit currentRowChanged(current.row());
 }
 
-}  // namespace App
+}  // namespace Zorv

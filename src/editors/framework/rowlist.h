@@ -1,13 +1,15 @@
 #pragma once
 
+#include "zorv_export.h"
+
 #include <QListView>
 #include <QVector>
 
-namespace App {
+namespace Zorv {
 
 /// A list that is looked at and chosen from: several rows can be selected, nothing is edited or
-/// dragged. A model that is read anew keeps the current row.
-class RowList : public QListView
+/// dragged. A model that is read anew keeps the current row. Main thread only.
+class ZORV_EXPORT RowList : public QListView
 {
     Q_OBJECT
 
@@ -34,4 +36,4 @@ private:
     QMetaObject::Connection m_reset;
 };
 
-}  // namespace App
+}  // namespace Zorv
