@@ -5163,6 +5163,105 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::AnimationEdits</name>
+    <message>
+        <source>Offset axis</source>
+        <translation>Achse verschieben</translation>
+    </message>
+    <message>
+        <source>Offset Contact boxes</source>
+        <translation>Kontaktboxen verschieben</translation>
+    </message>
+    <message>
+        <source>Resize Contact boxes (top-left)</source>
+        <translation>Größe der Kontaktboxen ändern (oben links)</translation>
+    </message>
+    <message>
+        <source>Resize Contact boxes (bottom-right)</source>
+        <translation>Größe der Kontaktboxen ändern (unten rechts)</translation>
+    </message>
+    <message>
+        <source>Scale Contact boxes</source>
+        <translation>Kontaktboxen skalieren</translation>
+    </message>
+    <message>
+        <source>Copy contact boxes of frame #%1</source>
+        <translation>Kontaktboxen von Einzelbild #%1 kopieren</translation>
+    </message>
+    <message>
+        <source>Contact boxes of frame #%1 in all its instances</source>
+        <translation>Kontaktboxen von Einzelbild #%1 in allen Einzelbildern mit diesem Sprite</translation>
+    </message>
+    <message>
+        <source>Paste contact boxes</source>
+        <translation>Kontaktboxen einfügen</translation>
+    </message>
+    <message>
+        <source>Remove selected contact boxes</source>
+        <translation>Gewählte Kontaktboxen entfernen</translation>
+    </message>
+    <message>
+        <source>Remove all contact boxes of frame #%1</source>
+        <translation>Alle Kontaktboxen von Einzelbild #%1 entfernen</translation>
+    </message>
+    <message>
+        <source>Remove all contact boxes of animation #%1</source>
+        <translation>Alle Kontaktboxen von Animation #%1 entfernen</translation>
+    </message>
+    <message>
+        <source>Switch contact box type</source>
+        <translation>Art von Kontaktboxen wechseln</translation>
+    </message>
+    <message>
+        <source>Mirror contact boxes</source>
+        <translation>Kontaktboxen spiegeln</translation>
+    </message>
+    <message>
+        <source>Change contact box rectangle</source>
+        <translation>Rechteck von Kontaktboxen ändern</translation>
+    </message>
+    <message>
+        <source>Move frames</source>
+        <translation>Einzelbilder verschieben</translation>
+    </message>
+    <message>
+        <source>Reverse frames</source>
+        <translation>Einzelbilder umkehren</translation>
+    </message>
+    <message>
+        <source>Duplicate frames</source>
+        <translation>Einzelbilder verdoppeln</translation>
+    </message>
+    <message>
+        <source>Remove frames</source>
+        <translation>Einzelbilder entfernen</translation>
+    </message>
+    <message>
+        <source>Insert frames</source>
+        <translation>Einzelbilder einfügen</translation>
+    </message>
+    <message>
+        <source>Same offset for all frames of animation #%1</source>
+        <translation>Gleicher Versatz für alle Einzelbilder von Animation #%1</translation>
+    </message>
+    <message>
+        <source>Same time for all frames of animation #%1</source>
+        <translation>Gleiche Zeit für alle Einzelbilder von Animation #%1</translation>
+    </message>
+    <message>
+        <source>Same flip for all frames of animation #%1</source>
+        <translation>Gleiche Spiegelung für alle Einzelbilder von Animation #%1</translation>
+    </message>
+    <message>
+        <source>Same scale for all frames of animation #%1</source>
+        <translation>Gleiche Skalierung für alle Einzelbilder von Animation #%1</translation>
+    </message>
+    <message>
+        <source>Change time of frames</source>
+        <translation>Zeit von Einzelbildern ändern</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::Animations</name>
     <message>
         <source>Auto organize animations</source>

@@ -11,6 +11,7 @@
 #include "family/nodes/lineedit.h"
 
 #include <zorv/code/codedoc/codedocument.h>
+#include <zorv/code/codedoc/codelines.h>
 
 #include <QTextBlock>
 
@@ -156,21 +157,6 @@ void AnimationWalk::leaveFrame()
     m_line = -1;
 }
 
-/// With the line end behind them, or at the end of the text with the one in front.
-void removeLines(Zorv::CodeDocument* document, int first, int last)
-{
-    const QTextBlock begin = document->findBlockByNumber(first);
-    const QTextBlock behind = document->findBlockByNumber(last + 1);
-    QTextCursor cursor(document);
-    cursor.setPosition(behind.isValid() || first == 0 ? begin.position() : begin.position() - 1);
-    if (behind.isValid()) {
-        cursor.setPosition(behind.position(), QTextCursor::KeepAnchor);
-    } else {
-        cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
-    }
-    document->replaceSelection(QString(), cursor);
-}
-
 void tell(const Zorv::CodeDocument* document, const std::vector<Edit>& edits, QStringList* lines)
 {
     const auto textOf = [document](int line) {
@@ -198,7 +184,7 @@ void applyEdits(FamilyAnimations* animations, const std::vector<Edit>& edits)
     animations->beginChange(FamilyAnimations::tr("Remove redundant lines"));
     for (const Edit& edit : edits) {
         if (edit.last >= 0) {
-            removeLines(document, edit.first, edit.last);
+            Zorv::removeLines(document, edit.first, edit.last);
             continue;
         }
         Zorv::CodeNode* node = document->nodeInBlock(document->findBlockByNumber(edit.first));
