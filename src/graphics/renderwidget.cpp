@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
+#include <QOpenGLPaintDevice>
 #include <QPainter>
 #include <QPointer>
 #include <QWheelEvent>
@@ -133,9 +134,17 @@ void RenderWidget::paintGL()
     }
     gl.glClear(GL_COLOR_BUFFER_BIT);
     if (d->renderer) {
-        QPainter painter(this);
+        // Not a painter on the widget: while it is grabbed that one would paint elsewhere.
+        QOpenGLPaintDevice frame(size() * devicePixelRatioF());
+        frame.setDevicePixelRatio(devicePixelRatioF());
+        QPainter painter(&frame);
+        initPainter(&painter);
         d->renderer->render(painter);
     }
+    // What was blended is not seen through: a picture of the window would show what lies behind.
+    gl.glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_TRUE);
+    gl.glClear(GL_COLOR_BUFFER_BIT);
+    gl.glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
 }
 
 void RenderWidget::keyPressEvent(QKeyEvent* event)

@@ -15,7 +15,8 @@ struct RenderWidgetPrivate;
 
 /// The widget that the stage is on. It hands input and painting to the `Renderer` attached to it.
 ///
-/// Needs a display whose GL works (`isContextUsable()`). Main thread only.
+/// Needs a display whose GL works (`isContextUsable()`). A picture of it (`grab()`), or of a window
+/// around it, has all that the renderer draws, by GL and by its painter. Main thread only.
 class ZORV_EXPORT RenderWidget : public QOpenGLWidget
 {
     Q_OBJECT

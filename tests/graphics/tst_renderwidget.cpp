@@ -3,6 +3,7 @@
 #include "graphics/canvas.h"
 
 #include <QOpenGLShaderProgram>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -19,6 +20,7 @@ private slots:
     void takesOtherShaders();
     void setsAnewWhatAListenerChanged();
     void passesInputOn();
+    void isGrabbedWhole();
     void partsAtAnyTime();
     void goesToAnotherWindow_data();
     void goesToAnotherWindow();
@@ -143,6 +145,40 @@ void TestRenderWidget::passesInputOn()
     s->canvas.events.removeAll("move 3,4");  // of the pointer that the test moves
     QCOMPARE(s->canvas.events.join("; "), expected.join("; "));
     QVERIFY(widget.hasMouseTracking());
+}
+
+// The widget by itself and in a window, as often as one likes, and painting goes on as before.
+void TestRenderWidget::isGrabbedWhole()
+{
+    Texture image(inColor(indices(8, 8), palette(1)));
+    s->canvas.underneath = [](QPainter& painter) {
+        QLinearGradient gradient(0, 0, 30, 0);
+        gradient.setColorAt(0, Qt::red);
+        gradient.setColorAt(1, Qt::yellow);
+        painter.fillRect(0, 0, 30, 20, gradient);
+        painter.drawText(QRect(30, 0, 30, 20), QStringLiteral("text"));
+    };
+    s->canvas.draw = [&] {
+        s->canvas.glDrawImage(placed({20, 10, 16, 16}), &image, nullptr, 0, 1, true, 0);
+    };
+    const QImage expected = painted();
+    QCOMPARE(qRed(expected.pixel(2, 2)), 255);
+    QVERIFY(qGreen(expected.pixel(2, 2)) < qGreen(expected.pixel(28, 2)));
+    QWidget window;
+    window.resize(Size + QSize(20, 20));
+    s->widget.setParent(&window);
+    const auto parting = qScopeGuard([] { s->widget.setParent(nullptr); });
+    s->widget.move(10, 10);
+    s->widget.resize(Size);
+    s->widget.show();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(s->widget.grab().toImage().convertToFormat(QImage::Format_RGB32), expected);
+        const QImage whole = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        QCOMPARE(whole.copy(QRect(QPoint(10, 10), Size)), expected);
+        QCOMPARE(painted(), expected);
+    }
 }
 
 void TestRenderWidget::partsAtAnyTime()

@@ -7,7 +7,6 @@
 #include <zorv/core/safefile.h>
 
 #include <QApplication>
-#include <QOpenGLWidget>
 #include <QPainter>
 #include <QPixmap>
 
@@ -24,19 +23,11 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(App::Screenshot)
 };
 
-/// The window with the popups in front of it, which are windows of their own. A picture of the
-/// window lacks what painters draw on the stage: that one is taken for itself, and before, for its
-/// painters have lost their gradients behind the other.
+/// The window with the popups in front of it, which are windows of their own.
 QPixmap pictureOf(MainWindow* window)
 {
-    QOpenGLWidget* stage = window->findChild<QOpenGLWidget*>();
-    const bool hasStage = stage && stage->isVisible();
-    const QImage stageImage = hasStage ? stage->grabFramebuffer() : QImage();
     QPixmap picture = window->grab();
     QPainter painter(&picture);
-    if (hasStage) {
-        painter.drawImage(stage->mapTo(window, QPoint()), stageImage);
-    }
     const QWidgetList all = QApplication::topLevelWidgets();
     for (QWidget* widget : all) {
         if (widget->isVisible() && widget->windowType() == Qt::Popup) {
