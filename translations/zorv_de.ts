@@ -4260,6 +4260,39 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Operations::FrameEdits</name>
+    <message>
+        <source>Expected one of %1; found &apos;%2&apos;.</source>
+        <translation>Erwartet: eines von %1; gefunden: &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>Expected two numbers from %1 to %2, such as 4,-2; found &apos;%3&apos;.</source>
+        <translation>Erwartet: zwei Zahlen von %1 bis %2, wie 4,-2; gefunden: &apos;%3&apos;.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offset(s) would be out of the range from %1 to %2.</source>
+        <translation>
+            <numerusform>%n Versatz läge außerhalb des Bereichs von %1 bis %2.</numerusform>
+            <numerusform>%n Versätze lägen außerhalb des Bereichs von %1 bis %2.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n contact box(es) would be out of the range from %1 to %2.</source>
+        <translation>
+            <numerusform>%n Kontaktbox läge außerhalb des Bereichs von %1 bis %2.</numerusform>
+            <numerusform>%n Kontaktboxen lägen außerhalb des Bereichs von %1 bis %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The animation &apos;%1&apos; has no frame.</source>
+        <translation>Die Animation &apos;%1&apos; hat kein Einzelbild.</translation>
+    </message>
+    <message>
+        <source>There is no frame &apos;%1&apos;. Expected one from %2/0 to %2/%3.</source>
+        <translation>Das Einzelbild &apos;%1&apos; gibt es nicht. Erwartet: eines von %2/0 bis %2/%3.</translation>
+    </message>
+</context>
+<context>
     <name>Operations::GameDocuments</name>
     <message>
         <source>There is no file or folder &apos;%1&apos;.</source>

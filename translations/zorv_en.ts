@@ -184,6 +184,23 @@
     </message>
 </context>
 <context>
+    <name>Operations::FrameEdits</name>
+    <message numerus="yes">
+        <source>%n offset(s) would be out of the range from %1 to %2.</source>
+        <translation>
+            <numerusform>%n offset would be out of the range from %1 to %2.</numerusform>
+            <numerusform>%n offsets would be out of the range from %1 to %2.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n contact box(es) would be out of the range from %1 to %2.</source>
+        <translation>
+            <numerusform>%n contact box would be out of the range from %1 to %2.</numerusform>
+            <numerusform>%n contact boxes would be out of the range from %1 to %2.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Operations::SoundWork</name>
     <message numerus="yes">
         <source>Cannot read &apos;%1&apos;: the sizes in it do not fit, and lead to none of its %n frame(s).</source>

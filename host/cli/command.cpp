@@ -56,6 +56,20 @@ constexpr Command table[] = {
      "Sort the animations.",
      "Numbers are sorted by value, words without regard to case. Comments directly above an\n"
      "animation go along."},
+    {"anim align", "FILE MODE X,Y [ID...]", 3, Command::Any, Editing, alignAnimations,
+     "Move or scale offsets or contact boxes alike.",
+     "In all frames of the animations ID, or of all animations. MODE is 'axis', the offset of\n"
+     "frames moves by X,Y; 'boxes', their contact boxes do; 'top-left', the top left corner of\n"
+     "boxes goes outward by X,Y; 'bottom-right', the other corner does; or 'scale', the boxes get\n"
+     "X and Y percent of their place and size. If a number leaves its range, nothing is changed."},
+    {"anim copy-boxes", "FILE FRAME [TO...]", 2, Command::Any, Editing | Instances, copyBoxes,
+     "Copy the contact boxes of a frame to others.",
+     "FRAME is an animation and the number of a frame, counted from 0, as in '200/3'. TO is\n"
+     "another one, or an animation for all its frames. Boxes that these have are replaced."},
+    {"anim optimize", "FILE", 1, 1, Editing, optimizeAnimations,
+     "Remove the lines of animations that change nothing.",
+     "These are contact boxes that a frame has twice, and frames that are like the one in front:\n"
+     "that one stays for the time of both. A line with a comment or a problem stays."},
     {"anim gif", "FILE ID IMAGE", 3, 3, Encoding | SpriteFile | PaletteId | Force,
      writeAnimationGif,
      "Write an animation as an animated GIF.",

@@ -237,6 +237,8 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "all samples that are there, whatever the sizes in the file say")},
     {LeaveComments, "--leave-comments", nullptr, setFlag<&Invocation::leavesComments>,
      QT_TRANSLATE_NOOP("Cli", "comments above an animation stay where they are")},
+    {Instances, "--instances", nullptr, setFlag<&Invocation::hasInstances>,
+     QT_TRANSLATE_NOOP("Cli", "all other frames that show the same sprite")},
     {Target, "--out", "FILE", takePlace,
      QT_TRANSLATE_NOOP("Cli", "where the picture goes; '-o' for short")},
     {Out, "--out", "PLACE", takePlace,

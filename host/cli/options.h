@@ -32,6 +32,7 @@ struct Invocation
     bool isCommon = false;
     bool isLenient = false;
     bool leavesComments = false;
+    bool hasInstances = false;
     int columns = 0;  ///< 0 for as many as make the sheet about square
     int group = -1;
     QPoint axis;
@@ -93,7 +94,8 @@ enum Option : quint64 {
     OneAnimation = quint64(1) << 34,
     Trust = quint64(1) << 35,
     Lenient = quint64(1) << 36,
-    LeaveComments = quint64(1) << 37
+    LeaveComments = quint64(1) << 37,
+    Instances = quint64(1) << 38
 };
 
 /// One option: a row of the table.
