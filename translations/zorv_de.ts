@@ -5781,6 +5781,49 @@ Zeile %2, Spalte %3.</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::TimeLineWidget</name>
+    <message>
+        <source>One tick longer</source>
+        <translation>Einen Tick länger</translation>
+    </message>
+    <message>
+        <source>One tick shorter</source>
+        <translation>Einen Tick kürzer</translation>
+    </message>
+    <message>
+        <source>Without end</source>
+        <translation>Ohne Ende</translation>
+    </message>
+    <message>
+        <source>To the left</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <source>To the right</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Loop from here</source>
+        <translation>Schleife ab hier</translation>
+    </message>
+    <message>
+        <source>Loop up to here</source>
+        <translation>Schleife bis hier</translation>
+    </message>
+    <message>
+        <source>Loop over the selection</source>
+        <translation>Schleife über die Auswahl</translation>
+    </message>
+    <message>
+        <source>No loop</source>
+        <translation>Keine Schleife</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::ZorvTranslator</name>
     <message>
         <source>No document.</source>

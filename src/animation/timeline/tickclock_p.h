@@ -9,23 +9,28 @@ namespace Zorv {
 /// How long a timer has to wait so that ticks come 60 times a second on the mean.
 ///
 /// A timer has whole milliseconds, fires late, and waits only when the work of a tick is done. What
-/// a tick took too long or too short is kept to the nanosecond and made up in the next ones.
+/// a tick took too long or too short is kept to the nanosecond and made up in the next ones. For
+/// slow motion a tick takes several periods.
 struct TickClock
 {
     static constexpr qint64 Period = 16'666'667;  ///< nanoseconds a tick
     static constexpr qint64 Millisecond = 1'000'000;
-    static constexpr int FirstInterval = 16;  ///< milliseconds
+
+    /// Milliseconds to the first tick.
+    int firstInterval() const { return 16 * slowness; }
 
     /// Takes the nanoseconds since the last tick, and gives the milliseconds to the next.
     int step(qint64 elapsed)
     {
-        error += Period - elapsed;
+        const qint64 period = Period * slowness;
+        error += period - elapsed;
         measure(elapsed);
-        return int(std::max<qint64>((error + Period) / Millisecond, 0));
+        return int(std::max<qint64>((error + period) / Millisecond, 0));
     }
 
+    int slowness = 1;  ///< the periods that a tick takes
     qint64 error = 0;  ///< nanoseconds by which the ticks are ahead
-    float currentFPS = 60;
+    float currentFPS = 60.0F / float(slowness);
     unsigned int frameCount = 0;  ///< ticks since the rate was measured
     qint64 fpsElapsed = 0;        ///< nanoseconds since then
 

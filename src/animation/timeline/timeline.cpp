@@ -4,4 +4,9 @@ namespace Zorv {
 
 TimeLine::~TimeLine() = default;
 
+TimeLineCells* TimeLine::cells()
+{
+    return nullptr;
+}
+
 }  // namespace Zorv

@@ -7,6 +7,8 @@
 
 namespace Zorv {
 
+class TimeLineCells;
+
 /// One row of a `TimeLineWidget`: tells what stands at a tick. A tick is 1/60 second.
 class ZORV_EXPORT TimeLine
 {
@@ -26,6 +28,10 @@ public:
     /// True if a marker starts at that tick, which is then filled in. Asked for every tick that
     /// shows, at every repaint.
     virtual bool markerAtTick(unsigned int tick, Marker& marker) const = 0;
+
+    /// The cells of the row, if a person may work on them: the same object as long as the row is
+    /// shown. Null as it stands here: the row is only looked at.
+    virtual TimeLineCells* cells();
 };
 
 }  // namespace Zorv

@@ -56,6 +56,7 @@ void TimeLinePrivate::paint(QPainter& painter) const
         paintName(painter, index);
         paintCells(painter, index);
     }
+    editing.paint(painter);
     paintCursor(painter);
 }
 
@@ -124,7 +125,7 @@ void TimeLinePrivate::paintBand(QPainter& painter, const QRect& cell, const QCol
 
 void TimeLinePrivate::paintCursor(QPainter& painter) const
 {
-    const qint64 left = cursorPlace() + (TickWidth - CursorWidth) / 2;
+    const qint64 left = placeOf(currentTick) + (TickWidth - CursorWidth) / 2;
     if (left >= 0 && left < owner->width()) {
         // Yellow alone would not be seen on a light ground.
         const QRect bar(int(left), 0, CursorWidth, owner->height());

@@ -3,6 +3,9 @@
 #include "animation/timeline/timelinewidget_p.h"
 
 #include <QCoreApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,24 +19,26 @@ namespace Zorv {
 namespace {
 
 constexpr unsigned int LastTick = std::numeric_limits<unsigned int>::max();
+constexpr int LargestSlowness = 60;
 
 }  // namespace
 
-TimeLinePrivate::TimeLinePrivate(TimeLineWidget* widget) : owner(widget)
+TimeLinePrivate::TimeLinePrivate(TimeLineWidget* widget) : owner(widget), editing(this)
 {
     timer.setTimerType(Qt::PreciseTimer);
-    timer.setInterval(TickClock::FirstInterval);
+    timer.setInterval(clock.firstInterval());
 }
 
 void TimeLinePrivate::play()
 {
     ++run;
     playing = true;
+    editing.cancel();
     disconnect(&timer, &QTimer::timeout, this, &TimeLinePrivate::timeStep);
     connect(&timer, &QTimer::timeout, this, &TimeLinePrivate::timeStep);
-    clock = TickClock();
+    clock = TickClock{clock.slowness};
     elapsedTimer.start();
-    timer.start(TickClock::FirstInterval);
+    timer.start(clock.firstInterval());
     emit owner->tickChanged(currentTick);
 }
 
@@ -75,10 +80,25 @@ void TimeLinePrivate::moveTo(unsigned int tick)
     }
 }
 
+void TimeLinePrivate::setSlowness(int slowness)
+{
+    clock = TickClock{std::clamp(slowness, 1, LargestSlowness)};
+}
+
 void TimeLinePrivate::moveToPlace(int x)
 {
+    moveTo(tickAt(x));
+}
+
+unsigned int TimeLinePrivate::tickAt(int x) const
+{
     const qint64 tick = qint64(x - LabelWidth) / TickWidth + firstTick;
-    moveTo(static_cast<unsigned int>(std::clamp<qint64>(tick, 0, LastTick)));
+    return static_cast<unsigned int>(std::clamp<qint64>(tick, 0, LastTick));
+}
+
+qint64 TimeLinePrivate::edgeAt(int x) const
+{
+    return tickAt(x + TickWidth / 2);
 }
 
 void TimeLinePrivate::turnPage()
@@ -98,14 +118,9 @@ void TimeLinePrivate::fitPage()
     owner->update();
 }
 
-qint64 TimeLinePrivate::cursorPlace() const
-{
-    return (qint64(currentTick) - firstTick) * TickWidth + LabelWidth;
-}
-
 TimeLinePrivate::Target TimeLinePrivate::hitTest(const QPoint& place)
 {
-    const qint64 cursor = cursorPlace();
+    const qint64 cursor = placeOf(currentTick);
     if (place.x() >= cursor && place.x() < cursor + TickWidth) {
         return Cursor;
     }
@@ -119,7 +134,7 @@ TimeLinePrivate::Target TimeLinePrivate::hitTest(const QPoint& place)
 void TimeLinePrivate::showCursorShape(const QPoint& place)
 {
     if (!playing) {
-        owner->setCursor(hitTest(place) == Cursor ? Qt::SizeHorCursor : Qt::ArrowCursor);
+        owner->setCursor(editing.shape(place));
     }
 }
 
@@ -146,7 +161,10 @@ void TimeLineWidget::setTicksPerSecond(unsigned int ticks)
 void TimeLineWidget::addTimeLine(TimeLine* timeLine)
 {
     if (timeLine) {
+        d->editing.cancel();
         d->timeLines.append(timeLine);
+        d->editing.offerActions();
+        setAcceptDrops(d->editing.cells());
         updateGeometry();
         update();
     }
@@ -155,6 +173,9 @@ void TimeLineWidget::addTimeLine(TimeLine* timeLine)
 void TimeLineWidget::clearTimeLines()
 {
     d->timeLines.clear();
+    d->editing.cancel();
+    d->editing.offerActions();
+    setAcceptDrops(false);
     updateGeometry();
     update();
 }
@@ -173,6 +194,36 @@ void TimeLineWidget::setWholePages(bool isOn)
 {
     d->hasWholePages = isOn;
     d->fitPage();
+}
+
+QVector<int> TimeLineWidget::selectedCells() const
+{
+    return d->editing.selection().cells();
+}
+
+void TimeLineWidget::setSelectedCells(const QVector<int>& cells)
+{
+    d->editing.select(cells);
+}
+
+std::optional<TickRange> TimeLineWidget::loopRange() const
+{
+    return d->editing.range();
+}
+
+void TimeLineWidget::setLoopRange(const std::optional<TickRange>& range)
+{
+    d->editing.setRange(range);
+}
+
+int TimeLineWidget::slowness() const
+{
+    return d->clock.slowness;
+}
+
+void TimeLineWidget::setSlowness(int slowness)
+{
+    d->setSlowness(slowness);
 }
 
 float TimeLineWidget::currentFPS() const
@@ -219,18 +270,35 @@ void TimeLineWidget::resizeEvent(QResizeEvent* event)
     d->fitPage();
 }
 
+bool TimeLineWidget::event(QEvent* event)
+{
+    // What the cells do comes in front of the shortcuts of a window.
+    if (event->type() == QEvent::ShortcutOverride &&
+        d->editing.handles(static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void TimeLineWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (!d->playing) {
+    const QPointer<TimeLineWidget> alive(this);
+    if (!d->playing && !d->editing.press(event) && alive) {
         d->dragTarget = d->hitTest(event->pos());
         d->dragging = true;
     }
-    setFocus(Qt::MouseFocusReason);
+    if (alive) {
+        setFocus(Qt::MouseFocusReason);
+    }
 }
 
 void TimeLineWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     const QPointer<TimeLineWidget> alive(this);
+    if (d->editing.release(event) || !alive) {
+        return;
+    }
     if (d->dragging && d->dragTarget == TimeLinePrivate::Strip) {
         d->moveToPlace(event->x());
     }
@@ -242,6 +310,9 @@ void TimeLineWidget::mouseReleaseEvent(QMouseEvent* event)
 
 void TimeLineWidget::mouseMoveEvent(QMouseEvent* event)
 {
+    if (d->editing.move(event)) {
+        return;
+    }
     if (!d->dragging) {
         d->showCursorShape(event->pos());
     } else if (d->dragTarget == TimeLinePrivate::Cursor) {
@@ -249,9 +320,59 @@ void TimeLineWidget::mouseMoveEvent(QMouseEvent* event)
     }
 }
 
+void TimeLineWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (d->playing || !d->editing.doubleClick(event)) {
+        QWidget::mouseDoubleClickEvent(event);
+    }
+}
+
+void TimeLineWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        d->editing.nameActions();
+    }
+    QWidget::changeEvent(event);
+}
+
+void TimeLineWidget::focusInEvent(QFocusEvent* event)
+{
+    d->editing.updateActions();
+    QWidget::focusInEvent(event);
+}
+
+void TimeLineWidget::dragEnterEvent(QDragEnterEvent* event)
+{
+    dragMoveEvent(event);
+}
+
+void TimeLineWidget::dragMoveEvent(QDragMoveEvent* event)
+{
+    event->setAccepted(d->editing.dragOver(event));
+}
+
+void TimeLineWidget::dragLeaveEvent(QDragLeaveEvent*)
+{
+    d->editing.cancel();
+}
+
+void TimeLineWidget::dropEvent(QDropEvent* event)
+{
+    event->setAccepted(d->editing.drop(event));
+}
+
+void TimeLineWidget::hideEvent(QHideEvent* event)
+{
+    d->editing.cancel();
+    QWidget::hideEvent(event);
+}
+
 void TimeLineWidget::keyPressEvent(QKeyEvent* event)
 {
     const unsigned int tick = d->currentTick;
+    if (d->editing.key(event)) {
+        return;
+    }
     if (event->key() == Qt::Key_Right) {
         d->moveTo(tick < LastTick ? tick + 1 : tick);
     } else if (event->key() == Qt::Key_Left) {

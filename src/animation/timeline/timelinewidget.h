@@ -1,10 +1,14 @@
 #pragma once
 
+#include "animation/timeline/tickrange.h"
+
 #include "zorv_export.h"
 
+#include <QVector>
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 namespace Zorv {
 
@@ -20,8 +24,16 @@ class TimeLinePrivate;
 /// to where a click in the strip ends. The keys Left and Right go by one tick at any time.
 ///
 /// A page begins at a multiple of ten, and is as wide as the widget. Unless that is a multiple of
-/// ten, too, its last ticks can lie beyond the right border; `setWholePages()` has none of it. Main
-/// thread only.
+/// ten, too, its last ticks can lie beyond the right border; `setWholePages()` has none of it.
+///
+/// The first row that has `TimeLine::cells()` can be edited while the clock stands. Its cells are
+/// selected by clicks, with Ctrl and Shift as in a list, and dragged to another place; the edge
+/// behind a cell is dragged to give it, or all selected ones, another length. In the upper half of
+/// the scale a drag marks the range to loop, and a double click takes it away. What the row accepts
+/// can be dropped between two cells. A drag tells the row nothing before its end; Escape gives it
+/// up. All of it has keys. What has a name is among `actions()`, the menu at the pointer.
+///
+/// Main thread only.
 class ZORV_EXPORT TimeLineWidget : public QWidget
 {
     Q_OBJECT
@@ -48,7 +60,23 @@ public:
     /// width turns to the page of the present tick: it is always in sight. False at first.
     void setWholePages(bool isOn);
 
-    /// Ticks a second, as reached in the last second of playing; 60 until then.
+    /// The cells that are selected, by their rising places. A row without cells has none, and those
+    /// that have gone are none. They keep their places when the row changes: whoever changes it
+    /// selects others.
+    QVector<int> selectedCells() const;
+    void setSelectedCells(const QVector<int>& cells);
+
+    /// The ticks that the person wants to see again and again. Only kept and shown: the clock runs
+    /// past its end.
+    std::optional<TickRange> loopRange() const;
+    void setLoopRange(const std::optional<TickRange>& range);
+
+    /// For slow motion each tick takes the time of so many, from 1 to 60; 1 at first. May be set
+    /// while the clock runs.
+    int slowness() const;
+    void setSlowness(int slowness);
+
+    /// Ticks a second, as reached in the last second of playing; those of the clock until then.
     float currentFPS() const;
     bool isPlaying() const;
 
@@ -69,12 +97,27 @@ signals:
     /// The present tick is another one, or the first of a play.
     void tickChanged(unsigned int tickIndex);
 
+    /// Other cells are selected.
+    void selectionChanged();
+
+    /// Another range is to be looped, or none.
+    void loopRangeChanged();
+
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

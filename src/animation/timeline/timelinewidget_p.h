@@ -1,11 +1,14 @@
 #pragma once
 
+#include "animation/timeline/cellediting_p.h"
 #include "animation/timeline/tickclock_p.h"
 
 #include <QElapsedTimer>
 #include <QList>
 #include <QObject>
 #include <QTimer>
+
+#include <limits>
 
 class QColor;
 class QPainter;
@@ -32,11 +35,27 @@ public:
     /// Turns to a tick and tells of it, if it is another one. The widget may be gone afterwards.
     void moveTo(unsigned int tick);
 
+    int leftOf(unsigned int index) const { return LabelWidth + TickWidth * int(index); }
+
     /// The widget has another width, or pages of another kind.
     void fitPage();
 
     /// The same for the tick below a place in the strip.
     void moveToPlace(int x);
+
+    unsigned int tickAt(int x) const;
+
+    /// The edge between two ticks that is nearest to a place; it is called like the tick behind.
+    qint64 edgeAt(int x) const;
+
+    /// Where the left edge of a tick is, or would be.
+    qint64 placeOf(qint64 tick) const { return LabelWidth + (tick - firstTick) * TickWidth; }
+
+    /// Shows the page of the present tick.
+    void turnPage();
+
+    /// Slow motion begins at once.
+    void setSlowness(int slowness);
 
     /// What lies below a place; sets `row` in the strip.
     Target hitTest(const QPoint& place);
@@ -59,6 +78,9 @@ public:
     unsigned int visibleTicks = 0;  // none before the first resize
     unsigned int firstTick = 0;
 
+    CellEditing editing;
+
+    static constexpr int LastPage = std::numeric_limits<int>::max() / 10 * 10;
     static constexpr int HeaderHeight = 20;
     static constexpr int LabelWidth = 125;
     static constexpr int TickWidth = 6;
@@ -66,10 +88,6 @@ public:
 
 private:
     void timeStep();
-    void turnPage();
-
-    int leftOf(unsigned int index) const { return LabelWidth + TickWidth * int(index); }
-    qint64 cursorPlace() const;
 
     QColor borderColor() const;
     void paintScale(QPainter& painter) const;
