@@ -5196,6 +5196,101 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::AnimationEditor</name>
+    <message>
+        <source>Confirmation</source>
+        <translation>Bestätigung</translation>
+    </message>
+    <message>
+        <source>Identifier:</source>
+        <translation>Kennung:</translation>
+    </message>
+    <message>
+        <source>Duplicate animation</source>
+        <translation>Animation verdoppeln</translation>
+    </message>
+    <message>
+        <source>There is an animation of this name. Another identifier:</source>
+        <translation>Eine Animation mit diesem Namen gibt es schon. Andere Kennung:</translation>
+    </message>
+    <message>
+        <source>Insert animation</source>
+        <translation>Animation einfügen</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the animation?</source>
+        <translation>Möchten Sie die Animation wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>Do you want to define a new identifier?</source>
+        <translation>Möchten Sie eine neue Kennung festlegen?</translation>
+    </message>
+    <message>
+        <source>Add frame</source>
+        <translation>Einzelbild hinzufügen</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the frame?</source>
+        <translation>Möchten Sie das Einzelbild wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>Delete frame #%1</source>
+        <translation>Einzelbild #%1 löschen</translation>
+    </message>
+    <message>
+        <source>Offset of frame #%1</source>
+        <translation>Versatz von Einzelbild #%1</translation>
+    </message>
+    <message>
+        <source>Scale of frame #%1</source>
+        <translation>Größe von Einzelbild #%1</translation>
+    </message>
+    <message>
+        <source>Time of frame #%1</source>
+        <translation>Zeit von Einzelbild #%1</translation>
+    </message>
+    <message>
+        <source>Flip of frame #%1</source>
+        <translation>Spiegelung von Einzelbild #%1</translation>
+    </message>
+    <message>
+        <source>Angle of frame #%1</source>
+        <translation>Winkel von Einzelbild #%1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keines</translation>
+    </message>
+    <message>
+        <source>Animation: %1, Frame: %2</source>
+        <translation>Animation: %1, Einzelbild: %2</translation>
+    </message>
+    <message>
+        <source>Animation: none, Frame: none</source>
+        <translation>Animation: keine, Einzelbild: keines</translation>
+    </message>
+    <message>
+        <source>%1 FPS</source>
+        <translation>%1 Bilder/s</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>0 / 0</source>
+        <translation>0 / 0</translation>
+    </message>
+    <message>
+        <source>%1 / %2 - %3 ticks</source>
+        <translation>%1 / %2 – %3 Ticks</translation>
+    </message>
+    <message>
+        <source>Stage: %1, %2</source>
+        <translation>Bühne: %1, %2</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::AnimationEdits</name>
     <message>
         <source>Offset axis</source>
@@ -5292,6 +5387,25 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Change time of frames</source>
         <translation>Zeit von Einzelbildern ändern</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::AnimationTexts</name>
+    <message>
+        <source>Animation:</source>
+        <translation>Animation:</translation>
+    </message>
+    <message>
+        <source>Animation of the onion skin</source>
+        <translation>Animation der Zwiebelschalen</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <translation>Einzelbild:</translation>
+    </message>
+    <message>
+        <source>Frame of the onion skin</source>
+        <translation>Einzelbild der Zwiebelschalen</translation>
     </message>
 </context>
 <context>

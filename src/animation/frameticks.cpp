@@ -73,6 +73,20 @@ int FrameTicks::firstTick(int frame) const
     return m_starts.value(frame);
 }
 
+int FrameTicks::endTick(int frame) const
+{
+    if (frame < 0 || frame >= frameCount()) {
+        return 0;
+    }
+    const bool isEndless = m_total < 0 && frame >= m_shown.last();
+    return isEndless ? -1 : sumOf(m_starts[frame], m_delays[frame]);
+}
+
+bool FrameTicks::canLoop() const
+{
+    return m_total < 0 || firstTick(std::max(m_loopFrame, 0)) < m_total;
+}
+
 int FrameTicks::loopTick() const
 {
     const int tick = firstTick(m_loopFrame);

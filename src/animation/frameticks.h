@@ -35,6 +35,10 @@ public:
     /// frame begins with that. 0 outside of the list.
     int firstTick(int frame) const;
 
+    /// The ticks of all frames up to and with this one; -1 if one of them never ends. 0 outside of
+    /// the list.
+    int endTick(int frame) const;
+
     /// 0 outside of the list.
     int delay(int frame) const { return m_delays.value(frame); }
 
@@ -44,6 +48,9 @@ public:
     /// The tick that follows the last one of a pass: that of the loop frame; 0 without one, or if
     /// nothing is shown from there on.
     int loopTick() const;
+
+    /// True if a frame is shown from the loop frame on, the first one without a mark.
+    bool canLoop() const;
 
     /// -1 if none is marked.
     int loopFrame() const { return m_loopFrame; }

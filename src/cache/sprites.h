@@ -44,6 +44,10 @@ public:
 
     int currentIndex = -1;  ///< the current row
 
+signals:
+    /// The collection is about to die, and is still whole: whoever shows sprites lets go of them.
+    void closing();
+
 protected:
     explicit Sprites(StreamCache* cache = nullptr);
 };

@@ -23,18 +23,6 @@ int zoomCenter()
     return Zorv::Interface::instance()->option(QStringLiteral("zoom_center")).toInt();
 }
 
-/// Tells of the input around it.
-class Input
-{
-public:
-    explicit Input(StageRenderer* stage) : m_stage(stage) { emit stage->inputComes(); }
-    ~Input() { emit m_stage->inputTaken(); }
-
-private:
-    Q_DISABLE_COPY(Input)
-    StageRenderer* m_stage;
-};
-
 /// A zoom about the middle of the widget. By itself it moves nothing that hangs on the origin, and
 /// so nothing that stands on this stage.
 class Zooming
@@ -75,7 +63,6 @@ void StageRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
     if (isPlain && takeKey(key)) {
         return;
     }
-    const Input input(this);
     GraphicsRenderer::keyPressed(key, modifiers & ~Qt::KeypadModifier);
 }
 
@@ -114,11 +101,6 @@ void StageRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
 {
     m_pointer = pos;
     m_isHeld = m_isHeld || button == Qt::LeftButton;
-    const Input input(this);
-    if (button == Qt::LeftButton &&
-        (clickMode() != PositioningMode || hitTest(pos) != StageElement)) {
-        emit aboutToGrab();
-    }
     GraphicsRenderer::mousePressed(pos, button, modifiers);
 }
 
@@ -132,14 +114,12 @@ void StageRenderer::mouseReleased(QPoint pos, Qt::MouseButton button,
         return;
     }
     m_isHeld = false;
-    const Input input(this);
     GraphicsRenderer::mouseReleased(pos, button, modifiers);
 }
 
 void StageRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
 {
     m_pointer = pos;
-    const Input input(this);
     GraphicsRenderer::mouseMoved(pos, modifiers);
 }
 

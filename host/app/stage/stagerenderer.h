@@ -4,8 +4,7 @@
 
 namespace App {
 
-/// The stage of the window. Its input is told of before and after, so that nodes of the text are
-/// looked up in front of it, and not while the library edits; and it has keys of its own.
+/// The stage of the window, which has keys of its own.
 ///
 /// Keys: + - 0 zoom, Space plays and stops, Page up and Page down go from frame to frame, Escape
 /// goes back to positioning, and from there to the text.
@@ -35,12 +34,6 @@ public:
     void setPointer(QPoint place) { m_pointer = place; }
 
 signals:
-    void inputComes();
-    void inputTaken();
-
-    /// The left button is about to pick something up.
-    void aboutToGrab();
-
     void playKeyPressed();
     void frameKeyPressed(int step);
 

@@ -126,9 +126,6 @@ signals:
     /// What is here has just been read from its file, or written to it.
     void synchronized();
 
-    /// The collection is about to die, and its sprites are still there: whoever shows one lets go.
-    void closing();
-
 protected:
     /// All that a file holds, read and not yet taken over.
     struct Content

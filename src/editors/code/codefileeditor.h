@@ -37,7 +37,7 @@ public:
 
     /// The document to work on, null for none; not owned. An active editor shows it at
     /// once in place of the one before. A document that dies is let go of.
-    void setDocument(CodeDocument* document);
+    virtual void setDocument(CodeDocument* document);
     CodeDocument* document() const;
 
     /// The workspace of the constructor, which an editor that shows more than text need

@@ -265,11 +265,33 @@ signals:
     /// The origin or the zoom is another: by a person, at each step of a drag, or by a call.
     void viewChanged();
 
+    /// Mouse or keys are about to be taken, and have been: the stage works on nodes of the text in
+    /// between. Boxes are to be set anew in front of it, if the text has changed, and not before it
+    /// is over. Such pairs may stand inside of another one.
+    void inputComes();
+    void inputTaken();
+
+    /// The left button is about to pick something up, or to draw.
+    void aboutToGrab();
+
     /// For hosts; the library does not emit them.
     void changed();
     void changedAt(unsigned int index);
 
 protected:
+    /// An input, as long as it lives. For overrides that look at the stage before they hand the
+    /// input on.
+    class ZORV_EXPORT Input
+    {
+    public:
+        explicit Input(GraphicsRenderer* stage);
+        ~Input();
+
+    private:
+        Q_DISABLE_COPY(Input)
+        GraphicsRenderer* m_stage;
+    };
+
     /// Draws a sprite: translated to `base`, turned by `rotation` degrees about it, moved by
     /// `offset`, with that size, all in pixels of the widget.
     virtual void renderSprite(QPoint base, QPoint offset, QSize size, float rotation,

@@ -30,6 +30,16 @@ constexpr int ElementCount = sizeof s_cursors / sizeof *s_cursors;
 
 }  // namespace
 
+GraphicsRenderer::Input::Input(GraphicsRenderer* stage) : m_stage(stage)
+{
+    emit stage->inputComes();
+}
+
+GraphicsRenderer::Input::~Input()
+{
+    emit m_stage->inputTaken();
+}
+
 void GraphicsRendererPrivate::setCursor(const QCursor& cursor)
 {
     if (RenderWidget* widget = q->widget()) {
@@ -125,6 +135,7 @@ QCursor GraphicsRenderer::elementCursor(RenderElement element) const
 
 void GraphicsRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
 {
+    const Input input(this);
     if (key == Qt::Key_Control) {
         d->setCursor(Qt::OpenHandCursor);
     }

@@ -75,6 +75,7 @@ int unscaled(int length, double scale)
 void GraphicsRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
                                     Qt::KeyboardModifiers modifiers)
 {
+    const Input input(this);
     if (button != Qt::LeftButton) {
         if (!d->leftButtonDown) {
             d->element = d->hitTest(pos);
@@ -85,6 +86,10 @@ void GraphicsRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
         view->setFocus();
     }
     d->finishPress();  // one whose release was lost
+    if (!(modifiers & Qt::ControlModifier) &&
+        (d->clickMode != PositioningMode || d->hitTest(pos) != StageElement)) {
+        emit aboutToGrab();
+    }
     d->leftButtonDown = true;
     d->lastMousePos = pos;
     if (d->clickMode == DrawContactBoxMode) {
@@ -160,6 +165,7 @@ void GraphicsRendererPrivate::pressInCaptureMode(QPoint pos)
 
 void GraphicsRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
 {
+    const Input input(this);
     const RenderElement under = d->leftButtonDown ? d->element : d->hitTest(pos);
     const bool wouldPan = modifiers == Qt::ControlModifier;
     d->setCursor(wouldPan ? QCursor(Qt::OpenHandCursor) : elementCursor(under));
@@ -250,6 +256,7 @@ void GraphicsRendererPrivate::dragCross(QPoint delta, QPoint modelDelta)
 
 void GraphicsRenderer::mouseReleased(QPoint, Qt::MouseButton button, Qt::KeyboardModifiers)
 {
+    const Input input(this);
     const bool wasMoved = d->moved;
     if (d->element == StageElement) {
         d->setCursor(Qt::OpenHandCursor);

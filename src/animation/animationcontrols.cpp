@@ -1,0 +1,177 @@
+#include "animation/animationeditor_p.h"
+#include "animation/animationtexts_p.h"
+#include "core/interface.h"
+#include "editors/framework/toolbuttoncontrol.h"
+#include "editors/framework/trwidgetcontrol.h"
+#include "text/zorvtranslator.h"
+
+#include <QAbstractSpinBox>
+#include <QAction>
+#include <QComboBox>
+
+namespace Zorv {
+
+namespace {
+
+const char* const areas[] = {"animations", nullptr};
+
+enum Kind { Action, CheckAction, Slider, Label, Spin, Real, Combo, Check };
+
+constexpr unsigned NoText = ~0U;
+
+const char* const always = nullptr;
+const char* const animation = SIGNAL(enabled(bool));
+const char* const frame = SIGNAL(frameEnabled(bool));
+const char* const frameNC = SIGNAL(frameEnabledNC(bool));
+const char* const frameExtra = SIGNAL(frameEnabledExtra(bool));
+
+struct Tool
+{
+    const char* name;
+    Kind kind;
+    unsigned textId;
+    const char* enableSignal;
+    const char* slot;
+    const char* setSignal;
+};
+
+// clang-format off
+const Tool tools[] = {
+    {"anim_editcode",            CheckAction, 46, always,    SLOT(editCode(bool)),        nullptr},
+    {"anim_add",                 Action,      47, always,    SLOT(add()),                 nullptr},
+    {"anim_delete",              Action,      48, animation, SLOT(del()),                 nullptr},
+    {"anim_duplicate",           Action,      49, animation, SLOT(duplicate()),           nullptr},
+    {"anim_play",                CheckAction, 52, animation, SLOT(playChanged(bool)),     nullptr},
+    {"anim_stop",                CheckAction, 53, animation, SLOT(stopChanged(bool)),     nullptr},
+    {"anim_frame_add",           Action,      58, animation, SLOT(frameAdd()),            nullptr},
+    {"anim_frame_delete",        Action,      59, frame,     SLOT(frameDel()),            nullptr},
+    {"anim_box_add_attack",      CheckAction, 60, frameNC,   SLOT(boxAddAChanged(bool)),  nullptr},
+    {"anim_box_add_collision",   CheckAction, 61, frameNC,   SLOT(boxAddCChanged(bool)),  nullptr},
+    {"anim_sel",                 Slider, AnimationTexts::Animation, always, SLOT(selPosChanged(int)), SIGNAL(setSelPos(int))},
+    {"anim_sel_lb",              Label,   NoText, always,    nullptr,                     SIGNAL(setPosText(QString))},
+    {"anim_frame_sel",           Slider,      75, always,    SLOT(frameSelPosChanged(int)), SIGNAL(setFrameSelPos(int))},
+    {"anim_frame_sel_lb",        Label,   NoText, always,    nullptr,                     SIGNAL(setFramePosText(QString))},
+    {"anim_frame_xaxis",         Spin,        76, frame,     SLOT(frameXChanged(int)),    SIGNAL(setFrameX(int))},
+    {"anim_frame_yaxis",         Spin,        77, frame,     SLOT(frameYChanged(int)),    SIGNAL(setFrameY(int))},
+    {"anim_frame_flip",          Combo,       78, frame,     SLOT(frameFlipChanged(int)), SIGNAL(setFrameFlip(int))},
+    {"anim_frame_xscale",        Real,        83, frameExtra, SLOT(frameScaleXChanged(double)), SIGNAL(setFrameScaleX(double))},
+    {"anim_frame_yscale",        Real,        84, frameExtra, SLOT(frameScaleYChanged(double)), SIGNAL(setFrameScaleY(double))},
+    {"anim_frame_angle",         Real,        85, frameExtra, SLOT(frameAngleChanged(double)), SIGNAL(setFrameAngle(double))},
+    {"anim_pos_left",            Action,      54, frame,     SLOT(axisLeft()),            nullptr},
+    {"anim_pos_up",              Action,      55, frame,     SLOT(axisUp()),              nullptr},
+    {"anim_pos_right",           Action,      56, frame,     SLOT(axisRight()),           nullptr},
+    {"anim_pos_down",            Action,      57, frame,     SLOT(axisDown()),            nullptr},
+    {"anim_frame_time",          Spin,        86, frame,     SLOT(frameTimeChanged(int)), SIGNAL(setFrameTime(int))},
+    {"anim_onion_skin",          Check,       91, frameNC,   SLOT(onionSkinChanged(bool)), SIGNAL(setOnionSkin(bool))},
+    {"anim_onion_sel",           Slider, AnimationTexts::OnionAnimation, always, SLOT(onionSelPosChanged(int)), SIGNAL(setOnionSelPos(int))},
+    {"anim_onion_framesel",      Slider, AnimationTexts::OnionFrame, always, SLOT(onionFrameSelPosChanged(int)), SIGNAL(setOnionFrameSelPos(int))},
+    {"anim_onion_lb",            Label,   NoText, always,    nullptr,                     SIGNAL(setOnionText(QString))},
+    {"anim_prev_anim",           Action,      87, animation, SLOT(prevAnim()),            nullptr},
+    {"anim_next_anim",           Action,      88, animation, SLOT(nextAnim()),            nullptr},
+    {"anim_prev_frame",          Action,      89, frame,     SLOT(prevFrame()),           nullptr},
+    {"anim_next_frame",          Action,      90, frame,     SLOT(nextFrame()),           nullptr},
+};
+// clang-format on
+
+/// The entries of the list of flips.
+constexpr unsigned flipTexts[] = {79, 80, 81, 82};
+
+WidgetControl::Kind widgetKind(Kind kind)
+{
+    switch (kind) {
+    case Slider:
+        return WidgetControl::Slider;
+    case Label:
+        return WidgetControl::Label;
+    case Spin:
+        return WidgetControl::SpinEdit;
+    case Real:
+        return WidgetControl::FloatEdit;
+    case Combo:
+        return WidgetControl::ComboBox;
+    default:
+        return WidgetControl::CheckBox;
+    }
+}
+
+bool isOwnText(const Tool& tool)
+{
+    return tool.kind == Slider && tool.textId < AnimationTexts::Count;
+}
+
+QObject* publishWidget(Interface* host, const Tool& tool, QObject* receiver)
+{
+    const QString name = QString::fromLatin1(tool.name);
+    const WidgetControl::Kind kind = widgetKind(tool.kind);
+    if (tool.textId == NoText) {
+        WidgetControl control(kind, 0, receiver, tool.slot, tool.setSignal, tool.enableSignal);
+        control.setAreas(areas);
+        return host->addControl(name, control);
+    }
+    Translator* texts = ZorvTranslator::instance();
+    if (isOwnText(tool)) {
+        texts = AnimationTexts::instance();
+    }
+    trWidgetControl control(kind, 0, texts, tool.textId, receiver, tool.slot, tool.setSignal,
+                            tool.enableSignal);
+    control.setAreas(areas);
+    return host->addControl(name, control);
+}
+
+}  // namespace
+
+/// A host without a window makes no action, and what is kept in it is needed all the same.
+void AnimationEditorPrivate::publish()
+{
+    for (const Tool& tool : tools) {
+        const QString name = QString::fromLatin1(tool.name);
+        if (tool.kind != Action && tool.kind != CheckAction) {
+            widgets.insert(name, qobject_cast<QWidget*>(publishWidget(host, tool, this)));
+            continue;
+        }
+        QAction* made = host->createAction(areas, name, ZorvTranslator::instance(), tool.textId,
+                                           nullptr, this, tool.slot, tool.enableSignal, nullptr);
+        const bool isHosts = made;
+        made = made ? made : new QAction(this);
+        made->setCheckable(tool.kind == CheckAction);
+        if (isHosts) {
+            host->addControl(name, ToolButtonControl(made));
+        }
+        actions.insert(name, made);
+    }
+    setChecked("anim_editcode", true);
+    setChecked("anim_stop", true);
+    for (const QPointer<QWidget>& each : qAsConst(widgets)) {
+        // What is typed is one edit, when it is entered.
+        if (auto* field = qobject_cast<QAbstractSpinBox*>(each)) {
+            field->setProperty("keyboardTracking", false);
+        }
+    }
+}
+
+void AnimationEditorPrivate::retranslate()
+{
+    const Guard guard(&updating);
+    if (auto* flips = widget<QComboBox>("anim_frame_flip")) {
+        const int row = flips->currentIndex();
+        flips->clear();
+        for (const unsigned id : flipTexts) {
+            flips->addItem(ZorvTranslator::instance()->trText(id));
+        }
+        flips->setCurrentIndex(row);
+    }
+}
+
+QAction* AnimationEditorPrivate::action(const char* name) const
+{
+    return actions.value(QLatin1String(name));
+}
+
+void AnimationEditorPrivate::setChecked(const char* name, bool isChecked)
+{
+    if (QAction* found = action(name)) {
+        found->setChecked(isChecked);
+    }
+}
+
+}  // namespace Zorv

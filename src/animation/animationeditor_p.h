@@ -1,0 +1,257 @@
+#pragma once
+
+#include "animation/animationeditor.h"
+#include "animation/followedanimation.h"
+#include "animation/timeline/timeline.h"
+#include "cache/spriteprovider.h"
+
+#include <QElapsedTimer>
+#include <QHash>
+#include <QPointer>
+
+class QAction;
+class QWidget;
+
+namespace Zorv {
+
+class Interface;
+class TimeLineWidget;
+
+/// Counts up as long as it lives: while it does, a loop of signals is broken.
+class Guard
+{
+public:
+    explicit Guard(int* counter) : m_counter(counter) { ++*m_counter; }
+    ~Guard() { --*m_counter; }
+
+private:
+    Q_DISABLE_COPY(Guard)
+    int* m_counter;
+};
+
+/// The state of an `AnimationEditor`, and the slots of its tools, which the host finds by name.
+///
+/// What is shown is read from the text in one way alone, `refresh()`: at once behind an act of the
+/// person, soon behind any other edit, and not while the stage takes an input, which works on nodes
+/// of its own. Each slot of a tool begins with `updating`, for tools that are filled must not
+/// write.
+class AnimationEditorPrivate : public SpriteProvider, public TimeLine
+{
+    Q_OBJECT
+
+public:
+    /// Which tools are of use.
+    struct Enabled
+    {
+        bool animation = false;
+        bool frame = false;
+        bool frameNC = false;
+        bool frameExtra = false;
+    };
+
+    AnimationEditorPrivate(AnimationEditor* editor, GraphicsWorkspace* stage,
+                           GraphicsRenderer* renderer);
+    ~AnimationEditorPrivate() override;
+
+    // The sprite of the frame, for the stage.
+    unsigned count() const override;
+    Sprite* at(unsigned index) const override;
+    QVariant property(unsigned index, unsigned key) const override;
+
+    // The row of the animation on the strip.
+    QString name() const override;
+    bool markerAtTick(unsigned int tick, Marker& marker) const override;
+
+    // animationcontrols.cpp
+    void publish();
+    void retranslate();
+    QAction* action(const char* name) const;
+    void setChecked(const char* name, bool isChecked);
+    template <class Widget>
+    Widget* widget(const char* name) const
+    {
+        return qobject_cast<Widget*>(widgets.value(QLatin1String(name)));
+    }
+
+    // animationeditor.cpp
+    void bind(CodeDocument* document);
+    void attach();
+    void detach();
+    void followSprites();
+    void dropSprites();
+    void takeSprite();
+
+    // animationeditorselection.cpp
+    AnimationCode* currentAnimation() const { return followed.animation(); }
+    FrameCode* currentFrame() const { return followed.frame(frameIndex()); }
+    int animationIndex() const;
+    int animationCount() const;
+    int frameIndex() const;
+    int frameCount() const { return followed.frameCount(); }
+    void textChanged();
+    void refreshSoon();
+    void refreshIfStale();
+    void refresh();
+    void findAnimation();
+    void showAnimation(int index);
+    void showFrame(int index);
+    void fillAnimation();
+    void fillFrame();
+    void updateRange();
+    void updateFrameRange();
+    void updateEnabled();
+    void tellEnabled(const Enabled& now);
+    void setTick(int frame);
+    void inputComes();
+    void inputTaken();
+
+    /// The text, told by a person's act, of the frame that is shown.
+    QString frameTitle(const QString& text) const;
+
+    /// Brings the editor forward, if it is not.
+    void activatePanel();
+
+    // animationeditorfields.cpp
+    void applyRanges();
+    void fillFields(const FrameCode* frame);
+
+    /// What was typed and not yet entered goes into the text.
+    void commitFields();
+    template <class Value, class Setter>
+    void write(const QString& title, Value (FrameCode::*get)() const, Setter set, Value value);
+    void writeOffset(QPoint offset);
+    void writeScale(QPointF scale);
+    void moveFrame(QPoint step);
+
+    // animationeditorlink.cpp
+    bool isLinked() const;
+    bool isTextShown() const;
+    bool updateCurrLine();
+    void followLine(int line);
+    AnimationCode* animationOfLine(int line) const;
+    int frameOfLine(const AnimationCode* animation, int line) const;
+    bool isCursorInFrame() const;
+
+    // animationeditorplayback.cpp
+    bool isPlaying() const;
+    int next(int index) const;
+    void stop();
+    void playTick(unsigned tick);
+    void setPlayChecks(bool isOn);
+    void showSpeed(unsigned tick);
+
+    // animationeditorstage.cpp
+    void setDrawing(ContactBoxCode::BoxType type, bool isOn);
+    void leaveDrawing();
+    ContactBoxCode* appendContactBox(ContactBoxCode::BoxType type, QRect rect);
+    void showPlace(QPoint place);
+
+    // animationeditoronion.cpp
+    void updateOnionRange();
+    void fillOnion();
+    void applyOnion();
+
+    AnimationEditor* const editor;
+    GraphicsRenderer* const renderer;
+    GraphicsWorkspace* const stage;
+    Interface* const host;
+    QPointer<TimeLineWidget> timeLine;
+    QPointer<Animations> animations;
+    QPointer<Sprites> spriteList;  // whose signals are heard
+    FollowedAnimation followed;
+    QTextCursor frameLine;  // where the shown frame stands
+    Sprite* currentSprite = nullptr;
+    QPointer<QWidget> codeDialog;
+    GraphicsRenderer::ItemType spriteItemType = GraphicsRenderer::SpriteType;
+    bool hasExtra = true;
+
+    struct Onion
+    {
+        bool enabled = false;
+        int animationIndex = 0;
+        int frameIndex = 0;
+    } onion;
+
+    int nextIndex = -1;  // the frame that follows in play
+    int loopIndex = -1;
+    int frameTick = 0;     // since the shown frame began
+    int updating = 0;      // tools are filled, or write
+    int playing = 0;       // text cursor and tick stay where they are
+    int inputs = 0;        // the stage is at work on nodes
+    int cursorMoves = 0;   // of the text cursor, by the editor
+    int revision = 0;      // of the text in front of an input
+    int shownCount = -1;   // of animations, as the tools know it
+    bool isStale = false;  // the text has changed since it was shown
+    bool isRefreshPending = false;
+    bool isCursorPending = false;  // moved by the person during play
+    QElapsedTimer sinceTick;
+
+    QHash<QString, QPointer<QAction>> actions;
+    QHash<QString, QPointer<QWidget>> widgets;
+    QPointer<QAction> editorAction;
+
+    Enabled isEnabled;
+
+public slots:
+    void editCode(bool isOn);
+    void selPosChanged(int index);
+    void frameSelPosChanged(int index);
+    void prevAnim();
+    void nextAnim();
+    void prevFrame();
+    void nextFrame();
+
+    void frameXChanged(int x);
+    void frameYChanged(int y);
+    void frameTimeChanged(int ticks);
+    void frameFlipChanged(int row);
+    void frameScaleXChanged(double factor);
+    void frameScaleYChanged(double factor);
+    void frameAngleChanged(double degrees);
+    void axisLeft();
+    void axisUp();
+    void axisRight();
+    void axisDown();
+
+    void playChanged(bool isChecked);
+    void stopChanged(bool isChecked);
+    void playAnimation(unsigned int tick);
+
+    void add();
+    void del();
+    void duplicate();
+    void frameAdd();
+    void frameDel();
+
+    void boxAddAChanged(bool isOn);
+    void boxAddCChanged(bool isOn);
+
+    void onionSkinChanged(bool isOn);
+    void onionSelPosChanged(int index);
+    void onionFrameSelPosChanged(int index);
+
+signals:
+    void enabled(bool isEnabled);
+    void frameEnabled(bool isEnabled);
+    void frameEnabledNC(bool isEnabled);
+    void frameEnabledExtra(bool isEnabled);
+
+    // What the tools show.
+    void setSelPos(int index);
+    void setPosText(const QString& text);
+    void setFrameSelPos(int index);
+    void setFramePosText(const QString& text);
+    void setFrameX(int x);
+    void setFrameY(int y);
+    void setFrameFlip(int row);
+    void setFrameScaleX(double factor);
+    void setFrameScaleY(double factor);
+    void setFrameAngle(double degrees);
+    void setFrameTime(int ticks);
+    void setOnionSkin(bool isOn);
+    void setOnionSelPos(int index);
+    void setOnionFrameSelPos(int index);
+    void setOnionText(const QString& text);
+};
+
+}  // namespace Zorv

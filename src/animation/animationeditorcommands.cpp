@@ -1,0 +1,175 @@
+#include "animation/animationeditor_p.h"
+#include "code/codedoc/animationcode.h"
+#include "code/codedoc/animations.h"
+#include "code/codedoc/framecode.h"
+#include "core/dialogs/dialogs.h"
+#include "core/interface.h"
+
+#include <QTextBlock>
+
+namespace Zorv {
+
+namespace {
+
+constexpr int NewFrameTime = 10;  // ticks
+
+Dialogs::Button ask(const QString& text, Dialogs::Button defaultButton)
+{
+    return Dialogs::instance()->question(AnimationEditor::tr("Confirmation"), text,
+                                         Dialogs::Yes | Dialogs::No, defaultButton);
+}
+
+/// As the person wants to be asked.
+bool mayDelete(const Interface* host, const QString& text)
+{
+    return !host->option(QStringLiteral("confirm_delete")).toBool() ||
+           ask(text, Dialogs::Yes) == Dialogs::Yes;
+}
+
+/// What is written at the end of the text begins a line of its own.
+void endLastLine(CodeDocument* document)
+{
+    if (document->lastBlock().length() > 1) {
+        document->insert(QStringLiteral("\n"));
+    }
+}
+
+void insertText(Animations* list, int position, const QString& text)
+{
+    CodeDocument* document = list->document();
+    const QString lines = text.endsWith(QLatin1Char('\n')) ? text : text + QLatin1Char('\n');
+    if (const AnimationCode* behind = list->at(unsigned(position))) {
+        document->insertBefore(behind, lines, false);
+    } else {
+        endLastLine(document);
+        document->insert(lines);
+    }
+}
+
+/// Asks again for one that stands there already.
+std::optional<QString> askIdentifier(const Animations* list, const QString& first)
+{
+    std::optional<QString> answer = first;
+    QString label = AnimationEditor::tr("Identifier:");
+    do {
+        answer = Dialogs::instance()->askText(AnimationEditor::tr("Duplicate animation"), label,
+                                              *answer);
+        label = AnimationEditor::tr("There is an animation of this name. Another identifier:");
+    } while (answer && !answer->isEmpty() && list->find(0, *answer) >= 0);
+    return answer;
+}
+
+}  // namespace
+
+void AnimationEditorPrivate::add()
+{
+    commitFields();
+    stop();
+    activatePanel();
+    QString identifier;
+    QString text;
+    int position = animationIndex() + 1;
+    if (!animations || !editor->newAnimationData(identifier, text, position) ||
+        identifier.isEmpty() || !animations) {
+        return;
+    }
+    const int count = animationCount();
+    const int place = position < 0 || position > count ? count : position;
+    animations->beginChange(AnimationEditor::tr("Insert animation"));
+    insertText(animations, place,
+               text.isEmpty() ? animations->animationTemplate().arg(identifier) : text);
+    animations->endChange();
+    showAnimation(place);
+    editor->animationCodeChanged(true, false);
+}
+
+void AnimationEditorPrivate::del()
+{
+    commitFields();
+    stop();
+    activatePanel();
+    if (!currentAnimation() ||
+        !mayDelete(host, AnimationEditor::tr("Do you really want to delete the animation?")) ||
+        !currentAnimation()) {
+        return;
+    }
+    animations->remove(unsigned(animationIndex()));
+    editor->animationCodeChanged(true, false);
+}
+
+/// Without a name of its own the copy keeps that of the first.
+void AnimationEditorPrivate::duplicate()
+{
+    commitFields();
+    stop();
+    activatePanel();
+    if (!currentAnimation()) {
+        return;
+    }
+    std::optional<QString> identifier = QString();
+    if (ask(AnimationEditor::tr("Do you want to define a new identifier?"), Dialogs::Yes) ==
+        Dialogs::Yes) {
+        identifier = askIdentifier(
+            animations, currentAnimation()->property(QStringLiteral("Identifier")).toString());
+    }
+    if (!identifier || !currentAnimation()) {
+        return;
+    }
+    const int index = animationIndex();
+    const int count = animationCount();
+    animations->beginChange(AnimationEditor::tr("Duplicate animation"));
+    animations->duplicate(unsigned(index), *identifier);
+    animations->endChange();
+    if (animationCount() > count) {
+        showAnimation(index + 1);
+    }
+    editor->animationCodeChanged(true, false);
+}
+
+void AnimationEditorPrivate::frameAdd()
+{
+    commitFields();
+    stop();
+    activatePanel();
+    if (!currentAnimation()) {
+        return;
+    }
+    const int place = frameIndex() + 1;
+    {
+        const Guard guard(&updating);
+        animations->beginChange(AnimationEditor::tr("Add frame"));
+        FrameCode* made = currentAnimation()->insertFrame(unsigned(place));
+        if (made && made->delay() != NewFrameTime) {
+            made->setDelay(NewFrameTime);
+        }
+        animations->endChange();
+    }
+    showFrame(place);
+    editor->animationCodeChanged(true, false);
+}
+
+void AnimationEditorPrivate::frameDel()
+{
+    commitFields();
+    stop();
+    activatePanel();
+    if (!currentFrame() ||
+        !mayDelete(host, AnimationEditor::tr("Do you really want to delete the frame?")) ||
+        !currentFrame()) {
+        return;
+    }
+    const int index = frameIndex();
+    {
+        const Guard guard(&updating);
+        animations->beginChange(frameTitle(AnimationEditor::tr("Delete frame #%1")));
+        currentAnimation()->removeFrame(unsigned(index));
+        animations->endChange();
+    }
+    if (AnimationCode* shown = currentAnimation()) {
+        shown->setCurrentFrame(qMax(qMin(index, frameCount() - 1), 0));
+    }
+    frameLine = {};
+    editor->animationCodeChanged(true, false);
+}
+
+}  // namespace Zorv

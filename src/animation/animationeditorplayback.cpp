@@ -1,0 +1,165 @@
+#include "animation/animationeditor_p.h"
+#include "animation/timeline/timelinewidget.h"
+#include "code/codedoc/animationcode.h"
+#include "code/codedoc/framecode.h"
+#include "core/interface.h"
+#include "editors/code/codeeditor.h"
+#include "editors/code/codeworkspace.h"
+
+#include <QAction>
+
+namespace Zorv {
+
+namespace {
+
+constexpr unsigned TicksPerSecond = 60;
+constexpr int SpeedField = 4;
+
+// Behind a menu the clock stands still. It would make up for that by running fast.
+constexpr qint64 LongestStall = 250;  // milliseconds
+
+}  // namespace
+
+bool AnimationEditorPrivate::isPlaying() const
+{
+    return timeLine && timeLine->isPlaying() && editor->isActive();
+}
+
+/// The frame behind one, by way of the loop point; -1 for none.
+int AnimationEditorPrivate::next(int index) const
+{
+    const int count = frameCount();
+    if (index + 1 < count) {
+        return index + 1;
+    }
+    const int loop = qMax(followed.ticks().loopFrame(), 0);
+    return loop < count ? loop : -1;
+}
+
+void AnimationEditorPrivate::setPlayChecks(bool isOn)
+{
+    const Guard guard(&updating);
+    setChecked("anim_play", isOn);
+    setChecked("anim_stop", !isOn);
+}
+
+void AnimationEditorPrivate::playChanged(bool)
+{
+    if (updating > 0 || isPlaying()) {
+        setPlayChecks(isPlaying());
+        return;
+    }
+    commitFields();
+    activatePanel();
+    refreshIfStale();
+    if (!timeLine || !currentFrame()) {
+        setPlayChecks(false);
+        return;
+    }
+    setPlayChecks(true);
+    {
+        const Guard guard(&playing);
+        timeLine->setCurrentTick(0);
+        showFrame(0);
+    }
+    frameTick = 0;
+    isCursorPending = false;
+    sinceTick.start();
+    timeLine->play();
+    updateEnabled();
+}
+
+void AnimationEditorPrivate::stop()
+{
+    if (isPlaying()) {
+        stopChanged(true);
+    }
+}
+
+void AnimationEditorPrivate::stopChanged(bool)
+{
+    if (updating > 0) {
+        return;
+    }
+    setPlayChecks(false);
+    frameTick = 0;
+    nextIndex = next(frameIndex());
+    if (timeLine) {
+        timeLine->stop();
+    }
+    updateEnabled();
+    editor->playStopped();
+    refresh();
+    if (isCursorPending && isLinked() && isTextShown()) {
+        followLine(editor->codeWorkspace()->editor()->textCursor().blockNumber());
+    } else {
+        updateCurrLine();
+    }
+    isCursorPending = false;
+}
+
+void AnimationEditorPrivate::playAnimation(unsigned int tick)
+{
+    if (playing > 0 || !editor->isActive() || !currentAnimation()) {
+        return;
+    }
+    if (isPlaying()) {
+        playTick(tick);
+        return;
+    }
+    commitFields();
+    const Guard guard(&playing);
+    const FrameTicks& ticks = followed.ticks();
+    const int index = ticks.frameAt(tick);
+    frameTick = int(tick) - ticks.firstTick(index);
+    showFrame(index);
+    if (frameTick > 0) {
+        editor->interpolateFrame(followed.frame(nextIndex), frameTick);
+    }
+}
+
+/// Which frame is shown follows from the tick alone. Behind the last one the clock is set back to
+/// the loop point, and tells that tick in turn.
+void AnimationEditorPrivate::playTick(unsigned tick)
+{
+    if (sinceTick.restart() > LongestStall) {
+        timeLine->play();  // tells the tick once more
+        return;
+    }
+    const FrameTicks& ticks = followed.ticks();
+    const int total = ticks.total();
+    if (total >= 0 && tick >= unsigned(total)) {
+        if (!ticks.canLoop()) {
+            stop();
+            return;
+        }
+        timeLine->setCurrentTick(unsigned(ticks.loopTick()));
+        return;
+    }
+    const int index = ticks.frameAt(tick);
+    frameTick = int(tick - unsigned(ticks.firstTick(index)));
+    if (index != frameIndex() || isStale) {
+        const Guard guard(&playing);
+        isStale = false;
+        showFrame(index);
+    }
+    if (ticks.delay(index) < 0) {
+        stop();
+        return;
+    }
+    if (FrameCode* following = followed.frame(nextIndex)) {
+        editor->interpolateFrame(following, frameTick);
+    }
+    ++frameTick;
+    showSpeed(tick);
+}
+
+void AnimationEditorPrivate::showSpeed(unsigned tick)
+{
+    if (tick % TicksPerSecond == 0) {
+        host->showStatus(SpeedField, AnimationEditor::tr("%1 FPS").arg(
+                                         QString::number(double(timeLine->currentFPS()))));
+    }
+}
+
+}  // namespace Zorv

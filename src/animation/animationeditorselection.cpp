@@ -1,0 +1,348 @@
+#include "animation/animationeditor_p.h"
+#include "animation/timeline/timelinewidget.h"
+#include "code/codedoc/animationcode.h"
+#include "code/codedoc/animations.h"
+#include "code/codedoc/framecode.h"
+#include "core/interface.h"
+#include "editors/code/codeeditor.h"
+#include "editors/code/codeworkspace.h"
+#include "graphics/graphicwork/graphicsworkspace.h"
+
+#include <QAbstractSlider>
+#include <QTextBlock>
+#include <QTimer>
+
+namespace Zorv {
+
+namespace {
+
+/// The slider takes no other value than one from 0 up.
+void setRange(QAbstractSlider* slider, int count)
+{
+    if (slider) {
+        slider->setRange(0, qMax(count - 1, 0));
+    }
+}
+
+}  // namespace
+
+int AnimationEditorPrivate::animationCount() const
+{
+    return animations ? animations->count() : 0;
+}
+
+int AnimationEditorPrivate::animationIndex() const
+{
+    const AnimationCode* shown = currentAnimation();
+    if (!animations || !shown) {
+        return -1;
+    }
+    const int index = animations->currentIndex();
+    return animations->at(unsigned(index)) == shown ? index : animations->indexOf(shown);
+}
+
+/// The frame in the line that the shown one had, wherever that line is now; else the place.
+int AnimationEditorPrivate::frameIndex() const
+{
+    const AnimationCode* shown = currentAnimation();
+    const int count = shown ? shown->frameCount() : 0;
+    if (count == 0) {
+        return -1;
+    }
+    const CodeNode* node = followed.document()->nodeInBlock(frameLine.block());
+    if (node && node->type() == CodeNode::Frame && node->parentCode() == shown) {
+        return static_cast<const FrameCode*>(node)->index();
+    }
+    return qBound(0, shown->currentFrame(), count - 1);
+}
+
+/// Qt is still busy with the edit.
+void AnimationEditorPrivate::textChanged()
+{
+    isStale = true;
+    refreshSoon();
+}
+
+void AnimationEditorPrivate::refreshSoon()
+{
+    isStale = true;
+    if (!isRefreshPending) {
+        isRefreshPending = true;
+        QTimer::singleShot(0, this, [this] {
+            isRefreshPending = false;
+            refreshIfStale();
+        });
+    }
+}
+
+void AnimationEditorPrivate::refreshIfStale()
+{
+    if (isStale) {
+        refresh();
+    }
+}
+
+/// What the text says now: of the same animation and the same frame, if they are still there.
+void AnimationEditorPrivate::refresh()
+{
+    const CodeDocument* document = editor->document();
+    isStale = true;
+    if (inputs > 0 || (document && document->isCodeBeingChanged())) {
+        return;
+    }
+    findAnimation();
+    if (!editor->isActive()) {
+        return;
+    }
+    isStale = false;
+    if (animationCount() != shownCount) {
+        editor->animationCountChanged();
+    }
+    fillAnimation();
+    const QWidget* text = editor->codeWorkspace()->editor();
+    if (isLinked() && !isPlaying() && text->hasFocus() && isTextShown()) {
+        followLine(editor->codeWorkspace()->editor()->textCursor().blockNumber());
+    }
+    fillFrame();
+    updateOnionRange();
+}
+
+/// The list keeps the place of one that has gone.
+void AnimationEditorPrivate::findAnimation()
+{
+    if (!animations) {
+        followed.setAnimation(nullptr);
+        return;
+    }
+    AnimationCode* found = currentAnimation();
+    if (found) {
+        const int index = animationIndex();
+        if (index != animations->currentIndex()) {
+            animations->setCurrent(index);
+        }
+        return;
+    }
+    const int index = qBound(0, animations->currentIndex(), qMax(animationCount() - 1, 0));
+    found = animations->at(unsigned(index));
+    if (found) {
+        animations->setCurrent(index);
+    }
+    followed.setAnimation(found);
+    frameLine = {};
+}
+
+void AnimationEditorPrivate::activatePanel()
+{
+    if (!editor->isActive()) {
+        host->activateEditor(editor);
+    }
+}
+
+void AnimationEditorPrivate::selPosChanged(int index)
+{
+    if (updating > 0) {
+        return;
+    }
+    activatePanel();
+    commitFields();
+    stop();
+    showAnimation(index);
+    updateCurrLine();
+}
+
+void AnimationEditorPrivate::frameSelPosChanged(int index)
+{
+    if (updating > 0 || !currentAnimation()) {
+        return;
+    }
+    commitFields();
+    showFrame(index);
+    updateCurrLine();
+}
+
+/// With the frame of it that was shown last; an index out of range shows none.
+void AnimationEditorPrivate::showAnimation(int index)
+{
+    AnimationCode* chosen = animations ? animations->at(unsigned(index)) : nullptr;
+    if (animations) {
+        animations->setCurrent(index);
+    }
+    followed.setAnimation(chosen);
+    frameLine = {};
+    isStale = false;
+    fillAnimation();
+    showFrame(frameIndex());
+    editor->animationChanged(currentAnimation());
+}
+
+void AnimationEditorPrivate::showFrame(int index)
+{
+    AnimationCode* shown = currentAnimation();
+    const FrameCode* chosen = followed.frame(index);
+    if (shown && chosen) {
+        shown->setCurrentFrame(index);
+        frameLine = QTextCursor(chosen->block());
+    }
+    fillFrame();
+}
+
+void AnimationEditorPrivate::fillAnimation()
+{
+    const Guard guard(&updating);
+    const AnimationCode* shown = currentAnimation();
+    const int index = animationIndex();
+    emit setSelPos(qMax(index, 0));
+    emit setPosText(shown ? AnimationEditor::tr("%1 / %2").arg(QString::number(index + 1),
+                                                               QString::number(animationCount()))
+                          : AnimationEditor::tr("0 / 0"));
+    updateFrameRange();
+    if (timeLine) {
+        timeLine->setVisible(shown);
+    }
+}
+
+/// All that shows of the frame.
+void AnimationEditorPrivate::fillFrame()
+{
+    const int index = frameIndex();
+    FrameCode* shown = followed.frame(index);
+    if (shown) {
+        currentAnimation()->setCurrentFrame(index);
+        frameLine = QTextCursor(shown->block());
+    }
+    {
+        const Guard guard(&updating);
+        emit setFrameSelPos(qMax(index, 0));
+        fillFields(shown);
+    }
+    const FrameTicks& ticks = followed.ticks();
+    emit setFramePosText(shown ? AnimationEditor::tr("%1 / %2 - %3 ticks")
+                                     .arg(QString::number(index + 1), QString::number(frameCount()),
+                                          QString::number(ticks.endTick(index)))
+                               : AnimationEditor::tr("0 / 0"));
+    loopIndex = ticks.loopFrame();
+    nextIndex = next(index);
+    updateEnabled();
+    editor->frameChanged(shown);
+    if (!shown) {
+        renderer->setContactBoxes(ContactBoxCode::Attack, nullptr);
+        renderer->setContactBoxes(ContactBoxCode::Collision, nullptr);
+    }
+    setTick(index);
+    takeSprite();
+    renderer->Renderer::update();
+    if (timeLine) {
+        timeLine->update();
+    }
+    emit editor->shownChanged();
+}
+
+/// A tick in the middle of the frame stays.
+void AnimationEditorPrivate::setTick(int frame)
+{
+    if (!timeLine || playing > 0 || isPlaying()) {
+        return;
+    }
+    const FrameTicks& ticks = followed.ticks();
+    if (frame < 0 || ticks.frameAt(timeLine->currentTick()) != frame) {
+        const Guard guard(&playing);
+        frameTick = 0;
+        timeLine->setCurrentTick(frame < 0 ? 0 : unsigned(ticks.firstTick(frame)));
+    }
+}
+
+void AnimationEditorPrivate::updateRange()
+{
+    const Guard guard(&updating);
+    shownCount = animationCount();
+    setRange(widget<QAbstractSlider>("anim_sel"), shownCount);
+    updateOnionRange();
+}
+
+void AnimationEditorPrivate::updateFrameRange()
+{
+    const Guard guard(&updating);
+    setRange(widget<QAbstractSlider>("anim_frame_sel"), frameCount());
+}
+
+void AnimationEditorPrivate::updateEnabled()
+{
+    const bool hasFrame = !isPlaying() && frameIndex() >= 0;
+    const bool isCodeOpen = codeDialog && codeDialog->isVisible();
+    const Enabled now{currentAnimation() != nullptr, hasFrame, hasFrame && !isCodeOpen,
+                      hasFrame && hasExtra};
+    if (now.animation != isEnabled.animation || now.frame != isEnabled.frame ||
+        now.frameNC != isEnabled.frameNC || now.frameExtra != isEnabled.frameExtra) {
+        tellEnabled(now);
+    }
+}
+
+void AnimationEditorPrivate::tellEnabled(const Enabled& now)
+{
+    isEnabled = now;
+    emit enabled(now.animation);
+    emit frameEnabled(now.frame);
+    emit frameEnabledNC(now.frameNC);
+    emit frameEnabledExtra(now.frameExtra);
+    if (!now.frameNC) {
+        leaveDrawing();
+    }
+}
+
+QString AnimationEditorPrivate::frameTitle(const QString& text) const
+{
+    return text.arg(frameIndex() + 1);
+}
+
+/// Round and round, as play does.
+void AnimationEditorPrivate::prevFrame()
+{
+    const int count = frameCount();
+    if (count > 0) {
+        frameSelPosChanged((frameIndex() + count - 1) % count);
+    }
+}
+
+void AnimationEditorPrivate::nextFrame()
+{
+    const int count = frameCount();
+    if (count > 0) {
+        frameSelPosChanged((frameIndex() + 1) % count);
+    }
+}
+
+void AnimationEditorPrivate::prevAnim()
+{
+    if (animationIndex() > 0) {
+        selPosChanged(animationIndex() - 1);
+    }
+}
+
+void AnimationEditorPrivate::nextAnim()
+{
+    if (animationIndex() + 1 < animationCount()) {
+        selPosChanged(animationIndex() + 1);
+    }
+}
+
+/// The stage works on nodes, which are those of the text as it is now.
+void AnimationEditorPrivate::inputComes()
+{
+    refreshIfStale();
+    if (inputs++ == 0) {
+        revision = editor->document() ? editor->document()->revision() : 0;
+    }
+}
+
+void AnimationEditorPrivate::inputTaken()
+{
+    if (--inputs > 0) {
+        return;
+    }
+    refreshIfStale();
+    if (editor->document() && editor->document()->revision() != revision) {
+        updateCurrLine();
+    }
+}
+
+}  // namespace Zorv

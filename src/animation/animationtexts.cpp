@@ -1,0 +1,43 @@
+#include "animation/animationtexts_p.h"
+
+namespace Zorv {
+
+namespace {
+
+/// In the order of the numbers; null for no tool tip.
+const struct
+{
+    const char* label;
+    const char* toolTip;
+} texts[AnimationTexts::Count] = {
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation:"), nullptr},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation:"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation of the onion skin")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Frame:"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Frame of the onion skin")},
+};
+
+QString translated(const char* text)
+{
+    return text ? AnimationTexts::tr(text) : QString();
+}
+
+}  // namespace
+
+AnimationTexts* AnimationTexts::instance()
+{
+    static AnimationTexts translator;
+    return &translator;
+}
+
+QString AnimationTexts::trText(unsigned int id) const
+{
+    return id < Count ? translated(texts[id].label) : QString();
+}
+
+QString AnimationTexts::trToolTip(unsigned int id) const
+{
+    return id < Count ? translated(texts[id].toolTip) : QString();
+}
+
+}  // namespace Zorv
