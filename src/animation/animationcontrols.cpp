@@ -94,11 +94,6 @@ WidgetControl::Kind widgetKind(Kind kind)
     }
 }
 
-bool isOwnText(const Tool& tool)
-{
-    return tool.kind == Slider && tool.textId < AnimationTexts::Count;
-}
-
 QObject* publishWidget(Interface* host, const Tool& tool, QObject* receiver)
 {
     const QString name = QString::fromLatin1(tool.name);
@@ -108,12 +103,8 @@ QObject* publishWidget(Interface* host, const Tool& tool, QObject* receiver)
         control.setAreas(areas);
         return host->addControl(name, control);
     }
-    Translator* texts = ZorvTranslator::instance();
-    if (isOwnText(tool)) {
-        texts = AnimationTexts::instance();
-    }
-    trWidgetControl control(kind, 0, texts, tool.textId, receiver, tool.slot, tool.setSignal,
-                            tool.enableSignal);
+    trWidgetControl control(kind, 0, AnimationTexts::of(tool.textId), tool.textId, receiver,
+                            tool.slot, tool.setSignal, tool.enableSignal);
     control.setAreas(areas);
     return host->addControl(name, control);
 }
@@ -129,8 +120,9 @@ void AnimationEditorPrivate::publish()
             widgets.insert(name, qobject_cast<QWidget*>(publishWidget(host, tool, this)));
             continue;
         }
-        QAction* made = host->createAction(areas, name, ZorvTranslator::instance(), tool.textId,
-                                           nullptr, this, tool.slot, tool.enableSignal, nullptr);
+        QAction* made =
+            host->createAction(areas, name, AnimationTexts::of(tool.textId), tool.textId, nullptr,
+                               this, tool.slot, tool.enableSignal, nullptr);
         const bool isHosts = made;
         made = made ? made : new QAction(this);
         made->setCheckable(tool.kind == CheckAction);

@@ -1,5 +1,7 @@
 #include "animation/animationtexts_p.h"
 
+#include "text/zorvtranslator.h"
+
 namespace Zorv {
 
 namespace {
@@ -9,7 +11,7 @@ const struct
 {
     const char* label;
     const char* toolTip;
-} texts[AnimationTexts::Count] = {
+} texts[AnimationTexts::End - AnimationTexts::First] = {
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation:"), nullptr},
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation:"),
      QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation of the onion skin")},
@@ -30,14 +32,19 @@ AnimationTexts* AnimationTexts::instance()
     return &translator;
 }
 
+Translator* AnimationTexts::of(unsigned int id)
+{
+    return id < First ? static_cast<Translator*>(ZorvTranslator::instance()) : instance();
+}
+
 QString AnimationTexts::trText(unsigned int id) const
 {
-    return id < Count ? translated(texts[id].label) : QString();
+    return id >= First && id < End ? translated(texts[id - First].label) : QString();
 }
 
 QString AnimationTexts::trToolTip(unsigned int id) const
 {
-    return id < Count ? translated(texts[id].toolTip) : QString();
+    return id >= First && id < End ? translated(texts[id - First].toolTip) : QString();
 }
 
 }  // namespace Zorv

@@ -12,7 +12,11 @@ class AnimationTexts : public Translator
     Q_DECLARE_TR_FUNCTIONS(Zorv::AnimationTexts)
 
 public:
-    enum Id : unsigned { Animation, OnionAnimation, OnionFrame, Count };
+    /// Beside the numbers of `ZorvTranslator`, so that a number tells whose it is.
+    enum Id : unsigned { First = 1000, Animation = First, OnionAnimation, OnionFrame, End };
+
+    /// The translator that has a number.
+    static Translator* of(unsigned int id);
 
     static AnimationTexts* instance();
 
