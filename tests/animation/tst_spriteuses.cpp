@@ -69,7 +69,7 @@ class TestSpriteUses : public QObject
 
 private slots:
     void followsEveryEdit();
-    void countsOneListAtATime();
+    void countsInSeveralTexts();
     void costsTheEditedLines();
 };
 
@@ -83,7 +83,7 @@ void TestSpriteUses::followsEveryEdit()
     QRandomGenerator random(seed);
     Game game(QStringLiteral("!a\n-0,0\n-1,1\n[7]\nkey=1\n!b\n-0,0\n"));
     SpriteUses uses;
-    uses.setAnimations(game.animations);
+    uses.setAnimations({game.animations});
     QSet<SpriteNumber> shown = shownIn(countOf(*game.animations));
     QSet<SpriteNumber> everShown = shown;
     QCOMPARE(uses.count({0, 0}), 2);
@@ -121,25 +121,29 @@ void TestSpriteUses::followsEveryEdit()
     }
 }
 
-void TestSpriteUses::countsOneListAtATime()
+/// A project can have several texts with animations.
+void TestSpriteUses::countsInSeveralTexts()
 {
     SpriteUses uses;
     QCOMPARE(uses.count({0, 0}), 0);
     auto first = std::make_unique<Game>(QStringLiteral("!a\n-0,0\n-0,0\n"));
-    Game second(QStringLiteral("!a\n-1,1\n"));
-    uses.setAnimations(first->animations);
-    QCOMPARE(uses.count({0, 0}), 2);
-    uses.setAnimations(second.animations);
-    first->document.insert(QStringLiteral("-1,1\n-0,0\n"));
-    QCOMPARE(uses.count({0, 0}), 0);
-    QCOMPARE(uses.count({1, 1}), 1);
-    uses.setAnimations(first->animations);
+    Game second(QStringLiteral("!a\n-1,1\n-0,0\n"));
+    uses.setAnimations({second.animations});
+    QCOMPARE(uses.count({0, 0}), 1);
+    uses.setAnimations({first->animations, second.animations, nullptr});
     QCOMPARE(uses.count({0, 0}), 3);
+    first->document.insert(QStringLiteral("-1,1\n-2,2\n"));
+    second.document.insert(QStringLiteral("-1,1\n"));
+    QCOMPARE(countOf(uses, {{0, 0}, {1, 1}, {2, 2}}),
+             (Counts{{{0, 0}, 3}, {{1, 1}, 3}, {{2, 2}, 1}}));
     QSignalSpy changed(&uses, &SpriteUses::changed);
     first.reset();
-    QVERIFY(!uses.animations());
     QVERIFY(!changed.isEmpty());
-    QCOMPARE(uses.count({0, 0}), 0);
+    QCOMPARE(countOf(uses, {{0, 0}, {1, 1}, {2, 2}}), (Counts{{{0, 0}, 1}, {{1, 1}, 2}}));
+    uses.setAnimations({});
+    second.document.insert(QStringLiteral("-1,1\n"));
+    QVERIFY(!uses.hasAnimations());
+    QCOMPARE(uses.count({1, 1}), 0);
 }
 
 /// The lines that an edit leaves alone are not looked at: one that was wrong would stay wrong.
@@ -147,7 +151,7 @@ void TestSpriteUses::costsTheEditedLines()
 {
     Game game(QStringLiteral("!a\n-0,0\n-0,1\n"));
     SpriteUses uses;
-    uses.setAnimations(game.animations);
+    uses.setAnimations({game.animations});
     QCOMPARE(uses.count({0, 0}), 1);
     // In memory alone, so that no edit tells of it.
     game.animations->at(0)->frames().first()->setIdentifier(QStringLiteral("-5,5"));

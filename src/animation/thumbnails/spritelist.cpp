@@ -144,7 +144,7 @@ void SpriteList::setUses(SpriteUses* uses)
 bool SpriteList::isMarked(int row) const
 {
     const SpriteNumber number = d->numberOf(row);
-    return number.isValid() && d->uses && d->uses->animations() && d->uses->count(number) == 0;
+    return number.isValid() && d->uses && d->uses->hasAnimations() && d->uses->count(number) == 0;
 }
 
 QVector<SpriteNumber> SpriteList::selectedSprites() const

@@ -7,11 +7,11 @@
 #include <QHash>
 #include <QPointer>
 #include <QTextBlock>
-#include <QVector>
 
+#include <algorithm>
 #include <utility>
 
-// Each line keeps the sprite that it showed when it was parsed last. The document tells after each
+// Each line keeps the sprite that it showed when it was parsed last. A document tells after each
 // edit which lines it has parsed again: their old sprites are taken off the count, and the new ones
 // added to it. Lines in front of these and behind them show what they did.
 
@@ -20,15 +20,23 @@ namespace Zorv {
 class SpriteUsesPrivate
 {
 public:
-    void count(int first, int last);
-    void recount(int first, int last);
-    void countAll();
-    void add(SpriteNumber sprite, int number);
+    /// A document whose frames are counted.
+    struct Text
+    {
+        QPointer<CodeDocument> document;
+        QVector<SpriteNumber> lines;  ///< what each line shows
+    };
 
-    QPointer<Animations> animations;
-    QPointer<CodeDocument> document;  ///< theirs
+    void countAll();
+    void countAll(Text* text);
+    void count(Text* text, int first, int last);
+    void uncount(const QVector<SpriteNumber>& lines);
+    void recount(Text* text, int first, int last);
+    void add(SpriteNumber sprite, int number);
+    Text* textOf(const CodeDocument* document);
+
+    QVector<Text> texts;
     bool isCounted = false;
-    QVector<SpriteNumber> lines;  ///< what each line shows
     QHash<SpriteNumber, int> counts;
     bool hasChanged = false;  ///< since `changed()` was told
 };
@@ -44,6 +52,18 @@ SpriteNumber shownIn(const CodeDocument* document, const QTextBlock& line)
     }
     const auto* frame = static_cast<const FrameCode*>(node);
     return {frame->spriteGroup(), frame->spriteNumber()};
+}
+
+QVector<CodeDocument*> documentsOf(const QVector<Animations*>& lists)
+{
+    QVector<CodeDocument*> documents;
+    for (const Animations* list : lists) {
+        CodeDocument* document = list ? list->document() : nullptr;
+        if (document && !documents.contains(document)) {
+            documents.append(document);
+        }
+    }
+    return documents;
 }
 
 }  // namespace
@@ -62,46 +82,65 @@ void SpriteUsesPrivate::add(SpriteNumber sprite, int number)
 }
 
 /// Adds what the lines show now, which have room among `lines`.
-void SpriteUsesPrivate::count(int first, int last)
+void SpriteUsesPrivate::count(Text* text, int first, int last)
 {
-    QTextBlock line = document->findBlockByNumber(first);
+    QTextBlock line = text->document->findBlockByNumber(first);
     for (int i = first; i <= last; ++i, line = line.next()) {
-        lines[i] = shownIn(document, line);
-        add(lines[i], 1);
+        text->lines[i] = shownIn(text->document, line);
+        add(text->lines[i], 1);
+    }
+}
+
+void SpriteUsesPrivate::uncount(const QVector<SpriteNumber>& lines)
+{
+    for (const SpriteNumber& sprite : lines) {
+        add(sprite, -1);
     }
 }
 
 /// The lines have been parsed again. Lines that came or went did so among them.
-void SpriteUsesPrivate::recount(int first, int last)
+void SpriteUsesPrivate::recount(Text* text, int first, int last)
 {
-    const int more = document->blockCount() - lines.size();
+    const int more = text->document->blockCount() - text->lines.size();
     const int lastBefore = last - more;
-    if (first < 0 || lastBefore < first - 1 || lastBefore >= lines.size()) {
-        countAll();
+    if (first < 0 || lastBefore < first - 1 || lastBefore >= text->lines.size()) {
+        const QVector<SpriteNumber> before = text->lines;
+        countAll(text);
+        uncount(before);
         return;
     }
     // Added first: a sprite that is shown before and after has not gone between.
-    const QVector<SpriteNumber> before = lines.mid(first, lastBefore + 1 - first);
+    const QVector<SpriteNumber> before = text->lines.mid(first, lastBefore + 1 - first);
     if (more > 0) {
-        lines.insert(first, more, SpriteNumber());
+        text->lines.insert(first, more, SpriteNumber());
     } else {
-        lines.remove(first, -more);
+        text->lines.remove(first, -more);
     }
-    count(first, last);
-    for (const SpriteNumber& sprite : before) {
-        add(sprite, -1);
-    }
+    count(text, first, last);
+    uncount(before);
+}
+
+void SpriteUsesPrivate::countAll(Text* text)
+{
+    text->lines.fill({}, text->document->blockCount());
+    count(text, 0, text->lines.size() - 1);
 }
 
 void SpriteUsesPrivate::countAll()
 {
     counts.clear();
-    lines.fill({}, document ? document->blockCount() : 0);
-    isCounted = true;
-    hasChanged = true;
-    if (document) {
-        count(0, lines.size() - 1);
+    for (Text& text : texts) {
+        countAll(&text);
     }
+    isCounted = true;
+    hasChanged = false;
+}
+
+/// That of a document which is counted in.
+SpriteUsesPrivate::Text* SpriteUsesPrivate::textOf(const CodeDocument* document)
+{
+    return &*std::find_if(texts.begin(), texts.end(),
+                          [document](const Text& text) { return text.document == document; });
 }
 
 SpriteUses::SpriteUses(QObject* parent) : QObject(parent), d(std::make_unique<SpriteUsesPrivate>())
@@ -110,43 +149,59 @@ SpriteUses::SpriteUses(QObject* parent) : QObject(parent), d(std::make_unique<Sp
 
 SpriteUses::~SpriteUses() = default;
 
-void SpriteUses::setAnimations(Animations* animations)
+void SpriteUses::setAnimations(const QVector<Animations*>& lists)
 {
-    if (animations == d->animations) {
+    const QVector<CodeDocument*> documents = documentsOf(lists);
+    const bool isSame = std::equal(
+        documents.begin(), documents.end(), d->texts.begin(), d->texts.end(),
+        [](const CodeDocument* document, const auto& text) { return text.document == document; });
+    if (isSame) {
         return;
     }
-    if (d->document) {
-        d->document->disconnect(this);
+    for (const auto& text : qAsConst(d->texts)) {
+        if (text.document) {
+            text.document->disconnect(this);
+        }
     }
-    d->animations = animations;
-    d->document = animations ? animations->document() : nullptr;
+    d->texts.clear();
     d->isCounted = false;
-    if (d->document) {
-        connect(d->document, &CodeDocument::levelsChanged, this, [this](int first, int last) {
+    for (CodeDocument* document : documents) {
+        d->texts.push_back({document, {}});
+        connect(document, &CodeDocument::levelsChanged, this, [=](int first, int last) {
             if (d->isCounted) {
-                d->recount(first, last);
+                d->recount(d->textOf(document), first, last);
             }
-            if (std::exchange(d->hasChanged, false)) {
-                emit changed();
-            }
+            tell();
         });
-        connect(d->document, &CodeDocument::closing, this, [this] { setAnimations(nullptr); });
+        connect(document, &CodeDocument::closing, this, [=] {
+            SpriteUsesPrivate::Text* text = d->textOf(document);
+            d->uncount(text->lines);
+            d->texts.erase(text);
+            d->hasChanged = true;
+            tell();
+        });
     }
     emit changed();
 }
 
-Animations* SpriteUses::animations() const
+bool SpriteUses::hasAnimations() const
 {
-    return d->animations;
+    return !d->texts.isEmpty();
 }
 
 int SpriteUses::count(SpriteNumber sprite) const
 {
     if (!d->isCounted) {
         d->countAll();
-        d->hasChanged = false;
     }
     return d->counts.value(sprite);
+}
+
+void SpriteUses::tell()
+{
+    if (std::exchange(d->hasChanged, false)) {
+        emit changed();
+    }
 }
 
 }  // namespace Zorv

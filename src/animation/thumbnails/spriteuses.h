@@ -4,6 +4,7 @@
 #include "zorv_export.h"
 
 #include <QObject>
+#include <QVector>
 
 #include <memory>
 
@@ -12,7 +13,7 @@ namespace Zorv {
 class Animations;
 class SpriteUsesPrivate;
 
-/// How many frames of a list of animations show each sprite.
+/// How many frames of some lists of animations, those of a project say, show each sprite.
 ///
 /// The count is kept up while the text is edited: an edit costs what the lines cost that are parsed
 /// again for it, however many frames there are. Nothing is counted before somebody asks. Main
@@ -25,12 +26,14 @@ public:
     explicit SpriteUses(QObject* parent = nullptr);
     ~SpriteUses() override;
 
-    /// Counts in other animations; null for none. They are not owned, and may die.
-    void setAnimations(Animations* animations);
-    Animations* animations() const;
+    /// Counts in other lists, each of another document. They are not owned, and may die: their
+    /// frames do not count any more then.
+    void setAnimations(const QVector<Animations*>& lists);
 
-    /// The number of frames that show a sprite; 0 without animations. Frames that stand below no
-    /// animation do not count.
+    /// True if there is a list to count in.
+    bool hasAnimations() const;
+
+    /// The number of frames that show a sprite. Frames that stand below no animation do not count.
     int count(SpriteNumber sprite) const;
 
 signals:
@@ -39,6 +42,8 @@ signals:
     void changed();
 
 private:
+    void tell();
+
     std::unique_ptr<SpriteUsesPrivate> d;
 };
 

@@ -18,7 +18,7 @@ namespace Zorv {
 namespace {
 
 constexpr int KeptPictures = 4000;
-constexpr int Slice = 8;  // milliseconds between two events of the person
+constexpr int Slice = 5;  // milliseconds between two events of the person
 
 /// Crisp where it is enlarged, smooth where it is not.
 QImage fitted(const QImage& image, int side)
