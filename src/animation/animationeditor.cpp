@@ -216,7 +216,8 @@ int AnimationEditor::canEditFileType() const
 
 QStringList AnimationEditor::areas() const
 {
-    return {QStringLiteral("animations")};
+    // That of its own tools, and that of the thumbnails.
+    return {QStringLiteral("animations"), QStringLiteral("anim")};
 }
 
 Workspace* AnimationEditor::workspace() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cache/spritenumber.h"
 #include "editors/code/codefileeditor.h"
 #include "graphics/stage/graphicsrenderer.h"
 
@@ -144,6 +145,15 @@ public:
     /// Bracket a change of the text that fields must not answer. Nothing without "anim_editcode".
     void beginChangeFieldValue();
     void endChangeFieldValue();
+
+    /// Puts frames with these sprites in front of a frame of the animation that is shown, behind
+    /// the last one for their count, and shows the last of them. One step of undo. Nothing without
+    /// an animation, or where the grammar knows no new frame.
+    void addSprites(int index, const QVector<SpriteNumber>& sprites);
+
+    /// Asks for a new animation, as the tool "anim_add" does, which gets a frame for each of these
+    /// sprites in place of those of the template. One step of undo.
+    void newAnimation(const QVector<SpriteNumber>& sprites);
 
     /// The text has been edited: shows what it says now. Without `fromCode`, and unless animations
     /// or frames have come or gone (`countChanged`), the text cursor goes to the frame.

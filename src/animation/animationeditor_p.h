@@ -111,6 +111,12 @@ public:
     /// Brings the editor forward, if it is not.
     void activatePanel();
 
+    // animationeditorcommands.cpp
+    void addAnimation(const QVector<SpriteNumber>& sprites);
+
+    // animationeditorsprites.cpp
+    void giveSprites(int animation, const QVector<SpriteNumber>& sprites, bool isTemplate);
+
     // animationeditorfields.cpp
     void applyRanges();
     void fillFields(const FrameCode* frame);

@@ -63,6 +63,11 @@ std::optional<QString> askIdentifier(const Animations* list, const QString& firs
 
 void AnimationEditorPrivate::add()
 {
+    addAnimation({});
+}
+
+void AnimationEditorPrivate::addAnimation(const QVector<SpriteNumber>& sprites)
+{
     commitFields();
     stop();
     activatePanel();
@@ -78,6 +83,9 @@ void AnimationEditorPrivate::add()
     animations->beginChange(AnimationEditor::tr("Insert animation"));
     insertText(animations, place,
                text.isEmpty() ? animations->animationTemplate().arg(identifier) : text);
+    if (animationCount() == count + 1) {
+        giveSprites(place, sprites, text.isEmpty());
+    }
     animations->endChange();
     showAnimation(place);
     editor->animationCodeChanged(true, false);
