@@ -329,6 +329,11 @@ int AnimationEditor::frameIndex() const
     return d->frameIndex();
 }
 
+int AnimationEditor::frameCount() const
+{
+    return d->frameCount();
+}
+
 FrameCode* AnimationEditor::nextFrame() const
 {
     return d->followed.frame(d->next(d->frameIndex()));
@@ -390,8 +395,11 @@ void AnimationEditor::endChangeFieldValue()
 
 void AnimationEditor::animationCodeChanged(bool countChanged, bool fromCode)
 {
+    if (countChanged) {
+        d->shownCount = -1;
+    }
     d->refresh();
-    if (!fromCode && !countChanged) {
+    if (!fromCode) {
         d->updateCurrLine();
     }
 }

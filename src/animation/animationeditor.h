@@ -117,6 +117,7 @@ public:
     FrameCode* currentFrame() const;
     int animationIndex() const;
     int frameIndex() const;
+    int frameCount() const;
 
     /// The frame that follows the shown one in play, by way of the loop point; null for none.
     FrameCode* nextFrame() const;
@@ -155,8 +156,9 @@ public:
     /// sprites in place of those of the template. One step of undo.
     void newAnimation(const QVector<SpriteNumber>& sprites);
 
-    /// The text has been edited: shows what it says now. Without `fromCode`, and unless animations
-    /// or frames have come or gone (`countChanged`), the text cursor goes to the frame.
+    /// The text has been edited: shows what it says now, with `countChanged` also how many
+    /// animations there are. Unless the text itself was typed in (`fromCode`), the text cursor goes
+    /// to the frame.
     void animationCodeChanged(bool countChanged, bool fromCode);
 
     /// Shows everything anew.

@@ -100,11 +100,14 @@ void AnimationEditorPrivate::stopChanged(bool)
 
 void AnimationEditorPrivate::playAnimation(unsigned int tick)
 {
-    if (playing > 0 || !editor->isActive() || !currentAnimation()) {
+    if (playing > 0 || !editor->isActive()) {
         return;
     }
     if (isPlaying()) {
         playTick(tick);
+        return;
+    }
+    if (!currentAnimation()) {
         return;
     }
     commitFields();

@@ -1,0 +1,578 @@
+#include "animation/animationeditor.h"
+
+#include "support/planneddialogs.h"
+#include "support/posegrammar.h"
+#include "support/stagedata.h"
+#include "support/testinterface.h"
+
+#include "animation/frameticks.h"
+#include "animation/timeline/timelinewidget.h"
+#include "editors/code/codeeditor.h"
+#include "editors/code/codeworkspace.h"
+#include "graphics/graphicwork/graphicsworkspace.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QSlider>
+#include <QSpinBox>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Zorv;
+
+namespace {
+
+/// A host that brings an editor forward by activating it, in place of the one before.
+class Host : public TestInterface
+{
+public:
+    void activateEditor(Editor* newEditor) override
+    {
+        Editor* const before = std::exchange(editor, newEditor);
+        if (before && before != newEditor) {
+            before->deactivate();
+        }
+        newEditor->activate();
+    }
+    void showWorkspace(Workspace* shown) override
+    {
+        workspace = shown;
+        shown->activate();
+    }
+};
+
+class PoseEditor : public AnimationEditor
+{
+public:
+    using AnimationEditor::AnimationEditor;
+    void find(const QString&, unsigned) override {}
+
+    QString newIdentifier;
+    QString newText;
+    int newPosition = 0;
+    int stops = 0;
+    QVector<int> interpolated;
+
+protected:
+    void playStopped() override { ++stops; }
+    void interpolateFrame(FrameCode*, int tick) override { interpolated.append(tick); }
+    FieldRange fieldRange(Field field) const override
+    {
+        return field == Field::Time ? FieldRange{-1, 2000} : FieldRange{-500, 500};
+    }
+    ContactBoxCode* addContactBox(FrameCode* frame, ContactBoxCode::BoxType type, QPoint topLeft,
+                                  QPoint bottomRight) override
+    {
+        return frame->contactBoxes(type)->add(QRect(topLeft, bottomRight));
+    }
+    void copyContactBoxes(FrameCode* source, FrameCode* target) override
+    {
+        PoseData data = static_cast<PoseFrame*>(target)->data;
+        data.boxes = static_cast<PoseFrame*>(source)->data.boxes;
+        static_cast<PoseFrame*>(target)->write(data);
+    }
+    bool saveAnimationGIF(const QString&, QString*) override { return false; }
+    bool newAnimationData(QString& identifier, QString& text, int& position) override
+    {
+        identifier = newIdentifier;
+        text = newText;
+        position = newPosition;
+        return true;
+    }
+};
+
+const char* const someText = "@one\n"
+                             "> 0,0 1,2 4 0 1,1 0 a0,0,3,3\n"
+                             "# here it hits\n"
+                             "> 0,1 3,4 5 1 1.5,0.123456 30 L a1,1,5,5 c0,0,9,9\n"
+                             "> 0,2 0,0 6 2 1,1 0\n"
+                             "@two\n"
+                             "@three\n"
+                             "> 0,1 0,0 0 0 1,1 0\n"
+                             "> 0,2 0,0 -1 0 1,1 0\n";
+
+}  // namespace
+
+class TestAnimationEditor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void frameIsShown();
+    void fieldsWriteWhatIsTyped_data();
+    void fieldsWriteWhatIsTyped();
+    void lookingEditsNothing();
+    void typedDigitsAreNotLost();
+    void textLeadsTheStage();
+    void stageLeadsTheText();
+    void unlinked();
+    void playsAsAModel_data();
+    void playsAsAModel();
+    void textIsEditedDuringPlay();
+    void scrubbing();
+    void dragsAreSteps();
+    void boxesAreDrawn();
+    void commands();
+    void framesComeAndGo();
+    void documentDies();
+
+private:
+    template <class Widget>
+    Widget* widget(const char* name) const
+    {
+        return qobject_cast<Widget*>(host->controls.value(QLatin1String(name)));
+    }
+    QAction* action(const char* name) const { return host->actions.value(QLatin1String(name)); }
+    QString label(const char* name) const { return widget<QLabel>(name)->text(); }
+    /// What has been done since the beginning is undone by one step.
+    bool isOneStep()
+    {
+        document->undo();
+        return document->text() == QLatin1String(someText) && !document->isUndoAvailable();
+    }
+    int line() const { return text->textCursor().blockNumber(); }
+    void putCursor(int lineNumber)
+    {
+        text->setTextCursor(QTextCursor(document->findBlockByNumber(lineNumber)));
+    }
+
+    std::unique_ptr<Host> host;
+    std::unique_ptr<PlannedDialogs> dialogs;
+    std::unique_ptr<CodeWorkspace> code;
+    std::unique_ptr<GraphicsWorkspace> stage;
+    std::unique_ptr<GraphicsRenderer> renderer;
+    std::unique_ptr<PoseEditor> editor;
+    std::unique_ptr<PoseDocument> document;
+    std::vector<StageData::Sprite> sprites;
+    CodeEditor* text = nullptr;
+};
+
+void TestAnimationEditor::init()
+{
+    host = std::make_unique<Host>();
+    dialogs = std::make_unique<PlannedDialogs>();
+    code = std::make_unique<CodeWorkspace>();
+    stage = std::make_unique<GraphicsWorkspace>();
+    renderer = std::make_unique<GraphicsRenderer>();
+    sprites.clear();
+    for (int i = 0; i < 3; ++i) {
+        QImage image(20 + i, 30, QImage::Format_ARGB32);
+        image.fill(Qt::red);
+        sprites.emplace_back(image);
+    }
+    editor = std::make_unique<PoseEditor>(code.get(), stage.get(), renderer.get());
+    text = code->editor();
+    for (QWidget* each : {code->widget(), stage->widget(), host->controlsWindow()}) {
+        each->resize(500, 400);
+        each->show();
+        QVERIFY(QTest::qWaitForWindowExposed(each));
+    }
+    document = std::make_unique<PoseDocument>(QLatin1String(someText));
+    for (int i = 0; i < 3; ++i) {
+        document->sprites.insert(i, &sprites[size_t(i)]);
+    }
+    document->clearUndoRedoStacks();
+    editor->setDocument(document.get());
+    editor->activate();
+}
+
+void TestAnimationEditor::cleanup()
+{
+    editor.reset();
+    renderer.reset();
+    stage.reset();
+    code.reset();
+    document.reset();
+    dialogs.reset();
+    host.reset();
+}
+
+void TestAnimationEditor::frameIsShown()
+{
+    QVERIFY(editor->isActive());
+    QCOMPARE(label("anim_sel_lb"), QStringLiteral("1 / 3"));
+    QCOMPARE(label("anim_frame_sel_lb"), QStringLiteral("1 / 3 - 4 ticks"));
+    action("anim_next_frame")->trigger();
+    QCOMPARE(label("anim_frame_sel_lb"), QStringLiteral("2 / 3 - 9 ticks"));
+    QCOMPARE(widget<QDoubleSpinBox>("anim_frame_yscale")->value(), 0.123456);
+    QCOMPARE(widget<QComboBox>("anim_frame_flip")->currentIndex(), 2);
+    QCOMPARE(line(), 3);
+    QCOMPARE(stage->timeLine()->currentTick(), 4U);
+    QCOMPARE(renderer->boxes(ContactBoxCode::Attack)->count(), 1);
+    QVERIFY(!document->isUndoAvailable());
+}
+
+void TestAnimationEditor::fieldsWriteWhatIsTyped_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("line");
+    const auto row = [](const char* field, const char* typed, const char* line) {
+        QTest::newRow(field) << QString::fromLatin1(field) << QString::fromLatin1(typed)
+                             << QString::fromLatin1(line);
+    };
+    row("anim_frame_xaxis", "120", "> 0,1 120,4 5 1 1.5,0.123456 30 L a1,1,5,5 c0,0,9,9");
+    row("anim_frame_yaxis", "-7", "> 0,1 3,-7 5 1 1.5,0.123456 30 L a1,1,5,5 c0,0,9,9");
+    row("anim_frame_time", "-1", "> 0,1 3,4 -1 1 1.5,0.123456 30 L a1,1,5,5 c0,0,9,9");
+    row("anim_frame_xscale", "0.25", "> 0,1 3,4 5 1 0.25,0.123456 30 L a1,1,5,5 c0,0,9,9");
+    row("anim_frame_yscale", "2", "> 0,1 3,4 5 1 1.5,2 30 L a1,1,5,5 c0,0,9,9");
+    row("anim_frame_angle", "45.5", "> 0,1 3,4 5 1 1.5,0.123456 45.5 L a1,1,5,5 c0,0,9,9");
+}
+
+/// Digits by real keys, entered by Return: one step.
+void TestAnimationEditor::fieldsWriteWhatIsTyped()
+{
+    QFETCH(QString, field);
+    QFETCH(QString, typed);
+    QFETCH(QString, line);
+    editor->selectFrame(1);
+    QWidget* const box = host->controls.value(field);
+    QVERIFY(box->isEnabled());
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(box, typed);
+    QVERIFY(!document->isUndoAvailable());
+    QTest::keyClick(box, Qt::Key_Return);
+    QCOMPARE(document->findBlockByNumber(3).text(), line);
+    QCOMPARE(editor->frameIndex(), 1);
+    QVERIFY(isOneStep());
+}
+
+void TestAnimationEditor::lookingEditsNothing()
+{
+    document->fromString(QStringLiteral("@one\n> 0,0 9999,-9999 3000 3 77777,0.1234567 -9 \n"));
+    QTRY_COMPARE(editor->frameIndex(), 0);
+    for (int i = 0; i < 3; ++i) {
+        editor->selectFrame(0);
+        editor->reconfig();
+        editor->retranslate();
+    }
+    QCOMPARE(widget<QSpinBox>("anim_frame_xaxis")->value(), 500);
+    QVERIFY(!document->isUndoAvailable());
+    // A value that the grammar does not take goes from the field again.
+    editor->selectFrame(0);
+    widget<QSpinBox>("anim_frame_time")->setValue(1500);
+    QCOMPARE(widget<QSpinBox>("anim_frame_time")->value(), 2000);
+    QVERIFY(!document->isUndoAvailable());
+}
+
+void TestAnimationEditor::typedDigitsAreNotLost()
+{
+    editor->selectFrame(0);
+    auto* const box = widget<QSpinBox>("anim_frame_xaxis");
+    QApplication::setActiveWindow(box->window());
+    box->setFocus();
+    QTRY_VERIFY(box->hasFocus());
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(box, QStringLiteral("44"));
+    action("anim_next_frame")->trigger();
+    QCOMPARE(static_cast<PoseFrame*>(editor->currentAnimation()->frame(0))->data.offset,
+             QPoint(44, 2));
+    QCOMPARE(box->value(), 3);
+}
+
+void TestAnimationEditor::textLeadsTheStage()
+{
+    putCursor(4);
+    QCOMPARE(editor->frameIndex(), 2);
+    // In front of a frame stands what belongs to it.
+    putCursor(2);
+    QCOMPARE(editor->frameIndex(), 1);
+    QCOMPARE(line(), 2);
+    putCursor(7);
+    QCOMPARE(editor->animationIndex(), 2);
+    QCOMPARE(line(), 7);
+    putCursor(0);
+    QCOMPARE(editor->animationIndex(), 0);
+    QCOMPARE(editor->frameIndex(), 1);
+    putCursor(5);
+    QCOMPARE(editor->animationIndex(), 1);
+    QCOMPARE(label("anim_frame_sel_lb"), QStringLiteral("0 / 0"));
+    QVERIFY(!action("anim_frame_delete")->isEnabled());
+    QCOMPARE(renderer->boxes(ContactBoxCode::Attack), nullptr);
+}
+
+void TestAnimationEditor::stageLeadsTheText()
+{
+    widget<QSlider>("anim_frame_sel")->setValue(2);
+    QCOMPARE(line(), 4);
+    widget<QSlider>("anim_sel")->setValue(1);
+    QCOMPARE(line(), 5);
+    widget<QSlider>("anim_sel")->setValue(0);
+    QCOMPARE(line(), 4);
+    putCursor(2);
+    QTextCursor cursor = text->textCursor();
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    text->setTextCursor(cursor);
+    widget<QSpinBox>("anim_frame_xaxis")->setValue(77);
+    QCOMPARE(editor->frameIndex(), 1);
+    QCOMPARE(text->textCursor().selectedText(), QStringLiteral("# here it hits"));
+}
+
+void TestAnimationEditor::unlinked()
+{
+    QVERIFY(action("anim_editcode")->isChecked());
+    action("anim_editcode")->trigger();
+    putCursor(4);
+    QCOMPARE(editor->frameIndex(), 0);
+    action("anim_next_frame")->trigger();
+    QCOMPARE(line(), 4);
+    QTextCursor(document->findBlockByNumber(1)).insertText(QStringLiteral("# a\n"));
+    QTRY_COMPARE(editor->frameIndex(), 1);
+    action("anim_editcode")->trigger();
+    QCOMPARE(line(), 4);
+}
+
+void TestAnimationEditor::playsAsAModel_data()
+{
+    QTest::addColumn<QVector<int>>("times");
+    QTest::addColumn<int>("loop");
+    QTest::newRow("plain") << QVector<int>{2, 3, 1} << -1;
+    QTest::newRow("loop point") << QVector<int>{2, 3, 1, 4} << 2;
+    QTest::newRow("frames of no time") << QVector<int>{0, 3, 0, 0, 2, 0} << -1;
+    QTest::newRow("loop at a frame of no time") << QVector<int>{1, 0, 2} << 1;
+    QTest::newRow("endless") << QVector<int>{2, 3, -1, 4} << -1;
+    QTest::newRow("endless at first") << QVector<int>{-1, 3} << -1;
+    QTest::newRow("loop of no time") << QVector<int>{2, 3, 0} << 2;
+    QTest::newRow("no time at all") << QVector<int>{0, 0} << -1;
+    QTest::newRow("nothing") << QVector<int>{} << -1;
+}
+
+/// Frame by frame and tick by tick; a frame that never ends stops it, and so does a loop that
+/// takes no time.
+void TestAnimationEditor::playsAsAModel()
+{
+    QFETCH(QVector<int>, times);
+    QFETCH(int, loop);
+    QString lines = QStringLiteral("@one\n");
+    for (int i = 0; i < times.size(); ++i) {
+        lines += QStringLiteral("> 0,0 0,0 %1 0 1,1 0%2\n")
+                     .arg(QString::number(times[i]), i == loop ? QStringLiteral(" L") : QString());
+    }
+    document->fromString(lines);
+    QTRY_COMPARE(label("anim_frame_sel_lb").section(QLatin1Char(' '), 2, 2),
+                 QString::number(times.size()));
+
+    QVector<int> expected;
+    int frame = times.isEmpty() ? -1 : 0;
+    int loopTicks = 0;
+    for (int i = qMax(loop, 0); i < times.size(); ++i) {
+        loopTicks += times[i];
+    }
+    bool ends = false;
+    while (frame >= 0 && !ends && expected.size() < 50) {
+        ends = times[frame] < 0;
+        expected += QVector<int>(ends ? 1 : times[frame], frame);
+        if (!ends && ++frame == times.size()) {
+            frame = qMax(loop, 0);
+            ends = loopTicks == 0;
+        }
+    }
+
+    QVector<int> shown;
+    TimeLineWidget* const clock = stage->timeLine();
+    action("anim_play")->trigger();
+    while (clock->isPlaying() && shown.size() < expected.size() + 1) {
+        shown.append(editor->frameIndex());
+        QVERIFY(action("anim_play")->isChecked() && !action("anim_stop")->isChecked());
+        QVERIFY(!widget<QSpinBox>("anim_frame_time")->isEnabled());
+        clock->setCurrentTick(clock->currentTick() + 1);
+    }
+    if (ends && !expected.isEmpty() && times[expected.last()] < 0) {
+        shown.append(editor->frameIndex());
+    }
+    const int count = qMin(shown.size(), expected.size());
+    QCOMPARE(shown.mid(0, count), expected.mid(0, count));
+    QCOMPARE(clock->isPlaying(), !ends && !times.isEmpty());
+    if (clock->isPlaying()) {
+        action("anim_stop")->trigger();
+    } else {
+        QCOMPARE(shown.size(), expected.size());
+    }
+    QVERIFY(!action("anim_play")->isChecked() && action("anim_stop")->isChecked());
+    QCOMPARE(widget<QSpinBox>("anim_frame_time")->isEnabled(), !times.isEmpty());
+    QVERIFY(!document->isUndoAvailable());
+}
+
+void TestAnimationEditor::textIsEditedDuringPlay()
+{
+    TimeLineWidget* const clock = stage->timeLine();
+    action("anim_play")->trigger();
+    clock->setCurrentTick(5);
+    QCOMPARE(editor->frameIndex(), 1);
+    QCOMPARE(line(), 0);
+    // The cursor goes on its own ways, and play goes on.
+    putCursor(8);
+    QCOMPARE(editor->animationIndex(), 0);
+    QVERIFY(clock->isPlaying());
+    QTextCursor removed(document->findBlockByNumber(3));
+    removed.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor);
+    removed.removeSelectedText();
+    clock->setCurrentTick(6);
+    QCOMPARE(editor->frameCount(), 2);
+    QCOMPARE(editor->frameIndex(), 1);
+    QVERIFY(clock->isPlaying());
+    action("anim_stop")->trigger();
+    QCOMPARE(editor->stops, 1);
+    QCOMPARE(editor->animationIndex(), 2);
+    QCOMPARE(editor->frameIndex(), 1);
+    QCOMPARE(line(), 7);
+    // The whole animation goes.
+    putCursor(1);
+    action("anim_play")->trigger();
+    clock->setCurrentTick(1);
+    document->fromString(QStringLiteral("# nothing\n"));
+    clock->setCurrentTick(2);
+    QTRY_VERIFY(!clock->isPlaying());
+    QCOMPARE(label("anim_sel_lb"), QStringLiteral("0 / 0"));
+}
+
+void TestAnimationEditor::scrubbing()
+{
+    TimeLineWidget* const clock = stage->timeLine();
+    const FrameTicks ticks(editor->currentAnimation());
+    for (int tick = 20; tick >= 0; --tick) {
+        clock->setCurrentTick(unsigned(tick));
+        QCOMPARE(editor->frameIndex(), ticks.frameAt(unsigned(tick)));
+        QCOMPARE(clock->currentTick(), unsigned(tick));
+    }
+    QCOMPARE(line(), 0);
+    QVERIFY(editor->interpolated.contains(3));
+    // The tick stays within its frame.
+    clock->setCurrentTick(6);
+    widget<QSpinBox>("anim_frame_xaxis")->setValue(1);
+    QCOMPARE(clock->currentTick(), 6U);
+}
+
+void TestAnimationEditor::dragsAreSteps()
+{
+    emit renderer->inputComes();
+    emit renderer->itemMoved(GraphicsRenderer::SpriteType, &sprites[0], QPoint(30, 40));
+    QCOMPARE(widget<QSpinBox>("anim_frame_xaxis")->value(), 30);
+    QVERIFY(!document->isUndoAvailable());
+    emit renderer->itemReleased(GraphicsRenderer::SpriteType, &sprites[0], QPoint(31, 41));
+    emit renderer->inputTaken();
+    QCOMPARE(static_cast<PoseFrame*>(editor->currentFrame())->data.offset, QPoint(31, 41));
+    QCOMPARE(line(), 1);
+    QVERIFY(isOneStep());
+}
+
+/// By the mouse: a press on what is fresh, also if the text was edited a moment ago.
+void TestAnimationEditor::boxesAreDrawn()
+{
+    renderer->setOrigin({200, 150});
+    renderer->setZoomLevel(0);
+    renderer->zoomActual();
+    renderer->setVisibility(true, true, true, true, true, true, true);
+    QTextCursor(document->findBlockByNumber(1)).insertText(QStringLiteral("# a\n"));
+    action("anim_box_add_collision")->trigger();
+    renderer->mousePressed({210, 160}, Qt::LeftButton, {});
+    renderer->mouseMoved({219, 169}, {});
+    renderer->mouseReleased({219, 169}, Qt::LeftButton, {});
+    QCOMPARE(document->findBlockByNumber(2).text().section(QLatin1Char(' '), -1),
+             QStringLiteral("c10,10,19,19"));
+    QCOMPARE(editor->frameIndex(), 0);
+    QVERIFY(action("anim_box_add_collision")->isChecked());
+    action("anim_box_add_attack")->trigger();
+    QVERIFY(!action("anim_box_add_collision")->isChecked());
+    renderer->mousePressed({300, 300}, Qt::RightButton, {});
+    renderer->mouseReleased({300, 300}, Qt::RightButton, {});
+    QVERIFY(!action("anim_box_add_attack")->isChecked());
+    QCOMPARE(renderer->clickMode(), GraphicsRenderer::PositioningMode);
+    renderer->mousePressed({215, 165}, Qt::LeftButton, {});
+    renderer->mouseMoved({216, 165}, {});
+    renderer->mouseReleased({216, 165}, Qt::LeftButton, {});
+    QCOMPARE(document->findBlockByNumber(2).text().section(QLatin1Char(' '), -1),
+             QStringLiteral("c11,10,20,19"));
+    document->undo();
+    document->undo();
+    QVERIFY(!document->text().contains(QLatin1String("c10")));
+}
+
+void TestAnimationEditor::commands()
+{
+    const QString before = document->text();
+    editor->newIdentifier = QStringLiteral("new");
+    editor->newPosition = 1;
+    action("anim_add")->trigger();
+    QCOMPARE(editor->animationIndex(), 1);
+    QCOMPARE(label("anim_sel_lb"), QStringLiteral("2 / 4"));
+    QCOMPARE(document->undoTitle(), QStringLiteral("Insert animation"));
+    QCOMPARE(line(), 6);
+    editor->newText = QStringLiteral("@mine\n> 0,0 0,0 1 0 1,1 0");
+    editor->newPosition = 99;
+    action("anim_add")->trigger();
+    QCOMPARE(editor->animationIndex(), 4);
+    QCOMPARE(document->text().section(QLatin1Char('\n'), -3), editor->newText + QLatin1Char('\n'));
+
+    dialogs->buttonAnswers = {Dialogs::Yes};
+    dialogs->textAnswers = QStringList{QStringLiteral("one"), QStringLiteral("copy")};
+    action("anim_duplicate")->trigger();
+    QCOMPARE(editor->animations()->count(), 6);
+    QCOMPARE(editor->animationIndex(), 5);
+    QCOMPARE(dialogs->count(QStringLiteral("askText")), 2);
+    dialogs->buttonAnswers = {Dialogs::Yes};
+    action("anim_duplicate")->trigger();
+    QCOMPARE(editor->animations()->count(), 6);
+
+    host->options.insert(QStringLiteral("confirm_delete"), true);
+    dialogs->buttonAnswers = {Dialogs::No, Dialogs::Yes};
+    action("anim_delete")->trigger();
+    QCOMPARE(editor->animations()->count(), 6);
+    action("anim_delete")->trigger();
+    QCOMPARE(editor->animations()->count(), 5);
+    QCOMPARE(editor->animationIndex(), 4);
+    host->options.remove(QStringLiteral("confirm_delete"));
+    const int asked = dialogs->count();
+    action("anim_delete")->trigger();
+    QCOMPARE(dialogs->count(), asked);
+    while (document->isUndoAvailable()) {
+        document->undo();
+    }
+    QCOMPARE(document->text(), before);
+}
+
+void TestAnimationEditor::framesComeAndGo()
+{
+    const QString before = document->text();
+    editor->selectFrame(2);
+    action("anim_frame_add")->trigger();
+    QCOMPARE(editor->frameIndex(), 3);
+    QCOMPARE(editor->currentFrame()->delay(), 10);
+    QCOMPARE(line(), 5);
+    action("anim_frame_delete")->trigger();
+    QCOMPARE(editor->frameIndex(), 2);
+    QCOMPARE(document->text(), before);
+    editor->selectFrame(1);
+    action("anim_frame_delete")->trigger();
+    QCOMPARE(editor->frameIndex(), 1);
+    QVERIFY(!document->text().contains(QLatin1String("here it hits")));
+    QCOMPARE(label("anim_frame_sel_lb"), QStringLiteral("2 / 2 - 10 ticks"));
+    editor->selectAnimation(1);
+    action("anim_frame_add")->trigger();
+    QCOMPARE(editor->frameIndex(), 0);
+    while (document->isUndoAvailable()) {
+        editor->undo();
+    }
+    QCOMPARE(document->text(), before);
+}
+
+void TestAnimationEditor::documentDies()
+{
+    action("anim_play")->trigger();
+    document.reset();
+    QVERIFY(!editor->isActive() && !editor->animations() && !editor->currentFrame());
+    QVERIFY(!editor->action()->isEnabled());
+    QVERIFY(!stage->timeLine()->isPlaying());
+    QCOMPARE(renderer->spriteProvider(), nullptr);
+    editor->selectFrame(1);
+    editor->play();
+}
+
+QTEST_MAIN(TestAnimationEditor)
+#include "tst_animationeditor.moc"
