@@ -70,6 +70,17 @@ constexpr Command table[] = {
      "Remove the lines of animations that change nothing.",
      "These are contact boxes that a frame has twice, and frames that are like the one in front:\n"
      "that one stays for the time of both. A line with a comment or a problem stays."},
+    {"anim import", "FILE SOURCE [ID[=NEWID]...]", 2, Command::Any,
+     Arranging | Replace | Skip | BringSprites | Json, importAnimations,
+     "Take animations of another project over.",
+     "SOURCE is a main file (.character, .stage), a folder with one of them, or a single file of\n"
+     "animations. Without ID all its animations come. They stand at the end of FILE, called ID or\n"
+     "NEWID, with the comments directly above them. If one of that name is there, nothing is done,\n"
+     "unless --replace or --skip tells what to do.\n"
+     "With --sprites the sprites that they show, and their palettes, come into the sprite file that\n"
+     "FILE names, or that stands beside it. A sprite whose number is taken by another one gets the\n"
+     "next free number, and the frames follow. A line tells each thing that came, with a tab between\n"
+     "what was done, its kind, its name or how many, and its new number."},
     {"anim gif", "FILE ID IMAGE", 3, 3, Encoding | SpriteFile | PaletteId | Force,
      writeAnimationGif,
      "Write an animation as an animated GIF.",

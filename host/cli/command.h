@@ -49,6 +49,7 @@ int sortAnimations(const Invocation& invocation, Output& output);
 int alignAnimations(const Invocation& invocation, Output& output);
 int copyBoxes(const Invocation& invocation, Output& output);
 int optimizeAnimations(const Invocation& invocation, Output& output);
+int importAnimations(const Invocation& invocation, Output& output);
 int writeAnimationGif(const Invocation& invocation, Output& output);
 int renderAnimation(const Invocation& invocation, Output& output);
 int diffAnimations(const Invocation& invocation, Output& output);

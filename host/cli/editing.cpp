@@ -79,7 +79,22 @@ int save(FamilyDocument& document, const QString& fileName)
     return notDone(error);
 }
 
-int editOnce(const Invocation& invocation, Output& output, const Edit& edit)
+int saveBoth(FamilyDocument& document, bool isChanged, const QString& fileName,
+             const Companion& companion)
+{
+    const int status = companion.save ? companion.save() : int(Fine);
+    if (status != Fine || !isChanged) {
+        return status;
+    }
+    const int saved = save(document, fileName);
+    if (saved != Fine && companion.takeBack) {
+        companion.takeBack();
+    }
+    return saved;
+}
+
+int editOnce(const Invocation& invocation, Output& output, const Edit& edit,
+             const Companion& companion)
 {
     const QString fileName = invocation.operands.first();
     QString error;
@@ -94,28 +109,32 @@ int editOnce(const Invocation& invocation, Output& output, const Edit& edit)
     if (!edit(document.get(), &error)) {
         return notDone(error);
     }
-    if (document->text() == before) {
-        return Fine;
+    const bool isChanged = document->text() != before;
+    if (!invocation.dryRun) {
+        return saveBoth(*document, isChanged, fileName, companion);
     }
-    return invocation.dryRun ? printDifference(*document, before, fileName, output)
-                             : save(*document, fileName);
+    return isChanged && !invocation.json ? printDifference(*document, before, fileName, output)
+                                         : int(Fine);
 }
 
 }  // namespace
 
-int editFile(const Invocation& invocation, Output& output, const Edit& edit)
+int editFile(const Invocation& invocation, Output& output, const Edit& edit,
+             const Companion& companion)
 {
-    const auto change = [&] { return editOnce(invocation, output, edit); };
+    const auto change = [&] { return editOnce(invocation, output, edit, companion); };
     return invocation.dryRun ? change() : changeFile(invocation.operands.first(), change);
 }
 
-int arrangeFile(const Invocation& invocation, Output& output, const Edit& edit)
+int arrangeFile(const Invocation& invocation, Output& output, const Edit& edit,
+                const Companion& companion)
 {
-    return editFile(invocation, output, [&](FamilyDocument* document, QString* error) {
+    const auto arrange = [&](FamilyDocument* document, QString* error) {
         document->setOption(QStringLiteral("code_comments_travel"), !invocation.leavesComments,
                             false, false);
         return edit(document, error);
-    });
+    };
+    return editFile(invocation, output, arrange, companion);
 }
 
 int readFile(const Invocation& invocation, const Edit& look)

@@ -51,6 +51,9 @@ struct Invocation
     bool showsAxis = false;
     bool asGif = false;
     bool asSheet = false;
+    bool replaces = false;
+    bool skips = false;
+    bool bringsSprites = false;
     QString animation;  ///< an identifier; null for all
 };
 
@@ -95,7 +98,10 @@ enum Option : quint64 {
     Trust = quint64(1) << 35,
     Lenient = quint64(1) << 36,
     LeaveComments = quint64(1) << 37,
-    Instances = quint64(1) << 38
+    Instances = quint64(1) << 38,
+    Replace = quint64(1) << 39,
+    Skip = quint64(1) << 40,
+    BringSprites = quint64(1) << 41
 };
 
 /// One option: a row of the table.

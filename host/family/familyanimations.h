@@ -37,8 +37,7 @@ public:
     QString animationTemplate() const override;
     bool canName(const QString& identifier) const override;
 
-    /// With the comments directly above, see `CommentTravel`, and without those behind an empty
-    /// line.
+    /// With the comments directly above, see `CommentTravel`, and without those below its code.
     QTextCursor ownLines(unsigned index) const override;
     QString codeFor(unsigned index, const QString& identifier,
                     const QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>& sprites) const override;

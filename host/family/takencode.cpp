@@ -13,32 +13,9 @@ namespace Family {
 
 namespace {
 
-bool isBlank(const QTextBlock& line)
+bool isEmpty(const QTextBlock& line)
 {
-    return line.text().trimmed().isEmpty();
-}
-
-QTextBlock firstOfComments(QTextBlock line)
-{
-    while (isCommentLine(line.previous())) {
-        line = line.previous();
-    }
-    return line;
-}
-
-QTextBlock lastOwnLine(const QTextBlock& head, QTextBlock last)
-{
-    while (last != head) {
-        const QTextBlock first = isCommentLine(last) ? firstOfComments(last) : QTextBlock();
-        if (isBlank(last)) {
-            last = last.previous();
-        } else if (first.isValid() && first != head && isBlank(first.previous())) {
-            last = first.previous();
-        } else {
-            break;
-        }
-    }
-    return last;
+    return line.text().trimmed().isEmpty() || isCommentLine(line);
 }
 
 /// The line of a frame with another sprite; as it is if its sprite cannot be read.
@@ -84,10 +61,11 @@ QString headLineFor(const AnimationNode* animation, const QString& identifier)
 QTextCursor ownLinesOf(const AnimationNode* animation)
 {
     QTextCursor cursor = animation->selectAll();
-    const QTextBlock head = animation->block();
     const int start = cursor.selectionStart();
-    const QTextBlock end = animation->document()->findBlock(qMax(start, cursor.selectionEnd() - 1));
-    const QTextBlock last = lastOwnLine(head, end);
+    QTextBlock last = animation->document()->findBlock(qMax(start, cursor.selectionEnd() - 1));
+    while (last != animation->block() && isEmpty(last)) {
+        last = last.previous();
+    }
     cursor.setPosition(start);
     cursor.setPosition(last.position() + last.length() - 1, QTextCursor::KeepAnchor);
     return cursor;

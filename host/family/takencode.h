@@ -17,8 +17,7 @@ using SpriteMap = QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>;
 QString headLineFor(const AnimationNode* animation, const QString& identifier);
 
 /// The lines that are an animation's own, without the last line end: from its first one to its
-/// last code, and the comments right behind that. Those behind an empty line belong to what
-/// follows, or to nobody.
+/// last code. Comments and empty lines behind that stay where they are.
 QTextCursor ownLinesOf(const AnimationNode* animation);
 
 /// Those lines, with a line feed between two, under another identifier and with other sprites.

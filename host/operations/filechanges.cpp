@@ -20,13 +20,16 @@ constexpr int PauseMilliseconds = 15;  // more with each attempt
 
 }  // namespace
 
+QString watchedFile(const QString& path)
+{
+    return QFileInfo(path).isDir() ? QDir(path).filePath(FolderList::fileName()) : path;
+}
+
 bool changeAsOne(const QString& fileName, Others others, const std::function<void()>& change,
                  QString* error)
 {
-    const QString file =
-        QFileInfo(fileName).isDir() ? QDir(fileName).filePath(FolderList::fileName()) : fileName;
     for (int i = 1; i <= Attempts; ++i) {
-        Zorv::FileChange watched(file);
+        Zorv::FileChange watched(watchedFile(fileName));
         if (others == Others::Wait && !watched.lock(LongestWait, error)) {
             return false;
         }

@@ -1,5 +1,6 @@
 #include "family/assets/palettelist.h"
 
+#include "family/assets/freeids.h"
 #include "family/assets/pixelstore.h"
 #include "family/assets/remapmodel.h"
 #include "family/assets/spritecollection.h"
@@ -269,6 +270,31 @@ FamilyPalette* PaletteList::ensure(const PaletteColors& colors)
 {
     FamilyPalette* known = byColors(colors);
     return known ? known : place(count(), colors, freeId(nextId()));
+}
+
+QVector<PaletteList::ItemPtr> PaletteList::adopt(const QVector<const FamilyPalette*>& others,
+                                                 int* added)
+{
+    FreeIds ids([this](AssetId id) { return m_ids.contains(id.key()); });
+    QVector<ItemPtr> result;
+    QVector<ItemPtr> copies;
+    QHash<QByteArray, ItemPtr> copied;
+    for (const FamilyPalette* other : others) {
+        const PaletteColors& colors = other->state.colors;
+        ItemPtr& copy =
+            copied[QByteArray(reinterpret_cast<const char*>(colors.data()), sizeof colors)];
+        const FamilyPalette* known = copy ? nullptr : byColors(colors);
+        if (!copy && !known) {
+            copy = std::make_shared<FamilyPalette>(this);
+            copy->state = {ids.next(other->id()), other->colorCount(), colors, {}};
+            copies.append(copy);
+        }
+        result.append(known ? share(known) : copy);
+    }
+    const AssetHistory::Step step(history(), tr("Add palettes"));
+    insertItems(count(), copies);
+    *added = copies.size();
+    return result;
 }
 
 void PaletteList::autoOrganize()

@@ -66,6 +66,10 @@ public:
     /// Adds a palette with a free identifier, unless the list has one with these colours.
     FamilyPalette* ensure(const PaletteColors& colors);
 
+    /// For each palette of another collection the first one here with its colours, else a copy
+    /// under its number, or the next one that is free. `added` counts the copies. One step of undo.
+    QVector<ItemPtr> adopt(const QVector<const FamilyPalette*>& others, int* added);
+
     /// Sorts by group and number.
     void autoOrganize();
 

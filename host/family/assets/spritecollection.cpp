@@ -311,6 +311,12 @@ void SpriteCollection::insertBehind(const FamilySprite* sprite, const QVector<It
     insertItems(sprite->row < 0 ? items().size() : sprite->row + 1, added);
 }
 
+void SpriteCollection::append(const QVector<ItemPtr>& sprites)
+{
+    refresh();
+    insertItems(items().size(), sprites);
+}
+
 void SpriteCollection::shownChanged()
 {
     m_changed = true;

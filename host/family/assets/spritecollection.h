@@ -115,6 +115,7 @@ public:
     AssetHistory& editHistory() { return m_history; }
     void change(FamilySprite* sprite, const FamilySprite::State& state);
     void insertBehind(const FamilySprite* sprite, const QVector<ItemPtr>& items);
+    void append(const QVector<ItemPtr>& sprites);
 
     /// For palettes: their colours or remaps have changed, and with them what sprites show.
     void shownChanged();

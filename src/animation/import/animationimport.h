@@ -55,6 +55,9 @@ public:
     AnimationImport(Animations* destination, const QVector<ImportEntry>& entries,
                     ImportConflict conflicts);
 
+    /// What `insert()` will do, as far as it is known.
+    const AnimationImportResult& planned() const { return m_result; }
+
     /// The sprites that the frames of the animations that will come show, each once, in the order
     /// of the frames.
     QVector<SpriteNumber> sprites() const;

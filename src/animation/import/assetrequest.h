@@ -18,6 +18,9 @@ struct AssetRequest
 
     /// The sprites that the animations show, each once, in the order of the frames.
     QVector<SpriteNumber> sprites;
+
+    /// Whether the others come if some are broken; else nothing is done then.
+    bool leavesBroken = false;
 };
 
 /// What came of an `AssetRequest`.
@@ -33,8 +36,8 @@ struct AssetResult
     int shared = 0;    ///< sprites that it had already: the same picture, colours and axis
     int palettes = 0;  ///< palettes that came with them
 
-    /// What the source does not have, or only broken: it was left out, and frames name it as
-    /// before.
+    /// What the source does not have, or only broken. It does not come, and frames name it as
+    /// before. If some are broken and the others must not come alone, there is an `error`, too.
     QVector<SpriteNumber> missing;
     QVector<SpriteNumber> broken;
 };
