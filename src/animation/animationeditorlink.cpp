@@ -69,14 +69,17 @@ void AnimationEditorPrivate::followLine(int line)
     if (!found || !animations) {
         return;
     }
-    const Guard guard(&playing);
-    const int frame = frameOfLine(found, line);
-    if (found != currentAnimation()) {
-        showAnimation(animations->indexOf(found));
+    {
+        const Guard guard(&playing);
+        const int frame = frameOfLine(found, line);
+        if (found != currentAnimation()) {
+            showAnimation(animations->indexOf(found));
+        }
+        if (frame >= 0 && frame != frameIndex()) {
+            showFrame(frame);
+        }
     }
-    if (frame >= 0 && frame != frameIndex()) {
-        showFrame(frame);
-    }
+    setTick(frameIndex());
 }
 
 bool AnimationEditorPrivate::isCursorInFrame() const

@@ -8,11 +8,16 @@
 
 #include <QAction>
 
+#include <climits>
+
 namespace Zorv {
 
 namespace {
 
 constexpr unsigned TicksPerSecond = 60;
+
+// Frames end here, the strip goes on.
+constexpr unsigned LastTick = INT_MAX;
 constexpr int SpeedField = 4;
 
 // Behind a menu the clock stands still. It would make up for that by running fast.
@@ -104,6 +109,10 @@ void AnimationEditorPrivate::playAnimation(unsigned int tick)
         return;
     }
     if (isPlaying()) {
+        {
+            const Guard guard(&playing);
+            refreshIfStale();
+        }
         playTick(tick);
         return;
     }
@@ -114,7 +123,7 @@ void AnimationEditorPrivate::playAnimation(unsigned int tick)
     const Guard guard(&playing);
     const FrameTicks& ticks = followed.ticks();
     const int index = ticks.frameAt(tick);
-    frameTick = int(tick) - ticks.firstTick(index);
+    frameTick = int(qMin(tick, LastTick)) - ticks.firstTick(index);
     showFrame(index);
     if (frameTick > 0) {
         editor->interpolateFrame(followed.frame(nextIndex), frameTick);
@@ -140,10 +149,9 @@ void AnimationEditorPrivate::playTick(unsigned tick)
         return;
     }
     const int index = ticks.frameAt(tick);
-    frameTick = int(tick - unsigned(ticks.firstTick(index)));
-    if (index != frameIndex() || isStale) {
+    frameTick = int(qMin(tick, LastTick)) - ticks.firstTick(index);
+    if (index != frameIndex()) {
         const Guard guard(&playing);
-        isStale = false;
         showFrame(index);
     }
     if (ticks.delay(index) < 0) {

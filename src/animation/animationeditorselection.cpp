@@ -169,7 +169,6 @@ void AnimationEditorPrivate::showAnimation(int index)
     }
     followed.setAnimation(chosen);
     frameLine = {};
-    isStale = false;
     fillAnimation();
     showFrame(frameIndex());
     editor->animationChanged(currentAnimation());

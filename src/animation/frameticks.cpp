@@ -19,17 +19,22 @@ int sumOf(int ticks, int delay)
     return int(std::min<qint64>(qint64(ticks) + delay, std::numeric_limits<int>::max()));
 }
 
+template <class Visit>
+void forEachFrame(const AnimationCode* animation, const Visit& visit)
+{
+    const CodeNode* node = animation ? animation->childAt(0) : nullptr;
+    for (; node; node = CodeNodeList::next(node)) {
+        if (node->type() == CodeNode::Frame) {
+            visit(*static_cast<const FrameCode*>(node));
+        }
+    }
+}
+
 QVector<int> delaysOf(const AnimationCode* animation)
 {
     QVector<int> delays;
-    if (animation) {
-        delays.reserve(animation->childCount());
-        for (const CodeNode* node = animation->childAt(0); node; node = CodeNodeList::next(node)) {
-            if (node->type() == CodeNode::Frame) {
-                delays.append(static_cast<const FrameCode*>(node)->delay());
-            }
-        }
-    }
+    delays.reserve(animation ? animation->childCount() : 0);
+    forEachFrame(animation, [&](const FrameCode& frame) { delays.append(frame.delay()); });
     return delays;
 }
 
@@ -38,10 +43,19 @@ QVector<int> delaysOf(const AnimationCode* animation)
 FrameTicks::FrameTicks(const AnimationCode* animation)
     : FrameTicks(delaysOf(animation), animation ? animation->loopFrame() : -1)
 {
+    int index = 0;
+    m_marked.clear();
+    forEachFrame(animation, [&](const FrameCode& frame) {
+        if (frame.isLoopPoint()) {
+            m_marked.append(index);
+        }
+        ++index;
+    });
 }
 
 FrameTicks::FrameTicks(const QVector<int>& delays, int loopFrame)
-    : m_delays(delays), m_loopFrame(loopFrame < delays.size() ? loopFrame : -1)
+    : m_delays(delays),
+      m_loopFrame(loopFrame < delays.size() ? loopFrame : -1), m_marked{m_loopFrame}
 {
     m_starts.reserve(delays.size());
     int ticks = 0;
@@ -100,7 +114,8 @@ bool FrameTicks::markerAt(unsigned tick, TimeLine::Marker& marker) const
         return false;
     }
     marker.length = delay(frame);
-    marker.color = marker.length < 0 ? endlessColor : frame == m_loopFrame ? loopColor : frameColor;
+    const bool isMarked = std::binary_search(m_marked.begin(), m_marked.end(), frame);
+    marker.color = marker.length < 0 ? endlessColor : isMarked ? loopColor : frameColor;
     return true;
 }
 

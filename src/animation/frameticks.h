@@ -64,6 +64,7 @@ private:
     QVector<int> m_shown;   // frames that are shown, up to the first endless one
     int m_total = 0;
     int m_loopFrame = -1;
+    QVector<int> m_marked;  // as a loop point, which a text can have several of
 };
 
 }  // namespace Zorv

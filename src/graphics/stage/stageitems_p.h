@@ -82,7 +82,6 @@ struct ZORV_EXPORT ContactBoxes
     BoxList code;
     QVector<ContactItem> items;
     bool visible = true;
-    bool locked = false;  // not found by the pointer
 };
 
 constexpr int BoxTypes = 8;

@@ -72,7 +72,6 @@ void GraphicsRendererPrivate::applyZoomLevel(int level)
     previousZoom = zoom;
     q->update();
     if (isOther) {
-        clicked = {};
         emit q->viewChanged();
     }
 }
