@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-/// Does things at random, each with its share of all, and looks every hundred of them for a fault.
+/// Does things at random, each with its share of all, and looks now and then for a fault.
 ///
 /// `Self` derives from it, and has `tidy()`, called after each, and `fault()`, what is wrong for a
 /// person, empty for nothing.
@@ -25,12 +25,13 @@ public:
         }
     }
 
-    void survive(int events)
+    /// Looks every so many events.
+    void survive(int events, int every = 100)
     {
         qInfo("seed %u", m_seed);
         for (int i = 1; i <= events; ++i) {
             act();
-            if (i % 100 == 0) {
+            if (i % every == 0) {
                 QCoreApplication::processEvents();
                 const QString found = self()->fault();
                 QVERIFY2(found.isEmpty(),
