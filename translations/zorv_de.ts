@@ -2,6 +2,71 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>AnimAlign</name>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Alignment tool</source>
+        <translation>Ausrichten</translation>
+    </message>
+    <message>
+        <source>Clear selection</source>
+        <translation>Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>Invert selection</source>
+        <translation>Auswahl umkehren</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Operation:</source>
+        <translation>Vorgang:</translation>
+    </message>
+    <message>
+        <source>X:</source>
+        <translation>X:</translation>
+    </message>
+    <message>
+        <source>Y:</source>
+        <translation>Y:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n number(s) would leave the range of the text, and stay as they were.</source>
+        <translation>
+            <numerusform>%n Zahl würde den Bereich des Textes verlassen und bleibt, wie sie war.</numerusform>
+            <numerusform>%n Zahlen würden den Bereich des Textes verlassen und bleiben, wie sie waren.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>AnimEditTxt</name>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Edit animation code</source>
+        <translation>Code der Animation bearbeiten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>The code has been changed and not applied. Apply it?</source>
+        <translation>Der Code wurde geändert und nicht angewendet. Jetzt anwenden?</translation>
+    </message>
+</context>
+<context>
     <name>App::ActionList</name>
     <message>
         <source>Action</source>
@@ -5196,6 +5261,21 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::AnimationCodeWindow</name>
+    <message>
+        <source>The animation is no longer in the text. Add a new one, and copy the code there.</source>
+        <translation>Die Animation steht nicht mehr im Text. Bitte eine neue anlegen und den Code dorthin kopieren.</translation>
+    </message>
+    <message>
+        <source>The animation has been changed elsewhere since it came into this window. Replace it?</source>
+        <translation>Die Animation wurde anderswo geändert, seit sie in dieses Fenster kam. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>This is not the code of one animation. Begin with its head line, and leave out other animations and groups.</source>
+        <translation>Das ist nicht der Code einer Animation. Bitte mit ihrer Kopfzeile beginnen und andere Animationen und Gruppen weglassen.</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::AnimationEditor</name>
     <message>
         <source>Confirmation</source>
@@ -5288,6 +5368,63 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Stage: %1, %2</source>
         <translation>Bühne: %1, %2</translation>
+    </message>
+    <message>
+        <source>Do you really want to replicate Contact boxes of current frame in all its instances?
+All existing Contact boxes in these frames will be replaced.</source>
+        <translation>Die Kontaktboxen des jetzigen Einzelbilds wirklich in alle Einzelbilder mit diesem Sprite übernehmen?
+Alle Kontaktboxen, die diese schon haben, werden ersetzt.</translation>
+    </message>
+    <message>
+        <source>Frames: %1. Contact boxes that they have: %2.</source>
+        <translation>Einzelbilder: %1. Kontaktboxen, die sie haben: %2.</translation>
+    </message>
+    <message>
+        <source>No other frame shows the sprite of this one.</source>
+        <translation>Kein anderes Einzelbild zeigt den Sprite von diesem.</translation>
+    </message>
+    <message>
+        <source>These lines change nothing in the game:</source>
+        <translation>Diese Zeilen ändern im Spiel nichts:</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove them?</source>
+        <translation>Entfernen?</translation>
+    </message>
+    <message>
+        <source>Optimize</source>
+        <translation>Optimieren</translation>
+    </message>
+    <message>
+        <source>Save as animated GIF</source>
+        <translation>Als animiertes GIF speichern</translation>
+    </message>
+    <message>
+        <source>Graphics Interchange Format (*.gif)</source>
+        <translation>Graphics Interchange Format (*.gif)</translation>
+    </message>
+    <message>
+        <source>Optimize done!</source>
+        <translation>Optimierung fertig!</translation>
+    </message>
+    <message>
+        <source>Code clean, and %1 line(s) were removed in the optimization!</source>
+        <translation>Der Code ist aufgeräumt; bei der Optimierung wurden %1 Zeile(n) entfernt!</translation>
+    </message>
+    <message>
+        <source>You can&apos;t save an empty animation as GIF.</source>
+        <translation>Eine leere Animation kann nicht als GIF gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be written.</source>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben.</translation>
     </message>
 </context>
 <context>
@@ -5387,6 +5524,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Change time of frames</source>
         <translation>Zeit von Einzelbildern ändern</translation>
+    </message>
+    <message>
+        <source>Edit code of animation #%1</source>
+        <translation>Code von Animation #%1 bearbeiten</translation>
     </message>
 </context>
 <context>

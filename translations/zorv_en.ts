@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="en">
 <context>
+    <name>AnimAlign</name>
+    <message numerus="yes">
+        <source>%n number(s) would leave the range of the text, and stay as they were.</source>
+        <translation>
+            <numerusform>%n number would leave the range of the text, and stays as it was.</numerusform>
+            <numerusform>%n numbers would leave the range of the text, and stay as they were.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::FindSearch</name>
     <message numerus="yes">
         <source>more than %n match(es)</source>
@@ -226,6 +236,16 @@
 </context>
 <context>
     <name>Operations::Uses</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::AnimationEditor</name>
     <message numerus="yes">
         <source>and %n more</source>
         <translation>

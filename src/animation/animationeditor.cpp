@@ -33,8 +33,12 @@ CodeDocument* documentOf(ProjectFile* file)
 AnimationEditorPrivate::AnimationEditorPrivate(AnimationEditor* owner, GraphicsWorkspace* workspace,
                                                GraphicsRenderer* shown)
     : editor(owner), renderer(shown), stage(workspace), host(Interface::instance()),
-      timeLine(workspace->timeLine())
+      timeLine(workspace->timeLine()), codeWindow(host)
 {
+    connect(&codeWindow, &AnimationCodeWindow::visibilityChanged, this,
+            &AnimationEditorPrivate::updateEnabled);
+    connect(&codeWindow, &AnimationCodeWindow::applied, this,
+            [this] { editor->animationCodeChanged(true, false); });
     connect(&followed, &FollowedAnimation::changed, this, &AnimationEditorPrivate::textChanged);
     connect(timeLine, &TimeLineWidget::tickChanged, this, &AnimationEditorPrivate::playAnimation);
     connect(renderer, &GraphicsRenderer::itemMoved, this,
@@ -227,6 +231,7 @@ Workspace* AnimationEditor::workspace() const
 
 void AnimationEditor::reconfig()
 {
+    d->codeWindow.reconfig();
     d->applyOnion();
     d->renderer->Renderer::update();
 }
@@ -262,6 +267,11 @@ void AnimationEditor::setDocument(CodeDocument* document)
     if (!isActive()) {
         d->bind(document);
     }
+}
+
+bool AnimationEditor::canDiscard() const
+{
+    return d->codeWindow.mayDrop() && CodeFileEditor::canDiscard();
 }
 
 void AnimationEditor::save()

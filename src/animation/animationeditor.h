@@ -92,6 +92,9 @@ public:
     /// Also binds the list of animations that is registered with the document.
     void setDocument(CodeDocument* document) override;
 
+    /// Asks about what is typed in the window of code, too.
+    bool canDiscard() const override;
+
     /// As of `CodeFileEditor`, with what was typed into a field and not yet entered.
     void save() override;
     void undo() override;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "animation/alignpreview_p.h"
+#include "animation/animationcodewindow_p.h"
 #include "animation/animationeditor.h"
+#include "animation/edits/boxedits.h"
 #include "animation/followedanimation.h"
 #include "animation/timeline/timeline.h"
 #include "cache/spriteprovider.h"
@@ -9,11 +12,13 @@
 #include <QHash>
 #include <QPointer>
 
+class AnimAlign;
 class QAction;
 class QWidget;
 
 namespace Zorv {
 
+enum class FrameValue;
 class Interface;
 class TimeLineWidget;
 
@@ -152,6 +157,23 @@ public:
     ContactBoxCode* appendContactBox(ContactBoxCode::BoxType type, QRect rect);
     void showPlace(QPoint place);
 
+    // animationeditorframes.cpp
+    /// In front of an act of the person on frames or boxes: what was typed is written. Gives the
+    /// place of the shown frame; none without one.
+    FramePlace beginAct();
+
+    /// The whole act: `edit` gets that place, and what it comes to is shown.
+    void act(const std::function<void(const FramePlace& shown)>& edit);
+    void copyToNext(FrameValue value);
+
+    // animationeditoralign.cpp
+    void preparePreview();
+    void showPreviewBoxes();
+
+    // animationeditorboxes.cpp
+    BoxCopier boxCopier();
+    QVector<BoxPlace> selectedBoxes() const;
+
     // animationeditoronion.cpp
     void updateOnionRange();
     void fillOnion();
@@ -167,7 +189,9 @@ public:
     FollowedAnimation followed;
     QTextCursor frameLine;  // where the shown frame stands
     Sprite* currentSprite = nullptr;
-    QPointer<QWidget> codeDialog;
+    AnimationCodeWindow codeWindow;
+    QPointer<AnimAlign> alignDialog;
+    std::unique_ptr<AlignPreview> preview;
     GraphicsRenderer::ItemType spriteItemType = GraphicsRenderer::SpriteType;
     bool hasExtra = true;
 
@@ -229,8 +253,25 @@ public slots:
     void frameAdd();
     void frameDel();
 
+    void frameAllOffset();
+    void frameAllTime();
+    void frameAllFlip();
+    void frameAllScale();
+
+    void frameAlign();
+    void editAnimCode();
+
     void boxAddAChanged(bool isOn);
     void boxAddCChanged(bool isOn);
+    void boxDel();
+    void boxDelAll();
+    void boxDelAllAnim();
+    void boxSwType();
+    void boxPrev();
+    void boxAllInst();
+
+    void optimize();
+    void saveGIF();
 
     void onionSkinChanged(bool isOn);
     void onionSelPosChanged(int index);

@@ -195,6 +195,7 @@ void AnimationEditorPrivate::fillAnimation()
                                                                QString::number(animationCount()))
                           : AnimationEditor::tr("0 / 0"));
     updateFrameRange();
+    codeWindow.follow(currentAnimation());
     if (timeLine) {
         timeLine->setVisible(shown);
     }
@@ -222,7 +223,9 @@ void AnimationEditorPrivate::fillFrame()
     loopIndex = ticks.loopFrame();
     nextIndex = next(index);
     updateEnabled();
+    preparePreview();
     editor->frameChanged(shown);
+    showPreviewBoxes();
     if (!shown) {
         renderer->setContactBoxes(ContactBoxCode::Attack, nullptr);
         renderer->setContactBoxes(ContactBoxCode::Collision, nullptr);
@@ -267,7 +270,7 @@ void AnimationEditorPrivate::updateFrameRange()
 void AnimationEditorPrivate::updateEnabled()
 {
     const bool hasFrame = !isPlaying() && frameIndex() >= 0;
-    const bool isCodeOpen = codeDialog && codeDialog->isVisible();
+    const bool isCodeOpen = codeWindow.isOpen();
     const Enabled now{currentAnimation() != nullptr, hasFrame, hasFrame && !isCodeOpen,
                       hasFrame && hasExtra};
     if (now.animation != isEnabled.animation || now.frame != isEnabled.frame ||

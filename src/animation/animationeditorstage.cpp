@@ -84,7 +84,11 @@ Sprite* AnimationEditorPrivate::at(unsigned index) const
 QVariant AnimationEditorPrivate::property(unsigned, unsigned key) const
 {
     FrameCode* const frame = currentFrame();
-    return frame && currentSprite ? editor->spriteProperty(frame, currentSprite, key) : QVariant();
+    if (!frame || !currentSprite) {
+        return {};
+    }
+    const QVariant value = editor->spriteProperty(frame, currentSprite, key);
+    return preview && key == 0 ? QVariant(value.toPoint() + preview->shift()) : value;
 }
 
 QVariant AnimationEditor::spriteProperty(FrameCode* frame, Sprite* sprite, unsigned int key) const

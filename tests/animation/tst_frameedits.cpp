@@ -1,4 +1,5 @@
 #include "animation/edits/alignment.h"
+#include "animation/edits/animationtext.h"
 #include "animation/edits/boxclipboard.h"
 #include "animation/edits/boxedits.h"
 #include "animation/edits/frameorder.h"
@@ -596,6 +597,8 @@ private slots:
     void refusesWhatTheGrammarDoesNot();
     void alignsAsAPlainModel();
     void boxesPassTheClipboard();
+    void takesOneAnimationAlone_data();
+    void takesOneAnimationAlone();
 };
 
 void TestFrameEdits::framesKeepTheirBoxes()
@@ -811,6 +814,41 @@ void TestFrameEdits::boxesPassTheClipboard()
         QCOMPARE(pastedBoxes(&broken).count(), 0);
     }
     QCOMPARE(pastedBoxes(nullptr).count(), 0);
+}
+
+void TestFrameEdits::takesOneAnimationAlone_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("another") << "animation 7\nframe 9,9" << true;
+    QTest::newRow("with blanks and other line ends") << "\n\n# a\r\nanimation 7" << true;
+    QTest::newRow("the same") << "animation 1\nframe 0,0" << true;
+    QTest::newRow("none") << "" << false;
+    QTest::newRow("comments alone") << "# frame 0,0" << false;
+    QTest::newRow("a frame in front") << "frame 0,0\nanimation 1" << false;
+    QTest::newRow("two") << "animation 1\nframe 0,0\nanimation 3" << false;
+    QTest::newRow("a group behind") << "animation 1\n[info]\nname = \"x\"" << false;
+}
+
+void TestFrameEdits::takesOneAnimationAlone()
+{
+    QFETCH(QString, code);
+    QFETCH(bool, isTaken);
+    const QString first = QStringLiteral("animation 0\nframe 0,0\n\n  animation 1\nframe 0,0\n\n"
+                                         "# below\nanimation 2");
+    Family::FamilyDocument document(Family::FileKind::Animations);
+    document.fromString(first);
+    QCOMPARE(replaceAnimation(document.animations(), 1, code + "\n\n# below"), isTaken);
+    QString clean = code;
+    clean.remove(QLatin1Char('\r'));
+    QString expected = first;
+    if (isTaken) {
+        expected.replace(QStringLiteral("animation 1\nframe 0,0"), clean.trimmed());
+    }
+    QCOMPARE(document.text(), expected);
+    QCOMPARE(document.animations()->count(), 3);
+    QCOMPARE(document.isUndoAvailable(), document.text() != first);
+    QVERIFY(!document.isRedoAvailable());
 }
 
 QTEST_MAIN(TestFrameEdits)
