@@ -6029,6 +6029,43 @@ Zeile %2, Spalte %3.</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::SpriteSave</name>
+    <message>
+        <source>Format of the files:</source>
+        <translation>Format der Dateien:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) of these names are in the folder already. Replace them?</source>
+        <translation>
+            <numerusform>Im Ordner gibt es schon %n Datei mit einem dieser Namen. Ersetzen?</numerusform>
+            <numerusform>Im Ordner gibt es schon %n Dateien mit diesen Namen. Ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The sprite for &apos;%1&apos; is not there any more.</source>
+        <translation>Den Sprite für &apos;%1&apos; gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not written: the pixels of the sprite are missing or broken.</source>
+        <translation>&apos;%1&apos; wird nicht geschrieben: Die Pixel des Sprites fehlen oder sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not written: no image can be saved in this format. Please take another one.</source>
+        <translation>&apos;%1&apos; wird nicht geschrieben: In diesem Format lässt sich kein Bild speichern. Bitte ein anderes nehmen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) written.</source>
+        <translation>
+            <numerusform>%n Datei geschrieben.</numerusform>
+            <numerusform>%n Dateien geschrieben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>... and %1 more.</source>
+        <translation>... und %1 weitere.</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::TextCodecs</name>
     <message>
         <source>System</source>

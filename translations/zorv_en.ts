@@ -254,4 +254,21 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>Zorv::SpriteSave</name>
+    <message numerus="yes">
+        <source>%n file(s) of these names are in the folder already. Replace them?</source>
+        <translation>
+            <numerusform>%n file of these names is in the folder already. Replace it?</numerusform>
+            <numerusform>%n files of these names are in the folder already. Replace them?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) written.</source>
+        <translation>
+            <numerusform>%n file written.</numerusform>
+            <numerusform>%n files written.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -72,6 +72,7 @@ class TestSprites : public Zorv::Sprites
 
 public:
     TestSprites() : m_palettes(this) {}
+    ~TestSprites() override { emit closing(); }
 
     void insert(int row, Zorv::SpriteNumber number, const QImage& image);
     void setImage(int row, const QImage& image);

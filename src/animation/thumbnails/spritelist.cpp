@@ -47,6 +47,7 @@ void SpriteListPrivate::follow()
     const auto forget = [this] { forgetPictures(); };
     QObject::connect(sprites, &Sprites::changed, &thumbnails, forget);
     QObject::connect(sprites->palettes(), &Palettes::palChanged, &thumbnails, forget);
+    QObject::connect(sprites, &Sprites::closing, &thumbnails, [this] { q->setSprites(nullptr); });
     QObject::connect(sprites, &QAbstractItemModel::dataChanged, &thumbnails, forget);
     QObject::connect(sprites, &QAbstractItemModel::modelReset, &thumbnails, forget);
     QObject::connect(sprites, &QAbstractItemModel::layoutChanged, &thumbnails, forget);

@@ -22,6 +22,7 @@ void RowList::setModel(QAbstractItemModel* model)
     }
     m_row = -1;
     emit currentRowChanged(-1);
+    emit selectedRowsChanged();
 }
 
 void RowList::takeRowBack()
@@ -33,6 +34,7 @@ void RowList::takeRowBack()
     } else {
         emit currentRowChanged(-1);
     }
+    emit selectedRowsChanged();
 }
 
 QVector<int> RowList::selectedRows() const
@@ -46,6 +48,12 @@ QVector<int> RowList::selectedRows() const
     }
     std::sort(rows.begin(), rows.end());
     return rows;
+}
+
+void RowList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    emit selectedRowsChanged();
 }
 
 void RowList::currentChanged(const QModelIndex& current, const QModelIndex& previous)

@@ -26,7 +26,12 @@ signals:
     /// The person is at another row; -1 for none.
     void currentRowChanged(int row);
 
+    /// Other rows are selected, or the rows have been read anew.
+    void selectedRowsChanged();
+
 protected:
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:

@@ -1,0 +1,269 @@
+#include "animation/thumbnails/thumbnailseditor.h"
+
+#include "animation/animationeditor.h"
+#include "animation/thumbnails/spritelist.h"
+#include "animation/thumbnails/spritesave_p.h"
+#include "animation/thumbnails/spriteuses.h"
+#include "cache/sprites.h"
+#include "code/codedoc/animations.h"
+#include "code/codedoc/codedocument.h"
+#include "core/interface.h"
+#include "core/project.h"
+#include "editors/framework/ownwidgetcontrol.h"
+#include "editors/framework/toolbuttoncontrol.h"
+#include "text/zorvtranslator.h"
+
+#include <QAction>
+#include <QPointer>
+
+#include <array>
+
+namespace Zorv {
+
+namespace {
+
+constexpr unsigned PanelText = 166;
+
+const char* const areas[] = {"anim", nullptr};
+const char* const listAreas[] = {"all", nullptr};
+
+const struct
+{
+    const char* name;
+    unsigned textId;
+    const char* slot;
+    const char* enableSignal;
+} tools[] = {
+    {"thumb_add", 167, SLOT(addSelected()), SIGNAL(addEnabled(bool))},
+    {"thumb_add_all", 168, SLOT(addAll()), SIGNAL(addAllEnabled(bool))},
+    {"thumb_new", 169, SLOT(newWithSelected()), SIGNAL(newEnabled(bool))},
+    {"thumb_new_all", 170, SLOT(newWithAll()), SIGNAL(newAllEnabled(bool))},
+    {"thumb_save", 171, SLOT(saveSelected()), SIGNAL(saveEnabled(bool))},
+};
+
+/// In the order of the tools.
+void (ThumbnailsEditor::*const enableSignals[])(bool) = {
+    &ThumbnailsEditor::addEnabled, &ThumbnailsEditor::addAllEnabled, &ThumbnailsEditor::newEnabled,
+    &ThumbnailsEditor::newAllEnabled, &ThumbnailsEditor::saveEnabled};
+
+/// Which tools are of use, in their order.
+using ToolStates = std::array<bool, std::size(tools)>;
+
+/// A list of animations is a file of its own, or a view on one.
+QVector<Animations*> animationsOf(const Project* project)
+{
+    QVector<Animations*> lists;
+    const QList<ProjectFile*> files = project ? project->files() : QList<ProjectFile*>();
+    for (ProjectFile* file : files) {
+        ProjectFile* list = file;
+        if (const auto* document = dynamic_cast<const CodeDocument*>(file)) {
+            list = document->documentEditor(CodeNode::Animation, 0);
+        }
+        lists.append(dynamic_cast<Animations*>(list));
+    }
+    lists.removeAll(nullptr);
+    return lists;
+}
+
+}  // namespace
+
+class ThumbnailsEditorPrivate
+{
+public:
+    explicit ThumbnailsEditorPrivate(ThumbnailsEditor* panel) : q(panel), list(new SpriteList) {}
+
+    void publish(Interface* host);
+    ToolStates state() const;
+    void tellState();
+    void followRows(Sprites* sprites);
+    QVector<SpriteNumber> selected() const;
+    QVector<SpriteNumber> all() const;
+    void add(const QVector<SpriteNumber>& sprites);
+    void makeNew(const QVector<SpriteNumber>& sprites);
+
+    ThumbnailsEditor* q;
+    QPointer<SpriteList> list;
+    SpriteUses uses;
+    QPointer<Project> project;
+    QPointer<Sprites> sprites;
+    QPointer<AnimationEditor> editor;
+    ToolStates told{};
+    QVector<QPointer<QAction>> actions;  ///< in the order of the tools; null for a host without
+};
+
+void ThumbnailsEditorPrivate::publish(Interface* host)
+{
+    for (const auto& tool : tools) {
+        const QString name = QString::fromLatin1(tool.name);
+        QAction* action = host->createAction(areas, name, ZorvTranslator::instance(), tool.textId,
+                                             nullptr, q, tool.slot, tool.enableSignal, nullptr);
+        if (action) {
+            host->addControl(name, ToolButtonControl(action));
+            list->addAction(action);
+        }
+        actions.append(action);
+    }
+    OwnWidgetControl control(list, q);
+    control.setAreas(listAreas);
+    host->addControl(QStringLiteral("thumb_list"), control);
+}
+
+ToolStates ThumbnailsEditorPrivate::state() const
+{
+    const bool isAny = list && list->model() && list->model()->rowCount() > 0;
+    const bool isSelected = isAny && list->selectionModel()->hasSelection();
+    const bool hasList = editor && editor->animations();
+    const bool hasAnimation = hasList && editor->currentAnimation();
+    return {isSelected && hasAnimation, isAny && hasAnimation, isSelected && hasList,
+            isAny && hasList, isSelected};
+}
+
+void ThumbnailsEditorPrivate::tellState()
+{
+    const ToolStates before = told;
+    told = state();
+    const ToolStates now = told;
+    for (size_t i = 0; i < now.size(); ++i) {
+        if (now[i] != before[i]) {
+            emit(q->*enableSignals[i])(now[i]);
+        }
+    }
+}
+
+void ThumbnailsEditorPrivate::followRows(Sprites* followed)
+{
+    if (sprites) {
+        sprites->disconnect(q);
+    }
+    sprites = followed;
+    if (!followed) {
+        return;
+    }
+    const auto tell = [this] { tellState(); };
+    QObject::connect(followed, &QAbstractItemModel::rowsInserted, q, tell);
+    QObject::connect(followed, &QAbstractItemModel::rowsRemoved, q, tell);
+    QObject::connect(followed, &QAbstractItemModel::modelReset, q, tell);
+    QObject::connect(followed, &Sprites::closing, q, tell, Qt::QueuedConnection);
+}
+
+QVector<SpriteNumber> ThumbnailsEditorPrivate::selected() const
+{
+    return list ? list->selectedSprites() : QVector<SpriteNumber>();
+}
+
+QVector<SpriteNumber> ThumbnailsEditorPrivate::all() const
+{
+    return list ? list->allSprites() : QVector<SpriteNumber>();
+}
+
+void ThumbnailsEditorPrivate::add(const QVector<SpriteNumber>& numbers)
+{
+    if (editor && !numbers.isEmpty()) {
+        editor->addSprites(editor->frameIndex() + 1, numbers);
+    }
+}
+
+void ThumbnailsEditorPrivate::makeNew(const QVector<SpriteNumber>& numbers)
+{
+    if (editor && !numbers.isEmpty()) {
+        editor->newAnimation(numbers);
+    }
+}
+
+ThumbnailsEditor::ThumbnailsEditor(QObject* parent)
+    : ExtraEditor(parent), d(std::make_unique<ThumbnailsEditorPrivate>(this))
+{
+    d->list->setUses(&d->uses);
+    d->publish(Interface::instance());
+    retranslate();
+    connect(d->list, &SpriteList::selectedRowsChanged, this, [this] { d->tellState(); });
+    connect(d->list, &QListView::activated, this, [this] {
+        if (QAction* action = d->actions.first()) {
+            action->trigger();
+        }
+    });
+    for (const auto signal : enableSignals) {
+        emit(this->*signal)(false);
+    }
+}
+
+ThumbnailsEditor::~ThumbnailsEditor()
+{
+    delete d->list;
+}
+
+QString ThumbnailsEditor::name() const
+{
+    return QStringLiteral("thumbnails");
+}
+
+QString ThumbnailsEditor::displayName() const
+{
+    return ZorvTranslator::instance()->trText(PanelText);
+}
+
+void ThumbnailsEditor::retranslate()
+{
+    if (d->list) {
+        d->list->setAccessibleName(displayName());
+    }
+}
+
+void ThumbnailsEditor::setProject(Project* project)
+{
+    auto* sprites = dynamic_cast<Sprites*>(project ? project->file(FileID::Sprites) : nullptr);
+    d->project = project;
+    d->uses.setAnimations(animationsOf(project));
+    if (d->list && sprites != d->sprites) {
+        d->followRows(sprites);
+        d->list->setSprites(sprites);
+    }
+    d->tellState();
+}
+
+void ThumbnailsEditor::setAnimationEditor(AnimationEditor* editor)
+{
+    if (d->editor) {
+        d->editor->disconnect(this);
+    }
+    d->editor = editor;
+    if (editor) {
+        connect(editor, &AnimationEditor::shownChanged, this, [this] { d->tellState(); });
+        connect(editor, &QObject::destroyed, this, [this] { d->tellState(); });
+    }
+    d->tellState();
+}
+
+SpriteList* ThumbnailsEditor::list() const
+{
+    return d->list;
+}
+
+void ThumbnailsEditor::addSelected()
+{
+    d->add(d->selected());
+}
+
+void ThumbnailsEditor::addAll()
+{
+    d->add(d->all());
+}
+
+void ThumbnailsEditor::newWithSelected()
+{
+    d->makeNew(d->selected());
+}
+
+void ThumbnailsEditor::newWithAll()
+{
+    d->makeNew(d->all());
+}
+
+void ThumbnailsEditor::saveSelected()
+{
+    if (d->list && d->list->sprites()) {
+        SpriteSave(d->list->sprites(), d->list->selectedRows(), d->project).run();
+    }
+}
+
+}  // namespace Zorv
