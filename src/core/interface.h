@@ -63,7 +63,8 @@ public:
     /// The model of the engine family in use.
     virtual EngineModel* engineModel() const = 0;
 
-    /// The active editor, or null.
+    /// The active editor, or null. In the middle of `activateEditor()` it is the one that comes
+    /// forward already: so an editor that goes can leave to it what they share.
     virtual Editor* currentEditor() const = 0;
 
     /// The editor whose `name()` is `name`, or null.

@@ -44,14 +44,27 @@ bool CodeFileEditorPrivate::findFrom(const CodeFind& what, bool backward)
     return match.hasMatch();
 }
 
-void CodeFileEditorPrivate::showModel(CodeItemModel* shown)
+CodeFileEditor* CodeFileEditorPrivate::follower() const
 {
-    if (!tree) {
+    auto* next = qobject_cast<CodeFileEditor*>(Interface::instance()->currentEditor());
+    const bool isSame = next && next != q && document && next->d->document == document &&
+                        next->d->workspace == workspace;
+    return isSame ? next : nullptr;
+}
+
+/// What shows the document already is left as it is.
+void CodeFileEditorPrivate::joinTree(CodeDocument* shown, bool isJoined)
+{
+    if (model && model->document() != shown) {
+        model->setDocument(shown);
+    }
+    CodeItemModel* const wanted = isJoined ? model : nullptr;
+    if (!tree || tree->model() == wanted) {
         return;
     }
     // A view makes a new one for each model and leaves the old one where it is.
     const QItemSelectionModel* selection = tree->selectionModel();
-    tree->setModel(shown);
+    tree->setModel(wanted);
     if (selection != tree->selectionModel()) {
         delete selection;
     }
@@ -82,6 +95,8 @@ CodeFileEditor::CodeFileEditor(CodeWorkspace* workspace, CodeItemModel* model, c
                                QObject* parent)
     : FileEditor(parent), d(std::make_unique<CodeFileEditorPrivate>())
 {
+    d->q = this;
+    d->treeOwner = this;
     d->workspace = workspace;
     d->model = model;
     if (model) {
@@ -138,6 +153,11 @@ QTreeView* CodeFileEditor::tree() const
     return d->tree;
 }
 
+void CodeFileEditor::shareTree(CodeFileEditor* owner)
+{
+    d->treeOwner = owner ? owner->d->treeOwner : this;
+}
+
 void CodeFileEditor::activate()
 {
     if (isActive()) {
@@ -167,11 +187,12 @@ void CodeFileEditor::deactivate()
 void CodeFileEditor::attach()
 {
     const CodeEditor* editor = d->workspace->editor();
+    CodeFileEditorPrivate* const nodes = d->treeOwner->d.get();
     if (CodeDocument* document = d->document) {
         d->connections << connect(document, &QTextDocument::modificationChanged, this,
                                   &CodeFileEditor::contentsChanged);
-        if (d->model) {
-            d->connections << connect(document, &QTextDocument::contentsChanged, d->model,
+        if (nodes->model) {
+            d->connections << connect(document, &QTextDocument::contentsChanged, nodes->model,
                                       &CodeItemModel::update);
         }
         d->connections << connect(document, &CodeDocument::closing, this, [this] {
@@ -184,11 +205,10 @@ void CodeFileEditor::attach()
     d->connections << connect(editor, &CodeEditor::cursorChanged, this,
                               &CodeFileEditor::cursorChanged);
     d->text.setDocument(d->document);
-    d->workspace->setDocument(d->document);
-    if (d->model) {
-        d->model->setDocument(d->document);
+    if (editor->codeDocument() != d->document) {
+        d->workspace->setDocument(d->document);
     }
-    d->showModel(d->model);
+    nodes->joinTree(d->document, true);
 }
 
 void CodeFileEditor::detach()
@@ -198,14 +218,14 @@ void CodeFileEditor::detach()
     }
     d->connections.clear();
     d->text.setDocument(nullptr);
+    const CodeFileEditor* const next = d->follower();
     // Another editor may have brought its own document by now.
-    if (d->editor()) {
+    if (d->editor() && !next) {
         d->workspace->setDocument(nullptr);
     }
-    if (d->model) {
-        d->model->setDocument(nullptr);
+    if (!next || next->d->treeOwner != d->treeOwner) {
+        d->treeOwner->d->joinTree(nullptr, false);
     }
-    d->showModel(nullptr);
 }
 
 void CodeFileEditor::navigateTo(const QString&, unsigned, unsigned line, unsigned column)
@@ -311,6 +331,10 @@ void CodeFileEditor::cursorChanged(QPoint place)
 
 void CodeFileEditor::currLineChanged(int line)
 {
+    if (d->treeOwner != this) {
+        d->treeOwner->currLineChanged(line);
+        return;
+    }
     if (!d->model || !d->tree) {
         return;
     }
@@ -334,7 +358,9 @@ void CodeFileEditor::currLineChanged(int line)
 
 void CodeFileEditor::selectedItem(const QModelIndex& index)
 {
-    const int line = isActive() && d->model ? d->model->lineNo(index) : -1;
+    const auto* user = qobject_cast<const CodeFileEditor*>(host()->currentEditor());
+    const bool isShared = user && user->isActive() && user->d->treeOwner == this;
+    const int line = (isActive() || isShared) && d->model ? d->model->lineNo(index) : -1;
     if (line >= 0) {
         CodeEditor* editor = d->workspace->editor();
         editor->setCurrentLine(unsigned(line), CodeEditor::TopLine);

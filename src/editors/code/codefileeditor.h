@@ -21,7 +21,11 @@ class CodeWorkspace;
 /// workspace: find and replace, place and number of errors in the status bar, and
 /// a tree of the document's nodes that follows the cursor. Derived editors give
 /// it a name, areas and an action, and join what they have beside the text in
-/// `attach()` and `detach()`. Main thread only.
+/// `attach()` and `detach()`.
+///
+/// Several editors can have the same document in the same workspace. One that goes
+/// while such another one comes forward, or has come, leaves the text as it is:
+/// cursor, selection, view and focus stay. Main thread only.
 class ZORV_EXPORT CodeFileEditor : public FileEditor
 {
     Q_OBJECT
@@ -48,6 +52,11 @@ public:
     /// Null for none; the editor's, and the host's.
     CodeItemModel* model() const;
     QTreeView* tree() const;
+
+    /// Shows the nodes in the tree of another editor, of the same workspace, in place of one
+    /// of its own: what stands there stays when one of them comes forward after the other.
+    /// To be called before the editor is activated; the other one outlives it.
+    void shareTree(CodeFileEditor* owner);
 
     /// Asks the host to bring the editor forward, which puts the one before away, and then
     /// joins document and workspace and has the workspace shown. The host may call it again
@@ -91,7 +100,7 @@ public slots:
     virtual void currLineChanged(int line);
 
     /// The person has chosen a node in the tree: the cursor goes there. Nothing while
-    /// the editor is inactive.
+    /// the editor, and whichever shares its tree, is inactive.
     void selectedItem(const QModelIndex& index);
 
 protected:
@@ -102,6 +111,7 @@ protected:
     virtual void detach();
 
 private:
+    friend class CodeFileEditorPrivate;
     std::unique_ptr<CodeFileEditorPrivate> d;
 };
 

@@ -11,6 +11,7 @@ namespace Zorv {
 
 class CodeDocument;
 class CodeEditor;
+class CodeFileEditor;
 class CodeFind;
 class CodeItemModel;
 class CodeWorkspace;
@@ -24,8 +25,12 @@ public:
     /// The editor of the workspace while it shows the document, else null.
     CodeEditor* editor() const;
 
-    /// Gives the tree a model, null for none.
-    void showModel(CodeItemModel* shown);
+    /// The editor that has come, or comes, forward, if it shows the same document in the
+    /// same workspace; null for none.
+    CodeFileEditor* follower() const;
+
+    /// Has the model of the tree show a document, and the tree its model, or none.
+    void joinTree(CodeDocument* shown, bool isJoined);
 
     /// Looks from the selection on, and selects what it finds.
     bool findFrom(const CodeFind& what, bool backward);
@@ -34,6 +39,8 @@ public:
     void replaceSelection(const CodeFind& what, const QString& with);
     void replaceAll(const CodeFind& what, const QString& with);
 
+    CodeFileEditor* q = nullptr;
+    CodeFileEditor* treeOwner = nullptr;  ///< itself, or whose tree it shares
     CodeWorkspace* workspace = nullptr;
     CodeItemModel* model = nullptr;
     QPointer<CodeDocument> document;

@@ -9,6 +9,7 @@
 #include "editors/code/codeworkspace.h"
 #include "editors/framework/findflag.h"
 
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTreeView>
 #include <QtTest>
@@ -29,10 +30,11 @@ public:
 
     void activateEditor(Editor* newEditor) override
     {
-        if (editor && editor != newEditor) {
-            editor->deactivate();
-        }
+        Editor* const before = editor;
         TestInterface::activateEditor(newEditor);
+        if (before && before != newEditor) {
+            before->deactivate();
+        }
         for (int i = 0; i < activations; ++i) {
             newEditor->activate();
         }
@@ -95,6 +97,7 @@ private slots:
     void documentDiesWhileActive();
     void documentsTakeTurns();
     void editorsTakeTurns();
+    void treeIsShared();
     void anotherDocumentWhileActive();
     void joinsOnce_data();
     void joinsOnce();
@@ -400,21 +403,59 @@ void TestCodeFileEditor::documentsTakeTurns()
     QCOMPARE(editor->codeDocument(), document.get());
 }
 
-/// Two editors of one document in one workspace: the text stays, and the one in front works on it.
+/// Two editors of one document in one workspace: the text stays as it is, and the one in front
+/// works on it.
 void TestCodeFileEditor::editorsTakeTurns()
 {
+    setText(QStringLiteral("[1]\na=1\n") + QString(200, QLatin1Char('\n')) +
+            QStringLiteral("[2]\na=3\n") + QString(200, QLatin1Char('\n')));
     TextEditor other(workspace.get());
     other.setDocument(document.get());
-    for (TextEditor* next : {&other, text.get()}) {
+    select(205, 208);
+    QScrollBar* const bar = editor->verticalScrollBar();
+    bar->setValue(190);
+    for (TextEditor* next : {&other, text.get(), &other}) {
         next->activate();
         QCOMPARE(editor->codeDocument(), document.get());
         for (TextEditor* each : {&other, text.get()}) {
             QCOMPARE(each->isActive(), each == next);
             QCOMPARE(each->model()->document(), each == next ? document.get() : nullptr);
         }
-        next->find(QStringLiteral("a=3"), 0);
-        QCOMPARE(editor->textCursor().selectedText(), QStringLiteral("a=3"));
+        QCOMPARE(selection(), qMakePair(205, 208));
+        QCOMPARE(bar->value(), 190);
     }
+    // Whoever goes late takes nothing along.
+    host->activations = 0;
+    host->editor = nullptr;
+    text->activate();
+    other.deactivate();
+    QCOMPARE(editor->codeDocument(), document.get());
+    QCOMPARE(selection(), qMakePair(205, 208));
+    text->find(QStringLiteral("a=3"), 0);
+    QCOMPARE(editor->textCursor().selectedText(), QStringLiteral("a=3"));
+}
+
+/// What is open in the tree stays so, and a row leads to its line, whoever is in front.
+void TestCodeFileEditor::treeIsShared()
+{
+    TextEditor other(workspace.get(), nullptr);
+    other.setDocument(document.get());
+    other.shareTree(text.get());
+    QTreeView* const tree = text->tree();
+    const QModelIndex group = text->model()->index(0, 0);
+    tree->expand(group);
+    for (TextEditor* next : {&other, text.get(), &other}) {
+        next->activate();
+        QVERIFY(tree->isExpanded(group));
+        editor->setCurrentLine(5, CodeEditor::NearestLine);
+        QCOMPARE(tree->currentIndex(), text->model()->index(2, 0));
+        text->selectedItem(group);
+        QCOMPARE(editor->textCursor().blockNumber(), 0);
+    }
+    QTextCursor(document.get()).insertText(QStringLiteral("[4]\n"));
+    QCOMPARE(text->model()->rowCount(), 4);
+    other.deactivate();
+    QVERIFY(!tree->model() && !editor->codeDocument());
 }
 
 void TestCodeFileEditor::anotherDocumentWhileActive()
