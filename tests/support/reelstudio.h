@@ -25,6 +25,8 @@ public:
         setFrameExtra(false);
     }
 
+    QString gifName;  ///< of the last file that was to be written
+
 protected:
     FieldRange fieldRange(Field field) const override
     {
@@ -42,8 +44,9 @@ protected:
     {
         Zorv::copyBoxes(source, target);
     }
-    bool saveAnimationGIF(const QString&, QString* error) override
+    bool saveAnimationGIF(const QString& fileName, QString* error) override
     {
+        gifName = fileName;
         *error = QStringLiteral("There are no pictures.");
         return false;
     }
