@@ -5290,8 +5290,12 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>Animation verdoppeln</translation>
     </message>
     <message>
-        <source>There is an animation of this name. Another identifier:</source>
-        <translation>Eine Animation mit diesem Namen gibt es schon. Andere Kennung:</translation>
+        <source>There is an animation of this name. Identifier:</source>
+        <translation>Eine Animation dieses Namens gibt es schon. Kennung:</translation>
+    </message>
+    <message>
+        <source>This cannot name an animation. Identifier:</source>
+        <translation>So kann eine Animation nicht heißen. Kennung:</translation>
     </message>
     <message>
         <source>Insert animation</source>

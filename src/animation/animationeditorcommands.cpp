@@ -1,4 +1,5 @@
 #include "animation/animationeditor_p.h"
+#include "cache/spritenumber.h"
 #include "code/codedoc/animationcode.h"
 #include "code/codedoc/animations.h"
 #include "code/codedoc/framecode.h"
@@ -6,6 +7,7 @@
 #include "core/interface.h"
 
 #include <QTextBlock>
+#include <QTextCursor>
 
 namespace Zorv {
 
@@ -34,29 +36,49 @@ void endLastLine(CodeDocument* document)
     }
 }
 
-void insertText(Animations* list, int position, const QString& text)
+/// In front of all that the animation at `position` takes along; with an empty line behind it where
+/// animations stand apart.
+void insertText(const Animations* list, int position, const QString& text)
 {
     CodeDocument* document = list->document();
-    const QString lines = text.endsWith(QLatin1Char('\n')) ? text : text + QLatin1Char('\n');
-    if (const AnimationCode* behind = list->at(unsigned(position))) {
-        document->insertBefore(behind, lines, false);
-    } else {
+    QString lines = text.endsWith(QLatin1Char('\n')) ? text : text + QLatin1Char('\n');
+    if (!list->at(unsigned(position))) {
         endLastLine(document);
         document->insert(lines);
+        return;
     }
+    QTextCursor cursor = list->ownLines(unsigned(position));
+    cursor.setPosition(cursor.selectionStart());
+    const QTextBlock above = cursor.block().previous();
+    if (above.isValid() && above.length() == 1) {
+        lines += QLatin1Char('\n');
+    }
+    document->insertOnCursor(lines, cursor);
 }
 
-/// Asks again for one that stands there already.
+/// Asks again for one that stands there already, or that the grammar does not take.
 std::optional<QString> askIdentifier(const Animations* list, const QString& first)
 {
     std::optional<QString> answer = first;
     QString label = AnimationEditor::tr("Identifier:");
-    do {
+    for (;;) {
         answer = Dialogs::instance()->askText(AnimationEditor::tr("Duplicate animation"), label,
                                               *answer);
-        label = AnimationEditor::tr("There is an animation of this name. Another identifier:");
-    } while (answer && !answer->isEmpty() && list->find(0, *answer) >= 0);
-    return answer;
+        if (!answer || (list->canName(*answer) && list->find(0, *answer) < 0)) {
+            return answer;
+        }
+        label = list->canName(*answer)
+                    ? AnimationEditor::tr("There is an animation of this name. Identifier:")
+                    : AnimationEditor::tr("This cannot name an animation. Identifier:");
+    }
+}
+
+/// The code of an animation under another identifier, or none.
+QString copyOf(const Animations* list, unsigned index, const QString& identifier)
+{
+    return identifier.isEmpty() ? list->ownLines(index).selectedText().replace(
+                                      QChar::ParagraphSeparator, QLatin1Char('\n'))
+                                : list->codeFor(index, identifier, {});
 }
 
 }  // namespace
@@ -114,19 +136,25 @@ void AnimationEditorPrivate::duplicate()
     if (!currentAnimation()) {
         return;
     }
+    const QPointer<Animations> list = animations;
     std::optional<QString> identifier = QString();
     if (ask(AnimationEditor::tr("Do you want to define a new identifier?"), Dialogs::Yes) ==
         Dialogs::Yes) {
         identifier = askIdentifier(
             animations, currentAnimation()->property(QStringLiteral("Identifier")).toString());
     }
-    if (!identifier || !currentAnimation()) {
+    if (!identifier || !currentAnimation() || list != animations) {
         return;
     }
     const int index = animationIndex();
     const int count = animationCount();
+    const QString copy = copyOf(animations, unsigned(index), *identifier);
     animations->beginChange(AnimationEditor::tr("Duplicate animation"));
-    animations->duplicate(unsigned(index), *identifier);
+    if (copy.isEmpty()) {
+        animations->duplicate(unsigned(index), *identifier);
+    } else {
+        insertText(animations, index + 1, copy);
+    }
     animations->endChange();
     if (animationCount() > count) {
         showAnimation(index + 1);

@@ -49,6 +49,7 @@ class PoseEditor : public AnimationEditor
 public:
     using AnimationEditor::AnimationEditor;
     void find(const QString&, unsigned) override {}
+    void hideExtra() { setFrameExtra(false); }
 
     QString newIdentifier;
     QString newText;
@@ -103,6 +104,7 @@ class TestAnimationEditor : public QObject
 private slots:
     void init();
     void cleanup();
+    void toolsAreThoseOfTheTable();
     void frameIsShown();
     void fieldsWriteWhatIsTyped_data();
     void fieldsWriteWhatIsTyped();
@@ -190,6 +192,111 @@ void TestAnimationEditor::cleanup()
     document.reset();
     dialogs.reset();
     host.reset();
+}
+
+/// Kind, text, and by whom it is enabled: a animation, f frame, n no window of code, x extra.
+void TestAnimationEditor::toolsAreThoseOfTheTable()
+{
+    const struct
+    {
+        const char* name;
+        const char* text;
+        char enabledBy;
+    } told[] = {
+        {"anim_editcode", "Edit code", ' '},
+        {"anim_code", "Edit animation code", 'a'},
+        {"anim_add", "Add", ' '},
+        {"anim_delete", "Delete", 'a'},
+        {"anim_duplicate", "Duplicate", 'a'},
+        {"anim_save_gif", "Save as animated GIF...", 'a'},
+        {"anim_play", "Play", 'a'},
+        {"anim_stop", "Stop", 'a'},
+        {"anim_frame_add", "Add frame", 'a'},
+        {"anim_frame_delete", "Delete frame", 'f'},
+        {"anim_frameall_offset", "Apply offset to all next frames", 'f'},
+        {"anim_frameall_time", "Apply time to all next frames", 'f'},
+        {"anim_frameall_flip", "Apply flip to all next frames", 'f'},
+        {"anim_frameall_scale", "Apply scale to all next frames", 'f'},
+        {"anim_frame_align", "Alignment Tool", 'f'},
+        {"anim_box_add_attack", "Add Attack box", 'n'},
+        {"anim_box_add_collision", "Add Collision box", 'n'},
+        {"anim_box_del", "Delete selected Contact boxes", 'n'},
+        {"anim_box_delall", "Delete all Contact boxes", 'f'},
+        {"anim_box_delall_anim", "Delete all Contact boxes of current animation", 'f'},
+        {"anim_box_type", "Switch Contact box type", 'n'},
+        {"anim_box_prev", "Copy Contact boxes of previous frame", 'f'},
+        {"anim_box_allinst", "Use these Contact boxes in all other instances of this frame", 'f'},
+        {"anim_optimize", "Optimize", ' '},
+        {"anim_sel", "slider", ' '},
+        {"anim_sel_lb", "label", ' '},
+        {"anim_frame_sel", "slider", ' '},
+        {"anim_frame_sel_lb", "label", ' '},
+        {"anim_frame_xaxis", "spin", 'f'},
+        {"anim_frame_yaxis", "spin", 'f'},
+        {"anim_frame_flip", "combo", 'f'},
+        {"anim_frame_xscale", "real", 'x'},
+        {"anim_frame_yscale", "real", 'x'},
+        {"anim_frame_angle", "real", 'x'},
+        {"anim_pos_left", "Move 1px to the left", 'f'},
+        {"anim_pos_up", "Move 1px up", 'f'},
+        {"anim_pos_right", "Move 1px to the right", 'f'},
+        {"anim_pos_down", "Move 1px down", 'f'},
+        {"anim_frame_time", "spin", 'f'},
+        {"anim_onion_skin", "check", 'n'},
+        {"anim_onion_sel", "slider", ' '},
+        {"anim_onion_framesel", "slider", ' '},
+        {"anim_onion_lb", "label", ' '},
+        {"anim_prev_anim", "Previous animation", 'a'},
+        {"anim_next_anim", "Next animation", 'a'},
+        {"anim_prev_frame", "Previous frame", 'f'},
+        {"anim_next_frame", "Next frame", 'f'},
+    };
+    const QHash<QByteArray, QString> kinds{
+        {"QSlider", QStringLiteral("slider")},  {"QLabel", QStringLiteral("label")},
+        {"QSpinBox", QStringLiteral("spin")},   {"QDoubleSpinBox", QStringLiteral("real")},
+        {"QComboBox", QStringLiteral("combo")}, {"QCheckBox", QStringLiteral("check")}};
+    const QRegularExpression published(QStringLiteral("^addControl\\((anim_\\w+)\\)"));
+    QStringList order;
+    for (const QString& call : qAsConst(host->calls)) {
+        order.append(published.match(call).captured(1));
+    }
+    order.removeAll(QString());
+    int last = -1;
+    const auto isEnabled = [this](const char* name) {
+        return action(name) ? action(name)->isEnabled() : widget<QWidget>(name)->isEnabled();
+    };
+    for (const auto& row : told) {
+        const QString name = QString::fromLatin1(row.name);
+        const int place = order.indexOf(name);
+        QVERIFY2(place > last, row.name);
+        last = place;
+        QWidget* const box = host->controls.value(name);
+        QCOMPARE(action(row.name) ? action(row.name)->text()
+                                  : kinds.value(box->metaObject()->className()),
+                 QString::fromLatin1(row.text));
+        if (action(row.name)) {
+            QCOMPARE(host->areasOf.value(name), QStringList(QStringLiteral("animations")));
+        }
+    }
+    // An animation without frames, none at all, and frames without scale and angle.
+    const auto compare = [&](const QString& isOn) {
+        for (const auto& row : told) {
+            if (isEnabled(row.name) != isOn.contains(QLatin1Char(row.enabledBy))) {
+                return QString::fromLatin1(row.name);
+            }
+        }
+        return QString();
+    };
+    QCOMPARE(compare(QStringLiteral(" afnx")), QString());
+    editor->selectAnimation(1);
+    QCOMPARE(compare(QStringLiteral(" a")), QString());
+    editor->selectAnimation(0);
+    editor->hideExtra();
+    QCOMPARE(compare(QStringLiteral(" afn")), QString());
+    editor->play();
+    QCOMPARE(compare(QStringLiteral(" a")), QString());
+    document->fromString(QString());
+    QTRY_COMPARE(compare(QStringLiteral(" ")), QString());
 }
 
 void TestAnimationEditor::frameIsShown()
@@ -511,11 +618,13 @@ void TestAnimationEditor::commands()
     QCOMPARE(document->text().section(QLatin1Char('\n'), -3), editor->newText + QLatin1Char('\n'));
 
     dialogs->buttonAnswers = {Dialogs::Yes};
-    dialogs->textAnswers = QStringList{QStringLiteral("one"), QStringLiteral("copy")};
+    dialogs->textAnswers =
+        QStringList{QStringLiteral("one"), QStringLiteral(" "), QStringLiteral("copy")};
     action("anim_duplicate")->trigger();
     QCOMPARE(editor->animations()->count(), 6);
     QCOMPARE(editor->animationIndex(), 5);
-    QCOMPARE(dialogs->count(QStringLiteral("askText")), 2);
+    QCOMPARE(dialogs->count(QStringLiteral("askText")), 3);
+    QVERIFY(document->text().endsWith(QLatin1String("@copy\n> 0,0 0,0 1 0 1,1 0\n")));
     dialogs->buttonAnswers = {Dialogs::Yes};
     action("anim_duplicate")->trigger();
     QCOMPARE(editor->animations()->count(), 6);

@@ -266,6 +266,14 @@ QString PoseAnimation::frameTemplate(const FrameCode*) const
     return PoseData::of(QStringLiteral("> 0,0 0,0 5 0 1,1 0")).line();
 }
 
+QString PoseAnimations::codeFor(unsigned index, const QString& identifier,
+                                const QHash<SpriteNumber, SpriteNumber>&) const
+{
+    QStringList lines = ownLines(index).selectedText().split(QChar::ParagraphSeparator);
+    lines[0] = QLatin1Char('@') + identifier;
+    return lines.join(QLatin1Char('\n'));
+}
+
 PoseDocument::PoseDocument(const QString& text)
     : CodeDocument(0), m_animations(new PoseAnimations(this))
 {

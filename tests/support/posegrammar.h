@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cache/sprite.h"
+#include "cache/spritenumber.h"
 #include "code/codedoc/animationcode.h"
 #include "code/codedoc/animations.h"
 #include "code/codedoc/codedocument.h"
@@ -126,6 +127,8 @@ public:
     using Animations::Animations;
     void release() override { delete this; }
     int optimize(bool, QStringList*) override { return 0; }
+    QString codeFor(unsigned index, const QString& identifier,
+                    const QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>& map) const override;
     QString animationTemplate() const override
     {
         return QStringLiteral("@%1\n> 0,0 0,0 5 0 1,1 0\n");
