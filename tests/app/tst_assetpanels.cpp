@@ -3,11 +3,13 @@
 #include "app/assets/soundpanel.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/spritepicture.h"
+#include "app/assets/thumbnailcommands.h"
 #include "app/window/panelplace.h"
 #include "family/assets/soundfile.h"
 #include "family/assets/spritefile.h"
 
 #include <zorv/animation/thumbnails/spritelist.h>
+#include <zorv/animation/thumbnails/thumbnailseditor.h>
 #include <zorv/core/filesystemarchive.h>
 #include <zorv/editors/framework/rowlist.h>
 #include <zorv/media/soundsample.h>
@@ -61,6 +63,7 @@ private slots:
 
     void showsWhatIsInSight();
     void followsTheCursor();
+    void thumbnailsAreThoseOfTheProject();
     void bringsImagesIn();
     void replacesAnImage_data();
     void replacesAnImage();
@@ -151,6 +154,17 @@ void TestAssetPanels::followsTheCursor()
     m->fixture.goTo(2);
     QCoreApplication::processEvents();
     QCOMPARE(panel()->currentSprite()->id(), (AssetId{0, 0}));
+}
+
+void TestAssetPanels::thumbnailsAreThoseOfTheProject()
+{
+    const Zorv::SpriteList* list = m->fixture.window->thumbnails()->panel()->list();
+    QCOMPARE(list->sprites(), sprites());
+    QVERIFY(!list->isMarked(2) && list->isMarked(499));
+    m->fixture.document()->insert(QStringLiteral("frame 0,499  delay 3\n"));
+    QVERIFY(!list->isMarked(499));
+    undo(m->fixture.edit());
+    QVERIFY(list->isMarked(499));
 }
 
 void TestAssetPanels::bringsImagesIn()

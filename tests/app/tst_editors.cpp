@@ -297,7 +297,7 @@ void TestEditors::showsAPanel()
     QVERIFY(dock);
     QCOMPARE(dock->windowTitle(), QStringLiteral("Second panel"));
     QTRY_VERIFY(panel.isActive());
-    QCOMPARE(m->host.extraEditor(1), &panel);
+    QCOMPARE(m->host.extraEditor(2), &panel);
     dock->close();
     QTRY_VERIFY(!panel.isActive());
     m->host.showExtraEditor(&panel);
@@ -310,7 +310,7 @@ void TestEditors::showsAPanel()
 void TestEditors::hostHasNoNameOfAnEditor()
 {
     const QRegularExpression ofLaterEditors(
-        QStringLiteral("^(anim|spr|pal|snd|thumb)_|^view_(center_origin|main_cross|secondary_cross|"
+        QStringLiteral("^(anim|spr|pal|snd)_|^view_(center_origin|main_cross|secondary_cross|"
                        "extra_cross|rulers|guide_lines|attack_box|collision_box)$"));
     QStringList taken;
     const QStringList names = window()->registry()->names();

@@ -163,7 +163,8 @@ void TestEveryAction::opensFromTheMenus()
     }
     // Nothing runs that could be ended, no box is selected, and without GL there is no stage.
     QCOMPARE(missed.join(' '),
-             QStringLiteral("stage_draw_attack stage_draw_body stage_remove_boxes stage_capture "
+             QStringLiteral("thumb_add thumb_add_all thumb_new thumb_new_all thumb_save "
+                            "stage_draw_attack stage_draw_body stage_remove_boxes stage_capture "
                             "stage_center_origin stop_engine"));
     QVERIFY(!m->window->isVisible());
 }

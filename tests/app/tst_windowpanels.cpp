@@ -2,11 +2,13 @@
 
 #include "app/actions/actionregistry.h"
 #include "app/assets/spritepanel.h"
+#include "app/assets/thumbnailcommands.h"
 #include "app/stage/stagecommands.h"
 #include "app/stage/stageview.h"
 #include "family/nodes/animationnode.h"
 
 #include <zorv/animation/thumbnails/spritelist.h>
+#include <zorv/animation/thumbnails/thumbnailseditor.h>
 #include <zorv/animation/timeline/timelinewidget.h>
 #include <zorv/core/messagelist.h>
 
@@ -311,7 +313,8 @@ void TestWindowPanels::showsTheOrganizerBySetting()
     QVERIFY(dock);
     QTRY_VERIFY(dock->isVisible());
     QCOMPARE(m->host.extraEditor(0)->displayName(), dock->windowTitle());
-    QVERIFY(!m->host.extraEditor(1));
+    QCOMPARE(m->host.extraEditor(1), window()->thumbnails()->panel());
+    QVERIFY(!m->host.extraEditor(2));
     dock->close();
     QCOMPARE(m->host.option(key), QVariant(false));
     m->host.setOption(key, true);

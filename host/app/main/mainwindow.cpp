@@ -8,6 +8,7 @@
 #include "app/assets/soundpanel.h"
 #include "app/assets/spritecommands.h"
 #include "app/assets/spritepanel.h"
+#include "app/assets/thumbnailcommands.h"
 #include "app/changes/filestates.h"
 #include "app/code/codetexteditor.h"
 #include "app/code/codeview.h"
@@ -140,10 +141,14 @@ void MainWindow::publishTools()
 {
     m_code = new CodeView(m_services, m_middle);
     m_animations = new AnimationCommands(m_services);
+    m_thumbnails = new ThumbnailCommands(m_services);
     m_stage = new StageCommands(m_services, m_middle, m_code->editor());
     resizeDocks({findChild<QDockWidget*>(QStringLiteral("projects")),
                  findChild<QDockWidget*>(QStringLiteral("nodes"))},
                 {240, 280}, Qt::Horizontal);
+    tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("sounds")),
+                     findChild<QDockWidget*>(QStringLiteral("thumbnails")));
+    findChild<QDockWidget*>(QStringLiteral("sprites"))->raise();
     addParts();
     connectParts();
     m_services.parts->begin();
@@ -161,10 +166,10 @@ void MainWindow::publishTools()
 /// In the order in which the keyboard goes round, and in which sections of menus are filled.
 void MainWindow::addParts()
 {
-    for (Part* part : std::initializer_list<Part*>{m_router, m_opener, m_gameCommands, m_gameTree,
-                                                   m_services.editors, m_sprites, m_sounds, m_stage,
-                                                   m_code, m_animations, m_problems, m_messagePanel,
-                                                   m_runCommands, m_services.status, m_commands}) {
+    for (Part* part : std::initializer_list<Part*>{
+             m_router, m_opener, m_gameCommands, m_gameTree, m_services.editors, m_sprites,
+             m_sounds, m_stage, m_code, m_animations, m_thumbnails, m_problems, m_messagePanel,
+             m_runCommands, m_services.status, m_commands}) {
         m_services.parts->add(part);
     }
 }

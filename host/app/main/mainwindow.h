@@ -34,6 +34,7 @@ class SoundPanel;
 class SpriteCommands;
 class SpritePanel;
 class StageCommands;
+class ThumbnailCommands;
 class WindowActions;
 class WindowCommands;
 
@@ -67,6 +68,7 @@ public:
     GameCommands* gameCommands() const { return m_gameCommands; }
     RunCommands* runCommands() const { return m_runCommands; }
     AnimationCommands* animations() const { return m_animations; }
+    ThumbnailCommands* thumbnails() const { return m_thumbnails; }
     SpriteCommands* sprites() const { return m_sprites; }
     SoundCommands* sounds() const { return m_sounds; }
     SpritePanel* spritePanel() const;
@@ -137,6 +139,7 @@ private:
     GameCommands* m_gameCommands;
     RunCommands* m_runCommands;
     AnimationCommands* m_animations = nullptr;
+    ThumbnailCommands* m_thumbnails = nullptr;
     SpriteCommands* m_sprites;
     SoundCommands* m_sounds;
     ProblemWatch* m_problems;
