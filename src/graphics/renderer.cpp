@@ -81,23 +81,48 @@ void Renderer::glSetBlendFunction(BlendFactor source, BlendFactor destination)
 void Renderer::glDrawImage(const QMatrix4x4& matrix, Texture* image, Texture* palette,
                            unsigned char flip, float opacity, bool mask, unsigned char shader)
 {
-    TextureDrawing* const state = drawing();
-    if (!state || !image || image->id == 0 || image->kind <= Texture::PaletteKind ||
-        image->isStale() || shader >= Shader::Variants) {
+    if (!canDraw(image) || shader >= Shader::Variants) {
         return;
     }
-    Shader& family = image->kind == Texture::IndexedKind ? state->indexed : state->rgba;
-    if (!state->bind(*this, family, shader, *image, palette)) {
+    TextureDrawing& state = *drawing();
+    Shader& family = image->kind == Texture::IndexedKind ? state.indexed : state.rgba;
+    if (state.bind(*this, family, shader, *image, palette)) {
+        drawUnit(matrix, *image, flip, opacity, mask);
+    }
+}
+
+void Renderer::glDrawTinted(const QMatrix4x4& matrix, Texture* image, Texture* palette,
+                            unsigned char flip, float opacity, const QColor& tint)
+{
+    if (!canDraw(image)) {
         return;
     }
-    state->setMaskAndOpacity(*this, mask, opacity);
-    state->setMatrix(*this, state->projection * matrix);
+    TextureDrawing& state = *drawing();
+    Shader& family = state.tinted(image->kind == Texture::IndexedKind, m_widget);
+    if (state.bind(*this, family, Plain, *image, palette)) {
+        state.setTint(*this, tint.rgb());
+        drawUnit(matrix, *image, flip, opacity, true);
+    }
+}
+
+bool Renderer::canDraw(const Texture* image) const
+{
+    return drawing() && image && image->id != 0 && image->kind > Texture::PaletteKind &&
+           !image->isStale();
+}
+
+/// With the program that is bound.
+void Renderer::drawUnit(const QMatrix4x4& matrix, const Texture& image, unsigned char flip,
+                        float opacity, bool mask)
+{
+    TextureDrawing& state = *drawing();
+    state.setMaskAndOpacity(*this, mask, opacity);
+    state.setMatrix(*this, state.projection * matrix);
     if (!letOthersSetUniforms()) {
         return;
     }
-    const float* const texCoords =
-        state->unitTexCoords(float(image->uMax), float(image->vMax), flip);
-    state->draw(*this, s_unitSquare, texCoords, 6);
+    const float* const texCoords = state.unitTexCoords(float(image.uMax), float(image.vMax), flip);
+    state.draw(*this, s_unitSquare, texCoords, 6);
 }
 
 // Whoever listens may set any uniform, bind textures and leave another unit active. False if the

@@ -81,6 +81,11 @@ public:
     void glDrawImage(const QMatrix4x4& matrix, Texture* image, Texture* palette, unsigned char flip,
                      float opacity, bool mask, unsigned char shader);
 
+    /// The same in shades of a colour, which tells one picture from another of the same kind.
+    /// Pixels of alpha 0 are left out.
+    void glDrawTinted(const QMatrix4x4& matrix, Texture* image, Texture* palette,
+                      unsigned char flip, float opacity, const QColor& tint);
+
     /// Draws an image side by side, as the unit square under `matrix` each. A number of `tiles`
     /// below 2 becomes as many as the widget holds at one pixel a texel; `spacing` is the gap
     /// between them in parts of the widget's size, and with one `flip` is ignored. Of more than
@@ -100,6 +105,9 @@ private:
 
     TextureDrawing* drawing() const;
     bool letOthersSetUniforms();
+    bool canDraw(const Texture* image) const;
+    void drawUnit(const QMatrix4x4& matrix, const Texture& image, unsigned char flip, float opacity,
+                  bool mask);
     void drawRepeated(QPoint tiles, const Texture& image, unsigned char flip,
                       const QMatrix4x4& matrix);
     void drawTiles(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix);

@@ -68,9 +68,37 @@ const char* const s_rgbaShader =
     "#endif\n"
     "}\n";
 
+// The brightness stays, and so what is seen of a picture.
+const char* const s_tintedIndexedShader =
+    "uniform sampler2D image;\n"
+    "uniform sampler2D palette;\n"
+    "uniform highp float opacity;\n"
+    "uniform lowp vec3 tint;\n"
+    "varying mediump vec2 uv;\n"
+    "void main() {\n"
+    "    vec4 color = texture2D(palette, vec2(texture2D(image, uv.st).r, 0.5));\n"
+    "    if (color.a == 0.0)\n"
+    "        discard;\n"
+    "    float shade = dot(color.rgb, vec3(0.299, 0.587, 0.114));\n"
+    "    gl_FragColor = vec4(mix(vec3(shade), tint, 0.6), color.a * opacity);\n"
+    "}\n";
+
+const char* const s_tintedRgbaShader =
+    "uniform sampler2D image;\n"
+    "uniform highp float opacity;\n"
+    "uniform lowp vec3 tint;\n"
+    "varying mediump vec2 uv;\n"
+    "void main() {\n"
+    "    vec4 color = texture2D(image, uv.st);\n"
+    "    if (color.a == 0.0)\n"
+    "        discard;\n"
+    "    float shade = dot(color.rgb, vec3(0.299, 0.587, 0.114));\n"
+    "    gl_FragColor = vec4(mix(vec3(shade), tint, 0.6), color.a * opacity);\n"
+    "}\n";
+
 void setupShader(Shader& shader, const char* custom, const char* standard)
 {
-    for (int i = 0; i < Shader::Variants; ++i) {
+    for (int i = 0; i < Shader::Variants && shader.programs[i]; ++i) {
         QOpenGLShaderProgram& program = *shader.programs[i];
         const QByteArray fragment = QByteArray(s_prefixes[i]) + (custom ? custom : standard);
         // With a vertex shader alone the driver would draw in one colour.
@@ -81,6 +109,7 @@ void setupShader(Shader& shader, const char* custom, const char* standard)
         shader.uniforms[i] = Uniforms();
     }
     const QOpenGLShaderProgram& first = *shader.programs[0];
+    shader.tint = first.uniformLocation("tint");
     shader.matrix = first.uniformLocation("matrix");
     shader.opacity = first.uniformLocation("opacity");
     shader.mask = first.uniformLocation("mask");

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRgb>
+
 #include <array>
 
 class QOpenGLShaderProgram;
@@ -15,11 +17,13 @@ struct Uniforms
     float opacity = 0;
     bool hasOpacity = false;
     bool hasMatrix = false;
+    bool hasTint = false;
+    QRgb tint = 0;
     std::array<float, 16> matrix;
 };
 
 /// The four programs of one kind of image, indexed by `Renderer::Shading`, and where their inputs
-/// stand, which is the same in all four.
+/// stand, which is the same in all four. One that only tints has the first of them alone.
 struct Shader
 {
     static constexpr int Variants = 4;
@@ -34,13 +38,16 @@ struct Shader
     int image = -1;
     int palette = -1;
     int opacity = -1;
+    int tint = -1;
 };
 
 /// The fragment shaders of the library.
 extern const char* const s_indexedShader;
 extern const char* const s_rgbaShader;
+extern const char* const s_tintedIndexedShader;
+extern const char* const s_tintedRgbaShader;
 
-/// Compiles and links all four from `custom`, or from `standard` where that is null.
+/// Compiles and links all that there are from `custom`, or from `standard` where that is null.
 void setupShader(Shader& shader, const char* custom, const char* standard);
 
 }  // namespace Zorv

@@ -28,9 +28,19 @@ void TextureDrawing::makePrograms(QObject* parent)
     }
 }
 
+Shader& TextureDrawing::tinted(bool isIndexed, QObject* parent)
+{
+    Shader& shader = isIndexed ? tintedIndexed : tintedRgba;
+    if (!shader.programs[0]) {
+        shader.programs[0] = new QOpenGLShaderProgram(parent);
+        setupShader(shader, nullptr, isIndexed ? s_tintedIndexedShader : s_tintedRgbaShader);
+    }
+    return shader;
+}
+
 void TextureDrawing::deletePrograms()
 {
-    for (Shader* shader : {&indexed, &rgba}) {
+    for (Shader* shader : shaders()) {
         for (QOpenGLShaderProgram* program : shader->programs) {
             delete program;
         }
@@ -77,7 +87,7 @@ void TextureDrawing::forget()
     m_unit = -1;
     m_hasImage = false;
     m_positions.data = m_texCoords.data = nullptr;
-    for (Shader* shader : {&indexed, &rgba}) {
+    for (Shader* shader : shaders()) {
         for (Uniforms& uniforms : shader->uniforms) {
             uniforms = Uniforms();
         }
@@ -206,6 +216,17 @@ void TextureDrawing::setMaskAndOpacity(QOpenGLFunctions& gl, bool mask, float op
         m_uniforms->hasOpacity = true;
         m_uniforms->opacity = opacity;
         gl.glUniform1f(m_shader->opacity, opacity);
+    }
+}
+
+void TextureDrawing::setTint(QOpenGLFunctions& gl, QRgb tint)
+{
+    if (m_shader->tint >= 0 && !(m_uniforms->hasTint && m_uniforms->tint == tint)) {
+        m_uniforms->hasTint = true;
+        m_uniforms->tint = tint;
+        const QColor color(tint);
+        gl.glUniform3f(m_shader->tint, float(color.redF()), float(color.greenF()),
+                       float(color.blueF()));
     }
 }
 

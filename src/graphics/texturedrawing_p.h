@@ -21,6 +21,10 @@ public:
     void deletePrograms();
     bool hasPrograms() const { return indexed.programs[0] != nullptr; }
 
+    /// The shader that tints such an image. It is made when it is asked for first: most stages
+    /// never do.
+    Shader& tinted(bool isIndexed, QObject* parent);
+
     void begin();
     void end(QOpenGLFunctions& gl);
 
@@ -34,6 +38,7 @@ public:
               const Texture* palette);
     void setMatrix(QOpenGLFunctions& gl, const QMatrix4x4& matrix);
     void setMaskAndOpacity(QOpenGLFunctions& gl, bool mask, float opacity);
+    void setTint(QOpenGLFunctions& gl, QRgb tint);
 
     /// Somebody else has had the context.
     void forget();
@@ -46,6 +51,8 @@ public:
 
     Shader indexed;
     Shader rgba;
+    Shader tintedIndexed;
+    Shader tintedRgba;
     const Texture* lastPalette = nullptr;
     QOpenGLShaderProgram* lastProgram = nullptr;
     QMatrix4x4 projection;
@@ -63,6 +70,7 @@ private:
     void setArrays(QOpenGLFunctions& gl, const float* positions, const float* texCoords);
     void disableArrays(QOpenGLFunctions& gl);
     void forgetBlending();
+    std::array<Shader*, 4> shaders() { return {&indexed, &rgba, &tintedIndexed, &tintedRgba}; }
 
     bool m_isOpen = false;  // between begin() and end()
     Shader* m_shader = nullptr;

@@ -5,6 +5,7 @@
 #include "support/stagedata.h"
 
 #include <QPainter>
+#include <QRandomGenerator>
 #include <QtTest>
 
 using namespace Zorv;
@@ -90,6 +91,8 @@ class TestStageDrawing : public QObject
 private slots:
     void spritesInTheirOrder();
     void onionSkins();
+    void skinsStandAsSpritesDo();
+    void skinsHaveColors();
     void paintersAgree();
 };
 
@@ -131,6 +134,91 @@ void TestStageDrawing::onionSkins()
     QVERIFY(shows(scene.orange, GraphicsRenderer::DarkerEffect, 0.5F, qRgb(36, 0, 0)));
     QVERIFY(shows(scene.brownSprite, GraphicsRenderer::NoEffect, 0.5F, qRgb(50, 25, 13)));
     QVERIFY(shows(scene.broken, GraphicsRenderer::NoEffect, 1, Ground));
+}
+
+// At any pose, zoom and place of the cross, pixel by pixel.
+void TestStageDrawing::skinsStandAsSpritesDo()
+{
+    QRandomGenerator random(18);
+    const auto point = [&random](int most) {
+        return QPoint(random.bounded(-most, most), random.bounded(-most, most));
+    };
+    int seen = 0;  // a sprite far zoomed may stand outside
+    Scene scene;
+    QImage picture(8, 8, QImage::Format_ARGB32);
+    for (int i = 0; i < 64; ++i) {
+        picture.setPixel(i % 8, i / 8, i % 5 == 0 ? 0 : qRgb(60 + i * 3, 255 - i * 4, i));
+    }
+    StageData::Sprite sprite(picture);
+    scene.stage.setOnionSkin(true, GraphicsRenderer::NoEffect, 1);
+    for (int round = 0; round < 60; ++round) {
+        const double scales[] = {1, 2, -1, 0.5, -2.5};
+        OnionSkin skin;
+        skin.sprite = &sprite;
+        skin.position = point(8);
+        skin.size = picture.size();
+        skin.scale = {scales[random.bounded(5)], scales[random.bounded(5)]};
+        skin.flip = uchar(random.bounded(4));
+        skin.rotation = random.bounded(2) ? float(random.bounded(360)) : 0;
+        skin.axis = point(6);
+        scene.stage.setZoomLevel(uchar(random.bounded(12)));
+        scene.stage.setItemPosition(GraphicsRenderer::MainCross, point(5), 0);
+        // The sprite hangs on a cross that stands at the axis.
+        scene.stage.setItemPositionMode(GraphicsRenderer::SecondaryCross, 2, 0, 0);
+        scene.stage.setItemPosition(GraphicsRenderer::SecondaryCross, skin.axis, 0);
+        const QVector<QVariant> pose{skin.position, 2, 1, skin.size, skin.scale, int(skin.flip),
+                                     skin.rotation, 0};
+        scene.provider.rows = {{&sprite, pose}};
+        emit scene.provider.changed();
+        scene.stage.setOnionSkins({});
+        const QImage expected = scene.widget.grabFramebuffer();
+        scene.provider.rows.clear();
+        emit scene.provider.changed();
+        scene.stage.setOnionSkins({skin});
+        QCOMPARE(scene.widget.grabFramebuffer(), expected);
+        scene.stage.setOnionSkins({});
+        seen += scene.widget.grabFramebuffer() != expected;
+    }
+    QVERIFY(seen > 30);
+}
+
+// Bright stays bright, clear stays clear, both kinds of images are tinted alike; the last lies on
+// top, and the first shows through.
+void TestStageDrawing::skinsHaveColors()
+{
+    Scene scene;
+    const auto skin = [](const Sprite& sprite, int x, float opacity, const QColor& color) {
+        OnionSkin result;
+        result.sprite = &sprite;
+        result.position = {x, 0};
+        result.size = sprite.size();
+        result.opacity = opacity;
+        result.color = color;
+        return result;
+    };
+    const std::unique_ptr<StageData::Palette> same = palette({200, 100, 50, 255});
+    const StageData::Sprite indexed(filled(QImage::Format_Indexed8, 1), same.get());
+    const QColor blue(0, 100, 250);
+    // 0.4 times the brightness of 124 and 0.6 times the colour.
+    const QRgb tinted = qRgb(50, 110, 200);
+    scene.stage.setOnionSkins({skin(scene.orange, 0, 1, blue),
+                               skin(indexed, 8, 1, blue),
+                               skin(scene.clear, 0, 1, blue),
+                               skin(scene.broken, 0, 1, blue),
+                               skin(scene.orange, 16, 0.5F, blue),
+                               skin(scene.orange, 4, 0.5F, {}),
+                               {}});
+    QVERIFY(scene.shows(Ground, {2, 2}));
+    scene.stage.setOnionSkin(true, GraphicsRenderer::GrayscaleEffect, 1);
+    QVERIFY(scene.shows(tinted, {2, 2}));
+    QVERIFY(scene.shows(tinted, {14, 2}));
+    QVERIFY(scene.shows(qRgb(25, 55, 100), {18, 2}));
+    QVERIFY(scene.shows(qRgb(125, 155, 200), {6, 2}));
+    scene.stage.setOnionSkin(true, GraphicsRenderer::GrayscaleEffect, 0.5F);
+    QVERIFY(scene.shows(qRgb(25, 55, 100), {2, 2}));
+    // What comes behind has its own colours.
+    scene.add(scene.orange, {0, 0});
+    QVERIFY(scene.shows(Orange, {2, 2}));
 }
 
 void TestStageDrawing::paintersAgree()

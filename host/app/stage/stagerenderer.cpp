@@ -45,15 +45,6 @@ private:
     float m_before;
 };
 
-QMatrix4x4 aHairBehind(QPoint place)
-{
-    using Placed = Family::PlacedPicture;
-    QMatrix4x4 matrix;
-    matrix.translate(float(place.x()) + float(Placed::HairX) / Placed::HairParts,
-                     float(place.y()) + float(Placed::HairY) / Placed::HairParts);
-    return matrix;
-}
-
 }  // namespace
 
 void StageRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
@@ -170,22 +161,13 @@ void StageRenderer::zoomActual()
     GraphicsRenderer::zoomActual();
 }
 
-void StageRenderer::renderSprite(QPoint base, QPoint offset, QSize size, float rotation,
-                                 unsigned char flip, Zorv::Sprite* sprite, unsigned int)
+QMatrix4x4 StageRenderer::spriteMatrix(QPoint base, QPoint offset, QSize size, float rotation) const
 {
-    QMatrix4x4 matrix = aHairBehind(base);
-    matrix.rotate(rotation, 0, 0, 1);
-    matrix.translate(float(offset.x()), float(offset.y()));
-    matrix.scale(float(size.width()), float(size.height()));
-    drawSprite(matrix, sprite, flip, 1.0F, NoEffect);
-}
-
-void StageRenderer::renderOnionSkinSprite(const Zorv::Sprite* sprite, QPoint base, QPoint offset,
-                                          QSize size, float opacity, OnionEffect effect)
-{
-    QMatrix4x4 matrix = aHairBehind(base + offset);
-    matrix.scale(float(size.width()), float(size.height()));
-    drawSprite(matrix, sprite, 0, opacity, effect);
+    using Placed = Family::PlacedPicture;
+    QMatrix4x4 hair;
+    hair.translate(float(Placed::HairX) / Placed::HairParts,
+                   float(Placed::HairY) / Placed::HairParts);
+    return hair * GraphicsRenderer::spriteMatrix(base, offset, size, rotation);
 }
 
 }  // namespace App

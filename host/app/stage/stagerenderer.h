@@ -43,10 +43,7 @@ signals:
 protected:
     /// A hair away, as frames are composed: else what is between two pixels of a picture would
     /// show one or the other by chance, and pictures that are zoomed would shiver in a drag.
-    void renderSprite(QPoint base, QPoint offset, QSize size, float rotation, unsigned char flip,
-                      Zorv::Sprite* sprite, unsigned int index) override;
-    void renderOnionSkinSprite(const Zorv::Sprite* sprite, QPoint base, QPoint offset, QSize size,
-                               float opacity, OnionEffect effect) override;
+    QMatrix4x4 spriteMatrix(QPoint base, QPoint offset, QSize size, float rotation) const override;
 
 private:
     bool takeKey(int key);

@@ -250,6 +250,18 @@ void GraphicsRenderer::replaceOnionSkinSprite(const Sprite* sprite, QPoint offse
     update();
 }
 
+void GraphicsRenderer::setOnionSkins(const QVector<OnionSkin>& skins)
+{
+    if (replace(d->onionSkins, skins)) {
+        update();
+    }
+}
+
+const QVector<OnionSkin>& GraphicsRenderer::onionSkins() const
+{
+    return d->onionSkins;
+}
+
 int GraphicsRenderer::indexOfItem(ItemType type, void* item) const
 {
     if (type >= MainCross && type <= ExtraCross) {

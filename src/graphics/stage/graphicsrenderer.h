@@ -2,10 +2,12 @@
 
 #include "code/codedoc/contactboxcode.h"
 #include "graphics/graphicsrendererbase.h"
+#include "graphics/stage/onionskin.h"
 #include "zorv_export.h"
 
 #include <QColor>
 #include <QList>
+#include <QMatrix4x4>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
@@ -146,6 +148,11 @@ public:
 
     /// The same, and the one that is there may have another place, or other pixels.
     void replaceOnionSkinSprite(const Sprite* sprite, QPoint offset);
+
+    /// Shows these, too, one above the other, while the onion skin is enabled, with its opacity and
+    /// its effect. Their sprites must be there until others are set.
+    void setOnionSkins(const QVector<OnionSkin>& skins);
+    const QVector<OnionSkin>& onionSkins() const;
 
     /// @}
     /// @name Zoom
@@ -298,6 +305,10 @@ protected:
                               unsigned char flip, Sprite* sprite, unsigned int index);
     virtual void renderOnionSkinSprite(const Sprite* sprite, QPoint base, QPoint offset, QSize size,
                                        float opacity, OnionEffect effect);
+
+    /// Where the corners of the unit square go for a sprite as `renderSprite()` tells it. All
+    /// sprites and skins of the stage stand by it.
+    virtual QMatrix4x4 spriteMatrix(QPoint base, QPoint offset, QSize size, float rotation) const;
 
     /// What both end with: the sprite in its palette, as the unit square under `matrix`, blended by
     /// its alpha. Nothing for a sprite that is null or has no texture.

@@ -63,6 +63,7 @@ public:
     void renderBackground(QPainter& painter);
     void renderGuides(QPainter& painter);
     void renderOnionSkin();
+    void renderSkin(const OnionSkin& skin);
     void renderSprites(int layer);
     void renderCross(QPainter& painter);
     void renderContactBoxes(QPainter& painter, ContactBoxCode::BoxType type, QColor interior,
@@ -126,6 +127,7 @@ public:
     bool onionEnabled = false;
     const Sprite* onionSprite = nullptr;
     QPoint onionOffset;
+    QVector<OnionSkin> onionSkins;
     bool rulersVisible = false;
     unsigned char contactMode = 14;
     unsigned short contactParent = 0;

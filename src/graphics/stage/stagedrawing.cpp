@@ -2,6 +2,7 @@
 #include "cache/sprite.h"
 #include "graphics/stage/graphicsrenderer.h"
 #include "graphics/stage/graphicsrenderer_p.h"
+#include "graphics/stage/positionmode.h"
 #include "graphics/stage/rounding_p.h"
 
 #include <QMatrix4x4>
@@ -18,6 +19,19 @@ const QColor s_guideColor(0, 255, 255);
 float asFloat(int number)
 {
     return static_cast<float>(number);
+}
+
+void blendByAlpha(Renderer& renderer)
+{
+    renderer.glSetBlend(true);
+    renderer.glSetBlendEquation(Renderer::Add);
+    renderer.glSetBlendFunction(Renderer::SourceAlpha, Renderer::OneMinusSourceAlpha);
+}
+
+Texture* paletteOf(const Sprite& sprite)
+{
+    const Palette* palette = sprite.palette();
+    return palette ? palette->texture() : nullptr;
 }
 
 void translate(QMatrix4x4& matrix, QPoint by)
@@ -64,36 +78,35 @@ void GraphicsRenderer::render(QPainter& painter)
 void GraphicsRenderer::renderSprite(QPoint base, QPoint offset, QSize size, float rotation,
                                     unsigned char flip, Sprite* sprite, unsigned int)
 {
+    drawSprite(spriteMatrix(base, offset, size, rotation), sprite, flip, 1.0F, NoEffect);
+}
+
+QMatrix4x4 GraphicsRenderer::spriteMatrix(QPoint base, QPoint offset, QSize size,
+                                          float rotation) const
+{
     QMatrix4x4 matrix;
     translate(matrix, base);
     matrix.rotate(rotation, 0, 0, 1);
     translate(matrix, offset);
     scale(matrix, size);
-    drawSprite(matrix, sprite, flip, 1.0F, NoEffect);
+    return matrix;
 }
 
 void GraphicsRenderer::renderOnionSkinSprite(const Sprite* sprite, QPoint base, QPoint offset,
                                              QSize size, float opacity, OnionEffect effect)
 {
-    QMatrix4x4 matrix;
-    translate(matrix, base + offset);
-    scale(matrix, size);
-    drawSprite(matrix, sprite, 0, opacity, effect);
+    drawSprite(spriteMatrix(base + offset, {}, size, 0), sprite, 0, opacity, effect);
 }
 
 void GraphicsRenderer::drawSprite(const QMatrix4x4& matrix, const Sprite* sprite,
                                   unsigned char flip, float opacity, OnionEffect effect)
 {
     Texture* const image = sprite ? sprite->texture() : nullptr;
-    if (!image) {
-        return;
+    if (image) {
+        blendByAlpha(*this);
+        glDrawImage(matrix, image, paletteOf(*sprite), flip, opacity, true,
+                    static_cast<unsigned char>(effect));
     }
-    glSetBlend(true);
-    glSetBlendEquation(Add);
-    glSetBlendFunction(SourceAlpha, OneMinusSourceAlpha);
-    const Palette* palette = sprite->palette();
-    glDrawImage(matrix, image, palette ? palette->texture() : nullptr, flip, opacity, true,
-                static_cast<unsigned char>(effect));
 }
 
 int GraphicsRendererPrivate::lineThickness() const
@@ -116,9 +129,39 @@ void GraphicsRendererPrivate::renderSprites(int layer)
     }
 }
 
+/// Where the sprite of another frame would stand: on the same way, rounded as it is.
+void GraphicsRendererPrivate::renderSkin(const OnionSkin& skin)
+{
+    Texture* const image = skin.sprite ? skin.sprite->texture() : nullptr;
+    if (!image) {
+        return;
+    }
+    SpriteItem item;
+    item.mode = CrossAnchor;
+    item.position = skin.position;
+    item.size = skin.size;
+    item.scale = skin.scale;
+    const QPoint base = stageSum(calcPos(GraphicsRenderer::MainCross, 0), scaled(skin.axis));
+    const QMatrix4x4 matrix =
+        q->spriteMatrix(base, spriteOffset(item), spriteSize(item), skin.rotation);
+    const float opacity = onionOpacity * skin.opacity;
+    if (skin.color.isValid()) {
+        blendByAlpha(*q);
+        q->glDrawTinted(matrix, image, paletteOf(*skin.sprite), skin.flip, opacity, skin.color);
+    } else {
+        q->drawSprite(matrix, skin.sprite, skin.flip, opacity, onionEffect);
+    }
+}
+
 void GraphicsRendererPrivate::renderOnionSkin()
 {
-    if (!onionEnabled || !onionSprite) {
+    if (!onionEnabled) {
+        return;
+    }
+    for (const OnionSkin& skin : qAsConst(onionSkins)) {
+        renderSkin(skin);
+    }
+    if (!onionSprite) {
         return;
     }
     const QPoint base = anchorOfItem(GraphicsRenderer::MainCross, 0);
