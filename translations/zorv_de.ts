@@ -5552,6 +5552,22 @@ Alle Kontaktboxen, die diese schon haben, werden ersetzt.</translation>
         <source>Frame of the onion skin</source>
         <translation>Einzelbild der Zwiebelschalen</translation>
     </message>
+    <message>
+        <source>Before:</source>
+        <translation>Davor:</translation>
+    </message>
+    <message>
+        <source>How many frames before the shown one the onion skin has, in orange; with 0 on both sides it has the chosen one</source>
+        <translation>So viele Einzelbilder vor dem gezeigten haben Zwiebelschalen, in Orange; mit 0 auf beiden Seiten hat sie das gewählte</translation>
+    </message>
+    <message>
+        <source>After:</source>
+        <translation>Danach:</translation>
+    </message>
+    <message>
+        <source>How many frames after the shown one the onion skin has, in blue; with 0 on both sides it has the chosen one</source>
+        <translation>So viele Einzelbilder nach dem gezeigten haben Zwiebelschalen, in Blau; mit 0 auf beiden Seiten hat sie das gewählte</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::Animations</name>

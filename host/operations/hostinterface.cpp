@@ -84,6 +84,8 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("show_collision_box"), true},
         {QStringLiteral("onion_effect"), 0},
         {QStringLiteral("onion_opacity"), 0.5},
+        {QStringLiteral("onion_before"), 1},
+        {QStringLiteral("onion_after"), 0},
     };
     return table;
 }

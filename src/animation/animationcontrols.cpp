@@ -84,6 +84,8 @@ const Tool tools[] = {
     {"anim_next_anim",           Action,      88, animation, SLOT(nextAnim()),            nullptr},
     {"anim_prev_frame",          Action,      89, frame,     SLOT(prevFrame()),           nullptr},
     {"anim_next_frame",          Action,      90, frame,     SLOT(nextFrame()),           nullptr},
+    {"anim_onion_before",        Spin, AnimationTexts::OnionBefore, frameNC, SLOT(onionBeforeChanged(int)), SIGNAL(setOnionBefore(int))},
+    {"anim_onion_after",         Spin, AnimationTexts::OnionAfter, frameNC, SLOT(onionAfterChanged(int)), SIGNAL(setOnionAfter(int))},
 };
 // clang-format on
 

@@ -119,6 +119,7 @@ void AnimationEditorPrivate::detach()
     renderer->setContactBoxes(ContactBoxCode::Attack, nullptr);
     renderer->setContactBoxes(ContactBoxCode::Collision, nullptr);
     renderer->replaceOnionSkinSprite(nullptr, {});
+    renderer->setOnionSkins({});
     if (!editor->isActive() && stage->renderer() == renderer) {
         stage->setRenderer(nullptr);
     }
@@ -156,6 +157,7 @@ void AnimationEditorPrivate::dropSprites()
         emit changed();
     }
     renderer->replaceOnionSkinSprite(nullptr, {});
+    renderer->setOnionSkins({});
     refreshSoon();
 }
 

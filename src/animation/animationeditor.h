@@ -202,7 +202,8 @@ protected:
     /// renderer.
     virtual void frameChanged(FrameCode* frame);
 
-    /// The frame of the onion skin; null for none. Hands its sprite and place to the renderer.
+    /// The frame of the onion skin; null for none, also while frames around the shown one take its
+    /// place. Hands its sprite and place to the renderer.
     virtual void onionFrameChanged(FrameCode* frame);
 
     /// The shown frame stands for so many ticks by now, and `next` follows: for a host that shows

@@ -178,6 +178,9 @@ public:
     void updateOnionRange();
     void fillOnion();
     void applyOnion();
+    void fillSkins();
+    void appendSkin(QVector<OnionSkin>* skins, int index, float opacity, const QColor& color) const;
+    void setNeighbours(const char* key, int* field, int count);
 
     AnimationEditor* const editor;
     GraphicsRenderer* const renderer;
@@ -200,6 +203,8 @@ public:
         bool enabled = false;
         int animationIndex = 0;
         int frameIndex = 0;
+        int before = 0;  // frames around the shown one, which take the place of the chosen one
+        int after = 0;
     } onion;
 
     int nextIndex = -1;  // the frame that follows in play
@@ -276,6 +281,8 @@ public slots:
     void onionSkinChanged(bool isOn);
     void onionSelPosChanged(int index);
     void onionFrameSelPosChanged(int index);
+    void onionBeforeChanged(int count);
+    void onionAfterChanged(int count);
 
 signals:
     void enabled(bool isEnabled);
@@ -299,6 +306,8 @@ signals:
     void setOnionSelPos(int index);
     void setOnionFrameSelPos(int index);
     void setOnionText(const QString& text);
+    void setOnionBefore(int count);
+    void setOnionAfter(int count);
 };
 
 }  // namespace Zorv

@@ -232,6 +232,7 @@ void AnimationEditorPrivate::fillFrame()
     }
     setTick(index);
     takeSprite();
+    fillSkins();
     renderer->Renderer::update();
     if (timeLine) {
         timeLine->update();

@@ -17,6 +17,14 @@ const struct
      QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation of the onion skin")},
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Frame:"),
      QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Frame of the onion skin")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Before:"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
+                       "How many frames before the shown one the onion skin has, in orange; with 0 "
+                       "on both sides it has the chosen one")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "After:"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
+                       "How many frames after the shown one the onion skin has, in blue; with 0 on "
+                       "both sides it has the chosen one")},
 };
 
 QString translated(const char* text)

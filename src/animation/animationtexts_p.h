@@ -13,7 +13,7 @@ class AnimationTexts : public Translator
 
 public:
     /// Beside the numbers of `ZorvTranslator`, so that a number tells whose it is.
-    enum Id : unsigned { First = 1000, Animation = First, OnionAnimation, OnionFrame, End };
+    enum Id : unsigned { First = 1000, Animation = First, OnionAnimation, OnionFrame, OnionBefore, OnionAfter, End };
 
     /// The translator that has a number.
     static Translator* of(unsigned int id);

@@ -10,11 +10,14 @@
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
 #include "graphics/graphicwork/graphicsworkspace.h"
+#include "graphics/stage/graphicsrenderer_p.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QRandomGenerator>
 #include <QSlider>
 #include <QSpinBox>
 #include <QtTest>
@@ -55,11 +58,19 @@ public:
     QString newText;
     int newPosition = 0;
     int stops = 0;
+    bool isPosed = false;  // with flip, scale and angle
     QVector<int> interpolated;
 
 protected:
     void playStopped() override { ++stops; }
     void interpolateFrame(FrameCode*, int tick) override { interpolated.append(tick); }
+    QVariant spriteProperty(FrameCode* frame, Sprite* sprite, unsigned key) const override
+    {
+        const QVariant pose[] = {frame->scale(), int(frame->flip()), float(-frame->angle())};
+        return isPosed && key >= 4 && key <= 6
+                   ? pose[key - 4]
+                   : AnimationEditor::spriteProperty(frame, sprite, key);
+    }
     FieldRange fieldRange(Field field) const override
     {
         return field == Field::Time ? FieldRange{-1, 2000} : FieldRange{-500, 500};
@@ -117,6 +128,8 @@ private slots:
     void playsAsAModel();
     void textIsEditedDuringPlay();
     void scrubbing();
+    void neighboursShowThrough();
+    void skinsFollowTheText();
     void dragsAreSteps();
     void boxesAreDrawn();
     void commands();
@@ -554,6 +567,101 @@ void TestAnimationEditor::scrubbing()
     clock->setCurrentTick(6);
     widget<QSpinBox>("anim_frame_xaxis")->setValue(1);
     QCOMPARE(clock->currentTick(), 6U);
+}
+
+// Against the frames in the order in which they are played, pass after pass.
+void TestAnimationEditor::neighboursShowThrough()
+{
+    QRandomGenerator random(31);
+    editor->isPosed = true;
+    host->options["onion_opacity"] = 0.5;
+    widget<QCheckBox>("anim_onion_skin")->click();
+    for (int round = 0; round < 120; ++round) {
+        const int count = 1 + random.bounded(6);
+        const int loop = random.bounded(count);
+        const bool isEndless = random.bounded(4) == 0;
+        QString written = QStringLiteral("@a\n");
+        for (int i = 0; i < count; ++i) {
+            const int delay = isEndless && i == count - 1 ? -1 : 1 + i;
+            written += QStringLiteral("> 0,1 %1,0 %2 3 2,1 30%3\n")
+                           .arg(QString::number(i), QString::number(delay), i == loop ? " L" : "");
+        }
+        QVector<int> played;
+        for (int pass = 0; pass < (isEndless ? 1 : 30); ++pass) {
+            for (int i = pass == 0 ? 0 : loop; i < count; ++i) {
+                played.append(i);
+            }
+        }
+        QTextCursor all(document.get());
+        all.select(QTextCursor::Document);
+        all.insertText(written);
+        QCoreApplication::processEvents();
+        const int shown = random.bounded(count);
+        const int before = random.bounded(4);
+        const int after = random.bounded(4);
+        editor->selectFrame(shown);
+        widget<QSpinBox>("anim_onion_before")->setValue(before);
+        widget<QSpinBox>("anim_onion_after")->setValue(after);
+        // Late enough to have gone round in both directions, unless it is never played again.
+        int at = played.indexOf(shown);
+        for (int i = at; i < played.size() - 5; ++i) {
+            at = played[i] == shown ? i : at;
+        }
+        QVector<QPair<int, bool>> expected;
+        QVector<int> known{shown};
+        for (int step = 1; step <= 3; ++step) {
+            for (const bool isBefore : {true, false}) {
+                const int frame = played.value(isBefore ? at - step : at + step, -1);
+                if (step <= (isBefore ? before : after) && frame >= 0 && !known.contains(frame)) {
+                    known.append(frame);
+                    expected.prepend({frame, isBefore});
+                }
+            }
+        }
+        QVector<QPair<int, bool>> skins;
+        for (const OnionSkin& skin : renderer->onionSkins()) {
+            skins.append({skin.position.x(), skin.color.red() > skin.color.blue()});
+            QCOMPARE(skin.scale, QPointF(2, 1));
+            QCOMPARE(int(skin.flip), 3);
+            QCOMPARE(skin.rotation, -30.0F);
+            QCOMPARE(skin.sprite, &sprites[1]);
+            QVERIFY(skin.opacity > 0 && skin.opacity <= 1);
+        }
+        QCOMPARE(skins, expected);
+        QCOMPARE(host->options.value("onion_before").toInt(), before);
+        QCOMPARE(host->options.value("onion_after").toInt(), after);
+    }
+}
+
+// Edits, sprites that go, and the skin of a chosen frame, which they take the place of.
+void TestAnimationEditor::skinsFollowTheText()
+{
+    const auto chosen = [this] { return GraphicsRendererPrivate::of(*renderer).onionSprite; };
+    host->options = {{"onion_before", 9}, {"onion_after", -4}};
+    editor->reconfig();
+    QCOMPARE(widget<QSpinBox>("anim_onion_before")->value(), 3);
+    QCOMPARE(widget<QSpinBox>("anim_onion_before")->maximum(), 3);
+    QCOMPARE(widget<QSpinBox>("anim_onion_after")->value(), 0);
+    QVERIFY(renderer->onionSkins().isEmpty());
+    widget<QCheckBox>("anim_onion_skin")->click();
+    QCOMPARE(renderer->onionSkins().size(), 0);  // the loop begins at the second frame
+    action("anim_next_frame")->trigger();
+    action("anim_next_frame")->trigger();
+    QCOMPARE(renderer->onionSkins().size(), 1);
+    QCOMPARE(renderer->onionSkins()[0].position, QPoint(3, 4));
+    QVERIFY(!chosen());
+    QTextCursor line(document->findBlockByNumber(3));
+    line.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    line.insertText(QStringLiteral("> 0,1 8,9 5 1 1,1 0 L"));
+    QCoreApplication::processEvents();
+    QCOMPARE(renderer->onionSkins()[0].position, QPoint(8, 9));
+    widget<QSpinBox>("anim_onion_before")->setValue(0);
+    QVERIFY(renderer->onionSkins().isEmpty());
+    QCOMPARE(chosen(), &sprites[0]);
+    widget<QSpinBox>("anim_onion_after")->setValue(1);
+    QCOMPARE(renderer->onionSkins().size(), 1);
+    editor->deactivate();
+    QVERIFY(renderer->onionSkins().isEmpty());
 }
 
 void TestAnimationEditor::dragsAreSteps()
