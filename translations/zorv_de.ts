@@ -67,6 +67,13 @@
     </message>
 </context>
 <context>
+    <name>AnimImportDlg</name>
+    <message>
+        <source>Sprites and palettes come along</source>
+        <translation>Sprites und Paletten kommen mit</translation>
+    </message>
+</context>
+<context>
     <name>App::ActionList</name>
     <message>
         <source>Action</source>
@@ -3235,6 +3242,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Colors: %1</source>
         <translation>Farben: %1</translation>
     </message>
+    <message>
+        <source>Add palettes</source>
+        <translation>Paletten hinzufügen</translation>
+    </message>
 </context>
 <context>
     <name>Family::Reference</name>
@@ -4063,6 +4074,83 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>ImportDlg</name>
+    <message>
+        <source>Import from another project</source>
+        <translation>Aus anderem Projekt importieren</translation>
+    </message>
+    <message>
+        <source>Add from source</source>
+        <translation>Aus der Quelle hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove selected</source>
+        <translation>Ausgewählte entfernen</translation>
+    </message>
+    <message>
+        <source>Project:</source>
+        <translation>Projekt:</translation>
+    </message>
+    <message>
+        <source>Source:</source>
+        <translation>Quelle:</translation>
+    </message>
+    <message>
+        <source>Destination:</source>
+        <translation>Ziel:</translation>
+    </message>
+    <message>
+        <source>Double-click an item to rename.</source>
+        <translation>Doppelklick auf einen Eintrag benennt ihn um.</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Invert selection</source>
+        <translation>Auswahl umkehren</translation>
+    </message>
+    <message>
+        <source>Replace existing</source>
+        <translation>Vorhandene ersetzen</translation>
+    </message>
+    <message>
+        <source>Skip (don&apos;t add)</source>
+        <translation>Überspringen (nicht hinzufügen)</translation>
+    </message>
+    <message>
+        <source>Conflicts:</source>
+        <translation>Konflikte:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n name(s) are taken or repeated.</source>
+        <translation>
+            <numerusform>%n Name ist vergeben oder doppelt.</numerusform>
+            <numerusform>%n Namen sind vergeben oder doppelt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be used as a name.</source>
+        <translation>&apos;%1&apos; kann kein Name sein.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportModel</name>
+    <message>
+        <source>The destination has this name already.</source>
+        <translation>Das Ziel hat diesen Namen schon.</translation>
+    </message>
+    <message>
+        <source>Another one is to have this name, too.</source>
+        <translation>Ein anderer Eintrag soll auch so heißen.</translation>
+    </message>
+</context>
+<context>
     <name>ItemsDlg</name>
     <message>
         <source>Items</source>
@@ -4167,6 +4255,55 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>The sheet is larger than the memory. Choose a smaller zoom.</source>
         <translation>Der Bogen ist größer als der Speicher. Bitte einen kleineren Zoom wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::AnimationSource</name>
+    <message>
+        <source>There is no file or folder &apos;%1&apos;.</source>
+        <translation>Es gibt keine Datei und keinen Ordner &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>There is no character or stage in &apos;%1&apos;.</source>
+        <translation>In &apos;%1&apos; gibt es keine Figur und keine Bühne.</translation>
+    </message>
+    <message>
+        <source>There are several projects in &apos;%1&apos;. Name one of them instead: %2.</source>
+        <translation>In &apos;%1&apos; gibt es mehrere Projekte. Nennen Sie stattdessen eines davon: %2.</translation>
+    </message>
+    <message>
+        <source>There is no animation &apos;%1&apos; in &apos;%2&apos;. %3</source>
+        <translation>Es gibt keine Animation &apos;%1&apos; in &apos;%2&apos;. %3</translation>
+    </message>
+    <message>
+        <source>Animation &apos;%1&apos; is in several files of &apos;%2&apos;. Name one of them instead.</source>
+        <translation>Animation &apos;%1&apos; steht in mehreren Dateien von &apos;%2&apos;. Nennen Sie stattdessen eine davon.</translation>
+    </message>
+    <message>
+        <source>There is no animation in &apos;%1&apos;.</source>
+        <translation>In &apos;%1&apos; gibt es keine Animation.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names no sprites.</source>
+        <translation>&apos;%1&apos; nennt keine Sprites.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::AssetImport</name>
+    <message numerus="yes">
+        <source>%n of the sprites in &apos;%1&apos; are broken, the first one is %2. Nothing is imported. Put them in anew there, or import the animations without their sprites.</source>
+        <translation>
+            <numerusform>%n der Sprites in &apos;%1&apos; ist defekt: %2. Nichts wird importiert. Fügen Sie ihn dort neu ein, oder importieren Sie die Animationen ohne ihre Sprites.</numerusform>
+            <numerusform>%n der Sprites in &apos;%1&apos; sind defekt, der erste ist %2. Nichts wird importiert. Fügen Sie sie dort neu ein, oder importieren Sie die Animationen ohne ihre Sprites.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is imported: &apos;%1&apos; has no sprites that could be read. Write a sprite file into its group [files], or mend that one; or import the animations without their sprites.</source>
+        <translation>Nichts wird importiert: &apos;%1&apos; hat keine Sprites, die gelesen werden konnten. Schreiben Sie eine Spritedatei in die Gruppe [files], oder reparieren Sie die vorhandene; oder importieren Sie die Animationen ohne ihre Sprites.</translation>
+    </message>
+    <message>
+        <source>Import sprites from project &apos;%1&apos;</source>
+        <translation>Sprites aus Projekt &apos;%1&apos; importieren</translation>
     </message>
 </context>
 <context>
@@ -5429,6 +5566,98 @@ Alle Kontaktboxen, die diese schon haben, werden ersetzt.</translation>
     <message>
         <source>&apos;%1&apos; cannot be written.</source>
         <translation>&apos;%1&apos; lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>Sprite %1 is now %2.</source>
+        <translation>Sprite %1 ist jetzt %2.</translation>
+    </message>
+    <message>
+        <source>Sprite %1 is missing in the source.</source>
+        <translation>Sprite %1 fehlt in der Quelle.</translation>
+    </message>
+    <message>
+        <source>Sprite %1 is broken and was left.</source>
+        <translation>Sprite %1 ist defekt und wurde ausgelassen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more sprite(s).</source>
+        <translation>
+            <numerusform>Und %n weiterer Sprite.</numerusform>
+            <numerusform>Und %n weitere Sprites.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n animation(s) were imported!</source>
+        <translation>
+            <numerusform>%n Animation wurde importiert!</numerusform>
+            <numerusform>%n Animationen wurden importiert!</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No animation imported!</source>
+        <translation>Keine Animation importiert!</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them took the place of another one.</source>
+        <translation>
+            <numerusform>%n davon hat eine andere ersetzt.</numerusform>
+            <numerusform>%n davon haben andere ersetzt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were skipped: their names are there already.</source>
+        <translation>
+            <numerusform>%n wurde übersprungen: ihren Namen gibt es schon.</numerusform>
+            <numerusform>%n wurden übersprungen: ihre Namen gibt es schon.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be imported.</source>
+        <translation>
+            <numerusform>%n konnte nicht importiert werden.</numerusform>
+            <numerusform>%n konnten nicht importiert werden.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) were added.</source>
+        <translation>
+            <numerusform>%n Sprite wurde hinzugefügt.</numerusform>
+            <numerusform>%n Sprites wurden hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) were there already.</source>
+        <translation>
+            <numerusform>%n Sprite war schon da.</numerusform>
+            <numerusform>%n Sprites waren schon da.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n palette(s) were added.</source>
+        <translation>
+            <numerusform>%n Palette wurde hinzugefügt.</numerusform>
+            <numerusform>%n Paletten wurden hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>You can&apos;t import from the destination project!</source>
+        <translation>Aus dem Zielprojekt kann nicht importiert werden!</translation>
+    </message>
+    <message>
+        <source>Import animations from project &apos;%1&apos;</source>
+        <translation>Animationen aus Projekt &apos;%1&apos; importieren</translation>
+    </message>
+    <message>
+        <source>%1
+
+Do you want to import the others?</source>
+        <translation>%1
+
+Möchten Sie die übrigen importieren?</translation>
     </message>
 </context>
 <context>

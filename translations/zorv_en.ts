@@ -194,6 +194,26 @@
     </message>
 </context>
 <context>
+    <name>ImportDlg</name>
+    <message numerus="yes">
+        <source>%n name(s) are taken or repeated.</source>
+        <translation>
+            <numerusform>%n name is taken or repeated.</numerusform>
+            <numerusform>%n names are taken or repeated.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Operations::AssetImport</name>
+    <message numerus="yes">
+        <source>%n of the sprites in &apos;%1&apos; are broken, the first one is %2. Nothing is imported. Put them in anew there, or import the animations without their sprites.</source>
+        <translation>
+            <numerusform>%n of the sprites in &apos;%1&apos; is broken: %2. Nothing is imported. Put it in anew there, or import the animations without their sprites.</numerusform>
+            <numerusform>%n of the sprites in &apos;%1&apos; are broken, the first one is %2. Nothing is imported. Put them in anew there, or import the animations without their sprites.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Operations::FrameEdits</name>
     <message numerus="yes">
         <source>%n offset(s) would be out of the range from %1 to %2.</source>
@@ -251,6 +271,62 @@
         <translation>
             <numerusform>and %n more</numerusform>
             <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more sprite(s).</source>
+        <translation>
+            <numerusform>And %n more sprite.</numerusform>
+            <numerusform>And %n more sprites.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n animation(s) were imported!</source>
+        <translation>
+            <numerusform>%n animation was imported!</numerusform>
+            <numerusform>%n animations were imported!</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them took the place of another one.</source>
+        <translation>
+            <numerusform>%n of them took the place of another one.</numerusform>
+            <numerusform>%n of them took the place of others.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were skipped: their names are there already.</source>
+        <translation>
+            <numerusform>%n was skipped: its name is there already.</numerusform>
+            <numerusform>%n were skipped: their names are there already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be imported.</source>
+        <translation>
+            <numerusform>%n could not be imported.</numerusform>
+            <numerusform>%n could not be imported.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) were added.</source>
+        <translation>
+            <numerusform>%n sprite was added.</numerusform>
+            <numerusform>%n sprites were added.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) were there already.</source>
+        <translation>
+            <numerusform>%n sprite was there already.</numerusform>
+            <numerusform>%n sprites were there already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n palette(s) were added.</source>
+        <translation>
+            <numerusform>%n palette was added.</numerusform>
+            <numerusform>%n palettes were added.</numerusform>
         </translation>
     </message>
 </context>

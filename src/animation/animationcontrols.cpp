@@ -61,6 +61,7 @@ const Tool tools[] = {
     {"anim_box_prev",            Action,      66, frame,     SLOT(boxPrev()),             nullptr},
     {"anim_box_allinst",         Action,      67, frame,     SLOT(boxAllInst()),          nullptr},
     {"anim_optimize",            Action,      68, always,    SLOT(optimize()),            nullptr},
+    {"anim_import_proj",         Action,      69, always,    SLOT(projImport()),          nullptr},
     {"anim_sel",                 Slider, AnimationTexts::Animation, always, SLOT(selPosChanged(int)), SIGNAL(setSelPos(int))},
     {"anim_sel_lb",              Label,   NoText, always,    nullptr,                     SIGNAL(setPosText(QString))},
     {"anim_frame_sel",           Slider,      75, always,    SLOT(frameSelPosChanged(int)), SIGNAL(setFrameSelPos(int))},

@@ -17,6 +17,8 @@ class Animations;
 class FrameCode;
 class GraphicsWorkspace;
 class Sprites;
+struct AssetRequest;
+struct AssetResult;
 
 /// The editor "anim": the animations of a text, frame by frame, on a stage and a time line.
 ///
@@ -235,6 +237,11 @@ protected:
 
     /// Writes the current animation. False, with why in `error`, for a file that was not written.
     virtual bool saveAnimationGIF(const QString& fileName, QString* error) = 0;
+
+    /// Brings the sprites of animations of another project, with their palettes, into the
+    /// destination: all of them in one step of undo, or none, with an `error`. Called in front of
+    /// the edit of the text, which then names them as the result tells.
+    virtual AssetResult importAssets(const AssetRequest& request) = 0;
 
     /// Asks the person for a new animation: identifier, text (empty for the template) and the place
     /// in the list, which comes in as a proposal. False if they gave up.

@@ -21,6 +21,7 @@ namespace Zorv {
 enum class FrameValue;
 class Interface;
 class TimeLineWidget;
+struct ImportChoice;
 
 /// Counts up as long as it lives: while it does, a loop of signals is broken.
 class Guard
@@ -118,6 +119,11 @@ public:
 
     // animationeditorcommands.cpp
     void addAnimation(const QVector<SpriteNumber>& sprites);
+
+    // animationeditorimport.cpp
+    void importEntries(const ImportChoice& choice);
+    bool bringAssets(const QVector<SpriteNumber>& wanted, const QPointer<Project>& source,
+                     AssetResult* result);
 
     // animationeditorsprites.cpp
     void giveSprites(int animation, const QVector<SpriteNumber>& sprites, bool isTemplate);
@@ -265,6 +271,7 @@ public slots:
 
     void frameAlign();
     void editAnimCode();
+    void projImport();
 
     void boxAddAChanged(bool isOn);
     void boxAddCChanged(bool isOn);

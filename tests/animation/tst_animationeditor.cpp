@@ -6,6 +6,7 @@
 #include "support/testinterface.h"
 
 #include "animation/frameticks.h"
+#include "animation/import/assetrequest.h"
 #include "animation/timeline/timelinewidget.h"
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
@@ -86,6 +87,7 @@ protected:
         data.boxes = static_cast<PoseFrame*>(source)->data.boxes;
         static_cast<PoseFrame*>(target)->write(data);
     }
+    AssetResult importAssets(const AssetRequest&) override { return {}; }
     bool saveAnimationGIF(const QString&, QString*) override { return false; }
     bool newAnimationData(QString& identifier, QString& text, int& position) override
     {

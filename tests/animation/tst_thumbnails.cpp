@@ -1,6 +1,7 @@
 #include "animation/thumbnails/thumbnailseditor.h"
 
 #include "animation/animationeditor.h"
+#include "animation/import/assetrequest.h"
 #include "animation/thumbnails/spritelist.h"
 #include "editors/code/codeworkspace.h"
 #include "graphics/graphicwork/graphicsworkspace.h"
@@ -56,6 +57,7 @@ protected:
         return nullptr;
     }
     void copyContactBoxes(FrameCode*, FrameCode*) override {}
+    AssetResult importAssets(const AssetRequest&) override { return {}; }
     bool saveAnimationGIF(const QString&, QString*) override { return false; }
     bool newAnimationData(QString& identifier, QString& code, int& position) override
     {

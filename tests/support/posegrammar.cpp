@@ -266,12 +266,26 @@ QString PoseAnimation::frameTemplate(const FrameCode*) const
     return PoseData::of(QStringLiteral("> 0,0 0,0 5 0 1,1 0")).line();
 }
 
+bool PoseAnimations::canName(const QString& identifier) const
+{
+    return !identifier.isEmpty() && !identifier.contains(QLatin1Char(' '));
+}
+
 QString PoseAnimations::codeFor(unsigned index, const QString& identifier,
-                                const QHash<SpriteNumber, SpriteNumber>&) const
+                                const QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>& sprites) const
 {
     QStringList lines = ownLines(index).selectedText().split(QChar::ParagraphSeparator);
     lines[0] = QLatin1Char('@') + identifier;
-    return lines.join(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        PoseData data = PoseData::of(line);
+        const Zorv::SpriteNumber own{data.group, data.number};
+        if (line.startsWith(QLatin1Char('>')) && sprites.contains(own)) {
+            data.group = sprites.value(own).group;
+            data.number = sprites.value(own).number;
+            line = data.line();
+        }
+    }
+    return canName(identifier) && at(index) ? lines.join(QLatin1Char('\n')) : QString();
 }
 
 PoseDocument::PoseDocument(const QString& text)

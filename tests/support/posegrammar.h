@@ -127,12 +127,15 @@ public:
     using Animations::Animations;
     void release() override { delete this; }
     int optimize(bool, QStringList*) override { return 0; }
-    QString codeFor(unsigned index, const QString& identifier,
-                    const QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>& map) const override;
     QString animationTemplate() const override
     {
         return QStringLiteral("@%1\n> 0,0 0,0 5 0 1,1 0\n");
     }
+
+    /// Names have no blanks.
+    bool canName(const QString& identifier) const override;
+    QString codeFor(unsigned index, const QString& identifier,
+                    const QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>& sprites) const override;
 };
 
 class PoseDocument : public Zorv::CodeDocument

@@ -2,6 +2,7 @@
 
 #include "animation/animationeditor.h"
 #include "animation/edits/boxedits.h"
+#include "animation/import/assetrequest.h"
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
 #include "graphics/graphicwork/graphicsworkspace.h"
@@ -50,6 +51,7 @@ protected:
         *error = QStringLiteral("There are no pictures.");
         return false;
     }
+    Zorv::AssetResult importAssets(const Zorv::AssetRequest&) override { return {}; }
     bool newAnimationData(QString& identifier, QString&, int&) override
     {
         identifier = QStringLiteral("new");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "animation/import/importentry.h"
 #include "cache/spritenumber.h"
 #include "code/codedoc/animations.h"
 #include "zorv_export.h"
@@ -10,21 +11,6 @@
 #include <QVector>
 
 namespace Zorv {
-
-/// A row of another project's list that is to be taken over, and what it is to be called.
-///
-/// The row goes with its list: it is invalid when that, or what stands there, has gone.
-struct ImportEntry
-{
-    QPersistentModelIndex source;
-    QString identifier;
-};
-
-/// What happens to an entry whose identifier the destination has already.
-enum class ImportConflict {
-    Replace,  ///< it takes the place of the first one there
-    Skip      ///< it is not added
-};
 
 /// What an import did, by the identifiers of the destination.
 struct AnimationImportResult
