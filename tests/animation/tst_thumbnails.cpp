@@ -242,12 +242,12 @@ void TestThumbnails::makesAnimations_data()
     QTest::addColumn<QString>("after");
     const QString text = QLatin1String(someText);
     const QString made = QStringLiteral("!made\n-0,2\n-0,4\n");
-    QTest::newRow("in front") << QString() << 0 << made + QLatin1Char('\n') + text;
+    QTest::newRow("in front") << QString() << 0 << made + text;
     QTest::newRow("at the end") << QString() << 2 << text + made;
     QTest::newRow("nowhere") << QString() << -1 << text + made;
     QTest::newRow("own frames stay")
         << QStringLiteral("!made\n-0,5") << 1
-        << QStringLiteral("!one\n-0,1\n-0,2\n!made\n-0,5\n-0,2\n-0,4\n\n!two\n");
+        << QStringLiteral("!one\n-0,1\n-0,2\n!made\n-0,5\n-0,2\n-0,4\n!two\n");
     QTest::newRow("no animation") << QStringLiteral("# nothing") << 2
                                   << text + QStringLiteral("# nothing\n");
 }
