@@ -74,6 +74,8 @@ public:
         row->addWidget(graphics->widget(), 3);
         row->addWidget(code->widget(), 1);
         window.resize(700, 700);
+        code->activate();
+        graphics->activate();
         open(text);
         window.show();
         host.controlsWindow()->show();
