@@ -1,16 +1,19 @@
+#include "animation/timeline/timelinewidget.h"
+#include "graphics/renderwidget.h"
 #include "support/editorwalk.h"
 #include "support/gltest.h"
 #include "support/reelstudio.h"
 
 #include <QAction>
 #include <QRegularExpression>
+#include <QTextBlock>
 
 using namespace Zorv;
 
 namespace {
 
 constexpr quint32 Seed = 20261122;
-constexpr int Acts = 400;  // ZORV_TEST_RUNS=20000 looks for rarer faults
+constexpr int WalkedActs = 400;  // ZORV_TEST_RUNS=20000 looks for rarer faults
 
 const RandomText Text(ReelGrammar::lines(), QStringLiteral("0123456789- ab*<>+\n"));
 
@@ -39,10 +42,47 @@ public:
         return m.document->sprite(frame->spriteGroup(), frame->spriteNumber());
     }
 
-private:
     ReelStudio m{QStringLiteral("<walk>\nb -10 -20 20 30\n+ 0 0 0 0 4 0\na 5 5 9 9\n+ 0 1 3 4 4 1\n"
                                 "<jab>\n+ 0 0 1 1 3 0 *\nb 1 2 3 4\n+ 0 1 0 0 -1 0\n")};
 };
+
+/// What a person has begun and not ended.
+enum Act { Play, DragBox, DragSprite, CodeWindow, Acts };
+const char* const actNames[] = {"play", "a box is dragged", "a sprite is dragged", "code window"};
+
+/// What happens to the text meanwhile.
+enum Change { EditFrame, DeleteLines, MoveLines, DeleteAll, CloseProject, Changes };
+const char* const changeNames[] = {"edited", "deleted", "moved", "all gone", "closed"};
+
+void change(CodeDocument* text, Change change)
+{
+    QTextCursor cursor(text);
+    cursor.beginEditBlock();
+    switch (change) {
+    case EditFrame:
+        cursor.setPosition(text->findBlockByNumber(2).position());
+        cursor.insertText(QStringLiteral("+ 0 1 9 9 1 1\n"));
+        break;
+    case DeleteLines:
+    case MoveLines:
+        cursor.setPosition(text->findBlockByNumber(5).position(), QTextCursor::KeepAnchor);
+        cursor.removeSelectedText();
+        if (change == MoveLines) {
+            cursor.movePosition(QTextCursor::End);
+            cursor.insertText(QStringLiteral("<walk>\nb -10 -20 20 30\n+ 0 0 0 0 4 0\n"));
+        }
+        break;
+    default:
+        cursor.select(QTextCursor::Document);
+        cursor.removeSelectedText();
+    }
+    cursor.endEditBlock();
+}
+
+QString manyFrames()
+{
+    return QStringLiteral("<a>\n") + QStringLiteral("b 1 2 3 4\n+ 0 0 0 0 2 0\n").repeated(10000);
+}
 
 }  // namespace
 
@@ -53,12 +93,92 @@ class TestAnimationEditorWalk : public QObject
 
 private slots:
     void showsWhatTheTextSays();
+    void allToolsOnBadText_data();
+    void allToolsOnBadText();
+    void textChangesUnderAnAct_data();
+    void textChangesUnderAnAct();
 };
 
 void TestAnimationEditorWalk::showsWhatTheTextSays()
 {
     ReelHost host;
-    EditorWalk(Seed, &host, Text).walk(qMax(Acts, qEnvironmentVariableIntValue("ZORV_TEST_RUNS")));
+    EditorWalk(Seed, &host, Text)
+        .walk(qMax(WalkedActs, qEnvironmentVariableIntValue("ZORV_TEST_RUNS")));
+}
+
+void TestAnimationEditorWalk::allToolsOnBadText_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("nothing") << QString();
+    QTest::newRow("no animation") << QStringLiteral("+ 0 0 0 0 2 0\nb 1 2 3 4\n");
+    QTest::newRow("no frames") << QStringLiteral("<a>\nb 1 2 3 4\n<b>");
+    QTest::newRow("no sprites") << QStringLiteral("<a>\n+ -1 -1 0 0 2 0\n+ 70000 8 0 0 2 0\n");
+    QTest::newRow("broken sprite")
+        << QStringLiteral("<a>\nb 1 2 3 4\n+ 0 2 0 0 2 0\n+ 0 2 0 0 2 0");
+    QTest::newRow("odd times") << QStringLiteral("<a>\n+ 0 0 0 0 2000000000 0\n"
+                                                 "+ 0 0 0 0 2000000000 0\n+ 0 0 0 0 0 0\n"
+                                                 "+ 0 0 0 0 -7 0\n+ 0 0 0 0 2147483647 0\n");
+    QTest::newRow("no time") << QStringLiteral("<a>\n+ 0 0 0 0 0 0\n+ 0 1 0 0 0 0 *\n");
+    QTest::newRow("far away") << QStringLiteral(
+        "<a>\na -2147483648 -2147483648 2147483647 2147483647\n"
+        "b 2147483647 2147483647 2147483647 2147483647\n"
+        "+ 0 0 2147483647 -2147483648 2 3\n+ 0 0 -2147483648 2147483647 2 3\n");
+    QTest::newRow("names twice") << QStringLiteral("<a>\n+ 0 0 0 0 2 0\n<a>\n+ 0 1 0 0 2 0\n<a>\n");
+    QTest::newRow("10,000 frames") << manyFrames();
+}
+
+void TestAnimationEditorWalk::allToolsOnBadText()
+{
+    QFETCH(QString, text);
+    ReelHost host;
+    host.m.close();
+    host.m.open(text);
+    EditorWalk walk(Seed, &host, Text);
+    walk.triggerAll();
+}
+
+void TestAnimationEditorWalk::textChangesUnderAnAct_data()
+{
+    QTest::addColumn<int>("act");
+    QTest::addColumn<int>("change");
+    for (int act = 0; act < Acts; ++act) {
+        for (int change = 0; change < Changes; ++change) {
+            QTest::addRow("%s, %s", actNames[act], changeNames[change]) << act << change;
+        }
+    }
+}
+
+void TestAnimationEditorWalk::textChangesUnderAnAct()
+{
+    QFETCH(int, act);
+    QFETCH(int, change);
+    ReelHost host;
+    ReelStudio& m = host.m;
+    EditorWalk walk(Seed, &host, Text);
+    host.action(QStringLiteral("view_collision_box"))->trigger();
+    const QPoint place = m.stage.origin() + (act == DragBox ? QPoint(-5, -10) : QPoint(20, 15));
+    QWidget* stage = m.graphics->renderWidget();
+    if (act == Play || act == CodeWindow) {
+        host.action(act == Play ? QStringLiteral("anim_play") : QStringLiteral("anim_code"))
+            ->trigger();
+    } else {
+        QTest::mousePress(stage, Qt::LeftButton, {}, place);
+        m.stage.mouseMoved(place + QPoint(7, 3), {});
+    }
+    if (change == CloseProject) {
+        m.close();
+    } else {
+        ::change(m.document, Change(change));
+    }
+    QTest::qWait(act == Play ? 50 : 1);
+    m.stage.mouseMoved(place + QPoint(9, 4), {});
+    QTest::mouseRelease(stage, Qt::LeftButton, {}, place + QPoint(9, 4));
+    if (change == CloseProject) {
+        QVERIFY(!m.editor->currentFrame());
+        QVERIFY(!m.graphics->timeLine()->isPlaying());
+        m.open(QStringLiteral("<walk>\n+ 0 0 0 0 4 0\n"));
+    }
+    QCOMPARE(walk.fault(), QString());
 }
 
 ZORV_GL_TEST_MAIN(TestAnimationEditorWalk)

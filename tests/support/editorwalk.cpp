@@ -114,6 +114,17 @@ void move(QWidget* widget, QPoint place, Qt::MouseButton button, Qt::KeyboardMod
     QCoreApplication::sendEvent(widget, &event);
 }
 
+/// Dialogs are answered first. Timers of no time come in their order, when there is nothing else.
+void letComeWhatIsPutOff()
+{
+    while (QApplication::activeModalWidget() || QApplication::activePopupWidget()) {
+        QTest::qWait(1);
+    }
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 QString textOfControl(const QWidget* widget)
 {
     if (const auto* slider = qobject_cast<const QSlider*>(widget)) {
@@ -210,6 +221,19 @@ void EditorWalk::walk(int count)
         const QString found = undoAll();
         QVERIFY2(found.isEmpty(), qPrintable(found));
     }
+}
+
+void EditorWalk::triggerAll()
+{
+    const QStringList names = m_host->actions();
+    for (const QString& name : names) {
+        triggerAction(name);
+        letComeWhatIsPutOff();
+        const QString found = document()->blockCount() < MostLines ? fault() : QString();
+        QVERIFY2(found.isEmpty(), qPrintable(found));
+    }
+    const QString found = undoAll();
+    QVERIFY2(found.isEmpty(), qPrintable(found));
 }
 
 CodeDocument* EditorWalk::document()
@@ -543,18 +567,6 @@ void EditorWalk::tidy()
 }
 
 // What must be true after each
-
-namespace {
-
-/// Timers of no time come in their order, when there is nothing else.
-void letComeWhatIsPutOff()
-{
-    QEventLoop loop;
-    QTimer::singleShot(0, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-}  // namespace
 
 QString EditorWalk::fault()
 {

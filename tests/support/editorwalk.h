@@ -66,7 +66,12 @@ public:
     /// Does so many things, and looks after each.
     void walk(int count);
 
+    /// Triggers every tool once, and undoes it all.
+    void triggerAll();
+
     void tidy();
+
+    /// What is wrong now; empty for nothing.
     QString fault();
 
 private:
