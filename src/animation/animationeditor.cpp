@@ -203,7 +203,11 @@ AnimationEditor::AnimationEditor(CodeWorkspace* code, GraphicsWorkspace* stage,
     d->tellEnabled({});
 }
 
-AnimationEditor::~AnimationEditor() = default;
+/// Stage and strip must not keep what is theirs no longer.
+AnimationEditor::~AnimationEditor()
+{
+    CodeFileEditor::deactivate();
+}
 
 QAction* AnimationEditor::action() const
 {
@@ -299,7 +303,7 @@ void AnimationEditor::redo()
 void AnimationEditor::currLineChanged(int line)
 {
     CodeFileEditor::currLineChanged(line);
-    if (!d->isLinked() || !document() || d->cursorMoves > 0 || d->updating > 0 || d->inputs > 0 ||
+    if (!d->isLinked() || !d->isTextShown() || d->cursorMoves > 0 || d->updating > 0 || d->inputs > 0 ||
         document()->isCodeBeingChanged()) {
         return;
     }

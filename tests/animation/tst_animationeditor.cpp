@@ -4,6 +4,7 @@
 #include "support/posegrammar.h"
 #include "support/stagedata.h"
 #include "support/testinterface.h"
+#include "support/testproject.h"
 
 #include "animation/frameticks.h"
 #include "animation/import/assetrequest.h"
@@ -21,6 +22,7 @@
 #include <QRandomGenerator>
 #include <QSlider>
 #include <QSpinBox>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <memory>
@@ -137,6 +139,8 @@ private slots:
     void commands();
     void framesComeAndGo();
     void documentDies();
+    void projectBringsItsAnimations();
+    void editorDies();
 
 private:
     template <class Widget>
@@ -791,6 +795,39 @@ void TestAnimationEditor::documentDies()
     QCOMPARE(renderer->spriteProvider(), nullptr);
     editor->selectFrame(1);
     editor->play();
+}
+
+/// Its main document, if it names no file of animations.
+void TestAnimationEditor::projectBringsItsAnimations()
+{
+    const QTemporaryDir folder;
+    TestParent parent(folder.path());
+    auto* main = new PoseDocument(QStringLiteral("@main\n> 0,0 0,0 1 0 1,1 0\n"));
+    TestProject project(&parent, main);
+    editor->setProject(&project);
+    QCOMPARE(editor->document(), main);
+    QCOMPARE(label("anim_sel_lb"), QStringLiteral("1 / 1"));
+    auto* list = new PoseDocument(QLatin1String(someText));
+    project.addFile(list, FileID::Animations);
+    editor->setProject(&project);
+    QCOMPARE(editor->document(), main);
+    editor->setProject(nullptr);
+    QVERIFY(!editor->animations() && !editor->action()->isEnabled());
+    editor->setProject(&project);
+    QCOMPARE(editor->document(), list);
+    editor->projectAboutToClose(&project);
+    QVERIFY(!editor->document());
+    project.release();
+}
+
+void TestAnimationEditor::editorDies()
+{
+    editor->play();
+    editor.reset();
+    QVERIFY(!stage->timeLine()->isPlaying());
+    QVERIFY(!stage->renderer() && !renderer->spriteProvider() && !text->codeDocument());
+    stage->timeLine()->grab();
+    renderer->mousePressed({10, 10}, Qt::LeftButton, {});
 }
 
 QTEST_MAIN(TestAnimationEditor)

@@ -84,6 +84,14 @@ void TestFrameTicks::ticksAgreeWithAWalk()
                 QCOMPARE(marker.length, delays[shown[tick]]);
             }
         }
+        for (int frame = 0, end = 0; frame < delays.size(); ++frame) {
+            end = end < 0 || delays[frame] < 0 ? -1 : end + delays[frame];
+            QCOMPARE(ticks.endTick(frame), end);
+        }
+        const auto from = delays.begin() + std::max(loop, 0);
+        QCOMPARE(ticks.canLoop(),
+                 endless || (from < delays.end() &&
+                             std::count(from, delays.end(), 0) < delays.end() - from));
         const int after = ticks.loopTick();
         QVERIFY(after == 0 ||
                 (loop > 0 && after == ticks.firstTick(loop) && (endless || after < shown.size())));
