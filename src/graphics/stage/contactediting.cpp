@@ -143,11 +143,83 @@ CodeDocument* GraphicsRendererPrivate::boxDocument() const
     return nullptr;
 }
 
+void GraphicsRendererPrivate::deselectBoxes()
+{
+    hasSelection = false;
+    resetSelectionRect();
+    unselectBoxes();
+}
+
+void GraphicsRendererPrivate::tellSelection()
+{
+    QVector<GraphicsRenderer::SelectedBox> selection = q->selectedBoxes();
+    if (selection != toldSelection) {
+        toldSelection.swap(selection);
+        emit q->boxSelectionChanged();
+    }
+}
+
+/// Of many, where one stands is of no interest, and to compare them all costs more than the move.
+void GraphicsRendererPrivate::tellMovedBox()
+{
+    if (toldSelection.size() == 1) {
+        tellSelection();
+    }
+}
+
 void GraphicsRenderer::deselectContactBoxes()
 {
-    d->hasSelection = false;
-    d->resetSelectionRect();
-    d->unselectBoxes();
+    d->deselectBoxes();
+    d->tellSelection();
+}
+
+void GraphicsRenderer::setContactBoxesLocked(ContactBoxCode::BoxType type, bool isLocked)
+{
+    if (!isBoxType(type)) {
+        return;
+    }
+    d->leaveMode();
+    d->contactBoxes[size_t(type - 1)].locked = isLocked;
+    if (isLocked) {
+        d->deselectBoxes();
+        d->tellSelection();
+    }
+    update();
+}
+
+bool GraphicsRenderer::contactBoxesLocked(ContactBoxCode::BoxType type) const
+{
+    return isBoxType(type) && d->contactBoxes[size_t(type - 1)].locked;
+}
+
+QVector<GraphicsRenderer::SelectedBox> GraphicsRenderer::selectedBoxes() const
+{
+    QVector<SelectedBox> selected;
+    for (size_t list = 0; list < d->contactBoxes.size(); ++list) {
+        const QVector<ContactItem>& items = d->contactBoxes[list].items;
+        for (int i = 0; i < items.size(); ++i) {
+            const ContactItem& item = items.at(i);
+            if (item.selected && item.box) {
+                selected.append({ContactBoxCode::BoxType(list + 1), i, item.normalRect()});
+            }
+        }
+    }
+    return selected;
+}
+
+void GraphicsRenderer::setSelectedBoxRect(const QRect& rect)
+{
+    const QVector<SelectedBox> selected = selectedBoxes();
+    if (selected.size() != 1 || rect.isEmpty()) {
+        return;
+    }
+    d->finishPress();
+    const SelectedBox& box = selected.first();
+    d->contactBoxes[size_t(box.type - 1)].items[box.index].setRect(rect);
+    d->hasSelection = true;
+    d->selectionRect = rect;
+    d->tellSelection();
+    update();
 }
 
 void GraphicsRenderer::moveSelectedContactBoxes(QPoint delta)
@@ -157,6 +229,7 @@ void GraphicsRenderer::moveSelectedContactBoxes(QPoint delta)
     }
     const bool isAbsolute = positionMode(d->contactMode) == AbsoluteAnchor;
     d->sizeMoveContact(false, ContactBoxElement, isAbsolute ? d->scaled(delta) : delta);
+    d->tellMovedBox();
     update();
 }
 
@@ -208,6 +281,7 @@ void GraphicsRenderer::removeSelectedContactBoxes()
     d->resetSelectionRect();
     d->hasSelection = false;
     applyBoxEdits(edits, d->contactBoxes, document, tr("Remove selected contact boxes"));
+    d->tellSelection();
     update();
 }
 

@@ -93,6 +93,7 @@ void GraphicsRenderer::setOrigin(QPoint origin)
     const bool isOther = replace(GraphicsRendererPrivate::m_origin, origin);
     update();
     if (isOther) {
+        d->clicked = {};
         emit viewChanged();
     }
 }
@@ -174,6 +175,9 @@ void GraphicsRenderer::spriteChangedAt(unsigned int index)
     take(LayerKey, item.layer);
     item.rotation = std::isfinite(item.rotation) ? item.rotation : 0.0F;
     item.sprite = provider->at(index);
+    if (item.sprite != d->spriteItems.at(int(index)).sprite) {
+        d->clicked = {};
+    }
     // A provider may change its list when it is asked.
     if (index < static_cast<unsigned>(d->spriteItems.size())) {
         d->spriteItems[static_cast<int>(index)] = item;
@@ -200,12 +204,15 @@ void GraphicsRenderer::setContactBoxes(ContactBoxCode::BoxType type, ContactBoxe
     }
     ContactBoxes& boxes = d->contactBoxes[static_cast<size_t>(type - 1)];
     boxes.code = code;
-    boxes.items.resize(code ? code->count() : 0);
+    const int count = code ? code->count() : 0;
+    bool isOther = boxes.items.size() != count;
+    boxes.items.resize(count);
     int index = 0;
     for (ContactItem& item : boxes.items) {
         item.box = code->at(index++);
         const QRect rect = item.box ? item.box->rect() : QRect();
         item.source = rect;
+        isOther |= item.rect() != rect;
         if (item.selected && item.box && item.rect() == rect) {
             d->hasSelection = true;
             d->updateBoxSelection(rect);
@@ -214,6 +221,10 @@ void GraphicsRenderer::setContactBoxes(ContactBoxCode::BoxType type, ContactBoxe
             item.setRect(rect);
         }
     }
+    if (isOther) {
+        d->clicked = {};
+    }
+    d->tellSelection();
     update();
 }
 

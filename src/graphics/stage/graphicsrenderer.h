@@ -12,6 +12,7 @@
 #include <QPoint>
 #include <QRect>
 #include <QSize>
+#include <QVector>
 
 #include <memory>
 
@@ -80,6 +81,20 @@ public:
 
     /// Which pictures the crosses have.
     enum CrossHairType { SmallCrosses = 0, LargeCrosses = 1, FileCrosses = 2 };
+
+    /// A selected box as it stands on the stage, which may differ from the text: its place in its
+    /// list, and its rectangle in model units, left and top first.
+    struct SelectedBox
+    {
+        ContactBoxCode::BoxType type;
+        int index;
+        QRect rect;
+
+        bool operator==(const SelectedBox& other) const
+        {
+            return type == other.type && index == other.index && rect == other.rect;
+        }
+    };
 
     explicit GraphicsRenderer(QObject* parent = nullptr);
     ~GraphicsRenderer() override;
@@ -196,6 +211,10 @@ public:
 
     /// @}
     /// @name Input
+    /// A press takes what lies on top; with Alt what lies beneath that. A click that is no drag
+    /// keeps what it has taken for the next press at its place, and a second one there takes what
+    /// lies beneath: so a sprite can be dragged where boxes cover it. Behind the last comes the top
+    /// again. Arrows move selected boxes by a pixel of the game, with Shift by ten.
     /// @{
 
     /// The left button moves what it presses on; a box that was just drawn becomes selected. As
@@ -211,6 +230,18 @@ public:
 
     /// Does not repaint.
     void deselectContactBoxes();
+
+    /// Locked boxes are shown, and neither found under the pointer nor selected: a press takes what
+    /// lies beneath. They can still be drawn. Locking deselects all boxes.
+    void setContactBoxesLocked(ContactBoxCode::BoxType type, bool isLocked);
+    bool contactBoxesLocked(ContactBoxCode::BoxType type) const;
+
+    /// Over all lists, in order; without the one that is being drawn.
+    QVector<SelectedBox> selectedBoxes() const;
+
+    /// Gives the selected box another rectangle, on the stage alone: `updateSelectedBoxes()` writes
+    /// it. Nothing unless one box is selected, nor for an empty rectangle.
+    void setSelectedBoxRect(const QRect& rect);
 
     /// Moves the selected boxes on the stage alone; `updateSelectedBoxes()` writes them.
     void moveSelectedContactBoxes(QPoint delta);
@@ -268,6 +299,11 @@ signals:
 
     /// A drag has ended; for boxes also a move by keys, with null and (0,0).
     void itemReleased(Zorv::GraphicsRenderer::ItemType type, void* item, QPoint offsetToParent);
+
+    /// Other boxes are selected, or the only one that is has another rectangle: `selectedBoxes()`
+    /// tells. It comes during drags, and from `setContactBoxes()`; boxes of the text are not to be
+    /// asked.
+    void boxSelectionChanged();
 
     /// The origin or the zoom is another: by a person, at each step of a drag, or by a call.
     void viewChanged();

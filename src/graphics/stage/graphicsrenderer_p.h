@@ -8,10 +8,45 @@
 #include <QPointer>
 
 #include <array>
+#include <functional>
 
 namespace Zorv {
 
 class CodeDocument;
+
+/// What lies under a point: an element, and which sprite or box it is.
+struct StageHit
+{
+    GraphicsRenderer::RenderElement element = GraphicsRenderer::StageElement;
+    int item = -1;
+    int list = -1;  // of a box
+
+    bool operator==(const StageHit& other) const
+    {
+        return element == other.element && item == other.item && list == other.list;
+    }
+};
+
+/// The last press of the left button that was no drag, and what it has taken.
+struct StageClick
+{
+    static constexpr int Reach = 3;  // a hand is not quite still
+
+    bool isAt(QPoint pos) const
+    {
+        return isValid && qAbs(pos.x() - place.x()) <= Reach && qAbs(pos.y() - place.y()) <= Reach;
+    }
+
+    bool isValid = false;
+    QPoint place;
+    StageHit hit;
+};
+
+/// The handles of selected boxes.
+inline bool isSizer(GraphicsRenderer::RenderElement element)
+{
+    return element >= GraphicsRenderer::TopLeftSizer;
+}
 
 /// The scene of a stage and the state of its input.
 class ZORV_EXPORT GraphicsRendererPrivate
@@ -51,6 +86,7 @@ public:
     Place placeOf(ItemType type, unsigned index);
     QPoint ownPart(const Place& place) const;
     QPoint alongParents(unsigned char mode, unsigned parent);
+    StageHit parentOf(unsigned char mode, unsigned parent) const;
     void replaceByParent(unsigned char mode, unsigned parent, RenderElement* out);
 
     // stagezoom.cpp
@@ -71,25 +107,35 @@ public:
     void renderContactBoxSizers(QPainter& painter);
     void renderRulers(QPainter& painter);
 
-    // hittest.cpp
+    // hittest.cpp. A visitor gives true for what it takes, and so do those that call it.
+    using HitVisitor = std::function<bool(const StageHit&)>;
     RenderElement hitTest(QPoint pos);
-    RenderElement hitTestGuides(QPoint pos) const;
-    RenderElement hitTestBoxesAndCrosses(QPoint pos);
-    RenderElement hitTestContact(QPoint pos);
-    RenderElement hitTestCross(int number, QPoint pos);
-    RenderElement hitTestSprites(QPoint pos);
-    bool hitTestBoxes(QPoint pos);
+    RenderElement take(const StageHit& hit);
+    StageHit topHit(QPoint pos);
+    StageHit hitFor(QPoint pos, bool isBeneath);
+    bool visitHits(QPoint pos, const HitVisitor& visit);
+    bool visitGuides(QPoint pos, const HitVisitor& visit) const;
+    bool visitBoxesAndCrosses(QPoint pos, const HitVisitor& visit);
+    bool visitContacts(QPoint pos, const HitVisitor& visit);
+    bool visitCross(int number, QPoint pos, const HitVisitor& visit);
+    bool visitSprites(QPoint pos, const HitVisitor& visit);
+    bool visitBoxes(QPoint pos, const HitVisitor& visit);
+    bool visitMovable(StageHit hit, unsigned char mode, unsigned parent, const HitVisitor& visit);
+    RenderElement guideAt(QPoint pos) const;
     bool spriteCovers(int index, QPoint pos);
     QPoint sizerFromSelection(RenderElement sizer);
 
     // stageinput.cpp
+    void leaveMode();
     void setCursor(const QCursor& cursor);
     void finishPress();
 
     // stagemouse.cpp
     void pressInDrawMode(QPoint pos);
     void pressInOtherModes(QPoint pos, Qt::KeyboardModifiers modifiers);
+    void pressOn(const StageHit& hit, bool isShift);
     void pressOnBox(bool toggles);
+    void endClick();
     void pressInCaptureMode(QPoint pos);
     void drag(QPoint pos);
     void dragElement(QPoint delta, QPoint modelDelta);
@@ -110,6 +156,9 @@ public:
     void resetSelectionRect();
     void updateBoxSelection(const QRect& rect);
     void unselectBoxes();
+    void deselectBoxes();
+    void tellSelection();
+    void tellMovedBox();
     CodeDocument* boxDocument() const;
 
     GraphicsRenderer* q;
@@ -144,11 +193,14 @@ public:
     bool leftButtonDown = false;
     bool moved = false;  // a drag has changed something
     QPoint lastMousePos;
+    StageClick pressed;  // what becomes the next `clicked`, unless it is dragged
+    StageClick clicked;
     int itemIndex = 0;     // the sprite or box that the last hit test found
     int boxListIndex = 0;  // the list of that box, or of the box being drawn
     int boxCountAtDrawStart = 0;
     RenderElement element = GraphicsRenderer::StageElement;  // of the present press
     QImage captureImage;  // of the sprite whose colours are picked
+    QVector<GraphicsRenderer::SelectedBox> toldSelection;
 };
 
 }  // namespace Zorv

@@ -18,6 +18,19 @@ constexpr int RulerWidth = 30;
 /// right and the bottom.
 constexpr int SizerReach = 6;
 
+/// Of what lies under a point, from the top down: what comes next, and the top behind the last.
+StageHit nextBelow(const QVector<StageHit>& hits, const StageHit& taken)
+{
+    const int at = hits.indexOf(taken);
+    for (int step = 1; step < hits.size(); ++step) {
+        const StageHit& hit = hits.at((at + step) % hits.size());
+        if (!(hit == taken)) {
+            return hit;
+        }
+    }
+    return taken;
+}
+
 bool isInRuler(int place)
 {
     return place >= 0 && place < RulerWidth;
@@ -55,28 +68,74 @@ private:
 
 GraphicsRenderer::RenderElement GraphicsRendererPrivate::hitTest(QPoint pos)
 {
+    return take(topHit(pos));
+}
+
+StageHit GraphicsRendererPrivate::topHit(QPoint pos)
+{
+    StageHit top;
+    visitHits(pos, [&top](const StageHit& hit) {
+        top = hit;
+        return true;
+    });
+    return top;
+}
+
+GraphicsRenderer::RenderElement GraphicsRendererPrivate::take(const StageHit& hit)
+{
+    if (hit.element == GraphicsRenderer::ContactBoxElement) {
+        boxListIndex = hit.list;
+    }
+    itemIndex = hit.item < 0 ? itemIndex : hit.item;
+    return hit.element;
+}
+
+// A click keeps what it has taken for the next press at its place: whoever has selected a box by it
+// can drag it from there.
+StageHit GraphicsRendererPrivate::hitFor(QPoint pos, bool isBeneath)
+{
+    const bool isAgain = clicked.isAt(pos);
+    const StageHit top = isBeneath ? StageHit() : topHit(pos);
+    if (!isBeneath && (!isAgain || isSizer(top.element))) {
+        return top;
+    }
+    QVector<StageHit> hits;
+    visitHits(pos, [&hits](const StageHit& hit) {
+        if (!isSizer(hit.element)) {
+            hits.append(hit);
+        }
+        return false;
+    });
+    const int last = isAgain ? hits.indexOf(clicked.hit) : 0;
+    const StageHit taken = hits.value(qMax(last, 0));
+    return isBeneath ? nextBelow(hits, taken) : taken;
+}
+
+// From the top down, until somebody takes one.
+bool GraphicsRendererPrivate::visitHits(QPoint pos, const HitVisitor& visit)
+{
     if (isInRuler(pos.x()) || isInRuler(pos.y())) {
-        return GraphicsRenderer::StageElement;
+        return false;
     }
-    RenderElement found = m_sprOverGuides ? GraphicsRenderer::StageElement : hitTestGuides(pos);
-    if (found != GraphicsRenderer::StageElement ||
-        clickMode == GraphicsRenderer::DrawContactBoxMode) {
-        return found;
+    if (!m_sprOverGuides && visitGuides(pos, visit)) {
+        return true;
     }
-    if (clickMode != GraphicsRenderer::CaptureMode) {
-        found = hitTestBoxesAndCrosses(pos);
+    if (clickMode == GraphicsRenderer::DrawContactBoxMode) {
+        return false;
     }
-    if (found == GraphicsRenderer::StageElement) {
-        found = hitTestSprites(pos);
-    }
-    if (found == GraphicsRenderer::StageElement && m_sprOverGuides) {
-        found = hitTestGuides(pos);
-    }
-    return found;
+    const bool isCapturing = clickMode == GraphicsRenderer::CaptureMode;
+    return (!isCapturing && visitBoxesAndCrosses(pos, visit)) || visitSprites(pos, visit) ||
+           (m_sprOverGuides && visitGuides(pos, visit));
+}
+
+bool GraphicsRendererPrivate::visitGuides(QPoint pos, const HitVisitor& visit) const
+{
+    const RenderElement found = guideAt(pos);
+    return found != GraphicsRenderer::StageElement && visit({found});
 }
 
 // A guide is caught some pixels around, and no wider however far it is zoomed.
-GraphicsRenderer::RenderElement GraphicsRendererPrivate::hitTestGuides(QPoint pos) const
+GraphicsRenderer::RenderElement GraphicsRendererPrivate::guideAt(QPoint pos) const
 {
     if (!guidesVisible) {
         return GraphicsRenderer::StageElement;
@@ -93,65 +152,67 @@ GraphicsRenderer::RenderElement GraphicsRendererPrivate::hitTestGuides(QPoint po
                                                        : GraphicsRenderer::StageElement;
 }
 
-GraphicsRenderer::RenderElement GraphicsRendererPrivate::hitTestBoxesAndCrosses(QPoint pos)
+bool GraphicsRendererPrivate::visitBoxesAndCrosses(QPoint pos, const HitVisitor& visit)
 {
-    RenderElement found = m_contactOverCross ? hitTestContact(pos) : GraphicsRenderer::StageElement;
+    if (m_contactOverCross && visitContacts(pos, visit)) {
+        return true;
+    }
     for (int number = Cross::Extra; number >= Cross::Main; --number) {
-        if (found == GraphicsRenderer::StageElement) {
-            found = hitTestCross(number, pos);
+        if (visitCross(number, pos, visit)) {
+            return true;
         }
     }
-    return found == GraphicsRenderer::StageElement && !m_contactOverCross ? hitTestContact(pos)
-                                                                          : found;
+    return !m_contactOverCross && visitContacts(pos, visit);
 }
 
-GraphicsRenderer::RenderElement GraphicsRendererPrivate::hitTestCross(int number, QPoint pos)
+bool GraphicsRendererPrivate::visitCross(int number, QPoint pos, const HitVisitor& visit)
 {
     const Cross& cross = crosses[size_t(number)];
     if (!cross.visible || !crossRect(number).contains(pos)) {
-        return GraphicsRenderer::StageElement;
+        return false;
     }
-    auto found = RenderElement(GraphicsRenderer::MainCrossElement + number);
-    if (!isMovable(cross.mode)) {
-        replaceByParent(cross.mode, cross.parent, &found);
-    }
-    return found;
+    const auto own = RenderElement(GraphicsRenderer::MainCrossElement + number);
+    return visitMovable({own}, cross.mode, cross.parent, visit);
 }
 
-GraphicsRenderer::RenderElement GraphicsRendererPrivate::hitTestContact(QPoint pos)
+/// What cannot be moved itself gives its parent, and is passed over if that is the stage.
+bool GraphicsRendererPrivate::visitMovable(StageHit hit, unsigned char mode, unsigned parent,
+                                           const HitVisitor& visit)
+{
+    if (!isMovable(mode)) {
+        hit = parentOf(mode, parent);
+    }
+    return hit.element != GraphicsRenderer::StageElement && visit(hit);
+}
+
+bool GraphicsRendererPrivate::visitContacts(QPoint pos, const HitVisitor& visit)
 {
     for (int sizer = GraphicsRenderer::TopLeftSizer;
          hasSelection && sizer <= GraphicsRenderer::RightSizer; ++sizer) {
         const QPoint centre = sizerFromSelection(RenderElement(sizer));
         if (QRect(centre - QPoint(SizerReach, SizerReach), QSize(2 * SizerReach, 2 * SizerReach))
-                .contains(pos)) {
-            return RenderElement(sizer);
+                .contains(pos) &&
+            visit({RenderElement(sizer)})) {
+            return true;
         }
     }
-    if (!hitTestBoxes(pos)) {
-        return GraphicsRenderer::StageElement;
-    }
-    RenderElement found = GraphicsRenderer::ContactBoxElement;
-    if (!isMovable(contactMode)) {
-        replaceByParent(contactMode, contactParent, &found);
-    }
-    return found;
+    return visitBoxes(pos, visit);
 }
 
-bool GraphicsRendererPrivate::hitTestBoxes(QPoint pos)
+bool GraphicsRendererPrivate::visitBoxes(QPoint pos, const HitVisitor& visit)
 {
     const QPoint anchor = anchorOf(contactMode, contactParent);
     const FarBoxes far(pos, anchor, zoom);
     for (int list = BoxTypes - 1; list >= 0; --list) {
         const ContactBoxes& boxes = contactBoxes[size_t(list)];
-        if (!boxes.visible) {
+        if (!boxes.visible || boxes.locked) {
             continue;
         }
         for (int i = boxes.items.size() - 1; i >= 0; --i) {
             const ContactItem& item = boxes.items.at(i);
-            if (!far.holds(item) && contactRect(item, anchor).contains(pos)) {
-                boxListIndex = list;
-                itemIndex = i;
+            if (!far.holds(item) && contactRect(item, anchor).contains(pos) &&
+                visitMovable({GraphicsRenderer::ContactBoxElement, i, list}, contactMode,
+                             contactParent, visit)) {
                 return true;
             }
         }
@@ -159,24 +220,21 @@ bool GraphicsRendererPrivate::hitTestBoxes(QPoint pos)
     return false;
 }
 
-GraphicsRenderer::RenderElement GraphicsRendererPrivate::hitTestSprites(QPoint pos)
+bool GraphicsRendererPrivate::visitSprites(QPoint pos, const HitVisitor& visit)
 {
     for (int i = spriteItems.size() - 1; i >= 0; --i) {
         if (!spriteCovers(i, pos)) {
             continue;
         }
-        itemIndex = i;
         const SpriteItem& item = spriteItems.at(i);
-        RenderElement found = GraphicsRenderer::SpriteElement;
+        const StageHit hit{GraphicsRenderer::SpriteElement, i};
         // A colour is that of the picture, whatever would move with it.
-        if (clickMode != GraphicsRenderer::CaptureMode && !isMovable(item.mode)) {
-            replaceByParent(item.mode, item.parent, &found);
-        }
-        if (found != GraphicsRenderer::StageElement) {
-            return found;
+        const bool isCapturing = clickMode == GraphicsRenderer::CaptureMode;
+        if (isCapturing ? visit(hit) : visitMovable(hit, item.mode, item.parent, visit)) {
+            return true;
         }
     }
-    return GraphicsRenderer::StageElement;
+    return false;
 }
 
 // Turns the middle of the pixel back about the anchor, and looks where it lies on the picture,

@@ -28,6 +28,25 @@ constexpr Qt::CursorShape s_cursors[] = {
 };
 constexpr int ElementCount = sizeof s_cursors / sizeof *s_cursors;
 
+constexpr int WideStep = 10;  // with the shift key
+
+/// What an arrow moves boxes by; nothing for other keys.
+QPoint stepOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
+
 }  // namespace
 
 GraphicsRenderer::Input::Input(GraphicsRenderer* stage) : m_stage(stage)
@@ -61,19 +80,29 @@ void GraphicsRendererPrivate::finishPress()
     }
 }
 
+/// What was clicked before is nothing to go on from.
+void GraphicsRendererPrivate::leaveMode()
+{
+    finishPress();
+    clicked = {};
+}
+
 void GraphicsRenderer::setPositioningMode()
 {
-    d->finishPress();
-    const QVector<ContactItem>& items = d->contactBoxes[size_t(d->boxListIndex)].items;
-    if (d->clickMode == DrawContactBoxMode && items.size() > d->boxCountAtDrawStart) {
-        deselectContactBoxes();
-        d->hasSelection = true;
-        ContactItem& drawn = d->contactBoxes[size_t(d->boxListIndex)].items.last();
-        drawn.selected = true;
-        d->updateBoxSelection(drawn.rect());
+    d->leaveMode();
+    ContactBoxes& boxes = d->contactBoxes[size_t(d->boxListIndex)];
+    if (d->clickMode == DrawContactBoxMode && boxes.items.size() > d->boxCountAtDrawStart) {
+        d->deselectBoxes();
+        ContactItem& drawn = boxes.items.last();
+        drawn.selected = !boxes.locked;
+        d->hasSelection = drawn.selected;
+        if (drawn.selected) {
+            d->updateBoxSelection(drawn.rect());
+        }
         update();
     }
     d->clickMode = PositioningMode;
+    d->tellSelection();
 }
 
 void GraphicsRenderer::setDrawContactBoxMode(ContactBoxCode::BoxType type)
@@ -81,7 +110,7 @@ void GraphicsRenderer::setDrawContactBoxMode(ContactBoxCode::BoxType type)
     if (!isBoxType(type)) {
         return;
     }
-    d->finishPress();
+    d->leaveMode();
     d->clickMode = DrawContactBoxMode;
     d->boxListIndex = type - 1;
     d->boxCountAtDrawStart = d->contactBoxes[size_t(d->boxListIndex)].items.size();
@@ -90,7 +119,7 @@ void GraphicsRenderer::setDrawContactBoxMode(ContactBoxCode::BoxType type)
 
 void GraphicsRenderer::setCaptureMode()
 {
-    d->finishPress();
+    d->leaveMode();
     if (d->clickMode == DrawContactBoxMode && d->selectionRect.width() > 0) {
         update();
     }
@@ -139,30 +168,19 @@ void GraphicsRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
     if (key == Qt::Key_Control) {
         d->setCursor(Qt::OpenHandCursor);
     }
-    if (modifiers != Qt::NoModifier) {
+    const bool isWide = modifiers == Qt::ShiftModifier;
+    if (modifiers != Qt::NoModifier && !isWide) {
         return;
     }
-    QPoint step;
-    switch (key) {
-    case Qt::Key_Delete:
+    if (key == Qt::Key_Delete && !isWide) {
         removeSelectedContactBoxes();
         return;
-    case Qt::Key_Left:
-        step = {-1, 0};
-        break;
-    case Qt::Key_Up:
-        step = {0, -1};
-        break;
-    case Qt::Key_Right:
-        step = {1, 0};
-        break;
-    case Qt::Key_Down:
-        step = {0, 1};
-        break;
-    default:
+    }
+    const QPoint step = stepOf(key);
+    if (step.isNull()) {
         return;
     }
-    moveSelectedContactBoxes(step);
+    moveSelectedContactBoxes(isWide ? step * WideStep : step);
     emit itemReleased(ContactBoxesType, nullptr, QPoint());
     update();
 }

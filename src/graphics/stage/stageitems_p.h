@@ -82,6 +82,7 @@ struct ZORV_EXPORT ContactBoxes
     BoxList code;
     QVector<ContactItem> items;
     bool visible = true;
+    bool locked = false;  // not found by the pointer
 };
 
 constexpr int BoxTypes = 8;

@@ -27,11 +27,6 @@ int crossOf(Element element)
     return element - GraphicsRenderer::MainCrossElement;
 }
 
-bool isSizer(Element element)
-{
-    return element >= GraphicsRenderer::TopLeftSizer;
-}
-
 /// Sizers in the middle of a side move that side alone.
 QPoint alongSizer(Element element, QPoint delta)
 {
@@ -90,6 +85,7 @@ void GraphicsRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
         (d->clickMode != PositioningMode || d->hitTest(pos) != StageElement)) {
         emit aboutToGrab();
     }
+    d->pressed = {};
     d->leftButtonDown = true;
     d->lastMousePos = pos;
     if (d->clickMode == DrawContactBoxMode) {
@@ -99,6 +95,7 @@ void GraphicsRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
     } else {
         d->pressInOtherModes(pos, modifiers);
     }
+    d->tellSelection();
 }
 
 void GraphicsRendererPrivate::pressInDrawMode(QPoint pos)
@@ -121,19 +118,49 @@ void GraphicsRendererPrivate::pressInDrawMode(QPoint pos)
 
 void GraphicsRendererPrivate::pressInOtherModes(QPoint pos, Qt::KeyboardModifiers modifiers)
 {
-    const bool isShift = modifiers & Qt::ShiftModifier;
-    element = hitTest(pos);
+    const StageHit hit = hitFor(pos, modifiers & Qt::AltModifier);
+    pressOn(hit, modifiers & Qt::ShiftModifier);
+    if (clickMode == GraphicsRenderer::CaptureMode &&
+        element < GraphicsRenderer::ContactBoxElement) {
+        pressInCaptureMode(pos);
+    }
+    const bool isClick = clickMode == GraphicsRenderer::PositioningMode &&
+                         !(modifiers & Qt::ShiftModifier) && !isSizer(element);
+    pressed = {isClick, pos, hit};
+    // Alt has taken what lies beneath already.
+    if (modifiers & Qt::AltModifier) {
+        clicked = {};
+    }
+    q->update();
+}
+
+void GraphicsRendererPrivate::pressOn(const StageHit& hit, bool isShift)
+{
+    element = take(hit);
     if (!isShift && !isSizer(element)) {
-        q->deselectContactBoxes();
+        deselectBoxes();
     }
     if (element == GraphicsRenderer::ContactBoxElement) {
         pressOnBox(isShift);
     } else if (isSizer(element)) {
         beginResize();
-    } else if (clickMode == GraphicsRenderer::CaptureMode) {
-        pressInCaptureMode(pos);
     }
-    q->update();
+}
+
+/// The second click at a place takes what lies beneath what the first one took, and so on. It does
+/// when the button is released: what is pressed and then dragged is what was there before.
+void GraphicsRendererPrivate::endClick()
+{
+    if (!pressed.isValid) {
+        clicked = {};
+        return;
+    }
+    if (clicked.isAt(pressed.place)) {
+        pressed.hit = hitFor(pressed.place, true);
+        pressOn(pressed.hit, false);
+        q->update();
+    }
+    clicked = pressed;
 }
 
 // Whether anything is selected is told by the list of the box alone, so that a selection in two
@@ -166,7 +193,8 @@ void GraphicsRendererPrivate::pressInCaptureMode(QPoint pos)
 void GraphicsRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
 {
     const Input input(this);
-    const RenderElement under = d->leftButtonDown ? d->element : d->hitTest(pos);
+    const bool isBeneath = modifiers & Qt::AltModifier;
+    const RenderElement under = d->leftButtonDown ? d->element : d->take(d->hitFor(pos, isBeneath));
     const bool wouldPan = modifiers == Qt::ControlModifier;
     d->setCursor(wouldPan ? QCursor(Qt::OpenHandCursor) : elementCursor(under));
     emit cursorChanged(unzoomed(difference(pos, origin()), d->zoom));
@@ -200,7 +228,9 @@ void GraphicsRendererPrivate::drag(QPoint pos)
         return;
     }
     moved = true;
+    clicked = {};
     dragElement(delta, modelDelta);
+    tellMovedBox();
     q->update();
 }
 
@@ -258,6 +288,7 @@ void GraphicsRenderer::mouseReleased(QPoint, Qt::MouseButton button, Qt::Keyboar
 {
     const Input input(this);
     const bool wasMoved = d->moved;
+    const bool wasPressed = d->leftButtonDown;
     if (d->element == StageElement) {
         d->setCursor(Qt::OpenHandCursor);
     }
@@ -274,7 +305,10 @@ void GraphicsRenderer::mouseReleased(QPoint, Qt::MouseButton button, Qt::Keyboar
         d->dropDrawnBox();
     } else if (button == Qt::LeftButton && wasMoved) {
         d->releaseDrag();
+    } else if (button == Qt::LeftButton && wasPressed) {
+        d->endClick();
     }
+    d->tellSelection();
 }
 
 void GraphicsRendererPrivate::releaseDrag()

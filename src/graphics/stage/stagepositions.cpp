@@ -72,19 +72,23 @@ QPoint GraphicsRendererPrivate::alongParents(unsigned char mode, unsigned parent
     }
 }
 
+StageHit GraphicsRendererPrivate::parentOf(unsigned char mode, unsigned parent) const
+{
+    const int anchor = positionMode(mode);
+    if (anchor == CrossAnchor && parent < crosses.size()) {
+        return {RenderElement(GraphicsRenderer::MainCrossElement + parent)};
+    }
+    if (anchor == SpriteAnchor && parent < unsigned(spriteItems.size())) {
+        return {GraphicsRenderer::SpriteElement, int(parent)};
+    }
+    return {};
+}
+
 void GraphicsRendererPrivate::replaceByParent(unsigned char mode, unsigned parent,
                                               RenderElement* out)
 {
-    if (!out) {
-        return;
-    }
-    *out = GraphicsRenderer::StageElement;
-    const int anchor = positionMode(mode);
-    if (anchor == CrossAnchor && parent < crosses.size()) {
-        *out = RenderElement(GraphicsRenderer::MainCrossElement + parent);
-    } else if (anchor == SpriteAnchor && parent < unsigned(spriteItems.size())) {
-        *out = GraphicsRenderer::SpriteElement;
-        itemIndex = int(parent);
+    if (out) {
+        *out = take(parentOf(mode, parent));
     }
 }
 

@@ -72,6 +72,7 @@ void GraphicsRendererPrivate::applyZoomLevel(int level)
     previousZoom = zoom;
     q->update();
     if (isOther) {
+        clicked = {};
         emit q->viewChanged();
     }
 }
