@@ -5659,6 +5659,10 @@ Do you want to import the others?</source>
 
 Möchten Sie die übrigen importieren?</translation>
     </message>
+    <message>
+        <source>Contact box of frame #%1</source>
+        <translation>Kontaktbox von Einzelbild #%1</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::AnimationEdits</name>
@@ -5796,6 +5800,78 @@ Möchten Sie die übrigen importieren?</translation>
     <message>
         <source>How many frames after the shown one the onion skin has, in blue; with 0 on both sides it has the chosen one</source>
         <translation>So viele Einzelbilder nach dem gezeigten haben Zwiebelschalen, in Blau; mit 0 auf beiden Seiten hat sie das gewählte</translation>
+    </message>
+    <message>
+        <source>Box X:</source>
+        <translation>Box X:</translation>
+    </message>
+    <message>
+        <source>Left edge of the selected contact box</source>
+        <translation>Linker Rand der gewählten Kontaktbox</translation>
+    </message>
+    <message>
+        <source>Box Y:</source>
+        <translation>Box Y:</translation>
+    </message>
+    <message>
+        <source>Upper edge of the selected contact box</source>
+        <translation>Oberer Rand der gewählten Kontaktbox</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>Breite:</translation>
+    </message>
+    <message>
+        <source>Width of the selected contact box</source>
+        <translation>Breite der gewählten Kontaktbox</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>Höhe:</translation>
+    </message>
+    <message>
+        <source>Height of the selected contact box</source>
+        <translation>Höhe der gewählten Kontaktbox</translation>
+    </message>
+    <message>
+        <source>Copy contact boxes</source>
+        <translation>Kontaktboxen kopieren</translation>
+    </message>
+    <message>
+        <source>Put the selected contact boxes into the clipboard, or all of the frame</source>
+        <translation>Die gewählten Kontaktboxen in die Zwischenablage legen, oder alle des Einzelbilds</translation>
+    </message>
+    <message>
+        <source>Paste contact boxes</source>
+        <translation>Kontaktboxen einfügen</translation>
+    </message>
+    <message>
+        <source>Add the contact boxes of the clipboard to the selected frames</source>
+        <translation>Die Kontaktboxen der Zwischenablage den gewählten Einzelbildern hinzufügen</translation>
+    </message>
+    <message>
+        <source>Mirror contact boxes</source>
+        <translation>Kontaktboxen spiegeln</translation>
+    </message>
+    <message>
+        <source>Swap left and right of the selected contact boxes, or of all of the frame</source>
+        <translation>Links und rechts der gewählten Kontaktboxen tauschen, oder aller des Einzelbilds</translation>
+    </message>
+    <message>
+        <source>Contact boxes to the selected frames</source>
+        <translation>Kontaktboxen in die gewählten Einzelbilder</translation>
+    </message>
+    <message>
+        <source>Give the contact boxes of this frame to those selected on the strip, in place of theirs</source>
+        <translation>Die Kontaktboxen dieses Einzelbilds denen geben, die auf dem Streifen gewählt sind, an Stelle ihrer eigenen</translation>
+    </message>
+    <message>
+        <source>Lock contact boxes</source>
+        <translation>Kontaktboxen sperren</translation>
+    </message>
+    <message>
+        <source>Leave contact boxes where they are: the mouse takes what lies beneath</source>
+        <translation>Kontaktboxen lassen, wo sie sind: die Maus nimmt, was darunter liegt</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,8 @@
 #include "core/dialogs/dialogs.h"
 #include "core/interface.h"
 
+#include <QEvent>
+
 namespace Zorv {
 
 namespace {
@@ -37,7 +39,11 @@ AnimationCodeWindow::~AnimationCodeWindow()
 void AnimationCodeWindow::open(AnimationCode* shown)
 {
     if (!m_dialog) {
-        m_dialog = new AnimEditTxt(m_host, m_host->mainWindow());
+        QWidget* window = m_host->mainWindow();
+        m_dialog = new AnimEditTxt(m_host, window);
+        if (window) {
+            window->installEventFilter(this);
+        }
         connect(m_dialog, &AnimEditTxt::applyRequested, this, &AnimationCodeWindow::apply);
         connect(m_dialog, &AnimEditTxt::visibilityChanged, this,
                 &AnimationCodeWindow::visibilityChanged);
@@ -56,6 +62,15 @@ bool AnimationCodeWindow::isOpen() const
 bool AnimationCodeWindow::mayDrop()
 {
     return !isOpen() || m_dialog->mayDrop();
+}
+
+bool AnimationCodeWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Close && watched == m_host->mainWindow() && !mayDrop()) {
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void AnimationCodeWindow::reconfig()

@@ -33,6 +33,9 @@ public:
     bool mayDrop();
     void reconfig();
 
+    /// The window of the host is about to close, and this one with it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 signals:
     void visibilityChanged();
 

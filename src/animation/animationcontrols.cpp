@@ -24,6 +24,7 @@ const char* const animation = SIGNAL(enabled(bool));
 const char* const frame = SIGNAL(frameEnabled(bool));
 const char* const frameNC = SIGNAL(frameEnabledNC(bool));
 const char* const frameExtra = SIGNAL(frameEnabledExtra(bool));
+const char* const box = SIGNAL(boxEnabled(bool));
 
 struct Tool
 {
@@ -87,6 +88,15 @@ const Tool tools[] = {
     {"anim_next_frame",          Action,      90, frame,     SLOT(nextFrame()),           nullptr},
     {"anim_onion_before",        Spin, AnimationTexts::OnionBefore, frameNC, SLOT(onionBeforeChanged(int)), SIGNAL(setOnionBefore(int))},
     {"anim_onion_after",         Spin, AnimationTexts::OnionAfter, frameNC, SLOT(onionAfterChanged(int)), SIGNAL(setOnionAfter(int))},
+    {"anim_box_x",               Spin, AnimationTexts::BoxX, box, SLOT(boxXChanged(int)), SIGNAL(setBoxX(int))},
+    {"anim_box_y",               Spin, AnimationTexts::BoxY, box, SLOT(boxYChanged(int)), SIGNAL(setBoxY(int))},
+    {"anim_box_width",           Spin, AnimationTexts::BoxWidth, box, SLOT(boxWidthChanged(int)), SIGNAL(setBoxWidth(int))},
+    {"anim_box_height",          Spin, AnimationTexts::BoxHeight, box, SLOT(boxHeightChanged(int)), SIGNAL(setBoxHeight(int))},
+    {"anim_box_copy",            Action, AnimationTexts::BoxCopy, frame, SLOT(boxCopy()), nullptr},
+    {"anim_box_paste",           Action, AnimationTexts::BoxPaste, frameNC, SLOT(boxPaste()), nullptr},
+    {"anim_box_mirror",          Action, AnimationTexts::BoxMirror, frameNC, SLOT(boxMirror()), nullptr},
+    {"anim_box_to_frames",       Action, AnimationTexts::BoxToFrames, frameNC, SLOT(boxToFrames()), nullptr},
+    {"anim_box_lock",            CheckAction, AnimationTexts::BoxLock, always, SLOT(boxLock(bool)), nullptr},
 };
 // clang-format on
 

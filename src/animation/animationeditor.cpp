@@ -56,6 +56,8 @@ AnimationEditorPrivate::AnimationEditorPrivate(AnimationEditor* owner, GraphicsW
     connect(renderer, &GraphicsRenderer::cursorChanged, this, &AnimationEditorPrivate::showPlace);
     connect(renderer, &GraphicsRenderer::appendContactBox, this,
             &AnimationEditorPrivate::appendContactBox);
+    connect(renderer, &GraphicsRenderer::boxSelectionChanged, this,
+            &AnimationEditorPrivate::fillBox);
     connect(renderer, &GraphicsRenderer::contactDrawingExit, this,
             &AnimationEditorPrivate::leaveDrawing);
     connect(renderer, &GraphicsRenderer::inputComes, this, &AnimationEditorPrivate::inputComes);

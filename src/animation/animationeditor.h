@@ -102,6 +102,11 @@ public:
     void undo() override;
     void redo() override;
 
+    /// Of contact boxes while the stage has the keyboard, else of the text.
+    void cut() override;
+    void copy() override;
+    void paste() override;
+
     /// With "anim_editcode" the frame of that line is shown, or the animation. Lines in front of a
     /// frame belong to it. An animation that plays goes on, and what is under the cursor is taken
     /// up when it ends.

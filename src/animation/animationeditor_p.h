@@ -179,6 +179,14 @@ public:
     // animationeditorboxes.cpp
     BoxCopier boxCopier();
     QVector<BoxPlace> selectedBoxes() const;
+    QVector<BoxPlace> selectedOrAllBoxes() const;
+    QVector<FramePlace> selectedPlaces() const;
+    bool isStageInUse() const;
+
+    // animationeditorboxfields.cpp
+    void fillBox();
+    void writeBox(QRect rect);
+    QRect selectedRect() const;
 
     // animationeditoronion.cpp
     void updateOnionRange();
@@ -281,6 +289,15 @@ public slots:
     void boxSwType();
     void boxPrev();
     void boxAllInst();
+    void boxCopy();
+    void boxPaste();
+    void boxMirror();
+    void boxToFrames();
+    void boxLock(bool isOn);
+    void boxXChanged(int x);
+    void boxYChanged(int y);
+    void boxWidthChanged(int width);
+    void boxHeightChanged(int height);
 
     void optimize();
     void saveGIF();
@@ -297,6 +314,9 @@ signals:
     void frameEnabledNC(bool isEnabled);
     void frameEnabledExtra(bool isEnabled);
 
+    /// One contact box is selected.
+    void boxEnabled(bool isEnabled);
+
     // What the tools show.
     void setSelPos(int index);
     void setPosText(const QString& text);
@@ -309,6 +329,10 @@ signals:
     void setFrameScaleY(double factor);
     void setFrameAngle(double degrees);
     void setFrameTime(int ticks);
+    void setBoxX(int x);
+    void setBoxY(int y);
+    void setBoxWidth(int width);
+    void setBoxHeight(int height);
     void setOnionSkin(bool isOn);
     void setOnionSelPos(int index);
     void setOnionFrameSelPos(int index);

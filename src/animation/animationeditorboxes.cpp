@@ -1,7 +1,13 @@
 #include "animation/animationeditor_p.h"
-#include "animation/edits/boxedits.h"
+#include "animation/edits/boxclipboard.h"
 #include "code/codedoc/animations.h"
 #include "core/dialogs/dialogs.h"
+#include "graphics/graphicwork/graphicsworkspace.h"
+#include "graphics/renderwidget.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
 
 namespace Zorv {
 
@@ -74,6 +80,84 @@ void AnimationEditorPrivate::boxAllInst()
             copyBoxesToInstances(animations, shown, boxCopier());
         });
     }
+}
+
+/// The selected ones, or all of the frame if none is.
+QVector<BoxPlace> AnimationEditorPrivate::selectedOrAllBoxes() const
+{
+    const QVector<BoxPlace> selected = selectedBoxes();
+    return selected.isEmpty() ? placesOf(currentFrame()) : selected;
+}
+
+QVector<FramePlace> AnimationEditorPrivate::selectedPlaces() const
+{
+    QVector<FramePlace> places;
+    const QVector<int> frames = editor->selectedFrames();
+    for (const int frame : frames) {
+        places.append({animationIndex(), frame});
+    }
+    return places;
+}
+
+void AnimationEditorPrivate::boxCopy()
+{
+    if (beginAct() != FramePlace()) {
+        QGuiApplication::clipboard()->setMimeData(
+            copiedBoxes(currentFrame(), selectedOrAllBoxes()));
+    }
+}
+
+void AnimationEditorPrivate::boxPaste()
+{
+    const BoxRects boxes = pastedBoxes(QGuiApplication::clipboard()->mimeData());
+    if (boxes.count() > 0) {
+        act([&](const FramePlace&) { addBoxes(animations, selectedPlaces(), boxes); });
+    }
+}
+
+void AnimationEditorPrivate::boxMirror()
+{
+    act([this](const FramePlace& shown) { mirrorBoxes(animations, shown, selectedOrAllBoxes()); });
+}
+
+void AnimationEditorPrivate::boxToFrames()
+{
+    act([this](const FramePlace& shown) {
+        copyBoxes(animations, shown, selectedPlaces(), boxCopier());
+    });
+}
+
+void AnimationEditorPrivate::boxLock(bool isOn)
+{
+    for (const auto type : {ContactBoxCode::Attack, ContactBoxCode::Collision}) {
+        renderer->setContactBoxesLocked(type, isOn);
+    }
+}
+
+/// The clipboard is that of boxes while the stage has the keyboard, and of the text else.
+bool AnimationEditorPrivate::isStageInUse() const
+{
+    return stage->renderWidget() && stage->renderWidget()->hasFocus();
+}
+
+void AnimationEditor::cut()
+{
+    if (d->isStageInUse()) {
+        d->boxCopy();
+        d->boxDel();
+    } else {
+        CodeFileEditor::cut();
+    }
+}
+
+void AnimationEditor::copy()
+{
+    d->isStageInUse() ? d->boxCopy() : CodeFileEditor::copy();
+}
+
+void AnimationEditor::paste()
+{
+    d->isStageInUse() ? d->boxPaste() : CodeFileEditor::paste();
 }
 
 }  // namespace Zorv

@@ -21,6 +21,8 @@ const struct
     {"anim_frame_xaxis", Field::X},       {"anim_frame_yaxis", Field::Y},
     {"anim_frame_time", Field::Time},     {"anim_frame_xscale", Field::ScaleX},
     {"anim_frame_yscale", Field::ScaleY}, {"anim_frame_angle", Field::Angle},
+    {"anim_box_x", Field::BoxX},          {"anim_box_y", Field::BoxY},
+    {"anim_box_width", Field::BoxWidth},  {"anim_box_height", Field::BoxHeight},
 };
 
 /// By the rows of the list of flips.

@@ -70,10 +70,11 @@ void AnimationEditorPrivate::optimize()
     }
     QStringList lines;
     int count = animations->optimize(true, &lines);
-    if (!lines.isEmpty() && !mayOptimize(lines)) {
+    const bool hasWork = count > 0 || !lines.isEmpty();
+    if (hasWork && !mayOptimize(lines)) {
         return;
     }
-    if (!lines.isEmpty() && animations) {
+    if (hasWork && animations) {
         const Guard guard(&updating);
         count = animations->optimize();
     }

@@ -226,6 +226,7 @@ void AnimationEditorPrivate::fillFrame()
     preparePreview();
     editor->frameChanged(shown);
     showPreviewBoxes();
+    fillBox();
     if (!shown) {
         renderer->setContactBoxes(ContactBoxCode::Attack, nullptr);
         renderer->setContactBoxes(ContactBoxCode::Collision, nullptr);

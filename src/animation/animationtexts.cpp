@@ -25,6 +25,31 @@ const struct
      QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
                        "How many frames after the shown one the onion skin has, in blue; with 0 on "
                        "both sides it has the chosen one")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Box X:"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Left edge of the selected contact box")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Box Y:"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Upper edge of the selected contact box")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Width:"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Width of the selected contact box")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Height:"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Height of the selected contact box")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Copy contact boxes"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
+                       "Put the selected contact boxes into the clipboard, or all of the frame")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Paste contact boxes"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
+                       "Add the contact boxes of the clipboard to the selected frames")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Mirror contact boxes"),
+     QT_TRANSLATE_NOOP(
+         "Zorv::AnimationTexts",
+         "Swap left and right of the selected contact boxes, or of all of the frame")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Contact boxes to the selected frames"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
+                       "Give the contact boxes of this frame to those selected on the strip, in "
+                       "place of theirs")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Lock contact boxes"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
+                       "Leave contact boxes where they are: the mouse takes what lies beneath")},
 };
 
 QString translated(const char* text)

@@ -13,7 +13,24 @@ class AnimationTexts : public Translator
 
 public:
     /// Beside the numbers of `ZorvTranslator`, so that a number tells whose it is.
-    enum Id : unsigned { First = 1000, Animation = First, OnionAnimation, OnionFrame, OnionBefore, OnionAfter, End };
+    enum Id : unsigned {
+        First = 1000,
+        Animation = First,
+        OnionAnimation,
+        OnionFrame,
+        OnionBefore,
+        OnionAfter,
+        BoxX,
+        BoxY,
+        BoxWidth,
+        BoxHeight,
+        BoxCopy,
+        BoxPaste,
+        BoxMirror,
+        BoxToFrames,
+        BoxLock,
+        End
+    };
 
     /// The translator that has a number.
     static Translator* of(unsigned int id);

@@ -46,6 +46,8 @@ private slots:
     void alignmentIsPreviewed();
     void typedCodeStaysWithItsAnimation();
     void codeIsAskedAboutBeforeItGoes();
+    void fieldsAreThoseOfTheSelectedBox();
+    void boxesGoFromFrameToFrame();
 
 private:
     QString text() const { return m->document->text(); }
@@ -72,6 +74,20 @@ private:
             rects.append(boxes->at(i)->rect());
         }
         return rects;
+    }
+    /// Presses a place of the stage, in pixels of the game.
+    void click(QPoint place)
+    {
+        const QPoint origin(200, 200);
+        m->stage.setVisibility(false, false, false, true, true, false, false);
+        m->stage.setZoomLevel(3);
+        m->stage.setOrigin(origin);
+        m->stage.mousePressed(origin + place, Qt::LeftButton, Qt::NoModifier);
+        m->stage.mouseReleased(origin + place, Qt::LeftButton, Qt::NoModifier);
+    }
+    QSpinBox* field(const char* name) const
+    {
+        return qobject_cast<QSpinBox*>(m->host.controls.value(QLatin1String(name)));
     }
     void typeLine(const QString& code)
     {
@@ -299,7 +315,8 @@ void TestAnimationTools::codeIsAskedAboutBeforeItGoes()
 {
     trigger("anim_code");
     typeLine(QStringLiteral("# more"));
-    m_dialogs->buttonAnswers = {Dialogs::Cancel, Dialogs::Yes};
+    m_dialogs->buttonAnswers = {Dialogs::Cancel, Dialogs::Cancel, Dialogs::Yes};
+    QVERIFY(!m->window.close());
     QVERIFY(!m->editor->canDiscard());
     m->document->setModified(false);
     m->editor->canDiscard();
@@ -312,6 +329,57 @@ void TestAnimationTools::codeIsAskedAboutBeforeItGoes()
     QTest::mouseClick(child<QPushButton>("applyButton"), Qt::LeftButton);
     QCOMPARE(m_dialogs->count(QStringLiteral("warning")), 1);
     QVERIFY(dialog<AnimEditTxt>()->isModified());
+}
+
+void TestAnimationTools::fieldsAreThoseOfTheSelectedBox()
+{
+    QSpinBox* x = field("anim_box_x");
+    QVERIFY(x && !x->isEnabled());
+    click({8, 12});
+    QVERIFY(x->isEnabled());
+    QCOMPARE(x->value(), 5);
+    QCOMPARE(field("anim_box_y")->value(), 6);
+    QCOMPARE(field("anim_box_width")->value(), 7);
+    QCOMPARE(field("anim_box_height")->value(), 8);
+    x->setFocus();
+    x->selectAll();
+    QTest::keyClicks(x, QStringLiteral("-30"));
+    QVERIFY(!m->document->isUndoAvailable());
+    QTest::keyClick(x, Qt::Key_Return);
+    QVERIFY(text().contains(QLatin1String("b -30 6 7 8\n")));
+    QCOMPARE(m->document->undoTitle(), QStringLiteral("Contact box of frame #1"));
+    field("anim_box_width")->setValue(9);
+    QVERIFY(text().contains(QLatin1String("b -30 6 9 8\n")));
+    QVERIFY(x->isEnabled());
+    m->editor->undo();
+    m->editor->undo();
+    QCOMPARE(text(), QString::fromLatin1(Text));
+
+    trigger("anim_box_lock");
+    click({8, 12});
+    QVERIFY(!x->isEnabled());
+    m->editor->selectFrame(2);
+    QCOMPARE(x->value(), 0);
+    QVERIFY(!m->document->isUndoAvailable());
+}
+
+void TestAnimationTools::boxesGoFromFrameToFrame()
+{
+    m->editor->selectFrame(1);
+    QCOMPARE(shownBoxes(), QVector<QRect>{QRect(0, 0, 9, 9)});
+    trigger("anim_box_copy");
+    m->editor->selectFrame(2);
+    trigger("anim_box_paste");
+    QVERIFY(text().contains(QLatin1String("b 0 0 9 9\n+ 0 0 0 0 6 0\n")));
+    trigger("anim_box_mirror");
+    QVERIFY(text().contains(QLatin1String("b -9 0 9 9\n+ 0 0 0 0 6 0\n")));
+    trigger("anim_box_mirror");
+    QCOMPARE(shownBoxes(), QVector<QRect>{QRect(0, 0, 9, 9)});
+
+    while (m->document->isUndoAvailable()) {
+        m->editor->undo();
+    }
+    QCOMPARE(text(), QString::fromLatin1(Text));
 }
 
 ZORV_GL_TEST_MAIN(TestAnimationTools)

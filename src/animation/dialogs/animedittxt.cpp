@@ -96,8 +96,10 @@ bool AnimEditTxt::mayDrop()
         Dialogs::Yes | Dialogs::No | Dialogs::Cancel, Dialogs::Yes);
     if (answer == Dialogs::Yes) {
         emit applyRequested(text());
+    } else if (answer == Dialogs::No) {
+        setText(m_firstText, m_name->text());
     }
-    return answer == Dialogs::No || (answer == Dialogs::Yes && !isModified());
+    return !isModified();
 }
 
 void AnimEditTxt::reconfig()
@@ -113,7 +115,6 @@ void AnimEditTxt::reconfig()
 void AnimEditTxt::reject()
 {
     if (mayDrop()) {
-        setText(m_firstText, m_name->text());
         QDialog::reject();
     }
 }

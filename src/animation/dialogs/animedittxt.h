@@ -40,8 +40,8 @@ public:
     /// True if the person has typed something that is not applied.
     bool isModified() const;
 
-    /// Asks about what is not applied, and applies it if the person says so. False if they want to
-    /// stay, or it could not be applied.
+    /// Asks about what is not applied, and applies or drops it as the person says. False if they
+    /// want to stay, or it could not be applied.
     bool mayDrop();
 
     /// Reads the settings again.

@@ -1,0 +1,74 @@
+#include "animation/animationeditor_p.h"
+#include "code/codedoc/animations.h"
+
+namespace Zorv {
+
+/// Of the one box that is selected; null for none and for several.
+QRect AnimationEditorPrivate::selectedRect() const
+{
+    const QVector<GraphicsRenderer::SelectedBox> boxes = renderer->selectedBoxes();
+    return boxes.size() == 1 ? boxes.first().rect : QRect();
+}
+
+/// The stage has the boxes as they are dragged, in front of the text.
+void AnimationEditorPrivate::fillBox()
+{
+    if (!editor->isActive()) {
+        return;
+    }
+    const Guard guard(&updating);
+    const QRect rect = selectedRect();
+    emit setBoxX(rect.x());
+    emit setBoxY(rect.y());
+    emit setBoxWidth(rect.width());
+    emit setBoxHeight(rect.height());
+    emit boxEnabled(isEnabled.frameNC && rect.isValid());
+}
+
+/// By way of the stage, on which the box stays selected.
+void AnimationEditorPrivate::writeBox(QRect rect)
+{
+    refreshIfStale();
+    const QRect present = selectedRect();
+    if (updating > 0 || !present.isValid() || !rect.isValid() || rect == present) {
+        return;
+    }
+    {
+        const Guard guard(&updating);
+        animations->beginChange(frameTitle(AnimationEditor::tr("Contact box of frame #%1")));
+        renderer->setSelectedBoxRect(rect);
+        renderer->updateSelectedBoxes();
+        animations->endChange();
+    }
+    editor->animationCodeChanged(false, false);
+}
+
+void AnimationEditorPrivate::boxXChanged(int x)
+{
+    QRect rect = selectedRect();
+    rect.moveLeft(x);
+    writeBox(rect);
+}
+
+void AnimationEditorPrivate::boxYChanged(int y)
+{
+    QRect rect = selectedRect();
+    rect.moveTop(y);
+    writeBox(rect);
+}
+
+void AnimationEditorPrivate::boxWidthChanged(int width)
+{
+    QRect rect = selectedRect();
+    rect.setWidth(width);
+    writeBox(rect);
+}
+
+void AnimationEditorPrivate::boxHeightChanged(int height)
+{
+    QRect rect = selectedRect();
+    rect.setHeight(height);
+    writeBox(rect);
+}
+
+}  // namespace Zorv
