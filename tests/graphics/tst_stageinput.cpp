@@ -1,5 +1,6 @@
 #include "graphics/stage/graphicsrenderer.h"
 
+#include "graphics/stage/graphicsrenderer_p.h"
 #include "scenemodel.h"
 
 #include <QCursor>
@@ -117,6 +118,38 @@ Scene plainScene()
     return scene;
 }
 
+/// Takes away what lies on top of a point, which can be moved by itself, and tells what it was.
+StageHit peeled(Scene& scene, QPoint pos)
+{
+    const QRect gone(100000, 100000, 1, 1);
+    const Element top = scene.at(pos);
+    if (top == GraphicsRenderer::SpriteElement) {
+        int index = scene.sprites.size() - 1;
+        while (!scene.covers(index, pos)) {
+            --index;
+        }
+        scene.sprites[index].size = QSize(0, 0);
+        return {top, index};
+    }
+    if (top == GraphicsRenderer::ContactBoxElement) {
+        const QRect found = scene.boxUnder(pos);
+        int list = 7;
+        while (list > 0 &&
+               !(list > 1 || scene.shown[3 + list] ? scene.boxes[list] : Rects()).contains(found)) {
+            --list;
+        }
+        const int index = scene.boxes[list].lastIndexOf(found);
+        scene.boxes[list][index] = gone;
+        return {top, index, list};
+    }
+    if (top == GraphicsRenderer::VerticalGuide || top == GraphicsRenderer::HorizontalGuide) {
+        scene.shown[6] = false;
+    } else if (top != GraphicsRenderer::StageElement) {
+        scene.shown[top - GraphicsRenderer::MainCrossElement] = false;
+    }
+    return {top};
+}
+
 Scene changed(const Change& change)
 {
     Scene scene = plainScene();
@@ -138,12 +171,15 @@ private slots:
     void elements_data();
     void elements();
     void hitTestAgreesWithAModel();
+    void clicksAgreeWithAModel();
+    void clickBeginsAnew();
     void cursors();
     void drags_data();
     void drags();
     void boxDrags_data();
     void boxDrags();
     void selection();
+    void selectedBoxIsTold();
     void drawnBoxes_data();
     void drawnBoxes();
     void modesInTheMiddleOfADrag();
@@ -245,6 +281,116 @@ void TestStageInput::hitTestAgreesWithAModel()
         }
     }
     QVERIFY(std::find(std::begin(counts), std::end(counts), 0) == std::end(counts));
+}
+
+// Presses with Alt and without, and clicks at one place, against what is found by taking one thing
+// after the other away.
+void TestStageInput::clicksAgreeWithAModel()
+{
+    QRandomGenerator random(Seed);
+    int below[4] = {};
+    for (int round = 0; round < 400; ++round) {
+        Scene scene = randomScene(random);
+        scene.clickMode = GraphicsRenderer::PositioningMode;
+        scene.boxMode |= MovableBoth;
+        for (auto& boxes : scene.boxes) {
+            for (QRect& box : boxes) {
+                box.adjust(-30, -30, 30, 30);  // or their handles would cover them
+            }
+        }
+        for (StageCross& cross : scene.crosses) {
+            cross.mode |= MovableBoth;
+        }
+        for (PlainItem& item : scene.sprites) {
+            item.mode |= MovableBoth;
+        }
+        Stage stage(scene, m_cross);
+        GraphicsRendererPrivate& d = GraphicsRendererPrivate::of(stage.renderer);
+        scene.zoom = stage.renderer.zoom();
+        for (int list = 0; list < 8; ++list) {
+            if (random.bounded(4) == 0) {
+                stage.renderer.setContactBoxesLocked(ContactBoxCode::BoxType(list + 1), true);
+                scene.boxes[list].clear();
+            }
+        }
+        for (int i = 0; i < 15; ++i) {
+            const QPoint pos(random.bounded(30, 200), random.bounded(30, 200));
+            stage.renderer.deselectContactBoxes();
+            stage.renderer.setPositioningMode();
+            QVector<StageHit> hits;
+            for (Scene rest = scene; rest.at(pos) != GraphicsRenderer::StageElement;) {
+                hits.append(peeled(rest, pos));
+            }
+            const int count = qMax(hits.size(), 1);
+            hits.resize(count);
+            int taken = 0;
+            for (int click = 0; click < 2 * count; ++click) {
+                const bool isBeneath = random.bounded(3) == 0;
+                if (!isBeneath && isSizer(stage.renderer.hitTest(pos))) {
+                    break;  // of a box that was selected
+                }
+                taken = isBeneath ? (taken + 1) % count : taken;
+                stage.press(pos, isBeneath ? Qt::AltModifier : Qt::NoModifier);
+                QVERIFY(d.element == hits[taken].element);
+                stage.release(pos);
+                taken = !isBeneath && click > 0 ? (taken + 1) % count : taken;
+                const StageHit& hit = hits[taken];
+                QVERIFY2(d.element == hit.element, qPrintable(QString::number(round)));
+                QVERIFY(hit.item < 0 || d.itemIndex == hit.item);
+                QVector<GraphicsRenderer::SelectedBox> selected = stage.renderer.selectedBoxes();
+                QCOMPARE(selected.size(), hit.list < 0 ? 0 : 1);
+                QVERIFY(hit.list < 0 ||
+                        (selected[0].type == hit.list + 1 && selected[0].index == hit.item));
+                ++below[qMin(taken, 3)];
+            }
+        }
+    }
+    QVERIFY(std::find(std::begin(below), std::end(below), 0) == std::end(below));
+}
+
+// What is pressed a second time and dragged is what the first click has taken; and a click is the
+// first one after all that changes what lies there.
+void TestStageInput::clickBeginsAnew()
+{
+    const QPoint pos(60, 60);  // on both attack boxes
+    const QVector<std::function<void(Stage&)>> changes = {
+        [](Stage& stage) {
+            stage.drag({{60, 60}, {70, 70}});
+        },
+        [](Stage& stage) {
+            stage.renderer.setOrigin({101, 100});
+        },
+        [](Stage& stage) { stage.renderer.setZoomLevel(3); },
+        [](Stage& stage) { stage.renderer.setCaptureMode(); },
+        [&](Stage& stage) {
+            stage.press({200, 250});
+        },
+        [](Stage& stage) {
+            stage.lists[0]->add({-500, -500, 5, 5});
+            stage.renderer.setContactBoxes(ContactBoxCode::Attack, stage.lists[0].get());
+        },
+    };
+    for (int i = -1; i < changes.size(); ++i) {
+        Stage stage(plainScene(), m_cross);
+        stage.press(pos);
+        stage.release(pos);
+        QCOMPARE(stage.renderer.selectedBoxes().value(0).index, 1);
+        if (i >= 0) {
+            changes[i](stage);
+            stage.release(pos);
+            stage.renderer.setPositioningMode();
+            stage.renderer.setZoomLevel(2);
+            stage.renderer.setOrigin({100, 100});
+        }
+        stage.press(pos);
+        stage.release(pos);
+        QCOMPARE(stage.renderer.selectedBoxes().value(0).index, i < 0 ? 0 : 1);
+    }
+    Stage stage(plainScene(), m_cross);
+    stage.drag({pos});
+    stage.drag({pos, pos + QPoint(5, 2)});
+    QCOMPARE(stage.box(1, 1), QRect(-45, -48, 40, 40));
+    QCOMPARE(stage.box(1, 0), QRect(-60, -60, 40, 40));
 }
 
 void TestStageInput::cursors()
@@ -460,6 +606,55 @@ void TestStageInput::selection()
     QCOMPARE(stage.renderer.origin(), QPoint(104, 104));
     QCOMPARE(stage.box(2, 0).left(), -30);
     QCOMPARE(released.count(), 1);
+}
+
+void TestStageInput::selectedBoxIsTold()
+{
+    Stage stage(plainScene(), m_cross);
+    QSignalSpy told(&stage.renderer, &GraphicsRenderer::boxSelectionChanged);
+    const auto selected = [&stage] { return stage.renderer.selectedBoxes(); };
+    stage.renderer.setSelectedBoxRect({1, 2, 3, 4});
+    QCOMPARE(told.count(), 0);
+    stage.press({45, 45});
+    QCOMPARE(told.count(), 1);
+    stage.renderer.mouseMoved({50, 47}, Qt::NoModifier);
+    QCOMPARE(told.count(), 2);
+    QCOMPARE(selected().size(), 1);
+    QCOMPARE(selected()[0].rect, QRect(-55, -58, 40, 40));
+    stage.release({50, 47});
+    stage.renderer.setSelectedBoxRect(QRect());
+    QCOMPARE(told.count(), 2);
+    stage.renderer.setSelectedBoxRect({-10, -20, 30, 40});
+    QCOMPARE(told.count(), 3);
+    QCOMPARE(stage.lists[0]->at(0)->rect(), QRect(-60, -60, 40, 40));
+    QCOMPARE(stage.box(1, 0), QRect(-10, -20, 30, 40));
+    QCOMPARE(stage.renderer.hitTest({90, 80}), GraphicsRenderer::TopLeftSizer);
+    stage.renderer.keyPressed(Qt::Key_Left, Qt::ShiftModifier);
+    stage.renderer.keyPressed(Qt::Key_Down, Qt::ShiftModifier);
+    stage.renderer.keyPressed(Qt::Key_Delete, Qt::ShiftModifier);
+    QCOMPARE(told.count(), 5);
+    QCOMPARE(stage.box(1, 0), QRect(-20, -10, 30, 40));
+    // With two of them there is no rectangle to set.
+    stage.press({55, 55}, Qt::ShiftModifier);
+    stage.release({55, 55});
+    QCOMPARE(selected().size(), 2);
+    stage.renderer.setSelectedBoxRect({1, 2, 3, 4});
+    QCOMPARE(told.count(), 6);
+    stage.renderer.setContactBoxesLocked(ContactBoxCode::Attack, true);
+    QVERIFY(stage.renderer.contactBoxesLocked(ContactBoxCode::Attack));
+    QVERIFY(!stage.renderer.contactBoxesLocked(ContactBoxCode::Collision));
+    QCOMPARE(selected().size(), 0);
+    QCOMPARE(told.count(), 7);
+    stage.renderer.deselectContactBoxes();
+    QCOMPARE(told.count(), 7);
+    // One that is drawn is there, and does not become selected.
+    connect(&stage.renderer, &GraphicsRenderer::appendContactBox, &stage.renderer,
+            [&stage](ContactBoxCode::BoxType, QRect rect) { return stage.lists[0]->add(rect); });
+    stage.renderer.setDrawContactBoxMode(ContactBoxCode::Attack);
+    stage.drag({{200, 200}, {220, 230}});
+    stage.renderer.setPositioningMode();
+    QCOMPARE(stage.lists[0]->count(), 3);
+    QCOMPARE(selected().size(), 0);
 }
 
 void TestStageInput::drawnBoxes_data()

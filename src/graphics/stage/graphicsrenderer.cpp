@@ -180,7 +180,11 @@ void GraphicsRenderer::spriteChangedAt(unsigned int index)
     }
     // A provider may change its list when it is asked.
     if (index < static_cast<unsigned>(d->spriteItems.size())) {
-        d->spriteItems[static_cast<int>(index)] = item;
+        SpriteItem& before = d->spriteItems[static_cast<int>(index)];
+        if (before.sprite != item.sprite) {
+            d->clicked = {};
+        }
+        before = item;
     }
 }
 
