@@ -728,6 +728,9 @@ void EditorWalk::setUpLike(GraphicsRenderer* other, const GraphicsRenderer& mode
     other->setVisibility(isOn("view_main_cross"), isOn("view_secondary_cross"),
                          isOn("view_extra_cross"), isOn("view_attack_box"),
                          isOn("view_collision_box"), isOn("view_rulers"), isOn("view_guide_lines"));
+    for (const auto type : BoxTypes) {
+        other->setContactBoxesLocked(type, isOn("anim_box_lock"));
+    }
     for (const auto cross : {GraphicsRenderer::MainCross, GraphicsRenderer::SecondaryCross,
                              GraphicsRenderer::ExtraCross}) {
         other->setItemPosition(cross, model.itemPosition(cross, 0), 0);
