@@ -97,6 +97,11 @@ const Tool tools[] = {
     {"anim_box_mirror",          Action, AnimationTexts::BoxMirror, frameNC, SLOT(boxMirror()), nullptr},
     {"anim_box_to_frames",       Action, AnimationTexts::BoxToFrames, frameNC, SLOT(boxToFrames()), nullptr},
     {"anim_box_lock",            CheckAction, AnimationTexts::BoxLock, always, SLOT(boxLock(bool)), nullptr},
+    {"anim_play_here",           Action, AnimationTexts::PlayHere, animation, SLOT(playHere()), nullptr},
+    {"anim_play_half",           CheckAction, AnimationTexts::PlayHalf, animation, SLOT(playHalfChanged(bool)), nullptr},
+    {"anim_play_quarter",        CheckAction, AnimationTexts::PlayQuarter, animation, SLOT(playQuarterChanged(bool)), nullptr},
+    {"anim_play_again",          CheckAction, AnimationTexts::PlayAgain, animation, SLOT(playAgainChanged(bool)), nullptr},
+    {"anim_facts_lb",            Label, AnimationTexts::Facts, always, nullptr, SIGNAL(setFacts(QString))},
 };
 // clang-format on
 

@@ -33,14 +33,16 @@ CodeDocument* documentOf(ProjectFile* file)
 AnimationEditorPrivate::AnimationEditorPrivate(AnimationEditor* owner, GraphicsWorkspace* workspace,
                                                GraphicsRenderer* shown)
     : editor(owner), renderer(shown), stage(workspace), host(Interface::instance()),
-      timeLine(workspace->timeLine()), codeWindow(host)
+      timeLine(workspace->timeLine()), strip(this), codeWindow(host)
 {
     connect(&codeWindow, &AnimationCodeWindow::visibilityChanged, this,
             &AnimationEditorPrivate::updateEnabled);
     connect(&codeWindow, &AnimationCodeWindow::applied, this,
             [this] { editor->animationCodeChanged(true, false); });
     connect(&followed, &FollowedAnimation::changed, this, &AnimationEditorPrivate::textChanged);
+    connect(&followed, &FollowedAnimation::changed, this, &AnimationEditorPrivate::showFactsSoon);
     connect(timeLine, &TimeLineWidget::tickChanged, this, &AnimationEditorPrivate::playAnimation);
+    connect(editor, &AnimationEditor::shownChanged, &strip, &AnimationStrip::follow);
     connect(renderer, &GraphicsRenderer::itemMoved, this,
             [this](auto type, void* item, QPoint position) {
                 if (editor->isActive()) {
@@ -100,6 +102,7 @@ void AnimationEditorPrivate::attach()
     if (timeLine) {
         timeLine->clearTimeLines();
         timeLine->addTimeLine(this);
+        timeLine->setSlowness(slowness);
     }
     shownCount = -1;
     applyOnion();
@@ -247,6 +250,7 @@ void AnimationEditor::reconfig()
 void AnimationEditor::retranslate()
 {
     d->retranslate();
+    d->showFactsSoon();
     d->refresh();
 }
 
@@ -359,8 +363,7 @@ FrameCode* AnimationEditor::nextFrame() const
 
 QVector<int> AnimationEditor::selectedFrames() const
 {
-    const int index = d->frameIndex();
-    return index < 0 ? QVector<int>() : QVector<int>{index};
+    return d->strip.selectedFrames();
 }
 
 GraphicsRenderer* AnimationEditor::renderer() const
@@ -441,7 +444,7 @@ void AnimationEditor::selectFrame(int index)
 
 void AnimationEditor::play()
 {
-    d->playChanged(true);
+    d->startPlay(0);
 }
 
 void AnimationEditor::stopPlaying()

@@ -3,8 +3,10 @@
 #include "animation/alignpreview_p.h"
 #include "animation/animationcodewindow_p.h"
 #include "animation/animationeditor.h"
+#include "animation/animationstrip_p.h"
 #include "animation/edits/boxedits.h"
 #include "animation/followedanimation.h"
+#include "animation/playstep.h"
 #include "animation/timeline/timeline.h"
 #include "cache/spriteprovider.h"
 
@@ -14,6 +16,7 @@
 
 class AnimAlign;
 class QAction;
+class QTimer;
 class QWidget;
 
 namespace Zorv {
@@ -67,6 +70,7 @@ public:
     // The row of the animation on the strip.
     QString name() const override;
     bool markerAtTick(unsigned int tick, Marker& marker) const override;
+    TimeLineCells* cells() override { return &strip; }
 
     // animationcontrols.cpp
     void publish();
@@ -101,6 +105,10 @@ public:
     void findAnimation();
     void showAnimation(int index);
     void showFrame(int index);
+    void keepFrame(int index);
+
+    /// The text has been edited by the person, who sees this frame of it now.
+    void refreshAt(int frame);
     void fillAnimation();
     void fillFrame();
     void updateRange();
@@ -130,6 +138,7 @@ public:
 
     // animationeditorfields.cpp
     void applyRanges();
+    double longestTime() const;
     void fillFields(const FrameCode* frame);
 
     /// What was typed and not yet entered goes into the text.
@@ -152,10 +161,17 @@ public:
     // animationeditorplayback.cpp
     bool isPlaying() const;
     int next(int index) const;
+    void startPlay(unsigned wanted);
     void stop();
     void playTick(unsigned tick);
     void setPlayChecks(bool isOn);
     void showSpeed(unsigned tick);
+
+    // animationeditorplayoptions.cpp
+    PlayOptions playOptions() const;
+    void takeSlowness(int now);
+    void showFactsSoon();
+    void showFacts();
 
     // animationeditorstage.cpp
     void setDrawing(ContactBoxCode::BoxType type, bool isOn);
@@ -204,6 +220,7 @@ public:
     QPointer<Animations> animations;
     QPointer<Sprites> spriteList;  // whose signals are heard
     FollowedAnimation followed;
+    AnimationStrip strip;
     QTextCursor frameLine;  // where the shown frame stands
     Sprite* currentSprite = nullptr;
     AnimationCodeWindow codeWindow;
@@ -234,6 +251,9 @@ public:
     bool isRefreshPending = false;
     bool isCursorPending = false;  // moved by the person during play
     QElapsedTimer sinceTick;
+    int slowness = 1;         // of play
+    bool isRepeated = false;  // what ends is played again
+    QTimer* factsTimer = nullptr;
 
     QHash<QString, QPointer<QAction>> actions;
     QHash<QString, QPointer<QWidget>> widgets;
@@ -265,6 +285,10 @@ public slots:
     void playChanged(bool isChecked);
     void stopChanged(bool isChecked);
     void playAnimation(unsigned int tick);
+    void playHere();
+    void playHalfChanged(bool isOn);
+    void playQuarterChanged(bool isOn);
+    void playAgainChanged(bool isOn);
 
     void add();
     void del();
@@ -339,6 +363,7 @@ signals:
     void setOnionText(const QString& text);
     void setOnionBefore(int count);
     void setOnionAfter(int count);
+    void setFacts(const QString& text);
 };
 
 }  // namespace Zorv

@@ -59,6 +59,11 @@ void AnimationEditorPrivate::applyRanges()
     }
 }
 
+double AnimationEditorPrivate::longestTime() const
+{
+    return editor->fieldRange(Field::Time).maximum;
+}
+
 void AnimationEditorPrivate::fillFields(const FrameCode* frame)
 {
     const Guard guard(&updating);

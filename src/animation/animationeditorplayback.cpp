@@ -7,6 +7,7 @@
 #include "editors/code/codeworkspace.h"
 
 #include <QAction>
+#include <QGuiApplication>
 
 #include <climits>
 
@@ -48,7 +49,18 @@ void AnimationEditorPrivate::setPlayChecks(bool isOn)
     setChecked("anim_stop", !isOn);
 }
 
+/// With Shift from the shown frame on.
 void AnimationEditorPrivate::playChanged(bool)
+{
+    if (QGuiApplication::keyboardModifiers() & Qt::ShiftModifier) {
+        playHere();
+    } else {
+        startPlay(0);
+    }
+}
+
+/// At a tick, or at the first one of the range to be looped.
+void AnimationEditorPrivate::startPlay(unsigned wanted)
 {
     if (updating > 0 || isPlaying()) {
         setPlayChecks(isPlaying());
@@ -64,8 +76,10 @@ void AnimationEditorPrivate::playChanged(bool)
     setPlayChecks(true);
     {
         const Guard guard(&playing);
-        timeLine->setCurrentTick(0);
-        showFrame(0);
+        const FrameTicks& ticks = followed.ticks();
+        const unsigned tick = playStart(ticks, playOptions(), wanted);
+        timeLine->setCurrentTick(tick);
+        showFrame(tick == 0 ? 0 : ticks.frameAt(tick));
     }
     frameTick = 0;
     isCursorPending = false;
@@ -131,7 +145,7 @@ void AnimationEditorPrivate::playAnimation(unsigned int tick)
 }
 
 /// Which frame is shown follows from the tick alone. Behind the last one the clock is set back to
-/// the loop point, and tells that tick in turn.
+/// the loop point, and tells that tick in turn; `playStep()` knows when.
 void AnimationEditorPrivate::playTick(unsigned tick)
 {
     if (sinceTick.restart() > LongestStall) {
@@ -139,13 +153,13 @@ void AnimationEditorPrivate::playTick(unsigned tick)
         return;
     }
     const FrameTicks& ticks = followed.ticks();
-    const int total = ticks.total();
-    if (total >= 0 && tick >= unsigned(total)) {
-        if (!ticks.canLoop()) {
-            stop();
-            return;
-        }
-        timeLine->setCurrentTick(unsigned(ticks.loopTick()));
+    const PlayStep step = playStep(ticks, playOptions(), tick);
+    if (step.act == PlayStep::Stop) {
+        stop();
+        return;
+    }
+    if (step.act == PlayStep::Jump) {
+        timeLine->setCurrentTick(step.target);
         return;
     }
     const int index = ticks.frameAt(tick);
@@ -154,7 +168,7 @@ void AnimationEditorPrivate::playTick(unsigned tick)
         const Guard guard(&playing);
         showFrame(index);
     }
-    if (ticks.delay(index) < 0) {
+    if (step.act == PlayStep::ShowAndStop) {
         stop();
         return;
     }

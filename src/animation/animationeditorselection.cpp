@@ -129,6 +129,7 @@ void AnimationEditorPrivate::findAnimation()
     }
     followed.setAnimation(found);
     frameLine = {};
+    strip.forget();
 }
 
 void AnimationEditorPrivate::activatePanel()
@@ -169,6 +170,7 @@ void AnimationEditorPrivate::showAnimation(int index)
     }
     followed.setAnimation(chosen);
     frameLine = {};
+    strip.forget();
     fillAnimation();
     showFrame(frameIndex());
     editor->animationChanged(currentAnimation());
@@ -176,13 +178,24 @@ void AnimationEditorPrivate::showAnimation(int index)
 
 void AnimationEditorPrivate::showFrame(int index)
 {
+    keepFrame(index);
+    fillFrame();
+}
+
+void AnimationEditorPrivate::keepFrame(int index)
+{
     AnimationCode* shown = currentAnimation();
     const FrameCode* chosen = followed.frame(index);
     if (shown && chosen) {
         shown->setCurrentFrame(index);
         frameLine = QTextCursor(chosen->block());
     }
-    fillFrame();
+}
+
+void AnimationEditorPrivate::refreshAt(int frame)
+{
+    keepFrame(frame);
+    editor->animationCodeChanged(false, false);
 }
 
 void AnimationEditorPrivate::fillAnimation()

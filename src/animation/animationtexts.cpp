@@ -50,6 +50,19 @@ const struct
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Lock contact boxes"),
      QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
                        "Leave contact boxes where they are: the mouse takes what lies beneath")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Play from the shown frame"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
+                       "Play the animation from the shown frame on; so does Play with Shift")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Half speed"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Play at half speed")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Quarter speed"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Play at a quarter of the speed")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Again from the start"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
+                       "An animation that ends is played again from the start")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Frame data:"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Ticks in front of, with, and behind attack boxes, "
+                                               "and how far these reach in front of the axis")},
 };
 
 QString translated(const char* text)

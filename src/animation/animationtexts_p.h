@@ -29,6 +29,11 @@ public:
         BoxMirror,
         BoxToFrames,
         BoxLock,
+        PlayHere,
+        PlayHalf,
+        PlayQuarter,
+        PlayAgain,
+        Facts,
         End
     };
 

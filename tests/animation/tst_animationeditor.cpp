@@ -1,13 +1,11 @@
 #include "animation/animationeditor.h"
 
 #include "support/planneddialogs.h"
-#include "support/posegrammar.h"
+#include "support/poseeditor.h"
 #include "support/stagedata.h"
-#include "support/testinterface.h"
 #include "support/testproject.h"
 
 #include "animation/frameticks.h"
-#include "animation/import/assetrequest.h"
 #include "animation/timeline/timelinewidget.h"
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeworkspace.h"
@@ -30,75 +28,6 @@
 using namespace Zorv;
 
 namespace {
-
-/// A host that brings an editor forward by activating it, in place of the one before.
-class Host : public TestInterface
-{
-public:
-    void activateEditor(Editor* newEditor) override
-    {
-        Editor* const before = std::exchange(editor, newEditor);
-        if (before && before != newEditor) {
-            before->deactivate();
-        }
-        newEditor->activate();
-    }
-    void showWorkspace(Workspace* shown) override
-    {
-        workspace = shown;
-        shown->activate();
-    }
-};
-
-class PoseEditor : public AnimationEditor
-{
-public:
-    using AnimationEditor::AnimationEditor;
-    void find(const QString&, unsigned) override {}
-    void hideExtra() { setFrameExtra(false); }
-
-    QString newIdentifier;
-    QString newText;
-    int newPosition = 0;
-    int stops = 0;
-    bool isPosed = false;  // with flip, scale and angle
-    QVector<int> interpolated;
-
-protected:
-    void playStopped() override { ++stops; }
-    void interpolateFrame(FrameCode*, int tick) override { interpolated.append(tick); }
-    QVariant spriteProperty(FrameCode* frame, Sprite* sprite, unsigned key) const override
-    {
-        const QVariant pose[] = {frame->scale(), int(frame->flip()), float(-frame->angle())};
-        return isPosed && key >= 4 && key <= 6
-                   ? pose[key - 4]
-                   : AnimationEditor::spriteProperty(frame, sprite, key);
-    }
-    FieldRange fieldRange(Field field) const override
-    {
-        return field == Field::Time ? FieldRange{-1, 2000} : FieldRange{-500, 500};
-    }
-    ContactBoxCode* addContactBox(FrameCode* frame, ContactBoxCode::BoxType type, QPoint topLeft,
-                                  QPoint bottomRight) override
-    {
-        return frame->contactBoxes(type)->add(QRect(topLeft, bottomRight));
-    }
-    void copyContactBoxes(FrameCode* source, FrameCode* target) override
-    {
-        PoseData data = static_cast<PoseFrame*>(target)->data;
-        data.boxes = static_cast<PoseFrame*>(source)->data.boxes;
-        static_cast<PoseFrame*>(target)->write(data);
-    }
-    AssetResult importAssets(const AssetRequest&) override { return {}; }
-    bool saveAnimationGIF(const QString&, QString*) override { return false; }
-    bool newAnimationData(QString& identifier, QString& text, int& position) override
-    {
-        identifier = newIdentifier;
-        text = newText;
-        position = newPosition;
-        return true;
-    }
-};
 
 const char* const someText = "@one\n"
                              "> 0,0 1,2 4 0 1,1 0 a0,0,3,3\n"
@@ -162,7 +91,7 @@ private:
         text->setTextCursor(QTextCursor(document->findBlockByNumber(lineNumber)));
     }
 
-    std::unique_ptr<Host> host;
+    std::unique_ptr<PoseHost> host;
     std::unique_ptr<PlannedDialogs> dialogs;
     std::unique_ptr<CodeWorkspace> code;
     std::unique_ptr<GraphicsWorkspace> stage;
@@ -175,7 +104,7 @@ private:
 
 void TestAnimationEditor::init()
 {
-    host = std::make_unique<Host>();
+    host = std::make_unique<PoseHost>();
     dialogs = std::make_unique<PlannedDialogs>();
     code = std::make_unique<CodeWorkspace>();
     stage = std::make_unique<GraphicsWorkspace>();

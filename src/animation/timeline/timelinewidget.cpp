@@ -19,7 +19,7 @@ namespace Zorv {
 namespace {
 
 constexpr unsigned int LastTick = std::numeric_limits<unsigned int>::max();
-constexpr int LargestSlowness = 60;
+constexpr int LargestSlowness = 10;
 
 }  // namespace
 
@@ -172,6 +172,8 @@ void TimeLineWidget::addTimeLine(TimeLine* timeLine)
 
 void TimeLineWidget::clearTimeLines()
 {
+    d->editing.select({});
+    d->editing.setRange({});
     d->timeLines.clear();
     d->editing.cancel();
     d->editing.offerActions();

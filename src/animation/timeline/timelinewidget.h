@@ -47,7 +47,8 @@ public:
     void setTicksPerSecond(unsigned int ticks);
 
     /// Adds a row at the bottom; null adds none. Rows are not owned, and have to be cleared before
-    /// they go. A row that changes is painted again by `update()`.
+    /// they go; selection and loop range go with them. A row that changes is painted again by
+    /// `update()`.
     void addTimeLine(TimeLine* timeLine);
     void clearTimeLines();
 
@@ -71,7 +72,7 @@ public:
     std::optional<TickRange> loopRange() const;
     void setLoopRange(const std::optional<TickRange>& range);
 
-    /// For slow motion each tick takes the time of so many, from 1 to 60; 1 at first. May be set
+    /// For slow motion each tick takes the time of so many, from 1 to 10; 1 at first. May be set
     /// while the clock runs.
     int slowness() const;
     void setSlowness(int slowness);
