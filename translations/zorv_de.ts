@@ -5663,6 +5663,18 @@ Möchten Sie die übrigen importieren?</translation>
         <source>Contact box of frame #%1</source>
         <translation>Kontaktbox von Einzelbild #%1</translation>
     </message>
+    <message>
+        <source>total %1, no attack</source>
+        <translation>gesamt %1, kein Angriff</translation>
+    </message>
+    <message>
+        <source>%1 with %2 between</source>
+        <translation>%1 mit %2 dazwischen</translation>
+    </message>
+    <message>
+        <source>start %1, active %2, recovery %3, total %4; reach %5 px</source>
+        <translation>Start %1, aktiv %2, Erholung %3, gesamt %4; Reichweite %5 px</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::AnimationEdits</name>
@@ -5872,6 +5884,46 @@ Möchten Sie die übrigen importieren?</translation>
     <message>
         <source>Leave contact boxes where they are: the mouse takes what lies beneath</source>
         <translation>Kontaktboxen lassen, wo sie sind: die Maus nimmt, was darunter liegt</translation>
+    </message>
+    <message>
+        <source>Play from the shown frame</source>
+        <translation>Ab dem gezeigten Einzelbild abspielen</translation>
+    </message>
+    <message>
+        <source>Play the animation from the shown frame on; so does Play with Shift</source>
+        <translation>Die Animation ab dem gezeigten Einzelbild abspielen; das tut auch Abspielen mit Umschalt</translation>
+    </message>
+    <message>
+        <source>Half speed</source>
+        <translation>Halbes Tempo</translation>
+    </message>
+    <message>
+        <source>Play at half speed</source>
+        <translation>Mit halbem Tempo abspielen</translation>
+    </message>
+    <message>
+        <source>Quarter speed</source>
+        <translation>Viertel des Tempos</translation>
+    </message>
+    <message>
+        <source>Play at a quarter of the speed</source>
+        <translation>Mit einem Viertel des Tempos abspielen</translation>
+    </message>
+    <message>
+        <source>Again from the start</source>
+        <translation>Wieder von vorn</translation>
+    </message>
+    <message>
+        <source>An animation that ends is played again from the start</source>
+        <translation>Eine Animation, die endet, beginnt wieder von vorn</translation>
+    </message>
+    <message>
+        <source>Frame data:</source>
+        <translation>Bilddaten:</translation>
+    </message>
+    <message>
+        <source>Ticks in front of, with, and behind attack boxes, and how far these reach in front of the axis</source>
+        <translation>Ticks vor, mit und nach Angriffsboxen, und wie weit diese vor die Achse reichen</translation>
     </message>
 </context>
 <context>

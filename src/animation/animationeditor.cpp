@@ -309,8 +309,8 @@ void AnimationEditor::redo()
 void AnimationEditor::currLineChanged(int line)
 {
     CodeFileEditor::currLineChanged(line);
-    if (!d->isLinked() || !d->isTextShown() || d->cursorMoves > 0 || d->updating > 0 || d->inputs > 0 ||
-        document()->isCodeBeingChanged()) {
+    if (!d->isLinked() || !d->isTextShown() || d->cursorMoves > 0 || d->updating > 0 ||
+        d->inputs > 0 || document()->isCodeBeingChanged()) {
         return;
     }
     if (isPlaying()) {

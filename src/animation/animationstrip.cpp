@@ -144,6 +144,10 @@ void AnimationStrip::forget()
 void AnimationStrip::keep()
 {
     m_selected = m_editor->timeLine->selectedCells();
+    if (m_selected.isEmpty() && m_shown >= 0 && m_shown < count()) {
+        m_editor->timeLine->setSelectedCells({m_shown});
+        return;
+    }
     m_isMatching = m_selected != QVector<int>{m_shown};
     if (m_isMatching && revision() != m_revision) {
         m_match = FrameMatch(m_editor->currentAnimation());

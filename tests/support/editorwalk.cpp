@@ -2,6 +2,7 @@
 
 #include "animation/animationeditor.h"
 #include "animation/timeline/timeline.h"
+#include "animation/timeline/timelinecells.h"
 #include "animation/timeline/timelinewidget.h"
 #include "code/codedoc/animationcode.h"
 #include "code/codedoc/animations.h"
@@ -77,7 +78,7 @@ int saturated(qint64 value)
 }
 
 /// What stands at a tick, found by a walk over all frames.
-class PlainRow : public TimeLine
+class PlainRow : public TimeLine, public TimeLineCells
 {
 public:
     explicit PlainRow(const AnimationCode* animation) : m_animation(animation) {}
@@ -101,6 +102,31 @@ public:
             start += frame->delay();
         }
         return isFound;
+    }
+
+    TimeLineCells* cells() override { return this; }
+    int count() const override { return m_animation ? m_animation->frameCount() : 0; }
+    bool isEditable() const override { return true; }
+    bool setLengths(const QVector<int>&, const QVector<int>&) override { return false; }
+    bool move(const QVector<int>&, int) override { return false; }
+    Cell at(int index) const override
+    {
+        qint64 start = 0;
+        for (int i = 0; i < index && m_animation->frame(i)->delay() >= 0; ++i) {
+            start += m_animation->frame(i)->delay();
+        }
+        return {unsigned(saturated(start)), m_animation->frame(index)->delay()};
+    }
+    int indexAt(unsigned tick) const override
+    {
+        for (int i = 0; i < count(); ++i) {
+            const Cell cell = at(i);
+            if (cell.length < 0 ||
+                (tick >= cell.firstTick && tick - cell.firstTick < unsigned(cell.length))) {
+                return i;
+            }
+        }
+        return -1;
     }
 
 private:
@@ -757,13 +783,11 @@ QString EditorWalk::faultOfStrip(const Fresh& fresh)
     other.setWholePages(true);
     other.resize(strip()->size());
     other.setCurrentTick(strip()->currentTick());
+    other.setSelectedCells(editor()->selectedFrames());
+    other.setLoopRange(strip()->loopRange());
     const auto picture = [](TimeLineWidget* line) {
         return line->grab().toImage().convertToFormat(QImage::Format_RGB32);
     };
-    if (fresh.animation) {
-        picture(strip()).save("/tmp/proof-a.png");
-        picture(&other).save("/tmp/proof-b.png");
-    }
     const bool isSame = !fresh.animation || picture(strip()) == picture(&other);
     return isSame ? QString() : QStringLiteral("another strip");
 }
