@@ -97,12 +97,8 @@ bool SpriteCollection::contains(AssetId id) const
     return m_ids.contains(id.key());
 }
 
-int SpriteCollection::find(int from, const QVariant& id) const
+int SpriteCollection::firstRow(AssetId id) const
 {
-    AssetId wanted;
-    if (!AssetId::read(id, &wanted) || !contains(wanted)) {
-        return -1;
-    }
     if (!m_rowsKnown) {
         m_rowOfId.clear();
         m_rowOfId.reserve(items().size());
@@ -111,7 +107,16 @@ int SpriteCollection::find(int from, const QVariant& id) const
         }
         m_rowsKnown = true;
     }
-    int row = m_rowOfId.value(wanted.key(), -1);
+    return m_rowOfId.value(id.key(), -1);
+}
+
+int SpriteCollection::find(int from, const QVariant& id) const
+{
+    AssetId wanted;
+    if (!AssetId::read(id, &wanted) || !contains(wanted)) {
+        return -1;
+    }
+    int row = firstRow(wanted);
     if (row >= 0 && row < from) {
         for (row = from; row < items().size() && item(row)->id() != wanted;) {
             ++row;
@@ -122,7 +127,7 @@ int SpriteCollection::find(int from, const QVariant& id) const
 
 FamilySprite* SpriteCollection::byId(AssetId id) const
 {
-    return item(find(0, id.text()));
+    return contains(id) ? item(firstRow(id)) : nullptr;
 }
 
 AssetId SpriteCollection::freeId(AssetId from) const

@@ -162,6 +162,7 @@ protected:
     const QVector<PixelRef>& keptPixels() const;
 
 private:
+    int firstRow(AssetId id) const;
     void listChanged(bool count) override;
     void stateCame(const FamilySprite::State& state) override;
     void stateWent(const FamilySprite::State& state) override;
