@@ -7,6 +7,8 @@
 #include "animation/timeline/timelinewidget.h"
 #include "code/codedoc/animations.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -143,11 +145,16 @@ void AnimationStrip::forget()
 /// is.
 void AnimationStrip::keep()
 {
-    m_selected = m_editor->timeLine->selectedCells();
-    if (m_selected.isEmpty() && m_shown >= 0 && m_shown < count()) {
-        m_editor->timeLine->setSelectedCells({m_shown});
+    if (m_isKeeping) {
         return;
     }
+    const QScopedValueRollback<bool> keeping(m_isKeeping, true);
+    TimeLineWidget* strip = m_editor->timeLine;
+    // A strip that shows no row at the moment selects nothing.
+    if (strip->selectedCells().isEmpty() && m_shown >= 0 && m_shown < count()) {
+        strip->setSelectedCells({m_shown});
+    }
+    m_selected = strip->selectedCells();
     m_isMatching = m_selected != QVector<int>{m_shown};
     if (m_isMatching && revision() != m_revision) {
         m_match = FrameMatch(m_editor->currentAnimation());

@@ -49,6 +49,7 @@ private:
     int m_revision = -1;        // of the text
     bool m_isMatching = false;  // others than the shown frame are selected
     bool m_hasPlayed = false;   // since the selection was followed
+    bool m_isKeeping = false;
     int m_shown = -1;           // the frame, as it was followed last
 };
 
