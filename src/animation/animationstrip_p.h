@@ -50,7 +50,7 @@ private:
     bool m_isMatching = false;  // others than the shown frame are selected
     bool m_hasPlayed = false;   // since the selection was followed
     bool m_isKeeping = false;
-    int m_shown = -1;           // the frame, as it was followed last
+    int m_shown = -1;  // the frame, as it was followed last
 };
 
 }  // namespace Zorv

@@ -775,6 +775,10 @@ QString EditorWalk::faultOfStrip(const Fresh& fresh)
     if (strip()->isHidden() == bool(fresh.animation)) {
         return QStringLiteral("time line without animation, or the other way round");
     }
+    if (!strip()->isPlaying() && fresh.animation &&
+        strip()->selectedCells() != editor()->selectedFrames()) {
+        return QStringLiteral("other frames are selected than the strip shows");
+    }
     PlainRow row(fresh.animation);
     TimeLineWidget other;
     other.addTimeLine(&row);
@@ -783,7 +787,7 @@ QString EditorWalk::faultOfStrip(const Fresh& fresh)
     other.setWholePages(true);
     other.resize(strip()->size());
     other.setCurrentTick(strip()->currentTick());
-    other.setSelectedCells(editor()->selectedFrames());
+    other.setSelectedCells(strip()->selectedCells());
     other.setLoopRange(strip()->loopRange());
     const auto picture = [](TimeLineWidget* line) {
         return line->grab().toImage().convertToFormat(QImage::Format_RGB32);
