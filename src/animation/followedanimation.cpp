@@ -57,9 +57,6 @@ AnimationCode* FollowedAnimation::animation() const
     AnimationCode* const node =
         m_document ? animationOf(m_document->nodeInBlock(m_head.block())) : nullptr;
     return node == m_known ? node : nullptr;
-    return node && node == m_known && node->type() == CodeNode::Animation
-               ? static_cast<AnimationCode*>(node)
-               : nullptr;
 }
 
 FrameCode* FollowedAnimation::frame(int index) const
