@@ -4,6 +4,8 @@
 
 #include "code/codedoc/animationcode.h"
 
+#include <algorithm>
+
 namespace Zorv {
 
 namespace {
@@ -26,6 +28,43 @@ bool isOneAnimation(const CodeDocument* document, int line, int count)
     return heads == 1;
 }
 
+/// True where a line ends.
+bool isLineEnd(const QString& text, int position)
+{
+    return position == text.size() || text.at(position) == QLatin1Char('\n');
+}
+
+/// How many characters of whole lines two texts share at the start.
+int sharedStart(const QString& a, const QString& b)
+{
+    const auto end = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first;
+    const int same = int(end - a.begin());
+    if (isLineEnd(a, same) && isLineEnd(b, same)) {
+        return same;
+    }
+    return same == 0 ? 0 : a.lastIndexOf(QLatin1Char('\n'), same - 1) + 1;
+}
+
+/// The same at the end.
+int sharedEnd(const QString& a, const QString& b)
+{
+    const auto end = std::mismatch(a.rbegin(), a.rend(), b.rbegin(), b.rend()).first;
+    const int start = a.size() - int(end - a.rbegin());
+    const int line = a.indexOf(QLatin1Char('\n'), start);
+    return line < 0 ? 0 : a.size() - line - 1;
+}
+
+/// Lines that stay are left alone, with all that points at them.
+void replaceLines(CodeDocument* document, int position, const QString& before, const QString& after)
+{
+    const int start = sharedStart(before, after);
+    const int end = sharedEnd(before.mid(start), after.mid(start));
+    QTextCursor cursor(document);
+    cursor.setPosition(position + start);
+    cursor.setPosition(position + before.size() - end, QTextCursor::KeepAnchor);
+    document->replaceSelection(after.mid(start, after.size() - start - end), cursor);
+}
+
 }  // namespace
 
 QString animationText(const Animations* animations, int animation)
@@ -43,20 +82,18 @@ bool replaceAnimation(Animations* animations, int animation, const QString& text
     QString wanted = text;
     wanted.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(LineEnd, QLatin1Char('\n'));
     wanted = wanted.trimmed();
-    const QString present = code->code();
-    if (wanted == animationText(animations, animation)) {
+    const QString present = animationText(animations, animation);
+    if (wanted == present) {
         return true;
     }
     CodeDocument* document = animations->document();
-    QTextCursor cursor = code->selectAll();
-    const int start = cursor.selectionStart() + cursor.selectedText().indexOf(present);
+    const QTextCursor cursor = code->selectAll();
+    const int start = cursor.selectionStart() + cursor.selectedText().indexOf(code->code());
     const int line = document->findBlock(start).blockNumber();
-    cursor.setPosition(start);
-    cursor.setPosition(start + present.size(), QTextCursor::KeepAnchor);
     {
         const EditStep step(animations,
                             EditText::tr("Edit code of animation #%1").arg(animation + 1));
-        document->replaceSelection(wanted, cursor);
+        replaceLines(document, start, present, wanted);
     }
     // What a text is the grammar knows, once it is there.
     const bool isOne = isOneAnimation(document, line, wanted.count(QLatin1Char('\n')) + 1);
