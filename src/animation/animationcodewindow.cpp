@@ -96,21 +96,31 @@ void AnimationCodeWindow::fill()
                       code ? code->displayName() : QString());
 }
 
+/// True for an animation that is as it came into the window, unless the person says more.
+bool AnimationCodeWindow::mayReplace()
+{
+    const Place place = placeOf(m_animation);
+    if (!place.list || animationText(place.list, place.index) == m_dialog->firstText()) {
+        return true;
+    }
+    const QString text = tr("The animation has been changed elsewhere since it came into this "
+                            "window. Replace it?");
+    return Dialogs::instance()->question(m_dialog->windowTitle(), text,
+                                         Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
+}
+
+/// The text may change or go behind the question, too.
 void AnimationCodeWindow::apply(const QString& text)
 {
+    if (!mayReplace()) {
+        return;
+    }
     const Place place = placeOf(m_animation);
     const QString title = m_dialog->windowTitle();
     Dialogs* dialogs = Dialogs::instance();
     if (!place.list) {
         dialogs->warning(title, tr("The animation is no longer in the text. Add a new one, and "
                                    "copy the code there."));
-        return;
-    }
-    const bool isOther = animationText(place.list, place.index) != m_dialog->firstText();
-    if (isOther && dialogs->question(title,
-                                     tr("The animation has been changed elsewhere since it came "
-                                        "into this window. Replace it?"),
-                                     Dialogs::Yes | Dialogs::No, Dialogs::No) != Dialogs::Yes) {
         return;
     }
     if (!replaceAnimation(place.list, place.index, text)) {

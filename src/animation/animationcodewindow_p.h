@@ -43,6 +43,7 @@ signals:
     void applied();
 
 private:
+    bool mayReplace();
     void apply(const QString& text);
     void fill();
 

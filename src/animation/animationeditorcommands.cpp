@@ -56,14 +56,18 @@ void insertText(const Animations* list, int position, const QString& text)
     document->insertOnCursor(lines, cursor);
 }
 
-/// Asks again for one that stands there already, or that the grammar does not take.
-std::optional<QString> askIdentifier(const Animations* list, const QString& first)
+/// Asks again for one that stands there already, or that the grammar does not take. None if the
+/// list has gone behind the dialog.
+std::optional<QString> askIdentifier(const QPointer<Animations>& list, const QString& first)
 {
     std::optional<QString> answer = first;
     QString label = AnimationEditor::tr("Identifier:");
     for (;;) {
         answer = Dialogs::instance()->askText(AnimationEditor::tr("Duplicate animation"), label,
                                               *answer);
+        if (!list) {
+            return {};
+        }
         if (!answer || (list->canName(*answer) && list->find(0, *answer) < 0)) {
             return answer;
         }
@@ -141,7 +145,7 @@ void AnimationEditorPrivate::duplicate()
     if (ask(AnimationEditor::tr("Do you want to define a new identifier?"), Dialogs::Yes) ==
         Dialogs::Yes) {
         identifier = askIdentifier(
-            animations, currentAnimation()->property(QStringLiteral("Identifier")).toString());
+            list, currentAnimation()->property(QStringLiteral("Identifier")).toString());
     }
     if (!identifier || !currentAnimation() || list != animations) {
         return;

@@ -35,12 +35,15 @@ QString gifFolder(const CodeDocument* document)
                : folder;
 }
 
-/// Empty if the person gave up.
-QString askGifName(CodeDocument* document)
+/// Empty if the person gave up, or the document has gone behind the dialog.
+QString askGifName(const QPointer<CodeDocument>& document)
 {
     QString name =
         getSaveFileName(nullptr, AnimationEditor::tr("Save as animated GIF"), gifFolder(document),
                         AnimationEditor::tr("Graphics Interchange Format (*.gif)"));
+    if (!document) {
+        return {};
+    }
     if (!name.isEmpty()) {
         const bool hasSuffix = name.endsWith(GifSuffix, Qt::CaseInsensitive);
         name += hasSuffix ? QString() : QString(GifSuffix);
@@ -91,6 +94,9 @@ void AnimationEditorPrivate::saveGIF()
     commitFields();
     stop();
     activatePanel();
+    if (!currentAnimation()) {
+        return;
+    }
     const QString title = AnimationEditor::tr("Save as animated GIF");
     if (!currentFrame()) {
         Dialogs::instance()->warning(

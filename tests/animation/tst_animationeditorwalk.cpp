@@ -97,6 +97,8 @@ private slots:
     void allToolsOnBadText();
     void textChangesUnderAnAct_data();
     void textChangesUnderAnAct();
+    void textChangesUnderAQuestion_data();
+    void textChangesUnderAQuestion();
 };
 
 void TestAnimationEditorWalk::showsWhatTheTextSays()
@@ -176,6 +178,53 @@ void TestAnimationEditorWalk::textChangesUnderAnAct()
     if (change == CloseProject) {
         QVERIFY(!m.editor->currentFrame());
         QVERIFY(!m.graphics->timeLine()->isPlaying());
+        m.open(QStringLiteral("<walk>\n+ 0 0 0 0 4 0\n"));
+    }
+    QCOMPARE(walk.fault(), QString());
+}
+
+void TestAnimationEditorWalk::textChangesUnderAQuestion_data()
+{
+    QTest::addColumn<int>("change");
+    for (const char* tool : {"anim_delete", "anim_frame_delete", "anim_duplicate", "anim_save_gif",
+                             "anim_box_allinst", "anim_optimize"}) {
+        for (int change = 0; change < Changes; ++change) {
+            QTest::addRow("%s, %s", tool, changeNames[change]) << change;
+        }
+    }
+}
+
+void TestAnimationEditorWalk::textChangesUnderAQuestion()
+{
+    QFETCH(int, change);
+    ReelHost host;
+    ReelStudio& m = host.m;
+    EditorWalk walk(Seed, &host, Text);
+    m.host.setOption(QStringLiteral("confirm_delete"), true);
+    m.document->insert(QStringLiteral("\n\n"));
+    PlannedDialogs dialogs;
+    dialogs.buttonAnswers = {Dialogs::Yes, Dialogs::Yes};
+    dialogs.textAnswers << QStringLiteral("jab") << QStringLiteral("other");
+    dialogs.fileAnswers = {{m.folder.filePath(QStringLiteral("a.gif"))}};
+    const QString tool = QString::fromLatin1(QTest::currentDataTag()).section(QChar(','), 0, 0);
+    const bool isNamed = tool == QLatin1String("anim_duplicate");
+    bool isDone = false;
+    dialogs.whileOpen = [&](const PlannedDialogs::Shown& shown) {
+        if (std::exchange(isDone, isDone || !isNamed || shown.kind == QLatin1String("askText")) ||
+            !isDone) {
+            return;
+        }
+        if (change == CloseProject) {
+            m.close();
+        } else {
+            ::change(m.document, Change(change));
+        }
+    };
+    host.action(tool)->trigger();
+    QVERIFY(isDone);
+    dialogs.whileOpen = nullptr;
+    if (change == CloseProject) {
+        QVERIFY(!m.editor->currentFrame());
         m.open(QStringLiteral("<walk>\n+ 0 0 0 0 4 0\n"));
     }
     QCOMPARE(walk.fault(), QString());

@@ -313,6 +313,7 @@ void TestAnimationTools::typedCodeStaysWithItsAnimation()
 
 void TestAnimationTools::codeIsAskedAboutBeforeItGoes()
 {
+    m->editor->selectFrame(2);
     trigger("anim_code");
     typeLine(QStringLiteral("# more"));
     m_dialogs->buttonAnswers = {Dialogs::Cancel, Dialogs::Cancel, Dialogs::Yes};
@@ -321,12 +322,16 @@ void TestAnimationTools::codeIsAskedAboutBeforeItGoes()
     m->document->setModified(false);
     m->editor->canDiscard();
     QVERIFY(text().contains(QLatin1String("# more\n<jab>")));
+    QCOMPARE(m->editor->frameIndex(), 2);
+    m->editor->selectFrame(0);
     const int asked = m_dialogs->count(QStringLiteral("question"));
     typeLine(QStringLiteral("# even more"));
-    m->close();
-    QCOMPARE(m_dialogs->count(QStringLiteral("question")), asked);
-    QVERIFY(dialog<AnimEditTxt>()->text().endsWith(QLatin1String("# even more")));
+    trigger("anim_box_delall");
+    m_dialogs->buttonAnswers = {Dialogs::Yes};
+    m_dialogs->whileOpen = [this](const auto&) { m->close(); };
     QTest::mouseClick(child<QPushButton>("applyButton"), Qt::LeftButton);
+    QCOMPARE(m_dialogs->count(QStringLiteral("question")), asked + 1);
+    QVERIFY(dialog<AnimEditTxt>()->text().endsWith(QLatin1String("# even more")));
     QCOMPARE(m_dialogs->count(QStringLiteral("warning")), 1);
     QVERIFY(dialog<AnimEditTxt>()->isModified());
 }
