@@ -1,17 +1,22 @@
 // The clock of the time line under load: 600 ticks, each with half a tick of work. A plain QTimer
-// of 16 milliseconds does the same work beside it.
+// of 16 milliseconds does the same work beside it. And a picture of the strip of an animation of
+// 10,000 frames, all of them selected, beside that of 10.
 
 #include "support/bench.h"
 
+#include "animation/frameticks.h"
 #include "animation/timeline/timeline.h"
+#include "animation/timeline/timelinecells.h"
 #include "animation/timeline/timelinewidget.h"
 
 #include <QApplication>
 #include <QEventLoop>
 #include <QTimer>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <numeric>
 #include <string>
 
 using namespace Zorv;
@@ -115,6 +120,55 @@ Run plainTimerRun()
     return run;
 }
 
+/// The row of an animation, which can be edited.
+class Cells : public TimeLine, public TimeLineCells
+{
+public:
+    explicit Cells(int count) : m_ticks(QVector<int>(count, 3), -1) {}
+    QString name() const override { return QStringLiteral("Cells"); }
+    bool markerAtTick(unsigned int tick, Marker& marker) const override
+    {
+        return m_ticks.markerAt(tick, marker);
+    }
+    TimeLineCells* cells() override { return this; }
+    int count() const override { return m_ticks.frameCount(); }
+    Cell at(int index) const override
+    {
+        return {unsigned(m_ticks.firstTick(index)), m_ticks.delay(index)};
+    }
+    int indexAt(unsigned int tick) const override
+    {
+        return tick < unsigned(m_ticks.total()) ? m_ticks.frameAt(tick) : -1;
+    }
+    bool isEditable() const override { return true; }
+    bool setLengths(const QVector<int>&, const QVector<int>&) override { return false; }
+    bool move(const QVector<int>&, int) override { return false; }
+
+private:
+    FrameTicks m_ticks;
+};
+
+/// Milliseconds for a picture of 30 ticks, which both have.
+double paintingTime(int count)
+{
+    TimeLineWidget widget;
+    Cells cells(count);
+    widget.addTimeLine(&cells);
+    widget.resize(125 + 30 * 6, widget.sizeHint().height());
+    QVector<int> all(count);
+    std::iota(all.begin(), all.end(), 0);
+    widget.setSelectedCells(all);
+    widget.grab();
+    double best = 1e9;
+    for (int i = 0; i < 200; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        widget.grab();
+        best = std::min(best, double(timer.nsecsElapsed()) / 1e6);
+    }
+    return best;
+}
+
 void print(const std::string& name, const Run& run)
 {
     Bench::figure((name + ": mean rate").c_str(), run.rate(), "a second");
@@ -135,5 +189,7 @@ int main(int argc, char** argv)
     Bench::ratio("time line: away from 60 a second / 0.1 %", own.offRate(), RateLimit, 1);
     Bench::ratio("away from 60 a second, time line / QTimer of 16 ms", own.offRate(),
                  peer.offRate());
+    Bench::ratio("painting the strip, 10,000 frames / 10 frames", paintingTime(10000),
+                 paintingTime(10));
     return 0;
 }
