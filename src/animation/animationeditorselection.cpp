@@ -103,7 +103,12 @@ void AnimationEditorPrivate::refresh()
     if (isLinked() && !isPlaying() && text->hasFocus() && isTextShown()) {
         followLine(editor->codeWorkspace()->editor()->textCursor().blockNumber());
     }
-    fillFrame();
+    // Which frame is shown follows from the tick alone while one plays.
+    if (isPlaying()) {
+        showFrame(followed.ticks().frameAt(timeLine->currentTick()));
+    } else {
+        fillFrame();
+    }
     updateOnionRange();
 }
 
