@@ -105,8 +105,8 @@ bool AnimationCodeWindow::mayReplace()
     }
     const QString text = tr("The animation has been changed elsewhere since it came into this "
                             "window. Replace it?");
-    return Dialogs::instance()->question(m_dialog->windowTitle(), text,
-                                         Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
+    return Dialogs::instance()->question(m_dialog->windowTitle(), text, Dialogs::Yes | Dialogs::No,
+                                         Dialogs::No) == Dialogs::Yes;
 }
 
 /// The text may change or go behind the question, too.

@@ -156,9 +156,14 @@ void AnimationEditorPrivate::selPosChanged(int index)
     updateCurrLine();
 }
 
+/// Play goes on there, since its tick tells the frame.
 void AnimationEditorPrivate::frameSelPosChanged(int index)
 {
     if (updating > 0 || !currentAnimation()) {
+        return;
+    }
+    if (isPlaying() && followed.frame(index)) {
+        timeLine->setCurrentTick(unsigned(followed.ticks().firstTick(index)));
         return;
     }
     commitFields();

@@ -461,6 +461,11 @@ void TestAnimationEditor::textIsEditedDuringPlay()
     clock->setCurrentTick(5);
     QCOMPARE(editor->frameIndex(), 1);
     QCOMPARE(line(), 0);
+    // From another frame on, too.
+    widget<QSlider>("anim_frame_sel")->setValue(2);
+    QCOMPARE(clock->currentTick(), 9U);
+    QCOMPARE(editor->frameIndex(), 2);
+    clock->setCurrentTick(5);
     // The cursor goes on its own ways, and play goes on.
     putCursor(8);
     QCOMPARE(editor->animationIndex(), 0);
