@@ -164,6 +164,7 @@ void AnimationEditorPrivate::frameSelPosChanged(int index)
     }
     if (isPlaying() && followed.frame(index)) {
         timeLine->setCurrentTick(unsigned(followed.ticks().firstTick(index)));
+        refresh();  // a frame of no ticks is passed over, and its tool goes back
         return;
     }
     commitFields();

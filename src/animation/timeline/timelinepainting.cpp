@@ -126,7 +126,8 @@ void TimeLinePrivate::paintBand(QPainter& painter, const QRect& cell, const QCol
 void TimeLinePrivate::paintCursor(QPainter& painter) const
 {
     const qint64 left = placeOf(currentTick) + (TickWidth - CursorWidth) / 2;
-    if (left >= 0 && left < owner->width()) {
+    // A strip that is too narrow for any tick turns no page.
+    if (left >= LabelWidth && left < owner->width()) {
         // Yellow alone would not be seen on a light ground.
         const QRect bar(int(left), 0, CursorWidth, owner->height());
         painter.fillRect(bar.adjusted(-1, 0, 1, 0), borderColor());
