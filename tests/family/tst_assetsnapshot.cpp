@@ -5,10 +5,10 @@
 #include "family/assets/soundfile.h"
 #include "family/assets/spritefile.h"
 #include "support/testinterface.h"
+#include "support/testsounds.h"
 
 #include <zorv/core/filesystemarchive.h>
 #include <zorv/media/losslessimages.h>
-#include <zorv/media/soundsample.h>
 
 #include <QBuffer>
 #include <QSignalSpy>
@@ -42,12 +42,7 @@ QImage shades(int kind)
 
 Zorv::SoundSample noise(int kind)
 {
-    Zorv::SoundSample sample;
-    sample.channels = 1;
-    sample.bits = 16;
-    sample.sampleRate = 22050;
-    sample.data = QByteArray(400 * (kind + 1), char(kind));
-    return sample;
+    return soundOf(QByteArray(400 * (kind + 1), char(kind)));
 }
 
 QStringList linesOf(const SpriteCollection& sprites)

@@ -12,10 +12,10 @@
 #include "family/project/filereference.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
+#include "support/testsounds.h"
 
 #include <zorv/core/filesystemarchive.h>
 #include <zorv/core/messagelist.h>
-#include <zorv/media/soundsample.h>
 
 #include <QAbstractItemModelTester>
 #include <QDir>
@@ -94,13 +94,8 @@ public:
         QVERIFY(collection->insertSprite(-1, {0, 0}, {1, 2}, image));
         QVERIFY(collection->toFile(disk, place, false));
         collection->release();
-        Zorv::SoundSample sample;
-        sample.channels = 1;
-        sample.bits = 8;
-        sample.sampleRate = 8000;
-        sample.data = "some samples";
         SoundFile sounds;
-        QVERIFY(sounds.add(0, "0,0", sample));
+        QVERIFY(sounds.add(0, "0,0", soundOf("some samples")));
         QVERIFY(sounds.toFile(disk, hero("hero.sounds"), false));
     }
 

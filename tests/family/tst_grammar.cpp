@@ -9,10 +9,10 @@
 #include "family/grammar/linereader.h"
 #include "family/nodes/groupnode.h"
 #include "family/nodes/valuenode.h"
+#include "support/testsounds.h"
 
 #include <zorv/code/codedoc/codeblockdata.h>
 #include <zorv/core/filesystemarchive.h>
-#include <zorv/media/soundsample.h>
 
 #include <QDate>
 #include <QDir>
@@ -60,13 +60,8 @@ void writeSprites(const QString& name, int colours, bool hasMore)
 
 void writeSounds(const QString& name, bool isDamaged)
 {
-    Zorv::SoundSample sample;
-    sample.channels = 1;
-    sample.bits = 8;
-    sample.sampleRate = 8000;
-    sample.data = "some samples";
     SoundFile sounds;
-    QVERIFY(sounds.add(0, "0,0", sample));
+    QVERIFY(sounds.add(0, "0,0", soundOf("some samples")));
     QVERIFY(sounds.toFile(*Zorv::FileSystemArchive::instance(), name, false));
     QFile file(name);
     QVERIFY(file.open(QIODevice::ReadWrite));

@@ -2,10 +2,10 @@
 #include "support/brokenbytes.h"
 #include "support/memoryarchive.h"
 #include "support/testinterface.h"
+#include "support/testsounds.h"
 
 #include <zorv/cache/crc64.h>
 #include <zorv/core/filesystemarchive.h>
-#include <zorv/media/soundsample.h>
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
@@ -25,17 +25,6 @@ const int RecordSize = 64;
 Zorv::Archive& disk()
 {
     return *Zorv::FileSystemArchive::instance();
-}
-
-SoundSample sample(const QByteArray& data, quint16 channels = 1, quint16 bits = 16)
-{
-    SoundSample result;
-    result.channels = channels;
-    result.bits = bits;
-    result.sampleRate = 22050;
-    result.frames = data.size() / (channels * bits / 8);
-    result.data = data;
-    return result;
 }
 
 /// Contents of a few kinds, that pack well or not at all.
@@ -149,7 +138,7 @@ void TestSoundFile::randomOperations()
         switch (isRow ? random.bounded(7) : 0) {
         case 0:
         case 1:
-            QVERIFY(file.add(row, id, sample(data, channels)));
+            QVERIFY(file.add(row, id, soundOf(data, channels)));
             plain.insert(row, {id, channels, 16, data});
             break;
         case 2:
@@ -163,7 +152,7 @@ void TestSoundFile::randomOperations()
             break;
         }
         case 4:
-            file.sound(row)->setSample(sample(data, channels, 8), data);
+            file.sound(row)->setSample(soundOf(data, channels, 8), data);
             plain[row] = {plain[row].id, channels, 8, data};
             break;
         case 5:
@@ -219,9 +208,9 @@ void TestSoundFile::equalSamplesAreStoredOnce()
     QRandomGenerator noise(7);
     QByteArray data(40000, '\0');
     std::generate(data.begin(), data.end(), [&noise] { return char(noise.bounded(256)); });
-    file.add(0, "0,0", sample(data));
+    file.add(0, "0,0", soundOf(data));
     QVERIFY(file.toFile(disk(), path("one.sounds"), false));
-    file.add(1, "0,1", sample(data, 2));
+    file.add(1, "0,1", soundOf(data, 2));
     file.sound(0)->duplicate();
     QVERIFY(file.toFile(disk(), path("three.sounds"), false));
     QCOMPARE(read(path("three.sounds")).size(), read(path("one.sounds")).size() + 2 * RecordSize);
@@ -230,10 +219,10 @@ void TestSoundFile::equalSamplesAreStoredOnce()
 QByteArray TestSoundFile::smallFile()
 {
     SoundFile file;
-    file.add(0, "1,2", sample(QByteArray(200, 'a')));
-    file.add(1, "3,4", sample("noise!", 1, 8));
-    file.add(2, "5,6", sample("noise!", 2, 8));
-    file.add(3, "7,8", sample({}));
+    file.add(0, "1,2", soundOf(QByteArray(200, 'a')));
+    file.add(1, "3,4", soundOf("noise!", 1, 8));
+    file.add(2, "5,6", soundOf("noise!", 2, 8));
+    file.add(3, "7,8", soundOf({}));
     file.toFile(disk(), path("small.sounds"), false);
     return read(path("small.sounds"));
 }
@@ -322,7 +311,7 @@ void TestSoundFile::brokenRecords()
     QCOMPARE(file.count(), 3U);
     file.undo();
     QCOMPARE(file.brokenCount(), 1);
-    file.sound(1)->setSample(sample("whole again!"), "whole again!");
+    file.sound(1)->setSample(soundOf("whole again!"), "whole again!");
     QCOMPARE(file.brokenCount(), 0);
     QCOMPARE(file.sound(1)->sampleData(), QByteArray("whole again!"));
 }
@@ -347,7 +336,7 @@ void TestSoundFile::noSoundFile()
     QFETCH(QString, reason);
     write(path("none.sounds"), data);
     SoundFile file;
-    file.add(0, {}, sample("old sound."));
+    file.add(0, {}, soundOf("old sound."));
     const QVector<Plain> old = plainOf(file);
     QVERIFY(!file.fromFile(disk(), path("none.sounds"), false));
     QVERIFY2(file.errorString().contains(reason) && file.errorString().contains("none.sounds"),
@@ -379,9 +368,9 @@ void TestSoundFile::everyKindOfCache()
     SoundFile file;
     qputenv("TMPDIR", place);
     QCOMPARE(int(file.cache()->type()), hasPlace ? type : 1);
-    file.add(0, "0,0", sample("some samples"));
-    file.add(1, "0,1", sample(QByteArray(1000, 'x')));
-    file.sound(0)->setSample(sample("others"), "others");
+    file.add(0, "0,0", soundOf("some samples"));
+    file.add(1, "0,1", soundOf(QByteArray(1000, 'x')));
+    file.sound(0)->setSample(soundOf("others"), "others");
     QCOMPARE(file.sound(0)->sampleData(), QByteArray("others"));
     QCOMPARE(file.sound(1)->sampleData(), QByteArray(1000, 'x'));
 }
