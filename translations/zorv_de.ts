@@ -5731,20 +5731,12 @@ Möchten Sie die übrigen importieren?</translation>
         <translation>Kontaktboxen spiegeln</translation>
     </message>
     <message>
-        <source>Change contact box rectangle</source>
-        <translation>Rechteck von Kontaktboxen ändern</translation>
-    </message>
-    <message>
         <source>Move frames</source>
         <translation>Einzelbilder verschieben</translation>
     </message>
     <message>
         <source>Reverse frames</source>
         <translation>Einzelbilder umkehren</translation>
-    </message>
-    <message>
-        <source>Duplicate frames</source>
-        <translation>Einzelbilder verdoppeln</translation>
     </message>
     <message>
         <source>Remove frames</source>

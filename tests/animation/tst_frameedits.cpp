@@ -6,6 +6,7 @@
 #include "animation/edits/framevalues.h"
 
 #include "support/documentdump.h"
+#include "support/reelgrammar.h"
 
 #include "code/codedoc/framecode.h"
 #include "family/familyanimations.h"
@@ -169,7 +170,7 @@ public:
     {
         const QString before = m_document.text();
         const bool couldUndo = m_document.isUndoAvailable();
-        const int action = number(17);
+        const int action = number(15);
         (this->*actions()[action])();
         const QString after = m_document.text();
         if (!(modelOf(after) == m_model)) {
@@ -190,18 +191,22 @@ private:
     using Action = void (Pair::*)();
     static const Action* actions()
     {
-        static const Action all[] = {&Pair::move,         &Pair::reverse,    &Pair::duplicate,
-                                     &Pair::remove,       &Pair::insert,     &Pair::times,
-                                     &Pair::toNext,       &Pair::copy,       &Pair::copyToAll,
-                                     &Pair::addAny,       &Pair::removeSome, &Pair::removeOfFrame,
-                                     &Pair::removeOfMany, &Pair::switchSome, &Pair::mirrorSome,
-                                     &Pair::setRect,      &Pair::alignSome};
+        static const Action all[] = {&Pair::move,       &Pair::reverse,       &Pair::remove,
+                                     &Pair::insert,     &Pair::times,         &Pair::toNext,
+                                     &Pair::copy,       &Pair::copyToAll,     &Pair::addAny,
+                                     &Pair::removeSome, &Pair::removeOfFrame, &Pair::removeOfMany,
+                                     &Pair::switchSome, &Pair::mirrorSome,    &Pair::alignSome};
         return all;
     }
 
     int number(int end) { return m_random.bounded(std::max(end, 1)); }
+
+    /// Half of them are one of three, so that frames have some in common.
     QRect rect()
     {
+        if (number(2)) {
+            return {number(3), 0, 4, 4};
+        }
         const QPoint corner(number(100) - 50, number(100) - 50);
         return {corner, QSize(number(40) + 1, number(40) + 1)};
     }
@@ -301,23 +306,6 @@ private:
         reverseFrames(list(), m_at, some);
     }
 
-    void duplicate()
-    {
-        Animation& animation = any();
-        const int count = int(animation.frames.size());
-        const QVector<int> some = places(count);
-        const int to = number(count + 1);
-        std::vector<Frame> copies;
-        for (const int i : kept(some, count)) {
-            copies.push_back(animation.frames[std::size_t(i)]);
-            copies.back().loop = false;
-        }
-        if (count < 60) {
-            duplicateFrames(list(), m_at, some, to);
-            animation.frames.insert(animation.frames.begin() + to, copies.begin(), copies.end());
-        }
-    }
-
     void remove()
     {
         Animation& animation = any();
@@ -335,7 +323,7 @@ private:
         const int to = number(int(animation.frames.size()) + 1);
         QVector<SpriteNumber> sprites;
         std::vector<Frame> made;
-        for (int i = number(4); i > 0; --i) {
+        for (int i = number(8); i > 0; --i) {
             sprites.append({number(2), number(3)});
             Frame frame = to > 0 ? animation.frames[std::size_t(to - 1)] : Frame();
             frame.comments.clear();
@@ -531,18 +519,6 @@ private:
         });
     }
 
-    void setRect()
-    {
-        withBoxes([this](const FramePlace& place, Frame& frame, const QVector<BoxPlace>& boxes) {
-            const QRect wanted = rect();
-            setBoxRect(list(), place, boxes.first(), wanted);
-            if (boxes.first().index >= 0 &&
-                boxes.first().index < frame.rects(boxes.first().type).size()) {
-                frame.rects(boxes.first().type)[boxes.first().index] = wanted;
-            }
-        });
-    }
-
     void alignSome()
     {
         const Alignment alignment{Alignment::Mode(number(5)), number(9) - 4, number(9) - 4};
@@ -599,6 +575,7 @@ private slots:
     void boxesPassTheClipboard();
     void takesOneAnimationAlone_data();
     void takesOneAnimationAlone();
+    void typedCodeLeavesEqualLines();
 };
 
 void TestFrameEdits::framesKeepTheirBoxes()
@@ -718,6 +695,14 @@ void TestFrameEdits::refusesWhatTheGrammarDoesNot()
     QCOMPARE(removeFrames(list, 0, {2, -1}), -1);
     QVERIFY(!frameAt(list, {0, 2}));
     QVERIFY(!document.isUndoAvailable());
+
+    // This grammar reads boxes that it does not write.
+    const ReelDocument wide(QStringLiteral("<walk>\na 20000 0 3 3\nb 1 1 1 1\n+ 0 0 0 0 2 0\n"));
+    count = switchBoxTypes(wide.animations(), {0, 0},
+                           {{ContactBoxCode::Attack, 0}, {ContactBoxCode::Collision, 0}});
+    QCOMPARE(count.changed, 1);
+    QCOMPARE(count.refused, 1);
+    QCOMPARE(wide.text(), QStringLiteral("<walk>\na 20000 0 3 3\na 1 1 1 1\n+ 0 0 0 0 2 0\n"));
 }
 
 namespace {
@@ -849,6 +834,24 @@ void TestFrameEdits::takesOneAnimationAlone()
     QCOMPARE(document.animations()->count(), 3);
     QCOMPARE(document.isUndoAvailable(), document.text() != first);
     QVERIFY(!document.isRedoAvailable());
+}
+
+/// With all that points at them.
+void TestFrameEdits::typedCodeLeavesEqualLines()
+{
+    Family::FamilyDocument document(Family::FileKind::Animations);
+    document.fromString(QString::fromLatin1(Jab));
+    QString code = animationText(document.animations(), 0);
+    for (const int line : {1, 4}) {
+        QTextCursor cursor(document.findBlockByNumber(line));
+        cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, 3);
+        QVERIFY(
+            replaceAnimation(document.animations(), 0, code.replace("7,8", "7,9\nbody 0,0, 1,1")));
+        QCOMPARE(cursor.positionInBlock(), 3);
+        QCOMPARE(cursor.blockNumber(), line == 1 ? 1 : 5);
+        document.undo();
+        code = animationText(document.animations(), 0);
+    }
 }
 
 QTEST_MAIN(TestFrameEdits)

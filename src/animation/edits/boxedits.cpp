@@ -279,17 +279,4 @@ EditCount mirrorBoxes(Animations* animations, const FramePlace& place,
     return editBoxes(animations, place, EditText::tr("Mirror contact boxes"), boxes, mirrorSome);
 }
 
-EditCount setBoxRect(Animations* animations, const FramePlace& place, const BoxPlace& box,
-                     const QRect& rect)
-{
-    QRect ordered;
-    ordered.setCoords(qMin(rect.left(), rect.right()), qMin(rect.top(), rect.bottom()),
-                      qMax(rect.left(), rect.right()), qMax(rect.top(), rect.bottom()));
-    const auto set = [&](const FollowedFrame& frame, auto type, const QVector<int>& indexes) {
-        const FollowedBoxes boxes(frame, type);
-        return indexes.isEmpty() ? EditCount() : boxes.setRect(indexes.first(), ordered);
-    };
-    return editBoxes(animations, place, EditText::tr("Change contact box rectangle"), {box}, set);
-}
-
 }  // namespace Zorv

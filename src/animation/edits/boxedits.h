@@ -86,10 +86,6 @@ ZORV_EXPORT EditCount switchBoxTypes(Animations* animations, const FramePlace& p
 /// Mirrors boxes left to right about the axis, as the flip of a frame mirrors its picture.
 ZORV_EXPORT EditCount mirrorBoxes(Animations* animations, const FramePlace& place,
                                   const QVector<BoxPlace>& boxes);
-
-/// Gives a box another rectangle; corners that are the wrong way round are swapped.
-ZORV_EXPORT EditCount setBoxRect(Animations* animations, const FramePlace& place,
-                                 const BoxPlace& box, const QRect& rect);
 /// @}
 
 }  // namespace Zorv

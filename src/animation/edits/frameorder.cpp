@@ -146,26 +146,6 @@ int reverseFrames(Animations* animations, int animation, const QVector<int>& fra
     return places.first();
 }
 
-int duplicateFrames(Animations* animations, int animation, const QVector<int>& frames, int to)
-{
-    const FrameLines lines(animations, animation);
-    const QVector<int> copied = validPlaces(frames, lines.count());
-    if (copied.isEmpty()) {
-        return -1;
-    }
-    to = qBound(0, to, lines.count());
-    const EditStep step(animations, EditText::tr("Duplicate frames"));
-    insertLines(animations->document(), lines.placeOf(to), lines.text(copied));
-    for (const int line :
-         linesOf(animations, framesOf(animations, animation).mid(to, copied.size()))) {
-        const FollowedFrame frame(animations->document(), line);
-        if (frame.get() && frame.get()->isLoopPoint()) {
-            frame.get()->setLoopPoint(false);
-        }
-    }
-    return to;
-}
-
 int removeFrames(Animations* animations, int animation, const QVector<int>& frames)
 {
     const FrameLines lines(animations, animation);

@@ -20,11 +20,6 @@ ZORV_EXPORT int moveFrames(Animations* animations, int animation, const QVector<
 /// Turns the order of frames around, each at the place of another.
 ZORV_EXPORT int reverseFrames(Animations* animations, int animation, const QVector<int>& frames);
 
-/// Puts copies of frames, with their boxes, in front of the frame `to`, as `moveFrames()`. No copy
-/// is a loop point.
-ZORV_EXPORT int duplicateFrames(Animations* animations, int animation, const QVector<int>& frames,
-                                int to);
-
 /// Takes frames out of their animation. Gives the place of the frame that stands there now, or of
 /// the last one; -1 if none is left.
 ZORV_EXPORT int removeFrames(Animations* animations, int animation, const QVector<int>& frames);
