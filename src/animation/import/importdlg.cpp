@@ -60,6 +60,7 @@ public:
     }
 
     void build(int pictureSide);
+    void buildLists(int pictureSide);
     QWidget* buildChoices();
     QLayout* buildConflicts();
     QPushButton* addButton(QBoxLayout* row, const QString& text, const char* name,
@@ -147,7 +148,7 @@ QPushButton* ImportDlgPrivate::addButton(QBoxLayout* row, const QString& text, c
     return button;
 }
 
-void ImportDlgPrivate::build(int pictureSide)
+void ImportDlgPrivate::buildLists(int pictureSide)
 {
     source = new ImportSource([this](const QModelIndex& index) { return q->picture(index); },
                               pictureSide, q);
@@ -169,6 +170,20 @@ void ImportDlgPrivate::build(int pictureSide)
     removal->setShortcut(QKeySequence::Delete);
     removal->setShortcutContext(Qt::WidgetShortcut);
     targetList->addAction(removal);
+
+    QObject::connect(removal, &QAction::triggered, q, [this] { remove(); });
+    QObject::connect(sourceList, &QListView::doubleClicked, q, [this] { add(); });
+    QObject::connect(projectBox, QOverload<int>::of(&QComboBox::currentIndexChanged), q,
+                     [this] { showProject(); });
+    QObject::connect(model, &ImportModel::clashesChanged, q, [this] { showClashes(); });
+    QObject::connect(
+        model, &ImportModel::refused, q,
+        [this](const QString& identifier) { tellRefused(identifier); }, Qt::QueuedConnection);
+}
+
+void ImportDlgPrivate::build(int pictureSide)
+{
+    buildLists(pictureSide);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->setObjectName(QStringLiteral("buttonBox"));
     okButton = buttons->button(QDialogButtonBox::Ok);
@@ -197,14 +212,6 @@ void ImportDlgPrivate::build(int pictureSide)
 
     QObject::connect(buttons, &QDialogButtonBox::accepted, q, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, q, &QDialog::reject);
-    QObject::connect(removal, &QAction::triggered, q, [this] { remove(); });
-    QObject::connect(sourceList, &QListView::doubleClicked, q, [this] { add(); });
-    QObject::connect(projectBox, QOverload<int>::of(&QComboBox::currentIndexChanged), q,
-                     [this] { showProject(); });
-    QObject::connect(model, &ImportModel::clashesChanged, q, [this] { showClashes(); });
-    QObject::connect(
-        model, &ImportModel::refused, q,
-        [this](const QString& identifier) { tellRefused(identifier); }, Qt::QueuedConnection);
 }
 
 QWidget* ImportDlgPrivate::buildChoices()

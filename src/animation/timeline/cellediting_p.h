@@ -118,6 +118,7 @@ private:
 
     void begin(Act act);
     void beginDrag();
+    void beginResize();
     void follow(const QPoint& place);
     void finish(const QMouseEvent* event);
     void click(int x, Qt::KeyboardModifiers modifiers);

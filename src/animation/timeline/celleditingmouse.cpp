@@ -73,30 +73,34 @@ void CellEditing::begin(Act act)
     m_scrolling.start();
 }
 
+void CellEditing::beginResize()
+{
+    const bool isSelected = selection().contains(m_hit.cell);
+    takeLengths(isSelected ? selection().cells() : QVector<int>{m_hit.cell});
+    // An endless cell that is dragged by its edge gets an end.
+    const int place =
+        int(std::lower_bound(m_dragged.begin(), m_dragged.end(), m_hit.cell) - m_dragged.begin());
+    m_before = 1 + int(std::count_if(m_lengths.begin(), m_lengths.begin() + place,
+                                     [](int length) { return length > 0; }));
+    const TimeLineCells::Cell cell = cells()->at(m_hit.cell);
+    m_lengths[place] = std::max(cell.length, 1);
+    m_edge = qint64(cell.firstTick) + m_lengths.at(place);
+    m_change = 0;
+    begin(Resizing);
+}
+
 void CellEditing::beginDrag()
 {
     const QPointer<TimeLinePrivate> alive(m_strip);
-    const auto takes = [this](int cell) { return selection().contains(cell); };
     switch (m_hit.part) {
-    case Edge: {
-        takeLengths(takes(m_hit.cell) ? selection().cells() : QVector<int>{m_hit.cell});
-        // An endless cell that is dragged by its edge gets an end.
-        const int place = int(std::lower_bound(m_dragged.begin(), m_dragged.end(), m_hit.cell) -
-                              m_dragged.begin());
-        m_before = 1 + int(std::count_if(m_lengths.begin(), m_lengths.begin() + place,
-                                         [](int length) { return length > 0; }));
-        const TimeLineCells::Cell cell = cells()->at(m_hit.cell);
-        m_lengths[place] = std::max(cell.length, 1);
-        m_edge = qint64(cell.firstTick) + m_lengths.at(place);
-        m_change = 0;
-        begin(Resizing);
+    case Edge:
+        beginResize();
         break;
-    }
     case Body:
         if (!isEditable()) {
             return;
         }
-        if (!takes(m_hit.cell)) {
+        if (!selection().contains(m_hit.cell)) {
             pick(m_hit.cell, m_modifiers & Qt::ControlModifier);
         }
         if (alive) {
