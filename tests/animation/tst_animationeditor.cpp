@@ -1,15 +1,12 @@
 #include "animation/animationeditor.h"
 
-#include "support/planneddialogs.h"
-#include "support/poseeditor.h"
+#include "support/posetest.h"
 #include "support/stagedata.h"
 #include "support/testproject.h"
 
 #include "animation/frameticks.h"
 #include "animation/timeline/timelinewidget.h"
 #include "editors/code/codeeditor.h"
-#include "editors/code/codeworkspace.h"
-#include "graphics/graphicwork/graphicsworkspace.h"
 #include "graphics/stage/graphicsrenderer_p.h"
 
 #include <QAction>
@@ -23,7 +20,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <memory>
+#include <vector>
 
 using namespace Zorv;
 
@@ -41,13 +38,13 @@ const char* const someText = "@one\n"
 
 }  // namespace
 
-class TestAnimationEditor : public QObject
+class TestAnimationEditor : public PoseTest
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { drop(); }
     void toolsAreThoseOfTheTable();
     void frameIsShown();
     void fieldsWriteWhatIsTyped_data();
@@ -72,12 +69,6 @@ private slots:
     void editorDies();
 
 private:
-    template <class Widget>
-    Widget* widget(const char* name) const
-    {
-        return qobject_cast<Widget*>(host->controls.value(QLatin1String(name)));
-    }
-    QAction* action(const char* name) const { return host->actions.value(QLatin1String(name)); }
     QString label(const char* name) const { return widget<QLabel>(name)->text(); }
     /// What has been done since the beginning is undone by one step.
     bool isOneStep()
@@ -91,31 +82,19 @@ private:
         text->setTextCursor(QTextCursor(document->findBlockByNumber(lineNumber)));
     }
 
-    std::unique_ptr<PoseHost> host;
-    std::unique_ptr<PlannedDialogs> dialogs;
-    std::unique_ptr<CodeWorkspace> code;
-    std::unique_ptr<GraphicsWorkspace> stage;
-    std::unique_ptr<GraphicsRenderer> renderer;
-    std::unique_ptr<PoseEditor> editor;
-    std::unique_ptr<PoseDocument> document;
     std::vector<StageData::Sprite> sprites;
     CodeEditor* text = nullptr;
 };
 
 void TestAnimationEditor::init()
 {
-    host = std::make_unique<PoseHost>();
-    dialogs = std::make_unique<PlannedDialogs>();
-    code = std::make_unique<CodeWorkspace>();
-    stage = std::make_unique<GraphicsWorkspace>();
-    renderer = std::make_unique<GraphicsRenderer>();
+    make();
     sprites.clear();
     for (int i = 0; i < 3; ++i) {
         QImage image(20 + i, 30, QImage::Format_ARGB32);
         image.fill(Qt::red);
         sprites.emplace_back(image);
     }
-    editor = std::make_unique<PoseEditor>(code.get(), stage.get(), renderer.get());
     text = code->editor();
     for (QWidget* each : {code->widget(), stage->widget(), host->controlsWindow()}) {
         each->resize(500, 400);
@@ -129,17 +108,6 @@ void TestAnimationEditor::init()
     document->clearUndoRedoStacks();
     editor->setDocument(document.get());
     editor->activate();
-}
-
-void TestAnimationEditor::cleanup()
-{
-    editor.reset();
-    renderer.reset();
-    stage.reset();
-    code.reset();
-    document.reset();
-    dialogs.reset();
-    host.reset();
 }
 
 /// Kind, text, and by whom it is enabled: a animation, f frame, n no window of code, x extra.
@@ -414,6 +382,7 @@ void TestAnimationEditor::playsAsAModel()
                  QString::number(times.size()));
 
     QVector<int> expected;
+    QVector<int> ticks;  // since the frame began
     int frame = times.isEmpty() ? -1 : 0;
     int loopTicks = 0;
     for (int i = qMax(loop, 0); i < times.size(); ++i) {
@@ -422,7 +391,10 @@ void TestAnimationEditor::playsAsAModel()
     bool ends = false;
     while (frame >= 0 && !ends && expected.size() < 50) {
         ends = times[frame] < 0;
-        expected += QVector<int>(ends ? 1 : times[frame], frame);
+        for (int tick = 0; tick < (ends ? 1 : times[frame]); ++tick) {
+            expected.append(frame);
+            ticks.append(tick);
+        }
         if (!ends && ++frame == times.size()) {
             frame = qMax(loop, 0);
             ends = loopTicks == 0;
@@ -436,7 +408,11 @@ void TestAnimationEditor::playsAsAModel()
         shown.append(editor->frameIndex());
         QVERIFY(action("anim_play")->isChecked() && !action("anim_stop")->isChecked());
         QVERIFY(!widget<QSpinBox>("anim_frame_time")->isEnabled());
+        editor->interpolated.clear();
         clock->setCurrentTick(clock->currentTick() + 1);
+        if (clock->isPlaying() && shown.size() < ticks.size()) {
+            QCOMPARE(editor->interpolated, QVector<int>{ticks.at(shown.size())});
+        }
     }
     if (ends && !expected.isEmpty() && times[expected.last()] < 0) {
         shown.append(editor->frameIndex());
@@ -517,6 +493,9 @@ void TestAnimationEditor::neighboursShowThrough()
     host->options["onion_opacity"] = 0.5;
     widget<QCheckBox>("anim_onion_skin")->click();
     for (int round = 0; round < 120; ++round) {
+        if (round == 60) {
+            editor->hangOnCross();
+        }
         const int count = 1 + random.bounded(6);
         const int loop = random.bounded(count);
         const bool isEndless = random.bounded(4) == 0;
@@ -561,6 +540,7 @@ void TestAnimationEditor::neighboursShowThrough()
         QVector<QPair<int, bool>> skins;
         for (const OnionSkin& skin : renderer->onionSkins()) {
             skins.append({skin.position.x(), skin.color.red() > skin.color.blue()});
+            QCOMPARE(skin.axis, round < 60 ? QPoint() : skin.position);
             QCOMPARE(skin.scale, QPointF(2, 1));
             QCOMPARE(int(skin.flip), 3);
             QCOMPARE(skin.rotation, -30.0F);

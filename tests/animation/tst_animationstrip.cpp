@@ -1,13 +1,11 @@
 #include "animation/animationeditor.h"
 
-#include "support/planneddialogs.h"
-#include "support/poseeditor.h"
+#include "support/posetest.h"
 
+#include "animation/edits/frameorder.h"
 #include "animation/spritedrag.h"
 #include "animation/timeline/timelinewidget.h"
 #include "editors/code/codeeditor.h"
-#include "editors/code/codeworkspace.h"
-#include "graphics/graphicwork/graphicsworkspace.h"
 
 #include <QAction>
 #include <QLabel>
@@ -43,13 +41,13 @@ QString textOf(const Frames& frames)
 
 }  // namespace
 
-class TestAnimationStrip : public QObject
+class TestAnimationStrip : public PoseTest
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { drop(); }
     void randomActs();
     void spritesAreDropped();
     void playsFromTheShownFrame();
@@ -57,38 +55,24 @@ private slots:
     void playsSlowly();
     void playsAgain();
     void factsAreTold();
+    void equalFramesKeepTheirOrder();
+    void shownFrameStaysShown();
     void anotherAnimation();
     void lockedDuringPlay();
 
 private:
-    QAction* action(const char* name) const { return host->actions.value(QLatin1String(name)); }
-    QString facts() const
-    {
-        return qobject_cast<QLabel*>(host->controls.value(QStringLiteral("anim_facts_lb")))->text();
-    }
+    QString facts() const { return widget<QLabel>("anim_facts_lb")->text(); }
     void load(const QString& text);
     QPoint place(int tick, int pixel = 2) const { return {125 + 6 * tick + pixel, 35}; }
     void drag(const QPoint& from, const QPoint& to);
     QVector<int> selectedSprites(const Frames& frames) const;
 
-    std::unique_ptr<PoseHost> host;
-    std::unique_ptr<PlannedDialogs> dialogs;
-    std::unique_ptr<CodeWorkspace> code;
-    std::unique_ptr<GraphicsWorkspace> stage;
-    std::unique_ptr<GraphicsRenderer> renderer;
-    std::unique_ptr<PoseEditor> editor;
-    std::unique_ptr<PoseDocument> document;
     TimeLineWidget* strip = nullptr;
 };
 
 void TestAnimationStrip::init()
 {
-    host = std::make_unique<PoseHost>();
-    dialogs = std::make_unique<PlannedDialogs>();
-    code = std::make_unique<CodeWorkspace>();
-    stage = std::make_unique<GraphicsWorkspace>();
-    renderer = std::make_unique<GraphicsRenderer>();
-    editor = std::make_unique<PoseEditor>(code.get(), stage.get(), renderer.get());
+    make();
     strip = stage->timeLine();
     stage->widget()->resize(125 + 6 * 200, 300);
     stage->widget()->show();
@@ -98,17 +82,6 @@ void TestAnimationStrip::init()
     editor->setDocument(document.get());
     editor->activate();
     strip->setFocus();
-}
-
-void TestAnimationStrip::cleanup()
-{
-    editor.reset();
-    renderer.reset();
-    stage.reset();
-    code.reset();
-    document.reset();
-    dialogs.reset();
-    host.reset();
 }
 
 void TestAnimationStrip::load(const QString& text)
@@ -338,6 +311,15 @@ void TestAnimationStrip::playsSlowly()
     QVERIFY(timer.elapsed() > 4 * 4 * 16);
     action("anim_play_quarter")->trigger();
     QCOMPARE(strip->slowness(), 1);
+
+    // What was missed behind a menu is not made up for.
+    load(QStringLiteral("@one\n> 0,1 0,0 500 0 1,1 0\n"));
+    action("anim_play")->trigger();
+    QTest::qSleep(1000);
+    const unsigned tick = strip->currentTick();
+    timer.start();
+    QTRY_VERIFY(strip->currentTick() >= tick + 20);
+    QVERIFY(timer.elapsed() > 250);
 }
 
 void TestAnimationStrip::playsAgain()
@@ -370,6 +352,24 @@ void TestAnimationStrip::factsAreTold()
     QTRY_COMPARE(facts(), QStringLiteral("total 7, no attack"));
     load(QString());
     QTRY_COMPARE(facts(), QString());
+}
+
+void TestAnimationStrip::equalFramesKeepTheirOrder()
+{
+    const QString twin = QStringLiteral("> 0,1 0,0 3 0 1,1 0\n");
+    load(QStringLiteral("@one\n") + twin + twin + QStringLiteral("> 0,2 0,0 3 0 1,1 0\n"));
+    strip->setSelectedCells({0, 2});
+    moveFrames(document->animations(), 0, {2}, 0);
+    editor->update();
+    QCOMPARE(editor->selectedFrames(), QVector<int>({0, 1}));
+}
+
+void TestAnimationStrip::shownFrameStaysShown()
+{
+    strip->setSelectedCells({1, 2});
+    QTest::keyClick(strip, Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(editor->selectedFrames(), QVector<int>({0, 1}));
+    QCOMPARE(editor->frameIndex(), 2);
 }
 
 void TestAnimationStrip::anotherAnimation()

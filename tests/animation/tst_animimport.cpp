@@ -1,16 +1,10 @@
+#include "animation/import/animationimport.h"
 #include "animation/import/animimportdlg.h"
 #include "animation/import/importmodel.h"
 
-#include "support/planneddialogs.h"
-#include "support/posegrammar.h"
+#include "support/posetest.h"
 #include "support/stagedata.h"
-#include "support/testinterface.h"
 #include "support/testproject.h"
-
-#include "animation/animationeditor.h"
-#include "animation/import/assetrequest.h"
-#include "editors/code/codeworkspace.h"
-#include "graphics/graphicwork/graphicsworkspace.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -44,36 +38,6 @@ public:
     mutable int decodings = 0;
 };
 
-/// Writes down what it is asked for.
-class ImportEditor : public AnimationEditor
-{
-public:
-    using AnimationEditor::AnimationEditor;
-    void find(const QString&, unsigned) override {}
-
-    QVector<AssetRequest> requests;
-    AssetResult assets;
-
-protected:
-    FieldRange fieldRange(Field) const override { return {-1000, 1000}; }
-    ContactBoxCode* addContactBox(FrameCode*, ContactBoxCode::BoxType, QPoint, QPoint) override
-    {
-        return nullptr;
-    }
-    void copyContactBoxes(FrameCode*, FrameCode*) override {}
-    bool saveAnimationGIF(const QString&, QString*) override { return false; }
-    AssetResult importAssets(const AssetRequest& request) override
-    {
-        requests.append(request);
-        AssetResult result = assets;
-        if (request.leavesBroken) {
-            result.error.clear();
-        }
-        return result;
-    }
-    bool newAnimationData(QString&, QString&, int&) override { return false; }
-};
-
 const char* const hereText = "@one\n> 0,0 0,0 4 0 1,1 0\n\n@two\n> 0,1 0,0 4 0 1,1 0";
 const char* const thereText = "@one\n> 0,1 0,0 1 0 1,1 0\n> 0,9 0,0 1 0 1,1 0\n\n"
                               "@kick\n> 0,2 0,0 2 0 1,1 0\n\n\n"
@@ -81,7 +45,7 @@ const char* const thereText = "@one\n> 0,1 0,0 1 0 1,1 0\n> 0,9 0,0 1 0 1,1 0\n\
 
 }  // namespace
 
-class TestAnimImport : public QObject
+class TestAnimImport : public PoseTest
 {
     Q_OBJECT
 
@@ -96,9 +60,10 @@ private slots:
     void projectsClose_data();
     void projectsClose();
     void needsAnotherProject();
+    void whatIsReplacedGoes();
 
 private:
-    TestProject* openProject(const QString& text, PoseDocument** document);
+    TestProject* openProject(const QString& text, PoseDocument** opened);
     void openImport(const std::function<void(AnimImportDlg*)>& person);
 
     template <class Widget>
@@ -128,26 +93,20 @@ private:
     }
 
     QTemporaryDir folder;
-    std::unique_ptr<TestInterface> host;
-    std::unique_ptr<PlannedDialogs> dialogs;
     std::unique_ptr<TestParent> game;
-    std::unique_ptr<CodeWorkspace> code;
-    std::unique_ptr<GraphicsWorkspace> stage;
-    std::unique_ptr<GraphicsRenderer> renderer;
-    std::unique_ptr<ImportEditor> editor;
     std::unique_ptr<CountedSprite> sprite;
     QList<QPointer<TestProject>> projects;
     PoseDocument* here = nullptr;
     PoseDocument* there = nullptr;
 };
 
-TestProject* TestAnimImport::openProject(const QString& text, PoseDocument** document)
+TestProject* TestAnimImport::openProject(const QString& text, PoseDocument** opened)
 {
-    *document = new PoseDocument(text);
+    *opened = new PoseDocument(text);
     for (int i = 0; i < 3; ++i) {
-        (*document)->sprites.insert(i, sprite.get());
+        (*opened)->sprites.insert(i, sprite.get());
     }
-    auto* project = new TestProject(game.get(), *document);
+    auto* project = new TestProject(game.get(), *opened);
     host->projects.append(project);
     projects.append(project);
     return project;
@@ -155,16 +114,11 @@ TestProject* TestAnimImport::openProject(const QString& text, PoseDocument** doc
 
 void TestAnimImport::init()
 {
-    host = std::make_unique<TestInterface>();
-    dialogs = std::make_unique<PlannedDialogs>();
+    make<TestInterface>();
     game = std::make_unique<TestParent>(folder.path());
-    code = std::make_unique<CodeWorkspace>();
-    stage = std::make_unique<GraphicsWorkspace>();
-    renderer = std::make_unique<GraphicsRenderer>();
     QImage image(200, 100, QImage::Format_ARGB32);
     image.fill(Qt::red);
     sprite = std::make_unique<CountedSprite>(image);
-    editor = std::make_unique<ImportEditor>(code.get(), stage.get(), renderer.get());
     openProject(QLatin1String(hereText), &here);
     openProject(QLatin1String(thereText), &there);
     here->clearUndoRedoStacks();
@@ -182,12 +136,8 @@ void TestAnimImport::cleanup()
         }
     }
     projects.clear();
-    renderer.reset();
-    stage.reset();
-    code.reset();
     game.reset();
-    dialogs.reset();
-    host.reset();
+    drop();
 }
 
 /// Opens the dialog by its tool; the person acts in it as soon as it is there.
@@ -427,6 +377,22 @@ void TestAnimImport::needsAnotherProject()
     host->actions.value(QStringLiteral("anim_import_proj"))->trigger();
     QCOMPARE(dialogs->texts("warning"),
              QStringList("You can't import from the destination project!"));
+}
+
+/// Between the choice and the edit, behind a question.
+void TestAnimImport::whatIsReplacedGoes()
+{
+    Animations* list = here->animations();
+    const QAbstractItemModel* source = there->animations();
+    AnimationImport import(list,
+                           {{source->index(0, 0), QStringLiteral("one")},
+                            {source->index(1, 0), QStringLiteral("two")}},
+                           ImportConflict::Replace);
+    list->remove(1);
+    const AnimationImportResult result = import.insert(-1, QStringLiteral("Import"), {});
+    QCOMPARE(result.refused, QStringList(QStringLiteral("two")));
+    QCOMPARE(result.replaced, QStringList(QStringLiteral("one")));
+    QCOMPARE(list->count(), 1);
 }
 
 QTEST_MAIN(TestAnimImport)

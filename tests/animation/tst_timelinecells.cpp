@@ -235,6 +235,7 @@ private slots:
     void givenUp();
     void range();
     void dropped();
+    void cellsGo();
     void pastThePage();
     void shapes();
     void menu();
@@ -560,6 +561,16 @@ void TestTimeLineCells::dropped()
 }
 
 // A drag that hangs over the end of the page goes on to cells that were not in sight.
+/// Away from under the selection, by an edit of the text.
+void TestTimeLineCells::cellsGo()
+{
+    QTest::mouseClick(widget.get(), Qt::LeftButton, {}, place(16));
+    row->cellList.resize(2);
+    widget->update();
+    QTest::keyClick(widget.get(), Qt::Key_Left, Qt::ShiftModifier);
+    QCOMPARE(widget->selectedCells(), QVector<int>{0});
+}
+
 void TestTimeLineCells::pastThePage()
 {
     row->cellList = PlainCells(400, {1, 1});

@@ -36,12 +36,22 @@ public:
     void find(const QString&, unsigned) override {}
     void hideExtra() { setFrameExtra(false); }
 
+    /// Sprites hang on the secondary cross, which stands at the offset of the frame.
+    void hangOnCross()
+    {
+        cross = Zorv::GraphicsRenderer::SecondaryCross;
+        setSpriteItemType(Zorv::GraphicsRenderer::SecondaryCross);
+    }
+
     QString newIdentifier;
     QString newText;
     int newPosition = 0;
     int stops = 0;
     bool isPosed = false;  // with flip, scale and angle
+    int cross = 0;         // that sprites hang on
     QVector<int> interpolated;
+    QVector<Zorv::AssetRequest> requests;
+    Zorv::AssetResult assets;  ///< what a request comes to
 
 protected:
     void playStopped() override { ++stops; }
@@ -50,7 +60,8 @@ protected:
                             unsigned key) const override
     {
         const QVariant pose[] = {frame->scale(), int(frame->flip()), float(-frame->angle())};
-        return isPosed && key >= 4 && key <= 6
+        return key == 2 ? QVariant(cross)
+               : isPosed && key >= 4 && key <= 6
                    ? pose[key - 4]
                    : AnimationEditor::spriteProperty(frame, sprite, key);
     }
@@ -69,7 +80,15 @@ protected:
         data.boxes = static_cast<PoseFrame*>(source)->data.boxes;
         static_cast<PoseFrame*>(target)->write(data);
     }
-    Zorv::AssetResult importAssets(const Zorv::AssetRequest&) override { return {}; }
+    Zorv::AssetResult importAssets(const Zorv::AssetRequest& request) override
+    {
+        requests.append(request);
+        Zorv::AssetResult result = assets;
+        if (request.leavesBroken) {
+            result.error.clear();
+        }
+        return result;
+    }
     bool saveAnimationGIF(const QString&, QString*) override { return false; }
     bool newAnimationData(QString& identifier, QString& text, int& position) override
     {
