@@ -162,18 +162,6 @@
         <translation>Ko&amp;dierung ...</translation>
     </message>
     <message>
-        <source>&amp;Add</source>
-        <translation>&amp;Hinzufügen</translation>
-    </message>
-    <message>
-        <source>&amp;Duplicate</source>
-        <translation>&amp;Duplizieren</translation>
-    </message>
-    <message>
-        <source>&amp;Remove</source>
-        <translation>&amp;Entfernen</translation>
-    </message>
-    <message>
         <source>&amp;Next panel</source>
         <translation>&amp;Nächster Bereich</translation>
     </message>
@@ -298,76 +286,12 @@
         <translation>Klänge e&amp;ntfernen</translation>
     </message>
     <message>
-        <source>&amp;Play</source>
-        <translation>&amp;Abspielen</translation>
-    </message>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>A&amp;nhalten</translation>
-    </message>
-    <message>
-        <source>Pre&amp;vious frame</source>
-        <translation>&amp;Voriges Einzelbild</translation>
-    </message>
-    <message>
-        <source>&amp;Next frame</source>
-        <translation>Nä&amp;chstes Einzelbild</translation>
-    </message>
-    <message>
-        <source>&amp;Onion skin</source>
-        <translation>&amp;Zwiebelhaut</translation>
-    </message>
-    <message>
-        <source>Draw a&amp;ttack boxes</source>
-        <translation>An&amp;griffsboxen zeichnen</translation>
-    </message>
-    <message>
-        <source>Draw &amp;body boxes</source>
-        <translation>&amp;Körperboxen zeichnen</translation>
-    </message>
-    <message>
-        <source>Remove se&amp;lected boxes</source>
-        <translation>Ausge&amp;wählte Boxen entfernen</translation>
-    </message>
-    <message>
         <source>Pick &amp;colour</source>
         <translation>&amp;Farbe aufnehmen</translation>
     </message>
     <message>
         <source>Sta&amp;ge</source>
         <translation>&amp;Bühne</translation>
-    </message>
-    <message>
-        <source>Centre the &amp;origin</source>
-        <translation>&amp;Ursprung in die Mitte</translation>
-    </message>
-    <message>
-        <source>Ax&amp;is of the animation</source>
-        <translation>&amp;Achse der Animation</translation>
-    </message>
-    <message>
-        <source>Axis of the spri&amp;te</source>
-        <translation>A&amp;chse des Sprites</translation>
-    </message>
-    <message>
-        <source>Extr&amp;a cross</source>
-        <translation>&amp;Extrakreuz</translation>
-    </message>
-    <message>
-        <source>&amp;Rulers</source>
-        <translation>&amp;Lineale</translation>
-    </message>
-    <message>
-        <source>Gui&amp;des</source>
-        <translation>&amp;Hilfslinien</translation>
-    </message>
-    <message>
-        <source>Attac&amp;k boxes</source>
-        <translation>An&amp;griffsboxen</translation>
-    </message>
-    <message>
-        <source>&amp;Body boxes</source>
-        <translation>Kö&amp;rperboxen</translation>
     </message>
     <message>
         <source>Move line &amp;up</source>
@@ -392,13 +316,6 @@
     <message>
         <source>&amp;Usual size</source>
         <translation>&amp;Übliche Größe</translation>
-    </message>
-</context>
-<context>
-    <name>App::AnimationCommands</name>
-    <message>
-        <source>Add animation</source>
-        <translation>Animation hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -441,10 +358,6 @@
     <message>
         <source>Frame</source>
         <translation>Einzelbild</translation>
-    </message>
-    <message>
-        <source>Contact boxes</source>
-        <translation>Kontaktboxen</translation>
     </message>
     <message>
         <source>Onion skin</source>
@@ -1083,6 +996,14 @@
         <source>&amp;Code</source>
         <translation>&amp;Code</translation>
     </message>
+    <message>
+        <source>&amp;Frame</source>
+        <translation>&amp;Einzelbild</translation>
+    </message>
+    <message>
+        <source>Contact &amp;boxes</source>
+        <translation>Kontakt&amp;boxen</translation>
+    </message>
 </context>
 <context>
     <name>App::MessagePanel</name>
@@ -1092,58 +1013,34 @@
     </message>
 </context>
 <context>
-    <name>App::OnionControls</name>
+    <name>App::NewAnimationDialog</name>
     <message>
-        <source>Previous frame</source>
-        <translation>Vorheriges Einzelbild</translation>
+        <source>New animation</source>
+        <translation>Neue Animation</translation>
     </message>
     <message>
-        <source>Next frame</source>
-        <translation>Nächstes Einzelbild</translation>
+        <source>In front of %1</source>
+        <translation>Vor %1</translation>
     </message>
     <message>
-        <source>First frame</source>
-        <translation>Erstes Einzelbild</translation>
+        <source>At the end</source>
+        <translation>Am Ende</translation>
     </message>
     <message>
-        <source>Frame number</source>
-        <translation>Einzelbild Nummer</translation>
+        <source>&amp;Identifier:</source>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
-        <source>As it is</source>
-        <translation>Wie es ist</translation>
+        <source>&amp;Place:</source>
+        <translation>&amp;Platz:</translation>
     </message>
     <message>
-        <source>Shades of grey</source>
-        <translation>Graustufen</translation>
+        <source>Write a number, or a word of letters, digits, &apos;_&apos; and &apos;-&apos;.</source>
+        <translation>Schreiben Sie eine Zahl, oder ein Wort aus Buchstaben, Ziffern, &apos;_&apos; und &apos;-&apos;.</translation>
     </message>
     <message>
-        <source>Lighter</source>
-        <translation>Heller</translation>
-    </message>
-    <message>
-        <source>Darker</source>
-        <translation>Dunkler</translation>
-    </message>
-    <message>
-        <source>Show another frame behind this one</source>
-        <translation>Ein anderes Einzelbild hinter diesem zeigen</translation>
-    </message>
-    <message>
-        <source>Frame:</source>
-        <translation>Einzelbild:</translation>
-    </message>
-    <message>
-        <source>Effect:</source>
-        <translation>Effekt:</translation>
-    </message>
-    <message>
-        <source>Opacity:</source>
-        <translation>Deckkraft:</translation>
-    </message>
-    <message>
-        <source>Number of the frame, from 1</source>
-        <translation>Nummer des Einzelbilds, von 1 an</translation>
+        <source>There is an animation %1 already.</source>
+        <translation>Es gibt schon eine Animation %1.</translation>
     </message>
 </context>
 <context>
@@ -2181,10 +2078,6 @@
         <translation>Größer (+)</translation>
     </message>
     <message>
-        <source>Stage: %1, %2</source>
-        <translation>Bühne: %1, %2</translation>
-    </message>
-    <message>
         <source>Colour %1 of the palette</source>
         <translation>Farbe %1 der Palette</translation>
     </message>
@@ -2193,61 +2086,19 @@
         <translation>Diese Animation hat noch keine Einzelbilder. Eine Zeile wie &quot;frame 0,0 delay 4&quot; macht eines.</translation>
     </message>
     <message>
-        <source>%1 FPS</source>
-        <translation>%1 FPS</translation>
-    </message>
-    <message>
         <source>no sprite %1,%2</source>
         <translation>kein Sprite %1,%2</translation>
-    </message>
-    <message>
-        <source>%1 / %2</source>
-        <translation>%1 / %2</translation>
-    </message>
-    <message>
-        <source>endless</source>
-        <translation>endlos</translation>
     </message>
     <message>
         <source>The frames of animations are shown here. A line such as &quot;animation 0&quot; begins one.</source>
         <translation>Hier erscheinen die Einzelbilder von Animationen. Eine Zeile wie &quot;animation 0&quot; beginnt eine.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n tick(s)</source>
-        <translation>
-            <numerusform>%n Tick</numerusform>
-            <numerusform>%n Ticks</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>App::StageEdits</name>
-    <message>
-        <source>Move frame</source>
-        <translation>Einzelbild verschieben</translation>
-    </message>
 </context>
 <context>
     <name>App::StageView</name>
     <message>
-        <source>Time line</source>
-        <translation>Zeitleiste</translation>
-    </message>
-    <message>
-        <source>Tools of the stage</source>
-        <translation>Werkzeuge der Bühne</translation>
-    </message>
-    <message>
-        <source>Stage</source>
-        <translation>Bühne</translation>
-    </message>
-    <message>
         <source>The stage cannot be shown: OpenGL does not work on this display. Texts, lists and the time line work as ever. A driver for the graphics card, or Mesa&apos;s software OpenGL, brings the stage back.</source>
         <translation>Die Bühne kann nicht gezeigt werden: OpenGL funktioniert auf diesem Bildschirm nicht. Texte, Listen und die Zeitleiste arbeiten wie immer. Ein Treiber für die Grafikkarte oder das Software-OpenGL von Mesa bringt die Bühne zurück.</translation>
-    </message>
-    <message>
-        <source>Frame, number of frames, and how long the animation is</source>
-        <translation>Einzelbild, Zahl der Einzelbilder und Dauer der Animation</translation>
     </message>
 </context>
 <context>

@@ -116,16 +116,6 @@
     </message>
 </context>
 <context>
-    <name>App::StageCommands</name>
-    <message numerus="yes">
-        <source>%n tick(s)</source>
-        <translation>
-            <numerusform>%n tick</numerusform>
-            <numerusform>%n ticks</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>App::Transfer</name>
     <message numerus="yes">
         <source>%n file(s) written.</source>

@@ -76,6 +76,7 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("zoom_mode"), 0},
         {QStringLiteral("zoom_center"), 2},
         {QStringLiteral("zoom_level"), 5},
+        {QStringLiteral("show_cross0"), true},
         {QStringLiteral("show_cross1"), true},
         {QStringLiteral("show_cross2"), false},
         {QStringLiteral("show_rulers"), false},

@@ -1,18 +1,21 @@
 #pragma once
 
 #include "app/assets/spritepanel.h"
+#include "app/stage/familyanimationeditor.h"
 #include "app/stage/stagecommands.h"
-#include "app/stage/stagecontroller.h"
 #include "app/stage/stagerenderer.h"
 #include "app/stage/stageview.h"
 #include "family/assets/spritefile.h"
 #include "family/familyanimations.h"
 #include "family/nodes/animationnode.h"
 #include "family/nodes/framenode.h"
+#include "stillframe.h"
 #include "windowfixture.h"
 
+#include <zorv/animation/timeline/timelinewidget.h>
 #include <zorv/code/codedoc/contactboxescode.h>
 #include <zorv/core/filesystemarchive.h>
+#include <zorv/graphics/graphicwork/graphicsworkspace.h>
 #include <zorv/graphics/renderwidget.h>
 
 #include <QAction>
@@ -71,9 +74,10 @@ public:
 
     App::MainWindow* window() const { return fixture.window.get(); }
     App::StageView* view() const { return window()->stage()->view(); }
-    App::StageController* controller() const { return window()->stage()->controller(); }
-    App::StageRenderer* stage() const { return view()->renderer(); }
-    Zorv::RenderWidget* widget() const { return view()->stage(); }
+    App::FamilyAnimationEditor* editor() const { return window()->stage()->editor(); }
+    App::StageRenderer* stage() const { return window()->stage()->renderer(); }
+    Zorv::RenderWidget* widget() const { return window()->stage()->workspace()->renderWidget(); }
+    Zorv::TimeLineWidget* timeLine() const { return window()->stage()->workspace()->timeLine(); }
     Family::FamilyDocument* document() const { return fixture.document(); }
     void trigger(const char* action) const { fixture.action(action)->trigger(); }
 
@@ -136,31 +140,31 @@ public:
 
 inline QString StageFixture::fault(QRandomGenerator& random) const
 {
-    const Family::AnimationNode* shown = controller()->animation();
-    if (!shown || !controller()->frame()) {
+    const Zorv::AnimationCode* shown = editor()->currentAnimation();
+    if (!shown || !editor()->frame()) {
         return {};
     }
     Family::FamilyDocument text(Family::FileKind::Animations);
     text.setPlainText(document()->text());
-    Zorv::FollowedAnimation animation;
-    animation.setAnimation(text.animations()->animationAt(shown->block().blockNumber()));
-    Family::FrameProvider frame;
-    frame.setAnimation(&animation);
-    frame.setSprites(window()->spritePanel()->sprites());
-    frame.setFrame(controller()->frameIndex());
-    if (!frame.frame() || animation.frameCount() != controller()->frameCount()) {
+    const Family::AnimationNode* animation =
+        text.animations()->animationAt(shown->block().blockNumber());
+    const auto* node =
+        animation ? static_cast<const Family::FrameNode*>(animation->frame(editor()->frameIndex()))
+                  : nullptr;
+    if (!node || animation->frameCount() != shown->frameCount()) {
         return QStringLiteral("another animation than that of the text");
     }
+    StillFrame frame;
+    frame.show(node, window()->spritePanel()->sprites());
     Zorv::GraphicsRenderer other;
     other.setZoomLevel(stage()->zoomLevel());
     other.setGuideLines(stage()->guideLines());
     const auto isOn = [this](const char* name) { return fixture.action(name)->isChecked(); };
-    other.setVisibility(isOn("stage_main_cross"), isOn("stage_secondary_cross"),
-                        isOn("stage_extra_cross"), isOn("stage_attack_box"),
-                        isOn("stage_collision_box"), isOn("stage_rulers"),
-                        isOn("stage_guide_lines"));
+    other.setVisibility(isOn("view_main_cross"), isOn("view_secondary_cross"),
+                        isOn("view_extra_cross"), isOn("view_attack_box"),
+                        isOn("view_collision_box"), isOn("view_rulers"), isOn("view_guide_lines"));
     other.setItemPositionMode(Zorv::GraphicsRenderer::MainCross, 1, 0, 0);
-    other.setItemPosition(Zorv::GraphicsRenderer::SecondaryCross, frame.frame()->offset(), 0);
+    other.setItemPosition(Zorv::GraphicsRenderer::SecondaryCross, node->offset(), 0);
     const auto extra = Zorv::GraphicsRenderer::ExtraCross;
     other.setItemPosition(extra, stage()->itemPosition(extra, 0), 0);
     other.setSprites(&frame);
@@ -169,7 +173,7 @@ inline QString StageFixture::fault(QRandomGenerator& random) const
         places.append({random.bounded(widget()->width()), random.bounded(widget()->height())});
     }
     for (const auto type : {Zorv::ContactBoxCode::Attack, Zorv::ContactBoxCode::Collision}) {
-        Zorv::ContactBoxesCode* boxes = frame.frame()->contactBoxes(type);
+        Zorv::ContactBoxesCode* boxes = node->contactBoxes(type);
         other.setContactBoxes(type, boxes);
         for (int i = 0; i < boxes->count(); ++i) {
             const QRect rect = boxes->at(i)->rect();

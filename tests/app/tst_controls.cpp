@@ -338,10 +338,10 @@ void TestControls::placesByName_data()
     QTest::addColumn<QString>("menu");
     QTest::newRow("org_up") << "organizer"
                             << "anim";
-    QTest::newRow("anim_play") << "animation_bar"
-                               << "anim";
-    QTest::newRow("anim_frame_add") << "frame_bar"
-                                    << "anim";
+    QTest::newRow("anim_thing") << "animation_bar"
+                                << "anim";
+    QTest::newRow("anim_frame_thing") << "frame"
+                                      << "frame";
     QTest::newRow("spr_layer_add") << "layers"
                                    << "spr";
     QTest::newRow("spr_tool_pen") << "sprite_tools_bar"
@@ -350,8 +350,6 @@ void TestControls::placesByName_data()
                              << "pal";
     QTest::newRow("snd_play") << "sound_bar"
                               << "snd";
-    QTest::newRow("view_rulers") << "stage_bar"
-                                 << "view";
     QTest::newRow("other_thing") << "other_bar"
                                  << "edit";
 }
@@ -360,6 +358,9 @@ void TestControls::placesByName()
 {
     QFETCH(QString, bar);
     QFETCH(QString, menu);
+    const TemporaryGame game;
+    m->window->resize(1600, 900);
+    m->open(game, game.ryn(), game.animations());
     const char* name = QTest::currentDataTag();
     QAction* action = addAction(name);
     auto* button = qobject_cast<QWidget*>(
@@ -537,7 +538,7 @@ void TestControls::enablesInTheAreasOfAControl()
     box.setAreas(sprites);
     Zorv::OwnWidgetControl own(new QLabel, m_publisher.get());
     own.setAreas(sprites);
-    for (const QWidget* widget : {add("anim_onion_skin", box), add("anim_onion_lb", own)}) {
+    for (const QWidget* widget : {add("anim_thing", box), add("anim_label", own)}) {
         for (const char* area : {"sprites", "animations"}) {
             m->window->registry()->setActiveAreas({QLatin1String(area)});
             QCOMPARE(widget->isEnabled(), QLatin1String(area) == QLatin1String("sprites"));

@@ -342,10 +342,9 @@ void TestGameCommands::palettesAreChosen()
 
 void TestGameCommands::editorWorksOnTheTextInFront()
 {
-    App::CodeTextEditor* editor = w().window->textEditor();
-    QCOMPARE(w().host.currentEditor(), editor);
-    QCOMPARE(w().host.editorByName("code"), editor);
-    QVERIFY(!w().host.editorByName("anim"));
+    auto* editor = qobject_cast<Zorv::FileEditor*>(w().host.currentEditor());
+    QCOMPARE(w().host.editorByName("anim"), editor);
+    QCOMPARE(w().host.editorByName("code"), w().window->textEditor());
     const QString text = w().document()->text();
     editor->replace("animation", "a", 0, true);
     QCOMPARE(w().document()->text(), QString(text).replace("animation", "a"));

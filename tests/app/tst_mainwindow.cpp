@@ -501,9 +501,9 @@ void TestMainWindow::startsWithoutTheLastGame()
 void TestMainWindow::offersOnlyWhatIsOfUse()
 {
     const auto isOn = [this](const char* name) { return m->action(name)->isEnabled(); };
-    QTRY_VERIFY(isOn("open_folder") && !isOn("save") && !isOn("undo") && !isOn("animation_add"));
+    QTRY_VERIFY(isOn("open_folder") && !isOn("save") && !isOn("undo") && !isOn("code_fold_all"));
     m->open(*m_game, m_game->ryn());
-    QTRY_VERIFY(isOn("save") && isOn("paste") && isOn("animation_add"));
+    QTRY_VERIFY(isOn("save") && isOn("paste") && isOn("code_fold_all"));
     QVERIFY(!isOn("undo") && !isOn("copy") && !isOn("org_auto") && !isOn("save_all"));
     m->type(QStringLiteral("x"));
     QTRY_VERIFY(isOn("undo") && isOn("save_all"));

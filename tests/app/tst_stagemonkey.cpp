@@ -1,6 +1,5 @@
 #include "stagefixture.h"
 
-#include "app/stage/onioncontrols.h"
 #include "support/gltest.h"
 #include "support/monkey.h"
 #include "support/randomtext.h"
@@ -48,12 +47,25 @@ const Qt::Key TextKeys[] = {Qt::Key_Up,     Qt::Key_Down,      Qt::Key_Left,  Qt
                             Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Home,  Qt::Key_End,
                             Qt::Key_Return, Qt::Key_PageUp,    Qt::Key_Escape};
 
-const char* const Actions[] = {
-    "stage_play",          "stage_stop",          "stage_next_frame",      "stage_prev_frame",
-    "stage_draw_attack",   "stage_draw_body",     "stage_remove_boxes",    "stage_capture",
-    "stage_onion_skin",    "stage_main_cross",    "stage_secondary_cross", "stage_extra_cross",
-    "stage_rulers",        "stage_guide_lines",   "stage_attack_box",      "stage_collision_box",
-    "stage_center_origin", "animation_duplicate", "animation_remove"};
+const char* const Actions[] = {"anim_play",
+                               "anim_stop",
+                               "anim_next_frame",
+                               "anim_prev_frame",
+                               "anim_box_add_attack",
+                               "anim_box_add_collision",
+                               "anim_box_del",
+                               "stage_capture",
+                               "anim_onion_skin",
+                               "view_main_cross",
+                               "view_secondary_cross",
+                               "view_extra_cross",
+                               "view_rulers",
+                               "view_guide_lines",
+                               "view_attack_box",
+                               "view_collision_box",
+                               "view_center_origin",
+                               "anim_duplicate",
+                               "anim_delete"};
 
 /// Does something at random to the stage and to its text.
 class Monkey : public MonkeyOf<Monkey>
@@ -129,7 +141,7 @@ void Monkey::tidy()
 /// Mostly on something: near the origin, or on a corner or in the middle of a box.
 QPoint Monkey::anyPlace()
 {
-    const Family::FrameNode* frame = m.controller()->frame();
+    const Family::FrameNode* frame = m.editor()->frame();
     const auto type = chance(2) ? Zorv::ContactBoxCode::Attack : Zorv::ContactBoxCode::Collision;
     const Zorv::ContactBoxesCode* boxes = frame ? frame->contactBoxes(type) : nullptr;
     if (boxes && boxes->count() > 0 && !chance(3)) {
@@ -205,7 +217,7 @@ void Monkey::trigger()
 void Monkey::goSomewhere()
 {
     if (chance(4)) {
-        m.controller()->showAnimation(number(5) - 1);
+        m.window()->stage()->showAnimation(number(5) - 1);
     } else {
         m.fixture.goTo(anyLine().blockNumber());
     }
@@ -213,7 +225,7 @@ void Monkey::goSomewhere()
 
 void Monkey::scrub()
 {
-    Zorv::TimeLineWidget* line = m.view()->timeLine();
+    Zorv::TimeLineWidget* line = m.timeLine();
     const QPoint place(number(line->width()), number(line->height()));
     if (chance(2)) {
         line->setCurrentTick(unsigned(number(40)));
@@ -278,7 +290,7 @@ QString Monkey::fault()
 {
     m.release({-5, -5});
     QTest::keyClick(m.widget(), Qt::Key_Escape);
-    m.trigger("stage_stop");
+    m.trigger("anim_stop");
     QCoreApplication::processEvents();
     QString found = m.fault(random);
     for (int i = 0; i < 5 && found.isEmpty(); ++i) {

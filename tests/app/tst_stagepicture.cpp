@@ -8,7 +8,7 @@
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
 #include "family/stage/framecomposer.h"
-#include "family/stage/frameprovider.h"
+#include "stillframe.h"
 #include "support/gltest.h"
 
 #include <zorv/graphics/renderwidget.h>
@@ -32,8 +32,6 @@ class Stage
 public:
     explicit Stage(SpriteCollection* collection) : sprites(collection)
     {
-        provider.setSprites(sprites);
-        provider.setAnimation(&animation);
         renderer.setVisibility(false, false, false, false, false, false, false);
         renderer.setBackground(Ground, Ground, Zorv::GraphicsRenderer::GradientBackground, {}, {},
                                {});
@@ -49,6 +47,11 @@ public:
         renderer.setSprites(nullptr);
     }
 
+    const FrameNode* frameAt(int index) const
+    {
+        return static_cast<const FrameNode*>(animation->frame(index));
+    }
+
     bool show()
     {
         widget.show();
@@ -58,8 +61,8 @@ public:
     /// What GL has drawn, without regard to what it has in its alpha.
     QImage picture(int frame)
     {
-        provider.setFrame(frame);
-        renderer.setItemPosition(Zorv::GraphicsRenderer::SecondaryCross, provider.pose().axis, 0);
+        provider.show(frameAt(frame), sprites);
+        renderer.setItemPosition(Zorv::GraphicsRenderer::SecondaryCross, provider.pose.axis, 0);
         QImage image = widget.grabFramebuffer();
         image.reinterpretAsFormat(QImage::Format_RGB32);
         return image;
@@ -68,8 +71,8 @@ public:
     SpriteCollection* sprites;
     Zorv::RenderWidget widget;
     App::StageRenderer renderer;
-    Zorv::FollowedAnimation animation;
-    FrameProvider provider;
+    const AnimationNode* animation = nullptr;
+    StillFrame provider;
 };
 
 struct Difference
@@ -134,8 +137,8 @@ Difference compare(Stage& stage, int index, QImage* shown = nullptr)
     Difference result;
     const float zoom = stage.renderer.zoom();
     const QImage picture = stage.picture(index);
-    const QImage pixels = stage.provider.sprite() ? stage.provider.sprite()->image() : QImage();
-    const QImage other = composed(stage.sprites, *stage.provider.frame(), zoom);
+    const QImage pixels = stage.provider.sprite ? stage.provider.sprite->image() : QImage();
+    const QImage other = composed(stage.sprites, *stage.frameAt(index), zoom);
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
             const QRgb color = rowOf(picture, y)[x] | Opaque;
@@ -144,7 +147,7 @@ Difference compare(Stage& stage, int index, QImage* shown = nullptr)
             if (color != wanted) {
                 ++result.unequal;
                 result.far +=
-                    !isNear(pixels, stage.provider.pose(), zoom, QPoint(x, y) - Origin, color);
+                    !isNear(pixels, stage.provider.pose, zoom, QPoint(x, y) - Origin, color);
             }
         }
     }
@@ -226,9 +229,9 @@ void TestStagePicture::samples()
     for (const FamilyDocument* document : project->documents()) {
         const FamilyAnimations* list = document->animations();
         for (int i = 0; i < list->count(); ++i) {
-            stage.animation.setAnimation(list->animation(i));
-            for (int index = 0; index < stage.animation.frameCount(); ++index) {
-                const auto* frame = static_cast<const FrameNode*>(stage.animation.frame(index));
+            stage.animation = list->animation(i);
+            for (int index = 0; index < stage.animation->frameCount(); ++index) {
+                const auto* frame = stage.frameAt(index);
                 const FrameData& data = frame->data();
                 const bool isPlain = data.angle == 0.0 && data.scaleX == 1.0 && data.scaleY == 1.0;
                 const QString what = QStringLiteral("%1 frame %2: %3")
@@ -245,7 +248,7 @@ void TestStagePicture::samples()
                 const Difference difference = compare(stage, index);
                 QVERIFY2(difference.isSmall(!isPlain), told(what, difference).constData());
                 turned += isPlain ? Difference() : difference;
-                QVERIFY2(difference.drawn > 0 || !stage.provider.sprite(), qPrintable(what));
+                QVERIFY2(difference.drawn > 0 || !stage.provider.sprite, qPrintable(what));
             }
         }
     }
@@ -300,13 +303,13 @@ void TestStagePicture::randomPoses()
     document.fromString(text);
     QCOMPARE(document.checkErrors(), 0);
     Stage stage(&sprites);
-    stage.animation.setAnimation(document.animations()->animation(0));
+    stage.animation = document.animations()->animation(0);
     stage.renderer.setZoomLevel(uchar(level));
     QCOMPARE(double(stage.renderer.zoom()), zoom);
     QVERIFY(stage.show());
     Difference all;
-    for (int i = 0; i < stage.animation.frameCount(); ++i) {
-        const auto* frame = static_cast<const FrameNode*>(stage.animation.frame(i));
+    for (int i = 0; i < stage.animation->frameCount(); ++i) {
+        const auto* frame = stage.frameAt(i);
         const Difference one = compare(stage, i);
         const bool isPlain = i % 4 == 0 && zoom == 1;
         QVERIFY2(one.isSmall(!isPlain), told(frame->block().text(), one).constData());
@@ -327,7 +330,7 @@ void TestStagePicture::kindsOfSprites()
     FamilyDocument document(FileKind::Animations);
     document.fromString(QStringLiteral("animation 1\nframe 0,1\n"));
     Stage stage(&sprites);
-    stage.animation.setAnimation(document.animations()->animation(0));
+    stage.animation = document.animations()->animation(0);
     QVERIFY(stage.show());
     QVector<QImage> seen;
     const auto look = [&] {

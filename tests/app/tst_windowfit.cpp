@@ -38,7 +38,8 @@ public:
 
     App::MainWindow* window() const { return fixture.window.get(); }
     App::StageView* view() const { return window()->stage()->view(); }
-    App::StageRenderer* stage() const { return view()->renderer(); }
+    App::StageRenderer* stage() const { return window()->stage()->renderer(); }
+    Zorv::RenderWidget* widget() const { return window()->stage()->workspace()->renderWidget(); }
     int lines() const { return fixture.edit()->displayedLineCount(); }
 
     WindowFixture fixture;
@@ -84,14 +85,14 @@ void TestWindowFit::textHasRoom()
     const SampleWindow m(settings());
     m.open(QStringLiteral("maren/attacks.anim"));
     m.goTo(20);
-    QVERIFY(m.view()->stage()->isVisible());
+    QVERIFY(m.widget()->isVisible());
     QVERIFY(m.window()->messagePanel()->isVisible());
     const QString sizes =
-        QStringLiteral("%1 lines, stage of %2").arg(m.lines()).arg(m.view()->stage()->height());
+        QStringLiteral("%1 lines, stage of %2").arg(m.lines()).arg(m.widget()->height());
     const QSize screen = m.window()->screen()->size();
     const bool isLarge = screen.width() >= 1024 && screen.height() >= 700;
     QVERIFY2(m.lines() >= (isLarge ? 18 : 3), qPrintable(sizes));
-    QVERIFY2(m.view()->stage()->height() >= (isLarge ? 60 : 40), qPrintable(sizes));
+    QVERIFY2(m.widget()->height() >= (isLarge ? 60 : 40), qPrintable(sizes));
     // Messages come.
     const int before = m.lines();
     m.fixture.edit()->textCursor().insertText(QStringLiteral("nonsense\n"));
@@ -115,7 +116,7 @@ void TestWindowFit::emptyPartsAreLines()
     QTRY_VERIFY(m.window()->messagePanel()->height() < line);
     // The first frame brings the stage.
     m.fixture.edit()->textCursor().insertText(QStringLiteral("animation 1\nframe 0,0"));
-    QTRY_VERIFY(m.view()->stage() && m.view()->stage()->isVisible());
+    QTRY_VERIFY(m.widget() && m.widget()->isVisible());
     QVERIFY(m.view()->height() > line);
 }
 
@@ -124,7 +125,7 @@ void TestWindowFit::jumpsBringFramesIntoSight()
 {
     const SampleWindow m(settings());
     m.open(QStringLiteral("maren/specials.anim"));
-    const App::StageController* controller = m.window()->stage()->controller();
+    const App::FamilyAnimationEditor* editor = m.window()->stage()->editor();
     const int lines = m.fixture.document()->blockCount();
     for (int line = 20; line < lines; line += 37) {
         m.goTo(line < lines / 2 ? lines - 5 : 20);
@@ -132,14 +133,14 @@ void TestWindowFit::jumpsBringFramesIntoSight()
         m.stage()->setZoomLevel(8);
         m.goTo(line);
         const auto isWhole = [&] {
-            const Family::FrameNode* frame = controller->frame();
+            const Family::FrameNode* frame = editor->frame();
             const QRect area =
                 frame ? App::StageSight::areaOf(*frame, m.window()->spritePanel()->sprites(),
                                                 m.stage()->zoom())
                       : QRect();
             return !area.isEmpty() &&
                    (m.stage()->zoomLevel() == 0 ||
-                    m.view()->stage()->rect().contains(area.translated(m.stage()->origin())));
+                    m.widget()->rect().contains(area.translated(m.stage()->origin())));
         };
         QTRY_VERIFY2(isWhole(), qPrintable(QString::number(line)));
     }
@@ -147,7 +148,7 @@ void TestWindowFit::jumpsBringFramesIntoSight()
     // A detail that the person has chosen stays, from frame to frame of the animation.
     m.stage()->setZoomLevel(11);
     m.stage()->setOrigin({0, 0});
-    m.fixture.action("stage_next_frame")->trigger();
+    m.fixture.action("anim_next_frame")->trigger();
     settle();
     QCOMPARE(m.stage()->origin(), QPoint());
     QCOMPARE(int(m.stage()->zoomLevel()), 11);
@@ -171,10 +172,10 @@ void TestWindowFit::restartKeepsTheView()
         m.open(QStringLiteral("maren/attacks.anim"));
         m.goTo(20);
         m.stage()->setZoomLevel(4);
-        origin = QPoint(11, 7) + m.view()->stage()->rect().center();
+        origin = QPoint(11, 7) + m.widget()->rect().center();
         m.stage()->setOrigin(origin);
         size = m.window()->size();
-        stage = m.view()->stage()->size();
+        stage = m.widget()->size();
         m.window()->close();
     }
     const SampleWindow m(settings());
@@ -183,11 +184,11 @@ void TestWindowFit::restartKeepsTheView()
     }
     m.window()->restoreWork({});
     settle();
-    QVERIFY(m.view()->stage()->isVisible());
+    QVERIFY(m.widget()->isVisible());
     m.window()->resize(size);
     QTRY_COMPARE(m.window()->size(), size);
     // Panels may have taken other parts of another size.
-    const QSize now = m.view()->stage()->size();
+    const QSize now = m.widget()->size();
     QCOMPARE(m.stage()->origin().x(), qRound(origin.x() * now.width() / double(stage.width())));
     QCOMPARE(m.stage()->origin().y(), qRound(origin.y() * now.height() / double(stage.height())));
     QVERIFY(isLater || now == stage);

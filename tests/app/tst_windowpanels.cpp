@@ -3,6 +3,7 @@
 #include "app/actions/actionregistry.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/thumbnailcommands.h"
+#include "app/stage/newanimationdialog.h"
 #include "app/stage/stagecommands.h"
 #include "app/stage/stageview.h"
 #include "family/nodes/animationnode.h"
@@ -11,14 +12,17 @@
 #include <zorv/animation/thumbnails/thumbnailseditor.h>
 #include <zorv/animation/timeline/timelinewidget.h>
 #include <zorv/core/messagelist.h>
+#include <zorv/graphics/graphicwork/graphicsworkspace.h>
 
 #include <QAction>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QScrollBar>
@@ -187,7 +191,7 @@ void TestWindowPanels::followsTheCursor()
     m->press(Qt::Key_Return);
     m->type(QStringLiteral("frame 0,3"));
     QCOMPARE(animations()->currentIndex().row(), 2);
-    QVERIFY(m->action("animation_duplicate")->isEnabled());
+    QVERIFY(m->action("anim_duplicate")->isEnabled());
     QVERIFY(window()->openFile(m_game->ryn()));
     QCOMPARE(animations()->model()->rowCount(), 0);
 }
@@ -244,10 +248,9 @@ void TestWindowPanels::changesAnimations_data()
     QTest::addColumn<QString>("expected");
     QTest::addColumn<int>("current");
     QTest::addColumn<int>("undoLine");
-    QTest::newRow("add") << "animation_add" << 0 << "1 2 3 4" << 3 << 9;
-    QTest::newRow("duplicate") << "animation_duplicate" << 0 << "1 4 2 3" << 1 << 4;
-    QTest::newRow("remove") << "animation_remove" << 1 << "1 3" << 1 << 4;
-    QTest::newRow("remove the last") << "animation_remove" << 2 << "1 2" << 1 << 7;
+    QTest::newRow("duplicate") << "anim_duplicate" << 0 << "1 4 2 3" << 1 << 4;
+    QTest::newRow("remove") << "anim_delete" << 1 << "1 3" << 1 << 4;
+    QTest::newRow("remove the last") << "anim_delete" << 2 << "1 2" << 1 << 7;
     QTest::newRow("up") << "org_up" << 2 << "1 3 2" << 1 << 7;
     QTest::newRow("to the top") << "org_top" << 2 << "3 1 2" << 0 << 7;
     QTest::newRow("down") << "org_down" << 0 << "2 1 3" << 1 << 0;
@@ -265,9 +268,12 @@ void TestWindowPanels::changesAnimations()
     QFETCH(int, current);
     QFETCH(int, undoLine);
     openAnimations();
+    m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
+    m->dialogs.textAnswers = QStringList(QStringLiteral("4"));
     const QString before = m->document()->text();
     QTest::mouseClick(animations()->viewport(), Qt::LeftButton, {},
                       animations()->visualRect(animations()->model()->index(row, 0)).center());
+    QCoreApplication::processEvents();
     QAction* trigger = m->action(action.toLatin1().constData());
     QTRY_VERIFY(trigger->isEnabled());
     trigger->trigger();
@@ -326,15 +332,26 @@ void TestWindowPanels::putsANewAnimationOnLinesOfItsOwn()
 {
     m_game->write("characters/ryn/basic.anim", "animation 7\r\nframe 0,0 loop");
     openAnimations();
-    m->action("animation_add")->trigger();
+    const auto add = [this](const QString& identifier, int place) {
+        QTimer::singleShot(0, this, [=] {
+            auto* dialog =
+                qobject_cast<App::NewAnimationDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            dialog->findChild<QLineEdit*>()->setText(identifier);
+            dialog->findChild<QComboBox*>()->setCurrentIndex(place);
+            dialog->accept();
+        });
+        m->action("anim_add")->trigger();
+    };
+    add(QStringLiteral("8"), 1);
     QVERIFY(m->document()->text().startsWith(
-        QLatin1String("animation 7\nframe 0,0 loop\n\nanimation 8\n")));
-    // The new identifier is selected, to be typed over.
-    QCOMPARE(m->edit()->textCursor().selectedText(), QStringLiteral("8"));
-    m->type(QStringLiteral("jab"));
-    QCOMPARE(order(), QStringLiteral("7 jab"));
-    m->action("animation_duplicate")->trigger();
-    QCOMPARE(order(), QStringLiteral("7 jab jab-2"));
+        QLatin1String("animation 7\nframe 0,0 loop\n\nanimation 8\nframe")));
+    add(QStringLiteral("jab"), 0);
+    QCOMPARE(order(), QStringLiteral("jab 7 8"));
+    QVERIFY(m->document()->text().contains(QLatin1String("\n\nanimation 7\n")));
+    m->action("undo")->trigger();
+    m->action("undo")->trigger();
+    QCOMPARE(m->document()->text(), QStringLiteral("animation 7\nframe 0,0 loop"));
 }
 
 void TestWindowPanels::dropsAnimations_data()
@@ -407,9 +424,9 @@ void TestWindowPanels::hasMenusAtThePointer_data()
     QTest::addColumn<QString>("part");
     QTest::addColumn<QString>("action");
     QTest::newRow("stage") << "stage"
-                           << "stage_next_frame";
+                           << "anim_next_frame";
     QTest::newRow("time line") << "time line"
-                               << "stage_play";
+                               << "anim_play";
     QTest::newRow("animations") << "animations"
                                 << "org_down";
     QTest::newRow("game") << "game"
@@ -429,9 +446,8 @@ void TestWindowPanels::hasMenusAtThePointer()
     QFETCH(QString, action);
     openAnimations();
     m->goTo(0);
-    App::StageView* stage = window()->stage()->view();
-    const QHash<QString, QWidget*> parts{{"stage", stage},
-                                         {"time line", stage->timeLine()},
+    const QHash<QString, QWidget*> parts{{"stage", window()->stage()->view()},
+                                         {"time line", window()->stage()->workspace()->timeLine()},
                                          {"animations", animations()},
                                          {"game", window()->gameTree()},
                                          {"nodes", m->tree()},

@@ -1,5 +1,6 @@
 #include "app/actions/actionregistry.h"
 
+#include "app/actions/formername.h"
 #include "app/controls/activeareas.h"
 #include "app/controls/areagate.h"
 #include "app/look/icon.h"
@@ -30,7 +31,19 @@ QString settingOf(const QString& name)
 
 QVariant chosenKey(const QString& name)
 {
-    return Zorv::Interface::instance()->option(settingOf(name));
+    const auto* host = Zorv::Interface::instance();
+    const QVariant chosen = host->option(settingOf(name));
+    const char* former = formerNameOf(name);
+    return chosen.isValid() || !former ? chosen : host->option(settingOf(QLatin1String(former)));
+}
+
+void forgetChosenKey(const QString& name)
+{
+    auto* host = Zorv::Interface::instance();
+    host->setOption(settingOf(name), QVariant());
+    if (const char* former = formerNameOf(name)) {
+        host->setOption(settingOf(QLatin1String(former)), QVariant());
+    }
 }
 
 void setIcon(QAction* action, const ActionInfo& info)
@@ -246,7 +259,7 @@ void ActionRegistry::setShortcut(const QString& name, const QKeySequence& key)
 void ActionRegistry::resetShortcut(const QString& name)
 {
     if (isChosen(name)) {
-        Zorv::Interface::instance()->setOption(settingOf(name), QVariant());
+        forgetChosenKey(name);
         d->applyKeys(name);
         emit changed();
     }

@@ -70,9 +70,11 @@ struct MenuRow
     const char* name;
     const char* text;      ///< in the context "App::Menus"
     const char* sections;  ///< their names, with blanks between; "+" for no line behind one
+    const char* place =
+        nullptr;  ///< of a menu within another one, a section of that; null for none
 };
 
-/// In the order in which they are shown.
+/// In the order in which they are shown, each behind the one that it stands in.
 const QVector<MenuRow>& menuTable();
 
 }  // namespace App

@@ -40,7 +40,12 @@ WindowActions::WindowActions(QMainWindow* window)
 /// one, and none at an end.
 void WindowActions::makeMenu(const MenuRow& row)
 {
-    QMenu* made = m_window->menuBar()->addMenu(menuTitle(row));
+    auto* made = new QMenu(menuTitle(row), m_window->menuBar());
+    if (row.place) {
+        place(made->menuAction(), row.place);
+    } else {
+        m_window->menuBar()->addMenu(made);
+    }
     made->setObjectName(QLatin1String(row.name));
     made->setToolTipsVisible(true);
     m_menus.insert(row.name, made);
@@ -78,11 +83,13 @@ void WindowActions::add(QVector<ActionRow> rows)
     }
 }
 
-void WindowActions::place(QAction* action, const char* section)
+void WindowActions::place(QAction* action, const char* place)
 {
-    QAction* end = m_sections.value(section);
-    Q_ASSERT(end);
-    static_cast<QMenu*>(end->parent())->insertAction(end, action);
+    if (QAction* end = m_sections.value(place)) {
+        static_cast<QMenu*>(end->parent())->insertAction(end, action);
+    } else {
+        m_menus.value(place)->addAction(action);
+    }
 }
 
 void WindowActions::addSwitch(QAction* action, const QString& name)

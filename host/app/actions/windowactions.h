@@ -29,8 +29,8 @@ public:
     /// rows call must live as long as the window.
     void add(QVector<ActionRow> rows);
 
-    /// Puts an action at the end of a section of a menu, as in "file.save".
-    void place(QAction* action, const char* section);
+    /// Puts an action at the end of a section of a menu, as in "file.save", or of the menu.
+    void place(QAction* action, const char* place);
 
     /// A menu of the menu bar by its short name; null for an unknown name.
     QMenu* menu(const char* name) const;

@@ -13,7 +13,6 @@
 #include <zorv/editors/organizer/organizereditor.h>
 
 #include <QAbstractItemView>
-#include <QTextBlock>
 #include <algorithm>
 
 namespace App {
@@ -25,31 +24,6 @@ using Zorv::OrganizerEditor;
 namespace {
 
 const QString ListName = QStringLiteral("org_list");
-
-// The first number of a list without numbers is 0.
-const QString BelowFirst = QStringLiteral("-1");
-
-QString newIdentifier(const FamilyAnimations* list)
-{
-    qint64 highest = -1;
-    for (int i = 0; i < list->count(); ++i) {
-        bool isNumber = false;
-        const qint64 number = list->animation(i)->identifier().toLongLong(&isNumber);
-        highest = isNumber ? std::max(highest, number) : highest;
-    }
-    return Operations::freeIdentifier(list, highest < 0 ? BelowFirst : QString::number(highest));
-}
-
-// A new animation starts on a line of its own, with an empty one above it.
-int lineEndsBeforeNew(const Family::FamilyDocument* document)
-{
-    const QTextBlock last = document->lastBlock();
-    const bool isAtStart = !last.previous().isValid();
-    if (last.length() > 1) {
-        return 2;
-    }
-    return isAtStart || last.previous().length() == 1 ? 0 : 1;
-}
 
 }  // namespace
 
@@ -64,18 +38,6 @@ AnimationCommands::AnimationCommands(const WindowServices& services)
     // Edits have taken the cursor of the text to where the animations were.
     connect(m_organizer, &OrganizerEditor::selectionMoved, this,
             [this] { requestRow(m_organizer->currentRow()); });
-}
-
-QVector<ActionRow> AnimationCommands::actions()
-{
-    const Members<AnimationCommands> on(this);
-    // clang-format off
-    return {
-        {"animation_add",       "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Add"),       "Ctrl+Shift+A", on(&AnimationCommands::addNew),           on(&AnimationCommands::hasText),    nullptr, ActionRow::Button, "anim_add"},
-        {"animation_duplicate", "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Duplicate"), "Ctrl+Shift+D", on(&AnimationCommands::duplicateCurrent), on(&AnimationCommands::hasCurrent), nullptr, ActionRow::Button, "anim_duplicate"},
-        {"animation_remove",    "anim.list", QT_TRANSLATE_NOOP("App::Actions", "&Remove"),    "Ctrl+Shift+R", on(&AnimationCommands::removeSelected),   on(&AnimationCommands::hasCurrent), nullptr, ActionRow::Button, "anim_remove"},
-    };
-    // clang-format on
 }
 
 QAbstractItemView* AnimationCommands::list() const
@@ -108,42 +70,9 @@ void AnimationCommands::followCursor(int line)
     }
 }
 
-bool AnimationCommands::hasText() const
-{
-    return m_document;
-}
-
 bool AnimationCommands::hasCurrent() const
 {
     return m_document && m_organizer->currentRow() >= 0;
-}
-
-void AnimationCommands::addNew()
-{
-    if (!m_document) {
-        return;
-    }
-    FamilyAnimations* list = m_document->animations();
-    list->beginChange(tr("Add animation"));
-    for (int ends = lineEndsBeforeNew(m_document); ends > 0; --ends) {
-        m_document->insert(QStringLiteral("\n"));
-    }
-    list->add(newIdentifier(list));
-    list->endChange();
-    requestIdentifier(list->count() - 1);
-}
-
-void AnimationCommands::duplicateCurrent()
-{
-    if (!hasCurrent()) {
-        return;
-    }
-    const int row = m_organizer->currentRow();
-    FamilyAnimations* list = m_document->animations();
-    const QString identifier = Operations::freeIdentifier(list, list->animation(row)->identifier());
-    if (list->duplicateAnimation(row, identifier)) {
-        requestIdentifier(row + 1);
-    }
 }
 
 void AnimationCommands::removeSelected()
@@ -166,20 +95,6 @@ void AnimationCommands::requestRow(int row)
             m_document ? m_document->animations()->animation(row) : nullptr) {
         m_services.jumps->showPlace(m_document, animation->firstLine(), 0, 0);
     }
-}
-
-void AnimationCommands::requestIdentifier(int row)
-{
-    const AnimationNode* animation = m_document->animations()->animation(row);
-    if (!animation) {
-        return;
-    }
-    const QString identifier = animation->identifier();
-    const int keyword = animation->block().text().indexOf(QLatin1String("animation"));
-    const int column =
-        animation->block().text().indexOf(identifier, keyword + QLatin1String("animation").size());
-    m_services.jumps->showPlace(m_document, animation->firstLine(), std::max(column, 0),
-                                column < 0 ? 0 : identifier.size());
 }
 
 }  // namespace App

@@ -31,25 +31,18 @@ public:
     /// The list of the organizer; null if the host has made none.
     QAbstractItemView* list() const;
 
-    QVector<ActionRow> actions() override;
     void showDocument(Family::FamilyDocument* document) override;
 
     /// The animation of that line becomes the current row.
     void followCursor(int line) override;
     QVector<PanelPlace> places() override;
 
-    /// A new animation at the end, with the next free number.
-    void addNew();
-
-    /// Act on the current row, or on the selected ones; nothing without one.
-    void duplicateCurrent();
+    /// Removes the animations of the selected rows; nothing without one.
     void removeSelected();
 
 private:
-    bool hasText() const;
     bool hasCurrent() const;
     void requestRow(int row);
-    void requestIdentifier(int row);
 
     const WindowServices& m_services;
     Family::FamilyDocument* m_document = nullptr;

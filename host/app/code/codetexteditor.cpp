@@ -50,29 +50,16 @@ void CodeTextEditor::setUpTree()
     }
 }
 
-void CodeTextEditor::showDocument(Family::FamilyDocument* document)
+void CodeTextEditor::setText(Family::FamilyDocument* document)
 {
     setDocument(document);
     m_action->setEnabled(document);
     if (document) {
-        activate();
         selectLine();
     } else {
         deactivate();
     }
     emit modified();
-}
-
-void CodeTextEditor::attach()
-{
-    CodeFileEditor::attach();
-    emit shown();
-}
-
-void CodeTextEditor::detach()
-{
-    emit leaving();
-    CodeFileEditor::detach();
 }
 
 void CodeTextEditor::goTo(int line, int column, int length)
@@ -111,7 +98,7 @@ QStringList CodeTextEditor::areas() const
 void CodeTextEditor::retranslate()
 {
     m_action->setText(tr("Code"));
-    if (isActive()) {
+    if (isShown()) {
         const QTextCursor cursor = codeWorkspace()->editor()->textCursor();
         cursorChanged({cursor.blockNumber(), cursor.positionInBlock()});
     }
@@ -132,9 +119,15 @@ void CodeTextEditor::currLineChanged(int)
     }
 }
 
+/// By another editor that shares the tree, too.
+bool CodeTextEditor::isShown() const
+{
+    return document() && codeWorkspace()->editor()->codeDocument() == document();
+}
+
 void CodeTextEditor::selectLine()
 {
-    if (!isActive() || !tree() || !tree()->isVisible() || m_nodes->isStale() ||
+    if (!isShown() || !tree() || !tree()->isVisible() || m_nodes->isStale() ||
         tree()->model() != m_nodes) {
         return;
     }

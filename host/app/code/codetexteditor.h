@@ -1,12 +1,10 @@
 #pragma once
 
+#include "app/window/texteditor.h"
+
 #include <zorv/editors/code/codefileeditor.h>
 
 class QTimer;
-
-namespace Family {
-class FamilyDocument;
-}
 
 namespace App {
 
@@ -14,7 +12,7 @@ class NodeModel;
 
 /// The library's editor "code": it works on the text in front, and its tree of nodes follows
 /// the cursor.
-class CodeTextEditor : public Zorv::CodeFileEditor
+class CodeTextEditor : public Zorv::CodeFileEditor, public TextEditor
 {
     Q_OBJECT
 
@@ -22,8 +20,11 @@ public:
     /// Publishes the tree "code_tree"; the workspace outlives the editor.
     explicit CodeTextEditor(Zorv::CodeWorkspace* workspace, QObject* parent = nullptr);
 
-    /// Puts another document to the front, null for none.
-    void showDocument(Family::FamilyDocument* document);
+    CodeFileEditor* fileEditor() override { return this; }
+
+    /// True: a text that no other editor wants is for this one.
+    bool wants(const Family::FamilyDocument*) const override { return true; }
+    void setText(Family::FamilyDocument* document) override;
 
     /// Selects `length` characters from a place on, counted from 0, and brings them into the
     /// view. A place behind an end is that end.
@@ -47,18 +48,12 @@ public:
 
     NodeModel* nodes() const { return m_nodes; }
 
-signals:
-    /// The document has come into the workspace, or is about to leave it.
-    void shown();
-    void leaving();
-
 protected:
-    void attach() override;
-    void detach() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void setUpTree();
+    bool isShown() const;
     void selectLine();
 
     NodeModel* m_nodes;

@@ -12,6 +12,7 @@
 #include "app/window/jumps.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
+#include "app/window/texteditor.h"
 #include "app/window/windowservices.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
@@ -27,6 +28,7 @@
 #include <QToolBar>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace App {
 
@@ -52,8 +54,8 @@ JumpServices jumpServices(const WindowServices& services)
 CodeView::CodeView(const WindowServices& services, QSplitter* page)
     : QObject(services.window), m_services(services), m_widget(new QWidget),
       m_workspace(new Zorv::CodeWorkspace(this)),
-      m_textEditor(new CodeTextEditor(m_workspace, this)), m_tabs(new DocumentTabs(m_textEditor)),
-      m_findBar(new FindBar(m_workspace->editor())),
+      m_textEditor(new CodeTextEditor(m_workspace, this)), m_editors{m_textEditor},
+      m_tabs(new DocumentTabs(m_workspace)), m_findBar(new FindBar(m_workspace->editor())),
       m_help(new CodeHelp(m_workspace->editor(), jumpServices(services)))
 {
     auto* layout = new QVBoxLayout(m_widget);
@@ -62,7 +64,7 @@ CodeView::CodeView(const WindowServices& services, QSplitter* page)
     layout->addWidget(m_workspace->widget());
     layout->addWidget(m_findBar);
     page->addWidget(m_widget);
-    services.editors->add(m_textEditor, TextFiles, page, commands());
+    services.editors->add(m_textEditor, TextFiles, {page, commands()});
     m_workspace->widget()->setFocusProxy(editor());
     m_workspace->engineSwitched(true);
     setUpEditor();
@@ -80,7 +82,7 @@ CodeView::~CodeView()
 {
     m_tabs->blockSignals(true);
     delete m_findBar;
-    m_textEditor->showDocument(nullptr);
+    m_textEditor->setText(nullptr);
     delete m_textEditor;
     delete m_workspace;
 }
@@ -90,12 +92,12 @@ void CodeView::setUpEditor()
     CodeEditor* text = editor();
     text->setLineWrapMode(QPlainTextEdit::NoWrap);
     connect(text, &QPlainTextEdit::cursorPositionChanged, this, [this] {
-        if (m_textEditor->isActive()) {
+        if (editorInFront()) {
             cursorMoved();
         }
     });
     connect(text, &CodeEditor::currentLineChanged, this, [this](int line) {
-        if (m_textEditor->isActive()) {
+        if (editorInFront()) {
             m_services.parts->followLine(line);
         }
     });
@@ -131,7 +133,6 @@ QVector<ActionRow> CodeView::actions()
     // clang-format on
 }
 
-/// Where the window does more than the library's editor.
 CommandRows CodeView::commands()
 {
     const Members<CodeView> on(this);
@@ -145,7 +146,10 @@ CommandRows CodeView::commands()
         {Command::Delete, [this] { editor()->textCursor().removeSelectedText(); }, hasSelection},
         {Command::Find, bar(&FindBar::openFind), hasText},
         {Command::FindNext, bar(&FindBar::findNext), hasText},
-        {Command::FindPrevious, bar(&FindBar::findPrevious), hasText}};
+        {Command::FindPrevious, bar(&FindBar::findPrevious), hasText},
+        {Command::ZoomIn, [this] { m_workspace->zoomIn(); }},
+        {Command::ZoomOut, [this] { m_workspace->zoomOut(); }},
+        {Command::ZoomActual, [this] { m_workspace->zoomActual(); }}};
 }
 
 void CodeView::actionsMade()
@@ -167,8 +171,51 @@ void CodeView::reconfig()
     editor()->setSyntaxFormatting(formatting);
 }
 
+void CodeView::addEditor(TextEditor* editor)
+{
+    m_editors.append(editor);
+}
+
+TextEditor* CodeView::editorInFront() const
+{
+    const auto found = std::find_if(m_editors.begin(), m_editors.end(), [](TextEditor* each) {
+        return each->fileEditor()->isActive();
+    });
+    return found == m_editors.end() ? nullptr : *found;
+}
+
+/// The last one that wants it.
+TextEditor* CodeView::editorFor(const FamilyDocument* document) const
+{
+    return *std::find_if(m_editors.rbegin(), m_editors.rend(),
+                         [document](TextEditor* each) { return each->wants(document); });
+}
+
+/// Into the right editor at once: the other one would show it for a moment.
+void CodeView::bringForward(FamilyDocument* document)
+{
+    if (document) {
+        TextEditor* first = editorFor(document);
+        first->setText(document);
+        first->fileEditor()->activate();
+    }
+    for (TextEditor* each : qAsConst(m_editors)) {
+        each->setText(document);
+    }
+}
+
+void CodeView::updateState()
+{
+    const TextEditor* front = editorInFront();
+    TextEditor* wanted = editorFor(m_tabs->currentDocument());
+    if (front && front != wanted) {
+        wanted->fileEditor()->activate();
+    }
+}
+
 void CodeView::showFront(FamilyDocument* document)
 {
+    bringForward(document);
     m_findBar->follow();
     m_services.parts->showDocument(document);
     if (document) {
@@ -198,6 +245,8 @@ void CodeView::openText(FamilyDocument* document)
 {
     const bool isNew = m_tabs->indexOf(document) < 0;
     m_tabs->showDocument(document);
+    editorFor(document)->fileEditor()->activate();
+    editor()->setFocus();
     if (isNew) {
         Operations::ensureFaithful(document);
         m_services.status->updateFile();

@@ -19,9 +19,10 @@ class CodeHelp;
 class CodeTextEditor;
 class DocumentTabs;
 class FindBar;
+class TextEditor;
 struct WindowServices;
 
-/// The texts in the middle of the window: the library's code workspace, the editor that works in
+/// The texts in the middle of the window: the library's code workspace, the editors that work in
 /// it, the tabs of the open texts, and the bars below. It tells the parts of the window which text
 /// is in front and where its cursor is.
 class CodeView : public QObject, public Part
@@ -43,6 +44,13 @@ public:
     /// The one in which all texts are shown, whether there is a text or not.
     Zorv::CodeEditor* editor() const;
 
+    /// Takes another editor in, not owned, for the texts that it wants; to be added to the window,
+    /// with `commands()`, as well.
+    void addEditor(TextEditor* editor);
+
+    /// Where the window does more than the library's editor.
+    CommandRows commands();
+
     /// See `showDocument()` and the others of `Jumps`.
     void openText(Family::FamilyDocument* document);
     void showPlace(Family::FamilyDocument* document, int line, int column, int length);
@@ -53,6 +61,9 @@ public:
     void forgetProject(Family::FamilyProject* project) override;
     void gameChanged() override;
     QVector<PanelPlace> places() override;
+
+    /// Brings the editor forward that wants the text in front now, in place of another one.
+    void updateState() override;
     void reconfig() override;
 
 private:
@@ -63,7 +74,9 @@ private:
 
     bool hasText() const;
     bool hasSelection() const;
-    CommandRows commands();
+    TextEditor* editorInFront() const;
+    TextEditor* editorFor(const Family::FamilyDocument* document) const;
+    void bringForward(Family::FamilyDocument* document);
     void save();
     void closeText();
     void close(Family::FamilyDocument* document);
@@ -75,6 +88,7 @@ private:
     QWidget* m_widget;
     Zorv::CodeWorkspace* m_workspace;
     CodeTextEditor* m_textEditor;
+    QVector<TextEditor*> m_editors;
     DocumentTabs* m_tabs;
     FindBar* m_findBar;
     CodeHelp* m_help;

@@ -1,6 +1,5 @@
 #include "app/code/documenttabs.h"
 
-#include "app/code/codetexteditor.h"
 #include "app/session/gamesession.h"
 #include "family/familydocument.h"
 
@@ -21,6 +20,8 @@ using Family::FamilyDocument;
 using Zorv::CodeEditor;
 
 namespace {
+
+const QString PlaceName = QStringLiteral("code");
 
 class KeptPlace : public Zorv::EditorData
 {
@@ -46,12 +47,16 @@ int positionOf(const QTextDocument* document, int line, int column)
                            : document->characterCount() - 1;
 }
 
-/// What is kept under the name of the editor.
-TextPlace keptPlace(const CodeTextEditor* editor, const FamilyDocument* document)
+TextPlace keptPlace(const FamilyDocument* document)
 {
     const auto* kept =
-        document ? static_cast<const KeptPlace*>(document->editorData(editor->name())) : nullptr;
+        document ? static_cast<const KeptPlace*>(document->editorData(PlaceName)) : nullptr;
     return kept ? kept->place : TextPlace();
+}
+
+void keep(FamilyDocument* document, const TextPlace& place)
+{
+    document->setEditorData(PlaceName, std::make_unique<KeptPlace>(place));
 }
 
 void restorePlace(CodeEditor* editor, const TextPlace& place)
@@ -66,18 +71,18 @@ void restorePlace(CodeEditor* editor, const TextPlace& place)
 
 }  // namespace
 
-DocumentTabs::DocumentTabs(CodeTextEditor* editor)
-    : QObject(editor), m_editor(editor), m_bar(editor->codeWorkspace()->tabBar())
+DocumentTabs::DocumentTabs(Zorv::CodeWorkspace* workspace)
+    : QObject(workspace), m_workspace(workspace), m_bar(workspace->tabBar())
 {
     m_bar->setDocumentMode(true);
     m_bar->setUsesScrollButtons(true);
     m_bar->setObjectName(QStringLiteral("open_texts"));
     m_bar->installEventFilter(this);
     connect(m_bar, &QTabBar::currentChanged, this, &DocumentTabs::bringForward);
-    connect(editor, &CodeTextEditor::leaving, this, &DocumentTabs::keepPlace);
-    connect(editor, &CodeTextEditor::shown, this, [this] {
+    connect(workspace, &Zorv::CodeWorkspace::documentLeaves, this, &DocumentTabs::keepPlace);
+    connect(workspace, &Zorv::CodeWorkspace::documentShown, this, [this] {
         if (isShown()) {
-            restorePlace(m_editor->codeWorkspace()->editor(), keptPlace(m_editor, m_front));
+            restorePlace(m_workspace->editor(), keptPlace(m_front));
         }
     });
     connect(m_bar, &QTabBar::tabCloseRequested, this,
@@ -93,8 +98,6 @@ void DocumentTabs::showDocument(FamilyDocument* document)
     }
     m_bar->setCurrentIndex(indexOf(document));
     bringForward();
-    m_editor->activate();
-    m_editor->codeWorkspace()->editor()->setFocus();
 }
 
 void DocumentTabs::addTab(FamilyDocument* document)
@@ -133,42 +136,40 @@ void DocumentTabs::bringForward()
     }
     keepPlace();
     m_front = document;
-    m_editor->showDocument(document);
     emit currentDocumentChanged(document);
 }
 
 /// False while another editor is in front.
 bool DocumentTabs::isShown() const
 {
-    return m_front && m_editor->codeWorkspace()->editor()->codeDocument() == m_front;
+    return m_front && m_workspace->editor()->codeDocument() == m_front;
 }
 
 void DocumentTabs::keepPlace()
 {
     if (isShown()) {
-        const CodeEditor* editor = m_editor->codeWorkspace()->editor();
-        m_front->setEditorData(m_editor->name(), std::make_unique<KeptPlace>(placeIn(editor)));
+        const CodeEditor* editor = m_workspace->editor();
+        keep(m_front, placeIn(editor));
     }
 }
 
 TextPlace DocumentTabs::placeOf(const FamilyDocument* document) const
 {
-    return document == m_front && isShown() ? placeIn(m_editor->codeWorkspace()->editor())
-                                            : keptPlace(m_editor, document);
+    return document == m_front && isShown() ? placeIn(m_workspace->editor()) : keptPlace(document);
 }
 
 void DocumentTabs::setPlace(FamilyDocument* document, const TextPlace& place)
 {
     if (document == m_front && isShown()) {
-        restorePlace(m_editor->codeWorkspace()->editor(), place);
+        restorePlace(m_workspace->editor(), place);
     } else {
-        document->setEditorData(m_editor->name(), std::make_unique<KeptPlace>(place));
+        keep(document, place);
     }
 }
 
 CodeEditor* DocumentTabs::currentEdit() const
 {
-    return isShown() ? m_editor->codeWorkspace()->editor() : nullptr;
+    return isShown() ? m_workspace->editor() : nullptr;
 }
 
 int DocumentTabs::count() const

@@ -12,11 +12,10 @@ class FamilyDocument;
 
 namespace Zorv {
 class CodeEditor;
-}
+class CodeWorkspace;
+}  // namespace Zorv
 
 namespace App {
-
-class CodeTextEditor;
 
 /// The texts that are open, a tab each in the tab bar of the code workspace. All are shown
 /// in its one editor; each keeps its place, with the document itself. Closing a tab ends
@@ -26,8 +25,8 @@ class DocumentTabs : public QObject
     Q_OBJECT
 
 public:
-    /// Lives as a child of the editor, whose document is from now on the one in front.
-    explicit DocumentTabs(CodeTextEditor* editor);
+    /// Lives as a child of the workspace. Who gets `currentDocumentChanged()` shows the text there.
+    explicit DocumentTabs(Zorv::CodeWorkspace* workspace);
     ~DocumentTabs() override;
 
     /// Brings the tab of a document to the front, made if there is none.
@@ -76,7 +75,7 @@ private:
     bool isShown() const;
     void keepPlace();
 
-    CodeTextEditor* m_editor;
+    Zorv::CodeWorkspace* m_workspace;
     QTabBar* m_bar;
     Family::FamilyDocument* m_front = nullptr;
     int m_pressedTab = -1;  ///< by the middle button

@@ -1,6 +1,9 @@
 #include "app/controls/controlbars.h"
 
+#include "app/actions/actionregistry.h"
 #include "app/actions/windowactions.h"
+#include "app/controls/activeareas.h"
+#include "app/controls/controlform.h"
 #include "app/controls/controllayout.h"
 
 #include <zorv/core/interface.h>
@@ -10,6 +13,8 @@
 #include <QMainWindow>
 #include <QMap>
 #include <QPair>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -22,6 +27,7 @@ namespace App {
 namespace {
 
 const QString OffKey = QStringLiteral("bars_off");
+constexpr int FewestLines = 4;  // that a form shows at least
 
 QStringList barsThatAreOff()
 {
@@ -44,6 +50,72 @@ const BarRow* rowOf(const QString& name)
     return found == table.end() ? nullptr : &*found;
 }
 
+/// The place of a tool in the order of its bar; behind all of them for one that is not in it.
+int rankOf(const QVector<const char*>& order, const QString& name)
+{
+    const auto found = std::find_if(order.begin(), order.end(), [&name](const char* each) {
+        return each && name == QLatin1String(each);
+    });
+    return int(found - order.begin());
+}
+
+bool hasForm(const QString& name)
+{
+    const QVector<FormRow>& table = formTable();
+    return std::any_of(table.begin(), table.end(),
+                       [&name](const FormRow& row) { return name == QLatin1String(row.bar); });
+}
+
+/// On a low screen the form is longer than its panel, and never wider.
+class FormArea : public QScrollArea
+{
+public:
+    explicit FormArea(QWidget* form)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setWidgetResizable(true);
+        setFocusPolicy(Qt::NoFocus);
+        setWidget(form);
+    }
+
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+
+    QSize minimumSizeHint() const override
+    {
+        return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
+                fontMetrics().lineSpacing() * FewestLines};
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest) {
+            updateGeometry();
+        }
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
+
+/// A line is seen between two tools alone.
+void showLines(const QToolBar* bar)
+{
+    QAction* line = nullptr;
+    bool isBehindTool = false;
+    for (QAction* action : bar->actions()) {
+        if (action->isSeparator()) {
+            action->setVisible(false);
+            line = isBehindTool ? action : line;
+        } else if (action->isVisible()) {
+            if (line) {
+                line->setVisible(true);
+            }
+            line = nullptr;
+            isBehindTool = true;
+        }
+    }
+}
+
 }  // namespace
 
 struct ControlBars::Bar
@@ -54,29 +126,82 @@ struct ControlBars::Bar
     QToolBar* tools = nullptr;               // the bar itself, or the one at the top of the panel
     QDockWidget* panel = nullptr;            // null for a tool bar
     QVBoxLayout* layout = nullptr;           // of the panel
+    ControlForm* form = nullptr;             // of one with rows, in place of the bar
+    QMap<const QAction*, int> lines = {};    // between the tools, by their place in the order
+    bool wasInFront = false;                 // a panel, when it was hidden last
 
-    QWidget* host() const { return panel ? static_cast<QWidget*>(panel) : tools; }
+    QWidget* host() const
+    {
+        return panel ? static_cast<QWidget*>(panel) : tools ? static_cast<QWidget*>(tools) : form;
+    }
 
+    // Null for a page.
     QAction* visibilitySwitch() const
     {
-        return panel ? panel->toggleViewAction() : tools->toggleViewAction();
+        return isPage() ? nullptr : panel ? panel->toggleViewAction() : tools->toggleViewAction();
+    }
+
+    bool isPage() const { return row && row->kind == BarRow::Page; }
+
+    bool isInItsArea(const ActiveAreas* areas) const
+    {
+        return !row || !row->only || areas->areas().contains(QLatin1String(row->only));
+    }
+
+    // A panel that comes back stands where it stood: in front of those in its place, or behind.
+    void show(bool isShown)
+    {
+        if (panel && panel->isHidden() == isShown) {
+            wasInFront = isShown ? wasInFront : !panel->visibleRegion().isEmpty();
+            panel->setVisible(isShown);
+            if (isShown && wasInFront) {
+                panel->raise();
+            }
+        } else if (!panel) {
+            tools->setVisible(isShown);
+        }
     }
 
     void retranslate() const
     {
         const QString title = row ? row->title.label() : ownTitle ? ownTitle() : name;
         host()->setWindowTitle(title);
-        tools->setAccessibleName(title);
+        for (QWidget* part : {static_cast<QWidget*>(tools), static_cast<QWidget*>(form)}) {
+            if (part) {
+                part->setAccessibleName(title);
+            }
+        }
+        if (form) {
+            form->align();
+        }
+    }
+
+    int rankOf(const QAction* action) const
+    {
+        return lines.value(action, App::rankOf(orderOf(name), action->objectName()));
+    }
+
+    // In front of what comes later in the order.
+    void insert(QAction* action) const
+    {
+        const QList<QAction*> all = tools->actions();
+        const auto later = std::find_if(
+            all.begin(), all.end(),
+            [this, rank = rankOf(action)](const QAction* other) { return rankOf(other) > rank; });
+        tools->insertAction(later == all.end() ? nullptr : *later, action);
     }
 
     bool isChoice() const { return row && row->fewest > 1; }
 
-    // The first item of a panel's layout is its tool bar.
+    // The first item of a panel's layout is its tool bar or its form.
     bool isEmpty() const
     {
+        if (form) {
+            return form->isEmpty();
+        }
         const QList<QAction*> all = tools->actions();
         const auto count = std::count_if(all.begin(), all.end(), [this](const QAction* tool) {
-            return tool->isVisible() || !isChoice();
+            return !tool->isSeparator() && (tool->isVisible() || !isChoice());
         });
         return count < (isChoice() ? row->fewest : 1) && (!layout || layout->count() < 2);
     }
@@ -96,6 +221,8 @@ ControlBars::ControlBars(QMainWindow* window, WindowActions* actions)
 {
     d->window = window;
     d->actions = actions;
+    connect(actions->registry()->activeAreas(), &ActiveAreas::changed, this,
+            &ControlBars::updateSoon);
     // The saved state of a window has places for panels that come later, but none for tool bars.
     for (const BarRow& row : barTable()) {
         if (row.kind == BarRow::ToolBar) {
@@ -125,10 +252,18 @@ ControlBars::Bar* ControlBars::makeBar(const QString& name, bool isPanel)
     Bar* made = d->bars.back().get();
     made->name = name;
     made->row = rowOf(name);
-    if (isPanel || (made->row && made->row->kind == BarRow::Panel)) {
+    if (made->isPage()) {
+        makePage(made);
+    } else if (isPanel || (made->row && made->row->kind == BarRow::Panel)) {
         makePanel(made);
     } else {
         makeToolBar(made);
+    }
+    const QVector<const char*>& order = orderOf(name);
+    for (int i = 0; i < order.size(); ++i) {
+        if (!order[i]) {
+            made->lines.insert(made->tools->addSeparator(), i);
+        }
     }
     addSwitch(made);
     made->retranslate();
@@ -151,8 +286,13 @@ void ControlBars::makePanel(Bar* bar)
     auto* content = new QWidget;
     bar->layout = new QVBoxLayout(content);
     bar->layout->setContentsMargins(0, 0, 0, 0);
-    bar->tools = new QToolBar;
-    bar->layout->addWidget(bar->tools);
+    if (hasForm(bar->name)) {
+        bar->form = new ControlForm(bar->name);
+        bar->layout->addWidget(new FormArea(bar->form));
+    } else {
+        bar->tools = new QToolBar;
+        bar->layout->addWidget(bar->tools);
+    }
     bar->panel->setWidget(content);
     bar->panel->hide();
     d->window->addDockWidget(
@@ -161,9 +301,42 @@ void ControlBars::makePanel(Bar* bar)
     bar->panel->installEventFilter(this);
 }
 
+void ControlBars::makePage(Bar* bar)
+{
+    if (hasForm(bar->name)) {
+        bar->form = new ControlForm(bar->name, d->window);
+        bar->form->hide();
+    } else {
+        bar->tools = new QToolBar(d->window);
+        bar->tools->hide();
+    }
+    bar->host()->setObjectName(bar->name + QLatin1String("_page"));
+}
+
+QWidget* ControlBars::page(const QString& name)
+{
+    return bar(name)->host();
+}
+
+void ControlBars::fill(const ActionRegistry* registry)
+{
+    for (const BarRow& row : barTable()) {
+        const QString name = QLatin1String(row.name);
+        for (const char* tool : orderOf(name)) {
+            QAction* action = tool ? registry->action(QLatin1String(tool)) : nullptr;
+            if (action && !bar(name)->tools->actions().contains(action)) {
+                addButton(name, action);
+            }
+        }
+    }
+}
+
 void ControlBars::addSwitch(const Bar* bar)
 {
     QAction* action = bar->visibilitySwitch();
+    if (!action) {
+        return;
+    }
     action->setVisible(false);
     connect(action, &QAction::triggered, this,
             [this, name = bar->name](bool isOn) { setOff(name, !isOn); });
@@ -199,8 +372,12 @@ void ControlBars::setOff(const QString& name, bool isOff)
 QToolButton* ControlBars::addButton(const QString& name, QAction* action)
 {
     Bar* found = bar(name);
-    found->tools->addAction(action);
     connect(action, &QObject::destroyed, this, &ControlBars::updateSoon);
+    if (found->form) {
+        updateSoon();
+        return found->form->addButton(action);
+    }
+    found->insert(action);
     if (found->isChoice()) {
         connect(action, &QAction::changed, this, &ControlBars::updateSoon);
     }
@@ -208,10 +385,13 @@ QToolButton* ControlBars::addButton(const QString& name, QAction* action)
     return qobject_cast<QToolButton*>(found->tools->widgetForAction(action));
 }
 
-void ControlBars::addWidget(const QString& name, QWidget* widget, bool takesRoom)
+void ControlBars::addWidget(const QString& name, const QString& tool, QWidget* widget,
+                            bool takesRoom)
 {
     Bar* found = bar(name);
-    if (found->layout) {
+    if (found->form) {
+        found->form->addWidget(tool, widget);
+    } else if (found->layout) {
         found->layout->addWidget(widget, takesRoom ? 1 : 0);
     } else {
         QAction* place = found->tools->addWidget(widget);
@@ -229,7 +409,7 @@ void ControlBars::addPanel(const QString& name, QWidget* widget,
     found = found ? found : makeBar(name, true);
     found->ownTitle = title;
     found->retranslate();
-    addWidget(name, widget, true);
+    addWidget(name, {}, widget, true);
 }
 
 void ControlBars::bringForward(const QString& name)
@@ -241,13 +421,9 @@ void ControlBars::bringForward(const QString& name)
     if (barsThatAreOff().contains(name)) {
         setOff(name, false);
     }
+    found->wasInFront = true;
     updateVisibility();
     found->host()->raise();
-}
-
-void ControlBars::addSeparator(const QString& name)
-{
-    bar(name)->tools->addSeparator();
 }
 
 void ControlBars::setGroupEnabled(const QString& menu, const QString& group, bool isEnabled)
@@ -277,10 +453,17 @@ void ControlBars::updateVisibility()
     d->isUpdatePending = false;
     const QStringList off = barsThatAreOff();
     for (const auto& each : d->bars) {
-        const bool isUsed = !each->isEmpty() && isGroupEnabled(each->name);
+        if (each->tools) {
+            showLines(each->tools);
+        }
+        if (each->isPage()) {
+            continue;
+        }
+        const bool isUsed = !each->isEmpty() && isGroupEnabled(each->name) &&
+                            each->isInItsArea(d->actions->registry()->activeAreas());
         each->visibilitySwitch()->setVisible(isUsed);
-        each->host()->setVisible(isUsed && !off.contains(each->name));
-        if (each->panel) {
+        each->show(isUsed && !off.contains(each->name));
+        if (each->panel && each->tools) {
             each->tools->setVisible(!each->tools->actions().isEmpty());
         }
     }

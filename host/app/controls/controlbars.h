@@ -12,6 +12,7 @@ class QWidget;
 
 namespace App {
 
+class ActionRegistry;
 class WindowActions;
 
 /// The tool bars and panels of the window that take published tools.
@@ -31,9 +32,9 @@ public:
     /// Puts a button into the bar of a name, which is made if need be.
     QToolButton* addButton(const QString& name, QAction* action);
 
-    /// Puts a widget into a bar; `takesRoom` for one that takes all that is left in a panel.
-    /// The bar owns it.
-    void addWidget(const QString& name, QWidget* widget, bool takesRoom = false);
+    /// Puts the widget of a tool into a bar; `takesRoom` for one that takes all that is left in a
+    /// panel. The bar owns it.
+    void addWidget(const QString& name, const QString& tool, QWidget* widget, bool takesRoom);
 
     /// The same into the panel of a name, which gets that title if the table has none.
     void addPanel(const QString& name, QWidget* widget, const std::function<QString()>& title);
@@ -41,7 +42,11 @@ public:
     /// Switches a bar or panel on, and shows a panel in front of those in its place.
     void bringForward(const QString& name);
 
-    void addSeparator(const QString& name);
+    /// What a bar of the kind `Page` consists of, for a part of the window to put up and own.
+    QWidget* page(const QString& name);
+
+    /// The actions of the tables that are there, and in no bar yet.
+    void fill(const ActionRegistry* registry);
 
     /// Allows the bars of a menu and a group, or hides them.
     void setGroupEnabled(const QString& menu, const QString& group, bool isEnabled);
@@ -67,6 +72,7 @@ private:
     Bar* makeBar(const QString& name, bool isPanel = false);
     void makeToolBar(Bar* bar);
     void makePanel(Bar* bar);
+    void makePage(Bar* bar);
     void addSwitch(const Bar* bar);
     void setOff(const QString& name, bool isOff);
     void updateSoon();

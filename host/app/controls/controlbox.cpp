@@ -26,6 +26,7 @@ namespace {
 // The room of a control that asks for none, in characters and in rows.
 constexpr int UsualSliderWidth = 16;
 constexpr int UsualRows = 4;
+constexpr int FewestCharacters = 5;  // of a choice
 
 // What a field needs beside its text: frame and arrows.
 constexpr int FieldExtra = 4;
@@ -83,6 +84,25 @@ QLabel* makeText(const WidgetControl& control)
     return label;
 }
 
+/// Shows "1.5" for "1.500000".
+class RealField : public QDoubleSpinBox
+{
+public:
+    QString textFromValue(double value) const override
+    {
+        QString text = QDoubleSpinBox::textFromValue(value);
+        if (text.contains(locale().decimalPoint())) {
+            while (text.endsWith(locale().zeroDigit())) {
+                text.chop(1);
+            }
+            if (text.endsWith(locale().decimalPoint())) {
+                text.chop(1);
+            }
+        }
+        return text;
+    }
+};
+
 template <typename Field>
 Field* makeField(const WidgetControl& control)
 {
@@ -91,6 +111,15 @@ Field* makeField(const WidgetControl& control)
         field->setMinimumWidth(characters(field, control.size() + FieldExtra));
     }
     return field;
+}
+
+/// No wider than it has to be: the list that it opens shows its entries whole.
+QComboBox* makeChoice(const WidgetControl& control)
+{
+    auto* box = makeField<QComboBox>(control);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(FewestCharacters);
+    return box;
 }
 
 QWidget* makeWidget(const WidgetControl& control)
@@ -105,9 +134,9 @@ QWidget* makeWidget(const WidgetControl& control)
     case WidgetControl::SpinEdit:
         return makeField<QSpinBox>(control);
     case WidgetControl::FloatEdit:
-        return makeField<QDoubleSpinBox>(control);
+        return makeField<RealField>(control);
     case WidgetControl::ComboBox:
-        return makeField<QComboBox>(control);
+        return makeChoice(control);
     case WidgetControl::TreeView:
         return makeTree(control);
     case WidgetControl::ListView:

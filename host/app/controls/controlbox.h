@@ -29,6 +29,9 @@ public:
     /// The widget itself: a slider, a field, a view.
     QWidget* field() const { return m_field; }
 
+    /// Null for a control without one.
+    QLabel* label() const { return m_label; }
+
     /// True for a list, a tree and what else grows in height: it gets all the room that is left.
     bool takesRoom() const;
 

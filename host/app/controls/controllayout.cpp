@@ -36,6 +36,17 @@ struct KeyRow
 };
 
 const KeyRow firstKeys[] = {
+    {"anim_add", "Ctrl+Shift+A"},
+    {"anim_duplicate", "Ctrl+Shift+D"},
+    {"anim_delete", "Ctrl+Shift+R"},
+    {"anim_play", "F9"},
+    {"anim_play_here", "Ctrl+F9"},
+    {"anim_stop", "Shift+F9"},
+    {"anim_prev_frame", "Alt+PgUp"},
+    {"anim_next_frame", "Alt+PgDown"},
+    {"anim_onion_skin", "Ctrl+Shift+O"},
+    {"anim_box_add_attack", "Ctrl+1"},
+    {"anim_box_add_collision", "Ctrl+2"},
     {"org_up", "Alt+Up"},
     {"org_down", "Alt+Down"},
     {"code_goto", "Ctrl+L"},
@@ -58,14 +69,13 @@ const QVector<BarRow>& barTable()
         {"main",         BarRow::ToolBar, Qt::TopToolBarArea,      nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Main"))},
         {"editors",      BarRow::ToolBar, Qt::TopToolBarArea,      nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Editors")), nullptr, 2},
         {"code",         BarRow::ToolBar, Qt::TopToolBarArea,      nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Code"))},
-        {"stage",        BarRow::ToolBar, Qt::TopToolBarArea,      nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Stage"))},
-        {"animation",    BarRow::ToolBar, Qt::TopToolBarArea,      "anim",  "animations", shared(AnimationsText)},
-        {"frame",        BarRow::ToolBar, Qt::TopToolBarArea,      "anim",  "animations", own(QT_TRANSLATE_NOOP("App::Bars", "Frame"))},
-        {"boxes",        BarRow::ToolBar, Qt::TopToolBarArea,      "anim",  "animations", own(QT_TRANSLATE_NOOP("App::Bars", "Contact boxes"))},
-        {"onion",        BarRow::ToolBar, Qt::BottomToolBarArea,   "anim",  "animations", own(QT_TRANSLATE_NOOP("App::Bars", "Onion skin"))},
+        {"animation",    BarRow::ToolBar, Qt::TopToolBarArea,      "anim",  "animations", shared(AnimationsText), nullptr, 1, "animations"},
+        {"stage",        BarRow::Page,    0,                       nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Stage"))},
+        {"onion",        BarRow::Page,    0,                       "anim",  "animations", own(QT_TRANSLATE_NOOP("App::Bars", "Onion skin"))},
         {"sprites",      BarRow::ToolBar, Qt::TopToolBarArea,      "spr",   "sprites",    shared(SpritesText)},
         {"sprite_tools", BarRow::ToolBar, Qt::LeftToolBarArea,     "spr",   "sprites",    own(QT_TRANSLATE_NOOP("App::Bars", "Painting tools"))},
         {"sound",        BarRow::ToolBar, Qt::TopToolBarArea,      "snd",   "sounds",     shared(SoundsText)},
+        {"frame",        BarRow::Panel,   Qt::RightDockWidgetArea, "anim",  "animations", own(QT_TRANSLATE_NOOP("App::Bars", "Frame")), nullptr, 1, "animations"},
         {"nodes",        BarRow::Panel,   Qt::RightDockWidgetArea, nullptr, nullptr,      own(QT_TRANSLATE_NOOP("App::Bars", "Nodes"))},
         {"organizer",    BarRow::Panel,   Qt::RightDockWidgetArea, nullptr, nullptr,      shared(OrganizerText), "show_organizer"},
         {"thumbnails",   BarRow::Panel,   Qt::RightDockWidgetArea, nullptr, nullptr,      shared(ThumbnailsText)},
@@ -80,17 +90,28 @@ PlaceRow placeOf(const QString& name)
 {
     static const PlaceRow table[] = {
         {"editor_", "editors", "view", "all"},
-        {"view_", "stage", "view", "all"},
+        {"view_", "stage", "view.stage", "all"},
         {"code_", "code", "code", "code"},
         {"code_tree", "nodes", "view", "code"},
-        {"org_", "organizer", "anim", "all"},
+        {"org_", "organizer", "anim.order", "all"},
         {"thumb_", "thumbnails", "anim", "anim"},
-        {"anim_", "animation", "anim", "animations"},
-        {"anim_frame_", "frame", "anim", "animations"},
-        {"anim_frameall_", "frame", "anim", "animations"},
-        {"anim_pos_", "frame", "anim", "animations"},
-        {"anim_box_", "boxes", "anim", "animations"},
-        {"anim_onion_", "onion", "anim", "animations"},
+        {"anim_", "animation", "anim.list", "animations"},
+        {"anim_play", "stage", "anim.play", "animations"},
+        {"anim_stop", "stage", "anim.play", "animations"},
+        {"anim_prev_anim", "frame", "anim.play", "animations"},
+        {"anim_next_anim", "frame", "anim.play", "animations"},
+        {"anim_prev_frame", "stage", "anim.play", "animations"},
+        {"anim_next_frame", "stage", "anim.play", "animations"},
+        {"anim_sel", "frame", "anim.play", "animations"},
+        {"anim_frame_", "frame", "frame.all", "animations"},
+        {"anim_frameall_", "frame", "frame.all", "animations"},
+        {"anim_pos_", "frame", "frame.all", "animations"},
+        {"anim_facts_", "frame", "frame.all", "animations"},
+        {"anim_box_", "frame", "boxes.all", "animations"},
+        {"anim_box_add_", "stage", "boxes.all", "animations"},
+        {"anim_box_del", "stage", "boxes.all", "animations"},
+        {"anim_box_delall", "frame", "boxes.all", "animations"},
+        {"anim_onion_", "onion", "anim.play", "animations"},
         {"pal_", "palette", "pal", "sprites"},
         {"spr_", "sprites", "spr", "sprites"},
         {"spr_tool_", "sprite_tools", "spr", "sprites"},
@@ -123,10 +144,81 @@ const char* firstKeyOf(const QString& name)
     return nullptr;
 }
 
-const QVector<const char*>& mainBarTable()
+const QVector<const char*>& orderOf(const QString& bar)
 {
-    static const QVector<const char*> table{
-        "open_folder", "save", "save_all", nullptr, "undo", "redo", nullptr, "run", "stop_engine"};
+    static const QVector<const char*> none;
+    static const struct
+    {
+        const char* bar;
+        QVector<const char*> names;
+    } table[] = {
+        {"main",
+         {"open_folder", "save", "save_all", nullptr, "undo", "redo", nullptr, "run",
+          "stop_engine"}},
+        {"animation",
+         {"anim_add", "anim_duplicate", "anim_delete", nullptr, "anim_code", "anim_editcode",
+          nullptr, "anim_optimize", "anim_import_proj", "anim_save_gif"}},
+        {"stage",
+         {"anim_prev_frame",
+          "anim_play",
+          "anim_play_here",
+          "anim_stop",
+          "anim_next_frame",
+          "anim_play_again",
+          "anim_play_half",
+          "anim_play_quarter",
+          nullptr,
+          "anim_box_add_attack",
+          "anim_box_add_collision",
+          "anim_box_del",
+          "stage_capture",
+          nullptr,
+          "view_main_cross",
+          "view_secondary_cross",
+          "view_extra_cross",
+          "view_rulers",
+          "view_guide_lines",
+          "view_attack_box",
+          "view_collision_box",
+          nullptr,
+          "anim_onion_skin",
+          nullptr,
+          "view_center_origin"}},
+    };
+    for (const auto& row : table) {
+        if (bar == QLatin1String(row.bar)) {
+            return row.names;
+        }
+    }
+    return none;
+}
+
+const QVector<FormRow>& formTable()
+{
+    static const QVector<FormRow> table{
+        {"frame", {"anim_prev_anim", "anim_sel", "anim_next_anim", "anim_sel_lb"}},
+        {"frame", {"anim_frame_sel", "anim_frame_sel_lb"}},
+        {"frame",
+         {"anim_frame_add", "anim_frame_delete", "anim_frame_align", "anim_frameall_offset",
+          "anim_frameall_time", "anim_frameall_flip", "anim_frameall_scale"}},
+        {"frame", {"anim_frame_time", "anim_frame_flip"}},
+        {"frame", {"anim_frame_xaxis", "anim_frame_yaxis"}},
+        {"frame", {"anim_frame_xscale", "anim_frame_yscale"}},
+        {"frame",
+         {"anim_frame_angle", "anim_pos_left", "anim_pos_up", "anim_pos_down", "anim_pos_right"}},
+        {"frame",
+         {"anim_box_copy", "anim_box_paste", "anim_box_mirror", "anim_box_type", "anim_box_prev",
+          "anim_box_to_frames", "anim_box_allinst", "anim_box_lock", "anim_box_delall",
+          "anim_box_delall_anim"}},
+        {"frame", {"anim_box_x", "anim_box_y"}},
+        {"frame", {"anim_box_width", "anim_box_height"}},
+        {"frame", {"anim_facts_lb"}},
+        {"onion", {"anim_onion_skin"}},
+        {"onion", {"anim_onion_before", "anim_onion_after"}},
+        {"onion", {"anim_onion_sel"}},
+        {"onion", {"anim_onion_framesel"}},
+        {"onion", {"anim_onion_lb"}},
+    };
     return table;
 }
 

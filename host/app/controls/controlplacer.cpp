@@ -11,9 +11,10 @@
 #include <zorv/editors/framework/extraeditor.h>
 #include <zorv/editors/framework/ownwidgetcontrol.h>
 #include <zorv/editors/framework/toolbuttoncontrol.h>
-#include <zorv/editors/framework/widgetcontrol.h>
+#include <zorv/editors/framework/trwidgetcontrol.h>
 
 #include <QActionGroup>
+#include <QCheckBox>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QMenu>
@@ -46,11 +47,24 @@ QString barOfPanel(const Zorv::ExtraEditor* panel)
     return barOf(panel->name() + QLatin1Char('_'));
 }
 
-QList<QKeySequence> firstKeys(const ActionRequest& request)
+QList<QKeySequence> firstKeys(const QString& name, const char* shortcut = nullptr)
 {
-    const char* key = request.shortcut ? request.shortcut : firstKeyOf(request.name);
+    const char* key = shortcut ? shortcut : firstKeyOf(name);
     return key ? QList<QKeySequence>{QKeySequence(QLatin1String(key), QKeySequence::PortableText)}
                : QList<QKeySequence>();
+}
+
+template <typename WidgetKind>
+QStringList areasOf(const QString& name, const WidgetKind& control)
+{
+    return control.areas().isEmpty() ? QStringList(QLatin1String(placeOf(name).area))
+                                     : control.areas();
+}
+
+template <typename WidgetKind>
+bool waitsForOwner(const WidgetKind& control)
+{
+    return control.receiver() && !control.enableSignal().isEmpty();
 }
 
 /// The tool is of no use from then on. It may be in the middle of its work: its receiver can
@@ -72,26 +86,28 @@ ControlPlacer::ControlPlacer(QMainWindow* window, WindowActions* actions)
 {
 }
 
-void ControlPlacer::fillMainBar()
+void ControlPlacer::fillBars()
 {
-    for (const char* name : mainBarTable()) {
-        if (!name) {
-            m_bars->addSeparator(QStringLiteral("main"));
-        } else if (QAction* action = m_actions->registry()->action(QLatin1String(name))) {
-            m_bars->addButton(QStringLiteral("main"), action);
-        }
-    }
+    m_bars->fill(m_actions->registry());
+}
+
+QWidget* ControlPlacer::page(const char* name)
+{
+    return m_bars->page(QLatin1String(name));
 }
 
 QAction* ControlPlacer::addAction(const ActionRequest& request)
 {
     auto* action = new QAction(readableName(request.name), m_window);
-    ActionInfo info{request.name, {}, ActiveAreas::fromArray(request.areas), firstKeys(request)};
+    ActionInfo info{request.name,
+                    {},
+                    ActiveAreas::fromArray(request.areas),
+                    firstKeys(request.name, request.shortcut)};
     if (request.translator) {
         info.text = {request.translator, request.textId};
     }
     info.waitsForOwner = request.receiver && request.enableSignal;
-    m_actions->menu(placeOf(request.name).menu)->addAction(action);
+    m_actions->place(action, placeOf(request.name).menu);
     AreaGate* gate = m_actions->registry()->add(action, info);
     keepGate(request.name, gate);
     if (info.waitsForOwner) {
@@ -151,7 +167,11 @@ QObject* ControlPlacer::addControl(const QString& name, const Zorv::Control& con
         return own->widget() ? addWidget(name, *own) : nullptr;
     }
     const auto* widget = dynamic_cast<const Zorv::WidgetControl*>(&control);
-    return widget ? addWidget(name, *widget) : nullptr;
+    QWidget* field = widget ? addWidget(name, *widget) : nullptr;
+    if (auto* check = qobject_cast<QCheckBox*>(field)) {
+        addSwitch(name, *widget, check);
+    }
+    return field;
 }
 
 QToolButton* ControlPlacer::addButton(const QString& name, const Zorv::ToolButtonControl& control)
@@ -181,20 +201,39 @@ QWidget* ControlPlacer::addWidget(const QString& name, const WidgetKind& control
     auto* box = new ControlBox(name, control);
     m_boxes.insert(name, box);
     QObject* receiver = control.receiver();
-    const bool waitsForOwner = receiver && !control.enableSignal().isEmpty();
-    const QStringList areas = control.areas().isEmpty()
-                                  ? QStringList(QLatin1String(placeOf(name).area))
-                                  : control.areas();
-    auto* gate = new AreaGate(m_actions->registry()->activeAreas(), areas, box, waitsForOwner);
+    auto* gate = new AreaGate(m_actions->registry()->activeAreas(), areasOf(name, control), box,
+                              waitsForOwner(control));
     keepGate(name, gate);
-    if (waitsForOwner) {
+    if (waitsForOwner(control)) {
         connect(receiver, control.enableSignal().constData(), gate, SLOT(setAllowed(bool)));
     }
     if (receiver) {
         goWith(receiver, box);
     }
-    m_bars->addWidget(barOf(name), box, box->takesRoom());
+    m_bars->addWidget(barOf(name), name, box, box->takesRoom());
     return box->field();
+}
+
+/// A check box is an action as well: it has a key, stands in a menu, and can be looked for.
+void ControlPlacer::addSwitch(const QString& name, const Zorv::WidgetControl& control,
+                              QCheckBox* check)
+{
+    auto* action = new QAction(readableName(name), check);
+    action->setCheckable(true);
+    ActionInfo info{name, {}, areasOf(name, control), firstKeys(name)};
+    if (const auto* named = dynamic_cast<const Zorv::trWidgetControl*>(&control)) {
+        info.text = {named->translator(), named->textId()};
+    }
+    info.waitsForOwner = waitsForOwner(control);
+    m_actions->place(action, placeOf(name).menu);
+    AreaGate* gate = m_actions->registry()->add(action, info);
+    keepGate(name, gate);
+    if (info.waitsForOwner) {
+        connect(control.receiver(), control.enableSignal().constData(), gate,
+                SLOT(setAllowed(bool)));
+    }
+    connect(check, &QCheckBox::toggled, action, &QAction::setChecked);
+    connect(action, &QAction::triggered, check, &QCheckBox::click);
 }
 
 QDockWidget* ControlPlacer::addPanel(Zorv::ExtraEditor* panel)
@@ -211,6 +250,11 @@ QDockWidget* ControlPlacer::addPanel(Zorv::ExtraEditor* panel)
 void ControlPlacer::showPanel(const Zorv::ExtraEditor* panel)
 {
     m_bars->bringForward(barOfPanel(panel));
+}
+
+void ControlPlacer::bringForward(const char* panel)
+{
+    m_bars->bringForward(QLatin1String(panel));
 }
 
 void ControlPlacer::keepGate(const QString& name, AreaGate* gate)

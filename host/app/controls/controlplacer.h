@@ -8,6 +8,7 @@
 
 class QAction;
 class QActionGroup;
+class QCheckBox;
 class QDockWidget;
 class QMainWindow;
 class QToolButton;
@@ -68,11 +69,16 @@ public:
     /// made for it; null for a panel that has neither.
     QDockWidget* addPanel(Zorv::ExtraEditor* panel);
 
-    /// Shows the dock of a panel, in front of those in its place.
+    /// Shows the dock of a panel, in front of those in its place; the second one when it is of use.
     void showPanel(const Zorv::ExtraEditor* panel);
+    void bringForward(const char* panel);
 
-    /// Puts the actions of the table, which must be there, into the main tool bar.
-    void fillMainBar();
+    /// Puts the actions that the tables of the bars name into these, whoever has made them.
+    void fillBars();
+
+    /// What a bar of the kind `BarRow::Page` consists of: a tool bar, or rows of fields. It is for
+    /// a part of the window to put up and own.
+    QWidget* page(const char* name);
 
     void setMenuEnabled(const char* menu, const char* group, bool isEnabled);
 
@@ -86,6 +92,7 @@ private:
     QToolButton* addButton(const QString& name, const Zorv::ToolButtonControl& control);
     template <typename WidgetKind>
     QWidget* addWidget(const QString& name, const WidgetKind& control);
+    void addSwitch(const QString& name, const Zorv::WidgetControl& control, QCheckBox* check);
     void keepGate(const QString& name, AreaGate* gate);
 
     QMainWindow* m_window;
@@ -93,7 +100,7 @@ private:
     ControlBars* m_bars;
     QActionGroup* m_editors;
     QHash<QString, QPointer<ControlBox>> m_boxes;
-    QHash<QString, QPointer<AreaGate>> m_gates;
+    QMultiHash<QString, QPointer<AreaGate>> m_gates;
     QMap<QPair<QByteArray, QByteArray>, bool> m_groups;  ///< of a menu and a group
 };
 

@@ -15,6 +15,7 @@
 #include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/animation/timeline/timelinewidget.h>
 #include <zorv/editors/framework/rowlist.h>
+#include <zorv/graphics/graphicwork/graphicsworkspace.h>
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -45,20 +46,22 @@ QPoint placeForKeys(const QWidget* widget)
 
 ContextMenus::ContextMenus(MainWindow* window) : QObject(window), m_window(window)
 {
-    StageView* stage = window->stage()->view();
-    add(stage->timeLine(), {"stage_play", "stage_stop", nullptr, "stage_prev_frame",
-                            "stage_next_frame", nullptr, "stage_onion_skin"});
-    add(stage, {"stage_play", "stage_stop", "stage_prev_frame", "stage_next_frame", nullptr,
-                "stage_draw_attack", "stage_draw_body", "stage_remove_boxes", "stage_capture",
-                nullptr, "stage_onion_skin", "stage_rulers", "stage_guide_lines",
-                "stage_attack_box", "stage_collision_box", nullptr, "stage_center_origin"});
+    const StageCommands* stage = window->stage();
+    add(stage->workspace()->timeLine(),
+        {"anim_play", "anim_stop", nullptr, "anim_prev_frame", "anim_next_frame", nullptr,
+         "anim_frame_add", "anim_frame_delete", nullptr, "anim_onion_skin"});
+    add(stage->view(),
+        {"anim_play", "anim_stop", "anim_prev_frame", "anim_next_frame", nullptr,
+         "anim_box_add_attack", "anim_box_add_collision", "anim_box_del", "anim_box_type",
+         "stage_capture", nullptr, "anim_onion_skin", "view_rulers", "view_guide_lines",
+         "view_attack_box", "view_collision_box", nullptr, "view_center_origin"});
     add(window->animations()->list(),
-        {"animation_add", "animation_duplicate", "animation_remove", nullptr, "org_up", "org_down",
-         "org_top", "org_bottom", nullptr, "org_auto"});
+        {"anim_add", "anim_duplicate", "anim_delete", nullptr, "org_up", "org_down", "org_top",
+         "org_bottom", nullptr, "org_auto"});
     add(window->gameTree(),
         {"run", nullptr, "save_all", "backup", nullptr, "close_project", "close_folder"});
-    add(window->textEditor()->tree(), {"animation_add", nullptr, "code_definition", "code_fold",
-                                       "code_fold_all", "code_unfold_all"});
+    add(window->textEditor()->tree(),
+        {"anim_add", nullptr, "code_definition", "code_fold", "code_fold_all", "code_unfold_all"});
     // With the actions that their commands have given them.
     add(window->spritePanel()->list(), {});
     add(window->soundPanel()->list(), {});
@@ -97,8 +100,9 @@ bool ContextMenus::eventFilter(QObject* watched, QEvent* event)
 /// The right button ends the drawing of boxes, and no menu comes then.
 bool ContextMenus::open(const Place& place, const QPoint* pointer)
 {
-    const StageView* stage = m_window->stage()->view();
-    if (place.widget == stage && stage->renderer()->clickMode() != StageRenderer::PositioningMode) {
+    const StageCommands* stage = m_window->stage();
+    if (place.widget == stage->view() &&
+        stage->renderer()->clickMode() != StageRenderer::PositioningMode) {
         return false;
     }
     auto* tabs = qobject_cast<QTabBar*>(place.widget);
@@ -114,13 +118,17 @@ bool ContextMenus::open(const Place& place, const QPoint* pointer)
     }
     auto* menu = new QMenu(place.widget);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (place.actions.isEmpty()) {
-        menu->addActions(place.widget->actions());
-    }
     for (const char* name : place.actions) {
         QAction* action = name ? m_window->actionByName(name) : menu->addSeparator();
         if (action && name) {
             menu->addAction(action);
+        }
+    }
+    // What the widget has itself stands behind.
+    menu->addSeparator();
+    for (QAction* own : place.widget->actions()) {
+        if (!menu->actions().contains(own)) {
+            menu->addAction(own);
         }
     }
     menu->popup(place.widget->mapToGlobal(pointer ? *pointer : placeForKeys(place.widget)));

@@ -30,9 +30,8 @@
 #include "app/run/runcommands.h"
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
+#include "app/stage/familyanimationeditor.h"
 #include "app/stage/stagecommands.h"
-#include "app/stage/stagecontroller.h"
-#include "app/stage/stageview.h"
 #include "app/window/commandrouter.h"
 #include "app/window/editorregistry.h"
 #include "app/window/partlist.h"
@@ -42,7 +41,9 @@
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
+#include <zorv/core/fileid.h>
 #include <zorv/editors/code/codeeditor.h>
+#include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
 
 #include <QAbstractButton>
@@ -55,6 +56,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QToolBar>
 
 namespace App {
 
@@ -142,18 +144,19 @@ void MainWindow::publishTools()
     m_code = new CodeView(m_services, m_middle);
     m_animations = new AnimationCommands(m_services);
     m_thumbnails = new ThumbnailCommands(m_services);
-    m_stage = new StageCommands(m_services, m_middle, m_code->editor());
-    resizeDocks({findChild<QDockWidget*>(QStringLiteral("projects")),
-                 findChild<QDockWidget*>(QStringLiteral("nodes"))},
-                {240, 280}, Qt::Horizontal);
-    tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("sounds")),
-                     findChild<QDockWidget*>(QStringLiteral("thumbnails")));
-    findChild<QDockWidget*>(QStringLiteral("sprites"))->raise();
+    m_stage = new StageCommands(m_services, m_middle, m_code->workspace(),
+                                static_cast<QToolBar*>(m_controls->page("stage")),
+                                m_controls->page("onion"));
+    m_stage->editor()->shareTree(m_code->textEditor());
+    m_code->addEditor(m_stage->editor());
+    editors()->add(m_stage->editor(), Zorv::FileID::Animations,
+                   {m_middle, m_code->commands(), m_code->editor(), m_code->workspace()});
+    arrangeTools();
     addParts();
     connectParts();
     m_services.parts->begin();
     m_actions->place((new RecentMenu(this, this))->menuAction(), "file.open");
-    m_controls->fillMainBar();
+    m_controls->fillBars();
     // Both move what is selected up and down, each while it has the focus.
     keepKeysTo(m_code->editor(), {actionByName("code_line_up"), actionByName("code_line_down")});
     keepKeysTo(m_animations->list(), {actionByName("org_up"), actionByName("org_down")});
@@ -161,6 +164,21 @@ void MainWindow::publishTools()
     retranslate();
     WindowState::restoreShape(this);
     m_controls->updateVisibility();
+}
+
+/// What belongs to a frame stands in front of the nodes of its text.
+void MainWindow::arrangeTools()
+{
+    auto* nodes = findChild<QDockWidget*>(QStringLiteral("nodes"));
+    auto* organizer = findChild<QDockWidget*>(QStringLiteral("organizer"));
+    tabifyDockWidget(nodes, findChild<QDockWidget*>(QStringLiteral("frame")));
+    m_controls->bringForward("frame");
+    tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("sounds")),
+                     findChild<QDockWidget*>(QStringLiteral("thumbnails")));
+    findChild<QDockWidget*>(QStringLiteral("sprites"))->raise();
+    resizeDocks({findChild<QDockWidget*>(QStringLiteral("projects")), nodes}, {240, 280},
+                Qt::Horizontal);
+    resizeDocks({nodes, organizer}, {420, 280}, Qt::Vertical);
 }
 
 /// In the order in which the keyboard goes round, and in which sections of menus are filled.
@@ -178,8 +196,8 @@ void MainWindow::addParts()
 MainWindow::~MainWindow()
 {
     m_services.parts->end();
-    delete m_code;
     delete m_stage;
+    delete m_code;
     delete m_services.session;
 }
 
@@ -229,7 +247,12 @@ void MainWindow::connectParts()
     const Zorv::OrganizerEditor* organizer = m_animations->organizer();
     connect(
         organizer, &Zorv::OrganizerEditor::currentRowChanged, m_stage,
-        [this, organizer] { m_stage->controller()->showAnimation(organizer->currentRow()); },
+        [this, organizer] {
+            // The text leads both, unless the person is in the list.
+            if (m_animations->list() && m_animations->list()->hasFocus()) {
+                m_stage->showAnimation(organizer->currentRow());
+            }
+        },
         Qt::QueuedConnection);
 }
 

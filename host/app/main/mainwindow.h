@@ -120,6 +120,7 @@ protected:
 private:
     void makeDocks();
     QDockWidget* addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area);
+    void arrangeTools();
     void addParts();
     void connectParts();
     void retranslate();

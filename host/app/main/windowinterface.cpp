@@ -147,12 +147,15 @@ Zorv::Editor* WindowInterface::editorByName(const char* name) const
 
 Zorv::Editor* WindowInterface::fileEditor(Zorv::ProjectFile* file, Zorv::FileID id) const
 {
-    Zorv::Editor* editor = m_window && file ? m_window->editors()->forFile(id) : nullptr;
-    auto* document = dynamic_cast<Family::FamilyDocument*>(file);
-    if (document && editor == m_window->textEditor()) {
-        m_window->showDocument(document);
+    if (!m_window || !file) {
+        return nullptr;
     }
-    return editor;
+    auto* document = dynamic_cast<Family::FamilyDocument*>(file);
+    if (!document) {
+        return m_window->editors()->forFile(id);
+    }
+    m_window->showDocument(document);
+    return m_window->editors()->current();
 }
 
 void WindowInterface::activateEditor(Zorv::Editor* editor)

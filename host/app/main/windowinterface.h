@@ -47,7 +47,7 @@ public:
     void selectPaletteFiles(QStringList& files, QStringList& names, bool* flag) override;
 
     /// Those of the status bar: 0 is the place, 1 the problems of the text in front, 2 its
-    /// encoding. Any other number shows a passing text.
+    /// encoding, 3 the place on the stage. Any other number shows a passing text.
     void showStatus(int field, const QString& text) override;
 
     /// Those of the menu bar: "anim", "view", "spr", "pal", "snd" and the window's own. The

@@ -9,7 +9,6 @@
 #include "app/session/gamesession.h"
 #include "app/stage/stagecommands.h"
 #include "app/stage/stagerenderer.h"
-#include "app/stage/stageview.h"
 #include "app/window/panelplace.h"
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
@@ -189,11 +188,11 @@ void showStage(MainWindow* window, const FamilyDocument* document)
     window->actionByName("view_stage")->trigger();
     window->findChild<QDockWidget*>(QStringLiteral("messages"))->hide();
     showAttack(window, document, 3);
-    for (const char* name : {"stage_rulers", "stage_onion_skin"}) {
+    for (const char* name : {"view_rulers", "anim_onion_skin"}) {
         window->actionByName(name)->trigger();
     }
     settleWindow();
-    StageRenderer* stage = window->stage()->view()->renderer();
+    StageRenderer* stage = window->stage()->renderer();
     const Zorv::ContactBoxesCode* boxes = stage->boxes(Zorv::ContactBoxCode::Attack);
     if (boxes && boxes->count() > 0) {
         const QPointF middle = QRectF(boxes->at(0)->rect()).center() * qreal(stage->zoom());

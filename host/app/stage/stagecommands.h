@@ -4,72 +4,57 @@
 
 #include <QObject>
 
-#include <memory>
-
 class QAction;
-class QActionGroup;
 class QSplitter;
-
-namespace Family {
-class SpriteCollection;
-}  // namespace Family
+class QToolBar;
+class QWidget;
 
 namespace Zorv {
-class CodeEditor;
-}
+class CodeWorkspace;
+class GraphicsWorkspace;
+}  // namespace Zorv
 
 namespace App {
 
-class OnionControls;
-class StageController;
+class FamilyAnimationEditor;
+class StageRenderer;
 class StageRoom;
-class StageSettings;
+class StageSight;
 class StageView;
 struct WindowServices;
 
-/// The stage of the window and what can be done with it: the actions, what is shown and hidden,
-/// how a press of the mouse is meant, and what the bars tell.
+/// The editor of animations in the window: the stage above the text, and what the window alone
+/// can do with it. Its tools are the library's.
 class StageCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Makes the stage, as a child of the window, above the text that is in `page`.
-    StageCommands(const WindowServices& services, QSplitter* page, Zorv::CodeEditor* text);
+    /// Makes the stage, as a child of the window, above the text that is in `page`. `bar` and
+    /// `onion` are the pages of those names (`ControlPlacer::page()`).
+    StageCommands(const WindowServices& services, QSplitter* page, Zorv::CodeWorkspace* code,
+                  QToolBar* bar, QWidget* onion);
     ~StageCommands() override;
 
+    FamilyAnimationEditor* editor() const { return m_editor; }
+    Zorv::GraphicsWorkspace* workspace() const { return m_workspace; }
+    StageRenderer* renderer() const { return m_renderer; }
     StageView* view() const { return m_view; }
-    StageController* controller() const { return m_controller; }
+
+    /// An animation by its place in the list, while the editor is in front and nothing plays.
+    void showAnimation(int index);
 
     QVector<ActionRow> actions() override;
     void actionsMade() override;
-
-    /// Texts without animations have no stage.
     void showDocument(Family::FamilyDocument* document) override;
-    void showProject(Family::FamilyProject* project) override;
     void followRest(int line) override;
     QVector<PanelPlace> places() override;
 
-    /// Shows the view if it is wanted and there is something that it could show.
+    /// Shows the view while its editor is in front.
     void updateState() override;
-    void reconfig() override;
 
     /// Keeps the place of the stage for the next start.
     void keepPlace() const;
-
-    /// @name The actions
-    /// @{
-    void showStage();
-    void play();
-    void stop();
-    void showPreviousFrame();
-    void showNextFrame();
-    void takeMode();
-    void removeBoxes();
-    void takeOnionSkin();
-    void takeVisibility();
-    void centerOrigin();
-    /// @}
 
 signals:
     /// The person has picked a colour of the palette of a sprite.
@@ -79,42 +64,39 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /// What is there for actions to work on.
-    enum Condition { NoCondition = 0, Frame = 1, Shown = 2, Box = 4 };
-    Q_DECLARE_FLAGS(Conditions, Condition)
-
-    Conditions conditions() const;
-    bool hasFrame() const;
     bool isShown() const;
     bool hasShownFrame() const;
     bool hasBox() const;
     void connectStage();
-    void fillBar();
+    void addOnionMenu();
     void addZoomButtons();
-    void setUpModes();
-    void setUpSwitches();
     void giveTexts();
+    void showStage();
+    void choose(bool isStage);
+    void takeCapture();
     void leaveMode();
     void leaveModeOrStage(bool isFree);
     void colorCaptured();
     void followState();
-    void followOnion();
+    void leadText();
     void takeRoom();
     QString shownFile() const;
     QString hint() const;
-    QString info() const;
+    QString fault() const;
     QAction* action(const char* name) const;
+    void trigger(const char* name) const;
 
     const WindowServices& m_services;
+    Zorv::GraphicsWorkspace* m_workspace;
+    StageRenderer* m_renderer;
+    FamilyAnimationEditor* m_editor;
     StageView* m_view;
-    StageController* m_controller;
-    std::unique_ptr<StageSettings> m_settings;
     StageRoom* m_room;
-    OnionControls* m_onion;
-    QActionGroup* m_modes;
+    StageSight* m_sight;
+    QWidget* m_onion;
     Family::FamilyDocument* m_document = nullptr;
-    Conditions m_conditions;
-    bool m_isPlaced = false;
+    bool m_hasShownFrame = false;
+    bool m_hasBox = false;
 };
 
 }  // namespace App

@@ -68,6 +68,7 @@ void StageRoom::apply()
     const int height = m_share > 0 ? qRound(m_share * whole) : usualHeight();
     m_splitter->setSizes({height, whole - m_splitter->handleWidth() - height});
     m_editor->ensureCursorVisible();
+    emit applied();
 }
 
 int StageRoom::usualHeight() const

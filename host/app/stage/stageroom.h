@@ -16,6 +16,8 @@ class StageView;
 /// The share of both is kept in the settings.
 class StageRoom : public QObject
 {
+    Q_OBJECT
+
 public:
     /// The stage is, or will be, in the splitter. All outlive this.
     StageRoom(QSplitter* splitter, StageView* view, Zorv::CodeEditor* editor, QObject* parent);
@@ -25,6 +27,10 @@ public:
 
     /// Keeps the share in the settings.
     void keep();
+
+signals:
+    /// The stage has got another height that the person has not chosen by hand.
+    void applied();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

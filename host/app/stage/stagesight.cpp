@@ -1,9 +1,14 @@
 #include "app/stage/stagesight.h"
 
+#include "app/stage/familyanimationeditor.h"
 #include "app/stage/stagerenderer.h"
 #include "family/stage/framecomposer.h"
 
 #include <zorv/graphics/renderwidget.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
 
 namespace App {
 
@@ -23,6 +28,13 @@ int wayInto(int first, int last, int from, int to)
 
 }  // namespace
 
+StageSight::StageSight(FamilyAnimationEditor* editor, StageRenderer* stage, QObject* parent)
+    : QObject(parent), m_editor(editor), m_stage(stage)
+{
+    connect(editor, &Zorv::AnimationEditor::shownChanged, this, &StageSight::follow);
+    connect(stage, &Zorv::GraphicsRenderer::viewChanged, this, [this] { m_wasWhole = isWhole(); });
+}
+
 QRect StageSight::areaOf(const Family::FrameNode& frame, const Family::SpriteCollection* sprites,
                          float zoom)
 {
@@ -33,19 +45,77 @@ QRect StageSight::areaOf(const Family::FrameNode& frame, const Family::SpriteCol
     return Family::FrameComposer(sprites, style).bounds(frame, &error);
 }
 
-bool StageSight::isWhole(const Family::FrameNode& frame,
-                         const Family::SpriteCollection* sprites) const
+/// Also without a frame, or one of which nothing is to be seen.
+bool StageSight::isWhole() const
 {
-    const QRect area = areaOf(frame, sprites, m_stage->zoom());
+    const Family::FrameNode* frame = m_editor->frame();
+    const QRect area =
+        frame ? areaOf(*frame, m_editor->spriteCollection(), m_stage->zoom()) : QRect();
     return area.isEmpty() || sight().contains(area.translated(m_stage->origin()));
 }
 
-void StageSight::bring(const Family::FrameNode& frame, const Family::SpriteCollection* sprites)
+void StageSight::follow()
 {
-    if (sight().isEmpty() || isWhole(frame, sprites)) {
+    const int animation = m_editor->animationIndex();
+    const int frame = m_editor->frameIndex();
+    const bool isOther = animation != m_animation;
+    const bool isNew = isOther || frame != m_frame;
+    m_animation = animation;
+    m_frame = frame;
+    if (m_editor->isPlaying()) {
         return;
     }
+    if (isNew && (isOther || m_wasWhole)) {
+        bringSoon();
+    } else {
+        m_wasWhole = isWhole();
+    }
+}
+
+/// The stage may have to get its room first.
+void StageSight::bringSoon()
+{
+    if (!m_isPending) {
+        m_isPending = true;
+        QTimer::singleShot(0, this, &StageSight::bring);
+    }
+}
+
+void StageSight::keepPlace()
+{
+    m_isKept = true;
+    qApp->installEventFilter(this);
+}
+
+bool StageSight::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) {
+        m_isKept = false;
+        qApp->removeEventFilter(this);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void StageSight::bring()
+{
+    m_isPending = false;
+    const Family::FrameNode* frame = m_editor->frame();
+    const Zorv::RenderWidget* widget = m_stage->widget();
+    if (!frame || !widget || !widget->isVisible() || m_editor->isPlaying()) {
+        return;
+    }
+    if (!m_isKept && !sight().isEmpty() && !isWhole()) {
+        moveInto(*frame);
+    }
+    m_wasWhole = isWhole();
+}
+
+/// Moves the view no farther than it takes. A frame that is too large is made smaller, and what is
+/// too large at the smallest zoom stands in the middle.
+void StageSight::moveInto(const Family::FrameNode& frame)
+{
     const QRect sight = this->sight().adjusted(Margin, Margin, -Margin, -Margin);
+    const Family::SpriteCollection* sprites = m_editor->spriteCollection();
     QRect area = areaOf(frame, sprites, m_stage->zoom());
     while (m_stage->zoomLevel() > 0 &&
            (area.width() > sight.width() || area.height() > sight.height())) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QRect>
 
 namespace Family {
@@ -9,31 +10,48 @@ class SpriteCollection;
 
 namespace App {
 
+class FamilyAnimationEditor;
 class StageRenderer;
 
-/// Brings a frame into sight: its sprite and all of its boxes.
-class StageSight
+/// Brings the frames that the person goes to into sight: sprite and all boxes. Who has chosen a
+/// detail keeps it from frame to frame of the animation, and nothing moves while it plays.
+class StageSight : public QObject
 {
+    Q_OBJECT
+
 public:
-    /// The stage outlives this.
-    explicit StageSight(StageRenderer* stage) : m_stage(stage) {}
+    /// Both outlive it.
+    StageSight(FamilyAnimationEditor* editor, StageRenderer* stage, QObject* parent);
 
     /// The area of a frame at a zoom, from the origin, in pixels of the stage; empty for one that
     /// shows nothing. `sprites` may be null.
     static QRect areaOf(const Family::FrameNode& frame, const Family::SpriteCollection* sprites,
                         float zoom);
 
-    /// True if all of the frame is seen, or there is nothing to be seen of it.
-    bool isWhole(const Family::FrameNode& frame, const Family::SpriteCollection* sprites) const;
+    /// Brings the frame into sight when the stage has its room.
+    void bringSoon();
 
-    /// Moves the view no farther than it takes. A frame that is too large is made smaller, and what
-    /// is too large at the smallest zoom stands in the middle.
-    void bring(const Family::FrameNode& frame, const Family::SpriteCollection* sprites);
+    /// Leaves the view as it is until the person does something: what was open at the last end
+    /// comes back in several turns of the event loop.
+    void keepPlace();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool isWhole() const;
+    void follow();
+    void bring();
+    void moveInto(const Family::FrameNode& frame);
     QRect sight() const;
 
+    FamilyAnimationEditor* m_editor;
     StageRenderer* m_stage;
+    int m_animation = -1;  // as they were shown last
+    int m_frame = -1;
+    bool m_wasWhole = true;
+    bool m_isPending = false;
+    bool m_isKept = false;
 };
 
 }  // namespace App

@@ -4,39 +4,26 @@
 #include <QWidget>
 
 class QLabel;
-class QStackedWidget;
 class QToolBar;
 
 namespace Zorv {
-class RenderWidget;
-class TimeLineWidget;
-}  // namespace Zorv
+class GraphicsWorkspace;
+}
 
 namespace App {
 
 class StageRenderer;
 
-/// The stage of the window with its tool bar and time line.
-///
-/// The stage is made when the view is shown first: a start without a frame to show pays for no GL.
-/// Without usable GL a message in plain words stands in its place, and no GL widget is made; the
-/// renderer is there all the same, on no widget.
+/// The library's stage and time line with a tool bar above them, and a line of text in place of
+/// all three while there is nothing to show.
 class StageView : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit StageView(QWidget* parent = nullptr);
-    ~StageView() override;
+    /// Takes the widget of the workspace, and the bar. The others outlive it.
+    StageView(Zorv::GraphicsWorkspace* workspace, StageRenderer* renderer, QToolBar* bar);
 
-    /// False without usable GL, and before the view was shown.
-    bool isUsable() const { return m_widget; }
-
-    StageRenderer* renderer() const { return m_renderer; }
-
-    /// Null while `isUsable()` is false.
-    Zorv::RenderWidget* stage() const { return m_widget; }
-    Zorv::TimeLineWidget* timeLine() const { return m_timeLine; }
     QToolBar* bar() const { return m_bar; }
 
     /// What takes the keyboard: the stage, or the time line without one.
@@ -45,18 +32,12 @@ public:
     /// Shows in place of the stage what the person can do; an empty text shows the stage.
     void setHint(const QString& text);
 
-    /// Puts the origin where it was on a stage of some size, and keeps it there in every other.
-    void placeOrigin(QPoint origin, QSize size);
-
-    /// The size that the stage has, or had last; empty before it has one.
-    QSize stageSize() const { return m_size; }
-
     /// With nothing to show there is one line with the hint, and nothing else.
     void setEmpty(bool isEmpty);
     bool isEmpty() const { return m_isEmpty; }
 
-    /// What stands at the end of the tool bar.
-    void setInfo(const QString& text);
+    /// What is wrong with what is shown; stands in the tool bar.
+    void setFault(const QString& text);
 
     QSize sizeHint() const override;
 
@@ -64,8 +45,8 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The stage has its first size: what was kept of its place can be put back.
-    void placed(QSize size);
+    /// The stage has its first size.
+    void placed();
 
     /// The pointer has left the stage.
     void pointerLeft();
@@ -73,27 +54,22 @@ signals:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
     /// Keys of the stage are its own: Escape does not lead from a drawing straight into the text.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QWidget* makeStage();
     void retranslate();
+    void followStage();
     void keepOrigin(QSize size);
+    void placeOrigin(QPoint origin, QSize size);
     void showWhatFits();
-    void ensureStage();
 
+    Zorv::GraphicsWorkspace* m_workspace;
     StageRenderer* m_renderer;
-    Zorv::RenderWidget* m_widget = nullptr;
-    Zorv::TimeLineWidget* m_timeLine;
     QToolBar* m_bar;
-    QStackedWidget* m_pages;
-    QLabel* m_hint;
-    QLabel* m_line;  // the same, while nothing else is there
-    QLabel* m_info;
-    QLabel* m_message = nullptr;  // in place of the stage
+    QLabel* m_line;
+    QLabel* m_fault;
     bool m_isEmpty = false;
     QSize m_size;           // of the stage; empty before it has one
     QPoint m_origin;        // as it was put here last

@@ -80,14 +80,17 @@ EditorRegistry::EditorRegistry(QStackedWidget* pages, ControlPlacer* controls, Q
 
 EditorRegistry::~EditorRegistry() = default;
 
-void EditorRegistry::add(Editor* editor, FileID files, QWidget* page, const CommandRows& commands)
+void EditorRegistry::add(Editor* editor, FileID files, const EditorPlace& place)
 {
     Workspace* workspace = editor->workspace();
-    page = page || !workspace ? page : workspace->widget();
-    if (page && m_pages->indexOf(page) < 0) {
-        m_pages->addWidget(page);
+    Entry entry{editor, files, workspace, place};
+    QWidget* widget = workspace ? workspace->widget() : nullptr;
+    entry.place.page = place.page ? place.page : widget;
+    entry.place.field = place.field ? place.field : widget;
+    if (entry.place.page && m_pages->indexOf(entry.place.page) < 0) {
+        m_pages->addWidget(entry.place.page);
     }
-    m_entries.append({editor, files, workspace, page, commands});
+    m_entries.append(entry);
     connect(editor, &Editor::modified, this, &EditorRegistry::modified);
     editor->setProject(m_project);
 }
@@ -175,32 +178,48 @@ void EditorRegistry::showWorkspace(Workspace* workspace)
 {
     const auto found =
         std::find_if(m_entries.begin(), m_entries.end(), [workspace](const Entry& entry) {
-            return entry.workspace == workspace && entry.page;
+            return entry.workspace == workspace && entry.place.page;
         });
     if (!workspace || found == m_entries.end()) {
         return;
     }
-    m_pages->setCurrentWidget(found->page);
-    if (m_workspace != workspace) {
-        const QPointer<Workspace> before = std::exchange(m_workspace, workspace);
-        if (before) {
-            before->deactivate();
+    m_field = found->place.field;
+    m_pages->setCurrentWidget(found->place.page);
+    showWorkspaces({workspace, found->place.second});
+}
+
+/// One that stays notices nothing.
+void EditorRegistry::showWorkspaces(const QVector<Workspace*>& workspaces)
+{
+    const QVector<QPointer<Workspace>> before = m_workspaces;
+    m_workspaces.clear();
+    for (Workspace* each : workspaces) {
+        if (each) {
+            m_workspaces.append(each);
         }
-        workspace->activate();
+    }
+    for (const QPointer<Workspace>& each : before) {
+        if (each && !workspaces.contains(each)) {
+            each->deactivate();
+        }
+    }
+    for (Workspace* each : workspaces) {
+        if (each && !before.contains(each)) {
+            each->activate();
+        }
     }
 }
 
 void EditorRegistry::focusWorkspace()
 {
-    if (m_workspace) {
-        m_workspace->widget()->setFocus();
+    if (m_field) {
+        m_field->setFocus();
     }
 }
 
 QWidget* EditorRegistry::focusTarget() const
 {
-    QWidget* widget = m_workspace ? m_workspace->widget() : nullptr;
-    return widget && widget->focusProxy() ? widget->focusProxy() : widget;
+    return m_field && m_field->focusProxy() ? m_field->focusProxy() : m_field.data();
 }
 
 /// What is looked for is asked once, and then taken again.
@@ -225,13 +244,13 @@ CommandRows EditorRegistry::commands()
     if (!editor || entry == m_entries.end()) {
         return {};
     }
-    CommandRows rows = entry->commands;
+    CommandRows rows = entry->place.commands;
     rows += editorCommands(editor);
     rows += CommandRows{
         {Command::Find, [this, editor] { find(editor, false, 0); }},
         {Command::FindNext, [this, editor] { find(editor, true, 0); }},
         {Command::FindPrevious, [this, editor] { find(editor, true, Zorv::FindBackward); }}};
-    if (Workspace* workspace = m_workspace) {
+    if (Workspace* workspace = this->workspace()) {
         rows += CommandRows{{Command::ZoomIn, [workspace] { workspace->zoomIn(); }},
                             {Command::ZoomOut, [workspace] { workspace->zoomOut(); }},
                             {Command::ZoomActual, [workspace] { workspace->zoomActual(); }}};
@@ -255,9 +274,8 @@ void EditorRegistry::leave()
         return;
     }
     m_pages->setCurrentIndex(0);
-    if (const QPointer<Workspace> left = std::exchange(m_workspace, nullptr)) {
-        left->deactivate();
-    }
+    m_field = nullptr;
+    showWorkspaces({});
     emit currentChanged();
 }
 

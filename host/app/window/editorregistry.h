@@ -24,6 +24,15 @@ namespace App {
 
 class ControlPlacer;
 
+/// What stands in the middle of the window while an editor is in front.
+struct EditorPlace
+{
+    QWidget* page = nullptr;    ///< null for the widget of its workspace
+    CommandRows commands = {};  ///< what the host does in place of the editor's own operations
+    QWidget* field = nullptr;   ///< takes the keyboard; null for the widget of its workspace
+    Zorv::Workspace* second = nullptr;  ///< another workspace that stands on the page
+};
+
 /// The editors of the window with their workspaces, and the panels at its sides.
 ///
 /// An editor comes into the window by one line:
@@ -44,12 +53,9 @@ public:
     EditorRegistry(QStackedWidget* pages, ControlPlacer* controls, QObject* parent);
     ~EditorRegistry() override;
 
-    /// Takes an editor in that is in charge of some kinds of files. What stands in the middle
-    /// with it is `page`, or with null the widget of its workspace. `commands` are what the host
-    /// does for it in place of its own operations. The first editor is that which comes back
-    /// when another has nothing to work on any more.
-    void add(Zorv::Editor* editor, Zorv::FileID files, QWidget* page = nullptr,
-             const CommandRows& commands = {});
+    /// Takes an editor in that is in charge of some kinds of files. The first one is that which
+    /// comes back when another has nothing to work on any more.
+    void add(Zorv::Editor* editor, Zorv::FileID files, const EditorPlace& place = {});
 
     /// Takes a panel in, behind the others.
     void addPanel(Zorv::ExtraEditor* panel);
@@ -76,7 +82,7 @@ public:
     void showWorkspace(Zorv::Workspace* workspace);
 
     /// The workspace in the middle, or null.
-    Zorv::Workspace* workspace() const { return m_workspace; }
+    Zorv::Workspace* workspace() const { return m_workspaces.value(0); }
 
     /// Gives the keyboard to the workspace in the middle; nothing without one. Whoever brings an
     /// editor to the front does so.
@@ -117,12 +123,12 @@ private:
         QPointer<Zorv::Editor> editor;
         Zorv::FileID files;
         QPointer<Zorv::Workspace> workspace;
-        QWidget* page;
-        CommandRows commands;
+        EditorPlace place;
     };
 
     bool has(const Zorv::Editor* editor) const;
     void leave();
+    void showWorkspaces(const QVector<Zorv::Workspace*>& workspaces);
     void find(Zorv::Editor* editor, bool isAgain, unsigned flags);
 
     QStackedWidget* m_pages;
@@ -130,7 +136,8 @@ private:
     QVector<Entry> m_entries;
     QVector<QPointer<Zorv::ExtraEditor>> m_panels;
     QPointer<Zorv::Editor> m_current;
-    QPointer<Zorv::Workspace> m_workspace;
+    QVector<QPointer<Zorv::Workspace>> m_workspaces;  ///< in the middle, the main one first
+    QPointer<QWidget> m_field;
     const Zorv::Editor* m_activating = nullptr;
     Family::FamilyProject* m_project = nullptr;
     QString m_sought;

@@ -22,6 +22,7 @@ constexpr int PassingTime = 8000;  // milliseconds
 constexpr int PlaceField = 0;
 constexpr int ProblemsField = 1;
 constexpr int EncodingField = 2;
+constexpr int StageField = 3;
 
 QString stateOf(const Family::FamilyDocument* document)
 {
@@ -163,6 +164,9 @@ void StatusFields::showField(int field, const QString& text)
         break;
     case EncodingField:
         m_encoding->setText(text);
+        break;
+    case StageField:
+        setStagePlace(text);
         break;
     default:
         showPassing(text);

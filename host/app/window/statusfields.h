@@ -33,7 +33,8 @@ public:
     void setProblems(const QString& text);
 
     /// Field 0 is the place, 1 how many problems the file has, which is told with those of
-    /// the game, and 2 the encoding; any other number shows a passing text.
+    /// the game, 2 the encoding and 3 the place on the stage; any other number shows a passing
+    /// text.
     void showField(int field, const QString& text);
 
     /// Where the pointer is on the stage, in words; empty for elsewhere.

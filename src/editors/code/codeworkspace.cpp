@@ -249,6 +249,7 @@ void CodeWorkspace::zoomOut()
 
 void CodeWorkspace::setDocument(CodeDocument* document)
 {
+    emit documentLeaves();
     d->showMessages(document);
     if (CodeDocument* left = d->document()) {
         d->savePlace(left);
@@ -260,6 +261,7 @@ void CodeWorkspace::setDocument(CodeDocument* document)
         d->editor->setFocus();
     }
     d->tellDocument();
+    emit documentShown();
 }
 
 CodeEditor* CodeWorkspace::editor() const

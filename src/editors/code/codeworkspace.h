@@ -89,6 +89,13 @@ public:
     void insertSnippet(int row);
     /// @}
 
+signals:
+    /// The document that is shown, if any, is about to make room for another one, or for none.
+    void documentLeaves();
+
+    /// Another document is shown, or none.
+    void documentShown();
+
 private:
     std::unique_ptr<CodeWorkspacePrivate> d;
 };
