@@ -419,7 +419,7 @@ void AnimationEditor::animationCodeChanged(bool countChanged, bool fromCode)
     if (countChanged) {
         d->shownCount = -1;
     }
-    d->refresh();
+    d->refresh(fromCode);
     if (!fromCode) {
         d->updateCurrLine();
     }

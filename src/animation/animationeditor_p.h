@@ -101,7 +101,7 @@ public:
     void textChanged();
     void refreshSoon();
     void refreshIfStale();
-    void refresh();
+    void refresh(bool followsCursor = true);
     void findAnimation();
     void showAnimation(int index);
     void showFrame(int index);

@@ -83,7 +83,8 @@ void AnimationEditorPrivate::refreshIfStale()
 }
 
 /// What the text says now: of the same animation and the same frame, if they are still there.
-void AnimationEditorPrivate::refresh()
+/// Behind an act of the editor the cursor of the text follows, even while it has the keyboard.
+void AnimationEditorPrivate::refresh(bool followsCursor)
 {
     const CodeDocument* document = editor->document();
     isStale = true;
@@ -100,7 +101,7 @@ void AnimationEditorPrivate::refresh()
     }
     fillAnimation();
     const QWidget* text = editor->codeWorkspace()->editor();
-    if (isLinked() && !isPlaying() && text->hasFocus() && isTextShown()) {
+    if (followsCursor && isLinked() && !isPlaying() && text->hasFocus() && isTextShown()) {
         followLine(editor->codeWorkspace()->editor()->textCursor().blockNumber());
     }
     // Which frame is shown follows from the tick alone while one plays.
