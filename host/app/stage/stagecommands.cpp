@@ -232,9 +232,20 @@ void StageCommands::showAnimation(int index)
 
 QVector<PanelPlace> StageCommands::places()
 {
+    const auto copy = [this] { trigger("anim_box_copy"); };
+    const auto remove = [this] { trigger("anim_box_del"); };
+    const auto cut = [copy, remove] {
+        copy();
+        remove();
+    };
+    const auto hasBoxes = [this] { return hasBox(); };
+    const auto hasFrame = [this] { return hasShownFrame(); };
     return {{m_view->focusTarget(),
              m_view,
-             {{Command::Delete, [this] { trigger("anim_box_del"); }, [this] { return hasBox(); }},
+             {{Command::Cut, cut, hasBoxes},
+              {Command::Copy, copy, hasFrame},
+              {Command::Paste, [this] { trigger("anim_box_paste"); }, hasFrame},
+              {Command::Delete, remove, hasBoxes},
               {Command::ZoomIn, [this] { m_renderer->addZoom(); }},
               {Command::ZoomOut, [this] { m_renderer->subZoom(); }},
               {Command::ZoomActual, [this] { m_renderer->zoomActual(); }}}}};
