@@ -285,14 +285,15 @@ void ControlPlacer::updateVisibility()
     m_bars->updateVisibility();
 }
 
+/// Forms align the labels of boxes, as wide as these are by then.
 void ControlPlacer::retranslate()
 {
-    m_bars->retranslate();
     for (ControlBox* box : qAsConst(m_boxes)) {
         if (box) {
             box->retranslate();
         }
     }
+    m_bars->retranslate();
 }
 
 }  // namespace App
