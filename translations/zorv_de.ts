@@ -1876,6 +1876,14 @@
         <source>The pointer, by the wheel</source>
         <translation>Den Mauszeiger, mit dem Rad</translation>
     </message>
+    <message>
+        <source>Ask before animations and frames are de&amp;leted</source>
+        <translation>Fragen, bevor Animationen und Einzelbilder ge&amp;löscht werden</translation>
+    </message>
+    <message>
+        <source>Undo brings them back as well</source>
+        <translation>Rückgängig bringt sie auch wieder</translation>
+    </message>
 </context>
 <context>
     <name>App::SettingsDialog</name>

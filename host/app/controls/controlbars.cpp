@@ -14,7 +14,6 @@
 #include <QMap>
 #include <QPair>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -27,7 +26,8 @@ namespace App {
 namespace {
 
 const QString OffKey = QStringLiteral("bars_off");
-constexpr int FewestLines = 4;  // that a form shows at least
+constexpr int FewestLines = 2;  // that a form shows at least
+constexpr int FewestCharacters = 12;
 
 QStringList barsThatAreOff()
 {
@@ -66,14 +66,13 @@ bool hasForm(const QString& name)
                        [&name](const FormRow& row) { return name == QLatin1String(row.bar); });
 }
 
-/// On a low screen the form is longer than its panel, and never wider.
+/// On a small screen the form is larger than its panel.
 class FormArea : public QScrollArea
 {
 public:
     explicit FormArea(QWidget* form)
     {
         setFrameShape(QFrame::NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setWidgetResizable(true);
         setFocusPolicy(Qt::NoFocus);
         setWidget(form);
@@ -83,17 +82,8 @@ public:
 
     QSize minimumSizeHint() const override
     {
-        return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
+        return {fontMetrics().averageCharWidth() * FewestCharacters,
                 fontMetrics().lineSpacing() * FewestLines};
-    }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::LayoutRequest) {
-            updateGeometry();
-        }
-        return QScrollArea::eventFilter(watched, event);
     }
 };
 

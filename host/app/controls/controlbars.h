@@ -42,6 +42,9 @@ public:
     /// Switches a bar or panel on, and shows a panel in front of those in its place.
     void bringForward(const QString& name);
 
+    /// Switches a bar or panel off or on, as the person does.
+    void setOff(const QString& name, bool isOff);
+
     /// What a bar of the kind `Page` consists of, for a part of the window to put up and own.
     QWidget* page(const QString& name);
 
@@ -74,7 +77,6 @@ private:
     void makePanel(Bar* bar);
     void makePage(Bar* bar);
     void addSwitch(const Bar* bar);
-    void setOff(const QString& name, bool isOff);
     void updateSoon();
 
     std::unique_ptr<Private> d;

@@ -257,6 +257,11 @@ void ControlPlacer::bringForward(const char* panel)
     m_bars->bringForward(QLatin1String(panel));
 }
 
+void ControlPlacer::switchOff(const char* bar)
+{
+    m_bars->setOff(QLatin1String(bar), true);
+}
+
 void ControlPlacer::keepGate(const QString& name, AreaGate* gate)
 {
     m_gates.insert(name, gate);

@@ -73,6 +73,9 @@ public:
     void showPanel(const Zorv::ExtraEditor* panel);
     void bringForward(const char* panel);
 
+    /// Hides a panel or a bar until the person switches it on.
+    void switchOff(const char* bar);
+
     /// Puts the actions that the tables of the bars name into these, whoever has made them.
     void fillBars();
 

@@ -170,15 +170,11 @@ void MainWindow::publishTools()
 void MainWindow::arrangeTools()
 {
     auto* nodes = findChild<QDockWidget*>(QStringLiteral("nodes"));
-    auto* organizer = findChild<QDockWidget*>(QStringLiteral("organizer"));
     tabifyDockWidget(nodes, findChild<QDockWidget*>(QStringLiteral("frame")));
     m_controls->bringForward("frame");
     tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("sounds")),
                      findChild<QDockWidget*>(QStringLiteral("thumbnails")));
     findChild<QDockWidget*>(QStringLiteral("sprites"))->raise();
-    resizeDocks({findChild<QDockWidget*>(QStringLiteral("projects")), nodes}, {240, 280},
-                Qt::Horizontal);
-    resizeDocks({nodes, organizer}, {420, 280}, Qt::Vertical);
 }
 
 /// In the order in which the keyboard goes round, and in which sections of menus are filled.
@@ -205,16 +201,14 @@ void MainWindow::makeDocks()
 {
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    QDockWidget* projects = addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
+    addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
     QDockWidget* sprites = addDock(m_sprites->panel(), "sprites", Qt::LeftDockWidgetArea);
     tabifyDockWidget(sprites, addDock(m_sounds->panel(), "sounds", Qt::LeftDockWidgetArea));
     sprites->raise();
     QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
-    resizeDocks({messages}, {100}, Qt::Vertical);
     new MessageRoom(this, messages, m_messagePanel);
-    resizeDocks({projects, sprites}, {280, 480}, Qt::Vertical);
 }
 
 QDockWidget* MainWindow::addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area)

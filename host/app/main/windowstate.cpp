@@ -1,6 +1,7 @@
 #include "app/main/windowstate.h"
 
 #include "app/code/documenttabs.h"
+#include "app/controls/controlplacer.h"
 #include "app/main/mainwindow.h"
 #include "app/session/gamesession.h"
 #include "app/stage/stagecommands.h"
@@ -12,6 +13,7 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QFileInfo>
+#include <QLayout>
 #include <QScreen>
 #include <QStyle>
 
@@ -47,6 +49,20 @@ QSize roomOf(const QWidget* window)
     const int title = window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window);
     const int border = window->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
     return window->screen()->availableSize() - QSize(2 * border, title + border);
+}
+
+/// Of the panels at the first start; the middle has the rest.
+void giveRoom(QMainWindow* window)
+{
+    const auto dock = [window](const char* name) {
+        return window->findChild<QDockWidget*>(QLatin1String(name));
+    };
+    window->layout()->invalidate();
+    window->layout()->activate();  // at the size that it was given
+    window->resizeDocks({dock("projects"), dock("nodes")}, {240, 310}, Qt::Horizontal);
+    window->resizeDocks({dock("projects"), dock("sprites")}, {280, 480}, Qt::Vertical);
+    window->resizeDocks({dock("nodes"), dock("organizer")}, {420, 280}, Qt::Vertical);
+    window->resizeDocks({dock("messages")}, {100}, Qt::Vertical);
 }
 
 QVariantMap stateOf(const DocumentTabs* tabs, const FamilyDocument* document)
@@ -101,12 +117,16 @@ void WindowState::restoreShape(MainWindow* window)
 {
     if (!window->restoreGeometry(setting(GeometryKey).toByteArray())) {
         const QSize room = roomOf(window);
-        window->resize(UsualSize.boundedTo(room));
         if (room.height() < RoomOfAllPanels) {
             for (const QString& name : {QStringLiteral("sprites"), QStringLiteral("sounds")}) {
                 window->findChild<QDockWidget*>(name)->hide();
             }
+            window->controls()->switchOff("thumbnails");
+            window->controls()->updateVisibility();
         }
+        window->layout()->activate();  // what was hidden needs no room
+        window->resize(UsualSize.boundedTo(room));
+        giveRoom(window);
     }
     window->restoreState(setting(PanelsKey).toByteArray(), PanelsVersion);
 }

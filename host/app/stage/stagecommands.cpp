@@ -126,10 +126,8 @@ void StageCommands::connectStage()
 {
     StatusFields* status = m_services.status;
     connect(m_view, &StageView::placed, this, [this] {
-        // The person has left it so, in the last session, with the same text.
-        if (Zorv::Interface::instance()->option(TextKey).toString() == shownFile()) {
-            m_sight->keepPlace();
-        }
+        // As the person has left it, in the last session.
+        m_sight->keepPlaceOf(Zorv::Interface::instance()->option(TextKey).toString());
         m_sight->bringSoon();
     });
     connect(m_room, &StageRoom::applied, m_sight, &StageSight::bringSoon);
@@ -145,7 +143,7 @@ void StageCommands::connectStage()
     connect(m_editor->action(), &QAction::triggered, this, [this] { choose(true); });
     const Zorv::Editor* code = m_services.editors->byName(QStringLiteral("code"));
     connect(code->action(), &QAction::triggered, this, [this] {
-        if (hasAnimations(m_document)) {
+        if (hasAnimations(document())) {
             choose(false);
         }
     });
@@ -207,9 +205,8 @@ void StageCommands::addZoomButtons()
     }
 }
 
-void StageCommands::showDocument(FamilyDocument* document)
+void StageCommands::showDocument(FamilyDocument*)
 {
-    m_document = document;
     m_workspace->fitBackground();
     updateState();
     followState();
@@ -378,16 +375,22 @@ void StageCommands::leadText()
     }
 }
 
+/// That of the editor, which has it before the other parts are told.
+FamilyDocument* StageCommands::document() const
+{
+    return static_cast<FamilyDocument*>(m_editor->document());
+}
+
 QString StageCommands::shownFile() const
 {
-    return m_document ? m_document->fileName() : QString();
+    return document() ? document()->fileName() : QString();
 }
 
 /// An animation without frames among others leaves the stage as it is: the text would jump under
 /// the hands of who types one.
 void StageCommands::takeRoom()
 {
-    m_view->setEmpty(!m_editor->frame() && !hasFrames(m_document));
+    m_view->setEmpty(!m_editor->frame() && !hasFrames(document()));
     m_room->update();
 }
 

@@ -80,6 +80,7 @@ private:
     void followState();
     void leadText();
     void takeRoom();
+    Family::FamilyDocument* document() const;
     QString shownFile() const;
     QString hint() const;
     QString fault() const;
@@ -94,7 +95,6 @@ private:
     StageRoom* m_room;
     StageSight* m_sight;
     QWidget* m_onion;
-    Family::FamilyDocument* m_document = nullptr;
     bool m_hasShownFrame = false;
     bool m_hasBox = false;
 };

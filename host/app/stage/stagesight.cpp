@@ -4,6 +4,7 @@
 #include "app/stage/stagerenderer.h"
 #include "family/stage/framecomposer.h"
 
+#include <zorv/core/projectfile.h>
 #include <zorv/graphics/renderwidget.h>
 
 #include <QApplication>
@@ -81,16 +82,16 @@ void StageSight::bringSoon()
     }
 }
 
-void StageSight::keepPlace()
+void StageSight::keepPlaceOf(const QString& file)
 {
-    m_isKept = true;
+    m_keptFile = file;
     qApp->installEventFilter(this);
 }
 
 bool StageSight::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) {
-        m_isKept = false;
+        m_keptFile.clear();
         qApp->removeEventFilter(this);
     }
     return QObject::eventFilter(watched, event);
@@ -104,7 +105,8 @@ void StageSight::bring()
     if (!frame || !widget || !widget->isVisible() || m_editor->isPlaying()) {
         return;
     }
-    if (!m_isKept && !sight().isEmpty() && !isWhole()) {
+    const bool isKept = !m_keptFile.isEmpty() && m_editor->file()->fileName() == m_keptFile;
+    if (!isKept && !sight().isEmpty() && !isWhole()) {
         moveInto(*frame);
     }
     m_wasWhole = isWhole();

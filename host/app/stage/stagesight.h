@@ -31,9 +31,9 @@ public:
     /// Brings the frame into sight when the stage has its room.
     void bringSoon();
 
-    /// Leaves the view as it is until the person does something: what was open at the last end
-    /// comes back in several turns of the event loop.
-    void keepPlace();
+    /// Leaves the view of a text as it is until the person does something: what was open at the
+    /// last end comes back in several turns of the event loop.
+    void keepPlaceOf(const QString& file);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -51,7 +51,7 @@ private:
     int m_frame = -1;
     bool m_wasWhole = true;
     bool m_isPending = false;
-    bool m_isKept = false;
+    QString m_keptFile;
 };
 
 }  // namespace App
