@@ -468,6 +468,11 @@ QPoint AnimationEditor::offsetToParentFromInterpolation(QPoint position) const
     return position;
 }
 
+bool AnimationEditor::mayDeleteAnimation()
+{
+    return true;
+}
+
 void AnimationEditor::setSpriteItemType(GraphicsRenderer::ItemType type)
 {
     d->spriteItemType = type;

@@ -252,6 +252,10 @@ protected:
     /// in the list, which comes in as a proposal. False if they gave up.
     virtual bool newAnimationData(QString& identifier, QString& text, int& position) = 0;
 
+    /// Asked before the current animation is deleted, behind the question of "confirm_delete".
+    /// False keeps it: for a host that knows who names it. Here true.
+    virtual bool mayDeleteAnimation();
+
     /// Which item of the stage follows the frame's offset; the sprite at first.
     void setSpriteItemType(GraphicsRenderer::ItemType type);
 

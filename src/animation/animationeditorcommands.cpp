@@ -124,7 +124,7 @@ void AnimationEditorPrivate::del()
     activatePanel();
     if (!currentAnimation() ||
         !mayDelete(host, AnimationEditor::tr("Do you really want to delete the animation?")) ||
-        !currentAnimation()) {
+        !editor->mayDeleteAnimation() || !currentAnimation()) {
         return;
     }
     animations->remove(unsigned(animationIndex()));

@@ -231,6 +231,13 @@ void TestProblems::removalTellsWhoUsesIt()
         QCOMPARE(m->dialogs.count(QStringLiteral("question")), isOn ? 4 : 3);
         QCOMPARE(animations->count(), count);
     }
+    // The tool of the editor asks whether, and then tells who uses it.
+    m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes, Zorv::Dialogs::No};
+    QTRY_VERIFY(m->action("anim_delete")->isEnabled());
+    m->action("anim_delete")->trigger();
+    QVERIFY(m->dialogs.buttonAnswers.isEmpty());
+    QCOMPARE(m->dialogs.shown.last().text, text);
+    QCOMPARE(animations->count(), count);
     m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
     remove();
     QCOMPARE(animations->count(), count - 1);

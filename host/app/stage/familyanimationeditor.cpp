@@ -11,6 +11,7 @@
 #include "family/nodes/framenode.h"
 #include "family/project/familyproject.h"
 #include "family/stage/framecomposer.h"
+#include "operations/check/uses.h"
 #include "operations/media/animationgif.h"
 #include "operations/media/assetimport.h"
 
@@ -194,6 +195,14 @@ bool FamilyAnimationEditor::saveAnimationGIF(const QString& fileName, QString* e
     Family::FrameComposer composer(spriteCollection(), {});
     const QByteArray bytes = Operations::animationGif(*currentAnimation(), &composer, error);
     return !bytes.isEmpty() && Zorv::SafeFile::save(fileName, bytes, error);
+}
+
+bool FamilyAnimationEditor::mayDeleteAnimation()
+{
+    return !m_mayRemove || m_mayRemove([this] {
+        const auto* text = static_cast<FamilyDocument*>(document());
+        return text ? Operations::removalOf(*text, {animationIndex()}) : Operations::Removal();
+    });
 }
 
 Zorv::AssetResult FamilyAnimationEditor::importAssets(const Zorv::AssetRequest& request)

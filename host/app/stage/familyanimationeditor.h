@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/window/texteditor.h"
+#include "app/window/windowservices.h"
 #include "family/stage/framepose.h"
 
 #include <zorv/animation/animationeditor.h>
@@ -31,6 +32,9 @@ public:
     /// Whether it comes forward with texts that have animations.
     bool isWanted() const { return m_isWanted; }
     void setWanted(bool isWanted) { m_isWanted = isWanted; }
+
+    /// What asks before something is removed that is used elsewhere, see `WindowServices`.
+    void setRemovalCheck(const RemovalCheck& mayRemove) { m_mayRemove = mayRemove; }
 
     CodeFileEditor* fileEditor() override { return this; }
     bool wants(const Family::FamilyDocument* document) const override;
@@ -73,9 +77,11 @@ protected:
     void copyContactBoxes(Zorv::FrameCode* source, Zorv::FrameCode* target) override;
     bool saveAnimationGIF(const QString& fileName, QString* error) override;
     Zorv::AssetResult importAssets(const Zorv::AssetRequest& request) override;
+    bool mayDeleteAnimation() override;
     bool newAnimationData(QString& identifier, QString& text, int& position) override;
 
 private:
+    RemovalCheck m_mayRemove;
     bool m_isWanted = true;
 };
 

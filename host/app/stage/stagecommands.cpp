@@ -90,6 +90,7 @@ StageCommands::StageCommands(const WindowServices& services, QSplitter* page,
     m_view->hide();
     const QVariant isShown = Zorv::Interface::instance()->option(ShownKey);
     m_editor->setWanted(!isShown.isValid() || isShown.toBool());
+    m_editor->setRemovalCheck(services.mayRemove);
     services.window->installEventFilter(this);
 }
 

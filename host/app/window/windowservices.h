@@ -17,6 +17,11 @@ class Jumps;
 class PartList;
 class StatusFields;
 
+/// Asks before something is removed that is used elsewhere, and tells where. True to remove it.
+/// `removal()` gives what is to go at the moment: files can be read anew behind the question, and
+/// what the person was not asked about stays.
+using RemovalCheck = std::function<bool(const std::function<Operations::Removal()>& removal)>;
+
 /// What the parts of the window use of it, and of each other. All of it outlives them, and is
 /// there when the first of them is made.
 struct WindowServices
@@ -28,11 +33,7 @@ struct WindowServices
     EditorRegistry* editors = nullptr;
     PartList* parts = nullptr;
     Jumps* jumps = nullptr;
-
-    /// Asks before something is removed that is used elsewhere, and tells where. True to remove it.
-    /// `removal()` gives what is to go at the moment: files can be read anew behind the question,
-    /// and what the person was not asked about stays.
-    std::function<bool(const std::function<Operations::Removal()>& removal)> mayRemove;
+    RemovalCheck mayRemove;
 };
 
 }  // namespace App
