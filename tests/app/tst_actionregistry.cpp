@@ -63,6 +63,7 @@ private slots:
     void cleanup();
 
     void keepsChosenKeys();
+    void keepsKeysOfFormerNames();
     void findsClashes_data();
     void findsClashes();
     void enablesByAreaAndOwner_data();
@@ -123,6 +124,18 @@ void TestActionRegistry::keepsChosenKeys()
     m_registry->resetShortcut(QStringLiteral("go"));
     QCOMPARE(action->shortcut(), QKeySequence(QStringLiteral("Ctrl+G")));
     QVERIFY(!m_host->options.contains(QStringLiteral("shortcut_go")));
+}
+
+/// What a person has chosen before the action got its name.
+void TestActionRegistry::keepsKeysOfFormerNames()
+{
+    const auto keyOf = [this] { return add(info("anim_play", "F9"))->shortcut().toString(); };
+    m_host->setOption("shortcut_stage_play", "Ctrl+P");
+    QCOMPARE(keyOf(), QString("Ctrl+P"));
+    m_registry->setShortcut("anim_play", QKeySequence("Ctrl+Q"));
+    QCOMPARE(keyOf(), QString("Ctrl+Q"));
+    m_registry->resetShortcut("anim_play");
+    QCOMPARE(keyOf(), QString("F9"));
 }
 
 void TestActionRegistry::findsClashes_data()

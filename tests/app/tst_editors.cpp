@@ -8,6 +8,7 @@
 #include "support/testproject.h"
 
 #include <zorv/editors/framework/workspace.h>
+#include <zorv/graphics/graphicwork/graphicsworkspace.h>
 
 #include <QAction>
 #include <QDockWidget>
@@ -133,6 +134,7 @@ private slots:
     void cleanup();
 
     void comesToTheFront();
+    void textsComeWithTheStage();
     void isFoundByItsNames();
     void takesTheCommands();
     void isToldOfProjects();
@@ -214,6 +216,49 @@ void TestEditors::comesToTheFront()
     QTRY_COMPARE(m->host.currentEditor(), window()->textEditor());
     m->host.activateEditor(m_editor.get());
     QVERIFY(!m_editor->isActive());
+}
+
+/// Whoever wants the text alone has it, of all texts, and nothing in it moves.
+void TestEditors::textsComeWithTheStage()
+{
+    QVERIFY(window()->openFile(m_game.animations()));
+    const auto* stage = window()->stage();
+    const auto isStage = [&](bool isShown) {
+        QCoreApplication::processEvents();
+        return m->host.currentEditor() == (isShown ? static_cast<Zorv::Editor*>(stage->editor())
+                                                   : window()->textEditor()) &&
+               m->action("view_stage")->isChecked() == isShown &&
+               stage->workspace()->widget()->isVisible() == isShown;
+    };
+    QVERIFY(isStage(true));
+    m->goTo(2, 3, 4);
+    const QTextCursor cursor = m->edit()->textCursor();
+    const App::NodeModel* nodes = window()->textEditor()->nodes();
+    QTRY_COMPARE(nodes->lineNo(m->tree()->currentIndex()), 2);
+    const QModelIndex node = m->tree()->currentIndex();
+    const auto isUntouched = [&] {
+        return m->edit()->textCursor() == cursor && m->tree()->currentIndex() == node &&
+               m->edit()->textCursor().selectedText() == cursor.selectedText();
+    };
+    window()->textEditor()->action()->trigger();
+    QVERIFY(isStage(false) && isUntouched());
+    m->action("view_stage")->trigger();
+    QVERIFY(isStage(true) && isUntouched());
+    m->action("view_stage")->trigger();
+    QVERIFY(isStage(false) && isUntouched());
+    QVERIFY(window()->openFile(m_game.ryn()));
+    QVERIFY(window()->openFile(m_game.animations()));
+    QVERIFY(isStage(false));
+    stage->editor()->action()->trigger();
+    QVERIFY(isStage(true));
+    // A text without animations has no stage, and gets it with the first.
+    QVERIFY(window()->openFile(m_game.ryn()));
+    QCoreApplication::processEvents();
+    QVERIFY(!stage->workspace()->widget()->isVisible() && !stage->editor()->action()->isEnabled());
+    QTextCursor end(m->document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(QStringLiteral("\nanimation 5\nframe 0,0"));
+    QTRY_VERIFY(isStage(true));
 }
 
 void TestEditors::isFoundByItsNames()
