@@ -6647,7 +6647,7 @@ Zeile %2, Spalte %3.</translation>
     </message>
     <message>
         <source>Flip:</source>
-        <translation>Spiegelung:</translation>
+        <translation>Spiegeln:</translation>
     </message>
     <message>
         <source>None</source>
@@ -6667,11 +6667,11 @@ Zeile %2, Spalte %3.</translation>
     </message>
     <message>
         <source>X scale:</source>
-        <translation>X-Skalierung:</translation>
+        <translation>X-Skala:</translation>
     </message>
     <message>
         <source>Y scale:</source>
-        <translation>Y-Skalierung:</translation>
+        <translation>Y-Skala:</translation>
     </message>
     <message>
         <source>Angle:</source>
