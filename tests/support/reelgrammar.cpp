@@ -3,7 +3,7 @@
 #include "animation/frameticks.h"
 #include "cache/spritenumber.h"
 
-#include <QRegularExpression>
+#include <limits>
 
 using namespace Zorv;
 
@@ -19,6 +19,12 @@ bool isBox(const QRect& rect)
     return isPlace(rect.left()) && isPlace(rect.top()) && rect.width() >= 1 &&
            rect.width() <= ReelGrammar::MostPlace && rect.height() >= 1 &&
            rect.height() <= ReelGrammar::MostPlace;
+}
+
+/// Both ends are numbers.
+bool isRange(int start, int size)
+{
+    return size > 0 && qint64(start) + size <= std::numeric_limits<int>::max();
 }
 
 /// The numbers of a line behind its first character; none if one of them is none, or too large.
@@ -148,7 +154,7 @@ void ReelBoxes::read() const
         const QLatin1Char mark(m_type == ContactBoxCode::Attack ? 'a' : 'b');
         const QVector<int> n =
             block.text().startsWith(mark) ? numbersOf(block.text()) : QVector<int>();
-        if (n.size() == 4 && n.at(2) > 0 && n.at(3) > 0) {
+        if (n.size() == 4 && isRange(n.at(0), n.at(2)) && isRange(n.at(1), n.at(3))) {
             boxes.push_back(std::make_unique<Box>(const_cast<ReelBoxes*>(this), block.blockNumber(),
                                                   QRect(n.at(0), n.at(1), n.at(2), n.at(3))));
         }
