@@ -31,6 +31,7 @@
 #include <QSpinBox>
 #include <QTextBlock>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include <limits>
 
@@ -419,7 +420,16 @@ void EditorWalk::gesture(QWidget* widget, const std::function<QPoint()>& place)
 
 void EditorWalk::dragOnStage()
 {
-    if (stageWidget() && stageWidget()->isVisible()) {
+    if (!stageWidget() || !stageWidget()->isVisible()) {
+        return;
+    }
+    if (chance(8)) {
+        did(QStringLiteral("wheel"));
+        const QPoint place = anyPlaceOnStage();
+        QWheelEvent event(place, stageWidget()->mapToGlobal(place), {}, {0, 120 * (number(7) - 3)},
+                          Qt::NoButton, anyModifiers(), Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(stageWidget(), &event);
+    } else {
         did(QStringLiteral("stage"));
         gesture(stageWidget(), [this] { return anyPlaceOnStage(); });
     }
@@ -499,6 +509,7 @@ void EditorWalk::openAnew()
 {
     did(QStringLiteral("closes and opens"));
     m_host->closeAndOpen();
+    QVERIFY(!document()->canUndo());
     m_first = document()->text();
 }
 
@@ -585,6 +596,9 @@ void EditorWalk::useChild(QWidget* child)
 
 void EditorWalk::tidy()
 {
+    if (!editor()->isActive()) {
+        m_host->bringForward();
+    }
     if (document()->blockCount() > MostLines || document()->blockCount() < 4) {
         QTextCursor cursor(document());
         cursor.select(QTextCursor::Document);
@@ -705,6 +719,7 @@ QString EditorWalk::faultOfStage(const Fresh& fresh)
         provider.rows.append({sprite, m_host->pose(fresh.frame, sprite)});
     }
     setUpLike(&other, *stage());
+    m_host->setUp(&other, fresh.frame);
     other.setSprites(&provider);
     QVector<QPoint> places;
     for (int i = 0; i < 30; ++i) {
@@ -770,7 +785,10 @@ QString EditorWalk::faultOfStrip(const Fresh& fresh)
     const int tick = saturated(strip()->currentTick());
     if (fresh.frame && tick != fresh.firstTick(editor()->frameIndex()) &&
         fresh.frameAt(tick) != editor()->frameIndex()) {
-        return QStringLiteral("tick %1 at frame %2").arg(tick).arg(editor()->frameIndex());
+        return QStringLiteral("tick %1 at frame %2%3")
+            .arg(tick)
+            .arg(editor()->frameIndex())
+            .arg(QLatin1String(editor()->isPlaying() ? " of play" : ""));
     }
     if (strip()->isHidden() == bool(fresh.animation)) {
         return QStringLiteral("time line without animation, or the other way round");
@@ -792,14 +810,15 @@ QString EditorWalk::faultOfStrip(const Fresh& fresh)
     const auto picture = [](TimeLineWidget* line) {
         return line->grab().toImage().convertToFormat(QImage::Format_RGB32);
     };
-    const bool isSame = !fresh.animation || picture(strip()) == picture(&other);
+    const bool isSame = !strip()->isVisible() || picture(strip()) == picture(&other);
     return isSame ? QString() : QStringLiteral("another strip");
 }
 
 /// With stage and text linked, the stage goes where the person goes in the text.
 QString EditorWalk::faultOfCursor(const Fresh& fresh)
 {
-    if (!m_hasMovedCursor || !editor()->isEditCodeMode() || editor()->isPlaying()) {
+    if (!m_hasMovedCursor || !m_host->followsAtOnce() || !editor()->isEditCodeMode() ||
+        editor()->isPlaying()) {
         return {};
     }
     const int line = m_host->edit()->textCursor().blockNumber();
@@ -819,9 +838,24 @@ QString EditorWalk::faultOfCursor(const Fresh& fresh)
 
 QString EditorWalk::undoAll()
 {
+    // Undo belongs to what has the keyboard.
+    triggerAction(QStringLiteral("anim_stop"));
+    m_host->edit()->activateWindow();
+    if (!QTest::qWaitForWindowActive(m_host->edit()->window())) {
+        return QStringLiteral("the window does not come forward");
+    }
+    m_host->edit()->setFocus();
+    const auto redoAll = [this] {
+        for (int left = -1; document()->availableRedoSteps() != left;) {
+            left = document()->availableRedoSteps();
+            m_host->redo();
+        }
+    };
+    redoAll();
     const QString last = document()->text();
     int steps = 0;
-    while (document()->canUndo()) {
+    for (int left = -1; document()->availableUndoSteps() != left;) {
+        left = document()->availableUndoSteps();
         m_host->undo();
         const QString found = ++steps % 10 == 0 ? fault() : QString();
         if (!found.isEmpty()) {
@@ -832,9 +866,7 @@ QString EditorWalk::undoAll()
         return QStringLiteral("undone to\n") + document()->text() + QStringLiteral("\nfrom\n") +
                m_first;
     }
-    while (document()->canRedo()) {
-        m_host->redo();
-    }
+    redoAll();
     return document()->text() == last ? fault()
                                       : QStringLiteral("redone to\n") + document()->text();
 }

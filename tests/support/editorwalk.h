@@ -47,8 +47,17 @@ public:
         /// same, and there is nothing to undo.
         virtual void closeAndOpen() = 0;
 
+        /// The editor has been put away, and is wanted again.
+        virtual void bringForward() {}
+
         /// A change that only this host knows, of its sprites say.
         virtual void changeOther(QRandomGenerator&) {}
+
+        /// False where the stage follows the cursor of the text when that has rested.
+        virtual bool followsAtOnce() const { return true; }
+
+        /// What else a stage is to be told, beside sprite and boxes of a frame.
+        virtual void setUp(Zorv::GraphicsRenderer*, const Zorv::FrameCode*) {}
 
         /// A new document in the same grammar; to be released.
         virtual Zorv::CodeDocument* parsed(const QString& text) = 0;
