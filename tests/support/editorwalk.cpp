@@ -82,42 +82,40 @@ int saturated(qint64 value)
 class PlainRow : public TimeLine, public TimeLineCells
 {
 public:
-    explicit PlainRow(const AnimationCode* animation) : m_animation(animation) {}
-    QString name() const override { return m_animation ? m_animation->displayName() : QString(); }
+    explicit PlainRow(const AnimationCode* animation)
+        : m_name(animation ? animation->displayName() : QString())
+    {
+        const QList<FrameCode*> frames = animation ? animation->frames() : QList<FrameCode*>();
+        qint64 start = 0;
+        for (const FrameCode* frame : frames) {
+            const bool isHidden = !m_frames.isEmpty() && m_frames.last().isBehindEnd();
+            m_frames.append(
+                {{unsigned(saturated(start)), frame->delay()}, frame->isLoopPoint(), isHidden});
+            start += isHidden ? 0 : qMax(frame->delay(), 0);
+        }
+    }
+    QString name() const override { return m_name; }
     bool markerAtTick(unsigned tick, Marker& marker) const override
     {
-        qint64 start = 0;
         bool isFound = false;
-        for (int i = 0; m_animation && i < m_animation->frameCount(); ++i) {
-            const FrameCode* frame = m_animation->frame(i);
-            if (frame->delay() != 0 && saturated(start) == int(tick)) {
-                marker.length = frame->delay();
-                marker.color = frame->delay() < 0     ? QColor(190, 110, 40)
-                               : frame->isLoopPoint() ? QColor(140, 190, 40)
-                                                      : QColor(160, 140, 40);
+        for (const Frame& frame : m_frames) {
+            if (frame.cell.length != 0 && frame.cell.firstTick == tick && !frame.isHidden) {
+                marker.length = frame.cell.length;
+                marker.color = marker.length < 0 ? QColor(190, 110, 40)
+                               : frame.isLoop    ? QColor(140, 190, 40)
+                                                 : QColor(160, 140, 40);
                 isFound = true;
             }
-            if (frame->delay() < 0) {
-                break;
-            }
-            start += frame->delay();
         }
         return isFound;
     }
 
     TimeLineCells* cells() override { return this; }
-    int count() const override { return m_animation ? m_animation->frameCount() : 0; }
+    int count() const override { return m_frames.size(); }
     bool isEditable() const override { return true; }
     bool setLengths(const QVector<int>&, const QVector<int>&) override { return false; }
     bool move(const QVector<int>&, int) override { return false; }
-    Cell at(int index) const override
-    {
-        qint64 start = 0;
-        for (int i = 0; i < index && m_animation->frame(i)->delay() >= 0; ++i) {
-            start += m_animation->frame(i)->delay();
-        }
-        return {unsigned(saturated(start)), m_animation->frame(index)->delay()};
-    }
+    Cell at(int index) const override { return m_frames.at(index).cell; }
     int indexAt(unsigned tick) const override
     {
         for (int i = 0; i < count(); ++i) {
@@ -131,7 +129,16 @@ public:
     }
 
 private:
-    const AnimationCode* m_animation;
+    struct Frame
+    {
+        Cell cell;
+        bool isLoop;
+        bool isHidden;  // behind one without end
+        bool isBehindEnd() const { return isHidden || cell.length < 0; }
+    };
+
+    QString m_name;
+    QVector<Frame> m_frames;
 };
 
 void move(QWidget* widget, QPoint place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
@@ -845,28 +852,41 @@ QString EditorWalk::undoAll()
         return QStringLiteral("the window does not come forward");
     }
     m_host->edit()->setFocus();
-    const auto redoAll = [this] {
-        for (int left = -1; document()->availableRedoSteps() != left;) {
-            left = document()->availableRedoSteps();
-            m_host->redo();
-        }
-    };
-    redoAll();
+    letComeWhatIsPutOff();
+    QString found = goToEnd(&CodeDocument::canRedo, &Host::redo);
     const QString last = document()->text();
-    int steps = 0;
-    for (int left = -1; document()->availableUndoSteps() != left;) {
-        left = document()->availableUndoSteps();
-        m_host->undo();
-        const QString found = ++steps % 10 == 0 ? fault() : QString();
-        if (!found.isEmpty()) {
-            return QStringLiteral("undone: ") + found;
+    if (found.isEmpty()) {
+        found = goToEnd(&CodeDocument::canUndo, &Host::undo);
+    }
+    if (found.isEmpty() && document()->text() != m_first) {
+        found = QStringLiteral("undone to\n") + document()->text() + QStringLiteral("\nfrom\n") +
+                m_first;
+    }
+    if (found.isEmpty()) {
+        found = goToEnd(&CodeDocument::canRedo, &Host::redo);
+    }
+    if (found.isEmpty() && document()->text() != last) {
+        found = QStringLiteral("redone to\n") + document()->text();
+    }
+    return found;
+}
+
+/// Undoes, or does again, all there is.
+QString EditorWalk::goToEnd(bool (CodeDocument::*hasMore)() const, void (Host::*step)())
+{
+    QString found;
+    for (int steps = 1; (document()->*hasMore)() && found.isEmpty(); ++steps) {
+        const int before = document()->availableUndoSteps();
+        (m_host->*step)();
+        letComeWhatIsPutOff();
+        if (document()->availableUndoSteps() == before) {
+            return QStringLiteral("a step leads nowhere, with the keyboard in %1")
+                .arg(
+                    QString::fromLatin1(QApplication::focusWidget()
+                                            ? QApplication::focusWidget()->metaObject()->className()
+                                            : "nothing"));
         }
+        found = steps % 10 == 0 ? fault() : QString();
     }
-    if (document()->text() != m_first) {
-        return QStringLiteral("undone to\n") + document()->text() + QStringLiteral("\nfrom\n") +
-               m_first;
-    }
-    redoAll();
-    return document()->text() == last ? fault()
-                                      : QStringLiteral("redone to\n") + document()->text();
+    return found.isEmpty() ? fault() : found;
 }

@@ -120,6 +120,7 @@ private:
     void setUpLike(Zorv::GraphicsRenderer* other, const Zorv::GraphicsRenderer& model);
     int inRange(const char* name, int value);
     QString undoAll();
+    QString goToEnd(bool (Zorv::CodeDocument::*hasMore)() const, void (Host::*step)());
 
     Zorv::AnimationEditor* editor() { return m_host->editor(); }
     Zorv::CodeDocument* document();
