@@ -309,7 +309,7 @@ void TestTimeLineCells::randomEdge(Model& model, QRandomGenerator& random)
     }
     const int length = std::max(model.cells.at(index).length, 1);
     const qint64 end = plainStart(model.cells, index) + length;
-    if (end <= first() || end > first() + Visible || end - 1 == model.tick) {
+    if (end <= first() || end > first() + Visible) {
         return;
     }
     const bool isSelected = model.selected.contains(index);
@@ -595,6 +595,11 @@ void TestTimeLineCells::shapes()
     QCOMPARE(shape(place(0)), Qt::SizeHorCursor);
     QCOMPARE(shape(place(3)), Qt::OpenHandCursor);
     QCOMPARE(shape(edge(5)), Qt::SplitHCursor);
+    // The end of a cell is in reach while the last of its ticks is the present one.
+    widget->setCurrentTick(4);
+    QCOMPARE(shape(place(4)), Qt::SizeHorCursor);
+    QCOMPARE(shape(edge(5)), Qt::SplitHCursor);
+    widget->setCurrentTick(0);
     QCOMPARE(shape(place(50)), Qt::ArrowCursor);
     QCOMPARE(shape({300, 3}), Qt::CrossCursor);
     QCOMPARE(shape({300, 15}), Qt::ArrowCursor);

@@ -14,8 +14,8 @@ namespace Zorv {
 
 namespace {
 
-// An edge is caught in front of it, where the bar of the present tick never stands; half of a cell
-// of one tick stays for the cell itself.
+// An edge is caught in front of it, also in the cell of the present tick; half of a cell of one
+// tick stays for the cell itself, or for the bar of that tick.
 constexpr int EdgeReach = 3;
 
 /// The ticks that a cell has on the strip, where an endless one is as wide as one tick.
@@ -108,21 +108,21 @@ int CellEditing::top() const
 CellEditing::Hit CellEditing::hitTest(const QPoint& place) const
 {
     const TimeLinePrivate::Target target = m_strip->hitTest(place);
+    const bool isOnStrip = cells() && target != TimeLinePrivate::NoTarget;
+    const bool isInRow =
+        isOnStrip && place.y() >= top() && place.y() < top() + TimeLinePrivate::RowHeight;
+    const int edge = isInRow && isEditable() ? edgeAt(place.x()) : -1;
+    if (edge >= 0) {
+        return {Edge, edge};
+    }
     if (target == TimeLinePrivate::Cursor) {
         return {Cursor, cells() ? bodyAt(place.x()) : -1};
     }
-    if (!cells() || target == TimeLinePrivate::NoTarget) {
-        return {};
-    }
-    if (place.y() < TimeLinePrivate::HeaderHeight) {
+    if (isOnStrip && place.y() < TimeLinePrivate::HeaderHeight) {
         return hitScale(place);
     }
-    if (place.y() < top() || place.y() >= top() + TimeLinePrivate::RowHeight) {
-        return {};
-    }
-    const int edge = isEditable() ? edgeAt(place.x()) : -1;
-    const int body = bodyAt(place.x());
-    return edge >= 0 ? Hit{Edge, edge} : body >= 0 ? Hit{Body, body} : Hit{};
+    const int body = isInRow ? bodyAt(place.x()) : -1;
+    return body >= 0 ? Hit{Body, body} : Hit{};
 }
 
 /// The lower half, with the lines of the ticks, sets the tick and nothing else.
