@@ -108,7 +108,7 @@ void AnimationEditorPrivate::stopChanged(bool)
     }
     updateEnabled();
     editor->playStopped();
-    refresh();
+    refresh(false);
     if (isCursorPending && isLinked() && isTextShown()) {
         followLine(editor->codeWorkspace()->editor()->textCursor().blockNumber());
     } else {

@@ -60,6 +60,9 @@ int AnimationEditorPrivate::frameIndex() const
 void AnimationEditorPrivate::textChanged()
 {
     isStale = true;
+    // The end of a play does not take the text from the hands of who writes in it.
+    const QWidget* text = editor->codeWorkspace()->editor();
+    isCursorPending = isCursorPending || (isPlaying() && text->hasFocus());
     refreshSoon();
 }
 

@@ -57,6 +57,7 @@ private slots:
     void playsAsAModel_data();
     void playsAsAModel();
     void textIsEditedDuringPlay();
+    void playEndsWithTheKeyboardInTheText();
     void scrubbing();
     void neighboursShowThrough();
     void skinsFollowTheText();
@@ -428,6 +429,29 @@ void TestAnimationEditor::playsAsAModel()
     QVERIFY(!action("anim_play")->isChecked() && action("anim_stop")->isChecked());
     QCOMPARE(widget<QSpinBox>("anim_frame_time")->isEnabled(), !times.isEmpty());
     QVERIFY(!document->isUndoAvailable());
+}
+
+// At the frame that it ended with; who has written meanwhile stays where they write.
+void TestAnimationEditor::playEndsWithTheKeyboardInTheText()
+{
+    editor->selectFrame(2);
+    widget<QSpinBox>("anim_frame_time")->setValue(-1);
+    code->widget()->activateWindow();
+    text->setFocus();
+    QTRY_VERIFY(text->hasFocus());
+    for (const bool isWritten : {false, true}) {
+        putCursor(1);
+        QCOMPARE(editor->frameIndex(), 0);
+        action("anim_play")->trigger();
+        if (isWritten) {
+            QTest::keyClick(text, Qt::Key_End);
+            QTest::keyClick(text, Qt::Key_Space);
+        }
+        stage->timeLine()->setCurrentTick(9);
+        QVERIFY(!editor->isPlaying());
+        QCOMPARE(editor->frameIndex(), isWritten ? 0 : 2);
+        QCOMPARE(line(), isWritten ? 1 : 4);
+    }
 }
 
 void TestAnimationEditor::textIsEditedDuringPlay()
