@@ -35,19 +35,22 @@ bool readAlignment(const QString& mode, const QString& numbers, Alignment* align
     static const QRegularExpression pair(QStringLiteral("^\\s*(-?\\d{1,5})\\s*,\\s*(-?\\d{1,5})"
                                                         "\\s*$"));
     const QRegularExpressionMatch match = pair.match(numbers);
-    *alignment = {Alignment::Mode(modes.indexOf(mode)), match.captured(1).toInt(),
-                  match.captured(2).toInt()};
-    const int least = alignment->mode == Alignment::ScaleBoxes ? 0 : Least;
-    const bool isWithin =
-        qMin(alignment->x, alignment->y) >= least && qMax(alignment->x, alignment->y) <= Most;
-    if (!modes.contains(mode)) {
+    const int row = modes.indexOf(mode);
+    if (row < 0) {
         *error =
             Text::tr("Expected one of %1; found '%2'.").arg(modes.join(QLatin1String(", ")), mode);
-    } else if (!match.hasMatch() || !isWithin) {
+        return false;
+    }
+    *alignment = {Alignment::Mode(row), match.captured(1).toInt(), match.captured(2).toInt()};
+    const int least = row == Alignment::ScaleBoxes ? 0 : Least;
+    const bool isWithin =
+        qMin(alignment->x, alignment->y) >= least && qMax(alignment->x, alignment->y) <= Most;
+    if (!match.hasMatch() || !isWithin) {
         *error = Text::tr("Expected two numbers from %1 to %2, such as 4,-2; found '%3'.")
                      .arg(QString::number(least), QString::number(Most), numbers);
+        return false;
     }
-    return error->isEmpty();
+    return true;
 }
 
 bool alignAnimations(FamilyAnimations* list, const QVector<int>& indexes,
