@@ -281,9 +281,9 @@ void AnimationEditor::setDocument(CodeDocument* document)
     }
 }
 
-bool AnimationEditor::canDiscard() const
+bool AnimationEditor::canDiscardInput() const
 {
-    return d->codeWindow.mayDrop() && CodeFileEditor::canDiscard();
+    return d->codeWindow.mayDrop();
 }
 
 void AnimationEditor::save()

@@ -95,7 +95,7 @@ public:
     void setDocument(CodeDocument* document) override;
 
     /// Asks about what is typed in the window of code, too.
-    bool canDiscard() const override;
+    bool canDiscardInput() const override;
 
     /// As of `CodeFileEditor`, with what was typed into a field and not yet entered.
     void save() override;

@@ -89,8 +89,16 @@ QString FileEditor::fileFilter() const
     return {};
 }
 
+bool FileEditor::canDiscardInput() const
+{
+    return true;
+}
+
 bool FileEditor::canDiscard() const
 {
+    if (!canDiscardInput()) {
+        return false;
+    }
     const ProjectFile* current = file();
     if (!current || (current->capabilities() & SavedWithOwner) || !isModified()) {
         return true;

@@ -47,6 +47,11 @@ public slots:
     /// As `saveFileAs()` for the file in work.
     virtual void saveAs();
 
+public:
+    /// True if what was typed beside the file, and is not in it yet, can go:
+    /// there is none, or the person discards it. `canDiscard()` asks this first.
+    virtual bool canDiscardInput() const;
+
 private:
     void comeForward();
 };
