@@ -5776,6 +5776,14 @@ Möchten Sie die übrigen importieren?</translation>
         <source>Ticks in front of, with, and behind attack boxes, and how far these reach in front of the axis</source>
         <translation>Ticks vor, mit und nach Angriffsboxen, und wie weit diese vor die Achse reichen</translation>
     </message>
+    <message>
+        <source>Reverse frames</source>
+        <translation>Einzelbilder umkehren</translation>
+    </message>
+    <message>
+        <source>Turn the order of the selected frames around; of all frames if only one is selected</source>
+        <translation>Die Reihenfolge der ausgewählten Einzelbilder umkehren; die aller, wenn nur eines ausgewählt ist</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::Animations</name>

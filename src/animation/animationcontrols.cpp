@@ -101,6 +101,7 @@ const Tool tools[] = {
     {"anim_play_half",           CheckAction, AnimationTexts::PlayHalf, animation, SLOT(playHalfChanged(bool)), nullptr},
     {"anim_play_quarter",        CheckAction, AnimationTexts::PlayQuarter, animation, SLOT(playQuarterChanged(bool)), nullptr},
     {"anim_play_again",          CheckAction, AnimationTexts::PlayAgain, animation, SLOT(playAgainChanged(bool)), nullptr},
+    {"anim_frame_reverse",       Action, AnimationTexts::FrameReverse, frame, SLOT(frameReverse()), nullptr},
     {"anim_facts_lb",            Label, AnimationTexts::Facts, always, nullptr, SIGNAL(setFacts(QString))},
 };
 // clang-format on

@@ -295,6 +295,7 @@ public slots:
     void duplicate();
     void frameAdd();
     void frameDel();
+    void frameReverse();
 
     void frameAllOffset();
     void frameAllTime();

@@ -1,4 +1,5 @@
 #include "animation/animationeditor_p.h"
+#include "animation/edits/frameorder.h"
 #include "cache/spritenumber.h"
 #include "code/codedoc/animationcode.h"
 #include "code/codedoc/animations.h"
@@ -8,6 +9,8 @@
 
 #include <QTextBlock>
 #include <QTextCursor>
+
+#include <numeric>
 
 namespace Zorv {
 
@@ -210,6 +213,24 @@ void AnimationEditorPrivate::frameDel()
     }
     frameLine = {};
     editor->animationCodeChanged(true, false);
+}
+
+/// The shown frame is shown wherever it goes.
+void AnimationEditorPrivate::frameReverse()
+{
+    commitFields();
+    stop();
+    activatePanel();
+    QVector<int> frames = editor->selectedFrames();
+    if (frames.size() < 2) {
+        frames.resize(frameCount());
+        std::iota(frames.begin(), frames.end(), 0);
+    }
+    const int shown = frameIndex();
+    const int row = frames.indexOf(shown);
+    if (reverseFrames(animations, animationIndex(), frames) >= 0) {
+        refreshAt(row < 0 ? shown : frames.at(frames.size() - 1 - row));
+    }
 }
 
 }  // namespace Zorv

@@ -60,6 +60,10 @@ const struct
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Again from the start"),
      QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
                        "An animation that ends is played again from the start")},
+    {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Reverse frames"),
+     QT_TRANSLATE_NOOP("Zorv::AnimationTexts",
+                       "Turn the order of the selected frames around; of all frames if only one is "
+                       "selected")},
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Frame data:"),
      QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Ticks in front of, with, and behind attack boxes, "
                                                "and how far these reach in front of the axis")},

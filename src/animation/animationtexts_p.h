@@ -33,6 +33,7 @@ public:
         PlayHalf,
         PlayQuarter,
         PlayAgain,
+        FrameReverse,
         Facts,
         End
     };

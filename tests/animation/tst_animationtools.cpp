@@ -4,6 +4,7 @@
 
 #include "animation/dialogs/animalign.h"
 #include "animation/dialogs/animedittxt.h"
+#include "animation/timeline/timelinewidget.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -48,6 +49,7 @@ private slots:
     void codeIsAskedAboutBeforeItGoes();
     void fieldsAreThoseOfTheSelectedBox();
     void boxesGoFromFrameToFrame();
+    void framesAreReversed();
 
 private:
     QString text() const { return m->document->text(); }
@@ -385,6 +387,24 @@ void TestAnimationTools::boxesGoFromFrameToFrame()
         m->editor->undo();
     }
     QCOMPARE(text(), QString::fromLatin1(Text));
+}
+
+/// The boxes go with their frame, and the shown frame stays the shown one.
+void TestAnimationTools::framesAreReversed()
+{
+    m->editor->selectFrame(0);
+    const QVector<QRect> first = shownBoxes();
+    const int last = m->editor->frameCount() - 1;
+    trigger("anim_frame_reverse");
+    QCOMPARE(m->editor->frameIndex(), last);
+    QCOMPARE(shownBoxes(), first);
+    trigger("anim_frame_reverse");
+    QCOMPARE(m->editor->frameIndex(), 0);
+    QCOMPARE(text(), QString::fromLatin1(Text));
+    m->window.findChild<Zorv::TimeLineWidget*>()->setSelectedCells({0, 1});
+    trigger("anim_frame_reverse");
+    QCOMPARE(m->editor->frameIndex(), 1);
+    QVERIFY(text() != QString::fromLatin1(Text));
 }
 
 ZORV_GL_TEST_MAIN(TestAnimationTools)

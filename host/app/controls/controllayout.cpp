@@ -199,7 +199,7 @@ const QVector<FormRow>& formTable()
         {"frame", {"anim_prev_anim", "anim_sel", "anim_next_anim", "anim_sel_lb"}},
         {"frame", {"anim_frame_sel", "anim_frame_sel_lb"}},
         {"frame",
-         {"anim_frame_add", "anim_frame_delete", "anim_frame_align", "anim_frameall_offset",
+         {"anim_frame_add", "anim_frame_delete", "anim_frame_reverse", "anim_frame_align", "anim_frameall_offset",
           "anim_frameall_time", "anim_frameall_flip", "anim_frameall_scale"}},
         {"frame", {"anim_frame_time", "anim_frame_flip"}},
         {"frame", {"anim_frame_xaxis", "anim_frame_yaxis"}},
