@@ -300,8 +300,7 @@ bool EditorRegistry::canDiscard(const Zorv::Project* project,
         ProjectFile* file = editor ? editor->file() : nullptr;
         const bool isConcerned = file && (!project || file->project() == project);
         const bool isDiscarded = isConcerned && file->isModified() && files.contains(file);
-        return !isConcerned ||
-               (isDiscarded ? editor->canDiscardInput() : editor->canDiscard());
+        return !isConcerned || (isDiscarded ? editor->canDiscardInput() : editor->canDiscard());
     });
 }
 
