@@ -6078,6 +6078,38 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     </message>
 </context>
 <context>
+    <name>Zorv::PaletteRemapWidget</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Colours to replace</source>
+        <translation>Zu ersetzende Farben</translation>
+    </message>
+    <message>
+        <source>Clear the row</source>
+        <translation>Zeile leeren</translation>
+    </message>
+    <message>
+        <source>Clear all rows</source>
+        <translation>Alle Zeilen leeren</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::PaletteWidget</name>
+    <message>
+        <source>%1, %2, %3, %4
+Index %5, %6</source>
+        <translation>%1, %2, %3, %4
+Index %5, %6</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::ParentProject</name>
     <message>
         <source>Backup in progress...</source>

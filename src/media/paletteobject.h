@@ -41,9 +41,10 @@ class ZORV_EXPORT PaletteObject : public QObject
 public:
     explicit PaletteObject(RGBA (&palette)[256], QObject* parent = nullptr);
 
-    /// Copies 256 entries in or out.
+    /// Copies 256 entries in or out; `color()` gives one of them.
     void fromPalette(const RGBA* palette);
     void toPalette(RGBA (&palette)[256]) const;
+    RGBA color(unsigned char index) const { return m_palette[index]; }
 
     /// Reads a palette file or the palette of an image. `format` is "PNG", "PCX", "BMP", "GIF",
     /// "ACT" or "ACO", in capitals; with any other the first bytes tell, and then the name of an

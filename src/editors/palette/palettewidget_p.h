@@ -1,0 +1,82 @@
+#pragma once
+
+#include "editors/palette/palettehistory_p.h"
+#include "media/paletteobject.h"
+
+#include <QPoint>
+#include <QRect>
+#include <QString>
+
+class QKeyEvent;
+class QMouseEvent;
+class QPaintEvent;
+
+namespace Zorv {
+
+class PaletteWidget;
+
+/// The colours of a grid and what mouse and keys do to it.
+class PaletteWidgetPrivate
+{
+public:
+    explicit PaletteWidgetPrivate(PaletteWidget* widget);
+
+    int slotAt(const QPoint& place) const;
+    QRect cellOf(int slot) const;
+    QString textOf(int slot) const;
+    void beginChange();
+    void paint(const QPaintEvent* event) const;
+
+    void press(const QMouseEvent* event);
+    void move(const QMouseEvent* event);
+    void release(const QMouseEvent* event);
+    void doubleClick(const QMouseEvent* event);
+    void showTip(const QPoint& place, const QPoint& global) const;
+
+    /// Gives a press or drag up.
+    void cancel();
+
+    /// The same where its release may never come.
+    void lose();
+
+    /// Whether a key means something here, and does it.
+    bool handles(const QKeyEvent* event) const;
+    void press(const QKeyEvent* event);
+
+    PaletteWidget* owner;
+    PaletteHistory history;
+    PaletteObject object;
+    bool isLocked = false;
+    bool isMulti = true;
+    bool isSelectable = true;
+    int colorCount = 256;
+    int cellSize = 12;
+    int columns = 16;
+    int cursor = 0;  // the slot on which keys work
+
+private:
+    enum class Selected { Same, Other, Several };
+
+    void endDrag();
+    void click(int slot, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    Selected select(int slot, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    Selected selectRange(int from, int to);
+
+    /// Tells of what is selected. False if the widget is gone.
+    bool announce(Selected selected);
+
+    void moveColor(int from, int to);
+    int targetOf(int key) const;
+    void goTo(int slot, Qt::KeyboardModifiers modifiers);
+    void setCursor(int slot);
+
+    bool dragging = false;
+    bool isCancelled = false;  // the release to come is no click
+    Qt::MouseButtons held;
+    QPoint pressOffset;
+    QPoint dragPos;
+    int pressed = -1;
+    int anchor = 0;  // where keys with Shift began
+};
+
+}  // namespace Zorv
