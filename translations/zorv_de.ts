@@ -6064,6 +6064,21 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     </message>
 </context>
 <context>
+    <name>Zorv::ImageCanvas</name>
+    <message>
+        <source>The image cannot have %1 by %2 pixels: each side must have from 1 to %3.</source>
+        <translation>Das Bild kann nicht %1 mal %2 Pixel haben: Jede Seite muss 1 bis %3 haben.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for an image of %1 by %2 pixels.</source>
+        <translation>Der Speicher reicht nicht für ein Bild von %1 mal %2 Pixeln.</translation>
+    </message>
+    <message>
+        <source>There is nothing to crop to: no pixel shows.</source>
+        <translation>Es gibt nichts, worauf zugeschnitten werden kann: Kein Pixel ist sichtbar.</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::OrganizerEditor</name>
     <message>
         <source>Move rows</source>

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "image/canvas/imageforms_p.h"
+#include "image/canvas/imagepalette.h"
+
+namespace Zorv {
+
+/// A palette that finds a transparent entry for transparent colours and for no others, if it has
+/// entries of both kinds; else it is as the one that it is made of, which outlives it.
+class AlikePalette : public ImagePalette
+{
+public:
+    explicit AlikePalette(ImagePalette* palette);
+
+    unsigned char background() const override;
+    unsigned char foreground() const override;
+    QRgb color(unsigned char index) const override;
+    unsigned char index(const QColor& color) const override;
+    void setForeground(unsigned char index) override;
+    void setBackground(unsigned char index) override;
+    PaletteObject* palette() const override;
+    void toRGBPal(RGBA (&colors)[256]) const override;
+
+private:
+    ImagePalette* m_palette;
+    PaletteColors m_colors;
+};
+
+}  // namespace Zorv

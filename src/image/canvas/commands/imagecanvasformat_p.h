@@ -1,0 +1,25 @@
+#pragma once
+
+#include "image/canvas/imageundocommand.h"
+#include "image/canvas/imagecanvas.h"
+
+namespace Zorv {
+
+/// The form of a canvas, which it exchanges; the layers have commands of their own.
+class ImageCanvasFormat : public ImageUndoCommand
+{
+public:
+    ImageCanvasFormat(ImageCanvas* canvas, ImageCanvas::Format before);
+
+    void undo() override;
+    qint64 byteSize() const override;
+
+protected:
+    void doRedo() override;
+
+private:
+    ImageCanvas* m_canvas;
+    ImageCanvas::Format m_other;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "image/canvas/imageundocommand.h"
+#include "image/canvas/pixeltiles_p.h"
+
+#include <QSize>
+
+namespace Zorv {
+
+class ImageCanvas;
+
+/// The size of a canvas and the mask that belongs to it, which it exchanges.
+class ImageCanvasSize : public ImageUndoCommand
+{
+public:
+    ImageCanvasSize(ImageCanvas* canvas, const QSize& before, const QImage& maskBefore);
+
+    void undo() override;
+    qint64 byteSize() const override;
+    qint64 pack(qint64 limit) override;
+
+protected:
+    void doRedo() override;
+
+private:
+    void exchange();
+    void keep(const QImage& mask);
+
+    ImageCanvas* m_canvas;
+    QSize m_other;
+    PixelTiles m_mask;
+    bool m_allSelected = true;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "image/canvas/imageundocommand.h"
+#include "image/canvas/layerref_p.h"
+
+namespace Zorv {
+
+/// The mode of a layer, which it exchanges.
+class ImageLayerBlend : public ImageUndoCommand
+{
+public:
+    ImageLayerBlend(ImageLayer* layer, QPainter::CompositionMode before);
+
+    void undo() override;
+    qint64 byteSize() const override;
+
+protected:
+    void doRedo() override;
+
+private:
+    LayerRef m_layer;
+    QPainter::CompositionMode m_other;
+};
+
+}  // namespace Zorv

@@ -1,0 +1,160 @@
+#pragma once
+
+#include "image/canvas/imagecanvas.h"
+#include "image/canvas/imagelayers.h"
+#include "image/canvas/imagepainter.h"
+#include "image/canvas/imageselection.h"
+#include "image/canvas/imageundostack.h"
+#include "image/canvas/layerref_p.h"
+#include "image/canvas/monopalette.h"
+#include "image/canvas/pixeltiles_p.h"
+
+#include <QCoreApplication>
+#include <QRect>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Zorv {
+
+class ImageUndoCommand;
+
+/// What a canvas, its layers and its commands share.
+class ImageCanvasPrivate
+{
+    Q_DECLARE_TR_FUNCTIONS(Zorv::ImageCanvas)
+
+public:
+    /// The signals that are sent when the last batch ends.
+    struct Notices
+    {
+        bool size = false;
+        bool format = false;
+        bool axis = false;
+        bool look = false;
+        bool list = false;
+        QRect part;
+        ImageLayer* layer = nullptr;  ///< the only one that changed; null for several
+        QRect selection;
+    };
+
+    /// A change of pixels that is not a step yet. Without a layer its target is the mask.
+    struct Stroke
+    {
+        LayerRef layer;
+        ImageCanvas::StrokeKind kind;
+        QString title;
+        int mergeId;
+        QImage before;     ///< of a `WholeStroke`
+        PixelTiles tiles;  ///< of a `TiledStroke`
+    };
+
+    explicit ImageCanvasPrivate(ImageCanvas* canvas);
+    ~ImageCanvasPrivate();
+
+    static ImageCanvasPrivate& of(ImageCanvas* canvas) { return *canvas->d; }
+
+    void hold();
+    void letGo();
+    void send(const Notices& what);
+
+    /// Notes what has changed; sends it if no batch holds it back. A layer that is not in the
+    /// list has no look.
+    void looksDifferent(ImageLayer* layer, const QRect& rect);
+    void looksDifferent();
+    void rowDiffers(ImageLayer* layer);
+    void listDiffers();
+    void selectionDiffers(const QRect& rect);
+
+    void push(ImageUndoCommand* command);
+    void refuse(const QString& message);
+    bool isPossible(const QSize& newSize);
+
+    /// A step of several commands. If `act` is false, all of it is taken back.
+    template <class Act>
+    bool macro(const char* title, Act act)
+    {
+        const ImageCanvas::Batch batch(q);
+        stack.beginMacro(QString::fromLatin1(title));
+        const bool done = act();
+        done ? stack.endMacro() : stack.cancelMacro();
+        return done;
+    }
+
+    /// Calls `act` for all layers as long as it is true.
+    template <class Act>
+    bool forLayers(Act act)
+    {
+        for (unsigned i = 0; i < layers->count(); ++i) {
+            if (!act(*layers->at(i))) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    /// The pixel that stands for new room.
+    unsigned fill() const;
+
+    /// The pixel of an empty layer: transparent, or the ground if no entry is.
+    unsigned clearPixel(ImageCanvas::Format of) const;
+
+    /// An image in form and size of the canvas; an indexed one without table has the palette's
+    /// colours. Null if memory is short.
+    QImage adapted(const QImage& image) const;
+
+    void applySize(const QSize& newSize);
+    void applyFormat(ImageCanvas::Format newFormat);
+    void applyAxis(const QPoint& newAxis);
+
+    /// With a command, each.
+    void recordSize(const QSize& newSize);
+    void recordAxis(const QPoint& newAxis);
+
+    bool resizeLayers(const QSize& newSize, const QPoint& corner);
+    bool reformatLayers(ImageCanvas::Format newFormat, ImagePalette* entries);
+    bool rotateLayers(bool all, float angle, ImageResizeFilter filter);
+
+    /// Makes a layer ready to be in the list.
+    bool enter(ImageLayer* layer);
+    void layerLeaves(ImageLayer* layer, int row);
+
+    /// Lets an open stroke of a layer keep all of it, whatever was announced.
+    void keepWhole(const ImageLayer* layer);
+    void endStroke();
+
+    ImageCanvas* const q;
+    MonoPalette noPalette;
+    ImagePalette* palette = nullptr;
+    ImageSelection selection;
+    std::unique_ptr<ImagePainter> painter;
+    std::unique_ptr<ImageLayers> layers;
+    ImageLayer* active = nullptr;
+    QPoint position;
+    QSize size = QSize(0, 0);
+    QPoint axis;
+    double zoom = 1.0;
+    ImageCanvas::Format format = ImageCanvas::RGBAFormat;
+    std::optional<Stroke> stroke;
+    int batches = 0;
+    Notices notices;
+    ImageUndoStack stack;  ///< the first to go: its commands hold layers
+};
+
+/// What a command of the list does, and what the rest of the library sees of a list.
+class ImageLayersPrivate
+{
+public:
+    void insert(LayerRef layer, int row);
+    LayerRef take(int row);
+    void tellRow(int row);
+
+    ImageLayers* q;
+    ImageCanvas* canvas;
+    std::vector<LayerRef> list;
+
+    static ImageLayersPrivate& of(ImageCanvas* canvas);
+};
+
+}  // namespace Zorv

@@ -1,0 +1,191 @@
+// What changes all of a canvas in one step. If a layer cannot follow, all is taken back.
+
+#include "image/canvas/alikepalette_p.h"
+#include "image/canvas/commands/imagecanvasformat_p.h"
+#include "image/canvas/imagecanvas_p.h"
+#include "image/canvas/imageforms_p.h"
+
+#include <QTransform>
+
+#include <cmath>
+
+namespace Zorv {
+
+namespace {
+
+/// Where a point of an image comes to when it is turned about its middle and the result stands in
+/// the middle of a canvas.
+QPoint turnedPoint(const QPoint& point, const QSize& image, const QSize& turned, float degrees,
+                   const QSize& canvas)
+{
+    const QPointF middle(image.width() / 2.0, image.height() / 2.0);
+    const QPointF away = QTransform().rotate(double(degrees)).map(QPointF(point) - middle);
+    const QPoint corner((canvas.width() - turned.width()) >> 1,
+                        (canvas.height() - turned.height()) >> 1);
+    return (away + QPointF(turned.width() / 2.0, turned.height() / 2.0)).toPoint() + corner;
+}
+
+int scaledPlace(int place, int from, int to)
+{
+    return from > 0 ? int(std::lround(double(place) * to / from)) : place;
+}
+
+}  // namespace
+
+bool ImageCanvas::setSize(const QSize& size, const QPoint& position, bool record)
+{
+    endStroke();
+    if (!d->isPossible(size)) {
+        return false;
+    }
+    if (!record) {
+        d->applySize(size);
+        return true;
+    }
+    return d->macro("setSize", [&] { return d->resizeLayers(size, position); });
+}
+
+// The layers take what the pixels need; the axis goes with a canvas that had a size.
+bool ImageCanvasPrivate::resizeLayers(const QSize& newSize, const QPoint& corner)
+{
+    const QSize before = size;
+    QPoint offset = corner;
+    if (corner.x() <= ImageCanvas::Centered) {
+        offset = {(newSize.width() - before.width()) >> 1,
+                  (newSize.height() - before.height()) >> 1};
+    }
+    recordSize(newSize);
+    if (!before.isEmpty() && before != newSize) {
+        recordAxis(axis + offset);
+    }
+    return forLayers([&](ImageLayer& layer) { return layer.resize(newSize, corner, fill()); });
+}
+
+bool ImageCanvas::setFormat(Format format, bool record)
+{
+    endStroke();
+    if (!record) {
+        d->applyFormat(format);
+        return true;
+    }
+    return d->reformatLayers(format, d->palette);
+}
+
+bool ImageCanvas::convertTo(Format format)
+{
+    endStroke();
+    AlikePalette entries(d->palette);
+    return d->reformatLayers(format, &entries);
+}
+
+bool ImageCanvasPrivate::reformatLayers(ImageCanvas::Format newFormat, ImagePalette* entries)
+{
+    return macro("setFormat", [&] {
+        const ImageCanvas::Format before = format;
+        applyFormat(newFormat);
+        if (before != newFormat) {
+            push(new ImageCanvasFormat(q, before));
+        }
+        return (size.isEmpty() || isPossible(size)) &&
+               forLayers([&](ImageLayer& layer) { return layer.reformat(newFormat, entries); });
+    });
+}
+
+bool ImageCanvas::flip(bool horizontal, bool vertical)
+{
+    endStroke();
+    return d->layers->count() > 0 && d->macro("flip", [&] {
+        const QPoint axis(horizontal ? d->size.width() - d->axis.x() : d->axis.x(),
+                          vertical ? d->size.height() - d->axis.y() : d->axis.y());
+        d->recordAxis(axis);
+        return d->forLayers(
+            [&](ImageLayer& layer) { return layer.flip(horizontal, vertical); });
+    });
+}
+
+bool ImageCanvas::rotate(float angle, ImageResizeFilter filter)
+{
+    return d->rotateLayers(false, angle, filter);
+}
+
+bool ImageCanvas::rotateAll(float angle, ImageResizeFilter filter)
+{
+    return d->rotateLayers(true, angle, filter);
+}
+
+bool ImageCanvasPrivate::rotateLayers(bool all, float angle, ImageResizeFilter filter)
+{
+    q->endStroke();
+    if (layers->count() == 0 || (!all && !active) || !std::isfinite(angle)) {
+        return false;
+    }
+    const QSize before = size;
+    const QSizeF corners =
+        QTransform().rotate(double(angle)).mapRect(QRectF(QPointF(), QSizeF(size))).size();
+    if (!isPossible(QSize(int(corners.width()), int(corners.height())).expandedTo({1, 1}))) {
+        return false;
+    }
+    return macro("rotate", [&] {
+        const auto turn = [&](ImageLayer& layer) { return layer.rotate(angle, fill(), filter); };
+        if (!(all ? forLayers(turn) : turn(*active))) {
+            return false;
+        }
+        const QSize turned = (all ? layers->at(0) : active)->image().size();
+        const bool others = !all && layers->count() > 1;
+        const QSize newSize = others ? turned.expandedTo(before) : turned;
+        const QPoint newAxis =
+            others ? axis + QPoint((newSize.width() - before.width()) >> 1,
+                                   (newSize.height() - before.height()) >> 1)
+                   : turnedPoint(axis, before, turned, angle, newSize);
+        if (newSize != before) {
+            recordSize(newSize);
+        }
+        recordAxis(newAxis);
+        const QPoint centered(ImageCanvas::Centered, 0);
+        return forLayers(
+            [&](ImageLayer& layer) { return layer.resize(newSize, centered, fill()); });
+    });
+}
+
+bool ImageCanvas::resize(const QSize& size, ImageResizeFilter filter)
+{
+    endStroke();
+    if (!d->isPossible(size)) {
+        return false;
+    }
+    return size == d->size || d->macro("resize", [&] {
+        const QSize before = d->size;
+        d->recordSize(size);
+        d->recordAxis({scaledPlace(d->axis.x(), before.width(), size.width()),
+                       scaledPlace(d->axis.y(), before.height(), size.height())});
+        return d->forLayers([&](ImageLayer& layer) { return layer.resize(size, filter); });
+    });
+}
+
+bool ImageCanvas::crop()
+{
+    endStroke();
+    QRect shown;
+    d->forLayers([&shown](ImageLayer& layer) {
+        shown |= layer.cropRect();
+        return true;
+    });
+    shown &= QRect(QPoint(), d->size);
+    if (shown.isEmpty()) {
+        d->refuse(ImageCanvasPrivate::tr("There is nothing to crop to: no pixel shows."));
+        return false;
+    }
+    return shown.size() == d->size || d->macro("crop", [&] {
+        return d->resizeLayers(shown.size(), -shown.topLeft());
+    });
+}
+
+bool ImageCanvas::changePalette(const RGBA (&from)[256], const RGBA (&to)[256])
+{
+    endStroke();
+    return d->format == IndexedFormat && d->macro("changePalette", [&] {
+        return d->forLayers([&](ImageLayer& layer) { return layer.changePalette(from, to); });
+    });
+}
+
+}  // namespace Zorv

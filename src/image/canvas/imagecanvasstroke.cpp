@@ -1,0 +1,126 @@
+// Changes of pixels by hand: what begins is kept until it is known what has become of it.
+
+#include "image/canvas/commands/imageselectionedit_p.h"
+#include "image/canvas/commands/rasterlayeredit_p.h"
+#include "image/canvas/imagecanvas_p.h"
+
+#include <utility>
+
+namespace Zorv {
+
+namespace {
+
+const QImage& targetOf(ImageCanvasPrivate& canvas, const ImageCanvasPrivate::Stroke& stroke)
+{
+    return stroke.layer ? stroke.layer->image() : canvas.selection.mask();
+}
+
+}  // namespace
+
+void ImageCanvas::changing(ImageLayer* layer)
+{
+    if (layer) {
+        beginStroke(layer, WholeStroke, QStringLiteral("edit"));
+    }
+}
+
+void ImageCanvas::beginStroke(ImageLayer* layer, StrokeKind kind, const QString& title,
+                              int mergeId)
+{
+    endStroke();
+    if (layer && !d->layers->contains(layer)) {
+        return;
+    }
+    ImageCanvasPrivate::Stroke stroke = {LayerRef(layer), kind, title, mergeId, {}, {}};
+    const QImage& image = targetOf(*d, stroke);
+    stroke.tiles = PixelTiles(image);
+    if (kind == WholeStroke) {
+        // Shares its pixels until the first of them is written.
+        stroke.before = image;
+        d->stack.setPending([this] { d->endStroke(); });
+    }
+    d->stroke.emplace(std::move(stroke));
+}
+
+bool ImageCanvas::willChange(const QRect& rect)
+{
+    if (!d->stroke) {
+        return false;
+    }
+    if (d->stroke->kind == TiledStroke) {
+        d->stroke->tiles.save(targetOf(*d, *d->stroke), rect);
+        d->stack.setPending([this] { d->endStroke(); });
+    }
+    return true;
+}
+
+void ImageCanvas::changed(const QRect& rect)
+{
+    if (!d->stroke) {
+        return;
+    }
+    if (d->stroke->layer) {
+        d->looksDifferent(d->stroke->layer.get(), rect & d->stroke->layer->image().rect());
+    } else {
+        d->selectionDiffers(rect);
+    }
+}
+
+void ImageCanvas::endStroke()
+{
+    if (d->stroke) {
+        d->stack.setPending(nullptr);
+        d->endStroke();
+    }
+}
+
+bool ImageCanvas::isStroking() const
+{
+    return d->stroke.has_value();
+}
+
+bool ImageCanvas::setSelection(const QImage& mask)
+{
+    if (mask.size() != d->size || mask.format() != QImage::Format_Indexed8) {
+        return false;
+    }
+    beginStroke(nullptr, WholeStroke, QStringLiteral("select"));
+    d->selection.fromMask(mask);
+    changed(mask.rect());
+    endStroke();
+    return true;
+}
+
+void ImageCanvasPrivate::keepWhole(const ImageLayer* layer)
+{
+    if (stroke && stroke->layer.get() == layer && stroke->kind == ImageCanvas::TiledStroke) {
+        q->willChange(layer->image().rect());
+    }
+}
+
+void ImageCanvasPrivate::endStroke()
+{
+    Stroke ended = std::move(*stroke);
+    stroke.reset();
+    const QImage& after = targetOf(*this, ended);
+    if (ended.kind == ImageCanvas::WholeStroke) {
+        ended.tiles = PixelTiles::differences(ended.before, after);
+    } else {
+        ended.tiles.dropEqual(after);
+    }
+    // Before the command is pushed, or the next write would have to copy all pixels.
+    ended.before = QImage();
+    ImageUndoCommand* command = nullptr;
+    if (ended.layer) {
+        command = new RasterLayerEdit(ended.layer.get(), std::move(ended.tiles), ended.mergeId);
+    } else {
+        command = new ImageSelectionEdit(q, std::move(ended.tiles));
+    }
+    if (!ended.title.isEmpty()) {
+        command->setText(ended.title);
+    }
+    push(command);
+    emit q->strokeEnded();
+}
+
+}  // namespace Zorv

@@ -1,0 +1,163 @@
+#include "image/canvas/imagelayer.h"
+
+#include "image/canvas/commands/imagelayerblend_p.h"
+#include "image/canvas/commands/imagelayername_p.h"
+#include "image/canvas/commands/imagelayeropacity_p.h"
+#include "image/canvas/imagecanvas_p.h"
+#include "image/canvas/imageforms_p.h"
+
+#include <cmath>
+#include <type_traits>
+#include <utility>
+
+namespace Zorv {
+
+namespace {
+
+/// Sets a value; if it is another one, tells the canvas and, if wanted, the history.
+template <class Command, class Value>
+void exchange(ImageLayer* layer, Value& value, const Value& now, bool record)
+{
+    if (value == now) {
+        return;
+    }
+    ImageCanvas* const canvas = layer->canvas();
+    if (canvas && record) {
+        canvas->endStroke();
+    }
+    const Value before = std::exchange(value, now);
+    if (!canvas) {
+        return;
+    }
+    ImageCanvasPrivate& d = ImageCanvasPrivate::of(canvas);
+    if (record) {
+        d.push(new Command(layer, before));
+    }
+    d.rowDiffers(layer);
+    // A name is not seen on the canvas.
+    if (!std::is_same_v<Value, QString>) {
+        d.looksDifferent(layer, layer->image().rect());
+    }
+}
+
+}  // namespace
+
+ImageLayer::ImageLayer(ImageCanvas* canvas) : m_canvas(canvas) {}
+
+ImageLayer::~ImageLayer() = default;
+
+void ImageLayer::addRef()
+{
+    ++m_refCount;
+}
+
+void ImageLayer::release()
+{
+    if (--m_refCount == 0) {
+        delete this;
+    }
+}
+
+ImageCanvas* ImageLayer::canvas() const
+{
+    return m_canvas;
+}
+
+int ImageLayer::index() const
+{
+    for (unsigned i = 0; m_canvas && i < m_canvas->layers()->count(); ++i) {
+        if (m_canvas->layers()->at(i) == this) {
+            return int(i);
+        }
+    }
+    return -1;
+}
+
+bool ImageLayer::isVisible() const
+{
+    return m_visible;
+}
+
+void ImageLayer::setVisible(bool visible)
+{
+    if (m_visible != visible) {
+        m_visible = visible;
+        if (m_canvas) {
+            ImageCanvasPrivate::of(m_canvas).rowDiffers(this);
+            ImageCanvasPrivate::of(m_canvas).looksDifferent(this, m_image.rect());
+        }
+    }
+}
+
+QString ImageLayer::name() const
+{
+    return m_name;
+}
+
+void ImageLayer::setName(const QString& name, bool record)
+{
+    exchange<ImageLayerName>(this, m_name, name, record);
+}
+
+QPainter::CompositionMode ImageLayer::blendMode() const
+{
+    return m_blendMode;
+}
+
+void ImageLayer::setBlendMode(QPainter::CompositionMode mode, bool record)
+{
+    if (mode >= QPainter::CompositionMode_SourceOver &&
+        mode <= QPainter::CompositionMode_Exclusion) {
+        exchange<ImageLayerBlend>(this, m_blendMode, mode, record);
+    }
+}
+
+double ImageLayer::opacity() const
+{
+    return m_opacity;
+}
+
+void ImageLayer::setOpacity(double opacity, bool record)
+{
+    if (!std::isnan(opacity)) {
+        exchange<ImageLayerOpacity>(this, m_opacity, qBound(0.0, opacity, 1.0), record);
+    }
+}
+
+const QImage& ImageLayer::image() const
+{
+    return m_image;
+}
+
+QImage* ImageLayer::pixels()
+{
+    return &m_image;
+}
+
+void ImageLayer::setImage(const QImage& image)
+{
+    const QRect before = m_image.rect();
+    if (m_canvas) {
+        ImageCanvasPrivate::of(m_canvas).keepWhole(this);
+    }
+    m_image = layerImage(image);
+    if (m_canvas) {
+        ImageCanvasPrivate::of(m_canvas).looksDifferent(this, before | m_image.rect());
+    }
+}
+
+void ImageLayer::render(QPainter& painter) const
+{
+    if (m_image.isNull()) {
+        return;
+    }
+    painter.setCompositionMode(m_blendMode);
+    painter.setOpacity(m_opacity);
+    if (m_image.format() != QImage::Format_Indexed8) {
+        painter.drawImage(0, 0, m_image);
+    } else if (m_canvas) {
+        painter.drawImage(0, 0, indexedView(m_image, m_canvas->palette()->toRgbPal()));
+    }
+}
+
+}  // namespace Zorv

@@ -1,0 +1,434 @@
+#include "image/canvas/imageundostack.h"
+
+#include "image/canvas/imageundocommand.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <deque>
+#include <limits>
+#include <utility>
+#include <vector>
+
+namespace Zorv {
+
+namespace {
+
+using Command = std::unique_ptr<ImageUndoCommand>;
+
+// Packing takes time: each step pays for so many bytes of those that are older than a few.
+const qint64 PackedAtOnce = qint64(1) << 20;
+const int StepsNotPacked = 4;
+
+/// What one undo takes back: a command, or those of a macro.
+struct Step
+{
+    QString text;
+    std::vector<Command> commands;
+    qint64 bytes = 0;
+    bool packed = false;
+    bool sealed = false;
+
+    void undo()
+    {
+        std::for_each(commands.rbegin(), commands.rend(), [](const Command& x) { x->undo(); });
+    }
+    void redo()
+    {
+        std::for_each(commands.begin(), commands.end(), [](const Command& x) { x->redo(); });
+    }
+
+    /// Removes commands from the last one on, which is the only safe order.
+    void shrink(std::size_t size)
+    {
+        while (commands.size() > size) {
+            commands.pop_back();
+        }
+    }
+    void measure()
+    {
+        bytes = 0;
+        for (const Command& command : commands) {
+            bytes += command->byteSize();
+        }
+    }
+
+    /// Packs up to `limit` bytes; what remains of the limit is given back.
+    qint64 pack(qint64 limit)
+    {
+        for (const Command& command : commands) {
+            qint64 done = 1;
+            while (limit > 0 && done > 0) {
+                done = command->pack(limit);
+                limit -= done;
+            }
+        }
+        packed = limit > 0;
+        return limit;
+    }
+};
+
+}  // namespace
+
+class ImageUndoStackPrivate
+{
+public:
+    /// What views were told last.
+    struct Shown
+    {
+        int index = 0;
+        bool canUndo = false;
+        bool canRedo = false;
+        bool clean = true;
+        QString undoText;
+        QString redoText;
+    };
+
+    explicit ImageUndoStackPrivate(ImageUndoStack* stack) : q(stack) {}
+
+    void finishPending();
+    void dropRedo();
+    void add(Step step);
+    bool merge(ImageUndoCommand* command);
+    void removeLast();
+    void measure(Step& step);
+    void move(Step& step, void (Step::*act)());
+    void packOld();
+    void keepToBudget();
+    void tell();
+
+    ImageUndoStack* const q;
+    std::deque<Step> steps;
+    qint64 bytes = 0;             ///< of all steps
+    std::size_t firstLoose = 0;   ///< no step in front of it is left to pack
+    std::size_t index = 0;
+    int cleanIndex = 0;
+    qint64 budget = ImageUndoStack::DefaultBudget;
+    Step macro;
+    std::vector<std::size_t> macroBegins;  ///< where each open macro begins among its commands
+    std::function<void()> pending;
+    bool moving = false;
+    Shown shown;
+};
+
+void ImageUndoStackPrivate::finishPending()
+{
+    if (pending) {
+        const std::function<void()> finish = std::exchange(pending, nullptr);
+        finish();
+    }
+}
+
+void ImageUndoStackPrivate::dropRedo()
+{
+    while (steps.size() > index) {
+        bytes -= steps.back().bytes;
+        steps.pop_back();
+    }
+    firstLoose = std::min(firstLoose, index);
+    if (cleanIndex > int(index)) {
+        cleanIndex = -1;
+    }
+}
+
+void ImageUndoStackPrivate::add(Step step)
+{
+    steps.push_back(std::move(step));
+    ++index;
+    measure(steps.back());
+    packOld();
+    keepToBudget();
+}
+
+// A step that is clean stays as it is, so that its state can be reached again.
+bool ImageUndoStackPrivate::merge(ImageUndoCommand* command)
+{
+    if (index == 0 || cleanIndex == int(index) || steps.back().sealed ||
+        steps.back().commands.size() != 1) {
+        return false;
+    }
+    ImageUndoCommand* const last = steps.back().commands.front().get();
+    if (command->id() == -1 || last->id() != command->id() || !last->mergeWith(command)) {
+        return false;
+    }
+    if (last->isObsolete()) {
+        removeLast();
+    } else {
+        measure(steps.back());
+        keepToBudget();
+    }
+    return true;
+}
+
+void ImageUndoStackPrivate::removeLast()
+{
+    --index;
+    dropRedo();
+}
+
+void ImageUndoStackPrivate::measure(Step& step)
+{
+    bytes -= step.bytes;
+    step.measure();
+    bytes += step.bytes;
+}
+
+// What a step holds after it is fresh, and not packed.
+void ImageUndoStackPrivate::move(Step& step, void (Step::*act)())
+{
+    moving = true;
+    emit q->aboutToMove();
+    (step.*act)();
+    measure(step);
+    step.sealed = true;
+    step.packed = false;
+    firstLoose = std::min(firstLoose, index);
+    moving = false;
+}
+
+void ImageUndoStackPrivate::packOld()
+{
+    qint64 limit = PackedAtOnce;
+    while (firstLoose + StepsNotPacked < index && limit > 0) {
+        Step& step = steps[firstLoose];
+        limit = step.packed ? limit : step.pack(limit);
+        measure(step);
+        firstLoose += step.packed ? 1 : 0;
+    }
+}
+
+void ImageUndoStackPrivate::keepToBudget()
+{
+    for (std::size_t i = firstLoose; i < steps.size() && bytes > budget; ++i) {
+        steps[i].pack(std::numeric_limits<qint64>::max());
+        measure(steps[i]);
+    }
+    while (index > 1 && bytes > budget) {
+        bytes -= steps.front().bytes;
+        steps.pop_front();
+        --index;
+        firstLoose -= firstLoose > 0 ? 1 : 0;
+        // The clean state is lost once the step behind it is.
+        cleanIndex = std::max(cleanIndex - 1, -1);
+    }
+}
+
+void ImageUndoStackPrivate::tell()
+{
+    const Shown now = {int(index),   q->canUndo(),  q->canRedo(),
+                       q->isClean(), q->undoText(), q->redoText()};
+    const Shown before = std::exchange(shown, now);
+    if (now.index != before.index) {
+        emit q->indexChanged(now.index);
+    }
+    if (now.canUndo != before.canUndo) {
+        emit q->canUndoChanged(now.canUndo);
+    }
+    if (now.canRedo != before.canRedo) {
+        emit q->canRedoChanged(now.canRedo);
+    }
+    if (now.clean != before.clean) {
+        emit q->cleanChanged(now.clean);
+    }
+    if (now.undoText != before.undoText) {
+        emit q->undoTextChanged(now.undoText);
+    }
+    if (now.redoText != before.redoText) {
+        emit q->redoTextChanged(now.redoText);
+    }
+}
+
+ImageUndoStack::ImageUndoStack(QObject* parent)
+    : QObject(parent), d(std::make_unique<ImageUndoStackPrivate>(this))
+{
+}
+
+// Commands may hold the last references to layers; those of later steps go first.
+ImageUndoStack::~ImageUndoStack()
+{
+    d->macro.shrink(0);
+    d->index = 0;
+    d->dropRedo();
+}
+
+void ImageUndoStack::push(ImageUndoCommand* command)
+{
+    Command owned(command);
+    d->finishPending();
+    owned->redo();
+    if (owned->isObsolete()) {
+        return;
+    }
+    d->dropRedo();
+    if (!d->macroBegins.empty()) {
+        d->macro.commands.push_back(std::move(owned));
+        return;
+    }
+    if (!d->merge(command)) {
+        Step step;
+        step.text = command->text();
+        step.commands.push_back(std::move(owned));
+        d->add(std::move(step));
+    }
+    d->tell();
+}
+
+void ImageUndoStack::beginMacro(const QString& text)
+{
+    d->finishPending();
+    if (d->macroBegins.empty()) {
+        d->macro = Step();
+        d->macro.text = text;
+    }
+    d->macroBegins.push_back(d->macro.commands.size());
+}
+
+void ImageUndoStack::endMacro()
+{
+    d->finishPending();
+    if (d->macroBegins.empty()) {
+        return;
+    }
+    d->macroBegins.pop_back();
+    if (!d->macroBegins.empty()) {
+        return;
+    }
+    Step step = std::exchange(d->macro, Step());
+    if (!step.commands.empty()) {
+        step.sealed = true;
+        d->add(std::move(step));
+    }
+    d->tell();
+}
+
+void ImageUndoStack::cancelMacro()
+{
+    d->finishPending();
+    if (d->macroBegins.empty()) {
+        return;
+    }
+    const std::size_t begin = d->macroBegins.back();
+    for (std::size_t i = d->macro.commands.size(); i > begin; --i) {
+        d->macro.commands[i - 1]->undo();
+    }
+    d->macro.shrink(begin);
+    endMacro();
+}
+
+void ImageUndoStack::seal()
+{
+    d->finishPending();
+    if (d->index > 0) {
+        d->steps[d->index - 1].sealed = true;
+    }
+}
+
+void ImageUndoStack::undo()
+{
+    d->finishPending();
+    if (d->moving || !canUndo()) {
+        d->tell();
+        return;
+    }
+    d->move(d->steps[d->index - 1], &Step::undo);
+    --d->index;
+    emit moved();
+    d->tell();
+}
+
+void ImageUndoStack::redo()
+{
+    d->finishPending();
+    if (d->moving || !canRedo()) {
+        d->tell();
+        return;
+    }
+    d->move(d->steps[d->index], &Step::redo);
+    ++d->index;
+    emit moved();
+    d->tell();
+}
+
+void ImageUndoStack::clear()
+{
+    d->finishPending();
+    d->macroBegins.clear();
+    d->macro.shrink(0);
+    d->index = 0;
+    d->dropRedo();
+    d->cleanIndex = 0;
+    d->tell();
+}
+
+bool ImageUndoStack::canUndo() const
+{
+    return d->macroBegins.empty() && (d->index > 0 || d->pending);
+}
+
+bool ImageUndoStack::canRedo() const
+{
+    return d->macroBegins.empty() && d->index < d->steps.size() && !d->pending;
+}
+
+QString ImageUndoStack::undoText() const
+{
+    return d->index > 0 ? d->steps[d->index - 1].text : QString();
+}
+
+QString ImageUndoStack::redoText() const
+{
+    return d->index < d->steps.size() ? d->steps[d->index].text : QString();
+}
+
+bool ImageUndoStack::isClean() const
+{
+    return d->cleanIndex == int(d->index) && !d->pending && d->macro.commands.empty();
+}
+
+void ImageUndoStack::setClean()
+{
+    d->finishPending();
+    d->cleanIndex = int(d->index);
+    d->tell();
+}
+
+void ImageUndoStack::resetClean()
+{
+    d->cleanIndex = -1;
+    d->tell();
+}
+
+int ImageUndoStack::count() const
+{
+    return int(d->steps.size());
+}
+
+int ImageUndoStack::index() const
+{
+    return int(d->index);
+}
+
+qint64 ImageUndoStack::byteSize() const
+{
+    return d->bytes;
+}
+
+qint64 ImageUndoStack::budget() const
+{
+    return d->budget;
+}
+
+void ImageUndoStack::setBudget(qint64 bytes)
+{
+    d->budget = bytes;
+    d->keepToBudget();
+    d->tell();
+}
+
+void ImageUndoStack::setPending(const std::function<void()>& finish)
+{
+    d->pending = finish;
+    d->tell();
+}
+
+}  // namespace Zorv

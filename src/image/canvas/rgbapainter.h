@@ -1,0 +1,21 @@
+#pragma once
+
+#include "image/canvas/imagepainter.h"
+
+namespace Zorv {
+
+/// Paints in an image of `Format_ARGB32`; of any other it reads 0 and writes nothing. The palette
+/// tells the colours; a remap goes by the nearest entry of a pixel.
+class ZORV_EXPORT RGBAPainter : public ImagePainter
+{
+public:
+    using ImagePainter::ImagePainter;
+
+    void setColor(unsigned char index) override;
+    unsigned char color(const QPoint& point) const override;
+    bool canDraw(int x, int y) const override;
+    quint32 pixel(int x, int y) const override;
+    void setPixel(int x, int y) override;
+};
+
+}  // namespace Zorv
