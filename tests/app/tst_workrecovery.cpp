@@ -23,6 +23,7 @@ using Operations::AbandonedWorks;
 
 namespace {
 
+constexpr int Patience = 120000;  // ms, until a busy machine has started a program
 constexpr int Kills = 50;
 constexpr int KillsWithWindow = 10;
 constexpr int AssetKills = 25;
@@ -181,7 +182,7 @@ int TestWorkRecovery::killWhile(const QString& task, const QString& file, QRando
             reported.append(child.readLine().trimmed().toInt());
         }
     };
-    while (reported.size() < 2 && child.waitForReadyRead()) {
+    while (reported.size() < 2 && child.waitForReadyRead(Patience)) {
         read();
     }
     QTest::qWait(random->bounded(60));
