@@ -5887,6 +5887,17 @@ Möchten Sie die übrigen importieren?</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::ColorPalette</name>
+    <message>
+        <source>Foreground color</source>
+        <translation>Vordergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Background color</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::CompleterFile</name>
     <message>
         <source>The words to complete cannot be read from %1: %2</source>

@@ -22,8 +22,8 @@ ColorWidget::ColorWidget(QWidget* parent) : QWidget(parent)
 void ColorWidget::setColor(const unsigned int& color)
 {
     m_color = QColor::fromRgba(color);
-    setAccessibleDescription(m_color.name(m_color.alpha() < 255 ? QColor::HexArgb
-                                                                : QColor::HexRgb));
+    setAccessibleDescription(
+        m_color.name(m_color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb));
     update();
 }
 

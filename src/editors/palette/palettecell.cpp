@@ -25,8 +25,7 @@ void fillFrame(QPainter* painter, const QRect& rect, int width, const QColor& le
 }  // namespace
 
 CellPainter::CellPainter(QPainter* painter)
-    : m_painter(painter),
-      m_ratio(painter->device()->devicePixelRatioF()),
+    : m_painter(painter), m_ratio(painter->device()->devicePixelRatioF()),
       m_line(std::max(int(m_ratio), 1))
 {
     m_painter->save();
@@ -66,8 +65,8 @@ void CellPainter::paintEmpty(const QRect& cell, CellMarks marks)
     const QRect pixels = devicePixels(cell);
     paintEdges(pixels);
     const int dot = 2 * m_line;
-    const QPoint corner = pixels.topLeft() +
-                          QPoint((pixels.width() - dot) / 2, (pixels.height() - dot) / 2);
+    const QPoint corner =
+        pixels.topLeft() + QPoint((pixels.width() - dot) / 2, (pixels.height() - dot) / 2);
     m_painter->fillRect(QRect(corner, QSize(dot, dot)), Gray);
     paintMarks(pixels, marks);
 }

@@ -85,8 +85,9 @@ void PaletteRemapWidgetPrivate::showTip(PaletteRemapWidget* owner, const QPoint&
         return index < 0 ? QStringLiteral("\u2013") : QString::number(index);
     };
     QToolTip::showText(
-        global, PaletteRemapWidget::tr("%1, %2").arg(text(rows[row].source), text(rows[row].target)),
-        owner, cell(row, false) | cell(row, true));
+        global,
+        PaletteRemapWidget::tr("%1, %2").arg(text(rows[row].source), text(rows[row].target)), owner,
+        cell(row, false) | cell(row, true));
 }
 
 PaletteRemapWidget::PaletteRemapWidget(QWidget* parent, bool horizontal)

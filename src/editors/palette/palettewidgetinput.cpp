@@ -213,8 +213,8 @@ int PaletteWidgetPrivate::targetOf(int key) const
 bool PaletteWidgetPrivate::handles(const QKeyEvent* event) const
 {
     const Qt::KeyboardModifiers modifiers = event->modifiers() & Modifiers;
-    const bool isUsual = !modifiers || modifiers == Qt::ShiftModifier ||
-                         modifiers == Qt::ControlModifier;
+    const bool isUsual =
+        !modifiers || modifiers == Qt::ShiftModifier || modifiers == Qt::ControlModifier;
     switch (event->key()) {
     case Qt::Key_Escape:
         return held || dragging;

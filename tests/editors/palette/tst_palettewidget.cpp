@@ -221,9 +221,9 @@ void TestPaletteWidget::select_data()
     row("Ctrl with Shift", {click(5), click(9, ctrl | shift)}, "5", 1, 0, "5 9");
     row("the right button", {click(5), click(5, {}, Qt::RightButton)}, "", 2, 0, "5 5");
     row("the middle button", {click(5), click(6, {}, Qt::MiddleButton)}, "5", 1, 0, "5 6");
-    row("right of the grid", {[](QWidget* widget) {
-            QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(192, 3));
-        }}, "", 0, 0, "");
+    row("right of the grid",
+        {[](QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(192, 3)); }},
+        "", 0, 0, "");
     row("below the slots", {click(200)}, "", 0, 0, "");
     row("arrows", {click(17), key(Qt::Key_Down), key(Qt::Key_Left), key(Qt::Key_Up)}, "16", 4, 0,
         "17");
@@ -232,8 +232,9 @@ void TestPaletteWidget::select_data()
     row("ends", {click(18), key(Qt::Key_Home), key(Qt::Key_Left), key(Qt::Key_End)}, "99", 4, 0,
         "18");
     row("Space", {key(Qt::Key_Right, ctrl), key(Qt::Key_Space)}, "1", 1, 0, "1");
-    row("Ctrl with Space", {click(4), key(Qt::Key_Right, ctrl), key(Qt::Key_Space, ctrl),
-                            key(Qt::Key_Left, ctrl), key(Qt::Key_Space, ctrl)},
+    row("Ctrl with Space",
+        {click(4), key(Qt::Key_Right, ctrl), key(Qt::Key_Space, ctrl), key(Qt::Key_Left, ctrl),
+         key(Qt::Key_Space, ctrl)},
         "5", 3, 0, "4 5");
 }
 
@@ -270,9 +271,8 @@ void TestPaletteWidget::noDrag_data()
         send(widget, QEvent::MouseButtonPress, place(9), Qt::RightButton);
         drop(widget, place(9), Qt::RightButton);
     });
-    QTest::newRow("fewer slots") << Work([](QWidget* widget) {
-        static_cast<PaletteWidget*>(widget)->setColorCount(4);
-    });
+    QTest::newRow("fewer slots") << Work(
+        [](QWidget* widget) { static_cast<PaletteWidget*>(widget)->setColorCount(4); });
 }
 
 void TestPaletteWidget::noDrag()
