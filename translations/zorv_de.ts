@@ -6104,6 +6104,21 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     </message>
 </context>
 <context>
+    <name>Zorv::PalettePreviews</name>
+    <message>
+        <source>The image has no palette: its colours are its own.</source>
+        <translation>Das Bild hat keine Palette: Seine Farben sind seine eigenen.</translation>
+    </message>
+    <message>
+        <source>There is no palette to show.</source>
+        <translation>Es gibt keine Palette zu zeigen.</translation>
+    </message>
+    <message>
+        <source>Palettes side by side</source>
+        <translation>Paletten nebeneinander</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::PaletteRemapWidget</name>
     <message>
         <source>%1, %2</source>

@@ -3,6 +3,7 @@
 #include "editors/palette/palettecell_p.h"
 #include "image/canvas/imagecanvas.h"
 #include "image/canvas/imageforms_p.h"
+#include "image/canvas/imagelayer.h"
 #include "image/previewgrid_p.h"
 
 #include <QHelpEvent>
@@ -166,9 +167,9 @@ void PalettePreviewsPrivate::paintLabel(QPainter* painter, int index) const
     const bool isCurrent = index == current;
     const QPalette& colors = owner->palette();
     if (isCurrent) {
-        painter->fillRect(place, colors.color(owner->hasFocus() ? QPalette::Active
-                                                                : QPalette::Inactive,
-                                              QPalette::Highlight));
+        painter->fillRect(place,
+                          colors.color(owner->hasFocus() ? QPalette::Active : QPalette::Inactive,
+                                       QPalette::Highlight));
     }
     painter->setPen(colors.color(isCurrent ? QPalette::HighlightedText : QPalette::WindowText));
     painter->drawText(place, Qt::AlignCenter,

@@ -82,16 +82,27 @@ void CellPainter::paintWell(const QRect& well, RGBA color, int square)
 void CellPainter::fillColor(const QRect& pixels, RGBA color, int square, const QRect& origin)
 {
     if (color.a != 255) {
-        m_painter->fillRect(pixels, Qt::white);
-        for (int y = 0; y < origin.height(); y += square) {
-            const int first = y / square % 2 * square;
-            for (int x = first; x < origin.width(); x += 2 * square) {
-                const QRect gray(origin.x() + x, origin.y() + y, square, square);
-                m_painter->fillRect(gray & pixels, Gray);
-            }
-        }
+        paintChequer(origin, pixels, square);
     }
     m_painter->fillRect(pixels, QColor(color.r, color.g, color.b, color.a));
+}
+
+void CellPainter::paintChequer(const QRect& pixels, const QRect& exposed, int square)
+{
+    const QRect seen = pixels & exposed;
+    if (seen.isEmpty()) {
+        return;
+    }
+    m_painter->fillRect(seen, Qt::white);
+    const QRect inside = seen.translated(-pixels.topLeft());
+    const QPoint from(inside.left() / square, inside.top() / square);
+    const QPoint to(inside.right() / square, inside.bottom() / square);
+    for (int y = from.y(); y <= to.y(); ++y) {
+        for (int x = from.x() + (from.x() + y) % 2; x <= to.x(); x += 2) {
+            const QPoint corner = pixels.topLeft() + QPoint(x, y) * square;
+            m_painter->fillRect(QRect(corner, QSize(square, square)) & seen, Gray);
+        }
+    }
 }
 
 void CellPainter::paintEdges(const QRect& pixels)

@@ -35,6 +35,10 @@ public:
     /// A colour above squares of this size.
     void paintWell(const QRect& well, RGBA color, int square);
 
+    /// Squares below a picture, as far as they are `exposed`; all in pixels of the screen, from the
+    /// corner of the widget.
+    void paintChequer(const QRect& pixels, const QRect& exposed, int square);
+
 private:
     QRect devicePixels(const QRect& rect) const;
     void fillColor(const QRect& pixels, RGBA color, int square, const QRect& origin);
