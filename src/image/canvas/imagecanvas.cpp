@@ -195,9 +195,8 @@ ImageLayer* ImageCanvas::newRasterLayer(const QImage& image)
         return nullptr;
     }
     // An image's own colour table tells its colours; a layer has none.
-    ImageLayer* const layer =
-        image.isNull() ? new RasterLayer(this, d->size, d->format)
-                       : new RasterLayer(this, d->adapted(image));
+    ImageLayer* const layer = image.isNull() ? new RasterLayer(this, d->size, d->format)
+                                             : new RasterLayer(this, d->adapted(image));
     if (!d->layers->add(layer, true)) {
         layer->release();
         return nullptr;

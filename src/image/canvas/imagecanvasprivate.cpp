@@ -119,7 +119,8 @@ bool ImageCanvasPrivate::isPossible(const QSize& newSize)
 {
     if (!isPossibleSize(newSize)) {
         refuse(tr("The image cannot have %1 by %2 pixels: each side must have from 1 to %3.")
-                   .arg(QString::number(newSize.width()), QString::number(newSize.height()), QString::number(ImageCanvas::MaxSide)));
+                   .arg(QString::number(newSize.width()), QString::number(newSize.height()),
+                        QString::number(ImageCanvas::MaxSide)));
         return false;
     }
     const qint64 pixelBytes = format == ImageCanvas::RGBAFormat ? 4 : 1;
@@ -153,16 +154,13 @@ QImage ImageCanvasPrivate::adapted(const QImage& image) const
 {
     QImage result = image;
     if (format == ImageCanvas::IndexedFormat) {
-        if (!isIndexed(image)) {
-            result = toIndices(layerImage(image), AlikePalette(palette));
-        }
+        result = isIndexed(image) ? image : toIndices(layerImage(image), AlikePalette(palette));
     } else if (isIndexed(image) && image.colorCount() == 0) {
         result = toColors(image, *palette);
+    } else {
+        result = image.convertToFormat(QImage::Format_ARGB32);
     }
     result = layerImage(result);
-    if (result.format() != imageFormat(format)) {
-        result = result.convertToFormat(imageFormat(format));
-    }
     return result.isNull() || result.size() == size
                ? result
                : placed(result, size, QPoint(), clearPixel(format));

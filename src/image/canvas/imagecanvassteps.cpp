@@ -98,8 +98,7 @@ bool ImageCanvas::flip(bool horizontal, bool vertical)
         const QPoint axis(horizontal ? d->size.width() - d->axis.x() : d->axis.x(),
                           vertical ? d->size.height() - d->axis.y() : d->axis.y());
         d->recordAxis(axis);
-        return d->forLayers(
-            [&](ImageLayer& layer) { return layer.flip(horizontal, vertical); });
+        return d->forLayers([&](ImageLayer& layer) { return layer.flip(horizontal, vertical); });
     });
 }
 
@@ -133,10 +132,9 @@ bool ImageCanvasPrivate::rotateLayers(bool all, float angle, ImageResizeFilter f
         const QSize turned = (all ? layers->at(0) : active)->image().size();
         const bool others = !all && layers->count() > 1;
         const QSize newSize = others ? turned.expandedTo(before) : turned;
-        const QPoint newAxis =
-            others ? axis + QPoint((newSize.width() - before.width()) >> 1,
-                                   (newSize.height() - before.height()) >> 1)
-                   : turnedPoint(axis, before, turned, angle, newSize);
+        const QPoint newAxis = others ? axis + QPoint((newSize.width() - before.width()) >> 1,
+                                                      (newSize.height() - before.height()) >> 1)
+                                      : turnedPoint(axis, before, turned, angle, newSize);
         if (newSize != before) {
             recordSize(newSize);
         }
@@ -175,9 +173,8 @@ bool ImageCanvas::crop()
         d->refuse(ImageCanvasPrivate::tr("There is nothing to crop to: no pixel shows."));
         return false;
     }
-    return shown.size() == d->size || d->macro("crop", [&] {
-        return d->resizeLayers(shown.size(), -shown.topLeft());
-    });
+    return shown.size() == d->size ||
+           d->macro("crop", [&] { return d->resizeLayers(shown.size(), -shown.topLeft()); });
 }
 
 bool ImageCanvas::changePalette(const RGBA (&from)[256], const RGBA (&to)[256])

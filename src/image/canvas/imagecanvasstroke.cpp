@@ -24,8 +24,7 @@ void ImageCanvas::changing(ImageLayer* layer)
     }
 }
 
-void ImageCanvas::beginStroke(ImageLayer* layer, StrokeKind kind, const QString& title,
-                              int mergeId)
+void ImageCanvas::beginStroke(ImageLayer* layer, StrokeKind kind, const QString& title, int mergeId)
 {
     endStroke();
     if (layer && !d->layers->contains(layer)) {

@@ -84,7 +84,7 @@ void ImageLayer::setVisible(bool visible)
         m_visible = visible;
         if (m_canvas) {
             ImageCanvasPrivate::of(m_canvas).rowDiffers(this);
-            ImageCanvasPrivate::of(m_canvas).looksDifferent(this, m_image.rect());
+            ImageCanvasPrivate::of(m_canvas).looksDifferent(this, image().rect());
         }
     }
 }
@@ -124,19 +124,30 @@ void ImageLayer::setOpacity(double opacity, bool record)
     }
 }
 
+// Whoever asks a removed layer for its image gets it, as if it had never been packed.
+void ImageLayer::unpack() const
+{
+    if (m_packed) {
+        m_packed->exchange(m_image);
+        m_packed.reset();
+    }
+}
+
 const QImage& ImageLayer::image() const
 {
+    unpack();
     return m_image;
 }
 
 QImage* ImageLayer::pixels()
 {
+    unpack();
     return &m_image;
 }
 
 void ImageLayer::setImage(const QImage& image)
 {
-    const QRect before = m_image.rect();
+    const QRect before = pixels()->rect();
     if (m_canvas) {
         ImageCanvasPrivate::of(m_canvas).keepWhole(this);
     }
@@ -148,7 +159,7 @@ void ImageLayer::setImage(const QImage& image)
 
 void ImageLayer::render(QPainter& painter) const
 {
-    if (m_image.isNull()) {
+    if (image().isNull()) {
         return;
     }
     painter.setCompositionMode(m_blendMode);

@@ -12,6 +12,8 @@
 
 namespace Zorv {
 
+class PixelTiles;
+
 /// One layer of a canvas: an image with what tells how it is drawn.
 ///
 /// Layers are counted: who makes one holds a reference, and each further holder takes one more.
@@ -89,7 +91,10 @@ protected:
 
 private:
     Q_DISABLE_COPY(ImageLayer)
+    friend class HeldLayer;
     friend class ImageLayersPrivate;
+
+    void unpack() const;
 
     int m_refCount = 1;
     QPointer<ImageCanvas> m_canvas;
@@ -97,7 +102,8 @@ private:
     QString m_name;
     QPainter::CompositionMode m_blendMode = QPainter::CompositionMode_SourceOver;
     double m_opacity = 1.0;
-    QImage m_image;
+    mutable QImage m_image;
+    mutable std::unique_ptr<PixelTiles> m_packed;  ///< in its place, while only the history has it
 };
 
 }  // namespace Zorv

@@ -110,8 +110,8 @@ void ImageLayers::remove(unsigned index, bool record)
     d->canvas->endStroke();
     const LayerRef layer = d->take(int(index));
     if (record) {
-        ImageCanvasPrivate::of(d->canvas)
-            .push(new RasterLayerDel(d->canvas, layer.get(), int(index)));
+        ImageCanvasPrivate::of(d->canvas).push(
+            new RasterLayerDel(d->canvas, layer.get(), int(index)));
     }
 }
 

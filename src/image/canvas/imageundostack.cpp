@@ -99,8 +99,8 @@ public:
 
     ImageUndoStack* const q;
     std::deque<Step> steps;
-    qint64 bytes = 0;             ///< of all steps
-    std::size_t firstLoose = 0;   ///< no step in front of it is left to pack
+    qint64 bytes = 0;            ///< of all steps
+    std::size_t firstLoose = 0;  ///< no step in front of it is left to pack
     std::size_t index = 0;
     int cleanIndex = 0;
     qint64 budget = ImageUndoStack::DefaultBudget;

@@ -162,9 +162,8 @@ bool RasterLayer::reformat(ImageCanvas::Format format, ImagePalette* palette)
     if (image().isNull() || image().format() == imageFormat(format)) {
         return true;
     }
-    return replace(this, format == ImageCanvas::RGBAFormat
-                             ? toColors(image(), *palette)
-                             : toIndices(image(), *palette));
+    return replace(this, format == ImageCanvas::RGBAFormat ? toColors(image(), *palette)
+                                                           : toIndices(image(), *palette));
 }
 
 QRect RasterLayer::cropRect() const

@@ -28,9 +28,8 @@ void RGBAPainter::setColor(unsigned char index)
 
 unsigned char RGBAPainter::color(const QPoint& point) const
 {
-    return canUse(m_image, point.x(), point.y())
-               ? indexOf(*m_palette, pixel(point.x(), point.y()))
-               : static_cast<unsigned char>(0);
+    return canUse(m_image, point.x(), point.y()) ? indexOf(*m_palette, pixel(point.x(), point.y()))
+                                                 : static_cast<unsigned char>(0);
 }
 
 bool RGBAPainter::canDraw(int x, int y) const
@@ -40,9 +39,7 @@ bool RGBAPainter::canDraw(int x, int y) const
 
 quint32 RGBAPainter::pixel(int x, int y) const
 {
-    return canUse(m_image, x, y)
-               ? reinterpret_cast<const QRgb*>(m_image->constScanLine(y))[x]
-               : 0;
+    return canUse(m_image, x, y) ? reinterpret_cast<const QRgb*>(m_image->constScanLine(y))[x] : 0;
 }
 
 void RGBAPainter::setPixel(int x, int y)

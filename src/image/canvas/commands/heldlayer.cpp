@@ -6,16 +6,13 @@ namespace Zorv {
 
 void HeldLayer::putInto(ImageCanvas* canvas, int row)
 {
-    if (m_isPacked) {
-        m_pixels.exchange(*m_layer->pixels());
-        m_pixels = PixelTiles();
-        m_isPacked = false;
-    }
+    m_place = In;
     ImageLayersPrivate::of(canvas).insert(m_layer, row);
 }
 
 void HeldLayer::takeFrom(ImageCanvas* canvas)
 {
+    m_place = Out;
     const int row = m_layer->index();
     if (row >= 0) {
         ImageLayersPrivate::of(canvas).take(row);
@@ -24,21 +21,24 @@ void HeldLayer::takeFrom(ImageCanvas* canvas)
 
 qint64 HeldLayer::byteSize() const
 {
-    if (m_isPacked) {
-        return m_pixels.byteSize();
+    if (m_place == In) {
+        return 0;
     }
-    return m_layer->index() < 0 ? qint64(m_layer->image().sizeInBytes()) : 0;
+    return m_layer->m_packed ? m_layer->m_packed->byteSize()
+                             : qint64(m_layer->m_image.sizeInBytes());
 }
 
 qint64 HeldLayer::pack(qint64 limit)
 {
-    if (!m_isPacked && m_layer->index() < 0 && !m_layer->image().isNull()) {
-        m_pixels = PixelTiles(m_layer->image());
-        m_pixels.save(m_layer->image(), m_layer->image().rect());
-        *m_layer->pixels() = QImage();
-        m_isPacked = true;
+    if (m_place == In || m_layer->index() >= 0) {
+        return 0;
     }
-    return m_pixels.pack(limit);
+    if (!m_layer->m_packed && !m_layer->m_image.isNull()) {
+        m_layer->m_packed = std::make_unique<PixelTiles>(m_layer->m_image);
+        m_layer->m_packed->save(m_layer->m_image, m_layer->m_image.rect());
+        m_layer->m_image = QImage();
+    }
+    return m_layer->m_packed ? m_layer->m_packed->pack(limit) : 0;
 }
 
 }  // namespace Zorv

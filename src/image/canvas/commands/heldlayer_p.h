@@ -1,16 +1,18 @@
 #pragma once
 
 #include "image/canvas/layerref_p.h"
-#include "image/canvas/pixeltiles_p.h"
 
 namespace Zorv {
 
-/// The layer of a command, which holds its pixels alone while it is in no list. They can be packed
-/// then, and the layer has none until it comes back.
+/// The layer of a command that takes it out of the list or puts it there. While it is out, its
+/// pixels count as the command's, and can be packed.
 class HeldLayer
 {
 public:
-    explicit HeldLayer(ImageLayer* layer) : m_layer(layer) {}
+    /// Whether the layer is in the list or out of it when the command is made.
+    enum Place { In, Out };
+
+    HeldLayer(ImageLayer* layer, Place place) : m_layer(layer), m_place(place) {}
 
     void putInto(ImageCanvas* canvas, int row);
     void takeFrom(ImageCanvas* canvas);
@@ -21,8 +23,7 @@ public:
 
 private:
     LayerRef m_layer;
-    PixelTiles m_pixels;  ///< those of the layer while they are packed
-    bool m_isPacked = false;
+    Place m_place;
 };
 
 }  // namespace Zorv

@@ -1,6 +1,5 @@
 #include "image/canvas/commands/imagecanvasaxis_p.h"
 
-
 namespace Zorv {
 
 ImageCanvasAxis::ImageCanvasAxis(ImageCanvas* canvas, const QPoint& before)

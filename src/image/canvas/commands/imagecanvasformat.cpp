@@ -1,6 +1,5 @@
 #include "image/canvas/commands/imagecanvasformat_p.h"
 
-
 namespace Zorv {
 
 ImageCanvasFormat::ImageCanvasFormat(ImageCanvas* canvas, ImageCanvas::Format before)

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "image/canvas/imageundocommand.h"
 #include "image/canvas/imagecanvas.h"
+#include "image/canvas/imageundocommand.h"
 
 namespace Zorv {
 

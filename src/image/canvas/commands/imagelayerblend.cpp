@@ -1,6 +1,5 @@
 #include "image/canvas/commands/imagelayerblend_p.h"
 
-
 namespace Zorv {
 
 ImageLayerBlend::ImageLayerBlend(ImageLayer* layer, QPainter::CompositionMode before)

@@ -1,6 +1,5 @@
 #include "image/canvas/commands/imagelayername_p.h"
 
-
 namespace Zorv {
 
 ImageLayerName::ImageLayerName(ImageLayer* layer, const QString& before)

@@ -1,6 +1,5 @@
 #include "image/canvas/commands/imagelayeropacity_p.h"
 
-
 namespace Zorv {
 
 ImageLayerOpacity::ImageLayerOpacity(ImageLayer* layer, double before)

@@ -1,10 +1,9 @@
 #include "image/canvas/commands/rasterlayeradd_p.h"
 
-
 namespace Zorv {
 
 RasterLayerAdd::RasterLayerAdd(ImageCanvas* canvas, ImageLayer* layer)
-    : ImageUndoCommand(QStringLiteral("layerAdd")), m_canvas(canvas), m_layer(layer)
+    : ImageUndoCommand(QStringLiteral("layerAdd")), m_canvas(canvas), m_layer(layer, HeldLayer::In)
 {
 }
 

@@ -1,10 +1,10 @@
 #include "image/canvas/commands/rasterlayerdel_p.h"
 
-
 namespace Zorv {
 
 RasterLayerDel::RasterLayerDel(ImageCanvas* canvas, ImageLayer* layer, int row)
-    : ImageUndoCommand(QStringLiteral("layerDelete")), m_canvas(canvas), m_layer(layer), m_row(row)
+    : ImageUndoCommand(QStringLiteral("layerDelete")), m_canvas(canvas),
+      m_layer(layer, HeldLayer::Out), m_row(row)
 {
 }
 

@@ -7,7 +7,8 @@
 namespace Zorv {
 
 RasterLayerEdit::RasterLayerEdit(ImageLayer* layer, PixelTiles before, int mergeId)
-    : ImageUndoCommand(QStringLiteral("edit")), m_layer(layer), m_tiles(std::move(before)), m_mergeId(mergeId)
+    : ImageUndoCommand(QStringLiteral("edit")), m_layer(layer), m_tiles(std::move(before)),
+      m_mergeId(mergeId)
 {
     setObsolete(m_tiles.isEmpty());
 }

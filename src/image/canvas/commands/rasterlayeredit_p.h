@@ -6,8 +6,8 @@
 
 namespace Zorv {
 
-/// The pixels of a layer, of which it exchanges the tiles that differ, or all if the size or the form
-/// is another.
+/// The pixels of a layer, of which it exchanges the tiles that differ, or all if the size or the
+/// form is another.
 class RasterLayerEdit : public ImageUndoCommand
 {
 public:

@@ -1,10 +1,10 @@
 #include "image/canvas/commands/rasterlayerflip_p.h"
 
-
 namespace Zorv {
 
 RasterLayerFlip::RasterLayerFlip(ImageLayer* layer, bool horizontal, bool vertical)
-    : ImageUndoCommand(QStringLiteral("flip")), m_layer(layer), m_horizontal(horizontal), m_vertical(vertical)
+    : ImageUndoCommand(QStringLiteral("flip")), m_layer(layer), m_horizontal(horizontal),
+      m_vertical(vertical)
 {
 }
 

@@ -1,10 +1,10 @@
 #include "image/canvas/commands/rasterlayerinsert_p.h"
 
-
 namespace Zorv {
 
 RasterLayerInsert::RasterLayerInsert(ImageCanvas* canvas, ImageLayer* layer, int row)
-    : ImageUndoCommand(QStringLiteral("layerInsert")), m_canvas(canvas), m_layer(layer), m_row(row)
+    : ImageUndoCommand(QStringLiteral("layerInsert")), m_canvas(canvas),
+      m_layer(layer, HeldLayer::In), m_row(row)
 {
 }
 
