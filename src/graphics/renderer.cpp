@@ -31,6 +31,10 @@ void Renderer::mouseReleased(QPoint, Qt::MouseButton, Qt::KeyboardModifiers) {}
 void Renderer::mouseMoved(QPoint, Qt::KeyboardModifiers) {}
 void Renderer::mouseWheel(int) {}
 void Renderer::sizeChanged(int, int) {}
+void Renderer::pointerMoved(QPointF) {}
+void Renderer::focusLost() {}
+void Renderer::mouseLeft() {}
+void Renderer::grabLost() {}
 
 QColor Renderer::clearColor() const
 {

@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QOpenGLFunctions>
 #include <QPoint>
+#include <QPointF>
 
 class QMatrix4x4;
 class QPainter;
@@ -62,6 +63,21 @@ public:
 
     /// What the widget is cleared with: magenta, which shows where nothing was drawn.
     virtual QColor clearColor() const;
+
+    /// The exact place of the pointer, in front of each call for mouse and wheel. Those for the
+    /// mouse round it, which on a screen of finer pixels is another one of them.
+    virtual void pointerMoved(QPointF pos);
+
+    /// The widget has lost the focus: what is held down will not be heard of when it is let go.
+    virtual void focusLost();
+
+    /// The pointer has left the widget. A drag that is under way goes on outside of it without this
+    /// call.
+    virtual void mouseLeft();
+
+    /// Buttons that were pressed will not be released: the widget was hidden or disabled, or
+    /// another took the mouse.
+    virtual void grabLost();
 
     /// Brackets a run of drawing calls between `QPainter::beginNativePainting()` and
     /// `endNativePainting()`. The first draw binds everything; the end leaves GL as `QPainter`

@@ -10,7 +10,10 @@
 #include <QOpenGLPaintDevice>
 #include <QPainter>
 #include <QPointer>
+#include <QTabletEvent>
 #include <QWheelEvent>
+
+#include <utility>
 
 namespace Zorv {
 
@@ -19,6 +22,7 @@ RenderWidget::RenderWidget(QWidget* parent)
 {
     setAutoFillBackground(false);
     setMouseTracking(true);
+    setTabletTracking(true);
 }
 
 RenderWidget::~RenderWidget()
@@ -166,29 +170,46 @@ void RenderWidget::keyReleaseEvent(QKeyEvent* event)
 void RenderWidget::mousePressEvent(QMouseEvent* event)
 {
     QOpenGLWidget::mousePressEvent(event);
-    if (d->renderer) {
-        d->pressed.setFlag(event->button());
-        d->pointer = event->localPos().toPoint();
-        d->renderer->mousePressed(d->pointer, event->button(), event->modifiers());
-    }
+    passPress(event->localPos(), event->button(), event->modifiers());
 }
 
 void RenderWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     QOpenGLWidget::mouseReleaseEvent(event);
-    if (d->renderer) {
-        d->pressed.setFlag(event->button(), false);
-        d->renderer->mouseReleased(event->localPos().toPoint(), event->button(),
-                                   event->modifiers());
-    }
+    passRelease(event->localPos(), event->button(), event->modifiers());
 }
 
 void RenderWidget::mouseMoveEvent(QMouseEvent* event)
 {
     QOpenGLWidget::mouseMoveEvent(event);
+    passMove(event->localPos(), event->modifiers());
+}
+
+void RenderWidget::passPress(QPointF pos, Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
+{
     if (d->renderer) {
-        d->pointer = event->localPos().toPoint();
-        d->renderer->mouseMoved(d->pointer, event->modifiers());
+        d->pressed.setFlag(button);
+        d->pointer = pos.toPoint();
+        d->renderer->pointerMoved(pos);
+        d->renderer->mousePressed(d->pointer, button, modifiers);
+    }
+}
+
+void RenderWidget::passRelease(QPointF pos, Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
+{
+    if (d->renderer) {
+        d->pressed.setFlag(button, false);
+        d->renderer->pointerMoved(pos);
+        d->renderer->mouseReleased(pos.toPoint(), button, modifiers);
+    }
+}
+
+void RenderWidget::passMove(QPointF pos, Qt::KeyboardModifiers modifiers)
+{
+    if (d->renderer) {
+        d->pointer = pos.toPoint();
+        d->renderer->pointerMoved(pos);
+        d->renderer->mouseMoved(d->pointer, modifiers);
     }
 }
 
@@ -198,8 +219,57 @@ void RenderWidget::wheelEvent(QWheelEvent* event)
     QOpenGLWidget::wheelEvent(event);
     if (d->renderer) {
         const QPoint angle = event->angleDelta();
+        d->renderer->pointerMoved(event->position());
         d->renderer->mouseWheel(qAbs(angle.x()) > qAbs(angle.y()) ? angle.x() : angle.y());
     }
+}
+
+// One that is not accepted would come once more, as a mouse.
+void RenderWidget::tabletEvent(QTabletEvent* event)
+{
+    QOpenGLWidget::tabletEvent(event);
+    event->accept();
+    if (event->type() == QEvent::TabletPress && d->pen == Qt::NoButton) {
+        d->pen = event->button() == Qt::NoButton ? Qt::LeftButton : event->button();
+        passPress(event->posF(), d->pen, event->modifiers());
+    } else if (event->type() == QEvent::TabletRelease && event->buttons() == Qt::NoButton) {
+        if (const auto button = std::exchange(d->pen, Qt::NoButton)) {
+            passRelease(event->posF(), button, event->modifiers());
+        }
+    } else if (event->type() == QEvent::TabletMove) {
+        passMove(event->posF(), event->modifiers());
+    }
+}
+
+void RenderWidget::focusOutEvent(QFocusEvent* event)
+{
+    QOpenGLWidget::focusOutEvent(event);
+    if (d->renderer) {
+        d->renderer->focusLost();
+    }
+}
+
+// A pen holds no grab: what it draws goes on outside.
+void RenderWidget::leaveEvent(QEvent* event)
+{
+    QOpenGLWidget::leaveEvent(event);
+    if (d->renderer && d->pen == Qt::NoButton) {
+        d->renderer->mouseLeft();
+    }
+}
+
+bool RenderWidget::event(QEvent* event)
+{
+    const QPointer<RenderWidget> self = this;
+    const QEvent::Type type = event->type();
+    const bool isUsed = QOpenGLWidget::event(event);
+    const bool loses = type == QEvent::Hide || type == QEvent::UngrabMouse ||
+                       (type == QEvent::EnabledChange && self && !isEnabled());
+    if (self && loses && d->renderer && d->pressed) {
+        d->pen = Qt::NoButton;
+        d->renderer->grabLost();
+    }
+    return isUsed;
 }
 
 }  // namespace Zorv

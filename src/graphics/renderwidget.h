@@ -14,6 +14,7 @@ class Renderer;
 struct RenderWidgetPrivate;
 
 /// The widget that the stage is on. It hands input and painting to the `Renderer` attached to it.
+/// The pen of a tablet counts as a mouse.
 ///
 /// Needs a display whose GL works (`isContextUsable()`). A picture of it (`grab()`), or of a window
 /// around it, has all that the renderer draws, by GL and by its painter. Main thread only.
@@ -60,10 +61,17 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void tabletEvent(QTabletEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     friend class Renderer;
 
+    void passPress(QPointF pos, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    void passRelease(QPointF pos, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    void passMove(QPointF pos, Qt::KeyboardModifiers modifiers);
     void freePrograms();
     void releaseButtons();
 

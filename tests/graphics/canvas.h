@@ -42,6 +42,10 @@ public:
         events += QStringLiteral("move %1,%2").arg(pos.x()).arg(pos.y());
     }
     void mouseWheel(int delta) override { events += QStringLiteral("wheel %1").arg(delta); }
+    void pointerMoved(QPointF pos) override { pointer = pos; }
+    void focusLost() override { events += QStringLiteral("focus lost"); }
+    void mouseLeft() override { events += QStringLiteral("left"); }
+    void grabLost() override { events += QStringLiteral("grab lost"); }
     void sizeChanged(int width, int height) override { size = QSize(width, height); }
     QColor clearColor() const override { return QColor(20, 40, 60, 0); }
     void render(QPainter& painter) override
@@ -61,6 +65,7 @@ public:
     std::function<void(QPainter&)> underneath;
     std::function<void()> draw;
     QStringList events;
+    QPointF pointer;
     QSize size;
 };
 

@@ -5,6 +5,7 @@
 #include <QOpenGLShaderProgram>
 #include <QScopeGuard>
 #include <QSignalSpy>
+#include <QTabletEvent>
 #include <QWheelEvent>
 
 /// Input, shaders, and renderers and windows that come and go.
@@ -20,6 +21,8 @@ private slots:
     void takesOtherShaders();
     void setsAnewWhatAListenerChanged();
     void passesInputOn();
+    void penIsAMouse();
+    void tellsWhatIsLost();
     void isGrabbedWhole();
     void partsAtAnyTime();
     void goesToAnotherWindow_data();
@@ -145,6 +148,62 @@ void TestRenderWidget::passesInputOn()
     s->canvas.events.removeAll("move 3,4");  // of the pointer that the test moves
     QCOMPARE(s->canvas.events.join("; "), expected.join("; "));
     QVERIFY(widget.hasMouseTracking());
+}
+
+// Down once, whatever is pressed on it meanwhile; without a second call as a mouse; and it may
+// leave the widget on its way.
+void TestRenderWidget::penIsAMouse()
+{
+    struct Step
+    {
+        QEvent::Type type;
+        QPointF pos;
+        Qt::MouseButton button;
+        Qt::MouseButtons buttons;
+    };
+    for (const Step& step :
+         {Step{QEvent::TabletMove, {1.2, 2}, Qt::NoButton, {}},
+          Step{QEvent::TabletPress, {3.6, 4}, Qt::LeftButton, Qt::LeftButton},
+          Step{QEvent::TabletPress, {3, 4}, Qt::RightButton, Qt::LeftButton | Qt::RightButton},
+          Step{QEvent::TabletRelease, {3, 4}, Qt::RightButton, Qt::LeftButton},
+          Step{QEvent::TabletMove, {80, 5}, Qt::NoButton, Qt::LeftButton},
+          Step{QEvent::Leave, {}, Qt::NoButton, {}},
+          Step{QEvent::TabletRelease, {6, 7.3}, Qt::LeftButton, {}},
+          Step{QEvent::TabletRelease, {6, 7}, Qt::LeftButton, {}},
+          Step{QEvent::Leave, {}, Qt::NoButton, {}}}) {
+        QTabletEvent pen(step.type, step.pos, step.pos, QTabletEvent::Stylus, QTabletEvent::Pen, 1,
+                         0, 0, 0, 0, 0, Qt::NoModifier, 1, step.button, step.buttons);
+        QEvent leave(QEvent::Leave);
+        QEvent& event = step.type == QEvent::Leave ? leave : pen;
+        QCoreApplication::sendEvent(&s->widget, &event);
+        QVERIFY(event.isAccepted());
+    }
+    QCOMPARE(s->canvas.events.join("; "),
+             QStringLiteral("move 1,2; down 4,4 1; move 80,5; up 6,7; left"));
+    QCOMPARE(s->canvas.pointer, QPointF(6, 7.3));
+}
+
+void TestRenderWidget::tellsWhatIsLost()
+{
+    RenderWidget& widget = s->widget;
+    const auto lost = [&] {
+        QStringList events;
+        std::swap(events, s->canvas.events);
+        return events.filter(QStringLiteral("lost")).join("; ");
+    };
+    QFocusEvent focus(QEvent::FocusOut);
+    QCoreApplication::sendEvent(&widget, &focus);
+    QCOMPARE(lost(), QStringLiteral("focus lost"));
+    widget.setEnabled(false);
+    widget.setEnabled(true);
+    QCOMPARE(lost(), QString());
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(3, 4));
+    widget.setEnabled(false);
+    QCOMPARE(lost(), QStringLiteral("grab lost"));
+    widget.setEnabled(true);
+    QCOMPARE(lost(), QString());
+    widget.hide();
+    QCOMPARE(lost(), QStringLiteral("grab lost"));
 }
 
 // The widget by itself and in a window, as often as one likes, and painting goes on as before.
