@@ -1,5 +1,7 @@
 #pragma once
 
+#include "zorv_export.h"
+
 #include <QRect>
 #include <QSize>
 
@@ -9,7 +11,7 @@ namespace Zorv {
 ///
 /// Rows and columns are those that leave the most room to a picture. It is enlarged by a whole
 /// number, or becomes smaller by one.
-class PreviewGrid
+class ZORV_EXPORT PreviewGrid
 {
 public:
     PreviewGrid() = default;
