@@ -6090,6 +6090,49 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     </message>
 </context>
 <context>
+    <name>Zorv::ImageClipboard</name>
+    <message>
+        <source>There is no picture on the clipboard. Copy one first.</source>
+        <translation>In der Zwischenablage ist kein Bild. Kopieren Sie zuerst eines.</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard cannot be read. Copy it again, or save it as a PNG file and open that.</source>
+        <translation>Das Bild in der Zwischenablage ist nicht lesbar. Kopieren Sie es noch einmal, oder speichern Sie es als PNG-Datei und öffnen Sie diese.</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard has %1 by %2 pixels, which is too much. Copy a smaller part of it.</source>
+        <translation>Das Bild in der Zwischenablage hat %1 mal %2 Pixel, das ist zu viel. Kopieren Sie einen kleineren Teil davon.</translation>
+    </message>
+    <message>
+        <source>There is no layer to copy from. Choose one first.</source>
+        <translation>Es gibt keine Ebene, aus der kopiert werden kann. Wählen Sie zuerst eine.</translation>
+    </message>
+    <message>
+        <source>Nothing is selected. Select some pixels first.</source>
+        <translation>Nichts ist ausgewählt. Wählen Sie zuerst Pixel aus.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to copy. Select fewer pixels.</source>
+        <translation>Der Speicher reicht zum Kopieren nicht. Wählen Sie weniger Pixel aus.</translation>
+    </message>
+    <message>
+        <source>There is no visible layer to paste onto. Choose or show one first.</source>
+        <translation>Es gibt keine sichtbare Ebene, auf die eingefügt werden kann. Wählen oder zeigen Sie zuerst eine.</translation>
+    </message>
+    <message>
+        <source>The selected pixels cannot be written as a PNG file. Select fewer of them.</source>
+        <translation>Die ausgewählten Pixel lassen sich nicht als PNG-Datei schreiben. Wählen Sie weniger aus.</translation>
+    </message>
+    <message>
+        <source>The active layer is hidden. Show it before you cut from it.</source>
+        <translation>Die aktive Ebene ist ausgeblendet. Blenden Sie sie ein, bevor Sie daraus ausschneiden.</translation>
+    </message>
+    <message>
+        <source>There is no image to paste into. Open one first.</source>
+        <translation>Es gibt kein Bild, in das eingefügt werden kann. Öffnen Sie zuerst eines.</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::OrganizerEditor</name>
     <message>
         <source>Move rows</source>
