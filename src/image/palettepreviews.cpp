@@ -24,6 +24,7 @@ namespace {
 
 constexpr int Gap = 6;
 constexpr int Square = 8;
+const QColor LightGray(208, 208, 208);
 
 bool isShown(const ImageCanvas* canvas)
 {
@@ -155,7 +156,7 @@ void PalettePreviewsPrivate::paintPicture(QPainter* painter, const QRect& expose
     CellPainter cells(painter);
     const QRectF pixels(exposed.x() * ratio, exposed.y() * ratio, exposed.width() * ratio,
                         exposed.height() * ratio);
-    cells.paintChequer(place, pixels.toAlignedRect(), qRound(Square * ratio));
+    cells.paintChequer(place, pixels.toAlignedRect(), qRound(Square * ratio), LightGray);
     painter->drawImage(place, indexedView(picture, previews.at(index).colors));
 }
 

@@ -82,12 +82,13 @@ void CellPainter::paintWell(const QRect& well, RGBA color, int square)
 void CellPainter::fillColor(const QRect& pixels, RGBA color, int square, const QRect& origin)
 {
     if (color.a != 255) {
-        paintChequer(origin, pixels, square);
+        paintChequer(origin, pixels, square, Gray);
     }
     m_painter->fillRect(pixels, QColor(color.r, color.g, color.b, color.a));
 }
 
-void CellPainter::paintChequer(const QRect& pixels, const QRect& exposed, int square)
+void CellPainter::paintChequer(const QRect& pixels, const QRect& exposed, int square,
+                               const QColor& color)
 {
     const QRect seen = pixels & exposed;
     if (seen.isEmpty()) {
@@ -100,7 +101,7 @@ void CellPainter::paintChequer(const QRect& pixels, const QRect& exposed, int sq
     for (int y = from.y(); y <= to.y(); ++y) {
         for (int x = from.x() + (from.x() + y) % 2; x <= to.x(); x += 2) {
             const QPoint corner = pixels.topLeft() + QPoint(x, y) * square;
-            m_painter->fillRect(QRect(corner, QSize(square, square)) & seen, Gray);
+            m_painter->fillRect(QRect(corner, QSize(square, square)) & seen, color);
         }
     }
 }

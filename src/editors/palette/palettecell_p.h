@@ -4,6 +4,7 @@
 
 #include <QFlags>
 
+class QColor;
 class QPainter;
 class QRect;
 
@@ -35,9 +36,9 @@ public:
     /// A colour above squares of this size.
     void paintWell(const QRect& well, RGBA color, int square);
 
-    /// Squares below a picture, as far as they are `exposed`; all in pixels of the screen, from the
-    /// corner of the widget.
-    void paintChequer(const QRect& pixels, const QRect& exposed, int square);
+    /// Squares of white and a colour below a picture, as far as they are `exposed`; all in pixels
+    /// of the screen, from the corner of the widget.
+    void paintChequer(const QRect& pixels, const QRect& exposed, int square, const QColor& color);
 
 private:
     QRect devicePixels(const QRect& rect) const;
