@@ -1,19 +1,15 @@
 #include "media/imagefile.h"
 
 #include "core/extensionmanager.h"
-#include "media/bmppixels_p.h"
 #include "media/colorconversion.h"
 #include "media/formatdepth_p.h"
 #include "media/imagesize_p.h"
 #include "media/losslessimages.h"
 #include "media/pcx.h"
-#include "media/pngchunks_p.h"
+#include "media/plainimages_p.h"
 #include "media/tools/colorquantizer.h"
 #include "media/tools/gifpixels_p.h"
 #include "media/tools/gifreader_p.h"
-
-#include <QBuffer>
-#include <QImageReader>
 
 #include <algorithm>
 #include <cstring>
@@ -36,53 +32,9 @@ void clearLineEnds(QImage& image)
     }
 }
 
-/// The same pixels in one of the three forms of the library.
-QImage inLibraryForm(const QImage& image)
-{
-    switch (image.format()) {
-    case QImage::Format_Invalid:
-    case QImage::Format_Indexed8:
-    case QImage::Format_RGB32:
-    case QImage::Format_ARGB32:
-        return image;
-    case QImage::Format_Mono:
-    case QImage::Format_MonoLSB:
-    case QImage::Format_Grayscale8:
-    case QImage::Format_Alpha8:
-        return image.convertToFormat(QImage::Format_Indexed8);
-    default:
-        return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32
-                                                             : QImage::Format_RGB32);
-    }
-}
-
-QImage readPNG(QIODevice* device)
-{
-    QImage image;
-    return isWholePNG(device) && image.load(device, "PNG") ? image : QImage();
-}
-
-QImage readBMP(QIODevice* device)
-{
-    const BMPPixels pixels(device);
-    const qint64 missing = pixels.missing();
-    if (missing > pixels.rowPadding()) {
-        return {};
-    }
-    QImage image = pixels.ground();
-    if (missing == 0) {
-        return QImageReader(device, "BMP").read(&image) ? image : QImage();
-    }
-    // The last row has all its pixels, and ends before a whole word does.
-    QByteArray padded = device->readAll() + QByteArray(int(missing), 0);
-    QBuffer buffer(&padded);
-    buffer.open(QIODevice::ReadOnly);
-    return QImageReader(&buffer, "BMP").read(&image) ? image : QImage();
-}
-
 bool loadByQt(QIODevice* device, const char* format, QImage& image)
 {
-    image = qstrcmp(format, "PNG") == 0 ? readPNG(device) : readBMP(device);
+    image = qstrcmp(format, "PNG") == 0 ? readPlainPNG(device) : readPlainBMP(device);
     if (image.isNull()) {
         return false;
     }

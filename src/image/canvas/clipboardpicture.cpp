@@ -2,13 +2,11 @@
 
 #include "image/canvas/imagecanvas.h"
 #include "image/canvas/imageforms_p.h"
-#include "media/imagesize_p.h"
-#include "media/png.h"
+#include "media/plainimages_p.h"
 #include "media/tools/raster_p.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QImageReader>
 #include <QMimeData>
 
 namespace Zorv {
@@ -20,11 +18,20 @@ class Texts
     Q_DECLARE_TR_FUNCTIONS(Zorv::ImageClipboard)
 };
 
-const QLatin1String PNG("image/png");
 const QLatin1String AnyImage("image/");
 
-// No format of pictures packs pixels more than PNG can.
-constexpr double LargestPacking = 1032;
+/// Files of the clipboard that can be read, the best first. Qt's readers of others may take any
+/// memory, and show what was in it.
+struct FileFormat
+{
+    QLatin1String name;
+    QImage (*read)(QIODevice* device);
+};
+
+const FileFormat fileFormats[] = {
+    {QLatin1String("image/png"), &readPlainPNG},
+    {QLatin1String("image/bmp"), &readPlainBMP},
+};
 
 bool isPossible(const QSize& size)
 {
@@ -33,60 +40,22 @@ bool isPossible(const QSize& size)
            isMemoryFor(qint64(size.width()) * size.height() * 4);
 }
 
-/// What loads the picture takes memory first, so the head is asked before.
-QImage loadOther(QBuffer* buffer)
-{
-    QImageReader reader(buffer);
-    reader.setAutoTransform(false);
-    const QSize size = reader.size();
-    const bool isHonest = isHonestSize(double(size.width()) * size.height(), 32,
-                                       double(buffer->size()) * LargestPacking);
-    return isPossible(size) && isHonest ? reader.read() : QImage();
-}
-
-QImage load(QByteArray bytes, const QString& format)
-{
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImage image;
-    if (format == PNG) {
-        loadPNG(image, &buffer);
-    } else {
-        image = loadOther(&buffer);
-    }
-    return image;
-}
-
-QImage inCanvasForm(const QImage& image)
-{
-    switch (image.format()) {
-    case QImage::Format_Indexed8:
-    case QImage::Format_ARGB32:
-        return image;
-    case QImage::Format_Mono:
-    case QImage::Format_MonoLSB:
-    case QImage::Format_Grayscale8:
-        return image.convertToFormat(QImage::Format_Indexed8);
-    default:
-        return image.convertToFormat(QImage::Format_ARGB32);
-    }
-}
-
-/// The first picture that can be read, a PNG before all others.
 QImage anyPicture(const QMimeData& data)
 {
-    QStringList formats = data.formats().filter(AnyImage);
-    if (formats.removeAll(PNG) > 0) {
-        formats.prepend(PNG);
-    }
-    for (const QString& format : qAsConst(formats)) {
-        const QImage image = load(data.data(format), format);
-        if (!image.isNull()) {
-            return image;
+    for (const FileFormat& format : fileFormats) {
+        if (data.hasFormat(format.name)) {
+            QByteArray bytes = data.data(format.name);
+            QBuffer buffer(&bytes);
+            buffer.open(QIODevice::ReadOnly);
+            const QImage image = format.read(&buffer);
+            if (!image.isNull()) {
+                return image;
+            }
         }
     }
-    // Without a name of a file format it is an image of this program, or of the system.
-    return formats.isEmpty() ? qvariant_cast<QImage>(data.imageData()) : QImage();
+    // Without a file it is an image of this program, or of the system.
+    return data.formats().filter(AnyImage).isEmpty() ? qvariant_cast<QImage>(data.imageData())
+                                                     : QImage();
 }
 
 }  // namespace
@@ -114,7 +83,8 @@ QImage clipboardPicture(const QMimeData* data, QString* reason)
                       .arg(QString::number(image.width()), QString::number(image.height()));
         return {};
     }
-    return inCanvasForm(image);
+    const QImage usual = inLibraryForm(image);
+    return isIndexed(usual) ? usual : usual.convertToFormat(QImage::Format_ARGB32);
 }
 
 }  // namespace Zorv

@@ -15,10 +15,11 @@ class ImageCanvas;
 /// tells the place where the piece stood. A canvas of true colour gives true colours, as does an
 /// indexed one whose palette has no transparent entry, if one is needed and all 256 are used.
 ///
-/// What is pasted takes the form of the canvas. A pixel keeps its index where the file has the same
-/// colour for it as the palette of the canvas; otherwise it takes the nearest, and transparent
-/// becomes transparent. Nothing is scaled. A piece stands where it stood, or at the top left corner
-/// if it came from no place on this canvas. What lies beyond the canvas is cut off.
+/// What is pasted is a PNG or BMP file, or an image of this program or of the system. It takes the
+/// form of the canvas. A pixel keeps its index where the file has the same colour for it as the
+/// palette of the canvas; otherwise it takes the nearest, and transparent becomes transparent.
+/// Nothing is scaled. A piece stands where it stood, or at the top left corner if it came from no
+/// place on this canvas. What lies beyond the canvas is cut off.
 ///
 /// What returns false or null has changed nothing, neither the canvas nor the clipboard, and
 /// `ImageCanvas::refused()` has told why. Main thread only.
