@@ -6088,6 +6088,10 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
         <source>There is nothing to crop to: no pixel shows.</source>
         <translation>Es gibt nichts, worauf zugeschnitten werden kann: Kein Pixel ist sichtbar.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this.</source>
+        <translation>Der Speicher reicht dafür nicht.</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::ImageClipboard</name>

@@ -83,8 +83,8 @@ void strokes(ImageCanvas::Format format, const char* form)
     canvas.undoStack()->clear();
     const auto paint = [&](const QPoint& from, const QPoint& to, int width, int color) {
         canvas.beginStroke(layer, ImageCanvas::TiledStroke, {});
-        const QRect rect = (QRect(from, QSize(1, 1)) | QRect(to, QSize(1, 1)))
-                               .adjusted(0, 0, width, width);
+        const QRect rect =
+            (QRect(from, QSize(1, 1)) | QRect(to, QSize(1, 1))).adjusted(0, 0, width, width);
         canvas.willChange(rect);
         canvas.painter()->setColor(quint8(color));
         canvas.painter()->setWidth(width);

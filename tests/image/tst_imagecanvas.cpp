@@ -204,10 +204,18 @@ void TestImageCanvas::changesOfSizeMoveTheAxis()
         const QMap<QString, std::function<bool()>> acts = {
             {"flip", [&] { return canvas.flip(true, false); }},
             {"crop", [&] { return canvas.crop(); }},
-            {"larger", [&] { return canvas.setSize({25, 13}, {4, 4}, true); }},
+            {"larger",
+             [&] {
+                 return canvas.setSize({25, 13}, {4, 4}, true);
+             }},
             {"centred",
-             [&] { return canvas.setSize({15, 13}, {ImageCanvas::Centered, 0}, true); }},
-            {"resize", [&] { return canvas.resize({40, 30}, ImageResizeFilter::Nearest); }},
+             [&] {
+                 return canvas.setSize({15, 13}, {ImageCanvas::Centered, 0}, true);
+             }},
+            {"resize",
+             [&] {
+                 return canvas.resize({40, 30}, ImageResizeFilter::Nearest);
+             }},
             {"rotate", [&] { return canvas.rotate(90, ImageResizeFilter::Nearest); }},
             {"rotateAll", [&] { return canvas.rotateAll(90, ImageResizeFilter::Nearest); }},
         };

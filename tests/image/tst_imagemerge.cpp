@@ -128,8 +128,8 @@ void TestImageMerge::indexedAsByPixel()
             ImageLayer* const layer = canvas.newRasterLayer({});
             // Layers of other sizes are clipped.
             const QSize own(1 + random.bounded(90), 1 + random.bounded(30));
-            layer->setImage(randomImage(random, random.bounded(3) ? size : own,
-                                        QImage::Format_Indexed8));
+            layer->setImage(
+                randomImage(random, random.bounded(3) ? size : own, QImage::Format_Indexed8));
             layer->setVisible(random.bounded(5) > 0);
         }
         const QImage merged = canvas.mergeLayers(nullptr);
@@ -181,13 +181,16 @@ void TestImageMerge::partsAreOfTheWhole()
         canvas.setFormat(format, false);
         canvas.setSize({50, 40}, {}, false);
         for (int i = 0; i < 3; ++i) {
-            canvas.newRasterLayer(randomImage(random, {50, 40}, format == ImageCanvas::RGBAFormat
-                                                                    ? QImage::Format_ARGB32
-                                                                    : QImage::Format_Indexed8));
+            canvas.newRasterLayer(randomImage(random, {50, 40},
+                                              format == ImageCanvas::RGBAFormat
+                                                  ? QImage::Format_ARGB32
+                                                  : QImage::Format_Indexed8));
         }
         const QImage whole = canvas.mergeLayers(nullptr);
-        for (const QRect& part : {QRect(0, 0, 50, 40), QRect(13, 7, 20, 9), QRect(-5, 30, 20, 90)}) {
-            QCOMPARE(pixelBytes(canvas.mergePart(part)), pixelBytes(whole.copy(part & whole.rect())));
+        for (const QRect& part :
+             {QRect(0, 0, 50, 40), QRect(13, 7, 20, 9), QRect(-5, 30, 20, 90)}) {
+            QCOMPARE(pixelBytes(canvas.mergePart(part)),
+                     pixelBytes(whole.copy(part & whole.rect())));
         }
         QVERIFY(canvas.mergePart({60, 0, 5, 5}).isNull());
     }

@@ -52,16 +52,16 @@ class CanvasMonkey : public MonkeyOf<CanvasMonkey>
 public:
     explicit CanvasMonkey(quint32 start)
         : MonkeyOf(start, {{30, &CanvasMonkey::stroke},
-                          {5, &CanvasMonkey::looseStroke},
-                          {4, &CanvasMonkey::select},
-                          {6, &CanvasMonkey::undo},
-                          {4, &CanvasMonkey::redo},
-                          {6, &CanvasMonkey::attributes},
-                          {4, &CanvasMonkey::addLayer},
-                          {4, &CanvasMonkey::removeLayer},
-                          {2, &CanvasMonkey::form},
-                          {4, &CanvasMonkey::shape},
-                          {2, &CanvasMonkey::colors}}),
+                           {5, &CanvasMonkey::looseStroke},
+                           {4, &CanvasMonkey::select},
+                           {6, &CanvasMonkey::undo},
+                           {4, &CanvasMonkey::redo},
+                           {6, &CanvasMonkey::attributes},
+                           {4, &CanvasMonkey::addLayer},
+                           {4, &CanvasMonkey::removeLayer},
+                           {2, &CanvasMonkey::form},
+                           {4, &CanvasMonkey::shape},
+                           {2, &CanvasMonkey::colors}}),
           canvas(&m_palette)
     {
         m_palette.randomize(random, 32, 1, 1);
@@ -378,6 +378,7 @@ void TestImageUndo::packedStepsComeBack()
     ImageLayer* const layer = canvas.newRasterLayer({});
     canvas.newRasterLayer({});
     canvas.undoStack()->clear();
+    canvas.undoStack()->setBudget(8 << 20);
     QVector<QByteArray> states = {stateOf(canvas)};
     for (int i = 0; i < 12; ++i) {
         canvas.changing(layer);
@@ -389,8 +390,9 @@ void TestImageUndo::packedStepsComeBack()
         }
         states += stateOf(canvas);
     }
-    // Each step holds a MiB of one colour; old ones next to nothing.
-    QVERIFY(canvas.undoStack()->byteSize() < 6 << 20);
+    // Each step holds a MiB of one colour, more than the budget; old ones next to nothing.
+    QCOMPARE(canvas.undoStack()->count(), 13);
+    QVERIFY(canvas.undoStack()->byteSize() < 4 << 20);
     for (int i = states.size() - 1; i >= 0; --i) {
         QCOMPARE(stateOf(canvas), states[i]);
         canvas.undoStack()->undo();

@@ -13,7 +13,10 @@
 class TestImagePalette : public Zorv::ImagePalette
 {
 public:
-    TestImagePalette() { std::fill(std::begin(colors), std::end(colors), Zorv::RGBA{0, 0, 0, 255}); }
+    TestImagePalette()
+    {
+        std::fill(std::begin(colors), std::end(colors), Zorv::RGBA{0, 0, 0, 255});
+    }
 
     /// `used` random colours, the rest as the last of them; `clear` of 4 are transparent and
     /// `half` of 4 half transparent.
@@ -22,7 +25,9 @@ public:
         for (int i = 0; i < 256; ++i) {
             const quint32 bits = random.generate();
             const int kind = random.bounded(4);
-            const int alpha = kind < clear ? 0 : kind < clear + half ? 1 + int(bits >> 24) % 254 : 255;
+            const int alpha = kind < clear          ? 0
+                              : kind < clear + half ? 1 + int(bits >> 24) % 254
+                                                    : 255;
             colors[i] = i < used ? Zorv::RGBA{quint8(bits), quint8(bits >> 8), quint8(bits >> 16),
                                               quint8(alpha)}
                                  : colors[used - 1];

@@ -191,7 +191,7 @@ ImagePainter* ImageCanvas::painter(Format format, ImagePalette* palette)
 
 ImageLayer* ImageCanvas::newRasterLayer(const QImage& image)
 {
-    if (!d->isPossible(d->size)) {
+    if (!d->isPossible(d->size, d->format)) {
         return nullptr;
     }
     // An image's own colour table tells its colours; a layer has none.

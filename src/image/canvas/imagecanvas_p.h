@@ -69,7 +69,7 @@ public:
 
     void push(ImageUndoCommand* command);
     void refuse(const QString& message);
-    bool isPossible(const QSize& newSize);
+    bool isPossible(const QSize& newSize, ImageCanvas::Format of);
 
     /// A step of several commands. If `act` is false, all of it is taken back.
     template <class Act>
@@ -78,7 +78,12 @@ public:
         const ImageCanvas::Batch batch(q);
         stack.beginMacro(QString::fromLatin1(title));
         const bool done = act();
-        done ? stack.endMacro() : stack.cancelMacro();
+        if (done) {
+            stack.endMacro();
+        } else {
+            stack.cancelMacro();
+            refuse(tr("There is not enough memory for this."));
+        }
         return done;
     }
 

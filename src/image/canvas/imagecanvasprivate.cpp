@@ -115,7 +115,7 @@ void ImageCanvasPrivate::refuse(const QString& message)
     emit q->refused(message);
 }
 
-bool ImageCanvasPrivate::isPossible(const QSize& newSize)
+bool ImageCanvasPrivate::isPossible(const QSize& newSize, ImageCanvas::Format of)
 {
     if (!isPossibleSize(newSize)) {
         refuse(tr("The image cannot have %1 by %2 pixels: each side must have from 1 to %3.")
@@ -123,7 +123,7 @@ bool ImageCanvasPrivate::isPossible(const QSize& newSize)
                         QString::number(ImageCanvas::MaxSide)));
         return false;
     }
-    const qint64 pixelBytes = format == ImageCanvas::RGBAFormat ? 4 : 1;
+    const qint64 pixelBytes = of == ImageCanvas::RGBAFormat ? 4 : 1;
     const qint64 pixels = qint64(newSize.width()) * newSize.height();
     // The mask has a byte for each pixel; a `QImage` cannot have more bytes than an int counts.
     if (pixels * pixelBytes > std::numeric_limits<int>::max() ||

@@ -35,7 +35,7 @@ int scaledPlace(int place, int from, int to)
 bool ImageCanvas::setSize(const QSize& size, const QPoint& position, bool record)
 {
     endStroke();
-    if (!d->isPossible(size)) {
+    if (!d->isPossible(size, d->format)) {
         return false;
     }
     if (!record) {
@@ -80,15 +80,15 @@ bool ImageCanvas::convertTo(Format format)
 
 bool ImageCanvasPrivate::reformatLayers(ImageCanvas::Format newFormat, ImagePalette* entries)
 {
-    return macro("setFormat", [&] {
-        const ImageCanvas::Format before = format;
-        applyFormat(newFormat);
-        if (before != newFormat) {
-            push(new ImageCanvasFormat(q, before));
-        }
-        return (size.isEmpty() || isPossible(size)) &&
-               forLayers([&](ImageLayer& layer) { return layer.reformat(newFormat, entries); });
-    });
+    return (size.isEmpty() || isPossible(size, newFormat)) && macro("setFormat", [&] {
+               const ImageCanvas::Format before = format;
+               applyFormat(newFormat);
+               if (before != newFormat) {
+                   push(new ImageCanvasFormat(q, before));
+               }
+               return forLayers(
+                   [&](ImageLayer& layer) { return layer.reformat(newFormat, entries); });
+           });
 }
 
 bool ImageCanvas::flip(bool horizontal, bool vertical)
@@ -121,7 +121,8 @@ bool ImageCanvasPrivate::rotateLayers(bool all, float angle, ImageResizeFilter f
     const QSize before = size;
     const QSizeF corners =
         QTransform().rotate(double(angle)).mapRect(QRectF(QPointF(), QSizeF(size))).size();
-    if (!isPossible(QSize(int(corners.width()), int(corners.height())).expandedTo({1, 1}))) {
+    if (!isPossible(QSize(int(corners.width()), int(corners.height())).expandedTo({1, 1}),
+                    format)) {
         return false;
     }
     return macro("rotate", [&] {
@@ -148,7 +149,7 @@ bool ImageCanvasPrivate::rotateLayers(bool all, float angle, ImageResizeFilter f
 bool ImageCanvas::resize(const QSize& size, ImageResizeFilter filter)
 {
     endStroke();
-    if (!d->isPossible(size)) {
+    if (!d->isPossible(size, d->format)) {
         return false;
     }
     return size == d->size || d->macro("resize", [&] {

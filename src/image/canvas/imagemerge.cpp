@@ -77,7 +77,11 @@ private:
             const void* found = std::memchr(row + x, m_lastNotOpaque, std::size_t(end - x));
             return found ? int(static_cast<const quint8*>(found) - row) : end;
         }
-        while (x < end && !m_notOpaque[row[x]]) {
+        const auto stops = [this, row](int at) { return m_notOpaque[row[at]]; };
+        while (x + 4 <= end && !(stops(x) | stops(x + 1) | stops(x + 2) | stops(x + 3))) {
+            x += 4;
+        }
+        while (x < end && !stops(x)) {
             ++x;
         }
         return x;
@@ -121,7 +125,7 @@ private:
     const std::vector<QImage>& m_layers;
     QRect m_part;
     PaletteColors m_colors;
-    std::array<bool, 256> m_notOpaque;
+    std::array<quint8, 256> m_notOpaque;
     int m_notOpaqueCount = 0;
     int m_lastNotOpaque = -1;
     quint8 m_empty;

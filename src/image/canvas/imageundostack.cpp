@@ -16,9 +16,11 @@ namespace {
 
 using Command = std::unique_ptr<ImageUndoCommand>;
 
-// Packing takes time: each step pays for so many bytes of those that are older than a few.
-const qint64 PackedAtOnce = qint64(1) << 20;
-const int StepsNotPacked = 4;
+// Packing takes time, and so does an undo of what is packed: it begins with the oldest steps when
+// so much of the budget is not packed. Each step then pays for as many bytes as it adds, and for
+// these at least.
+const int LooseShare = 4;
+const qint64 PackedAtOnce = qint64(256) << 10;
 
 /// What one undo takes back: a command, or those of a macro.
 struct Step
@@ -92,7 +94,8 @@ public:
     bool merge(ImageUndoCommand* command);
     void removeLast();
     void measure(Step& step);
-    void move(Step& step, void (Step::*act)());
+    void moveTo(std::size_t place, void (Step::*act)());
+    void loosenFrom(std::size_t place);
     void packOld();
     void keepToBudget();
     void tell();
@@ -100,7 +103,8 @@ public:
     ImageUndoStack* const q;
     std::deque<Step> steps;
     qint64 bytes = 0;            ///< of all steps
-    std::size_t firstLoose = 0;  ///< no step in front of it is left to pack
+    std::size_t firstLoose = 0;  ///< the steps in front of it have nothing left to pack
+    qint64 packedBytes = 0;      ///< of those steps
     std::size_t index = 0;
     int cleanIndex = 0;
     qint64 budget = ImageUndoStack::DefaultBudget;
@@ -121,11 +125,11 @@ void ImageUndoStackPrivate::finishPending()
 
 void ImageUndoStackPrivate::dropRedo()
 {
+    loosenFrom(index);
     while (steps.size() > index) {
         bytes -= steps.back().bytes;
         steps.pop_back();
     }
-    firstLoose = std::min(firstLoose, index);
     if (cleanIndex > int(index)) {
         cleanIndex = -1;
     }
@@ -154,6 +158,7 @@ bool ImageUndoStackPrivate::merge(ImageUndoCommand* command)
     if (last->isObsolete()) {
         removeLast();
     } else {
+        loosenFrom(index - 1);
         measure(steps.back());
         keepToBudget();
     }
@@ -173,27 +178,38 @@ void ImageUndoStackPrivate::measure(Step& step)
     bytes += step.bytes;
 }
 
-// What a step holds after it is fresh, and not packed.
-void ImageUndoStackPrivate::move(Step& step, void (Step::*act)())
+void ImageUndoStackPrivate::loosenFrom(std::size_t place)
+{
+    while (firstLoose > place) {
+        packedBytes -= steps[--firstLoose].bytes;
+    }
+}
+
+// What a step holds when it has moved is fresh, and not packed.
+void ImageUndoStackPrivate::moveTo(std::size_t place, void (Step::*act)())
 {
     moving = true;
     emit q->aboutToMove();
+    loosenFrom(place);
+    Step& step = steps[place];
     (step.*act)();
     measure(step);
     step.sealed = true;
     step.packed = false;
-    firstLoose = std::min(firstLoose, index);
     moving = false;
 }
 
 void ImageUndoStackPrivate::packOld()
 {
-    qint64 limit = PackedAtOnce;
-    while (firstLoose + StepsNotPacked < index && limit > 0) {
+    qint64 limit = std::max(PackedAtOnce, steps.back().bytes);
+    while (firstLoose + 1 < index && limit > 0 && bytes - packedBytes > budget / LooseShare) {
         Step& step = steps[firstLoose];
         limit = step.packed ? limit : step.pack(limit);
         measure(step);
-        firstLoose += step.packed ? 1 : 0;
+        if (step.packed) {
+            packedBytes += step.bytes;
+            ++firstLoose;
+        }
     }
 }
 
@@ -205,9 +221,12 @@ void ImageUndoStackPrivate::keepToBudget()
     }
     while (index > 1 && bytes > budget) {
         bytes -= steps.front().bytes;
+        if (firstLoose > 0) {
+            packedBytes -= steps.front().bytes;
+            --firstLoose;
+        }
         steps.pop_front();
         --index;
-        firstLoose -= firstLoose > 0 ? 1 : 0;
         // The clean state is lost once the step behind it is.
         cleanIndex = std::max(cleanIndex - 1, -1);
     }
@@ -330,7 +349,7 @@ void ImageUndoStack::undo()
         d->tell();
         return;
     }
-    d->move(d->steps[d->index - 1], &Step::undo);
+    d->moveTo(d->index - 1, &Step::undo);
     --d->index;
     emit moved();
     d->tell();
@@ -343,7 +362,7 @@ void ImageUndoStack::redo()
         d->tell();
         return;
     }
-    d->move(d->steps[d->index], &Step::redo);
+    d->moveTo(d->index, &Step::redo);
     ++d->index;
     emit moved();
     d->tell();
