@@ -65,7 +65,7 @@ QMimeData* dataOf(const QImage& piece)
 bool pasteNew(ImageCanvas* canvas, const QImage& piece)
 {
     ImageCanvasPrivate& d = ImageCanvasPrivate::of(canvas);
-    if (!d.isPossible(canvas->size())) {
+    if (!d.isPossible(canvas->size(), canvas->format())) {
         return false;
     }
     QImage image = emptyImage(canvas->size(), imageFormat(canvas->format()));
