@@ -1,13 +1,22 @@
 #include "image/canvas/imagepainter.h"
 
+#include "image/canvas/brushline_p.h"
+#include "image/canvas/floodregion_p.h"
 #include "image/canvas/imageselection.h"
+#include "image/canvas/pixelmarks.h"
 
 #include <QImage>
 
-#include <cstdlib>
-#include <vector>
+#include <algorithm>
 
 namespace Zorv {
+
+namespace {
+
+// A long line is announced by pieces of so many rows: around all of it lies most of the image.
+const int AnnouncedRows = 64;
+
+}  // namespace
 
 ImagePainter::ImagePainter(ImagePalette* palette, ImageSelection* selection)
     : m_palette(palette), m_selection(selection)
@@ -18,79 +27,122 @@ ImagePainter::~ImagePainter() = default;
 
 void ImagePainter::point(const QPoint& point)
 {
-    if (!m_image) {
+    const QRect square = QRect(point, QSize(m_width, m_width)) & paintable();
+    if (square.isEmpty() || !announce(square)) {
         return;
     }
-    const QRect square =
-        QRect(point, QSize(m_width, m_width)) & m_image->rect() & m_selection->mask().rect();
-    for (int y = square.top(); y <= square.bottom(); ++y) {
-        for (int x = square.left(); x <= square.right(); ++x) {
-            if (m_selection->clipQuery(x, y) && canDraw(x, y)) {
-                setPixel(x, y);
-            }
-        }
-    }
+    m_runs.assign(std::size_t(square.height()), {square.left(), square.right()});
+    paintRuns(square.top(), m_runs);
 }
 
 void ImagePainter::line(const QPoint& from, const QPoint& to)
 {
-    const QPoint span(std::abs(to.x() - from.x()), std::abs(to.y() - from.y()));
-    const QPoint step(to.x() < from.x() ? -1 : 1, to.y() < from.y() ? -1 : 1);
-    const bool wide = span.x() >= span.y();
-    const int longer = wide ? span.x() : span.y();
-    const int shorter = wide ? span.y() : span.x();
-    int error = longer / 2;
-    QPoint at = from;
-    for (int i = 0; i <= longer; ++i) {
-        point(at);
-        error += shorter;
-        const bool aside = error >= longer;
-        if (aside) {
-            error -= longer;
+    const BrushLine brush(from, to, m_width);
+    const QRect area = brush.rect() & paintable();
+    for (int top = area.top(); top <= area.bottom(); top += AnnouncedRows) {
+        const int height = std::min(AnnouncedRows, area.bottom() - top + 1);
+        if (!paintPiece(brush, {area.left(), top, area.width(), height})) {
+            return;
         }
-        at.rx() += wide || aside ? step.x() : 0;
-        at.ry() += !wide || aside ? step.y() : 0;
     }
 }
 
-// Columns are filled, and the runs beside them that are still to be filled are remembered by
-// their first pixel.
+/// Paints those rows of a line. False if the announcement is refused.
+bool ImagePainter::paintPiece(const BrushLine& brush, const QRect& piece)
+{
+    m_runs.resize(std::size_t(piece.height()));
+    int left = piece.right() + 1;
+    int right = piece.left() - 1;
+    brush.forRows(piece.top(), piece.bottom(), [&](int y, int first, int last) {
+        const Run run = {std::max(first, piece.left()), std::min(last, piece.right())};
+        m_runs[std::size_t(y - piece.top())] = run;
+        left = std::min(left, run.left);
+        right = std::max(right, run.right);
+    });
+    if (left > right) {
+        return true;
+    }
+    if (!announce({QPoint(left, piece.top()), QPoint(right, piece.bottom())})) {
+        return false;
+    }
+    paintRuns(piece.top(), m_runs);
+    return true;
+}
+
 void ImagePainter::floodFill(const QPoint& point)
 {
-    const quint32 seed = pixel(point.x(), point.y());
-    if (!m_image || !m_image->rect().contains(point) || seed == m_color) {
+    if (!paintable().contains(point) || pixel(point.x(), point.y()) == m_color) {
         return;
     }
-    const auto matches = [this, seed](int x, int y) {
-        return m_image->rect().contains(x, y) && m_selection->clipQuery(x, y) &&
-               pixel(x, y) == seed;
-    };
-    std::vector<QPoint> open;
-    open.reserve(1024);
-    open.push_back(point);
-    while (!open.empty()) {
-        const int x = open.back().x();
-        int y = open.back().y();
-        open.pop_back();
-        while (matches(x, y - 1)) {
-            --y;
-        }
-        bool inRun[2] = {false, false};
-        for (; matches(x, y); ++y) {
-            setPixel(x, y);
-            if (pixel(x, y) == seed) {
-                return;  // A remap that leaves it as it is would find it for ever.
-            }
-            for (const int side : {0, 1}) {
-                const int beside = side == 0 ? x - 1 : x + 1;
-                const bool runs = matches(beside, y);
-                if (runs && !inRun[side]) {
-                    open.emplace_back(beside, y);
-                }
-                inRun[side] = runs;
-            }
+    const quint32 value = fillValue(point);
+    if (value == rawPixel(point)) {
+        return;
+    }
+    const bool isMasked = !paintsAll();
+    const FloodRegion region(*m_image, paintable().size(),
+                             isMasked ? &m_selection->mask() : nullptr, point);
+    for (const QRect& piece : region.pieces()) {
+        if (!announce(piece)) {
+            return;
         }
     }
+    region.paint(*m_image, value);
+}
+
+/// What `setPixel()` makes of a pixel. All pixels of a fill are equal, so it makes the same of
+/// them.
+quint32 ImagePainter::fillValue(const QPoint& point)
+{
+    QImage* image = m_image;
+    QImage copy = image->copy(QRect(point, QSize(1, 1)));
+    m_image = &copy;
+    setPixel(0, 0);
+    const quint32 value = rawPixel(QPoint());
+    m_image = image;
+    return value;
+}
+
+/// A pixel of 8 or 32 bits, whatever the form.
+quint32 ImagePainter::rawPixel(const QPoint& point) const
+{
+    const uchar* row = m_image->constScanLine(point.y());
+    return m_image->depth() == 8 ? row[point.x()]
+                                 : reinterpret_cast<const quint32*>(row)[point.x()];
+}
+
+/// Where image and mask both are. No image of any other depth is painted.
+QRect ImagePainter::paintable() const
+{
+    const bool isUsable = m_image && (m_image->depth() == 8 || m_image->depth() == 32);
+    return isUsable ? m_image->rect() & m_selection->mask().rect() : QRect();
+}
+
+bool ImagePainter::announce(const QRect& rect) const
+{
+    return !m_announce || m_announce(rect);
+}
+
+void ImagePainter::paintRuns(int top, const std::vector<Run>& runs)
+{
+    int y = top;
+    for (const Run& run : runs) {
+        for (int x = run.left; x <= run.right; ++x) {
+            if (m_selection->clipQuery(x, y) && canDraw(x, y) && meets(x, y)) {
+                setPixel(x, y);
+            }
+        }
+        ++y;
+    }
+}
+
+bool ImagePainter::paintsAll() const
+{
+    return !m_selection->queriesEnabled() || m_selection->isAll();
+}
+
+bool ImagePainter::meets(int x, int y)
+{
+    return !m_marks || m_remap.isEmpty() || m_marks->mark({x, y});
 }
 
 int ImagePainter::width() const
@@ -100,7 +152,7 @@ int ImagePainter::width() const
 
 void ImagePainter::setWidth(int width)
 {
-    m_width = width;
+    m_width = std::max(width, 1);
 }
 
 QImage* ImagePainter::image() const
@@ -121,6 +173,16 @@ void ImagePainter::setRemap(unsigned char from, unsigned char to)
 void ImagePainter::clearRemap()
 {
     m_remap.clear();
+}
+
+void ImagePainter::setMarks(PixelMarks* marks)
+{
+    m_marks = marks;
+}
+
+void ImagePainter::setAnnounce(const Announce& announce)
+{
+    m_announce = announce;
 }
 
 }  // namespace Zorv

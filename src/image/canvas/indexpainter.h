@@ -15,6 +15,9 @@ public:
     bool canDraw(int x, int y) const override;
     quint32 pixel(int x, int y) const override;
     void setPixel(int x, int y) override;
+
+protected:
+    void paintRuns(int top, const std::vector<Run>& runs) override;
 };
 
 }  // namespace Zorv

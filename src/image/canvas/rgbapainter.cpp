@@ -1,9 +1,13 @@
 #include "image/canvas/rgbapainter.h"
 
 #include "image/canvas/imagepalette.h"
+#include "image/canvas/imageselection.h"
+#include "media/tools/raster_p.h"
 
 #include <QColor>
 #include <QImage>
+
+#include <algorithm>
 
 namespace Zorv {
 
@@ -49,6 +53,55 @@ void RGBAPainter::setPixel(int x, int y)
         pixel = m_remap.isEmpty() ? m_color
                                   : m_palette->color(m_remap.value(indexOf(*m_palette, pixel)));
     }
+}
+
+void RGBAPainter::paintRuns(int top, const std::vector<Run>& runs)
+{
+    if (m_image->format() != QImage::Format_ARGB32) {
+        return;
+    }
+    const Raster<QRgb> pixels(*m_image);
+    const bool fills = m_remap.isEmpty() && paintsAll();
+    int y = top;
+    for (const Run& run : runs) {
+        QRgb* row = pixels.row(y);
+        if (!fills) {
+            paintRun(row, y, run);
+        } else if (run.left <= run.right) {
+            std::fill(row + run.left, row + run.right + 1, m_color);
+        }
+        ++y;
+    }
+}
+
+void RGBAPainter::paintRun(QRgb* row, int y, Run run)
+{
+    // Pixels beside each other are often equal, and to find their entry takes long.
+    std::optional<QRgb> last;
+    std::optional<QRgb> result;
+    for (int x = run.left; x <= run.right; ++x) {
+        if (!m_selection->clipQuery(x, y)) {
+            continue;
+        }
+        if (row[x] != last) {
+            last = row[x];
+            result = mapped(row[x]);
+        }
+        if (result && meets(x, y)) {
+            row[x] = *result;
+        }
+    }
+}
+
+/// What becomes of a pixel, if it may be painted.
+std::optional<QRgb> RGBAPainter::mapped(QRgb pixel) const
+{
+    if (m_remap.isEmpty()) {
+        return m_color;
+    }
+    const auto entry = m_remap.constFind(indexOf(*m_palette, pixel));
+    return entry == m_remap.constEnd() ? std::nullopt
+                                       : std::optional<QRgb>(m_palette->color(*entry));
 }
 
 }  // namespace Zorv

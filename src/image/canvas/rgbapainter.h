@@ -2,6 +2,10 @@
 
 #include "image/canvas/imagepainter.h"
 
+#include <QRgb>
+
+#include <optional>
+
 namespace Zorv {
 
 /// Paints in an image of `Format_ARGB32`; of any other it reads 0 and writes nothing. The palette
@@ -16,6 +20,13 @@ public:
     bool canDraw(int x, int y) const override;
     quint32 pixel(int x, int y) const override;
     void setPixel(int x, int y) override;
+
+protected:
+    void paintRuns(int top, const std::vector<Run>& runs) override;
+
+private:
+    void paintRun(QRgb* row, int y, Run run);
+    std::optional<QRgb> mapped(QRgb pixel) const;
 };
 
 }  // namespace Zorv
