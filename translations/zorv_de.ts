@@ -5793,6 +5793,17 @@ Möchten Sie die übrigen importieren?</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::BasePenTool</name>
+    <message>
+        <source>Width of the brush</source>
+        <translation>Breite des Pinsels</translation>
+    </message>
+    <message>
+        <source>Width of the brush, in pixels (+ and -)</source>
+        <translation>Breite des Pinsels in Pixeln (+ und -)</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::CodeCompletion</name>
     <message>
         <source>Words to complete</source>

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "image/tools/imagetool.h"
+
+namespace Zorv {
+
+/// Moves the picture in its view. Works without a layer, too.
+class ZORV_EXPORT CanvasMoveTool : public ImageTool
+{
+    Q_OBJECT
+
+public:
+    explicit CanvasMoveTool(ImageCanvas* canvas, QObject* parent = nullptr);
+
+    void mousePressed(Qt::KeyboardModifiers modifiers, Qt::MouseButton button, QPoint screen,
+                      QPoint image, QCursor& cursor) override;
+    void mouseReleased(Qt::KeyboardModifiers modifiers, Qt::MouseButton button, QPoint screen,
+                       QPoint image, QCursor& cursor) override;
+    void mouseMoved(Qt::KeyboardModifiers modifiers, QPoint screen, QPoint image,
+                    QCursor& cursor) override;
+
+private:
+    QPoint m_position;  ///< of the canvas, when the press began
+};
+
+}  // namespace Zorv

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "image/tools/basepentool.h"
+
+namespace Zorv {
+
+/// Paints with the background; with any other button than the left only over the foreground.
+class ZORV_EXPORT EraserTool : public BasePenTool
+{
+    Q_OBJECT
+
+public:
+    explicit EraserTool(ImageCanvas* canvas, QObject* parent = nullptr);
+
+protected:
+    void doDraw(const QPoint& point, ImagePainter* painter) override;
+};
+
+}  // namespace Zorv

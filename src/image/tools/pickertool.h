@@ -1,0 +1,37 @@
+#pragma once
+
+#include "image/tools/imagetool.h"
+
+namespace Zorv {
+
+class ImagePainter;
+
+/// Takes the colour of a pixel of the active layer when the press ends: with the left button as
+/// foreground, with the right one as background.
+class ZORV_EXPORT PickerTool : public ImageTool
+{
+    Q_OBJECT
+
+public:
+    explicit PickerTool(ImageCanvas* canvas, QObject* parent = nullptr);
+
+    void mousePressed(Qt::KeyboardModifiers modifiers, Qt::MouseButton button, QPoint screen,
+                      QPoint image, QCursor& cursor) override;
+    void mouseReleased(Qt::KeyboardModifiers modifiers, Qt::MouseButton button, QPoint screen,
+                       QPoint image, QCursor& cursor) override;
+    void mouseMoved(Qt::KeyboardModifiers modifiers, QPoint screen, QPoint image,
+                    QCursor& cursor) override;
+    void renderCursor(QPainter& painter, QPoint pos, double zoom) override;
+
+protected:
+    /// Does it at `lastPos()`, which lies within the image.
+    virtual void pick(ImagePainter* painter);
+
+    /// That began the press.
+    Qt::MouseButton button() const;
+
+private:
+    Qt::MouseButton m_button = Qt::NoButton;
+};
+
+}  // namespace Zorv
