@@ -28,8 +28,11 @@ class ImageUndoStack;
 /// is empty, of true colour, at zoom 1, without layers.
 ///
 /// What returns false has changed nothing. If a person asked for something that cannot be, such as
-/// a size of 0, `refused()` tells why. Each operation is one step of undo where its text says so;
-/// the titles of steps are fixed names that a host translates.
+/// a size of 0, `refused()` tells why. Each operation is one step of undo where its text says so.
+///
+/// The titles of steps are fixed names that a host translates: those that stand with the operations
+/// here, "edit" for pixels, and for layers "layerName", "layerBlend", "layerOpacity", "layerAdd",
+/// "layerInsert" and "layerDelete". Strokes have the title that they were begun with.
 ///
 /// Main thread only.
 class ZORV_EXPORT ImageCanvas : public QObject
