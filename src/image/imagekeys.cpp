@@ -1,0 +1,159 @@
+#include "image/imagerenderer_p.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Zorv {
+
+namespace {
+
+QPoint arrow(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
+
+QPoint within(const QPoint& pixel, const QSize& size)
+{
+    return {std::clamp(pixel.x(), 0, size.width() - 1),
+            std::clamp(pixel.y(), 0, size.height() - 1)};
+}
+
+/// By how much a span has to be moved to lie within 0 to `room`; its begin, if it is too long.
+int wayInto(int begin, int end, int room)
+{
+    return begin < 0 || end - begin > room ? -begin : std::min(room - end, 0);
+}
+
+}  // namespace
+
+void ImageRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
+{
+    if (d->current && d->current->keyPressed(modifiers, key)) {
+        update();
+    } else if (key == Qt::Key_Space) {
+        d->isSpaceHeld = true;
+        d->moveAgain();
+    } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        d->clickCell(modifiers);
+    } else {
+        d->moveCell(key, modifiers);
+    }
+}
+
+void ImageRenderer::keyReleased(int key, Qt::KeyboardModifiers)
+{
+    if (key == Qt::Key_Space) {
+        d->isSpaceHeld = false;
+        d->moveAgain();
+    } else if (key == Qt::Key_Shift) {
+        d->endDrag();
+    }
+}
+
+ImageView ImageRendererPrivate::cellView() const
+{
+    return views.showZoomed ? ImageView::Zoomed : ImageView::Original;
+}
+
+QPoint ImageRendererPrivate::cellPlace(const QPoint& pixel) const
+{
+    return savePosition(place().toWidget(QPointF(pixel) + QPointF(0.5, 0.5), cellView()));
+}
+
+/// It begins where the pointer was.
+void ImageRendererPrivate::showCell()
+{
+    if (isCellShown) {
+        return;
+    }
+    const QPoint start = toldPixel.value_or(place().center());
+    cell = within(start, canvas.size());
+    isCellShown = true;
+}
+
+void ImageRendererPrivate::hideCell()
+{
+    if (isCellShown && !isCellDragged) {
+        isCellShown = false;
+        q->update();
+    }
+}
+
+void ImageRendererPrivate::moveCell(int key, Qt::KeyboardModifiers modifiers)
+{
+    const QPoint step = arrow(key);
+    const bool isMouseDown = pressed && !isCellDragged;
+    if (step.isNull() || canvas.size().isEmpty() || isMouseDown) {
+        return;
+    }
+    showCell();
+    // The Shift that drags is no Shift for the tool.
+    const bool drags = modifiers.testFlag(Qt::ShiftModifier) && current;
+    if (drags && !isCellDragged) {
+        pressView = cellView();
+        press(cellPlace(cell), toolPixel(cell), Qt::LeftButton, Qt::NoModifier);
+        isCellDragged = true;
+    } else if (!drags) {
+        endDrag();
+    }
+    cell = within(cell + step, canvas.size());
+    bringIntoView(cell);
+    if (isCellDragged) {
+        move(cellPlace(cell), toolPixel(cell), Qt::NoModifier);
+    }
+    tell(cell);
+    q->update();
+}
+
+void ImageRendererPrivate::endDrag()
+{
+    if (isCellDragged) {
+        isCellDragged = false;
+        release(cellPlace(cell), toolPixel(cell), Qt::LeftButton, Qt::NoModifier);
+        q->update();
+    }
+}
+
+void ImageRendererPrivate::clickCell(Qt::KeyboardModifiers modifiers)
+{
+    if (canvas.size().isEmpty() || !current) {
+        return;
+    }
+    losePress();
+    showCell();
+    bringIntoView(cell);
+    pressView = cellView();
+    const auto button = modifiers.testFlag(Qt::AltModifier) ? Qt::RightButton : Qt::LeftButton;
+    const QPoint pos = cellPlace(cell);
+    press(pos, toolPixel(cell), button, modifiers);
+    release(pos, toolPixel(cell), button, modifiers);
+    tell(cell);
+    q->update();
+}
+
+void ImageRendererPrivate::bringIntoView(const QPoint& pixel)
+{
+    const ImagePlace now = place();
+    const double scale = now.scale(cellView());
+    const QPointF corner = QPointF(pixel) * scale + now.rect(cellView()).topLeft();
+    const int side = std::max(int(std::ceil(scale)), 1);
+    const QRect rect(savePosition(corner), QSize(side, side));
+    const QPoint way(wayInto(rect.left(), rect.left() + side, views.splitX()),
+                     wayInto(rect.top(), rect.top() + side, views.widget.height()));
+    if (!way.isNull()) {
+        canvas.setPosition(canvas.position() + way);
+    }
+}
+
+}  // namespace Zorv

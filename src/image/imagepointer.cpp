@@ -1,0 +1,265 @@
+// A press belongs to the tool and the view in which it began, whatever keys and pointer do until it
+// ends. So a tool sees each press once, and its end once.
+
+#include "graphics/renderwidget.h"
+#include "image/imagerenderer_p.h"
+
+#include <utility>
+
+namespace Zorv {
+
+namespace {
+
+const int WheelStep = 120;
+
+}  // namespace
+
+template <class Call>
+void ImageRendererPrivate::withCursor(Call call)
+{
+    QCursor cursor = q->widget() ? q->widget()->cursor() : QCursor();
+    call(cursor);
+    setCursor(cursor);
+}
+
+void ImageRendererPrivate::setCursor(const QCursor& cursor)
+{
+    RenderWidget* const widget = q->widget();
+    if (widget && widget->cursor() != cursor) {
+        widget->setCursor(cursor);
+    }
+}
+
+QPointF ImageRendererPrivate::exactPlace(QPoint pos) const
+{
+    if (!exact || exact->toPoint() != pos) {
+        return pos;
+    }
+    const double ratio = q->widget() ? q->widget()->devicePixelRatioF() : 1;
+    const double half = (0.5 - DrawingShift) / ratio;
+    return *exact + QPointF(half, half);
+}
+
+QPoint ImageRendererPrivate::toolPixel(const QPointF& pos, ImageView view) const
+{
+    QPointF point = place().toCanvas(pos, view);
+    if (current && q->option(ImageRenderer::CenteredBrush)) {
+        const double half = (current->brushWidth() - 1) / 2.0;
+        point -= QPointF(half, half);
+    }
+    return pixelOf(point);
+}
+
+QPoint ImageRendererPrivate::toolPixel(QPoint pixel) const
+{
+    const bool isCentered = current && q->option(ImageRenderer::CenteredBrush);
+    const int half = isCentered ? (current->brushWidth() - 1) / 2 : 0;
+    return pixel - QPoint(half, half);
+}
+
+ImageTool* ImageRendererPrivate::toolFor(Qt::KeyboardModifiers modifiers) const
+{
+    const bool moves = isSpaceHeld || modifiers.testFlag(Qt::ControlModifier);
+    return moves && current ? tools[ImageTool::CanvasMoveTool] : current;
+}
+
+void ImageRendererPrivate::press(QPoint pos, QPoint pixel, Qt::MouseButton button,
+                                 Qt::KeyboardModifiers modifiers)
+{
+    if (!pressed) {
+        pressTool = toolFor(modifiers);
+    }
+    pressed |= button;
+    if (pressTool) {
+        withCursor([&](QCursor& cursor) {
+            pressTool->mousePressed(modifiers, button, pos, pixel, cursor);
+        });
+    }
+}
+
+void ImageRendererPrivate::release(QPoint pos, QPoint pixel, Qt::MouseButton button,
+                                   Qt::KeyboardModifiers modifiers)
+{
+    pressed.setFlag(button, false);
+    ImageTool* const tool = pressed ? pressTool : std::exchange(pressTool, nullptr);
+    if (tool) {
+        withCursor(
+            [&](QCursor& cursor) { tool->mouseReleased(modifiers, button, pos, pixel, cursor); });
+    }
+}
+
+void ImageRendererPrivate::move(QPoint pos, QPoint pixel, Qt::KeyboardModifiers modifiers)
+{
+    if (ImageTool* const tool = pressed ? pressTool : toolFor(modifiers)) {
+        withCursor([&](QCursor& cursor) { tool->mouseMoved(modifiers, pos, pixel, cursor); });
+    }
+}
+
+void ImageRendererPrivate::moveAgain()
+{
+    if (!isOutside && !pressed && !isCellShown && q->widget()) {
+        q->mouseMoved(mousePos, Qt::NoModifier);
+    }
+}
+
+void ImageRendererPrivate::losePress()
+{
+    grip = NoGrip;
+    isCellDragged = false;
+    pressed = {};
+    if (ImageTool* const tool = std::exchange(pressTool, nullptr)) {
+        tool->mouseLost();
+        q->update();
+    }
+}
+
+void ImageRenderer::pointerMoved(QPointF pos)
+{
+    d->exact = pos;
+}
+
+void ImageRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
+                                 Qt::KeyboardModifiers modifiers)
+{
+    if (widget()) {
+        widget()->setFocus(Qt::MouseFocusReason);
+    }
+    d->mousePos = pos;
+    d->isOutside = false;
+    // A button that is down already was released where nobody heard of it.
+    if (d->isCellDragged || d->pressed.testFlag(button)) {
+        d->losePress();
+    }
+    d->hideCell();
+    const QPointF place = d->exactPlace(pos);
+    if (!d->pressed) {
+        d->pressView = d->place().viewAt(pos);
+        d->grip = d->gripAt(place);
+    }
+    if (d->grip != ImageRendererPrivate::NoGrip) {
+        d->pressed |= button;
+        return;
+    }
+    d->press(pos, d->toolPixel(place, d->pressView), button, modifiers);
+    update();
+}
+
+void ImageRenderer::mouseReleased(QPoint pos, Qt::MouseButton button,
+                                  Qt::KeyboardModifiers modifiers)
+{
+    d->mousePos = pos;
+    if (d->isCellDragged || !d->pressed.testFlag(button)) {
+        return;
+    }
+    const bool wasPanned = d->pressTool == d->tools[ImageTool::CanvasMoveTool];
+    d->release(pos, d->toolPixel(d->exactPlace(pos), d->pressView), button, modifiers);
+    if (!d->pressed) {
+        d->grip = ImageRendererPrivate::NoGrip;
+        if (wasPanned) {
+            mouseMoved(pos, modifiers);
+        }
+    }
+    update();
+}
+
+void ImageRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
+{
+    // Window systems send moves without a move.
+    if (d->isCellDragged || (d->isCellShown && pos == d->mousePos)) {
+        return;
+    }
+    d->mousePos = pos;
+    d->isOutside = false;
+    d->hideCell();
+    const QPointF place = d->exactPlace(pos);
+    const ImageView view = d->pressed ? d->pressView : d->place().viewAt(pos);
+    if (d->grip != ImageRendererPrivate::NoGrip) {
+        d->dragGrip(place);
+    } else if (const auto grip = d->pressed ? ImageRendererPrivate::NoGrip : d->gripAt(place)) {
+        d->setCursor(grip == ImageRendererPrivate::UprightGrip ? Qt::SplitHCursor
+                                                               : Qt::SplitVCursor);
+    } else {
+        d->move(pos, d->toolPixel(place, view), modifiers);
+    }
+    d->tell(pixelOf(d->place().toCanvas(place, view)));
+    update();
+}
+
+void ImageRenderer::mouseWheel(int delta)
+{
+    d->wheelRest += delta;
+    const auto steps = double(d->wheelRest / WheelStep);
+    d->wheelRest %= WheelStep;
+    if (steps == 0) {
+        return;
+    }
+    const double zoom = d->canvas.zoomLevel();
+    const double newZoom = steps > 0 ? zoom * (steps + 1) : zoom / (1 - steps);
+    const QPointF place = d->exact.value_or(d->mousePos);
+    if (d->isOutside || d->views.viewAt(place) == ImageView::Original) {
+        d->zoomAboutMiddle(newZoom);
+    } else {
+        d->zoomTo(newZoom, place);
+    }
+}
+
+void ImageRenderer::focusLost()
+{
+    d->isSpaceHeld = false;
+    d->losePress();
+    d->hideCell();
+}
+
+void ImageRenderer::mouseLeft()
+{
+    d->losePress();
+    d->isOutside = true;
+    if (d->current) {
+        d->current->mouseLeft();
+    }
+    if (!d->isCellShown) {
+        d->toldPixel.reset();
+        emit cursorLeft();
+    }
+    update();
+}
+
+void ImageRenderer::grabLost()
+{
+    d->losePress();
+}
+
+void ImageRendererPrivate::tell(const QPoint& pixel)
+{
+    int index = -1;
+    QRgb color = 0;
+    const QImage shownPixel = canvas.mergePart(QRect(pixel, QSize(1, 1)));
+    if (!shownPixel.isNull()) {
+        color = shownPixel.pixel(0, 0);
+        index = canvas.format() == ImageCanvas::IndexedFormat ? shownPixel.pixelIndex(0, 0) : -1;
+    }
+    const bool isElsewhere = toldPixel != pixel;
+    if (!isElsewhere && index == toldIndex && color == toldColor) {
+        return;
+    }
+    toldPixel = pixel;
+    toldIndex = index;
+    toldColor = color;
+    if (isElsewhere) {
+        emit q->cursorChanged(pixel);
+    }
+    emit q->pos(pixel, index, color);
+}
+
+// The picture may have moved below the pointer.
+void ImageRendererPrivate::tellAgain()
+{
+    if (isCellShown) {
+        tell(cell);
+    } else if (toldPixel && !isOutside) {
+        const ImageView view = pressed ? pressView : place().viewAt(mousePos);
+        tell(pixelOf(place().toCanvas(exactPlace(mousePos), view)));
+    }
+}
+
+}  // namespace Zorv

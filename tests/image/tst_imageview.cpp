@@ -1,0 +1,242 @@
+#include "graphics/glcontext.h"
+#include "graphics/renderwidget.h"
+#include "image/canvas/imagelayer.h"
+#include "image/canvas/imageundostack.h"
+#include "image/imagerenderer.h"
+#include "support/testimagepalette.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QTabletEvent>
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Zorv;
+
+/// A canvas in its widget, with the events of a person, at several scales of the screen.
+class TestImageView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(isContextUsable()); }
+    void init();
+    void cleanup() { widget.reset(); }
+    void pixelUnderThePointer_data();
+    void pixelUnderThePointer();
+    void isPaintedByKeys();
+    void strokesEnd_data();
+    void strokesEnd();
+
+private:
+    ImageCanvas& canvas() const { return *renderer->canvas(); }
+    void setImage(const QSize& size);
+    void send(QEvent::Type type, QPointF pos, Qt::MouseButton button, Qt::MouseButtons buttons);
+    QRect painted() const { return canvas().activeLayer()->cropRect(); }
+
+    TestImagePalette palette;
+    std::unique_ptr<ImageRenderer> renderer;
+    std::unique_ptr<RenderWidget> widget;
+};
+
+void TestImageView::init()
+{
+    renderer = std::make_unique<ImageRenderer>(&palette);
+    renderer->setVisibility(false, true);
+    widget = std::make_unique<RenderWidget>();
+    widget->resize(300, 200);
+    widget->setRenderer(renderer.get());
+    widget->show();
+    QVERIFY(QTest::qWaitForWindowExposed(widget.get()));
+    QApplication::setActiveWindow(widget.get());
+}
+
+/// Each pixel has another colour, in a large one each of a row.
+void TestImageView::setImage(const QSize& size)
+{
+    canvas().setSize(size, QPoint(), false);
+    QImage image(size, QImage::Format_ARGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            image.setPixel(x, y, qRgb(x & 255, y & 255, x >> 8));
+        }
+    }
+    canvas().setActiveLayer(canvas().newRasterLayer(image));
+    canvas().undoStack()->clear();
+}
+
+void TestImageView::send(QEvent::Type type, QPointF pos, Qt::MouseButton button,
+                         Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, pos, widget->mapToGlobal(pos.toPoint()), button, buttons, {});
+    QApplication::sendEvent(widget.get(), &event);
+}
+
+void TestImageView::pixelUnderThePointer_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<QPoint>("offset");
+    QTest::newRow("actual") << QSize(120, 90) << 1.0 << QPoint();
+    QTest::newRow("half") << QSize(320, 240) << 0.5 << QPoint(3, 1);
+    QTest::newRow("between") << QSize(101, 90) << 1.3 << QPoint(7, -3);
+    QTest::newRow("near") << QSize(60, 50) << 3.0 << QPoint();
+    QTest::newRow("nearest") << QSize(60, 50) << 10.0 << QPoint(-31, 40);
+    // Its right end lies in a tile that is not in the first texture.
+    QTest::newRow("beyond a texture") << QSize(20000, 50) << 1.0 << QPoint(-9900, 0);
+}
+
+// For pixels of the screen all over the widget: the one that is told is the one that is seen.
+void TestImageView::pixelUnderThePointer()
+{
+    QFETCH(QSize, size);
+    QFETCH(double, zoom);
+    QFETCH(QPoint, offset);
+    setImage(size);
+    canvas().setZoomLevel(zoom);
+    canvas().setPosition(canvas().position() + offset);
+    const QImage seen = widget->grabFramebuffer().convertToFormat(QImage::Format_RGB32);
+    const double scale = widget->devicePixelRatioF();
+    QCOMPARE(seen.width(), qRound(300 * scale));
+    QPoint pixel;
+    connect(renderer.get(), &ImageRenderer::cursorChanged, this, [&](QPoint at) { pixel = at; });
+    int inside = 0;
+    for (int y = 0; y < seen.height(); y += 3) {
+        for (int x = y % 2; x < seen.width(); x += 2) {
+            send(QEvent::MouseMove, QPointF(x, y) / scale, Qt::NoButton, Qt::NoButton);
+            const QImage& image = canvas().activeLayer()->image();
+            // The last one may be cut off, where the rectangle is rounded.
+            const QPointF middle = QPointF(x + 0.5, y + 0.5) / scale;
+            if (image.rect().contains(pixel) && QRectF(renderer->zoomedRect()).contains(middle)) {
+                ++inside;
+                QCOMPARE(QColor(seen.pixel(x, y)), QColor(image.pixel(pixel)));
+            }
+        }
+    }
+    QVERIFY(inside > 500);
+}
+
+// Click, Shift-click to a line, a drag, and the background.
+void TestImageView::isPaintedByKeys()
+{
+    canvas().setFormat(ImageCanvas::IndexedFormat, false);
+    palette.colors[0].a = 0;
+    palette.ground = 2;
+    canvas().setSize({64, 64}, QPoint(), false);
+    canvas().setActiveLayer(canvas().newRasterLayer(QImage()));
+    renderer->setCurrentTool(ImageTool::PenTool);
+    canvas().setZoomLevel(10);
+    const auto press = [&](Qt::Key key, int times = 1, Qt::KeyboardModifiers modifiers = {}) {
+        for (int i = 0; i < times; ++i) {
+            QTest::keyClick(widget.get(), key, modifiers);
+        }
+    };
+    send(QEvent::MouseMove, {150, 100}, Qt::NoButton, Qt::NoButton);
+    const QImage blank = widget->grabFramebuffer();
+    press(Qt::Key_Left, 12);
+    QVERIFY(widget->grabFramebuffer() != blank);
+    press(Qt::Key_Return);
+    QCOMPARE(painted(), QRect(20, 32, 1, 1));
+    press(Qt::Key_Right, 4);
+    press(Qt::Key_Return, 1, Qt::ShiftModifier);
+    QCOMPARE(painted(), QRect(20, 32, 5, 1));
+    QTest::keyPress(widget.get(), Qt::Key_Shift);
+    for (int i = 0; i < 5; ++i) {
+        QTest::keyPress(widget.get(), Qt::Key_Down, Qt::ShiftModifier);
+    }
+    QCOMPARE(painted(), QRect(20, 32, 5, 6));
+    QVERIFY(canvas().isStroking());
+    QTest::keyRelease(widget.get(), Qt::Key_Shift);
+    QVERIFY(!canvas().isStroking());
+    press(Qt::Key_Down);
+    press(Qt::Key_Enter, 1, Qt::AltModifier);
+    QCOMPARE(canvas().activeLayer()->image().pixelIndex(24, 38), 2);
+    // At the end of the canvas it stays, and in view.
+    press(Qt::Key_Right, 70);
+    press(Qt::Key_Return);
+    QCOMPARE(painted().right(), 63);
+    QVERIFY(widget->rect().contains(renderer->zoomedRect().topLeft() + QPoint(635, 385)));
+}
+
+void TestImageView::strokesEnd_data()
+{
+    QTest::addColumn<int>("loss");
+    QTest::addColumn<bool>("ends");
+    QTest::newRow("none") << int(QEvent::None) << false;
+    QTest::newRow("focus") << int(QEvent::FocusOut) << true;
+    QTest::newRow("grab") << int(QEvent::UngrabMouse) << true;
+    QTest::newRow("hidden") << int(QEvent::Hide) << true;
+}
+
+// By mouse and by pen.
+void TestImageView::strokesEnd()
+{
+    QFETCH(int, loss);
+    QFETCH(bool, ends);
+    setImage({64, 64});
+    palette.colors[1] = {1, 2, 3, 255};
+    renderer->setCurrentTool(ImageTool::PenTool);
+    const auto mouse = [this](int step, QPointF pos) {
+        const QEvent::Type types[] = {QEvent::MouseButtonPress, QEvent::MouseMove,
+                                      QEvent::MouseButtonRelease};
+        send(types[step], pos, step == 1 ? Qt::NoButton : Qt::LeftButton,
+             step == 2 ? Qt::NoButton : Qt::LeftButton);
+    };
+    const auto pen = [this](int step, QPointF pos) {
+        const QEvent::Type types[] = {QEvent::TabletPress, QEvent::TabletMove,
+                                      QEvent::TabletRelease};
+        QTabletEvent event(types[step], pos, pos, QTabletEvent::Stylus, QTabletEvent::Pen, 1, 0, 0,
+                           0, 0, 0, {}, 1, step == 1 ? Qt::NoButton : Qt::LeftButton,
+                           step == 2 ? Qt::NoButton : Qt::LeftButton);
+        QApplication::sendEvent(widget.get(), &event);
+    };
+    const QPoint corner = renderer->zoomedRect().topLeft();
+    const std::function<void(int, QPointF)> devices[] = {mouse, pen};
+    for (int i = 0; i < 2; ++i) {
+        const int y = 5 + i;
+        devices[i](0, corner + QPointF(2, y));
+        devices[i](1, corner + QPointF(10, y));
+        QVERIFY(canvas().isStroking());
+        if (loss == QEvent::FocusOut) {
+            widget->clearFocus();
+        } else if (loss != QEvent::None) {
+            QEvent event{QEvent::Type(loss)};
+            QApplication::sendEvent(widget.get(), &event);
+        }
+        QCOMPARE(!canvas().isStroking(), ends);
+        devices[i](1, corner + QPointF(20, y));
+        devices[i](2, corner + QPointF(20, y));
+        QVERIFY(!canvas().isStroking());
+        const QImage& image = canvas().activeLayer()->image();
+        QCOMPARE(QColor(image.pixel(10, y)), QColor(1, 2, 3));
+        QCOMPARE(QColor(image.pixel(20, y)) == QColor(1, 2, 3), !ends);
+        QCOMPARE(canvas().undoStack()->index(), i + 1);
+    }
+}
+
+/// A scale is that of a process.
+int main(int argc, char** argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
+        int failed = 0;
+        for (const char* scale : {"1", "1.25", "1.5", "2"}) {
+            qputenv("QT_SCALE_FACTOR", scale);
+            qInfo("scale %s", scale);
+            QStringList arguments;
+            std::transform(argv + 1, argv + argc, std::back_inserter(arguments),
+                           [](const char* text) { return QString::fromLocal8Bit(text); });
+            failed += QProcess::execute(QString::fromLocal8Bit(argv[0]), arguments) == 0 ? 0 : 1;
+        }
+        return failed;
+    }
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication application(argc, argv);
+    TestImageView test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_imageview.moc"
