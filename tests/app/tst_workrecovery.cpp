@@ -24,6 +24,7 @@ using Operations::AbandonedWorks;
 namespace {
 
 constexpr int Patience = 120000;  // ms, until a busy machine has started a program
+constexpr int MostAtOnce = 20;
 constexpr int Kills = 50;
 constexpr int KillsWithWindow = 10;
 constexpr int AssetKills = 25;
@@ -100,14 +101,19 @@ int addUntilKilled(const QString& root, const QString& folder, const QString& fi
     fixture.window->openPath(folder);
     fixture.window->openFile(file);
     int added = 0;
-    QObject::connect(recovery.keeper(), &Operations::RecoveryKeeper::copied, [&added] {
-        printf("%d\n", added);
+    int copied = 0;
+    QObject::connect(recovery.keeper(), &Operations::RecoveryKeeper::copied, [&] {
+        copied = added;
+        printf("%d\n", copied);
         fflush(stdout);
     });
+    // A person pauses. Without a pause a slow machine never has all of it put aside.
     QTimer adding;
     QObject::connect(&adding, &QTimer::timeout, [&] {
-        addTo(fixture.window->currentProject(), added);
-        ++added;
+        if (added < copied + MostAtOnce) {
+            addTo(fixture.window->currentProject(), added);
+            ++added;
+        }
     });
     adding.start(2);
     return QApplication::exec();

@@ -139,6 +139,7 @@ struct RecoveryKeeper::Private
     bool needsCopy(ProjectFile* file) const;
     void copyAll(bool isUrgent);
     void copy(ProjectFile* file, Watched* watched);
+    void tellIfCopied();
     void gather(int milliseconds);
     void forgetSnapshot(Watched* watched);
     void write(ProjectFile* file, Watched* watched);
@@ -284,6 +285,7 @@ bool RecoveryKeeper::Private::needsCopy(ProjectFile* file) const
 
 void RecoveryKeeper::Private::copyAll(bool isUrgent)
 {
+    const bool wasLate = isLate;
     isLate = false;
     for (auto it = files.begin(); it != files.end(); ++it) {
         if (!needsCopy(it.key())) {
@@ -297,6 +299,16 @@ void RecoveryKeeper::Private::copyAll(bool isUrgent)
     }
     if (isLate) {
         startTimer();
+    } else if (wasLate) {
+        tellIfCopied();
+    }
+}
+
+void RecoveryKeeper::Private::tellIfCopied()
+{
+    if (pendingCount == 0 && !isLate) {
+        hasFailed = false;
+        emit q->copied();
     }
 }
 
@@ -388,9 +400,8 @@ void RecoveryKeeper::Private::written(ProjectFile* file, int number, const Outco
         fail(RecoveryKeeper::tr("Unsaved work cannot be put aside. Save often, and make room on "
                                 "the disk. %1")
                  .arg(outcome.reason));
-    } else if (pendingCount == 0 && !isLate) {
-        hasFailed = false;
-        emit q->copied();
+    } else {
+        tellIfCopied();
     }
 }
 
