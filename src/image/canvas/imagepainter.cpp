@@ -27,7 +27,7 @@ ImagePainter::~ImagePainter() = default;
 
 void ImagePainter::point(const QPoint& point)
 {
-    const QRect square = QRect(point, QSize(m_width, m_width)) & paintable();
+    const QRect square = BrushLine(point, point, m_width).rect() & paintable();
     if (square.isEmpty() || !announce(square)) {
         return;
     }
