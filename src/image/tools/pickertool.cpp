@@ -48,11 +48,6 @@ void PickerTool::pick(ImagePainter* painter)
     }
 }
 
-Qt::MouseButton PickerTool::button() const
-{
-    return m_button;
-}
-
 void PickerTool::renderCursor(QPainter& painter, QPoint pos, double zoom)
 {
     // A cross of four arms that leaves the pixel free, black beside white to show on any ground.

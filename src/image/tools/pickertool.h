@@ -27,11 +27,8 @@ protected:
     /// Does it at `lastPos()`, which lies within the image.
     virtual void pick(ImagePainter* painter);
 
-    /// That began the press.
-    Qt::MouseButton button() const;
-
 private:
-    Qt::MouseButton m_button = Qt::NoButton;
+    Qt::MouseButton m_button = Qt::NoButton;  ///< that began the press
 };
 
 }  // namespace Zorv
