@@ -22,6 +22,9 @@ namespace {
 
 constexpr uint seed = 31;
 
+/// What is shown, and whether the right view is asked.
+enum Views { Original = 1, Zoomed = 2, Both = 3, Right = 4, Following = 8 };
+
 /// A renderer on one layer, by itself in a widget that need not be there.
 struct View
 {
@@ -48,12 +51,6 @@ struct View
         QPainter painter(&image);
         renderer.render(painter);
         return image;
-    }
-
-    void setWidth(int width)
-    {
-        auto* const pen = qobject_cast<BasePenTool*>(renderer.currentTool());
-        pen->slider()->setValue(width);
     }
 };
 
@@ -107,7 +104,6 @@ private slots:
     void pressesOutOfOrder_data();
     void pressesOutOfOrder();
     void strokeStaysInItsView();
-    void wideBrushes_data();
     void wideBrushes();
     void tellsWhatIsThere();
     void axisIsDraggedAtItsGrip();
@@ -116,48 +112,47 @@ private slots:
 void TestImageRenderer::mapsPoints_data()
 {
     QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("original");
-    QTest::addColumn<bool>("zoomed");
+    QTest::addColumn<int>("views");
     QTest::addColumn<double>("zoom");
     QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<bool>("inZoomed");
     QTest::addColumn<QPoint>("rounded");
     QTest::addColumn<QPoint>("pixel");
+    const auto row = [](const char* name, QSize size, int views, double zoom, QPoint pos,
+                        QPoint rounded, QPoint pixel) {
+        QTest::newRow(name) << size << views << zoom << pos << rounded << pixel;
+    };
     // A widget of 401 by 301: the middle of a half is 100,150, that of the whole 200,150.
     const QSize even(64, 64);
     const QSize odd(65, 63);
-    QTest::newRow("corner") << even << true << true << 1.0 << QPoint(68, 118) << false
-                            << QPoint(0, 0) << QPoint(0, 0);
-    QTest::newRow("last column") << even << true << true << 1.0 << QPoint(131, 118) << false
-                                 << QPoint(63, 0) << QPoint(63, 0);
-    QTest::newRow("last column, zoomed") << even << true << true << 1.0 << QPoint(331, 118) << true
-                                         << QPoint(63, 0) << QPoint(63, 0);
-    QTest::newRow("odd") << odd << true << true << 1.0 << QPoint(68, 119) << false << QPoint(0, 0)
-                         << QPoint(0, 0);
-    QTest::newRow("odd, zoomed") << odd << false << true << 4.0 << QPoint(72, 26) << true
-                                 << QPoint(0, 0) << QPoint(0, 0);
-    QTest::newRow("second half of a pixel")
-        << even << false << true << 4.0 << QPoint(74, 25) << true << QPoint(1, 1) << QPoint(0, 0);
-    QTest::newRow("left of it") << even << false << true << 4.0 << QPoint(71, 22) << true
-                                << QPoint(0, 0) << QPoint(-1, 0);
-    QTest::newRow("last of a pixel")
-        << even << false << true << 4.0 << QPoint(75, 22) << true << QPoint(1, 0) << QPoint(0, 0);
+    const QSize wide(300, 64);
+    row("corner", even, Both, 1, {68, 118}, {0, 0}, {0, 0});
+    row("last column", even, Both, 1, {131, 118}, {63, 0}, {63, 0});
+    row("last column, zoomed", even, Both | Right, 1, {331, 118}, {63, 0}, {63, 0});
+    row("odd", odd, Both, 1, {68, 119}, {0, 0}, {0, 0});
+    row("odd, zoomed", odd, Zoomed | Right, 4, {72, 26}, {0, 0}, {0, 0});
+    row("second half of a pixel", even, Zoomed | Right, 4, {74, 25}, {1, 1}, {0, 0});
+    row("left of it", even, Zoomed | Right, 4, {71, 22}, {0, 0}, {-1, 0});
+    row("last of a pixel", even, Zoomed | Right, 4, {75, 22}, {1, 0}, {0, 0});
+    // The column 175 is in the middle of the zoomed view, and so of the other.
+    row("follows", wide, Both | Following, 4, {100, 118}, {175, 0}, {175, 0});
 }
 
 void TestImageRenderer::mapsPoints()
 {
     QFETCH(QSize, size);
-    QFETCH(bool, original);
-    QFETCH(bool, zoomed);
+    QFETCH(int, views);
     QFETCH(double, zoom);
     QFETCH(QPoint, pos);
-    QFETCH(bool, inZoomed);
     View view(size, {401, 301}, ImageCanvas::RGBAFormat);
-    view.renderer.setVisibility(original, zoomed);
+    view.renderer.setVisibility(views & Original, views & Zoomed);
     view.renderer.centralize();
     view.canvas.setZoomLevel(zoom);
-    QTEST(view.renderer.mapToCanvas(pos, inZoomed), "rounded");
-    QTEST(view.renderer.pixelAt(pos, inZoomed), "pixel");
+    view.renderer.setOption(ImageRenderer::FollowOriginal, views & Following);
+    if (views & Following) {
+        view.canvas.setPosition({0, 0});
+    }
+    QTEST(view.renderer.mapToCanvas(pos, views & Right), "rounded");
+    QTEST(view.renderer.pixelAt(pos, views & Right), "pixel");
 }
 
 // Through sizes of all kinds, and through views that come and go.
@@ -190,26 +185,23 @@ void TestImageRenderer::zooms_data()
     QTest::addColumn<double>("zoom");
     QTest::addColumn<QVector<int>>("wheel");  // none: the two keys
     QTest::addColumn<QVector<double>>("expected");
-    const QSize large(400, 400);
-    using Zooms = QVector<double>;
-    QTest::newRow("half") << large << 0.5 << QVector<int>() << Zooms{1, 0.25};
-    QTest::newRow("one") << large << 1.0 << QVector<int>() << Zooms{2, 0.5};
-    QTest::newRow("between") << large << 1.5 << QVector<int>() << Zooms{2.5, 0.5};
-    QTest::newRow("eight") << large << 8.0 << QVector<int>() << Zooms{8, 7};
-    QTest::newRow("quarter") << large << 0.25 << QVector<int>() << Zooms{0.5, 0.25};
-    QTest::newRow("wheel") << large << 4.0 << QVector<int>{-120, 240, 120} << Zooms{2, 6, 10};
-    QTest::newRow("small steps") << large << 2.0 << QVector<int>{50, 50, 50, -90, -59, -1}
-                                 << Zooms{2, 2, 4, 4, 4, 2};
-    QTest::newRow("far too far") << large << 2.0
-                                 << QVector<int>{std::numeric_limits<int>::max(),
-                                                 std::numeric_limits<int>::min()}
-                                 << Zooms{10, 0.125};
-    QTest::newRow("tiny canvas") << QSize(5, 5) << 1.0 << QVector<int>{120, -120} << Zooms{10, 10};
-    QTest::newRow("one pixel") << QSize(1, 1) << 1.0 << QVector<int>{120} << Zooms{50};
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const double infinity = std::numeric_limits<double>::infinity();
-    QTest::newRow("no number") << large << nan << QVector<int>{0} << Zooms{1};
-    QTest::newRow("infinite") << large << infinity << QVector<int>{0} << Zooms{1};
+    const auto row = [](const char* name, int side, double zoom, const QVector<int>& wheel,
+                        const QVector<double>& expected) {
+        QTest::newRow(name) << QSize(side, side) << zoom << wheel << expected;
+    };
+    const int least = std::numeric_limits<int>::min();
+    row("half", 400, 0.5, {}, {1, 0.25});
+    row("one", 400, 1, {}, {2, 0.5});
+    row("between", 400, 1.5, {}, {2.5, 0.5});
+    row("eight", 400, 8, {}, {8, 7});
+    row("quarter", 400, 0.25, {}, {0.5, 0.25});
+    row("wheel", 400, 4, {-120, 240, 120}, {2, 6, 10});
+    row("small steps", 400, 2, {50, 50, 50, -90, -59, -1}, {2, 2, 4, 4, 4, 2});
+    row("far too far", 400, 2, {~least, least}, {10, 0.125});
+    row("tiny canvas", 5, 1, {120, -120}, {10, 10});
+    row("one pixel", 1, 1, {120}, {50});
+    row("no number", 400, std::numeric_limits<double>::quiet_NaN(), {0}, {1});
+    row("infinite", 400, std::numeric_limits<double>::infinity(), {0}, {1});
 }
 
 void TestImageRenderer::zooms()
@@ -226,8 +218,6 @@ void TestImageRenderer::zooms()
         view.canvas.setZoomLevel(zoom);
         view.renderer.subZoom();
         found += view.canvas.zoomLevel();
-        view.renderer.zoomActual();
-        QCOMPARE(view.canvas.zoomLevel(), 1.0);
     }
     for (const int delta : wheel) {
         view.renderer.mouseWheel(delta);
@@ -264,8 +254,8 @@ void TestImageRenderer::picture_data()
     QTest::newRow("true colour") << int(ImageCanvas::RGBAFormat);
 }
 
-// Strokes, masks, layers and sizes at random: what is made anew in parts is what would be made
-// anew as a whole. In the middle of a change the picture before it stays.
+// Tools with events in any order, layers and sizes at random: what is made anew in parts is what
+// would be made anew as a whole. In the middle of a change the picture before it stays.
 void TestImageRenderer::picture()
 {
     QFETCH(int, format);
@@ -282,17 +272,27 @@ void TestImageRenderer::picture()
         return view.shown(size);
     };
     const auto stroke = [&] {
-        view.renderer.setCurrentTool(random.bounded(4) ? ImageTool::PenTool
-                                                       : ImageTool::PenSelTool);
-        view.setWidth(1 + random.bounded(24));
+        view.renderer.setCurrentTool(ImageTool::Type(random.bounded(9)));
+        if (auto* const pen = qobject_cast<BasePenTool*>(view.renderer.currentTool())) {
+            pen->slider()->setValue(1 + random.bounded(24));
+        }
         view.palette.setForeground(uchar(random.bounded(256)));
-        const auto button = random.bounded(2) ? Qt::LeftButton : Qt::RightButton;
-        const auto somewhere = [&] {
-            return QPoint(random.bounded(size.width()), random.bounded(size.height()));
-        };
-        view.renderer.mousePressed(somewhere(), button, Qt::NoModifier);
-        view.renderer.mouseMoved(somewhere(), Qt::NoModifier);
-        view.renderer.mouseReleased(somewhere(), button, Qt::NoModifier);
+        for (int i = 0; i < 8; ++i) {
+            const QPoint pos(random.bounded(size.width()), random.bounded(size.height()));
+            const auto button = random.bounded(3) ? Qt::LeftButton : Qt::RightButton;
+            const int keys[] = {Qt::Key_Left, Qt::Key_Down, Qt::Key_Return, Qt::Key_Space};
+            const int kind = random.bounded(8);
+            if (kind < 2) {
+                view.renderer.mousePressed(pos, button, Qt::NoModifier);
+            } else if (kind == 2) {
+                view.renderer.mouseReleased(pos, button, Qt::NoModifier);
+            } else if (kind == 3) {
+                view.renderer.keyPressed(keys[random.bounded(4)], Qt::ShiftModifier);
+            } else {
+                view.renderer.mouseMoved(pos, Qt::NoModifier);
+            }
+        }
+        view.renderer.focusLost();
     };
     const auto layer = [&] {
         return view.canvas.layers()->at(
@@ -426,33 +426,27 @@ void TestImageRenderer::strokeStaysInItsView()
     }
 }
 
-void TestImageRenderer::wideBrushes_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("centered");
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<QRect>("painted");
-    // At zoom 4 the pixel 10,10 is 40 to 43.
-    QTest::newRow("one") << 1 << true << QPoint(43, 40) << QRect(10, 10, 1, 1);
-    QTest::newRow("three") << 3 << true << QPoint(43, 40) << QRect(9, 9, 3, 3);
-    QTest::newRow("two, left half") << 2 << true << QPoint(41, 40) << QRect(9, 9, 2, 2);
-    QTest::newRow("two, right half") << 2 << true << QPoint(42, 43) << QRect(10, 10, 2, 2);
-    QTest::newRow("off") << 3 << false << QPoint(43, 40) << QRect(10, 10, 3, 3);
-}
-
+// At zoom 4, where the pixel 10,10 is 40 to 43.
 void TestImageRenderer::wideBrushes()
 {
-    QFETCH(int, width);
-    QFETCH(bool, centered);
-    QFETCH(QPoint, pos);
     View view({64, 64}, {256, 256}, ImageCanvas::IndexedFormat);
     view.renderer.setVisibility(false, true);
     view.canvas.setZoomLevel(4);
-    view.renderer.setOption(ImageRenderer::CenteredBrush, centered);
     view.renderer.setCurrentTool(ImageTool::PenTool);
-    view.setWidth(width);
-    view.renderer.mousePressed(pos, Qt::LeftButton, Qt::NoModifier);
-    QTEST(view.canvas.activeLayer()->cropRect(), "painted");
+    auto* const pen = qobject_cast<BasePenTool*>(view.renderer.currentTool());
+    const auto painted = [&](int width, bool isCentered, QPoint pos) {
+        view.renderer.setOption(ImageRenderer::CenteredBrush, isCentered);
+        pen->slider()->setValue(width);
+        view.renderer.mousePressed(pos, Qt::LeftButton, Qt::NoModifier);
+        const QRect rect = view.canvas.activeLayer()->cropRect();
+        view.canvas.undoStack()->undo();
+        return rect;
+    };
+    QCOMPARE(painted(1, true, {43, 40}), QRect(10, 10, 1, 1));
+    QCOMPARE(painted(3, true, {43, 40}), QRect(9, 9, 3, 3));
+    QCOMPARE(painted(2, true, {41, 40}), QRect(9, 9, 2, 2));
+    QCOMPARE(painted(2, true, {42, 43}), QRect(10, 10, 2, 2));
+    QCOMPARE(painted(3, false, {43, 40}), QRect(10, 10, 3, 3));
 }
 
 void TestImageRenderer::tellsWhatIsThere()
