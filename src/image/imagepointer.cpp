@@ -30,9 +30,18 @@ void ImageRendererPrivate::setCursor(const QCursor& cursor)
     }
 }
 
+void ImageRendererPrivate::setPointer(QPoint pos)
+{
+    mousePos = pos;
+    isOutside = false;
+    if (exact && exact->toPoint() != pos) {
+        exact.reset();
+    }
+}
+
 QPointF ImageRendererPrivate::exactPlace(QPoint pos) const
 {
-    if (!exact || exact->toPoint() != pos) {
+    if (!exact) {
         return pos;
     }
     const double ratio = q->widget() ? q->widget()->devicePixelRatioF() : 1;
@@ -124,8 +133,7 @@ void ImageRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
     if (widget()) {
         widget()->setFocus(Qt::MouseFocusReason);
     }
-    d->mousePos = pos;
-    d->isOutside = false;
+    d->setPointer(pos);
     // A button that is down already was released where nobody heard of it.
     if (d->isCellDragged || d->pressed.testFlag(button)) {
         d->losePress();
@@ -147,7 +155,7 @@ void ImageRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
 void ImageRenderer::mouseReleased(QPoint pos, Qt::MouseButton button,
                                   Qt::KeyboardModifiers modifiers)
 {
-    d->mousePos = pos;
+    d->setPointer(pos);
     if (d->isCellDragged || !d->pressed.testFlag(button)) {
         return;
     }
@@ -168,8 +176,7 @@ void ImageRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
     if (d->isCellDragged || (d->isCellShown && pos == d->mousePos)) {
         return;
     }
-    d->mousePos = pos;
-    d->isOutside = false;
+    d->setPointer(pos);
     d->hideCell();
     const QPointF place = d->exactPlace(pos);
     const ImageView view = d->pressed ? d->pressView : d->place().viewAt(pos);

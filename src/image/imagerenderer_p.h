@@ -43,9 +43,8 @@ public:
     {
         const QPoint before = views.middle();
         act();
-        const QPoint position = canvas.position() + views.middle() - before;
-        if (position != canvas.position()) {
-            canvas.setPosition(position);
+        if (views.middle() != before) {
+            canvas.setPosition(savePosition(canvas.position()) + views.middle() - before);
         }
     }
 
@@ -55,6 +54,9 @@ public:
 
     /// @name Input
     /// @{
+
+    /// Notes the place of a mouse call.
+    void setPointer(QPoint pos);
 
     /// The exact place of a mouse call, in the middle of the pixel of the screen.
     QPointF exactPlace(QPoint pos) const;
@@ -129,7 +131,7 @@ public:
     ImagePlace views;  ///< place and zoom aside, which the canvas has
 
     QPoint mousePos;
-    std::optional<QPointF> exact;
+    std::optional<QPointF> exact;  ///< told in front of the call; none if that is elsewhere
     bool isOutside = false;
     bool isSpaceHeld = false;
     qint64 wheelRest = 0;
