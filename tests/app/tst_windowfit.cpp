@@ -1,8 +1,8 @@
 #include "app/stage/stagesight.h"
 #include "stagefixture.h"
+#include "support/gltest.h"
 
 #include <QDockWidget>
-#include <QProcess>
 #include <QScreen>
 
 namespace {
@@ -195,27 +195,6 @@ void TestWindowFit::restartKeepsTheView()
     QCOMPARE(int(m.stage()->zoomLevel()), 4);
 }
 
-/// A scale is that of a process.
-int main(int argc, char** argv)
-{
-    if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
-        int failed = 0;
-        for (const char* scale : {"1", "1.5", "2"}) {
-            qputenv("QT_SCALE_FACTOR", scale);
-            qInfo("scale %s", scale);
-            QStringList arguments;
-            std::transform(argv + 1, argv + argc, std::back_inserter(arguments),
-                           [](const char* text) { return QString::fromLocal8Bit(text); });
-            failed += QProcess::execute(QString::fromLocal8Bit(argv[0]), arguments) == 0 ? 0 : 1;
-        }
-        return failed;
-    }
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QApplication application(argc, argv);
-    TestWindowFit test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZORV_GL_TEST_MAIN_AT_SCALES(TestWindowFit, "1", "1.5", "2")
 
 #include "tst_windowfit.moc"

@@ -3,14 +3,11 @@
 #include "image/canvas/imagelayer.h"
 #include "image/canvas/imageundostack.h"
 #include "image/imagerenderer.h"
+#include "support/gltest.h"
 #include "support/testimagepalette.h"
 
 #include <QApplication>
-#include <QProcess>
 #include <QtTest>
-
-#include <algorithm>
-#include <cmath>
 
 using namespace Zorv;
 
@@ -177,27 +174,6 @@ void TestImageView::strokeEndsWithTheFocus()
     QCOMPARE(canvas().undoStack()->count(), 1);
 }
 
-/// A scale is that of a process.
-int main(int argc, char** argv)
-{
-    if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {
-        int failed = 0;
-        for (const char* scale : {"1", "1.25", "1.5", "2"}) {
-            qputenv("QT_SCALE_FACTOR", scale);
-            qInfo("scale %s", scale);
-            QStringList arguments;
-            std::transform(argv + 1, argv + argc, std::back_inserter(arguments),
-                           [](const char* text) { return QString::fromLocal8Bit(text); });
-            failed += QProcess::execute(QString::fromLocal8Bit(argv[0]), arguments) == 0 ? 0 : 1;
-        }
-        return failed;
-    }
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
-        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    QApplication application(argc, argv);
-    TestImageView test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZORV_GL_TEST_MAIN_AT_SCALES(TestImageView, "1", "1.25", "1.5", "2")
 
 #include "tst_imageview.moc"

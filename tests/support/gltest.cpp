@@ -5,6 +5,7 @@
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
+#include <QProcess>
 
 #include <map>
 #include <vector>
@@ -214,6 +215,21 @@ void takeTable()
 }
 
 }  // namespace
+
+int runAtScales(int argc, char** argv, const QByteArrayList& scales)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments += QString::fromLocal8Bit(argv[i]);
+    }
+    int failed = 0;
+    for (const QByteArray& scale : scales) {
+        qputenv("QT_SCALE_FACTOR", scale);
+        qInfo("scale %s", scale.constData());
+        failed += QProcess::execute(QString::fromLocal8Bit(argv[0]), arguments) != 0;
+    }
+    return failed;
+}
 
 CallCounter::CallCounter()
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QByteArrayList>
 #include <QSize>
 #include <QTest>
 #include <QVector>
@@ -15,7 +16,25 @@
         return QTest::qExec(&test, argc, argv);                                                    \
     }
 
+/// The same at several scales of the screen. A scale is that of a process, so each has one.
+#define ZORV_GL_TEST_MAIN_AT_SCALES(TestClass, ...)                                                \
+    int main(int argc, char** argv)                                                                \
+    {                                                                                              \
+        if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) {                                       \
+            return GlTest::runAtScales(argc, argv, {__VA_ARGS__});                                 \
+        }                                                                                          \
+        QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);                                \
+        QGuiApplication::setHighDpiScaleFactorRoundingPolicy(                                      \
+            Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);                                    \
+        QApplication application(argc, argv);                                                      \
+        TestClass test;                                                                            \
+        return QTest::qExec(&test, argc, argv);                                                    \
+    }
+
 namespace GlTest {
+
+/// The number of scales at which the program fails.
+int runAtScales(int argc, char** argv, const QByteArrayList& scales);
 
 /// What was asked of GL, by whoever calls it through Qt.
 struct Calls
