@@ -108,11 +108,8 @@ bool LadderValue::write(const QVariant& value)
     return true;
 }
 
-LadderDocument::LadderDocument(LadderGrammar::Reuse reuse, const QString& text)
-    : CodeDocument(0), m_grammar(reuse)
+LadderDocument::LadderDocument(LadderGrammar::Reuse reuse, const QString& text) : m_grammar(reuse)
 {
-    setOption(QStringLiteral("parseCode"), true, false, false);
-    setOption(QStringLiteral("highlightCode"), true, false, false);
     setParser(&m_grammar);
     setPlainText(text);
 }
@@ -124,14 +121,4 @@ int LadderDocument::blockFolding(const QString& line) const
     }
     const bool isOuter = line.startsWith(QLatin1Char('!')) || line.startsWith(QLatin1Char('@'));
     return isOuter ? 5 : line.startsWith(QLatin1Char('.')) ? 1 : 2;
-}
-
-void LadderDocument::release()
-{
-    if (m_released) {
-        delete this;
-        return;
-    }
-    m_released = true;
-    destroy();
 }

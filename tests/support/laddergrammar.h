@@ -2,11 +2,11 @@
 
 #include "code/codedoc/animationcode.h"
 #include "code/codedoc/animations.h"
-#include "code/codedoc/codedocument.h"
 #include "code/codedoc/codeparser.h"
 #include "code/codedoc/framecode.h"
 #include "code/codedoc/groupcode.h"
 #include "code/codedoc/valuecode.h"
+#include "support/smalldocument.h"
 
 /// A second grammar, with what the first one lacks:
 ///
@@ -114,18 +114,15 @@ public:
     QString animationTemplate() const override { return QStringLiteral("@%1\n"); }
 };
 
-class LadderDocument : public Zorv::CodeDocument
+class LadderDocument : public SmallDocument
 {
     Q_OBJECT
 
 public:
     LadderDocument(LadderGrammar::Reuse reuse, const QString& text);
     ~LadderDocument() override { setParser(nullptr); }
-    int projectKind() const override { return 0; }
     int blockFolding(const QString& line) const override;
-    void release() override;
 
 private:
     LadderGrammar m_grammar;
-    bool m_released = false;
 };

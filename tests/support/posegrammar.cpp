@@ -1,7 +1,5 @@
 #include "support/posegrammar.h"
 
-#include "animation/frameticks.h"
-
 #include <QPlainTextDocumentLayout>
 #include <QTextBlock>
 
@@ -183,48 +181,11 @@ Sprite* PoseFrame::sprite() const
     return static_cast<const PoseDocument*>(document())->sprites.value(data.number);
 }
 
-void PoseFrame::setOffset(const QPoint& offset)
-{
-    PoseData wanted = data;
-    wanted.offset = offset;
-    write(wanted);
-}
-
 void PoseFrame::setDelay(int ticks)
 {
-    PoseData wanted = data;
-    wanted.delay = ticks < 0 ? -1 : ticks;
     if (ticks <= LongestTime) {
-        write(wanted);
+        write(&PoseData::delay, qMax(ticks, -1));
     }
-}
-
-void PoseFrame::setScale(const QPointF& scale)
-{
-    PoseData wanted = data;
-    wanted.scale = scale;
-    write(wanted);
-}
-
-void PoseFrame::setAngle(double degrees)
-{
-    PoseData wanted = data;
-    wanted.angle = degrees;
-    write(wanted);
-}
-
-void PoseFrame::setFlip(Flip flip)
-{
-    PoseData wanted = data;
-    wanted.flip = int(flip);
-    write(wanted);
-}
-
-void PoseFrame::setLoopPoint(bool loopPoint)
-{
-    PoseData wanted = data;
-    wanted.loop = loopPoint;
-    write(wanted);
 }
 
 ContactBoxesCode* PoseFrame::contactBoxes(ContactBoxCode::BoxType type) const
@@ -234,31 +195,6 @@ ContactBoxesCode* PoseFrame::contactBoxes(ContactBoxCode::BoxType type) const
         list = std::make_unique<PoseBoxes>(const_cast<PoseFrame*>(this), type & 1 ? 0 : 1);
     }
     return list.get();
-}
-
-PoseAnimation::PoseAnimation(CodeNode* previous, const QString& name)
-    : AnimationCode(previous), m_name(name)
-{
-}
-
-QVariant PoseAnimation::property(const QString& key) const
-{
-    return key == QLatin1String("Identifier") ? QVariant(m_name) : NamedCode::property(key);
-}
-
-int PoseAnimation::duration() const
-{
-    return FrameTicks(this).total();
-}
-
-int PoseAnimation::loopFrame() const
-{
-    for (int i = 0; i < frameCount(); ++i) {
-        if (frame(i)->isLoopPoint()) {
-            return i;
-        }
-    }
-    return -1;
 }
 
 QString PoseAnimation::frameTemplate(const FrameCode*) const
@@ -288,23 +224,10 @@ QString PoseAnimations::codeFor(unsigned index, const QString& identifier,
     return canName(identifier) && at(index) ? lines.join(QLatin1Char('\n')) : QString();
 }
 
-PoseDocument::PoseDocument(const QString& text)
-    : CodeDocument(0), m_animations(new PoseAnimations(this))
+PoseDocument::PoseDocument(const QString& text) : m_animations(new PoseAnimations(this))
 {
     setDocumentLayout(new QPlainTextDocumentLayout(this));
-    setOption(QStringLiteral("parseCode"), true, false, false);
-    setOption(QStringLiteral("highlightCode"), true, false, false);
     registerDocumentEditor(m_animations, Animation, 0);
     setParser(&m_grammar);
     fromString(text);
-}
-
-void PoseDocument::release()
-{
-    if (m_isReleased) {
-        delete this;
-        return;
-    }
-    m_isReleased = true;
-    destroy();
 }

@@ -2,12 +2,10 @@
 
 #include "cache/sprite.h"
 #include "cache/spritenumber.h"
-#include "code/codedoc/animationcode.h"
 #include "code/codedoc/animations.h"
-#include "code/codedoc/codedocument.h"
 #include "code/codedoc/codeparser.h"
 #include "code/codedoc/contactboxescode.h"
-#include "code/codedoc/framecode.h"
+#include "support/smalldocument.h"
 
 #include <QHash>
 
@@ -84,39 +82,38 @@ public:
     /// Of the document.
     Zorv::Sprite* sprite() const override;
     QPoint offset() const override { return data.offset; }
-    void setOffset(const QPoint& offset) override;
+    void setOffset(const QPoint& offset) override { write(&PoseData::offset, offset); }
     int delay() const override { return data.delay; }
     void setDelay(int ticks) override;
     QPointF scale() const override { return data.scale; }
-    void setScale(const QPointF& scale) override;
+    void setScale(const QPointF& scale) override { write(&PoseData::scale, scale); }
     double angle() const override { return data.angle; }
-    void setAngle(double degrees) override;
+    void setAngle(double degrees) override { write(&PoseData::angle, degrees); }
     Flip flip() const override { return Flip(data.flip); }
-    void setFlip(Flip flip) override;
+    void setFlip(Flip flip) override { write(&PoseData::flip, int(flip)); }
     bool isLoopPoint() const override { return data.loop; }
-    void setLoopPoint(bool loopPoint) override;
+    void setLoopPoint(bool loopPoint) override { write(&PoseData::loop, loopPoint); }
     Zorv::ContactBoxesCode* contactBoxes(Zorv::ContactBoxCode::BoxType type) const override;
 
     const PoseData data;
 
 private:
+    template <class Value>
+    void write(Value PoseData::*part, const Value& value)
+    {
+        PoseData wanted = data;
+        wanted.*part = value;
+        write(wanted);
+    }
+
     mutable std::array<std::unique_ptr<PoseBoxes>, 2> m_boxes;
 };
 
-class PoseAnimation : public Zorv::AnimationCode
+class PoseAnimation : public SmallAnimation
 {
 public:
-    PoseAnimation(Zorv::CodeNode* previous, const QString& name);
-    void release() override { delete this; }
-    QString name() const override { return m_name; }
-    void setName(const QString&) override {}
-    QVariant property(const QString& key) const override;
-    int duration() const override;
-    int loopFrame() const override;
+    using SmallAnimation::SmallAnimation;
     QString frameTemplate(const Zorv::FrameCode* before) const override;
-
-private:
-    QString m_name;
 };
 
 class PoseAnimations : public Zorv::Animations
@@ -138,16 +135,13 @@ public:
                     const QHash<Zorv::SpriteNumber, Zorv::SpriteNumber>& sprites) const override;
 };
 
-class PoseDocument : public Zorv::CodeDocument
+class PoseDocument : public SmallDocument
 {
     Q_OBJECT
 
 public:
     explicit PoseDocument(const QString& text);
     ~PoseDocument() override { setParser(nullptr); }
-    int projectKind() const override { return 0; }
-    int blockFolding(const QString&) const override { return 0; }
-    void release() override;
     PoseAnimations* animations() const { return m_animations; }
 
     QHash<int, Zorv::Sprite*> sprites;  ///< by number, not owned
@@ -155,5 +149,4 @@ public:
 private:
     PoseGrammar m_grammar;
     PoseAnimations* m_animations;
-    bool m_isReleased = false;
 };

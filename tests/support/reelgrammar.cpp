@@ -1,6 +1,5 @@
 #include "support/reelgrammar.h"
 
-#include "animation/frameticks.h"
 #include "cache/spritenumber.h"
 
 #include <limits>
@@ -254,27 +253,6 @@ void ReelFrame::setOffset(const QPoint& offset)
     write(data);
 }
 
-void ReelFrame::setDelay(int ticks)
-{
-    Data data = m_data;
-    data.ticks = ticks < 0 ? -1 : ticks;
-    write(data);
-}
-
-void ReelFrame::setFlip(Flip flip)
-{
-    Data data = m_data;
-    data.flip = int(flip) & 3;
-    write(data);
-}
-
-void ReelFrame::setLoopPoint(bool loopPoint)
-{
-    Data data = m_data;
-    data.loop = loopPoint;
-    write(data);
-}
-
 QVariant ReelFrame::property(const QString& name) const
 {
     return name == QLatin1String("Identifier")  ? identifier()
@@ -287,26 +265,6 @@ void ReelFrame::setProperty(const QString& name, const QVariant& value)
     if (name == QLatin1String("LoopPoint")) {
         setLoopPoint(value.toBool());
     }
-}
-
-QVariant ReelAnimation::property(const QString& key) const
-{
-    return key == QLatin1String("Identifier") ? QVariant(m_name) : AnimationCode::property(key);
-}
-
-int ReelAnimation::duration() const
-{
-    return FrameTicks(this).total();
-}
-
-int ReelAnimation::loopFrame() const
-{
-    for (int i = 0; i < frameCount(); ++i) {
-        if (frame(i)->isLoopPoint()) {
-            return i;
-        }
-    }
-    return -1;
 }
 
 QString ReelAnimation::frameTemplate(const FrameCode* before) const
@@ -360,14 +318,12 @@ QString ReelAnimations::codeFor(unsigned index, const QString& identifier,
     return lines.join(QLatin1Char('\n'));
 }
 
-ReelDocument::ReelDocument(const QString& text, const QString& fileName) : CodeDocument(0)
+ReelDocument::ReelDocument(const QString& text, const QString& fileName)
 {
     QImage picture(32, 24, QImage::Format_ARGB32);
     picture.fill(0xff3060a0);
     m_sprites[0].setImage(picture);
     m_sprites[1].setImage(picture.copy(0, 0, 16, 16));
-    setOption(QStringLiteral("parseCode"), true, false, false);
-    setOption(QStringLiteral("highlightCode"), true, false, false);
     registerDocumentEditor(new ReelAnimations(this), CodeNode::Animation, 0);
     setParser(&m_grammar);
     setFileName(fileName);
@@ -377,16 +333,6 @@ ReelDocument::ReelDocument(const QString& text, const QString& fileName) : CodeD
 int ReelDocument::blockFolding(const QString& line) const
 {
     return !nameOf(line).isEmpty() ? 5 : 2;
-}
-
-void ReelDocument::release()
-{
-    if (m_released) {
-        delete this;
-        return;
-    }
-    m_released = true;
-    destroy();
 }
 
 ReelAnimations* ReelDocument::animations() const

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "code/codedoc/animationcode.h"
 #include "code/codedoc/animations.h"
-#include "code/codedoc/codedocument.h"
 #include "code/codedoc/codeparser.h"
 #include "code/codedoc/contactboxescode.h"
-#include "code/codedoc/framecode.h"
+#include "support/smalldocument.h"
 #include "support/stagedata.h"
 
 #include <memory>
@@ -82,39 +80,35 @@ public:
     QPoint offset() const override { return {m_data.x, m_data.y}; }
     void setOffset(const QPoint& offset) override;
     int delay() const override { return m_data.ticks; }
-    void setDelay(int ticks) override;
+    void setDelay(int ticks) override { write(&Data::ticks, qMax(ticks, -1)); }
     Flip flip() const override { return Flip(m_data.flip); }
-    void setFlip(Flip flip) override;
+    void setFlip(Flip flip) override { write(&Data::flip, int(flip) & 3); }
     bool isLoopPoint() const override { return m_data.loop; }
-    void setLoopPoint(bool loopPoint) override;
+    void setLoopPoint(bool loopPoint) override { write(&Data::loop, loopPoint); }
     QVariant property(const QString& name) const override;
     void setProperty(const QString& name, const QVariant& value) override;
 
 private:
     void write(const Data& data);
+    template <class Value>
+    void write(Value Data::*part, Value value)
+    {
+        Data data = m_data;
+        data.*part = value;
+        write(data);
+    }
 
     Data m_data;
     ReelBoxes m_attack;
     ReelBoxes m_body;
 };
 
-class ReelAnimation : public Zorv::AnimationCode
+class ReelAnimation : public SmallAnimation
 {
 public:
-    ReelAnimation(Zorv::CodeNode* previous, const QString& name)
-        : AnimationCode(previous), m_name(name)
-    {
-    }
-    void release() override { delete this; }
-    QString name() const override { return m_name; }
+    using SmallAnimation::SmallAnimation;
     void setName(const QString& name) override { change(QStringLiteral("<%1>").arg(name)); }
-    QVariant property(const QString& key) const override;
-    int duration() const override;
-    int loopFrame() const override;
     QString frameTemplate(const Zorv::FrameCode* before) const override;
-
-private:
-    QString m_name;
 };
 
 /// Its optimization takes out empty lines.
@@ -133,7 +127,7 @@ public:
 
 /// A document in that grammar with its list of animations. It has sprites of its own: 0,0 and 0,1
 /// of 32 by 24 and 16 by 16 pixels, and 0,2 that is broken.
-class ReelDocument : public Zorv::CodeDocument
+class ReelDocument : public SmallDocument
 {
     Q_OBJECT
 
@@ -142,7 +136,6 @@ public:
     ~ReelDocument() override { setParser(nullptr); }
     int projectKind() const override { return 5; }
     int blockFolding(const QString& line) const override;
-    void release() override;
 
     ReelAnimations* animations() const;
     Zorv::Sprite* sprite(int group, int number);
@@ -150,5 +143,4 @@ public:
 private:
     StageData::Sprite m_sprites[3];
     ReelGrammar m_grammar;
-    bool m_released = false;
 };

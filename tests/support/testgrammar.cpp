@@ -147,10 +147,8 @@ void TestFrame::setSprite(int group, int number)
     change(QStringLiteral("-%1,%2").arg(QString::number(group), QString::number(number)));
 }
 
-GrammarDocument::GrammarDocument(const QString& text) : CodeDocument(0)
+GrammarDocument::GrammarDocument(const QString& text)
 {
-    setOption(QStringLiteral("parseCode"), true, false, false);
-    setOption(QStringLiteral("highlightCode"), true, false, false);
     setParser(&grammar);
     if (!text.isNull()) {
         setPlainText(text);
@@ -171,16 +169,6 @@ int GrammarDocument::blockFolding(const QString& line) const
         return 1 | (line.contains(QLatin1Char('*')) ? 4 : 0);
     }
     return 2;
-}
-
-void GrammarDocument::release()
-{
-    if (m_releasing) {
-        delete this;
-        return;
-    }
-    m_releasing = true;
-    destroy();
 }
 
 QStringList GrammarDocument::dump() const

@@ -2,11 +2,11 @@
 
 #include "code/codedoc/animationcode.h"
 #include "code/codedoc/animations.h"
-#include "code/codedoc/codedocument.h"
 #include "code/codedoc/codeparser.h"
 #include "code/codedoc/framecode.h"
 #include "code/codedoc/groupcode.h"
 #include "code/codedoc/valuecode.h"
+#include "support/smalldocument.h"
 
 #include <QStringList>
 
@@ -117,7 +117,7 @@ public:
 };
 
 /// A document in that grammar, parsed and coloured from the start.
-class GrammarDocument : public Zorv::CodeDocument
+class GrammarDocument : public SmallDocument
 {
     Q_OBJECT
 
@@ -126,14 +126,10 @@ public:
     ~GrammarDocument() override;
     int projectKind() const override { return 3; }
     int blockFolding(const QString& line) const override;
-    void release() override;
 
     /// Everything that follows from the text, as lines to compare: the chain,
     /// the tree, the messages, the folding levels.
     QStringList dump() const;
 
     TestParser grammar;
-
-private:
-    bool m_releasing = false;
 };
