@@ -99,6 +99,7 @@ private:
     void useDialog();
     void openAnew();
 
+    static void letComeWhatIsPutOff();
     void did(const QString& what);
     void planAnswers();
     void triggerAction(const QString& name);
@@ -107,6 +108,7 @@ private:
     void useWindow(QWidget* window, int acts);
     void useChild(QWidget* child);
     void interrupt();
+    void changeOther() { m_host->changeOther(random); }
     void gesture(QWidget* widget, const std::function<QPoint()>& place);
     QPoint anyPlaceOnStage();
     QPoint stagePlace(QPoint model);
