@@ -2,10 +2,14 @@
 
 #include "family/check/check.h"
 #include "samplefiles.h"
+#include "support/testtable.h"
 
 #include <zorv/code/codecs/textcodecs.h>
 
+#include <QProcess>
 #include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace Family;
@@ -90,6 +94,7 @@ private slots:
     void brokenGameAsBefore();
     void filesComeBack_data();
     void filesComeBack();
+    void scriptMakesTheFiles();
 };
 
 void TestSamples::initTestCase()
@@ -149,26 +154,21 @@ void TestSamples::brokenGameAsBefore()
 
 void TestSamples::filesComeBack_data()
 {
-    QTest::addColumn<QString>("fileName");
-    QTest::addColumn<QString>("codec");
-    QTest::addColumn<bool>("faithful");
+    columns<QString, QString, bool>("fileName", "codec", "faithful");
 
     for (const QString& game : {QStringLiteral("arena"), QStringLiteral("broken")}) {
         for (const QString& name : codeFiles(gameFolder(game))) {
             const QString path = game + '/' + name;
             const bool legacy = path == QLatin1String("arena/characters/iwao/iwao.commands");
             const bool mixed = path == QLatin1String("broken/shared/common.code");
-            QTest::newRow(qPrintable(path))
-                << gameFolder(path) << (legacy ? "Shift_JIS" : "UTF-8") << !mixed;
+            row(qPrintable(path), gameFolder(path), (legacy ? "Shift_JIS" : "UTF-8"), !mixed);
         }
     }
 }
 
 void TestSamples::filesComeBack()
 {
-    QFETCH(QString, fileName);
-    QFETCH(QString, codec);
-    QFETCH(bool, faithful);
+    const auto [fileName, codec, faithful] = fetched<QString, QString, bool>();
 
     const auto document = openSample(fileName);
     QVERIFY(document);
@@ -178,6 +178,27 @@ void TestSamples::filesComeBack()
     if (faithful) {
         QCOMPARE(document->toData(), bytesOf(fileName));
     }
+}
+
+/// Each file that the script writes has the bytes of the one that is kept.
+void TestSamples::scriptMakesTheFiles()
+{
+    const QString python = QStandardPaths::findExecutable("python3");
+    if (python.isEmpty()) {
+        QSKIP("no python3 here");
+    }
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    QCOMPARE(QProcess::execute(python, {gameFolder("make_samples.py"), folder.path()}), 0);
+    int count = 0;
+    QDirIterator it(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        const QString name = QDir(folder.path()).relativeFilePath(path);
+        QVERIFY2(bytesOf(path) == bytesOf(gameFolder("arena/") + name), qPrintable(name));
+        ++count;
+    }
+    QCOMPARE(count, 23);
 }
 
 QTEST_MAIN(TestSamples)
