@@ -3,6 +3,7 @@
 #include "support/posetest.h"
 #include "support/stagedata.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include "animation/frameticks.h"
 #include "animation/timeline/timelinewidget.h"
@@ -45,13 +46,11 @@ class TestAnimationEditor : public PoseTest
 private slots:
     void init();
     void cleanup() { drop(); }
-    void toolsAreThoseOfTheTable();
-    void frameIsShown();
+    void toolsAreOfUse();
     void fieldsWriteWhatIsTyped_data();
     void fieldsWriteWhatIsTyped();
     void lookingEditsNothing();
     void typedDigitsAreNotLost();
-    void textLeadsTheStage();
     void stageLeadsTheText();
     void unlinked();
     void playsAsAModel_data();
@@ -61,8 +60,6 @@ private slots:
     void scrubbing();
     void neighboursShowThrough();
     void skinsFollowTheText();
-    void dragsAreSteps();
-    void boxesAreDrawn();
     void commands();
     void framesComeAndGo();
     void documentDies();
@@ -111,131 +108,50 @@ void TestAnimationEditor::init()
     editor->activate();
 }
 
-/// Kind, text, and by whom it is enabled: a animation, f frame, n no window of code, x extra.
-void TestAnimationEditor::toolsAreThoseOfTheTable()
+void TestAnimationEditor::toolsAreOfUse()
 {
-    const struct
-    {
-        const char* name;
-        const char* text;
-        char enabledBy;
-    } told[] = {
-        {"anim_editcode", "Edit code", ' '},
-        {"anim_code", "Edit animation code", 'a'},
-        {"anim_add", "Add", ' '},
-        {"anim_delete", "Delete", 'a'},
-        {"anim_duplicate", "Duplicate", 'a'},
-        {"anim_save_gif", "Save as animated GIF...", 'a'},
-        {"anim_play", "Play", 'a'},
-        {"anim_stop", "Stop", 'a'},
-        {"anim_frame_add", "Add frame", 'a'},
-        {"anim_frame_delete", "Delete frame", 'f'},
-        {"anim_frameall_offset", "Apply offset to all next frames", 'f'},
-        {"anim_frameall_time", "Apply time to all next frames", 'f'},
-        {"anim_frameall_flip", "Apply flip to all next frames", 'f'},
-        {"anim_frameall_scale", "Apply scale to all next frames", 'f'},
-        {"anim_frame_align", "Alignment Tool", 'f'},
-        {"anim_box_add_attack", "Add Attack box", 'n'},
-        {"anim_box_add_collision", "Add Collision box", 'n'},
-        {"anim_box_del", "Delete selected Contact boxes", 'n'},
-        {"anim_box_delall", "Delete all Contact boxes", 'f'},
-        {"anim_box_delall_anim", "Delete all Contact boxes of current animation", 'f'},
-        {"anim_box_type", "Switch Contact box type", 'n'},
-        {"anim_box_prev", "Copy Contact boxes of previous frame", 'f'},
-        {"anim_box_allinst", "Use these Contact boxes in all other instances of this frame", 'f'},
-        {"anim_optimize", "Optimize", ' '},
-        {"anim_sel", "slider", ' '},
-        {"anim_sel_lb", "label", ' '},
-        {"anim_frame_sel", "slider", ' '},
-        {"anim_frame_sel_lb", "label", ' '},
-        {"anim_frame_xaxis", "spin", 'f'},
-        {"anim_frame_yaxis", "spin", 'f'},
-        {"anim_frame_flip", "combo", 'f'},
-        {"anim_frame_xscale", "real", 'x'},
-        {"anim_frame_yscale", "real", 'x'},
-        {"anim_frame_angle", "real", 'x'},
-        {"anim_pos_left", "Move 1px to the left", 'f'},
-        {"anim_pos_up", "Move 1px up", 'f'},
-        {"anim_pos_right", "Move 1px to the right", 'f'},
-        {"anim_pos_down", "Move 1px down", 'f'},
-        {"anim_frame_time", "spin", 'f'},
-        {"anim_onion_skin", "check", 'n'},
-        {"anim_onion_sel", "slider", ' '},
-        {"anim_onion_framesel", "slider", ' '},
-        {"anim_onion_lb", "label", ' '},
-        {"anim_prev_anim", "Previous animation", 'a'},
-        {"anim_next_anim", "Next animation", 'a'},
-        {"anim_prev_frame", "Previous frame", 'f'},
-        {"anim_next_frame", "Next frame", 'f'},
-    };
-    const QHash<QByteArray, QString> kinds{
-        {"QSlider", QStringLiteral("slider")},  {"QLabel", QStringLiteral("label")},
-        {"QSpinBox", QStringLiteral("spin")},   {"QDoubleSpinBox", QStringLiteral("real")},
-        {"QComboBox", QStringLiteral("combo")}, {"QCheckBox", QStringLiteral("check")}};
-    const QRegularExpression published(QStringLiteral("^addControl\\((anim_\\w+)\\)"));
-    QStringList order;
-    for (const QString& call : qAsConst(host->calls)) {
-        order.append(published.match(call).captured(1));
-    }
-    order.removeAll(QString());
-    int last = -1;
-    const auto isEnabled = [this](const char* name) {
-        return action(name) ? action(name)->isEnabled() : widget<QWidget>(name)->isEnabled();
-    };
-    for (const auto& row : told) {
-        const QString name = QString::fromLatin1(row.name);
-        const int place = order.indexOf(name);
-        QVERIFY2(place > last, row.name);
-        last = place;
-        QWidget* const box = host->controls.value(name);
-        QCOMPARE(action(row.name) ? action(row.name)->text()
-                                  : kinds.value(box->metaObject()->className()),
-                 QString::fromLatin1(row.text));
-        if (action(row.name)) {
-            QCOMPARE(host->areasOf.value(name), QStringList(QStringLiteral("animations")));
-        }
-    }
-    // An animation without frames, none at all, and frames without scale and angle.
-    const auto compare = [&](const QString& isOn) {
-        for (const auto& row : told) {
-            if (isEnabled(row.name) != isOn.contains(QLatin1Char(row.enabledBy))) {
-                return QString::fromLatin1(row.name);
+    const QStringList ofFrames{
+        "anim_frame_delete", "anim_frameall_offset", "anim_frameall_time",   "anim_frameall_flip",
+        "anim_frame_align",  "anim_frameall_scale",  "anim_box_delall_anim", "anim_box_allinst",
+        "anim_box_delall",   "anim_box_prev",        "anim_frame_xaxis",     "anim_frame_yaxis",
+        "anim_frame_flip",   "anim_frame_time",      "anim_pos_left",        "anim_pos_up",
+        "anim_pos_right",    "anim_pos_down",        "anim_prev_frame",      "anim_next_frame"};
+    const QStringList ofAnimations{"anim_code",      "anim_delete",    "anim_duplicate",
+                                   "anim_save_gif",  "anim_play",      "anim_stop",
+                                   "anim_frame_add", "anim_prev_anim", "anim_next_anim"};
+    const QStringList ofRest{"anim_box_add_attack", "anim_box_add_collision", "anim_box_del",
+                             "anim_box_type", "anim_onion_skin"};
+    const QStringList ofPoses{"anim_frame_xscale", "anim_frame_yscale", "anim_frame_angle"};
+    const QStringList ofAll{"anim_editcode",     "anim_add",       "anim_optimize",
+                            "anim_sel",          "anim_sel_lb",    "anim_frame_sel",
+                            "anim_frame_sel_lb", "anim_onion_sel", "anim_onion_framesel",
+                            "anim_onion_lb"};
+    const auto fault = [&](const QStringList& isOn) {
+        for (const QString& name : ofAll + ofAnimations + ofFrames + ofRest + ofPoses) {
+            const QAction* tool = host->actions.value(name);
+            const bool isEnabled =
+                tool ? tool->isEnabled() : host->controls.value(name)->isEnabled();
+            if (isEnabled != isOn.contains(name)) {
+                return name;
             }
         }
         return QString();
     };
-    QCOMPARE(compare(QStringLiteral(" afnx")), QString());
+    QCOMPARE(fault(ofAll + ofAnimations + ofFrames + ofRest + ofPoses), QString());
     editor->selectAnimation(1);
-    QCOMPARE(compare(QStringLiteral(" a")), QString());
+    QCOMPARE(fault(ofAll + ofAnimations), QString());
     editor->selectAnimation(0);
     editor->hideExtra();
-    QCOMPARE(compare(QStringLiteral(" afn")), QString());
+    QCOMPARE(fault(ofAll + ofAnimations + ofFrames + ofRest), QString());
     editor->play();
-    QCOMPARE(compare(QStringLiteral(" a")), QString());
+    QCOMPARE(fault(ofAll + ofAnimations), QString());
     document->fromString(QString());
-    QTRY_COMPARE(compare(QStringLiteral(" ")), QString());
-}
-
-void TestAnimationEditor::frameIsShown()
-{
-    QVERIFY(editor->isActive());
-    QCOMPARE(label("anim_sel_lb"), QStringLiteral("1 / 3"));
-    QCOMPARE(label("anim_frame_sel_lb"), QStringLiteral("1 / 3 - 4 ticks"));
-    action("anim_next_frame")->trigger();
-    QCOMPARE(label("anim_frame_sel_lb"), QStringLiteral("2 / 3 - 9 ticks"));
-    QCOMPARE(widget<QDoubleSpinBox>("anim_frame_yscale")->value(), 0.123456);
-    QCOMPARE(widget<QComboBox>("anim_frame_flip")->currentIndex(), 2);
-    QCOMPARE(line(), 3);
-    QCOMPARE(stage->timeLine()->currentTick(), 4U);
-    QCOMPARE(renderer->boxes(ContactBoxCode::Attack)->count(), 1);
-    QVERIFY(!document->isUndoAvailable());
+    QTRY_COMPARE(fault(ofAll), QString());
 }
 
 void TestAnimationEditor::fieldsWriteWhatIsTyped_data()
 {
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("line");
+    columns<QString, QString, QString>("field", "typed", "line");
     const auto row = [](const char* field, const char* typed, const char* line) {
         QTest::newRow(field) << QString::fromLatin1(field) << QString::fromLatin1(typed)
                              << QString::fromLatin1(line);
@@ -251,9 +167,7 @@ void TestAnimationEditor::fieldsWriteWhatIsTyped_data()
 /// Digits by real keys, entered by Return: one step.
 void TestAnimationEditor::fieldsWriteWhatIsTyped()
 {
-    QFETCH(QString, field);
-    QFETCH(QString, typed);
-    QFETCH(QString, line);
+    const auto [field, typed, line] = fetched<QString, QString, QString>();
     editor->selectFrame(1);
     QWidget* const box = host->controls.value(field);
     QVERIFY(box->isEnabled());
@@ -300,27 +214,6 @@ void TestAnimationEditor::typedDigitsAreNotLost()
     QCOMPARE(box->value(), 3);
 }
 
-void TestAnimationEditor::textLeadsTheStage()
-{
-    putCursor(4);
-    QCOMPARE(editor->frameIndex(), 2);
-    // In front of a frame stands what belongs to it.
-    putCursor(2);
-    QCOMPARE(editor->frameIndex(), 1);
-    QCOMPARE(line(), 2);
-    putCursor(7);
-    QCOMPARE(editor->animationIndex(), 2);
-    QCOMPARE(line(), 7);
-    putCursor(0);
-    QCOMPARE(editor->animationIndex(), 0);
-    QCOMPARE(editor->frameIndex(), 1);
-    putCursor(5);
-    QCOMPARE(editor->animationIndex(), 1);
-    QCOMPARE(label("anim_frame_sel_lb"), QStringLiteral("0 / 0"));
-    QVERIFY(!action("anim_frame_delete")->isEnabled());
-    QCOMPARE(renderer->boxes(ContactBoxCode::Attack), nullptr);
-}
-
 void TestAnimationEditor::stageLeadsTheText()
 {
     widget<QSlider>("anim_frame_sel")->setValue(2);
@@ -354,8 +247,7 @@ void TestAnimationEditor::unlinked()
 
 void TestAnimationEditor::playsAsAModel_data()
 {
-    QTest::addColumn<QVector<int>>("times");
-    QTest::addColumn<int>("loop");
+    columns<QVector<int>, int>("times", "loop");
     QTest::newRow("plain") << QVector<int>{2, 3, 1} << -1;
     QTest::newRow("loop point") << QVector<int>{2, 3, 1, 4} << 2;
     QTest::newRow("frames of no time") << QVector<int>{0, 3, 0, 0, 2, 0} << -1;
@@ -371,8 +263,7 @@ void TestAnimationEditor::playsAsAModel_data()
 /// takes no time.
 void TestAnimationEditor::playsAsAModel()
 {
-    QFETCH(QVector<int>, times);
-    QFETCH(int, loop);
+    const auto [times, loop] = fetched<QVector<int>, int>();
     QString lines = QStringLiteral("@one\n");
     for (int i = 0; i < times.size(); ++i) {
         lines += QStringLiteral("> 0,0 0,0 %1 0 1,1 0%2\n")
@@ -606,51 +497,6 @@ void TestAnimationEditor::skinsFollowTheText()
     QCOMPARE(renderer->onionSkins().size(), 1);
     editor->deactivate();
     QVERIFY(renderer->onionSkins().isEmpty());
-}
-
-void TestAnimationEditor::dragsAreSteps()
-{
-    emit renderer->inputComes();
-    emit renderer->itemMoved(GraphicsRenderer::SpriteType, &sprites[0], QPoint(30, 40));
-    QCOMPARE(widget<QSpinBox>("anim_frame_xaxis")->value(), 30);
-    QVERIFY(!document->isUndoAvailable());
-    emit renderer->itemReleased(GraphicsRenderer::SpriteType, &sprites[0], QPoint(31, 41));
-    emit renderer->inputTaken();
-    QCOMPARE(static_cast<PoseFrame*>(editor->currentFrame())->data.offset, QPoint(31, 41));
-    QCOMPARE(line(), 1);
-    QVERIFY(isOneStep());
-}
-
-/// By the mouse: a press on what is fresh, also if the text was edited a moment ago.
-void TestAnimationEditor::boxesAreDrawn()
-{
-    renderer->setOrigin({200, 150});
-    renderer->setZoomLevel(0);
-    renderer->zoomActual();
-    renderer->setVisibility(true, true, true, true, true, true, true);
-    QTextCursor(document->findBlockByNumber(1)).insertText(QStringLiteral("# a\n"));
-    action("anim_box_add_collision")->trigger();
-    renderer->mousePressed({210, 160}, Qt::LeftButton, {});
-    renderer->mouseMoved({219, 169}, {});
-    renderer->mouseReleased({219, 169}, Qt::LeftButton, {});
-    QCOMPARE(document->findBlockByNumber(2).text().section(QLatin1Char(' '), -1),
-             QStringLiteral("c10,10,19,19"));
-    QCOMPARE(editor->frameIndex(), 0);
-    QVERIFY(action("anim_box_add_collision")->isChecked());
-    action("anim_box_add_attack")->trigger();
-    QVERIFY(!action("anim_box_add_collision")->isChecked());
-    renderer->mousePressed({300, 300}, Qt::RightButton, {});
-    renderer->mouseReleased({300, 300}, Qt::RightButton, {});
-    QVERIFY(!action("anim_box_add_attack")->isChecked());
-    QCOMPARE(renderer->clickMode(), GraphicsRenderer::PositioningMode);
-    renderer->mousePressed({215, 165}, Qt::LeftButton, {});
-    renderer->mouseMoved({216, 165}, {});
-    renderer->mouseReleased({216, 165}, Qt::LeftButton, {});
-    QCOMPARE(document->findBlockByNumber(2).text().section(QLatin1Char(' '), -1),
-             QStringLiteral("c11,10,20,19"));
-    document->undo();
-    document->undo();
-    QVERIFY(!document->text().contains(QLatin1String("c10")));
 }
 
 void TestAnimationEditor::commands()

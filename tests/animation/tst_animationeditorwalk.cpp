@@ -3,6 +3,7 @@
 #include "support/editorwalk.h"
 #include "support/gltest.h"
 #include "support/reelstudio.h"
+#include "support/testtable.h"
 
 #include <QAction>
 #include <QRegularExpression>
@@ -111,22 +112,21 @@ void TestAnimationEditorWalk::showsWhatTheTextSays()
 void TestAnimationEditorWalk::allToolsOnBadText_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::newRow("nothing") << QString();
-    QTest::newRow("no animation") << QStringLiteral("+ 0 0 0 0 2 0\nb 1 2 3 4\n");
-    QTest::newRow("no frames") << QStringLiteral("<a>\nb 1 2 3 4\n<b>");
-    QTest::newRow("no sprites") << QStringLiteral("<a>\n+ -1 -1 0 0 2 0\n+ 70000 8 0 0 2 0\n");
-    QTest::newRow("broken sprite")
-        << QStringLiteral("<a>\nb 1 2 3 4\n+ 0 2 0 0 2 0\n+ 0 2 0 0 2 0");
-    QTest::newRow("odd times") << QStringLiteral("<a>\n+ 0 0 0 0 2000000000 0\n"
-                                                 "+ 0 0 0 0 2000000000 0\n+ 0 0 0 0 0 0\n"
-                                                 "+ 0 0 0 0 -7 0\n+ 0 0 0 0 2147483647 0\n");
-    QTest::newRow("no time") << QStringLiteral("<a>\n+ 0 0 0 0 0 0\n+ 0 1 0 0 0 0 *\n");
-    QTest::newRow("far away") << QStringLiteral(
-        "<a>\na -2147483648 -2147483648 2147483647 2147483647\n"
-        "b 2147483647 2147483647 2147483647 2147483647\n"
-        "+ 0 0 2147483647 -2147483648 2 3\n+ 0 0 -2147483648 2147483647 2 3\n");
-    QTest::newRow("names twice") << QStringLiteral("<a>\n+ 0 0 0 0 2 0\n<a>\n+ 0 1 0 0 2 0\n<a>\n");
-    QTest::newRow("10,000 frames") << manyFrames();
+    row("nothing", QString());
+    row("no animation", QStringLiteral("+ 0 0 0 0 2 0\nb 1 2 3 4\n"));
+    row("no frames", QStringLiteral("<a>\nb 1 2 3 4\n<b>"));
+    row("no sprites", QStringLiteral("<a>\n+ -1 -1 0 0 2 0\n+ 70000 8 0 0 2 0\n"));
+    row("broken sprite", QStringLiteral("<a>\nb 1 2 3 4\n+ 0 2 0 0 2 0\n+ 0 2 0 0 2 0"));
+    row("odd times", QStringLiteral("<a>\n+ 0 0 0 0 2000000000 0\n"
+                                    "+ 0 0 0 0 2000000000 0\n+ 0 0 0 0 0 0\n"
+                                    "+ 0 0 0 0 -7 0\n+ 0 0 0 0 2147483647 0\n"));
+    row("no time", QStringLiteral("<a>\n+ 0 0 0 0 0 0\n+ 0 1 0 0 0 0 *\n"));
+    row("far away",
+        QStringLiteral("<a>\na -2147483648 -2147483648 2147483647 2147483647\n"
+                       "b 2147483647 2147483647 2147483647 2147483647\n"
+                       "+ 0 0 2147483647 -2147483648 2 3\n+ 0 0 -2147483648 2147483647 2 3\n"));
+    row("names twice", QStringLiteral("<a>\n+ 0 0 0 0 2 0\n<a>\n+ 0 1 0 0 2 0\n<a>\n"));
+    row("10,000 frames", manyFrames());
 }
 
 void TestAnimationEditorWalk::allToolsOnBadText()
@@ -141,8 +141,7 @@ void TestAnimationEditorWalk::allToolsOnBadText()
 
 void TestAnimationEditorWalk::textChangesUnderAnAct_data()
 {
-    QTest::addColumn<int>("act");
-    QTest::addColumn<int>("change");
+    columns<int, int>("act", "change");
     for (int act = 0; act < Acts; ++act) {
         for (int change = 0; change < Changes; ++change) {
             QTest::addRow("%s, %s", actNames[act], changeNames[change]) << act << change;
@@ -152,8 +151,7 @@ void TestAnimationEditorWalk::textChangesUnderAnAct_data()
 
 void TestAnimationEditorWalk::textChangesUnderAnAct()
 {
-    QFETCH(int, act);
-    QFETCH(int, change);
+    const auto [act, change] = fetched<int, int>();
     ReelHost host;
     ReelStudio& m = host.m;
     EditorWalk walk(Seed, &host, Text);

@@ -5,6 +5,7 @@
 #include "support/posetest.h"
 #include "support/stagedata.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -316,8 +317,7 @@ void TestAnimImport::picturesComeIntoSight()
 
 void TestAnimImport::brokenSprites_data()
 {
-    QTest::addColumn<bool>("isAgreed");
-    QTest::addColumn<int>("animations");
+    columns<bool, int>("isAgreed", "animations");
     QTest::newRow("refused") << false << 2;
     QTest::newRow("left out") << true << 3;
 }

@@ -7,6 +7,7 @@
 
 #include "support/documentdump.h"
 #include "support/reelgrammar.h"
+#include "support/testtable.h"
 
 #include "code/codedoc/framecode.h"
 #include "family/familyanimations.h"
@@ -19,7 +20,6 @@
 #include <QtTest>
 
 #include <functional>
-#include <limits>
 #include <vector>
 
 using namespace Zorv;
@@ -571,7 +571,6 @@ private slots:
     void leavesOtherLines_data();
     void leavesOtherLines();
     void refusesWhatTheGrammarDoesNot();
-    void alignsAsAPlainModel();
     void boxesPassTheClipboard();
     void takesOneAnimationAlone_data();
     void takesOneAnimationAlone();
@@ -604,55 +603,44 @@ void TestFrameEdits::framesKeepTheirBoxes()
 
 void TestFrameEdits::leavesOtherLines_data()
 {
-    QTest::addColumn<Edit>("edit");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<QString>("title");
+    columns<Edit, QString, QString, QString>("edit", "before", "after", "title");
     const auto row = [](const char* title, const Edit& edit, const char* before,
                         const char* after) {
         QTest::newRow(title) << edit << QString::fromLatin1(before) << QString::fromLatin1(after)
                              << QString::fromLatin1(title);
     };
+    const FramePlace first{0, 0};
+    const FramePlace second{0, 1};
+    const QVector<BoxPlace> body{{ContactBoxCode::Collision, 0}};
     row(
         "Contact boxes of frame #1 in all its instances",
-        [](Animations* list) {
-            copyBoxesToInstances(list, {0, 0});
-        },
+        [=](Animations* list) { copyBoxesToInstances(list, first); },
         "body 0,0, 1,1\nframe 0,0  loop", "body 5,6, 7,8\nattack 1,2, 3,4\nframe 0,0  loop");
     row(
         "Same time for all frames of animation #1",
-        [](Animations* list) {
-            copyToNextFrames(list, {0, 0}, FrameValue::Time);
-        },
-        "frame 1,0\n", "frame 1,0  delay 3\n");
+        [=](Animations* list) { copyToNextFrames(list, first, FrameValue::Time); }, "frame 1,0\n",
+        "frame 1,0  delay 3\n");
     row(
         "Remove all contact boxes of frame #1",
-        [](Animations* list) {
-            removeAllBoxes(list, {0, 0});
-        },
+        [=](Animations* list) { removeAllBoxes(list, first); },
         "attack 1,2, 3,4 # fist\nbody 5,6, 7,8\n", "");
     row(
         "Remove all contact boxes of animation #2",
-        [](Animations* list) { removeAllBoxes(list, 1); }, "body 0,0, 1,1\n", "");
+        [=](Animations* list) { removeAllBoxes(list, 1); }, "body 0,0, 1,1\n", "");
     row(
-        "Switch contact box type",
-        [](Animations* list) {
-            switchBoxTypes(list, {0, 0}, {{ContactBoxCode::Collision, 0}});
-        },
+        "Switch contact box type", [=](Animations* list) { switchBoxTypes(list, first, body); },
         "body 5,6, 7,8\n", "attack 5,6, 7,8\n");
     row(
         "Copy contact boxes of frame #2",
-        [](Animations* list) {
-            copyBoxes(list, {0, 1}, {{0, 0}});
-        },
+        [=](Animations* list) { copyBoxes(list, second, {first}); },
         "attack 1,2, 3,4 # fist\nbody 5,6, 7,8\n", "");
     row(
-        "Move frames", [](Animations* list) { moveFrames(list, 0, {0}, 2); },
+        "Move frames", [=](Animations* list) { moveFrames(list, 0, {0}, 2); },
         "attack 1,2, 3,4 # fist\nbody 5,6, 7,8\nframe 0,0  delay 3\nframe 1,0\n",
         "frame 1,0\nattack 1,2, 3,4 # fist\nbody 5,6, 7,8\nframe 0,0  delay 3\n");
     row(
         "Scale Contact boxes",
-        [](Animations* list) {
+        [=](Animations* list) {
             align(list, {0}, {Alignment::ScaleBoxes, 200, 50});
         },
         "attack 1,2, 3,4 # fist\nbody 5,6, 7,8", "attack 2,1, 7,1 # fist\nbody 10,3, 15,3");
@@ -660,10 +648,7 @@ void TestFrameEdits::leavesOtherLines_data()
 
 void TestFrameEdits::leavesOtherLines()
 {
-    QFETCH(Edit, edit);
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    QFETCH(QString, title);
+    const auto [edit, before, after, title] = fetched<Edit, QString, QString, QString>();
     Family::FamilyDocument document(Family::FileKind::Animations);
     document.fromString(QString::fromLatin1(Jab));
     const QString first = document.text();
@@ -705,80 +690,6 @@ void TestFrameEdits::refusesWhatTheGrammarDoesNot()
     QCOMPARE(wide.text(), QStringLiteral("<walk>\na 20000 0 3 3\na 1 1 1 1\n+ 0 0 0 0 2 0\n"));
 }
 
-namespace {
-
-using Wide = long double;  // holds every product of these tests
-
-int plainInt(Wide number)
-{
-    const Wide most = std::numeric_limits<int>::max();
-    return int(qBound(-most - 1, number, most));
-}
-
-/// One side of a box as the modes tell it.
-void plainSide(int mode, int first, int last, int by, int* left, int* right)
-{
-    Wide a = first;
-    Wide b = last;
-    if (mode == 1 || mode == 2) {
-        a += mode == 1 ? by : -Wide(by);
-    }
-    if (mode == 1 || mode == 3) {
-        b += by;
-    }
-    if (mode == 4) {
-        a = std::trunc(Wide(by) * first / 100);
-        b = a - 1 + std::trunc(Wide(by) * (Wide(last) - first + 1) / 100);
-    }
-    if (a > b && mode == 2) {
-        a = b;
-    } else if (a > b) {
-        b = a;
-    }
-    *left = plainInt(a);
-    *right = plainInt(b);
-}
-
-}  // namespace
-
-void TestFrameEdits::alignsAsAPlainModel()
-{
-    QRandomGenerator random(Seed);
-    const int extremes[] = {std::numeric_limits<int>::min(),
-                            std::numeric_limits<int>::max(),
-                            0,
-                            -1,
-                            1,
-                            100,
-                            32767,
-                            -32768};
-    const auto number = [&] {
-        return random.bounded(4) ? random.bounded(-300, 300) : extremes[random.bounded(8)];
-    };
-    for (int i = 0; i < 20000; ++i) {
-        Alignment alignment{Alignment::Mode(random.bounded(1, 5)), number(), number()};
-        if (alignment.mode == Alignment::ScaleBoxes) {
-            alignment.x = qAbs(alignment.x / 2);
-            alignment.y = qAbs(alignment.y / 2);
-        }
-        const int numbers[] = {number(), number(), number(), number()};
-        QRect box;
-        box.setCoords(qMin(numbers[0], numbers[1]), qMin(numbers[2], numbers[3]),
-                      qMax(numbers[0], numbers[1]), qMax(numbers[2], numbers[3]));
-        int left = 0;
-        int right = 0;
-        int top = 0;
-        int bottom = 0;
-        plainSide(alignment.mode, box.left(), box.right(), alignment.x, &left, &right);
-        plainSide(alignment.mode, box.top(), box.bottom(), alignment.y, &top, &bottom);
-        const QRect result = aligned(box, alignment);
-        QCOMPARE(result.left(), left);
-        QCOMPARE(result.right(), right);
-        QCOMPARE(result.top(), top);
-        QCOMPARE(result.bottom(), bottom);
-    }
-}
-
 void TestFrameEdits::boxesPassTheClipboard()
 {
     Family::FamilyDocument document(Family::FileKind::Animations);
@@ -803,8 +714,7 @@ void TestFrameEdits::boxesPassTheClipboard()
 
 void TestFrameEdits::takesOneAnimationAlone_data()
 {
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<bool>("isTaken");
+    columns<QString, bool>("code", "isTaken");
     QTest::newRow("another") << "animation 7\nframe 9,9" << true;
     QTest::newRow("with blanks and other line ends") << "\n\n# a\r\nanimation 7" << true;
     QTest::newRow("the same") << "animation 1\nframe 0,0" << true;
@@ -817,8 +727,7 @@ void TestFrameEdits::takesOneAnimationAlone_data()
 
 void TestFrameEdits::takesOneAnimationAlone()
 {
-    QFETCH(QString, code);
-    QFETCH(bool, isTaken);
+    const auto [code, isTaken] = fetched<QString, bool>();
     const QString first = QStringLiteral("animation 0\nframe 0,0\n\n  animation 1\nframe 0,0\n\n"
                                          "# below\nanimation 2");
     Family::FamilyDocument document(Family::FileKind::Animations);

@@ -53,7 +53,6 @@ class TestFrameTicks : public QObject
 private slots:
     void ticksAgreeWithAWalk();
     void sumsDoNotOverflow();
-    void colorsOfMarkers();
     void animationIsFollowed();
     void documentCloses();
 };
@@ -108,18 +107,6 @@ void TestFrameTicks::sumsDoNotOverflow()
     QCOMPARE(ticks.frameAt(std::numeric_limits<unsigned>::max()), 3);
     QCOMPARE(ticks.firstTick(4), most);
     QCOMPARE(FrameTicks({most, most}, -1).total(), most);
-}
-
-void TestFrameTicks::colorsOfMarkers()
-{
-    const FrameTicks ticks({3, 4, -1}, 1);
-    TimeLine::Marker marker;
-    QVERIFY(ticks.markerAt(0, marker));
-    QCOMPARE(marker.color, QColor(160, 140, 40));
-    QVERIFY(ticks.markerAt(3, marker));
-    QCOMPARE(marker.color, QColor(140, 190, 40));
-    QVERIFY(ticks.markerAt(7, marker));
-    QCOMPARE(marker.color, QColor(190, 110, 40));
 }
 
 /// Lines come, go, break and are mended anywhere, also in the head of the animation and in the

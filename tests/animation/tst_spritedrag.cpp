@@ -1,4 +1,5 @@
 #include "animation/spritedrag.h"
+#include "support/testtable.h"
 
 #include <QMimeData>
 #include <QTest>
@@ -39,8 +40,7 @@ void TestSpriteDrag::comesBack()
 
 void TestSpriteDrag::brokenIsNothing_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QByteArray>("bytes");
+    columns<QString, QByteArray>("type", "bytes");
     const QString own = spriteDragType();
     QTest::newRow("other data") << QStringLiteral("text/plain") << QByteArray("1,2");
     QTest::newRow("no comma") << own << QByteArray("1,2\n3\n");
@@ -54,8 +54,7 @@ void TestSpriteDrag::brokenIsNothing_data()
 
 void TestSpriteDrag::brokenIsNothing()
 {
-    QFETCH(QString, type);
-    QFETCH(QByteArray, bytes);
+    const auto [type, bytes] = fetched<QString, QByteArray>();
     QMimeData data;
     data.setData(type, bytes);
     QCOMPARE(draggedSprites(&data), Numbers());

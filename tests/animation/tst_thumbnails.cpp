@@ -11,6 +11,7 @@
 #include "support/testinterface.h"
 #include "support/testproject.h"
 #include "support/testsprites.h"
+#include "support/testtable.h"
 #include "text/zorvtranslator.h"
 
 #include <QAction>
@@ -85,7 +86,6 @@ class TestThumbnails : public QObject
 private slots:
     void init();
     void cleanup();
-    void toolsAreThoseOfTheTable();
     void toolsAreOfUse();
     void addsFrames();
     void makesAnimations_data();
@@ -170,20 +170,6 @@ void TestThumbnails::select(const QVector<int>& rows)
     }
 }
 
-void TestThumbnails::toolsAreThoseOfTheTable()
-{
-    QCOMPARE(m_panel->name(), QStringLiteral("thumbnails"));
-    QCOMPARE(m_panel->displayName(), QStringLiteral("Thumbnails"));
-    for (unsigned i = 0; i < std::size(toolNames); ++i) {
-        const QString name = QLatin1String(toolNames[i]);
-        QCOMPARE(m_host->areasOf.value(name), QStringList{QStringLiteral("anim")});
-        QCOMPARE(action(toolNames[i])->text(), ZorvTranslator::instance()->trText(FirstText + i));
-        QVERIFY(m_host->controls.value(name));
-    }
-    QCOMPARE(m_host->controls.value(QStringLiteral("thumb_list")).data(), m_list);
-    QVERIFY(m_editor->areas().contains(QStringLiteral("anim")));
-}
-
 void TestThumbnails::toolsAreOfUse()
 {
     const auto isOn = [this] {
@@ -237,26 +223,20 @@ void TestThumbnails::addsFrames()
 
 void TestThumbnails::makesAnimations_data()
 {
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<int>("place");
-    QTest::addColumn<QString>("after");
+    columns<QString, int, QString>("code", "place", "after");
     const QString text = QLatin1String(someText);
     const QString made = QStringLiteral("!made\n-0,2\n-0,4\n");
-    QTest::newRow("in front") << QString() << 0 << made + text;
-    QTest::newRow("at the end") << QString() << 2 << text + made;
-    QTest::newRow("nowhere") << QString() << -1 << text + made;
-    QTest::newRow("own frames stay")
-        << QStringLiteral("!made\n-0,5") << 1
-        << QStringLiteral("!one\n-0,1\n-0,2\n!made\n-0,5\n-0,2\n-0,4\n!two\n");
-    QTest::newRow("no animation") << QStringLiteral("# nothing") << 2
-                                  << text + QStringLiteral("# nothing\n");
+    row("in front", QString(), 0, made + text);
+    row("at the end", QString(), 2, text + made);
+    row("nowhere", QString(), -1, text + made);
+    row("own frames stay", QStringLiteral("!made\n-0,5"), 1,
+        QStringLiteral("!one\n-0,1\n-0,2\n!made\n-0,5\n-0,2\n-0,4\n!two\n"));
+    row("no animation", QStringLiteral("# nothing"), 2, text + QStringLiteral("# nothing\n"));
 }
 
 void TestThumbnails::makesAnimations()
 {
-    QFETCH(QString, code);
-    QFETCH(int, place);
-    QFETCH(QString, after);
+    const auto [code, place, after] = fetched<QString, int, QString>();
     const QString before = text();
     m_editor->text = code;
     m_editor->place = place;

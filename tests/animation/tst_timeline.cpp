@@ -2,6 +2,7 @@
 
 #include "animation/timeline/tickclock_p.h"
 #include "animation/timeline/timeline.h"
+#include "support/testtable.h"
 
 #include <QPointer>
 #include <QRandomGenerator>
@@ -105,10 +106,10 @@ private:
 
 void TestTimeLine::rateUnderLoad_data()
 {
-    QTest::addColumn<int>("work");   // microseconds of each tick
-    QTest::addColumn<int>("late");   // microseconds at most by which the timer is late
-    QTest::addColumn<int>("stall");  // microseconds more, once in 50 ticks
-    QTest::addColumn<int>("slowness");
+    // `work`: microseconds of each tick
+    // `late`: microseconds at most by which the timer is late
+    // `stall`: microseconds more, once in 50 ticks
+    columns<int, int, int, int>("work", "late", "stall", "slowness");
     QTest::addRow("idle") << 0 << 0 << 0 << 1;
     QTest::addRow("half a tick") << 8333 << 100 << 0 << 1;
     QTest::addRow("late timer") << 3000 << 7000 << 0 << 1;
@@ -120,10 +121,7 @@ void TestTimeLine::rateUnderLoad_data()
 // A timer of whole milliseconds, driven by the clock's intervals.
 void TestTimeLine::rateUnderLoad()
 {
-    QFETCH(int, work);
-    QFETCH(int, late);
-    QFETCH(int, stall);
-    QFETCH(int, slowness);
+    const auto [work, late, stall, slowness] = fetched<int, int, int, int>();
     QRandomGenerator random(7);
     TickClock clock{slowness};
     qint64 interval = clock.firstInterval();
@@ -145,9 +143,7 @@ void TestTimeLine::rateUnderLoad()
 
 void TestTimeLine::page_data()
 {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<unsigned>("tick");
-    QTest::addColumn<unsigned>("first");
+    columns<int, unsigned, unsigned>("width", "tick", "first");
     QTest::addRow("last of a page") << 725 << 99U << 0U;
     QTest::addRow("next page") << 725 << 100U << 100U;
     QTest::addRow("later page") << 725 << 257U << 200U;
@@ -162,8 +158,7 @@ void TestTimeLine::page_data()
 
 void TestTimeLine::page()
 {
-    QFETCH(int, width);
-    QFETCH(unsigned, tick);
+    const auto [width, tick] = fetched<int, unsigned>();
     widget->resize(width, 60);
     widget->setCurrentTick(tick);
     QTest::mouseClick(widget, Qt::LeftButton, {}, cell(0));
@@ -172,9 +167,8 @@ void TestTimeLine::page()
 
 void TestTimeLine::mouse_data()
 {
-    QTest::addColumn<unsigned>("start");
-    QTest::addColumn<QVector<QPoint>>("way");  // press, moves, release
-    QTest::addColumn<QVector<unsigned>>("told");
+    // `way`: press, moves, release
+    columns<unsigned, QVector<QPoint>, QVector<unsigned>>("start", "way", "told");
     using Way = QVector<QPoint>;
     using Told = QVector<unsigned>;
     const QPoint name(60, 35);
@@ -193,8 +187,7 @@ void TestTimeLine::mouse_data()
 
 void TestTimeLine::mouse()
 {
-    QFETCH(unsigned, start);
-    QFETCH(QVector<QPoint>, way);
+    const auto [start, way] = fetched<unsigned, QVector<QPoint>>();
     widget->setCurrentTick(start);
     widget->setFocusPolicy(Qt::NoFocus);
     widget->clearFocus();
@@ -262,8 +255,7 @@ void TestTimeLine::playing()
 
 void TestTimeLine::handler_data()
 {
-    QTest::addColumn<Work>("work");
-    QTest::addColumn<bool>("goesOn");
+    columns<Work, bool>("work", "goesOn");
     const auto later = [](const Work& work) -> Work {
         return [work](TimeLineWidget* line) { QTimer::singleShot(0, line, [=] { work(line); }); };
     };

@@ -20,8 +20,6 @@
 
 #include <QAction>
 #include <QMouseEvent>
-#include <QRandomGenerator>
-#include <QTextBlock>
 
 /// The colours of the pixels of the sprites, by columns.
 inline int colourOfColumn(int x)
@@ -129,71 +127,7 @@ public:
         QCoreApplication::processEvents();
     }
 
-    /// Where the stage finds something else than a stage to which the text is new, at random places
-    /// and on the edges of boxes; empty for nowhere. There must be no drag and no mode.
-    QString fault(QRandomGenerator& random) const;
-
     TemporaryGame game;
     QTemporaryDir folder;
     WindowFixture fixture{folder.filePath(QStringLiteral("settings.ini"))};
 };
-
-inline QString StageFixture::fault(QRandomGenerator& random) const
-{
-    const Zorv::AnimationCode* shown = editor()->currentAnimation();
-    if (!shown || !editor()->frame()) {
-        return {};
-    }
-    Family::FamilyDocument text(Family::FileKind::Animations);
-    text.setPlainText(document()->text());
-    const Family::AnimationNode* animation =
-        text.animations()->animationAt(shown->block().blockNumber());
-    const auto* node =
-        animation ? static_cast<const Family::FrameNode*>(animation->frame(editor()->frameIndex()))
-                  : nullptr;
-    if (!node || animation->frameCount() != shown->frameCount()) {
-        return QStringLiteral("another animation than that of the text");
-    }
-    StillFrame frame;
-    frame.show(node, window()->spritePanel()->sprites());
-    Zorv::GraphicsRenderer other;
-    other.setZoomLevel(stage()->zoomLevel());
-    other.setGuideLines(stage()->guideLines());
-    const auto isOn = [this](const char* name) { return fixture.action(name)->isChecked(); };
-    other.setVisibility(isOn("view_main_cross"), isOn("view_secondary_cross"),
-                        isOn("view_extra_cross"), isOn("view_attack_box"),
-                        isOn("view_collision_box"), isOn("view_rulers"), isOn("view_guide_lines"));
-    other.setItemPositionMode(Zorv::GraphicsRenderer::MainCross, 1, 0, 0);
-    other.setItemPosition(Zorv::GraphicsRenderer::SecondaryCross, node->offset(), 0);
-    const auto extra = Zorv::GraphicsRenderer::ExtraCross;
-    other.setItemPosition(extra, stage()->itemPosition(extra, 0), 0);
-    other.setSprites(&frame);
-    QVector<QPoint> places;
-    for (int i = 0; i < 50; ++i) {
-        places.append({random.bounded(widget()->width()), random.bounded(widget()->height())});
-    }
-    for (const auto type : {Zorv::ContactBoxCode::Attack, Zorv::ContactBoxCode::Collision}) {
-        Zorv::ContactBoxesCode* boxes = node->contactBoxes(type);
-        other.setContactBoxes(type, boxes);
-        for (int i = 0; i < boxes->count(); ++i) {
-            const QRect rect = boxes->at(i)->rect();
-            const QPoint end = at(rect.bottomRight() + QPoint(1, 1));
-            places << at(rect.topLeft()) << at(rect.topLeft()) - QPoint(1, 1) << end
-                   << end - QPoint(1, 1);
-        }
-    }
-    stage()->deselectContactBoxes();
-    for (const QPoint place : qAsConst(places)) {
-        const int expected = other.hitTest(place);
-        const int found = stage()->hitTest(place);
-        if (found != expected) {
-            return QStringLiteral("element %1 at %2,%3 in place of %4, in\n%5")
-                .arg(found)
-                .arg(place.x())
-                .arg(place.y())
-                .arg(expected)
-                .arg(document()->text());
-        }
-    }
-    return {};
-}

@@ -1,6 +1,7 @@
 #include "app/actions/actionregistry.h"
 #include "app/actions/shortcutguard.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <zorv/text/translator.h>
 
@@ -140,31 +141,25 @@ void TestActionRegistry::keepsKeysOfFormerNames()
 
 void TestActionRegistry::findsClashes_data()
 {
-    QTest::addColumn<QString>("firstKey");
-    QTest::addColumn<QStringList>("firstAreas");
-    QTest::addColumn<QString>("secondKey");
-    QTest::addColumn<QStringList>("secondAreas");
-    QTest::addColumn<bool>("clash");
+    columns<QString, QStringList, QString, QStringList, bool>("firstKey", "firstAreas", "secondKey",
+                                                              "secondAreas", "clash");
     const QStringList code{"code"};
     const QStringList sprites{"sprites"};
     const QStringList all{"all"};
-    QTest::newRow("one area") << "Ctrl+K" << code << "Ctrl+K" << code << true;
-    QTest::newRow("never together") << "Ctrl+K" << code << "Ctrl+K" << sprites << false;
-    QTest::newRow("everywhere") << "Ctrl+K" << all << "Ctrl+K" << sprites << true;
-    QTest::newRow("no areas named") << "Ctrl+K" << QStringList() << "Ctrl+K" << sprites << true;
-    QTest::newRow("one of several") << "Ctrl+K" << (code + sprites) << "Ctrl+K" << sprites << true;
-    QTest::newRow("begins the other") << "Ctrl+K" << all << "Ctrl+K, Ctrl+C" << all << true;
-    QTest::newRow("other key") << "Ctrl+K" << all << "Ctrl+Shift+K" << all << false;
-    QTest::newRow("no keys") << "" << all << "" << all << false;
+    row("one area", "Ctrl+K", code, "Ctrl+K", code, true);
+    row("never together", "Ctrl+K", code, "Ctrl+K", sprites, false);
+    row("everywhere", "Ctrl+K", all, "Ctrl+K", sprites, true);
+    row("no areas named", "Ctrl+K", QStringList(), "Ctrl+K", sprites, true);
+    row("one of several", "Ctrl+K", (code + sprites), "Ctrl+K", sprites, true);
+    row("begins the other", "Ctrl+K", all, "Ctrl+K, Ctrl+C", all, true);
+    row("other key", "Ctrl+K", all, "Ctrl+Shift+K", all, false);
+    row("no keys", "", all, "", all, false);
 }
 
 void TestActionRegistry::findsClashes()
 {
-    QFETCH(QString, firstKey);
-    QFETCH(QStringList, firstAreas);
-    QFETCH(QString, secondKey);
-    QFETCH(QStringList, secondAreas);
-    QFETCH(bool, clash);
+    const auto [firstKey, firstAreas, secondKey, secondAreas, clash] =
+        fetched<QString, QStringList, QString, QStringList, bool>();
     add(info("first", qPrintable(firstKey), firstAreas));
     add(info("second", qPrintable(secondKey), secondAreas));
     add(info("third", "F12"));
@@ -179,24 +174,18 @@ void TestActionRegistry::findsClashes()
 
 void TestActionRegistry::enablesByAreaAndOwner_data()
 {
-    QTest::addColumn<QStringList>("areas");
-    QTest::addColumn<QString>("active");
-    QTest::addColumn<bool>("allowed");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("both") << QStringList{"code"} << "code" << true << true;
-    QTest::newRow("one of two") << QStringList{"sprites", "code"} << "code" << true << true;
-    QTest::newRow("area alone") << QStringList{"code"} << "code" << false << false;
-    QTest::newRow("owner alone") << QStringList{"code"} << "sprites" << true << false;
-    QTest::newRow("all") << QStringList{"all"} << "" << true << true;
-    QTest::newRow("none named") << QStringList() << "" << true << true;
+    columns<QStringList, QString, bool, bool>("areas", "active", "allowed", "enabled");
+    row("both", QStringList{"code"}, "code", true, true);
+    row("one of two", QStringList{"sprites", "code"}, "code", true, true);
+    row("area alone", QStringList{"code"}, "code", false, false);
+    row("owner alone", QStringList{"code"}, "sprites", true, false);
+    row("all", QStringList{"all"}, "", true, true);
+    row("none named", QStringList(), "", true, true);
 }
 
 void TestActionRegistry::enablesByAreaAndOwner()
 {
-    QFETCH(QStringList, areas);
-    QFETCH(QString, active);
-    QFETCH(bool, allowed);
-    QFETCH(bool, enabled);
+    const auto [areas, active, allowed, enabled] = fetched<QStringList, QString, bool, bool>();
     ActionInfo given = info("act", "", areas);
     given.waitsForOwner = true;
     const QAction* action = add(given);
@@ -247,10 +236,7 @@ void TestActionRegistry::forgetsTheDead()
 
 void TestActionRegistry::keepsKeysOutOfFields_data()
 {
-    QTest::addColumn<QString>("widget");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<bool>("fires");
+    columns<QString, QString, QString, bool>("widget", "name", "key", "fires");
     for (const char* key : {"Ctrl+T", "D", "Del", "Home", "F7", "Alt+Up"}) {
         const bool isTyping = QByteArray(key).size() < 5 && *key != 'F';
         QTest::addRow("tree, %s", key) << "tree"
@@ -261,23 +247,14 @@ void TestActionRegistry::keepsKeysOutOfFields_data()
             QTest::addRow("%s, %s", field, key) << field << "act" << key << false;
         }
     }
-    QTest::newRow("the way out") << "line"
-                                 << "next_panel"
-                                 << "F6" << true;
-    QTest::newRow("no way out of a dialog") << "dialog"
-                                            << "next_panel"
-                                            << "F6" << false;
-    QTest::newRow("a field that is read only") << "read only"
-                                               << "act"
-                                               << "Ctrl+T" << true;
+    row("the way out", "line", "next_panel", "F6", true);
+    row("no way out of a dialog", "dialog", "next_panel", "F6", false);
+    row("a field that is read only", "read only", "act", "Ctrl+T", true);
 }
 
 void TestActionRegistry::keepsKeysOutOfFields()
 {
-    QFETCH(QString, widget);
-    QFETCH(QString, name);
-    QFETCH(QString, key);
-    QFETCH(bool, fires);
+    const auto [widget, name, key, fires] = fetched<QString, QString, QString, bool>();
     auto* text = new QPlainTextEdit(QStringLiteral("text"));
     m_window->setCentralWidget(text);
     auto* dock = new QDockWidget(m_window.get());

@@ -6,6 +6,8 @@
 #include "app/actions/keysdialog.h"
 #include "app/actions/keysheet.h"
 #include "app/actions/wordmatch.h"
+#include "support/folders.h"
+#include "support/testtable.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -59,25 +61,23 @@ void TestActionSearch::init()
 
 void TestActionSearch::matches_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<bool>("fits");
-    QTest::newRow("nothing") << "" << true;
-    QTest::newRow("word") << "save" << true;
-    QTest::newRow("beginnings") << "sa al" << true;
-    QTest::newRow("any order, any case") << "ALL sav" << true;
-    QTest::newRow("with the menu") << "file save" << true;
-    QTest::newRow("inside a word") << "ave" << true;
-    QTest::newRow("letters") << "sall" << true;
-    QTest::newRow("letters in another order") << "lsa" << false;
-    QTest::newRow("one word that does not fit") << "save undo" << false;
-    QTest::newRow("signs alone") << " - " << true;
-    QTest::newRow("other letters") << QString::fromUtf8("Über") << false;
+    columns<QString, bool>("typed", "fits");
+    row("nothing", "", true);
+    row("word", "save", true);
+    row("beginnings", "sa al", true);
+    row("any order, any case", "ALL sav", true);
+    row("with the menu", "file save", true);
+    row("inside a word", "ave", true);
+    row("letters", "sall", true);
+    row("letters in another order", "lsa", false);
+    row("one word that does not fit", "save undo", false);
+    row("signs alone", " - ", true);
+    row("other letters", QString::fromUtf8("Über"), false);
 }
 
 void TestActionSearch::matches()
 {
-    QFETCH(QString, typed);
-    QFETCH(bool, fits);
+    const auto [typed, fits] = fetched<QString, bool>();
     QCOMPARE(App::matchWords(typed, QStringLiteral("Save all"), QStringLiteral("File")) >= 0, fits);
     QVERIFY(App::matchWords(QString::fromUtf8("über"), QString::fromUtf8("Über Zorv"), {}) > 0);
 }
@@ -187,20 +187,14 @@ void TestActionSearch::showsTheKeys()
 
 void TestActionSearch::savesTheKeys_data()
 {
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("extension");
-    QTest::addColumn<QByteArray>("start");
-    QTest::newRow("PDF") << "save_pdf"
-                         << ".pdf" << QByteArray("%PDF-");
-    QTest::newRow("HTML") << "save_html"
-                          << ".html" << QByteArray("<!DOCTYPE html>");
+    columns<QString, QString, QByteArray>("button", "extension", "start");
+    row("PDF", "save_pdf", ".pdf", QByteArray("%PDF-"));
+    row("HTML", "save_html", ".html", QByteArray("<!DOCTYPE html>"));
 }
 
 void TestActionSearch::savesTheKeys()
 {
-    QFETCH(QString, button);
-    QFETCH(QString, extension);
-    QFETCH(QByteArray, start);
+    const auto [button, extension, start] = fetched<QString, QString, QByteArray>();
     auto* action = new QAction(QStringLiteral("<b> & more"), m->window.get());
     m->window->registry()->add(action, {QStringLiteral("odd"), {}, {}, {QKeySequence("Ctrl+<")}});
     auto* dialog = open<KeysDialog>("keys");
@@ -209,9 +203,7 @@ void TestActionSearch::savesTheKeys()
     m->dialogs.fileAnswers = {{name}, {name + extension + "/none" + extension}, {}};
     auto* pressed = dialog->findChild<QPushButton*>(button);
     QTest::mouseClick(pressed, Qt::LeftButton);
-    QFile file(name + extension);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray data = file.readAll();
+    const QByteArray data = readFile(name + extension);
     QVERIFY(data.startsWith(start));
     if (extension == QLatin1String(".html")) {
         QVERIFY(data.contains("<h2>File</h2>") && data.contains("<td>Save</td><td>Ctrl+S</td>"));

@@ -7,6 +7,8 @@
 #include "app/window/panelplace.h"
 #include "family/assets/soundfile.h"
 #include "family/assets/spritefile.h"
+#include "support/testsounds.h"
+#include "support/testtable.h"
 
 #include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/animation/thumbnails/thumbnailseditor.h>
@@ -112,13 +114,7 @@ void TestAssetPanels::init()
     Zorv::Archive* archive = Zorv::FileSystemArchive::instance();
     QVERIFY(file.toFile(*archive, folder + "ryn.sprites", false));
     SoundFile sounds;
-    Zorv::SoundSample sample;
-    sample.channels = 1;
-    sample.bits = 16;
-    sample.sampleRate = 22050;
-    sample.frames = 2205;
-    sample.data = QByteArray(4410, 1);
-    QVERIFY(sounds.add(0, QStringLiteral("5,0"), sample));
+    QVERIFY(sounds.add(0, QStringLiteral("5,0"), soundOf(QByteArray(4410, 1))));
     QVERIFY(sounds.toFile(*archive, folder + "ryn.sounds", false));
     m->fixture.open(m->game, m->game.ryn(), m->game.animations());
     QTRY_VERIFY(sprites());
@@ -201,9 +197,7 @@ void TestAssetPanels::bringsImagesIn()
 
 void TestAssetPanels::replacesAnImage_data()
 {
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QRgb>("shown");
-    QTest::addColumn<QRgb>("other");
+    columns<int, QRgb, QRgb>("answer", "shown", "other");
     const QRgb yellow = 0xffffff00;
     QTest::newRow("palette of the image") << 0 << yellow << Colors[1];
     QTest::newRow("palette of the sprite") << 1 << Colors[1] << Colors[1];
@@ -213,9 +207,7 @@ void TestAssetPanels::replacesAnImage_data()
 
 void TestAssetPanels::replacesAnImage()
 {
-    QFETCH(int, answer);
-    QFETCH(QRgb, shown);
-    QFETCH(QRgb, other);
+    const auto [answer, shown, other] = fetched<int, QRgb, QRgb>();
     QImage yellow = block(1);
     yellow.setColor(1, 0xffffff00);
     m->fixture.dialogs.fileAnswers = {{image("yellow.png", yellow)}};
@@ -349,8 +341,7 @@ void TestAssetPanels::asksForSpritesThatAreNamedNoMore()
 
 void TestAssetPanels::asksBeforeSpritesAreLost_data()
 {
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<unsigned>("left");
+    columns<int, unsigned>("answer", "left");
     QTest::newRow("saved") << 0 << 499U;
     QTest::newRow("discarded") << 1 << 500U;
     QTest::newRow("stays open") << -1 << 499U;
@@ -358,8 +349,7 @@ void TestAssetPanels::asksBeforeSpritesAreLost_data()
 
 void TestAssetPanels::asksBeforeSpritesAreLost()
 {
-    QFETCH(int, answer);
-    QFETCH(unsigned, left);
+    const auto [answer, left] = fetched<int, unsigned>();
     panel()->setCurrentRow(10);
     trigger("sprite_remove");
     m->fixture.dialogs.choiceAnswers = {answer};

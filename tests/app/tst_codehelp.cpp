@@ -5,7 +5,9 @@
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "support/folders.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <zorv/editors/code/codeeditor.h>
 
@@ -84,13 +86,9 @@ void TestCodeHelp::initTestCase()
     const QPair<const char*, QByteArray> files[] = {
         {"hero.character", mainText}, {"hero.anim", animText}, {"red.act", "palette"}};
     for (const auto& row : files) {
-        QFile file(hero.filePath(QLatin1String(row.first)));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(row.second), qint64(row.second.size()));
+        QVERIFY(writeFile(hero.filePath(QLatin1String(row.first)), row.second));
     }
-    QFile file(folder.filePath(Family::completerFileName()));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.write(Family::completerXml()) > 0);
+    QVERIFY(writeFile(folder.filePath(Family::completerFileName()), Family::completerXml()));
 }
 
 void TestCodeHelp::init()
@@ -178,9 +176,7 @@ void TestCodeHelp::mouse(QEvent::Type type, const QPoint& point, Qt::MouseButton
 // clang-format off
 void TestCodeHelp::wordTakesThePlaceOfTheWhole_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("after");
+    columns<QString, QString, QString>("before", "keys", "after");
     QTest::newRow("with its own case") << "[CON|]" << "" << "[constants]";
     QTest::newRow("all of the word") << "[constants]\ntu|xx = yes" << "" << "[constants]\nturns = yes";
     QTest::newRow("none yet") << "[constants]\nturns = |" << "y" << "[constants]\nturns = yes";
@@ -192,8 +188,7 @@ void TestCodeHelp::wordTakesThePlaceOfTheWhole_data()
 
 void TestCodeHelp::wordTakesThePlaceOfTheWhole()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, keys);
+    const auto [before, keys] = fetched<QString, QString>();
     start(before);
     QVERIFY(words->open());
     QTest::keyClicks(popup(), keys);
@@ -208,10 +203,7 @@ void TestCodeHelp::wordTakesThePlaceOfTheWhole()
 // clang-format off
 void TestCodeHelp::keysThatEndAWord_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("last");
-    QTest::addColumn<QString>("after");
+    columns<QString, QString, int, QString>("before", "typed", "last", "after");
     const QString head = QStringLiteral("[constants]\nturns =");
     QTest::newRow("return on a part") << head + "|" << " y" << int(Qt::Key_Return) << head + " yes";
     QTest::newRow("return on the whole") << head + "|" << " yes" << int(Qt::Key_Return) << head + " yes\n";
@@ -224,9 +216,7 @@ void TestCodeHelp::keysThatEndAWord_data()
 /// The words of the generated file open by themselves.
 void TestCodeHelp::keysThatEndAWord()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, typed);
-    QFETCH(int, last);
+    const auto [before, typed, last] = fetched<QString, QString, int>();
     start(before);
     for (const QChar key : typed) {
         QTest::keyClicks(popup()->isVisible() ? popup() : static_cast<QWidget*>(editor.get()), key);
@@ -252,9 +242,7 @@ void TestCodeHelp::nothingToOffer()
 // clang-format off
 void TestCodeHelp::hover_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("tip");
+    columns<int, int, QString>("line", "column", "tip");
     QTest::newRow("group") << 2 << 3 << "<b>[constants]</b>";
     QTest::newRow("choice") << 4 << 9 << "<b>yes</b>";
     QTest::newRow("a message stays first") << 3 << 1 << "has no key 'lief'";
@@ -266,9 +254,7 @@ void TestCodeHelp::hover_data()
 
 void TestCodeHelp::hover()
 {
-    QFETCH(int, line);
-    QFETCH(int, column);
-    QFETCH(QString, tip);
+    const auto [line, column, tip] = fetched<int, int, QString>();
     QToolTip::hideText();
     QTRY_VERIFY(!QToolTip::isVisible());
     const QPoint point = pointAt(line, column);

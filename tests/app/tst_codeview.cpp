@@ -3,7 +3,6 @@
 #include <zorv/core/messagelist.h>
 #include <zorv/core/messages.h>
 
-#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
@@ -25,7 +24,6 @@ private slots:
     void tabsFollowWhatIsDoneToThem();
     void closesWhatTheMiddleButtonIsPressedOn();
     void asksBeforeAModifiedTabCloses();
-    void namesItsParts();
     void tellsPlaceAndProblems();
     void marksLeadToMessages();
     void messagesFollowTheCursor();
@@ -40,16 +38,14 @@ private:
     void pressMark(int line) const;
     QStringList titles() const;
 
-    std::unique_ptr<QTemporaryDir> m_settings;
     std::unique_ptr<TemporaryGame> m_game;
     std::unique_ptr<WindowFixture> m;
 };
 
 void TestCodeView::init()
 {
-    m_settings = std::make_unique<QTemporaryDir>();
     m_game = std::make_unique<TemporaryGame>();
-    m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
+    m = std::make_unique<WindowFixture>();
 }
 
 QStringList TestCodeView::titles() const
@@ -156,19 +152,6 @@ void TestCodeView::asksBeforeAModifiedTabCloses()
     QCOMPARE(m->dialogs.count(QStringLiteral("choose")), 1);
     QCOMPARE(bar()->count(), 2);
     QCOMPARE(m->document()->fileName(), m_game->ryn());
-}
-
-void TestCodeView::namesItsParts()
-{
-    m->open(*m_game, m_game->ryn());
-    QAccessibleInterface* text = QAccessible::queryAccessibleInterface(m->edit());
-    QVERIFY(text && text->textInterface());
-    QVERIFY(text->text(QAccessible::Name).contains(QLatin1String("ryn.character")));
-    QCOMPARE(text->textInterface()->characterCount(), m->document()->characterCount() - 1);
-    QCOMPARE(text->textInterface()->text(0, 6), QStringLiteral("[info]"));
-    for (const QWidget* part : {static_cast<QWidget*>(bar()), static_cast<QWidget*>(m->tree())}) {
-        QVERIFY(!part->accessibleName().isEmpty());
-    }
 }
 
 void TestCodeView::tellsPlaceAndProblems()

@@ -3,6 +3,8 @@
 #include "app/assets/soundpanel.h"
 #include "app/window/panelplace.h"
 #include "family/assets/soundfile.h"
+#include "support/testsounds.h"
+#include "support/testtable.h"
 
 #include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/editors/framework/rowlist.h>
@@ -56,14 +58,8 @@ void TestCommands::init()
                                                   "sounds = \"ryn.sounds\"\r\n"
                                                   "animations = \"basic.anim\"\r\n");
     SoundFile file;
-    Zorv::SoundSample sample;
-    sample.channels = 1;
-    sample.bits = 8;
-    sample.sampleRate = 8000;
-    sample.frames = 4;
-    sample.data = QByteArray(4, 1);
     for (int i = 0; i < 3; ++i) {
-        QVERIFY(file.add(i, QStringLiteral("0,%1").arg(i), sample));
+        QVERIFY(file.add(i, QStringLiteral("0,%1").arg(i), soundOf(QByteArray(4, 1))));
     }
     QVERIFY(file.toFile(*Zorv::FileSystemArchive::instance(),
                         m->game.path("characters/ryn/ryn.sounds"), false));
@@ -125,9 +121,7 @@ QString TestCommands::state() const
 /// "c" for the clipboard, nothing for nothing. A row that is copied is so as a text.
 void TestCommands::goesToThePanel_data()
 {
-    QTest::addColumn<QString>("where");
-    QTest::addColumn<QKeySequence>("key");
-    QTest::addColumn<QString>("changed");
+    columns<QString, QKeySequence, QString>("where", "key", "changed");
     const QVector<QPair<QString, QKeySequence>> keys{{QStringLiteral("undo"), QKeySequence::Undo},
                                                      {QStringLiteral("redo"), QKeySequence::Redo},
                                                      {QStringLiteral("cut"), QKeySequence::Cut},
@@ -179,9 +173,7 @@ void TestCommands::goesToThePanel()
 
 void TestCommands::tellsWhatIsUndone_data()
 {
-    QTest::addColumn<QString>("where");
-    QTest::addColumn<QString>("undo");
-    QTest::addColumn<QString>("redo");
+    columns<QString, QString, QString>("where", "undo", "redo");
     for (const char* where : {"text", "stage", "organizer", "nodes", "projects", "messages"}) {
         QTest::addRow("%s", where) << where << "&Undo: Text step 1"
                                    << "&Redo: Text step 0";

@@ -2,6 +2,7 @@
 
 #include "app/actions/actionregistry.h"
 #include "app/window/editorregistry.h"
+#include "support/testtable.h"
 
 #include <zorv/editors/framework/extraeditor.h>
 #include <zorv/editors/framework/ownwidgetcontrol.h>
@@ -31,16 +32,8 @@ namespace {
 class Texts final : public Zorv::Translator
 {
 public:
-    QString language = QStringLiteral("en");
-
-    QString trText(unsigned id) const override
-    {
-        return QStringLiteral("Label %1 %2").arg(id).arg(language);
-    }
-    QString trToolTip(unsigned id) const override
-    {
-        return QStringLiteral("Tip %1 %2").arg(id).arg(language);
-    }
+    QString trText(unsigned id) const override { return QStringLiteral("Label %1 en").arg(id); }
+    QString trToolTip(unsigned id) const override { return QStringLiteral("Tip %1 en").arg(id); }
 };
 
 const char* const everywhere[] = {"all", nullptr};
@@ -101,11 +94,8 @@ private slots:
     void showsATextOnly();
     void choosesRows_data();
     void choosesRows();
-    void makesListsThatCanBeRearranged();
     void enablesActions();
     void checksActions();
-    void enablesWidgets();
-    void followsTheLanguage();
     void placesByName_data();
     void placesByName();
     void showsMenusOnDemand();
@@ -142,7 +132,6 @@ void TestControls::init()
     m_settings = std::make_unique<QTemporaryDir>();
     m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
     m_publisher = std::make_unique<Publisher>();
-    m_texts.language = QStringLiteral("en");
 }
 
 void TestControls::cleanup()
@@ -153,29 +142,22 @@ void TestControls::cleanup()
 
 void TestControls::tellsAndTakesValues_data()
 {
-    QTest::addColumn<WidgetControl::Kind>("kind");
-    QTest::addColumn<QByteArray>("slot");
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<QVariant>("told");
+    columns<WidgetControl::Kind, QByteArray, QByteArray, QVariant>("kind", "slot", "signal",
+                                                                   "told");
     const QByteArray number = SLOT(numberChosen(int));
-    QTest::newRow("slider") << WidgetControl::Slider << number << QByteArray(SIGNAL(setNumber(int)))
-                            << QVariant(3);
-    QTest::newRow("spin") << WidgetControl::SpinEdit << number << QByteArray(SIGNAL(setNumber(int)))
-                          << QVariant(3);
-    QTest::newRow("combo") << WidgetControl::ComboBox << number
-                           << QByteArray(SIGNAL(setNumber(int))) << QVariant(3);
-    QTest::newRow("real") << WidgetControl::FloatEdit << QByteArray(SLOT(realChosen(double)))
-                          << QByteArray(SIGNAL(setReal(double))) << QVariant(3.0);
-    QTest::newRow("check") << WidgetControl::CheckBox << QByteArray(SLOT(switched(bool)))
-                           << QByteArray(SIGNAL(setOn(bool))) << QVariant(false);
+    row("slider", WidgetControl::Slider, number, QByteArray(SIGNAL(setNumber(int))), QVariant(3));
+    row("spin", WidgetControl::SpinEdit, number, QByteArray(SIGNAL(setNumber(int))), QVariant(3));
+    row("combo", WidgetControl::ComboBox, number, QByteArray(SIGNAL(setNumber(int))), QVariant(3));
+    row("real", WidgetControl::FloatEdit, QByteArray(SLOT(realChosen(double))),
+        QByteArray(SIGNAL(setReal(double))), QVariant(3.0));
+    row("check", WidgetControl::CheckBox, QByteArray(SLOT(switched(bool))),
+        QByteArray(SIGNAL(setOn(bool))), QVariant(false));
 }
 
 void TestControls::tellsAndTakesValues()
 {
-    QFETCH(WidgetControl::Kind, kind);
-    QFETCH(QByteArray, slot);
-    QFETCH(QByteArray, signal);
-    QFETCH(QVariant, told);
+    const auto [kind, slot, signal, told] =
+        fetched<WidgetControl::Kind, QByteArray, QByteArray, QVariant>();
     QWidget* widget =
         add("test_value", Zorv::trWidgetControl(kind, 8, &m_texts, 4, m_publisher.get(),
                                                 slot.constData(), signal.constData()));
@@ -212,19 +194,15 @@ void TestControls::showsATextOnly()
 
 void TestControls::choosesRows_data()
 {
-    QTest::addColumn<WidgetControl::Kind>("kind");
-    QTest::addColumn<int>("flags");
-    QTest::addColumn<int>("afterOneClick");
-    QTest::newRow("list") << WidgetControl::ListView << int(WidgetControl::NoFlags) << 0;
-    QTest::newRow("tree") << WidgetControl::TreeView << int(WidgetControl::NoFlags) << 0;
-    QTest::newRow("one click") << WidgetControl::ListView << int(WidgetControl::SingleClick) << 1;
+    columns<WidgetControl::Kind, int, int>("kind", "flags", "afterOneClick");
+    row("list", WidgetControl::ListView, int(WidgetControl::NoFlags), 0);
+    row("tree", WidgetControl::TreeView, int(WidgetControl::NoFlags), 0);
+    row("one click", WidgetControl::ListView, int(WidgetControl::SingleClick), 1);
 }
 
 void TestControls::choosesRows()
 {
-    QFETCH(WidgetControl::Kind, kind);
-    QFETCH(int, flags);
-    QFETCH(int, afterOneClick);
+    const auto [kind, flags, afterOneClick] = fetched<WidgetControl::Kind, int, int>();
     QStringListModel model({"a", "b", "c"});
     auto* view = qobject_cast<QAbstractItemView*>(
         add("org_rows", WidgetControl(kind, 5, m_publisher.get(), SLOT(rowChosen(QModelIndex)),
@@ -244,22 +222,6 @@ void TestControls::choosesRows()
     view->setCurrentIndex(model.index(2));
     QTest::keyClick(view, Qt::Key_Return);
     QCOMPARE(m_publisher->told, QVariantList{2});
-}
-
-void TestControls::makesListsThatCanBeRearranged()
-{
-    const auto listOf = [this](WidgetControl::Flags flags) {
-        return qobject_cast<QListView*>(
-            add("org_rows",
-                Zorv::ListViewControl(10, m_publisher.get(), SLOT(rowChosen(QModelIndex)), flags)));
-    };
-    const QListView* fixed = listOf(WidgetControl::NoFlags);
-    QVERIFY(fixed->uniformItemSizes());
-    QVERIFY(!fixed->dragEnabled());
-    const QListView* loose = listOf(WidgetControl::Reorderable);
-    QVERIFY(loose->uniformItemSizes() && loose->dragEnabled() && loose->acceptDrops());
-    QCOMPARE(loose->selectionMode(), QAbstractItemView::ExtendedSelection);
-    QCOMPARE(loose->dragDropMode(), QAbstractItemView::InternalMove);
 }
 
 void TestControls::enablesActions()
@@ -301,63 +263,22 @@ void TestControls::checksActions()
     QCOMPARE(m_publisher->told, QVariantList{false});
 }
 
-void TestControls::enablesWidgets()
-{
-    const QWidget* spin = add("code_thing", Zorv::SpinEditControl(4, &m_texts, 2, m_publisher.get(),
-                                                                  SLOT(numberChosen(int)), nullptr,
-                                                                  SIGNAL(enabled(bool))));
-    m->window->registry()->setActiveAreas({QStringLiteral("code")});
-    QVERIFY(!spin->isEnabled());
-    emit m_publisher->enabled(true);
-    QVERIFY(spin->isEnabled());
-    m->window->registry()->setActiveAreas({});
-    QVERIFY(!spin->isEnabled());
-}
-
-void TestControls::followsTheLanguage()
-{
-    const QAction* action = addAction("code_thing");
-    auto* spin = add("code_number", Zorv::SpinEditControl(4, &m_texts, 2, m_publisher.get(),
-                                                          nullptr, nullptr, nullptr));
-    auto* check = qobject_cast<QCheckBox*>(
-        add("code_check",
-            Zorv::trWidgetControl(WidgetControl::CheckBox, 0, &m_texts, 3, m_publisher.get())));
-    m_texts.language = QStringLiteral("de");
-    QEvent event(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(m->window.get(), &event);
-    QCOMPARE(action->text(), QStringLiteral("Label 1 de"));
-    QCOMPARE(action->statusTip(), QStringLiteral("Tip 1 de"));
-    QCOMPARE(check->text(), QStringLiteral("Label 3 de"));
-    QCOMPARE(spin->toolTip(), QStringLiteral("Tip 2 de"));
-    QCOMPARE(spin->parentWidget()->findChild<QLabel*>()->text(), QStringLiteral("Label 2 de"));
-}
-
 void TestControls::placesByName_data()
 {
-    QTest::addColumn<QString>("bar");
-    QTest::addColumn<QString>("menu");
-    QTest::newRow("org_up") << "organizer"
-                            << "anim";
-    QTest::newRow("anim_thing") << "animation_bar"
-                                << "anim";
-    QTest::newRow("anim_frame_thing") << "frame"
-                                      << "frame";
-    QTest::newRow("spr_layer_add") << "layers"
-                                   << "spr";
-    QTest::newRow("spr_tool_pen") << "sprite_tools_bar"
-                                  << "spr";
-    QTest::newRow("pal_add") << "palette"
-                             << "pal";
-    QTest::newRow("snd_play") << "sound_bar"
-                              << "snd";
-    QTest::newRow("other_thing") << "other_bar"
-                                 << "edit";
+    columns<QString, QString>("bar", "menu");
+    row("org_up", "organizer", "anim");
+    row("anim_thing", "animation_bar", "anim");
+    row("anim_frame_thing", "frame", "frame");
+    row("spr_layer_add", "layers", "spr");
+    row("spr_tool_pen", "sprite_tools_bar", "spr");
+    row("pal_add", "palette", "pal");
+    row("snd_play", "sound_bar", "snd");
+    row("other_thing", "other_bar", "edit");
 }
 
 void TestControls::placesByName()
 {
-    QFETCH(QString, bar);
-    QFETCH(QString, menu);
+    const auto [bar, menu] = fetched<QString, QString>();
     const TemporaryGame game;
     m->window->resize(1600, 900);
     m->open(game, game.ryn(), game.animations());

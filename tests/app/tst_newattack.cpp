@@ -8,6 +8,7 @@
 #include "family/nodes/framenode.h"
 #include "support/folders.h"
 #include "support/gltest.h"
+#include "support/testtable.h"
 
 #include <zorv/animation/dialogs/animalign.h>
 #include <zorv/animation/import/animimportdlg.h>
@@ -47,9 +48,12 @@ private slots:
     void cleanup() { m.reset(); }
 
     void isMadeWithoutTyping();
+    void importsFromADamagedFile_data();
+    void importsFromADamagedFile();
     void stripHasAMenu();
 
 private:
+    void open();
     QString shownText() const;
     void takeSprites();
     void setTime();
@@ -58,6 +62,7 @@ private:
     void align();
     void play();
     void saveGif();
+    void importFirst();
     void import();
 
     App::FamilyAnimationEditor* editor() const { return m->window->stage()->editor(); }
@@ -88,7 +93,13 @@ void TestNewAttack::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(copyFolder(QStringLiteral(SAMPLES "/arena"), m_folder->path()));
-    m = std::make_unique<WindowFixture>(m_folder->filePath(QStringLiteral("zorv.ini")));
+    open();
+}
+
+void TestNewAttack::open()
+{
+    m.reset();
+    m = std::make_unique<WindowFixture>();
     m->window->resize(1280, 800);
     QVERIFY(m->window->openPath(m_folder->path()));
     for (const char* file :
@@ -204,15 +215,13 @@ void TestNewAttack::saveGif()
 {
     m->dialogs.fileAnswers = {{m_folder->filePath(QStringLiteral("attack"))}};
     m->action("anim_save_gif")->trigger();
-    QFile gif(m_folder->filePath(QStringLiteral("attack.gif")));
-    QVERIFY(gif.open(QIODevice::ReadOnly));
-    QVERIFY(gif.readAll().startsWith("GIF89a"));
+    QVERIFY(readFile(m_folder->filePath(QStringLiteral("attack.gif"))).startsWith("GIF89a"));
 }
 
 /// Under another name, with its four sprites, whose numbers are taken.
-void TestNewAttack::import()
+/// The first animation of the other project, as 777.
+void TestNewAttack::importFirst()
 {
-    const int count = editor()->spriteCollection()->rowCount();
     answer<AnimImportDlg>([](AnimImportDlg* dialog) {
         auto* source = dialog->findChild<QListView*>(QStringLiteral("source"));
         source->setCurrentIndex(source->model()->index(0, 0));
@@ -227,6 +236,12 @@ void TestNewAttack::import()
         dialog->accept();
     });
     m->action("anim_import_proj")->trigger();
+}
+
+void TestNewAttack::import()
+{
+    const int count = editor()->spriteCollection()->rowCount();
+    importFirst();
     QCOMPARE(editor()->spriteCollection()->rowCount(), count + 4);
     QVERIFY(m->document()->text().contains(QLatin1String("animation 777 ")));
     QCOMPARE(shownText(), QStringLiteral("frame 9100,4  delay 20  loop"));
@@ -260,6 +275,38 @@ void TestNewAttack::isMadeWithoutTyping()
         m->action("undo")->trigger();
     }
     QCOMPARE(m->document()->text(), before);
+}
+
+void TestNewAttack::importsFromADamagedFile_data()
+{
+    columns<QByteArray, QString>("bytes", "told");
+    const QByteArray whole =
+        readFile(QStringLiteral(SAMPLES "/arena/characters/iwao/iwao.sprites"));
+    QByteArray spoilt = whole;
+    for (int i = spoilt.size() / 16; i < spoilt.size(); i += 7) {
+        spoilt[i] = char(~spoilt[i]);
+    }
+    row("bad pixels", spoilt, "question");
+    row("bad pixels that it does not need", whole.left(whole.size() / 2), "information");
+    row("another file", QByteArray("GIF89a"), "error");
+    row("empty", QByteArray(), "error");
+}
+
+/// Who is told that something cannot be read, and does not want the rest, loses nothing.
+void TestNewAttack::importsFromADamagedFile()
+{
+    const auto [bytes, told] = fetched<QByteArray, QString>();
+    QVERIFY(writeFile(m_folder->filePath("characters/iwao/iwao.sprites"), bytes));
+    open();
+    const QString before = m->document()->text();
+    const int count = editor()->spriteCollection()->rowCount();
+    m->dialogs.buttonAnswers = {Zorv::Dialogs::No};
+    importFirst();
+    QCOMPARE(m->dialogs.shown.constLast().kind, told);
+    const bool isDone = told == QLatin1String("information");
+    QCOMPARE(m->document()->text() != before, isDone);
+    QCOMPARE(m->document()->canUndo(), isDone);
+    QCOMPARE(editor()->spriteCollection()->rowCount(), isDone ? count + 4 : count);
 }
 
 /// Of the window, and of its cells.

@@ -3,6 +3,7 @@
 #include "family/familydocument.h"
 #include "family/nodepath.h"
 #include "operations/hostinterface.h"
+#include "support/testtable.h"
 
 #include <zorv/code/codedoc/contactboxescode.h>
 #include <zorv/code/codedoc/framecode.h>
@@ -123,8 +124,7 @@ void TestNodeModel::showsTheTree()
 
 void TestNodeModel::findsLines_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QVector<int>>("path");
+    columns<int, QVector<int>>("line", "path");
     QTest::newRow("group") << 0 << QVector<int>{0};
     QTest::newRow("value") << 1 << QVector<int>{0, 0};
     QTest::newRow("sub-group") << 4 << QVector<int>{1, 1};
@@ -139,8 +139,7 @@ void TestNodeModel::findsLines_data()
 
 void TestNodeModel::findsLines()
 {
-    QFETCH(int, line);
-    QFETCH(QVector<int>, path);
+    auto [line, path] = fetched<int, QVector<int>>();
     FamilyDocument document(Family::FileKind::Character);
     document.fromString(SomeText);
     NodeModel model;

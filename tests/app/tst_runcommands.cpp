@@ -4,6 +4,7 @@
 #include "family/project/familyparentproject.h"
 #include "family/project/gameprogram.h"
 #include "operations/agreements.h"
+#include "support/testtable.h"
 #include "windowfixture.h"
 
 #include <zorv/core/run/temporarycopies.h>
@@ -85,30 +86,26 @@ QStringList TestRunCommands::copiesInGame() const
 
 void TestRunCommands::outputIsShownAsText_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("lines") << QByteArray("a\r\nb\n\tc") << QString("a\nb\n\tc");
-    QTest::newRow("beyond ASCII") << QByteArray("\xc3\xa4\xe2\x82\xac\xf0\x9f\x99\x82")
-                                  << QString::fromUtf8("\xc3\xa4\xe2\x82\xac\xf0\x9f\x99\x82");
-    QTest::newRow("no UTF-8") << QByteArray("a\xe4z\xc3(\x80\xff")
-                              << QString("a\\xE4z\\xC3(\\x80\\xFF");
-    QTest::newRow("too long") << QByteArray("\xc0\xaf\xe0\x80\xaf")
-                              << QString("\\xC0\\xAF\\xE0\\x80\\xAF");
-    QTest::newRow("half a pair") << QByteArray("\xed\xa0\x80") << QString("\\xED\\xA0\\x80");
-    QTest::newRow("cut") << QByteArray("a\xe2\x82") << QString("a\\xE2\\x82");
-    QTest::newRow("controls") << QByteArray("\x1b[2J\a\bx\ry\x7f", 10)
-                              << QString("^[[2J^G^Hx^My^?");
-    QTest::newRow("direction") << QByteArray("\xe2\x80\xae"
-                                             "abc\xe2\x80\xa9")
-                               << QString("<U+202E>abc<U+2029>");
-    QTest::newRow("long line") << QByteArray(OutputText::MaxLine + 1, 'x')
-                               << QString(OutputText::MaxLine, 'x') + "\nx";
+    columns<QByteArray, QString>("bytes", "text");
+    row("lines", QByteArray("a\r\nb\n\tc"), QString("a\nb\n\tc"));
+    row("beyond ASCII", QByteArray("\xc3\xa4\xe2\x82\xac\xf0\x9f\x99\x82"),
+        QString::fromUtf8("\xc3\xa4\xe2\x82\xac\xf0\x9f\x99\x82"));
+    row("no UTF-8", QByteArray("a\xe4z\xc3(\x80\xff"), QString("a\\xE4z\\xC3(\\x80\\xFF"));
+    row("too long", QByteArray("\xc0\xaf\xe0\x80\xaf"), QString("\\xC0\\xAF\\xE0\\x80\\xAF"));
+    row("half a pair", QByteArray("\xed\xa0\x80"), QString("\\xED\\xA0\\x80"));
+    row("cut", QByteArray("a\xe2\x82"), QString("a\\xE2\\x82"));
+    row("controls", QByteArray("\x1b[2J\a\bx\ry\x7f", 10), QString("^[[2J^G^Hx^My^?"));
+    row("direction",
+        QByteArray("\xe2\x80\xae"
+                   "abc\xe2\x80\xa9"),
+        QString("<U+202E>abc<U+2029>"));
+    row("long line", QByteArray(OutputText::MaxLine + 1, 'x'),
+        QString(OutputText::MaxLine, 'x') + "\nx");
 }
 
 void TestRunCommands::outputIsShownAsText()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, text);
+    const auto [bytes, text] = fetched<QByteArray, QString>();
     OutputText decoder;
     const QString whole = decoder.decode(bytes);
     QCOMPARE(whole + decoder.finish(), text);
@@ -212,9 +209,9 @@ void TestRunCommands::programOfTheGameIsAskedAbout()
 void TestRunCommands::floodLeavesTheWindowAlive_data()
 {
     QTest::addColumn<QByteArray>("source");
-    QTest::newRow("lines") << QByteArray("yes 'a line that is printed again and again'");
-    QTest::newRow("short lines") << QByteArray("yes ''");
-    QTest::newRow("no lines") << QByteArray("cat /dev/zero");
+    row("lines", QByteArray("yes 'a line that is printed again and again'"));
+    row("short lines", QByteArray("yes ''"));
+    row("no lines", QByteArray("cat /dev/zero"));
 }
 
 void TestRunCommands::floodLeavesTheWindowAlive()
@@ -262,12 +259,11 @@ void TestRunCommands::secondRunIsRefused()
 
 void TestRunCommands::closingEndsTheEngineFirst_data()
 {
-    QTest::addColumn<QString>("what");
-    QTest::addColumn<int>("answer");
-    QTest::newRow("window") << "window" << 0;
-    QTest::newRow("window, given up") << "window" << -1;
-    QTest::newRow("folder") << "folder" << 0;
-    QTest::newRow("other game") << "other" << 0;
+    columns<QString, int>("what", "answer");
+    row("window", "window", 0);
+    row("window, given up", "window", -1);
+    row("folder", "folder", 0);
+    row("other game", "other", 0);
 }
 
 void TestRunCommands::closingEndsTheEngineFirst()

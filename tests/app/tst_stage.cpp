@@ -5,13 +5,12 @@
 #include "family/nodes/animationnode.h"
 #include "family/nodes/framenode.h"
 #include "support/gltest.h"
+#include "support/testtable.h"
 
 #include <zorv/animation/timeline/timelinewidget.h>
 
 #include <QAction>
-#include <QCheckBox>
-#include <QDockWidget>
-#include <QSignalSpy>
+#include <QRandomGenerator>
 #include <QUndoStack>
 #include <QWheelEvent>
 
@@ -45,27 +44,14 @@ private slots:
 
     void dragsBecomeText_data();
     void dragsBecomeText();
-    void boxesAreDrawn_data();
-    void boxesAreDrawn();
     void modesTellTheSelection();
-    void boxesGo();
     void keysMoveBoxes();
     void colourIsCaptured_data();
     void colourIsCaptured();
     void textLeadsTheStage();
     void jumpsShowTheFirstFrame();
-    void scrubbingLeadsTheText();
     void plays();
-    void closesWhileItPlays_data();
-    void closesWhileItPlays();
-    void editsDuringADrag_data();
-    void editsDuringADrag();
-    void partsAreShownAndHidden_data();
-    void partsAreShownAndHidden();
-    void onionSkinIsSwitched();
-    void settingsAreApplied();
     void zoomsAboutAPlace();
-    void wheelZooms();
     void wheelZoomsAboutThePointer();
 
 private:
@@ -96,42 +82,29 @@ void TestStage::undoesOnce(const QStringList& before) const
 
 void TestStage::dragsBecomeText_data()
 {
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QString>("text");
+    columns<QPoint, QPoint, int, QString>("from", "to", "line", "text");
     const int none = -1;
-    QTest::newRow("sprite") << SpriteMiddle << QPoint(-12, -32) << FrameLine
-                            << "frame 0,0 offset 12,-14 delay 4";
-    QTest::newRow("cross of the sprite")
-        << QPoint(5, -10) << QPoint(0, 0) << FrameLine << "frame 0,0 delay 4";
-    QTest::newRow("body") << Body << QPoint(53, -20) << BodyLine << "body 43,-35, 62,-6";
-    QTest::newRow("attack") << Attack << QPoint(0, 0) << AttackLine << "attack -10,-4, 9,5";
-    QTest::newRow("top left") << QPoint(40, -40) << QPoint(42, -38) << BodyLine
-                              << "body 42,-38, 59,-11";
-    QTest::newRow("top") << QPoint(50, -40) << QPoint(90, -50) << BodyLine << "body 40,-50, 59,-11";
-    QTest::newRow("left") << QPoint(40, -25) << QPoint(30, 40) << BodyLine << "body 30,-40, 59,-11";
-    QTest::newRow("top right") << QPoint(59, -40) << QPoint(64, -41) << BodyLine
-                               << "body 40,-41, 64,-11";
-    QTest::newRow("bottom left") << QPoint(40, -11) << QPoint(38, -5) << BodyLine
-                                 << "body 38,-40, 59,-5";
-    QTest::newRow("bottom") << QPoint(50, -11) << QPoint(90, 4) << BodyLine << "body 40,-40, 59,4";
-    QTest::newRow("bottom right") << QPoint(59, -11) << QPoint(63, -5) << BodyLine
-                                  << "body 40,-40, 63,-5";
-    QTest::newRow("right") << QPoint(59, -25) << QPoint(69, 9) << BodyLine << "body 40,-40, 69,-11";
-    QTest::newRow("turned over") << QPoint(40, -25) << QPoint(65, -25) << BodyLine
-                                 << "body 59,-40, 65,-11";
-    QTest::newRow("nothing") << Empty << QPoint(-30, 30) << none << "";
-    QTest::newRow("a box back and forth") << Body << Body << none << "";
+    row("sprite", SpriteMiddle, QPoint(-12, -32), FrameLine, "frame 0,0 offset 12,-14 delay 4");
+    row("cross of the sprite", QPoint(5, -10), QPoint(0, 0), FrameLine, "frame 0,0 delay 4");
+    row("body", Body, QPoint(53, -20), BodyLine, "body 43,-35, 62,-6");
+    row("attack", Attack, QPoint(0, 0), AttackLine, "attack -10,-4, 9,5");
+    row("top left", QPoint(40, -40), QPoint(42, -38), BodyLine, "body 42,-38, 59,-11");
+    row("top", QPoint(50, -40), QPoint(90, -50), BodyLine, "body 40,-50, 59,-11");
+    row("left", QPoint(40, -25), QPoint(30, 40), BodyLine, "body 30,-40, 59,-11");
+    row("top right", QPoint(59, -40), QPoint(64, -41), BodyLine, "body 40,-41, 64,-11");
+    row("bottom left", QPoint(40, -11), QPoint(38, -5), BodyLine, "body 38,-40, 59,-5");
+    row("bottom", QPoint(50, -11), QPoint(90, 4), BodyLine, "body 40,-40, 59,4");
+    row("bottom right", QPoint(59, -11), QPoint(63, -5), BodyLine, "body 40,-40, 63,-5");
+    row("right", QPoint(59, -25), QPoint(69, 9), BodyLine, "body 40,-40, 69,-11");
+    row("turned over", QPoint(40, -25), QPoint(65, -25), BodyLine, "body 59,-40, 65,-11");
+    row("nothing", Empty, QPoint(-30, 30), none, "");
+    row("a box back and forth", Body, Body, none, "");
 }
 
 /// At another zoom and origin than those at the start, too.
 void TestStage::dragsBecomeText()
 {
-    QFETCH(QPoint, from);
-    QFETCH(QPoint, to);
-    QFETCH(int, line);
-    QFETCH(QString, text);
+    const auto [from, to, line, text] = fetched<QPoint, QPoint, int, QString>();
     for (const int zoom : {5, 11}) {
         m->stage()->setZoomLevel(static_cast<unsigned char>(zoom));
         m->stage()->setOrigin({301, 321});
@@ -152,46 +125,6 @@ void TestStage::dragsBecomeText()
         undoesOnce(before);
         m->trigger("undo");
         QCoreApplication::processEvents();
-    }
-}
-
-void TestStage::boxesAreDrawn_data()
-{
-    QTest::addColumn<QByteArray>("action");
-    QTest::addColumn<QPoint>("to");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QString>("text");
-    const QByteArray attack("anim_box_add_attack");
-    const QByteArray body("anim_box_add_collision");
-    QTest::newRow("attack") << attack << QPoint(120, 30) << 3 << "attack 100,10, 120,30";
-    QTest::newRow("body") << body << QPoint(120, 30) << 3 << "body 100,10, 120,30";
-    QTest::newRow("to the top left") << body << QPoint(90, 0) << 3 << "body 90,0, 100,10";
-    QTest::newRow("a click") << body << QPoint(100, 10) << -1 << "";
-}
-
-void TestStage::boxesAreDrawn()
-{
-    QFETCH(QByteArray, action);
-    QFETCH(QPoint, to);
-    QFETCH(int, line);
-    QFETCH(QString, text);
-    const QStringList before = m->lines();
-    m->trigger(action.constData());
-    QVERIFY(m->fixture.action(action.constData())->isChecked());
-    m->drag({100, 10}, to);
-    if (line < 0) {
-        QCOMPARE(m->lines(), before);
-    } else {
-        QStringList expected = before;
-        expected.insert(line, text);
-        QCOMPARE(m->lines(), expected);
-    }
-    // The right button ends it, and leaves the new box selected.
-    QTest::mouseClick(m->widget(), Qt::RightButton, {}, m->at(Empty));
-    QVERIFY(!m->fixture.action(action.constData())->isChecked());
-    QCOMPARE(m->stage()->selectedContactBoxes().size(), line < 0 ? 0 : 1);
-    if (line >= 0) {
-        undoesOnce(before);
     }
 }
 
@@ -216,32 +149,6 @@ void TestStage::modesTellTheSelection()
     }
 }
 
-void TestStage::boxesGo()
-{
-    const QStringList before = m->lines();
-    QVERIFY(!m->fixture.action("delete")->isEnabled());
-    m->click(Body);
-    m->click(Attack, Qt::ShiftModifier);
-    QCOMPARE(m->stage()->selectedContactBoxes().size(), 2);
-    QCoreApplication::processEvents();
-    QVERIFY(m->fixture.action("delete")->isEnabled());
-    m->drag(Body, Body + QPoint(1, 2));
-    QStringList expected = before;
-    expected[BodyLine] = "body 41,-38, 60,-9";
-    QCOMPARE(m->lines(), expected);
-    m->trigger("undo");
-    QCOMPARE(m->lines(), before);
-
-    m->click(Empty);
-    m->click(Body);
-    m->click(Attack, Qt::ShiftModifier);
-    QTest::keyClick(m->widget(), Qt::Key_Delete);
-    expected = before;
-    expected.erase(expected.begin() + BodyLine, expected.begin() + AttackLine + 1);
-    QCOMPARE(m->lines(), expected);
-    undoesOnce(before);
-}
-
 void TestStage::keysMoveBoxes()
 {
     const QStringList before = m->lines();
@@ -264,23 +171,20 @@ void TestStage::keysMoveBoxes()
 
 void TestStage::colourIsCaptured_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QPoint>("place");
-    QTest::addColumn<int>("column");  // of the picture, -1 beside it
-    QTest::newRow("plain") << FrameLine << QPoint(5 - 40 + 13, -30) << 13;
-    QTest::newRow("first column") << FrameLine << QPoint(5 - 40, -30) << 0;
-    QTest::newRow("last column") << FrameLine << QPoint(5 - 40 + 31, -30) << 31;
-    QTest::newRow("mirrored, first column") << FlippedLine << QPoint(38, -20) << 1;
-    QTest::newRow("mirrored, last column") << FlippedLine << QPoint(9, -20) << 30;
-    QTest::newRow("scaled") << ScaledLine << QPoint(-80 + 2 * 20 + 1, -30) << 20;
-    QTest::newRow("beside") << FrameLine << QPoint(5, 5) << -1;
+    // `column`: of the picture, -1 beside it
+    columns<int, QPoint, int>("line", "place", "column");
+    row("plain", FrameLine, QPoint(5 - 40 + 13, -30), 13);
+    row("first column", FrameLine, QPoint(5 - 40, -30), 0);
+    row("last column", FrameLine, QPoint(5 - 40 + 31, -30), 31);
+    row("mirrored, first column", FlippedLine, QPoint(38, -20), 1);
+    row("mirrored, last column", FlippedLine, QPoint(9, -20), 30);
+    row("scaled", ScaledLine, QPoint(-80 + 2 * 20 + 1, -30), 20);
+    row("beside", FrameLine, QPoint(5, 5), -1);
 }
 
 void TestStage::colourIsCaptured()
 {
-    QFETCH(int, line);
-    QFETCH(QPoint, place);
-    QFETCH(int, column);
+    const auto [line, place, column] = fetched<int, QPoint, int>();
     m->goTo(line);
     m->trigger("stage_capture");
     const QStringList before = m->lines();
@@ -330,27 +234,6 @@ void TestStage::jumpsShowTheFirstFrame()
     QCOMPARE(m->editor()->frameIndex(), 0);
 }
 
-void TestStage::scrubbingLeadsTheText()
-{
-    Zorv::TimeLineWidget* line = m->timeLine();
-    line->setFocus();
-    const struct
-    {
-        unsigned tick;
-        int cursor;
-    } rows[] = {{5, FlippedLine}, {9, ScaledLine}, {0, FrameLine}};
-    for (const auto& row : rows) {
-        line->setCurrentTick(row.tick);
-        QCoreApplication::processEvents();
-        QCOMPARE(m->cursorLine(), row.cursor);
-    }
-    m->trigger("anim_next_frame");
-    QCOMPARE(m->cursorLine(), FlippedLine);
-    QTest::keyClick(m->widget(), Qt::Key_PageUp);
-    QTest::keyClick(m->widget(), Qt::Key_PageUp);
-    QCOMPARE(m->cursorLine(), ScaledLine);
-}
-
 /// Round and round, and once to a frame that stays.
 void TestStage::plays()
 {
@@ -377,149 +260,6 @@ void TestStage::plays()
     QCOMPARE(m->lines(), before);
 }
 
-void TestStage::closesWhileItPlays_data()
-{
-    QTest::addColumn<QByteArray>("action");
-    for (const char* action : {"close_text", "close_project", "close_folder", "view_stage"}) {
-        QTest::newRow(action) << QByteArray(action);
-    }
-}
-
-void TestStage::closesWhileItPlays()
-{
-    QFETCH(QByteArray, action);
-    m->press(m->at(SpriteMiddle));
-    m->trigger("anim_play");
-    m->move(m->at(Body));
-    QTRY_VERIFY(m->timeLine()->currentTick() > 0);
-    m->trigger(action.constData());
-    QVERIFY(!m->editor()->isPlaying());
-    if (m->view()->isVisible()) {
-        m->move(m->at(Empty));
-        m->release(m->at(Empty));
-    }
-    QTest::qWait(50);
-    QVERIFY(!m->editor()->isPlaying());
-}
-
-void TestStage::editsDuringADrag_data()
-{
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<int>("change");
-    const char* const changes[] = {"the frame goes", "the box goes", "all goes", "sprites go"};
-    for (int i = 0; i < 4; ++i) {
-        QTest::addRow("sprite, %s", changes[i]) << SpriteMiddle << i;
-        QTest::addRow("box, %s", changes[i]) << Body << i;
-        QTest::addRow("sizer, %s", changes[i]) << QPoint(59, -11) << i;
-    }
-}
-
-/// What the person holds may go: whatever the rest of the drag does, stage and text agree, and all
-/// can be undone.
-void TestStage::editsDuringADrag()
-{
-    QFETCH(QPoint, from);
-    QFETCH(int, change);
-    const QStringList before = m->lines();
-    m->click(Body);
-    m->press(m->at(from));
-    m->move(m->at(from + QPoint(3, 3)));
-    QTextCursor cursor(m->document()->findBlockByNumber(change == 1 ? BodyLine : FrameLine));
-    if (change < 2) {
-        cursor.select(QTextCursor::BlockUnderCursor);
-        cursor.removeSelectedText();
-    } else if (change == 2) {
-        cursor.select(QTextCursor::Document);
-        cursor.removeSelectedText();
-    } else {
-        m->window()->spritePanel()->sprites()->removeSprites({0, 1});
-    }
-    m->move(m->at(from + QPoint(6, 6)));
-    QTest::qWait(1);
-    m->move(m->at(from + QPoint(9, 9)));
-    m->release(m->at(from + QPoint(9, 9)));
-    QCoreApplication::processEvents();
-    QRandomGenerator random(1);
-    QCOMPARE(m->fault(random), QString());
-    while (m->fixture.action("undo")->isEnabled()) {
-        m->trigger("undo");
-        QCoreApplication::processEvents();
-    }
-    QCOMPARE(m->lines(), before);
-}
-
-void TestStage::partsAreShownAndHidden_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    for (const char* name :
-         {"view_main_cross", "view_secondary_cross", "view_extra_cross", "view_rulers",
-          "view_guide_lines", "view_attack_box", "view_collision_box"}) {
-        QTest::newRow(name) << QByteArray(name);
-    }
-}
-
-/// What a switch hides is not on the picture.
-void TestStage::partsAreShownAndHidden()
-{
-    QFETCH(QByteArray, name);
-    const QImage before = m->widget()->grabFramebuffer();
-    m->trigger(name.constData());
-    QVERIFY(m->widget()->grabFramebuffer() != before);
-    m->trigger(name.constData());
-    QCOMPARE(m->widget()->grabFramebuffer(), before);
-}
-
-/// The fields of the onion skin stand in the menu of its button.
-void TestStage::onionSkinIsSwitched()
-{
-    auto* box = m->window()->findChild<QCheckBox*>(QStringLiteral("anim_onion_skin"));
-    QVERIFY(box && box->isEnabled());
-    const QImage before = m->widget()->grabFramebuffer();
-    m->trigger("anim_onion_skin");
-    QVERIFY(box->isChecked());
-    QVERIFY(m->widget()->grabFramebuffer() != before);
-    box->click();
-    QVERIFY(!m->fixture.action("anim_onion_skin")->isChecked());
-    QCOMPARE(m->widget()->grabFramebuffer(), before);
-}
-
-void TestStage::settingsAreApplied()
-{
-    const auto set = [this](const char* key, const QVariant& value) {
-        m->fixture.host.setOption(QLatin1String(key), value);
-    };
-    set("back_start", QColor(10, 200, 30));
-    set("back_end", QColor(10, 200, 30));
-    set("attackbox", QColor(1, 2, 3));
-    set("box_opacity", 0.0);
-    set("sprite_over_guides", true);
-    set("zoom_mode", 1);
-    set("crosshair_type", 99);
-    set("background_type", -5);
-    m->window()->reconfig();
-    m->stage()->setOrigin({60, 150});
-    QCOMPARE(colourAt({30, 5}), QColor(10, 200, 30));
-    QCOMPARE(colourAt({70, -36}), QColor(1, 2, 3));
-    QCOMPARE(colourAt(Attack), QColor(10, 200, 30));
-    QVERIFY(m->stage()->spriteOverGuides());
-    QCOMPARE(m->stage()->zoom(), 4.0F);
-    // A picture of the person's own, at its place.
-    QImage picture(10, 10, QImage::Format_RGB32);
-    picture.fill(QColor(200, 0, 200));
-    const QString file = m->folder.filePath("ground.png");
-    QVERIFY(picture.save(file));
-    set("background_type", 2);
-    set("background_file", file);
-    set("background_x", 20);
-    set("background_y", 5);
-    m->window()->reconfig();
-    QCOMPARE(colourAt({21, 6}), QColor(200, 0, 200));
-    QCOMPARE(colourAt({31, 6}), QColor(10, 200, 30));
-    QFile::remove(file);
-    m->window()->reconfig();
-    QCOMPARE(colourAt({21, 6}), QColor(10, 200, 30));
-}
-
 /// One of two places stays where it is, by keys as by the wheel.
 void TestStage::zoomsAboutAPlace()
 {
@@ -537,27 +277,6 @@ void TestStage::zoomsAboutAPlace()
         QVERIFY((m->at(place) - before).manhattanLength() <= 2);
         QVERIFY(m->stage()->zoom() < 2);
     }
-}
-
-void TestStage::wheelZooms()
-{
-    Zorv::GraphicsRenderer* stage = m->stage();
-    const auto turn = [this](int delta) {
-        const QPoint place = m->widget()->rect().center();
-        QWheelEvent event(place, m->widget()->mapToGlobal(place), {}, {0, delta}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(m->widget(), &event);
-    };
-    stage->setZoomLevel(3);
-    for (int i = 0; i < 7; ++i) {
-        turn(40);
-    }
-    QCOMPARE(int(stage->zoomLevel()), 5);
-    turn(-160);
-    QCOMPARE(int(stage->zoomLevel()), 4);
-    stage->setZoomLevel(11);  // by keys alone
-    turn(120);
-    QCOMPARE(int(stage->zoomLevel()), 11);
 }
 
 /// Wherever it stands, at every step, and to and fro comes out at the same place.

@@ -10,6 +10,7 @@
 #include "family/stage/framecomposer.h"
 #include "stillframe.h"
 #include "support/gltest.h"
+#include "support/testtable.h"
 
 #include <zorv/graphics/renderwidget.h>
 
@@ -260,8 +261,7 @@ void TestStagePicture::samples()
 
 void TestStagePicture::randomPoses_data()
 {
-    QTest::addColumn<int>("level");
-    QTest::addColumn<double>("zoom");
+    columns<int, double>("level", "zoom");
     QTest::newRow("a quarter") << 0 << 0.25;
     QTest::newRow("actual size") << 3 << 1.0;
     QTest::newRow("one and a half") << 4 << 1.5;
@@ -270,8 +270,7 @@ void TestStagePicture::randomPoses_data()
 
 void TestStagePicture::randomPoses()
 {
-    QFETCH(int, level);
-    QFETCH(double, zoom);
+    const auto [level, zoom] = fetched<int, double>();
     qInfo("seed %u", Seed);
     QRandomGenerator random(Seed);
     SpriteFile sprites;

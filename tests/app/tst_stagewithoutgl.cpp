@@ -26,7 +26,6 @@ private:
     App::StageCommands* stage() const { return m_fixture->window->stage(); }
 
     TemporaryGame m_game;
-    QTemporaryDir m_folder;
     std::unique_ptr<WindowFixture> m_fixture;
 };
 
@@ -36,7 +35,7 @@ void TestStageWithoutGl::initTestCase()
                                               "body 0,0, 9,9\r\n"
                                               "frame 0,0 delay 3\r\n"
                                               "frame 0,1 delay -1\r\n");
-    m_fixture = std::make_unique<WindowFixture>(m_folder.filePath("settings.ini"));
+    m_fixture = std::make_unique<WindowFixture>();
     m_fixture->open(m_game, m_game.ryn(), m_game.animations());
     m_fixture->goTo(1);
     QCoreApplication::processEvents();

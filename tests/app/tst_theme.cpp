@@ -1,6 +1,7 @@
 #include "app/look/icon.h"
 #include "app/look/theme.h"
 #include "app/main/application.h"
+#include "support/testtable.h"
 #include "windowfixture.h"
 
 #include <QApplication>
@@ -73,30 +74,16 @@ class TestTheme : public QObject
     Q_OBJECT
 
 private slots:
-    void measuresContrast();
     void textsCanBeRead_data();
     void textsCanBeRead();
     void iconsStandOut_data();
     void iconsStandOut();
-    void iconsAreSharp_data();
-    void iconsAreSharp();
-    void kindOfSetting();
     void changesWhileRunning();
-    void picturesTakeThemes();
 };
-
-/// The measure itself, at values that the guidelines give.
-void TestTheme::measuresContrast()
-{
-    QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
-    QCOMPARE(contrast(Qt::white, Qt::white), 1.0);
-    QVERIFY(std::abs(contrast(QColor(0x76, 0x76, 0x76), Qt::white) - 4.54) < 0.01);
-}
 
 void TestTheme::textsCanBeRead_data()
 {
-    QTest::addColumn<QColor>("text");
-    QTest::addColumn<QColor>("ground");
+    columns<QColor, QColor>("text", "ground");
     using P = QPalette;
     const std::pair<P::ColorRole, P::ColorRole> pairs[] = {
         {P::WindowText, P::Window},
@@ -143,8 +130,7 @@ void TestTheme::textsCanBeRead_data()
 
 void TestTheme::textsCanBeRead()
 {
-    QFETCH(QColor, text);
-    QFETCH(QColor, ground);
+    const auto [text, ground] = fetched<QColor, QColor>();
     const double ratio = contrast(text, ground);
     QVERIFY2(ratio >= TextContrast,
              qPrintable(QStringLiteral("%1 on %2: %3").arg(text.name(), ground.name()).arg(ratio)));
@@ -189,50 +175,11 @@ void TestTheme::iconsStandOut()
     }
 }
 
-void TestTheme::iconsAreSharp_data()
-{
-    QTest::addColumn<QString>("scale");
-    QTest::addColumn<int>("pixels");
-    QTest::newRow("1x") << QString() << 16;
-    QTest::newRow("1.5x") << QStringLiteral("@1.5x") << 24;
-    QTest::newRow("2x") << QStringLiteral("@2x") << 32;
-}
-
-/// At each scale an icon is drawn from the picture that was made for it, pixel by pixel.
-void TestTheme::iconsAreSharp()
-{
-    QFETCH(QString, scale);
-    QFETCH(int, pixels);
-    for (const char* name : {":/icons/icons/save", ":/zorvl_icons/icons/code"}) {
-        const QString stem = QLatin1String(name);
-        QImage made(stem + scale + QStringLiteral(".png"));
-        QCOMPARE(made.size(), QSize(pixels, pixels));
-        made.setDevicePixelRatio(1);
-        QImage shown =
-            App::icon(stem + QStringLiteral(".png")).pixmap(QSize(pixels, pixels)).toImage();
-        shown.setDevicePixelRatio(1);
-        QCOMPARE(shown.convertToFormat(QImage::Format_ARGB32_Premultiplied),
-                 made.convertToFormat(QImage::Format_ARGB32_Premultiplied));
-    }
-}
-
-void TestTheme::kindOfSetting()
-{
-    QCOMPARE(Theme::kindOf(QStringLiteral("light")), Theme::Light);
-    QCOMPARE(Theme::kindOf(QStringLiteral("dark")), Theme::Dark);
-    // The system is light here, whatever was chosen in between.
-    Theme::use(Theme::Dark);
-    QCOMPARE(Theme::kindOf(QString()), Theme::Light);
-    QCOMPARE(Theme::kindOf(QStringLiteral("pink")), Theme::Light);
-    Theme::use(Theme::Light);
-}
-
 /// A window with a text that is open already changes as a whole, and back to the last pixel.
 void TestTheme::changesWhileRunning()
 {
-    const QTemporaryDir folder;
     const TemporaryGame game;
-    WindowFixture fixture(folder.filePath("settings.ini"));
+    WindowFixture fixture;
     fixture.open(game, game.oda());
     const auto look = [&](const char* theme) {
         fixture.host.setOption(QStringLiteral("theme"), QLatin1String(theme));
@@ -268,19 +215,6 @@ void TestTheme::changesWhileRunning()
     fixture.host.setOption(QStringLiteral("theme"), QStringLiteral("light"));
     fixture.window->reconfig();
     QTRY_COMPARE(fixture.window->grab().toImage(), light);
-}
-
-void TestTheme::picturesTakeThemes()
-{
-    const QTemporaryDir folder;
-    const TemporaryGame game;
-    const QString file = folder.filePath("picture.png");
-    for (const char* theme : {"dark", "light"}) {
-        QCOMPARE(App::runWindow(*qApp, {"--screenshot", file, "--theme", theme, game.root()}), 0);
-        QCOMPARE(isBright(QImage(file)), qstrcmp(theme, "light") == 0);
-    }
-    QCOMPARE(App::runWindow(*qApp, {"--screenshot", file, "--theme"}), 2);
-    QCOMPARE(App::runWindow(*qApp, {"--theme", "dark"}), 2);
 }
 
 QTEST_MAIN(TestTheme)

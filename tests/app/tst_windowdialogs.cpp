@@ -1,4 +1,5 @@
 #include "app/dialogs/windowdialogs.h"
+#include "support/testtable.h"
 
 #include <QApplication>
 #include <QInputDialog>
@@ -21,7 +22,6 @@ private slots:
     void asksByButtons_data();
     void asksByButtons();
     void asksByAList();
-    void installsItself();
 
 private:
     static void whenOpen(const std::function<void(QWidget*)>& act);
@@ -39,9 +39,7 @@ void TestWindowDialogs::whenOpen(const std::function<void(QWidget*)>& act)
 
 void TestWindowDialogs::asksByButtons_data()
 {
-    QTest::addColumn<int>("preset");
-    QTest::addColumn<Qt::Key>("key");
-    QTest::addColumn<int>("expected");
+    columns<int, Qt::Key, int>("preset", "key", "expected");
     QTest::newRow("return, first") << 0 << Qt::Key_Return << 0;
     QTest::newRow("return, second") << 1 << Qt::Key_Return << 1;
     QTest::newRow("escape") << 1 << Qt::Key_Escape << -1;
@@ -79,16 +77,6 @@ void TestWindowDialogs::asksByAList()
     whenOpen([](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
     QCOMPARE(dialogs.choose(QStringLiteral("Title"), QStringLiteral("Text"), names, 1), -1);
     QCOMPARE(dialogs.choose(QStringLiteral("Title"), QStringLiteral("Text"), {}, 0), -1);
-}
-
-void TestWindowDialogs::installsItself()
-{
-    Zorv::Dialogs* standard = Zorv::Dialogs::instance();
-    {
-        WindowDialogs dialogs;
-        QCOMPARE(Zorv::Dialogs::instance(), &dialogs);
-    }
-    QCOMPARE(Zorv::Dialogs::instance(), standard);
 }
 
 QTEST_MAIN(TestWindowDialogs)

@@ -1,6 +1,8 @@
 #include "app/assets/soundpanel.h"
 #include "app/assets/spritepanel.h"
 #include "app/changes/comparedialog.h"
+#include "support/testsounds.h"
+#include "support/testtable.h"
 #include "windowfixture.h"
 
 #include <zorv/animation/thumbnails/spritelist.h>
@@ -66,23 +68,19 @@ private:
     void openLegacy();
     MainWindow* window() const { return m->window.get(); }
 
-    std::unique_ptr<QTemporaryDir> m_settings;
     std::unique_ptr<TemporaryGame> m_game;
     std::unique_ptr<WindowFixture> m;
 };
 
 void TestWindowFiles::init()
 {
-    m_settings = std::make_unique<QTemporaryDir>();
     m_game = std::make_unique<TemporaryGame>();
-    m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
+    m = std::make_unique<WindowFixture>();
 }
 
 void TestWindowFiles::asksWhenAFileChanges_data()
 {
-    QTest::addColumn<bool>("byRename");
-    QTest::addColumn<bool>("isModified");
-    QTest::addColumn<bool>("isReloaded");
+    columns<bool, bool, bool>("byRename", "isModified", "isReloaded");
     for (const bool isReloaded : {true, false}) {
         const char* answer = isReloaded ? "reload" : "keep";
         QTest::addRow("written, %s", answer) << false << true << isReloaded;
@@ -136,10 +134,7 @@ void TestWindowFiles::asksWhenAFileChanges()
 
 void TestWindowFiles::asksBeforeWritingOverAFile_data()
 {
-    QTest::addColumn<bool>("wasModified");
-    QTest::addColumn<QList<int>>("answers");
-    QTest::addColumn<bool>("isWritten");
-    QTest::addColumn<bool>("isMine");
+    columns<bool, QList<int>, bool, bool>("wasModified", "answers", "isWritten", "isMine");
     for (const bool wasModified : {true, false}) {
         const char* when = wasModified ? "before" : "after";
         QTest::addRow("changed here %s, write", when)
@@ -156,10 +151,7 @@ void TestWindowFiles::asksBeforeWritingOverAFile_data()
 // Once the person has kept what is open here, saving does not lose the rest without a word.
 void TestWindowFiles::asksBeforeWritingOverAFile()
 {
-    QFETCH(bool, wasModified);
-    QFETCH(QList<int>, answers);
-    QFETCH(bool, isWritten);
-    QFETCH(bool, isMine);
+    const auto [wasModified, answers, isWritten, isMine] = fetched<bool, QList<int>, bool, bool>();
     const char* const name = "characters/ryn/ryn.character";
     m->open(*m_game, m_game->ryn());
     const auto typeMine = [this] { m->type(QStringLiteral("#mine ")); };
@@ -199,8 +191,7 @@ void TestWindowFiles::asksBeforeWritingOverAFile()
 
 void TestWindowFiles::asksAboutAFileThatWentAway_data()
 {
-    QTest::addColumn<QString>("what");
-    QTest::addColumn<int>("answer");
+    columns<QString, int>("what", "answer");
     for (const char* what : {"close_text", "close_project", "close_folder", "quit"}) {
         QTest::addRow("%s, save", what) << what << 0;
         QTest::addRow("%s, let go", what) << what << 1;
@@ -210,8 +201,7 @@ void TestWindowFiles::asksAboutAFileThatWentAway_data()
 
 void TestWindowFiles::asksAboutAFileThatWentAway()
 {
-    QFETCH(QString, what);
-    QFETCH(int, answer);
+    const auto [what, answer] = fetched<QString, int>();
     const char* const name = "characters/ryn/basic.anim";
     m->open(*m_game, m_game->ryn(), m_game->animations());
     const QByteArray before = m_game->read(name);
@@ -228,7 +218,7 @@ void TestWindowFiles::asksAboutAFileThatWentAway()
     m->action(qPrintable(what))->trigger();
     QCOMPARE(m->dialogs.count(QStringLiteral("choose")), 1);
     QVERIFY(m->dialogs.shown.last().text.contains(QLatin1String("no longer on the disk")));
-    QCOMPARE(m_game->read(name), answer == 0 ? before : QByteArray());
+    QCOMPARE(m_game->read(name), answer == 0 ? before : QByteArray("(not there)"));
     const App::GameSession* session = window()->session();
     const bool isOpen = what == QLatin1String("close_text")      ? bar->count() == 2
                         : what == QLatin1String("close_project") ? !session->projects().isEmpty()
@@ -266,12 +256,7 @@ void TestWindowFiles::showsUnsavedSpritesAndSounds()
     image.fill(Qt::red);
     project->sprites()->insertSprite(0, {1, 1}, {}, image);
     compare(true, false);
-    Zorv::SoundSample sample;
-    sample.channels = 1;
-    sample.bits = 8;
-    sample.sampleRate = 8000;
-    sample.data = QByteArray(20, 'x');
-    project->sounds()->add(0, {}, sample);
+    project->sounds()->add(0, {}, soundOf(QByteArray(20, 'x')));
     compare(true, true);
     project->sprites()->undo();
     compare(false, true);
@@ -371,28 +356,18 @@ void TestWindowFiles::openLegacy()
 
 void TestWindowFiles::changesTheEncoding_data()
 {
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<bool>("isModified");
-    QTest::addColumn<QString>("codec");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("read again") << int(ReadAgain) << false << "ISO-8859-1"
-                                << QString::fromUtf8("\"caf\xC3\x83\xC2\xA9\"");
-    QTest::newRow("keep") << int(KeepText) << false << "ISO-8859-1"
-                          << QString::fromUtf8("\"caf\xC3\xA9\"");
-    QTest::newRow("give up") << int(GiveUp) << false << "UTF-8"
-                             << QString::fromUtf8("\"caf\xC3\xA9\"");
-    QTest::newRow("keep unsaved") << int(KeepText) << true << "ISO-8859-1"
-                                  << QString::fromUtf8("\"caf\xC3\xA9\"");
-    QTest::newRow("give up unsaved")
-        << int(GiveUp) << true << "UTF-8" << QString::fromUtf8("\"caf\xC3\xA9\"");
+    columns<int, bool, QString, QString>("answer", "isModified", "codec", "text");
+    row("read again", int(ReadAgain), false, "ISO-8859-1",
+        QString::fromUtf8("\"caf\xC3\x83\xC2\xA9\""));
+    row("keep", int(KeepText), false, "ISO-8859-1", QString::fromUtf8("\"caf\xC3\xA9\""));
+    row("give up", int(GiveUp), false, "UTF-8", QString::fromUtf8("\"caf\xC3\xA9\""));
+    row("keep unsaved", int(KeepText), true, "ISO-8859-1", QString::fromUtf8("\"caf\xC3\xA9\""));
+    row("give up unsaved", int(GiveUp), true, "UTF-8", QString::fromUtf8("\"caf\xC3\xA9\""));
 }
 
 void TestWindowFiles::changesTheEncoding()
 {
-    QFETCH(int, answer);
-    QFETCH(bool, isModified);
-    QFETCH(QString, codec);
-    QFETCH(QString, text);
+    const auto [answer, isModified, codec, text] = fetched<int, bool, QString, QString>();
     openLegacy();
     if (isModified) {
         m->type(QStringLiteral("# mine"));

@@ -29,15 +29,13 @@ private:
     }
 
     std::unique_ptr<TemporaryGame> m_game;
-    std::unique_ptr<QTemporaryDir> m_settings;
     std::unique_ptr<WindowFixture> m;
 };
 
 void TestWindowHelp::init()
 {
     m_game = std::make_unique<TemporaryGame>();
-    m_settings = std::make_unique<QTemporaryDir>();
-    m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("settings.ini")));
+    m = std::make_unique<WindowFixture>();
     m->open(*m_game, m_game->ryn(), m_game->path(QStringLiteral("characters/ryn/moves.code")));
 }
 

@@ -7,6 +7,7 @@
 #include "app/stage/stagecommands.h"
 #include "app/stage/stageview.h"
 #include "family/nodes/animationnode.h"
+#include "support/testtable.h"
 
 #include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/animation/thumbnails/thumbnailseditor.h>
@@ -72,16 +73,14 @@ private:
     QString order() const;
     void openAnimations() { m->open(*m_game, m_game->ryn(), m_game->animations()); }
 
-    std::unique_ptr<QTemporaryDir> m_settings;
     std::unique_ptr<TemporaryGame> m_game;
     std::unique_ptr<WindowFixture> m;
 };
 
 void TestWindowPanels::init()
 {
-    m_settings = std::make_unique<QTemporaryDir>();
     m_game = std::make_unique<TemporaryGame>();
-    m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
+    m = std::make_unique<WindowFixture>();
 }
 
 /// The identifiers in the list.
@@ -243,30 +242,23 @@ void TestWindowPanels::jumpsToAnAnimation()
 
 void TestWindowPanels::changesAnimations_data()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("expected");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<int>("undoLine");
-    QTest::newRow("duplicate") << "anim_duplicate" << 0 << "1 4 2 3" << 1 << 4;
-    QTest::newRow("remove") << "anim_delete" << 1 << "1 3" << 1 << 4;
-    QTest::newRow("remove the last") << "anim_delete" << 2 << "1 2" << 1 << 7;
-    QTest::newRow("up") << "org_up" << 2 << "1 3 2" << 1 << 7;
-    QTest::newRow("to the top") << "org_top" << 2 << "3 1 2" << 0 << 7;
-    QTest::newRow("down") << "org_down" << 0 << "2 1 3" << 1 << 0;
-    QTest::newRow("to the bottom") << "org_bottom" << 0 << "2 3 1" << 2 << 0;
+    columns<QString, int, QString, int, int>("action", "row", "expected", "current", "undoLine");
+    row("duplicate", "anim_duplicate", 0, "1 4 2 3", 1, 4);
+    row("remove", "anim_delete", 1, "1 3", 1, 4);
+    row("remove the last", "anim_delete", 2, "1 2", 1, 7);
+    row("up", "org_up", 2, "1 3 2", 1, 7);
+    row("to the top", "org_top", 2, "3 1 2", 0, 7);
+    row("down", "org_down", 0, "2 1 3", 1, 0);
+    row("to the bottom", "org_bottom", 0, "2 3 1", 2, 0);
     // The last place is reached by what stands there going up.
-    QTest::newRow("down to the end") << "org_down10" << 1 << "1 3 2" << 2 << 7;
+    row("down to the end", "org_down10", 1, "1 3 2", 2, 7);
 }
 
 /// By the menu; one undo brings the old text back, and the cursor to the edit.
 void TestWindowPanels::changesAnimations()
 {
-    QFETCH(QString, action);
-    QFETCH(int, row);
-    QFETCH(QString, expected);
-    QFETCH(int, current);
-    QFETCH(int, undoLine);
+    const auto [action, row, expected, current, undoLine] =
+        fetched<QString, int, QString, int, int>();
     openAnimations();
     m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
     m->dialogs.textAnswers = QStringList(QStringLiteral("4"));
@@ -356,23 +348,19 @@ void TestWindowPanels::putsANewAnimationOnLinesOfItsOwn()
 
 void TestWindowPanels::dropsAnimations_data()
 {
-    QTest::addColumn<QVector<int>>("rows");
-    QTest::addColumn<int>("target");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("down") << QVector<int>{0} << 2 << "2 1 3 4 5";
-    QTest::newRow("behind the last") << QVector<int>{0} << 5 << "2 3 4 5 1";
-    QTest::newRow("to the front") << QVector<int>{4} << 0 << "5 1 2 3 4";
-    QTest::newRow("two together") << QVector<int>{1, 2} << 4 << "1 4 2 3 5";
-    QTest::newRow("from both sides") << QVector<int>{0, 4} << 2 << "2 1 5 3 4";
-    QTest::newRow("where it is") << QVector<int>{2} << 2 << "1 2 3 4 5";
+    columns<QVector<int>, int, QString>("rows", "target", "expected");
+    row("down", QVector<int>{0}, 2, "2 1 3 4 5");
+    row("behind the last", QVector<int>{0}, 5, "2 3 4 5 1");
+    row("to the front", QVector<int>{4}, 0, "5 1 2 3 4");
+    row("two together", QVector<int>{1, 2}, 4, "1 4 2 3 5");
+    row("from both sides", QVector<int>{0, 4}, 2, "2 1 5 3 4");
+    row("where it is", QVector<int>{2}, 2, "1 2 3 4 5");
 }
 
 /// Drags as the view makes them, dropped on the view.
 void TestWindowPanels::dropsAnimations()
 {
-    QFETCH(QVector<int>, rows);
-    QFETCH(int, target);
-    QFETCH(QString, expected);
+    const auto [rows, target, expected] = fetched<QVector<int>, int, QString>();
     QByteArray text;
     for (int i = 1; i <= 5; ++i) {
         text += "animation " + QByteArray::number(i) + "\r\nframe 0,0 loop\r\n\r\n";
@@ -421,22 +409,14 @@ void TestWindowPanels::refusesDropsFromElsewhere()
 
 void TestWindowPanels::hasMenusAtThePointer_data()
 {
-    QTest::addColumn<QString>("part");
-    QTest::addColumn<QString>("action");
-    QTest::newRow("stage") << "stage"
-                           << "anim_next_frame";
-    QTest::newRow("time line") << "time line"
-                               << "anim_play";
-    QTest::newRow("animations") << "animations"
-                                << "org_down";
-    QTest::newRow("game") << "game"
-                          << "close_project";
-    QTest::newRow("nodes") << "nodes"
-                           << "code_fold_all";
-    QTest::newRow("tabs") << "tabs"
-                          << "close_text";
-    QTest::newRow("sprites") << "sprites"
-                             << "sprite_add";
+    columns<QString, QString>("part", "action");
+    row("stage", "stage", "anim_next_frame");
+    row("time line", "time line", "anim_play");
+    row("animations", "animations", "org_down");
+    row("game", "game", "close_project");
+    row("nodes", "nodes", "code_fold_all");
+    row("tabs", "tabs", "close_text");
+    row("sprites", "sprites", "sprite_add");
 }
 
 /// By the mouse, and by both keys that mean it; of the actions of the window alone.

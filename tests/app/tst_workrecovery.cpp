@@ -3,6 +3,7 @@
 #include "family/assets/familysound.h"
 #include "operations/recovery/abandonedwork.h"
 #include "operations/recovery/recoverykeeper.h"
+#include "support/testsounds.h"
 #include "windowfixture.h"
 
 #include <zorv/media/soundsample.h>
@@ -35,26 +36,31 @@ QChar letter(int number)
     return QChar('a' + number % 26);
 }
 
-/// The window as another process: letters are typed into a text until it is
-/// killed. Prints how many were typed whenever all has been put aside.
-int typeUntilKilled(const QString& root, const QString& folder, const QString& file)
+/// The window as another process, which does something again and again until it is killed. Prints
+/// how often it did whenever all has been put aside.
+int workUntilKilled(const QString& root, const QString& folder, const QString& file,
+                    const std::function<void(WindowFixture&, int)>& work)
 {
     WindowFixture fixture(folder + "/child.ini");
     WorkRecovery recovery(fixture.window->services(), root);
     recovery.keeper()->setInterval(20);
     fixture.window->openPath(folder);
     fixture.window->openFile(file);
-    int typed = 0;
-    QObject::connect(recovery.keeper(), &Operations::RecoveryKeeper::copied, [&typed] {
-        printf("%d\n", typed);
+    int done = 0;
+    int copied = 0;
+    QObject::connect(recovery.keeper(), &Operations::RecoveryKeeper::copied, [&] {
+        copied = done;
+        printf("%d\n", copied);
         fflush(stdout);
     });
-    QTimer keys;
-    QObject::connect(&keys, &QTimer::timeout, [&] {
-        fixture.type(letter(typed));
-        ++typed;
+    // A person pauses. Without a pause a slow machine never has all of it put aside.
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        if (done < copied + MostAtOnce) {
+            work(fixture, done++);
+        }
     });
-    keys.start(2);
+    timer.start(2);
     return QApplication::exec();
 }
 
@@ -66,12 +72,8 @@ void addTo(const Family::FamilyProject* project, int number)
     image.fill(number % 2);
     Family::SpriteCollection* sprites = project->sprites();
     sprites->insertSprite(int(sprites->count()) - 1, {9, quint16(number)}, {number, 1}, image);
-    Zorv::SoundSample sample;
-    sample.channels = 1;
-    sample.bits = 8;
-    sample.sampleRate = 8000;
-    sample.data = QByteArray(100 + number, char(number));
-    project->sounds()->add(int(project->sounds()->count()), QString("9,%1").arg(number), sample);
+    project->sounds()->add(int(project->sounds()->count()), QString("9,%1").arg(number),
+                           soundOf(QByteArray(100 + number, char(number)), 1, 8));
 }
 
 /// At least so many have come back, each as it was, and as one step.
@@ -90,33 +92,6 @@ void compareAdded(Family::SpriteCollection* sprites, Family::SoundFile* sounds, 
     sounds->undo();
     QVERIFY(sprites->isEmpty() && !sprites->isModified());
     QVERIFY(sounds->isEmpty() && !sounds->isModified());
-}
-
-/// As `typeUntilKilled()`, with sprites and sounds.
-int addUntilKilled(const QString& root, const QString& folder, const QString& file)
-{
-    WindowFixture fixture(folder + "/child.ini");
-    WorkRecovery recovery(fixture.window->services(), root);
-    recovery.keeper()->setInterval(20);
-    fixture.window->openPath(folder);
-    fixture.window->openFile(file);
-    int added = 0;
-    int copied = 0;
-    QObject::connect(recovery.keeper(), &Operations::RecoveryKeeper::copied, [&] {
-        copied = added;
-        printf("%d\n", copied);
-        fflush(stdout);
-    });
-    // A person pauses. Without a pause a slow machine never has all of it put aside.
-    QTimer adding;
-    QObject::connect(&adding, &QTimer::timeout, [&] {
-        if (added < copied + MostAtOnce) {
-            addTo(fixture.window->currentProject(), added);
-            ++added;
-        }
-    });
-    adding.start(2);
-    return QApplication::exec();
 }
 
 /// Does something with the recovery dialog once it is open.
@@ -271,7 +246,7 @@ void TestWorkRecovery::killedWindowLosesFewSpritesAndSounds()
         WorkRecovery recovery(fixture.window->services(), root());
         whenAsked([](RecoveryDialog* dialog) {
             const QString diff = dialog->findChild<QPlainTextEdit*>()->toPlainText();
-            QVERIFY(diff.contains("+sprite 9,0 axis 0,1") || diff.contains("+sound 9,0 8000 Hz"));
+            QVERIFY(diff.contains("+sprite 9,0 axis 0,1") || diff.contains("+sound 9,0 22050 Hz"));
             clickButton(dialog, "Restore all");
         });
         recovery.offerAll();
@@ -407,10 +382,15 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == "type" && arguments.size() == 5) {
-        return typeUntilKilled(arguments[2], arguments[3], arguments[4]);
+        return workUntilKilled(
+            arguments[2], arguments[3], arguments[4],
+            [](WindowFixture& fixture, int number) { fixture.type(letter(number)); });
     }
     if (arguments.value(1) == "add" && arguments.size() == 5) {
-        return addUntilKilled(arguments[2], arguments[3], arguments[4]);
+        return workUntilKilled(arguments[2], arguments[3], arguments[4],
+                               [](WindowFixture& fixture, int number) {
+                                   addTo(fixture.window->currentProject(), number);
+                               });
     }
     TestWorkRecovery test;
     return QTest::qExec(&test, argc, argv);

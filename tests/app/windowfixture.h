@@ -18,6 +18,7 @@
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
+#include "support/folders.h"
 #include "support/planneddialogs.h"
 
 #include <zorv/core/filesystemarchive.h>
@@ -26,7 +27,6 @@
 #include <zorv/editors/organizer/organizereditor.h>
 
 #include <QDir>
-#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -90,17 +90,10 @@ public:
 
     void write(const QString& name, const QByteArray& data) const
     {
-        QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(data), qint64(data.size()));
+        QVERIFY(writeFile(path(name), data));
     }
 
-    QByteArray read(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray read(const QString& name) const { return readFile(path(name)); }
 
 private:
     QTemporaryDir m_dir;
@@ -110,10 +103,12 @@ private:
 class WindowFixture
 {
 public:
-    /// The settings are those of the file, so that a second fixture sees what
-    /// the first one kept.
-    explicit WindowFixture(const QString& settingsFile)
-        : settings(settingsFile, QSettings::IniFormat), host(&settings)
+    /// The settings are those of the file, so that a second fixture sees what the first one kept;
+    /// by default nobody else's.
+    explicit WindowFixture(const QString& settingsFile = {})
+        : settings(settingsFile.isEmpty() ? folder.filePath("settings.ini") : settingsFile,
+                   QSettings::IniFormat),
+          host(&settings)
     {
         Operations::startHost(&host);
         window = std::make_unique<App::MainWindow>();
@@ -123,6 +118,7 @@ public:
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
     }
 
+    QTemporaryDir folder;
     QSettings settings;
     App::WindowInterface host;
     PlannedDialogs dialogs;

@@ -1,5 +1,7 @@
 #include "cache/filecache.h"
 #include "cache/streamcachedata.h"
+#include "support/folders.h"
+#include "support/testtable.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -26,8 +28,6 @@ class TestFileCache : public QObject
 private slots:
     void init();
     void cleanup() { m_cache.clear(); }
-    void typeOfSuffix_data();
-    void typeOfSuffix();
     void filtersSeeTheGivenType();
     void checksumStaysWithoutAnother();
     void failedWriteKeepsTheFile();
@@ -37,7 +37,6 @@ private slots:
 
 private:
     QString write(const QString& name, const QByteArray& data);
-    QByteArray read(const QString& path);
     FileItem* add(const QString& path, void* filterData = nullptr);
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -52,51 +51,13 @@ void TestFileCache::init()
 
 QString TestFileCache::write(const QString& name, const QByteArray& data)
 {
-    QFile file(m_folder->filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(data);
-    return file.fileName();
-}
-
-QByteArray TestFileCache::read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QString path = m_folder->filePath(name);
+    return writeFile(path, data) ? path : QString();
 }
 
 FileItem* TestFileCache::add(const QString& path, void* filterData)
 {
     return static_cast<FileItem*>(m_cache.addItem(path.toLocal8Bit(), 99, filterData, 0));
-}
-
-void TestFileCache::typeOfSuffix_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("hasData");
-    QTest::addColumn<int>("type");
-    QTest::newRow("gif") << "a.gif" << false << 8;
-    QTest::newRow("GIF") << "a.b.GIF" << false << 8;
-    QTest::newRow("gif frame") << "a.gif" << true << 6;
-    QTest::newRow("png") << "a.Png" << false << 4;
-    QTest::newRow("pcx") << "a.pcx" << true << 5;
-    QTest::newRow("act") << "a.act" << true << 7;
-    QTest::newRow("other") << "a.gif.txt" << true << 0;
-    QTest::newRow("none") << "gif" << false << 0;
-}
-
-void TestFileCache::typeOfSuffix()
-{
-    QFETCH(QString, name);
-    QFETCH(bool, hasData);
-    QFETCH(int, type);
-    int data = 0;
-    FileItem* item = add(write(name, "12345"), hasData ? &data : nullptr);
-    QCOMPARE(int(item->type), type);
-    QCOMPARE(item->size, 5);
-    void* const expected = hasData     ? &data
-                           : type == 8 ? static_cast<void*>(&item->fileName)
-                                       : nullptr;
-    QCOMPARE(item->filterData, expected);
 }
 
 void TestFileCache::filtersSeeTheGivenType()
@@ -115,16 +76,16 @@ void TestFileCache::filtersSeeTheGivenType()
     QCOMPARE(record.toData(false), QByteArray("rold"));
 
     record.fromData("A", 0, nullptr, 0);
-    QCOMPARE(read(record.fileName()), QByteArray("wA"));
+    QCOMPARE(readFile(record.fileName()), QByteArray("wA"));
     record.fromData("B", 4, nullptr, 0);
-    QCOMPARE(read(record.fileName()), QByteArray("wB"));
+    QCOMPARE(readFile(record.fileName()), QByteArray("wB"));
     record.fromData("C", 5, nullptr, 0);
-    QCOMPARE(read(record.fileName()), QByteArray("wrC"));
+    QCOMPARE(readFile(record.fileName()), QByteArray("wrC"));
     QCOMPARE(calls, QStringList({"r 4 old", "w 0 A", "w 4 B", "r 5 C", "w 5 rC"}));
 
     Record silent(&m_cache, write("a.act", "old"));
     silent.fromData("D", 7, nullptr, 0);
-    QCOMPARE(read(silent.fileName()), QByteArray("D"));
+    QCOMPARE(readFile(silent.fileName()), QByteArray("D"));
     QCOMPARE(silent.toData(false), QByteArray());
 }
 
@@ -189,7 +150,7 @@ void TestFileCache::renameAndDelete()
     const QString to = m_folder->filePath("b.png");
     FileItem* item = add(from);
     m_cache.renameItem(item, to);
-    QCOMPARE(read(to), QByteArray("data"));
+    QCOMPARE(readFile(to), QByteArray("data"));
     m_cache.deleteItem(item);
     QVERIFY(!QFile::exists(to));
     m_cache.renameItem(item, from);

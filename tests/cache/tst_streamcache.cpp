@@ -4,6 +4,7 @@
 #include "cache/memorycache.h"
 #include "cache/streamcachedata.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -218,8 +219,7 @@ void TestStreamCache::randomOperations()
 
 void TestStreamCache::emptyItems_data()
 {
-    QTest::addColumn<StreamCache::Type>("type");
-    QTest::addColumn<int>("kind");
+    columns<StreamCache::Type, int>("type", "kind");
     for (const int kind : {Plain, Coded, Silent}) {
         QTest::addRow("memory %d", kind) << StreamCache::MemoryStore << kind;
         QTest::addRow("disk %d", kind) << StreamCache::DiskStore << kind;
@@ -229,8 +229,7 @@ void TestStreamCache::emptyItems_data()
 // Also where the filter would make something out of nothing.
 void TestStreamCache::emptyItems()
 {
-    QFETCH(StreamCache::Type, type);
-    QFETCH(int, kind);
+    const auto [type, kind] = fetched<StreamCache::Type, int>();
     const std::unique_ptr<StreamCache> cache(StreamCache::instance(type));
     const auto filter = [](unsigned char, void*, const QByteArray& from, QByteArray& to) {
         to = from + "!";
@@ -402,8 +401,7 @@ void TestStreamCache::noTemporaryFile()
 
 void TestStreamCache::defaultStore_data()
 {
-    QTest::addColumn<QVariant>("setting");
-    QTest::addColumn<StreamCache::Type>("type");
+    columns<QVariant, StreamCache::Type>("setting", "type");
     QTest::newRow("none") << QVariant() << StreamCache::MemoryStore;
     QTest::newRow("0") << QVariant(0) << StreamCache::MemoryStore;
     QTest::newRow("1") << QVariant(QStringLiteral("1")) << StreamCache::MemoryStore;
@@ -413,8 +411,7 @@ void TestStreamCache::defaultStore_data()
 
 void TestStreamCache::defaultStore()
 {
-    QFETCH(QVariant, setting);
-    QFETCH(StreamCache::Type, type);
+    const auto [setting, type] = fetched<QVariant, StreamCache::Type>();
     TestInterface host;
     host.options["cache_type"] = setting;
     const std::unique_ptr<StreamCache> cache(StreamCache::instance(StreamCache::DefaultCache));

@@ -1,3 +1,6 @@
+#include "support/folders.h"
+#include "support/testtable.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QElapsedTimer>
@@ -26,18 +29,6 @@ constexpr int Rounds = 50;
 constexpr int Kills = 20;
 constexpr int EndMilliseconds = 10000;  // less than a command waits for another one
 
-QByteArray readFile(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-}
-
-void writeFile(const QString& name, const QByteArray& bytes)
-{
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
 /// Everything below a folder, hidden files too.
 Contents contentsOf(const QString& folder)
 {
@@ -54,9 +45,7 @@ void putContents(const QString& folder, const Contents& all)
 {
     QDir(folder).removeRecursively();
     for (auto it = all.cbegin(); it != all.cend(); ++it) {
-        const QString name = folder + '/' + it.key();
-        QVERIFY(QDir().mkpath(QFileInfo(name).path()));
-        writeFile(name, it.value());
+        QVERIFY(writeFile(folder + '/' + it.key(), it.value()));
     }
 }
 
@@ -174,10 +163,9 @@ void TestPrograms::initTestCase()
 
 void TestPrograms::twoAtOnce_data()
 {
-    QTest::addColumn<QStringList>("first");
-    QTest::addColumn<QStringList>("second");
+    columns<QStringList, QStringList>("first", "second");
     const auto row = [](const char* name, const QStringList& first, const QStringList& second) {
-        QTest::newRow(name) << first << second;
+        ::row(name, first, second);
     };
     const QString character = "game/hero/hero.character", anim = "game/hero/hero.anim";
     row("set", {"set", character, "constants.life", "5"}, {"set", character, "info.name", "six"});
@@ -209,8 +197,7 @@ void TestPrograms::twoAtOnce_data()
 // What comes out is what comes out of one after the other.
 void TestPrograms::twoAtOnce()
 {
-    QFETCH(QStringList, first);
-    QFETCH(QStringList, second);
+    const auto [first, second] = fetched<QStringList, QStringList>();
     Contents wanted[2];
     for (int i = 0; i < 2; ++i) {
         putContents(at({}), m_start);
@@ -231,19 +218,16 @@ void TestPrograms::twoAtOnce()
 
 void TestPrograms::killed_data()
 {
-    QTest::addColumn<QStringList>("command");
-    QTest::addColumn<QString>("made");
-    QTest::newRow("set") << QStringList{"set", "game/hero/hero.character", "constants.life", "5"}
-                         << QString();
-    QTest::newRow("import") << QStringList{"sprites", "import", "a.sprites", "200-2.png"}
-                            << QString();
-    QTest::newRow("export") << QStringList{"sprites", "export", "a.sprites", "out/", "--force"}
-                            << QString("out/200-0.png");
-    QTest::newRow("convert") << QStringList{"image",     "convert",  "200-0.png",
-                                            "200-1.png", "--format", "bmp",
-                                            "--out",     "out/",     "--force"}
-                             << QString("out/200-0.bmp");
-    QTest::newRow("backup") << QStringList{"backup", "game"} << QString();
+    columns<QStringList, QString>("command", "made");
+    row("set", QStringList{"set", "game/hero/hero.character", "constants.life", "5"}, QString());
+    row("import", QStringList{"sprites", "import", "a.sprites", "200-2.png"}, QString());
+    row("export", QStringList{"sprites", "export", "a.sprites", "out/", "--force"},
+        QString("out/200-0.png"));
+    row("convert",
+        QStringList{"image", "convert", "200-0.png", "200-1.png", "--format", "bmp", "--out",
+                    "out/", "--force"},
+        QString("out/200-0.bmp"));
+    row("backup", QStringList{"backup", "game"}, QString());
 }
 
 // A file is what it was or what it becomes, and the next command clears up.
@@ -284,24 +268,19 @@ void TestPrograms::killed()
 
 void TestPrograms::endsBySignal_data()
 {
-    QTest::addColumn<QStringList>("command");
-    QTest::addColumn<QString>("waitsIn");
-    QTest::addColumn<int>("number");
+    columns<QStringList, QString, int>("command", "waitsIn", "number");
     const QStringList convert{"image", "convert", "200-0.png", "--format", "bmp", "--out", "out/"};
-    QTest::newRow("set") << QStringList{"set", "game/hero/hero.character", "constants.life", "5"}
-                         << "game/hero" << SIGTERM;
-    QTest::newRow("import") << QStringList{"sprites", "import", "folder", "200-2.png"} << "folder"
-                            << SIGHUP;
-    QTest::newRow("while it writes") << convert << "out" << SIGTERM;
-    QTest::newRow("while it writes, hangup") << convert << "out" << SIGHUP;
-    QTest::newRow("while it writes, Ctrl+C") << convert << "out" << SIGINT;
+    row("set", QStringList{"set", "game/hero/hero.character", "constants.life", "5"}, "game/hero",
+        SIGTERM);
+    row("import", QStringList{"sprites", "import", "folder", "200-2.png"}, "folder", SIGHUP);
+    row("while it writes", convert, "out", SIGTERM);
+    row("while it writes, hangup", convert, "out", SIGHUP);
+    row("while it writes, Ctrl+C", convert, "out", SIGINT);
 }
 
 void TestPrograms::endsBySignal()
 {
-    QFETCH(QStringList, command);
-    QFETCH(QString, waitsIn);
-    QFETCH(int, number);
+    const auto [command, waitsIn, number] = fetched<QStringList, QString, int>();
     putContents(at({}), m_start);
     QVERIFY(QDir().mkpath(at("out")));
     QFile folder;
@@ -326,18 +305,15 @@ void TestPrograms::refusesWhatIsNoFile_data()
 {
     QTest::addColumn<QStringList>("command");
     const QString pipe = "pipe";
-    QTest::newRow("list") << QStringList{"palette", "list", pipe};
-    QTest::newRow("list, device") << QStringList{"palette", "list", "/dev/zero"};
-    QTest::newRow("apply") << QStringList{"palette", "apply", pipe, "200-0.png", "--force"};
-    QTest::newRow("convert") << QStringList{"palette", "convert", pipe};
-    QTest::newRow("quantize") << QStringList{"image",     "quantize", "200-0.png",
-                                             "--palette", pipe,       "--force"};
-    QTest::newRow("import") << QStringList{"sprites",   "import",    "a.sprites",
-                                           "200-2.png", "--palette", pipe};
-    QTest::newRow("export") << QStringList{"sprites", "export",    "a.sprites",
-                                           "out/",    "--palette", pipe};
-    QTest::newRow("main file") << QStringList{"check", "pipe.character"};
-    QTest::newRow("sound list") << QStringList{"sound", "list", pipe};
+    row("list", QStringList{"palette", "list", pipe});
+    row("list, device", QStringList{"palette", "list", "/dev/zero"});
+    row("apply", QStringList{"palette", "apply", pipe, "200-0.png", "--force"});
+    row("convert", QStringList{"palette", "convert", pipe});
+    row("quantize", QStringList{"image", "quantize", "200-0.png", "--palette", pipe, "--force"});
+    row("import", QStringList{"sprites", "import", "a.sprites", "200-2.png", "--palette", pipe});
+    row("export", QStringList{"sprites", "export", "a.sprites", "out/", "--palette", pipe});
+    row("main file", QStringList{"check", "pipe.character"});
+    row("sound list", QStringList{"sound", "list", pipe});
 }
 
 void TestPrograms::refusesWhatIsNoFile()

@@ -1,5 +1,6 @@
 #include "support/laddergrammar.h"
 #include "support/testgrammar.h"
+#include "support/testtable.h"
 
 #include "core/messages.h"
 
@@ -75,22 +76,18 @@ private slots:
 
 void TestAnimationList::organize_data()
 {
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QStringList>("sorted");
-    QTest::newRow("numbers by value")
-        << QStringList{"10", "9", "100"} << QStringList{"9", "10", "100"};
-    QTest::newRow("texts without case")
-        << QStringList{"b", "A", "c", "B"} << QStringList{"A", "b", "B", "c"};
-    QTest::newRow("a text and a number stay") << QStringList{"a", "9"} << QStringList{"a", "9"};
-    QTest::newRow("one") << QStringList{"5"} << QStringList{"5"};
-    QTest::newRow("a number passes a text to reach a greater one")
-        << QStringList{"9", "a", "3"} << QStringList{"3", "9", "a"};
+    columns<QStringList, QStringList>("names", "sorted");
+    row("numbers by value", QStringList{"10", "9", "100"}, QStringList{"9", "10", "100"});
+    row("texts without case", QStringList{"b", "A", "c", "B"}, QStringList{"A", "b", "B", "c"});
+    row("a text and a number stay", QStringList{"a", "9"}, QStringList{"a", "9"});
+    row("one", QStringList{"5"}, QStringList{"5"});
+    row("a number passes a text to reach a greater one", QStringList{"9", "a", "3"},
+        QStringList{"3", "9", "a"});
 }
 
 void TestAnimationList::organize()
 {
-    QFETCH(QStringList, names);
-    QFETCH(QStringList, sorted);
+    const auto [names, sorted] = fetched<QStringList, QStringList>();
     Fixture fixture(withNames(names));
     fixture.list->autoOrganize();
     QCOMPARE(fixture.names(), sorted);
@@ -105,22 +102,17 @@ void TestAnimationList::organize()
 
 void TestAnimationList::moves_data()
 {
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<QStringList>("result");
-    QTest::newRow("up") << 2 << 0 << QStringList{"c", "a", "b", "d"};
-    QTest::newRow("down") << 0 << 2 << QStringList{"b", "c", "a", "d"};
-    QTest::newRow("to the last place: lands at the head")
-        << 0 << 3 << QStringList{"a", "b", "c", "d"};
-    QTest::newRow("the second to the last place") << 1 << 3 << QStringList{"b", "a", "c", "d"};
-    QTest::newRow("outside") << 4 << 0 << QStringList{"a", "b", "c", "d"};
+    columns<int, int, QStringList>("from", "to", "result");
+    row("up", 2, 0, QStringList{"c", "a", "b", "d"});
+    row("down", 0, 2, QStringList{"b", "c", "a", "d"});
+    row("to the last place: lands at the head", 0, 3, QStringList{"a", "b", "c", "d"});
+    row("the second to the last place", 1, 3, QStringList{"b", "a", "c", "d"});
+    row("outside", 4, 0, QStringList{"a", "b", "c", "d"});
 }
 
 void TestAnimationList::moves()
 {
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(QStringList, result);
+    const auto [from, to, result] = fetched<int, int, QStringList>();
     Fixture fixture(withNames({"a", "b", "c", "d"}));
     fixture.list->move(unsigned(from), unsigned(to));
     QCOMPARE(fixture.names(), result);
@@ -174,32 +166,20 @@ void TestAnimationList::extents()
 
 void TestAnimationList::insertsFrames_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<unsigned>("index");
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<int>("place");
+    columns<QString, unsigned, QString, int>("text", "index", "result", "place");
     const QString two = QStringLiteral("!a\n# box\n-f\n# one\n-g\n# end\n!b\n");
-    QTest::newRow("first") << two << 0U
-                           << QStringLiteral("!a\n-new\n# box\n-f\n# one\n-g\n# end\n!b\n") << 0;
-    QTest::newRow("between, in front of the lines of the next")
-        << two << 1U << QStringLiteral("!a\n# box\n-f\n-new\n# one\n-g\n# end\n!b\n") << 1;
-    QTest::newRow("behind") << two << 2U
-                            << QStringLiteral("!a\n# box\n-f\n# one\n-g\n-new\n# end\n!b\n") << 2;
-    QTest::newRow("far behind") << two << 99U
-                                << QStringLiteral("!a\n# box\n-f\n# one\n-g\n-new\n# end\n!b\n")
-                                << 2;
-    QTest::newRow("empty") << QStringLiteral("!a\n!b\n-h") << 3U
-                           << QStringLiteral("!a\n-new\n!b\n-h") << 0;
-    QTest::newRow("empty, without a line end")
-        << QStringLiteral("!a") << 0U << QStringLiteral("!a\n-new") << 0;
+    row("first", two, 0U, QStringLiteral("!a\n-new\n# box\n-f\n# one\n-g\n# end\n!b\n"), 0);
+    row("between, in front of the lines of the next", two, 1U,
+        QStringLiteral("!a\n# box\n-f\n-new\n# one\n-g\n# end\n!b\n"), 1);
+    row("behind", two, 2U, QStringLiteral("!a\n# box\n-f\n# one\n-g\n-new\n# end\n!b\n"), 2);
+    row("far behind", two, 99U, QStringLiteral("!a\n# box\n-f\n# one\n-g\n-new\n# end\n!b\n"), 2);
+    row("empty", QStringLiteral("!a\n!b\n-h"), 3U, QStringLiteral("!a\n-new\n!b\n-h"), 0);
+    row("empty, without a line end", QStringLiteral("!a"), 0U, QStringLiteral("!a\n-new"), 0);
 }
 
 void TestAnimationList::insertsFrames()
 {
-    QFETCH(QString, text);
-    QFETCH(unsigned, index);
-    QFETCH(QString, result);
-    QFETCH(int, place);
+    const auto [text, index, result, place] = fetched<QString, unsigned, QString, int>();
     for (const bool isInChange : {false, true}) {
         Fixture fixture(text);
         fixture.document.clearUndoRedoStacks();
@@ -224,8 +204,8 @@ void TestAnimationList::insertsFrames()
 void TestAnimationList::framesOfGrammarWithNewNodes_data()
 {
     QTest::addColumn<bool>("isReusing");
-    QTest::newRow("nodes are made anew") << false;
-    QTest::newRow("nodes are kept") << true;
+    row("nodes are made anew", false);
+    row("nodes are kept", true);
 }
 
 /// The line of the head is parsed again: with it the animation may become another node.
@@ -253,11 +233,11 @@ Q_DECLARE_METATYPE(Edit)
 
 void TestAnimationList::currentGoesAlong_data()
 {
-    QTest::addColumn<Edit>("edit");
-    QTest::addColumn<QString>("name");  // of the animation that is current then, empty for none
-    QTest::addColumn<int>("frame");     // that it remembers
+    // `name`: of the animation that is current then, empty for none
+    // `frame`: that it remembers
+    columns<Edit, QString, int>("edit", "name", "frame");
     const auto row = [](const char* title, const char* name, int frame, const Edit& edit) {
-        QTest::newRow(title) << edit << QString::fromLatin1(name) << frame;
+        ::row(title, edit, QString::fromLatin1(name), frame);
     };
     const auto typeInto = [](Fixture& f, int line, const QString& text) {
         QTextCursor cursor(f.document.findBlockByNumber(line));
@@ -291,9 +271,7 @@ void TestAnimationList::currentGoesAlong_data()
 /// A person comes back to the animation and to the frame that they left.
 void TestAnimationList::currentGoesAlong()
 {
-    QFETCH(Edit, edit);
-    QFETCH(QString, name);
-    QFETCH(int, frame);
+    const auto [edit, name, frame] = fetched<Edit, QString, int>();
     Fixture fixture(withNames({"a", "b", "c", "d"}));
     QCOMPARE(fixture.list->currentIndex(), 0);
     fixture.list->setCurrent(2);

@@ -1,6 +1,8 @@
+#include "support/folders.h"
 #include "support/planneddialogs.h"
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include "code/codecs/filetext.h"
 #include "code/codecs/textcodecs.h"
@@ -65,19 +67,6 @@ QVector<int> slowFolding(const GrammarDocument& document)
         indents.append(indent);
     }
     return indents;
-}
-
-QByteArray contents(const QString& fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-void store(const QString& fileName, const QByteArray& data)
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(data), qint64(data.size()));
 }
 
 /// Gives files of which less can be read than they seem to hold.
@@ -205,11 +194,8 @@ void TestCodeDocument::nodesInsideChange()
 
 void TestCodeDocument::insertAtEdges_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("line");  // of the node, -1 for none
-    QTest::addColumn<bool>("before");
-    QTest::addColumn<bool>("sameLine");
-    QTest::addColumn<QString>("result");
+    // `line`: of the node, -1 for none
+    columns<QString, int, bool, bool, QString>("text", "line", "before", "sameLine", "result");
     QTest::newRow("before the first line") << "[1]\na=1" << 0 << true << true << "new\n[1]\na=1";
     QTest::newRow("before another") << "[1]\na=1" << 1 << true << true << "[1]\nnew\na=1";
     QTest::newRow("before no node") << "[1]" << -1 << true << false << "new\n[1]";
@@ -226,11 +212,8 @@ void TestCodeDocument::insertAtEdges_data()
 
 void TestCodeDocument::insertAtEdges()
 {
-    QFETCH(QString, text);
-    QFETCH(int, line);
-    QFETCH(bool, before);
-    QFETCH(bool, sameLine);
-    QFETCH(QString, result);
+    const auto [text, line, before, sameLine, result] =
+        fetched<QString, int, bool, bool, QString>();
     for (const bool inside : {false, true}) {
         GrammarDocument document(text);
         const CodeNode* node = line < 0 ? nullptr : nodeOfLine(document, line);
@@ -308,9 +291,7 @@ void TestCodeDocument::switchesOff()
 
 void TestCodeDocument::roundTrip_data()
 {
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<bool>("faithful");
-    QTest::addColumn<bool>("foreignEnds");
+    columns<QByteArray, bool, bool>("data", "faithful", "foreignEnds");
     const QByteArray mark("\xEF\xBB\xBF");
     QTest::newRow("plain") << QByteArray("a=1\r\nb=2\r\n") << true << false;
     QTest::newRow("bare line feeds") << QByteArray("a\nb\r\nc\rd") << true << true;
@@ -334,13 +315,11 @@ void TestCodeDocument::roundTrip_data()
 
 void TestCodeDocument::roundTrip()
 {
-    QFETCH(QByteArray, data);
-    QFETCH(bool, faithful);
-    QFETCH(bool, foreignEnds);
+    const auto [data, faithful, foreignEnds] = fetched<QByteArray, bool, bool>();
     TestInterface host;
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("a.code"));
-    store(name, data);
+    writeFile(name, data);
     GrammarDocument document;
     Archive& archive = *FileSystemArchive::instance();
     int utf8 = TextCodecs::index("UTF-8");
@@ -354,9 +333,9 @@ void TestCodeDocument::roundTrip()
     QVERIFY(!document.isModified());
     QVERIFY(document.toFile(archive, name, false));
     if (faithful && !foreignEnds) {
-        QCOMPARE(contents(name), data);
+        QCOMPARE(readFile(name), data);
     } else if (faithful) {
-        QCOMPARE(contents(name), QByteArray("a\r\nb\r\nc\r\nd"));
+        QCOMPARE(readFile(name), QByteArray("a\r\nb\r\nc\r\nd"));
     }
 }
 
@@ -366,8 +345,8 @@ void TestCodeDocument::copiesKeepIdentity()
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("a.code"));
     const QString other = folder.filePath(QStringLiteral("b.code"));
-    store(name, "[1]\r\n");
-    store(other, "[2]\r\n");
+    writeFile(name, "[1]\r\n");
+    writeFile(other, "[2]\r\n");
     Archive& archive = *FileSystemArchive::instance();
     GrammarDocument document;
     QVERIFY(document.fromFile(archive, name, false));
@@ -378,7 +357,7 @@ void TestCodeDocument::copiesKeepIdentity()
     QVERIFY(document.toFile(archive, folder.filePath(QStringLiteral("c/d.code")), true));
     QCOMPARE(document.fileName(), name);
     QVERIFY(document.isModified());
-    QCOMPARE(contents(folder.filePath(QStringLiteral("c/d.code"))), QByteArray("[2]\r\n"));
+    QCOMPARE(readFile(folder.filePath(QStringLiteral("c/d.code"))), QByteArray("[2]\r\n"));
     document.reset();
     QVERIFY(document.fileName().isEmpty());
     QVERIFY(document.isEmpty());
@@ -391,7 +370,7 @@ void TestCodeDocument::roundaboutNameIsWatched()
     const QTemporaryDir folder;
     QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("b")));
     const QString name = folder.filePath(QStringLiteral("b/../a.code"));
-    store(name, "[1]");
+    writeFile(name, "[1]");
     GrammarDocument document;
     QVERIFY(document.fromFile(*FileSystemArchive::instance(), name, false));
     // One write, one signal.
@@ -413,7 +392,7 @@ void TestCodeDocument::vanishedFile()
     TestInterface host;
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("a.code"));
-    store(name, "[1]\r\na=1");
+    writeFile(name, "[1]\r\na=1");
     GrammarDocument document;
     QVERIFY(document.fromFile(*FileSystemArchive::instance(), name, false));
     QVERIFY(QFile::remove(name));
@@ -429,7 +408,7 @@ void TestCodeDocument::failedSave()
     TestInterface host;
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("a.code"));
-    store(name, "[1]\r\n");
+    writeFile(name, "[1]\r\n");
     GrammarDocument document;
     QVERIFY(document.fromFile(*FileSystemArchive::instance(), name, false));
     QTextCursor(&document).insertText(QStringLiteral("# "));
@@ -437,7 +416,7 @@ void TestCodeDocument::failedSave()
     QVERIFY(!document.errorString().isEmpty());
     QVERIFY(document.isModified());
     QCOMPARE(document.fileName(), name);
-    QCOMPARE(contents(name), QByteArray("[1]\r\n"));
+    QCOMPARE(readFile(name), QByteArray("[1]\r\n"));
 }
 
 void TestCodeDocument::partIsNotTheWhole_data()

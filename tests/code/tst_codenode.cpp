@@ -1,4 +1,5 @@
 #include "support/testgrammar.h"
+#include "support/testtable.h"
 
 #include <QDate>
 #include <QMap>
@@ -235,36 +236,28 @@ void TestCodeNode::chainAndTree()
 
 void TestCodeNode::convert_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QVariant>("result");
+    columns<int, QVariant, QVariant>("type", "value", "result");
     const QVariantList reals{1.9, QStringLiteral("-2.9"), 7};
-    QTest::newRow("text of a number") << 3 << QVariant(12) << QVariant(QStringLiteral("12"));
-    QTest::newRow("a date stays a text") << 5 << QVariant("x") << QVariant("x");
-    QTest::newRow("unsigned") << 6 << QVariant("12") << QVariant(12u);
-    QTest::newRow("one becomes a list") << 7 << QVariant("12") << QVariant(QVariantList{12u});
-    QTest::newRow("a list stays") << 7 << QVariant(reals) << QVariant(reals);
-    QTest::newRow("a real stays a text") << 8 << QVariant("abc") << QVariant("abc");
-    QTest::newRow("a real point from a list is whole")
-        << 9 << QVariant(reals) << QVariant(QPoint(1, -2));
-    QTest::newRow("a real point from one")
-        << 9 << QVariant(QVariantList{2.5}) << QVariant(QPoint(2, 0));
-    QTest::newRow("a real point stays")
-        << 9 << QVariant(QPointF(1.5, 2)) << QVariant(QPointF(1.5, 2));
-    QTest::newRow("reals from one") << 11 << QVariant("1.5") << QVariant(QVariantList{1.5});
-    QTest::newRow("int") << 13 << QVariant("-3") << QVariant(-3);
-    QTest::newRow("point from a list")
-        << 14 << QVariant(QVariantList{4, "5"}) << QVariant(QPoint(4, 5));
-    QTest::newRow("point from nothing") << 14 << QVariant(QVariantList()) << QVariant(QPoint(0, 0));
-    QTest::newRow("ints from one") << 17 << QVariant("-3") << QVariant(QVariantList{-3});
-    QTest::newRow("unnamed type") << 1 << QVariant("x") << QVariant("x");
+    row("text of a number", 3, QVariant(12), QVariant(QStringLiteral("12")));
+    row("a date stays a text", 5, QVariant("x"), QVariant("x"));
+    row("unsigned", 6, QVariant("12"), QVariant(12u));
+    row("one becomes a list", 7, QVariant("12"), QVariant(QVariantList{12u}));
+    row("a list stays", 7, QVariant(reals), QVariant(reals));
+    row("a real stays a text", 8, QVariant("abc"), QVariant("abc"));
+    row("a real point from a list is whole", 9, QVariant(reals), QVariant(QPoint(1, -2)));
+    row("a real point from one", 9, QVariant(QVariantList{2.5}), QVariant(QPoint(2, 0)));
+    row("a real point stays", 9, QVariant(QPointF(1.5, 2)), QVariant(QPointF(1.5, 2)));
+    row("reals from one", 11, QVariant("1.5"), QVariant(QVariantList{1.5}));
+    row("int", 13, QVariant("-3"), QVariant(-3));
+    row("point from a list", 14, QVariant(QVariantList{4, "5"}), QVariant(QPoint(4, 5)));
+    row("point from nothing", 14, QVariant(QVariantList()), QVariant(QPoint(0, 0)));
+    row("ints from one", 17, QVariant("-3"), QVariant(QVariantList{-3}));
+    row("unnamed type", 1, QVariant("x"), QVariant("x"));
 }
 
 void TestCodeNode::convert()
 {
-    QFETCH(int, type);
-    QFETCH(QVariant, value);
-    QFETCH(QVariant, result);
+    const auto [type, value, result] = fetched<int, QVariant, QVariant>();
     TestRoot root;
     TestValue node(&root, ValueCode::Type(type), value);
     QCOMPARE(node.value(), result);
@@ -273,32 +266,22 @@ void TestCodeNode::convert()
 
 void TestCodeNode::write_data()
 {
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QChar>("separator");
-    QTest::addColumn<QString>("text");
+    columns<QVariant, int, QVariant, QChar, QString>("stored", "type", "value", "separator",
+                                                     "text");
     const QChar comma(',');
-    QTest::newRow("a stored text wins") << QVariant("s") << 13 << QVariant(4) << comma << "s";
-    QTest::newRow("date") << QVariant(1) << 5 << QVariant(QDate(2026, 2, 3)) << comma
-                          << "2026-02-03";
-    QTest::newRow("real point") << QVariant(1) << 9 << QVariant(QPointF(1.5, -2)) << comma
-                                << "1.5, -2";
-    QTest::newRow("point without separator")
-        << QVariant(1) << 14 << QVariant(QPoint(3, 4)) << QChar() << "3 4";
-    QTest::newRow("list") << QVariant(1) << 10 << QVariant(QVariantList{1.5, 2, "x"}) << comma
-                          << "1.5, 2, x";
-    QTest::newRow("unsigned") << QVariant(1) << 6 << QVariant(7) << comma << "7";
-    QTest::newRow("other") << QVariant(1) << 13 << QVariant(-7) << comma << "-7";
+    row("a stored text wins", QVariant("s"), 13, QVariant(4), comma, "s");
+    row("date", QVariant(1), 5, QVariant(QDate(2026, 2, 3)), comma, "2026-02-03");
+    row("real point", QVariant(1), 9, QVariant(QPointF(1.5, -2)), comma, "1.5, -2");
+    row("point without separator", QVariant(1), 14, QVariant(QPoint(3, 4)), QChar(), "3 4");
+    row("list", QVariant(1), 10, QVariant(QVariantList{1.5, 2, "x"}), comma, "1.5, 2, x");
+    row("unsigned", QVariant(1), 6, QVariant(7), comma, "7");
+    row("other", QVariant(1), 13, QVariant(-7), comma, "-7");
 }
 
 void TestCodeNode::write()
 {
-    QFETCH(QVariant, stored);
-    QFETCH(int, type);
-    QFETCH(QVariant, value);
-    QFETCH(QChar, separator);
-    QFETCH(QString, text);
+    const auto [stored, type, value, separator, text] =
+        fetched<QVariant, int, QVariant, QChar, QString>();
     TestRoot root;
     TestValue node(&root, ValueCode::Type(1), stored);
     QCOMPARE(node.asString(ValueCode::Type(type), value, separator), text);
@@ -306,30 +289,22 @@ void TestCodeNode::write()
 
 void TestCodeNode::read_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QVector<int>>("ints");
-    QTest::addColumn<QVector<double>>("reals");
-    QTest::addColumn<QPoint>("point");
+    columns<int, QVariant, QVector<int>, QVector<double>, QPoint>("type", "value", "ints", "reals",
+                                                                  "point");
     using Ints = QVector<int>;
     using Reals = QVector<double>;
-    QTest::newRow("int") << 13 << QVariant(7) << Ints{7} << Reals{7} << QPoint(7, 0);
-    QTest::newRow("ints") << 15 << QVariant(QVariantList{1, 2, 3}) << Ints{1, 2, 3}
-                          << Reals{1, 2, 3} << QPoint(1, 2);
-    QTest::newRow("one int in a list")
-        << 15 << QVariant(QVariantList{4}) << Ints{4} << Reals{4} << QPoint(4, 0);
-    QTest::newRow("a list in a real")
-        << 8 << QVariant(QVariantList{1.5, 2}) << Ints{0} << Reals{0, 1.5, 2} << QPoint(0, 0);
-    QTest::newRow("point") << 14 << QVariant(QPoint(5, 6)) << Ints{} << Reals{} << QPoint(5, 6);
+    row("int", 13, QVariant(7), Ints{7}, Reals{7}, QPoint(7, 0));
+    row("ints", 15, QVariant(QVariantList{1, 2, 3}), Ints{1, 2, 3}, Reals{1, 2, 3}, QPoint(1, 2));
+    row("one int in a list", 15, QVariant(QVariantList{4}), Ints{4}, Reals{4}, QPoint(4, 0));
+    row("a list in a real", 8, QVariant(QVariantList{1.5, 2}), Ints{0}, Reals{0, 1.5, 2},
+        QPoint(0, 0));
+    row("point", 14, QVariant(QPoint(5, 6)), Ints{}, Reals{}, QPoint(5, 6));
 }
 
 void TestCodeNode::read()
 {
-    QFETCH(int, type);
-    QFETCH(QVariant, value);
-    QFETCH(QVector<int>, ints);
-    QFETCH(QVector<double>, reals);
-    QFETCH(QPoint, point);
+    const auto [type, value, ints, reals, point] =
+        fetched<int, QVariant, QVector<int>, QVector<double>, QPoint>();
     TestRoot root;
     const TestValue node(&root, ValueCode::Type(type), value);
     QCOMPARE(node.asIntVector(), ints);

@@ -1,4 +1,5 @@
 #include "code/codecs/textcodecs.h"
+#include "support/testtable.h"
 
 #include <QTextCodec>
 #include <QtTest>
@@ -54,9 +55,9 @@ private slots:
     void numbersOffTheList_data()
     {
         QTest::addColumn<int>("codec");
-        QTest::newRow("behind") << TextCodecs::count();
-        QTest::newRow("far") << INT_MAX;
-        QTest::newRow("none") << 0;
+        row("behind", TextCodecs::count());
+        row("far", INT_MAX);
+        row("none", 0);
     }
 
     void numbersOffTheList()
@@ -73,19 +74,17 @@ private slots:
 
     void detection_data()
     {
-        QTest::addColumn<QByteArray>("codec");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("UTF-8") << QByteArray("UTF-8") << QString::fromUtf8(german);
-        QTest::newRow("German") << QByteArray("ISO-8859-1") << QString::fromUtf8(german);
-        QTest::newRow("Japanese") << QByteArray("Shift_JIS") << QString::fromUtf8(japanese);
-        QTest::newRow("Russian") << QByteArray("windows-1251") << QString::fromUtf8(russian);
-        QTest::newRow("UTF-16") << QByteArray("UTF-16") << QString::fromUtf8(russian);
+        columns<QByteArray, QString>("codec", "text");
+        row("UTF-8", QByteArray("UTF-8"), QString::fromUtf8(german));
+        row("German", QByteArray("ISO-8859-1"), QString::fromUtf8(german));
+        row("Japanese", QByteArray("Shift_JIS"), QString::fromUtf8(japanese));
+        row("Russian", QByteArray("windows-1251"), QString::fromUtf8(russian));
+        row("UTF-16", QByteArray("UTF-16"), QString::fromUtf8(russian));
     }
 
     void detection()
     {
-        QFETCH(QByteArray, codec);
-        QFETCH(QString, text);
+        const auto [codec, text] = fetched<QByteArray, QString>();
         QString whole;
         for (int i = 0; i < 20; ++i) {
             whole += text;
@@ -101,8 +100,8 @@ private slots:
     void nothingDetected_data()
     {
         QTest::addColumn<QByteArray>("data");
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("ASCII") << QByteArray("; plain\r\nvalue = 1\r\n");
+        row("empty", QByteArray());
+        row("ASCII", QByteArray("; plain\r\nvalue = 1\r\n"));
     }
 
     // Plain ASCII says nothing about what will be typed later.
@@ -130,36 +129,33 @@ private slots:
 
     void faithfulness_data()
     {
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<QByteArray>("codec");
-        QTest::addColumn<bool>("isFaithful");
+        columns<QByteArray, QByteArray, bool>("data", "codec", "isFaithful");
         const QByteArray utf8 = german, cut = utf8.left(utf8.indexOf('\xc3') + 1);
         const QByteArray little("\xff\xfe"
                                 "a\0b\0",
                                 6),
             big("\xfe\xff\0a\0b", 6);
-        QTest::newRow("UTF-8") << utf8 << QByteArray("UTF-8") << true;
-        QTest::newRow("with a mark") << "\xef\xbb\xbf" + utf8 << QByteArray("UTF-8") << true;
-        QTest::newRow("broken UTF-8") << QByteArray("a\xff z") << QByteArray("UTF-8") << false;
-        QTest::newRow("cut at the end") << cut << QByteArray("UTF-8") << false;
-        QTest::newRow("overlong") << QByteArray("\xc0\xaf") << QByteArray("UTF-8") << false;
-        QTest::newRow("NUL") << QByteArray("a\0b", 3) << QByteArray("UTF-8") << true;
-        QTest::newRow("empty") << QByteArray() << QByteArray("UTF-8") << true;
-        QTest::newRow("in another codec") << utf8 << QByteArray("windows-1252") << true;
-        QTest::newRow("mark as text") << "\xef\xbb\xbf" + utf8 << QByteArray("ISO-8859-1") << true;
-        QTest::newRow("in too small a codec") << utf8 << QByteArray("US-ASCII") << false;
-        QTest::newRow("little end first") << little << QByteArray("UTF-16LE") << true;
-        QTest::newRow("big end first") << big << QByteArray("UTF-16BE") << true;
+        row("UTF-8", utf8, QByteArray("UTF-8"), true);
+        row("with a mark", "\xef\xbb\xbf" + utf8, QByteArray("UTF-8"), true);
+        row("broken UTF-8", QByteArray("a\xff z"), QByteArray("UTF-8"), false);
+        row("cut at the end", cut, QByteArray("UTF-8"), false);
+        row("overlong", QByteArray("\xc0\xaf"), QByteArray("UTF-8"), false);
+        row("NUL", QByteArray("a\0b", 3), QByteArray("UTF-8"), true);
+        row("empty", QByteArray(), QByteArray("UTF-8"), true);
+        row("in another codec", utf8, QByteArray("windows-1252"), true);
+        row("mark as text", "\xef\xbb\xbf" + utf8, QByteArray("ISO-8859-1"), true);
+        row("in too small a codec", utf8, QByteArray("US-ASCII"), false);
+        row("little end first", little, QByteArray("UTF-16LE"), true);
+        row("big end first", big, QByteArray("UTF-16BE"), true);
         // Saved, it would come out with the other end first.
-        QTest::newRow("big end, by mark")
-            << big << QByteArray("UTF-16") << (QSysInfo::ByteOrder == QSysInfo::BigEndian);
-        QTest::newRow("half a character") << little.left(5) << QByteArray("UTF-16LE") << false;
+        row("big end, by mark", big, QByteArray("UTF-16"),
+            (QSysInfo::ByteOrder == QSysInfo::BigEndian));
+        row("half a character", little.left(5), QByteArray("UTF-16LE"), false);
     }
 
     void faithfulness()
     {
-        QFETCH(QByteArray, data);
-        QFETCH(QByteArray, codec);
+        const auto [data, codec] = fetched<QByteArray, QByteArray>();
         QVERIFY(number(codec) > 0);
         QTEST(TextCodecs::isFaithful(data, number(codec)), "isFaithful");
     }
@@ -170,7 +166,7 @@ private slots:
         QTest::addColumn<QByteArray>("codec");
         for (const char* name : {"UTF-8", "UTF-16LE", "UTF-32", "windows-1252", "windows-1251",
                                  "Shift_JIS", "GB18030", "Big5", "EUC-KR", "ISO-8859-1"}) {
-            QTest::newRow(name) << QByteArray(name);
+            row(name, QByteArray(name));
         }
     }
 
@@ -230,17 +226,14 @@ private slots:
 
     void offeredCodec_data()
     {
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<QByteArray>("codec");
-        QTest::newRow("ASCII") << QByteArray("abc") << QByteArray("UTF-8");
-        QTest::newRow("UTF-8") << QByteArray(german) << QByteArray("UTF-8");
-        QTest::newRow("big end first")
-            << QByteArray("\xfe\xff\x04\x10\x04\x11", 6) << QByteArray("UTF-16BE");
-        QTest::newRow("Japanese")
-            << QTextCodec::codecForName("Shift_JIS")->fromUnicode(QString::fromUtf8(japanese))
-            << QByteArray("Shift_JIS");
-        QTest::newRow("noise") << QByteArray("\xff\x80\x81\x00\x9d", 5)
-                               << QByteArray("windows-1252");
+        columns<QByteArray, QByteArray>("data", "codec");
+        row("ASCII", QByteArray("abc"), QByteArray("UTF-8"));
+        row("UTF-8", QByteArray(german), QByteArray("UTF-8"));
+        row("big end first", QByteArray("\xfe\xff\x04\x10\x04\x11", 6), QByteArray("UTF-16BE"));
+        row("Japanese",
+            QTextCodec::codecForName("Shift_JIS")->fromUnicode(QString::fromUtf8(japanese)),
+            QByteArray("Shift_JIS"));
+        row("noise", QByteArray("\xff\x80\x81\x00\x9d", 5), QByteArray("windows-1252"));
     }
 
     void offeredCodec()
@@ -251,61 +244,53 @@ private slots:
 
     void firstUnencodable_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("codec");
-        QTest::addColumn<int>("place");
+        columns<QString, QByteArray, int>("text", "codec", "place");
         const QString smile = QString::fromUcs4(U"\U0001F600");
         const QString line = QString::fromUtf8(german);
-        QTest::newRow("all there") << line << QByteArray("windows-1252") << -1;
-        QTest::newRow("empty") << QString() << QByteArray("windows-1252") << -1;
-        QTest::newRow("line separator")
-            << line + QChar(0x2028) << QByteArray("windows-1252") << line.size();
-        QTest::newRow("question mark in front")
-            << QStringLiteral("?\u0416") << QByteArray("ISO-8859-1") << 1;
-        QTest::newRow("far behind") << QString(200001, 'x') + QStringLiteral("\u0416")
-                                    << QByteArray("windows-1252") << 200001;
-        QTest::newRow("pair") << "ab" + smile << QByteArray("windows-1252") << 2;
-        QTest::newRow("pair, there") << "ab" + smile + "c" << QByteArray("UTF-8") << -1;
-        QTest::newRow("pair across a block")
-            << QString(65535, 'x') + smile << QByteArray("UTF-8") << -1;
-        QTest::newRow("half a pair")
-            << QString("ab") + QChar(0xd83d) + "c" << QByteArray("UTF-8") << 2;
-        QTest::newRow("half a pair at the end")
-            << QString("ab") + QChar(0xd83d) << QByteArray("UTF-8") << 2;
-        QTest::newRow("mark as text") << QString(QChar(0xfeff)) + "a" << QByteArray("UTF-8") << -1;
-        QTest::newRow("UTF-16") << smile + line << QByteArray("UTF-16") << -1;
+        row("all there", line, QByteArray("windows-1252"), -1);
+        row("empty", QString(), QByteArray("windows-1252"), -1);
+        row("line separator", line + QChar(0x2028), QByteArray("windows-1252"), line.size());
+        row("question mark in front", QStringLiteral("?\u0416"), QByteArray("ISO-8859-1"), 1);
+        row("far behind", QString(200001, 'x') + QStringLiteral("\u0416"),
+            QByteArray("windows-1252"), 200001);
+        row("pair", "ab" + smile, QByteArray("windows-1252"), 2);
+        row("pair, there", "ab" + smile + "c", QByteArray("UTF-8"), -1);
+        row("pair across a block", QString(65535, 'x') + smile, QByteArray("UTF-8"), -1);
+        row("half a pair", QString("ab") + QChar(0xd83d) + "c", QByteArray("UTF-8"), 2);
+        row("half a pair at the end", QString("ab") + QChar(0xd83d), QByteArray("UTF-8"), 2);
+        row("mark as text", QString(QChar(0xfeff)) + "a", QByteArray("UTF-8"), -1);
+        row("UTF-16", smile + line, QByteArray("UTF-16"), -1);
     }
 
     void firstUnencodable()
     {
-        QFETCH(QString, text);
-        QFETCH(QByteArray, codec);
+        const auto [text, codec] = fetched<QString, QByteArray>();
         QTEST(TextCodecs::firstUnencodable(text, number(codec)), "place");
     }
 
     void marks_data()
     {
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<int>("size");
-        QTest::newRow("none") << QByteArray("abc") << 0;
-        QTest::newRow("empty") << QByteArray() << 0;
-        QTest::newRow("UTF-8") << QByteArray("\xef\xbb\xbf"
-                                             "abc")
-                               << 3;
-        QTest::newRow("cut") << QByteArray("\xef\xbb") << 0;
-        QTest::newRow("UTF-16, little") << QByteArray("\xff\xfe"
-                                                      "a\0",
-                                                      4)
-                                        << 2;
-        QTest::newRow("UTF-16, big") << QByteArray("\xfe\xff\0a", 4) << 2;
-        QTest::newRow("UTF-32, little") << QByteArray("\xff\xfe\0\0a\0\0\0", 8) << 4;
-        QTest::newRow("UTF-32, big") << QByteArray("\0\0\xfe\xff\0\0\0a", 8) << 4;
+        columns<QByteArray, int>("data", "size");
+        row("none", QByteArray("abc"), 0);
+        row("empty", QByteArray(), 0);
+        row("UTF-8",
+            QByteArray("\xef\xbb\xbf"
+                       "abc"),
+            3);
+        row("cut", QByteArray("\xef\xbb"), 0);
+        row("UTF-16, little",
+            QByteArray("\xff\xfe"
+                       "a\0",
+                       4),
+            2);
+        row("UTF-16, big", QByteArray("\xfe\xff\0a", 4), 2);
+        row("UTF-32, little", QByteArray("\xff\xfe\0\0a\0\0\0", 8), 4);
+        row("UTF-32, big", QByteArray("\0\0\xfe\xff\0\0\0a", 8), 4);
     }
 
     void marks()
     {
-        QFETCH(QByteArray, data);
-        QFETCH(int, size);
+        const auto [data, size] = fetched<QByteArray, int>();
         QCOMPARE(TextCodecs::byteOrderMark(data), data.left(size));
     }
 };

@@ -1,5 +1,6 @@
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <QPlainTextEdit>
 #include <QTextBlock>
@@ -43,8 +44,7 @@ private slots:
 
 void TestUndoPosition::cursorGoesToTheEdit_data()
 {
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<int>("line");
+    columns<Change, int>("change", "line");
     QTest::newRow("a value") << Change([](GrammarDocument& d) {
         static_cast<TestValue*>(nodeOfLine(d, 1))->write(QStringLiteral("5"));
     }) << 1;
@@ -89,8 +89,7 @@ void TestUndoPosition::cursorGoesToTheEdit_data()
 
 void TestUndoPosition::cursorGoesToTheEdit()
 {
-    QFETCH(Change, change);
-    QFETCH(int, line);
+    const auto [change, line] = fetched<Change, int>();
     for (const int viewLine : {0, 9}) {
         GrammarDocument document(Text);
         document.registerDocumentEditor(new TestAnimations(&document), CodeNode::Animation, 0);

@@ -2,6 +2,8 @@
 #include "core/files.h"
 #include "core/filesystemarchive.h"
 #include "core/safefile.h"
+#include "support/folders.h"
+#include "support/testtable.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
@@ -20,19 +22,6 @@ namespace {
 FileSystemArchive& archive()
 {
     return *FileSystemArchive::instance();
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-}
-
-void put(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
 }
 
 QStringList everythingIn(const QString& folder)
@@ -74,10 +63,9 @@ private slots:
     void missingFileIsNotOpened_data()
     {
         QTest::addColumn<int>("mode");
-        QTest::newRow("read") << int(QIODevice::ReadOnly);
-        QTest::newRow("append alone") << int(QIODevice::Append);
-        QTest::newRow("change an existing one")
-            << int(QIODevice::ReadWrite | QIODevice::ExistingOnly);
+        row("read", int(QIODevice::ReadOnly));
+        row("append alone", int(QIODevice::Append));
+        row("change an existing one", int(QIODevice::ReadWrite | QIODevice::ExistingOnly));
     }
 
     void missingFileIsNotOpened()
@@ -100,47 +88,44 @@ private slots:
 
     void oldFileIsWholeUntilTheDeviceIsBack()
     {
-        put(path, "old");
+        writeFile(path, "old");
         QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
         device->write("new text");
         device->close();
-        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(readFile(path), QByteArray("old"));
         QVERIFY(archive().closeFile(device));
-        QCOMPARE(contentOf(path), QByteArray("new text"));
+        QCOMPARE(readFile(path), QByteArray("new text"));
         QCOMPARE(everythingIn(folder->path()), QStringList{QStringLiteral("file.def")});
     }
 
     void deviceThatDiesLeavesTheOldFile()
     {
-        put(path, "old");
+        writeFile(path, "old");
         std::unique_ptr<QIODevice> device(archive().openFile(path, QIODevice::WriteOnly));
         device->write("new text");
         device.reset();
-        QCOMPARE(contentOf(path), QByteArray("old"));
+        QCOMPARE(readFile(path), QByteArray("old"));
         QCOMPARE(everythingIn(folder->path()).size(), 1);
     }
 
     void nothingWritten_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QByteArray>("result");
-        QTest::newRow("write") << int(QIODevice::WriteOnly) << QByteArray();
-        QTest::newRow("read and write") << int(QIODevice::ReadWrite) << QByteArray("old");
-        QTest::newRow("append") << int(QIODevice::WriteOnly | QIODevice::Append)
-                                << QByteArray("old");
-        QTest::newRow("truncate") << int(QIODevice::ReadWrite | QIODevice::Truncate)
-                                  << QByteArray();
+        columns<int, QByteArray>("mode", "result");
+        row("write", int(QIODevice::WriteOnly), QByteArray());
+        row("read and write", int(QIODevice::ReadWrite), QByteArray("old"));
+        row("append", int(QIODevice::WriteOnly | QIODevice::Append), QByteArray("old"));
+        row("truncate", int(QIODevice::ReadWrite | QIODevice::Truncate), QByteArray());
     }
 
     void nothingWritten()
     {
         QFETCH(int, mode);
-        put(path, "old");
+        writeFile(path, "old");
         const auto inode = statusOf(path).st_ino;
         QIODevice* device = archive().openFile(path, QIODevice::OpenMode(mode));
         QVERIFY(archive().closeFile(device));
-        QTEST(contentOf(path), "result");
-        if (!contentOf(path).isEmpty()) {
+        QTEST(readFile(path), "result");
+        if (!readFile(path).isEmpty()) {
             QCOMPARE(statusOf(path).st_ino, inode);
         }
     }
@@ -149,8 +134,8 @@ private slots:
     void randomAccessAsInMemory_data()
     {
         QTest::addColumn<int>("mode");
-        QTest::newRow("read and write") << int(QIODevice::ReadWrite);
-        QTest::newRow("append") << int(QIODevice::ReadWrite | QIODevice::Append);
+        row("read and write", int(QIODevice::ReadWrite));
+        row("append", int(QIODevice::ReadWrite | QIODevice::Append));
     }
 
     void randomAccessAsInMemory()
@@ -160,7 +145,7 @@ private slots:
         qInfo("seed %u", seed);
         QRandomGenerator random(seed);
         QByteArray content(600000, 'o');
-        put(path, content);
+        writeFile(path, content);
         QBuffer model(&content);
         QVERIFY(model.open(QIODevice::OpenMode(mode)));
         QIODevice* device = archive().openFile(path, QIODevice::OpenMode(mode));
@@ -195,21 +180,21 @@ private slots:
             QCOMPARE(device->size(), model.size());
         }
         QVERIFY(archive().closeFile(device));
-        QVERIFY(contentOf(path) == content);
+        QVERIFY(readFile(path) == content);
     }
 
     void permissionsAreKept_data()
     {
         QTest::addColumn<uint>("mode");
         for (const uint mode : {0600u, 0644u, 0755u, 0660u, 0666u}) {
-            QTest::newRow(qPrintable(QString::number(mode, 8))) << mode;
+            row(qPrintable(QString::number(mode, 8)), mode);
         }
     }
 
     void permissionsAreKept()
     {
         QFETCH(uint, mode);
-        put(path, "old");
+        writeFile(path, "old");
         QCOMPARE(::chmod(QFile::encodeName(path).constData(), mode), 0);
         QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
         device->write("new");
@@ -219,25 +204,21 @@ private slots:
 
     void ownOptions_data()
     {
-        QTest::addColumn<int>("options");
-        QTest::addColumn<bool>("isWritten");
-        QTest::addColumn<uint>("mode");
-        QTest::newRow("none") << int(SafeFile::NoOptions) << true << 0644u;
-        QTest::newRow("nobody else's") << int(SafeFile::OwnerOnly) << true << 0600u;
-        QTest::newRow("what is there stays") << int(SafeFile::KeepsExisting) << false << 0644u;
+        columns<int, bool, uint>("options", "isWritten", "mode");
+        row("none", int(SafeFile::NoOptions), true, 0644u);
+        row("nobody else's", int(SafeFile::OwnerOnly), true, 0600u);
+        row("what is there stays", int(SafeFile::KeepsExisting), false, 0644u);
     }
 
     // What stands there by the end counts, not what did at the beginning.
     void ownOptions()
     {
-        QFETCH(int, options);
-        QFETCH(bool, isWritten);
-        QFETCH(uint, mode);
+        const auto [options, isWritten, mode] = fetched<int, bool, uint>();
         for (const bool isEarly : {true, false}) {
             QFile::remove(path);
             SafeFile file(path, SafeFile::Options(options));
             const auto putOld = [this] {
-                put(path, "old");
+                writeFile(path, "old");
                 QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0644), 0);
             };
             if (isEarly) {
@@ -250,7 +231,7 @@ private slots:
             }
             QCOMPARE(isOpen && file.commit(), isWritten);
             QCOMPARE(file.failure().isEmpty(), isWritten);
-            QCOMPARE(contentOf(path), QByteArray(isWritten ? "new" : "old"));
+            QCOMPARE(readFile(path), QByteArray(isWritten ? "new" : "old"));
             QCOMPARE(statusOf(path).st_mode & 07777u, mode);
         }
     }
@@ -260,7 +241,7 @@ private slots:
         if (::geteuid() != 0) {
             QSKIP("only root can give files away");
         }
-        put(path, "old");
+        writeFile(path, "old");
         QCOMPARE(::chown(QFile::encodeName(path).constData(), 1234, 2345), 0);
         QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
         device->write("new");
@@ -271,21 +252,19 @@ private slots:
 
     void linksAreFollowed_data()
     {
-        QTest::addColumn<QString>("target");
-        QTest::addColumn<bool>("isThere");
-        QTest::newRow("beside") << "target.def" << true;
-        QTest::newRow("elsewhere") << "sub/../sub/target.def" << true;
-        QTest::newRow("dangling") << "sub/new.def" << false;
+        columns<QString, bool>("target", "isThere");
+        row("beside", "target.def", true);
+        row("elsewhere", "sub/../sub/target.def", true);
+        row("dangling", "sub/new.def", false);
     }
 
     void linksAreFollowed()
     {
-        QFETCH(QString, target);
-        QFETCH(bool, isThere);
+        const auto [target, isThere] = fetched<QString, bool>();
         QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
         const QString real = folder->filePath(target);
         if (isThere) {
-            put(real, "old");
+            writeFile(real, "old");
         }
         // A relative link, reached through another one.
         QVERIFY(QFile::link(target, at("first")));
@@ -297,16 +276,16 @@ private slots:
         QVERIFY(QFileInfo(path).isSymLink());
         QVERIFY(QFileInfo(at("first")).isSymLink());
         QVERIFY(!QFileInfo(real).isSymLink());
-        QCOMPARE(contentOf(real), QByteArray("new"));
+        QCOMPARE(readFile(real), QByteArray("new"));
     }
 
     void badTargetsAreRefused_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("folder") << "sub";
-        QTest::newRow("pipe") << "pipe";
-        QTest::newRow("link to a pipe") << "link";
-        QTest::newRow("circle of links") << "circle";
+        row("folder", "sub");
+        row("pipe", "pipe");
+        row("link to a pipe", "link");
+        row("circle of links", "circle");
     }
 
     void badTargetsAreRefused()
@@ -341,11 +320,11 @@ private slots:
 
         QString alive = own, former = own;
         const QString foreign = own.chopped(12) + "x.zorv-save";
-        put(at(own), "part");
-        put(at(alive.replace(".0.", ".3.")), "at work");
-        put(at(former.replace(".0.", ".123-0.")), "part, of a former version");
-        put(at(".of another file.0.zorv-save"), "part");
-        put(at(foreign), "not ours");
+        writeFile(at(own), "part");
+        writeFile(at(alive.replace(".0.", ".3.")), "at work");
+        writeFile(at(former.replace(".0.", ".123-0.")), "part, of a former version");
+        writeFile(at(".of another file.0.zorv-save"), "part");
+        writeFile(at(foreign), "not ours");
         QFile writing(at(alive));
         QVERIFY(writing.open(QIODevice::ReadWrite));
         QCOMPARE(::flock(writing.handle(), LOCK_EX), 0);
@@ -365,7 +344,7 @@ private slots:
             QVERIFY2(SafeFile::save(name, "new", &error), qPrintable(error));
             QVERIFY2(SafeFile::save(name, "over", &error), qPrintable(error));
             QVERIFY(!SafeFile::save(name, "again", &error, SafeFile::KeepsExisting));
-            QCOMPARE(contentOf(name), QByteArray("over"));
+            QCOMPARE(readFile(name), QByteArray("over"));
         }
         QCOMPARE(everythingIn(folder->path()).size(), 128);
     }
@@ -378,7 +357,7 @@ private slots:
         second->write("second");
         QVERIFY(archive().closeFile(second));
         QVERIFY(archive().closeFile(first));
-        QCOMPARE(contentOf(path), QByteArray("first"));
+        QCOMPARE(readFile(path), QByteArray("first"));
         QCOMPARE(everythingIn(folder->path()).size(), 1);
     }
 
@@ -388,12 +367,12 @@ private slots:
         QIODevice* device = archive().openFile(path, QIODevice::WriteOnly);
         QCOMPARE(device->write(content), qint64(content.size()));
         QVERIFY(archive().closeFile(device));
-        QVERIFY(contentOf(path) == content);
+        QVERIFY(readFile(path) == content);
     }
 
     void entriesNeverListLinksAndDots()
     {
-        put(path, "text");
+        writeFile(path, "text");
         QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
         QVERIFY(QFile::link(path, at("link")));
         const QDir::Filters all = QDir::AllEntries | QDir::System | QDir::Hidden;
@@ -408,13 +387,12 @@ private slots:
 
     void extensionOfName_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("extension");
-        QTest::newRow("one") << "a.pcx" << QByteArray("PCX");
-        QTest::newRow("last") << "a.tar.gz" << QByteArray("GZ");
-        QTest::newRow("none") << "a" << QByteArray();
-        QTest::newRow("of the folder") << "a.b/c" << QByteArray();
-        QTest::newRow("not Latin-1") << QString::fromUtf8("a.\u0142") << QByteArray("?");
+        columns<QString, QByteArray>("name", "extension");
+        row("one", "a.pcx", QByteArray("PCX"));
+        row("last", "a.tar.gz", QByteArray("GZ"));
+        row("none", "a", QByteArray());
+        row("of the folder", "a.b/c", QByteArray());
+        row("not Latin-1", QString::fromUtf8("a.\u0142"), QByteArray("?"));
     }
 
     void extensionOfName()
@@ -425,12 +403,11 @@ private slots:
 
     void skippedBytes_data()
     {
-        QTest::addColumn<unsigned>("count");
-        QTest::addColumn<qint64>("position");
-        QTest::newRow("none") << 0u << qint64(0);
-        QTest::newRow("less than a piece") << 255u << qint64(255);
-        QTest::newRow("several pieces") << 700u << qint64(700);
-        QTest::newRow("behind the end") << 0xffffffffu << qint64(1000);
+        columns<unsigned, qint64>("count", "position");
+        row("none", 0u, qint64(0));
+        row("less than a piece", 255u, qint64(255));
+        row("several pieces", 700u, qint64(700));
+        row("behind the end", 0xffffffffu, qint64(1000));
     }
 
     void skippedBytes()
@@ -449,14 +426,14 @@ private slots:
         for (int i = 0; i < 300001; ++i) {
             content.append(char(i % 251));
         }
-        put(path, content);
+        writeFile(path, content);
         const QString target = at("new/folder/copy.def");
         QString error = QStringLiteral("(unset)");
         QVERIFY(copyFile(archive(), path, archive(), target, &error));
         QCOMPARE(error, QString());
-        QVERIFY(contentOf(target) == content);
+        QVERIFY(readFile(target) == content);
         QVERIFY(copyFile(archive(), path, archive(), path, &error));
-        QVERIFY(contentOf(path) == content);
+        QVERIFY(readFile(path) == content);
     }
 
     void extensionsAreListedByType()

@@ -4,6 +4,7 @@
 #include "support/faultshim.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <QtTest>
 
@@ -151,8 +152,7 @@ void TestBackup::bringsEverythingBack()
 
 void TestBackup::folderThatCannotBeMade_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isBlocked");
+    columns<QString, bool>("name", "isBlocked");
     QTest::newRow("slash") << "a/../../../b" << false;
     QTest::newRow("null") << QString("a") + QChar(0) + "b" << false;
     QTest::newRow("too long") << QString(300, 'x') << false;
@@ -161,8 +161,7 @@ void TestBackup::folderThatCannotBeMade_data()
 
 void TestBackup::folderThatCannotBeMade()
 {
-    QFETCH(QString, name);
-    QFETCH(bool, isBlocked);
+    const auto [name, isBlocked] = fetched<QString, bool>();
     m_parent->open("hero/hero.code", "2 a.spr");
     QVERIFY(writeFile(m_root + "hero/a.spr", "sprites"));
     if (isBlocked) {

@@ -1,6 +1,7 @@
 #include "core/dialogs/dialogs.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <QFileDialog>
 #include <QInputDialog>
@@ -39,20 +40,15 @@ class TestDialogs : public QObject
 private slots:
     void buttons_data()
     {
-        QTest::addColumn<int>("buttons");
-        QTest::addColumn<int>("pressed");
-        QTest::addColumn<int>("standard");
-        QTest::addColumn<int>("answer");
+        columns<int, int, int, int>("buttons", "pressed", "standard", "answer");
         const int ask = Dialogs::Yes | Dialogs::No | Dialogs::Cancel;
-        QTest::newRow("yes") << ask << 1 << int(QMessageBox::Yes) << int(Dialogs::Yes);
-        QTest::newRow("no") << ask << 1 << int(QMessageBox::No) << int(Dialogs::No);
-        QTest::newRow("cancel") << ask << 1 << int(QMessageBox::Cancel) << int(Dialogs::Cancel);
-        QTest::newRow("closed") << ask << 0 << 0 << int(Dialogs::Cancel);
-        QTest::newRow("closed without cancel")
-            << int(Dialogs::Yes | Dialogs::No) << 0 << 0 << int(Dialogs::No);
-        QTest::newRow("closed with one button") << int(Dialogs::Ok) << 0 << 0 << int(Dialogs::Ok);
-        QTest::newRow("return key")
-            << int(Dialogs::Ok | Dialogs::Cancel) << 2 << 0 << int(Dialogs::Ok);
+        row("yes", ask, 1, int(QMessageBox::Yes), int(Dialogs::Yes));
+        row("no", ask, 1, int(QMessageBox::No), int(Dialogs::No));
+        row("cancel", ask, 1, int(QMessageBox::Cancel), int(Dialogs::Cancel));
+        row("closed", ask, 0, 0, int(Dialogs::Cancel));
+        row("closed without cancel", int(Dialogs::Yes | Dialogs::No), 0, 0, int(Dialogs::No));
+        row("closed with one button", int(Dialogs::Ok), 0, 0, int(Dialogs::Ok));
+        row("return key", int(Dialogs::Ok | Dialogs::Cancel), 2, 0, int(Dialogs::Ok));
     }
 
     void buttons()
@@ -122,14 +118,12 @@ private slots:
 
     void fileNames_data()
     {
-        QTest::addColumn<QVariant>("option");
-        QTest::addColumn<QStringList>("names");
+        columns<QVariant, QStringList>("option", "names");
         const QStringList chosen{QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("B")};
-        QTest::newRow("unset") << QVariant() << chosen;
-        QTest::newRow("off") << QVariant(false) << chosen;
-        QTest::newRow("on") << QVariant(true)
-                            << QStringList{QStringLiteral("B"), QStringLiteral("a"),
-                                           QStringLiteral("b")};
+        row("unset", QVariant(), chosen);
+        row("off", QVariant(false), chosen);
+        row("on", QVariant(true),
+            QStringList{QStringLiteral("B"), QStringLiteral("a"), QStringLiteral("b")});
     }
 
     void fileNames()
@@ -144,20 +138,14 @@ private slots:
 
     void extensions_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<QString>("name");
+        columns<QString, QString, QString>("typed", "filter", "name");
         const QString pair = QStringLiteral("Blob (old) (*.blob);;T (*.txt *.md)");
-        QTest::newRow("none") << "new" << pair << "new.blob";
-        QTest::newRow("foreign") << "new.png" << pair << "new.png.blob";
-        QTest::newRow("one of them") << "new.md" << pair << "new.md";
-        QTest::newRow("another case") << "new.TXT" << pair << "new.TXT";
-        QTest::newRow("any") << "new"
-                             << "Any (*)"
-                             << "new";
-        QTest::newRow("no filter") << "new"
-                                   << ""
-                                   << "new";
+        row("none", "new", pair, "new.blob");
+        row("foreign", "new.png", pair, "new.png.blob");
+        row("one of them", "new.md", pair, "new.md");
+        row("another case", "new.TXT", pair, "new.TXT");
+        row("any", "new", "Any (*)", "new");
+        row("no filter", "new", "", "new");
     }
 
     void extensions()

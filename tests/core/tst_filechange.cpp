@@ -3,6 +3,8 @@
 #include "core/filesystemarchive.h"
 #include "core/safefile.h"
 
+#include "support/folders.h"
+
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -22,22 +24,10 @@ constexpr int Increments = 50;
 constexpr int LongWait = 60000;
 constexpr int ShortWait = 50;
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 bool put(const QString& path, const QByteArray& content, QString* error = nullptr)
 {
     QString reason;
     return SafeFile::save(path, content, error ? error : &reason, SafeFile::IsCopy);
-}
-
-bool putPlainly(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
 /// A process of its own, which is killed with the object.
@@ -123,7 +113,7 @@ void TestFileChange::nothingIsLost()
             if (isLocked && !change.lock(LongWait, &error)) {
                 return;
             }
-            done += put(path, QByteArray::number(contentOf(path).toInt() + 1));
+            done += put(path, QByteArray::number(readFile(path).toInt() + 1));
         }
     };
     std::vector<std::unique_ptr<Child>> children;
@@ -133,20 +123,20 @@ void TestFileChange::nothingIsLost()
     for (const auto& child : children) {
         child->wait();
     }
-    QCOMPARE(contentOf(m_path).toInt(), Children * Increments);
+    QCOMPARE(readFile(m_path).toInt(), Children * Increments);
     QCOMPARE(QDir(m_dir->filePath("real")).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 
 void TestFileChange::whatOthersDoIsNoticed_data()
 {
     QTest::addColumn<Act>("act");
-    QTest::newRow("written over") << Act([](const QString& p) { return putPlainly(p, "9"); });
+    QTest::newRow("written over") << Act([](const QString& p) { return writeFile(p, "9"); });
     QTest::newRow("replaced") << Act([](const QString& p) {
-        return putPlainly(p + "x", "9") && ::rename(qPrintable(p + "x"), qPrintable(p)) == 0;
+        return writeFile(p + "x", "9") && ::rename(qPrintable(p + "x"), qPrintable(p)) == 0;
     });
     QTest::newRow("removed") << Act([](const QString& p) { return QFile::remove(p); });
     QTest::newRow("removed and made")
-        << Act([](const QString& p) { return QFile::remove(p) && putPlainly(p, "0"); });
+        << Act([](const QString& p) { return QFile::remove(p) && writeFile(p, "0"); });
 }
 
 void TestFileChange::whatOthersDoIsNoticed()
@@ -159,11 +149,11 @@ void TestFileChange::whatOthersDoIsNoticed()
         QString error;
         QVERIFY(!isLocked || change.lock(ShortWait, &error));
         QVERIFY(act(m_path));
-        const QByteArray theirs = contentOf(m_path);
+        const QByteArray theirs = readFile(m_path);
         QVERIFY(!put(m_path, "ours", &error));
         QVERIFY2(error.contains(m_path), qPrintable(error));
         QVERIFY(change.isOvertaken());
-        QCOMPARE(contentOf(m_path), theirs);
+        QCOMPARE(readFile(m_path), theirs);
     }
 }
 
@@ -177,7 +167,7 @@ void TestFileChange::ownWritesAreNone()
         }
         QString reason;
         FileChange change(m_path);
-        putPlainly(m_dir->filePath("result"), change.lock(ShortWait, &reason) ? "free" : "busy");
+        writeFile(m_dir->filePath("result"), change.lock(ShortWait, &reason) ? "free" : "busy");
     });
     QString error;
     FileChange outer(m_path);
@@ -192,9 +182,9 @@ void TestFileChange::ownWritesAreNone()
     }
     QVERIFY(!outer.isOvertaken());
     // The lock is there until the last one goes.
-    QVERIFY(putPlainly(m_dir->filePath("now"), {}));
+    QVERIFY(writeFile(m_dir->filePath("now"), {}));
     other.wait();
-    QCOMPARE(contentOf(m_dir->filePath("result")), QByteArray("busy"));
+    QCOMPARE(readFile(m_dir->filePath("result")), QByteArray("busy"));
 }
 
 void TestFileChange::waitsForOthers()
@@ -203,7 +193,7 @@ void TestFileChange::waitsForOthers()
         QString reason;
         FileChange change(m_path);
         change.lock(LongWait, &reason);
-        putPlainly(m_dir->filePath("ready"), {});
+        writeFile(m_dir->filePath("ready"), {});
         ::pause();
     });
     QTRY_VERIFY(QFile::exists(m_dir->filePath("ready")));
@@ -214,10 +204,10 @@ void TestFileChange::waitsForOthers()
     // A write that nobody announced takes its turn as well.
     Child third([this] { put(m_path, "late"); });
     QTest::qSleep(ShortWait);
-    QCOMPARE(contentOf(m_path), QByteArray("0"));
+    QCOMPARE(readFile(m_path), QByteArray("0"));
     other.kill();
     third.wait();
-    QCOMPARE(contentOf(m_path), QByteArray("late"));
+    QCOMPARE(readFile(m_path), QByteArray("late"));
     QVERIFY(FileChange(m_path).lock(ShortWait, &error));
 }
 

@@ -4,6 +4,7 @@
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -144,8 +145,7 @@ private slots:
 
     void changeFromOutside_data()
     {
-        QTest::addColumn<QVariant>("option");
-        QTest::addColumn<bool>("asks");
+        columns<QVariant, bool>("option", "asks");
         QTest::newRow("host without an opinion") << QVariant() << true;
         QTest::newRow("on") << QVariant(true) << true;
         QTest::newRow("off") << QVariant(false) << false;
@@ -153,8 +153,7 @@ private slots:
 
     void changeFromOutside()
     {
-        QFETCH(QVariant, option);
-        QFETCH(bool, asks);
+        const auto [option, asks] = fetched<QVariant, bool>();
         host->options[QStringLiteral("enable_file_watcher")] = option;
         Watched document(path);
         dialogs->buttonAnswers = {Dialogs::Yes};
@@ -231,9 +230,7 @@ private slots:
 
     void ownSave_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("isWatchMovedFirst");
-        QTest::addColumn<bool>("isBusy");
+        columns<QString, bool, bool>("name", "isWatchMovedFirst", "isBusy");
         QTest::newRow("in place") << "watched.def" << true << false;
         QTest::newRow("in place, watch last") << "watched.def" << false << false;
         QTest::newRow("under a new name") << "new.def" << true << false;
@@ -243,9 +240,7 @@ private slots:
 
     void ownSave()
     {
-        QFETCH(QString, name);
-        QFETCH(bool, isWatchMovedFirst);
-        QFETCH(bool, isBusy);
+        const auto [name, isWatchMovedFirst, isBusy] = fetched<QString, bool, bool>();
         const QString target = folder->filePath(name);
         Watched document(path);
         for (int round = 0; round < 2; ++round) {

@@ -1,7 +1,6 @@
 #include "core/dialogs/itemsdlg.h"
 #include "support/testinterface.h"
 
-#include <QAbstractItemModelTester>
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
@@ -86,13 +85,6 @@ private slots:
         dialog->show();
         QTest::keyClick(dialog.get(), Qt::Key_Escape);
         QCOMPARE(dialog->result(), int(QDialog::Rejected));
-    }
-
-    void titles()
-    {
-        QCOMPARE(ItemsDlg(nullptr, {}, model.get(), 0).windowTitle(), QStringLiteral("Items"));
-        QCOMPARE(ItemsDlg(nullptr, QStringLiteral("Save"), nullptr, 0).windowTitle(),
-                 QStringLiteral("Save"));
     }
 
 private:

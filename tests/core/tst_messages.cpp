@@ -1,6 +1,7 @@
 #include "core/messagelist.h"
 #include "core/messages.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
@@ -100,7 +101,8 @@ class TestMessages : public QObject
     Q_OBJECT
 
 private slots:
-    void countsByType();
+    void init() { parent = std::make_unique<TestParent>(folder.path()); }
+    void cleanup() { parent.reset(); }
     void insertsInOrderAtTheEnd();
     void insertAfterClearLineLandsEarly();
     void clearLineReachesOnlyTheTail();
@@ -114,25 +116,11 @@ private slots:
     void dyingFileLeavesTheList();
     void fileClosedByItsOwnMessage();
     void listDiesFirst();
+
+private:
+    const QTemporaryDir folder;
+    std::unique_ptr<TestParent> parent;
 };
-
-void TestMessages::countsByType()
-{
-    Messages messages(nullptr);
-    messages.add(Message::Error, "a", 4, 0);
-    messages.add(Message::Warning, "b", 2, 0);
-    messages.add(Message::Error, "c", 3, 0);
-    QCOMPARE(messages.count(Message::AllTypes), 3);
-    QCOMPARE(messages.count(Message::Error), 2);
-    QCOMPARE(messages.count(Message::Information), 0);
-    QCOMPARE(rows(messages), QStringList({"a", "b", "c"}));
-
-    messages.clearLine(3);
-    QCOMPARE(messages.count(Message::Error), 1);
-    messages.clear();
-    QCOMPARE(messages.count(Message::Error), 0);
-    QCOMPARE(messages.count(Message::Warning), 0);
-}
 
 void TestMessages::insertsInOrderAtTheEnd()
 {
@@ -197,9 +185,7 @@ void TestMessages::operationsOnAnEmptyList()
 
 void TestMessages::frameHoldsNotificationBack()
 {
-    const QTemporaryDir dir;
-    TestParent parent(dir.path());
-    TestProject* project = parent.open({}, {});
+    TestProject* project = parent->open({}, {});
     Messages* messages = project->file(FileID::MainCode)->messages();
     QSignalSpy updated(messages, &Messages::updated);
     QSignalSpy listUpdated(project->messages(), &MessageList::updated);
@@ -223,8 +209,7 @@ void TestMessages::frameHoldsNotificationBack()
 
 void TestMessages::followsEdits_data()
 {
-    QTest::addColumn<int>("lines");
-    QTest::addColumn<bool>("local");
+    columns<int, bool>("lines", "local");
     QTest::newRow("few lines") << 6 << false;
     QTest::newRow("many lines") << 400 << false;
     QTest::newRow("near one place") << 400 << true;
@@ -234,8 +219,7 @@ void TestMessages::followsEdits_data()
 // with a view that knows no more than the signals.
 void TestMessages::followsEdits()
 {
-    QFETCH(int, lines);
-    QFETCH(bool, local);
+    const auto [lines, local] = fetched<int, bool>();
     const quint32 seed = 20240607;
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
@@ -280,9 +264,7 @@ void TestMessages::followsEdits()
 
 void TestMessages::projectShowsAllFiles()
 {
-    const QTemporaryDir dir;
-    TestParent parent(dir.path());
-    TestProject* project = parent.open({}, {});
+    TestProject* project = parent->open({}, {});
     MessageList* list = project->messages();
     const QAbstractItemModelTester tester(list, Fatal);
     const Follower follower(list);
@@ -316,9 +298,7 @@ void TestMessages::projectShowsAllFiles()
 
 void TestMessages::sameFileTwice()
 {
-    const QTemporaryDir dir;
-    TestParent parent(dir.path());
-    TestProject* project = parent.open({}, {});
+    TestProject* project = parent->open({}, {});
     auto* file = new TestFile;
     project->addFile(file, 2);
     project->addFile(file, 4);
@@ -336,9 +316,7 @@ void TestMessages::sameFileTwice()
 // A view may ask for old rows while a file is in the middle of its changes.
 void TestMessages::rowsInsideAFrame()
 {
-    const QTemporaryDir dir;
-    TestParent parent(dir.path());
-    TestProject* project = parent.open({}, {});
+    TestProject* project = parent->open({}, {});
     auto* file = new TestFile;
     project->addFile(file, 2);
     for (int line = 0; line < 3; ++line) {
@@ -354,9 +332,7 @@ void TestMessages::rowsInsideAFrame()
 
 void TestMessages::dyingFileLeavesTheList()
 {
-    const QTemporaryDir dir;
-    TestParent parent(dir.path());
-    TestProject* project = parent.open({}, {});
+    TestProject* project = parent->open({}, {});
     auto* file = new TestFile;
     project->addFile(file, 2);
     file->messages()->add(Message::Error, "a", 0, 0);
@@ -372,12 +348,11 @@ void TestMessages::dyingFileLeavesTheList()
 
 void TestMessages::fileClosedByItsOwnMessage()
 {
-    const QTemporaryDir dir;
-    TestParent parent(dir.path());
-    TestProject* project = parent.open({}, {});
+    TestProject* project = parent->open({}, {});
     auto* file = new TestFile;
     project->addFile(file, 2);
-    connect(project->messages(), &MessageList::updated, this, [&file, project] {
+    const QObject scope;
+    connect(project->messages(), &MessageList::updated, &scope, [&file, project] {
         if (file) {
             project->removeFile(std::exchange(file, nullptr));
         }

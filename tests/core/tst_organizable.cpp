@@ -1,4 +1,5 @@
 #include "core/organizableobject.h"
+#include "support/testtable.h"
 
 #include <QAbstractItemModelTester>
 #include <QBrush>
@@ -117,31 +118,22 @@ class TestOrganizable : public QObject
 private slots:
     void drops_data()
     {
-        QTest::addColumn<QList<int>>("dragged");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<Moves>("moves");
-        QTest::addColumn<Rows>("order");
-        QTest::newRow("two down") << QList<int>{1, 2} << 4 << Moves{{1, 3}, {1, 3}}
-                                  << Rows{0, 3, 1, 2, 4};
-        QTest::newRow("last to the top")
-            << QList<int>{4} << 0 << Moves{{4, 0}} << Rows{4, 0, 1, 2, 3};
-        QTest::newRow("two up, in any order")
-            << QList<int>{4, 3} << 1 << Moves{{3, 1}, {4, 2}} << Rows{0, 3, 4, 1, 2};
-        QTest::newRow("from both sides")
-            << QList<int>{0, 4} << 2 << Moves{{0, 1}, {4, 2}} << Rows{1, 0, 4, 2, 3};
-        QTest::newRow("behind the end")
-            << QList<int>{1} << 5 << Moves{{1, 3}} << Rows{0, 2, 3, 1, 4};
-        QTest::newRow("far behind the end")
-            << QList<int>{4} << 99 << Moves{} << Rows{0, 1, 2, 3, 4};
-        QTest::newRow("no row") << QList<int>{2} << -1 << Moves{{2, 0}} << Rows{2, 0, 1, 3, 4};
-        QTest::newRow("in front of itself") << QList<int>{2} << 2 << Moves{} << Rows{0, 1, 2, 3, 4};
-        QTest::newRow("behind itself") << QList<int>{2} << 3 << Moves{} << Rows{0, 1, 2, 3, 4};
+        columns<QList<int>, int, Moves, Rows>("dragged", "row", "moves", "order");
+        row("two down", QList<int>{1, 2}, 4, Moves{{1, 3}, {1, 3}}, Rows{0, 3, 1, 2, 4});
+        row("last to the top", QList<int>{4}, 0, Moves{{4, 0}}, Rows{4, 0, 1, 2, 3});
+        row("two up, in any order", QList<int>{4, 3}, 1, Moves{{3, 1}, {4, 2}},
+            Rows{0, 3, 4, 1, 2});
+        row("from both sides", QList<int>{0, 4}, 2, Moves{{0, 1}, {4, 2}}, Rows{1, 0, 4, 2, 3});
+        row("behind the end", QList<int>{1}, 5, Moves{{1, 3}}, Rows{0, 2, 3, 1, 4});
+        row("far behind the end", QList<int>{4}, 99, Moves{}, Rows{0, 1, 2, 3, 4});
+        row("no row", QList<int>{2}, -1, Moves{{2, 0}}, Rows{2, 0, 1, 3, 4});
+        row("in front of itself", QList<int>{2}, 2, Moves{}, Rows{0, 1, 2, 3, 4});
+        row("behind itself", QList<int>{2}, 3, Moves{}, Rows{0, 1, 2, 3, 4});
     }
 
     void drops()
     {
-        QFETCH(QList<int>, dragged);
-        QFETCH(int, row);
+        const auto [dragged, row] = fetched<QList<int>, int>();
         Letters list(5);
         QAbstractItemModelTester tester(&list);
         const QScopedPointer<QMimeData> data(list.drag(dragged));
@@ -223,7 +215,7 @@ private slots:
         picture.fill(Qt::red);
         QTest::addColumn<QVariant>("value");
         const auto row = [](const char* name, const QVariant& value) {
-            QTest::newRow(name) << QVariant::fromValue(value);
+            ::row(name, QVariant::fromValue(value));
         };
         row("invalid", {});
         row("null text", QString());
@@ -295,8 +287,8 @@ private slots:
                              QMetaType::User,
                              0x7fffffff};
         for (const int type : types) {
-            QTest::newRow(qPrintable(QStringLiteral("huge value of type %1").arg(type)))
-                << payload(1, quint32(type), 0xfffffff0);
+            row(qPrintable(QStringLiteral("huge value of type %1").arg(type)),
+                payload(1, quint32(type), 0xfffffff0));
         }
         QByteArray deep;
         QDataStream out(&deep, QIODevice::WriteOnly);
@@ -304,10 +296,10 @@ private slots:
         for (int i = 0; i < 200000; ++i) {
             out << quint32(QMetaType::QVariantList) << quint8(0) << quint32(1);
         }
-        QTest::newRow("lists in lists") << deep;
-        QTest::newRow("rows that are not there")
-            << payload(-1, QMetaType::Int, 0) + payload(5, QMetaType::Int, 0) +
-                   payload(INT_MAX, QMetaType::Int, 0) + payload(INT_MIN, QMetaType::Int, 0);
+        row("lists in lists", deep);
+        row("rows that are not there",
+            payload(-1, QMetaType::Int, 0) + payload(5, QMetaType::Int, 0) +
+                payload(INT_MAX, QMetaType::Int, 0) + payload(INT_MIN, QMetaType::Int, 0));
     }
 
     void brokenPayloads()

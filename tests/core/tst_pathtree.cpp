@@ -2,10 +2,10 @@
 #include "support/testengines.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include <QAbstractItemModelTester>
 #include <QDir>
-#include <QIcon>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -77,24 +77,18 @@ private slots:
     void splitsPaths();
     void rootWithAndWithoutSlash();
     void listsFoldersAndFiles();
-    void icons_data();
-    void icons();
-    void gameNeedsItsEngine();
 
     void documentWithoutName();
     void showsFilesOfProject();
     void announcesWholeNode();
     void unchangedFilesTouchNothing();
-    void emptiedFolderGoes();
     void rootKeepsWhatIsReferredTo();
-    void projectsShareAFolder();
 
     void newEntriesOnDisk();
     void openProjectOutlivesItsFolder();
     void removedFolders();
     void closedProjectIsListedAgain();
     void closedProjectLeavesOthersBelow();
-    void listsClosedProjects();
 
     void firstProjectMakesBackup_data();
     void firstProjectMakesBackup();
@@ -144,8 +138,7 @@ void TestPathTree::addListings(TestParent& parent) const
 
 void TestPathTree::splitsPaths_data()
 {
-    QTest::addColumn<QString>("added");
-    QTest::addColumn<QStringList>("tree");
+    columns<QString, QStringList>("added", "tree");
     QTest::newRow("relative") << "a/b" << QStringList({"a/", " b/"});
     QTest::newRow("slashes at the ends") << "/a/b/" << QStringList({"a/", " b/"});
     QTest::newRow("below the root") << "%1/a/b" << QStringList({"a/", " b/"});
@@ -160,8 +153,7 @@ void TestPathTree::splitsPaths_data()
 
 void TestPathTree::splitsPaths()
 {
-    QFETCH(QString, added);
-    QFETCH(QStringList, tree);
+    auto [added, tree] = fetched<QString, QStringList>();
     if (added.contains("%1")) {
         added = added.arg(m_dir->path());
     }
@@ -214,49 +206,6 @@ void TestPathTree::listsFoldersAndFiles()
     QCOMPARE(m_parent->indexOf("chars/hero").data(Qt::ToolTipRole), QVariant("hero"));
 }
 
-void TestPathTree::icons_data()
-{
-    QTest::addColumn<quint32>("id");
-    QTest::addColumn<QString>("icon");
-    QTest::newRow("main") << 1u << "code";
-    QTest::newRow("further code") << 32u << "code";
-    QTest::newRow("sprites") << 2u << "sprite";
-    QTest::newRow("sounds") << 4u << "sound";
-    QTest::newRow("animations") << 8u << "anim";
-    QTest::newRow("commands") << 16u << "command";
-    QTest::newRow("two kinds") << 6u << "file";
-    QTest::newRow("unknown") << 64u << "file";
-}
-
-void TestPathTree::icons()
-{
-    QFETCH(quint32, id);
-    QFETCH(QString, icon);
-    const auto image = [](const QString& name) {
-        return QImage(QStringLiteral(":/zorvl_icons/icons/%1.png").arg(name))
-            .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    };
-    const auto shown = [this](const QString& name) {
-        const auto value = m_parent->indexOf(name).data(Qt::DecorationRole).value<QIcon>();
-        return value.pixmap(16).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    };
-    m_parent->open("chars/hero/hero.code", QStringLiteral("%1 x").arg(id));
-    QVERIFY(!image(icon).isNull());
-    QCOMPARE(shown("chars/hero/x"), image(icon));
-    QCOMPARE(shown("chars/hero"), image("folder"));
-}
-
-void TestPathTree::gameNeedsItsEngine()
-{
-    QVERIFY(!m_parent->isGame());
-    TestEngines engines;
-    m_parent->engines = &engines;
-    QVERIFY(!m_parent->isGame());
-    QVERIFY(writeFile(path("engine.exe")));
-    QVERIFY(m_parent->isGame());
-    m_parent->engines = nullptr;
-}
-
 void TestPathTree::documentWithoutName()
 {
     TestProject* project = m_parent->open({}, "2 a.spr");
@@ -302,15 +251,6 @@ void TestPathTree::unchangedFilesTouchNothing()
     QCOMPARE(m_parent->dump(), QStringList({"hero/", " a.spr 8", " b.snd 4", " hero.code 1"}));
 }
 
-void TestPathTree::emptiedFolderGoes()
-{
-    TestProject* project = m_parent->open("hero/hero.code", "2 x/y/a.spr\n2 x/b.spr");
-    setText(project, "2 x/b.spr");
-    QCOMPARE(m_parent->dump(), QStringList({"hero/", " hero.code 1", " x/", "  b.spr 2"}));
-    setText(project, {});
-    QCOMPARE(m_parent->dump(), QStringList({"hero/", " hero.code 1"}));
-}
-
 void TestPathTree::rootKeepsWhatIsReferredTo()
 {
     makeGame();
@@ -327,24 +267,6 @@ void TestPathTree::rootKeepsWhatIsReferredTo()
                                    QStringList({"data/", " b.spr 2", "system.code 1"}));
     m_parent->close(project);
     QCOMPARE(m_parent->dump(), game + stages);
-}
-
-void TestPathTree::projectsShareAFolder()
-{
-    makeGame();
-    TestProject* dojo = m_parent->open("stages/dojo.stage", "2 dojo.spr");
-    QCOMPARE(m_parent->dump(m_parent->indexOf("stages")),
-             QStringList({"dojo.spr 2", "dojo.stage 1", "roof.stage"}));
-    TestProject* roof = m_parent->open("stages/roof.stage", "2 roof.spr");
-    setText(dojo, "2 other.spr");
-    QCOMPARE(m_parent->dump(m_parent->indexOf("stages")),
-             QStringList({"dojo.stage 1", "other.spr 2", "roof.spr 2", "roof.stage 1"}));
-    m_parent->close(dojo);
-    QCOMPARE(m_parent->dump(m_parent->indexOf("stages")),
-             QStringList({"dojo.stage", "roof.spr 2", "roof.stage 1"}));
-    m_parent->close(roof);
-    QCOMPARE(m_parent->dump(m_parent->indexOf("stages")),
-             QStringList({"dojo.stage", "roof.stage"}));
 }
 
 void TestPathTree::newEntriesOnDisk()
@@ -441,21 +363,9 @@ void TestPathTree::closedProjectLeavesOthersBelow()
     QCOMPARE(m_parent->goneCount, 1);
 }
 
-void TestPathTree::listsClosedProjects()
-{
-    makeGame();
-    m_parent->open("chars/hero/hero.code", {});
-    m_parent->open("stages/roof.stage", {});
-    QStringList list = {"before"};
-    m_parent->listProjects(list);
-    QCOMPARE(list, QStringList({"before", "chars/rival/", "stages/dojo.stage"}));
-}
-
 void TestPathTree::firstProjectMakesBackup_data()
 {
-    QTest::addColumn<bool>("wanted");
-    QTest::addColumn<QString>("fileName");
-    QTest::addColumn<int>("backups");
+    columns<bool, QString, int>("wanted", "fileName", "backups");
     QTest::newRow("wanted") << true << "hero.code" << 1;
     QTest::newRow("not wanted") << false << "hero.code" << 0;
     QTest::newRow("no name") << true << "" << 0;
@@ -463,9 +373,7 @@ void TestPathTree::firstProjectMakesBackup_data()
 
 void TestPathTree::firstProjectMakesBackup()
 {
-    QFETCH(bool, wanted);
-    QFETCH(QString, fileName);
-    QFETCH(int, backups);
+    const auto [wanted, fileName, backups] = fetched<bool, QString, int>();
     TestInterface host;
     host.options["backup_onload"] = wanted;
     QVERIFY(writeFile(path("hero.code"), "2 a.spr"));
@@ -487,8 +395,7 @@ void TestPathTree::firstProjectMakesBackup()
 
 void TestPathTree::randomFileLists_data()
 {
-    QTest::addColumn<QString>("main");
-    QTest::addColumn<bool>("exact");
+    columns<QString, bool>("main", "exact");
     QTest::newRow("in a folder") << "chars/hero/hero.code" << true;
     // At the root what stays keeps its place: the order tells of the past.
     QTest::newRow("at the root") << "hero.code" << false;
@@ -497,8 +404,7 @@ void TestPathTree::randomFileLists_data()
 // After any sequence of lists the tree is the one that the last list gives at once.
 void TestPathTree::randomFileLists()
 {
-    QFETCH(QString, main);
-    QFETCH(bool, exact);
+    const auto [main, exact] = fetched<QString, bool>();
     const quint32 seed = 77;
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);

@@ -5,6 +5,7 @@
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include <QDirIterator>
 #include <QPointer>
@@ -105,7 +106,6 @@ private slots:
     void staleSelection();
     void removeOneOfTwoKinds();
     void moveInsideAKind();
-    void emptyProject();
     void reloadKeepsVanishedFiles();
     void releaseGivesEverythingUp();
     void projectDiesBeforeItsFiles();
@@ -266,17 +266,6 @@ void TestProjects::moveInsideAKind()
              QList<ProjectFile*>({files.at(2), files.at(0), files.at(1)}));
 }
 
-void TestProjects::emptyProject()
-{
-    TestProject* project = m_parent->open({}, {});
-    QVERIFY(project->isEmpty());
-    auto* file = new TestFile;
-    project->addFile(file, Sounds);
-    QVERIFY(project->isEmpty());
-    file->content = "x";
-    QVERIFY(!project->isEmpty());
-}
-
 void TestProjects::reloadKeepsVanishedFiles()
 {
     TestProject* project = openCharacter({});
@@ -356,8 +345,7 @@ void TestProjects::filesLeaveTheirProject()
 
 void TestProjects::editorThatIsAFileToo_data()
 {
-    QTest::addColumn<QVector<int>>("order");
-    QTest::addColumn<int>("end");
+    columns<QVector<int>, int>("order", "end");
     QVector<int> order{0, 1, 2};
     do {
         const QByteArray name = QByteArray::number(order[0] * 100 + order[1] * 10 + order[2]);
@@ -372,8 +360,7 @@ void TestProjects::editorThatIsAFileToo_data()
 /// addresses, and under however many kinds of nodes: each is released once.
 void TestProjects::editorThatIsAFileToo()
 {
-    QFETCH(QVector<int>, order);
-    QFETCH(int, end);
+    const auto [order, end] = fetched<QVector<int>, int>();
     PlacedEditor::released = 0;
     Slots::next = order.at(0);
     auto* main = new PlacedDocument(QStringLiteral("!a\n[1]\n"));

@@ -4,6 +4,7 @@
 #include "support/testengines.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include <QCryptographicHash>
 #include <QDirIterator>
@@ -160,13 +161,11 @@ private slots:
 
 void TestRun::failures_data()
 {
-    QTest::addColumn<Prepare>("prepare");
-    QTest::addColumn<int>("outcome");
-    QTest::addColumn<QStringList>("dialog");
+    columns<Prepare, int, QStringList>("prepare", "outcome", "dialog");
     const QString parameters =
         "Oops, wrong parameters on the engine configuration. Check it in Tools / Options.";
     const auto row = [](const char* name, Prepare prepare, int outcome, const QStringList& dialog) {
-        QTest::newRow(name) << prepare << outcome << dialog;
+        ::row(name, prepare, outcome, dialog);
     };
     row("no engine", [](World& w) { w.engines.list.clear(); }, RunResult::NoEngine,
         {warning, "Warning!", "Oops, you need to add an engine first. Do it in Tools / Options."});
@@ -192,9 +191,7 @@ void TestRun::failures_data()
 
 void TestRun::failures()
 {
-    QFETCH(Prepare, prepare);
-    QFETCH(int, outcome);
-    QFETCH(QStringList, dialog);
+    const auto [prepare, outcome, dialog] = fetched<Prepare, int, QStringList>();
     PlannedDialogs dialogs;
     World world;
     world.open("hero.code", "hero");
@@ -230,25 +227,20 @@ void TestRun::foreignExecutable()
 
 void TestRun::arguments_data()
 {
-    QTest::addColumn<QString>("parameters");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("texts");
+    columns<QString, QStringList, QString>("parameters", "arguments", "texts");
     const QString c0 = "copies/zorvs_0/zorvs_0", c1 = "copies/zorvs_1/zorvs_1";
-    QTest::newRow("front") << "%0" << QStringList{c0} << "A";
-    QTest::newRow("in order of the marks") << "%2 %1" << QStringList{c0, c1} << "BA";
-    QTest::newRow("one copy for one mark") << "%2 -x %2" << QStringList{c0, "-x", c0} << "BB";
-    QTest::newRow("several in an argument")
-        << "a%1b%2c" << QStringList{"a" + c0 + "b" + c1 + "c"} << "";
-    QTest::newRow("two blanks") << "-a  %1 " << QStringList{"-a", "", c0, ""} << "A";
-    QTest::newRow("above the count") << "%3 %1 %12" << QStringList{"%3", c1, "%12"} << "A";
-    QTest::newRow("two digits of three") << "%021" << QStringList{c0 + "1"} << "";
+    row("front", "%0", QStringList{c0}, "A");
+    row("in order of the marks", "%2 %1", QStringList{c0, c1}, "BA");
+    row("one copy for one mark", "%2 -x %2", QStringList{c0, "-x", c0}, "BB");
+    row("several in an argument", "a%1b%2c", QStringList{"a" + c0 + "b" + c1 + "c"}, "");
+    row("two blanks", "-a  %1 ", QStringList{"-a", "", c0, ""}, "A");
+    row("above the count", "%3 %1 %12", QStringList{"%3", c1, "%12"}, "A");
+    row("two digits of three", "%021", QStringList{c0 + "1"}, "");
 }
 
 void TestRun::arguments()
 {
-    QFETCH(QString, parameters);
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, texts);
+    const auto [parameters, arguments, texts] = fetched<QString, QStringList, QString>();
     PlannedDialogs dialogs;
     World world("exit 0", parameters);
     world.open("a.code", "A");
@@ -319,7 +311,7 @@ void TestRun::hostLooksBeforeTheStart()
     };
     QCOMPARE(world.run().outcome, RunResult::GivenUp);
     QCOMPARE(copies, 1);
-    QCOMPARE(world.record("started"), QString());
+    QCOMPARE(world.record("started"), QString("(not there)"));
     QCOMPARE(world.engineFiles(), before);
     QVERIFY(!world.tree->isRunning());
     QCOMPARE(dialogs.count(), 0);
@@ -327,9 +319,7 @@ void TestRun::hostLooksBeforeTheStart()
 
 void TestRun::paths_data()
 {
-    QTest::addColumn<QString>("main");
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<bool>("isWhole");
+    columns<QString, QString, bool>("main", "folder", "isWhole");
     const QString names[] = {"hero.code", "chars/hero/hero.code", "-träume %1 x/50%0 ü.code",
                              "zorvs_0", "a\nb/$(x).code"};
     for (const QString& main : names) {
@@ -345,9 +335,7 @@ void TestRun::paths_data()
 // Wherever a project lies, its copy is where the argument says, with its other files.
 void TestRun::paths()
 {
-    QFETCH(QString, main);
-    QFETCH(QString, folder);
-    QFETCH(bool, isWhole);
+    const auto [main, folder, isWhole] = fetched<QString, QString, bool>();
     World world("", "--file %0");
     world.writeScript(world.exe, "printf %s \"$2\" >\"$R/path\"; cat \"$2\" >\"$R/texts\"\n"
                                  "cat \"${2%/*}/sub/a b\" >\"$R/other\"; echo $# >\"$R/count\"");
@@ -463,9 +451,8 @@ void TestRun::oneAtATime()
 void TestRun::stop_data()
 {
     QTest::addColumn<QByteArray>("engine");
-    QTest::newRow("goes when it is asked") << QByteArray("echo x; exec sleep 1000");
-    QTest::newRow("does not listen")
-        << QByteArray("trap '' TERM; echo x; while :; do sleep 0.05; done");
+    row("goes when it is asked", QByteArray("echo x; exec sleep 1000"));
+    row("does not listen", QByteArray("trap '' TERM; echo x; while :; do sleep 0.05; done"));
 }
 
 void TestRun::stop()
@@ -549,38 +536,22 @@ void TestRun::editorIsKilled()
 
 void TestRun::recordsThatAreNoCopies_data()
 {
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QByteArray>("damage");
-    QTest::addColumn<bool>("goes");
-    QTest::newRow("sound") << "zorvs_0-x"
-                           << "mine" << QByteArray() << true;
-    QTest::newRow("another folder") << "precious"
-                                    << "" << QByteArray() << false;
-    QTest::newRow("above") << "zorvs_0-x/../precious"
-                           << "" << QByteArray() << false;
-    QTest::newRow("outside") << "../zorvs_9"
-                             << "" << QByteArray() << false;
-    QTest::newRow("through a link") << "link/zorvs_9"
-                                    << "" << QByteArray() << false;
-    QTest::newRow("a link") << "zorvs_1"
-                            << "" << QByteArray() << false;
-    QTest::newRow("the engine's folder") << ""
-                                         << "" << QByteArray() << false;
-    QTest::newRow("file without a copy") << ""
-                                         << "mine" << QByteArray() << false;
-    QTest::newRow("cut") << "zorvs_0-x"
-                         << "mine" << QByteArray("cut") << false;
-    QTest::newRow("changed") << "zorvs_0-x"
-                             << "mine" << QByteArray("change") << false;
+    columns<QString, QString, QByteArray, bool>("folder", "file", "damage", "goes");
+    row("sound", "zorvs_0-x", "mine", QByteArray(), true);
+    row("another folder", "precious", "", QByteArray(), false);
+    row("above", "zorvs_0-x/../precious", "", QByteArray(), false);
+    row("outside", "../zorvs_9", "", QByteArray(), false);
+    row("through a link", "link/zorvs_9", "", QByteArray(), false);
+    row("a link", "zorvs_1", "", QByteArray(), false);
+    row("the engine's folder", "", "", QByteArray(), false);
+    row("file without a copy", "", "mine", QByteArray(), false);
+    row("cut", "zorvs_0-x", "mine", QByteArray("cut"), false);
+    row("changed", "zorvs_0-x", "mine", QByteArray("change"), false);
 }
 
 void TestRun::recordsThatAreNoCopies()
 {
-    QFETCH(QString, folder);
-    QFETCH(QString, file);
-    QFETCH(QByteArray, damage);
-    QFETCH(bool, goes);
+    const auto [folder, file, damage, goes] = fetched<QString, QString, QByteArray, bool>();
     const World world;
     const QString engine = world.root + "engine/";
     for (const char* name : {"engine/zorvs_0-x/a", "engine/precious/a", "zorvs_9/a", "engine/mine",

@@ -1,5 +1,6 @@
 #include "core/dialogs/dialogs.h"
 #include "core/dialogs/rundlg.h"
+#include "support/testtable.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -32,11 +33,8 @@ private slots:
 
     void answers_data()
     {
-        QTest::addColumn<Act>("act");
-        QTest::addColumn<int>("answer");
-        const auto row = [](const char* name, Act act, int answer) {
-            QTest::newRow(name) << act << answer;
-        };
+        columns<Act, int>("act", "answer");
+        const auto row = [](const char* name, Act act, int answer) { ::row(name, act, answer); };
         row(
             "double click", [](RunDlg*, QListView* list) { click(list, 71, true); }, 71);
         row(

@@ -3,6 +3,7 @@
 #include "core/enginemodel.h"
 #include "editors/framework/fileeditor.h"
 #include "randomgame.h"
+#include "support/blobeditor.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
 
@@ -11,24 +12,6 @@
 using namespace Zorv;
 
 namespace {
-
-class BlobEditor : public FileEditor
-{
-public:
-    QAction* action() const override { return nullptr; }
-    QString name() const override { return "blob"; }
-    int canEditFileType() const override { return 0; }
-    QStringList areas() const override { return {}; }
-    void retranslate() override {}
-    void find(const QString&, unsigned) override {}
-    void replace(const QString&, const QString&, unsigned, bool) override {}
-    void selectAll() override {}
-    ProjectFile* file() const override { return nullptr; }
-    void cut() override {}
-    void copy() override {}
-    void paste() override {}
-    QString fileFilter() const override { return "Blob;.blob"; }
-};
 
 // What the model shows, from its root down, with the place of each node.
 QStringList places(const TestParent& parent, const QModelIndex& index = {})

@@ -2,7 +2,9 @@
 #include "core/filesystemarchive.h"
 #include "core/safefile.h"
 #include "support/faultshim.h"
+#include "support/folders.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include <QTemporaryDir>
 #include <QTextCursor>
@@ -23,12 +25,6 @@ namespace {
 const int BlockSize = 100000;
 const int BlockCount = 20;
 const int KillCount = 220;
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-}
 
 QStringList leftovers(const QString& folder)
 {
@@ -88,9 +84,7 @@ private slots:
 
     void everyCallFails_data()
     {
-        QTest::addColumn<int>("call");
-        QTest::addColumn<int>("error");
-        QTest::addColumn<bool>("isShort");
+        columns<int, int, bool>("call", "error", "isShort");
         QTest::newRow("open") << int(FaultOpen) << EACCES << false;
         QTest::newRow("open, too many files") << int(FaultOpen) << EMFILE << false;
         QTest::newRow("write, disk full") << int(FaultWrite) << ENOSPC << false;
@@ -103,16 +97,14 @@ private slots:
 
     void everyCallFails()
     {
-        QFETCH(int, call);
-        QFETCH(int, error);
-        QFETCH(bool, isShort);
+        const auto [call, error, isShort] = fetched<int, int, bool>();
         const auto kind = FaultCall(call);
         faultArm("victim", kind, 0, 0, 0);
         QVERIFY(save(path, 'o'));
         const int calls = faultCalls(kind);
         QVERIFY2(calls > 0, "the shim is not in the way of the calls");
 
-        const QByteArray old = contentOf(path);
+        const QByteArray old = readFile(path);
         QVERIFY(isWhole(old));
         for (int nth = 1; nth <= calls; ++nth) {
             faultArm("victim", kind, nth, error, isShort);
@@ -121,7 +113,7 @@ private slots:
             faultArm("", FaultOpen, 0, 0, 0);
             QVERIFY2(text.contains(path), qPrintable(text));
             QVERIFY2(text.contains(qt_error_string(error)), qPrintable(text));
-            QCOMPARE(contentOf(path), old);
+            QCOMPARE(readFile(path), old);
             QCOMPARE(leftovers(folder->path()), QStringList());
         }
     }
@@ -149,7 +141,7 @@ private slots:
         QVERIFY(change());
         const int calls = faultCalls(kind);
         QVERIFY(save(path, 'o'));
-        const QByteArray old = contentOf(path);
+        const QByteArray old = readFile(path);
         for (int nth = 1; nth <= calls; ++nth) {
             // The file that is only read has nothing to lose when it is closed.
             if (kind == FaultClose && nth == 1) {
@@ -158,7 +150,7 @@ private slots:
             faultArm("victim", kind, nth, error, isShort);
             QVERIFY2(!change(), qPrintable(QString::number(nth)));
             faultArm("", FaultOpen, 0, 0, 0);
-            QCOMPARE(contentOf(path), old);
+            QCOMPARE(readFile(path), old);
             QCOMPARE(leftovers(folder->path()), QStringList());
         }
     }
@@ -172,7 +164,7 @@ private slots:
         QCOMPARE(device->write(large), qint64(-1));
         QCOMPARE(device->write("x"), qint64(-1));
         QVERIFY(!archive->closeFile(device));
-        QVERIFY(isWhole(contentOf(path)));
+        QVERIFY(isWhole(readFile(path)));
     }
 
     // What is told is why, also of a result that a disk took half of.
@@ -188,7 +180,7 @@ private slots:
 
     void fullDisk()
     {
-        const QByteArray old = contentOf(path);
+        const QByteArray old = readFile(path);
         const int status = inChild([this] {
             std::signal(SIGXFSZ, SIG_IGN);
             const rlimit limit{BlockSize * 3 + 7, BlockSize * 3 + 7};
@@ -200,45 +192,29 @@ private slots:
             return error.contains(qt_error_string(EFBIG)) ? 0 : 2;
         });
         QCOMPARE(status, 0);
-        QCOMPARE(contentOf(path), old);
+        QCOMPARE(readFile(path), old);
         QCOMPARE(leftovers(folder->path()), QStringList());
     }
 
     void folderWithoutWritePermission()
     {
-        const QByteArray old = contentOf(path);
+        const QByteArray old = readFile(path);
         QVERIFY(QFile::setPermissions(folder->path(), QFile::Permissions(0x5555)));
-        const int status = inChild([this] {
-            if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) {
-                return 3;
-            }
-            QString error;
-            if (save(path, 'n', &error)) {
-                return 1;
-            }
-            return error.contains(path) ? 0 : 2;
-        });
+        const int status = savedAsNobody();
         QVERIFY(QFile::setPermissions(folder->path(), QFile::Permissions(0x7755)));
         QCOMPARE(status, 0);
-        QCOMPARE(contentOf(path), old);
+        QCOMPARE(readFile(path), old);
         QCOMPARE(leftovers(folder->path()), QStringList());
     }
 
     // A file that may not be written is not replaced by way of its folder either.
     void writeProtectedFile()
     {
-        const QByteArray old = contentOf(path);
+        const QByteArray old = readFile(path);
         QVERIFY(QFile::setPermissions(folder->path(), QFile::Permissions(0x7777)));
         QVERIFY(QFile::setPermissions(path, QFile::Permissions(0x4444)));
-        const int status = inChild([this] {
-            if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) {
-                return 3;
-            }
-            QString error;
-            return save(path, 'n', &error) ? 1 : 0;
-        });
-        QCOMPARE(status, 0);
-        QCOMPARE(contentOf(path), old);
+        QCOMPARE(savedAsNobody(), 0);
+        QCOMPARE(readFile(path), old);
         QCOMPARE(leftovers(folder->path()), QStringList());
     }
 
@@ -280,12 +256,12 @@ private slots:
         QVERIFY(!copyFile(archive, folder->filePath(QStringLiteral("missing")), archive, target,
                           &error));
         QVERIFY(error.contains(QStringLiteral("missing")));
-        QVERIFY(isWhole(contentOf(target)));
+        QVERIFY(isWhole(readFile(target)));
 
         faultArm("victim", FaultWrite, 2, ENOSPC, 0);
         QVERIFY(copyFile(archive, target, archive, path, &error));
         QVERIFY(error.contains(path));
-        QCOMPARE(contentOf(path).at(0), 'o');
+        QCOMPARE(readFile(path).at(0), 'o');
     }
 
     // Each time the old or the new file is found, and the next save clears up.
@@ -305,7 +281,7 @@ private slots:
             usleep(useconds_t(random.bounded(12000)));
             kill(pid, SIGKILL);
             waitpid(pid, nullptr, 0);
-            QVERIFY(isWhole(contentOf(path)));
+            QVERIFY(isWhole(readFile(path)));
             const int count = leftovers(folder->path()).size();
             QVERIFY(count <= 1);
             withLeftover += count;
@@ -316,6 +292,21 @@ private slots:
     }
 
 private:
+    /// 0 if it was refused, and told so with the path.
+    int savedAsNobody()
+    {
+        return inChild([this] {
+            if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) {
+                return 3;
+            }
+            QString error;
+            if (save(path, 'n', &error)) {
+                return 1;
+            }
+            return error.contains(path) ? 0 : 2;
+        });
+    }
+
     std::unique_ptr<QTemporaryDir> folder;
     QString path;
 };

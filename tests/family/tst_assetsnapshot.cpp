@@ -4,8 +4,11 @@
 #include "family/assets/newsprites.h"
 #include "family/assets/soundfile.h"
 #include "family/assets/spritefile.h"
+#include "family/shades.h"
+#include "support/folders.h"
 #include "support/testinterface.h"
 #include "support/testsounds.h"
+#include "support/testtable.h"
 
 #include <zorv/core/filesystemarchive.h>
 #include <zorv/media/losslessimages.h>
@@ -20,25 +23,6 @@
 using namespace Family;
 
 namespace {
-
-Zorv::Archive& disk()
-{
-    return *Zorv::FileSystemArchive::instance();
-}
-
-QImage shades(int kind)
-{
-    QImage image(5, 3, QImage::Format_Indexed8);
-    QVector<QRgb> table;
-    for (int i = 0; i < 256; ++i) {
-        table.append(qRgb(i, kind, 0));
-    }
-    image.setColorTable(table);
-    for (int i = 0; i < 15; ++i) {
-        image.setPixel(i % 5, i / 5, uint(i * (kind + 1)));
-    }
-    return image;
-}
 
 Zorv::SoundSample noise(int kind)
 {
@@ -153,8 +137,7 @@ private slots:
 
 void TestAssetSnapshot::comesBack_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<int>("cacheType");
+    columns<QString, int>("kind", "cacheType");
     for (const char* kind : {"sprites", "folder", "sounds"}) {
         QTest::addRow("%s in memory", kind) << kind << 1;
         QTest::addRow("%s in a temporary file", kind) << kind << 2;
@@ -163,8 +146,7 @@ void TestAssetSnapshot::comesBack_data()
 
 void TestAssetSnapshot::comesBack()
 {
-    QFETCH(QString, kind);
-    QFETCH(int, cacheType);
+    const auto [kind, cacheType] = fetched<QString, int>();
     TestInterface interface;
     interface.options.insert(QStringLiteral("cache_type"), cacheType);
     QTemporaryDir folder;
@@ -184,8 +166,7 @@ void TestAssetSnapshot::comesBack()
         path = folder.path();
         const QByteArray gif =
             QByteArray::fromBase64("R0lGODdhAgACAIAAAAAAAP///ywAAAAAAgACAAACA0QCBQA7");
-        QFile file(folder.filePath(QStringLiteral("3_3.gif")));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(gif) == gif.size());
+        QVERIFY(writeFile(folder.filePath(QStringLiteral("3_3.gif")), gif));
     }
     for (int i = 0; i < 4 && kind == QLatin1String("folder"); ++i) {
         QVERIFY(shades(i).save(folder.filePath(QStringLiteral("2_%1.png").arg(i))));

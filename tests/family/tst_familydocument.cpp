@@ -1,5 +1,6 @@
 #include "familydump.h"
 
+#include "support/folders.h"
 #include "support/randomtext.h"
 
 #include <zorv/core/filesystemarchive.h>
@@ -431,9 +432,7 @@ void TestFamilyDocument::strangeFiles()
     QFETCH(QByteArray, data);
     QTemporaryDir folder;
     const QString name = folder.path() + QStringLiteral("/a.character");
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(data) == data.size());
-    file.close();
+    QVERIFY(writeFile(name, data));
     QString error;
     const std::unique_ptr<FamilyDocument> document(FamilyDocument::open(name, &error));
     QVERIFY2(document, qPrintable(error));

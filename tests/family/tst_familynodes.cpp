@@ -1,4 +1,5 @@
 #include "familydump.h"
+#include "support/testtable.h"
 
 #include <zorv/code/codedoc/codeblockdata.h>
 
@@ -61,11 +62,8 @@ private slots:
 
 void TestFamilyNodes::setValue_data()
 {
-    QTest::addColumn<QString>("head");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("after");
+    columns<QString, QString, QString, QString, QString>("head", "before", "path", "value",
+                                                         "after");
     const auto row = [](const char* head, const char* before, const char* path, const char* value,
                         const char* after) {
         QTest::addRow("%s %s %s", before, path, value)
@@ -145,11 +143,8 @@ void TestFamilyNodes::setValue_data()
 
 void TestFamilyNodes::setValue()
 {
-    QFETCH(QString, head);
-    QFETCH(QString, before);
-    QFETCH(QString, path);
-    QFETCH(QString, value);
-    QFETCH(QString, after);
+    const auto [head, before, path, value, after] =
+        fetched<QString, QString, QString, QString, QString>();
     const QString top = head.isEmpty() ? QString() : head + QLatin1Char('\n');
     FamilyDocument document(FileKind::Character);
     document.fromString(top + before + QLatin1String("\n# below"));
@@ -170,8 +165,7 @@ void TestFamilyNodes::setValue()
 
 void TestFamilyNodes::refusedValue_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("value");
+    columns<QString, QString>("path", "value");
     const auto row = [](const char* path, const char* value) {
         QTest::addRow("%s %s", path, value) << path << value;
     };
@@ -199,8 +193,7 @@ void TestFamilyNodes::refusedValue_data()
 
 void TestFamilyNodes::refusedValue()
 {
-    QFETCH(QString, path);
-    QFETCH(QString, value);
+    const auto [path, value] = fetched<QString, QString>();
     FamilyDocument document(FileKind::Character);
     const QString text =
         QStringLiteral("[info]\nname = \"a\"\ncreated = 2024-01-01\n[constants]\nlife = 5\n"
@@ -237,44 +230,27 @@ void TestFamilyNodes::writeTakesValues()
 
 void TestFamilyNodes::clearErrorsOfPaths_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("hint");
-    QTest::newRow("near key") << "constants.lief"
-                              << "'life'";
-    QTest::newRow("near group") << "constant.life"
-                                << "'constants'";
-    QTest::newRow("near sub-group") << "constants.wlak.back"
-                                    << "'walk'";
-    QTest::newRow("near animation") << "animation:20"
-                                    << "'animation:200'";
-    QTest::newRow("frame too far") << "animation:200/frame:9"
-                                   << "1 frame(s)";
-    QTest::newRow("frame below zero") << "animation:200/frame:-1"
-                                      << "character";
-    QTest::newRow("box too far") << "animation:200/frame:0/body:0"
-                                 << "0 of them";
-    QTest::newRow("near option") << "animation:200/frame:0/dely"
-                                 << "'delay'";
-    QTest::newRow("second of one") << "constants.life#2"
-                                   << "'life'";
-    QTest::newRow("below a value") << "constants.life.x"
-                                   << "'x'";
-    QTest::newRow("below an option") << "animation:200/frame:0/delay/x"
-                                     << "no parts";
-    QTest::newRow("empty") << ""
-                           << "Expected names";
-    QTest::newRow("two points") << "constants..life"
-                                << "character 11";
-    QTest::newRow("no number") << "constants#x.life"
-                               << "character";
-    QTest::newRow("open quote") << "move:\"a.b"
-                                << "character";
+    columns<QString, QString>("path", "hint");
+    row("near key", "constants.lief", "'life'");
+    row("near group", "constant.life", "'constants'");
+    row("near sub-group", "constants.wlak.back", "'walk'");
+    row("near animation", "animation:20", "'animation:200'");
+    row("frame too far", "animation:200/frame:9", "1 frame(s)");
+    row("frame below zero", "animation:200/frame:-1", "character");
+    row("box too far", "animation:200/frame:0/body:0", "0 of them");
+    row("near option", "animation:200/frame:0/dely", "'delay'");
+    row("second of one", "constants.life#2", "'life'");
+    row("below a value", "constants.life.x", "'x'");
+    row("below an option", "animation:200/frame:0/delay/x", "no parts");
+    row("empty", "", "Expected names");
+    row("two points", "constants..life", "character 11");
+    row("no number", "constants#x.life", "character");
+    row("open quote", "move:\"a.b", "character");
 }
 
 void TestFamilyNodes::clearErrorsOfPaths()
 {
-    QFETCH(QString, path);
-    QFETCH(QString, hint);
+    const auto [path, hint] = fetched<QString, QString>();
     FamilyDocument document(FileKind::Character);
     document.fromString(QStringLiteral("[constants]\nlife = 5\n[.walk]\nback = 1\nanimation 200\n"
                                        "frame 0,0"));
@@ -290,8 +266,7 @@ void TestFamilyNodes::everyPathLeadsBack_data()
     const QStringList files = sampleFiles();
     QVERIFY(files.size() > 10);
     for (const QString& file : files) {
-        QTest::newRow(qPrintable(QDir(QStringLiteral(ZORV_SAMPLES)).relativeFilePath(file)))
-            << file;
+        row(qPrintable(QDir(QStringLiteral(ZORV_SAMPLES)).relativeFilePath(file)), file);
     }
 }
 
@@ -455,60 +430,22 @@ void TestFamilyNodes::boxesInsideOfAChange()
 
 void TestFamilyNodes::namesOfGroups_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("displayName");
-    QTest::addColumn<QString>("newName");
-    QTest::addColumn<QString>("after");
-    QTest::newRow("plain") << "[info] # c"
-                           << "info"
-                           << "info"
-                           << "files"
-                           << "[files] # c";
-    QTest::newRow("old name") << "[data]"
-                              << "constants"
-                              << "constants"
-                              << "files"
-                              << "[files]";
-    QTest::newRow("argument") << "[ move  a ]"
-                              << "a"
-                              << "move a"
-                              << "b"
-                              << "[ move  b ]";
-    QTest::newRow("no argument") << "[move]"
-                                 << ""
-                                 << "move "
-                                 << "b"
-                                 << "[move b]";
-    QTest::newRow("quotes") << "[move \"a b\"] # #"
-                            << "a b"
-                            << "move a b"
-                            << "c\"d"
-                            << "[move \"c\\\"d\"] # #";
-    QTest::newRow("unknown") << "[what]"
-                             << "what"
-                             << "what"
-                             << "info"
-                             << "[info]";
-    QTest::newRow("alone") << "[.walk]"
-                           << "walk"
-                           << ".walk"
-                           << "run"
-                           << "[.run]";
-    QTest::newRow("not a word") << "[info]"
-                                << "info"
-                                << "info"
-                                << "a b"
-                                << "[info]";
+    columns<QString, QString, QString, QString, QString>("line", "name", "displayName", "newName",
+                                                         "after");
+    row("plain", "[info] # c", "info", "info", "files", "[files] # c");
+    row("old name", "[data]", "constants", "constants", "files", "[files]");
+    row("argument", "[ move  a ]", "a", "move a", "b", "[ move  b ]");
+    row("no argument", "[move]", "", "move ", "b", "[move b]");
+    row("quotes", "[move \"a b\"] # #", "a b", "move a b", "c\"d", "[move \"c\\\"d\"] # #");
+    row("unknown", "[what]", "what", "what", "info", "[info]");
+    row("alone", "[.walk]", "walk", ".walk", "run", "[.run]");
+    row("not a word", "[info]", "info", "info", "a b", "[info]");
 }
 
 void TestFamilyNodes::namesOfGroups()
 {
-    QFETCH(QString, line);
-    QFETCH(QString, name);
-    QFETCH(QString, displayName);
-    QFETCH(QString, newName);
-    QFETCH(QString, after);
+    const auto [line, name, displayName, newName, after] =
+        fetched<QString, QString, QString, QString, QString>();
     FamilyDocument document(FileKind::Character);
     document.fromString(line);
     auto* group = dynamic_cast<GroupNode*>(document.childAt(0));

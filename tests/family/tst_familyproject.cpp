@@ -10,9 +10,12 @@
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
 #include "family/project/filereference.h"
+#include "support/folders.h"
 #include "support/planneddialogs.h"
+#include "support/release.h"
 #include "support/testinterface.h"
 #include "support/testsounds.h"
+#include "support/testtable.h"
 
 #include <zorv/core/filesystemarchive.h>
 #include <zorv/core/messagelist.h>
@@ -28,20 +31,6 @@ using namespace Family;
 using Zorv::FileID;
 
 namespace {
-
-void writeFile(const QString& name, const QByteArray& data)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(name).path()));
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(data), qint64(data.size()));
-}
-
-QByteArray readFile(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 constexpr char mainText[] = "[info]\r\nname = \"Hero\"\r\n"
                             "[files]\r\n"
@@ -158,7 +147,6 @@ private slots:
     void checkOfWhatIsNotThere_data();
     void checkOfWhatIsNotThere();
     void screenOfTheGame();
-    void engines();
 };
 
 void TestFamilyProject::openLoadsWhatIsNamed()
@@ -315,8 +303,7 @@ void TestFamilyProject::projectFiles()
 
 void TestFamilyProject::pathFaults_data()
 {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<int>("fault");
+    columns<QString, int>("path", "fault");
     const auto row = [](const char* path, PathFault fault) {
         QTest::newRow(path) << QString::fromUtf8(path) << int(fault);
     };
@@ -335,8 +322,7 @@ void TestFamilyProject::pathFaults_data()
 
 void TestFamilyProject::pathFaults()
 {
-    QFETCH(QString, path);
-    QFETCH(int, fault);
+    const auto [path, fault] = fetched<QString, int>();
     const Game game;
     QCOMPARE(int(pathFault(game.path(""), game.hero("hero.character"), path)), fault);
     // The root can come without its slash.
@@ -460,8 +446,7 @@ void TestFamilyProject::assetsTravel()
             QCOMPARE(contentOf(copy), before);
         }
         QString error;
-        const std::unique_ptr<SpriteCollection, void (*)(SpriteCollection*)> copied(
-            openSprites(copy, &error), [](SpriteCollection* each) { each->release(); });
+        const std::unique_ptr<SpriteCollection, Release> copied(openSprites(copy, &error));
         QVERIFY(copied);
         QCOMPARE(copied->count(), isModified ? 2U : 1U);
         SoundFile sounds;
@@ -618,20 +603,6 @@ void TestFamilyProject::checkOfWhatIsNotThere()
     QString error;
     QVERIFY(checkGame(game.path("") + name, &error).isEmpty());
     QVERIFY2(error.contains(name), qPrintable(error));
-}
-
-void TestFamilyProject::engines()
-{
-    FamilyEngineModel model;
-    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    QCOMPARE(model.engine(0).name, QString());
-    QVector<Zorv::EngineInfo> engines(2);
-    engines[1].name = QStringLiteral("Second");
-    engines[1].parameters = QStringLiteral("--fast %0");
-    model.setEngines(engines);
-    QCOMPARE(model.index(1, 0).data().toString(), QStringLiteral("Second"));
-    QCOMPARE(model.engine(1).parameters, QStringLiteral("--fast %0"));
-    QCOMPARE(model.engine(7).name, QString());
 }
 
 QTEST_MAIN(TestFamilyProject)

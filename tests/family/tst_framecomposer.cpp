@@ -7,6 +7,8 @@
 #include "family/stage/framecomposer.h"
 #include "family/stage/pictureraster.h"
 #include "family/stage/placedpicture.h"
+#include "support/release.h"
+#include "support/testtable.h"
 
 #include <QTransform>
 #include <QtTest>
@@ -114,15 +116,6 @@ bool isClose(QRgb a, QRgb b)
            (qAbs(qRed(a) - qRed(b)) < 2 && qAbs(qGreen(a) - qGreen(b)) < 2 &&
             qAbs(qBlue(a) - qBlue(b)) < 2 && qAbs(qAlpha(a) - qAlpha(b)) < 2);
 }
-
-struct Release
-{
-    template <class Object>
-    void operator()(Object* object) const
-    {
-        object->release();
-    }
-};
 
 }  // namespace
 
@@ -317,33 +310,28 @@ void TestFrameComposer::drawsBoxesAndAxis()
 
 void TestFrameComposer::refusesWhatCannotBeDrawn_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<float>("zoom");
-    QTest::addColumn<QString>("error");
+    columns<QString, float, QString>("line", "zoom", "error");
     const QString fine = QStringLiteral("frame 0,0");
     const QString zoom = QStringLiteral("A zoom is above 0");
-    QTest::newRow("no sprite") << QStringLiteral("frame 7,7") << 1.0F << QStringLiteral("7,7");
-    QTest::newRow("nothing left") << QStringLiteral("frame 0,0  scale 0.01,1") << 1.0F
-                                  << QStringLiteral("scaled to nothing");
-    QTest::newRow("too large") << QStringLiteral("frame 0,1  scale 64,64") << 64.0F
-                               << QStringLiteral("131072 by 131072 pixels");
-    QTest::newRow("turned, too large") << QStringLiteral("frame 0,1  scale 64,64  angle 5") << 64.0F
-                                       << QStringLiteral("which is too large");
-    QTest::newRow("hardly turned") << QStringLiteral("frame 0,1  scale 64,64  angle 0.000001")
-                                   << 64.0F << QStringLiteral("which is too large");
-    QTest::newRow("far away") << QStringLiteral("frame 0,0  offset 2147483647,-2147483648") << 64.0F
-                              << QString();
-    QTest::newRow("no zoom") << fine << 0.0F << zoom;
-    QTest::newRow("negative") << fine << -2.0F << zoom;
-    QTest::newRow("huge") << fine << 1e30F << zoom;
-    QTest::newRow("no number") << fine << std::numeric_limits<float>::quiet_NaN() << zoom;
+    row("no sprite", QStringLiteral("frame 7,7"), 1.0F, QStringLiteral("7,7"));
+    row("nothing left", QStringLiteral("frame 0,0  scale 0.01,1"), 1.0F,
+        QStringLiteral("scaled to nothing"));
+    row("too large", QStringLiteral("frame 0,1  scale 64,64"), 64.0F,
+        QStringLiteral("131072 by 131072 pixels"));
+    row("turned, too large", QStringLiteral("frame 0,1  scale 64,64  angle 5"), 64.0F,
+        QStringLiteral("which is too large"));
+    row("hardly turned", QStringLiteral("frame 0,1  scale 64,64  angle 0.000001"), 64.0F,
+        QStringLiteral("which is too large"));
+    row("far away", QStringLiteral("frame 0,0  offset 2147483647,-2147483648"), 64.0F, QString());
+    row("no zoom", fine, 0.0F, zoom);
+    row("negative", fine, -2.0F, zoom);
+    row("huge", fine, 1e30F, zoom);
+    row("no number", fine, std::numeric_limits<float>::quiet_NaN(), zoom);
 }
 
 void TestFrameComposer::refusesWhatCannotBeDrawn()
 {
-    QFETCH(QString, line);
-    QFETCH(float, zoom);
-    QFETCH(QString, error);
+    const auto [line, zoom, error] = fetched<QString, float, QString>();
     FrameStyle style;
     style.zoom = zoom;
     style.parts |= FrameStyle::Boxes | FrameStyle::Axis;

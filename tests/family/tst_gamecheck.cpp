@@ -3,6 +3,7 @@
 #include "family/familydocument.h"
 #include "support/folders.h"
 #include "support/randomtext.h"
+#include "support/testtable.h"
 
 #include <QDirIterator>
 #include <QTemporaryDir>
@@ -179,8 +180,7 @@ void TestGameCheck::afterEachChangeAsAnew()
 
 void TestGameCheck::doesOnlyWhatIsDue_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<int>("work");
+    columns<QString, int>("file", "work");
 
     // The file and those projects that name it.
     QTest::newRow("of one project") << "characters/maren/basics.anim" << 2;
@@ -190,8 +190,7 @@ void TestGameCheck::doesOnlyWhatIsDue_data()
 
 void TestGameCheck::doesOnlyWhatIsDue()
 {
-    QFETCH(QString, file);
-    QFETCH(int, work);
+    const auto [file, work] = fetched<QString, int>();
     QVERIFY(
         writeFile(path("stages/two/two.stage"), "[files]\ncode = \"../../shared/common.code\"\n"));
     GameCheck check(m_root);

@@ -9,7 +9,9 @@
 #include "family/grammar/linereader.h"
 #include "family/nodes/groupnode.h"
 #include "family/nodes/valuenode.h"
+#include "support/folders.h"
 #include "support/testsounds.h"
+#include "support/testtable.h"
 
 #include <zorv/code/codedoc/codeblockdata.h>
 #include <zorv/core/filesystemarchive.h>
@@ -29,14 +31,6 @@ Q_DECLARE_METATYPE(Family::ProblemId)
 namespace {
 
 constexpr quint32 Seed = 20260714;
-
-void writeFile(const QString& name, const QByteArray& data)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(name).path()));
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(data), qint64(data.size()));
-}
 
 // One sprite in one palette, and the files of the docs that have a fault.
 void writeSprites(const QString& name, int colours, bool hasMore)
@@ -70,9 +64,7 @@ void writeSounds(const QString& name, bool isDamaged)
 
 QString readDocs()
 {
-    QFile file(QStringLiteral(ZORV_DOCS "/grammar.md"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) + QLatin1Char('\n')
-                                          : QString();
+    return QString::fromUtf8(readFile(QStringLiteral(ZORV_DOCS "/grammar.md"))) + QLatin1Char('\n');
 }
 
 QString randomLine(QRandomGenerator& random)
@@ -115,10 +107,7 @@ private slots:
 
 void TestGrammar::problem_data()
 {
-    QTest::addColumn<ProblemId>("id");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("length");
+    columns<ProblemId, int, int, int>("id", "line", "column", "length");
     const struct
     {
         ProblemId id;
@@ -193,17 +182,14 @@ void TestGrammar::problem_data()
     };
     QCOMPARE(int(std::size(rows)), ProblemCount - 1);
     for (const auto& row : rows) {
-        QTest::newRow(problemInfo(row.id).name) << row.id << row.line << row.column << row.length;
+        ::row(problemInfo(row.id).name, row.id, row.line, row.column, row.length);
     }
 }
 
 // The examples of the table each show their one fault, in a whole game, and no other.
 void TestGrammar::problem()
 {
-    QFETCH(ProblemId, id);
-    QFETCH(int, line);
-    QFETCH(int, column);
-    QFETCH(int, length);
+    const auto [id, line, column, length] = fetched<ProblemId, int, int, int>();
     QTemporaryDir game;
     const QString folder = game.path() + QStringLiteral("/characters/example/");
     const ProblemInfo& info = problemInfo(id);
@@ -287,11 +273,9 @@ void TestGrammar::everyKeyIsInTheDocs()
 
 void TestGrammar::storedValue_data()
 {
-    QTest::addColumn<QString>("group");
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QVariant>("value");
+    columns<QString, QString, QVariant>("group", "line", "value");
     const auto row = [](const char* group, const char* line, const QVariant& value) {
-        QTest::newRow(line) << QString::fromUtf8(group) << QString::fromUtf8(line) << value;
+        ::row(line, QString::fromUtf8(group), QString::fromUtf8(line), value);
     };
     row("[info]", "name=\"Räy #1\"#x", QString::fromUtf8("Räy #1"));
     row("[info]", R"(note = "a\"b\\c\nd")", QStringLiteral("a\"b\\c\nd"));
@@ -321,9 +305,7 @@ void TestGrammar::storedValue_data()
 
 void TestGrammar::storedValue()
 {
-    QFETCH(QString, group);
-    QFETCH(QString, line);
-    QFETCH(QVariant, value);
+    const auto [group, line, value] = fetched<QString, QString, QVariant>();
     FamilyDocument document(FileKind::Character);
     document.fromString(group + QLatin1Char('\n') + line);
     const auto* node = dynamic_cast<ValueNode*>(document.nodeInBlock(document.lastBlock()));
@@ -404,23 +386,17 @@ void TestGrammar::columnsLieInTheLine()
 
 void TestGrammar::nearNames_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("near");
-    QTest::newRow("swapped letters") << "poewr"
-                                     << "power";
-    QTest::newRow("letter too many") << "lifes"
-                                     << "life";
-    QTest::newRow("upper case") << "Life"
-                                << "life";
-    QTest::newRow("nothing near") << "zzzzzz"
-                                  << "";
-    QTest::newRow("far too long") << QString(5000, QLatin1Char('l')) << "";
+    columns<QString, QString>("name", "near");
+    row("swapped letters", "poewr", "power");
+    row("letter too many", "lifes", "life");
+    row("upper case", "Life", "life");
+    row("nothing near", "zzzzzz", "");
+    row("far too long", QString(5000, QLatin1Char('l')), "");
 }
 
 void TestGrammar::nearNames()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, near);
+    const auto [name, near] = fetched<QString, QString>();
     const QStringList names = {QStringLiteral("life"), QStringLiteral("power"),
                                QStringLiteral("gravity")};
     QCOMPARE(nearName(name, names), near);

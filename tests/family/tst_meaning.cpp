@@ -7,7 +7,9 @@
 #include "family/grammar/grammar.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "support/folders.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -87,11 +89,8 @@ void TestMeaning::initTestCase()
 
 void TestMeaning::write(const char* name, const QByteArray& data) const
 {
-    const QString path = folder->filePath(QLatin1String("characters/hero/") + QLatin1String(name));
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(data), qint64(data.size()));
+    QVERIFY(
+        writeFile(folder->filePath(QLatin1String("characters/hero/") + QLatin1String(name)), data));
 }
 
 void TestMeaning::init()
@@ -136,10 +135,7 @@ FamilyDocument* TestMeaning::take(const MarkedText& marked)
 // clang-format off
 void TestMeaning::completions_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("some");
-    QTest::addColumn<QStringList>("none");
-    QTest::addColumn<QString>("replaced");
+    columns<QString, QStringList, QStringList, QString>("text", "some", "none", "replaced");
     using S = QStringList;
     const S nothing{"*"};
     QTest::newRow("group") << "[co|" << S{"constants", "move", "layer"} << S{"walk", "data", "arena"} << "co";
@@ -177,9 +173,7 @@ void TestMeaning::completions_data()
 
 void TestMeaning::completions()
 {
-    QFETCH(QString, text);
-    QFETCH(QStringList, some);
-    QFETCH(QStringList, none);
+    const auto [text, some, none] = fetched<QString, QStringList, QStringList>();
     const MarkedText marked(text);
     const Completions found = completionsAt(take(marked), project, marked.line, marked.column);
     QStringList words;
@@ -236,9 +230,7 @@ void TestMeaning::everyOfferIsRead()
 // clang-format off
 void TestMeaning::meanings_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("part");
+    columns<QString, QString, QString>("text", "title", "part");
     QTest::newRow("group") << "[const|ants]" << "[constants]" << "The fixed numbers";
     QTest::newRow("sub-group") << "[constants]\n[.wa|lk]" << "[.walk]" << "Belongs to [constants]";
     QTest::newRow("unknown group") << "[mus|ik]" << "" << "";
@@ -266,9 +258,7 @@ void TestMeaning::meanings_data()
 
 void TestMeaning::meanings()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, title);
-    QFETCH(QString, part);
+    const auto [text, title, part] = fetched<QString, QString, QString>();
     const MarkedText marked(text);
     const WordMeaning found = meaningAt(take(marked), project, marked.line, marked.column);
     QCOMPARE(found.title, title);
@@ -279,9 +269,7 @@ void TestMeaning::meanings()
 // clang-format off
 void TestMeaning::references_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<QString>("target");
+    columns<QString, QString, QString>("text", "word", "target");
     QTest::newRow("animation") << "[move a]\nanimation = 20|0" << "200" << "hero.anim:1:11";
     QTest::newRow("the document's own first") << "[move a]\nanimation = 200|\nanimation 200" << "200" << "moves.code:3:11";
     QTest::newRow("missing animation") << "[move a]\nanimation = |201" << "201" << "There is no animation '201'.";

@@ -2,6 +2,7 @@
 
 #include "family/nodes/frameedit.h"
 #include "family/redundantlines.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -77,9 +78,7 @@ private slots:
 
 void TestRedundantLines::removes_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<int>("count");
+    columns<QString, QString, int>("before", "after", "count");
     const auto row = [](const char* title, const char* before, const char* after, int count) {
         QTest::newRow(title) << QLatin1String("animation 1\n") + QLatin1String(before)
                              << QLatin1String("animation 1\n") + QLatin1String(after) << count;
@@ -107,9 +106,7 @@ void TestRedundantLines::removes_data()
 
 void TestRedundantLines::removes()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    QFETCH(int, count);
+    const auto [before, after, count] = fetched<QString, QString, int>();
     FamilyDocument document(FileKind::Animations);
     document.fromString(before);
     QStringList told;

@@ -1,8 +1,10 @@
 #include "family/assets/soundfile.h"
 #include "support/brokenbytes.h"
+#include "support/folders.h"
 #include "support/memoryarchive.h"
 #include "support/testinterface.h"
 #include "support/testsounds.h"
+#include "support/testtable.h"
 
 #include <zorv/cache/crc64.h>
 #include <zorv/core/filesystemarchive.h>
@@ -64,18 +66,6 @@ QVector<Plain> plainOf(const SoundFile& file)
         result.append({file.index(int(i)).data().toString(), info.channels, info.bits, data});
     }
     return result;
-}
-
-QByteArray read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& data)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(data) == data.size());
 }
 
 void put(QByteArray& file, int at, quint64 value, int bytes)
@@ -188,7 +178,7 @@ void TestSoundFile::randomOperations()
             QCOMPARE(plainOf(other), plain);
             QCOMPARE(other.loadErrors(), QStringList());
             QVERIFY(other.toFile(disk(), path("b.sounds"), true));
-            QCOMPARE(read(path("b.sounds")), read(path("a.sounds")));
+            QCOMPARE(readFile(path("b.sounds")), readFile(path("a.sounds")));
         }
     }
     for (int i = states.size() - 2; i >= 0; --i) {
@@ -213,7 +203,8 @@ void TestSoundFile::equalSamplesAreStoredOnce()
     file.add(1, "0,1", soundOf(data, 2));
     file.sound(0)->duplicate();
     QVERIFY(file.toFile(disk(), path("three.sounds"), false));
-    QCOMPARE(read(path("three.sounds")).size(), read(path("one.sounds")).size() + 2 * RecordSize);
+    QCOMPARE(readFile(path("three.sounds")).size(),
+             readFile(path("one.sounds")).size() + 2 * RecordSize);
 }
 
 QByteArray TestSoundFile::smallFile()
@@ -224,7 +215,7 @@ QByteArray TestSoundFile::smallFile()
     file.add(2, "5,6", soundOf("noise!", 2, 8));
     file.add(3, "7,8", soundOf({}));
     file.toFile(disk(), path("small.sounds"), false);
-    return read(path("small.sounds"));
+    return readFile(path("small.sounds"));
 }
 
 // Whatever became of a byte: the sounds that are whole play what they did, the others are told, and
@@ -262,10 +253,7 @@ void TestSoundFile::brokenForms()
 
 void TestSoundFile::brokenRecords_data()
 {
-    QTest::addColumn<int>("at");
-    QTest::addColumn<quint64>("value");
-    QTest::addColumn<int>("bytes");
-    QTest::addColumn<QString>("fault");
+    columns<int, quint64, int, QString>("at", "value", "bytes", "fault");
     QTest::newRow("no channels") << 4 << quint64(0) << 2 << "form";
     QTest::newRow("no bits") << 6 << quint64(0) << 2 << "form";
     QTest::newRow("odd bits") << 6 << quint64(12) << 2 << "form";
@@ -284,10 +272,7 @@ void TestSoundFile::brokenRecords_data()
 // Values that no damage makes, but a program that writes such files could.
 void TestSoundFile::brokenRecords()
 {
-    QFETCH(int, at);
-    QFETCH(quint64, value);
-    QFETCH(int, bytes);
-    QFETCH(QString, fault);
+    const auto [at, value, bytes, fault] = fetched<int, quint64, int, QString>();
     QByteArray form = smallFile();
     put(form, HeadSize + RecordSize + at, value, bytes);
     // What deflated bytes could hold, plain ones are refused for at once.
@@ -296,14 +281,14 @@ void TestSoundFile::brokenRecords()
         put(form, HeadSize + RecordSize + 4, 8, 2);
     }
     seal(form, HeadSize + RecordSize, RecordSize);
-    write(path("form.sounds"), form);
+    writeFile(path("form.sounds"), form);
     SoundFile file;
     QVERIFY(file.fromFile(disk(), path("form.sounds"), false));
     QVERIFY2(file.sound(1)->fault().contains(fault), qPrintable(file.sound(1)->fault()));
     QCOMPARE(file.loadErrors().size(), 1);
     QVERIFY(file.loadErrors().first().startsWith("Sound 2 (3,4): "));
     QVERIFY(file.toFile(disk(), path("saved.sounds"), false));
-    QCOMPARE(read(path("saved.sounds")).mid(HeadSize + RecordSize, 16),
+    QCOMPARE(readFile(path("saved.sounds")).mid(HeadSize + RecordSize, 16),
              form.mid(HeadSize + RecordSize, 16));
 
     file.removeBroken();
@@ -318,8 +303,7 @@ void TestSoundFile::brokenRecords()
 
 void TestSoundFile::noSoundFile_data()
 {
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<QString>("reason");
+    columns<QByteArray, QString>("data", "reason");
     QByteArray newer = smallFile();
     put(newer, 8, 2, 2);
     seal(newer, 0, HeadSize);
@@ -332,9 +316,8 @@ void TestSoundFile::noSoundFile_data()
 
 void TestSoundFile::noSoundFile()
 {
-    QFETCH(QByteArray, data);
-    QFETCH(QString, reason);
-    write(path("none.sounds"), data);
+    const auto [data, reason] = fetched<QByteArray, QString>();
+    writeFile(path("none.sounds"), data);
     SoundFile file;
     file.add(0, {}, soundOf("old sound."));
     const QVector<Plain> old = plainOf(file);
@@ -347,8 +330,7 @@ void TestSoundFile::noSoundFile()
 
 void TestSoundFile::everyKindOfCache_data()
 {
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("hasPlace");
+    columns<int, bool>("type", "hasPlace");
     QTest::newRow("memory") << 1 << true;
     QTest::newRow("temporary file") << 2 << true;
     QTest::newRow("no place for a temporary file") << 2 << false;
@@ -356,13 +338,12 @@ void TestSoundFile::everyKindOfCache_data()
 
 void TestSoundFile::everyKindOfCache()
 {
-    QFETCH(int, type);
-    QFETCH(bool, hasPlace);
+    const auto [type, hasPlace] = fetched<int, bool>();
     TestInterface host;
     host.options["cache_type"] = type;
     const QByteArray place = qgetenv("TMPDIR");
     if (!hasPlace) {
-        write(path("no folder"), "x");
+        writeFile(path("no folder"), "x");
         qputenv("TMPDIR", path("no folder").toLocal8Bit());
     }
     SoundFile file;

@@ -8,7 +8,9 @@
 #include "family/assets/spritejobs.h"
 #include "support/brokenbytes.h"
 #include "support/faultshim.h"
+#include "support/folders.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <zorv/core/filesystemarchive.h>
 #include <zorv/media/losslessimages.h>
@@ -30,12 +32,6 @@ constexpr int StreamsAt = PalettesAt + 2 * 1040;
 constexpr int SpritesAt = StreamsAt + 4 * 48;
 constexpr int RemapsAt = SpritesAt + 5 * 32;
 
-QByteArray fileBytes(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// Gives the bytes of a file to a collection, and takes the bytes that it saves.
 class Disk
 {
@@ -53,7 +49,7 @@ public:
     QByteArray save(SpriteCollection& sprites)
     {
         return sprites.toFile(*Zorv::FileSystemArchive::instance(), name(), false)
-                   ? fileBytes(name())
+                   ? readFile(name())
                    : QByteArray();
     }
 
@@ -130,8 +126,8 @@ private slots:
 void TestSpriteFile::savesTheSameBytes_data()
 {
     QTest::addColumn<int>("cacheType");
-    QTest::newRow("in memory") << 1;
-    QTest::newRow("in a temporary file") << 2;
+    row("in memory", 1);
+    row("in a temporary file", 2);
 }
 
 void TestSpriteFile::savesTheSameBytes()
@@ -193,39 +189,29 @@ void TestSpriteFile::takesAnyBytes()
 
 void TestSpriteFile::keepsBrokenRecords_data()
 {
-    QTest::addColumn<int>("at");
-    QTest::addColumn<int>("flipped");       // bits of the byte
-    QTest::addColumn<int>("resealedSize");  // 0: the checksum stays wrong
-    QTest::addColumn<QString>("told");
-    QTest::newRow("palette") << PalettesAt + 20 << 0x55 << 0
-                             << "Palette 1 is broken: its checksum is wrong.";
-    QTest::newRow("count of colours")
-        << PalettesAt + 5 << 0x55 << 1040 << "Palette 1 is broken: its values make no sense.";
-    QTest::newRow("pixels") << StreamsAt + 12 << 0x55 << 0
-                            << "Pixels 1 are broken: its checksum is wrong.";
-    QTest::newRow("codec") << StreamsAt + 16 << 0x55 << 48
-                           << "Pixels 1 are broken: its values make no sense.";
-    QTest::newRow("no codec") << StreamsAt + 16 << int(PixelCodec::Lz5) << 48
-                              << "Pixels 1 are broken: its values make no sense.";
-    QTest::newRow("place of pixels")
-        << StreamsAt + 3 << 0x55 << 48 << "Pixels 1 are broken: they are not in the file.";
-    QTest::newRow("sprite") << SpritesAt + 4 << 0x55 << 0
-                            << "Sprite 1 is broken: its checksum is wrong.";
-    QTest::newRow("its pixels")
-        << SpritesAt + 9 << 0x55 << 32
-        << "Sprite 1 (0,0) is broken: it names pixels or a palette that are not there.";
-    QTest::newRow("its palette")
-        << SpritesAt + 14 << 0x55 << 32
-        << "Sprite 1 (0,0) is broken: it names pixels or a palette that are not there.";
-    QTest::newRow("remap") << RemapsAt << 0x55 << 0 << "Remap 1 is broken: its checksum is wrong.";
+    // `flipped`: bits of the byte
+    // `resealedSize`: 0: the checksum stays wrong
+    columns<int, int, int, QString>("at", "flipped", "resealedSize", "told");
+    row("palette", PalettesAt + 20, 0x55, 0, "Palette 1 is broken: its checksum is wrong.");
+    row("count of colours", PalettesAt + 5, 0x55, 1040,
+        "Palette 1 is broken: its values make no sense.");
+    row("pixels", StreamsAt + 12, 0x55, 0, "Pixels 1 are broken: its checksum is wrong.");
+    row("codec", StreamsAt + 16, 0x55, 48, "Pixels 1 are broken: its values make no sense.");
+    row("no codec", StreamsAt + 16, int(PixelCodec::Lz5), 48,
+        "Pixels 1 are broken: its values make no sense.");
+    row("place of pixels", StreamsAt + 3, 0x55, 48,
+        "Pixels 1 are broken: they are not in the file.");
+    row("sprite", SpritesAt + 4, 0x55, 0, "Sprite 1 is broken: its checksum is wrong.");
+    row("its pixels", SpritesAt + 9, 0x55, 32,
+        "Sprite 1 (0,0) is broken: it names pixels or a palette that are not there.");
+    row("its palette", SpritesAt + 14, 0x55, 32,
+        "Sprite 1 (0,0) is broken: it names pixels or a palette that are not there.");
+    row("remap", RemapsAt, 0x55, 0, "Remap 1 is broken: its checksum is wrong.");
 }
 
 void TestSpriteFile::keepsBrokenRecords()
 {
-    QFETCH(int, at);
-    QFETCH(int, flipped);
-    QFETCH(int, resealedSize);
-    QFETCH(QString, told);
+    const auto [at, flipped, resealedSize, told] = fetched<int, int, int, QString>();
     const QByteArray whole = smallFile();
     QByteArray bytes = whole;
     bytes[at] = char(bytes[at] ^ flipped);
@@ -247,14 +233,14 @@ void TestSpriteFile::keepsBrokenRecords()
     file.insertSprite(sprites, {7, 7}, {}, picture(9, 9, 3));
     QVERIFY(!disk.save(file).isEmpty());
     SpriteFile again;
-    QVERIFY(disk.open(again, fileBytes(disk.name())));
+    QVERIFY(disk.open(again, readFile(disk.name())));
     QCOMPARE(again.loadErrors(), file.loadErrors());
     QCOMPARE(PlainSprites::linesOf(again), PlainSprites::linesOf(file));
 
     file.removeBroken();
     QCOMPARE(file.brokenCount(), 0);
     QVERIFY(!disk.save(file).isEmpty());
-    QVERIFY(disk.open(again, fileBytes(disk.name())));
+    QVERIFY(disk.open(again, readFile(disk.name())));
     QCOMPARE(again.loadErrors(), QStringList());
     file.undo();
     file.undo();
@@ -263,26 +249,24 @@ void TestSpriteFile::keepsBrokenRecords()
 
 void TestSpriteFile::refusesWhatIsNoSpriteFile_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("reason");
+    columns<QByteArray, QString>("bytes", "reason");
     const QByteArray whole = smallFile();
     const auto with = [&](int at, char value, bool seal) {
         QByteArray bytes = whole;
         bytes[at] = value;
         return seal ? resealed(bytes, 0, 64) : bytes;
     };
-    QTest::newRow("empty") << QByteArray() << "it is no sprite file";
-    QTest::newRow("other magic") << with(3, 'x', true) << "it is no sprite file";
-    QTest::newRow("newer") << with(8, 2, true) << "newer version";
-    QTest::newRow("too many") << with(15, 127, true) << "it is cut off";
-    QTest::newRow("cut off") << whole.left(SpritesAt) << "it is cut off";
-    QTest::newRow("broken head") << with(12, 1, false) << "its head is broken";
+    row("empty", QByteArray(), "it is no sprite file");
+    row("other magic", with(3, 'x', true), "it is no sprite file");
+    row("newer", with(8, 2, true), "newer version");
+    row("too many", with(15, 127, true), "it is cut off");
+    row("cut off", whole.left(SpritesAt), "it is cut off");
+    row("broken head", with(12, 1, false), "its head is broken");
 }
 
 void TestSpriteFile::refusesWhatIsNoSpriteFile()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, reason);
+    const auto [bytes, reason] = fetched<QByteArray, QString>();
     Disk disk;
     SpriteFile file;
     file.insertSprite(-1, {3, 4}, {}, picture(2, 2, 1));
@@ -381,7 +365,7 @@ void TestSpriteFile::failedSaveLosesNothing()
         if (!isSaved) {
             QVERIFY(!file.errorString().isEmpty());
             QVERIFY(file.isModified());
-            QCOMPARE(fileBytes(disk.name()), bytes);
+            QCOMPARE(readFile(disk.name()), bytes);
         } else {
             QVERIFY(disk.open(file, bytes));
             file.insertSprite(1, {5, 5}, {}, picture(30, 30, 2));
@@ -430,7 +414,7 @@ void TestSpriteFile::readsTheSamples()
     QDirIterator files(QStringLiteral(ZORV_SAMPLES "/arena"), {QStringLiteral("*.sprites")},
                        QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        const QByteArray bytes = fileBytes(files.next());
+        const QByteArray bytes = readFile(files.next());
         SpriteFile sprites;
         QVERIFY2(disk.open(sprites, bytes), qPrintable(sprites.errorString()));
         QCOMPARE(sprites.loadErrors(), QStringList());

@@ -2,6 +2,9 @@
 
 #include "family/assets/newsprites.h"
 #include "family/assets/spritefolder.h"
+#include "family/shades.h"
+
+#include "support/folders.h"
 
 #include <zorv/core/filesystemarchive.h>
 #include <zorv/media/losslessimages.h>
@@ -11,29 +14,6 @@
 #include <QtTest>
 
 using namespace Family;
-
-namespace {
-
-Zorv::Archive& disk()
-{
-    return *Zorv::FileSystemArchive::instance();
-}
-
-QImage shades(int kind, int transparent = -1)
-{
-    QImage image(5, 3, QImage::Format_Indexed8);
-    QVector<QRgb> table;
-    for (int i = 0; i < 256; ++i) {
-        table.append(qRgba(i, kind, 0, i == transparent ? 0 : 255));
-    }
-    image.setColorTable(table);
-    for (int i = 0; i < 15; ++i) {
-        image.setPixel(i % 5, i / 5, uint(i * (kind + 1)));
-    }
-    return image;
-}
-
-}  // namespace
 
 class TestSpriteFolder : public QObject
 {
@@ -51,17 +31,8 @@ private slots:
 
 private:
     QString path(const char* name) const { return m_folder->filePath(QString::fromLatin1(name)); }
-    QByteArray bytes(const char* name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    void write(const char* name, const QByteArray& data)
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(data), qint64(data.size()));
-    }
+    QByteArray bytes(const char* name) const { return readFile(path(name)); }
+    void write(const char* name, const QByteArray& data) { QVERIFY(writeFile(path(name), data)); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };

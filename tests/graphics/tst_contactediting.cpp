@@ -1,6 +1,7 @@
 #include "graphics/stage/graphicsrenderer.h"
 
 #include "support/randomtext.h"
+#include "support/testtable.h"
 
 #include "code/codedoc/animationcode.h"
 #include "code/codedoc/contactboxescode.h"
@@ -165,9 +166,9 @@ private slots:
 
 void TestContactEditing::textFollows_data()
 {
-    QTest::addColumn<Action>("action");
-    QTest::addColumn<QString>("line");   // changed or gone
-    QTest::addColumn<QString>("after");  // what stands there then
+    // `line`: changed or gone
+    // `after`: what stands there then
+    columns<Action, QString, QString>("action", "line", "after");
     const auto row = [](const char* name, const Action& action, const char* line,
                         const char* after) {
         QTest::newRow(name) << action << QString::fromLatin1(line) << QString::fromLatin1(after);
@@ -176,18 +177,17 @@ void TestContactEditing::textFollows_data()
         editor.drag({0, -30}, {0, -30});
         editor.drag({0, -80}, {0, -80}, Qt::ShiftModifier);
     };
-    row(
-        "dragged",
-        [](Editor& e) {
-            e.drag({0, -30}, {10, -25});
-        },
-        "body -20,-60, 19,-1 #", "body -10,-55, 29,4 #");
-    row(
-        "dragged back",
-        [](Editor& e) {
-            e.drag({0, -30}, {0, -30});
-        },
-        "", "");
+    const auto drag = [](QPoint from, QPoint to) -> Action {
+        return [=](Editor& e) { e.drag(from, to); };
+    };
+    const auto draw = [](QPoint from, QPoint to) -> Action {
+        return [=](Editor& e) {
+            e.renderer.setDrawContactBoxMode(ContactBoxCode::Attack);
+            e.drag(from, to);
+        };
+    };
+    row("dragged", drag({0, -30}, {10, -25}), "body -20,-60, 19,-1 #", "body -10,-55, 29,4 #");
+    row("dragged back", drag({0, -30}, {0, -30}), "", "");
     row(
         "a group by keys",
         [=](Editor& e) {
@@ -205,26 +205,9 @@ void TestContactEditing::textFollows_data()
         },
         "-60, 19,-1 # torso\n  attack 30,-50,69,-41\n  body -10,-90, 9,-71",
         "-30, 19,89 # torso\n  attack 30,-10,69,9\n  body -10,-90, 9,-51");
-    row(
-        "drawn",
-        [](Editor& e) {
-            e.renderer.setDrawContactBoxMode(ContactBoxCode::Attack);
-            e.drag({60, 20}, {50, 30});
-        },
-        "9,-71\n", "9,-71\n  attack 50,20, 60,30\n");
-    row(
-        "drawn too far",
-        [](Editor& e) {
-            e.renderer.setDrawContactBoxMode(ContactBoxCode::Attack);
-            e.drag({60, 20}, {500000, 30});
-        },
-        "", "");
-    row(
-        "dragged too far",
-        [](Editor& e) {
-            e.drag({0, -30}, {500000, -25});
-        },
-        "", "");
+    row("drawn", draw({60, 20}, {50, 30}), "9,-71\n", "9,-71\n  attack 50,20, 60,30\n");
+    row("drawn too far", draw({60, 20}, {500000, 30}), "", "");
+    row("dragged too far", drag({0, -30}, {500000, -25}), "", "");
     row(
         "deleted, in both lists",
         [=](Editor& e) {
@@ -248,9 +231,7 @@ void TestContactEditing::textFollows_data()
 
 void TestContactEditing::textFollows()
 {
-    QFETCH(Action, action);
-    QFETCH(QString, line);
-    QFETCH(QString, after);
+    const auto [action, line, after] = fetched<Action, QString, QString>();
     QRandomGenerator random(Seed);
     for (int ways = 0; ways < 4; ++ways) {
         Editor editor(ways);

@@ -71,7 +71,6 @@ class TestGraphicsWorkspace : public QObject
 private slots:
     void init();
     void cleanup();
-    void toolsArePublished();
     void toolsShowAndAreStored();
     void crossesCanBeDisabled();
     void originAndZoomAreKept();
@@ -154,30 +153,6 @@ QString TestGraphicsWorkspace::visible() const
         names += isVisible(tool) ? QStringLiteral("%1 ").arg(tool) : QString();
     }
     return names;
-}
-
-void TestGraphicsWorkspace::toolsArePublished()
-{
-    QStringList expected;
-    for (const ToolRow& tool : tools) {
-        expected += QStringLiteral("createAction(%1)").arg(tool.name);
-        expected += QStringLiteral("addControl(%1)").arg(tool.name);
-        const QAction* made = action(tool.name);
-        QVERIFY2(made, tool.name);
-        QCOMPARE(made->text(), ZorvTranslator::instance()->trText(tool.textId));
-        QCOMPARE(made->isCheckable(), tool.key != nullptr);
-        QCOMPARE(host->areasOf.value(tool.name), QStringList("all"));
-        QVERIFY(host->controls.value(tool.name));
-    }
-    QCOMPARE(host->calls, expected);
-    stage->setVisibility(false, false, false, false, false, false, false);
-    workspace->activate();
-    workspace->setRenderer(stage.get());
-    QCOMPARE(visible(), QString("1 "));
-    workspace->widget()->resize(100, 100);
-    stage->sizeChanged(90, 70);
-    action("view_center_origin")->trigger();
-    QCOMPARE(stage->origin(), QPoint(45, 35));
 }
 
 // Each of them by itself, and stored when it changes.

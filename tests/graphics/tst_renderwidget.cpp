@@ -1,6 +1,7 @@
 #include "graphics/renderwidget.h"
 
 #include "graphics/canvas.h"
+#include "support/testtable.h"
 
 #include <QOpenGLShaderProgram>
 #include <QScopeGuard>
@@ -47,9 +48,7 @@ void TestRenderWidget::cleanup()
 
 void TestRenderWidget::takesOtherShaders_data()
 {
-    QTest::addColumn<bool>("replaced");
-    QTest::addColumn<QByteArray>("source");
-    QTest::addColumn<QRgb>("expected");
+    columns<bool, QByteArray, QRgb>("replaced", "source", "expected");
     const QByteArray tinted = "uniform highp float opacity;\n"
                               "uniform highp float tint;\n"
                               "void main() {\n"

@@ -18,7 +18,6 @@ class TestStageEvents : public QObject
 private slots:
     void init();
     void cleanup() { widget.reset(); }
-    void boxIsDragged();
     void cursorsFollow();
     void detachedInTheMiddle();
 
@@ -59,24 +58,6 @@ void TestStageEvents::init()
     widget->show();
     QVERIFY(QTest::qWaitForWindowExposed(widget.get()));
     QApplication::setActiveWindow(widget.get());
-}
-
-void TestStageEvents::boxIsDragged()
-{
-    widget->clearFocus();
-    press({110, 110});
-    QVERIFY(widget->hasFocus());
-    move({115, 112});
-    release({115, 112});
-    QCOMPARE(boxes.at(0)->rect(), QRect(5, 2, 40, 40));
-    for (const int key : {Qt::Key_Left, Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down,
-                          Qt::Key_Down, Qt::Key_A}) {
-        QTest::keyClick(widget.get(), Qt::Key(key));
-        QTest::keyClick(widget.get(), Qt::Key(key), Qt::AltModifier);
-    }
-    QCOMPARE(boxes.at(0)->rect(), QRect(4, 3, 40, 40));
-    QTest::keyClick(widget.get(), Qt::Key_Delete);
-    QCOMPARE(boxes.count(), 0);
 }
 
 void TestStageEvents::cursorsFollow()

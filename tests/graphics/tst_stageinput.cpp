@@ -2,6 +2,7 @@
 
 #include "graphics/stage/graphicsrenderer_p.h"
 #include "scenemodel.h"
+#include "support/testtable.h"
 
 #include <QCursor>
 #include <QRandomGenerator>
@@ -168,8 +169,6 @@ class TestStageInput : public QObject
 private slots:
     void initTestCase();
     void init();
-    void elements_data();
-    void elements();
     void hitTestAgreesWithAModel();
     void clicksAgreeWithAModel();
     void clickBeginsAnew();
@@ -201,50 +200,6 @@ void TestStageInput::initTestCase()
 void TestStageInput::init()
 {
     GraphicsRenderer().setZoomMode(GraphicsRenderer::ZoomAboutOrigin);
-}
-
-void TestStageInput::elements_data()
-{
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<int>("element");
-    using R = GraphicsRenderer;
-    const auto row = [](const char* name, QPoint pos, Element element, const Change& change = {}) {
-        QTest::newRow(name) << change << pos << int(element);
-    };
-    const Change boxesFirst = [](Scene& scene) { scene.boxesOverCrosses = true; };
-    const Change draw = [](Scene& scene) { scene.clickMode = R::DrawContactBoxMode; };
-    const Change capture = [](Scene& scene) { scene.clickMode = R::CaptureMode; };
-    const Change far = [](Scene& scene) { scene.level = 0; };
-    const Change near = [](Scene& scene) { scene.level = 5; };
-    const Change fixedBoxes = [](Scene& scene) { scene.boxMode = 2; };
-    const Change allFixed = [](Scene& scene) {
-        scene.boxMode = 1;
-        scene.crosses[0].mode = 1;
-    };
-    row("behind the rulers' strip", {300, 30}, R::VerticalGuide);
-    row("in the rulers' strip", {300, 29}, R::StageElement);
-    row("first pixel of a guide", {299, 250}, R::VerticalGuide);
-    row("behind a guide", {302, 250}, R::StageElement);
-    row("far away a guide is thinner", {151, 250}, R::StageElement, far);
-    row("near it is no thicker", {902, 250}, R::StageElement, near);
-    row("near, first pixel", {899, 250}, R::VerticalGuide, near);
-    row("main cross before boxes", {95, 95}, R::MainCrossElement);
-    row("boxes before the main cross", {95, 95}, R::ContactBoxElement, boxesFirst);
-    row("drawing", {60, 60}, R::StageElement, draw);
-    row("drawing, on a guide", {300, 60}, R::VerticalGuide, draw);
-    row("capture, on a box", {60, 60}, R::StageElement, capture);
-    row("fixed boxes are their cross", {60, 60}, R::MainCrossElement, fixedBoxes);
-    row("all fixed to the stage", {95, 95}, R::StageElement, allFixed);
-}
-
-void TestStageInput::elements()
-{
-    QFETCH(Change, change);
-    QFETCH(QPoint, pos);
-    QFETCH(int, element);
-    Stage stage(changed(change), m_cross);
-    QCOMPARE(int(stage.renderer.hitTest(pos)), element);
 }
 
 void TestStageInput::hitTestAgreesWithAModel()
@@ -420,12 +375,11 @@ void TestStageInput::cursors()
 
 void TestStageInput::drags_data()
 {
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<QPoint>("start");
-    QTest::addColumn<Points>("moves");  // from the start
-    QTest::addColumn<int>("item");      // an item type, or one of the two below
-    QTest::addColumn<QPoint>("expected");
-    QTest::addColumn<int>("signalCount");  // of moves
+    // `moves`: from the start
+    // `item`: an item type, or one of the two below
+    // `signalCount`: of moves
+    columns<Change, QPoint, Points, int, QPoint, int>("change", "start", "moves", "item",
+                                                      "expected", "signalCount");
     enum { Sprite = 3, Origin = 4, Guides = 5 };
     const auto row = [](const char* name, const Change& change, QPoint start, const Points& moves,
                         int item, QPoint expected, int signalCount) {
@@ -474,12 +428,8 @@ void TestStageInput::drags_data()
 
 void TestStageInput::drags()
 {
-    QFETCH(Change, change);
-    QFETCH(QPoint, start);
-    QFETCH(Points, moves);
-    QFETCH(int, item);
-    QFETCH(QPoint, expected);
-    QFETCH(int, signalCount);
+    const auto [change, start, moves, item, expected, signalCount] =
+        fetched<Change, QPoint, Points, int, QPoint, int>();
     Stage stage(changed(change), m_cross);
     QSignalSpy moved(&stage.renderer, &GraphicsRenderer::itemMoved);
     QSignalSpy released(&stage.renderer, &GraphicsRenderer::itemReleased);
@@ -503,11 +453,9 @@ void TestStageInput::drags()
 
 void TestStageInput::boxDrags_data()
 {
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<Points>("clicks");  // the first without Shift
-    QTest::addColumn<Points>("points");  // a drag, with Shift if it is the second to press
-    QTest::addColumn<Rects>("attacks");
-    QTest::addColumn<QRect>("body");
+    // `clicks`: the first without Shift
+    // `points`: a drag, with Shift if it is the second to press
+    columns<Change, Points, Points, Rects, QRect>("change", "clicks", "points", "attacks", "body");
     const QRect first(-60, -60, 40, 40);
     const QRect second(-50, -50, 40, 40);
     const QRect body(-30, -30, 40, 40);
@@ -553,11 +501,8 @@ void TestStageInput::boxDrags_data()
 
 void TestStageInput::boxDrags()
 {
-    QFETCH(Change, change);
-    QFETCH(Points, clicks);
-    QFETCH(Points, points);
-    QFETCH(Rects, attacks);
-    QFETCH(QRect, body);
+    const auto [change, clicks, points, attacks, body] =
+        fetched<Change, Points, Points, Rects, QRect>();
     Stage stage(changed(change), m_cross);
     QSignalSpy released(&stage.renderer, &GraphicsRenderer::itemReleased);
     Qt::KeyboardModifiers shift = Qt::NoModifier;
@@ -659,9 +604,8 @@ void TestStageInput::selectedBoxIsTold()
 
 void TestStageInput::drawnBoxes_data()
 {
-    QTest::addColumn<int>("level");
-    QTest::addColumn<Points>("points");
-    QTest::addColumn<QRect>("expected");  // null for none
+    // `expected`: null for none
+    columns<int, Points, QRect>("level", "points", "expected");
     QTest::newRow("to the right") << 2 << Points{{200, 200}, {210, 215}} << QRect(100, 100, 11, 16);
     QTest::newRow("to the left") << 2 << Points{{210, 215}, {200, 200}} << QRect(100, 100, 11, 16);
     QTest::newRow("no width") << 2 << Points{{200, 200}, {199, 220}} << QRect();

@@ -3,6 +3,7 @@
 #include "graphics/stage/rulerticks_p.h"
 #include "scenemodel.h"
 #include "support/stagedata.h"
+#include "support/testtable.h"
 
 #include <QPainter>
 #include <QRandomGenerator>
@@ -216,11 +217,8 @@ void TestStageScene::extremesStayBounded()
 
 void TestStageScene::zoomLevels_data()
 {
-    QTest::addColumn<int>("table");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<QString>("steps");  // + - 1, w up and W down by the wheel
-    QTest::addColumn<int>("level");
-    QTest::addColumn<float>("zoom");
+    // `steps`: + - 1, w up and W down by the wheel
+    columns<int, int, QString, int, float>("table", "start", "steps", "level", "zoom");
     QTest::newRow("lowest by number") << 0 << 255 << "" << 0 << 0.25F;
     QTest::newRow("too high") << 1 << 12 << "" << 11 << 10.0F;
     QTest::newRow("held above") << 0 << 11 << "+" << 11 << 4.0F;
@@ -235,9 +233,7 @@ void TestStageScene::zoomLevels_data()
 
 void TestStageScene::zoomLevels()
 {
-    QFETCH(int, table);
-    QFETCH(int, start);
-    QFETCH(QString, steps);
+    const auto [table, start, steps] = fetched<int, int, QString>();
     Stage stage;
     stage.setZoomTable(static_cast<unsigned char>(table));
     stage.setZoomLevel(static_cast<unsigned char>(start));

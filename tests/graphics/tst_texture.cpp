@@ -2,6 +2,7 @@
 #include "graphics/resetter.h"
 #include "graphics/texture.h"
 #include "support/gltest.h"
+#include "support/testtable.h"
 
 #include <QImage>
 #include <QOffscreenSurface>
@@ -141,8 +142,7 @@ void TestTexture::keepsWhatItWasMadeOf()
 
 void TestTexture::comesFromBadData_data()
 {
-    QTest::addColumn<QSize>("textureSize");
-    QTest::addColumn<int>("bytes");
+    columns<QSize, int>("textureSize", "bytes");
     QTest::newRow("none") << QSize(4, 4) << 0;
     QTest::newRow("too few") << QSize(4, 4) << 63;
     QTest::newRow("no size") << QSize(0, 4) << 64;
@@ -152,8 +152,7 @@ void TestTexture::comesFromBadData_data()
 
 void TestTexture::comesFromBadData()
 {
-    QFETCH(QSize, textureSize);
-    QFETCH(int, bytes);
+    const auto [textureSize, bytes] = fetched<QSize, int>();
     Texture texture(Texture::ImageData{textureSize, textureSize, false, QByteArray(bytes, 'x')});
     QCOMPARE(texture.id, 0U);
     QCOMPARE(texture.kind, int(Texture::Empty));

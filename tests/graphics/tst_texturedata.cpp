@@ -1,5 +1,6 @@
 #include "graphics/glcontext.h"
 #include "graphics/texture.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -88,8 +89,7 @@ void TestTextureData::bytes()
 
 void TestTextureData::roundsUpWithoutNpot_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QSize>("textureSize");
+    columns<QSize, QSize>("size", "textureSize");
     QTest::newRow("larger") << QSize(100, 30) << QSize(128, 32);
     QTest::newRow("exact") << QSize(64, 1) << QSize(64, 1);
     QTest::newRow("one more") << QSize(3, 65) << QSize(4, 128);
@@ -97,8 +97,7 @@ void TestTextureData::roundsUpWithoutNpot_data()
 
 void TestTextureData::roundsUpWithoutNpot()
 {
-    QFETCH(QSize, size);
-    QFETCH(QSize, textureSize);
+    const auto [size, textureSize] = fetched<QSize, QSize>();
     s_hasNPOT = false;
     const QImage image = noise(size, QImage::Format_Indexed8);
     Texture::ImageData data;

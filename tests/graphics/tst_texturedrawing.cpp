@@ -1,4 +1,5 @@
 #include "graphics/canvas.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 
@@ -122,9 +123,7 @@ void TestTextureDrawing::cleanup()
 
 void TestTextureDrawing::drawsImages_data()
 {
-    QTest::addColumn<bool>("indexed");
-    QTest::addColumn<QRect>("rect");
-    QTest::addColumn<Look>("look");
+    columns<bool, QRect, Look>("indexed", "rect", "look");
     const QRect actual(3, 4, 13, 9);
     for (bool indexed : {true, false}) {
         const char* const kind = indexed ? "indices" : "colours";
@@ -175,10 +174,9 @@ void TestTextureDrawing::drawsImages()
 
 void TestTextureDrawing::blends_data()
 {
-    QTest::addColumn<std::function<void()>>("setUp");
-    QTest::addColumn<QRgb>("expected");
+    columns<std::function<void()>, QRgb>("setUp", "expected");
     const auto add = [](const char* name, QRgb expected, std::function<void()> setUp) {
-        QTest::newRow(name) << std::move(setUp) << expected;
+        row(name, std::move(setUp), expected);
     };
     const auto set = [](int equation, int source, int destination) {
         s->canvas.glSetBlend(true);
@@ -230,18 +228,14 @@ void TestTextureDrawing::blends()
 
 void TestTextureDrawing::drawsTiles_data()
 {
-    QTest::addColumn<QPoint>("tiles");
-    QTest::addColumn<QSize>("image");
-    QTest::addColumn<QRect>("first");
-    QTest::addColumn<int>("flip");
-    QTest::addColumn<QPoint>("shown");  // where those that can be seen begin
-    QTest::addColumn<QSize>("drawn");
+    // `shown`: where those that can be seen begin
+    columns<QPoint, QSize, QRect, int, QPoint, QSize>("tiles", "image", "first", "flip", "shown",
+                                                      "drawn");
     const QSize size(13, 9);
     const QSize small(2, 2);
     const auto add = [](const char* name, QPoint tiles, QSize image, QRect first, int flip,
-                        QPoint shown, QSize drawn) {
-        QTest::newRow(name) << tiles << image << first << flip << shown << drawn;
-    };
+                        QPoint shown,
+                        QSize drawn) { row(name, tiles, image, first, flip, shown, drawn); };
     add("six", {3, 2}, size, {3, 4, 13, 9}, 0, {3, 4}, {3, 2});
     add("flipped", {3, 2}, size, {3, 4, 13, 9}, 3, {3, 4}, {3, 2});
     add("enlarged", {2, 2}, {4, 6}, {1, 2, 12, 18}, 1, {1, 2}, {2, 2});
@@ -328,7 +322,7 @@ void TestTextureDrawing::drawsNothing_data()
     QTest::addColumn<std::function<void()>>("draw");
     const QMatrix4x4 matrix = placed({0, 0, 20, 20});
     const auto add = [](const char* name, std::function<void()> draw) {
-        QTest::newRow(name) << std::move(draw);
+        row(name, std::move(draw));
     };
     add("null", [=] {
         s->canvas.glDrawImage(matrix, nullptr, nullptr, 0, 1, true, 0);

@@ -1,4 +1,5 @@
 #include "media/tools/colorquantizer.h"
+#include "support/testtable.h"
 
 #include <QImage>
 #include <QRandomGenerator>
@@ -164,8 +165,8 @@ void TestColorQuantizer::fewColorsAreExact()
 
 void TestColorQuantizer::nearestOfAll_data()
 {
-    QTest::addColumn<int>("count");
-    QTest::addColumn<quint32>("mask");  ///< of the channels' bits that differ
+    // `mask`: /< of the channels' bits that differ
+    columns<int, quint32>("count", "mask");
     QTest::newRow("one") << 1 << ~0U;
     QTest::newRow("two") << 2 << ~0U;
     QTest::newRow("all over") << 256 << ~0U;
@@ -201,8 +202,7 @@ void TestColorQuantizer::nearestOfAll()
 
 void TestColorQuantizer::errorIsNearALocalBest_data()
 {
-    QTest::addColumn<bool>("hasAlpha");
-    QTest::addColumn<int>("count");
+    columns<bool, int>("hasAlpha", "count");
     for (const bool hasAlpha : {false, true}) {
         for (const int count : {2, 5, 32, 256}) {
             QTest::addRow("%d colours%s", count, hasAlpha ? ", alpha" : "") << hasAlpha << count;

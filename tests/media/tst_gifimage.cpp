@@ -2,6 +2,7 @@
 
 #include "media/imagefile.h"
 #include "support/brokenbytes.h"
+#include "support/testtable.h"
 #include "support/tool.h"
 
 #include <QBuffer>
@@ -195,9 +196,7 @@ void TestGIFImage::animationOfMagick()
 
 void TestGIFImage::oddFiles_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("whole");
-    QTest::addColumn<int>("frames");
+    columns<QByteArray, bool, int>("bytes", "whole", "frames");
     const QByteArray start = head(true);
     const QByteArray huge = "," + bytesOf({0, 0, 0, 0, 255, 255, 255, 255, 0, 2, 2, 0x44, 0x0a, 0});
     QTest::newRow("plain") << start + frame() + ';' << true << 1;
@@ -216,9 +215,7 @@ void TestGIFImage::oddFiles_data()
 
 void TestGIFImage::oddFiles()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(bool, whole);
-    QFETCH(int, frames);
+    const auto [bytes, whole, frames] = fetched<QByteArray, bool, int>();
     GIFImage gif;
     gif.images.resize(5);
     QCOMPARE(load(gif, bytes), whole);

@@ -5,6 +5,7 @@
 #include "media/losslessimages.h"
 #include "media/png.h"
 #include "support/brokenbytes.h"
+#include "support/testtable.h"
 #include "support/tool.h"
 
 #include <QBuffer>
@@ -262,7 +263,6 @@ private slots:
     void whatIsSavedIsReadByOthers();
     void headers_data();
     void headers();
-    void formatsOfExtensions();
     void hugeHeadersTakeNoMemory_data();
     void hugeHeadersTakeNoMemory();
     void wholeBMP_data();
@@ -274,55 +274,36 @@ private slots:
 
 void TestImageFile::filesOfMagick_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<int>("format");
+    columns<QString, QString, int>("arguments", "target", "format");
     const int indexed = QImage::Format_Indexed8;
     const int solid = QImage::Format_RGB32;
     const int clear = QImage::Format_ARGB32;
     const QString gray = QStringLiteral("-alpha off -colorspace gray ");
     const QString flat = QStringLiteral("-alpha off ");
-    QTest::newRow("PNG 1 bit") << gray + "-threshold 50% -type bilevel"
-                               << "png" << indexed;
-    QTest::newRow("PNG 2 bits of grey") << gray + "-depth 2"
-                                        << "png" << indexed;
-    QTest::newRow("PNG grey") << gray << "png" << indexed;
-    QTest::newRow("PNG 16 bits of grey") << gray << "png48" << solid;
-    QTest::newRow("PNG palette") << flat + "-colors 9"
-                                 << "png8" << indexed;
-    QTest::newRow("PNG palette with alpha") << "-colors 9"
-                                            << "png8" << indexed;
-    QTest::newRow("PNG RGB") << flat << "png24" << solid;
-    QTest::newRow("PNG RGBA") << ""
-                              << "png32" << clear;
-    QTest::newRow("PNG RGBA 16 bits") << ""
-                                      << "png64" << clear;
-    QTest::newRow("PNG interlaced") << "-interlace PNG"
-                                    << "png32" << clear;
-    QTest::newRow("BMP 1 bit") << gray + "-threshold 50% -type bilevel"
-                               << "bmp" << indexed;
-    QTest::newRow("BMP 4 bits") << flat + "-colors 9 -type palette"
-                                << "bmp3" << indexed;
-    QTest::newRow("BMP runs") << flat + "-colors 40 -type palette -compress RLE"
-                              << "bmp3" << indexed;
-    QTest::newRow("BMP RGB") << flat << "bmp3" << solid;
-    QTest::newRow("BMP RGBA") << ""
-                              << "bmp" << clear;
-    QTest::newRow("GIF") << "-colors 20"
-                         << "gif" << indexed;
-    QTest::newRow("GIF interlaced") << "-colors 20 -interlace GIF"
-                                    << "gif" << indexed;
-    QTest::newRow("PCX palette") << flat + "-colors 200 -type palette"
-                                 << "pcx" << indexed;
-    QTest::newRow("PCX RGB") << flat + "-type truecolor"
-                             << "pcx" << solid;
+    row("PNG 1 bit", gray + "-threshold 50% -type bilevel", "png", indexed);
+    row("PNG 2 bits of grey", gray + "-depth 2", "png", indexed);
+    row("PNG grey", gray, "png", indexed);
+    row("PNG 16 bits of grey", gray, "png48", solid);
+    row("PNG palette", flat + "-colors 9", "png8", indexed);
+    row("PNG palette with alpha", "-colors 9", "png8", indexed);
+    row("PNG RGB", flat, "png24", solid);
+    row("PNG RGBA", "", "png32", clear);
+    row("PNG RGBA 16 bits", "", "png64", clear);
+    row("PNG interlaced", "-interlace PNG", "png32", clear);
+    row("BMP 1 bit", gray + "-threshold 50% -type bilevel", "bmp", indexed);
+    row("BMP 4 bits", flat + "-colors 9 -type palette", "bmp3", indexed);
+    row("BMP runs", flat + "-colors 40 -type palette -compress RLE", "bmp3", indexed);
+    row("BMP RGB", flat, "bmp3", solid);
+    row("BMP RGBA", "", "bmp", clear);
+    row("GIF", "-colors 20", "gif", indexed);
+    row("GIF interlaced", "-colors 20 -interlace GIF", "gif", indexed);
+    row("PCX palette", flat + "-colors 200 -type palette", "pcx", indexed);
+    row("PCX RGB", flat + "-type truecolor", "pcx", solid);
 }
 
 void TestImageFile::filesOfMagick()
 {
-    QFETCH(QString, arguments);
-    QFETCH(QString, target);
-    QFETCH(int, format);
+    const auto [arguments, target, format] = fetched<QString, QString, int>();
     setLosslessImages(true);
     const QByteArray bytes = madeByMagick(arguments, target);
     const QString reader = target.left(3);
@@ -359,19 +340,17 @@ void TestImageFile::clearedAsHostsExpect()
 
 void TestImageFile::whatIsSavedIsReadByOthers_data()
 {
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<QString>("tool");
-    QTest::newRow("PNG") << QByteArray("PNG") << "pngtopnm";
-    QTest::newRow("BMP") << QByteArray("BMP") << "bmptoppm";
-    QTest::newRow("GIF") << QByteArray("GIF") << "giftopnm";
-    QTest::newRow("PCX") << QByteArray("PCX") << "pcxtoppm";
+    columns<QByteArray, QString>("format", "tool");
+    row("PNG", QByteArray("PNG"), "pngtopnm");
+    row("BMP", QByteArray("BMP"), "bmptoppm");
+    row("GIF", QByteArray("GIF"), "giftopnm");
+    row("PCX", QByteArray("PCX"), "pcxtoppm");
 }
 
 /// Of one colour more than a table of a power of two, and of the most that there can be.
 void TestImageFile::whatIsSavedIsReadByOthers()
 {
-    QFETCH(QByteArray, format);
-    QFETCH(QString, tool);
+    const auto [format, tool] = fetched<QByteArray, QString>();
     setLosslessImages(true);
     for (int colors : {2, 5, 33, 256}) {
         const QImage image = indexedPicture(colors);
@@ -388,16 +367,12 @@ void TestImageFile::whatIsSavedIsReadByOthers()
 
 void TestImageFile::headers_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("pixels");
+    columns<QByteArray, QByteArray, QSize, int>("bytes", "format", "size", "pixels");
     const int indexed = QImage::Format_Indexed8;
     const int none = QImage::Format_Invalid;
     const auto add = [](const char* name, const QByteArray& bytes, const char* format,
-                        const QSize& size, int pixels) {
-        QTest::newRow(name) << bytes << QByteArray(format) << size << pixels;
-    };
+                        const QSize& size,
+                        int pixels) { row(name, bytes, QByteArray(format), size, pixels); };
     add("unknown", pngHead(3, 4, 8, 6), "png", {0, 0}, indexed);
     add("PNG palette", pngHead(3, 4, 8, 3), "PNG", {3, 4}, indexed);
     add("PNG grey", pngHead(3, 4, 16, 0), "PNG", {3, 4}, indexed);
@@ -430,58 +405,35 @@ void TestImageFile::headers_data()
 
 void TestImageFile::headers()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QByteArray, format);
-    QFETCH(QSize, size);
-    QFETCH(int, pixels);
+    const auto [bytes, format, size, pixels] = fetched<QByteArray, QByteArray, QSize, int>();
     const ImageInfo info = infoOf(bytes, format);
     QCOMPARE(QSize(info.width, info.height), size);
     QCOMPARE(int(info.format), pixels);
 }
 
-void TestImageFile::formatsOfExtensions()
-{
-    OneByteFormat loader(Extension::ImageLoader);
-    OneByteFormat saver(Extension::ImageSaver);
-    QImage image(1, 1, QImage::Format_RGB32);
-    image.fill(0x41);
-    QCOMPARE(saved(image, "png"), QByteArray());
-    ExtensionManager::add(&loader);
-    ExtensionManager::add(&saver);
-    QCOMPARE(saved(image, "png"), QByteArray("A"));
-    QCOMPARE(qBlue(loaded("B", "png").pixel(0, 0)), 0x42);
-    QVERIFY(loaded("", "png").isNull());
-    QVERIFY(loaded("B", "tga").isNull());
-    ExtensionManager::list(Extension::ImageLoader).clear();
-    ExtensionManager::list(Extension::ImageSaver).clear();
-}
-
 void TestImageFile::hugeHeadersTakeNoMemory_data()
 {
-    QTest::addColumn<QByteArray>("head");
-    QTest::addColumn<QByteArray>("format");
+    columns<QByteArray, QByteArray>("head", "format");
     const QByteArray idat = bigEndian(5000) + "IDAT";
-    QTest::newRow("PNG") << pngHead(20000, 20000, 8, 6) + idat << QByteArray("PNG");
-    QTest::newRow("PNG 1 bit") << pngHead(200000, 20000, 1, 0) + idat << QByteArray("PNG");
-    QTest::newRow("PNG with a huge chunk")
-        << pngHead(2, 2, 8, 0) + bigEndian(1500000000) + "tEXt" << QByteArray("PNG");
+    row("PNG", pngHead(20000, 20000, 8, 6) + idat, QByteArray("PNG"));
+    row("PNG 1 bit", pngHead(200000, 20000, 1, 0) + idat, QByteArray("PNG"));
+    row("PNG with a huge chunk", pngHead(2, 2, 8, 0) + bigEndian(1500000000) + "tEXt",
+        QByteArray("PNG"));
     QByteArray texts;
     for (int i = 0; i < 20; ++i) {
         texts +=
             pngChunk("zTXt", QByteArray("k\0\0", 3) + qCompress(QByteArray(7900000, 'a')).mid(4));
     }
-    QTest::newRow("PNG with packed texts") << pngHead(2, 2, 8, 0) + texts << QByteArray("PNG");
-    QTest::newRow("BMP") << bmpHead(16000, 16000, 24) << QByteArray("BMP");
-    QTest::newRow("BMP upside down") << bmpHead(16000, -16000, 8) << QByteArray("BMP");
-    QTest::newRow("BMP runs") << bmpHead(16000, 16000, 8, 1) << QByteArray("BMP");
-    QTest::newRow("GIF") << gifHead(20000, 20000, 0) + gifFrameHead(20000, 20000)
-                         << QByteArray("GIF");
+    row("PNG with packed texts", pngHead(2, 2, 8, 0) + texts, QByteArray("PNG"));
+    row("BMP", bmpHead(16000, 16000, 24), QByteArray("BMP"));
+    row("BMP upside down", bmpHead(16000, -16000, 8), QByteArray("BMP"));
+    row("BMP runs", bmpHead(16000, 16000, 8, 1), QByteArray("BMP"));
+    row("GIF", gifHead(20000, 20000, 0) + gifFrameHead(20000, 20000), QByteArray("GIF"));
 }
 
 void TestImageFile::hugeHeadersTakeNoMemory()
 {
-    QFETCH(QByteArray, head);
-    QFETCH(QByteArray, format);
+    const auto [head, format] = fetched<QByteArray, QByteArray>();
     const QByteArray bytes = head.leftJustified(1024, '\x11');
     QVERIFY(!loaded(saved(indexedPicture(2), format), format).isNull());
     const qint64 before = peakMemory();
@@ -500,7 +452,7 @@ void TestImageFile::wholeBMP_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     const auto add = [](const char* name, const QString& arguments, const char* target = "bmp3") {
-        QTest::newRow(name) << madeByMagick("-alpha off " + arguments, target);
+        row(name, madeByMagick("-alpha off " + arguments, target));
     };
     add("1 bit", "-threshold 50% -type bilevel");
     add("4 bits", "-colors 9 -type palette -compress none");
@@ -512,15 +464,15 @@ void TestImageFile::wholeBMP_data()
     add("of OS/2", "-colors 9 -type palette", "bmp2");
     QByteArray fromTheTop = madeByMagick("-alpha off", "bmp3");
     fromTheTop.replace(22, 4, littleEndian(quint32(-17), 4));
-    QTest::newRow("from the top") << fromTheTop;
+    row("from the top", fromTheTop);
 
     const QByteArray table = littleEndian(0xFF, 4) + QByteArray(15 * 4, '\x44');
     const QByteArray runs4 = QByteArrayLiteral("\x05\x10\0\0\0\x05\x12\x34\x50\0");
-    QTest::newRow("runs of 4 bits, full") << bmpHead(5, 2, 4, 2) + table + runs4;
-    QTest::newRow("runs of 4 bits, ended")
-        << bmpHead(5, 3, 4, 2) + table + runs4 + QByteArrayLiteral("\0\0\0\2\2\0\1\x33\0\1");
-    QTest::newRow("runs with gaps") << bmpHead(7, 3, 8, 1) + table + QByteArray(240 * 4, '\x66') +
-                                           QByteArrayLiteral("\3\1\0\0\0\2\3\1\0\3\7\x8\x9\0\0\1");
+    row("runs of 4 bits, full", bmpHead(5, 2, 4, 2) + table + runs4);
+    row("runs of 4 bits, ended",
+        bmpHead(5, 3, 4, 2) + table + runs4 + QByteArrayLiteral("\0\0\0\2\2\0\1\x33\0\1"));
+    row("runs with gaps", bmpHead(7, 3, 8, 1) + table + QByteArray(240 * 4, '\x66') +
+                              QByteArrayLiteral("\3\1\0\0\0\2\3\1\0\3\7\x8\x9\0\0\1"));
 }
 
 // A file that is cut short is refused, or has lost nothing that is seen.
@@ -543,16 +495,15 @@ void TestImageFile::wholeBMP()
 
 void TestImageFile::brokenFiles_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("format");
+    columns<QByteArray, QByteArray>("bytes", "format");
     for (const char* format : {"PNG", "BMP", "GIF", "PCX"}) {
-        QTest::newRow(format) << saved(indexedPicture(5), format) << QByteArray(format);
+        row(format, saved(indexedPicture(5), format), QByteArray(format));
     }
-    QTest::newRow("BMP runs") << madeByMagick(
-                                     QStringLiteral("-alpha off -colors 9 -type palette -compress "
-                                                    "RLE"),
-                                     QStringLiteral("bmp3"))
-                              << QByteArray("BMP");
+    row("BMP runs",
+        madeByMagick(QStringLiteral("-alpha off -colors 9 -type palette -compress "
+                                    "RLE"),
+                     QStringLiteral("bmp3")),
+        QByteArray("BMP"));
 }
 
 void TestImageFile::brokenFiles()

@@ -4,6 +4,7 @@
 #include "media/palettefiles.h"
 #include "media/paletteobject.h"
 #include "support/brokenbytes.h"
+#include "support/testtable.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -130,7 +131,6 @@ private slots:
     void refuse();
     void imagesGiveTheirPalette_data();
     void imagesGiveTheirPalette();
-    void extensions();
     void actRoundTrip();
     void brokenBytes_data();
     void brokenBytes();
@@ -138,13 +138,9 @@ private slots:
 
 void TestPaletteFiles::read_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<Colors>("expected");
+    columns<QByteArray, QByteArray, Colors>("bytes", "format", "expected");
     const auto row = [](const char* name, const QByteArray& bytes, const char* kind,
-                        const Colors& expected) {
-        QTest::newRow(name) << bytes << QByteArray(kind) << expected;
-    };
+                        const Colors& expected) { ::row(name, bytes, QByteArray(kind), expected); };
     const QRgb black = qRgb(0, 0, 0);
     row("ACT, last colour first", act() + "more", "ACT",
         {{0, qRgba(255, 127, 0, 0)}, {1, qRgb(254, 127, 1)}, {255, qRgb(0, 0, 255)}});
@@ -215,21 +211,20 @@ void TestPaletteFiles::read()
 
 void TestPaletteFiles::refuse_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("format");
-    QTest::newRow("ACT of 767 bytes") << act().left(767) << QByteArray("ACT");
-    QTest::newRow("RIFF, other data") << riff({}).replace("PAL ", "WAVE") << QByteArray("PAL");
-    QTest::newRow("RIFF, 257 colours") << riff(QByteArray(257 * 4, 'x')) << QByteArray("PAL");
-    QTest::newRow("RIFF, size below its head")
-        << riff({}).replace(16, 4, QByteArray("\7\0\0\0", 4)) << QByteArray("PAL");
-    QTest::newRow("RIFF, cut") << riff("abcdefgh").chopped(1) << QByteArray("PAL");
-    QTest::newRow("Jasc, LF only") << jasc("1 2 3\r\n").replace("\r\n", "\n") << QByteArray("PAL");
-    QTest::newRow("Jasc, other version") << jasc("").replace("0100", "0200") << QByteArray("PAL");
-    QTest::newRow("ACO, version 2") << words({2, 0}) << QByteArray("ACO");
-    QTest::newRow("ASE, version 1.1") << ase(0, {}).replace(6, 2, words({1})) << QByteArray("ASE");
-    QTest::newRow("nothing known") << QByteArray("hello, palette") << QByteArray("PAL");
-    QTest::newRow("ACT in lower case") << act() << QByteArray("act");
-    QTest::newRow("no image") << QByteArray("hello, image") << QByteArray("PNG");
+    columns<QByteArray, QByteArray>("bytes", "format");
+    row("ACT of 767 bytes", act().left(767), QByteArray("ACT"));
+    row("RIFF, other data", riff({}).replace("PAL ", "WAVE"), QByteArray("PAL"));
+    row("RIFF, 257 colours", riff(QByteArray(257 * 4, 'x')), QByteArray("PAL"));
+    row("RIFF, size below its head", riff({}).replace(16, 4, QByteArray("\7\0\0\0", 4)),
+        QByteArray("PAL"));
+    row("RIFF, cut", riff("abcdefgh").chopped(1), QByteArray("PAL"));
+    row("Jasc, LF only", jasc("1 2 3\r\n").replace("\r\n", "\n"), QByteArray("PAL"));
+    row("Jasc, other version", jasc("").replace("0100", "0200"), QByteArray("PAL"));
+    row("ACO, version 2", words({2, 0}), QByteArray("ACO"));
+    row("ASE, version 1.1", ase(0, {}).replace(6, 2, words({1})), QByteArray("ASE"));
+    row("nothing known", QByteArray("hello, palette"), QByteArray("PAL"));
+    row("ACT in lower case", act(), QByteArray("act"));
+    row("no image", QByteArray("hello, image"), QByteArray("PNG"));
 }
 
 void TestPaletteFiles::refuse()
@@ -255,7 +250,7 @@ void TestPaletteFiles::imagesGiveTheirPalette_data()
 {
     QTest::addColumn<QByteArray>("format");
     for (const char* format : {"PNG", "BMP", "PCX", "GIF"}) {
-        QTest::newRow(format) << QByteArray(format);
+        row(format, QByteArray(format));
     }
 }
 
@@ -292,20 +287,6 @@ void TestPaletteFiles::imagesGiveTheirPalette()
     }
 }
 
-void TestPaletteFiles::extensions()
-{
-    Loader failing(false, 1);
-    Loader working(true, 2);
-    Loader late(true, 3);
-    auto& list = Zorv::ExtensionManager::list(Zorv::Extension::PaletteLoader);
-    list = {&failing, &working, &late};
-    Colors256 colors;
-    QVERIFY(load("some bytes", "XYZ", colors));
-    QCOMPARE(colors.at(1), qRgb(2, 2, 2));
-    QVERIFY(!load("some bytes", "xyz", colors));
-    list.clear();
-}
-
 void TestPaletteFiles::actRoundTrip()
 {
     Colors256 colors;
@@ -321,14 +302,13 @@ void TestPaletteFiles::actRoundTrip()
 
 void TestPaletteFiles::brokenBytes_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("format");
-    QTest::newRow("RIFF") << riff("abcdefgh") << QByteArray("PAL");
-    QTest::newRow("Jasc") << jasc("1 2 3\r\n4 5 6 7\r\n") << QByteArray("PAL");
-    QTest::newRow("ACO") << words({1, 2, 0, 1, 2, 3, 4, 1, 5, 6, 7, 8}) << QByteArray("ACO");
-    QTest::newRow("ASE") << ase(2, aseColor("CMYK", {0, 1, 1, 0}) + aseColor("RGB ", {1, 0, 1}))
-                         << QByteArray("ASE");
-    QTest::newRow("Painter") << QByteArray("ROWS\nR:1,G:2,B:3 A:4\n") << QByteArray("TXT");
+    columns<QByteArray, QByteArray>("bytes", "format");
+    row("RIFF", riff("abcdefgh"), QByteArray("PAL"));
+    row("Jasc", jasc("1 2 3\r\n4 5 6 7\r\n"), QByteArray("PAL"));
+    row("ACO", words({1, 2, 0, 1, 2, 3, 4, 1, 5, 6, 7, 8}), QByteArray("ACO"));
+    row("ASE", ase(2, aseColor("CMYK", {0, 1, 1, 0}) + aseColor("RGB ", {1, 0, 1})),
+        QByteArray("ASE"));
+    row("Painter", QByteArray("ROWS\nR:1,G:2,B:3 A:4\n"), QByteArray("TXT"));
 }
 
 /// Whatever the bytes, a palette is either left alone or one of a file.

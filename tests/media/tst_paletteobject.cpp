@@ -1,4 +1,5 @@
 #include "media/paletteobject.h"
+#include "support/testtable.h"
 
 #include <QColor>
 #include <QRandomGenerator>
@@ -165,8 +166,7 @@ private slots:
 
 void TestPaletteObject::models_data()
 {
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<Model>("model");
+    columns<Operation, Model>("operation", "model");
     const auto row = [](const char* name, const Operation& operation, const Model& model) {
         QTest::newRow(name) << operation << model;
     };
@@ -235,8 +235,8 @@ void TestPaletteObject::models()
 
 void TestPaletteObject::index_data()
 {
-    QTest::addColumn<QVector<int>>("alphas");  ///< of entries as near, for an alpha of 100
-    QTest::addColumn<int>("expected");
+    // `alphas`: /< of entries as near, for an alpha of 100
+    columns<QVector<int>, int>("alphas", "expected");
     QTest::newRow("nearest from above") << QVector<int>{200, 150, 120, 130} << 3;
     QTest::newRow("one below takes all") << QVector<int>{150, 90} << 2;
     QTest::newRow("one above takes from one below") << QVector<int>{90, 150} << 2;
@@ -258,8 +258,9 @@ void TestPaletteObject::index()
 
 void TestPaletteObject::effects_data()
 {
-    QTest::addColumn<QVector<int>>("dark");    ///< of 30, 60, 100
-    QTest::addColumn<QVector<int>>("bright");  ///< of 250, 200, 120
+    // `dark`: /< of 30, 60, 100
+    // `bright`: /< of 250, 200, 120
+    columns<QVector<int>, QVector<int>>("dark", "bright");
     const QVector<int> results[][2] = {
         {{30, 60, 100}, {250, 200, 120}},   {{100, 60, 30}, {120, 200, 250}},
         {{30, 100, 60}, {250, 120, 200}},   {{60, 30, 100}, {200, 250, 120}},
@@ -294,10 +295,7 @@ void TestPaletteObject::effects()
 
 void TestPaletteObject::addHueSaturation_data()
 {
-    QTest::addColumn<QColor>("before");
-    QTest::addColumn<int>("hue");
-    QTest::addColumn<int>("saturation");
-    QTest::addColumn<QColor>("after");
+    columns<QColor, int, int, QColor>("before", "hue", "saturation", "after");
     // A full red, green or blue has a lightness of 128, which is a little more than a half.
     QTest::newRow("red to green") << QColor(255, 0, 0) << 120 << 0 << QColor(1, 255, 1);
     QTest::newRow("hue ends at 359") << QColor(0, 0, 255) << 30000 << 0 << QColor(255, 1, 5);

@@ -3,6 +3,7 @@
 #include "support/brokenbytes.h"
 #include "support/plaincodecs.h"
 #include "support/spritepixels.h"
+#include "support/testtable.h"
 
 #include <QBuffer>
 #include <QDataStream>
@@ -137,9 +138,7 @@ void TestPcx::roundTrip()
 
 void TestPcx::palettes_data()
 {
-    QTest::addColumn<QByteArray>("behind");
-    QTest::addColumn<int>("colors");
-    QTest::addColumn<bool>("result");
+    columns<QByteArray, int, bool>("behind", "colors", "result");
     const QByteArray colors(768, '\x21');
     QTest::newRow("nothing") << QByteArray() << 0 << true;
     QTest::newRow("right behind") << '\x0C' + colors << 256 << true;
@@ -152,9 +151,7 @@ void TestPcx::palettes_data()
 
 void TestPcx::palettes()
 {
-    QFETCH(QByteArray, behind);
-    QFETCH(int, colors);
-    QFETCH(bool, result);
+    const auto [behind, colors, result] = fetched<QByteArray, int, bool>();
     const QByteArray file = fileOf(headerOf(2, 1), "\1\2" + behind);
     QBuffer buffer;
     buffer.setData(file);
@@ -167,8 +164,7 @@ void TestPcx::palettes()
 
 void TestPcx::forms_data()
 {
-    QTest::addColumn<int>("planes");
-    QTest::addColumn<int>("bits");
+    columns<int, int>("planes", "bits");
     for (const int depth : {4, 5, 8, 16, 24, 32}) {
         for (int planes = 1; planes <= depth; ++planes) {
             if (depth % planes == 0) {
@@ -181,8 +177,7 @@ void TestPcx::forms_data()
 /// Odd numbers of planes, of bytes a line and runs that reach over both.
 void TestPcx::forms()
 {
-    QFETCH(int, planes);
-    QFETCH(int, bits);
+    const auto [planes, bits] = fetched<int, int>();
     QRandomGenerator random(seed);
     for (const int bytesPerLine : {1, 4, 8, 9, 10, 70}) {
         QPCXHeader header = headerOf(9, 5, planes, bits);

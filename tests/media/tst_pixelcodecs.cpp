@@ -6,6 +6,7 @@
 #include "support/brokenbytes.h"
 #include "support/plaincodecs.h"
 #include "support/spritepixels.h"
+#include "support/testtable.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -155,8 +156,7 @@ void TestPixelCodecs::addCodecs()
 
 void TestPixelCodecs::writers_data()
 {
-    QTest::addColumn<int>("codec");
-    QTest::addColumn<int>("kind");
+    columns<int, int>("codec", "kind");
     for (int codec = 0; codecs[codec].save; ++codec) {
         for (int kind = 0; kind < SpritePixels::kinds; ++kind) {
             QTest::addRow("%s, %s", codecs[codec].name,
@@ -168,8 +168,7 @@ void TestPixelCodecs::writers_data()
 
 void TestPixelCodecs::writers()
 {
-    QFETCH(int, codec);
-    QFETCH(int, kind);
+    const auto [codec, kind] = fetched<int, int>();
     QRandomGenerator random(seed);
     for (const int colors : {2, 3, 16, 32, 256}) {
         for (const QSize size :
@@ -209,9 +208,7 @@ void TestPixelCodecs::matches()
 
 void TestPixelCodecs::streams_data()
 {
-    QTest::addColumn<int>("codec");
-    QTest::addColumn<QByteArray>("pixels");
-    QTest::addColumn<QByteArray>("bytes");
+    columns<int, QByteArray, QByteArray>("codec", "pixels", "bytes");
     const auto row = [](const char* name, int codec, const QByteArray& pixels, const char* hex) {
         QTest::newRow(name) << codec << pixels << QByteArray::fromHex(hex);
     };
@@ -235,9 +232,7 @@ void TestPixelCodecs::streams_data()
 
 void TestPixelCodecs::streams()
 {
-    QFETCH(int, codec);
-    QFETCH(QByteArray, pixels);
-    QFETCH(QByteArray, bytes);
+    const auto [codec, pixels, bytes] = fetched<int, QByteArray, QByteArray>();
     QCOMPARE(saved(codecs[codec], SpritePixels::image(pixels, pixels.size(), !pixels.isEmpty()))
                  .toHex(' '),
              bytes.toHex(' '));

@@ -1,5 +1,6 @@
 #include "media/tools/resizeimage.h"
 #include "pictures.h"
+#include "support/testtable.h"
 
 #include <QCryptographicHash>
 #include <QtTest>
@@ -181,8 +182,7 @@ void TestResizeImage::bilinearMixesByDistance()
 
 void TestResizeImage::hqPixels_data()
 {
-    QTest::addColumn<int>("factor");
-    QTest::addColumn<QByteArray>("checksum");
+    columns<int, QByteArray>("factor", "checksum");
 
     // Of what another program makes of the same picture by the same method, ffmpeg's filter hqx.
     QTest::newRow("hq2x") << 2 << QByteArray("c10986598e79144643e942b786727acb");
@@ -192,8 +192,7 @@ void TestResizeImage::hqPixels_data()
 
 void TestResizeImage::hqPixels()
 {
-    QFETCH(int, factor);
-    QFETCH(QByteArray, checksum);
+    const auto [factor, checksum] = fetched<int, QByteArray>();
     const QImage made = scaleHq(nearColors(), factor);
     QCryptographicHash hash(QCryptographicHash::Md5);
     for (int y = 0; y < made.height(); ++y) {

@@ -3,6 +3,8 @@
 #include "media/soundfile.h"
 #include "media/wavecontents.h"
 #include "support/brokenbytes.h"
+#include "support/folders.h"
+#include "support/testtable.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -81,12 +83,6 @@ QByteArray text(const SampleInfo& sample)
            QByteArray::number(sample.sampleRate) + " Hz, " + QByteArray::number(sample.frames);
 }
 
-QByteArray fileBytes(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// In a folder; words are parted by blanks.
 void runSox(const QTemporaryDir& folder, const QString& words)
 {
@@ -118,8 +114,7 @@ private slots:
 
 void TestWAV::filesOfSox_data()
 {
-    QTest::addColumn<int>("bits");
-    QTest::addColumn<int>("channels");
+    columns<int, int>("bits", "channels");
     for (const int bits : {8, 16, 24, 32}) {
         for (const int channels : {1, 2}) {
             QTest::addRow("%d bits, %d channels", bits, channels) << bits << channels;
@@ -142,9 +137,9 @@ void TestWAV::filesOfSox()
                             .arg(bits == 8 ? QStringLiteral("unsigned") : QStringLiteral("signed"))
                             .arg(bits);
     runSox(folder, raw.arg(QStringLiteral("a.wav")));
-    const QByteArray samples = fileBytes(folder.filePath(QStringLiteral("a.wav.raw")));
+    const QByteArray samples = readFile(folder.filePath(QStringLiteral("a.wav.raw")));
 
-    const QByteArray bytes = fileBytes(folder.filePath(QStringLiteral("a.wav")));
+    const QByteArray bytes = readFile(folder.filePath(QStringLiteral("a.wav")));
     const SoundSample sample = read(bytes);
     const QByteArray expected =
         QByteArray::number(channels) + " x " + QByteArray::number(bits) + ", 22050 Hz, 1001";
@@ -156,15 +151,13 @@ void TestWAV::filesOfSox()
     QVERIFY(Zorv::soundToWAV(sample, &file));
     QVERIFY(!file.isOpen());
     runSox(folder, raw.arg(QStringLiteral("b.wav")));
-    QCOMPARE(fileBytes(folder.filePath(QStringLiteral("b.wav.raw"))), samples);
+    QCOMPARE(readFile(folder.filePath(QStringLiteral("b.wav.raw"))), samples);
 }
 
 void TestWAV::byHand_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("sound");
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<QByteArray>("information");
+    columns<QByteArray, QByteArray, QByteArray, QByteArray>("bytes", "sound", "data",
+                                                            "information");
     const QByteArray pcm = format(1, 2, 16);
     const QByteArray eight = "12345678";
     const QByteArray plain = "2 x 16, 22050 Hz, 2";

@@ -4,7 +4,9 @@
 #include "family/project/familyparentproject.h"
 #include "operations/backups.h"
 #include "operations/settingsformat.h"
+#include "support/folders.h"
 #include "support/planneddialogs.h"
+#include "support/testtable.h"
 
 #include <QDir>
 #include <QSettings>
@@ -17,13 +19,6 @@ using namespace Family;
 using namespace Operations;
 
 namespace {
-
-bool write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-           file.write(bytes) == bytes.size();
-}
 
 using Change = std::function<bool(const QString& game)>;
 
@@ -44,20 +39,18 @@ private slots:
 
 void TestAgreements::holdsForOneFileAsItIs_data()
 {
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<Agreement>("then");
-    QTest::addColumn<bool>("mayStart");
+    columns<Change, Agreement, bool>("change", "then", "mayStart");
     const auto player = [](const QString& game) { return game + "/zorv-player"; };
     QTest::newRow("nothing") << Change([](const QString&) { return true; }) << Agreement::Given
                              << true;
     QTest::newRow("written again")
-        << Change([=](const QString& game) { return write(player(game), "one"); })
+        << Change([=](const QString& game) { return writeFile(player(game), "one"); })
         << Agreement::Given << true;
     QTest::newRow("another content")
-        << Change([=](const QString& game) { return write(player(game), "two"); })
+        << Change([=](const QString& game) { return writeFile(player(game), "two"); })
         << Agreement::Outdated << false;
     QTest::newRow("a link to another content") << Change([=](const QString& game) {
-        return write(game + "/other", "two") && QFile::remove(player(game)) &&
+        return writeFile(game + "/other", "two") && QFile::remove(player(game)) &&
                QFile::link(game + "/other", player(game));
     }) << Agreement::Outdated << false;
     QTest::newRow("a link to the same content") << Change([=](const QString& game) {
@@ -79,8 +72,8 @@ void TestAgreements::holdsForOneFileAsItIs()
     PlannedDialogs dialogs;
     QSettings settings(folder.filePath("settings.ini"), settingsFormat());
     const QString game = folder.filePath("game");
-    QVERIFY(write(game + "/zorv-player", "one"));
-    QVERIFY(write(game + "/hero.character", "[info]\r\n"));
+    QVERIFY(writeFile(game + "/zorv-player", "one"));
+    QVERIFY(writeFile(game + "/hero.character", "[info]\r\n"));
     const GameProgram program(game);
     QCOMPARE(int(agreementTo(program, settings)), int(Agreement::None));
     QVERIFY(agreeTo(program, settings));
@@ -105,7 +98,7 @@ void TestAgreements::nothingIsWrittenThroughLinks()
              {"characters", "characters/hero", "characters/hero/hero.character"}) {
             QTemporaryDir folder;
             const QString game = folder.filePath("game/");
-            QVERIFY(write(game + "backup/1/characters/hero/hero.character", "[info]\r\n"));
+            QVERIFY(writeFile(game + "backup/1/characters/hero/hero.character", "[info]\r\n"));
             const QString outside = folder.filePath("outside");
             QVERIFY(!isThere || QDir().mkpath(outside));
             QVERIFY(QDir().mkpath(QFileInfo(game + link).path()));

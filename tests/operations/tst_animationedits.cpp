@@ -4,6 +4,7 @@
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
 #include "operations/hostinterface.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -129,8 +130,7 @@ private:
 
 void TestAnimationEdits::find_data()
 {
-    QTest::addColumn<QString>("reference");
-    QTest::addColumn<int>("place");
+    columns<QString, int>("reference", "place");
     QTest::newRow("identifier") << "fire" << 1;
     QTest::newRow("place") << "#3" << 3;
     QTest::newRow("number before place") << "3" << 4;
@@ -145,8 +145,7 @@ void TestAnimationEdits::find_data()
 
 void TestAnimationEdits::find()
 {
-    QFETCH(QString, reference);
-    QFETCH(int, place);
+    const auto [reference, place] = fetched<QString, int>();
     FamilyDocument document(FileKind::Animations);
     document.fromString(textOf({"20", "fire", "20", "0", "3"}));
     QString error;

@@ -9,6 +9,9 @@
 #include "operations/hostinterface.h"
 #include "operations/media/assetimport.h"
 
+#include "support/folders.h"
+#include "support/release.h"
+
 #include <zorv/animation/import/animationimport.h>
 
 #include <QBuffer>
@@ -31,10 +34,6 @@ namespace {
 
 const quint32 Seed = 20261122;
 
-struct Release
-{
-    void operator()(SpriteCollection* sprites) const { sprites->release(); }
-};
 using Collection = std::unique_ptr<SpriteCollection, Release>;
 
 /// What a sprite looks like.
@@ -439,9 +438,7 @@ void TestAnimationImport::leavesDamagedSprites()
         bytes[place] = char(bytes[place] ^ (1 << random.bounded(8)));
         QString error;
         const QString file = folder.filePath("broken.sprites");
-        QFile written(file);
-        QVERIFY(written.open(QIODevice::WriteOnly) && written.write(bytes) == bytes.size());
-        written.close();
+        QVERIFY(writeFile(file, bytes));
         const Collection broken(openSprites(file, &error));
         if (!broken) {
             continue;

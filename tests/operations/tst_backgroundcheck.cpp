@@ -2,6 +2,7 @@
 #include "operations/check/backgroundcheck.h"
 #include "operations/check/uses.h"
 #include "support/folders.h"
+#include "support/testtable.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -130,42 +131,32 @@ void TestBackgroundCheck::tellsOnlyOfItsGame()
 
 void TestBackgroundCheck::usesAreFound_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QStringList>("staying");
-    QTest::addColumn<QStringList>("expected");
+    columns<int, QString, QStringList, QStringList, QStringList>("kind", "file", "names", "staying",
+                                                                 "expected");
 
     const QString character = "characters/a/a.character";
     const QStringList inBoth{"characters/a/a.anim, line 2: 1,0",
                              "characters/b/b.character, line 4: 1,0"};
-    QTest::newRow("sprite of two projects") << int(Removal::Sprites) << "shared/all.sprites"
-                                            << QStringList{"1,0"} << QStringList() << inBoth;
-    QTest::newRow("its namesake stays")
-        << int(Removal::Sprites) << "shared/all.sprites" << QStringList{"1,0"} << QStringList{"1,0"}
-        << QStringList();
-    QTest::newRow("sprite that nobody shows")
-        << int(Removal::Sprites) << "shared/all.sprites" << QStringList{"7,7"} << QStringList()
-        << QStringList();
-    QTest::newRow("sprite of another file") << int(Removal::Sprites) << "other.sprites"
-                                            << QStringList{"1,0"} << QStringList() << QStringList();
-    QTest::newRow("sound") << int(Removal::Sounds) << "characters/a/a.sounds" << QStringList{"2,0"}
-                           << QStringList() << QStringList{character + ", line 8: 2,0"};
-    QTest::newRow("animation") << int(Removal::Animations) << "characters/a/a.anim"
-                               << QStringList{"10", "11"} << QStringList()
-                               << QStringList{character + ", line 6: 10"};
-    QTest::newRow("animation that stands elsewhere, too")
-        << int(Removal::Animations) << character << QStringList{"10"} << QStringList()
-        << QStringList();
+    row("sprite of two projects", int(Removal::Sprites), "shared/all.sprites", QStringList{"1,0"},
+        QStringList(), inBoth);
+    row("its namesake stays", int(Removal::Sprites), "shared/all.sprites", QStringList{"1,0"},
+        QStringList{"1,0"}, QStringList());
+    row("sprite that nobody shows", int(Removal::Sprites), "shared/all.sprites", QStringList{"7,7"},
+        QStringList(), QStringList());
+    row("sprite of another file", int(Removal::Sprites), "other.sprites", QStringList{"1,0"},
+        QStringList(), QStringList());
+    row("sound", int(Removal::Sounds), "characters/a/a.sounds", QStringList{"2,0"}, QStringList(),
+        QStringList{character + ", line 8: 2,0"});
+    row("animation", int(Removal::Animations), "characters/a/a.anim", QStringList{"10", "11"},
+        QStringList(), QStringList{character + ", line 6: 10"});
+    row("animation that stands elsewhere, too", int(Removal::Animations), character,
+        QStringList{"10"}, QStringList(), QStringList());
 }
 
 void TestBackgroundCheck::usesAreFound()
 {
-    QFETCH(int, kind);
-    QFETCH(QString, file);
-    QFETCH(QStringList, names);
-    QFETCH(QStringList, staying);
-    QFETCH(QStringList, expected);
+    const auto [kind, file, names, staying, expected] =
+        fetched<int, QString, QStringList, QStringList, QStringList>();
     QVERIFY(
         writeFile(path("characters/a/a.character"),
                   "[files]\nsprites = \"../../shared/all.sprites\"\nsounds = \"a.sounds\"\n"

@@ -6,6 +6,8 @@
 #include "family/project/familyproject.h"
 #include "operations/hostinterface.h"
 #include "operations/sharedfiles.h"
+#include "support/folders.h"
+#include "support/testtable.h"
 
 #include <zorv/core/progressreporter.h>
 
@@ -51,12 +53,6 @@ public:
     std::function<void()> meanwhile;  ///< happens while a restore begins to copy
 };
 
-QByteArray read(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-}
-
 }  // namespace
 
 class TestBackups : public QObject
@@ -80,10 +76,7 @@ private slots:
 private:
     void write(const QString& file, const QByteArray& content)
     {
-        const QString name = m_root + file;
-        QVERIFY(QDir().mkpath(QFileInfo(name).absolutePath()));
-        QFile device(name);
-        QVERIFY(device.open(QIODevice::WriteOnly) && device.write(content) == content.size());
+        QVERIFY(writeFile(m_root + file, content));
     }
     QString inBackup(const BackupResult& result, const QString& file) const
     {
@@ -136,8 +129,8 @@ void TestBackups::sharedFilesAreKept()
     edit("shared.code", "# unsaved\n");
     const BackupResult result = makeBackup(m_game.get(), "now");
     QCOMPARE(result.error, QString());
-    QCOMPARE(read(inBackup(result, "shared.code")), QByteArray("# unsaved\r\nzorv 1\r\n"));
-    QCOMPARE(read(m_root + "shared.code"), QByteArray("zorv 1\r\n"));
+    QCOMPARE(readFile(inBackup(result, "shared.code")), QByteArray("# unsaved\r\nzorv 1\r\n"));
+    QCOMPARE(readFile(m_root + "shared.code"), QByteArray("zorv 1\r\n"));
     QCOMPARE(listBackups(*m_game).first().fileCount, 5);
     QVERIFY(openDocumentOf(*m_game, "shared.code")->isModified());
 }
@@ -161,14 +154,12 @@ void TestBackups::missingFilesAreNoFailures()
 // A name that Qt does not list must not be passed over.
 void TestBackups::projectWithoutNameIsTold_data()
 {
-    QTest::addColumn<QByteArray>("path");
-    QTest::addColumn<QString>("told");
-    QTest::newRow("folder") << QByteArray("characters/h\xfcro/x.character")
-                            << "characters/h\\xfcro";
-    QTest::newRow("deep in it") << QByteArray("a\xff/b/c.stage") << "a\\xff";
-    QTest::newRow("main file") << QByteArray("stages/\xfe.stage") << "stages/\\xfe.stage";
-    QTest::newRow("no project") << QByteArray("a\xff/b/picture.png") << QString();
-    QTest::newRow("a backup") << QByteArray("backup/\xff/c.stage") << QString();
+    columns<QByteArray, QString>("path", "told");
+    row("folder", QByteArray("characters/h\xfcro/x.character"), "characters/h\\xfcro");
+    row("deep in it", QByteArray("a\xff/b/c.stage"), "a\\xff");
+    row("main file", QByteArray("stages/\xfe.stage"), "stages/\\xfe.stage");
+    row("no project", QByteArray("a\xff/b/picture.png"), QString());
+    row("a backup", QByteArray("backup/\xff/c.stage"), QString());
 }
 
 void TestBackups::projectWithoutNameIsTold()
@@ -199,8 +190,8 @@ void TestBackups::restoreLeavesWhatIsWrittenMeanwhile()
     const BackupResult result = restoreBackup(m_game.get(), old.folder);
     QCOMPARE(result.failed, QStringList("shared.code"));
     QVERIFY(!result.error.isEmpty());
-    QCOMPARE(read(m_root + "shared.code"), QByteArray("newest"));
-    QCOMPARE(read(inBackup(result, "shared.code")), QByteArray("newer"));
+    QCOMPARE(readFile(m_root + "shared.code"), QByteArray("newest"));
+    QCOMPARE(readFile(inBackup(result, "shared.code")), QByteArray("newer"));
 }
 
 void TestBackups::givenUpBackupGoes()
@@ -216,7 +207,7 @@ void TestBackups::givenUpBackupGoes()
     write("shared.code", "changed");
     m_host.patience = 1;
     QVERIFY(restoreBackup(m_game.get(), whole.folder).isCanceled);
-    QCOMPARE(read(m_root + "shared.code"), QByteArray("changed"));
+    QCOMPARE(readFile(m_root + "shared.code"), QByteArray("changed"));
     QCOMPARE(m_game->backups(), QStringList(whole.folder));
 }
 
@@ -229,7 +220,7 @@ void TestBackups::backupsOfOneMomentStayApart()
         write("characters/hero/own.wav", QByteArray::number(i));
         const BackupResult result = makeBackup(m_game.get(), "now");
         folders.insert(result.folder);
-        QCOMPARE(read(inBackup(result, "characters/hero/own.wav")), QByteArray::number(i));
+        QCOMPARE(readFile(inBackup(result, "characters/hero/own.wav")), QByteArray::number(i));
     }
     QCOMPARE(folders.size(), 3);
 }
@@ -253,14 +244,14 @@ void TestBackups::restoreKeepsWhatItReplaces()
     QCOMPARE(changes, QStringList({"characters/hero/own.wav", "notes.txt"}));
     const BackupResult safety = restoreBackup(m_game.get(), old.folder);
     QCOMPARE(safety.error, QString());
-    QCOMPARE(read(m_root + "notes.txt"), QByteArray("old"));
-    QCOMPARE(read(m_root + "characters/hero/own.wav"), QByteArray("wave"));
+    QCOMPARE(readFile(m_root + "notes.txt"), QByteArray("old"));
+    QCOMPARE(readFile(m_root + "characters/hero/own.wav"), QByteArray("wave"));
     QVERIFY(!openDocumentOf(*m_game, "characters/rival/rival.character")->isModified());
 
     QVERIFY(restoreBackup(m_game.get(), safety.folder, false).folder.isEmpty());
-    QCOMPARE(read(m_root + "notes.txt"), QByteArray("new"));
-    QCOMPARE(read(m_root + "characters/hero/own.wav"), QByteArray("new wave"));
-    QVERIFY(read(m_root + "characters/rival/rival.character").startsWith("# unsaved"));
+    QCOMPARE(readFile(m_root + "notes.txt"), QByteArray("new"));
+    QCOMPARE(readFile(m_root + "characters/hero/own.wav"), QByteArray("new wave"));
+    QVERIFY(readFile(m_root + "characters/rival/rival.character").startsWith("# unsaved"));
 }
 
 void TestBackups::refusesWhatIsNoBackup()
@@ -277,8 +268,8 @@ void TestBackups::sharedFilesMoveAlong()
     const QString newRoot = m_dir->filePath("new/");
     m_game->saveAs(newRoot);
     QCOMPARE(moveSharedFiles(m_game.get(), m_root), QStringList());
-    QCOMPARE(read(newRoot + "shared.code"), QByteArray("# unsaved\r\nzorv 1\r\n"));
-    QCOMPARE(read(m_root + "shared.code"), QByteArray("zorv 1\r\n"));
+    QCOMPARE(readFile(newRoot + "shared.code"), QByteArray("# unsaved\r\nzorv 1\r\n"));
+    QCOMPARE(readFile(m_root + "shared.code"), QByteArray("zorv 1\r\n"));
     QCOMPARE(shared->fileName(), newRoot + "shared.code");
     QVERIFY(!shared->isModified());
     for (const FamilyProject* project : qAsConst(m_projects)) {

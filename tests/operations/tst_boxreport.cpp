@@ -4,6 +4,7 @@
 #include "family/familydocument.h"
 #include "family/nodes/animationnode.h"
 #include "operations/boxes/coveredarea.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -115,11 +116,10 @@ void TestBoxReport::areas()
 
 void TestBoxReport::times_data()
 {
-    QTest::addColumn<QString>("frames");  // kinds of boxes and the delay of each
-    QTest::addColumn<QString>("active");  // tick+ticks
-    QTest::addColumn<int>("recovery");
-    QTest::addColumn<QVector<int>>("next");
-    QTest::addColumn<QVector<int>>("withoutBody");
+    // `frames`: kinds of boxes and the delay of each
+    // `active`: tick+ticks
+    columns<QString, QString, int, QVector<int>, QVector<int>>("frames", "active", "recovery",
+                                                               "next", "withoutBody");
     using Numbers = QVector<int>;
     QTest::addRow("a blow") << "b4 ab3 b6 b-1"
                             << "4+3" << 6 << Numbers{1, 2, 3, -1} << Numbers{};

@@ -3,7 +3,9 @@
 #include "family/familydocument.h"
 #include "family/nodepath.h"
 #include "operations/hostinterface.h"
+#include "support/folders.h"
 #include "support/planneddialogs.h"
+#include "support/testtable.h"
 
 #include <zorv/code/codecs/textcodecs.h>
 
@@ -37,7 +39,7 @@ private slots:
 
 private:
     QString write(const QByteArray& data);
-    QByteArray content() const;
+    QByteArray content() const { return readFile(m_file); }
     std::unique_ptr<FamilyDocument> open(const char* codec);
 
     HostInterface m_host;
@@ -54,14 +56,7 @@ void TestDocumentFile::init()
 
 QString TestDocumentFile::write(const QByteArray& data)
 {
-    QFile file(m_file);
-    return file.open(QIODevice::WriteOnly) && file.write(data) == data.size() ? m_file : QString();
-}
-
-QByteArray TestDocumentFile::content() const
-{
-    QFile file(m_file);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    return writeFile(m_file, data) ? m_file : QString();
 }
 
 std::unique_ptr<FamilyDocument> TestDocumentFile::open(const char* codec)
@@ -73,9 +68,7 @@ std::unique_ptr<FamilyDocument> TestDocumentFile::open(const char* codec)
 
 void TestDocumentFile::encodingIsOffered_data()
 {
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<bool>("faithful");
+    columns<QByteArray, int, bool>("data", "answer", "faithful");
     QTest::newRow("accepted") << QByteArray(unfaithfulText) << 0 << true;
     QTest::newRow("refused") << QByteArray(unfaithfulText) << 1 << false;
     QTest::newRow("given up") << QByteArray(unfaithfulText) << -1 << false;
@@ -85,9 +78,7 @@ void TestDocumentFile::encodingIsOffered_data()
 
 void TestDocumentFile::encodingIsOffered()
 {
-    QFETCH(QByteArray, data);
-    QFETCH(int, answer);
-    QFETCH(bool, faithful);
+    const auto [data, answer, faithful] = fetched<QByteArray, int, bool>();
     write(data);
     const auto document = open("UTF-8");
     PlannedDialogs dialogs;
@@ -102,9 +93,7 @@ void TestDocumentFile::encodingIsOffered()
 
 void TestDocumentFile::missingCharacter_data()
 {
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("outcome");
-    QTest::addColumn<QString>("codec");
+    columns<int, int, QString>("answer", "outcome", "codec");
     QTest::newRow("as UTF-8") << 0 << int(Saved::Done) << "UTF-8";
     QTest::newRow("do not save") << 1 << int(Saved::GivenUp) << "windows-1252";
     QTest::newRow("given up") << -1 << int(Saved::GivenUp) << "windows-1252";

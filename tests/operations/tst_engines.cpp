@@ -2,6 +2,7 @@
 
 #include "family/project/familyenginemodel.h"
 #include "operations/settingsformat.h"
+#include "support/testtable.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -64,21 +65,18 @@ void TestEngines::listsComeBack()
 
 void TestEngines::settingsOfAnyKind_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<int>("count");
-    QTest::newRow("none") << QByteArray() << 0;
-    QTest::newRow("negative") << QByteArray("[engines]\nsize=-5\n1\\name=a\n") << 0;
-    QTest::newRow("no number") << QByteArray("[engines]\nsize=many\n1\\name=a\n") << 0;
-    QTest::newRow("too many") << QByteArray("[engines]\nsize=2000000000\n1\\name=a\n")
-                              << MaxEngines;
-    QTest::newRow("damaged") << QByteArray("nothing\n[engines\nsize=2\n1\\name=a\n") << 2;
-    QTest::newRow("gaps") << QByteArray("[engines]\nsize=3\n3\\name=a\n") << 3;
+    columns<QByteArray, int>("text", "count");
+    row("none", QByteArray(), 0);
+    row("negative", QByteArray("[engines]\nsize=-5\n1\\name=a\n"), 0);
+    row("no number", QByteArray("[engines]\nsize=many\n1\\name=a\n"), 0);
+    row("too many", QByteArray("[engines]\nsize=2000000000\n1\\name=a\n"), MaxEngines);
+    row("damaged", QByteArray("nothing\n[engines\nsize=2\n1\\name=a\n"), 2);
+    row("gaps", QByteArray("[engines]\nsize=3\n3\\name=a\n"), 3);
 }
 
 void TestEngines::settingsOfAnyKind()
 {
-    QFETCH(QByteArray, text);
-    QFETCH(int, count);
+    const auto [text, count] = fetched<QByteArray, int>();
     QFile file(m_dir.filePath("any.conf"));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
     file.close();
@@ -89,42 +87,21 @@ void TestEngines::settingsOfAnyKind()
 
 void TestEngines::problems_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("executable");
-    QTest::addColumn<QString>("parameters");
-    QTest::addColumn<QString>("part");
+    columns<QString, QString, QString, QString>("name", "executable", "parameters", "part");
     const QString program = QCoreApplication::applicationFilePath();
-    QTest::newRow("fine") << "a" << program << "-x %12"
-                          << "";
-    QTest::newRow("default") << "a" << program << defaultEngineParameters() << "";
-    QTest::newRow("no name") << " " << program << "%0"
-                             << "no name";
-    QTest::newRow("no program") << "a"
-                                << ""
-                                << "%0"
-                                << "'a'";
-    QTest::newRow("missing") << "a"
-                             << "/no/such"
-                             << "%0"
-                             << "'/no/such'";
-    QTest::newRow("not whole") << "a"
-                               << "fight"
-                               << "%0"
-                               << "'fight' is another program in each folder";
-    QTest::newRow("folder") << "a"
-                            << "/"
-                            << "%0"
-                            << "'/'";
-    QTest::newRow("no mark") << "%2" << program << "50% %x"
-                             << "'%2' ask for no project";
+    row("fine", "a", program, "-x %12", "");
+    row("default", "a", program, defaultEngineParameters(), "");
+    row("no name", " ", program, "%0", "no name");
+    row("no program", "a", "", "%0", "'a'");
+    row("missing", "a", "/no/such", "%0", "'/no/such'");
+    row("not whole", "a", "fight", "%0", "'fight' is another program in each folder");
+    row("folder", "a", "/", "%0", "'/'");
+    row("no mark", "%2", program, "50% %x", "'%2' ask for no project");
 }
 
 void TestEngines::problems()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, executable);
-    QFETCH(QString, parameters);
-    QFETCH(QString, part);
+    const auto [name, executable, parameters, part] = fetched<QString, QString, QString, QString>();
     const QString problem = engineProblem({name, executable, parameters, {}});
     QCOMPARE(problem.isEmpty(), part.isEmpty());
     QVERIFY2(problem.contains(part), qPrintable(problem));

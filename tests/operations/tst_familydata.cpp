@@ -1,6 +1,8 @@
 #include "family/completer/completerfile.h"
 #include "family/project/familyenginemodel.h"
 #include "operations/familydata.h"
+#include "support/folders.h"
+#include "support/testtable.h"
 
 #include <zorv/core/files.h>
 
@@ -57,8 +59,7 @@ private slots:
     // The record says that another version was put there before.
     void newVersionTakesThePlaceOfTheOldOne_data()
     {
-        QTest::addColumn<QByteArray>("found");
-        QTest::addColumn<bool>("isReplaced");
+        columns<QByteArray, bool>("found", "isReplaced");
         QTest::newRow("as it was put there") << QByteArray("old version") << true;
         QTest::newRow("changed") << QByteArray("old version, changed") << false;
         QTest::newRow("deleted") << QByteArray() << false;
@@ -66,8 +67,7 @@ private slots:
 
     void newVersionTakesThePlaceOfTheOldOne()
     {
-        QFETCH(QByteArray, found);
-        QFETCH(bool, isReplaced);
+        const auto [found, isReplaced] = fetched<QByteArray, bool>();
         const auto hash = QCryptographicHash::hash("old version", QCryptographicHash::Sha256);
         write(QStringLiteral("shipped"), hash.toHex() + ' ' + snippet.toUtf8() + '\n');
         if (!found.isEmpty()) {
@@ -83,8 +83,7 @@ private slots:
 
     void completerIsOursUntilThePersonEditsIt_data()
     {
-        QTest::addColumn<QByteArray>("found");
-        QTest::addColumn<bool>("isReplaced");
+        columns<QByteArray, bool>("found", "isReplaced");
         QTest::newRow("that of another version")
             << QByteArray("<completer version=\"1\" origin=\"zorv\"/>") << true;
         QTest::newRow("the person's") << QByteArray("<completer version=\"1\"/>") << false;
@@ -93,8 +92,7 @@ private slots:
 
     void completerIsOursUntilThePersonEditsIt()
     {
-        QFETCH(QByteArray, found);
-        QFETCH(bool, isReplaced);
+        const auto [found, isReplaced] = fetched<QByteArray, bool>();
         write(completerFileName(), found);
         prepare();
         QCOMPARE(read(completerFileName()), isReplaced ? completerXml() : found);
@@ -125,18 +123,11 @@ private:
         QVERIFY2(prepareFamilyData(&error), qPrintable(error));
     }
 
-    static QByteArray read(const QString& name)
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-    }
+    static QByteArray read(const QString& name) { return readFile(path(name)); }
 
     static void write(const QString& name, const QByteArray& bytes)
     {
-        QVERIFY(Zorv::forcePath(path(name)));
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        QVERIFY(writeFile(path(name), bytes));
     }
 
     std::unique_ptr<QTemporaryDir> m_home;

@@ -6,6 +6,7 @@
 #include "operations/media/mediaresult.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/selection.h"
+#include "support/testtable.h"
 
 #include <QDir>
 #include <QFile>
@@ -81,8 +82,7 @@ void TestMediaFiles::initTestCase()
 
 void TestMediaFiles::patterns_data()
 {
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QString>("files");
+    columns<QStringList, QString>("names", "files");
     const auto row = [](const char* names, const char* files) {
         QTest::newRow(names) << QString(names).split(' ') << QString(files);
     };
@@ -101,8 +101,7 @@ void TestMediaFiles::patterns_data()
 
 void TestMediaFiles::patterns()
 {
-    QFETCH(QStringList, names);
-    QFETCH(QString, files);
+    const auto [names, files] = fetched<QStringList, QString>();
     QString error;
     QCOMPARE(expandPatterns(names, &error).join(' '), files);
     QCOMPARE(error.isEmpty(), !files.isEmpty());
@@ -110,10 +109,7 @@ void TestMediaFiles::patterns()
 
 void TestMediaFiles::places_data()
 {
-    QTest::addColumn<QString>("names");
-    QTest::addColumn<QString>("place");
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<QString>("paths");
+    columns<QString, QString, QByteArray, QString>("names", "place", "format", "paths");
     const auto row = [](const char* names, const char* place, const char* format,
                         const char* paths) {
         QTest::newRow(qPrintable(QString("%1 > %2 %3").arg(names, place, format)))
@@ -134,10 +130,7 @@ void TestMediaFiles::places_data()
 
 void TestMediaFiles::places()
 {
-    QFETCH(QString, names);
-    QFETCH(QString, place);
-    QFETCH(QByteArray, format);
-    QFETCH(QString, paths);
+    const auto [names, place, format, paths] = fetched<QString, QString, QByteArray, QString>();
     OutputFiles outputs;
     OutputRequest request;
     request.place = place;
@@ -175,8 +168,7 @@ void TestMediaFiles::nothingIsReplaced()
 
 void TestMediaFiles::selections_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("meant");
+    columns<QString, QString>("text", "meant");
     const auto row = [](const char* text, const char* meant) {
         QTest::newRow(text) << QString(text) << QString(meant);
     };
@@ -191,8 +183,7 @@ void TestMediaFiles::selections_data()
 
 void TestMediaFiles::selections()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, meant);
+    const auto [text, meant] = fetched<QString, QString>();
     Selection selection;
     const bool isRead = selection.add(text);
     QStringList found;
@@ -208,8 +199,7 @@ void TestMediaFiles::selections()
 
 void TestMediaFiles::targets_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("target");
+    columns<QString, QString>("name", "target");
     const auto row = [](const char* name, const char* target) {
         QTest::newRow(name) << QString(name) << QString(target);
     };
@@ -227,8 +217,7 @@ void TestMediaFiles::targets_data()
 
 void TestMediaFiles::targets()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, target);
+    const auto [name, target] = fetched<QString, QString>();
     ImportTarget found;
     const bool isFound = importTarget(name, &found);
     QCOMPARE(isFound ? QString("%1 %2").arg(found.id.text()).arg(found.copy) : QString(), target);

@@ -3,6 +3,8 @@
 #include "operations/recovery/abandonedwork.h"
 #include "operations/recovery/recoverykeeper.h"
 #include "operations/recovery/sessionfolder.h"
+#include "support/folders.h"
+#include "support/testtable.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -24,18 +26,6 @@ using namespace Operations;
 namespace {
 
 const char* const fileContent = "[info]\r\nname = \"J\xc3\xb6rn\"\r\n[constants]\r\nlife = 1\r\n";
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
 
 RecoveryCopy someCopy()
 {
@@ -105,7 +95,7 @@ void TestRecovery::init()
     startHost(&m_host);
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = m_folder->filePath("hero.character");
-    QVERIFY(write(m_file, fileContent));
+    QVERIFY(writeFile(m_file, fileContent));
 }
 
 void TestRecovery::cleanup()
@@ -148,7 +138,7 @@ void TestRecovery::damagedCopyIsNeverRead_data()
 {
     QTest::addColumn<QString>("damage");
     for (const char* damage : {"cut", "flipped", "longer"}) {
-        QTest::newRow(damage) << QString(damage);
+        row(damage, QString(damage));
     }
 }
 
@@ -177,8 +167,8 @@ void TestRecovery::unsavedTextSurvives()
 {
     const QString copy = leaveCopy();
     const QString other = root() + "/dead/2.zorvcopy";
-    QVERIFY(write(other, contentOf(copy).chopped(1)));
-    QVERIFY(write(root() + "/dead/notes.txt", "not ours"));
+    QVERIFY(writeFile(other, readFile(copy).chopped(1)));
+    QVERIFY(writeFile(root() + "/dead/notes.txt", "not ours"));
     const AbandonedWorks found(root());
     QCOMPARE(found.all().size(), 2);
     const AbandonedWork text = found.all().first();
@@ -191,7 +181,7 @@ void TestRecovery::unsavedTextSurvives()
     applyText(document.get(), text.copy.text, text.copy.codec);
     QVERIFY(document->text().startsWith("; typed\n[info]"));
     QVERIFY(document->isModified());
-    QCOMPARE(contentOf(m_file), QByteArray(fileContent));
+    QCOMPARE(readFile(m_file), QByteArray(fileContent));
     QVERIFY(text.discard());
     QVERIFY(!QFile::exists(copy));
     QVERIFY(QFile::exists(root() + "/dead/notes.txt"));
@@ -229,22 +219,19 @@ void TestRecovery::copyGoesWithTheChanges()
 
 void TestRecovery::fileThatChangedIsNotOverwritten_data()
 {
-    QTest::addColumn<QByteArray>("now");
-    QTest::addColumn<int>("state");
-    QTest::newRow("as it was") << QByteArray(fileContent) << int(AbandonedWork::Applicable);
-    QTest::newRow("other size") << QByteArray("[info]\r\n") << int(AbandonedWork::FileChanged);
-    QTest::newRow("same size") << QByteArray(fileContent).replace('1', '2')
-                               << int(AbandonedWork::FileChanged);
-    QTest::newRow("gone") << QByteArray() << int(AbandonedWork::FileGone);
-    QTest::newRow("what the copy says") << QByteArray("; typed\r\n") + fileContent << -1;
+    columns<QByteArray, int>("now", "state");
+    row("as it was", QByteArray(fileContent), int(AbandonedWork::Applicable));
+    row("other size", QByteArray("[info]\r\n"), int(AbandonedWork::FileChanged));
+    row("same size", QByteArray(fileContent).replace('1', '2'), int(AbandonedWork::FileChanged));
+    row("gone", QByteArray(), int(AbandonedWork::FileGone));
+    row("what the copy says", QByteArray("; typed\r\n") + fileContent, -1);
 }
 
 void TestRecovery::fileThatChangedIsNotOverwritten()
 {
-    QFETCH(QByteArray, now);
-    QFETCH(int, state);
+    const auto [now, state] = fetched<QByteArray, int>();
     const QString copy = leaveCopy();
-    QVERIFY(now.isEmpty() ? QFile::remove(m_file) : write(m_file, now));
+    QVERIFY(now.isEmpty() ? QFile::remove(m_file) : writeFile(m_file, now));
     const AbandonedWorks found(root());
     QCOMPARE(found.all().size(), state < 0 ? 0 : 1);
     QCOMPARE(QFile::exists(copy), state >= 0);
@@ -255,7 +242,7 @@ void TestRecovery::fileThatChangedIsNotOverwritten()
     QString error;
     const QString rescued = m_folder->filePath("rescued.character");
     QVERIFY(found.all().first().saveElsewhere(rescued, &error));
-    QCOMPARE(contentOf(rescued), "; typed\r\n" + QByteArray(fileContent));
+    QCOMPARE(readFile(rescued), "; typed\r\n" + QByteArray(fileContent));
 }
 
 void TestRecovery::textWithoutFileSurvives()
@@ -316,7 +303,7 @@ void TestRecovery::otherProcessKeepsItsCopies()
 
 void TestRecovery::failureIsToldOnce()
 {
-    QVERIFY(write(root(), "a file is in the way"));
+    QVERIFY(writeFile(root(), "a file is in the way"));
     RecoveryKeeper keeper(root());
     keeper.setInterval(1);
     QSignalSpy failed(&keeper, &RecoveryKeeper::failed);
@@ -343,7 +330,7 @@ void TestRecovery::fullDiskKeepsTheLastCopy()
     QTextCursor(document.get()).insertText("x");
     QVERIFY(keeper.flush());
     const QString copy = keeper.folder() + "1.zorvcopy";
-    const QByteArray before = contentOf(copy);
+    const QByteArray before = readFile(copy);
     rlimit old;
     getrlimit(RLIMIT_FSIZE, &old);
     for (const rlim_t size : {rlim_t(0), rlim_t(before.size() / 2)}) {
@@ -353,23 +340,23 @@ void TestRecovery::fullDiskKeepsTheLastCopy()
         const bool isCopied = keeper.flush();
         setrlimit(RLIMIT_FSIZE, &old);
         QVERIFY(!isCopied);
-        QCOMPARE(contentOf(copy), before);
+        QCOMPARE(readFile(copy), before);
     }
     QCOMPARE(failed.size(), 1);
     QVERIFY(keeper.flush());
-    QVERIFY(contentOf(copy) != before);
+    QVERIFY(readFile(copy) != before);
     QCOMPARE(QDir(keeper.folder()).entryList(QDir::Files).size(), 2);
 }
 
 void TestRecovery::applyingIsOneStep_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::newRow("in the middle") << QStringLiteral("a\nX\nc\n");
-    QTest::newRow("repeated") << QStringLiteral("a\na\nb\nc\n");
-    QTest::newRow("shorter") << QStringLiteral("a\n");
-    QTest::newRow("nothing") << QString();
-    QTest::newRow("all else") << QStringLiteral("1\n2\n");
-    QTest::newRow("the same") << QStringLiteral("a\nb\nc\n");
+    row("in the middle", QStringLiteral("a\nX\nc\n"));
+    row("repeated", QStringLiteral("a\na\nb\nc\n"));
+    row("shorter", QStringLiteral("a\n"));
+    row("nothing", QString());
+    row("all else", QStringLiteral("1\n2\n"));
+    row("the same", QStringLiteral("a\nb\nc\n"));
 }
 
 void TestRecovery::applyingIsOneStep()

@@ -2,6 +2,7 @@
 
 #include "support/brokenbytes.h"
 #include "support/folders.h"
+#include "support/testtable.h"
 
 #include <QColor>
 #include <QRandomGenerator>
@@ -74,8 +75,7 @@ private:
 
 void TestSettingsFormat::readsWhatTheOtherWrites_data()
 {
-    QTest::addColumn<QSettings::Format>("writer");
-    QTest::addColumn<QSettings::Format>("reader");
+    columns<QSettings::Format, QSettings::Format>("writer", "reader");
     QTest::newRow("own") << settingsFormat() << settingsFormat();
     QTest::newRow("from that of Qt") << QSettings::IniFormat << settingsFormat();
     QTest::newRow("to that of Qt") << settingsFormat() << QSettings::IniFormat;
@@ -83,8 +83,7 @@ void TestSettingsFormat::readsWhatTheOtherWrites_data()
 
 void TestSettingsFormat::readsWhatTheOtherWrites()
 {
-    QFETCH(QSettings::Format, writer);
-    QFETCH(QSettings::Format, reader);
+    const auto [writer, reader] = fetched<QSettings::Format, QSettings::Format>();
     qInfo("seed %u", Seed);
     QRandomGenerator random(Seed);
     for (int round = 0; round < 40; ++round) {
@@ -118,17 +117,15 @@ void TestSettingsFormat::readsWhatTheOtherWrites()
 /// Whatever the bytes, what can be read is, and the next change is written.
 void TestSettingsFormat::brokenFiles()
 {
-    forEachBrokenForm(
-        "[a b]\nk\\%20=\"x\\x41,\", @ByteArray(\\0)\n", [this](const QByteArray& bytes) {
-            const QString name = m_dir.filePath(QString::number(++m_files));
-            QFile file(name);
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-            file.close();
-            QSettings settings(name, settingsFormat());
-            settings.setValue("new", 1);
-            settings.sync();
-            QVERIFY(settings.status() != QSettings::AccessError);
-        });
+    forEachBrokenForm("[a b]\nk\\%20=\"x\\x41,\", @ByteArray(\\0)\n",
+                      [this](const QByteArray& bytes) {
+                          const QString name = m_dir.filePath(QString::number(++m_files));
+                          QVERIFY(writeFile(name, bytes));
+                          QSettings settings(name, settingsFormat());
+                          settings.setValue("new", 1);
+                          settings.sync();
+                          QVERIFY(settings.status() != QSettings::AccessError);
+                      });
     const QString name = m_dir.filePath("line");
     writeFile(name, "[General]\na=1\nno setting\n[b\nc=2\n");
     QSettings settings(name, settingsFormat());

@@ -1,6 +1,7 @@
 #include "family/check/check.h"
 #include "family/data/snippettexts.h"
 #include "operations/hostinterface.h"
+#include "support/folders.h"
 #include "support/planneddialogs.h"
 
 #include <zorv/editors/snipman/snipdlg.h>
@@ -55,10 +56,7 @@ const Place places[] = {
 
 void write(const QDir& folder, const QString& name, const QString& text)
 {
-    QVERIFY(folder.mkpath(QFileInfo(name).path()));
-    QFile file(folder.filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text.toUtf8());
+    QVERIFY(writeFile(folder.filePath(name), text.toUtf8()));
 }
 
 }  // namespace

@@ -6,6 +6,9 @@
 #include "operations/media/spriteimport.h"
 #include "operations/media/spritesheet.h"
 
+#include "support/folders.h"
+#include "support/release.h"
+
 #include <zorv/media/imagefile.h>
 #include <zorv/media/losslessimages.h>
 #include <zorv/media/pcx.h>
@@ -23,11 +26,6 @@ using namespace Operations;
 namespace {
 
 const quint32 Seed = 20260806;
-
-struct Release
-{
-    void operator()(SpriteCollection* sprites) const { sprites->release(); }
-};
 
 using Collection = std::unique_ptr<SpriteCollection, Release>;
 
@@ -232,9 +230,8 @@ void TestSpriteExchange::palettesOfFewColors()
             const Zorv::RGBA color = isGiven ? palette->state.colors[size_t(i)] : Zorv::RGBA{};
             expected.append(char(color.r)).append(char(color.g)).append(char(color.b));
         }
-        QFile file(folder.filePath(palette->id().text().replace(',', '-') + ".act"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), expected);
+        QCOMPARE(readFile(folder.filePath(palette->id().text().replace(',', '-') + ".act")),
+                 expected);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "operations/linediff.h"
 #include "operations/textdiff.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 #include <QStringList>
@@ -106,33 +107,22 @@ private slots:
 
 void TestTextDiff::format_data()
 {
-    QTest::addColumn<QString>("oldText");
-    QTest::addColumn<QString>("newText");
-    QTest::addColumn<QString>("hunks");
+    columns<QString, QString, QString>("oldText", "newText", "hunks");
 
-    QTest::newRow("equal") << "a\nb\n"
-                           << "a\nb\n"
-                           << "";
-    QTest::newRow("one line") << "1\n2\n3\n4\n5\n6\n7\n8\n9\n"
-                              << "1\n2\n3\n4\nx\n6\n7\n8\n9\n"
-                              << "@@ -2,7 +2,7 @@\n 2\n 3\n 4\n-5\n+x\n 6\n 7\n 8\n";
-    QTest::newRow("two hunks") << "a\n1\n2\n3\n4\n5\n6\n7\nb\n"
-                               << "A\n1\n2\n3\n4\n5\n6\n7\nB\n"
-                               << "@@ -1,4 +1,4 @@\n-a\n+A\n 1\n 2\n 3\n"
-                                  "@@ -6,4 +6,4 @@\n 5\n 6\n 7\n-b\n+B\n";
-    QTest::newRow("from nothing") << ""
-                                  << "a\n"
-                                  << "@@ -0,0 +1 @@\n+a\n";
-    QTest::newRow("line end goes") << "a\nb\n"
-                                   << "a\nb"
-                                   << "@@ -1,2 +1,2 @@\n a\n-b\n+b\n\\ No newline at end of file\n";
+    row("equal", "a\nb\n", "a\nb\n", "");
+    row("one line", "1\n2\n3\n4\n5\n6\n7\n8\n9\n", "1\n2\n3\n4\nx\n6\n7\n8\n9\n",
+        "@@ -2,7 +2,7 @@\n 2\n 3\n 4\n-5\n+x\n 6\n 7\n 8\n");
+    row("two hunks", "a\n1\n2\n3\n4\n5\n6\n7\nb\n", "A\n1\n2\n3\n4\n5\n6\n7\nB\n",
+        "@@ -1,4 +1,4 @@\n-a\n+A\n 1\n 2\n 3\n"
+        "@@ -6,4 +6,4 @@\n 5\n 6\n 7\n-b\n+B\n");
+    row("from nothing", "", "a\n", "@@ -0,0 +1 @@\n+a\n");
+    row("line end goes", "a\nb\n", "a\nb",
+        "@@ -1,2 +1,2 @@\n a\n-b\n+b\n\\ No newline at end of file\n");
 }
 
 void TestTextDiff::format()
 {
-    QFETCH(QString, oldText);
-    QFETCH(QString, newText);
-    QFETCH(QString, hunks);
+    const auto [oldText, newText, hunks] = fetched<QString, QString, QString>();
     const QString head = hunks.isEmpty() ? QString() : QStringLiteral("--- old\n+++ new\n");
     QCOMPARE(unifiedDiff(oldText, newText, "old", "new"), head + hunks);
 }

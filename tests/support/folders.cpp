@@ -28,5 +28,5 @@ bool writeFile(const QString& path, const QByteArray& bytes)
 QByteArray readFile(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
 }

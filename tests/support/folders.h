@@ -9,5 +9,5 @@ bool copyFolder(const QString& source, const QString& target);
 /// Writes a file in place of the old one, and makes its folder. False if it could not be.
 bool writeFile(const QString& path, const QByteArray& bytes = {});
 
-/// The bytes of a file; empty if it cannot be read.
+/// The bytes of a file; "(not there)" if it cannot be read.
 QByteArray readFile(const QString& path);

@@ -2,6 +2,7 @@
 
 #include "editors/code/completionmodel.h"
 #include "support/testgrammar.h"
+#include "support/testtable.h"
 
 #include <QAbstractItemModelTester>
 #include <QAbstractItemView>
@@ -135,49 +136,31 @@ QStringList TestCodeCompletion::shown() const
 
 void TestCodeCompletion::opens_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QStringList>("rows");
+    columns<QString, QString, QStringList>("before", "keys", "rows");
     const QStringList air{"no", "Only", "yes"};
     const QStringList groups{"move", "music"};
     const QStringList places{"first", "second"};
     const QStringList none;
-    QTest::newRow("a sign that ends a word closes") << ""
-                                                    << "air=" << none;
-    QTest::newRow("the blank behind it opens") << ""
-                                               << "air= " << air;
-    QTest::newRow("blanks in the line do not count") << "  air  ="
-                                                     << " " << air;
-    QTest::newRow("case does not count") << ""
-                                         << "AIR= " << air;
-    QTest::newRow("with the first letter") << "air="
-                                           << "o" << air;
-    QTest::newRow("another letter") << "air="
-                                    << "x" << none;
-    QTest::newRow("inside a word") << "st"
-                                   << "air= " << none;
-    QTest::newRow("behind a digit") << "1"
-                                    << "air= " << none;
-    QTest::newRow("behind a full stop") << "a."
-                                        << "air= " << none;
-    QTest::newRow("behind another sign") << "-"
-                                         << "air= " << air;
-    QTest::newRow("a bracket is no end of a word") << ""
-                                                   << "(" << places;
-    QTest::newRow("goes on with the word") << ""
-                                           << "[mu" << groups;
-    QTest::newRow("closes at its end") << ""
-                                       << "[mu]" << none;
-    QTest::newRow("a tab is no blank") << "air\t="
-                                       << " " << none;
-    QTest::newRow("a long line") << QString(100000, u'-') + "["
-                                 << "m" << groups;
+    row("a sign that ends a word closes", "", "air=", none);
+    row("the blank behind it opens", "", "air= ", air);
+    row("blanks in the line do not count", "  air  =", " ", air);
+    row("case does not count", "", "AIR= ", air);
+    row("with the first letter", "air=", "o", air);
+    row("another letter", "air=", "x", none);
+    row("inside a word", "st", "air= ", none);
+    row("behind a digit", "1", "air= ", none);
+    row("behind a full stop", "a.", "air= ", none);
+    row("behind another sign", "-", "air= ", air);
+    row("a bracket is no end of a word", "", "(", places);
+    row("goes on with the word", "", "[mu", groups);
+    row("closes at its end", "", "[mu]", none);
+    row("a tab is no blank", "air\t=", " ", none);
+    row("a long line", QString(100000, u'-') + "[", "m", groups);
 }
 
 void TestCodeCompletion::opens()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, keys);
+    const auto [before, keys] = fetched<QString, QString>();
     start(before);
     for (const QChar key : keys) {
         type(key);
@@ -188,25 +171,21 @@ void TestCodeCompletion::opens()
 
 void TestCodeCompletion::popupKeys_data()
 {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("isOpen");
-    QTest::newRow("return") << int(Qt::Key_Return) << 0 << "[move" << false;
-    QTest::newRow("enter") << int(Qt::Key_Enter) << 0 << "[move" << false;
-    QTest::newRow("tab") << int(Qt::Key_Tab) << 0 << "[move" << false;
-    QTest::newRow("backtab") << int(Qt::Key_Backtab) << 0 << "[mo" << false;
-    QTest::newRow("escape") << int(Qt::Key_Escape) << 0 << "[mo" << false;
-    QTest::newRow("backspace") << int(Qt::Key_Backspace) << 0 << "[m" << true;
-    QTest::newRow("another modifier") << int(Qt::Key_V) << int(Qt::AltModifier) << "[mov" << false;
-    QTest::newRow("shift alone") << int(Qt::Key_Shift) << 0 << "[mo" << true;
-    QTest::newRow("a key without a text") << int(Qt::Key_Left) << 0 << "[mo" << false;
+    columns<int, int, QString, bool>("key", "modifiers", "text", "isOpen");
+    row("return", int(Qt::Key_Return), 0, "[move", false);
+    row("enter", int(Qt::Key_Enter), 0, "[move", false);
+    row("tab", int(Qt::Key_Tab), 0, "[move", false);
+    row("backtab", int(Qt::Key_Backtab), 0, "[mo", false);
+    row("escape", int(Qt::Key_Escape), 0, "[mo", false);
+    row("backspace", int(Qt::Key_Backspace), 0, "[m", true);
+    row("another modifier", int(Qt::Key_V), int(Qt::AltModifier), "[mov", false);
+    row("shift alone", int(Qt::Key_Shift), 0, "[mo", true);
+    row("a key without a text", int(Qt::Key_Left), 0, "[mo", false);
 }
 
 void TestCodeCompletion::popupKeys()
 {
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
+    const auto [key, modifiers] = fetched<int, int>();
     start(QStringLiteral("["));
     type(QStringLiteral("m"));
     type(QStringLiteral("o"));
@@ -279,21 +258,18 @@ void TestCodeCompletion::hostOpensIt()
 
 void TestCodeCompletion::replacesTheWord_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("after");
-    QTest::newRow("with its own case") << "say ALP|" << int(Qt::Key_Return) << "say x-Alpha|";
-    QTest::newRow("all of it") << "say x-|beth on" << int(Qt::Key_Return) << "say x-Alpha| on";
-    QTest::newRow("a whole one") << "say x-Alpha| on" << int(Qt::Key_Return) << "say x-Alpha\n| on";
-    QTest::newRow("a blank ends it") << "say x-|" << int(Qt::Key_Space) << "say x- |";
-    QTest::newRow("none is known") << "what a|" << int(Qt::Key_Return) << "what x-Alpha|";
+    columns<QString, int, QString>("before", "key", "after");
+    row("with its own case", "say ALP|", int(Qt::Key_Return), "say x-Alpha|");
+    row("all of it", "say x-|beth on", int(Qt::Key_Return), "say x-Alpha| on");
+    row("a whole one", "say x-Alpha| on", int(Qt::Key_Return), "say x-Alpha\n| on");
+    row("a blank ends it", "say x-|", int(Qt::Key_Space), "say x- |");
+    row("none is known", "what a|", int(Qt::Key_Return), "what x-Alpha|");
 }
 
 /// Words here go from blank to blank, behind "say".
 void TestCodeCompletion::replacesTheWord()
 {
-    QFETCH(QString, before);
-    QFETCH(int, key);
+    const auto [before, key] = fetched<QString, int>();
     editor->setWordFinder([](const QTextCursor& cursor) {
         const QString line = cursor.block().text() + QLatin1Char(' ');
         const int at = cursor.positionInBlock();
@@ -364,33 +340,26 @@ void TestCodeCompletion::readOnlyStaysWhole()
 
 void TestCodeCompletion::brokenFiles_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("place");
+    columns<QByteArray, QString>("content", "place");
     const QByteArray bomb = "<!DOCTYPE a [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;\">]>"
                             "<completer version=\"1\">&b;</completer>";
-    QTest::newRow("empty") << QByteArray() << "line 1, column 1:";
-    QTest::newRow("not XML") << QByteArray("\x89PNG\r\n\x1a\n\0\0", 10) << "line 1, column";
-    QTest::newRow("ends early") << QByteArray("<completer version=\"1\">\n<words")
-                                << "line 2, column";
-    QTest::newRow("another root") << QByteArray("<words/>") << "line 1, column 9:";
-    QTest::newRow("another version")
-        << QByteArray("<completer version=\"2\"/>") << "line 1, column";
-    QTest::newRow("no trigger") << rootOf("\n<words><word text=\"a\"/></words>")
-                                << "line 2, column 8:";
-    QTest::newRow("no word") << rootOf("\n\n<words trigger=\"x\"><word/></words>")
-                             << "line 3, column";
-    QTest::newRow("behind the root") << rootOf({}) + "<more/>"
-                                     << "line 1, column";
-    QTest::newRow("bomb") << bomb << "line 1, column";
-    QTest::newRow("many words") << manyWords(100001, "x") << "line 1, column";
-    QTest::newRow("many triggers") << manyWords(2000, QByteArray("x ").repeated(51)) << "line 1";
-    QTest::newRow("long") << rootOf(QByteArray(5 << 20, ' ')) << "MiB";
+    row("empty", QByteArray(), "line 1, column 1:");
+    row("not XML", QByteArray("\x89PNG\r\n\x1a\n\0\0", 10), "line 1, column");
+    row("ends early", QByteArray("<completer version=\"1\">\n<words"), "line 2, column");
+    row("another root", QByteArray("<words/>"), "line 1, column 9:");
+    row("another version", QByteArray("<completer version=\"2\"/>"), "line 1, column");
+    row("no trigger", rootOf("\n<words><word text=\"a\"/></words>"), "line 2, column 8:");
+    row("no word", rootOf("\n\n<words trigger=\"x\"><word/></words>"), "line 3, column");
+    row("behind the root", rootOf({}) + "<more/>", "line 1, column");
+    row("bomb", bomb, "line 1, column");
+    row("many words", manyWords(100001, "x"), "line 1, column");
+    row("many triggers", manyWords(2000, QByteArray("x ").repeated(51)), "line 1");
+    row("long", rootOf(QByteArray(5 << 20, ' ')), "MiB");
 }
 
 void TestCodeCompletion::brokenFiles()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, place);
+    const auto [content, place] = fetched<QByteArray, QString>();
     QVERIFY(load(content));
     const QString error = editor->completerError();
     QVERIFY2(error.contains(place), qPrintable(error));

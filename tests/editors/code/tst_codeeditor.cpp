@@ -2,6 +2,7 @@
 
 #include "core/filesystemarchive.h"
 #include "showneditor.h"
+#include "support/testtable.h"
 
 #include <QClipboard>
 #include <QTemporaryDir>
@@ -86,26 +87,21 @@ private slots:
 
 void TestCodeEditor::putsLinesIntoTheView_data()
 {
-    QTest::addColumn<bool>("folded");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<double>("height");  ///< of the line in the view, from 0 to 1
-    QTest::newRow("first page") << false << 3 << int(CodeEditor::TopLine) << -1.0;
-    QTest::newRow("top") << false << 555 << int(CodeEditor::TopLine) << 0.0;
-    QTest::newRow("middle") << false << 555 << int(CodeEditor::CenterLine) << 0.5;
-    QTest::newRow("nearest") << false << 555 << int(CodeEditor::NearestLine) << 1.0;
-    QTest::newRow("end") << false << 2000 << int(CodeEditor::TopLine) << 1.0;
-    QTest::newRow("behind the end") << false << 99999 << int(CodeEditor::CenterLine) << 1.0;
-    QTest::newRow("top, of a head that folds") << true << 500 << int(CodeEditor::TopLine) << 0.0;
-    QTest::newRow("middle, in a fold") << true << 555 << int(CodeEditor::CenterLine) << 0.5;
+    // `height`: /< of the line in the view, from 0 to 1
+    columns<bool, int, int, double>("folded", "line", "type", "height");
+    row("first page", false, 3, int(CodeEditor::TopLine), -1.0);
+    row("top", false, 555, int(CodeEditor::TopLine), 0.0);
+    row("middle", false, 555, int(CodeEditor::CenterLine), 0.5);
+    row("nearest", false, 555, int(CodeEditor::NearestLine), 1.0);
+    row("end", false, 2000, int(CodeEditor::TopLine), 1.0);
+    row("behind the end", false, 99999, int(CodeEditor::CenterLine), 1.0);
+    row("top, of a head that folds", true, 500, int(CodeEditor::TopLine), 0.0);
+    row("middle, in a fold", true, 555, int(CodeEditor::CenterLine), 0.5);
 }
 
 void TestCodeEditor::putsLinesIntoTheView()
 {
-    QFETCH(bool, folded);
-    QFETCH(int, line);
-    QFETCH(int, type);
-    QFETCH(double, height);
+    const auto [folded, line, type, height] = fetched<bool, int, int, double>();
     ShownEditor shown(groups(folded ? 60 : 20));
     const int last = shown.editor.blockCount() - 1;
     if (folded) {
@@ -168,18 +164,15 @@ void TestCodeEditor::controlSwallowsTheTip()
 
 void TestCodeEditor::menuTakesTheCursorAlong_data()
 {
-    QTest::addColumn<int>("reason");
-    QTest::addColumn<bool>("selected");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("mouse") << int(QContextMenuEvent::Mouse) << false << 2;
-    QTest::newRow("mouse, with a selection") << int(QContextMenuEvent::Mouse) << true << 0;
-    QTest::newRow("keyboard") << int(QContextMenuEvent::Keyboard) << false << 0;
+    columns<int, bool, int>("reason", "selected", "expected");
+    row("mouse", int(QContextMenuEvent::Mouse), false, 2);
+    row("mouse, with a selection", int(QContextMenuEvent::Mouse), true, 0);
+    row("keyboard", int(QContextMenuEvent::Keyboard), false, 0);
 }
 
 void TestCodeEditor::menuTakesTheCursorAlong()
 {
-    QFETCH(int, reason);
-    QFETCH(bool, selected);
+    const auto [reason, selected] = fetched<int, bool>();
     ShownEditor shown(QStringLiteral("#\n#\n#"));
     if (selected) {
         QTest::keyClick(&shown.editor, Qt::Key_End, Qt::ShiftModifier);
@@ -238,23 +231,18 @@ void TestCodeEditor::lineEndsAreLineEnds()
 
 void TestCodeEditor::readingAgainKeepsThePlace_data()
 {
-    QTest::addColumn<QString>("newText");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<int>("folds");
-    QTest::newRow("the same") << groups(6) << 420 << 2;
-    QTest::newRow("lines more at the end") << groups(9) << 420 << 2;
-    QTest::newRow("a line more at the start") << QStringLiteral("#\n") + groups(6) << 420 << 2;
-    QTest::newRow("another head") << groups(6).replace(QLatin1String("[2*]"), QLatin1String("[9*]"))
-                                  << 420 << 1;
-    QTest::newRow("few lines") << QStringLiteral("[1*]\na=1\nb=2") << 2 << 1;
-    QTest::newRow("nothing") << QString() << 0 << 0;
+    columns<QString, int, int>("newText", "line", "folds");
+    row("the same", groups(6), 420, 2);
+    row("lines more at the end", groups(9), 420, 2);
+    row("a line more at the start", QStringLiteral("#\n") + groups(6), 420, 2);
+    row("another head", groups(6).replace(QLatin1String("[2*]"), QLatin1String("[9*]")), 420, 1);
+    row("few lines", QStringLiteral("[1*]\na=1\nb=2"), 2, 1);
+    row("nothing", QString(), 0, 0);
 }
 
 void TestCodeEditor::readingAgainKeepsThePlace()
 {
-    QFETCH(QString, newText);
-    QFETCH(int, line);
-    QFETCH(int, folds);
+    const auto [newText, line, folds] = fetched<QString, int, int>();
     OpenFile open(groups(6));
     ShownEditor& shown = open.shown;
     shown.toggle({0, 100});
@@ -281,11 +269,11 @@ void TestCodeEditor::readingAgainKeepsThePlace()
 void TestCodeEditor::documentsGoUnderTheHands_data()
 {
     QTest::addColumn<QString>("how");
-    QTest::newRow("swapped") << "swap";
-    QTest::newRow("taken off") << "none";
-    QTest::newRow("deleted") << "delete";
-    QTest::newRow("emptied") << "clear";
-    QTest::newRow("read again") << "reload";
+    row("swapped", "swap");
+    row("taken off", "none");
+    row("deleted", "delete");
+    row("emptied", "clear");
+    row("read again", "reload");
 }
 
 /// With a preview, one that waits, a drag in the gutter, and all timers running.
@@ -363,10 +351,9 @@ void TestCodeEditor::copiesTheTextAsItIs()
 
 void TestCodeEditor::clickOnHalfALine_data()
 {
-    QTest::addColumn<bool>("isInGutter");
-    QTest::addColumn<QString>("selected");
-    QTest::newRow("text") << false << "v0";
-    QTest::newRow("gutter") << true << "v0=%1\u2029";
+    columns<bool, QString>("isInGutter", "selected");
+    row("text", false, "v0");
+    row("gutter", true, "v0=%1\u2029");
 }
 
 /// The view must not scroll between the two presses of a double click, nor when a click trembles.

@@ -3,6 +3,7 @@
 #include "support/planneddialogs.h"
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include "editors/code/codeeditor.h"
 #include "editors/code/codeitemmodel.h"
@@ -88,7 +89,6 @@ private slots:
     void replaceOne_data();
     void replaceOne();
     void replaceAllIsOneStep();
-    void replaceAllOfNothing();
     void statusFollowsTheCursor();
     void treeFollowsTheCursor();
     void chosenNodeIsShown();
@@ -101,7 +101,6 @@ private slots:
     void anotherDocumentWhileActive();
     void joinsOnce_data();
     void joinsOnce();
-    void treeNeedsName();
 
 private:
     void setText(const QString& text);
@@ -163,38 +162,29 @@ QPair<int, int> TestCodeFileEditor::selection() const
 
 void TestCodeFileEditor::find_data()
 {
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<unsigned>("flags");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("end");
+    columns<QString, unsigned, int, int, int, int>("pattern", "flags", "from", "to", "start",
+                                                   "end");
     // "ab.Ab.ab", with a line end for each point.
-    QTest::newRow("behind the selection") << "ab" << 0u << 0 << 1 << 3 << 5;
-    QTest::newRow("case") << "ab" << unsigned(FindCaseSensitive) << 0 << 1 << 6 << 8;
-    QTest::newRow("at the cursor") << "ab" << 0u << 3 << 3 << 3 << 5;
-    QTest::newRow("around") << "ab" << 0u << 6 << 8 << 0 << 2;
-    QTest::newRow("around, as asked for") << "ab" << unsigned(FindWrap) << 6 << 8 << 0 << 2;
-    QTest::newRow("backward") << "ab" << unsigned(FindBackward) << 6 << 8 << 3 << 5;
-    QTest::newRow("backward around")
-        << "Ab" << (FindBackward | FindCaseSensitive) << 2 << 4 << 3 << 5;
-    QTest::newRow("backward at the start") << "ab" << unsigned(FindBackward) << 0 << 0 << 0 << 2;
-    QTest::newRow("over a line end") << "b.a" << Expression << 2 << 2 << 4 << 7;
-    QTest::newRow("literally") << "b.a" << 0u << 2 << 2 << 0 << 0;
-    QTest::newRow("the end is that of the text") << "b$" << Expression << 0 << 0 << 7 << 8;
-    QTest::newRow("empty match") << "x*" << Expression << 2 << 4 << 4 << 4;
-    QTest::newRow("no expression") << "(" << Expression << 2 << 4 << 0 << 0;
-    QTest::newRow("nothing to look for") << "" << 0u << 2 << 4 << 2 << 4;
+    row("behind the selection", "ab", 0u, 0, 1, 3, 5);
+    row("case", "ab", unsigned(FindCaseSensitive), 0, 1, 6, 8);
+    row("at the cursor", "ab", 0u, 3, 3, 3, 5);
+    row("around", "ab", 0u, 6, 8, 0, 2);
+    row("around, as asked for", "ab", unsigned(FindWrap), 6, 8, 0, 2);
+    row("backward", "ab", unsigned(FindBackward), 6, 8, 3, 5);
+    row("backward around", "Ab", (FindBackward | FindCaseSensitive), 2, 4, 3, 5);
+    row("backward at the start", "ab", unsigned(FindBackward), 0, 0, 0, 2);
+    row("over a line end", "b.a", Expression, 2, 2, 4, 7);
+    row("literally", "b.a", 0u, 2, 2, 0, 0);
+    row("the end is that of the text", "b$", Expression, 0, 0, 7, 8);
+    row("empty match", "x*", Expression, 2, 4, 4, 4);
+    row("no expression", "(", Expression, 2, 4, 0, 0);
+    row("nothing to look for", "", 0u, 2, 4, 2, 4);
 }
 
 void TestCodeFileEditor::find()
 {
-    QFETCH(QString, pattern);
-    QFETCH(unsigned, flags);
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(int, start);
-    QFETCH(int, end);
+    const auto [pattern, flags, from, to, start, end] =
+        fetched<QString, unsigned, int, int, int, int>();
     setText(QStringLiteral("ab\nAb\nab"));
     select(from, to);
     text->find(pattern, flags);
@@ -237,34 +227,19 @@ void TestCodeFileEditor::findComesToTheMiddle()
 
 void TestCodeFileEditor::replaceOne_data()
 {
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("with");
-    QTest::addColumn<unsigned>("flags");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<int>("start");
-    QTest::newRow("goes on to the next") << "ab"
-                                         << "x" << 0u << 0 << 2 << "x\nAb\nab" << 2;
-    QTest::newRow("no match yet") << "ab"
-                                  << "x" << 0u << 0 << 1 << "ab\nAb\nab" << 3;
-    QTest::newRow("groups") << "(a)(b)"
-                            << "\\2\\1" << Expression << 0 << 2 << "ba\nAb\nab" << 3;
-    QTest::newRow("text with groups") << "ab"
-                                      << "\\1" << 0u << 0 << 2 << "\\1\nAb\nab" << 3;
-    QTest::newRow("what stands behind counts") << "ab(?=\\nab)"
-                                               << "x" << Expression << 3 << 5 << "ab\nx\nab" << 0;
+    columns<QString, QString, unsigned, int, int, QString, int>("pattern", "with", "flags", "from",
+                                                                "to", "result", "start");
+    row("goes on to the next", "ab", "x", 0u, 0, 2, "x\nAb\nab", 2);
+    row("no match yet", "ab", "x", 0u, 0, 1, "ab\nAb\nab", 3);
+    row("groups", "(a)(b)", "\\2\\1", Expression, 0, 2, "ba\nAb\nab", 3);
+    row("text with groups", "ab", "\\1", 0u, 0, 2, "\\1\nAb\nab", 3);
+    row("what stands behind counts", "ab(?=\\nab)", "x", Expression, 3, 5, "ab\nx\nab", 0);
 }
 
 void TestCodeFileEditor::replaceOne()
 {
-    QFETCH(QString, pattern);
-    QFETCH(QString, with);
-    QFETCH(unsigned, flags);
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(QString, result);
-    QFETCH(int, start);
+    const auto [pattern, with, flags, from, to, result, start] =
+        fetched<QString, QString, unsigned, int, int, QString, int>();
     setText(QStringLiteral("ab\nAb\nab"));
     select(from, to);
     text->replace(pattern, with, flags, false);
@@ -285,17 +260,6 @@ void TestCodeFileEditor::replaceAllIsOneStep()
     QVERIFY(!document->isUndoAvailable());
     QCOMPARE(editor->textCursor().blockNumber(), 1);
     QCOMPARE(dialogs->count(), 0);
-}
-
-void TestCodeFileEditor::replaceAllOfNothing()
-{
-    const QString before = document->text();
-    text->replace(QStringLiteral("nowhere"), QStringLiteral("x"), 0, true);
-    QCOMPARE(document->text(), before);
-    QVERIFY(document->isUndoAvailable());
-    text->undo();
-    QCOMPARE(document->text(), before);
-    QVERIFY(!document->isUndoAvailable());
 }
 
 void TestCodeFileEditor::statusFollowsTheCursor()
@@ -484,9 +448,9 @@ void TestCodeFileEditor::anotherDocumentWhileActive()
 void TestCodeFileEditor::joinsOnce_data()
 {
     QTest::addColumn<int>("activations");
-    QTest::newRow("the host leaves it to the editor") << 0;
-    QTest::newRow("the host activates") << 1;
-    QTest::newRow("the host activates twice") << 2;
+    row("the host leaves it to the editor", 0);
+    row("the host activates", 1);
+    row("the host activates twice", 2);
 }
 
 /// What a derived editor joins is joined once, after the editor before has parted.
@@ -509,15 +473,6 @@ void TestCodeFileEditor::joinsOnce()
     text->joined.clear();
     text->activate();
     QCOMPARE(text->joined, QStringList(document->text()));
-}
-
-void TestCodeFileEditor::treeNeedsName()
-{
-    for (const char* name : {static_cast<const char*>(nullptr), ""}) {
-        const TextEditor nameless(workspace.get(), name);
-        QVERIFY(!nameless.tree());
-    }
-    QVERIFY(!host->controls.contains(QString()));
 }
 
 QTEST_MAIN(TestCodeFileEditor)

@@ -2,6 +2,7 @@
 
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include "editors/code/codeeditor.h"
 #include "editors/code/codefindtext.h"
@@ -61,7 +62,7 @@ void TestCodeFind::previousIsTheLastStart_data()
     QTest::addColumn<QString>("pattern");
     for (const char* pattern : {"a", "aa", "a*", "b|ab", "a.*b", "(?<=a)b", "^", "$", "x(?=\\n)",
                                 "[^ab]", "(?m-s)^.*$", "\\Ba"}) {
-        QTest::newRow(pattern) << QString::fromLatin1(pattern);
+        row(pattern, QString::fromLatin1(pattern));
     }
 }
 
@@ -92,40 +93,25 @@ void TestCodeFind::previousIsTheLastStart()
 
 void TestCodeFind::replaceAllEqualsReplace_data()
 {
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("with");
-    QTest::newRow("letters") << "a"
-                             << "bb";
-    QTest::newRow("longer than its place") << "a+"
-                                           << "[1]\n";
-    QTest::newRow("nothing instead") << "[ab]"
-                                     << "";
-    QTest::newRow("empty matches") << "x*"
-                                   << "-";
-    QTest::newRow("only empty matches") << "(?=a)"
-                                        << "_";
-    QTest::newRow("line ends") << "\\n"
-                               << ";";
-    QTest::newRow("more line ends") << "$|\\n"
-                                    << "\n\n";
-    QTest::newRow("over lines") << "a.*?\\n.*?b"
-                                << "!x";
-    QTest::newRow("group") << "(a)(b)?"
-                           << "\\2-\\1";
-    QTest::newRow("digit behind a group") << "(a)"
-                                          << "\\11\\0\\2";
-    QTest::newRow("ten groups") << "(a)(b)?(c)?(d)?(e)?(f)?(g)?(h)?(i)?(x)"
-                                << "\\10\\1";
-    QTest::newRow("backslashes") << "(.)"
-                                 << "\\\\1\\";
-    QTest::newRow("pairs") << "\U0001F3AE"
-                           << "ab";
+    columns<QString, QString>("pattern", "with");
+    row("letters", "a", "bb");
+    row("longer than its place", "a+", "[1]\n");
+    row("nothing instead", "[ab]", "");
+    row("empty matches", "x*", "-");
+    row("only empty matches", "(?=a)", "_");
+    row("line ends", "\\n", ";");
+    row("more line ends", "$|\\n", "\n\n");
+    row("over lines", "a.*?\\n.*?b", "!x");
+    row("group", "(a)(b)?", "\\2-\\1");
+    row("digit behind a group", "(a)", "\\11\\0\\2");
+    row("ten groups", "(a)(b)?(c)?(d)?(e)?(f)?(g)?(h)?(i)?(x)", "\\10\\1");
+    row("backslashes", "(.)", "\\\\1\\");
+    row("pairs", "\U0001F3AE", "ab");
 }
 
 void TestCodeFind::replaceAllEqualsReplace()
 {
-    QFETCH(QString, pattern);
-    QFETCH(QString, with);
+    const auto [pattern, with] = fetched<QString, QString>();
     QRandomGenerator random(Seed);
     const CodeFind find(pattern, FindRegularExpression);
     const QRegularExpression expression(pattern, Options);

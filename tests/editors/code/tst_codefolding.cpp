@@ -2,6 +2,7 @@
 
 #include "showneditor.h"
 #include "support/randomtext.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 
@@ -69,26 +70,22 @@ private slots:
 
 void TestCodeFolding::toggles_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QVector<int>>("lines");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("a head") << Nested << QVector<int>{5} << "......h...";
-    QTest::newRow("a head with another in it") << Nested << QVector<int>{0} << ".hhhh.....";
-    QTest::newRow("twice") << Nested << QVector<int>{0, 0} << "..........";
-    QTest::newRow("no head") << Nested << QVector<int>{3} << "..........";
-    QTest::newRow("the last line") << Nested << QVector<int>{9} << "..........";
-    QTest::newRow("the end stays") << "[1]\na=1\nb=2\nc=3" << QVector<int>{0} << ".hh.";
-    QTest::newRow("the only line below stays") << "[1]\na=1" << QVector<int>{0} << "..";
-    QTest::newRow("inner, then outer") << Nested << QVector<int>{2, 0} << ".hhhh.....";
-    QTest::newRow("around a fold, to the end")
-        << Nested << QVector<int>{2, 5, 7, 0, 0} << "..........";
-    QTest::newRow("around an opened fold") << Nested << QVector<int>{2, 2, 5, 0, 0} << "......h...";
+    columns<QString, QVector<int>, QString>("text", "lines", "expected");
+    row("a head", Nested, QVector<int>{5}, "......h...");
+    row("a head with another in it", Nested, QVector<int>{0}, ".hhhh.....");
+    row("twice", Nested, QVector<int>{0, 0}, "..........");
+    row("no head", Nested, QVector<int>{3}, "..........");
+    row("the last line", Nested, QVector<int>{9}, "..........");
+    row("the end stays", "[1]\na=1\nb=2\nc=3", QVector<int>{0}, ".hh.");
+    row("the only line below stays", "[1]\na=1", QVector<int>{0}, "..");
+    row("inner, then outer", Nested, QVector<int>{2, 0}, ".hhhh.....");
+    row("around a fold, to the end", Nested, QVector<int>{2, 5, 7, 0, 0}, "..........");
+    row("around an opened fold", Nested, QVector<int>{2, 2, 5, 0, 0}, "......h...");
 }
 
 void TestCodeFolding::toggles()
 {
-    QFETCH(QString, text);
-    QFETCH(QVector<int>, lines);
+    const auto [text, lines] = fetched<QString, QVector<int>>();
     ShownEditor shown(text);
     for (const int line : lines) {
         shown.toggle({line});
@@ -126,13 +123,12 @@ void TestCodeFolding::foldsAndUnfoldsAll()
 
 void TestCodeFolding::revealsNoMoreThanItTakes_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("in the outer part") << 1 << "...hh.h.h.";
-    QTest::newRow("the head of the inner fold") << 2 << "...hh.h.h.";
-    QTest::newRow("in the inner fold") << 4 << "......h.h.";
-    QTest::newRow("in another fold") << 6 << ".hhhh...h.";
-    QTest::newRow("a visible one") << 5 << ".hhhh.h.h.";
+    columns<int, QString>("line", "expected");
+    row("in the outer part", 1, "...hh.h.h.");
+    row("the head of the inner fold", 2, "...hh.h.h.");
+    row("in the inner fold", 4, "......h.h.");
+    row("in another fold", 6, ".hhhh...h.");
+    row("a visible one", 5, ".hhhh.h.h.");
 }
 
 void TestCodeFolding::revealsNoMoreThanItTakes()
@@ -158,13 +154,12 @@ void TestCodeFolding::cursorLeavesUpwards()
 
 void TestCodeFolding::foldsAtTheCursor_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("at a folded head") << 7 << "..........";
-    QTest::newRow("at a head") << 2 << "...hh...h.";
-    QTest::newRow("in the inner range") << 4 << "...hh...h.";
-    QTest::newRow("in the outer one") << 1 << ".hhhh...h.";
-    QTest::newRow("in none") << 9 << "........h.";
+    columns<int, QString>("line", "expected");
+    row("at a folded head", 7, "..........");
+    row("at a head", 2, "...hh...h.");
+    row("in the inner range", 4, "...hh...h.");
+    row("in the outer one", 1, ".hhhh...h.");
+    row("in none", 9, "........h.");
 }
 
 void TestCodeFolding::foldsAtTheCursor()
@@ -180,23 +175,18 @@ void TestCodeFolding::foldsAtTheCursor()
 
 void TestCodeFolding::keysGoAround_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("down from the head") << 0 << 0 << int(Qt::Key_Down) << 5;
-    QTest::newRow("up to the head") << 5 << 0 << int(Qt::Key_Up) << 0;
-    QTest::newRow("right from the end") << 0 << -1 << int(Qt::Key_Right) << 5;
-    QTest::newRow("left to the end") << 5 << 0 << int(Qt::Key_Left) << 0;
-    QTest::newRow("a page down") << 0 << 0 << int(Qt::Key_PageDown) << 9;
-    QTest::newRow("a page up") << 9 << 0 << int(Qt::Key_PageUp) << 0;
+    columns<int, int, int, int>("line", "column", "key", "expected");
+    row("down from the head", 0, 0, int(Qt::Key_Down), 5);
+    row("up to the head", 5, 0, int(Qt::Key_Up), 0);
+    row("right from the end", 0, -1, int(Qt::Key_Right), 5);
+    row("left to the end", 5, 0, int(Qt::Key_Left), 0);
+    row("a page down", 0, 0, int(Qt::Key_PageDown), 9);
+    row("a page up", 9, 0, int(Qt::Key_PageUp), 0);
 }
 
 void TestCodeFolding::keysGoAround()
 {
-    QFETCH(int, line);
-    QFETCH(int, column);
-    QFETCH(int, key);
+    const auto [line, column, key] = fetched<int, int, int>();
     ShownEditor shown(Nested);
     shown.toggle({0, 5, 7});
     shown.putCursor(line, column);
@@ -207,15 +197,11 @@ void TestCodeFolding::keysGoAround()
 
 void TestCodeFolding::editsShow_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("keys");  ///< "<" Backspace, ">" Delete, "~" undo
-    QTest::addColumn<QString>("expected");
-    QTest::addColumn<int>("cursorLine");
+    // `keys`: /< "<" Backspace, ">" Delete, "~" undo
+    columns<int, int, QString, QString, int>("line", "column", "keys", "expected", "cursorLine");
     const auto row = [](const char* name, int line, int column, const char* keys,
-                        const char* expected, int cursorLine) {
-        QTest::newRow(name) << line << column << keys << expected << cursorLine;
-    };
+                        const char* expected,
+                        int cursorLine) { ::row(name, line, column, keys, expected, cursorLine); };
     row("typing at the head", 5, -1, "x", ".hhhh.h.h.", 5);
     row("the head a comment", 5, 0, "#", ".hhhh...h.", 5);
     row("and a head again", 5, 0, "#~", ".hhhh...h.", 5);
@@ -230,9 +216,7 @@ void TestCodeFolding::editsShow_data()
 
 void TestCodeFolding::editsShow()
 {
-    QFETCH(int, line);
-    QFETCH(int, column);
-    QFETCH(QString, keys);
+    const auto [line, column, keys] = fetched<int, int, QString>();
     ShownEditor shown(Nested);
     shown.toggle({0, 5, 7});
     QCOMPARE(shown.visibility(), QStringLiteral(".hhhh.h.h."));

@@ -1,6 +1,7 @@
 #include "editors/code/codeeditor.h"
 
 #include "showneditor.h"
+#include "support/testtable.h"
 
 #include <QPainter>
 #include <QTextDocumentFragment>
@@ -47,17 +48,6 @@ void move(QWidget* widget, const QPoint& place, Qt::MouseButtons buttons = {})
     QCoreApplication::sendEvent(widget, &event);
 }
 
-int darkest(const QImage& image, const QRect& area)
-{
-    int lightness = 255;
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            lightness = std::min(lightness, image.pixelColor(x, y).lightness());
-        }
-    }
-    return lightness;
-}
-
 bool contains(const QImage& image, const QRect& area, const QColor& color)
 {
     for (int y = area.top(); y <= area.bottom(); ++y) {
@@ -81,7 +71,6 @@ private slots:
     void widthFollowsItsColumns_data();
     void widthFollowsItsColumns();
     void standsAtTheStartOfLines();
-    void strongNumbers();
     void blinkingLeavesItAlone();
     void hoveringShowsRanges();
     void pressFolds_data();
@@ -94,31 +83,22 @@ private slots:
     void worstMarkIsShown();
     void pressOnAMark();
     void tipOfAMark();
-    void hasAName();
 };
 
 void TestCodeGutter::widthFollowsItsColumns_data()
 {
-    QTest::addColumn<int>("lines");
-    QTest::addColumn<bool>("numbers");
-    QTest::addColumn<bool>("marks");
-    QTest::addColumn<bool>("folds");
-    QTest::addColumn<int>("digits");
-    QTest::newRow("one line") << 1 << true << false << true << 2;
-    QTest::newRow("99 lines") << 99 << true << false << true << 2;
-    QTest::newRow("100 lines") << 100 << true << false << true << 3;
-    QTest::newRow("no numbers") << 100 << false << false << true << 0;
-    QTest::newRow("marks") << 100 << true << true << false << 3;
-    QTest::newRow("nothing") << 100 << false << false << false << 0;
+    columns<int, bool, bool, bool, int>("lines", "numbers", "marks", "folds", "digits");
+    row("one line", 1, true, false, true, 2);
+    row("99 lines", 99, true, false, true, 2);
+    row("100 lines", 100, true, false, true, 3);
+    row("no numbers", 100, false, false, true, 0);
+    row("marks", 100, true, true, false, 3);
+    row("nothing", 100, false, false, false, 0);
 }
 
 void TestCodeGutter::widthFollowsItsColumns()
 {
-    QFETCH(int, lines);
-    QFETCH(bool, numbers);
-    QFETCH(bool, marks);
-    QFETCH(bool, folds);
-    QFETCH(int, digits);
+    const auto [lines, numbers, marks, folds, digits] = fetched<int, bool, bool, bool, int>();
     ShownEditor shown(QString(lines - 1, QLatin1Char('\n')));
     CodeEditor::SyntaxFormatting formatting;
     formatting.lineNumbers = numbers;
@@ -149,24 +129,6 @@ void TestCodeGutter::standsAtTheStartOfLines()
     shown.editor.setFont(large);
     QVERIFY(shown.gutter()->width() > width);
     QCOMPARE(shown.viewport()->x(), shown.gutter()->width());
-}
-
-void TestCodeGutter::strongNumbers()
-{
-    ShownEditor shown(Nested);
-    const auto strength = [&](int line) {
-        const QPoint place = shown.inGutter(line, 0);
-        return 255 - darkest(shown.gutter()->grab().toImage(),
-                             QRect(0, place.y() - 6, shown.gutter()->width() - 25, 12));
-    };
-    shown.putCursor(3, 0);
-    QVERIFY(strength(3) > strength(4) + 60);
-    shown.putCursor(4, 0);
-    QVERIFY(strength(4) > strength(3) + 60);
-    QTest::keyClick(&shown.editor, Qt::Key_Down, Qt::ShiftModifier);
-    QTest::keyClick(&shown.editor, Qt::Key_Down, Qt::ShiftModifier);
-    QCOMPARE(strength(5), strength(4));
-    QVERIFY(strength(5) > strength(7) + 60);
 }
 
 void TestCodeGutter::blinkingLeavesItAlone()
@@ -209,13 +171,12 @@ void TestCodeGutter::hoveringShowsRanges()
 
 void TestCodeGutter::pressFolds_data()
 {
-    QTest::addColumn<QVector<int>>("lines");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("on a head") << QVector<int>{5} << "......h...";
-    QTest::newRow("anywhere in a range") << QVector<int>{4} << "...hh.....";
-    QTest::newRow("twice") << QVector<int>{2, 2} << "..........";
-    QTest::newRow("inner, then outer") << QVector<int>{3, 1} << ".hhhh.....";
-    QTest::newRow("outside of all ranges") << QVector<int>{9} << "..........";
+    columns<QVector<int>, QString>("lines", "expected");
+    row("on a head", QVector<int>{5}, "......h...");
+    row("anywhere in a range", QVector<int>{4}, "...hh.....");
+    row("twice", QVector<int>{2, 2}, "..........");
+    row("inner, then outer", QVector<int>{3, 1}, ".hhhh.....");
+    row("outside of all ranges", QVector<int>{9}, "..........");
 }
 
 void TestCodeGutter::pressFolds()
@@ -233,11 +194,10 @@ void TestCodeGutter::pressFolds()
 
 void TestCodeGutter::pressSelectsLines_data()
 {
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("a line") << 3 << "a=1\n";
-    QTest::newRow("a folded one") << 5 << "[3*]\nc=3\n";
-    QTest::newRow("the last one") << 9 << "# end";
+    columns<int, QString>("line", "expected");
+    row("a line", 3, "a=1\n");
+    row("a folded one", 5, "[3*]\nc=3\n");
+    row("the last one", 9, "# end");
 }
 
 void TestCodeGutter::pressSelectsLines()
@@ -305,21 +265,16 @@ void TestCodeGutter::dragScrolls()
 
 void TestCodeGutter::worstMarkIsShown_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("icon");
-    QTest::newRow("error") << "?e"
-                           << "error";
-    QTest::newRow("warning") << "?w"
-                             << "warn";
-    QTest::newRow("deprecation") << "?d"
-                                 << "info";
-    QTest::newRow("none") << "# ?e" << QString();
+    columns<QString, QString>("line", "icon");
+    row("error", "?e", "error");
+    row("warning", "?w", "warn");
+    row("deprecation", "?d", "info");
+    row("none", "# ?e", QString());
 }
 
 void TestCodeGutter::worstMarkIsShown()
 {
-    QFETCH(QString, line);
-    QFETCH(QString, icon);
+    const auto [line, icon] = fetched<QString, QString>();
     ShownEditor shown(QStringLiteral("#\n") + line + QStringLiteral("\n#"));
     showMarks(shown);
     const int side = QFontMetrics(shown.editor.font()).lineSpacing();
@@ -370,12 +325,6 @@ void TestCodeGutter::tipOfAMark()
     QTRY_VERIFY(!QToolTip::isVisible());
     QCOMPARE(tip(0, 5), QString());
     QCOMPARE(tip(1, 30), QString());
-}
-
-void TestCodeGutter::hasAName()
-{
-    ShownEditor shown(Nested);
-    QVERIFY(!shown.gutter()->accessibleName().isEmpty());
 }
 
 QTEST_MAIN(TestCodeGutter)

@@ -2,6 +2,7 @@
 
 #include "showneditor.h"
 #include "support/randomtext.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 #include <QSignalSpy>
@@ -80,29 +81,26 @@ private slots:
 
 void TestCodeHighlights::brackets_data()
 {
-    QTest::addColumn<QString>("text");  // with the cursor at |
-    QTest::addColumn<QStringList>("expected");
+    // `text`: with the cursor at |
+    columns<QString, QStringList>("text", "expected");
     using L = QStringList;
-    QTest::newRow("before") << "|(a)" << L{"(a)", "(", ")"};
-    QTest::newRow("behind") << "(a)|" << L{"(a)", "(", ")"};
-    QTest::newRow("between") << "(|a)" << L{};
-    QTest::newRow("both sides") << "(a)|(b)" << L{"(a)", "(", ")", "(b)", "(", ")"};
-    QTest::newRow("inner first") << "|(a(b)c)d)" << L{"(a(b)c)", "(", ")"};
-    QTest::newRow("any character") << "|(a}" << L{"(a}", "(", "}"};
-    QTest::newRow("unmatched") << "|(a" << L{};
-    QTest::newRow("unmatched closing") << "a)|" << L{};
-    QTest::newRow("over lines") << "|(\n# ()\n#\n{}\n# )" << L{"(/# ()/#/{}/# )", "(", ")"};
-    QTest::newRow("over lines, back")
-        << "# ( (\n# ) {\n# }\n# )|" << L{"( (/# ) {/# }/# )", "(", ")"};
-    QTest::newRow("surplus on the way")
-        << "|( (\n) ( (\n)\n) ) )" << L{"( (/) ( (/)/) )", "(", ")"};
-    QTest::newRow("none is left") << "|(\n(\n)\n()" << L{};
+    row("before", "|(a)", L{"(a)", "(", ")"});
+    row("behind", "(a)|", L{"(a)", "(", ")"});
+    row("between", "(|a)", L{});
+    row("both sides", "(a)|(b)", L{"(a)", "(", ")", "(b)", "(", ")"});
+    row("inner first", "|(a(b)c)d)", L{"(a(b)c)", "(", ")"});
+    row("any character", "|(a}", L{"(a}", "(", "}"});
+    row("unmatched", "|(a", L{});
+    row("unmatched closing", "a)|", L{});
+    row("over lines", "|(\n# ()\n#\n{}\n# )", L{"(/# ()/#/{}/# )", "(", ")"});
+    row("over lines, back", "# ( (\n# ) {\n# }\n# )|", L{"( (/# ) {/# }/# )", "(", ")"});
+    row("surplus on the way", "|( (\n) ( (\n)\n) ) )", L{"( (/) ( (/)/) )", "(", ")"});
+    row("none is left", "|(\n(\n)\n()", L{});
 }
 
 void TestCodeHighlights::brackets()
 {
-    QFETCH(QString, text);
-    QFETCH(QStringList, expected);
+    auto [text, expected] = fetched<QString, QStringList>();
     const int place = text.indexOf(QLatin1Char('|'));
     ShownEditor shown(text.remove(place, 1));
     QTextCursor cursor = shown.editor.textCursor();

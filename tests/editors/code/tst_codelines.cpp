@@ -2,6 +2,7 @@
 
 #include "showneditor.h"
 #include "support/randomtext.h"
+#include "support/testtable.h"
 
 #include <QRandomGenerator>
 
@@ -97,42 +98,28 @@ private slots:
 
 void TestCodeLines::moves_data()
 {
-    QTest::addColumn<bool>("isUp");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
+    columns<bool, QString, QString>("isUp", "before", "after");
     const QString same;
-    QTest::newRow("up") << true << "a\nb>c\nd"
-                        << "b>c\na\nd";
-    QTest::newRow("down") << false << "a\nb>c\nd"
-                          << "a\nd\nb>c";
-    QTest::newRow("the first line") << true << "a>\nb" << same;
-    QTest::newRow("the last line") << false << "a\nb>" << same;
-    QTest::newRow("a last line without an end, up") << true << "a\nb>"
-                                                    << "b>\na";
-    QTest::newRow("not behind the end of the text") << false << "a\nb>\n" << same;
-    QTest::newRow("the end of the text is no line") << true << "a\nb\n>" << same;
-    QTest::newRow("several lines") << true << "a\nb<c\nd>e\nf"
-                                   << "b<c\nd>e\na\nf";
-    QTest::newRow("selected backwards") << false << "a>b\nc<d\ne"
-                                        << "e\na>b\nc<d";
-    QTest::newRow("not the line that a selection ends in front of") << true << "a\n<b\n>c"
-                                                                    << "<b\n>a\nc";
-    QTest::newRow("the same, to the end of the text") << false << "<a\n>b"
-                                                      << "b\n<a>";
-    QTest::newRow("all") << true << "<a\nb\n>" << same;
-    QTest::newRow("an empty line") << true << "a\n>\nb"
-                                   << ">\na\nb";
-    QTest::newRow("over an empty line") << false << "a>\n\nb"
-                                        << "\na>\nb";
-    QTest::newRow("blanks that do not break") << false << "a>\nb\u00a0c"
-                                              << "b\u00a0c\na>";
+    row("up", true, "a\nb>c\nd", "b>c\na\nd");
+    row("down", false, "a\nb>c\nd", "a\nd\nb>c");
+    row("the first line", true, "a>\nb", same);
+    row("the last line", false, "a\nb>", same);
+    row("a last line without an end, up", true, "a\nb>", "b>\na");
+    row("not behind the end of the text", false, "a\nb>\n", same);
+    row("the end of the text is no line", true, "a\nb\n>", same);
+    row("several lines", true, "a\nb<c\nd>e\nf", "b<c\nd>e\na\nf");
+    row("selected backwards", false, "a>b\nc<d\ne", "e\na>b\nc<d");
+    row("not the line that a selection ends in front of", true, "a\n<b\n>c", "<b\n>a\nc");
+    row("the same, to the end of the text", false, "<a\n>b", "b\n<a>");
+    row("all", true, "<a\nb\n>", same);
+    row("an empty line", true, "a\n>\nb", ">\na\nb");
+    row("over an empty line", false, "a>\n\nb", "\na>\nb");
+    row("blanks that do not break", false, "a>\nb\u00a0c", "b\u00a0c\na>");
 }
 
 void TestCodeLines::moves()
 {
-    QFETCH(bool, isUp);
-    QFETCH(QString, before);
-    QFETCH(QString, after);
+    const auto [isUp, before, after] = fetched<bool, QString, QString>();
     ShownEditor shown;
     setMarked(shown, before);
     QCOMPARE(marked(shown), before);
@@ -145,22 +132,17 @@ void TestCodeLines::moves()
 
 void TestCodeLines::foldsGoAlong_data()
 {
-    QTest::addColumn<bool>("isUp");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("visibility");
+    columns<bool, int, QString, QString>("isUp", "line", "text", "visibility");
     // Groups 0 to 2, each with a line below; the first two are folded.
     const QString swapped = QStringLiteral("[2*]\nb=2\n[1*]\na=1\n[3*]\nc=3");
-    QTest::newRow("a fold down over a fold") << false << 0 << swapped << ".h.h..";
-    QTest::newRow("a fold up over a fold") << true << 2 << swapped << ".h.h..";
-    QTest::newRow("a line up over a fold") << true << 4 << "[1*]\na=1\n[3*]\n[2*]\nb=2\nc=3"
-                                           << ".h..h.";
+    row("a fold down over a fold", false, 0, swapped, ".h.h..");
+    row("a fold up over a fold", true, 2, swapped, ".h.h..");
+    row("a line up over a fold", true, 4, "[1*]\na=1\n[3*]\n[2*]\nb=2\nc=3", ".h..h.");
 }
 
 void TestCodeLines::foldsGoAlong()
 {
-    QFETCH(bool, isUp);
-    QFETCH(int, line);
+    const auto [isUp, line] = fetched<bool, int>();
     ShownEditor shown(QStringLiteral("[1*]\na=1\n[2*]\nb=2\n[3*]\nc=3"));
     shown.toggle({0, 2});
     shown.putCursor(line, 1);

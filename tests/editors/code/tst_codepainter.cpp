@@ -1,6 +1,7 @@
 #include "editors/code/codeeditor.h"
 
 #include "showneditor.h"
+#include "support/testtable.h"
 
 #include <QInputMethodEvent>
 #include <QScreen>
@@ -79,8 +80,7 @@ private slots:
 
 void TestCodePainter::asTheBaseClass_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("state");
+    columns<QString, int>("text", "state");
     const QString long100000 = QString(50000, QLatin1Char('x')) + QString(50000, QLatin1Char(' '));
     const QString many = QStringLiteral("[1]\nlife=100\n?e\n").repeated(40);
     enum { Plain, Selected, Wrapped, Scrolled, Composed, Below, Placeholder };
@@ -112,8 +112,7 @@ void TestCodePainter::asTheBaseClass_data()
 /// Where nothing is marked, a plain text widget on the same document looks the same.
 void TestCodePainter::asTheBaseClass()
 {
-    QFETCH(QString, text);
-    QFETCH(int, state);
+    const auto [text, state] = fetched<QString, int>();
     ShownEditor shown(text);
     shown.editor.setSyntaxFormatting(bare());
     GrammarDocument document(text);
@@ -156,11 +155,9 @@ void TestCodePainter::asTheBaseClass()
 
 void TestCodePainter::ranges_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("line");
-    QTest::addColumn<QColor>("base");
-    QTest::addColumn<QVector<int>>("grays");  // of the line, from the right edge inwards
-    QTest::addColumn<int>("levels");          // that the line stands in
+    // `grays`: of the line, from the right edge inwards
+    // `levels`: that the line stands in
+    columns<QString, int, QColor, QVector<int>, int>("text", "line", "base", "grays", "levels");
     const QString deep = QStringLiteral("z=1\n[1]\ny=1\n[2*]\n#\n[3]\na=1\nb=1");
     const QColor white(255, 255, 255), dark(30, 30, 30);
     using Grays = QVector<int>;
@@ -177,10 +174,7 @@ void TestCodePainter::ranges_data()
 
 void TestCodePainter::ranges()
 {
-    QFETCH(QString, text);
-    QFETCH(int, line);
-    QFETCH(QColor, base);
-    QFETCH(QVector<int>, grays);
+    const auto [text, line, base, grays] = fetched<QString, int, QColor, QVector<int>>();
     ShownEditor shown(text);
     Formatting formatting = bare();
     formatting.highlightBlocks = true;
@@ -266,10 +260,9 @@ void TestCodePainter::currentLine()
 
 void TestCodePainter::overwriteCell_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("from");    // cells from the cursor to the drawn one
-    QTest::addColumn<bool>("glyph");  // is drawn in it
+    // `from`: cells from the cursor to the drawn one
+    // `glyph`: is drawn in it
+    columns<QString, int, int, bool>("text", "column", "from", "glyph");
     QTest::newRow("a character") << "#@b" << 1 << 0 << true;
     QTest::newRow("the end") << "#a" << 2 << 0 << false;
     QTest::newRow("a tab") << "#\tb" << 1 << 6 << false;
@@ -278,10 +271,7 @@ void TestCodePainter::overwriteCell_data()
 
 void TestCodePainter::overwriteCell()
 {
-    QFETCH(QString, text);
-    QFETCH(int, column);
-    QFETCH(int, from);
-    QFETCH(bool, glyph);
+    const auto [text, column, from, glyph] = fetched<QString, int, int, bool>();
     ShownEditor shown(text);
     shown.editor.setSyntaxFormatting(bare());
     const qreal pitch = QFontMetricsF(shown.document.defaultFont()).horizontalAdvance(u' ');

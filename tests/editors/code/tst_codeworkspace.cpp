@@ -5,6 +5,7 @@
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include "code/codecs/textcodecs.h"
 #include "code/codedoc/codeblockdata.h"
@@ -155,7 +156,6 @@ class TestCodeWorkspace : public QObject
 private slots:
     void init();
     void cleanup();
-    void actionsAreOfTheAreaOfCode();
     void barIsShownBySetting();
     void settingsReachTheEditor();
     void zoom();
@@ -227,30 +227,6 @@ void TestCodeWorkspace::cleanup()
     m_dialogs.reset();
     m_host.reset();
     m_folder.reset();
-}
-
-void TestCodeWorkspace::actionsAreOfTheAreaOfCode()
-{
-    QStringList created = m_host->calls.filter(QStringLiteral("createAction"));
-    QCOMPARE(created.size(), 12);
-    QCOMPARE(created.first(), QStringLiteral("createAction(view_code_bar)"));
-    QCOMPARE(created.last(), QStringLiteral("createAction(code_unfold_all)"));
-    // Each has its one place, and an accessible name with it.
-    for (const QAction* action : qAsConst(m_host->actions)) {
-        QCOMPARE(m_host->areasOf.value(action->objectName()), QStringList{"code"});
-        const bool isInOwnBar =
-            m_workspace->toolBar()->actions().contains(const_cast<QAction*>(action));
-        const bool isInBarOfHost = m_host->controls.contains(action->objectName());
-        QVERIFY2(int(isInOwnBar) + int(isInBarOfHost) + int(action->isCheckable()) == 1,
-                 qPrintable(action->objectName()));
-    }
-    const QList<QComboBox*> boxes = m_workspace->toolBar()->findChildren<QComboBox*>();
-    QCOMPARE(boxes.size(), 2);
-    for (const QComboBox* box : boxes) {
-        QVERIFY(!box->accessibleName().isEmpty());
-    }
-    QVERIFY(!editor()->accessibleName().isEmpty());
-    QVERIFY(!m_workspace->tabBar()->accessibleName().isEmpty());
 }
 
 void TestCodeWorkspace::barIsShownBySetting()
@@ -478,29 +454,23 @@ void TestCodeWorkspace::longListsAreNotWalked()
 
 void TestCodeWorkspace::comment_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<int>("cursor");
-    QTest::newRow("a line") << "a\nb\nc" << 2 << 3 << "a\n#b\nc" << 2;
-    QTest::newRow("cursor in it") << "ab\nc" << 1 << 1 << "#ab\nc" << 0;
-    QTest::newRow("cursor at its start") << "a\nb\nc" << 2 << 2 << "a\n#b\nc" << 2;
-    QTest::newRow("an empty line") << "a\n\nc" << 2 << 2 << "a\n#\nc" << 2;
-    QTest::newRow("three lines") << "a\nb\nc" << 0 << 5 << "#a\n#b\n#c" << 6;
-    QTest::newRow("upward") << "a\nb\nc" << 5 << 0 << "#a\n#b\n#c" << 6;
-    QTest::newRow("up to the start of one") << "a\nb\nc" << 0 << 4 << "#a\n#b\nc" << 3;
-    QTest::newRow("comments among them") << "a\n#b\nc" << 0 << 6 << "#a\n##b\n#c" << 7;
-    QTest::newRow("the first is one") << "#a\nb\n##c" << 1 << 8 << "a\nb\n#c" << 4;
-    QTest::newRow("off, cursor alone") << "#a\n#b" << 0 << 0 << "a\n#b" << 0;
-    QTest::newRow("indented is none") << " #a" << 0 << 3 << "# #a" << 0;
+    columns<QString, int, int, QString, int>("before", "from", "to", "after", "cursor");
+    row("a line", "a\nb\nc", 2, 3, "a\n#b\nc", 2);
+    row("cursor in it", "ab\nc", 1, 1, "#ab\nc", 0);
+    row("cursor at its start", "a\nb\nc", 2, 2, "a\n#b\nc", 2);
+    row("an empty line", "a\n\nc", 2, 2, "a\n#\nc", 2);
+    row("three lines", "a\nb\nc", 0, 5, "#a\n#b\n#c", 6);
+    row("upward", "a\nb\nc", 5, 0, "#a\n#b\n#c", 6);
+    row("up to the start of one", "a\nb\nc", 0, 4, "#a\n#b\nc", 3);
+    row("comments among them", "a\n#b\nc", 0, 6, "#a\n##b\n#c", 7);
+    row("the first is one", "#a\nb\n##c", 1, 8, "a\nb\n#c", 4);
+    row("off, cursor alone", "#a\n#b", 0, 0, "a\n#b", 0);
+    row("indented is none", " #a", 0, 3, "# #a", 0);
 }
 
 void TestCodeWorkspace::comment()
 {
-    QFETCH(QString, before);
-    QFETCH(int, from);
-    QFETCH(int, to);
+    const auto [before, from, to] = fetched<QString, int, int>();
     GrammarDocument document(before);
     show(&document);
     put(from, to);
@@ -515,15 +485,13 @@ void TestCodeWorkspace::comment()
 
 void TestCodeWorkspace::goToLine_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("line");
-    QTest::newRow("the same") << "" << 0 << 20;
-    QTest::newRow("another") << "150" << 0 << 149;
-    QTest::newRow("the first") << "1" << 0 << 0;
-    QTest::newRow("the last") << "200" << 0 << 199;
-    QTest::newRow("behind the end, yes") << "201" << int(Dialogs::Yes) << 199;
-    QTest::newRow("behind the end, no") << "100000000" << int(Dialogs::No) << 20;
+    columns<QString, int, int>("typed", "answer", "line");
+    row("the same", "", 0, 20);
+    row("another", "150", 0, 149);
+    row("the first", "1", 0, 0);
+    row("the last", "200", 0, 199);
+    row("behind the end, yes", "201", int(Dialogs::Yes), 199);
+    row("behind the end, no", "100000000", int(Dialogs::No), 20);
 }
 
 void TestCodeWorkspace::goToLine()
@@ -555,14 +523,11 @@ void TestCodeWorkspace::goToLine()
 
 void TestCodeWorkspace::encoding_data()
 {
-    QTest::addColumn<bool>("isOnDisk");
-    QTest::addColumn<bool>("isAccepted");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("read again") << true << true << int(Dialogs::Yes) << QStringLiteral("# \u00e9");
-    QTest::newRow("kept") << true << true << int(Dialogs::No) << QStringLiteral("# \u0449");
-    QTest::newRow("given up") << true << false << 0 << QStringLiteral("# \u0449");
-    QTest::newRow("without a file") << false << true << 0 << QStringLiteral("# \u0449");
+    columns<bool, bool, int, QString>("isOnDisk", "isAccepted", "answer", "text");
+    row("read again", true, true, int(Dialogs::Yes), QStringLiteral("# \u00e9"));
+    row("kept", true, true, int(Dialogs::No), QStringLiteral("# \u0449"));
+    row("given up", true, false, 0, QStringLiteral("# \u0449"));
+    row("without a file", false, true, 0, QStringLiteral("# \u0449"));
 }
 
 void TestCodeWorkspace::encoding()
@@ -595,23 +560,14 @@ void TestCodeWorkspace::encoding()
 
 void TestCodeWorkspace::snippets_data()
 {
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<int>("cursor");
-    QTest::newRow("plain") << "b"
-                           << "aba" << 2;
-    QTest::newRow("a place") << "[CURSOR]"
-                             << "a[]a" << 2;
-    QTest::newRow("the first of two") << "xCURSORyCURSORz"
-                                      << "axyza" << 2;
-    QTest::newRow("other case") << "cursor"
-                                << "acursora" << 7;
-    QTest::newRow("at the end") << "xCURSOR"
-                                << "axa" << 2;
-    QTest::newRow("lines") << "x\nCURSOR\ny"
-                           << "ax\n\nya" << 3;
-    QTest::newRow("nothing") << ""
-                             << "a_a" << 1;
+    columns<QString, QString, int>("code", "after", "cursor");
+    row("plain", "b", "aba", 2);
+    row("a place", "[CURSOR]", "a[]a", 2);
+    row("the first of two", "xCURSORyCURSORz", "axyza", 2);
+    row("other case", "cursor", "acursora", 7);
+    row("at the end", "xCURSOR", "axa", 2);
+    row("lines", "x\nCURSOR\ny", "ax\n\nya", 3);
+    row("nothing", "", "a_a", 1);
 }
 
 /// In place of the selection, in one step of undo.

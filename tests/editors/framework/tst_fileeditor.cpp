@@ -1,8 +1,10 @@
 #include "editors/framework/fileeditor.h"
 
+#include "support/blobeditor.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
 #include "support/testproject.h"
+#include "support/testtable.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -22,28 +24,6 @@ public:
 
     int bits = 0;
     bool isSavable = true;
-};
-
-class BlobEditor : public FileEditor
-{
-public:
-    QAction* action() const override { return nullptr; }
-    QString name() const override { return QStringLiteral("blob"); }
-    int canEditFileType() const override { return fileType; }
-    QStringList areas() const override { return {}; }
-    void retranslate() override {}
-    void find(const QString&, unsigned) override {}
-    void replace(const QString&, const QString&, unsigned, bool) override {}
-    void selectAll() override {}
-    ProjectFile* file() const override { return blob; }
-    void cut() override {}
-    void copy() override {}
-    void paste() override {}
-    QString fileFilter() const override { return filter; }
-
-    ProjectFile* blob = nullptr;
-    int fileType = 0;
-    QString filter = QStringLiteral("Blob;.blob;Text;.txt");
 };
 
 }  // namespace
@@ -140,25 +120,17 @@ void TestFileEditor::commandsComeForward()
 
 void TestFileEditor::canDiscard_data()
 {
-    QTest::addColumn<int>("bits");
-    QTest::addColumn<bool>("modified");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("questions");
-    QTest::addColumn<bool>("result");
-    QTest::newRow("saved with its owner") << 1 << true << int(Dialogs::No) << 0 << true;
-    QTest::newRow("another capability") << 2 << true << int(Dialogs::No) << 1 << false;
-    QTest::newRow("no changes") << 0 << false << int(Dialogs::No) << 0 << true;
-    QTest::newRow("yes") << 0 << true << int(Dialogs::Yes) << 1 << true;
-    QTest::newRow("closed") << 0 << true << int(Dialogs::NoButton) << 1 << false;
+    columns<int, bool, int, int, bool>("bits", "modified", "answer", "questions", "result");
+    row("saved with its owner", 1, true, int(Dialogs::No), 0, true);
+    row("another capability", 2, true, int(Dialogs::No), 1, false);
+    row("no changes", 0, false, int(Dialogs::No), 0, true);
+    row("yes", 0, true, int(Dialogs::Yes), 1, true);
+    row("closed", 0, true, int(Dialogs::NoButton), 1, false);
 }
 
 void TestFileEditor::canDiscard()
 {
-    QFETCH(int, bits);
-    QFETCH(bool, modified);
-    QFETCH(int, answer);
-    QFETCH(int, questions);
-    QFETCH(bool, result);
+    const auto [bits, modified, answer, questions, result] = fetched<int, bool, int, int, bool>();
     m_file->bits = bits;
     m_file->modified = modified;
     m_dialogs->buttonAnswers = {Dialogs::Button(answer)};
@@ -193,28 +165,18 @@ void TestFileEditor::reset()
 
 void TestFileEditor::openFilters_data()
 {
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QString>("open");
-    QTest::addColumn<QString>("save");
-    QTest::newRow("none") << ""
-                          << ""
-                          << "";
-    QTest::newRow("one") << "Blob;.blob"
-                         << "Blob (*.blob)"
-                         << "Blob (*.blob)";
-    QTest::newRow("two") << "Blob;.blob;T %1;.txt"
-                         << "All formats (*.blob *.txt);;Blob (*.blob);;T %1 (*.txt)"
-                         << "Blob (*.blob);;T %1 (*.txt)";
-    QTest::newRow("any file") << "Any;;Blob;.blob"
-                              << "All formats (* *.blob);;Any (*);;Blob (*.blob)"
-                              << "Any (*);;Blob (*.blob)";
+    columns<QString, QString, QString>("filter", "open", "save");
+    row("none", "", "", "");
+    row("one", "Blob;.blob", "Blob (*.blob)", "Blob (*.blob)");
+    row("two", "Blob;.blob;T %1;.txt", "All formats (*.blob *.txt);;Blob (*.blob);;T %1 (*.txt)",
+        "Blob (*.blob);;T %1 (*.txt)");
+    row("any file", "Any;;Blob;.blob", "All formats (* *.blob);;Any (*);;Blob (*.blob)",
+        "Any (*);;Blob (*.blob)");
 }
 
 void TestFileEditor::openFilters()
 {
-    QFETCH(QString, filter);
-    QFETCH(QString, open);
-    QFETCH(QString, save);
+    const auto [filter, open, save] = fetched<QString, QString, QString>();
     m_editor->filter = filter;
     m_editor->open();
     QCOMPARE(m_dialogs->texts(QStringLiteral("openFile")), QStringList(open));
@@ -227,21 +189,15 @@ void TestFileEditor::openFilters()
 
 void TestFileEditor::open_data()
 {
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("questions");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("folder");
+    columns<QString, int, int, QByteArray, QString, QString>("choice", "answer", "questions",
+                                                             "content", "name", "folder");
     const QString in = QStringLiteral("/game/in.blob");
     const QString out = QStringLiteral("/gamefolder/out.blob");
-    QTest::newRow("inside") << in << 0 << 0 << QByteArray("inside") << in << "/game";
-    QTest::newRow("outside") << out << int(Dialogs::No) << 1 << QByteArray("outside") << out
-                             << "/gamefolder";
-    QTest::newRow("a copy") << out << int(Dialogs::Yes) << 1 << QByteArray("outside") << in
-                            << "/gamefolder";
-    QTest::newRow("given up") << QString() << 0 << 0 << QByteArray("work") << in << "";
-    QTest::newRow("missing") << "/game/no.blob" << 0 << 0 << QByteArray("work") << in << "/game";
+    row("inside", in, 0, 0, QByteArray("inside"), in, "/game");
+    row("outside", out, int(Dialogs::No), 1, QByteArray("outside"), out, "/gamefolder");
+    row("a copy", out, int(Dialogs::Yes), 1, QByteArray("outside"), in, "/gamefolder");
+    row("given up", QString(), 0, 0, QByteArray("work"), in, "");
+    row("missing", "/game/no.blob", 0, 0, QByteArray("work"), in, "/game");
 }
 
 void TestFileEditor::open()
@@ -310,28 +266,20 @@ void TestFileEditor::failedSaveAsksForName()
 
 void TestFileEditor::saveAs_data()
 {
-    QTest::addColumn<QString>("choice");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QString>("written");
-    QTest::addColumn<QString>("name");
+    columns<QString, int, QString, QString>("choice", "answer", "written", "name");
     const QString in = QStringLiteral("/game/in.blob");
-    QTest::newRow("outside") << "/gamefolder/a.blob" << int(Dialogs::No) << "/gamefolder/a.blob"
-                             << "/gamefolder/a.blob";
-    QTest::newRow("copy inside") << "/game/a.txt" << int(Dialogs::Yes) << "/game/a.txt" << in;
-    QTest::newRow("no extension") << "/game/a" << int(Dialogs::No) << "/game/a.blob"
-                                  << "/game/a.blob";
-    QTest::newRow("in capitals") << "/game/A.TXT" << int(Dialogs::Yes) << "/game/A.TXT" << in;
-    QTest::newRow("foreign extension")
-        << "/game/a.png" << int(Dialogs::Yes) << "/game/a.png.blob" << in;
-    QTest::newRow("fails") << "/game/in.blob/x" << int(Dialogs::No) << QString() << in;
+    row("outside", "/gamefolder/a.blob", int(Dialogs::No), "/gamefolder/a.blob",
+        "/gamefolder/a.blob");
+    row("copy inside", "/game/a.txt", int(Dialogs::Yes), "/game/a.txt", in);
+    row("no extension", "/game/a", int(Dialogs::No), "/game/a.blob", "/game/a.blob");
+    row("in capitals", "/game/A.TXT", int(Dialogs::Yes), "/game/A.TXT", in);
+    row("foreign extension", "/game/a.png", int(Dialogs::Yes), "/game/a.png.blob", in);
+    row("fails", "/game/in.blob/x", int(Dialogs::No), QString(), in);
 }
 
 void TestFileEditor::saveAs()
 {
-    QFETCH(QString, choice);
-    QFETCH(int, answer);
-    QFETCH(QString, written);
-    QFETCH(QString, name);
+    const auto [choice, answer, written, name] = fetched<QString, int, QString, QString>();
     m_dialogs->fileAnswers = {{m_root->path() + choice}};
     m_dialogs->buttonAnswers = {Dialogs::Button(answer)};
     m_editor->saveAs();

@@ -2,6 +2,7 @@
 
 #include "support/testgrammar.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include "core/organizableobject.h"
 
@@ -165,7 +166,6 @@ class TestOrganizer : public QObject
 private slots:
     void init();
     void cleanup();
-    void publishes();
     void movesAgainstPlainList_data();
     void movesAgainstPlainList();
     void animationsComeBackByUndo();
@@ -254,22 +254,6 @@ QVector<int> TestOrganizer::selectRandomly(QRandomGenerator& random)
     }
     select(wanted);
     return wanted;
-}
-
-void TestOrganizer::publishes()
-{
-    QCOMPARE(m_host->calls.filter(QStringLiteral("addControl")).size(), 8);
-    const QAction* top = m_host->actions[QStringLiteral("org_top")];
-    QCOMPARE(top->text(), QStringLiteral("Move to the top"));
-    QCOMPARE(m_host->areasOf[QStringLiteral("org_top")], QStringList("all"));
-    QCOMPARE(m_organizer->displayName(), QStringLiteral("Organizer"));
-    for (const QAction* action : qAsConst(m_host->actions)) {
-        QVERIFY(!action->isEnabled());
-    }
-    for (const bool isShown : {true, false}) {
-        isShown ? m_organizer->activate() : m_organizer->deactivate();
-        QCOMPARE(m_organizer->isActive(), isShown);
-    }
 }
 
 void TestOrganizer::movesAgainstPlainList_data()
@@ -377,9 +361,7 @@ void TestOrganizer::animationsComeBackByUndo()
 
 void TestOrganizer::dropsAtTheMouse_data()
 {
-    QTest::addColumn<QVector<int>>("dragged");
-    QTest::addColumn<int>("target");
-    QTest::addColumn<QVector<int>>("expected");
+    columns<QVector<int>, int, QVector<int>>("dragged", "target", "expected");
     using Rows = QVector<int>;
     QTest::newRow("to the top") << Rows{3} << 0 << Rows{3, 0, 1, 2, 4};
     QTest::newRow("behind the last") << Rows{0} << 5 << Rows{1, 2, 3, 4, 0};
@@ -391,9 +373,7 @@ void TestOrganizer::dropsAtTheMouse_data()
 
 void TestOrganizer::dropsAtTheMouse()
 {
-    QFETCH(QVector<int>, dragged);
-    QFETCH(int, target);
-    QFETCH(QVector<int>, expected);
+    const auto [dragged, target, expected] = fetched<QVector<int>, int, QVector<int>>();
     Numbers list(5);
     m_organizer->setObject(&list);
     select(dragged);

@@ -5,8 +5,10 @@
 #include "editors/snipman/snipfieldsmodel.h"
 #include "editors/snipman/snippetmanager.h"
 #include "modalkeys.h"
+#include "support/folders.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
@@ -34,19 +36,6 @@ const QByteArray exampleFile =
     "value_title=\"Left,Right\"/>\r\n"
     "\r\n\t<code>\r\n\t\t[move @n]\r\n\t\t\r\n\t\tside = @s\r\n"
     "\t</code>\r\n\r\n</snippet>";
-
-QByteArray read(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-}
-
-void write(const QString& name, const QByteArray& bytes)
-{
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 void press(const QDialog& dialog, const char* name)
 {
@@ -77,7 +66,7 @@ private slots:
         m_dialogs = std::make_unique<PlannedDialogs>();
         m_folder = std::make_unique<QTemporaryDir>();
         m_path = m_folder->filePath(QStringLiteral("jab.xml"));
-        write(m_path, exampleFile);
+        writeFile(m_path, exampleFile);
     }
 
     void fileComesBackByteForByte()
@@ -131,22 +120,19 @@ private slots:
 
     void brokenFiles_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("fields");
-        QTest::addColumn<bool>("isKept");
-        QTest::newRow("no XML") << QByteArray("<snippet><field name='a' type='int'/>") << 0
-                                << false;
-        QTest::newRow("unknown type")
-            << QByteArray("<snippet><field name='a' type='date' value='v'/><code/></snippet>") << 1
-            << true;
-        QTest::newRow("large") << QByteArray(2'000'000, ' ') << 0 << false;
+        columns<QByteArray, int, bool>("bytes", "fields", "isKept");
+        row("no XML", QByteArray("<snippet><field name='a' type='int'/>"), 0, false);
+        row("unknown type",
+            QByteArray("<snippet><field name='a' type='date' value='v'/><code/></snippet>"), 1,
+            true);
+        row("large", QByteArray(2'000'000, ' '), 0, false);
     }
 
     void brokenFiles()
     {
         QFETCH(QByteArray, bytes);
         QFETCH(bool, isKept);
-        write(m_path, bytes);
+        writeFile(m_path, bytes);
         SnipDlg dialog(m_host.get(), m_path);
         QCOMPARE(m_dialogs->count(QStringLiteral("error")), 1);
         QTEST(fieldsOf(dialog)->rowCount(), "fields");
@@ -154,7 +140,7 @@ private slots:
         m_dialogs->fileAnswers = {{QString()}};
         press(dialog, "saveBut");
         QCOMPARE(m_dialogs->shown.last().folder == m_path, isKept);
-        QCOMPARE(read(m_path), bytes);
+        QCOMPARE(readFile(m_path), bytes);
     }
 
     void questionsForFiles()
@@ -169,8 +155,8 @@ private slots:
         QCOMPARE(m_dialogs->shown[0].folder, source);
         QCOMPARE(m_dialogs->shown[1].title, QStringLiteral("Save code snippet"));
         QCOMPARE(m_dialogs->shown[1].text, QStringLiteral("Extensible Markup Language (*.xml)"));
-        QVERIFY(read(source).contains("<source>Right</source>"));
-        QCOMPARE(read(m_folder->filePath(QStringLiteral("new.xml"))), exampleFile);
+        QVERIFY(readFile(source).contains("<source>Right</source>"));
+        QCOMPARE(readFile(m_folder->filePath(QStringLiteral("new.xml"))), exampleFile);
     }
 
     void failedSaveIsToldAndTheDialogStays()
@@ -183,17 +169,15 @@ private slots:
         QTest::keyClick(&dialog, Qt::Key_Escape);
         QVERIFY(dialog.isVisible() && dialog.hasUnsavedChanges());
         QCOMPARE(m_dialogs->count(QStringLiteral("error")), 1);
-        QCOMPARE(read(m_path), exampleFile);
+        QCOMPARE(readFile(m_path), exampleFile);
     }
 
     void closingAsks_data()
     {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("isOpen");
-        QTest::addColumn<bool>("isSaved");
-        QTest::newRow("save") << int(Zorv::Dialogs::Yes) << false << true;
-        QTest::newRow("drop") << int(Zorv::Dialogs::No) << false << false;
-        QTest::newRow("stay") << int(Zorv::Dialogs::Cancel) << true << false;
+        columns<int, bool, bool>("answer", "isOpen", "isSaved");
+        row("save", int(Zorv::Dialogs::Yes), false, true);
+        row("drop", int(Zorv::Dialogs::No), false, false);
+        row("stay", int(Zorv::Dialogs::Cancel), true, false);
     }
 
     void closingAsks()
@@ -207,7 +191,7 @@ private slots:
         m_dialogs->fileAnswers = {{m_path}};
         dialog.close();
         QTEST(dialog.isVisible(), "isOpen");
-        QCOMPARE(read(m_path).contains("# [move"), isSaved);
+        QCOMPARE(readFile(m_path).contains("# [move"), isSaved);
         QCOMPARE(m_dialogs->count(QStringLiteral("question")), 1);
     }
 
@@ -262,11 +246,11 @@ private slots:
             return FieldPointer(new RegularSnipField(QStringLiteral("n"), QStringLiteral("T"),
                                                      QLatin1String(type), QLatin1String(value)));
         };
-        QTest::newRow("text") << regular("string", " a \"b\"");
-        QTest::newRow("whole number") << regular("int", "-99999999");
-        QTest::newRow("number") << regular("float", "-0.000125");
-        QTest::newRow("list") << FieldPointer(
-            new ComboSnipField(QStringLiteral("n"), {}, {"1", "", "3"}, {"a", "b"}));
+        row("text", regular("string", " a \"b\""));
+        row("whole number", regular("int", "-99999999"));
+        row("number", regular("float", "-0.000125"));
+        row("list",
+            FieldPointer(new ComboSnipField(QStringLiteral("n"), {}, {"1", "", "3"}, {"a", "b"})));
     }
 
     void fieldsAreEditedAsTheyAre()

@@ -1,8 +1,10 @@
 #include "core/enginemodel.h"
 #include "editors/snipman/snippetmanager.h"
 #include "modalkeys.h"
+#include "support/folders.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
+#include "support/testtable.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
@@ -82,20 +84,15 @@ private slots:
 
     void bytesOfFiles_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("told");
+        columns<QByteArray, QString, QString>("bytes", "text", "told");
         const QByteArray whole = "<snippet><code>gr\xc3\xbc\xc3\x9f</code></snippet>";
-        QTest::newRow("plain") << whole << QStringLiteral("gr\u00fc\u00df") << QString();
-        QTest::newRow("mark of UTF-8")
-            << "\xef\xbb\xbf" + whole << QStringLiteral("gr\u00fc\u00df") << QString();
-        QTest::newRow("zero behind")
-            << whole + '\0' + "junk" << QStringLiteral("gr\u00fc\u00df") << QString();
-        QTest::newRow("zero inside") << QByteArray("<snippet>\0</snippet>", 21) << QString()
-                                     << QStringLiteral("Premature end");
-        QTest::newRow("empty") << QByteArray() << QString() << QStringLiteral("Premature end");
-        QTest::newRow("no text") << QByteArray("\x89PNG\r\n") << QString()
-                                 << QStringLiteral("Line 1");
+        row("plain", whole, QStringLiteral("gr\u00fc\u00df"), QString());
+        row("mark of UTF-8", "\xef\xbb\xbf" + whole, QStringLiteral("gr\u00fc\u00df"), QString());
+        row("zero behind", whole + '\0' + "junk", QStringLiteral("gr\u00fc\u00df"), QString());
+        row("zero inside", QByteArray("<snippet>\0</snippet>", 21), QString(),
+            QStringLiteral("Premature end"));
+        row("empty", QByteArray(), QString(), QStringLiteral("Premature end"));
+        row("no text", QByteArray("\x89PNG\r\n"), QString(), QStringLiteral("Line 1"));
     }
 
     void bytesOfFiles()
@@ -119,22 +116,14 @@ private slots:
 
     void textWithoutFields_data()
     {
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("lines of a file") << "\r\n\t\tone\r\n\t\t\ttwo\r\n\t"
-                                         << "\none\ntwo\n";
-        QTest::newRow("empty lines") << "\n\n\t\n\tx\n\n"
-                                     << "\n\n\nx\n\n";
-        QTest::newRow("tabs inside and blanks stay") << "\t a\tb \n  \tc"
-                                                     << " a\tb \n  \tc";
-        QTest::newRow("markup") << "&lt;&amp;&gt;&#64;<!-- no -->\""
-                                << "<&>@\"";
-        QTest::newRow("CDATA") << "<![CDATA[\t<x>&amp;]]>"
-                               << "<x>&amp;";
-        QTest::newRow("name without a field") << "@nobody@"
-                                              << "@nobody@";
-        QTest::newRow("nothing") << ""
-                                 << "";
+        columns<QString, QString>("code", "text");
+        row("lines of a file", "\r\n\t\tone\r\n\t\t\ttwo\r\n\t", "\none\ntwo\n");
+        row("empty lines", "\n\n\t\n\tx\n\n", "\n\n\nx\n\n");
+        row("tabs inside and blanks stay", "\t a\tb \n  \tc", " a\tb \n  \tc");
+        row("markup", "&lt;&amp;&gt;&#64;<!-- no -->\"", "<&>@\"");
+        row("CDATA", "<![CDATA[\t<x>&amp;]]>", "<x>&amp;");
+        row("name without a field", "@nobody@", "@nobody@");
+        row("nothing", "", "");
     }
 
     void textWithoutFields()
@@ -146,32 +135,26 @@ private slots:
 
     void faultsAreTold_data()
     {
-        QTest::addColumn<QString>("xml");
-        QTest::addColumn<QString>("told");
-        QTest::newRow("not closed") << "<snippet>\n<code>\n"
-                                    << "Line 3, column 0";
-        QTest::newRow("element in code") << xmlOf({}, "a<b/>") << "Line 2, column";
-        QTest::newRow("no code") << "<snippet/>"
-                                 << "\"code\"";
-        QTest::newRow("unknown type")
-            << xmlOf("\n<field name='when' title='T' type='date'/>", {}) << "\"date\"";
-        QTest::newRow("no type") << xmlOf("<field name='when'/>", {}) << "string, int, float";
-        QTest::newRow("no name") << xmlOf("<field type='int'/>", {}) << "no name";
-        QTest::newRow("too many fields")
-            << xmlOf(QStringLiteral("<field name='a' type='int'/>").repeated(1001), {}) << "1000";
+        columns<QString, QString>("xml", "told");
+        row("not closed", "<snippet>\n<code>\n", "Line 3, column 0");
+        row("element in code", xmlOf({}, "a<b/>"), "Line 2, column");
+        row("no code", "<snippet/>", "\"code\"");
+        row("unknown type", xmlOf("\n<field name='when' title='T' type='date'/>", {}), "\"date\"");
+        row("no type", xmlOf("<field name='when'/>", {}), "string, int, float");
+        row("no name", xmlOf("<field type='int'/>", {}), "no name");
+        row("too many fields",
+            xmlOf(QStringLiteral("<field name='a' type='int'/>").repeated(1001), {}), "1000");
         QTest::newRow("too many items") << xmlOf("<field name='a' type='items' value='" +
                                                      QString(10'000, QLatin1Char(',')) + "'/>",
                                                  {})
                                         << "10000";
-        QTest::newRow("entity without end")
-            << "<!DOCTYPE s [<!ENTITY a '&b;&b;'><!ENTITY b '&a;'>]>" + xmlOf({}, "&a;")
-            << "Line 2";
+        row("entity without end",
+            "<!DOCTYPE s [<!ENTITY a '&b;&b;'><!ENTITY b '&a;'>]>" + xmlOf({}, "&a;"), "Line 2");
     }
 
     void faultsAreTold()
     {
-        QFETCH(QString, xml);
-        QFETCH(QString, told);
+        const auto [xml, told] = fetched<QString, QString>();
         QCOMPARE(SnippetManager::snippet(*m_host, QStringLiteral("t"), xml), QString());
         QCOMPARE(m_dialogs->count(), 1);
         const QString text = m_dialogs->texts(QStringLiteral("error")).value(0);
@@ -180,45 +163,27 @@ private slots:
 
     void valuesAreTyped_data()
     {
-        QTest::addColumn<QString>("fields");
-        QTest::addColumn<QStringList>("keys");
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<QString>("text");
+        columns<QString, QStringList, QString, QString>("fields", "keys", "code", "text");
         const QString string = "<field name='a' title='A' type='string' value='old'/>";
         const QString prefixed = "<field name='ab' title='AB' type='string' value='two'/>";
         const QString real = "<field name='r' title='R' type='float' value='2.5'/>";
         const QString items = "<field name='i' title='I' type='items' value='x,y,z' "
                               "value_title='Left,Middle,Right'/>";
-        QTest::newRow("default") << string << QStringList{""} << "@a"
-                                 << "old";
-        QTest::newRow("text") << string << QStringList{"n & <w>"} << "@a, @A, @a"
-                              << "n & <w>, @A, n & <w>";
-        QTest::newRow("whole number")
-            << "<field name='n' type='int' value='7'/>" << QStringList{"-12"} << "@n"
-            << "-12";
-        QTest::newRow("bad default")
-            << "<field name='n' type='int' value='?'/>" << QStringList{""} << "@n"
-            << "0";
-        QTest::newRow("number") << real << QStringList{""} << "@r"
-                                << "2.5";
-        QTest::newRow("large number") << real << QStringList{"12345678.125"} << "@r"
-                                      << "12345678.125";
-        QTest::newRow("number past the range") << real << QStringList{"0.001"} << "@r"
-                                               << "0.001";
-        QTest::newRow("list") << items << QStringList{""} << "@i"
-                              << "x";
-        QTest::newRow("list by letter") << items << QStringList{"R"} << "@i"
-                                        << "z";
-        QTest::newRow("fewer values")
-            << "<field name='i' type='items' value='x' value_title='A,B'/>" << QStringList{"B"}
-            << "@i"
-            << "B";
-        QTest::newRow("short name first") << string + prefixed << QStringList{"1", "2"} << "@ab @a"
-                                          << "1b 1";
-        QTest::newRow("long name first") << prefixed + string << QStringList{"1", "2"} << "@ab @a"
-                                         << "1 2";
-        QTest::newRow("name in a value") << string + prefixed << QStringList{"@ab", "2"} << "@a"
-                                         << "2";
+        row("default", string, QStringList{""}, "@a", "old");
+        row("text", string, QStringList{"n & <w>"}, "@a, @A, @a", "n & <w>, @A, n & <w>");
+        row("whole number", "<field name='n' type='int' value='7'/>", QStringList{"-12"}, "@n",
+            "-12");
+        row("bad default", "<field name='n' type='int' value='?'/>", QStringList{""}, "@n", "0");
+        row("number", real, QStringList{""}, "@r", "2.5");
+        row("large number", real, QStringList{"12345678.125"}, "@r", "12345678.125");
+        row("number past the range", real, QStringList{"0.001"}, "@r", "0.001");
+        row("list", items, QStringList{""}, "@i", "x");
+        row("list by letter", items, QStringList{"R"}, "@i", "z");
+        row("fewer values", "<field name='i' type='items' value='x' value_title='A,B'/>",
+            QStringList{"B"}, "@i", "B");
+        row("short name first", string + prefixed, QStringList{"1", "2"}, "@ab @a", "1b 1");
+        row("long name first", prefixed + string, QStringList{"1", "2"}, "@ab @a", "1 2");
+        row("name in a value", string + prefixed, QStringList{"@ab", "2"}, "@a", "2");
     }
 
     void valuesAreTyped()
@@ -355,11 +320,11 @@ private slots:
             "<context>\n\t<name>Snippets</name>\n" +
             message("Life &amp; power", "n") + message("Side", "i") + message("Left", "i") +
             message("Gr\xc3\xbcn", "i") + "</context>\n</TS>";
-        QCOMPARE(read(name), whole);
+        QCOMPARE(readFile(name), whole);
 
         // A snippet that is broken leaves the file as it was; so does a place that is none.
         QVERIFY(!SnippetManager::genTS(*m_host, name, QStringLiteral("<snippet>")));
-        QCOMPARE(read(name), whole);
+        QCOMPARE(readFile(name), whole);
         QVERIFY(!SnippetManager::genTS(*m_host, name + QLatin1String("/below"), xml));
         QCOMPARE(m_dialogs->count(QStringLiteral("error")), 2);
     }
@@ -377,15 +342,7 @@ private:
 
     void write(const char* name, const QByteArray& bytes)
     {
-        QFile file(m_folder->filePath(QLatin1String(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    static QByteArray read(const QString& name)
-    {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
+        QVERIFY(writeFile(m_folder->filePath(QLatin1String(name)), bytes));
     }
 
     std::unique_ptr<TestInterface> m_host;
