@@ -1,6 +1,7 @@
 #include "support/gltest.h"
 #include "support/planneddialogs.h"
 #include "support/reelstudio.h"
+#include "support/testtable.h"
 
 #include "animation/dialogs/animalign.h"
 #include "animation/dialogs/animedittxt.h"
@@ -118,10 +119,7 @@ void TestAnimationTools::cleanup()
 
 void TestAnimationTools::writesOneStep_data()
 {
-    QTest::addColumn<int>("frame");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<QString>("title");
+    columns<int, QString, QString, QString>("frame", "before", "after", "title");
     const auto row = [](const char* action, int frame, const char* before, const char* after,
                         const char* title) {
         QTest::newRow(action) << frame << QString::fromLatin1(before) << QString::fromLatin1(after)
@@ -144,10 +142,7 @@ void TestAnimationTools::writesOneStep_data()
 
 void TestAnimationTools::writesOneStep()
 {
-    QFETCH(int, frame);
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    QFETCH(QString, title);
+    const auto [frame, before, after, title] = fetched<int, QString, QString, QString>();
     m->editor->selectFrame(frame);
     trigger(QTest::currentDataTag());
     QString expected = QString::fromLatin1(Text);
@@ -266,9 +261,15 @@ void TestAnimationTools::alignmentIsPreviewed()
     m->editor->undo();
     QCOMPARE(text(), QString::fromLatin1(Text));
 
-    // The text may go behind the dialog.
+    // The text may go behind the dialog, from the shown animation on or whole.
     trigger("anim_frame_align");
     child<QSpinBox>("xVal")->setValue(20);
+    QTextCursor all(m->document);
+    all.select(QTextCursor::Document);
+    all.removeSelectedText();
+    QTRY_VERIFY(!m->editor->currentFrame());
+    m->document->undo();
+    QTRY_VERIFY(m->editor->currentAnimation());
     m->close();
     QVERIFY(!dialog<AnimAlign>() || !dialog<AnimAlign>()->isVisible());
 }
@@ -383,6 +384,17 @@ void TestAnimationTools::boxesGoFromFrameToFrame()
     trigger("anim_box_mirror");
     QCOMPARE(shownBoxes(), QVector<QRect>{QRect(0, 0, 9, 9)});
 
+    // One of two, to all frames that are selected on the strip.
+    m->editor->selectFrame(0);
+    click({8, 12});
+    trigger("anim_box_copy");
+    m->graphics->timeLine()->setSelectedCells({0, 1, 2});
+    trigger("anim_box_paste");
+    QCOMPARE(text().count(QLatin1String("b 5 6 7 8\n")), 4);
+    QCOMPARE(m->document->undoTitle(), QStringLiteral("Paste contact boxes"));
+    trigger("anim_box_to_frames");
+    QCOMPARE(text().count(QLatin1String("a 1 2 3 4\n")), 3);
+    QVERIFY(!text().contains(QLatin1String("b 0 0 9 9\n")));
     while (m->document->isUndoAvailable()) {
         m->editor->undo();
     }

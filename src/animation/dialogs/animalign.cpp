@@ -10,6 +10,7 @@
 #include <QListView>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -47,6 +48,10 @@ AnimAlign::AnimAlign(Animations* animations, int index, QWidget* parent)
       m_apply(makeButton(tr("Apply"), "applyButton"))
 {
     setWindowTitle(tr("Alignment tool"));
+    // In front of the selection, which lets go of rows in the middle of an edit of the text.
+    connect(animations, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this] { m_rowsGo = true; });
+    connect(animations, &QAbstractItemModel::rowsRemoved, this, [this] { m_rowsGo = false; });
     build();
     const QModelIndex current = animations->index(index);
     m_list->selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect);
@@ -144,7 +149,11 @@ void AnimAlign::fieldChanged()
 void AnimAlign::selectionChanged()
 {
     m_apply->setEnabled(m_list->selectionModel()->hasSelection());
-    emit changed();
+    if (m_rowsGo) {
+        QTimer::singleShot(0, this, &AnimAlign::changed);
+    } else {
+        emit changed();
+    }
 }
 
 void AnimAlign::on_clearButton_clicked()

@@ -40,7 +40,8 @@ public:
     bool hasPreview() const { return m_hasPreview; }
 
 signals:
-    /// Another alignment, another selection, or it has been applied.
+    /// Another alignment, another selection, or it has been applied. Never in the middle of an edit
+    /// of the text.
     void changed();
 
 private slots:
@@ -64,4 +65,5 @@ private:
     QSpinBox* m_y;
     QPushButton* m_apply;
     bool m_hasPreview = false;
+    bool m_rowsGo = false;  // and the text is not at rest
 };
