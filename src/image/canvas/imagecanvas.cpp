@@ -34,7 +34,11 @@ ImageCanvas::ImageCanvas(ImagePalette* palette, QObject* parent)
     : QObject(parent), d(std::make_unique<ImageCanvasPrivate>(this))
 {
     setPalette(palette);
-    connect(&d->stack, &ImageUndoStack::aboutToMove, this, [this] { d->hold(); });
+    connect(&d->stack, &ImageUndoStack::aboutToMove, this, [this] {
+        d->hold();
+        // The stack ends a stroke that has announced something; this one has not.
+        endStroke();
+    });
     connect(&d->stack, &ImageUndoStack::moved, this, [this] { d->letGo(); });
 }
 

@@ -300,6 +300,12 @@ void TestImageTools::piecesAreLiftedAnew()
     easel.canvas.undoStack()->undo();
     easel.selMove.keyPressed({}, Qt::Key_Right);
     QCOMPARE(pictureOf(easel.image()).first(), QStringLiteral("..1").leftJustified(16, '.'));
+    // Undo in front of the first move of a drag ends it, for the piece is not where it was.
+    easel.press(easel.selMove, {2, 0});
+    easel.canvas.undoStack()->undo();
+    easel.move(easel.selMove, {12, 0});
+    easel.release(easel.selMove, {12, 0});
+    QCOMPARE(pictureOf(easel.image()).first(), QStringLiteral("1").leftJustified(16, '.'));
 }
 
 void TestImageTools::arrowsAreOneStep()
