@@ -236,6 +236,7 @@ private slots:
     void oldestStepsGoFirst();
     void stepsThatDoNothingAreNone();
     void canceledMacroLeavesNothing();
+    void undoEndsAStroke();
     void onePixelIsSmall();
     void strokesStayInsideTheBudget();
     void packedStepsComeBack();
@@ -334,6 +335,33 @@ void TestImageUndo::canceledMacroLeavesNothing()
     QCOMPARE(stack.undoText(), QStringLiteral("outer"));
     stack.undo();
     QCOMPARE(number, 0);
+}
+
+void TestImageUndo::undoEndsAStroke()
+{
+    ImageCanvas canvas;
+    canvas.setSize({5, 5}, {}, false);
+    ImageLayer* const layer = canvas.newRasterLayer({});
+    canvas.undoStack()->setClean();
+    QSignalSpy clean(canvas.undoStack(), &ImageUndoStack::cleanChanged);
+    for (const auto kind : {ImageCanvas::WholeStroke, ImageCanvas::TiledStroke}) {
+        for (const QRgb color : {0U, 0xFF000000U}) {
+            canvas.beginStroke(layer, kind, {});
+            canvas.willChange({0, 0, 1, 1});
+            layer->pixels()->setPixel(0, 0, color);
+            canvas.endStroke();
+            // It is not clean from its begin on, and never between.
+            QCOMPARE(clean.count(), color ? 1 : 2);
+            QCOMPARE(canvas.undoStack()->isClean(), color == 0);
+            clean.clear();
+        }
+        canvas.undoStack()->undo();
+        clean.clear();
+    }
+    // One that has announced nothing, on a layer that goes, too.
+    canvas.beginStroke(layer, ImageCanvas::TiledStroke, {});
+    canvas.undoStack()->undo();
+    QVERIFY(!canvas.isStroking() && !canvas.undoStack()->canUndo());
 }
 
 void TestImageUndo::onePixelIsSmall()

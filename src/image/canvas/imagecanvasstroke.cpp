@@ -36,9 +36,11 @@ void ImageCanvas::beginStroke(ImageLayer* layer, StrokeKind kind, const QString&
     if (kind == WholeStroke) {
         // Shares its pixels until the first of them is written.
         stroke.before = image;
-        d->stack.setPending([this] { d->endStroke(); });
     }
     d->stroke.emplace(std::move(stroke));
+    if (kind == WholeStroke) {
+        d->stack.setPending([this] { d->endStroke(); });
+    }
 }
 
 bool ImageCanvas::willChange(const QRect& rect)
@@ -67,10 +69,7 @@ void ImageCanvas::changed(const QRect& rect)
 
 void ImageCanvas::endStroke()
 {
-    if (d->stroke) {
-        d->stack.setPending(nullptr);
-        d->endStroke();
-    }
+    d->endStroke();
 }
 
 bool ImageCanvas::isStroking() const
@@ -97,8 +96,13 @@ void ImageCanvasPrivate::keepWhole(const ImageLayer* layer)
     }
 }
 
+// The stack still has the stroke as pending, and calls this again when the command is pushed: so
+// nobody is told of a clean state in between.
 void ImageCanvasPrivate::endStroke()
 {
+    if (!stroke) {
+        return;
+    }
     Stroke ended = std::move(*stroke);
     stroke.reset();
     const QImage& after = targetOf(*this, ended);

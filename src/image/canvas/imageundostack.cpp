@@ -276,6 +276,7 @@ void ImageUndoStack::push(ImageUndoCommand* command)
     d->finishPending();
     owned->redo();
     if (owned->isObsolete()) {
+        d->tell();
         return;
     }
     d->dropRedo();
