@@ -424,6 +424,12 @@ void TestImageUndo::packedStepsComeBack()
     for (int i = states.size() - 1; i >= 0; --i) {
         QCOMPARE(stateOf(canvas), states[i]);
         canvas.undoStack()->undo();
+        QVERIFY(canvas.undoStack()->byteSize() <= canvas.undoStack()->budget());
+    }
+    for (const QByteArray& state : qAsConst(states)) {
+        QCOMPARE(stateOf(canvas), state);
+        canvas.undoStack()->redo();
+        QVERIFY(canvas.undoStack()->byteSize() <= canvas.undoStack()->budget());
     }
 }
 

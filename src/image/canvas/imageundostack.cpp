@@ -97,6 +97,7 @@ public:
     void moveTo(std::size_t place, void (Step::*act)());
     void loosenFrom(std::size_t place);
     void packOld();
+    void packFarFrom(std::size_t place);
     void keepToBudget();
     void tell();
 
@@ -159,6 +160,7 @@ bool ImageUndoStackPrivate::merge(ImageUndoCommand* command)
         removeLast();
     } else {
         loosenFrom(index - 1);
+        steps.back().packed = false;
         measure(steps.back());
         keepToBudget();
     }
@@ -196,6 +198,7 @@ void ImageUndoStackPrivate::moveTo(std::size_t place, void (Step::*act)())
     measure(step);
     step.sealed = true;
     step.packed = false;
+    packFarFrom(place);
     moving = false;
 }
 
@@ -213,12 +216,24 @@ void ImageUndoStackPrivate::packOld()
     }
 }
 
+// Beyond the budget, the steps that are farthest from a place first.
+void ImageUndoStackPrivate::packFarFrom(std::size_t place)
+{
+    std::size_t first = firstLoose;
+    std::size_t end = steps.size();
+    while (bytes > budget && first < end) {
+        const bool isFirst = first + end - 1 < 2 * place;
+        Step& step = steps[isFirst ? first++ : --end];
+        if (!step.packed) {
+            step.pack(std::numeric_limits<qint64>::max());
+            measure(step);
+        }
+    }
+}
+
 void ImageUndoStackPrivate::keepToBudget()
 {
-    for (std::size_t i = firstLoose; i < steps.size() && bytes > budget; ++i) {
-        steps[i].pack(std::numeric_limits<qint64>::max());
-        measure(steps[i]);
-    }
+    packFarFrom(index);
     while (index > 1 && bytes > budget) {
         bytes -= steps.front().bytes;
         if (firstLoose > 0) {

@@ -14,10 +14,10 @@ class ImageUndoStackPrivate;
 
 /// The history of a canvas: like a `QUndoStack`, but it keeps to a number of bytes.
 ///
-/// When a step is added and the budget is passed, old steps are packed, and if that is not enough
-/// the oldest are dropped, whole macros at a time. The last step always stays. If the clean state
-/// was in front of a step that is dropped, nothing is clean until `setClean()`. Undo and redo never
-/// take a step that does nothing.
+/// When the budget is passed, the steps that are farthest from the present are packed. If that is
+/// not enough when one is added, the oldest are dropped, whole macros at a time. The last step
+/// always stays. If the clean state was in front of a step that is dropped, nothing is clean until
+/// `setClean()`. Undo and redo never take a step that does nothing.
 ///
 /// Main thread only.
 class ZORV_EXPORT ImageUndoStack : public QObject
