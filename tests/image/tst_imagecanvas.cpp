@@ -156,8 +156,11 @@ void TestImageCanvas::enteringLayersFit()
     ImageCanvas other(&palette);
     setUp(other, ImageCanvas::RGBAFormat, {9, 9});
     ImageLayer* const layer = new RasterLayer(&other, filled({9, 9}, 0x00FF0000));
+    layer->setName(QStringLiteral("made for another"), true);
+    QVERIFY(!other.undoStack()->canUndo());
     QVERIFY(canvas.layers()->add(layer, false));
     QVERIFY(!canvas.layers()->add(layer, false));
+    QVERIFY(!other.layers()->add(layer, false));
     QCOMPARE(layer->canvas(), &canvas);
     QCOMPARE(pixelBytes(layer->image()), QByteArray(12, 7));
     // The table of an image tells its colours, not that of the palette.

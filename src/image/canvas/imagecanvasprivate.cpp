@@ -222,7 +222,7 @@ void ImageCanvasPrivate::recordAxis(const QPoint& newAxis)
 
 bool ImageCanvasPrivate::enter(ImageLayer* layer)
 {
-    if (!layer || layers->contains(layer) || size.isEmpty()) {
+    if (!layer || layer->index() >= 0 || size.isEmpty()) {
         return false;
     }
     q->endStroke();

@@ -14,7 +14,8 @@ namespace Zorv {
 
 namespace {
 
-/// Sets a value; if it is another one, tells the canvas and, if wanted, the history.
+/// Sets a value; if it is another one, tells the canvas and, if wanted, the history. That of a
+/// layer that is not in the list would have a step that nobody sees.
 template <class Command, class Value>
 void exchange(ImageLayer* layer, Value& value, const Value& now, bool record)
 {
@@ -22,13 +23,14 @@ void exchange(ImageLayer* layer, Value& value, const Value& now, bool record)
         return;
     }
     ImageCanvas* const canvas = layer->canvas();
-    if (canvas && record) {
+    if (layer->index() < 0) {
+        value = now;
+        return;
+    }
+    if (record) {
         canvas->endStroke();
     }
     const Value before = std::exchange(value, now);
-    if (!canvas) {
-        return;
-    }
     ImageCanvasPrivate& d = ImageCanvasPrivate::of(canvas);
     if (record) {
         d.push(new Command(layer, before));

@@ -40,7 +40,7 @@ public:
     bool isVisible() const;
     void setVisible(bool visible);
 
-    /// Setters with `record` make a step of undo of a change.
+    /// Setters with `record` make a step of undo of a change, if the layer is in a canvas.
     QString name() const;
     void setName(const QString& name, bool record);
 

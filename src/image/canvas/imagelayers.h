@@ -31,7 +31,7 @@ public:
     /// Puts a layer on top, or at a row from 0 to `count()`. The list takes over the caller's
     /// reference. The layer takes the form and size of the canvas: it stands at the top left
     /// corner, and what it lacks is transparent. False, and the reference stays the caller's, for
-    /// one that is in the list, on an empty canvas, and if memory is short.
+    /// one that is in a list already, on an empty canvas, and if memory is short.
     bool add(ImageLayer* layer, bool record);
     bool insert(ImageLayer* layer, int index, bool record);
 
