@@ -1,5 +1,6 @@
 #include "image/tools/replacetool.h"
 
+#include "editors/palette/colorpalette.h"
 #include "editors/palette/paletteremapwidget.h"
 #include "image/canvas/imagecanvas.h"
 #include "image/canvas/imagepainter.h"
@@ -52,7 +53,11 @@ void ReplaceTool::activated()
 {
     BasePenTool::activated();
     disconnect(m_follow);
-    if (const PaletteObject* colors = canvas()->palette()->palette()) {
+    const ImagePalette* palette = canvas()->palette();
+    // What undo and drags in a grid change, its palette object does not tell.
+    if (const auto* grid = qobject_cast<const ColorPalette*>(palette)) {
+        m_follow = connect(grid, &ColorPalette::paletteChanged, this, &ReplaceTool::palChanged);
+    } else if (const PaletteObject* colors = palette->palette()) {
         m_follow = connect(colors, &PaletteObject::changed, this, &ReplaceTool::palChanged);
     }
     palChanged();

@@ -35,7 +35,7 @@ public:
 
 public slots:
     /// Shows the rows in the palette's present colours. While the tool is in use it hears by itself
-    /// of a `PaletteObject` that changes.
+    /// of changes of a `ColorPalette`, or of the `PaletteObject` of another palette.
     void palChanged();
 
 protected:

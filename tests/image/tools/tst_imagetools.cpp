@@ -1,6 +1,8 @@
 #include "easel.h"
 
+#include "editors/palette/colorpalette.h"
 #include "editors/palette/paletteremapwidget.h"
+#include "editors/palette/palettewidget.h"
 #include "image/tools/colorramp.h"
 #include "support/canvasstate.h"
 #include "support/monkey.h"
@@ -61,6 +63,7 @@ private slots:
     void piecesAreLiftedAnew();
     void arrowsAreOneStep();
     void keysAndWells();
+    void rowsFollowThePalette();
     void monkey_data();
     void monkey();
 };
@@ -351,6 +354,22 @@ void TestImageTools::keysAndWells()
     easel.release(easel.pen, {3, 3});
     QVERIFY(!easel.canvas.undoStack()->canUndo());
     QCOMPARE(pictureOf(easel.image()).join(QString()), QString(16, '.'));
+}
+
+void TestImageTools::rowsFollowThePalette()
+{
+    PaletteWidget grid;
+    ColorPalette palette(&grid);
+    ImageCanvas canvas(&palette);
+    ReplaceTool tool(&canvas);
+    tool.rows()->setRow(0, 1, 2);
+    tool.activated();
+    grid.flatten();
+    const QColor before = tool.rows()->grab().toImage().pixelColor(6, 6);
+    grid.palette()->setColor(1, RGBA{255, 0, 0, 255});
+    QCOMPARE(tool.rows()->grab().toImage().pixelColor(6, 6), QColor(Qt::red));
+    grid.undo();
+    QCOMPARE(tool.rows()->grab().toImage().pixelColor(6, 6), before);
 }
 
 namespace {
