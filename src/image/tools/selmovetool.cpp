@@ -92,10 +92,10 @@ void SelMoveTool::mouseLost()
 /// How far the mouse has come since the press, in pixels of the canvas.
 QPoint SelMoveTool::dragged(QPoint screen, QPoint image) const
 {
-    const QPointF way = QPointF(screen - pressPos()) / canvas()->zoomLevel();
+    const QPointF way = QPointF(screen - pressPos()) / viewZoom();
     const QPoint rounded(qRound(way.x()), qRound(way.y()));
-    // Rounding the way moves the piece in the middle of pixels. But a view that shows the picture
-    // at another zoom than the canvas's is known by its pixels alone.
+    // Rounding the way moves the piece in the middle of pixels. But where the picture was zoomed
+    // or moved under the mouse, only its pixels tell the way.
     const QPoint pixels = image - m_pressPixel;
     const QPoint difference = rounded - pixels;
     const bool isAlike = std::max(std::abs(difference.x()), std::abs(difference.y())) <= 1;
