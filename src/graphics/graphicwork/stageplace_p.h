@@ -2,15 +2,13 @@
 
 #include <QWidget>
 
-class QLabel;
-class QStackedWidget;
-
 namespace Zorv {
 
+class RenderPlace;
 class RenderWidget;
 class TimeLineWidget;
 
-/// Where the stage stands, with the time line below it; what stands there instead is a text.
+/// Where the stage stands, with the time line below it.
 class StagePlace : public QWidget
 {
     Q_OBJECT
@@ -19,7 +17,7 @@ public:
     StagePlace();
 
     /// Null without usable GL, and before it was shown.
-    RenderWidget* stage() const { return m_stage; }
+    RenderWidget* stage() const;
     TimeLineWidget* timeLine() const { return m_timeLine; }
 
     /// As the stage has heard of it last; empty before.
@@ -39,18 +37,13 @@ signals:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
 
 private:
-    void ensureStage();
-    void showPage();
+    void takeStage();
 
-    QStackedWidget* m_pages;
-    QLabel* m_notice;
-    QLabel* m_unusable;
+    RenderPlace* m_place;
     QWidget* m_strip;  // holds the time line, which others show and hide
     TimeLineWidget* m_timeLine;
-    RenderWidget* m_stage = nullptr;
     QSize m_stageSize;
 };
 
