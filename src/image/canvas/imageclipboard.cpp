@@ -98,6 +98,32 @@ bool pasteOnto(ImageCanvas* canvas, const QImage& piece)
     return true;
 }
 
+bool mayClear(ImageCanvas* canvas)
+{
+    const ImageLayer* const layer = canvas->activeLayer();
+    if (layer && !layer->isVisible()) {
+        refuse(canvas, Texts::tr("The active layer is hidden. Show it before you cut from it."));
+        return false;
+    }
+    return true;
+}
+
+/// Of the active layer, as a step.
+void clearLayer(ImageCanvas* canvas, const QString& title)
+{
+    ImageLayer* const layer = canvas->activeLayer();
+    const QImage mask = selectionOf(*canvas);
+    const QRect box = selectedRect(mask) & layer->image().rect();
+    canvas->beginStroke(layer, ImageCanvas::TiledStroke, title);
+    if (canvas->willChange(box)) {
+        const auto form =
+            isIndexed(layer->image()) ? ImageCanvas::IndexedFormat : ImageCanvas::RGBAFormat;
+        clearSelected(mask, box, ImageCanvasPrivate::of(canvas).clearPixel(form), layer->pixels());
+        canvas->changed(box);
+    }
+    canvas->endStroke();
+}
+
 }  // namespace
 
 QMimeData* ImageClipboard::data(ImageCanvas* canvas, Source source)
@@ -129,24 +155,19 @@ bool ImageClipboard::copy(ImageCanvas* canvas, Source source)
 
 bool ImageClipboard::cut(ImageCanvas* canvas)
 {
-    ImageLayer* const layer = canvas->activeLayer();
-    if (layer && !layer->isVisible()) {
-        refuse(canvas, Texts::tr("The active layer is hidden. Show it before you cut from it."));
+    if (!mayClear(canvas) || !copy(canvas, ActiveLayer)) {
         return false;
     }
-    if (!copy(canvas, ActiveLayer)) {
+    clearLayer(canvas, QStringLiteral("cut"));
+    return true;
+}
+
+bool ImageClipboard::clear(ImageCanvas* canvas)
+{
+    if (!canvas->activeLayer() || !mayClear(canvas)) {
         return false;
     }
-    const QImage mask = selectionOf(*canvas);
-    const QRect box = selectedRect(mask) & layer->image().rect();
-    canvas->beginStroke(layer, ImageCanvas::TiledStroke, QStringLiteral("cut"));
-    if (canvas->willChange(box)) {
-        const auto form =
-            isIndexed(layer->image()) ? ImageCanvas::IndexedFormat : ImageCanvas::RGBAFormat;
-        clearSelected(mask, box, ImageCanvasPrivate::of(canvas).clearPixel(form), layer->pixels());
-        canvas->changed(box);
-    }
-    canvas->endStroke();
+    clearLayer(canvas, QStringLiteral("clear"));
     return true;
 }
 

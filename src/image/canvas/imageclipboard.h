@@ -46,6 +46,10 @@ public:
     /// or the background if the palette has no transparent entry. One step, "cut".
     static bool cut(ImageCanvas* canvas);
 
+    /// Clears them likewise, and leaves the clipboard alone. One step, "clear"; false without a
+    /// layer, too.
+    static bool clear(ImageCanvas* canvas);
+
     /// Whether the data, or without any the clipboard, claim to have a picture.
     static bool canPaste(const QMimeData* data = nullptr);
 
