@@ -220,6 +220,17 @@ void PaletteWidget::setSelectable(bool isOn)
     d->isSelectable = isOn;
 }
 
+bool PaletteWidget::isMovable() const
+{
+    return d->isMovable;
+}
+
+void PaletteWidget::setMovable(bool isOn)
+{
+    d->isMovable = isOn;
+    d->cancel();
+}
+
 QSize PaletteWidget::sizeHint() const
 {
     const int rows = (d->colorCount + d->columns - 1) / d->columns;

@@ -85,6 +85,10 @@ public:
     bool isSelectable() const;
     void setSelectable(bool isOn);
 
+    /// Whether the person can move colours to other slots. True at first.
+    bool isMovable() const;
+    void setMovable(bool isOn);
+
     /// All cells; also the least size.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

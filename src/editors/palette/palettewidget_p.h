@@ -49,6 +49,7 @@ public:
     bool isLocked = false;
     bool isMulti = true;
     bool isSelectable = true;
+    bool isMovable = true;
     int colorCount = 256;
     int cellSize = 12;
     int columns = 16;

@@ -41,7 +41,7 @@ void PaletteWidgetPrivate::press(const QMouseEvent* event)
 void PaletteWidgetPrivate::move(const QMouseEvent* event)
 {
     const QPoint place = placeOf(event);
-    if (pressed >= 0 && (dragging || slotAt(place) != pressed)) {
+    if (isMovable && pressed >= 0 && (dragging || slotAt(place) != pressed)) {
         dragging = true;
         dragPos = place;
         QToolTip::hideText();
@@ -170,6 +170,9 @@ bool PaletteWidgetPrivate::announce(Selected selected)
 
 void PaletteWidgetPrivate::moveColor(int from, int to)
 {
+    if (!isMovable) {
+        return;
+    }
     beginChange();
     RGBA* const colors = history.colors();
     if (from < to) {
