@@ -100,7 +100,7 @@ bool FileEditor::canDiscard() const
         return false;
     }
     const ProjectFile* current = file();
-    if (!current || (current->capabilities() & SavedWithOwner) || !isModified()) {
+    if (!current || (current->capabilities() & SavedWithOwner) || !current->isModified()) {
         return true;
     }
     return Dialogs::instance()->question(
