@@ -1,5 +1,4 @@
 #include "image/imagerenderer_p.h"
-#include "image/tools/arrowstep_p.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,6 +6,22 @@
 namespace Zorv {
 
 namespace {
+
+QPoint arrow(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
 
 QPoint within(const QPoint& pixel, const QSize& size)
 {
@@ -77,7 +92,7 @@ void ImageRendererPrivate::hideCell()
 
 void ImageRendererPrivate::moveCell(int key, Qt::KeyboardModifiers modifiers)
 {
-    const QPoint step = arrowStep(key);
+    const QPoint step = arrow(key);
     const bool isMouseDown = pressed && !isCellDragged;
     if (step.isNull() || canvas.size().isEmpty() || isMouseDown) {
         return;

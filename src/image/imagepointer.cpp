@@ -80,7 +80,6 @@ void ImageRendererPrivate::press(QPoint pos, QPoint pixel, Qt::MouseButton butto
     }
     pressed |= button;
     if (pressTool) {
-        pressTool->setViewZoom(place().scale(pressView));
         withCursor([&](QCursor& cursor) {
             pressTool->mousePressed(modifiers, button, pos, pixel, cursor);
         });

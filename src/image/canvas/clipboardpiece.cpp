@@ -132,6 +132,24 @@ QImage selectionOf(const ImageCanvas& canvas)
     return mask;
 }
 
+QRect selectedRect(const QImage& mask)
+{
+    QRect around;
+    for (int y = 0; y < mask.height(); ++y) {
+        const uchar* const row = mask.constScanLine(y);
+        const uchar* const end = row + mask.width();
+        const uchar* const first = std::find_if(row, end, [](uchar pixel) { return pixel > 0; });
+        if (first != end) {
+            const uchar* last = end - 1;
+            while (*last == 0) {
+                --last;
+            }
+            around |= QRect(QPoint(int(first - row), y), QPoint(int(last - row), y));
+        }
+    }
+    return around;
+}
+
 QImage pieceOf(const QImage& part, const QImage& mask, const QPoint& corner,
                const ImagePalette& palette)
 {

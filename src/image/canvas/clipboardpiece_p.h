@@ -12,6 +12,9 @@ class ImagePalette;
 /// The mask of a canvas; all is selected if it has another size.
 QImage selectionOf(const ImageCanvas& canvas);
 
+/// The rectangle around what is selected; empty if nothing is.
+QRect selectedRect(const QImage& mask);
+
 /// A part of the canvas with its colours and its place (`QImage::offset()`), where what the mask
 /// does not select is transparent. An indexed one becomes true colour if no index is left for that.
 /// Null if memory is short.

@@ -146,7 +146,9 @@ FloodRegion::FloodRegion(const QImage& pixels, const QSize& size, const QImage* 
       m_rows((m_size.height() + Side - 1) / Side), m_bands(std::size_t(m_rows))
 {
     if (QRect(QPoint(), m_size).contains(seed)) {
-        m_value = rawPixel(pixels, seed);
+        const uchar* row = pixels.constScanLine(seed.y());
+        m_value =
+            pixels.depth() == 8 ? row[seed.x()] : reinterpret_cast<const quint32*>(row)[seed.x()];
         grow(seed);
     }
 }

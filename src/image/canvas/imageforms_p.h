@@ -61,17 +61,6 @@ QImage placed(const QImage& image, const QSize& size, const QPoint& position, qu
 /// A new image with all bytes 0, null if memory is short.
 QImage emptyImage(const QSize& size, QImage::Format format);
 
-/// The colour half way from one to another that lies on it, in all four channels.
-inline QRgb mixedByHalves(QRgb upper, QRgb lower)
-{
-    const auto half = [](int above, int below) { return below + ((above - below) >> 1); };
-    return qRgba(half(qRed(upper), qRed(lower)), half(qGreen(upper), qGreen(lower)),
-                 half(qBlue(upper), qBlue(lower)), half(qAlpha(upper), qAlpha(lower)));
-}
-
-/// The rectangle around what a mask selects; empty if nothing is.
-QRect selectedRect(const QImage& mask);
-
 /// Whether both have the same form, size and pixels.
 bool samePixels(const QImage& x, const QImage& y);
 

@@ -109,12 +109,15 @@ private:
         return m_collected.size() == 1 ? m_collected.front() : m_colors.nearest(mixed());
     }
 
-    /// From the lowest colour on, by halves with the next one above.
+    /// From the lowest colour on each channel goes half the way to that of the next one above.
     QRgb mixed() const
     {
+        const auto half = [](int low, int high) { return low + ((high - low) >> 1); };
         QRgb color = m_colors[m_collected.back()];
         for (auto above = m_collected.rbegin() + 1; above != m_collected.rend(); ++above) {
-            color = mixedByHalves(m_colors[*above], color);
+            const QRgb upper = m_colors[*above];
+            color = qRgba(half(qRed(color), qRed(upper)), half(qGreen(color), qGreen(upper)),
+                          half(qBlue(color), qBlue(upper)), half(qAlpha(color), qAlpha(upper)));
         }
         return color;
     }

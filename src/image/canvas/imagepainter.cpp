@@ -4,7 +4,6 @@
 #include "image/canvas/floodregion_p.h"
 #include "image/canvas/imageselection.h"
 #include "image/canvas/pixelmarks.h"
-#include "media/tools/raster_p.h"
 
 #include <QImage>
 
@@ -76,7 +75,7 @@ void ImagePainter::floodFill(const QPoint& point)
         return;
     }
     const quint32 value = fillValue(point);
-    if (value == rawPixel(*m_image, point)) {
+    if (value == rawPixel(point)) {
         return;
     }
     const bool isMasked = !paintsAll();
@@ -98,9 +97,17 @@ quint32 ImagePainter::fillValue(const QPoint& point)
     QImage copy = image->copy(QRect(point, QSize(1, 1)));
     m_image = &copy;
     setPixel(0, 0);
-    const quint32 value = rawPixel(*m_image, {});
+    const quint32 value = rawPixel(QPoint());
     m_image = image;
     return value;
+}
+
+/// A pixel of 8 or 32 bits, whatever the form.
+quint32 ImagePainter::rawPixel(const QPoint& point) const
+{
+    const uchar* row = m_image->constScanLine(point.y());
+    return m_image->depth() == 8 ? row[point.x()]
+                                 : reinterpret_cast<const quint32*>(row)[point.x()];
 }
 
 /// Where image and mask both are. No image of any other depth is painted.

@@ -110,6 +110,7 @@ protected:
 private:
     QRect paintable() const;
     bool announce(const QRect& rect) const;
+    quint32 rawPixel(const QPoint& point) const;
     quint32 fillValue(const QPoint& point);
     bool paintPiece(const BrushLine& brush, const QRect& piece);
 

@@ -74,16 +74,6 @@ int ImageTool::brushWidth() const
     return 1;
 }
 
-void ImageTool::setViewZoom(double zoom)
-{
-    m_viewZoom = zoom;
-}
-
-double ImageTool::viewZoom() const
-{
-    return m_viewZoom.value_or(m_canvas ? m_canvas->zoomLevel() : 1.0);
-}
-
 QWidget* ImageTool::widget() const
 {
     return m_widget;

@@ -6,8 +6,6 @@
 #include <QPoint>
 #include <QPointer>
 
-#include <optional>
-
 class QColor;
 class QCursor;
 class QPainter;
@@ -82,10 +80,6 @@ public:
     /// `image`. So a view can hand over a point that puts it around the mouse.
     virtual int brushWidth() const;
 
-    /// How many pixels of the widget are one of the canvas in the view where the next press begins.
-    /// The canvas's zoom as long as no view tells.
-    void setViewZoom(double zoom);
-
     /// The widget with the tool's options. It is deleted with the tool, or with its parent.
     QWidget* widget() const;
 
@@ -117,8 +111,6 @@ protected:
     QPoint lastPos() const;
     void setLastPos(QPoint image);
 
-    double viewZoom() const;
-
     /// Without a pen, with a solid brush.
     static void setColor(QPainter& painter, const QColor& color);
 
@@ -133,7 +125,6 @@ private:
     Qt::MouseButtons m_buttons;
     QPoint m_pressPos;
     QPoint m_lastPos;
-    std::optional<double> m_viewZoom;
 };
 
 }  // namespace Zorv

@@ -1,19 +1,36 @@
 #include "image/tools/movedpiece_p.h"
 
 #include "image/canvas/imagecanvas.h"
-#include "image/canvas/imageforms_p.h"
 #include "image/canvas/imagelayer.h"
 #include "image/canvas/imagepalette.h"
 #include "image/canvas/imageselection.h"
+#include "media/tools/cropimage.h"
+#include "media/tools/raster_p.h"
 
 #include <QColor>
 #include <QPainter>
 
+#include <algorithm>
 #include <cstring>
 
 namespace Zorv {
 
 namespace {
+
+/// The bytes; colour tables do not count.
+bool areEqual(const QImage& a, const QImage& b)
+{
+    if (a.size() != b.size() || a.format() != b.format()) {
+        return false;
+    }
+    const auto length = std::size_t(a.width()) * std::size_t(a.depth()) / 8;
+    for (int y = 0; y < a.height(); ++y) {
+        if (std::memcmp(a.constScanLine(y), b.constScanLine(y), length) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
 
 void copyPart(const QImage& from, QImage& to, const QRect& rect)
 {
@@ -23,6 +40,14 @@ void copyPart(const QImage& from, QImage& to, const QRect& rect)
                     from.constScanLine(y) + std::size_t(rect.left()) * pixel,
                     std::size_t(rect.width()) * pixel);
     }
+}
+
+QRect selectedRect(const QImage& mask)
+{
+    // A table would hide entries that it shows as transparent.
+    QImage plain = mask;
+    plain.setColorCount(0);
+    return cropImageRect(plain);
 }
 
 }  // namespace
@@ -40,7 +65,7 @@ MovedPiece::MovedPiece(const ImageCanvas& canvas, const ImageLayer& layer)
 bool MovedPiece::isAsShown(const ImageCanvas& canvas, const ImageLayer& layer, const QPoint& offset)
 {
     if (&layer != m_layer || canvas.palette() != m_palette || m_table != m_palette->toRgbPal() ||
-        !samePixels(canvas.selection()->mask(), m_mask)) {
+        !areEqual(canvas.selection()->mask(), m_mask)) {
         return false;
     }
     if (layer.image().cacheKey() == m_shownKey) {
@@ -48,7 +73,7 @@ bool MovedPiece::isAsShown(const ImageCanvas& canvas, const ImageLayer& layer, c
     }
     QImage expected = m_rest;
     show(expected, expected.rect(), offset);
-    return samePixels(expected, layer.image());
+    return areEqual(expected, layer.image());
 }
 
 QRect MovedPiece::rectAt(const QPoint& offset) const
@@ -98,7 +123,11 @@ quint8 MovedPiece::mixed(quint8 upper, quint8 lower)
     if (known != m_mixtures.constEnd()) {
         return *known;
     }
-    const QColor color = QColor::fromRgba(mixedByHalves(m_table[upper], m_table[lower]));
+    const QRgb a = m_table[upper];
+    const QRgb b = m_table[lower];
+    const auto half = [](int above, int below) { return below + ((above - below) >> 1); };
+    const QColor color(half(qRed(a), qRed(b)), half(qGreen(a), qGreen(b)), half(qBlue(a), qBlue(b)),
+                       half(qAlpha(a), qAlpha(b)));
     return *m_mixtures.insert(key, m_palette->index(color));
 }
 

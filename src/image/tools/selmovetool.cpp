@@ -2,7 +2,6 @@
 
 #include "image/canvas/imagecanvas.h"
 #include "image/canvas/imagelayer.h"
-#include "image/tools/arrowstep_p.h"
 #include "image/tools/movedpiece_p.h"
 
 #include <QCursor>
@@ -17,6 +16,22 @@ namespace {
 
 // Steps by arrows become one by this number.
 const int ArrowSteps = 0x5E1;
+
+QPoint stepOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
 
 }  // namespace
 
@@ -41,7 +56,7 @@ void SelMoveTool::activeLayerChanged()
 
 bool SelMoveTool::keyPressed(Qt::KeyboardModifiers, int key)
 {
-    const QPoint step = arrowStep(key);
+    const QPoint step = stepOf(key);
     if (step.isNull() || !paintedLayer()) {
         return false;
     }
@@ -92,10 +107,10 @@ void SelMoveTool::mouseLost()
 /// How far the mouse has come since the press, in pixels of the canvas.
 QPoint SelMoveTool::dragged(QPoint screen, QPoint image) const
 {
-    const QPointF way = QPointF(screen - pressPos()) / viewZoom();
+    const QPointF way = QPointF(screen - pressPos()) / canvas()->zoomLevel();
     const QPoint rounded(qRound(way.x()), qRound(way.y()));
-    // Rounding the way moves the piece in the middle of pixels. But where the picture was zoomed
-    // or moved under the mouse, only its pixels tell the way.
+    // Rounding the way moves the piece in the middle of pixels. But a view that shows the picture
+    // at another zoom than the canvas's is known by its pixels alone.
     const QPoint pixels = image - m_pressPixel;
     const QPoint difference = rounded - pixels;
     const bool isAlike = std::max(std::abs(difference.x()), std::abs(difference.y())) <= 1;

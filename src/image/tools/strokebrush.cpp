@@ -1,7 +1,6 @@
 #include "image/tools/strokebrush_p.h"
 
 #include "image/canvas/imagepainter.h"
-#include "media/tools/raster_p.h"
 
 #include <QImage>
 #include <QtMath>
@@ -21,6 +20,12 @@ namespace {
 const int LongestChain = 1 << 16;
 
 /// A pixel of 8 or 32 bits.
+quint32 pixelOf(const QImage& image, const QPoint& place)
+{
+    const uchar* row = image.constScanLine(place.y());
+    return image.depth() == 8 ? row[place.x()] : reinterpret_cast<const quint32*>(row)[place.x()];
+}
+
 void setPixel(QImage* image, const QPoint& place, quint32 value)
 {
     uchar* row = image->scanLine(place.y());
@@ -144,7 +149,7 @@ void StrokeBrush::addDot(ImagePainter* painter, const QPoint& point)
     Dot dot = {point, {}};
     for (const QPoint& copy : copiesOf(point, 1)) {
         if (painter->image() && painter->image()->rect().contains(copy)) {
-            dot.pixels.push_back({copy, rawPixel(*painter->image(), copy)});
+            dot.pixels.push_back({copy, pixelOf(*painter->image(), copy)});
         }
         painter->point(copy);
     }
@@ -157,7 +162,7 @@ void StrokeBrush::restore(ImagePainter* painter, const Dot& dot)
     // Backwards, for on an axis two of them are the same pixel.
     for (auto pixel = dot.pixels.rbegin(); pixel != dot.pixels.rend(); ++pixel) {
         if (image && image->rect().contains(pixel->place) &&
-            rawPixel(*image, pixel->place) != pixel->before) {
+            pixelOf(*image, pixel->place) != pixel->before) {
             setPixel(image, pixel->place, pixel->before);
             m_marks.unmark(pixel->place);
             m_restored |= QRect(pixel->place, QSize(1, 1));

@@ -1,0 +1,153 @@
+#pragma once
+
+#include "editors/framework/fileeditor.h"
+#include "zorv_export.h"
+
+#include <QImage>
+#include <QVector>
+
+#include <memory>
+
+namespace Zorv {
+
+class ColorPalette;
+class ImageRenderer;
+class SpriteEditorPrivate;
+class Sprite;
+class Sprites;
+class SpriteWorkspace;
+
+/// The editor "spr": one sprite of a project on a canvas, with tools, layers and its palette.
+///
+/// The canvas is a copy. "spr_saveimg" (`saveImage()`) puts all visible layers, as one picture,
+/// and the axis of the canvas into the sprite, as one step of undo of its file; its palette stays.
+/// Until then the file knows of nothing, and whatever shows another sprite asks the person first.
+/// If the sprite is changed elsewhere, a canvas without changes follows, and one with changes
+/// stays as it is.
+///
+/// It publishes the tools "spr_..." and the grid "pal_view", in the area "sprites".
+/// Main thread only.
+class ZORV_EXPORT SpriteEditor : public FileEditor
+{
+    Q_OBJECT
+
+public:
+    explicit SpriteEditor(QObject* parent = nullptr);
+    ~SpriteEditor() override;
+
+    /// @name The editor
+    /// @{
+
+    /// "editor_spr"; disabled while there is no collection.
+    QAction* action() const override;
+
+    /// "spr".
+    QString name() const override;
+
+    /// 1 while the collection has no file.
+    int canEditFileType() const override;
+    QStringList areas() const override;
+
+    /// A `SpriteWorkspace`.
+    Workspace* workspace() const override;
+
+    void activate() override;
+    void deactivate() override;
+    void reconfig() override;
+    void retranslate() override;
+
+    /// Takes up the sprites of the project; null for none. While the canvas has changes it stays,
+    /// and they are taken up when it has none.
+    void setProject(Project* project) override;
+
+    /// Lets go of its sprites, with what is on the canvas.
+    void projectAboutToClose(Project* project) override;
+
+    /// Shows the sprite of a row, `a`.
+    void navigateTo(const QString& name, unsigned a, unsigned b, unsigned c) override;
+
+    /// The sprites in work, or null.
+    ProjectFile* file() const override;
+
+    /// True also while the canvas has changes.
+    bool isModified() const override;
+
+    /// Asks about what is on the canvas.
+    bool canDiscardInput() const override;
+
+    /// Of the canvas, and where it has no more steps, of the file.
+    void undo() override;
+    void redo() override;
+
+    /// Whether there is such a step, and its title in the person's language.
+    bool canUndo() const;
+    bool canRedo() const;
+    QString undoTitle() const;
+    QString redoTitle() const;
+
+    /// Of the selected pixels of the active layer, see `ImageClipboard`. What is pasted becomes a
+    /// layer, on the canvas or, without one, nothing.
+    void cut() override;
+    void copy() override;
+    void paste() override;
+
+    /// Sets the selected pixels of the active layer to the background. One step of undo.
+    void clearSelected();
+
+    void selectAll() override;
+
+    /// Shows the next sprite with this "Identifier"; tells if there is none.
+    void find(const QString& text, unsigned flags) override;
+
+    /// Nothing: sprites have no text.
+    void replace(const QString& text, const QString& with, unsigned flags, bool all) override;
+    /// @}
+
+    /// @name Its parts, which go with it
+    /// @{
+    SpriteWorkspace* spriteWorkspace() const;
+
+    /// The canvas with its view and tools.
+    ImageRenderer* renderer() const;
+    ColorPalette* colors() const;
+    /// @}
+
+    Sprites* sprites() const;
+
+    /// The sprite on the canvas, or null. Good until the collection signals a change.
+    Sprite* sprite() const;
+
+    /// Its row; -1 for none.
+    int spriteIndex() const;
+
+    /// Shows a sprite, after a question if the canvas has changes. False if the person keeps what
+    /// is there; true for the sprite that is there already. The editor is not brought forward.
+    bool showSprite(Sprites* sprites, int index);
+
+    /// Puts an image on the canvas, as its only layer, and forgets the history.
+    void setImage(const QImage& image, const QString& name);
+
+    /// True if the canvas is not what the sprite is.
+    bool isCanvasModified() const;
+
+    /// Shows the canvas in other colours, or with null in those of the sprite. Pixels stay, and
+    /// saving uses the sprite's own.
+    void previewColors(const QVector<QRgb>* colors);
+
+public slots:
+    /// See above. Nothing without a sprite, or without changes.
+    void saveImage();
+
+    /// Writes the file, after the canvas went into it.
+    void save() override;
+
+signals:
+    /// Another sprite is on the canvas, or none, or its pixels were read anew.
+    void spriteShown();
+
+private:
+    friend class SpriteEditorPrivate;
+    std::unique_ptr<SpriteEditorPrivate> d;
+};
+
+}  // namespace Zorv

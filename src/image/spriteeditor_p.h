@@ -1,0 +1,149 @@
+#pragma once
+
+#include "editors/palette/colorpalette.h"
+#include "editors/palette/palettewidget.h"
+#include "image/imagerenderer.h"
+#include "image/spriteeditor.h"
+#include "image/spriteworkspace.h"
+
+#include <QHash>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QVariant>
+
+class QAbstractItemView;
+class QAction;
+class QActionGroup;
+class QMenu;
+
+namespace Zorv {
+
+class ImageCanvas;
+class ImageLayer;
+class ImageLayers;
+class ImageUndoStack;
+class Interface;
+
+/// The state of a `SpriteEditor`, and the slots of its tools, which the host finds by name.
+class SpriteEditorPrivate : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SpriteEditorPrivate(SpriteEditor* editor);
+    ~SpriteEditorPrivate() override;
+
+    ImageCanvas* canvas() const { return renderer->canvas(); }
+    ImageLayers* layers() const;
+    ImageUndoStack* history() const;
+
+    /// True if there is something to paint on.
+    bool hasCanvas() const;
+
+    // spriteeditorcontrols.cpp
+    void publish();
+    void publishTools();
+    void publishLayers();
+    void retranslate();
+    template <class Widget>
+    Widget* widget(const char* name) const
+    {
+        return qobject_cast<Widget*>(widgets.value(QLatin1String(name)));
+    }
+
+    // spriteeditorsprite.cpp
+    void take(Sprites* now);
+    void takeWaiting();
+    void showFirst();
+    enum Match { SameRecord, SameIdentifier };
+    Sprite* findShown(Match match) const;
+    void spritesChanged(Match match);
+    void remember(Sprite* sprite, int index);
+    bool mayDiscard() const;
+    void show(int index);
+    void load();
+    void clearCanvas();
+    void loadColors();
+    void showColors(const RGBA* entries);
+    void chooseFirstColors();
+    void showPosition();
+    Sprite* sprite() const;
+    QImage flattened();
+
+    // spriteeditorlayers.cpp
+    void connectLayers();
+    void followActiveLayer();
+    void showLayer();
+    QString freshName() const;
+    void merge(const char* title, bool all);
+
+    // spriteeditorimage.cpp
+    void showPlace(const QPoint& pixel, int index, QRgb color);
+    void hidePlace();
+    void selectIn(const QImage& mask);
+
+    void updateEnabled();
+    void historyChanged();
+    void tellRefusal(const QString& message);
+
+    SpriteEditor* const editor;
+    Interface* const host;
+    SpriteWorkspace* workspace;
+    QPointer<PaletteWidget> grid;
+    ColorPalette* colors;
+    ImageRenderer* renderer;
+
+    QPointer<Sprites> sprites;
+    QPointer<Sprites> waiting;  // of the project in front, while the canvas keeps others
+    bool isWaiting = false;
+    int row = -1;                   // of the sprite on the canvas, in `sprites`
+    const Sprite* shown = nullptr;  // its address; it may be gone
+    QVariant identifier;
+    QImage loaded;  // as the sprite was when the canvas took it
+    QPoint loadedAxis;
+    bool isPreview = false;  // the grid has colours that are not the sprite's
+    bool hasToldHidden = false;
+    int selGuard = 0;  // the code itself changes the position
+
+    QHash<QString, QPointer<QAction>> actions;
+    QHash<QString, QPointer<QWidget>> widgets;
+    QPointer<QAction> editorAction;
+    QActionGroup* tools;
+    std::unique_ptr<QMenu> layerMenu;
+
+public slots:
+    void saveImg();
+    void resize();
+    void crop();
+    void layerAdd();
+    void layerDel();
+    void layerClone();
+    void layerMergeVis();
+    void layerMergeAll();
+    void layerBlending(int index);
+    void layerOpacity(int percent);
+    void imgViewOrig(bool isOn);
+    void imgRotate();
+    void imgFlipH();
+    void imgFlipV();
+    void selAll();
+    void selNone();
+    void selInv();
+    void selPosChanged(int index);
+    void previous();
+    void next();
+    void toolChanged(QAction* action);
+    void layerChosen(const QModelIndex& index);
+
+signals:
+    /// There is a canvas; and layers of it are mixed; and there are changes to save.
+    void enabled(bool isEnabled);
+    void enabled2(bool isEnabled);
+    void saveEnabled(bool isEnabled);
+    void setSelPos(int index);
+    void setPosText(const QString& text);
+    void setLayerBlending(int index);
+    void setLayerOpacity(int percent);
+};
+
+}  // namespace Zorv

@@ -1,0 +1,241 @@
+#include "core/interface.h"
+#include "editors/framework/ownwidgetcontrol.h"
+#include "editors/framework/toolbuttoncontrol.h"
+#include "editors/framework/trwidgetcontrol.h"
+#include "editors/palette/colorwidget.h"
+#include "image/canvas/imagelayers.h"
+#include "image/spriteeditor_p.h"
+#include "image/spritetexts_p.h"
+#include "image/tools/imagetool.h"
+#include "text/zorvtranslator.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QComboBox>
+#include <QItemSelectionModel>
+#include <QListView>
+#include <QMenu>
+#include <QSlider>
+
+namespace Zorv {
+
+namespace {
+
+const char* const areas[] = {"sprites", nullptr};
+
+enum Kind { Action, CheckAction, MenuAction, Slider, Label, Combo, List };
+
+constexpr unsigned NoText = ~0U;
+constexpr int WholeOpacity = 100;
+constexpr int ListRows = 6;
+
+const char* const always = nullptr;
+const char* const onCanvas = SIGNAL(enabled(bool));
+const char* const onMixed = SIGNAL(enabled2(bool));
+const char* const onChange = SIGNAL(saveEnabled(bool));
+
+struct Tool
+{
+    const char* name;
+    Kind kind;
+    unsigned textId;
+    const char* enableSignal;
+    const char* slot;
+    const char* setSignal;
+};
+
+// clang-format off
+const Tool table[] = {
+    {"spr_saveimg",           Action,      125, onChange, SLOT(saveImg()),           nullptr},
+    {"spr_crop",              Action,      127, onCanvas,  SLOT(crop()),              nullptr},
+    {"spr_resize",            Action,      134, onCanvas,  SLOT(resize()),            nullptr},
+    {"spr_image_rotate",      Action,      136, onCanvas,  SLOT(imgRotate()),         nullptr},
+    {"spr_image_fliph",       Action,      137, onCanvas,  SLOT(imgFlipH()),          nullptr},
+    {"spr_image_flipv",       Action,      138, onCanvas,  SLOT(imgFlipV()),          nullptr},
+    {"spr_select_all",        Action,      141, onCanvas,  SLOT(selAll()),            nullptr},
+    {"spr_select_none",       Action,      142, onCanvas,  SLOT(selNone()),           nullptr},
+    {"spr_select_invert",     Action,      143, onCanvas,  SLOT(selInv()),            nullptr},
+    {"spr_view_original",     CheckAction, 131, onCanvas,  SLOT(imgViewOrig(bool)),   nullptr},
+    {"spr_prev",              Action,       93, always,  SLOT(previous()),          nullptr},
+    {"spr_sel",               Slider, SpriteTexts::Sprite, always, SLOT(selPosChanged(int)), SIGNAL(setSelPos(int))},
+    {"spr_sel_lb",            Label,    NoText, always,  nullptr,                   SIGNAL(setPosText(QString))},
+    {"spr_next",              Action,       94, always,  SLOT(next()),              nullptr},
+    {"spr_layer_add",         Action,      118, onCanvas,  SLOT(layerAdd()),          nullptr},
+    {"spr_layer_duplicate",   Action,      120, onCanvas,  SLOT(layerClone()),        nullptr},
+    {"spr_layer_delete",      Action,      119, onCanvas,  SLOT(layerDel()),          nullptr},
+    {"spr_layer_mergevis",    MenuAction,  121, onCanvas,  SLOT(layerMergeVis()),     nullptr},
+    {"spr_layer_mergeall",    MenuAction,  122, onCanvas,  SLOT(layerMergeAll()),     nullptr},
+    {"spr_layers_list",       List,     NoText, onCanvas,  SLOT(layerChosen(QModelIndex)), nullptr},
+    {"spr_layers_blendmode",  Combo, SpriteTexts::BlendMode, onMixed, SLOT(layerBlending(int)), SIGNAL(setLayerBlending(int))},
+    {"spr_layers_opacity",    Slider, SpriteTexts::Opacity, onMixed, SLOT(layerOpacity(int)), SIGNAL(setLayerOpacity(int))},
+};
+
+/// In the order of `ImageTool::Type`.
+const struct
+{
+    const char* name;
+    unsigned textId;
+} toolTable[] = {
+    {"spr_tool_canvasmove",   95},
+    {"spr_tool_selmove",      96},
+    {"spr_tool_rectsel",      97},
+    {"spr_tool_freesel",      98},
+    {"spr_tool_picker",       99},
+    {"spr_tool_pen",         100},
+    {"spr_tool_eraser",      101},
+    {"spr_tool_remap_pen",   102},
+    {"spr_tool_paintbucket", 103},
+};
+// clang-format on
+
+/// The entries of the list of modes, which a mode's row is counted from.
+constexpr unsigned FirstMode = 104;
+constexpr unsigned LastMode = 116;
+
+QObject* publishWidget(Interface* host, const Tool& tool, QObject* receiver)
+{
+    const QString name = QString::fromLatin1(tool.name);
+    if (tool.kind == List) {
+        WidgetControl control(WidgetControl::ListView, ListRows, receiver, tool.slot,
+                              tool.setSignal, tool.enableSignal, WidgetControl::SingleClick);
+        control.setAreas(areas);
+        return host->addControl(name, control);
+    }
+    if (tool.kind == Label) {
+        WidgetControl control(WidgetControl::Label, 0, receiver, tool.slot, tool.setSignal,
+                              tool.enableSignal);
+        control.setAreas(areas);
+        return host->addControl(name, control);
+    }
+    trWidgetControl control(tool.kind == Slider ? WidgetControl::Slider : WidgetControl::ComboBox,
+                            0, SpriteTexts::of(tool.textId), tool.textId, receiver, tool.slot,
+                            tool.setSignal, tool.enableSignal);
+    control.setAreas(areas);
+    return host->addControl(name, control);
+}
+
+/// The action of a host; one of our own where the host has no window, for what is kept in it.
+QAction* makeAction(Interface* host, const char* name, unsigned textId, QObject* receiver,
+                    const char* slot, const char* enableSignal, bool* isHosts)
+{
+    QAction* made = host->createAction(areas, QString::fromLatin1(name), SpriteTexts::of(textId),
+                                       textId, nullptr, receiver, slot, enableSignal, nullptr);
+    *isHosts = made;
+    return made ? made : new QAction(receiver);
+}
+
+void publishOwn(Interface* host, const char* name, QWidget* widget, QObject* receiver)
+{
+    OwnWidgetControl control(widget, receiver, onCanvas);
+    control.setAreas(areas);
+    host->addControl(QString::fromLatin1(name), control);
+}
+
+}  // namespace
+
+void SpriteEditorPrivate::publish()
+{
+    for (const Tool& tool : table) {
+        const QString name = QString::fromLatin1(tool.name);
+        if (tool.kind != Action && tool.kind != CheckAction && tool.kind != MenuAction) {
+            widgets.insert(name, qobject_cast<QWidget*>(publishWidget(host, tool, this)));
+            continue;
+        }
+        bool isHosts = false;
+        QAction* made =
+            makeAction(host, tool.name, tool.textId, this, tool.slot, tool.enableSignal, &isHosts);
+        made->setCheckable(tool.kind == CheckAction);
+        actions.insert(name, made);
+        if (isHosts && tool.kind != MenuAction) {
+            host->addControl(name, ToolButtonControl(made));
+        }
+    }
+    imgViewOrig(false);
+    publishTools();
+    publishLayers();
+    publishOwn(host, "spr_foreground", colors->foregroundWidget(), this);
+    publishOwn(host, "spr_background", colors->backgroundWidget(), this);
+    publishOwn(host, "spr_tool_options", renderer->toolPanel(), this);
+    publishOwn(host, "pal_view", grid, this);
+    if (auto* opacity = widget<QSlider>("spr_layers_opacity")) {
+        opacity->setRange(0, WholeOpacity);
+        opacity->setValue(WholeOpacity);
+    }
+}
+
+void SpriteEditorPrivate::publishTools()
+{
+    int type = 0;
+    for (const auto& tool : toolTable) {
+        bool isHosts = false;
+        QAction* made = makeAction(host, tool.name, tool.textId, this, nullptr, onCanvas, &isHosts);
+        made->setCheckable(true);
+        made->setData(type++);
+        tools->addAction(made);
+        actions.insert(QString::fromLatin1(tool.name), made);
+        if (isHosts) {
+            host->addControl(QString::fromLatin1(tool.name), ToolButtonControl(made));
+        }
+    }
+    connect(tools, &QActionGroup::triggered, this, &SpriteEditorPrivate::toolChanged);
+    QAction* pen = tools->actions().at(ImageTool::PenTool);
+    pen->setChecked(true);
+    toolChanged(pen);
+}
+
+/// One button merges, and its menu has both ways; the list has all of them.
+void SpriteEditorPrivate::publishLayers()
+{
+    layerMenu = std::make_unique<QMenu>();
+    for (const char* name : {"spr_layer_mergevis", "spr_layer_mergeall"}) {
+        layerMenu->addAction(actions.value(QLatin1String(name)));
+    }
+    host->addControl(QStringLiteral("spr_layers_menu"),
+                     MenuToolButtonControl(actions.value(QStringLiteral("spr_layer_mergevis")),
+                                           layerMenu.get()));
+    auto* list = widget<QAbstractItemView>("spr_layers_list");
+    if (!list) {
+        return;
+    }
+    list->setModel(layers());
+    list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    list->setContextMenuPolicy(Qt::ActionsContextMenu);
+    for (const char* name : {"spr_layer_add", "spr_layer_duplicate", "spr_layer_delete",
+                             "spr_layer_mergevis", "spr_layer_mergeall"}) {
+        list->addAction(actions.value(QLatin1String(name)));
+    }
+    connect(list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &SpriteEditorPrivate::layerChosen);
+}
+
+void SpriteEditorPrivate::retranslate()
+{
+    if (auto* modes = widget<QComboBox>("spr_layers_blendmode")) {
+        const int mode = modes->currentIndex();
+        modes->clear();
+        for (unsigned id = FirstMode; id <= LastMode; ++id) {
+            modes->addItem(ZorvTranslator::instance()->trText(id));
+        }
+        modes->setCurrentIndex(qMax(mode, 0));
+    }
+    if (auto* list = widget<QAbstractItemView>("spr_layers_list")) {
+        list->setAccessibleName(SpriteEditor::tr("Layers"));
+    }
+    if (grid) {
+        grid->setAccessibleName(SpriteEditor::tr("Palette"));
+    }
+    workspace->setNotice(hasCanvas() ? QString()
+                                     : SpriteEditor::tr("A double click on a sprite in the list "
+                                                        "of sprites shows it here."));
+    workspace->setUnusableText(
+        SpriteEditor::tr("The canvas cannot be shown: OpenGL does not work on this display. A "
+                         "driver for the graphics card, or Mesa's software OpenGL, brings it "
+                         "back."));
+}
+
+void SpriteEditorPrivate::toolChanged(QAction* action)
+{
+    renderer->setCurrentTool(ImageTool::Type(action->data().toInt()));
+}
+
+}  // namespace Zorv

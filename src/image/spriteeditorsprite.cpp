@@ -1,0 +1,410 @@
+#include "cache/sprite.h"
+#include "cache/palette.h"
+#include "cache/palettes.h"
+#include "cache/sprites.h"
+#include "core/dialogs/dialogs.h"
+#include "core/interface.h"
+#include "image/canvas/imagelayers.h"
+#include "image/canvas/imageundostack.h"
+#include "image/canvas/rasterlayer.h"
+#include "image/spriteeditor_p.h"
+#include "media/paletteobject.h"
+#include "media/tools/colorquantizer.h"
+
+#include <QAction>
+#include <QSlider>
+
+#include <cstring>
+
+namespace Zorv {
+
+namespace {
+
+constexpr int ColorCount = 256;
+
+/// The side of a picture of which colours are looked for. A larger one is made smaller before.
+constexpr int SampleSide = 1024;
+
+constexpr int PassingField = -1;
+
+bool areSamePixels(const QImage& a, const QImage& b)
+{
+    if (a.size() != b.size() || a.format() != b.format()) {
+        return false;
+    }
+    const auto bytes = size_t(a.width()) * size_t(a.depth() / 8);
+    for (int y = 0; y < a.height(); ++y) {
+        if (std::memcmp(a.constScanLine(y), b.constScanLine(y), bytes) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// In one of the two forms that a canvas has, so that pictures can be compared.
+QImage inForm(const QImage& image)
+{
+    return image.isNull() || image.format() == QImage::Format_Indexed8
+               ? image
+               : image.convertToFormat(QImage::Format_ARGB32);
+}
+
+void fillColors(const QVector<QRgb>& table, RGBA* entries)
+{
+    for (int i = 0; i < qMin(table.size(), ColorCount); ++i) {
+        const QRgb color = table.at(i);
+        entries[i] = {quint8(qRed(color)), quint8(qGreen(color)), quint8(qBlue(color)),
+                      quint8(qAlpha(color))};
+    }
+}
+
+QVariant identifierOf(const Sprite& sprite)
+{
+    return sprite.property(QStringLiteral("Identifier"));
+}
+
+/// Those of a picture of true colour, to paint with.
+QVector<QRgb> ownColors(const QImage& image)
+{
+    const bool isLarge = image.width() > SampleSide || image.height() > SampleSide;
+    const QImage sample =
+        isLarge ? image.scaled(SampleSide, SampleSide, Qt::KeepAspectRatio) : image;
+    return ColorQuantizer::quantize(sample, ColorCount).colorTable();
+}
+
+}  // namespace
+
+Sprite* SpriteEditorPrivate::sprite() const
+{
+    return sprites ? sprites->sprite(row) : nullptr;
+}
+
+bool SpriteEditorPrivate::hasCanvas() const
+{
+    return layers()->count() > 0;
+}
+
+/// Other sprites, with none of them on the canvas yet.
+void SpriteEditorPrivate::take(Sprites* now)
+{
+    isWaiting = false;
+    waiting = nullptr;
+    if (sprites) {
+        sprites->disconnect(this);
+        sprites->palettes()->disconnect(this);
+    }
+    sprites = now;
+    remember(nullptr, -1);
+    clearCanvas();
+    if (now) {
+        connect(now, &Sprites::changed, this, [this] { spritesChanged(SameRecord); });
+        connect(now, &QAbstractItemModel::modelReset, this,
+                [this] { spritesChanged(SameIdentifier); });
+        connect(now, &OrganizableObject::modified, editor, &Editor::contentsChanged);
+        connect(now->palettes(), &Palettes::palChanged, this, [this] { loadColors(); });
+        connect(now, &Sprites::closing, this, [this] {
+            sprites = nullptr;
+            take(nullptr);
+        });
+    }
+    if (editorAction) {
+        editorAction->setEnabled(now);
+    }
+    showPosition();
+    if (now && editor->isActive()) {
+        showFirst();
+    }
+}
+
+/// The sprites of the project in front, when nothing on the canvas is in the way.
+void SpriteEditorPrivate::takeWaiting()
+{
+    if (isWaiting && !editor->isCanvasModified()) {
+        take(waiting);
+    }
+}
+
+void SpriteEditorPrivate::showFirst()
+{
+    if (sprites && row < 0 && sprites->count() > 0) {
+        show(qBound(0, sprites->currentIndex, int(sprites->count()) - 1));
+    }
+}
+
+/// The current row goes with its sprite. Where that is gone another one stands there, which the
+/// canvas must not be taken for.
+Sprite* SpriteEditorPrivate::findShown(Match match) const
+{
+    Sprite* there = row >= 0 && sprites ? sprites->sprite(sprites->currentIndex) : nullptr;
+    const bool isSame =
+        there == shown || (match == SameIdentifier && there && identifierOf(*there) == identifier);
+    return isSame ? there : nullptr;
+}
+
+void SpriteEditorPrivate::spritesChanged(Match match)
+{
+    if (selGuard > 0) {
+        return;
+    }
+    Sprite* now = findShown(match);
+    remember(now, now ? sprites->currentIndex : -1);
+    const bool isModified = editor->isCanvasModified();
+    const QImage stored = now ? inForm(now->image()) : QImage();
+    const bool isSame = now && areSamePixels(stored, loaded) && now->axis() == loadedAxis;
+    if (!now && !isModified) {
+        clearCanvas();
+    } else if (now && !isSame && !isModified) {
+        load();
+    } else if (now && !isSame) {
+        loaded = stored;
+        loadedAxis = now->axis();
+        if (areSamePixels(stored, flattened()) && canvas()->axis() == loadedAxis) {
+            history()->setClean();
+        }
+    }
+    showPosition();
+    if (editor->isActive() && !isModified) {
+        showFirst();
+    }
+}
+
+void SpriteEditorPrivate::remember(Sprite* sprite, int index)
+{
+    shown = sprite;
+    row = index;
+    if (sprite) {
+        identifier = identifierOf(*sprite);
+    }
+}
+
+bool SpriteEditorPrivate::mayDiscard() const
+{
+    return !editor->isCanvasModified() ||
+           Dialogs::instance()->question(
+               SpriteEditor::tr("Discard changes?"),
+               SpriteEditor::tr("Do you want to discard the changes made in the current sprite?"),
+               Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
+}
+
+void SpriteEditorPrivate::selPosChanged(int index)
+{
+    if (selGuard > 0 || !sprites || index == row) {
+        return;
+    }
+    const QPointer<Sprites> before = sprites;
+    const bool may = mayDiscard();
+    if (may && before == sprites) {
+        show(index);
+    } else {
+        showPosition();
+    }
+}
+
+void SpriteEditorPrivate::previous()
+{
+    if (row > 0) {
+        selPosChanged(row - 1);
+    }
+}
+
+void SpriteEditorPrivate::next()
+{
+    if (sprites && row + 1 < int(sprites->count())) {
+        selPosChanged(row + 1);
+    }
+}
+
+/// Whatever is on the canvas goes.
+void SpriteEditorPrivate::show(int index)
+{
+    {
+        const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
+        sprites->setCurrent(index);
+    }
+    Sprite* now = sprites->sprite(index);
+    remember(now, now ? index : -1);
+    if (now) {
+        load();
+    } else {
+        clearCanvas();
+    }
+    showPosition();
+}
+
+void SpriteEditorPrivate::load()
+{
+    const Sprite* now = sprite();
+    loaded = inForm(now->image());
+    loadedAxis = now->axis();
+    hasToldHidden = false;
+    loadColors();
+    editor->setImage(loaded, SpriteEditor::tr("Layer %1").arg(1));
+    canvas()->setAxis(loadedAxis);
+    emit editor->spriteShown();
+}
+
+void SpriteEditorPrivate::clearCanvas()
+{
+    loaded = {};
+    loadedAxis = {};
+    editor->setImage({}, {});
+    emit editor->spriteShown();
+}
+
+/// Those of the sprite's own palette; of the picture where it has none.
+void SpriteEditorPrivate::loadColors()
+{
+    const Sprite* now = sprite();
+    if (!now) {
+        return;
+    }
+    RGBA entries[ColorCount];
+    std::fill(std::begin(entries), std::end(entries), RGBA{0, 0, 0, 255});
+    if (const Palette* palette = now->palette()) {
+        palette->toPalette(entries);
+    } else {
+        const QImage image = now->image();
+        fillColors(image.colorCount() > 0 ? image.colorTable() : ownColors(image), entries);
+    }
+    isPreview = false;
+    showColors(entries);
+    if (colors->foreground() == colors->background()) {
+        chooseFirstColors();
+    }
+}
+
+void SpriteEditorPrivate::showColors(const RGBA* entries)
+{
+    if (grid) {
+        grid->palette()->fromPalette(entries);
+        grid->flatten();
+    }
+    renderer->layerChanged();
+}
+
+/// What erases, and something that can be seen.
+void SpriteEditorPrivate::chooseFirstColors()
+{
+    int ground = 0;
+    while (ground < ColorCount && qAlpha(colors->color(uchar(ground))) != 0) {
+        ++ground;
+    }
+    ground %= ColorCount;
+    int front = 0;
+    while (front < ColorCount - 1 &&
+           (front == ground || qAlpha(colors->color(uchar(front))) == 0)) {
+        ++front;
+    }
+    colors->setBackground(uchar(ground));
+    colors->setForeground(uchar(front));
+}
+
+void SpriteEditorPrivate::showPosition()
+{
+    const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
+    const int count = sprites ? int(sprites->count()) : 0;
+    if (auto* slider = widget<QSlider>("spr_sel")) {
+        slider->setRange(0, qMax(count - 1, 0));
+    }
+    emit setSelPos(qMax(row, 0));
+    emit setPosText(
+        row < 0 ? QStringLiteral("0 / 0")
+                : QStringLiteral("%1 / %2").arg(QString::number(row + 1), QString::number(count)));
+    updateEnabled();
+}
+
+/// In the sprite's own colours, whatever ones are looked at.
+QImage SpriteEditorPrivate::flattened()
+{
+    if (isPreview) {
+        loadColors();
+    }
+    return canvas()->mergeLayers(nullptr);
+}
+
+void SpriteEditorPrivate::saveImg()
+{
+    Sprite* now = sprite();
+    canvas()->endStroke();
+    if (!now || !editor->isCanvasModified()) {
+        return;
+    }
+    const QImage picture = flattened();
+    {
+        const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
+        sprites->beginChange(SpriteEditor::tr("Save image changes"));
+        now->setImage(picture);
+        now->setProperty(QStringLiteral("Axis"), canvas()->axis());
+        sprites->endChange();
+    }
+    now = sprite();
+    loaded = now ? inForm(now->image()) : QImage();
+    loadedAxis = now ? now->axis() : QPoint();
+    history()->setClean();
+    bool isHidden = false;
+    for (unsigned i = 0; i < layers()->count(); ++i) {
+        isHidden = isHidden || !layers()->at(i)->isVisible();
+    }
+    if (isHidden && !hasToldHidden) {
+        hasToldHidden = true;
+        host->showStatus(PassingField,
+                         SpriteEditor::tr("Hidden layers stay on the canvas and are not saved "
+                                          "into the sprite."));
+    }
+    showPosition();
+    emit editor->modified();
+}
+
+void SpriteEditor::setImage(const QImage& image, const QString& name)
+{
+    ImageCanvas* canvas = d->canvas();
+    const ImageRenderer::Change change(d->renderer);
+    canvas->endStroke();
+    canvas->layers()->removeAll();
+    if (!image.isNull()) {
+        const bool isIndexed = image.format() == QImage::Format_Indexed8;
+        canvas->setFormat(isIndexed ? ImageCanvas::IndexedFormat : ImageCanvas::RGBAFormat, true);
+        if (isIndexed) {
+            d->colors->setForeground(d->colors->foreground());
+            d->colors->setBackground(d->colors->background());
+        }
+        canvas->setSize(image.size(), {ImageCanvas::Centered, 0}, true);
+        auto* layer = new RasterLayer(canvas, image);
+        layer->setName(name, false);
+        if (canvas->layers()->add(layer, true)) {
+            d->renderer->setActiveLayer(layer);
+        } else {
+            layer->release();
+        }
+    }
+    canvas->undoStack()->clear();
+    d->retranslate();
+    d->updateEnabled();
+}
+
+/// A canvas that only has another selection than at first holds no work.
+bool SpriteEditor::isCanvasModified() const
+{
+    const ImageCanvas* canvas = d->canvas();
+    if (canvas->undoStack()->isClean() || !d->hasCanvas()) {
+        return false;
+    }
+    const ImageLayer* only = canvas->layers()->count() == 1 ? canvas->layers()->at(0) : nullptr;
+    return !only || !only->isVisible() || only->opacity() < 1.0 ||
+           only->blendMode() != QPainter::CompositionMode_SourceOver ||
+           canvas->axis() != d->loadedAxis || !areSamePixels(only->image(), d->loaded);
+}
+
+void SpriteEditor::previewColors(const QVector<QRgb>* colors)
+{
+    if (!colors) {
+        d->loadColors();
+        return;
+    }
+    RGBA entries[ColorCount] = {};
+    fillColors(*colors, entries);
+    d->isPreview = true;
+    d->showColors(entries);
+}
+
+}  // namespace Zorv
