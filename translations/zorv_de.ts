@@ -317,6 +317,62 @@
         <source>&amp;Usual size</source>
         <translation>&amp;Übliche Größe</translation>
     </message>
+    <message>
+        <source>E&amp;xchange colours</source>
+        <translation>Farben ver&amp;tauschen</translation>
+    </message>
+    <message>
+        <source>&amp;Previous colour</source>
+        <translation>&amp;Vorige Farbe</translation>
+    </message>
+    <message>
+        <source>&amp;Next colour</source>
+        <translation>&amp;Nächste Farbe</translation>
+    </message>
+    <message>
+        <source>La&amp;rger brush</source>
+        <translation>&amp;Größerer Pinsel</translation>
+    </message>
+    <message>
+        <source>S&amp;maller brush</source>
+        <translation>&amp;Kleinerer Pinsel</translation>
+    </message>
+    <message>
+        <source>M&amp;ove picture</source>
+        <translation>&amp;Bild verschieben</translation>
+    </message>
+    <message>
+        <source>&amp;Frames before and after</source>
+        <translation>Frames davor und &amp;danach</translation>
+    </message>
+    <message>
+        <source>Strokes without &amp;corners</source>
+        <translation>Striche &amp;ohne Ecken</translation>
+    </message>
+    <message>
+        <source>&amp;Even steps with Shift</source>
+        <translation>Gleichmäßige &amp;Stufen mit Umschalt</translation>
+    </message>
+    <message>
+        <source>&amp;Shade along a ramp</source>
+        <translation>Entlang eines Verlaufs s&amp;chattieren</translation>
+    </message>
+    <message>
+        <source>Symmetry &amp;left and right</source>
+        <translation>Symmetrie &amp;links und rechts</translation>
+    </message>
+    <message>
+        <source>Symmetry &amp;top and bottom</source>
+        <translation>Symmetrie oben &amp;und unten</translation>
+    </message>
+    <message>
+        <source>&amp;Grid of pixels</source>
+        <translation>&amp;Raster der Pixel</translation>
+    </message>
+    <message>
+        <source>&amp;Axis of the sprite</source>
+        <translation>&amp;Achse des Sprites</translation>
+    </message>
 </context>
 <context>
     <name>App::BackupNameDialog</name>
@@ -938,6 +994,10 @@
         <source>Sounds</source>
         <translation>Klänge</translation>
     </message>
+    <message>
+        <source>Costumes</source>
+        <translation>Kostüme</translation>
+    </message>
 </context>
 <context>
     <name>App::MediaDialogs</name>
@@ -1004,6 +1064,18 @@
         <source>Contact &amp;boxes</source>
         <translation>Kontakt&amp;boxen</translation>
     </message>
+    <message>
+        <source>&amp;Painting</source>
+        <translation>&amp;Malen</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>&amp;Ebenen</translation>
+    </message>
+    <message>
+        <source>Sele&amp;ction</source>
+        <translation>Aus&amp;wahl</translation>
+    </message>
 </context>
 <context>
     <name>App::MessagePanel</name>
@@ -1068,6 +1140,13 @@
     <message>
         <source>(%1 are left out)</source>
         <translation>(%1 sind ausgelassen)</translation>
+    </message>
+</context>
+<context>
+    <name>App::PaintCommands</name>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -6385,6 +6464,97 @@ Zeile %2, Spalte %3.</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::SpriteEditor</name>
+    <message>
+        <source>Not possible</source>
+        <translation>Nicht möglich</translation>
+    </message>
+    <message>
+        <source>No sprite found!</source>
+        <translation>Kein Sprite gefunden!</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Ebenen</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>A double click on a sprite in the list of sprites shows it here.</source>
+        <translation>Ein Doppelklick auf ein Sprite in der Liste der Sprites zeigt es hier.</translation>
+    </message>
+    <message>
+        <source>The canvas cannot be shown: OpenGL does not work on this display. A driver for the graphics card, or Mesa&apos;s software OpenGL, brings it back.</source>
+        <translation>Die Zeichenfläche kann nicht gezeigt werden: OpenGL geht auf dieser Anzeige nicht. Ein Treiber für die Grafikkarte oder Mesas OpenGL in Software bringt sie zurück.</translation>
+    </message>
+    <message>
+        <source>%1, alpha %2</source>
+        <translation>%1, Alpha %2</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Größe ändern</translation>
+    </message>
+    <message>
+        <source>Width and height in pixels:</source>
+        <translation>Breite und Höhe in Pixeln:</translation>
+    </message>
+    <message>
+        <source>Two numbers are needed, as in &quot;64 x 48&quot;. Width and height in pixels:</source>
+        <translation>Zwei Zahlen werden gebraucht, wie in &quot;64 x 48&quot;. Breite und Höhe in Pixeln:</translation>
+    </message>
+    <message>
+        <source>90 degrees clockwise</source>
+        <translation>90 Grad im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>180 degrees</source>
+        <translation>180 Grad</translation>
+    </message>
+    <message>
+        <source>90 degrees counterclockwise</source>
+        <translation>90 Grad gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Turn all layers by:</source>
+        <translation>Alle Ebenen drehen um:</translation>
+    </message>
+    <message>
+        <source>color %1, %2</source>
+        <translation>Farbe %1, %2</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Ebene %1</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 Kopie</translation>
+    </message>
+    <message>
+        <source>Discard changes?</source>
+        <translation>Änderungen verwerfen?</translation>
+    </message>
+    <message>
+        <source>Do you want to discard the changes made in the current sprite?</source>
+        <translation>Sollen die Änderungen am aktuellen Sprite verworfen werden?</translation>
+    </message>
+    <message>
+        <source>Save image changes</source>
+        <translation>Bildänderungen speichern</translation>
+    </message>
+    <message>
+        <source>Hidden layers stay on the canvas and are not saved into the sprite.</source>
+        <translation>Verborgene Ebenen bleiben auf der Zeichenfläche und werden nicht ins Sprite gespeichert.</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::SpriteList</name>
     <message>
         <source>The pixels of this sprite are missing or broken.</source>
@@ -6430,6 +6600,140 @@ Zeile %2, Spalte %3.</translation>
     <message>
         <source>... and %1 more.</source>
         <translation>... und %1 weitere.</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SpriteTexts</name>
+    <message>
+        <source>Sprite:</source>
+        <translation>Sprite:</translation>
+    </message>
+    <message>
+        <source>The sprite on the canvas</source>
+        <translation>Das Sprite auf der Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>Modus:</translation>
+    </message>
+    <message>
+        <source>How the layer is mixed with what is below it; only in true colour, for indexed layers have no colours of their own</source>
+        <translation>Wie die Ebene mit dem darunter gemischt wird; nur in Echtfarben, denn indizierte Ebenen haben keine eigenen Farben</translation>
+    </message>
+    <message>
+        <source>Opacity:</source>
+        <translation>Deckkraft:</translation>
+    </message>
+    <message>
+        <source>How much of the layer is seen, in percent; only in true colour, for indexed layers have no colours of their own</source>
+        <translation>Wie viel von der Ebene zu sehen ist, in Prozent; nur in Echtfarben, denn indizierte Ebenen haben keine eigenen Farben</translation>
+    </message>
+    <message>
+        <source>Move axis</source>
+        <translation>Achse verschieben</translation>
+    </message>
+    <message>
+        <source>Change palette</source>
+        <translation>Palette ändern</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Crop image</source>
+        <translation>Bild zuschneiden</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>Malen</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Radieren</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Flip image</source>
+        <translation>Bild spiegeln</translation>
+    </message>
+    <message>
+        <source>Add layer</source>
+        <translation>Ebene hinzufügen</translation>
+    </message>
+    <message>
+        <source>Change mode of layer</source>
+        <translation>Modus der Ebene ändern</translation>
+    </message>
+    <message>
+        <source>Delete layer</source>
+        <translation>Ebene löschen</translation>
+    </message>
+    <message>
+        <source>Rename layer</source>
+        <translation>Ebene umbenennen</translation>
+    </message>
+    <message>
+        <source>Change opacity of layer</source>
+        <translation>Deckkraft der Ebene ändern</translation>
+    </message>
+    <message>
+        <source>Merge all layers</source>
+        <translation>Alle Ebenen vereinen</translation>
+    </message>
+    <message>
+        <source>Merge visible layers</source>
+        <translation>Sichtbare Ebenen vereinen</translation>
+    </message>
+    <message>
+        <source>Move selection</source>
+        <translation>Auswahl verschieben</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Zeichnen</translation>
+    </message>
+    <message>
+        <source>Replace colors</source>
+        <translation>Farben ersetzen</translation>
+    </message>
+    <message>
+        <source>Resize image</source>
+        <translation>Bildgröße ändern</translation>
+    </message>
+    <message>
+        <source>Rotate image</source>
+        <translation>Bild drehen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Change format</source>
+        <translation>Form ändern</translation>
+    </message>
+    <message>
+        <source>Change size of canvas</source>
+        <translation>Größe der Zeichenfläche ändern</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SpriteWorkspace</name>
+    <message>
+        <source>Canvas</source>
+        <translation>Zeichenfläche</translation>
     </message>
 </context>
 <context>

@@ -226,9 +226,9 @@ void TestControls::choosesRows()
 
 void TestControls::enablesActions()
 {
-    QAction* action = addAction("spr_thing", sprites);
+    QAction* action = addAction("snd_thing", sprites);
     auto* button = qobject_cast<QToolButton*>(
-        m->host.addControl(QStringLiteral("spr_thing"), Zorv::ToolButtonControl(action)));
+        m->host.addControl(QStringLiteral("snd_thing"), Zorv::ToolButtonControl(action)));
     QVERIFY(button);
     QTRY_VERIFY(button->isVisible());
     emit m_publisher->enabled(true);
@@ -269,8 +269,8 @@ void TestControls::placesByName_data()
     row("org_up", "organizer", "anim");
     row("anim_thing", "animation_bar", "anim");
     row("anim_frame_thing", "frame", "frame");
-    row("spr_layer_add", "layers", "spr");
-    row("spr_tool_pen", "sprite_tools_bar", "spr");
+    row("spr_layer_add", "layers", "layers");
+    row("spr_tool_pen", "sprite_tools_bar", "paint");
     row("pal_add", "palette", "pal");
     row("snd_play", "sound_bar", "snd");
     row("other_thing", "other_bar", "edit");
@@ -283,9 +283,12 @@ void TestControls::placesByName()
     m->window->resize(1600, 900);
     m->open(game, game.ryn(), game.animations());
     const char* name = QTest::currentDataTag();
+    const char* area = bar == QLatin1String("organizer") ? "all" : "sprites";
     QAction* action = addAction(name);
     auto* button = qobject_cast<QWidget*>(
         m->host.addControl(QLatin1String(name), Zorv::ToolButtonControl(action)));
+    QCoreApplication::processEvents();
+    m->window->registry()->setActiveAreas({QStringLiteral("animations"), QLatin1String(area)});
     QTRY_VERIFY(button->isVisible());
     const QWidget* place = button;
     while (place && place->objectName() != bar) {
@@ -356,60 +359,62 @@ void TestControls::staysSwitchedOff()
 {
     const auto publish = [this] {
         add("pal_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
-        add("code_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
+        add("snd_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
         QTest::qWait(1);
     };
     const auto isShown = [this](const char* name) {
+        m->window->registry()->setActiveAreas({QStringLiteral("sprites")});
         return m->window->findChild<QWidget*>(QLatin1String(name))->isVisible();
     };
     publish();
-    QVERIFY(isShown("palette") && isShown("code_bar"));
+    QTRY_VERIFY(isShown("palette") && isShown("sound_bar"));
     m->window->findChild<QDockWidget*>(QStringLiteral("palette"))->close();
-    m->window->registry()->action(QStringLiteral("show_code_bar"))->trigger();
-    QTRY_VERIFY(!isShown("palette") && !isShown("code_bar"));
+    m->window->registry()->action(QStringLiteral("show_sound_bar"))->trigger();
+    QTRY_VERIFY(!isShown("palette") && !isShown("sound_bar"));
     QVERIFY(m->window->close());
     m.reset();
     m = std::make_unique<WindowFixture>(m_settings->filePath(QStringLiteral("zorv.ini")));
     publish();
-    QVERIFY(!isShown("palette") && !isShown("code_bar"));
+    QVERIFY(!isShown("palette") && !isShown("sound_bar"));
     m->window->registry()->action(QStringLiteral("show_palette"))->trigger();
-    m->window->registry()->action(QStringLiteral("show_code_bar"))->trigger();
-    QTRY_VERIFY(isShown("palette") && isShown("code_bar"));
+    m->window->registry()->action(QStringLiteral("show_sound_bar"))->trigger();
+    QTRY_VERIFY(isShown("palette") && isShown("sound_bar"));
 }
 
 void TestControls::goesWithItsReceiver()
 {
-    const QPointer<QAction> action = addAction("pal_add");
+    const QPointer<QAction> action = addAction("other_add");
     emit m_publisher->enabled(true);
     const QPointer<QObject> button =
-        m->host.addControl(QStringLiteral("pal_add"), Zorv::ToolButtonControl(action));
+        m->host.addControl(QStringLiteral("other_add"), Zorv::ToolButtonControl(action));
     const QPointer<QWidget> list = add(
-        "pal_list", WidgetControl(WidgetControl::ListView, 3, m_publisher.get(),
-                                  SLOT(rowChosen(QModelIndex)), nullptr, SIGNAL(enabled(bool))));
+        "other_list", WidgetControl(WidgetControl::ListView, 3, m_publisher.get(),
+                                    SLOT(rowChosen(QModelIndex)), nullptr, SIGNAL(enabled(bool))));
     const QPointer<QWidget> slider =
         add("snd_sel", WidgetControl(WidgetControl::Slider, 3, m_publisher.get(),
                                      SLOT(numberChosen(int)), SIGNAL(setNumber(int))));
-    const auto* panel = m->window->findChild<QDockWidget*>(QStringLiteral("palette"));
+    const auto* panel = m->window->findChild<QToolBar*>(QStringLiteral("other_bar"));
     const auto* bar = m->window->findChild<QToolBar*>(QStringLiteral("sound_bar"));
     QTRY_VERIFY(panel->isVisible() && bar->isVisible());
     m_publisher.reset();
     QVERIFY(!action || !action->isEnabled());
     QTRY_VERIFY(!action && !button && !list && !slider);
-    QVERIFY(!m->window->registry()->action(QStringLiteral("pal_add")));
+    QVERIFY(!m->window->registry()->action(QStringLiteral("other_add")));
     // Nothing is left in them.
     QTRY_VERIFY(!panel->isVisible() && !bar->isVisible());
     // And a new publisher takes the place.
     m_publisher = std::make_unique<Publisher>();
-    QVERIFY(addAction("pal_add"));
-    QVERIFY(m->window->registry()->action(QStringLiteral("pal_add")));
+    QVERIFY(addAction("other_add"));
+    QVERIFY(m->window->registry()->action(QStringLiteral("other_add")));
 }
 
 void TestControls::placesAFinishedWidget()
 {
     QPointer<QListView> grid = new QListView;
-    const Zorv::OwnWidgetControl control(grid, m_publisher.get(), SIGNAL(enabled(bool)));
-    QCOMPARE(add("pal_view", control), grid.data());
-    const auto* panel = m->window->findChild<QDockWidget*>(QStringLiteral("palette"));
+    Zorv::OwnWidgetControl control(grid, m_publisher.get(), SIGNAL(enabled(bool)));
+    control.setAreas(sprites);
+    QCOMPARE(add("other_view", control), grid.data());
+    const auto* panel = m->window->findChild<QToolBar*>(QStringLiteral("other_bar"));
     QVERIFY(panel->isAncestorOf(grid));
     QTRY_VERIFY(panel->isVisible());
     m->window->registry()->setActiveAreas({QStringLiteral("sprites")});
@@ -420,15 +425,15 @@ void TestControls::placesAFinishedWidget()
     QVERIFY(!grid->isEnabled());
     // Another one takes the place, and goes first or with its publisher.
     QPointer<QLabel> well = new QLabel;
-    add("pal_view", Zorv::OwnWidgetControl(well, m_publisher.get()));
+    add("other_view", Zorv::OwnWidgetControl(well, m_publisher.get()));
     QTRY_VERIFY(!grid);
     QPointer<QLabel> second = new QLabel;
-    add("spr_foreground", Zorv::OwnWidgetControl(second));
+    add("snd_foreground", Zorv::OwnWidgetControl(second));
     delete second.data();
     m_publisher.reset();
     QTRY_VERIFY(!well);
     QTRY_VERIFY(!panel->isVisible());
-    QTRY_VERIFY(!m->window->findChild<QToolBar*>(QStringLiteral("sprites_bar"))->isVisible());
+    QTRY_VERIFY(!m->window->findChild<QToolBar*>(QStringLiteral("sound_bar"))->isVisible());
 }
 
 void TestControls::showsAPanel()

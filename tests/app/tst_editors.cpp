@@ -1,5 +1,7 @@
 #include "windowfixture.h"
 
+#include "app/paint/paintcommands.h"
+
 #include "app/actions/actionregistry.h"
 #include "app/controls/activeareas.h"
 #include "app/stage/familyanimationeditor.h"
@@ -9,6 +11,8 @@
 
 #include <zorv/editors/framework/workspace.h>
 #include <zorv/graphics/graphicwork/graphicsworkspace.h>
+
+#include <zorv/image/spriteeditor.h>
 
 #include <QAction>
 #include <QInputDialog>
@@ -57,14 +61,14 @@ class SecondEditor : public Zorv::FileEditor
 public:
     explicit SecondEditor(SecondWorkspace* workspace)
         : m_workspace(workspace),
-          m_action(host()->createEditorAction(QStringLiteral("editor_spr"), nullptr, 0))
+          m_action(host()->createEditorAction(QStringLiteral("editor_snd"), nullptr, 0))
     {
     }
 
     QAction* action() const override { return m_action; }
-    QString name() const override { return QStringLiteral("spr"); }
+    QString name() const override { return QStringLiteral("snd"); }
     int canEditFileType() const override { return 0; }
-    QStringList areas() const override { return {QStringLiteral("sprites")}; }
+    QStringList areas() const override { return {QStringLiteral("sounds")}; }
     Zorv::Workspace* workspace() const override { return m_workspace; }
     void activate() override
     {
@@ -142,7 +146,7 @@ void TestEditors::init()
     m = std::make_unique<WindowFixture>();
     m_workspace = std::make_unique<SecondWorkspace>();
     m_editor = std::make_unique<SecondEditor>(m_workspace.get());
-    window()->editors()->add(m_editor.get(), Zorv::FileID::Sprites);
+    window()->editors()->add(m_editor.get(), Zorv::FileID::Sounds);
     m->open(m_game, m_game.ryn());
     m_editor->log.clear();
 }
@@ -167,7 +171,7 @@ void TestEditors::comesToTheFront()
     m->goTo(3, 2);
     auto* bar = window()->findChild<QToolBar*>(QStringLiteral("editors_bar"));
     QTRY_VERIFY(bar->isVisible());
-    QCOMPARE(bar->actions().size(), 3);
+    QCOMPARE(bar->actions().size(), 4);
     QTest::mouseClick(bar->widgetForAction(m_editor->action()), Qt::LeftButton);
     QCOMPARE(m->host.currentEditor(), m_editor.get());
     QCOMPARE(m_editor->log, QStringList(QStringLiteral("active")));
@@ -177,7 +181,7 @@ void TestEditors::comesToTheFront()
     QVERIFY(m_editor->action()->isChecked() && !window()->textEditor()->isActive());
     // Tools of the area that is in front are of use, and those of texts are not.
     QTRY_COMPARE(window()->registry()->activeAreas()->areas(),
-                 QSet<QString>{QStringLiteral("sprites")});
+                 QSet<QString>{QStringLiteral("sounds")});
     QVERIFY(!m->action("code_goto")->isEnabled() && !m->action("close_text")->isEnabled());
 
     window()->textEditor()->action()->trigger();
@@ -247,18 +251,20 @@ void TestEditors::textsComeWithTheStage()
 
 void TestEditors::isFoundByItsNames()
 {
-    for (const char* name : {"spr", "sprites", "pal"}) {
+    for (const char* name : {"snd", "sounds"}) {
         QCOMPARE(m->host.editorByName(name), m_editor.get());
+    }
+    for (const char* name : {"spr", "sprites", "pal"}) {
+        QCOMPARE(m->host.editorByName(name), window()->paint()->editor());
     }
     QCOMPARE(m->host.editorByName("code"), window()->textEditor());
     for (const char* name : {"anim", "animations"}) {
         QCOMPARE(m->host.editorByName(name), window()->stage()->editor());
     }
-    for (const char* name : {"snd", "sounds", "all", ""}) {
+    for (const char* name : {"all", ""}) {
         QVERIFY2(!m->host.editorByName(name), name);
     }
-    QCOMPARE(m->host.fileEditor(&m_editor->file_, Zorv::FileID::Sprites), m_editor.get());
-    QVERIFY(!m->host.fileEditor(&m_editor->file_, Zorv::FileID::Sounds));
+    QCOMPARE(m->host.fileEditor(&m_editor->file_, Zorv::FileID::Sounds), m_editor.get());
 }
 
 void TestEditors::takesTheCommands()

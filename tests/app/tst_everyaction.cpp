@@ -1,6 +1,8 @@
 #include "windowfixture.h"
 
 #include "app/actions/actionregistry.h"
+#include "app/assets/spritepanel.h"
+#include "app/paint/paintcommands.h"
 #include "family/nodes/animationnode.h"
 
 #include <QAction>
@@ -33,7 +35,7 @@ private slots:
     void opensFromTheBars();
 
 private:
-    void prepare();
+    void prepare(const QString& name = {});
     QMenu* menuOf(const QAction* action) const;
     bool click(QAction* action);
 
@@ -66,8 +68,9 @@ void TestEveryAction::cleanup()
     m.reset();
 }
 
-/// Brings the window to where as much as possible can be done.
-void TestEveryAction::prepare()
+/// Brings the window to where as much as possible can be done: what belongs to the canvas, on one
+/// with changes and two layers.
+void TestEveryAction::prepare(const QString& name)
 {
     if (QWidget* words = QApplication::activePopupWidget()) {
         words->close();
@@ -98,6 +101,12 @@ void TestEveryAction::prepare()
     m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};  // a sprite in use may go
     QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_delete")->isEnabled() &&
                 m->action("anim_next_frame")->isEnabled());
+    if (name.startsWith(QLatin1String("spr_")) || name.startsWith(QLatin1String("paint_"))) {
+        m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
+        m->window->paint()->showSprite(m->window->spritePanel()->sprites(), 1);
+        QTRY_VERIFY(m->action("spr_layer_add")->isEnabled());
+        m->action("spr_layer_add")->trigger();
+    }
 }
 
 QMenu* TestEveryAction::menuOf(const QAction* action) const
@@ -154,7 +163,7 @@ void TestEveryAction::opensFromTheMenus()
     names.removeOne(QStringLiteral("quit"));
     names.append(QStringLiteral("quit"));
     for (const QString& name : qAsConst(names)) {
-        prepare();
+        prepare(name);
         QAction* action = registry()->action(name);
         if (!action->isVisible()) {
             continue;

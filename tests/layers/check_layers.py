@@ -50,6 +50,7 @@ LAYERS = {
     "host/app/code/": 26,
     "host/app/game/": 26,
     "host/app/messages/": 26,
+    "host/app/paint/": 26,
     "host/app/recovery/": 26,
     "host/app/run/": 26,
     "host/app/settings/": 26,

@@ -18,6 +18,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QWidgetAction>
 #include <algorithm>
 #include <vector>
 
@@ -135,7 +136,11 @@ struct ControlBars::Bar
 
     bool isInItsArea(const ActiveAreas* areas) const
     {
-        return !row || !row->only || areas->areas().contains(QLatin1String(row->only));
+        const auto isActive = [areas](const char* area) {
+            return areas->areas().contains(QLatin1String(area));
+        };
+        return !row ||
+               ((!row->only || isActive(row->only)) && (!row->without || !isActive(row->without)));
     }
 
     // A panel that comes back stands where it stood: in front of those in its place, or behind.
@@ -384,7 +389,10 @@ void ControlBars::addWidget(const QString& name, const QString& tool, QWidget* w
     } else if (found->layout) {
         found->layout->addWidget(widget, takesRoom ? 1 : 0);
     } else {
-        QAction* place = found->tools->addWidget(widget);
+        auto* place = new QWidgetAction(found->tools);
+        place->setObjectName(tool);
+        place->setDefaultWidget(widget);
+        found->insert(place);
         connect(widget, &QObject::destroyed, place, &QObject::deleteLater);
         connect(place, &QObject::destroyed, this, &ControlBars::updateSoon);
     }

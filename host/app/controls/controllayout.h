@@ -22,6 +22,7 @@ struct BarRow
     const char* setting = nullptr;  ///< the setting that shows it, if editors read that too
     int fewest = 1;                 ///< tools that it is shown for: one selector is no choice
     const char* only = nullptr;     ///< the area with which it is shown; null for all
+    const char* without = nullptr;  ///< the area with which it is not shown; null for none
 };
 
 /// Where tools whose names begin with a prefix stand: a row of the table.

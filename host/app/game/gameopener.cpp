@@ -4,6 +4,7 @@
 #include "app/session/gamesession.h"
 #include "app/session/recentfolders.h"
 #include "app/session/unsavedwork.h"
+#include "app/window/editorregistry.h"
 #include "app/window/jumps.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
@@ -13,6 +14,8 @@
 #include "family/project/familyproject.h"
 
 #include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/fileid.h>
+#include <zorv/core/projectfile.h>
 
 #include <QApplication>
 #include <QDir>
@@ -174,10 +177,28 @@ bool GameOpener::openFile(const QString& fileName)
         document = openFileOfClosedProject(fileName);
     }
     if (!document) {
-        return tellWhyNot(fileName);
+        return showSprites(fileName) || tellWhyNot(fileName);
     }
     m_services.jumps->showDocument(document);
     return true;
+}
+
+/// A file of sprites has no text: its editor shows it. False if no open project has it.
+bool GameOpener::showSprites(const QString& fileName)
+{
+    for (FamilyProject* project : m_services.session->projects()) {
+        const Zorv::ProjectFile* sprites = project->file(Zorv::FileID::Sprites);
+        if (!sprites || sprites->fileName() != fileName) {
+            continue;
+        }
+        if (project != m_services.parts->project()) {
+            m_services.jumps->showDocument(project->mainDocument());
+            m_services.parts->update();
+        }
+        m_services.editors->activate(m_services.editors->forFile(Zorv::FileID::Sprites));
+        return true;
+    }
+    return false;
 }
 
 FamilyDocument* GameOpener::openFileOfClosedProject(const QString& fileName)

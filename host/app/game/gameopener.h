@@ -39,6 +39,7 @@ private:
     void closeFolder();
     bool openFolder(const QString& folder);
     bool openProject(const QString& mainFile);
+    bool showSprites(const QString& fileName);
     Family::FamilyDocument* openFileOfClosedProject(const QString& fileName);
     bool tellWhyNot(const QString& fileName);
 

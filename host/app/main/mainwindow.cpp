@@ -26,6 +26,7 @@
 #include "app/messages/messagepanel.h"
 #include "app/messages/messageroom.h"
 #include "app/messages/problemwatch.h"
+#include "app/paint/paintcommands.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
 #include "app/session/gamesession.h"
@@ -41,10 +42,13 @@
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
+#include <zorv/animation/thumbnails/thumbnailseditor.h>
 #include <zorv/core/fileid.h>
 #include <zorv/editors/code/codeeditor.h>
 #include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
+#include <zorv/image/palettepreviews.h>
+#include <zorv/image/spriteeditor.h>
 
 #include <QAbstractButton>
 #include <QCloseEvent>
@@ -68,6 +72,10 @@ namespace {
 // Where Qt shows that there is something to save.
 const QLatin1String Modified("[*]");
 
+// Shares of the layers and the palette in the side of the window, when both are seen first.
+constexpr int RoomOfLayers = 200;
+constexpr int RoomOfPalette = 300;
+
 struct PanelTitle
 {
     const char* name;
@@ -78,6 +86,7 @@ const PanelTitle panelTitles[] = {
     {"projects", QT_TRANSLATE_NOOP("App::MainWindow", "Projects")},
     {"sprites", QT_TRANSLATE_NOOP("App::MainWindow", "Sprites")},
     {"sounds", QT_TRANSLATE_NOOP("App::MainWindow", "Sounds")},
+    {"costumes", QT_TRANSLATE_NOOP("App::MainWindow", "Costumes")},
     {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
     {"output", QT_TRANSLATE_NOOP("App::MainWindow", "Engine output")},
 };
@@ -151,6 +160,8 @@ void MainWindow::publishTools()
     m_code->addEditor(m_stage->editor());
     editors()->add(m_stage->editor(), Zorv::FileID::Animations,
                    {m_middle, m_code->commands(), m_code->editor(), m_code->workspace()});
+    m_paint = new PaintCommands(m_services);
+    editors()->add(m_paint->editor(), Zorv::FileID::Sprites, {nullptr, m_paint->commands()});
     arrangeTools();
     addParts();
     connectParts();
@@ -175,6 +186,9 @@ void MainWindow::arrangeTools()
     tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("sounds")),
                      findChild<QDockWidget*>(QStringLiteral("thumbnails")));
     findChild<QDockWidget*>(QStringLiteral("sprites"))->raise();
+    QDockWidget* costumes = addDock(m_paint->costumes(), "costumes", Qt::BottomDockWidgetArea);
+    tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("messages")), costumes);
+    costumes->hide();
 }
 
 /// In the order in which the keyboard goes round, and in which sections of menus are filled.
@@ -182,8 +196,8 @@ void MainWindow::addParts()
 {
     for (Part* part : std::initializer_list<Part*>{
              m_router, m_opener, m_gameCommands, m_gameTree, m_services.editors, m_sprites,
-             m_sounds, m_stage, m_code, m_animations, m_thumbnails, m_problems, m_messagePanel,
-             m_runCommands, m_services.status, m_commands}) {
+             m_sounds, m_stage, m_paint, m_code, m_animations, m_thumbnails, m_problems,
+             m_messagePanel, m_runCommands, m_services.status, m_commands}) {
         m_services.parts->add(part);
     }
 }
@@ -192,6 +206,7 @@ void MainWindow::addParts()
 MainWindow::~MainWindow()
 {
     m_services.parts->end();
+    delete m_paint;
     delete m_stage;
     delete m_code;
     delete m_services.session;
@@ -237,6 +252,15 @@ void MainWindow::connectParts()
     connect(m_services.status, &StatusFields::problemsClicked, m_messagePanel,
             &MessagePanel::comeForward);
     connect(m_stage, &StageCommands::colourPicked, m_sprites->panel(), &SpritePanel::showColour);
+    connect(m_paint, &PaintCommands::shownFirst, this, [this] {
+        resizeDocks({findChild<QDockWidget*>(QStringLiteral("layers")),
+                     findChild<QDockWidget*>(QStringLiteral("palette"))},
+                    {RoomOfLayers, RoomOfPalette}, Qt::Vertical);
+    });
+    connect(m_sprites->panel(), &SpritePanel::spriteActivated, m_paint,
+            [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
+    connect(m_thumbnails->panel(), &Zorv::ThumbnailsEditor::spriteActivated, m_paint,
+            [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
     // Rows change while lines are being parsed.
     const Zorv::OrganizerEditor* organizer = m_animations->organizer();
     connect(

@@ -27,6 +27,7 @@ class GameCommands;
 class GameOpener;
 class GameTree;
 class MessagePanel;
+class PaintCommands;
 class ProblemWatch;
 class RunCommands;
 class SoundCommands;
@@ -74,6 +75,7 @@ public:
     SpritePanel* spritePanel() const;
     SoundPanel* soundPanel() const;
     StageCommands* stage() const { return m_stage; }
+    PaintCommands* paint() const { return m_paint; }
     ProblemWatch* problems() const { return m_problems; }
     MessagePanel* messagePanel() const { return m_messagePanel; }
     /// @}
@@ -135,6 +137,7 @@ private:
     WindowServices m_services;
     CodeView* m_code = nullptr;
     StageCommands* m_stage = nullptr;
+    PaintCommands* m_paint = nullptr;
     GameTree* m_gameTree;
     GameOpener* m_opener;
     GameCommands* m_gameCommands;

@@ -31,7 +31,7 @@ const QString FrontKey = QStringLiteral("front_text");
 
 constexpr QSize UsualSize(1280, 800);
 constexpr int RoomOfAllPanels = 450;  // pixels; below that some are hidden at first
-constexpr int PanelsVersion = 5;      // raised when panels come or go
+constexpr int PanelsVersion = 6;      // raised when panels come or go
 
 QVariant setting(const QString& key)
 {

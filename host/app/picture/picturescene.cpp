@@ -6,6 +6,7 @@
 #include "app/main/mainwindow.h"
 #include "app/messages/messagepanel.h"
 #include "app/messages/problemwatch.h"
+#include "app/paint/paintcommands.h"
 #include "app/session/gamesession.h"
 #include "app/stage/stagecommands.h"
 #include "app/stage/stagerenderer.h"
@@ -202,6 +203,21 @@ void showStage(MainWindow* window, const FamilyDocument* document)
     }
 }
 
+/// A sprite on the canvas, with a stroke and a second layer.
+void showPaint(MainWindow* window, const FamilyDocument* document)
+{
+    window->findChild<QDockWidget*>(QStringLiteral("messages"))->hide();
+    showAttack(window, document, 8);
+    PaintCommands* paint = window->paint();
+    paint->showSprite(window->spritePanel()->sprites(), window->spritePanel()->currentRow());
+    settleWindow();
+    for (const char* name : {"paint_grid", "spr_layer_add", "spr_view_original"}) {
+        window->actionByName(name)->trigger();
+    }
+    window->actionByName("zoom_in")->trigger();
+    settleWindow();
+}
+
 struct Scene
 {
     const char* name;
@@ -211,6 +227,7 @@ struct Scene
 const Scene scenes[] = {
     {"code", showProblem}, {"folding", showFolds},   {"completion", showWords},
     {"find", showMatches}, {"sprites", showSprites}, {"stage", showStage},
+    {"paint", showPaint},
 };
 
 }  // namespace

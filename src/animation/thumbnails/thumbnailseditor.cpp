@@ -177,9 +177,12 @@ ThumbnailsEditor::ThumbnailsEditor(QObject* parent)
     d->publish(Interface::instance());
     retranslate();
     connect(d->list, &SpriteList::selectedRowsChanged, this, [this] { d->tellState(); });
-    connect(d->list, &QListView::activated, this, [this] {
-        if (QAction* action = d->actions.first()) {
-            action->trigger();
+    connect(d->list, &QListView::activated, this, [this](const QModelIndex& index) {
+        QAction* add = d->actions.first();
+        if (add && add->isEnabled()) {
+            add->trigger();
+        } else {
+            emit spriteActivated(index.row());
         }
     });
     for (const auto signal : enableSignals) {

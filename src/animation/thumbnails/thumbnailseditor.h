@@ -66,6 +66,9 @@ signals:
     void newEnabled(bool isEnabled);
     void newAllEnabled(bool isEnabled);
 
+    /// A double click on a sprite, or Return, where it cannot be added to an animation.
+    void spriteActivated(int row);
+
 private:
     std::unique_ptr<ThumbnailsEditorPrivate> d;
 };

@@ -38,13 +38,6 @@ struct Raster
     Pixel* bits;
 };
 
-/// A pixel of an image of 8 or 32 bits a pixel as it is stored.
-inline quint32 rawPixel(const QImage& image, const QPoint& place)
-{
-    const uchar* row = image.constScanLine(place.y());
-    return image.depth() == 8 ? row[place.x()] : reinterpret_cast<const quint32*>(row)[place.x()];
-}
-
 /// The image in one of the three forms that the tools work on: `Format_Indexed8`, `Format_RGB32`
 /// and `Format_ARGB32`.
 QImage workingImage(const QImage& image);

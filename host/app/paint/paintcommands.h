@@ -1,0 +1,82 @@
+#pragma once
+
+#include "app/window/part.h"
+
+#include <QObject>
+
+namespace Family {
+class SpriteCollection;
+}
+
+namespace Zorv {
+class PalettePreviews;
+class SpriteEditor;
+}  // namespace Zorv
+
+namespace App {
+
+class FrameShine;
+class PaintOptions;
+struct WindowServices;
+
+/// The editor of sprites in the window: the canvas in the middle, and what the window alone can do
+/// with it. Its tools are the library's.
+class PaintCommands : public QObject, public Part
+{
+    Q_OBJECT
+
+public:
+    /// Makes the editor, as a child of the window. The editor of animations is there by then.
+    explicit PaintCommands(const WindowServices& services);
+    ~PaintCommands() override;
+
+    Zorv::SpriteEditor* editor() const { return m_editor; }
+
+    /// The picture of the canvas in the first palettes of the file, side by side.
+    Zorv::PalettePreviews* costumes() const { return m_costumes; }
+
+    /// Brings a sprite onto the canvas and the canvas to the front. The person is asked first if
+    /// the canvas has changes.
+    void showSprite(Family::SpriteCollection* sprites, int row);
+
+    /// The same for the sprites of the project in front, with the one that was there last.
+    void comeForward();
+
+    /// How the canvas does the commands of the window.
+    CommandRows commands() const;
+
+    QVector<ActionRow> actions() override;
+    void actionsMade() override;
+    void updateState() override;
+    void reconfig() override;
+    QVector<PanelPlace> places() override;
+
+signals:
+    /// The canvas and its panels are on the screen for the first time.
+    void shownFirst();
+
+private:
+    void fitFirst();
+    void swapColours();
+    void stepColour(int step);
+    void nextColour() { stepColour(1); }
+    void previousColour() { stepColour(-1); }
+    void larger();
+    void smaller();
+    void pan();
+    void shine();
+    void showCostumes();
+    void chooseCostume(int index);
+    void save();
+    bool canSave() const;
+
+    const WindowServices& m_services;
+    Zorv::SpriteEditor* m_editor;
+    PaintOptions* m_options;
+    FrameShine* m_shine;
+    Zorv::PalettePreviews* m_costumes;
+    bool m_isInFront = false;
+    bool m_isFitted = false;
+};
+
+}  // namespace App

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "app/actions/actionrow.h"
+
+#include <QObject>
+
+namespace Zorv {
+class ImageRenderer;
+}
+
+namespace App {
+
+class ActionRegistry;
+
+/// The switches of painting that are not tools: how strokes go, and what is seen of the canvas.
+/// They are kept as settings under the names of their actions.
+class PaintOptions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The renderer outlives them.
+    PaintOptions(Zorv::ImageRenderer* renderer, QObject* parent);
+
+    QVector<ActionRow> actions();
+
+    /// Sets the switches as they were left.
+    void restore(const ActionRegistry* registry);
+
+private:
+    void apply(int row, bool isOn);
+
+    Zorv::ImageRenderer* m_renderer;
+    const ActionRegistry* m_registry = nullptr;
+};
+
+}  // namespace App

@@ -1,0 +1,412 @@
+#include "windowfixture.h"
+
+#include "app/actions/actionregistry.h"
+#include "app/assets/spritecommands.h"
+#include "app/assets/spritepanel.h"
+#include "app/assets/thumbnailcommands.h"
+#include "app/paint/paintcommands.h"
+#include "app/window/editorregistry.h"
+#include "family/assets/spritefile.h"
+
+#include <zorv/animation/thumbnails/spritelist.h>
+#include <zorv/animation/thumbnails/thumbnailseditor.h>
+#include <zorv/editors/palette/colorpalette.h>
+#include <zorv/graphics/renderwidget.h>
+#include <zorv/image/canvas/imagecanvas.h>
+#include <zorv/image/canvas/imagelayer.h>
+#include <zorv/image/canvas/imagelayers.h>
+#include <zorv/image/imagerenderer.h>
+#include <zorv/image/palettepreviews.h>
+#include <zorv/image/spriteeditor.h>
+#include <zorv/image/spriteworkspace.h>
+#include <zorv/image/tools/imagetool.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QMouseEvent>
+
+namespace {
+
+const QVector<QRgb> Colours{0x00000000, 0xffe02020, 0xff20c020, 0xff2020e0};
+const char SpritePath[] = "characters/ryn/ryn.sprites";
+
+QImage picture(int seed)
+{
+    QImage image(16, 12, QImage::Format_Indexed8);
+    image.setColorTable(Colours);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            image.setPixel(x, y, uint((x / 3 + y / 2 + seed) % 4));
+        }
+    }
+    return image;
+}
+
+/// The places at which two pictures of a size differ.
+QVector<QPoint> differences(const QImage& a, const QImage& b)
+{
+    QVector<QPoint> places;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixelIndex(x, y) != b.pixelIndex(x, y)) {
+                places.append({x, y});
+            }
+        }
+    }
+    return places;
+}
+
+}  // namespace
+
+/// The canvas in the real window, with real keys and a real mouse.
+class TestPainting : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m.reset(); }
+
+    void savesWhatIsPainted();
+    void keepsTheAxisWithThePixels();
+    void asksBeforeItDiscards_data();
+    void asksBeforeItDiscards();
+    void hearsKeysOnTheCanvasAlone();
+    void keepsLayersInLine();
+    void followsTheFile();
+    void paintsInTrueColour();
+    void opensFromEverywhere();
+    void publishesItsTools();
+
+private:
+    Zorv::SpriteEditor* editor() const { return m->window->paint()->editor(); }
+    Zorv::ImageCanvas* canvas() const { return editor()->renderer()->canvas(); }
+    QWidget* widget() const { return editor()->spriteWorkspace()->renderWidget(); }
+    Family::SpriteCollection* sprites() const { return m->window->spritePanel()->sprites(); }
+    QImage layer() const { return canvas()->activeLayer()->image(); }
+    void trigger(const char* name) const
+    {
+        QCoreApplication::processEvents();
+        QVERIFY2(m->action(name)->isEnabled(), name);
+        m->action(name)->trigger();
+        QCoreApplication::processEvents();
+    }
+
+    void openFirst() const
+    {
+        doubleClickRow(m->window->spritePanel()->list(), sprites()->index(0));
+        QTRY_VERIFY(widget() && widget()->isVisible() && editor()->isActive());
+        QTRY_VERIFY(widget()->hasFocus());
+        const auto* bar = m->window->findChild<QWidget*>(QStringLiteral("sprites_bar"));
+        QTRY_VERIFY(bar->isVisible());  // the canvas has its place by then
+        QCoreApplication::processEvents();
+    }
+
+    QPoint at(QPoint pixel) const
+    {
+        const double zoom = canvas()->zoomLevel();
+        return editor()->renderer()->zoomedRect().topLeft() +
+               QPoint(int((pixel.x() + 0.5) * zoom), int((pixel.y() + 0.5) * zoom));
+    }
+
+    void stroke(QPoint from, QPoint to) const
+    {
+        QTest::mousePress(widget(), Qt::LeftButton, {}, at(from));
+        QMouseEvent move(QEvent::MouseMove, at(to), widget()->mapToGlobal(at(to)), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QCoreApplication::sendEvent(widget(), &move);
+        QTest::mouseRelease(widget(), Qt::LeftButton, {}, at(to));
+        QCoreApplication::processEvents();
+    }
+
+    std::unique_ptr<TemporaryGame> m_game;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<WindowFixture> m;
+};
+
+void TestPainting::init()
+{
+    m_game = std::make_unique<TemporaryGame>();
+    m_game->write("characters/ryn/ryn.character",
+                  "[info]\r\nname = \"Ryn\"\r\n[files]\r\nsprites = \"ryn.sprites\"\r\n"
+                  "animations = \"basic.anim\"\r\n");
+    Family::SpriteFile file;
+    QVERIFY(file.insertSprite(-1, {0, 0}, {8, 11}, picture(0)));
+    QVERIFY(file.insertSprite(0, {0, 1}, {8, 11}, picture(1)));
+    QVERIFY(file.toFile(*Zorv::FileSystemArchive::instance(), m_game->path(SpritePath), false));
+    m_folder = std::make_unique<QTemporaryDir>();
+    m = std::make_unique<WindowFixture>(m_folder->filePath(QStringLiteral("zorv.ini")));
+    m->window->resize(1200, 900);
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+}
+
+/// A stroke, put into the sprite and the file, changes its pixels and no others; undo leads back to
+/// the first bytes.
+void TestPainting::savesWhatIsPainted()
+{
+    const QByteArray first = m_game->read(SpritePath);
+    openFirst();
+    pressIn(widget(), Qt::Key_B);
+    QTest::mouseClick(widget(), Qt::LeftButton, {}, at({0, 0}));
+    editor()->colors()->setForeground(3);
+    stroke({2, 5}, {9, 5});
+    const QVector<QPoint> painted = differences(layer(), picture(0));
+    QVERIFY(painted.size() > 4);
+    QVERIFY(m->window->isWindowModified() || editor()->isModified());
+    trigger("spr_saveimg");
+    QCOMPARE(differences(sprites()->sprite(0)->image(), picture(0)), painted);
+    trigger("save");
+    Family::SpriteFile written;
+    QVERIFY(
+        written.fromFile(*Zorv::FileSystemArchive::instance(), m_game->path(SpritePath), false));
+    QCOMPARE(differences(written.sprite(0)->image(), picture(0)), painted);
+    QCOMPARE(written.sprite(0)->image().colorTable(), sprites()->sprite(1)->image().colorTable());
+    QCOMPARE(written.sprite(1)->image(), sprites()->sprite(1)->image());
+    QVERIFY(differences(written.sprite(1)->image(), picture(1)).isEmpty());
+    for (int i = 0; i < 20 && m->action("undo")->isEnabled(); ++i) {
+        trigger("undo");
+    }
+    QVERIFY(differences(layer(), picture(0)).isEmpty());
+    trigger("save");
+    QCOMPARE(m_game->read(SpritePath), first);
+    QVERIFY(!editor()->isModified());
+}
+
+void TestPainting::keepsTheAxisWithThePixels()
+{
+    openFirst();
+    trigger("spr_image_fliph");
+    trigger("spr_saveimg");
+    QCOMPARE(sprites()->sprite(0)->axis(), QPoint(8, 11));  // 16 - 8
+    m->dialogs.choiceAnswers = {0};
+    trigger("spr_image_rotate");
+    m->dialogs.textAnswers = QStringList{"many", "24 x 32"};
+    trigger("spr_resize");
+    QCOMPARE(canvas()->size(), QSize(24, 32));
+    const QPoint axis = canvas()->axis();
+    trigger("spr_saveimg");
+    QCOMPARE(sprites()->sprite(0)->axis(), axis);
+    QCOMPARE(sprites()->sprite(0)->size(), QSize(24, 32));
+    QCOMPARE(sprites()->sprite(1)->axis(), QPoint(8, 11));
+    trigger("undo");
+    trigger("undo");
+    QCOMPARE(canvas()->axis(), QPoint(8, 11));
+    m->dialogs.textAnswers = QStringList{"0 x 9"};
+    trigger("spr_resize");
+    QTRY_COMPARE(m->dialogs.count(QStringLiteral("warning")), 1);
+    QCOMPARE(canvas()->size(), QSize(16, 12));
+}
+
+void TestPainting::asksBeforeItDiscards_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::newRow("kept") << int(Zorv::Dialogs::No);
+    QTest::newRow("discarded") << int(Zorv::Dialogs::Yes);
+}
+
+void TestPainting::asksBeforeItDiscards()
+{
+    QFETCH(const int, answer);
+    openFirst();
+    stroke({1, 1}, {6, 6});
+    const QImage painted = layer();
+    m->dialogs.buttonAnswers = {Zorv::Dialogs::Button(answer)};
+    trigger("spr_next");
+    QCOMPARE(m->dialogs.texts(QStringLiteral("question")),
+             QStringList(
+                 QStringLiteral("Do you want to discard the changes made in the current sprite?")));
+    const bool isKept = answer == Zorv::Dialogs::No;
+    QCOMPARE(editor()->spriteIndex(), isKept ? 0 : 1);
+    QVERIFY(differences(layer(), isKept ? painted : picture(1)).isEmpty());
+    // A change that is taken back is none.
+    if (isKept) {
+        trigger("undo");
+        trigger("spr_next");
+        QCOMPARE(editor()->spriteIndex(), 1);
+    }
+    QCOMPARE(m->dialogs.count(), 1);
+    stroke({1, 1}, {6, 6});
+    m->dialogs.buttonAnswers = {Zorv::Dialogs::No};
+    QVERIFY(!m->window->close());
+    m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
+    QVERIFY(m->window->close());
+}
+
+void TestPainting::hearsKeysOnTheCanvasAlone()
+{
+    openFirst();
+    const auto tool = [this] { return editor()->renderer()->currentTool(); };
+    const auto type = [this](auto which) { return editor()->renderer()->tool(which); };
+    pressIn(widget(), Qt::Key_E);
+    QCOMPARE(tool(), type(Zorv::ImageTool::EraserTool));
+    pressIn(m->window->spritePanel()->list(), Qt::Key_B);
+    QCOMPARE(tool(), type(Zorv::ImageTool::EraserTool));
+    pressIn(widget(), Qt::Key_B);
+    QCOMPARE(tool(), type(Zorv::ImageTool::PenTool));
+    editor()->colors()->setForeground(2);
+    editor()->colors()->setBackground(1);
+    pressIn(widget(), Qt::Key_X);
+    pressIn(widget(), Qt::Key_BracketRight);
+    QCOMPARE(int(editor()->colors()->foreground()), 2);
+    QCOMPARE(int(editor()->colors()->background()), 2);
+    pressIn(widget(), Qt::Key_Plus);
+    pressIn(widget(), Qt::Key_Plus);
+    pressIn(widget(), Qt::Key_Minus);
+    QCOMPARE(tool()->brushWidth(), 2);
+    QVERIFY(differences(layer(), picture(0)).isEmpty());
+    QTest::mouseMove(widget(), at({4, 3}));
+    QTRY_COMPARE(m->window->status()->stageText(), QStringLiteral("4, 3: color 2, #20c020"));
+    QTest::keyPress(widget(), Qt::Key_Space);
+    const QPoint before = canvas()->position();
+    stroke({2, 2}, {5, 2});
+    QTest::keyRelease(widget(), Qt::Key_Space);
+    QVERIFY(canvas()->position().x() > before.x());
+    QVERIFY(differences(layer(), picture(0)).isEmpty());
+}
+
+/// What the list of layers does comes to one picture.
+void TestPainting::keepsLayersInLine()
+{
+    openFirst();
+    trigger("spr_layer_add");
+    auto* list = m->window->findChild<QAbstractItemView*>(QStringLiteral("spr_layers_list"));
+    QVERIFY(list && list->isVisible());
+    QCOMPARE(canvas()->layers()->count(), 2U);
+    QCOMPARE(list->currentIndex().row(), 0);
+    QVERIFY(!m->window->findChild<QWidget*>(QStringLiteral("spr_layers_blendmode"))->isEnabled());
+    editor()->colors()->setForeground(3);
+    pressIn(widget(), Qt::Key_B);
+    stroke({3, 3}, {8, 3});
+    const QImage above = layer();
+    list->setCurrentIndex(list->model()->index(1, 0));
+    QVERIFY(differences(layer(), picture(0)).isEmpty());
+    const QImage flat = canvas()->mergeLayers(nullptr);
+    for (const char* merge : {"spr_layer_mergevis", "spr_layer_mergeall"}) {
+        trigger(merge);
+        QCOMPARE(canvas()->layers()->count(), 1U);
+        QVERIFY(differences(layer(), flat).isEmpty());
+        trigger("undo");
+        QCOMPARE(canvas()->layers()->count(), 2U);
+    }
+    trigger("copy");
+    trigger("paste");
+    QCOMPARE(canvas()->layers()->count(), 3U);
+    list->model()->setData(list->model()->index(1, 0), Qt::Unchecked, Qt::CheckStateRole);
+    trigger("spr_saveimg");
+    QVERIFY(differences(sprites()->sprite(0)->image(), picture(0)).isEmpty());
+    QVERIFY(!differences(above, layer()).isEmpty());
+    QVERIFY(!editor()->isCanvasModified() && canvas()->layers()->count() == 3);
+}
+
+/// What others do to the sprite is seen on a canvas without changes, and leaves one with changes.
+void TestPainting::followsTheFile()
+{
+    openFirst();
+    sprites()->sprite(0)->setImage(picture(2));
+    QVERIFY(differences(layer(), picture(2)).isEmpty());
+    stroke({1, 1}, {6, 6});
+    const QImage painted = layer();
+    sprites()->undo();
+    QVERIFY(differences(layer(), painted).isEmpty());
+    trigger("undo");
+    stroke({1, 1}, {6, 6});
+    sprites()->move(0, 1);
+    QCOMPARE(editor()->spriteIndex(), 1);
+    sprites()->removeSprite(1);
+    QVERIFY(differences(layer(), painted).size() < painted.width() * painted.height());
+    QVERIFY(!m->action("spr_saveimg")->isEnabled());
+    editor()->saveImage();
+    QVERIFY(differences(sprites()->sprite(0)->image(), picture(1)).isEmpty());
+}
+
+/// A sprite without palette is painted in its own colours.
+void TestPainting::paintsInTrueColour()
+{
+    QImage image = picture(0).convertToFormat(QImage::Format_ARGB32);
+    sprites()->sprite(0)->setImage(image);
+    openFirst();
+    QCOMPARE(canvas()->format(), Zorv::ImageCanvas::RGBAFormat);
+    trigger("spr_layer_add");
+    auto* modes = m->window->findChild<QComboBox*>(QStringLiteral("spr_layers_blendmode"));
+    QVERIFY(modes->isEnabled());
+    QCOMPARE(modes->count(), 13);
+    QTest::keyClick(modes, Qt::Key_Down);
+    QTest::keyClick(modes, Qt::Key_Down);
+    QCOMPARE(canvas()->activeLayer()->blendMode(), QPainter::CompositionMode_Multiply);
+    trigger("undo");
+    trigger("undo");
+    QCOMPARE(modes->currentIndex(), 0);
+    pressIn(widget(), Qt::Key_B);
+    stroke({2, 2}, {2, 8});
+    QVERIFY(layer() != image);
+    trigger("spr_saveimg");
+    QCOMPARE(sprites()->sprite(0)->image().convertToFormat(QImage::Format_ARGB32),
+             canvas()->mergeLayers(nullptr));
+    QVERIFY(!sprites()->sprite(0)->palette());
+}
+
+void TestPainting::opensFromEverywhere()
+{
+    QVERIFY(m->window->openFile(m_game->path(SpritePath)));
+    QVERIFY(editor()->isActive());
+    QCOMPARE(editor()->spriteIndex(), 0);
+    auto* thumbnails = m->window->thumbnails()->panel()->list();
+    doubleClickRow(thumbnails, sprites()->index(1));
+    QCOMPARE(editor()->spriteIndex(), 1);
+    m->window->paint()->costumes()->parentWidget()->show();
+    emit m->window->paint()->costumes()->chosen(0);
+    QVERIFY(!editor()->isCanvasModified());
+    trigger("editor_anim");
+    QVERIFY(!editor()->isActive());
+    QCOMPARE(sprites()->undoTitle(), QString());
+}
+
+void TestPainting::publishesItsTools()
+{
+    const QStringList tools{"spr_tool_canvasmove",
+                            "spr_tool_selmove",
+                            "spr_tool_rectsel",
+                            "spr_tool_freesel",
+                            "spr_tool_picker",
+                            "spr_tool_pen",
+                            "spr_tool_eraser",
+                            "spr_tool_remap_pen",
+                            "spr_tool_paintbucket",
+                            "spr_layer_add",
+                            "spr_layer_delete",
+                            "spr_layer_duplicate",
+                            "spr_layer_mergevis",
+                            "spr_layer_mergeall",
+                            "spr_select_all",
+                            "spr_select_none",
+                            "spr_select_invert",
+                            "spr_image_rotate",
+                            "spr_image_fliph",
+                            "spr_image_flipv",
+                            "spr_crop",
+                            "spr_resize",
+                            "spr_view_original",
+                            "spr_prev",
+                            "spr_next"};
+    for (const QString& name : tools) {
+        QVERIFY2(!m->window->registry()->action(name)->isEnabled(), qPrintable(name));
+    }
+    openFirst();
+    for (int i = 0; i < tools.size(); ++i) {
+        QAction* action = m->window->registry()->action(tools.at(i));
+        QVERIFY2(action->isEnabled() && !action->icon().isNull(), qPrintable(tools.at(i)));
+        if (i <= Zorv::ImageTool::FloodFillTool) {
+            action->trigger();
+            QCOMPARE(editor()->renderer()->currentTool(),
+                     editor()->renderer()->tool(Zorv::ImageTool::Type(i)));
+        }
+    }
+    for (const char* name : {"spr_foreground", "spr_background", "spr_tool_options", "pal_view",
+                             "spr_layers_list", "spr_sel", "spr_sel_lb"}) {
+        const auto* found = m->window->findChild<QWidget*>(QLatin1String(name));
+        QVERIFY2(found && found->isVisible() && found->isEnabled(), name);
+    }
+}
+
+QTEST_MAIN(TestPainting)
+#include "tst_painting.moc"
