@@ -195,6 +195,9 @@ int PaletteWidgetPrivate::targetOf(int key) const
         const int slot = cursor + by;
         return slot >= 0 && slot < colorCount ? slot : cursor;
     };
+    if (colorCount == 0) {
+        return -1;
+    }
     switch (key) {
     case Qt::Key_Left:
         return step(-1);

@@ -352,6 +352,8 @@ void TestPaletteWidget::shortcutsWait()
     QVERIFY(!takes(Qt::Key_Escape) && !takes(Qt::Key_B) && !takes(Qt::Key_Home, Qt::MetaModifier));
     drag(&widget, 5, place(40));
     QVERIFY(takes(Qt::Key_Escape));
+    widget.setColorCount(0);
+    QVERIFY(!takes(Qt::Key_Home) && !takes(Qt::Key_Right) && !takes(Qt::Key_Space));
 }
 
 QTEST_MAIN(TestPaletteWidget)
