@@ -59,6 +59,7 @@ void RenderPlace::ensureWidget()
     m_widget->setObjectName(m_name);
     m_widget->setMinimumSize(SmallestSize);
     m_widget->setFocusPolicy(Qt::StrongFocus);
+    m_widget->resize(size());  // what it hears of first is its own size
     addWidget(m_widget);
     emit widgetMade();
 }
