@@ -60,6 +60,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 
 namespace App {
@@ -189,6 +190,17 @@ void MainWindow::arrangeTools()
     QDockWidget* costumes = addDock(m_paint->costumes(), "costumes", Qt::BottomDockWidgetArea);
     tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("messages")), costumes);
     costumes->hide();
+    // Panels that were hidden have no size to be changed until they are there.
+    auto* palette = findChild<QDockWidget*>(QStringLiteral("palette"));
+    connect(palette, &QDockWidget::visibilityChanged, this, [this, palette](bool isVisible) {
+        if (isVisible && !m_hasRoomForPalette) {
+            m_hasRoomForPalette = true;
+            QTimer::singleShot(0, this, [this, palette] {
+                resizeDocks({findChild<QDockWidget*>(QStringLiteral("layers")), palette},
+                            {RoomOfLayers, RoomOfPalette}, Qt::Vertical);
+            });
+        }
+    });
 }
 
 /// In the order in which the keyboard goes round, and in which sections of menus are filled.
@@ -252,11 +264,6 @@ void MainWindow::connectParts()
     connect(m_services.status, &StatusFields::problemsClicked, m_messagePanel,
             &MessagePanel::comeForward);
     connect(m_stage, &StageCommands::colourPicked, m_sprites->panel(), &SpritePanel::showColour);
-    connect(m_paint, &PaintCommands::shownFirst, this, [this] {
-        resizeDocks({findChild<QDockWidget*>(QStringLiteral("layers")),
-                     findChild<QDockWidget*>(QStringLiteral("palette"))},
-                    {RoomOfLayers, RoomOfPalette}, Qt::Vertical);
-    });
     connect(m_sprites->panel(), &SpritePanel::spriteActivated, m_paint,
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
     connect(m_thumbnails->panel(), &Zorv::ThumbnailsEditor::spriteActivated, m_paint,

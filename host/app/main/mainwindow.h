@@ -150,6 +150,7 @@ private:
     MessagePanel* m_messagePanel;
     CommandRouter* m_router;
     WindowCommands* m_commands;
+    bool m_hasRoomForPalette = false;
 };
 
 }  // namespace App

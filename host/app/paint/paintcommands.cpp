@@ -22,7 +22,6 @@
 #include <zorv/image/spriteworkspace.h>
 
 #include <QAction>
-#include <QTimer>
 
 namespace App {
 
@@ -122,7 +121,6 @@ void PaintCommands::fitFirst()
         return;
     }
     m_isFitted = true;
-    QTimer::singleShot(0, this, &PaintCommands::shownFirst);
     const int zoom = qMin(view.width() / size.width(), view.height() / size.height());
     m_editor->renderer()->canvas()->setZoomLevel(qBound(1, zoom, LargestFirstZoom));
 }

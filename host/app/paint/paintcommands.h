@@ -51,10 +51,6 @@ public:
     void reconfig() override;
     QVector<PanelPlace> places() override;
 
-signals:
-    /// The canvas and its panels are on the screen for the first time.
-    void shownFirst();
-
 private:
     void fitFirst();
     void swapColours();
