@@ -6553,6 +6553,14 @@ Zeile %2, Spalte %3.</translation>
         <source>Hidden layers stay on the canvas and are not saved into the sprite.</source>
         <translation>Verborgene Ebenen bleiben auf der Zeichenfläche und werden nicht ins Sprite gespeichert.</translation>
     </message>
+    <message>
+        <source>The sprite on the canvas is not in the file any more. Its picture can be copied.</source>
+        <translation>Das Sprite auf der Zeichenfläche ist nicht mehr in der Datei. Sein Bild kann kopiert werden.</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved into the sprite. Make room in memory, and save it again.</source>
+        <translation>Das Bild konnte nicht ins Sprite gespeichert werden. Bitte Platz im Speicher schaffen und noch einmal speichern.</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::SpriteList</name>

@@ -255,6 +255,7 @@ QString SpriteEditor::redoTitle() const
 
 void SpriteEditor::cut()
 {
+    d->endPreview();
     ImageClipboard::cut(d->canvas());
 }
 
@@ -265,6 +266,7 @@ void SpriteEditor::copy()
 
 void SpriteEditor::paste()
 {
+    d->endPreview();
     const QString name = d->freshName();
     if (ImageClipboard::paste(d->canvas())) {
         d->canvas()->activeLayer()->setName(name, false);
@@ -273,6 +275,7 @@ void SpriteEditor::paste()
 
 void SpriteEditor::clearSelected()
 {
+    d->endPreview();
     ImageClipboard::clear(d->canvas());
 }
 

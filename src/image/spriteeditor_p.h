@@ -56,8 +56,10 @@ public:
     void takeWaiting();
     void showFirst();
     enum Match { SameRecord, SameIdentifier };
-    Sprite* findShown(Match match) const;
+    int findShown(Match match) const;
     void spritesChanged(Match match);
+    void bind(int index);
+    void takeChange(const Sprite& now, bool isModified, bool holdsWork);
     void remember(Sprite* sprite, int index);
     bool mayDiscard() const;
     void show(int index);
@@ -68,6 +70,7 @@ public:
     void chooseFirstColors();
     void showPosition();
     Sprite* sprite() const;
+    void endPreview();
     QImage flattened();
 
     // spriteeditorlayers.cpp

@@ -42,6 +42,7 @@ void SpriteEditorPrivate::resize()
         }
         const QRegularExpressionMatch found = sides.match(*answer);
         if (found.hasMatch()) {
+            endPreview();
             canvas()->resize({found.captured(1).toInt(), found.captured(2).toInt()},
                              ImageResizeFilter::Nearest);
             return;
@@ -54,6 +55,7 @@ void SpriteEditorPrivate::resize()
 
 void SpriteEditorPrivate::crop()
 {
+    endPreview();
     canvas()->crop();
 }
 
@@ -65,6 +67,7 @@ void SpriteEditorPrivate::imgRotate()
     const int chosen = Dialogs::instance()->choose(
         SpriteEditor::tr("Rotate"), SpriteEditor::tr("Turn all layers by:"), choices, 0);
     if (chosen >= 0 && chosen < choices.size() && hasCanvas()) {
+        endPreview();
         canvas()->rotateAll(float(angles[chosen]), ImageResizeFilter::Nearest);
     }
 }

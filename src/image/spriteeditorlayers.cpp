@@ -134,6 +134,7 @@ void SpriteEditorPrivate::merge(const char* title, bool all)
     if ((all ? going + hidden : going).size() < 2) {
         return;
     }
+    endPreview();
     const ImageCanvas::Batch batch(canvas());
     history()->beginMacro(QString::fromLatin1(title));
     const auto showHidden = [&](bool isShown) {

@@ -131,40 +131,89 @@ void SpriteEditorPrivate::showFirst()
     }
 }
 
-/// The current row goes with its sprite. Where that is gone another one stands there, which the
-/// canvas must not be taken for.
-Sprite* SpriteEditorPrivate::findShown(Match match) const
+/// The current row goes with its sprite. One that was read anew, or that comes back, is looked for.
+int SpriteEditorPrivate::findShown(Match match) const
 {
-    Sprite* there = row >= 0 && sprites ? sprites->sprite(sprites->currentIndex) : nullptr;
-    const bool isSame =
-        there == shown || (match == SameIdentifier && there && identifierOf(*there) == identifier);
-    return isSame ? there : nullptr;
-}
-
-void SpriteEditorPrivate::spritesChanged(Match match)
-{
-    if (selGuard > 0) {
-        return;
+    if (match == SameRecord && row >= 0 && sprites->sprite(sprites->currentIndex) == shown) {
+        return sprites->currentIndex;
     }
-    Sprite* now = findShown(match);
-    remember(now, now ? sprites->currentIndex : -1);
-    const bool isModified = editor->isCanvasModified();
-    const QImage stored = now ? inForm(now->image()) : QImage();
-    const bool isSame = now && areSamePixels(stored, loaded) && now->axis() == loadedAxis;
-    if (!now && !isModified) {
-        clearCanvas();
-    } else if (now && !isSame && !isModified) {
-        load();
-    } else if (now && !isSame) {
-        loaded = stored;
-        loadedAxis = now->axis();
-        if (areSamePixels(stored, flattened()) && canvas()->axis() == loadedAxis) {
-            history()->setClean();
+    const auto isShown = [&](int index) {
+        const Sprite* there = sprites->sprite(index);
+        return there && (match == SameIdentifier || there == shown) &&
+               identifierOf(*there) == identifier;
+    };
+    if (!shown || isShown(row)) {
+        return shown ? row : -1;
+    }
+    for (int i = 0; i < int(sprites->count()); ++i) {
+        if (isShown(i)) {
+            return i;
         }
     }
+    return -1;
+}
+
+/// What is on the canvas alone stays there, whatever becomes of its sprite.
+void SpriteEditorPrivate::spritesChanged(Match match)
+{
+    if (selGuard > 0 || !sprites) {
+        return;
+    }
+    const bool isModified = editor->isCanvasModified();
+    const bool holdsWork = isModified || layers()->count() > 1;
+    const bool wasThere = row >= 0;
+    bind(findShown(match));
+    const Sprite* now = sprite();
+    if (!now && holdsWork) {
+        history()->resetClean();
+        if (wasThere) {
+            host->showStatus(PassingField,
+                             SpriteEditor::tr("The sprite on the canvas is not in the file any "
+                                              "more. Its picture can be copied."));
+        }
+    } else if (!now) {
+        remember(nullptr, -1);
+        clearCanvas();
+    } else {
+        takeChange(*now, isModified, holdsWork);
+    }
     showPosition();
-    if (editor->isActive() && !isModified) {
+    if (editor->isActive() && !holdsWork) {
         showFirst();
+    }
+}
+
+/// The row of the sprite on the canvas is the current one, which goes with it.
+void SpriteEditorPrivate::bind(int index)
+{
+    row = index;
+    if (index >= 0) {
+        const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
+        if (sprites->currentIndex != index) {
+            sprites->setCurrent(index);
+        }
+        remember(sprites->sprite(index), index);
+    }
+}
+
+/// What the sprite is now. A canvas that keeps other pixels differs from it from now on.
+void SpriteEditorPrivate::takeChange(const Sprite& now, bool isModified, bool holdsWork)
+{
+    const QImage stored = inForm(now.image());
+    const bool isSamePicture = areSamePixels(stored, loaded);
+    if (isSamePicture && now.axis() == loadedAxis) {
+        return;
+    }
+    if (isSamePicture && !isModified) {
+        loadedAxis = now.axis();
+        canvas()->setAxis(loadedAxis);
+    } else if (!holdsWork) {
+        load();
+    } else {
+        loaded = stored;
+        loadedAxis = now.axis();
+        const bool isStored = areSamePixels(stored, flattened()) && canvas()->axis() == loadedAxis;
+        isStored ? history()->setClean() : history()->resetClean();
     }
 }
 
@@ -313,12 +362,18 @@ void SpriteEditorPrivate::showPosition()
     updateEnabled();
 }
 
-/// In the sprite's own colours, whatever ones are looked at.
-QImage SpriteEditorPrivate::flattened()
+/// Colours that are only looked at decide no pixel.
+void SpriteEditorPrivate::endPreview()
 {
     if (isPreview) {
         loadColors();
     }
+}
+
+/// In the sprite's own colours, whatever ones are looked at.
+QImage SpriteEditorPrivate::flattened()
+{
+    endPreview();
     return canvas()->mergeLayers(nullptr);
 }
 
@@ -330,6 +385,7 @@ void SpriteEditorPrivate::saveImg()
         return;
     }
     const QImage picture = flattened();
+    const QImage before = loaded;
     {
         const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
         sprites->beginChange(SpriteEditor::tr("Save image changes"));
@@ -340,6 +396,12 @@ void SpriteEditorPrivate::saveImg()
     now = sprite();
     loaded = now ? inForm(now->image()) : QImage();
     loadedAxis = now ? now->axis() : QPoint();
+    const bool isRefused = !areSamePixels(before, inForm(picture)) && areSamePixels(before, loaded);
+    if (picture.isNull() || isRefused) {
+        tellRefusal(SpriteEditor::tr("The picture could not be saved into the sprite. Make room in "
+                                     "memory, and save it again."));
+        return;
+    }
     history()->setClean();
     bool isHidden = false;
     for (unsigned i = 0; i < layers()->count(); ++i) {
@@ -368,10 +430,10 @@ void SpriteEditor::setImage(const QImage& image, const QString& name)
             d->colors->setForeground(d->colors->foreground());
             d->colors->setBackground(d->colors->background());
         }
-        canvas->setSize(image.size(), {ImageCanvas::Centered, 0}, true);
+        const bool hasRoom = canvas->setSize(image.size(), {ImageCanvas::Centered, 0}, true);
         auto* layer = new RasterLayer(canvas, image);
         layer->setName(name, false);
-        if (canvas->layers()->add(layer, true)) {
+        if (hasRoom && canvas->layers()->add(layer, true)) {
             d->renderer->setActiveLayer(layer);
         } else {
             layer->release();

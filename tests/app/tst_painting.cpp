@@ -74,6 +74,9 @@ private slots:
     void hearsKeysOnTheCanvasAlone();
     void keepsLayersInLine();
     void followsTheFile();
+    void keepsItsWork();
+    void outlivesAReload();
+    void decidesNoPixelByAPreview();
     void paintsInTrueColour();
     void opensFromEverywhere();
     void publishesItsTools();
@@ -317,6 +320,54 @@ void TestPainting::followsTheFile()
     QVERIFY(!m->action("spr_saveimg")->isEnabled());
     editor()->saveImage();
     QVERIFY(differences(sprites()->sprite(0)->image(), picture(1)).isEmpty());
+    sprites()->undo();
+    QCOMPARE(editor()->spriteIndex(), 1);
+    trigger("spr_saveimg");
+    QVERIFY(differences(sprites()->sprite(1)->image(), painted).isEmpty());
+}
+
+/// What is on the canvas alone is not given up for what becomes of the file.
+void TestPainting::keepsItsWork()
+{
+    openFirst();
+    stroke({1, 1}, {6, 6});
+    trigger("spr_saveimg");
+    stroke({1, 9}, {6, 9});
+    sprites()->undo();
+    trigger("undo");
+    QVERIFY(editor()->isCanvasModified());
+    trigger("spr_saveimg");
+    trigger("spr_layer_add");
+    trigger("spr_saveimg");
+    sprites()->sprite(0)->setImage(picture(2));
+    QCOMPARE(canvas()->layers()->count(), 2U);
+    QVERIFY(editor()->isCanvasModified());
+}
+
+/// A file that is read anew has its sprites at the same or at other places.
+void TestPainting::outlivesAReload()
+{
+    openFirst();
+    trigger("spr_next");
+    stroke({1, 1}, {6, 6});
+    const QImage painted = layer();
+    QVERIFY(static_cast<Family::SpriteFile*>(sprites())->reload());
+    QCOMPARE(editor()->spriteIndex(), 1);
+    QVERIFY(differences(layer(), painted).isEmpty());
+    trigger("spr_saveimg");
+    QVERIFY(differences(sprites()->sprite(1)->image(), painted).isEmpty());
+    QVERIFY(differences(sprites()->sprite(0)->image(), picture(0)).isEmpty());
+}
+
+void TestPainting::decidesNoPixelByAPreview()
+{
+    openFirst();
+    const QSize size = canvas()->size();
+    const QVector<QRgb> clear(256, 0);
+    editor()->previewColors(&clear);
+    trigger("spr_crop");
+    QCOMPARE(canvas()->size(), size);
+    QCOMPARE(editor()->colors()->color(1), Colours.at(1));
 }
 
 /// A sprite without palette is painted in its own colours.

@@ -16,6 +16,7 @@
 #include <zorv/cache/palettes.h>
 #include <zorv/editors/palette/colorpalette.h>
 #include <zorv/image/canvas/imagecanvas.h>
+#include <zorv/image/canvas/imagelayers.h>
 #include <zorv/image/imagerenderer.h>
 #include <zorv/image/palettepreviews.h>
 #include <zorv/image/spriteeditor.h>
@@ -140,16 +141,16 @@ void PaintCommands::comeForward()
 CommandRows PaintCommands::commands() const
 {
     SpriteEditor* editor = m_editor;
-    const auto hasSprite = [editor] { return editor->spriteIndex() >= 0; };
+    const auto hasCanvas = [editor] { return editor->renderer()->canvas()->layers()->count() > 0; };
     return {{Command::Undo, [editor] { editor->undo(); }, [editor] { return editor->canUndo(); },
              [editor] { return editor->undoTitle(); }},
             {Command::Redo, [editor] { editor->redo(); }, [editor] { return editor->canRedo(); },
              [editor] { return editor->redoTitle(); }},
-            {Command::Cut, [editor] { editor->cut(); }, hasSprite},
-            {Command::Copy, [editor] { editor->copy(); }, hasSprite},
-            {Command::Paste, [editor] { editor->paste(); }, hasSprite},
-            {Command::Delete, [editor] { editor->clearSelected(); }, hasSprite},
-            {Command::SelectAll, [editor] { editor->selectAll(); }, hasSprite},
+            {Command::Cut, [editor] { editor->cut(); }, hasCanvas},
+            {Command::Copy, [editor] { editor->copy(); }, hasCanvas},
+            {Command::Paste, [editor] { editor->paste(); }, hasCanvas},
+            {Command::Delete, [editor] { editor->clearSelected(); }, hasCanvas},
+            {Command::SelectAll, [editor] { editor->selectAll(); }, hasCanvas},
             {Command::Save, [this] { const_cast<PaintCommands*>(this)->save(); },
              [this] { return canSave(); }}};
 }
