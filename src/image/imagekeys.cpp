@@ -1,4 +1,5 @@
 #include "image/imagerenderer_p.h"
+#include "image/tools/arrowstep_p.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,22 +7,6 @@
 namespace Zorv {
 
 namespace {
-
-QPoint arrow(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
-}
 
 QPoint within(const QPoint& pixel, const QSize& size)
 {
@@ -92,7 +77,7 @@ void ImageRendererPrivate::hideCell()
 
 void ImageRendererPrivate::moveCell(int key, Qt::KeyboardModifiers modifiers)
 {
-    const QPoint step = arrow(key);
+    const QPoint step = arrowStep(key);
     const bool isMouseDown = pressed && !isCellDragged;
     if (step.isNull() || canvas.size().isEmpty() || isMouseDown) {
         return;

@@ -2,6 +2,7 @@
 
 #include "image/canvas/imagecanvas.h"
 #include "image/canvas/imagelayer.h"
+#include "image/tools/arrowstep_p.h"
 #include "image/tools/movedpiece_p.h"
 
 #include <QCursor>
@@ -16,22 +17,6 @@ namespace {
 
 // Steps by arrows become one by this number.
 const int ArrowSteps = 0x5E1;
-
-QPoint stepOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
-}
 
 }  // namespace
 
@@ -56,7 +41,7 @@ void SelMoveTool::activeLayerChanged()
 
 bool SelMoveTool::keyPressed(Qt::KeyboardModifiers, int key)
 {
-    const QPoint step = stepOf(key);
+    const QPoint step = arrowStep(key);
     if (step.isNull() || !paintedLayer()) {
         return false;
     }
