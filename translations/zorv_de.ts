@@ -4089,11 +4089,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
-    <name>ItemsDlg</name>
-    <message>
-        <source>Items</source>
-        <translation>Einträge</translation>
-    </message>
+    <name>ItemPicker</name>
     <message>
         <source>Select all</source>
         <translation>Alles auswählen</translation>
@@ -4105,6 +4101,13 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Invert selection</source>
         <translation>Auswahl umkehren</translation>
+    </message>
+</context>
+<context>
+    <name>ItemsDlg</name>
+    <message>
+        <source>Items</source>
+        <translation>Einträge</translation>
     </message>
 </context>
 <context>
@@ -4806,6 +4809,40 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>
             <numerusform>und %n weitere</numerusform>
             <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PalDlg</name>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Image&apos;s palette, if not already added</source>
+        <translation>Palette des Bildes; sie kommt hinzu, wenn sie fehlt</translation>
+    </message>
+    <message>
+        <source>Force the specified palette (adapt the image)</source>
+        <translation>Die gewählte Palette; das Bild wird ihr angepasst</translation>
+    </message>
+    <message>
+        <source>Exchange with the specified palette</source>
+        <translation>Die gewählte Palette nimmt die Farben des Bildes an</translation>
+    </message>
+    <message>
+        <source>Select the palette in the list.</source>
+        <translation>Bitte die Palette in der Liste wählen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) will show the colors of the image.</source>
+        <translation>
+            <numerusform>%n Sprite zeigt dann die Farben des Bildes.</numerusform>
+            <numerusform>%n Sprites zeigen dann die Farben des Bildes.</numerusform>
         </translation>
     </message>
 </context>

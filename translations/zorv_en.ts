@@ -255,6 +255,16 @@
     </message>
 </context>
 <context>
+    <name>PalDlg</name>
+    <message numerus="yes">
+        <source>%n sprite(s) will show the colors of the image.</source>
+        <translation>
+            <numerusform>%n sprite will show the colors of the image.</numerusform>
+            <numerusform>%n sprites will show the colors of the image.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Zorv::AnimationEditor</name>
     <message numerus="yes">
         <source>and %n more</source>

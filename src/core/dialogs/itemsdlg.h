@@ -2,8 +2,8 @@
 
 #include "core/dialogs/itemsdialog.h"
 
+class ItemPicker;
 class QAbstractItemModel;
-class QListView;
 
 /// The library's own picking dialog: a list with buttons that select all rows,
 /// select none, and invert the selection.
@@ -20,11 +20,6 @@ public:
     bool hasSelection() const override;
     void release() override;
 
-private slots:
-    void on_selectAllButton_clicked();
-    void on_clearButton_clicked();
-    void on_invertButton_clicked();
-
 private:
-    QListView* m_list;
+    ItemPicker* m_picker;
 };
