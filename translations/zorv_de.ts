@@ -1956,12 +1956,12 @@
         <translation>Den Mauszeiger, mit dem Rad</translation>
     </message>
     <message>
-        <source>Ask before animations and frames are de&amp;leted</source>
-        <translation>Fragen, bevor Animationen und Einzelbilder ge&amp;löscht werden</translation>
-    </message>
-    <message>
         <source>Undo brings them back as well</source>
         <translation>Rückgängig bringt sie auch wieder</translation>
+    </message>
+    <message>
+        <source>Ask before animations, frames and sprites are de&amp;leted</source>
+        <translation>Fragen, bevor Animationen, Einzelbilder und Sprites ge&amp;löscht werden</translation>
     </message>
 </context>
 <context>
@@ -6597,6 +6597,14 @@ Zeile %2, Spalte %3.</translation>
     <message>
         <source>The picture could not be saved into the sprite. Make room in memory, and save it again.</source>
         <translation>Das Bild konnte nicht ins Sprite gespeichert werden. Bitte Platz im Speicher schaffen und noch einmal speichern.</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the sprite?</source>
+        <translation>Soll das Sprite wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>The changes on the canvas that are not saved go with it.</source>
+        <translation>Die nicht gespeicherten Änderungen auf der Zeichenfläche gehen mit verloren.</translation>
     </message>
 </context>
 <context>

@@ -38,6 +38,8 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("backup_onload"), false},
         {QStringLiteral("confirm_delete"), true},
         {QStringLiteral("show_organizer"), true},
+        {QStringLiteral("switch_frame_spr"), false},
+        {QStringLiteral("switch_to_imgpal"), true},
         {QStringLiteral("show_code_bar"), true},
         {QStringLiteral("auto_expand_tree"), false},
         {QStringLiteral("code_line_numbers"), true},

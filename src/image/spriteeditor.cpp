@@ -96,6 +96,8 @@ void SpriteEditorPrivate::historyChanged()
 void SpriteEditorPrivate::updateEnabled()
 {
     const bool isThere = hasCanvas();
+    emit fileEnabled(sprites);
+    emit spriteEnabled(sprite());
     emit enabled(isThere);
     emit enabled2(isThere && canvas()->activeLayer() &&
                   canvas()->format() == ImageCanvas::RGBAFormat);
@@ -150,12 +152,14 @@ void SpriteEditor::activate()
     FileEditor::activate();
     d->takeWaiting();
     d->showFirst();
+    d->lendList(true);
 }
 
 void SpriteEditor::deactivate()
 {
     d->canvas()->endStroke();
     d->hidePlace();
+    d->lendList(false);
     FileEditor::deactivate();
     d->takeWaiting();
 }
@@ -348,6 +352,16 @@ bool SpriteEditor::showSprite(Sprites* sprites, int index)
         d->take(wanted);
     }
     d->show(index);
+    return true;
+}
+
+void SpriteEditor::followFrame(const Sprite* sprite)
+{
+    d->followFrame(sprite);
+}
+
+bool SpriteEditor::mayDeleteSprite()
+{
     return true;
 }
 

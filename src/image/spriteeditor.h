@@ -23,9 +23,12 @@ class SpriteWorkspace;
 /// and the axis of the canvas into the sprite, as one step of undo of its file; its palette stays.
 /// Until then the file knows of nothing, and whatever shows another sprite asks the person first.
 /// If the sprite is changed elsewhere, a canvas without changes follows, and one with changes
-/// stays as it is.
+/// stays as it is. What is done to the stored sprite takes the canvas in first.
 ///
-/// It publishes the tools "spr_..." and the grid "pal_view", in the area "sprites".
+/// While it is in front the organizer of the host, its side panel 0, shows the sprites.
+///
+/// It publishes the tools "spr_..." and the grid "pal_view", in the area "sprites"; those that are
+/// of use beside the stage in "animations", too.
 /// Main thread only.
 class ZORV_EXPORT SpriteEditor : public FileEditor
 {
@@ -124,6 +127,10 @@ public:
     /// is there; true for the sprite that is there already. The editor is not brought forward.
     bool showSprite(Sprites* sprites, int index);
 
+    /// The frame in work shows this sprite; null for none. With "spr_frame_spr" it comes onto the
+    /// canvas, once for each other sprite that is told, unless the canvas has changes.
+    void followFrame(const Sprite* sprite);
+
     /// Puts an image on the canvas, as its only layer, and forgets the history.
     void setImage(const QImage& image, const QString& name);
 
@@ -144,6 +151,11 @@ public slots:
 signals:
     /// Another sprite is on the canvas, or none, or its pixels were read anew.
     void spriteShown();
+
+protected:
+    /// Asked before the sprite in work is deleted, behind the question of "confirm_delete". False
+    /// keeps it: for a host that knows who names it. Here true.
+    virtual bool mayDeleteSprite();
 
 private:
     friend class SpriteEditorPrivate;

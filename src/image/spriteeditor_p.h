@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cache/spritenumber.h"
 #include "editors/palette/colorpalette.h"
 #include "editors/palette/palettewidget.h"
 #include "image/imagerenderer.h"
@@ -10,6 +11,8 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QVariant>
+
+#include <functional>
 
 class QAbstractItemView;
 class QAction;
@@ -23,6 +26,7 @@ class ImageLayer;
 class ImageLayers;
 class ImageUndoStack;
 class Interface;
+class OrganizerEditor;
 
 /// The state of a `SpriteEditor`, and the slots of its tools, which the host finds by name.
 class SpriteEditorPrivate : public QObject
@@ -73,6 +77,18 @@ public:
     void endPreview();
     QImage flattened();
 
+    // spriteeditoractions.cpp
+    bool isOn(const char* name) const;
+    void restoreSwitches();
+    void followPalette();
+    void followFrame(const Sprite* sprite);
+    std::function<bool()> stillThere() const;
+    bool mayDelete() const;
+    void changeStored(const QString& title, int nextRow, const std::function<void()>& change);
+    OrganizerEditor* organizer() const;
+    void selectInList();
+    void lendList(bool isLent);
+
     // spriteeditorlayers.cpp
     void connectLayers();
     void followActiveLayer();
@@ -106,7 +122,8 @@ public:
     QPoint loadedAxis;
     bool isPreview = false;  // the grid has colours that are not the sprite's
     bool hasToldHidden = false;
-    int selGuard = 0;  // the code itself changes the position
+    int selGuard = 0;       // the code itself changes the position
+    SpriteNumber followed;  // of the frame that was told last
 
     QHash<QString, QPointer<QAction>> actions;
     QHash<QString, QPointer<QWidget>> widgets;
@@ -115,6 +132,11 @@ public:
     std::unique_ptr<QMenu> layerMenu;
 
 public slots:
+    void del();
+    void duplicate();
+    void splitRGB();
+    void switchPalChanged(bool isOn);
+    void frameSpr(bool isOn);
     void saveImg();
     void resize();
     void crop();
@@ -139,6 +161,10 @@ public slots:
     void layerChosen(const QModelIndex& index);
 
 signals:
+    /// There are sprites; and one of them is in work.
+    void fileEnabled(bool isEnabled);
+    void spriteEnabled(bool isEnabled);
+
     /// There is a canvas; and layers of it are mixed; and there are changes to save.
     void enabled(bool isEnabled);
     void enabled2(bool isEnabled);

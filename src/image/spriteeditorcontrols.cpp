@@ -21,7 +21,8 @@ namespace Zorv {
 
 namespace {
 
-const char* const areas[] = {"sprites", nullptr};
+const char* const spriteAreas[] = {"sprites", nullptr};
+const char* const stageAreas[] = {"sprites", "animations", nullptr};
 
 enum Kind { Action, CheckAction, MenuAction, Slider, Label, Combo, List };
 
@@ -33,6 +34,8 @@ const char* const always = nullptr;
 const char* const onCanvas = SIGNAL(enabled(bool));
 const char* const onMixed = SIGNAL(enabled2(bool));
 const char* const onChange = SIGNAL(saveEnabled(bool));
+const char* const onFile = SIGNAL(fileEnabled(bool));
+const char* const onSprite = SIGNAL(spriteEnabled(bool));
 
 struct Tool
 {
@@ -42,32 +45,38 @@ struct Tool
     const char* enableSignal;
     const char* slot;
     const char* setSignal;
+    const char* const* areas = spriteAreas;
 };
 
 // clang-format off
 const Tool table[] = {
-    {"spr_saveimg",           Action,      125, onChange, SLOT(saveImg()),           nullptr},
-    {"spr_crop",              Action,      127, onCanvas,  SLOT(crop()),              nullptr},
+    {"spr_delete",            Action,      123, onSprite,  SLOT(del()),               nullptr},
+    {"spr_duplicate",         Action,      128, onSprite,  SLOT(duplicate()),         nullptr},
+    {"spr_saveimg",           Action,      125, onChange,  SLOT(saveImg()),           nullptr},
     {"spr_resize",            Action,      134, onCanvas,  SLOT(resize()),            nullptr},
-    {"spr_image_rotate",      Action,      136, onCanvas,  SLOT(imgRotate()),         nullptr},
-    {"spr_image_fliph",       Action,      137, onCanvas,  SLOT(imgFlipH()),          nullptr},
-    {"spr_image_flipv",       Action,      138, onCanvas,  SLOT(imgFlipV()),          nullptr},
+    {"spr_crop",              Action,      127, onCanvas,  SLOT(crop()),              nullptr},
+    {"spr_split_channels",    Action,      139, onSprite,  SLOT(splitRGB()),          nullptr},
+    {"spr_layer_add",         Action,      118, onCanvas,  SLOT(layerAdd()),          nullptr},
+    {"spr_layer_delete",      Action,      119, onCanvas,  SLOT(layerDel()),          nullptr},
+    {"spr_layer_duplicate",   Action,      120, onCanvas,  SLOT(layerClone()),        nullptr},
+    {"spr_layer_mergevis",    MenuAction,  121, onCanvas,  SLOT(layerMergeVis()),     nullptr},
+    {"spr_layer_mergeall",    MenuAction,  122, onCanvas,  SLOT(layerMergeAll()),     nullptr},
+    {"spr_view_original",     CheckAction, 131, onCanvas,  SLOT(imgViewOrig(bool)),   nullptr},
     {"spr_select_all",        Action,      141, onCanvas,  SLOT(selAll()),            nullptr},
     {"spr_select_none",       Action,      142, onCanvas,  SLOT(selNone()),           nullptr},
     {"spr_select_invert",     Action,      143, onCanvas,  SLOT(selInv()),            nullptr},
-    {"spr_view_original",     CheckAction, 131, onCanvas,  SLOT(imgViewOrig(bool)),   nullptr},
-    {"spr_prev",              Action,       93, always,  SLOT(previous()),          nullptr},
-    {"spr_sel",               Slider, SpriteTexts::Sprite, always, SLOT(selPosChanged(int)), SIGNAL(setSelPos(int))},
-    {"spr_sel_lb",            Label,    NoText, always,  nullptr,                   SIGNAL(setPosText(QString))},
-    {"spr_next",              Action,       94, always,  SLOT(next()),              nullptr},
-    {"spr_layer_add",         Action,      118, onCanvas,  SLOT(layerAdd()),          nullptr},
-    {"spr_layer_duplicate",   Action,      120, onCanvas,  SLOT(layerClone()),        nullptr},
-    {"spr_layer_delete",      Action,      119, onCanvas,  SLOT(layerDel()),          nullptr},
-    {"spr_layer_mergevis",    MenuAction,  121, onCanvas,  SLOT(layerMergeVis()),     nullptr},
-    {"spr_layer_mergeall",    MenuAction,  122, onCanvas,  SLOT(layerMergeAll()),     nullptr},
-    {"spr_layers_list",       List,     NoText, onCanvas,  SLOT(layerChosen(QModelIndex)), nullptr},
+    {"spr_image_rotate",      Action,      136, onCanvas,  SLOT(imgRotate()),         nullptr},
+    {"spr_image_fliph",       Action,      137, onCanvas,  SLOT(imgFlipH()),          nullptr},
+    {"spr_image_flipv",       Action,      138, onCanvas,  SLOT(imgFlipV()),          nullptr},
+    {"spr_frame_spr",         CheckAction, 130, always,    SLOT(frameSpr(bool)),      nullptr, stageAreas},
     {"spr_layers_blendmode",  Combo, SpriteTexts::BlendMode, onMixed, SLOT(layerBlending(int)), SIGNAL(setLayerBlending(int))},
     {"spr_layers_opacity",    Slider, SpriteTexts::Opacity, onMixed, SLOT(layerOpacity(int)), SIGNAL(setLayerOpacity(int))},
+    {"spr_layers_list",       List,     NoText, onCanvas,  SLOT(layerChosen(QModelIndex)), nullptr},
+    {"spr_sel",               Slider, SpriteTexts::Sprite, always, SLOT(selPosChanged(int)), SIGNAL(setSelPos(int))},
+    {"spr_sel_lb",            Label,    NoText, always,    nullptr,                   SIGNAL(setPosText(QString))},
+    {"spr_switch_pal",        CheckAction, 144, always,    SLOT(switchPalChanged(bool)), nullptr},
+    {"spr_prev",              Action,       93, always,    SLOT(previous()),          nullptr},
+    {"spr_next",              Action,       94, always,    SLOT(next()),              nullptr},
 };
 
 /// In the order of `ImageTool::Type`.
@@ -98,28 +107,28 @@ QObject* publishWidget(Interface* host, const Tool& tool, QObject* receiver)
     if (tool.kind == List) {
         WidgetControl control(WidgetControl::ListView, ListRows, receiver, tool.slot,
                               tool.setSignal, tool.enableSignal, WidgetControl::SingleClick);
-        control.setAreas(areas);
+        control.setAreas(spriteAreas);
         return host->addControl(name, control);
     }
     if (tool.kind == Label) {
         WidgetControl control(WidgetControl::Label, 0, receiver, tool.slot, tool.setSignal,
                               tool.enableSignal);
-        control.setAreas(areas);
+        control.setAreas(spriteAreas);
         return host->addControl(name, control);
     }
     trWidgetControl control(tool.kind == Slider ? WidgetControl::Slider : WidgetControl::ComboBox,
                             0, SpriteTexts::of(tool.textId), tool.textId, receiver, tool.slot,
                             tool.setSignal, tool.enableSignal);
-    control.setAreas(areas);
+    control.setAreas(spriteAreas);
     return host->addControl(name, control);
 }
 
 /// The action of a host; one of our own where the host has no window, for what is kept in it.
-QAction* makeAction(Interface* host, const char* name, unsigned textId, QObject* receiver,
-                    const char* slot, const char* enableSignal, bool* isHosts)
+QAction* makeAction(Interface* host, const Tool& tool, QObject* receiver, bool* isHosts)
 {
-    QAction* made = host->createAction(areas, QString::fromLatin1(name), SpriteTexts::of(textId),
-                                       textId, nullptr, receiver, slot, enableSignal, nullptr);
+    QAction* made =
+        host->createAction(tool.areas, QString::fromLatin1(tool.name), SpriteTexts::of(tool.textId),
+                           tool.textId, nullptr, receiver, tool.slot, tool.enableSignal, nullptr);
     *isHosts = made;
     return made ? made : new QAction(receiver);
 }
@@ -127,7 +136,7 @@ QAction* makeAction(Interface* host, const char* name, unsigned textId, QObject*
 void publishOwn(Interface* host, const char* name, QWidget* widget, QObject* receiver)
 {
     OwnWidgetControl control(widget, receiver, onCanvas);
-    control.setAreas(areas);
+    control.setAreas(spriteAreas);
     host->addControl(QString::fromLatin1(name), control);
 }
 
@@ -142,8 +151,7 @@ void SpriteEditorPrivate::publish()
             continue;
         }
         bool isHosts = false;
-        QAction* made =
-            makeAction(host, tool.name, tool.textId, this, tool.slot, tool.enableSignal, &isHosts);
+        QAction* made = makeAction(host, tool, this, &isHosts);
         made->setCheckable(tool.kind == CheckAction);
         actions.insert(name, made);
         if (isHosts && tool.kind != MenuAction) {
@@ -151,6 +159,7 @@ void SpriteEditorPrivate::publish()
         }
     }
     imgViewOrig(false);
+    restoreSwitches();
     publishTools();
     publishLayers();
     publishOwn(host, "spr_foreground", colors->foregroundWidget(), this);
@@ -168,7 +177,9 @@ void SpriteEditorPrivate::publishTools()
     int type = 0;
     for (const auto& tool : toolTable) {
         bool isHosts = false;
-        QAction* made = makeAction(host, tool.name, tool.textId, this, nullptr, onCanvas, &isHosts);
+        QAction* made =
+            makeAction(host, {tool.name, CheckAction, tool.textId, onCanvas, nullptr, nullptr},
+                       this, &isHosts);
         made->setCheckable(true);
         made->setData(type++);
         tools->addAction(made);

@@ -111,7 +111,8 @@ void SpriteEditorPrivate::take(Sprites* now)
         editorAction->setEnabled(now);
     }
     showPosition();
-    if (now && editor->isActive()) {
+    if (editor->isActive()) {
+        lendList(true);
         showFirst();
     }
 }
@@ -274,9 +275,11 @@ void SpriteEditorPrivate::show(int index)
     remember(now, now ? index : -1);
     if (now) {
         load();
+        followPalette();
     } else {
         clearCanvas();
     }
+    selectInList();
     showPosition();
 }
 

@@ -21,7 +21,7 @@ const QVector<MenuRow>& menuTable()
         {"anim", QT_TRANSLATE_NOOP("App::Menus", "&Animation"), "list play parts order"},
         {"frame", QT_TRANSLATE_NOOP("App::Menus", "&Frame"), "all", "anim.parts"},
         {"boxes", QT_TRANSLATE_NOOP("App::Menus", "Contact &boxes"), "all", "anim.parts"},
-        {"spr", QT_TRANSLATE_NOOP("App::Menus", "Sp&rites"), "files image+ parts list"},
+        {"spr", QT_TRANSLATE_NOOP("App::Menus", "Sp&rites"), "files image+ parts list follow"},
         {"paint", QT_TRANSLATE_NOOP("App::Menus", "&Painting"), "tools colours all", "spr.parts"},
         {"layers", QT_TRANSLATE_NOOP("App::Menus", "&Layers"), "all", "spr.parts"},
         {"select", QT_TRANSLATE_NOOP("App::Menus", "Sele&ction"), "all", "spr.parts"},

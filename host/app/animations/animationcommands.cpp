@@ -10,6 +10,7 @@
 #include "operations/animationedits.h"
 #include "operations/check/uses.h"
 
+#include <zorv/cache/sprites.h>
 #include <zorv/editors/organizer/organizereditor.h>
 
 #include <QAbstractItemView>
@@ -55,12 +56,32 @@ QVector<PanelPlace> AnimationCommands::places()
 void AnimationCommands::showDocument(Family::FamilyDocument* document)
 {
     m_document = document;
-    m_organizer->setObject(document ? document->animations() : nullptr);
+    showAnimations();
+}
+
+/// The editor of sprites borrows the organizer, and leaves it empty.
+void AnimationCommands::updateState()
+{
+    if (!m_organizer->object()) {
+        showAnimations();
+    }
+}
+
+void AnimationCommands::showAnimations()
+{
+    if (!qobject_cast<Zorv::Sprites*>(m_organizer->object())) {
+        m_organizer->setObject(m_document ? m_document->animations() : nullptr);
+    }
+}
+
+bool AnimationCommands::hasList() const
+{
+    return m_document && m_organizer->object() == m_document->animations();
 }
 
 void AnimationCommands::followCursor(int line)
 {
-    if (!m_document || m_document->isCodeBeingChanged()) {
+    if (!hasList() || m_document->isCodeBeingChanged()) {
         return;
     }
     const AnimationNode* animation = m_document->animations()->animationAt(line);
@@ -72,14 +93,14 @@ void AnimationCommands::followCursor(int line)
 
 bool AnimationCommands::hasCurrent() const
 {
-    return m_document && m_organizer->currentRow() >= 0;
+    return hasList() && m_organizer->currentRow() >= 0;
 }
 
 void AnimationCommands::removeSelected()
 {
     const auto removal = [this] {
-        return m_document ? Operations::removalOf(*m_document, m_organizer->selectedRows())
-                          : Operations::Removal();
+        return hasList() ? Operations::removalOf(*m_document, m_organizer->selectedRows())
+                         : Operations::Removal();
     };
     if (removal().names.isEmpty() || !m_services.mayRemove(removal)) {
         return;
@@ -92,7 +113,7 @@ void AnimationCommands::removeSelected()
 void AnimationCommands::requestRow(int row)
 {
     if (const AnimationNode* animation =
-            m_document ? m_document->animations()->animation(row) : nullptr) {
+            hasList() ? m_document->animations()->animation(row) : nullptr) {
         m_services.jumps->showPlace(m_document, animation->firstLine(), 0, 0);
     }
 }

@@ -16,7 +16,8 @@ namespace App {
 struct WindowServices;
 
 /// What can be done with the animations of the text in front, in the organizer: it shows
-/// them, follows the cursor of the text, and leads to it. All of it edits the text.
+/// them, follows the cursor of the text, and leads to it. All of it edits the text. While the
+/// organizer is lent to the editor of sprites, nothing can be done.
 class AnimationCommands : public QObject, public Part
 {
     Q_OBJECT
@@ -31,7 +32,11 @@ public:
     /// The list of the organizer; null if the host has made none.
     QAbstractItemView* list() const;
 
+    /// True while the organizer shows animations.
+    bool hasList() const;
+
     void showDocument(Family::FamilyDocument* document) override;
+    void updateState() override;
 
     /// The animation of that line becomes the current row.
     void followCursor(int line) override;
@@ -41,6 +46,7 @@ public:
     void removeSelected();
 
 private:
+    void showAnimations();
     bool hasCurrent() const;
     void requestRow(int row);
 

@@ -119,7 +119,7 @@ struct ControlBars::Bar
     QVBoxLayout* layout = nullptr;           // of the panel
     ControlForm* form = nullptr;             // of one with rows, in place of the bar
     QMap<const QAction*, int> lines = {};    // between the tools, by their place in the order
-    bool wasInFront = false;                 // a panel, when it was hidden last
+    bool wasInFront = false;                 // a panel, when it was hidden last; or comes first
 
     QWidget* host() const
     {
@@ -247,6 +247,7 @@ ControlBars::Bar* ControlBars::makeBar(const QString& name, bool isPanel)
     Bar* made = d->bars.back().get();
     made->name = name;
     made->row = rowOf(name);
+    made->wasInFront = made->row && made->row->only;
     if (made->isPage()) {
         makePage(made);
     } else if (isPanel || (made->row && made->row->kind == BarRow::Panel)) {

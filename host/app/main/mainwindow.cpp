@@ -184,6 +184,8 @@ void MainWindow::arrangeTools()
     auto* nodes = findChild<QDockWidget*>(QStringLiteral("nodes"));
     tabifyDockWidget(nodes, findChild<QDockWidget*>(QStringLiteral("frame")));
     m_controls->bringForward("frame");
+    tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("organizer")),
+                     findChild<QDockWidget*>(QStringLiteral("layers")));
     tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("sounds")),
                      findChild<QDockWidget*>(QStringLiteral("thumbnails")));
     findChild<QDockWidget*>(QStringLiteral("sprites"))->raise();
@@ -274,7 +276,8 @@ void MainWindow::connectParts()
         organizer, &Zorv::OrganizerEditor::currentRowChanged, m_stage,
         [this, organizer] {
             // The text leads both, unless the person is in the list.
-            if (m_animations->list() && m_animations->list()->hasFocus()) {
+            if (m_animations->hasList() && m_animations->list() &&
+                m_animations->list()->hasFocus()) {
                 m_stage->showAnimation(organizer->currentRow());
             }
         },

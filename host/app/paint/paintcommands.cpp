@@ -1,6 +1,7 @@
 #include "app/paint/paintcommands.h"
 
 #include "app/actions/actionregistry.h"
+#include "app/paint/familyspriteeditor.h"
 #include "app/paint/frameshine.h"
 #include "app/paint/paintoptions.h"
 #include "app/session/gamesession.h"
@@ -14,6 +15,7 @@
 #include <zorv/animation/animationeditor.h>
 #include <zorv/cache/palette.h>
 #include <zorv/cache/palettes.h>
+#include <zorv/code/codedoc/framecode.h>
 #include <zorv/editors/palette/colorpalette.h>
 #include <zorv/image/canvas/imagecanvas.h>
 #include <zorv/image/canvas/imagelayers.h>
@@ -58,13 +60,12 @@ QVector<QRgb> tableOf(const Zorv::Palette& palette)
 }  // namespace
 
 PaintCommands::PaintCommands(const WindowServices& services)
-    : QObject(services.window), m_services(services), m_editor(new SpriteEditor(this)),
+    : QObject(services.window), m_services(services),
+      m_editor(new FamilySpriteEditor(services.mayRemove, this)),
       m_options(new PaintOptions(m_editor->renderer(), this)),
-      m_shine(new FrameShine(
-          m_editor,
-          qobject_cast<Zorv::AnimationEditor*>(services.editors->byName(QStringLiteral("anim"))),
-          this)),
-      m_costumes(new PalettePreviews)
+      m_animations(
+          qobject_cast<Zorv::AnimationEditor*>(services.editors->byName(QStringLiteral("anim")))),
+      m_shine(new FrameShine(m_editor, m_animations, this)), m_costumes(new PalettePreviews)
 {
     m_costumes->setCanvas(m_editor->renderer()->canvas());
     connect(m_editor, &SpriteEditor::spriteShown, this, &PaintCommands::showCostumes);
@@ -72,6 +73,7 @@ PaintCommands::PaintCommands(const WindowServices& services)
     connect(m_editor->colors(), &Zorv::ColorPalette::paletteChanged, m_costumes,
             &PalettePreviews::refresh);
     connect(m_costumes, &PalettePreviews::chosen, this, &PaintCommands::chooseCostume);
+    connect(m_animations, &Zorv::AnimationEditor::shownChanged, this, &PaintCommands::followFrame);
 }
 
 // The canvas of the previews goes with the editor.
@@ -185,6 +187,14 @@ void PaintCommands::updateState()
 void PaintCommands::reconfig()
 {
     showCostumes();
+}
+
+void PaintCommands::followFrame()
+{
+    if (!m_animations->isPlaying()) {
+        const Zorv::FrameCode* frame = m_animations->currentFrame();
+        m_editor->followFrame(frame ? frame->sprite() : nullptr);
+    }
 }
 
 QVector<PanelPlace> PaintCommands::places()

@@ -9,6 +9,7 @@ class SpriteCollection;
 }
 
 namespace Zorv {
+class AnimationEditor;
 class PalettePreviews;
 class SpriteEditor;
 }  // namespace Zorv
@@ -60,6 +61,7 @@ private:
     void larger();
     void smaller();
     void pan();
+    void followFrame();
     void shine();
     void showCostumes();
     void chooseCostume(int index);
@@ -69,6 +71,7 @@ private:
     const WindowServices& m_services;
     Zorv::SpriteEditor* m_editor;
     PaintOptions* m_options;
+    Zorv::AnimationEditor* m_animations;
     FrameShine* m_shine;
     Zorv::PalettePreviews* m_costumes;
     bool m_isInFront = false;

@@ -172,7 +172,7 @@ const QVector<SettingRow>& settingTable()
          QT_TRANSLATE_NOOP("App::Settings", "How another frame is shown behind the present one"), 0, 0, nullptr, nullptr, onionEffects},
         {"onion_opacity", "stage", Row::Share, QT_TRANSLATE_NOOP("App::Settings", "Its opacit&y:"),
          QT_TRANSLATE_NOOP("App::Settings", "How much of the other frame is seen"), 0, 100},
-        {"confirm_delete", "stage", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "Ask before animations and frames are de&leted"),
+        {"confirm_delete", "stage", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "Ask before animations, frames and sprites are de&leted"),
          QT_TRANSLATE_NOOP("App::Settings", "Undo brings them back as well")},
         {"sprite_over_guides", "stage", Row::Switch, QT_TRANSLATE_NOOP("App::Settings", "&Sprites hide guides"),
          QT_TRANSLATE_NOOP("App::Settings", "Guides are drawn behind sprites, and the mouse finds sprites first")},

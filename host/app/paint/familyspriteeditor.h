@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/window/windowservices.h"
+
+#include <zorv/image/spriteeditor.h>
+
+namespace App {
+
+/// The library's editor of sprites for those of the family: who names a sprite is asked about
+/// before it goes.
+class FamilySpriteEditor : public Zorv::SpriteEditor
+{
+    Q_OBJECT
+
+public:
+    explicit FamilySpriteEditor(const RemovalCheck& mayRemove, QObject* parent = nullptr);
+
+protected:
+    bool mayDeleteSprite() override;
+
+private:
+    RemovalCheck m_mayRemove;
+};
+
+}  // namespace App

@@ -1,0 +1,203 @@
+#include "cache/palette.h"
+#include "cache/palettes.h"
+#include "cache/sprite.h"
+#include "cache/sprites.h"
+#include "core/dialogs/dialogs.h"
+#include "core/interface.h"
+#include "editors/organizer/organizereditor.h"
+#include "image/canvas/imagecanvas.h"
+#include "image/spriteeditor_p.h"
+#include "text/zorvtranslator.h"
+
+#include <QAction>
+
+namespace Zorv {
+
+namespace {
+
+constexpr unsigned DeleteText = 123;
+constexpr unsigned DuplicateText = 128;
+constexpr unsigned SplitText = 139;
+constexpr unsigned OrganizerPanel = 0;
+
+/// Actions that stay as they were left, and the settings that keep them.
+const struct
+{
+    const char* action;
+    const char* setting;
+} switches[] = {
+    {"spr_switch_pal", "switch_to_imgpal"},
+    {"spr_frame_spr", "switch_frame_spr"},
+};
+
+QString textOf(unsigned id)
+{
+    return ZorvTranslator::instance()->trText(id);
+}
+
+}  // namespace
+
+bool SpriteEditorPrivate::isOn(const char* name) const
+{
+    const QAction* action = actions.value(QLatin1String(name));
+    return action && action->isChecked();
+}
+
+void SpriteEditorPrivate::restoreSwitches()
+{
+    for (const auto& each : switches) {
+        actions.value(QLatin1String(each.action))
+            ->setChecked(host->option(QLatin1String(each.setting)).toBool());
+    }
+}
+
+void SpriteEditorPrivate::switchPalChanged(bool isOn)
+{
+    host->setOption(QStringLiteral("switch_to_imgpal"), isOn);
+    followPalette();
+}
+
+void SpriteEditorPrivate::frameSpr(bool isOn)
+{
+    host->setOption(QStringLiteral("switch_frame_spr"), isOn);
+    followed = {};
+}
+
+/// With the switch on, the palette of the sprite becomes the current one.
+void SpriteEditorPrivate::followPalette()
+{
+    const Sprite* now = sprite();
+    const Palette* palette = now ? now->palette() : nullptr;
+    if (palette && isOn("spr_switch_pal")) {
+        sprites->palettes()->setCurrent(int(palette->index()));
+    }
+}
+
+/// The same frame is told many times, and the person may have gone on to another sprite.
+void SpriteEditorPrivate::followFrame(const Sprite* wanted)
+{
+    const SpriteNumber number = spriteNumber(wanted);
+    if (!isOn("spr_frame_spr") || !wanted || number == followed || !sprites) {
+        return;
+    }
+    followed = number;
+    int index = int(sprites->count()) - 1;
+    while (index >= 0 && sprites->sprite(index) != wanted) {
+        --index;
+    }
+    if (index >= 0 && index != row && !editor->isCanvasModified()) {
+        show(index);
+    }
+}
+
+/// Tells later on, behind a dialog, if the sprite in work is still the one that it is now. Its file
+/// can be read anew or closed there.
+std::function<bool()> SpriteEditorPrivate::stillThere() const
+{
+    const QPointer<const SpriteEditorPrivate> self(this);
+    const QPointer<Sprites> before(sprites);
+    return [self, before, id = identifier] {
+        return self && before && self->sprites == before && self->sprite() &&
+               self->identifier == id;
+    };
+}
+
+/// What goes with the sprite is told in one question.
+bool SpriteEditorPrivate::mayDelete() const
+{
+    const bool isModified = editor->isCanvasModified();
+    if (!isModified && !host->option(QStringLiteral("confirm_delete")).toBool()) {
+        return true;
+    }
+    QString text = SpriteEditor::tr("Do you really want to delete the sprite?");
+    if (isModified) {
+        text += QLatin1String("\n\n") +
+                SpriteEditor::tr("The changes on the canvas that are not saved go with it.");
+    }
+    return Dialogs::instance()->question(textOf(DeleteText), text, Dialogs::Yes | Dialogs::No,
+                                         Dialogs::Yes) == Dialogs::Yes;
+}
+
+void SpriteEditorPrivate::del()
+{
+    if (!sprite()) {
+        return;
+    }
+    const std::function<bool()> isThere = stillThere();
+    if (!mayDelete() || !isThere() || !editor->mayDeleteSprite() || !isThere()) {
+        return;
+    }
+    canvas()->endStroke();
+    const int index = row;
+    {
+        const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
+        sprites->removeSprite(index);
+    }
+    show(qMin(index, int(sprites->count()) - 1));
+}
+
+/// What is done to the stored sprite is done to what the canvas shows, as one step of undo.
+void SpriteEditorPrivate::changeStored(const QString& title, int nextRow,
+                                       const std::function<void()>& change)
+{
+    {
+        const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
+        sprites->beginChange(title);
+        saveImg();
+        change();
+        sprites->endChange();
+    }
+    if (nextRow != row) {
+        show(nextRow);
+    } else {
+        showPosition();
+    }
+}
+
+void SpriteEditorPrivate::duplicate()
+{
+    if (sprite()) {
+        changeStored(textOf(DuplicateText), row + 1, [this] { sprite()->duplicate(); });
+    }
+}
+
+void SpriteEditorPrivate::splitRGB()
+{
+    if (sprite()) {
+        changeStored(textOf(SplitText), row, [this] { sprite()->splitChannels(); });
+    }
+}
+
+OrganizerEditor* SpriteEditorPrivate::organizer() const
+{
+    return qobject_cast<OrganizerEditor*>(host->extraEditor(OrganizerPanel));
+}
+
+/// Unless the person has selected several there.
+void SpriteEditorPrivate::selectInList()
+{
+    OrganizerEditor* list = editor->isActive() ? organizer() : nullptr;
+    if (list && list->object() == sprites && list->currentRow() != row) {
+        list->setCurrentRow(row);
+    }
+}
+
+/// The organizer shows the sprites while they are in front. Whose list it had shown before takes it
+/// back.
+void SpriteEditorPrivate::lendList(bool isLent)
+{
+    OrganizerEditor* list = organizer();
+    if (!list) {
+        return;
+    }
+    list->disconnect(this);
+    if (isLent) {
+        list->setObject(sprites);
+        selectInList();
+        connect(list, &OrganizerEditor::rowActivated, this, &SpriteEditorPrivate::selPosChanged);
+    } else if (list->object() && list->object() == sprites) {
+        list->setObject(nullptr);
+    }
+}
+
+}  // namespace Zorv
