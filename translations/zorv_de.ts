@@ -6501,6 +6501,33 @@ Zeile %2, Spalte %3.</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::SoundConversion</name>
+    <message>
+        <source>The sound has no frames, no sample rate or no channels.</source>
+        <translation>Der Klang hat keine Frames, keine Abtastrate oder keine Kanäle.</translation>
+    </message>
+    <message>
+        <source>Only samples of 8, 16, 24 or 32 bits can be converted.</source>
+        <translation>Nur Abtastwerte mit 8, 16, 24 oder 32 Bit können umgewandelt werden.</translation>
+    </message>
+    <message>
+        <source>A sample rate and channels to convert to are needed.</source>
+        <translation>Zum Umwandeln werden eine Abtastrate und Kanäle gebraucht.</translation>
+    </message>
+    <message>
+        <source>The sample rates are too far apart: one is more than 256 times the other.</source>
+        <translation>Die Abtastraten liegen zu weit auseinander: eine ist mehr als das 256-Fache der anderen.</translation>
+    </message>
+    <message>
+        <source>The result would have more than two gigabytes.</source>
+        <translation>Das Ergebnis hätte mehr als zwei Gigabyte.</translation>
+    </message>
+    <message>
+        <source>The sound has too many channels for another sample rate.</source>
+        <translation>Der Klang hat zu viele Kanäle für eine andere Abtastrate.</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::SpriteEditor</name>
     <message>
         <source>Not possible</source>
