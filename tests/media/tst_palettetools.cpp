@@ -145,7 +145,8 @@ void TestPaletteTools::ramps_data()
     row("from black", hsv, Black, Red, 3, RGBA{128, 0, 0, 255});
     row("to white", hsv, Blue, White, 3, RGBA{128, 128, 255, 255});
     row("greys", lab, Black, White, 3, RGBA{99, 99, 99, 255});
-    row("over the middle", lab, Blue, RGBA{255, 255, 0, 255}, 3, fromOKLab({0.7102, -0.0518, -0.0565}));
+    row("over the middle", lab, Blue, RGBA{255, 255, 0, 255}, 3,
+        fromOKLab({0.7102, -0.0518, -0.0565}));
 }
 
 void TestPaletteTools::ramps()
@@ -179,8 +180,8 @@ void TestPaletteTools::blindness()
     const RGBA green{120, 120, 40, 7};
     const RGBA blue{40, 120, 200, 7};
     const RGBA teal{20, 140, 140, 7};
-    for (const auto kind : {ColorBlindness::Protanopia, ColorBlindness::Deuteranopia,
-                            ColorBlindness::Tritanopia}) {
+    for (const auto kind :
+         {ColorBlindness::Protanopia, ColorBlindness::Deuteranopia, ColorBlindness::Tritanopia}) {
         for (int i = 0; i < 256; ++i) {
             const RGBA grey{quint8(i), quint8(i), quint8(i), 9};
             QVERIFY(seenWith(kind, grey) == grey);
@@ -221,14 +222,17 @@ void TestPaletteTools::sorting()
                       quint8(bits >> 24 & 3 ? 255 : 0)};
         selection[i] = i % 5 != 3;
     }
-    const PaletteOrder order =
-        sortedOrder(palette.data(), PaletteKey(key), sorting, selection);
+    const PaletteOrder order = sortedOrder(palette.data(), PaletteKey(key), sorting, selection);
     QVERIFY(isOrder(order));
     const auto measure = [&, wanted = PaletteKey(key)](RGBA color) -> double {
         const OKLCh look = toOKLCh(color);
         const double values[] = {look.c < 0.02 ? -9 : std::floor(look.h / 15) + look.l / 2,
-                                 look.l, look.c, double(color.r), double(color.g),
-                                 double(color.b), double(color.a)};
+                                 look.l,
+                                 look.c,
+                                 double(color.r),
+                                 double(color.g),
+                                 double(color.b),
+                                 double(color.a)};
         return values[int(wanted)];
     };
     std::array<RGBA, 256> sorted = palette;

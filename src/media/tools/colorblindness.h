@@ -8,7 +8,8 @@ namespace Zorv {
 /// Whose eyes lack one of the three kinds of cones.
 enum class ColorBlindness {
     Protanopia,    ///< no cones for long waves: red is dark, and looks like green
-    Deuteranopia,  ///< none for middle waves: red and green look alike; the most common of the three
+    Deuteranopia,  ///< none for middle waves: red and green look alike; the most common of the
+                   ///< three
     Tritanopia     ///< none for short waves: blue looks like green; rare
 };
 

@@ -163,8 +163,7 @@ OKLab toOKLab(RGBA color)
 RGBA fromOKLab(OKLab color, quint8 alpha)
 {
     const bool isColor = std::isfinite(color.a) && std::isfinite(color.b);
-    const Light light =
-        shownLight({held(color.l), isColor ? color.a : 0, isColor ? color.b : 0});
+    const Light light = shownLight({held(color.l), isColor ? color.a : 0, isColor ? color.b : 0});
     return {encodedLight(light.r), encodedLight(light.g), encodedLight(light.b), alpha};
 }
 
