@@ -3143,6 +3143,13 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Family::IndexMapping</name>
+    <message>
+        <source>Change pixels</source>
+        <translation>Pixel ändern</translation>
+    </message>
+</context>
+<context>
     <name>Family::PaletteList</name>
     <message>
         <source>Add palette</source>
@@ -4578,6 +4585,36 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Operations::PaletteEdits</name>
+    <message>
+        <source>The record of the palette %1 in the file is broken. Nothing is changed. Remove broken records first, or leave it out.</source>
+        <translation>Der Eintrag der Palette %1 in der Datei ist beschädigt. Nichts wird geändert. Zuerst beschädigte Einträge entfernen, oder diese Palette auslassen.</translation>
+    </message>
+    <message>
+        <source>Reorder palette</source>
+        <translation>Palette umordnen</translation>
+    </message>
+    <message>
+        <source>Replace colour</source>
+        <translation>Farbe ersetzen</translation>
+    </message>
+    <message>
+        <source>Make a ramp</source>
+        <translation>Farbverlauf anlegen</translation>
+    </message>
+    <message>
+        <source>Duplicate palette</source>
+        <translation>Palette duplizieren</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::PaletteUses</name>
+    <message>
+        <source>Uses of colours</source>
+        <translation>Verwendung der Farben</translation>
+    </message>
+</context>
+<context>
     <name>Operations::PaletteWork</name>
     <message>
         <source>Cannot read a palette from &apos;%1&apos;. Expected .act, .pal, .aco, .ase, .txt, or an indexed image.</source>
@@ -4719,6 +4756,41 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
             <numerusform>&apos;%1&apos; ist abgeschnitten: Von %n Frame sind %2 da.</numerusform>
             <numerusform>&apos;%1&apos; ist abgeschnitten: Von %n Frames sind %2 da.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>Operations::SpriteEdits</name>
+    <message>
+        <source>Sprite %1 stays as it is: %2.</source>
+        <translation>Sprite %1 bleibt, wie es ist: %2.</translation>
+    </message>
+    <message>
+        <source>Sprite %1 would become %2,%3. Groups and numbers go from 0 to %4. Nothing is changed.</source>
+        <translation>Sprite %1 würde zu %2,%3. Gruppen und Nummern gehen von 0 bis %4. Nichts wird geändert.</translation>
+    </message>
+    <message>
+        <source>Recolour sprites</source>
+        <translation>Sprites umfärben</translation>
+    </message>
+    <message>
+        <source>Sprite %1 stays as it is: it is of true colour. Have its pixels take the nearest colours instead.</source>
+        <translation>Sprite %1 bleibt, wie es ist: Es hat Echtfarben. Stattdessen seine Pixel die nächsten Farben annehmen lassen.</translation>
+    </message>
+    <message>
+        <source>The axis of sprite %1 would be %2,%3, too far away. Nothing is changed.</source>
+        <translation>Die Achse von Sprite %1 läge bei %2,%3, zu weit entfernt. Nichts wird geändert.</translation>
+    </message>
+    <message>
+        <source>Set axis</source>
+        <translation>Achse setzen</translation>
+    </message>
+    <message>
+        <source>Two sprites would be called %1. Nothing is changed.</source>
+        <translation>Zwei Sprites würden %1 heißen. Nichts wird geändert.</translation>
+    </message>
+    <message>
+        <source>Renumber sprites</source>
+        <translation>Sprites neu nummerieren</translation>
     </message>
 </context>
 <context>

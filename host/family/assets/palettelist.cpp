@@ -1,12 +1,10 @@
 #include "family/assets/palettelist.h"
 
 #include "family/assets/freeids.h"
-#include "family/assets/pixelstore.h"
 #include "family/assets/remapmodel.h"
 #include "family/assets/spritecollection.h"
 
 #include <zorv/cache/crc64.h>
-#include <zorv/media/colorconversion.h>
 
 #include <QSet>
 #include <algorithm>
@@ -34,20 +32,6 @@ void countDown(QHash<Key, int>& counts, Key key)
     if (--counts[key] == 0) {
         counts.remove(key);
     }
-}
-
-// The index that each one of the old colours goes to; its own if that has the same colour.
-QByteArray nearestIndices(const PaletteColors& from, const PaletteColors& to)
-{
-    QByteArray map(256, 0);
-    for (size_t i = 0; i < from.size(); ++i) {
-        const Zorv::RGBA color = from[i];
-        map[int(i)] =
-            color == to[i]
-                ? char(i)
-                : char(Zorv::nearestColor({color.b, color.g, color.r, color.a}, to.data()));
-    }
-    return map;
 }
 
 }  // namespace
@@ -196,23 +180,17 @@ void PaletteList::setColors(FamilyPalette* palette, const PaletteColors& colors,
     changeItem(palette, state);
 }
 
-void PaletteList::repaint(const FamilyPalette* palette, const QByteArray& indices)
+void PaletteList::repaint(const FamilyPalette* palette, const IndexMap& indices)
 {
-    PixelStore* store = m_sprites->store();
+    MappingJob job;
+    job.mappings = {{{}, indices}};
     for (const auto& sprite : m_sprites->items()) {
-        FamilySprite::State state = sprite->state;
-        if (state.palette.get() != palette || !state.pixels) {
-            continue;
-        }
-        QByteArray rows = store->rows(state.pixels.get());
-        std::transform(rows.begin(), rows.end(), rows.begin(),
-                       [&](char pixel) { return indices.at(uchar(pixel)); });
-        if (const PixelRef pixels =
-                store->add(imageOfRows(state.pixels->format, rows, palette->colorTable()))) {
-            state.pixels = pixels;
-            m_sprites->change(sprite.get(), state);
+        if (sprite->state.palette.get() == palette) {
+            job.mappings.first().rows.append(sprite->row);
         }
     }
+    QVector<int> broken;
+    mapIndices(m_sprites, job, &broken);
 }
 
 void PaletteList::setId(FamilyPalette* palette, AssetId id)

@@ -2,6 +2,7 @@
 
 #include "family/assets/assetlist.h"
 #include "family/assets/familypalette.h"
+#include "family/assets/indexmapping.h"
 
 #include <zorv/cache/palettes.h>
 
@@ -105,7 +106,7 @@ private:
     AssetId freeId(AssetId from) const;
     FamilyPalette* place(int row, const PaletteColors& colors, AssetId id);
     void usePalettes(const QHash<const FamilyPalette*, ItemPtr>& others);
-    void repaint(const FamilyPalette* palette, const QByteArray& indices);
+    void repaint(const FamilyPalette* palette, const IndexMap& indices);
     void drop(const QVector<int>& rows);
 
     SpriteCollection* m_sprites;

@@ -103,17 +103,33 @@ PixelRef PixelStore::add(const QImage& image)
     }
     PixelFormat format{image.size(), image.depth(), PixelCodec::None};
     const QByteArray rows = rowsOfImage(image);
-    for (Zorv::StreamCache* cache :
+    const PixelRef same = known(format, rows);
+    if (same) {
+        return same;
+    }
+    QByteArray stream;
+    format.codec = smallestCodec(format, rows, &stream);
+    return adopt(format, stream, checksum(rows), checksum(stream));
+}
+
+PixelRef PixelStore::add(const PackedPixels& packed, const QByteArray& rows)
+{
+    const PixelRef same = known(packed.format, rows);
+    return same ? same : adopt(packed.format, packed.stream, packed.pixelCrc, packed.streamCrc);
+}
+
+PixelRef PixelStore::known(const PixelFormat& format, const QByteArray& rows) const
+{
+    const QByteArray decoded = decodedBytes(format, rows);
+    for (const Zorv::StreamCache* cache :
          {m_cache.get(), static_cast<Zorv::StreamCache*>(m_files.get())}) {
-        if (const auto* item = cache->find(decodedBytes(format, rows), nullptr)) {
+        if (const auto* item = cache->find(decoded, nullptr)) {
             auto* same = static_cast<PixelData*>(item->filterData);
             ++same->refCount;
             return PixelRef(same);
         }
     }
-    QByteArray stream;
-    format.codec = smallestCodec(format, rows, &stream);
-    return adopt(format, stream, checksum(rows), checksum(stream));
+    return {};
 }
 
 PixelRef PixelStore::recoded(PixelData* data, PixelCodec codec)
@@ -185,6 +201,19 @@ PackedPixels::PackedPixels(const PixelData& data) : format(data.format)
         streamCrc = data.streamCrc;
         pixelCrc = data.pixelCrc;
     }
+}
+
+PackedPixels PackedPixels::pack(PixelFormat format, const QByteArray& rows)
+{
+    PackedPixels packed;
+    packed.stream = packPixels(format, rows);
+    if (packed.stream.isEmpty()) {
+        format.codec = smallestCodec(format, rows, &packed.stream);
+    }
+    packed.format = format;
+    packed.streamCrc = checksum(packed.stream);
+    packed.pixelCrc = checksum(rows);
+    return packed;
 }
 
 QByteArray PackedPixels::rows() const

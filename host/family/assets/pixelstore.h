@@ -15,6 +15,7 @@ class FileCache;
 namespace Family {
 
 class SpriteTextures;
+struct PackedPixels;
 
 /// The pixels of a collection: their caches, the filters that pack and unpack them, and what was
 /// unpacked of late.
@@ -46,6 +47,9 @@ public:
     /// for an image without pixels or larger than a sprite can be.
     PixelRef add(const QImage& image);
 
+    /// The same for pixels that are packed already, `rows` being what they unpack to.
+    PixelRef add(const PackedPixels& packed, const QByteArray& rows);
+
     /// The same pixels in another codec; null if it would lose something.
     PixelRef recoded(PixelData* data, PixelCodec codec);
 
@@ -66,10 +70,9 @@ public:
     void takeIn(const QString& fileName);
 
 private:
-    void unpack(unsigned char type, void* filterData, const QByteArray& source, QByteArray& target);
-
-private:
     friend class PixelData;
+    void unpack(unsigned char type, void* filterData, const QByteArray& source, QByteArray& target);
+    PixelRef known(const PixelFormat& format, const QByteArray& rows) const;
     void gone(PixelData* data);
 
     std::unique_ptr<Zorv::StreamCache> m_cache;
@@ -80,11 +83,14 @@ private:
     quint32 m_nextOrder = 0;
 };
 
-/// Packed pixels by themselves, to be unpacked on any thread.
+/// Packed pixels by themselves, to be unpacked and packed on any thread.
 struct PackedPixels
 {
     PackedPixels() = default;
     explicit PackedPixels(const PixelData& data);
+
+    /// Packs rows in the codec of the format, or in the smallest one if that one cannot hold them.
+    static PackedPixels pack(PixelFormat format, const QByteArray& rows);
 
     /// The unpacked rows; empty if there are none, or a checksum is wrong.
     QByteArray rows() const;

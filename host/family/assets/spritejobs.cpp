@@ -2,12 +2,9 @@
 
 #include "family/assets/pixelstore.h"
 #include "family/assets/spritecollection.h"
-
-#include <QThread>
-#include <QThreadPool>
+#include "family/assets/workpool.h"
 
 #include <algorithm>
-#include <atomic>
 
 namespace Family {
 
@@ -37,46 +34,22 @@ QVector<PackedSprite> batch(const SpriteCollection& sprites, const QVector<int>&
     return packed;
 }
 
-// Takes one after the other off a batch, until none is left.
-class Worker final : public QRunnable
-{
-public:
-    Worker(const QVector<PackedSprite>& packed, std::atomic_int& next, const ImageJob& job)
-        : m_packed(packed), m_next(next), m_job(job)
-    {
-    }
-
-    void run() override
-    {
-        for (int i = m_next++; i < m_packed.size(); i = m_next++) {
-            const PackedSprite& one = m_packed[i];
-            m_job.work(one.row, imageOfRows(one.pixels.format, one.pixels.rows(), one.colors));
-        }
-    }
-
-private:
-    const QVector<PackedSprite>& m_packed;
-    std::atomic_int& m_next;
-    const ImageJob& m_job;
-};
-
 }  // namespace
 
 bool forEachImage(const SpriteCollection& sprites, const ImageJob& job)
 {
     const AssetHistory::Hold hold(sprites.steps());
-    const int threads = job.threads > 0 ? job.threads : QThread::idealThreadCount();
-    QThreadPool pool;
-    pool.setMaxThreadCount(threads);
+    QVector<PackedSprite> packed;
     QVector<PackedSprite> waiting = batch(sprites, job.rows, 0);
+    WorkPool pool(job.threads);
     for (int first = 0; first < job.rows.size(); first += BatchSize) {
-        const QVector<PackedSprite> packed = std::exchange(waiting, {});
-        std::atomic_int next{0};
-        for (int i = 0; i < threads; ++i) {
-            pool.start(new Worker(packed, next, job));
-        }
+        packed = std::exchange(waiting, {});
+        pool.start(packed.size(), [&job, &packed](int i) {
+            const PackedSprite& one = packed.at(i);
+            job.work(one.row, imageOfRows(one.pixels.format, one.pixels.rows(), one.colors));
+        });
         waiting = batch(sprites, job.rows, first + BatchSize);
-        pool.waitForDone();
+        pool.wait();
         if (job.progress && !job.progress(first + packed.size())) {
             return false;
         }

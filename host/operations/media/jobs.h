@@ -23,11 +23,12 @@ public:
     }
     ~JobProgress() { m_reporter->finish(); }
 
-    /// So many steps are done, or another one. False once the person has given the work up.
-    bool update(int value)
+    /// So many steps are done, of so many, 0 for those that were told; or another one. False once
+    /// the person has given the work up.
+    bool update(int value, int maximum = 0)
     {
         m_value = value;
-        m_reporter->update(m_value, 0);
+        m_reporter->update(m_value, maximum);
         return !m_reporter->isCanceled();
     }
     bool step() { return update(m_value + 1); }

@@ -104,6 +104,16 @@ bool findPalette(const SpriteCollection& sprites, const QString& name, PaletteCo
     return true;
 }
 
+FamilyPalette* ensurePalette(SpriteCollection* sprites, const QString& name, QString* error)
+{
+    AssetId id;
+    FamilyPalette* const own = AssetId::read(name, &id) ? sprites->palettes()->byId(id) : nullptr;
+    PaletteColors colors;
+    return own || !findPalette(*sprites, name, &colors, error)
+               ? own
+               : sprites->palettes()->ensure(colors);
+}
+
 MediaResult exportSprites(const SpriteCollection& sprites, const Selection& selection,
                           const OutputRequest& request, const PaletteColors* colors)
 {

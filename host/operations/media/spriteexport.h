@@ -19,6 +19,11 @@ QVector<int> selectedRows(const Family::SpriteCollection& sprites, const Selecti
 bool findPalette(const Family::SpriteCollection& sprites, const QString& name,
                  Family::PaletteColors* colors, QString* error);
 
+/// The palette of the collection that a person calls so; one of a palette file is added unless it
+/// is there. Null, with `error`, if there is neither.
+Family::FamilyPalette* ensurePalette(Family::SpriteCollection* sprites, const QString& name,
+                                     QString* error);
+
 /// Writes an image file for each sprite, PNG if nothing else is said. With `colors` sprites that
 /// are indexed are shown in them. A sprite that is broken does not keep the others from it.
 MediaResult exportSprites(const Family::SpriteCollection& sprites, const Selection& selection,

@@ -157,15 +157,9 @@ bool Import::findPalette(QString* error)
     if (m_request.palette.isEmpty()) {
         return true;
     }
-    AssetId id;
-    if (AssetId::read(m_request.palette, &id)) {
-        m_palette = m_sprites->palettes()->byId(id);
-    }
-    PaletteColors colors;
-    if (!m_palette && Operations::findPalette(*m_sprites, m_request.palette, &colors, error)) {
-        m_palette = m_sprites->palettes()->ensure(colors);
-        m_isTouched = true;
-    }
+    const int count = m_sprites->palettes()->count();
+    m_palette = ensurePalette(m_sprites, m_request.palette, error);
+    m_isTouched = m_sprites->palettes()->count() > count;
     return m_palette;
 }
 
@@ -177,7 +171,7 @@ void Import::setImage(FamilySprite* sprite, const QImage& image)
                                           : Zorv::Sprite::ForcePalette;
     PaletteList* palettes = m_sprites->palettes();
     const int count = palettes->count();
-    sprite->setImage(image, false, mode, m_palette);
+    sprite->setImage(image, m_request.reverses, mode, m_palette);
     AssetId id;
     if (palettes->count() > count && AssetId::read(image.text(QLatin1String(PaletteText)), &id) &&
         !palettes->byId(id)) {

@@ -23,6 +23,7 @@ struct ImportRequest
     bool crops = false;    ///< what does not show is cut off, and the axis moves with it
     QString palette;  ///< identifier of a palette, or a palette file; empty for each image's own
     bool recolors = false;  ///< that palette takes the colours of the images
+    bool reverses = false;  ///< colours and indices of images change places, 0 with 255
     Family::PixelCodec codec = Family::PixelCodec::None;  ///< `None` for the smallest one
     bool force = false;  ///< sprites that are there already may be replaced
 };

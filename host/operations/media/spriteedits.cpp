@@ -1,0 +1,258 @@
+#include "operations/media/spriteedits.h"
+
+#include "family/assets/indexmapping.h"
+#include "family/assets/spritecollection.h"
+#include "operations/media/jobs.h"
+#include "operations/media/spriteexport.h"
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QSet>
+#include <limits>
+
+namespace Operations {
+
+using Family::AssetHistory;
+using Family::AssetId;
+using Family::FamilyPalette;
+using Family::FamilySprite;
+using Family::SpriteCollection;
+
+namespace {
+
+constexpr int MaxPart = 65535;
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Operations::SpriteEdits)
+};
+
+QString brokenLine(const FamilySprite& sprite, const QString& fault)
+{
+    return Text::tr("Sprite %1 stays as it is: %2.").arg(sprite.id().text(), fault);
+}
+
+/// The sprites of these rows that can be changed; the others are told.
+QVector<FamilySprite*> wholeSprites(const SpriteCollection& sprites, const QVector<int>& rows,
+                                    MediaResult* result)
+{
+    QVector<FamilySprite*> whole;
+    for (const int row : rows) {
+        FamilySprite* sprite = sprites.sprite(row);
+        if (sprite && sprite->fault().isEmpty()) {
+            whole.append(sprite);
+        } else if (sprite) {
+            result->warnings.append(brokenLine(*sprite, sprite->fault()));
+        }
+    }
+    return whole;
+}
+
+/// The identifiers of sprites one after the other; empty, with `error`, if one cannot be.
+QVector<AssetId> newIds(const QVector<FamilySprite*>& sprites, const Renumbering& renumbering,
+                        QString* error)
+{
+    QVector<AssetId> ids;
+    for (int i = 0; i < sprites.size(); ++i) {
+        const AssetId old = sprites[i]->id();
+        const int group = renumbering.isShift ? old.group + renumbering.group : renumbering.group;
+        const int number = renumbering.number < 0 ? old.number : renumbering.number + i;
+        if (qMin(group, number) < 0 || qMax(group, number) > MaxPart) {
+            *error = Text::tr("Sprite %1 would become %2,%3. Groups and numbers go from 0 to %4. "
+                              "Nothing is changed.")
+                         .arg(old.text(), QString::number(group), QString::number(number),
+                              QString::number(MaxPart));
+            return {};
+        }
+        ids.append({quint16(group), quint16(number)});
+    }
+    return ids;
+}
+
+/// The first of the identifiers that two sprites would have; empty if none is.
+QString takenId(const SpriteCollection& sprites, const QVector<FamilySprite*>& changed,
+                const QVector<AssetId>& ids)
+{
+    QSet<quint32> taken;
+    const QSet<const FamilySprite*> moving(changed.begin(), changed.end());
+    for (const auto& sprite : sprites.items()) {
+        if (!moving.contains(sprite.get())) {
+            taken.insert(sprite->id().key());
+        }
+    }
+    for (const AssetId id : ids) {
+        if (taken.contains(id.key())) {
+            return id.text();
+        }
+        taken.insert(id.key());
+    }
+    return {};
+}
+
+/// The index of each of the new colours for those of a palette, for its sprites.
+QVector<Family::IndexMapping> mappingsTo(const Family::PaletteColors& colors,
+                                         const QVector<FamilySprite*>& sprites)
+{
+    QHash<const FamilyPalette*, QVector<int>> rows;
+    for (const FamilySprite* sprite : sprites) {
+        rows[sprite->state.palette.get()].append(sprite->row);
+    }
+    QVector<Family::IndexMapping> mappings;
+    for (auto it = rows.cbegin(); it != rows.cend(); ++it) {
+        const Family::PaletteColors own = it.key() ? it.key()->state.colors : Family::greyColors();
+        mappings.append({it.value(), Family::nearestIndices(own, colors)});
+    }
+    return mappings;
+}
+
+class Recoloring
+{
+public:
+    Recoloring(SpriteCollection* sprites, FamilyPalette* palette)
+        : m_sprites(sprites), m_palette(palette)
+    {
+    }
+
+    MediaResult run(const QVector<int>& rows, PixelsKeep keep);
+
+private:
+    bool mapPixels(const QVector<FamilySprite*>& sprites, QSet<int>* broken);
+    void recolor(FamilySprite* sprite, PixelsKeep keep);
+
+    SpriteCollection* m_sprites;
+    FamilyPalette* m_palette;
+    MediaResult m_result;
+};
+
+MediaResult Recoloring::run(const QVector<int>& rows, PixelsKeep keep)
+{
+    const QVector<FamilySprite*> sprites = wholeSprites(*m_sprites, rows, &m_result);
+    QSet<int> broken;
+    if (keep == PixelsKeep::Looks && !mapPixels(sprites, &broken)) {
+        m_result.isCanceled = true;
+        return m_result;
+    }
+    for (FamilySprite* sprite : sprites) {
+        if (!broken.contains(sprite->row)) {
+            recolor(sprite, keep);
+        }
+    }
+    return m_result;
+}
+
+bool Recoloring::mapPixels(const QVector<FamilySprite*>& sprites, QSet<int>* broken)
+{
+    JobProgress progress(Text::tr("Recolour sprites"), 0);
+    Family::MappingJob job;
+    job.mappings = mappingsTo(m_palette->state.colors, sprites);
+    job.progress = [&](int done, int count) { return progress.update(done, count); };
+    QVector<int> rows;
+    const bool isDone = Family::mapIndices(m_sprites, job, &rows);
+    m_result.warnings += brokenSprites(*m_sprites, rows);
+    *broken = QSet<int>(rows.begin(), rows.end());
+    return isDone;
+}
+
+void Recoloring::recolor(FamilySprite* sprite, PixelsKeep keep)
+{
+    if (sprite->bits() != 32) {
+        sprite->setPalette(m_palette);
+    } else if (keep == PixelsKeep::Indices) {
+        m_result.warnings.append(Text::tr("Sprite %1 stays as it is: it is of true colour. Have "
+                                          "its pixels take the nearest colours instead.")
+                                     .arg(sprite->id().text()));
+        return;
+    } else {
+        const QImage image = sprite->image();
+        if (image.isNull()) {
+            m_result.warnings.append(brokenLine(*sprite, sprite->pixelFault()));
+            return;
+        }
+        sprite->setImage(image, false, Zorv::Sprite::ForcePalette, m_palette);
+    }
+    ++m_result.done;
+}
+
+}  // namespace
+
+QPoint axisPlace(AxisBase base, const QSize& size)
+{
+    // The enumeration goes by rows of three.
+    const auto at = [](int third, int length) {
+        return third == 0 ? 0 : third == 1 ? length / 2 : qMax(length - 1, 0);
+    };
+    return {at(int(base) % 3, size.width()), at(int(base) / 3, size.height())};
+}
+
+MediaResult setAxes(SpriteCollection* sprites, const QVector<int>& rows, AxisBase base,
+                    QPoint offset)
+{
+    using Limits = std::numeric_limits<qint16>;
+    const QRect range(QPoint(Limits::min(), Limits::min()), QPoint(Limits::max(), Limits::max()));
+    MediaResult result;
+    const QVector<FamilySprite*> whole = wholeSprites(*sprites, rows, &result);
+    QVector<QPoint> axes;
+    for (const FamilySprite* sprite : whole) {
+        const bool isMoved = base == AxisBase::Current;
+        axes.append((isMoved ? sprite->axis() : axisPlace(base, sprite->size())) + offset);
+        if (!range.contains(axes.last())) {
+            return MediaResult(Text::tr("The axis of sprite %1 would be %2,%3, too far away. "
+                                        "Nothing is changed.")
+                                   .arg(sprite->id().text(), QString::number(axes.last().x()),
+                                        QString::number(axes.last().y())));
+        }
+    }
+    const AssetHistory::Step step(sprites->editHistory(), Text::tr("Set axis"));
+    for (int i = 0; i < whole.size(); ++i) {
+        whole[i]->setAxis(axes[i]);
+    }
+    result.done = whole.size();
+    return result;
+}
+
+MediaResult renumberSprites(SpriteCollection* sprites, const QVector<int>& rows,
+                            const Renumbering& renumbering)
+{
+    MediaResult result;
+    QString error;
+    const QVector<FamilySprite*> whole = wholeSprites(*sprites, rows, &result);
+    const QVector<AssetId> ids = newIds(whole, renumbering, &error);
+    if (!error.isEmpty()) {
+        return MediaResult(error);
+    }
+    const QString taken = takenId(*sprites, whole, ids);
+    if (!taken.isEmpty()) {
+        return MediaResult(
+            Text::tr("Two sprites would be called %1. Nothing is changed.").arg(taken));
+    }
+    const AssetHistory::Step step(sprites->editHistory(), Text::tr("Renumber sprites"));
+    for (int i = 0; i < whole.size(); ++i) {
+        whole[i]->setProperty(QStringLiteral("Identifier"), ids[i].text());
+    }
+    result.done = whole.size();
+    return result;
+}
+
+MediaResult recolorSprites(SpriteCollection* sprites, const QVector<int>& rows,
+                           const QString& palette, PixelsKeep keep)
+{
+    sprites->refresh();
+    const AssetHistory::Step step(sprites->editHistory(), Text::tr("Recolour sprites"));
+    QString error;
+    FamilyPalette* const chosen = ensurePalette(sprites, palette, &error);
+    return chosen ? Recoloring(sprites, chosen).run(rows, keep) : MediaResult(error);
+}
+
+QStringList brokenSprites(const SpriteCollection& sprites, const QVector<int>& rows)
+{
+    QStringList lines;
+    for (const int row : rows) {
+        if (const FamilySprite* sprite = sprites.sprite(row)) {
+            lines.append(brokenLine(*sprite, sprite->pixelFault()));
+        }
+    }
+    return lines;
+}
+
+}  // namespace Operations
