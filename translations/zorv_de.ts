@@ -6705,6 +6705,14 @@ Zeile %2, Spalte %3.</translation>
         <source>The changes on the canvas that are not saved go with it.</source>
         <translation>Die nicht gespeicherten Änderungen auf der Zeichenfläche gehen mit verloren.</translation>
     </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>The sprite on the canvas is not in the file any more, and its picture cannot be saved. Copy the picture, or discard it.</source>
+        <translation>Das Sprite auf der Zeichenfläche ist nicht mehr in der Datei, sein Bild kann nicht gespeichert werden. Kopieren oder verwerfen Sie das Bild.</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::SpriteList</name>

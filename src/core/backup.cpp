@@ -1,5 +1,6 @@
 #include "core/parentproject.h"
 
+#include "core/fileinput.h"
 #include "core/folders_p.h"
 #include "core/lazysync_p.h"
 #include "core/newbackup_p.h"
@@ -41,6 +42,7 @@ QString ParentProject::makeBackup(const QString& name,
 {
     const QString folderName = timeText(QDateTime::currentDateTime()) + name;
     d->beginWork();
+    FileInput::takeOf(this);
     NewBackup made(absolutePath() + backupFolder, folderName);
     if (made.path().isEmpty()) {
         d->failedFiles.append(backupFolder + folderName);

@@ -151,6 +151,8 @@ public:
 
     /// Copies all open projects, with their unsaved changes, into a new folder
     /// below "backup/", named after the time and `name`. True in every case.
+    /// What has not gone into its file yet (`FileInput`) is taken in before, here and
+    /// in `save()`, `saveAs()` and `run()`.
     ///
     /// The folder has that name only once it is complete: all files are in it
     /// that were there. One that is given up, that fails or whose process ends

@@ -1,6 +1,7 @@
 #include "core/parentproject.h"
 
 #include "core/archive.h"
+#include "core/fileinput.h"
 #include "core/interface.h"
 #include "core/messages.h"
 #include "core/parentproject_p.h"
@@ -58,6 +59,7 @@ void saveModified(const QPointer<Project>& project, QStringList& failed)
 void ParentProject::save()
 {
     d->beginWork();
+    FileInput::takeOf(this);
     const QVector<QPointer<Project>> projects = d->openProjects();
     Progress progress(tr("Saving..."), projects.size());
     for (const QPointer<Project>& project : projects) {

@@ -1,6 +1,7 @@
 #include "core/parentproject.h"
 
 #include "core/archive.h"
+#include "core/fileinput.h"
 #include "core/files.h"
 #include "core/filesystemarchive.h"
 #include "core/lazysync_p.h"
@@ -29,6 +30,7 @@ bool isBelow(const QString& fileName, const QString& folder)
 void ParentProject::saveAs(const QString& newRoot)
 {
     d->beginWork();
+    FileInput::takeOf(this);
     if (d->projects.size() == 1 && !isGame()) {
         d->saveProjectAs(d->projects.firstKey(), newRoot);
     } else {

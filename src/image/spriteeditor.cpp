@@ -57,6 +57,7 @@ SpriteEditorPrivate::SpriteEditorPrivate(SpriteEditor* owner)
     }
     connect(history(), &ImageUndoStack::indexChanged, this, &SpriteEditorPrivate::historyChanged);
     connectLayers();
+    followCanvas();
 }
 
 /// The host's window owns what was published, and may be there longer.
@@ -210,7 +211,7 @@ bool SpriteEditor::isModified() const
 
 bool SpriteEditor::canDiscardInput() const
 {
-    return d->mayDiscard();
+    return d->mayLeave();
 }
 
 void SpriteEditor::undo()
@@ -345,7 +346,7 @@ bool SpriteEditor::showSprite(Sprites* sprites, int index)
         return sprites && sprites->sprite(index);
     }
     const QPointer<Sprites> wanted = sprites;
-    if (!d->mayDiscard() || !wanted || !wanted->sprite(index)) {
+    if (!d->mayLeave() || !wanted || !wanted->sprite(index)) {
         return false;
     }
     if (wanted != d->sprites) {
@@ -368,12 +369,6 @@ bool SpriteEditor::mayDeleteSprite()
 void SpriteEditor::saveImage()
 {
     d->saveImg();
-}
-
-void SpriteEditor::save()
-{
-    d->saveImg();
-    FileEditor::save();
 }
 
 }  // namespace Zorv

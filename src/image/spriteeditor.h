@@ -21,7 +21,8 @@ class SpriteWorkspace;
 ///
 /// The canvas is a copy. "spr_saveimg" (`saveImage()`) puts all visible layers, as one picture,
 /// and the axis of the canvas into the sprite, as one step of undo of its file; its palette stays.
-/// Until then the file knows of nothing, and whatever shows another sprite asks the person first.
+/// Until then a changed canvas is a `FileInput` of its file, and whatever shows another sprite asks
+/// the person first: to save it, to discard it, which takes its steps back, or to stay.
 /// If the sprite is changed elsewhere, a canvas without changes follows, and one with changes
 /// stays as it is. What is done to the stored sprite takes the canvas in first.
 ///
@@ -75,7 +76,7 @@ public:
     /// True also while the canvas has changes.
     bool isModified() const override;
 
-    /// Asks about what is on the canvas.
+    /// Asks to save or discard what is on the canvas.
     bool canDiscardInput() const override;
 
     /// Of the canvas, and where it has no more steps, of the file.
@@ -144,9 +145,6 @@ public:
 public slots:
     /// See above. Nothing without a sprite, or without changes.
     void saveImage();
-
-    /// Writes the file, after the canvas went into it.
-    void save() override;
 
 signals:
     /// Another sprite is on the canvas, or none, or its pixels were read anew.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cache/spritenumber.h"
+#include "core/fileinput.h"
 #include "editors/palette/colorpalette.h"
 #include "editors/palette/palettewidget.h"
 #include "image/imagerenderer.h"
@@ -13,6 +14,7 @@
 #include <QVariant>
 
 #include <functional>
+#include <optional>
 
 class QAbstractItemView;
 class QAction;
@@ -29,7 +31,7 @@ class Interface;
 class OrganizerEditor;
 
 /// The state of a `SpriteEditor`, and the slots of its tools, which the host finds by name.
-class SpriteEditorPrivate : public QObject
+class SpriteEditorPrivate : public QObject, public FileInput
 {
     Q_OBJECT
 
@@ -65,7 +67,6 @@ public:
     void bind(int index);
     void takeChange(const Sprite& now, bool isModified, bool holdsWork);
     void remember(Sprite* sprite, int index);
-    bool mayDiscard() const;
     void show(int index);
     void load();
     void clearCanvas();
@@ -75,7 +76,22 @@ public:
     void showPosition();
     Sprite* sprite() const;
     void endPreview();
+    static QImage canvasForm(const QImage& image);
+
+    // spriteeditorwork.cpp
+    void followCanvas();
+    void touch(const QRect& rect);
+    bool isChanged();
+    bool compare() const;
+    bool mayLeave();
+    void goBack();
     QImage flattened();
+    bool putIntoSprite(QString* error);
+    void tellHidden();
+    static bool areSamePixels(const QImage& a, const QImage& b);
+    ProjectFile* inputFile() const override;
+    bool takeInput(QString* error) override;
+    void dropInput() override;
 
     // spriteeditoractions.cpp
     bool isOn(const char* name) const;
@@ -120,6 +136,8 @@ public:
     QVariant identifier;
     QImage loaded;  // as the sprite was when the canvas took it
     QPoint loadedAxis;
+    QRect touched;  // where the canvas may be different from that
+    std::optional<bool> isKnownChanged;
     bool isPreview = false;  // the grid has colours that are not the sprite's
     bool hasToldHidden = false;
     int selGuard = 0;       // the code itself changes the position

@@ -27,28 +27,6 @@ constexpr int SampleSide = 1024;
 
 constexpr int PassingField = -1;
 
-bool areSamePixels(const QImage& a, const QImage& b)
-{
-    if (a.size() != b.size() || a.format() != b.format()) {
-        return false;
-    }
-    const auto bytes = size_t(a.width()) * size_t(a.depth() / 8);
-    for (int y = 0; y < a.height(); ++y) {
-        if (std::memcmp(a.constScanLine(y), b.constScanLine(y), bytes) != 0) {
-            return false;
-        }
-    }
-    return true;
-}
-
-/// In one of the two forms that a canvas has, so that pictures can be compared.
-QImage inForm(const QImage& image)
-{
-    return image.isNull() || image.format() == QImage::Format_Indexed8
-               ? image
-               : image.convertToFormat(QImage::Format_ARGB32);
-}
-
 void fillColors(const QVector<QRgb>& table, RGBA* entries)
 {
     for (int i = 0; i < qMin(table.size(), ColorCount); ++i) {
@@ -73,6 +51,14 @@ QVector<QRgb> ownColors(const QImage& image)
 }
 
 }  // namespace
+
+/// In one of the two forms that a canvas has, so that pictures can be compared.
+QImage SpriteEditorPrivate::canvasForm(const QImage& image)
+{
+    return image.isNull() || image.format() == QImage::Format_Indexed8
+               ? image
+               : image.convertToFormat(QImage::Format_ARGB32);
+}
 
 Sprite* SpriteEditorPrivate::sprite() const
 {
@@ -200,7 +186,7 @@ void SpriteEditorPrivate::bind(int index)
 /// What the sprite is now. A canvas that keeps other pixels differs from it from now on.
 void SpriteEditorPrivate::takeChange(const Sprite& now, bool isModified, bool holdsWork)
 {
-    const QImage stored = inForm(now.image());
+    const QImage stored = canvasForm(now.image());
     const bool isSamePicture = areSamePixels(stored, loaded);
     if (isSamePicture && now.axis() == loadedAxis) {
         return;
@@ -213,6 +199,7 @@ void SpriteEditorPrivate::takeChange(const Sprite& now, bool isModified, bool ho
     } else {
         loaded = stored;
         loadedAxis = now.axis();
+        touch(QRect(QPoint(), canvas()->size()));
         const bool isStored = areSamePixels(stored, flattened()) && canvas()->axis() == loadedAxis;
         isStored ? history()->setClean() : history()->resetClean();
     }
@@ -227,22 +214,13 @@ void SpriteEditorPrivate::remember(Sprite* sprite, int index)
     }
 }
 
-bool SpriteEditorPrivate::mayDiscard() const
-{
-    return !editor->isCanvasModified() ||
-           Dialogs::instance()->question(
-               SpriteEditor::tr("Discard changes?"),
-               SpriteEditor::tr("Do you want to discard the changes made in the current sprite?"),
-               Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
-}
-
 void SpriteEditorPrivate::selPosChanged(int index)
 {
     if (selGuard > 0 || !sprites || index == row) {
         return;
     }
     const QPointer<Sprites> before = sprites;
-    const bool may = mayDiscard();
+    const bool may = mayLeave();
     if (may && before == sprites) {
         show(index);
     } else {
@@ -286,12 +264,13 @@ void SpriteEditorPrivate::show(int index)
 void SpriteEditorPrivate::load()
 {
     const Sprite* now = sprite();
-    loaded = inForm(now->image());
+    loaded = canvasForm(now->image());
     loadedAxis = now->axis();
     hasToldHidden = false;
     loadColors();
     editor->setImage(loaded, SpriteEditor::tr("Layer %1").arg(1));
     canvas()->setAxis(loadedAxis);
+    touched = {};
     emit editor->spriteShown();
 }
 
@@ -373,53 +352,6 @@ void SpriteEditorPrivate::endPreview()
     }
 }
 
-/// In the sprite's own colours, whatever ones are looked at.
-QImage SpriteEditorPrivate::flattened()
-{
-    endPreview();
-    return canvas()->mergeLayers(nullptr);
-}
-
-void SpriteEditorPrivate::saveImg()
-{
-    Sprite* now = sprite();
-    canvas()->endStroke();
-    if (!now || !editor->isCanvasModified()) {
-        return;
-    }
-    const QImage picture = flattened();
-    const QImage before = loaded;
-    {
-        const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
-        sprites->beginChange(SpriteEditor::tr("Save image changes"));
-        now->setImage(picture);
-        now->setProperty(QStringLiteral("Axis"), canvas()->axis());
-        sprites->endChange();
-    }
-    now = sprite();
-    loaded = now ? inForm(now->image()) : QImage();
-    loadedAxis = now ? now->axis() : QPoint();
-    const bool isRefused = !areSamePixels(before, inForm(picture)) && areSamePixels(before, loaded);
-    if (picture.isNull() || isRefused) {
-        tellRefusal(SpriteEditor::tr("The picture could not be saved into the sprite. Make room in "
-                                     "memory, and save it again."));
-        return;
-    }
-    history()->setClean();
-    bool isHidden = false;
-    for (unsigned i = 0; i < layers()->count(); ++i) {
-        isHidden = isHidden || !layers()->at(i)->isVisible();
-    }
-    if (isHidden && !hasToldHidden) {
-        hasToldHidden = true;
-        host->showStatus(PassingField,
-                         SpriteEditor::tr("Hidden layers stay on the canvas and are not saved "
-                                          "into the sprite."));
-    }
-    showPosition();
-    emit editor->modified();
-}
-
 void SpriteEditor::setImage(const QImage& image, const QString& name)
 {
     ImageCanvas* canvas = d->canvas();
@@ -445,19 +377,6 @@ void SpriteEditor::setImage(const QImage& image, const QString& name)
     canvas->undoStack()->clear();
     d->retranslate();
     d->updateEnabled();
-}
-
-/// A canvas that only has another selection than at first holds no work.
-bool SpriteEditor::isCanvasModified() const
-{
-    const ImageCanvas* canvas = d->canvas();
-    if (canvas->undoStack()->isClean() || !d->hasCanvas()) {
-        return false;
-    }
-    const ImageLayer* only = canvas->layers()->count() == 1 ? canvas->layers()->at(0) : nullptr;
-    return !only || !only->isVisible() || only->opacity() < 1.0 ||
-           only->blendMode() != QPainter::CompositionMode_SourceOver ||
-           canvas->axis() != d->loadedAxis || !areSamePixels(only->image(), d->loaded);
 }
 
 void SpriteEditor::previewColors(const QVector<QRgb>* colors)

@@ -23,6 +23,7 @@
 #include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/code/codedoc/framecode.h>
 #include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/fileinput.h>
 
 #include <QImage>
 #include <algorithm>
@@ -96,7 +97,8 @@ QVector<PanelPlace> SpriteCommands::places()
 /// A file that has gone can be brought back.
 bool SpriteCommands::canSave() const
 {
-    return m_panel->sprites() && (m_panel->sprites()->isModified() || isGone(m_panel->sprites()));
+    const Zorv::Sprites* sprites = m_panel->sprites();
+    return sprites && (Zorv::FileInput::isUnsaved(sprites) || isGone(sprites));
 }
 
 void SpriteCommands::save()

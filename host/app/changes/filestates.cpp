@@ -11,6 +11,7 @@
 #include "operations/worklines.h"
 
 #include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/fileinput.h>
 #include <zorv/core/filewatchobject.h>
 #include <zorv/core/interface.h>
 #include <zorv/core/projectfile.h>
@@ -26,6 +27,7 @@ namespace App {
 using Family::FamilyProject;
 using Operations::FileStamp;
 using Zorv::Dialogs;
+using Zorv::FileInput;
 using Zorv::ProjectFile;
 
 namespace {
@@ -82,7 +84,7 @@ QHash<QString, QString> FileStates::marks() const
     for (const FamilyProject* project : m_session->projects()) {
         const QList<ProjectFile*> files = project->files();
         for (const ProjectFile* file : files) {
-            const QString mark = (file->isModified() ? QStringLiteral("*") : QString()) +
+            const QString mark = (FileInput::isUnsaved(file) ? QStringLiteral("*") : QString()) +
                                  (isGone(file) ? QLatin1Char(' ') + tr("(missing)") : QString());
             if (!mark.isEmpty()) {
                 result.insert(QDir::cleanPath(file->fileName()), mark);
@@ -116,13 +118,7 @@ void FileStates::follow(ProjectFile* file)
 {
     synchronize(file);
     Operations::WorkEvents events;
-    // Comes with each letter that is typed.
-    events.changed = [this, file] {
-        if (file->isModified() != m_modified.contains(file)) {
-            file->isModified() ? void(m_modified.insert(file)) : void(m_modified.remove(file));
-            updateSoon();
-        }
-    };
+    events.changed = [this, file] { noteModified(file); };
     events.synchronized = [this, file] { synchronize(file); };
     events.gone = [this, file] {
         m_stamps.remove(file);
@@ -131,6 +127,32 @@ void FileStates::follow(ProjectFile* file)
     };
     events.changed();
     Operations::followWork(file, this, events);
+}
+
+/// Comes with each letter that is typed.
+void FileStates::noteModified(ProjectFile* file)
+{
+    const bool isUnsaved = FileInput::isUnsaved(file);
+    if (isUnsaved != m_modified.contains(file)) {
+        isUnsaved ? void(m_modified.insert(file)) : void(m_modified.remove(file));
+        updateSoon();
+    }
+}
+
+/// Whoever tells of it may be in the middle of an act.
+void FileStates::inputChanged()
+{
+    if (m_isInputPending) {
+        return;
+    }
+    m_isInputPending = true;
+    QTimer::singleShot(0, this, [this] {
+        m_isInputPending = false;
+        const QList<ProjectFile*> files = m_stamps.keys();
+        for (ProjectFile* file : files) {
+            noteModified(file);
+        }
+    });
 }
 
 void FileStates::synchronize(ProjectFile* file)
@@ -175,7 +197,7 @@ QList<Zorv::FileWatchObject*> FileStates::fileChanged(const QString&,
     QList<Zorv::FileWatchObject*> others;
     for (Zorv::FileWatchObject* object : objects) {
         auto* file = dynamic_cast<ProjectFile*>(object);
-        if (file && m_stamps.contains(file) && file->isModified()) {
+        if (file && m_stamps.contains(file) && FileInput::isUnsaved(file)) {
             m_toAsk.insert(file);
             askSoon();
         } else {
@@ -203,7 +225,7 @@ void FileStates::askSoon()
 
 void FileStates::askAboutChanged(ProjectFile* file)
 {
-    if (!file->isModified() || !isOvertaken(file)) {
+    if (!FileInput::isUnsaved(file) || !isOvertaken(file)) {
         return;
     }
     const QStringList choices{tr("Keep the changes here"),

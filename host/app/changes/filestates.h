@@ -48,6 +48,9 @@ public:
     fileChanged(const QString& path, const QList<Zorv::FileWatchObject*>& objects) override;
     void fileGone(const QString& path) override;
 
+    /// There is work on some file that has not gone into it, or there is none any more.
+    void inputChanged();
+
 signals:
     /// A file has unsaved changes or has not any more, has gone or come back.
     void changed();
@@ -57,6 +60,7 @@ private:
     void followProject(Family::FamilyProject* project);
     void synchronize(Zorv::ProjectFile* file);
     void follow(Zorv::ProjectFile* file);
+    void noteModified(Zorv::ProjectFile* file);
     QHash<QString, QString> marks() const;
     void updateSoon();
     void askSoon();
@@ -71,6 +75,7 @@ private:
     QSet<Zorv::ProjectFile*> m_toAsk;
     QHash<QString, QString> m_marks;
     bool m_isUpdatePending = false;
+    bool m_isInputPending = false;
     bool m_isAsking = false;
 };
 

@@ -44,6 +44,7 @@
 
 #include <zorv/animation/thumbnails/thumbnailseditor.h>
 #include <zorv/core/fileid.h>
+#include <zorv/core/fileinput.h>
 #include <zorv/editors/code/codeeditor.h>
 #include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
@@ -67,6 +68,7 @@ namespace App {
 
 using Family::FamilyDocument;
 using Family::FamilyProject;
+using Zorv::FileInput;
 
 namespace {
 
@@ -260,7 +262,9 @@ void MainWindow::connectParts()
     });
     connect(editors(), &EditorRegistry::currentChanged, parts, &PartList::update);
     connect(editors(), &EditorRegistry::modified, parts, &PartList::updateSoon);
-    connect(new FileStates(session()), &FileStates::changed, parts, &PartList::gameChanged);
+    auto* states = new FileStates(session());
+    connect(states, &FileStates::changed, parts, &PartList::gameChanged);
+    connect(editors(), &EditorRegistry::modified, states, &FileStates::inputChanged);
     connect(m_code->editor(), &Zorv::CodeEditor::markClicked, m_messagePanel,
             &MessagePanel::showMessageOfLine);
     connect(m_services.status, &StatusFields::problemsClicked, m_messagePanel,
@@ -331,9 +335,9 @@ void MainWindow::updateTitle()
     }
     setWindowTitle(text);
     const FamilyProject* project = m_services.parts->project();
-    const bool areSprites = project && project->sprites() && project->sprites()->isModified();
-    const bool areSounds = project && project->sounds() && project->sounds()->isModified();
-    setWindowModified((document && document->isModified()) || areSprites || areSounds);
+    const bool areSprites = project && FileInput::isUnsaved(project->sprites());
+    const bool areSounds = project && FileInput::isUnsaved(project->sounds());
+    setWindowModified(FileInput::isUnsaved(document) || areSprites || areSounds);
     m_sprites->panel()->parentWidget()->setWindowModified(areSprites);
     m_sounds->panel()->parentWidget()->setWindowModified(areSounds);
     m_hint->setText(session()->game() ? tr("A double click in the tree of projects shows a text.")

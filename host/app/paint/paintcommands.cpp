@@ -163,10 +163,8 @@ bool PaintCommands::canSave() const
     return m_editor->file() && (m_editor->isModified() || isGone(m_editor->file()));
 }
 
-/// The canvas goes into the sprite first.
 void PaintCommands::save()
 {
-    m_editor->saveImage();
     if (saveFiles({m_editor->file()})) {
         m_services.status->showPassing(
             tr("%1 is saved.").arg(m_services.session->shownPath(m_editor->file()->fileName())));

@@ -4,6 +4,7 @@
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
 
+#include <zorv/core/fileinput.h>
 #include <zorv/core/projectfile.h>
 
 #include <QDir>
@@ -16,6 +17,7 @@ namespace App {
 using Family::FamilyDocument;
 using Family::FamilyParentProject;
 using Family::FamilyProject;
+using Zorv::FileInput;
 
 namespace {
 
@@ -204,7 +206,7 @@ QList<FamilyDocument*> GameSession::modifiedDocuments(const FamilyProject* proje
         }
         const QList<FamilyDocument*> documents = open->documents();
         for (FamilyDocument* document : documents) {
-            if (document->isModified()) {
+            if (FileInput::isUnsaved(document)) {
                 result.append(document);
             }
         }
@@ -224,7 +226,7 @@ QList<Zorv::ProjectFile*> GameSession::modifiedFiles(const FamilyProject* projec
             // Also those that the text names no more.
             const QList<Zorv::ProjectFile*> files = open->filesByType(type);
             for (Zorv::ProjectFile* file : files) {
-                if ((!project || project == open) && file->isModified()) {
+                if ((!project || project == open) && FileInput::isUnsaved(file)) {
                     result.append(file);
                 }
             }

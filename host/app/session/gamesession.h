@@ -76,7 +76,8 @@ public:
                                      const Family::FamilyProject* preferred = nullptr,
                                      bool load = false) const;
 
-    /// The modified documents of one project, or with null of all.
+    /// The documents of one project, or with null of all, that are unsaved, as
+    /// `Zorv::FileInput::isUnsaved()` tells.
     QList<Family::FamilyDocument*>
     modifiedDocuments(const Family::FamilyProject* project = nullptr) const;
 

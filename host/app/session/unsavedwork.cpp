@@ -7,6 +7,7 @@
 
 #include <zorv/core/dialogs/dialogs.h>
 #include <zorv/core/filechange.h>
+#include <zorv/core/fileinput.h>
 #include <zorv/core/files.h>
 #include <zorv/core/filewatchobject.h>
 #include <zorv/core/interface.h>
@@ -22,6 +23,7 @@ namespace App {
 
 using Family::FamilyDocument;
 using Zorv::Dialogs;
+using Zorv::FileInput;
 using Zorv::ProjectFile;
 
 namespace {
@@ -214,15 +216,8 @@ QString questionAbout(bool isOne, bool areChanged)
                             "is open here is their last copy:");
 }
 
-}  // namespace
-
-bool readAgain(ProjectFile* file)
-{
-    auto* watched = dynamic_cast<Zorv::FileWatchObject*>(file);
-    return watched ? watched->reload() : file->fromFile(*file->archive(), file->fileName(), false);
-}
-
-bool saveFiles(QList<ProjectFile*> files)
+/// False if the person gives up, or some of it fails; `errors` tells why.
+bool writeAll(QList<ProjectFile*> files, QStringList* errors)
 {
     QList<Twins> twins;
     if (!settleTwins(&files, &twins)) {
@@ -234,19 +229,42 @@ bool saveFiles(QList<ProjectFile*> files)
             pauseWatch(other, true);
         }
     }
-    QStringList errors;
     bool all = true;
     for (ProjectFile* file : qAsConst(files)) {
         QString error;
         const Operations::Saved saved = saveFile(file, &error);
         all = all && saved == Operations::Saved::Done;
         if (saved == Operations::Saved::Failed) {
-            errors.append(error);
+            errors->append(error);
         }
     }
     for (const Twins& sharing : qAsConst(twins)) {
         all = readSaved(sharing) && all;
     }
+    return all;
+}
+
+}  // namespace
+
+bool readAgain(ProjectFile* file)
+{
+    auto* watched = dynamic_cast<Zorv::FileWatchObject*>(file);
+    const bool isRead =
+        watched ? watched->reload() : file->fromFile(*file->archive(), file->fileName(), false);
+    if (isRead) {
+        FileInput::drop(file);
+    }
+    return isRead;
+}
+
+bool saveFiles(QList<ProjectFile*> files)
+{
+    QStringList errors;
+    bool all = true;
+    for (const ProjectFile* file : qAsConst(files)) {
+        all = FileInput::take(file, &errors) && all;
+    }
+    all = writeAll(std::move(files), &errors) && all;
     if (!errors.isEmpty()) {
         Dialogs::instance()->error(Text::tr("Save"), errors.join(QLatin1Char('\n')));
     }
@@ -270,8 +288,9 @@ bool askAboutUnsaved(const QList<ProjectFile*>& files)
         return true;
     }
     const bool isOne = files.size() == 1;
-    const bool areChanged = std::all_of(files.begin(), files.end(),
-                                        [](const ProjectFile* file) { return file->isModified(); });
+    const bool areChanged = std::all_of(files.begin(), files.end(), [](const ProjectFile* file) {
+        return FileInput::isUnsaved(file);
+    });
     const QStringList choices{isOne ? Text::tr("Save") : Text::tr("Save all"),
                               areChanged ? Text::tr("Discard the changes")
                                          : Text::tr("Close without saving")};

@@ -9,10 +9,10 @@ class ProjectFile;
 
 namespace App {
 
-/// Saves texts, sprites and sounds, one after the other; a text without a name is asked for it,
-/// and the person is asked about a file that another program has changed;
-/// failures are told at the end, all at once. Of several objects of one file with different
-/// contents the person chooses one, and the others read it. True if all is done.
+/// Saves texts, sprites and sounds, one after the other, with what has not gone into them yet; a
+/// text without a name is asked for it, and the person is asked about a file that another program
+/// has changed; failures are told at the end, all at once. Of several objects of one file with
+/// different contents the person chooses one, and the others read it. True if all is done.
 bool saveFiles(QList<Zorv::ProjectFile*> files);
 
 /// Asks what becomes of unsaved files, and of those that are no longer on the disk, before they are
@@ -20,7 +20,8 @@ bool saveFiles(QList<Zorv::ProjectFile*> files);
 /// list.
 bool askAboutUnsaved(const QList<Zorv::ProjectFile*>& files);
 
-/// Reads a file again and drops its changes. False if it cannot be read; all stays then.
+/// Reads a file again and drops its changes, and what has not gone into it yet. False if it cannot
+/// be read; all stays then.
 bool readAgain(Zorv::ProjectFile* file);
 
 /// A file that several of the objects have, with different contents; empty if

@@ -4,6 +4,7 @@
 #include "app/controls/controlplacer.h"
 #include "family/project/familyproject.h"
 
+#include <zorv/core/fileinput.h>
 #include <zorv/core/projectfile.h>
 #include <zorv/editors/framework/fileeditor.h>
 #include <zorv/editors/framework/findflag.h>
@@ -299,8 +300,12 @@ bool EditorRegistry::canDiscard(const Zorv::Project* project,
         const auto* editor = qobject_cast<const Zorv::FileEditor*>(entry.editor.data());
         ProjectFile* file = editor ? editor->file() : nullptr;
         const bool isConcerned = file && (!project || file->project() == project);
-        const bool isDiscarded = isConcerned && file->isModified() && files.contains(file);
-        return !isConcerned || (isDiscarded ? editor->canDiscardInput() : editor->canDiscard());
+        const bool isAsked = isConcerned && files.contains(file);
+        if (!isConcerned || (isAsked && Zorv::FileInput::isOn(file))) {
+            return true;
+        }
+        const bool isDiscarded = isAsked && file->isModified();
+        return isDiscarded ? editor->canDiscardInput() : editor->canDiscard();
     });
 }
 

@@ -101,7 +101,7 @@ public:
     QSet<QString> areas() const;
 
     /// True if the editors let go of the files of a project, or with null of all. The person has
-    /// been asked about `files` already: what is modified of them is discarded.
+    /// been asked about `files` already: what is unsaved of them is discarded.
     bool canDiscard(const Zorv::Project* project, const QList<Zorv::ProjectFile*>& files) const;
 
     void showProject(Family::FamilyProject* project) override;

@@ -8,6 +8,8 @@
 #include "family/project/familyproject.h"
 #include "operations/documentfile.h"
 
+#include <zorv/core/fileinput.h>
+
 #include <QFileInfo>
 #include <QFileSystemWatcher>
 #include <QLabel>
@@ -15,6 +17,8 @@
 #include <QToolButton>
 
 namespace App {
+
+using Zorv::FileInput;
 
 namespace {
 
@@ -32,7 +36,8 @@ QString stateOf(const Family::FamilyDocument* document)
     if (isGone(document)) {
         return StatusFields::tr("Missing on disk");
     }
-    return document->isModified() ? StatusFields::tr("Modified") : StatusFields::tr("Saved");
+    return FileInput::isUnsaved(document) ? StatusFields::tr("Modified")
+                                          : StatusFields::tr("Saved");
 }
 
 /// Sprites and sounds are seen beside the text.
@@ -40,10 +45,10 @@ QString stateWithAssets(const Family::FamilyDocument* document)
 {
     QStringList parts{stateOf(document)};
     const Family::FamilyProject* project = projectOf(document);
-    if (project && project->sprites() && project->sprites()->isModified()) {
+    if (project && FileInput::isUnsaved(project->sprites())) {
         parts.append(StatusFields::tr("sprites modified"));
     }
-    if (project && project->sounds() && project->sounds()->isModified()) {
+    if (project && FileInput::isUnsaved(project->sounds())) {
         parts.append(StatusFields::tr("sounds modified"));
     }
     return parts.join(QLatin1String(", "));
@@ -121,10 +126,15 @@ void StatusFields::gameChanged()
     showDocument(m_document);
 }
 
-void StatusFields::updateFile()
+void StatusFields::updateState()
 {
     setText(m_state, m_document ? stateWithAssets(m_document) : QString(),
             tr("State of the file: %1"));
+}
+
+void StatusFields::updateFile()
+{
+    updateState();
     const QString note = m_document ? Operations::lineEndNote(m_document) : QString();
     setText(m_lineEnds, note.isEmpty() ? QString() : tr("Line ends: converted when saved"),
             QStringLiteral("%1"));

@@ -25,6 +25,7 @@ public:
 
     void showDocument(Family::FamilyDocument* document) override;
     void gameChanged() override;
+    void updateState() override;
 
     /// Brings state, line ends and encoding up to date.
     void updateFile();

@@ -2,6 +2,7 @@
 
 #include "core/dialogs/dialogs.h"
 #include "core/enginemodel.h"
+#include "core/fileinput.h"
 #include "core/filesystemarchive.h"
 #include "core/interface.h"
 #include "core/lazysync_p.h"
@@ -144,6 +145,7 @@ bool EngineRun::copyProjects()
                       ParentProject::tr("Oops, wrong parameters on the engine configuration. "
                                         "Check it in Tools / Options."));
     }
+    FileInput::takeOf(m_tree->model);
     m_copies = std::make_unique<TemporaryCopies>(m_folder);
     m_tree->runnable = false;
     for (int i = 0; i < marks.size() && m_tree; ++i) {

@@ -1,6 +1,7 @@
 #include "editors/framework/fileeditor.h"
 
 #include "core/dialogs/dialogs.h"
+#include "core/fileinput.h"
 #include "core/filesystemarchive.h"
 #include "core/interface.h"
 #include "core/messages.h"
@@ -171,6 +172,7 @@ void FileEditor::save()
     if (!current || !isModified() || !current->canSave()) {
         return;
     }
+    FileInput::take(current);
     Archive* archive = current->archive();
     if (archive && current->toFile(*archive, current->fileName(), false)) {
         emit modified();
@@ -217,6 +219,7 @@ bool FileEditor::saveFileAs(ProjectFile* file, FileEditor* editor, Interface* in
                "engine', 'Backup' and 'Save as' functions. Do you want to save it as copy?\nNote: "
                "As copy, we keep the reference to the previous file!"),
             Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
+    FileInput::take(file);
     const bool isWritten = file->toFile(*FileSystemArchive::instance(), fileName, asCopy);
     rememberFolder(*file, key, fileName);
     emit editor->modified();

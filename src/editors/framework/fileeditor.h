@@ -41,15 +41,16 @@ public slots:
     /// it is, or on demand as a copy: its content under the old identity.
     virtual void open();
 
-    /// Writes the file if it has changes; goes on to `saveAs()` if that fails.
+    /// Writes the file if it has changes, with what has not gone into it yet (`FileInput`); goes
+    /// on to `saveAs()` if that fails.
     virtual void save();
 
     /// As `saveFileAs()` for the file in work.
     virtual void saveAs();
 
 public:
-    /// True if what was typed beside the file, and is not in it yet, can go:
-    /// there is none, or the person discards it. `canDiscard()` asks this first.
+    /// True if what was typed or painted beside the file, and is not in it yet, can
+    /// go: there is none, or the person saves or discards it. `canDiscard()` asks this first.
     virtual bool canDiscardInput() const;
 
 private:

@@ -1,0 +1,226 @@
+#include "cache/sprite.h"
+#include "cache/sprites.h"
+#include "core/dialogs/dialogs.h"
+#include "core/interface.h"
+#include "image/canvas/imagelayer.h"
+#include "image/canvas/imagelayers.h"
+#include "image/canvas/imageundostack.h"
+#include "image/spriteeditor_p.h"
+
+#include <cstring>
+
+// What is on the canvas and not in its sprite. Whether there is any is asked after each step and by
+// whatever marks unsaved files: so the canvas is compared only where it was touched since it was
+// the same, and once a change.
+
+namespace Zorv {
+
+namespace {
+
+constexpr int PassingField = -1;
+
+bool areSameIn(const QRect& rect, const QImage& a, const QImage& b)
+{
+    if (a.size() != b.size() || a.format() != b.format()) {
+        return false;
+    }
+    const QRect part = rect & a.rect();
+    const int depth = a.depth() / 8;
+    const auto bytes = size_t(part.width()) * size_t(depth);
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        const auto from = std::ptrdiff_t(part.left()) * depth;
+        if (std::memcmp(a.constScanLine(y) + from, b.constScanLine(y) + from, bytes) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+bool SpriteEditorPrivate::areSamePixels(const QImage& a, const QImage& b)
+{
+    return areSameIn(a.rect(), a, b);
+}
+
+void SpriteEditorPrivate::followCanvas()
+{
+    const auto forget = [this] { isKnownChanged.reset(); };
+    connect(canvas(), &ImageCanvas::partChanged, this,
+            [this](ImageLayer*, const QRect& rect) { touch(rect); });
+    connect(canvas(), &ImageCanvas::layerChanged, this, forget);
+    connect(canvas(), &ImageCanvas::axisChanged, this, forget);
+    connect(layers(), &ImageLayers::changed, this, forget);
+    connect(history(), &ImageUndoStack::indexChanged, this, forget);
+    connect(history(), &ImageUndoStack::cleanChanged, this, [this](bool isClean) {
+        isKnownChanged.reset();
+        if (isClean) {
+            touched = {};
+        }
+    });
+}
+
+void SpriteEditorPrivate::touch(const QRect& rect)
+{
+    touched |= rect;
+    isKnownChanged.reset();
+}
+
+bool SpriteEditorPrivate::isChanged()
+{
+    if (history()->isClean() || !hasCanvas()) {
+        return false;
+    }
+    if (!isKnownChanged) {
+        isKnownChanged = compare();
+        if (!*isKnownChanged) {
+            touched = {};
+        }
+    }
+    return *isKnownChanged;
+}
+
+/// A canvas that only has another selection than at first holds no work.
+bool SpriteEditorPrivate::compare() const
+{
+    const ImageLayer* only = layers()->count() == 1 ? layers()->at(0) : nullptr;
+    return !only || !only->isVisible() || only->opacity() < 1.0 ||
+           only->blendMode() != QPainter::CompositionMode_SourceOver ||
+           canvas()->axis() != loadedAxis || !areSameIn(touched, only->image(), loaded);
+}
+
+bool SpriteEditor::isCanvasModified() const
+{
+    return d->isChanged();
+}
+
+/// True if something else can be shown. Work without a sprite can only be discarded.
+bool SpriteEditorPrivate::mayLeave()
+{
+    enum Answer { Save, Discard };
+    if (!isChanged()) {
+        return true;
+    }
+    QStringList choices{SpriteEditor::tr("Discard")};
+    if (sprite()) {
+        choices.prepend(SpriteEditor::tr("Save image changes"));
+    }
+    int answer = Dialogs::instance()->choose(
+        SpriteEditor::tr("Discard changes?"),
+        SpriteEditor::tr("Do you want to discard the changes made in the current sprite?"), choices,
+        0);
+    answer += answer >= 0 ? Discard + 1 - choices.size() : 0;
+    if (answer == Save) {
+        saveImg();
+    } else if (answer == Discard) {
+        goBack();
+    }
+    return answer >= 0 && !isChanged();
+}
+
+/// By undo or redo to where the canvas was as the sprite is; if its history has no such place any
+/// more, the sprite is read again.
+void SpriteEditorPrivate::goBack()
+{
+    const ImageRenderer::Change change(renderer);
+    canvas()->endStroke();
+    while (!history()->isClean() && history()->canUndo()) {
+        history()->undo();
+    }
+    while (!history()->isClean() && history()->canRedo()) {
+        history()->redo();
+    }
+    if (history()->isClean()) {
+        return;
+    }
+    if (sprite()) {
+        load();
+    } else {
+        remember(nullptr, -1);
+        clearCanvas();
+    }
+}
+
+/// In the sprite's own colours, whatever ones are looked at.
+QImage SpriteEditorPrivate::flattened()
+{
+    endPreview();
+    return canvas()->mergeLayers(nullptr);
+}
+
+void SpriteEditorPrivate::saveImg()
+{
+    QString error;
+    canvas()->endStroke();
+    if (sprite() && isChanged() && !putIntoSprite(&error)) {
+        tellRefusal(error);
+    }
+}
+
+bool SpriteEditorPrivate::putIntoSprite(QString* error)
+{
+    const QImage picture = flattened();
+    const QImage before = loaded;
+    {
+        const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
+        sprites->beginChange(SpriteEditor::tr("Save image changes"));
+        sprite()->setImage(picture);
+        sprite()->setProperty(QStringLiteral("Axis"), canvas()->axis());
+        sprites->endChange();
+    }
+    const Sprite* now = sprite();
+    loaded = now ? canvasForm(now->image()) : QImage();
+    loadedAxis = now ? now->axis() : QPoint();
+    const bool isRefused =
+        !areSamePixels(before, canvasForm(picture)) && areSamePixels(before, loaded);
+    if (picture.isNull() || isRefused) {
+        *error = SpriteEditor::tr("The picture could not be saved into the sprite. Make room in "
+                                  "memory, and save it again.");
+        return false;
+    }
+    history()->setClean();
+    tellHidden();
+    showPosition();
+    emit editor->modified();
+    return true;
+}
+
+void SpriteEditorPrivate::tellHidden()
+{
+    bool isHidden = false;
+    for (unsigned i = 0; i < layers()->count(); ++i) {
+        isHidden = isHidden || !layers()->at(i)->isVisible();
+    }
+    if (isHidden && !hasToldHidden) {
+        hasToldHidden = true;
+        host->showStatus(PassingField,
+                         SpriteEditor::tr("Hidden layers stay on the canvas and are not saved "
+                                          "into the sprite."));
+    }
+}
+
+ProjectFile* SpriteEditorPrivate::inputFile() const
+{
+    return editor->isCanvasModified() ? sprites.data() : nullptr;
+}
+
+bool SpriteEditorPrivate::takeInput(QString* error)
+{
+    canvas()->endStroke();
+    if (sprite()) {
+        return !isChanged() || putIntoSprite(error);
+    }
+    *error = SpriteEditor::tr("The sprite on the canvas is not in the file any more, and its "
+                              "picture cannot be saved. Copy the picture, or discard it.");
+    return false;
+}
+
+void SpriteEditorPrivate::dropInput()
+{
+    if (isChanged()) {
+        goBack();
+        showPosition();
+    }
+}
+
+}  // namespace Zorv

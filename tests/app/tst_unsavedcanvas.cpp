@@ -1,0 +1,229 @@
+#include "windowfixture.h"
+
+#include "app/actions/actionregistry.h"
+#include "app/assets/spritecommands.h"
+#include "app/assets/spritepanel.h"
+#include "app/paint/paintcommands.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/gameprogram.h"
+#include "operations/agreements.h"
+#include "support/testtable.h"
+
+#include <zorv/core/fileinput.h>
+#include <zorv/image/canvas/imagecanvas.h>
+#include <zorv/image/imagerenderer.h>
+#include <zorv/image/spriteeditor.h>
+
+#include <QAction>
+
+namespace {
+
+const char SpritePath[] = "characters/ryn/ryn.sprites";
+
+enum Answer { Cancel = -1, Save = 0, Discard = 1 };
+
+QImage picture(int seed)
+{
+    QImage image(16, 12, QImage::Format_Indexed8);
+    image.setColorTable({0x00000000, 0xffe02020, 0xff20c020, 0xff2020e0});
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            image.setPixel(x, y, uint((x / 3 + y / 2 + seed) % 4));
+        }
+    }
+    return image;
+}
+
+QImage first(const QString& fileName)
+{
+    Family::SpriteFile file;
+    const bool isRead =
+        file.fromFile(*Zorv::FileSystemArchive::instance(), fileName, false) && file.count() > 0;
+    return isRead ? file.sprite(0)->image() : QImage();
+}
+
+}  // namespace
+
+/// Work on the canvas is work of the program: all that marks, asks, copies or saves knows of it.
+class TestUnsavedCanvas : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m.reset(); }
+
+    void isMarked();
+    void isAskedAbout_data();
+    void isAskedAbout();
+    void goesIntoTheFile_data();
+    void goesIntoTheFile();
+    void isAskedAboutWhenTheFileChanges_data();
+    void isAskedAboutWhenTheFileChanges();
+    void isNotSavedWithoutItsSprite();
+
+private:
+    Zorv::SpriteEditor* editor() const { return m->window->paint()->editor(); }
+    Zorv::ImageCanvas* canvas() const { return editor()->renderer()->canvas(); }
+    Family::SpriteCollection* sprites() const { return m->window->spritePanel()->sprites(); }
+    QImage shown() const { return canvas()->mergeLayers(nullptr); }
+    QImage flipped() const { return picture(0).mirrored(true, false); }
+    void trigger(const QString& name) const
+    {
+        QCoreApplication::processEvents();
+        QAction* action = m->window->registry()->action(name);
+        QVERIFY2(action->isEnabled(), qPrintable(name));
+        action->trigger();
+        QCoreApplication::processEvents();
+    }
+
+    std::unique_ptr<TemporaryGame> m_game;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<WindowFixture> m;
+};
+
+void TestUnsavedCanvas::init()
+{
+    m_game = std::make_unique<TemporaryGame>();
+    m_game->write("characters/ryn/ryn.character",
+                  "[info]\r\nname = \"Ryn\"\r\n[files]\r\nsprites = \"ryn.sprites\"\r\n"
+                  "animations = \"basic.anim\"\r\n");
+    m_game->write("zorv-player",
+                  "#!/bin/sh\ncp \"$(dirname \"$2\")/ryn.sprites\" \"$RECORD/copy.sprites\"\n");
+    QFile::setPermissions(m_game->path("zorv-player"), QFile::ReadOwner | QFile::ExeOwner);
+    Family::SpriteFile file;
+    QVERIFY(file.insertSprite(-1, {0, 0}, {8, 11}, picture(0)));
+    QVERIFY(file.insertSprite(0, {0, 1}, {8, 11}, picture(1)));
+    QVERIFY(file.toFile(*Zorv::FileSystemArchive::instance(), m_game->path(SpritePath), false));
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("RECORD", m_folder->path().toLocal8Bit());
+    m = std::make_unique<WindowFixture>();
+    QVERIFY(Operations::agreeTo(Family::GameProgram(m_game->root()), m->settings));
+    m->open(*m_game, m_game->ryn(), m_game->animations());
+    QVERIFY(m->window->openFile(m_game->path(SpritePath)));
+    trigger("spr_image_fliph");
+    QCOMPARE(shown(), flipped());
+}
+
+void TestUnsavedCanvas::isMarked()
+{
+    const auto* dock = m->window->spritePanel()->parentWidget();
+    const auto treeText = [this] {
+        const App::GameTree* tree = m->window->gameTree();
+        return tree->indexOf(m_game->path(SpritePath)).data().toString();
+    };
+    for (const bool isChanged : {true, false}) {
+        QTRY_COMPARE(m->window->isWindowModified(), isChanged);
+        QCOMPARE(dock->isWindowModified(), isChanged);
+        QCOMPARE(m->window->status()->stateText().contains("sprites modified"), isChanged);
+        QCOMPARE(m->action("save_all")->isEnabled(), isChanged);
+        QTRY_COMPARE(treeText(), isChanged ? "ryn.sprites*" : "ryn.sprites");
+        QCOMPARE(m->window->session()->modifiedFiles().contains(sprites()), isChanged);
+        QVERIFY(!sprites()->isModified());
+        m->action("undo")->trigger();
+    }
+}
+
+void TestUnsavedCanvas::isAskedAbout_data()
+{
+    columns<QString, int>("what", "answer");
+    for (const char* what : {"window", "close_project", "close_folder", "spr_next"}) {
+        for (const int answer : {Cancel, Save, Discard}) {
+            QTest::addRow("%s %d", what, answer) << what << answer;
+        }
+    }
+}
+
+/// One question; what is saved is saved, what is discarded is nowhere, and without an answer all
+/// stays.
+void TestUnsavedCanvas::isAskedAbout()
+{
+    const auto [what, answer] = fetched<QString, int>();
+    const QByteArray before = m_game->read(SpritePath);
+    m->dialogs.choiceAnswers = {answer};
+    if (what == "window") {
+        QCOMPARE(m->window->close(), answer != Cancel);
+    } else {
+        trigger(what);
+    }
+    QCOMPARE(m->dialogs.count(), 1);
+    if (answer == Cancel) {
+        QCOMPARE(shown(), flipped());
+        QVERIFY(editor()->isCanvasModified() && editor()->spriteIndex() == 0);
+    }
+    if (what == "spr_next") {
+        QCOMPARE(m->dialogs.shown.first().title, QString("Discard changes?"));
+        QCOMPARE(sprites()->sprite(0)->image() == flipped(), answer == Save);
+        QCOMPARE(sprites()->isModified(), answer == Save);
+        QCOMPARE(m_game->read(SpritePath), before);
+    } else {
+        QCOMPARE(first(m_game->path(SpritePath)) == flipped(), answer == Save);
+        QCOMPARE(m_game->read(SpritePath) == before, answer != Save);
+        QCOMPARE(editor()->sprites() != nullptr, what == "window" || answer == Cancel);
+    }
+}
+
+void TestUnsavedCanvas::goesIntoTheFile_data()
+{
+    columns<QString>("what");
+    for (const char* what : {"save", "save_all", "backup", "run"}) {
+        QTest::newRow(what) << what;
+    }
+}
+
+void TestUnsavedCanvas::goesIntoTheFile()
+{
+    const auto [what] = fetched<QString>();
+    QString written = m_game->path(SpritePath);
+    if (what == "backup") {
+        Family::FamilyParentProject* game = m->window->session()->game();
+        written = m_game->path("backup/") + game->makeBackup("one") + '/' + SpritePath;
+    } else {
+        trigger(what);
+    }
+    if (what == "run") {
+        written = m_folder->filePath("copy.sprites");
+    }
+    QCOMPARE(first(written), flipped());
+    QCOMPARE(m->dialogs.count(), 0);
+    QVERIFY(!editor()->isCanvasModified());
+    QCOMPARE(sprites()->undoTitle(), QString("Save image changes"));
+    QCOMPARE(sprites()->isModified(), !what.startsWith("save"));
+}
+
+void TestUnsavedCanvas::isAskedAboutWhenTheFileChanges_data()
+{
+    columns<int>("answer");
+    QTest::newRow("kept") << 0;
+    QTest::newRow("read") << 1;
+}
+
+void TestUnsavedCanvas::isAskedAboutWhenTheFileChanges()
+{
+    const auto [answer] = fetched<int>();
+    Family::SpriteFile file;
+    QVERIFY(file.insertSprite(-1, {0, 0}, {8, 11}, picture(2)));
+    m->dialogs.choiceAnswers = {answer};
+    QVERIFY(file.toFile(*Zorv::FileSystemArchive::instance(), m_game->path(SpritePath), true));
+    QTRY_COMPARE(m->dialogs.count(), 1);
+    QCOMPARE(m->dialogs.shown.first().title, QString("File modified"));
+    QCOMPARE(editor()->isCanvasModified(), answer == 0);
+    QTRY_COMPARE(shown(), answer == 0 ? flipped() : picture(2));
+}
+
+/// What belongs to a sprite that is gone cannot be saved, and is not lost by trying.
+void TestUnsavedCanvas::isNotSavedWithoutItsSprite()
+{
+    sprites()->removeSprite(0);
+    m->dialogs.choiceAnswers = {Save};
+    QVERIFY(!m->window->close());
+    QCOMPARE(m->dialogs.count("error"), 1);
+    QCOMPARE(first(m_game->path(SpritePath)), picture(1));
+    QCOMPARE(shown(), flipped());
+    QVERIFY(Zorv::FileInput::isUnsaved(sprites()));
+    m->dialogs.choiceAnswers = {Discard};
+    QVERIFY(m->window->close());
+}
+
+QTEST_MAIN(TestUnsavedCanvas)
+#include "tst_unsavedcanvas.moc"
