@@ -6600,6 +6600,28 @@ Zeile %2, Spalte %3.</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::SoundPlayer</name>
+    <message>
+        <source>This sound has no form that can be played.</source>
+        <translation>Dieser Klang hat keine Form, die abgespielt werden kann.</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: there is no sound device. Connect one, and play again.</source>
+        <translation>Es ist nichts zu hören: Es gibt kein Tongerät. Bitte eines anschließen und wieder abspielen.</translation>
+    </message>
+    <message>
+        <source>Nothing is heard: the sound device could not be opened, or has gone. Connect it, and play again.</source>
+        <translation>Es ist nichts zu hören: Das Tongerät ließ sich nicht öffnen oder ist nicht mehr da. Bitte anschließen und wieder abspielen.</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SoundWorkspace</name>
+    <message>
+        <source>Waveform</source>
+        <translation>Wellenform</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::SpriteEditor</name>
     <message>
         <source>Not possible</source>

@@ -7,6 +7,7 @@
 #include <QThreadPool>
 #include <QtConcurrent>
 
+#include <functional>
 #include <samplerate.h>
 
 using namespace Zorv;
@@ -57,11 +58,12 @@ void onTwoThreads()
     const QVector<SoundSample> sounds(Sounds, noise(1, 1));
     SampleInfo target = sounds.first();
     target.sampleRate = 48000;
+    const std::function<int(const SoundSample&)> length = [&](const SoundSample& sound) {
+        return convertSound(sound, target).sample.frames;
+    };
     const auto convert = [&](int threads) {
         QThreadPool::globalInstance()->setMaxThreadCount(threads);
-        QtConcurrent::blockingMapped<QVector<int>>(sounds, [&](const SoundSample& sound) {
-            return convertSound(sound, target).sample.frames;
-        });
+        QtConcurrent::blockingMapped<QVector<int>>(sounds, length);
     };
     Bench::ratio("ten sounds on two threads, to one",
                  Bench::pairedRatio(
