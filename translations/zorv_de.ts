@@ -2987,6 +2987,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
             <numerusform>%n Warnungen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>a motion in double quotes, such as &quot;D, DF, F, L&quot;</source>
+        <translation>eine Bewegung in doppelten Anführungszeichen, etwa &quot;D, DF, F, L&quot;</translation>
+    </message>
+    <message>
+        <source>%1 means nothing in a motion. Expected directions such as DF and buttons such as L, with &apos;+&apos; between what is done together, &apos;~&apos; in front of what is let go, and commas between the steps.</source>
+        <translation>%1 bedeutet in einer Bewegung nichts. Erwartet: Richtungen wie DF und Knöpfe wie L, mit „+“ zwischen dem, was zugleich geschieht, „~“ vor dem, was losgelassen wird, und Kommas zwischen den Schritten.</translation>
+    </message>
 </context>
 <context>
     <name>Family::AssetReload</name>
@@ -4016,6 +4024,38 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>The music of a stage</source>
         <translation>Die Musik einer Bühne</translation>
+    </message>
+    <message>
+        <source>The state that it starts from</source>
+        <translation>Der Zustand, aus dem er beginnt</translation>
+    </message>
+    <message>
+        <source>How often the move hits</source>
+        <translation>Wie oft der Zug trifft</translation>
+    </message>
+    <message>
+        <source>Ticks for which both stand still</source>
+        <translation>Ticks, für die beide stillstehen</translation>
+    </message>
+    <message>
+        <source>Ticks for which the other cannot act after a guarded hit</source>
+        <translation>Ticks, für die der andere nach einem abgewehrten Treffer nicht handeln kann</translation>
+    </message>
+    <message>
+        <source>Whether the other falls</source>
+        <translation>Ob der andere fällt</translation>
+    </message>
+    <message>
+        <source>Power gained when it hits and when it is guarded</source>
+        <translation>Kraft, die es bringt, wenn er trifft und wenn er abgewehrt wird</translation>
+    </message>
+    <message>
+        <source>Rounds that win a match</source>
+        <translation>Runden, mit denen ein Kampf gewonnen ist</translation>
+    </message>
+    <message>
+        <source>Seconds of a round; 0 is without end</source>
+        <translation>Sekunden einer Runde; 0 ist ohne Ende</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,7 @@ class Attack:
     priority: int
     sound: tuple
     cancels: str = ""
+    source: str = ""  # the state that it starts from
     air: str = "no"
     velocity: tuple = ()
     shake: tuple = ()
@@ -75,6 +76,8 @@ class Attack:
         yield f"animation = {self.number}"
         if self.air != "no":
             yield f"air       = {self.air}"
+        if self.source:
+            yield f"from      = {self.source}"
         yield f"priority  = {self.priority}"
         if self.velocity:
             yield "velocity  = {:g}, {:g}".format(*self.velocity)

@@ -64,7 +64,7 @@ THROWS = [
            (2, 3), (3,), (10, 10), 34, 62, 40, -6, (140, 0), "throw", 44, (-4, -6), 6, (2, 3)),
     Attack("cart", 140, "Cart", "Out of the run; only a wall stops him.", "heavy", "guard",
            (4, 4), (5, 5), (8, 8), 40, 60, 52, 18, (96, 9), "middle", 28, (7, -2), 4, (2, 2),
-           velocity=(4.5, 0), shake=(2, 2, 2, 1)),
+           source="run", velocity=(4.5, 0), shake=(2, 2, 2, 1)),
 ]
 
 ATTACKS = [("Standing", STANDING), ("Crouched", CROUCHED), ("In the air", JUMPING),

@@ -63,7 +63,7 @@ THROWS = [
            (-5, -6), 5, (1, 3)),
     Attack("boarding", 140, "Boarding", "Out of the run, with the shoulder.", "medium", "guard",
            (3, 3), (4, 3), (6, 6), 34, 68, 34, 14, (66, 6), "middle", 21, (5, -2), 3, (1, 1),
-           velocity=(5, 0), shake=(1,)),
+           source="run", velocity=(5, 0), shake=(1,)),
 ]
 
 ATTACKS = [("Standing", STANDING), ("Crouched", CROUCHED), ("In the air", JUMPING),

@@ -108,6 +108,7 @@ private slots:
 void TestGrammar::problem_data()
 {
     columns<ProblemId, int, int, int>("id", "line", "column", "length");
+    // clang-format off
     const struct
     {
         ProblemId id;
@@ -147,6 +148,7 @@ void TestGrammar::problem_data()
         {ProblemId::CommaMissing, 4, 11, 1},
         {ProblemId::CountOfNumbers, 4, 8, 2},
         {ProblemId::OutOfRange, 2, 8, 1},
+        {ProblemId::MotionUnknown, 2, 8, 9},
         {ProblemId::AnimationIdentifier, 1, 11, 5},
         {ProblemId::FrameOutside, 1, 1, 9},
         {ProblemId::FrameSprite, 2, 7, 4},
@@ -180,6 +182,7 @@ void TestGrammar::problem_data()
         {ProblemId::SoundsUnused, 2, 10, 16},
         {ProblemId::ColoursLost, 2, 11, 17},
     };
+    // clang-format on
     QCOMPARE(int(std::size(rows)), ProblemCount - 1);
     for (const auto& row : rows) {
         ::row(problemInfo(row.id).name, row.id, row.line, row.column, row.length);

@@ -132,7 +132,7 @@ const KeyInfo bodyKeys[] = {
 };
 
 const KeyInfo commandsKeys[] = {
-    with(key("", Form::Text, QT_TRANSLATE_NOOP("Grammar", "The motion of a command")),
+    with(key("", Form::Motion, QT_TRANSLATE_NOOP("Grammar", "The motion of a command")),
          KeyInfo::Free | repeatable),
 };
 
@@ -149,11 +149,14 @@ const KeyInfo moveKeys[] = {
              QT_TRANSLATE_NOOP("Grammar", "Shown during the move")),
          required),
     choice("air", "no|yes|only", QT_TRANSLATE_NOOP("Grammar", "Where it can be started")),
+    choice("from", "any|stand|crouch|run|guard|fall",
+           QT_TRANSLATE_NOOP("Grammar", "The state that it starts from")),
     key("priority", Form::Count, 1, 7, QT_TRANSLATE_NOOP("Grammar", "Which of two attacks wins")),
     key("velocity", Form::RealPoint, -speed, speed,
         QT_TRANSLATE_NOOP("Grammar", "Speed at the start")),
-    key("cancels", Form::MoveName,
-        QT_TRANSLATE_NOOP("Grammar", "The move that it can be cancelled into")),
+    with(key("cancels", Form::MoveName,
+             QT_TRANSLATE_NOOP("Grammar", "The move that it can be cancelled into")),
+         repeatable),
     key("note", Form::Text, QT_TRANSLATE_NOOP("Grammar", "For the person")),
 };
 
@@ -168,10 +171,18 @@ const KeyInfo hitKeys[] = {
          required),
     choice("level", "high|middle|low|throw",
            QT_TRANSLATE_NOOP("Grammar", "How it has to be guarded"), "mid=middle"),
+    key("hits", Form::Count, 1, 100, QT_TRANSLATE_NOOP("Grammar", "How often the move hits")),
+    key("stop", Form::Count, 0, 60,
+        QT_TRANSLATE_NOOP("Grammar", "Ticks for which both stand still")),
     key("stun", Form::Count, 0, 600,
         QT_TRANSLATE_NOOP("Grammar", "Ticks for which the other cannot act")),
+    key("guard-stun", Form::Count, 0, 600,
+        QT_TRANSLATE_NOOP("Grammar", "Ticks for which the other cannot act after a guarded hit")),
     key("push", Form::RealPoint, -speed, speed,
         QT_TRANSLATE_NOOP("Grammar", "Speed given to the other")),
+    choice("falls", "yes|no", QT_TRANSLATE_NOOP("Grammar", "Whether the other falls")),
+    key("gain", Form::Pair, 0, 9999,
+        QT_TRANSLATE_NOOP("Grammar", "Power gained when it hits and when it is guarded")),
     key("spark", Form::Point, QT_TRANSLATE_NOOP("Grammar", "Place of the spark")),
     key("shake", Form::Ints, 0, 64,
         QT_TRANSLATE_NOOP("Grammar", "Pixels by which the screen shakes, tick by tick")),
@@ -208,6 +219,9 @@ const KeyInfo arenaKeys[] = {
     key("gravity", Form::Real, 0, 16,
         QT_TRANSLATE_NOOP("Grammar", "Factor on the gravity of characters")),
     key("shadow", Form::Colour, QT_TRANSLATE_NOOP("Grammar", "Colour of shadows")),
+    key("rounds", Form::Count, 1, 9, QT_TRANSLATE_NOOP("Grammar", "Rounds that win a match")),
+    key("time", Form::Count, 0, 999,
+        QT_TRANSLATE_NOOP("Grammar", "Seconds of a round; 0 is without end")),
 };
 
 const KeyInfo startKeys[] = {

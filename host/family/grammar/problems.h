@@ -45,6 +45,7 @@ enum class ProblemId : unsigned char {
     CommaMissing,
     CountOfNumbers,
     OutOfRange,
+    MotionUnknown,
     AnimationIdentifier,
     FrameOutside,
     FrameSprite,

@@ -1,6 +1,7 @@
 #include "family/grammar/valuereader.h"
 
 #include "family/grammar/grammar.h"
+#include "family/grammar/motion.h"
 #include "family/grammar/numbers.h"
 
 #include <QDate>
@@ -186,6 +187,8 @@ bool ValueReader::readSingle(const KeyInfo& key, QVariant* value)
         *value = text;
         return fine;
     }
+    case Form::Motion:
+        return readMotionText(value);
     case Form::Path:
         return readPath(value);
     case Form::Name:
@@ -275,6 +278,25 @@ bool ValueReader::readPath(QVariant* value)
         path.replace(QLatin1Char('\\'), QLatin1Char('/'));
     }
     *value = path;
+    return true;
+}
+
+// What stays a text is kept: only an engine has no use for it.
+bool ValueReader::readMotionText(QVariant* value)
+{
+    const int start = m_scanner.position();
+    QString text;
+    if (!readText(&text)) {
+        return false;
+    }
+    *value = text;
+    if (m_report.wantsProblems()) {
+        QString fault;
+        if (!readMotion(text, nullptr, &fault)) {
+            m_report.problem(ProblemId::MotionUnknown, {quoted(QStringRef(&fault))}, start,
+                             m_scanner.position(), Syntax::String);
+        }
+    }
     return true;
 }
 

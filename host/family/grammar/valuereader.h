@@ -41,6 +41,7 @@ private:
     bool readScalar(const KeyInfo& key, QVariant* value);
     bool readSingle(const KeyInfo& key, QVariant* value);
     bool readPath(QVariant* value);
+    bool readMotionText(QVariant* value);
     bool readWord(QVariant* value);
     bool readChoice(const KeyInfo& key, QVariant* value);
     bool readDate(QVariant* value);
