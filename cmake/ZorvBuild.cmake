@@ -33,7 +33,16 @@ if(CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
+# Each of the many tests is a program with all that it tests in it. This linker needs a sixth of the
+# time of the default one.
+if(ZORV_TESTS)
+    find_program(LLD ld.lld)
+endif()
+
 add_library(zorv_options INTERFACE)
+if(LLD)
+    target_link_options(zorv_options INTERFACE -fuse-ld=lld)
+endif()
 target_compile_options(zorv_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
 target_compile_definitions(zorv_options INTERFACE

@@ -13,6 +13,7 @@ packages_run=(
 )
 packages_test=(
     python3 qttranslations5-l10n
+    lld   # links the many test programs in a sixth of the time
     imagemagick netpbm giflib-tools sox   # make and read the files that tests compare with
 )
 packages_bench=(
