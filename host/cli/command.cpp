@@ -146,12 +146,28 @@ constexpr Command table[] = {
      "PLACE is a folder, a pattern such as 'out/hero-*.png', or the file for a single one. The\n"
      "files are called GROUP-NUMBER.png, as 'sprites import' reads them."},
     {"sprites import", "FILE IMAGE...", 2, Command::Any,
-     Group | Axis | Crop | PaletteId | Recolor | Coding | Force, importSprites,
+     Group | Axis | Crop | PaletteId | Recolor | Reversed | Coding | Force, importSprites,
      "Add images to a sprite file.",
      "Each goes to the group and number at the end of its name, as in hero-200-3.png. FILE is made\n"
      "if it is not there. Without --palette an image brings its own palette, unless it is there\n"
      "already; with it pixels take the nearest of its colours. If one of the images cannot be\n"
      "read, or its sprite is there already, nothing is changed; with --force it is replaced."},
+    {"sprites axis", "FILE PLACE [X,Y]", 2, 3, Select, setSpriteAxes,
+     "Set the axis of sprites.",
+     "PLACE is a place of the image: 'bottom' the middle of its bottom edge, 'top-left', 'top',\n"
+     "'top-right', 'left', 'middle', 'right', 'bottom-left' or 'bottom-right'; or 'current', where\n"
+     "the axis is. X,Y is added to that. 32,96 alone are pixels from the top left corner."},
+    {"sprites renumber", "FILE TO", 2, 2, Select, renumberSprites,
+     "Give sprites other groups and numbers.",
+     "TO is a group such as 300, in which they keep their numbers; 300,0, where they are numbered\n"
+     "from 0 on in their order; or +100 or -100, which is added to their groups. If two sprites\n"
+     "would be called the same, nothing is changed. Frames that show them stay as they are: 'check'\n"
+     "finds those whose sprites have gone."},
+    {"sprites recolor", "FILE PALETTE", 2, 2, Select | Adapt, recolorSprites,
+     "Give sprites another palette.",
+     "PALETTE is the group and number of one of FILE, such as 1,2; or a palette file, which is added\n"
+     "unless its colours are there. Pixels keep their indices, or with --adapt their looks; then\n"
+     "sprites of true colour get indices too."},
     {"sprites sheet", "FILE IMAGE", 2, 2, Select | PaletteId | Columns | Json | Force, makeSheet,
      "Draw the sprites of a sprite file on one image.",
      "They stand in rows, in their order. With --json the place of each is printed. The sheet is\n"
@@ -169,6 +185,21 @@ constexpr Command table[] = {
      "Show images, or the sprites of a sprite file, in other colours.",
      "PALETTE is a palette file or an indexed image. FILE is an indexed image, whose pixels keep\n"
      "their indices, or a sprite file, of which --select tells the palette that is replaced."},
+    {"palette reorder", "FILE ORDER", 2, 2, Select | Slots | Descending | Costumes, reorderPalette,
+     "Put the colours of a palette of a sprite file in another order; pictures stay.",
+     "The pixels of all sprites that use it follow. ORDER is hue, lightness, chroma, red, green, blue\n"
+     "or alpha; slot 0 and transparent colours keep their places, unless --slots names them. Or it is\n"
+     "slots such as 7,3,5, which are put in this order in the places that they have together.\n"
+     "--select tells which palette, if there are several; several get the order of the first. What\n"
+     "remaps show instead of it goes along."},
+    {"palette ramp", "FILE FIRST LAST", 3, 3, Select | Space, rampPalette,
+     "Fill the slots between two colours of a palette of a sprite file with steps.",
+     "The colours in the slots FIRST and LAST stay. --select tells which palette, if there are\n"
+     "several."},
+    {"palette uses", "FILE", 1, 1, Select | Json, listUses,
+     "Print how often the colours of palettes are used.",
+     "A line for each slot of a palette of a sprite file that a sprite uses, with a tab between the\n"
+     "palette, the slot, its colour as #rrggbb, the count of sprites and that of their pixels."},
     {"palette convert", "FILE...", 1, Command::Any, Out | Force, convertPalettes,
      "Write palettes as ACT files.",
      "Palettes are read from .act, .pal, .aco, .ase, .txt, and from indexed images. Colour 0\n"

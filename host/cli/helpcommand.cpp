@@ -8,7 +8,7 @@ namespace Cli {
 
 namespace {
 
-const int NameWidth = 17;
+const int NameWidth = 18;
 const int OptionWidth = 20;
 
 QString tr(const char* text)

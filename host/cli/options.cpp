@@ -123,6 +123,24 @@ QString takeFilter(const QString& text, Invocation& invocation)
                       : expected(QT_TRANSLATE_NOOP("Cli", "nearest, bilinear, epx or hq"), text);
 }
 
+QString takeSlots(const QString& text, Invocation& invocation)
+{
+    const bool isRange =
+        takePair(text, "^(\\d{1,3})-(\\d{1,3})$", &invocation.firstSlot, &invocation.lastSlot) &&
+        invocation.firstSlot <= invocation.lastSlot && invocation.lastSlot <= 255;
+    return isRange ? QString()
+                   : expected(QT_TRANSLATE_NOOP("Cli", "slots such as 16-31, up to 255"), text);
+}
+
+QString takeSpace(const QString& text, Invocation& invocation)
+{
+    const int index =
+        QStringList{QStringLiteral("rgb"), QStringLiteral("hsv"), QStringLiteral("oklab")}.indexOf(
+            text);
+    invocation.space = Zorv::ColorSpace(qMax(index, 0));
+    return index >= 0 ? QString() : expected(QT_TRANSLATE_NOOP("Cli", "rgb, hsv or oklab"), text);
+}
+
 QString takePlace(const QString& text, Invocation& invocation)
 {
     invocation.output.place = text;
@@ -193,6 +211,16 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "pixels take the nearest of the new colours, instead of their indices")},
     {Recolor, "--recolour", nullptr, setFlag<&Invocation::recolors>,
      QT_TRANSLATE_NOOP("Cli", "the palette takes the colours of the image, for all its sprites")},
+    {Reversed, "--reversed", nullptr, setFlag<&Invocation::reverses>,
+     QT_TRANSLATE_NOOP("Cli", "the order of the colours of an image is reversed, its picture stays")},
+    {Slots, "--slots", "A-B", takeSlots,
+     QT_TRANSLATE_NOOP("Cli", "only these slots, also 0 and those that are transparent")},
+    {Descending, "--descending", nullptr, setFlag<&Invocation::isDescending>,
+     QT_TRANSLATE_NOOP("Cli", "the largest first")},
+    {Costumes, "--costumes", nullptr, setFlag<&Invocation::hasCostumes>,
+     QT_TRANSLATE_NOOP("Cli", "all palettes of FILE go along, in the order of the first that is meant")},
+    {Space, "--space", "NAME", takeSpace,
+     QT_TRANSLATE_NOOP("Cli", "where colours are mixed: oklab (as without it), hsv or rgb")},
     {Size, "--size", "WxH", takeSize,
      QT_TRANSLATE_NOOP("Cli", "the size in pixels")},
     {Factor, "--factor", "N", takeFactor,

@@ -3,6 +3,7 @@
 #include "operations/media/outputfiles.h"
 #include "operations/media/selection.h"
 
+#include <zorv/media/tools/colorspaces.h>
 #include <zorv/media/tools/imageresizefilter.h>
 
 #include <QPoint>
@@ -28,11 +29,17 @@ struct Invocation
     QString palette;  ///< an identifier or a file; null if none was named
     bool adapts = false;
     bool recolors = false;
+    bool reverses = false;
     bool crops = false;
     bool isCommon = false;
     bool isLenient = false;
     bool leavesComments = false;
     bool hasInstances = false;
+    bool isDescending = false;
+    bool hasCostumes = false;  ///< all palettes of a file go along with the one that is meant
+    int firstSlot = -1;        ///< of a palette; -1 if none was named
+    int lastSlot = -1;
+    Zorv::ColorSpace space = Zorv::ColorSpace::OKLab;
     int columns = 0;  ///< 0 for as many as make the sheet about square
     int group = -1;
     QPoint axis;
@@ -101,7 +108,12 @@ enum Option : quint64 {
     Instances = quint64(1) << 38,
     Replace = quint64(1) << 39,
     Skip = quint64(1) << 40,
-    BringSprites = quint64(1) << 41
+    BringSprites = quint64(1) << 41,
+    Reversed = quint64(1) << 42,
+    Slots = quint64(1) << 43,
+    Descending = quint64(1) << 44,
+    Costumes = quint64(1) << 45,
+    Space = quint64(1) << 46
 };
 
 /// One option: a row of the table.

@@ -3,12 +3,14 @@
 #include "cli/command.h"
 #include "cli/jsonlist.h"
 #include "cli/output.h"
+#include "cli/paletteselection.h"
 #include "cli/progresshost.h"
 #include "cli/results.h"
 #include "cli/spriteopening.h"
 #include "family/assets/palettelist.h"
 #include "family/assets/spritecollection.h"
 #include "operations/media/filepatterns.h"
+#include "operations/media/paletteuses.h"
 #include "operations/media/palettework.h"
 #include "operations/media/spriteexport.h"
 
@@ -19,12 +21,11 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <memory>
 
 namespace Cli {
 
 namespace {
-
-using Family::FamilyPalette;
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -37,21 +38,23 @@ bool isSpriteFile(const QString& path)
     return QFileInfo(path).suffix() == QLatin1String("sprites") || QFileInfo(path).isDir();
 }
 
+QString nameOf(const Zorv::RGBA& color)
+{
+    return QColor(color.r, color.g, color.b).name();
+}
+
 void listColors(const Zorv::RGBA (&colors)[256], bool json, Output& output)
 {
-    const auto form = [](const Zorv::RGBA& color) {
-        return QColor(color.r, color.g, color.b).name();
-    };
     if (!json) {
         for (int i = 0; i < 256; ++i) {
-            output.writeLine({QString::number(i), form(colors[i]), QString::number(colors[i].a)});
+            output.writeLine({QString::number(i), nameOf(colors[i]), QString::number(colors[i].a)});
         }
         return;
     }
     JsonList list(output);
     for (int i = 0; i < 256; ++i) {
         list.add({{QStringLiteral("index"), i},
-                  {QStringLiteral("colour"), form(colors[i])},
+                  {QStringLiteral("colour"), nameOf(colors[i])},
                   {QStringLiteral("alpha"), colors[i].a}});
     }
 }
@@ -86,17 +89,27 @@ int listOfSprites(const Invocation& invocation, Output& output)
     return Fine;
 }
 
-/// The palettes that a selection means; all others are left as they are.
-QVector<FamilyPalette*> selectedPalettes(const Family::SpriteCollection& sprites,
-                                         const Operations::Selection& selection)
+void writeUses(const Family::SpriteCollection& sprites, const Operations::PaletteUseCount& count,
+               const Invocation& invocation, Output& output)
 {
-    QVector<FamilyPalette*> selected;
+    std::unique_ptr<JsonList> list(invocation.json ? new JsonList(output) : nullptr);
     for (const auto& palette : sprites.palettes()->items()) {
-        if (selection.contains(palette->id().group, palette->id().number)) {
-            selected.append(palette.get());
+        const Family::AssetId id = palette->id();
+        for (int i = 0; i < 256 && invocation.selection.contains(id.group, id.number); ++i) {
+            const auto& uses = count.palettes[palette->row].entries[size_t(i)];
+            const QString color = nameOf(palette->state.colors[size_t(i)]);
+            if (uses.sprites > 0 && list) {
+                list->add({{QStringLiteral("palette"), id.text()},
+                           {QStringLiteral("slot"), i},
+                           {QStringLiteral("colour"), color},
+                           {QStringLiteral("sprites"), uses.sprites},
+                           {QStringLiteral("pixels"), uses.pixels}});
+            } else if (uses.sprites > 0) {
+                output.writeLine({id.text(), QString::number(i), color,
+                                  QString::number(uses.sprites), QString::number(uses.pixels)});
+            }
         }
     }
-    return selected;
 }
 
 /// Gives palettes of a sprite file other colours.
@@ -107,13 +120,9 @@ int applyToSprites(const Invocation& invocation, const Zorv::RGBA (&colors)[256]
     if (!sprites) {
         return NotDone;
     }
-    const QVector<FamilyPalette*> palettes = selectedPalettes(*sprites, invocation.selection);
-    if (palettes.isEmpty() || (palettes.size() > 1 && invocation.selection.isAll())) {
-        return notDone(palettes.isEmpty()
-                           ? Text::tr("There is no such palette.")
-                           : Text::tr("'%1' has %2 palettes. Tell which one is meant, as in "
-                                      "'--select 1,1'.")
-                                 .arg(fileName, QString::number(palettes.size())));
+    const QVector<int> rows = chosenPalettes(*sprites, invocation);
+    if (rows.isEmpty()) {
+        return NotDone;
     }
     Operations::OutputFiles outputs;
     Operations::MediaResult refusal;
@@ -121,9 +130,10 @@ int applyToSprites(const Invocation& invocation, const Zorv::RGBA (&colors)[256]
         return tell(refusal);
     }
     sprites->beginChange(Text::tr("Apply palette"));
-    for (FamilyPalette* palette : palettes) {
-        palette->setColors(colors, invocation.adapts ? int(Zorv::Palette::AdaptPixels)
-                                                     : int(Zorv::Palette::KeepPixels));
+    for (const int row : rows) {
+        sprites->palettes()->palette(row)->setColors(colors, invocation.adapts
+                                                                 ? int(Zorv::Palette::AdaptPixels)
+                                                                 : int(Zorv::Palette::KeepPixels));
     }
     sprites->endChange();
     return sprites.save(outputs.path(0));
@@ -144,6 +154,27 @@ int listPalettes(const Invocation& invocation, Output& output)
     }
     listColors(colors, invocation.json, output);
     return Fine;
+}
+
+int listUses(const Invocation& invocation, Output& output)
+{
+    ProgressHost host;
+    const OpenSprites sprites(invocation.operands.first());
+    if (!sprites) {
+        return NotDone;
+    }
+    const Operations::PaletteUseCount count = Operations::countUses(*sprites);
+    Operations::MediaResult result;
+    for (const int row : count.broken) {
+        const auto* sprite = sprites->sprite(row);
+        result.errors.append(Text::tr("Sprite %1 is not counted: %2.")
+                                 .arg(sprite->id().text(), sprite->pixelFault()));
+    }
+    result.isCanceled = count.isCanceled;
+    if (!count.isCanceled) {
+        writeUses(*sprites, count, invocation, output);
+    }
+    return tell(result);
 }
 
 int exportPalettes(const Invocation& invocation, Output&)

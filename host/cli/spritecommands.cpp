@@ -106,6 +106,7 @@ Operations::ImportRequest importRequest(const Invocation& invocation)
     request.crops = invocation.crops;
     request.palette = invocation.palette;
     request.recolors = invocation.recolors;
+    request.reverses = invocation.reverses;
     request.codec = Family::codecByName(invocation.coding);
     request.force = invocation.output.force;
     return request;
