@@ -67,6 +67,7 @@ SpriteEditorPrivate::~SpriteEditorPrivate()
     if (sprites) {
         sprites->disconnect(this);
     }
+    kept.clear();
     delete renderer;
     delete colors;
     delete grid;
@@ -192,6 +193,7 @@ void SpriteEditor::projectAboutToClose(Project* project)
     if (d->sprites && d->sprites->project() == project) {
         d->take(nullptr);
     }
+    d->dropKept(spritesOf(project));
 }
 
 void SpriteEditor::navigateTo(const QString&, unsigned a, unsigned, unsigned)

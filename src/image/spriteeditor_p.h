@@ -4,6 +4,7 @@
 #include "core/fileinput.h"
 #include "editors/palette/colorpalette.h"
 #include "editors/palette/palettewidget.h"
+#include "image/canvas/canvascontent.h"
 #include "image/imagerenderer.h"
 #include "image/spriteeditor.h"
 #include "image/spriteworkspace.h"
@@ -13,6 +14,7 @@
 #include <QScopedValueRollback>
 #include <QVariant>
 
+#include <deque>
 #include <functional>
 #include <optional>
 
@@ -29,6 +31,19 @@ class ImageLayers;
 class ImageUndoStack;
 class Interface;
 class OrganizerEditor;
+
+/// The canvas of a sprite that is not shown.
+struct KeptCanvas
+{
+    QPointer<Sprites> sprites;
+    const Sprite* record = nullptr;  // null once its file was read anew
+    QVariant identifier;
+    QImage loaded;
+    QPoint loadedAxis;
+    bool hasToldHidden = false;
+    std::unique_ptr<CanvasContent> content;
+    qint64 bytes = 0;
+};
 
 /// The state of a `SpriteEditor`, and the slots of its tools, which the host finds by name.
 class SpriteEditorPrivate : public QObject, public FileInput
@@ -93,6 +108,13 @@ public:
     bool takeInput(QString* error) override;
     void dropInput() override;
 
+    // spriteeditorkept.cpp
+    void keepCanvas();
+    bool bringBack();
+    void keepToBudget();
+    void dropKept(const Sprites* of);
+    void forgetRecords();
+
     // spriteeditoractions.cpp
     bool isOn(const char* name) const;
     void restoreSwitches();
@@ -140,8 +162,9 @@ public:
     std::optional<bool> isKnownChanged;
     bool isPreview = false;  // the grid has colours that are not the sprite's
     bool hasToldHidden = false;
-    int selGuard = 0;       // the code itself changes the position
-    SpriteNumber followed;  // of the frame that was told last
+    std::deque<KeptCanvas> kept;  // the one that was seen last is the last
+    int selGuard = 0;             // the code itself changes the position
+    SpriteNumber followed;        // of the frame that was told last
 
     QHash<QString, QPointer<QAction>> actions;
     QHash<QString, QPointer<QWidget>> widgets;

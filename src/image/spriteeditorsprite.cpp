@@ -73,6 +73,7 @@ bool SpriteEditorPrivate::hasCanvas() const
 /// Other sprites, with none of them on the canvas yet.
 void SpriteEditorPrivate::take(Sprites* now)
 {
+    keepCanvas();
     isWaiting = false;
     waiting = nullptr;
     if (sprites) {
@@ -88,8 +89,9 @@ void SpriteEditorPrivate::take(Sprites* now)
                 [this] { spritesChanged(SameIdentifier); });
         connect(now, &OrganizableObject::modified, editor, &Editor::contentsChanged);
         connect(now->palettes(), &Palettes::palChanged, this, [this] { loadColors(); });
-        connect(now, &Sprites::closing, this, [this] {
+        connect(now, &Sprites::closing, this, [this, now] {
             sprites = nullptr;
+            dropKept(now);
             take(nullptr);
         });
     }
@@ -149,6 +151,9 @@ void SpriteEditorPrivate::spritesChanged(Match match)
     const bool isModified = editor->isCanvasModified();
     const bool holdsWork = isModified || layers()->count() > 1;
     const bool wasThere = row >= 0;
+    if (match == SameIdentifier) {
+        forgetRecords();
+    }
     bind(findShown(match));
     const Sprite* now = sprite();
     if (!now && holdsWork) {
@@ -242,21 +247,22 @@ void SpriteEditorPrivate::next()
     }
 }
 
-/// Whatever is on the canvas goes.
+/// What is on the canvas goes, or is kept if nothing of it is unsaved.
 void SpriteEditorPrivate::show(int index)
 {
+    keepCanvas();
     {
         const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
         sprites->setCurrent(index);
     }
     Sprite* now = sprites->sprite(index);
     remember(now, now ? index : -1);
-    if (now) {
-        load();
-        followPalette();
-    } else {
+    if (!now) {
         clearCanvas();
+    } else if (!bringBack()) {
+        load();
     }
+    followPalette();
     selectInList();
     showPosition();
 }

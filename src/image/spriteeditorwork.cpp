@@ -52,6 +52,7 @@ void SpriteEditorPrivate::followCanvas()
     connect(canvas(), &ImageCanvas::axisChanged, this, forget);
     connect(layers(), &ImageLayers::changed, this, forget);
     connect(history(), &ImageUndoStack::indexChanged, this, forget);
+    connect(history(), &ImageUndoStack::indexChanged, this, &SpriteEditorPrivate::keepToBudget);
     connect(history(), &ImageUndoStack::cleanChanged, this, [this](bool isClean) {
         isKnownChanged.reset();
         if (isClean) {

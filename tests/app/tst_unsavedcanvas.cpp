@@ -11,6 +11,8 @@
 
 #include <zorv/core/fileinput.h>
 #include <zorv/image/canvas/imagecanvas.h>
+#include <zorv/image/canvas/imagelayers.h>
+#include <zorv/image/canvas/imageundostack.h>
 #include <zorv/image/imagerenderer.h>
 #include <zorv/image/spriteeditor.h>
 
@@ -61,6 +63,8 @@ private slots:
     void isAskedAboutWhenTheFileChanges_data();
     void isAskedAboutWhenTheFileChanges();
     void isNotSavedWithoutItsSprite();
+    void comesBack_data();
+    void comesBack();
 
 private:
     Zorv::SpriteEditor* editor() const { return m->window->paint()->editor(); }
@@ -223,6 +227,56 @@ void TestUnsavedCanvas::isNotSavedWithoutItsSprite()
     QVERIFY(Zorv::FileInput::isUnsaved(sprites()));
     m->dialogs.choiceAnswers = {Discard};
     QVERIFY(m->window->close());
+}
+
+void TestUnsavedCanvas::comesBack_data()
+{
+    columns<QString, int>("meanwhile", "answer");
+    for (const char* meanwhile : {"nothing", "reload", "change", "budget"}) {
+        QTest::addRow("saved, %s", meanwhile) << meanwhile << int(Save);
+        QTest::addRow("discarded, %s", meanwhile) << meanwhile << int(Discard);
+    }
+}
+
+/// A sprite that is shown again has its layers and its history, unless it is another picture by
+/// now, or there is no room for both.
+void TestUnsavedCanvas::comesBack()
+{
+    const auto [meanwhile, answer] = fetched<QString, int>();
+    trigger("spr_layer_add");
+    QImage stored = answer == Save ? flipped() : picture(0);
+    m->dialogs.choiceAnswers = {answer};
+    if (meanwhile == "budget") {
+        canvas()->undoStack()->setBudget(1);
+    }
+    trigger("spr_next");
+    QCOMPARE(shown(), picture(1));
+    QCOMPARE(canvas()->layers()->count(), 1U);
+    QVERIFY(!editor()->isCanvasModified());
+    if (meanwhile == "reload") {
+        QVERIFY(answer == Discard || m->action("save")->isEnabled());
+        trigger(answer == Save ? "save" : "spr_select_none");
+        QVERIFY(static_cast<Family::SpriteFile*>(sprites())->reload());
+    } else if (meanwhile == "change") {
+        stored = picture(2);
+        sprites()->sprite(0)->setImage(stored);
+    }
+    trigger("spr_prev");
+    QCOMPARE(shown(), stored);
+    QVERIFY(!editor()->isCanvasModified());
+    const bool isKept = meanwhile == "nothing" || meanwhile == "reload";
+    QCOMPARE(canvas()->layers()->count(), isKept && answer == Save ? 2U : 1U);
+    QCOMPARE(canvas()->undoStack()->count(), isKept ? 2 : 0);
+    if (isKept && answer == Save) {
+        editor()->undo();
+        editor()->undo();
+        QCOMPARE(shown(), picture(0));
+        QVERIFY(editor()->isCanvasModified());
+    } else if (isKept) {
+        editor()->redo();
+        QCOMPARE(shown(), flipped());
+        QVERIFY(editor()->isCanvasModified());
+    }
 }
 
 QTEST_MAIN(TestUnsavedCanvas)

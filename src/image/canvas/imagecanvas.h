@@ -13,6 +13,7 @@
 
 namespace Zorv {
 
+class CanvasContent;
 class ImageCanvasPrivate;
 class ImageLayer;
 class ImageLayers;
@@ -154,6 +155,13 @@ public:
     /// Gives indexed pixels the entries of `to` that are nearest to their colours in `from`. One
     /// step, "changePalette". False for a canvas of true colour.
     bool changePalette(const RGBA (&from)[256], const RGBA (&to)[256]);
+
+    /// Takes out all that the canvas holds, with its history, and leaves it without layers.
+    std::unique_ptr<CanvasContent> takeContent();
+
+    /// Puts it back as it was, in place of what is there, which goes for good. Only for what was
+    /// taken from this canvas.
+    void putContent(std::unique_ptr<CanvasContent> content);
 
     /// The painter for this form, on the active layer. The canvas's, until form or palette change.
     ImagePainter* painter();

@@ -1,6 +1,7 @@
 #include "image/canvas/imageundostack.h"
 
 #include "image/canvas/imageundocommand.h"
+#include "image/canvas/undosteps_p.h"
 
 #include <QString>
 
@@ -14,7 +15,8 @@ namespace Zorv {
 
 namespace {
 
-using Command = std::unique_ptr<ImageUndoCommand>;
+using Step = UndoStep;
+using Command = UndoStep::Command;
 
 // Packing takes time, and so does an undo of what is packed: it begins with the oldest steps when
 // so much of the budget is not packed. Each step then pays for as many bytes as it adds, and for
@@ -22,57 +24,9 @@ using Command = std::unique_ptr<ImageUndoCommand>;
 const int LooseShare = 4;
 const qint64 PackedAtOnce = qint64(256) << 10;
 
-/// What one undo takes back: a command, or those of a macro.
-struct Step
-{
-    QString text;
-    std::vector<Command> commands;
-    qint64 bytes = 0;
-    bool packed = false;
-    bool sealed = false;
-
-    void undo()
-    {
-        std::for_each(commands.rbegin(), commands.rend(), [](const Command& x) { x->undo(); });
-    }
-    void redo()
-    {
-        std::for_each(commands.begin(), commands.end(), [](const Command& x) { x->redo(); });
-    }
-
-    /// Removes commands from the last one on, which is the only safe order.
-    void shrink(std::size_t size)
-    {
-        while (commands.size() > size) {
-            commands.pop_back();
-        }
-    }
-    void measure()
-    {
-        bytes = 0;
-        for (const Command& command : commands) {
-            bytes += command->byteSize();
-        }
-    }
-
-    /// Packs up to `limit` bytes; what remains of the limit is given back.
-    qint64 pack(qint64 limit)
-    {
-        for (const Command& command : commands) {
-            qint64 done = 1;
-            while (limit > 0 && done > 0) {
-                done = command->pack(limit);
-                limit -= done;
-            }
-        }
-        packed = limit > 0;
-        return limit;
-    }
-};
-
 }  // namespace
 
-class ImageUndoStackPrivate
+class ImageUndoStackPrivate : public UndoSteps
 {
 public:
     /// What views were told last.
@@ -102,12 +56,6 @@ public:
     void tell();
 
     ImageUndoStack* const q;
-    std::deque<Step> steps;
-    qint64 bytes = 0;            ///< of all steps
-    std::size_t firstLoose = 0;  ///< the steps in front of it have nothing left to pack
-    qint64 packedBytes = 0;      ///< of those steps
-    std::size_t index = 0;
-    int cleanIndex = 0;
     qint64 budget = ImageUndoStack::DefaultBudget;
     Step macro;
     std::vector<std::size_t> macroBegins;  ///< where each open macro begins among its commands
@@ -281,8 +229,6 @@ ImageUndoStack::ImageUndoStack(QObject* parent)
 ImageUndoStack::~ImageUndoStack()
 {
     d->macro.shrink(0);
-    d->index = 0;
-    d->dropRedo();
 }
 
 void ImageUndoStack::push(ImageUndoCommand* command)
@@ -392,6 +338,23 @@ void ImageUndoStack::clear()
     d->index = 0;
     d->dropRedo();
     d->cleanIndex = 0;
+    d->tell();
+}
+
+std::unique_ptr<UndoSteps> ImageUndoStack::takeSteps()
+{
+    d->finishPending();
+    auto taken = std::make_unique<UndoSteps>(std::move(static_cast<UndoSteps&>(*d)));
+    static_cast<UndoSteps&>(*d) = UndoSteps();
+    d->tell();
+    return taken;
+}
+
+void ImageUndoStack::putSteps(std::unique_ptr<UndoSteps> steps)
+{
+    clear();
+    static_cast<UndoSteps&>(*d) = std::move(*steps);
+    d->keepToBudget();
     d->tell();
 }
 

@@ -11,6 +11,7 @@ namespace Zorv {
 
 class ImageUndoCommand;
 class ImageUndoStackPrivate;
+struct UndoSteps;
 
 /// The history of a canvas: like a `QUndoStack`, but it keeps to a number of bytes.
 ///
@@ -94,6 +95,13 @@ signals:
     void redoTextChanged(const QString& text);
 
 private:
+    friend class ImageCanvas;
+
+    /// All steps, with what is clean; the stack is as after `clear()` then. They are put into the
+    /// same stack again, in place of what it has.
+    std::unique_ptr<UndoSteps> takeSteps();
+    void putSteps(std::unique_ptr<UndoSteps> steps);
+
     std::unique_ptr<ImageUndoStackPrivate> d;
 };
 
