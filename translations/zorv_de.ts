@@ -4657,16 +4657,8 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>Operations::PaletteWork</name>
     <message>
-        <source>Cannot read a palette from &apos;%1&apos;. Expected .act, .pal, .aco, .ase, .txt, or an indexed image.</source>
-        <translation>Aus &apos;%1&apos; lässt sich keine Palette lesen. Erwartet: .act, .pal, .aco, .ase, .txt oder ein Bild mit Palette.</translation>
-    </message>
-    <message>
         <source>Palettes</source>
         <translation>Paletten</translation>
-    </message>
-    <message>
-        <source>Cannot write &apos;%1&apos;: palettes are written as .act.</source>
-        <translation>&apos;%1&apos; lässt sich nicht schreiben: Paletten werden als .act geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -4956,6 +4948,25 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
             <numerusform>%n Sprite zeigt dann die Farben des Bildes.</numerusform>
             <numerusform>%n Sprites zeigen dann die Farben des Bildes.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>RemapDlg</name>
+    <message>
+        <source>Remap</source>
+        <translation>Ersatz für Paletten</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
     </message>
 </context>
 <context>
@@ -6193,6 +6204,13 @@ Soll die Datei ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::Failures</name>
+    <message>
+        <source>... and %1 more.</source>
+        <translation>... und %1 weitere.</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::FileChange</name>
     <message>
         <source>Another program is changing files in %1</source>
@@ -6387,6 +6405,107 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     <message>
         <source>Move rows</source>
         <translation>Zeilen verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::PaletteEditor</name>
+    <message>
+        <source>Move color</source>
+        <translation>Farbe verschieben</translation>
+    </message>
+    <message>
+        <source>What stays as it is when a color moves to another slot?
+The answer is kept in the settings.</source>
+        <translation>Was bleibt, wie es ist, wenn eine Farbe an einen anderen Platz kommt?
+Die Antwort bleibt in den Einstellungen.</translation>
+    </message>
+    <message>
+        <source>The pictures, in all palettes: pixels go with their color</source>
+        <translation>Die Bilder, in allen Paletten: Pixel gehen mit ihrer Farbe</translation>
+    </message>
+    <message>
+        <source>The pictures, in this palette alone</source>
+        <translation>Die Bilder, nur in dieser Palette</translation>
+    </message>
+    <message>
+        <source>The slots: pictures show the new order</source>
+        <translation>Die Plätze: Bilder zeigen die neue Ordnung</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) use these palettes, and are shown in shades of gray without them. Do you want to remove all palettes?</source>
+        <translation>
+            <numerusform>%n Sprite benutzt diese Paletten und wird ohne sie in Grautönen gezeigt. Alle Paletten entfernen?</numerusform>
+            <numerusform>%n Sprites benutzen diese Paletten und werden ohne sie in Grautönen gezeigt. Alle Paletten entfernen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) use a palette that repeats another one, and take that one. Do you want to remove all duplicates?</source>
+        <translation>
+            <numerusform>%n Sprite benutzt eine Palette, die es zweimal gibt, und nimmt dann die erste. Alle mehrfachen entfernen?</numerusform>
+            <numerusform>%n Sprites benutzen Paletten, die es mehrmals gibt, und nehmen dann die erste. Alle mehrfachen entfernen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Add palette</source>
+        <translation>Palette hinzufügen</translation>
+    </message>
+    <message>
+        <source>Do you want to load the palettes from files?</source>
+        <translation>Die Paletten aus Dateien laden?</translation>
+    </message>
+    <message>
+        <source>The colors of the new palette:</source>
+        <translation>Die Farben der neuen Palette:</translation>
+    </message>
+    <message>
+        <source>Those of palette %1</source>
+        <translation>Die von Palette %1</translation>
+    </message>
+    <message>
+        <source>None yet: all are transparent</source>
+        <translation>Noch keine: alle sind durchsichtig</translation>
+    </message>
+    <message>
+        <source>Add palettes</source>
+        <translation>Paletten hinzufügen</translation>
+    </message>
+    <message>
+        <source>The palette of &apos;%1&apos; could not be added.</source>
+        <translation>Die Palette von &apos;%1&apos; ließ sich nicht hinzufügen.</translation>
+    </message>
+    <message>
+        <source>Delete palette</source>
+        <translation>Palette löschen</translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the palette?</source>
+        <translation>Die Palette wirklich löschen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) of these names are in the folder already. Replace them?</source>
+        <translation>
+            <numerusform>%n Datei mit einem dieser Namen ist schon im Ordner. Ersetzen?</numerusform>
+            <numerusform>%n Dateien mit diesen Namen sind schon im Ordner. Ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Saving palettes...</source>
+        <translation>Paletten werden gespeichert ...</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::PaletteFile</name>
+    <message>
+        <source>Cannot read a palette from &apos;%1&apos;. Expected .act, .pal, .aco, .ase, .txt, or an indexed image.</source>
+        <translation>Aus &apos;%1&apos; lässt sich keine Palette lesen. Erwartet: .act, .pal, .aco, .ase, .txt oder ein Bild mit Palette.</translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: palettes are written as .act.</source>
+        <translation>&apos;%1&apos; lässt sich nicht schreiben: Paletten werden als .act geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -6818,10 +6937,6 @@ Zeile %2, Spalte %3.</translation>
             <numerusform>%n Datei geschrieben.</numerusform>
             <numerusform>%n Dateien geschrieben.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>... and %1 more.</source>
-        <translation>... und %1 weitere.</translation>
     </message>
 </context>
 <context>

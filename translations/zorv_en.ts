@@ -331,6 +331,30 @@
     </message>
 </context>
 <context>
+    <name>Zorv::PaletteEditor</name>
+    <message numerus="yes">
+        <source>%n sprite(s) use these palettes, and are shown in shades of gray without them. Do you want to remove all palettes?</source>
+        <translation>
+            <numerusform>%n sprite uses one of these palettes, and is shown in shades of gray without it. Do you want to remove all palettes?</numerusform>
+            <numerusform>%n sprites use these palettes, and are shown in shades of gray without them. Do you want to remove all palettes?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) use a palette that repeats another one, and take that one. Do you want to remove all duplicates?</source>
+        <translation>
+            <numerusform>%n sprite uses a palette that repeats another one, and takes that one. Do you want to remove all duplicates?</numerusform>
+            <numerusform>%n sprites use a palette that repeats another one, and take that one. Do you want to remove all duplicates?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) of these names are in the folder already. Replace them?</source>
+        <translation>
+            <numerusform>%n file of one of these names is in the folder already. Replace it?</numerusform>
+            <numerusform>%n files of these names are in the folder already. Replace them?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Zorv::SpriteSave</name>
     <message numerus="yes">
         <source>%n file(s) of these names are in the folder already. Replace them?</source>

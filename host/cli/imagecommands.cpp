@@ -4,7 +4,8 @@
 #include "cli/results.h"
 #include "operations/media/filepatterns.h"
 #include "operations/media/imageedits.h"
-#include "operations/media/palettework.h"
+
+#include <zorv/media/palettefile.h>
 
 #include <QCoreApplication>
 
@@ -87,7 +88,7 @@ int quantizeImages(const Invocation& invocation, Output&)
     if (!invocation.palette.isNull()) {
         Zorv::RGBA colors[256];
         QString error;
-        if (!Operations::readPalette(invocation.palette, colors, &error)) {
+        if (!Zorv::loadPaletteFile(invocation.palette, colors, &error)) {
             return notDone(error);
         }
         return editImages(invocation, Operations::adaptingImage(QVector<Zorv::RGBA>(

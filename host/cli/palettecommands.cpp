@@ -14,6 +14,8 @@
 #include "operations/media/palettework.h"
 #include "operations/media/spriteexport.h"
 
+#include <zorv/media/palettefile.h>
+
 #include <QColor>
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -149,7 +151,7 @@ int listPalettes(const Invocation& invocation, Output& output)
     }
     Zorv::RGBA colors[256];
     QString error;
-    if (!Operations::readPalette(fileName, colors, &error)) {
+    if (!Zorv::loadPaletteFile(fileName, colors, &error)) {
         return notDone(error);
     }
     listColors(colors, invocation.json, output);
@@ -192,7 +194,7 @@ int applyPalette(const Invocation& invocation, Output&)
 {
     Zorv::RGBA colors[256];
     QString error;
-    if (!Operations::readPalette(invocation.operands.first(), colors, &error)) {
+    if (!Zorv::loadPaletteFile(invocation.operands.first(), colors, &error)) {
         return notDone(error);
     }
     ProgressHost host;

@@ -27,6 +27,8 @@ LAYERS = {
     "src/editors/organizer/": 6,
     "src/editors/snipman/": 6,
     "src/editors/palette/": 6,
+    "src/editors/palette/paletteeditor": 8,
+    "src/editors/palette/palettesave": 8,
     "src/animation/spritedrag.": 4,
     "src/animation/timeline/": 6,
     "src/image/tools/": 7,

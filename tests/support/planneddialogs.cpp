@@ -68,6 +68,12 @@ std::optional<QString> PlannedDialogs::askText(const QString& title, const QStri
     return textAnswers.isEmpty() ? std::nullopt : std::optional(textAnswers.takeFirst());
 }
 
+std::optional<QColor> PlannedDialogs::chooseColor(const QString& title, const QColor& color)
+{
+    show({QStringLiteral("chooseColor"), title, color.name(QColor::HexArgb), {}, NoButton, {}, {}});
+    return colorAnswers.isEmpty() ? std::nullopt : std::optional(colorAnswers.takeFirst());
+}
+
 QString PlannedDialogs::openFileName(QWidget*, const QString& caption, const QString& dir,
                                      const QString& filter)
 {

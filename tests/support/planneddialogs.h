@@ -32,6 +32,7 @@ public:
     QList<Button> buttonAnswers;     ///< of question() and warning()
     QList<int> choiceAnswers;        ///< of choose()
     QStringList textAnswers;         ///< of askText()
+    QList<QColor> colorAnswers;      ///< of chooseColor()
     QList<QStringList> fileAnswers;  ///< of every question for files and folders
     QList<int> targetAnswers;        ///< of runTarget()
     QRect targetGeometry;            ///< where that dialog stands; null to leave it
@@ -56,6 +57,7 @@ public:
                int defaultChoice) override;
     std::optional<QString> askText(const QString& title, const QString& label,
                                    const QString& text) override;
+    std::optional<QColor> chooseColor(const QString& title, const QColor& color) override;
     QString openFileName(QWidget* parent, const QString& caption, const QString& dir,
                          const QString& filter) override;
     QStringList openFileNames(QWidget* parent, const QString& caption, const QString& dir,

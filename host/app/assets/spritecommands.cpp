@@ -16,7 +16,6 @@
 #include "family/project/familyproject.h"
 #include "operations/check/uses.h"
 #include "operations/media/imagefiles.h"
-#include "operations/media/palettework.h"
 #include "operations/media/spriteexport.h"
 #include "operations/media/spriteimport.h"
 
@@ -24,6 +23,7 @@
 #include <zorv/code/codedoc/framecode.h>
 #include <zorv/core/dialogs/dialogs.h>
 #include <zorv/core/fileinput.h>
+#include <zorv/media/palettefile.h>
 
 #include <QImage>
 #include <algorithm>
@@ -243,7 +243,7 @@ void SpriteCommands::openPalette()
     }
     Zorv::RGBA colors[256];
     QString error;
-    if (!Operations::readPalette(file, colors, &error)) {
+    if (!Zorv::loadPaletteFile(file, colors, &error)) {
         Dialogs::instance()->error(title, error);
         return;
     }
@@ -277,7 +277,7 @@ void SpriteCommands::savePalette()
     MediaResult result;
     if (files.plan({name}, request, QByteArrayLiteral("ACT"), &result)) {
         QString error;
-        const QByteArray bytes = Operations::paletteFile(colors, files.format(0), target, &error);
+        const QByteArray bytes = Zorv::paletteFileContent(colors, files.format(0), target, &error);
         result.note(error.isEmpty() ? files.write(0, bytes) : error);
     }
     tellResult(title, tr("The palette is saved."), result);

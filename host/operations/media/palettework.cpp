@@ -2,11 +2,8 @@
 
 #include "operations/media/jobs.h"
 
-#include <zorv/core/files.h>
-#include <zorv/core/filesystemarchive.h>
-#include <zorv/media/paletteobject.h>
+#include <zorv/media/palettefile.h>
 
-#include <QBuffer>
 #include <QCoreApplication>
 
 namespace Operations {
@@ -21,25 +18,6 @@ class Text
 
 }  // namespace
 
-bool readPalette(const QString& fileName, Zorv::RGBA (&colors)[256], QString* error)
-{
-    // A pipe or a device would be waited for.
-    Zorv::FileSystemArchive& disk = *Zorv::FileSystemArchive::instance();
-    QIODevice* device = disk.openFile(fileName, QIODevice::ReadOnly, error);
-    if (!device) {
-        return false;
-    }
-    Zorv::PaletteObject palette(colors);
-    const bool isRead = palette.fromFile(device, Zorv::fileExtension(fileName).constData());
-    disk.closeFile(device);
-    if (!isRead) {
-        *error = Text::tr("Cannot read a palette from '%1'. Expected .act, .pal, .aco, .ase, .txt, "
-                          "or an indexed image.")
-                     .arg(fileName);
-    }
-    return isRead;
-}
-
 MediaResult convertPalettes(const QStringList& files, const OutputRequest& request)
 {
     MediaResult result;
@@ -52,28 +30,13 @@ MediaResult convertPalettes(const QStringList& files, const OutputRequest& reque
     for (int i = 0; i < files.size() && !result.isCanceled; ++i) {
         result.note(outputs.make(i, [&](QString* error) {
             Zorv::RGBA colors[256] = {};
-            return readPalette(files[i], colors, error)
-                       ? paletteFile(colors, outputs.format(i), outputs.path(i), error)
+            return Zorv::loadPaletteFile(files[i], colors, error)
+                       ? Zorv::paletteFileContent(colors, outputs.format(i), outputs.path(i), error)
                        : QByteArray();
         }));
         result.isCanceled = !progress.step();
     }
     return result;
-}
-
-QByteArray paletteFile(const Zorv::RGBA (&colors)[256], const QByteArray& format,
-                       const QString& name, QString* error)
-{
-    Zorv::RGBA copy[256];
-    std::copy(std::begin(colors), std::end(colors), copy);
-    Zorv::PaletteObject palette(copy);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    if (!palette.toFile(&buffer, format.constData())) {
-        *error = Text::tr("Cannot write '%1': palettes are written as .act.").arg(name);
-    }
-    return bytes;
 }
 
 }  // namespace Operations

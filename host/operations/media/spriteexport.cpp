@@ -5,7 +5,8 @@
 #include "operations/media/assetnames.h"
 #include "operations/media/imagefiles.h"
 #include "operations/media/jobs.h"
-#include "operations/media/palettework.h"
+
+#include <zorv/media/palettefile.h>
 
 #include <QCoreApplication>
 
@@ -89,7 +90,7 @@ bool findPalette(const SpriteCollection& sprites, const QString& name, PaletteCo
     AssetId id;
     if (!AssetId::read(name, &id)) {
         Zorv::RGBA read[256];
-        if (!readPalette(name, read, error)) {
+        if (!Zorv::loadPaletteFile(name, read, error)) {
             return false;
         }
         std::copy(std::begin(read), std::end(read), colors->begin());
@@ -184,7 +185,8 @@ MediaResult exportPalettes(const SpriteCollection& sprites, const Selection& sel
         std::fill(std::begin(colors), std::end(colors), Zorv::RGBA{0, 0, 0, 255});
         palettes[i]->toPalette(colors);
         QString fault;
-        const QByteArray bytes = paletteFile(colors, outputs.format(i), outputs.path(i), &fault);
+        const QByteArray bytes =
+            Zorv::paletteFileContent(colors, outputs.format(i), outputs.path(i), &fault);
         result.note(fault.isEmpty() ? outputs.write(i, bytes) : fault);
     }
     return result;

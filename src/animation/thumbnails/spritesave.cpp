@@ -4,6 +4,7 @@
 #include "cache/spritenumber.h"
 #include "cache/sprites.h"
 #include "core/dialogs/dialogs.h"
+#include "core/dialogs/failures_p.h"
 #include "core/files.h"
 #include "core/interface.h"
 #include "core/progress_p.h"
@@ -25,7 +26,6 @@ namespace Zorv {
 namespace {
 
 constexpr unsigned TitleText = 171;
-constexpr int ToldErrors = 10;
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -195,12 +195,7 @@ void SpriteSave::tellResult(int written)
         Interface::instance()->showStatus(0, done);
         return;
     }
-    QStringList lines = m_errors.mid(0, ToldErrors);
-    if (m_errors.size() > ToldErrors) {
-        lines.append(Text::tr("... and %1 more.").arg(m_errors.size() - ToldErrors));
-    }
-    lines.append(done);
-    Dialogs::instance()->error(title(), lines.join(QLatin1Char('\n')));
+    tellFailures(title(), m_errors, done);
 }
 
 }  // namespace Zorv

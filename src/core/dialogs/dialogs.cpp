@@ -4,6 +4,7 @@
 #include "core/interface.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -171,6 +172,14 @@ std::optional<QString> Dialogs::askText(const QString& title, const QString& lab
     dialog.setLabelText(label);
     dialog.setTextValue(text);
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
+}
+
+std::optional<QColor> Dialogs::chooseColor(const QString& title, const QColor& color)
+{
+    const QColor chosen = canShow() ? QColorDialog::getColor(color, mainWindow(), title,
+                                                             QColorDialog::ShowAlphaChannel)
+                                    : QColor();
+    return chosen.isValid() ? std::optional(chosen) : std::nullopt;
 }
 
 QString Dialogs::openFileName(QWidget* parent, const QString& caption, const QString& dir,

@@ -2,6 +2,7 @@
 
 #include "zorv_export.h"
 
+#include <QColor>
 #include <QString>
 #include <QStringList>
 
@@ -56,6 +57,9 @@ public:
     /// Asks for a line of text, which is `text` at first; nothing if the person gave up.
     virtual std::optional<QString> askText(const QString& title, const QString& label,
                                            const QString& text = {});
+
+    /// Asks for a colour, which is `color` at first, with alpha; nothing if the person gave up.
+    virtual std::optional<QColor> chooseColor(const QString& title, const QColor& color);
 
     /// Ask for a file; empty if the person gave up. `parent` null stands for
     /// the main window.

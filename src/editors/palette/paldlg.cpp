@@ -1,7 +1,7 @@
 #include "editors/palette/paldlg.h"
 
 #include "cache/palettes.h"
-#include "cache/sprites.h"
+#include "cache/paletteuses.h"
 #include "core/dialogs/itempicker_p.h"
 
 #include <QCheckBox>
@@ -11,26 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-using Zorv::Palette;
 using Zorv::Palettes;
 using Zorv::Sprite;
-using Zorv::Sprites;
-
-namespace {
-
-int countUses(const Palettes& palettes, int row)
-{
-    const Sprites* sprites = palettes.sprites();
-    const Palette* palette = palettes.palette(row);
-    int count = 0;
-    for (unsigned i = 0; palette && sprites && i < sprites->count(); ++i) {
-        const Sprite* sprite = sprites->sprite(int(i));
-        count += sprite && sprite->palette() == palette ? 1 : 0;
-    }
-    return count;
-}
-
-}  // namespace
 
 PalDlg::PalDlg(QWidget* parent, QAbstractItemModel* model, int row)
     : QDialog(parent), m_model(model), m_picker(new ItemPicker(model, row)), m_mode(new QComboBox),
@@ -100,7 +82,7 @@ void PalDlg::update()
         note = tr("Select the palette in the list.");
     } else if (info.mode == Sprite::ReplacePalette && palettes) {
         note = tr("%n sprite(s) will show the colors of the image.", nullptr,
-                  countUses(*palettes, info.row));
+                  Zorv::paletteUses(*palettes).value(info.row));
     }
     m_note->setText(note);
 }

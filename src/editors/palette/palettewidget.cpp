@@ -231,6 +231,11 @@ void PaletteWidget::setMovable(bool isOn)
     d->cancel();
 }
 
+bool PaletteWidget::isMoving() const
+{
+    return d->isMoving;
+}
+
 QSize PaletteWidget::sizeHint() const
 {
     const int rows = (d->colorCount + d->columns - 1) / d->columns;

@@ -89,6 +89,9 @@ public:
     bool isMovable() const;
     void setMovable(bool isOn);
 
+    /// True while `changed()` tells of a colour that the person has moved: `colorMoved()` follows.
+    bool isMoving() const;
+
     /// All cells; also the least size.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -50,6 +50,7 @@ public:
     bool isMulti = true;
     bool isSelectable = true;
     bool isMovable = true;
+    bool isMoving = false;
     int colorCount = 256;
     int cellSize = 12;
     int columns = 16;

@@ -182,8 +182,10 @@ void PaletteWidgetPrivate::moveColor(int from, int to)
     }
     owner->update();
     const QPointer<PaletteWidget> alive(owner);
+    isMoving = true;
     emit owner->changed();
     if (alive) {
+        isMoving = false;
         emit owner->colorMoved(static_cast<unsigned short>(from), static_cast<unsigned short>(to));
     }
 }

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "zorv_export.h"
+
+#include <QDialog>
+#include <QPointer>
+
+class QAbstractItemModel;
+class QPushButton;
+class QTableView;
+
+/// The table of palettes that others stand in for: rows are added and removed, cells edited in
+/// place. It is not modal, and lives as long as its parent. Main thread only.
+class ZORV_EXPORT RemapDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit RemapDlg(QWidget* parent);
+    ~RemapDlg() override;
+
+    /// The table; null for none. Not owned, and may die.
+    void setModel(QAbstractItemModel* model);
+
+signals:
+    /// A button is about to change rows. `updateView()` follows.
+    void changing(const QString& title);
+
+    /// A button was pressed, with a model or without.
+    void updateView();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void edit(const QPushButton* button, void (RemapDlg::*change)());
+    void addRow();
+    void removeSelected();
+    void removeAll();
+    void retranslate();
+
+    QPointer<QAbstractItemModel> m_model;
+    QTableView* m_table;
+    QPushButton* m_add;
+    QPushButton* m_delete;
+    QPushButton* m_clear;
+};
