@@ -1,5 +1,6 @@
 #include "operations/media/spriteedits.h"
 
+#include "family/assets/newsprites.h"
 #include "family/assets/palettelist.h"
 #include "family/assets/remapmodel.h"
 #include "family/assets/spritefile.h"
@@ -9,9 +10,9 @@
 
 #include "support/folders.h"
 #include "support/release.h"
-#include "support/testtable.h"
 
 #include <zorv/core/filesystemarchive.h>
+#include <zorv/core/progressreporter.h>
 #include <zorv/media/tools/colorchanges.h>
 
 #include <QRandomGenerator>
@@ -23,9 +24,27 @@
 using namespace Family;
 using namespace Operations;
 
-Q_DECLARE_METATYPE(Operations::Renumbering)
-
 namespace {
+
+/// Shows nothing, and gives up when it is asked to.
+class ImpatientHost final : public HostInterface
+{
+public:
+    Zorv::ProgressReporter* progress(const QString&, int) override
+    {
+        struct Reporter final : Zorv::ProgressReporter
+        {
+            explicit Reporter(bool ends) : givesUp(ends) {}
+            void update(int, int) override {}
+            bool isCanceled() const override { return givesUp; }
+            void finish() override { delete this; }
+            bool givesUp;
+        };
+        return new Reporter(givesUp);
+    }
+
+    bool givesUp = false;
+};
 
 using Collection = std::unique_ptr<SpriteCollection, Release>;
 using Pictures = QVector<QImage>;
@@ -136,16 +155,15 @@ private slots:
     void reorderKeepsPictures();
     void whoChangesTogether();
     void brokenOnesStay();
+    void givenUpChangesNothing();
+    void imagesOfAFolder();
     void colorsOfPalettes();
     void countsUses();
-    void axes_data();
-    void axes();
-    void renumbers_data();
-    void renumbers();
+    void axesAndNumbers();
     void recolors();
 
 private:
-    HostInterface m_host;
+    ImpatientHost m_host;
 };
 
 void TestSpriteEdits::reorderKeepsPictures()
@@ -229,6 +247,53 @@ void TestSpriteEdits::brokenOnesStay()
     QVERIFY(file.save() == bytes);
 }
 
+void TestSpriteEdits::givenUpChangesNothing()
+{
+    QRandomGenerator random(2);
+    const QByteArray bytes = someSprites(random, 9);
+    Opened file(bytes);
+    m_host.givesUp = true;
+    const bool isGivenUp =
+        reorderPalettes(file.sprites.get(), {0}, Zorv::movedOrder(1, 200)).isCanceled &&
+        recolorSprites(file.sprites.get(), allRows(9), "1,2", PixelsKeep::Looks).isCanceled;
+    m_host.givesUp = false;
+    QVERIFY(isGivenUp && !file.sprites->canUndo());
+    QVERIFY(file.save() == bytes);
+}
+
+void TestSpriteEdits::imagesOfAFolder()
+{
+    QRandomGenerator random(5);
+    const Opened file(someSprites(random, 12));
+    QTemporaryDir folder;
+    Zorv::Archive& archive = *Zorv::FileSystemArchive::instance();
+    const Collection written(newSprites(folder.path()));
+    for (const auto& sprite : file.sprites->items()) {
+        written->insertSprite(sprite->row - 1, sprite->id(), {}, sprite->image());
+    }
+    QVERIFY2(written->toFile(archive, folder.path(), false), qPrintable(written->errorString()));
+    const auto pictures = [&] {
+        QString error;
+        const Collection sprites(openSprites(folder.path(), &error));
+        Pictures images;
+        for (const auto& sprite : sprites->items()) {
+            images.append(sprite->image().convertToFormat(QImage::Format_ARGB32));
+        }
+        return images;
+    };
+    const Pictures before = pictures();
+    QString error;
+    const Collection sprites(openSprites(folder.path(), &error));
+    const QByteArray rows = sprites->sprite(0)->pixelRows();
+    QVERIFY(reorderPalettes(sprites.get(), {0},
+                            Zorv::sortedOrder(sprites->palettes()->palette(0)->state.colors.data(),
+                                              Zorv::PaletteKey::Hue))
+                .done > 0);
+    QVERIFY(sprites->toFile(archive, folder.path(), false));
+    QVERIFY(sprites->sprite(0)->pixelRows() != rows);
+    QVERIFY(before.size() == 12 && pictures() == before);
+}
+
 void TestSpriteEdits::colorsOfPalettes()
 {
     QRandomGenerator random(7);
@@ -289,66 +354,25 @@ void TestSpriteEdits::countsUses()
     }
 }
 
-void TestSpriteEdits::axes_data()
+void TestSpriteEdits::axesAndNumbers()
 {
-    columns<int, QPoint, QPoint>("base", "offset", "axis");
-    row("feet", int(AxisBase::Bottom), QPoint(), QPoint(4, 4));
-    row("corner", int(AxisBase::TopLeft), QPoint(30, -7), QPoint(30, -7));
-    row("right edge", int(AxisBase::Right), QPoint(1, 0), QPoint(8, 2));
-    row("relative", int(AxisBase::Current), QPoint(-1, 5), QPoint(2, 9));
-    row("too far", int(AxisBase::Current), QPoint(32767, 0), QPoint(3, 4));
-}
-
-void TestSpriteEdits::axes()
-{
-    const auto [base, offset, axis] = fetched<int, QPoint, QPoint>();
-    const Collection sprites(new SpriteFile);
-    QImage image(8, 5, QImage::Format_Indexed8);
-    image.fill(3);
-    for (int i = 0; i < 3; ++i) {
-        sprites->insertSprite(i - 1, {1, quint16(i)}, {3, 4}, image);
-    }
-    const QString last = sprites->undoTitle();
-    const MediaResult result = setAxes(sprites.get(), {2, 0}, AxisBase(base), offset);
-    QCOMPARE(sprites->sprite(0)->axis(), axis);
-    QCOMPARE(sprites->sprite(2)->axis(), axis);
-    QCOMPARE(sprites->sprite(1)->axis(), QPoint(3, 4));
-    QCOMPARE(result.done, result.errors.isEmpty() ? 2 : 0);
-    QCOMPARE(result.errors.isEmpty(), sprites->undoTitle() != last);
-    if (result.errors.isEmpty()) {
-        sprites->undo();
-        QCOMPARE(sprites->sprite(2)->axis(), QPoint(3, 4));
-    }
-}
-
-void TestSpriteEdits::renumbers_data()
-{
-    columns<Renumbering, QVector<int>, QString>("how", "rows", "ids");
-    row("group", Renumbering{7, false, -1}, QVector<int>{0, 1}, "7,0 7,1 202,2 200,3");
-    row("in their order", Renumbering{200, false, 0}, allRows(4), "200,0 200,1 200,2 200,3");
-    row("shift", Renumbering{-100, true, -1}, QVector<int>{0, 3}, "100,0 201,1 202,2 100,3");
-    row("into each other", Renumbering{200, false, 3}, QVector<int>{3, 0},
-        "200,4 201,1 202,2 200,3");
-    row("taken", Renumbering{202, false, 2}, QVector<int>{0}, "");
-    row("twice", Renumbering{-200, true, 9}, QVector<int>{0, 3}, "0,9 201,1 202,2 0,10");
-    row("below", Renumbering{-201, true, -1}, allRows(4), "");
-    row("above", Renumbering{1, false, 65534}, allRows(4), "");
-}
-
-void TestSpriteEdits::renumbers()
-{
-    const auto [how, rows, ids] = fetched<Renumbering, QVector<int>, QString>();
     QRandomGenerator random(3);
     const QByteArray bytes = someSprites(random, 4);
     Opened file(bytes);
-    const MediaResult result = renumberSprites(file.sprites.get(), rows, how);
-    QCOMPARE(result.errors.isEmpty(), !ids.isEmpty());
-    QStringList now;
-    for (const auto& sprite : file.sprites->items()) {
-        now.append(sprite->id().text());
+    const QSize size = file.sprites->sprite(3)->size();
+    QCOMPARE(setAxes(file.sprites.get(), {3, 0}, AxisBase::BottomRight, {1, -1}).done, 2);
+    QCOMPARE(file.sprites->sprite(3)->axis(), QPoint(size.width(), size.height() - 2));
+    QVERIFY(file.isOneStepFrom(bytes));
+    file.sprites->undo();
+    // Into each other's places.
+    QCOMPARE(renumberSprites(file.sprites.get(), {3, 0}, {200, false, 3}).done, 2);
+    QCOMPARE(file.sprites->sprite(0)->id().text(), QStringLiteral("200,4"));
+    QVERIFY(file.isOneStepFrom(bytes));
+    file.sprites->undo();
+    for (const Renumbering how : {Renumbering{1, false, 65534}, Renumbering{1, true, 1}}) {
+        QCOMPARE(renumberSprites(file.sprites.get(), allRows(4), how).errors.isEmpty(),
+                 how.isShift);
     }
-    QCOMPARE(now.join(' '), ids.isEmpty() ? "200,0 201,1 202,2 200,3" : ids);
-    QVERIFY(ids.isEmpty() ? file.save() == bytes : file.isOneStepFrom(bytes));
 }
 
 void TestSpriteEdits::recolors()

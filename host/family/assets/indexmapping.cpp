@@ -24,8 +24,9 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Family::IndexMapping)
 };
 
-constexpr int MostStreams = 256;        // of a batch,
-constexpr qint64 MostBytes = 32 << 20;  // and what they are unpacked
+// The calling thread is heard of between two batches, so they are small; but no thread is idle.
+constexpr int MostStreams = 256;
+constexpr qint64 MostBytes = 8 << 20;
 
 struct Stream
 {
@@ -69,7 +70,7 @@ public:
 private:
     void collect();
     void collect(const SpriteCollection::ItemPtr& sprite, const IndexMap* map);
-    QVector<Work> nextBatch();
+    QVector<Work> nextBatch(int threads);
     void take(const QVector<Work>& batch);
     void change(QVector<int>* broken);
 
@@ -110,11 +111,11 @@ void Mapping::collect(const SpriteCollection::ItemPtr& sprite, const IndexMap* m
     }
 }
 
-QVector<Work> Mapping::nextBatch()
+QVector<Work> Mapping::nextBatch(int threads)
 {
     QVector<Work> batch;
     for (qint64 bytes = 0; m_prepared < m_streams.size() && batch.size() < MostStreams &&
-                           (batch.isEmpty() || bytes < MostBytes);
+                           (batch.size() < threads || bytes < MostBytes);
          ++m_prepared) {
         const Stream& stream = m_streams.at(m_prepared);
         bytes += stream.old->format.byteCount();
@@ -142,7 +143,7 @@ bool Mapping::run(QVector<int>* broken)
     QVector<Work> working;
     QVector<Work> done;
     const auto start = [&] {
-        working = nextBatch();
+        working = nextBatch(pool.threads());
         Work* const first = working.data();
         pool.start(working.size(), [first](int i) { doWork(first + i); });
     };

@@ -17,6 +17,8 @@ public:
     /// Waits for the batch that was begun.
     ~WorkPool();
 
+    int threads() const { return m_pool.maxThreadCount(); }
+
     /// Calls `work(i)` for each `i` below `count`, on any of the threads, each once. The batch
     /// before has to be done.
     void start(int count, std::function<void(int)> work);
