@@ -4970,6 +4970,41 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>ResampleDlg</name>
+    <message>
+        <source>Resample</source>
+        <translation>Abtastrate ändern</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>%1 bits</source>
+        <translation>%1 Bit</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Abtastrate:</translation>
+    </message>
+    <message>
+        <source>Bits per sample:</source>
+        <translation>Bit je Abtastwert:</translation>
+    </message>
+    <message>
+        <source>Channels:</source>
+        <translation>Kanäle:</translation>
+    </message>
+</context>
+<context>
     <name>RunDlg</name>
     <message>
         <source>Run in Engine</source>
@@ -6759,6 +6794,109 @@ Zeile %2, Spalte %3.</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::SoundEditor</name>
+    <message>
+        <source>No sound found!</source>
+        <translation>Kein Klang gefunden!</translation>
+    </message>
+    <message>
+        <source>Replace identifiers</source>
+        <translation>Kennungen ersetzen</translation>
+    </message>
+    <message>
+        <source>WAVEform audio format (*.wav)</source>
+        <translation>WAVE-Klangformat (*.wav)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) of these names are there already. Replace them?</source>
+        <translation>
+            <numerusform>%n Datei mit diesem Namen gibt es schon. Ersetzen?</numerusform>
+            <numerusform>%n Dateien mit diesen Namen gibt es schon. Ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Do you really want to delete the sprite?</source>
+        <translation>Den Klang wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>You can&apos;t import from the destination project!</source>
+        <translation>Aus dem Zielprojekt selbst kann nichts importiert werden!</translation>
+    </message>
+    <message>
+        <source>Import sounds from project &apos;%1&apos;</source>
+        <translation>Klänge aus Projekt &apos;%1&apos; importieren</translation>
+    </message>
+    <message>
+        <source>sound</source>
+        <translation>Klang</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sound(s) were imported!</source>
+        <translation>
+            <numerusform>%n Klang wurde importiert!</numerusform>
+            <numerusform>%n Klänge wurden importiert!</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No sound imported!</source>
+        <translation>Kein Klang importiert!</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sound(s) were replaced!</source>
+        <translation>
+            <numerusform>%n Klang wurde ersetzt!</numerusform>
+            <numerusform>%n Klänge wurden ersetzt!</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Channels: %1 (%2)
+Sample rate: %3 Hz
+Bits per sample: %4 bits
+Duration: %5 seconds
+Tick count: %6 at 60Hz</source>
+        <translation>Kanäle: %1 (%2)
+Abtastrate: %3 Hz
+Bit je Abtastwert: %4 Bit
+Dauer: %5 Sekunden
+Ticks: %6 bei 60 Hz</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>Channels: ---
+Sample rate: ---
+Bits per sample: ---
+Duration: ---
+Tick count: ---</source>
+        <translation>Kanäle: ---
+Abtastrate: ---
+Bit je Abtastwert: ---
+Dauer: ---
+Ticks: ---</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sound(s) stay as they were:</source>
+        <translation>
+            <numerusform>%n Klang bleibt, wie er war:</numerusform>
+            <numerusform>%n Klänge bleiben, wie sie waren:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Resampling...</source>
+        <translation>Abtastrate wird geändert ...</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::SoundPlayer</name>
     <message>
         <source>This sound has no form that can be played.</source>
@@ -6771,6 +6909,57 @@ Zeile %2, Spalte %3.</translation>
     <message>
         <source>Nothing is heard: the sound device could not be opened, or has gone. Connect it, and play again.</source>
         <translation>Es ist nichts zu hören: Das Tongerät ließ sich nicht öffnen oder ist nicht mehr da. Bitte anschließen und wieder abspielen.</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SoundTexts</name>
+    <message>
+        <source>Sound:</source>
+        <translation>Klang:</translation>
+    </message>
+    <message>
+        <source>The sound that is shown and played</source>
+        <translation>Der Klang, der gezeigt und abgespielt wird</translation>
+    </message>
+    <message>
+        <source>Trim to selection</source>
+        <translation>Auf Auswahl zuschneiden</translation>
+    </message>
+    <message>
+        <source>Keep only the selected part of the sound</source>
+        <translation>Nur den ausgewählten Teil des Klangs behalten</translation>
+    </message>
+    <message>
+        <source>Fade in</source>
+        <translation>Einblenden</translation>
+    </message>
+    <message>
+        <source>Let the selected part, or all of the sound, begin in silence</source>
+        <translation>Den ausgewählten Teil oder den ganzen Klang in Stille beginnen lassen</translation>
+    </message>
+    <message>
+        <source>Fade out</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Let the selected part, or all of the sound, end in silence</source>
+        <translation>Den ausgewählten Teil oder den ganzen Klang in Stille enden lassen</translation>
+    </message>
+    <message>
+        <source>Normalize</source>
+        <translation>Normalisieren</translation>
+    </message>
+    <message>
+        <source>Make the selected part, or all of the sound, as loud as it can be</source>
+        <translation>Den ausgewählten Teil oder den ganzen Klang so laut wie möglich machen</translation>
+    </message>
+    <message>
+        <source>Silence</source>
+        <translation>Stille</translation>
+    </message>
+    <message>
+        <source>Silence the selected part of the sound</source>
+        <translation>Den ausgewählten Teil des Klangs verstummen lassen</translation>
     </message>
 </context>
 <context>

@@ -355,6 +355,37 @@
     </message>
 </context>
 <context>
+    <name>Zorv::SoundEditor</name>
+    <message numerus="yes">
+        <source>%n file(s) of these names are there already. Replace them?</source>
+        <translation>
+            <numerusform>%n file of this name is there already. Replace it?</numerusform>
+            <numerusform>%n files of these names are there already. Replace them?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sound(s) were imported!</source>
+        <translation>
+            <numerusform>%n sound was imported!</numerusform>
+            <numerusform>%n sounds were imported!</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sound(s) were replaced!</source>
+        <translation>
+            <numerusform>%n sound was replaced!</numerusform>
+            <numerusform>%n sounds were replaced!</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sound(s) stay as they were:</source>
+        <translation>
+            <numerusform>%n sound stays as it was:</numerusform>
+            <numerusform>%n sounds stay as they were:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Zorv::SpriteSave</name>
     <message numerus="yes">
         <source>%n file(s) of these names are in the folder already. Replace them?</source>

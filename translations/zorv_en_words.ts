@@ -16,4 +16,11 @@
         <translation>The parameters of the engine name no project. Write %0 for the one in front, in Tools &gt; Options.</translation>
     </message>
 </context>
+<context>
+    <name>Zorv::SoundEditor</name>
+    <message>
+        <source>Do you really want to delete the sprite?</source>
+        <translation>Do you really want to delete the sound?</translation>
+    </message>
+</context>
 </TS>

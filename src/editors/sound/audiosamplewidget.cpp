@@ -163,11 +163,16 @@ const SoundSample& AudioSampleWidget::sample() const
     return d->sample;
 }
 
-void AudioSampleWidget::play(bool loop)
+void AudioSampleWidget::showNow()
 {
     if (d->loadTimer.isActive()) {
         d->load();
     }
+}
+
+void AudioSampleWidget::play(bool loop)
+{
+    showNow();
     d->player.play(loop);
 }
 

@@ -32,6 +32,9 @@ public:
     /// does not wait for each. One of the same form and length keeps selection and zoom.
     void setSample(const SoundSample& sample);
 
+    /// Shows a sound that waits to be shown.
+    void showNow();
+
     /// The sound that is shown.
     const SoundSample& sample() const;
 

@@ -1,0 +1,117 @@
+#include "editors/sound/soundbatch_p.h"
+
+#include "cache/sound.h"
+#include "cache/sounds.h"
+#include "core/interface.h"
+#include "core/progressreporter.h"
+
+#include <QFutureWatcher>
+#include <QThreadPool>
+#include <QTimer>
+#include <QtConcurrent>
+
+namespace Zorv {
+
+namespace {
+
+constexpr int LookInterval = 30;  // milliseconds
+
+}  // namespace
+
+SoundBatch::SoundBatch(Sounds* sounds, const QVector<int>& rows, Work work)
+    : m_sounds(sounds), m_rows(rows), m_work(std::move(work))
+{
+    connect(sounds, &QAbstractItemModel::rowsInserted, this, &SoundBatch::cancel);
+    connect(sounds, &QAbstractItemModel::rowsRemoved, this, &SoundBatch::cancel);
+    connect(sounds, &QAbstractItemModel::rowsMoved, this, &SoundBatch::cancel);
+    connect(sounds, &QAbstractItemModel::layoutChanged, this, &SoundBatch::cancel);
+    connect(sounds, &QAbstractItemModel::modelReset, this, &SoundBatch::cancel);
+    connect(sounds, &QObject::destroyed, this, &SoundBatch::cancel);
+}
+
+SoundBatch::~SoundBatch()
+{
+    *m_isCanceled = true;
+}
+
+void SoundBatch::run(const QString& title)
+{
+    m_reporter = Interface::instance()->progress(title, 0);
+    m_reporter->update(0, m_rows.size());
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, &SoundBatch::look);
+    timer.start(LookInterval);
+    startNext();
+    if (m_running > 0) {
+        m_loop.exec();
+    }
+    m_reporter->finish();
+    m_reporter = nullptr;
+}
+
+/// One more than there are threads, so that none of them waits for the main thread.
+void SoundBatch::startNext()
+{
+    const int most = QThreadPool::globalInstance()->maxThreadCount() + 1;
+    while (m_running < most && m_next < m_rows.size() && !*m_isCanceled && m_sounds) {
+        start(m_rows[m_next++]);
+    }
+    if (m_running == 0) {
+        m_loop.quit();
+    }
+}
+
+void SoundBatch::start(int row)
+{
+    const Sound* sound = m_sounds->sound(row);
+    if (!sound) {
+        return;
+    }
+    SoundSample sample;
+    static_cast<SampleInfo&>(sample) = sound->sampleInfo();
+    sample.data = sound->sampleData();
+    auto* watcher = new Watcher(this);
+    connect(watcher, &QFutureWatcherBase::finished, this,
+            [this, watcher, row] { finished(watcher, row); });
+    ++m_running;
+    watcher->setFuture(QtConcurrent::run([work = m_work, sample, isCanceled = m_isCanceled] {
+        return work(sample, isCanceled.get());
+    }));
+}
+
+void SoundBatch::finished(Watcher* watcher, int row)
+{
+    const SoundConversion result = watcher->result();
+    watcher->deleteLater();
+    --m_running;
+    Sound* sound = m_sounds && !*m_isCanceled ? m_sounds->sound(row) : nullptr;
+    if (sound && result.outcome == SoundConversion::Done) {
+        sound->setSample(result.sample, result.sample.data);
+    } else if (result.outcome != SoundConversion::Done &&
+               result.outcome != SoundConversion::Canceled) {
+        ++m_failed;
+        const QString reason = soundConversionText(result.outcome);
+        if (!m_reasons.contains(reason)) {
+            m_reasons.append(reason);
+        }
+    }
+    if (m_reporter) {
+        m_reporter->update(++m_done, 0);
+    }
+    look();
+    startNext();
+}
+
+void SoundBatch::cancel()
+{
+    *m_isCanceled = true;
+}
+
+void SoundBatch::look()
+{
+    if (m_reporter && m_reporter->isCanceled()) {
+        cancel();
+    }
+}
+
+}  // namespace Zorv

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "media/soundconversion.h"
+
+#include <QEventLoop>
+#include <QMap>
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+#include <functional>
+#include <memory>
+
+template <class Value>
+class QFutureWatcher;
+
+namespace Zorv {
+
+class ProgressReporter;
+class Sounds;
+
+/// Work on the samples of several sounds, in the threads of the machine.
+///
+/// Samples are unpacked and put back in the main thread, one sound a turn of the event loop; only
+/// few are in work at a time. It ends early if the person gives up, the list changes otherwise, or
+/// goes: what has been put back by then stays.
+class SoundBatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Work = std::function<SoundConversion(const SoundSample&, const std::atomic<bool>*)>;
+
+    SoundBatch(Sounds* sounds, const QVector<int>& rows, Work work);
+    ~SoundBatch() override;
+
+    /// Runs an event loop until all is done.
+    void run(const QString& title);
+
+    /// Why some sounds stay as they were, each reason once, and how many those are.
+    QStringList reasons() const { return m_reasons; }
+    int failedCount() const { return m_failed; }
+
+private:
+    using Watcher = QFutureWatcher<SoundConversion>;
+    void startNext();
+    void start(int row);
+    void finished(Watcher* watcher, int row);
+    void cancel();
+    void look();
+
+    QPointer<Sounds> m_sounds;
+    QVector<int> m_rows;
+    Work m_work;
+    std::shared_ptr<std::atomic<bool>> m_isCanceled = std::make_shared<std::atomic<bool>>(false);
+    ProgressReporter* m_reporter = nullptr;
+    QEventLoop m_loop;
+    int m_next = 0;
+    int m_done = 0;
+    int m_running = 0;
+    int m_failed = 0;
+    QStringList m_reasons;
+};
+
+}  // namespace Zorv

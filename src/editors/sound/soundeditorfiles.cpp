@@ -1,0 +1,332 @@
+#include "cache/sound.h"
+#include "core/dialogs/dialogs.h"
+#include "core/dialogs/itemsdialog.h"
+#include "core/extensionmanager.h"
+#include "core/files.h"
+#include "core/filesystemarchive.h"
+#include "core/interface.h"
+#include "core/progress_p.h"
+#include "editors/sound/soundeditor_p.h"
+#include "media/pcmsamples_p.h"
+#include "media/soundfile.h"
+#include "media/wav.h"
+#include "text/zorvtranslator.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+namespace Zorv {
+
+namespace {
+
+constexpr unsigned AddText = 146;
+constexpr unsigned DeleteText = 147;
+constexpr unsigned OpenText = 148;
+constexpr unsigned SaveText = 149;
+constexpr unsigned UnreadableTitle = 2;
+constexpr unsigned UnreadableText = 3;
+constexpr unsigned AllFormats = 7;
+
+QString textOf(unsigned id)
+{
+    return ZorvTranslator::instance()->trText(id);
+}
+
+QString waveFilter()
+{
+    return SoundEditor::tr("WAVEform audio format (*.wav)");
+}
+
+/// WAV, and what extensions read.
+QString openFilter(const Interface* host)
+{
+    QStringList patterns{QStringLiteral("*.wav")};
+    QStringList filters{waveFilter()};
+    for (const Extension* loader : qAsConst(ExtensionManager::list(Extension::SoundLoader))) {
+        const QString name = QString::fromLatin1(loader->name());
+        const QString pattern = QStringLiteral("*.") + name.toLower();
+        if (!name.isEmpty() && !patterns.contains(pattern)) {
+            patterns.append(pattern);
+            filters.append(QStringLiteral("%1 (%2)").arg(name, pattern));
+        }
+    }
+    filters.prepend(QStringLiteral("%1 (%2)").arg(host->text(AllFormats), patterns.join(' ')));
+    return filters.join(QStringLiteral(";;"));
+}
+
+/// The names below a chosen one: "folder/base_IDENTIFIER.suffix", each another one.
+QStringList namesFor(const QString& chosen, const QStringList& identifiers)
+{
+    const QFileInfo file(chosen);
+    const QString suffix = file.suffix().isEmpty() ? QStringLiteral("wav") : file.suffix();
+    QStringList names;
+    QSet<QString> taken;
+    for (QString id : identifiers) {
+        for (const char bad : {',', '/', '\\'}) {
+            id.replace(QLatin1Char(bad), QLatin1Char('-'));
+        }
+        QString name;
+        for (int copy = 1; name.isEmpty() || taken.contains(name); ++copy) {
+            name = QStringLiteral("%1/%2_%3%4.%5")
+                       .arg(file.absolutePath(), file.completeBaseName(), id,
+                            copy > 1 ? QStringLiteral("-%1").arg(copy) : QString(), suffix);
+        }
+        taken.insert(name);
+        names.append(name);
+    }
+    return names;
+}
+
+/// Files that stand there already are replaced only if the person says so.
+bool mayReplace(const QString& title, const QStringList& names)
+{
+    QStringList there;
+    for (const QString& name : names) {
+        if (QFileInfo::exists(name)) {
+            there.append(QFileInfo(name).fileName());
+        }
+    }
+    constexpr int MostNames = 10;
+    if (there.isEmpty()) {
+        return true;
+    }
+    const QString list = there.mid(0, MostNames).join(QLatin1Char('\n')) +
+                         (there.size() > MostNames ? QStringLiteral("\n...") : QString());
+    return Dialogs::instance()->question(
+               title,
+               SoundEditor::tr("%n file(s) of these names are there already. Replace them?",
+                               nullptr, there.size()) +
+                   QLatin1String("\n\n") + list,
+               Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
+}
+
+}  // namespace
+
+/// Another action may be at work, or the project may have gone in a dialog.
+bool SoundEditorPrivate::begin()
+{
+    if (!editor->isActive()) {
+        host->activateEditor(editor);
+    }
+    return sounds && !isBusy;
+}
+
+QString SoundEditorPrivate::folder() const
+{
+    const auto value = [this](const char* key) {
+        return sounds->option(QLatin1String(key)).toString();
+    };
+    return value("snd_path").isEmpty() ? value("project_path") : value("snd_path");
+}
+
+void SoundEditorPrivate::rememberFolder(const QString& fileName) const
+{
+    sounds->setOption(QStringLiteral("snd_path"), QFileInfo(fileName).absolutePath(), true, false);
+}
+
+/// What is no WAV of plain samples is left to the extensions.
+SoundSample SoundEditorPrivate::read(const QString& fileName) const
+{
+    Archive* archive = FileSystemArchive::instance();
+    SoundSample sample;
+    if (QIODevice* device = archive->openFile(fileName, QIODevice::ReadOnly)) {
+        sample = soundFromWAV(device);
+        if (wholeFramesOf(sample, sample.data) == 0 && device->seek(0)) {
+            SoundSample other;
+            const QByteArray format = fileExtension(fileName);
+            for (Extension* loader : qAsConst(ExtensionManager::list(Extension::SoundLoader))) {
+                if (loader->name() == format && device->seek(0) &&
+                    loader->loadSound(device, other)) {
+                    sample = other;
+                    break;
+                }
+            }
+        }
+        archive->closeFile(device);
+    }
+    sample.frames = wholeFramesOf(sample, sample.data);
+    return sample;
+}
+
+void SoundEditorPrivate::tellUnreadable(const QString& fileName) const
+{
+    Dialogs::instance()->warning(host->text(UnreadableTitle),
+                                 host->text(UnreadableText).arg(fileName));
+}
+
+void SoundEditorPrivate::add()
+{
+    if (!begin()) {
+        return;
+    }
+    const QPointer<Sounds> to = sounds;
+    const QStringList files =
+        getOpenFileNames(nullptr, textOf(AddText), folder(), openFilter(host));
+    if (files.isEmpty() || !to || to != sounds) {
+        return;
+    }
+    rememberFolder(files.first());
+    QList<QVariant> ids;
+    host->soundIdentifiers(files, &ids);
+    if (ids.size() != files.size() || !to || to != sounds) {
+        return;
+    }
+    const int before = count();
+    int row = before == 0 ? 0 : current() + 1;
+    QStringList unreadable;
+    {
+        const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
+        if (files.size() > 1) {
+            sounds->beginChange({});
+        }
+        for (int i = 0; i < files.size(); ++i) {
+            const SoundSample sample = read(files[i]);
+            if (sample.frames > 0 && sounds->add(row, ids[i], sample)) {
+                ++row;
+            } else {
+                unreadable.append(files[i]);
+            }
+        }
+        if (files.size() > 1) {
+            sounds->endChange();
+        }
+        if (count() > before) {
+            sounds->setCurrent(row - 1);
+        }
+    }
+    editor->soundCountChanged();
+    for (const QString& file : qAsConst(unreadable)) {
+        tellUnreadable(file);
+    }
+}
+
+void SoundEditorPrivate::del()
+{
+    if (!begin() || current() < 0 || current() >= count()) {
+        return;
+    }
+    const QPointer<Sounds> from = sounds;
+    const Sound* wanted = sounds->sound(current());
+    if (host->option(QStringLiteral("confirm_delete")).toBool() &&
+        Dialogs::instance()->question(textOf(DeleteText),
+                                      SoundEditor::tr("Do you really want to delete the sprite?"),
+                                      Dialogs::Yes | Dialogs::No, Dialogs::Yes) != Dialogs::Yes) {
+        return;
+    }
+    if (!from || from != sounds || sounds->sound(current()) != wanted) {
+        return;
+    }
+    {
+        const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
+        sounds->remove(unsigned(current()));
+    }
+    editor->soundCountChanged();
+}
+
+void SoundEditorPrivate::duplicate()
+{
+    Sound* source = begin() ? sounds->sound(current()) : nullptr;
+    if (!source) {
+        return;
+    }
+    {
+        const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
+        const int row = current();
+        source->duplicate();
+        sounds->setCurrent(qMin(row + 1, count() - 1));
+    }
+    editor->soundCountChanged();
+}
+
+void SoundEditorPrivate::openSnd()
+{
+    const Sound* wanted = begin() ? sounds->sound(current()) : nullptr;
+    if (!wanted) {
+        return;
+    }
+    const QPointer<Sounds> to = sounds;
+    const QString file = getOpenFileName(nullptr, textOf(OpenText), folder(), openFilter(host));
+    if (file.isEmpty() || !to || to != sounds || sounds->sound(current()) != wanted) {
+        return;
+    }
+    rememberFolder(file);
+    const SoundSample sample = read(file);
+    if (sample.frames > 0) {
+        const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
+        sounds->sound(current())->setSample(sample, sample.data);
+    } else {
+        tellUnreadable(file);
+    }
+    if (to && to == sounds) {
+        selPosChanged(current());
+    }
+}
+
+/// False if writing failed, which was told. A file that cannot be opened is only noted.
+bool SoundEditorPrivate::write(const Sound& from, const QString& fileName,
+                               QStringList* unopened) const
+{
+    Archive* archive = FileSystemArchive::instance();
+    QString error;
+    QIODevice* device = archive->openFile(fileName, QIODevice::WriteOnly, &error);
+    if (!device) {
+        unopened->append(QStringLiteral("%1: %2").arg(fileName, error));
+        return true;
+    }
+    SoundSample sample;
+    static_cast<SampleInfo&>(sample) = from.sampleInfo();
+    sample.data = from.sampleData();
+    soundToWAV(sample, device);
+    if (!archive->closeFile(device, &error)) {
+        Dialogs::instance()->error(textOf(SaveText), QStringLiteral("%1: %2").arg(fileName, error));
+        return false;
+    }
+    return true;
+}
+
+void SoundEditorPrivate::saveSndAs()
+{
+    if (!begin() || !sounds->sound(current())) {
+        return;
+    }
+    const QPointer<Sounds> from = sounds;
+    const QString title = textOf(SaveText);
+    const QString chosen =
+        Dialogs::instance()->saveFileName(nullptr, title, folder(), waveFilter());
+    if (chosen.isEmpty() || !from || from != sounds) {
+        return;
+    }
+    rememberFolder(chosen);
+    const std::unique_ptr<ItemsDialog> dialog(
+        host->itemsDialog(host->mainWindow(), title, sounds, current()));
+    const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog->hasSelection();
+    const QList<int> rows = dialog->selected();
+    dialog->release();
+    if (!isAccepted || !from || from != sounds) {
+        return;
+    }
+    QStringList ids;
+    for (const int row : rows) {
+        ids.append(sounds->sound(row)->property(QStringLiteral("Identifier")).toString());
+    }
+    const bool isOne = rows.size() == 1;
+    const QStringList names = isOne ? QStringList(chosen) : namesFor(chosen, ids);
+    if ((!isOne && !mayReplace(title, names)) || !from || from != sounds) {
+        return;
+    }
+    QStringList unopened;
+    {
+        const QScopedValueRollback<bool> busy(isBusy, true);
+        Progress progress(title, rows.size());
+        for (int i = 0; i < rows.size() && from && sounds->sound(rows[i]); ++i) {
+            if (!write(*sounds->sound(rows[i]), names[i], &unopened) || !progress.step()) {
+                break;
+            }
+        }
+    }
+    if (!unopened.isEmpty()) {
+        emit editor->saveFailed(unopened.join(QLatin1Char('\n')));
+    }
+}
+
+}  // namespace Zorv
