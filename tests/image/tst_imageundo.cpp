@@ -305,6 +305,10 @@ void TestImageUndo::stepsThatDoNothingAreNone()
     stack.seal();
     stack.push(new AddCommand(number, 1, 10, 5));
     QCOMPARE(stack.count(), 2);
+    stack.push(new AddCommand(number, 1, 10, 6));
+    stack.undo();
+    stack.push(new AddCommand(number, 1, 10, 5));  // what undo stopped at stays a step
+    QCOMPARE(stack.count(), 3);
 
     ImageCanvas canvas;
     canvas.setSize({5, 5}, {}, false);
@@ -335,6 +339,11 @@ void TestImageUndo::canceledMacroLeavesNothing()
     QCOMPARE(stack.undoText(), QStringLiteral("outer"));
     stack.undo();
     QCOMPARE(number, 0);
+    stack.beginMacro(QStringLiteral("nothing"));
+    stack.push(new AddCommand(number, 4));
+    stack.cancelMacro();
+    stack.redo();
+    QCOMPARE(number, 1);
 }
 
 void TestImageUndo::undoEndsAStroke()
@@ -349,6 +358,7 @@ void TestImageUndo::undoEndsAStroke()
             canvas.beginStroke(layer, kind, {});
             canvas.willChange({0, 0, 1, 1});
             layer->pixels()->setPixel(0, 0, color);
+            QCOMPARE(canvas.undoStack()->undoText(), QStringLiteral("edit"));
             canvas.endStroke();
             // It is not clean from its begin on, and never between.
             QCOMPARE(clean.count(), color ? 1 : 2);

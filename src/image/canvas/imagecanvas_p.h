@@ -127,6 +127,9 @@ public:
 
     /// Lets an open stroke of a layer keep all of it, whatever was announced.
     void keepWhole(const ImageLayer* layer);
+
+    /// The history knows of the stroke: it can be undone from now on.
+    void tellStroke();
     void endStroke();
 
     ImageCanvas* const q;

@@ -39,7 +39,7 @@ void ImageCanvas::beginStroke(ImageLayer* layer, StrokeKind kind, const QString&
     }
     d->stroke.emplace(std::move(stroke));
     if (kind == WholeStroke) {
-        d->stack.setPending([this] { d->endStroke(); });
+        d->tellStroke();
     }
 }
 
@@ -50,7 +50,7 @@ bool ImageCanvas::willChange(const QRect& rect)
     }
     if (d->stroke->kind == TiledStroke) {
         d->stroke->tiles.save(targetOf(*d, *d->stroke), rect);
-        d->stack.setPending([this] { d->endStroke(); });
+        d->tellStroke();
     }
     return true;
 }
@@ -87,6 +87,12 @@ bool ImageCanvas::setSelection(const QImage& mask)
     changed(mask.rect());
     endStroke();
     return true;
+}
+
+void ImageCanvasPrivate::tellStroke()
+{
+    const QString other = stroke->layer ? QStringLiteral("edit") : QStringLiteral("select");
+    stack.setPending([this] { endStroke(); }, stroke->title.isEmpty() ? other : stroke->title);
 }
 
 void ImageCanvasPrivate::keepWhole(const ImageLayer* layer)

@@ -60,6 +60,7 @@ public:
     Step macro;
     std::vector<std::size_t> macroBegins;  ///< where each open macro begins among its commands
     std::function<void()> pending;
+    QString pendingText;
     bool moving = false;
     Shown shown;
 };
@@ -240,11 +241,11 @@ void ImageUndoStack::push(ImageUndoCommand* command)
         d->tell();
         return;
     }
-    d->dropRedo();
     if (!d->macroBegins.empty()) {
         d->macro.commands.push_back(std::move(owned));
         return;
     }
+    d->dropRedo();
     if (!d->merge(command)) {
         Step step;
         step.text = command->text();
@@ -277,6 +278,7 @@ void ImageUndoStack::endMacro()
     Step step = std::exchange(d->macro, Step());
     if (!step.commands.empty()) {
         step.sealed = true;
+        d->dropRedo();
         d->add(std::move(step));
     }
     d->tell();
@@ -313,6 +315,7 @@ void ImageUndoStack::undo()
     }
     d->moveTo(d->index - 1, &Step::undo);
     --d->index;
+    seal();
     emit moved();
     d->tell();
 }
@@ -370,6 +373,9 @@ bool ImageUndoStack::canRedo() const
 
 QString ImageUndoStack::undoText() const
 {
+    if (d->pending) {
+        return d->pendingText;
+    }
     return d->index > 0 ? d->steps[d->index - 1].text : QString();
 }
 
@@ -423,9 +429,10 @@ void ImageUndoStack::setBudget(qint64 bytes)
     d->tell();
 }
 
-void ImageUndoStack::setPending(const std::function<void()>& finish)
+void ImageUndoStack::setPending(const std::function<void()>& finish, const QString& text)
 {
     d->pending = finish;
+    d->pendingText = text;
     d->tell();
 }
 

@@ -32,13 +32,14 @@ public:
     explicit ImageUndoStack(QObject* parent = nullptr);
     ~ImageUndoStack() override;
 
-    /// Takes over a command whose action is done. What could be redone is dropped. It becomes part
-    /// of the open macro, or of the last step if that takes it (`QUndoCommand::mergeWith()`), or a
-    /// step of its own. One that is obsolete is deleted; so is a step that has become obsolete.
+    /// Takes over a command whose action is done. It becomes part of the open macro, or drops what
+    /// could be redone and becomes part of the last step if that takes it
+    /// (`QUndoCommand::mergeWith()`), or a step of its own. One that is obsolete is deleted; so is
+    /// a step that has become obsolete.
     void push(ImageUndoCommand* command);
 
-    /// What is pushed until `endMacro()` is one step. An inner macro is part of the outer one. A
-    /// macro in which nothing was pushed is no step.
+    /// What is pushed until `endMacro()` is one step, which drops what could be redone. An inner
+    /// macro is part of the outer one. A macro in which nothing was pushed is no step.
     void beginMacro(const QString& text);
     void endMacro();
 
@@ -78,9 +79,9 @@ public:
     void setBudget(qint64 bytes);
 
     /// What has begun and is not pushed yet, such as a stroke: `finish` pushes it. It is called
-    /// before anything else happens to the stack. While there is one, undo is possible and the
-    /// state is not clean. An empty function ends this.
-    void setPending(const std::function<void()>& finish);
+    /// before anything else happens to the stack. While there is one, undo is possible, with `text`
+    /// as that of its step, and the state is not clean. An empty function ends this.
+    void setPending(const std::function<void()>& finish, const QString& text = {});
 
 signals:
     /// Around an undo or redo, so that a listener can act once for the whole step.
