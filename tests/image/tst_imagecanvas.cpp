@@ -63,6 +63,7 @@ private slots:
     void enteringLayersFit();
     void changesOfSizeMoveTheAxis_data();
     void changesOfSizeMoveTheAxis();
+    void anyAxisCanBeMoved();
     void rotatingOneCropsNoOther();
     void cropLeavesBlankLayersOut();
     void layerListIsAModel();
@@ -238,6 +239,30 @@ void TestImageCanvas::changesOfSizeMoveTheAxis()
         QCOMPARE(sizes.count(), 3 * heard);
         QVERIFY(heard == (size == QSize(20, 10) ? 0 : 1));
     }
+}
+
+/// A file may hold any number.
+void TestImageCanvas::anyAxisCanBeMoved()
+{
+    ImageCanvas canvas;
+    setUp(canvas, ImageCanvas::RGBAFormat, {20, 10}, 2);
+    const int most = std::numeric_limits<int>::max();
+    const QPoint axis(-most - 1, most);
+    canvas.setAxis(axis);
+    const auto isOnItsSide = [&](int sign) {
+        const qint64 x = qint64(canvas.axis().x()) * sign;
+        return x < -1000 && canvas.axis().y() * qint64(sign) > 1000;
+    };
+    canvas.flip(true, true);
+    QVERIFY(isOnItsSide(-1));
+    canvas.undoStack()->undo();
+    QCOMPARE(canvas.axis(), axis);
+    canvas.resize({4000, 4000}, ImageResizeFilter::Nearest);
+    QVERIFY(isOnItsSide(1));
+    canvas.setSize({3999, 3999}, {-1, 5}, true);
+    QVERIFY(isOnItsSide(1));
+    canvas.rotateAll(180, ImageResizeFilter::Nearest);
+    QVERIFY(isOnItsSide(-1));
 }
 
 void TestImageCanvas::rotatingOneCropsNoOther()

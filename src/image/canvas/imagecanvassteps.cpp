@@ -1,5 +1,7 @@
-// What changes all of a canvas in one step. If a layer cannot follow, all is taken back.
+// What changes all of a canvas in one step. If a layer cannot follow, all is taken back. The axis
+// may be any number that a file had: what moves it stays far from the ends of `int`.
 
+#include "graphics/stage/rounding_p.h"
 #include "image/canvas/alikepalette_p.h"
 #include "image/canvas/commands/imagecanvasformat_p.h"
 #include "image/canvas/imagecanvas_p.h"
@@ -22,12 +24,18 @@ QPoint turnedPoint(const QPoint& point, const QSize& image, const QSize& turned,
     const QPointF away = QTransform().rotate(double(degrees)).map(QPointF(point) - middle);
     const QPoint corner((canvas.width() - turned.width()) >> 1,
                         (canvas.height() - turned.height()) >> 1);
-    return (away + QPointF(turned.width() / 2.0, turned.height() / 2.0)).toPoint() + corner;
+    const QPointF place = away + QPointF(turned.width() / 2.0, turned.height() / 2.0);
+    return stageSum({roundedInt(place.x()), roundedInt(place.y())}, corner);
 }
 
 int scaledPlace(int place, int from, int to)
 {
-    return from > 0 ? int(std::lround(double(place) * to / from)) : place;
+    return from > 0 ? stageInt(std::llround(double(place) * to / from)) : place;
+}
+
+int mirroredPlace(int place, int length)
+{
+    return stageInt(qint64(length) - place);
 }
 
 }  // namespace
@@ -56,7 +64,7 @@ bool ImageCanvasPrivate::resizeLayers(const QSize& newSize, const QPoint& corner
     }
     recordSize(newSize);
     if (!before.isEmpty() && before != newSize) {
-        recordAxis(axis + offset);
+        recordAxis(stageSum(axis, offset));
     }
     return forLayers([&](ImageLayer& layer) { return layer.resize(newSize, corner, fill()); });
 }
@@ -95,8 +103,8 @@ bool ImageCanvas::flip(bool horizontal, bool vertical)
 {
     endStroke();
     return d->layers->count() > 0 && d->macro("flip", [&] {
-        const QPoint axis(horizontal ? d->size.width() - d->axis.x() : d->axis.x(),
-                          vertical ? d->size.height() - d->axis.y() : d->axis.y());
+        const QPoint axis(horizontal ? mirroredPlace(d->axis.x(), d->size.width()) : d->axis.x(),
+                          vertical ? mirroredPlace(d->axis.y(), d->size.height()) : d->axis.y());
         d->recordAxis(axis);
         return d->forLayers([&](ImageLayer& layer) { return layer.flip(horizontal, vertical); });
     });
@@ -133,9 +141,10 @@ bool ImageCanvasPrivate::rotateLayers(bool all, float angle, ImageResizeFilter f
         const QSize turned = (all ? layers->at(0) : active)->image().size();
         const bool others = !all && layers->count() > 1;
         const QSize newSize = others ? turned.expandedTo(before) : turned;
-        const QPoint newAxis = others ? axis + QPoint((newSize.width() - before.width()) >> 1,
-                                                      (newSize.height() - before.height()) >> 1)
-                                      : turnedPoint(axis, before, turned, angle, newSize);
+        const QPoint growth((newSize.width() - before.width()) >> 1,
+                            (newSize.height() - before.height()) >> 1);
+        const QPoint newAxis =
+            others ? stageSum(axis, growth) : turnedPoint(axis, before, turned, angle, newSize);
         if (newSize != before) {
             recordSize(newSize);
         }
