@@ -162,7 +162,8 @@ void RenderWidget::keyPressEvent(QKeyEvent* event)
 void RenderWidget::keyReleaseEvent(QKeyEvent* event)
 {
     QOpenGLWidget::keyReleaseEvent(event);
-    if (d->renderer) {
+    // A key that repeats is still held.
+    if (d->renderer && !event->isAutoRepeat()) {
         d->renderer->keyReleased(event->key(), event->modifiers());
     }
 }

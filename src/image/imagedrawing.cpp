@@ -151,7 +151,8 @@ QPoint ImageRendererPrivate::cursorPlace(ImageView view) const
 
 void ImageRendererPrivate::drawToolCursor(QPainter& painter, ImageView view)
 {
-    if (current && (isCellShown || !isOutside)) {
+    const bool paints = current && !isSpaceHeld && !isPanning;
+    if (paints && (isCellShown || !isOutside)) {
         current->renderCursor(painter, cursorPlace(view), place().scale(view));
     }
 }

@@ -68,7 +68,7 @@ QPoint ImageRendererPrivate::toolPixel(QPoint pixel) const
 
 ImageTool* ImageRendererPrivate::toolFor(Qt::KeyboardModifiers modifiers) const
 {
-    const bool moves = isSpaceHeld || modifiers.testFlag(Qt::ControlModifier);
+    const bool moves = isSpaceHeld || isPanning || modifiers.testFlag(Qt::ControlModifier);
     return moves && current ? tools[ImageTool::CanvasMoveTool] : current;
 }
 
@@ -203,7 +203,8 @@ void ImageRenderer::mouseWheel(int delta)
     const double zoom = d->canvas.zoomLevel();
     const double newZoom = steps > 0 ? zoom * (steps + 1) : zoom / (1 - steps);
     const QPointF place = d->exact.value_or(d->mousePos);
-    if (d->isOutside || d->views.viewAt(place) == ImageView::Original) {
+    const bool isElsewhere = d->isOutside && !d->exact;
+    if (isElsewhere || d->views.viewAt(place) == ImageView::Original) {
         d->zoomAboutMiddle(newZoom);
     } else {
         d->zoomTo(newZoom, place);
@@ -221,6 +222,7 @@ void ImageRenderer::mouseLeft()
 {
     d->losePress();
     d->isOutside = true;
+    d->exact.reset();
     if (d->current) {
         d->current->mouseLeft();
     }

@@ -96,6 +96,7 @@ void ImageRendererPrivate::setSize()
     if (current) {
         current->activeLayerChanged();
     }
+    options.keepSymmetryAxisOn(canvas.size());
     isCellShown = isCellShown && QRect(QPoint(), canvas.size()).contains(cell);
     q->update();
 }
@@ -183,6 +184,7 @@ void ImageRenderer::setCurrentTool(ImageTool::Type type)
         return;
     }
     d->losePress();
+    setPanning(false);
     if (d->current) {
         d->current->deactivated();
     }
@@ -196,6 +198,20 @@ void ImageRenderer::setCurrentTool(ImageTool::Type type)
     }
     d->moveAgain();
     update();
+}
+
+void ImageRenderer::setPanning(bool isOn)
+{
+    if (isOn != d->isPanning) {
+        d->isPanning = isOn;
+        d->moveAgain();
+        emit panningChanged(isOn);
+    }
+}
+
+bool ImageRenderer::isPanning() const
+{
+    return d->isPanning;
 }
 
 void ImageRenderer::setActiveLayer(ImageLayer* layer)

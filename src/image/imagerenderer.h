@@ -96,6 +96,11 @@ public:
     /// Ends what the old tool has begun, and gives the widget the focus.
     void setCurrentTool(ImageTool::Type type);
 
+    /// The mouse moves the picture, whatever the tool is, until this is ended or another tool is
+    /// set. Space does the same while it is held, without this.
+    void setPanning(bool isOn);
+    bool isPanning() const;
+
     /// As on the canvas; the current tool hears of it in any case.
     void setActiveLayer(ImageLayer* layer);
 
@@ -183,6 +188,8 @@ signals:
 
     /// The pointer has left: there is nothing to tell.
     void cursorLeft();
+
+    void panningChanged(bool isOn);
 
 private:
     friend class ImageRendererPrivate;

@@ -132,8 +132,9 @@ public:
 
     QPoint mousePos;
     std::optional<QPointF> exact;  ///< told in front of the call; none if that is elsewhere
-    bool isOutside = false;
+    bool isOutside = true;         ///< of the widget, as far as is known
     bool isSpaceHeld = false;
+    bool isPanning = false;
     qint64 wheelRest = 0;
     Qt::MouseButtons pressed;
     ImageTool* pressTool = nullptr;

@@ -99,6 +99,7 @@ private slots:
     void zooms_data();
     void zooms();
     void zoomsAboutThePointer();
+    void pointerIsWhereItIsTold();
     void picture_data();
     void picture();
     void pressesOutOfOrder_data();
@@ -245,6 +246,30 @@ void TestImageRenderer::zoomsAboutThePointer()
         QVERIFY2(std::max(std::abs(way.x()), std::abs(way.y())) <= most,
                  qPrintable(QStringLiteral("%1: %2,%3").arg(i).arg(way.x()).arg(way.y())));
     }
+}
+
+/// Nothing marks one that is not there, and a wheel needs no move.
+void TestImageRenderer::pointerIsWhereItIsTold()
+{
+    View view({64, 64}, {200, 200}, ImageCanvas::IndexedFormat);
+    view.renderer.setVisibility(false, true);
+    view.renderer.centralize();
+    view.renderer.setCurrentTool(ImageTool::PenTool);
+    const QImage without = view.shown({200, 200});
+    QCOMPARE(without.pixel(100, 1), without.pixel(1, 1));
+    view.renderer.mouseMoved({100, 100}, {});
+    QVERIFY(view.shown({200, 200}) != without);
+    view.renderer.setPanning(true);
+    QCOMPARE(view.shown({200, 200}), without);
+    view.renderer.setPanning(false);
+    view.renderer.mouseLeft();
+    QCOMPARE(view.shown({200, 200}), without);
+    const QPointF place(90, 70);
+    const QPoint pixel = view.renderer.pixelAt(place, true);
+    view.renderer.pointerMoved(place);
+    view.renderer.mouseWheel(240);
+    QCOMPARE(view.canvas.zoomLevel(), 3.0);
+    QCOMPARE(view.renderer.pixelAt(place, true), pixel);
 }
 
 void TestImageRenderer::picture_data()

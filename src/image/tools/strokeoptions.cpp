@@ -2,6 +2,7 @@
 
 #include <QSize>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Zorv {
@@ -69,6 +70,14 @@ void StrokeOptions::setSymmetryAxis(const QPointF& axis)
 void StrokeOptions::centerSymmetryAxis()
 {
     set(m_axis, std::optional<QPointF>());
+}
+
+void StrokeOptions::keepSymmetryAxisOn(const QSize& canvas)
+{
+    if (m_axis && !canvas.isEmpty()) {
+        setSymmetryAxis({std::clamp(m_axis->x(), 0.0, double(canvas.width())),
+                         std::clamp(m_axis->y(), 0.0, double(canvas.height()))});
+    }
 }
 
 QPointF StrokeOptions::symmetryAxis(const QSize& canvas) const

@@ -58,6 +58,9 @@ public:
     /// The axes are in the middle of whatever canvas it is, as at first.
     void centerSymmetryAxis();
 
+    /// Axes that are beside a canvas of this size come to its edge.
+    void keepSymmetryAxisOn(const QSize& canvas);
+
     /// The crossing for a canvas of this size.
     QPointF symmetryAxis(const QSize& canvas) const;
 
