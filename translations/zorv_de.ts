@@ -373,6 +373,18 @@
         <source>&amp;Axis of the sprite</source>
         <translation>&amp;Achse des Sprites</translation>
     </message>
+    <message>
+        <source>Symmetry a&amp;bout the middle</source>
+        <translation>Symmetrie um die &amp;Mitte</translation>
+    </message>
+    <message>
+        <source>Convert to &amp;indexed colour</source>
+        <translation>In &amp;Palettenfarben umwandeln</translation>
+    </message>
+    <message>
+        <source>Convert to &amp;true colour</source>
+        <translation>In &amp;Echtfarben umwandeln</translation>
+    </message>
 </context>
 <context>
     <name>App::BackupNameDialog</name>
@@ -426,6 +438,10 @@
     <message>
         <source>Nodes</source>
         <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Painting tool</source>
+        <translation>Malwerkzeug</translation>
     </message>
 </context>
 <context>
@@ -1962,6 +1978,18 @@
     <message>
         <source>Ask before animations, frames and sprites are de&amp;leted</source>
         <translation>Fragen, bevor Animationen, Einzelbilder und Sprites ge&amp;löscht werden</translation>
+    </message>
+    <message>
+        <source>&amp;Undo of painting, at most:</source>
+        <translation>&amp;Rückgängig beim Malen, höchstens:</translation>
+    </message>
+    <message>
+        <source>What the steps on a canvas may take of memory. The oldest go first; the last always stays.</source>
+        <translation>Wie viel Speicher die Schritte auf einer Leinwand belegen dürfen. Die ältesten gehen zuerst, der letzte bleibt immer.</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,8 @@ SpriteEditorPrivate::SpriteEditorPrivate(SpriteEditor* owner)
         connect(history(), signal, this, &SpriteEditorPrivate::historyChanged);
     }
     connect(history(), &ImageUndoStack::indexChanged, this, &SpriteEditorPrivate::historyChanged);
+    connect(history(), &ImageUndoStack::undoTextChanged, this,
+            &SpriteEditorPrivate::historyChanged);
     connectLayers();
     followCanvas();
 }
@@ -168,6 +170,8 @@ void SpriteEditor::deactivate()
 
 void SpriteEditor::reconfig()
 {
+    const qint64 megabytes = host()->option(QStringLiteral("undo_megabytes")).toInt();
+    d->history()->setBudget(megabytes > 0 ? megabytes << 20 : ImageUndoStack::DefaultBudget);
     d->renderer->setBackground(host()->colorOption(QStringLiteral("back_start")),
                                host()->colorOption(QStringLiteral("back_end")));
 }

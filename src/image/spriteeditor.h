@@ -57,6 +57,9 @@ public:
 
     void activate() override;
     void deactivate() override;
+
+    /// Reads "back_start" and "back_end", and "undo_megabytes", what the history of the canvas may
+    /// take; none is `ImageUndoStack::DefaultBudget`.
     void reconfig() override;
     void retranslate() override;
 
@@ -142,6 +145,10 @@ public:
     /// saving uses the sprite's own.
     void previewColors(const QVector<QRgb>* colors);
 
+    /// True while the colours are not the sprite's. What has to know the sprite's own, such as
+    /// saving, cropping and pasting, ends it, and so does a change of its palette.
+    bool isPreviewing() const;
+
 public slots:
     /// See above. Nothing without a sprite, or without changes.
     void saveImage();
@@ -149,6 +156,10 @@ public slots:
 signals:
     /// Another sprite is on the canvas, or none, or its pixels were read anew.
     void spriteShown();
+
+    /// The canvas is shown in other colours: those of a preview, or the sprite's own, which may be
+    /// others than before.
+    void colorsShown();
 
 protected:
     /// Asked before the sprite in work is deleted, behind the question of "confirm_delete". False

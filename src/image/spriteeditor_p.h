@@ -31,6 +31,7 @@ class ImageLayers;
 class ImageUndoStack;
 class Interface;
 class OrganizerEditor;
+class Palette;
 
 /// The canvas of a sprite that is not shown.
 struct KeptCanvas
@@ -160,7 +161,8 @@ public:
     QPoint loadedAxis;
     QRect touched;  // where the canvas may be different from that
     std::optional<bool> isKnownChanged;
-    bool isPreview = false;  // the grid has colours that are not the sprite's
+    const Palette* ownPalette = nullptr;  // when its colours were loaded; it may be gone
+    bool isPreview = false;               // the grid has colours that are not the sprite's
     bool hasToldHidden = false;
     std::deque<KeptCanvas> kept;  // the one that was seen last is the last
     int selGuard = 0;             // the code itself changes the position

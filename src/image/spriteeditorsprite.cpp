@@ -8,6 +8,7 @@
 #include "image/canvas/imageundostack.h"
 #include "image/canvas/rasterlayer.h"
 #include "image/spriteeditor_p.h"
+#include "image/tools/strokeoptions.h"
 #include "media/paletteobject.h"
 #include "media/tools/colorquantizer.h"
 
@@ -191,6 +192,9 @@ void SpriteEditorPrivate::bind(int index)
 /// What the sprite is now. A canvas that keeps other pixels differs from it from now on.
 void SpriteEditorPrivate::takeChange(const Sprite& now, bool isModified, bool holdsWork)
 {
+    if (now.palette() != ownPalette) {
+        loadColors();
+    }
     const QImage stored = canvasForm(now.image());
     const bool isSamePicture = areSamePixels(stored, loaded);
     if (isSamePicture && now.axis() == loadedAxis) {
@@ -251,6 +255,7 @@ void SpriteEditorPrivate::next()
 void SpriteEditorPrivate::show(int index)
 {
     keepCanvas();
+    renderer->strokeOptions()->centerSymmetryAxis();
     {
         const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
         sprites->setCurrent(index);
@@ -297,13 +302,14 @@ void SpriteEditorPrivate::loadColors()
     }
     RGBA entries[ColorCount];
     std::fill(std::begin(entries), std::end(entries), RGBA{0, 0, 0, 255});
-    if (const Palette* palette = now->palette()) {
-        palette->toPalette(entries);
+    if (const Palette* own = now->palette()) {
+        own->toPalette(entries);
     } else {
         const QImage image = now->image();
         fillColors(image.colorCount() > 0 ? image.colorTable() : ownColors(image), entries);
     }
     isPreview = false;
+    ownPalette = now->palette();
     showColors(entries);
     if (colors->foreground() == colors->background()) {
         chooseFirstColors();
@@ -317,6 +323,7 @@ void SpriteEditorPrivate::showColors(const RGBA* entries)
         grid->flatten();
     }
     renderer->layerChanged();
+    emit editor->colorsShown();
 }
 
 /// What erases, and something that can be seen.
@@ -395,6 +402,11 @@ void SpriteEditor::previewColors(const QVector<QRgb>* colors)
     fillColors(*colors, entries);
     d->isPreview = true;
     d->showColors(entries);
+}
+
+bool SpriteEditor::isPreviewing() const
+{
+    return d->isPreview;
 }
 
 }  // namespace Zorv

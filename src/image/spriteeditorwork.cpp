@@ -99,6 +99,7 @@ bool SpriteEditor::isCanvasModified() const
 bool SpriteEditorPrivate::mayLeave()
 {
     enum Answer { Save, Discard };
+    canvas()->endStroke();
     if (!isChanged()) {
         return true;
     }
@@ -172,6 +173,7 @@ bool SpriteEditorPrivate::putIntoSprite(QString* error)
     const Sprite* now = sprite();
     loaded = now ? canvasForm(now->image()) : QImage();
     loadedAxis = now ? now->axis() : QPoint();
+    ownPalette = now ? now->palette() : nullptr;  // in true colour the sprite has none any more
     const bool isRefused =
         !areSamePixels(before, canvasForm(picture)) && areSamePixels(before, loaded);
     if (picture.isNull() || isRefused) {

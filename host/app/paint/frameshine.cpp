@@ -30,7 +30,7 @@ QTransform placeOf(const FrameCode& frame, QPoint axis)
     place.translate(frame.offset().x(), frame.offset().y());
     place.rotate(-frame.angle());
     place.scale(frame.scale().x() * (isLeft ? -1 : 1), frame.scale().y() * (isUp ? -1 : 1));
-    place.translate(-axis.x(), -axis.y());
+    place.translate(-double(axis.x()), -double(axis.y()));
     return place;
 }
 
@@ -76,6 +76,9 @@ void FrameShine::update()
 {
     std::vector<ImageRenderer::Skin> skins;
     ImageRenderer* renderer = m_sprites->renderer();
+    if (!m_isOn && !m_isShown) {
+        return;
+    }
     const int index = m_isOn ? frameOfCanvas() : -1;
     bool isPossible = false;
     const Zorv::AnimationCode* animation = m_animations->currentAnimation();
@@ -93,11 +96,13 @@ void FrameShine::update()
         }
         const QTransform place = placeOf(*frame, sprite->axis()) * toCanvas;
         const QRectF area = place.mapRect(QRectF(QPointF(), sprite->size()));
-        if (area.width() <= LargestSide && area.height() <= LargestSide) {
+        const bool isSeen = area.intersects(QRectF(QPointF(), renderer->canvas()->size()));
+        if (isSeen && area.width() <= LargestSide && area.height() <= LargestSide) {
             const QImage image = sprite->image().convertToFormat(QImage::Format_ARGB32);
             skins.push_back({image.transformed(place), area.topLeft().toPoint(), Opacity});
         }
     }
+    m_isShown = !skins.empty();
     renderer->setSkins(skins);
 }
 

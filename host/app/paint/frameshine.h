@@ -39,6 +39,7 @@ private:
     Zorv::SpriteEditor* m_sprites;
     const Zorv::AnimationEditor* m_animations;
     bool m_isOn = false;
+    bool m_isShown = false;
 };
 
 }  // namespace App

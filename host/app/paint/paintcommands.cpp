@@ -1,9 +1,12 @@
 #include "app/paint/paintcommands.h"
 
 #include "app/actions/actionregistry.h"
+#include "app/paint/costumes.h"
 #include "app/paint/familyspriteeditor.h"
+#include "app/paint/firstzoom.h"
 #include "app/paint/frameshine.h"
 #include "app/paint/paintoptions.h"
+#include "app/paint/panswitch.h"
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
 #include "app/window/editorregistry.h"
@@ -13,8 +16,6 @@
 #include "family/assets/spritecollection.h"
 
 #include <zorv/animation/animationeditor.h>
-#include <zorv/cache/palette.h>
-#include <zorv/cache/palettes.h>
 #include <zorv/code/codedoc/framecode.h>
 #include <zorv/editors/palette/colorpalette.h>
 #include <zorv/image/canvas/imagecanvas.h>
@@ -23,18 +24,18 @@
 #include <zorv/image/palettepreviews.h>
 #include <zorv/image/spriteeditor.h>
 #include <zorv/image/spriteworkspace.h>
+#include <zorv/image/tools/strokeoptions.h>
 
 #include <QAction>
 
 namespace App {
 
-using Zorv::PalettePreviews;
+using Zorv::ImageCanvas;
 using Zorv::SpriteEditor;
 
 namespace {
 
 constexpr int ColourCount = 256;
-constexpr int LargestFirstZoom = 8;
 
 /// Keys that a person has in the hand with the mouse on the canvas. They are those of the canvas
 /// alone: a text, a list and a field have other uses for letters.
@@ -46,42 +47,35 @@ const char* const canvasKeys[] = {
     "paint_next_colour",   "paint_previous_colour", "paint_pan",
 };
 
-QVector<QRgb> tableOf(const Zorv::Palette& palette)
-{
-    Zorv::RGBA colours[ColourCount] = {};
-    palette.toPalette(colours);
-    QVector<QRgb> table;
-    for (const Zorv::RGBA& each : colours) {
-        table.append(qRgba(each.r, each.g, each.b, each.a));
-    }
-    return table;
-}
-
 }  // namespace
 
 PaintCommands::PaintCommands(const WindowServices& services)
     : QObject(services.window), m_services(services),
       m_editor(new FamilySpriteEditor(services.mayRemove, this)),
-      m_options(new PaintOptions(m_editor->renderer(), this)),
       m_animations(
           qobject_cast<Zorv::AnimationEditor*>(services.editors->byName(QStringLiteral("anim")))),
-      m_shine(new FrameShine(m_editor, m_animations, this)), m_costumes(new PalettePreviews)
+      m_shine(new FrameShine(m_editor, m_animations, this)),
+      m_options(new PaintOptions(m_editor->renderer(), m_shine, this)),
+      m_costumes(new Costumes(m_editor, this))
 {
-    m_costumes->setCanvas(m_editor->renderer()->canvas());
-    connect(m_editor, &SpriteEditor::spriteShown, this, &PaintCommands::showCostumes);
-    connect(m_editor, &SpriteEditor::spriteShown, this, &PaintCommands::fitFirst);
-    connect(m_editor->colors(), &Zorv::ColorPalette::paletteChanged, m_costumes,
-            &PalettePreviews::refresh);
-    connect(m_costumes, &PalettePreviews::chosen, this, &PaintCommands::chooseCostume);
+    m_editor->renderer()->setOption(Zorv::ImageRenderer::FollowOriginal, true);
+    new FirstZoom(m_editor, this);
     connect(m_animations, &Zorv::AnimationEditor::shownChanged, this, &PaintCommands::followFrame);
 }
 
-// The canvas of the previews goes with the editor.
+// What works on the editor goes before it.
 PaintCommands::~PaintCommands()
 {
-    m_costumes->setCanvas(nullptr);
+    delete m_pan;
+    delete m_costumes;
+    delete m_options;
     delete m_shine;
     delete m_editor;
+}
+
+Zorv::PalettePreviews* PaintCommands::costumes() const
+{
+    return m_costumes->panel();
 }
 
 QVector<ActionRow> PaintCommands::actions()
@@ -96,10 +90,14 @@ QVector<ActionRow> PaintCommands::actions()
         {"paint_next_colour",     "paint.colours", QT_TRANSLATE_NOOP("App::Actions", "&Next colour"),           "]",     on(&PaintCommands::nextColour),     always, area},
         {"paint_larger",          "paint.colours", QT_TRANSLATE_NOOP("App::Actions", "La&rger brush"),          "+",     on(&PaintCommands::larger),         always, area},
         {"paint_smaller",         "paint.colours", QT_TRANSLATE_NOOP("App::Actions", "S&maller brush"),         "-",     on(&PaintCommands::smaller),        always, area},
-        {"paint_pan",             "paint.colours", QT_TRANSLATE_NOOP("App::Actions", "M&ove picture"),          "Space", on(&PaintCommands::pan),            always, area},
+        {"paint_pan",             "paint.colours", QT_TRANSLATE_NOOP("App::Actions", "M&ove picture"),          "Space", on(&PaintCommands::pan),            always, area, ActionRow::Switch},
     };
     rows += m_options->actions();
-    rows.append({"paint_shine",   "paint.all",     QT_TRANSLATE_NOOP("App::Actions", "&Frames before and after"), {},    on(&PaintCommands::shine),          always, area, ActionRow::Switch});
+    rows += QVector<ActionRow>{
+        {"paint_symmetry_center", "paint.all",     QT_TRANSLATE_NOOP("App::Actions", "Symmetry a&bout the middle"), {},   on(&PaintCommands::centerSymmetry), always, area},
+        {"paint_to_indexed",      "spr.image",     QT_TRANSLATE_NOOP("App::Actions", "Convert to &indexed colour"), {},   on(&PaintCommands::toIndexed),      on(&PaintCommands::isTrueColour), area},
+        {"paint_to_true",         "spr.image",     QT_TRANSLATE_NOOP("App::Actions", "Convert to &true colour"),    {},   on(&PaintCommands::toTrueColour),   on(&PaintCommands::isIndexed), area},
+    };
     // clang-format on
     return rows;
 }
@@ -113,19 +111,8 @@ void PaintCommands::actionsMade()
         canvas->addAction(action);
     }
     m_options->restore(m_services.actions);
-}
-
-/// The first picture is as large as there is room for; from then on the zoom is the person's.
-void PaintCommands::fitFirst()
-{
-    const QSize view = m_editor->spriteWorkspace()->widget()->size();
-    const QSize size = m_editor->renderer()->canvas()->size();
-    if (m_isFitted || size.isEmpty() || m_editor->spriteIndex() < 0) {
-        return;
-    }
-    m_isFitted = true;
-    const int zoom = qMin(view.width() / size.width(), view.height() / size.height());
-    m_editor->renderer()->canvas()->setZoomLevel(qBound(1, zoom, LargestFirstZoom));
+    m_pan = new PanSwitch(m_services.actions->action(QStringLiteral("paint_pan")),
+                          m_editor->renderer(), m_editor->spriteWorkspace(), this);
 }
 
 void PaintCommands::showSprite(Family::SpriteCollection* sprites, int row)
@@ -184,7 +171,7 @@ void PaintCommands::updateState()
 
 void PaintCommands::reconfig()
 {
-    showCostumes();
+    m_costumes->update();
 }
 
 void PaintCommands::followFrame()
@@ -197,7 +184,7 @@ void PaintCommands::followFrame()
 
 QVector<PanelPlace> PaintCommands::places()
 {
-    return {PanelPlace::of(m_costumes)};
+    return {PanelPlace::of(m_costumes->panel())};
 }
 
 void PaintCommands::swapColours()
@@ -225,47 +212,39 @@ void PaintCommands::smaller()
     m_editor->renderer()->keyPressed(Qt::Key_Minus, Qt::NoModifier);
 }
 
-/// Until the key is released, which the canvas hears of itself.
 void PaintCommands::pan()
 {
-    m_editor->renderer()->keyPressed(Qt::Key_Space, Qt::NoModifier);
+    m_pan->run();
 }
 
-void PaintCommands::shine()
+void PaintCommands::centerSymmetry()
 {
-    m_shine->setOn(m_services.actions->action(QStringLiteral("paint_shine"))->isChecked());
+    m_editor->renderer()->strokeOptions()->centerSymmetryAxis();
 }
 
-void PaintCommands::showCostumes()
+bool PaintCommands::isIndexed() const
 {
-    const Zorv::Sprites* sprites = m_editor->sprites();
-    const Zorv::Sprite* sprite = m_editor->sprite();
-    QVector<PalettePreviews::Preview> previews;
-    int own = -1;
-    for (int i = 0; sprite && sprite->palette() && i < sprites->palettes()->count() &&
-                    i < PalettePreviews::MaxCount;
-         ++i) {
-        const Zorv::Palette* palette = sprites->palettes()->palette(i);
-        own = palette == sprite->palette() ? i : own;
-        previews.append(
-            {palette->property(QStringLiteral("Identifier")).toString(), tableOf(*palette)});
-    }
-    m_costumes->setPreviews(previews);
-    m_costumes->setCurrentIndex(own);
+    const ImageCanvas* canvas = m_editor->renderer()->canvas();
+    return canvas->layers()->count() > 0 && canvas->format() == ImageCanvas::IndexedFormat;
 }
 
-/// To be looked at: the sprite keeps its palette.
-void PaintCommands::chooseCostume(int index)
+bool PaintCommands::isTrueColour() const
 {
-    const Zorv::Sprites* sprites = m_editor->sprites();
-    const Zorv::Sprite* sprite = m_editor->sprite();
-    const Zorv::Palette* palette = sprites ? sprites->palettes()->palette(index) : nullptr;
-    if (!sprite || !palette || palette == sprite->palette()) {
-        m_editor->previewColors(nullptr);
-        return;
-    }
-    const QVector<QRgb> table = tableOf(*palette);
-    m_editor->previewColors(&table);
+    const ImageCanvas* canvas = m_editor->renderer()->canvas();
+    return canvas->layers()->count() > 0 && canvas->format() == ImageCanvas::RGBAFormat;
+}
+
+/// Colours that are only looked at decide no pixel.
+void PaintCommands::toIndexed()
+{
+    m_editor->previewColors(nullptr);
+    m_editor->renderer()->canvas()->convertTo(ImageCanvas::IndexedFormat);
+}
+
+void PaintCommands::toTrueColour()
+{
+    m_editor->previewColors(nullptr);
+    m_editor->renderer()->canvas()->convertTo(ImageCanvas::RGBAFormat);
 }
 
 }  // namespace App

@@ -16,8 +16,10 @@ class SpriteEditor;
 
 namespace App {
 
+class Costumes;
 class FrameShine;
 class PaintOptions;
+class PanSwitch;
 struct WindowServices;
 
 /// The editor of sprites in the window: the canvas in the middle, and what the window alone can do
@@ -33,8 +35,8 @@ public:
 
     Zorv::SpriteEditor* editor() const { return m_editor; }
 
-    /// The picture of the canvas in the first palettes of the file, side by side.
-    Zorv::PalettePreviews* costumes() const { return m_costumes; }
+    /// The panel of `Costumes`.
+    Zorv::PalettePreviews* costumes() const;
 
     /// Brings a sprite onto the canvas and the canvas to the front. The person is asked first if
     /// the canvas has changes.
@@ -53,7 +55,6 @@ public:
     QVector<PanelPlace> places() override;
 
 private:
-    void fitFirst();
     void swapColours();
     void stepColour(int step);
     void nextColour() { stepColour(1); }
@@ -62,20 +63,22 @@ private:
     void smaller();
     void pan();
     void followFrame();
-    void shine();
-    void showCostumes();
-    void chooseCostume(int index);
+    void centerSymmetry();
+    void toIndexed();
+    void toTrueColour();
+    bool isIndexed() const;
+    bool isTrueColour() const;
     void save();
     bool canSave() const;
 
     const WindowServices& m_services;
     Zorv::SpriteEditor* m_editor;
-    PaintOptions* m_options;
     Zorv::AnimationEditor* m_animations;
     FrameShine* m_shine;
-    Zorv::PalettePreviews* m_costumes;
+    PaintOptions* m_options;
+    Costumes* m_costumes;
+    PanSwitch* m_pan = nullptr;
     bool m_isInFront = false;
-    bool m_isFitted = false;
 };
 
 }  // namespace App

@@ -1,6 +1,7 @@
 #include "app/paint/paintoptions.h"
 
 #include "app/actions/actionregistry.h"
+#include "app/paint/frameshine.h"
 
 #include <zorv/core/interface.h>
 #include <zorv/image/imagerenderer.h>
@@ -28,32 +29,34 @@ struct Switch
 {
     const char* name;
     const char* text;
-    void (*apply)(ImageRenderer* renderer, bool isOn);
+    void (*apply)(ImageRenderer* renderer, FrameShine* shine, bool isOn);
 };
 
 // clang-format off
 const Switch switches[] = {
     {"paint_pixel_perfect", QT_TRANSLATE_NOOP("App::Actions", "Strokes without &corners"),
-     [](ImageRenderer* renderer, bool isOn) { renderer->strokeOptions()->setPixelPerfect(isOn); }},
+     [](ImageRenderer* renderer, FrameShine*, bool isOn) { renderer->strokeOptions()->setPixelPerfect(isOn); }},
     {"paint_straight",      QT_TRANSLATE_NOOP("App::Actions", "&Even steps with Shift"),
-     [](ImageRenderer* renderer, bool isOn) { renderer->strokeOptions()->setStraightLines(isOn); }},
+     [](ImageRenderer* renderer, FrameShine*, bool isOn) { renderer->strokeOptions()->setStraightLines(isOn); }},
     {"paint_shading",       QT_TRANSLATE_NOOP("App::Actions", "&Shade along a ramp"),
-     [](ImageRenderer* renderer, bool isOn) { renderer->strokeOptions()->setShading(isOn); }},
+     [](ImageRenderer* renderer, FrameShine*, bool isOn) { renderer->strokeOptions()->setShading(isOn); }},
     {"paint_symmetry_x",    QT_TRANSLATE_NOOP("App::Actions", "Symmetry &left and right"),
-     [](ImageRenderer* renderer, bool isOn) { setSymmetry(renderer->strokeOptions(), StrokeOptions::LeftRight, isOn); }},
+     [](ImageRenderer* renderer, FrameShine*, bool isOn) { setSymmetry(renderer->strokeOptions(), StrokeOptions::LeftRight, isOn); }},
     {"paint_symmetry_y",    QT_TRANSLATE_NOOP("App::Actions", "Symmetry &top and bottom"),
-     [](ImageRenderer* renderer, bool isOn) { setSymmetry(renderer->strokeOptions(), StrokeOptions::TopBottom, isOn); }},
+     [](ImageRenderer* renderer, FrameShine*, bool isOn) { setSymmetry(renderer->strokeOptions(), StrokeOptions::TopBottom, isOn); }},
     {"paint_grid",          QT_TRANSLATE_NOOP("App::Actions", "&Grid of pixels"),
-     [](ImageRenderer* renderer, bool isOn) { renderer->setOption(ImageRenderer::PixelGrid, isOn); }},
+     [](ImageRenderer* renderer, FrameShine*, bool isOn) { renderer->setOption(ImageRenderer::PixelGrid, isOn); }},
     {"paint_axis",          QT_TRANSLATE_NOOP("App::Actions", "&Axis of the sprite"),
-     [](ImageRenderer* renderer, bool isOn) { renderer->setOption(ImageRenderer::CanvasAxis, isOn); }},
+     [](ImageRenderer* renderer, FrameShine*, bool isOn) { renderer->setOption(ImageRenderer::CanvasAxis, isOn); }},
+    {"paint_shine",         QT_TRANSLATE_NOOP("App::Actions", "&Frames before and after"),
+     [](ImageRenderer*, FrameShine* shine, bool isOn) { shine->setOn(isOn); }},
 };
 // clang-format on
 
 }  // namespace
 
-PaintOptions::PaintOptions(ImageRenderer* renderer, QObject* parent)
-    : QObject(parent), m_renderer(renderer)
+PaintOptions::PaintOptions(ImageRenderer* renderer, FrameShine* shine, QObject* parent)
+    : QObject(parent), m_renderer(renderer), m_shine(shine)
 {
 }
 
@@ -62,7 +65,7 @@ QVector<ActionRow> PaintOptions::actions()
     QVector<ActionRow> rows;
     for (int i = 0; i < int(std::size(switches)); ++i) {
         const auto run = [this, i] {
-            apply(i, m_registry->action(QLatin1String(switches[i].name))->isChecked());
+            keep(i, m_registry->action(QLatin1String(switches[i].name))->isChecked());
         };
         rows.append({switches[i].name,
                      "paint.all",
@@ -83,14 +86,14 @@ void PaintOptions::restore(const ActionRegistry* registry)
         const QString name = QLatin1String(switches[i].name);
         const bool isOn = Zorv::Interface::instance()->option(name).toBool();
         registry->action(name)->setChecked(isOn);
-        switches[i].apply(m_renderer, isOn);
+        switches[i].apply(m_renderer, m_shine, isOn);
     }
 }
 
-void PaintOptions::apply(int row, bool isOn)
+void PaintOptions::keep(int row, bool isOn)
 {
     Zorv::Interface::instance()->setOption(QLatin1String(switches[row].name), isOn);
-    switches[row].apply(m_renderer, isOn);
+    switches[row].apply(m_renderer, m_shine, isOn);
 }
 
 }  // namespace App

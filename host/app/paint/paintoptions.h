@@ -12,15 +12,17 @@ namespace App {
 
 class ActionRegistry;
 
-/// The switches of painting that are not tools: how strokes go, and what is seen of the canvas.
+class FrameShine;
+
+/// The switches of painting that are not tools: how strokes go, and what is seen on the canvas.
 /// They are kept as settings under the names of their actions.
 class PaintOptions : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The renderer outlives them.
-    PaintOptions(Zorv::ImageRenderer* renderer, QObject* parent);
+    /// Both outlive them.
+    PaintOptions(Zorv::ImageRenderer* renderer, FrameShine* shine, QObject* parent);
 
     QVector<ActionRow> actions();
 
@@ -28,9 +30,10 @@ public:
     void restore(const ActionRegistry* registry);
 
 private:
-    void apply(int row, bool isOn);
+    void keep(int row, bool isOn);
 
     Zorv::ImageRenderer* m_renderer;
+    FrameShine* m_shine;
     const ActionRegistry* m_registry = nullptr;
 };
 

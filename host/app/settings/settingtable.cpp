@@ -9,6 +9,8 @@ namespace App {
 namespace {
 
 constexpr int LargestFont = 72;  // points
+constexpr int SmallestUndo = 16;
+constexpr int LargestUndo = 4096;
 
 QVector<SettingChoice> languages()
 {
@@ -135,6 +137,8 @@ const QVector<SettingRow>& settingTable()
          QT_TRANSLATE_NOOP("App::Settings", "Several files chosen in one dialog come in the order of their names")},
         {"cache_type", "files", Row::Choice, QT_TRANSLATE_NOOP("App::Settings", "S&prites and sounds in work:"),
          QT_TRANSLATE_NOOP("App::Settings", "Memory is faster; a temporary file leaves memory to others. It counts from the next file that is opened."), 0, 0, nullptr, nullptr, caches},
+        {"undo_megabytes", "files", Row::Number, QT_TRANSLATE_NOOP("App::Settings", "&Undo of painting, at most:"),
+         QT_TRANSLATE_NOOP("App::Settings", "What the steps on a canvas may take of memory. The oldest go first; the last always stays."), SmallestUndo, LargestUndo, nullptr, QT_TRANSLATE_NOOP("App::Settings", " MB")},
         {"project_path", "files", Row::Folder, QT_TRANSLATE_NOOP("App::Settings", "&Folder of projects:"),
          QT_TRANSLATE_NOOP("App::Settings", "Where dialogs for files begin, as long as no other folder was used")},
 

@@ -1,0 +1,102 @@
+#include "app/paint/costumes.h"
+
+#include <zorv/cache/palette.h>
+#include <zorv/cache/palettes.h>
+#include <zorv/cache/sprite.h>
+#include <zorv/cache/sprites.h>
+#include <zorv/editors/palette/colorpalette.h>
+#include <zorv/image/imagerenderer.h>
+#include <zorv/image/palettepreviews.h>
+#include <zorv/image/spriteeditor.h>
+
+namespace App {
+
+using Zorv::Palette;
+using Zorv::PalettePreviews;
+using Zorv::SpriteEditor;
+
+namespace {
+
+constexpr int ColourCount = 256;
+
+QVector<QRgb> tableOf(const Palette& palette)
+{
+    Zorv::RGBA colours[ColourCount] = {};
+    palette.toPalette(colours);
+    QVector<QRgb> table;
+    for (const Zorv::RGBA& each : colours) {
+        table.append(qRgba(each.r, each.g, each.b, each.a));
+    }
+    return table;
+}
+
+/// Of a sprite that has one; none for a sprite of true colour.
+QVector<const Palette*> palettesFor(const SpriteEditor& editor)
+{
+    QVector<const Palette*> shown;
+    const Zorv::Sprite* sprite = editor.sprite();
+    const Palette* own = sprite ? sprite->palette() : nullptr;
+    const Zorv::Palettes* all = own ? own->owner() : nullptr;
+    const int count = all ? qMin(all->count(), PalettePreviews::MaxCount) : 0;
+    for (int i = 0; i < count; ++i) {
+        shown.append(all->palette(i));
+    }
+    if (count > 0 && !shown.contains(own)) {
+        shown.last() = own;
+    }
+    return shown;
+}
+
+}  // namespace
+
+Costumes::Costumes(SpriteEditor* editor, QObject* parent)
+    : QObject(parent), m_editor(editor), m_panel(new PalettePreviews)
+{
+    m_panel->setCanvas(editor->renderer()->canvas());
+    connect(editor, &SpriteEditor::spriteShown, this, &Costumes::update);
+    connect(editor, &SpriteEditor::colorsShown, this, &Costumes::update);
+    connect(editor->colors(), &Zorv::ColorPalette::paletteChanged, m_panel,
+            &PalettePreviews::refresh);
+    connect(m_panel, &PalettePreviews::chosen, this, &Costumes::choose);
+}
+
+// The canvas goes with the editor.
+Costumes::~Costumes()
+{
+    m_panel->setCanvas(nullptr);
+}
+
+void Costumes::update()
+{
+    m_palettes = palettesFor(*m_editor);
+    const Zorv::Sprite* sprite = m_editor->sprite();
+    const Palette* own = sprite ? sprite->palette() : nullptr;
+    m_chosen = m_editor->isPreviewing() ? m_chosen : nullptr;
+    const Palette* shown = m_editor->isPreviewing() ? m_chosen : own;
+    QVector<PalettePreviews::Preview> previews;
+    for (const Palette* palette : qAsConst(m_palettes)) {
+        previews.append(
+            {palette->property(QStringLiteral("Identifier")).toString(), tableOf(*palette)});
+    }
+    m_panel->setPreviews(previews);
+    m_panel->setCurrentIndex(m_palettes.indexOf(shown));
+}
+
+/// To be looked at. What was clicked on is the palette that the row was made of, as long as the
+/// file has it.
+void Costumes::choose(int index)
+{
+    const Palette* wanted = m_palettes.value(index);
+    const Zorv::Sprite* sprite = m_editor->sprite();
+    if (!sprite || !palettesFor(*m_editor).contains(wanted)) {
+        update();
+    } else if (wanted == sprite->palette()) {
+        m_editor->previewColors(nullptr);
+    } else {
+        const QVector<QRgb> table = tableOf(*wanted);
+        m_chosen = wanted;
+        m_editor->previewColors(&table);
+    }
+}
+
+}  // namespace App

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+#include <QVector>
+
+namespace Zorv {
+class Palette;
+class PalettePreviews;
+class SpriteEditor;
+}  // namespace Zorv
+
+namespace App {
+
+/// The panel with the picture of the canvas in the palettes of its file.
+///
+/// These are the first ones of the file, as many as the panel takes. If the sprite's own is not
+/// among them it has the last place. A click shows the canvas in a palette; the sprite keeps its
+/// own.
+class Costumes : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The editor outlives it. The panel goes with the window, or with this.
+    Costumes(Zorv::SpriteEditor* editor, QObject* parent);
+    ~Costumes() override;
+
+    Zorv::PalettePreviews* panel() const { return m_panel; }
+
+    /// Reads the palettes again.
+    void update();
+
+private:
+    void choose(int index);
+
+    Zorv::SpriteEditor* m_editor;
+    Zorv::PalettePreviews* m_panel;
+    QVector<const Zorv::Palette*> m_palettes;  // in the order of the panel; compared only
+    const Zorv::Palette* m_chosen = nullptr;   // for a preview; compared only
+};
+
+}  // namespace App
