@@ -55,8 +55,8 @@ private:
     {
         Zorv::RGBA colors[256] = {};
         colors[1] = {quint8(qRed(first)), quint8(qGreen(first)), quint8(qBlue(first)), 255};
-        QVERIFY(sprites()->palettes()->addPalette(colors, QStringLiteral("9,%1").arg(number),
-                                                  false));
+        QVERIFY(
+            sprites()->palettes()->addPalette(colors, QStringLiteral("9,%1").arg(number), false));
     }
     bool isPainting() const { return canvas()->isStroking(); }
 };
@@ -216,7 +216,9 @@ void TestPaintView::convertsInOneStep()
 void TestPaintView::keepsSymmetryInSight()
 {
     openFirst();
-    const auto axis = [this] { return renderer()->strokeOptions()->symmetryAxis(canvas()->size()); };
+    const auto axis = [this] {
+        return renderer()->strokeOptions()->symmetryAxis(canvas()->size());
+    };
     trigger("paint_symmetry_x");
     renderer()->strokeOptions()->setSymmetryAxis({15, 3});
     canvas()->setSize({10, 12}, {}, true);

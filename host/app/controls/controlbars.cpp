@@ -282,12 +282,16 @@ void ControlBars::makePanel(Bar* bar)
     auto* content = new QWidget;
     bar->layout = new QVBoxLayout(content);
     bar->layout->setContentsMargins(0, 0, 0, 0);
+    const bool isLow = bar->row && bar->row->isLow;
     if (hasForm(bar->name)) {
         bar->form = new ControlForm(bar->name);
-        bar->layout->addWidget(new FormArea(bar->form));
+        bar->layout->addWidget(isLow ? static_cast<QWidget*>(bar->form) : new FormArea(bar->form));
     } else {
         bar->tools = new QToolBar;
         bar->layout->addWidget(bar->tools);
+    }
+    if (isLow) {
+        content->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     }
     bar->panel->setWidget(content);
     bar->panel->hide();

@@ -23,6 +23,7 @@ struct BarRow
     int fewest = 1;                 ///< tools that it is shown for: one selector is no choice
     const char* only = nullptr;     ///< the area with which it is shown; null for all
     const char* without = nullptr;  ///< the area with which it is not shown; null for none
+    bool isLow = false;             ///< a panel that takes no more height than it needs
 };
 
 /// Where tools whose names begin with a prefix stand: a row of the table.

@@ -232,6 +232,7 @@ void MainWindow::makeDocks()
 {
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    m_controls->page("tool");  // beside the tools, above the other panels
     addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
     QDockWidget* sprites = addDock(m_sprites->panel(), "sprites", Qt::LeftDockWidgetArea);

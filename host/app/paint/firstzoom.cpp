@@ -48,8 +48,8 @@ void FirstZoom::fit()
     ImageCanvas* canvas = m_editor->renderer()->canvas();
     if (m_hasPicture && !canvas->size().isEmpty()) {
         const QScopedValueRollback<bool> fitting(m_isFitting, true);
-        const int zoom = qMin(view.width() / canvas->size().width(),
-                              view.height() / canvas->size().height());
+        const int zoom =
+            qMin(view.width() / canvas->size().width(), view.height() / canvas->size().height());
         canvas->setZoomLevel(qBound(1, zoom, LargestZoom));
     }
 }

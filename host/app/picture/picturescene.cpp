@@ -214,7 +214,6 @@ void showPaint(MainWindow* window, const FamilyDocument* document)
     for (const char* name : {"paint_grid", "spr_layer_add", "spr_view_original"}) {
         window->actionByName(name)->trigger();
     }
-    window->actionByName("zoom_in")->trigger();
     settleWindow();
 }
 
