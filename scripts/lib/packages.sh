@@ -10,11 +10,13 @@ packages_display=(xvfb xauth libgl1-mesa-dri fonts-dejavu-core)
 packages_run=(
     fonts-droid-fallback   # the sample game has comments in Japanese
     qttranslations5-l10n   # Qt's own texts in the language of the window
+    libqt5multimedia5-plugins   # sounds are heard
 )
 packages_test=(
     python3 qttranslations5-l10n
     lld   # links the many test programs in a sixth of the time
     imagemagick netpbm giflib-tools sox   # make and read the files that tests compare with
+    libqt5multimedia5-plugins pulseaudio pulseaudio-utils   # play sounds, and record what is heard
 )
 packages_bench=(
     libkf5syntaxhighlighting-dev

@@ -1,0 +1,94 @@
+// How long the event loop stands still while a hundred sounds are resampled.
+
+#include "support/bench.h"
+#include "support/planneddialogs.h"
+#include "support/testinterface.h"
+#include "support/testproject.h"
+
+#include "editors/sound/soundeditor.h"
+#include "editors/sound/soundworkspace.h"
+#include "family/assets/soundfile.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QListView>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+
+using namespace Zorv;
+
+namespace {
+
+const int SoundCount = 100;
+const double LongestStall = 50;  // milliseconds
+
+SoundSample noise(int seed)
+{
+    SoundSample sound;
+    sound.channels = 1;
+    sound.bits = 16;
+    sound.sampleRate = 22050;
+    sound.frames = 22050;
+    quint32 state = quint32(seed);
+    for (int i = 0; i < sound.frames * 2; ++i) {
+        state = state * 1664525 + 1013904223;
+        sound.data.append(char(state >> 24));
+    }
+    return sound;
+}
+
+void chooseAll()
+{
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!dialog) {
+        QTimer::singleShot(1, chooseAll);
+        return;
+    }
+    dialog->findChild<QListView*>()->selectAll();
+    dialog->findChild<QComboBox*>("samplerate")->setCurrentText("48000 Hz");
+    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication app(argc, argv);
+    const QTemporaryDir folder;
+    TestInterface host;
+    const PlannedDialogs dialogs;
+    TestParent parent(folder.path());
+    TestProject* project = parent.open("a.txt", {});
+    auto* sounds = new Family::SoundFile;
+    project->addFile(sounds, FileID::Sounds);
+    for (int i = 0; i < SoundCount; ++i) {
+        sounds->add(i, {}, noise(i));
+    }
+    SoundWorkspace workspace;
+    SoundEditor editor(&workspace);
+    editor.setProject(project);
+    editor.activate();
+
+    double longest = 0;
+    QElapsedTimer sinceTurn;
+    QTimer turns;
+    QObject::connect(&turns, &QTimer::timeout, [&] {
+        if (sinceTurn.isValid() && !QApplication::activeModalWidget()) {
+            longest = std::max(longest, double(sinceTurn.nsecsElapsed()) / 1e6);
+        }
+        sinceTurn.start();
+    });
+    turns.start(0);
+    QTimer::singleShot(1, chooseAll);
+    host.actions.value("snd_resample")->trigger();
+    turns.stop();
+    if (sounds->sound(SoundCount - 1)->sampleInfo().sampleRate != 48000) {
+        return 1;
+    }
+    Bench::ratio("longest turn while 100 sounds are resampled, to 50 ms", longest, LongestStall, 1);
+    return 0;
+}
