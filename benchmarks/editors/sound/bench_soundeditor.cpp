@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QListView>
 #include <QPushButton>
@@ -82,7 +83,7 @@ int main(int argc, char** argv)
         }
         sinceTurn.start();
     });
-    turns.start(0);
+    turns.start(1);  // a loop that never rests would be put aside by the system
     QTimer::singleShot(1, chooseAll);
     host.actions.value("snd_resample")->trigger();
     turns.stop();

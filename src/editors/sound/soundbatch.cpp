@@ -21,6 +21,9 @@ constexpr int LookInterval = 30;  // milliseconds
 SoundBatch::SoundBatch(Sounds* sounds, const QVector<int>& rows, Work work)
     : m_sounds(sounds), m_rows(rows), m_work(std::move(work))
 {
+    m_turn.setSingleShot(true);
+    m_turn.setInterval(0);
+    connect(&m_turn, &QTimer::timeout, this, &SoundBatch::turn);
     connect(sounds, &QAbstractItemModel::rowsInserted, this, &SoundBatch::cancel);
     connect(sounds, &QAbstractItemModel::rowsRemoved, this, &SoundBatch::cancel);
     connect(sounds, &QAbstractItemModel::rowsMoved, this, &SoundBatch::cancel);
@@ -41,8 +44,8 @@ void SoundBatch::run(const QString& title)
     QTimer timer;
     connect(&timer, &QTimer::timeout, this, &SoundBatch::look);
     timer.start(LookInterval);
-    startNext();
-    if (m_running > 0) {
+    if (!m_rows.isEmpty()) {
+        m_turn.start();
         m_loop.exec();
     }
     m_reporter->finish();
@@ -50,13 +53,26 @@ void SoundBatch::run(const QString& title)
 }
 
 /// One more than there are threads, so that none of them waits for the main thread.
-void SoundBatch::startNext()
+bool SoundBatch::canStart() const
 {
-    const int most = QThreadPool::globalInstance()->maxThreadCount() + 1;
-    while (m_running < most && m_next < m_rows.size() && !*m_isCanceled && m_sounds) {
+    return m_running <= QThreadPool::globalInstance()->maxThreadCount() && m_next < m_rows.size() &&
+           !*m_isCanceled && m_sounds;
+}
+
+/// One sound, whatever else is to be done.
+void SoundBatch::turn()
+{
+    if (!m_ready.isEmpty()) {
+        const auto [watcher, row] = m_ready.takeFirst();
+        --m_running;
+        putBack(watcher->result(), row);
+        watcher->deleteLater();
+    } else if (canStart()) {
         start(m_rows[m_next++]);
     }
-    if (m_running == 0) {
+    if (!m_ready.isEmpty() || canStart()) {
+        m_turn.start();
+    } else if (m_running == 0) {
         m_loop.quit();
     }
 }
@@ -71,24 +87,22 @@ void SoundBatch::start(int row)
     static_cast<SampleInfo&>(sample) = sound->sampleInfo();
     sample.data = sound->sampleData();
     auto* watcher = new Watcher(this);
-    connect(watcher, &QFutureWatcherBase::finished, this,
-            [this, watcher, row] { finished(watcher, row); });
+    connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, row] {
+        m_ready.append({watcher, row});
+        m_turn.start();
+    });
     ++m_running;
     watcher->setFuture(QtConcurrent::run([work = m_work, sample, isCanceled = m_isCanceled] {
         return work(sample, isCanceled.get());
     }));
 }
 
-void SoundBatch::finished(Watcher* watcher, int row)
+void SoundBatch::putBack(const SoundConversion& result, int row)
 {
-    const SoundConversion result = watcher->result();
-    watcher->deleteLater();
-    --m_running;
     Sound* sound = m_sounds && !*m_isCanceled ? m_sounds->sound(row) : nullptr;
     if (sound && result.outcome == SoundConversion::Done) {
         sound->setSample(result.sample, result.sample.data);
-    } else if (result.outcome != SoundConversion::Done &&
-               result.outcome != SoundConversion::Canceled) {
+    } else if (!soundConversionText(result.outcome).isEmpty()) {
         ++m_failed;
         const QString reason = soundConversionText(result.outcome);
         if (!m_reasons.contains(reason)) {
@@ -99,7 +113,6 @@ void SoundBatch::finished(Watcher* watcher, int row)
         m_reporter->update(++m_done, 0);
     }
     look();
-    startNext();
 }
 
 void SoundBatch::cancel()

@@ -6,6 +6,7 @@
 #include <QMap>
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <QVector>
 
 #include <functional>
@@ -43,9 +44,10 @@ public:
 
 private:
     using Watcher = QFutureWatcher<SoundConversion>;
-    void startNext();
+    void turn();
+    bool canStart() const;
     void start(int row);
-    void finished(Watcher* watcher, int row);
+    void putBack(const SoundConversion& result, int row);
     void cancel();
     void look();
 
@@ -55,9 +57,11 @@ private:
     std::shared_ptr<std::atomic<bool>> m_isCanceled = std::make_shared<std::atomic<bool>>(false);
     ProgressReporter* m_reporter = nullptr;
     QEventLoop m_loop;
+    QTimer m_turn;
+    QVector<QPair<Watcher*, int>> m_ready;  // with their rows
     int m_next = 0;
     int m_done = 0;
-    int m_running = 0;
+    int m_running = 0;  // and ready
     int m_failed = 0;
     QStringList m_reasons;
 };
