@@ -445,6 +445,17 @@
     </message>
 </context>
 <context>
+    <name>App::CanvasInput</name>
+    <message>
+        <source>The sprite %1, which was painted on, is no longer in its file. The copy is kept; it can be saved as a picture.</source>
+        <translation>Das Sprite %1, auf dem gemalt wurde, ist nicht mehr in seiner Datei. Die Kopie bleibt erhalten und kann als Bild gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The canvas of the sprite %1 could not be shown. The copy is kept.</source>
+        <translation>Die Zeichenfläche des Sprites %1 konnte nicht gezeigt werden. Die Kopie bleibt erhalten.</translation>
+    </message>
+</context>
+<context>
     <name>App::CodeHelp</name>
     <message>
         <source>There are no words to choose from at this place.</source>
@@ -1333,6 +1344,10 @@
     <message>
         <source>the unsaved work</source>
         <translation>die ungespeicherte Arbeit</translation>
+    </message>
+    <message>
+        <source>%1 (canvas)</source>
+        <translation>%1 (Zeichenfläche)</translation>
     </message>
 </context>
 <context>
@@ -4194,6 +4209,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>The copy cannot be read.</source>
         <translation>Die Kopie kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The copy of a canvas cannot be read: it is damaged, or there is not enough memory.</source>
+        <translation>Die Kopie einer Zeichenfläche kann nicht gelesen werden: Sie ist beschädigt, oder der Speicher reicht nicht.</translation>
     </message>
 </context>
 <context>
@@ -7281,6 +7300,10 @@ Ticks: ---</translation>
     <message>
         <source>Change size of canvas</source>
         <translation>Größe der Zeichenfläche ändern</translation>
+    </message>
+    <message>
+        <source>Restore unsaved work</source>
+        <translation>Nicht gespeicherte Arbeit wiederherstellen</translation>
     </message>
 </context>
 <context>

@@ -51,6 +51,7 @@ const struct
     {"paste", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Paste")},
     {"pen", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Draw")},
     {"replace", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Replace colors")},
+    {"restore", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Restore unsaved work")},
     {"resize", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Resize image")},
     {"rotate", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Rotate image")},
     {"select", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Select")},

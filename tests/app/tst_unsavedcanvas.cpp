@@ -4,13 +4,17 @@
 #include "app/assets/spritecommands.h"
 #include "app/assets/spritepanel.h"
 #include "app/paint/paintcommands.h"
+#include "app/recovery/workrecovery.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/gameprogram.h"
 #include "operations/agreements.h"
+#include "operations/recovery/abandonedwork.h"
+#include "operations/recovery/recoverykeeper.h"
 #include "support/testtable.h"
 
 #include <zorv/core/fileinput.h>
 #include <zorv/image/canvas/imagecanvas.h>
+#include <zorv/image/canvas/imagelayer.h>
 #include <zorv/image/canvas/imagelayers.h>
 #include <zorv/image/canvas/imageundostack.h>
 #include <zorv/image/imagerenderer.h>
@@ -63,6 +67,7 @@ private slots:
     void isAskedAboutWhenTheFileChanges_data();
     void isAskedAboutWhenTheFileChanges();
     void isNotSavedWithoutItsSprite();
+    void isPutAside();
     void comesBack_data();
     void comesBack();
 
@@ -227,6 +232,37 @@ void TestUnsavedCanvas::isNotSavedWithoutItsSprite()
     QVERIFY(Zorv::FileInput::isUnsaved(sprites()));
     m->dialogs.choiceAnswers = {Discard};
     QVERIFY(m->window->close());
+}
+
+/// As long as something of the canvas is in no file: work, and layers that are hidden. The copy is
+/// as old as the file.
+void TestUnsavedCanvas::isPutAside()
+{
+    const App::WorkRecovery recovery(m->window->services(), m_folder->filePath("recovery"));
+    const auto copies = [&recovery] {
+        QCoreApplication::processEvents();
+        const bool isDone = recovery.keeper()->flush();
+        const QDir folder(recovery.keeper()->folder());
+        return isDone ? folder.entryInfoList({"*.zorvcopy"}) : QFileInfoList();
+    };
+    QCOMPARE(copies().size(), 1);
+    trigger("spr_layer_add");
+    canvas()->layers()->at(0)->setVisible(false);
+    trigger("save");
+    QVERIFY(!Zorv::FileInput::isUnsaved(sprites()));
+    QCOMPARE(copies().size(), 1);
+    QVERIFY(QDir().mkpath(m_folder->filePath("left/dead")));
+    QVERIFY(QFile::copy(copies().first().filePath(), m_folder->filePath("left/dead/1.zorvcopy")));
+    const Operations::AbandonedWorks left(m_folder->filePath("left"));
+    QCOMPARE(left.all().size(), 1);
+    QCOMPARE(left.all().first().state, Operations::AbandonedWork::Applicable);
+    QString error;
+    const QString png = m_folder->filePath("one.png");
+    QVERIFY(left.all().first().saveElsewhere(png, &error));
+    QCOMPARE(QImage(png).convertToFormat(QImage::Format_ARGB32),
+             flipped().convertToFormat(QImage::Format_ARGB32));
+    canvas()->layers()->at(0)->setVisible(true);
+    QVERIFY(copies().isEmpty());
 }
 
 void TestUnsavedCanvas::comesBack_data()

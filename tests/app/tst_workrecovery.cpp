@@ -1,11 +1,18 @@
+#include "app/paint/paintcommands.h"
 #include "app/recovery/recoverydialog.h"
 #include "app/recovery/workrecovery.h"
+#include "app/window/editorregistry.h"
 #include "family/assets/familysound.h"
 #include "operations/recovery/abandonedwork.h"
 #include "operations/recovery/recoverykeeper.h"
 #include "support/testsounds.h"
 #include "windowfixture.h"
 
+#include <zorv/image/canvas/imagecanvas.h>
+#include <zorv/image/canvas/imagelayer.h>
+#include <zorv/image/canvas/imagelayers.h>
+#include <zorv/image/imagerenderer.h>
+#include <zorv/image/spriteeditor.h>
 #include <zorv/media/soundsample.h>
 
 #include <QApplication>
@@ -30,6 +37,7 @@ constexpr int Kills = 50;
 constexpr int KillsWithWindow = 10;
 constexpr int AssetKills = 25;
 constexpr int KillsWithAssetWindow = 4;
+constexpr int KillsWithCanvas = 4;
 
 QChar letter(int number)
 {
@@ -94,6 +102,19 @@ void compareAdded(Family::SpriteCollection* sprites, Family::SoundFile* sounds, 
     QVERIFY(sounds->isEmpty() && !sounds->isModified());
 }
 
+/// A layer on the canvas of the first sprite, every second one hidden.
+void addLayer(const WindowFixture& fixture, int number)
+{
+    Zorv::SpriteEditor* editor = fixture.window->paint()->editor();
+    if (editor->spriteIndex() < 0) {
+        fixture.window->editors()->activate(editor);
+    }
+    Zorv::ImageCanvas* canvas = editor->renderer()->canvas();
+    Zorv::ImageLayer* layer = canvas->newRasterLayer(canvas->mergeLayers(nullptr));
+    layer->setName(QString::number(number), true);
+    layer->setVisible(number % 2 == 0);
+}
+
 /// Does something with the recovery dialog once it is open.
 void whenAsked(const std::function<void(RecoveryDialog*)>& answer)
 {
@@ -129,6 +150,7 @@ private slots:
     void init();
     void killedWindowLosesLittle();
     void killedWindowLosesFewSpritesAndSounds();
+    void killedWindowLosesFewLayers();
     void decisionsAreKept();
     void otherGameIsOpened();
     void gameIsAskedAboutWhenOpened();
@@ -254,6 +276,49 @@ void TestWorkRecovery::killedWindowLosesFewSpritesAndSounds()
         QVERIFY(project);
         compareAdded(project->sprites(), project->sounds(), safe);
         QVERIFY(AbandonedWorks(root()).all().isEmpty());
+    }
+}
+
+/// The canvas comes back on its sprite with all that was put aside, as one step.
+void TestWorkRecovery::killedWindowLosesFewLayers()
+{
+    QRandomGenerator random(20260101);
+    m_game->addAssets();
+    const QString name = m_game->path("characters/ryn/a.sprites");
+    Family::SpriteFile file;
+    QImage image(4, 4, QImage::Format_Indexed8);
+    image.setColorTable({qRgb(0, 0, 0), qRgb(1, 1, 1)});
+    image.fill(1);
+    QVERIFY(file.insertSprite(-1, {0, 0}, {2, 3}, image));
+    QVERIFY(file.toFile(*Zorv::FileSystemArchive::instance(), name, true));
+    const QByteArray before = m_game->read("characters/ryn/a.sprites");
+    for (int i = 0; i < KillsWithCanvas; ++i) {
+        const int safe = killWhile("paint", m_game->ryn(), &random);
+        QVERIFY(safe > 0);
+        QCOMPARE(m_game->read("characters/ryn/a.sprites"), before);
+        WindowFixture fixture(settings());
+        WorkRecovery recovery(fixture.window->services(), root());
+        whenAsked([](RecoveryDialog* dialog) {
+            const QString diff = dialog->findChild<QPlainTextEdit*>()->toPlainText();
+            QVERIFY(diff.contains("+canvas of sprite 0,0 axis 2,3 4x4"));
+            QVERIFY(diff.contains("+layer 1 hidden"));
+            clickButton(dialog, "Restore all");
+        });
+        recovery.offerAll();
+        Zorv::SpriteEditor* editor = fixture.window->paint()->editor();
+        QVERIFY(editor->isActive() && editor->isCanvasModified());
+        QTRY_VERIFY(fixture.window->isWindowModified());
+        const Zorv::ImageLayers& layers = *editor->renderer()->canvas()->layers();
+        QVERIFY(int(layers.count()) > safe);
+        for (unsigned at = 0; at + 1 < layers.count(); ++at) {
+            const int number = int(layers.count()) - 2 - int(at);
+            QCOMPARE(layers.at(at)->name(), QString::number(number));
+            QCOMPARE(layers.at(at)->isVisible(), number % 2 == 0);
+        }
+        QVERIFY(AbandonedWorks(root()).all().isEmpty());
+        editor->undo();
+        QCOMPARE(layers.count(), 1U);
+        QVERIFY(!editor->isCanvasModified() && !editor->sprites()->isModified());
     }
 }
 
@@ -391,6 +456,11 @@ int main(int argc, char** argv)
                                [](WindowFixture& fixture, int number) {
                                    addTo(fixture.window->currentProject(), number);
                                });
+    }
+    if (arguments.value(1) == "paint" && arguments.size() == 5) {
+        return workUntilKilled(
+            arguments[2], arguments[3], arguments[4],
+            [](WindowFixture& fixture, int number) { addLayer(fixture, number); });
     }
     TestWorkRecovery test;
     return QTest::qExec(&test, argc, argv);

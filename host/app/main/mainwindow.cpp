@@ -329,12 +329,14 @@ bool MainWindow::mayClose(const FamilyProject* project, const std::function<void
 void MainWindow::updateTitle()
 {
     const FamilyDocument* document = tabs()->currentDocument();
-    QString text = document ? session()->shownPath(document->fileName()) + Modified : QString();
-    const QString game = QDir(session()->folder()).dirName();
-    for (const QString& part : {session()->game() ? game : QString(), QStringLiteral("Zorv")}) {
-        text += !text.isEmpty() && !part.isEmpty() ? QLatin1String(" - ") + part : part;
+    QStringList parts{document ? session()->shownPath(document->fileName()) : QString(),
+                      session()->game() ? QDir(session()->folder()).dirName() : QString(),
+                      QStringLiteral("Zorv")};
+    parts.removeAll(QString());
+    if (parts.size() > 1) {
+        parts.first() += Modified;
     }
-    setWindowTitle(text);
+    setWindowTitle(parts.join(QLatin1String(" - ")));
     const FamilyProject* project = m_services.parts->project();
     const bool areSprites = project && FileInput::isUnsaved(project->sprites());
     const bool areSounds = project && FileInput::isUnsaved(project->sounds());

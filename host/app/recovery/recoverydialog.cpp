@@ -44,6 +44,9 @@ QString nameOf(const AbandonedWork& work)
     if (work.state == AbandonedWork::Damaged) {
         return QFileInfo(work.path).fileName();
     }
+    if (work.copy.content == Operations::RecoveryCopy::Canvas) {
+        return RecoveryDialog::tr("%1 (canvas)").arg(QDir::toNativeSeparators(work.copy.fileName));
+    }
     return work.copy.fileName.isEmpty() ? RecoveryDialog::tr("new file (%1)").arg(kindOf(work.copy))
                                         : QDir::toNativeSeparators(work.copy.fileName);
 }
@@ -184,8 +187,11 @@ void RecoveryDialog::saveCurrentElsewhere()
     if (row < 0) {
         return;
     }
+    const Operations::RecoveryCopy& copy = m_works.at(row).copy;
+    const bool isCanvas = copy.content == Operations::RecoveryCopy::Canvas;
     const QString name = Dialogs::instance()->saveFileName(
-        this, tr("Save the copy as"), m_works.at(row).copy.fileName, QString());
+        this, tr("Save the copy as"),
+        isCanvas ? copy.fileName + QLatin1String(".png") : copy.fileName, QString());
     QString error;
     if (!name.isEmpty() && !m_works.at(row).saveElsewhere(name, &error)) {
         Dialogs::instance()->error(tr("Save the copy as"), error);

@@ -1,7 +1,9 @@
 #include "app/recovery/workrecovery.h"
 
+#include "app/recovery/canvasinput.h"
 #include "app/recovery/recoverydialog.h"
 #include "app/session/gamesession.h"
+#include "app/window/editorregistry.h"
 #include "app/window/jumps.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
@@ -9,9 +11,11 @@
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "operations/recovery/abandonedwork.h"
+#include "operations/recovery/canvascopy.h"
 #include "operations/recovery/recoverykeeper.h"
 
 #include <zorv/core/dialogs/dialogs.h>
+#include <zorv/image/spriteeditor.h>
 
 #include <QDir>
 #include <QScopedValueRollback>
@@ -30,6 +34,7 @@ Zorv::FileID::Type typeOf(const Operations::RecoveryCopy& copy)
 {
     switch (copy.content) {
     case Operations::RecoveryCopy::Sprites:
+    case Operations::RecoveryCopy::Canvas:
         return Zorv::FileID::Sprites;
     case Operations::RecoveryCopy::Sounds:
         return Zorv::FileID::Sounds;
@@ -64,6 +69,14 @@ WorkRecovery::WorkRecovery(const WindowServices& services, const QString& root)
     connect(m_keeper, &Operations::RecoveryKeeper::failed, services.status,
             [status = services.status](const QString& reason) { status->showField(0, reason); });
     watchAll();
+    auto* sprites =
+        qobject_cast<Zorv::SpriteEditor*>(services.editors->forFile(Zorv::FileID::Sprites));
+    if (sprites) {
+        m_canvas = new CanvasInput(sprites, this);
+        m_keeper->watchInput(m_canvas);
+        connect(m_canvas, &CanvasInput::changed, m_keeper,
+                [this] { m_keeper->inputChanged(m_canvas); });
+    }
 }
 
 void WorkRecovery::watchAll()
@@ -112,6 +125,10 @@ void WorkRecovery::offer(const QString& gameFolder)
             found.all().at(i).discard();
         }
     }
+    // The sprite of a canvas may come back with another copy.
+    std::stable_partition(restored.begin(), restored.end(), [](const AbandonedWork& work) {
+        return work.copy.content != Operations::RecoveryCopy::Canvas;
+    });
     if (!restored.isEmpty()) {
         restore(restored);
     }
@@ -140,6 +157,10 @@ void WorkRecovery::restore(const QList<AbandonedWork>& works)
         QString error;
         if (Zorv::ProjectFile* file = bringBack(work, &error)) {
             show(file);
+            if (work.copy.content == Operations::RecoveryCopy::Canvas) {
+                m_services.parts->update();
+                m_services.editors->activate(m_canvas->editor());
+            }
             done.append(work);
         } else {
             errors.append(error);
@@ -164,7 +185,16 @@ Zorv::ProjectFile* WorkRecovery::bringBack(const AbandonedWork& work, QString* e
         return nullptr;
     }
     m_keeper->watch(file);
-    return work.restore(file, error) ? file : nullptr;
+    return apply(work, file, error) ? file : nullptr;
+}
+
+bool WorkRecovery::apply(const AbandonedWork& work, Zorv::ProjectFile* file, QString* error)
+{
+    if (work.copy.content != Operations::RecoveryCopy::Canvas) {
+        return work.restore(file, error);
+    }
+    Operations::CanvasCopy canvas;
+    return m_canvas && work.readCanvas(&canvas, error) && m_canvas->restore(file, canvas, error);
 }
 
 /// Sprites and sounds are seen with a text of their project.

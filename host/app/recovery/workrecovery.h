@@ -14,10 +14,11 @@ class ProjectFile;
 
 namespace App {
 
+class CanvasInput;
 struct WindowServices;
 
-/// Keeps the unsaved texts, sprites and sounds of a window safe, and offers those that a process
-/// that is gone has left: at the start, and for a game when it is opened.
+/// Keeps the unsaved texts, sprites, sounds and canvases of a window safe, and offers those that a
+/// process that is gone has left: at the start, and for a game when it is opened.
 class WorkRecovery : public QObject
 {
     Q_OBJECT
@@ -39,9 +40,11 @@ private:
     bool openGame(const QList<Operations::AbandonedWork>& works);
     Zorv::ProjectFile* fileOf(const Operations::AbandonedWork& work, QString* error);
     Zorv::ProjectFile* bringBack(const Operations::AbandonedWork& work, QString* error);
+    bool apply(const Operations::AbandonedWork& work, Zorv::ProjectFile* file, QString* error);
     void show(Zorv::ProjectFile* file);
 
     const WindowServices& m_services;
+    CanvasInput* m_canvas = nullptr;  ///< null in a window without a sprite editor
     Operations::RecoveryKeeper* m_keeper;
     QString m_root;
     bool m_isOfferPending = false;

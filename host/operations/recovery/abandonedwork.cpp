@@ -4,6 +4,7 @@
 #include "family/assets/soundfile.h"
 #include "family/assets/spritefile.h"
 #include "family/familydocument.h"
+#include "operations/recovery/canvascopy.h"
 #include "operations/recovery/sessionfolder.h"
 #include "operations/worklines.h"
 
@@ -75,7 +76,7 @@ QString textOf(const RecoveryCopy& copy)
 
 bool saysTheSame(const RecoveryCopy& copy)
 {
-    if (copy.fileName.isEmpty()) {
+    if (copy.fileName.isEmpty() || copy.content == RecoveryCopy::Canvas) {
         return false;
     }
     return copy.content == RecoveryCopy::Document
@@ -83,8 +84,13 @@ bool saysTheSame(const RecoveryCopy& copy)
                : QFileInfo(copy.fileName).isFile() && contentOf(copy.fileName) == copy.assets;
 }
 
+/// As they would be in a file; a canvas is a picture there.
 QByteArray bytesOf(const RecoveryCopy& copy)
 {
+    if (copy.content == RecoveryCopy::Canvas) {
+        CanvasCopy canvas;
+        return canvas.read(copy.assets) ? canvas.picture() : QByteArray();
+    }
     if (copy.content != RecoveryCopy::Document) {
         return copy.assets;
     }
@@ -136,6 +142,9 @@ bool apply(const RecoveryCopy& copy, Zorv::ProjectFile* file, QString* error)
 
 QString AbandonedWork::unsavedLines() const
 {
+    if (copy.content == RecoveryCopy::Canvas) {
+        return copy.text;
+    }
     QString error;
     RecoveryCopy whole;
     if (!whole.fromBytes(contentOf(path), &error)) {
@@ -147,7 +156,7 @@ QString AbandonedWork::unsavedLines() const
 
 QString AbandonedWork::fileLines() const
 {
-    if (copy.fileName.isEmpty()) {
+    if (copy.fileName.isEmpty() || copy.content == RecoveryCopy::Canvas) {
         return {};
     }
     if (copy.content == RecoveryCopy::Document) {
@@ -217,6 +226,20 @@ bool AbandonedWork::restore(Zorv::ProjectFile* file, QString* error) const
 {
     RecoveryCopy whole;
     return whole.fromBytes(contentOf(path), error) && apply(whole, file, error);
+}
+
+bool AbandonedWork::readCanvas(CanvasCopy* canvas, QString* error) const
+{
+    RecoveryCopy whole;
+    if (!whole.fromBytes(contentOf(path), error)) {
+        return false;
+    }
+    if (!canvas->read(whole.assets)) {
+        *error = Text::tr("The copy of a canvas cannot be read: it is damaged, or there is not "
+                          "enough memory.");
+        return false;
+    }
+    return true;
 }
 
 void applyText(Zorv::CodeDocument* document, const QString& text, const QString& codec)

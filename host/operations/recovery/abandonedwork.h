@@ -16,6 +16,7 @@ class ProjectFile;
 namespace Operations {
 
 class SessionFolder;
+struct CanvasCopy;
 
 /// A copy that a process left behind, and what can be done with it.
 struct AbandonedWork
@@ -48,8 +49,11 @@ struct AbandonedWork
     bool saveElsewhere(const QString& fileName, QString* error) const;
 
     /// Gives it to a document or collection of that file as unsaved changes: one step of undo.
-    /// False, with `error`, for a file of another kind, or if the copy is damaged by now.
+    /// False, with `error`, for a file of another kind, a canvas, or if the copy is damaged by now.
     bool restore(Zorv::ProjectFile* file, QString* error) const;
+
+    /// Reads a canvas, which only an editor can restore. False with `error` if that fails.
+    bool readCanvas(CanvasCopy* canvas, QString* error) const;
 };
 
 /// The copies of all processes that are gone. As long as the object lives no

@@ -96,7 +96,7 @@ bool readFields(const QByteArray& body, RecoveryCopy* read)
     read->assets = body.mid(int(fields.device()->pos()));
     if (fields.status() != QDataStream::Ok || kind < 0 ||
         kind > qint32(Family::FileKind::Commands) || content < RecoveryCopy::Document ||
-        content > RecoveryCopy::Sounds || (content == RecoveryCopy::Document && !fields.atEnd())) {
+        content > RecoveryCopy::Canvas || (content == RecoveryCopy::Document && !fields.atEnd())) {
         return false;
     }
     read->kind = Family::FileKind(kind);

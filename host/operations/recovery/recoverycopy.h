@@ -17,11 +17,11 @@ namespace Operations {
 /// As bytes: "ZORVCOPY", the version (32 bits), the length of what follows the
 /// head (64 bits), its SHA-256 (32 bytes), all big endian; then the fields in the
 /// order below as `QDataStream` writes them, and the bytes of sprites and sounds as their
-/// files have them. A single byte that is wrong or missing makes the copy unreadable as a
-/// whole.
+/// files have them, or those of a canvas. A single byte that is wrong or missing makes the copy
+/// unreadable as a whole.
 struct RecoveryCopy
 {
-    enum Content { Document, Sprites, Sounds };
+    enum Content { Document, Sprites, Sounds, Canvas };
 
     QString fileName;    ///< empty for a file that was never saved
     QString mainFile;    ///< of the project; empty likewise
@@ -30,10 +30,10 @@ struct RecoveryCopy
     QString codec;                                   ///< likewise
     QDateTime time;                                  ///< when the copy was made
     FileStamp stamp;                                 ///< the file that the work began with
-    QString text;                                    ///< lines end in a line feed
+    QString text;  ///< lines end in a line feed; of a canvas those that tell what it is
     Content content = Document;
     QStringList images;  ///< of a loose folder, see `Family::AssetSnapshot`
-    QByteArray assets;   ///< a sprite file or a sound file
+    QByteArray assets;   ///< a sprite file, a sound file, or a `CanvasCopy`
 
     /// Writes the copy to a device that can seek; `writeAssets` gives what `assets` holds when it
     /// is read again. False if the device takes not all.

@@ -4,6 +4,7 @@
 #include "family/assets/spritecollection.h"
 #include "family/familydocument.h"
 #include "operations/recovery/recoverycopy.h"
+#include "operations/recovery/recoveryinput.h"
 #include "operations/recovery/sessionfolder.h"
 #include "operations/workfile.h"
 
@@ -19,6 +20,8 @@
 #include <QHash>
 #include <QThreadPool>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace Operations {
 
@@ -58,8 +61,9 @@ struct Watched
     WorkState pending;
     bool isPending = false;
     bool hasCopy = false;
-    RecoveryCopy content;                     ///< while the snapshot is being gathered
-    std::shared_ptr<AssetSnapshot> snapshot;  ///< likewise
+    RecoveryCopy content;                         ///< while the snapshot is being gathered
+    std::shared_ptr<AssetSnapshot> snapshot;      ///< likewise
+    std::function<bool(QIODevice*)> writeAssets;  ///< in its place, of what is no file
     QDeadlineTimer rest;
 };
 
@@ -77,8 +81,8 @@ WorkState stateOf(const ProjectFile* file, const Watched& watched)
                     : WorkState{watched.changes, 0};
 }
 
-/// What is to be copied; the bytes of sprites and sounds are in the snapshot.
-RecoveryCopy contentOf(ProjectFile* file, std::shared_ptr<AssetSnapshot>* snapshot)
+/// A copy that tells where its work belongs, and not what it is.
+RecoveryCopy copyFor(const ProjectFile* file)
 {
     RecoveryCopy content;
     const Zorv::Project* project = file->project();
@@ -87,6 +91,13 @@ RecoveryCopy contentOf(ProjectFile* file, std::shared_ptr<AssetSnapshot>* snapsh
     content.gameFolder =
         project && project->parent() ? project->parent()->absolutePath() : QString();
     content.time = QDateTime::currentDateTime();
+    return content;
+}
+
+/// What is to be copied; the bytes of sprites and sounds are in the snapshot.
+RecoveryCopy contentOf(ProjectFile* file, std::shared_ptr<AssetSnapshot>* snapshot)
+{
+    RecoveryCopy content = copyFor(file);
     if (const auto* document = dynamic_cast<FamilyDocument*>(file)) {
         content.kind = document->kind();
         content.codec = document->codecName();
@@ -102,14 +113,14 @@ RecoveryCopy contentOf(ProjectFile* file, std::shared_ptr<AssetSnapshot>* snapsh
     return content;
 }
 
-QString writeWhole(const QString& path, const RecoveryCopy& copy, const AssetSnapshot* snapshot)
+QString writeWhole(const QString& path, const RecoveryCopy& copy,
+                   const std::function<bool(QIODevice*)>& writeAssets)
 {
-    const auto writeAssets = [snapshot](QIODevice* device) { return snapshot->write(device); };
     Zorv::SafeFile file(path, Zorv::SafeFile::OwnerOnly);
     if (!file.open(QIODevice::WriteOnly)) {
         return file.failure();
     }
-    if (!(snapshot ? copy.write(&file, writeAssets) : copy.write(&file))) {
+    if (!copy.write(&file, writeAssets)) {
         file.fail(RecoveryKeeper::tr("bytes are missing"));
     }
     return file.commit() ? QString() : file.failure();
@@ -123,6 +134,7 @@ struct RecoveryKeeper::Private
     QString root;
     std::unique_ptr<SessionFolder> folder;
     QHash<ProjectFile*, Watched> files;
+    QHash<const RecoveryInput*, Watched> inputs;
     QTimer timer;
     QTimer gathering;
     QThreadPool writer;  ///< of one thread: what is written and removed keeps its order
@@ -133,17 +145,25 @@ struct RecoveryKeeper::Private
     bool isLate = false;  ///< something was left out at the last turn
 
     void setStamp(Watched* watched, const QString& fileName);
+    void addHash(Watched* watched);
     void changed(ProjectFile* file);
+    void synchronized(ProjectFile* file);
     void startTimer();
     void drop(Watched* watched);
     bool needsCopy(ProjectFile* file) const;
+    bool needsCopy(const RecoveryInput* input) const;
+    template <class Work>
+    void copyThose(QHash<Work*, Watched>& works, bool isUrgent);
     void copyAll(bool isUrgent);
+    bool begin(Watched* watched);
     void copy(ProjectFile* file, Watched* watched);
+    void copy(const RecoveryInput* input, Watched* watched);
+    Watched* find(int number);
     void tellIfCopied();
     void gather(int milliseconds);
     void forgetSnapshot(Watched* watched);
-    void write(ProjectFile* file, Watched* watched);
-    void written(ProjectFile* file, int number, const Outcome& outcome);
+    void write(Watched* watched);
+    void written(int number, const Outcome& outcome);
     void fail(const QString& reason);
 };
 
@@ -189,13 +209,34 @@ void RecoveryKeeper::watch(ProjectFile* file)
     d->files.insert(file, watched);
     WorkEvents events;
     events.changed = [this, file] { d->changed(file); };
-    events.synchronized = [this, file] { d->setStamp(&d->files[file], file->fileName()); };
+    events.synchronized = [this, file] { d->synchronized(file); };
     events.gone = [this, file] {
         Watched gone = d->files.take(file);
         d->drop(&gone);
     };
     followWork(file, this, events);
     d->changed(file);
+}
+
+void RecoveryKeeper::watchInput(const RecoveryInput* input)
+{
+    d->inputs[input].number = ++d->lastNumber;
+    inputChanged(input);
+}
+
+/// The copy is as old as what is open of the file: that is what it would be applied to.
+void RecoveryKeeper::inputChanged(const RecoveryInput* input)
+{
+    ProjectFile* file = input->file();
+    Watched& watched = d->inputs[input];
+    ++watched.changes;
+    if (!file) {
+        d->drop(&watched);
+        return;
+    }
+    watch(file);
+    d->addHash(&d->files[file]);
+    d->startTimer();
 }
 
 QString RecoveryKeeper::folder() const
@@ -213,12 +254,9 @@ bool RecoveryKeeper::flush()
         // The answers of the other thread are on their way.
         QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
     }
-    for (auto it = d->files.constBegin(); it != d->files.constEnd(); ++it) {
-        if (d->needsCopy(it.key())) {
-            return false;
-        }
-    }
-    return true;
+    const auto isCopied = [this](auto* work) { return !d->needsCopy(work); };
+    return std::all_of(d->files.keyBegin(), d->files.keyEnd(), isCopied) &&
+           std::all_of(d->inputs.keyBegin(), d->inputs.keyEnd(), isCopied);
 }
 
 // To look at each image of a folder takes a while.
@@ -235,6 +273,27 @@ void RecoveryKeeper::Private::setStamp(Watched* watched, const QString& fileName
 }
 
 // The hash is taken with the first change only, for most files are looked at and no more.
+void RecoveryKeeper::Private::addHash(Watched* watched)
+{
+    if (!watched->hasHash) {
+        watched->hasHash = true;
+        writer.start(
+            [stamp = watched->stamp, fileName = watched->fileName] { stamp->addHash(fileName); });
+    }
+}
+
+/// What is worked on beside the file goes with its new state.
+void RecoveryKeeper::Private::synchronized(ProjectFile* file)
+{
+    setStamp(&files[file], file->fileName());
+    const QList<const RecoveryInput*> known = inputs.keys();
+    for (const RecoveryInput* input : known) {
+        if (input->file() == file) {
+            q->inputChanged(input);
+        }
+    }
+}
+
 void RecoveryKeeper::Private::changed(ProjectFile* file)
 {
     Watched& watched = files[file];
@@ -247,11 +306,7 @@ void RecoveryKeeper::Private::changed(ProjectFile* file)
     if (watched.fileName != file->fileName()) {
         setStamp(&watched, file->fileName());
     }
-    if (!watched.hasHash) {
-        watched.hasHash = true;
-        writer.start(
-            [stamp = watched.stamp, fileName = watched.fileName] { stamp->addHash(fileName); });
-    }
+    addHash(&watched);
     startTimer();
 }
 
@@ -283,11 +338,16 @@ bool RecoveryKeeper::Private::needsCopy(ProjectFile* file) const
     return file->isModified() && !(watched.copied == stateOf(file, watched));
 }
 
-void RecoveryKeeper::Private::copyAll(bool isUrgent)
+bool RecoveryKeeper::Private::needsCopy(const RecoveryInput* input) const
 {
-    const bool wasLate = isLate;
-    isLate = false;
-    for (auto it = files.begin(); it != files.end(); ++it) {
+    const Watched& watched = *inputs.constFind(input);
+    return input->file() && !(watched.copied == WorkState{watched.changes, 0});
+}
+
+template <class Work>
+void RecoveryKeeper::Private::copyThose(QHash<Work*, Watched>& works, bool isUrgent)
+{
+    for (auto it = works.begin(); it != works.end(); ++it) {
         if (!needsCopy(it.key())) {
             continue;
         }
@@ -297,6 +357,14 @@ void RecoveryKeeper::Private::copyAll(bool isUrgent)
             copy(it.key(), &it.value());
         }
     }
+}
+
+void RecoveryKeeper::Private::copyAll(bool isUrgent)
+{
+    const bool wasLate = isLate;
+    isLate = false;
+    copyThose(files, isUrgent);
+    copyThose(inputs, isUrgent);
     if (isLate) {
         startTimer();
     } else if (wasLate) {
@@ -312,22 +380,44 @@ void RecoveryKeeper::Private::tellIfCopied()
     }
 }
 
-void RecoveryKeeper::Private::copy(ProjectFile* file, Watched* watched)
+/// False if there is no folder for copies.
+bool RecoveryKeeper::Private::begin(Watched* watched)
 {
     QString error;
     if (!folder && !(folder = SessionFolder::create(root, &error))) {
         fail(RecoveryKeeper::tr("Unsaved work cannot be put aside. %1").arg(error));
+        return false;
+    }
+    watched->isPending = true;
+    ++pendingCount;
+    return true;
+}
+
+void RecoveryKeeper::Private::copy(ProjectFile* file, Watched* watched)
+{
+    if (!begin(watched)) {
         return;
     }
     watched->content = contentOf(file, &watched->snapshot);
     watched->pending = stateOf(file, *watched);
-    watched->isPending = true;
-    ++pendingCount;
     if (watched->snapshot) {
         gathering.start();
     } else {
-        write(file, watched);
+        write(watched);
     }
+}
+
+void RecoveryKeeper::Private::copy(const RecoveryInput* input, Watched* watched)
+{
+    if (!begin(watched)) {
+        return;
+    }
+    ProjectFile* file = input->file();
+    watched->stamp = files[file].stamp;
+    watched->content = copyFor(file);
+    watched->writeAssets = input->take(&watched->content);
+    watched->pending = {watched->changes, 0};
+    write(watched);
 }
 
 /// One file a turn, unless all is to be had at once.
@@ -340,7 +430,7 @@ void RecoveryKeeper::Private::gather(int milliseconds)
             it->snapshot->gather(milliseconds);
             isDone = milliseconds >= 0;
             if (it->snapshot->isWhole()) {
-                write(it.key(), &it.value());
+                write(&it.value());
             } else if (it->snapshot->isCanceled()) {
                 forgetSnapshot(&it.value());
                 startTimer();
@@ -362,31 +452,51 @@ void RecoveryKeeper::Private::forgetSnapshot(Watched* watched)
     }
 }
 
-void RecoveryKeeper::Private::write(ProjectFile* file, Watched* watched)
+void RecoveryKeeper::Private::write(Watched* watched)
 {
-    writer.start([this, file, content = watched->content, snapshot = watched->snapshot,
+    if (watched->snapshot) {
+        watched->writeAssets = [snapshot = watched->snapshot](QIODevice* device) {
+            return snapshot->write(device);
+        };
+    }
+    writer.start([this, content = watched->content, writeAssets = watched->writeAssets,
                   stamp = watched->stamp, number = watched->number,
                   path = folder->copyPath(watched->number)]() mutable {
         QElapsedTimer clock;
         clock.start();
         content.stamp = *stamp;
         Outcome outcome;
-        outcome.reason = writeWhole(path, content, snapshot.get());
+        outcome.reason = writeWhole(path, content, writeAssets);
         outcome.milliseconds = clock.elapsed();
         QMetaObject::invokeMethod(
-            q, [this, file, number, outcome] { written(file, number, outcome); },
-            Qt::QueuedConnection);
+            q, [this, number, outcome] { written(number, outcome); }, Qt::QueuedConnection);
     });
     watched->content = RecoveryCopy();
     watched->snapshot.reset();
+    watched->writeAssets = nullptr;
 }
 
-void RecoveryKeeper::Private::written(ProjectFile* file, int number, const Outcome& outcome)
+/// Null for what is gone.
+Watched* RecoveryKeeper::Private::find(int number)
+{
+    for (Watched& each : files) {
+        if (each.number == number) {
+            return &each;
+        }
+    }
+    for (Watched& each : inputs) {
+        if (each.number == number) {
+            return &each;
+        }
+    }
+    return nullptr;
+}
+
+void RecoveryKeeper::Private::written(int number, const Outcome& outcome)
 {
     --pendingCount;
     const bool isDone = outcome.reason.isEmpty();
-    const auto found = files.find(file);
-    if (found != files.end() && found->number == number) {
+    if (Watched* found = find(number)) {
         found->isPending = false;
         const bool isLong = outcome.milliseconds > LongWrite;
         found->rest.setRemainingTime(isLong ? Rest * outcome.milliseconds : 0);

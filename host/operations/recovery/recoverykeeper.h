@@ -11,8 +11,10 @@ class ProjectFile;
 
 namespace Operations {
 
-/// Puts unsaved texts, sprites and sounds aside, outside of the files of any game, so that they
-/// outlive a crash.
+class RecoveryInput;
+
+/// Puts unsaved texts, sprites, sounds and canvases aside, outside of the files of any game, so
+/// that they outlive a crash.
 ///
 /// What has changed is copied at most once an interval, large files less often. A text
 /// is taken at once; the bytes of sprites and sounds are brought together in small parts between
@@ -39,6 +41,11 @@ public:
     /// before it changes: what its file is then tells later whether the copy is older
     /// than the file.
     void watch(Zorv::ProjectFile* file);
+
+    /// Follows work that is not in its file yet, and tells that it has changed, or is of another
+    /// file, or is none any more. It has a copy of its own, and outlives the keeper.
+    void watchInput(const RecoveryInput* input);
+    void inputChanged(const RecoveryInput* input);
 
     /// Copies now what has changed, and waits until it is written. True if
     /// all unsaved work has a copy then.

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "operations/recovery/recoveryinput.h"
+
+#include <QObject>
+
+namespace Operations {
+struct CanvasCopy;
+}
+
+namespace Zorv {
+class SpriteEditor;
+}
+
+namespace App {
+
+/// The canvas of the sprite editor as work to be put aside: what is unsaved there, and layers that
+/// are hidden, which no sprite has.
+class CanvasInput : public QObject, public Operations::RecoveryInput
+{
+    Q_OBJECT
+
+public:
+    /// The editor outlives it.
+    CanvasInput(Zorv::SpriteEditor* editor, QObject* parent);
+
+    Zorv::ProjectFile* file() const override;
+    std::function<bool(QIODevice*)> take(Operations::RecoveryCopy* copy) const override;
+
+    /// Puts a canvas onto that of the editor, as unsaved work on its sprite. False, with `error`,
+    /// if the sprite is not in the file, or the person keeps another canvas.
+    bool restore(Zorv::ProjectFile* file, const Operations::CanvasCopy& canvas, QString* error);
+
+    /// Brings the canvas to the front of what the editor shows.
+    Zorv::SpriteEditor* editor() const { return m_editor; }
+
+signals:
+    /// Soon after something has changed on the canvas.
+    void changed();
+
+private:
+    void changeSoon();
+
+    Zorv::SpriteEditor* m_editor;
+    bool m_isPending = false;
+};
+
+}  // namespace App
