@@ -250,22 +250,6 @@
         <translation>&amp;Ein- oder ausklappen</translation>
     </message>
     <message>
-        <source>&amp;Add images...</source>
-        <translation>Bilder &amp;hinzufügen ...</translation>
-    </message>
-    <message>
-        <source>&amp;Replace image...</source>
-        <translation>Bild &amp;ersetzen ...</translation>
-    </message>
-    <message>
-        <source>&amp;Save images as...</source>
-        <translation>Bilder &amp;speichern unter ...</translation>
-    </message>
-    <message>
-        <source>Re&amp;move sprites</source>
-        <translation>Sprites e&amp;ntfernen</translation>
-    </message>
-    <message>
         <source>&amp;Load palette...</source>
         <translation>Palette &amp;laden ...</translation>
     </message>
@@ -2089,34 +2073,6 @@
 <context>
     <name>App::SpriteCommands</name>
     <message>
-        <source>Add images</source>
-        <translation>Bilder hinzufügen</translation>
-    </message>
-    <message>
-        <source>The image&apos;s palette, added if it is not there yet</source>
-        <translation>Die Palette des Bildes; sie kommt hinzu, wenn sie fehlt</translation>
-    </message>
-    <message>
-        <source>The sprite&apos;s palette: the image is adapted to it</source>
-        <translation>Die Palette des Sprites: Das Bild wird ihr angepasst</translation>
-    </message>
-    <message>
-        <source>The sprite&apos;s palette takes the colours of the image</source>
-        <translation>Die Palette des Sprites nimmt die Farben des Bildes an</translation>
-    </message>
-    <message>
-        <source>Replace image</source>
-        <translation>Bild ersetzen</translation>
-    </message>
-    <message>
-        <source>The image has other colours than the sprite.</source>
-        <translation>Das Bild hat andere Farben als der Sprite.</translation>
-    </message>
-    <message>
-        <source>Save images as</source>
-        <translation>Bilder speichern unter</translation>
-    </message>
-    <message>
         <source>Remove sprites</source>
         <translation>Sprites entfernen</translation>
     </message>
@@ -2131,13 +2087,6 @@
     <message>
         <source>The palette is saved.</source>
         <translation>Die Palette ist gespeichert.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n image(s) added.</source>
-        <translation>
-            <numerusform>%n Bild hinzugefügt.</numerusform>
-            <numerusform>%n Bilder hinzugefügt.</numerusform>
-        </translation>
     </message>
     <message>
         <source>%1 is saved.</source>
@@ -2168,29 +2117,6 @@
     <message>
         <source>Sprites of the project</source>
         <translation>Sprites des Projekts</translation>
-    </message>
-</context>
-<context>
-    <name>App::SpritePicture</name>
-    <message>
-        <source>The selected sprite</source>
-        <translation>Der gewählte Sprite</translation>
-    </message>
-    <message>
-        <source>The pixels of this sprite are broken.</source>
-        <translation>Die Pixel dieses Sprites sind beschädigt.</translation>
-    </message>
-    <message>
-        <source>No sprite</source>
-        <translation>Kein Sprite</translation>
-    </message>
-    <message>
-        <source>%1: colour %2, %3</source>
-        <translation>%1: Farbe %2, %3</translation>
-    </message>
-    <message>
-        <source>%1: %2, alpha %3</source>
-        <translation>%1: %2, Alpha %3</translation>
     </message>
 </context>
 <context>
@@ -4585,14 +4511,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>Operations::ImageFiles</name>
     <message>
-        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
-        <translation>&apos;%1&apos; lässt sich nicht öffnen: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
-    </message>
-    <message>
-        <source>Cannot read &apos;%1&apos;: it is no whole image of the format of its suffix. Expected .png, .pcx, .bmp or .gif.</source>
-        <translation>&apos;%1&apos; lässt sich nicht lesen: Es ist kein vollständiges Bild im Format seiner Endung. Erwartet: .png, .pcx, .bmp oder .gif.</translation>
-    </message>
-    <message>
         <source>Cannot write &apos;%1&apos;: &apos;%2&apos; is no format of images. Expected .png, .pcx, .bmp or .gif.</source>
         <translation>&apos;%1&apos; lässt sich nicht schreiben: &apos;%2&apos; ist kein Bildformat. Erwartet: .png, .pcx, .bmp oder .gif.</translation>
     </message>
@@ -6476,6 +6394,17 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     </message>
 </context>
 <context>
+    <name>Zorv::ImageTransfer</name>
+    <message>
+        <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>
+        <translation>&apos;%1&apos; kann nicht geöffnet werden: %2. Bitte prüfen, ob die Datei da ist und gelesen werden darf.</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: it is no whole image of the format of its suffix. Expected .png, .pcx, .bmp or .gif.</source>
+        <translation>&apos;%1&apos; kann nicht gelesen werden: Es ist kein ganzes Bild im Format seiner Endung. Erwartet wird .png, .pcx, .bmp oder .gif.</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::OrganizerEditor</name>
     <message>
         <source>Move rows</source>
@@ -7017,6 +6946,17 @@ Ticks: ---</translation>
     </message>
 </context>
 <context>
+    <name>Zorv::SpriteAdding</name>
+    <message>
+        <source>Add sprites</source>
+        <translation>Sprites hinzufügen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; could not be taken up: the picture of %2 by %3 is too large for a sprite, or memory is short.</source>
+        <translation>&apos;%1&apos; konnte nicht übernommen werden: Das Bild von %2 mal %3 ist zu groß für ein Sprite, oder der Speicher ist knapp.</translation>
+    </message>
+</context>
+<context>
     <name>Zorv::SpriteEditor</name>
     <message>
         <source>Not possible</source>
@@ -7130,6 +7070,29 @@ Ticks: ---</translation>
         <source>The sprite on the canvas is not in the file any more, and its picture cannot be saved. Copy the picture, or discard it.</source>
         <translation>Das Sprite auf der Zeichenfläche ist nicht mehr in der Datei, sein Bild kann nicht gespeichert werden. Kopieren oder verwerfen Sie das Bild.</translation>
     </message>
+    <message>
+        <source>Add sprites</source>
+        <translation>Sprites hinzufügen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Do you want to crop %n image(s)?</source>
+        <translation>
+            <numerusform>Soll %n Bild zugeschnitten werden?</numerusform>
+            <numerusform>Sollen %n Bilder zugeschnitten werden?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Change image</source>
+        <translation>Bild ändern</translation>
+    </message>
+    <message>
+        <source>Do you want to crop the image?</source>
+        <translation>Soll das Bild zugeschnitten werden?</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved into the sprite. It is too large for a sprite, or memory is short.</source>
+        <translation>Das Bild konnte nicht ins Sprite gespeichert werden. Es ist zu groß für ein Sprite, oder der Speicher ist knapp.</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::SpriteList</name>
@@ -7173,6 +7136,14 @@ Ticks: ---</translation>
             <numerusform>%n Datei geschrieben.</numerusform>
             <numerusform>%n Dateien geschrieben.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was written without the transparency of the picture: the format has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne die Transparenz des Bildes geschrieben: Das Format hat keinen Platz dafür. PNG behält sie.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was written without what is half transparent in the picture: GIF has no place for it. PNG keeps it.</source>
+        <translation>&apos;%1&apos; wurde ohne das Halbtransparente des Bildes geschrieben: GIF hat keinen Platz dafür. PNG behält es.</translation>
     </message>
 </context>
 <context>

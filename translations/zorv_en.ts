@@ -96,16 +96,6 @@
     </message>
 </context>
 <context>
-    <name>App::SpriteCommands</name>
-    <message numerus="yes">
-        <source>%n image(s) added.</source>
-        <translation>
-            <numerusform>%n image added.</numerusform>
-            <numerusform>%n images added.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>App::SpritePanel</name>
     <message numerus="yes">
         <source>%n sprite(s)</source>
@@ -382,6 +372,16 @@
         <translation>
             <numerusform>%n sound stays as it was:</numerusform>
             <numerusform>%n sounds stay as they were:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SpriteEditor</name>
+    <message numerus="yes">
+        <source>Do you want to crop %n image(s)?</source>
+        <translation>
+            <numerusform>Do you want to crop %n image?</numerusform>
+            <numerusform>Do you want to crop %n images?</numerusform>
         </translation>
     </message>
 </context>

@@ -118,6 +118,7 @@ SpriteEditor::SpriteEditor(QObject* parent)
     }
     d->editorAction->setEnabled(false);
     d->publish();
+    takeDropsOn(d->workspace->widget());
     d->retranslate();
     d->showLayer();
     d->showPosition();

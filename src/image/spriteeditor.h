@@ -4,6 +4,8 @@
 #include "zorv_export.h"
 
 #include <QImage>
+#include <QStringList>
+#include <QVariant>
 #include <QVector>
 
 #include <memory>
@@ -149,6 +151,14 @@ public:
     /// saving, cropping and pasting, ends it, and so does a change of its palette.
     bool isPreviewing() const;
 
+    /// Adds a sprite for each image file, as "spr_add" does with those that are chosen: behind the
+    /// others, as one step of undo, after a question whether what does not show is cut off. Files
+    /// are read on several threads, with progress; what could not be read is told at the end.
+    void addFiles(const QStringList& files);
+
+    /// Image files that are dropped on a widget are added.
+    void takeDropsOn(QWidget* widget);
+
 public slots:
     /// See above. Nothing without a sprite, or without changes.
     void saveImage();
@@ -162,6 +172,10 @@ signals:
     void colorsShown();
 
 protected:
+    /// Gives an identifier for each of the image files that are about to be added, in their order;
+    /// with another number of them the collection numbers its new sprites. Here none.
+    virtual void newIdentifiers(const QStringList& files, QList<QVariant>* identifiers);
+
     /// Asked before the sprite in work is deleted, behind the question of "confirm_delete". False
     /// keeps it: for a host that knows who names it. Here true.
     virtual bool mayDeleteSprite();

@@ -128,6 +128,13 @@ public:
     void selectInList();
     void lendList(bool isLent);
 
+    // spriteeditoradd.cpp
+    void addFiles(const QStringList& files);
+    void addCropped(const QStringList& files, bool isCropped);
+    void setSpriteImage(QImage image, const QPoint& corner);
+    bool storeImage(const QImage& image, const QPoint& corner, const std::function<void()>& store);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     // spriteeditorlayers.cpp
     void connectLayers();
     void followActiveLayer();
@@ -175,6 +182,9 @@ public:
     std::unique_ptr<QMenu> layerMenu;
 
 public slots:
+    void add();
+    void openImg();
+    void saveImgAs();
     void del();
     void duplicate();
     void splitRGB();

@@ -50,9 +50,12 @@ struct Tool
 
 // clang-format off
 const Tool table[] = {
+    {"spr_add",               Action,      105, onFile,    SLOT(add()),               nullptr, stageAreas},
     {"spr_delete",            Action,      123, onSprite,  SLOT(del()),               nullptr},
     {"spr_duplicate",         Action,      128, onSprite,  SLOT(duplicate()),         nullptr},
+    {"spr_openimg",           Action,      124, onSprite,  SLOT(openImg()),           nullptr},
     {"spr_saveimg",           Action,      125, onChange,  SLOT(saveImg()),           nullptr},
+    {"spr_saveimgas",         Action,      126, onSprite,  SLOT(saveImgAs()),         nullptr},
     {"spr_resize",            Action,      134, onCanvas,  SLOT(resize()),            nullptr},
     {"spr_crop",              Action,      127, onCanvas,  SLOT(crop()),              nullptr},
     {"spr_split_channels",    Action,      139, onSprite,  SLOT(splitRGB()),          nullptr},

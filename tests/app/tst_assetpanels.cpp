@@ -2,7 +2,6 @@
 
 #include "app/assets/soundpanel.h"
 #include "app/assets/spritepanel.h"
-#include "app/assets/spritepicture.h"
 #include "app/assets/thumbnailcommands.h"
 #include "app/window/panelplace.h"
 #include "family/assets/soundfile.h"
@@ -53,8 +52,7 @@ bool hasColor(const QWidget* widget, const QColor& color)
 
 }  // namespace
 
-/// Sprites, palettes and sounds of the project in the real window: seen, brought in, taken out,
-/// saved.
+/// Sprites, palettes and sounds of the project in the real window: seen, taken out, saved.
 class TestAssetPanels : public QObject
 {
     Q_OBJECT
@@ -66,11 +64,8 @@ private slots:
     void showsWhatIsInSight();
     void followsTheCursor();
     void thumbnailsAreThoseOfTheProject();
-    void bringsImagesIn();
-    void replacesAnImage_data();
-    void replacesAnImage();
     void readsBehindADialog();
-    void takesImagesAndPalettesOut();
+    void takesPalettesOut();
     void soundsComeAndGo();
     void asksForSpritesThatAreNamedNoMore();
     void asksBeforeSpritesAreLost_data();
@@ -86,7 +81,6 @@ private:
         App::bringForward(list);
         pressIn(list, QKeySequence::Undo);
     }
-    QString image(const QString& name, const QImage& image) const;
 
     struct Open
     {
@@ -120,26 +114,11 @@ void TestAssetPanels::init()
     QTRY_VERIFY(sprites());
 }
 
-QString TestAssetPanels::image(const QString& name, const QImage& image) const
-{
-    const QString path = m->folder.filePath(name);
-    return image.save(path) ? path : QString();
-}
-
 void TestAssetPanels::showsWhatIsInSight()
 {
     Zorv::SpriteList* list = panel()->list();
     QCOMPARE(list->model()->rowCount(), 500);
     QTRY_VERIFY(hasColor(list->viewport(), QColor(0xff, 0, 0)));
-    panel()->setCurrentRow(402);
-    list->scrollTo(list->currentIndex());
-    auto* picture = panel()->findChild<App::SpritePicture*>();
-    QTRY_VERIFY(hasColor(picture, QColor(Colors[1])));
-    // The middle of an even number of pixels lies between two.
-    const QPoint middle = picture->pixelAt(picture->rect().center());
-    QVERIFY(QRect(3, 2, 2, 2).contains(middle));
-    panel()->setCurrentRow(1);
-    QTRY_VERIFY(hasColor(picture, QColor(Colors[2])) && !hasColor(picture, QColor(Colors[1])));
 }
 
 void TestAssetPanels::followsTheCursor()
@@ -163,68 +142,12 @@ void TestAssetPanels::thumbnailsAreThoseOfTheProject()
     QVERIFY(list->isMarked(499));
 }
 
-void TestAssetPanels::bringsImagesIn()
-{
-    // Without numbers in their names they go to the group of the current sprite.
-    m->fixture.dialogs.fileAnswers = {{image("a.png", block(3, {4, 4}))}};
-    trigger("sprite_add");
-    QCOMPARE(sprites()->count(), 501U);
-    QCOMPARE(panel()->currentSprite()->id(), (AssetId{0, 500}));
-    QCOMPARE(panel()->currentSprite()->size(), QSize(4, 4));
-    QTRY_VERIFY(m->fixture.action("save_all")->isEnabled());
-
-    // Named after a sprite that is there: nothing is replaced without leave.
-    const QString named = image("0-7.png", block(2, {5, 5}));
-    for (const auto answer : {Zorv::Dialogs::No, Zorv::Dialogs::Yes}) {
-        m->fixture.dialogs.fileAnswers = {{named}};
-        m->fixture.dialogs.buttonAnswers = {answer};
-        trigger("sprite_add");
-        QCOMPARE(sprites()->sprite(7)->size(),
-                 answer == Zorv::Dialogs::Yes ? QSize(5, 5) : QSize(8, 6));
-    }
-    undo(panel()->list());
-    QCOMPARE(sprites()->sprite(7)->size(), QSize(8, 6));
-    undo(panel()->list());
-    QCOMPARE(sprites()->count(), 500U);
-    QTRY_VERIFY(!m->fixture.action("save_all")->isEnabled());
-
-    m->game.write("broken.png", "no picture");
-    m->fixture.dialogs.fileAnswers = {{m->game.path("broken.png")}};
-    trigger("sprite_add");
-    QCOMPARE(m->fixture.dialogs.count(QStringLiteral("error")), 1);
-    QCOMPARE(sprites()->count(), 500U);
-}
-
-void TestAssetPanels::replacesAnImage_data()
-{
-    columns<int, QRgb, QRgb>("answer", "shown", "other");
-    const QRgb yellow = 0xffffff00;
-    QTest::newRow("palette of the image") << 0 << yellow << Colors[1];
-    QTest::newRow("palette of the sprite") << 1 << Colors[1] << Colors[1];
-    QTest::newRow("colours for all") << 2 << yellow << yellow;
-    QTest::newRow("given up") << -1 << Colors[1] << Colors[1];
-}
-
-void TestAssetPanels::replacesAnImage()
-{
-    const auto [answer, shown, other] = fetched<int, QRgb, QRgb>();
-    QImage yellow = block(1);
-    yellow.setColor(1, 0xffffff00);
-    m->fixture.dialogs.fileAnswers = {{image("yellow.png", yellow)}};
-    m->fixture.dialogs.choiceAnswers = {answer};
-    panel()->setCurrentRow(0);
-    trigger("sprite_replace");
-    QCOMPARE(sprites()->sprite(0)->image().pixel(2, 2), shown);
-    QCOMPARE(sprites()->sprite(3)->image().pixel(2, 2), other);
-}
-
 /// The sprites and palettes of before are gone when the dialog ends.
 void TestAssetPanels::readsBehindADialog()
 {
     const QString colours = m->folder.filePath("colours.act");
     const QVector<QPair<const char*, QString>> work{{"palette_save", colours},
-                                                    {"palette_open", colours},
-                                                    {"sprite_replace", image("b.png", block(3))}};
+                                                    {"palette_open", colours}};
     for (const auto& [action, file] : work) {
         panel()->setCurrentRow(400);
         m->fixture.dialogs.fileAnswers = {{file}};
@@ -237,33 +160,22 @@ void TestAssetPanels::readsBehindADialog()
     }
     QCOMPARE(m->fixture.dialogs.count(QStringLiteral("error")), 0);
     QCOMPARE(m->fixture.dialogs.count(QStringLiteral("choose")), 0);
-    QCOMPARE(sprites()->sprite(400)->image().pixel(2, 2), Colors[3]);
+    const QRgb color = sprites()->sprite(400)->image().pixel(2, 2);
 
     // What cannot be read is told, and what is in memory stays.
     m->game.write("characters/ryn/ryn.sprites", "no sprites");
     QVERIFY(!static_cast<SpriteFile*>(sprites())->reload());
     QCOMPARE(m->fixture.dialogs.count(QStringLiteral("error")), 1);
-    QCOMPARE(sprites()->sprite(400)->image().pixel(2, 2), Colors[3]);
-    QVERIFY(sprites()->isModified());
+    QCOMPARE(sprites()->sprite(400)->image().pixel(2, 2), color);
 }
 
-void TestAssetPanels::takesImagesAndPalettesOut()
+void TestAssetPanels::takesPalettesOut()
 {
     panel()->setCurrentRow(2);
-    const QString single = m->folder.filePath("one.png");
     const QString palette = m->folder.filePath("colours.act");
-    m->fixture.dialogs.fileAnswers = {{single}, {palette}};
-    trigger("sprite_export");
-    QCOMPARE(QImage(single).pixel(1, 1), Colors[3]);
+    m->fixture.dialogs.fileAnswers = {{palette}};
     trigger("palette_save");
     QCOMPARE(QFileInfo(palette).size(), 768);
-
-    panel()->list()->selectAll();
-    const QString folder = m->folder.filePath("all");
-    QVERIFY(QDir().mkpath(folder));
-    m->fixture.dialogs.fileAnswers = {{folder}};
-    trigger("sprite_export");
-    QCOMPARE(QDir(folder).entryList({QStringLiteral("*.png")}).size(), 500);
 
     // What is saved can be loaded: the colours, with the first one transparent.
     panel()->setCurrentRow(0);
@@ -271,15 +183,6 @@ void TestAssetPanels::takesImagesAndPalettesOut()
     m->fixture.dialogs.fileAnswers = {{palette}};
     trigger("palette_open");
     QCOMPARE(sprites()->sprite(0)->shownColors().mid(1, 3), before.mid(1, 3));
-
-    // What the format has no place for is told.
-    const QString bitmap = m->folder.filePath("clear.bmp");
-    m->fixture.dialogs.fileAnswers = {{image("9-0.png", block(0))}, {bitmap}};
-    trigger("sprite_add");
-    trigger("sprite_export");
-    QVERIFY(QFileInfo::exists(bitmap));
-    QCOMPARE(m->fixture.dialogs.texts(QStringLiteral("warning")).size(), 1);
-    QVERIFY(m->fixture.dialogs.texts(QStringLiteral("warning")).first().contains(bitmap));
 }
 
 void TestAssetPanels::soundsComeAndGo()
@@ -325,7 +228,7 @@ void TestAssetPanels::asksForSpritesThatAreNamedNoMore()
     QVERIFY(QFile::copy(m->game.path("characters/ryn/ryn.sprites"),
                         m->game.path("characters/ryn/new.sprites")));
     panel()->setCurrentRow(10);
-    trigger("sprite_remove");
+    pressIn(panel()->list(), Qt::Key_Delete);
     auto* project = App::projectOf(m->fixture.document());
     for (const char* name : {"new.sprites", "ryn.sprites"}) {
         QByteArray text = before;
@@ -351,7 +254,7 @@ void TestAssetPanels::asksBeforeSpritesAreLost()
 {
     const auto [answer, left] = fetched<int, unsigned>();
     panel()->setCurrentRow(10);
-    trigger("sprite_remove");
+    pressIn(panel()->list(), Qt::Key_Delete);
     m->fixture.dialogs.choiceAnswers = {answer};
     trigger("close_project");
     QCOMPARE(m->fixture.dialogs.count(QStringLiteral("choose")), 1);

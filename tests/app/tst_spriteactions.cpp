@@ -10,15 +10,24 @@
 #include "family/assets/spritefile.h"
 #include "support/testtable.h"
 
+#include <zorv/core/dialogs/itemsdlg.h>
 #include <zorv/editors/palette/colorpalette.h>
+#include <zorv/editors/palette/paldlg.h>
 #include <zorv/image/canvas/imagecanvas.h>
 #include <zorv/image/canvas/imagelayer.h>
 #include <zorv/image/imagerenderer.h>
 #include <zorv/image/spriteeditor.h>
+#include <zorv/image/spriteworkspace.h>
+#include <zorv/media/pcx.h>
 #include <zorv/text/zorvtranslator.h>
 
 #include <QAction>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QProgressDialog>
 #include <QRandomGenerator>
+#include <QTimer>
 
 namespace {
 
@@ -48,7 +57,12 @@ class TestSpriteActions : public QObject
 
 private slots:
     void init();
-    void cleanup() { m.reset(); }
+    void cleanup()
+    {
+        m_watch.stop();
+        m_isSeen = false;
+        m.reset();
+    }
 
     void publishesItsTools_data();
     void publishesItsTools();
@@ -58,6 +72,14 @@ private slots:
     void outlivesItsQuestions();
     void followsFrameAndPalette();
     void lendsTheOrganizer();
+    void addsFiles_data();
+    void addsFiles();
+    void addsNothingWhenGivenUp();
+    void takesDroppedFiles();
+    void changesTheImage_data();
+    void changesTheImage();
+    void outlivesTheDialogOfPalettes();
+    void savesImages();
     void canAllBeTakenBack();
 
 private:
@@ -88,6 +110,30 @@ private:
         return readFile(path);
     }
 
+    QString file(const QString& name, const QImage& image) const
+    {
+        const QString path = m_folder->filePath(name);
+        return image.save(path) ? path : QString();
+    }
+
+    /// What is done in the next dialog that opens.
+    template <class Dialog>
+    void inDialog(const std::function<void(Dialog*)>& act)
+    {
+        m_isSeen = false;
+        m_watch.disconnect();
+        connect(&m_watch, &QTimer::timeout, this, [this, act] {
+            if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+                m_watch.stop();
+                m_isSeen = true;
+                act(dialog);
+            }
+        });
+        m_watch.start(5);
+    }
+
+    QTimer m_watch;
+    bool m_isSeen = false;
     std::unique_ptr<TemporaryGame> m_game;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<WindowFixture> m;
@@ -116,7 +162,10 @@ void TestSpriteActions::publishesItsTools_data()
     const auto row = [](const char* name, unsigned text, bool onStage = false) {
         QTest::newRow(name) << text << onStage;
     };
+    row("spr_add", 105, true);
     row("spr_delete", 123);
+    row("spr_openimg", 124);
+    row("spr_saveimgas", 126);
     row("spr_duplicate", 128);
     row("spr_split_channels", 139);
     row("spr_frame_spr", 130, true);
@@ -271,19 +320,277 @@ void TestSpriteActions::lendsTheOrganizer()
     QCOMPARE(organizer->object(), animations);
 }
 
+void TestSpriteActions::addsFiles_data()
+{
+    columns<QStringList, int, QStringList>("files", "answer", "added");
+    const int yes = Dialogs::Yes;
+    const int no = Dialogs::No;
+    QTest::newRow("in order") << QStringList{"b.png", "a.png"} << no << QStringList{"0,3", "0,4"};
+    QTest::newRow("named") << QStringList{"7-3.png", "0-1.png"} << no << QStringList{"0,3", "7,3"};
+    QTest::newRow("cropped") << QStringList{"9-9.png"} << yes << QStringList{"9,9"};
+    QTest::newRow("broken between")
+        << QStringList{"a.png", "broken.png", "c.png"} << no << QStringList{"0,3", "0,5"};
+    QTest::newRow("other forms") << QStringList{"two.png", "true.png", "257.bmp", "grey.pcx"} << no
+                                 << QStringList{"0,3", "0,4", "0,5", "0,6"};
+    QTest::newRow("nothing readable")
+        << QStringList{"broken.png", "gone.png"} << no << QStringList();
+    QTest::newRow("given up") << QStringList{"a.png"} << int(Dialogs::Cancel) << QStringList();
+}
+
+void TestSpriteActions::addsFiles()
+{
+    const auto [files, answer, added] = fetched<QStringList, int, QStringList>();
+    const QByteArray first = written();
+    const QStringList before = names();
+    QImage framed(20, 20, QImage::Format_Indexed8);
+    framed.setColorTable(Colours);
+    framed.fill(0);
+    framed.setPixel(5, 7, 1);
+    framed.setText(QStringLiteral("axis"), QStringLiteral("10,19"));
+    for (const char* name : {"a.png", "b.png", "c.png", "7-3.png", "0-1.png", "9-9.png"}) {
+        QVERIFY(!file(QString::fromLatin1(name), framed).isEmpty());
+    }
+    file("two.png", QImage(3, 3, QImage::Format_Mono));
+    QImage colours(257, 1, QImage::Format_ARGB32);
+    for (int x = 0; x < 257; ++x) {
+        colours.setPixel(x, 0, qRgba(x / 2, 255 - x / 2, x & 1, 100 + x / 2));
+    }
+    file("true.png", colours);
+    file("257.bmp", colours.convertToFormat(QImage::Format_RGB32));
+    QFile grey(m_folder->filePath("grey.pcx"));
+    QVERIFY(grey.open(QIODevice::WriteOnly) && Zorv::savePCX(framed, &grey));
+    grey.close();
+    QVERIFY(QFile::resize(grey.fileName(), QFileInfo(grey).size() - 769));
+    writeFile(m_folder->filePath("broken.png"), "no picture");
+
+    QStringList paths;
+    for (const QString& name : files) {
+        paths.append(m_folder->filePath(name));
+    }
+    show(0);
+    m->dialogs.fileAnswers = {paths};
+    m->dialogs.buttonAnswers = {Dialogs::Button(answer)};
+    trigger("spr_add");
+    QCOMPARE(names(), before + added);
+    const QString folder =
+        m->window->tabs()->currentDocument()->project()->option("spr_path").toString();
+    QCOMPARE(folder, QFileInfo(m_folder->path()).absoluteFilePath());
+    const bool isAnyBroken = files.contains("broken.png");
+    QCOMPARE(m->dialogs.count("warning"), isAnyBroken ? 1 : 0);
+    QCOMPARE(editor()->spriteIndex(), added.isEmpty() ? 0 : int(sprites()->count()) - 1);
+    if (isAnyBroken) {
+        QVERIFY(m->dialogs.texts("warning").first().contains("broken.png"));
+    }
+    if (!added.isEmpty() && files.first() != "two.png") {
+        const Family::FamilySprite* last = sprites()->sprite(int(sprites()->count()) - 1);
+        const bool isCropped = answer == Dialogs::Yes;
+        QCOMPARE(last->size(), isCropped ? QSize(1, 1) : QSize(20, 20));
+        QCOMPARE(last->axis(), isCropped ? QPoint(5, 12) : QPoint(10, 19));
+        QCOMPARE(last->palette(), sprites()->sprite(0)->palette());
+    }
+    if (!added.isEmpty()) {
+        sprites()->undo();
+    }
+    QCOMPARE(written(), first);
+    QVERIFY(!sprites()->canUndo());
+}
+
+void TestSpriteActions::addsNothingWhenGivenUp()
+{
+    const QByteArray first = written();
+    QStringList many;
+    for (int i = 0; i < 40; ++i) {
+        many.append(file(QStringLiteral("%1.png").arg(i), picture(i)));
+    }
+    show(0);
+    QTimer giveUp;
+    connect(&giveUp, &QTimer::timeout, this, [&] {
+        if (auto* progress = m->window->findChild<QProgressDialog*>()) {
+            progress->cancel();
+            m_isSeen = true;
+        }
+    });
+    giveUp.start(0);
+    m->dialogs.buttonAnswers = {Dialogs::No};
+    editor()->addFiles(many);
+    QVERIFY(m_isSeen || sprites()->count() == 44);
+    if (m_isSeen) {
+        QCOMPARE(sprites()->count(), 4U);
+        QCOMPARE(written(), first);
+    }
+}
+
+/// As a file manager drags them, onto the canvas and onto the list.
+void TestSpriteActions::takesDroppedFiles()
+{
+    const QUrl image = QUrl::fromLocalFile(file("8-8 100%.png", picture(1)));
+    QMimeData data;
+    data.setUrls({image, QUrl(QStringLiteral("http://example.org/a.png")),
+                  QUrl::fromLocalFile(m_game->ryn())});
+    QMimeData text;
+    text.setUrls({QUrl::fromLocalFile(m_game->ryn())});
+    show(0);
+    unsigned count = 4;
+    for (QWidget* target :
+         {static_cast<QWidget*>(m->window->spritePanel()), editor()->workspace()->widget()}) {
+        for (QMimeData* dragged : {&text, &data}) {
+            QDragEnterEvent enter({9, 9}, Qt::CopyAction, dragged, Qt::LeftButton, {});
+            enter.setAccepted(false);
+            QCoreApplication::sendEvent(target, &enter);
+            QCOMPARE(enter.isAccepted(), dragged == &data);
+        }
+        QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(target, &drop);
+        m->dialogs.buttonAnswers = {Dialogs::No};
+        ++count;
+        QTRY_COMPARE(sprites()->count(), count);
+    }
+    QCOMPARE(names().mid(4), QStringList({"0,3", "0,4"}));
+}
+
+void TestSpriteActions::changesTheImage_data()
+{
+    columns<int, int, bool, int>("other", "mode", "accepts", "palettes");
+    QTest::newRow("same colours") << 0 << -1 << true << 1;
+    QTest::newRow("other alpha of the first") << 1 << -1 << true << 1;
+    QTest::newRow("its own palette") << 2 << 0 << true << 2;
+    QTest::newRow("adapted") << 2 << 1 << true << 1;
+    QTest::newRow("exchanged") << 2 << 2 << true << 1;
+    QTest::newRow("given up") << 2 << 2 << false << 1;
+    QTest::newRow("true colour") << 3 << -1 << true << 1;
+}
+
+void TestSpriteActions::changesTheImage()
+{
+    const auto [other, mode, accepts, palettes] = fetched<int, int, bool, int>();
+    const QByteArray first = written();
+    QVector<QRgb> colours = Colours;
+    colours[0] = other == 1 ? 0xff000000 : colours[0];
+    colours[1] = other == 2 ? 0xffffff00 : colours[1];
+    QImage image = picture(3).copy(0, 0, 9, 9);
+    image.setColorTable(colours);
+    if (other == 3) {
+        image = image.convertToFormat(QImage::Format_ARGB32);
+    }
+    show(1);
+    m->dialogs.fileAnswers = {{file("new.png", image)}};
+    m->dialogs.buttonAnswers = {Dialogs::No};
+    if (mode >= 0) {
+        inDialog<PalDlg>([mode = mode, accepts = accepts](PalDlg* dialog) {
+            dialog->findChild<QComboBox*>("pal")->setCurrentIndex(mode);
+            accepts ? dialog->accept() : dialog->reject();
+        });
+    }
+    trigger("spr_openimg");
+    QCOMPARE(m_isSeen, mode >= 0);
+    QCOMPARE(sprites()->palettes()->count(), palettes);
+    if (!accepts) {
+        QCOMPARE(written(), first);
+        return;
+    }
+    const QImage stored = sprites()->sprite(1)->image();
+    QCOMPARE(stored.size(), QSize(9, 9));
+    QCOMPARE(canvas()->size(), QSize(9, 9));
+    QCOMPARE(stored.pixelColor(1, 1).rgba(),
+             mode == 1 ? picture(3).pixel(1, 1) : image.pixel(1, 1));
+    QCOMPARE(sprites()->sprite(0)->shownColors().at(1), mode == 2 ? colours[1] : Colours[1]);
+    sprites()->undo();
+    QCOMPARE(written(), first);
+}
+
+/// A sprite without palette has none selected; the file is read anew behind the dialog.
+void TestSpriteActions::outlivesTheDialogOfPalettes()
+{
+    sprites()->sprite(1)->setPalette(nullptr);
+    QImage image = picture(3).copy(0, 0, 5, 5);
+    image.setColor(1, 0xffffff00);
+    show(1);
+    QCOMPARE(qRed(editor()->colors()->color(9)), 9);
+    for (const bool reloads : {true, false}) {
+        m->dialogs.fileAnswers = {{file("new.png", image)}};
+        m->dialogs.buttonAnswers = {Dialogs::No};
+        inDialog<PalDlg>([this, reloads](PalDlg* dialog) {
+            if (reloads) {
+                QVERIFY(dialog->findChild<QAbstractItemView*>()
+                            ->selectionModel()
+                            ->selectedRows()
+                            .isEmpty());
+                static_cast<Family::SpriteFile*>(sprites())->reload();
+            } else {
+                m->dialogs.choiceAnswers = {1};
+                m->action("close_folder")->trigger();
+            }
+            if (dialog->isVisible()) {
+                dialog->accept();
+            }
+        });
+        trigger("spr_openimg");
+        QVERIFY(m_isSeen);
+        QVERIFY(!sprites() || sprites()->sprite(1)->size() == QSize(16, 12));
+    }
+    QVERIFY(!editor()->sprites());
+}
+
+/// One file is asked for by its name; several are called like it, and what is there stays.
+void TestSpriteActions::savesImages()
+{
+    const QString path = m_folder->filePath("out%1.png");
+    for (const bool all : {false, true}) {
+        show(1);
+        m->dialogs.fileAnswers = {{path}};
+        m->dialogs.buttonAnswers = {Dialogs::No};
+        inDialog<ItemsDlg>([all](ItemsDlg* dialog) {
+            if (all) {
+                dialog->findChild<QAbstractItemView*>()->selectAll();
+            }
+            dialog->accept();
+        });
+        if (all) {
+            writeFile(m_folder->filePath("out%1_0-2.png"), "mine");
+        } else {
+            paint();
+        }
+        const QImage shown = canvas()->mergeLayers(nullptr);
+        trigger("spr_saveimgas");
+        QVERIFY(m_isSeen);
+        if (!all) {
+            const QImage saved(path);
+            QCOMPARE(saved.convertToFormat(QImage::Format_ARGB32),
+                     shown.convertToFormat(QImage::Format_ARGB32));
+            QCOMPARE(saved.text("axis"), QStringLiteral("8,11"));
+            continue;
+        }
+        QCOMPARE(readFile(m_folder->filePath("out%1_0-2.png")), QByteArray("mine"));
+        QVERIFY(!QFileInfo::exists(m_folder->filePath("out%1_0-1.png")));
+        m->dialogs.fileAnswers = {{path}};
+        m->dialogs.buttonAnswers = {Dialogs::Yes};
+        inDialog<ItemsDlg>([](ItemsDlg* dialog) {
+            dialog->findChild<QAbstractItemView*>()->selectAll();
+            dialog->accept();
+        });
+        trigger("spr_saveimgas");
+        QCOMPARE(QDir(m_folder->path()).entryList({"out%1_*.png"}).size(), 4);
+    }
+}
+
 /// Whatever is done, in any order, undo leads back to the first bytes.
 void TestSpriteActions::canAllBeTakenBack()
 {
     const QByteArray first = written();
     QRandomGenerator random(18);
     m->host.setOption(QStringLiteral("confirm_delete"), false);
-    const char* const actions[] = {"spr_duplicate", "spr_split_channels", "spr_delete",
-                                   "spr_next",      "spr_saveimg",        "spr_image_fliph"};
+    QImage other = picture(5);
+    other.setColor(2, 0xffffffff);
+    const QString path = file("other.png", other);
+    const char* const actions[] = {"spr_duplicate",  "spr_split_channels", "spr_delete",
+                                   "spr_add",        "spr_next",           "spr_saveimg",
+                                   "spr_image_fliph"};
     show(0);
     for (int i = 0; i < 60; ++i) {
         QCoreApplication::processEvents();
-        QAction* action = m->action(actions[random.bounded(6)]);
+        QAction* action = m->action(actions[random.bounded(7)]);
         m->dialogs.buttonAnswers = {Dialogs::Yes, Dialogs::Yes};
+        m->dialogs.fileAnswers = {{path}};
         if (action->isEnabled()) {
             action->trigger();
         }

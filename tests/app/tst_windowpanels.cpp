@@ -416,7 +416,7 @@ void TestWindowPanels::hasMenusAtThePointer_data()
     row("game", "game", "close_project");
     row("nodes", "nodes", "code_fold_all");
     row("tabs", "tabs", "close_text");
-    row("sprites", "sprites", "sprite_add");
+    row("sprites", "sprites", "spr_add");
 }
 
 /// By the mouse, and by both keys that mean it; of the actions of the window alone.

@@ -10,6 +10,7 @@
 #include "support/release.h"
 
 #include <zorv/media/imagefile.h>
+#include <zorv/media/imagetransfer.h>
 #include <zorv/media/losslessimages.h>
 #include <zorv/media/pcx.h>
 
@@ -192,7 +193,7 @@ void TestSpriteExchange::imageWithoutPalette()
 
     QString error;
     for (const char* format : {"PNG", "BMP", "GIF", "PCX"}) {
-        QByteArray bytes = imageFile(readImage(name, &error), format, name, &error);
+        QByteArray bytes = imageFile(Zorv::readImageFile(name, &error), format, name, &error);
         QBuffer buffer(&bytes);
         buffer.open(QIODevice::ReadOnly);
         QImage other;

@@ -32,12 +32,9 @@ QString filters(FileExtensionType all, FileExtensionType each)
            QLatin1String(Zorv::fileExtension(each));
 }
 
-QString filterOf(MediaKind kind, bool isTarget)
+QString filterOf(MediaKind kind)
 {
     switch (kind) {
-    case MediaKind::Images:
-        return isTarget ? QLatin1String(Zorv::fileExtension(FileExtensionType::ImagesPngFirst))
-                        : filters(FileExtensionType::AllImages, FileExtensionType::ImagesPngFirst);
     case MediaKind::Palettes:
         return filters(FileExtensionType::AllPalettes, FileExtensionType::Palettes);
     case MediaKind::PaletteTarget:
@@ -81,22 +78,21 @@ QString kept(MediaKind kind, const QString& fileName)
 QStringList askForFiles(const QString& title, MediaKind kind)
 {
     const QStringList files =
-        Zorv::getOpenFileNames(nullptr, title, startFolder(kind), filterOf(kind, false));
+        Zorv::getOpenFileNames(nullptr, title, startFolder(kind), filterOf(kind));
     kept(kind, files.value(0));
     return files;
 }
 
 QString askForFile(const QString& title, MediaKind kind)
 {
-    return kept(kind,
-                Zorv::getOpenFileName(nullptr, title, startFolder(kind), filterOf(kind, false)));
+    return kept(kind, Zorv::getOpenFileName(nullptr, title, startFolder(kind), filterOf(kind)));
 }
 
 QString askForTarget(const QString& title, const QString& name, MediaKind kind)
 {
     return kept(kind, Dialogs::instance()->saveFileName(nullptr, title,
                                                         startFolder(kind) + QLatin1Char('/') + name,
-                                                        filterOf(kind, true)));
+                                                        filterOf(kind)));
 }
 
 QString askForFolder(const QString& title, MediaKind kind)

@@ -9,7 +9,7 @@ struct MediaResult;
 namespace App {
 
 /// What a dialog asks files of.
-enum class MediaKind { Images, Palettes, PaletteTarget, Sounds };
+enum class MediaKind { Palettes, PaletteTarget, Sounds };
 
 /// Ask for files to read. The dialog starts where the last one of the kind ended in this
 /// project. Empty if the person gives up.

@@ -1,8 +1,8 @@
 #include "app/assets/spritecommands.h"
 
 #include "app/actions/actionregistry.h"
+#include "app/assets/mediadialogs.h"
 #include "app/assets/spritepanel.h"
-#include "app/assets/transfer.h"
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
 #include "app/window/fieldcommands.h"
@@ -15,9 +15,8 @@
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "operations/check/uses.h"
-#include "operations/media/imagefiles.h"
-#include "operations/media/spriteexport.h"
-#include "operations/media/spriteimport.h"
+#include "operations/media/mediaresult.h"
+#include "operations/media/outputfiles.h"
 
 #include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/code/codedoc/framecode.h>
@@ -25,7 +24,6 @@
 #include <zorv/core/fileinput.h>
 #include <zorv/media/palettefile.h>
 
-#include <QImage>
 #include <algorithm>
 
 namespace App {
@@ -46,10 +44,6 @@ QVector<ActionRow> SpriteCommands::actions()
     const Members<SpriteCommands> on(this);
     // clang-format off
     return {
-        {"sprite_add",     "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Add images..."),      {}, on(&SpriteCommands::addImages),      on(&SpriteCommands::hasFile)},
-        {"sprite_replace", "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Replace image..."),   {}, on(&SpriteCommands::replaceImage),   on(&SpriteCommands::hasSprite)},
-        {"sprite_export",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "&Save images as..."),  {}, on(&SpriteCommands::exportImages),   on(&SpriteCommands::hasSprite)},
-        {"sprite_remove",  "spr.files", QT_TRANSLATE_NOOP("App::Actions", "Re&move sprites"),     {}, on(&SpriteCommands::removeSelected), on(&SpriteCommands::hasSprite)},
         {"palette_open",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Load palette..."),    {}, on(&SpriteCommands::openPalette),    on(&SpriteCommands::hasPalette)},
         {"palette_save",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Save palette as..."), {}, on(&SpriteCommands::savePalette),    on(&SpriteCommands::hasPalette)},
     };
@@ -58,8 +52,7 @@ QVector<ActionRow> SpriteCommands::actions()
 
 void SpriteCommands::actionsMade()
 {
-    for (const char* name : {"sprite_add", "sprite_replace", "sprite_export", "sprite_remove",
-                             "palette_open", "palette_save"}) {
+    for (const char* name : {"spr_add", "palette_open", "palette_save"}) {
         m_panel->list()->addAction(m_services.actions->action(QLatin1String(name)));
     }
 }
@@ -110,11 +103,6 @@ void SpriteCommands::save()
     m_services.parts->gameChanged();
 }
 
-bool SpriteCommands::hasFile() const
-{
-    return m_panel->sprites();
-}
-
 bool SpriteCommands::hasSprite() const
 {
     return m_panel->currentSprite();
@@ -126,89 +114,12 @@ bool SpriteCommands::hasPalette() const
     return sprite && sprite->palette();
 }
 
-void SpriteCommands::addImages()
-{
-    SpriteCollection* sprites = m_panel->sprites();
-    if (!sprites) {
-        return;
-    }
-    const FamilySprite* current = m_panel->currentSprite();
-    const QString title = tr("Add images");
-    const ImportChoice choice =
-        askForImport(title, MediaKind::Images, current ? current->id().group : 0,
-                     [sprites](Family::AssetId id) { return sprites->contains(id); });
-    if (choice.files.isEmpty()) {
-        return;
-    }
-    Operations::ImportRequest request;
-    request.group = choice.group;
-    request.force = choice.force;
-    const unsigned before = sprites->count();
-    const MediaResult result = Operations::importSprites(sprites, choice.files, request);
-    tellResult(title, tr("%n image(s) added.", nullptr, result.done), result);
-    if (sprites->count() > before) {
-        m_panel->setCurrentRow(int(sprites->count()) - 1);
-    }
-}
-
 /// The sprite that was the current one before a dialog; null if it is another one now. The file can
 /// be read again behind a dialog: sprites and palettes from before it are gone then.
 FamilySprite* SpriteCommands::stillCurrent(int row, Family::AssetId id) const
 {
     FamilySprite* sprite = m_panel->currentSprite();
     return sprite && m_panel->currentRow() == row && sprite->id() == id ? sprite : nullptr;
-}
-
-int SpriteCommands::chosenMode(const QImage& image, const FamilySprite* sprite) const
-{
-    if (!sprite->palette() ||
-        Family::colorsOfTable(image.colorTable()) == Family::colorsOfTable(sprite->shownColors())) {
-        return Zorv::Sprite::ImagePalette;
-    }
-    const QStringList modes{tr("The image's palette, added if it is not there yet"),
-                            tr("The sprite's palette: the image is adapted to it"),
-                            tr("The sprite's palette takes the colours of the image")};
-    return Dialogs::instance()->choose(
-               tr("Replace image"), tr("The image has other colours than the sprite."), modes, 0) +
-           Zorv::Sprite::ImagePalette;
-}
-
-void SpriteCommands::replaceImage()
-{
-    FamilySprite* sprite = m_panel->currentSprite();
-    const int row = m_panel->currentRow();
-    const Family::AssetId id = sprite ? sprite->id() : Family::AssetId();
-    const QString title = tr("Replace image");
-    const QString file = sprite ? askForFile(title, MediaKind::Images) : QString();
-    if (file.isEmpty()) {
-        return;
-    }
-    QString error;
-    const QImage image = Operations::readImage(file, &error);
-    if (image.isNull()) {
-        Dialogs::instance()->error(title, error);
-        return;
-    }
-    sprite = stillCurrent(row, id);
-    const int mode = sprite ? chosenMode(image, sprite) : -1;
-    sprite = stillCurrent(row, id);
-    if (sprite && mode >= Zorv::Sprite::ImagePalette) {
-        m_panel->sprites()->beginChange(title);
-        sprite->setImage(image, false, mode, sprite->palette());
-        m_panel->sprites()->endChange();
-    }
-}
-
-void SpriteCommands::exportImages()
-{
-    const SpriteCollection* sprites = m_panel->sprites();
-    const QVector<Family::AssetId> ids = m_panel->selectedIds();
-    if (!ids.isEmpty()) {
-        exportSelected(tr("Save images as"), MediaKind::Images, ids, QStringLiteral(".png"),
-                       [sprites](const auto& selection, const auto& request) {
-                           return Operations::exportSprites(*sprites, selection, request);
-                       });
-    }
 }
 
 void SpriteCommands::removeSelected()

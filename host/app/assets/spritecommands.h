@@ -4,8 +4,6 @@
 
 #include <QObject>
 
-class QImage;
-
 namespace Family {
 struct AssetId;
 class FamilySprite;
@@ -16,9 +14,9 @@ namespace App {
 class SpritePanel;
 struct WindowServices;
 
-/// The panel of the sprites of the project in front, and what can be done with them and their
-/// palettes: images and palettes come in and go out. Each change is one step of the collection's
-/// undo.
+/// The panel of the sprites of the project in front: several can be removed, and palettes come in
+/// and go out. Each change is one step of the collection's undo. What is done to one sprite is the
+/// business of its editor.
 class SpriteCommands : public QObject, public Part
 {
     Q_OBJECT
@@ -38,19 +36,14 @@ public:
     QVector<PanelPlace> places() override;
 
 private:
-    bool hasFile() const;
     bool hasSprite() const;
     bool hasPalette() const;
     bool canSave() const;
     void save();
-    void addImages();
-    void replaceImage();
-    void exportImages();
     void removeSelected();
     void openPalette();
     void savePalette();
     Family::FamilySprite* stillCurrent(int row, Family::AssetId id) const;
-    int chosenMode(const QImage& image, const Family::FamilySprite* sprite) const;
 
     const WindowServices& m_services;
     SpritePanel* m_panel;

@@ -1,7 +1,6 @@
 #include "app/assets/spritepanel.h"
 
 #include "app/assets/palettegrid.h"
-#include "app/assets/spritepicture.h"
 #include "app/look/language.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/spritecollection.h"
@@ -21,8 +20,7 @@ using Family::SpriteCollection;
 using Zorv::SpriteList;
 
 SpritePanel::SpritePanel(QWidget* parent)
-    : QWidget(parent), m_list(new SpriteList), m_picture(new SpritePicture),
-      m_palette(new PaletteGrid), m_text(new QLabel)
+    : QWidget(parent), m_list(new SpriteList), m_palette(new PaletteGrid), m_text(new QLabel)
 {
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -30,7 +28,6 @@ SpritePanel::SpritePanel(QWidget* parent)
     auto* column = new QVBoxLayout(selected);
     column->setContentsMargins({});
     column->addWidget(m_text);
-    column->addWidget(m_picture, 1);
     column->addWidget(m_palette);
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->addWidget(m_list);
@@ -133,9 +130,6 @@ void SpritePanel::showColour(int group, int number, int entry)
 void SpritePanel::updateCurrent()
 {
     const FamilySprite* sprite = currentSprite();
-    const QImage image = sprite ? sprite->image() : QImage();
-    m_picture->setSprite(image, sprite ? sprite->axis() : QPoint(),
-                         sprite && !sprite->fault().isEmpty());
     const Zorv::Palette* palette = sprite ? sprite->palette() : nullptr;
     Zorv::RGBA colors[256] = {};
     if (palette) {
@@ -162,8 +156,11 @@ QString SpritePanel::currentText() const
     if (const Zorv::Palette* palette = sprite->palette()) {
         text += tr(", palette %1").arg(palette->property(QStringLiteral("Identifier")).toString());
     }
-    const QString codec = sprite->property(QStringLiteral("Codec")).toString();
-    return codec.isEmpty() ? text : text + QLatin1String(", ") + codec;
+    for (const QString& more :
+         {sprite->property(QStringLiteral("Codec")).toString(), sprite->fault()}) {
+        text += more.isEmpty() ? more : QLatin1String(", ") + more;
+    }
+    return text;
 }
 
 }  // namespace App

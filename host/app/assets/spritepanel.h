@@ -19,9 +19,9 @@ class SpriteList;
 namespace App {
 
 class PaletteGrid;
-class SpritePicture;
 
-/// The sprites of the project in front: a list, and the selected one with its palette.
+/// The sprites of the project in front: a list, and what is to be known of the selected one, with
+/// its palette.
 class SpritePanel : public QWidget
 {
     Q_OBJECT
@@ -66,7 +66,6 @@ private:
 
     QPointer<Family::SpriteCollection> m_sprites;
     Zorv::SpriteList* m_list;
-    SpritePicture* m_picture;
     PaletteGrid* m_palette;
     QLabel* m_text;
 };

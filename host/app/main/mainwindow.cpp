@@ -270,6 +270,7 @@ void MainWindow::connectParts()
             &MessagePanel::showMessageOfLine);
     connect(m_services.status, &StatusFields::problemsClicked, m_messagePanel,
             &MessagePanel::comeForward);
+    m_paint->editor()->takeDropsOn(m_sprites->panel());
     connect(m_stage, &StageCommands::colourPicked, m_sprites->panel(), &SpritePanel::showColour);
     connect(m_sprites->panel(), &SpritePanel::spriteActivated, m_paint,
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });

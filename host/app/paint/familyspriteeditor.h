@@ -6,7 +6,8 @@
 
 namespace App {
 
-/// The library's editor of sprites for those of the family: who names a sprite is asked about
+/// The library's editor of sprites for those of the family: new ones are numbered as the names of
+/// their files tell, else within the group that is worked on, and who names a sprite is asked about
 /// before it goes.
 class FamilySpriteEditor : public Zorv::SpriteEditor
 {
@@ -16,6 +17,7 @@ public:
     explicit FamilySpriteEditor(const RemovalCheck& mayRemove, QObject* parent = nullptr);
 
 protected:
+    void newIdentifiers(const QStringList& files, QList<QVariant>* identifiers) override;
     bool mayDeleteSprite() override;
 
 private:

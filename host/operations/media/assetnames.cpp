@@ -96,7 +96,8 @@ QVector<ImportTarget> importTargets(const QStringList& files, int group,
     return targets;
 }
 
-QVector<AssetId> newIds(const QStringList& files, const std::function<AssetId(AssetId)>& freeId)
+QVector<AssetId> newIds(const QStringList& files, const std::function<AssetId(AssetId)>& freeId,
+                        AssetId first)
 {
     QVector<AssetId> ids(files.size());
     QSet<quint32> given;
@@ -118,7 +119,7 @@ QVector<AssetId> newIds(const QStringList& files, const std::function<AssetId(As
         }
     }
     for (const int i : qAsConst(nameless)) {
-        give(i, {});
+        give(i, first);
     }
     return ids;
 }

@@ -37,9 +37,10 @@ QVector<ImportTarget> importTargets(const QStringList& files, int group,
                                     QString* error);
 
 /// An identifier for each file that is about to be added, each another one: what its name tells, or
-/// the next one that is free; for a name that tells none the first that is. `freeId` gives the free
-/// one at an identifier or behind it.
+/// the next one that is free; for a name that tells none the first that is, from `first` on.
+/// `freeId` gives the free one at an identifier or behind it.
 QVector<Family::AssetId> newIds(const QStringList& files,
-                                const std::function<Family::AssetId(Family::AssetId)>& freeId);
+                                const std::function<Family::AssetId(Family::AssetId)>& freeId,
+                                Family::AssetId first = {});
 
 }  // namespace Operations

@@ -4,6 +4,7 @@
 #include "operations/media/jobs.h"
 
 #include <zorv/media/colorconversion.h>
+#include <zorv/media/imagetransfer.h>
 #include <zorv/media/tools/colorquantizer.h>
 #include <zorv/media/tools/cropimage.h>
 #include <zorv/media/tools/resizeimage.h>
@@ -31,7 +32,7 @@ Outcome editFile(const QString& fileName, const ImageEdit& edit, const OutputFil
 {
     Outcome outcome;
     outcome.error = outputs.make(index, [&](QString* error) {
-        const QImage image = readImage(fileName, error);
+        const QImage image = Zorv::readImageFile(fileName, error);
         const QImage edited = image.isNull() ? image : edit(image, error);
         if (edited.isNull()) {
             *error = image.isNull() ? *error : QStringLiteral("'%1': %2").arg(fileName, *error);
@@ -154,7 +155,7 @@ QVector<Zorv::RGBA> commonPalette(const QStringList& files, int colors, MediaRes
     const auto prepare = [&](int i) -> std::function<Read()> {
         return [file = files[i]] {
             Read read;
-            read.image = readImage(file, &read.error);
+            read.image = Zorv::readImageFile(file, &read.error);
             return read;
         };
     };

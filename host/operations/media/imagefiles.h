@@ -10,10 +10,6 @@ namespace Operations {
 
 class OutputFiles;
 
-/// Reads an image file, of the format of its suffix. An indexed image without colours gets shades
-/// of grey. Null, with `error` for the person, if it cannot be read. Re-entrant.
-QImage readImage(const QString& fileName, QString* error);
-
 /// The bytes of an image file. GIF takes the nearest 256 colours of an image that has more, and one
 /// transparent index for several. Empty, with `error`, for a format that images are not written in,
 /// or that has no place for the image; `name` is what the message calls it. Re-entrant.

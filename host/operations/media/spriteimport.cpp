@@ -2,10 +2,10 @@
 
 #include "family/assets/spritecollection.h"
 #include "operations/media/assetnames.h"
-#include "operations/media/imagefiles.h"
 #include "operations/media/jobs.h"
 #include "operations/media/spriteexport.h"
 
+#include <zorv/media/imagetransfer.h>
 #include <zorv/media/tools/cropimage.h>
 
 #include <QCoreApplication>
@@ -67,7 +67,7 @@ private:
 ImportImage readCropped(const QString& file, bool crops)
 {
     ImportImage read;
-    read.image = readImage(file, &read.error);
+    read.image = Zorv::readImageFile(file, &read.error);
     if (crops && !read.image.isNull()) {
         Zorv::cropImage(read.image, &read.corner);
     }

@@ -2,7 +2,6 @@
 
 #include "animation/animationeditor.h"
 #include "animation/thumbnails/spritelist.h"
-#include "animation/thumbnails/spritesave_p.h"
 #include "animation/thumbnails/spriteuses.h"
 #include "cache/sprites.h"
 #include "code/codedoc/animations.h"
@@ -11,6 +10,7 @@
 #include "core/project.h"
 #include "editors/framework/ownwidgetcontrol.h"
 #include "editors/framework/toolbuttoncontrol.h"
+#include "image/spritesave_p.h"
 #include "text/zorvtranslator.h"
 
 #include <QAction>
@@ -23,6 +23,7 @@ namespace Zorv {
 namespace {
 
 constexpr unsigned PanelText = 166;
+constexpr unsigned SaveText = 171;
 
 const char* const areas[] = {"anim", nullptr};
 const char* const listAreas[] = {"all", nullptr};
@@ -265,7 +266,9 @@ void ThumbnailsEditor::newWithAll()
 void ThumbnailsEditor::saveSelected()
 {
     if (d->list && d->list->sprites()) {
-        SpriteSave(d->list->sprites(), d->list->selectedRows(), d->project).run();
+        SpriteSave(d->list->sprites(), d->list->selectedRows(), d->project,
+                   {ZorvTranslator::instance()->trText(SaveText), SpriteSave::IntoFolder})
+            .run();
     }
 }
 

@@ -18,19 +18,22 @@ class Text
 
 }  // namespace
 
+QString shortList(const QStringList& lines)
+{
+    QStringList shown = lines.mid(0, ToldErrors);
+    if (lines.size() > ToldErrors) {
+        shown.append(Text::tr("... and %1 more.").arg(lines.size() - ToldErrors));
+    }
+    return shown.join(QLatin1Char('\n'));
+}
+
 void tellFailures(const QString& title, const QStringList& errors, const QString& last)
 {
-    if (errors.isEmpty()) {
-        return;
+    if (!errors.isEmpty()) {
+        const QString lines = shortList(errors);
+        Dialogs::instance()->error(title,
+                                   last.isEmpty() ? lines : lines + QLatin1Char('\n') + last);
     }
-    QStringList lines = errors.mid(0, ToldErrors);
-    if (errors.size() > ToldErrors) {
-        lines.append(Text::tr("... and %1 more.").arg(errors.size() - ToldErrors));
-    }
-    if (!last.isEmpty()) {
-        lines.append(last);
-    }
-    Dialogs::instance()->error(title, lines.join(QLatin1Char('\n')));
 }
 
 }  // namespace Zorv

@@ -1,0 +1,257 @@
+#include "cache/palette.h"
+#include "cache/palettes.h"
+#include "cache/sprite.h"
+#include "cache/sprites.h"
+#include "core/dialogs/dialogs.h"
+#include "core/dialogs/failures_p.h"
+#include "core/dialogs/itemsdialog.h"
+#include "core/interface.h"
+#include "core/project.h"
+#include "editors/palette/paldlg.h"
+#include "image/canvas/imagecanvas.h"
+#include "image/imagefilelists_p.h"
+#include "image/spriteadding_p.h"
+#include "image/spriteeditor_p.h"
+#include "image/spritesave_p.h"
+#include "text/zorvtranslator.h"
+
+#include <QDropEvent>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace Zorv {
+
+namespace {
+
+constexpr unsigned SaveText = 126;
+constexpr unsigned LeftOutTitle = 2;
+constexpr int ColorCount = 256;
+
+/// Entries that an image lacks are opaque black. Alpha of entry 0, which formats treat differently,
+/// is ignored.
+bool hasColorsOf(const QImage& image, const Palette* palette, QVector<QRgb>* table)
+{
+    RGBA entries[ColorCount];
+    std::fill(std::begin(entries), std::end(entries), RGBA{0, 0, 0, 255});
+    palette->toPalette(entries);
+    const QVector<QRgb> colors = image.colorTable();
+    for (int i = 0; i < ColorCount; ++i) {
+        const RGBA& entry = entries[i];
+        table->append(qRgba(entry.r, entry.g, entry.b, entry.a));
+        const QRgb color = colors.value(i, qRgb(0, 0, 0));
+        const QRgb differing = color ^ table->last();
+        if ((i > 0 ? differing : differing & RGB_MASK) != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+Dialogs::Button ask(const QString& title, const QString& text, Dialogs::Buttons buttons)
+{
+    return Dialogs::instance()->question(title, text, buttons, Dialogs::No);
+}
+
+}  // namespace
+
+void SpriteEditorPrivate::add()
+{
+    const QPointer<Sprites> before = sprites;
+    if (!before) {
+        return;
+    }
+    const QStringList files = getOpenFileNames(nullptr, SpriteEditor::tr("Add sprites"),
+                                               imageFolder(before->project()), imageFilter());
+    if (files.isEmpty() || !before || before != sprites) {
+        return;
+    }
+    keepImageFolder(before->project(), QFileInfo(files.first()).absolutePath());
+    addFiles(files);
+}
+
+void SpriteEditorPrivate::addFiles(const QStringList& files)
+{
+    const QPointer<Sprites> before = sprites;
+    if (files.isEmpty() || !before) {
+        return;
+    }
+    const Dialogs::Button answer =
+        ask(SpriteEditor::tr("Add sprites"),
+            SpriteEditor::tr("Do you want to crop %n image(s)?", nullptr, files.size()),
+            Dialogs::Yes | Dialogs::No | Dialogs::Cancel);
+    if (answer == Dialogs::Cancel || !before || before != sprites) {
+        return;
+    }
+    addCropped(files, answer == Dialogs::Yes);
+}
+
+void SpriteEditorPrivate::addCropped(const QStringList& files, bool isCropped)
+{
+    const QPointer<Sprites> target = sprites;
+    const unsigned count = target->count();
+    QList<QVariant> identifiers;
+    editor->newIdentifiers(files, &identifiers);
+    SpriteAdding adding(target, files, identifiers);
+    adding.run(isCropped);
+    const bool isSame = target && target == sprites;
+    if (isSame && target->count() > count) {
+        host->activateEditor(editor);
+        selPosChanged(int(target->count()) - 1);
+    }
+    if (!adding.errors().isEmpty()) {
+        Dialogs::instance()->warning(host->text(LeftOutTitle), shortList(adding.errors()));
+    }
+}
+
+void SpriteEditorPrivate::openImg()
+{
+    if (!sprite()) {
+        return;
+    }
+    const std::function<bool()> isThere = stillThere();
+    if (!mayLeave() || !isThere()) {
+        return;
+    }
+    const QString title = SpriteEditor::tr("Change image");
+    const QString file =
+        getOpenFileName(nullptr, title, imageFolder(sprites->project()), imageFilter());
+    if (file.isEmpty() || !isThere()) {
+        return;
+    }
+    keepImageFolder(sprites->project(), QFileInfo(file).absolutePath());
+    ImageRead read = loadNonCroppedImage(file);
+    if (read.image.isNull()) {
+        Dialogs::instance()->warning(host->text(LeftOutTitle), read.error);
+        return;
+    }
+    if (ask(title, SpriteEditor::tr("Do you want to crop the image?"),
+            Dialogs::Yes | Dialogs::No) == Dialogs::Yes) {
+        read = loadCroppedImage(file);
+    }
+    if (isThere() && !read.image.isNull()) {
+        setSpriteImage(read.image, read.corner);
+    }
+}
+
+/// An image of other colours than the sprite's palette asks what is to become of them; one of true
+/// colour has none to be kept.
+void SpriteEditorPrivate::setSpriteImage(QImage image, const QPoint& corner)
+{
+    Sprite* now = sprite();
+    if (!now) {
+        return;
+    }
+    const Palette* palette = now->palette();
+    QVector<QRgb> table;
+    const bool isIndexed = image.format() == QImage::Format_Indexed8;
+    const bool isSame = isIndexed && palette && hasColorsOf(image, palette, &table);
+    if (!isIndexed || isSame) {
+        if (isSame) {
+            image.setColorTable(table);
+        }
+        storeImage(image, corner, [&] { sprite()->setImage(image); });
+        return;
+    }
+    const std::function<bool()> isThere = stillThere();
+    PalDlg dialog(host->mainWindow(), sprites->palettes(), palette ? int(palette->index()) : -1);
+    // Rows of a list that was read anew are others.
+    connect(sprites->palettes(), &QAbstractItemModel::modelReset, &dialog, &QDialog::reject);
+    if (dialog.exec() == QDialog::Accepted && isThere()) {
+        const PalDlg::Info info = dialog.getInfo();
+        storeImage(image, corner, [&] {
+            sprite()->setImage(image, info.isReversed, info.mode,
+                               sprites->palettes()->palette(info.row));
+        });
+    }
+}
+
+/// The axis stays where it is in the picture when that was cropped. One step of undo.
+bool SpriteEditorPrivate::storeImage(const QImage& image, const QPoint& corner,
+                                     const std::function<void()>& store)
+{
+    {
+        const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
+        const QPoint axis = sprite()->axis() - corner;
+        sprites->beginChange(SpriteEditor::tr("Change image"));
+        store();
+        if (!corner.isNull()) {
+            sprite()->setProperty(QStringLiteral("Axis"), axis);
+        }
+        sprites->endChange();
+    }
+    const bool isStored = sprite() && sprite()->size() == image.size();
+    show(row);
+    if (!isStored) {
+        tellRefusal(SpriteEditor::tr("The picture could not be saved into the sprite. It is too "
+                                     "large for a sprite, or memory is short."));
+    }
+    return isStored;
+}
+
+/// What is on the canvas is saved with the others.
+void SpriteEditorPrivate::saveImgAs()
+{
+    if (!sprite()) {
+        return;
+    }
+    QString title = ZorvTranslator::instance()->trText(SaveText);
+    title.remove(QLatin1String("..."));
+    const QPointer<Sprites> before = sprites;
+    QVector<int> rows{row};
+    if (before->count() > 1) {
+        const std::unique_ptr<ItemsDialog> dialog(
+            host->itemsDialog(host->mainWindow(), title, before, row));
+        const auto closing = connect(before, &Sprites::closing, dialog.get(), [&dialog] {
+            dialog->release();
+            dialog->reject();
+        });
+        const bool isAccepted = dialog->exec() == QDialog::Accepted;
+        disconnect(closing);
+        rows = isAccepted ? dialog->selected().toVector() : QVector<int>();
+        if (before) {
+            dialog->release();
+        }
+    }
+    if (rows.isEmpty() || !before || before != sprites) {
+        return;
+    }
+    saveImg();
+    SpriteSave(before, rows, before->project(), {title, SpriteSave::LikeOneFile}).run();
+}
+
+void SpriteEditor::newIdentifiers(const QStringList&, QList<QVariant>*) {}
+
+void SpriteEditor::addFiles(const QStringList& files)
+{
+    d->addFiles(files);
+}
+
+void SpriteEditor::takeDropsOn(QWidget* widget)
+{
+    widget->setAcceptDrops(true);
+    widget->installEventFilter(d.get());
+}
+
+/// Whoever drags waits until the drop is over, so the questions come behind it.
+bool SpriteEditorPrivate::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isDrop = event->type() == QEvent::Drop;
+    if (!isDrop && event->type() != QEvent::DragEnter) {
+        return QObject::eventFilter(watched, event);
+    }
+    auto* drop = static_cast<QDropEvent*>(event);
+    const QStringList files = sprites ? draggedImages(drop->mimeData()) : QStringList();
+    if (files.isEmpty()) {
+        return QObject::eventFilter(watched, event);
+    }
+    drop->setDropAction(Qt::CopyAction);
+    drop->accept();
+    if (isDrop) {
+        QMetaObject::invokeMethod(
+            this, [this, files] { addFiles(files); }, Qt::QueuedConnection);
+    }
+    return true;
+}
+
+}  // namespace Zorv
