@@ -25,7 +25,7 @@ configure_file(cmake/zorv.pc.in ${CMAKE_BINARY_DIR}/zorv.pc @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/zorv.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
 if(ZORV_HOST)
-    install(TARGETS zorv_program RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(TARGETS zorv_program zorv_player RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 endif()
 install(FILES host/cli/zorv.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})

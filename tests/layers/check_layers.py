@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Reads the includes of src/ and host/ and complains of those against the order of the layers.
+"""Reads the includes of src/, host/ and player/ and complains of those against the order of the layers.
 
 usage: check_layers.py ROOT QTWIDGETS_INCLUDE_DIR
 
@@ -36,7 +36,10 @@ LAYERS = {
     "src/graphics/graphicwork/": 7,
     "src/animation/": 8,
     "src/editors/sound/": 8,
-    "host/family/": 20,
+    "host/family/": 19,
+    "player/rules/": 20,
+    "player/script/": 21,
+    "player/main.cpp": 22,
     "host/operations/": 21,
     "host/cli/": 22,
     "host/app/look/": 23,
@@ -67,7 +70,7 @@ LAYERS = {
 SUBJECTS = 26
 
 # Where the compiler looks for an include, after the folder of the file itself.
-INCLUDE_FOLDERS = ["src", "host", ""]
+INCLUDE_FOLDERS = ["src", "host", "player", ""]
 
 # Meant includes of a higher layer: (file, included file) and the reason.
 EXCEPTIONS = {
@@ -79,7 +82,8 @@ EXCEPTIONS = {
 # all files of the command line and of what it shares with the window.
 WIDGET_FREE_HEADERS = ["src/text/", "src/core/", "src/code/", "src/cache/", "src/media/"]
 WIDGET_HEADERS_ALLOWED = ["src/core/dialogs/"]
-WIDGET_FREE_FILES = ["host/family/", "host/operations/", "host/cli/"]
+WIDGET_FREE_FILES = ["host/family/", "host/operations/", "host/cli/", "player/rules/",
+                     "player/script/"]
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"]+)[>"]', re.MULTILINE)
 
@@ -94,7 +98,7 @@ class Tree:
         self.used_exceptions = set()
         self.faults = []
         self.includes = {}
-        for top in ("src", "host"):
+        for top in ("src", "host", "player"):
             for path in sorted((self.root / top).rglob("*")):
                 if path.suffix in (".h", ".cpp"):
                     self.read(path)
@@ -189,7 +193,7 @@ def check_widgets(tree, name):
 
 
 def check_private(tree, name):
-    if not name.startswith("host/"):
+    if name.startswith("src/"):
         return
     for line, included in tree.includes[name]:
         target = tree.resolve(name, included) or ""
@@ -204,7 +208,7 @@ def check_spelling(tree, name):
         if not target:
             continue
         top, path = target.split("/", 1)
-        wanted = f"zorv/{path}" if top == "src" and name.startswith("host/") else path
+        wanted = f"zorv/{path}" if top == "src" and not name.startswith("src/") else path
         if included != wanted:
             tree.fault(name, line, f"includes {included}, which is written {wanted} here")
 

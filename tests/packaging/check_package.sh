@@ -20,6 +20,7 @@ fail() {
 
 # What must be there, and what must not.
 for file in include/zorv/zorv.h include/zorv/code/codedoc/codedocument.h bin/zorv \
+    bin/zorv-player \
     share/man/man1/zorv.1 share/doc/zorv/LICENSE share/zorv/samples/README.md \
     share/zorv/snippets/Attack.xml; do
     [ -f "$prefix/$file" ] || fail "$file is not installed"
@@ -66,6 +67,11 @@ check_program "$work/by-pkgconfig/settings"
 mv "$prefix" "$work/moved"
 env -u LD_LIBRARY_PATH "$work/moved/bin/zorv" check "$work/moved/share/zorv/samples/arena" ||
     fail "the installed program does not work"
+
+printf '60 F B\n' >"$work/script.txt"
+env -u LD_LIBRARY_PATH "$work/moved/bin/zorv-player" "$work/moved/share/zorv/samples/arena" \
+    --script "$work/script.txt" --json >"$work/ticks.json" || fail "the installed player does not work"
+[ "$(wc -l <"$work/ticks.json")" -eq 60 ] || fail "the installed player plays other ticks"
 
 # The guide shows parts of the example: each of them has to stand in it.
 awk -v RS='```' 'NR % 2 == 0 && sub(/^cpp\n/, "")' "$source/docs/host-guide.md" |

@@ -132,7 +132,7 @@ const KeyInfo bodyKeys[] = {
 };
 
 const KeyInfo commandsKeys[] = {
-    with(key("", Form::Motion, QT_TRANSLATE_NOOP("Grammar", "The motion of a command")),
+    with(key("", Form::MotionText, QT_TRANSLATE_NOOP("Grammar", "The motion of a command")),
          KeyInfo::Free | repeatable),
 };
 

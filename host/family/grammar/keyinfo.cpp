@@ -19,7 +19,7 @@ struct FormRow
 
 constexpr FormRow formRows[] = {
     {Form::Text, ValueCode::Text, 1, QT_TRANSLATE_NOOP("Family", "a text in double quotes")},
-    {Form::Motion, ValueCode::Text, 1,
+    {Form::MotionText, ValueCode::Text, 1,
      QT_TRANSLATE_NOOP("Family", "a motion in double quotes, such as \"D, DF, F, L\"")},
     {Form::Path, ValueCode::Text, 1,
      QT_TRANSLATE_NOOP("Family", "the path of a file in double quotes")},

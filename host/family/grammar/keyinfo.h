@@ -10,7 +10,7 @@ namespace Family {
 /// How a value is written.
 enum class Form : unsigned char {
     Text,           ///< in quotes
-    Motion,         ///< in quotes, as `readMotion()` takes it
+    MotionText,     ///< in quotes, as `readMotion()` takes it
     Path,           ///< in quotes, a file
     Name,           ///< a word or number without quotes
     AnimationName,  ///< the identifier of an animation

@@ -187,7 +187,7 @@ bool ValueReader::readSingle(const KeyInfo& key, QVariant* value)
         *value = text;
         return fine;
     }
-    case Form::Motion:
+    case Form::MotionText:
         return readMotionText(value);
     case Form::Path:
         return readPath(value);

@@ -15,7 +15,7 @@ namespace {
 
 bool isQuoted(Form form)
 {
-    return form == Form::Text || form == Form::Motion || form == Form::Path;
+    return form == Form::Text || form == Form::MotionText || form == Form::Path;
 }
 
 /// The numbers of a value, whichever type it has.
@@ -117,7 +117,7 @@ QStringList elementTexts(const KeyInfo& key, const QVariant& value)
 {
     switch (key.form) {
     case Form::Text:
-    case Form::Motion:
+    case Form::MotionText:
     case Form::Path:
         return {quotedText(value.toString())};
     case Form::Name:

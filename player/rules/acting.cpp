@@ -1,0 +1,423 @@
+#include "rules/bout.h"
+
+namespace Rules {
+
+using Family::AnimationRole;
+using Family::MotionStep;
+
+namespace {
+
+constexpr int LyingTicks = 24;
+constexpr int DizzyTicks = 40;
+
+/// Ticks for which a move gives way to one with more buttons.
+constexpr int YieldTicks = 3;
+
+/// How near an opponent is guarded against before it hits.
+constexpr Fixed GuardDistance = 120 * One;
+
+/// True at the end of a pass, and for a frame that stays.
+bool goOnWithAnimation(Bout& bout, int index)
+{
+    FighterState& own = bout.fighter(index);
+    const Frame* frame = frameOf(bout, index);
+    if (!frame || frame->data.delay <= 0) {
+        return true;
+    }
+    if (++own.frameTick < frame->data.delay) {
+        return false;
+    }
+    own.frame = frame->next;
+    own.frameTick = 0;
+    // A frame that stays is reached in the tick in which the pass is over.
+    return frame->isLastShown || frameOf(bout, index)->data.delay <= 0;
+}
+
+void leaveFloor(Bout& bout, int index)
+{
+    static constexpr AnimationRole shown[] = {AnimationRole::Jump, AnimationRole::JumpForward,
+                                              AnimationRole::JumpBack};
+    FighterState& own = bout.fighter(index);
+    const FighterData& data = bout.data(index);
+    own.isInAir = 1;
+    own.velocityX = own.facing * data.jumpX[own.jump];
+    own.velocityY = data.jumpY[own.jump];
+    bout.enter(index, Action::Air);
+    bout.showRole(index, shown[own.jump]);
+}
+
+void lie(Bout& bout, int index)
+{
+    const bool isOut = bout.fighter(index).life == 0;
+    bout.enter(index, Action::Lying);
+    bout.showRole(index, isOut ? AnimationRole::KnockedOut : AnimationRole::Lying);
+}
+
+void goOnFalling(Bout& bout, int index)
+{
+    FighterState& own = bout.fighter(index);
+    own.stun -= own.stun > 0;
+    const int falling = bout.data(index).animationOf(AnimationRole::Falling);
+    if (own.velocityY > 0 && !own.isThrown && own.animation != falling) {
+        bout.show(index, falling);
+    }
+}
+
+void goOnWithStun(Bout& bout, int index)
+{
+    FighterState& own = bout.fighter(index);
+    if (own.stun == 0) {
+        bout.stand(index);
+        return;
+    }
+    --own.stun;
+    if (own.action == Action::Hit && own.actionTick == DizzyTicks) {
+        bout.showRole(index, AnimationRole::Dizzy);
+    }
+}
+
+/// Whether one of the actions that take their time is over, with its animation or its ticks.
+void goOnWithAction(Bout& bout, int index, bool isShown)
+{
+    FighterState& own = bout.fighter(index);
+    const FighterData& data = bout.data(index);
+    switch (own.action) {
+    case Action::JumpStart:
+        if (own.actionTick >= data.jumpStart) {
+            leaveFloor(bout, index);
+        }
+        break;
+    case Action::Landing:
+        if (own.actionTick >= data.jumpEnd) {
+            bout.stand(index);
+        }
+        break;
+    case Action::Move:
+        if (isShown) {
+            bout.stand(index);
+        }
+        break;
+    case Action::Hop:
+        if (isShown && !own.isInAir) {
+            bout.stand(index);
+        }
+        break;
+    case Action::GuardedHit:
+    case Action::Hit:
+    case Action::Held:
+        goOnWithStun(bout, index);
+        break;
+    case Action::Fall:
+        goOnFalling(bout, index);
+        break;
+    case Action::Bounce:
+        if (isShown) {
+            lie(bout, index);
+        }
+        break;
+    case Action::Lying:
+        if (own.life > 0 && own.actionTick >= LyingTicks) {
+            bout.enter(index, Action::GettingUp);
+            bout.showRole(index, AnimationRole::GettingUp);
+        }
+        break;
+    case Action::GettingUp:
+        if (isShown) {
+            bout.stand(index);
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+bool isOnFloorAndFree(const FighterState& own)
+{
+    return isFree(own) && !own.isInAir;
+}
+
+/// Whether a move can start from what the fighter does.
+bool fits(const FighterData& data, const FighterState& own, const Move& move)
+{
+    // A motion with a way up has begun the jump by it.
+    if (own.action == Action::JumpStart) {
+        return move.from == From::Any && move.air != Air::Only && move.command >= 0 &&
+               data.commands.at(move.command).steps > 1;
+    }
+    const bool fitsAir = own.isInAir ? move.air != Air::No : move.air != Air::Only;
+    switch (move.from) {
+    case From::Any:
+        return isFree(own) && fitsAir;
+    case From::Stand:
+        return isOnFloorAndFree(own) && fitsAir && own.action != Action::Crouch &&
+               own.action != Action::Run;
+    case From::Crouch:
+        return own.action == Action::Crouch && fitsAir;
+    case From::Run:
+        return own.action == Action::Run && fitsAir;
+    case From::Guard:
+        return own.action == Action::GuardedHit && fitsAir;
+    case From::Fall:
+        return own.action == Action::Fall && own.stun == 0;
+    }
+    return false;
+}
+
+/// Whether the fighter could pay for a move and has given its command.
+bool isAsked(const FighterState& own, const Move& move)
+{
+    return move.command >= 0 && own.commands[move.command] > 0 && own.power >= move.costPower;
+}
+
+/// True if `one` comes in place of `other` when both could.
+bool isBefore(const FighterData& data, const Move& one, const Move& other)
+{
+    const Command& first = data.commands.at(one.command);
+    const Command& second = data.commands.at(other.command);
+    if (first.steps != second.steps) {
+        return first.steps > second.steps;
+    }
+    if (first.buttons != second.buttons) {
+        return first.buttons > second.buttons;
+    }
+    if ((one.from != From::Any) != (other.from != From::Any)) {
+        return one.from != From::Any;
+    }
+    return first.directions > second.directions;
+}
+
+void takeBetter(const Bout& bout, int index, int move, int* best)
+{
+    const FighterData& data = bout.data(index);
+    if (isAsked(bout.fighter(index), data.moves.at(move)) &&
+        (*best < 0 || isBefore(data, data.moves.at(move), data.moves.at(*best)))) {
+        *best = move;
+    }
+}
+
+int cancelOf(const Bout& bout, int index)
+{
+    const FighterState& own = bout.fighter(index);
+    const FighterData& data = bout.data(index);
+    const Move& move = data.moves.at(own.move);
+    if (own.touch == Touch::Hit && move.follower >= 0 &&
+        own.power >= data.moves.at(move.follower).costPower) {
+        return move.follower;
+    }
+    int best = Move::None;
+    if (own.touch != Touch::None || !move.hasHit) {
+        for (int next : move.cancels) {
+            const Air air = data.moves.at(next).air;
+            if (own.isInAir ? air != Air::No : air != Air::Only) {
+                takeBetter(bout, index, next, &best);
+            }
+        }
+    }
+    return best;
+}
+
+/// Two fingers are not quite equal: what the first one has started gives way.
+int completedOf(const Bout& bout, int index)
+{
+    const FighterState& own = bout.fighter(index);
+    const FighterData& data = bout.data(index);
+    const Move& move = data.moves.at(own.move);
+    if (own.actionTick >= YieldTicks || own.touch != Touch::None || move.command < 0 ||
+        move.costPower > 0 || move.costLife > 0 || own.isInAir != own.isAirMove) {
+        return Move::None;
+    }
+    int best = Move::None;
+    for (int next = 0; next < data.moves.size(); ++next) {
+        const Move& other = data.moves.at(next);
+        const bool fitsAir = own.isInAir ? other.air != Air::No : other.air != Air::Only;
+        if (other.command >= 0 && other.from == From::Any && fitsAir &&
+            data.commands.at(other.command).buttons > data.commands.at(move.command).buttons) {
+            takeBetter(bout, index, next, &best);
+        }
+    }
+    return best;
+}
+
+int nextMove(const Bout& bout, int index)
+{
+    const FighterState& own = bout.fighter(index);
+    if (own.action == Action::Move && own.touch == Touch::Hit &&
+        bout.data(index).moves.at(own.move).follower >= 0) {
+        return cancelOf(bout, index);
+    }
+    if (own.commandTicks == 0) {
+        return Move::None;
+    }
+    if (own.action == Action::Move) {
+        const int cancel = cancelOf(bout, index);
+        return cancel >= 0 ? cancel : completedOf(bout, index);
+    }
+    int best = Move::None;
+    const QVector<Move>& moves = bout.data(index).moves;
+    for (int move = 0; move < moves.size(); ++move) {
+        if (fits(bout.data(index), own, moves.at(move))) {
+            takeBetter(bout, index, move, &best);
+        }
+    }
+    return best;
+}
+
+bool isThreatened(const Bout& bout, int index)
+{
+    const FighterState& own = bout.fighter(index);
+    const FighterState& other = bout.fighter(1 - index);
+    if (other.action != Action::Move || other.hitsLeft == 0 || other.animation < 0) {
+        return false;
+    }
+    return other.actionTick <= bout.data(1 - index).animations.at(other.animation).lastAttack &&
+           qAbs(own.x - other.x) <= GuardDistance;
+}
+
+void startJump(Bout& bout, int index, quint8 signs)
+{
+    FighterState& own = bout.fighter(index);
+    own.jump = signs & MotionStep::Forward ? 1 : signs & MotionStep::Back ? 2 : 0;
+    own.velocityX = 0;
+    bout.enter(index, Action::JumpStart);
+    bout.showRole(index, AnimationRole::JumpStart);
+}
+
+void startHop(Bout& bout, int index)
+{
+    FighterState& own = bout.fighter(index);
+    const FighterData& data = bout.data(index);
+    own.velocityX = own.facing * data.runBackX;
+    own.velocityY = qMin(data.runBackY, 0);
+    own.isInAir = own.velocityY < 0;
+    own.commands[data.hopCommand] = 0;
+    bout.enter(index, Action::Hop);
+    bout.showRole(index, AnimationRole::HopBack);
+}
+
+/// Run or hop, if the person has given the command.
+bool dash(Bout& bout, int index, quint8 signs)
+{
+    FighterState& own = bout.fighter(index);
+    const FighterData& data = bout.data(index);
+    if (!data.hasRun) {
+        return false;
+    }
+    if (data.hopCommand >= 0 && own.commands[data.hopCommand] > 0) {
+        startHop(bout, index);
+        return true;
+    }
+    const bool begins = data.runCommand >= 0 && own.commands[data.runCommand] > 0;
+    const bool goes = own.action == Action::Run || begins;
+    if (!goes || (signs & MotionStep::Directions) != MotionStep::Forward) {
+        return false;
+    }
+    if (own.action != Action::Run) {
+        bout.enter(index, Action::Run);
+        bout.showRole(index, AnimationRole::Run);
+    }
+    own.velocityX = own.facing * data.runX;
+    return true;
+}
+
+void walk(Bout& bout, int index, bool isForward)
+{
+    FighterState& own = bout.fighter(index);
+    const FighterData& data = bout.data(index);
+    const Action action = isForward ? Action::Walk : Action::WalkBack;
+    if (own.action != action) {
+        bout.enter(index, action);
+        bout.showRole(index, isForward ? AnimationRole::Walk : AnimationRole::WalkBack);
+    }
+    own.velocityX = own.facing * (isForward ? data.walkForward : data.walkBack);
+}
+
+void crouch(Bout& bout, int index, bool guards)
+{
+    FighterState& own = bout.fighter(index);
+    const FighterData& data = bout.data(index);
+    own.velocityX = own.action == Action::Crouch ? own.velocityX : 0;
+    const int guard = data.animationOf(AnimationRole::GuardCrouched);
+    if (own.action != Action::Crouch) {
+        bout.enter(index, Action::Crouch);
+        bout.showAfter(index, AnimationRole::GoingDown, AnimationRole::Crouched);
+    }
+    if (guards && own.animation != guard) {
+        bout.show(index, guard);
+    } else if (!guards && own.animation == guard) {
+        bout.showRole(index, AnimationRole::Crouched);
+    }
+}
+
+void rest(Bout& bout, int index)
+{
+    FighterState& own = bout.fighter(index);
+    if (own.action == Action::Crouch) {
+        bout.enter(index, Action::Stand);
+        bout.showAfter(index, AnimationRole::ComingUp, AnimationRole::Stance);
+    } else if (own.action == Action::Run) {
+        bout.enter(index, Action::RunEnd);
+        bout.showAfter(index, AnimationRole::RunEnd, AnimationRole::Stance);
+    } else if (own.action != Action::Stand && own.action != Action::RunEnd) {
+        bout.enter(index, Action::Stand);
+        bout.showRole(index, AnimationRole::Stance);
+        own.velocityX = 0;
+    } else if (own.action == Action::RunEnd && own.velocityX == 0) {
+        own.action = Action::Stand;
+    }
+}
+
+void stepOnFloor(Bout& bout, int index)
+{
+    FighterState& own = bout.fighter(index);
+    const quint8 signs = bout.signs(index);
+    const bool guards = (signs & MotionStep::Back) != 0 && isThreatened(bout, index);
+    if (signs & MotionStep::Up) {
+        startJump(bout, index, signs);
+    } else if (dash(bout, index, signs)) {
+        return;
+    } else if (signs & MotionStep::Down) {
+        crouch(bout, index, guards);
+    } else if (guards) {
+        if (own.action != Action::Guard) {
+            bout.enter(index, Action::Guard);
+            bout.showRole(index, AnimationRole::Guard);
+            own.velocityX = 0;
+        }
+    } else if (signs & (MotionStep::Forward | MotionStep::Back)) {
+        walk(bout, index, (signs & MotionStep::Forward) != 0);
+    } else {
+        rest(bout, index);
+    }
+}
+
+}  // namespace
+
+void goOn(Bout& bout, int index)
+{
+    FighterState& own = bout.fighter(index);
+    own.actionTick = qMin(own.actionTick + 1, Animation::MostTicks);
+    const bool isShown = goOnWithAnimation(bout, index);
+    if (isShown && own.nextAnimation >= 0) {
+        bout.show(index, own.nextAnimation);
+    }
+    goOnWithAction(bout, index, isShown);
+}
+
+void decide(Bout& bout, int index)
+{
+    FighterState& own = bout.fighter(index);
+    if (bout.state.phase != Phase::Fight || own.life == 0) {
+        if (isOnFloorAndFree(own) && own.action != Action::Stand) {
+            bout.stand(index);
+        }
+        return;
+    }
+    const int move = nextMove(bout, index);
+    if (move >= 0) {
+        bout.startMove(index, move);
+    } else if (isOnFloorAndFree(own)) {
+        stepOnFloor(bout, index);
+    }
+}
+
+}  // namespace Rules

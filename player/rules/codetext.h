@@ -1,0 +1,65 @@
+#pragma once
+
+#include "family/grammar/linereader.h"
+#include "rules/fighterdata.h"
+
+#include <QCoreApplication>
+#include <QHash>
+
+namespace Rules {
+
+/// A group of a code file with its values, and those of its sub-groups as "sub.key".
+struct CodeGroup
+{
+    QString name;
+    QString argument;
+    TextPlace place;
+    QVector<QPair<QString, QVariant>> values;
+
+    /// The first value of a key; not valid without one.
+    QVariant value(const char* key) const;
+    bool hasSubGroup(const char* sub) const { return subGroups.contains(QLatin1String(sub)); }
+
+    QStringList subGroups;
+};
+
+/// The text of a character or stage, all its files one after the other: groups and animations as
+/// plain values.
+class CodeText
+{
+    Q_DECLARE_TR_FUNCTIONS(Rules::CodeText)
+
+public:
+    CodeText(const QString& gameFolder, const QString& mainFile);
+
+    /// False, with `error`, if the main file cannot be read.
+    bool read(QString* error);
+
+    const QVector<CodeGroup>& groups() const { return m_groups; }
+    const QVector<Animation>& animations() const { return m_animations; }
+    QStringList notes() const { return m_notes; }
+
+    /// The values of all groups of a name together, as one of them.
+    CodeGroup joined(const char* name) const;
+
+private:
+    bool readFile(const QString& path, Family::FileKind kind, QString* error);
+    void readNamed();
+    void see(const Family::ParsedLine& line, const TextPlace& place);
+    void seeValue(const Family::ParsedLine& line, const QString& written);
+    void seeFrame(const Family::FrameData& data, int line);
+
+    QString m_gameFolder;
+    QString m_mainFile;
+    QVector<CodeGroup> m_groups;
+    QVector<Animation> m_animations;
+    QStringList m_notes;
+
+    // While a file is read.
+    Family::LineHead m_head;
+    QString m_subGroup;
+    Frame m_boxes;
+    bool m_isInGroup = false;
+};
+
+}  // namespace Rules

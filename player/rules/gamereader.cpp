@@ -1,0 +1,451 @@
+#include "rules/gamereader.h"
+
+#include "family/grammar/grammar.h"
+#include "family/project/familyparentproject.h"
+#include "family/project/unreachable.h"
+#include "rules/codetext.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPointF>
+#include <QRect>
+
+namespace Rules {
+
+using Family::AnimationRole;
+
+namespace {
+
+/// The numbers of a value, whichever type it is stored in.
+QVariantList numbersOf(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::QPoint:
+        return {value.toPoint().x(), value.toPoint().y()};
+    case QMetaType::QPointF:
+        return {value.toPointF().x(), value.toPointF().y()};
+    case QMetaType::QRect: {
+        const QRect rect = value.toRect();
+        return {rect.left(), rect.top(), rect.right(), rect.bottom()};
+    }
+    default:
+        return value.toList();
+    }
+}
+
+/// Takes numbers of a group if they are there.
+class Values
+{
+public:
+    explicit Values(const CodeGroup& group) : m_group(group) {}
+
+    void whole(const char* key, int* number) const
+    {
+        const QVariant value = m_group.value(key);
+        *number = value.isValid() ? value.toInt() : *number;
+    }
+
+    void real(const char* key, double* number) const
+    {
+        const QVariant value = m_group.value(key);
+        *number = value.isValid() ? value.toDouble() : *number;
+    }
+
+    void speed(const char* key, Fixed* number) const
+    {
+        const QVariant value = m_group.value(key);
+        *number = value.isValid() ? fixedOf(value.toDouble()) : *number;
+    }
+
+    /// True if the key is there.
+    bool speeds(const char* key, Fixed* x, Fixed* y) const
+    {
+        const QVariantList list = numbersOf(m_group.value(key));
+        if (list.size() == 2) {
+            *x = fixedOf(list.at(0).toDouble());
+            *y = fixedOf(list.at(1).toDouble());
+        }
+        return list.size() == 2;
+    }
+
+    bool wholes(const char* key, int* first, int* second) const
+    {
+        const QVariantList list = numbersOf(m_group.value(key));
+        if (list.size() == 2) {
+            *first = list.at(0).toInt();
+            *second = list.at(1).toInt();
+        }
+        return list.size() == 2;
+    }
+
+    QString word(const char* key) const { return m_group.value(key).toString(); }
+
+private:
+    const CodeGroup& m_group;
+};
+
+/// The place of a word in a list, 0 for any other.
+template <class Choice>
+Choice choiceOf(const QString& word, std::initializer_list<const char*> words)
+{
+    int place = 0;
+    for (const char* each : words) {
+        if (word == QLatin1String(each)) {
+            return Choice(place);
+        }
+        ++place;
+    }
+    return Choice(0);
+}
+
+QVector<int> wholesOf(const QVariant& value)
+{
+    QVector<int> result;
+    const QVariantList list = value.toList();
+    for (const QVariant& number : list) {
+        result.append(number.toInt());
+    }
+    return result;
+}
+
+/// Finds things by their names: the first one of a name counts.
+template <class Things, class Name>
+int placeOf(const Things& things, const QString& name, Name nameOf)
+{
+    for (int i = 0; i < things.size(); ++i) {
+        if (!name.isEmpty() && nameOf(things.at(i)) == name) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+int animationCalled(const FighterData& data, const QString& name)
+{
+    return placeOf(data.animations, name, [](const Animation& each) { return each.identifier; });
+}
+
+int commandCalled(const FighterData& data, const QString& name)
+{
+    return placeOf(data.commands, name, [](const Command& each) { return each.name; });
+}
+
+void readBody(const Values& values, const CodeGroup& constants, FighterData* data)
+{
+    const QVariantList push = numbersOf(constants.value("body.push"));
+    if (push.size() == 4) {
+        const auto at = [&push](int index) { return push.at(index).toInt(); };
+        data->push = {qMin(at(0), at(2)), qMin(at(1), at(3)), qMax(at(0), at(2)),
+                      qMax(at(1), at(3))};
+    }
+    data->backWidth = qMax(-data->push.left, 0);
+    data->frontWidth = qMax(data->push.right, 0);
+    values.wholes("body.widths", &data->backWidth, &data->frontWidth);
+}
+
+void readConstants(const CodeGroup& constants, FighterData* data)
+{
+    const Values values(constants);
+    values.whole("life", &data->life);
+    values.whole("power", &data->power);
+    values.whole("attack", &data->attack);
+    values.whole("defence", &data->defence);
+    data->defence = qMax(data->defence, 10);
+    values.real("gravity", &data->gravity);
+    data->turns = values.word("turns") != QLatin1String("no");
+    data->combo = wholesOf(constants.value("combo"));
+    const QVariantList recovery = constants.value("recovery").toList();
+    for (const QVariant& share : recovery) {
+        data->recovery.append(int(std::lround(share.toDouble() * 65536)));
+    }
+    values.speed("walk.forward", &data->walkForward);
+    values.speed("walk.back", &data->walkBack);
+    Fixed ignored = 0;
+    data->hasRun = constants.hasSubGroup("run");
+    values.speeds("run.forward", &data->runX, &ignored);
+    values.speeds("run.back", &data->runBackX, &data->runBackY);
+    const char* const jumps[] = {"jump.neutral", "jump.forward", "jump.back"};
+    for (int i = 0; i < 3; ++i) {
+        values.speeds(jumps[i], &data->jumpX[i], &data->jumpY[i]);
+    }
+    values.wholes("jump.ticks", &data->jumpStart, &data->jumpEnd);
+    readBody(values, constants, data);
+}
+
+int bitCount(unsigned bits)
+{
+    return int(qPopulationCount(bits));
+}
+
+/// A character keeps the motions that mean something; `check` tells the others.
+void readCommands(const CodeGroup& group, FighterData* data, int* left)
+{
+    for (const auto& entry : group.values) {
+        if (entry.first == QLatin1String("defaults.time")) {
+            data->time = entry.second.toInt();
+        } else if (entry.first == QLatin1String("defaults.buffer")) {
+            data->buffer = entry.second.toInt();
+        }
+        Family::Motion motion;
+        QString fault;
+        if (entry.first.contains(QLatin1Char('.')) ||
+            !Family::readMotion(entry.second.toString(), &motion, &fault)) {
+            continue;
+        }
+        int place = commandCalled(*data, entry.first);
+        if (place < 0 && data->commands.size() == FighterData::MostCommands) {
+            ++*left;
+            continue;
+        }
+        if (place < 0) {
+            place = data->commands.size();
+            data->commands.append({entry.first, {}, {}, 0, 0, 0});
+        }
+        Command& command = data->commands[place];
+        const Family::MotionStep& last = motion.constLast();
+        command.texts.append(entry.second.toString());
+        command.motions.append(motion);
+        command.steps = qMax(command.steps, motion.size());
+        command.buttons = qMax(command.buttons, bitCount(last.buttons()));
+        command.directions = qMax(command.directions, bitCount(last.direction()));
+    }
+    data->runCommand = commandCalled(*data, QStringLiteral("run"));
+    data->hopCommand = commandCalled(*data, QStringLiteral("hop-back"));
+}
+
+void readHit(const CodeGroup& group, Hit* hit)
+{
+    const Values values(group);
+    values.wholes("hit.damage", &hit->damage, &hit->guardDamage);
+    const QString level = values.word("hit.level");
+    hit->level = level.isEmpty() ? HitLevel::Middle
+                                 : choiceOf<HitLevel>(level, {"high", "middle", "low", "throw"});
+    values.whole("hit.hits", &hit->hits);
+    values.whole("hit.stop", &hit->stop);
+    values.whole("hit.stun", &hit->stun);
+    hit->guardStun = hit->stun * 2 / 3;
+    values.whole("hit.guard-stun", &hit->guardStun);
+    values.speeds("hit.push", &hit->pushX, &hit->pushY);
+    const QString falls = values.word("hit.falls");
+    const bool isThrow = hit->level == HitLevel::Throw;
+    hit->falls = falls.isEmpty() ? isThrow || hit->pushY < -2 * One : falls == QLatin1String("yes");
+    hit->gain = hit->damage;
+    hit->guardGain = hit->damage / 2;
+    values.wholes("hit.gain", &hit->gain, &hit->guardGain);
+    values.wholes("hit.spark", &hit->spark.rx(), &hit->spark.ry());
+    hit->shake = wholesOf(group.value("hit.shake"));
+}
+
+Move moveOf(const CodeGroup& group, const FighterData& data)
+{
+    const Values values(group);
+    Move move;
+    move.name = group.argument;
+    move.place = group.place;
+    move.animation = animationCalled(data, values.word("animation"));
+    move.commandName = values.word("command");
+    move.command = commandCalled(data, move.commandName);
+    move.air = choiceOf<Air>(values.word("air"), {"no", "yes", "only"});
+    move.from =
+        choiceOf<From>(values.word("from"), {"any", "stand", "crouch", "run", "guard", "fall"});
+    values.whole("priority", &move.priority);
+    move.hasVelocity = values.speeds("velocity", &move.velocityX, &move.velocityY);
+    values.whole("cost.power", &move.costPower);
+    values.whole("cost.life", &move.costLife);
+    move.hasHit = group.hasSubGroup("hit");
+    readHit(group, &move.hit);
+    values.wholes("sound.hit", &move.hitSound.group, &move.hitSound.number);
+    values.wholes("sound.guard", &move.guardSound.group, &move.guardSound.number);
+    values.whole("sound.volume", &move.volume);
+    return move;
+}
+
+void readMoves(const CodeText& text, FighterData* data)
+{
+    QVector<const CodeGroup*> groups;
+    for (const CodeGroup& group : text.groups()) {
+        const auto nameOf = [](const Move& each) { return each.name; };
+        if (group.name == QLatin1String("move") &&
+            placeOf(data->moves, group.argument, nameOf) < 0) {
+            data->moves.append(moveOf(group, *data));
+            groups.append(&group);
+        }
+    }
+    for (int i = 0; i < groups.size(); ++i) {
+        Move& move = data->moves[i];
+        for (const auto& entry : groups.at(i)->values) {
+            const int target = entry.first != QLatin1String("cancels")
+                                   ? -1
+                                   : placeOf(data->moves, entry.second.toString(),
+                                             [](const Move& each) { return each.name; });
+            if (target >= 0 && !data->moves.at(target).commandName.isEmpty()) {
+                move.cancels.append(target);
+            } else if (target >= 0 && move.follower < 0) {
+                move.follower = target;
+            }
+        }
+    }
+}
+
+/// What each role shows; -1 where nothing is to be shown.
+void chooseAnimations(const CodeGroup& constants, FighterData* data)
+{
+    for (int role = 0; role < Family::AnimationRoleCount; ++role) {
+        int shown = -1;
+        for (int each = role; each >= 0 && shown < 0;) {
+            const auto& row = Family::neededAnimation(AnimationRole(each));
+            shown = animationCalled(*data, QLatin1String(row.identifier));
+            each = row.substitute;
+        }
+        data->shown[role] = shown;
+    }
+    const auto choose = [&](AnimationRole role, const char* key) {
+        const int named = animationCalled(*data, constants.value(key).toString());
+        int& shown = data->shown[int(role)];
+        shown = named >= 0 ? named : shown;
+    };
+    choose(AnimationRole::Walk, "walk.animation");
+    choose(AnimationRole::Run, "run.animation");
+    int& stance = data->shown[int(AnimationRole::Stance)];
+    if (stance >= 0 || data->animations.isEmpty()) {
+        return;
+    }
+    // Without a stance whatever ends in it shows the first animation.
+    for (int role = 0; role < Family::AnimationRoleCount; ++role) {
+        int last = role;
+        while (Family::neededAnimation(AnimationRole(last)).substitute >= 0) {
+            last = Family::neededAnimation(AnimationRole(last)).substitute;
+        }
+        if (last == int(AnimationRole::Stance) && data->shown[role] < 0) {
+            data->shown[role] = 0;
+        }
+    }
+}
+
+void readArena(const CodeText& text, StageData* data)
+{
+    const CodeGroup arena = text.joined("arena");
+    const Values values(arena);
+    values.whole("left", &data->left);
+    values.whole("right", &data->right);
+    values.whole("floor", &data->floor);
+    if (data->right < data->left) {
+        qSwap(data->left, data->right);
+    }
+    values.real("gravity", &data->gravity);
+    values.whole("rounds", &data->rounds);
+    values.whole("time", &data->seconds);
+    const int middle = data->left + (data->right - data->left) / 2;
+    int ignored = 0;
+    data->start[0] = middle - 90;
+    data->start[1] = middle + 90;
+    values.wholes("start.first", &data->start[0], &ignored);
+    values.wholes("start.second", &data->start[1], &ignored);
+    data->facesInward = values.word("start.facing") != QLatin1String("outward");
+    int width = 640;
+    int height = 0;
+    const CodeGroup info = text.joined("info");
+    Values(info).wholes("resolution", &width, &height);
+    const QVariantList zoom = arena.value("zoom").toList();
+    const double smallest =
+        zoom.size() == 2 ? qMin(zoom.at(0).toDouble(), zoom.at(1).toDouble()) : 1;
+    data->screenWidth = int(width / qMax(smallest, 0.1));
+}
+
+QString titleOf(const CodeText& text, const QString& mainFile)
+{
+    const QString name = text.joined("info").value("name").toString();
+    return name.isEmpty() ? QFileInfo(mainFile).completeBaseName() : name;
+}
+
+}  // namespace
+
+GameReader::GameReader(const QString& gameFolder)
+    : m_gameFolder(QFileInfo(gameFolder).absoluteFilePath())
+{
+}
+
+bool GameReader::readFighter(const QString& mainFile, FighterData* data, QString* error)
+{
+    CodeText text(m_gameFolder, mainFile);
+    if (!text.read(error)) {
+        return false;
+    }
+    *data = {};
+    data->mainFile = mainFile;
+    data->name = titleOf(text, mainFile);
+    for (const Animation& animation : text.animations()) {
+        if (!animation.frames.isEmpty() && animationCalled(*data, animation.identifier) < 0) {
+            data->animations.append(animation);
+        }
+    }
+    const CodeGroup constants = text.joined("constants");
+    readConstants(constants, data);
+    int left = 0;
+    readCommands(text.joined("commands"), data, &left);
+    readMoves(text, data);
+    chooseAnimations(constants, data);
+    m_notes += text.notes();
+    if (left > 0) {
+        m_notes.append(tr("'%1' has more than %2 commands. Those behind are left out.")
+                           .arg(data->name, QString::number(FighterData::MostCommands)));
+    }
+    return true;
+}
+
+bool GameReader::readStage(const QString& mainFile, StageData* data, QString* error)
+{
+    CodeText text(m_gameFolder, mainFile);
+    if (!text.read(error)) {
+        return false;
+    }
+    *data = {};
+    data->mainFile = mainFile;
+    data->name = titleOf(text, mainFile);
+    readArena(text, data);
+    m_notes += text.notes();
+    return true;
+}
+
+void completeGame(Game* game)
+{
+    for (int i = 0; i < 2; ++i) {
+        game->gravity[i] = fixedOf(game->fighters[i].gravity * game->stage.gravity);
+    }
+}
+
+QString findMainFile(const QString& gameFolder, const QString& suffix, const QString& name,
+                     int index, QString* error)
+{
+    QStringList found;
+    const QStringList files = Family::FamilyParentProject::mainFiles(gameFolder);
+    for (const QString& file : files) {
+        if (file.endsWith(suffix)) {
+            found.append(file);
+        }
+    }
+    if (name.isEmpty()) {
+        if (found.isEmpty()) {
+            *error = Family::orUnreachable(
+                GameReader::tr("There is no file '*%1' in '%2'.").arg(suffix, QStringLiteral("%1")),
+                gameFolder);
+        }
+        return found.value(qMin(index, found.size() - 1));
+    }
+    QStringList names;
+    for (const QString& file : qAsConst(found)) {
+        const QFileInfo info(file);
+        names.append(info.completeBaseName());
+        if (name == info.completeBaseName() || name == info.dir().dirName()) {
+            return file;
+        }
+    }
+    if (name.endsWith(suffix) && QFileInfo::exists(name)) {
+        return QFileInfo(name).absoluteFilePath();
+    }
+    *error = GameReader::tr("There is no '%1' in '%2'. %3")
+                 .arg(name, gameFolder, Family::nameHint(name, names));
+    return {};
+}
+
+}  // namespace Rules
