@@ -75,7 +75,8 @@ void PaletteEditorPrivate::changed()
 
 void PaletteEditorPrivate::colorMoved(unsigned short src, unsigned short dst)
 {
-    if (inhibit > 0 || !palette) {
+    // A colour that comes back to its own slot has not moved.
+    if (inhibit > 0 || !palette || src == dst) {
         return;
     }
     const ShownPalette shown(this);

@@ -441,6 +441,8 @@ private slots:
         const QVector<QImage> before = m->pictures();
         const QByteArray bytes = m->save();
         m->dialogs.choiceAnswers = {answer};
+        emit m->editor->view()->colorMoved(40, 40);  // back to its own slot
+        QCOMPARE(m->dialogs.count(), 0);
         m->drag(40, 3);
         const QVector<QImage> after = m->pictures();
         for (int i = 0; i < SpriteCount; ++i) {
