@@ -108,8 +108,14 @@ void PalettePreviewsPrivate::fit()
         dirty = picture.rect();
     }
     ratio = owner->devicePixelRatioF();
-    grid = PreviewGrid(owner->size() * ratio, picture.size(), previews.size(),
-                       qCeil(owner->fontMetrics().height() * ratio), qRound(Gap * ratio));
+    const QFontMetrics metrics = owner->fontMetrics();
+    QSize label(0, metrics.height());
+    for (const PalettePreviews::Preview& preview : qAsConst(previews)) {
+        label.rwidth() = std::max(label.width(), metrics.horizontalAdvance(preview.name));
+    }
+    label = {qCeil(label.width() * ratio), qCeil(label.height() * ratio)};
+    grid = PreviewGrid(owner->size() * ratio, picture.size(), previews.size(), label,
+                       qRound(Gap * ratio));
     owner->update();
 }
 

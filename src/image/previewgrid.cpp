@@ -16,8 +16,9 @@ int ceilDiv(int x, int by)
 
 }  // namespace
 
-PreviewGrid::PreviewGrid(const QSize& window, const QSize& picture, int count, int label, int gap)
-    : m_label(label), m_gap(gap)
+PreviewGrid::PreviewGrid(const QSize& window, const QSize& picture, int count, const QSize& label,
+                         int gap)
+    : m_label(label.height()), m_gap(gap)
 {
     m_count = count;
     double best = 0;
@@ -36,6 +37,8 @@ PreviewGrid::PreviewGrid(const QSize& window, const QSize& picture, int count, i
     m_divisor = best < 1 ? int(std::ceil(1 / best)) : 1;
     m_size = {ceilDiv(picture.width() * m_zoom, m_divisor),
               ceilDiv(picture.height() * m_zoom, m_divisor)};
+    const int room = (window.width() - gap) / m_columns - gap;
+    m_width = std::max(m_size.width(), std::min(label.width(), room));
 }
 
 /// What is left to a picture when there are so many columns.
@@ -52,7 +55,8 @@ QRect PreviewGrid::picture(int index) const
     if (index < 0 || index >= m_count) {
         return {};
     }
-    const QPoint place(index % m_columns * (m_size.width() + m_gap) + m_gap,
+    const int inCell = (m_width - m_size.width()) / 2;
+    const QPoint place(index % m_columns * (m_width + m_gap) + m_gap + inCell,
                        index / m_columns * (m_size.height() + m_label + m_gap) + m_gap);
     return {place, m_size};
 }
@@ -60,7 +64,9 @@ QRect PreviewGrid::picture(int index) const
 QRect PreviewGrid::label(int index) const
 {
     const QRect above = picture(index);
-    return {above.left(), above.bottom() + 1, above.width(), above.isNull() ? 0 : m_label};
+    const int inCell = (m_width - m_size.width()) / 2;
+    return above.isNull() ? QRect()
+                          : QRect(above.left() - inCell, above.bottom() + 1, m_width, m_label);
 }
 
 QRect PreviewGrid::cell(int index) const

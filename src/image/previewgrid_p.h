@@ -16,8 +16,9 @@ class ZORV_EXPORT PreviewGrid
 public:
     PreviewGrid() = default;
 
-    /// `label` is the height of the name below a picture, `gap` what stands between all.
-    PreviewGrid(const QSize& window, const QSize& picture, int count, int label, int gap);
+    /// `label` is the room for the name below a picture, whose width is given where there is some
+    /// to spare; `gap` stands between all.
+    PreviewGrid(const QSize& window, const QSize& picture, int count, const QSize& label, int gap);
 
     int count() const { return m_count; }
 
@@ -44,6 +45,7 @@ private:
     int m_zoom = 1;     // pixels of the screen for one
     int m_divisor = 1;  // pixels for one of the screen
     QSize m_size;       // of a picture as it is shown
+    int m_width = 0;    // of it, or of its name
 };
 
 }  // namespace Zorv

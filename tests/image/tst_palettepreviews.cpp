@@ -70,7 +70,7 @@ void TestPalettePreviews::grid()
     for (int i = 0; i < 3000; ++i) {
         const QSize window(side(900), side(900));
         const QSize picture(side(1200), side(1200));
-        const PreviewGrid grid(window, picture, random.bounded(13), 14, 6);
+        const PreviewGrid grid(window, picture, random.bounded(13), {random.bounded(99), 14}, 6);
         QRegion all;
         for (int cell = 0; cell < grid.count(); ++cell) {
             const QRect place = grid.cell(cell);
@@ -113,7 +113,11 @@ public:
     void compare(const QImage& seen)
     {
         const QImage merged = canvas.mergeLayers(nullptr);
-        const int label = previews.fontMetrics().height();
+        QSize label(0, previews.fontMetrics().height());
+        for (const PalettePreviews::Preview& each : palettes(12)) {
+            label.rwidth() =
+                qMax(label.width(), previews.fontMetrics().horizontalAdvance(each.name));
+        }
         const PreviewGrid layout(previews.size(), merged.size(), 12, label, 6);
         for (int i = 0; i < 12; ++i) {
             const QVector<QRgb> colors = palettes(12).at(i).colors;

@@ -45,6 +45,7 @@
 #include <zorv/animation/thumbnails/thumbnailseditor.h>
 #include <zorv/core/fileid.h>
 #include <zorv/core/fileinput.h>
+#include <zorv/core/interface.h>
 #include <zorv/editors/code/codeeditor.h>
 #include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
@@ -75,9 +76,13 @@ namespace {
 // Where Qt shows that there is something to save.
 const QLatin1String Modified("[*]");
 
+const QString SeenKey = QStringLiteral("panels_seen");
+
 // Shares of the layers and the palette in the side of the window, when both are seen first.
 constexpr int RoomOfLayers = 200;
 constexpr int RoomOfPalette = 300;
+
+constexpr int RoomOfCostumes = 200;
 
 struct PanelTitle
 {
@@ -194,15 +199,23 @@ void MainWindow::arrangeTools()
     QDockWidget* costumes = addDock(m_paint->costumes(), "costumes", Qt::BottomDockWidgetArea);
     tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("messages")), costumes);
     costumes->hide();
-    // Panels that were hidden have no size to be changed until they are there.
     auto* palette = findChild<QDockWidget*>(QStringLiteral("palette"));
-    connect(palette, &QDockWidget::visibilityChanged, this, [this, palette](bool isVisible) {
-        if (isVisible && !m_hasRoomForPalette) {
-            m_hasRoomForPalette = true;
-            QTimer::singleShot(0, this, [this, palette] {
-                resizeDocks({findChild<QDockWidget*>(QStringLiteral("layers")), palette},
-                            {RoomOfLayers, RoomOfPalette}, Qt::Vertical);
-            });
+    giveRoomAtFirst(palette, {findChild<QDockWidget*>(QStringLiteral("layers")), palette},
+                    {RoomOfLayers, RoomOfPalette});
+    giveRoomAtFirst(costumes, {costumes}, {RoomOfCostumes});
+}
+
+/// Panels that were hidden have no height to be changed until they are there. From then on it is
+/// the person's.
+void MainWindow::giveRoomAtFirst(QDockWidget* comes, const QList<QDockWidget*>& docks,
+                                 const QList<int>& heights)
+{
+    connect(comes, &QDockWidget::visibilityChanged, this, [=](bool isVisible) {
+        auto* host = Zorv::Interface::instance();
+        QStringList seen = host->option(SeenKey).toStringList();
+        if (isVisible && !seen.contains(comes->objectName())) {
+            host->setOption(SeenKey, seen << comes->objectName());
+            QTimer::singleShot(0, this, [=] { resizeDocks(docks, heights, Qt::Vertical); });
         }
     });
 }

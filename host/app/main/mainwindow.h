@@ -123,6 +123,8 @@ private:
     void makeDocks();
     QDockWidget* addDock(QWidget* widget, const char* name, Qt::DockWidgetArea area);
     void arrangeTools();
+    void giveRoomAtFirst(QDockWidget* comes, const QList<QDockWidget*>& docks,
+                         const QList<int>& heights);
     void addParts();
     void connectParts();
     void retranslate();
@@ -150,7 +152,6 @@ private:
     MessagePanel* m_messagePanel;
     CommandRouter* m_router;
     WindowCommands* m_commands;
-    bool m_hasRoomForPalette = false;
 };
 
 }  // namespace App
