@@ -21,6 +21,7 @@
 #include <zorv/core/message.h>
 #include <zorv/core/messages.h>
 #include <zorv/editors/code/codeeditor.h>
+#include <zorv/image/palettepreviews.h>
 
 #include <QAction>
 #include <QApplication>
@@ -203,13 +204,14 @@ void showStage(MainWindow* window, const FamilyDocument* document)
     }
 }
 
-/// A sprite on the canvas, with a stroke and a second layer.
+/// A sprite on the canvas, beside itself as large as it is, with a second layer and its costumes.
 void showPaint(MainWindow* window, const FamilyDocument* document)
 {
     window->findChild<QDockWidget*>(QStringLiteral("messages"))->hide();
     showAttack(window, document, 8);
     PaintCommands* paint = window->paint();
     paint->showSprite(window->spritePanel()->sprites(), window->spritePanel()->currentRow());
+    paint->costumes()->parentWidget()->show();
     settleWindow();
     for (const char* name : {"paint_grid", "spr_layer_add", "spr_view_original"}) {
         window->actionByName(name)->trigger();
