@@ -105,7 +105,7 @@ void SpriteEditorPrivate::updateEnabled()
     emit enabled(isThere);
     emit enabled2(isThere && canvas()->activeLayer() &&
                   canvas()->format() == ImageCanvas::RGBAFormat);
-    emit saveEnabled(isThere && sprite() && !history()->isClean());
+    emit saveEnabled(sprite() && mayBeChanged());
 }
 
 SpriteEditor::SpriteEditor(QObject* parent)

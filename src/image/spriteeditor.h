@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editors/framework/fileeditor.h"
+#include "image/canvas/canvasrecord.h"
 #include "zorv_export.h"
 
 #include <QImage>
@@ -142,6 +143,9 @@ public:
 
     /// True if the canvas is not what the sprite is.
     bool isCanvasModified() const;
+
+    /// All of the canvas but its history, in the colours of the sprite.
+    CanvasRecord canvasRecord() const;
 
     /// Shows the canvas in other colours, or with null in those of the sprite. Pixels stay, and
     /// saving uses the sprite's own.

@@ -86,6 +86,7 @@ public:
     void show(int index);
     void load();
     void clearCanvas();
+    void fillOwn(RGBA (&entries)[256]) const;
     void loadColors();
     void showColors(const RGBA* entries);
     void chooseFirstColors();
@@ -97,7 +98,10 @@ public:
     // spriteeditorwork.cpp
     void followCanvas();
     void touch(const QRect& rect);
+    bool mayBeChanged() const;
     bool isChanged();
+    void setStored();
+    QVector<ImageLayer*> hiddenLayers() const;
     bool compare() const;
     bool mayLeave();
     void goBack();
@@ -166,7 +170,8 @@ public:
     QVariant identifier;
     QImage loaded;  // as the sprite was when the canvas took it
     QPoint loadedAxis;
-    QRect touched;  // where the canvas may be different from that
+    QRect touched;                      // where the canvas may be different from that
+    QVector<ImageLayer*> storedHidden;  // the layers that were hidden when both were the same
     std::optional<bool> isKnownChanged;
     const Palette* ownPalette = nullptr;  // when its colours were loaded; it may be gone
     bool isPreview = false;               // the grid has colours that are not the sprite's

@@ -63,6 +63,7 @@ bool SpriteEditorPrivate::bringBack()
         const ImageRenderer::Change change(renderer);
         canvas()->putContent(std::move(back.content));
     }
+    storedHidden = hiddenLayers();
     touched = {};
     retranslate();
     emit editor->spriteShown();

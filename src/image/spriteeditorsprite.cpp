@@ -210,7 +210,7 @@ void SpriteEditorPrivate::takeChange(const Sprite& now, bool isModified, bool ho
         loadedAxis = now.axis();
         touch(QRect(QPoint(), canvas()->size()));
         const bool isStored = areSamePixels(stored, flattened()) && canvas()->axis() == loadedAxis;
-        isStored ? history()->setClean() : history()->resetClean();
+        isStored ? setStored() : history()->resetClean();
     }
 }
 
@@ -281,7 +281,7 @@ void SpriteEditorPrivate::load()
     loadColors();
     editor->setImage(loaded, SpriteEditor::tr("Layer %1").arg(1));
     canvas()->setAxis(loadedAxis);
-    touched = {};
+    setStored();
     emit editor->spriteShown();
 }
 
@@ -294,13 +294,9 @@ void SpriteEditorPrivate::clearCanvas()
 }
 
 /// Those of the sprite's own palette; of the picture where it has none.
-void SpriteEditorPrivate::loadColors()
+void SpriteEditorPrivate::fillOwn(RGBA (&entries)[ColorCount]) const
 {
     const Sprite* now = sprite();
-    if (!now) {
-        return;
-    }
-    RGBA entries[ColorCount];
     std::fill(std::begin(entries), std::end(entries), RGBA{0, 0, 0, 255});
     if (const Palette* own = now->palette()) {
         own->toPalette(entries);
@@ -308,6 +304,16 @@ void SpriteEditorPrivate::loadColors()
         const QImage image = now->image();
         fillColors(image.colorCount() > 0 ? image.colorTable() : ownColors(image), entries);
     }
+}
+
+void SpriteEditorPrivate::loadColors()
+{
+    const Sprite* now = sprite();
+    if (!now) {
+        return;
+    }
+    RGBA entries[ColorCount];
+    fillOwn(entries);
     isPreview = false;
     ownPalette = now->palette();
     showColors(entries);
@@ -390,6 +396,18 @@ void SpriteEditor::setImage(const QImage& image, const QString& name)
     canvas->undoStack()->clear();
     d->retranslate();
     d->updateEnabled();
+}
+
+CanvasRecord SpriteEditor::canvasRecord() const
+{
+    CanvasRecord record = CanvasRecord::of(*d->canvas());
+    if (d->isPreview && d->sprite()) {
+        RGBA entries[ColorCount];
+        d->fillOwn(entries);
+        std::transform(std::begin(entries), std::end(entries), record.colors.begin(),
+                       [](const RGBA& each) { return qRgba(each.r, each.g, each.b, each.a); });
+    }
+    return record;
 }
 
 void SpriteEditor::previewColors(const QVector<QRgb>* colors)

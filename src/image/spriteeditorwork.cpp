@@ -50,7 +50,10 @@ void SpriteEditorPrivate::followCanvas()
             [this](ImageLayer*, const QRect& rect) { touch(rect); });
     connect(canvas(), &ImageCanvas::layerChanged, this, forget);
     connect(canvas(), &ImageCanvas::axisChanged, this, forget);
-    connect(layers(), &ImageLayers::changed, this, forget);
+    connect(layers(), &ImageLayers::changed, this, [this] {
+        isKnownChanged.reset();
+        editor->contentsChanged();
+    });
     connect(history(), &ImageUndoStack::indexChanged, this, forget);
     connect(history(), &ImageUndoStack::indexChanged, this, &SpriteEditorPrivate::keepToBudget);
     connect(history(), &ImageUndoStack::cleanChanged, this, [this](bool isClean) {
@@ -67,9 +70,35 @@ void SpriteEditorPrivate::touch(const QRect& rect)
     isKnownChanged.reset();
 }
 
+/// The canvas is as the sprite is.
+void SpriteEditorPrivate::setStored()
+{
+    history()->setClean();
+    storedHidden = hiddenLayers();
+    touched = {};
+    isKnownChanged.reset();
+}
+
+QVector<ImageLayer*> SpriteEditorPrivate::hiddenLayers() const
+{
+    QVector<ImageLayer*> hidden;
+    for (unsigned i = 0; i < layers()->count(); ++i) {
+        if (!layers()->at(i)->isVisible()) {
+            hidden.append(layers()->at(i));
+        }
+    }
+    return hidden;
+}
+
+/// True for what undo, or showing a hidden layer, can take back: it need not be different.
+bool SpriteEditorPrivate::mayBeChanged() const
+{
+    return hasCanvas() && (!history()->isClean() || hiddenLayers() != storedHidden);
+}
+
 bool SpriteEditorPrivate::isChanged()
 {
-    if (history()->isClean() || !hasCanvas()) {
+    if (!mayBeChanged()) {
         return false;
     }
     if (!isKnownChanged) {
@@ -84,6 +113,9 @@ bool SpriteEditorPrivate::isChanged()
 /// A canvas that only has another selection than at first holds no work.
 bool SpriteEditorPrivate::compare() const
 {
+    if (history()->isClean()) {
+        return isPreview || !areSamePixels(canvas()->mergeLayers(nullptr), loaded);
+    }
     const ImageLayer* only = layers()->count() == 1 ? layers()->at(0) : nullptr;
     return !only || !only->isVisible() || only->opacity() < 1.0 ||
            only->blendMode() != QPainter::CompositionMode_SourceOver ||
@@ -132,7 +164,10 @@ void SpriteEditorPrivate::goBack()
     while (!history()->isClean() && history()->canRedo()) {
         history()->redo();
     }
-    if (history()->isClean()) {
+    for (unsigned i = 0; history()->isClean() && i < layers()->count(); ++i) {
+        layers()->at(i)->setVisible(!storedHidden.contains(layers()->at(i)));
+    }
+    if (!mayBeChanged()) {
         return;
     }
     if (sprite()) {
@@ -181,7 +216,7 @@ bool SpriteEditorPrivate::putIntoSprite(QString* error)
                                   "memory, and save it again.");
         return false;
     }
-    history()->setClean();
+    setStored();
     tellHidden();
     showPosition();
     emit editor->modified();
@@ -190,11 +225,7 @@ bool SpriteEditorPrivate::putIntoSprite(QString* error)
 
 void SpriteEditorPrivate::tellHidden()
 {
-    bool isHidden = false;
-    for (unsigned i = 0; i < layers()->count(); ++i) {
-        isHidden = isHidden || !layers()->at(i)->isVisible();
-    }
-    if (isHidden && !hasToldHidden) {
+    if (!storedHidden.isEmpty() && !hasToldHidden) {
         hasToldHidden = true;
         host->showStatus(PassingField,
                          SpriteEditor::tr("Hidden layers stay on the canvas and are not saved "

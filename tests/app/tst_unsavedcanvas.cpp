@@ -68,6 +68,9 @@ private slots:
     void isAskedAboutWhenTheFileChanges();
     void isNotSavedWithoutItsSprite();
     void isPutAside();
+    void isSavedInItsOwnColours();
+    void hidingALayerIsWork_data();
+    void hidingALayerIsWork();
     void comesBack_data();
     void comesBack();
 
@@ -263,6 +266,43 @@ void TestUnsavedCanvas::isPutAside()
              flipped().convertToFormat(QImage::Format_ARGB32));
     canvas()->layers()->at(0)->setVisible(true);
     QVERIFY(copies().isEmpty());
+}
+
+/// Colours that are only looked at decide which layer shows, nowhere else.
+void TestUnsavedCanvas::isSavedInItsOwnColours()
+{
+    const QVector<QRgb> opaque(256, 0xff123456);
+    trigger("spr_layer_add");
+    editor()->previewColors(&opaque);
+    QCOMPARE(editor()->canvasRecord().flattened(), flipped());
+    trigger("save");
+    QCOMPARE(first(m_game->path(SpritePath)), flipped());
+}
+
+void TestUnsavedCanvas::hidingALayerIsWork_data()
+{
+    columns<int>("answer");
+    QTest::newRow("saved") << int(Save);
+    QTest::newRow("discarded") << int(Discard);
+}
+
+/// It changes the picture, though it is no step.
+void TestUnsavedCanvas::hidingALayerIsWork()
+{
+    const auto [answer] = fetched<int>();
+    canvas()->newRasterLayer(picture(0));
+    trigger("spr_saveimg");
+    QVERIFY(!editor()->isCanvasModified());
+    const QImage both = sprites()->sprite(0)->image();
+    canvas()->layers()->at(0)->setVisible(false);
+    QVERIFY(editor()->isCanvasModified() && both != flipped());
+    m->dialogs.choiceAnswers = {answer};
+    trigger("spr_next");
+    trigger("spr_prev");
+    QCOMPARE(m->dialogs.count(), 1);
+    QCOMPARE(sprites()->sprite(0)->image(), answer == Save ? flipped() : both);
+    QCOMPARE(shown(), sprites()->sprite(0)->image());
+    QCOMPARE(canvas()->layers()->count(), 2U);
 }
 
 void TestUnsavedCanvas::comesBack_data()

@@ -79,7 +79,7 @@ Zorv::ProjectFile* CanvasInput::file() const
 std::function<bool(QIODevice*)> CanvasInput::take(Operations::RecoveryCopy* copy) const
 {
     Operations::CanvasCopy canvas{identifierOf(m_editor->sprite()), m_editor->spriteIndex(),
-                                  Zorv::CanvasRecord::of(*m_editor->renderer()->canvas())};
+                                  m_editor->canvasRecord()};
     copy->content = Operations::RecoveryCopy::Canvas;
     copy->text = canvas.lines();
     return [canvas](QIODevice* device) { return canvas.write(device); };
