@@ -308,7 +308,7 @@ void TestImageTools::piecesAreLiftedAnew()
     easel.canvas.undoStack()->undo();
     easel.move(easel.selMove, {12, 0});
     easel.release(easel.selMove, {12, 0});
-    QCOMPARE(pictureOf(easel.image()).first(), QStringLiteral("1").leftJustified(16, '.'));
+    QCOMPARE(pictureOf(easel.image()).first(), QStringLiteral(".1").leftJustified(16, '.'));
 }
 
 void TestImageTools::arrowsAreOneStep()
