@@ -119,7 +119,7 @@ void TestPaintView::keepsSwitches()
 {
     const QStringList names{"paint_pixel_perfect", "paint_straight",   "paint_shading",
                             "paint_symmetry_x",    "paint_symmetry_y", "paint_grid",
-                            "paint_axis",          "paint_shine"};
+                            "paint_shine",         "paint_axis"};
     openFirst();
     for (int i = 0; i < names.size(); i += 2) {
         m->window->actionByName(qPrintable(names.at(i)))->trigger();
@@ -133,10 +133,12 @@ void TestPaintView::keepsSwitches()
     }
     const Zorv::StrokeOptions& options = *renderer()->strokeOptions();
     QVERIFY(options.isPixelPerfect() && options.isShading() && !options.straightLines());
-    QVERIFY(options.symmetry() == Zorv::StrokeOptions::TopBottom ||
-            options.symmetry() == Zorv::StrokeOptions::LeftRight);
-    QVERIFY(renderer()->option(Zorv::ImageRenderer::CanvasAxis));
+    QVERIFY(options.symmetry() == Zorv::StrokeOptions::TopBottom);
+    QVERIFY(!renderer()->option(Zorv::ImageRenderer::CanvasAxis));
     QVERIFY(!renderer()->option(Zorv::ImageRenderer::PixelGrid));
+    m->host.setOption(QStringLiteral("undo_megabytes"), 20);
+    m->window->reconfig();
+    QCOMPARE(canvas()->undoStack()->budget(), qint64(20) << 20);
 }
 
 /// The frame behind the one with the sprite is seen where the sprite is transparent.
