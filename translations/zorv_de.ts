@@ -2962,7 +2962,7 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
     <message>
         <source>%1 means nothing in a motion. Expected directions such as DF and buttons such as L, with &apos;+&apos; between what is done together, &apos;~&apos; in front of what is let go, and commas between the steps.</source>
-        <translation>%1 bedeutet in einer Bewegung nichts. Erwartet: Richtungen wie DF und Knöpfe wie L, mit „+“ zwischen dem, was zugleich geschieht, „~“ vor dem, was losgelassen wird, und Kommas zwischen den Schritten.</translation>
+        <translation>%1 bedeutet in einer Bewegung nichts. Erwartet: Richtungen wie DF und Knöpfe wie L, mit &apos;+&apos; zwischen dem, was zugleich geschieht, &apos;~&apos; vor dem, was losgelassen wird, und Kommas zwischen den Schritten.</translation>
     </message>
 </context>
 <context>
@@ -4124,6 +4124,17 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Items</source>
         <translation>Einträge</translation>
+    </message>
+</context>
+<context>
+    <name>Operations</name>
+    <message>
+        <source>There is no file or folder &apos;%1&apos;.</source>
+        <translation>Die Datei oder den Ordner &apos;%1&apos; gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>There is no character in &apos;%1&apos;.</source>
+        <translation>In &apos;%1&apos; ist keine Figur.</translation>
     </message>
 </context>
 <context>

@@ -103,6 +103,13 @@ constexpr Command table[] = {
      "a tab between its place, what it is, and facts: the ticks before, with and after attack boxes\n"
      "and how far they reach; of a frame its time, the pixels that its boxes cover, and how many of\n"
      "them the next frame keeps; 'no box' where a frame has none."},
+    {"frames", "GAME|FILE", 1, 1, Json, listMoves,
+     "Print the frame data of moves: their ticks, and what they are worth.",
+     "GAME is a game folder, FILE a main file (.character). A line for each move of each character,\n"
+     "with a tab between its place, its name, the ticks before, with and after attack boxes, and by\n"
+     "how many ticks the attacker is free earlier (+) or later (-) when it hits and when it is\n"
+     "guarded. All of it is found by playing the move, by the rules of 'zorv-player', against\n"
+     "another fighter of the same kind, who stands as near as it can."},
     {"diff", "OLD NEW ID", 3, 3, Target | Zoom | ShowAxis | SpriteFile | Force | Json,
      diffAnimations,
      "Print which frames and contact boxes of an animation differ between two games.",

@@ -138,7 +138,9 @@ void tick(const Game& game, const Inputs& inputs, State* state)
 
 void forceMove(const Game& game, int fighter, int move, State* state)
 {
-    Bout(game, *state).startMove(fighter, move);
+    Bout bout(game, *state);
+    bout.startMove(fighter, move);
+    hitFighters(bout);
 }
 
 }  // namespace Rules

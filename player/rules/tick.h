@@ -24,7 +24,8 @@ inline quint8 mirrored(quint8 signs, int facing)
 /// True if a fighter could start a move on the floor, or would in the air.
 bool isFree(const FighterState& fighter);
 
-/// Starts a move at once, whatever else goes on: for those who look at one move.
+/// Starts a move in the tick that a state is of, whatever else goes on: for those who look at one
+/// move. It hits in that tick if it can.
 void forceMove(const Game& game, int fighter, int move, State* state);
 
 }  // namespace Rules

@@ -2,6 +2,7 @@
 // docs. And matches at random, of the samples and of a game full of what nobody should write.
 
 #include "rules/gamereader.h"
+#include "rules/movefacts.h"
 #include "rules/tick.h"
 #include "script/description.h"
 #include "script/script.h"
@@ -12,6 +13,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -270,6 +272,8 @@ private slots:
     void rule();
     void sampleMove_data();
     void sampleMove();
+    void sampleFrames_data();
+    void sampleFrames();
     void sameInputsGiveSameStates();
     void limitsHold_data();
     void limitsHold();
@@ -433,6 +437,49 @@ void TestRules::sampleMove()
     QCOMPARE(move < 0 ? Player::actionName(state.fighters[0].action)
                       : game.fighters[0].moves.at(move).name,
              QString::fromUtf8(QTest::currentDataTag()));
+}
+
+void TestRules::sampleFrames_data()
+{
+    columns<QString>("fighter");
+    row("maren", QString("maren"));
+    row("iwao", QString("iwao"));
+}
+
+/// The comments of the samples come from the tables that the animations are made of.
+void TestRules::sampleFrames()
+{
+    const auto [fighter] = fetched<QString>();
+    static const QRegularExpression told(
+        "# start (\\d+), active (\\d+), recovery (\\d+): (\\d+) "
+        "ticks(?:, ([+-]\\d+) when it hits)?\\s+\\[move ([^]]+)\\]");
+    Game game;
+    QVERIFY(load(ZORV_SAMPLES "/arena", fighter, fighter, &game));
+    const QVector<Move>& moves = game.fighters[0].moves;
+    const QString text = QString::fromUtf8(
+        readFile(QStringLiteral(ZORV_SAMPLES "/arena/characters/%1/moves.code").arg(fighter)));
+    int count = 0;
+    for (auto found = told.globalMatch(text); found.hasNext(); ++count) {
+        const QRegularExpressionMatch match = found.next();
+        const auto move = std::find_if(moves.cbegin(), moves.cend(), [&](const Move& each) {
+            return each.name == match.captured(6);
+        });
+        QVERIFY(move != moves.cend());
+        const MoveFacts facts = factsOf(game.fighters[0], int(move - moves.cbegin()));
+        int active = 0;
+        for (const MoveFacts::Active& each : facts.active) {
+            active += each.ticks;
+        }
+        const auto number = [&match](int index) { return match.captured(index).toInt(); };
+        const QVector<int> expected{number(1), number(2), number(3), number(4)};
+        QCOMPARE((QVector<int>{facts.start, active, facts.recovery, facts.total}), expected);
+        QCOMPARE(facts.hit.isMet, !facts.isInAir);
+        QCOMPARE(facts.guard.isMet, !facts.isInAir && move->hit.level != HitLevel::Throw);
+        if (facts.hit.isMet && !facts.hit.falls) {
+            QCOMPARE(facts.hit.advantage, number(5));
+        }
+    }
+    QCOMPARE(count, 13);
 }
 
 /// From a copy in the middle the same comes out as without it, and the same as in other builds and
