@@ -146,7 +146,7 @@ QPoint ImageRendererPrivate::cursorPlace(ImageView view) const
     }
     const QPoint pixel = isCellShown ? toolPixel(cell) : toolPixel(exactPlace(mousePos), at);
     const double half = isCentered ? current->brushWidth() / 2.0 : 0.5;
-    return savePosition(place().toWidget(QPointF(pixel) + QPointF(half, half), at));
+    return pixelOf(place().toWidget(QPointF(pixel) + QPointF(half, half), at));
 }
 
 void ImageRendererPrivate::drawToolCursor(QPainter& painter, ImageView view)

@@ -106,6 +106,8 @@ private slots:
     void pressesOutOfOrder();
     void strokeStaysInItsView();
     void wideBrushes();
+    void cursorsFrameTheirPixels_data();
+    void cursorsFrameTheirPixels();
     void tellsWhatIsThere();
     void axisIsDraggedAtItsGrip();
 };
@@ -472,6 +474,55 @@ void TestImageRenderer::wideBrushes()
     QCOMPARE(painted(2, true, {41, 40}), QRect(9, 9, 2, 2));
     QCOMPARE(painted(2, true, {42, 43}), QRect(10, 10, 2, 2));
     QCOMPARE(painted(3, false, {43, 40}), QRect(10, 10, 3, 3));
+}
+
+void TestImageRenderer::cursorsFrameTheirPixels_data()
+{
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<QPoint>("to");
+    for (const int zoom : {3, 4, 5, 8}) {
+        for (const QPoint to : {QPoint(20, 18), QPoint(12, 20), QPoint(12, 11), QPoint(16, 16)}) {
+            QTest::addRow("%d to %d,%d", zoom, to.x(), to.y()) << zoom << to;
+        }
+    }
+}
+
+/// The pen has a white line around its pixels, a selection on the edge of them.
+void TestImageRenderer::cursorsFrameTheirPixels()
+{
+    QFETCH(int, zoom);
+    QFETCH(QPoint, to);
+    const QPoint from(16, 16);
+    View view({32, 32}, {300, 300}, ImageCanvas::IndexedFormat);
+    view.canvas.activeLayer()->pixels()->fill(1);
+    view.renderer.setVisibility(false, true);
+    view.renderer.setOption(ImageRenderer::CenteredBrush, true);
+    view.canvas.setZoomLevel(zoom);
+    const QPoint corner = view.renderer.zoomedRect().topLeft();
+    const auto framed = [&] {
+        const QImage image = view.shown({300, 300});
+        QRegion white;
+        for (int y = 0; y < 300; ++y) {
+            for (int x = 0; x < 300; ++x) {
+                white += image.pixel(x, y) == 0xffffffff ? QRect(x, y, 1, 1) : QRect();
+            }
+        }
+        return white.boundingRect();
+    };
+    const auto onScreen = [&](const QRect& pixels) {
+        return QRect(corner + pixels.topLeft() * zoom, pixels.size() * zoom);
+    };
+    for (int inside = 0; inside < zoom; ++inside) {
+        const QPoint at = corner + to * zoom + QPoint(inside, inside);
+        view.renderer.setCurrentTool(ImageTool::RectSelTool);
+        view.renderer.mousePressed(corner + from * zoom, Qt::LeftButton, Qt::NoModifier);
+        view.renderer.mouseMoved(at, Qt::NoModifier);
+        const QRect selected = QRect(from, from) | QRect(to, to);
+        QCOMPARE(framed(), onScreen(selected));
+        view.renderer.setCurrentTool(ImageTool::PenTool);
+        view.renderer.mouseMoved(at, Qt::NoModifier);
+        QCOMPARE(framed(), onScreen(QRect(to, to)).adjusted(-1, -1, 1, 1));
+    }
 }
 
 void TestImageRenderer::tellsWhatIsThere()

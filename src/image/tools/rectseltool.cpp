@@ -58,12 +58,14 @@ void RectSelTool::renderCursor(QPainter& painter, QPoint pos, double zoom)
     if (!isPressed()) {
         return;
     }
-    // The pixel under the mouse is all of it in.
+    // From the middle of the pixel under the mouse, which is in, to the other end.
     const QPoint span = lastPos() - m_first;
     const auto length = [zoom](int pixels) { return qRound((std::abs(pixels) + 1) * zoom); };
     const QSize size(length(span.x()), length(span.y()));
-    const QPoint corner(span.x() < 0 ? pos.x() : pos.x() - size.width(),
-                        span.y() < 0 ? pos.y() : pos.y() - size.height());
+    const auto begin = [zoom](int middle, int way) {
+        return middle - int(zoom / 2) - (way > 0 ? qRound(way * zoom) : 0);
+    };
+    const QPoint corner(begin(pos.x(), span.x()), begin(pos.y(), span.y()));
     setColor(painter, Qt::white);
     drawPlainRect(painter, {corner, size});
     setColor(painter, Qt::black);
