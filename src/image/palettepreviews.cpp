@@ -193,7 +193,7 @@ void PalettePreviewsPrivate::setCurrent(int index)
 
 void PalettePreviewsPrivate::choose(int index)
 {
-    if (index >= 0 && index < previews.size()) {
+    if (index >= 0 && index < previews.size() && isShown(canvas)) {
         setCurrent(index);
         emit owner->chosen(index);
     }

@@ -273,6 +273,7 @@ void SpriteEditor::cut()
 
 void SpriteEditor::copy()
 {
+    d->endPreview();
     ImageClipboard::copy(d->canvas());
 }
 

@@ -26,6 +26,12 @@ void SpriteEditorPrivate::connectLayers()
     connect(canvas(), &ImageCanvas::activeLayerChanged, this,
             &SpriteEditorPrivate::followActiveLayer);
     connect(canvas(), &ImageCanvas::formatChanged, this, &SpriteEditorPrivate::updateEnabled);
+    // In true colour what is painted has the colours that are shown.
+    connect(canvas(), &ImageCanvas::formatChanged, this, [this] {
+        if (canvas()->format() == ImageCanvas::RGBAFormat) {
+            endPreview();
+        }
+    });
     connect(layers(), &ImageLayers::changed, this, &SpriteEditorPrivate::showLayer);
 }
 

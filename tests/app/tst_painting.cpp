@@ -234,6 +234,17 @@ void TestPainting::decidesNoPixelByAPreview()
     trigger("spr_crop");
     QCOMPARE(canvas()->size(), size);
     QCOMPARE(editor()->colors()->color(1), Colours.at(1));
+    // What is copied comes back as the same entries.
+    const QVector<QRgb> others{0, Colours.at(2), Colours.at(3), Colours.at(1)};
+    editor()->previewColors(&others);
+    editor()->copy();
+    editor()->paste();
+    QVERIFY(differences(canvas()->mergeLayers(nullptr), picture(0)).isEmpty());
+    trigger("paint_to_true");
+    editor()->undo();
+    editor()->previewColors(&clear);
+    editor()->redo();
+    QCOMPARE(editor()->colors()->color(1), Colours.at(1));
 }
 
 /// A sprite without palette is painted in its own colours.
