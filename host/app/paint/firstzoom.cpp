@@ -6,7 +6,6 @@
 #include <zorv/image/spriteeditor.h>
 #include <zorv/image/spriteworkspace.h>
 
-#include <QEvent>
 #include <QScopedValueRollback>
 #include <QWidget>
 
@@ -24,7 +23,6 @@ FirstZoom::FirstZoom(Zorv::SpriteEditor* editor, QObject* parent)
     : QObject(parent), m_editor(editor)
 {
     const ImageCanvas* canvas = editor->renderer()->canvas();
-    editor->spriteWorkspace()->widget()->installEventFilter(this);
     connect(editor, &Zorv::SpriteEditor::spriteShown, this, [this] {
         if (m_hasPicture) {
             end();
@@ -40,12 +38,18 @@ FirstZoom::FirstZoom(Zorv::SpriteEditor* editor, QObject* parent)
     };
     connect(canvas->undoStack(), &Zorv::ImageUndoStack::indexChanged, this, endIfShown);
     connect(canvas, &ImageCanvas::zoomChanged, this, endIfShown);
+    // The middle of the view moves with its size.
+    connect(canvas, &ImageCanvas::positionChanged, this, &FirstZoom::fit);
 }
 
 void FirstZoom::fit()
 {
-    const QSize view = m_editor->spriteWorkspace()->widget()->size();
-    ImageCanvas* canvas = m_editor->renderer()->canvas();
+    const Zorv::ImageRenderer* renderer = m_editor->renderer();
+    QSize view = m_editor->spriteWorkspace()->widget()->size();
+    if (renderer->widget()) {
+        view.setWidth(renderer->splitX());
+    }
+    ImageCanvas* canvas = renderer->canvas();
     if (m_hasPicture && !canvas->size().isEmpty()) {
         const QScopedValueRollback<bool> fitting(m_isFitting, true);
         const int zoom =
@@ -56,18 +60,9 @@ void FirstZoom::fit()
 
 void FirstZoom::end()
 {
-    m_editor->spriteWorkspace()->widget()->removeEventFilter(this);
     disconnect(m_editor, nullptr, this, nullptr);
     disconnect(m_editor->renderer()->canvas(), nullptr, this, nullptr);
     disconnect(m_editor->renderer()->canvas()->undoStack(), nullptr, this, nullptr);
-}
-
-bool FirstZoom::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Resize) {
-        fit();
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 }  // namespace App

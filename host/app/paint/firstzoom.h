@@ -18,9 +18,6 @@ public:
     /// The editor outlives it.
     FirstZoom(Zorv::SpriteEditor* editor, QObject* parent);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void fit();
     void end();

@@ -213,7 +213,7 @@ void showPaint(MainWindow* window, const FamilyDocument* document)
     paint->showSprite(window->spritePanel()->sprites(), window->spritePanel()->currentRow());
     paint->costumes()->parentWidget()->show();
     settleWindow();
-    for (const char* name : {"paint_grid", "spr_layer_add", "spr_view_original"}) {
+    for (const char* name : {"paint_grid", "spr_view_original", "spr_layer_add"}) {
         window->actionByName(name)->trigger();
     }
     settleWindow();
