@@ -10,7 +10,6 @@
 #include <zorv/cache/palettes.h>
 
 #include <QLabel>
-#include <QSplitter>
 #include <QVBoxLayout>
 
 namespace App {
@@ -24,19 +23,11 @@ SpritePanel::SpritePanel(QWidget* parent)
 {
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* selected = new QWidget;
-    auto* column = new QVBoxLayout(selected);
-    column->setContentsMargins({});
-    column->addWidget(m_text);
-    column->addWidget(m_palette);
-    auto* splitter = new QSplitter(Qt::Vertical);
-    splitter->addWidget(m_list);
-    splitter->addWidget(selected);
-    splitter->setStretchFactor(0, 1);
-    splitter->setChildrenCollapsible(false);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(splitter);
+    layout->addWidget(m_list, 1);
+    layout->addWidget(m_text);
+    layout->addWidget(m_palette);
     setFocusProxy(m_list);
 
     connect(m_list, &SpriteList::currentRowChanged, this, &SpritePanel::updateCurrent);
