@@ -4028,6 +4028,147 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>ImagePreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+</context>
+<context>
+    <name>ImgInfoDlg</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Indexed colors</source>
+        <translation>Indizierte Farben</translation>
+    </message>
+    <message>
+        <source>True color</source>
+        <translation>Echtfarben</translation>
+    </message>
+    <message>
+        <source>&amp;Axis:</source>
+        <translation>&amp;Achse:</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>&amp;Form:</source>
+        <translation>&amp;Form:</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Gruppe:</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Nummer:</translation>
+    </message>
+    <message>
+        <source>Colors used:</source>
+        <translation>Benutzte Farben:</translation>
+    </message>
+    <message>
+        <source>many</source>
+        <translation>viele</translation>
+    </message>
+    <message>
+        <source>Palette:</source>
+        <translation>Palette:</translation>
+    </message>
+    <message>
+        <source>Codec:</source>
+        <translation>Codec:</translation>
+    </message>
+    <message>
+        <source>Nothing shows this sprite.</source>
+        <translation>Nichts zeigt dieses Sprite.</translation>
+    </message>
+    <message>
+        <source>Shown by:</source>
+        <translation>Gezeigt von:</translation>
+    </message>
+</context>
+<context>
+    <name>ImgResizeDlg</name>
+    <message>
+        <source>&amp;Keep proportions</source>
+        <translation>&amp;Seitenverhältnis behalten</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Größe ändern</translation>
+    </message>
+    <message>
+        <source>Scale the picture</source>
+        <translation>Bild skalieren</translation>
+    </message>
+    <message>
+        <source>Change the room around the picture</source>
+        <translation>Raum um das Bild ändern</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Breite:</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Höhe:</translation>
+    </message>
+    <message>
+        <source>&amp;Factor:</source>
+        <translation>&amp;Faktor:</translation>
+    </message>
+    <message>
+        <source>F&amp;ilter:</source>
+        <translation>F&amp;ilter:</translation>
+    </message>
+    <message>
+        <source>Picture at:</source>
+        <translation>Bild steht:</translation>
+    </message>
+</context>
+<context>
     <name>ImportDlg</name>
     <message>
         <source>Import from another project</source>
@@ -4978,6 +5119,44 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Channels:</source>
         <translation>Kanäle:</translation>
+    </message>
+</context>
+<context>
+    <name>ResizeFilters</name>
+    <message>
+        <source>Nearest pixel</source>
+        <translation>Nächster Bildpunkt</translation>
+    </message>
+    <message>
+        <source>Mixed colors</source>
+        <translation>Gemischte Farben</translation>
+    </message>
+    <message>
+        <source>Scale2x, sharp edges</source>
+        <translation>Scale2x, scharfe Kanten</translation>
+    </message>
+    <message>
+        <source>hq2x, smooth edges</source>
+        <translation>hq2x, weiche Kanten</translation>
+    </message>
+</context>
+<context>
+    <name>RotImgDlg</name>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>° clockwise</source>
+        <translation>° im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>&amp;Angle:</source>
+        <translation>&amp;Winkel:</translation>
+    </message>
+    <message>
+        <source>F&amp;ilter:</source>
+        <translation>F&amp;ilter:</translation>
     </message>
 </context>
 <context>
@@ -6998,38 +7177,6 @@ Ticks: ---</translation>
         <translation>%1, Alpha %2</translation>
     </message>
     <message>
-        <source>Resize</source>
-        <translation>Größe ändern</translation>
-    </message>
-    <message>
-        <source>Width and height in pixels:</source>
-        <translation>Breite und Höhe in Pixeln:</translation>
-    </message>
-    <message>
-        <source>Two numbers are needed, as in &quot;64 x 48&quot;. Width and height in pixels:</source>
-        <translation>Zwei Zahlen werden gebraucht, wie in &quot;64 x 48&quot;. Breite und Höhe in Pixeln:</translation>
-    </message>
-    <message>
-        <source>90 degrees clockwise</source>
-        <translation>90 Grad im Uhrzeigersinn</translation>
-    </message>
-    <message>
-        <source>180 degrees</source>
-        <translation>180 Grad</translation>
-    </message>
-    <message>
-        <source>90 degrees counterclockwise</source>
-        <translation>90 Grad gegen den Uhrzeigersinn</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>Drehen</translation>
-    </message>
-    <message>
-        <source>Turn all layers by:</source>
-        <translation>Alle Ebenen drehen um:</translation>
-    </message>
-    <message>
         <source>color %1, %2</source>
         <translation>Farbe %1, %2</translation>
     </message>
@@ -7103,6 +7250,10 @@ Ticks: ---</translation>
     <message>
         <source>The picture could not be saved into the sprite. It is too large for a sprite, or memory is short.</source>
         <translation>Das Bild konnte nicht ins Sprite gespeichert werden. Es ist zu groß für ein Sprite, oder der Speicher ist knapp.</translation>
+    </message>
+    <message>
+        <source>Renumber sprite</source>
+        <translation>Sprite umnummerieren</translation>
     </message>
 </context>
 <context>
@@ -7286,6 +7437,10 @@ Ticks: ---</translation>
     <message>
         <source>Restore unsaved work</source>
         <translation>Nicht gespeicherte Arbeit wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Change properties</source>
+        <translation>Eigenschaften ändern</translation>
     </message>
 </context>
 <context>

@@ -180,6 +180,10 @@ protected:
     /// with another number of them the collection numbers its new sprites. Here none.
     virtual void newIdentifiers(const QStringList& files, QList<QVariant>* identifiers);
 
+    /// The places that show the sprite in work, a line each for the person, for its properties.
+    /// False, as here, if they are not known.
+    virtual bool spriteUses(QStringList* places) const;
+
     /// Asked before the sprite in work is deleted, behind the question of "confirm_delete". False
     /// keeps it: for a host that knows who names it. Here true.
     virtual bool mayDeleteSprite();

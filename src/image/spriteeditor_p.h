@@ -5,6 +5,7 @@
 #include "editors/palette/colorpalette.h"
 #include "editors/palette/palettewidget.h"
 #include "image/canvas/canvascontent.h"
+#include "image/dialogs/imginfodlg.h"
 #include "image/imagerenderer.h"
 #include "image/spriteeditor.h"
 #include "image/spriteworkspace.h"
@@ -139,6 +140,10 @@ public:
     bool storeImage(const QImage& image, const QPoint& corner, const std::function<void()>& store);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    // spriteeditorsize.cpp
+    ImgInfoDlg::Facts facts();
+    void renumber(SpriteNumber number);
+
     // spriteeditorlayers.cpp
     void connectLayers();
     void followActiveLayer();
@@ -206,6 +211,7 @@ public slots:
     void layerBlending(int index);
     void layerOpacity(int percent);
     void imgViewOrig(bool isOn);
+    void imgProps();
     void imgRotate();
     void imgFlipH();
     void imgFlipV();

@@ -65,6 +65,7 @@ const Tool table[] = {
     {"spr_layer_mergevis",    MenuAction,  121, onCanvas,  SLOT(layerMergeVis()),     nullptr},
     {"spr_layer_mergeall",    MenuAction,  122, onCanvas,  SLOT(layerMergeAll()),     nullptr},
     {"spr_view_original",     CheckAction, 131, onCanvas,  SLOT(imgViewOrig(bool)),   nullptr},
+    {"spr_image_properties",  Action,      133, onCanvas,  SLOT(imgProps()),          nullptr},
     {"spr_select_all",        Action,      141, onCanvas,  SLOT(selAll()),            nullptr},
     {"spr_select_none",       Action,      142, onCanvas,  SLOT(selNone()),           nullptr},
     {"spr_select_invert",     Action,      143, onCanvas,  SLOT(selInv()),            nullptr},

@@ -50,6 +50,7 @@ const struct
     {"moveSelection", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Move selection")},
     {"paste", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Paste")},
     {"pen", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Draw")},
+    {"properties", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Change properties")},
     {"replace", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Replace colors")},
     {"restore", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Restore unsaved work")},
     {"resize", QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Resize image")},

@@ -15,19 +15,27 @@
 #include <zorv/editors/palette/paldlg.h>
 #include <zorv/image/canvas/imagecanvas.h>
 #include <zorv/image/canvas/imagelayer.h>
+#include <zorv/image/dialogs/imginfodlg.h>
+#include <zorv/image/dialogs/imgresizedlg.h>
+#include <zorv/image/dialogs/rotimgdlg.h>
 #include <zorv/image/imagerenderer.h>
 #include <zorv/image/spriteeditor.h>
 #include <zorv/image/spriteworkspace.h>
 #include <zorv/media/pcx.h>
+#include <zorv/media/tools/rotateimage.h>
 #include <zorv/text/zorvtranslator.h>
 
 #include <QAction>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QRandomGenerator>
 #include <QTimer>
+#include <QToolButton>
 
 namespace {
 
@@ -80,6 +88,10 @@ private slots:
     void changesTheImage();
     void outlivesTheDialogOfPalettes();
     void savesImages();
+    void resizes_data();
+    void resizes();
+    void turns();
+    void changesProperties();
     void canAllBeTakenBack();
 
 private:
@@ -166,6 +178,9 @@ void TestSpriteActions::publishesItsTools_data()
     row("spr_delete", 123);
     row("spr_openimg", 124);
     row("spr_saveimgas", 126);
+    row("spr_resize", 134);
+    row("spr_image_rotate", 136);
+    row("spr_image_properties", 133);
     row("spr_duplicate", 128);
     row("spr_split_channels", 139);
     row("spr_frame_spr", 130, true);
@@ -571,6 +586,108 @@ void TestSpriteActions::savesImages()
         trigger("spr_saveimgas");
         QCOMPARE(QDir(m_folder->path()).entryList({"out%1_*.png"}).size(), 4);
     }
+}
+
+void TestSpriteActions::resizes_data()
+{
+    columns<int, QString, double, QSize, QPoint>("mode", "field", "value", "size", "axis");
+    const int scale = ImgResizeDlg::ScalePicture;
+    const int room = ImgResizeDlg::ChangeCanvas;
+    QTest::newRow("width") << scale << "width" << 32.0 << QSize(32, 24) << QPoint(16, 22);
+    QTest::newRow("factor") << scale << "factor" << 0.5 << QSize(8, 6) << QPoint(4, 6);
+    QTest::newRow("too small") << scale << "factor" << 0.01 << QSize(1, 1) << QPoint(1, 1);
+    QTest::newRow("room") << room << "width" << 20.0 << QSize(20, 12) << QPoint(12, 11);
+    QTest::newRow("less room") << room << "height" << 2.0 << QSize(16, 2) << QPoint(8, 1);
+}
+
+/// As the dialog shows it; less room is taken from above, and more is added at the left.
+void TestSpriteActions::resizes()
+{
+    const auto [mode, field, value, size, axis] = fetched<int, QString, double, QSize, QPoint>();
+    show(0);
+    const QImage before = canvas()->mergeLayers(nullptr);
+    QSize chosen;
+    inDialog<ImgResizeDlg>([&, mode = mode, field = field, value = value](ImgResizeDlg* dialog) {
+        dialog->findChild<QComboBox*>("mode")->setCurrentIndex(mode);
+        const QList<QToolButton*> anchors = dialog->findChildren<QToolButton*>();
+        QCOMPARE(anchors.size(), 9);
+        anchors.last()->click();
+        if (auto* real = dialog->findChild<QDoubleSpinBox*>(field)) {
+            real->setValue(value);
+        } else {
+            dialog->findChild<QSpinBox*>(field)->setValue(int(value));
+        }
+        QVERIFY(!dialog->grab().isNull());
+        chosen = dialog->chosenSize();
+        dialog->accept();
+    });
+    trigger("spr_resize");
+    QVERIFY(m_isSeen);
+    QCOMPARE(chosen, size);
+    QCOMPARE(canvas()->size(), size);
+    QCOMPARE(canvas()->axis(), axis);
+    if (mode == ImgResizeDlg::ChangeCanvas) {
+        const QPoint corner(size.width() - 16, size.height() - 12);
+        QCOMPARE(canvas()->mergeLayers(nullptr).copy(QRect(corner, before.size()) &
+                                                     QRect(QPoint(), size)),
+                 before.copy(QRect(-corner, size) & before.rect()));
+    }
+    trigger("undo");
+    QCOMPARE(canvas()->mergeLayers(nullptr), before);
+    QVERIFY(!editor()->isCanvasModified());
+}
+
+void TestSpriteActions::turns()
+{
+    show(0);
+    const QImage before = canvas()->mergeLayers(nullptr);
+    for (const double angle : {90.0, 33.5}) {
+        inDialog<RotImgDlg>([angle](RotImgDlg* dialog) {
+            dialog->findChild<QDoubleSpinBox*>("angle")->setValue(angle);
+            dialog->accept();
+        });
+        trigger("spr_image_rotate");
+        QVERIFY(m_isSeen);
+        const QImage expected =
+            Zorv::rotateImage(before, float(angle), 0, Zorv::ImageResizeFilter::Nearest);
+        QCOMPARE(canvas()->mergeLayers(nullptr).size(), expected.size());
+        trigger("undo");
+    }
+    inDialog<RotImgDlg>([](RotImgDlg* dialog) { dialog->reject(); });
+    trigger("spr_image_rotate");
+    QVERIFY(m_isSeen && !editor()->isCanvasModified());
+}
+
+/// Facts are told; what is changed on the canvas is one step of it, the number one of the file.
+void TestSpriteActions::changesProperties()
+{
+    const QByteArray first = written();
+    show(2);
+    inDialog<ImgInfoDlg>([this](ImgInfoDlg* dialog) {
+        const auto text = [dialog](const char* name) {
+            return dialog->findChild<QLabel*>(name)->text();
+        };
+        QCOMPARE(text("colors"), QStringLiteral("4"));
+        QCOMPARE(text("palette"), sprites()->sprite(2)->property("Palette").toString());
+        QVERIFY(dialog->findChild<QPlainTextEdit*>("uses")->toPlainText().contains("basic.anim"));
+        dialog->findChild<QSpinBox*>("group")->setValue(77);
+        dialog->findChild<QSpinBox*>("x")->setValue(-3);
+        dialog->findChild<QSpinBox*>("width")->setValue(20);
+        dialog->findChild<QComboBox*>("form")->setCurrentIndex(1);
+        dialog->accept();
+    });
+    trigger("spr_image_properties");
+    QVERIFY(m_isSeen);
+    QCOMPARE(sprites()->sprite(2)->id().text(), QStringLiteral("77,2"));
+    QCOMPARE(canvas()->size(), QSize(20, 12));
+    QCOMPARE(canvas()->axis(), QPoint(-3, 11));
+    QCOMPARE(canvas()->format(), Zorv::ImageCanvas::RGBAFormat);
+    QCOMPARE(editor()->undoTitle(), QStringLiteral("Change properties"));
+    trigger("undo");
+    QVERIFY(!editor()->isCanvasModified());
+    trigger("undo");
+    QCOMPARE(written(), first);
+    QCOMPARE(editor()->spriteIndex(), 2);
 }
 
 /// Whatever is done, in any order, undo leads back to the first bytes.

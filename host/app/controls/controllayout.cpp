@@ -203,6 +203,7 @@ const QVector<const char*>& orderOf(const QString& bar)
           "spr_image_fliph",
           "spr_image_flipv",
           "spr_split_channels",
+          "spr_image_properties",
           nullptr,
           "spr_select_all",
           "spr_select_none",

@@ -150,6 +150,9 @@ MainWindow::MainWindow(QWidget* parent)
     m_sounds = new SoundCommands(m_services);
     m_problems = new ProblemWatch(m_services);
     m_services.mayRemove = [this](const auto& removal) { return m_problems->mayRemove(removal); };
+    m_services.findUses = [this](const auto& what, QStringList* places) {
+        return m_problems->findUses(what, places);
+    };
     m_messagePanel = new MessagePanel(m_services, m_problems);
     m_router = new CommandRouter(m_services);
     m_commands = new WindowCommands(this);

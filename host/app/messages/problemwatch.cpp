@@ -239,6 +239,15 @@ bool ProblemWatch::settle()
     return m_check->waitForDone(SettleTime);
 }
 
+bool ProblemWatch::findUses(const Operations::Removal& what, QStringList* places)
+{
+    if (m_folder.isEmpty() || !settle()) {
+        return false;
+    }
+    *places = Operations::inWords(Operations::usesOf(what, m_check->projects()));
+    return true;
+}
+
 /// While nothing is checked, the files on the disk tell who uses it.
 bool ProblemWatch::mayRemove(const std::function<Operations::Removal()>& removal)
 {

@@ -56,6 +56,10 @@ public:
     /// Hands over what has changed and waits until all of it is checked. False if that takes long.
     bool settle();
 
+    /// The places that name something, a line each, of at most ten. False while the game is not
+    /// checked, or no game is open.
+    bool findUses(const Operations::Removal& what, QStringList* places);
+
     /// Tells the person who uses what is to be removed, if anybody does, and asks. True to remove
     /// it.
     bool mayRemove(const std::function<Operations::Removal()>& removal);

@@ -6,31 +6,45 @@
 
 namespace App {
 
-FamilySpriteEditor::FamilySpriteEditor(const RemovalCheck& mayRemove, QObject* parent)
-    : SpriteEditor(parent), m_mayRemove(mayRemove)
+FamilySpriteEditor::FamilySpriteEditor(const WindowServices& services, QObject* parent)
+    : SpriteEditor(parent), m_services(services)
 {
 }
 
 void FamilySpriteEditor::newIdentifiers(const QStringList& files, QList<QVariant>* identifiers)
 {
-    const auto* collection = static_cast<Family::SpriteCollection*>(sprites());
-    const Family::FamilySprite* current = collection->sprite(spriteIndex());
+    const Family::SpriteCollection* all = collection();
+    const Family::FamilySprite* current = all->sprite(spriteIndex());
     Family::AssetId first;
     first.group = current ? current->id().group : first.group;
-    const auto free = [collection](Family::AssetId from) { return collection->freeId(from); };
+    const auto free = [all](Family::AssetId from) { return all->freeId(from); };
     for (const Family::AssetId id : Operations::newIds(files, free, first)) {
         identifiers->append(id.text());
     }
 }
 
+/// Another sprite of the same number does not take its place here.
+bool FamilySpriteEditor::spriteUses(QStringList* places) const
+{
+    const Family::FamilySprite* current = collection()->sprite(spriteIndex());
+    return current &&
+           m_services.findUses(
+               {Operations::Removal::Sprites, collection()->fileName(), {current->id().text()}, {}},
+               places);
+}
+
 bool FamilySpriteEditor::mayDeleteSprite()
 {
-    return m_mayRemove([this] {
-        const auto* collection = static_cast<Family::SpriteCollection*>(sprites());
-        return collection ? Operations::removalOf(Operations::Removal::Sprites, *collection,
-                                                  {spriteIndex()})
-                          : Operations::Removal();
+    return m_services.mayRemove([this] {
+        return sprites() ? Operations::removalOf(Operations::Removal::Sprites, *collection(),
+                                                 {spriteIndex()})
+                         : Operations::Removal();
     });
+}
+
+Family::SpriteCollection* FamilySpriteEditor::collection() const
+{
+    return static_cast<Family::SpriteCollection*>(sprites());
 }
 
 }  // namespace App

@@ -4,6 +4,10 @@
 
 #include <zorv/image/spriteeditor.h>
 
+namespace Family {
+class SpriteCollection;
+}
+
 namespace App {
 
 /// The library's editor of sprites for those of the family: new ones are numbered as the names of
@@ -14,14 +18,17 @@ class FamilySpriteEditor : public Zorv::SpriteEditor
     Q_OBJECT
 
 public:
-    explicit FamilySpriteEditor(const RemovalCheck& mayRemove, QObject* parent = nullptr);
+    explicit FamilySpriteEditor(const WindowServices& services, QObject* parent = nullptr);
 
 protected:
     void newIdentifiers(const QStringList& files, QList<QVariant>* identifiers) override;
+    bool spriteUses(QStringList* places) const override;
     bool mayDeleteSprite() override;
 
 private:
-    RemovalCheck m_mayRemove;
+    Family::SpriteCollection* collection() const;
+
+    const WindowServices& m_services;
 };
 
 }  // namespace App

@@ -51,7 +51,7 @@ const char* const canvasKeys[] = {
 
 PaintCommands::PaintCommands(const WindowServices& services)
     : QObject(services.window), m_services(services),
-      m_editor(new FamilySpriteEditor(services.mayRemove, this)),
+      m_editor(new FamilySpriteEditor(services, this)),
       m_animations(
           qobject_cast<Zorv::AnimationEditor*>(services.editors->byName(QStringLiteral("anim")))),
       m_shine(new FrameShine(m_editor, m_animations, this)),

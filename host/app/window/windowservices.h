@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QStringList>
 
 #include <functional>
 
@@ -22,6 +23,9 @@ class StatusFields;
 /// what the person was not asked about stays.
 using RemovalCheck = std::function<bool(const std::function<Operations::Removal()>& removal)>;
 
+/// The places that name what is told, a line each for the person. False while that is not known.
+using UseFinder = std::function<bool(const Operations::Removal& what, QStringList* places)>;
+
 /// What the parts of the window use of it, and of each other. All of it outlives them, and is
 /// there when the first of them is made.
 struct WindowServices
@@ -34,6 +38,7 @@ struct WindowServices
     PartList* parts = nullptr;
     Jumps* jumps = nullptr;
     RemovalCheck mayRemove;
+    UseFinder findUses;
 };
 
 }  // namespace App

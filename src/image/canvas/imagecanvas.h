@@ -122,6 +122,9 @@ public:
     QPoint axis() const;
     void setAxis(const QPoint& axis);
 
+    /// Sets it as a step, "axis".
+    void moveAxis(const QPoint& axis);
+
     /// All visible layers as one image of the size and form of the canvas, an indexed one with
     /// the palette as its table. `name` takes the name of the lowest visible layer.
     ///

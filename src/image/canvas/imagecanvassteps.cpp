@@ -69,6 +69,15 @@ bool ImageCanvasPrivate::resizeLayers(const QSize& newSize, const QPoint& corner
     return forLayers([&](ImageLayer& layer) { return layer.resize(newSize, corner, fill()); });
 }
 
+void ImageCanvas::moveAxis(const QPoint& axis)
+{
+    endStroke();
+    d->macro("axis", [&] {
+        d->recordAxis(axis);
+        return true;
+    });
+}
+
 bool ImageCanvas::setFormat(Format format, bool record)
 {
     endStroke();

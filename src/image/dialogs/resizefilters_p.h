@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QComboBox>
+
+/// The filters, in the order of `Zorv::ImageResizeFilter`.
+QComboBox* makeFilterBox();
