@@ -229,24 +229,31 @@ void TestImageRenderer::zooms()
     QTEST(found, "expected");
 }
 
+/// Also in the middle of a drag of the picture.
 void TestImageRenderer::zoomsAboutThePointer()
 {
     View view({300, 200}, {500, 400}, ImageCanvas::RGBAFormat);
     view.renderer.setVisibility(true, true);
+    view.renderer.setCurrentTool(ImageTool::CanvasMoveTool);
     QRandomGenerator random(seed);
     for (int i = 0; i < 200; ++i) {
         view.canvas.setZoomLevel(random.bounded(2) ? 1 + random.bounded(4) : 0.25 * (1 << i % 4));
         view.canvas.setPosition({random.bounded(600), random.bounded(600)});
         const QPoint pos(250 + random.bounded(250), random.bounded(400));
+        if (i % 2) {
+            view.renderer.mousePressed(pos + QPoint(5, 3), Qt::LeftButton, Qt::NoModifier);
+        }
         view.renderer.mouseMoved(pos, Qt::NoModifier);
         const QPoint before = view.renderer.pixelAt(pos, true);
         view.renderer.mouseWheel(120);
+        view.renderer.mouseMoved(pos, Qt::NoModifier);
         const QPoint way = view.renderer.pixelAt(pos, true) - before;
         // Zoomed out, a pixel of the screen is several of the canvas.
         const int most =
             view.canvas.zoomLevel() < 2 ? int(std::ceil(1 / view.canvas.zoomLevel())) * 2 : 0;
         QVERIFY2(std::max(std::abs(way.x()), std::abs(way.y())) <= most,
                  qPrintable(QStringLiteral("%1: %2,%3").arg(i).arg(way.x()).arg(way.y())));
+        view.renderer.mouseReleased(pos, Qt::LeftButton, Qt::NoModifier);
     }
 }
 

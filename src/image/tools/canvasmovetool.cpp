@@ -17,6 +17,7 @@ void CanvasMoveTool::mousePressed(Qt::KeyboardModifiers, Qt::MouseButton button,
     cursor = Qt::ClosedHandCursor;
     if (beginPress(button, screen, image)) {
         m_position = canvas()->position();
+        m_shown = m_position;
     }
 }
 
@@ -33,7 +34,10 @@ void CanvasMoveTool::mouseMoved(Qt::KeyboardModifiers, QPoint screen, QPoint ima
     setLastPos(image);
     cursor = isPressed() ? Qt::ClosedHandCursor : Qt::OpenHandCursor;
     if (isPressed()) {
+        // The wheel may have zoomed meanwhile, about the mouse.
+        m_position += canvas()->position() - m_shown;
         canvas()->setPosition(m_position + screen - pressPos());
+        m_shown = canvas()->position();
     }
 }
 

@@ -21,6 +21,7 @@ public:
 
 private:
     QPoint m_position;  ///< of the canvas, when the press began
+    QPoint m_shown;     ///< as the last move left it
 };
 
 }  // namespace Zorv
