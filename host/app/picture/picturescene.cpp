@@ -212,6 +212,8 @@ void showPaint(MainWindow* window, const FamilyDocument* document)
     PaintCommands* paint = window->paint();
     paint->showSprite(window->spritePanel()->sprites(), window->spritePanel()->currentRow());
     paint->costumes()->parentWidget()->show();
+    // The zoom follows the room until a layer is added.
+    settleWindow();
     settleWindow();
     for (const char* name : {"paint_grid", "spr_view_original", "spr_layer_add"}) {
         window->actionByName(name)->trigger();
