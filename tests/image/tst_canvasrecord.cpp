@@ -1,3 +1,4 @@
+#include "image/canvas/canvascontent.h"
 #include "image/canvas/canvasrecord.h"
 #include "image/canvas/imageundostack.h"
 #include "support/canvasstate.h"
@@ -18,6 +19,7 @@ private slots:
     void comesBackWhole_data();
     void comesBackWhole();
     void brokenBytesAreNone();
+    void contentComesBack();
 };
 
 namespace {
@@ -116,6 +118,46 @@ void TestCanvasRecord::brokenBytesAreNone()
             QVERIFY(read.layers.first().image.size() == read.size);
         }
     }
+}
+
+/// What was taken out is there again, state for state, though the canvas was another one meanwhile.
+void TestCanvasRecord::contentComesBack()
+{
+    TestImagePalette palette;
+    ImageCanvas canvas(&palette);
+    fill(&canvas, true, 3, 4);
+    ImageUndoStack* history = canvas.undoStack();
+    QVector<QByteArray> states{stateOf(canvas)};
+    const auto step = [&](bool isDone) {
+        QVERIFY(isDone);
+        states.append(stateOf(canvas));
+    };
+    step(canvas.flip(true, false));
+    step(canvas.resize({50, 9}, ImageResizeFilter::Nearest));
+    canvas.layers()->remove(canvas.layers()->at(1), true);
+    step(canvas.convertTo(ImageCanvas::RGBAFormat));
+    states.insert(3, QByteArray());
+    QRandomGenerator random(6);
+    step(canvas.setSelection(noise(canvas.size(), true, &random)));
+    history->undo();
+    states.removeLast();
+    const int count = history->count();
+    std::unique_ptr<CanvasContent> content = canvas.takeContent();
+    QVERIFY(canvas.layers()->count() == 0 && history->count() == 0 && history->isClean());
+    fill(&canvas, false, 2, 5);
+    canvas.flip(true, true);
+    const QByteArray other = stateOf(canvas);
+    std::unique_ptr<CanvasContent> second = canvas.takeContent();
+    canvas.putContent(std::move(content));
+    QCOMPARE(history->count(), count);
+    for (int i = states.size() - 1; i >= 0; --i) {
+        QVERIFY(states.at(i).isEmpty() || stateOf(canvas) == states.at(i));
+        QCOMPARE(history->isClean(), i == 0);
+        history->undo();
+    }
+    canvas.putContent(std::move(second));
+    QCOMPARE(stateOf(canvas), other);
+    QVERIFY(!history->isClean() && !history->canRedo());
 }
 
 QTEST_MAIN(TestCanvasRecord)
