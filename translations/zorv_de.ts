@@ -880,6 +880,17 @@
     </message>
 </context>
 <context>
+    <name>App::Hearing</name>
+    <message>
+        <source>Save sounds as</source>
+        <translation>Klänge speichern unter</translation>
+    </message>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
+    </message>
+</context>
+<context>
     <name>App::KeySheet</name>
     <message>
         <source>Keys of Zorv</source>

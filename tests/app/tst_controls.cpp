@@ -226,9 +226,9 @@ void TestControls::choosesRows()
 
 void TestControls::enablesActions()
 {
-    QAction* action = addAction("snd_thing", sprites);
+    QAction* action = addAction("other_thing", sprites);
     auto* button = qobject_cast<QToolButton*>(
-        m->host.addControl(QStringLiteral("snd_thing"), Zorv::ToolButtonControl(action)));
+        m->host.addControl(QStringLiteral("other_thing"), Zorv::ToolButtonControl(action)));
     QVERIFY(button);
     QTRY_VERIFY(button->isVisible());
     emit m_publisher->enabled(true);
@@ -272,7 +272,7 @@ void TestControls::placesByName_data()
     row("spr_layer_add", "layers", "layers");
     row("spr_tool_pen", "sprite_tools_bar", "paint");
     row("pal_add", "palette", "pal");
-    row("snd_play", "sound_bar", "snd");
+    row("snd_thing", "sound_bar", "snd");
     row("other_thing", "other_bar", "edit");
 }
 
@@ -280,7 +280,7 @@ void TestControls::placesByName()
 {
     const auto [bar, menu] = fetched<QString, QString>();
     const TemporaryGame game;
-    m->window->resize(1600, 900);
+    m->window->resize(3000, 900);  // bars have room for all of their tools
     m->open(game, game.ryn(), game.animations());
     const char* name = QTest::currentDataTag();
     const char* area = bar == QLatin1String("organizer") ? "all" : "sprites";
@@ -288,7 +288,9 @@ void TestControls::placesByName()
     auto* button = qobject_cast<QWidget*>(
         m->host.addControl(QLatin1String(name), Zorv::ToolButtonControl(action)));
     QCoreApplication::processEvents();
-    m->window->registry()->setActiveAreas({QStringLiteral("animations"), QLatin1String(area)});
+    m->host.setMenuEnabled("snd", "sounds", true);
+    m->window->registry()->setActiveAreas(
+        {QStringLiteral("animations"), QStringLiteral("sounds"), QLatin1String(area)});
     QTRY_VERIFY(button->isVisible());
     const QWidget* place = button;
     while (place && place->objectName() != bar) {
@@ -304,6 +306,7 @@ void TestControls::showsMenusOnDemand()
 {
     for (const char* name : {"spr", "pal", "snd"}) {
         const QAction* entry = m->host.menu(name)->menuAction();
+        m->host.setMenuEnabled(name, "sprites", true);
         QVERIFY(entry->isVisible());
         m->host.setMenuEnabled(name, "sprites", false);
         m->host.menu(name)->addAction(QStringLiteral("More"));
@@ -316,16 +319,20 @@ void TestControls::showsMenusOnDemand()
 
 void TestControls::hidesAMenuWithItsTools()
 {
-    QAction* action = addAction("snd_play");
+    m->window->resize(3000, 900);
+    QAction* action = addAction("snd_thing");
     emit m_publisher->enabled(true);
     auto* button = qobject_cast<QWidget*>(
-        m->host.addControl(QStringLiteral("snd_play"), Zorv::ToolButtonControl(action)));
+        m->host.addControl(QStringLiteral("snd_thing"), Zorv::ToolButtonControl(action)));
+    QCoreApplication::processEvents();
+    m->window->registry()->setActiveAreas({QStringLiteral("sounds")});
+    m->host.setMenuEnabled("snd", "sounds", true);
     QTRY_VERIFY(button->isVisible());
     m->host.setMenuEnabled("snd", "sounds", false);
     QVERIFY(!button->isVisible());
-    QVERIFY(!m->window->registry()->isMenuVisible(QStringLiteral("snd_play")));
+    QVERIFY(!m->window->registry()->isMenuVisible(QStringLiteral("snd_thing")));
     // Its keys are gone with it.
-    m->window->registry()->setShortcut(QStringLiteral("snd_play"), QKeySequence("Ctrl+Alt+9"));
+    m->window->registry()->setShortcut(QStringLiteral("snd_thing"), QKeySequence("Ctrl+Alt+9"));
     QTest::keyClick(m->window.get(), Qt::Key_9, Qt::ControlModifier | Qt::AltModifier);
     QCOMPARE(m_publisher->told, QVariantList());
     m->host.setMenuEnabled("snd", "sounds", true);
@@ -359,11 +366,13 @@ void TestControls::staysSwitchedOff()
 {
     const auto publish = [this] {
         add("pal_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
-        add("snd_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
+        add("snd_other", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
+        m->host.setMenuEnabled("snd", "sounds", true);
         QTest::qWait(1);
     };
     const auto isShown = [this](const char* name) {
-        m->window->registry()->setActiveAreas({QStringLiteral("sprites")});
+        m->window->registry()->setActiveAreas(
+            {QStringLiteral("sprites"), QStringLiteral("sounds")});
         return m->window->findChild<QWidget*>(QLatin1String(name))->isVisible();
     };
     publish();
@@ -391,10 +400,10 @@ void TestControls::goesWithItsReceiver()
         "other_list", WidgetControl(WidgetControl::ListView, 3, m_publisher.get(),
                                     SLOT(rowChosen(QModelIndex)), nullptr, SIGNAL(enabled(bool))));
     const QPointer<QWidget> slider =
-        add("snd_sel", WidgetControl(WidgetControl::Slider, 3, m_publisher.get(),
-                                     SLOT(numberChosen(int)), SIGNAL(setNumber(int))));
+        add("more_sel", WidgetControl(WidgetControl::Slider, 3, m_publisher.get(),
+                                      SLOT(numberChosen(int)), SIGNAL(setNumber(int))));
     const auto* panel = m->window->findChild<QToolBar*>(QStringLiteral("other_bar"));
-    const auto* bar = m->window->findChild<QToolBar*>(QStringLiteral("sound_bar"));
+    const auto* bar = m->window->findChild<QToolBar*>(QStringLiteral("more_bar"));
     QTRY_VERIFY(panel->isVisible() && bar->isVisible());
     m_publisher.reset();
     QVERIFY(!action || !action->isEnabled());

@@ -61,14 +61,14 @@ class SecondEditor : public Zorv::FileEditor
 public:
     explicit SecondEditor(SecondWorkspace* workspace)
         : m_workspace(workspace),
-          m_action(host()->createEditorAction(QStringLiteral("editor_snd"), nullptr, 0))
+          m_action(host()->createEditorAction(QStringLiteral("editor_own"), nullptr, 0))
     {
     }
 
     QAction* action() const override { return m_action; }
-    QString name() const override { return QStringLiteral("snd"); }
+    QString name() const override { return QStringLiteral("own"); }
     int canEditFileType() const override { return 0; }
-    QStringList areas() const override { return {QStringLiteral("sounds")}; }
+    QStringList areas() const override { return {QStringLiteral("owns")}; }
     Zorv::Workspace* workspace() const override { return m_workspace; }
     void activate() override
     {
@@ -146,7 +146,7 @@ void TestEditors::init()
     m = std::make_unique<WindowFixture>();
     m_workspace = std::make_unique<SecondWorkspace>();
     m_editor = std::make_unique<SecondEditor>(m_workspace.get());
-    window()->editors()->add(m_editor.get(), Zorv::FileID::Sounds);
+    window()->editors()->add(m_editor.get(), Zorv::FileID::Commands);
     m->open(m_game, m_game.ryn());
     m_editor->log.clear();
 }
@@ -171,7 +171,7 @@ void TestEditors::comesToTheFront()
     m->goTo(3, 2);
     auto* bar = window()->findChild<QToolBar*>(QStringLiteral("editors_bar"));
     QTRY_VERIFY(bar->isVisible());
-    QCOMPARE(bar->actions().size(), 4);
+    QCOMPARE(bar->actions().size(), 5);
     QTest::mouseClick(bar->widgetForAction(m_editor->action()), Qt::LeftButton);
     QCOMPARE(m->host.currentEditor(), m_editor.get());
     QCOMPARE(m_editor->log, QStringList(QStringLiteral("active")));
@@ -181,7 +181,7 @@ void TestEditors::comesToTheFront()
     QVERIFY(m_editor->action()->isChecked() && !window()->textEditor()->isActive());
     // Tools of the area that is in front are of use, and those of texts are not.
     QTRY_COMPARE(window()->registry()->activeAreas()->areas(),
-                 QSet<QString>{QStringLiteral("sounds")});
+                 QSet<QString>{QStringLiteral("owns")});
     QVERIFY(!m->action("code_goto")->isEnabled() && !m->action("close_text")->isEnabled());
 
     window()->textEditor()->action()->trigger();
@@ -251,7 +251,7 @@ void TestEditors::textsComeWithTheStage()
 
 void TestEditors::isFoundByItsNames()
 {
-    for (const char* name : {"snd", "sounds"}) {
+    for (const char* name : {"own", "owns"}) {
         QCOMPARE(m->host.editorByName(name), m_editor.get());
     }
     for (const char* name : {"spr", "sprites", "pal"}) {
@@ -264,7 +264,8 @@ void TestEditors::isFoundByItsNames()
     for (const char* name : {"all", ""}) {
         QVERIFY2(!m->host.editorByName(name), name);
     }
-    QCOMPARE(m->host.fileEditor(&m_editor->file_, Zorv::FileID::Sounds), m_editor.get());
+    m_editor->action()->trigger();  // others are in charge of the kind as well
+    QCOMPARE(m->host.fileEditor(&m_editor->file_, Zorv::FileID::Commands), m_editor.get());
 }
 
 void TestEditors::takesTheCommands()

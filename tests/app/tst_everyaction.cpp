@@ -3,7 +3,12 @@
 #include "app/actions/actionregistry.h"
 #include "app/assets/spritepanel.h"
 #include "app/paint/paintcommands.h"
+#include "app/sounds/hearing.h"
 #include "family/nodes/animationnode.h"
+
+#include <zorv/editors/framework/workspace.h>
+#include <zorv/editors/sound/audiosamplewidget.h>
+#include <zorv/editors/sound/soundeditor.h>
 
 #include <QAction>
 #include <QApplication>
@@ -101,6 +106,14 @@ void TestEveryAction::prepare(const QString& name)
     m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};  // a sprite in use may go
     QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_delete")->isEnabled() &&
                 m->action("anim_next_frame")->isEnabled());
+    if (name.startsWith(QLatin1String("snd_"))) {
+        m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
+        m->window->hearing()->showSound(1);
+        auto* waveform = static_cast<Zorv::AudioSampleWidget*>(
+            m->window->hearing()->editor()->workspace()->widget());
+        waveform->showNow();
+        waveform->setSelection({10, 100});
+    }
     if (name.startsWith(QLatin1String("spr_")) || name.startsWith(QLatin1String("paint_"))) {
         m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
         m->window->paint()->showSprite(m->window->spritePanel()->sprites(), 1);

@@ -59,6 +59,7 @@ LAYERS = {
     "host/app/recovery/": 26,
     "host/app/run/": 26,
     "host/app/settings/": 26,
+    "host/app/sounds/": 26,
     "host/app/stage/": 26,
     "host/app/main/": 27,
     "host/app/picture/": 27,

@@ -26,7 +26,7 @@ const QVector<MenuRow>& menuTable()
         {"layers", QT_TRANSLATE_NOOP("App::Menus", "&Layers"), "all", "spr.parts"},
         {"select", QT_TRANSLATE_NOOP("App::Menus", "Sele&ction"), "all", "spr.parts"},
         {"pal", QT_TRANSLATE_NOOP("App::Menus", "Pa&lettes"), "files"},
-        {"snd", QT_TRANSLATE_NOOP("App::Menus", "S&ounds"), "files"},
+        {"snd", QT_TRANSLATE_NOOP("App::Menus", "S&ounds"), "files list sample play"},
         {"view", QT_TRANSLATE_NOOP("App::Menus", "&View"), "panels+ texts zoom stage"},
         {"tools", QT_TRANSLATE_NOOP("App::Menus", "&Tools"), "run find settings"},
         {"help", QT_TRANSLATE_NOOP("App::Menus", "&Help"), "keys"},

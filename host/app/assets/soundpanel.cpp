@@ -24,6 +24,8 @@ SoundPanel::SoundPanel(QWidget* parent) : QWidget(parent), m_list(new RowList), 
     layout->addWidget(m_text);
     setFocusProxy(m_list);
     connect(m_list, &RowList::currentRowChanged, this, &SoundPanel::updateCurrent);
+    connect(m_list, &QAbstractItemView::activated, this,
+            [this](const QModelIndex& index) { emit soundActivated(index.row()); });
     followLanguage(this, [this] {
         m_list->setAccessibleName(tr("Sounds of the project"));
         m_text->setText(currentText());

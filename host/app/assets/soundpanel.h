@@ -43,6 +43,9 @@ signals:
     /// The current row, or anything in the collection.
     void changed();
 
+    /// A double click on a sound, or Return.
+    void soundActivated(int row);
+
 private:
     void updateCurrent();
     QString currentText() const;

@@ -31,6 +31,7 @@
 #include "app/run/runcommands.h"
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
+#include "app/sounds/hearing.h"
 #include "app/stage/familyanimationeditor.h"
 #include "app/stage/stagecommands.h"
 #include "app/window/commandrouter.h"
@@ -49,6 +50,7 @@
 #include <zorv/editors/code/codeeditor.h>
 #include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
+#include <zorv/editors/sound/soundeditor.h>
 #include <zorv/image/palettepreviews.h>
 #include <zorv/image/spriteeditor.h>
 
@@ -173,6 +175,8 @@ void MainWindow::publishTools()
                    {m_middle, m_code->commands(), m_code->editor(), m_code->workspace()});
     m_paint = new PaintCommands(m_services);
     editors()->add(m_paint->editor(), Zorv::FileID::Sprites, {nullptr, m_paint->commands()});
+    m_hearing = new Hearing(m_services);
+    editors()->add(m_hearing->editor(), Zorv::FileID::Sounds, {nullptr, m_hearing->commands()});
     arrangeTools();
     addParts();
     connectParts();
@@ -228,7 +232,7 @@ void MainWindow::addParts()
 {
     for (Part* part : std::initializer_list<Part*>{
              m_router, m_opener, m_gameCommands, m_gameTree, m_services.editors, m_sprites,
-             m_sounds, m_stage, m_paint, m_code, m_animations, m_thumbnails, m_problems,
+             m_sounds, m_stage, m_paint, m_hearing, m_code, m_animations, m_thumbnails, m_problems,
              m_messagePanel, m_runCommands, m_services.status, m_commands}) {
         m_services.parts->add(part);
     }
@@ -238,6 +242,7 @@ void MainWindow::addParts()
 MainWindow::~MainWindow()
 {
     m_services.parts->end();
+    delete m_hearing;
     delete m_paint;
     delete m_stage;
     delete m_code;
@@ -292,6 +297,7 @@ void MainWindow::connectParts()
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
     connect(m_thumbnails->panel(), &Zorv::ThumbnailsEditor::spriteActivated, m_paint,
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
+    connect(m_sounds->panel(), &SoundPanel::soundActivated, m_hearing, &Hearing::showSound);
     // Rows change while lines are being parsed.
     const Zorv::OrganizerEditor* organizer = m_animations->organizer();
     connect(

@@ -30,6 +30,7 @@ class MessagePanel;
 class PaintCommands;
 class ProblemWatch;
 class RunCommands;
+class Hearing;
 class SoundCommands;
 class SoundPanel;
 class SpriteCommands;
@@ -72,6 +73,7 @@ public:
     ThumbnailCommands* thumbnails() const { return m_thumbnails; }
     SpriteCommands* sprites() const { return m_sprites; }
     SoundCommands* sounds() const { return m_sounds; }
+    Hearing* hearing() const { return m_hearing; }
     SpritePanel* spritePanel() const;
     SoundPanel* soundPanel() const;
     StageCommands* stage() const { return m_stage; }
@@ -148,6 +150,7 @@ private:
     ThumbnailCommands* m_thumbnails = nullptr;
     SpriteCommands* m_sprites;
     SoundCommands* m_sounds;
+    Hearing* m_hearing = nullptr;
     ProblemWatch* m_problems;
     MessagePanel* m_messagePanel;
     CommandRouter* m_router;

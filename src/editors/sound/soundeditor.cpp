@@ -234,6 +234,11 @@ void SoundEditor::soundCountChanged()
     d->updateRange();
 }
 
+bool SoundEditor::mayDeleteSound()
+{
+    return true;
+}
+
 void SoundEditor::refreshSound()
 {
     const int row = d->current();

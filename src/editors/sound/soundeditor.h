@@ -84,6 +84,11 @@ public:
     /// Shows the current sound anew.
     void refreshSound();
 
+protected:
+    /// Asked before the current sound is deleted, behind the question of "confirm_delete". False
+    /// keeps it: for a host that knows who plays it. Here true.
+    virtual bool mayDeleteSound();
+
 signals:
     /// A sound is shown.
     void enabled(bool isEnabled);

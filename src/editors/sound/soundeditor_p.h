@@ -43,6 +43,7 @@ public:
     void show(int row);
     void updateRange();
     void showFacts(Sound* now);
+    void showNothing();
     void endSliderDrag();
     void listChanged();
     void lendList(bool isLent);

@@ -213,7 +213,8 @@ void SoundEditorPrivate::del()
                                       Dialogs::Yes | Dialogs::No, Dialogs::Yes) != Dialogs::Yes) {
         return;
     }
-    if (!from || from != sounds || sounds->sound(current()) != wanted) {
+    const auto isThere = [&] { return from && from == sounds && from->sound(current()) == wanted; };
+    if (!isThere() || !editor->mayDeleteSound() || !isThere()) {
         return;
     }
     {

@@ -71,8 +71,19 @@ void SoundEditorPrivate::take(Sounds* now)
     }
     if (isActive) {
         lendList(true);
+        editor->soundCountChanged();
+    } else {
+        showNothing();
     }
-    editor->soundCountChanged();
+}
+
+/// Until the editor comes to the front: a sound that is shown costs an open device.
+void SoundEditorPrivate::showNothing()
+{
+    sound = nullptr;
+    showFacts(nullptr);
+    emit enabled(false);
+    editor->soundChanged(nullptr);
 }
 
 int SoundEditorPrivate::current() const
@@ -154,6 +165,10 @@ void SoundEditorPrivate::showFacts(Sound* now)
 void SoundEditorPrivate::listChanged()
 {
     if (inhibit > 0 || isBusy || !sounds) {
+        return;
+    }
+    if (!editor->isActive()) {
+        sound = nullptr;
         return;
     }
     for (int row = 0; sound && row < count(); ++row) {
