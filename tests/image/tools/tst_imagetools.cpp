@@ -434,7 +434,14 @@ private:
     }
 
     void press() { easel.press(tool(), place(), button(), modifiers()); }
-    void release() { easel.release(tool(), place(), button()); }
+    void release()
+    {
+        for (const auto each : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+            if (!chance(4)) {
+                easel.release(tool(), place(), each);
+            }
+        }
+    }
     void moveTo()
     {
         easel.move(tool(), place(), modifiers());
@@ -495,7 +502,7 @@ private:
             break;
         case 2:
             if (easel.layer()) {
-                easel.layer()->setVisible(chance(2));
+                easel.layer()->setVisible(!chance(4));
             }
             break;
         default:
@@ -505,7 +512,13 @@ private:
     }
     void changeCanvas()
     {
-        switch (number(4)) {
+        switch (number(5)) {
+        case 4: {
+            ImageSelection all;
+            all.setSize(easel.canvas.size());
+            easel.canvas.setSelection(all.mask());
+            break;
+        }
         case 0:
             easel.canvas.flip(chance(2), chance(2));
             break;
