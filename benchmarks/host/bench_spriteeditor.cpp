@@ -1,0 +1,137 @@
+// What a person waits for in the editor of sprites: 1,000 PNG files that become sprites, with two
+// threads beside one, and the longest time in which the window does not answer; and another sprite
+// of 20,000 on the canvas, beside one of 20.
+
+#include "family/assets/spritefile.h"
+#include "operations/hostinterface.h"
+#include "support/bench.h"
+
+#include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/progressreporter.h>
+#include <zorv/image/spriteeditor.h>
+
+#include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QThreadPool>
+#include <QTimer>
+
+using namespace Family;
+
+namespace {
+
+constexpr int Files = 1000;
+constexpr int Rounds = 5;
+constexpr int Selections = 200;
+constexpr int Shown = 20;
+
+/// Answers as the window does: events are processed at each step.
+class LivelyProgress final : public Zorv::ProgressReporter
+{
+public:
+    void update(int, int) override { QCoreApplication::processEvents(); }
+    void finish() override { delete this; }
+};
+
+class Host : public Operations::HostInterface
+{
+public:
+    using HostInterface::HostInterface;
+    Zorv::ProgressReporter* progress(const QString&, int) override { return new LivelyProgress; }
+};
+
+/// Does not crop.
+class Answers : public Zorv::Dialogs
+{
+public:
+    Button question(const QString&, const QString&, Buttons, Button) override { return No; }
+};
+
+QImage picture(int kind)
+{
+    QImage image(160, 128, QImage::Format_Indexed8);
+    image.setColorTable(tableOfColors(greyColors()));
+    for (int y = 0; y < image.height(); ++y) {
+        uchar* row = image.scanLine(y);
+        for (int x = 0; x < image.width(); ++x) {
+            row[x] = uchar((x * (kind % 7 + 1) ^ y * (kind % 11 + 1)) % 60 + (x * y + kind) % 5);
+        }
+    }
+    return image;
+}
+
+QStringList makeFiles(const QString& folder)
+{
+    QStringList files;
+    for (int i = 0; i < Files; ++i) {
+        files.append(QStringLiteral("%1/%2.png").arg(folder).arg(i, 4, 10, QLatin1Char('0')));
+        picture(i).save(files.last());
+    }
+    return files;
+}
+
+/// Milliseconds, and in `stall` the longest time between two turns of the event loop.
+double add(const QStringList& files, int threads, double* stall)
+{
+    QThreadPool::globalInstance()->setMaxThreadCount(threads);
+    SpriteFile sprites;
+    sprites.insertSprite(-1, {0, 0}, {}, picture(0));
+    Zorv::SpriteEditor editor;
+    editor.showSprite(&sprites, 0);
+    QElapsedTimer turn;
+    QTimer ticks;
+    QObject::connect(&ticks, &QTimer::timeout, [&] {
+        *stall = std::max(*stall, double(turn.nsecsElapsed()) / 1e6);
+        turn.restart();
+    });
+    ticks.start(0);
+    turn.start();
+    const double time = Bench::once([&] { editor.addFiles(files); });
+    QCoreApplication::processEvents();
+    return sprites.count() == unsigned(files.size() + 1) ? time : 0;
+}
+
+/// Milliseconds to show the first sprites of a file of `count` by turns.
+double select(int count)
+{
+    SpriteFile sprites;
+    for (int i = 0; i < count; ++i) {
+        sprites.insertSprite(i - 1, {quint16(i / 1000), quint16(i % 1000)}, {}, picture(i % 50));
+    }
+    Zorv::SpriteEditor editor;
+    const auto walk = [&](int steps) {
+        for (int i = 0; i < steps; ++i) {
+            editor.showSprite(&sprites, (i * 7 + 1) % Shown);
+            QCoreApplication::processEvents();
+        }
+    };
+    walk(Shown);  // both have the pixels of these sprites at hand then
+    return Bench::once([&] { walk(Selections); });
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication app(argc, argv);
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    Host host(&settings);
+    Operations::startHost(&host);
+    Answers answers;
+    Zorv::Dialogs::setInstance(&answers);
+    const QStringList files = makeFiles(folder.path());
+    double stall = 0;
+    const double share = Bench::medianOf(Rounds, [&] {
+        const double two = add(files, 2, &stall);
+        double unused = 0;
+        return two / add(files, 1, &unused);
+    });
+    Bench::ratio("1,000 PNG files, two threads to one", share, 1, 0.65);
+    Bench::ratio("longest stall meanwhile, to 100 ms", stall, 100, 1.0);
+    const double many = Bench::medianOf(3, [] { return select(20000) / select(Shown); });
+    Bench::ratio("another sprite of 20,000 on the canvas, to one of 20", many, 1, 1.3);
+    Zorv::Dialogs::setInstance(nullptr);
+    return 0;
+}
