@@ -2975,6 +2975,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>%1 means nothing in a motion. Expected directions such as DF and buttons such as L, with &apos;+&apos; between what is done together, &apos;~&apos; in front of what is let go, and commas between the steps.</source>
         <translation>%1 bedeutet in einer Bewegung nichts. Erwartet: Richtungen wie DF und Knöpfe wie L, mit &apos;+&apos; zwischen dem, was zugleich geschieht, &apos;~&apos; vor dem, was losgelassen wird, und Kommas zwischen den Schritten.</translation>
     </message>
+    <message>
+        <source>The character has commands and a stance, but lacks animations that every match shows: %1. Add them.</source>
+        <translation>Die Figur hat Befehle und eine Grundhaltung, aber es fehlen Animationen, die jeder Kampf zeigt: %1. Füge sie hinzu.</translation>
+    </message>
 </context>
 <context>
     <name>Family::AssetReload</name>

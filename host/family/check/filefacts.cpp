@@ -185,6 +185,7 @@ void TextPass::seeValue(const ParsedLine& line, const LineDetails& details)
     if (line.key->form == Form::AnimationName && line.value.isValid()) {
         m_facts->references.append(placeOf(details, LinePart::Value, line.value.toString()));
     }
+    m_facts->hasCommands |= line.key->form == Form::MotionText;
     seeFile(line, details);
     seeAsset(line, details);
     if (line.key->isRepeatable()) {

@@ -57,6 +57,7 @@ struct FileFacts
     QVector<AssetUse> sprites;
     QVector<AssetUse> sounds;
     QVector<FileReference> files;
+    bool hasCommands = false;  ///< it names a command
 
     /// Why the file could not be read, in words for the person; empty if it could.
     QString error;

@@ -2,10 +2,13 @@
 
 #include "family/check/assetcheck.h"
 #include "family/grammar/grammar.h"
+#include "family/meaning/neededanimations.h"
 #include "family/project/unreachable.h"
 
 #include <QFileInfo>
 #include <QMap>
+
+#include <algorithm>
 
 namespace Family {
 
@@ -190,6 +193,7 @@ void ProjectCheck::checkAnimations()
         known.insert(animation.name);
         names.append(animation.name);
     }
+    checkNeeded(animations, names);
     for (const FactStore::Code& code : qAsConst(m_found.code)) {
         for (const NamedPlace& reference : code->references) {
             if (!known.contains(reference.name)) {
@@ -197,6 +201,20 @@ void ProjectCheck::checkAnimations()
                      reference);
             }
         }
+    }
+}
+
+/// A character that somebody has begun to make for an engine. Others lack nothing yet.
+void ProjectCheck::checkNeeded(const QVector<NamedPlace>& animations, const QStringList& names)
+{
+    const bool hasCommands =
+        std::any_of(m_found.code.cbegin(), m_found.code.cend(),
+                    [](const FactStore::Code& code) { return code->hasCommands; });
+    const QStringList missing = missingBasics(names);
+    if (m_kind == FileKind::Character && hasCommands && !missing.isEmpty()) {
+        const QLatin1String stance(neededAnimation(AnimationRole::Stance).identifier);
+        tell(ProblemId::AnimationsNeeded, {missing.join(QLatin1String(", "))},
+             animations.at(names.indexOf(stance)));
     }
 }
 

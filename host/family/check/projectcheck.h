@@ -34,6 +34,7 @@ private:
     bool checkFile(const NamedPlace& place, const FileReference& reference);
     void takeAsset(const NamedPlace& place, const FileReference& reference);
     void checkAnimations();
+    void checkNeeded(const QVector<NamedPlace>& animations, const QStringList& names);
     void checkAssets();
     NamedPlace placeOf(const FileFacts& facts, const FileReference& reference) const;
     QString resolved(const QString& path) const;

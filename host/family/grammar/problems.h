@@ -72,6 +72,7 @@ enum class ProblemId : unsigned char {
     FileItself,
     FileTwice,
     AnimationMissing,
+    AnimationsNeeded,
     FileBroken,
     RecordBroken,
     SpriteMissing,

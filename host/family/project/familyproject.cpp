@@ -5,6 +5,7 @@
 #include "family/assets/spritecollection.h"
 #include "family/assets/spritefile.h"
 #include "family/familydocument.h"
+#include "family/meaning/neededanimations.h"
 #include "family/nodes/groupnode.h"
 #include "family/nodes/valuenode.h"
 #include "family/project/familyparentproject.h"
@@ -61,9 +62,17 @@ QString newText(FileKind kind)
                               "[arena]\nleft  = -320\nright = 320\nfloor = 0\n")
             .arg(FamilyProject::tr("New stage"));
     }
-    return QStringLiteral("zorv 1\n\n[info]\nname = \"%1\"\n\n[files]\n\n"
-                          "[constants]\nlife = 1000\n\nanimation 0\nframe 0,0  delay -1\n")
-        .arg(FamilyProject::tr("New character"));
+    QString text = QStringLiteral("zorv 1\n\n[info]\nname = \"%1\"\n\n[files]\n\n"
+                                  "[constants]\nlife = 1000\n")
+                       .arg(FamilyProject::tr("New character"));
+    for (int role = 0; role < AnimationRoleCount; ++role) {
+        const NeededAnimation& row = neededAnimation(AnimationRole(role));
+        if (row.isBasic) {
+            text += QStringLiteral("\nanimation %1\nbody -16,-80, 16,0\nframe 0,0  delay -1\n")
+                        .arg(QLatin1String(row.identifier));
+        }
+    }
+    return text;
 }
 
 /// A document by itself always has its colours and problems; in a project that is the person's
