@@ -14,16 +14,6 @@ namespace {
 
 const double SmallestGridZoom = 4;
 const QColor GridColor(128, 128, 128, 120);
-const int AxisArm = 7;
-
-/// One pixel wide, around a rectangle.
-void drawOutline(QPainter& painter, const QRect& rect, const QColor& color)
-{
-    painter.fillRect(rect.left() - 1, rect.top() - 1, rect.width() + 2, 1, color);
-    painter.fillRect(rect.left() - 1, rect.bottom() + 1, rect.width() + 2, 1, color);
-    painter.fillRect(rect.left() - 1, rect.top(), 1, rect.height(), color);
-    painter.fillRect(rect.right() + 1, rect.top(), 1, rect.height(), color);
-}
 
 /// With whole scales edges fall on edges.
 QPointF drawingCorner(const QPainter& painter, const QPoint& corner, double scale)
@@ -35,6 +25,14 @@ QPointF drawingCorner(const QPainter& painter, const QPoint& corner, double scal
 }
 
 }  // namespace
+
+void drawOutline(QPainter& painter, const QRect& rect, const QColor& color)
+{
+    painter.fillRect(rect.left() - 1, rect.top() - 1, rect.width() + 2, 1, color);
+    painter.fillRect(rect.left() - 1, rect.bottom() + 1, rect.width() + 2, 1, color);
+    painter.fillRect(rect.left() - 1, rect.top(), 1, rect.height(), color);
+    painter.fillRect(rect.right() + 1, rect.top(), 1, rect.height(), color);
+}
 
 void ImageRenderer::render(QPainter& painter)
 {
@@ -105,19 +103,6 @@ void ImageRendererPrivate::drawGrid(QPainter& painter, const QRect& shownPart) c
         lines.lineTo(shownPart.right() + 1, top);
     }
     painter.strokePath(lines, QPen(GridColor, 1));
-}
-
-void ImageRendererPrivate::drawCanvasAxis(QPainter& painter, ImageView view) const
-{
-    if (!q->option(ImageRenderer::CanvasAxis)) {
-        return;
-    }
-    const QPoint axis = savePosition(place().toWidget(canvas.axis(), view));
-    for (const auto& [width, color] : {std::pair(3, Qt::white), std::pair(1, Qt::black)}) {
-        const int arm = AxisArm + width / 2;
-        painter.fillRect(axis.x() - arm, axis.y() - width / 2, 2 * arm + 1, width, color);
-        painter.fillRect(axis.x() - width / 2, axis.y() - arm, width, 2 * arm + 1, color);
-    }
 }
 
 void ImageRendererPrivate::drawCell(QPainter& painter, ImageView view) const

@@ -24,7 +24,9 @@ int wayInto(int begin, int end, int room)
 
 void ImageRenderer::keyPressed(int key, Qt::KeyboardModifiers modifiers)
 {
-    if (d->current && d->current->keyPressed(modifiers, key)) {
+    if (d->moveAxisBy(key, modifiers)) {
+        update();
+    } else if (d->current && d->current->keyPressed(modifiers, key)) {
         update();
     } else if (key == Qt::Key_Space) {
         d->isSpaceHeld = true;

@@ -2,6 +2,7 @@
 // ends. So a tool sees each press once, and its end once.
 
 #include "graphics/renderwidget.h"
+#include "image/canvas/imageundostack.h"
 #include "image/imagerenderer_p.h"
 
 #include <utility>
@@ -66,10 +67,14 @@ QPoint ImageRendererPrivate::toolPixel(QPoint pixel) const
     return pixel - QPoint(half, half);
 }
 
+bool ImageRendererPrivate::movesPicture(Qt::KeyboardModifiers modifiers) const
+{
+    return isSpaceHeld || isPanning || modifiers.testFlag(Qt::ControlModifier);
+}
+
 ImageTool* ImageRendererPrivate::toolFor(Qt::KeyboardModifiers modifiers) const
 {
-    const bool moves = isSpaceHeld || isPanning || modifiers.testFlag(Qt::ControlModifier);
-    return moves && current ? tools[ImageTool::CanvasMoveTool] : current;
+    return movesPicture(modifiers) && current ? tools[ImageTool::CanvasMoveTool] : current;
 }
 
 void ImageRendererPrivate::press(QPoint pos, QPoint pixel, Qt::MouseButton button,
@@ -102,6 +107,44 @@ void ImageRendererPrivate::move(QPoint pos, QPoint pixel, Qt::KeyboardModifiers 
     if (ImageTool* const tool = pressed ? pressTool : toolFor(modifiers)) {
         withCursor([&](QCursor& cursor) { tool->mouseMoved(modifiers, pos, pixel, cursor); });
     }
+}
+
+ImageRendererPrivate::Grip ImageRendererPrivate::gripAt(const QPointF& pos,
+                                                        Qt::KeyboardModifiers modifiers) const
+{
+    if (movesPicture(modifiers)) {
+        return NoGrip;
+    }
+    const QPoint pixel = pixelOf(pos);
+    const ImageView view = place().viewAt(pos);
+    for (const Grip each : {UprightGrip, LevelGrip}) {
+        if (gripRect(each, view).contains(pixel)) {
+            return each;
+        }
+    }
+    return axisRect(view).contains(pixel) ? AxisGrip : NoGrip;
+}
+
+void ImageRendererPrivate::takeGrip(const QPointF& pos, Qt::KeyboardModifiers modifiers)
+{
+    grip = gripAt(pos, modifiers);
+    if (grip == AxisGrip) {
+        canvas.endStroke();
+        canvas.undoStack()->seal();
+        axisFromPointer = canvas.axis() - place().toCanvas(pos, pressView);
+    }
+}
+
+void ImageRendererPrivate::dragGrip(const QPointF& pos)
+{
+    grip == AxisGrip ? dragAxis(pos) : dragSymmetry(pos);
+}
+
+void ImageRendererPrivate::showGrip(Grip under)
+{
+    setCursor(under == AxisGrip      ? Qt::SizeAllCursor
+              : under == UprightGrip ? Qt::SplitHCursor
+                                     : Qt::SplitVCursor);
 }
 
 void ImageRendererPrivate::moveAgain()
@@ -142,7 +185,7 @@ void ImageRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
     const QPointF place = d->exactPlace(pos);
     if (!d->pressed) {
         d->pressView = d->place().viewAt(pos);
-        d->grip = d->gripAt(place);
+        d->takeGrip(place, modifiers);
     }
     if (d->grip != ImageRendererPrivate::NoGrip) {
         d->pressed |= button;
@@ -182,9 +225,9 @@ void ImageRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
     const ImageView view = d->pressed ? d->pressView : d->place().viewAt(pos);
     if (d->grip != ImageRendererPrivate::NoGrip) {
         d->dragGrip(place);
-    } else if (const auto grip = d->pressed ? ImageRendererPrivate::NoGrip : d->gripAt(place)) {
-        d->setCursor(grip == ImageRendererPrivate::UprightGrip ? Qt::SplitHCursor
-                                                               : Qt::SplitVCursor);
+    } else if (const auto under =
+                   d->pressed ? ImageRendererPrivate::NoGrip : d->gripAt(place, modifiers)) {
+        d->showGrip(under);
     } else {
         d->move(pos, d->toolPixel(place, view), modifiers);
     }

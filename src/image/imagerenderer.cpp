@@ -66,8 +66,8 @@ void ImageRendererPrivate::follow()
     QObject::connect(&canvas, &ImageCanvas::positionChanged, q, update);
     QObject::connect(&canvas, &ImageCanvas::zoomChanged, q, update);
     QObject::connect(&canvas, &ImageCanvas::formatChanged, q, update);
-    QObject::connect(&canvas, &ImageCanvas::axisChanged, q, update);
-    QObject::connect(canvas.layers(), &ImageLayers::changed, q, update);
+    QObject::connect(&canvas, &ImageCanvas::axisChanged, q, [this] { loseAxis(); });
+    QObject::connect(canvas.layers(), &ImageLayers::changed, q, [this] { loseAxis(); });
     QObject::connect(&options, &StrokeOptions::changed, q, update);
     QObject::connect(&canvas, &ImageCanvas::sizeChanged, q, [this] { setSize(); });
     QObject::connect(&canvas, &ImageCanvas::partChanged, q,

@@ -32,7 +32,10 @@ class StrokeOptions;
 /// picture, the wheel zooms about the pointer. A press that has begun stays with its view and its
 /// tool until the last button is released, or the focus or the mouse is lost.
 ///
-/// Keys go to the tool first. Arrows that it does not use move a cell, which is drawn; Return
+/// With `CanvasAxis` a press on the middle of its cross drags the axis, each drag one step of undo.
+/// Ctrl with arrows moves it by a pixel; arrows that follow each other are one step.
+///
+/// Other keys go to the tool first. Arrows that it does not use move a cell, which is drawn; Return
 /// clicks there with the left button, with Alt with the right one; Shift with arrows drags from
 /// there until Shift is released.
 ///
@@ -46,7 +49,7 @@ public:
     enum Option {
         CenteredBrush = 1,  ///< wide brushes are around the pointer, not right and below of it
         PixelGrid = 2,      ///< lines between pixels from a zoom of 4 on
-        CanvasAxis = 4,     ///< the axis of the canvas as a cross
+        CanvasAxis = 4,     ///< the axis of the canvas as a cross, which is dragged
         FollowOriginal = 8  ///< beside a zoomed view, the original shows the same part
     };
 

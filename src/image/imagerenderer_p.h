@@ -18,15 +18,19 @@ class QStackedLayout;
 
 namespace Zorv {
 
+/// A frame one pixel wide, around a rectangle.
+void drawOutline(QPainter& painter, const QRect& rect, const QColor& color);
+
 /// What the sources of the renderer share: input (imagepointer.cpp), keys (imagekeys.cpp), drawing
-/// (imagedrawing.cpp) and the axes of symmetry (symmetrygrips.cpp).
+/// (imagedrawing.cpp), the axes of symmetry (symmetrygrips.cpp) and that of the canvas
+/// (canvasaxis.cpp).
 class ImageRendererPrivate
 {
 public:
     static constexpr int Tools = ImageTool::FloodFillTool + 1;
 
-    /// The axis that a grip belongs to.
-    enum Grip { NoGrip, UprightGrip, LevelGrip };
+    /// What a grip moves: an axis of symmetry, or the axis of the canvas.
+    enum Grip { NoGrip, UprightGrip, LevelGrip, AxisGrip };
 
     ImageRendererPrivate(ImageRenderer* renderer, ImagePalette* palette);
     ~ImageRendererPrivate();
@@ -65,6 +69,7 @@ public:
     QPoint toolPixel(const QPointF& pos, ImageView view) const;
     QPoint toolPixel(QPoint pixel) const;
 
+    bool movesPicture(Qt::KeyboardModifiers modifiers) const;
     ImageTool* toolFor(Qt::KeyboardModifiers modifiers) const;
     void press(QPoint pos, QPoint pixel, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     void release(QPoint pos, QPoint pixel, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
@@ -99,18 +104,41 @@ public:
     QPoint cellPlace(const QPoint& pixel) const;
     /// @}
 
+    /// @name Grips
+    /// @{
+
+    /// What a press would take hold of: nothing while the mouse moves the picture.
+    Grip gripAt(const QPointF& pos, Qt::KeyboardModifiers modifiers) const;
+    void takeGrip(const QPointF& pos, Qt::KeyboardModifiers modifiers);
+    void dragGrip(const QPointF& pos);
+    void showGrip(Grip under);
+    /// @}
+
     /// @name Symmetry
     /// @{
     QRect gripRect(Grip grip, ImageView view) const;
-    Grip gripAt(const QPointF& pos) const;
-    void dragGrip(const QPointF& pos);
+    void dragSymmetry(const QPointF& pos);
     void drawAxes(QPainter& painter, ImageView view) const;
+    /// @}
+
+    /// @name The axis of the canvas
+    /// @{
+    bool isAxisShown() const;
+    QPoint axisPlace(ImageView view) const;
+    QRect axisRect(ImageView view) const;
+    void dragAxis(const QPointF& pos);
+
+    /// True if the key is one that moves the axis.
+    bool moveAxisBy(int key, Qt::KeyboardModifiers modifiers);
+
+    /// The axis, or the sprite, has become another one: a drag would go on from a wrong place.
+    void loseAxis();
+    void drawCanvasAxis(QPainter& painter, ImageView view) const;
     /// @}
 
     void draw(QPainter& painter, ImageView view);
     void drawGrid(QPainter& painter, const QRect& shown) const;
     void drawFrame(QPainter& painter, ImageView view) const;
-    void drawCanvasAxis(QPainter& painter, ImageView view) const;
     void drawCell(QPainter& painter, ImageView view) const;
     void drawToolCursor(QPainter& painter, ImageView view);
     QPoint cursorPlace(ImageView view) const;
@@ -139,7 +167,9 @@ public:
     Qt::MouseButtons pressed;
     ImageTool* pressTool = nullptr;
     ImageView pressView = ImageView::Zoomed;
-    Grip grip = NoGrip;  ///< that is dragged
+    Grip grip = NoGrip;         ///< that is dragged
+    QPointF axisFromPointer;    ///< in pixels of the canvas, while the axis is dragged
+    bool isMovingAxis = false;  ///< what is heard of the axis comes from here
 
     bool isCellShown = false;
     bool isCellDragged = false;

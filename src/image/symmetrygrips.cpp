@@ -36,19 +36,7 @@ QRect ImageRendererPrivate::gripRect(Grip of, ImageView view) const
     return inView.intersects(rect) ? rect : QRect();
 }
 
-ImageRendererPrivate::Grip ImageRendererPrivate::gripAt(const QPointF& pos) const
-{
-    const QPoint pixel = pixelOf(pos);
-    const ImageView view = place().viewAt(pos);
-    for (const Grip each : {UprightGrip, LevelGrip}) {
-        if (gripRect(each, view).contains(pixel)) {
-            return each;
-        }
-    }
-    return NoGrip;
-}
-
-void ImageRendererPrivate::dragGrip(const QPointF& pos)
+void ImageRendererPrivate::dragSymmetry(const QPointF& pos)
 {
     const QSize size = canvas.size();
     const QPointF point = place().toCanvas(pos, pressView);

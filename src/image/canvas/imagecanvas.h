@@ -122,8 +122,9 @@ public:
     QPoint axis() const;
     void setAxis(const QPoint& axis);
 
-    /// Sets it as a step, "axis".
-    void moveAxis(const QPoint& axis);
+    /// Moves it as a step, "axis". `mergeId`, if not 0, lets it join the last step, if that was one
+    /// of these with the same number. False without layers.
+    bool moveAxis(const QPoint& axis, int mergeId = 0);
 
     /// All visible layers as one image of the size and form of the canvas, an indexed one with
     /// the palette as its table. `name` takes the name of the lowest visible layer.

@@ -115,7 +115,7 @@ public:
 
     /// With a command, each.
     void recordSize(const QSize& newSize);
-    void recordAxis(const QPoint& newAxis);
+    void recordAxis(const QPoint& newAxis, int mergeId = 0);
 
     bool resizeLayers(const QSize& newSize, const QPoint& corner);
     bool reformatLayers(ImageCanvas::Format newFormat, ImagePalette* entries);

@@ -211,12 +211,12 @@ void ImageCanvasPrivate::recordSize(const QSize& newSize)
     }
 }
 
-void ImageCanvasPrivate::recordAxis(const QPoint& newAxis)
+void ImageCanvasPrivate::recordAxis(const QPoint& newAxis, int mergeId)
 {
     const QPoint before = axis;
     if (before != newAxis) {
         applyAxis(newAxis);
-        push(new ImageCanvasAxis(q, before));
+        push(new ImageCanvasAxis(q, before, mergeId));
     }
 }
 

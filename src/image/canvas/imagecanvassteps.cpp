@@ -69,15 +69,6 @@ bool ImageCanvasPrivate::resizeLayers(const QSize& newSize, const QPoint& corner
     return forLayers([&](ImageLayer& layer) { return layer.resize(newSize, corner, fill()); });
 }
 
-void ImageCanvas::moveAxis(const QPoint& axis)
-{
-    endStroke();
-    d->macro("axis", [&] {
-        d->recordAxis(axis);
-        return true;
-    });
-}
-
 bool ImageCanvas::setFormat(Format format, bool record)
 {
     endStroke();
@@ -106,6 +97,16 @@ bool ImageCanvasPrivate::reformatLayers(ImageCanvas::Format newFormat, ImagePale
                return forLayers(
                    [&](ImageLayer& layer) { return layer.reformat(newFormat, entries); });
            });
+}
+
+bool ImageCanvas::moveAxis(const QPoint& axis, int mergeId)
+{
+    endStroke();
+    if (d->layers->count() == 0) {
+        return false;
+    }
+    d->recordAxis(axis, mergeId);
+    return true;
 }
 
 bool ImageCanvas::flip(bool horizontal, bool vertical)

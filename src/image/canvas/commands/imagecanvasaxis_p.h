@@ -9,10 +9,13 @@ namespace Zorv {
 class ImageCanvasAxis : public ImageUndoCommand
 {
 public:
-    ImageCanvasAxis(ImageCanvas* canvas, const QPoint& before);
+    /// Joins one in front of it that has the same `mergeId`, unless that is 0.
+    ImageCanvasAxis(ImageCanvas* canvas, const QPoint& before, int mergeId);
 
     void undo() override;
     qint64 byteSize() const override;
+    int id() const override;
+    bool mergeWith(const QUndoCommand* next) override;
 
 protected:
     void doRedo() override;
@@ -20,6 +23,7 @@ protected:
 private:
     ImageCanvas* m_canvas;
     QPoint m_other;
+    int m_mergeId;
 };
 
 }  // namespace Zorv

@@ -1,0 +1,97 @@
+// The axis of the canvas is a cross, dragged at the square in its middle. The square is small, and
+// less than a pixel of the picture at the zooms at which single pixels are painted: those around the
+// axis can still be hit beside it.
+
+#include "image/canvas/imagelayers.h"
+#include "image/imagerenderer_p.h"
+#include "image/tools/arrowstep_p.h"
+
+#include <QPainter>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <utility>
+
+namespace Zorv {
+
+namespace {
+
+const int Arm = 8;   // of the cross
+const int Half = 3;  // of the square, in both beside its middle
+
+/// Which moves are one step.
+enum MergeId { DragSteps = 1, ArrowSteps };
+
+/// As far from the picture's corner as a picture can reach: still a number that files can keep.
+QPoint withinReach(const QPoint& axis)
+{
+    const int reach = ImageCanvas::MaxSide;
+    return {std::clamp(axis.x(), -reach, reach), std::clamp(axis.y(), -reach, reach)};
+}
+
+}  // namespace
+
+bool ImageRendererPrivate::isAxisShown() const
+{
+    return q->option(ImageRenderer::CanvasAxis) && canvas.layers()->count() > 0;
+}
+
+QPoint ImageRendererPrivate::axisPlace(ImageView view) const
+{
+    return savePosition(place().toWidget(canvas.axis(), view));
+}
+
+QRect ImageRendererPrivate::axisRect(ImageView view) const
+{
+    const QRect rect(axisPlace(view) - QPoint(Half, Half), QSize(2 * Half + 1, 2 * Half + 1));
+    const ImagePlace now = place();
+    return isAxisShown() && now.isShown(view) ? rect & now.viewRect(view) : QRect();
+}
+
+void ImageRendererPrivate::dragAxis(const QPointF& pos)
+{
+    const QPointF axis = place().toCanvas(pos, pressView) + axisFromPointer;
+    const QScopedValueRollback<bool> guard(isMovingAxis, true);
+    canvas.moveAxis(withinReach(savePosition(axis)), DragSteps);
+}
+
+bool ImageRendererPrivate::moveAxisBy(int key, Qt::KeyboardModifiers modifiers)
+{
+    const QPoint step = arrowStep(key);
+    const bool isMeant = modifiers.testFlag(Qt::ControlModifier) &&
+                         !modifiers.testFlag(Qt::ShiftModifier) && isAxisShown();
+    if (step.isNull() || !isMeant) {
+        return false;
+    }
+    if (!pressed) {
+        // Not all numbers that a file has can be counted on from.
+        canvas.moveAxis(withinReach(withinReach(canvas.axis()) + step), ArrowSteps);
+    }
+    return true;
+}
+
+void ImageRendererPrivate::loseAxis()
+{
+    if (grip == AxisGrip && !isMovingAxis) {
+        grip = NoGrip;
+    }
+    q->update();
+}
+
+void ImageRendererPrivate::drawCanvasAxis(QPainter& painter, ImageView view) const
+{
+    if (!isAxisShown()) {
+        return;
+    }
+    const QPoint axis = axisPlace(view);
+    for (const auto& [edge, color] : {std::pair(1, Qt::white), std::pair(0, Qt::black)}) {
+        const int arm = Arm + edge;
+        const int width = 1 + 2 * edge;
+        painter.fillRect(axis.x() - arm, axis.y() - edge, 2 * arm + 1, width, color);
+        painter.fillRect(axis.x() - edge, axis.y() - arm, width, 2 * arm + 1, color);
+        const int inner = Half - 1;
+        drawOutline(painter, QRect(axis - QPoint(inner, inner), axis + QPoint(inner, inner)), color);
+    }
+}
+
+}  // namespace Zorv
