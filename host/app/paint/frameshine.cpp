@@ -2,13 +2,12 @@
 
 #include <zorv/animation/animationeditor.h>
 #include <zorv/cache/sprite.h>
+#include <zorv/cache/sprites.h>
 #include <zorv/code/codedoc/animationcode.h>
 #include <zorv/code/codedoc/framecode.h>
 #include <zorv/image/canvas/imagecanvas.h>
 #include <zorv/image/imagerenderer.h>
 #include <zorv/image/spriteeditor.h>
-
-#include <QTransform>
 
 namespace App {
 
@@ -21,8 +20,8 @@ namespace {
 constexpr double Opacity = 0.35;
 constexpr double LargestSide = 8192;  // of what is shown of a scaled frame
 
-/// From pixels of a picture to the game, as a frame shows it.
-QTransform placeOf(const FrameCode& frame, QPoint axis)
+/// From the axis of a picture to the game, as a frame shows it.
+QTransform placeOf(const FrameCode& frame)
 {
     const bool isLeft = frame.flip() & FrameCode::FlipHorizontally;
     const bool isUp = frame.flip() & FrameCode::FlipVertically;
@@ -30,8 +29,13 @@ QTransform placeOf(const FrameCode& frame, QPoint axis)
     place.translate(frame.offset().x(), frame.offset().y());
     place.rotate(-frame.angle());
     place.scale(frame.scale().x() * (isLeft ? -1 : 1), frame.scale().y() * (isUp ? -1 : 1));
-    place.translate(-double(axis.x()), -double(axis.y()));
     return place;
+}
+
+/// From pixels of a picture to its axis.
+QTransform toAxis(QPoint axis)
+{
+    return QTransform::fromTranslate(-double(axis.x()), -double(axis.y()));
 }
 
 }  // namespace
@@ -40,9 +44,25 @@ FrameShine::FrameShine(Zorv::SpriteEditor* sprites, const Zorv::AnimationEditor*
                        QObject* parent)
     : QObject(parent), m_sprites(sprites), m_animations(animations)
 {
-    connect(sprites, &Zorv::SpriteEditor::spriteShown, this, &FrameShine::update);
-    connect(sprites->renderer()->canvas(), &Zorv::ImageCanvas::axisChanged, this,
-            &FrameShine::update);
+    const Zorv::ImageCanvas* canvas = sprites->renderer()->canvas();
+    connect(sprites, &Zorv::SpriteEditor::spriteShown, this, &FrameShine::followSprite);
+    connect(canvas, &Zorv::ImageCanvas::axisChanged, this, &FrameShine::place);
+    connect(canvas, &Zorv::ImageCanvas::sizeChanged, this, &FrameShine::place);
+}
+
+/// The pictures and axes of the neighbours change in the file.
+void FrameShine::followSprite()
+{
+    if (m_followed != m_sprites->sprites()) {
+        if (m_followed) {
+            m_followed->disconnect(this);
+        }
+        m_followed = m_sprites->sprites();
+        if (m_followed) {
+            connect(m_followed, &Zorv::Sprites::changed, this, &FrameShine::update);
+        }
+    }
+    update();
 }
 
 void FrameShine::setOn(bool isOn)
@@ -74,36 +94,53 @@ int FrameShine::frameOfCanvas() const
 
 void FrameShine::update()
 {
-    std::vector<ImageRenderer::Skin> skins;
-    ImageRenderer* renderer = m_sprites->renderer();
-    if (!m_isOn && !m_isShown) {
+    if (!m_isOn && m_neighbours.empty()) {
         return;
     }
+    m_neighbours.clear();
     const int index = m_isOn ? frameOfCanvas() : -1;
-    bool isPossible = false;
-    const Zorv::AnimationCode* animation = m_animations->currentAnimation();
-    const QTransform toCanvas =
-        index < 0
-            ? QTransform()
-            : placeOf(*animation->frame(index), renderer->canvas()->axis()).inverted(&isPossible);
-    for (const int other : {index - 1, index + 1}) {
-        const FrameCode* frame = isPossible && other >= 0 && other < animation->frameCount()
-                                     ? animation->frame(other)
-                                     : nullptr;
-        const Sprite* sprite = frame ? frame->sprite() : nullptr;
-        if (!sprite) {
-            continue;
-        }
-        const QTransform place = placeOf(*frame, sprite->axis()) * toCanvas;
-        const QRectF area = place.mapRect(QRectF(QPointF(), sprite->size()));
-        const bool isSeen = area.intersects(QRectF(QPointF(), renderer->canvas()->size()));
-        if (isSeen && area.width() <= LargestSide && area.height() <= LargestSide) {
-            const QImage image = sprite->image().convertToFormat(QImage::Format_ARGB32);
-            skins.push_back({image.transformed(place), area.topLeft().toPoint(), Opacity});
+    if (index >= 0) {
+        const Zorv::AnimationCode* animation = m_animations->currentAnimation();
+        m_own = placeOf(*animation->frame(index));
+        for (const int other : {index - 1, index + 1}) {
+            if (other >= 0 && other < animation->frameCount()) {
+                add(animation->frame(other));
+            }
         }
     }
-    m_isShown = !skins.empty();
-    renderer->setSkins(skins);
+    place();
+}
+
+void FrameShine::add(const FrameCode* frame)
+{
+    const Sprite* sprite = frame ? frame->sprite() : nullptr;
+    if (sprite) {
+        m_neighbours.push_back({sprite->image(), toAxis(sprite->axis()) * placeOf(*frame), {}});
+    }
+}
+
+void FrameShine::place()
+{
+    std::vector<ImageRenderer::Skin> skins;
+    ImageRenderer* renderer = m_sprites->renderer();
+    const Zorv::ImageCanvas* canvas = renderer->canvas();
+    bool isPossible = false;
+    const QTransform toCanvas = (toAxis(canvas->axis()) * m_own).inverted(&isPossible);
+    for (Neighbour& each : m_neighbours) {
+        const QTransform place = each.toGame * toCanvas;
+        const QRectF area = place.mapRect(QRectF(each.image.rect()));
+        const bool isSeen = isPossible && area.intersects(QRectF(QPointF(), canvas->size()));
+        if (isSeen && area.width() <= LargestSide && area.height() <= LargestSide) {
+            if (each.shown.isNull()) {
+                each.shown = each.image.convertToFormat(QImage::Format_ARGB32).transformed(place);
+            }
+            skins.push_back({each.shown, area.topLeft().toPoint(), Opacity});
+        }
+    }
+    if (m_isShown || !skins.empty()) {
+        m_isShown = !skins.empty();
+        renderer->setSkins(skins);
+    }
 }
 
 }  // namespace App

@@ -1,6 +1,12 @@
 #pragma once
 
+#include <QImage>
 #include <QObject>
+#include <QPointer>
+#include <QSize>
+#include <QTransform>
+
+#include <vector>
 
 namespace Family {
 class FrameNode;
@@ -8,7 +14,9 @@ class FrameNode;
 
 namespace Zorv {
 class AnimationEditor;
+class FrameCode;
 class SpriteEditor;
+class Sprites;
 }  // namespace Zorv
 
 namespace App {
@@ -34,10 +42,25 @@ public:
     void update();
 
 private:
+    /// A frame beside that of the canvas. It is turned and scaled once, and then only moved, as
+    /// while the axis is dragged.
+    struct Neighbour
+    {
+        QImage image;
+        QTransform toGame;  ///< from its pixels
+        QImage shown;       ///< as the canvas shows it; null until it is seen
+    };
+
+    void followSprite();
     int frameOfCanvas() const;
+    void add(const Zorv::FrameCode* frame);
+    void place();
 
     Zorv::SpriteEditor* m_sprites;
     const Zorv::AnimationEditor* m_animations;
+    QPointer<Zorv::Sprites> m_followed;
+    std::vector<Neighbour> m_neighbours;
+    QTransform m_own;  ///< from the axis of the canvas to the game
     bool m_isOn = false;
     bool m_isShown = false;
 };
