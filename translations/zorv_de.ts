@@ -369,6 +369,91 @@
         <source>Convert to &amp;true colour</source>
         <translation>In &amp;Echtfarben umwandeln</translation>
     </message>
+    <message>
+        <source>Set a&amp;xis...</source>
+        <translation>A&amp;chse setzen...</translation>
+    </message>
+</context>
+<context>
+    <name>App::AxisDialog</name>
+    <message>
+        <source>Top left corner</source>
+        <translation>Ecke oben links</translation>
+    </message>
+    <message>
+        <source>Middle of the top edge</source>
+        <translation>Mitte des oberen Randes</translation>
+    </message>
+    <message>
+        <source>Top right corner</source>
+        <translation>Ecke oben rechts</translation>
+    </message>
+    <message>
+        <source>Middle of the left edge</source>
+        <translation>Mitte des linken Randes</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Middle of the right edge</source>
+        <translation>Mitte des rechten Randes</translation>
+    </message>
+    <message>
+        <source>Bottom left corner</source>
+        <translation>Ecke unten links</translation>
+    </message>
+    <message>
+        <source>Middle of the bottom edge</source>
+        <translation>Mitte des unteren Randes</translation>
+    </message>
+    <message>
+        <source>Bottom right corner</source>
+        <translation>Ecke unten rechts</translation>
+    </message>
+    <message>
+        <source>Where it is now</source>
+        <translation>Wo sie jetzt ist</translation>
+    </message>
+    <message>
+        <source> pixels</source>
+        <translation> Pixel</translation>
+    </message>
+    <message>
+        <source>Set axis</source>
+        <translation>Achse setzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s)</source>
+        <translation>
+            <numerusform>%n Sprite</numerusform>
+            <numerusform>%n Sprites</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Place:</source>
+        <translation>&amp;Platz:</translation>
+    </message>
+    <message>
+        <source>To the &amp;right:</source>
+        <translation>Nach &amp;rechts:</translation>
+    </message>
+    <message>
+        <source>&amp;Down:</source>
+        <translation>Nach &amp;unten:</translation>
+    </message>
+    <message>
+        <source>Sprite %1: the axis goes from %2,%3 to %4,%5.</source>
+        <translation>Sprite %1: Die Achse geht von %2,%3 nach %4,%5.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The axis of %n sprite(s) is set.</source>
+        <translation>
+            <numerusform>Die Achse von %n Sprite ist gesetzt.</numerusform>
+            <numerusform>Die Achsen von %n Sprites sind gesetzt.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>App::BackupNameDialog</name>

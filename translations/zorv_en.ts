@@ -12,6 +12,23 @@
     </message>
 </context>
 <context>
+    <name>App::AxisDialog</name>
+    <message numerus="yes">
+        <source>%n sprite(s)</source>
+        <translation>
+            <numerusform>%n sprite</numerusform>
+            <numerusform>%n sprites</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The axis of %n sprite(s) is set.</source>
+        <translation>
+            <numerusform>The axis of %n sprite is set.</numerusform>
+            <numerusform>The axes of %n sprites are set.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::FindSearch</name>
     <message numerus="yes">
         <source>more than %n match(es)</source>

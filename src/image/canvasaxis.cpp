@@ -1,6 +1,6 @@
 // The axis of the canvas is a cross, dragged at the square in its middle. The square is small, and
-// less than a pixel of the picture at the zooms at which single pixels are painted: those around the
-// axis can still be hit beside it.
+// less than a pixel of the picture at the zooms at which single pixels are painted: those around
+// the axis can still be hit beside it.
 
 #include "image/canvas/imagelayers.h"
 #include "image/imagerenderer_p.h"
@@ -90,7 +90,8 @@ void ImageRendererPrivate::drawCanvasAxis(QPainter& painter, ImageView view) con
         painter.fillRect(axis.x() - arm, axis.y() - edge, 2 * arm + 1, width, color);
         painter.fillRect(axis.x() - edge, axis.y() - arm, width, 2 * arm + 1, color);
         const int inner = Half - 1;
-        drawOutline(painter, QRect(axis - QPoint(inner, inner), axis + QPoint(inner, inner)), color);
+        drawOutline(painter, QRect(axis - QPoint(inner, inner), axis + QPoint(inner, inner)),
+                    color);
     }
 }
 

@@ -1,10 +1,12 @@
 #include "app/assets/spritecommands.h"
 
 #include "app/actions/actionregistry.h"
+#include "app/assets/axisdialog.h"
 #include "app/assets/mediadialogs.h"
 #include "app/assets/spritepanel.h"
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
+#include "app/window/editorregistry.h"
 #include "app/window/fieldcommands.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
@@ -22,6 +24,7 @@
 #include <zorv/code/codedoc/framecode.h>
 #include <zorv/core/dialogs/dialogs.h>
 #include <zorv/core/fileinput.h>
+#include <zorv/image/spriteeditor.h>
 #include <zorv/media/palettefile.h>
 
 #include <algorithm>
@@ -44,15 +47,16 @@ QVector<ActionRow> SpriteCommands::actions()
     const Members<SpriteCommands> on(this);
     // clang-format off
     return {
-        {"palette_open",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Load palette..."),    {}, on(&SpriteCommands::openPalette),    on(&SpriteCommands::hasPalette)},
-        {"palette_save",   "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Save palette as..."), {}, on(&SpriteCommands::savePalette),    on(&SpriteCommands::hasPalette)},
+        {"sprite_axis",  "spr.list",  QT_TRANSLATE_NOOP("App::Actions", "Set a&xis..."),        {}, on(&SpriteCommands::setAxes),     on(&SpriteCommands::hasSprite)},
+        {"palette_open", "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Load palette..."),    {}, on(&SpriteCommands::openPalette), on(&SpriteCommands::hasPalette)},
+        {"palette_save", "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Save palette as..."), {}, on(&SpriteCommands::savePalette), on(&SpriteCommands::hasPalette)},
     };
     // clang-format on
 }
 
 void SpriteCommands::actionsMade()
 {
-    for (const char* name : {"spr_add", "palette_open", "palette_save"}) {
+    for (const char* name : {"spr_add", "sprite_axis", "palette_open", "palette_save"}) {
         m_panel->list()->addAction(m_services.actions->action(QLatin1String(name)));
     }
 }
@@ -120,6 +124,13 @@ FamilySprite* SpriteCommands::stillCurrent(int row, Family::AssetId id) const
 {
     FamilySprite* sprite = m_panel->currentSprite();
     return sprite && m_panel->currentRow() == row && sprite->id() == id ? sprite : nullptr;
+}
+
+void SpriteCommands::setAxes()
+{
+    auto* canvas =
+        qobject_cast<Zorv::SpriteEditor*>(m_services.editors->byName(QStringLiteral("spr")));
+    setAxesOfSelected(m_panel, canvas, m_services.window);
 }
 
 void SpriteCommands::removeSelected()

@@ -40,6 +40,7 @@ private:
     bool hasPalette() const;
     bool canSave() const;
     void save();
+    void setAxes();
     void removeSelected();
     void openPalette();
     void savePalette();

@@ -1,0 +1,134 @@
+#include "app/assets/axisdialog.h"
+
+#include "app/assets/mediadialogs.h"
+#include "app/assets/spritepanel.h"
+#include "family/assets/familysprite.h"
+#include "family/assets/spritecollection.h"
+
+#include <zorv/image/spriteeditor.h>
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QSpinBox>
+
+#include <algorithm>
+#include <limits>
+
+namespace App {
+
+using Family::SpriteCollection;
+using Operations::AxisBase;
+
+namespace {
+
+/// In the order of the enumeration.
+const char* const places[] = {
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Top left corner"),
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle of the top edge"),
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Top right corner"),
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle of the left edge"),
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle"),
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle of the right edge"),
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Bottom left corner"),
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle of the bottom edge"),
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Bottom right corner"),
+    QT_TRANSLATE_NOOP("App::AxisDialog", "Where it is now"),
+};
+
+QSpinBox* offsetBox(const QString& suffix)
+{
+    using Limits = std::numeric_limits<qint16>;
+    auto* box = new QSpinBox;
+    box->setRange(Limits::min(), Limits::max());
+    box->setSuffix(suffix);
+    return box;
+}
+
+}  // namespace
+
+AxisDialog::AxisDialog(const Family::FamilySprite& sprite, int count, QWidget* parent)
+    : QDialog(parent), m_name(sprite.id().text()), m_size(sprite.size()), m_axis(sprite.axis()),
+      m_base(new QComboBox), m_x(offsetBox(tr(" pixels"))), m_y(offsetBox(tr(" pixels"))),
+      m_result(new QLabel)
+{
+    setWindowTitle(tr("Set axis"));
+    for (const char* place : places) {
+        m_base->addItem(tr(place));
+    }
+    m_base->setMaxVisibleItems(m_base->count());
+    m_base->setCurrentIndex(int(AxisBase::Bottom));
+    m_result->setTextFormat(Qt::PlainText);
+    m_result->setWordWrap(true);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* layout = new QFormLayout(this);
+    layout->addRow(new QLabel(tr("%n sprite(s)", nullptr, count)));
+    layout->addRow(tr("&Place:"), m_base);
+    layout->addRow(tr("To the &right:"), m_x);
+    layout->addRow(tr("&Down:"), m_y);
+    layout->addRow(m_result);
+    layout->addRow(buttons);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    const auto changed = QOverload<int>::of(&QComboBox::currentIndexChanged);
+    connect(m_base, changed, this, &AxisDialog::showResult);
+    for (const QSpinBox* box : {m_x, m_y}) {
+        connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &AxisDialog::showResult);
+    }
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    showResult();
+}
+
+AxisBase AxisDialog::base() const
+{
+    return AxisBase(m_base->currentIndex());
+}
+
+QPoint AxisDialog::offset() const
+{
+    return {m_x->value(), m_y->value()};
+}
+
+void AxisDialog::showResult()
+{
+    const bool isMoved = base() == AxisBase::Current;
+    const QPoint axis = (isMoved ? m_axis : Operations::axisPlace(base(), m_size)) + offset();
+    m_result->setText(tr("Sprite %1: the axis goes from %2,%3 to %4,%5.")
+                          .arg(m_name, QString::number(m_axis.x()), QString::number(m_axis.y()),
+                               QString::number(axis.x()), QString::number(axis.y())));
+}
+
+void setAxesOfSelected(const SpritePanel* panel, Zorv::SpriteEditor* canvas, QWidget* parent)
+{
+    const QPointer<SpriteCollection> sprites = panel->sprites();
+    QVector<int> rows = panel->selectedRows();
+    const QVector<Family::AssetId> ids = panel->selectedIds();
+    if (rows.isEmpty()) {
+        return;
+    }
+    const int shown = rows.contains(panel->currentRow()) ? panel->currentRow() : rows.first();
+    AxisDialog dialog(*sprites->sprite(shown), rows.size(), parent);
+    if (dialog.exec() != QDialog::Accepted || !sprites || panel->sprites() != sprites) {
+        return;
+    }
+    // The file can be read again behind the dialog: what is in a row now may be another sprite.
+    const QVector<int> before = rows;
+    const auto isAnother = [&](int row) {
+        const Family::FamilySprite* sprite = sprites->sprite(row);
+        return !sprite || sprite->id() != ids[before.indexOf(row)];
+    };
+    rows.erase(std::remove_if(rows.begin(), rows.end(), isAnother), rows.end());
+    sprites->beginChange(AxisDialog::tr("Set axis"));
+    if (canvas->sprites() == sprites && rows.contains(canvas->spriteIndex())) {
+        canvas->saveImage();
+    }
+    const Operations::MediaResult result =
+        Operations::setAxes(sprites, rows, dialog.base(), dialog.offset());
+    sprites->endChange();
+    tellResult(AxisDialog::tr("Set axis"),
+               AxisDialog::tr("The axis of %n sprite(s) is set.", nullptr, result.done), result);
+}
+
+}  // namespace App
