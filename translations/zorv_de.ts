@@ -250,14 +250,6 @@
         <translation>&amp;Ein- oder ausklappen</translation>
     </message>
     <message>
-        <source>&amp;Load palette...</source>
-        <translation>Palette &amp;laden ...</translation>
-    </message>
-    <message>
-        <source>&amp;Save palette as...</source>
-        <translation>Palette &amp;speichern unter ...</translation>
-    </message>
-    <message>
         <source>&amp;Add sounds...</source>
         <translation>Klänge &amp;hinzufügen ...</translation>
     </message>
@@ -684,6 +676,45 @@
     <message>
         <source>Blanks separate the parameters. Each mark becomes the name of the copy of a project: %0 of the project in front, %1 of the first open project, %2 of the second, and so on. At least one mark is needed.</source>
         <translation>Leerzeichen trennen die Parameter. Jede Marke wird zum Namen der Kopie eines Projekts: %0 des Projekts im Vordergrund, %1 des ersten offenen Projekts, %2 des zweiten und so weiter. Mindestens eine Marke ist nötig.</translation>
+    </message>
+</context>
+<context>
+    <name>App::FamilyPaletteEditor</name>
+    <message>
+        <source>Two numbers are needed, as in &quot;1,2&quot;. Group and number:</source>
+        <translation>Es braucht zwei Zahlen, wie in &quot;1,2&quot;. Gruppe und Nummer:</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Group and number:</source>
+        <translation>Gruppe und Nummer:</translation>
+    </message>
+    <message>
+        <source>Add palettes</source>
+        <translation>Paletten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Group and number of the first palette:</source>
+        <translation>Gruppe und Nummer der ersten Palette:</translation>
+    </message>
+    <message>
+        <source>The order of the colours:</source>
+        <translation>Die Reihenfolge der Farben:</translation>
+    </message>
+    <message>
+        <source>As it is in the file</source>
+        <translation>Wie in der Datei</translation>
+    </message>
+    <message>
+        <source>Reversed: the last colour becomes the first</source>
+        <translation>Umgekehrt: die letzte Farbe wird die erste</translation>
+    </message>
+    <message>
+        <source>Reorder palette</source>
+        <translation>Palette umordnen</translation>
     </message>
 </context>
 <context>
@@ -1254,17 +1285,6 @@
     <message>
         <source>%1 is saved.</source>
         <translation>%1 ist gespeichert.</translation>
-    </message>
-</context>
-<context>
-    <name>App::PaletteGrid</name>
-    <message>
-        <source>Palette of the selected sprite</source>
-        <translation>Palette des gewählten Sprites</translation>
-    </message>
-    <message>
-        <source>Colour %1: %2, alpha %3</source>
-        <translation>Farbe %1: %2, Alpha %3</translation>
     </message>
 </context>
 <context>
@@ -2086,6 +2106,30 @@
         <source> MB</source>
         <translation> MB</translation>
     </message>
+    <message>
+        <source>Ask the next time</source>
+        <translation>Beim nächsten Mal fragen</translation>
+    </message>
+    <message>
+        <source>Pictures, in all palettes</source>
+        <translation>Die Bilder, in allen Paletten</translation>
+    </message>
+    <message>
+        <source>Pictures, in that palette</source>
+        <translation>Die Bilder, in dieser Palette</translation>
+    </message>
+    <message>
+        <source>The slots that pixels name</source>
+        <translation>Die Plätze, die Pixel nennen</translation>
+    </message>
+    <message>
+        <source>A colour that is &amp;moved leaves:</source>
+        <translation>Eine verschobene Farbe &amp;lässt:</translation>
+    </message>
+    <message>
+        <source>What stays as it is when a colour of a palette is dragged to another slot</source>
+        <translation>Was bleibt, wie es ist, wenn eine Farbe einer Palette an einen anderen Platz gezogen wird</translation>
+    </message>
 </context>
 <context>
     <name>App::SettingsDialog</name>
@@ -2171,18 +2215,6 @@
     <message>
         <source>Remove sprites</source>
         <translation>Sprites entfernen</translation>
-    </message>
-    <message>
-        <source>Change palette</source>
-        <translation>Palette ändern</translation>
-    </message>
-    <message>
-        <source>Save palette as</source>
-        <translation>Palette speichern unter</translation>
-    </message>
-    <message>
-        <source>The palette is saved.</source>
-        <translation>Die Palette ist gespeichert.</translation>
     </message>
     <message>
         <source>%1 is saved.</source>
@@ -7259,10 +7291,6 @@ Ticks: ---</translation>
     <message>
         <source>Layers</source>
         <translation>Ebenen</translation>
-    </message>
-    <message>
-        <source>Palette</source>
-        <translation>Palette</translation>
     </message>
     <message>
         <source>A double click on a sprite in the list of sprites shows it here.</source>

@@ -195,9 +195,8 @@ constexpr Command table[] = {
     {"palette reorder", "FILE ORDER", 2, 2, Select | Slots | Descending | Costumes, reorderPalette,
      "Put the colours of a palette of a sprite file in another order; pictures stay.",
      "The pixels of all sprites that use it follow. ORDER is hue, lightness, chroma, red, green, blue\n"
-     "or alpha; slot 0, transparent colours, and the black that fills a palette up at its end keep\n"
-     "their places, unless --slots names them. Or it is slots such as 7,3,5, which are put in this\n"
-     "order in the places that they have together.\n"
+     "or alpha; slot 0 and transparent colours keep their places, unless --slots names them. Or it is\n"
+     "slots such as 7,3,5, which are put in this order in the places that they have together.\n"
      "--select tells which palette, if there are several; several get the order of the first. What\n"
      "remaps show instead of it goes along."},
     {"palette ramp", "FILE FIRST LAST", 3, 3, Select | Space, rampPalette,

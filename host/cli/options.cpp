@@ -214,7 +214,7 @@ const OptionInfo table[] = {
     {Reversed, "--reversed", nullptr, setFlag<&Invocation::reverses>,
      QT_TRANSLATE_NOOP("Cli", "the order of the colours of an image is reversed, its picture stays")},
     {Slots, "--slots", "A-B", takeSlots,
-     QT_TRANSLATE_NOOP("Cli", "only these slots, whatever they hold")},
+     QT_TRANSLATE_NOOP("Cli", "only these slots, also 0 and those that are transparent")},
     {Descending, "--descending", nullptr, setFlag<&Invocation::isDescending>,
      QT_TRANSLATE_NOOP("Cli", "the largest first")},
     {Costumes, "--costumes", nullptr, setFlag<&Invocation::hasCostumes>,

@@ -103,10 +103,9 @@ PaletteOrder orderBy(PaletteKey key, const Family::FamilyPalette& palette,
     sorting.setFlag(Zorv::PaletteSort::MovesTransparent, isNamed);
     bool selection[256];
     for (int i = 0; i < 256; ++i) {
-        selection[i] = i >= invocation.firstSlot && i <= invocation.lastSlot;
+        selection[i] = !isNamed || (i >= invocation.firstSlot && i <= invocation.lastSlot);
     }
-    return Zorv::sortedOrder(palette.state.colors.data(), key, sorting,
-                             isNamed ? selection : nullptr);
+    return Zorv::sortedOrder(palette.state.colors.data(), key, sorting, selection);
 }
 
 }  // namespace

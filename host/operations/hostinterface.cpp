@@ -60,6 +60,7 @@ const QHash<QString, QVariant>& defaults()
         {QStringLiteral("project_path"), QString()},
         {QStringLiteral("cache_type"), 1},
         {QStringLiteral("undo_megabytes"), 256},
+        {QStringLiteral("pal_move"), 0},
         // Rulers write in the inverse of the first on both.
         {QStringLiteral("back_start"), QColor(0x2e, 0x33, 0x3b)},
         {QStringLiteral("back_end"), QColor(0x4a, 0x52, 0x5e)},

@@ -7,6 +7,7 @@
 #include "core/interface.h"
 #include "core/project.h"
 #include "editors/framework/findflag.h"
+#include "editors/palette/paletteeditor.h"
 #include "image/canvas/imagecanvas.h"
 #include "image/canvas/imageclipboard.h"
 #include "image/canvas/imagelayer.h"
@@ -35,12 +36,13 @@ Sprites* spritesOf(const Project* project)
 
 }  // namespace
 
-SpriteEditorPrivate::SpriteEditorPrivate(SpriteEditor* owner)
+SpriteEditorPrivate::SpriteEditorPrivate(SpriteEditor* owner, PaletteEditor* panel)
     : editor(owner), host(Interface::instance()), workspace(new SpriteWorkspace(this)),
-      grid(new PaletteWidget), colors(new ColorPalette(grid, this)),
+      palettes(panel), colors(new ColorPalette(panel->view(), this)),
       renderer(new ImageRenderer(colors, this)), tools(new QActionGroup(this))
 {
-    grid->setMovable(false);
+    connect(palettes, &PaletteEditor::currentPaletteChanged, this,
+            &SpriteEditorPrivate::currentPaletteChanged);
     renderer->setOption(ImageRenderer::CenteredBrush, true);
     workspace->setRenderer(renderer);
     colors->setColorTaker([this](bool isRightButton, unsigned char index) {
@@ -72,7 +74,6 @@ SpriteEditorPrivate::~SpriteEditorPrivate()
     kept.clear();
     delete renderer;
     delete colors;
-    delete grid;
 }
 
 ImageLayers* SpriteEditorPrivate::layers() const
@@ -108,8 +109,8 @@ void SpriteEditorPrivate::updateEnabled()
     emit saveEnabled(sprite() && mayBeChanged());
 }
 
-SpriteEditor::SpriteEditor(QObject* parent)
-    : FileEditor(parent), d(std::make_unique<SpriteEditorPrivate>(this))
+SpriteEditor::SpriteEditor(PaletteEditor* palettes, QObject* parent)
+    : FileEditor(parent), d(std::make_unique<SpriteEditorPrivate>(this, palettes))
 {
     d->editorAction = host()->createEditorAction(QStringLiteral("editor_spr"),
                                                  ZorvTranslator::instance(), EditorText);

@@ -15,6 +15,7 @@ namespace Zorv {
 
 class ColorPalette;
 class ImageRenderer;
+class PaletteEditor;
 class SpriteEditorPrivate;
 class Sprite;
 class Sprites;
@@ -31,15 +32,17 @@ class SpriteWorkspace;
 ///
 /// While it is in front the organizer of the host, its side panel 0, shows the sprites.
 ///
-/// It publishes the tools "spr_..." and the grid "pal_view", in the area "sprites"; those that are
-/// of use beside the stage in "animations", too.
+/// It publishes the tools "spr_...", in the area "sprites"; those that are of use beside the stage
+/// in "animations", too.
 /// Main thread only.
 class ZORV_EXPORT SpriteEditor : public FileEditor
 {
     Q_OBJECT
 
 public:
-    explicit SpriteEditor(QObject* parent = nullptr);
+    /// The palettes of the same sprites, which are painted in their current one; the editor tells
+    /// them which collection that is. Not owned, and outlives the editor.
+    explicit SpriteEditor(PaletteEditor* palettes, QObject* parent = nullptr);
     ~SpriteEditor() override;
 
     /// @name The editor
@@ -120,6 +123,9 @@ public:
     /// The canvas with its view and tools.
     ImageRenderer* renderer() const;
     ColorPalette* colors() const;
+
+    /// That of the constructor.
+    PaletteEditor* paletteEditor() const;
     /// @}
 
     Sprites* sprites() const;
@@ -147,12 +153,13 @@ public:
     /// All of the canvas but its history, in the colours of the sprite.
     CanvasRecord canvasRecord() const;
 
-    /// Shows the canvas in other colours, or with null in those of the sprite. Pixels stay, and
-    /// saving uses the sprite's own.
+    /// Shows the canvas in colours that are of no palette, or with null in those of the sprite.
+    /// Pixels stay, and saving uses the sprite's own.
     void previewColors(const QVector<QRgb>* colors);
 
-    /// True while the colours are not the sprite's. What has to know the sprite's own, such as
-    /// saving, cropping and pasting, ends it, and so does a change of its palette.
+    /// True while the colours are not the sprite's: those of above, or of another current palette
+    /// of `paletteEditor()`. What has to know the sprite's own, such as saving, cropping and
+    /// pasting, ends it, and so does a change of its palette.
     bool isPreviewing() const;
 
     /// Adds a sprite for each image file, as "spr_add" does with those that are chosen: behind the

@@ -3,7 +3,7 @@
 #include "cache/spritenumber.h"
 #include "core/fileinput.h"
 #include "editors/palette/colorpalette.h"
-#include "editors/palette/palettewidget.h"
+#include "editors/palette/paletteeditor.h"
 #include "image/canvas/canvascontent.h"
 #include "image/dialogs/imginfodlg.h"
 #include "image/imagerenderer.h"
@@ -53,7 +53,7 @@ class SpriteEditorPrivate : public QObject, public FileInput
     Q_OBJECT
 
 public:
-    explicit SpriteEditorPrivate(SpriteEditor* editor);
+    SpriteEditorPrivate(SpriteEditor* editor, PaletteEditor* palettes);
     ~SpriteEditorPrivate() override;
 
     ImageCanvas* canvas() const { return renderer->canvas(); }
@@ -87,14 +87,21 @@ public:
     void show(int index);
     void load();
     void clearCanvas();
-    void fillOwn(RGBA (&entries)[256]) const;
-    void loadColors();
-    void showColors(const RGBA* entries);
-    void chooseFirstColors();
     void showPosition();
     Sprite* sprite() const;
-    void endPreview();
     static QImage canvasForm(const QImage& image);
+
+    // spriteeditorcolors.cpp
+    void loadColors();
+    void fillOwn(RGBA (&entries)[256]) const;
+    void showOwnColors();
+    bool isPreview() const;
+    void endPreview();
+    void currentPaletteChanged();
+    void colorsShown();
+    void palettesChanged(bool isStructure);
+    void followPalette();
+    void chooseFirstColors();
 
     // spriteeditorwork.cpp
     void followCanvas();
@@ -124,7 +131,6 @@ public:
     // spriteeditoractions.cpp
     bool isOn(const char* name) const;
     void restoreSwitches();
-    void followPalette();
     void followFrame(const Sprite* sprite);
     std::function<bool()> stillThere() const;
     bool mayDelete() const;
@@ -163,7 +169,7 @@ public:
     SpriteEditor* const editor;
     Interface* const host;
     SpriteWorkspace* workspace;
-    QPointer<PaletteWidget> grid;
+    QPointer<PaletteEditor> palettes;
     ColorPalette* colors;
     ImageRenderer* renderer;
 
@@ -179,7 +185,7 @@ public:
     QVector<ImageLayer*> storedHidden;  // the layers that were hidden when both were the same
     std::optional<bool> isKnownChanged;
     const Palette* ownPalette = nullptr;  // when its colours were loaded; it may be gone
-    bool isPreview = false;               // the grid has colours that are not the sprite's
+    bool isOtherColors = false;           // the grid has some of no palette, to be looked at
     bool hasToldHidden = false;
     std::deque<KeptCanvas> kept;  // the one that was seen last is the last
     int selGuard = 0;             // the code itself changes the position

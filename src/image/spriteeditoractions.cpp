@@ -1,5 +1,3 @@
-#include "cache/palette.h"
-#include "cache/palettes.h"
 #include "cache/sprite.h"
 #include "cache/sprites.h"
 #include "core/dialogs/dialogs.h"
@@ -61,16 +59,6 @@ void SpriteEditorPrivate::frameSpr(bool isOn)
 {
     host->setOption(QStringLiteral("switch_frame_spr"), isOn);
     followed = {};
-}
-
-/// With the switch on, the palette of the sprite becomes the current one.
-void SpriteEditorPrivate::followPalette()
-{
-    const Sprite* now = sprite();
-    const Palette* palette = now ? now->palette() : nullptr;
-    if (palette && isOn("spr_switch_pal")) {
-        sprites->palettes()->setCurrent(int(palette->index()));
-    }
 }
 
 /// The same frame is told many times, and the person may have gone on to another sprite.

@@ -169,7 +169,6 @@ void SpriteEditorPrivate::publish()
     publishOwn(host, "spr_foreground", colors->foregroundWidget(), this);
     publishOwn(host, "spr_background", colors->backgroundWidget(), this);
     publishOwn(host, "spr_tool_options", renderer->toolPanel(), this);
-    publishOwn(host, "pal_view", grid, this);
     if (auto* opacity = widget<QSlider>("spr_layers_opacity")) {
         opacity->setRange(0, WholeOpacity);
         opacity->setValue(WholeOpacity);
@@ -235,9 +234,6 @@ void SpriteEditorPrivate::retranslate()
     }
     if (auto* list = widget<QAbstractItemView>("spr_layers_list")) {
         list->setAccessibleName(SpriteEditor::tr("Layers"));
-    }
-    if (grid) {
-        grid->setAccessibleName(SpriteEditor::tr("Palette"));
     }
     workspace->setNotice(hasCanvas() ? QString()
                                      : SpriteEditor::tr("A double click on a sprite in the list "

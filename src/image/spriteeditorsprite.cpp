@@ -1,5 +1,4 @@
 #include "cache/sprite.h"
-#include "cache/palette.h"
 #include "cache/palettes.h"
 #include "cache/sprites.h"
 #include "core/dialogs/dialogs.h"
@@ -9,8 +8,6 @@
 #include "image/canvas/rasterlayer.h"
 #include "image/spriteeditor_p.h"
 #include "image/tools/strokeoptions.h"
-#include "media/paletteobject.h"
-#include "media/tools/colorquantizer.h"
 
 #include <QAction>
 #include <QSlider>
@@ -21,34 +18,11 @@ namespace Zorv {
 
 namespace {
 
-constexpr int ColorCount = 256;
-
-/// The side of a picture of which colours are looked for. A larger one is made smaller before.
-constexpr int SampleSide = 1024;
-
 constexpr int PassingField = -1;
-
-void fillColors(const QVector<QRgb>& table, RGBA* entries)
-{
-    for (int i = 0; i < qMin(table.size(), ColorCount); ++i) {
-        const QRgb color = table.at(i);
-        entries[i] = {quint8(qRed(color)), quint8(qGreen(color)), quint8(qBlue(color)),
-                      quint8(qAlpha(color))};
-    }
-}
 
 QVariant identifierOf(const Sprite& sprite)
 {
     return sprite.property(QStringLiteral("Identifier"));
-}
-
-/// Those of a picture of true colour, to paint with.
-QVector<QRgb> ownColors(const QImage& image)
-{
-    const bool isLarge = image.width() > SampleSide || image.height() > SampleSide;
-    const QImage sample =
-        isLarge ? image.scaled(SampleSide, SampleSide, Qt::KeepAspectRatio) : image;
-    return ColorQuantizer::quantize(sample, ColorCount).colorTable();
 }
 
 }  // namespace
@@ -84,12 +58,14 @@ void SpriteEditorPrivate::take(Sprites* now)
     sprites = now;
     remember(nullptr, -1);
     clearCanvas();
+    palettes->setPalettes(now ? now->palettes() : nullptr);
     if (now) {
         connect(now, &Sprites::changed, this, [this] { spritesChanged(SameRecord); });
         connect(now, &QAbstractItemModel::modelReset, this,
                 [this] { spritesChanged(SameIdentifier); });
         connect(now, &OrganizableObject::modified, editor, &Editor::contentsChanged);
-        connect(now->palettes(), &Palettes::palChanged, this, [this] { loadColors(); });
+        connect(now->palettes(), &Palettes::palChanged, this,
+                &SpriteEditorPrivate::palettesChanged);
         connect(now, &Sprites::closing, this, [this, now] {
             sprites = nullptr;
             dropKept(now);
@@ -267,7 +243,6 @@ void SpriteEditorPrivate::show(int index)
     } else if (!bringBack()) {
         load();
     }
-    followPalette();
     selectInList();
     showPosition();
 }
@@ -293,62 +268,6 @@ void SpriteEditorPrivate::clearCanvas()
     emit editor->spriteShown();
 }
 
-/// Those of the sprite's own palette; of the picture where it has none.
-void SpriteEditorPrivate::fillOwn(RGBA (&entries)[ColorCount]) const
-{
-    const Sprite* now = sprite();
-    std::fill(std::begin(entries), std::end(entries), RGBA{0, 0, 0, 255});
-    if (const Palette* own = now->palette()) {
-        own->toPalette(entries);
-    } else {
-        const QImage image = now->image();
-        fillColors(image.colorCount() > 0 ? image.colorTable() : ownColors(image), entries);
-    }
-}
-
-void SpriteEditorPrivate::loadColors()
-{
-    const Sprite* now = sprite();
-    if (!now) {
-        return;
-    }
-    RGBA entries[ColorCount];
-    fillOwn(entries);
-    isPreview = false;
-    ownPalette = now->palette();
-    showColors(entries);
-    if (colors->foreground() == colors->background()) {
-        chooseFirstColors();
-    }
-}
-
-void SpriteEditorPrivate::showColors(const RGBA* entries)
-{
-    if (grid) {
-        grid->palette()->fromPalette(entries);
-        grid->flatten();
-    }
-    renderer->layerChanged();
-    emit editor->colorsShown();
-}
-
-/// What erases, and something that can be seen.
-void SpriteEditorPrivate::chooseFirstColors()
-{
-    int ground = 0;
-    while (ground < ColorCount && qAlpha(colors->color(uchar(ground))) != 0) {
-        ++ground;
-    }
-    ground %= ColorCount;
-    int front = 0;
-    while (front < ColorCount - 1 &&
-           (front == ground || qAlpha(colors->color(uchar(front))) == 0)) {
-        ++front;
-    }
-    colors->setBackground(uchar(ground));
-    colors->setForeground(uchar(front));
-}
-
 void SpriteEditorPrivate::showPosition()
 {
     const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
@@ -361,14 +280,6 @@ void SpriteEditorPrivate::showPosition()
         row < 0 ? QStringLiteral("0 / 0")
                 : QStringLiteral("%1 / %2").arg(QString::number(row + 1), QString::number(count)));
     updateEnabled();
-}
-
-/// Colours that are only looked at decide no pixel.
-void SpriteEditorPrivate::endPreview()
-{
-    if (isPreview) {
-        loadColors();
-    }
 }
 
 void SpriteEditor::setImage(const QImage& image, const QString& name)
@@ -396,35 +307,6 @@ void SpriteEditor::setImage(const QImage& image, const QString& name)
     canvas->undoStack()->clear();
     d->retranslate();
     d->updateEnabled();
-}
-
-CanvasRecord SpriteEditor::canvasRecord() const
-{
-    CanvasRecord record = CanvasRecord::of(*d->canvas());
-    if (d->isPreview && d->sprite()) {
-        RGBA entries[ColorCount];
-        d->fillOwn(entries);
-        std::transform(std::begin(entries), std::end(entries), record.colors.begin(),
-                       [](const RGBA& each) { return qRgba(each.r, each.g, each.b, each.a); });
-    }
-    return record;
-}
-
-void SpriteEditor::previewColors(const QVector<QRgb>* colors)
-{
-    if (!colors) {
-        d->loadColors();
-        return;
-    }
-    RGBA entries[ColorCount] = {};
-    fillColors(*colors, entries);
-    d->isPreview = true;
-    d->showColors(entries);
-}
-
-bool SpriteEditor::isPreviewing() const
-{
-    return d->isPreview;
 }
 
 }  // namespace Zorv

@@ -114,7 +114,7 @@ bool SpriteEditorPrivate::isChanged()
 bool SpriteEditorPrivate::compare() const
 {
     if (history()->isClean()) {
-        return isPreview || !areSamePixels(canvas()->mergeLayers(nullptr), loaded);
+        return isPreview() || !areSamePixels(canvas()->mergeLayers(nullptr), loaded);
     }
     const ImageLayer* only = layers()->count() == 1 ? layers()->at(0) : nullptr;
     return !only || !only->isVisible() || only->opacity() < 1.0 ||

@@ -64,8 +64,7 @@ private slots:
     void showsWhatIsInSight();
     void followsTheCursor();
     void thumbnailsAreThoseOfTheProject();
-    void readsBehindADialog();
-    void takesPalettesOut();
+    void keepsWhatItHas();
     void soundsComeAndGo();
     void asksForSpritesThatAreNamedNoMore();
     void asksBeforeSpritesAreLost_data();
@@ -142,47 +141,14 @@ void TestAssetPanels::thumbnailsAreThoseOfTheProject()
     QVERIFY(list->isMarked(499));
 }
 
-/// The sprites and palettes of before are gone when the dialog ends.
-void TestAssetPanels::readsBehindADialog()
+/// What cannot be read is told, and what is in memory stays.
+void TestAssetPanels::keepsWhatItHas()
 {
-    const QString colours = m->folder.filePath("colours.act");
-    const QVector<QPair<const char*, QString>> work{{"palette_save", colours},
-                                                    {"palette_open", colours}};
-    for (const auto& [action, file] : work) {
-        panel()->setCurrentRow(400);
-        m->fixture.dialogs.fileAnswers = {{file}};
-        m->fixture.dialogs.whileOpen = [this](const PlannedDialogs::Shown&) {
-            QVERIFY(static_cast<SpriteFile*>(sprites())->reload());
-        };
-        trigger(action);
-        m->fixture.dialogs.whileOpen = nullptr;
-        QCOMPARE(panel()->currentRow(), 400);
-    }
-    QCOMPARE(m->fixture.dialogs.count(QStringLiteral("error")), 0);
-    QCOMPARE(m->fixture.dialogs.count(QStringLiteral("choose")), 0);
     const QRgb color = sprites()->sprite(400)->image().pixel(2, 2);
-
-    // What cannot be read is told, and what is in memory stays.
     m->game.write("characters/ryn/ryn.sprites", "no sprites");
     QVERIFY(!static_cast<SpriteFile*>(sprites())->reload());
     QCOMPARE(m->fixture.dialogs.count(QStringLiteral("error")), 1);
     QCOMPARE(sprites()->sprite(400)->image().pixel(2, 2), color);
-}
-
-void TestAssetPanels::takesPalettesOut()
-{
-    panel()->setCurrentRow(2);
-    const QString palette = m->folder.filePath("colours.act");
-    m->fixture.dialogs.fileAnswers = {{palette}};
-    trigger("palette_save");
-    QCOMPARE(QFileInfo(palette).size(), 768);
-
-    // What is saved can be loaded: the colours, with the first one transparent.
-    panel()->setCurrentRow(0);
-    const auto before = sprites()->sprite(0)->shownColors();
-    m->fixture.dialogs.fileAnswers = {{palette}};
-    trigger("palette_open");
-    QCOMPARE(sprites()->sprite(0)->shownColors().mid(1, 3), before.mid(1, 3));
 }
 
 void TestAssetPanels::soundsComeAndGo()

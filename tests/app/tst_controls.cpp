@@ -284,6 +284,7 @@ void TestControls::placesByName()
     m->open(game, game.ryn(), game.animations());
     const char* name = QTest::currentDataTag();
     const char* area = bar == QLatin1String("organizer") ? "all" : "sprites";
+    m->host.setMenuEnabled("pal", "sprites", true);
     QAction* action = addAction(name);
     auto* button = qobject_cast<QWidget*>(
         m->host.addControl(QLatin1String(name), Zorv::ToolButtonControl(action)));
@@ -364,6 +365,7 @@ void TestControls::bringsAnEditorForward()
 
 void TestControls::staysSwitchedOff()
 {
+    m->host.setMenuEnabled("pal", "sprites", true);
     const auto publish = [this] {
         add("pal_sel", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));
         add("snd_other", WidgetControl(WidgetControl::Slider, 0, m_publisher.get()));

@@ -1,6 +1,9 @@
+#include "app/palettes/familypaletteeditor.h"
+#include "app/palettes/palettecommands.h"
 #include "stagefixture.h"
 
-#include "app/assets/palettegrid.h"
+#include <zorv/editors/palette/palettewidget.h>
+
 #include "app/assets/spritepanel.h"
 #include "family/nodes/animationnode.h"
 #include "family/nodes/framenode.h"
@@ -188,13 +191,16 @@ void TestStage::colourIsCaptured()
     m->goTo(line);
     m->trigger("stage_capture");
     const QStringList before = m->lines();
-    const auto* grid = m->window()->spritePanel()->findChild<App::PaletteGrid*>();
+    Zorv::PaletteEditor* palettes = m->window()->palettes()->editor();
+    palettes->view()->clearSelection();
     m->click(place);
-    QCOMPARE(grid->marked(), column < 0 ? -1 : colourOfColumn(column));
+    const int colour = palettes->view()->firstSelection();
+    QCOMPARE(colour, column < 0 ? 0 : colourOfColumn(column));
     if (column >= 0) {
+        QVERIFY(palettes->currentPalette());
         // As it is seen.
         const QRgb colours[] = {0, 0xffe02020, 0xff20c020, 0xff2020e0};
-        QCOMPARE(colourAt(place), QColor(colours[grid->marked()]));
+        QCOMPARE(colourAt(place), QColor(colours[colour]));
     }
     m->drag(place, Empty);
     QCOMPARE(m->lines(), before);

@@ -25,7 +25,7 @@ const QVector<MenuRow>& menuTable()
         {"paint", QT_TRANSLATE_NOOP("App::Menus", "&Painting"), "tools colours all", "spr.parts"},
         {"layers", QT_TRANSLATE_NOOP("App::Menus", "&Layers"), "all", "spr.parts"},
         {"select", QT_TRANSLATE_NOOP("App::Menus", "Sele&ction"), "all", "spr.parts"},
-        {"pal", QT_TRANSLATE_NOOP("App::Menus", "Pa&lettes"), "files"},
+        {"pal", QT_TRANSLATE_NOOP("App::Menus", "Pa&lettes"), "list files colours sprites"},
         {"snd", QT_TRANSLATE_NOOP("App::Menus", "S&ounds"), "files list sample play"},
         {"view", QT_TRANSLATE_NOOP("App::Menus", "&View"), "panels+ texts zoom stage"},
         {"tools", QT_TRANSLATE_NOOP("App::Menus", "&Tools"), "run find settings"},

@@ -5,7 +5,6 @@
 #include <zorv/core/dialogs/dialogs.h>
 #include <zorv/core/interface.h>
 #include <zorv/core/project.h>
-#include <zorv/media/fileextensiontype.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -13,12 +12,9 @@
 namespace App {
 
 using Zorv::Dialogs;
-using Zorv::FileExtensionType;
 using Zorv::Interface;
 
 namespace {
-
-constexpr unsigned AllFilesText = 7;  // "All files", in front of the patterns together
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -26,79 +22,58 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(App::MediaDialogs)
 };
 
-QString filters(FileExtensionType all, FileExtensionType each)
+QString filter()
 {
-    return Interface::instance()->text(AllFilesText) + QLatin1String(Zorv::fileExtension(all)) +
-           QLatin1String(Zorv::fileExtension(each));
-}
-
-QString filterOf(MediaKind kind)
-{
-    switch (kind) {
-    case MediaKind::Palettes:
-        return filters(FileExtensionType::AllPalettes, FileExtensionType::Palettes);
-    case MediaKind::PaletteTarget:
-        return QLatin1String(Zorv::fileExtension(FileExtensionType::PaletteAct));
-    case MediaKind::Sounds:
-        break;
-    }
     return Text::tr("Sounds") + QLatin1String(" (*.wav)");
 }
 
-QString folderKey(MediaKind kind)
+QString folderKey()
 {
-    return kind == MediaKind::Sounds ? QStringLiteral("snd_path") : QStringLiteral("spr_path");
+    return QStringLiteral("snd_path");
 }
 
-QString startFolder(MediaKind kind)
+QString startFolder()
 {
     const Zorv::Project* project = Interface::instance()->currentProject();
-    const QString kept = project ? project->option(folderKey(kind)).toString() : QString();
+    const QString kept = project ? project->option(folderKey()).toString() : QString();
     return !kept.isEmpty() || !project ? kept : project->absolutePath();
 }
 
-void keepFolder(MediaKind kind, const QString& folder)
+void keepFolder(const QString& folder)
 {
     Zorv::Project* project = Interface::instance()->currentProject();
     if (project && !folder.isEmpty()) {
-        project->setOption(folderKey(kind), folder, false);
+        project->setOption(folderKey(), folder, false);
     }
 }
 
-QString kept(MediaKind kind, const QString& fileName)
+QString kept(const QString& fileName)
 {
     if (!fileName.isEmpty()) {
-        keepFolder(kind, QFileInfo(fileName).absolutePath());
+        keepFolder(QFileInfo(fileName).absolutePath());
     }
     return fileName;
 }
 
 }  // namespace
 
-QStringList askForFiles(const QString& title, MediaKind kind)
+QStringList askForFiles(const QString& title)
 {
-    const QStringList files =
-        Zorv::getOpenFileNames(nullptr, title, startFolder(kind), filterOf(kind));
-    kept(kind, files.value(0));
+    const QStringList files = Zorv::getOpenFileNames(nullptr, title, startFolder(), filter());
+    kept(files.value(0));
     return files;
 }
 
-QString askForFile(const QString& title, MediaKind kind)
+QString askForTarget(const QString& title, const QString& name)
 {
-    return kept(kind, Zorv::getOpenFileName(nullptr, title, startFolder(kind), filterOf(kind)));
+    return kept(Dialogs::instance()->saveFileName(
+        nullptr, title, startFolder() + QLatin1Char('/') + name, filter()));
 }
 
-QString askForTarget(const QString& title, const QString& name, MediaKind kind)
+QString askForFolder(const QString& title)
 {
-    return kept(kind, Dialogs::instance()->saveFileName(nullptr, title,
-                                                        startFolder(kind) + QLatin1Char('/') + name,
-                                                        filterOf(kind)));
-}
-
-QString askForFolder(const QString& title, MediaKind kind)
-{
-    const QString folder = Dialogs::instance()->existingFolder(nullptr, title, startFolder(kind));
-    keepFolder(kind, folder);
+    const QString folder = Dialogs::instance()->existingFolder(nullptr, title, startFolder());
+    keepFolder(folder);
     return folder.isEmpty() ? folder : folder + QLatin1Char('/');
 }
 

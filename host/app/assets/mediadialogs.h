@@ -8,19 +8,15 @@ struct MediaResult;
 
 namespace App {
 
-/// What a dialog asks files of.
-enum class MediaKind { Palettes, PaletteTarget, Sounds };
-
-/// Ask for files to read. The dialog starts where the last one of the kind ended in this
-/// project. Empty if the person gives up.
-QStringList askForFiles(const QString& title, MediaKind kind);
-QString askForFile(const QString& title, MediaKind kind);
+/// Asks for sound files to read. The dialog starts where the last one ended in this project. Empty
+/// if the person gives up.
+QStringList askForFiles(const QString& title);
 
 /// Asks for a file to write, with a proposed name without a folder.
-QString askForTarget(const QString& title, const QString& name, MediaKind kind);
+QString askForTarget(const QString& title, const QString& name);
 
 /// Asks for a folder to write several files into.
-QString askForFolder(const QString& title, MediaKind kind);
+QString askForFolder(const QString& title);
 
 /// Asks if files that are there already may be replaced, with what tells of them.
 bool mayReplace(const QString& title, const QString& text);

@@ -117,7 +117,7 @@ void SoundCommands::addSounds()
     const Family::FamilySound* current = sounds->sound(m_panel->currentRow());
     const QString title = tr("Add sounds");
     const ImportChoice choice =
-        askForImport(title, MediaKind::Sounds, current ? current->id().group : 0,
+        askForImport(title, current ? current->id().group : 0,
                      [sounds](Family::AssetId id) { return sounds->find(0, id.text()) >= 0; });
     if (choice.files.isEmpty()) {
         return;
@@ -141,7 +141,7 @@ void SoundCommands::exportSounds()
     const SoundFile* sounds = m_panel->sounds();
     const QVector<Family::AssetId> ids = m_panel->selectedIds();
     if (!ids.isEmpty()) {
-        exportSelected(tr("Save sounds as"), MediaKind::Sounds, ids, QStringLiteral(".wav"),
+        exportSelected(tr("Save sounds as"), ids, QStringLiteral(".wav"),
                        [sounds](const auto& selection, const auto& request) {
                            return Operations::exportSounds(*sounds, selection, request);
                        });

@@ -2,7 +2,6 @@
 
 #include "app/actions/actionregistry.h"
 #include "app/assets/axisdialog.h"
-#include "app/assets/mediadialogs.h"
 #include "app/assets/spritepanel.h"
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
@@ -11,30 +10,22 @@
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
 #include "app/window/windowservices.h"
-#include "family/assets/familypalette.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/spritecollection.h"
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 #include "operations/check/uses.h"
-#include "operations/media/mediaresult.h"
-#include "operations/media/outputfiles.h"
 
 #include <zorv/animation/thumbnails/spritelist.h>
 #include <zorv/code/codedoc/framecode.h>
-#include <zorv/core/dialogs/dialogs.h>
 #include <zorv/core/fileinput.h>
 #include <zorv/image/spriteeditor.h>
-#include <zorv/media/palettefile.h>
 
 #include <algorithm>
 
 namespace App {
 
-using Family::FamilySprite;
 using Family::SpriteCollection;
-using Operations::MediaResult;
-using Zorv::Dialogs;
 
 SpriteCommands::SpriteCommands(const WindowServices& services)
     : QObject(services.window), m_services(services), m_panel(new SpritePanel)
@@ -47,16 +38,14 @@ QVector<ActionRow> SpriteCommands::actions()
     const Members<SpriteCommands> on(this);
     // clang-format off
     return {
-        {"sprite_axis",  "spr.list",  QT_TRANSLATE_NOOP("App::Actions", "Set a&xis..."),        {}, on(&SpriteCommands::setAxes),     on(&SpriteCommands::hasSprite)},
-        {"palette_open", "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Load palette..."),    {}, on(&SpriteCommands::openPalette), on(&SpriteCommands::hasPalette)},
-        {"palette_save", "pal.files", QT_TRANSLATE_NOOP("App::Actions", "&Save palette as..."), {}, on(&SpriteCommands::savePalette), on(&SpriteCommands::hasPalette)},
+        {"sprite_axis", "spr.list", QT_TRANSLATE_NOOP("App::Actions", "Set a&xis..."), {}, on(&SpriteCommands::setAxes), on(&SpriteCommands::hasSprite)},
     };
     // clang-format on
 }
 
 void SpriteCommands::actionsMade()
 {
-    for (const char* name : {"spr_add", "sprite_axis", "palette_open", "palette_save"}) {
+    for (const char* name : {"spr_add", "sprite_axis"}) {
         m_panel->list()->addAction(m_services.actions->action(QLatin1String(name)));
     }
 }
@@ -112,20 +101,6 @@ bool SpriteCommands::hasSprite() const
     return m_panel->currentSprite();
 }
 
-bool SpriteCommands::hasPalette() const
-{
-    const FamilySprite* sprite = m_panel->currentSprite();
-    return sprite && sprite->palette();
-}
-
-/// The sprite that was the current one before a dialog; null if it is another one now. The file can
-/// be read again behind a dialog: sprites and palettes from before it are gone then.
-FamilySprite* SpriteCommands::stillCurrent(int row, Family::AssetId id) const
-{
-    FamilySprite* sprite = m_panel->currentSprite();
-    return sprite && m_panel->currentRow() == row && sprite->id() == id ? sprite : nullptr;
-}
-
 void SpriteCommands::setAxes()
 {
     auto* canvas =
@@ -150,59 +125,6 @@ void SpriteCommands::removeSelected()
     sprites->removeSprites(rows);
     sprites->endChange();
     m_panel->setCurrentRow(std::min(rows.first(), int(sprites->count()) - 1));
-}
-
-void SpriteCommands::openPalette()
-{
-    const FamilySprite* sprite = m_panel->currentSprite();
-    const int row = m_panel->currentRow();
-    const Family::AssetId id = sprite ? sprite->id() : Family::AssetId();
-    const QString title = tr("Change palette");
-    const QString file =
-        sprite && sprite->palette() ? askForFile(title, MediaKind::Palettes) : QString();
-    if (file.isEmpty()) {
-        return;
-    }
-    Zorv::RGBA colors[256];
-    QString error;
-    if (!Zorv::loadPaletteFile(file, colors, &error)) {
-        Dialogs::instance()->error(title, error);
-        return;
-    }
-    sprite = stillCurrent(row, id);
-    if (Zorv::Palette* palette = sprite ? sprite->palette() : nullptr) {
-        palette->setColors(colors, Zorv::Palette::KeepPixels);
-    }
-}
-
-void SpriteCommands::savePalette()
-{
-    const FamilySprite* sprite = m_panel->currentSprite();
-    const Zorv::Palette* palette = sprite ? sprite->palette() : nullptr;
-    if (!palette) {
-        return;
-    }
-    const QString title = tr("Save palette as");
-    const QString identifier = palette->property(QStringLiteral("Identifier")).toString();
-    const QString name =
-        QString(identifier).replace(QLatin1Char(','), QLatin1Char('-')) + QLatin1String(".act");
-    Zorv::RGBA colors[256] = {};
-    palette->toPalette(colors);
-    const QString target = askForTarget(title, name, MediaKind::PaletteTarget);
-    if (target.isEmpty()) {
-        return;
-    }
-    Operations::OutputRequest request;
-    request.place = target;
-    request.force = true;
-    Operations::OutputFiles files;
-    MediaResult result;
-    if (files.plan({name}, request, QByteArrayLiteral("ACT"), &result)) {
-        QString error;
-        const QByteArray bytes = Zorv::paletteFileContent(colors, files.format(0), target, &error);
-        result.note(error.isEmpty() ? files.write(0, bytes) : error);
-    }
-    tellResult(title, tr("The palette is saved."), result);
 }
 
 }  // namespace App

@@ -4,19 +4,13 @@
 
 #include <QObject>
 
-namespace Family {
-struct AssetId;
-class FamilySprite;
-}  // namespace Family
-
 namespace App {
 
 class SpritePanel;
 struct WindowServices;
 
-/// The panel of the sprites of the project in front: several can be removed, and palettes come in
-/// and go out. Each change is one step of the collection's undo. What is done to one sprite is the
-/// business of its editor.
+/// The panel of the sprites of the project in front, of which several can be removed, in one step
+/// of the collection's undo. What is done to one sprite is the business of its editor.
 class SpriteCommands : public QObject, public Part
 {
     Q_OBJECT
@@ -37,14 +31,10 @@ public:
 
 private:
     bool hasSprite() const;
-    bool hasPalette() const;
     bool canSave() const;
     void save();
     void setAxes();
     void removeSelected();
-    void openPalette();
-    void savePalette();
-    Family::FamilySprite* stillCurrent(int row, Family::AssetId id) const;
 
     const WindowServices& m_services;
     SpritePanel* m_panel;

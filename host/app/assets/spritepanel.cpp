@@ -1,6 +1,5 @@
 #include "app/assets/spritepanel.h"
 
-#include "app/assets/palettegrid.h"
 #include "app/look/language.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/spritecollection.h"
@@ -19,7 +18,7 @@ using Family::SpriteCollection;
 using Zorv::SpriteList;
 
 SpritePanel::SpritePanel(QWidget* parent)
-    : QWidget(parent), m_list(new SpriteList), m_palette(new PaletteGrid), m_text(new QLabel)
+    : QWidget(parent), m_list(new SpriteList), m_text(new QLabel)
 {
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -27,7 +26,6 @@ SpritePanel::SpritePanel(QWidget* parent)
     layout->setContentsMargins({});
     layout->addWidget(m_list, 1);
     layout->addWidget(m_text);
-    layout->addWidget(m_palette);
     setFocusProxy(m_list);
 
     connect(m_list, &SpriteList::currentRowChanged, this, &SpritePanel::updateCurrent);
@@ -107,26 +105,8 @@ bool SpritePanel::showSprite(int group, int number)
     return row >= 0;
 }
 
-void SpritePanel::markColour(int entry)
-{
-    m_palette->setMarked(entry);
-}
-
-void SpritePanel::showColour(int group, int number, int entry)
-{
-    showSprite(group, number);
-    markColour(entry);
-}
-
 void SpritePanel::updateCurrent()
 {
-    const FamilySprite* sprite = currentSprite();
-    const Zorv::Palette* palette = sprite ? sprite->palette() : nullptr;
-    Zorv::RGBA colors[256] = {};
-    if (palette) {
-        palette->toPalette(colors);
-    }
-    m_palette->setColors(palette ? colors : nullptr);
     m_text->setText(currentText());
     emit changed();
 }

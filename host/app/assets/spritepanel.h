@@ -18,10 +18,7 @@ class SpriteList;
 
 namespace App {
 
-class PaletteGrid;
-
-/// The sprites of the project in front: a list, and what is to be known of the selected one, with
-/// its palette.
+/// The sprites of the project in front: a list, and what is to be known of the selected one.
 class SpritePanel : public QWidget
 {
     Q_OBJECT
@@ -47,12 +44,6 @@ public:
     /// Makes the sprite of that group and number the current one. False if there is none.
     bool showSprite(int group, int number);
 
-    /// Marks an entry of the palette of the current sprite, until another sprite is selected.
-    void markColour(int entry);
-
-    /// The same for the sprite of that group and number, which becomes the current one.
-    void showColour(int group, int number, int entry);
-
 signals:
     /// The current row, or anything in the collection.
     void changed();
@@ -66,7 +57,6 @@ private:
 
     QPointer<Family::SpriteCollection> m_sprites;
     Zorv::SpriteList* m_list;
-    PaletteGrid* m_palette;
     QLabel* m_text;
 };
 

@@ -22,11 +22,11 @@ class Text
 
 }  // namespace
 
-ImportChoice askForImport(const QString& title, MediaKind kind, int group,
+ImportChoice askForImport(const QString& title, int group,
                           const std::function<bool(AssetId)>& contains)
 {
     ImportChoice choice;
-    choice.files = askForFiles(title, kind);
+    choice.files = askForFiles(title);
     bool areNamed = true;
     for (const QString& file : qAsConst(choice.files)) {
         ImportTarget target;
@@ -42,8 +42,7 @@ ImportChoice askForImport(const QString& title, MediaKind kind, int group,
     return choice;
 }
 
-void exportSelected(const QString& title, MediaKind kind, const QVector<AssetId>& ids,
-                    const QString& suffix,
+void exportSelected(const QString& title, const QVector<AssetId>& ids, const QString& suffix,
                     const std::function<MediaResult(const Operations::Selection&,
                                                     const Operations::OutputRequest&)>& write)
 {
@@ -54,8 +53,8 @@ void exportSelected(const QString& title, MediaKind kind, const QVector<AssetId>
     Operations::OutputRequest request;
     request.force = ids.size() == 1;
     request.place = request.force
-                        ? askForTarget(title, Operations::exportNames(ids).first() + suffix, kind)
-                        : askForFolder(title, kind);
+                        ? askForTarget(title, Operations::exportNames(ids).first() + suffix)
+                        : askForFolder(title);
     if (request.place.isEmpty()) {
         return;
     }

@@ -22,12 +22,12 @@ struct ImportChoice
 
 /// Asks for files. Those without numbers in their names go to `group`; `contains` tells what is
 /// there already, which the person is asked about.
-ImportChoice askForImport(const QString& title, MediaKind kind, int group,
+ImportChoice askForImport(const QString& title, int group,
                           const std::function<bool(Family::AssetId)>& contains);
 
 /// What leaves a list: asks for a file if that is one, else for a folder, and has it written.
 /// `write` is called again with the leave to replace if the person gives it.
-void exportSelected(const QString& title, MediaKind kind, const QVector<Family::AssetId>& ids,
+void exportSelected(const QString& title, const QVector<Family::AssetId>& ids,
                     const QString& suffix,
                     const std::function<Operations::MediaResult(
                         const Operations::Selection&, const Operations::OutputRequest&)>& write);

@@ -27,6 +27,8 @@
 #include "app/messages/messageroom.h"
 #include "app/messages/problemwatch.h"
 #include "app/paint/paintcommands.h"
+#include "app/palettes/familypaletteeditor.h"
+#include "app/palettes/palettecommands.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
 #include "app/session/gamesession.h"
@@ -173,7 +175,8 @@ void MainWindow::publishTools()
     m_code->addEditor(m_stage->editor());
     editors()->add(m_stage->editor(), Zorv::FileID::Animations,
                    {m_middle, m_code->commands(), m_code->editor(), m_code->workspace()});
-    m_paint = new PaintCommands(m_services);
+    m_palettes = new PaletteCommands(m_services);
+    m_paint = new PaintCommands(m_services, m_palettes->editor());
     editors()->add(m_paint->editor(), Zorv::FileID::Sprites, {nullptr, m_paint->commands()});
     m_hearing = new Hearing(m_services);
     editors()->add(m_hearing->editor(), Zorv::FileID::Sounds, {nullptr, m_hearing->commands()});
@@ -232,8 +235,8 @@ void MainWindow::addParts()
 {
     for (Part* part : std::initializer_list<Part*>{
              m_router, m_opener, m_gameCommands, m_gameTree, m_services.editors, m_sprites,
-             m_sounds, m_stage, m_paint, m_hearing, m_code, m_animations, m_thumbnails, m_problems,
-             m_messagePanel, m_runCommands, m_services.status, m_commands}) {
+             m_sounds, m_stage, m_paint, m_palettes, m_hearing, m_code, m_animations, m_thumbnails,
+             m_problems, m_messagePanel, m_runCommands, m_services.status, m_commands}) {
         m_services.parts->add(part);
     }
 }
@@ -244,6 +247,7 @@ MainWindow::~MainWindow()
     m_services.parts->end();
     delete m_hearing;
     delete m_paint;
+    delete m_palettes;
     delete m_stage;
     delete m_code;
     delete m_services.session;
@@ -292,7 +296,8 @@ void MainWindow::connectParts()
     connect(m_services.status, &StatusFields::problemsClicked, m_messagePanel,
             &MessagePanel::comeForward);
     m_paint->editor()->takeDropsOn(m_sprites->panel());
-    connect(m_stage, &StageCommands::colourPicked, m_sprites->panel(), &SpritePanel::showColour);
+    connect(m_stage, &StageCommands::colourPicked, m_palettes->editor(),
+            &FamilyPaletteEditor::selectColour);
     connect(m_sprites->panel(), &SpritePanel::spriteActivated, m_paint,
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
     connect(m_thumbnails->panel(), &Zorv::ThumbnailsEditor::spriteActivated, m_paint,

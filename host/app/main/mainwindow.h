@@ -28,6 +28,7 @@ class GameOpener;
 class GameTree;
 class MessagePanel;
 class PaintCommands;
+class PaletteCommands;
 class ProblemWatch;
 class RunCommands;
 class Hearing;
@@ -77,6 +78,7 @@ public:
     SpritePanel* spritePanel() const;
     SoundPanel* soundPanel() const;
     StageCommands* stage() const { return m_stage; }
+    PaletteCommands* palettes() const { return m_palettes; }
     PaintCommands* paint() const { return m_paint; }
     ProblemWatch* problems() const { return m_problems; }
     MessagePanel* messagePanel() const { return m_messagePanel; }
@@ -141,6 +143,7 @@ private:
     WindowServices m_services;
     CodeView* m_code = nullptr;
     StageCommands* m_stage = nullptr;
+    PaletteCommands* m_palettes = nullptr;
     PaintCommands* m_paint = nullptr;
     GameTree* m_gameTree;
     GameOpener* m_opener;

@@ -5,6 +5,7 @@
 #include <zorv/cache/sprite.h>
 #include <zorv/cache/sprites.h>
 #include <zorv/editors/palette/colorpalette.h>
+#include <zorv/editors/palette/paletteeditor.h>
 #include <zorv/image/imagerenderer.h>
 #include <zorv/image/palettepreviews.h>
 #include <zorv/image/spriteeditor.h>
@@ -31,11 +32,11 @@ QVector<QRgb> tableOf(const Palette& palette)
 }
 
 /// Of a sprite that has one; none for a sprite of true colour.
-QVector<const Palette*> palettesFor(const SpriteEditor& editor)
+QVector<Palette*> palettesFor(const SpriteEditor& editor)
 {
-    QVector<const Palette*> shown;
+    QVector<Palette*> shown;
     const Zorv::Sprite* sprite = editor.sprite();
-    const Palette* own = sprite ? sprite->palette() : nullptr;
+    Palette* own = sprite ? sprite->palette() : nullptr;
     const Zorv::Palettes* all = own ? own->owner() : nullptr;
     const int count = all ? qMin(all->count(), PalettePreviews::MaxCount) : 0;
     for (int i = 0; i < count; ++i) {
@@ -69,33 +70,24 @@ Costumes::~Costumes()
 void Costumes::update()
 {
     m_palettes = palettesFor(*m_editor);
-    const Zorv::Sprite* sprite = m_editor->sprite();
-    const Palette* own = sprite ? sprite->palette() : nullptr;
-    m_chosen = m_editor->isPreviewing() ? m_chosen : nullptr;
-    const Palette* shown = m_editor->isPreviewing() ? m_chosen : own;
     QVector<PalettePreviews::Preview> previews;
     for (const Palette* palette : qAsConst(m_palettes)) {
         previews.append(
             {palette->property(QStringLiteral("Identifier")).toString(), tableOf(*palette)});
     }
     m_panel->setPreviews(previews);
-    m_panel->setCurrentIndex(m_palettes.indexOf(shown));
+    m_panel->setCurrentIndex(m_palettes.indexOf(m_editor->paletteEditor()->currentPalette()));
 }
 
 /// To be looked at. What was clicked on is the palette that the row was made of, as long as the
 /// file has it.
 void Costumes::choose(int index)
 {
-    const Palette* wanted = m_palettes.value(index);
-    const Zorv::Sprite* sprite = m_editor->sprite();
-    if (!sprite || !palettesFor(*m_editor).contains(wanted)) {
-        update();
-    } else if (wanted == sprite->palette()) {
-        m_editor->previewColors(nullptr);
+    Palette* wanted = m_palettes.value(index);
+    if (palettesFor(*m_editor).contains(wanted)) {
+        m_editor->paletteEditor()->setCurrentPalette(wanted);
     } else {
-        const QVector<QRgb> table = tableOf(*wanted);
-        m_chosen = wanted;
-        m_editor->previewColors(&table);
+        update();
     }
 }
 

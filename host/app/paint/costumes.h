@@ -14,8 +14,8 @@ namespace App {
 /// The panel with the picture of the canvas in the palettes of its file.
 ///
 /// These are the first ones of the file, as many as the panel takes. If the sprite's own is not
-/// among them it has the last place. A click shows the canvas in a palette; the sprite keeps its
-/// own.
+/// among them it has the last place. A click makes a palette the current one, in which the canvas
+/// is shown; the sprite keeps its own.
 class Costumes : public QObject
 {
     Q_OBJECT
@@ -35,8 +35,7 @@ private:
 
     Zorv::SpriteEditor* m_editor;
     Zorv::PalettePreviews* m_panel;
-    QVector<const Zorv::Palette*> m_palettes;  // in the order of the panel; compared only
-    const Zorv::Palette* m_chosen = nullptr;   // for a preview; compared only
+    QVector<Zorv::Palette*> m_palettes;  // in the order of the panel; compared only
 };
 
 }  // namespace App

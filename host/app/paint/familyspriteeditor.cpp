@@ -6,8 +6,9 @@
 
 namespace App {
 
-FamilySpriteEditor::FamilySpriteEditor(const WindowServices& services, QObject* parent)
-    : SpriteEditor(parent), m_services(services)
+FamilySpriteEditor::FamilySpriteEditor(const WindowServices& services,
+                                       Zorv::PaletteEditor* palettes, QObject* parent)
+    : SpriteEditor(palettes, parent), m_services(services)
 {
 }
 

@@ -18,7 +18,8 @@ class FamilySpriteEditor : public Zorv::SpriteEditor
     Q_OBJECT
 
 public:
-    explicit FamilySpriteEditor(const WindowServices& services, QObject* parent = nullptr);
+    FamilySpriteEditor(const WindowServices& services, Zorv::PaletteEditor* palettes,
+                       QObject* parent = nullptr);
 
 protected:
     void newIdentifiers(const QStringList& files, QList<QVariant>* identifiers) override;

@@ -49,9 +49,9 @@ const char* const canvasKeys[] = {
 
 }  // namespace
 
-PaintCommands::PaintCommands(const WindowServices& services)
+PaintCommands::PaintCommands(const WindowServices& services, Zorv::PaletteEditor* palettes)
     : QObject(services.window), m_services(services),
-      m_editor(new FamilySpriteEditor(services, this)),
+      m_editor(new FamilySpriteEditor(services, palettes, this)),
       m_animations(
           qobject_cast<Zorv::AnimationEditor*>(services.editors->byName(QStringLiteral("anim")))),
       m_shine(new FrameShine(m_editor, m_animations, this)),

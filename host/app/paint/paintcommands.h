@@ -9,6 +9,7 @@ class SpriteCollection;
 }
 
 namespace Zorv {
+class PaletteEditor;
 class AnimationEditor;
 class PalettePreviews;
 class SpriteEditor;
@@ -29,8 +30,9 @@ class PaintCommands : public QObject, public Part
     Q_OBJECT
 
 public:
-    /// Makes the editor, as a child of the window. The editor of animations is there by then.
-    explicit PaintCommands(const WindowServices& services);
+    /// Makes the editor, as a child of the window. The editor of animations is there by then. The
+    /// panel of palettes is not owned.
+    PaintCommands(const WindowServices& services, Zorv::PaletteEditor* palettes);
     ~PaintCommands() override;
 
     Zorv::SpriteEditor* editor() const { return m_editor; }

@@ -35,6 +35,14 @@ QVector<SettingChoice> caches()
             {2, settingText(QT_TRANSLATE_NOOP("App::Settings", "Keep in a temporary file"))}};
 }
 
+QVector<SettingChoice> paletteMoves()
+{
+    return {{0, settingText(QT_TRANSLATE_NOOP("App::Settings", "Ask the next time"))},
+            {1, settingText(QT_TRANSLATE_NOOP("App::Settings", "Pictures, in all palettes"))},
+            {2, settingText(QT_TRANSLATE_NOOP("App::Settings", "Pictures, in that palette"))},
+            {3, settingText(QT_TRANSLATE_NOOP("App::Settings", "The slots that pixels name"))}};
+}
+
 QVector<SettingChoice> backgrounds()
 {
     return {{0, settingText(QT_TRANSLATE_NOOP("App::Settings", "The two colours"))},
@@ -139,6 +147,8 @@ const QVector<SettingRow>& settingTable()
          QT_TRANSLATE_NOOP("App::Settings", "Memory is faster; a temporary file leaves memory to others. It counts from the next file that is opened."), 0, 0, nullptr, nullptr, caches},
         {"undo_megabytes", "files", Row::Number, QT_TRANSLATE_NOOP("App::Settings", "&Undo of painting, at most:"),
          QT_TRANSLATE_NOOP("App::Settings", "What the steps on a canvas may take of memory. The oldest go first; the last always stays."), SmallestUndo, LargestUndo, nullptr, QT_TRANSLATE_NOOP("App::Settings", " MB")},
+        {"pal_move", "files", Row::Choice, QT_TRANSLATE_NOOP("App::Settings", "A colour that is &moved leaves:"),
+         QT_TRANSLATE_NOOP("App::Settings", "What stays as it is when a colour of a palette is dragged to another slot"), 0, 0, nullptr, nullptr, paletteMoves},
         {"project_path", "files", Row::Folder, QT_TRANSLATE_NOOP("App::Settings", "&Folder of projects:"),
          QT_TRANSLATE_NOOP("App::Settings", "Where dialogs for files begin, as long as no other folder was used")},
 

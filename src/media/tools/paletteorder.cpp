@@ -38,17 +38,6 @@ Place placeOf(RGBA color, PaletteKey key)
     return {color.a, 0};
 }
 
-// The entries in front of the black that fills a palette up.
-int filledCount(const RGBA* palette)
-{
-    const auto isBlack = [](RGBA color) { return color == RGBA{0, 0, 0, 255}; };
-    int count = 256;
-    while (count > 0 && isBlack(palette[count - 1])) {
-        --count;
-    }
-    return count == 255 ? 256 : count;
-}
-
 }  // namespace
 
 PaletteOrder sameOrder()
@@ -94,8 +83,7 @@ PaletteOrder sortedOrder(const RGBA* palette, PaletteKey key, PaletteSorting sor
                          const bool* selection)
 {
     QVector<quint8> moving;
-    const int end = selection ? 256 : filledCount(palette);
-    for (int i = 0; i < end; ++i) {
+    for (int i = 0; i < 256; ++i) {
         const bool moves = (i > 0 || sorting.testFlag(PaletteSort::MovesFirst)) &&
                            (palette[i].a > 0 || sorting.testFlag(PaletteSort::MovesTransparent)) &&
                            (!selection || selection[i]);

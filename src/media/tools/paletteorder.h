@@ -50,8 +50,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(PaletteSorting)
 
 /// The order that sorts the entries of a palette among the slots that they have now. Equal ones
 /// keep their order. Entry 0 and transparent ones keep their places unless they are asked for. A
-/// selection is a pointer to 256 `bool`; what is not selected stays. Null means all but the opaque
-/// black that fills a palette up: two such entries or more at its end.
+/// selection is a pointer to 256 `bool`; null means all, and what is not selected stays.
 ZORV_EXPORT PaletteOrder sortedOrder(const RGBA* palette, PaletteKey key,
                                      PaletteSorting sorting = PaletteSort::Plain,
                                      const bool* selection = nullptr);

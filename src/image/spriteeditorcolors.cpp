@@ -1,0 +1,197 @@
+#include "cache/palette.h"
+#include "cache/palettes.h"
+#include "cache/sprite.h"
+#include "cache/sprites.h"
+#include "image/spriteeditor_p.h"
+#include "media/paletteobject.h"
+#include "media/tools/colorquantizer.h"
+
+#include <algorithm>
+
+// The canvas is seen in the colours of the grid. Those are of the current palette of the panel, be
+// it that of the sprite or another one to look at the sprite in; of the picture itself where it has
+// no palette; or some that a host previews. Only the first and the third decide pixels.
+
+namespace Zorv {
+
+namespace {
+
+constexpr int ColorCount = 256;
+
+/// The side of a picture of which colours are looked for. A larger one is made smaller before.
+constexpr int SampleSide = 1024;
+
+void fillColors(const QVector<QRgb>& table, RGBA* entries)
+{
+    for (int i = 0; i < qMin(table.size(), ColorCount); ++i) {
+        const QRgb color = table.at(i);
+        entries[i] = {quint8(qRed(color)), quint8(qGreen(color)), quint8(qBlue(color)),
+                      quint8(qAlpha(color))};
+    }
+}
+
+/// Those of a picture of true colour, to paint with.
+QVector<QRgb> ownColors(const QImage& image)
+{
+    const bool isLarge = image.width() > SampleSide || image.height() > SampleSide;
+    const QImage sample =
+        isLarge ? image.scaled(SampleSide, SampleSide, Qt::KeepAspectRatio) : image;
+    return ColorQuantizer::quantize(sample, ColorCount).colorTable();
+}
+
+}  // namespace
+
+/// For a sprite that comes onto the canvas.
+void SpriteEditorPrivate::loadColors()
+{
+    const Sprite* now = sprite();
+    if (!now) {
+        return;
+    }
+    ownPalette = now->palette();
+    if (!ownPalette || isOn("spr_switch_pal") || !palettes->currentPalette()) {
+        showOwnColors();
+    }
+    if (colors->foreground() == colors->background()) {
+        chooseFirstColors();
+    }
+}
+
+/// Those of the sprite's own palette; of the picture where it has none.
+void SpriteEditorPrivate::fillOwn(RGBA (&entries)[ColorCount]) const
+{
+    const Sprite* now = sprite();
+    std::fill(std::begin(entries), std::end(entries), RGBA{0, 0, 0, 255});
+    if (const Palette* own = now->palette()) {
+        own->toPalette(entries);
+    } else {
+        const QImage image = now->image();
+        fillColors(image.colorCount() > 0 ? image.colorTable() : ownColors(image), entries);
+    }
+}
+
+void SpriteEditorPrivate::showOwnColors()
+{
+    const Sprite* now = sprite();
+    isOtherColors = false;
+    if (!now) {
+        return;
+    }
+    if (Palette* palette = now->palette()) {
+        // While a file is read anew its sprites are there before its palettes.
+        const Palettes* all = palettes->palettes();
+        const bool isListed = all && all->palette(int(palette->index())) == palette;
+        if (isListed && palettes->currentPalette() != palette) {
+            palettes->setCurrentPalette(palette);
+        }
+        return;
+    }
+    RGBA entries[ColorCount];
+    fillOwn(entries);
+    palettes->showColors(entries);
+    colorsShown();
+}
+
+bool SpriteEditorPrivate::isPreview() const
+{
+    const Sprite* now = sprite();
+    return now && (isOtherColors || palettes->currentPalette() != now->palette());
+}
+
+/// Colours that are only looked at decide no pixel.
+void SpriteEditorPrivate::endPreview()
+{
+    if (isPreview()) {
+        showOwnColors();
+    }
+}
+
+/// There is always something to see a sprite in.
+void SpriteEditorPrivate::currentPaletteChanged()
+{
+    if (palettes->currentPalette()) {
+        isOtherColors = false;
+    } else if (!isOtherColors) {
+        showOwnColors();
+    }
+    colorsShown();
+}
+
+void SpriteEditorPrivate::colorsShown()
+{
+    renderer->layerChanged();
+    emit editor->colorsShown();
+}
+
+/// Behind the panel, which goes by rows, and rests while it is hidden.
+void SpriteEditorPrivate::palettesChanged(bool isStructure)
+{
+    if (isStructure) {
+        followPalette();
+    } else if (!palettes->isActive() && palettes->currentPalette()) {
+        palettes->setCurrentPalette(palettes->currentPalette());
+    }
+}
+
+/// With the switch on, the palette of the sprite becomes the current one.
+void SpriteEditorPrivate::followPalette()
+{
+    const Sprite* now = sprite();
+    if (now && now->palette() && isOn("spr_switch_pal")) {
+        showOwnColors();
+    }
+}
+
+/// What erases, and something that can be seen.
+void SpriteEditorPrivate::chooseFirstColors()
+{
+    int ground = 0;
+    while (ground < ColorCount && qAlpha(colors->color(uchar(ground))) != 0) {
+        ++ground;
+    }
+    ground %= ColorCount;
+    int front = 0;
+    while (front < ColorCount - 1 &&
+           (front == ground || qAlpha(colors->color(uchar(front))) == 0)) {
+        ++front;
+    }
+    colors->setBackground(uchar(ground));
+    colors->setForeground(uchar(front));
+}
+
+void SpriteEditor::previewColors(const QVector<QRgb>* colors)
+{
+    if (!colors) {
+        d->showOwnColors();
+        return;
+    }
+    RGBA entries[ColorCount] = {};
+    fillColors(*colors, entries);
+    d->isOtherColors = true;
+    d->palettes->showColors(entries);
+    d->colorsShown();
+}
+
+CanvasRecord SpriteEditor::canvasRecord() const
+{
+    CanvasRecord record = CanvasRecord::of(*d->canvas());
+    if (d->isPreview()) {
+        RGBA entries[ColorCount];
+        d->fillOwn(entries);
+        std::transform(std::begin(entries), std::end(entries), record.colors.begin(),
+                       [](const RGBA& each) { return qRgba(each.r, each.g, each.b, each.a); });
+    }
+    return record;
+}
+
+bool SpriteEditor::isPreviewing() const
+{
+    return d->isPreview();
+}
+
+PaletteEditor* SpriteEditor::paletteEditor() const
+{
+    return d->palettes;
+}
+
+}  // namespace Zorv
