@@ -8,6 +8,7 @@
 
 #include <zorv/core/dialogs/dialogs.h>
 #include <zorv/core/progressreporter.h>
+#include <zorv/editors/palette/paletteeditor.h>
 #include <zorv/image/spriteeditor.h>
 #include <zorv/media/imagetransfer.h>
 
@@ -48,6 +49,15 @@ public:
     Button question(const QString&, const QString&, Buttons, Button) override { return No; }
 };
 
+/// Adds no palettes.
+class Panel : public Zorv::PaletteEditor
+{
+public:
+    bool paletteIdentifier(QVariant*) override { return false; }
+    void paletteIdentifiers(const QStringList&, QList<QVariant>*, bool*) override {}
+    void reorderColors(const QVector<int>&, const Zorv::PaletteOrder&) override {}
+};
+
 QImage picture(int kind)
 {
     QImage image(160, 128, QImage::Format_Indexed8);
@@ -76,7 +86,8 @@ void add(const QStringList& files, double* stall)
 {
     SpriteFile sprites;
     sprites.insertSprite(-1, {0, 0}, {}, picture(0));
-    Zorv::SpriteEditor editor;
+    Panel panel;
+    Zorv::SpriteEditor editor(&panel);
     editor.showSprite(&sprites, 0);
     QElapsedTimer turn;
     QTimer ticks;
@@ -110,7 +121,8 @@ double select(int count)
     for (int i = 0; i < count; ++i) {
         sprites.insertSprite(i - 1, {quint16(i / 1000), quint16(i % 1000)}, {}, picture(i % 50));
     }
-    Zorv::SpriteEditor editor;
+    Panel panel;
+    Zorv::SpriteEditor editor(&panel);
     const auto walk = [&](int steps) {
         for (int i = 0; i < steps; ++i) {
             editor.showSprite(&sprites, (i * 7 + 1) % Shown);

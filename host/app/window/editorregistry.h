@@ -37,7 +37,7 @@ struct EditorPlace
 ///
 /// An editor comes into the window by one line:
 ///
-///     editors->add(new SpriteEditor, Zorv::FileID::Sprites);
+///     editors->add(new SpriteEditor(palettes), Zorv::FileID::Sprites);
 ///
 /// From then on it is told of projects, settings and language, found by its name, by that of its
 /// area and by its files, and it comes to the front by its action or by the host's
