@@ -106,6 +106,10 @@ void TestEveryAction::prepare(const QString& name)
     m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};  // a sprite in use may go
     QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_delete")->isEnabled() &&
                 m->action("anim_next_frame")->isEnabled());
+    Family::SpriteCollection* sprites = m->window->spritePanel()->sprites();
+    while (name.startsWith(QLatin1String("pal_")) && sprites->canUndo()) {
+        sprites->undo();  // "pal_clear" leaves nothing to the others
+    }
     if (name.startsWith(QLatin1String("snd_"))) {
         m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};
         m->window->hearing()->showSound(1);

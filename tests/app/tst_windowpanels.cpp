@@ -312,7 +312,8 @@ void TestWindowPanels::showsTheOrganizerBySetting()
     QTRY_VERIFY(dock->isVisible());
     QCOMPARE(m->host.extraEditor(0)->displayName(), dock->windowTitle());
     QCOMPARE(m->host.extraEditor(1), window()->thumbnails()->panel());
-    QVERIFY(!m->host.extraEditor(2));
+    QCOMPARE(m->host.extraEditor(2)->name(), QStringLiteral("pal"));
+    QVERIFY(!m->host.extraEditor(3));
     dock->close();
     QCOMPARE(m->host.option(key), QVariant(false));
     m->host.setOption(key, true);
