@@ -84,7 +84,7 @@ StageCommands::StageCommands(const WindowServices& services, QSplitter* page,
       m_editor(new FamilyAnimationEditor(code, m_workspace, m_renderer, this)),
       m_view(new StageView(m_workspace, m_renderer, bar)),
       m_room(new StageRoom(page, m_view, code->editor(), this)),
-      m_sight(new StageSight(m_editor, m_renderer, this)), m_onion(onion)
+      m_sight(new StageSight(m_editor, m_renderer, m_room, this)), m_onion(onion)
 {
     page->insertWidget(0, m_view);
     m_view->hide();
@@ -131,7 +131,6 @@ void StageCommands::connectStage()
         m_sight->keepPlaceOf(Zorv::Interface::instance()->option(TextKey).toString());
         m_sight->bringSoon();
     });
-    connect(m_room, &StageRoom::applied, m_sight, &StageSight::bringSoon);
     connect(m_view, &StageView::pointerLeft, status, [status] { status->setStagePlace({}); });
     connect(m_renderer, &GraphicsRenderer::contactDrawingExit, this, &StageCommands::leaveMode);
     connect(m_renderer, &GraphicsRenderer::colorCaptured, this, &StageCommands::colorCaptured);

@@ -25,6 +25,9 @@ public:
     /// Gives the view the height that it needs, after it was shown, hidden, emptied or filled.
     void update();
 
+    /// True from `update()` until the view has its height, which `applied()` tells.
+    bool isPending() const { return m_isNeeded; }
+
     /// Keeps the share in the settings.
     void keep();
 

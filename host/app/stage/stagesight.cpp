@@ -2,6 +2,7 @@
 
 #include "app/stage/familyanimationeditor.h"
 #include "app/stage/stagerenderer.h"
+#include "app/stage/stageroom.h"
 #include "family/stage/framecomposer.h"
 
 #include <zorv/core/projectfile.h>
@@ -29,9 +30,11 @@ int wayInto(int first, int last, int from, int to)
 
 }  // namespace
 
-StageSight::StageSight(FamilyAnimationEditor* editor, StageRenderer* stage, QObject* parent)
-    : QObject(parent), m_editor(editor), m_stage(stage)
+StageSight::StageSight(FamilyAnimationEditor* editor, StageRenderer* stage, const StageRoom* room,
+                       QObject* parent)
+    : QObject(parent), m_editor(editor), m_stage(stage), m_room(room)
 {
+    connect(room, &StageRoom::applied, this, &StageSight::bringSoon);
     connect(editor, &Zorv::AnimationEditor::shownChanged, this, &StageSight::follow);
     connect(stage, &Zorv::GraphicsRenderer::viewChanged, this, [this] { m_wasWhole = isWhole(); });
 }
@@ -73,7 +76,8 @@ void StageSight::follow()
     }
 }
 
-/// The stage may have to get its room first.
+/// The stage may have to get its room first: fitted into the line that it had while it was empty, a
+/// frame would be as small as can be.
 void StageSight::bringSoon()
 {
     if (!m_isPending) {
@@ -102,7 +106,7 @@ void StageSight::bring()
     m_isPending = false;
     const Family::FrameNode* frame = m_editor->frame();
     const Zorv::RenderWidget* widget = m_stage->widget();
-    if (!frame || !widget || !widget->isVisible() || m_editor->isPlaying()) {
+    if (!frame || !widget || !widget->isVisible() || m_room->isPending() || m_editor->isPlaying()) {
         return;
     }
     const bool isKept = !m_keptFile.isEmpty() && m_editor->file()->fileName() == m_keptFile;

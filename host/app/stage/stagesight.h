@@ -12,6 +12,7 @@ namespace App {
 
 class FamilyAnimationEditor;
 class StageRenderer;
+class StageRoom;
 
 /// Brings the frames that the person goes to into sight: sprite and all boxes. Who has chosen a
 /// detail keeps it from frame to frame of the animation, and nothing moves while it plays.
@@ -20,8 +21,9 @@ class StageSight : public QObject
     Q_OBJECT
 
 public:
-    /// Both outlive it.
-    StageSight(FamilyAnimationEditor* editor, StageRenderer* stage, QObject* parent);
+    /// All outlive it.
+    StageSight(FamilyAnimationEditor* editor, StageRenderer* stage, const StageRoom* room,
+               QObject* parent);
 
     /// The area of a frame at a zoom, from the origin, in pixels of the stage; empty for one that
     /// shows nothing. `sprites` may be null.
@@ -47,6 +49,7 @@ private:
 
     FamilyAnimationEditor* m_editor;
     StageRenderer* m_stage;
+    const StageRoom* m_room;
     int m_animation = -1;  // as they were shown last
     int m_frame = -1;
     bool m_wasWhole = true;
