@@ -118,6 +118,7 @@ void TestActionSearch::listsWhatCanBeReached()
     // What comes and goes while the list is there.
     auto* action = m->host.createAction(nullptr, QStringLiteral("snd_thing"), nullptr, 0, "Ctrl+9",
                                         nullptr, nullptr, nullptr, nullptr);
+    m->host.setMenuEnabled("snd", "sounds", true);
     list.setOnlyWithKeys(true);
     QVERIFY(has(QStringLiteral("snd_thing")) && !has(QStringLiteral("show_nodes")));
     m->host.setMenuEnabled("snd", "sounds", false);
