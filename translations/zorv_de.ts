@@ -7193,6 +7193,10 @@ Ticks: ---</translation>
         <source>Resampling...</source>
         <translation>Abtastrate wird geändert ...</translation>
     </message>
+    <message>
+        <source>%1: the samples of this sound are broken.</source>
+        <translation>%1: die Samples dieses Sounds sind beschädigt.</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::SoundPlayer</name>
@@ -7335,10 +7339,6 @@ Ticks: ---</translation>
     <message>
         <source>The sprite on the canvas is not in the file any more. Its picture can be copied.</source>
         <translation>Das Sprite auf der Zeichenfläche ist nicht mehr in der Datei. Sein Bild kann kopiert werden.</translation>
-    </message>
-    <message>
-        <source>The picture could not be saved into the sprite. Make room in memory, and save it again.</source>
-        <translation>Das Bild konnte nicht ins Sprite gespeichert werden. Bitte Platz im Speicher schaffen und noch einmal speichern.</translation>
     </message>
     <message>
         <source>Do you really want to delete the sprite?</source>

@@ -6,4 +6,9 @@ Sounds::Sounds(StreamCache* cache) : CachedProjectFile(cache) {}
 
 Sounds::~Sounds() = default;
 
+bool Sounds::canName(const QVariant&) const
+{
+    return true;
+}
+
 }  // namespace Zorv

@@ -34,6 +34,9 @@ public:
     /// The first row from `from` on with an identifier; negative if there is none.
     virtual int find(int from, const QVariant& id) const = 0;
 
+    /// True if a sound of the list could have an identifier. By default all can be.
+    virtual bool canName(const QVariant& id) const;
+
     /// Opens and closes one step of undo; the same for list and file.
     void beginChange(const QString& title) override = 0;
     void endChange() override = 0;

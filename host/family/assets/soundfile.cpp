@@ -67,6 +67,12 @@ FamilySound* SoundFile::add(int row, const QVariant& id, const Zorv::SoundSample
     return sound.get();
 }
 
+bool SoundFile::canName(const QVariant& id) const
+{
+    AssetId read;
+    return AssetId::read(id, &read);
+}
+
 int SoundFile::find(int from, const QVariant& id) const
 {
     AssetId wanted;

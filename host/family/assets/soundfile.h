@@ -51,6 +51,7 @@ public:
     /// frame are left out.
     FamilySound* add(int row, const QVariant& id, const Zorv::SoundSample& sample) override;
     int find(int from, const QVariant& id) const override;
+    bool canName(const QVariant& id) const override;
 
     /// The first identifier of the group that no sound has, from a number on; the group is left if
     /// it is full.

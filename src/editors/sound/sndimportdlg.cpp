@@ -68,5 +68,5 @@ QSet<QString> SndImportDlg::present() const
 
 bool SndImportDlg::isUsable(const QString& identifier) const
 {
-    return !identifier.trimmed().isEmpty();
+    return !identifier.trimmed().isEmpty() && m_destination && m_destination->canName(identifier);
 }

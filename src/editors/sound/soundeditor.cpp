@@ -132,7 +132,9 @@ void SoundEditor::projectAboutToClose(Project* project)
 
 void SoundEditor::navigateTo(const QString&, unsigned a, unsigned, unsigned)
 {
-    d->show(int(qMin(a, unsigned(INT_MAX))));
+    if (a < unsigned(d->count())) {
+        d->show(int(a));
+    }
 }
 
 void SoundEditor::undo()

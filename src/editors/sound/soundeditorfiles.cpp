@@ -8,6 +8,7 @@
 #include "core/progress_p.h"
 #include "editors/sound/soundeditor_p.h"
 #include "media/pcmsamples_p.h"
+#include "media/soundconversion.h"
 #include "media/soundfile.h"
 #include "media/wav.h"
 #include "text/zorvtranslator.h"
@@ -252,10 +253,12 @@ void SoundEditorPrivate::openSnd()
     }
     rememberFolder(file);
     const SoundSample sample = read(file);
+    Sound* const changed = sounds->sound(current());
     if (sample.frames > 0) {
         const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
-        sounds->sound(current())->setSample(sample, sample.data);
-    } else {
+        changed->setSample(sample, sample.data);
+    }
+    if (sample.frames <= 0 || !isSameForm(changed->sampleInfo(), sample)) {
         tellUnreadable(file);
     }
     if (to && to == sounds) {
@@ -263,10 +266,19 @@ void SoundEditorPrivate::openSnd()
     }
 }
 
-/// False if writing failed, which was told. A file that cannot be opened is only noted.
+/// False if writing failed, which was told. A file that cannot be opened is only noted, and so is a
+/// broken sound: a file that is there keeps what it has.
 bool SoundEditorPrivate::write(const Sound& from, const QString& fileName,
                                QStringList* unopened) const
 {
+    SoundSample sample;
+    static_cast<SampleInfo&>(sample) = from.sampleInfo();
+    sample.data = from.sampleData();
+    if (sample.frames > 0 && sample.data.isEmpty()) {
+        unopened->append(
+            SoundEditor::tr("%1: the samples of this sound are broken.").arg(fileName));
+        return true;
+    }
     Archive* archive = FileSystemArchive::instance();
     QString error;
     QIODevice* device = archive->openFile(fileName, QIODevice::WriteOnly, &error);
@@ -274,9 +286,6 @@ bool SoundEditorPrivate::write(const Sound& from, const QString& fileName,
         unopened->append(QStringLiteral("%1: %2").arg(fileName, error));
         return true;
     }
-    SoundSample sample;
-    static_cast<SampleInfo&>(sample) = from.sampleInfo();
-    sample.data = from.sampleData();
     soundToWAV(sample, device);
     if (!archive->closeFile(device, &error)) {
         Dialogs::instance()->error(textOf(SaveText), QStringLiteral("%1: %2").arg(fileName, error));

@@ -144,7 +144,8 @@ void SoundEditorPrivate::selPosChanged(int row)
     info = sound ? sound->sampleInfo() : SampleInfo();
     showFacts(sound);
     editor->soundChanged(sound);
-    selectInList();
+    // The list may be in the middle of the move that has brought us here.
+    QMetaObject::invokeMethod(this, &SoundEditorPrivate::selectInList, Qt::QueuedConnection);
     updatePart();
 }
 

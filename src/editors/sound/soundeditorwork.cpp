@@ -36,6 +36,7 @@ void SoundEditorPrivate::change(const QVector<int>& rows, const QString& title,
     }
     isBusy = false;
     if (wanted && wanted == sounds) {
+        listChanged();  // was not heard meanwhile
         editor->refreshSound();
     }
     if (batch.failedCount() > 0) {
@@ -85,6 +86,9 @@ void SoundEditorPrivate::edit(unsigned textId, Edit made)
         return;
     }
     widget->showNow();
+    if (textId == SoundTexts::Silence && widget->selection().isEmpty()) {
+        return;  // of a part that has gone with the sound before
+    }
     const SoundRange range =
         widget->selection().isEmpty() ? wholeSound(widget->sample()) : widget->selection();
     const QString title = SoundTexts::instance()->trText(textId);

@@ -48,7 +48,8 @@ void SoundPlayer::open()
 {
     if (wholeFramesOf(m_sound, m_sound.data) == 0 || m_sound.sampleRate <= 0 ||
         !withSampleBytes(m_sound.bits, [](auto) {})) {
-        tell(m_sound.data.isEmpty() ? QString() : tr("This sound has no form that can be played."));
+        const bool isNone = m_sound.data.isEmpty() && m_sound.frames <= 0;
+        tell(isNone ? QString() : tr("This sound has no form that can be played."));
         return;
     }
     m_form = SoundSystem::instance()->playableForm(m_sound);
