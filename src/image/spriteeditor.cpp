@@ -197,7 +197,7 @@ void SpriteEditor::projectAboutToClose(Project* project)
         d->waiting = nullptr;
     }
     if (d->sprites && d->sprites->project() == project) {
-        d->take(nullptr);
+        d->take(d->isWaiting ? d->waiting.data() : nullptr);
     }
     d->dropKept(spritesOf(project));
 }

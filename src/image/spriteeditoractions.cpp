@@ -128,14 +128,18 @@ void SpriteEditorPrivate::del()
 void SpriteEditorPrivate::changeStored(const QString& title, int nextRow,
                                        const std::function<void()>& change)
 {
+    bool isSaved = false;
     {
         const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
         sprites->beginChange(title);
         saveImg();
-        change();
+        isSaved = !isChanged();
+        if (isSaved) {
+            change();
+        }
         sprites->endChange();
     }
-    if (nextRow != row) {
+    if (isSaved && nextRow != row) {
         show(nextRow);
     } else {
         showPosition();

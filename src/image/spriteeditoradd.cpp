@@ -175,7 +175,7 @@ bool SpriteEditorPrivate::storeImage(const QImage& image, const QPoint& corner,
         const QPoint axis = sprite()->axis() - corner;
         sprites->beginChange(SpriteEditor::tr("Change image"));
         store();
-        if (!corner.isNull()) {
+        if (!corner.isNull() && sprite()->size() == image.size()) {
             sprite()->setProperty(QStringLiteral("Axis"), axis);
         }
         sprites->endChange();
@@ -216,7 +216,9 @@ void SpriteEditorPrivate::saveImgAs()
     if (rows.isEmpty() || !before || before != sprites) {
         return;
     }
-    saveImg();
+    if (rows.contains(row)) {
+        saveImg();
+    }
     SpriteSave(before, rows, before->project(), {title, SpriteSave::LikeOneFile}).run();
 }
 

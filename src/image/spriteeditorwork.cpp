@@ -202,7 +202,9 @@ bool SpriteEditorPrivate::putIntoSprite(QString* error)
         const QScopedValueRollback<int> guard(selGuard, selGuard + 1);
         sprites->beginChange(SpriteEditor::tr("Save image changes"));
         sprite()->setImage(picture);
-        sprite()->setProperty(QStringLiteral("Axis"), canvas()->axis());
+        if (sprite()->size() == picture.size()) {  // else it was refused
+            sprite()->setProperty(QStringLiteral("Axis"), canvas()->axis());
+        }
         sprites->endChange();
     }
     const Sprite* now = sprite();
@@ -212,8 +214,8 @@ bool SpriteEditorPrivate::putIntoSprite(QString* error)
     const bool isRefused =
         !areSamePixels(before, canvasForm(picture)) && areSamePixels(before, loaded);
     if (picture.isNull() || isRefused) {
-        *error = SpriteEditor::tr("The picture could not be saved into the sprite. Make room in "
-                                  "memory, and save it again.");
+        *error = SpriteEditor::tr("The picture could not be saved into the sprite. It is too large "
+                                  "for a sprite, or memory is short.");
         return false;
     }
     setStored();

@@ -199,13 +199,20 @@ void PaletteEditorPrivate::palChanged(bool structure)
         palette = nullptr;
         updateRange();
     } else if (palette && editor->canChangeFieldValue()) {
-        selPosChanged(int(palette->index()));
+        definePos(int(palette->index()));
     }
 }
 
+/// The sprite that comes into sight brings its own palette: the tool is for the one that was
+/// chosen.
 void PaletteEditorPrivate::bringForward()
 {
+    const QPointer<Palettes> before = palettes;
+    const int chosen = hasRow() ? row() : -1;
     editor->switchToSprites();
+    if (chosen >= 0 && before == palettes && row() != chosen) {
+        definePos(chosen);
+    }
 }
 
 PaletteEditor::PaletteEditor(QObject* parent)

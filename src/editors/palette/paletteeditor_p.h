@@ -105,6 +105,7 @@ private:
 
     // paletteeditorcolors.cpp
     void comeForward();
+    void keepPictures(bool inAll, unsigned short src, unsigned short dst);
     void beginRemap(const QString& title);
     void endRemap();
 };

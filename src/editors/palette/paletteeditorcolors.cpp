@@ -1,6 +1,8 @@
 #include "cache/palettes.h"
 #include "cache/sprites.h"
 #include "core/dialogs/dialogs.h"
+#include "core/dialogs/failures_p.h"
+#include "core/fileinput.h"
 #include "core/interface.h"
 #include "editors/palette/paletteeditor_p.h"
 #include "editors/palette/remapdlg.h"
@@ -83,20 +85,36 @@ void PaletteEditorPrivate::colorMoved(unsigned short src, unsigned short dst)
     RGBA colors[256];
     view->palette()->toPalette(colors);
     const Move move = askForMove(host);
+    selPosChanged(row());  // work beside the file is in the colours that the file has
     if (move != Ask && shown.isThere()) {
-        const Inhibit guard(this);
         comeForward();
         if (move == Slots) {
+            const Inhibit guard(this);
             palette->setColors(colors, Palette::KeepPixels);
         } else {
-            QVector<int> rows(move == PicturesInAll ? count() : 1, row());
-            if (move == PicturesInAll) {
-                std::iota(rows.begin(), rows.end(), 0);
-            }
-            editor->reorderColors(rows, movedOrder(quint8(src), quint8(dst)));
+            keepPictures(move == PicturesInAll, src, dst);
         }
+        selPosChanged(row());
     }
-    selPosChanged(row());
+}
+
+/// Pixels of the file are mapped, and so have to be all in the file.
+void PaletteEditorPrivate::keepPictures(bool inAll, unsigned short src, unsigned short dst)
+{
+    const ShownPalette shown(this);
+    QStringList errors;
+    if (!FileInput::take(sprites, &errors)) {
+        tellFailures(PaletteEditor::tr("Move color"), errors);
+        return;
+    }
+    if (shown.isThere()) {
+        const Inhibit guard(this);
+        QVector<int> rows(inAll ? count() : 1, row());
+        if (inAll) {
+            std::iota(rows.begin(), rows.end(), 0);
+        }
+        editor->reorderColors(rows, movedOrder(quint8(src), quint8(dst)));
+    }
 }
 
 void PaletteEditorPrivate::colorDblClicked(unsigned short)
