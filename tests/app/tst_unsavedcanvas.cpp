@@ -13,6 +13,7 @@
 #include "support/testtable.h"
 
 #include <zorv/core/fileinput.h>
+#include <zorv/editors/palette/palettewidget.h>
 #include <zorv/image/canvas/imagecanvas.h>
 #include <zorv/image/canvas/imagelayer.h>
 #include <zorv/image/canvas/imagelayers.h>
@@ -69,6 +70,7 @@ private slots:
     void isNotSavedWithoutItsSprite();
     void isPutAside();
     void isSavedInItsOwnColours();
+    void followsAMovedColour();
     void hidingALayerIsWork_data();
     void hidingALayerIsWork();
     void comesBack_data();
@@ -277,6 +279,23 @@ void TestUnsavedCanvas::isSavedInItsOwnColours()
     QCOMPARE(editor()->canvasRecord().flattened(), flipped());
     trigger("save");
     QCOMPARE(first(m_game->path(SpritePath)), flipped());
+}
+
+/// What is painted is in the file when the pixels of that are mapped.
+void TestUnsavedCanvas::followsAMovedColour()
+{
+    const QImage painted = shown().convertToFormat(QImage::Format_ARGB32);
+    m->host.setOption(QStringLiteral("pal_move"), 1);
+    auto* grid = m->window->findChild<Zorv::PaletteWidget*>();
+    QVERIFY(grid);
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Home);
+    QTest::keyClick(grid, Qt::Key_Right, Qt::AltModifier);
+    QTRY_VERIFY(sprites()->isModified());
+    QVERIFY(!editor()->isCanvasModified());
+    QCOMPARE(shown().convertToFormat(QImage::Format_ARGB32), painted);
+    QCOMPARE(sprites()->sprite(0)->image().convertToFormat(QImage::Format_ARGB32), painted);
+    QCOMPARE(sprites()->sprite(0)->image().color(1), flipped().color(0));
 }
 
 void TestUnsavedCanvas::hidingALayerIsWork_data()
