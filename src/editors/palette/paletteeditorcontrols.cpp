@@ -94,10 +94,11 @@ void PaletteEditorPrivate::retranslate()
     }
 }
 
-/// The right button is a choice of colours, as it is on the canvas.
+/// Of the grid alone. Its last events come when it is no grid any more, so only the kind is looked
+/// at. The right button is a choice of colours, as it is on the canvas.
 bool PaletteEditorPrivate::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != view || event->type() != QEvent::ContextMenu) {
+    if (event->type() != QEvent::ContextMenu) {
         return QObject::eventFilter(watched, event);
     }
     const auto* request = static_cast<QContextMenuEvent*>(event);
