@@ -5,7 +5,7 @@
 #include "core/lazysync_p.h"
 #include "core/newbackup_p.h"
 #include "core/parentproject_p.h"
-#include "core/progress_p.h"
+#include "core/progress.h"
 #include "core/project_p.h"
 
 #include <QDateTime>

@@ -1,4 +1,4 @@
-#include "core/progress_p.h"
+#include "core/progress.h"
 
 #include "core/interface.h"
 #include "core/progressreporter.h"
@@ -20,11 +20,11 @@ Progress::~Progress()
     }
 }
 
-bool Progress::step()
+bool Progress::update(int value, int maximum)
 {
-    ++m_value;
+    m_value = value;
     if (m_reporter) {
-        m_reporter->update(m_value, 0);
+        m_reporter->update(value, maximum);
         m_isCanceled = m_isCanceled || m_reporter->isCanceled();
     }
     return !m_isCanceled;

@@ -10,7 +10,7 @@
 #include "core/interface.h"
 #include "core/newbackup_p.h"
 #include "core/parentproject_p.h"
-#include "core/progress_p.h"
+#include "core/progress.h"
 #include "core/projectfile.h"
 
 #include <memory>

@@ -5,7 +5,7 @@
 #include "core/interface.h"
 #include "core/messages.h"
 #include "core/parentproject_p.h"
-#include "core/progress_p.h"
+#include "core/progress.h"
 #include "core/projectfile.h"
 #include "editors/framework/fileeditor.h"
 

@@ -6,7 +6,7 @@
 #include "core/filesystemarchive.h"
 #include "core/lazysync_p.h"
 #include "core/parentproject_p.h"
-#include "core/progress_p.h"
+#include "core/progress.h"
 #include "core/project_p.h"
 #include "core/projectfile.h"
 

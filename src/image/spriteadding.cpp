@@ -4,7 +4,7 @@
 #include "cache/palettes.h"
 #include "cache/sprite.h"
 #include "cache/sprites.h"
-#include "core/jobs_p.h"
+#include "core/jobs.h"
 #include "image/imagefilelists_p.h"
 #include "media/imagetransfer.h"
 #include "media/tools/cropimage.h"

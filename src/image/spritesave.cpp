@@ -8,7 +8,7 @@
 #include "core/dialogs/failures_p.h"
 #include "core/files.h"
 #include "core/interface.h"
-#include "core/progress_p.h"
+#include "core/progress.h"
 #include "core/project.h"
 #include "core/safefile.h"
 #include "image/imagefilelists_p.h"

@@ -2,7 +2,6 @@
 
 #include "operations/hostinterface.h"
 #include "operations/media/assetnames.h"
-#include "operations/media/jobs.h"
 #include "operations/media/mediaresult.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/selection.h"
@@ -13,35 +12,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <atomic>
-
 using namespace Family;
 using namespace Operations;
-
-namespace {
-
-// Shows nothing, and gives up after so many steps.
-class ImpatientHost final : public HostInterface
-{
-public:
-    Zorv::ProgressReporter* progress(const QString&, int) override
-    {
-        struct Reporter final : Zorv::ProgressReporter
-        {
-            explicit Reporter(int most) : last(most) {}
-            void update(int step, int) override { value = step; }
-            bool isCanceled() const override { return value >= last; }
-            void finish() override { delete this; }
-            int last;
-            int value = 0;
-        };
-        return new Reporter(patience);
-    }
-
-    int patience = 1000000;
-};
-
-}  // namespace
 
 // In a folder of its own, which is the current one.
 class TestMediaFiles : public QObject
@@ -60,12 +32,10 @@ private slots:
     void targets_data();
     void targets();
     void newSoundsHaveNames();
-    void jobsKeepTheirOrder();
-    void jobsAreGivenUp();
 
 private:
     QTemporaryDir m_folder;
-    ImpatientHost m_host;
+    HostInterface m_host;
 };
 
 void TestMediaFiles::initTestCase()
@@ -242,46 +212,6 @@ void TestMediaFiles::newSoundsHaveNames()
     QCOMPARE(names, QVariantList({"200,3", "0,0"}));
     QVERIFY(host.text(3).contains(QLatin1String("%1")) &&
             host.text(4).contains(QLatin1String("%3")));
-}
-
-// Results come in order, whatever order they are done in; and only a few are on their way.
-void TestMediaFiles::jobsKeepTheirOrder()
-{
-    std::atomic_int begun{0};
-    int most = 0;
-    QVector<int> taken;
-    const bool isDone = runJobs<int>(
-        "Work", 500,
-        [&](int i) -> std::function<int()> {
-            return [&begun, i] {
-                ++begun;
-                if (i % 7 == 0) {
-                    QThread::usleep(300);
-                }
-                return i;
-            };
-        },
-        [&](int i, const int& result) {
-            QCOMPARE(result, i);
-            taken.append(result);
-            most = qMax(most, begun - taken.size());
-        });
-    QVERIFY(isDone);
-    QCOMPARE(taken.size(), 500);
-    QVERIFY2(most <= QThread::idealThreadCount() * 4, qPrintable(QString::number(most)));
-}
-
-void TestMediaFiles::jobsAreGivenUp()
-{
-    m_host.patience = 3;
-    int taken = 0;
-    std::atomic_int begun{0};
-    QVERIFY(!runJobs<int>(
-        "Work", 500, [&](int) -> std::function<int()> { return [&begun] { return ++begun; }; },
-        [&taken](int, const int&) { ++taken; }));
-    m_host.patience = 1000000;
-    QCOMPARE(taken, 3);
-    QVERIFY(begun <= 3 + QThread::idealThreadCount() * 4);
 }
 
 QTEST_MAIN(TestMediaFiles)

@@ -1,8 +1,8 @@
 #include "operations/media/imageedits.h"
 
 #include "operations/media/imagefiles.h"
-#include "operations/media/jobs.h"
 
+#include <zorv/core/jobs.h>
 #include <zorv/media/colorconversion.h>
 #include <zorv/media/imagetransfer.h>
 #include <zorv/media/tools/colorquantizer.h>
@@ -68,7 +68,7 @@ MediaResult editImages(const QStringList& files, const OutputRequest& request,
         return [&, i] { return editFile(files[i], edit, outputs, i); };
     };
     const auto take = [&](int, const Outcome& outcome) { result.note(outcome); };
-    result.isCanceled = !runJobs<Outcome>(Text::tr("Images"), files.size(), prepare, take);
+    result.isCanceled = !Zorv::runJobs<Outcome>(Text::tr("Images"), files.size(), prepare, take);
     return result;
 }
 
@@ -162,7 +162,7 @@ QVector<Zorv::RGBA> commonPalette(const QStringList& files, int colors, MediaRes
     const auto take = [&](int, const Read& read) {
         read.error.isEmpty() ? quantizer.addImage(read.image) : result->errors.append(read.error);
     };
-    result->isCanceled = !runJobs<Read>(Text::tr("Colours"), files.size(), prepare, take);
+    result->isCanceled = !Zorv::runJobs<Read>(Text::tr("Colours"), files.size(), prepare, take);
     const bool isDone = result->errors.isEmpty() && !result->isCanceled;
     return isDone ? quantizer.palette(colors) : QVector<Zorv::RGBA>();
 }

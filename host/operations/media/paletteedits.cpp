@@ -2,9 +2,9 @@
 
 #include "family/assets/indexmapping.h"
 #include "family/assets/spritecollection.h"
-#include "operations/media/jobs.h"
 #include "operations/media/spriteedits.h"
 
+#include <zorv/core/progress.h>
 #include <zorv/media/tools/colorchanges.h>
 
 #include <QCoreApplication>
@@ -126,7 +126,7 @@ MediaResult reorderPalettes(SpriteCollection* sprites, const QVector<int>& rows,
     }
     const QString title = Text::tr("Reorder palette");
     const AssetHistory::Step step(sprites->editHistory(), title);
-    JobProgress progress(title, 0);
+    Zorv::Progress progress(title, 0);
     Family::MappingJob job;
     job.mappings = {{spritesWith(*sprites, together), Zorv::inverse(order)}};
     job.progress = [&](int done, int count) { return progress.update(done, count); };

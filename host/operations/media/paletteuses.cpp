@@ -2,7 +2,8 @@
 
 #include "family/assets/spritecollection.h"
 #include "family/assets/spritejobs.h"
-#include "operations/media/jobs.h"
+
+#include <zorv/core/progress.h>
 
 #include <QCoreApplication>
 #include <QHash>
@@ -83,7 +84,7 @@ PaletteUseCount countUses(const Family::SpriteCollection& sprites)
             entry.pixels += pixels[i] * same.rows.size();
         }
     };
-    JobProgress progress(Text::tr("Uses of colours"), job.rows.size());
+    Zorv::Progress progress(Text::tr("Uses of colours"), job.rows.size());
     job.progress = [&](int done) { return progress.update(done); };
     count.isCanceled = !Family::forEachImage(sprites, job);
     std::sort(count.broken.begin(), count.broken.end());

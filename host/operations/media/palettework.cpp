@@ -1,7 +1,6 @@
 #include "operations/media/palettework.h"
 
-#include "operations/media/jobs.h"
-
+#include <zorv/core/progress.h>
 #include <zorv/media/palettefile.h>
 
 #include <QCoreApplication>
@@ -26,7 +25,7 @@ MediaResult convertPalettes(const QStringList& files, const OutputRequest& reque
     if (!outputs.plan(files, request, QByteArrayLiteral("ACT"), &refusal)) {
         return refusal;
     }
-    JobProgress progress(Text::tr("Palettes"), files.size());
+    Zorv::Progress progress(Text::tr("Palettes"), files.size());
     for (int i = 0; i < files.size() && !result.isCanceled; ++i) {
         result.note(outputs.make(i, [&](QString* error) {
             Zorv::RGBA colors[256] = {};

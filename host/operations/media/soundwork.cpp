@@ -2,9 +2,9 @@
 
 #include "family/assets/soundfile.h"
 #include "operations/media/assetnames.h"
-#include "operations/media/jobs.h"
 
 #include <zorv/core/files.h>
+#include <zorv/core/progress.h>
 #include <zorv/media/soundfile.h>
 #include <zorv/media/wavecontents.h>
 
@@ -210,7 +210,7 @@ MediaResult exportSounds(const SoundFile& sounds, const Selection& selection,
         return refusal;
     }
     MediaResult result;
-    JobProgress progress(Text::tr("Sounds"), selected.size());
+    Zorv::Progress progress(Text::tr("Sounds"), selected.size());
     for (int i = 0; i < selected.size() && !result.isCanceled; ++i) {
         result.note(writeSound(*selected[i], outputs, i));
         result.isCanceled = !progress.step();
@@ -237,7 +237,7 @@ MediaResult importSounds(SoundFile* sounds, const QStringList& files, const Soun
         return MediaResult(error);
     }
     MediaResult result;
-    JobProgress progress(Text::tr("Sounds"), files.size());
+    Zorv::Progress progress(Text::tr("Sounds"), files.size());
     sounds->beginChange(Text::tr("Import sounds"));
     for (int i = 0; i < targets.size() && !result.isCanceled; ++i) {
         result.note(

@@ -2,8 +2,9 @@
 
 #include "family/assets/indexmapping.h"
 #include "family/assets/spritecollection.h"
-#include "operations/media/jobs.h"
 #include "operations/media/spriteexport.h"
+
+#include <zorv/core/progress.h>
 
 #include <QCoreApplication>
 #include <QImage>
@@ -143,7 +144,7 @@ MediaResult Recoloring::run(const QVector<int>& rows, PixelsKeep keep)
 
 bool Recoloring::mapPixels(const QVector<FamilySprite*>& sprites, QSet<int>* broken)
 {
-    JobProgress progress(Text::tr("Recolour sprites"), 0);
+    Zorv::Progress progress(Text::tr("Recolour sprites"), 0);
     Family::MappingJob job;
     job.mappings = mappingsTo(m_palette->state.colors, sprites);
     job.progress = [&](int done, int count) { return progress.update(done, count); };

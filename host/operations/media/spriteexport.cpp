@@ -4,8 +4,8 @@
 #include "family/assets/spritejobs.h"
 #include "operations/media/assetnames.h"
 #include "operations/media/imagefiles.h"
-#include "operations/media/jobs.h"
 
+#include <zorv/core/progress.h>
 #include <zorv/media/palettefile.h>
 
 #include <QCoreApplication>
@@ -150,7 +150,7 @@ MediaResult exportSprites(const SpriteCollection& sprites, const Selection& sele
         putLabel(&image, labels[i]);
         outcome[i] = writeImage(image, outputs, i);
     };
-    JobProgress progress(Text::tr("Sprites"), rows.size());
+    Zorv::Progress progress(Text::tr("Sprites"), rows.size());
     job.progress = [&](int done) { return progress.update(done); };
     MediaResult result;
     result.isCanceled = !Family::forEachImage(sprites, job);

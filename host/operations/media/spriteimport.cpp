@@ -2,9 +2,9 @@
 
 #include "family/assets/spritecollection.h"
 #include "operations/media/assetnames.h"
-#include "operations/media/jobs.h"
 #include "operations/media/spriteexport.h"
 
+#include <zorv/core/jobs.h>
 #include <zorv/media/imagetransfer.h>
 #include <zorv/media/tools/cropimage.h>
 
@@ -128,7 +128,8 @@ void Import::putAll(MediaResult* result)
             result->note(put(i, read));
         }
     };
-    result->isCanceled = !runJobs<ImportImage>(Text::tr("Images"), m_files.size(), prepare, take);
+    result->isCanceled =
+        !Zorv::runJobs<ImportImage>(Text::tr("Images"), m_files.size(), prepare, take);
     m_sprites->refresh();
 }
 

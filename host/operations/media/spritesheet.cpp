@@ -2,8 +2,9 @@
 
 #include "family/assets/spritecollection.h"
 #include "family/assets/spritejobs.h"
-#include "operations/media/jobs.h"
 #include "operations/media/spriteexport.h"
+
+#include <zorv/core/progress.h>
 
 #include <QCoreApplication>
 #include <QHash>
@@ -111,7 +112,7 @@ public:
         }
         m_pixels = m_sheet->image.bits();
         uchar* const isDrawn = m_isDrawn.data();
-        JobProgress progress(Text::tr("Sprites"), rows.size());
+        Zorv::Progress progress(Text::tr("Sprites"), rows.size());
         ImageJob job;
         job.rows = rows;
         job.work = [=](int row, const QImage& image) { isDrawn[row] = draw(row, image); };

@@ -6,7 +6,7 @@
 #include "core/dialogs/failures_p.h"
 #include "core/dialogs/itemsdialog.h"
 #include "core/interface.h"
-#include "core/progress_p.h"
+#include "core/progress.h"
 #include "editors/palette/paletteeditor_p.h"
 #include "media/fileextensiontype.h"
 #include "media/palettefile.h"

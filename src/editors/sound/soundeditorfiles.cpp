@@ -5,7 +5,7 @@
 #include "core/files.h"
 #include "core/filesystemarchive.h"
 #include "core/interface.h"
-#include "core/progress_p.h"
+#include "core/progress.h"
 #include "editors/sound/soundeditor_p.h"
 #include "media/pcmsamples_p.h"
 #include "media/soundconversion.h"
