@@ -250,18 +250,6 @@
         <translation>&amp;Ein- oder ausklappen</translation>
     </message>
     <message>
-        <source>&amp;Add sounds...</source>
-        <translation>Klänge &amp;hinzufügen ...</translation>
-    </message>
-    <message>
-        <source>&amp;Save sounds as...</source>
-        <translation>Klänge &amp;speichern unter ...</translation>
-    </message>
-    <message>
-        <source>Re&amp;move sounds</source>
-        <translation>Klänge e&amp;ntfernen</translation>
-    </message>
-    <message>
         <source>Pick &amp;colour</source>
         <translation>&amp;Farbe aufnehmen</translation>
     </message>
@@ -718,6 +706,17 @@
     </message>
 </context>
 <context>
+    <name>App::FamilySoundEditor</name>
+    <message>
+        <source>Add sounds</source>
+        <translation>Klänge hinzufügen</translation>
+    </message>
+    <message>
+        <source>Take all frames that are there?</source>
+        <translation>Alle vorhandenen Frames nehmen?</translation>
+    </message>
+</context>
+<context>
     <name>App::FileStates</name>
     <message>
         <source>(missing)</source>
@@ -1005,6 +1004,10 @@
         <source>%1 is saved.</source>
         <translation>%1 ist gespeichert.</translation>
     </message>
+    <message>
+        <source>Remove sounds</source>
+        <translation>Klänge entfernen</translation>
+    </message>
 </context>
 <context>
     <name>App::KeySheet</name>
@@ -1139,14 +1142,6 @@
 </context>
 <context>
     <name>App::MediaDialogs</name>
-    <message>
-        <source>Sounds</source>
-        <translation>Klänge</translation>
-    </message>
-    <message>
-        <source>Replace what is there?</source>
-        <translation>Vorhandenes ersetzen?</translation>
-    </message>
     <message>
         <source>Given up.</source>
         <translation>Abgebrochen.</translation>
@@ -2147,36 +2142,6 @@
     </message>
 </context>
 <context>
-    <name>App::SoundCommands</name>
-    <message>
-        <source>Add sounds</source>
-        <translation>Klänge hinzufügen</translation>
-    </message>
-    <message>
-        <source>Save sounds as</source>
-        <translation>Klänge speichern unter</translation>
-    </message>
-    <message>
-        <source>Remove sounds</source>
-        <translation>Klänge entfernen</translation>
-    </message>
-    <message>
-        <source>Take all frames that are there?</source>
-        <translation>Alle vorhandenen Frames nehmen?</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n sound(s) added.</source>
-        <translation>
-            <numerusform>%n Klang hinzugefügt.</numerusform>
-            <numerusform>%n Klänge hinzugefügt.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 is saved.</source>
-        <translation>%1 ist gespeichert.</translation>
-    </message>
-</context>
-<context>
     <name>App::SoundPanel</name>
     <message>
         <source>Sounds of the project</source>
@@ -2338,20 +2303,6 @@
     <message>
         <source>sounds modified</source>
         <translation>Klänge geändert</translation>
-    </message>
-</context>
-<context>
-    <name>App::Transfer</name>
-    <message>
-        <source>The numbers in the names of some files are taken already.</source>
-        <translation>Die Nummern in den Namen einiger Dateien sind schon vergeben.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n file(s) written.</source>
-        <translation>
-            <numerusform>%n Datei geschrieben.</numerusform>
-            <numerusform>%n Dateien geschrieben.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

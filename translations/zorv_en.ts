@@ -93,16 +93,6 @@
     </message>
 </context>
 <context>
-    <name>App::SoundCommands</name>
-    <message numerus="yes">
-        <source>%n sound(s) added.</source>
-        <translation>
-            <numerusform>%n sound added.</numerusform>
-            <numerusform>%n sounds added.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>App::SoundPanel</name>
     <message numerus="yes">
         <source>%n sound(s)</source>
@@ -119,16 +109,6 @@
         <translation>
             <numerusform>%n sprite</numerusform>
             <numerusform>%n sprites</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>App::Transfer</name>
-    <message numerus="yes">
-        <source>%n file(s) written.</source>
-        <translation>
-            <numerusform>%n file written.</numerusform>
-            <numerusform>%n files written.</numerusform>
         </translation>
     </message>
 </context>

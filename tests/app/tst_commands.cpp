@@ -1,6 +1,6 @@
 #include "stagefixture.h"
 
-#include "app/assets/soundpanel.h"
+#include "app/sounds/soundpanel.h"
 #include "app/window/panelplace.h"
 #include "family/assets/soundfile.h"
 #include "support/testsounds.h"

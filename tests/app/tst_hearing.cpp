@@ -1,7 +1,7 @@
 #include "windowfixture.h"
 
-#include "app/assets/soundpanel.h"
 #include "app/sounds/hearing.h"
+#include "app/sounds/soundpanel.h"
 #include "app/window/editorregistry.h"
 #include "support/plannedsound.h"
 #include "support/testsounds.h"

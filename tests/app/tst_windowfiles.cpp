@@ -1,6 +1,6 @@
-#include "app/assets/soundpanel.h"
 #include "app/assets/spritepanel.h"
 #include "app/changes/comparedialog.h"
+#include "app/sounds/soundpanel.h"
 #include "support/testsounds.h"
 #include "support/testtable.h"
 #include "windowfixture.h"

@@ -4,8 +4,6 @@
 #include "app/actions/shortcutguard.h"
 #include "app/actions/windowactions.h"
 #include "app/animations/animationcommands.h"
-#include "app/assets/soundcommands.h"
-#include "app/assets/soundpanel.h"
 #include "app/assets/spritecommands.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/thumbnailcommands.h"
@@ -34,6 +32,7 @@
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
 #include "app/sounds/hearing.h"
+#include "app/sounds/soundpanel.h"
 #include "app/stage/familyanimationeditor.h"
 #include "app/stage/stagecommands.h"
 #include "app/window/commandrouter.h"
@@ -151,7 +150,6 @@ MainWindow::MainWindow(QWidget* parent)
     m_gameCommands = new GameCommands(m_services, m_gameTree);
     m_runCommands = new RunCommands(m_services);
     m_sprites = new SpriteCommands(m_services);
-    m_sounds = new SoundCommands(m_services);
     m_problems = new ProblemWatch(m_services);
     m_services.mayRemove = [this](const auto& removal) { return m_problems->mayRemove(removal); };
     m_services.findUses = [this](const auto& what, QStringList* places) {
@@ -203,9 +201,11 @@ void MainWindow::arrangeTools()
     m_controls->bringForward("frame");
     tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("organizer")),
                      findChild<QDockWidget*>(QStringLiteral("layers")));
-    tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("sounds")),
-                     findChild<QDockWidget*>(QStringLiteral("thumbnails")));
-    findChild<QDockWidget*>(QStringLiteral("sprites"))->raise();
+    auto* sprites = findChild<QDockWidget*>(QStringLiteral("sprites"));
+    QDockWidget* sounds = addDock(m_hearing->panel(), "sounds", Qt::LeftDockWidgetArea);
+    tabifyDockWidget(sprites, sounds);
+    tabifyDockWidget(sounds, findChild<QDockWidget*>(QStringLiteral("thumbnails")));
+    sprites->raise();
     QDockWidget* costumes = addDock(m_paint->costumes(), "costumes", Qt::BottomDockWidgetArea);
     tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("messages")), costumes);
     costumes->hide();
@@ -235,7 +235,7 @@ void MainWindow::addParts()
 {
     for (Part* part : std::initializer_list<Part*>{
              m_router, m_opener, m_gameCommands, m_gameTree, m_services.editors, m_sprites,
-             m_sounds, m_stage, m_paint, m_palettes, m_hearing, m_code, m_animations, m_thumbnails,
+             m_hearing, m_stage, m_paint, m_palettes, m_code, m_animations, m_thumbnails,
              m_problems, m_messagePanel, m_runCommands, m_services.status, m_commands}) {
         m_services.parts->add(part);
     }
@@ -260,9 +260,7 @@ void MainWindow::makeDocks()
     m_controls->page("tool");  // beside the tools, above the other panels
     addDock(m_gameTree, "projects", Qt::LeftDockWidgetArea);
     QDockWidget* messages = addDock(m_messagePanel, "messages", Qt::BottomDockWidgetArea);
-    QDockWidget* sprites = addDock(m_sprites->panel(), "sprites", Qt::LeftDockWidgetArea);
-    tabifyDockWidget(sprites, addDock(m_sounds->panel(), "sounds", Qt::LeftDockWidgetArea));
-    sprites->raise();
+    addDock(m_sprites->panel(), "sprites", Qt::LeftDockWidgetArea);
     QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
     new MessageRoom(this, messages, m_messagePanel);
@@ -302,7 +300,6 @@ void MainWindow::connectParts()
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
     connect(m_thumbnails->panel(), &Zorv::ThumbnailsEditor::spriteActivated, m_paint,
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
-    connect(m_sounds->panel(), &SoundPanel::soundActivated, m_hearing, &Hearing::showSound);
     // Rows change while lines are being parsed.
     const Zorv::OrganizerEditor* organizer = m_animations->organizer();
     connect(
@@ -370,7 +367,7 @@ void MainWindow::updateTitle()
     const bool areSounds = project && FileInput::isUnsaved(project->sounds());
     setWindowModified(FileInput::isUnsaved(document) || areSprites || areSounds);
     m_sprites->panel()->parentWidget()->setWindowModified(areSprites);
-    m_sounds->panel()->parentWidget()->setWindowModified(areSounds);
+    m_hearing->panel()->parentWidget()->setWindowModified(areSounds);
     m_hint->setText(session()->game() ? tr("A double click in the tree of projects shows a text.")
                                       : tr("The menu File opens a game folder."));
 }
@@ -469,7 +466,7 @@ SpritePanel* MainWindow::spritePanel() const
 
 SoundPanel* MainWindow::soundPanel() const
 {
-    return m_sounds->panel();
+    return m_hearing->panel();
 }
 
 FamilyProject* MainWindow::currentProject() const

@@ -32,7 +32,6 @@ class PaletteCommands;
 class ProblemWatch;
 class RunCommands;
 class Hearing;
-class SoundCommands;
 class SoundPanel;
 class SpriteCommands;
 class SpritePanel;
@@ -73,7 +72,6 @@ public:
     AnimationCommands* animations() const { return m_animations; }
     ThumbnailCommands* thumbnails() const { return m_thumbnails; }
     SpriteCommands* sprites() const { return m_sprites; }
-    SoundCommands* sounds() const { return m_sounds; }
     Hearing* hearing() const { return m_hearing; }
     SpritePanel* spritePanel() const;
     SoundPanel* soundPanel() const;
@@ -152,7 +150,6 @@ private:
     AnimationCommands* m_animations = nullptr;
     ThumbnailCommands* m_thumbnails = nullptr;
     SpriteCommands* m_sprites;
-    SoundCommands* m_sounds;
     Hearing* m_hearing = nullptr;
     ProblemWatch* m_problems;
     MessagePanel* m_messagePanel;

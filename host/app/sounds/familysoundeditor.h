@@ -4,10 +4,14 @@
 
 #include <zorv/editors/sound/soundeditor.h>
 
+namespace Operations {
+enum class SoundExtent;
+}
+
 namespace App {
 
 /// The library's editor of sounds for those of the family: who plays a sound is asked about before
-/// it goes.
+/// it goes, and of files that were cut short all that is there can be taken.
 class FamilySoundEditor : public Zorv::SoundEditor
 {
     Q_OBJECT
@@ -18,9 +22,12 @@ public:
 
 protected:
     bool mayDeleteSound() override;
+    bool mayReadSounds(const QStringList& fileNames) override;
+    Zorv::SoundSample readSound(const QString& fileName, QString* reason) override;
 
 private:
     RemovalCheck m_mayRemove;
+    Operations::SoundExtent m_extent;
 };
 
 }  // namespace App

@@ -1,26 +1,38 @@
 #include "app/sounds/hearing.h"
 
+#include "app/actions/actionregistry.h"
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
 #include "app/sounds/familysoundeditor.h"
+#include "app/sounds/soundpanel.h"
 #include "app/window/editorregistry.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
 #include "app/window/windowservices.h"
+#include "family/assets/soundfile.h"
+#include "family/project/familyproject.h"
+#include "operations/check/uses.h"
 
 #include <zorv/core/dialogs/dialogs.h>
-#include <zorv/core/projectfile.h>
+#include <zorv/core/fileid.h>
+#include <zorv/editors/framework/rowlist.h>
 #include <zorv/editors/sound/audiosamplewidget.h>
 #include <zorv/editors/sound/soundworkspace.h>
 
+#include <algorithm>
+
 namespace App {
 
+using Family::SoundFile;
 using Zorv::SoundEditor;
 
 Hearing::Hearing(const WindowServices& services)
     : QObject(services.window), m_services(services), m_workspace(new Zorv::SoundWorkspace(this)),
-      m_editor(new FamilySoundEditor(m_workspace, services.mayRemove, this))
+      m_editor(new FamilySoundEditor(m_workspace, services.mayRemove, this)),
+      m_panel(new SoundPanel)
 {
+    connect(m_panel, &SoundPanel::changed, services.parts, &PartList::updateSoon);
+    connect(m_panel, &SoundPanel::soundActivated, this, &Hearing::showSound);
     m_workspace->sampleWidget()->setShowsTrueChannels(true);
     connect(m_editor, &SoundEditor::saveFailed, this, [](const QString& text) {
         Zorv::Dialogs::instance()->error(tr("Save sounds as"), text);
@@ -39,7 +51,28 @@ void Hearing::showSound(int row)
     m_editor->navigateTo({}, unsigned(row), 0, 0);
 }
 
-CommandRows Hearing::commands() const
+void Hearing::actionsMade()
+{
+    m_panel->list()->addAction(m_services.actions->action(QStringLiteral("snd_add")));
+}
+
+/// A text can come to name another file.
+void Hearing::showProject(Family::FamilyProject* project)
+{
+    m_panel->setSounds(
+        dynamic_cast<SoundFile*>(project ? project->file(Zorv::FileID::Sounds) : nullptr));
+}
+
+/// What the panel has selected goes by the panel's keys; the rest is that of the editor.
+QVector<PanelPlace> Hearing::places()
+{
+    const CommandRows rows{{Command::Delete, [this] { removeSelected(); },
+                            [this] { return m_panel->currentRow() >= 0; }},
+                           {Command::SelectAll, [list = m_panel->list()] { list->selectAll(); }}};
+    return {PanelPlace::of(m_panel, rows + commands())};
+}
+
+CommandRows Hearing::commands()
 {
     SoundEditor* editor = m_editor;
     const auto file = [editor] { return editor->file(); };
@@ -49,8 +82,7 @@ CommandRows Hearing::commands() const
         {Command::Redo, [editor] { editor->redo(); },
          [file] { return file() && file()->canRedo(); }, [file] { return file()->redoTitle(); }},
         {Command::SelectAll, [editor] { editor->selectAll(); }},
-        {Command::Save, [this] { const_cast<Hearing*>(this)->save(); },
-         [this] { return canSave(); }}};
+        {Command::Save, [this] { save(); }, [this] { return canSave(); }}};
 }
 
 /// A file that has gone can be brought back.
@@ -66,6 +98,27 @@ void Hearing::save()
             tr("%1 is saved.").arg(m_services.session->shownPath(m_editor->file()->fileName())));
     }
     m_services.parts->gameChanged();
+}
+
+void Hearing::removeSelected()
+{
+    const auto removal = [this] {
+        const SoundFile* from = m_panel->sounds();
+        return from ? Operations::removalOf(Operations::Removal::Sounds, *from,
+                                            m_panel->selectedRows())
+                    : Operations::Removal();
+    };
+    if (removal().names.isEmpty() || !m_services.mayRemove(removal)) {
+        return;
+    }
+    SoundFile* sounds = m_panel->sounds();
+    const QVector<int> rows = m_panel->selectedRows();
+    sounds->beginChange(tr("Remove sounds"));
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        sounds->remove(unsigned(*row));
+    }
+    sounds->endChange();
+    m_panel->setCurrentRow(std::min(rows.first(), int(sounds->count()) - 1));
 }
 
 }  // namespace App

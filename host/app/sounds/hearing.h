@@ -4,10 +4,6 @@
 
 #include <QObject>
 
-namespace Family {
-class SoundFile;
-}
-
 namespace Zorv {
 class SoundEditor;
 class SoundWorkspace;
@@ -15,9 +11,11 @@ class SoundWorkspace;
 
 namespace App {
 
+class SoundPanel;
 struct WindowServices;
 
-/// The editor of sounds in the window: the waveform in the middle. Its tools are the library's.
+/// Sounds in the window: the library's editor, with the waveform in the middle, and the panel of
+/// the project in front. The tools are the library's.
 class Hearing : public QObject, public Part
 {
     Q_OBJECT
@@ -29,19 +27,28 @@ public:
 
     Zorv::SoundEditor* editor() const { return m_editor; }
 
+    /// The window places it.
+    SoundPanel* panel() const { return m_panel; }
+
     /// Brings a sound of the project in front into the middle.
     void showSound(int row);
 
     /// How the editor does the commands of the window.
-    CommandRows commands() const;
+    CommandRows commands();
+
+    void actionsMade() override;
+    void showProject(Family::FamilyProject* project) override;
+    QVector<PanelPlace> places() override;
 
 private:
     void save();
+    void removeSelected();
     bool canSave() const;
 
     const WindowServices& m_services;
     Zorv::SoundWorkspace* m_workspace;
     Zorv::SoundEditor* m_editor;
+    SoundPanel* m_panel;
 };
 
 }  // namespace App

@@ -241,6 +241,11 @@ bool SoundEditor::mayDeleteSound()
     return true;
 }
 
+bool SoundEditor::mayReadSounds(const QStringList&)
+{
+    return true;
+}
+
 void SoundEditor::refreshSound()
 {
     const int row = d->current();

@@ -11,6 +11,7 @@ class Sound;
 class SoundEditorPrivate;
 class Sounds;
 class SoundWorkspace;
+struct SoundSample;
 
 /// The editor "snd": steps through the sounds of a project, plays, adds, replaces and saves them,
 /// changes their form and parts of them, and takes sounds over from another open project.
@@ -88,6 +89,14 @@ protected:
     /// Asked before the current sound is deleted, behind the question of "confirm_delete". False
     /// keeps it: for a host that knows who plays it. Here true.
     virtual bool mayDeleteSound();
+
+    /// Asked before the files that the person has chosen are read. False gives up. Here true.
+    virtual bool mayReadSounds(const QStringList& fileNames);
+
+    /// Reads a file as a sound; one without frames if that does not go, and then `reason`, if a
+    /// text is put there, is told behind the host's. As it stands here this is `soundFromWAV()`,
+    /// and for what has no plain samples the extensions of the file's suffix.
+    virtual SoundSample readSound(const QString& fileName, QString* reason);
 
 signals:
     /// A sound is shown.

@@ -58,8 +58,8 @@ public:
     // soundeditorfiles.cpp
     QString folder() const;
     void rememberFolder(const QString& fileName) const;
-    SoundSample read(const QString& fileName) const;
-    void tellUnreadable(const QString& fileName) const;
+    SoundSample read(const QString& fileName, QString* reason) const;
+    void tellUnreadable(const QString& fileName, const QString& reason) const;
     bool write(const Sound& sound, const QString& fileName, QStringList* unopened) const;
 
     // soundeditorwork.cpp

@@ -125,8 +125,15 @@ void SoundEditorPrivate::rememberFolder(const QString& fileName) const
     sounds->setOption(QStringLiteral("snd_path"), QFileInfo(fileName).absolutePath(), true, false);
 }
 
+SoundSample SoundEditorPrivate::read(const QString& fileName, QString* reason) const
+{
+    SoundSample sample = editor->readSound(fileName, reason);
+    sample.frames = wholeFramesOf(sample, sample.data);
+    return sample;
+}
+
 /// What is no WAV of plain samples is left to the extensions.
-SoundSample SoundEditorPrivate::read(const QString& fileName) const
+SoundSample SoundEditor::readSound(const QString& fileName, QString*)
 {
     Archive* archive = FileSystemArchive::instance();
     SoundSample sample;
@@ -145,14 +152,14 @@ SoundSample SoundEditorPrivate::read(const QString& fileName) const
         }
         archive->closeFile(device);
     }
-    sample.frames = wholeFramesOf(sample, sample.data);
     return sample;
 }
 
-void SoundEditorPrivate::tellUnreadable(const QString& fileName) const
+void SoundEditorPrivate::tellUnreadable(const QString& fileName, const QString& reason) const
 {
+    const QString text = host->text(UnreadableText).arg(fileName);
     Dialogs::instance()->warning(host->text(UnreadableTitle),
-                                 host->text(UnreadableText).arg(fileName));
+                                 reason.isEmpty() ? text : text + QLatin1Char('\n') + reason);
 }
 
 void SoundEditorPrivate::add()
@@ -167,6 +174,9 @@ void SoundEditorPrivate::add()
         return;
     }
     rememberFolder(files.first());
+    if (!editor->mayReadSounds(files) || !to || to != sounds) {
+        return;
+    }
     QList<QVariant> ids;
     host->soundIdentifiers(files, &ids);
     if (ids.size() != files.size() || !to || to != sounds) {
@@ -174,18 +184,19 @@ void SoundEditorPrivate::add()
     }
     const int before = count();
     int row = before == 0 ? 0 : current() + 1;
-    QStringList unreadable;
+    QVector<std::pair<QString, QString>> unreadable;
     {
         const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
         if (files.size() > 1) {
             sounds->beginChange({});
         }
         for (int i = 0; i < files.size(); ++i) {
-            const SoundSample sample = read(files[i]);
+            QString reason;
+            const SoundSample sample = read(files[i], &reason);
             if (sample.frames > 0 && sounds->add(row, ids[i], sample)) {
                 ++row;
             } else {
-                unreadable.append(files[i]);
+                unreadable.append({files[i], reason});
             }
         }
         if (files.size() > 1) {
@@ -196,8 +207,8 @@ void SoundEditorPrivate::add()
         }
     }
     editor->soundCountChanged();
-    for (const QString& file : qAsConst(unreadable)) {
-        tellUnreadable(file);
+    for (const auto& file : qAsConst(unreadable)) {
+        tellUnreadable(file.first, file.second);
     }
 }
 
@@ -252,14 +263,19 @@ void SoundEditorPrivate::openSnd()
         return;
     }
     rememberFolder(file);
-    const SoundSample sample = read(file);
+    if (!editor->mayReadSounds({file}) || !to || to != sounds ||
+        sounds->sound(current()) != wanted) {
+        return;
+    }
+    QString reason;
+    const SoundSample sample = read(file, &reason);
     Sound* const changed = sounds->sound(current());
     if (sample.frames > 0) {
         const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
         changed->setSample(sample, sample.data);
     }
     if (sample.frames <= 0 || !isSameForm(changed->sampleInfo(), sample)) {
-        tellUnreadable(file);
+        tellUnreadable(file, reason);
     }
     if (to && to == sounds) {
         selPosChanged(current());
@@ -328,8 +344,9 @@ void SoundEditorPrivate::saveSndAs()
     {
         const QScopedValueRollback<bool> busy(isBusy, true);
         Progress progress(title, rows.size());
-        for (int i = 0; i < rows.size() && from && sounds->sound(rows[i]); ++i) {
-            if (!write(*sounds->sound(rows[i]), names[i], &unopened) || !progress.step()) {
+        for (int i = 0; i < rows.size() && from && from == sounds; ++i) {
+            const Sound* each = from->sound(rows[i]);
+            if (!each || !write(*each, names[i], &unopened) || !progress.step()) {
                 break;
             }
         }

@@ -7,7 +7,6 @@
 class QLabel;
 
 namespace Family {
-struct AssetId;
 class SoundFile;
 }  // namespace Family
 
@@ -35,9 +34,6 @@ public:
     /// The selected rows in their order.
     QVector<int> selectedRows() const;
     void setCurrentRow(int row);
-
-    /// The numbers of the selected sounds, one for each sound.
-    QVector<Family::AssetId> selectedIds() const;
 
 signals:
     /// The current row, or anything in the collection.

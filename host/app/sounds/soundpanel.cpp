@@ -1,4 +1,4 @@
-#include "app/assets/soundpanel.h"
+#include "app/sounds/soundpanel.h"
 
 #include "app/look/language.h"
 #include "family/assets/soundfile.h"
@@ -70,16 +70,6 @@ void SoundPanel::setCurrentRow(int row)
     if (m_sounds) {
         m_list->setCurrentIndex(m_sounds->index(row));
     }
-}
-
-QVector<Family::AssetId> SoundPanel::selectedIds() const
-{
-    QVector<Family::AssetId> ids;
-    const QVector<int> rows = selectedRows();
-    for (int row : rows) {
-        ids.append(m_sounds->sound(row)->id());
-    }
-    return ids;
 }
 
 void SoundPanel::updateCurrent()
