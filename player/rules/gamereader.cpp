@@ -1,6 +1,7 @@
 #include "rules/gamereader.h"
 
 #include "family/grammar/grammar.h"
+#include "family/nodes/valuetext.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/unreachable.h"
 #include "rules/codetext.h"
@@ -13,25 +14,9 @@
 namespace Rules {
 
 using Family::AnimationRole;
+using Family::numbersOf;
 
 namespace {
-
-/// The numbers of a value, whichever type it is stored in.
-QVariantList numbersOf(const QVariant& value)
-{
-    switch (value.userType()) {
-    case QMetaType::QPoint:
-        return {value.toPoint().x(), value.toPoint().y()};
-    case QMetaType::QPointF:
-        return {value.toPointF().x(), value.toPointF().y()};
-    case QMetaType::QRect: {
-        const QRect rect = value.toRect();
-        return {rect.left(), rect.top(), rect.right(), rect.bottom()};
-    }
-    default:
-        return value.toList();
-    }
-}
 
 /// Takes numbers of a group if they are there.
 class Values

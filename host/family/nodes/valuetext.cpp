@@ -18,25 +18,6 @@ bool isQuoted(Form form)
     return form == Form::Text || form == Form::MotionText || form == Form::Path;
 }
 
-/// The numbers of a value, whichever type it has.
-QVariantList numbersOf(const QVariant& value)
-{
-    switch (value.userType()) {
-    case QMetaType::QPoint:
-        return {value.toPoint().x(), value.toPoint().y()};
-    case QMetaType::QPointF:
-        return {value.toPointF().x(), value.toPointF().y()};
-    case QMetaType::QRect: {
-        const QRect rect = value.toRect();
-        return {rect.left(), rect.top(), rect.right(), rect.bottom()};
-    }
-    case QMetaType::QVariantList:
-        return value.toList();
-    default:
-        return {value};
-    }
-}
-
 QString numberText(Form form, const QVariant& number)
 {
     switch (form) {
@@ -83,6 +64,24 @@ QVariant readWhole(const KeyInfo& key, const QString& code, QString* error)
 }
 
 }  // namespace
+
+QVariantList numbersOf(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::QPoint:
+        return {value.toPoint().x(), value.toPoint().y()};
+    case QMetaType::QPointF:
+        return {value.toPointF().x(), value.toPointF().y()};
+    case QMetaType::QRect: {
+        const QRect rect = value.toRect();
+        return {rect.left(), rect.top(), rect.right(), rect.bottom()};
+    }
+    case QMetaType::QVariantList:
+        return value.toList();
+    default:
+        return {value};
+    }
+}
 
 bool canQuote(const QString& text)
 {

@@ -18,6 +18,10 @@ QString quotedText(const QString& text);
 /// the key does not take.
 QVariant normalized(const KeyInfo& key, const QVariant& value);
 
+/// The numbers of a value, whichever type it has: a point or an area as what it is made of, a
+/// number by itself.
+QVariantList numbersOf(const QVariant& value);
+
 /// The parts of a normalized value as the code writes them.
 QStringList elementTexts(const KeyInfo& key, const QVariant& value);
 
