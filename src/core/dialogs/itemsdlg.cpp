@@ -1,5 +1,6 @@
 #include "core/dialogs/itemsdlg.h"
 
+#include "core/dialogs/dialogbuttons_p.h"
 #include "core/dialogs/itempicker_p.h"
 
 #include <QDialogButtonBox>
@@ -9,10 +10,7 @@ ItemsDlg::ItemsDlg(QWidget* parent, const QString& title, QAbstractItemModel* mo
     : ItemsDialog(parent), m_picker(new ItemPicker(model, row))
 {
     setWindowTitle(title.isEmpty() ? tr("Items") : title);
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    box->setObjectName(QStringLiteral("buttonBox"));
-    connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* box = Zorv::makeOkCancel(this);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_picker);

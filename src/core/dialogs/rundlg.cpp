@@ -1,5 +1,7 @@
 #include "core/dialogs/rundlg.h"
 
+#include "core/dialogs/dialogbuttons_p.h"
+
 #include <QDialogButtonBox>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -15,13 +17,11 @@ RunDlg::RunDlg(QWidget* parent, QAbstractItemModel* model, unsigned row)
     m_list->setObjectName(QStringLiteral("list"));
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setModel(model);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* buttons = Zorv::makeOkCancel(this);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addWidget(m_list);
     layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_list, &QListView::doubleClicked, this, &RunDlg::on_list_doubleClicked);
     const QModelIndex index = model->index(int(row), 0);
     m_list->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);

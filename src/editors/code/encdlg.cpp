@@ -1,6 +1,7 @@
 #include "editors/code/encdlg.h"
 
 #include "code/codecs/textcodecs.h"
+#include "core/dialogs/dialogbuttons_p.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -19,13 +20,11 @@ EncDlg::EncDlg(QWidget* parent, int index) : QDialog(parent), m_list(new QListWi
         m_list->addItem(TextCodecs::name(i));
     }
     m_list->setCurrentRow(index);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* buttons = Zorv::makeOkCancel(this);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addWidget(m_list);
     layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_list, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
 }
 

@@ -1,5 +1,7 @@
 #include "editors/code/gotodlg.h"
 
+#include "core/dialogs/dialogbuttons_p.h"
+
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QSpinBox>
@@ -16,9 +18,7 @@ GoToDlg::GoToDlg(QWidget* parent, int value) : QDialog(parent), m_line(new QSpin
     m_line->selectAll();
     auto* label = new QLabel(tr("&Line:"), this);
     label->setBuddy(m_line);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* buttons = Zorv::makeOkCancel(this);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addWidget(m_line);

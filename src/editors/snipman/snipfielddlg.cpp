@@ -1,5 +1,6 @@
 #include "editors/snipman/snipfielddlg.h"
 
+#include "core/dialogs/dialogbuttons_p.h"
 #include "editors/snipman/combosnipfield.h"
 #include "editors/snipman/regularsnipfield.h"
 #include "editors/snipman/snippetnumber_p.h"
@@ -87,9 +88,7 @@ SnipFieldDlg::SnipFieldDlg(QWidget* parent) : QDialog(parent), d(new SnipFieldDl
     d->values = addRow(lists, tr("&Values, one a line:"), "values", makeLines());
     lists->addRow(new QLabel(tr("A comma begins a new item.")));
 
-    d->buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    connect(d->buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(d->buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    d->buttons = Zorv::makeOkCancel(this);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(d->pages);

@@ -1,5 +1,6 @@
 #include "editors/snipman/snippetform_p.h"
 
+#include "core/dialogs/dialogbuttons_p.h"
 #include "editors/snipman/combosnipfield.h"
 #include "editors/snipman/regularsnipfield.h"
 #include "editors/snipman/snippetnumber_p.h"
@@ -91,9 +92,7 @@ SnippetForm::SnippetForm(QWidget* parent, const QString& title, const Fields& fi
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(page);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* buttons = makeOkCancel(this);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(area);

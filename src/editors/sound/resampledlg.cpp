@@ -1,5 +1,6 @@
 #include "editors/sound/resampledlg.h"
 
+#include "core/dialogs/dialogbuttons_p.h"
 #include "core/dialogs/itempicker_p.h"
 
 #include <QComboBox>
@@ -50,10 +51,7 @@ ResampleDlg::ResampleDlg(QWidget* parent, QAbstractItemModel* sounds, int row,
     form->addRow(tr("Sample rate:"), m_rate);
     form->addRow(tr("Bits per sample:"), m_bits);
     form->addRow(tr("Channels:"), m_channels);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* buttons = Zorv::makeOkCancel(this);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_picker);
     layout->addLayout(form);

@@ -1,5 +1,10 @@
 #include "image/dialogs/imagepreview_p.h"
 
+#include "core/dialogs/dialogbuttons_p.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QFormLayout>
 #include <QPainter>
 
 #include <algorithm>
@@ -61,4 +66,14 @@ QImage previewSource(const QImage& picture, double* scale)
     const int side = std::max(picture.width(), picture.height());
     *scale = side > SourceSide ? double(SourceSide) / side : 1.0;
     return *scale < 1.0 ? picture.scaled(SourceSide, SourceSide, Qt::KeepAspectRatio) : picture;
+}
+
+void layOutBeside(ImagePreview* preview, QFormLayout* form, QDialog* dialog)
+{
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(form);
+    columns->addWidget(preview, 1);
+    auto* layout = new QVBoxLayout(dialog);
+    layout->addLayout(columns);
+    layout->addWidget(Zorv::makeOkCancel(dialog));
 }

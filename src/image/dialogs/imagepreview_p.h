@@ -3,6 +3,9 @@
 #include <QImage>
 #include <QWidget>
 
+class QDialog;
+class QFormLayout;
+
 /// Shows a picture in the middle, as large as whole multiples of its pixels fit; what is too large
 /// is made smaller.
 class ImagePreview : public QWidget
@@ -26,3 +29,6 @@ private:
 /// A picture of which previews are made: one that is small enough for each change of a field.
 /// `scale` takes by how much it is smaller.
 QImage previewSource(const QImage& picture, double* scale);
+
+/// Fills a dialog: the form with the preview beside it, and below them what ends the dialog.
+void layOutBeside(ImagePreview* preview, QFormLayout* form, QDialog* dialog);

@@ -1,5 +1,6 @@
 #include "image/dialogs/imginfodlg.h"
 
+#include "core/dialogs/dialogbuttons_p.h"
 #include "image/canvas/imagecanvas.h"
 
 #include <QComboBox>
@@ -64,9 +65,7 @@ ImgInfoDlg::ImgInfoDlg(QWidget* parent, const Facts& facts)
     form->addRow(tr("&Size:"), sideBySide(m_width, m_height));
     form->addRow(tr("&Form:"), m_form);
     addTexts(form);
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* box = Zorv::makeOkCancel(this);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(box);

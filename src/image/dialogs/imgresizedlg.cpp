@@ -8,7 +8,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGridLayout>
@@ -102,15 +101,7 @@ void ImgResizeDlg::build()
     form->addRow(m_keepsRatio);
     form->addRow(tr("F&ilter:"), m_filter);
     form->addRow(tr("Picture at:"), m_anchors);
-    auto* columns = new QHBoxLayout;
-    columns->addLayout(form);
-    columns->addWidget(m_preview, 1);
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(columns);
-    layout->addWidget(box);
+    layOutBeside(m_preview, form, this);
 }
 
 void ImgResizeDlg::connectAll()

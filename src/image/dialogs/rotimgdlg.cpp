@@ -4,7 +4,6 @@
 #include "image/dialogs/resizefilters_p.h"
 #include "media/tools/rotateimage.h"
 
-#include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QPushButton>
@@ -52,15 +51,7 @@ void RotImgDlg::build()
     form->addRow(tr("&Angle:"), m_angle);
     form->addRow(turns);
     form->addRow(tr("F&ilter:"), m_filter);
-    auto* columns = new QHBoxLayout;
-    columns->addLayout(form);
-    columns->addWidget(m_preview, 1);
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(columns);
-    layout->addWidget(box);
+    layOutBeside(m_preview, form, this);
 }
 
 float RotImgDlg::angle() const
