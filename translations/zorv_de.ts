@@ -7148,6 +7148,17 @@ Ticks: ---</translation>
         <source>%1: the samples of this sound are broken.</source>
         <translation>%1: die Samples dieses Sounds sind beschädigt.</translation>
     </message>
+    <message>
+        <source>Sound %1 would be called &apos;%2&apos;, which is no identifier that a sound can have. Nothing is replaced. Write one like those in the list.</source>
+        <translation>Klang %1 hieße dann &apos;%2&apos;, doch das kann keine Kennung eines Klangs sein. Nichts wird ersetzt. Schreiben Sie eine wie die in der Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SoundOutput</name>
+    <message>
+        <source>Nothing is heard: the sound device &apos;%1&apos; takes no samples of 8, 16, 24 or 32 bits, nor floats. Choose another one in the system&apos;s settings.</source>
+        <translation>Nichts ist zu hören: Das Audiogerät &apos;%1&apos; nimmt weder Samples von 8, 16, 24 oder 32 Bit noch Gleitkommazahlen. Wählen Sie in den Einstellungen des Systems ein anderes.</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::SoundPlayer</name>
@@ -7162,6 +7173,10 @@ Ticks: ---</translation>
     <message>
         <source>Nothing is heard: the sound device could not be opened, or has gone. Connect it, and play again.</source>
         <translation>Es ist nichts zu hören: Das Tongerät ließ sich nicht öffnen oder ist nicht mehr da. Bitte anschließen und wieder abspielen.</translation>
+    </message>
+    <message>
+        <source>The sound is being converted to a form that the sound device takes.</source>
+        <translation>Der Klang wird gerade in eine Form umgerechnet, die das Audiogerät nimmt.</translation>
     </message>
 </context>
 <context>

@@ -44,9 +44,10 @@ public:
     PlannedSound() { setInstance(this); }
     ~PlannedSound() override { setInstance(nullptr); }
 
-    Zorv::SampleInfo playableForm(const Zorv::SampleInfo& form) override
+    Zorv::SampleInfo playableForm(const Zorv::SampleInfo& form, QString* why) override
     {
-        return isGone ? Zorv::SampleInfo() : only.channels > 0 ? only : form;
+        *why = problem;
+        return isGone || !problem.isEmpty() ? Zorv::SampleInfo() : only.channels > 0 ? only : form;
     }
     Zorv::SoundOutput* open(const Zorv::SampleInfo& form, QObject* parent) override
     {
@@ -57,6 +58,7 @@ public:
 
     Zorv::SampleInfo only;  ///< without channels: any form
     bool isGone = false;
+    QString problem;  ///< why no form is played
     int opened = 0;
     QPointer<PlannedOutput> output;  ///< the last one
 };

@@ -10,7 +10,7 @@
 #include "operations/animationedits.h"
 #include "operations/check/uses.h"
 
-#include <zorv/cache/sprites.h>
+#include <zorv/code/codedoc/animations.h>
 #include <zorv/editors/organizer/organizereditor.h>
 
 #include <QAbstractItemView>
@@ -59,7 +59,7 @@ void AnimationCommands::showDocument(Family::FamilyDocument* document)
     showAnimations();
 }
 
-/// The editor of sprites borrows the organizer, and leaves it empty.
+/// Other editors borrow the organizer for their lists, and leave it empty.
 void AnimationCommands::updateState()
 {
     if (!m_organizer->object()) {
@@ -69,7 +69,8 @@ void AnimationCommands::updateState()
 
 void AnimationCommands::showAnimations()
 {
-    if (!qobject_cast<Zorv::Sprites*>(m_organizer->object())) {
+    const QObject* shown = m_organizer->object();
+    if (!shown || qobject_cast<const Zorv::Animations*>(shown)) {
         m_organizer->setObject(m_document ? m_document->animations() : nullptr);
     }
 }

@@ -45,6 +45,7 @@ AudioSampleWidgetPrivate::AudioSampleWidgetPrivate(AudioSampleWidget* widget) : 
         emit q->stateChanged(state);
     });
     QObject::connect(&player, &SoundPlayer::problemChanged, q, [this] {
+        q->setToolTip(player.problem());  // the line may be too short for it
         q->update();
         emit q->problemChanged();
     });

@@ -52,7 +52,7 @@ public:
     /// The frame that is played next; negative without a sound device.
     int position() const;
 
-    /// Why nothing is heard, in words for the person; empty if all is well.
+    /// Why nothing is heard, or not yet, in words for the person; empty if all is well.
     QString problem() const;
 
     /// At first each strip shows the first channel, a frame later than the strip above it; true

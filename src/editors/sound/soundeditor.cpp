@@ -179,15 +179,9 @@ void SoundEditor::replace(const QString& text, const QString& with, unsigned fla
     if (!d->begin()) {
         return;
     }
-    const QString key = QStringLiteral("Identifier");
-    d->sounds->beginChange(tr("Replace identifiers"));
-    for (const int row : qAsConst(found)) {
-        Sound* sound = d->sounds->sound(row);
-        const bool isExpression = flags & FindRegularExpression;
-        sound->setProperty(
-            key, isExpression ? sound->property(key).toString().replace(pattern, with) : with);
-    }
-    d->sounds->endChange();
+    d->rename(found, [&](const QString& identifier) {
+        return flags & FindRegularExpression ? QString(identifier).replace(pattern, with) : with;
+    });
     d->show(found.first());
 }
 

@@ -51,6 +51,7 @@ public:
     OrganizerEditor* organizer() const;
     QVector<int> matches(const QString& text, unsigned flags, QRegularExpression* pattern) const;
     int firstMatch(const QVector<int>& found, unsigned flags) const;
+    void rename(const QVector<int>& rows, const std::function<QString(const QString&)>& newName);
     void stateChanged(SoundSample::State state);
     void updatePart();
     AudioSampleWidget* waveform() const { return workspace->sampleWidget(); }

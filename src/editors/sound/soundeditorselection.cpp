@@ -223,8 +223,9 @@ void SoundEditorPrivate::lendList(bool isLent)
         if (host->option(QStringLiteral("show_organizer")).toBool()) {
             host->showExtraEditor(list);
         }
-        connect(list, &OrganizerEditor::currentRowChanged, this, [this](int row) {
-            if (inhibit == 0 && row >= 0 && row != current()) {
+        connect(list, &OrganizerEditor::currentRowChanged, this, [this, list](int row) {
+            const bool isOurs = sounds && list->object() == sounds;
+            if (isOurs && inhibit == 0 && row >= 0 && row != current()) {
                 show(row);
             }
         });
@@ -263,6 +264,32 @@ int SoundEditorPrivate::firstMatch(const QVector<int>& found, unsigned flags) co
     }
     const auto next = std::upper_bound(found.begin(), found.end(), current());
     return next != found.end() ? *next : wraps ? found.first() : -1;
+}
+
+/// As one step; nothing if one of them would get an identifier that it cannot have.
+void SoundEditorPrivate::rename(const QVector<int>& rows,
+                                const std::function<QString(const QString&)>& newName)
+{
+    const QString key = QStringLiteral("Identifier");
+    const QString title = SoundEditor::tr("Replace identifiers");
+    QStringList names;
+    for (const int row : rows) {
+        const QString old = sounds->sound(row)->property(key).toString();
+        names.append(newName(old));
+        if (!sounds->canName(names.last())) {
+            Dialogs::instance()->warning(
+                title, SoundEditor::tr("Sound %1 would be called '%2', which is no identifier that "
+                                       "a sound can have. Nothing is replaced. Write one like "
+                                       "those in the list.")
+                           .arg(old, names.last()));
+            return;
+        }
+    }
+    sounds->beginChange(title);
+    for (int i = 0; i < rows.size(); ++i) {
+        sounds->sound(rows[i])->setProperty(key, names[i]);
+    }
+    sounds->endChange();
 }
 
 void SoundEditorPrivate::play(bool)

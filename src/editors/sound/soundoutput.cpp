@@ -1,6 +1,7 @@
 #include "editors/sound/soundoutput.h"
 
-#include "media/soundsample.h"
+#include "editors/sound/floatstream_p.h"
+#include "editors/sound/playableform_p.h"
 
 #include <QAudioDeviceInfo>
 #include <QAudioOutput>
@@ -11,30 +12,36 @@ namespace {
 
 constexpr int NotifyInterval = 10;  // milliseconds
 
-QAudioFormat formatOf(const SampleInfo& form)
+QAudioFormat audioFormatOf(const PlayableForm& form)
 {
     QAudioFormat format;
-    format.setSampleRate(form.sampleRate);
-    format.setChannelCount(form.channels);
-    format.setSampleSize(form.bits);
+    format.setSampleRate(form.info.sampleRate);
+    format.setChannelCount(form.info.channels);
+    format.setSampleSize(form.info.bits);
     format.setCodec(QStringLiteral("audio/pcm"));
     format.setByteOrder(QAudioFormat::LittleEndian);
-    format.setSampleType(form.bits == 8 ? QAudioFormat::UnSignedInt : QAudioFormat::SignedInt);
+    format.setSampleType(form.isFloat          ? QAudioFormat::Float
+                         : form.info.bits == 8 ? QAudioFormat::UnSignedInt
+                                               : QAudioFormat::SignedInt);
     return format;
 }
 
 class QtSoundOutput : public SoundOutput
 {
 public:
-    QtSoundOutput(const SampleInfo& form, QObject* parent)
-        : SoundOutput(parent), m_output(formatOf(form))
+    QtSoundOutput(const PlayableForm& form, QObject* parent)
+        : SoundOutput(parent), m_isFloat(form.isFloat), m_output(audioFormatOf(form))
     {
         m_output.setNotifyInterval(NotifyInterval);
         connect(&m_output, &QAudioOutput::notify, this, &SoundOutput::notify);
         connect(&m_output, &QAudioOutput::stateChanged, this, &SoundOutput::stateChanged);
     }
 
-    void start(QIODevice* stream) override { m_output.start(stream); }
+    void start(QIODevice* stream) override
+    {
+        m_floats.setSource(stream);
+        m_output.start(m_isFloat ? &m_floats : stream);
+    }
     void stop() override { m_output.stop(); }
     void suspend() override { m_output.suspend(); }
     void resume() override { m_output.resume(); }
@@ -60,34 +67,48 @@ public:
     }
 
 private:
+    bool m_isFloat;
+    FloatStream m_floats;
     QAudioOutput m_output;
 };
 
 class QtSoundSystem : public SoundSystem
 {
 public:
-    SampleInfo playableForm(const SampleInfo& form) override
+    SampleInfo playableForm(const SampleInfo& form, QString* problem) override
     {
         const QAudioDeviceInfo device = QAudioDeviceInfo::defaultOutputDevice();
-        const QAudioFormat wanted = formatOf(form);
         if (device.isNull()) {
             return {};
         }
-        if (device.isFormatSupported(wanted)) {
-            return form;
+        const PlayableForm found = nearest(device, form);
+        if (found.info.channels == 0) {
+            *problem = SoundOutput::tr(
+                           "Nothing is heard: the sound device '%1' takes no samples of 8, 16, 24 "
+                           "or 32 bits, nor floats. Choose another one in the system's settings.")
+                           .arg(device.deviceName());
         }
-        const QAudioFormat near = device.nearestFormat(wanted);
-        SampleInfo result;
-        result.channels = quint16(qMax(near.channelCount(), 0));
-        result.bits = quint16(qMax(near.sampleSize(), 0));
-        result.sampleRate = near.sampleRate();
-        const bool isOurs = near.isValid() && near == formatOf(result);
-        return isOurs ? result : SampleInfo();
+        return found.info;
     }
 
     SoundOutput* open(const SampleInfo& form, QObject* parent) override
     {
-        return new QtSoundOutput(form, parent);
+        const QAudioDeviceInfo device = QAudioDeviceInfo::defaultOutputDevice();
+        const bool isPlain = device.isFormatSupported(audioFormatOf({form, false}));
+        const bool isFloat = !isPlain && device.isFormatSupported(audioFormatOf({form, true}));
+        return new QtSoundOutput({form, isFloat}, parent);
+    }
+
+private:
+    static PlayableForm nearest(const QAudioDeviceInfo& device, const SampleInfo& form)
+    {
+        const QAudioFormat near = device.nearestFormat(audioFormatOf({form, false}));
+        SampleInfo offered;
+        offered.channels = quint16(qBound(0, near.channelCount(), 0xffff));
+        offered.sampleRate = near.sampleRate();
+        return playableFormOf(form, offered, [&device](const PlayableForm& each) {
+            return device.isFormatSupported(audioFormatOf(each));
+        });
     }
 };
 

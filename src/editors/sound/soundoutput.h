@@ -60,8 +60,9 @@ public:
     static void setInstance(SoundSystem* system);
 
     /// The form of samples nearest to one that can be played, that one itself if it can be; its
-    /// `bits` are 8 without a sign, or 16, 24 or 32. Without channels if there is no device.
-    virtual SampleInfo playableForm(const SampleInfo& form) = 0;
+    /// `bits` are 8 without a sign, or 16, 24 or 32. Without channels if there is no device, or,
+    /// with a text for the person in `problem`, if it takes none of these.
+    virtual SampleInfo playableForm(const SampleInfo& form, QString* problem) = 0;
 
     /// A device for a form; never null.
     virtual SoundOutput* open(const SampleInfo& form, QObject* parent) = 0;

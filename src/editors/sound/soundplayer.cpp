@@ -7,9 +7,20 @@
 
 namespace Zorv {
 
+namespace {
+
+constexpr int NoticeDelay = 200;  // milliseconds that pass without a word
+
+}  // namespace
+
 SoundPlayer::SoundPlayer(QObject* parent) : QObject(parent), m_stream(new SampleStream(this))
 {
     connect(&m_conversion, &QFutureWatcherBase::finished, this, &SoundPlayer::takeConverted);
+    m_notice.setSingleShot(true);
+    m_notice.setInterval(NoticeDelay);
+    connect(&m_notice, &QTimer::timeout, this, [this] {
+        tell(tr("The sound is being converted to a form that the sound device takes."));
+    });
 }
 
 SoundPlayer::~SoundPlayer()
@@ -52,9 +63,12 @@ void SoundPlayer::open()
         tell(isNone ? QString() : tr("This sound has no form that can be played."));
         return;
     }
-    m_form = SoundSystem::instance()->playableForm(m_sound);
+    QString problem;
+    m_form = SoundSystem::instance()->playableForm(m_sound, &problem);
     if (m_form.channels == 0) {
-        tell(tr("Nothing is heard: there is no sound device. Connect one, and play again."));
+        tell(!problem.isEmpty()
+                 ? problem
+                 : tr("Nothing is heard: there is no sound device. Connect one, and play again."));
         return;
     }
     m_output = SoundSystem::instance()->open(m_form, this);
@@ -111,6 +125,7 @@ void SoundPlayer::convert()
         return;
     }
     m_isCanceled = std::make_shared<std::atomic<bool>>(false);
+    m_notice.start();
     m_conversion.setFuture(
         QtConcurrent::run([sound = m_sound, form = m_form, isCanceled = m_isCanceled] {
             return convertSound(sound, form, isCanceled.get());
@@ -119,9 +134,11 @@ void SoundPlayer::convert()
 
 void SoundPlayer::cancelConversion()
 {
+    m_notice.stop();
     if (m_isCanceled) {
         *m_isCanceled = true;
         m_isCanceled.reset();
+        tell({});
     }
     m_conversion.setFuture({});
 }
@@ -133,6 +150,8 @@ void SoundPlayer::takeConverted()
     }
     const SoundConversion result = m_conversion.result();
     m_isCanceled.reset();
+    m_notice.stop();
+    tell({});
     if (result.outcome == SoundConversion::Done) {
         m_stream->setBytes(result.sample.data);
         m_hasBytes = true;

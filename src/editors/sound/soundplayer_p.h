@@ -5,6 +5,7 @@
 
 #include <QFutureWatcher>
 #include <QPointer>
+#include <QTimer>
 
 #include <memory>
 
@@ -38,7 +39,7 @@ public:
     /// The frame of the sound that the device reads next; negative without a device.
     int position() const;
 
-    /// Why nothing is heard, in words for the person; empty if all is well.
+    /// Why nothing is heard, or not yet, in words for the person; empty if all is well.
     QString problem() const { return m_problem; }
 
 signals:
@@ -63,6 +64,7 @@ private:
     bool m_hasBytes = false;  // the stream has the sound
     QString m_problem;
     QFutureWatcher<SoundConversion> m_conversion;
+    QTimer m_notice;  // of a conversion that takes long
     std::shared_ptr<std::atomic<bool>> m_isCanceled;
 };
 

@@ -1,10 +1,13 @@
 #include "editors/sound/audiosamplewidget.h"
+#include "editors/sound/floatstream_p.h"
+#include "editors/sound/playableform_p.h"
 #include "editors/sound/wavepyramid_p.h"
 #include "media/soundconversion.h"
 #include "support/plannedsound.h"
 #include "support/testsounds.h"
 #include "support/testtable.h"
 
+#include <QBuffer>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
@@ -54,6 +57,9 @@ private slots:
     void loopsWithoutAGap();
     void playsWhatTheDeviceTakes();
     void tellsWhyNothingIsHeard();
+    void takesTheNearestForm_data();
+    void takesTheNearestForm();
+    void readsFloats();
     void drawsWhatIsThere_data();
     void drawsWhatIsThere();
     void showsALoudFrameInAnHour();
@@ -198,6 +204,78 @@ void TestAudioSampleWidget::tellsWhyNothingIsHeard()
     shown.widget.play(false);
     QVERIFY(shown.widget.problem().isEmpty());
     QCOMPARE(int(shown.widget.currentState()), int(SoundSample::PlayingState));
+    shown.devices.problem = QStringLiteral("floats of 64 bits only");
+    shown.widget.setSample(soundOf(noise(500), 2));
+    shown.widget.play(false);
+    QCOMPARE(shown.widget.problem(), shown.devices.problem);
+    shown.devices.problem.clear();
+    shown.devices.only = soundOf({}, 1, 32);
+    shown.devices.only.sampleRate = 44100;
+    shown.widget.setSample(soundOf(noise(8000000), 2));
+    shown.widget.play(false);
+    QTRY_VERIFY(!shown.widget.problem().isEmpty());  // it takes long to convert
+    QVERIFY(shown.widget.currentState() == SoundSample::StoppedState);
+    shown.widget.stop();
+    QVERIFY(shown.widget.problem().isEmpty());
+}
+
+/// Devices as they are: "RATE CHANNELS SAMPLES" of all that is taken, `f` for floats.
+void TestAudioSampleWidget::takesTheNearestForm_data()
+{
+    columns<QString, QString>("taken", "form");
+    row("as it is", QStringLiteral("22050 1 s16 | 48000 2 s16"), QStringLiteral("22050 1 s16"));
+    row("more bits first", QStringLiteral("22050 1 u8 s24 f32"), QStringLiteral("22050 1 s24"));
+    row("floats before fewer bits", QStringLiteral("22050 1 u8 f32"),
+        QStringLiteral("22050 1 f32"));
+    row("fewer bits", QStringLiteral("22050 1 u8"), QStringLiteral("22050 1 u8"));
+    row("its channels", QStringLiteral("22050 2 f32 | 48000 2 s16"), QStringLiteral("22050 2 f32"));
+    row("its rate", QStringLiteral("48000 1 s32 | 48000 2 s16"), QStringLiteral("48000 1 s32"));
+    row("one that is usual", QStringLiteral("44100 2 s16"), QStringLiteral("44100 2 s16"));
+    row("none", QStringLiteral("22050 1 s64 f64"), QStringLiteral(""));
+}
+
+void TestAudioSampleWidget::takesTheNearestForm()
+{
+    const auto [taken, form] = fetched<QString, QString>();
+    const auto nameOf = [](const PlayableForm& of) {
+        return QStringLiteral("%1 %2 %3%4")
+            .arg(of.info.sampleRate)
+            .arg(of.info.channels)
+            .arg(of.isFloat          ? "f"
+                 : of.info.bits == 8 ? "u"
+                                     : "s")
+            .arg(of.info.bits);
+    };
+    QStringList all;
+    for (const QString& device : taken.split(" | ")) {
+        const QStringList words = device.split(' ');
+        for (const QString& samples : words.mid(2)) {
+            all.append(QStringList{words[0], words[1], samples}.join(' '));
+        }
+    }
+    SampleInfo offered;
+    offered.channels = 2;
+    offered.sampleRate = 48000;
+    const PlayableForm found = playableFormOf(
+        soundOf({}), offered, [&](const PlayableForm& each) { return all.contains(nameOf(each)); });
+    QCOMPARE(found.info.channels > 0 ? nameOf(found) : QString(), QString(form));
+}
+
+void TestAudioSampleWidget::readsFloats()
+{
+    QByteArray bytes;
+    for (const qint32 value : {0, INT_MIN, INT_MAX, 1 << 30, -(1 << 29)}) {
+        bytes.append(reinterpret_cast<const char*>(&value), 4);
+    }
+    QBuffer source(&bytes);
+    QVERIFY(source.open(QIODevice::ReadOnly));
+    FloatStream stream;
+    stream.setSource(&source);
+    float floats[5] = {};
+    QCOMPARE(stream.read(reinterpret_cast<char*>(floats), 11), 8);
+    QCOMPARE(stream.read(reinterpret_cast<char*>(floats + 2), 99), 12);
+    QVERIFY(std::equal(floats, floats + 5, std::begin({0.0F, -1.0F, 1.0F, 0.5F, -0.25F})));
+    QVERIFY(stream.atEnd());
 }
 
 void TestAudioSampleWidget::drawsWhatIsThere_data()

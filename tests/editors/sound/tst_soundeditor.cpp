@@ -395,6 +395,9 @@ void TestSoundEditor::findsAndReplaces()
     QCOMPARE(ids(), (QStringList{"50,0", "51,5", "52,10"}));
     editor->undo();
     QCOMPARE(ids(), before);
+    editor->replace(QStringLiteral("1"), QStringLiteral("one"), 1, true);
+    QCOMPARE(ids(), before);
+    QVERIFY(dialogs->texts("warning").value(0).contains("'one,5'"));
 }
 
 void TestSoundEditor::importsFromAnotherProject_data()
