@@ -18,6 +18,8 @@ using Zorv::FileID;
 
 namespace {
 
+constexpr int MostNotes = 100;
+
 Box boxOf(const QRect& rect)
 {
     return {qMin(rect.left(), rect.right()), qMin(rect.top(), rect.bottom()),
@@ -75,14 +77,14 @@ QVariant CodeGroup::value(const char* key) const
     return {};
 }
 
-CodeText::CodeText(const QString& gameFolder, const QString& mainFile)
-    : m_gameFolder(gameFolder), m_mainFile(QFileInfo(mainFile).absoluteFilePath())
+CodeText::CodeText(const QString& gameFolder, const QString& mainFile, FileKind kind)
+    : m_gameFolder(gameFolder), m_mainFile(QFileInfo(mainFile).absoluteFilePath()), m_kind(kind)
 {
 }
 
 bool CodeText::read(QString* error)
 {
-    if (!readFile(m_mainFile, Family::fileKindOf(m_mainFile), error)) {
+    if (!readFile(m_mainFile, m_kind, error)) {
         return false;
     }
     readNamed();
@@ -121,9 +123,23 @@ bool CodeText::readFile(const QString& path, FileKind kind, QString* error)
         } else {
             see(line, place);
         }
+        noteErrors(details, place);
         start = end + 1;
     }
     return true;
+}
+
+/// What is passed over.
+void CodeText::noteErrors(const Family::LineDetails& details, const TextPlace& place)
+{
+    for (const Family::LineProblem& problem : details.problems) {
+        if (Family::problemInfo(problem.id).level == Family::Level::Error &&
+            m_notes.size() < MostNotes) {
+            m_notes.append(QStringLiteral("%1:%2: %3")
+                               .arg(QFileInfo(place.file).fileName(), QString::number(place.line),
+                                    problem.text));
+        }
+    }
 }
 
 /// Each kind of file after the other, as the check and the editor read them.
@@ -149,6 +165,15 @@ void CodeText::readNamed()
             }
         }
     }
+}
+
+QString CodeText::pathOf(const QString& written) const
+{
+    const bool isFine =
+        Family::pathFault(m_gameFolder, m_mainFile, written) == Family::PathFault::Fine;
+    return isFine
+               ? QDir::cleanPath(QFileInfo(m_mainFile).absolutePath() + QLatin1Char('/') + written)
+               : QString();
 }
 
 CodeGroup CodeText::joined(const char* name) const

@@ -30,7 +30,8 @@ class CodeText
     Q_DECLARE_TR_FUNCTIONS(Rules::CodeText)
 
 public:
-    CodeText(const QString& gameFolder, const QString& mainFile);
+    /// The kind of the main file is told: a copy for an engine has no suffix.
+    CodeText(const QString& gameFolder, const QString& mainFile, Family::FileKind kind);
 
     /// False, with `error`, if the main file cannot be read.
     bool read(QString* error);
@@ -38,6 +39,10 @@ public:
     const QVector<CodeGroup>& groups() const { return m_groups; }
     const QVector<Animation>& animations() const { return m_animations; }
     QStringList notes() const { return m_notes; }
+    QString mainFile() const { return m_mainFile; }
+
+    /// Where a path of the text leads; empty outside of the game.
+    QString pathOf(const QString& written) const;
 
     /// The values of all groups of a name together, as one of them.
     CodeGroup joined(const char* name) const;
@@ -45,12 +50,14 @@ public:
 private:
     bool readFile(const QString& path, Family::FileKind kind, QString* error);
     void readNamed();
+    void noteErrors(const Family::LineDetails& details, const TextPlace& place);
     void see(const Family::ParsedLine& line, const TextPlace& place);
     void seeValue(const Family::ParsedLine& line, const QString& written);
     void seeFrame(const Family::FrameData& data, int line);
 
     QString m_gameFolder;
     QString m_mainFile;
+    Family::FileKind m_kind;
     QVector<CodeGroup> m_groups;
     QVector<Animation> m_animations;
     QStringList m_notes;

@@ -1,97 +1,18 @@
 #include "rules/gamereader.h"
 
 #include "family/grammar/grammar.h"
-#include "family/nodes/valuetext.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/unreachable.h"
-#include "rules/codetext.h"
+#include "rules/codevalues.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QPointF>
-#include <QRect>
 
 namespace Rules {
 
 using Family::AnimationRole;
-using Family::numbersOf;
 
 namespace {
-
-/// Takes numbers of a group if they are there.
-class Values
-{
-public:
-    explicit Values(const CodeGroup& group) : m_group(group) {}
-
-    void whole(const char* key, int* number) const
-    {
-        const QVariant value = m_group.value(key);
-        *number = value.isValid() ? value.toInt() : *number;
-    }
-
-    void real(const char* key, double* number) const
-    {
-        const QVariant value = m_group.value(key);
-        *number = value.isValid() ? value.toDouble() : *number;
-    }
-
-    void speed(const char* key, Fixed* number) const
-    {
-        const QVariant value = m_group.value(key);
-        *number = value.isValid() ? fixedOf(value.toDouble()) : *number;
-    }
-
-    /// True if the key is there.
-    bool speeds(const char* key, Fixed* x, Fixed* y) const
-    {
-        const QVariantList list = numbersOf(m_group.value(key));
-        if (list.size() == 2) {
-            *x = fixedOf(list.at(0).toDouble());
-            *y = fixedOf(list.at(1).toDouble());
-        }
-        return list.size() == 2;
-    }
-
-    bool wholes(const char* key, int* first, int* second) const
-    {
-        const QVariantList list = numbersOf(m_group.value(key));
-        if (list.size() == 2) {
-            *first = list.at(0).toInt();
-            *second = list.at(1).toInt();
-        }
-        return list.size() == 2;
-    }
-
-    QString word(const char* key) const { return m_group.value(key).toString(); }
-
-private:
-    const CodeGroup& m_group;
-};
-
-/// The place of a word in a list, 0 for any other.
-template <class Choice>
-Choice choiceOf(const QString& word, std::initializer_list<const char*> words)
-{
-    int place = 0;
-    for (const char* each : words) {
-        if (word == QLatin1String(each)) {
-            return Choice(place);
-        }
-        ++place;
-    }
-    return Choice(0);
-}
-
-QVector<int> wholesOf(const QVariant& value)
-{
-    QVector<int> result;
-    const QVariantList list = value.toList();
-    for (const QVariant& number : list) {
-        result.append(number.toInt());
-    }
-    return result;
-}
 
 /// Finds things by their names: the first one of a name counts.
 template <class Things, class Name>
@@ -352,13 +273,19 @@ GameReader::GameReader(const QString& gameFolder)
 
 bool GameReader::readFighter(const QString& mainFile, FighterData* data, QString* error)
 {
-    CodeText text(m_gameFolder, mainFile);
+    CodeText text(m_gameFolder, mainFile, Family::FileKind::Character);
     if (!text.read(error)) {
         return false;
     }
+    takeFighter(text, data);
+    return true;
+}
+
+void GameReader::takeFighter(const CodeText& text, FighterData* data)
+{
     *data = {};
-    data->mainFile = mainFile;
-    data->name = titleOf(text, mainFile);
+    data->mainFile = text.mainFile();
+    data->name = titleOf(text, data->mainFile);
     for (const Animation& animation : text.animations()) {
         if (!animation.frames.isEmpty() && animationCalled(*data, animation.identifier) < 0) {
             data->animations.append(animation);
@@ -375,21 +302,25 @@ bool GameReader::readFighter(const QString& mainFile, FighterData* data, QString
         m_notes.append(tr("'%1' has more than %2 commands. Those behind are left out.")
                            .arg(data->name, QString::number(FighterData::MostCommands)));
     }
-    return true;
 }
 
 bool GameReader::readStage(const QString& mainFile, StageData* data, QString* error)
 {
-    CodeText text(m_gameFolder, mainFile);
+    CodeText text(m_gameFolder, mainFile, Family::FileKind::Stage);
     if (!text.read(error)) {
         return false;
     }
+    takeStage(text, data);
+    return true;
+}
+
+void GameReader::takeStage(const CodeText& text, StageData* data)
+{
     *data = {};
-    data->mainFile = mainFile;
-    data->name = titleOf(text, mainFile);
+    data->mainFile = text.mainFile();
+    data->name = titleOf(text, data->mainFile);
     readArena(text, data);
     m_notes += text.notes();
-    return true;
 }
 
 void completeGame(Game* game)
@@ -425,7 +356,8 @@ QString findMainFile(const QString& gameFolder, const QString& suffix, const QSt
             return file;
         }
     }
-    if (name.endsWith(suffix) && QFileInfo::exists(name)) {
+    // A copy that the editor has made for an engine has no suffix.
+    if (QFileInfo(name).isFile()) {
         return QFileInfo(name).absoluteFilePath();
     }
     *error = GameReader::tr("There is no '%1' in '%2'. %3")

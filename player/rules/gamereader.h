@@ -6,6 +6,8 @@
 
 namespace Rules {
 
+class CodeText;
+
 /// Reads characters and stages for the rules, by the grammar of the family.
 ///
 /// Lines with errors are passed over, as in the editor; a file that cannot be read is told in
@@ -22,6 +24,10 @@ public:
     /// False, with `error`, if the main file cannot be read.
     bool readFighter(const QString& mainFile, FighterData* data, QString* error);
     bool readStage(const QString& mainFile, StageData* data, QString* error);
+
+    /// The same from a text that was read before.
+    void takeFighter(const CodeText& text, FighterData* data);
+    void takeStage(const CodeText& text, StageData* data);
 
     /// What was passed over, a line each for the person.
     QStringList notes() const { return m_notes; }
