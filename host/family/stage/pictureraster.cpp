@@ -53,6 +53,34 @@ inline void blend(QRgb* to, QRgb color)
     }
 }
 
+/// What comes of each channel of a colour, weighed by its alpha, and of the ground.
+template <class Function>
+void mixChannels(QRgb* to, QRgb color, Function function)
+{
+    const uint alpha = uint(qAlpha(color));
+    const auto channel = [=](int from, int ground) {
+        return int(function(uint(from), alpha, uint(ground)));
+    };
+    *to = alpha == 0 ? *to
+                     : qRgba(channel(qRed(color), qRed(*to)), channel(qGreen(color), qGreen(*to)),
+                             channel(qBlue(color), qBlue(*to)), qAlpha(*to));
+}
+
+uint added(uint from, uint alpha, uint to)
+{
+    return qMin(to + weighed(from, alpha), 255U);
+}
+
+uint subtracted(uint from, uint alpha, uint to)
+{
+    return to - qMin(weighed(from, alpha), to);
+}
+
+uint multiplied(uint from, uint alpha, uint to)
+{
+    return mixed(weighed(to, from), alpha, to);
+}
+
 }  // namespace
 
 PictureRaster::PictureRaster(QImage* image, QPoint topLeft)
@@ -117,21 +145,11 @@ void PictureRaster::put(const PlacedPicture& place, const QImage& picture, Mix m
                       : putTurned<To, From>(place, picture, mix);
 }
 
-void PictureRaster::draw(const PlacedPicture& place, const QImage& picture)
+template <class Mix>
+void PictureRaster::putColors(const PlacedPicture& place, const QImage& picture, Mix mix)
 {
-    const bool isIndexed = picture.format() == QImage::Format_Indexed8;
-    if (!place.bounds().intersects(m_area) || picture.size() != place.pictureSize()) {
-        return;
-    }
-    if (m_image->format() == QImage::Format_Indexed8) {
-        if (isIndexed) {
-            put<uchar, uchar>(place, picture, [](uchar* to, uchar index) { *to = index; });
-        }
-        return;
-    }
-    if (!isIndexed) {
-        put<QRgb, QRgb>(place, picture.convertToFormat(QImage::Format_ARGB32),
-                        [](QRgb* to, QRgb color) { blend(to, color); });
+    if (picture.format() != QImage::Format_Indexed8) {
+        put<QRgb, QRgb>(place, picture.convertToFormat(QImage::Format_ARGB32), mix);
         return;
     }
     QVector<QRgb> colors = picture.colorTable();
@@ -139,7 +157,35 @@ void PictureRaster::draw(const PlacedPicture& place, const QImage& picture)
         colors.append(qRgb(0, 0, 0));
     }
     const QRgb* const table = colors.constData();
-    put<QRgb, uchar>(place, picture, [table](QRgb* to, uchar index) { blend(to, table[index]); });
+    put<QRgb, uchar>(place, picture,
+                     [table, mix](QRgb* to, uchar index) { mix(to, table[index]); });
+}
+
+void PictureRaster::draw(const PlacedPicture& place, const QImage& picture, Mixture mixture)
+{
+    if (!place.bounds().intersects(m_area) || picture.size() != place.pictureSize()) {
+        return;
+    }
+    if (m_image->format() == QImage::Format_Indexed8) {
+        if (picture.format() == QImage::Format_Indexed8) {
+            put<uchar, uchar>(place, picture, [](uchar* to, uchar index) { *to = index; });
+        }
+        return;
+    }
+    switch (mixture) {
+    case Mixture::Over:
+        putColors(place, picture, [](QRgb* to, QRgb color) { blend(to, color); });
+        break;
+    case Mixture::Add:
+        putColors(place, picture, [](QRgb* to, QRgb color) { mixChannels(to, color, added); });
+        break;
+    case Mixture::Subtract:
+        putColors(place, picture, [](QRgb* to, QRgb color) { mixChannels(to, color, subtracted); });
+        break;
+    case Mixture::Multiply:
+        putColors(place, picture, [](QRgb* to, QRgb color) { mixChannels(to, color, multiplied); });
+        break;
+    }
 }
 
 void PictureRaster::fill(const QRect& rect, QRgb color)
