@@ -1,17 +1,22 @@
 #include "family/project/familyparentproject.h"
-#include "rules/gamereader.h"
+#include "operations/hostinterface.h"
+#include "picture/loadedmatch.h"
 #include "rules/tick.h"
 #include "script/description.h"
 #include "script/script.h"
+#include "window/playwindow.h"
 
 #include <zorv/code/codecs/filetext.h>
 #include <zorv/core/filesystemarchive.h>
 
-#include <QCoreApplication>
 #include <QFileInfo>
+#include <QGuiApplication>
 
+#include <algorithm>
 #include <clocale>
 #include <cstdio>
+#include <cstring>
+#include <memory>
 
 #include <signal.h>
 
@@ -20,21 +25,20 @@ namespace {
 enum Status { Fine = 0, WrongUsage = 2, NotDone = 3 };
 
 const char usage[] =
-    "usage: zorv-player GAME [CHARACTER [CHARACTER]] [--stage STAGE] [--intro] --script FILE\n"
-    "                   [--json]\n"
+    "usage: zorv-player GAME [CHARACTER [CHARACTER]] [--stage STAGE]\n"
+    "       zorv-player GAME ... [--intro] --script FILE [--json]\n"
     "       zorv-player --character FILE [--character FILE] ...\n"
     "\n"
-    "Plays a match of a game as FILE tells the inputs, and prints a line for each tick: its\n"
-    "number, a hash of the state, the phase, and of both fighters place, life and what they do.\n"
+    "Plays a match of a game in a window, for two people at one keyboard; F1 shows the keys.\n"
+    "With '--script' it needs no display: it plays as FILE tells the inputs, and prints a line\n"
+    "for each tick: its number, a hash of the state, the phase, and of both fighters place, life\n"
+    "and what they do.\n"
     "CHARACTER and STAGE are names of folders or files of the game, or paths.\n";
 
 struct Request
 {
-    QString game;
-    QStringList characters;
-    QString stage;
+    Player::MatchRequest match;
     QString script;
-    bool hasIntro = false;
     bool json = false;
 };
 
@@ -47,6 +51,8 @@ int complain(const QString& text, Status status)
 bool readRequest(const QStringList& arguments, Request* request, QString* error)
 {
     QStringList operands;
+    Player::MatchRequest& match = request->match;
+    match.hasIntro = false;
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments.at(i);
         const bool hasValue = argument == QLatin1String("--character") ||
@@ -57,15 +63,15 @@ bool readRequest(const QStringList& arguments, Request* request, QString* error)
         if (hasValue && value.isEmpty()) {
             *error = QStringLiteral("Expected a name behind '%1'.").arg(argument);
         } else if (argument == QLatin1String("--character")) {
-            request->characters.append(value);
+            match.characters.append(value);
         } else if (argument == QLatin1String("--stage")) {
-            request->stage = value;
+            match.stage = value;
         } else if (argument == QLatin1String("--script")) {
             request->script = value;
         } else if (argument == QLatin1String("--json")) {
             request->json = true;
         } else if (argument == QLatin1String("--intro")) {
-            request->hasIntro = true;
+            match.hasIntro = true;
         } else if (argument.startsWith(QLatin1String("--"))) {
             *error = QStringLiteral("There is no option '%1'.").arg(argument);
         } else {
@@ -73,72 +79,43 @@ bool readRequest(const QStringList& arguments, Request* request, QString* error)
         }
     }
     if (!operands.isEmpty()) {
-        request->game = operands.takeFirst();
-    } else if (!request->characters.isEmpty() || !request->stage.isEmpty()) {
-        request->game =
-            Family::FamilyParentProject::folderOf(request->characters.value(0, request->stage));
+        match.game = operands.takeFirst();
+    } else if (!match.characters.isEmpty() || !match.stage.isEmpty()) {
+        match.game = Family::FamilyParentProject::folderOf(match.characters.value(0, match.stage));
     }
-    request->characters += operands;
-    if (error->isEmpty() && request->game.isEmpty()) {
+    match.characters += operands;
+    if (error->isEmpty() && match.game.isEmpty()) {
         *error = QStringLiteral("Expected the folder of a game.");
-    } else if (error->isEmpty() && request->characters.size() > 2) {
-        *error = QStringLiteral("Two characters play; found a third, '%1'.")
-                     .arg(request->characters.at(2));
-    } else if (error->isEmpty() && request->script.isEmpty()) {
-        *error = QStringLiteral("Expected '--script FILE', what is played.");
+    } else if (error->isEmpty() && match.characters.size() > 2) {
+        *error =
+            QStringLiteral("Two characters play; found a third, '%1'.").arg(match.characters.at(2));
     }
+    match.hasIntro = match.hasIntro || request->script.isEmpty();
     return error->isEmpty();
 }
 
-/// A game without a stage is played on a bare one.
-bool readGame(const Request& request, Rules::Game* game, QString* error)
+int playScript(const Request& request)
 {
-    Rules::GameReader reader(request.game);
-    for (int i = 0; i < 2; ++i) {
-        const QString name = request.characters.value(i, request.characters.value(0));
-        const QString file =
-            Rules::findMainFile(request.game, QStringLiteral(".character"), name, i, error);
-        if (file.isEmpty() || !reader.readFighter(file, &game->fighters[i], error)) {
-            return false;
-        }
-    }
-    const QString stage =
-        Rules::findMainFile(request.game, QStringLiteral(".stage"), request.stage, 0, error);
-    if (stage.isEmpty() && request.stage.isEmpty()) {
-        error->clear();
-    } else if (stage.isEmpty() || !reader.readStage(stage, &game->stage, error)) {
-        return false;
-    }
-    game->hasIntro = request.hasIntro;
-    Rules::completeGame(game);
-    const QStringList notes = reader.notes();
-    for (const QString& note : notes) {
-        complain(note, Fine);
-    }
-    return true;
-}
-
-int play(const Request& request)
-{
-    Rules::Game game;
+    Player::LoadedMatch match;
     Player::Script script;
     Zorv::FileText text;
     QString error;
-    if (!QFileInfo(request.game).isDir()) {
-        return complain(QStringLiteral("There is no folder '%1'.").arg(request.game), NotDone);
-    }
-    if (!readGame(request, &game, &error) ||
+    if (!match.load(request.match, &error) ||
         !text.read(*Zorv::FileSystemArchive::instance(), request.script, -1, &error)) {
         return complain(error, NotDone);
     }
     if (!script.read(text.text, &error)) {
         return complain(request.script + QLatin1String(": ") + error, NotDone);
     }
-    Rules::State state = Rules::firstState(game);
+    for (const QString& note : qAsConst(match.notes)) {
+        complain(note, Fine);
+    }
+    Rules::State state = Rules::firstState(match.game);
     bool isWritten = true;
-    script.run(game, &state, [&](const Rules::State& now) {
+    script.run(match.game, &state, [&](const Rules::State& now) {
         const QByteArray line =
-            (request.json ? Player::jsonOf(game, now) : Player::textOf(game, now)) + '\n';
+            (request.json ? Player::jsonOf(match.game, now) : Player::textOf(match.game, now)) +
+            '\n';
         isWritten = fwrite(line.constData(), 1, size_t(line.size()), stdout) == size_t(line.size());
         return isWritten;
     });
@@ -148,15 +125,26 @@ int play(const Request& request)
                                 NotDone);
 }
 
-}  // namespace
-
-int main(int argc, char** argv)
+int playInWindow(const Request& request)
 {
-    // A reader that goes away is a failed write and not the end.
-    signal(SIGPIPE, SIG_IGN);
-    setlocale(LC_CTYPE, "");
-    QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    auto match = std::make_unique<Player::LoadedMatch>();
+    QString error;
+    if (!match->load(request.match, &error)) {
+        return complain(error, NotDone);
+    }
+    Player::PlayWindow window(std::move(match));
+    window.begin();
+    return QGuiApplication::exec();
+}
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+int run(const QStringList& arguments)
+{
     if (arguments.contains(QLatin1String("--help")) || arguments.contains(QLatin1String("-h"))) {
         fputs(usage, stdout);
         return Fine;
@@ -172,5 +160,34 @@ int main(int argc, char** argv)
         fputs(usage, stderr);
         return WrongUsage;
     }
-    return play(request);
+    if (!request.script.isEmpty()) {
+        return playScript(request);
+    }
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        return complain(
+            QStringLiteral("There is no display for the window. '--script' needs none."), NotDone);
+    }
+    return playInWindow(request);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    // A reader that goes away is a failed write and not the end.
+    signal(SIGPIPE, SIG_IGN);
+    setlocale(LC_CTYPE, "");
+    QCoreApplication::setApplicationName(QStringLiteral("zorv-player"));
+    const bool needsWindow = std::none_of(argv + 1, argv + argc, [](const char* argument) {
+        return strcmp(argument, "--script") == 0 || strcmp(argument, "--help") == 0;
+    });
+    std::unique_ptr<QCoreApplication> application;
+    if (needsWindow && hasDisplay()) {
+        application = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    Operations::HostInterface host;
+    Operations::startHost(&host);
+    return run(QCoreApplication::arguments().mid(1));
 }

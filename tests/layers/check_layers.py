@@ -39,8 +39,10 @@ LAYERS = {
     "src/editors/sound/": 8,
     "host/family/": 19,
     "player/rules/": 20,
+    "player/picture/": 21,
     "player/script/": 21,
-    "player/main.cpp": 22,
+    "player/window/": 22,
+    "player/main.cpp": 23,
     "host/operations/": 21,
     "host/cli/": 22,
     "host/app/look/": 23,
@@ -86,7 +88,7 @@ EXCEPTIONS = {
 WIDGET_FREE_HEADERS = ["src/text/", "src/core/", "src/code/", "src/cache/", "src/media/"]
 WIDGET_HEADERS_ALLOWED = ["src/core/dialogs/"]
 WIDGET_FREE_FILES = ["host/family/", "host/operations/", "host/cli/", "player/rules/",
-                     "player/script/"]
+                     "player/script/", "player/picture/", "player/window/"]
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"]+)[>"]', re.MULTILINE)
 

@@ -1,0 +1,86 @@
+#include "picture/loadedmatch.h"
+
+#include "family/project/familyparentproject.h"
+#include "family/project/filereference.h"
+#include "rules/codetext.h"
+#include "rules/gamereader.h"
+
+#include <QFileInfo>
+
+namespace Player {
+
+using Family::FileKind;
+using Rules::CodeText;
+using Rules::GameReader;
+
+namespace {
+
+/// Where the files have to lie that a main file names.
+QString rootOf(const QString& game, const QString& mainFile)
+{
+    return Family::staysInside(game, mainFile) ? game
+                                               : Family::FamilyParentProject::folderOf(mainFile);
+}
+
+}  // namespace
+
+bool LoadedMatch::load(const MatchRequest& request, QString* error)
+{
+    notes.clear();
+    if (!QFileInfo(request.game).isDir()) {
+        *error = tr("There is no folder '%1'.").arg(request.game);
+        return false;
+    }
+    if (!loadFighter(request, 0, error) || !loadFighter(request, 1, error) ||
+        !loadStage(request, error)) {
+        return false;
+    }
+    game.hasIntro = request.hasIntro;
+    Rules::completeGame(&game);
+    notes.removeDuplicates();
+    return true;
+}
+
+bool LoadedMatch::loadFighter(const MatchRequest& request, int index, QString* error)
+{
+    const QString name = request.characters.value(index, request.characters.value(0));
+    const QString file =
+        Rules::findMainFile(request.game, QStringLiteral(".character"), name, index, error);
+    if (file.isEmpty()) {
+        return false;
+    }
+    const QString root = rootOf(request.game, file);
+    CodeText text(root, file, FileKind::Character);
+    if (!text.read(error)) {
+        return false;
+    }
+    GameReader reader(root);
+    reader.takeFighter(text, &game.fighters[index]);
+    looks[index] = fighterLook(text);
+    notes += reader.notes();
+    return true;
+}
+
+bool LoadedMatch::loadStage(const MatchRequest& request, QString* error)
+{
+    game.stage = {};
+    stage = {};
+    const QString file =
+        Rules::findMainFile(request.game, QStringLiteral(".stage"), request.stage, 0, error);
+    if (file.isEmpty() && request.stage.isEmpty()) {
+        error->clear();
+        return true;
+    }
+    const QString root = rootOf(request.game, file);
+    CodeText text(root, file, FileKind::Stage);
+    if (file.isEmpty() || !text.read(error)) {
+        return false;
+    }
+    GameReader reader(root);
+    reader.takeStage(text, &game.stage);
+    stage = stageLook(text);
+    notes += reader.notes();
+    return true;
+}
+
+}  // namespace Player

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "picture/look.h"
+
+#include <QCoreApplication>
+
+namespace Player {
+
+/// Who plays where, by names as `Rules::findMainFile()` takes them; empty ones are chosen.
+struct MatchRequest
+{
+    QString game;  ///< the folder, from which comes what has no path
+    QStringList characters;
+    QString stage;
+    bool hasIntro = true;
+};
+
+/// All that a match is made of.
+struct LoadedMatch
+{
+    Q_DECLARE_TR_FUNCTIONS(Player::LoadedMatch)
+
+public:
+    Rules::Game game;
+    FighterLook looks[2];
+    StageLook stage;
+    QStringList notes;  ///< what was passed over, a line each for the person
+
+    /// A game without a stage is played on a bare one. Files outside of the game, such as the
+    /// copies that an editor makes, have their own folder around them. False, with `error`, if a
+    /// main file cannot be read.
+    bool load(const MatchRequest& request, QString* error);
+
+private:
+    bool loadFighter(const MatchRequest& request, int index, QString* error);
+    bool loadStage(const MatchRequest& request, QString* error);
+};
+
+}  // namespace Player

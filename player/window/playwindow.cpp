@@ -1,0 +1,204 @@
+#include "window/playwindow.h"
+
+#include "family/grammar/motion.h"
+#include "picture/scene.h"
+#include "rules/tick.h"
+
+#include <zorv/code/codecs/filetext.h>
+#include <zorv/core/filesystemarchive.h>
+
+#include <QFile>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace Player {
+
+namespace {
+
+constexpr int NotesTicks = 10 * SteadyClock::TicksASecond;
+constexpr QSize UsualSize(1280, 720);
+
+/// Opaque as it is: so it is copied without a look at the alpha of each pixel.
+QImage asOpaque(const QImage& image)
+{
+    return QImage(image.constBits(), image.width(), image.height(), image.bytesPerLine(),
+                  QImage::Format_RGB32);
+}
+
+}  // namespace
+
+PlayWindow::PlayWindow(std::unique_ptr<LoadedMatch> match)
+    : m_match(std::move(match)), m_notesLeft(NotesTicks)
+{
+    m_scene = std::make_unique<Scene>(m_match->game, m_match->looks, m_match->stage);
+    readKeys();
+    beginMatch();
+    resize(UsualSize);
+    setMinimumSize({320, 180});
+    setTitle(
+        tr("%1 against %2").arg(m_match->game.fighters[0].name, m_match->game.fighters[1].name));
+    connect(&m_clock, &SteadyClock::ticked, this, &PlayWindow::goOn);
+}
+
+PlayWindow::~PlayWindow() = default;
+
+void PlayWindow::begin()
+{
+    show();
+    m_clock.start();
+}
+
+void PlayWindow::readKeys()
+{
+    Zorv::FileText text;
+    QString error;
+    if (QFile::exists(Keymap::fileName()) &&
+        text.read(*Zorv::FileSystemArchive::instance(), Keymap::fileName(), -1, &error)) {
+        m_keys.read(text.text);
+    }
+    m_match->notes += m_keys.notes();
+    if (!error.isEmpty()) {
+        m_match->notes.append(error);
+    }
+}
+
+void PlayWindow::beginMatch()
+{
+    m_state = Rules::firstState(m_match->game);
+    m_scene->see(m_state);
+}
+
+void PlayWindow::goOn()
+{
+    Rules::tick(m_match->game, m_inputs, &m_state);
+    m_scene->see(m_state);
+    m_notesLeft -= m_notesLeft > 0;
+    paintNow();
+    emit ticked();
+}
+
+/// A request to paint may come later than the next tick, or together with it.
+void PlayWindow::paintNow()
+{
+    if (!isExposed()) {
+        return;
+    }
+    m_isPainted = false;
+    update();
+    QEvent request(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(this, &request);
+}
+
+/// As large as the window has room for it, without another shape.
+QRectF PlayWindow::target() const
+{
+    const QSizeF shape = m_match->stage.screen;
+    const QSizeF size = shape.scaled(QSizeF(width(), height()), Qt::KeepAspectRatio);
+    return {QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), size};
+}
+
+void PlayWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QRectF area = target();
+    const QRect inner = area.toAlignedRect();
+    painter.fillRect(QRect(0, 0, width(), inner.top()), Qt::black);
+    painter.fillRect(QRect(0, inner.bottom() + 1, width(), height()), Qt::black);
+    painter.fillRect(QRect(0, 0, inner.left(), height()), Qt::black);
+    painter.fillRect(QRect(inner.right() + 1, 0, width(), height()), Qt::black);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(inner, asOpaque(m_scene->draw(m_state)));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+
+    painter.setRenderHint(QPainter::Antialiasing);
+    const qreal scale = qMin(area.width() / Hud::Width, area.height() / Hud::Height);
+    painter.translate(area.center() - QPointF(Hud::Width, Hud::Height) * scale / 2);
+    painter.scale(scale, scale);
+    m_hud.paint(&painter, m_match->game, m_state);
+    paintPages(&painter);
+    m_paintedTicks += !m_isPainted;
+    m_isPainted = true;
+}
+
+void PlayWindow::paintPages(QPainter* painter)
+{
+    if (m_notesLeft > 0) {
+        m_hud.paintNotes(painter, m_match->notes + m_scene->notes());
+    }
+    if (!m_isHelpShown) {
+        return;
+    }
+    QStringList lines;
+    for (int i = 0; i < Keymap::SignCount; ++i) {
+        lines.append(QStringLiteral("%1\t%2      %3")
+                         .arg(QLatin1String(Keymap::signs()[i].name), m_keys.keyName(0, i),
+                              m_keys.keyName(1, i)));
+    }
+    lines += {QString(),
+              tr("F1\tthese keys"),
+              tr("F2\twhat is wrong with the files"),
+              tr("F8, F9\tanother costume"),
+              tr("F11\tthe whole screen"),
+              tr("Esc\tthe end"),
+              QString(),
+              tr("The keys can be others: %1").arg(Keymap::fileName())};
+    m_hud.paintPage(painter, tr("Keys"), lines);
+}
+
+bool PlayWindow::takeWindowKey(int key)
+{
+    switch (key) {
+    case Qt::Key_F1:
+        m_isHelpShown = !m_isHelpShown;
+        return true;
+    case Qt::Key_F2:
+        m_notesLeft = NotesTicks;
+        return true;
+    case Qt::Key_F8:
+    case Qt::Key_F9:
+        m_scene->fighter(key - Qt::Key_F8).wearNext();
+        return true;
+    case Qt::Key_F11:
+        visibility() == FullScreen ? showNormal() : showFullScreen();
+        return true;
+    case Qt::Key_Escape:
+        close();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void PlayWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->isAutoRepeat() || takeWindowKey(event->key())) {
+        return;
+    }
+    int player = 0;
+    quint8 bit = 0;
+    if (!m_keys.find(event->key(), &player, &bit)) {
+        return;
+    }
+    m_inputs.signs[player] |= bit;
+    const bool isButton = (bit & Family::MotionStep::Buttons) != 0;
+    if (isButton && m_state.phase == Rules::Phase::MatchOver) {
+        beginMatch();
+    }
+}
+
+void PlayWindow::keyReleaseEvent(QKeyEvent* event)
+{
+    int player = 0;
+    quint8 bit = 0;
+    if (!event->isAutoRepeat() && m_keys.find(event->key(), &player, &bit)) {
+        m_inputs.signs[player] &= quint8(~bit);
+    }
+}
+
+/// What is let go elsewhere is not heard of.
+void PlayWindow::focusOutEvent(QFocusEvent*)
+{
+    m_inputs = {};
+}
+
+}  // namespace Player

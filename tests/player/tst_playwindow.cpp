@@ -1,0 +1,123 @@
+// The window of the player, by its keys.
+
+#include "operations/hostinterface.h"
+#include "support/testtable.h"
+#include "window/keymap.h"
+#include "window/playwindow.h"
+
+#include <QScreen>
+#include <QtTest>
+
+using namespace Player;
+
+class TestPlayWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void keysMoveBoth();
+    void everyTickIsPainted();
+    void whatIsHeldEndsWithTheFocus();
+    void keymap_data();
+    void keymap();
+
+private:
+    /// Until so many ticks are over.
+    void wait(int ticks) const
+    {
+        const int until = m_window->state().tick + ticks;
+        QTRY_VERIFY_WITH_TIMEOUT(m_window->state().tick >= until, 20000);
+    }
+
+    int place(int fighter) const { return m_window->state().fighters[fighter].x; }
+
+    Operations::HostInterface m_host;
+    std::unique_ptr<PlayWindow> m_window;
+};
+
+void TestPlayWindow::initTestCase()
+{
+    Operations::startHost(&m_host);
+}
+
+void TestPlayWindow::init()
+{
+    m_window.reset();
+    auto match = std::make_unique<LoadedMatch>();
+    QString error;
+    QVERIFY(match->load({ZORV_SAMPLES "/arena", {"maren", "iwao"}, {}, false}, &error));
+    m_window = std::make_unique<PlayWindow>(std::move(match));
+    m_window->begin();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TestPlayWindow::keysMoveBoth()
+{
+    const int first = place(0);
+    const int second = place(1);
+    QTest::keyPress(m_window.get(), Qt::Key_D);
+    QTest::keyPress(m_window.get(), Qt::Key_Right);
+    wait(10);
+    QTest::keyRelease(m_window.get(), Qt::Key_D);
+    QTest::keyRelease(m_window.get(), Qt::Key_Right);
+    QVERIFY(place(0) > first);
+    QVERIFY(place(1) > second);
+    wait(20);
+    QTest::keyPress(m_window.get(), Qt::Key_F);
+    wait(3);
+    QTest::keyRelease(m_window.get(), Qt::Key_F);
+    QCOMPARE(m_window->state().fighters[0].action, Rules::Action::Move);
+}
+
+void TestPlayWindow::everyTickIsPainted()
+{
+    const int ticks = m_window->state().tick;
+    const int painted = m_window->paintedTicks();
+    wait(60);
+    QCOMPARE(m_window->paintedTicks() - painted, m_window->state().tick - ticks);
+    const QImage shown = m_window->screen()->grabWindow(m_window->winId()).toImage();
+    QVERIFY(shown.pixel(shown.width() / 2, shown.height() - 30) != qRgb(0, 0, 0));
+}
+
+void TestPlayWindow::whatIsHeldEndsWithTheFocus()
+{
+    QTest::keyPress(m_window.get(), Qt::Key_A);
+    wait(2);
+    QFocusEvent away(QEvent::FocusOut);
+    QCoreApplication::sendEvent(m_window.get(), &away);
+    wait(20);
+    QCOMPARE(m_window->state().fighters[0].action, Rules::Action::Stand);
+}
+
+void TestPlayWindow::keymap_data()
+{
+    columns<QString, int, int, int>("text", "key", "player", "notes");
+    row("usual", QString(), int(Qt::Key_F), 0, 0);
+    row("another key", QString("2 light = Ins # x"), int(Qt::Key_Insert), 1, 0);
+    row("taken from the other", QString("2 light = F"), int(Qt::Key_F), 1, 0);
+    row("the one before has no meaning", QString("1 light = Z"), int(Qt::Key_F), -1, 0);
+    row("unknown sign", QString("1 lite = Z"), int(Qt::Key_Z), -1, 1);
+    row("unknown key", QString("1 light = Zz\n1 light = Ctrl+A"), int(Qt::Key_F), 0, 2);
+    row("no player", QString("3 light = Z\n= Z\nlight"), int(Qt::Key_Z), -1, 3);
+}
+
+void TestPlayWindow::keymap()
+{
+    const auto [text, key, player, notes] = fetched<QString, int, int, int>();
+    Keymap keys;
+    keys.read(text);
+    QCOMPARE(keys.notes().size(), notes);
+    // What is written is read the same.
+    Keymap again;
+    again.read(keys.text());
+    int found = -1;
+    quint8 bit = 0;
+    again.find(key, &found, &bit);
+    QCOMPARE(found, player);
+    QCOMPARE(again.text(), keys.text());
+}
+
+QTEST_MAIN(TestPlayWindow)
+#include "tst_playwindow.moc"
