@@ -4903,6 +4903,60 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Operations::SoundEdits</name>
+    <message>
+        <source>it is silent</source>
+        <translation>er ist still</translation>
+    </message>
+    <message>
+        <source>it is too short: a loudness takes 0.4 seconds</source>
+        <translation>er ist zu kurz: eine Lautheit braucht 0,4 Sekunden</translation>
+    </message>
+    <message>
+        <source>it reaches %1 LUFS: louder, its peaks would be above %2 dB</source>
+        <translation>er erreicht %1 LUFS: lauter lägen seine Spitzen über %2 dB</translation>
+    </message>
+    <message>
+        <source>it is broken</source>
+        <translation>er ist beschädigt</translation>
+    </message>
+    <message>
+        <source>Sound %1 stays as it is: %2.</source>
+        <translation>Klang %1 bleibt, wie er ist: %2.</translation>
+    </message>
+    <message>
+        <source>Sound %1: %2.</source>
+        <translation>Klang %1: %2.</translation>
+    </message>
+    <message>
+        <source>There is no such sound.</source>
+        <translation>Es gibt keinen solchen Klang.</translation>
+    </message>
+    <message>
+        <source>it has no such part, and takes %1 seconds</source>
+        <translation>er hat keinen solchen Teil und dauert %1 Sekunden</translation>
+    </message>
+    <message>
+        <source>it cannot be measured</source>
+        <translation>er lässt sich nicht messen</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::SoundLoudness</name>
+    <message>
+        <source>too short</source>
+        <translation>zu kurz</translation>
+    </message>
+    <message>
+        <source>silent</source>
+        <translation>still</translation>
+    </message>
+    <message>
+        <source>not to be measured</source>
+        <translation>nicht messbar</translation>
+    </message>
+</context>
+<context>
     <name>Operations::SoundWork</name>
     <message>
         <source>Sound %1 is broken.</source>

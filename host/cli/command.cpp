@@ -251,6 +251,24 @@ constexpr Command table[] = {
      "Print the form of WAV files.",
      "A line for each, with a tab between its name, channels, bits a sample, frames a second,\n"
      "frames and seconds."},
+    {"sound resample", "FILE", 1, 1, Select | Rate | Bits | Channels | DryRun | Json, resampleSounds,
+     "Give the sounds of a sound file another sample rate, bits and channels.",
+     "What is not named stays. A line for each sound that changes, as 'sound list' prints it then.\n"
+     "Several channels become another number as their mean; what is too loud for 8 bits is cut off."},
+    {"sound trim", "FILE", 1, 1, Select | From | To | Silence | DryRun | Json, trimSounds,
+     "Keep a part of the sounds of a sound file, or cut off silence at their ends.",
+     "With --from or --to all of that part stays, unless --silence is given too. A line for each\n"
+     "sound that changes, as 'sound list' prints it then."},
+    {"sound normalize", "FILE", 1, 1, Select | Peak | Loudness | DryRun | Json, normalizeSounds,
+     "Make the sounds of a sound file equally loud.",
+     "All get the same peak, or the same loudness as far as none of their peaks goes beyond --peak.\n"
+     "A line for each sound that changes, with a tab between its place, identifier and by how many\n"
+     "decibels it is louder. A sound below 0.4 seconds is too short for a loudness, and stays."},
+    {"sound loudness", "FILE...", 1, Command::Any, Select | Lenient | Json, tellLoudness,
+     "Print how loud sounds are.",
+     "FILE is a sound file or a WAV file. A line for each sound, with a tab between its file,\n"
+     "identifier ('-' for a WAV file), sample peak and true peak in decibels, and loudness in LUFS\n"
+     "by EBU R 128, or 'too short' below 0.4 seconds."},
     {"completer", "", 0, 0, NoOptions, completerCommand,
      "Print the words that the editor completes.",
      "They are groups, sub-groups and choices of the grammar, as the file 'completer.xml' of the\n"

@@ -82,6 +82,10 @@ int listSounds(const Invocation& invocation, Output& output);
 int exportSounds(const Invocation& invocation, Output& output);
 int importSounds(const Invocation& invocation, Output& output);
 int tellOfSounds(const Invocation& invocation, Output& output);
+int resampleSounds(const Invocation& invocation, Output& output);
+int trimSounds(const Invocation& invocation, Output& output);
+int normalizeSounds(const Invocation& invocation, Output& output);
+int tellLoudness(const Invocation& invocation, Output& output);
 int completerCommand(const Invocation& invocation, Output& output);
 int helpCommand(const Invocation& invocation, Output& output);
 

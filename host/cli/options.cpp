@@ -18,6 +18,10 @@ const int MaxSide = 32767;
 const int MaxGroup = 65535;
 const int MaxFactor = 1000;
 const int MaxFrame = 1000000;
+const int MaxRate = 384000;
+const int MaxChannels = 8;
+const int MaxSeconds = 100000;
+const int LeastLevel = -120;
 
 QString tr(const char* text)
 {
@@ -141,6 +145,12 @@ QString takeSpace(const QString& text, Invocation& invocation)
     return index >= 0 ? QString() : expected(QT_TRANSLATE_NOOP("Cli", "rgb, hsv or oklab"), text);
 }
 
+QString takeBits(const QString& text, Invocation& invocation)
+{
+    const bool isKnown = takeNumber(text, 8, 32, &invocation.bits) && invocation.bits % 8 == 0;
+    return isKnown ? QString() : expected(QT_TRANSLATE_NOOP("Cli", "8, 16, 24 or 32 bits"), text);
+}
+
 QString takePlace(const QString& text, Invocation& invocation)
 {
     invocation.output.place = text;
@@ -166,6 +176,17 @@ template <int Invocation::*member, int least, int most>
 QString takeInt(const QString& text, Invocation& invocation)
 {
     return takeNumber(text, least, most, &(invocation.*member))
+               ? QString()
+               : tr("Expected a number from %1 to %2; found '%3'.")
+                     .arg(QString::number(least), QString::number(most), text);
+}
+
+template <double Invocation::*member, int least, int most>
+QString takeDouble(const QString& text, Invocation& invocation)
+{
+    bool isNumber = false;
+    invocation.*member = text.toDouble(&isNumber);
+    return isNumber && invocation.*member >= least && invocation.*member <= most
                ? QString()
                : tr("Expected a number from %1 to %2; found '%3'.")
                      .arg(QString::number(least), QString::number(most), text);
@@ -263,6 +284,22 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "only the animations of this identifier")},
     {Lenient, "--lenient", nullptr, setFlag<&Invocation::isLenient>,
      QT_TRANSLATE_NOOP("Cli", "all samples that are there, whatever the sizes in the file say")},
+    {Rate, "--rate", "N", takeInt<&Invocation::rate, 1, MaxRate>,
+     QT_TRANSLATE_NOOP("Cli", "frames a second")},
+    {Bits, "--bits", "N", takeBits,
+     QT_TRANSLATE_NOOP("Cli", "bits a sample: 8, 16, 24 or 32")},
+    {Channels, "--channels", "N", takeInt<&Invocation::channels, 1, MaxChannels>,
+     QT_TRANSLATE_NOOP("Cli", "1 for their mean, 2 for stereo, up to 8")},
+    {From, "--from", "SECONDS", takeDouble<&Invocation::from, 0, MaxSeconds>,
+     QT_TRANSLATE_NOOP("Cli", "where the part begins; the start without it")},
+    {To, "--to", "SECONDS", takeDouble<&Invocation::to, 0, MaxSeconds>,
+     QT_TRANSLATE_NOOP("Cli", "where the part ends; the end without it")},
+    {Silence, "--silence", "DB", takeDouble<&Invocation::silence, LeastLevel, 0>,
+     QT_TRANSLATE_NOOP("Cli", "what is no louder goes at both ends; -60 without it")},
+    {Peak, "--peak", "DB", takeDouble<&Invocation::peak, LeastLevel, 0>,
+     QT_TRANSLATE_NOOP("Cli", "the greatest value; 0 without it, as loud as can be")},
+    {Loudness, "--loudness", "LUFS", takeDouble<&Invocation::loudness, LeastLevel, 0>,
+     QT_TRANSLATE_NOOP("Cli", "the loudness by EBU R 128, as far as the peak allows it")},
     {LeaveComments, "--leave-comments", nullptr, setFlag<&Invocation::leavesComments>,
      QT_TRANSLATE_NOOP("Cli", "comments above an animation stay where they are")},
     {Instances, "--instances", nullptr, setFlag<&Invocation::hasInstances>,

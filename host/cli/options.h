@@ -62,6 +62,16 @@ struct Invocation
     bool skips = false;
     bool bringsSprites = false;
     QString animation;  ///< an identifier; null for all
+    int rate = 0;       ///< of sounds; 0 if none was named, and so the next two
+    int bits = 0;
+    int channels = 0;
+    double from = -1;  ///< seconds; negative if none were named
+    double to = -1;
+    double silence = None;   ///< decibels
+    double peak = None;      ///< decibels
+    double loudness = None;  ///< LUFS
+
+    static constexpr double None = 1;  ///< levels are below 0
 };
 
 /// The options of all commands. A command names those that it takes as flags.
@@ -113,7 +123,15 @@ enum Option : quint64 {
     Slots = quint64(1) << 43,
     Descending = quint64(1) << 44,
     Costumes = quint64(1) << 45,
-    Space = quint64(1) << 46
+    Space = quint64(1) << 46,
+    Rate = quint64(1) << 47,
+    Bits = quint64(1) << 48,
+    Channels = quint64(1) << 49,
+    From = quint64(1) << 50,
+    To = quint64(1) << 51,
+    Silence = quint64(1) << 52,
+    Peak = quint64(1) << 53,
+    Loudness = quint64(1) << 54
 };
 
 /// One option: a row of the table.

@@ -133,6 +133,30 @@ SoundSample mixSounds(const SoundSample& sound, const SoundSample& other, int at
     return result;
 }
 
+SoundRange audiblePart(const SoundSample& sound, double level)
+{
+    const int frames = wholeFramesOf(sound, sound.data);
+    const qint64 values = qint64(frames) * sound.channels;
+    qint64 first = values;
+    qint64 last = -1;
+    withSampleBytes(sound.bits, [&](auto bytes) {
+        constexpr int Size = decltype(bytes)::value;
+        const char* data = sound.data.constData();
+        const auto isAudible = [=](qint64 i) {
+            return std::abs(double(pcmValue<Size>(data + i * Size))) > level * mostPcmValue<Size>();
+        };
+        for (first = 0; first < values && !isAudible(first); ++first) {
+        }
+        for (last = values - 1; last > first && !isAudible(last); --last) {
+        }
+    });
+    if (first >= values || sound.channels == 0) {
+        return {};
+    }
+    const int begin = int(first / sound.channels);
+    return {begin, int(last / sound.channels) - begin + 1};
+}
+
 double peakOf(const SoundSample& sound, SoundRange range)
 {
     double full = 1;

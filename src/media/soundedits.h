@@ -47,6 +47,10 @@ ZORV_EXPORT SoundSample normalizeSound(const SoundSample& sound, SoundRange rang
 /// result would be too long.
 ZORV_EXPORT SoundSample mixSounds(const SoundSample& sound, const SoundSample& other, int at);
 
+/// The part from the first frame to the last that has a value above a level, 0 to 1; empty for
+/// none.
+ZORV_EXPORT SoundRange audiblePart(const SoundSample& sound, double level);
+
 /// The greatest value of a part, 0 to 1.
 ZORV_EXPORT double peakOf(const SoundSample& sound, SoundRange range);
 /// @}
