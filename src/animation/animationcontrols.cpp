@@ -1,8 +1,4 @@
 #include "animation/animationeditor_p.h"
-#include "animation/animationtexts_p.h"
-#include "core/interface.h"
-#include "editors/framework/toolbuttoncontrol.h"
-#include "editors/framework/trwidgetcontrol.h"
 #include "text/zorvtranslator.h"
 
 #include <QAbstractSpinBox>
@@ -13,11 +9,9 @@ namespace Zorv {
 
 namespace {
 
+using namespace ToolKind;
+
 const char* const areas[] = {"animations", nullptr};
-
-enum Kind { Action, CheckAction, Slider, Label, Spin, Real, Combo, Check };
-
-constexpr unsigned NoText = ~0U;
 
 const char* const always = nullptr;
 const char* const animation = SIGNAL(enabled(bool));
@@ -26,18 +20,8 @@ const char* const frameNC = SIGNAL(frameEnabledNC(bool));
 const char* const frameExtra = SIGNAL(frameEnabledExtra(bool));
 const char* const box = SIGNAL(boxEnabled(bool));
 
-struct Tool
-{
-    const char* name;
-    Kind kind;
-    unsigned textId;
-    const char* enableSignal;
-    const char* slot;
-    const char* setSignal;
-};
-
 // clang-format off
-const Tool tools[] = {
+const EditorTool tools[] = {
     {"anim_editcode",            CheckAction, 46, always,    SLOT(editCode(bool)),        nullptr},
     {"anim_code",                Action,      50, animation, SLOT(editAnimCode()),        nullptr},
     {"anim_add",                 Action,      47, always,    SLOT(add()),                 nullptr},
@@ -109,66 +93,16 @@ const Tool tools[] = {
 /// The entries of the list of flips.
 constexpr unsigned flipTexts[] = {79, 80, 81, 82};
 
-WidgetControl::Kind widgetKind(Kind kind)
-{
-    switch (kind) {
-    case Slider:
-        return WidgetControl::Slider;
-    case Label:
-        return WidgetControl::Label;
-    case Spin:
-        return WidgetControl::SpinEdit;
-    case Real:
-        return WidgetControl::FloatEdit;
-    case Combo:
-        return WidgetControl::ComboBox;
-    default:
-        return WidgetControl::CheckBox;
-    }
-}
-
-QObject* publishWidget(Interface* host, const Tool& tool, QObject* receiver)
-{
-    const QString name = QString::fromLatin1(tool.name);
-    const WidgetControl::Kind kind = widgetKind(tool.kind);
-    if (tool.textId == NoText) {
-        WidgetControl control(kind, 0, receiver, tool.slot, tool.setSignal, tool.enableSignal);
-        control.setAreas(areas);
-        return host->addControl(name, control);
-    }
-    trWidgetControl control(kind, 0, AnimationTexts::of(tool.textId), tool.textId, receiver,
-                            tool.slot, tool.setSignal, tool.enableSignal);
-    control.setAreas(areas);
-    return host->addControl(name, control);
-}
-
 }  // namespace
 
-/// A host without a window makes no action, and what is kept in it is needed all the same.
 void AnimationEditorPrivate::publish()
 {
-    for (const Tool& tool : tools) {
-        const QString name = QString::fromLatin1(tool.name);
-        if (tool.kind != Action && tool.kind != CheckAction) {
-            widgets.insert(name, qobject_cast<QWidget*>(publishWidget(host, tool, this)));
-            continue;
-        }
-        QAction* made =
-            host->createAction(areas, name, AnimationTexts::of(tool.textId), tool.textId, nullptr,
-                               this, tool.slot, tool.enableSignal, nullptr);
-        const bool isHosts = made;
-        made = made ? made : new QAction(this);
-        made->setCheckable(tool.kind == CheckAction);
-        if (isHosts) {
-            host->addControl(name, ToolButtonControl(made));
-        }
-        actions.insert(name, made);
-    }
+    published.publish(tools, areas);
     setChecked("anim_editcode", true);
     setChecked("anim_stop", true);
-    for (const QPointer<QWidget>& each : qAsConst(widgets)) {
+    for (const EditorTool& tool : tools) {
         // What is typed is one edit, when it is entered.
-        if (auto* field = qobject_cast<QAbstractSpinBox*>(each)) {
+        if (auto* field = widget<QAbstractSpinBox>(tool.name)) {
             field->setProperty("keyboardTracking", false);
         }
     }
@@ -185,11 +119,6 @@ void AnimationEditorPrivate::retranslate()
         }
         flips->setCurrentIndex(row);
     }
-}
-
-QAction* AnimationEditorPrivate::action(const char* name) const
-{
-    return actions.value(QLatin1String(name));
 }
 
 void AnimationEditorPrivate::setChecked(const char* name, bool isChecked)

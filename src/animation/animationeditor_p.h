@@ -4,20 +4,20 @@
 #include "animation/animationcodewindow_p.h"
 #include "animation/animationeditor.h"
 #include "animation/animationstrip_p.h"
+#include "animation/animationtexts_p.h"
 #include "animation/edits/boxedits.h"
 #include "animation/followedanimation.h"
 #include "animation/playstep.h"
 #include "animation/timeline/timeline.h"
 #include "cache/spriteprovider.h"
+#include "editors/framework/editortools_p.h"
 
 #include <QElapsedTimer>
-#include <QHash>
 #include <QPointer>
 
 class AnimAlign;
 class QAction;
 class QTimer;
-class QWidget;
 
 namespace Zorv {
 
@@ -75,12 +75,12 @@ public:
     // animationcontrols.cpp
     void publish();
     void retranslate();
-    QAction* action(const char* name) const;
+    QAction* action(const char* name) const { return published.action(name); }
     void setChecked(const char* name, bool isChecked);
     template <class Widget>
     Widget* widget(const char* name) const
     {
-        return qobject_cast<Widget*>(widgets.value(QLatin1String(name)));
+        return published.widget<Widget>(name);
     }
 
     // animationeditor.cpp
@@ -255,8 +255,7 @@ public:
     bool isRepeated = false;  // what ends is played again
     QTimer* factsTimer = nullptr;
 
-    QHash<QString, QPointer<QAction>> actions;
-    QHash<QString, QPointer<QWidget>> widgets;
+    EditorTools published{this, AnimationTexts::instance()};
     QPointer<QAction> editorAction;
 
     Enabled isEnabled;

@@ -1,17 +1,11 @@
 #include "animation/animationtexts_p.h"
 
-#include "text/zorvtranslator.h"
-
 namespace Zorv {
 
 namespace {
 
 /// In the order of the numbers; null for no tool tip.
-const struct
-{
-    const char* label;
-    const char* toolTip;
-} texts[AnimationTexts::End - AnimationTexts::First] = {
+const TextTable::Row rows[AnimationTexts::End - AnimationTexts::First] = {
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation:"), nullptr},
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation:"),
      QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation of the onion skin")},
@@ -69,32 +63,14 @@ const struct
                                                "and how far these reach in front of the axis")},
 };
 
-QString translated(const char* text)
-{
-    return text ? AnimationTexts::tr(text) : QString();
-}
-
 }  // namespace
+
+AnimationTexts::AnimationTexts() : TextTable("Zorv::AnimationTexts", First, rows) {}
 
 AnimationTexts* AnimationTexts::instance()
 {
     static AnimationTexts translator;
     return &translator;
-}
-
-Translator* AnimationTexts::of(unsigned int id)
-{
-    return id < First ? static_cast<Translator*>(ZorvTranslator::instance()) : instance();
-}
-
-QString AnimationTexts::trText(unsigned int id) const
-{
-    return id >= First && id < End ? translated(texts[id - First].label) : QString();
-}
-
-QString AnimationTexts::trToolTip(unsigned int id) const
-{
-    return id >= First && id < End ? translated(texts[id - First].toolTip) : QString();
 }
 
 }  // namespace Zorv

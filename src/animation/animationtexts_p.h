@@ -1,18 +1,13 @@
 #pragma once
 
-#include "text/translator.h"
-
-#include <QCoreApplication>
+#include "text/texttable_p.h"
 
 namespace Zorv {
 
 /// The texts of the tools of the animation editor that are not among those of `ZorvTranslator`.
-class AnimationTexts : public Translator
+class AnimationTexts : public TextTable
 {
-    Q_DECLARE_TR_FUNCTIONS(Zorv::AnimationTexts)
-
 public:
-    /// Beside the numbers of `ZorvTranslator`, so that a number tells whose it is.
     enum Id : unsigned {
         First = 1000,
         Animation = First,
@@ -38,13 +33,10 @@ public:
         End
     };
 
-    /// The translator that has a number.
-    static Translator* of(unsigned int id);
-
     static AnimationTexts* instance();
 
-    QString trText(unsigned int id) const override;
-    QString trToolTip(unsigned int id) const override;
+private:
+    AnimationTexts();
 };
 
 }  // namespace Zorv

@@ -14,7 +14,6 @@
 #include "image/canvas/imagelayers.h"
 #include "image/canvas/imageundostack.h"
 #include "image/spriteeditor_p.h"
-#include "image/spritetexts_p.h"
 #include "image/tools/imagetool.h"
 #include "text/zorvtranslator.h"
 

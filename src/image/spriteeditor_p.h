@@ -2,15 +2,16 @@
 
 #include "cache/spritenumber.h"
 #include "core/fileinput.h"
+#include "editors/framework/editortools_p.h"
 #include "editors/palette/colorpalette.h"
 #include "editors/palette/paletteeditor.h"
 #include "image/canvas/canvascontent.h"
 #include "image/dialogs/imginfodlg.h"
 #include "image/imagerenderer.h"
 #include "image/spriteeditor.h"
+#include "image/spritetexts_p.h"
 #include "image/spriteworkspace.h"
 
-#include <QHash>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QVariant>
@@ -71,7 +72,7 @@ public:
     template <class Widget>
     Widget* widget(const char* name) const
     {
-        return qobject_cast<Widget*>(widgets.value(QLatin1String(name)));
+        return published.widget<Widget>(name);
     }
 
     // spriteeditorsprite.cpp
@@ -191,8 +192,7 @@ public:
     int selGuard = 0;             // the code itself changes the position
     SpriteNumber followed;        // of the frame that was told last
 
-    QHash<QString, QPointer<QAction>> actions;
-    QHash<QString, QPointer<QWidget>> widgets;
+    EditorTools published{this, SpriteTexts::instance()};
     QPointer<QAction> editorAction;
     QActionGroup* tools;
     std::unique_ptr<QMenu> layerMenu;

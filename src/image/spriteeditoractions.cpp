@@ -37,14 +37,14 @@ QString textOf(unsigned id)
 
 bool SpriteEditorPrivate::isOn(const char* name) const
 {
-    const QAction* action = actions.value(QLatin1String(name));
+    const QAction* action = published.action(name);
     return action && action->isChecked();
 }
 
 void SpriteEditorPrivate::restoreSwitches()
 {
     for (const auto& each : switches) {
-        actions.value(QLatin1String(each.action))
+        published.action(each.action)
             ->setChecked(host->option(QLatin1String(each.setting)).toBool());
     }
 }

@@ -1,11 +1,8 @@
 #include "core/interface.h"
-#include "editors/framework/ownwidgetcontrol.h"
 #include "editors/framework/toolbuttoncontrol.h"
-#include "editors/framework/trwidgetcontrol.h"
 #include "editors/palette/colorwidget.h"
 #include "image/canvas/imagelayers.h"
 #include "image/spriteeditor_p.h"
-#include "image/spritetexts_p.h"
 #include "image/tools/imagetool.h"
 #include "text/zorvtranslator.h"
 
@@ -21,14 +18,12 @@ namespace Zorv {
 
 namespace {
 
+using namespace ToolKind;
+
 const char* const spriteAreas[] = {"sprites", nullptr};
 const char* const stageAreas[] = {"sprites", "animations", nullptr};
 
-enum Kind { Action, CheckAction, MenuAction, Slider, Label, Combo, List };
-
-constexpr unsigned NoText = ~0U;
 constexpr int WholeOpacity = 100;
-constexpr int ListRows = 6;
 
 const char* const always = nullptr;
 const char* const onCanvas = SIGNAL(enabled(bool));
@@ -37,19 +32,8 @@ const char* const onChange = SIGNAL(saveEnabled(bool));
 const char* const onFile = SIGNAL(fileEnabled(bool));
 const char* const onSprite = SIGNAL(spriteEnabled(bool));
 
-struct Tool
-{
-    const char* name;
-    Kind kind;
-    unsigned textId;
-    const char* enableSignal;
-    const char* slot;
-    const char* setSignal;
-    const char* const* areas = spriteAreas;
-};
-
 // clang-format off
-const Tool table[] = {
+const EditorTool table[] = {
     {"spr_add",               Action,      105, onFile,    SLOT(add()),               nullptr, stageAreas},
     {"spr_delete",            Action,      123, onSprite,  SLOT(del()),               nullptr},
     {"spr_duplicate",         Action,      128, onSprite,  SLOT(duplicate()),         nullptr},
@@ -105,70 +89,18 @@ const struct
 constexpr unsigned FirstMode = 104;
 constexpr unsigned LastMode = 116;
 
-QObject* publishWidget(Interface* host, const Tool& tool, QObject* receiver)
-{
-    const QString name = QString::fromLatin1(tool.name);
-    if (tool.kind == List) {
-        WidgetControl control(WidgetControl::ListView, ListRows, receiver, tool.slot,
-                              tool.setSignal, tool.enableSignal, WidgetControl::SingleClick);
-        control.setAreas(spriteAreas);
-        return host->addControl(name, control);
-    }
-    if (tool.kind == Label) {
-        WidgetControl control(WidgetControl::Label, 0, receiver, tool.slot, tool.setSignal,
-                              tool.enableSignal);
-        control.setAreas(spriteAreas);
-        return host->addControl(name, control);
-    }
-    trWidgetControl control(tool.kind == Slider ? WidgetControl::Slider : WidgetControl::ComboBox,
-                            0, SpriteTexts::of(tool.textId), tool.textId, receiver, tool.slot,
-                            tool.setSignal, tool.enableSignal);
-    control.setAreas(spriteAreas);
-    return host->addControl(name, control);
-}
-
-/// The action of a host; one of our own where the host has no window, for what is kept in it.
-QAction* makeAction(Interface* host, const Tool& tool, QObject* receiver, bool* isHosts)
-{
-    QAction* made =
-        host->createAction(tool.areas, QString::fromLatin1(tool.name), SpriteTexts::of(tool.textId),
-                           tool.textId, nullptr, receiver, tool.slot, tool.enableSignal, nullptr);
-    *isHosts = made;
-    return made ? made : new QAction(receiver);
-}
-
-void publishOwn(Interface* host, const char* name, QWidget* widget, QObject* receiver)
-{
-    OwnWidgetControl control(widget, receiver, onCanvas);
-    control.setAreas(spriteAreas);
-    host->addControl(QString::fromLatin1(name), control);
-}
-
 }  // namespace
 
 void SpriteEditorPrivate::publish()
 {
-    for (const Tool& tool : table) {
-        const QString name = QString::fromLatin1(tool.name);
-        if (tool.kind != Action && tool.kind != CheckAction && tool.kind != MenuAction) {
-            widgets.insert(name, qobject_cast<QWidget*>(publishWidget(host, tool, this)));
-            continue;
-        }
-        bool isHosts = false;
-        QAction* made = makeAction(host, tool, this, &isHosts);
-        made->setCheckable(tool.kind == CheckAction);
-        actions.insert(name, made);
-        if (isHosts && tool.kind != MenuAction) {
-            host->addControl(name, ToolButtonControl(made));
-        }
-    }
+    published.publish(table, spriteAreas);
     imgViewOrig(false);
     restoreSwitches();
     publishTools();
     publishLayers();
-    publishOwn(host, "spr_foreground", colors->foregroundWidget(), this);
-    publishOwn(host, "spr_background", colors->backgroundWidget(), this);
-    publishOwn(host, "spr_tool_options", renderer->toolPanel(), this);
+    published.publishOwn("spr_foreground", colors->foregroundWidget(), onCanvas, spriteAreas);
+    published.publishOwn("spr_background", colors->backgroundWidget(), onCanvas, spriteAreas);
+    published.publishOwn("spr_tool_options", renderer->toolPanel(), onCanvas, spriteAreas);
     if (auto* opacity = widget<QSlider>("spr_layers_opacity")) {
         opacity->setRange(0, WholeOpacity);
         opacity->setValue(WholeOpacity);
@@ -179,17 +111,11 @@ void SpriteEditorPrivate::publishTools()
 {
     int type = 0;
     for (const auto& tool : toolTable) {
-        bool isHosts = false;
-        QAction* made =
-            makeAction(host, {tool.name, CheckAction, tool.textId, onCanvas, nullptr, nullptr},
-                       this, &isHosts);
-        made->setCheckable(true);
+        published.publish({tool.name, CheckAction, tool.textId, onCanvas, nullptr, nullptr},
+                          spriteAreas);
+        QAction* made = published.action(tool.name);
         made->setData(type++);
         tools->addAction(made);
-        actions.insert(QString::fromLatin1(tool.name), made);
-        if (isHosts) {
-            host->addControl(QString::fromLatin1(tool.name), ToolButtonControl(made));
-        }
     }
     connect(tools, &QActionGroup::triggered, this, &SpriteEditorPrivate::toolChanged);
     QAction* pen = tools->actions().at(ImageTool::PenTool);
@@ -202,11 +128,11 @@ void SpriteEditorPrivate::publishLayers()
 {
     layerMenu = std::make_unique<QMenu>();
     for (const char* name : {"spr_layer_mergevis", "spr_layer_mergeall"}) {
-        layerMenu->addAction(actions.value(QLatin1String(name)));
+        layerMenu->addAction(published.action(name));
     }
-    host->addControl(QStringLiteral("spr_layers_menu"),
-                     MenuToolButtonControl(actions.value(QStringLiteral("spr_layer_mergevis")),
-                                           layerMenu.get()));
+    host->addControl(
+        QStringLiteral("spr_layers_menu"),
+        MenuToolButtonControl(published.action("spr_layer_mergevis"), layerMenu.get()));
     auto* list = widget<QAbstractItemView>("spr_layers_list");
     if (!list) {
         return;
@@ -216,7 +142,7 @@ void SpriteEditorPrivate::publishLayers()
     list->setContextMenuPolicy(Qt::ActionsContextMenu);
     for (const char* name : {"spr_layer_add", "spr_layer_duplicate", "spr_layer_delete",
                              "spr_layer_mergevis", "spr_layer_mergeall"}) {
-        list->addAction(actions.value(QLatin1String(name)));
+        list->addAction(published.action(name));
     }
     connect(list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &SpriteEditorPrivate::layerChosen);

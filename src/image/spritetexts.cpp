@@ -1,17 +1,11 @@
 #include "image/spritetexts_p.h"
 
-#include "text/zorvtranslator.h"
-
 namespace Zorv {
 
 namespace {
 
 /// In the order of the numbers.
-const struct
-{
-    const char* label;
-    const char* toolTip;
-} texts[SpriteTexts::End - SpriteTexts::First] = {
+const TextTable::Row rows[SpriteTexts::End - SpriteTexts::First] = {
     {QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Sprite:"),
      QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "The sprite on the canvas")},
     {QT_TRANSLATE_NOOP("Zorv::SpriteTexts", "Mode:"),
@@ -62,10 +56,7 @@ const struct
 
 }  // namespace
 
-Translator* SpriteTexts::of(unsigned id)
-{
-    return id < First ? static_cast<Translator*>(ZorvTranslator::instance()) : instance();
-}
+SpriteTexts::SpriteTexts() : TextTable("Zorv::SpriteTexts", First, rows) {}
 
 SpriteTexts* SpriteTexts::instance()
 {
@@ -73,21 +64,11 @@ SpriteTexts* SpriteTexts::instance()
     return &texts;
 }
 
-QString SpriteTexts::trText(unsigned int id) const
-{
-    return id >= First && id < End ? tr(texts[id - First].label) : QString();
-}
-
-QString SpriteTexts::trToolTip(unsigned int id) const
-{
-    return id >= First && id < End ? tr(texts[id - First].toolTip) : QString();
-}
-
 QString SpriteTexts::stepTitle(const QString& title)
 {
     for (const auto& row : steps) {
         if (title == QLatin1String(row.title)) {
-            return tr(row.text);
+            return instance()->translated(row.text);
         }
     }
     return title;

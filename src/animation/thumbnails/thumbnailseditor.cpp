@@ -8,8 +8,7 @@
 #include "code/codedoc/codedocument.h"
 #include "core/interface.h"
 #include "core/project.h"
-#include "editors/framework/ownwidgetcontrol.h"
-#include "editors/framework/toolbuttoncontrol.h"
+#include "editors/framework/editortools_p.h"
 #include "image/spritesave_p.h"
 #include "text/zorvtranslator.h"
 
@@ -28,18 +27,12 @@ constexpr unsigned SaveText = 171;
 const char* const areas[] = {"anim", nullptr};
 const char* const listAreas[] = {"all", nullptr};
 
-const struct
-{
-    const char* name;
-    unsigned textId;
-    const char* slot;
-    const char* enableSignal;
-} tools[] = {
-    {"thumb_add", 167, SLOT(addSelected()), SIGNAL(addEnabled(bool))},
-    {"thumb_add_all", 168, SLOT(addAll()), SIGNAL(addAllEnabled(bool))},
-    {"thumb_new", 169, SLOT(newWithSelected()), SIGNAL(newEnabled(bool))},
-    {"thumb_new_all", 170, SLOT(newWithAll()), SIGNAL(newAllEnabled(bool))},
-    {"thumb_save", 171, SLOT(saveSelected()), SIGNAL(saveEnabled(bool))},
+const EditorTool tools[] = {
+    {"thumb_add", ToolKind::Action, 167, SIGNAL(addEnabled(bool)), SLOT(addSelected())},
+    {"thumb_add_all", ToolKind::Action, 168, SIGNAL(addAllEnabled(bool)), SLOT(addAll())},
+    {"thumb_new", ToolKind::Action, 169, SIGNAL(newEnabled(bool)), SLOT(newWithSelected())},
+    {"thumb_new_all", ToolKind::Action, 170, SIGNAL(newAllEnabled(bool)), SLOT(newWithAll())},
+    {"thumb_save", ToolKind::Action, 171, SIGNAL(saveEnabled(bool)), SLOT(saveSelected())},
 };
 
 /// In the order of the tools.
@@ -71,9 +64,12 @@ QVector<Animations*> animationsOf(const Project* project)
 class ThumbnailsEditorPrivate
 {
 public:
-    explicit ThumbnailsEditorPrivate(ThumbnailsEditor* panel) : q(panel), list(new SpriteList) {}
+    explicit ThumbnailsEditorPrivate(ThumbnailsEditor* panel)
+        : q(panel), list(new SpriteList), published(panel)
+    {
+    }
 
-    void publish(Interface* host);
+    void publish();
     ToolStates state() const;
     void tellState();
     void followRows(Sprites* sprites);
@@ -89,24 +85,16 @@ public:
     QPointer<Sprites> sprites;
     QPointer<AnimationEditor> editor;
     ToolStates told{};
-    QVector<QPointer<QAction>> actions;  ///< in the order of the tools; null for a host without
+    EditorTools published;
 };
 
-void ThumbnailsEditorPrivate::publish(Interface* host)
+void ThumbnailsEditorPrivate::publish()
 {
-    for (const auto& tool : tools) {
-        const QString name = QString::fromLatin1(tool.name);
-        QAction* action = host->createAction(areas, name, ZorvTranslator::instance(), tool.textId,
-                                             nullptr, q, tool.slot, tool.enableSignal, nullptr);
-        if (action) {
-            host->addControl(name, ToolButtonControl(action));
-            list->addAction(action);
-        }
-        actions.append(action);
+    published.publish(tools, areas);
+    for (const EditorTool& tool : tools) {
+        list->addAction(published.action(tool.name));
     }
-    OwnWidgetControl control(list, q);
-    control.setAreas(listAreas);
-    host->addControl(QStringLiteral("thumb_list"), control);
+    published.publishOwn("thumb_list", list, nullptr, listAreas);
 }
 
 ToolStates ThumbnailsEditorPrivate::state() const
@@ -175,11 +163,11 @@ ThumbnailsEditor::ThumbnailsEditor(QObject* parent)
     : ExtraEditor(parent), d(std::make_unique<ThumbnailsEditorPrivate>(this))
 {
     d->list->setUses(&d->uses);
-    d->publish(Interface::instance());
+    d->publish();
     retranslate();
     connect(d->list, &SpriteList::selectedRowsChanged, this, [this] { d->tellState(); });
     connect(d->list, &QListView::activated, this, [this](const QModelIndex& index) {
-        QAction* add = d->actions.first();
+        QAction* add = d->published.action("thumb_add");
         if (add && add->isEnabled()) {
             add->trigger();
         } else {

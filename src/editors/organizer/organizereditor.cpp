@@ -2,7 +2,7 @@
 
 #include "core/interface.h"
 #include "core/organizableobject.h"
-#include "editors/framework/toolbuttoncontrol.h"
+#include "editors/framework/editortools_p.h"
 #include "editors/framework/widgetcontrol.h"
 #include "editors/organizer/organizerrows_p.h"
 #include "text/zorvtranslator.h"
@@ -26,20 +26,14 @@ constexpr int ListRows = 10;
 
 const char* const areas[] = {"all", nullptr};
 
-const struct
-{
-    const char* name;
-    unsigned textId;
-    const char* slot;
-    const char* enableSignal;
-} tools[] = {
-    {"org_up", 159, SLOT(moveUp()), SIGNAL(upEnabled(bool))},
-    {"org_down", 160, SLOT(moveDown()), SIGNAL(downEnabled(bool))},
-    {"org_up10", 161, SLOT(moveTenUp()), SIGNAL(upEnabled(bool))},
-    {"org_down10", 162, SLOT(moveTenDown()), SIGNAL(downEnabled(bool))},
-    {"org_top", 163, SLOT(moveToTop()), SIGNAL(upEnabled(bool))},
-    {"org_bottom", 164, SLOT(moveToBottom()), SIGNAL(downEnabled(bool))},
-    {"org_auto", 165, SLOT(organize()), SIGNAL(enabled(bool))},
+const EditorTool tools[] = {
+    {"org_up", ToolKind::Action, 159, SIGNAL(upEnabled(bool)), SLOT(moveUp())},
+    {"org_down", ToolKind::Action, 160, SIGNAL(downEnabled(bool)), SLOT(moveDown())},
+    {"org_up10", ToolKind::Action, 161, SIGNAL(upEnabled(bool)), SLOT(moveTenUp())},
+    {"org_down10", ToolKind::Action, 162, SIGNAL(downEnabled(bool)), SLOT(moveTenDown())},
+    {"org_top", ToolKind::Action, 163, SIGNAL(upEnabled(bool)), SLOT(moveToTop())},
+    {"org_bottom", ToolKind::Action, 164, SIGNAL(downEnabled(bool)), SLOT(moveToBottom())},
+    {"org_auto", ToolKind::Action, 165, SIGNAL(enabled(bool)), SLOT(organize())},
 };
 
 /// Each row as far as it can go: not over the end, nor over a row that goes with it.
@@ -88,12 +82,7 @@ public:
 
 void OrganizerEditorPrivate::publish(Interface* host)
 {
-    for (const auto& tool : tools) {
-        const QString name = QString::fromLatin1(tool.name);
-        QAction* action = host->createAction(areas, name, ZorvTranslator::instance(), tool.textId,
-                                             nullptr, q, tool.slot, tool.enableSignal, nullptr);
-        host->addControl(name, ToolButtonControl(action));
-    }
+    EditorTools(q).publish(tools, areas);
     const ListViewControl list(ListRows, q, SLOT(itemDblClick(QModelIndex)),
                                WidgetControl::Reorderable);
     view = qobject_cast<QListView*>(host->addControl(QStringLiteral("org_list"), list));

@@ -95,9 +95,6 @@ signals:
     void setPosText(const QString& text);
 
 private:
-    // paletteeditorcontrols.cpp
-    void publishAction(const char* name, unsigned textId, const char* slot, bool isSwitched);
-
     // paletteeditorlist.cpp
     void addNew(int row);
     void addFiles(int row);

@@ -1,9 +1,5 @@
-#include "core/interface.h"
-#include "editors/framework/ownwidgetcontrol.h"
-#include "editors/framework/toolbuttoncontrol.h"
-#include "editors/framework/widgetcontrol.h"
+#include "editors/framework/editortools_p.h"
 #include "editors/palette/paletteeditor_p.h"
-#include "text/zorvtranslator.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -14,74 +10,47 @@ namespace Zorv {
 
 namespace {
 
+using namespace ToolKind;
+
 const char* const areas[] = {"sprites", "animations", nullptr};
 
-enum Kind { Action, Slider, Label, View };
+const char* const always = nullptr;
+const char* const onPalette = SIGNAL(enabled(bool));
 
-/// In the order in which they are published.
-const struct Tool
-{
-    const char* name;
-    Kind kind;
-    unsigned textId;
-    const char* slot;
-    bool isSwitched;  // by `enabled()`
-} tools[] = {
-    {"pal_clear", Action, 28, SLOT(clear()), false},
-    {"pal_clear_unused", Action, 29, SLOT(clearUnused()), false},
-    {"pal_add", Action, 30, SLOT(add()), false},
-    {"pal_delete", Action, 31, SLOT(del()), true},
-    {"pal_delete_duplicates", Action, 32, SLOT(delDupl()), true},
-    {"pal_open", Action, 33, SLOT(open()), true},
-    {"pal_save", Action, 34, SLOT(save()), true},
-    {"pal_remap", Action, 35, SLOT(remap()), true},
-    {"pal_undo", Action, 36, SLOT(undo()), true},
-    {"pal_redo", Action, 37, SLOT(redo()), true},
-    {"pal_switch_color", Action, 38, SLOT(switchColor()), true},
-    {"pal_set_color", Action, 39, SLOT(setColor()), true},
-    {"pal_apply_sprite", Action, 40, SLOT(setSprPal()), true},
-    {"pal_sel", Slider, 0, SLOT(selPosChanged(int)), false},
-    {"pal_sel_lb", Label, 0, nullptr, false},
-    {"pal_prev", Action, 41, SLOT(prevPal()), true},
-    {"pal_next", Action, 42, SLOT(nextPal()), true},
-    {"pal_view", View, 0, nullptr, false},
+const EditorTool table[] = {
+    {"pal_clear", Action, 28, always, SLOT(clear())},
+    {"pal_clear_unused", Action, 29, always, SLOT(clearUnused())},
+    {"pal_add", Action, 30, always, SLOT(add())},
+    {"pal_delete", Action, 31, onPalette, SLOT(del())},
+    {"pal_delete_duplicates", Action, 32, onPalette, SLOT(delDupl())},
+    {"pal_open", Action, 33, onPalette, SLOT(open())},
+    {"pal_save", Action, 34, onPalette, SLOT(save())},
+    {"pal_remap", Action, 35, onPalette, SLOT(remap())},
+    {"pal_undo", Action, 36, onPalette, SLOT(undo())},
+    {"pal_redo", Action, 37, onPalette, SLOT(redo())},
+    {"pal_switch_color", Action, 38, onPalette, SLOT(switchColor())},
+    {"pal_set_color", Action, 39, onPalette, SLOT(setColor())},
+    {"pal_apply_sprite", Action, 40, onPalette, SLOT(setSprPal())},
+    {"pal_sel", Slider, NoText, always, SLOT(selPosChanged(int)), SIGNAL(setSelPos(int))},
+    {"pal_sel_lb", Label, NoText, always, nullptr, SIGNAL(setPosText(QString))},
+    {"pal_prev", Action, 41, onPalette, SLOT(prevPal())},
+    {"pal_next", Action, 42, onPalette, SLOT(nextPal())},
 };
 
 }  // namespace
 
 void PaletteEditorPrivate::publish()
 {
-    for (const Tool& tool : tools) {
-        const QString name = QString::fromLatin1(tool.name);
+    EditorTools tools(this);
+    tools.publish(table, areas);
+    tools.publishOwn("pal_view", view, nullptr, areas);
+    slider = tools.widget<QSlider>("pal_sel");
+    for (const EditorTool& tool : table) {
         if (tool.kind == Action) {
-            publishAction(tool.name, tool.textId, tool.slot, tool.isSwitched);
-        } else if (tool.kind == View) {
-            OwnWidgetControl control(view, this);
-            control.setAreas(areas);
-            host->addControl(name, control);
-        } else {
-            const bool isSlider = tool.kind == Slider;
-            WidgetControl control(
-                isSlider ? WidgetControl::Slider : WidgetControl::Label, 0, this, tool.slot,
-                isSlider ? SIGNAL(setSelPos(int)) : SIGNAL(setPosText(QString)), nullptr);
-            control.setAreas(areas);
-            QObject* made = host->addControl(name, control);
-            slider = isSlider ? qobject_cast<QSlider*>(made) : slider.data();
+            view->addAction(tools.action(tool.name));
         }
     }
     view->installEventFilter(this);
-}
-
-void PaletteEditorPrivate::publishAction(const char* name, unsigned textId, const char* slot,
-                                         bool isSwitched)
-{
-    QAction* action = host->createAction(areas, QString::fromLatin1(name),
-                                         ZorvTranslator::instance(), textId, nullptr, this, slot,
-                                         isSwitched ? SIGNAL(enabled(bool)) : nullptr, nullptr);
-    if (action) {
-        host->addControl(QString::fromLatin1(name), ToolButtonControl(action));
-        view->addAction(action);
-    }
 }
 
 void PaletteEditorPrivate::retranslate()

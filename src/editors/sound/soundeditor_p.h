@@ -7,7 +7,6 @@
 #include "media/soundconversion.h"
 #include "media/soundedits.h"
 
-#include <QHash>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QVector>
@@ -17,6 +16,7 @@
 
 class QAction;
 class QRegularExpression;
+class QSlider;
 
 namespace Zorv {
 
@@ -83,7 +83,7 @@ public:
     bool isBusy = false;
 
     QPointer<QAction> editorAction;
-    QPointer<QWidget> slider;
+    QPointer<QSlider> slider;
     QPointer<QAction> playAction;
     QPointer<QAction> playLoopAction;
     QPointer<QAction> stopAction;

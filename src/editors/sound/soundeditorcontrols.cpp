@@ -1,35 +1,24 @@
-#include "core/interface.h"
-#include "editors/framework/toolbuttoncontrol.h"
-#include "editors/framework/trwidgetcontrol.h"
+#include "editors/framework/editortools_p.h"
 #include "editors/sound/soundeditor_p.h"
 #include "editors/sound/soundtexts_p.h"
 
 #include <QAction>
+#include <QSlider>
 
 namespace Zorv {
 
 namespace {
 
+using namespace ToolKind;
+
 const char* const areas[] = {"sounds", nullptr};
-
-enum Kind { Action, CheckAction, Slider, Label };
-
-constexpr unsigned NoText = ~0U;
 
 const char* const always = nullptr;
 const char* const onSound = SIGNAL(enabled(bool));
 const char* const onPart = SIGNAL(partEnabled(bool));
 
 // clang-format off
-const struct
-{
-    const char* name;
-    Kind kind;
-    unsigned textId;
-    const char* enableSignal;
-    const char* slot;
-    const char* setSignal;
-} table[] = {
+const EditorTool table[] = {
     {"snd_add",         Action,                   146, always,  SLOT(add()),              nullptr},
     {"snd_delete",      Action,                   147, onSound, SLOT(del()),              nullptr},
     {"snd_duplicate",   Action,                   151, onSound, SLOT(duplicate()),        nullptr},
@@ -57,35 +46,12 @@ const struct
 
 void SoundEditorPrivate::publish()
 {
-    QHash<QString, QAction*> made;
-    for (const auto& tool : table) {
-        const QString name = QString::fromLatin1(tool.name);
-        if (tool.kind == Slider) {
-            trWidgetControl control(WidgetControl::Slider, 0, SoundTexts::of(tool.textId),
-                                    tool.textId, this, tool.slot, tool.setSignal,
-                                    tool.enableSignal);
-            control.setAreas(areas);
-            slider = qobject_cast<QWidget*>(host->addControl(name, control));
-            continue;
-        }
-        if (tool.kind == Label) {
-            WidgetControl control(WidgetControl::Label, 0, this, tool.slot, tool.setSignal,
-                                  tool.enableSignal);
-            control.setAreas(areas);
-            host->addControl(name, control);
-            continue;
-        }
-        QAction* action = host->createAction(areas, name, SoundTexts::of(tool.textId), tool.textId,
-                                             nullptr, this, tool.slot, tool.enableSignal, nullptr);
-        if (action) {
-            action->setCheckable(tool.kind == CheckAction);
-            host->addControl(name, ToolButtonControl(action));
-            made.insert(name, action);
-        }
-    }
-    playAction = made.value(QStringLiteral("snd_play"));
-    playLoopAction = made.value(QStringLiteral("snd_play_loop"));
-    stopAction = made.value(QStringLiteral("snd_stop"));
+    EditorTools tools(this, SoundTexts::instance());
+    tools.publish(table, areas);
+    slider = tools.widget<QSlider>("snd_sel");
+    playAction = tools.action("snd_play");
+    playLoopAction = tools.action("snd_play_loop");
+    stopAction = tools.action("snd_stop");
 }
 
 }  // namespace Zorv

@@ -1,17 +1,11 @@
 #include "editors/sound/soundtexts_p.h"
 
-#include "text/zorvtranslator.h"
-
 namespace Zorv {
 
 namespace {
 
 /// In the order of the numbers.
-const struct
-{
-    const char* label;
-    const char* toolTip;
-} texts[SoundTexts::End - SoundTexts::First] = {
+const TextTable::Row rows[SoundTexts::End - SoundTexts::First] = {
     {QT_TRANSLATE_NOOP("Zorv::SoundTexts", "Sound:"),
      QT_TRANSLATE_NOOP("Zorv::SoundTexts", "The sound that is shown and played")},
     {QT_TRANSLATE_NOOP("Zorv::SoundTexts", "Trim to selection"),
@@ -31,25 +25,12 @@ const struct
 
 }  // namespace
 
-Translator* SoundTexts::of(unsigned id)
-{
-    return id < First ? static_cast<Translator*>(ZorvTranslator::instance()) : instance();
-}
+SoundTexts::SoundTexts() : TextTable("Zorv::SoundTexts", First, rows) {}
 
 SoundTexts* SoundTexts::instance()
 {
     static SoundTexts texts;
     return &texts;
-}
-
-QString SoundTexts::trText(unsigned int id) const
-{
-    return id >= First && id < End ? tr(texts[id - First].label) : QString();
-}
-
-QString SoundTexts::trToolTip(unsigned int id) const
-{
-    return id >= First && id < End ? tr(texts[id - First].toolTip) : QString();
 }
 
 }  // namespace Zorv

@@ -2,7 +2,7 @@
 
 #include "animation/timeline/timelinewidget.h"
 #include "core/interface.h"
-#include "editors/framework/toolbuttoncontrol.h"
+#include "editors/framework/editortools_p.h"
 #include "graphics/graphicwork/graphicsworkspace_p.h"
 #include "graphics/renderwidget.h"
 #include "graphics/stage/graphicsrenderer.h"
@@ -62,12 +62,15 @@ GraphicsWorkspacePrivate::~GraphicsWorkspacePrivate()
 
 void GraphicsWorkspacePrivate::publish()
 {
-    makeAction("view_center_origin", CenterText, SLOT(centerOrigin()), nullptr);
+    EditorTools tools(this);
+    tools.publish(
+        {"view_center_origin", ToolKind::Action, CenterText, nullptr, SLOT(centerOrigin())}, areas);
     for (int part = 0; part < PartCount; ++part) {
         const auto& row = parts[part];
-        QAction* action = makeAction(row.name, row.textId, nullptr, row.enableSignal);
+        tools.publish({row.name, ToolKind::CheckAction, row.textId, row.enableSignal, nullptr},
+                      areas);
+        QAction* action = tools.action(row.name);
         const QVariant stored = host->option(QLatin1String(row.key));
-        action->setCheckable(true);
         action->setChecked(stored.isValid() ? stored.toBool() : row.isCheckedAtFirst);
         // Whoever checks it: a person, or the dialog of the extra cross that is closed.
         connect(action, &QAction::toggled, this, [this, key = row.key](bool isChecked) {
@@ -79,24 +82,6 @@ void GraphicsWorkspacePrivate::publish()
     emit mainCrossEnabled(true);
     emit secondaryCrossEnabled(true);
     emit extraCrossEnabled(true);
-}
-
-/// A host without a window makes no action, and what is kept in it is needed all the same.
-QAction* GraphicsWorkspacePrivate::makeAction(const char* name, unsigned textId, const char* slot,
-                                              const char* enableSignal)
-{
-    const QString key = QString::fromLatin1(name);
-    QAction* action = host->createAction(areas, key, ZorvTranslator::instance(), textId, nullptr,
-                                         this, slot, enableSignal, nullptr);
-    if (!action) {
-        action = new QAction(this);
-        if (enableSignal) {
-            connect(this, enableSignal, action, SLOT(setEnabled(bool)));
-        }
-        return action;
-    }
-    host->addControl(key, ToolButtonControl(action));
-    return action;
 }
 
 GraphicsRenderer* GraphicsWorkspacePrivate::stage() const

@@ -37,8 +37,6 @@ public:
     ~GraphicsWorkspacePrivate() override;
 
     void publish();
-    QAction* makeAction(const char* name, unsigned textId, const char* slot,
-                        const char* enableSignal);
 
     /// Null for a renderer that is none.
     GraphicsRenderer* stage() const;
