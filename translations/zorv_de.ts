@@ -2174,6 +2174,26 @@
             <numerusform>%n Klänge</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 (animation %2)</source>
+        <translation>%1 (Animation %2)</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3, line %4</source>
+        <translation>%1: %2, %3, Zeile %4</translation>
+    </message>
+    <message>
+        <source>Moves that play the sound</source>
+        <translation>Aktionen, die den Klang spielen</translation>
+    </message>
+    <message>
+        <source>No move of the project plays this sound.</source>
+        <translation>Keine Aktion des Projekts spielt diesen Klang.</translation>
+    </message>
+    <message>
+        <source>Played by:</source>
+        <translation>Gespielt von:</translation>
+    </message>
 </context>
 <context>
     <name>App::SpriteCommands</name>
@@ -3277,6 +3297,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Nothing here names something that stands elsewhere.</source>
         <translation>Hier wird nichts genannt, das anderswo steht.</translation>
+    </message>
+    <message>
+        <source>There is no sound %1.</source>
+        <translation>Es gibt keinen Klang %1.</translation>
+    </message>
+    <message>
+        <source>The project has no sounds.</source>
+        <translation>Das Projekt hat keine Klänge.</translation>
     </message>
 </context>
 <context>
@@ -7204,14 +7232,14 @@ Ticks: ---</translation>
     </message>
     <message>
         <source>Sound %1 would be called &apos;%2&apos;, which is no identifier that a sound can have. Nothing is replaced. Write one like those in the list.</source>
-        <translation>Klang %1 hieße dann &apos;%2&apos;, doch das kann keine Kennung eines Klangs sein. Nichts wird ersetzt. Schreiben Sie eine wie die in der Liste.</translation>
+        <translation>Klang %1 hieße dann &apos;%2&apos;, doch das kann keine Kennung eines Klangs sein. Nichts wird ersetzt. Bitte eine wie die in der Liste schreiben.</translation>
     </message>
 </context>
 <context>
     <name>Zorv::SoundOutput</name>
     <message>
         <source>Nothing is heard: the sound device &apos;%1&apos; takes no samples of 8, 16, 24 or 32 bits, nor floats. Choose another one in the system&apos;s settings.</source>
-        <translation>Nichts ist zu hören: Das Audiogerät &apos;%1&apos; nimmt weder Samples von 8, 16, 24 oder 32 Bit noch Gleitkommazahlen. Wählen Sie in den Einstellungen des Systems ein anderes.</translation>
+        <translation>Es ist nichts zu hören: Das Tongerät &apos;%1&apos; nimmt weder Samples von 8, 16, 24 oder 32 Bit noch Gleitkommazahlen. Bitte in den Einstellungen des Systems ein anderes wählen.</translation>
     </message>
 </context>
 <context>
@@ -7230,7 +7258,7 @@ Ticks: ---</translation>
     </message>
     <message>
         <source>The sound is being converted to a form that the sound device takes.</source>
-        <translation>Der Klang wird gerade in eine Form umgerechnet, die das Audiogerät nimmt.</translation>
+        <translation>Der Klang wird gerade in eine Form umgerechnet, die das Tongerät nimmt.</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "app/sounds/hearing.h"
 #include "app/sounds/soundpanel.h"
 #include "app/window/editorregistry.h"
+#include "family/assets/soundfile.h"
 #include "support/plannedsound.h"
 #include "support/testsounds.h"
 
@@ -12,6 +13,7 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QListWidget>
 
 /// Sounds in the real window.
 class TestHearing : public QObject
@@ -20,6 +22,7 @@ class TestHearing : public QObject
 
 private slots:
     void showsPlaysAndChangesSounds();
+    void goesBetweenMovesAndSounds();
 };
 
 void TestHearing::showsPlaysAndChangesSounds()
@@ -57,6 +60,63 @@ void TestHearing::showsPlaysAndChangesSounds()
     QVERIFY(!panel->sounds()->isModified());
     QVERIFY(m.window->openFile(game.ryn()));
     QTRY_VERIFY(m.window->editors()->current() != editor);
+}
+
+void TestHearing::goesBetweenMovesAndSounds()
+{
+    PlannedSound devices;
+    const TemporaryGame game;
+    game.addAssets();
+    game.write("characters/ryn/moves.code", "[move jab]\r\nanimation = 1\r\n[.sound]\r\n"
+                                            "hit = 5,1\r\nguard = 5,0\r\n"
+                                            "[move kick]\r\n[.sound]\r\nhit = 5, 1\r\n"
+                                            "guard = 7,7\r\n");
+    WindowFixture m;
+    m.open(game, game.ryn(), game.path("characters/ryn/moves.code"));
+    App::SoundPanel* panel = m.window->soundPanel();
+    QTRY_VERIFY(panel->sounds());
+    for (int i = 0; i < 3; ++i) {
+        panel->sounds()->add(i, QStringLiteral("5,%1").arg(i), soundOf(QByteArray(80, char(i))));
+    }
+    Zorv::SoundEditor* editor = m.window->hearing()->editor();
+    const Zorv::Editor* text = m.window->editors()->current();
+    m.goTo(3, 7);
+    m.press(Qt::Key_F12);
+    QCOMPARE(m.window->editors()->current(), editor);
+    QCOMPARE(editor->sound(), panel->sounds()->sound(1));
+    QCOMPARE(panel->currentRow(), 1);
+    pressIn(editor->workspace()->widget(), Qt::ALT + Qt::Key_Left);
+    QCOMPARE(m.window->editors()->current(), text);
+    QCOMPARE(m.edit()->textCursor().blockNumber(), 3);
+    m.goTo(8, 9);
+    m.press(Qt::Key_F12);  // there is none
+    QCOMPARE(m.window->editors()->current(), text);
+
+    qobject_cast<QDockWidget*>(panel->parentWidget())->raise();
+    const auto uses = [panel] {
+        QStringList texts;
+        for (int row = 0; row < panel->uses()->count(); ++row) {
+            texts.append(panel->uses()->item(row)->text());
+        }
+        return texts;
+    };
+    QTRY_COMPARE(uses(), (QStringList{"jab (animation 1): hit, moves.code, line 4",
+                                      "kick: hit, moves.code, line 8"}));
+    doubleClickRow(panel->uses(), panel->uses()->model()->index(1, 0));
+    QCOMPARE(m.edit()->textCursor().blockNumber(), 7);
+    QCOMPARE(m.edit()->textCursor().selectedText(), QStringLiteral("5, 1"));
+    m.edit()->insertPlainText(QStringLiteral("5,2"));
+    QTRY_COMPARE(uses().size(), 1);
+    m.window->hearing()->showSound(2);
+    QTRY_COMPARE(uses(), QStringList("kick: hit, moves.code, line 8"));
+    panel->setCurrentRow(0);
+    QTRY_COMPARE(uses(), QStringList("jab (animation 1): guard, moves.code, line 5"));
+    QCOMPARE(editor->sound(), panel->sounds()->sound(2));
+    pressIn(panel->list(), Qt::Key_Down);
+    QCOMPARE(editor->sound(), panel->sounds()->sound(1));
+    m.dialogs.choiceAnswers = {1};
+    m.action("close_folder")->trigger();
+    QTRY_COMPARE(uses(), QStringList());
 }
 
 QTEST_MAIN(TestHearing)

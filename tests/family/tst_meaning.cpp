@@ -282,6 +282,8 @@ void TestMeaning::references_data()
     QTest::newRow("sprite") << "animation 1\nframe 200,|1 loop" << "200,1" << "hero.anim:3:7";
     QTest::newRow("sprite of this file") << "animation 1\nframe 7,7\nframe |7,7 loop" << "7,7" << "moves.code:2:7";
     QTest::newRow("a sprite once") << "animation 1\nframe 7,|7" << "7,7" << "No other frame of the project shows the sprite 7,7.";
+    QTest::newRow("sound") << "[move a]\n[.sound]\nhit = 1|, 0" << "1, 0" << "The project has no sounds.";
+    QTest::newRow("a volume") << "[move a]\n[.sound]\nvolume = 9|0%" << "" << "Nothing here names something that stands elsewhere.";
     QTest::newRow("a key") << "[constants]\nli|fe = 1000" << "" << "Nothing here names something that stands elsewhere.";
     QTest::newRow("a text") << "[info]\nname = \"20|0\"" << "" << "Nothing here names something that stands elsewhere.";
 }

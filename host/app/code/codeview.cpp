@@ -46,6 +46,7 @@ JumpServices jumpServices(const WindowServices& services)
                 jumps->showPlace(document, line, column, 0);
             },
             [jumps = services.jumps](const QString& file) { return jumps->openFile(file); },
+            [jumps = services.jumps](int row) { jumps->showSound(row); },
             [status = services.status](const QString& text) { status->showPassing(text); }};
 }
 
@@ -123,7 +124,7 @@ QVector<ActionRow> CodeView::actions()
         {"encoding",        "edit.text",  QT_TRANSLATE_NOOP("App::Actions", "&Encoding..."),      {},                          on(&CodeView::changeEncoding),       hasText, "code"},
         {"code_complete",   "code.write", QT_TRANSLATE_NOOP("App::Actions", "Co&mplete word"),    "Ctrl+Space",                help(&CodeHelp::completeWord),       hasText, "code"},
         {"code_definition", "code.write", QT_TRANSLATE_NOOP("App::Actions", "&Go to definition"), "F12",                       help(&CodeHelp::goToDefinition),     hasText, "code"},
-        {"code_back",       "code.write", QT_TRANSLATE_NOOP("App::Actions", "Go &back"),          "Alt+Left",                  help(&CodeHelp::goBack),             hasText, "code"},
+        {"code_back",       "code.write", QT_TRANSLATE_NOOP("App::Actions", "Go &back"),          "Alt+Left",                  help(&CodeHelp::goBack),             on(&CodeView::hasTexts)},
         {"code_line_up",    "code.write", QT_TRANSLATE_NOOP("App::Actions", "Move line &up"),     "Alt+Up",                    editing(&CodeEditor::moveLinesUp),   hasText, "code"},
         {"code_line_down",  "code.write", QT_TRANSLATE_NOOP("App::Actions", "Move line do&wn"),   "Alt+Down",                  editing(&CodeEditor::moveLinesDown), hasText, "code"},
         {"code_fold",       "code.write", QT_TRANSLATE_NOOP("App::Actions", "&Fold or unfold"),   "Alt+Shift+Up",              editing(&CodeEditor::toggleFold),    hasText, "code"},
@@ -291,6 +292,12 @@ QVector<PanelPlace> CodeView::places()
 bool CodeView::hasText() const
 {
     return m_tabs->currentEdit();
+}
+
+/// Also behind another editor.
+bool CodeView::hasTexts() const
+{
+    return m_tabs->count() > 0;
 }
 
 bool CodeView::hasSelection() const

@@ -73,6 +73,7 @@ private:
     void cursorRests();
 
     bool hasText() const;
+    bool hasTexts() const;
     bool hasSelection() const;
     TextEditor* editorInFront() const;
     TextEditor* editorFor(const Family::FamilyDocument* document) const;

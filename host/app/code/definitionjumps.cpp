@@ -55,6 +55,10 @@ void DefinitionJumps::jumpFrom(const TextPosition& place)
         return;
     }
     remember();
+    if (found.soundRow >= 0) {
+        m_services.showSound(found.soundRow);
+        return;
+    }
     m_services.show(const_cast<FamilyDocument*>(found.place.document), found.place.line,
                     found.place.column);
 }

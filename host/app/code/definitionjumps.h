@@ -32,6 +32,9 @@ struct JumpServices
     /// Opens a file of the game and brings its text to the front; false if it cannot.
     std::function<bool(const QString& fileName)> open;
 
+    /// Brings a sound of the project in front into the middle of the window, by its row.
+    std::function<void(int row)> showSound;
+
     /// Tells the person something in passing.
     std::function<void(const QString& text)> tell;
 };

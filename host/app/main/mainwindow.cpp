@@ -334,6 +334,11 @@ void MainWindow::showPlace(FamilyDocument* document, int line, int column, int l
     m_code->showPlace(document, line, column, length);
 }
 
+void MainWindow::showSound(int row)
+{
+    m_hearing->showSound(row);
+}
+
 void MainWindow::moveCursor(int line)
 {
     m_code->moveCursor(line);

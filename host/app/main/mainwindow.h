@@ -108,6 +108,7 @@ public:
     bool openFile(const QString& fileName) override;
     void showDocument(Family::FamilyDocument* document) override;
     void showPlace(Family::FamilyDocument* document, int line, int column, int length) override;
+    void showSound(int row) override;
     void moveCursor(int line) override;
     void showMiddle() override;
     bool mayClose(const Family::FamilyProject* project, const std::function<void()>& then) override;

@@ -18,6 +18,12 @@ FamilySoundEditor::FamilySoundEditor(Zorv::SoundWorkspace* workspace, const Remo
 {
 }
 
+void FamilySoundEditor::soundChanged(Zorv::Sound* sound)
+{
+    SoundEditor::soundChanged(sound);
+    emit soundShown(sound ? sounds()->currentIndex : -1);
+}
+
 bool FamilySoundEditor::mayDeleteSound()
 {
     return m_mayRemove([this] {

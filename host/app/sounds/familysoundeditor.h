@@ -20,6 +20,12 @@ public:
     FamilySoundEditor(Zorv::SoundWorkspace* workspace, const RemovalCheck& mayRemove,
                       QObject* parent = nullptr);
 
+    void soundChanged(Zorv::Sound* sound) override;
+
+signals:
+    /// Another sound is shown, or the same one anew; -1 for none.
+    void soundShown(int row);
+
 protected:
     bool mayDeleteSound() override;
     bool mayReadSounds(const QStringList& fileNames) override;

@@ -6,6 +6,7 @@
 #include "app/sounds/familysoundeditor.h"
 #include "app/sounds/soundpanel.h"
 #include "app/window/editorregistry.h"
+#include "app/window/jumps.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
 #include "app/window/windowservices.h"
@@ -34,6 +35,17 @@ Hearing::Hearing(const WindowServices& services)
     connect(m_panel, &SoundPanel::changed, services.parts, &PartList::updateSoon);
     connect(m_panel, &SoundPanel::soundActivated, this, &Hearing::showSound);
     m_workspace->sampleWidget()->setShowsTrueChannels(true);
+    connect(m_panel, &SoundPanel::useActivated, this, [this](const Family::NamePlace& place) {
+        m_services.jumps->showPlace(const_cast<Family::FamilyDocument*>(place.document), place.line,
+                                    place.column, place.length);
+    });
+    connect(m_editor, &FamilySoundEditor::soundShown, this, [this](int row) {
+        if (row >= 0 && m_editor->isActive() && m_editor->sounds() == m_panel->sounds() &&
+            row != m_panel->currentRow()) {
+            m_panel->setCurrentRow(row);
+        }
+    });
+    connect(m_panel->list(), &Zorv::RowList::currentRowChanged, this, &Hearing::follow);
     connect(m_editor, &SoundEditor::saveFailed, this, [](const QString& text) {
         Zorv::Dialogs::instance()->error(tr("Save sounds as"), text);
     });
@@ -43,6 +55,11 @@ Hearing::~Hearing()
 {
     delete m_editor;
     delete m_workspace;
+}
+
+SoundEditor* Hearing::editor() const
+{
+    return m_editor;
 }
 
 void Hearing::showSound(int row)
@@ -61,6 +78,21 @@ void Hearing::showProject(Family::FamilyProject* project)
 {
     m_panel->setSounds(
         dynamic_cast<SoundFile*>(project ? project->file(Zorv::FileID::Sounds) : nullptr));
+    m_panel->setProject(project);
+}
+
+/// Any text may have come to play another sound.
+void Hearing::updateState()
+{
+    m_panel->updateUsesSoon();
+}
+
+/// Whoever goes through the panel hears what is selected there, if sounds are in the middle.
+void Hearing::follow(int row)
+{
+    if (row >= 0 && m_editor->isActive() && m_panel->list()->hasFocus()) {
+        m_editor->navigateTo({}, unsigned(row), 0, 0);
+    }
 }
 
 /// What the panel has selected goes by the panel's keys; the rest is that of the editor.

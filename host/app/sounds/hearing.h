@@ -11,6 +11,7 @@ class SoundWorkspace;
 
 namespace App {
 
+class FamilySoundEditor;
 class SoundPanel;
 struct WindowServices;
 
@@ -25,7 +26,7 @@ public:
     explicit Hearing(const WindowServices& services);
     ~Hearing() override;
 
-    Zorv::SoundEditor* editor() const { return m_editor; }
+    Zorv::SoundEditor* editor() const;
 
     /// The window places it.
     SoundPanel* panel() const { return m_panel; }
@@ -38,16 +39,18 @@ public:
 
     void actionsMade() override;
     void showProject(Family::FamilyProject* project) override;
+    void updateState() override;
     QVector<PanelPlace> places() override;
 
 private:
     void save();
     void removeSelected();
+    void follow(int row);
     bool canSave() const;
 
     const WindowServices& m_services;
     Zorv::SoundWorkspace* m_workspace;
-    Zorv::SoundEditor* m_editor;
+    FamilySoundEditor* m_editor;
     SoundPanel* m_panel;
 };
 

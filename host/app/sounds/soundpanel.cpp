@@ -2,10 +2,15 @@
 
 #include "app/look/language.h"
 #include "family/assets/soundfile.h"
+#include "family/familydocument.h"
+#include "family/project/familyproject.h"
 
 #include <zorv/editors/framework/rowlist.h>
 
+#include <QFileInfo>
 #include <QLabel>
+#include <QListWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace App {
@@ -13,22 +18,61 @@ namespace App {
 using Family::SoundFile;
 using Zorv::RowList;
 
-SoundPanel::SoundPanel(QWidget* parent) : QWidget(parent), m_list(new RowList), m_text(new QLabel)
+namespace {
+
+constexpr int UsesDelay = 100;  // milliseconds in which nothing changes
+constexpr int ListShare = 2;    // of three parts of the height
+
+QString textOf(const Family::SoundUse& use)
+{
+    const QString move = use.animation.isEmpty()
+                             ? use.move
+                             : SoundPanel::tr("%1 (animation %2)").arg(use.move, use.animation);
+    return SoundPanel::tr("%1: %2, %3, line %4")
+        .arg(move, use.key, QFileInfo(use.place.document->fileName()).fileName(),
+             QString::number(use.place.line + 1));
+}
+
+QStringList textsOf(const QVector<Family::SoundUse>& uses)
+{
+    QStringList texts;
+    for (const Family::SoundUse& use : uses) {
+        texts.append(textOf(use));
+    }
+    return texts;
+}
+
+}  // namespace
+
+SoundPanel::SoundPanel(QWidget* parent)
+    : QWidget(parent), m_list(new RowList), m_text(new QLabel), m_usesTitle(new QLabel),
+      m_uses(new QListWidget), m_timer(new QTimer(this))
 {
     m_list->setUniformItemSizes(true);
     m_text->setWordWrap(true);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(m_list);
+    layout->addWidget(m_list, ListShare);
     layout->addWidget(m_text);
+    layout->addWidget(m_usesTitle);
+    layout->addWidget(m_uses, 1);
+    m_usesTitle->setWordWrap(true);
+    m_usesTitle->setBuddy(m_uses);
+    m_timer->setSingleShot(true);
+    m_timer->setInterval(UsesDelay);
+    connect(m_timer, &QTimer::timeout, this, &SoundPanel::updateUses);
+    connect(m_uses, &QAbstractItemView::activated, this,
+            [this](const QModelIndex& index) { activateUse(index.row()); });
     setFocusProxy(m_list);
     connect(m_list, &RowList::currentRowChanged, this, &SoundPanel::updateCurrent);
     connect(m_list, &QAbstractItemView::activated, this,
             [this](const QModelIndex& index) { emit soundActivated(index.row()); });
     followLanguage(this, [this] {
         m_list->setAccessibleName(tr("Sounds of the project"));
+        m_uses->setAccessibleName(tr("Moves that play the sound"));
         m_text->setText(currentText());
+        updateUses();
     });
 }
 
@@ -48,6 +92,12 @@ void SoundPanel::setSounds(SoundFile* sounds)
         setCurrentRow(0);
     }
     updateCurrent();
+}
+
+void SoundPanel::setProject(const Family::FamilyProject* project)
+{
+    m_project = project;
+    updateUsesSoon();
 }
 
 SoundFile* SoundPanel::sounds() const
@@ -75,7 +125,61 @@ void SoundPanel::setCurrentRow(int row)
 void SoundPanel::updateCurrent()
 {
     m_text->setText(currentText());
+    updateUsesSoon();
     emit changed();
+}
+
+void SoundPanel::updateUsesSoon()
+{
+    m_timer->start();
+}
+
+void SoundPanel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    updateUsesSoon();
+}
+
+QVector<Family::SoundUse> SoundPanel::findUses() const
+{
+    const Family::FamilySound* sound = m_sounds ? m_sounds->sound(currentRow()) : nullptr;
+    if (!sound || !m_project) {
+        return {};
+    }
+    const Family::ProjectNames names(m_project->mainDocument(), m_project);
+    return names.soundUses(sound->id().group, sound->id().number);
+}
+
+/// A list that is the same keeps its current row.
+void SoundPanel::updateUses()
+{
+    if (!isVisible()) {
+        return;
+    }
+    const QStringList texts = textsOf(findUses());
+    QStringList shown;
+    for (int row = 0; row < m_uses->count(); ++row) {
+        shown.append(m_uses->item(row)->text());
+    }
+    if (texts != shown) {
+        m_uses->clear();
+        m_uses->addItems(texts);
+    }
+    m_uses->setEnabled(!texts.isEmpty());
+    m_usesTitle->setText(currentRow() < 0  ? QString()
+                         : texts.isEmpty() ? tr("No move of the project plays this sound.")
+                                           : tr("Played by:"));
+}
+
+/// The lines may have changed since they were looked for.
+void SoundPanel::activateUse(int row)
+{
+    const QString wanted = m_uses->item(row)->text();
+    const QVector<Family::SoundUse> uses = findUses();
+    updateUses();
+    if (row < uses.size() && textOf(uses[row]) == wanted) {
+        emit useActivated(uses[row].place);
+    }
 }
 
 QString SoundPanel::currentText() const

@@ -31,6 +31,9 @@ public:
     /// The same with a place in it, from 0, of which so many characters are selected.
     virtual void showPlace(Family::FamilyDocument* document, int line, int column, int length) = 0;
 
+    /// Brings a sound of the project in front into the middle.
+    virtual void showSound(int row) = 0;
+
     /// Brings the cursor of the text in front to a line; the keyboard stays where it is.
     virtual void moveCursor(int line) = 0;
 

@@ -78,6 +78,37 @@ void addMoves(const FamilyDocument* document, QVector<NamedThing>* things)
     });
 }
 
+QString animationOf(const GroupNode* move)
+{
+    for (int i = 0; i < move->childCount(); ++i) {
+        const CodeNode* child = move->childAt(unsigned(i));
+        if (child->type() == CodeNode::Value) {
+            const auto* value = static_cast<const ValueNode*>(child);
+            if (value->key()->form == Form::AnimationName) {
+                return value->text();
+            }
+        }
+    }
+    return {};
+}
+
+void addSoundUses(const FamilyDocument* document, const QVector<int>& sound,
+                  QVector<SoundUse>* uses)
+{
+    forGroups(document, "move", [&](const GroupNode* move) {
+        const GroupNode* played = move->subGroup(QStringLiteral("sound"));
+        for (int i = 0; played && i < played->childCount(); ++i) {
+            const CodeNode* child = played->childAt(unsigned(i));
+            const auto* value =
+                child->type() == CodeNode::Value ? static_cast<const ValueNode*>(child) : nullptr;
+            if (value && value->key()->form == Form::Pair && value->asIntVector() == sound) {
+                uses->append({move->argument(), animationOf(move), value->name(),
+                              placeOf(document, value, LinePart::Value)});
+            }
+        }
+    });
+}
+
 /// The suffixes of files that a key of that type can name; empty for all that is
 /// no code.
 QString suffixOf(Zorv::FileID::Type type)
@@ -169,6 +200,15 @@ QVector<NamePlace> ProjectNames::frames(int group, int number) const
         }
     }
     return places;
+}
+
+QVector<SoundUse> ProjectNames::soundUses(int group, int number) const
+{
+    QVector<SoundUse> uses;
+    for (const FamilyDocument* document : m_documents) {
+        addSoundUses(document, {group, number}, &uses);
+    }
+    return uses;
 }
 
 }  // namespace Family

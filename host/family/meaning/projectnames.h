@@ -29,6 +29,15 @@ struct NamedThing
     NamePlace place;
 };
 
+/// A value that plays a sound.
+struct SoundUse
+{
+    QString move;
+    QString animation;  ///< that the move shows; empty if it names none
+    QString key;        ///< "hit" or "guard"
+    NamePlace place;    ///< of the numbers
+};
+
 /// What a document refers to by names, in it and in the other documents of its
 /// project; those of the document itself come first.
 class ProjectNames
@@ -50,6 +59,9 @@ public:
 
     /// Every frame that shows a sprite, in the order of the documents.
     QVector<NamePlace> frames(int group, int number) const;
+
+    /// Every value that plays a sound, in the order of the documents.
+    QVector<SoundUse> soundUses(int group, int number) const;
 
     const QList<const FamilyDocument*>& documents() const { return m_documents; }
 

@@ -7,12 +7,12 @@ namespace Family {
 /// A word of a line that names something which stands elsewhere.
 struct Reference
 {
-    enum Kind : unsigned char { None, File, Named, Sprite };
+    enum Kind : unsigned char { None, File, Named, Sprite, Sound };
 
     Kind kind = None;
     Form form = Form::Any;  ///< of a `Named` one
     QString name;           ///< the path of a file, or the name
-    int group = 0;          ///< of a sprite
+    int group = 0;          ///< of a sprite or sound
     int number = 0;
 
     /// The columns of the word.
@@ -27,16 +27,17 @@ Reference referenceAt(const FamilyDocument* document, int line, int column);
 /// Where a reference leads.
 struct Definition
 {
-    QString fileName;  ///< of a file, else empty
-    NamePlace place;   ///< otherwise; without a document if there is none
-    QString message;   ///< why there is none, for the person
+    QString fileName;   ///< of a file, else empty
+    NamePlace place;    ///< otherwise; without a document if there is none
+    QString message;    ///< why there is none, for the person
+    int soundRow = -1;  ///< of a sound, in `FamilyProject::sounds()`
 
-    bool isEmpty() const { return fileName.isEmpty() && !place.document; }
+    bool isEmpty() const { return fileName.isEmpty() && !place.document && soundRow < 0; }
 };
 
 /// Looks for what is referred to: a file that is there, the first animation, command
 /// or move of the name, the first frame of the project that shows the sprite, other
-/// than that of `line`. Linear in what the project has of the kind.
+/// than that of `line`, the first sound of the numbers. Linear in what the project has of the kind.
 Definition definitionOf(const Reference& reference, const FamilyDocument* document,
                         const FamilyProject* project, int line);
 
