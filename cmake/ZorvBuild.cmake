@@ -29,6 +29,7 @@ pkg_check_modules(SAMPLERATE REQUIRED IMPORTED_TARGET samplerate)
 pkg_check_modules(UCHARDET REQUIRED IMPORTED_TARGET uchardet)
 if(ZORV_HOST)
     pkg_check_modules(EBUR128 REQUIRED IMPORTED_TARGET libebur128)
+    pkg_check_modules(SNDFILE REQUIRED IMPORTED_TARGET sndfile)
 endif()
 
 find_program(CCACHE ccache)

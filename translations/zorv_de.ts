@@ -4970,6 +4970,21 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Operations::SoundFormats</name>
+    <message>
+        <source>it is damaged, or of a format that is not known here</source>
+        <translation>sie ist beschädigt oder von einem Format, das hier nicht bekannt ist</translation>
+    </message>
+    <message>
+        <source>it declares more than a gigabyte of samples</source>
+        <translation>sie gibt mehr als ein Gigabyte an Samples an</translation>
+    </message>
+    <message>
+        <source>it has no samples, or they are damaged</source>
+        <translation>sie hat keine Samples, oder sie sind beschädigt</translation>
+    </message>
+</context>
+<context>
     <name>Operations::SoundLoudness</name>
     <message>
         <source>too short</source>
@@ -5070,6 +5085,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
             <numerusform>&apos;%1&apos; ist abgeschnitten: Von %n Frame sind %2 da.</numerusform>
             <numerusform>&apos;%1&apos; ist abgeschnitten: Von %n Frames sind %2 da.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: %2.</source>
+        <translation>&apos;%1&apos; kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: sounds are WAV, FLAC, Ogg Vorbis and Opus files (.wav, .flac, .ogg, .oga, .opus).</source>
+        <translation>&apos;%1&apos; kann nicht gelesen werden: Klänge sind WAV-, FLAC-, Ogg-Vorbis- und Opus-Dateien (.wav, .flac, .ogg, .oga, .opus).</translation>
     </message>
 </context>
 <context>

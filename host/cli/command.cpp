@@ -241,14 +241,14 @@ constexpr Command table[] = {
      "Write the sounds of a sound file as WAV files.",
      "PLACE is a folder, a pattern such as 'out/hero-*.wav', or the file for a single one. The\n"
      "files are called GROUP-NUMBER.wav."},
-    {"sound import", "FILE WAV...", 2, Command::Any, Group | Lenient | Force, importSounds,
-     "Add WAV files to a sound file.",
+    {"sound import", "FILE SOUND...", 2, Command::Any, Group | Lenient | Force, importSounds,
+     "Add WAV, FLAC, Ogg Vorbis or Opus files to a sound file.",
      "Each goes to the group and number at the end of its name, as in 5-0.wav. FILE is made if it\n"
      "is not there. If one of the sounds cannot be read, or is there already, nothing is changed;\n"
      "with --force it is replaced. A program that records without an end leaves wrong sizes in a\n"
-     "file, which lead to a part of it: that is told, and --lenient takes all."},
-    {"sound info", "WAV...", 1, Command::Any, Json | Lenient, tellOfSounds,
-     "Print the form of WAV files.",
+     "WAV file, which lead to a part of it: that is told, and --lenient takes all."},
+    {"sound info", "SOUND...", 1, Command::Any, Json | Lenient, tellOfSounds,
+     "Print the form of WAV, FLAC, Ogg Vorbis or Opus files.",
      "A line for each, with a tab between its name, channels, bits a sample, frames a second,\n"
      "frames and seconds."},
     {"sound resample", "FILE", 1, 1, Select | Rate | Bits | Channels | DryRun | Json, resampleSounds,
@@ -266,8 +266,8 @@ constexpr Command table[] = {
      "decibels it is louder. A sound below 0.4 seconds is too short for a loudness, and stays."},
     {"sound loudness", "FILE...", 1, Command::Any, Select | Lenient | Json, tellLoudness,
      "Print how loud sounds are.",
-     "FILE is a sound file or a WAV file. A line for each sound, with a tab between its file,\n"
-     "identifier ('-' for a WAV file), sample peak and true peak in decibels, and loudness in LUFS\n"
+     "FILE is a sound file, or one that 'sound info' reads. A line for each sound, with a tab\n"
+     "between its file, identifier ('-' if it is alone), sample peak and true peak in decibels, and loudness in LUFS\n"
      "by EBU R 128, or 'too short' below 0.4 seconds."},
     {"completer", "", 0, 0, NoOptions, completerCommand,
      "Print the words that the editor completes.",

@@ -5,6 +5,7 @@
 #include "family/project/familyproject.h"
 #include "operations/english.h"
 #include "operations/media/assetnames.h"
+#include "operations/media/soundformats.h"
 
 #include <zorv/code/codecs/textcodecs.h>
 #include <zorv/core/progressreporter.h>
@@ -281,6 +282,7 @@ void startHost(HostInterface* host)
     setGlobalInterface(host);
     speakEnglish();
     Zorv::TextCodecs::setDefaultCodec(Zorv::TextCodecs::index("UTF-8"));
+    registerSoundFormats();
 }
 
 }  // namespace Operations

@@ -5,7 +5,7 @@ packages_build=(
     g++ cmake ninja-build ccache pkg-config
     qtbase5-dev qtmultimedia5-dev qttools5-dev qttools5-dev-tools
     libuchardet-dev libgif-dev libsamplerate0-dev
-    libebur128-dev
+    libebur128-dev libsndfile1-dev
 )
 packages_display=(xvfb xauth libgl1-mesa-dri fonts-dejavu-core)
 packages_run=(

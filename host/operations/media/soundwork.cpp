@@ -2,10 +2,12 @@
 
 #include "family/assets/soundfile.h"
 #include "operations/media/assetnames.h"
+#include "operations/media/soundformats.h"
 
 #include <zorv/core/files.h>
 #include <zorv/core/progress.h>
 #include <zorv/media/soundfile.h>
+#include <zorv/media/wav.h>
 #include <zorv/media/wavecontents.h>
 
 #include <QBuffer>
@@ -129,6 +131,13 @@ QString unreadText(const QString& fileName, const Zorv::WaveContents& contents)
                                       : QStringLiteral("%1 (%2)").arg(QString::number(tag), form));
 }
 
+QString cutText(const QString& fileName, qint64 held, qint64 missing)
+{
+    return Text::tr("'%1' is cut short: of %n frame(s) it has %2.", nullptr,
+                    numberOf(held + missing))
+        .arg(fileName, QString::number(held));
+}
+
 /// What was read of a file that holds more, or was cut short.
 QString partText(const QString& fileName, qint64 read, const Zorv::WaveContents& contents)
 {
@@ -138,10 +147,44 @@ QString partText(const QString& fileName, qint64 read, const Zorv::WaveContents&
                         nullptr, numberOf(held))
             .arg(fileName, QString::number(read));
     }
-    return contents.missing == 0 ? QString()
-                                 : Text::tr("'%1' is cut short: of %n frame(s) it has %2.", nullptr,
-                                            numberOf(held + contents.missing))
-                                       .arg(fileName, QString::number(held));
+    return contents.missing == 0 ? QString() : cutText(fileName, held, contents.missing);
+}
+
+/// A WAV file of plain samples.
+Outcome readPlain(const QString& fileName, QIODevice* file, SoundExtent extent,
+                  const Zorv::WaveContents& contents, Zorv::SoundSample* sample)
+{
+    *sample =
+        extent == SoundExtent::Whole ? Zorv::wholeSoundFromWAV(file) : Zorv::soundFromWAV(file);
+    Outcome outcome;
+    if (sample->data.isEmpty()) {
+        outcome.error = unreadText(fileName, contents);
+    } else if (contents.formatTag == PlainTag) {
+        outcome.warning = partText(fileName, sample->frames, contents);
+    }
+    outcome.isPart = contents.formatTag == PlainTag && sample->frames < contents.info.frames;
+    return outcome;
+}
+
+Outcome readDecoded(const QString& fileName, QIODevice* file, Zorv::SoundSample* sample)
+{
+    Outcome outcome;
+    QString reason;
+    qint64 missing = 0;
+    *sample = decodeSound(file, &reason, &missing);
+    if (sample->data.isEmpty()) {
+        outcome.error = Text::tr("Cannot read '%1': %2.").arg(fileName, reason);
+    } else if (missing > 0) {
+        outcome.warning = cutText(fileName, sample->frames, missing);
+    }
+    return outcome;
+}
+
+QString unknownText(const QString& fileName)
+{
+    return Text::tr("Cannot read '%1': sounds are WAV, FLAC, Ogg Vorbis and Opus files (.wav, "
+                    ".flac, .ogg, .oga, .opus).")
+        .arg(fileName);
 }
 
 }  // namespace
@@ -154,21 +197,19 @@ Outcome readSound(const QString& fileName, SoundExtent extent, Zorv::SoundSample
             .arg(fileName, file.errorString());
     }
     const QByteArray format = Zorv::fileExtension(fileName);
-    const bool isWave = format == "WAV";
-    const Zorv::WaveContents contents = isWave ? Zorv::waveContents(&file) : Zorv::WaveContents();
-    if (isWave && extent == SoundExtent::Whole) {
-        *sample = Zorv::wholeSoundFromWAV(&file);
-    } else {
-        Zorv::loadSound(&file, format.constData(), *sample);
+    if (isDecodedFormat(format)) {
+        return readDecoded(fileName, &file, sample);
     }
-    Outcome outcome;
-    if (sample->data.isEmpty()) {
-        outcome.error = unreadText(fileName, contents);
-    } else if (contents.formatTag == PlainTag) {
-        outcome.warning = partText(fileName, sample->frames, contents);
+    if (format != "WAV") {
+        return Zorv::loadSound(&file, format.constData(), *sample) ? QString()
+                                                                   : unknownText(fileName);
     }
-    outcome.isPart = contents.formatTag == PlainTag && sample->frames < contents.info.frames;
-    return outcome;
+    const Zorv::WaveContents contents = Zorv::waveContents(&file);
+    if (contents.formatTag != PlainTag && contents.formatTag != 0) {
+        const Outcome outcome = readDecoded(fileName, &file, sample);
+        return sample->data.isEmpty() ? unreadText(fileName, contents) : outcome;
+    }
+    return readPlain(fileName, &file, extent, contents, sample);
 }
 
 QString partialSounds(const QStringList& files)
@@ -176,7 +217,9 @@ QString partialSounds(const QStringList& files)
     QStringList texts;
     for (const QString& file : files) {
         Zorv::SoundSample sample;
-        const Outcome outcome = readSound(file, SoundExtent::AsTold, &sample);
+        const Outcome outcome = isDecodedFormat(Zorv::fileExtension(file))
+                                    ? Outcome()
+                                    : readSound(file, SoundExtent::AsTold, &sample);
         if (outcome.isPart) {
             texts.append(outcome.error.isEmpty() ? outcome.warning : outcome.error);
         }
