@@ -1,10 +1,8 @@
-#include "cli/changing.h"
 #include "cli/cli.h"
 #include "cli/command.h"
 #include "cli/paletteselection.h"
-#include "cli/progresshost.h"
 #include "cli/results.h"
-#include "cli/spriteopening.h"
+#include "cli/spriteediting.h"
 #include "family/assets/spritecollection.h"
 #include "operations/media/paletteedits.h"
 
@@ -35,16 +33,9 @@ using PaletteEdit = std::function<MediaResult(Family::SpriteCollection*, const Q
 /// Changes the palettes of the first operand that are meant.
 int editPalettes(const Invocation& invocation, const PaletteEdit& edit)
 {
-    ProgressHost host;
-    const QString fileName = invocation.operands.first();
-    return changeFile(fileName, [&]() -> int {
-        const OpenSprites sprites(fileName);
-        const QVector<int> rows = sprites ? chosenPalettes(*sprites, invocation) : QVector<int>();
-        if (rows.isEmpty()) {
-            return NotDone;
-        }
-        const int status = tell(edit(sprites.get(), rows));
-        return status == Fine ? sprites.save(fileName) : status;
+    return editSpriteFile(invocation.operands.first(), OpenSprites::There, [&](auto* sprites) {
+        const QVector<int> rows = chosenPalettes(*sprites, invocation);
+        return rows.isEmpty() ? int(NotDone) : tell(edit(sprites, rows));
     });
 }
 

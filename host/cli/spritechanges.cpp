@@ -1,9 +1,7 @@
-#include "cli/changing.h"
 #include "cli/cli.h"
 #include "cli/command.h"
-#include "cli/progresshost.h"
 #include "cli/results.h"
-#include "cli/spriteopening.h"
+#include "cli/spriteediting.h"
 #include "operations/media/spriteedits.h"
 #include "operations/media/spriteexport.h"
 
@@ -31,19 +29,10 @@ using SpriteEdit = std::function<MediaResult(Family::SpriteCollection*, const QV
 /// Changes the selected sprites of the first operand.
 int editSprites(const Invocation& invocation, const SpriteEdit& edit)
 {
-    ProgressHost host;
-    const QString fileName = invocation.operands.first();
-    return changeFile(fileName, [&]() -> int {
-        const OpenSprites sprites(fileName);
-        if (!sprites) {
-            return NotDone;
-        }
+    return editSpriteFile(invocation.operands.first(), OpenSprites::There, [&](auto* sprites) {
         const QVector<int> rows = Operations::selectedRows(*sprites, invocation.selection);
-        if (rows.isEmpty()) {
-            return notDone(Text::tr("There is no such sprite."));
-        }
-        const int status = tell(edit(sprites.get(), rows));
-        return status == Fine ? sprites.save(fileName) : status;
+        return rows.isEmpty() ? notDone(Text::tr("There is no such sprite."))
+                              : tell(edit(sprites, rows));
     });
 }
 

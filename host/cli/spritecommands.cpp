@@ -1,10 +1,10 @@
-#include "cli/changing.h"
 #include "cli/cli.h"
 #include "cli/command.h"
 #include "cli/jsonlist.h"
 #include "cli/output.h"
 #include "cli/progresshost.h"
 #include "cli/results.h"
+#include "cli/spriteediting.h"
 #include "cli/spriteopening.h"
 #include "family/assets/newsprites.h"
 #include "family/assets/spritecollection.h"
@@ -172,15 +172,8 @@ int importSprites(const Invocation& invocation, Output&)
     if (!error.isEmpty()) {
         return notDone(error);
     }
-    ProgressHost host;
-    return changeFile(fileName, [&]() -> int {
-        const OpenSprites sprites(fileName, OpenSprites::OrNew);
-        if (!sprites) {
-            return NotDone;
-        }
-        const int status =
-            tell(Operations::importSprites(sprites.get(), files, importRequest(invocation)));
-        return status == Fine ? sprites.save(fileName) : status;
+    return editSpriteFile(fileName, OpenSprites::OrNew, [&](auto* sprites) {
+        return tell(Operations::importSprites(sprites, files, importRequest(invocation)));
     });
 }
 
