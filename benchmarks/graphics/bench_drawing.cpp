@@ -7,6 +7,7 @@
 #include "graphics/texture.h"
 #include "support/allocations.h"
 #include "support/bench.h"
+#include "support/glprogram.h"
 #include "support/gltest.h"
 
 #include <QApplication>
@@ -264,22 +265,17 @@ void measure(const Scene& scene, RenderWidget& widget, Frame& frame)
 
 int main(int argc, char** argv)
 {
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication application(argc, argv);
-    if (!isContextUsable()) {
-        std::puts("There is no display with GL: run this by scripts/bench.");
-        return 1;
-    }
-    Scene scene;
-    Frame frame(scene);
-    RenderWidget widget;
-    widget.resize(Stage);
-    widget.setRenderer(&frame);
-    widget.show();
-    widget.grabFramebuffer();
-    countCalls(scene, widget, frame);
-    countAllocations(frame);
-    measure(scene, widget, frame);
-    widget.setRenderer(nullptr);
-    return 0;
+    return Bench::withGl(argc, argv, [] {
+        Scene scene;
+        Frame frame(scene);
+        RenderWidget widget;
+        widget.resize(Stage);
+        widget.setRenderer(&frame);
+        widget.show();
+        widget.grabFramebuffer();
+        countCalls(scene, widget, frame);
+        countAllocations(frame);
+        measure(scene, widget, frame);
+        widget.setRenderer(nullptr);
+    });
 }

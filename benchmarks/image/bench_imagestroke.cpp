@@ -1,12 +1,12 @@
 // From an event of the mouse to the picture on the screen, in the middle of a stroke of 24 pixels
 // on eight layers: a large canvas beside a small one of which the same is shown.
 
-#include "graphics/glcontext.h"
 #include "graphics/renderwidget.h"
 #include "image/canvas/imagecanvas.h"
 #include "image/imagerenderer.h"
 #include "image/tools/basepentool.h"
 #include "support/bench.h"
+#include "support/glprogram.h"
 #include "support/testimagepalette.h"
 
 #include <QApplication>
@@ -110,13 +110,8 @@ void measure(ImageCanvas::Format format, const char* name)
 
 int main(int argc, char** argv)
 {
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication application(argc, argv);
-    if (!isContextUsable()) {
-        std::puts("There is no display with GL: run this by scripts/bench.");
-        return 1;
-    }
-    measure(ImageCanvas::IndexedFormat, "indexed");
-    measure(ImageCanvas::RGBAFormat, "true colour");
-    return 0;
+    return Bench::withGl(argc, argv, [] {
+        measure(ImageCanvas::IndexedFormat, "indexed");
+        measure(ImageCanvas::RGBAFormat, "true colour");
+    });
 }

@@ -1,11 +1,11 @@
 // What the person does to the view and to the palette, to the picture on the screen: a large canvas
 // beside a small one of which the same is shown. What is out of view must cost nothing.
 
-#include "graphics/glcontext.h"
 #include "graphics/renderwidget.h"
 #include "image/canvas/imagecanvas.h"
 #include "image/imagerenderer.h"
 #include "support/bench.h"
+#include "support/glprogram.h"
 #include "support/testimagepalette.h"
 
 #include <QApplication>
@@ -106,13 +106,8 @@ void measure(ImageCanvas::Format format, const char* name)
 
 int main(int argc, char** argv)
 {
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication application(argc, argv);
-    if (!isContextUsable()) {
-        std::puts("There is no display with GL: run this by scripts/bench.");
-        return 1;
-    }
-    measure(ImageCanvas::IndexedFormat, "indexed");
-    measure(ImageCanvas::RGBAFormat, "true colour");
-    return 0;
+    return Bench::withGl(argc, argv, [] {
+        measure(ImageCanvas::IndexedFormat, "indexed");
+        measure(ImageCanvas::RGBAFormat, "true colour");
+    });
 }
