@@ -67,6 +67,10 @@ def guards(body):
              f(1, 4, "guard", lean=-5, offset=(-1, 0)), f(2, 1, "guard", lean=-4)),
         play(44, "Guarded blow, crouched", held, f(0, 3, "crouch", lean=-5, offset=(-2, 0)),
              f(1, 1, "crouch", lean=-3)),
+        play("push-off", "Push off", held, f(0, 3, "guard", lean=-6),
+             f(2, 4, "guard", lean=-4, strike=(56, 70, 40)), f(1, 8, "guard", lean=-5),
+             f(2, 1, "guard", lean=-4), group=43,
+             comment="Out of a guarded blow: both hands forward."),
     ]
 
 

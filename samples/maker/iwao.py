@@ -106,8 +106,8 @@ def specials():
                  f(2, 3, lean=12, strike=(44, 60, 60)), f(3, 24, lean=6), f(4, 1), group=320),
             play("crane-turn", "Crane, with a load", held, f(0, 8, none), f(1, 4, none),
                  f(2, 4, none), f(3, 4, none, flip="h"), f(2, 4, none, flip="h"), f(1, 4, none),
-                 f(2, 4, none), f(3, 4, none, flip="h"), f(4, 6, none, scale=(1.15, 0.9)),
-                 f(5, 1), group=321, comment="Follows if somebody was caught. Two turns.")]),
+                 f(2, 4, none), f(3, 4, none, flip="h"), f(4, 6, none, scale=(1.15, 0.9),
+                   strike=(80, 70, 60)), f(5, 1), group=321, comment="Follows if somebody was caught. Two turns.")]),
         ("大波: the great wave, for a full bar of power", [
             play("大波", "大波 – great wave", held, f(0, 8, none), f(1, 24, none), f(2, 4, "low",
                  lean=8), *[f(3 + wave % 3, 5, "guard", lean=14, offset=(4 * wave, 0),

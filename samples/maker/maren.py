@@ -105,7 +105,8 @@ def specials():
             play("rope", "Rope", held, f(0, 5, lean=-6), f(1, 5, lean=-10), f(2, 3, lean=6),
                  f(3, 4, lean=10, strike=(96, 70, 18)), f(4, 12, lean=4), f(5, 1), group=320),
             play("rope-pull", "Rope, with a catch", held, f(0, 6, lean=8), f(1, 6, lean=-4),
-                 f(2, 6, lean=-12, offset=(-4, 0)), f(3, 4, lean=-6), f(4, 1), group=321,
+                 f(2, 6, lean=-12, offset=(-4, 0), strike=(124, 60, 60)),
+                 f(3, 4, lean=-6), f(4, 1), group=321,
                  comment="Follows if the loop has caught somebody.")]),
         ("Sjögång: the heavy sea, for a full bar of power", [
             play("sjögång", "Sjögång – heavy sea", held, f(0, 6, **none), f(1, 20, **none),

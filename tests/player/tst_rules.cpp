@@ -14,6 +14,7 @@
 #include <QJsonObject>
 #include <QRandomGenerator>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -272,6 +273,7 @@ private slots:
     void rule();
     void sampleMove_data();
     void sampleMove();
+    void everyMoveOfTheSamplesIsShown();
     void sampleFrames_data();
     void sampleFrames();
     void sameInputsGiveSameStates();
@@ -385,46 +387,76 @@ void TestRules::rule()
     }
 }
 
+// Scripts of the sample game, for which the other one is Iwao.
+const struct
+{
+    const char *fighter, *script, *move;
+} sampleScripts[] = {
+    {"maren", "1 L", "jab"},
+    {"maren", "1 M", "elbow"},
+    {"maren", "1 H", "round-kick"},
+    {"maren", "1 F;1 F+H", "axe-kick"},
+    {"maren", "3 D;1 DB+L", "low-jab"},
+    {"maren", "3 D;1 D+M", "low-kick"},
+    {"maren", "3 D;1 D+H", "sweep"},
+    {"maren", "8 U;1 L", "air-jab"},
+    {"maren", "8 U;1 M", "air-kick"},
+    {"maren", "8 U;1 H", "heel"},
+    {"maren", "1 F+L;1 F+L+M", "overboard"},
+    {"maren", "1 B+L+M", "undertow"},
+    {"maren", "1 F;1 -;5 F;1 F+M", "boarding"},
+    {"maren", "2 D;2 DF;2 F;1 F+L", "harpoon-l"},
+    {"maren", "2 D;2 DF;2 F;1 F+M", "harpoon-m"},
+    {"maren", "2 D;2 DF;2 F;1 F+H", "harpoon-h"},
+    {"maren", "1 F;1 D;1 DF;1 DF+L", "tide-l"},
+    {"maren", "1 DF;1 -;1 DF;1 M", "tide-m"},
+    {"maren", "1 F;1 D;1 DF;1 DF+H", "tide-h"},
+    {"maren", "2 D;2 DB;1 B+L", "rope"},
+    {"maren", "places -50 50;2 D;2 DB;1 B+L;40 -", "rope-pull"},
+    {"maren", "1 D;1 DF;1 F;1 D;1 DF;1 F;1 H", "sjögång"},
+    {"maren", "1 S", "taunt"},
+    {"maren", "places -25 25;1 - H;16 B;1 F;1 F+M+H;20 -", "push-off"},
+    {"maren", "places -20 20;10 U U;1 - L;28 -;1 L+M+H;4 -", "recover"},
+    {"iwao", "1 L", "palm"},
+    {"iwao", "1 M", "forearm"},
+    {"iwao", "1 H", "hammer"},
+    {"iwao", "1 F;1 F+H", "stomp"},
+    {"iwao", "3 D;1 DB+L", "low-palm"},
+    {"iwao", "3 D;1 D+M", "shove"},
+    {"iwao", "3 D;1 D+H", "barrel"},
+    {"iwao", "10 U;1 L", "air-palm"},
+    {"iwao", "10 U;1 M", "belly"},
+    {"iwao", "10 U;1 H", "drop"},
+    {"iwao", "1 F+L+M", "load"},
+    {"iwao", "1 B+L+M", "unload"},
+    {"iwao", "35 B;1 F;1 F+L", "charge-l"},
+    {"iwao", "35 B;1 F;1 F+M", "charge-m"},
+    {"iwao", "35 B;1 F;1 F+H", "charge-h"},
+    {"iwao", "35 DB;1 U;1 U+L", "bell-l"},
+    {"iwao", "35 DB;1 U;1 U+M", "bell-m"},
+    {"iwao", "1 D;1 -;1 D;1 H", "bell-h"},
+    {"iwao", "1 F;1 DF;1 D;1 DB;1 B;1 B+L", "crane"},
+    {"iwao", "places -22 22;1 F;1 DF;1 D;1 DB;1 B;1 B+L;60 -", "crane-turn"},
+    {"iwao", "1 F;1 -;5 F;1 F+H", "cart"},
+    {"iwao", "1 D;1 DB;1 B;1 D;1 DB;1 B;1 H", "大波"},
+    {"iwao", "1 S", "taunt"},
+    {"iwao", "places -30 30;1 - L;8 B;1 F;1 F+M+H;20 -", "push-off"},
+    {"iwao", "places -20 20;10 U U;1 - L;28 -;1 L+M+H;4 -", "recover"},
+};
+
 void TestRules::sampleMove_data()
 {
-    columns<QString, QString>("fighter", "script");
-    const struct
-    {
-        const char *fighter, *script, *move;
-    } rows[] = {
-        {"maren", "1 L", "jab"},
-        {"maren", "1 M", "elbow"},
-        {"maren", "1 H", "round-kick"},
-        {"maren", "1 F;1 F+H", "axe-kick"},
-        {"maren", "3 D;1 DB+L", "low-jab"},
-        {"maren", "3 D;1 D+M", "low-kick"},
-        {"maren", "3 D;1 D+H", "sweep"},
-        {"maren", "8 U;1 L", "air-jab"},
-        {"maren", "8 U;1 M", "air-kick"},
-        {"maren", "8 U;1 H", "heel"},
-        {"maren", "1 F+L;1 F+L+M", "overboard"},
-        {"maren", "1 B+L+M", "undertow"},
-        {"maren", "1 F;1 -;5 F;1 F+M", "boarding"},
-        {"maren", "2 D;2 DF;2 F;1 F+M", "harpoon-m"},
-        {"maren", "1 F;1 D;1 DF;1 DF+H", "tide-h"},
-        {"maren", "2 D;2 DB;1 B+L", "rope"},
-        {"maren", "1 D;1 DF;1 F;1 D;1 DF;1 F;1 H", "sjögång"},
-        {"maren", "1 S", "taunt"},
-        {"iwao", "35 B;1 F;1 F+L", "charge-l"},
-        {"iwao", "35 DB;1 U;1 U+M", "bell-m"},
-        {"iwao", "1 D;1 -;1 D;1 H", "bell-h"},
-        {"iwao", "1 F;1 DF;1 D;1 DB;1 B;1 B+L", "crane"},
-        {"iwao", "1 F;1 -;5 F;1 F+H", "cart"},
-        {"iwao", "1 D;1 DB;1 B;1 D;1 DB;1 B;1 H", "大波"},
-    };
-    for (const auto& each : rows) {
-        row(each.move, QString(each.fighter), QString(each.script));
+    columns<QString, QString, QString>("fighter", "script", "move");
+    for (const auto& each : sampleScripts) {
+        const QByteArray name = QByteArray(each.fighter) + ": " + each.move;
+        row(name.constData(), QString(each.fighter), QString(each.script), QString(each.move));
     }
 }
 
+/// The move starts, and those of these that cannot be met by chance also hit.
 void TestRules::sampleMove()
 {
-    const auto [fighter, text] = fetched<QString, QString>();
+    const auto [fighter, text, move] = fetched<QString, QString, QString>();
     Game game;
     QVERIFY(load(ZORV_SAMPLES "/arena", fighter, "iwao", &game));
     Player::Script script;
@@ -432,11 +464,34 @@ void TestRules::sampleMove()
     QVERIFY(script.read("places -200 200\npower 3000 0\n1 -\n" + QString(text).replace(';', '\n'),
                         &error));
     State state = firstState(game);
-    script.run(game, &state, [](const State&) { return true; });
-    const int move = state.fighters[0].move;
-    QCOMPARE(move < 0 ? Player::actionName(state.fighters[0].action)
-                      : game.fighters[0].moves.at(move).name,
-             QString::fromUtf8(QTest::currentDataTag()));
+    QSet<QString> met[2];
+    script.run(game, &state, [&](const State& now) {
+        for (int i = 0; i < now.eventCount; ++i) {
+            const Event& event = now.events[i];
+            if (event.fighter == 0 && event.move >= 0) {
+                met[event.kind == Event::Hit].insert(game.fighters[0].moves.at(event.move).name);
+            }
+        }
+        return true;
+    });
+    QVERIFY(met[0].contains(move));
+    const QStringList followers{"rope-pull", "crane-turn", "push-off"};
+    QCOMPARE(met[1].contains(move), followers.contains(move));
+}
+
+void TestRules::everyMoveOfTheSamplesIsShown()
+{
+    for (const QString& fighter : {QString("maren"), QString("iwao")}) {
+        Game game;
+        QVERIFY(load(ZORV_SAMPLES "/arena", fighter, fighter, &game));
+        for (const Move& move : qAsConst(game.fighters[0].moves)) {
+            const bool isShown = std::any_of(
+                std::begin(sampleScripts), std::end(sampleScripts), [&](const auto& each) {
+                    return fighter == each.fighter && move.name == each.move;
+                });
+            QVERIFY2(isShown, qPrintable(fighter + ": " + move.name));
+        }
+    }
 }
 
 void TestRules::sampleFrames_data()
