@@ -3,6 +3,7 @@
 #include "family/grammar/motion.h"
 #include "picture/scene.h"
 #include "rules/tick.h"
+#include "sound/matchsounds.h"
 
 #include <zorv/code/codecs/filetext.h>
 #include <zorv/core/filesystemarchive.h>
@@ -31,6 +32,8 @@ PlayWindow::PlayWindow(std::unique_ptr<LoadedMatch> match)
     : m_match(std::move(match)), m_notesLeft(NotesTicks)
 {
     m_scene = std::make_unique<Scene>(m_match->game, m_match->looks, m_match->stage);
+    m_sounds = std::make_unique<MatchSounds>(*m_match);
+    m_match->notes += m_sounds->notes();
     readKeys();
     beginMatch();
     resize(UsualSize);
@@ -72,6 +75,7 @@ void PlayWindow::goOn()
 {
     Rules::tick(m_match->game, m_inputs, &m_state);
     m_scene->see(m_state);
+    m_sounds->see(m_state);
     m_notesLeft -= m_notesLeft > 0;
     paintNow();
     emit ticked();

@@ -12,6 +12,7 @@
 
 namespace Player {
 
+class MatchSounds;
 class Scene;
 
 /// The window in which two people play a match at one keyboard.
@@ -54,6 +55,7 @@ private:
 
     std::unique_ptr<LoadedMatch> m_match;
     std::unique_ptr<Scene> m_scene;
+    std::unique_ptr<MatchSounds> m_sounds;
     Rules::State m_state;
     Rules::Inputs m_inputs;
     Keymap m_keys;

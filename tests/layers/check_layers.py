@@ -41,8 +41,9 @@ LAYERS = {
     "player/rules/": 20,
     "player/picture/": 21,
     "player/script/": 21,
-    "player/window/": 22,
-    "player/main.cpp": 23,
+    "player/sound/": 22,
+    "player/window/": 23,
+    "player/main.cpp": 24,
     "host/operations/": 21,
     "host/cli/": 22,
     "host/app/look/": 23,
@@ -88,7 +89,8 @@ EXCEPTIONS = {
 WIDGET_FREE_HEADERS = ["src/text/", "src/core/", "src/code/", "src/cache/", "src/media/"]
 WIDGET_HEADERS_ALLOWED = ["src/core/dialogs/"]
 WIDGET_FREE_FILES = ["host/family/", "host/operations/", "host/cli/", "player/rules/",
-                     "player/script/", "player/picture/", "player/window/"]
+                     "player/script/", "player/picture/", "player/sound/",
+                     "player/window/"]
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"]+)[>"]', re.MULTILINE)
 
