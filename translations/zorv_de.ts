@@ -7257,6 +7257,10 @@ Ticks: ---</translation>
         <source>Sound %1 would be called &apos;%2&apos;, which is no identifier that a sound can have. Nothing is replaced. Write one like those in the list.</source>
         <translation>Klang %1 hieße dann &apos;%2&apos;, doch das kann keine Kennung eines Klangs sein. Nichts wird ersetzt. Bitte eine wie die in der Liste schreiben.</translation>
     </message>
+    <message>
+        <source>%1: the sound is not there any more.</source>
+        <translation>%1: Den Klang gibt es nicht mehr.</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::SoundOutput</name>

@@ -325,14 +325,19 @@ void SoundEditorPrivate::saveSndAs()
     rememberFolder(chosen);
     const std::unique_ptr<ItemsDialog> dialog(
         host->itemsDialog(host->mainWindow(), title, sounds, current()));
+    const QMetaObject::Connection closing =
+        connect(sounds, &QObject::destroyed, dialog.get(), &QDialog::reject);
     const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog->hasSelection();
+    disconnect(closing);
     const QList<int> rows = dialog->selected();
     dialog->release();
     if (!isAccepted || !from || from != sounds) {
         return;
     }
     QStringList ids;
+    QVector<const Sound*> chosenSounds;
     for (const int row : rows) {
+        chosenSounds.append(sounds->sound(row));
         ids.append(sounds->sound(row)->property(QStringLiteral("Identifier")).toString());
     }
     const bool isOne = rows.size() == 1;
@@ -345,8 +350,12 @@ void SoundEditorPrivate::saveSndAs()
         const QScopedValueRollback<bool> busy(isBusy, true);
         Progress progress(title, rows.size());
         for (int i = 0; i < rows.size() && from && from == sounds; ++i) {
+            // The file may have been read again behind a dialog.
             const Sound* each = from->sound(rows[i]);
-            if (!each || !write(*each, names[i], &unopened) || !progress.step()) {
+            if (!each || each != chosenSounds[i]) {
+                unopened.append(
+                    SoundEditor::tr("%1: the sound is not there any more.").arg(names[i]));
+            } else if (!write(*each, names[i], &unopened) || !progress.step()) {
                 break;
             }
         }

@@ -1,3 +1,4 @@
+#include "core/filesystemarchive.h"
 #include "editors/sound/audiosamplewidget.h"
 #include "editors/sound/resampledlg.h"
 #include "editors/sound/sndimportdlg.h"
@@ -7,6 +8,8 @@
 #include "media/soundconversion.h"
 #include "media/soundedits.h"
 #include "media/wav.h"
+#include "support/faultshim.h"
+#include "support/folders.h"
 #include "support/planneddialogs.h"
 #include "support/plannedsound.h"
 #include "support/testinterface.h"
@@ -14,6 +17,7 @@
 #include "support/testsounds.h"
 #include "support/testtable.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -26,6 +30,8 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
+
+#include <cerrno>
 
 using namespace Zorv;
 using Family::SoundFile;
@@ -60,6 +66,8 @@ private slots:
     void stepsThroughSounds();
     void addsReplacesAndRemoves();
     void savesUnderNamesOfTheirOwn();
+    void failedSavesLoseNothing_data();
+    void failedSavesLoseNothing();
     void resamplesWhatDiffers();
     void resamplingEndsEarly_data();
     void resamplingEndsEarly();
@@ -69,9 +77,15 @@ private slots:
     void importsFromAnotherProject_data();
     void importsFromAnotherProject();
     void plays();
+    void statesAreShown_data();
+    void statesAreShown();
+    void projectGoes_data();
+    void projectGoes();
+    void staysWithOddSamples();
     void anythingCanBeUndone();
 
 private:
+    static void answer(QDialog* dialog, QRandomGenerator* random);
     void trigger(const char* name) { host->actions.value(QLatin1String(name))->trigger(); }
     QString label(const char* name)
     {
@@ -279,6 +293,54 @@ void TestSoundEditor::savesUnderNamesOfTheirOwn()
     QCOMPARE(failed.count(), 1);
 }
 
+void TestSoundEditor::failedSavesLoseNothing_data()
+{
+    columns<int, int>("call", "error");
+    row("a folder that is not to be written", int(FaultOpen), EACCES);
+    row("a disk that is not to be written", int(FaultOpen), EROFS);
+    row("a full disk", int(FaultWrite), ENOSPC);
+    row("a disk with an error", int(FaultSync), EIO);
+    row("full at the end", int(FaultClose), ENOSPC);
+    row("a file that cannot be replaced", int(FaultRename), EACCES);
+}
+
+/// Of three sounds the second cannot be written; nor can the file of all of them.
+void TestSoundEditor::failedSavesLoseNothing()
+{
+    const auto [call, error] = fetched<int, int>();
+    const QString old = folder->filePath("out_1-5.wav");
+    const QString whole = folder->filePath("a.sounds");
+    Archive* archive = FileSystemArchive::instance();
+    QVERIFY(sounds->toFile(*archive, whole, false));
+    const QByteArray before = readFile(whole);
+    QVERIFY(writeFile(old, "mine"));
+    QString told;
+    connect(editor.get(), &SoundEditor::saveFailed, this,
+            [&](const QString& text) { told = text; });
+    dialogs->fileAnswers = {{folder->filePath("out.wav")}};
+    dialogs->buttonAnswers = {Dialogs::Yes};
+    whenOpen([&, call = call, error = error](QDialog* dialog) {
+        dialog->findChild<QListView*>()->selectAll();
+        faultArm("out_1-5", FaultCall(call), 1, error, call == FaultWrite);
+        dialog->accept();
+    });
+    trigger("snd_save_sample");
+    told += dialogs->texts("error").join('\n');
+    QVERIFY2(told.contains(old) && told.contains(qt_error_string(error)), qPrintable(told));
+    QCOMPARE(readFile(old), QByteArray("mine"));
+    QFile first(folder->filePath("out_0-0.wav"));
+    QCOMPARE(soundFromWAV(&first).data, noise(400, 0));
+
+    sounds->remove(1);
+    faultArm("a.sounds", FaultCall(call), 1, error, call == FaultWrite);
+    QVERIFY(!sounds->toFile(*archive, whole, false));
+    faultArm("", FaultOpen, 0, 0, 0);
+    QVERIFY2(sounds->errorString().contains(qt_error_string(error)),
+             qPrintable(sounds->errorString()));
+    QVERIFY(sounds->isModified());
+    QCOMPARE(readFile(whole), before);
+}
+
 void TestSoundEditor::resamplesWhatDiffers()
 {
     const QVector<QByteArray> before = content();
@@ -455,9 +517,198 @@ void TestSoundEditor::plays()
     QCOMPARE(int(workspace->currentState()), int(SoundSample::StoppedState));
 }
 
+void TestSoundEditor::statesAreShown_data()
+{
+    columns<QString, QString>("plan", "shown");
+    row("played to the end", QStringLiteral("playri"), QStringLiteral("PS"));
+    row("late, but not at the end", QStringLiteral("playia"), QStringLiteral("P.P"));
+    row("a loop is never at its end", QStringLiteral("loopria"), QStringLiteral("L.L"));
+    row("suspended by the system", QStringLiteral("playua"), QStringLiteral("P-P"));
+    row("stopped by the system", QStringLiteral("playx"), QStringLiteral("PS"));
+    row("played again", QStringLiteral("playxplayri"), QStringLiteral("PSPS"));
+    row("gone while it plays", QStringLiteral("playf"), QStringLiteral("PS"));
+    row("gone and back", QStringLiteral("playfbplay"), QStringLiteral("PSP"));
+    row("gone before", QStringLiteral("fplaybloop"), QStringLiteral("L"));
+    row("looping no more", QStringLiteral("looptri"), QStringLiteral("LPS"));
+}
+
+/// "play" and "loop" by their actions, "t" ends looping; the device: "r" reads all, "i" is idle,
+/// "a" active, "u" suspended, "x" stopped, "f" fails, "b" is back. What the actions say behind each
+/// of these that changes it: P, L, S, - for none; "." while it is idle.
+void TestSoundEditor::statesAreShown()
+{
+    const auto [plan, shown] = fetched<QString, QString>();
+    workspace->sampleWidget()->showNow();
+    QString seen;
+    QString last = QStringLiteral("S");
+    for (int i = 0; i < plan.size(); ++i) {
+        PlannedOutput* output = devices->output;
+        if (plan.mid(i, 4) == "play" || plan.mid(i, 4) == "loop") {
+            trigger(plan.mid(i, 4) == "play" ? "snd_play" : "snd_play_loop");
+            i += 3;
+        } else if (plan[i] == 't') {
+            trigger("snd_play_loop");
+        } else if (plan[i] == 'r') {
+            output->stream->read(100000);
+        } else if (plan[i] == 'f') {
+            devices->isGone = true;
+            output->fails = true;
+            output->become(SoundOutput::Active);
+            output->become(SoundOutput::Stopped);
+        } else if (plan[i] == 'b') {
+            devices->isGone = false;
+        } else {
+            output->become(plan[i] == 'i'   ? SoundOutput::Idle
+                           : plan[i] == 'a' ? SoundOutput::Active
+                           : plan[i] == 'u' ? SoundOutput::Suspended
+                                            : SoundOutput::Stopped);
+        }
+        const auto isOn = [&](const char* name) { return host->actions.value(name)->isChecked(); };
+        const QString now = isOn("snd_play")        ? "P"
+                            : isOn("snd_play_loop") ? "L"
+                            : isOn("snd_stop")      ? "S"
+                                                    : "-";
+        const bool isIdle = devices->output && devices->output->now == SoundOutput::Idle;
+        seen += isIdle ? "." : now != last || seen.endsWith('.') ? now : QString();
+        last = now;
+    }
+    QCOMPARE(seen, shown);
+}
+
+void TestSoundEditor::projectGoes_data()
+{
+    columns<QString>("during");
+    for (const char* during :
+         {"snd_play", "snd_play_loop", "slider", "waveform", "snd_add", "snd_open_sample",
+          "snd_delete", "snd_save_sample", "snd_resample", "snd_import_proj", "items"}) {
+        row(during, QString(during));
+    }
+}
+
+void TestSoundEditor::projectGoes()
+{
+    const auto [during] = fetched<QString>();
+    host->options["confirm_delete"] = true;
+    workspace->sampleWidget()->showNow();
+    TestProject* other = parent->open(QStringLiteral("b.txt"), {});
+    host->projects.append(other);
+    other->addFile(new SoundFile, FileID::Sounds);
+    dialogs->fileAnswers = {{wav("5,5.wav", soundOf(noise(100, 9)))}};
+    dialogs->buttonAnswers = {Dialogs::Yes};
+    bool isClosed = false;
+    const auto close = [&] {
+        if (!isClosed) {
+            isClosed = true;
+            host->projects.removeOne(project);
+            parent->close(project);
+        }
+    };
+    auto* slider = qobject_cast<QSlider*>(host->controls.value("snd_sel"));
+    if (during == "slider") {
+        slider->setSliderDown(true);
+        slider->setSliderPosition(1);
+    } else if (during == "waveform") {
+        QTest::mousePress(workspace->sampleWidget(), Qt::LeftButton, {}, {10, 10});
+    } else {
+        const bool isLater = during == "items" || during.startsWith("snd_play");
+        dialogs->whileOpen = [&](const PlannedDialogs::Shown&) { isLater ? void() : close(); };
+        whenOpen([&](QDialog* dialog) {
+            close();
+            dialog->accept();
+        });
+        trigger(during == "items" ? "snd_save_sample" : during.toLatin1().constData());
+    }
+    close();
+    QVERIFY(!sounds && !editor->file() && !editor->sound());
+    QCOMPARE(label("snd_sel_lb"), QStringLiteral("0 / 0"));
+    QCOMPARE(int(workspace->currentState()), int(SoundSample::StoppedState));
+    QTest::mouseMove(workspace->sampleWidget(), {40, 10});
+    QTest::mouseRelease(workspace->sampleWidget(), Qt::LeftButton, {}, {40, 10});
+    slider->setSliderDown(false);
+    for (QAction* action : qAsConst(host->actions)) {
+        action->trigger();
+    }
+    QTest::qWait(200);
+    QVERIFY(workspace->sampleWidget()->sample().data.isEmpty());
+}
+
+void TestSoundEditor::staysWithOddSamples()
+{
+    const struct
+    {
+        int channels, bits, rate, frames, bytes;
+    } forms[] = {{1, 16, 22050, 0, 0},  {1, 16, 22050, 1, 2},       {1, 16, 1, 40, 80},
+                 {8, 8, 22050, 9, 72},  {1, 16, 384000, 100, 200},  {2, 24, 22050, 100, 301},
+                 {1, 16, 0, 100, 200},  {0, 16, 22050, 100, 200},   {16, 16, 22050, 9, 288},
+                 {1, 12, 22050, 9, 18}, {1, 16, INT_MIN, 100, 200}, {1, 0, 22050, 9, 18}};
+    for (const auto& form : forms) {
+        SoundSample odd;
+        odd.channels = quint16(form.channels);
+        odd.bits = quint16(form.bits);
+        odd.sampleRate = form.rate;
+        odd.frames = form.frames;
+        odd.data = noise(form.bytes, 1);
+        sounds->add(1, {}, odd);
+    }
+    const QVector<QByteArray> before = content();
+    for (int row = 0; row < int(sounds->count()); ++row) {
+        editor->navigateTo({}, unsigned(row), 0, 0);
+        int steps = 0;
+        for (const char* name : {"snd_play", "snd_trim", "snd_fade_in", "snd_fade_out",
+                                 "snd_normalize", "snd_silence", "snd_duplicate"}) {
+            workspace->sampleWidget()->showNow();
+            editor->selectAll();
+            const QVector<QByteArray> now = content();
+            trigger(name);
+            steps += content() != now;
+        }
+        resample({row}, "8000 Hz", 2);
+        while (content() != before && steps-- > -2) {
+            editor->undo();
+        }
+        QCOMPARE(content(), before);
+    }
+}
+
+/// Answers whatever dialog comes, by chance.
+void TestSoundEditor::answer(QDialog* dialog, QRandomGenerator* random)
+{
+    const QList<QListView*> lists = dialog->findChildren<QListView*>();
+    for (QListView* list : lists) {
+        random->bounded(2) ? list->selectAll() : list->clearSelection();
+    }
+    const QList<QAbstractButton*> buttons = dialog->findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons) {
+        const bool isEnd = qobject_cast<QDialogButtonBox*>(button->parentWidget());
+        if (!isEnd && random->bounded(2)) {
+            button->click();
+        }
+    }
+    const QList<QComboBox*> boxes = dialog->findChildren<QComboBox*>();
+    for (QComboBox* box : boxes) {
+        box->setCurrentIndex(random->bounded(qMax(box->count(), 1)));
+    }
+    auto* rate = dialog->findChild<QComboBox*>("samplerate");
+    if (rate && rate->currentIndex() > 5) {
+        rate->setCurrentIndex(0);  // the others only take longer
+    }
+    random->bounded(3) ? dialog->accept() : dialog->reject();
+}
+
+/// All of the menu, and the device as it likes.
 void TestSoundEditor::anythingCanBeUndone()
 {
-    const QString file = wav("4,4.wav", soundOf(noise(64, 3), 2, 8));
+    TestProject* other = parent->open(QStringLiteral("b.txt"), {});
+    host->projects.append(other);
+    auto* source = new SoundFile;
+    other->addFile(source, FileID::Sounds);
+    source->add(0, QStringLiteral("1,5"), soundOf(noise(60, 4), 2, 8));
+    QFile text(folder->filePath("no.wav"));
+    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no sound") > 0);
+    text.close();
+    const QStringList files{wav("4,4.wav", soundOf(noise(64, 3), 2, 8)), text.fileName(),
+                            folder->filePath("none.wav"), folder->filePath("out.wav")};
+    host->options["confirm_delete"] = true;
     const QVector<QByteArray> before = content();
     const int steps = [this] {
         int count = 0;
@@ -470,23 +721,48 @@ void TestSoundEditor::anythingCanBeUndone()
         return count;
     }();
     QRandomGenerator random(qEnvironmentVariableIntValue("ZORV_TEST_SEED") + 12);
-    const char* const names[] = {
-        "snd_add",      "snd_delete",    "snd_duplicate", "snd_open_sample",
-        "snd_play",     "snd_play_loop", "snd_trim",      "snd_fade_in",
-        "snd_fade_out", "snd_normalize", "snd_silence",   "snd_next",
-        "snd_prev",     "snd_stop",      "resample",      "replace"};
-    for (int i = 0; i < 150; ++i) {
-        const QByteArray name = names[random.bounded(16)];
-        dialogs->fileAnswers = {{file}};
-        workspace->sampleWidget()->showNow();
-        workspace->sampleWidget()->setSelection({random.bounded(20), random.bounded(20)});
+    QTimer person;
+    connect(&person, &QTimer::timeout, this, [&] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            answer(dialog, &random);
+        }
+    });
+    person.start(1);
+    QList<QByteArray> names{"replace", "undo", "redo", "slider", "device"};
+    for (const QString& name : host->actions.keys()) {
+        if (name.startsWith("snd_")) {
+            names.append(name.toLatin1());
+        }
+    }
+    const int rounds = qMax(qEnvironmentVariableIntValue("ZORV_TEST_RUNS"), 1) * 200;
+    for (int i = 0; i < rounds; ++i) {
+        const QByteArray name = names[random.bounded(names.size())];
+        const QString first = files[random.bounded(files.size())];
+        dialogs->fileAnswers = {random.bounded(5) ? QStringList{first, files[0]} : QStringList()};
+        dialogs->buttonAnswers = {random.bounded(2) ? Dialogs::Yes : Dialogs::No};
+        host->cancelAfter = random.bounded(3) ? -1 : random.bounded(3);
+        if (random.bounded(3)) {
+            workspace->sampleWidget()->showNow();
+            workspace->sampleWidget()->setSelection({random.bounded(20), random.bounded(20)});
+        }
         if (name == "replace") {
             editor->replace(QStringLiteral("*"), QStringLiteral("3,%1").arg(i), 8,
                             random.bounded(2));
-        } else if (name == "resample" && editor->sound()) {
-            resample({0, int(sounds->count()) - 1}, random.bounded(2) ? "8000 Hz" : "44100 Hz",
-                     1 + random.bounded(2));
-        } else if (name != "resample") {
+        } else if (name == "undo" || name == "redo") {
+            const bool isBack = sounds->steps().canUndo() && name == "undo" && i % 3 == 0;
+            isBack ? editor->undo() : editor->redo();
+        } else if (name == "slider") {
+            auto* slider = qobject_cast<QSlider*>(host->controls.value("snd_sel"));
+            slider->setSliderDown(random.bounded(2));
+            slider->setSliderPosition(random.bounded(8));
+        } else if (name == "device") {
+            devices->isGone = random.bounded(3) == 0;
+            devices->only = random.bounded(2) ? soundOf({}, 2, 8) : SoundSample();
+            if (devices->output) {
+                devices->output->fails = devices->isGone;
+                devices->output->become(SoundOutput::State(random.bounded(4)));
+            }
+        } else {
             trigger(name.constData());
         }
         QCOMPARE(
@@ -494,12 +770,14 @@ void TestSoundEditor::anythingCanBeUndone()
             sounds->count() == 0
                 ? QStringLiteral("0 / 0")
                 : QStringLiteral("%1 / %2").arg(sounds->currentIndex + 1).arg(sounds->count()));
+        QCOMPARE(editor->sound(), sounds->sound(sounds->currentIndex));
     }
+    person.stop();
     int count = 0;
     for (; sounds->canUndo(); ++count) {
         editor->undo();
     }
-    QVERIFY(count > steps + 20);
+    QVERIFY(count > steps);
     for (int i = 0; i < steps; ++i) {
         editor->redo();
     }
