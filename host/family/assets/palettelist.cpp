@@ -14,9 +14,17 @@ namespace Family {
 
 namespace {
 
+/// The colours as they are compared: entry 0 is what shines through, whatever its alpha.
+PaletteColors compared(PaletteColors colors)
+{
+    colors[0].a = 255;
+    return colors;
+}
+
 quint64 checksum(const PaletteColors& colors)
 {
-    return Zorv::crc64(&colors[0].r, sizeof colors);
+    const PaletteColors same = compared(colors);
+    return Zorv::crc64(&same[0].r, sizeof same);
 }
 
 PaletteColors toColors(const Zorv::RGBA (&colors)[256])
@@ -224,14 +232,18 @@ FamilyPalette* PaletteList::byId(AssetId id) const
 
 FamilyPalette* PaletteList::byColors(const PaletteColors& colors) const
 {
+    FamilyPalette* alike = nullptr;
     if (m_colorSets.contains(checksum(colors))) {
         for (const ItemPtr& palette : items()) {
             if (palette->state.colors == colors) {
                 return palette.get();
             }
+            if (!alike && compared(palette->state.colors) == compared(colors)) {
+                alike = palette.get();
+            }
         }
     }
-    return nullptr;
+    return alike;
 }
 
 const FamilyPalette* PaletteList::shown(const FamilyPalette* palette) const

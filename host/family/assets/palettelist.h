@@ -58,13 +58,14 @@ public:
     /// The first palette with that identifier; null if there is none.
     FamilyPalette* byId(AssetId id) const;
 
-    /// The first palette with exactly these colours, null if there is none.
+    /// The first palette with exactly these colours; else the first that differs in nothing but the
+    /// alpha of entry 0, which programs tell differently of the same palette. Null without one.
     FamilyPalette* byColors(const PaletteColors& colors) const;
 
     /// What a palette is shown as: the one that a remap names, else itself. One step only.
     const FamilyPalette* shown(const FamilyPalette* palette) const;
 
-    /// Adds a palette with a free identifier, unless the list has one with these colours.
+    /// Adds a palette with a free identifier, unless `byColors()` finds one.
     FamilyPalette* ensure(const PaletteColors& colors);
 
     /// For each palette of another collection the first one here with its colours, else a copy
@@ -115,7 +116,7 @@ private:
     bool m_countChanged = false;
     quint64 m_shownRevision = 0;
     QHash<quint32, int> m_ids;        // how many palettes have each
-    QHash<quint64, int> m_colorSets;  // likewise of each checksum of colours
+    QHash<quint64, int> m_colorSets;  // likewise of each checksum of colours, see `byColors()`
 };
 
 }  // namespace Family
