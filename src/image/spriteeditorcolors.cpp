@@ -81,7 +81,8 @@ void SpriteEditorPrivate::showOwnColors()
         // While a file is read anew its sprites are there before its palettes.
         const Palettes* all = palettes->palettes();
         const bool isListed = all && all->palette(int(palette->index())) == palette;
-        if (isListed && palettes->currentPalette() != palette) {
+        const bool isShown = palettes->currentPalette() == palette && !palettes->isPreviewing();
+        if (isListed && !isShown) {
             palettes->setCurrentPalette(palette);
         }
         return;
@@ -95,7 +96,8 @@ void SpriteEditorPrivate::showOwnColors()
 bool SpriteEditorPrivate::isPreview() const
 {
     const Sprite* now = sprite();
-    return now && (isOtherColors || palettes->currentPalette() != now->palette());
+    return now && (isOtherColors || palettes->isPreviewing() ||
+                   palettes->currentPalette() != now->palette());
 }
 
 /// Colours that are only looked at decide no pixel.

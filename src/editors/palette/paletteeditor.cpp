@@ -66,7 +66,7 @@ int PaletteEditorPrivate::count() const
 
 bool PaletteEditorPrivate::hasRow() const
 {
-    return row() >= 0 && row() < count();
+    return !isOther && row() >= 0 && row() < count();
 }
 
 void PaletteEditorPrivate::take(Palettes* now)
@@ -82,6 +82,7 @@ void PaletteEditorPrivate::take(Palettes* now)
     }
     palettes = now;
     palette = nullptr;
+    isOther = isPreview = false;
     sprites = now ? now->sprites() : nullptr;
     remapModel = now ? now->remapModel() : nullptr;
     if (now) {
@@ -111,6 +112,10 @@ void PaletteEditorPrivate::updateRange()
     if (!palettes) {
         return;
     }
+    if (isOther) {
+        keepOthers();
+        return;
+    }
     {
         const Inhibit guard(this);
         if (slider) {
@@ -125,6 +130,26 @@ void PaletteEditorPrivate::updateRange()
     selPosChanged(row());
 }
 
+/// Colours of no palette stay in sight when the panel comes back, or when palettes come and go.
+void PaletteEditorPrivate::keepOthers()
+{
+    const Inhibit guard(this);
+    palettes->setCurrent(count());
+    if (slider) {
+        slider->setRange(0, std::max(count() - 1, 0));
+    }
+    emit enabled(false);
+}
+
+void PaletteEditorPrivate::fillGrid(const RGBA (&colors)[256])
+{
+    if (view) {
+        const Inhibit guard(this);
+        view->palette()->fromPalette(colors);
+        view->flatten();
+    }
+}
+
 void PaletteEditorPrivate::definePos(int pos)
 {
     {
@@ -137,6 +162,7 @@ void PaletteEditorPrivate::definePos(int pos)
 void PaletteEditorPrivate::showNone()
 {
     palette = nullptr;
+    isOther = isPreview = false;
     if (view) {
         const Inhibit guard(this);
         emit setPosText(QStringLiteral("0 / 0"));
@@ -162,6 +188,10 @@ void PaletteEditorPrivate::selPosChanged(int pos)
         showNone();
         return;
     }
+    if (isOther) {
+        emit enabled(true);
+    }
+    isOther = isPreview = false;
     {
         const Inhibit guard(this);
         emit setPosText(
@@ -172,9 +202,8 @@ void PaletteEditorPrivate::selPosChanged(int pos)
         palette->toPalette(colors);
         if (view) {
             view->setMovable(true);
-            view->palette()->fromPalette(colors);
-            view->flatten();
         }
+        fillGrid(colors);
     }
     emit editor->currentPaletteChanged();
 }
@@ -195,7 +224,7 @@ void PaletteEditorPrivate::nextPal()
 
 void PaletteEditorPrivate::palChanged(bool structure)
 {
-    if (structure) {
+    if (structure || isOther) {
         palette = nullptr;
         updateRange();
     } else if (palette && editor->canChangeFieldValue()) {
@@ -309,16 +338,38 @@ void PaletteEditor::showColors(const RGBA (&colors)[256])
     if (d->palettes && d->palette) {
         d->definePos(d->count());
     }
-    if (d->view) {
-        const PaletteEditorPrivate::Inhibit guard(d.get());
-        d->view->palette()->fromPalette(colors);
-        d->view->flatten();
+    d->fillGrid(colors);
+    d->isOther = true;
+    emit d->enabled(false);
+}
+
+void PaletteEditor::previewColors(const RGBA* colors)
+{
+    if (!d->palette || (!colors && !d->isPreview)) {
+        return;
     }
+    if (!colors) {
+        d->selPosChanged(d->row());
+        return;
+    }
+    RGBA shown[256];
+    std::copy_n(colors, std::size(shown), shown);
+    d->isPreview = true;
+    if (d->view) {
+        d->view->setMovable(false);
+    }
+    d->fillGrid(shown);
+    emit currentPaletteChanged();
+}
+
+bool PaletteEditor::isPreviewing() const
+{
+    return d->isPreview;
 }
 
 bool PaletteEditor::canChangeFieldValue() const
 {
-    return isActive() && d->inhibit == 0 && d->palette;
+    return isActive() && d->inhibit == 0 && d->palette && !d->isPreview;
 }
 
 void PaletteEditor::switchToSprites()

@@ -90,6 +90,12 @@ public:
     /// Shows colours that are of no palette, to be chosen from but not to be edited.
     void showColors(const RGBA (&colors)[256]);
 
+    /// Shows the current palette in other colours, for a dialog that is about to change it. The
+    /// palette stays, nothing can be edited meanwhile, and showing any palette ends it.
+    /// Null shows the palette as it is again. Nothing without a current palette.
+    void previewColors(const RGBA* colors);
+    bool isPreviewing() const;
+
     /// True if an edit in the grid would reach a palette.
     bool canChangeFieldValue() const;
 

@@ -27,6 +27,8 @@ public:
 
     // paletteeditor.cpp
     void updateRange();
+    void keepOthers();
+    void fillGrid(const RGBA (&colors)[256]);
     void definePos(int pos);
     void take(Palettes* now);
     void showNone();
@@ -65,6 +67,8 @@ public:
     QPointer<QSlider> slider;
     QPointer<Palettes> remapStep;  // in which a step is open
     int inhibit = 0;
+    bool isOther = false;    // the grid has colours of no palette,
+    bool isPreview = false;  // or others than the current one has
 
 public slots:
     void clear();

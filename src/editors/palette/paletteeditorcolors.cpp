@@ -61,7 +61,7 @@ void PaletteEditorPrivate::comeForward()
 /// The grid has the colours of a move before `colorMoved()` tells of it.
 void PaletteEditorPrivate::changed()
 {
-    if (inhibit > 0 || !palette || view->isMoving()) {
+    if (inhibit > 0 || !palette || isPreview || view->isMoving()) {
         return;
     }
     {
@@ -78,7 +78,7 @@ void PaletteEditorPrivate::changed()
 void PaletteEditorPrivate::colorMoved(unsigned short src, unsigned short dst)
 {
     // A colour that comes back to its own slot has not moved.
-    if (inhibit > 0 || !palette || src == dst) {
+    if (inhibit > 0 || !palette || isPreview || src == dst) {
         return;
     }
     const ShownPalette shown(this);
