@@ -97,6 +97,14 @@ void RenderWidget::setCustomPixelShader(const char* indexedSource, const char* r
     }
 }
 
+void RenderWidget::setColorSight(const ColorSight& sight)
+{
+    if (d->sight != sight) {
+        d->sight = sight;
+        update();
+    }
+}
+
 void RenderWidget::initializeGL()
 {
     QOpenGLFunctions& gl = *context()->functions();
@@ -117,6 +125,7 @@ void RenderWidget::freePrograms()
 {
     makeCurrent();
     d->drawing.deletePrograms();
+    d->sightPass.free(*context()->functions());
     doneCurrent();
 }
 
@@ -144,6 +153,9 @@ void RenderWidget::paintGL()
         QPainter painter(&frame);
         initPainter(&painter);
         d->renderer->render(painter);
+    }
+    if (d->sight) {
+        d->sightPass.apply(gl, size() * devicePixelRatioF(), *d->sight);
     }
     // What was blended is not seen through: a picture of the window would show what lies behind.
     gl.glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_TRUE);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "media/tools/colorblindness.h"
 #include "zorv_export.h"
 
 #include <QOpenGLWidget>
@@ -42,6 +43,9 @@ public:
     /// library's, call `removeAllShaders()` of each `QOpenGLShaderProgram` child of the widget
     /// first.
     void setCustomPixelShader(const char* indexedSource, const char* rgbaSource);
+
+    /// Shows all that the renderer draws as somebody else sees it, in pictures of the widget, too.
+    void setColorSight(const ColorSight& sight);
 
 signals:
     /// GL is ready for the first time, or again after the widget got another context.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics/sightpass_p.h"
 #include "graphics/texturedrawing_p.h"
 
 namespace Zorv {
@@ -11,6 +12,8 @@ struct RenderWidgetPrivate
     QPoint pointer;                      // where it was then, or later
     Qt::MouseButton pen = Qt::NoButton;  // that the pen of a tablet is down with
     TextureDrawing drawing;
+    ColorSight sight;
+    SightPass sightPass;
 };
 
 }  // namespace Zorv

@@ -60,6 +60,7 @@ public:
     PreviewGrid grid;
     double ratio = 1;
     int current = -1;
+    ColorSight sight;
 };
 
 void PalettePreviewsPrivate::partChanged(const QRect& part)
@@ -163,7 +164,7 @@ void PalettePreviewsPrivate::paintPicture(QPainter* painter, const QRect& expose
     const QRectF pixels(exposed.x() * ratio, exposed.y() * ratio, exposed.width() * ratio,
                         exposed.height() * ratio);
     cells.paintChequer(place, pixels.toAlignedRect(), qRound(Square * ratio), LightGray);
-    painter->drawImage(place, indexedView(picture, previews.at(index).colors));
+    painter->drawImage(place, seenWith(sight, indexedView(picture, previews.at(index).colors)));
 }
 
 void PalettePreviewsPrivate::paintLabel(QPainter* painter, int index) const
@@ -240,6 +241,14 @@ void PalettePreviews::refresh()
 {
     d->dirty = d->picture.rect();
     d->fit();
+}
+
+void PalettePreviews::setColorSight(const ColorSight& sight)
+{
+    if (d->sight != sight) {
+        d->sight = sight;
+        update();
+    }
 }
 
 int PalettePreviews::currentIndex() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "media/tools/colorblindness.h"
 #include "zorv_export.h"
 
 #include <QRgb>
@@ -47,6 +48,9 @@ public:
     /// The palettes to show; those behind `MaxCount` are left out. Call it again when one of them
     /// changes: the picture is not flattened anew for it.
     void setPreviews(const QVector<Preview>& previews);
+
+    /// Paints the pictures as somebody else sees them.
+    void setColorSight(const ColorSight& sight);
 
     /// The one with the frame; -1 for none, as at first and where there are fewer.
     int currentIndex() const;

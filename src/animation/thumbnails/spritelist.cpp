@@ -142,6 +142,12 @@ void SpriteList::setUses(SpriteUses* uses)
     viewport()->update();
 }
 
+void SpriteList::setColorSight(const ColorSight& sight)
+{
+    d->thumbnails.setColorSight(sight);
+    viewport()->update();
+}
+
 bool SpriteList::isMarked(int row) const
 {
     const SpriteNumber number = d->numberOf(row);

@@ -2,6 +2,7 @@
 
 #include "cache/spritenumber.h"
 #include "editors/framework/rowlist.h"
+#include "media/tools/colorblindness.h"
 
 #include <memory>
 
@@ -29,6 +30,9 @@ public:
 
     /// Marks the sprites that no frame shows; null for no marks. Not owned, and may die.
     void setUses(SpriteUses* uses);
+
+    /// Shows the pictures as somebody else sees them.
+    void setColorSight(const ColorSight& sight);
 
     /// True for a row that has the mark.
     bool isMarked(int row) const;

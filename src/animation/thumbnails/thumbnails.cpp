@@ -44,6 +44,7 @@ public:
     QPixmap make(int row) const;
 
     int side;
+    ColorSight sight;
     QPointer<Sprites> sprites;
     QCache<int, QPixmap> pictures;
     QVector<int> wanted;
@@ -67,7 +68,7 @@ QPixmap ThumbnailsPrivate::make(int row) const
 {
     const Sprite* sprite = sprites ? sprites->sprite(row) : nullptr;
     const QImage image = sprite ? sprite->image() : QImage();
-    return image.isNull() ? QPixmap() : QPixmap::fromImage(fitted(image, side));
+    return image.isNull() ? QPixmap() : QPixmap::fromImage(seenWith(sight, fitted(image, side)));
 }
 
 Thumbnails::Thumbnails(int side, QObject* parent)
@@ -107,6 +108,14 @@ void Thumbnails::forgetAll()
 {
     d->pictures.clear();
     d->wanted.clear();
+}
+
+void Thumbnails::setColorSight(const ColorSight& sight)
+{
+    if (d->sight != sight) {
+        d->sight = sight;
+        forgetAll();
+    }
 }
 
 int Thumbnails::side() const

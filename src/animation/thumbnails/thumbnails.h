@@ -1,5 +1,6 @@
 #pragma once
 
+#include "media/tools/colorblindness.h"
 #include "zorv_export.h"
 
 #include <QObject>
@@ -40,6 +41,9 @@ public:
     void startPage();
 
     void forgetAll();
+
+    /// Makes pictures as somebody else sees them; forgets those that are made.
+    void setColorSight(const ColorSight& sight);
     int side() const;
 
 signals:

@@ -27,6 +27,14 @@ void ColorWidget::setColor(const unsigned int& color)
     update();
 }
 
+void ColorWidget::setColorSight(const ColorSight& sight)
+{
+    if (m_sight != sight) {
+        m_sight = sight;
+        update();
+    }
+}
+
 QSize ColorWidget::sizeHint() const
 {
     return {Width, Height};
@@ -37,7 +45,7 @@ void ColorWidget::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const RGBA color{quint8(m_color.red()), quint8(m_color.green()), quint8(m_color.blue()),
                      quint8(m_color.alpha())};
-    CellPainter(&painter).paintWell(rect(), color, Square);
+    CellPainter(&painter).paintWell(rect(), seenWith(m_sight, color), Square);
 }
 
 }  // namespace Zorv

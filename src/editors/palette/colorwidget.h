@@ -1,5 +1,6 @@
 #pragma once
 
+#include "media/tools/colorblindness.h"
 #include "zorv_export.h"
 
 #include <QColor>
@@ -21,6 +22,9 @@ public:
     /// Takes the colour as 0xAARRGGBB.
     void setColor(const unsigned int& color);
 
+    /// Paints it as somebody else sees it.
+    void setColorSight(const ColorSight& sight);
+
     QSize sizeHint() const override;
 
 protected:
@@ -28,6 +32,7 @@ protected:
 
 private:
     QColor m_color = Qt::black;
+    ColorSight m_sight;
 };
 
 }  // namespace Zorv

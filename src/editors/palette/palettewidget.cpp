@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace Zorv {
 
@@ -46,10 +47,12 @@ QRect PaletteWidgetPrivate::cellOf(int slot) const
 QString PaletteWidgetPrivate::textOf(int slot) const
 {
     const RGBA color = history.colors()[slot];
+    const QString note = notes ? notes(slot) : QString();
     return PaletteWidget::tr("%1, %2, %3, %4\nIndex %5, %6")
-        .arg(QString::number(color.r), QString::number(color.g), QString::number(color.b),
-             QString::number(color.a), QString::number(slot),
-             QColor(color.r, color.g, color.b).name());
+               .arg(QString::number(color.r), QString::number(color.g), QString::number(color.b),
+                    QString::number(color.a), QString::number(slot),
+                    QColor(color.r, color.g, color.b).name()) +
+           (note.isEmpty() ? note : QLatin1Char('\n') + note);
 }
 
 void PaletteWidgetPrivate::beginChange()
@@ -75,11 +78,11 @@ void PaletteWidgetPrivate::paint(const QPaintEvent* event) const
         CellMarks marks;
         marks.setFlag(CellMark::Selected, owner->selection[slot]);
         marks.setFlag(CellMark::Focused, slot == cursor && owner->hasFocus());
-        cells.paintColor(cell, history.colors()[slot], marks);
+        cells.paintColor(cell, seenWith(sight, history.colors()[slot]), marks);
     }
     if (isFloating) {
         cells.paintColor(QRect(dragPos - pressOffset, QSize(cellSize, cellSize)),
-                         history.colors()[pressed], CellMark::Selected);
+                         seenWith(sight, history.colors()[pressed]), CellMark::Selected);
     }
 }
 
@@ -234,6 +237,19 @@ void PaletteWidget::setMovable(bool isOn)
 bool PaletteWidget::isMoving() const
 {
     return d->isMoving;
+}
+
+void PaletteWidget::setColorSight(const ColorSight& sight)
+{
+    if (d->sight != sight) {
+        d->sight = sight;
+        update();
+    }
+}
+
+void PaletteWidget::setSlotNotes(std::function<QString(int)> notes)
+{
+    d->notes = std::move(notes);
 }
 
 QSize PaletteWidget::sizeHint() const

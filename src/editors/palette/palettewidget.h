@@ -1,9 +1,11 @@
 #pragma once
 
+#include "media/tools/colorblindness.h"
 #include "zorv_export.h"
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 namespace Zorv {
@@ -92,6 +94,13 @@ public:
     /// True while `changed()` tells of a colour that the person has moved: `colorMoved()` follows.
     bool isMoving() const;
 
+    /// Paints colours as somebody else sees them. The colours stay, and tips tell them as they are.
+    void setColorSight(const ColorSight& sight);
+
+    /// What a slot is told of besides its colour: a line behind that in its tip. None for an empty
+    /// text. The function is called while the grid lives; an empty one, as at first, for nothing.
+    void setSlotNotes(std::function<QString(int slot)> notes);
+
     /// All cells; also the least size.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -118,6 +127,10 @@ signals:
     /// The colour of a slot has gone to another, behind `changed()`.
     void colorMoved(unsigned short src, unsigned short dst);
 
+    /// The colour of a slot is dragged out of the widget: it does not move. Who is connected makes
+    /// a drag of it; without anybody the drag goes on when the mouse comes back.
+    void colorDraggedOut(unsigned short color);
+
 protected:
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -133,6 +146,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    friend class PaletteWidgetPrivate;
     std::unique_ptr<PaletteWidgetPrivate> d;
 };
 

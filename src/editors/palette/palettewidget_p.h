@@ -2,6 +2,7 @@
 
 #include "editors/palette/palettehistory_p.h"
 #include "media/paletteobject.h"
+#include "media/tools/colorblindness.h"
 
 #include <QPoint>
 #include <QRect>
@@ -55,10 +56,13 @@ public:
     int cellSize = 12;
     int columns = 16;
     int cursor = 0;  // the slot on which keys work
+    std::function<QString(int)> notes;
+    ColorSight sight;
 
 private:
     enum class Selected { Same, Other, Several };
 
+    bool isDraggedOut(const QPoint& place);
     void endDrag();
     void click(int slot, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     Selected select(int slot, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);

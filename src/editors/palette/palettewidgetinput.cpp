@@ -1,7 +1,9 @@
 #include "editors/palette/palettewidget.h"
 #include "editors/palette/palettewidget_p.h"
 
+#include <QApplication>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QToolTip>
@@ -42,6 +44,9 @@ void PaletteWidgetPrivate::move(const QMouseEvent* event)
 {
     const QPoint place = placeOf(event);
     if (isMovable && pressed >= 0 && (dragging || slotAt(place) != pressed)) {
+        if (isDraggedOut(place)) {
+            return;
+        }
         dragging = true;
         dragPos = place;
         QToolTip::hideText();
@@ -49,6 +54,21 @@ void PaletteWidgetPrivate::move(const QMouseEvent* event)
     } else {
         showTip(place, event->globalPos());
     }
+}
+
+/// True if the drag has become one of somebody else, which may have deleted the widget.
+bool PaletteWidgetPrivate::isDraggedOut(const QPoint& place)
+{
+    const int far = QApplication::startDragDistance();
+    const QMetaMethod signal = QMetaMethod::fromSignal(&PaletteWidget::colorDraggedOut);
+    if (owner->rect().adjusted(-far, -far, far, far).contains(place) ||
+        !owner->isSignalConnected(signal)) {
+        return false;
+    }
+    const int slot = pressed;
+    lose();
+    emit owner->colorDraggedOut(static_cast<unsigned short>(slot));
+    return true;
 }
 
 void PaletteWidgetPrivate::showTip(const QPoint& place, const QPoint& global) const

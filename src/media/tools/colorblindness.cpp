@@ -1,13 +1,16 @@
 #include "media/tools/colorblindness.h"
 
+#include "media/tools/colorblindness_p.h"
 #include "media/tools/colorspaces.h"
+
+#include <algorithm>
 
 namespace Zorv {
 
 namespace {
 
-// In the order of the enumeration; a row for each channel that is made.
-constexpr double Matrices[][3][3] = {
+// In the order of the enumeration.
+constexpr SightMatrix Matrices[] = {
     {{0.152286, 1.052583, -0.204868},
      {0.114503, 0.786281, 0.099216},
      {-0.003882, -0.048116, 1.051998}},
@@ -21,15 +24,42 @@ constexpr double Matrices[][3][3] = {
 
 }  // namespace
 
+const SightMatrix& sightMatrix(ColorBlindness blindness)
+{
+    return Matrices[int(blindness)];
+}
+
 RGBA seenWith(ColorBlindness blindness, RGBA color)
 {
-    const auto& matrix = Matrices[int(blindness)];
+    const SightMatrix& matrix = sightMatrix(blindness);
     const double light[] = {linearLight(color.r), linearLight(color.g), linearLight(color.b)};
     const auto channel = [&](int row) {
         const double(&parts)[3] = matrix[row];
         return encodedLight(parts[0] * light[0] + parts[1] * light[1] + parts[2] * light[2]);
     };
     return {channel(0), channel(1), channel(2), color.a};
+}
+
+RGBA seenWith(const ColorSight& sight, RGBA color)
+{
+    return sight ? seenWith(*sight, color) : color;
+}
+
+QImage seenWith(const ColorSight& sight, const QImage& image)
+{
+    if (!sight) {
+        return image;
+    }
+    QImage seen = image.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < seen.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(seen.scanLine(y));
+        std::transform(row, row + seen.width(), row, [&](QRgb pixel) {
+            const RGBA color = seenWith(*sight, {quint8(qRed(pixel)), quint8(qGreen(pixel)),
+                                                 quint8(qBlue(pixel)), quint8(qAlpha(pixel))});
+            return qRgba(color.r, color.g, color.b, color.a);
+        });
+    }
+    return seen;
 }
 
 }  // namespace Zorv

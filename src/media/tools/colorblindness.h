@@ -3,6 +3,10 @@
 #include "media/colortypes.h"
 #include "zorv_export.h"
 
+#include <QImage>
+
+#include <optional>
+
 namespace Zorv {
 
 /// Whose eyes lack one of the three kinds of cones.
@@ -20,5 +24,15 @@ enum class ColorBlindness {
 /// Oliveira, L. A. F. Fernandes, "A Physiologically-based Model for Simulation of Color Vision
 /// Deficiency", IEEE Transactions on Visualization and Computer Graphics 15 (6), 2009.
 ZORV_EXPORT RGBA seenWith(ColorBlindness blindness, RGBA color);
+
+/// How somebody sees colours; empty for as they are.
+using ColorSight = std::optional<ColorBlindness>;
+
+/// The same where there may be nothing to do.
+ZORV_EXPORT RGBA seenWith(const ColorSight& sight, RGBA color);
+
+/// A copy of an image of any form, as 32 bit with alpha; null for one that is null, or too large
+/// for memory. Without a blindness it is the image itself.
+ZORV_EXPORT QImage seenWith(const ColorSight& sight, const QImage& image);
 
 }  // namespace Zorv

@@ -124,6 +124,7 @@ private slots:
     void select();
     void noDrag_data();
     void noDrag();
+    void goesToSomebodyElse();
     void sharpAtAnyScale_data();
     void sharpAtAnyScale();
     void shortcutsWait();
@@ -294,6 +295,28 @@ void TestPaletteWidget::noDrag()
     // The next press is one like any other.
     click(3)(&widget);
     QCOMPARE(clicked.size(), 1);
+}
+
+/// Whoever takes the drag may delete the grid.
+void TestPaletteWidget::goesToSomebodyElse()
+{
+    auto widget = std::make_unique<PaletteWidget>();
+    widget->palette()->gradient(nullptr, {0, 0, 0, 255}, {255, 255, 255, 255});
+    const Colors before = colorsOf(*widget);
+    QVector<int> taken;
+    connect(widget.get(), &PaletteWidget::colorDraggedOut, this,
+            [&](int slot) { taken.append(slot); });
+    QSignalSpy changed(widget.get(), &PaletteWidget::changed);
+    drag(widget.get(), 5, {widget->width() + 3, 5});  // as far as a hand may shake
+    QVERIFY(taken.isEmpty());
+    drag(widget.get(), 5, {widget->width() + 100, 5});
+    drop(widget.get(), place(2));
+    QCOMPARE(taken, QVector<int>{5});
+    QVERIFY(colorsOf(*widget) == before && changed.isEmpty());
+    connect(widget.get(), &PaletteWidget::colorDraggedOut, this, [&] { widget.reset(); });
+    drag(widget.get(), 7, {-100, -100});
+    QCOMPARE(taken, (QVector<int>{5, 7}));
+    QVERIFY(!widget);
 }
 
 void TestPaletteWidget::sharpAtAnyScale_data()
