@@ -353,6 +353,42 @@
         <source>Set a&amp;xis...</source>
         <translation>A&amp;chse setzen...</translation>
     </message>
+    <message>
+        <source>D&amp;uplicate palette</source>
+        <translation>Palette verd&amp;oppeln</translation>
+    </message>
+    <message>
+        <source>Sort &amp;colours...</source>
+        <translation>&amp;Farben sortieren ...</translation>
+    </message>
+    <message>
+        <source>&amp;Ramp between two slots...</source>
+        <translation>Farb&amp;verlauf zwischen zwei Plätzen ...</translation>
+    </message>
+    <message>
+        <source>Shift &amp;hue...</source>
+        <translation>Farb&amp;ton verschieben ...</translation>
+    </message>
+    <message>
+        <source>Replace colour in all &amp;palettes...</source>
+        <translation>Farbe in allen &amp;Paletten ersetzen ...</translation>
+    </message>
+    <message>
+        <source>Count uses of co&amp;lours</source>
+        <translation>Verwendun&amp;gen der Farben zählen</translation>
+    </message>
+    <message>
+        <source>Without &amp;red (protanopia)</source>
+        <translation>Ohne &amp;Rot (Protanopie)</translation>
+    </message>
+    <message>
+        <source>Without &amp;green (deuteranopia)</source>
+        <translation>Ohne &amp;Grün (Deuteranopie)</translation>
+    </message>
+    <message>
+        <source>Without &amp;blue (tritanopia)</source>
+        <translation>Ohne &amp;Blau (Tritanopie)</translation>
+    </message>
 </context>
 <context>
     <name>App::AxisDialog</name>
@@ -530,6 +566,17 @@
     </message>
 </context>
 <context>
+    <name>App::ColorExchange</name>
+    <message>
+        <source>Paste colours</source>
+        <translation>Farben einfügen</translation>
+    </message>
+    <message>
+        <source>There are no colours on the clipboard. Colours are copied from a palette, or as text: &quot;#rrggbb&quot;, a line each.</source>
+        <translation>In der Zwischenablage sind keine Farben. Farben werden aus einer Palette kopiert, oder als Text: „#rrggbb“, je eine Zeile.</translation>
+    </message>
+</context>
+<context>
     <name>App::CompareDialog</name>
     <message>
         <source>the file</source>
@@ -542,6 +589,13 @@
     <message>
         <source>There is no difference.</source>
         <translation>Es gibt keinen Unterschied.</translation>
+    </message>
+</context>
+<context>
+    <name>App::Costumes</name>
+    <message>
+        <source>Drop colours</source>
+        <translation>Farben ablegen</translation>
     </message>
 </context>
 <context>
@@ -1010,6 +1064,32 @@
     </message>
 </context>
 <context>
+    <name>App::HueDialog</name>
+    <message>
+        <source>Shift hue</source>
+        <translation>Farbton verschieben</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected slot(s)</source>
+        <translation>
+            <numerusform>%n gewählter Platz</numerusform>
+            <numerusform>%n gewählte Plätze</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All slots: none is selected.</source>
+        <translation>Alle Plätze: keiner ist gewählt.</translation>
+    </message>
+    <message>
+        <source>Degrees</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>&amp;Degrees:</source>
+        <translation>&amp;Grad:</translation>
+    </message>
+</context>
+<context>
     <name>App::KeySheet</name>
     <message>
         <source>Keys of Zorv</source>
@@ -1209,6 +1289,10 @@
         <source>Sele&amp;ction</source>
         <translation>Aus&amp;wahl</translation>
     </message>
+    <message>
+        <source>Colour bl&amp;indness</source>
+        <translation>Far&amp;benblindheit</translation>
+    </message>
 </context>
 <context>
     <name>App::MessagePanel</name>
@@ -1283,6 +1367,71 @@
     </message>
 </context>
 <context>
+    <name>App::PaletteTools</name>
+    <message>
+        <source>Sort colours</source>
+        <translation>Farben sortieren</translation>
+    </message>
+    <message>
+        <source>Make a ramp</source>
+        <translation>Farbverlauf anlegen</translation>
+    </message>
+    <message>
+        <source>Shift hue</source>
+        <translation>Farbton verschieben</translation>
+    </message>
+    <message>
+        <source>Replace colour</source>
+        <translation>Farbe ersetzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slot(s) have the new colour.</source>
+        <translation>
+            <numerusform>%n Platz hat die neue Farbe.</numerusform>
+            <numerusform>%n Plätze haben die neue Farbe.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Count uses of colours</source>
+        <translation>Verwendungen der Farben zählen</translation>
+    </message>
+</context>
+<context>
+    <name>App::PaletteUsage</name>
+    <message numerus="yes">
+        <source>%n sprite(s), pixels: %1</source>
+        <translation>
+            <numerusform>%n Sprite, Pixel: %1</numerusform>
+            <numerusform>%n Sprites, Pixel: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Slot %1: %2</source>
+        <translation>Platz %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slot(s) are used.</source>
+        <translation>
+            <numerusform>%n Platz wird verwendet.</numerusform>
+            <numerusform>%n Plätze werden verwendet.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected slot(s), pixels: %1</source>
+        <translation>
+            <numerusform>%n gewählter Platz, Pixel: %1</numerusform>
+            <numerusform>%n gewählte Plätze, Pixel: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) have palette %1.</source>
+        <translation>
+            <numerusform>%n Sprite hat die Palette %1.</numerusform>
+            <numerusform>%n Sprites haben die Palette %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::PathField</name>
     <message>
         <source>Choose a folder</source>
@@ -1345,6 +1494,37 @@
     <message>
         <source>The game is still being checked: what uses it is not known.</source>
         <translation>Das Spiel wird noch geprüft: Es ist nicht bekannt, was dies verwendet.</translation>
+    </message>
+</context>
+<context>
+    <name>App::RampDialog</name>
+    <message>
+        <source>RGB: the numbers in even steps</source>
+        <translation>RGB: die Zahlen in gleichen Schritten</translation>
+    </message>
+    <message>
+        <source>HSV: along the circle of hues</source>
+        <translation>HSV: entlang dem Farbkreis</translation>
+    </message>
+    <message>
+        <source>OKLab: as the eye sees it</source>
+        <translation>OKLab: wie das Auge es sieht</translation>
+    </message>
+    <message>
+        <source>Make a ramp</source>
+        <translation>Farbverlauf anlegen</translation>
+    </message>
+    <message>
+        <source>The slots from %1 to %2 become even steps between the two.</source>
+        <translation>Die Plätze von %1 bis %2 werden gleiche Schritte zwischen den beiden.</translation>
+    </message>
+    <message>
+        <source>&amp;Mixed in:</source>
+        <translation>Ge&amp;mischt in:</translation>
+    </message>
+    <message>
+        <source>In &amp;all palettes of the file, each between its own two</source>
+        <translation>In &amp;allen Paletten der Datei, je zwischen ihren eigenen beiden</translation>
     </message>
 </context>
 <context>
@@ -2139,6 +2319,69 @@
     <message>
         <source>Options</source>
         <translation>Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>App::SortDialog</name>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Chroma</source>
+        <translation>Buntheit</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Alpha</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Sort colours</source>
+        <translation>Farben sortieren</translation>
+    </message>
+    <message>
+        <source>Pixels go with their colours: pictures look as before.</source>
+        <translation>Pixel gehen mit ihren Farben: Bilder sehen aus wie zuvor.</translation>
+    </message>
+    <message>
+        <source>&amp;By:</source>
+        <translation>&amp;Nach:</translation>
+    </message>
+    <message>
+        <source>&amp;The other way round</source>
+        <translation>&amp;Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Only the &amp;selected slots</source>
+        <translation>Nur die &amp;gewählten Plätze</translation>
+    </message>
+    <message>
+        <source>Slot &amp;0, too</source>
+        <translation>Auch Platz &amp;0</translation>
+    </message>
+    <message>
+        <source>Trans&amp;parent colours, too</source>
+        <translation>Auch &amp;durchsichtige Farben</translation>
+    </message>
+    <message>
+        <source>The same in &amp;all palettes of the file</source>
+        <translation>Dasselbe in &amp;allen Paletten der Datei</translation>
     </message>
 </context>
 <context>
@@ -4873,6 +5116,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Duplicate palette</source>
         <translation>Palette duplizieren</translation>
+    </message>
+    <message>
+        <source>Shift hue</source>
+        <translation>Farbton verschieben</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,57 @@
     </message>
 </context>
 <context>
+    <name>App::HueDialog</name>
+    <message numerus="yes">
+        <source>%n selected slot(s)</source>
+        <translation>
+            <numerusform>%n selected slot</numerusform>
+            <numerusform>%n selected slots</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::PaletteTools</name>
+    <message numerus="yes">
+        <source>%n slot(s) have the new colour.</source>
+        <translation>
+            <numerusform>%n slot has the new colour.</numerusform>
+            <numerusform>%n slots have the new colour.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::PaletteUsage</name>
+    <message numerus="yes">
+        <source>%n sprite(s), pixels: %1</source>
+        <translation>
+            <numerusform>%n sprite, pixels: %1</numerusform>
+            <numerusform>%n sprites, pixels: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n slot(s) are used.</source>
+        <translation>
+            <numerusform>%n slot is used.</numerusform>
+            <numerusform>%n slots are used.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected slot(s), pixels: %1</source>
+        <translation>
+            <numerusform>%n selected slot, pixels: %1</numerusform>
+            <numerusform>%n selected slots, pixels: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) have palette %1.</source>
+        <translation>
+            <numerusform>%n sprite has palette %1.</numerusform>
+            <numerusform>%n sprites have palette %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::ProblemWatch</name>
     <message numerus="yes">
         <source>What is to be removed is used in %n place(s):</source>

@@ -7,6 +7,7 @@
 #include "family/nodes/animationnode.h"
 
 #include <zorv/editors/framework/workspace.h>
+#include <zorv/editors/palette/palettewidget.h>
 #include <zorv/editors/sound/audiosamplewidget.h>
 #include <zorv/editors/sound/soundeditor.h>
 
@@ -107,8 +108,14 @@ void TestEveryAction::prepare(const QString& name)
     QTRY_VERIFY(m->action("save_all")->isEnabled() && m->action("anim_delete")->isEnabled() &&
                 m->action("anim_next_frame")->isEnabled());
     Family::SpriteCollection* sprites = m->window->spritePanel()->sprites();
-    while (name.startsWith(QLatin1String("pal_")) && sprites->canUndo()) {
+    while (name.startsWith(QLatin1String("pal")) && sprites->canUndo()) {
         sprites->undo();  // "pal_clear" leaves nothing to the others
+    }
+    if (name.startsWith(QLatin1String("palette_"))) {
+        auto* grid = m->window->findChild<Zorv::PaletteWidget*>(QStringLiteral("pal_view"));
+        grid->selection[1] = grid->selection[3] = true;
+        emit grid->selectionChanged();
+        QCoreApplication::processEvents();
     }
     if (name.startsWith(QLatin1String("snd_"))) {
         m->dialogs.buttonAnswers = {Zorv::Dialogs::Yes};

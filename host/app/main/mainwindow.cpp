@@ -27,6 +27,7 @@
 #include "app/paint/paintcommands.h"
 #include "app/palettes/familypaletteeditor.h"
 #include "app/palettes/palettecommands.h"
+#include "app/palettes/sightswitches.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
 #include "app/session/gamesession.h"
@@ -52,8 +53,10 @@
 #include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
 #include <zorv/editors/sound/soundeditor.h>
+#include <zorv/graphics/graphicwork/graphicsworkspace.h>
 #include <zorv/image/palettepreviews.h>
 #include <zorv/image/spriteeditor.h>
+#include <zorv/image/spriteworkspace.h>
 
 #include <QAbstractButton>
 #include <QCloseEvent>
@@ -296,6 +299,12 @@ void MainWindow::connectParts()
     m_paint->editor()->takeDropsOn(m_sprites->panel());
     connect(m_stage, &StageCommands::colourPicked, m_palettes->editor(),
             &FamilyPaletteEditor::selectColour);
+    // What is made when it is shown first is shown as the rest is.
+    const SightSwitches* sight = m_palettes->sight();
+    connect(m_paint->editor()->spriteWorkspace(), &Zorv::SpriteWorkspace::renderWidgetMade, sight,
+            &SightSwitches::apply);
+    connect(m_stage->workspace(), &Zorv::GraphicsWorkspace::renderWidgetMade, sight,
+            &SightSwitches::apply);
     connect(m_sprites->panel(), &SpritePanel::spriteActivated, m_paint,
             [this](int row) { m_paint->showSprite(m_sprites->panel()->sprites(), row); });
     connect(m_thumbnails->panel(), &Zorv::ThumbnailsEditor::spriteActivated, m_paint,

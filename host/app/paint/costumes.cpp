@@ -1,14 +1,22 @@
 #include "app/paint/costumes.h"
 
+#include "family/assets/spritecollection.h"
+#include "operations/media/mediaresult.h"
+#include "operations/media/palettecolors.h"
+
 #include <zorv/cache/palette.h>
 #include <zorv/cache/palettes.h>
 #include <zorv/cache/sprite.h>
 #include <zorv/cache/sprites.h>
+#include <zorv/core/dialogs/dialogs.h>
 #include <zorv/editors/palette/colorpalette.h>
 #include <zorv/editors/palette/paletteeditor.h>
 #include <zorv/image/imagerenderer.h>
 #include <zorv/image/palettepreviews.h>
 #include <zorv/image/spriteeditor.h>
+
+#include <QDropEvent>
+#include <QMimeData>
 
 namespace App {
 
@@ -58,6 +66,8 @@ Costumes::Costumes(SpriteEditor* editor, QObject* parent)
     connect(editor, &SpriteEditor::colorsShown, this, &Costumes::update);
     connect(editor->colors(), &Zorv::ColorPalette::paletteChanged, m_panel,
             &PalettePreviews::refresh);
+    m_panel->setAcceptDrops(true);
+    m_panel->installEventFilter(this);
     connect(m_panel, &PalettePreviews::chosen, this, &Costumes::choose);
 }
 
@@ -83,12 +93,54 @@ void Costumes::update()
 /// file has it.
 void Costumes::choose(int index)
 {
-    Palette* wanted = m_palettes.value(index);
-    if (palettesFor(*m_editor).contains(wanted)) {
-        m_editor->paletteEditor()->setCurrentPalette(wanted);
+    if (isShown(index)) {
+        m_editor->paletteEditor()->setCurrentPalette(m_palettes[index]);
     } else {
         update();
     }
+}
+
+bool Costumes::isShown(int index) const
+{
+    return palettesFor(*m_editor).contains(m_palettes.value(index));
+}
+
+/// Of the panel alone. Its last events come when it is none any more, so the kind is looked at
+/// first.
+bool Costumes::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return takeDrag(static_cast<QDropEvent*>(event));
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+/// One that has only come in is told about its places while it moves.
+bool Costumes::takeDrag(QDropEvent* event) const
+{
+    const auto entries = Operations::PaletteEntries::fromMime(event->mimeData());
+    const int index = m_panel->indexAt(event->pos());
+    const bool isTaken =
+        !entries.places.isEmpty() && (event->type() == QEvent::DragEnter || isShown(index));
+    event->setAccepted(isTaken);
+    if (isTaken) {
+        event->setDropAction(Qt::CopyAction);
+    }
+    if (isTaken && event->type() == QEvent::Drop) {
+        const Palette* palette = m_palettes[index];
+        auto* sprites = static_cast<Family::SpriteCollection*>(palette->owner()->sprites());
+        const QString title = tr("Drop colours");
+        const Operations::MediaResult result =
+            Operations::placeColors(sprites, int(palette->index()), entries, title);
+        if (!result.errors.isEmpty()) {
+            Zorv::Dialogs::instance()->error(title, result.errors.join(QLatin1Char('\n')));
+        }
+    }
+    return true;
 }
 
 }  // namespace App

@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QVector>
 
+class QDropEvent;
+
 namespace Zorv {
 class Palette;
 class PalettePreviews;
@@ -15,7 +17,7 @@ namespace App {
 ///
 /// These are the first ones of the file, as many as the panel takes. If the sprite's own is not
 /// among them it has the last place. A click makes a palette the current one, in which the canvas
-/// is shown; the sprite keeps its own.
+/// is shown; the sprite keeps its own. Colours that are dropped on one go into their slots of it.
 class Costumes : public QObject
 {
     Q_OBJECT
@@ -30,8 +32,12 @@ public:
     /// Reads the palettes again.
     void update();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void choose(int index);
+    bool isShown(int index) const;
+    bool takeDrag(QDropEvent* event) const;
 
     Zorv::SpriteEditor* m_editor;
     Zorv::PalettePreviews* m_panel;

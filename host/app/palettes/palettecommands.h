@@ -6,7 +6,11 @@
 
 namespace App {
 
+class ColorExchange;
 class FamilyPaletteEditor;
+class PaletteTools;
+class PaletteUsage;
+class SightSwitches;
 struct WindowServices;
 
 /// The panel of palettes, which goes with the canvas. With the keyboard in it undo is that of the
@@ -22,11 +26,19 @@ public:
     ~PaletteCommands() override;
 
     FamilyPaletteEditor* editor() const { return m_editor; }
+    SightSwitches* sight() const { return m_sight; }
 
+    QVector<ActionRow> actions() override;
+    void actionsMade() override;
     QVector<PanelPlace> places() override;
+    void retranslate() override;
 
 private:
     FamilyPaletteEditor* m_editor;
+    PaletteUsage* m_usage;
+    PaletteTools* m_tools;
+    ColorExchange* m_exchange;
+    SightSwitches* m_sight;
 };
 
 }  // namespace App

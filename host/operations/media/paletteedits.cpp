@@ -41,29 +41,6 @@ QStringList brokenPalettes(const PaletteList& palettes, const QVector<int>& rows
     return lines;
 }
 
-/// Changes the colours of palettes; `change` gives how much it has changed.
-MediaResult changeColors(SpriteCollection* sprites, const QVector<int>& rows, const QString& title,
-                         const std::function<int(PaletteColors*)>& change)
-{
-    PaletteList* palettes = sprites->palettes();
-    MediaResult result;
-    result.errors = brokenPalettes(*palettes, rows);
-    if (!result.errors.isEmpty()) {
-        return result;
-    }
-    const AssetHistory::Step step(sprites->editHistory(), title);
-    for (const int row : rows) {
-        if (FamilyPalette* palette = palettes->palette(row)) {
-            PaletteColors colors = palette->state.colors;
-            if (const int count = change(&colors)) {
-                palettes->setColors(palette, colors, Zorv::Palette::KeepPixels);
-                result.done += count;
-            }
-        }
-    }
-    return result;
-}
-
 /// The rows of the sprites that use one of the palettes.
 QVector<int> spritesWith(const SpriteCollection& sprites, const QVector<int>& palettes)
 {
@@ -82,6 +59,29 @@ QVector<int> spritesWith(const SpriteCollection& sprites, const QVector<int>& pa
 }
 
 }  // namespace
+
+MediaResult changePalettes(SpriteCollection* sprites, const QVector<int>& rows,
+                           const QString& title,
+                           const std::function<int(Zorv::RGBA* colors)>& change)
+{
+    PaletteList* palettes = sprites->palettes();
+    MediaResult result;
+    result.errors = brokenPalettes(*palettes, rows);
+    if (!result.errors.isEmpty()) {
+        return result;
+    }
+    const AssetHistory::Step step(sprites->editHistory(), title);
+    for (const int row : rows) {
+        if (FamilyPalette* palette = palettes->palette(row)) {
+            PaletteColors colors = palette->state.colors;
+            if (const int count = change(colors.data())) {
+                palettes->setColors(palette, colors, Zorv::Palette::KeepPixels);
+                result.done += count;
+            }
+        }
+    }
+    return result;
+}
 
 QVector<int> palettesShownTogether(const SpriteCollection& sprites, QVector<int> rows)
 {
@@ -135,11 +135,11 @@ MediaResult reorderPalettes(SpriteCollection* sprites, const QVector<int>& rows,
         result.isCanceled = true;
         return result;
     }
-    const auto reordered = [&order](PaletteColors* colors) {
-        Zorv::reorder(colors->data(), order);
+    const auto reordered = [&order](Zorv::RGBA* colors) {
+        Zorv::reorder(colors, order);
         return 1;
     };
-    result = changeColors(sprites, together, title, reordered);
+    result = changePalettes(sprites, together, title, reordered);
     result.warnings = brokenSprites(*sprites, broken);
     return result;
 }
@@ -147,21 +147,34 @@ MediaResult reorderPalettes(SpriteCollection* sprites, const QVector<int>& rows,
 MediaResult replaceColor(SpriteCollection* sprites, const QVector<int>& rows, Zorv::RGBA from,
                          Zorv::RGBA to)
 {
-    return changeColors(sprites, rows, Text::tr("Replace colour"), [&](PaletteColors* colors) {
-        return Zorv::replaceColor(colors->data(), from, to);
-    });
+    return changePalettes(sprites, rows, Text::tr("Replace colour"),
+                          [&](Zorv::RGBA* colors) { return Zorv::replaceColor(colors, from, to); });
 }
 
 MediaResult fillRamp(SpriteCollection* sprites, const QVector<int>& rows, quint8 first, quint8 last,
                      Zorv::ColorSpace space)
 {
-    const size_t least = std::min(first, last);
-    const size_t most = std::max(first, last);
-    return changeColors(sprites, rows, Text::tr("Make a ramp"), [&](PaletteColors* colors) {
+    const int least = std::min(first, last);
+    const int most = std::max(first, last);
+    return changePalettes(sprites, rows, Text::tr("Make a ramp"), [&](Zorv::RGBA* colors) {
         const QVector<Zorv::RGBA> ramp =
-            Zorv::rampBetween((*colors)[least], (*colors)[most], int(most - least) + 1, space);
-        std::copy(ramp.begin(), ramp.end(), colors->begin() + least);
+            Zorv::rampBetween(colors[least], colors[most], most - least + 1, space);
+        std::copy(ramp.begin(), ramp.end(), colors + least);
         return ramp.size();
+    });
+}
+
+MediaResult shiftHues(SpriteCollection* sprites, const QVector<int>& rows, const bool* selection,
+                      double degrees)
+{
+    return changePalettes(sprites, rows, Text::tr("Shift hue"), [=](Zorv::RGBA* colors) {
+        int count = 0;
+        for (int i = 0; i < 256; ++i) {
+            const Zorv::RGBA before = colors[i];
+            colors[i] = selection[i] ? Zorv::shiftHue(before, degrees) : before;
+            count += colors[i] == before ? 0 : 1;
+        }
+        return count;
     });
 }
 

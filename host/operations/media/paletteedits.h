@@ -7,6 +7,8 @@
 
 #include <QVector>
 
+#include <functional>
+
 namespace Family {
 class FamilyPalette;
 class SpriteCollection;
@@ -16,6 +18,12 @@ namespace Operations {
 
 // Changes of palettes of a sprite file, each of them one step of undo. Palettes are told by their
 // rows. One whose record in the file is broken is named, and nothing is changed at all.
+
+/// Changes the 256 colours of palettes with `change`, which gives how many it has changed; `done`
+/// counts these. Sprites keep their pixels.
+MediaResult changePalettes(Family::SpriteCollection* sprites, const QVector<int>& rows,
+                           const QString& title,
+                           const std::function<int(Zorv::RGBA* colors)>& change);
 
 /// The palettes that have to change together so that pictures stay: these, and what remaps show
 /// instead of them, or them instead of. In the order of the file.
@@ -37,6 +45,11 @@ MediaResult replaceColor(Family::SpriteCollection* sprites, const QVector<int>& 
 /// Makes the entries between two slots a ramp from the one to the other, which stay.
 MediaResult fillRamp(Family::SpriteCollection* sprites, const QVector<int>& rows, quint8 first,
                      quint8 last, Zorv::ColorSpace space);
+
+/// Turns the hues of some slots by degrees, of any sign, and keeps their lightness; see
+/// `Zorv::shiftHue()`. `selection` has 256. `done` counts the entries that have changed.
+MediaResult shiftHues(Family::SpriteCollection* sprites, const QVector<int>& rows,
+                      const bool* selection, double degrees);
 
 /// Puts a copy of a palette behind it, with the next free identifier. Null for a row outside of the
 /// list.

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "operations/media/paletteuses.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <optional>
+
+class QLabel;
+
+namespace Family {
+class SpriteCollection;
+}
+
+namespace App {
+
+class FamilyPaletteEditor;
+
+/// What uses the current palette and its slots: a line below the grid, and the tips of the cells.
+///
+/// How many sprites have a palette is known at once. Slots are counted when the person asks, for
+/// that unpacks all sprites; the count holds until sprites or palettes come, go or change.
+class PaletteUsage : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Places the line in the panel of the tools. The editor outlives it.
+    PaletteUsage(FamilyPaletteEditor* editor, QObject* parent);
+    ~PaletteUsage() override;
+
+    /// Counts, with progress. Gives a line for each sprite that could not be counted.
+    QStringList count();
+
+    QString line() const;
+
+public slots:
+    void showLine();
+
+private:
+    void follow();
+    void forget();
+    QString noteOf(int slot) const;
+    QString selectedNote(const Operations::PaletteUses& uses) const;
+    const Operations::PaletteUses* current() const;
+
+    FamilyPaletteEditor* m_editor;
+    QPointer<QLabel> m_label;
+    QPointer<Family::SpriteCollection> m_sprites;  // whose changes are followed
+    std::optional<Operations::PaletteUseCount> m_count;
+};
+
+}  // namespace App
