@@ -2,7 +2,6 @@
 
 #include "family/grammar/motion.h"
 #include "picture/scene.h"
-#include "rules/tick.h"
 #include "sound/matchsounds.h"
 
 #include <zorv/code/codecs/filetext.h>
@@ -19,6 +18,19 @@ namespace {
 constexpr int NotesTicks = 10 * SteadyClock::TicksASecond;
 constexpr QSize UsualSize(1280, 720);
 
+const char* const keyLines[] = {
+    "",
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "Space\tpause"),
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "Page up, Page down\ta tick back, a tick on"),
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "F3, F4\tboxes; frames and inputs"),
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "F5\tboth to their places"),
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "F6\twhat the second one does"),
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "F7, F10\tspeed; a match without end"),
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "F8, F9\tanother costume"),
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "F2\twhat is wrong with the files"),
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "F11, Esc\tthe whole screen; the end"),
+};
+
 /// Opaque as it is: so it is copied without a look at the alpha of each pixel.
 QImage asOpaque(const QImage& image)
 {
@@ -34,8 +46,8 @@ PlayWindow::PlayWindow(std::unique_ptr<LoadedMatch> match)
     m_scene = std::make_unique<Scene>(m_match->game, m_match->looks, m_match->stage);
     m_sounds = std::make_unique<MatchSounds>(*m_match);
     m_match->notes += m_sounds->notes();
+    m_session = std::make_unique<Session>(m_match->game);
     readKeys();
-    beginMatch();
     resize(UsualSize);
     setMinimumSize({320, 180});
     setTitle(
@@ -65,20 +77,33 @@ void PlayWindow::readKeys()
     }
 }
 
-void PlayWindow::beginMatch()
+void PlayWindow::see()
 {
-    m_state = Rules::firstState(m_match->game);
-    m_scene->see(m_state);
+    m_scene->see(m_session->state());
+    m_sounds->see(m_session->state());
 }
 
 void PlayWindow::goOn()
 {
-    Rules::tick(m_match->game, m_inputs, &m_state);
-    m_scene->see(m_state);
-    m_sounds->see(m_state);
+    if (m_session->clockTick(m_inputs)) {
+        see();
+    }
     m_notesLeft -= m_notesLeft > 0;
     paintNow();
     emit ticked();
+}
+
+/// By one tick, from a match that stands still.
+void PlayWindow::step(int by)
+{
+    m_session->setPaused(true);
+    if (by > 0) {
+        m_session->step(m_inputs);
+        see();
+    } else if (m_session->stepBack()) {
+        m_scene->see(m_session->state());
+    }
+    m_sounds->setPaused(true);
 }
 
 /// A request to paint may come later than the next tick, or together with it.
@@ -111,14 +136,14 @@ void PlayWindow::paintEvent(QPaintEvent*)
     painter.fillRect(QRect(0, 0, inner.left(), height()), Qt::black);
     painter.fillRect(QRect(inner.right() + 1, 0, width(), height()), Qt::black);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.drawImage(inner, asOpaque(m_scene->draw(m_state)));
+    painter.drawImage(inner, asOpaque(m_scene->draw(state(), m_overlays)));
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal scale = qMin(area.width() / Hud::Width, area.height() / Hud::Height);
     painter.translate(area.center() - QPointF(Hud::Width, Hud::Height) * scale / 2);
     painter.scale(scale, scale);
-    m_hud.paint(&painter, m_match->game, m_state);
+    m_hud.paint(&painter, m_match->game, state());
     paintPages(&painter);
     m_paintedTicks += !m_isPainted;
     m_isPainted = true;
@@ -126,6 +151,11 @@ void PlayWindow::paintEvent(QPaintEvent*)
 
 void PlayWindow::paintPages(QPainter* painter)
 {
+    m_training.paintStatus(painter, *m_session);
+    if (m_isMeterShown) {
+        m_training.paintMeter(painter, m_session->meter());
+        m_training.paintInputs(painter, *m_session);
+    }
     if (m_notesLeft > 0) {
         m_hud.paintNotes(painter, m_match->notes + m_scene->notes());
     }
@@ -138,14 +168,10 @@ void PlayWindow::paintPages(QPainter* painter)
                          .arg(QLatin1String(Keymap::signs()[i].name), m_keys.keyName(0, i),
                               m_keys.keyName(1, i)));
     }
-    lines += {QString(),
-              tr("F1\tthese keys"),
-              tr("F2\twhat is wrong with the files"),
-              tr("F8, F9\tanother costume"),
-              tr("F11\tthe whole screen"),
-              tr("Esc\tthe end"),
-              QString(),
-              tr("The keys can be others: %1").arg(Keymap::fileName())};
+    for (const char* line : keyLines) {
+        lines.append(tr(line));
+    }
+    lines.append(tr("The keys can be others: %1").arg(Keymap::fileName()));
     m_hud.paintPage(painter, tr("Keys"), lines);
 }
 
@@ -173,9 +199,47 @@ bool PlayWindow::takeWindowKey(int key)
     }
 }
 
+/// What a key that is held does again is only to step.
+bool PlayWindow::takeTrainingKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Space:
+        m_session->setPaused(!m_session->isPaused());
+        m_sounds->setPaused(m_session->isPaused());
+        return true;
+    case Qt::Key_F3:
+        m_overlays = !m_overlays ? Overlays(Overlay::Boxes)
+                     : m_overlays == Overlays(Overlay::Boxes)
+                         ? Overlay::Boxes | Overlay::Axes | Overlay::Push
+                         : Overlays();
+        return true;
+    case Qt::Key_F4:
+        m_isMeterShown = !m_isMeterShown;
+        return true;
+    case Qt::Key_F5:
+        m_session->resetPlaces();
+        return true;
+    case Qt::Key_F6:
+        m_session->setDummy(Dummy::Mode((m_session->dummy().mode() + 1) % Dummy::ModeCount));
+        return true;
+    case Qt::Key_F7:
+        m_session->nextSpeed();
+        return true;
+    case Qt::Key_F10:
+        m_session->setEndless(!m_session->isEndless());
+        return true;
+    default:
+        return false;
+    }
+}
+
 void PlayWindow::keyPressEvent(QKeyEvent* event)
 {
-    if (event->isAutoRepeat() || takeWindowKey(event->key())) {
+    if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
+        step(event->key() == Qt::Key_PageDown ? 1 : -1);
+        return;
+    }
+    if (event->isAutoRepeat() || takeWindowKey(event->key()) || takeTrainingKey(event->key())) {
         return;
     }
     int player = 0;
@@ -185,8 +249,8 @@ void PlayWindow::keyPressEvent(QKeyEvent* event)
     }
     m_inputs.signs[player] |= bit;
     const bool isButton = (bit & Family::MotionStep::Buttons) != 0;
-    if (isButton && m_state.phase == Rules::Phase::MatchOver) {
-        beginMatch();
+    if (isButton && state().phase == Rules::Phase::MatchOver) {
+        m_session->beginMatch();
     }
 }
 

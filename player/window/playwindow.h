@@ -1,10 +1,12 @@
 #pragma once
 
 #include "picture/loadedmatch.h"
-#include "rules/state.h"
+#include "picture/overlay.h"
+#include "training/session.h"
 #include "window/hud.h"
 #include "window/keymap.h"
 #include "window/steadyclock.h"
+#include "window/traininghud.h"
 
 #include <QRasterWindow>
 
@@ -17,7 +19,8 @@ class Scene;
 
 /// The window in which two people play a match at one keyboard.
 ///
-/// Every tick is painted, right when it has been; while nothing of the window is seen, time goes on
+/// It can be stopped, turned back and looked into; see docs/engine.md for its keys. Every tick is
+/// painted, right when it has been; while nothing of the window is seen, time goes on
 /// without. What the person has to know of the files stands at the lower edge for a while.
 class PlayWindow : public QRasterWindow
 {
@@ -27,7 +30,8 @@ public:
     explicit PlayWindow(std::unique_ptr<LoadedMatch> match);
     ~PlayWindow() override;
 
-    const Rules::State& state() const { return m_state; }
+    const Rules::State& state() const { return m_session->state(); }
+    const Session& session() const { return *m_session; }
 
     /// How many ticks were painted since the window was made.
     int paintedTicks() const { return m_paintedTicks; }
@@ -48,18 +52,23 @@ private:
     void goOn();
     void paintNow();
     void readKeys();
-    void beginMatch();
+    void see();
+    void step(int by);
     bool takeWindowKey(int key);
+    bool takeTrainingKey(int key);
     QRectF target() const;
     void paintPages(QPainter* painter);
 
     std::unique_ptr<LoadedMatch> m_match;
     std::unique_ptr<Scene> m_scene;
     std::unique_ptr<MatchSounds> m_sounds;
-    Rules::State m_state;
+    std::unique_ptr<Session> m_session;
     Rules::Inputs m_inputs;
     Keymap m_keys;
     Hud m_hud;
+    TrainingHud m_training;
+    Overlays m_overlays;
+    bool m_isMeterShown = false;
     SteadyClock m_clock;
     bool m_isHelpShown = false;
     int m_notesLeft;

@@ -41,6 +41,7 @@ LAYERS = {
     "player/rules/": 20,
     "player/picture/": 21,
     "player/script/": 21,
+    "player/training/": 21,
     "player/sound/": 22,
     "player/window/": 23,
     "player/main.cpp": 24,
@@ -90,7 +91,7 @@ WIDGET_FREE_HEADERS = ["src/text/", "src/core/", "src/code/", "src/cache/", "src
 WIDGET_HEADERS_ALLOWED = ["src/core/dialogs/"]
 WIDGET_FREE_FILES = ["host/family/", "host/operations/", "host/cli/", "player/rules/",
                      "player/script/", "player/picture/", "player/sound/",
-                     "player/window/"]
+                     "player/training/", "player/window/"]
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"]+)[>"]', re.MULTILINE)
 

@@ -20,6 +20,7 @@ private slots:
     void keysMoveBoth();
     void everyTickIsPainted();
     void whatIsHeldEndsWithTheFocus();
+    void stopAndStep();
     void keymap_data();
     void keymap();
 
@@ -89,6 +90,29 @@ void TestPlayWindow::whatIsHeldEndsWithTheFocus()
     QCoreApplication::sendEvent(m_window.get(), &away);
     wait(20);
     QCOMPARE(m_window->state().fighters[0].action, Rules::Action::Stand);
+}
+
+/// Every key of training is pressed; the meter and boxes are painted meanwhile.
+void TestPlayWindow::stopAndStep()
+{
+    for (const int key : {Qt::Key_F1, Qt::Key_F2, Qt::Key_F3, Qt::Key_F3, Qt::Key_F4, Qt::Key_F5,
+                          Qt::Key_F6, Qt::Key_F7, Qt::Key_F8, Qt::Key_F9, Qt::Key_F10}) {
+        QTest::keyClick(m_window.get(), Qt::Key(key));
+        wait(2);
+    }
+    QCOMPARE(m_window->session().dummy().mode(), Dummy::Stand);
+    QVERIFY(m_window->session().isEndless());
+    QTest::keyClick(m_window.get(), Qt::Key_Space);
+    const int tick = m_window->state().tick;
+    QTest::keyClick(m_window.get(), Qt::Key_PageDown);
+    QCOMPARE(m_window->state().tick, tick + 1);
+    QTest::keyClick(m_window.get(), Qt::Key_PageUp);
+    QTest::keyClick(m_window.get(), Qt::Key_PageUp);
+    QCOMPARE(m_window->state().tick, tick - 1);
+    QTest::qWait(60);
+    QCOMPARE(m_window->state().tick, tick - 1);
+    QTest::keyClick(m_window.get(), Qt::Key_Space);
+    wait(2);
 }
 
 void TestPlayWindow::keymap_data()
