@@ -1,10 +1,10 @@
 #include "cache/crc64.h"
 
 #include "cache/crc64fold_p.h"
+#include "core/crctables_p.h"
 
 #include <QtEndian>
 
-#include <array>
 #include <cstddef>
 
 namespace Zorv {
@@ -16,29 +16,7 @@ using Checksum = unsigned long long;
 const Checksum Polynomial = 0x95AC9329AC4BC9B5;
 const unsigned Step = 16;
 
-using Tables = std::array<std::array<Checksum, 256>, Step>;
-
-// Table n is what a byte does to the register when n bytes follow it.
-constexpr Tables makeTables()
-{
-    Tables tables{};
-    for (unsigned byte = 0; byte < 256; ++byte) {
-        Checksum value = byte;
-        for (int bit = 0; bit < 8; ++bit) {
-            value = (value >> 1) ^ ((value & 1) ? Polynomial : 0);
-        }
-        tables[0][byte] = value;
-    }
-    for (unsigned n = 1; n < Step; ++n) {
-        for (unsigned byte = 0; byte < 256; ++byte) {
-            const Checksum before = tables[n - 1][byte];
-            tables[n][byte] = (before >> 8) ^ tables[0][before & 255];
-        }
-    }
-    return tables;
-}
-
-constexpr Tables tables = makeTables();
+constexpr auto tables = crcTables<Checksum, Step>(Polynomial);
 
 // What 8 bytes do when `behind` bytes of the step follow them.
 template <unsigned behind>
