@@ -3,29 +3,18 @@
 namespace Zorv {
 
 RasterLayerInsert::RasterLayerInsert(ImageCanvas* canvas, ImageLayer* layer, int row)
-    : ImageUndoCommand(QStringLiteral("layerInsert")), m_canvas(canvas),
-      m_layer(layer, HeldLayer::In), m_row(row)
+    : LayerCommand(QStringLiteral("layerInsert"), canvas, layer, HeldLayer::In, row)
 {
 }
 
 void RasterLayerInsert::undo()
 {
-    m_layer.takeFrom(m_canvas);
+    takeOut();
 }
 
 void RasterLayerInsert::doRedo()
 {
-    m_layer.putInto(m_canvas, m_row);
-}
-
-qint64 RasterLayerInsert::byteSize() const
-{
-    return qint64(sizeof *this) + m_layer.byteSize();
-}
-
-qint64 RasterLayerInsert::pack(qint64 limit)
-{
-    return m_layer.pack(limit);
+    putIn();
 }
 
 }  // namespace Zorv

@@ -1,27 +1,19 @@
 #pragma once
 
-#include "image/canvas/commands/heldlayer_p.h"
-#include "image/canvas/imageundocommand.h"
+#include "image/canvas/commands/layercommand_p.h"
 
 namespace Zorv {
 
 /// A layer that was put at a row.
-class RasterLayerInsert : public ImageUndoCommand
+class RasterLayerInsert : public LayerCommand
 {
 public:
     RasterLayerInsert(ImageCanvas* canvas, ImageLayer* layer, int row);
 
     void undo() override;
-    qint64 byteSize() const override;
-    qint64 pack(qint64 limit) override;
 
 protected:
     void doRedo() override;
-
-private:
-    ImageCanvas* m_canvas;
-    HeldLayer m_layer;
-    int m_row;
 };
 
 }  // namespace Zorv
