@@ -1,5 +1,7 @@
 #include "family/grammar/problems.h"
 
+#include "family/tableorder.h"
+
 #include <QCoreApplication>
 
 namespace Family {
@@ -223,16 +225,7 @@ constexpr ProblemInfo rows[] = {
 };
 // clang-format on
 
-constexpr bool rowsAreInOrder()
-{
-    for (int i = 0; i < ProblemCount; ++i) {
-        if (int(rows[i].id) != i) {
-            return false;
-        }
-    }
-    return true;
-}
-static_assert(sizeof rows / sizeof *rows == ProblemCount && rowsAreInOrder(),
+static_assert(sizeof rows / sizeof *rows == ProblemCount && isInOrder(rows, &ProblemInfo::id),
               "a row for each kind of problem, in the order of the kinds");
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "family/meaning/neededanimations.h"
 
+#include "family/tableorder.h"
+
 namespace Family {
 
 namespace {
@@ -54,16 +56,8 @@ constexpr NeededAnimation rows[] = {
 };
 // clang-format on
 
-constexpr bool rowsAreInOrder()
-{
-    for (int i = 0; i < AnimationRoleCount; ++i) {
-        if (int(rows[i].role) != i) {
-            return false;
-        }
-    }
-    return true;
-}
-static_assert(sizeof rows / sizeof *rows == AnimationRoleCount && rowsAreInOrder(),
+static_assert(sizeof rows / sizeof *rows == AnimationRoleCount &&
+                  isInOrder(rows, &NeededAnimation::role),
               "a row for each role, in the order of the roles");
 
 }  // namespace
