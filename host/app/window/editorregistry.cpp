@@ -340,38 +340,32 @@ void EditorRegistry::updateState()
     }
 }
 
-void EditorRegistry::reconfig()
+template <class Act>
+void EditorRegistry::forAll(Act act)
 {
     for (const Entry& entry : qAsConst(m_entries)) {
         if (entry.editor) {
-            entry.editor->reconfig();
+            act(entry.editor.data());
         }
         if (entry.workspace) {
-            entry.workspace->reconfig();
+            act(entry.workspace.data());
         }
     }
     for (ExtraEditor* panel : qAsConst(m_panels)) {
         if (panel) {
-            panel->reconfig();
+            act(panel);
         }
     }
 }
 
+void EditorRegistry::reconfig()
+{
+    forAll([](auto* each) { each->reconfig(); });
+}
+
 void EditorRegistry::retranslate()
 {
-    for (const Entry& entry : qAsConst(m_entries)) {
-        if (entry.editor) {
-            entry.editor->retranslate();
-        }
-        if (entry.workspace) {
-            entry.workspace->retranslate();
-        }
-    }
-    for (ExtraEditor* panel : qAsConst(m_panels)) {
-        if (panel) {
-            panel->retranslate();
-        }
-    }
+    forAll([](auto* each) { each->retranslate(); });
 }
 
 }  // namespace App

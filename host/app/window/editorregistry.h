@@ -127,6 +127,11 @@ private:
     };
 
     bool has(const Zorv::Editor* editor) const;
+
+    /// Calls it with each editor, workspace and panel that is there.
+    template <class Act>
+    void forAll(Act act);
+
     void leave();
     void showWorkspaces(const QVector<Zorv::Workspace*>& workspaces);
     void find(Zorv::Editor* editor, bool isAgain, unsigned flags);
