@@ -21,6 +21,23 @@ const char* const s_prefixes[Shader::Variants] = {"", "#define GRAYSCALE\n", "#d
 
 }  // namespace
 
+// Grayscale is the red channel, not a luminance: so the onion skin looks.
+#define VARIANTS_OF_COLOR                                                                          \
+    "    if (!mask)\n"                                                                             \
+    "       color.a = 1.0;\n"                                                                      \
+    "    if (color.a == 0.0)\n"                                                                    \
+    "        discard;\n"                                                                           \
+    "#if defined(GRAYSCALE)\n"                                                                     \
+    "    gl_FragColor = vec4(color.rrr, color.a * opacity);\n"                                     \
+    "#elif defined(LIGHTER)\n"                                                                     \
+    "    gl_FragColor = vec4(color.rgb + vec3(0.5, 0.5, 0.5), color.a * opacity);\n"               \
+    "#elif defined(DARKER)\n"                                                                      \
+    "    gl_FragColor = vec4(color.rgb - vec3(0.5, 0.5, 0.5), color.a * opacity);\n"               \
+    "#else\n"                                                                                      \
+    "    gl_FragColor = vec4(color.rgb, color.a * opacity);\n"                                     \
+    "#endif\n"                                                                                     \
+    "}\n"
+
 const char* const s_indexedShader =
     "uniform sampler2D image;\n"
     "uniform sampler2D palette;\n"
@@ -29,44 +46,14 @@ const char* const s_indexedShader =
     "varying mediump vec2 uv;\n"
     "void main() {\n"
     "    float index = texture2D(image, uv.st).r;\n"
-    "    vec4 color = texture2D(palette, vec2(index, 0.5));\n"
-    "    if (!mask)\n"
-    "       color.a = 1.0;\n"
-    "    if (color.a == 0.0)\n"
-    "        discard;\n"
-    "#if defined(GRAYSCALE)\n"
-    "    gl_FragColor = vec4(color.rrr, color.a * opacity);\n"
-    "#elif defined(LIGHTER)\n"
-    "    gl_FragColor = vec4(color.rgb + vec3(0.5, 0.5, 0.5), color.a * opacity);\n"
-    "#elif defined(DARKER)\n"
-    "    gl_FragColor = vec4(color.rgb - vec3(0.5, 0.5, 0.5), color.a * opacity);\n"
-    "#else\n"
-    "    gl_FragColor = vec4(color.rgb, color.a * opacity);\n"
-    "#endif\n"
-    "}\n";
+    "    vec4 color = texture2D(palette, vec2(index, 0.5));\n" VARIANTS_OF_COLOR;
 
-// Grayscale is the red channel, not a luminance: so the onion skin looks.
-const char* const s_rgbaShader =
-    "uniform sampler2D image;\n"
-    "uniform highp float opacity;\n"
-    "uniform lowp bool mask;\n"
-    "varying mediump vec2 uv;\n"
-    "void main() {\n"
-    "    vec4 color = texture2D(image, uv.st);\n"
-    "    if (!mask)\n"
-    "       color.a = 1.0;\n"
-    "    if (color.a == 0.0)\n"
-    "        discard;\n"
-    "#if defined(GRAYSCALE)\n"
-    "    gl_FragColor = vec4(color.rrr, color.a * opacity);\n"
-    "#elif defined(LIGHTER)\n"
-    "    gl_FragColor = vec4(color.rgb + vec3(0.5, 0.5, 0.5), color.a * opacity);\n"
-    "#elif defined(DARKER)\n"
-    "    gl_FragColor = vec4(color.rgb - vec3(0.5, 0.5, 0.5), color.a * opacity);\n"
-    "#else\n"
-    "    gl_FragColor = vec4(color.rgb, color.a * opacity);\n"
-    "#endif\n"
-    "}\n";
+const char* const s_rgbaShader = "uniform sampler2D image;\n"
+                                 "uniform highp float opacity;\n"
+                                 "uniform lowp bool mask;\n"
+                                 "varying mediump vec2 uv;\n"
+                                 "void main() {\n"
+                                 "    vec4 color = texture2D(image, uv.st);\n" VARIANTS_OF_COLOR;
 
 // The brightness stays, and so what is seen of a picture.
 const char* const s_tintedIndexedShader =
