@@ -202,6 +202,7 @@ public:
     // animationeditorboxfields.cpp
     void fillBox();
     void writeBox(QRect rect);
+    void editBox(void (QRect::*edit)(int), int value);
     QRect selectedRect() const;
 
     // animationeditoronion.cpp

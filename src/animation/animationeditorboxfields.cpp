@@ -43,32 +43,31 @@ void AnimationEditorPrivate::writeBox(QRect rect)
     editor->animationCodeChanged(false, false);
 }
 
-void AnimationEditorPrivate::boxXChanged(int x)
+void AnimationEditorPrivate::editBox(void (QRect::*edit)(int), int value)
 {
     QRect rect = selectedRect();
-    rect.moveLeft(x);
+    (rect.*edit)(value);
     writeBox(rect);
+}
+
+void AnimationEditorPrivate::boxXChanged(int x)
+{
+    editBox(&QRect::moveLeft, x);
 }
 
 void AnimationEditorPrivate::boxYChanged(int y)
 {
-    QRect rect = selectedRect();
-    rect.moveTop(y);
-    writeBox(rect);
+    editBox(&QRect::moveTop, y);
 }
 
 void AnimationEditorPrivate::boxWidthChanged(int width)
 {
-    QRect rect = selectedRect();
-    rect.setWidth(width);
-    writeBox(rect);
+    editBox(&QRect::setWidth, width);
 }
 
 void AnimationEditorPrivate::boxHeightChanged(int height)
 {
-    QRect rect = selectedRect();
-    rect.setHeight(height);
-    writeBox(rect);
+    editBox(&QRect::setHeight, height);
 }
 
 }  // namespace Zorv
