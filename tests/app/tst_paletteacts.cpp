@@ -213,9 +213,7 @@ void TestPaletteActs::takesTheCanvasIn()
     const QByteArray first = bytes();
     const QImage flipped = pictures().first().mirrored(true, false);
     canvas()->flip(true, false);
-    act("palette_sort", [](QWidget* dialog) {
-        dialog->findChild<QCheckBox*>()->setChecked(true);
-    });
+    act("palette_sort", [](QWidget* dialog) { dialog->findChild<QCheckBox*>()->setChecked(true); });
     QVERIFY(!editor()->isCanvasModified());
     QCOMPARE(pictures().first(), flipped);
     sprites()->undo();
@@ -237,7 +235,8 @@ void TestPaletteActs::previewIsSeen()
         fillIn(dialog);
         during = pixel();
         QVERIFY(editor()->isPreviewing());
-        QCOMPARE(QColor(QRgb(editor()->canvasRecord().colors[1])), QColor(own[1].r, own[1].g, own[1].b));
+        QCOMPARE(QColor(QRgb(editor()->canvasRecord().colors[1])),
+                 QColor(own[1].r, own[1].g, own[1].b));
     });
     QVERIFY(during != before);
     QCOMPARE(pixel(), during);
@@ -262,7 +261,11 @@ void TestPaletteActs::endsWithItsPalette()
 void TestPaletteActs::tellsUses()
 {
     const auto line = [this] {
-        return grid()->parentWidget()->window()->findChild<QLabel*>(QStringLiteral("pal_line"))->text();
+        return grid()
+            ->parentWidget()
+            ->window()
+            ->findChild<QLabel*>(QStringLiteral("pal_line"))
+            ->text();
     };
     QCOMPARE(line(), QStringLiteral("2 sprites have palette 1,1."));
     QVector<int> counts(4);
@@ -281,7 +284,9 @@ void TestPaletteActs::tellsUses()
     QTest::mouseMove(grid(), QPoint(2 * grid()->cellSize() + 3, 3));
     QTRY_VERIFY2(QToolTip::text().endsWith(note), qPrintable(QToolTip::text()));
     select({2, 3, 200});
-    QVERIFY2(line().endsWith(QStringLiteral("3 selected slots, pixels: %1").arg(counts[2] + counts[3])), qPrintable(line()));
+    QVERIFY2(
+        line().endsWith(QStringLiteral("3 selected slots, pixels: %1").arg(counts[2] + counts[3])),
+        qPrintable(line()));
     sprites()->removeSprites({1});
     QCoreApplication::processEvents();
     QCOMPARE(line(), QStringLiteral("1 sprite has palette 1,1."));
@@ -394,7 +399,8 @@ void TestPaletteActs::dropsOntoACostume()
     };
     QMimeData text;
     text.setText(QStringLiteral("#010203"));  // of no slot
-    const auto colours = Operations::PaletteEntries{{{5, 6, 7, 255}, {8, 9, 10, 11}}, {3, 200}}.toMime();
+    const auto colours =
+        Operations::PaletteEntries{{{5, 6, 7, 255}, {8, 9, 10, 11}}, {3, 200}}.toMime();
     QVERIFY(!drop(&text, place) && !drop(colours.get(), {0, 0}));
     QCOMPARE(bytes(), first);
     PaletteColors wanted = colors(1);
@@ -410,9 +416,8 @@ void TestPaletteActs::showsAsOthersSee()
 {
     const auto canvasPixel = [this] {
         QCoreApplication::processEvents();
-        return static_cast<Zorv::RenderWidget*>(widget())
-            ->grabFramebuffer()
-            .pixelColor(at({3, 0}) + QPoint(1, 1));
+        return static_cast<Zorv::RenderWidget*>(widget())->grabFramebuffer().pixelColor(
+            at({3, 0}) + QPoint(1, 1));
     };
     const auto others = [this] {
         m->window->spritePanel()->list()->viewport()->update();
@@ -427,8 +432,8 @@ void TestPaletteActs::showsAsOthersSee()
     for (int i = 0; i < names.size(); ++i) {
         trigger(names[i]);
         const Zorv::RGBA wanted = Zorv::seenWith(
-            Zorv::ColorBlindness(i), Zorv::RGBA{quint8(before.red()), quint8(before.green()),
-                                                quint8(before.blue()), 255});
+            Zorv::ColorBlindness(i),
+            Zorv::RGBA{quint8(before.red()), quint8(before.green()), quint8(before.blue()), 255});
         const QColor seen = canvasPixel();
         QVERIFY(qAbs(seen.red() - wanted.r) <= 2 && qAbs(seen.green() - wanted.g) <= 2 &&
                 qAbs(seen.blue() - wanted.b) <= 2 && seen != before);
@@ -460,9 +465,9 @@ void TestPaletteActs::findsWhatDiffersInAlphaAlone()
 /// As a person acts: one after the other, and all of them back.
 void TestPaletteActs::randomActs()
 {
-    const QVector<const char*> names{"palette_duplicate", "palette_sort", "palette_ramp",
+    const QVector<const char*> names{"palette_duplicate", "palette_sort",    "palette_ramp",
                                      "palette_hue",       "palette_replace", "pal_switch_color",
-                                     "pal_prev", "pal_next"};
+                                     "pal_prev",          "pal_next"};
     const int runs = qMax(1, qEnvironmentVariableIntValue("ZORV_TEST_RUNS"));
     QRandomGenerator random(20261122);
     for (int i = 0; i < 25 * runs; ++i) {

@@ -81,8 +81,9 @@ void ColorExchange::paste() const
     const QString title = tr("Paste colours");
     if (copied.colors.isEmpty()) {
         Dialogs::instance()->information(
-            title, tr("There are no colours on the clipboard. Colours are copied from a palette, or "
-                      "as text: \"#rrggbb\", a line each."));
+            title,
+            tr("There are no colours on the clipboard. Colours are copied from a palette, or "
+               "as text: \"#rrggbb\", a line each."));
     } else if (chosen.isThere()) {
         const Operations::MediaResult result = Operations::placeColors(
             chosen.sprites(), chosen.row(), copied.placedIn(chosen.slotsOrAll(1)), title);

@@ -38,8 +38,8 @@ std::unique_ptr<QMimeData> PaletteEntries::toMime() const
     auto data = std::make_unique<QMimeData>();
     data->setText(lines.join(QLatin1Char('\n')));
     if (places.size() == colors.size()) {
-        data->setData(PlacesFormat, QByteArray(reinterpret_cast<const char*>(places.data()),
-                                               places.size()));
+        data->setData(PlacesFormat,
+                      QByteArray(reinterpret_cast<const char*>(places.data()), places.size()));
     }
     return data;
 }
@@ -61,8 +61,7 @@ PaletteEntries PaletteEntries::fromMime(const QMimeData* data)
         const uint rgb = match.captured(1).toUInt(nullptr, 16);
         const QString alpha = match.captured(2);
         entries.colors.append({quint8(qRed(rgb)), quint8(qGreen(rgb)), quint8(qBlue(rgb)),
-                               alpha.isEmpty() ? quint8(255)
-                                               : quint8(alpha.toUInt(nullptr, 16))});
+                               alpha.isEmpty() ? quint8(255) : quint8(alpha.toUInt(nullptr, 16))});
     }
     const QByteArray places = data ? data->data(PlacesFormat) : QByteArray();
     if (places.size() == entries.colors.size()) {

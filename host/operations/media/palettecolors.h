@@ -19,8 +19,8 @@ struct MediaResult;
 
 /// Some colours of a palette, with the slots that they stand in: what is copied and dragged.
 ///
-/// Other programs get and give them as text, a line each: "#rrggbb", or "#rrggbbaa" where one is not
-/// opaque. Those have no slots.
+/// Other programs get and give them as text, a line each: "#rrggbb", or "#rrggbbaa" where one is
+/// not opaque. Those have no slots.
 struct PaletteEntries
 {
     QVector<Zorv::RGBA> colors;
@@ -36,8 +36,8 @@ struct PaletteEntries
     PaletteEntries placedIn(const bool* selection) const;
 };
 
-/// Puts colours into their slots of a palette: one step of undo with that title. `done` counts those
-/// that have places.
+/// Puts colours into their slots of a palette: one step of undo with that title. `done` counts
+/// those that have places.
 MediaResult placeColors(Family::SpriteCollection* sprites, int row, const PaletteEntries& entries,
                         const QString& title);
 
