@@ -28,6 +28,9 @@ const char* const areas[] = {"sprites", "animations", nullptr};
 PaletteUsage::PaletteUsage(FamilyPaletteEditor* editor, QObject* parent)
     : QObject(parent), m_editor(editor), m_label(new QLabel)
 {
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(0);
+    connect(&m_soon, &QTimer::timeout, this, &PaletteUsage::showLine);
     m_label->setTextFormat(Qt::PlainText);
     m_label->setWordWrap(true);
     Zorv::OwnWidgetControl control(m_label);
@@ -84,9 +87,10 @@ void PaletteUsage::follow()
     m_sprites = now;
     m_count.reset();
     if (now) {
+        // While a file is read anew its palettes come and go before the panel knows.
         const auto changed = [this] {
             forget();
-            showLine();
+            m_soon.start();
         };
         connect(now, &Zorv::Sprites::changed, this, changed);
         connect(now, &QAbstractItemModel::modelReset, this, changed);

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 
 #include <optional>
 
@@ -49,6 +50,7 @@ private:
     QPointer<QLabel> m_label;
     QPointer<Family::SpriteCollection> m_sprites;  // whose changes are followed
     std::optional<Operations::PaletteUseCount> m_count;
+    QTimer m_soon;
 };
 
 }  // namespace App
