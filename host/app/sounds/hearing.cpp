@@ -20,6 +20,8 @@
 #include <zorv/editors/sound/audiosamplewidget.h>
 #include <zorv/editors/sound/soundworkspace.h>
 
+#include <QListWidget>
+
 #include <algorithm>
 
 namespace App {
@@ -95,13 +97,17 @@ void Hearing::follow(int row)
     }
 }
 
-/// What the panel has selected goes by the panel's keys; the rest is that of the editor.
+/// What the list has selected goes by its keys; the rest is that of the editor, also for the moves.
 QVector<PanelPlace> Hearing::places()
 {
     const CommandRows rows{{Command::Delete, [this] { removeSelected(); },
                             [this] { return m_panel->currentRow() >= 0; }},
                            {Command::SelectAll, [list = m_panel->list()] { list->selectAll(); }}};
-    return {PanelPlace::of(m_panel, rows + commands())};
+    QVector<PanelPlace> places{PanelPlace::of(m_panel->list(), rows + commands())};
+    if (m_panel->uses()->isEnabled()) {
+        places.append(PanelPlace::of(m_panel->uses(), commands()));
+    }
+    return places;
 }
 
 CommandRows Hearing::commands()

@@ -20,26 +20,22 @@ using Zorv::RowList;
 
 namespace {
 
-constexpr int UsesDelay = 100;  // milliseconds in which nothing changes
+constexpr int UsesDelay = 200;  // milliseconds, for many changes at once
 constexpr int ListShare = 2;    // of three parts of the height
 
 QString textOf(const Family::SoundUse& use)
 {
-    const QString move = use.animation.isEmpty()
-                             ? use.move
-                             : SoundPanel::tr("%1 (animation %2)").arg(use.move, use.animation);
     return SoundPanel::tr("%1: %2, %3, line %4")
-        .arg(move, use.key, QFileInfo(use.place.document->fileName()).fileName(),
+        .arg(use.move, use.key, QFileInfo(use.place.document->fileName()).fileName(),
              QString::number(use.place.line + 1));
 }
 
-QStringList textsOf(const QVector<Family::SoundUse>& uses)
+/// What the panel may be too narrow for, and what the move shows.
+QString tipOf(const Family::SoundUse& use)
 {
-    QStringList texts;
-    for (const Family::SoundUse& use : uses) {
-        texts.append(textOf(use));
-    }
-    return texts;
+    return use.animation.isEmpty()
+               ? textOf(use)
+               : SoundPanel::tr("%1 (animation %2)").arg(textOf(use), use.animation);
 }
 
 }  // namespace
@@ -58,6 +54,7 @@ SoundPanel::SoundPanel(QWidget* parent)
     layout->addWidget(m_usesTitle);
     layout->addWidget(m_uses, 1);
     m_usesTitle->setWordWrap(true);
+    m_uses->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_usesTitle->setBuddy(m_uses);
     m_timer->setSingleShot(true);
     m_timer->setInterval(UsesDelay);
@@ -131,7 +128,9 @@ void SoundPanel::updateCurrent()
 
 void SoundPanel::updateUsesSoon()
 {
-    m_timer->start();
+    if (!m_timer->isActive()) {
+        m_timer->start();
+    }
 }
 
 void SoundPanel::showEvent(QShowEvent* event)
@@ -156,7 +155,11 @@ void SoundPanel::updateUses()
     if (!isVisible()) {
         return;
     }
-    const QStringList texts = textsOf(findUses());
+    const QVector<Family::SoundUse> uses = findUses();
+    QStringList texts;
+    for (const Family::SoundUse& use : uses) {
+        texts.append(textOf(use));
+    }
     QStringList shown;
     for (int row = 0; row < m_uses->count(); ++row) {
         shown.append(m_uses->item(row)->text());
@@ -164,6 +167,9 @@ void SoundPanel::updateUses()
     if (texts != shown) {
         m_uses->clear();
         m_uses->addItems(texts);
+    }
+    for (int row = 0; row < uses.size(); ++row) {
+        m_uses->item(row)->setToolTip(tipOf(uses[row]));
     }
     m_uses->setEnabled(!texts.isEmpty());
     m_usesTitle->setText(currentRow() < 0  ? QString()

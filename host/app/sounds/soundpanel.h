@@ -45,7 +45,7 @@ public:
     /// The moves that play the sound, a row for each line.
     QListWidget* uses() const { return m_uses; }
 
-    /// Looks for them again, when nothing has changed for a moment.
+    /// Looks for them again a moment later.
     void updateUsesSoon();
 
 signals:
