@@ -559,13 +559,6 @@
     </message>
 </context>
 <context>
-    <name>App::CodeView</name>
-    <message>
-        <source>%1 is saved.</source>
-        <translation>%1 ist gespeichert.</translation>
-    </message>
-</context>
-<context>
     <name>App::ColorExchange</name>
     <message>
         <source>Paste colours</source>
@@ -768,6 +761,13 @@
     <message>
         <source>Take all frames that are there?</source>
         <translation>Alle vorhandenen Frames nehmen?</translation>
+    </message>
+</context>
+<context>
+    <name>App::FileSaving</name>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -1053,10 +1053,6 @@
     <message>
         <source>Save sounds as</source>
         <translation>Klänge speichern unter</translation>
-    </message>
-    <message>
-        <source>%1 is saved.</source>
-        <translation>%1 ist gespeichert.</translation>
     </message>
     <message>
         <source>Remove sounds</source>
@@ -1357,13 +1353,6 @@
     <message>
         <source>(%1 are left out)</source>
         <translation>(%1 sind ausgelassen)</translation>
-    </message>
-</context>
-<context>
-    <name>App::PaintCommands</name>
-    <message>
-        <source>%1 is saved.</source>
-        <translation>%1 ist gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -2443,10 +2432,6 @@
     <message>
         <source>Remove sprites</source>
         <translation>Sprites entfernen</translation>
-    </message>
-    <message>
-        <source>%1 is saved.</source>
-        <translation>%1 ist gespeichert.</translation>
     </message>
 </context>
 <context>

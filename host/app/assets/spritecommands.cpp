@@ -4,11 +4,10 @@
 #include "app/assets/axisdialog.h"
 #include "app/assets/spritepanel.h"
 #include "app/session/gamesession.h"
-#include "app/session/unsavedwork.h"
 #include "app/window/editorregistry.h"
 #include "app/window/fieldcommands.h"
+#include "app/window/filesaving.h"
 #include "app/window/partlist.h"
-#include "app/window/statusfields.h"
 #include "app/window/windowservices.h"
 #include "family/assets/familysprite.h"
 #include "family/assets/spritecollection.h"
@@ -89,11 +88,7 @@ bool SpriteCommands::canSave() const
 
 void SpriteCommands::save()
 {
-    if (saveFiles({m_panel->sprites()})) {
-        m_services.status->showPassing(
-            tr("%1 is saved.").arg(m_services.session->shownPath(m_panel->sprites()->fileName())));
-    }
-    m_services.parts->gameChanged();
+    saveFile(m_services, m_panel->sprites());
 }
 
 bool SpriteCommands::hasSprite() const

@@ -9,6 +9,7 @@
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
 #include "app/window/editorregistry.h"
+#include "app/window/filesaving.h"
 #include "app/window/jumps.h"
 #include "app/window/partlist.h"
 #include "app/window/statusfields.h"
@@ -309,11 +310,7 @@ bool CodeView::hasSelection() const
 void CodeView::save()
 {
     if (FamilyDocument* document = m_tabs->currentDocument()) {
-        if (saveFiles({document})) {
-            m_services.status->showPassing(
-                tr("%1 is saved.").arg(m_services.session->shownPath(document->fileName())));
-        }
-        m_services.parts->gameChanged();
+        saveFile(m_services, document);
     }
 }
 

@@ -8,10 +8,8 @@
 #include "app/paint/paintoptions.h"
 #include "app/paint/panswitch.h"
 #include "app/session/gamesession.h"
-#include "app/session/unsavedwork.h"
 #include "app/window/editorregistry.h"
-#include "app/window/partlist.h"
-#include "app/window/statusfields.h"
+#include "app/window/filesaving.h"
 #include "app/window/windowservices.h"
 #include "family/assets/spritecollection.h"
 
@@ -152,11 +150,7 @@ bool PaintCommands::canSave() const
 
 void PaintCommands::save()
 {
-    if (saveFiles({m_editor->file()})) {
-        m_services.status->showPassing(
-            tr("%1 is saved.").arg(m_services.session->shownPath(m_editor->file()->fileName())));
-    }
-    m_services.parts->gameChanged();
+    saveFile(m_services, m_editor->file());
 }
 
 /// Frames may have been edited meanwhile.

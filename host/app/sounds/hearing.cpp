@@ -2,13 +2,12 @@
 
 #include "app/actions/actionregistry.h"
 #include "app/session/gamesession.h"
-#include "app/session/unsavedwork.h"
 #include "app/sounds/familysoundeditor.h"
 #include "app/sounds/soundpanel.h"
 #include "app/window/editorregistry.h"
+#include "app/window/filesaving.h"
 #include "app/window/jumps.h"
 #include "app/window/partlist.h"
-#include "app/window/statusfields.h"
 #include "app/window/windowservices.h"
 #include "family/assets/soundfile.h"
 #include "family/project/familyproject.h"
@@ -131,11 +130,7 @@ bool Hearing::canSave() const
 
 void Hearing::save()
 {
-    if (saveFiles({m_editor->file()})) {
-        m_services.status->showPassing(
-            tr("%1 is saved.").arg(m_services.session->shownPath(m_editor->file()->fileName())));
-    }
-    m_services.parts->gameChanged();
+    saveFile(m_services, m_editor->file());
 }
 
 void Hearing::removeSelected()
