@@ -13,6 +13,20 @@ namespace App {
 
 using Family::FamilyPalette;
 
+SelectedSlots SelectedSlots::of(const FamilyPaletteEditor& editor)
+{
+    SelectedSlots found;
+    const Zorv::PaletteWidget* grid = editor.view();
+    for (int i = 0; grid && i < 256; ++i) {
+        if (grid->selection[i]) {
+            found.first = found.count == 0 ? i : found.first;
+            found.last = i;
+            ++found.count;
+        }
+    }
+    return found;
+}
+
 ChosenPalette::ChosenPalette(FamilyPaletteEditor* editor)
     : m_editor(editor), m_sprites(editor->sprites()), m_palette(editor->currentPalette())
 {

@@ -12,6 +12,17 @@ namespace App {
 
 class FamilyPaletteEditor;
 
+/// The slots that are selected in the grid. For what is asked at any time: it looks at no palette,
+/// which may be one of a file that is just read anew.
+struct SelectedSlots
+{
+    int count = 0;
+    int first = -1;
+    int last = -1;
+
+    static SelectedSlots of(const FamilyPaletteEditor& editor);
+};
+
 /// The current palette as it was when a dialog was opened on it, and the slots that were selected.
 /// Files are read again behind dialogs, projects are closed: it is looked at again before a change.
 class ChosenPalette

@@ -53,7 +53,7 @@ CommandRows ColorExchange::commands()
 
 bool ColorExchange::canCopy() const
 {
-    return m_editor->view() && ChosenPalette(m_editor).selectedCount() > 0;
+    return SelectedSlots::of(*m_editor).count > 0;
 }
 
 bool ColorExchange::canPaste() const

@@ -77,13 +77,13 @@ bool PaletteTools::hasSprites() const
 
 bool PaletteTools::hasSlot() const
 {
-    return hasPalette() && ChosenPalette(m_editor).selectedCount() > 0;
+    return hasPalette() && SelectedSlots::of(*m_editor).count > 0;
 }
 
 bool PaletteTools::hasSlotsBetween() const
 {
-    const ChosenPalette chosen(m_editor);
-    return hasPalette() && chosen.last() > chosen.first() + 1;
+    const SelectedSlots selected = SelectedSlots::of(*m_editor);
+    return hasPalette() && selected.last > selected.first + 1;
 }
 
 void PaletteTools::duplicate()
