@@ -60,6 +60,7 @@ public:
     QString folder() const;
     void rememberFolder(const QString& fileName) const;
     SoundSample read(const QString& fileName, QString* reason) const;
+    void addFiles(const QStringList& files, const QList<QVariant>& ids);
     void tellUnreadable(const QString& fileName, const QString& reason) const;
     bool write(const Sound& sound, const QString& fileName, QStringList* unopened) const;
 

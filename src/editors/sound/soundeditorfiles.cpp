@@ -182,31 +182,49 @@ void SoundEditorPrivate::add()
     if (ids.size() != files.size() || !to || to != sounds) {
         return;
     }
-    const int before = count();
-    int row = before == 0 ? 0 : current() + 1;
+    addFiles(files, ids);
+}
+
+/// As one step of undo. The editor and its sounds may go meanwhile; what is there when the person
+/// gives up stays.
+void SoundEditorPrivate::addFiles(const QStringList& files, const QList<QVariant>& ids)
+{
+    const QPointer<SoundEditorPrivate> self(this);
+    const QPointer<Sounds> to = sounds;
+    const int first = to->count() == 0 ? 0 : current() + 1;
+    int row = first;
     QVector<std::pair<QString, QString>> unreadable;
-    {
-        const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
-        if (files.size() > 1) {
-            sounds->beginChange({});
+    ++inhibit;
+    isBusy = true;
+    if (files.size() > 1) {
+        to->beginChange({});
+    }
+    auto progress = std::make_unique<Progress>(textOf(AddText), files.size());
+    for (int i = 0; i < files.size() && self && to && to == sounds; ++i) {
+        QString reason;
+        const SoundSample sample = read(files[i], &reason);
+        if (sample.frames > 0 && to->add(row, ids[i], sample)) {
+            ++row;
+        } else {
+            unreadable.append({files[i], reason});
         }
-        for (int i = 0; i < files.size(); ++i) {
-            QString reason;
-            const SoundSample sample = read(files[i], &reason);
-            if (sample.frames > 0 && sounds->add(row, ids[i], sample)) {
-                ++row;
-            } else {
-                unreadable.append({files[i], reason});
-            }
-        }
-        if (files.size() > 1) {
-            sounds->endChange();
-        }
-        if (count() > before) {
-            sounds->setCurrent(row - 1);
+        if (!progress->step()) {
+            break;
         }
     }
-    editor->soundCountChanged();
+    progress.reset();
+    if (files.size() > 1 && to) {
+        to->endChange();
+    }
+    if (!self) {
+        return;
+    }
+    --inhibit;
+    isBusy = false;
+    if (to && to == sounds) {
+        sounds->setCurrent(row > first ? row - 1 : current());
+        editor->soundCountChanged();
+    }
     for (const auto& file : qAsConst(unreadable)) {
         tellUnreadable(file.first, file.second);
     }

@@ -246,6 +246,14 @@ void TestSoundEditor::addsReplacesAndRemoves()
     editor->undo();
     QCOMPARE(sounds->count(), 3U);
 
+    host->cancelAfter = 1;
+    dialogs->fileAnswers = {{good, more, good}};
+    trigger("snd_add");
+    host->cancelAfter = -1;
+    QVERIFY(sounds->count() > 3U && sounds->count() < 6U);
+    editor->undo();
+    QCOMPARE(sounds->count(), 3U);
+
     dialogs->fileAnswers = {{more}, {empty}, {}};
     for (int i = 0; i < 3; ++i) {
         trigger("snd_open_sample");
