@@ -160,11 +160,15 @@ bool measure(const QString& file, const Invocation& invocation, JsonList* list, 
     }
     const auto prepare = [&](int i) -> std::function<SoundLoudness()> {
         Zorv::SoundSample sample = heard[i].sample;
-        if (const Family::FamilySound* sound = heard[i].sound) {
-            static_cast<Zorv::SampleInfo&>(sample) = sound->sampleInfo();
-            sample.data = sound->sampleData();
+        const Family::FamilySound* sound = heard[i].sound;
+        if (!sound) {
+            return [sample] { return Operations::loudnessOf(sample); };
         }
-        return [sample] { return Operations::loudnessOf(sample); };
+        static_cast<Zorv::SampleInfo&>(sample) = sound->sampleInfo();
+        return [sample, reader = sound->sampleReader()]() mutable {
+            sample.data = reader();
+            return Operations::loudnessOf(sample);
+        };
     };
     result->isCanceled = !Zorv::runJobs<SoundLoudness>(
         Text::tr("Loudness"), heard.size(), prepare,

@@ -4,6 +4,8 @@
 #include "media/soundsample.h"
 #include "zorv_export.h"
 
+#include <functional>
+
 namespace Zorv {
 
 /// One sound of a collection. Implemented by the host. Main thread only.
@@ -14,6 +16,10 @@ public:
 
     /// The samples, unpacked when they are asked for; empty if they are broken.
     virtual QByteArray sampleData() const = 0;
+
+    /// Unpacks the samples as they are now, in any thread, whatever becomes of the sound meanwhile.
+    /// By default it gives `sampleData()`, which is called at once.
+    virtual std::function<QByteArray()> sampleReader() const;
 
     /// The form of the samples, without unpacking.
     virtual SampleInfo sampleInfo() const = 0;

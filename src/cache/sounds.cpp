@@ -6,6 +6,11 @@ Sounds::Sounds(StreamCache* cache) : CachedProjectFile(cache) {}
 
 Sounds::~Sounds() = default;
 
+std::function<std::shared_ptr<const void>(const QByteArray&)> Sounds::packer() const
+{
+    return {};
+}
+
 bool Sounds::canName(const QVariant&) const
 {
     return true;

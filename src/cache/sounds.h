@@ -5,6 +5,9 @@
 
 #include <QVariant>
 
+#include <functional>
+#include <memory>
+
 namespace Zorv {
 
 class Sound;
@@ -30,6 +33,11 @@ public:
     /// Puts a sound in front of a row; at the end for a row beyond it. An empty identifier takes a
     /// free one.
     virtual Sound* add(int row, const QVariant& id, const SoundSample& sample) = 0;
+
+    /// Packs samples in any thread, before they are stored: as long as the result lives, `add()`
+    /// and `Sound::setSample()` take these bytes, which may not be a copy, and cost little. It may
+    /// outlive the list. By default there is nothing to be done, and it is empty.
+    virtual std::function<std::shared_ptr<const void>(const QByteArray& samples)> packer() const;
 
     /// The first row from `from` on with an identifier; negative if there is none.
     virtual int find(int from, const QVariant& id) const = 0;

@@ -120,17 +120,38 @@ bool StreamCache::isEqual(Item* item, const QByteArray& data, unsigned long long
 
 StreamCache::Item* StreamCache::find(const QByteArray& data, Item* exclude) const
 {
-    if (data.isEmpty() || m_items.isEmpty()) {
+    if (data.isEmpty() || !bringIndexUpToDate()) {
         return nullptr;
+    }
+    return m_index->first(checksumOf(data), [&](Item* item) {
+        return item != exclude && holdsSame(itemData(item), data);
+    });
+}
+
+StreamCache::Item* StreamCache::find(const QByteArray& data, unsigned long long crc,
+                                     const QByteArray& raw, unsigned char type) const
+{
+    if (data.isEmpty() || !bringIndexUpToDate()) {
+        return nullptr;
+    }
+    return m_index->first(crc, [&](Item* item) {
+        return (item->type == type && holdsSame(itemRawData(item), raw)) ||
+               holdsSame(itemData(item), data);
+    });
+}
+
+/// False if there is nothing to be found.
+bool StreamCache::bringIndexUpToDate() const
+{
+    if (m_items.isEmpty()) {
+        return false;
     }
     m_index->build(m_items);
     m_index->complete([this](Item* item) {
         item->crc = checksumOf(itemData(item));
         return item->crc;
     });
-    return m_index->first(checksumOf(data), [&](Item* item) {
-        return item != exclude && holdsSame(itemData(item), data);
-    });
+    return true;
 }
 
 void StreamCache::appendItem(Item* item)

@@ -85,6 +85,11 @@ public:
     /// later ones does not grow with the list.
     Item* find(const QByteArray& data, Item* exclude) const;
 
+    /// The same for bytes whose checksum is known, and which an item of a type would keep as `raw`:
+    /// one that keeps just that is found without decoding it.
+    Item* find(const QByteArray& data, unsigned long long crc, const QByteArray& raw,
+               unsigned char type) const;
+
 signals:
     /// Turns stored bytes into usable ones, and back. A filter that leaves `dstData` empty has
     /// nothing to change. Connect with `Qt::DirectConnection`.
@@ -102,6 +107,7 @@ protected:
 
 private:
     void updateChecksum(Item* item, QByteArray* data) const;
+    bool bringIndexUpToDate() const;
 
     QList<Item*> m_items;
     std::unique_ptr<StreamCacheIndex> m_index;

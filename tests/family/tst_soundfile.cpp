@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 #include <algorithm>
+#include <future>
 
 using namespace Family;
 using Zorv::SoundSample;
@@ -91,6 +92,7 @@ class TestSoundFile : public QObject
 private slots:
     void randomOperations();
     void equalSamplesAreStoredOnce();
+    void otherThreadsPackAndUnpack();
     void brokenForms();
     void brokenRecords_data();
     void brokenRecords();
@@ -220,6 +222,40 @@ QByteArray TestSoundFile::smallFile()
 
 // Whatever became of a byte: the sounds that are whole play what they did, the others are told, and
 // saving loses no byte and changes nothing.
+/// The bytes of a file do not depend on who has packed them, nor on when.
+void TestSoundFile::otherThreadsPackAndUnpack()
+{
+    QRandomGenerator random(4);
+    SoundFile plain;
+    auto ahead = std::make_unique<SoundFile>();
+    QVector<std::function<QByteArray()>> readers;
+    QVector<QByteArray> contents;
+    const auto packer = ahead->packer();
+    for (int i = 0; i < 60; ++i) {
+        const QByteArray data = randomData(random);
+        const auto packed = std::async(std::launch::async, packer, data).get();
+        const QByteArray copy(data.constData(), data.size());
+        if (i % 3 == 2) {
+            ahead->sound(i / 3)->setSample(soundOf(data), i % 2 ? data : copy);
+            plain.sound(i / 3)->setSample(soundOf(data), data);
+        } else {
+            ahead->add(i, {}, soundOf(i % 2 ? data : copy));
+            plain.add(i, {}, soundOf(data));
+        }
+        const FamilySound* sound = ahead->sound(i % int(ahead->count()));
+        readers.append(sound->sampleReader());
+        contents.append(sound->sampleData());
+    }
+    MemoryArchive files[] = {MemoryArchive({}), MemoryArchive({})};
+    QVERIFY(ahead->toFile(files[0], "a", false) && plain.toFile(files[1], "a", false));
+    QCOMPARE(files[0].bytes(), files[1].bytes());
+    ahead.reset();
+    QVERIFY(packer("after the list has gone"));
+    for (int i = 0; i < readers.size(); ++i) {
+        QCOMPARE(std::async(std::launch::async, readers[i]).get(), contents[i]);
+    }
+}
+
 void TestSoundFile::brokenForms()
 {
     const QByteArray whole = smallFile();

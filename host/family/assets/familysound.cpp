@@ -22,8 +22,15 @@ int FamilySound::packedSize() const
 
 QByteArray FamilySound::sampleData() const
 {
-    return state.samples && state.record.isEmpty() ? m_sounds->store()->samples(state.samples.get())
-                                                   : QByteArray();
+    return sampleReader()();
+}
+
+std::function<QByteArray()> FamilySound::sampleReader() const
+{
+    if (state.samples && state.record.isEmpty()) {
+        return m_sounds->store()->reader(state.samples.get());
+    }
+    return [] { return QByteArray(); };
 }
 
 void FamilySound::setSample(const Zorv::SampleInfo& info, const QByteArray& data)

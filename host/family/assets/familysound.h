@@ -38,6 +38,7 @@ public:
     int packedSize() const;
 
     QByteArray sampleData() const override;
+    std::function<QByteArray()> sampleReader() const override;
     Zorv::SampleInfo sampleInfo() const override { return state.info; }
 
     /// Nothing for a form that a sound file cannot hold; see `SoundFile::add()`. A broken sound is

@@ -1,6 +1,7 @@
 #include "family/assets/samplestore.h"
 
 #include "family/assets/assetcache.h"
+#include "family/assets/packedsamples.h"
 #include "family/assets/samplepacking.h"
 
 #include <zorv/cache/crc64.h>
@@ -14,6 +15,11 @@ namespace {
 // Types of cache items, apart from those of pixels.
 enum ItemType : unsigned char { PlainItem = 16, DeflatedItem = 17 };
 
+unsigned char itemType(SamplePacking packing)
+{
+    return packing == SamplePacking::Plain ? PlainItem : DeflatedItem;
+}
+
 quint64 checksumOf(const QByteArray& data)
 {
     return Zorv::crc64(reinterpret_cast<const uchar*>(data.constData()), unsigned(data.size()));
@@ -21,7 +27,7 @@ quint64 checksumOf(const QByteArray& data)
 
 }  // namespace
 
-SampleStore::SampleStore() : m_cache(newAssetCache())
+SampleStore::SampleStore() : m_cache(newAssetCache()), m_ahead(std::make_shared<PackedAhead>())
 {
     connect(m_cache.get(), &StreamCache::readFilter, this, &SampleStore::unpack,
             Qt::DirectConnection);
@@ -37,8 +43,7 @@ SampleRef SampleStore::adopt(SamplePacking packing, const QByteArray& stream, qi
     data->plainSize = plainSize;
     data->plainCrc = plainCrc;
     data->streamCrc = streamCrc;
-    data->fromData(stream, packing == SamplePacking::Plain ? PlainItem : DeflatedItem, data,
-                   plainCrc);
+    data->fromData(stream, itemType(packing), data, plainCrc);
     m_byItem.insert(data->item, data);
     return SampleRef(data);
 }
@@ -48,17 +53,24 @@ SampleRef SampleStore::add(const QByteArray& samples)
     if (samples.isEmpty()) {
         return {};
     }
-    if (StreamCache::Item* item = m_cache->find(samples, nullptr)) {
+    const std::shared_ptr<const PackedSamples> ahead = m_ahead->find(samples);
+    StreamCache::Item* item =
+        ahead ? m_cache->find(samples, ahead->plainCrc, ahead->stream, itemType(ahead->packing))
+              : m_cache->find(samples, nullptr);
+    if (item) {
         SampleData* data = m_byItem.value(item);
         ++data->refCount;
         return SampleRef(data);
     }
-    const quint64 crc = checksumOf(samples);
-    const QByteArray packed = deflated(samples);
-    if (packed.size() < samples.size() - samples.size() / 8) {
-        return adopt(SamplePacking::Deflated, packed, samples.size(), crc, checksumOf(packed));
-    }
-    return adopt(SamplePacking::Plain, samples, samples.size(), crc, crc);
+    const PackedSamples packed = ahead ? *ahead : packSamples(samples);
+    return adopt(packed.packing, packed.stream, samples.size(), packed.plainCrc, packed.streamCrc);
+}
+
+std::function<std::shared_ptr<const void>(const QByteArray&)> SampleStore::packer() const
+{
+    return [ahead = m_ahead](const QByteArray& samples) -> std::shared_ptr<const void> {
+        return ahead->add(samples);
+    };
 }
 
 QByteArray SampleStore::stream(const SampleData* data) const
@@ -66,11 +78,14 @@ QByteArray SampleStore::stream(const SampleData* data) const
     return data->toData(true);
 }
 
-QByteArray SampleStore::samples(const SampleData* data) const
+std::function<QByteArray()> SampleStore::reader(const SampleData* data) const
 {
-    const QByteArray result = data->toData(false);
-    return result.size() == data->plainSize && checksumOf(result) == data->plainCrc ? result
-                                                                                    : QByteArray();
+    return [stream = data->toData(true), packing = data->packing, size = data->plainSize,
+            crc = data->plainCrc] {
+        const QByteArray result =
+            packing == SamplePacking::Deflated ? inflated(stream, size) : stream;
+        return result.size() == size && checksumOf(result) == crc ? result : QByteArray();
+    };
 }
 
 void SampleStore::unpack(unsigned char type, void* filterData, const QByteArray& source,

@@ -5,9 +5,12 @@
 #include <QHash>
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 namespace Family {
+
+class PackedAhead;
 
 /// The samples of a collection: their cache, and what packs and unpacks them.
 ///
@@ -32,11 +35,16 @@ public:
     /// Stores new samples, deflated if that makes them smaller by a good part. Null for none.
     SampleRef add(const QByteArray& samples);
 
+    /// Packs samples in any thread; as long as the result lives, `add()` of these bytes costs
+    /// little. It may outlive the store.
+    std::function<std::shared_ptr<const void>(const QByteArray& samples)> packer() const;
+
     /// The packed bytes, as they go to a file.
     QByteArray stream(const SampleData* data) const;
 
-    /// The samples unpacked; empty if they are broken.
-    QByteArray samples(const SampleData* data) const;
+    /// Gives the samples unpacked, in any thread; empty if they are broken. It may outlive the
+    /// store.
+    std::function<QByteArray()> reader(const SampleData* data) const;
 
 private slots:
     void unpack(unsigned char type, void* filterData, const QByteArray& source, QByteArray& target);
@@ -46,6 +54,7 @@ private:
     void gone(SampleData* data);
 
     std::unique_ptr<Zorv::StreamCache> m_cache;
+    std::shared_ptr<PackedAhead> m_ahead;
     QHash<Zorv::StreamCache::Item*, SampleData*> m_byItem;
 };
 

@@ -67,6 +67,11 @@ FamilySound* SoundFile::add(int row, const QVariant& id, const Zorv::SoundSample
     return sound.get();
 }
 
+std::function<std::shared_ptr<const void>(const QByteArray&)> SoundFile::packer() const
+{
+    return m_store->packer();
+}
+
 bool SoundFile::canName(const QVariant& id) const
 {
     AssetId read;

@@ -50,6 +50,7 @@ public:
     /// channels of 8, 16, 24 or 32 bits, 1 to 384000 frames a second. Bytes behind the last whole
     /// frame are left out.
     FamilySound* add(int row, const QVariant& id, const Zorv::SoundSample& sample) override;
+    std::function<std::shared_ptr<const void>(const QByteArray&)> packer() const override;
     int find(int from, const QVariant& id) const override;
     bool canName(const QVariant& id) const override;
 

@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace Operations {
 
@@ -97,7 +98,14 @@ public:
     MediaResult run(const QString& title, const SoundEdit& edit);
 
 private:
-    std::function<EditedSound()> work(int index, const SoundEdit& edit) const;
+    /// What a thread has made of a sound.
+    struct Made
+    {
+        EditedSound edited;
+        std::shared_ptr<const void> packed;
+    };
+
+    std::function<Made()> work(int index, const SoundEdit& edit) const;
     void take(int index, const EditedSound& edited);
 
     SoundFile* m_sounds;
@@ -106,22 +114,24 @@ private:
     MediaResult m_result;
 };
 
-std::function<EditedSound()> Editing::work(int index, const SoundEdit& edit) const
+std::function<Editing::Made()> Editing::work(int index, const SoundEdit& edit) const
 {
     const FamilySound* sound = m_sounds->sound(m_rows[index]);
     SoundSample sample;
     static_cast<SampleInfo&>(sample) = sound->sampleInfo();
-    sample.data = sound->sampleData();
-    if (!sound->fault().isEmpty() || (sample.data.isEmpty() && sample.frames > 0)) {
-        return [] { return faultOf(Text::tr("it is broken")); };
-    }
-    return [sample, edit] {
-        EditedSound edited = edit(sample);
-        if (edited.fault.isEmpty() && Zorv::isSameForm(sample, edited.sample) &&
-            sample.data == edited.sample.data) {
-            edited.sample = {};  // nothing to put back
+    return [sample, edit, reader = sound->sampleReader(), packer = m_sounds->packer()]() mutable {
+        sample.data = reader();
+        if (sample.data.isEmpty() && sample.frames > 0) {
+            return Made{faultOf(Text::tr("it is broken")), {}};
         }
-        return edited;
+        Made made{edit(sample), {}};
+        SoundSample& result = made.edited.sample;
+        if (Zorv::isSameForm(sample, result) && sample.data == result.data) {
+            result = {};  // nothing to put back
+        } else if (made.edited.fault.isEmpty()) {
+            made.packed = packer(result.data);
+        }
+        return made;
     };
 }
 
@@ -149,9 +159,9 @@ MediaResult Editing::run(const QString& title, const SoundEdit& edit)
         return MediaResult(Text::tr("There is no such sound."));
     }
     m_sounds->beginChange(title);
-    m_result.isCanceled = !Zorv::runJobs<EditedSound>(
+    m_result.isCanceled = !Zorv::runJobs<Made>(
         title, m_rows.size(), [&](int i) { return work(i, edit); },
-        [&](int i, const EditedSound& edited) { take(i, edited); });
+        [&](int i, const Made& made) { take(i, made.edited); });
     m_sounds->endChange();
     if (m_result.isCanceled && !m_changes->isEmpty()) {
         m_sounds->undo();

@@ -30,7 +30,14 @@ AudioSampleWidgetPrivate::AudioSampleWidgetPrivate(AudioSampleWidget* widget) : 
     bar.setParent(q);
     bar.setFocusPolicy(Qt::NoFocus);
     bar.hide();
-    QObject::connect(&loadTimer, &QTimer::timeout, q, [this] { load(); });
+    QObject::connect(&loadTimer, &QTimer::timeout, q, [this] { read(); });
+    QObject::connect(&reading, &QFutureWatcherBase::finished, q, [this] {
+        if (pendingReader && reading.future().resultCount() > 0) {
+            pending.data = reading.result();
+            pendingReader = {};
+            load();
+        }
+    });
     QObject::connect(&bar, &QScrollBar::valueChanged, q,
                      [this](int value) { q->showFrames(value, visibleFrames); });
     QObject::connect(&shapeWork, &QFutureWatcherBase::finished, q, [this] {
@@ -49,6 +56,27 @@ AudioSampleWidgetPrivate::AudioSampleWidgetPrivate(AudioSampleWidget* widget) : 
         q->update();
         emit q->problemChanged();
     });
+}
+
+void AudioSampleWidgetPrivate::setPending(const SoundSample& sound,
+                                          const std::function<QByteArray()>& reader)
+{
+    player.stop();
+    loadTimer.stop();
+    reading.setFuture({});
+    pending = sound;
+    pendingReader = reader;
+    loadTimer.start();
+}
+
+/// Unpacking a long sound would be felt.
+void AudioSampleWidgetPrivate::read()
+{
+    if (pendingReader) {
+        reading.setFuture(QtConcurrent::run(pendingReader));
+    } else {
+        load();
+    }
 }
 
 void AudioSampleWidgetPrivate::load()
@@ -153,10 +181,14 @@ AudioSampleWidget::~AudioSampleWidget()
 
 void AudioSampleWidget::setSample(const SoundSample& sample)
 {
-    d->player.stop();
-    d->loadTimer.stop();
-    d->pending = sample;
-    d->loadTimer.start();
+    d->setPending(sample, {});
+}
+
+void AudioSampleWidget::setSample(const SampleInfo& info, const std::function<QByteArray()>& reader)
+{
+    SoundSample sample;
+    static_cast<SampleInfo&>(sample) = info;
+    d->setPending(sample, reader);
 }
 
 const SoundSample& AudioSampleWidget::sample() const
@@ -166,7 +198,12 @@ const SoundSample& AudioSampleWidget::sample() const
 
 void AudioSampleWidget::showNow()
 {
-    if (d->loadTimer.isActive()) {
+    if (d->pendingReader) {
+        // What another thread is about to have is waited for.
+        d->pending.data = d->loadTimer.isActive() ? d->pendingReader() : d->reading.result();
+        d->pendingReader = {};
+        d->load();
+    } else if (d->loadTimer.isActive()) {
         d->load();
     }
 }

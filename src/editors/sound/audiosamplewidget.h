@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 namespace Zorv {
@@ -31,6 +32,10 @@ public:
     /// Stops, and shows another sound, 150 ms after the last such call: who steps through sounds
     /// does not wait for each. One of the same form and length keeps selection and zoom.
     void setSample(const SoundSample& sample);
+
+    /// The same for samples that `reader` gives: it is called in another thread, once the sound is
+    /// to be shown.
+    void setSample(const SampleInfo& info, const std::function<QByteArray()>& reader);
 
     /// Shows a sound that waits to be shown.
     void showNow();

@@ -22,6 +22,8 @@ public:
     explicit AudioSampleWidgetPrivate(AudioSampleWidget* widget);
 
     // audiosamplewidget.cpp
+    void setPending(const SoundSample& sample, const std::function<QByteArray()>& reader);
+    void read();
     void load();
     void takeShape();
     void recalculate();
@@ -48,6 +50,8 @@ public:
     QTimer loadTimer;
     QScrollBar bar{Qt::Horizontal};
     SoundSample pending;
+    std::function<QByteArray()> pendingReader;  // its samples; empty if they are there
+    QFutureWatcher<QByteArray> reading;
     SoundSample sample;
     std::shared_ptr<const WavePyramid> shape;  // null while it is being made
     QFutureWatcher<std::shared_ptr<const WavePyramid>> shapeWork;

@@ -4,6 +4,7 @@
 #include "cache/sounds.h"
 #include "core/interface.h"
 #include "core/progressreporter.h"
+#include "media/pcmsamples_p.h"
 
 #include <QFutureWatcher>
 #include <QThreadPool>
@@ -16,7 +17,36 @@ namespace {
 
 constexpr int LookInterval = 30;  // milliseconds
 
+/// Not worth another thread.
+constexpr int FewBytes = 1 << 15;
+
 }  // namespace
+
+ReadySample readySample(const Sounds* to, const SampleInfo& info,
+                        const std::function<QByteArray()>& reader)
+{
+    const auto make = [info, reader, packer = to->packer()] {
+        ReadySample ready;
+        static_cast<SampleInfo&>(ready.sample) = info;
+        ready.sample.data = reader();
+        // A list leaves out what stands behind the last whole frame, and would have to pack anew.
+        const int frame = frameBytesOf(info);
+        ready.sample.data.chop(frame > 0 ? ready.sample.data.size() % frame : 0);
+        if (packer) {
+            ready.packed = packer(ready.sample.data);
+        }
+        return ready;
+    };
+    if (qint64(info.frames) * frameBytesOf(info) < FewBytes) {
+        return make();
+    }
+    QEventLoop loop;
+    QFutureWatcher<ReadySample> watcher;
+    QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
+    watcher.setFuture(QtConcurrent::run(make));
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return watcher.result();
+}
 
 SoundBatch::SoundBatch(Sounds* sounds, const QVector<int>& rows, Work work)
     : m_sounds(sounds), m_rows(rows), m_work(std::move(work))
@@ -85,20 +115,28 @@ void SoundBatch::start(int row)
     }
     SoundSample sample;
     static_cast<SampleInfo&>(sample) = sound->sampleInfo();
-    sample.data = sound->sampleData();
     auto* watcher = new Watcher(this);
     connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, row] {
         m_ready.append({watcher, row});
         m_turn.start();
     });
     ++m_running;
-    watcher->setFuture(QtConcurrent::run([work = m_work, sample, isCanceled = m_isCanceled] {
-        return work(sample, isCanceled.get());
-    }));
+    watcher->setFuture(
+        QtConcurrent::run([work = m_work, sample, reader = sound->sampleReader(),
+                           packer = m_sounds->packer(), isCanceled = m_isCanceled]() mutable {
+            sample.data = reader();
+            Made made;
+            made.conversion = work(sample, isCanceled.get());
+            if (packer && made.conversion.outcome == SoundConversion::Done && !*isCanceled) {
+                made.packed = packer(made.conversion.sample.data);
+            }
+            return made;
+        }));
 }
 
-void SoundBatch::putBack(const SoundConversion& result, int row)
+void SoundBatch::putBack(const Made& made, int row)
 {
+    const SoundConversion& result = made.conversion;
     Sound* sound = m_sounds && !*m_isCanceled ? m_sounds->sound(row) : nullptr;
     if (sound && result.outcome == SoundConversion::Done) {
         sound->setSample(result.sample, result.sample.data);

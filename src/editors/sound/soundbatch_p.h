@@ -20,12 +20,24 @@ namespace Zorv {
 class ProgressReporter;
 class Sounds;
 
+/// A sound that another thread has unpacked, and packed for a collection.
+struct ReadySample
+{
+    SoundSample sample;
+    std::shared_ptr<const void> packed;  ///< see `Sounds::packer()`
+};
+
+/// Makes a sound ready to be stored at little cost, while the window is painted: what the person
+/// does waits. `reader` gives the samples, in another thread. Collections may go meanwhile.
+ReadySample readySample(const Sounds* to, const SampleInfo& info,
+                        const std::function<QByteArray()>& reader);
+
 /// Work on the samples of several sounds, in the threads of the machine.
 ///
-/// Samples are unpacked and put back in the main thread, one sound a turn of the event loop; only
-/// few are in work at a time. It ends early if the person gives up, the list changes otherwise, or
-/// goes: what has been put back by then stays.
-class SoundBatch : public QObject
+/// There they are unpacked, worked on and packed again; the main thread puts them back, one sound a
+/// turn of the event loop. Only few are in work at a time. It ends early if the person gives up,
+/// the list changes otherwise, or goes: what has been put back by then stays.
+class SoundBatch final : public QObject
 {
     Q_OBJECT
 
@@ -43,11 +55,18 @@ public:
     int failedCount() const { return m_failed; }
 
 private:
-    using Watcher = QFutureWatcher<SoundConversion>;
+    /// What a thread has made of a sound.
+    struct Made
+    {
+        SoundConversion conversion;
+        std::shared_ptr<const void> packed;
+    };
+
+    using Watcher = QFutureWatcher<Made>;
     void turn();
     bool canStart() const;
     void start(int row);
-    void putBack(const SoundConversion& result, int row);
+    void putBack(const Made& made, int row);
     void cancel();
     void look();
 

@@ -215,13 +215,10 @@ Sound* SoundEditor::sound() const
 
 void SoundEditor::soundChanged(Sound* sound)
 {
-    SoundSample sample;
-    if (sound) {
-        static_cast<SampleInfo&>(sample) = sound->sampleInfo();
-        sample.data = sound->sampleData();
-    }
-    if (d->workspace) {
-        d->workspace->setSound(sample);
+    if (d->workspace && sound) {
+        d->workspace->setSound(sound->sampleInfo(), sound->sampleReader());
+    } else if (d->workspace) {
+        d->workspace->setSound({});
     }
 }
 

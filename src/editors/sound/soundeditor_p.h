@@ -23,6 +23,7 @@ namespace Zorv {
 class AudioSampleWidget;
 class Interface;
 class OrganizerEditor;
+struct ReadySample;
 
 /// The state of a `SoundEditor`, and the slots of its tools, which the host finds by name.
 class SoundEditorPrivate : public QObject
@@ -60,6 +61,7 @@ public:
     QString folder() const;
     void rememberFolder(const QString& fileName) const;
     SoundSample read(const QString& fileName, QString* reason) const;
+    ReadySample readReady(const QString& fileName, QString* reason) const;
     void addFiles(const QStringList& files, const QList<QVariant>& ids);
     void tellUnreadable(const QString& fileName, const QString& reason) const;
     bool write(const Sound& sound, const QString& fileName, QStringList* unopened) const;

@@ -6,6 +6,7 @@
 #include "core/filesystemarchive.h"
 #include "core/interface.h"
 #include "core/progress.h"
+#include "editors/sound/soundbatch_p.h"
 #include "editors/sound/soundeditor_p.h"
 #include "media/pcmsamples_p.h"
 #include "media/soundconversion.h"
@@ -132,6 +133,13 @@ SoundSample SoundEditorPrivate::read(const QString& fileName, QString* reason) c
     return sample;
 }
 
+/// Packed for the list; it may have gone behind this, and so may the editor.
+ReadySample SoundEditorPrivate::readReady(const QString& fileName, QString* reason) const
+{
+    const SoundSample sample = read(fileName, reason);
+    return readySample(sounds, sample, [data = sample.data] { return data; });
+}
+
 /// What is no WAV of plain samples is left to the extensions.
 SoundSample SoundEditor::readSound(const QString& fileName, QString*)
 {
@@ -202,8 +210,11 @@ void SoundEditorPrivate::addFiles(const QStringList& files, const QList<QVariant
     auto progress = std::make_unique<Progress>(textOf(AddText), files.size());
     for (int i = 0; i < files.size() && self && to && to == sounds; ++i) {
         QString reason;
-        const SoundSample sample = read(files[i], &reason);
-        if (sample.frames > 0 && to->add(row, ids[i], sample)) {
+        const ReadySample ready = readReady(files[i], &reason);
+        if (!self || !to || to != sounds) {
+            break;
+        }
+        if (ready.sample.frames > 0 && to->add(row, ids[i], ready.sample)) {
             ++row;
         } else {
             unreadable.append({files[i], reason});
@@ -286,7 +297,12 @@ void SoundEditorPrivate::openSnd()
         return;
     }
     QString reason;
-    const SoundSample sample = read(file, &reason);
+    const QPointer<SoundEditorPrivate> self(this);
+    const ReadySample ready = readReady(file, &reason);
+    if (!self || !to || to != sounds || sounds->sound(current()) != wanted) {
+        return;
+    }
+    const SoundSample& sample = ready.sample;
     Sound* const changed = sounds->sound(current());
     if (sample.frames > 0) {
         const QScopedValueRollback<int> guard(inhibit, inhibit + 1);

@@ -50,6 +50,13 @@ void SoundWorkspace::setSound(const SoundSample& sample)
     }
 }
 
+void SoundWorkspace::setSound(const SampleInfo& info, const std::function<QByteArray()>& reader)
+{
+    if (d->widget) {
+        d->widget->setSample(info, reader);
+    }
+}
+
 void SoundWorkspace::play(bool loop)
 {
     if (d->widget) {

@@ -4,6 +4,7 @@
 #include "media/soundsample.h"
 #include "zorv_export.h"
 
+#include <functional>
 #include <memory>
 
 namespace Zorv {
@@ -32,6 +33,7 @@ public:
     /// @name Of the widget, see there
     /// @{
     void setSound(const SoundSample& sample);
+    void setSound(const SampleInfo& info, const std::function<QByteArray()>& reader);
     void play(bool loop);
     void stop();
     void setLooping(bool isLooping);

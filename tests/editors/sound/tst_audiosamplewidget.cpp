@@ -9,8 +9,13 @@
 
 #include <QBuffer>
 #include <QRandomGenerator>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <atomic>
 
 using namespace Zorv;
 
@@ -53,6 +58,7 @@ private slots:
     void knowsExtremesOfEachPart_data();
     void knowsExtremesOfEachPart();
     void showsTheLastOfManySamples();
+    void readsInAnotherThread();
     void playsToTheEnd();
     void loopsWithoutAGap();
     void playsWhatTheDeviceTakes();
@@ -126,6 +132,51 @@ void TestAudioSampleWidget::showsTheLastOfManySamples()
     QTRY_VERIFY(!shown.devices.output);
     shown.widget.play(true);
     QCOMPARE(int(shown.widget.currentState()), int(SoundSample::StoppedState));
+}
+
+/// Only what is to be shown, once, also if it is wanted while it is being read.
+void TestAudioSampleWidget::readsInAnotherThread()
+{
+    const PlannedSound devices;
+    auto widget = std::make_unique<AudioSampleWidget>();
+    const SoundSample sounds[] = {soundOf(noise(100)), soundOf(noise(300)), soundOf(noise(500))};
+    std::atomic<int> reads{0};
+    std::atomic<QThread*> thread{nullptr};
+    QSemaphore gate;
+    const auto reader = [&](int i) {
+        return [&, i] {
+            thread = QThread::currentThread();
+            ++reads;
+            gate.acquire();
+            return sounds[i].data;
+        };
+    };
+    widget->setSample(sounds[0], reader(0));
+    widget->setSample(sounds[1], reader(1));
+    QTRY_COMPARE(reads.load(), 1);
+    QVERIFY(thread != QThread::currentThread());
+    QVERIFY(widget->sample().data.isEmpty());
+    gate.release(2);
+    QTRY_COMPARE(widget->sample().data, sounds[1].data);
+    widget->setSample(sounds[2], reader(2));
+    widget->showNow();  // before its time
+    QCOMPARE(widget->sample().data, sounds[2].data);
+    widget->setSample(sounds[0], reader(0));
+    QTRY_COMPARE(reads.load(), 3);
+    QTimer::singleShot(0, [&] { gate.release(); });
+    QTRY_COMPARE(widget->sample().data, sounds[0].data);
+    widget->setSample(sounds[1], reader(1));
+    QTRY_COMPARE(reads.load(), 4);
+    gate.release();
+    widget->showNow();  // while it is read
+    QCOMPARE(widget->sample().data, sounds[1].data);
+    QTest::qWait(200);
+    QCOMPARE(reads.load(), 4);
+    widget->setSample(sounds[2], reader(2));
+    QTRY_COMPARE(reads.load(), 5);
+    widget.reset();
+    gate.release();
+    QThreadPool::globalInstance()->waitForDone();
 }
 
 void TestAudioSampleWidget::playsToTheEnd()
