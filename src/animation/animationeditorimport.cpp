@@ -6,6 +6,7 @@
 #include "core/dialogs/dialogs.h"
 #include "core/interface.h"
 #include "core/project.h"
+#include "editors/import/importreport_p.h"
 #include "text/zorvtranslator.h"
 
 #include <algorithm>
@@ -13,11 +14,8 @@
 namespace Zorv {
 
 /// What the person has chosen to import. The project was there a moment ago.
-struct ImportChoice
+struct ImportChoice : ImportDlg::Info
 {
-    QPointer<Project> source;
-    QVector<ImportEntry> entries;
-    ImportConflict conflicts;
     bool bringsSprites;
 };
 
@@ -68,13 +66,8 @@ QString reportOf(const AnimationImportResult& animations, const AssetResult& ass
     add(animations.count(),
         AnimationEditor::tr("%n animation(s) were imported!", nullptr, animations.count()));
     add(int(animations.count() == 0), AnimationEditor::tr("No animation imported!"));
-    add(animations.replaced.size(), AnimationEditor::tr("%n of them took the place of another one.",
-                                                        nullptr, animations.replaced.size()));
-    add(animations.skipped.size(),
-        AnimationEditor::tr("%n were skipped: their names are there already.", nullptr,
-                            animations.skipped.size()));
-    add(animations.refused.size(),
-        AnimationEditor::tr("%n could not be imported.", nullptr, animations.refused.size()));
+    lines += importLines(
+        {animations.replaced.size(), animations.skipped.size(), animations.refused.size()});
     add(assets.added, AnimationEditor::tr("%n sprite(s) were added.", nullptr, assets.added));
     add(assets.shared,
         AnimationEditor::tr("%n sprite(s) were there already.", nullptr, assets.shared));
@@ -88,10 +81,7 @@ QString reportOf(const AnimationImportResult& animations, const AssetResult& ass
 
 void AnimationEditorPrivate::projImport()
 {
-    if (host->projectCount() < 2) {
-        Dialogs::instance()->warning(
-            AnimationEditor::tr("Warning"),
-            AnimationEditor::tr("You can't import from the destination project!"));
+    if (!ImportDlg::hasSource(host)) {
         return;
     }
     commitFields();
@@ -101,9 +91,10 @@ void AnimationEditorPrivate::projImport()
         return;
     }
     AnimImportDlg dialog(host, animations);
-    if (dialog.exec() == QDialog::Accepted && dialog.source() && animations) {
-        importEntries(
-            {dialog.source(), dialog.entries(), dialog.conflicts(), dialog.bringsSprites()});
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    const ImportChoice choice{dialog.getInfo(), dialog.bringsSprites()};
+    if (isAccepted && choice.source && animations) {
+        importEntries(choice);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "animation/import/animationimport.h"
 #include "animation/import/animimportdlg.h"
-#include "animation/import/importmodel.h"
+#include "editors/import/importmodel.h"
 
 #include "support/posetest.h"
 #include "support/stagedata.h"
@@ -358,10 +358,10 @@ void TestAnimImport::projectsClose()
         host->projects.removeAt(project);
         projects[project]->release();
         delete projects[project];
-        QCOMPARE(dialog->entries().size(), project == 0 ? 3 : 0);
+        QCOMPARE(dialog->getInfo().entries.size(), project == 0 ? 3 : 0);
         QCOMPARE(dialog->isVisible(), project != 0);
         if (project == 1) {
-            QVERIFY(!dialog->source());
+            QVERIFY(!dialog->getInfo().source);
             QCOMPARE(child<QListView>(dialog, "source")->model()->rowCount(), 0);
             accept(dialog);
             QVERIFY(dialog->isVisible());

@@ -24,6 +24,7 @@ LAYERS = {
     "src/graphics/": 5,
     "src/image/canvas/": 5,
     "src/editors/code/": 6,
+    "src/editors/import/": 6,
     "src/editors/organizer/": 6,
     "src/editors/snipman/": 6,
     "src/editors/palette/": 6,

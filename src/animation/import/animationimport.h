@@ -1,8 +1,8 @@
 #pragma once
 
-#include "animation/import/importentry.h"
 #include "cache/spritenumber.h"
 #include "code/codedoc/animations.h"
+#include "editors/import/importentry.h"
 #include "zorv_export.h"
 
 #include <QPersistentModelIndex>

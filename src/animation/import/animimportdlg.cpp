@@ -17,7 +17,6 @@ using Zorv::FrameCode;
 
 namespace {
 
-constexpr int PictureSide = 48;    // pixels at 96 dots an inch
 constexpr int MostBroken = 16;     // sprites that are tried
 constexpr unsigned AllKinds = 32;  // bits of a `FileID`
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "animation/import/importdlg.h"
+#include "editors/import/importdlg.h"
 
 class QCheckBox;
 

@@ -39,11 +39,6 @@ SndImportDlg::SndImportDlg(Zorv::Interface* host, Sounds* destination)
 
 SndImportDlg::~SndImportDlg() = default;
 
-SndImportDlg::Info SndImportDlg::getInfo() const
-{
-    return {source(), entries(), conflicts()};
-}
-
 QVector<QAbstractItemModel*> SndImportDlg::lists(const Zorv::Project* project) const
 {
     Sounds* sounds = soundsOf(project);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "animation/import/importdlg.h"
+#include "editors/import/importdlg.h"
 
 namespace Zorv {
 class Sounds;
@@ -18,15 +18,6 @@ public:
     /// For these sounds.
     SndImportDlg(Zorv::Interface* host, Zorv::Sounds* destination);
     ~SndImportDlg() override;
-
-    /// What was chosen.
-    struct Info
-    {
-        QPointer<Zorv::Project> source;
-        QVector<Zorv::ImportEntry> entries;
-        Zorv::ImportConflict conflicts;
-    };
-    Info getInfo() const;
 
 protected:
     QVector<QAbstractItemModel*> lists(const Zorv::Project* project) const override;

@@ -78,13 +78,7 @@ Imported import(Sounds* destination, const SndImportDlg::Info& choice)
 
 void SoundEditorPrivate::projImport()
 {
-    if (host->projectCount() < 2) {
-        Dialogs::instance()->warning(
-            SoundEditor::tr("Warning"),
-            SoundEditor::tr("You can't import from the destination project!"));
-        return;
-    }
-    if (!begin()) {
+    if (!ImportDlg::hasSource(host) || !begin()) {
         return;
     }
     const QPointer<Sounds> to = sounds;

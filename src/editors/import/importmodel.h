@@ -1,6 +1,6 @@
 #pragma once
 
-#include "animation/import/importentry.h"
+#include "editors/import/importentry.h"
 #include "zorv_export.h"
 
 #include <QAbstractListModel>

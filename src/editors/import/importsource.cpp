@@ -1,4 +1,4 @@
-#include "animation/import/importsource_p.h"
+#include "editors/import/importsource_p.h"
 
 #include <QPainter>
 

@@ -1,10 +1,11 @@
-#include "animation/import/importdlg.h"
+#include "editors/import/importdlg.h"
 
-#include "animation/import/importmodel.h"
-#include "animation/import/importsource_p.h"
+#include "core/dialogs/dialogbuttons_p.h"
 #include "core/dialogs/dialogs.h"
 #include "core/interface.h"
 #include "core/project.h"
+#include "editors/import/importmodel.h"
+#include "editors/import/importsource_p.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -122,19 +123,20 @@ QImage ImportDlg::picture(const QModelIndex&) const
     return {};
 }
 
-Project* ImportDlg::source() const
+bool ImportDlg::hasSource(const Zorv::Interface* host)
 {
-    return d->projects.value(d->projectBox->currentIndex());
+    if (host->projectCount() > 1) {
+        return true;
+    }
+    Zorv::Dialogs::instance()->warning(tr("Warning"),
+                                       tr("You can't import from the destination project!"));
+    return false;
 }
 
-QVector<ImportEntry> ImportDlg::entries() const
+ImportDlg::Info ImportDlg::getInfo() const
 {
-    return d->model->entries();
-}
-
-Zorv::ImportConflict ImportDlg::conflicts() const
-{
-    return d->replace->isChecked() ? Zorv::ImportConflict::Replace : Zorv::ImportConflict::Skip;
+    return {d->projects.value(d->projectBox->currentIndex()), d->model->entries(),
+            d->replace->isChecked() ? Zorv::ImportConflict::Replace : Zorv::ImportConflict::Skip};
 }
 
 QPushButton* ImportDlgPrivate::addButton(QBoxLayout* row, const QString& text, const char* name,
@@ -184,8 +186,7 @@ void ImportDlgPrivate::buildLists(int pictureSide)
 void ImportDlgPrivate::build(int pictureSide)
 {
     buildLists(pictureSide);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
+    auto* buttons = Zorv::makeOkCancel(q);
     okButton = buttons->button(QDialogButtonBox::Ok);
     clashes = new QLabel;
     clashes->setObjectName(QStringLiteral("clashes"));
@@ -209,9 +210,6 @@ void ImportDlgPrivate::build(int pictureSide)
     layout->addLayout(buildConflicts(), 7, 1);
     layout->addWidget(buttons, 8, 0, 1, 2);
     layout->setRowStretch(3, 1);
-
-    QObject::connect(buttons, &QDialogButtonBox::accepted, q, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, q, &QDialog::reject);
 }
 
 QWidget* ImportDlgPrivate::buildChoices()
@@ -270,7 +268,7 @@ void ImportDlgPrivate::forget()
 
 void ImportDlgPrivate::showProject()
 {
-    const Project* project = q->source();
+    const Project* project = q->getInfo().source;
     model->clear();
     source->setLists(project ? q->lists(project) : QVector<QAbstractItemModel*>());
     showClashes();

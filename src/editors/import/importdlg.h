@@ -1,6 +1,6 @@
 #pragma once
 
-#include "animation/import/importentry.h"
+#include "editors/import/importentry.h"
 #include "zorv_export.h"
 
 #include <QDialog>
@@ -32,14 +32,22 @@ class ZORV_EXPORT ImportDlg : public QDialog
 public:
     ~ImportDlg() override;
 
-    /// What was chosen, all of one project. Null, and nothing, if that has gone.
-    Zorv::Project* source() const;
-    QVector<Zorv::ImportEntry> entries() const;
+    /// False, after a warning, if the host has no other project open than the destination.
+    static bool hasSource(const Zorv::Interface* host);
 
-    /// What happens to names that are there already.
-    Zorv::ImportConflict conflicts() const;
+    /// What was chosen, all of one project. Null, and nothing, if that has gone.
+    struct Info
+    {
+        QPointer<Zorv::Project> source;
+        QVector<Zorv::ImportEntry> entries;
+        Zorv::ImportConflict conflicts;  ///< what happens to names that are there already
+    };
+    Info getInfo() const;
 
 protected:
+    /// Of pictures of rows, in pixels at 96 dots an inch.
+    static constexpr int PictureSide = 48;
+
     /// All open projects of the host are offered but `destination`; null offers all. An override's
     /// constructor ends in `start()`.
     ImportDlg(Zorv::Interface* host, Zorv::Project* destination);

@@ -1,4 +1,4 @@
-#include "animation/import/importmodel.h"
+#include "editors/import/importmodel.h"
 
 #include "core/resourceicon_p.h"
 
