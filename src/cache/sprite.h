@@ -6,11 +6,14 @@
 #include <QPoint>
 #include <QSize>
 
+#include <memory>
+
 class QImage;
 
 namespace Zorv {
 
 class Palette;
+class PixelCopy;
 class Texture;
 
 /// One image of a sprite collection, with its hot spot and its palette.
@@ -38,7 +41,8 @@ public:
     /// Makes the sprite's texture the image texture of the renderer.
     virtual void bindTexture() = 0;
 
-    /// Replaces the pixels by those of an image whose colour table equals the palette.
+    /// Replaces the pixels by those of an image whose colour table equals the palette, or that has
+    /// no colour table.
     virtual void setImage(const QImage& image) = 0;
 
     /// Replaces pixels and palette. With `reversed` the order of the image's colours is reversed
@@ -68,6 +72,11 @@ public:
     /// The pixels on the stage, made when they are asked for; null if they are broken. The
     /// sprite's.
     virtual Texture* texture() const = 0;
+
+    /// The pixels for a sprite of another collection of the same host. As it stands here they are
+    /// those of `image()`, which is decoded at once; a host that has them packed hands these over.
+    /// Never null.
+    virtual std::shared_ptr<PixelCopy> copyPixels() const;
 };
 
 }  // namespace Zorv

@@ -38,6 +38,13 @@ public:
     /// Appends an empty sprite; `refresh()` shows it.
     virtual Sprite* addSprite() = 0;
 
+    /// The first row from `from` on with an "Identifier"; negative if there is none. Looks at one
+    /// after the other; a host that knows better overrides it.
+    virtual int find(int from, const QVariant& id) const;
+
+    /// True if a sprite of the list could have an identifier. By default all can be.
+    virtual bool canName(const QVariant& id) const;
+
     /// Opens and closes one step of undo; the same for list and file.
     void beginChange(const QString& title) override = 0;
     void endChange() override = 0;

@@ -1,5 +1,6 @@
 #include "family/assets/familysprite.h"
 
+#include "family/assets/packedcopy.h"
 #include "family/assets/palettelist.h"
 #include "family/assets/pixelstore.h"
 #include "family/assets/spritecollection.h"
@@ -180,12 +181,29 @@ void FamilySprite::setImage(const QImage& image, bool reversed, int mode, Zorv::
 
 void FamilySprite::setPixels(const QImage& image, const std::shared_ptr<FamilyPalette>& palette)
 {
-    State changed = state;
-    changed.pixels = m_sprites->store()->add(image);
-    if (!changed.pixels ||
-        (changed.pixels == state.pixels && palette == state.palette && state.record.isEmpty())) {
+    const PixelRef pixels = m_sprites->store()->add(image);
+    if (pixels) {
+        setPixels(pixels, palette);
+    }
+}
+
+bool FamilySprite::takePixels(const PackedPixels& packed, const QByteArray& rows)
+{
+    const PixelRef pixels = rows.isEmpty() ? PixelRef() : m_sprites->store()->add(packed, rows);
+    if (!rows.isEmpty() && !pixels) {
+        return false;
+    }
+    setPixels(pixels, pixels && packed.format.bits == 32 ? nullptr : state.palette);
+    return true;
+}
+
+void FamilySprite::setPixels(const PixelRef& pixels, const std::shared_ptr<FamilyPalette>& palette)
+{
+    if (pixels == state.pixels && palette == state.palette && state.record.isEmpty()) {
         return;
     }
+    State changed = state;
+    changed.pixels = pixels;
     changed.palette = palette;
     changed.record.clear();
     const AssetHistory::Step step(m_sprites->editHistory(), tr("Change sprite"));
@@ -268,6 +286,11 @@ void FamilySprite::splitChannels()
 QImage FamilySprite::image() const
 {
     return state.pixels ? imageOfRows(state.pixels->format, pixelRows(), shownColors()) : QImage();
+}
+
+std::shared_ptr<Zorv::PixelCopy> FamilySprite::copyPixels() const
+{
+    return std::make_shared<PackedCopy>(*this);
 }
 
 QSize FamilySprite::size() const

@@ -13,6 +13,7 @@ namespace Family {
 
 class FamilyPalette;
 class SpriteCollection;
+struct PackedPixels;
 
 /// One sprite of a collection. Every change is a step of undo.
 ///
@@ -97,6 +98,14 @@ public:
     QImage image() const override;
     QSize size() const override;
 
+    /// Packed as they are, so they keep their codec. Those of a broken record are broken.
+    std::shared_ptr<Zorv::PixelCopy> copyPixels() const override;
+
+    /// For that copy: replaces the pixels by packed ones and what they unpack to, or, with no rows,
+    /// by none. The palette stays, unless they are true colour. False, and no change, if they
+    /// could not be stored.
+    bool takePixels(const PackedPixels& packed, const QByteArray& rows);
+
     /// "Identifier", "Group", "Number", "Axis" (a point), "Palette" (its identifier; empty for
     /// none), "Width", "Height", "Codec" (its name). Width and height cannot be set; a
     /// codec that would lose something is not taken.
@@ -109,6 +118,7 @@ public:
 
 private:
     void setPixels(const QImage& image, const std::shared_ptr<FamilyPalette>& palette);
+    void setPixels(const PixelRef& pixels, const std::shared_ptr<FamilyPalette>& palette);
     void setId(AssetId id);
     void setCodec(PixelCodec codec);
 

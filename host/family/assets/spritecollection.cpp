@@ -125,6 +125,12 @@ int SpriteCollection::find(int from, const QVariant& id) const
     return row < items().size() ? row : -1;
 }
 
+bool SpriteCollection::canName(const QVariant& id) const
+{
+    AssetId read;
+    return AssetId::read(id, &read);
+}
+
 FamilySprite* SpriteCollection::byId(AssetId id) const
 {
     return contains(id) ? item(firstRow(id)) : nullptr;

@@ -43,8 +43,9 @@ public:
     /// True if a sprite has that identifier. Costs the same for any number of sprites.
     bool contains(AssetId id) const;
 
-    /// The first row from `from` on with that identifier; -1 if there is none.
-    int find(int from, const QVariant& id) const;
+    /// Costs the same for any number of sprites, from row 0 on.
+    int find(int from, const QVariant& id) const override;
+    bool canName(const QVariant& id) const override;
 
     /// The sprite of that identifier, the first of several; null if there is none.
     FamilySprite* byId(AssetId id) const;

@@ -1,0 +1,7 @@
+#include "cache/pixelcopy.h"
+
+namespace Zorv {
+
+PixelCopy::~PixelCopy() = default;
+
+}  // namespace Zorv
