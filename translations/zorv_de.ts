@@ -4572,6 +4572,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>&apos;%1&apos; cannot be used as a name.</source>
         <translation>&apos;%1&apos; kann kein Name sein.</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>You can&apos;t import from the destination project!</source>
+        <translation>Aus dem Zielprojekt selbst kann nichts importiert werden!</translation>
+    </message>
 </context>
 <context>
     <name>ImportModel</name>
@@ -6306,27 +6314,6 @@ Alle Kontaktboxen, die diese schon haben, werden ersetzt.</translation>
         <translation>Keine Animation importiert!</translation>
     </message>
     <message numerus="yes">
-        <source>%n of them took the place of another one.</source>
-        <translation>
-            <numerusform>%n davon hat eine andere ersetzt.</numerusform>
-            <numerusform>%n davon haben andere ersetzt.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n were skipped: their names are there already.</source>
-        <translation>
-            <numerusform>%n wurde übersprungen: ihren Namen gibt es schon.</numerusform>
-            <numerusform>%n wurden übersprungen: ihre Namen gibt es schon.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n could not be imported.</source>
-        <translation>
-            <numerusform>%n konnte nicht importiert werden.</numerusform>
-            <numerusform>%n konnten nicht importiert werden.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n sprite(s) were added.</source>
         <translation>
             <numerusform>%n Sprite wurde hinzugefügt.</numerusform>
@@ -6346,14 +6333,6 @@ Alle Kontaktboxen, die diese schon haben, werden ersetzt.</translation>
             <numerusform>%n Palette wurde hinzugefügt.</numerusform>
             <numerusform>%n Paletten wurden hinzugefügt.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Warning</source>
-        <translation>Warnung</translation>
-    </message>
-    <message>
-        <source>You can&apos;t import from the destination project!</source>
-        <translation>Aus dem Zielprojekt kann nicht importiert werden!</translation>
     </message>
     <message>
         <source>Import animations from project &apos;%1&apos;</source>
@@ -7015,6 +6994,30 @@ Hinweis: Als Kopie bleibt der Verweis auf die vorige Datei erhalten!</translatio
     </message>
 </context>
 <context>
+    <name>Zorv::ImportReport</name>
+    <message numerus="yes">
+        <source>%n of them took the place of another one.</source>
+        <translation>
+            <numerusform>%n davon steht an der Stelle eines vorhandenen Eintrags.</numerusform>
+            <numerusform>%n davon stehen an der Stelle vorhandener Einträge.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were skipped: their names are there already.</source>
+        <translation>
+            <numerusform>%n wurde übersprungen: Der Name ist schon vergeben.</numerusform>
+            <numerusform>%n wurden übersprungen: Die Namen sind schon vergeben.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be imported.</source>
+        <translation>
+            <numerusform>%n konnte nicht importiert werden.</numerusform>
+            <numerusform>%n konnten nicht importiert werden.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Zorv::OrganizerEditor</name>
     <message>
         <source>Move rows</source>
@@ -7405,14 +7408,6 @@ Zeile %2, Spalte %3.</translation>
         <translation>Den Klang wirklich löschen?</translation>
     </message>
     <message>
-        <source>Warning</source>
-        <translation>Warnung</translation>
-    </message>
-    <message>
-        <source>You can&apos;t import from the destination project!</source>
-        <translation>Aus dem Zielprojekt selbst kann nichts importiert werden!</translation>
-    </message>
-    <message>
         <source>Import sounds from project &apos;%1&apos;</source>
         <translation>Klänge aus Projekt &apos;%1&apos; importieren</translation>
     </message>
@@ -7689,6 +7684,43 @@ Ticks: ---</translation>
     <message>
         <source>Renumber sprite</source>
         <translation>Sprite umnummerieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) were imported!</source>
+        <translation>
+            <numerusform>%n Sprite wurde importiert!</numerusform>
+            <numerusform>%n Sprites wurden importiert!</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No sprite imported!</source>
+        <translation>Kein Sprite importiert!</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n palette(s) were added.</source>
+        <translation>
+            <numerusform>%n Palette wurde hinzugefügt.</numerusform>
+            <numerusform>%n Paletten wurden hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Import sprites from project &apos;%1&apos;</source>
+        <translation>Sprites aus Projekt &apos;%1&apos; importieren</translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::SpriteImport</name>
+    <message>
+        <source>&apos;%1&apos; was left out: its pixels are broken.</source>
+        <translation>&apos;%1&apos; wurde ausgelassen: Die Pixel sind beschädigt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was left out: it is no longer in its file.</source>
+        <translation>&apos;%1&apos; wurde ausgelassen: In der Datei gibt es das Sprite nicht mehr.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was left out: the picture is too large for a sprite here, or memory is short.</source>
+        <translation>&apos;%1&apos; wurde ausgelassen: Das Bild ist hier für ein Sprite zu groß, oder der Speicher reicht nicht.</translation>
     </message>
 </context>
 <context>

@@ -326,27 +326,6 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of them took the place of another one.</source>
-        <translation>
-            <numerusform>%n of them took the place of another one.</numerusform>
-            <numerusform>%n of them took the place of others.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n were skipped: their names are there already.</source>
-        <translation>
-            <numerusform>%n was skipped: its name is there already.</numerusform>
-            <numerusform>%n were skipped: their names are there already.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n could not be imported.</source>
-        <translation>
-            <numerusform>%n could not be imported.</numerusform>
-            <numerusform>%n could not be imported.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n sprite(s) were added.</source>
         <translation>
             <numerusform>%n sprite was added.</numerusform>
@@ -365,6 +344,30 @@
         <translation>
             <numerusform>%n palette was added.</numerusform>
             <numerusform>%n palettes were added.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Zorv::ImportReport</name>
+    <message numerus="yes">
+        <source>%n of them took the place of another one.</source>
+        <translation>
+            <numerusform>%n of them took the place of another one.</numerusform>
+            <numerusform>%n of them took the place of others.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n were skipped: their names are there already.</source>
+        <translation>
+            <numerusform>%n was skipped: its name is there already.</numerusform>
+            <numerusform>%n were skipped: their names are there already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n could not be imported.</source>
+        <translation>
+            <numerusform>%n could not be imported.</numerusform>
+            <numerusform>%n could not be imported.</numerusform>
         </translation>
     </message>
 </context>
@@ -430,6 +433,20 @@
         <translation>
             <numerusform>Do you want to crop %n image?</numerusform>
             <numerusform>Do you want to crop %n images?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) were imported!</source>
+        <translation>
+            <numerusform>%n sprite was imported!</numerusform>
+            <numerusform>%n sprites were imported!</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n palette(s) were added.</source>
+        <translation>
+            <numerusform>%n palette was added.</numerusform>
+            <numerusform>%n palettes were added.</numerusform>
         </translation>
     </message>
 </context>

@@ -201,6 +201,7 @@ public slots:
     void add();
     void openImg();
     void saveImgAs();
+    void projImport();
     void del();
     void duplicate();
     void splitRGB();

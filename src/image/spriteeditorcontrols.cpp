@@ -40,6 +40,7 @@ const EditorTool table[] = {
     {"spr_openimg",           Action,      124, onSprite,  SLOT(openImg()),           nullptr},
     {"spr_saveimg",           Action,      125, onChange,  SLOT(saveImg()),           nullptr},
     {"spr_saveimgas",         Action,      126, onSprite,  SLOT(saveImgAs()),         nullptr},
+    {"spr_import_proj",       Action,      129, onFile,    SLOT(projImport()),        nullptr},
     {"spr_resize",            Action,      134, onCanvas,  SLOT(resize()),            nullptr},
     {"spr_crop",              Action,      127, onCanvas,  SLOT(crop()),              nullptr},
     {"spr_split_channels",    Action,      139, onSprite,  SLOT(splitRGB()),          nullptr},

@@ -181,6 +181,7 @@ void TestSpriteActions::publishesItsTools_data()
     row("spr_resize", 134);
     row("spr_image_rotate", 136);
     row("spr_image_properties", 133);
+    row("spr_import_proj", 129);
     row("spr_duplicate", 128);
     row("spr_split_channels", 139);
     row("spr_frame_spr", 130, true);
