@@ -33,7 +33,9 @@ const char usage[] =
     "With '--script' it needs no display: it plays as FILE tells the inputs, and prints a line\n"
     "for each tick: its number, a hash of the state, the phase, and of both fighters place, life\n"
     "and what they do.\n"
-    "CHARACTER and STAGE are names of folders or files of the game, or paths.\n";
+    "CHARACTER and STAGE are names of folders or files of the game, or paths.\n"
+    "'--original FILE' tells what a character or stage was copied from: when that is saved, it\n"
+    "takes the place of the copy.\n";
 
 struct Request
 {
@@ -55,9 +57,9 @@ bool readRequest(const QStringList& arguments, Request* request, QString* error)
     match.hasIntro = false;
     for (int i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments.at(i);
-        const bool hasValue = argument == QLatin1String("--character") ||
-                              argument == QLatin1String("--stage") ||
-                              argument == QLatin1String("--script");
+        const bool hasValue =
+            argument == QLatin1String("--character") || argument == QLatin1String("--stage") ||
+            argument == QLatin1String("--original") || argument == QLatin1String("--script");
         const QString value = hasValue ? arguments.value(i + 1) : QString();
         i += hasValue;
         if (hasValue && value.isEmpty()) {
@@ -66,6 +68,8 @@ bool readRequest(const QStringList& arguments, Request* request, QString* error)
             match.characters.append(value);
         } else if (argument == QLatin1String("--stage")) {
             match.stage = value;
+        } else if (argument == QLatin1String("--original")) {
+            match.original = value;
         } else if (argument == QLatin1String("--script")) {
             request->script = value;
         } else if (argument == QLatin1String("--json")) {
@@ -132,7 +136,7 @@ int playInWindow(const Request& request)
     if (!match->load(request.match, &error)) {
         return complain(error, NotDone);
     }
-    Player::PlayWindow window(std::move(match));
+    Player::PlayWindow window(std::move(match), request.match);
     window.begin();
     return QGuiApplication::exec();
 }

@@ -3332,6 +3332,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>Zorv reference family</source>
         <translation>Zorv-Referenzfamilie</translation>
     </message>
+    <message>
+        <source>Zorv player</source>
+        <translation>Zorv-Player</translation>
+    </message>
 </context>
 <context>
     <name>Family::FamilyParentProject</name>

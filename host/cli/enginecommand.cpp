@@ -230,12 +230,14 @@ bool chooseEngines(const Invocation& invocation, const RunHost& host, QSettings&
         engine.parameters =
             invocation.parameters.isNull() ? engine.parameters : invocation.parameters;
     }
-    if (engines.isEmpty()) {
+    auto* const model = Family::FamilyEngineModel::instance();
+    model->setPlayerOffered(engines.isEmpty() && invocation.parameters.isNull());
+    if (engines.isEmpty() && model->engineCount() == 0) {
         *error = Text::tr("No engine is configured. Name a program with '--engine'.");
     } else if (engines.size() == 1) {
         *error = Operations::engineProblem(engines.first());
     }
-    Family::FamilyEngineModel::instance()->setEngines(engines);
+    model->setEngines(engines);
     return error->isEmpty();
 }
 

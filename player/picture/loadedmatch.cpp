@@ -22,11 +22,40 @@ QString rootOf(const QString& game, const QString& mainFile)
                                                : Family::FamilyParentProject::folderOf(mainFile);
 }
 
+/// Who plays at a side. Beside a copy it is another character of the game than the one that was
+/// copied, if there is one.
+QString nameOf(const MatchRequest& request, int index)
+{
+    if (index < request.characters.size() || request.original.isEmpty()) {
+        return request.characters.value(index, request.characters.value(0));
+    }
+    const QStringList files = Family::FamilyParentProject::mainFiles(request.game);
+    for (const QString& file : files) {
+        if (file.endsWith(QLatin1String(".character")) &&
+            QFileInfo(file) != QFileInfo(request.original)) {
+            return request.characters.isEmpty() ? QString() : file;
+        }
+    }
+    return request.characters.value(0);
+}
+
 }  // namespace
+
+MatchRequest withOriginal(const MatchRequest& request)
+{
+    MatchRequest result = request;
+    if (request.original.endsWith(QLatin1String(".stage"))) {
+        result.stage = request.original;
+    } else if (!request.original.isEmpty() && !request.characters.isEmpty()) {
+        result.characters[0] = request.original;
+    }
+    return result;
+}
 
 bool LoadedMatch::load(const MatchRequest& request, QString* error)
 {
     notes.clear();
+    files.clear();
     if (!QFileInfo(request.game).isDir()) {
         *error = tr("There is no folder '%1'.").arg(request.game);
         return false;
@@ -41,9 +70,18 @@ bool LoadedMatch::load(const MatchRequest& request, QString* error)
     return true;
 }
 
+void LoadedMatch::addFiles(const QStringList& paths)
+{
+    for (const QString& path : paths) {
+        if (!path.isEmpty() && !files.contains(path)) {
+            files.append(path);
+        }
+    }
+}
+
 bool LoadedMatch::loadFighter(const MatchRequest& request, int index, QString* error)
 {
-    const QString name = request.characters.value(index, request.characters.value(0));
+    const QString name = nameOf(request, index);
     const QString file =
         Rules::findMainFile(request.game, QStringLiteral(".character"), name, index, error);
     if (file.isEmpty()) {
@@ -57,6 +95,10 @@ bool LoadedMatch::loadFighter(const MatchRequest& request, int index, QString* e
     GameReader reader(root);
     reader.takeFighter(text, &game.fighters[index]);
     looks[index] = fighterLook(text);
+    addFiles(text.files() + QStringList{looks[index].sprites, looks[index].sounds});
+    for (const Costume& costume : qAsConst(looks[index].costumes)) {
+        addFiles({costume.file});
+    }
     notes += reader.notes();
     return true;
 }
@@ -79,6 +121,7 @@ bool LoadedMatch::loadStage(const MatchRequest& request, QString* error)
     GameReader reader(root);
     reader.takeStage(text, &game.stage);
     stage = stageLook(text);
+    addFiles(text.files() + QStringList{stage.sprites, stage.music.file});
     notes += reader.notes();
     return true;
 }

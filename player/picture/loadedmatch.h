@@ -13,7 +13,14 @@ struct MatchRequest
     QStringList characters;
     QString stage;
     bool hasIntro = true;
+
+    /// What the one character or stage that is named was copied from, by an editor with unsaved
+    /// work; empty for no copy. The other character is not that one again.
+    QString original{};
 };
+
+/// The same with what a copy was made of in its place.
+MatchRequest withOriginal(const MatchRequest& request);
 
 /// All that a match is made of.
 struct LoadedMatch
@@ -25,6 +32,7 @@ public:
     FighterLook looks[2];
     StageLook stage;
     QStringList notes;  ///< what was passed over, a line each for the person
+    QStringList files;  ///< all that was read, as absolute paths
 
     /// A game without a stage is played on a bare one. Files outside of the game, such as the
     /// copies that an editor makes, have their own folder around them. False, with `error`, if a
@@ -34,6 +42,7 @@ public:
 private:
     bool loadFighter(const MatchRequest& request, int index, QString* error);
     bool loadStage(const MatchRequest& request, QString* error);
+    void addFiles(const QStringList& paths);
 };
 
 }  // namespace Player

@@ -96,6 +96,7 @@ bool CodeText::read(QString* error)
 
 bool CodeText::readFile(const QString& path, FileKind kind, QString* error)
 {
+    m_files.append(path);
     const QString reason = Family::unreadableReason(path);
     Zorv::FileText file;
     if (!reason.isEmpty()) {

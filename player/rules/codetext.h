@@ -41,6 +41,9 @@ public:
     QStringList notes() const { return m_notes; }
     QString mainFile() const { return m_mainFile; }
 
+    /// The files that were read, and those that should have been.
+    QStringList files() const { return m_files; }
+
     /// Where a path of the text leads; empty outside of the game.
     QString pathOf(const QString& written) const;
 
@@ -61,6 +64,7 @@ private:
     QVector<CodeGroup> m_groups;
     QVector<Animation> m_animations;
     QStringList m_notes;
+    QStringList m_files;
 
     // While a file is read.
     Family::LineHead m_head;

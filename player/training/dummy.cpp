@@ -32,6 +32,13 @@ void Dummy::setMode(Mode mode, const State& state)
     }
 }
 
+void Dummy::takeOver(const Dummy& other)
+{
+    m_mode = other.m_mode;
+    m_record = other.m_record;
+    m_start = other.m_start;
+}
+
 /// Crouched against what is low.
 quint8 Dummy::guardSigns(const State& state) const
 {

@@ -34,6 +34,9 @@ public:
     /// person holds, who plays it for `Person` and `Record`.
     quint8 signs(const Rules::State& state, quint8 person);
 
+    /// Does what another one did, in another game.
+    void takeOver(const Dummy& other);
+
     int recordedTicks() const { return m_record.size(); }
 
 private:

@@ -86,6 +86,32 @@ void Session::resetPlaces()
     m_meter.clear();
 }
 
+void Session::takeOver(const Session& other)
+{
+    const State& before = other.m_state;
+    Rules::Game game = m_game;
+    game.hasIntro = false;
+    m_state = Rules::firstState(game);
+    m_state.tick = before.tick;
+    m_state.round = before.round;
+    m_state.clock = qMin(before.clock, m_state.clock);
+    for (int i = 0; i < 2; ++i) {
+        FighterState& own = m_state.fighters[i];
+        const FighterState& old = before.fighters[i];
+        const qint32 left = m_game.stage.left * Rules::One;
+        const qint32 right = m_game.stage.right * Rules::One;
+        own.x = qBound(left, old.x, right);
+        own.facing = old.facing;
+        own.life = qBound(1, old.life, m_game.fighters[i].life);
+        own.power = qBound(0, old.power, m_game.fighters[i].power);
+        own.wins = qMin(old.wins, m_game.stage.rounds - 1);
+    }
+    m_isPaused = other.m_isPaused;
+    m_isEndless = other.m_isEndless;
+    m_speed = other.m_speed;
+    m_dummy.takeOver(other.m_dummy);
+}
+
 void Session::beginMatch()
 {
     m_state = Rules::firstState(m_game);

@@ -47,6 +47,10 @@ public:
     /// and nothing that went on goes on.
     void resetPlaces();
 
+    /// Goes on from a match of another game, whose characters and stage have changed: both at their
+    /// places, with their life and power, and free.
+    void takeOver(const Session& other);
+
     /// From the first tick of a match.
     void beginMatch();
 

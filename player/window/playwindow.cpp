@@ -16,6 +16,7 @@ namespace Player {
 namespace {
 
 constexpr int NotesTicks = 10 * SteadyClock::TicksASecond;
+constexpr int LookTicks = 20;
 constexpr QSize UsualSize(1280, 720);
 
 const char* const keyLines[] = {
@@ -40,22 +41,62 @@ QImage asOpaque(const QImage& image)
 
 }  // namespace
 
-PlayWindow::PlayWindow(std::unique_ptr<LoadedMatch> match)
-    : m_match(std::move(match)), m_notesLeft(NotesTicks)
+PlayWindow::PlayWindow(std::unique_ptr<LoadedMatch> match, const MatchRequest& request)
+    : m_match(std::move(match)), m_request(request), m_notesLeft(NotesTicks)
+{
+    readKeys();
+    open();
+    watchFiles();
+    resize(UsualSize);
+    setMinimumSize({320, 180});
+    connect(&m_clock, &SteadyClock::ticked, this, &PlayWindow::goOn);
+}
+
+PlayWindow::~PlayWindow() = default;
+
+/// What is made of a match that was loaded. Nothing of the one before is left: all of it knows the
+/// other game.
+void PlayWindow::open()
 {
     m_scene = std::make_unique<Scene>(m_match->game, m_match->looks, m_match->stage);
     m_sounds = std::make_unique<MatchSounds>(*m_match);
     m_match->notes += m_sounds->notes();
     m_session = std::make_unique<Session>(m_match->game);
-    readKeys();
-    resize(UsualSize);
-    setMinimumSize({320, 180});
+    m_match->notes += m_keys.notes();
     setTitle(
         tr("%1 against %2").arg(m_match->game.fighters[0].name, m_match->game.fighters[1].name));
-    connect(&m_clock, &SteadyClock::ticked, this, &PlayWindow::goOn);
 }
 
-PlayWindow::~PlayWindow() = default;
+/// Of a copy what it was made of: that is what is saved.
+void PlayWindow::watchFiles()
+{
+    LoadedMatch originals;
+    QString error;
+    const bool isCopy = !m_request.original.isEmpty();
+    m_stamps.watch(isCopy && originals.load(withOriginal(m_request), &error) ? originals.files
+                                                                             : m_match->files);
+}
+
+void PlayWindow::reload()
+{
+    auto match = std::make_unique<LoadedMatch>();
+    const MatchRequest request = withOriginal(m_request);
+    QString error;
+    m_notesLeft = NotesTicks;
+    if (!match->load(request, &error)) {
+        m_match->notes = QStringList{error};
+        return;
+    }
+    m_request = request;
+    const std::unique_ptr<LoadedMatch> oldMatch = std::move(m_match);
+    const std::unique_ptr<Session> oldSession = std::move(m_session);
+    m_sounds.reset();
+    m_scene.reset();
+    m_match = std::move(match);
+    open();
+    m_session->takeOver(*oldSession);
+    m_stamps.watch(m_match->files);
+}
 
 void PlayWindow::begin()
 {
@@ -71,7 +112,6 @@ void PlayWindow::readKeys()
         text.read(*Zorv::FileSystemArchive::instance(), Keymap::fileName(), -1, &error)) {
         m_keys.read(text.text);
     }
-    m_match->notes += m_keys.notes();
     if (!error.isEmpty()) {
         m_match->notes.append(error);
     }
@@ -89,6 +129,10 @@ void PlayWindow::goOn()
         see();
     }
     m_notesLeft -= m_notesLeft > 0;
+    const bool isTimeToLook = !m_request.game.isEmpty() && ++m_clockTicks % LookTicks == 0;
+    if (isTimeToLook && m_stamps.hasChanged()) {
+        reload();
+    }
     paintNow();
     emit ticked();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "picture/filestamps.h"
 #include "picture/loadedmatch.h"
 #include "picture/overlay.h"
 #include "training/session.h"
@@ -27,7 +28,9 @@ class PlayWindow : public QRasterWindow
     Q_OBJECT
 
 public:
-    explicit PlayWindow(std::unique_ptr<LoadedMatch> match);
+    /// With `request`, by which the match was loaded, it is loaded anew when its files change, or
+    /// what a copy was made of; both go on from their places.
+    explicit PlayWindow(std::unique_ptr<LoadedMatch> match, const MatchRequest& request = {});
     ~PlayWindow() override;
 
     const Rules::State& state() const { return m_session->state(); }
@@ -51,6 +54,9 @@ protected:
 private:
     void goOn();
     void paintNow();
+    void open();
+    void watchFiles();
+    void reload();
     void readKeys();
     void see();
     void step(int by);
@@ -60,6 +66,8 @@ private:
     void paintPages(QPainter* painter);
 
     std::unique_ptr<LoadedMatch> m_match;
+    MatchRequest m_request;
+    FileStamps m_stamps;
     std::unique_ptr<Scene> m_scene;
     std::unique_ptr<MatchSounds> m_sounds;
     std::unique_ptr<Session> m_session;
@@ -71,6 +79,7 @@ private:
     bool m_isMeterShown = false;
     SteadyClock m_clock;
     bool m_isHelpShown = false;
+    int m_clockTicks = 0;
     int m_notesLeft;
     int m_paintedTicks = 0;
     bool m_isPainted = true;

@@ -53,6 +53,17 @@ QIcon ParentProject::fileIcon(FileID) const
     return {};
 }
 
+QString ParentProject::runFolder(const QString& executable) const
+{
+    return QFileInfo(executable).absolutePath();
+}
+
+QStringList ParentProject::runArguments(const QString&, const QStringList& arguments,
+                                        const QVector<RunCopy>&) const
+{
+    return arguments;
+}
+
 bool ParentProject::mayStart(const QString&)
 {
     return true;

@@ -93,6 +93,25 @@ public:
     /// the copy of the main file will be called.
     virtual QString runPath(int kind, const QString& name, bool* wholeFolder) const = 0;
 
+    /// The folder in which the copies for an executable (its full path) are made; it has to be
+    /// there. That of the executable, unless a host says otherwise: parameters name copies in
+    /// another one by their full paths.
+    virtual QString runFolder(const QString& executable) const;
+
+    /// A copy that `run()` has made: its main file, that of the project, which is empty if it was
+    /// never saved, and the kind of the project.
+    struct RunCopy
+    {
+        QString copy;
+        QString original;
+        int kind = 0;
+    };
+
+    /// What is passed to an executable: `arguments`, as the parameters give them, unless a host
+    /// knows what else it has to be told of the copies. Their paths are full ones.
+    virtual QStringList runArguments(const QString& executable, const QStringList& arguments,
+                                     const QVector<RunCopy>& copies) const;
+
     /// Called when the last project has gone; the host may delete this object
     /// later, not in the call.
     virtual void lastReferenceGone() = 0;

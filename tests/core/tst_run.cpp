@@ -30,11 +30,25 @@ public:
     QString parameters = "%0";
     QString folder = "copies/%1/";  ///< "%1" stands for the name of the copy
     bool isWhole = true;
+    QString copiesFolder;  ///< empty for that of the engine; else all is told of the copies
     std::function<bool(const QString&)> mayStartIt;  ///< a host's say; anything may without it
 
     bool mayStart(const QString& executable) override
     {
         return !mayStartIt || mayStartIt(executable);
+    }
+    QString runFolder(const QString& executable) const override
+    {
+        return copiesFolder.isEmpty() ? ParentProject::runFolder(executable) : copiesFolder;
+    }
+    QStringList runArguments(const QString& executable, const QStringList& arguments,
+                             const QVector<RunCopy>& copies) const override
+    {
+        QStringList all = ParentProject::runArguments(executable, arguments, copies);
+        for (const RunCopy& copy : copies.mid(0, copiesFolder.isEmpty() ? 0 : copies.size())) {
+            all += {copy.copy, copy.original, QString::number(copy.kind)};
+        }
+        return all;
     }
     QString runParameters(int) const override { return parameters; }
     QString runPath(int, const QString& name, bool* wholeFolder) const override
@@ -143,6 +157,7 @@ private slots:
     void choice();
     void gameHasItsEngine();
     void hostLooksBeforeTheStart();
+    void copiesOfAnotherFolder();
     void paths_data();
     void paths();
     void unsavedText();
@@ -315,6 +330,24 @@ void TestRun::hostLooksBeforeTheStart()
     QCOMPARE(world.engineFiles(), before);
     QVERIFY(!world.tree->isRunning());
     QCOMPARE(dialogs.count(), 0);
+}
+
+/// Nothing lies beside the engine, and it is told whole paths and what was copied.
+void TestRun::copiesOfAnotherFolder()
+{
+    World world;
+    TestProject* const project = world.open("hero.code", "saved");
+    QTextCursor(static_cast<CodeDocument*>(project->file(FileID::MainCode))).insertText("un");
+    world.tree->copiesFolder = world.root + "elsewhere";
+    QVERIFY(QDir().mkpath(world.tree->copiesFolder));
+    const auto before = world.engineFiles();
+    QCOMPARE(world.run().outcome, RunResult::Ended);
+    const QString copy = world.root + "elsewhere/copies/zorvs_0/zorvs_0";
+    QCOMPARE(world.arguments().mid(0, 3), (QStringList{copy, copy, world.root + "game/hero.code"}));
+    QCOMPARE(world.record("texts"), QString("unsavedunsavedsaved"));
+    QCOMPARE(world.record("files"), QString("./play it\n"));
+    QCOMPARE(world.engineFiles(), before);
+    QCOMPARE(snapshot(world.tree->copiesFolder).size(), 0);
 }
 
 void TestRun::paths_data()

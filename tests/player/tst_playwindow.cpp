@@ -1,11 +1,13 @@
 // The window of the player, by its keys.
 
 #include "operations/hostinterface.h"
+#include "support/folders.h"
 #include "support/testtable.h"
 #include "window/keymap.h"
 #include "window/playwindow.h"
 
 #include <QScreen>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace Player;
@@ -21,6 +23,8 @@ private slots:
     void everyTickIsPainted();
     void whatIsHeldEndsWithTheFocus();
     void stopAndStep();
+    void savedFilesAreTaken_data();
+    void savedFilesAreTaken();
     void keymap_data();
     void keymap();
 
@@ -113,6 +117,48 @@ void TestPlayWindow::stopAndStep()
     QCOMPARE(m_window->state().tick, tick - 1);
     QTest::keyClick(m_window.get(), Qt::Key_Space);
     wait(2);
+}
+
+void TestPlayWindow::savedFilesAreTaken_data()
+{
+    columns<bool>("isCopy");
+    row("the game itself", false);
+    row("what a copy was made of", true);
+}
+
+/// Places stay; what cannot be read leaves all as it is.
+void TestPlayWindow::savedFilesAreTaken()
+{
+    const auto [isCopy] = fetched<bool>();
+    QTemporaryDir folder;
+    const QString game = folder.filePath("game");
+    const QString original = game + "/characters/a/a.character";
+    const QString copy = folder.filePath("run/zorvs_0");
+    const auto textOf = [](const char* name) {
+        return "[info]\nname = \"" + QByteArray(name) + "\"\n[constants]\nlife = 500\n";
+    };
+    writeFile(original, textOf("first"));
+    writeFile(game + "/characters/b/b.character", textOf("other"));
+    writeFile(copy, textOf("unsaved"));
+    const MatchRequest request{
+        game, {isCopy ? copy : original}, {}, false, isCopy ? original : QString()};
+    auto match = std::make_unique<LoadedMatch>();
+    QString error;
+    QVERIFY(match->load(request, &error));
+    m_window = std::make_unique<PlayWindow>(std::move(match), request);
+    m_window->begin();
+    QCOMPARE(m_window->title(), QString(isCopy ? "unsaved against other" : "first against first"));
+    QTest::keyPress(m_window.get(), Qt::Key_A);
+    wait(10);
+    QTest::keyRelease(m_window.get(), Qt::Key_A);
+    wait(2);
+    const int before = place(0);
+    writeFile(original, textOf("second"));
+    QTRY_VERIFY(m_window->title().startsWith("second against "));
+    QCOMPARE(place(0), before);
+    QVERIFY(QFile::remove(original));
+    wait(60);
+    QVERIFY(m_window->title().startsWith("second against "));
 }
 
 void TestPlayWindow::keymap_data()

@@ -12,6 +12,7 @@
 #include "app/recovery/workrecovery.h"
 #include "app/run/runcommands.h"
 #include "cli/commanddialogs.h"
+#include "family/project/familyenginemodel.h"
 #include "operations/engines.h"
 #include "operations/familydata.h"
 #include "operations/recovery/sessionfolder.h"
@@ -133,6 +134,7 @@ int runWindow(QApplication&, const QStringList& arguments)
     WindowInterface host(&settings);
     Operations::startHost(&host);
     Operations::useEngines(settings);
+    Family::FamilyEngineModel::instance()->setPlayerOffered(true);
     applyLook();
     const WindowDialogs dialogs;
     MainWindow window;

@@ -2,7 +2,9 @@
 
 #include "family/grammar/grammar.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 #include <QStandardPaths>
 
@@ -42,14 +44,35 @@ QString FamilyEngineModel::displayName() const
     return tr("Zorv reference family");
 }
 
+QString FamilyEngineModel::playerPath()
+{
+    const QFileInfo player(QCoreApplication::applicationDirPath() + QLatin1Char('/') +
+                           GameProgram::name());
+    return player.isFile() && player.isExecutable() ? player.absoluteFilePath() : QString();
+}
+
+bool FamilyEngineModel::isPlayer(const QString& executable)
+{
+    const QString player = playerPath();
+    return !player.isEmpty() && QFileInfo(executable) == QFileInfo(player);
+}
+
+void FamilyEngineModel::setPlayerOffered(bool isOffered)
+{
+    beginResetModel();
+    m_player = {tr("Zorv player"), isOffered ? playerPath() : QString(), QStringLiteral("%0"), {}};
+    endResetModel();
+}
+
 int FamilyEngineModel::engineCount() const
 {
-    return m_engines.size();
+    return m_engines.size() + (m_player.executable.isEmpty() ? 0 : 1);
 }
 
 Zorv::EngineInfo FamilyEngineModel::engine(unsigned index) const
 {
-    Zorv::EngineInfo engine = m_engines.value(int(index));
+    const bool isPlayerRow = int(index) == m_engines.size() && !m_player.executable.isEmpty();
+    Zorv::EngineInfo engine = isPlayerRow ? m_player : m_engines.value(int(index));
     // What lies in the current folder may be from anybody.
     if (!engine.executable.isEmpty()) {
         engine.executable = QDir::home().absoluteFilePath(engine.executable);
@@ -76,7 +99,7 @@ QModelIndex FamilyEngineModel::parent(const QModelIndex&) const
 
 int FamilyEngineModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_engines.size();
+    return parent.isValid() ? 0 : engineCount();
 }
 
 int FamilyEngineModel::columnCount(const QModelIndex& parent) const
@@ -86,10 +109,10 @@ int FamilyEngineModel::columnCount(const QModelIndex& parent) const
 
 QVariant FamilyEngineModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_engines.size()) {
+    if (!index.isValid() || index.row() >= engineCount()) {
         return {};
     }
-    const Zorv::EngineInfo& engine = m_engines.at(index.row());
+    const Zorv::EngineInfo engine = this->engine(unsigned(index.row()));
     switch (role) {
     case Qt::DisplayRole:
         return engine.name;

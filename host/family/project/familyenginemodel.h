@@ -8,7 +8,8 @@
 
 namespace Family {
 
-/// The engine family, with the engines that the person has configured as rows.
+/// The engine family, with the engines that the person has configured as rows. Behind them comes
+/// the player of this program, if it is offered and there.
 class FamilyEngineModel final : public Zorv::EngineModel
 {
     Q_OBJECT
@@ -36,6 +37,13 @@ public:
     /// outside of the list.
     Zorv::EngineInfo engine(unsigned index) const override;
 
+    /// The player that is installed beside this program; empty if it is not there.
+    static QString playerPath();
+    static bool isPlayer(const QString& executable);
+
+    /// Whether the player is a row.
+    void setPlayerOffered(bool isOffered);
+
     /// Changes to the list; the host keeps it in its settings.
     void setEngines(const QVector<Zorv::EngineInfo>& engines);
     const QVector<Zorv::EngineInfo>& engines() const { return m_engines; }
@@ -55,6 +63,7 @@ public:
 private:
     GameProgram m_program;
     QVector<Zorv::EngineInfo> m_engines;
+    Zorv::EngineInfo m_player;  // without a path if it is no row
 };
 
 }  // namespace Family

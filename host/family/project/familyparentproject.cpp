@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStandardPaths>
 #include <QUuid>
 #include <algorithm>
 #include <memory>
@@ -212,6 +213,32 @@ QString FamilyParentProject::runPath(int, const QString& name, bool* wholeFolder
     *wholeFolder = true;
     return name + QLatin1Char('-') + QUuid::createUuid().toString(QUuid::WithoutBraces) +
            QLatin1Char('/');
+}
+
+QString FamilyParentProject::runFolder(const QString& executable) const
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+                           QStringLiteral("/zorv/runs");
+    const bool isOwn = FamilyEngineModel::isPlayer(executable) && QDir().mkpath(folder);
+    return isOwn ? folder : ParentProject::runFolder(executable);
+}
+
+QStringList FamilyParentProject::runArguments(const QString& executable,
+                                              const QStringList& arguments,
+                                              const QVector<RunCopy>& copies) const
+{
+    const bool isPlain = copies.size() == 1 && arguments == QStringList(copies.first().copy);
+    if (!FamilyEngineModel::isPlayer(executable) || !isPlain) {
+        return arguments;
+    }
+    const RunCopy& copy = copies.first();
+    const bool isStage = FileKind(copy.kind) == FileKind::Stage;
+    QStringList all{QDir(absolutePath()).absolutePath(),
+                    isStage ? QStringLiteral("--stage") : QStringLiteral("--character"), copy.copy};
+    if (!copy.original.isEmpty()) {
+        all += {QStringLiteral("--original"), copy.original};
+    }
+    return all;
 }
 
 /// Rows whose value is another one.

@@ -40,6 +40,14 @@ public:
 
     /// A folder beside the engine with a name that no other has, temporary as a whole.
     QString runPath(int kind, const QString& name, bool* wholeFolder) const override;
+
+    /// For the player a folder of the person's own cache; any other engine finds them beside it.
+    QString runFolder(const QString& executable) const override;
+
+    /// The player is told the game and what each copy was made of, unless the person has written
+    /// parameters for it.
+    QStringList runArguments(const QString& executable, const QStringList& arguments,
+                             const QVector<RunCopy>& copies) const override;
     void lastReferenceGone() override;
 
     /// False, and told through `Dialogs`, for a program of the game folder that is not any more

@@ -109,7 +109,7 @@ bool EngineRun::findEngine()
         return false;
     }
     m_executable = executable.absoluteFilePath();
-    m_folder = withSlash(executable.absolutePath());
+    m_folder = withSlash(tree->runFolder(m_executable));
     return true;
 }
 
@@ -168,7 +168,10 @@ void EngineRun::copyProject(unsigned mark, Project* project, const QString& name
     }
     const QString place = placeOf(project);
     const QString folder = m_folder + withSlash(runPath);
-    m_texts.insert(mark, QDir::cleanPath(withSlash(runPath) + place + name));
+    const QString copy = QDir::cleanPath(withSlash(runPath) + place + name);
+    const bool isBeside = m_folder == withSlash(QFileInfo(m_executable).absolutePath());
+    m_texts.insert(mark, isBeside ? copy : m_folder + copy);
+    m_runCopies.append({m_folder + copy, project->fileName(), project->kind()});
     if (isWhole && m_copies->addFolder(folder)) {
         writeCopy(project, folder, name);
         return;
@@ -212,7 +215,11 @@ bool EngineRun::writeCopy(Project* project, const QString& folder, const QString
 
 void EngineRun::startEngine()
 {
-    const Launch launch = launchOf(m_executable, runArguments(m_parameters, m_texts));
+    QStringList arguments = runArguments(m_parameters, m_texts);
+    if (m_tree) {
+        arguments = m_tree->model->runArguments(m_executable, arguments, m_runCopies);
+    }
+    const Launch launch = launchOf(m_executable, arguments);
     m_result.program = launch.program;
     m_result.arguments = launch.arguments;
     m_result.folder = launch.folder;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/parentproject.h"
 #include "core/run/runresult.h"
 #include "core/run/temporarycopies.h"
 
@@ -42,9 +43,10 @@ private:
     QPointer<ParentProjectPrivate> m_tree;
     RunResult m_result;
     QString m_executable;
-    QString m_folder;  ///< of the executable, with "/" at its end
+    QString m_folder;  ///< of the copies, with "/" at its end
     QString m_parameters;
     QMap<unsigned, QString> m_texts;  ///< what the marks stand for
+    QVector<ParentProject::RunCopy> m_runCopies;
     std::unique_ptr<TemporaryCopies> m_copies;
 };
 
