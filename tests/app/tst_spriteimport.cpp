@@ -90,7 +90,7 @@ private:
     }
 
     /// What the person does in the dialog, which opens by its tool.
-    void import(const std::function<void(SprImport*)>& person)
+    void importBy(const std::function<void(SprImport*)>& person)
     {
         bool isSeen = false;
         QTimer::singleShot(0, this, [&] {
@@ -169,33 +169,33 @@ void TestSpriteImport::importsWhatIsChosen()
     for (const auto& sprite : sprites()->items()) {
         before.append(Look(*sprite));
     }
-    import([replaces = replaces](SprImport* dialog) {
+    importBy([replaces = replaces](SprImport* dialog) {
         chooseAll(dialog, replaces);
-    rename(dialog, 1, QStringLiteral("hero"));
-    rename(dialog, 1, QStringLiteral("0,7"));
-    accept(dialog);
-});
-QCOMPARE(m->dialogs.count("warning"), 1);
-QCOMPARE(sprites()->rowCount(), ours.size());
-for (int row = 0; row < ours.size(); ++row) {
-    const FamilySprite* sprite = sprites()->sprite(row);
-    QCOMPARE(sprite->id().text(), ours[row]);
-    QVERIFY2(Look(*sprite) == (theirs[row].isEmpty()
-                                   ? before[row]
-                                   : Look(*source()->sprite(source()->find(0, theirs[row])))),
-             qPrintable(ours[row]));
-}
-QCOMPARE(sprites()->palettes()->count(), 2);
-QVERIFY(sprites()->palettes()->palette(0)->id() != sprites()->palettes()->palette(1)->id());
-QCOMPARE(editor()->spriteIndex(), 2);
-const QString report = m->dialogs.texts("information").value(0);
-QVERIFY2(report.startsWith(replaces ? "4 sprite" : "3 sprite") && report.contains("'4,6'") &&
-             report.contains(replaces ? "1 of them" : "1 was skipped") &&
-             report.contains("1 palette"),
-         qPrintable(report));
-sprites()->undo();
-QCOMPARE(written(), first);
-QVERIFY(!sprites()->canUndo());
+        rename(dialog, 1, QStringLiteral("hero"));
+        rename(dialog, 1, QStringLiteral("0,7"));
+        accept(dialog);
+    });
+    QCOMPARE(m->dialogs.count("warning"), 1);
+    QCOMPARE(sprites()->rowCount(), ours.size());
+    for (int row = 0; row < ours.size(); ++row) {
+        const FamilySprite* sprite = sprites()->sprite(row);
+        QCOMPARE(sprite->id().text(), ours[row]);
+        QVERIFY2(Look(*sprite) == (theirs[row].isEmpty()
+                                       ? before[row]
+                                       : Look(*source()->sprite(source()->find(0, theirs[row])))),
+                 qPrintable(ours[row]));
+    }
+    QCOMPARE(sprites()->palettes()->count(), 2);
+    QVERIFY(sprites()->palettes()->palette(0)->id() != sprites()->palettes()->palette(1)->id());
+    QCOMPARE(editor()->spriteIndex(), 2);
+    const QString report = m->dialogs.texts("information").value(0);
+    QVERIFY2(report.startsWith(replaces ? "4 sprite" : "3 sprite") && report.contains("'4,6'") &&
+                 report.contains(replaces ? "1 of them" : "1 was skipped") &&
+                 report.contains("1 palette"),
+             qPrintable(report));
+    sprites()->undo();
+    QCOMPARE(written(), first);
+    QVERIFY(!sprites()->canUndo());
 }
 
 /// The one of a host that knows images alone, and the packed one.
@@ -234,21 +234,21 @@ void TestSpriteImport::asksBeforePaintedWorkGoes()
     canvas()->flip(true, false);
     const QImage painted = canvas()->mergeLayers(nullptr);
     m->dialogs.choiceAnswers = {answer};
-    import([replaces = replaces](SprImport* dialog) {
+    importBy([replaces = replaces](SprImport* dialog) {
         chooseAll(dialog, replaces);
-    accept(dialog);
-});
-// Only the way to the first new sprite is asked about, if nothing is in danger.
-QCOMPARE(m->dialogs.count("choose"), 1);
-QCOMPARE(written() != first, comes);
-const bool isKept = answer < 0;
-QCOMPARE(editor()->isCanvasModified(), isKept);
-QCOMPARE(editor()->spriteIndex(), isKept ? 0 : 2);
-QVERIFY(!isKept || canvas()->mergeLayers(nullptr) == painted);
-while (sprites()->canUndo()) {
-    sprites()->undo();
-}
-QCOMPARE(written(), first);
+        accept(dialog);
+    });
+    // Only the way to the first new sprite is asked about, if nothing is in danger.
+    QCOMPARE(m->dialogs.count("choose"), 1);
+    QCOMPARE(written() != first, comes);
+    const bool isKept = answer < 0;
+    QCOMPARE(editor()->isCanvasModified(), isKept);
+    QCOMPARE(editor()->spriteIndex(), isKept ? 0 : 2);
+    QVERIFY(!isKept || canvas()->mergeLayers(nullptr) == painted);
+    while (sprites()->canUndo()) {
+        sprites()->undo();
+    }
+    QCOMPARE(written(), first);
 }
 
 void TestSpriteImport::anythingCanGoBehindTheDialog_data()
@@ -265,32 +265,32 @@ void TestSpriteImport::anythingCanGoBehindTheDialog()
     const auto [what] = fetched<QString>();
     const QByteArray first = written();
     QPointer<SpriteCollection> left = sprites();
-    import([&, what = what](SprImport* dialog) {
+    importBy([&, what = what](SprImport* dialog) {
         const QPointer<SprImport> alive(dialog);
-    chooseAll(dialog, true);
-    if (what == "source") {
-        close(source());
-    } else if (what == "destination") {
-        close(sprites());
-    } else if (what == "game") {
-        m->action("close_folder")->trigger();
-    } else if (what != "canceled") {
-        SpriteCollection* read = what.startsWith("source") ? source() : sprites();
-        QVERIFY(static_cast<Family::SpriteFile*>(read)->reload());
+        chooseAll(dialog, true);
+        if (what == "source") {
+            close(source());
+        } else if (what == "destination") {
+            close(sprites());
+        } else if (what == "game") {
+            m->action("close_folder")->trigger();
+        } else if (what != "canceled") {
+            SpriteCollection* read = what.startsWith("source") ? source() : sprites();
+            QVERIFY(static_cast<Family::SpriteFile*>(read)->reload());
+        }
+        if (alive && alive->isVisible()) {
+            what == "canceled" ? alive->reject() : accept(alive);
+        }
+        if (alive && alive->isVisible()) {
+            alive->reject();  // nothing is left to be chosen
+        }
+    });
+    const bool comes = what == "destination read anew";
+    QCOMPARE(m->dialogs.count("information"), int(comes));
+    if (left) {
+        QCOMPARE(written() != first, comes);
+        QCOMPARE(left->canUndo(), comes);
     }
-    if (alive && alive->isVisible()) {
-        what == "canceled" ? alive->reject() : accept(alive);
-    }
-    if (alive && alive->isVisible()) {
-        alive->reject();  // nothing is left to be chosen
-    }
-});
-const bool comes = what == "destination read anew";
-QCOMPARE(m->dialogs.count("information"), int(comes));
-if (left) {
-    QCOMPARE(written() != first, comes);
-    QCOMPARE(left->canUndo(), comes);
-}
 }
 
 /// In the middle of a large file.
@@ -313,14 +313,14 @@ void TestSpriteImport::canBeGivenUp()
         }
     });
     giveUp.start(0);
-    import([](SprImport* dialog) {
+    importBy([](SprImport* dialog) {
         chooseAll(dialog, true);
-    accept(dialog);
-});
-QVERIFY2(isSeen, qPrintable(QString::number(largest)));
-QCOMPARE(written(), first);
-QVERIFY(!sprites()->canUndo());
-QCOMPARE(m->dialogs.count("information"), 0);
+        accept(dialog);
+    });
+    QVERIFY2(isSeen, qPrintable(QString::number(largest)));
+    QCOMPARE(written(), first);
+    QVERIFY(!sprites()->canUndo());
+    QCOMPARE(m->dialogs.count("information"), 0);
 }
 
 void TestSpriteImport::needsAnotherProject()
