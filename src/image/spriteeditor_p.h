@@ -83,7 +83,7 @@ public:
     int findShown(Match match) const;
     void spritesChanged(Match match);
     void bind(int index);
-    void takeChange(const Sprite& now, bool isModified, bool holdsWork);
+    void takeChange(const Sprite& now, Match match, bool isModified);
     void remember(Sprite* sprite, int index);
     void show(int index);
     void load();

@@ -47,13 +47,20 @@ void SpriteEditorPrivate::projImport()
     }
     const QString title =
         SpriteEditor::tr("Import sprites from project '%1'").arg(choice.source->title());
-    // What is painted on a sprite that is replaced would come into the new one with the next save.
+    // Layers of a sprite that is replaced would come into the new one with the next save.
     const bool isReplaced = SpriteImport(to, choice.entries, choice.conflicts).replaces(row);
     if (isReplaced && (!mayLeave() || !to || to != sprites)) {
         return;
     }
     const int first = int(to->count());
-    const SpriteImportResult result = SpriteImport(to, choice.entries, choice.conflicts).run(title);
+    SpriteImportResult result;
+    {
+        const QScopedValueRollback<int> guard(selGuard, isReplaced ? selGuard + 1 : selGuard);
+        result = SpriteImport(to, choice.entries, choice.conflicts).run(title);
+    }
+    if (isReplaced && to && to == sprites) {
+        show(row);
+    }
     if (to && to == sprites && int(to->count()) > first) {
         host->activateEditor(editor);
         selPosChanged(first);

@@ -38,23 +38,21 @@ void SpriteEditorPrivate::keepCanvas()
     keepToBudget();
 }
 
-/// Shows the canvas that is kept for the sprite; false if there is none, or if the sprite has been
-/// changed since.
+/// Shows the canvas that is kept for the sprite as it is now; false if there is none.
 bool SpriteEditorPrivate::bringBack()
 {
     const Sprite* now = sprite();
+    const QImage stored = canvasForm(now->image());
     const auto found = std::find_if(kept.begin(), kept.end(), [&](const KeptCanvas& each) {
         return each.sprites == sprites && each.identifier == identifier &&
-               (!each.record || each.record == now);
+               (!each.record || each.record == now) && each.loadedAxis == now->axis() &&
+               areSamePixels(each.loaded, stored);
     });
     if (found == kept.end()) {
         return false;
     }
     KeptCanvas back = std::move(*found);
     kept.erase(found);
-    if (back.loadedAxis != now->axis() || !areSamePixels(back.loaded, canvasForm(now->image()))) {
-        return false;
-    }
     loaded = back.loaded;
     loadedAxis = back.loadedAxis;
     hasToldHidden = back.hasToldHidden;

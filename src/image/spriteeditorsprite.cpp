@@ -144,7 +144,7 @@ void SpriteEditorPrivate::spritesChanged(Match match)
         remember(nullptr, -1);
         clearCanvas();
     } else {
-        takeChange(*now, isModified, holdsWork);
+        takeChange(*now, match, isModified);
     }
     showPosition();
     if (editor->isActive() && !holdsWork) {
@@ -165,8 +165,9 @@ void SpriteEditorPrivate::bind(int index)
     }
 }
 
-/// What the sprite is now. A canvas that keeps other pixels differs from it from now on.
-void SpriteEditorPrivate::takeChange(const Sprite& now, bool isModified, bool holdsWork)
+/// What the sprite is now. A canvas that keeps other pixels differs from it from now on. A file
+/// that was read anew comes before layers that were saved: those are put aside.
+void SpriteEditorPrivate::takeChange(const Sprite& now, Match match, bool isModified)
 {
     if (now.palette() != ownPalette) {
         loadColors();
@@ -179,7 +180,12 @@ void SpriteEditorPrivate::takeChange(const Sprite& now, bool isModified, bool ho
     if (isSamePicture && !isModified) {
         loadedAxis = now.axis();
         canvas()->setAxis(loadedAxis);
-    } else if (!holdsWork) {
+    } else if (!isModified && match == SameIdentifier) {
+        keepCanvas();
+        if (!bringBack()) {
+            load();
+        }
+    } else if (!isModified && layers()->count() <= 1) {
         load();
     } else {
         loaded = stored;

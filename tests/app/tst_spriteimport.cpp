@@ -61,6 +61,7 @@ private slots:
     void copiesAreTheSame();
     void asksBeforePaintedWorkGoes_data();
     void asksBeforePaintedWorkGoes();
+    void comesBeforeSavedLayers();
     void anythingCanGoBehindTheDialog_data();
     void anythingCanGoBehindTheDialog();
     void canBeGivenUp();
@@ -249,6 +250,25 @@ void TestSpriteImport::asksBeforePaintedWorkGoes()
         sprites()->undo();
     }
     QCOMPARE(written(), first);
+}
+
+/// They are saved, so there is nothing to ask, and nothing of them in the new picture.
+void TestSpriteImport::comesBeforeSavedLayers()
+{
+    openFirst();
+    canvas()->flip(true, false);
+    trigger("spr_layer_add");
+    trigger("spr_saveimg");
+    importBy([](SprImport* dialog) {
+        chooseAll(dialog, true);
+        accept(dialog);
+    });
+    editor()->showSprite(sprites(), 0);
+    QCOMPARE(m->dialogs.count("choose"), 0);
+    QVERIFY(!editor()->isCanvasModified());
+    QVERIFY(differences(canvas()->mergeLayers(nullptr), picture(2)).isEmpty());
+    trigger("save");
+    QVERIFY(differences(sprites()->sprite(0)->image(), picture(2)).isEmpty());
 }
 
 void TestSpriteImport::anythingCanGoBehindTheDialog_data()

@@ -73,6 +73,7 @@ private slots:
     void followsAMovedColour();
     void hidingALayerIsWork_data();
     void hidingALayerIsWork();
+    void fileComesBeforeSavedLayers();
     void comesBack_data();
     void comesBack();
 
@@ -322,6 +323,28 @@ void TestUnsavedCanvas::hidingALayerIsWork()
     QCOMPARE(sprites()->sprite(0)->image(), answer == Save ? flipped() : both);
     QCOMPARE(shown(), sprites()->sprite(0)->image());
     QCOMPARE(canvas()->layers()->count(), 2U);
+}
+
+/// They are there again with their picture.
+void TestUnsavedCanvas::fileComesBeforeSavedLayers()
+{
+    trigger("spr_layer_add");
+    trigger("save");
+    Family::SpriteFile other;
+    QVERIFY(other.insertSprite(-1, {0, 0}, {8, 11}, picture(2)));
+    const QByteArray ours = m_game->read(SpritePath);
+    for (const bool isOurs : {false, true}) {
+        if (isOurs) {
+            m_game->write(SpritePath, ours);
+        } else {
+            QVERIFY(
+                other.toFile(*Zorv::FileSystemArchive::instance(), m_game->path(SpritePath), true));
+        }
+        QVERIFY(static_cast<Family::SpriteFile*>(sprites())->reload());
+        QVERIFY(!editor()->isCanvasModified());
+        QCOMPARE(shown(), isOurs ? flipped() : picture(2));
+        QCOMPARE(canvas()->layers()->count(), isOurs ? 2U : 1U);
+    }
 }
 
 void TestUnsavedCanvas::comesBack_data()
