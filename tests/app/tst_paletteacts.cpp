@@ -9,6 +9,7 @@
 
 #include <zorv/editors/palette/palettewidget.h>
 #include <zorv/image/palettepreviews.h>
+#include <zorv/media/paletteobject.h>
 #include <zorv/media/tools/colorblindness.h>
 #include <zorv/media/tools/colorspaces.h>
 
@@ -40,7 +41,10 @@ private slots:
     void cancelChangesNothing_data();
     void cancelChangesNothing();
     void sortsWithThePicture();
+    void takesTheCanvasIn_data();
     void takesTheCanvasIn();
+    void sortsNothing();
+    void opensNothingOnNothing();
     void previewIsSeen();
     void endsWithItsPalette();
     void tellsUses();
@@ -208,16 +212,73 @@ void TestPaletteActs::sortsWithThePicture()
     }
 }
 
+void TestPaletteActs::takesTheCanvasIn_data()
+{
+    columns<bool, int, bool>("isSorted", "seen", "inAll");
+    for (const bool inAll : {false, true}) {
+        for (const int seen : {0, 1}) {
+            QTest::addRow("sorted %d %d", seen, inAll) << true << seen << inAll;
+            QTest::addRow("moved %d %d", seen, inAll) << false << seen << inAll;
+        }
+    }
+}
+
+/// In the colours of its own palette, whichever is looked at and changed; all as one step.
 void TestPaletteActs::takesTheCanvasIn()
 {
+    const auto [isSorted, seen, inAll] = fetched<bool, int, bool>();
     const QByteArray first = bytes();
     const QImage flipped = pictures().first().mirrored(true, false);
     canvas()->flip(true, false);
-    act("palette_sort", [](QWidget* dialog) { dialog->findChild<QCheckBox*>()->setChecked(true); });
+    panel()->setCurrentPalette(palettes()->palette(seen));
+    const PaletteColors before[] = {colors(0), colors(1)};
+    m->host.setOption(QStringLiteral("pal_move"), inAll ? 1 : 2);
+    if (isSorted) {
+        act("palette_sort", [inAll = inAll](QWidget* dialog) {
+            dialog->findChild<QCheckBox*>()->setChecked(true);
+            dialog->findChildren<QCheckBox*>().last()->setChecked(inAll);
+        });
+    } else {
+        grid()->setFocus();
+        QTest::keyClick(grid(), Qt::Key_Home);
+        QTest::keyClick(grid(), Qt::Key_Right, Qt::AltModifier);
+    }
     QVERIFY(!editor()->isCanvasModified());
     QCOMPARE(pictures().first(), flipped);
+    QVERIFY(colors(seen) != before[seen] && (colors(1 - seen) != before[1 - seen]) == inAll);
+    QCOMPARE(panel()->currentPalette(), palettes()->palette(seen));
+    QCOMPARE(grid()->palette()->color(1), colors(seen)[1]);
     sprites()->undo();
     QCOMPARE(bytes(), first);
+}
+
+/// What is in this order already stays, and so does the canvas.
+void TestPaletteActs::sortsNothing()
+{
+    act("palette_sort");
+    const QByteArray sorted = bytes();
+    canvas()->flip(true, false);
+    act("palette_sort");
+    QVERIFY(editor()->isCanvasModified());
+    QCOMPARE(bytes(), sorted);
+}
+
+/// The palette goes while the canvas comes into sight.
+void TestPaletteActs::opensNothingOnNothing()
+{
+    for (const char* name : {"palette_sort", "palette_ramp", "palette_hue", "palette_replace"}) {
+        m.reset();
+        begin();
+        QCoreApplication::processEvents();
+        select({1, 3});
+        const auto going = connect(editor(), &Zorv::SpriteEditor::spriteShown, this,
+                                   [this] { palettes()->clear(); });
+        bool isOpen = false;
+        act(name, [&](QWidget*) { isOpen = true; });
+        disconnect(going);
+        QVERIFY2(!isOpen && m->dialogs.count() == 0, name);
+        QCOMPARE(palettes()->count(), 0);
+    }
 }
 
 /// On the canvas too, and not in what is saved of it.

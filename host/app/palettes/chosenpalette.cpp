@@ -52,6 +52,18 @@ bool ChosenPalette::isThere() const
     return now == m_palette && now->id() == m_id && now->state.colors == m_colors;
 }
 
+bool ChosenPalette::comeBack() const
+{
+    if (m_editor && m_palette && m_sprites && m_editor->sprites() == m_sprites &&
+        m_editor->currentPalette() != m_palette) {
+        FamilyPalette* now = m_sprites->palettes()->palette(m_row);
+        if (now == m_palette) {
+            m_editor->setCurrentPalette(now);
+        }
+    }
+    return isThere();
+}
+
 const bool* ChosenPalette::slotsOrAll(int least) const
 {
     return selectedCount() < least ? m_all.data() : m_selection.data();

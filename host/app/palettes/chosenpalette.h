@@ -33,6 +33,10 @@ public:
     /// True while the same palette is the current one, with the same colours.
     bool isThere() const;
 
+    /// Makes it the current one again where another palette came into the grid meanwhile. True if
+    /// `isThere()` then.
+    bool comeBack() const;
+
     /// The slots that are selected; all of them if those are fewer than `least`. Pointer to 256.
     const bool* slotsOrAll(int least) const;
     int selectedCount() const;

@@ -93,7 +93,12 @@ void FamilyPaletteEditor::reorderColors(const QVector<int>& rows, const Zorv::Pa
     const Operations::MediaResult result = Operations::reorderPalettes(sprites(), rows, order);
     const QStringList lines = result.errors + result.warnings;
     if (!lines.isEmpty()) {
-        Dialogs::instance()->error(tr("Reorder palette"), lines.join(QLatin1Char('\n')));
+        QMetaObject::invokeMethod(
+            this,
+            [text = lines.join(QLatin1Char('\n'))] {
+                Dialogs::instance()->error(tr("Reorder palette"), text);
+            },
+            Qt::QueuedConnection);
     }
 }
 

@@ -88,8 +88,7 @@ bool PaletteTools::hasSlotsBetween() const
 
 void PaletteTools::duplicate()
 {
-    comeForward();
-    const ChosenPalette chosen(m_editor);
+    const ChosenPalette chosen = comeForward();
     if (!chosen.isThere()) {
         return;
     }
@@ -99,33 +98,43 @@ void PaletteTools::duplicate()
     }
 }
 
-/// Pixels of the file go along, and so have to be all in the file.
+/// Pixels of the file go along, and so have to be all in the file. What is painted gets there in
+/// the colours of its sprite, which come into the grid for that.
 void PaletteTools::sort()
 {
-    comeForward();
-    const ChosenPalette chosen(m_editor);
+    const ChosenPalette chosen = comeForward();
+    if (!chosen.isThere()) {
+        return;
+    }
     SortDialog dialog(chosen, m_services.window);
     if (dialog.exec() != QDialog::Accepted || !chosen.isThere()) {
+        return;
+    }
+    const Zorv::PaletteOrder order = dialog.order();
+    if (order == Zorv::sameOrder()) {
         return;
     }
     const QString title = tr("Sort colours");
     const QPointer<Family::SpriteCollection> sprites = chosen.sprites();
     MediaResult result;
     sprites->beginChange(title);
-    if (Zorv::FileInput::take(sprites, &result.errors) && chosen.isThere()) {
-        result =
-            Operations::reorderPalettes(sprites, chosen.rows(dialog.isInAll()), dialog.order());
+    const bool isTaken = Zorv::FileInput::take(sprites, &result.errors);
+    if (chosen.comeBack() && isTaken) {
+        result = Operations::reorderPalettes(sprites, chosen.rows(dialog.isInAll()), order);
     }
     if (sprites) {
         sprites->endChange();
     }
+    chosen.comeBack();  // a sprite that is read anew has its own come, too
     finish(title, result);
 }
 
 void PaletteTools::ramp()
 {
-    comeForward();
-    const ChosenPalette chosen(m_editor);
+    const ChosenPalette chosen = comeForward();
+    if (!chosen.isThere()) {
+        return;
+    }
     MediaResult result;
     {
         RampDialog dialog(chosen, m_services.window);
@@ -139,8 +148,10 @@ void PaletteTools::ramp()
 
 void PaletteTools::shiftHue()
 {
-    comeForward();
-    const ChosenPalette chosen(m_editor);
+    const ChosenPalette chosen = comeForward();
+    if (!chosen.isThere()) {
+        return;
+    }
     MediaResult result;
     {
         HueDialog dialog(chosen, m_services.window);
@@ -154,8 +165,10 @@ void PaletteTools::shiftHue()
 
 void PaletteTools::replace()
 {
-    comeForward();
-    const ChosenPalette chosen(m_editor);
+    const ChosenPalette chosen = comeForward();
+    if (!chosen.isThere()) {
+        return;
+    }
     const QString title = tr("Replace colour");
     const RGBA before = chosen.colors()[chosen.first()];
     const auto wanted = Dialogs::instance()->chooseColor(title, toColor(before));
@@ -179,17 +192,14 @@ void PaletteTools::countUses()
 }
 
 /// What is changed is seen. The sprite that comes into sight with the canvas brings its own palette
-/// along: what is meant is the one that was chosen.
-void PaletteTools::comeForward()
+/// along: what is meant is the one that was chosen, which is there no more if the canvas is one of
+/// another file.
+ChosenPalette PaletteTools::comeForward() const
 {
-    const QPointer<Family::SpriteCollection> sprites = m_editor->sprites();
-    const Zorv::Palette* chosen = m_editor->currentPalette();
-    const int row = chosen ? int(chosen->index()) : -1;
+    const ChosenPalette chosen(m_editor);
     m_editor->switchToSprites();
-    if (sprites && m_editor->sprites() == sprites && row >= 0 &&
-        m_editor->currentPalette() != chosen && sprites->palettes()->palette(row) == chosen) {
-        m_editor->setCurrentPalette(sprites->palettes()->palette(row));
-    }
+    chosen.comeBack();
+    return chosen;
 }
 
 void PaletteTools::finish(const QString& title, const MediaResult& result, const QString& done)

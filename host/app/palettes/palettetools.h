@@ -44,7 +44,7 @@ private:
     void replace();
     void countUses();
 
-    void comeForward();
+    ChosenPalette comeForward() const;
     void finish(const QString& title, const Operations::MediaResult& result,
                 const QString& done = {});
 

@@ -21,11 +21,17 @@ void AssetHistory::begin(const QString& title)
     if (m_open.title.isEmpty()) {
         m_open.title = title;
     }
+    if (m_depth > 0 && m_part.isEmpty()) {
+        m_part = title;
+    }
     ++m_depth;
 }
 
 void AssetHistory::end()
 {
+    if (m_depth == 2) {
+        m_part.clear();
+    }
     if (m_depth == 0 || --m_depth > 0) {
         return;
     }
@@ -51,7 +57,17 @@ void AssetHistory::end()
 void AssetHistory::record(std::unique_ptr<Change> change)
 {
     const Step step(*this, {});
+    if (m_open.changes.empty()) {
+        m_firstPart = m_part;
+    }
     m_open.changes.push_back(std::move(change));
+}
+
+void AssetHistory::nameByFirstPart()
+{
+    if (!m_open.changes.empty() && !m_firstPart.isEmpty()) {
+        m_open.title = m_firstPart;
+    }
 }
 
 void AssetHistory::undo()

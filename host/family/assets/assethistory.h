@@ -76,6 +76,10 @@ public:
     void begin(const QString& title);
     void end();
 
+    /// Names the open step by what was done first in it, for work that ends there. So a step does
+    /// not promise what was given up. Nothing if nothing is done yet.
+    void nameByFirstPart();
+
     /// True inside of a step.
     bool isOpen() const { return m_depth > 0; }
 
@@ -121,8 +125,10 @@ private:
     std::function<void()> m_changed;
     std::vector<Entry> m_steps;
     Entry m_open;
-    int m_done = 0;   // steps in front of here are done, those behind undone
-    int m_clean = 0;  // the value of m_done when it was saved; -1 if that is out of reach
+    QString m_part;       // the title of the step that is open in the open one,
+    QString m_firstPart;  // and that of the first change
+    int m_done = 0;       // steps in front of here are done, those behind undone
+    int m_clean = 0;      // the value of m_done when it was saved; -1 if that is out of reach
     int m_depth = 0;
     mutable int m_holds = 0;
     bool m_replaying = false;

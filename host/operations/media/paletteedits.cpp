@@ -122,6 +122,7 @@ MediaResult reorderPalettes(SpriteCollection* sprites, const QVector<int>& rows,
     MediaResult result;
     result.errors = brokenPalettes(*sprites->palettes(), together);
     if (!result.errors.isEmpty()) {
+        sprites->editHistory().nameByFirstPart();
         return result;
     }
     const QString title = Text::tr("Reorder palette");
@@ -132,6 +133,7 @@ MediaResult reorderPalettes(SpriteCollection* sprites, const QVector<int>& rows,
     job.progress = [&](int done, int count) { return progress.update(done, count); };
     QVector<int> broken;
     if (!Family::mapIndices(sprites, job, &broken)) {
+        sprites->editHistory().nameByFirstPart();
         result.isCanceled = true;
         return result;
     }

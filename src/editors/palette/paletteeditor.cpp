@@ -402,4 +402,13 @@ bool ShownPalette::isThere() const
            m_palette->property(QStringLiteral("Identifier")) == m_identifier;
 }
 
+bool ShownPalette::comeBack() const
+{
+    if (isListThere() && m_palette && m_d->palette != m_palette &&
+        m_palettes->palette(m_row) == m_palette) {
+        m_d->definePos(m_row);
+    }
+    return isThere();
+}
+
 }  // namespace Zorv

@@ -59,7 +59,8 @@ public:
                                     bool* reversed) = 0;
 
     /// Puts the colours of the palettes of some rows in another order. The pixels of all sprites
-    /// that use one of them go along, so that pictures stay as they are. One step of undo.
+    /// that use one of them go along, so that pictures stay as they are. A step of undo is open
+    /// meanwhile: what the person has to be told waits for its end.
     virtual void reorderColors(const QVector<int>& rows, const PaletteOrder& order) = 0;
 
     /// Another palette is current; null for none. Nothing as it stands here.

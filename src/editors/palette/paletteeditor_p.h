@@ -121,6 +121,10 @@ public:
     bool isThere() const;
     bool isListThere() const;
 
+    /// Makes it the current one again where another palette came into the grid meanwhile. True if
+    /// `isThere()` then.
+    bool comeBack() const;
+
 private:
     QPointer<PaletteEditorPrivate> m_d;
     QPointer<Palettes> m_palettes;

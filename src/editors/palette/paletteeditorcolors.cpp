@@ -98,16 +98,17 @@ void PaletteEditorPrivate::colorMoved(unsigned short src, unsigned short dst)
     }
 }
 
-/// Pixels of the file are mapped, and so have to be all in the file.
+/// Pixels of the file are mapped, and so have to be all in the file. What is painted gets there in
+/// the colours of its sprite, which come into the grid for that.
 void PaletteEditorPrivate::keepPictures(bool inAll, unsigned short src, unsigned short dst)
 {
     const ShownPalette shown(this);
+    const QPointer<Sprites> changed = sprites;
+    const QString title = PaletteEditor::tr("Move color");
     QStringList errors;
-    if (!FileInput::take(sprites, &errors)) {
-        tellFailures(PaletteEditor::tr("Move color"), errors);
-        return;
-    }
-    if (shown.isThere()) {
+    changed->beginChange(title);
+    const bool isTaken = FileInput::take(changed, &errors);
+    if (shown.comeBack() && isTaken) {
         const Inhibit guard(this);
         QVector<int> rows(inAll ? count() : 1, row());
         if (inAll) {
@@ -115,6 +116,11 @@ void PaletteEditorPrivate::keepPictures(bool inAll, unsigned short src, unsigned
         }
         editor->reorderColors(rows, movedOrder(quint8(src), quint8(dst)));
     }
+    if (changed) {
+        changed->endChange();
+    }
+    shown.comeBack();  // a sprite that is read anew has its own come, too
+    tellFailures(title, errors);
 }
 
 void PaletteEditorPrivate::colorDblClicked(unsigned short)
