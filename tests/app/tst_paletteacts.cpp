@@ -348,9 +348,21 @@ void TestPaletteActs::tellsUses()
     QVERIFY2(
         line().endsWith(QStringLiteral("3 selected slots, pixels: %1").arg(counts[2] + counts[3])),
         qPrintable(line()));
+    {
+        // Sprites are looked at behind a change alone, not for each choice.
+        const QSignalBlocker quiet(sprites());
+        sprites()->sprite(0)->setPalette(palettes()->palette(1));
+        select({1});
+        QVERIFY2(line().startsWith(QLatin1String("2 sprites have")), qPrintable(line()));
+    }
+    sprites()->sprite(0)->setPalette(palettes()->palette(0));
     sprites()->removeSprites({1});
     QCoreApplication::processEvents();
     QCOMPARE(line(), QStringLiteral("1 sprite has palette 1,1."));
+    sprites()->sprite(0)->setPalette(palettes()->palette(1));
+    QCoreApplication::processEvents();
+    panel()->setCurrentPalette(palettes()->palette(1));
+    QCOMPARE(line(), QStringLiteral("1 sprite has palette 1,2."));
 }
 
 /// Of a sprite without a palette, while the panel goes and palettes come and go.

@@ -57,7 +57,7 @@ QStringList PaletteUsage::count()
     if (!sprites) {
         return {};
     }
-    forget();
+    m_count.reset();
     const QPointer<PaletteUsage> alive(this);
     sprites->beginChange({});  // which keeps the file from being read again meanwhile
     const Operations::PaletteUseCount counted = Operations::countUses(*sprites);
@@ -85,7 +85,7 @@ void PaletteUsage::follow()
         m_sprites->palettes()->disconnect(this);
     }
     m_sprites = now;
-    m_count.reset();
+    forget();
     if (now) {
         // While a file is read anew its palettes come and go before the panel knows.
         const auto changed = [this] {
@@ -101,6 +101,7 @@ void PaletteUsage::follow()
 
 void PaletteUsage::forget()
 {
+    m_rows.reset();
     m_count.reset();
 }
 
@@ -144,16 +145,18 @@ QString PaletteUsage::selectedNote(const PaletteUses& uses) const
     return tr("%n selected slot(s), pixels: %1", nullptr, count).arg(pixels);
 }
 
-QString PaletteUsage::line() const
+QString PaletteUsage::line()
 {
     const Zorv::Palette* palette = m_editor->currentPalette();
-    if (!palette || !m_editor->palettes() || !m_editor->view()) {
+    if (!palette || !m_sprites || !m_editor->view()) {
         return {};
     }
-    const int row = int(palette->index());
-    QString text = tr("%n sprite(s) have palette %1.", nullptr,
-                      Zorv::paletteUses(*m_editor->palettes()).value(row))
-                       .arg(palette->property(QStringLiteral("Identifier")).toString());
+    if (!m_rows) {
+        m_rows = Zorv::paletteUses(*m_sprites->palettes());
+    }
+    QString text =
+        tr("%n sprite(s) have palette %1.", nullptr, m_rows->value(int(palette->index())))
+            .arg(palette->property(QStringLiteral("Identifier")).toString());
     if (const PaletteUses* uses = current()) {
         text += QLatin1Char('\n') + selectedNote(*uses);
     }
