@@ -482,6 +482,12 @@ void TestPaletteActs::dropsOntoACostume()
     QVERIFY(drop(colours.get(), place) && colors(1) == wanted);
     sprites()->undo();
     QCOMPARE(bytes(), first);
+    // Whoever drags waits for the end of the drop, and so does what is told.
+    palettes()->palette(1)->state.record = "not whole";
+    QVERIFY(drop(colours.get(), place) && colors(1) != wanted);
+    QCOMPARE(m->dialogs.count("error"), 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(m->dialogs.count("error"), 1);
 }
 
 /// Whatever kind of people: nothing of the file changes, and all is as before at the end.

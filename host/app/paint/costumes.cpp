@@ -120,7 +120,7 @@ bool Costumes::eventFilter(QObject* watched, QEvent* event)
 }
 
 /// One that has only come in is told about its places while it moves.
-bool Costumes::takeDrag(QDropEvent* event) const
+bool Costumes::takeDrag(QDropEvent* event)
 {
     const auto entries = Operations::PaletteEntries::fromMime(event->mimeData());
     const int index = m_panel->indexAt(event->pos());
@@ -131,16 +131,26 @@ bool Costumes::takeDrag(QDropEvent* event) const
         event->setDropAction(Qt::CopyAction);
     }
     if (isTaken && event->type() == QEvent::Drop) {
-        const Palette* palette = m_palettes[index];
-        auto* sprites = static_cast<Family::SpriteCollection*>(palette->owner()->sprites());
-        const QString title = tr("Drop colours");
-        const Operations::MediaResult result =
-            Operations::placeColors(sprites, int(palette->index()), entries, title);
-        if (!result.errors.isEmpty()) {
-            Zorv::Dialogs::instance()->error(title, result.errors.join(QLatin1Char('\n')));
-        }
+        takeColours(*m_palettes[index], entries);
     }
     return true;
+}
+
+/// Whoever drags waits until the drop is over, so what the person has to be told comes behind it.
+void Costumes::takeColours(const Palette& palette, const Operations::PaletteEntries& entries)
+{
+    auto* sprites = static_cast<Family::SpriteCollection*>(palette.owner()->sprites());
+    const QString title = tr("Drop colours");
+    const QStringList errors =
+        Operations::placeColors(sprites, int(palette.index()), entries, title).errors;
+    if (!errors.isEmpty()) {
+        QMetaObject::invokeMethod(
+            this,
+            [title, errors] {
+                Zorv::Dialogs::instance()->error(title, errors.join(QLatin1Char('\n')));
+            },
+            Qt::QueuedConnection);
+    }
 }
 
 }  // namespace App

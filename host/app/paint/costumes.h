@@ -5,6 +5,10 @@
 
 class QDropEvent;
 
+namespace Operations {
+struct PaletteEntries;
+}
+
 namespace Zorv {
 class Palette;
 class PalettePreviews;
@@ -37,7 +41,8 @@ public:
 private:
     void choose(int index);
     bool isShown(int index) const;
-    bool takeDrag(QDropEvent* event) const;
+    bool takeDrag(QDropEvent* event);
+    void takeColours(const Zorv::Palette& palette, const Operations::PaletteEntries& entries);
 
     Zorv::SpriteEditor* m_editor;
     Zorv::PalettePreviews* m_panel;
