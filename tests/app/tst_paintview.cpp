@@ -34,6 +34,7 @@ private slots:
     void showsCostumes();
     void ownCostumeIsAmongThem();
     void keepsSwitches();
+    void takesItsGroundFromTheSettings();
     void framesShineThrough();
     void pansByKeyAndMenu();
     void convertsInOneStep();
@@ -139,6 +140,25 @@ void TestPaintView::keepsSwitches()
     m->host.setOption(QStringLiteral("undo_megabytes"), 20);
     m->window->reconfig();
     QCOMPARE(canvas()->undoStack()->budget(), qint64(20) << 20);
+}
+
+void TestPaintView::takesItsGroundFromTheSettings()
+{
+    openFirst();
+    const QColor top(200, 10, 30);
+    const QColor bottom(10, 90, 240);
+    m->host.setOption(QStringLiteral("back_start"), top);
+    m->host.setOption(QStringLiteral("back_end"), bottom);
+    m->window->reconfig();
+    QCoreApplication::processEvents();
+    const QImage seen = static_cast<Zorv::RenderWidget*>(widget())->grabFramebuffer();
+    const auto isLike = [](const QColor& a, const QColor& b) {
+        return qAbs(a.red() - b.red()) + qAbs(a.green() - b.green()) + qAbs(a.blue() - b.blue()) <
+               8;
+    };
+    const int left = editor()->renderer()->zoomedRect().left() / 2;
+    QVERIFY(isLike(seen.pixelColor(left, 1), top));
+    QVERIFY(isLike(seen.pixelColor(left, seen.height() - 2), bottom));
 }
 
 /// The frame behind the one with the sprite is seen where the sprite is transparent.

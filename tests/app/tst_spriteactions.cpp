@@ -8,6 +8,7 @@
 #include "app/stage/stagecommands.h"
 #include "app/window/editorregistry.h"
 #include "family/assets/spritefile.h"
+#include "support/faultrows.h"
 #include "support/testtable.h"
 
 #include <zorv/core/dialogs/itemsdlg.h>
@@ -88,6 +89,9 @@ private slots:
     void changesTheImage();
     void outlivesTheDialogOfPalettes();
     void savesImages();
+    void failedSavesLoseNothing_data();
+    void failedSavesLoseNothing();
+    void keepsTheSwitchOfPalettes();
     void resizes_data();
     void resizes();
     void turns();
@@ -586,6 +590,56 @@ void TestSpriteActions::savesImages()
         });
         trigger("spr_saveimgas");
         QCOMPARE(QDir(m_folder->path()).entryList({"out%1_*.png"}).size(), 4);
+    }
+}
+
+void TestSpriteActions::failedSavesLoseNothing_data()
+{
+    columns<int, int>("call", "error");
+    faultRows();
+}
+
+/// Of all sprites one cannot be written. What was painted is in the sprite all the same.
+void TestSpriteActions::failedSavesLoseNothing()
+{
+    const auto [call, error] = fetched<int, int>();
+    const QString old = m_folder->filePath("out_0-2.png");
+    QVERIFY(writeFile(old, "mine"));
+    show(1);
+    paint();
+    const QImage painted = canvas()->mergeLayers(nullptr);
+    m->dialogs.fileAnswers = {{m_folder->filePath("out.png")}};
+    m->dialogs.buttonAnswers = {Dialogs::Yes};
+    inDialog<ItemsDlg>([call = call, error = error](ItemsDlg* dialog) {
+        dialog->findChild<QAbstractItemView*>()->selectAll();
+        faultArm("out_0-2", FaultCall(call), 1, error, call == FaultWrite);
+        dialog->accept();
+    });
+    trigger("spr_saveimgas");
+    faultArm("", FaultOpen, 0, 0, 0);
+    QString told;
+    for (const auto& each : qAsConst(m->dialogs.shown)) {
+        told += each.text;
+    }
+    QVERIFY2(told.contains(old) && told.contains(qt_error_string(error)), qPrintable(told));
+    QCOMPARE(readFile(old), QByteArray("mine"));
+    QCOMPARE(QDir(m_folder->path()).entryList({"out*"}, QDir::Files).size(), 4);
+    QVERIFY(!QImage(m_folder->filePath("out_1-0.png")).isNull());
+    QCOMPARE(sprites()->sprite(1)->image(), painted);
+}
+
+/// In the next window, too.
+void TestSpriteActions::keepsTheSwitchOfPalettes()
+{
+    for (const bool isOn : {false, true}) {
+        show(0);
+        trigger("spr_switch_pal");
+        m->window->close();
+        m.reset();
+        m = std::make_unique<WindowFixture>(m_folder->filePath(QStringLiteral("zorv.ini")));
+        m->open(*m_game, m_game->ryn(), m_game->animations());
+        QCOMPARE(m->action("spr_switch_pal")->isChecked(), isOn);
+        QCOMPARE(m->host.option(QStringLiteral("switch_to_imgpal")).toBool(), isOn);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "cache/paletteuses.h"
 #include "core/dialogs/itemsdialog.h"
+#include "core/fileinput.h"
 #include "core/filesystemarchive.h"
 #include "editors/palette/palettewidget.h"
 #include "editors/palette/remapdlg.h"
@@ -10,6 +11,8 @@
 #include "media/palettefile.h"
 #include "media/paletteobject.h"
 #include "operations/media/paletteedits.h"
+#include "support/faultrows.h"
+#include "support/folders.h"
 #include "support/planneddialogs.h"
 #include "support/testinterface.h"
 #include "support/testtable.h"
@@ -172,6 +175,26 @@ struct Desk
     QTemporaryDir folder;
     QPointer<SpriteFile> sprites = new SpriteFile;
     std::unique_ptr<Editor> editor;
+};
+
+/// A painted sprite that is not in the file yet.
+class Painting : public Zorv::FileInput
+{
+public:
+    explicit Painting(Zorv::Sprites* sprites) : m_sprites(sprites) {}
+    Zorv::ProjectFile* inputFile() const override { return m_sprites; }
+    bool takeInput(QString*) override
+    {
+        m_sprites->beginChange(QStringLiteral("Save"));
+        m_sprites->sprite(0)->setImage(m_sprites->sprite(0)->image().mirrored());
+        m_sprites->endChange();
+        m_sprites = nullptr;
+        return true;
+    }
+    void dropInput() override { m_sprites = nullptr; }
+
+private:
+    Zorv::Sprites* m_sprites;
 };
 
 /// Answers the list that opens next: all of its rows, or none of it.
@@ -427,6 +450,34 @@ private slots:
         QCOMPARE(m->dialogs.texts("error").value(0).count(all.last()), 1);
     }
 
+    void failedSavesLoseNothing_data()
+    {
+        columns<int, int>("call", "error");
+        faultRows();
+    }
+    /// Of all palettes one cannot be written.
+    void failedSavesLoseNothing()
+    {
+        const auto [call, error] = fetched<int, int>();
+        const QString old = m->folder.filePath("my_1-2.act");
+        QVERIFY(writeFile(old, "mine"));
+        m->dialogs.fileAnswers = {{m->folder.filePath("my.act")}};
+        m->dialogs.buttonAnswers = {Dialogs::Yes};
+        answerItems(true, [call = call, error = error] {
+            faultArm("my_1-2", FaultCall(call), 1, error, call == FaultWrite);
+        });
+        m->run("pal_save");
+        faultArm("", FaultOpen, 0, 0, 0);
+        const QString told = m->dialogs.texts("error").join('\n');
+        QVERIFY2(told.contains(old) && told.contains(qt_error_string(error)), qPrintable(told));
+        QCOMPARE(readFile(old), QByteArray("mine"));
+        QCOMPARE(QDir(m->folder.path()).entryList({"my*"}, QDir::Files).size(), PaletteCount);
+        RGBA colors[256];
+        QString problem;
+        QVERIFY(Zorv::loadPaletteFile(m->folder.filePath("my_1-3.act"), colors, &problem));
+        QCOMPARE(colors[77], someColors(3)[77]);
+    }
+
     void moves_data()
     {
         columns<int, bool, bool>("answer", "own", "others");
@@ -458,6 +509,33 @@ private slots:
         while (m->sprites->canUndo()) {
             m->run("pal_undo");
         }
+        QCOMPARE(m->save(), bytes);
+    }
+
+    void moveIsOneStep_data()
+    {
+        columns<int, QString>("cancelAfter", "title");
+        row("done", -1, QString("Move color"));
+        row("given up", 0, QString("Save"));
+    }
+    /// With what was painted. It does not promise what was given up: what was painted stays in the
+    /// file, for undone with the step it would be gone from sight.
+    void moveIsOneStep()
+    {
+        const auto [cancelAfter, title] = fetched<int, QString>();
+        const QByteArray bytes = m->save();
+        const QImage painted = m->sprites->sprite(0)->image().mirrored();
+        const Painting painting(m->sprites);
+        m->dialogs.choiceAnswers = {0};
+        m->host.cancelAfter = cancelAfter;
+        m->drag(40, 3);
+        const bool isMoved = cancelAfter < 0;
+        QCOMPARE(m->palettes()->palette(0)->state.colors[3], someColors(0)[isMoved ? 40 : 3]);
+        QCOMPARE(m->editor->view()->palette()->color(3), someColors(0)[isMoved ? 40 : 3]);
+        QCOMPARE(m->pictures().first(), painted.convertToFormat(QImage::Format_ARGB32));
+        QCOMPARE(m->sprites->undoTitle(), title);
+        m->sprites->undo();
+        QVERIFY(!m->sprites->canUndo());
         QCOMPARE(m->save(), bytes);
     }
 

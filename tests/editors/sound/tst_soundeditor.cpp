@@ -8,7 +8,7 @@
 #include "media/soundconversion.h"
 #include "media/soundedits.h"
 #include "media/wav.h"
-#include "support/faultshim.h"
+#include "support/faultrows.h"
 #include "support/folders.h"
 #include "support/planneddialogs.h"
 #include "support/plannedsound.h"
@@ -304,12 +304,7 @@ void TestSoundEditor::savesUnderNamesOfTheirOwn()
 void TestSoundEditor::failedSavesLoseNothing_data()
 {
     columns<int, int>("call", "error");
-    row("a folder that is not to be written", int(FaultOpen), EACCES);
-    row("a disk that is not to be written", int(FaultOpen), EROFS);
-    row("a full disk", int(FaultWrite), ENOSPC);
-    row("a disk with an error", int(FaultSync), EIO);
-    row("full at the end", int(FaultClose), ENOSPC);
-    row("a file that cannot be replaced", int(FaultRename), EACCES);
+    faultRows();
 }
 
 /// Of three sounds the second cannot be written; nor can the file of all of them.
