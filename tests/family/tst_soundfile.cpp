@@ -93,6 +93,7 @@ private slots:
     void randomOperations();
     void equalSamplesAreStoredOnce();
     void otherThreadsPackAndUnpack();
+    void savedInAStep();
     void brokenForms();
     void brokenRecords_data();
     void brokenRecords();
@@ -254,6 +255,24 @@ void TestSoundFile::otherThreadsPackAndUnpack()
     for (int i = 0; i < readers.size(); ++i) {
         QCOMPARE(std::async(std::launch::async, readers[i]).get(), contents[i]);
     }
+}
+
+// The person saves while a batch goes on: undo does not lead to what is on the disk.
+void TestSoundFile::savedInAStep()
+{
+    SoundFile file;
+    file.add(0, {}, soundOf("one"));
+    file.add(1, {}, soundOf("two"));
+    QVERIFY(file.toFile(disk(), path("step.sounds"), false));
+    file.beginChange("batch");
+    file.sound(0)->setSample(soundOf("half"), "half");
+    QVERIFY(file.toFile(disk(), path("step.sounds"), false));
+    file.sound(1)->setSample(soundOf("whole"), "whole");
+    file.endChange();
+    QVERIFY(file.isModified());
+    file.undo();
+    QVERIFY(file.isModified());
+    QVERIFY(file.toFile(disk(), path("step.sounds"), false) && !file.isModified());
 }
 
 void TestSoundFile::brokenForms()

@@ -102,10 +102,11 @@ public:
     QString undoTitle() const;
     QString redoTitle() const;
 
-    /// The state that was saved: `isClean()` is true in it, however it is reached. `setDirty()` is
+    /// The state that was saved: `isClean()` is true in it, however it is reached. What was saved
+    /// in the middle of a step is no state that undo leads to: then none is clean. `setDirty()` is
     /// for a content that is in no file.
     bool isClean() const { return m_done == m_clean && m_open.changes.empty(); }
-    void setClean() { m_clean = m_done; }
+    void setClean() { m_clean = m_open.changes.empty() ? m_done : -1; }
     void setDirty() { m_clean = -1; }
 
     /// True if `isClean()` is another one than when this was asked last.
