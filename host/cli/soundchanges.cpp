@@ -164,7 +164,9 @@ bool measure(const QString& file, const Invocation& invocation, JsonList* list, 
         if (!sound) {
             return [sample] { return Operations::loudnessOf(sample); };
         }
-        static_cast<Zorv::SampleInfo&>(sample) = sound->sampleInfo();
+        if (sound->fault().isEmpty()) {
+            static_cast<Zorv::SampleInfo&>(sample) = sound->sampleInfo();
+        }
         return [sample, reader = sound->sampleReader()]() mutable {
             sample.data = reader();
             return Operations::loudnessOf(sample);

@@ -106,6 +106,9 @@ void TestSoundEdits::measures_data()
     row("3 frames a second", odd, int(SoundLoudness::Unmeasured), 0.0);
     odd.channels = 0;
     row("no channels", odd, int(SoundLoudness::Unmeasured), 0.0);
+    odd = sine({{1, -23}}, 2);
+    odd.data.clear();
+    row("broken", odd, int(SoundLoudness::Unmeasured), 0.0);
 }
 
 void TestSoundEdits::measures()

@@ -119,9 +119,10 @@ std::function<Editing::Made()> Editing::work(int index, const SoundEdit& edit) c
     const FamilySound* sound = m_sounds->sound(m_rows[index]);
     SoundSample sample;
     static_cast<SampleInfo&>(sample) = sound->sampleInfo();
-    return [sample, edit, reader = sound->sampleReader(), packer = m_sounds->packer()]() mutable {
+    return [sample, edit, isBroken = !sound->fault().isEmpty(), reader = sound->sampleReader(),
+            packer = m_sounds->packer()]() mutable {
         sample.data = reader();
-        if (sample.data.isEmpty() && sample.frames > 0) {
+        if (isBroken || (sample.data.isEmpty() && sample.frames > 0)) {
             return Made{faultOf(Text::tr("it is broken")), {}};
         }
         Made made{edit(sample), {}};

@@ -72,7 +72,8 @@ double truePeakOf(ebur128_state* state, int channels)
 SoundLoudness loudnessOf(const Zorv::SoundSample& sound)
 {
     SoundLoudness loudness;
-    const bool isKnown = sound.bits >= 8 && sound.bits <= 32 && sound.bits % 8 == 0;
+    const bool isBroken = sound.frames > 0 && sound.data.isEmpty();
+    const bool isKnown = !isBroken && sound.bits >= 8 && sound.bits <= 32 && sound.bits % 8 == 0;
     const int frames = Zorv::wholeSound(sound).count;
     const std::unique_ptr<ebur128_state, Closer> state(
         isKnown && sound.sampleRate > 0 && sound.channels > 0

@@ -13,8 +13,8 @@ struct SoundLoudness
         Measured,
         TooShort,   ///< less than the 0.4 seconds that a loudness is measured over
         Silent,     ///< below -70 LUFS all the time
-        Unmeasured  ///< the samples are not of 8, 16, 24 or 32 bits, or of less than 16 frames a
-                    ///< second
+        Unmeasured  ///< the samples are broken, not of 8, 16, 24 or 32 bits, or of less than 16
+                    ///< frames a second
     };
 
     Outcome outcome = Unmeasured;
