@@ -20,17 +20,23 @@ constexpr int MostStrips = 256;     // more are thinner than a pixel
 constexpr double LevelTime = 0.05;  // seconds
 constexpr double SelectedPart = 0.35;
 
+/// Samples of 20 bits are the upper ones of 24.
+qint64 levelsOf(int bits)
+{
+    return Q_INT64_C(1) << (bits == 20 ? 24 : bits);
+}
+
 /// The least and the greatest number of so many bits.
 bool isClipped(const WavePyramid::Extremes& found, int bits)
 {
-    const qint64 most = (Q_INT64_C(1) << (bits - 1)) - 1;
+    const qint64 most = levelsOf(bits) / 2 - 1;
     return found.greatest >= most || found.least <= -most - 1;
 }
 
 /// -0.5 to 0.5.
 double heightOf(qint32 value, int bits)
 {
-    return value / double(Q_INT64_C(1) << (bits == 20 ? 24 : bits));
+    return value / double(levelsOf(bits));
 }
 
 }  // namespace
@@ -89,22 +95,28 @@ void AudioSampleWidgetPrivate::paintSelection(QPainter* painter) const
 void AudioSampleWidgetPrivate::paintChannel(QPainter* painter, int channel, int left, int right)
 {
     const double centre = channelHeight / 2 + channel * channelHeight;
-    const int count = pixelsPerFrame >= 1 ? framePoints(channel, centre, left, right)
+    const int count = pixelsPerFrame >= 1 ? framePoints(painter, channel, centre, left, right)
                                           : pixelPoints(painter, channel, centre, left, right);
     painter->drawPolyline(points.constData(), count);
 }
 
 /// A point for each frame, and one beyond each edge.
-int AudioSampleWidgetPrivate::framePoints(int channel, double centre, int left, int right)
+int AudioSampleWidgetPrivate::framePoints(QPainter* painter, int channel, double centre, int left,
+                                          int right)
 {
+    const double markWidth = qBound(1.0, pixelsPerFrame, double(ClipHeight));
     const int shift = trueChannels ? 0 : channel;
     const int from = trueChannels ? channel : 0;
     int frame = qMax(int(firstFrame + left * framesPerPixel) - 1, 0);
     int count = 0;
     for (; frame + shift < frames && count < points.size(); ++frame) {
         const double x = xOf(frame);
-        const double height = heightOf(shape->value(frame + shift, from), sample.bits);
-        points[count++] = {x, centre + height * channelHeight / 2};
+        const qint32 value = shape->value(frame + shift, from);
+        points[count++] = {x, centre + heightOf(value, sample.bits) * channelHeight / 2};
+        if (isClipped({value, value}, sample.bits)) {
+            painter->fillRect(QRectF(x, centre - channelHeight / 2, markWidth, ClipHeight),
+                              clipColor);
+        }
         if (x > right) {
             break;
         }

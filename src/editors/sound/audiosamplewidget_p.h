@@ -38,7 +38,7 @@ public:
     void paint(QPainter* painter, const QRect& part);
     void paintSelection(QPainter* painter) const;
     void paintChannel(QPainter* painter, int channel, int left, int right);
-    int framePoints(int channel, double centre, int left, int right);
+    int framePoints(QPainter* painter, int channel, double centre, int left, int right);
     int pixelPoints(QPainter* painter, int channel, double centre, int left, int right);
     void paintLevels(QPainter* painter) const;
     void paintProblem(QPainter* painter) const;

@@ -69,6 +69,8 @@ private slots:
     void drawsWhatIsThere_data();
     void drawsWhatIsThere();
     void showsALoudFrameInAnHour();
+    void marksClippedFrames_data();
+    void marksClippedFrames();
     void selectsAndZooms();
 };
 
@@ -388,6 +390,34 @@ void TestAudioSampleWidget::showsALoudFrameInAnHour()
     QVERIFY(!hasWave(100) && !hasWave(300));
     shown.widget.showFrames(1234 * 8000, 200);
     QVERIFY(hasWave(77 * 2) && !hasWave(77 * 2 + 5));
+}
+
+void TestAudioSampleWidget::marksClippedFrames_data()
+{
+    columns<int, int, char, bool>("frames", "bits", "lower", "isMarked");
+    row("many in a pixel", 4000, 16, '\x7f', false);
+    row("many in a pixel, one at the end", 4000, 16, '\xff', true);
+    row("many pixels a frame", 40, 16, '\x7f', false);
+    row("many pixels a frame, one at the end", 40, 16, '\xff', true);
+    row("20 bits", 4000, 20, '\0', false);
+}
+
+/// One frame of those of 16 bits is 0x7f00 and a lower byte.
+void TestAudioSampleWidget::marksClippedFrames()
+{
+    const auto [frames, bits, lower, isMarked] = fetched<int, int, char, bool>();
+    SoundSample sound = soundOf(QByteArray(frames * bits / 4, '\x20'), 2, bits);
+    if (bits == 16) {
+        sound.data[frames * 2] = lower;
+        sound.data[frames * 2 + 1] = '\x7f';
+    }
+    Shown shown(sound);
+    const QImage image = shown.widget.grab().toImage();
+    int marks = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        marks += image.pixelColor(x, 1) == QColor(220, 40, 40);
+    }
+    QCOMPARE(marks > 0, isMarked);
 }
 
 void TestAudioSampleWidget::selectsAndZooms()
