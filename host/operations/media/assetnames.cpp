@@ -120,6 +120,7 @@ QVector<AssetId> newIds(const QStringList& files, const std::function<AssetId(As
     }
     for (const int i : qAsConst(nameless)) {
         give(i, first);
+        first = AssetId::fromKey(ids[i].key() + 1);  // all in front of it have gone
     }
     return ids;
 }
