@@ -15,8 +15,6 @@ namespace Zorv {
 namespace {
 
 const int IdSize = 4;
-const int ChunkSize = 64 * 1024;
-const int DataHeaderSize = 8;
 
 void readId(QDataStream& stream, char (&id)[IdSize])
 {
@@ -63,54 +61,6 @@ private:
     QIODevice* m_device;
     bool m_wasClosed;
     bool m_isOpen;
-};
-
-// The bytes of a device in pieces, so that those of a long sound are never all in memory.
-class ByteSearch
-{
-public:
-    ByteSearch(QIODevice* device, const QByteArray& head) : m_device(device), m_bytes(head) {}
-
-    // Moves to the first place of `text`, and gives its distance from the start; -1 without one.
-    qint64 find(const QByteArray& text)
-    {
-        int place = m_bytes.indexOf(text);
-        while (place < 0) {
-            drop(qMax(0, m_bytes.size() - text.size() + 1));
-            if (!fill()) {
-                return -1;
-            }
-            place = m_bytes.indexOf(text);
-        }
-        drop(place);
-        return m_start;
-    }
-
-    // Up to `size` bytes from there.
-    QByteArray take(int size)
-    {
-        while (m_bytes.size() < size && fill()) {
-        }
-        return m_bytes.left(size);
-    }
-
-private:
-    void drop(int size)
-    {
-        m_bytes.remove(0, size);
-        m_start += size;
-    }
-
-    bool fill()
-    {
-        const QByteArray more = m_device->read(ChunkSize);
-        m_bytes += more;
-        return !more.isEmpty();
-    }
-
-    QIODevice* m_device;
-    QByteArray m_bytes;
-    qint64 m_start = 0;
 };
 
 }  // namespace

@@ -40,6 +40,7 @@ public:
     }
 
     const WaveFormatHeader& format() const { return m_format; }
+    qint64 begin() const { return m_begin; }
     qint64 start() const { return m_start; }
 
     /// Bytes of samples that are there.
@@ -58,7 +59,31 @@ public:
         return m_declared < LeastOpenSize ? qMax<qint64>(0, m_declared - (m_end - m_start)) : 0;
     }
 
+    /// Frames that are found without a look at the chunks: behind the first "data", as far as the
+    /// size of the whole goes; without one behind the form.
+    qint32 reached()
+    {
+        const qint64 body = qMin<qint64>(m_riff.size, m_end - m_begin - RiffSize);
+        const QByteArray head = bytesAt(0, qMin<qint64>(body, ChunkHead + FormatSize));
+        const auto format = parseWaveHeader<WaveFormatHeader>(head);
+        if (held() == 0 || std::memcmp(format.id, "fmt", 3) != 0 || format.formatTag != PCMTag) {
+            return 0;
+        }
+        const qint64 found = ByteSearch(m_device, head).find("data");
+        const qint64 at = found > 0 && found + 4 <= body ? found : ChunkHead + FormatSize;
+        const auto data =
+            parseWaveHeader<WaveDataHeader>(bytesAt(at, qBound<qint64>(0, body - at, ChunkHead)));
+        const qint64 bytes = qBound<qint64>(0, body - at - ChunkHead, data.size);
+        return waveSampleInfo(format, quint32(bytes)).frames;
+    }
+
 private:
+    QByteArray bytesAt(qint64 place, qint64 size)
+    {
+        const bool isThere = m_device->seek(m_begin + RiffSize + place);
+        return isThere ? m_device->read(size) : QByteArray();
+    }
+
     void walk()
     {
         qint64 at = m_begin + RiffSize;
@@ -91,7 +116,7 @@ private:
 WaveContents waveContents(QIODevice* device)
 {
     const SizedDevice sized(device);
-    const WaveChunks chunks(sized.get());
+    WaveChunks chunks(sized.get());
     WaveContents contents;
     contents.formatTag = chunks.format().formatTag;
     if (contents.formatTag != 0) {
@@ -99,6 +124,8 @@ WaveContents waveContents(QIODevice* device)
         const quint32 missing = quint32(chunks.missing());
         contents.info = waveSampleInfo(chunks.format(), held);
         contents.missing = waveSampleInfo(chunks.format(), missing).frames;
+        contents.reached = chunks.reached();
+        sized.get()->seek(chunks.begin());
     }
     return contents;
 }

@@ -14,6 +14,7 @@ struct WaveContents
 {
     quint16 formatTag = 0;  ///< 1 for PCM, 65534 for the extensible form; 0 for no WAV file
     SampleInfo info;        ///< of all samples that are there; of meaning for PCM
+    qint32 reached = 0;     ///< frames that `soundFromWAV()` gives, if `info` has any
     qint64 missing = 0;     ///< frames that the file declares and lacks, as it is cut short
 };
 

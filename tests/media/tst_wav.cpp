@@ -298,6 +298,7 @@ void TestWAV::wholeWhateverTheSizes()
             QCOMPARE(wholeSound(wrong).data, isEmpty ? QByteArray() : samples);
             QCOMPARE(contents(wrong).info.frames, isEmpty ? 0 : 200);
             QCOMPARE(contents(wrong).missing, 0);
+            QCOMPARE(contents(wrong).reached, isEmpty ? 0 : read(wrong).frames);
         }
     }
     QCOMPARE(contents(bytes.left(bytes.size() - 400)).missing, 100);
