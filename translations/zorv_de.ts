@@ -5254,8 +5254,8 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>&apos;%1&apos; lässt sich nicht schreiben: Klänge werden als .wav geschrieben.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has a form that a sound file cannot hold. Expected 1 to 8 channels of 8, 16, 24 or 32 bits.</source>
-        <translation>&apos;%1&apos; hat eine Form, die eine Klangdatei nicht aufnimmt. Erwartet: 1 bis 8 Kanäle mit 8, 16, 24 oder 32 Bit.</translation>
+        <source>&apos;%1&apos; has a form that a sound file cannot hold. Expected 1 to 8 channels of 8, 16, 24 or 32 bits, and 1 to 384000 frames a second.</source>
+        <translation>&apos;%1&apos; hat eine Form, die eine Klangdatei nicht aufnimmt. Erwartet: 1 bis 8 Kanäle mit 8, 16, 24 oder 32 Bit und 1 bis 384000 Frames je Sekunde.</translation>
     </message>
     <message>
         <source>Cannot open &apos;%1&apos;: %2. Check that the file is there and may be read.</source>

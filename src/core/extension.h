@@ -14,9 +14,9 @@ struct SoundSample;
 /// A format that a host adds to the library; registered with `ExtensionManager`.
 ///
 /// An extension has one type and overrides the one operation of that type; the
-/// others give false. Devices are open and stay the caller's. Image loaders are
-/// called from several threads at once and must not share state; all others are
-/// called from the main thread.
+/// others give false. Devices are open and stay the caller's. Image and sound
+/// loaders are called from several threads at once and must not share state; all
+/// others are called from the main thread.
 class ZORV_EXPORT Extension
 {
 public:

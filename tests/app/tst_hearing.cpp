@@ -10,8 +10,10 @@
 #include <zorv/editors/framework/rowlist.h>
 #include <zorv/editors/sound/audiosamplewidget.h>
 #include <zorv/editors/sound/soundeditor.h>
+#include <zorv/media/wav.h>
 
 #include <QAction>
+#include <QBuffer>
 #include <QDockWidget>
 #include <QListWidget>
 
@@ -23,6 +25,7 @@ class TestHearing : public QObject
 private slots:
     void showsPlaysAndChangesSounds();
     void goesBetweenMovesAndSounds();
+    void tellsWhatFilesLack();
 };
 
 void TestHearing::showsPlaysAndChangesSounds()
@@ -120,6 +123,36 @@ void TestHearing::goesBetweenMovesAndSounds()
     m.dialogs.choiceAnswers = {1};
     m.action("close_folder")->trigger();
     QTRY_COMPARE(uses(), QStringList());
+}
+
+/// One is cut short, one of a form that cannot be stored.
+void TestHearing::tellsWhatFilesLack()
+{
+    PlannedSound devices;
+    const TemporaryGame game;
+    game.addAssets();
+    WindowFixture m;
+    m.open(game, game.ryn());
+    App::SoundPanel* panel = m.window->soundPanel();
+    QTRY_VERIFY(panel->sounds());
+    const auto wav = [](const Zorv::SoundSample& sample) {
+        QBuffer buffer;
+        Zorv::soundToWAV(sample, &buffer);
+        return buffer.data();
+    };
+    game.write("cut.wav", wav(soundOf(QByteArray(800, 'x'))).chopped(400));
+    game.write("wide.wav", wav(soundOf(QByteArray(180, 'x'), 9)));
+    const QStringList files{game.path("cut.wav"), game.path("wide.wav")};
+    m.dialogs.fileAnswers = {files, files.mid(0, 1)};
+    m.action("snd_add")->trigger();
+    QCOMPARE(panel->sounds()->count(), 1U);
+    m.action("snd_open_sample")->trigger();
+    QCOMPARE(panel->sounds()->sound(0)->sampleData(), QByteArray(400, 'x'));
+    const QStringList told = m.dialogs.texts("warning");
+    QCOMPARE(told.size(), 2);
+    QVERIFY2(told[0].contains("of 400 frames it has 200") && told[0].contains("1 to 8 channels"),
+             qPrintable(told[0]));
+    QVERIFY2(told[1].contains("of 400 frames it has 200"), qPrintable(told[1]));
 }
 
 QTEST_MAIN(TestHearing)

@@ -51,17 +51,20 @@ bool FamilySoundEditor::mayReadSounds(const QStringList& fileNames)
     return answer == Dialogs::Yes || answer == Dialogs::No;
 }
 
-/// What extensions read is read; for the rest the family knows why it does not go.
-Zorv::SoundSample FamilySoundEditor::readSound(const QString& fileName, QString* reason)
+/// What the person was asked about is not told once more.
+Zorv::SoundEditor::SoundReader FamilySoundEditor::soundReader(const QString& fileName)
 {
-    Zorv::SoundSample sample;
-    if (m_extent == SoundExtent::AsTold) {
-        sample = SoundEditor::readSound(fileName, reason);
-    }
-    if (sample.data.isEmpty()) {
-        *reason = Operations::readSound(fileName, m_extent, &sample).error;
-    }
-    return sample;
+    return [fileName, extent = m_extent](QString* reason) {
+        Zorv::SoundSample sample;
+        const Operations::Outcome outcome = Operations::readSound(fileName, extent, &sample);
+        const QString unfit =
+            sample.frames > 0 ? Operations::unfitText(fileName, sample) : QString();
+        *reason = !outcome.error.isEmpty() ? outcome.error
+                  : !unfit.isEmpty()       ? unfit
+                  : outcome.isPart         ? QString()
+                                           : outcome.warning;
+        return sample;
+    };
 }
 
 }  // namespace App

@@ -29,7 +29,7 @@ signals:
 protected:
     bool mayDeleteSound() override;
     bool mayReadSounds(const QStringList& fileNames) override;
-    Zorv::SoundSample readSound(const QString& fileName, QString* reason) override;
+    SoundReader soundReader(const QString& fileName) override;
 
 private:
     RemovalCheck m_mayRemove;

@@ -1,6 +1,7 @@
 #include "operations/media/soundwork.h"
 
 #include "family/assets/soundfile.h"
+#include "family/assets/soundfiledata.h"
 #include "operations/media/assetnames.h"
 #include "operations/media/soundformats.h"
 
@@ -65,17 +66,14 @@ Outcome putSound(SoundFile* sounds, int row, const ImportTarget& target, const Q
                  SoundExtent extent)
 {
     Zorv::SoundSample sample;
-    const Outcome outcome = readSound(file, extent, &sample);
+    Outcome outcome = readSound(file, extent, &sample);
+    if (outcome.error.isEmpty()) {
+        outcome.error = unfitText(file, sample);
+    }
     if (!outcome.error.isEmpty()) {
         return outcome;
     }
-    FamilySound* sound =
-        sounds->add(row < 0 ? int(sounds->count()) : row, target.id.text(), sample);
-    if (!sound) {
-        return Text::tr("'%1' has a form that a sound file cannot hold. Expected 1 to 8 channels "
-                        "of 8, 16, 24 or 32 bits.")
-            .arg(file);
-    }
+    sounds->add(row < 0 ? int(sounds->count()) : row, target.id.text(), sample);
     if (row >= 0) {
         sounds->remove(unsigned(row + 1));
     }
@@ -159,10 +157,10 @@ Outcome readPlain(const QString& fileName, QIODevice* file, SoundExtent extent,
     Outcome outcome;
     if (sample->data.isEmpty()) {
         outcome.error = unreadText(fileName, contents);
-    } else if (contents.formatTag == PlainTag) {
+    } else {
         outcome.warning = partText(fileName, sample->frames, contents);
     }
-    outcome.isPart = contents.formatTag == PlainTag && sample->frames < contents.info.frames;
+    outcome.isPart = sample->frames < contents.info.frames;
     return outcome;
 }
 
@@ -197,31 +195,45 @@ Outcome readSound(const QString& fileName, SoundExtent extent, Zorv::SoundSample
             .arg(fileName, file.errorString());
     }
     const QByteArray format = Zorv::fileExtension(fileName);
-    if (isDecodedFormat(format)) {
-        return readDecoded(fileName, &file, sample);
-    }
-    if (format != "WAV") {
-        return Zorv::loadSound(&file, format.constData(), *sample) ? QString()
-                                                                   : unknownText(fileName);
-    }
     const Zorv::WaveContents contents = Zorv::waveContents(&file);
-    if (contents.formatTag != PlainTag && contents.formatTag != 0) {
-        const Outcome outcome = readDecoded(fileName, &file, sample);
-        return sample->data.isEmpty() ? unreadText(fileName, contents) : outcome;
+    const bool isPlain = contents.formatTag == PlainTag;
+    const bool isWave = format == "WAV" || contents.formatTag != 0;
+    if (isPlain || (isWave && contents.formatTag == 0)) {
+        const Outcome outcome = readPlain(fileName, &file, extent, contents, sample);
+        if (isPlain || !sample->data.isEmpty() || !file.seek(0)) {
+            return outcome;
+        }
     }
-    return readPlain(fileName, &file, extent, contents, sample);
+    if (isWave || isDecodedFormat(format)) {
+        const Outcome outcome = readDecoded(fileName, &file, sample);
+        return isWave && sample->data.isEmpty() ? unreadText(fileName, contents) : outcome;
+    }
+    return Zorv::loadSound(&file, format.constData(), *sample) ? QString() : unknownText(fileName);
+}
+
+QString unfitText(const QString& fileName, const Zorv::SampleInfo& info)
+{
+    Zorv::SampleInfo form = info;
+    form.frames = 1;
+    return Family::SoundFileData::isFine(form)
+               ? QString()
+               : Text::tr("'%1' has a form that a sound file cannot hold. Expected 1 to 8 channels "
+                          "of 8, 16, 24 or 32 bits, and 1 to 384000 frames a second.")
+                     .arg(fileName);
 }
 
 QString partialSounds(const QStringList& files)
 {
     QStringList texts;
-    for (const QString& file : files) {
-        Zorv::SoundSample sample;
-        const Outcome outcome = isDecodedFormat(Zorv::fileExtension(file))
-                                    ? Outcome()
-                                    : readSound(file, SoundExtent::AsTold, &sample);
-        if (outcome.isPart) {
-            texts.append(outcome.error.isEmpty() ? outcome.warning : outcome.error);
+    for (const QString& fileName : files) {
+        QFile file(fileName);
+        if (!file.open(QIODevice::ReadOnly)) {
+            continue;
+        }
+        const Zorv::WaveContents contents = Zorv::waveContents(&file);
+        if (contents.formatTag == PlainTag && contents.reached < contents.info.frames) {
+            texts.append(contents.reached > 0 ? partText(fileName, contents.reached, contents)
+                                              : unreadText(fileName, contents));
         }
     }
     return texts.mid(0, 12).join(QLatin1Char('\n'));

@@ -19,12 +19,15 @@ enum class SoundExtent {
     Whole,   ///< all that are there
 };
 
-/// Reads a sound file of the format of its suffix. What it holds beyond that, and what it lacks, is
-/// told. Main thread only.
+/// Reads a WAV file, whatever its name, or a sound file of the format of its suffix. What it holds
+/// beyond that, and what it lacks, is told. Any thread.
 Outcome readSound(const QString& fileName, SoundExtent extent, Zorv::SoundSample* sample);
 
+/// Why a sound file cannot hold a sound of that form; empty if it can.
+QString unfitText(const QString& fileName, const Zorv::SampleInfo& info);
+
 /// What of some files is not read as told, as a text for the person. Empty if they are read whole,
-/// or not at all.
+/// or not at all. Looks at no samples.
 QString partialSounds(const QStringList& files);
 
 /// Seconds that a sound takes; 0 if its rate is not known.

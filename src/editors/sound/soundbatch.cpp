@@ -17,35 +17,46 @@ namespace {
 
 constexpr int LookInterval = 30;  // milliseconds
 
-/// Not worth another thread.
-constexpr int FewBytes = 1 << 15;
+template <class Result>
+Result madeElsewhere(const std::function<Result()>& make)
+{
+    QEventLoop loop;
+    QFutureWatcher<Result> watcher;
+    QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
+    watcher.setFuture(QtConcurrent::run(make));
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return watcher.result();
+}
 
 }  // namespace
 
-ReadySample readySample(const Sounds* to, const SampleInfo& info,
-                        const std::function<QByteArray()>& reader)
+SoundSample readElsewhere(const std::function<SoundSample()>& reader)
 {
-    const auto make = [info, reader, packer = to->packer()] {
-        ReadySample ready;
-        static_cast<SampleInfo&>(ready.sample) = info;
-        ready.sample.data = reader();
+    return madeElsewhere<SoundSample>(reader);
+}
+
+ReadySample readySample(const Sounds* to, const std::function<SoundSample()>& reader)
+{
+    return madeElsewhere<ReadySample>([reader, packer = to->packer()] {
+        ReadySample ready{reader(), {}};
         // A list leaves out what stands behind the last whole frame, and would have to pack anew.
-        const int frame = frameBytesOf(info);
+        const int frame = frameBytesOf(ready.sample);
         ready.sample.data.chop(frame > 0 ? ready.sample.data.size() % frame : 0);
         if (packer) {
             ready.packed = packer(ready.sample.data);
         }
         return ready;
+    });
+}
+
+std::function<SoundSample()> readerOf(const Sound& sound)
+{
+    return [info = sound.sampleInfo(), reader = sound.sampleReader()] {
+        SoundSample sample;
+        static_cast<SampleInfo&>(sample) = info;
+        sample.data = reader();
+        return sample;
     };
-    if (qint64(info.frames) * frameBytesOf(info) < FewBytes) {
-        return make();
-    }
-    QEventLoop loop;
-    QFutureWatcher<ReadySample> watcher;
-    QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
-    watcher.setFuture(QtConcurrent::run(make));
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-    return watcher.result();
 }
 
 SoundBatch::SoundBatch(Sounds* sounds, const QVector<int>& rows, Work work)
@@ -113,25 +124,21 @@ void SoundBatch::start(int row)
     if (!sound) {
         return;
     }
-    SoundSample sample;
-    static_cast<SampleInfo&>(sample) = sound->sampleInfo();
     auto* watcher = new Watcher(this);
     connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, row] {
         m_ready.append({watcher, row});
         m_turn.start();
     });
     ++m_running;
-    watcher->setFuture(
-        QtConcurrent::run([work = m_work, sample, reader = sound->sampleReader(),
-                           packer = m_sounds->packer(), isCanceled = m_isCanceled]() mutable {
-            sample.data = reader();
-            Made made;
-            made.conversion = work(sample, isCanceled.get());
-            if (packer && made.conversion.outcome == SoundConversion::Done && !*isCanceled) {
-                made.packed = packer(made.conversion.sample.data);
-            }
-            return made;
-        }));
+    watcher->setFuture(QtConcurrent::run([work = m_work, reader = readerOf(*sound),
+                                          packer = m_sounds->packer(), isCanceled = m_isCanceled] {
+        Made made;
+        made.conversion = work(reader(), isCanceled.get());
+        if (packer && made.conversion.outcome == SoundConversion::Done && !*isCanceled) {
+            made.packed = packer(made.conversion.sample.data);
+        }
+        return made;
+    }));
 }
 
 void SoundBatch::putBack(const Made& made, int row)
@@ -153,9 +160,11 @@ void SoundBatch::putBack(const Made& made, int row)
     look();
 }
 
+/// What is in work has copies of all that it needs.
 void SoundBatch::cancel()
 {
     *m_isCanceled = true;
+    m_loop.quit();
 }
 
 void SoundBatch::look()

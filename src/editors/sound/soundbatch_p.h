@@ -18,6 +18,7 @@ class QFutureWatcher;
 namespace Zorv {
 
 class ProgressReporter;
+class Sound;
 class Sounds;
 
 /// A sound that another thread has unpacked, and packed for a collection.
@@ -27,16 +28,22 @@ struct ReadySample
     std::shared_ptr<const void> packed;  ///< see `Sounds::packer()`
 };
 
-/// Makes a sound ready to be stored at little cost, while the window is painted: what the person
-/// does waits. `reader` gives the samples, in another thread. Collections may go meanwhile.
-ReadySample readySample(const Sounds* to, const SampleInfo& info,
-                        const std::function<QByteArray()>& reader);
+/// Gives what a reader reads in another thread, while the window is painted: what the person does
+/// waits. Collections, and who calls this, may go meanwhile.
+SoundSample readElsewhere(const std::function<SoundSample()>& reader);
+
+/// The same, and makes it ready to be stored at little cost.
+ReadySample readySample(const Sounds* to, const std::function<SoundSample()>& reader);
+
+/// Unpacks a sound as it is now, in any thread, whatever becomes of it meanwhile.
+std::function<SoundSample()> readerOf(const Sound& sound);
 
 /// Work on the samples of several sounds, in the threads of the machine.
 ///
 /// There they are unpacked, worked on and packed again; the main thread puts them back, one sound a
 /// turn of the event loop. Only few are in work at a time. It ends early if the person gives up,
-/// the list changes otherwise, or goes: what has been put back by then stays.
+/// the list changes otherwise, or goes: what has been put back by then stays, and what is in work
+/// is not waited for.
 class SoundBatch final : public QObject
 {
     Q_OBJECT

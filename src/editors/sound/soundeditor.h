@@ -3,6 +3,7 @@
 #include "editors/framework/fileeditor.h"
 #include "zorv_export.h"
 
+#include <functional>
 #include <memory>
 
 namespace Zorv {
@@ -93,10 +94,14 @@ protected:
     /// Asked before the files that the person has chosen are read. False gives up. Here true.
     virtual bool mayReadSounds(const QStringList& fileNames);
 
-    /// Reads a file as a sound; one without frames if that does not go, and then `reason`, if a
-    /// text is put there, is told behind the host's. As it stands here this is `soundFromWAV()`,
-    /// and for what has no plain samples the extensions of the file's suffix.
-    virtual SoundSample readSound(const QString& fileName, QString* reason);
+    /// Reads a file in another thread, whatever becomes of the editor meanwhile. It gives a sound
+    /// without frames if that does not go; then `reason`, if a text is put there, is told behind
+    /// the host's. Beside a sound with frames it tells what is lost, or why no file can hold it.
+    using SoundReader = std::function<SoundSample(QString* reason)>;
+
+    /// How a file is read. As it stands here that is `soundFromWAV()`, and for what has no plain
+    /// samples the extensions of the file's suffix.
+    virtual SoundReader soundReader(const QString& fileName);
 
 signals:
     /// A sound is shown.

@@ -60,11 +60,10 @@ public:
     // soundeditorfiles.cpp
     QString folder() const;
     void rememberFolder(const QString& fileName) const;
-    SoundSample read(const QString& fileName, QString* reason) const;
     ReadySample readReady(const QString& fileName, QString* reason) const;
     void addFiles(const QStringList& files, const QList<QVariant>& ids);
+    void replaceBy(const ReadySample& ready, const QString& fileName, const QString& reason);
     void tellUnreadable(const QString& fileName, const QString& reason) const;
-    bool write(const Sound& sound, const QString& fileName, QStringList* unopened) const;
 
     // soundeditorwork.cpp
     using Work = std::function<SoundConversion(const SoundSample&, const std::atomic<bool>*)>;

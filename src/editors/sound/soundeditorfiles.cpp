@@ -14,6 +14,7 @@
 #include "media/wav.h"
 #include "text/zorvtranslator.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -79,6 +80,22 @@ QStringList namesFor(const QString& chosen, const QStringList& identifiers)
     return names;
 }
 
+/// A line each, of the first ones.
+QString shortList(const QStringList& lines)
+{
+    constexpr int MostLines = 10;
+    return lines.mid(0, MostLines).join(QLatin1Char('\n')) +
+           (lines.size() > MostLines ? QStringLiteral("\n...") : QString());
+}
+
+/// What was read, but not all, or not in a form that can be stored.
+void tellLosses(const QString& title, const QStringList& reasons)
+{
+    if (!reasons.isEmpty()) {
+        Dialogs::instance()->warning(title, shortList(reasons));
+    }
+}
+
 /// Files that stand there already are replaced only if the person says so.
 bool mayReplace(const QString& title, const QStringList& names)
 {
@@ -88,18 +105,39 @@ bool mayReplace(const QString& title, const QStringList& names)
             there.append(QFileInfo(name).fileName());
         }
     }
-    constexpr int MostNames = 10;
     if (there.isEmpty()) {
         return true;
     }
-    const QString list = there.mid(0, MostNames).join(QLatin1Char('\n')) +
-                         (there.size() > MostNames ? QStringLiteral("\n...") : QString());
     return Dialogs::instance()->question(
                title,
                SoundEditor::tr("%n file(s) of these names are there already. Replace them?",
                                nullptr, there.size()) +
-                   QLatin1String("\n\n") + list,
+                   QLatin1String("\n\n") + shortList(there),
                Dialogs::Yes | Dialogs::No, Dialogs::No) == Dialogs::Yes;
+}
+
+/// False if writing failed, which was told. A file that cannot be opened is only noted, and so is a
+/// broken sound: a file that is there keeps what it has.
+bool write(const SoundSample& sample, const QString& fileName, QStringList* unopened)
+{
+    if (sample.frames > 0 && sample.data.isEmpty()) {
+        unopened->append(
+            SoundEditor::tr("%1: the samples of this sound are broken.").arg(fileName));
+        return true;
+    }
+    Archive* archive = FileSystemArchive::instance();
+    QString error;
+    QIODevice* device = archive->openFile(fileName, QIODevice::WriteOnly, &error);
+    if (!device) {
+        unopened->append(QStringLiteral("%1: %2").arg(fileName, error));
+        return true;
+    }
+    soundToWAV(sample, device);
+    if (!archive->closeFile(device, &error)) {
+        Dialogs::instance()->error(textOf(SaveText), QStringLiteral("%1: %2").arg(fileName, error));
+        return false;
+    }
+    return true;
 }
 
 }  // namespace
@@ -126,41 +164,40 @@ void SoundEditorPrivate::rememberFolder(const QString& fileName) const
     sounds->setOption(QStringLiteral("snd_path"), QFileInfo(fileName).absolutePath(), true, false);
 }
 
-SoundSample SoundEditorPrivate::read(const QString& fileName, QString* reason) const
-{
-    SoundSample sample = editor->readSound(fileName, reason);
-    sample.frames = wholeFramesOf(sample, sample.data);
-    return sample;
-}
-
 /// Packed for the list; it may have gone behind this, and so may the editor.
 ReadySample SoundEditorPrivate::readReady(const QString& fileName, QString* reason) const
 {
-    const SoundSample sample = read(fileName, reason);
-    return readySample(sounds, sample, [data = sample.data] { return data; });
+    return readySample(sounds, [reader = editor->soundReader(fileName), reason] {
+        SoundSample sample = reader(reason);
+        sample.frames = wholeFramesOf(sample, sample.data);
+        return sample;
+    });
 }
 
 /// What is no WAV of plain samples is left to the extensions.
-SoundSample SoundEditor::readSound(const QString& fileName, QString*)
+SoundEditor::SoundReader SoundEditor::soundReader(const QString& fileName)
 {
-    Archive* archive = FileSystemArchive::instance();
-    SoundSample sample;
-    if (QIODevice* device = archive->openFile(fileName, QIODevice::ReadOnly)) {
-        sample = soundFromWAV(device);
-        if (wholeFramesOf(sample, sample.data) == 0 && device->seek(0)) {
+    QVector<Extension*> loaders;
+    for (Extension* loader : qAsConst(ExtensionManager::list(Extension::SoundLoader))) {
+        if (loader->name() == fileExtension(fileName)) {
+            loaders.append(loader);
+        }
+    }
+    return [fileName, loaders](QString*) {
+        QFile file(fileName);
+        if (!file.open(QIODevice::ReadOnly)) {
+            return SoundSample();
+        }
+        SoundSample sample = soundFromWAV(&file);
+        for (Extension* loader : loaders) {
             SoundSample other;
-            const QByteArray format = fileExtension(fileName);
-            for (Extension* loader : qAsConst(ExtensionManager::list(Extension::SoundLoader))) {
-                if (loader->name() == format && device->seek(0) &&
-                    loader->loadSound(device, other)) {
-                    sample = other;
-                    break;
-                }
+            if (wholeFramesOf(sample, sample.data) == 0 && file.seek(0) &&
+                loader->loadSound(&file, other)) {
+                sample = other;
             }
         }
-        archive->closeFile(device);
-    }
-    return sample;
+        return sample;
+    };
 }
 
 void SoundEditorPrivate::tellUnreadable(const QString& fileName, const QString& reason) const
@@ -202,6 +239,7 @@ void SoundEditorPrivate::addFiles(const QStringList& files, const QList<QVariant
     const int first = to->count() == 0 ? 0 : current() + 1;
     int row = first;
     QVector<std::pair<QString, QString>> unreadable;
+    QStringList losses;
     ++inhibit;
     isBusy = true;
     if (files.size() > 1) {
@@ -214,9 +252,12 @@ void SoundEditorPrivate::addFiles(const QStringList& files, const QList<QVariant
         if (!self || !to || to != sounds) {
             break;
         }
-        if (ready.sample.frames > 0 && to->add(row, ids[i], ready.sample)) {
-            ++row;
-        } else {
+        const bool isRead = ready.sample.frames > 0;
+        const bool isAdded = isRead && to->add(row, ids[i], ready.sample);
+        row += isAdded ? 1 : 0;
+        if (isRead && !reason.isEmpty()) {
+            losses.append(reason);
+        } else if (!isAdded) {
             unreadable.append({files[i], reason});
         }
         if (!progress->step()) {
@@ -234,10 +275,13 @@ void SoundEditorPrivate::addFiles(const QStringList& files, const QList<QVariant
     isBusy = false;
     if (to && to == sounds) {
         sounds->setCurrent(row > first ? row - 1 : current());
-        editor->soundCountChanged();
     }
+    editor->soundCountChanged();  // others may be there now
+    tellLosses(textOf(AddText), losses);
     for (const auto& file : qAsConst(unreadable)) {
-        tellUnreadable(file.first, file.second);
+        if (self) {
+            tellUnreadable(file.first, file.second);
+        }
     }
 }
 
@@ -298,50 +342,42 @@ void SoundEditorPrivate::openSnd()
     }
     QString reason;
     const QPointer<SoundEditorPrivate> self(this);
+    isBusy = true;
+    auto progress = std::make_unique<Progress>(textOf(OpenText), 1);
     const ReadySample ready = readReady(file, &reason);
-    if (!self || !to || to != sounds || sounds->sound(current()) != wanted) {
+    const bool isGivenUp = !progress->step();
+    progress.reset();
+    if (!self) {
         return;
     }
-    const SoundSample& sample = ready.sample;
-    Sound* const changed = sounds->sound(current());
-    if (sample.frames > 0) {
-        const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
-        changed->setSample(sample, sample.data);
-    }
-    if (sample.frames <= 0 || !isSameForm(changed->sampleInfo(), sample)) {
-        tellUnreadable(file, reason);
-    }
-    if (to && to == sounds) {
-        selPosChanged(current());
+    isBusy = false;
+    if (!isGivenUp && to && to == sounds && sounds->sound(current()) == wanted) {
+        replaceBy(ready, file, reason);
+    } else {
+        listChanged();  // was not heard meanwhile
     }
 }
 
-/// False if writing failed, which was told. A file that cannot be opened is only noted, and so is a
-/// broken sound: a file that is there keeps what it has.
-bool SoundEditorPrivate::write(const Sound& from, const QString& fileName,
-                               QStringList* unopened) const
+void SoundEditorPrivate::replaceBy(const ReadySample& ready, const QString& fileName,
+                                   const QString& reason)
 {
-    SoundSample sample;
-    static_cast<SampleInfo&>(sample) = from.sampleInfo();
-    sample.data = from.sampleData();
-    if (sample.frames > 0 && sample.data.isEmpty()) {
-        unopened->append(
-            SoundEditor::tr("%1: the samples of this sound are broken.").arg(fileName));
-        return true;
+    const QPointer<SoundEditorPrivate> self(this);
+    const QPointer<Sounds> to = sounds;
+    const SoundSample& sample = ready.sample;
+    Sound* const changed = sounds->sound(current());
+    const bool isRead = sample.frames > 0;
+    if (isRead) {
+        const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
+        changed->setSample(sample, sample.data);
     }
-    Archive* archive = FileSystemArchive::instance();
-    QString error;
-    QIODevice* device = archive->openFile(fileName, QIODevice::WriteOnly, &error);
-    if (!device) {
-        unopened->append(QStringLiteral("%1: %2").arg(fileName, error));
-        return true;
+    if (isRead && !reason.isEmpty()) {
+        tellLosses(textOf(OpenText), {reason});
+    } else if (!isRead || !isSameForm(changed->sampleInfo(), sample)) {
+        tellUnreadable(fileName, reason);
     }
-    soundToWAV(sample, device);
-    if (!archive->closeFile(device, &error)) {
-        Dialogs::instance()->error(textOf(SaveText), QStringLiteral("%1: %2").arg(fileName, error));
-        return false;
+    if (self && to && to == sounds) {
+        selPosChanged(current());
     }
-    return true;
 }
 
 void SoundEditorPrivate::saveSndAs()
@@ -379,21 +415,28 @@ void SoundEditorPrivate::saveSndAs()
     if ((!isOne && !mayReplace(title, names)) || !from || from != sounds) {
         return;
     }
+    const QPointer<SoundEditorPrivate> self(this);
     QStringList unopened;
+    isBusy = true;
     {
-        const QScopedValueRollback<bool> busy(isBusy, true);
         Progress progress(title, rows.size());
-        for (int i = 0; i < rows.size() && from && from == sounds; ++i) {
+        for (int i = 0; i < rows.size() && self && from && from == sounds; ++i) {
             // The file may have been read again behind a dialog.
             const Sound* each = from->sound(rows[i]);
             if (!each || each != chosenSounds[i]) {
                 unopened.append(
                     SoundEditor::tr("%1: the sound is not there any more.").arg(names[i]));
-            } else if (!write(*each, names[i], &unopened) || !progress.step()) {
+            } else if (!write(readElsewhere(readerOf(*each)), names[i], &unopened) ||
+                       !progress.step()) {
                 break;
             }
         }
     }
+    if (!self) {
+        return;
+    }
+    isBusy = false;
+    listChanged();  // was not heard meanwhile
     if (!unopened.isEmpty()) {
         emit editor->saveFailed(unopened.join(QLatin1Char('\n')));
     }

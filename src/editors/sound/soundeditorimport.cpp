@@ -1,8 +1,10 @@
 #include "cache/sound.h"
 #include "core/dialogs/dialogs.h"
 #include "core/interface.h"
+#include "core/progress.h"
 #include "core/project.h"
 #include "editors/sound/sndimportdlg.h"
+#include "editors/sound/soundbatch_p.h"
 #include "editors/sound/soundeditor_p.h"
 #include "text/zorvtranslator.h"
 
@@ -19,59 +21,112 @@ struct Imported
 {
     int added = 0;
     int replaced = 0;
-    int firstRow = -1;
+    int firstRow = 0;
     QVector<int> emptyRows;  // of the source
 };
 
-/// The identifier comes last: another property may change it.
-void copyProperties(const Sound& from, Sound* to, const QString& identifier)
+using Properties = QVector<QPair<QString, QVariant>>;
+
+const QString& identifierKey()
 {
-    const QString key = QStringLiteral("Identifier");
-    const QStringList names = from.propertyNames();
-    for (const QString& name : names) {
-        if (name != key) {
-            to->setProperty(name, from.property(name));
-        }
-    }
-    to->setProperty(key, identifier);
+    static const QString key = QStringLiteral("Identifier");
+    return key;
 }
 
-Imported import(Sounds* destination, const SndImportDlg::Info& choice)
+Properties propertiesOf(const Sound& from)
+{
+    Properties properties;
+    const QStringList names = from.propertyNames();
+    for (const QString& name : names) {
+        if (name != identifierKey()) {
+            properties.append({name, from.property(name)});
+        }
+    }
+    return properties;
+}
+
+/// What was unpacked becomes a sound of a list; null if it is of a form that cannot be there.
+Sound* store(Sounds* to, const ReadySample& ready, const ImportEntry& entry, int row, int there)
+{
+    Sound* sound = to->sound(there);
+    if (sound) {
+        sound->setSample(ready.sample, ready.sample.data);
+        return sound;
+    }
+    return to->add(row, entry.identifier, ready.sample);
+}
+
+/// Takes one sound over. Both lists may go while it is unpacked.
+void importEntry(const QPointer<Sounds>& to, const ImportEntry& entry, ImportConflict conflicts,
+                 int row, Imported* result)
+{
+    const int sourceRow = entry.source.row();
+    const auto* list = qobject_cast<const Sounds*>(entry.source.model());
+    const Sound* from = list ? list->sound(sourceRow) : nullptr;
+    if (!from) {
+        result->emptyRows.append(sourceRow);
+        return;
+    }
+    const Properties properties = propertiesOf(*from);
+    const ReadySample ready = readySample(to, readerOf(*from));
+    const int there = to ? to->find(0, entry.identifier) : -1;
+    const bool isEmpty = ready.sample.data.isEmpty();
+    if (!to || (!isEmpty && there >= 0 && conflicts == ImportConflict::Skip)) {
+        return;
+    }
+    Sound* sound = isEmpty ? nullptr : store(to, ready, entry, row, there);
+    if (!sound) {
+        result->emptyRows.append(sourceRow);
+        return;
+    }
+    ++(there >= 0 ? result->replaced : result->added);
+    for (const auto& property : properties) {
+        sound->setProperty(property.first, property.second);
+    }
+    // It comes last: another property may change it.
+    sound->setProperty(identifierKey(), entry.identifier);
+}
+
+/// As one step of undo. What is there when the person gives up stays.
+Imported import(const QPointer<Sounds>& to, const SndImportDlg::Info& choice, const QString& title)
 {
     Imported result;
-    int row = destination->count() == 0 ? 0 : destination->currentIndex + 1;
-    for (const ImportEntry& entry : choice.entries) {
-        const auto* list = qobject_cast<const Sounds*>(entry.source.model());
-        const Sound* from = list ? list->sound(entry.source.row()) : nullptr;
-        const QByteArray data = from ? from->sampleData() : QByteArray();
-        if (data.isEmpty()) {
-            result.emptyRows.append(entry.source.row());
-            continue;
-        }
-        const int there = destination->find(0, entry.identifier);
-        if (there >= 0 && choice.conflicts == ImportConflict::Skip) {
-            continue;
-        }
-        Sound* to = destination->sound(there);
-        if (to) {
-            to->setSample(from->sampleInfo(), data);
-            ++result.replaced;
-        } else {
-            SoundSample sample;
-            static_cast<SampleInfo&>(sample) = from->sampleInfo();
-            sample.data = data;
-            to = destination->add(row, {}, sample);
-            if (!to) {
-                result.emptyRows.append(entry.source.row());
-                continue;
+    result.firstRow = to->count() == 0 ? 0 : to->currentIndex + 1;
+    to->beginChange(title);
+    {
+        Progress progress(title, choice.entries.size());
+        for (const ImportEntry& entry : choice.entries) {
+            if (!to || !choice.source) {
+                break;
             }
-            result.firstRow = result.firstRow < 0 ? row : result.firstRow;
-            ++result.added;
-            ++row;
+            importEntry(to, entry, choice.conflicts, result.firstRow + result.added, &result);
+            if (!progress.step()) {
+                break;
+            }
         }
-        copyProperties(*from, to, entry.identifier);
+    }
+    if (to) {
+        to->endChange();
     }
     return result;
+}
+
+/// A box for each that did not come, and one for the others.
+void tellImported(const Interface* host, const Imported& result, const QString& name)
+{
+    for (const int row : qAsConst(result.emptyRows)) {
+        Dialogs::instance()->warning(
+            host->text(EmptyTitle),
+            host->text(EmptyText).arg(SoundEditor::tr("sound"), QString::number(row), name));
+    }
+    QString report = result.added > 0
+                         ? SoundEditor::tr("%n sound(s) were imported!", nullptr, result.added)
+                         : SoundEditor::tr("No sound imported!");
+    if (result.replaced > 0) {
+        report += QLatin1Char('\n') +
+                  SoundEditor::tr("%n sound(s) were replaced!", nullptr, result.replaced);
+    }
+    Dialogs::instance()->information(ZorvTranslator::instance()->trText(ReportTitle), report);
 }
 
 }  // namespace
@@ -88,31 +143,25 @@ void SoundEditorPrivate::projImport()
     if (!isAccepted || !choice.source || !to || to != sounds) {
         return;
     }
+    const QPointer<SoundEditorPrivate> self(this);
     const QString name = choice.source->title();
-    Imported result;
-    {
-        const QScopedValueRollback<int> guard(inhibit, inhibit + 1);
-        sounds->beginChange(SoundEditor::tr("Import sounds from project '%1'").arg(name));
-        result = import(sounds, choice);
-        sounds->endChange();
-        if (result.added > 0) {
-            sounds->setCurrent(result.firstRow);
-        }
+    ++inhibit;
+    isBusy = true;
+    const Imported result =
+        import(to, choice, SoundEditor::tr("Import sounds from project '%1'").arg(name));
+    if (!self) {
+        return;
     }
-    editor->soundCountChanged();
-    for (const int row : qAsConst(result.emptyRows)) {
-        Dialogs::instance()->warning(
-            host->text(EmptyTitle),
-            host->text(EmptyText).arg(SoundEditor::tr("sound"), QString::number(row), name));
+    --inhibit;
+    isBusy = false;
+    const bool isThere = to && to == sounds;
+    if (isThere) {
+        sounds->setCurrent(result.added > 0 ? result.firstRow : current());
     }
-    QString report = result.added > 0
-                         ? SoundEditor::tr("%n sound(s) were imported!", nullptr, result.added)
-                         : SoundEditor::tr("No sound imported!");
-    if (result.replaced > 0) {
-        report += QLatin1Char('\n') +
-                  SoundEditor::tr("%n sound(s) were replaced!", nullptr, result.replaced);
+    editor->soundCountChanged();  // others may be there now
+    if (isThere) {
+        tellImported(host, result, name);
     }
-    Dialogs::instance()->information(ZorvTranslator::instance()->trText(ReportTitle), report);
 }
 
 }  // namespace Zorv
