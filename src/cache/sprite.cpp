@@ -1,6 +1,7 @@
 #include "cache/sprite.h"
 
 #include "cache/pixelcopy.h"
+#include "cache/preparedimage.h"
 
 #include <QImage>
 
@@ -40,6 +41,11 @@ Sprite::~Sprite() = default;
 std::shared_ptr<PixelCopy> Sprite::copyPixels() const
 {
     return std::make_shared<ImageCopy>(*this);
+}
+
+void Sprite::setPrepared(const PreparedImage& prepared)
+{
+    setImage(prepared.image());
 }
 
 }  // namespace Zorv

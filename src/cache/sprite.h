@@ -14,6 +14,7 @@ namespace Zorv {
 
 class Palette;
 class PixelCopy;
+class PreparedImage;
 class Texture;
 
 /// One image of a sprite collection, with its hot spot and its palette.
@@ -44,6 +45,10 @@ public:
     /// Replaces the pixels by those of an image whose colour table equals the palette, or that has
     /// no colour table.
     virtual void setImage(const QImage& image) = 0;
+
+    /// The same as `setImage()` of the image, with what was worked out before. `prepared` is of the
+    /// preparer of this collection; any other is taken for its image alone.
+    virtual void setPrepared(const PreparedImage& prepared);
 
     /// Replaces pixels and palette. With `reversed` the order of the image's colours is reversed
     /// first; `mode` is a `PaletteMode`; `palette` is that of the choice, null for the sprite's

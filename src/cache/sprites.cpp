@@ -24,4 +24,9 @@ bool Sprites::canName(const QVariant&) const
     return true;
 }
 
+ImagePreparer Sprites::imagePreparer() const
+{
+    return [](const QImage& image) { return std::make_shared<const PreparedImage>(image); };
+}
+
 }  // namespace Zorv

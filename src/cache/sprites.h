@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cache/preparedimage.h"
 #include "core/cachedprojectfile.h"
 #include "core/organizableobject.h"
 
@@ -44,6 +45,10 @@ public:
 
     /// True if a sprite of the list could have an identifier. By default all can be.
     virtual bool canName(const QVariant& id) const;
+
+    /// What makes images ready for `Sprite::setPrepared()`, so that the dear part of adding many
+    /// can be done on other threads. By default it does nothing beforehand.
+    virtual ImagePreparer imagePreparer() const;
 
     /// Opens and closes one step of undo; the same for list and file.
     void beginChange(const QString& title) override = 0;

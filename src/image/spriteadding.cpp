@@ -65,9 +65,14 @@ void SpriteAdding::run(bool isCropped)
     const QString title = Text::tr("Add sprites");
     const int first = int(m_sprites->count());
     m_sprites->beginChange(title);
+    const ImagePreparer makeReady = m_sprites->imagePreparer();
     const auto prepare = [&](int i) -> std::function<ImageRead()> {
-        return [file = m_files.at(i), isCropped] {
-            return isCropped ? loadCroppedImage(file) : loadNonCroppedImage(file);
+        return [file = m_files.at(i), isCropped, makeReady] {
+            ImageRead read = isCropped ? loadCroppedImage(file) : loadNonCroppedImage(file);
+            if (!read.image.isNull()) {
+                read.prepared = makeReady(read.image);
+            }
+            return read;
         };
     };
     const bool isWhole = runJobs<ImageRead>(title, m_files.size(), prepare,
@@ -94,7 +99,7 @@ void SpriteAdding::add(int index, const ImageRead& read)
         sprite->setProperty(identifierKey(), m_identifiers.at(index));
     }
     const int paletteCount = m_sprites->palettes()->count();
-    sprite->setImage(read.image);
+    sprite->setPrepared(*read.prepared);
     if (sprite->size() == read.image.size()) {
         setTexts(sprite, read, paletteCount);
         sprite->reload();

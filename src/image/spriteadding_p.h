@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QImage>
+#include "cache/preparedimage.h"
+
 #include <QPoint>
 #include <QPointer>
 #include <QStringList>
@@ -18,6 +19,7 @@ struct ImageRead
     QImage image;
     QPoint corner;  ///< what was cut off in front of it
     QString error;
+    std::shared_ptr<const PreparedImage> prepared;  ///< the image, ready for a sprite
 };
 
 /// Reads an image file, and cuts off what does not show. Re-entrant.
@@ -26,8 +28,9 @@ ImageRead loadNonCroppedImage(const QString& fileName);
 
 /// Image files on their way into a collection, as one step of undo.
 ///
-/// Files are read and decoded on other threads; sprites are made in this one, in the order of the
-/// files. Events are processed meanwhile, but the collection does not go: it has an open change.
+/// Files are read, decoded and made ready for sprites on other threads; sprites are made in this
+/// one, in the order of the files. Events are processed meanwhile, but the collection does not go:
+/// it has an open change.
 class SpriteAdding
 {
 public:

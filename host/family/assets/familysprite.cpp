@@ -129,18 +129,35 @@ Zorv::Texture* FamilySprite::texture() const
 void FamilySprite::setImage(const QImage& image)
 {
     const QImage pixels = normalizedImage(image);
-    if (pixels.format() != QImage::Format_Indexed8) {
-        setPixels(pixels, nullptr);
+    setPixels(pixels, m_sprites->store()->add(pixels));
+}
+
+void FamilySprite::setPrepared(const Zorv::PreparedImage& prepared)
+{
+    if (const auto* packed = dynamic_cast<const PackedImage*>(&prepared)) {
+        setPixels(packed->image(), m_sprites->store()->add(*packed));
+    } else {
+        setImage(prepared.image());
+    }
+}
+
+/// `stored` has the pixels of the image; null if it cannot be a sprite.
+void FamilySprite::setPixels(const QImage& image, const PixelRef& stored)
+{
+    if (image.format() != QImage::Format_Indexed8) {
+        setPixels(stored, nullptr);
         return;
     }
-    const PaletteColors colors = colorsOfTable(pixels.colorTable());
-    const bool fits = pixels.colorCount() == 0 ||
+    const PaletteColors colors = colorsOfTable(image.colorTable());
+    const bool fits = image.colorCount() == 0 ||
                       (state.palette && colors == state.palette->state.colors) ||
                       (state.pixels && colors == colorsOfTable(shownColors()));
     if (fits) {
-        setPixels(pixels, state.palette);
-    } else {
-        setImage(pixels, false, ImagePalette, nullptr);
+        setPixels(stored, state.palette);
+    } else if (stored) {
+        PaletteList* palettes = m_sprites->palettes();
+        const AssetHistory::Step step(m_sprites->editHistory(), tr("Change sprite"));
+        setPixels(stored, palettes->share(palettes->ensure(colors)));
     }
 }
 
@@ -150,6 +167,7 @@ void FamilySprite::setImage(const QImage& image, bool reversed, int mode, Zorv::
     if (pixels.isNull()) {
         return;
     }
+    PixelStore* store = m_sprites->store();
     PaletteList* palettes = m_sprites->palettes();
     auto chosen = palettes->share(palette);
     if (!chosen) {
@@ -157,18 +175,22 @@ void FamilySprite::setImage(const QImage& image, bool reversed, int mode, Zorv::
     }
     const AssetHistory::Step step(m_sprites->editHistory(), tr("Change sprite"));
     if (chosen && mode == ForcePalette) {
-        setPixels(adapted(pixels, chosen->state.colors), chosen);
+        setPixels(store->add(adapted(pixels, chosen->state.colors)), chosen);
         return;
     }
     if (chosen && mode == ReplacePalette && pixels.format() != QImage::Format_Indexed8) {
         pixels = Zorv::ColorQuantizer::quantize(pixels, ColorCount);
     }
     if (pixels.format() != QImage::Format_Indexed8) {
-        setPixels(pixels, nullptr);
+        setPixels(store->add(pixels), nullptr);
         return;
     }
     if (reversed) {
         pixels = reversedOrder(pixels);
+    }
+    const PixelRef stored = store->add(pixels);
+    if (!stored) {
+        return;
     }
     const PaletteColors colors = colorsOfTable(pixels.colorTable());
     if (chosen && mode == ReplacePalette) {
@@ -176,14 +198,13 @@ void FamilySprite::setImage(const QImage& image, bool reversed, int mode, Zorv::
     } else {
         chosen = palettes->share(palettes->ensure(colors));
     }
-    setPixels(pixels, chosen);
+    setPixels(stored, chosen);
 }
 
-void FamilySprite::setPixels(const QImage& image, const std::shared_ptr<FamilyPalette>& palette)
+void FamilySprite::setPixels(const PixelRef& stored, const std::shared_ptr<FamilyPalette>& palette)
 {
-    const PixelRef pixels = m_sprites->store()->add(image);
-    if (pixels) {
-        setPixels(pixels, palette);
+    if (stored) {
+        putPixels(stored, palette);
     }
 }
 
@@ -193,11 +214,11 @@ bool FamilySprite::takePixels(const PackedPixels& packed, const QByteArray& rows
     if (!rows.isEmpty() && !pixels) {
         return false;
     }
-    setPixels(pixels, pixels && packed.format.bits == 32 ? nullptr : state.palette);
+    putPixels(pixels, pixels && packed.format.bits == 32 ? nullptr : state.palette);
     return true;
 }
 
-void FamilySprite::setPixels(const PixelRef& pixels, const std::shared_ptr<FamilyPalette>& palette)
+void FamilySprite::putPixels(const PixelRef& pixels, const std::shared_ptr<FamilyPalette>& palette)
 {
     if (pixels == state.pixels && palette == state.palette && state.record.isEmpty()) {
         return;

@@ -74,6 +74,7 @@ public:
     /// none, replaces the pixels alone. One with others counts as `ImagePalette`; one of true
     /// colour makes the sprite one.
     void setImage(const QImage& image) override;
+    void setPrepared(const Zorv::PreparedImage& prepared) override;
 
     /// With `reversed` colours and indices change places, 0 with 255, so that the picture looks as
     /// before. `ForcePalette` and `ReplacePalette` without any palette are `ImagePalette`; an image
@@ -117,8 +118,9 @@ public:
     int row = -1;  ///< in the list; -1 outside of it
 
 private:
-    void setPixels(const QImage& image, const std::shared_ptr<FamilyPalette>& palette);
-    void setPixels(const PixelRef& pixels, const std::shared_ptr<FamilyPalette>& palette);
+    void setPixels(const QImage& image, const PixelRef& stored);
+    void setPixels(const PixelRef& stored, const std::shared_ptr<FamilyPalette>& palette);
+    void putPixels(const PixelRef& pixels, const std::shared_ptr<FamilyPalette>& palette);
     void setId(AssetId id);
     void setCodec(PixelCodec codec);
 

@@ -42,6 +42,18 @@ quint64 decodedChecksum(quint64 pixelCrc, const PixelFormat& format)
     return Zorv::crc64(bytes, sizeof bytes);
 }
 
+bool fitsSprite(const QImage& image)
+{
+    return !image.isNull() && image.width() <= LargestSprite && image.height() <= LargestSprite &&
+           qint64(image.width()) * image.height() * (image.depth() / 8) <=
+               std::numeric_limits<int>::max() / 2;
+}
+
+PixelFormat unpackedForm(const QImage& image)
+{
+    return {image.size(), image.depth(), PixelCodec::None};
+}
+
 QByteArray decodedBytes(const PixelFormat& format, QByteArray rows)
 {
     if (!rows.isEmpty()) {
@@ -94,36 +106,41 @@ PixelRef PixelStore::adoptFile(const PixelFormat& format, const QString& fileNam
     return PixelRef(data);
 }
 
+PixelRef PixelStore::adopt(const PackedPixels& packed)
+{
+    return adopt(packed.format, packed.stream, packed.pixelCrc, packed.streamCrc);
+}
+
 PixelRef PixelStore::add(const QImage& image)
 {
-    if (image.isNull() || image.width() > LargestSprite || image.height() > LargestSprite ||
-        qint64(image.width()) * image.height() * (image.depth() / 8) >
-            std::numeric_limits<int>::max() / 2) {
+    if (!fitsSprite(image)) {
         return {};
     }
-    PixelFormat format{image.size(), image.depth(), PixelCodec::None};
+    const PixelFormat format = unpackedForm(image);
     const QByteArray rows = rowsOfImage(image);
-    const PixelRef same = known(format, rows);
-    if (same) {
-        return same;
-    }
-    QByteArray stream;
-    format.codec = smallestCodec(format, rows, &stream);
-    return adopt(format, stream, checksum(rows), checksum(stream));
+    const PixelRef same = known(format, rows, checksum(rows));
+    return same ? same : adopt(PackedPixels::pack(format, rows));
 }
 
 PixelRef PixelStore::add(const PackedPixels& packed, const QByteArray& rows)
 {
-    const PixelRef same = known(packed.format, rows);
-    return same ? same : adopt(packed.format, packed.stream, packed.pixelCrc, packed.streamCrc);
+    const PixelRef same = known(packed.format, rows, packed.pixelCrc);
+    return same ? same : adopt(packed);
 }
 
-PixelRef PixelStore::known(const PixelFormat& format, const QByteArray& rows) const
+PixelRef PixelStore::add(const PackedImage& image)
+{
+    return image.rows().isEmpty() ? PixelRef() : add(image.packed(), image.rows());
+}
+
+PixelRef PixelStore::known(const PixelFormat& format, const QByteArray& rows,
+                           quint64 pixelCrc) const
 {
     const QByteArray decoded = decodedBytes(format, rows);
+    const quint64 crc = decodedChecksum(pixelCrc, format);
     for (const Zorv::StreamCache* cache :
          {m_cache.get(), static_cast<Zorv::StreamCache*>(m_files.get())}) {
-        if (const auto* item = cache->find(decoded, nullptr)) {
+        if (const auto* item = cache->find(decoded, crc, {}, 0)) {
             auto* same = static_cast<PixelData*>(item->filterData);
             ++same->refCount;
             return PixelRef(same);
@@ -223,6 +240,14 @@ QByteArray PackedPixels::rows() const
     }
     const QByteArray pixels = unpackPixels(format, stream);
     return pixelCrc != 0 && checksum(pixels) != pixelCrc ? QByteArray() : pixels;
+}
+
+PackedImage::PackedImage(const QImage& image) : PreparedImage(normalizedImage(image))
+{
+    if (fitsSprite(this->image())) {
+        m_rows = rowsOfImage(this->image());
+        m_packed = PackedPixels::pack(unpackedForm(this->image()), m_rows);
+    }
 }
 
 }  // namespace Family

@@ -2,6 +2,8 @@
 
 #include "family/assets/pixeldata.h"
 
+#include <zorv/cache/preparedimage.h>
+
 #include <QCache>
 #include <QHash>
 #include <QObject>
@@ -15,6 +17,7 @@ class FileCache;
 namespace Family {
 
 class SpriteTextures;
+class PackedImage;
 struct PackedPixels;
 
 /// The pixels of a collection: their caches, the filters that pack and unpack them, and what was
@@ -49,6 +52,7 @@ public:
 
     /// The same for pixels that are packed already, `rows` being what they unpack to.
     PixelRef add(const PackedPixels& packed, const QByteArray& rows);
+    PixelRef add(const PackedImage& image);
 
     /// The same pixels in another codec; null if it would lose something.
     PixelRef recoded(PixelData* data, PixelCodec codec);
@@ -72,7 +76,8 @@ public:
 private:
     friend class PixelData;
     void unpack(unsigned char type, void* filterData, const QByteArray& source, QByteArray& target);
-    PixelRef known(const PixelFormat& format, const QByteArray& rows) const;
+    PixelRef known(const PixelFormat& format, const QByteArray& rows, quint64 pixelCrc) const;
+    PixelRef adopt(const PackedPixels& packed);
     void gone(PixelData* data);
 
     std::unique_ptr<Zorv::StreamCache> m_cache;
@@ -89,7 +94,8 @@ struct PackedPixels
     PackedPixels() = default;
     explicit PackedPixels(const PixelData& data);
 
-    /// Packs rows in the codec of the format, or in the smallest one if that one cannot hold them.
+    /// Packs rows in the codec of the format, or in the smallest one if that one cannot hold them
+    /// or is none.
     static PackedPixels pack(PixelFormat format, const QByteArray& rows);
 
     /// The unpacked rows; empty if there are none, or a checksum is wrong.
@@ -99,6 +105,21 @@ struct PackedPixels
     QByteArray stream;
     quint64 streamCrc = 0;
     quint64 pixelCrc = 0;
+};
+
+/// An image in the form of a sprite whose pixels are packed already, on any thread.
+class PackedImage final : public Zorv::PreparedImage
+{
+public:
+    explicit PackedImage(const QImage& image);
+
+    /// Nothing in both for an image without pixels, or larger than a sprite can be.
+    const QByteArray& rows() const { return m_rows; }
+    const PackedPixels& packed() const { return m_packed; }
+
+private:
+    QByteArray m_rows;
+    PackedPixels m_packed;
 };
 
 }  // namespace Family

@@ -185,6 +185,11 @@ FamilySprite* SpriteCollection::addSprite()
     return sprite.get();
 }
 
+Zorv::ImagePreparer SpriteCollection::imagePreparer() const
+{
+    return [](const QImage& image) { return std::make_shared<const PackedImage>(image); };
+}
+
 void SpriteCollection::removeSprite(int index)
 {
     if (item(index)) {

@@ -74,6 +74,9 @@ public:
     /// undo, until `refresh()`.
     FamilySprite* addSprite() override;
 
+    /// Packs pixels.
+    Zorv::ImagePreparer imagePreparer() const override;
+
     void beginChange(const QString& title) override;
     void endChange() override;
     void undo() override;
