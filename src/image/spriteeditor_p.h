@@ -144,6 +144,7 @@ public:
     void addFiles(const QStringList& files);
     void addCropped(const QStringList& files, bool isCropped);
     void setSpriteImage(QImage image, const QPoint& corner);
+    bool mayReplace();
     bool storeImage(const QImage& image, const QPoint& corner, const std::function<void()>& store);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -187,6 +188,7 @@ public:
     std::optional<bool> isKnownChanged;
     const Palette* ownPalette = nullptr;  // when its colours were loaded; it may be gone
     bool isOtherColors = false;           // the grid has some of no palette, to be looked at
+    bool isShowingOwn = false;            // the grid is about to have those of the picture
     bool hasToldHidden = false;
     std::deque<KeptCanvas> kept;  // the one that was seen last is the last
     int selGuard = 0;             // the code itself changes the position

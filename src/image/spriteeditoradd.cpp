@@ -13,6 +13,7 @@
 #include "image/spriteadding_p.h"
 #include "image/spriteeditor_p.h"
 #include "image/spritesave_p.h"
+#include "media/tools/cropimage.h"
 #include "text/zorvtranslator.h"
 
 #include <QDropEvent>
@@ -110,9 +111,6 @@ void SpriteEditorPrivate::openImg()
         return;
     }
     const std::function<bool()> isThere = stillThere();
-    if (!mayLeave() || !isThere()) {
-        return;
-    }
     const QString title = SpriteEditor::tr("Change image");
     const QString file =
         getOpenFileName(nullptr, title, imageFolder(sprites->project()), imageFilter());
@@ -127,9 +125,9 @@ void SpriteEditorPrivate::openImg()
     }
     if (ask(title, SpriteEditor::tr("Do you want to crop the image?"),
             Dialogs::Yes | Dialogs::No) == Dialogs::Yes) {
-        read = loadCroppedImage(file);
+        cropImage(read.image, &read.corner, 0);
     }
-    if (isThere() && !read.image.isNull()) {
+    if (isThere()) {
         setSpriteImage(read.image, read.corner);
     }
 }
@@ -150,20 +148,33 @@ void SpriteEditorPrivate::setSpriteImage(QImage image, const QPoint& corner)
         if (isSame) {
             image.setColorTable(table);
         }
-        storeImage(image, corner, [&] { sprite()->setImage(image); });
+        if (mayReplace()) {
+            storeImage(image, corner, [&] { sprite()->setImage(image); });
+        }
         return;
     }
     const std::function<bool()> isThere = stillThere();
     PalDlg dialog(host->mainWindow(), sprites->palettes(), palette ? int(palette->index()) : -1);
     // Rows of a list that was read anew are others.
     connect(sprites->palettes(), &QAbstractItemModel::modelReset, &dialog, &QDialog::reject);
-    if (dialog.exec() == QDialog::Accepted && isThere()) {
-        const PalDlg::Info info = dialog.getInfo();
+    if (dialog.exec() != QDialog::Accepted || !isThere()) {
+        return;
+    }
+    const PalDlg::Info info = dialog.getInfo();
+    const QPersistentModelIndex chosen = sprites->palettes()->index(info.row, 0);
+    if (mayReplace() && (chosen.isValid() || info.mode == Sprite::ImagePalette)) {
         storeImage(image, corner, [&] {
             sprite()->setImage(image, info.isReversed, info.mode,
-                               sprites->palettes()->palette(info.row));
+                               sprites->palettes()->palette(chosen.row()));
         });
     }
+}
+
+/// What is on the canvas is asked about last, when all that can be given up is chosen.
+bool SpriteEditorPrivate::mayReplace()
+{
+    const std::function<bool()> isThere = stillThere();
+    return mayLeave() && isThere();
 }
 
 /// The axis stays where it is in the picture when that was cropped. One step of undo.

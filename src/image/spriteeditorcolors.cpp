@@ -89,7 +89,10 @@ void SpriteEditorPrivate::showOwnColors()
     }
     RGBA entries[ColorCount];
     fillOwn(entries);
-    palettes->showColors(entries);
+    {
+        const QScopedValueRollback<bool> guard(isShowingOwn, true);
+        palettes->showColors(entries);
+    }
     colorsShown();
 }
 
@@ -111,6 +114,9 @@ void SpriteEditorPrivate::endPreview()
 /// There is always something to see a sprite in.
 void SpriteEditorPrivate::currentPaletteChanged()
 {
+    if (isShowingOwn) {
+        return;
+    }
     if (palettes->currentPalette()) {
         isOtherColors = false;
     } else if (!isOtherColors) {

@@ -35,6 +35,7 @@
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QRandomGenerator>
+#include <QSignalSpy>
 #include <QTimer>
 #include <QToolButton>
 
@@ -87,6 +88,8 @@ private slots:
     void takesDroppedFiles();
     void changesTheImage_data();
     void changesTheImage();
+    void asksLastWhenTheImageChanges_data();
+    void asksLastWhenTheImageChanges();
     void outlivesTheDialogOfPalettes();
     void savesImages();
     void failedSavesLoseNothing_data();
@@ -514,7 +517,61 @@ void TestSpriteActions::changesTheImage()
     QCOMPARE(stored.pixelColor(1, 1).rgba(),
              mode == 1 ? picture(3).pixel(1, 1) : image.pixel(1, 1));
     QCOMPARE(sprites()->sprite(0)->shownColors().at(1), mode == 2 ? colours[1] : Colours[1]);
+    if (other == 3) {  // its colours are worked out once when it is chosen
+        show(0);
+        QSignalSpy changes(editor(), &Zorv::SpriteEditor::colorsShown);
+        show(1);
+        QCOMPARE(changes.count(), 1);
+    }
     sprites()->undo();
+    QCOMPARE(written(), first);
+}
+
+void TestSpriteActions::asksLastWhenTheImageChanges_data()
+{
+    columns<QString, int, bool>("givenUp", "answer", "changes");
+    QTest::newRow("no file") << "file" << 1 << false;
+    QTest::newRow("broken file") << "broken" << 1 << false;
+    QTest::newRow("no palette") << "palette" << 1 << false;
+    QTest::newRow("cancelled") << "" << -1 << false;
+    QTest::newRow("saved") << "" << 0 << true;
+    QTest::newRow("discarded") << "" << 1 << true;
+}
+
+/// Work on the canvas is not discarded for a picture that does not come.
+void TestSpriteActions::asksLastWhenTheImageChanges()
+{
+    const auto [givenUp, answer, changes] = fetched<QString, int, bool>();
+    const QByteArray first = written();
+    QImage image = picture(3).copy(0, 0, 9, 9);
+    image.setColor(1, 0xffffff00);
+    show(1);
+    paint();
+    const QImage painted = canvas()->mergeLayers(nullptr);
+    m->dialogs.fileAnswers = {{file("new.png", image)}};
+    if (givenUp == "file") {
+        m->dialogs.fileAnswers = {QStringList()};
+    } else if (givenUp == "broken") {
+        writeFile(m_folder->filePath("new.png"), "no picture");
+    }
+    m->dialogs.choiceAnswers = {answer};
+    m->dialogs.buttonAnswers = {Dialogs::No};
+    const bool isAsked = givenUp.isEmpty();
+    inDialog<PalDlg>([isAsked](PalDlg* dialog) { isAsked ? dialog->accept() : dialog->reject(); });
+    trigger("spr_openimg");
+    m_watch.stop();
+    QCOMPARE(m->dialogs.count("choose"), isAsked ? 1 : 0);
+    QCOMPARE(sprites()->sprite(1)->size() == image.size(), changes);
+    QCOMPARE(editor()->isCanvasModified(), !changes);
+    if (!changes) {
+        QCOMPARE(canvas()->mergeLayers(nullptr), painted);
+    } else if (answer == 0) {
+        sprites()->undo();
+        QCOMPARE(sprites()->sprite(1)->image(), painted);
+    }
+    while (sprites()->canUndo()) {
+        sprites()->undo();
+    }
     QCOMPARE(written(), first);
 }
 
