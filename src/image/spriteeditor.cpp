@@ -100,7 +100,7 @@ void SpriteEditorPrivate::historyChanged()
 void SpriteEditorPrivate::updateEnabled()
 {
     const bool isThere = hasCanvas();
-    emit fileEnabled(sprites);
+    emit fileEnabled(inFront());
     emit spriteEnabled(sprite());
     emit enabled(isThere);
     emit enabled2(isThere && canvas()->activeLayer() &&
@@ -156,6 +156,7 @@ void SpriteEditor::activate()
 {
     FileEditor::activate();
     d->takeWaiting();
+    d->showPalettes();
     d->showFirst();
     d->lendList(true);
 }
@@ -167,6 +168,7 @@ void SpriteEditor::deactivate()
     d->lendList(false);
     FileEditor::deactivate();
     d->takeWaiting();
+    d->showPalettes();
 }
 
 void SpriteEditor::reconfig()
@@ -188,6 +190,7 @@ void SpriteEditor::setProject(Project* project)
     d->isWaiting = now != d->sprites;
     d->waiting = now;
     d->takeWaiting();
+    d->showPalettes();
 }
 
 void SpriteEditor::projectAboutToClose(Project* project)
@@ -203,7 +206,12 @@ void SpriteEditor::projectAboutToClose(Project* project)
 
 void SpriteEditor::navigateTo(const QString&, unsigned a, unsigned, unsigned)
 {
-    d->selPosChanged(int(qMin(a, unsigned(std::numeric_limits<int>::max()))));
+    const int index = int(qMin(a, unsigned(std::numeric_limits<int>::max())));
+    if (d->isWaiting) {
+        showSprite(d->waiting, index);
+    } else {
+        d->selPosChanged(index);
+    }
 }
 
 ProjectFile* SpriteEditor::file() const

@@ -70,7 +70,8 @@ public:
     void retranslate() override;
 
     /// Takes up the sprites of the project; null for none. While the canvas has changes it stays,
-    /// and they are taken up when it has none.
+    /// and they are taken up when it has none; the palettes of `paletteEditor()` are those of the
+    /// project meanwhile, unless this editor is in front.
     void setProject(Project* project) override;
 
     /// Lets go of its sprites, with what is on the canvas.
@@ -163,7 +164,7 @@ public:
     bool isPreviewing() const;
 
     /// Adds a sprite for each image file, as "spr_add" does with those that are chosen: behind the
-    /// others, as one step of undo, after a question whether what does not show is cut off. Files
+    /// others of the file that is seen, on the canvas or the stage, as one step of undo, after a question whether what does not show is cut off. Files
     /// are read on several threads, with progress; what could not be read is told at the end.
     void addFiles(const QStringList& files);
 
@@ -184,8 +185,9 @@ signals:
 
 protected:
     /// Gives an identifier for each of the image files that are about to be added, in their order;
-    /// with another number of them the collection numbers its new sprites. Here none.
-    virtual void newIdentifiers(const QStringList& files, QList<QVariant>* identifiers);
+    /// with another number of them `into`, which takes them, numbers its new sprites. Here none.
+    virtual void newIdentifiers(const Sprites& into, const QStringList& files,
+                                QList<QVariant>* identifiers);
 
     /// The places that show the sprite in work, a line each for the person, for its properties.
     /// False, as here, if they are not known.

@@ -92,6 +92,23 @@ public:
     Sprite* sprite() const;
     static QImage canvasForm(const QImage& image);
 
+    // spriteeditorfront.cpp
+    Sprites* inFront() const;
+    bool isAway() const;
+    void showPalettes();
+
+    /// The panel has the palettes of the canvas for as long as it lives.
+    class OwnPalettes
+    {
+    public:
+        explicit OwnPalettes(SpriteEditorPrivate* d);
+        ~OwnPalettes();
+
+    private:
+        Q_DISABLE_COPY(OwnPalettes)
+        SpriteEditorPrivate* m_d;
+    };
+
     // spriteeditorcolors.cpp
     void loadColors();
     void fillOwn(RGBA (&entries)[256]) const;
@@ -141,8 +158,8 @@ public:
     void lendList(bool isLent);
 
     // spriteeditoradd.cpp
-    void addFiles(const QStringList& files);
-    void addCropped(const QStringList& files, bool isCropped);
+    void addFiles(const QPointer<Sprites>& into, const QStringList& files);
+    void addCropped(const QPointer<Sprites>& into, const QStringList& files, bool isCropped);
     void setSpriteImage(QImage image, const QPoint& corner);
     bool mayReplace();
     bool storeImage(const QImage& image, const QPoint& corner, const std::function<void()>& store);

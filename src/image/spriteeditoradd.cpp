@@ -58,47 +58,44 @@ Dialogs::Button ask(const QString& title, const QString& text, Dialogs::Buttons 
 
 void SpriteEditorPrivate::add()
 {
-    const QPointer<Sprites> before = sprites;
-    if (!before) {
+    const QPointer<Sprites> into = inFront();
+    if (!into) {
         return;
     }
     const QStringList files = getOpenFileNames(nullptr, SpriteEditor::tr("Add sprites"),
-                                               imageFolder(before->project()), imageFilter());
-    if (files.isEmpty() || !before || before != sprites) {
+                                               imageFolder(into->project()), imageFilter());
+    if (files.isEmpty() || !into || into != inFront()) {
         return;
     }
-    keepImageFolder(before->project(), QFileInfo(files.first()).absolutePath());
-    addFiles(files);
+    keepImageFolder(into->project(), QFileInfo(files.first()).absolutePath());
+    addFiles(into, files);
 }
 
-void SpriteEditorPrivate::addFiles(const QStringList& files)
+void SpriteEditorPrivate::addFiles(const QPointer<Sprites>& into, const QStringList& files)
 {
-    const QPointer<Sprites> before = sprites;
-    if (files.isEmpty() || !before) {
+    if (files.isEmpty() || !into) {
         return;
     }
     const Dialogs::Button answer =
         ask(SpriteEditor::tr("Add sprites"),
             SpriteEditor::tr("Do you want to crop %n image(s)?", nullptr, files.size()),
             Dialogs::Yes | Dialogs::No | Dialogs::Cancel);
-    if (answer == Dialogs::Cancel || !before || before != sprites) {
-        return;
+    if (answer != Dialogs::Cancel && into && (into == sprites || into == waiting)) {
+        addCropped(into, files, answer == Dialogs::Yes);
     }
-    addCropped(files, answer == Dialogs::Yes);
 }
 
-void SpriteEditorPrivate::addCropped(const QStringList& files, bool isCropped)
+void SpriteEditorPrivate::addCropped(const QPointer<Sprites>& into, const QStringList& files,
+                                     bool isCropped)
 {
-    const QPointer<Sprites> target = sprites;
-    const unsigned count = target->count();
+    const unsigned count = into->count();
     QList<QVariant> identifiers;
-    editor->newIdentifiers(files, &identifiers);
-    SpriteAdding adding(target, files, identifiers);
+    editor->newIdentifiers(*into, files, &identifiers);
+    SpriteAdding adding(into, files, identifiers);
     adding.run(isCropped);
-    const bool isSame = target && target == sprites;
-    if (isSame && target->count() > count) {
+    if (into && (into == sprites || into == waiting) && into->count() > count) {
         host->activateEditor(editor);
-        selPosChanged(int(target->count()) - 1);
+        editor->showSprite(into, into ? int(into->count()) - 1 : -1);
     }
     if (!adding.errors().isEmpty()) {
         Dialogs::instance()->warning(host->text(LeftOutTitle), shortList(adding.errors()));
@@ -233,11 +230,11 @@ void SpriteEditorPrivate::saveImgAs()
     SpriteSave(before, rows, before->project(), {title, SpriteSave::LikeOneFile}).run();
 }
 
-void SpriteEditor::newIdentifiers(const QStringList&, QList<QVariant>*) {}
+void SpriteEditor::newIdentifiers(const Sprites&, const QStringList&, QList<QVariant>*) {}
 
 void SpriteEditor::addFiles(const QStringList& files)
 {
-    d->addFiles(files);
+    d->addFiles(d->inFront(), files);
 }
 
 void SpriteEditor::takeDropsOn(QWidget* widget)
@@ -246,7 +243,8 @@ void SpriteEditor::takeDropsOn(QWidget* widget)
     widget->installEventFilter(d.get());
 }
 
-/// Whoever drags waits until the drop is over, so the questions come behind it.
+/// Whoever drags waits until the drop is over, so the questions come behind it. The canvas takes
+/// what is for its file; lists show that of the project in front.
 bool SpriteEditorPrivate::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isDrop = event->type() == QEvent::Drop;
@@ -254,7 +252,9 @@ bool SpriteEditorPrivate::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     }
     auto* drop = static_cast<QDropEvent*>(event);
-    const QStringList files = sprites ? draggedImages(drop->mimeData()) : QStringList();
+    const bool isCanvas = watched == workspace->widget();
+    const QPointer<Sprites> into = isWaiting && !isCanvas ? waiting : sprites;
+    const QStringList files = into ? draggedImages(drop->mimeData()) : QStringList();
     if (files.isEmpty()) {
         return QObject::eventFilter(watched, event);
     }
@@ -262,7 +262,7 @@ bool SpriteEditorPrivate::eventFilter(QObject* watched, QEvent* event)
     drop->accept();
     if (isDrop) {
         QMetaObject::invokeMethod(
-            this, [this, files] { addFiles(files); }, Qt::QueuedConnection);
+            this, [this, into, files] { addFiles(into, files); }, Qt::QueuedConnection);
     }
     return true;
 }

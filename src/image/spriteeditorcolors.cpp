@@ -74,7 +74,7 @@ void SpriteEditorPrivate::showOwnColors()
 {
     const Sprite* now = sprite();
     isOtherColors = false;
-    if (!now) {
+    if (!now || isAway()) {
         return;
     }
     if (Palette* palette = now->palette()) {
@@ -99,7 +99,7 @@ void SpriteEditorPrivate::showOwnColors()
 bool SpriteEditorPrivate::isPreview() const
 {
     const Sprite* now = sprite();
-    return now && (isOtherColors || palettes->isPreviewing() ||
+    return now && (isOtherColors || isAway() || palettes->isPreviewing() ||
                    palettes->currentPalette() != now->palette());
 }
 
@@ -114,7 +114,7 @@ void SpriteEditorPrivate::endPreview()
 /// There is always something to see a sprite in.
 void SpriteEditorPrivate::currentPaletteChanged()
 {
-    if (isShowingOwn) {
+    if (isShowingOwn || isAway()) {
         return;
     }
     if (palettes->currentPalette()) {
@@ -134,6 +134,9 @@ void SpriteEditorPrivate::colorsShown()
 /// Behind the panel, which goes by rows, and rests while it is hidden.
 void SpriteEditorPrivate::palettesChanged(bool isStructure)
 {
+    if (isAway()) {
+        return;
+    }
     if (isStructure) {
         followPalette();
     } else if (!palettes->isActive() && palettes->currentPalette()) {
@@ -171,6 +174,9 @@ void SpriteEditor::previewColors(const QVector<QRgb>* colors)
 {
     if (!colors) {
         d->showOwnColors();
+        return;
+    }
+    if (d->isAway()) {
         return;
     }
     RGBA entries[ColorCount] = {};

@@ -196,6 +196,7 @@ void SpriteEditorPrivate::saveImg()
 
 bool SpriteEditorPrivate::putIntoSprite(QString* error)
 {
+    const OwnPalettes own(this);
     const QImage picture = flattened();
     const QImage before = loaded;
     {

@@ -13,6 +13,7 @@
 #include "support/testtable.h"
 
 #include <zorv/core/fileinput.h>
+#include <zorv/editors/palette/paletteeditor.h>
 #include <zorv/editors/palette/palettewidget.h>
 #include <zorv/image/canvas/imagecanvas.h>
 #include <zorv/image/canvas/imagelayer.h>
@@ -71,6 +72,7 @@ private slots:
     void isPutAside();
     void isSavedInItsOwnColours();
     void followsAMovedColour();
+    void leavesTheStageToAnotherProject();
     void hidingALayerIsWork_data();
     void hidingALayerIsWork();
     void fileComesBeforeSavedLayers();
@@ -297,6 +299,65 @@ void TestUnsavedCanvas::followsAMovedColour()
     QCOMPARE(shown().convertToFormat(QImage::Format_ARGB32), painted);
     QCOMPARE(sprites()->sprite(0)->image().convertToFormat(QImage::Format_ARGB32), painted);
     QCOMPARE(sprites()->sprite(0)->image().color(1), flipped().color(0));
+}
+
+/// Beside the stage of another project, sprites and palettes are those of that one.
+void TestUnsavedCanvas::leavesTheStageToAnotherProject()
+{
+    const QString other = m_game->path("characters/oda/oda.sprites");
+    {
+        Family::SpriteFile file;
+        QImage image = picture(2);
+        image.setColor(1, 0xffffff00);
+        QVERIFY(file.insertSprite(-1, {3, 0}, {}, image));
+        QVERIFY(file.toFile(*Zorv::FileSystemArchive::instance(), other, true));
+    }
+    m_game->write("characters/oda/oda.character",
+                  "[info]\r\nname = \"Oda\"\r\n[files]\r\nsprites = \"oda.sprites\"\r\n"
+                  "animations = \"oda.anim\"\r\n");
+    m_game->write("characters/oda/oda.anim", "animation 1 \"One\"\r\nframe 3,0 loop\r\n");
+    Family::SpriteCollection* own = sprites();
+    QVERIFY(m->window->openFile(m_game->oda()));
+    QVERIFY(m->window->openFile(m_game->path("characters/oda/oda.anim")));
+    trigger("editor_anim");
+    auto* others = sprites();
+    QVERIFY(others && others != own);
+    QCOMPARE(editor()->sprites(), static_cast<Zorv::Sprites*>(own));
+    auto* panel = editor()->paletteEditor();
+    QCOMPARE(panel->palettes(), static_cast<Zorv::Palettes*>(others->palettes()));
+
+    // What is saved meanwhile has its own colours.
+    QCOMPARE(own->palettes()->count(), 1);
+    QVERIFY(Zorv::FileInput::take(own));
+    QCOMPARE(own->sprite(0)->image(), flipped());
+    QCOMPARE(own->palettes()->count(), 1);
+    own->undo();
+    canvas()->flip(true, false);
+    QVERIFY(editor()->isCanvasModified());
+    QCOMPARE(panel->palettes(), static_cast<Zorv::Palettes*>(others->palettes()));
+
+    m->dialogs.shown.clear();
+    trigger("pal_clear");
+    QCOMPARE(m->dialogs.count("warning"), 1);
+    QVERIFY(own->palettes()->count() == 1 && others->palettes()->count() == 1);
+    QVERIFY(editor()->isActive());
+    QCOMPARE(panel->palettes(), static_cast<Zorv::Palettes*>(own->palettes()));
+    trigger("editor_anim");
+
+    const QString png = m_folder->filePath("new.png");
+    QVERIFY(picture(1).save(png));
+    for (const int answer : {Cancel, Discard}) {
+        m->dialogs.fileAnswers = {{png}};
+        m->dialogs.buttonAnswers = {Zorv::Dialogs::No};
+        m->dialogs.choiceAnswers = {answer};
+        trigger("editor_anim");
+        trigger("spr_add");
+        QCOMPARE(own->count(), 2U);
+        QCOMPARE(others->count(), answer == Cancel ? 2U : 3U);
+        QCOMPARE(editor()->sprites(), static_cast<Zorv::Sprites*>(answer == Cancel ? own : others));
+    }
+    QCOMPARE(editor()->spriteIndex(), 2);
+    QCOMPARE(panel->palettes(), static_cast<Zorv::Palettes*>(others->palettes()));
 }
 
 void TestUnsavedCanvas::hidingALayerIsWork_data()

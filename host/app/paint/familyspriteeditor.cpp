@@ -12,10 +12,11 @@ FamilySpriteEditor::FamilySpriteEditor(const WindowServices& services,
 {
 }
 
-void FamilySpriteEditor::newIdentifiers(const QStringList& files, QList<QVariant>* identifiers)
+void FamilySpriteEditor::newIdentifiers(const Zorv::Sprites& into, const QStringList& files,
+                                        QList<QVariant>* identifiers)
 {
-    const Family::SpriteCollection* all = collection();
-    const Family::FamilySprite* current = all->sprite(spriteIndex());
+    const auto* all = static_cast<const Family::SpriteCollection*>(&into);
+    const Family::FamilySprite* current = all->sprite(all->currentIndex);
     Family::AssetId first;
     first.group = current ? current->id().group : first.group;
     const auto free = [all](Family::AssetId from) { return all->freeId(from); };

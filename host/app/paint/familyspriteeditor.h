@@ -22,7 +22,8 @@ public:
                        QObject* parent = nullptr);
 
 protected:
-    void newIdentifiers(const QStringList& files, QList<QVariant>* identifiers) override;
+    void newIdentifiers(const Zorv::Sprites& into, const QStringList& files,
+                        QList<QVariant>* identifiers) override;
     bool spriteUses(QStringList* places) const override;
     bool mayDeleteSprite() override;
 

@@ -3,6 +3,7 @@
 #include "animation/animationeditor.h"
 #include "cache/palettes.h"
 #include "cache/sprites.h"
+#include "core/dialogs/dialogs.h"
 #include "core/interface.h"
 #include "core/project.h"
 #include "editors/framework/editor.h"
@@ -233,15 +234,24 @@ void PaletteEditorPrivate::palChanged(bool structure)
 }
 
 /// The sprite that comes into sight brings its own palette: the tool is for the one that was
-/// chosen.
-void PaletteEditorPrivate::bringForward()
+/// chosen. An editor that keeps work of another file brings that file's palettes, which are not
+/// meant.
+bool PaletteEditorPrivate::bringForward()
 {
     const QPointer<Palettes> before = palettes;
     const int chosen = hasRow() ? row() : -1;
     editor->switchToSprites();
-    if (chosen >= 0 && before == palettes && row() != chosen) {
+    if (before != palettes) {
+        Dialogs::instance()->warning(
+            editor->displayName(),
+            PaletteEditor::tr("The canvas has changes that are not saved, of a sprite of another "
+                              "project. Save or discard them first."));
+        return false;
+    }
+    if (chosen >= 0 && row() != chosen) {
         definePos(chosen);
     }
+    return true;
 }
 
 PaletteEditor::PaletteEditor(QObject* parent)

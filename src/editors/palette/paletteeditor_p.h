@@ -38,8 +38,8 @@ public:
     /// True if the current row is one of the collection.
     bool hasRow() const;
 
-    /// What is about to be changed is seen.
-    void bringForward();
+    /// What is about to be changed is seen. False, and told, if it cannot be.
+    bool bringForward();
 
     // paletteeditorcontrols.cpp
     void publish();

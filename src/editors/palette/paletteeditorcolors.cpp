@@ -131,32 +131,28 @@ void PaletteEditorPrivate::colorDblClicked(unsigned short)
 /// Files have one history.
 void PaletteEditorPrivate::undo()
 {
-    bringForward();
-    if (sprites) {
+    if (bringForward() && sprites) {
         sprites->undo();
     }
 }
 
 void PaletteEditorPrivate::redo()
 {
-    bringForward();
-    if (sprites) {
+    if (bringForward() && sprites) {
         sprites->redo();
     }
 }
 
 void PaletteEditorPrivate::switchColor()
 {
-    bringForward();
-    if (hasRow() && view) {
+    if (bringForward() && hasRow() && view) {
         view->palette()->switchColors(view->selection, false);
     }
 }
 
 void PaletteEditorPrivate::setColor()
 {
-    bringForward();
-    if (!hasRow() || !view ||
+    if (!bringForward() || !hasRow() || !view ||
         std::none_of(std::begin(view->selection), std::end(view->selection),
                      [](bool isSelected) { return isSelected; })) {
         return;

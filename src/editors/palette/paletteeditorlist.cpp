@@ -140,8 +140,7 @@ bool PaletteEditorPrivate::mayChange(unsigned titleId, const QString& text) cons
 
 void PaletteEditorPrivate::clear()
 {
-    bringForward();
-    if (!palettes) {
+    if (!bringForward() || !palettes) {
         return;
     }
     const QVector<int> uses = paletteUses(*palettes);
@@ -164,8 +163,7 @@ void PaletteEditorPrivate::clear()
 /// What no sprite uses is missed by none: there is nothing to ask about.
 void PaletteEditorPrivate::clearUnused()
 {
-    bringForward();
-    if (palettes) {
+    if (bringForward() && palettes) {
         palettes->removeUnused();
         updateRange();
     }
@@ -194,11 +192,10 @@ void PaletteEditorPrivate::delDupl()
 
 void PaletteEditorPrivate::add()
 {
-    bringForward();
-    const QPointer<Palettes> before = palettes;
-    if (!before) {
+    if (!bringForward() || !palettes) {
         return;
     }
+    const QPointer<Palettes> before = palettes;
     const Dialogs::Button answer = Dialogs::instance()->question(
         PaletteEditor::tr("Add palette"),
         PaletteEditor::tr("Do you want to load the palettes from files?"),
@@ -291,8 +288,7 @@ void PaletteEditorPrivate::addFiles(int place)
 
 void PaletteEditorPrivate::del()
 {
-    bringForward();
-    if (!hasRow()) {
+    if (!bringForward() || !hasRow()) {
         return;
     }
     const ShownPalette shown(this);
@@ -316,8 +312,7 @@ void PaletteEditorPrivate::del()
 
 void PaletteEditorPrivate::open()
 {
-    bringForward();
-    if (!palette) {
+    if (!bringForward() || !palette) {
         return;
     }
     const ShownPalette shown(this);
@@ -345,8 +340,7 @@ void PaletteEditorPrivate::save()
 
 void PaletteEditorPrivate::setSprPal()
 {
-    bringForward();
-    if (!palette || !sprites) {
+    if (!bringForward() || !palette || !sprites) {
         return;
     }
     const ShownPalette shown(this);
