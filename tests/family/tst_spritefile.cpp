@@ -6,7 +6,6 @@
 #include "family/assets/spritefile.h"
 #include "family/assets/spritefiledata.h"
 #include "family/assets/spritejobs.h"
-#include "family/assets/workpool.h"
 #include "support/brokenbytes.h"
 #include "support/faultshim.h"
 #include "support/folders.h"
@@ -121,7 +120,6 @@ private slots:
     void takesNoMoreMemoryThanTheFileHas();
     void failedSaveLosesNothing();
     void givesEachImageToAJob();
-    void takesPreparedImages();
     void readsTheSamples();
 };
 
@@ -406,48 +404,6 @@ void TestSpriteFile::givesEachImageToAJob()
     job.progress = [](int done) { return done < 100; };
     QVERIFY(!forEachImage(file, job));
     QVERIFY(images.size() < 600);
-}
-
-/// Packed on other threads, images make the same file as packed here; equal ones share their
-/// pixels.
-void TestSpriteFile::takesPreparedImages()
-{
-    QVector<QImage> images;
-    for (int i = 0; i < 60; ++i) {
-        images.append(picture(4 + i % 7, 5, i % 6));
-        if (i % 9 == 1 && images.last().colorCount() > 0) {
-            images.last().setColor(i % 3, 0xff102030);
-        }
-    }
-    images += {QImage(), QImage(LargestSprite + 1, 1, QImage::Format_Indexed8),
-               images[5].convertToFormat(QImage::Format_Mono),
-               images[5].convertToFormat(QImage::Format_RGB888)};
-    SpriteFile here;
-    SpriteFile prepared;
-    std::vector<std::shared_ptr<const Zorv::PreparedImage>> ready(size_t(images.size()));
-    const Zorv::ImagePreparer prepare = prepared.imagePreparer();
-    WorkPool pool(4);
-    pool.start(images.size(), [&](int i) { ready[size_t(i)] = prepare(images.at(i)); });
-    pool.wait();
-    for (int i = 0; i < images.size(); ++i) {
-        here.addSprite()->setImage(images[i]);
-        prepared.addSprite()->setPrepared(*ready[size_t(i)]);
-    }
-    here.refresh();
-    prepared.refresh();
-    QCOMPARE(prepared.palettes()->count(), here.palettes()->count());
-    for (int i = 0; i < images.size(); ++i) {
-        for (int j = 0; j < i; ++j) {
-            QCOMPARE(prepared.sprite(i)->state.pixels == prepared.sprite(j)->state.pixels,
-                     here.sprite(i)->state.pixels == here.sprite(j)->state.pixels);
-        }
-    }
-    QVERIFY(Disk().save(prepared) == Disk().save(here));
-    prepared.undo();
-    QCOMPARE(prepared.count(), 0U);
-    // That of another kind of collection is taken for its image.
-    here.sprite(0)->setPrepared(Zorv::PreparedImage(images[3]));
-    QCOMPARE(here.sprite(0)->image(), images[3]);
 }
 
 void TestSpriteFile::readsTheSamples()

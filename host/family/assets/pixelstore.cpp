@@ -130,7 +130,16 @@ PixelRef PixelStore::add(const PackedPixels& packed, const QByteArray& rows)
 
 PixelRef PixelStore::add(const PackedImage& image)
 {
-    return image.rows().isEmpty() ? PixelRef() : add(image.packed(), image.rows());
+    if (image.rows().isEmpty()) {
+        return {};
+    }
+    const PackedPixels& packed = image.packed();
+    const PixelRef same = known(packed.format, image.rows(), packed.pixelCrc);
+    if (same) {
+        return same;
+    }
+    return adopt(packed.stream.isEmpty() ? PackedPixels::pack(packed.format, image.rows())
+                                         : packed);
 }
 
 PixelRef PixelStore::known(const PixelFormat& format, const QByteArray& rows,
@@ -242,11 +251,25 @@ QByteArray PackedPixels::rows() const
     return pixelCrc != 0 && checksum(pixels) != pixelCrc ? QByteArray() : pixels;
 }
 
-PackedImage::PackedImage(const QImage& image) : PreparedImage(normalizedImage(image))
+bool PackedOnce::isFirst(quint64 crc)
 {
-    if (fitsSprite(this->image())) {
-        m_rows = rowsOfImage(this->image());
-        m_packed = PackedPixels::pack(unpackedForm(this->image()), m_rows);
+    const std::lock_guard lock(m_mutex);
+    const int before = m_seen.size();
+    m_seen.insert(crc);
+    return m_seen.size() > before;
+}
+
+PackedImage::PackedImage(const QImage& image, PackedOnce* once)
+    : PreparedImage(normalizedImage(image))
+{
+    if (!fitsSprite(this->image())) {
+        return;
+    }
+    m_rows = rowsOfImage(this->image());
+    m_packed.format = unpackedForm(this->image());
+    m_packed.pixelCrc = checksum(m_rows);
+    if (once->isFirst(decodedChecksum(m_packed.pixelCrc, m_packed.format))) {
+        m_packed = PackedPixels::pack(m_packed.format, m_rows);
     }
 }
 

@@ -7,8 +7,10 @@
 #include <QCache>
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 #include <memory>
+#include <mutex>
 
 namespace Zorv {
 class FileCache;
@@ -107,13 +109,26 @@ struct PackedPixels
     quint64 pixelCrc = 0;
 };
 
+/// Which pixels were packed, so that equal ones are not packed again. Any thread.
+class PackedOnce
+{
+public:
+    /// True for the first with this checksum.
+    bool isFirst(quint64 crc);
+
+private:
+    std::mutex m_mutex;
+    QSet<quint64> m_seen;
+};
+
 /// An image in the form of a sprite whose pixels are packed already, on any thread.
 class PackedImage final : public Zorv::PreparedImage
 {
 public:
-    explicit PackedImage(const QImage& image);
+    PackedImage(const QImage& image, PackedOnce* once);
 
-    /// Nothing in both for an image without pixels, or larger than a sprite can be.
+    /// Nothing in both for an image without pixels, or larger than a sprite can be. Without a
+    /// stream equal ones were packed, most likely.
     const QByteArray& rows() const { return m_rows; }
     const PackedPixels& packed() const { return m_packed; }
 

@@ -187,7 +187,10 @@ FamilySprite* SpriteCollection::addSprite()
 
 Zorv::ImagePreparer SpriteCollection::imagePreparer() const
 {
-    return [](const QImage& image) { return std::make_shared<const PackedImage>(image); };
+    const auto once = std::make_shared<PackedOnce>();
+    return [once](const QImage& image) {
+        return std::make_shared<const PackedImage>(image, once.get());
+    };
 }
 
 void SpriteCollection::removeSprite(int index)

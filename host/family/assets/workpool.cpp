@@ -34,6 +34,7 @@ void WorkPool::start(int count, std::function<void(int)> work)
 void WorkPool::wait()
 {
     m_pool.waitForDone();
+    m_next.load();  // what the threads have written last: all that they did comes before
 }
 
 }  // namespace Family
