@@ -42,6 +42,7 @@ SpriteEditorPrivate::SpriteEditorPrivate(SpriteEditor* owner, PaletteEditor* pan
 {
     connect(palettes, &PaletteEditor::currentPaletteChanged, this,
             &SpriteEditorPrivate::currentPaletteChanged);
+    connect(palettes, &PaletteEditor::colorsMoving, this, &SpriteEditorPrivate::rememberOrder);
     renderer->setOption(ImageRenderer::CenteredBrush, true);
     workspace->setRenderer(renderer);
     colors->setColorTaker([this](bool isRightButton, unsigned char index) {

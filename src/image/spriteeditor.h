@@ -164,8 +164,9 @@ public:
     bool isPreviewing() const;
 
     /// Adds a sprite for each image file, as "spr_add" does with those that are chosen: behind the
-    /// others of the file that is seen, on the canvas or the stage, as one step of undo, after a question whether what does not show is cut off. Files
-    /// are read on several threads, with progress; what could not be read is told at the end.
+    /// others of the file that is seen, on the canvas or the stage, as one step of undo, after a
+    /// question whether what does not show is cut off. Files are read on several threads, with
+    /// progress; what could not be read is told at the end.
     void addFiles(const QStringList& files);
 
     /// Image files that are dropped on a widget are added.

@@ -139,6 +139,11 @@ public:
     bool takeInput(QString* error) override;
     void dropInput() override;
 
+    // spriteeditororders.cpp
+    void rememberOrder(const PaletteOrder& order);
+    std::optional<PaletteOrder> moveBetween(const QImage& before, const QImage& after) const;
+    void moveIndices(const PaletteOrder& places);
+
     // spriteeditorkept.cpp
     void keepCanvas();
     bool bringBack();
@@ -207,9 +212,10 @@ public:
     bool isOtherColors = false;           // the grid has some of no palette, to be looked at
     bool isShowingOwn = false;            // the grid is about to have those of the picture
     bool hasToldHidden = false;
-    std::deque<KeptCanvas> kept;  // the one that was seen last is the last
-    int selGuard = 0;             // the code itself changes the position
-    SpriteNumber followed;        // of the frame that was told last
+    std::deque<KeptCanvas> kept;      // the one that was seen last is the last
+    std::deque<PaletteOrder> orders;  // that colours were put in, the last one last
+    int selGuard = 0;                 // the code itself changes the position
+    SpriteNumber followed;            // of the frame that was told last
 
     EditorTools published{this, SpriteTexts::instance()};
     QPointer<QAction> editorAction;

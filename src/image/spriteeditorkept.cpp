@@ -46,20 +46,27 @@ bool SpriteEditorPrivate::bringBack()
     const auto found = std::find_if(kept.begin(), kept.end(), [&](const KeptCanvas& each) {
         return each.sprites == sprites && each.identifier == identifier &&
                (!each.record || each.record == now) && each.loadedAxis == now->axis() &&
-               areSamePixels(each.loaded, stored);
+               (areSamePixels(each.loaded, stored) || moveBetween(each.loaded, stored));
     });
     if (found == kept.end()) {
         return false;
     }
     KeptCanvas back = std::move(*found);
     kept.erase(found);
-    loaded = back.loaded;
+    std::optional<PaletteOrder> move;
+    if (!areSamePixels(back.loaded, stored)) {
+        move = moveBetween(back.loaded, stored);
+    }
+    loaded = stored;
     loadedAxis = back.loadedAxis;
     hasToldHidden = back.hasToldHidden;
     loadColors();
     {
         const ImageRenderer::Change change(renderer);
         canvas()->putContent(std::move(back.content));
+    }
+    if (move) {
+        moveIndices(*move);
     }
     storedHidden = hiddenLayers();
     touched = {};

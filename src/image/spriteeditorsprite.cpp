@@ -188,10 +188,17 @@ void SpriteEditorPrivate::takeChange(const Sprite& now, Match match, bool isModi
     } else if (!isModified && layers()->count() <= 1) {
         load();
     } else {
+        const auto move = moveBetween(loaded, stored);
+        const bool isFollowed = move && canvas()->format() == ImageCanvas::IndexedFormat;
+        if (isFollowed) {
+            moveIndices(*move);
+        }
         loaded = stored;
         loadedAxis = now.axis();
         touch(QRect(QPoint(), canvas()->size()));
-        const bool isStored = areSamePixels(stored, flattened()) && canvas()->axis() == loadedAxis;
+        // The grid has the colours of a move only when that is over.
+        const bool isStored = canvas()->axis() == loadedAxis &&
+                              (isFollowed ? !isModified : areSamePixels(stored, flattened()));
         isStored ? setStored() : history()->resetClean();
     }
 }

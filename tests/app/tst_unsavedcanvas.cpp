@@ -71,6 +71,7 @@ private slots:
     void isNotSavedWithoutItsSprite();
     void isPutAside();
     void isSavedInItsOwnColours();
+    void followsAMovedColour_data();
     void followsAMovedColour();
     void leavesTheStageToAnotherProject();
     void hidingALayerIsWork_data();
@@ -284,21 +285,64 @@ void TestUnsavedCanvas::isSavedInItsOwnColours()
     QCOMPARE(first(m_game->path(SpritePath)), flipped());
 }
 
-/// What is painted is in the file when the pixels of that are mapped.
+void TestUnsavedCanvas::followsAMovedColour_data()
+{
+    columns<int, bool>("layers", "isShown");
+    QTest::newRow("a layer") << 1 << true;
+    QTest::newRow("layers, one of them hidden") << 3 << true;
+    QTest::newRow("behind another sprite") << 3 << false;
+}
+
+/// What is painted is in the file when the pixels of that are mapped. Layers follow, whether they
+/// can be seen or not, and go back with undo.
 void TestUnsavedCanvas::followsAMovedColour()
 {
-    const QImage painted = shown().convertToFormat(QImage::Format_ARGB32);
+    const auto [count, isShown] = fetched<int, bool>();
+    const auto colours = [this] {
+        QVector<QImage> all{shown().convertToFormat(QImage::Format_ARGB32)};
+        for (unsigned i = 0; i < canvas()->layers()->count(); ++i) {
+            QImage layer = canvas()->layers()->at(i)->image();
+            layer.setColorTable(sprites()->sprite(0)->shownColors());
+            all.append(layer.convertToFormat(QImage::Format_ARGB32));
+        }
+        return all;
+    };
+    for (int i = 1; i < count; ++i) {
+        canvas()->newRasterLayer(picture(i));
+    }
+    canvas()->layers()->at(0)->setVisible(count == 1);
+    trigger("spr_saveimg");
+    const QVector<QImage> painted = colours();
     m->host.setOption(QStringLiteral("pal_move"), 1);
     auto* grid = m->window->findChild<Zorv::PaletteWidget*>();
     QVERIFY(grid);
+    if (!isShown) {
+        trigger("spr_next");
+    }
     grid->setFocus();
     QTest::keyClick(grid, Qt::Key_Home);
-    QTest::keyClick(grid, Qt::Key_Right, Qt::AltModifier);
-    QTRY_VERIFY(sprites()->isModified());
+    for (const int slot : {1, 2}) {
+        QTest::keyClick(grid, Qt::Key_Right, Qt::AltModifier);
+        QTRY_COMPARE(sprites()->sprite(0)->image().color(slot), flipped().color(0));
+    }
+    if (!isShown) {
+        trigger("spr_prev");
+    }
+    QCOMPARE(canvas()->layers()->count(), unsigned(count));
     QVERIFY(!editor()->isCanvasModified());
-    QCOMPARE(shown().convertToFormat(QImage::Format_ARGB32), painted);
-    QCOMPARE(sprites()->sprite(0)->image().convertToFormat(QImage::Format_ARGB32), painted);
-    QCOMPARE(sprites()->sprite(0)->image().color(1), flipped().color(0));
+    QCOMPARE(colours(), painted);
+    QCOMPARE(sprites()->sprite(0)->image().convertToFormat(QImage::Format_ARGB32), painted.first());
+    QCOMPARE(sprites()->sprite(0)->image().color(2), flipped().color(0));
+    for (int i = 0; i < 2; ++i) {
+        sprites()->undo();
+        QCOMPARE(canvas()->layers()->count(), unsigned(count));
+        QCOMPARE(colours(), painted);
+        QVERIFY(!editor()->isCanvasModified());
+    }
+    QCOMPARE(sprites()->sprite(0)->image().color(0), flipped().color(0));
+    sprites()->redo();
+    QCOMPARE(colours(), painted);
+    QCOMPARE(canvas()->layers()->count(), unsigned(count));
 }
 
 /// Beside the stage of another project, sprites and palettes are those of that one.

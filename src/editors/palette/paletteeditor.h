@@ -113,6 +113,10 @@ signals:
     /// Another palette is current, or has other colours.
     void currentPaletteChanged();
 
+    /// Colours are about to change places by `reorderColors()`, and pixels with them. For who has
+    /// pixels of sprites that are in no sprite, such as layers.
+    void colorsMoving(const Zorv::PaletteOrder& order);
+
 private:
     friend class PaletteEditorPrivate;
     std::unique_ptr<PaletteEditorPrivate> d;

@@ -114,7 +114,9 @@ void PaletteEditorPrivate::keepPictures(bool inAll, unsigned short src, unsigned
         if (inAll) {
             std::iota(rows.begin(), rows.end(), 0);
         }
-        editor->reorderColors(rows, movedOrder(quint8(src), quint8(dst)));
+        const PaletteOrder order = movedOrder(quint8(src), quint8(dst));
+        emit editor->colorsMoving(order);
+        editor->reorderColors(rows, order);
     }
     if (changed) {
         changed->endChange();
