@@ -219,7 +219,7 @@ void SpriteEditorPrivate::selPosChanged(int index)
     }
     const QPointer<Sprites> before = sprites;
     const bool may = mayLeave();
-    if (may && before == sprites) {
+    if (may && before && before == sprites) {
         show(index);
     } else {
         showPosition();
