@@ -7124,6 +7124,10 @@ Die Antwort bleibt in den Einstellungen.</translation>
         <source>Saving palettes...</source>
         <translation>Paletten werden gespeichert ...</translation>
     </message>
+    <message>
+        <source>The canvas has changes that are not saved, of a sprite of another project. Save or discard them first.</source>
+        <translation>Auf der Zeichenfläche sind ungespeicherte Änderungen an einem Sprite eines anderen Projekts. Speichern oder verwerfen Sie sie zuerst.</translation>
+    </message>
 </context>
 <context>
     <name>Zorv::PaletteFile</name>

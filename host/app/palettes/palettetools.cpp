@@ -120,6 +120,7 @@ void PaletteTools::sort()
     sprites->beginChange(title);
     const bool isTaken = Zorv::FileInput::take(sprites, &result.errors);
     if (chosen.comeBack() && isTaken) {
+        emit m_editor->colorsMoving(order);
         result = Operations::reorderPalettes(sprites, chosen.rows(dialog.isInAll()), order);
     }
     if (sprites) {

@@ -113,8 +113,9 @@ signals:
     /// Another palette is current, or has other colours.
     void currentPaletteChanged();
 
-    /// Colours are about to change places by `reorderColors()`, and pixels with them. For who has
-    /// pixels of sprites that are in no sprite, such as layers.
+    /// Colours are about to change places, and pixels with them. A host that has tools for that
+    /// besides `reorderColors()` emits it, too. For who has pixels that are in no sprite, such as
+    /// layers.
     void colorsMoving(const Zorv::PaletteOrder& order);
 
 private:
