@@ -49,9 +49,12 @@ bool fitsSprite(const QImage& image)
                std::numeric_limits<int>::max() / 2;
 }
 
-PixelFormat unpackedForm(const QImage& image)
+PackedPixels unpacked(const QImage& image, const QByteArray& rows)
 {
-    return {image.size(), image.depth(), PixelCodec::None};
+    PackedPixels pixels;
+    pixels.format = {image.size(), image.depth(), PixelCodec::None};
+    pixels.pixelCrc = checksum(rows);
+    return pixels;
 }
 
 QByteArray decodedBytes(const PixelFormat& format, QByteArray rows)
@@ -106,50 +109,41 @@ PixelRef PixelStore::adoptFile(const PixelFormat& format, const QString& fileNam
     return PixelRef(data);
 }
 
-PixelRef PixelStore::adopt(const PackedPixels& packed)
-{
-    return adopt(packed.format, packed.stream, packed.pixelCrc, packed.streamCrc);
-}
-
 PixelRef PixelStore::add(const QImage& image)
 {
     if (!fitsSprite(image)) {
         return {};
     }
-    const PixelFormat format = unpackedForm(image);
     const QByteArray rows = rowsOfImage(image);
-    const PixelRef same = known(format, rows, checksum(rows));
-    return same ? same : adopt(PackedPixels::pack(format, rows));
+    return add(unpacked(image, rows), rows);
 }
 
 PixelRef PixelStore::add(const PackedPixels& packed, const QByteArray& rows)
 {
-    const PixelRef same = known(packed.format, rows, packed.pixelCrc);
-    return same ? same : adopt(packed);
+    const PixelRef same = known(packed, rows);
+    if (same) {
+        return same;
+    }
+    const PackedPixels& whole =
+        packed.stream.isEmpty() ? PackedPixels::pack(packed.format, rows) : packed;
+    return adopt(whole.format, whole.stream, whole.pixelCrc, whole.streamCrc);
 }
 
 PixelRef PixelStore::add(const PackedImage& image)
 {
-    if (image.rows().isEmpty()) {
-        return {};
-    }
-    const PackedPixels& packed = image.packed();
-    const PixelRef same = known(packed.format, image.rows(), packed.pixelCrc);
-    if (same) {
-        return same;
-    }
-    return adopt(packed.stream.isEmpty() ? PackedPixels::pack(packed.format, image.rows())
-                                         : packed);
+    return image.rows().isEmpty() ? PixelRef() : add(image.packed(), image.rows());
 }
 
-PixelRef PixelStore::known(const PixelFormat& format, const QByteArray& rows,
-                           quint64 pixelCrc) const
+/// Equal streams need not be unpacked to be compared.
+PixelRef PixelStore::known(const PackedPixels& packed, const QByteArray& rows) const
 {
-    const QByteArray decoded = decodedBytes(format, rows);
-    const quint64 crc = decodedChecksum(pixelCrc, format);
+    const QByteArray decoded = decodedBytes(packed.format, rows);
+    const quint64 pixelCrc = packed.pixelCrc != 0 ? packed.pixelCrc : checksum(rows);
+    const quint64 crc = decodedChecksum(pixelCrc, packed.format);
     for (const Zorv::StreamCache* cache :
          {m_cache.get(), static_cast<Zorv::StreamCache*>(m_files.get())}) {
-        if (const auto* item = cache->find(decoded, crc, {}, 0)) {
+        if (const auto* item =
+                cache->find(decoded, crc, packed.stream, uchar(packed.format.codec))) {
             auto* same = static_cast<PixelData*>(item->filterData);
             ++same->refCount;
             return PixelRef(same);
@@ -266,8 +260,7 @@ PackedImage::PackedImage(const QImage& image, PackedOnce* once)
         return;
     }
     m_rows = rowsOfImage(this->image());
-    m_packed.format = unpackedForm(this->image());
-    m_packed.pixelCrc = checksum(m_rows);
+    m_packed = unpacked(this->image(), m_rows);
     if (once->isFirst(decodedChecksum(m_packed.pixelCrc, m_packed.format))) {
         m_packed = PackedPixels::pack(m_packed.format, m_rows);
     }

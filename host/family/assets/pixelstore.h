@@ -52,7 +52,8 @@ public:
     /// for an image without pixels or larger than a sprite can be.
     PixelRef add(const QImage& image);
 
-    /// The same for pixels that are packed already, `rows` being what they unpack to.
+    /// The same for pixels that are packed already, `rows` being what they unpack to. Without a
+    /// stream they are packed here.
     PixelRef add(const PackedPixels& packed, const QByteArray& rows);
     PixelRef add(const PackedImage& image);
 
@@ -78,8 +79,7 @@ public:
 private:
     friend class PixelData;
     void unpack(unsigned char type, void* filterData, const QByteArray& source, QByteArray& target);
-    PixelRef known(const PixelFormat& format, const QByteArray& rows, quint64 pixelCrc) const;
-    PixelRef adopt(const PackedPixels& packed);
+    PixelRef known(const PackedPixels& packed, const QByteArray& rows) const;
     void gone(PixelData* data);
 
     std::unique_ptr<Zorv::StreamCache> m_cache;
