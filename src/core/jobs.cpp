@@ -8,22 +8,41 @@
 #include <QThreadPool>
 #include <QtConcurrent>
 
+#include <array>
+#include <atomic>
+
 namespace Zorv {
 
 namespace {
 
 /// Pieces under way for each thread: enough that none is idle while one result is taken. Of small
-/// ones it takes more, or all are done before this thread has its turn again beside other work.
+/// ones it takes more, or all are done before this thread has its turn again beside other work. Of
+/// large ones, each of which may hold an image, only the least.
 constexpr int LeastPerThread = 4;
-constexpr int MostPerThread = 32;
-constexpr qint64 TimeUnderWay = 40;  // milliseconds
+constexpr int MostPerThread = 12;
+constexpr qint64 TimeUnderWay = 40'000'000;  // nanoseconds
 
-size_t underWay(qint64 elapsed, int done)
+/// How many pieces may be under way, by the time that the last few have taken.
+class Pace
 {
-    const int perThread = int(qBound<qint64>(
-        LeastPerThread, elapsed > 0 ? TimeUnderWay * done / elapsed : 0, MostPerThread));
-    return size_t(QThreadPool::globalInstance()->maxThreadCount() * perThread);
-}
+public:
+    Pace() { m_clock.start(); }
+    int underWay(int done)
+    {
+        const qint64 now = m_clock.nsecsElapsed();
+        qint64& before = m_times[size_t(done) % m_times.size()];  // the oldest
+        const qint64 count = qMin(done, int(m_times.size()));
+        const qint64 elapsed = qMax<qint64>(now - before, 1);
+        before = now;
+        const int threads = QThreadPool::globalInstance()->maxThreadCount();
+        return int(qBound<qint64>(threads * LeastPerThread, TimeUnderWay * count / elapsed,
+                                  threads * MostPerThread));
+    }
+
+private:
+    QElapsedTimer m_clock;
+    std::array<qint64, 8> m_times{};
+};
 
 /// Waits without keeping the window from being painted. What the person does waits, too: progress
 /// takes it up between two pieces of work.
@@ -46,21 +65,26 @@ bool runJobs(const QString& title, int count,
              const std::function<void(int)>& take)
 {
     Progress progress(title, count);
-    QElapsedTimer clock;
-    clock.start();
+    Pace pace;
+    const auto isGivenUp = std::make_shared<std::atomic_bool>(false);
     std::deque<QFuture<void>> jobs;
     int prepared = 0;
     bool goesOn = true;
     for (int i = 0; i < count && goesOn; ++i) {
-        const size_t onTheirWay = underWay(clock.elapsed(), i);
+        const auto onTheirWay = size_t(pace.underWay(i));
         for (; prepared < count && jobs.size() < onTheirWay; ++prepared) {
-            jobs.push_back(QtConcurrent::run(prepare(prepared)));
+            jobs.push_back(QtConcurrent::run([work = prepare(prepared), isGivenUp] {
+                if (!*isGivenUp) {
+                    work();
+                }
+            }));
         }
         waitFor(jobs.front());
         take(i);
         jobs.pop_front();
         goesOn = progress.step();
     }
+    *isGivenUp = true;
     for (QFuture<void>& job : jobs) {
         job.waitForFinished();
     }

@@ -14,9 +14,10 @@ namespace Zorv {
 ///
 /// `prepare(i)` is called in the caller's thread, in order, and gives what is to be done in another
 /// one: a function that shares nothing with the others. `take(i)` is called in the caller's thread,
-/// in order, when that piece is done. Only a few pieces are on their way at any time, so the memory
-/// that they take does not grow with their count. False if the person has given up: then nothing
-/// more is taken, and all that was under way is over.
+/// in order, when that piece is done. Only a few pieces for each thread are on their way at any
+/// time, more of small ones than of large ones, so the memory that they take does not grow with
+/// their count. False if the person has given up: then nothing more is taken, what had not begun is
+/// left out, and all that had is over.
 ///
 /// While it waits, events other than the person's are processed, so that the window is painted;
 /// between two pieces the display of the host may take up those, too. So what `take` works on may

@@ -313,10 +313,10 @@ void TestSpriteImport::anythingCanGoBehindTheDialog()
     }
 }
 
-/// In the middle of a large file.
+/// In the middle of a file that is large enough for its progress to be shown.
 void TestSpriteImport::canBeGivenUp()
 {
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 12000; ++i) {
         source()->addSprite()->setImage(picture(i));
     }
     source()->refresh();

@@ -16,7 +16,18 @@ class TestJobs : public QObject
 private slots:
     void resultsComeInOrder_data();
     void resultsComeInOrder();
+    void fewLargePiecesAreUnderWay();
+    void nothingBeginsOnceGivenUp();
 };
+
+namespace {
+
+int threads()
+{
+    return QThreadPool::globalInstance()->maxThreadCount();
+}
+
+}  // namespace
 
 void TestJobs::resultsComeInOrder_data()
 {
@@ -53,9 +64,46 @@ void TestJobs::resultsComeInOrder()
     QCOMPARE(runJobs<int>("Work", count, prepare, take), cancelAfter < 0);
     QCOMPARE(int(ended), int(begun));
     QCOMPARE(taken, cancelAfter < 0 ? count : cancelAfter);
-    QVERIFY(most <= QThreadPool::globalInstance()->maxThreadCount() * 4);
+    QVERIFY(most <= threads() * 12);
     QCOMPARE(host.progresses.value(0).updates.size(), taken + 1);
     QVERIFY(host.progresses.value(0).finished);
+}
+
+// Behind many small ones, too.
+void TestJobs::fewLargePiecesAreUnderWay()
+{
+    constexpr int Small = 40;
+    TestInterface host;
+    int prepared = 0;
+    int most = 0;
+    const auto prepare = [&prepared](int i) -> std::function<int()> {
+        ++prepared;
+        return [i] {
+            QThread::msleep(i < Small ? 0 : 20);
+            return i;
+        };
+    };
+    const auto take = [&](int i, const int&) {
+        most = i < Small + 8 + threads() * 12 ? 0 : qMax(most, prepared - i);
+    };
+    QVERIFY(runJobs<int>("Work", Small + 8 + threads() * 24, prepare, take));
+    QVERIFY2(most > 0 && most <= threads() * 4, qPrintable(QString::number(most)));
+}
+
+void TestJobs::nothingBeginsOnceGivenUp()
+{
+    TestInterface host;
+    host.cancelAfter = 1;
+    std::atomic_int begun{0};
+    const auto prepare = [&begun](int i) -> std::function<int()> {
+        return [&begun, i] {
+            ++begun;
+            QThread::msleep(i > 0 ? 200 : 0);
+            return i;
+        };
+    };
+    QVERIFY(!runJobs<int>("Work", 500, prepare, [](int, const int&) {}));
+    QVERIFY2(begun <= 1 + 2 * threads(), qPrintable(QString::number(begun)));
 }
 
 QTEST_MAIN(TestJobs)
