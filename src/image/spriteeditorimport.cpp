@@ -35,20 +35,21 @@ QString reportOf(const SpriteImportResult& result)
 
 void SpriteEditorPrivate::projImport()
 {
-    const QPointer<Sprites> to = sprites;
+    const QPointer<Sprites> to = inFront();
     if (!to || !ImportDlg::hasSource(host)) {
         return;
     }
     SprImport dialog(host, to);
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
     const ImportDlg::Info choice = dialog.getInfo();
-    if (!isAccepted || !choice.source || !to || to != sprites) {
+    if (!isAccepted || !choice.source || !to || to != inFront()) {
         return;
     }
     const QString title =
         SpriteEditor::tr("Import sprites from project '%1'").arg(choice.source->title());
     // Layers of a sprite that is replaced would come into the new one with the next save.
-    const bool isReplaced = SpriteImport(to, choice.entries, choice.conflicts).replaces(row);
+    const bool isReplaced =
+        to == sprites && SpriteImport(to, choice.entries, choice.conflicts).replaces(row);
     if (isReplaced && (!mayLeave() || !to || to != sprites)) {
         return;
     }
@@ -61,9 +62,9 @@ void SpriteEditorPrivate::projImport()
     if (isReplaced && to && to == sprites) {
         show(row);
     }
-    if (to && to == sprites && int(to->count()) > first) {
+    if (to && (to == sprites || to == waiting) && int(to->count()) > first) {
         host->activateEditor(editor);
-        selPosChanged(first);
+        editor->showSprite(to, first);
     }
     if (!result.isGivenUp) {
         QString name = ZorvTranslator::instance()->trText(ImportText);

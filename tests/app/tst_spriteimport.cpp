@@ -62,6 +62,8 @@ private slots:
     void asksBeforePaintedWorkGoes_data();
     void asksBeforePaintedWorkGoes();
     void comesBeforeSavedLayers();
+    void comesIntoTheProjectInFront();
+    void noPixelsAndRefusedOnes();
     void anythingCanGoBehindTheDialog_data();
     void anythingCanGoBehindTheDialog();
     void canBeGivenUp();
@@ -131,7 +133,9 @@ void TestSpriteImport::init()
 {
     begin();
     m_game->write("characters/oda/oda.character",
-                  "[info]\r\nname = \"Oda\"\r\n[files]\r\nsprites = \"oda.sprites\"\r\n");
+                  "[info]\r\nname = \"Oda\"\r\n[files]\r\nsprites = \"oda.sprites\"\r\n"
+                  "animations = \"oda.anim\"\r\n");
+    m_game->write("characters/oda/oda.anim", "animation 1 \"One\"\r\nframe 0,0 loop\r\n");
     Family::SpriteFile file;
     QImage alike = picture(2);
     alike.setColor(0, 0xff000000);
@@ -269,6 +273,48 @@ void TestSpriteImport::comesBeforeSavedLayers()
     QVERIFY(differences(canvas()->mergeLayers(nullptr), picture(2)).isEmpty());
     trigger("save");
     QVERIFY(differences(sprites()->sprite(0)->image(), picture(2)).isEmpty());
+}
+
+/// What the canvas keeps of another one stays.
+void TestSpriteImport::comesIntoTheProjectInFront()
+{
+    SpriteCollection* own = sprites();
+    openFirst();
+    canvas()->flip(true, false);
+    QVERIFY(m->window->openFile(m_game->path("characters/oda/oda.anim")));
+    trigger("editor_anim");
+    QVERIFY(sprites() == source() && editor()->sprites() == own);
+    m->dialogs.choiceAnswers = {-1};
+    importBy([](SprImport* dialog) {
+        chooseAll(dialog, true);
+        accept(dialog);
+    });
+    QCOMPARE(m->dialogs.count("choose"), 1);  // on the way to the first new sprite
+    QVERIFY(!own->canUndo() && editor()->isCanvasModified());
+    QVERIFY(Look(*source()->sprite(0)) == Look(*own->sprite(0)));
+    QVERIFY(Look(*source()->sprite(5)) == Look(*own->sprite(1)));
+}
+
+/// A sprite may lose its pixels by an import, never by a picture that cannot be stored.
+void TestSpriteImport::noPixelsAndRefusedOnes()
+{
+    FamilySprite* sprite = sprites()->sprite(0);
+    const Look before(*sprite);
+    QImage large(70000, 1, QImage::Format_Indexed8);
+    large.fill(0);
+    for (const auto& colours : {Colours, QVector<QRgb>{0, 1}}) {
+        large.setColorTable(colours);
+        sprite->setImage(large);
+        sprite->setPrepared(*sprites()->imagePreparer()(large));
+        for (const int mode : {Zorv::Sprite::ImagePalette, Zorv::Sprite::ReplacePalette,
+                               Zorv::Sprite::ForcePalette}) {
+            sprite->setImage(large, false, mode, sprite->palette());
+        }
+        QVERIFY(Look(*sprite) == before);
+    }
+    const auto nothing = source()->addSprite()->copyPixels();
+    QVERIFY(nothing->read() && nothing->putInto(sprite));
+    QVERIFY(sprite->image().isNull());
 }
 
 void TestSpriteImport::anythingCanGoBehindTheDialog_data()
