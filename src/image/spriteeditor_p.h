@@ -16,6 +16,7 @@
 #include <QScopedValueRollback>
 #include <QVariant>
 
+#include <array>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -35,6 +36,8 @@ class Interface;
 class OrganizerEditor;
 class Palette;
 
+using EntryColors = std::array<RGBA, 256>;
+
 /// The canvas of a sprite that is not shown.
 struct KeptCanvas
 {
@@ -43,6 +46,8 @@ struct KeptCanvas
     QVariant identifier;
     QImage loaded;
     QPoint loadedAxis;
+    EntryColors colors{};               // of its palette, once orders are remembered
+    PaletteOrder places = sameOrder();  // where its indices have gone meanwhile
     bool hasToldHidden = false;
     std::unique_ptr<CanvasContent> content;
     qint64 bytes = 0;
@@ -141,7 +146,11 @@ public:
 
     // spriteeditororders.cpp
     void rememberOrder(const PaletteOrder& order);
-    std::optional<PaletteOrder> moveBetween(const QImage& before, const QImage& after) const;
+    static EntryColors colorsOf(const Sprite* sprite);
+    static const Sprite* spriteOf(const KeptCanvas& canvas);
+    std::optional<PaletteOrder> takeMove(const Sprite& now, const QImage& before,
+                                         EntryColors* colorsBefore) const;
+    void followMoves();
     void moveIndices(const PaletteOrder& places);
 
     // spriteeditorkept.cpp
@@ -205,6 +214,7 @@ public:
     QVariant identifier;
     QImage loaded;  // as the sprite was when the canvas took it
     QPoint loadedAxis;
+    EntryColors loadedColors{};         // of its palette then, or since the last move
     QRect touched;                      // where the canvas may be different from that
     QVector<ImageLayer*> storedHidden;  // the layers that were hidden when both were the same
     std::optional<bool> isKnownChanged;

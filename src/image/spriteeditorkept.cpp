@@ -28,6 +28,7 @@ void SpriteEditorPrivate::keepCanvas()
     left.identifier = identifier;
     left.loaded = loaded;
     left.loadedAxis = loadedAxis;
+    left.colors = colorsOf(shown);
     left.hasToldHidden = hasToldHidden;
     {
         const ImageRenderer::Change change(renderer);
@@ -46,27 +47,24 @@ bool SpriteEditorPrivate::bringBack()
     const auto found = std::find_if(kept.begin(), kept.end(), [&](const KeptCanvas& each) {
         return each.sprites == sprites && each.identifier == identifier &&
                (!each.record || each.record == now) && each.loadedAxis == now->axis() &&
-               (areSamePixels(each.loaded, stored) || moveBetween(each.loaded, stored));
+               areSamePixels(each.loaded, stored);
     });
     if (found == kept.end()) {
         return false;
     }
     KeptCanvas back = std::move(*found);
     kept.erase(found);
-    std::optional<PaletteOrder> move;
-    if (!areSamePixels(back.loaded, stored)) {
-        move = moveBetween(back.loaded, stored);
-    }
     loaded = stored;
     loadedAxis = back.loadedAxis;
+    loadedColors = colorsOf(now);
     hasToldHidden = back.hasToldHidden;
     loadColors();
     {
         const ImageRenderer::Change change(renderer);
         canvas()->putContent(std::move(back.content));
     }
-    if (move) {
-        moveIndices(*move);
+    if (back.places != sameOrder()) {
+        moveIndices(back.places);
     }
     storedHidden = hiddenLayers();
     touched = {};

@@ -1,3 +1,6 @@
+#include "cache/palette.h"
+#include "cache/sprite.h"
+#include "cache/sprites.h"
 #include "image/canvas/imagecanvas.h"
 #include "image/canvas/imagelayer.h"
 #include "image/canvas/imagelayers.h"
@@ -5,11 +8,13 @@
 #include "image/spriteeditor_p.h"
 
 #include <algorithm>
+#include <cstring>
 
 // A colour that moves in a palette takes the pixels of the sprites along, and undo brings them
 // back. A canvas can have more than its sprite: layers that are covered or hidden. So the orders
-// are kept, and when a sprite has come to be other indices by one of them, or back, all layers
-// follow.
+// are kept. When the palette of a sprite has come to be in one of them, or back, and its pixels are
+// where that puts them, all layers follow: those of the canvas at once, those of a canvas that is
+// kept when it comes back.
 
 namespace Zorv {
 
@@ -19,6 +24,10 @@ constexpr size_t MostOrders = 32;
 
 bool leadsTo(const PaletteOrder& places, const QImage& before, const QImage& after)
 {
+    if (before.format() != QImage::Format_Indexed8 || before.format() != after.format() ||
+        before.size() != after.size()) {
+        return false;
+    }
     for (int y = 0; y < before.height(); ++y) {
         const uchar* from = before.constScanLine(y);
         if (!std::equal(from, from + before.width(), after.constScanLine(y),
@@ -29,12 +38,15 @@ bool leadsTo(const PaletteOrder& places, const QImage& before, const QImage& aft
     return true;
 }
 
-PaletteOrder joined(PaletteOrder first, const PaletteOrder& then)
+bool areSame(const EntryColors& a, const EntryColors& b)
 {
-    for (quint8& place : first) {
-        place = then[place];
-    }
-    return first;
+    return std::memcmp(a.data(), b.data(), sizeof a) == 0;
+}
+
+bool isReordered(EntryColors before, const PaletteOrder& order, const EntryColors& after)
+{
+    reorder(before.data(), order);
+    return areSame(before, after);
 }
 
 QImage moved(QImage image, const PaletteOrder& places)
@@ -49,35 +61,85 @@ QImage moved(QImage image, const PaletteOrder& places)
 
 }  // namespace
 
+/// Of the palette of a sprite; none is like one without colours.
+EntryColors SpriteEditorPrivate::colorsOf(const Sprite* sprite)
+{
+    RGBA entries[256] = {};
+    if (const Palette* palette = sprite ? sprite->palette() : nullptr) {
+        palette->toPalette(entries);
+    }
+    EntryColors colors;
+    std::copy(std::begin(entries), std::end(entries), colors.begin());
+    return colors;
+}
+
+/// Before the first one nobody had to know the colours.
 void SpriteEditorPrivate::rememberOrder(const PaletteOrder& order)
 {
     orders.push_back(order);
     if (orders.size() > MostOrders) {
         orders.pop_front();
     }
+    loadedColors = colorsOf(sprite());
+    for (KeptCanvas& each : kept) {
+        each.colors = colorsOf(spriteOf(each));
+    }
 }
 
-/// Where each index has gone, if moves that follow each other, or taking them back, make one
-/// picture the other.
-std::optional<PaletteOrder> SpriteEditorPrivate::moveBetween(const QImage& before,
-                                                             const QImage& after) const
+/// The sprite of a canvas that is kept; null if it is no more.
+const Sprite* SpriteEditorPrivate::spriteOf(const KeptCanvas& canvas)
 {
-    const bool isAlike = before.size() == after.size() && before.format() == after.format();
-    if (!isAlike || before.format() != QImage::Format_Indexed8) {
-        return {};
-    }
-    for (auto last = orders.rbegin(); last != orders.rend(); ++last) {
-        PaletteOrder forth = sameOrder();
-        for (auto first = last; first != orders.rend(); ++first) {
-            forth = joined(inverse(*first), forth);
-            for (const PaletteOrder& places : {forth, inverse(forth)}) {
-                if (leadsTo(places, before, after)) {
-                    return places;
-                }
+    const int at = canvas.sprites ? canvas.sprites->find(0, canvas.identifier) : -1;
+    const Sprite* found = at >= 0 ? canvas.sprites->sprite(at) : nullptr;
+    return !canvas.record || canvas.record == found ? found : nullptr;
+}
+
+/// Where each index has gone, if one of the orders, or taking it back, has made colours and picture
+/// what those of the sprite are now. The colours are made these.
+std::optional<PaletteOrder> SpriteEditorPrivate::takeMove(const Sprite& now, const QImage& before,
+                                                          EntryColors* colorsBefore) const
+{
+    const EntryColors was = *colorsBefore;
+    *colorsBefore = colorsOf(&now);
+    const bool isOtherOrder = !areSame(was, *colorsBefore);
+    QImage stored;
+    for (auto order = orders.rbegin(); order != orders.rend(); ++order) {
+        for (const PaletteOrder& each : {*order, inverse(*order)}) {
+            if (!isReordered(was, each, *colorsBefore)) {
+                continue;
+            }
+            stored = stored.isNull() ? canvasForm(now.image()) : stored;
+            const bool isMoved = isOtherOrder || !areSamePixels(before, stored);
+            if (isMoved && leadsTo(inverse(each), before, stored)) {
+                return inverse(each);
             }
         }
     }
     return {};
+}
+
+void SpriteEditorPrivate::followMoves()
+{
+    if (orders.empty() || selGuard > 0) {
+        return;
+    }
+    for (KeptCanvas& each : kept) {
+        const Sprite* of = spriteOf(each);
+        if (const auto move = of ? takeMove(*of, each.loaded, &each.colors) : std::nullopt) {
+            each.loaded = moved(each.loaded, *move);
+            std::transform(each.places.begin(), each.places.end(), each.places.begin(),
+                           [&move](quint8 place) { return (*move)[place]; });
+        }
+    }
+    const Sprite* now = sprite();
+    const bool isThere = now && now == shown && canvas()->format() == ImageCanvas::IndexedFormat;
+    if (const auto move = isThere ? takeMove(*now, loaded, &loadedColors) : std::nullopt) {
+        const bool isModified = editor->isCanvasModified();
+        loaded = canvasForm(now->image());
+        moveIndices(*move);
+        touch(QRect(QPoint(), canvas()->size()));
+        isModified ? history()->resetClean() : setStored();
+    }
 }
 
 /// In all layers. The steps of the history are of the old indices, and go.

@@ -60,10 +60,14 @@ void SpriteEditorPrivate::take(Sprites* now)
     clearCanvas();
     palettes->setPalettes(now ? now->palettes() : nullptr);
     if (now) {
-        connect(now, &Sprites::changed, this, [this] { spritesChanged(SameRecord); });
+        connect(now, &Sprites::changed, this, [this] {
+            followMoves();
+            spritesChanged(SameRecord);
+        });
         connect(now, &QAbstractItemModel::modelReset, this,
                 [this] { spritesChanged(SameIdentifier); });
         connect(now, &OrganizableObject::modified, editor, &Editor::contentsChanged);
+        connect(now->palettes(), &Palettes::palChanged, this, &SpriteEditorPrivate::followMoves);
         connect(now->palettes(), &Palettes::palChanged, this,
                 &SpriteEditorPrivate::palettesChanged);
         connect(now, &Sprites::closing, this, [this, now] {
@@ -188,17 +192,10 @@ void SpriteEditorPrivate::takeChange(const Sprite& now, Match match, bool isModi
     } else if (!isModified && layers()->count() <= 1) {
         load();
     } else {
-        const auto move = moveBetween(loaded, stored);
-        const bool isFollowed = move && canvas()->format() == ImageCanvas::IndexedFormat;
-        if (isFollowed) {
-            moveIndices(*move);
-        }
         loaded = stored;
         loadedAxis = now.axis();
         touch(QRect(QPoint(), canvas()->size()));
-        // The grid has the colours of a move only when that is over.
-        const bool isStored = canvas()->axis() == loadedAxis &&
-                              (isFollowed ? !isModified : areSamePixels(stored, flattened()));
+        const bool isStored = areSamePixels(stored, flattened()) && canvas()->axis() == loadedAxis;
         isStored ? setStored() : history()->resetClean();
     }
 }
@@ -265,6 +262,7 @@ void SpriteEditorPrivate::load()
     const Sprite* now = sprite();
     loaded = canvasForm(now->image());
     loadedAxis = now->axis();
+    loadedColors = colorsOf(now);
     hasToldHidden = false;
     loadColors();
     editor->setImage(loaded, SpriteEditor::tr("Layer %1").arg(1));

@@ -211,6 +211,7 @@ bool SpriteEditorPrivate::putIntoSprite(QString* error)
     const Sprite* now = sprite();
     loaded = now ? canvasForm(now->image()) : QImage();
     loadedAxis = now ? now->axis() : QPoint();
+    loadedColors = colorsOf(now);
     ownPalette = now ? now->palette() : nullptr;  // in true colour the sprite has none any more
     const bool isRefused =
         !areSamePixels(before, canvasForm(picture)) && areSamePixels(before, loaded);

@@ -287,17 +287,19 @@ void TestUnsavedCanvas::isSavedInItsOwnColours()
 
 void TestUnsavedCanvas::followsAMovedColour_data()
 {
-    columns<int, bool>("layers", "isShown");
-    QTest::newRow("a layer") << 1 << true;
-    QTest::newRow("layers, one of them hidden") << 3 << true;
-    QTest::newRow("behind another sprite") << 3 << false;
+    columns<int, bool, bool>("layers", "isShown", "isCovered");
+    QTest::newRow("a layer") << 1 << true << false;
+    QTest::newRow("layers, one of them hidden") << 3 << true << false;
+    QTest::newRow("behind another sprite") << 3 << false << false;
+    QTest::newRow("colours that are covered") << 3 << true << true;
+    QTest::newRow("covered, behind another sprite") << 3 << false << true;
 }
 
 /// What is painted is in the file when the pixels of that are mapped. Layers follow, whether they
 /// can be seen or not, and go back with undo.
 void TestUnsavedCanvas::followsAMovedColour()
 {
-    const auto [count, isShown] = fetched<int, bool>();
+    const auto [count, isShown, isCovered] = fetched<int, bool, bool>();
     const auto colours = [this] {
         QVector<QImage> all{shown().convertToFormat(QImage::Format_ARGB32)};
         for (unsigned i = 0; i < canvas()->layers()->count(); ++i) {
@@ -308,7 +310,11 @@ void TestUnsavedCanvas::followsAMovedColour()
         return all;
     };
     for (int i = 1; i < count; ++i) {
-        canvas()->newRasterLayer(picture(i));
+        QImage layer = picture(i);
+        if (isCovered) {
+            layer.fill(3);
+        }
+        canvas()->newRasterLayer(layer);
     }
     canvas()->layers()->at(0)->setVisible(count == 1);
     trigger("spr_saveimg");
