@@ -2,6 +2,7 @@
 
 #include "core/progress.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFutureWatcher>
@@ -21,6 +22,9 @@ namespace {
 constexpr int LeastPerThread = 4;
 constexpr int MostPerThread = 12;
 constexpr qint64 TimeUnderWay = 40'000'000;  // nanoseconds
+
+/// Milliseconds after which events have their turn, if there is nothing to wait for.
+constexpr int TurnTime = 10;
 
 /// How many pieces may be under way, by the time that the last few have taken.
 class Pace
@@ -66,6 +70,8 @@ bool runJobs(const QString& title, int count,
 {
     Progress progress(title, count);
     Pace pace;
+    QElapsedTimer turn;
+    turn.start();
     const auto isGivenUp = std::make_shared<std::atomic_bool>(false);
     std::deque<QFuture<void>> jobs;
     int prepared = 0;
@@ -83,6 +89,10 @@ bool runJobs(const QString& title, int count,
         take(i);
         jobs.pop_front();
         goesOn = progress.step();
+        if (turn.hasExpired(TurnTime)) {
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            turn.restart();
+        }
     }
     *isGivenUp = true;
     for (QFuture<void>& job : jobs) {

@@ -18,6 +18,7 @@ private slots:
     void resultsComeInOrder();
     void fewLargePiecesAreUnderWay();
     void nothingBeginsOnceGivenUp();
+    void eventsHaveTheirTurn();
 };
 
 namespace {
@@ -104,6 +105,19 @@ void TestJobs::nothingBeginsOnceGivenUp()
     };
     QVERIFY(!runJobs<int>("Work", 500, prepare, [](int, const int&) {}));
     QVERIFY2(begun <= 1 + 2 * threads(), qPrintable(QString::number(begun)));
+}
+
+/// Also when every piece is done before it is asked for.
+void TestJobs::eventsHaveTheirTurn()
+{
+    TestInterface host;
+    int turns = 0;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&turns] { ++turns; });
+    timer.start(0);
+    const auto prepare = [](int) { return [] {}; };
+    QVERIFY(runJobs(QStringLiteral("Work"), 100, prepare, [](int) { QThread::msleep(1); }));
+    QVERIFY(turns >= 5);
 }
 
 QTEST_MAIN(TestJobs)
