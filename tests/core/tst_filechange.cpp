@@ -198,10 +198,12 @@ void TestFileChange::waitsForOthers()
     });
     QTRY_VERIFY(QFile::exists(m_dir->filePath("ready")));
     QString error;
-    FileChange change(m_path);
-    QVERIFY(!change.lock(ShortWait, &error));
+    {
+        FileChange change(m_path);
+        QVERIFY(!change.lock(ShortWait, &error));
+    }
     QVERIFY2(error.contains(m_dir->filePath("real")), qPrintable(error));
-    // A write that nobody announced takes its turn as well.
+    // A write that nobody announced takes its turn as well, and waits longer.
     Child third([this] { put(m_path, "late"); });
     QTest::qSleep(ShortWait);
     QCOMPARE(readFile(m_path), QByteArray("0"));
