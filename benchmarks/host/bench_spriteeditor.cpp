@@ -3,11 +3,10 @@
 // of 20,000 on the canvas, beside one of 20.
 
 #include "family/assets/spritefile.h"
-#include "operations/hostinterface.h"
 #include "support/bench.h"
+#include "support/livelyhost.h"
 
 #include <zorv/core/dialogs/dialogs.h>
-#include <zorv/core/progressreporter.h>
 #include <zorv/editors/palette/paletteeditor.h>
 #include <zorv/image/spriteeditor.h>
 #include <zorv/media/imagetransfer.h>
@@ -27,21 +26,6 @@ constexpr int Files = 1000;
 constexpr int Rounds = 5;
 constexpr int Selections = 200;
 constexpr int Shown = 20;
-
-/// Answers as the window does: events are processed at each step.
-class LivelyProgress final : public Zorv::ProgressReporter
-{
-public:
-    void update(int, int) override { QCoreApplication::processEvents(); }
-    void finish() override { delete this; }
-};
-
-class Host : public Operations::HostInterface
-{
-public:
-    using HostInterface::HostInterface;
-    Zorv::ProgressReporter* progress(const QString&, int) override { return new LivelyProgress; }
-};
 
 /// Does not crop.
 class Answers : public Zorv::Dialogs
@@ -154,7 +138,7 @@ int main(int argc, char** argv)
     const QApplication app(argc, argv);
     const QTemporaryDir folder;
     QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
-    Host host(&settings);
+    Bench::LivelyHost host(&settings);
     Operations::startHost(&host);
     Answers answers;
     Zorv::Dialogs::setInstance(&answers);

@@ -3,11 +3,9 @@
 // window does not answer.
 
 #include "family/assets/spritefile.h"
-#include "operations/hostinterface.h"
 #include "src/image/spriteimport_p.h"
 #include "support/bench.h"
-
-#include <zorv/core/progressreporter.h>
+#include "support/livelyhost.h"
 
 #include <QApplication>
 #include <QSettings>
@@ -21,21 +19,6 @@ namespace {
 constexpr int Count = 20000;
 constexpr int Rounds = 3;
 constexpr int PaletteCount = 4;
-
-/// Answers as the window does: events are processed at each step.
-class LivelyProgress final : public Zorv::ProgressReporter
-{
-public:
-    void update(int, int) override { QCoreApplication::processEvents(); }
-    void finish() override { delete this; }
-};
-
-class Host : public Operations::HostInterface
-{
-public:
-    using HostInterface::HostInterface;
-    Zorv::ProgressReporter* progress(const QString&, int) override { return new LivelyProgress; }
-};
 
 /// Each one is another picture.
 QImage picture(int kind)
@@ -109,7 +92,7 @@ int main(int argc, char** argv)
     const QApplication app(argc, argv);
     const QTemporaryDir folder;
     QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
-    Host host(&settings);
+    Bench::LivelyHost host(&settings);
     Operations::startHost(&host);
     SpriteFile source;
     fill(&source);
