@@ -1,0 +1,11 @@
+#pragma once
+
+#include "operations/create/mannequin.h"
+
+namespace Operations {
+
+/// A picture of the template "training-room", for which 0,0 is a wall of 960 by 360 and 0,1 a floor
+/// of 960 by 114. Any other sprite is a plain tile.
+PlacedDrawing drawRoom(Family::AssetId id);
+
+}  // namespace Operations
