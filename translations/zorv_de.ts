@@ -3295,6 +3295,22 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>The character has commands and a stance, but lacks animations that every match shows: %1. Add them.</source>
         <translation>Die Figur hat Befehle und eine Grundhaltung, aber es fehlen Animationen, die jeder Kampf zeigt: %1. Füge sie hinzu.</translation>
     </message>
+    <message>
+        <source>There is no command &apos;%1&apos;. %2</source>
+        <translation>Es gibt keinen Befehl &apos;%1&apos;. %2</translation>
+    </message>
+    <message>
+        <source>There is no move &apos;%1&apos;. %2</source>
+        <translation>Es gibt keine Aktion &apos;%1&apos;. %2</translation>
+    </message>
+    <message>
+        <source>It starts the run. Add it to &apos;[commands]&apos;.</source>
+        <translation>Er beginnt das Rennen. Fügen Sie ihn in &apos;[commands]&apos; ein.</translation>
+    </message>
+    <message>
+        <source>It starts the hop back. Add it to &apos;[commands]&apos;.</source>
+        <translation>Er beginnt den Sprung zurück. Fügen Sie ihn in &apos;[commands]&apos; ein.</translation>
+    </message>
 </context>
 <context>
     <name>Family::AssetReload</name>

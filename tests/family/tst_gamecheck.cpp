@@ -26,6 +26,10 @@ const RandomText randomText({"[files]",
                              "[move jab]",
                              "animation = 10",
                              "animation = nowhere",
+                             "command = light",
+                             "cancels = jab",
+                             "[commands]",
+                             "light = \"L\"",
                              "[constants]",
                              "life = 1000",
                              "life = full",
@@ -77,6 +81,8 @@ private slots:
     void doesOnlyWhatIsDue_data();
     void doesOnlyWhatIsDue();
     void unsavedProjectsCount();
+    void namesAcrossFiles_data();
+    void namesAcrossFiles();
 
 private:
     QString path(const QString& name) const { return m_root + QLatin1Char('/') + name; }
@@ -223,6 +229,48 @@ void TestGameCheck::unsavedProjectsCount()
     check.setText(path("new file"), std::make_shared<const SourceText>(text));
     check.setText(path("new file"), nullptr);
     QCOMPARE(result(check), before);
+}
+
+void TestGameCheck::namesAcrossFiles_data()
+{
+    columns<QString, QString, QString>("main", "shared", "told");
+    const auto row = [](const char* name, const char* main, const char* shared, const char* told) {
+        ::row(name, QString(main), QString(shared), QString(told));
+    };
+    const char moves[] = "[move jab]\ncommand = light\nanimation = 1\ncancels = kick\n";
+    row("named elsewhere",
+        "animation 1\nframe 0,0 loop\n[commands]\nlight = \"L\"\n[move kick]\nanimation = 1", moves,
+        "");
+    row("both missing", "animation 1\nframe 0,0 loop", moves,
+        "shared.code:2 light, shared.code:4 kick");
+    row("a file missing", "code = \"none.code\"\n[move a]\ncommand = b\nanimation = c", "",
+        "a.character:4 none.code");
+    row("run without its command",
+        "[commands]\nlight = \"L\"\n[constants]\nlife = 1\n[.run]\nback = -1, 0\nforward = 1, 0",
+        "", "a.character:9 hop-back, a.character:10 run");
+    row("run with it", "[commands]\nrun = \"F, F\"\n[constants]\nlife = 1\n[.run]\nforward = 1, 0",
+        "", "");
+    row("no command yet", "[constants]\nlife = 1\n[.run]\nforward = 1, 0", "", "");
+}
+
+// Each problem as its file, its line, and the first name in its text.
+void TestGameCheck::namesAcrossFiles()
+{
+    const auto [main, shared, told] = fetched<QString, QString, QString>();
+    const QTemporaryDir game;
+    writeFile(game.filePath("a.character"), "[files]\ncode = \"shared.code\"\n\n" + main.toUtf8());
+    // A stage that shares the file has no commands of its own to name.
+    writeFile(game.filePath("b.stage"),
+              "[files]\ncode = \"shared.code\"\n[arena]\nleft = 0\nright = 1\nfloor = 0\n"
+              "animation 1\nframe 0,0 loop");
+    writeFile(game.filePath("shared.code"), shared.toUtf8());
+    QString error;
+    QStringList found;
+    for (const Problem& problem : checkGame(game.path(), &error)) {
+        const QString name = problem.text.section('\'', 1, 1);
+        found.append(QString("%1:%2 %3").arg(problem.file, QString::number(problem.line), name));
+    }
+    QCOMPARE(found.join(", "), told);
 }
 
 QTEST_GUILESS_MAIN(TestGameCheck)

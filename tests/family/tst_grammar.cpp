@@ -173,6 +173,8 @@ void TestGrammar::problem_data()
         {ProblemId::FileItself, 2, 8, 19},
         {ProblemId::FileTwice, 3, 8, 12},
         {ProblemId::AnimationMissing, 2, 13, 1},
+        {ProblemId::CommandMissing, 2, 11, 5},
+        {ProblemId::MoveMissing, 3, 11, 8},
         {ProblemId::AnimationsNeeded, 3, 11, 2},
         {ProblemId::FileBroken, 2, 11, 12},
         {ProblemId::RecordBroken, 2, 10, 16},

@@ -35,7 +35,8 @@ struct Place
 
 const char* const stageAbove = "[arena]\nleft = -100\nright = 100\nfloor = 0\n";
 const char* const frames = "animation 200\nframe 0,0 loop\nanimation 800\nframe 0,0 loop\n"
-                           "animation 1000\nframe 0,0 loop\n";
+                           "animation 1000\nframe 0,0 loop\n[commands]\nlight = \"L\"\n"
+                           "throw = \"F + M\"\nwave = \"D, DF, F, L\"\n";
 
 const Place places[] = {
     {"Attack", "a.character", "", frames, "guard = 5, 0\n"},

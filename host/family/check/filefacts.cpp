@@ -2,6 +2,7 @@
 
 #include "family/familydocument.h"
 #include "family/grammar/linereader.h"
+#include "family/meaning/knowncommands.h"
 
 #include <zorv/code/codecs/filetext.h>
 #include <zorv/code/codecs/textcodecs.h>
@@ -11,6 +12,21 @@
 namespace Family {
 
 namespace {
+
+/// Where the names stand that values of a form refer to; null if they name nothing.
+QVector<NamedPlace>* usesOf(Form form, FileFacts* facts)
+{
+    switch (form) {
+    case Form::AnimationName:
+        return &facts->references;
+    case Form::CommandName:
+        return &facts->commandUses;
+    case Form::MoveName:
+        return &facts->moveUses;
+    default:
+        return nullptr;
+    }
+}
 
 /// One pass over the lines of a text.
 class TextPass
@@ -41,9 +57,10 @@ private:
     };
 
     void readNext(const QString& text);
-    void see(const ParsedLine& line, const LineDetails& details);
+    void see(const ParsedLine& line, const LineDetails& details, const QString& text);
     void seeGroup(const ParsedLine& line, const LineDetails& details);
-    void seeValue(const ParsedLine& line, const LineDetails& details);
+    void seeValue(const ParsedLine& line, const LineDetails& details, const QString& text);
+    void seeNames(const ParsedLine& line, const LineDetails& details, const QString& text);
     void seeFile(const ParsedLine& line, const LineDetails& details);
     void seeAsset(const ParsedLine& line, const LineDetails& details);
     void seeAnimation(const ParsedLine& line, const LineDetails& details);
@@ -111,17 +128,17 @@ void TextPass::readNext(const QString& text)
                                   problem.end - problem.start, problemInfo(problem.id).level,
                                   problem.id, problem.text});
     }
-    see(line, details);
+    see(line, details, text);
 }
 
-void TextPass::see(const ParsedLine& line, const LineDetails& details)
+void TextPass::see(const ParsedLine& line, const LineDetails& details, const QString& text)
 {
     switch (line.kind) {
     case ParsedLine::Group:
         seeGroup(line, details);
         break;
     case ParsedLine::Value:
-        seeValue(line, details);
+        seeValue(line, details, text);
         break;
     case ParsedLine::Animation:
         seeAnimation(line, details);
@@ -165,6 +182,9 @@ void TextPass::seeGroup(const ParsedLine& line, const LineDetails& details)
     } else {
         first = m_line;
     }
+    if (info->name == QLatin1String("move")) {
+        m_facts->moves.append(placeOf(details, LinePart::Argument, line.argument));
+    }
 }
 
 void TextPass::closeGroup()
@@ -180,12 +200,9 @@ void TextPass::closeGroup()
     m_group.info = nullptr;
 }
 
-void TextPass::seeValue(const ParsedLine& line, const LineDetails& details)
+void TextPass::seeValue(const ParsedLine& line, const LineDetails& details, const QString& text)
 {
-    if (line.key->form == Form::AnimationName && line.value.isValid()) {
-        m_facts->references.append(placeOf(details, LinePart::Value, line.value.toString()));
-    }
-    m_facts->hasCommands |= line.key->form == Form::MotionText;
+    seeNames(line, details, text);
     seeFile(line, details);
     seeAsset(line, details);
     if (line.key->isRepeatable()) {
@@ -197,6 +214,25 @@ void TextPass::seeValue(const ParsedLine& line, const LineDetails& details)
              placeOf(details, LinePart::Key, {}));
     } else {
         first = m_line;
+    }
+}
+
+/// What the value names, and what it gives a name.
+void TextPass::seeNames(const ParsedLine& line, const LineDetails& details, const QString& text)
+{
+    QVector<NamedPlace>* uses = usesOf(line.key->form, m_facts);
+    if (uses && line.value.isValid()) {
+        uses->append(placeOf(details, LinePart::Value, line.value.toString()));
+    }
+    const LinePart* key = details.part(LinePart::Key);
+    if (line.key->form == Form::MotionText && key) {
+        m_facts->commands.append(
+            placeOf(details, LinePart::Key, text.mid(key->start, key->end - key->start)));
+    }
+    const KnownCommand* known =
+        m_head.group ? knownCommandOf(m_head.group->name, line.key->name) : nullptr;
+    if (known && line.value.isValid()) {
+        m_facts->knownCommands.append(placeOf(details, LinePart::Key, QLatin1String(known->name)));
     }
 }
 

@@ -53,11 +53,15 @@ struct FileFacts
     QString file;       ///< what the problems have for a file
     Problems problems;  ///< of its lines, and within its groups and animations
     QVector<NamedPlace> animations;
-    QVector<NamedPlace> references;  ///< animations that values name
+    QVector<NamedPlace> commands;
+    QVector<NamedPlace> moves;
+    QVector<NamedPlace> references;     ///< animations that values name
+    QVector<NamedPlace> commandUses;    ///< commands that moves name
+    QVector<NamedPlace> knownCommands;  ///< what an engine looks for, at the values that need it
+    QVector<NamedPlace> moveUses;       ///< moves that values name
     QVector<AssetUse> sprites;
     QVector<AssetUse> sounds;
     QVector<FileReference> files;
-    bool hasCommands = false;  ///< it names a command
 
     /// Why the file could not be read, in words for the person; empty if it could.
     QString error;

@@ -2,9 +2,11 @@
 
 #include "family/check/assetcheck.h"
 #include "family/grammar/grammar.h"
+#include "family/meaning/knowncommands.h"
 #include "family/meaning/neededanimations.h"
 #include "family/project/unreachable.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMap>
 
@@ -59,6 +61,7 @@ ProjectFindings ProjectCheck::run()
         checkFiles(*code);
     }
     checkAnimations();
+    checkNames();
     checkAssets();
     return m_found;
 }
@@ -187,18 +190,59 @@ void ProjectCheck::checkAnimations()
     if (!m_isComplete) {
         return;
     }
-    QSet<QString> known;
     QStringList names;
     for (const NamedPlace& animation : qAsConst(animations)) {
-        known.insert(animation.name);
         names.append(animation.name);
     }
     checkNeeded(animations, names);
+    checkUses(ProblemId::AnimationMissing, &FileFacts::references, names);
+}
+
+QStringList ProjectCheck::namesOf(QVector<NamedPlace> FileFacts::*things) const
+{
+    QStringList names;
+    for (const FactStore::Code& code : m_found.code) {
+        for (const NamedPlace& thing : code.get()->*things) {
+            names.append(thing.name);
+        }
+    }
+    return names;
+}
+
+void ProjectCheck::checkUses(ProblemId id, QVector<NamedPlace> FileFacts::*uses,
+                             const QStringList& names)
+{
+    const QSet<QString> known(names.begin(), names.end());
     for (const FactStore::Code& code : qAsConst(m_found.code)) {
-        for (const NamedPlace& reference : code->references) {
-            if (!known.contains(reference.name)) {
-                tell(ProblemId::AnimationMissing, {reference.name, nameHint(reference.name, names)},
-                     reference);
+        for (const NamedPlace& use : code.get()->*uses) {
+            if (!known.contains(use.name)) {
+                tell(id, {use.name, nameHint(use.name, names)}, use);
+            }
+        }
+    }
+}
+
+/// Moves that a stage comes by, through a file that it shares, are none of its own. With a file
+/// missing, what it names may only seem to be.
+void ProjectCheck::checkNames()
+{
+    if (m_kind == FileKind::Character && m_isComplete) {
+        const QStringList commands = namesOf(&FileFacts::commands);
+        checkUses(ProblemId::CommandMissing, &FileFacts::commandUses, commands);
+        checkKnownCommands(commands);
+        checkUses(ProblemId::MoveMissing, &FileFacts::moveUses, namesOf(&FileFacts::moves));
+    }
+}
+
+/// Of a character that has commands: others are not begun for an engine yet.
+void ProjectCheck::checkKnownCommands(const QStringList& names)
+{
+    for (const FactStore::Code& code : qAsConst(m_found.code)) {
+        for (const NamedPlace& use : code->knownCommands) {
+            if (!names.isEmpty() && !names.contains(use.name)) {
+                const char* description = knownCommand(use.name)->description;
+                tell(ProblemId::CommandMissing,
+                     {use.name, QCoreApplication::translate("Family", description)}, use);
             }
         }
     }
@@ -209,7 +253,7 @@ void ProjectCheck::checkNeeded(const QVector<NamedPlace>& animations, const QStr
 {
     const bool hasCommands =
         std::any_of(m_found.code.cbegin(), m_found.code.cend(),
-                    [](const FactStore::Code& code) { return code->hasCommands; });
+                    [](const FactStore::Code& code) { return !code->commands.isEmpty(); });
     const QStringList missing = missingBasics(names);
     if (m_kind == FileKind::Character && hasCommands && !missing.isEmpty()) {
         const QLatin1String stance(neededAnimation(AnimationRole::Stance).identifier);

@@ -34,6 +34,10 @@ private:
     bool checkFile(const NamedPlace& place, const FileReference& reference);
     void takeAsset(const NamedPlace& place, const FileReference& reference);
     void checkAnimations();
+    void checkNames();
+    void checkUses(ProblemId id, QVector<NamedPlace> FileFacts::*uses, const QStringList& names);
+    void checkKnownCommands(const QStringList& names);
+    QStringList namesOf(QVector<NamedPlace> FileFacts::*things) const;
     void checkNeeded(const QVector<NamedPlace>& animations, const QStringList& names);
     void checkAssets();
     NamedPlace placeOf(const FileFacts& facts, const FileReference& reference) const;

@@ -72,6 +72,8 @@ enum class ProblemId : unsigned char {
     FileItself,
     FileTwice,
     AnimationMissing,
+    CommandMissing,
+    MoveMissing,
     AnimationsNeeded,
     FileBroken,
     RecordBroken,
