@@ -61,10 +61,12 @@ QImage moved(QImage image, const PaletteOrder& places)
 
 }  // namespace
 
-/// Of the palette of a sprite; none is like one without colours.
+/// Of the palette of a sprite. Entries that it lacks are opaque black: a palette that is reordered
+/// has all of them.
 EntryColors SpriteEditorPrivate::colorsOf(const Sprite* sprite)
 {
-    RGBA entries[256] = {};
+    RGBA entries[256];
+    std::fill(std::begin(entries), std::end(entries), RGBA{0, 0, 0, 255});
     if (const Palette* palette = sprite ? sprite->palette() : nullptr) {
         palette->toPalette(entries);
     }

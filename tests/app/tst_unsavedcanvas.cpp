@@ -287,19 +287,21 @@ void TestUnsavedCanvas::isSavedInItsOwnColours()
 
 void TestUnsavedCanvas::followsAMovedColour_data()
 {
-    columns<int, bool, bool>("layers", "isShown", "isCovered");
-    QTest::newRow("a layer") << 1 << true << false;
-    QTest::newRow("layers, one of them hidden") << 3 << true << false;
-    QTest::newRow("behind another sprite") << 3 << false << false;
-    QTest::newRow("colours that are covered") << 3 << true << true;
-    QTest::newRow("covered, behind another sprite") << 3 << false << true;
+    columns<int, bool, bool, int>("layers", "isShown", "isCovered", "colours");
+    QTest::newRow("a layer") << 1 << true << false << 256;
+    QTest::newRow("layers, one of them hidden") << 3 << true << false << 256;
+    QTest::newRow("behind another sprite") << 3 << false << false << 256;
+    QTest::newRow("colours that are covered") << 3 << true << true << 256;
+    QTest::newRow("covered, behind another sprite") << 3 << false << true << 256;
+    QTest::newRow("a palette of few colours") << 3 << true << true << 4;
 }
 
 /// What is painted is in the file when the pixels of that are mapped. Layers follow, whether they
 /// can be seen or not, and go back with undo.
 void TestUnsavedCanvas::followsAMovedColour()
 {
-    const auto [count, isShown, isCovered] = fetched<int, bool, bool>();
+    const auto [count, isShown, isCovered, colourCount] = fetched<int, bool, bool, int>();
+    sprites()->palettes()->palette(0)->state.count = colourCount;
     const auto colours = [this] {
         QVector<QImage> all{shown().convertToFormat(QImage::Format_ARGB32)};
         for (unsigned i = 0; i < canvas()->layers()->count(); ++i) {

@@ -18,6 +18,8 @@
 #include <QDropEvent>
 #include <QMimeData>
 
+#include <algorithm>
+
 namespace App {
 
 using Zorv::Palette;
@@ -28,9 +30,11 @@ namespace {
 
 constexpr int ColourCount = 256;
 
+/// Entries that the palette lacks are opaque black, as on the canvas.
 QVector<QRgb> tableOf(const Palette& palette)
 {
-    Zorv::RGBA colours[ColourCount] = {};
+    Zorv::RGBA colours[ColourCount];
+    std::fill(std::begin(colours), std::end(colours), Zorv::RGBA{0, 0, 0, 255});
     palette.toPalette(colours);
     QVector<QRgb> table;
     for (const Zorv::RGBA& each : colours) {

@@ -229,7 +229,8 @@ void PaletteEditorPrivate::addNew(int place)
     }
     RGBA colors[256] = {};
     if (choice == Copy) {
-        palette->toPalette(colors);
+        const Colors copied = colorsOf(palette);
+        std::copy(copied.begin(), copied.end(), colors);
     }
     if (palettes->insert(std::min(place, count()), colors, 0, true)) {
         updateRange();
