@@ -389,12 +389,14 @@ void TestUnsavedCanvas::leavesTheStageToAnotherProject()
     QCOMPARE(panel->palettes(), static_cast<Zorv::Palettes*>(others->palettes()));
 
     m->dialogs.shown.clear();
-    trigger("pal_clear");
-    QCOMPARE(m->dialogs.count("warning"), 1);
-    QVERIFY(own->palettes()->count() == 1 && others->palettes()->count() == 1);
-    QVERIFY(editor()->isActive());
-    QCOMPARE(panel->palettes(), static_cast<Zorv::Palettes*>(own->palettes()));
-    trigger("editor_anim");
+    for (const char* name : {"pal_clear", "palette_duplicate"}) {
+        trigger(name);
+        QCOMPARE(m->dialogs.shown.takeLast().kind, QString("warning"));
+        QVERIFY(own->palettes()->count() == 1 && others->palettes()->count() == 1);
+        QVERIFY(editor()->isActive());
+        QCOMPARE(panel->palettes(), static_cast<Zorv::Palettes*>(own->palettes()));
+        trigger("editor_anim");
+    }
 
     const QString png = m_folder->filePath("new.png");
     QVERIFY(picture(1).save(png));

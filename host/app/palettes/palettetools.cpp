@@ -192,14 +192,12 @@ void PaletteTools::countUses()
     }
 }
 
-/// What is changed is seen. The sprite that comes into sight with the canvas brings its own palette
-/// along: what is meant is the one that was chosen, which is there no more if the canvas is one of
-/// another file.
+/// What is changed is seen. What is meant is the palette that was chosen, which is there no more if
+/// the canvas is one of another file.
 ChosenPalette PaletteTools::comeForward() const
 {
     const ChosenPalette chosen(m_editor);
-    m_editor->switchToSprites();
-    chosen.comeBack();
+    m_editor->bringForward();
     return chosen;
 }
 

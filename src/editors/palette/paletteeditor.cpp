@@ -390,6 +390,11 @@ void PaletteEditor::switchToSprites()
     }
 }
 
+bool PaletteEditor::bringForward()
+{
+    return d->bringForward();
+}
+
 PaletteWidget* PaletteEditor::view() const
 {
     return d->view;

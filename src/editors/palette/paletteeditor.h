@@ -103,6 +103,11 @@ public:
     /// Brings the editor "sprites" to the front.
     void switchToSprites();
 
+    /// The same for a tool that is about to change the current palette, which stays the current one
+    /// whatever palette the canvas brings along. False, and the person is told, if the canvas keeps
+    /// work of another file: the palettes are those of that one then.
+    bool bringForward();
+
     /// The grid; null if it has gone with the host's window.
     PaletteWidget* view() const;
 
