@@ -150,6 +150,7 @@ public:
     static const Sprite* spriteOf(const KeptCanvas& canvas);
     std::optional<PaletteOrder> takeMove(const Sprite& now, const QImage& before,
                                          EntryColors* colorsBefore) const;
+    void followInKept();
     void followMoves();
     void moveIndices(const PaletteOrder& places);
 

@@ -44,6 +44,7 @@ bool SpriteEditorPrivate::bringBack()
 {
     const Sprite* now = sprite();
     const QImage stored = canvasForm(now->image());
+    followInKept();
     const auto found = std::find_if(kept.begin(), kept.end(), [&](const KeptCanvas& each) {
         return each.sprites == sprites && each.identifier == identifier &&
                (!each.record || each.record == now) && each.loadedAxis == now->axis() &&

@@ -78,6 +78,7 @@ EntryColors SpriteEditorPrivate::colorsOf(const Sprite* sprite)
 /// Before the first one nobody had to know the colours.
 void SpriteEditorPrivate::rememberOrder(const PaletteOrder& order)
 {
+    followInKept();
     orders.push_back(order);
     if (orders.size() > MostOrders) {
         orders.pop_front();
@@ -120,12 +121,11 @@ std::optional<PaletteOrder> SpriteEditorPrivate::takeMove(const Sprite& now, con
     return {};
 }
 
-void SpriteEditorPrivate::followMoves()
+/// A canvas of another file hears of nothing: it looks before the next move, and when it is wanted.
+void SpriteEditorPrivate::followInKept()
 {
-    if (orders.empty() || selGuard > 0) {
-        return;
-    }
-    for (KeptCanvas& each : kept) {
+    for (size_t i = 0; !orders.empty() && i < kept.size(); ++i) {
+        KeptCanvas& each = kept[i];
         const Sprite* of = spriteOf(each);
         if (const auto move = of ? takeMove(*of, each.loaded, &each.colors) : std::nullopt) {
             each.loaded = moved(each.loaded, *move);
@@ -133,6 +133,14 @@ void SpriteEditorPrivate::followMoves()
                            [&move](quint8 place) { return (*move)[place]; });
         }
     }
+}
+
+void SpriteEditorPrivate::followMoves()
+{
+    if (orders.empty() || selGuard > 0) {
+        return;
+    }
+    followInKept();
     const Sprite* now = sprite();
     const bool isThere = now && now == shown && canvas()->format() == ImageCanvas::IndexedFormat;
     if (const auto move = isThere ? takeMove(*now, loaded, &loadedColors) : std::nullopt) {

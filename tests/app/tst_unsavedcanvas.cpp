@@ -74,6 +74,7 @@ private slots:
     void followsAMovedColour_data();
     void followsAMovedColour();
     void leavesTheStageToAnotherProject();
+    void followsColoursOfAnotherProject();
     void hidingALayerIsWork_data();
     void hidingALayerIsWork();
     void fileComesBeforeSavedLayers();
@@ -86,6 +87,7 @@ private:
     Family::SpriteCollection* sprites() const { return m->window->spritePanel()->sprites(); }
     QImage shown() const { return canvas()->mergeLayers(nullptr); }
     QImage flipped() const { return picture(0).mirrored(true, false); }
+    void openOther() const;
     void trigger(const QString& name) const
     {
         QCoreApplication::processEvents();
@@ -353,8 +355,8 @@ void TestUnsavedCanvas::followsAMovedColour()
     QCOMPARE(canvas()->layers()->count(), unsigned(count));
 }
 
-/// Beside the stage of another project, sprites and palettes are those of that one.
-void TestUnsavedCanvas::leavesTheStageToAnotherProject()
+/// Another project, on the stage.
+void TestUnsavedCanvas::openOther() const
 {
     const QString other = m_game->path("characters/oda/oda.sprites");
     {
@@ -368,10 +370,16 @@ void TestUnsavedCanvas::leavesTheStageToAnotherProject()
                   "[info]\r\nname = \"Oda\"\r\n[files]\r\nsprites = \"oda.sprites\"\r\n"
                   "animations = \"oda.anim\"\r\n");
     m_game->write("characters/oda/oda.anim", "animation 1 \"One\"\r\nframe 3,0 loop\r\n");
-    Family::SpriteCollection* own = sprites();
     QVERIFY(m->window->openFile(m_game->oda()));
     QVERIFY(m->window->openFile(m_game->path("characters/oda/oda.anim")));
     trigger("editor_anim");
+}
+
+/// Beside the stage of another project, sprites and palettes are those of that one.
+void TestUnsavedCanvas::leavesTheStageToAnotherProject()
+{
+    Family::SpriteCollection* own = sprites();
+    openOther();
     auto* others = sprites();
     QVERIFY(others && others != own);
     QCOMPARE(editor()->sprites(), static_cast<Zorv::Sprites*>(own));
@@ -412,6 +420,38 @@ void TestUnsavedCanvas::leavesTheStageToAnotherProject()
     }
     QCOMPARE(editor()->spriteIndex(), 2);
     QCOMPARE(panel->palettes(), static_cast<Zorv::Palettes*>(others->palettes()));
+}
+
+/// Its canvas is kept while the colours move, and has hidden layers.
+void TestUnsavedCanvas::followsColoursOfAnotherProject()
+{
+    Family::SpriteCollection* own = sprites();
+    trigger("spr_saveimg");
+    openOther();
+    Family::SpriteCollection* others = sprites();
+    QVERIFY(editor()->showSprite(others, 0));
+    QImage layer = picture(0);
+    layer.fill(1);
+    canvas()->newRasterLayer(layer)->setVisible(false);
+    editor()->saveImage();
+    QVERIFY(m->window->openFile(m_game->path(SpritePath)));
+    QVERIFY(editor()->sprites() == own);
+    canvas()->flip(true, false);
+    QVERIFY(m->window->openFile(m_game->path("characters/oda/oda.anim")));
+    trigger("editor_anim");
+    m->host.setOption(QStringLiteral("pal_move"), 1);
+    auto* grid = m->window->findChild<Zorv::PaletteWidget*>();
+    const auto colour = others->palettes()->palette(0)->state.colors[1];
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Home);
+    QTest::keyClick(grid, Qt::Key_Right, Qt::AltModifier);
+    QVERIFY(editor()->sprites() == own);
+    QVERIFY(others->palettes()->palette(0)->state.colors[0] == colour);
+    m->dialogs.choiceAnswers = {Discard};
+    QVERIFY(editor()->showSprite(others, 0));
+    QCOMPARE(canvas()->layers()->count(), 2U);
+    QCOMPARE(canvas()->layers()->at(0)->image().pixelIndex(0, 0), 0);
+    QVERIFY(!editor()->isCanvasModified());
 }
 
 void TestUnsavedCanvas::hidingALayerIsWork_data()
