@@ -90,7 +90,10 @@ void SpriteAdding::run(bool isCropped)
 
 void SpriteAdding::add(int index, const ImageRead& read)
 {
-    Sprite* sprite = m_sprites && !read.image.isNull() ? m_sprites->addSprite() : nullptr;
+    if (!m_sprites) {
+        return;
+    }
+    Sprite* sprite = read.image.isNull() ? nullptr : m_sprites->addSprite();
     if (!sprite) {
         m_errors.append(read.error);
         return;

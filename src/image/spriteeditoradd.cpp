@@ -226,6 +226,9 @@ void SpriteEditorPrivate::saveImgAs()
     }
     if (rows.contains(row)) {
         saveImg();
+        if (isChanged()) {
+            return;
+        }
     }
     SpriteSave(before, rows, before->project(), {title, SpriteSave::LikeOneFile}).run();
 }

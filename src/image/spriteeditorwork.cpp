@@ -185,12 +185,14 @@ QImage SpriteEditorPrivate::flattened()
     return canvas()->mergeLayers(nullptr);
 }
 
+/// Part of larger steps, so what there is to tell waits for the end of those.
 void SpriteEditorPrivate::saveImg()
 {
     QString error;
     canvas()->endStroke();
     if (sprite() && isChanged() && !putIntoSprite(&error)) {
-        tellRefusal(error);
+        QMetaObject::invokeMethod(
+            this, [this, error] { tellRefusal(error); }, Qt::QueuedConnection);
     }
 }
 

@@ -80,6 +80,8 @@ private slots:
     void asksBeforeItDeletes();
     void takesTheCanvasInFirst();
     void outlivesItsQuestions();
+    void outlivesARefusal_data();
+    void outlivesARefusal();
     void followsFrameAndPalette();
     void lendsTheOrganizer();
     void addsFiles_data();
@@ -292,6 +294,30 @@ void TestSpriteActions::outlivesItsQuestions()
     m->dialogs.choiceAnswers = {1};
     m->dialogs.buttonAnswers = {Dialogs::Yes, Dialogs::Yes};
     m->action("spr_delete")->trigger();
+    QVERIFY(!editor()->sprites());
+}
+
+void TestSpriteActions::outlivesARefusal_data()
+{
+    columns<QString>("action");
+    for (const char* action : {"spr_duplicate", "spr_split_channels", "sprite_axis"}) {
+        QTest::newRow(action) << action;
+    }
+}
+
+/// What is on the canvas is too large for a sprite, and the project is closed behind that.
+void TestSpriteActions::outlivesARefusal()
+{
+    show(0);
+    QVERIFY(canvas()->setSize({Family::LargestSprite + 1, 12}, {}, true));
+    m->dialogs.whileOpen = [this](const PlannedDialogs::Shown&) {
+        m->dialogs.whileOpen = nullptr;
+        m->dialogs.choiceAnswers = {1};
+        m->action("close_folder")->trigger();
+    };
+    inDialog<QDialog>([](QDialog* dialog) { dialog->accept(); });
+    trigger(qPrintable(std::get<0>(fetched<QString>())));
+    QTRY_COMPARE(m->dialogs.count("warning"), 1);
     QVERIFY(!editor()->sprites());
 }
 
