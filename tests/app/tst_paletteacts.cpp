@@ -339,7 +339,7 @@ void TestPaletteActs::tellsUses()
     }
     trigger("palette_uses");
     QVERIFY2(line().endsWith(QLatin1String("\n4 slots are used.")), qPrintable(line()));
-    select({2});
+    panel()->selectColour(0, 0, 2);  // as a click on the stage does
     const QString note = QStringLiteral("2 sprites, pixels: %1").arg(counts[2]);
     QVERIFY2(line().endsWith(QStringLiteral("\nSlot 2: ") + note), qPrintable(line()));
     QTest::mouseMove(grid(), QPoint(2 * grid()->cellSize() + 3, 3));

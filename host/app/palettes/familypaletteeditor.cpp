@@ -115,6 +115,7 @@ void FamilyPaletteEditor::selectColour(int group, int number, int slot)
     }
     view()->clearSelection();
     view()->selection[slot] = true;
+    emit view()->selectionChanged();
 }
 
 }  // namespace App
