@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int MostNumber = std::numeric_limits<quint16>::max();
+constexpr int LeastPlace = std::numeric_limits<qint16>::min();
 constexpr int MostPlace = std::numeric_limits<qint16>::max();
 constexpr int ShownUses = 5;
 
@@ -49,8 +50,8 @@ QLabel* makeLabel(const char* name, const QString& text)
 }  // namespace
 
 ImgInfoDlg::ImgInfoDlg(QWidget* parent, const Facts& facts)
-    : QDialog(parent), m_facts(facts), m_x(makeField("x", -MostPlace, MostPlace, facts.axis.x())),
-      m_y(makeField("y", -MostPlace, MostPlace, facts.axis.y())),
+    : QDialog(parent), m_facts(facts), m_x(makeField("x", LeastPlace, MostPlace, facts.axis.x())),
+      m_y(makeField("y", LeastPlace, MostPlace, facts.axis.y())),
       m_width(makeField("width", 1, Zorv::ImageCanvas::MaxSide, facts.size.width())),
       m_height(makeField("height", 1, Zorv::ImageCanvas::MaxSide, facts.size.height())),
       m_form(new QComboBox)
