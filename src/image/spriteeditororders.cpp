@@ -135,6 +135,7 @@ void SpriteEditorPrivate::followInKept()
     }
 }
 
+/// Who paints goes on in the same colours: what erased must not draw.
 void SpriteEditorPrivate::followMoves()
 {
     if (orders.empty() || selGuard > 0) {
@@ -147,6 +148,8 @@ void SpriteEditorPrivate::followMoves()
         const bool isModified = editor->isCanvasModified();
         loaded = canvasForm(now->image());
         moveIndices(*move);
+        colors->setForeground((*move)[colors->foreground()]);
+        colors->setBackground((*move)[colors->background()]);
         touch(QRect(QPoint(), canvas()->size()));
         isModified ? history()->resetClean() : setStored();
     }

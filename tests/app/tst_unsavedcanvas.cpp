@@ -13,6 +13,7 @@
 #include "support/testtable.h"
 
 #include <zorv/core/fileinput.h>
+#include <zorv/editors/palette/colorpalette.h>
 #include <zorv/editors/palette/paletteeditor.h>
 #include <zorv/editors/palette/palettewidget.h>
 #include <zorv/image/canvas/imagecanvas.h>
@@ -305,7 +306,9 @@ void TestUnsavedCanvas::followsAMovedColour()
     const auto [count, isShown, isCovered, colourCount] = fetched<int, bool, bool, int>();
     sprites()->palettes()->palette(0)->state.count = colourCount;
     const auto colours = [this] {
-        QVector<QImage> all{shown().convertToFormat(QImage::Format_ARGB32)};
+        QVector<QImage> all{shown().convertToFormat(QImage::Format_ARGB32),
+                            QImage(1, 1, QImage::Format_ARGB32)};
+        all.last().fill(editor()->colors()->color(editor()->colors()->background()));
         for (unsigned i = 0; i < canvas()->layers()->count(); ++i) {
             QImage layer = canvas()->layers()->at(i)->image();
             layer.setColorTable(sprites()->sprite(0)->shownColors());
