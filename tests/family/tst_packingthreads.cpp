@@ -112,13 +112,17 @@ void TestPackingThreads::mapsIndices()
         }
         job.mappings = {{{}, exchanged}, {{}, halved}};
         file.beginChange({});
-        for (const QImage& image : pictures().mid(0, 300)) {
-            const int row = int(file.count());
-            file.insertSprite(row - 1, {1, quint16(row)}, {}, image);
+        for (int row = 0; row < 600; ++row) {  // more than one batch
+            file.insertSprite(row - 1, {1, quint16(row)}, {}, picture(4 + row, row % 4));
             job.mappings[row % 2].rows.append(row);
         }
         file.endChange();
         QVector<int> broken;
+        const QByteArray before = saved(file);
+        job.progress = [](int, int) { return false; };  // while the next ones are under way
+        QVERIFY(!mapIndices(&file, job, &broken));
+        QVERIFY(saved(file) == before);
+        job.progress = nullptr;
         QVERIFY(mapIndices(&file, job, &broken));
         QVERIFY(broken.isEmpty());
         expected = expected.isEmpty() ? saved(file) : expected;

@@ -139,9 +139,9 @@ void Mapping::take(const QVector<Work>& batch)
 bool Mapping::run(QVector<int>* broken)
 {
     collect();
-    WorkPool pool(m_job.threads);
     QVector<Work> working;
     QVector<Work> done;
+    WorkPool pool(m_job.threads);  // ends before what it works on, when it is given up
     const auto start = [&] {
         working = nextBatch(pool.threads());
         Work* const first = working.data();
