@@ -5184,6 +5184,25 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Operations::ReferenceIndex</name>
+    <message>
+        <source>palette %1</source>
+        <translation>Palette %1</translation>
+    </message>
+    <message>
+        <source>sprite %1</source>
+        <translation>Sprite %1</translation>
+    </message>
+    <message>
+        <source>sound %1</source>
+        <translation>Klang %1</translation>
+    </message>
+    <message>
+        <source>Looking for names</source>
+        <translation>Namen werden gesucht</translation>
+    </message>
+</context>
+<context>
     <name>Operations::SessionFolder</name>
     <message>
         <source>Cannot make a folder in %1. Check its permissions, and that there is room on the disk.</source>
@@ -5457,6 +5476,53 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>The sheet would be too large. Select fewer sprites.</source>
         <translation>Der Bogen wäre zu groß. Bitte weniger Sprites auswählen.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::Subject</name>
+    <message>
+        <source>Expected a group and a number from 0 to 65535, such as 200,0; found &apos;%1&apos;.</source>
+        <translation>Erwartet wird eine Gruppe und eine Nummer von 0 bis 65535 wie 200,0; gefunden wurde &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Expected a name on one line; found &apos;%1&apos;.</source>
+        <translation>Erwartet wird ein Name in einer Zeile; gefunden wurde &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Expected a path such as &apos;hero.anim&apos;, as the lines of the project have it; found &apos;%1&apos;.</source>
+        <translation>Erwartet wird ein Pfad wie &apos;hero.anim&apos;, so wie er in den Zeilen des Projekts steht; gefunden wurde &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>Expected a word of letters, digits, &apos;_&apos; and &apos;-&apos; that does not start with &apos;-&apos;; found &apos;%1&apos;.</source>
+        <translation>Erwartet wird ein Wort aus Buchstaben, Ziffern, &apos;_&apos; und &apos;-&apos;, das nicht mit &apos;-&apos; beginnt; gefunden wurde &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>There is no animation &apos;%1&apos;, and nothing names it.</source>
+        <translation>Es gibt keine Animation &apos;%1&apos;, und nichts nennt sie.</translation>
+    </message>
+    <message>
+        <source>There is no move &apos;%1&apos;, and nothing names it.</source>
+        <translation>Es gibt keine Aktion &apos;%1&apos;, und nichts nennt sie.</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;, and nothing names it.</source>
+        <translation>Es gibt keinen Befehl &apos;%1&apos;, und nichts nennt ihn.</translation>
+    </message>
+    <message>
+        <source>There is no palette &apos;%1&apos;.</source>
+        <translation>Es gibt keine Palette &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>There is no sprite &apos;%1&apos;, and nothing names it.</source>
+        <translation>Es gibt kein Sprite &apos;%1&apos;, und nichts nennt es.</translation>
+    </message>
+    <message>
+        <source>There is no sound &apos;%1&apos;, and nothing names it.</source>
+        <translation>Es gibt keinen Klang &apos;%1&apos;, und nichts nennt ihn.</translation>
+    </message>
+    <message>
+        <source>Nothing names a file &apos;%1&apos;.</source>
+        <translation>Nichts nennt eine Datei &apos;%1&apos;.</translation>
     </message>
 </context>
 <context>

@@ -110,6 +110,13 @@ constexpr Command table[] = {
      "how many ticks the attacker is free earlier (+) or later (-) when it hits and when it is\n"
      "guarded. All of it is found by playing the move, by the rules of 'zorv-player', against\n"
      "another fighter of the same kind, who stands as near as it can."},
+    {"references", "CHARACTER KIND NAME", 3, 3, Json, listReferences,
+     "Print every place of a game that names something of a character or stage.",
+     "CHARACTER is the main file (.character, .stage). KIND is animation, move, command, sprite,\n"
+     "palette, sound or file. NAME is its name, GROUP,NUMBER of a sprite or sound, or the path of a\n"
+     "file as the lines of the character have it. A line for each place, with a tab between the\n"
+     "place, 'defines' or 'uses', and the text of the line. Where projects share files, the places of\n"
+     "all for which the name is the same thing are there."},
     {"diff", "OLD NEW ID", 3, 3, Target | Zoom | ShowAxis | SpriteFile | Force | Json,
      diffAnimations,
      "Print which frames and contact boxes of an animation differ between two games.",

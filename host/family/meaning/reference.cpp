@@ -19,17 +19,6 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Family::Reference)
 };
 
-void takeColumns(Reference* reference, const LinePart* part)
-{
-    reference->start = part->start;
-    reference->end = part->end;
-}
-
-bool isAround(const LinePart* part, int column)
-{
-    return part && part->start <= column && column <= part->end;
-}
-
 Definition none(const QString& message)
 {
     return {{}, {}, message, -1};
@@ -67,11 +56,20 @@ Definition soundOf(const FamilyProject* project, const Reference& reference)
                        : Texts::tr("The project has no sounds."));
 }
 
-/// Whether a value of these numbers names a sound.
-bool namesSound(const GroupInfo* group, const KeyInfo* key, const QVariantList& numbers)
+Reference::Kind referenceKind(NameKind kind)
 {
-    return group && group->isSubGroup() && group->name == QLatin1String("sound") &&
-           key->form == Form::Pair && numbers.size() == 2;
+    switch (kind) {
+    case NameKind::Sprite:
+        return Reference::Sprite;
+    case NameKind::Sound:
+        return Reference::Sound;
+    case NameKind::File:
+        return Reference::File;
+    case NameKind::None:
+        return Reference::None;
+    default:
+        return Reference::Named;
+    }
 }
 
 QString missingText(Form form, const QString& name)
@@ -88,47 +86,32 @@ QString missingText(Form form, const QString& name)
 
 }  // namespace
 
-Reference referenceAt(const FamilyDocument* document, int line, int column)
+LineName nameAt(const FamilyDocument* document, int line, int column)
 {
-    Reference reference;
     LineDetails details;
     LineReport report(nullptr, &details);
     const LineHead head = headOfLine(document, line);
-    const ParsedLine parsed =
-        readLine(document->findBlockByNumber(line).text(), head, document->kind(), report);
-    if (parsed.kind == ParsedLine::Frame) {
-        const LinePart* sprite = details.part(LinePart::Sprite);
-        if (isAround(sprite, column)) {
-            reference.kind = Reference::Sprite;
-            reference.group = parsed.frame.group;
-            reference.number = parsed.frame.number;
-            takeColumns(&reference, sprite);
-        }
+    const QString text = document->findBlockByNumber(line).text();
+    const LineName name =
+        nameOf(text, readLine(text, head, document->kind(), report), head, details);
+    const bool isAround = name.start <= column && column <= name.end;
+    return isAround ? name : LineName();
+}
+
+Reference referenceAt(const FamilyDocument* document, int line, int column)
+{
+    Reference reference;
+    const LineName name = nameAt(document, line, column);
+    if (name.isNone() || name.isDefinition) {
         return reference;
     }
-    const LinePart* value = details.part(LinePart::Value);
-    if (parsed.kind != ParsedLine::Value || !parsed.value.isValid() || !isAround(value, column)) {
-        return reference;
-    }
-    const QVariantList numbers = parsed.value.toList();
-    if (namesSound(head.group, parsed.key, numbers)) {
-        reference.kind = Reference::Sound;
-        reference.group = numbers[0].toInt();
-        reference.number = numbers[1].toInt();
-        takeColumns(&reference, value);
-        return reference;
-    }
-    const Form form = parsed.key->form;
-    if (form == Form::Path) {
-        reference.kind = Reference::File;
-    } else if (form == Form::AnimationName || form == Form::CommandName || form == Form::MoveName) {
-        reference.kind = Reference::Named;
-    } else {
-        return reference;
-    }
-    reference.form = form;
-    reference.name = parsed.value.toString();
-    takeColumns(&reference, value);
+    reference.kind = referenceKind(name.kind);
+    reference.form = formNaming(name.kind);
+    reference.name = name.name;
+    reference.group = name.id.group;
+    reference.number = name.id.number;
+    reference.start = name.start;
+    reference.end = name.end;
     return reference;
 }
 

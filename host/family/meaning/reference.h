@@ -1,5 +1,6 @@
 #pragma once
 
+#include "family/meaning/linename.h"
 #include "family/meaning/projectnames.h"
 
 namespace Family {
@@ -19,6 +20,9 @@ struct Reference
     int start = 0;
     int end = 0;
 };
+
+/// The name at a line and column of a document, from 0, also where something gets it.
+LineName nameAt(const FamilyDocument* document, int line, int column);
 
 /// What the word at a line and column of a document refers to, from 0. It costs
 /// no more than to read the line.
