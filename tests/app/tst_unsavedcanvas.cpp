@@ -21,6 +21,7 @@
 #include <zorv/image/canvas/imagelayers.h>
 #include <zorv/image/canvas/imageundostack.h>
 #include <zorv/image/imagerenderer.h>
+#include <zorv/image/palettepreviews.h>
 #include <zorv/image/spriteeditor.h>
 
 #include <QAction>
@@ -408,6 +409,11 @@ void TestUnsavedCanvas::leavesTheStageToAnotherProject()
         QCOMPARE(panel->palettes(), static_cast<Zorv::Palettes*>(own->palettes()));
         trigger("editor_anim");
     }
+
+    // A costume of the canvas is no palette of the stage.
+    panel->setCurrentPalette(nullptr);
+    emit m->window->findChild<Zorv::PalettePreviews*>()->chosen(0);
+    QVERIFY(!panel->currentPalette());
 
     const QString png = m_folder->filePath("new.png");
     QVERIFY(picture(1).save(png));

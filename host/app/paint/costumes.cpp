@@ -94,11 +94,12 @@ void Costumes::update()
 }
 
 /// To be looked at. What was clicked on is the palette that the row was made of, as long as the
-/// file has it.
+/// file has it, and the panel of palettes is not that of another file meanwhile.
 void Costumes::choose(int index)
 {
-    if (isShown(index)) {
-        m_editor->paletteEditor()->setCurrentPalette(m_palettes[index]);
+    Zorv::PaletteEditor* panel = m_editor->paletteEditor();
+    if (isShown(index) && m_palettes[index]->owner() == panel->palettes()) {
+        panel->setCurrentPalette(m_palettes[index]);
     } else {
         update();
     }
