@@ -1,8 +1,14 @@
 #include "operations/moveframes.h"
 
-#include "family/grammar/filekind.h"
+#include "family/familydocument.h"
+#include "family/grammar/groupinfo.h"
+#include "family/meaning/projectnames.h"
+#include "family/nodes/animationnode.h"
+#include "family/nodes/groupnode.h"
+#include "family/nodes/valuenode.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/unreachable.h"
+#include "rules/codetext.h"
 #include "rules/gamereader.h"
 
 #include <QFileInfo>
@@ -42,6 +48,52 @@ QStringList charactersOf(const QString& path, QStringList* errors)
     return files;
 }
 
+/// The lines of a node as they stand.
+QString linesOf(const Zorv::CodeNode* node)
+{
+    QString text;
+    const int last = node->lastLine();
+    for (QTextBlock block = node->block(); block.isValid() && block.blockNumber() <= last;
+         block = block.next()) {
+        text += block.text() + QLatin1Char('\n');
+    }
+    return text;
+}
+
+/// Whether a group is a move that shows an animation.
+bool shows(const Zorv::CodeNode* node, const QString& animation)
+{
+    const auto* group = node->type() == Zorv::CodeNode::Group
+                            ? static_cast<const Family::GroupNode*>(node)
+                            : nullptr;
+    if (!group || group->info()->name != QLatin1String("move")) {
+        return false;
+    }
+    for (int i = 0; i < group->childCount(); ++i) {
+        const Zorv::CodeNode* child = group->childAt(unsigned(i));
+        if (child->type() == Zorv::CodeNode::Value) {
+            const auto* value = static_cast<const Family::ValueNode*>(child);
+            if (value->key()->form == Family::Form::AnimationName) {
+                return value->text() == animation;
+            }
+        }
+    }
+    return false;
+}
+
+const Zorv::CodeNode* moveShowing(const QString& animation, const Family::ProjectNames& names)
+{
+    for (const Family::FamilyDocument* document : names.documents()) {
+        for (int i = 0; i < document->childCount(); ++i) {
+            const Zorv::CodeNode* node = document->childAt(unsigned(i));
+            if (shows(node, animation)) {
+                return node;
+            }
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 QVector<CharacterMoves> moveFrames(const QString& path, QStringList* errors)
@@ -63,6 +115,25 @@ QVector<CharacterMoves> moveFrames(const QString& path, QStringList* errors)
     }
     *errors += reader.notes();
     return result;
+}
+
+/// The move and the animation alone are read as a character: the rest does not change its ticks.
+std::optional<Rules::MoveFacts> moveFactsOf(const Family::AnimationNode* animation,
+                                            const Family::ProjectNames& names)
+{
+    const Zorv::CodeNode* move = moveShowing(animation->identifier(), names);
+    if (!move) {
+        return {};
+    }
+    Rules::CodeText text({}, {}, Family::FileKind::Character);
+    text.take(linesOf(animation) + linesOf(move));
+    Rules::FighterData data;
+    Rules::GameReader(QString()).takeFighter(text, &data);
+    if (data.moves.isEmpty() || data.moves.first().animation < 0) {
+        return {};
+    }
+    const Rules::MoveFacts facts = Rules::aloneFactsOf(data, 0);
+    return facts.total < Rules::MoveFacts::MostTicks ? std::optional(facts) : std::nullopt;
 }
 
 }  // namespace Operations

@@ -88,10 +88,21 @@ bool CodeText::read(QString* error)
         return false;
     }
     readNamed();
+    finishAll();
+    return true;
+}
+
+void CodeText::take(const QString& text)
+{
+    readText(text, m_mainFile, m_kind);
+    finishAll();
+}
+
+void CodeText::finishAll()
+{
     for (Animation& animation : m_animations) {
         finish(&animation);
     }
-    return true;
 }
 
 bool CodeText::readFile(const QString& path, FileKind kind, QString* error)
@@ -106,28 +117,33 @@ bool CodeText::readFile(const QString& path, FileKind kind, QString* error)
     if (!file.read(*Zorv::FileSystemArchive::instance(), path, -1, error)) {
         return false;
     }
+    readText(file.text, path, kind);
+    return true;
+}
+
+void CodeText::readText(const QString& text, const QString& path, FileKind kind)
+{
     m_head = {};
     m_boxes = {};
     m_isInGroup = false;
     TextPlace place{path, 0};
-    for (int start = 0; start <= file.text.size();) {
-        const int found = file.text.indexOf(QLatin1Char('\n'), start);
-        const int end = found < 0 ? file.text.size() : found;
+    for (int start = 0; start <= text.size();) {
+        const int found = text.indexOf(QLatin1Char('\n'), start);
+        const int end = found < 0 ? text.size() : found;
         ++place.line;
-        const QString text = file.text.mid(start, end - start);
+        const QString written = text.mid(start, end - start);
         Family::LineDetails details;
         Family::LineReport report(nullptr, &details);
-        const ParsedLine line = Family::readLine(text, m_head, kind, report);
+        const ParsedLine line = Family::readLine(written, m_head, kind, report);
         if (line.kind == ParsedLine::Value) {
             const Family::LinePart* key = details.part(Family::LinePart::Key);
-            seeValue(line, key ? text.mid(key->start, key->end - key->start) : QString());
+            seeValue(line, key ? written.mid(key->start, key->end - key->start) : QString());
         } else {
             see(line, place);
         }
         noteErrors(details, place);
         start = end + 1;
     }
-    return true;
 }
 
 /// What is passed over.

@@ -36,6 +36,9 @@ public:
     /// False, with `error`, if the main file cannot be read.
     bool read(QString* error);
 
+    /// Takes a text that is no file of its own, in place of `read()`: what it names is not read.
+    void take(const QString& text);
+
     const QVector<CodeGroup>& groups() const { return m_groups; }
     const QVector<Animation>& animations() const { return m_animations; }
     QStringList notes() const { return m_notes; }
@@ -52,6 +55,8 @@ public:
 
 private:
     bool readFile(const QString& path, Family::FileKind kind, QString* error);
+    void readText(const QString& text, const QString& path, Family::FileKind kind);
+    void finishAll();
     void readNamed();
     void noteErrors(const Family::LineDetails& details, const TextPlace& place);
     void see(const Family::ParsedLine& line, const TextPlace& place);

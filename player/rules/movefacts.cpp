@@ -7,7 +7,6 @@ namespace Rules {
 
 namespace {
 
-constexpr int MostTicks = 3600;
 constexpr int Far = 20000;
 constexpr int Farthest = 400;
 constexpr int DistanceStep = 4;
@@ -57,7 +56,7 @@ void playAlone(Game game, int move, MoveFacts* facts)
     const int animation = state.fighters[0].animation;
     bool wasAttacking = false;
     int last = -1;
-    for (int at = 0; at < MostTicks && state.fighters[0].move == move; ++at) {
+    for (int at = 0; at < MoveFacts::MostTicks && state.fighters[0].move == move; ++at) {
         const FighterState& own = state.fighters[0];
         const bool attacks = own.animation == animation && isAttacking(game, own);
         if (attacks && !wasAttacking) {
@@ -105,7 +104,7 @@ MoveFacts::Meeting meetAt(const Game& game, int move, int distance, bool isGuard
     const HitLevel level = game.fighters[0].moves.at(move).hit.level;
     MoveFacts::Meeting meeting;
     int freed[2] = {-1, -1};
-    for (int at = 0; at < MostTicks && (freed[0] < 0 || freed[1] < 0); ++at) {
+    for (int at = 0; at < MoveFacts::MostTicks && (freed[0] < 0 || freed[1] < 0); ++at) {
         meeting.hits += hasEvent(state, wanted);
         if (isGuarded && hasEvent(state, Event::Hit)) {
             return {};
@@ -140,13 +139,20 @@ MoveFacts::Meeting meet(const Game& game, int move, bool isGuarded)
 
 }  // namespace
 
-MoveFacts factsOf(const FighterData& data, int move)
+MoveFacts aloneFactsOf(const FighterData& data, int move)
 {
     MoveFacts facts;
-    const Game game = mirrorGame(data);
     const Move& own = data.moves.at(move);
     facts.isInAir = own.air == Air::Only || own.from == From::Fall;
-    playAlone(game, move, &facts);
+    playAlone(mirrorGame(data), move, &facts);
+    return facts;
+}
+
+MoveFacts factsOf(const FighterData& data, int move)
+{
+    MoveFacts facts = aloneFactsOf(data, move);
+    const Game game = mirrorGame(data);
+    const Move& own = data.moves.at(move);
     if (own.hasHit && !facts.isInAir && !facts.active.isEmpty()) {
         facts.hit = meet(game, move, false);
         if (own.hit.level != HitLevel::Throw) {

@@ -7,6 +7,8 @@ namespace Rules {
 /// What a move is worth in ticks, as it happens in a match of the character against itself.
 struct MoveFacts
 {
+    static constexpr int MostTicks = 3600;  ///< longer moves are not followed to their end
+
     /// Ticks in a row with attack boxes.
     struct Active
     {
@@ -36,5 +38,8 @@ struct MoveFacts
 /// Plays a move of a character: alone, hitting and guarded, from as near as both can stand. Moves
 /// in the air are played alone.
 MoveFacts factsOf(const FighterData& data, int move);
+
+/// The same without the meetings, which take the most time.
+MoveFacts aloneFactsOf(const FighterData& data, int move);
 
 }  // namespace Rules

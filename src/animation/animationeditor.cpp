@@ -1,6 +1,7 @@
 #include "animation/animationeditor.h"
 
 #include "animation/animationeditor_p.h"
+#include "animation/framefacts.h"
 #include "animation/timeline/timelinewidget.h"
 #include "cache/sprites.h"
 #include "code/codedoc/animationcode.h"
@@ -466,6 +467,11 @@ void AnimationEditor::interpolateFrame(FrameCode*, int) {}
 QPoint AnimationEditor::offsetToParentFromInterpolation(QPoint position) const
 {
     return position;
+}
+
+FrameFacts AnimationEditor::frameFacts(const AnimationCode* animation) const
+{
+    return FrameFacts(animation);
 }
 
 bool AnimationEditor::mayDeleteAnimation()

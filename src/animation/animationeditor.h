@@ -19,6 +19,7 @@ class GraphicsWorkspace;
 class Sprites;
 struct AssetRequest;
 struct AssetResult;
+struct FrameFacts;
 
 /// The editor "anim": the animations of a text, frame by frame, on a stage and a time line.
 ///
@@ -251,6 +252,10 @@ protected:
     /// Asks the person for a new animation: identifier, text (empty for the template) and the place
     /// in the list, which comes in as a proposal. False if they gave up.
     virtual bool newAnimationData(QString& identifier, QString& text, int& position) = 0;
+
+    /// The frame data of an animation, which the panel tells, asked a moment behind an edit. Here
+    /// as its frames say; for a host whose engine ends an attack elsewhere.
+    virtual FrameFacts frameFacts(const AnimationCode* animation) const;
 
     /// Asked before the current animation is deleted, behind the question of "confirm_delete".
     /// False keeps it: for a host that knows who names it. Here true.

@@ -99,7 +99,7 @@ void AnimationEditorPrivate::showFacts()
         return;
     }
     const AnimationCode* shown = currentAnimation();
-    emit setFacts(shown ? textOf(FrameFacts(shown)) : QString());
+    emit setFacts(shown ? textOf(editor->frameFacts(shown)) : QString());
 }
 
 }  // namespace Zorv

@@ -8,14 +8,18 @@
 #include "family/familyanimations.h"
 #include "family/familydocument.h"
 #include "family/grammar/linereader.h"
+#include "family/meaning/projectnames.h"
+#include "family/nodes/animationnode.h"
 #include "family/nodes/framenode.h"
 #include "family/project/familyproject.h"
 #include "family/stage/framecomposer.h"
 #include "operations/check/uses.h"
 #include "operations/media/animationgif.h"
 #include "operations/media/assetimport.h"
+#include "operations/moveframes.h"
 
 #include <zorv/animation/edits/boxedits.h>
+#include <zorv/animation/framefacts.h>
 #include <zorv/code/codedoc/animationcode.h>
 #include <zorv/code/codedoc/contactboxescode.h>
 #include <zorv/core/interface.h>
@@ -208,6 +212,29 @@ bool FamilyAnimationEditor::mayDeleteAnimation()
 Zorv::AssetResult FamilyAnimationEditor::importAssets(const Zorv::AssetRequest& request)
 {
     return Operations::importAssets(request);
+}
+
+Zorv::FrameFacts FamilyAnimationEditor::frameFacts(const Zorv::AnimationCode* animation) const
+{
+    Zorv::FrameFacts facts(animation);
+    const auto* document = static_cast<const FamilyDocument*>(this->document());
+    const auto* project = static_cast<const Family::FamilyProject*>(document->project());
+    const auto played =
+        Operations::moveFactsOf(static_cast<const Family::AnimationNode*>(animation),
+                                Family::ProjectNames(document, project));
+    if (!played) {
+        return facts;
+    }
+    facts.isAttack = !played->active.isEmpty();
+    facts.start = facts.isAttack ? played->start : 0;
+    facts.active = 0;
+    for (const Rules::MoveFacts::Active& active : played->active) {
+        facts.active += active.ticks;
+    }
+    facts.recovery = played->recovery;
+    facts.pause = facts.isAttack ? played->total - facts.start - facts.active - facts.recovery : 0;
+    facts.total = played->total;
+    return facts;
 }
 
 bool FamilyAnimationEditor::newAnimationData(QString& identifier, QString& text, int& position)

@@ -78,6 +78,9 @@ protected:
     bool saveAnimationGIF(const QString& fileName, QString* error) override;
     Zorv::AssetResult importAssets(const Zorv::AssetRequest& request) override;
     bool mayDeleteAnimation() override;
+
+    /// By the rules of the engine, if a move shows the animation: it ends with a frame that stays.
+    Zorv::FrameFacts frameFacts(const Zorv::AnimationCode* animation) const override;
     bool newAnimationData(QString& identifier, QString& text, int& position) override;
 
 private:
