@@ -1,4 +1,5 @@
 #include "family/assets/newsprites.h"
+#include "family/assets/palettelist.h"
 #include "family/assets/spritecollection.h"
 #include "operations/hostinterface.h"
 #include "operations/media/imagefiles.h"
@@ -8,7 +9,9 @@
 
 #include "support/folders.h"
 #include "support/release.h"
+#include "support/testtable.h"
 
+#include <zorv/core/filesystemarchive.h>
 #include <zorv/media/imagefile.h>
 #include <zorv/media/imagetransfer.h>
 #include <zorv/media/losslessimages.h>
@@ -97,6 +100,8 @@ private slots:
     void standsOnTheSheet_data();
     void standsOnTheSheet();
     void isWholeOrNothing();
+    void storesAsOneThreadWould_data();
+    void storesAsOneThreadWould();
     void imageWithoutPalette();
     void palettesOfFewColors();
 
@@ -177,6 +182,59 @@ void TestSpriteExchange::isWholeOrNothing()
     QVERIFY(result.errors.first().contains("1-1.png"));
     QCOMPARE(sprites->count(), 0u);
     QCOMPARE(sprites->palettes()->count(), 0);
+}
+
+void TestSpriteExchange::storesAsOneThreadWould_data()
+{
+    columns<QString, bool, bool, int>("palette", "recolors", "reverses", "codec");
+    QTest::newRow("as they are") << "" << false << false << 0;
+    QTest::newRow("reversed") << "" << false << true << 0;
+    QTest::newRow("in a palette") << "1,1" << false << false << 0;
+    QTest::newRow("palette takes the colours") << "1,1" << true << true << 0;
+    QTest::newRow("in a codec") << "1,1" << false << false << int(PixelCodec::Png);
+}
+
+// The same bytes as of images that are stored one after the other. Some are there twice.
+void TestSpriteExchange::storesAsOneThreadWould()
+{
+    const auto [palette, recolors, reverses, codec] = fetched<QString, bool, bool, int>();
+    QRandomGenerator random(Seed);
+    const QVector<QVector<QRgb>> tables{randomTable(random), randomTable(random)};
+    const QTemporaryDir folder;
+    const Collection sprites(newSprites("a.sprites"));
+    const Collection plain(newSprites("b.sprites"));
+    for (SpriteCollection* each : {sprites.get(), plain.get()}) {
+        each->palettes()->ensure(colorsOfTable(tables[0]));
+    }
+    const int mode = palette.isEmpty() ? Zorv::Sprite::ImagePalette
+                     : recolors        ? Zorv::Sprite::ReplacePalette
+                                       : Zorv::Sprite::ForcePalette;
+    QStringList files;
+    for (int i = 0; i < 24; ++i) {
+        files.append(folder.filePath(QStringLiteral("2-%1.png").arg(i)));
+        const QImage image = i % 5 == 4 ? QImage(files.at(i - 2)) : randomImage(random, tables);
+        QVERIFY(image.save(files.last()));
+        FamilySprite* sprite = plain->addSprite();
+        sprite->setProperty("Identifier", QStringLiteral("2,%1").arg(i));
+        QString error;
+        sprite->setImage(Zorv::readImageFile(files.last(), &error), reverses, mode,
+                         palette.isEmpty() ? nullptr : plain->palettes()->item(0));
+        sprite->setProperty("Codec", codecName(PixelCodec(codec)));
+    }
+    plain->refresh();
+    ImportRequest request;
+    request.palette = palette;
+    request.recolors = recolors;
+    request.reverses = reverses;
+    request.codec = PixelCodec(codec);
+    QCOMPARE(importSprites(sprites.get(), files, request).done, 24);
+    QByteArray bytes[2];
+    for (const bool isPlain : {false, true}) {
+        const QString path = folder.filePath("out.sprites");
+        (isPlain ? plain : sprites)->toFile(*Zorv::FileSystemArchive::instance(), path, true);
+        bytes[isPlain] = readFile(path);
+    }
+    QVERIFY(bytes[0].size() > 1000 && bytes[0] == bytes[1]);
 }
 
 // Its indices are seen as shades of grey in whatever it becomes.

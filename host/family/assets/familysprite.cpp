@@ -163,40 +163,54 @@ void FamilySprite::setPixels(const QImage& image, const PixelRef& stored)
 
 void FamilySprite::setImage(const QImage& image, bool reversed, int mode, Zorv::Palette* palette)
 {
+    const auto chosen = chosenPalette(palette);
+    const QImage pixels =
+        adaptedImage(image, reversed, mode, chosen ? &chosen->state.colors : nullptr);
+    setAdapted(pixels, m_sprites->store()->add(pixels), mode, chosen);
+}
+
+QImage FamilySprite::adaptedImage(const QImage& image, bool reversed, int mode,
+                                  const PaletteColors* colors)
+{
     QImage pixels = normalizedImage(image);
-    if (pixels.isNull()) {
-        return;
+    if (colors && mode == ForcePalette) {
+        return adapted(pixels, *colors);
     }
-    PixelStore* store = m_sprites->store();
-    PaletteList* palettes = m_sprites->palettes();
-    auto chosen = palettes->share(palette);
-    if (!chosen) {
-        chosen = state.palette;
-    }
-    const AssetHistory::Step step(m_sprites->editHistory(), tr("Change sprite"));
-    if (chosen && mode == ForcePalette) {
-        setPixels(store->add(adapted(pixels, chosen->state.colors)), chosen);
-        return;
-    }
-    if (chosen && mode == ReplacePalette && pixels.format() != QImage::Format_Indexed8) {
+    if (colors && mode == ReplacePalette && pixels.format() != QImage::Format_Indexed8) {
         pixels = Zorv::ColorQuantizer::quantize(pixels, ColorCount);
     }
-    if (pixels.format() != QImage::Format_Indexed8) {
-        setPixels(store->add(pixels), nullptr);
-        return;
-    }
-    if (reversed) {
-        pixels = reversedOrder(pixels);
-    }
-    const PixelRef stored = store->add(pixels);
+    return reversed && pixels.format() == QImage::Format_Indexed8 ? reversedOrder(pixels) : pixels;
+}
+
+void FamilySprite::setAdapted(const PackedImage& packed, int mode, Zorv::Palette* palette)
+{
+    setAdapted(packed.image(), m_sprites->store()->add(packed), mode, chosenPalette(palette));
+}
+
+std::shared_ptr<FamilyPalette> FamilySprite::chosenPalette(const Zorv::Palette* palette) const
+{
+    const auto chosen = m_sprites->palettes()->share(palette);
+    return chosen ? chosen : state.palette;
+}
+
+/// `stored` has the pixels of the image; null if it cannot be a sprite.
+void FamilySprite::setAdapted(const QImage& pixels, const PixelRef& stored, int mode,
+                              std::shared_ptr<FamilyPalette> chosen)
+{
     if (!stored) {
         return;
     }
-    const PaletteColors colors = colorsOfTable(pixels.colorTable());
-    if (chosen && mode == ReplacePalette) {
-        palettes->setColors(chosen.get(), colors, Zorv::Palette::KeepPixels);
-    } else {
-        chosen = palettes->share(palettes->ensure(colors));
+    PaletteList* palettes = m_sprites->palettes();
+    const AssetHistory::Step step(m_sprites->editHistory(), tr("Change sprite"));
+    if (pixels.format() != QImage::Format_Indexed8) {
+        chosen = nullptr;
+    } else if (!chosen || mode != ForcePalette) {
+        const PaletteColors colors = colorsOfTable(pixels.colorTable());
+        if (chosen && mode == ReplacePalette) {
+            palettes->setColors(chosen.get(), colors, Zorv::Palette::KeepPixels);
+        } else {
+            chosen = palettes->share(palettes->ensure(colors));
+        }
     }
     setPixels(stored, chosen);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "family/assets/assetid.h"
+#include "family/assets/familypalette.h"
 #include "family/assets/pixeldata.h"
 
 #include <zorv/cache/sprite.h>
@@ -11,7 +12,7 @@
 
 namespace Family {
 
-class FamilyPalette;
+class PackedImage;
 class SpriteCollection;
 struct PackedPixels;
 
@@ -81,6 +82,13 @@ public:
     /// of true colour is brought to 256 colours by both, and stays as it is with `ImagePalette`.
     void setImage(const QImage& image, bool reversed, int mode, Zorv::Palette* palette) override;
 
+    /// The two halves of that call. What becomes of the image, on any thread; `colors` are those of
+    /// the palette, null without one.
+    static QImage adaptedImage(const QImage& image, bool reversed, int mode,
+                               const PaletteColors* colors);
+    /// Then the sprite takes what was packed of it.
+    void setAdapted(const PackedImage& packed, int mode, Zorv::Palette* palette);
+
     Zorv::Palette* palette() const override;
     QPoint axis() const override;
     void setAxis(QPoint axis);
@@ -118,7 +126,10 @@ public:
     int row = -1;  ///< in the list; -1 outside of it
 
 private:
+    std::shared_ptr<FamilyPalette> chosenPalette(const Zorv::Palette* palette) const;
     void setPixels(const QImage& image, const PixelRef& stored);
+    void setAdapted(const QImage& pixels, const PixelRef& stored, int mode,
+                    std::shared_ptr<FamilyPalette> chosen);
     void setPixels(const PixelRef& stored, const std::shared_ptr<FamilyPalette>& palette);
     void putPixels(const PixelRef& pixels, const std::shared_ptr<FamilyPalette>& palette);
     void setId(AssetId id);

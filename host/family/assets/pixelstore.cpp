@@ -253,7 +253,7 @@ bool PackedOnce::isFirst(quint64 crc)
     return m_seen.size() > before;
 }
 
-PackedImage::PackedImage(const QImage& image, PackedOnce* once)
+PackedImage::PackedImage(const QImage& image, PackedOnce* once, PixelCodec codec)
     : PreparedImage(normalizedImage(image))
 {
     if (!fitsSprite(this->image())) {
@@ -262,7 +262,7 @@ PackedImage::PackedImage(const QImage& image, PackedOnce* once)
     m_rows = rowsOfImage(this->image());
     m_packed = unpacked(this->image(), m_rows);
     if (once->isFirst(decodedChecksum(m_packed.pixelCrc, m_packed.format))) {
-        m_packed = PackedPixels::pack(m_packed.format, m_rows);
+        m_packed = PackedPixels::pack({m_packed.format.size, m_packed.format.bits, codec}, m_rows);
     }
 }
 

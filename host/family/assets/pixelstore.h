@@ -125,7 +125,8 @@ private:
 class PackedImage final : public Zorv::PreparedImage
 {
 public:
-    PackedImage(const QImage& image, PackedOnce* once);
+    /// In that codec, or in the smallest one if that one cannot hold them or is none.
+    PackedImage(const QImage& image, PackedOnce* once, PixelCodec codec = PixelCodec::None);
 
     /// Nothing in both for an image without pixels, or larger than a sprite can be. Without a
     /// stream equal ones were packed, most likely.

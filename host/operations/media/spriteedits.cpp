@@ -1,9 +1,11 @@
 #include "operations/media/spriteedits.h"
 
 #include "family/assets/indexmapping.h"
+#include "family/assets/pixelstore.h"
 #include "family/assets/spritecollection.h"
 #include "operations/media/spriteexport.h"
 
+#include <zorv/core/jobs.h>
 #include <zorv/core/progress.h>
 
 #include <QCoreApplication>
@@ -118,12 +120,17 @@ public:
     MediaResult run(const QVector<int>& rows, PixelsKeep keep);
 
 private:
+    using Packed = std::shared_ptr<const Family::PackedImage>;
+
     bool mapPixels(const QVector<FamilySprite*>& sprites, QSet<int>* broken);
-    void recolor(FamilySprite* sprite, PixelsKeep keep);
+    bool adaptTrueColors(const QVector<FamilySprite*>& sprites);
+    std::function<Packed()> adapter(const FamilySprite& sprite) const;
+    void recolor(FamilySprite* sprite);
 
     SpriteCollection* m_sprites;
     FamilyPalette* m_palette;
     MediaResult m_result;
+    const std::shared_ptr<Family::PackedOnce> m_once = std::make_shared<Family::PackedOnce>();
 };
 
 MediaResult Recoloring::run(const QVector<int>& rows, PixelsKeep keep)
@@ -134,11 +141,18 @@ MediaResult Recoloring::run(const QVector<int>& rows, PixelsKeep keep)
         m_result.isCanceled = true;
         return m_result;
     }
+    QVector<FamilySprite*> ofTrueColor;
     for (FamilySprite* sprite : sprites) {
-        if (!broken.contains(sprite->row)) {
-            recolor(sprite, keep);
+        if (broken.contains(sprite->row)) {
+            continue;
+        }
+        if (keep == PixelsKeep::Looks && sprite->bits() == 32) {
+            ofTrueColor.append(sprite);
+        } else {
+            recolor(sprite);
         }
     }
+    m_result.isCanceled = !ofTrueColor.isEmpty() && !adaptTrueColors(ofTrueColor);
     return m_result;
 }
 
@@ -155,24 +169,46 @@ bool Recoloring::mapPixels(const QVector<FamilySprite*>& sprites, QSet<int>* bro
     return isDone;
 }
 
-void Recoloring::recolor(FamilySprite* sprite, PixelsKeep keep)
+/// The nearest colours are found, and pixels packed, on all processors.
+bool Recoloring::adaptTrueColors(const QVector<FamilySprite*>& sprites)
+{
+    return Zorv::runJobs<Packed>(
+        Text::tr("Recolour sprites"), sprites.size(), [&](int i) { return adapter(*sprites[i]); },
+        [&](int i, const Packed& packed) {
+            if (!packed) {
+                m_result.warnings.append(brokenLine(*sprites[i], sprites[i]->pixelFault()));
+                return;
+            }
+            sprites[i]->setAdapted(*packed, Zorv::Sprite::ForcePalette, m_palette);
+            ++m_result.done;
+        });
+}
+
+/// Gives null for a sprite whose pixels are broken.
+std::function<Recoloring::Packed()> Recoloring::adapter(const FamilySprite& sprite) const
+{
+    return [pixels = Family::PackedPixels(*sprite.state.pixels.get()),
+            colors = m_palette->state.colors, once = m_once]() -> Packed {
+        const QImage image = Family::imageOfRows(pixels.format, pixels.rows(), {});
+        if (image.isNull()) {
+            return nullptr;
+        }
+        return std::make_shared<const Family::PackedImage>(
+            FamilySprite::adaptedImage(image, false, Zorv::Sprite::ForcePalette, &colors),
+            once.get());
+    };
+}
+
+void Recoloring::recolor(FamilySprite* sprite)
 {
     if (sprite->bits() != 32) {
         sprite->setPalette(m_palette);
-    } else if (keep == PixelsKeep::Indices) {
+        ++m_result.done;
+    } else {
         m_result.warnings.append(Text::tr("Sprite %1 stays as it is: it is of true colour. Have "
                                           "its pixels take the nearest colours instead.")
                                      .arg(sprite->id().text()));
-        return;
-    } else {
-        const QImage image = sprite->image();
-        if (image.isNull()) {
-            m_result.warnings.append(brokenLine(*sprite, sprite->pixelFault()));
-            return;
-        }
-        sprite->setImage(image, false, Zorv::Sprite::ForcePalette, m_palette);
     }
-    ++m_result.done;
 }
 
 }  // namespace
@@ -239,10 +275,22 @@ MediaResult recolorSprites(SpriteCollection* sprites, const QVector<int>& rows,
                            const QString& palette, PixelsKeep keep)
 {
     sprites->refresh();
-    const AssetHistory::Step step(sprites->editHistory(), Text::tr("Recolour sprites"));
-    QString error;
-    FamilyPalette* const chosen = ensurePalette(sprites, palette, &error);
-    return chosen ? Recoloring(sprites, chosen).run(rows, keep) : MediaResult(error);
+    const AssetHistory::Hold hold(sprites->steps());
+    MediaResult result;
+    bool hasChanged = false;
+    const auto watch = QObject::connect(sprites, &SpriteCollection::modified,
+                                        [&hasChanged] { hasChanged = true; });
+    {
+        const AssetHistory::Step step(sprites->editHistory(), Text::tr("Recolour sprites"));
+        QString error;
+        FamilyPalette* const chosen = ensurePalette(sprites, palette, &error);
+        result = chosen ? Recoloring(sprites, chosen).run(rows, keep) : MediaResult(error);
+    }
+    QObject::disconnect(watch);
+    if (result.isCanceled && hasChanged) {
+        sprites->undo();
+    }
+    return result;
 }
 
 QStringList brokenSprites(const SpriteCollection& sprites, const QVector<int>& rows)

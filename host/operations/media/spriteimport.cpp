@@ -1,5 +1,6 @@
 #include "operations/media/spriteimport.h"
 
+#include "family/assets/pixelstore.h"
 #include "family/assets/spritecollection.h"
 #include "operations/media/assetnames.h"
 #include "operations/media/spriteexport.h"
@@ -9,6 +10,8 @@
 #include <zorv/media/tools/cropimage.h>
 
 #include <QCoreApplication>
+
+#include <optional>
 
 namespace Operations {
 
@@ -35,6 +38,7 @@ struct ImportImage
     QImage image;
     QPoint corner;  ///< what was cut off in front of it
     QString error;
+    std::shared_ptr<const Family::PackedImage> packed;  ///< as the sprite takes it
 };
 
 /// Puts images into a collection, between two of its signals.
@@ -52,7 +56,9 @@ private:
     bool findSprites(MediaResult* refusal);
     bool findPalette(QString* error);
     void putAll(MediaResult* result);
-    void setImage(FamilySprite* sprite, const QImage& image);
+    int mode() const;
+    std::function<ImportImage(const QString&)> reader() const;
+    void setImage(FamilySprite* sprite, const ImportImage& read);
     QString put(int index, const ImportImage& read);
 
     SpriteCollection* m_sprites;
@@ -115,11 +121,35 @@ MediaResult Import::run()
     return result;
 }
 
-/// Images go into the collection, which packs them, as they come: no more than a few are in memory.
+int Import::mode() const
+{
+    return !m_palette           ? Zorv::Sprite::ImagePalette
+           : m_request.recolors ? Zorv::Sprite::ReplacePalette
+                                : Zorv::Sprite::ForcePalette;
+}
+
+/// What is done with a file on another thread: all but what needs the collection.
+std::function<ImportImage(const QString&)> Import::reader() const
+{
+    const auto colors = m_palette ? std::make_optional(m_palette->state.colors) : std::nullopt;
+    const auto once = std::make_shared<Family::PackedOnce>();
+    return [request = m_request, mode = mode(), colors, once](const QString& file) {
+        ImportImage read = readCropped(file, request.crops);
+        if (read.error.isEmpty()) {
+            read.packed = std::make_shared<const Family::PackedImage>(
+                FamilySprite::adaptedImage(read.image, request.reverses, mode,
+                                           colors ? &*colors : nullptr),
+                once.get(), request.codec);
+        }
+        return read;
+    };
+}
+
+/// Images go into the collection as they come: no more than a few are in memory.
 void Import::putAll(MediaResult* result)
 {
-    const auto prepare = [&](int i) -> std::function<ImportImage()> {
-        return [file = m_files[i], crops = m_request.crops] { return readCropped(file, crops); };
+    const auto prepare = [&, toRead = reader()](int i) -> std::function<ImportImage()> {
+        return [file = m_files[i], toRead] { return toRead(file); };
     };
     const auto take = [&](int i, const ImportImage& read) {
         if (!read.error.isEmpty()) {
@@ -165,17 +195,14 @@ bool Import::findPalette(QString* error)
 }
 
 /// A palette that an image has brought is called as the file tells, if that is free.
-void Import::setImage(FamilySprite* sprite, const QImage& image)
+void Import::setImage(FamilySprite* sprite, const ImportImage& read)
 {
-    const int mode = !m_palette           ? Zorv::Sprite::ImagePalette
-                     : m_request.recolors ? Zorv::Sprite::ReplacePalette
-                                          : Zorv::Sprite::ForcePalette;
     PaletteList* palettes = m_sprites->palettes();
     const int count = palettes->count();
-    sprite->setImage(image, m_request.reverses, mode, m_palette);
+    sprite->setAdapted(*read.packed, mode(), m_palette);
     AssetId id;
-    if (palettes->count() > count && AssetId::read(image.text(QLatin1String(PaletteText)), &id) &&
-        !palettes->byId(id)) {
+    if (palettes->count() > count &&
+        AssetId::read(read.image.text(QLatin1String(PaletteText)), &id) && !palettes->byId(id)) {
         sprite->palette()->setProperty(QStringLiteral("Identifier"), id.text());
     }
 }
@@ -186,7 +213,7 @@ QString Import::put(int index, const ImportImage& read)
     const bool isNew = !m_old[index];
     FamilySprite* sprite = isNew ? m_sprites->addSprite() : m_old[index];
     sprite->setProperty(QStringLiteral("Identifier"), m_targets[index].id.text());
-    setImage(sprite, read.image);
+    setImage(sprite, read);
     const QPoint axis = m_request.hasAxis ? m_request.axis
                         : isNew           ? axisOf(read.image, QPoint())
                                           : axisOf(read.image, sprite->axis());
