@@ -33,7 +33,11 @@ if(ZORV_HOST)
 endif()
 
 find_program(CCACHE ccache)
-if(CCACHE)
+if(CCACHE AND ZORV_PCH)
+    # Without these ccache keeps no result of a source that is compiled with such headers.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+elseif(CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
@@ -42,6 +46,11 @@ endif()
 if(ZORV_TESTS)
     find_program(LLD ld.lld)
 endif()
+
+set(ZORV_PRECOMPILED
+    <algorithm> <functional> <memory> <vector>
+    <QAction> <QApplication> <QDialog> <QDir> <QFile> <QHash> <QImage> <QLabel> <QMenu> <QPainter>
+    <QPointer> <QSettings> <QStringList> <QTreeView> <QVBoxLayout> <QVector>)
 
 add_library(zorv_options INTERFACE)
 if(LLD)
@@ -68,6 +77,16 @@ if(ZORV_COVERAGE)
     target_link_options(zorv_options INTERFACE --coverage)
 endif()
 
+# zorv_precompile(target)
+#
+# With ZORV_PCH, the headers that most sources include are parsed once for the target.
+function(zorv_precompile target)
+    if(ZORV_PCH)
+        target_compile_options(${target} PRIVATE -fpch-preprocess)
+        target_precompile_headers(${target} PRIVATE ${ZORV_PRECOMPILED})
+    endif()
+endfunction()
+
 # zorv_test(tst_name [GUI [SCREENS size...]] [SOURCES file...] [LIBRARIES target...]
 #           [ARGUMENTS arg...])
 #
@@ -79,6 +98,13 @@ function(zorv_test name)
     add_executable(${name} ${name}.cpp ${arg_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE Zorv::zorv zorv_options Qt5::Test ${arg_LIBRARIES})
+    if(ZORV_PCH)
+        target_precompile_headers(${name} REUSE_FROM zorv_test_headers)
+    endif()
+    if(arg_GUI AND NOT ZORV_GUI_TESTS)
+        set_target_properties(${name} PROPERTIES EXCLUDE_FROM_ALL ON)
+        return()
+    endif()
     if(arg_GUI)
         find_program(XVFB_RUN xvfb-run REQUIRED)
         set(tests)
