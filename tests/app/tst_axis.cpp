@@ -28,6 +28,7 @@ private slots:
     void isSetForSeveral_data();
     void isSetForSeveral();
     void takesTheCanvasIn();
+    void givesUpBesideTheCanvas();
     void readsBehindTheDialog();
 
 private:
@@ -223,6 +224,21 @@ void TestAxis::takesTheCanvasIn()
     sprites()->undo();
     QVERIFY(axes() == before);
     QVERIFY(differences(sprites()->sprite(0)->image(), picture(0)).isEmpty());
+}
+
+/// The canvas is in the file though the axes are too far away; one that is too large changes none.
+void TestAxis::givesUpBesideTheCanvas()
+{
+    const QVector<QPoint> before = axes();
+    canvas()->flip(true, false);
+    setAll(int(Operations::AxisBase::Current), {32760, 0});
+    QCOMPARE(m->dialogs.count("error"), 1);
+    QCOMPARE(sprites()->undoTitle(), QStringLiteral("Save image changes"));
+    sprites()->undo();
+    QVERIFY(canvas()->setSize({Family::LargestSprite + 1, 12}, {}, true));
+    setAll(int(Operations::AxisBase::TopLeft), {});
+    QTRY_COMPARE(m->dialogs.count("warning"), 1);
+    QCOMPARE(axes(), before);
 }
 
 void TestAxis::readsBehindTheDialog()

@@ -121,12 +121,22 @@ void setAxesOfSelected(const SpritePanel* panel, Zorv::SpriteEditor* canvas, QWi
     };
     rows.erase(std::remove_if(rows.begin(), rows.end(), isAnother), rows.end());
     sprites->beginChange(AxisDialog::tr("Set axis"));
-    if (canvas->sprites() == sprites && rows.contains(canvas->spriteIndex())) {
+    const bool isOnCanvas = canvas->sprites() == sprites && rows.contains(canvas->spriteIndex());
+    if (isOnCanvas) {
         canvas->saveImage();
     }
+    // What cannot be saved keeps its axis, which would come back with the next save. Why is told.
+    const bool isSaved = !isOnCanvas || !canvas->isCanvasModified();
     const Operations::MediaResult result =
-        Operations::setAxes(sprites, rows, dialog.base(), dialog.offset());
+        isSaved ? Operations::setAxes(sprites, rows, dialog.base(), dialog.offset())
+                : Operations::MediaResult();
+    if (!result.errors.isEmpty()) {
+        sprites->editHistory().nameByFirstPart();
+    }
     sprites->endChange();
+    if (!isSaved) {
+        return;
+    }
     tellResult(AxisDialog::tr("Set axis"),
                AxisDialog::tr("The axis of %n sprite(s) is set.", nullptr, result.done), result);
 }
