@@ -24,6 +24,25 @@ constexpr Command table[] = {
      "with 'error', 'warning' or 'deprecated'. GAME is a game folder, with all projects below\n"
      "it. FILE is a main file (.character, .stage), which is checked with all the files that it\n"
      "names, or another file of code, sprites or sounds. The status is 1 if there is any problem."},
+    {"new game", "GAME [CHARACTER [STAGE]]", 1, 3, Template, newGame,
+     "Make a game with a character and a stage.",
+     "GAME is a folder that is not there, or an empty one. The character can stand, walk, attack and\n"
+     "be hit, with figures drawn in place of sprites: 'zorv-player GAME' plays it. Its name is\n"
+     "CHARACTER, else 'fighter', that of the stage STAGE, else 'training-room'. What was made is\n"
+     "printed. Either all of it is there afterwards, or nothing."},
+    {"new character", "GAME NAME", 2, 2, Template, newCharacter,
+     "Make a character in a game.",
+     "It is the folder NAME below 'characters' of the game folder GAME, with a main file, moves,\n"
+     "commands, and animations for all that an engine shows. Figures are drawn in place of sprites.\n"
+     "The path of its main file is printed."},
+    {"new stage", "GAME NAME", 2, 2, Template, newStage,
+     "Make a stage in a game.",
+     "It is the folder NAME below 'stages' of the game folder GAME. The path of its main file is\n"
+     "printed."},
+    {"new file", "FILE", 1, 1, Template, newFile,
+     "Make a file of code, sprites, sounds or a palette.",
+     "The suffix tells what it is: .character, .stage, .code, .anim, .commands, .sprites, .sounds or\n"
+     ".act. A project has the file once its main file names it. What is there is not replaced."},
     {"tree", "FILE", 1, 1, Json | Encoding, treeCommand,
      "Print the groups, values, animations, frames and boxes of a file.",
      "A line for each, with a tab between its number in the file, what it is, and the path\n"

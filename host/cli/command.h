@@ -38,6 +38,10 @@ bool parseArguments(const Command& command, const QStringList& arguments, Invoca
                     QString* error);
 
 int checkCommand(const Invocation& invocation, Output& output);
+int newGame(const Invocation& invocation, Output& output);
+int newCharacter(const Invocation& invocation, Output& output);
+int newStage(const Invocation& invocation, Output& output);
+int newFile(const Invocation& invocation, Output& output);
 int treeCommand(const Invocation& invocation, Output& output);
 int getCommand(const Invocation& invocation, Output& output);
 int setCommand(const Invocation& invocation, Output& output);

@@ -216,6 +216,8 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "do not copy the game aside first")},
     {Encoding, "--encoding", "NAME", takeEncoding,
      QT_TRANSLATE_NOOP("Cli", "the encoding of FILE, instead of the one that seems to be in use")},
+    {Template, "--template", "NAME", setText<&Invocation::templateName>,
+     QT_TRANSLATE_NOOP("Cli", "what it begins as, one of our templates or of your own")},
     {Engine, "--engine", "NAME", setText<&Invocation::engine>,
      QT_TRANSLATE_NOOP("Cli", "an engine of the settings, or a program")},
     {Parameters, "--parameters", "TEXT", setText<&Invocation::parameters>,

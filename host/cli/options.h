@@ -61,8 +61,9 @@ struct Invocation
     bool replaces = false;
     bool skips = false;
     bool bringsSprites = false;
-    QString animation;  ///< an identifier; null for all
-    int rate = 0;       ///< of sounds; 0 if none was named, and so the next two
+    QString animation;     ///< an identifier; null for all
+    QString templateName;  ///< null for the first of ours
+    int rate = 0;          ///< of sounds; 0 if none was named, and so the next two
     int bits = 0;
     int channels = 0;
     double from = -1;  ///< seconds; negative if none were named
@@ -131,7 +132,8 @@ enum Option : quint64 {
     To = quint64(1) << 51,
     Silence = quint64(1) << 52,
     Peak = quint64(1) << 53,
-    Loudness = quint64(1) << 54
+    Loudness = quint64(1) << 54,
+    Template = quint64(1) << 55
 };
 
 /// One option: a row of the table.
