@@ -389,6 +389,30 @@
         <source>Without &amp;blue (tritanopia)</source>
         <translation>Ohne &amp;Blau (Tritanopie)</translation>
     </message>
+    <message>
+        <source>New &amp;game...</source>
+        <translation>Neues &amp;Spiel...</translation>
+    </message>
+    <message>
+        <source>New &amp;character...</source>
+        <translation>Neue &amp;Figur...</translation>
+    </message>
+    <message>
+        <source>New &amp;stage...</source>
+        <translation>Neue &amp;Bühne...</translation>
+    </message>
+    <message>
+        <source>New &amp;file...</source>
+        <translation>Neue &amp;Datei...</translation>
+    </message>
+    <message>
+        <source>&amp;First lesson</source>
+        <translation>&amp;Erste Lektion</translation>
+    </message>
+    <message>
+        <source>Open &amp;sample game</source>
+        <translation>&amp;Beispielspiel öffnen</translation>
+    </message>
 </context>
 <context>
     <name>App::AxisDialog</name>
@@ -1174,6 +1198,13 @@
     </message>
 </context>
 <context>
+    <name>App::LessonView</name>
+    <message>
+        <source>First lesson</source>
+        <translation>Erste Lektion</translation>
+    </message>
+</context>
+<context>
     <name>App::MainWindow</name>
     <message>
         <source>Projects</source>
@@ -1190,10 +1221,6 @@
     <message>
         <source>A double click in the tree of projects shows a text.</source>
         <translation>Ein Doppelklick im Baum der Projekte zeigt einen Text.</translation>
-    </message>
-    <message>
-        <source>The menu File opens a game folder.</source>
-        <translation>Das Menü Datei öffnet einen Spielordner.</translation>
     </message>
     <message>
         <source>Close panel %1</source>
@@ -1289,6 +1316,10 @@
         <source>Colour bl&amp;indness</source>
         <translation>Far&amp;benblindheit</translation>
     </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
 </context>
 <context>
     <name>App::MessagePanel</name>
@@ -1326,6 +1357,112 @@
     <message>
         <source>There is an animation %1 already.</source>
         <translation>Es gibt schon eine Animation %1.</translation>
+    </message>
+</context>
+<context>
+    <name>App::NewCommands</name>
+    <message>
+        <source>%1 is made.</source>
+        <translation>%1 ist angelegt.</translation>
+    </message>
+</context>
+<context>
+    <name>App::NewDialog</name>
+    <message>
+        <source>New game</source>
+        <translation>Neues Spiel</translation>
+    </message>
+    <message>
+        <source>New character</source>
+        <translation>Neue Figur</translation>
+    </message>
+    <message>
+        <source>New stage</source>
+        <translation>Neue Bühne</translation>
+    </message>
+    <message>
+        <source>New file</source>
+        <translation>Neue Datei</translation>
+    </message>
+    <message>
+        <source>Code: moves, constants, palettes</source>
+        <translation>Code: Aktionen, Konstanten, Paletten</translation>
+    </message>
+    <message>
+        <source>Animations</source>
+        <translation>Animationen</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Kommandos</translation>
+    </message>
+    <message>
+        <source>Sprites</source>
+        <translation>Sprites</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Klänge</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>&amp;Make</source>
+        <translation>&amp;Anlegen</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>A&amp;rt:</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>First &amp;character:</source>
+        <translation>Erste &amp;Figur:</translation>
+    </message>
+    <message>
+        <source>First &amp;stage:</source>
+        <translation>Erste &amp;Bühne:</translation>
+    </message>
+    <message>
+        <source>&amp;Write it into [files] of %1</source>
+        <translation>In [files] von %1 ein&amp;tragen</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose...</source>
+        <translation>&amp;Wählen...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Einen Ordner wählen</translation>
+    </message>
+    <message>
+        <source>In &amp;folder:</source>
+        <translation>Im &amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>In folder</source>
+        <translation>Im Ordner</translation>
+    </message>
+    <message>
+        <source>(usual)</source>
+        <translation>(übliche)</translation>
+    </message>
+    <message>
+        <source>&amp;Template:</source>
+        <translation>&amp;Vorlage:</translation>
+    </message>
+    <message>
+        <source>That is there already. Choose another name.</source>
+        <translation>Das gibt es schon. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Makes %1</source>
+        <translation>Legt %1 an</translation>
     </message>
 </context>
 <context>
@@ -2496,6 +2633,76 @@
     <message>
         <source>The stage cannot be shown: OpenGL does not work on this display. Texts, lists and the time line work as ever. A driver for the graphics card, or Mesa&apos;s software OpenGL, brings the stage back.</source>
         <translation>Die Bühne kann nicht gezeigt werden: OpenGL funktioniert auf diesem Bildschirm nicht. Texte, Listen und die Zeitleiste arbeiten wie immer. Ein Treiber für die Grafikkarte oder das Software-OpenGL von Mesa bringt die Bühne zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>App::StartCommands</name>
+    <message>
+        <source>Open sample game</source>
+        <translation>Beispielspiel öffnen</translation>
+    </message>
+    <message>
+        <source>This is your copy of the sample game: %1</source>
+        <translation>Das ist Ihre Kopie des Beispielspiels: %1</translation>
+    </message>
+    <message>
+        <source>First lesson</source>
+        <translation>Erste Lektion</translation>
+    </message>
+    <message>
+        <source>The documentation is not beside the program. Install the program anew.</source>
+        <translation>Die Dokumentation liegt nicht beim Programm. Installieren Sie das Programm neu.</translation>
+    </message>
+</context>
+<context>
+    <name>App::StartPage</name>
+    <message>
+        <source>New game</source>
+        <translation>Neues Spiel</translation>
+    </message>
+    <message>
+        <source>A first character that fights, and a stage</source>
+        <translation>Eine erste Figur, die kämpft, und eine Bühne</translation>
+    </message>
+    <message>
+        <source>Open a game</source>
+        <translation>Ein Spiel öffnen</translation>
+    </message>
+    <message>
+        <source>The folder with its characters and stages</source>
+        <translation>Der Ordner mit seinen Figuren und Bühnen</translation>
+    </message>
+    <message>
+        <source>Sample game</source>
+        <translation>Beispielspiel</translation>
+    </message>
+    <message>
+        <source>A copy of it, among your documents, to try things out</source>
+        <translation>Eine Kopie davon, bei Ihren Dokumenten, zum Ausprobieren</translation>
+    </message>
+    <message>
+        <source>First lesson</source>
+        <translation>Erste Lektion</translation>
+    </message>
+    <message>
+        <source>From thirty pictures to a character that fights</source>
+        <translation>Von dreißig Bildern zu einer Figur, die kämpft</translation>
+    </message>
+    <message>
+        <source>An editor for characters and stages of two-dimensional fighting games</source>
+        <translation>Ein Editor für Figuren und Bühnen zweidimensionaler Kampfspiele</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Anfangen</translation>
+    </message>
+    <message>
+        <source>Recent games</source>
+        <translation>Letzte Spiele</translation>
+    </message>
+    <message>
+        <source>Games that you open are listed here.</source>
+        <translation>Spiele, die Sie öffnen, stehen dann hier.</translation>
     </message>
 </context>
 <context>
@@ -4854,6 +5061,85 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Nothing is restored: %1 lies behind a link that leads out of the game. Remove the link, or put a folder or file in its place.</source>
         <translation>Nichts wird wiederhergestellt: %1 liegt hinter einem Link, der aus dem Spiel herausführt. Entfernen Sie den Link, oder legen Sie einen Ordner oder eine Datei an seine Stelle.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::Create</name>
+    <message>
+        <source>There is no template &apos;%1&apos;. There are: %2.</source>
+        <translation>Es gibt keine Vorlage „%1“. Es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>The template &apos;%1&apos; has no file &apos;{name}%2&apos;. Give it one.</source>
+        <translation>Die Vorlage „%1“ hat keine Datei „{name}%2“. Geben Sie ihr eine.</translation>
+    </message>
+    <message>
+        <source>Cannot read the template &apos;%1&apos;: %2.</source>
+        <translation>Die Vorlage „%1“ kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot make the file %1. Check the permissions of its folder.</source>
+        <translation>Die Datei %1 kann nicht angelegt werden. Prüfen Sie die Rechte ihres Ordners.</translation>
+    </message>
+    <message>
+        <source>There is no folder %1. Choose the folder of a game.</source>
+        <translation>Es gibt keinen Ordner %1. Wählen Sie den Ordner eines Spiels.</translation>
+    </message>
+    <message>
+        <source>A file is called by what is in it: its name ends in one of %1.</source>
+        <translation>Eine Datei heißt nach dem, was in ihr steht: Ihr Name endet auf eines von %1.</translation>
+    </message>
+    <message>
+        <source>%1 is there already. Choose another name.</source>
+        <translation>%1 gibt es schon. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>There is no folder %1. Choose another one, or make it.</source>
+        <translation>Es gibt keinen Ordner %1. Wählen Sie einen anderen oder legen Sie ihn an.</translation>
+    </message>
+    <message>
+        <source>Nothing can be made in %1. Check the permissions of the folder, and that there is space on the disk.</source>
+        <translation>In %1 kann nichts angelegt werden. Prüfen Sie die Rechte des Ordners und ob auf dem Datenträger Platz ist.</translation>
+    </message>
+    <message>
+        <source>Write a name, such as &apos;ryn&apos;.</source>
+        <translation>Schreiben Sie einen Namen, etwa „ryn“.</translation>
+    </message>
+    <message>
+        <source>A name has none of %1 and no control characters. Choose another one.</source>
+        <translation>Ein Name hat keines von %1 und keine Steuerzeichen. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>A name that begins with a point is that of a hidden folder, where no project is looked for. Choose another one.</source>
+        <translation>Ein Name, der mit einem Punkt beginnt, ist der eines versteckten Ordners, in dem kein Projekt gesucht wird. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>A name does not end in a point, and neither begins nor ends in a blank: some systems drop these. Choose another one.</source>
+        <translation>Ein Name endet nicht auf einen Punkt, und er beginnt und endet nicht mit einem Leerzeichen: Manche Systeme lassen das weg. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The file names of this system cannot hold the name. Choose another one.</source>
+        <translation>Die Dateinamen dieses Systems können den Namen nicht wiedergeben. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The name has %1 bytes, of at most %2. Choose a shorter one.</source>
+        <translation>Der Name hat %1 Bytes, höchstens %2 gehen. Wählen Sie einen kürzeren.</translation>
+    </message>
+    <message>
+        <source>The sample game is not beside the program. Install the program anew.</source>
+        <translation>Das Beispielspiel liegt nicht beim Programm. Installieren Sie das Programm neu.</translation>
+    </message>
+    <message>
+        <source>Cannot copy the file &apos;%1&apos;. Check that there is space on the disk.</source>
+        <translation>Die Datei „%1“ kann nicht kopiert werden. Prüfen Sie, ob auf dem Datenträger Platz ist.</translation>
+    </message>
+    <message>
+        <source>Cannot copy the file &apos;%1&apos; of the template.</source>
+        <translation>Die Datei „%1“ der Vorlage kann nicht kopiert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot read the file &apos;%1&apos; of the template. Check its permissions.</source>
+        <translation>Die Datei „%1“ der Vorlage kann nicht gelesen werden. Prüfen Sie ihre Rechte.</translation>
     </message>
 </context>
 <context>

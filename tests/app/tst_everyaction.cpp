@@ -55,6 +55,7 @@ private:
 void TestEveryAction::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("HOME", QFile::encodeName(m_folder->path()));  // where documents are
     QVERIFY(copyFolder(QStringLiteral(SAMPLES "/arena"), m_folder->filePath("arena")));
     m = std::make_unique<WindowFixture>(m_folder->filePath(QStringLiteral("zorv.ini")));
     m->window->resize(1200, 900);

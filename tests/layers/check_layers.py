@@ -68,6 +68,7 @@ LAYERS = {
     "host/app/settings/": 26,
     "host/app/sounds/": 26,
     "host/app/stage/": 26,
+    "host/app/start/": 26,
     "host/app/main/": 27,
     "host/app/picture/": 27,
     "host/main.cpp": 28,

@@ -15,7 +15,8 @@ const QVector<MenuRow>& menuTable()
 {
     static const QVector<MenuRow> table{
         {"file", QT_TRANSLATE_NOOP("App::Menus", "&File"),
-         "open save+ all backup text+ close quit"},
+         "new+ open save+ all backup text+ close quit"},
+        {"new", QT_TRANSLATE_NOOP("App::Menus", "&New"), "all", "file.new"},
         {"edit", QT_TRANSLATE_NOOP("App::Menus", "&Edit"), "undo clipboard find text"},
         {"code", QT_TRANSLATE_NOOP("App::Menus", "&Code"), "write"},
         {"anim", QT_TRANSLATE_NOOP("App::Menus", "&Animation"), "list play parts order"},
@@ -30,7 +31,7 @@ const QVector<MenuRow>& menuTable()
         {"snd", QT_TRANSLATE_NOOP("App::Menus", "S&ounds"), "files list sample play"},
         {"view", QT_TRANSLATE_NOOP("App::Menus", "&View"), "panels+ texts zoom stage"},
         {"tools", QT_TRANSLATE_NOOP("App::Menus", "&Tools"), "run find settings"},
-        {"help", QT_TRANSLATE_NOOP("App::Menus", "&Help"), "keys"},
+        {"help", QT_TRANSLATE_NOOP("App::Menus", "&Help"), "start keys"},
     };
     return table;
 }

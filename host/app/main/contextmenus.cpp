@@ -58,8 +58,8 @@ ContextMenus::ContextMenus(MainWindow* window) : QObject(window), m_window(windo
     add(window->animations()->list(),
         {"anim_add", "anim_duplicate", "anim_delete", nullptr, "org_up", "org_down", "org_top",
          "org_bottom", nullptr, "org_auto"});
-    add(window->gameTree(),
-        {"run", nullptr, "save_all", "backup", nullptr, "close_project", "close_folder"});
+    add(window->gameTree(), {"new_file", "new_character", "new_stage", nullptr, "run", nullptr,
+                             "save_all", "backup", nullptr, "close_project", "close_folder"});
     add(window->textEditor()->tree(),
         {"anim_add", nullptr, "code_definition", "code_fold", "code_fold_all", "code_unfold_all"});
     // With the actions that their commands have given them.

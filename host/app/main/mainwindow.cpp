@@ -15,6 +15,7 @@
 #include "app/game/gamecommands.h"
 #include "app/game/gameopener.h"
 #include "app/game/gametree.h"
+#include "app/game/newcommands.h"
 #include "app/game/recentmenu.h"
 #include "app/look/look.h"
 #include "app/look/plaintexts.h"
@@ -36,6 +37,8 @@
 #include "app/sounds/soundpanel.h"
 #include "app/stage/familyanimationeditor.h"
 #include "app/stage/stagecommands.h"
+#include "app/start/startcommands.h"
+#include "app/start/startpage.h"
 #include "app/window/commandrouter.h"
 #include "app/window/editorregistry.h"
 #include "app/window/partlist.h"
@@ -126,14 +129,14 @@ void keepKeysTo(QWidget* widget, const QList<QAction*>& actions)
 }  // namespace
 
 MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), m_centre(new QStackedWidget(this)), m_hint(new QLabel),
-      m_middle(new QSplitter(Qt::Vertical)), m_actions(new WindowActions(this)),
+    : QMainWindow(parent), m_centre(new QStackedWidget(this)), m_empty(new QStackedWidget),
+      m_hint(new QLabel), m_middle(new QSplitter(Qt::Vertical)), m_actions(new WindowActions(this)),
       m_controls(new ControlPlacer(this, m_actions))
 {
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setEnabled(false);
     m_hint->setWordWrap(true);
-    m_centre->addWidget(m_hint);
+    m_centre->addWidget(m_empty);
     m_centre->addWidget(m_middle);
     m_middle->setChildrenCollapsible(false);
     setCentralWidget(m_centre);
@@ -150,6 +153,11 @@ MainWindow::MainWindow(QWidget* parent)
 
     m_gameTree = new GameTree(m_services);
     m_opener = new GameOpener(m_services, m_gameTree);
+    m_start = new StartPage(m_services);
+    m_empty->addWidget(m_start);
+    m_empty->addWidget(m_hint);
+    m_startCommands = new StartCommands(m_services);
+    m_newCommands = new NewCommands(m_services, m_gameTree);
     m_gameCommands = new GameCommands(m_services, m_gameTree);
     m_runCommands = new RunCommands(m_services);
     m_sprites = new SpriteCommands(m_services);
@@ -237,9 +245,11 @@ void MainWindow::giveRoomAtFirst(QDockWidget* comes, const QList<QDockWidget*>& 
 void MainWindow::addParts()
 {
     for (Part* part : std::initializer_list<Part*>{
-             m_router, m_opener, m_gameCommands, m_gameTree, m_services.editors, m_sprites,
-             m_hearing, m_stage, m_paint, m_palettes, m_code, m_animations, m_thumbnails,
-             m_problems, m_messagePanel, m_runCommands, m_services.status, m_commands}) {
+             m_router,     m_newCommands,   m_opener,           m_gameCommands, m_gameTree,
+             m_start,      m_startCommands, m_services.editors, m_sprites,      m_hearing,
+             m_stage,      m_paint,         m_palettes,         m_code,         m_animations,
+             m_thumbnails, m_problems,      m_messagePanel,     m_runCommands,  m_services.status,
+             m_commands}) {
         m_services.parts->add(part);
     }
 }
@@ -382,8 +392,8 @@ void MainWindow::updateTitle()
     setWindowModified(FileInput::isUnsaved(document) || areSprites || areSounds);
     m_sprites->panel()->parentWidget()->setWindowModified(areSprites);
     m_hearing->panel()->parentWidget()->setWindowModified(areSounds);
-    m_hint->setText(session()->game() ? tr("A double click in the tree of projects shows a text.")
-                                      : tr("The menu File opens a game folder."));
+    m_hint->setText(tr("A double click in the tree of projects shows a text."));
+    m_empty->setCurrentWidget(session()->game() ? static_cast<QWidget*>(m_hint) : m_start);
 }
 
 void MainWindow::retranslate()

@@ -27,6 +27,7 @@ class GameCommands;
 class GameOpener;
 class GameTree;
 class MessagePanel;
+class NewCommands;
 class PaintCommands;
 class PaletteCommands;
 class ProblemWatch;
@@ -36,6 +37,8 @@ class SoundPanel;
 class SpriteCommands;
 class SpritePanel;
 class StageCommands;
+class StartCommands;
+class StartPage;
 class ThumbnailCommands;
 class WindowActions;
 class WindowCommands;
@@ -135,7 +138,10 @@ private:
     void updateTitle();
 
     QStackedWidget* m_centre;
+    QStackedWidget* m_empty;  ///< shown while there is no text
     QLabel* m_hint;
+    StartPage* m_start = nullptr;
+    StartCommands* m_startCommands = nullptr;
     QSplitter* m_middle;
     WindowActions* m_actions;
     ControlPlacer* m_controls;
@@ -146,6 +152,7 @@ private:
     PaintCommands* m_paint = nullptr;
     GameTree* m_gameTree;
     GameOpener* m_opener;
+    NewCommands* m_newCommands;
     GameCommands* m_gameCommands;
     RunCommands* m_runCommands;
     AnimationCommands* m_animations = nullptr;

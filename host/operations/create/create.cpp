@@ -184,7 +184,10 @@ Created createProject(const QString& game, FileKind kind, const QString& name,
     }
     const QString folder = newProjectFolder(game, kind, name);
     const QString around = QFileInfo(folder).absolutePath();
-    const bool isNewAround = !QFileInfo::exists(around) && QDir().mkdir(around);
+    const bool isNewAround = !QFileInfo::exists(around);
+    if (isNewAround && !QDir().mkdir(around)) {
+        return failed(NewFolder::cannotWrite(QFileInfo(game).absoluteFilePath()));
+    }
     QString error;
     {
         NewFolder made(folder);

@@ -93,7 +93,7 @@ const Pose poses[] = {
 // clang-format on
 
 constexpr QRgb colours[] = {
-    0xffff00ff, 0xff1c2430,              // clear, outline
+    0x00ff00ff, 0xff1c2430,              // clear, outline
     0xff8a6a48, 0xffc09a68, 0xffe6c894,  // wood: shade, middle, light
     0xff4c4038, 0xff6c5a48, 0xff8a745c,  // wood behind
     0xff204870, 0xff3070a8, 0xff60a0d4,  // the jacket

@@ -38,13 +38,6 @@ void removeAbandoned(const QString& folder)
     }
 }
 
-QString cannotWrite(const QString& folder)
-{
-    return Text::tr("Nothing can be made in %1. Check the permissions of the folder, and that "
-                    "there is space on the disk.")
-        .arg(QDir::toNativeSeparators(folder));
-}
-
 }  // namespace
 
 NewFolder::NewFolder(const QString& place)
@@ -119,6 +112,13 @@ bool NewFolder::finish(QString* error)
                                               .arg(QDir::toNativeSeparators(m_place))
                                         : cannotWrite(QFileInfo(m_place).absolutePath());
     return false;
+}
+
+QString NewFolder::cannotWrite(const QString& folder)
+{
+    return Text::tr("Nothing can be made in %1. Check the permissions of the folder, and that "
+                    "there is space on the disk.")
+        .arg(QDir::toNativeSeparators(folder));
 }
 
 QString NewFolder::told(QString text) const

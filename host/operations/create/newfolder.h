@@ -34,6 +34,9 @@ public:
     /// A text about the files in it, with their names as they will be.
     QString told(QString text) const;
 
+    /// That nothing can be made in a folder, for the person.
+    static QString cannotWrite(const QString& folder);
+
 private:
     Q_DISABLE_COPY(NewFolder)
     bool make();

@@ -37,6 +37,11 @@ bool writeSprites(const QString& fileName, const QMap<quint32, AssetId>& shown, 
         const PlacedDrawing drawing = isStage ? drawRoom(id) : drawMannequin(id);
         sprites.insertSprite(int(sprites.count()) - 1, id, drawing.axis, drawing.image);
     }
+    // All have one, which images that come later share by this name.
+    if (sprites.palettes()->count() > 0) {
+        sprites.palettes()->palette(0)->setProperty(QStringLiteral("Identifier"),
+                                                    QStringLiteral("0,0"));
+    }
     const bool isWritten = sprites.toFile(*Zorv::FileSystemArchive::instance(), fileName, true);
     *error = isWritten ? QString() : sprites.errorString();
     return isWritten;

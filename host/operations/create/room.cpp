@@ -2,6 +2,7 @@
 
 #include <QVector>
 
+#include <cmath>
 #include <cstdlib>
 
 namespace Operations {
@@ -27,7 +28,7 @@ QRgb mixed(QRgb from, QRgb to, int part, int of)
 
 QImage canvas(int width, int height)
 {
-    QVector<QRgb> colours(Middle + 1, qRgb(255, 0, 255));
+    QVector<QRgb> colours(Middle + 1, qRgba(255, 0, 255, 0));
     for (int i = 0; i < Bands; ++i) {
         colours[Wall + i] = mixed(qRgb(34, 42, 58), qRgb(96, 110, 132), i, Bands - 1);
         colours[Floor + i] = mixed(qRgb(92, 84, 78), qRgb(168, 152, 134), i, Bands - 1);
@@ -66,17 +67,13 @@ QImage floor()
     QImage image = canvas(Width, FloorHeight);
     for (int y = 0; y < FloorHeight; ++y) {
         uchar* line = image.scanLine(y);
-        const double spread = 1 + y * 1.5 / FloorHeight;
-        int last = 0;
+        const double spread = Cell * (1 + y * 1.5 / FloorHeight);
+        const int ground = Floor + 1 + y * (Bands - 1) / FloorHeight;
         for (int x = 0; x < Width; ++x) {
             const int aside = x - Width / 2;
-            const int board =
-                int((aside + 10 * Width) / (Cell * spread)) - int(10 * Width / (Cell * spread));
-            const bool isEdge = x > 0 && board != last;
-            last = board;
-            const int colour =
-                isEdge || y == 0 ? int(Floor) : Floor + 1 + y * (Bands - 2) / FloorHeight;
-            line[x] = uchar(std::abs(aside) <= 1 + y / 40 ? int(Middle) : colour);
+            const double off = std::abs(aside - std::round(aside / spread) * spread);
+            const int colour = y == 0 || off <= 0.5 ? int(Floor) : ground;
+            line[x] = uchar(std::abs(aside) <= 1 + y / Cell ? int(Middle) : colour);
         }
     }
     return image;
