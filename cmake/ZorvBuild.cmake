@@ -20,6 +20,9 @@ file(RELATIVE_PATH ZORV_LIB_FROM_BIN
 set(CMAKE_INSTALL_RPATH $ORIGIN/${ZORV_LIB_FROM_BIN})
 
 find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Concurrent Multimedia LinguistTools)
+if(ZORV_HOST)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS Network)
+endif()
 if(ZORV_TESTS OR ZORV_BENCHMARKS)
     find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
 endif()

@@ -35,12 +35,13 @@ const char usage[] =
     "and what they do.\n"
     "CHARACTER and STAGE are names of folders or files of the game, or paths.\n"
     "'--original FILE' tells what a character or stage was copied from: when that is saved, it\n"
-    "takes the place of the copy.\n";
+    "takes the place of the copy. '--editor SOCKET' tells where the editor that made it listens.\n";
 
 struct Request
 {
     Player::MatchRequest match;
     QString script;
+    QString editor;
     bool json = false;
 };
 
@@ -59,7 +60,8 @@ bool readRequest(const QStringList& arguments, Request* request, QString* error)
         const QString& argument = arguments.at(i);
         const bool hasValue =
             argument == QLatin1String("--character") || argument == QLatin1String("--stage") ||
-            argument == QLatin1String("--original") || argument == QLatin1String("--script");
+            argument == QLatin1String("--original") || argument == QLatin1String("--editor") ||
+            argument == QLatin1String("--script");
         const QString value = hasValue ? arguments.value(i + 1) : QString();
         i += hasValue;
         if (hasValue && value.isEmpty()) {
@@ -70,6 +72,8 @@ bool readRequest(const QStringList& arguments, Request* request, QString* error)
             match.stage = value;
         } else if (argument == QLatin1String("--original")) {
             match.original = value;
+        } else if (argument == QLatin1String("--editor")) {
+            request->editor = value;
         } else if (argument == QLatin1String("--script")) {
             request->script = value;
         } else if (argument == QLatin1String("--json")) {
@@ -137,6 +141,9 @@ int playInWindow(const Request& request)
         return complain(error, NotDone);
     }
     Player::PlayWindow window(std::move(match), request.match);
+    if (!request.editor.isEmpty()) {
+        window.setEditor(request.editor);
+    }
     window.begin();
     return QGuiApplication::exec();
 }

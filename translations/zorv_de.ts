@@ -1917,6 +1917,14 @@
             <numerusform>und %n weitere</numerusform>
         </translation>
     </message>
+    <message>
+        <source>The player goes on with what is here now.</source>
+        <translation>Der Player macht mit dem weiter, was jetzt hier ist.</translation>
+    </message>
+    <message>
+        <source>These files could not be copied for the player, which goes on without what is new in them:</source>
+        <translation>Diese Dateien konnten nicht für den Player kopiert werden. Er macht ohne das weiter, was in ihnen neu ist:</translation>
+    </message>
 </context>
 <context>
     <name>App::Screenshot</name>

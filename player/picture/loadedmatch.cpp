@@ -5,6 +5,7 @@
 #include "rules/codetext.h"
 #include "rules/gamereader.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace Player {
@@ -50,6 +51,21 @@ MatchRequest withOriginal(const MatchRequest& request)
         result.characters[0] = request.original;
     }
     return result;
+}
+
+QString originalOf(const MatchRequest& request, const QString& file)
+{
+    const bool isStage = request.original.endsWith(QLatin1String(".stage"));
+    const QFileInfo copy(isStage ? request.stage : request.characters.value(0));
+    if (request.original.isEmpty() || Family::staysInside(request.game, file)) {
+        return file;
+    }
+    if (QFileInfo(file) == copy) {
+        return request.original;
+    }
+    // A copy has the folders of the game around it.
+    const QString relative = copy.absoluteDir().relativeFilePath(file);
+    return QDir::cleanPath(QFileInfo(request.original).absoluteDir().absoluteFilePath(relative));
 }
 
 bool LoadedMatch::load(const MatchRequest& request, QString* error)

@@ -22,6 +22,9 @@ struct MatchRequest
 /// The same with what a copy was made of in its place.
 MatchRequest withOriginal(const MatchRequest& request);
 
+/// What a file was copied from, for one that lies with the copy; any other file itself.
+QString originalOf(const MatchRequest& request, const QString& file);
+
 /// All that a match is made of.
 struct LoadedMatch
 {

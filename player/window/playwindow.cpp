@@ -1,8 +1,10 @@
 #include "window/playwindow.h"
 
 #include "family/grammar/motion.h"
+#include "picture/fighterscene.h"
 #include "picture/scene.h"
 #include "sound/matchsounds.h"
+#include "window/editorlink.h"
 
 #include <zorv/code/codecs/filetext.h>
 #include <zorv/core/filesystemarchive.h>
@@ -29,6 +31,7 @@ const char* const keyLines[] = {
     QT_TRANSLATE_NOOP("Player::PlayWindow", "F7, F10\tspeed; a match without end"),
     QT_TRANSLATE_NOOP("Player::PlayWindow", "F8, F9\tanother costume"),
     QT_TRANSLATE_NOOP("Player::PlayWindow", "F2\twhat is wrong with the files"),
+    QT_TRANSLATE_NOOP("Player::PlayWindow", "F12, Shift+F12\tthe shown frame in the editor"),
     QT_TRANSLATE_NOOP("Player::PlayWindow", "F11, Esc\tthe whole screen; the end"),
 };
 
@@ -77,16 +80,72 @@ void PlayWindow::watchFiles()
                                                                              : m_match->files);
 }
 
-void PlayWindow::reload()
+/// What an editor has that is there counts more than what is saved.
+void PlayWindow::lookAtFiles()
 {
-    auto match = std::make_unique<LoadedMatch>();
-    const MatchRequest request = withOriginal(m_request);
-    QString error;
-    m_notesLeft = NotesTicks;
-    if (!match->load(request, &error)) {
-        m_match->notes = QStringList{error};
+    if (!m_stamps.hasChanged()) {
         return;
     }
+    if (m_editor && m_editor->isConnected()) {
+        m_editor->tellChanged();
+    } else {
+        reload(withOriginal(m_request));
+    }
+}
+
+void PlayWindow::setEditor(const QString& socketName)
+{
+    m_editor = std::make_unique<EditorLink>(socketName);
+    connect(m_editor.get(), &EditorLink::playAsked, this, &PlayWindow::play);
+}
+
+/// Another stage leaves both as they are; with another character comes somebody else to meet it.
+void PlayWindow::play(const QString& copy, const QString& original, bool isStage)
+{
+    MatchRequest request = withOriginal(m_request);
+    if (!copy.isEmpty() && isStage) {
+        request.characters.clear();
+        for (const Rules::FighterData& fighter : m_match->game.fighters) {
+            request.characters.append(originalOf(m_request, fighter.mainFile));
+        }
+        request.stage = copy;
+        request.original = original;
+    } else if (!copy.isEmpty()) {
+        request.characters = QStringList(copy);
+        request.original = original;
+    }
+    reload(request);
+}
+
+void PlayWindow::tell(const QString& note)
+{
+    m_match->notes.removeAll(note);
+    m_match->notes.prepend(note);
+    m_notesLeft = NotesTicks;
+}
+
+void PlayWindow::showFrame(int fighter)
+{
+    const Rules::FighterData& data = m_match->game.fighters[fighter];
+    const Rules::FighterState& now = state().fighters[fighter];
+    const Rules::Frame* frame = shownFrame(data, now);
+    if (!m_editor || !m_editor->isConnected()) {
+        tell(tr("No editor is there. Start the player from the editor, with F5."));
+    } else if (frame) {
+        const QString& file = data.animations.at(now.animation).place.file;
+        m_editor->show({originalOf(m_request, file), frame->line});
+    }
+}
+
+void PlayWindow::reload(const MatchRequest& request)
+{
+    auto match = std::make_unique<LoadedMatch>();
+    QString error;
+    if (!match->load(request, &error)) {
+        tell(error);
+        return;
+    }
+    m_notesLeft = NotesTicks;
     m_request = request;
     const std::unique_ptr<LoadedMatch> oldMatch = std::move(m_match);
     const std::unique_ptr<Session> oldSession = std::move(m_session);
@@ -95,7 +154,7 @@ void PlayWindow::reload()
     m_match = std::move(match);
     open();
     m_session->takeOver(*oldSession);
-    m_stamps.watch(m_match->files);
+    watchFiles();
 }
 
 void PlayWindow::begin()
@@ -130,8 +189,8 @@ void PlayWindow::goOn()
     }
     m_notesLeft -= m_notesLeft > 0;
     const bool isTimeToLook = !m_request.game.isEmpty() && ++m_clockTicks % LookTicks == 0;
-    if (isTimeToLook && m_stamps.hasChanged()) {
-        reload();
+    if (isTimeToLook) {
+        lookAtFiles();
     }
     paintNow();
     emit ticked();
@@ -281,6 +340,10 @@ void PlayWindow::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
         step(event->key() == Qt::Key_PageDown ? 1 : -1);
+        return;
+    }
+    if (event->key() == Qt::Key_F12 && !event->isAutoRepeat()) {
+        showFrame((event->modifiers() & Qt::ShiftModifier) != 0 ? 1 : 0);
         return;
     }
     if (event->isAutoRepeat() || takeWindowKey(event->key()) || takeTrainingKey(event->key())) {

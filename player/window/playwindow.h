@@ -15,6 +15,7 @@
 
 namespace Player {
 
+class EditorLink;
 class MatchSounds;
 class Scene;
 
@@ -39,6 +40,10 @@ public:
     /// How many ticks were painted since the window was made.
     int paintedTicks() const { return m_paintedTicks; }
 
+    /// Finds the editor at a local socket, and plays what it sends: its files are not watched for
+    /// changes then, for the editor knows more than is saved.
+    void setEditor(const QString& socketName);
+
     /// Shows the window and lets time go.
     void begin();
 
@@ -56,7 +61,11 @@ private:
     void paintNow();
     void open();
     void watchFiles();
-    void reload();
+    void lookAtFiles();
+    void reload(const MatchRequest& request);
+    void play(const QString& copy, const QString& original, bool isStage);
+    void showFrame(int fighter);
+    void tell(const QString& note);
     void readKeys();
     void see();
     void step(int by);
@@ -68,6 +77,7 @@ private:
     std::unique_ptr<LoadedMatch> m_match;
     MatchRequest m_request;
     FileStamps m_stamps;
+    std::unique_ptr<EditorLink> m_editor;
     std::unique_ptr<Scene> m_scene;
     std::unique_ptr<MatchSounds> m_sounds;
     std::unique_ptr<Session> m_session;

@@ -246,6 +246,16 @@ public:
     /// True while an engine runs.
     bool isRunning() const;
 
+    /// Writes a temporary copy of an open project for the engine that runs already, with its
+    /// unsaved changes, as `run()` does for "%0". The host then tells the engine of `*copy`, by a
+    /// way of its own. The copy before this one stays, for the engine may be reading it; older
+    /// ones are removed. What has not gone into its file yet (`FileInput`) is left out, unless
+    /// the host takes it in before.
+    ///
+    /// `*failed` gets what could not be copied, relative to the game. False if no engine runs, or
+    /// there is no main file to be told of. Events may be processed.
+    bool copyForEngine(Project* project, RunCopy* copy, QStringList* failed);
+
     /// How the last `run()` ended.
     RunResult runResult() const;
 

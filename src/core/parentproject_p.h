@@ -14,6 +14,7 @@ namespace Zorv {
 class Progress;
 
 class EngineProcess;
+class EngineRun;
 
 /// The private part of a parent project is itself the root of its tree.
 class ParentProjectPrivate : public QObject, public DirectoryPath
@@ -84,6 +85,7 @@ public:
     bool runnable = true;  ///< false while an engine runs
     RunResult runResult;
     QPointer<EngineProcess> engine;
+    EngineRun* engineRun = nullptr;  ///< while its engine runs
 
 private:
     using FileSet = QHash<QString, FileID>;

@@ -165,6 +165,7 @@ private slots:
     void engineFilesStay();
     void engineOutput();
     void oneAtATime();
+    void copiesForTheEngineThatRuns();
     void stop_data();
     void stop();
     void treeGoes();
@@ -479,6 +480,35 @@ void TestRun::oneAtATime()
     QCOMPARE(world.run().outcome, RunResult::Ended);
     QCOMPARE(dialogs.texts(warning),
              QStringList("Oops, you can run only one instance of yhe engine at the same time."));
+}
+
+/// The last two stay, and none when the engine has ended.
+void TestRun::copiesForTheEngineThatRuns()
+{
+    World w("while [ ! -e \"$R/go\" ]; do sleep 0.05; done");
+    TestProject* project = w.open("hero/hero.code", "saved", "unsaved");
+    ParentProject::RunCopy copies[3];
+    QStringList failed;
+    QVERIFY(!w.tree->copyForEngine(project, &copies[0], &failed));
+    QTimer::singleShot(300, w.tree.get(), [&] {
+        for (int i = 0; i < 3; ++i) {
+            w.tree->folder = QStringLiteral("again/%1-%2/").arg(i).arg("%1");
+            QTextCursor(static_cast<CodeDocument*>(project->file(FileID::MainCode)))
+                .insertText(QString::number(i));
+            QVERIFY(w.tree->copyForEngine(project, &copies[i], &failed));
+            QCOMPARE(failed, QStringList());
+            QCOMPARE(readFile(copies[i].copy), QByteArray("210unsaved").mid(2 - i));
+            QCOMPARE(copies[i].original, project->fileName());
+        }
+        QVERIFY(!QFile::exists(copies[0].copy));
+        QVERIFY(QFile::exists(copies[1].copy));
+        writeFile(w.root + "record/go");
+    });
+    w.tree->run();
+    QCOMPARE(int(w.tree->runResult().outcome), int(RunResult::Ended));
+    QVERIFY(!QFile::exists(copies[1].copy));
+    QVERIFY(!QFile::exists(copies[2].copy));
+    QVERIFY(!w.tree->copyForEngine(project, &copies[0], &failed));
 }
 
 void TestRun::stop_data()

@@ -2,22 +2,28 @@
 
 #include "app/run/outputpanel.h"
 #include "app/run/outputtext.h"
+#include "app/run/playerlink.h"
 #include "app/session/gamesession.h"
+#include "app/window/jumps.h"
 #include "app/window/partlist.h"
+#include "app/window/statusfields.h"
 #include "app/window/windowservices.h"
 #include "family/project/familyenginemodel.h"
 #include "family/project/familyparentproject.h"
+#include "family/project/familyproject.h"
+#include "family/project/filereference.h"
 #include "family/project/gameprogram.h"
 #include "operations/agreements.h"
 #include "operations/hostinterface.h"
 
 #include <zorv/core/dialogs/dialogs.h>
+#include <zorv/core/fileinput.h>
 #include <zorv/core/run/temporarycopies.h>
 
+#include <QApplication>
 #include <QDir>
-#include <QPointer>
 #include <QSettings>
-#include <QTimer>
+
 #include <utility>
 
 namespace App {
@@ -91,7 +97,11 @@ Dialogs::Button askToStart(const QString& program, Operations::Agreement agreeme
 RunCommands::RunCommands(const WindowServices& services)
     : QObject(services.window), m_services(services), m_panel(new OutputPanel)
 {
+    m_playSoon.setSingleShot(true);
+    connect(&m_playSoon, &QTimer::timeout, this, &RunCommands::playAgain);
 }
+
+RunCommands::~RunCommands() = default;
 
 QVector<ActionRow> RunCommands::actions()
 {
@@ -106,7 +116,12 @@ QVector<ActionRow> RunCommands::actions()
 
 bool RunCommands::canRun() const
 {
-    return m_services.parts->project() && !isRunning();
+    return m_services.parts->project() && (!isRunning() || isPlayerThere());
+}
+
+bool RunCommands::isPlayerThere() const
+{
+    return m_link && m_link->isConnected();
 }
 
 void RunCommands::reconfig()
@@ -136,6 +151,12 @@ void RunCommands::run()
     if (!game) {
         return;
     }
+    if (isPlayerThere()) {
+        Zorv::FileInput::takeOf(game);
+        m_played = m_services.parts->project();
+        m_playSoon.start(0);
+        return;
+    }
     const QPointer<RunCommands> self = this;
     Family::GameProgram program;
     if (!game->isRunning() && (!settleProgram(&program) || !self || !game)) {
@@ -146,7 +167,7 @@ void RunCommands::run()
     {
         const Operations::NamedProgram named(program);
         // Everything may have been closed when this comes back.
-        game->run();
+        startEngine(game);
     }
     if (!self) {
         return;
@@ -160,6 +181,92 @@ void RunCommands::run()
     if (m_runs == 0 && m_then) {
         QTimer::singleShot(0, this, std::exchange(m_then, nullptr));
     }
+}
+
+/// The player, if that is started, finds the window by the socket.
+void RunCommands::startEngine(Family::FamilyParentProject* game)
+{
+    if (game->isRunning()) {
+        game->run();
+        return;
+    }
+    const QPointer<RunCommands> self = this;
+    m_played = m_services.parts->project();
+    m_link = std::make_unique<PlayerLink>();
+    connect(m_link.get(), &PlayerLink::changed, this, [this] { m_services.parts->updateSoon(); });
+    connect(m_link.get(), &PlayerLink::filesChanged, this, [this] { m_playSoon.start(0); });
+    connect(m_link.get(), &PlayerLink::lineAsked, this, &RunCommands::showLine,
+            Qt::QueuedConnection);
+    game->setPlayerSocket(m_link->name());
+    game->run();
+    if (self) {
+        m_link.reset();
+    }
+}
+
+void RunCommands::gameChanged()
+{
+    if (isPlayerThere()) {
+        m_playSoon.start(0);
+    }
+}
+
+/// The player gets a copy of what it plays with all that is not saved yet. What was closed since is
+/// as it is in its file.
+void RunCommands::playAgain()
+{
+    const QPointer<RunCommands> self = this;
+    const QPointer<Family::FamilyParentProject> game = m_services.session->game();
+    if (!game || !isPlayerThere()) {
+        return;
+    }
+    if (!m_played) {
+        m_link->play({}, {}, false);
+        return;
+    }
+    Zorv::ParentProject::RunCopy copy;
+    QStringList failed;
+    const bool isCopied = game->copyForEngine(m_played, &copy, &failed);
+    if (!self || !isPlayerThere()) {
+        return;
+    }
+    if (isCopied) {
+        m_link->play(copy.copy, copy.original,
+                     Family::FileKind(copy.kind) == Family::FileKind::Stage);
+        m_services.status->showPassing(tr("The player goes on with what is here now."));
+    }
+    if (!failed.isEmpty()) {
+        Dialogs::instance()->warning(
+            tr("Engine"), tr("These files could not be copied for the player, which goes on "
+                             "without what is new in them:") +
+                              QLatin1String("\n\n") + namesOf(failed));
+    }
+}
+
+/// A line of the game that the player asks for. It waits for no dialog: who answers one looks at
+/// the window anyway.
+void RunCommands::showLine(const QString& file, int line)
+{
+    const Family::FamilyParentProject* game = m_services.session->game();
+    const bool isInGame = game && Family::staysInside(game->absolutePath(), file);
+    const QPointer<RunCommands> self = this;
+    if (QApplication::activeModalWidget() || !game ||
+        (isInGame && !m_services.jumps->openFile(file)) || !self) {
+        return;
+    }
+    // What was never saved has no file but the copy.
+    const bool isUnnamed = !isInGame && m_played && m_played->fileName().isEmpty();
+    Family::FamilyDocument* document = isUnnamed  ? m_played->mainDocument()
+                                       : isInGame ? m_services.session->document(file, m_played)
+                                                  : nullptr;
+    if (!document) {
+        return;
+    }
+    m_services.jumps->showPlace(document, qMax(line - 1, 0), 0, 0);
+    QMainWindow* const window = m_services.window;
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->raise();
+    window->activateWindow();
 }
 
 /// What the folder of the game brings along is only started if the person agrees to that. False if

@@ -238,6 +238,9 @@ QStringList FamilyParentProject::runArguments(const QString& executable,
     if (!copy.original.isEmpty()) {
         all += {QStringLiteral("--original"), copy.original};
     }
+    if (!m_playerSocket.isEmpty()) {
+        all += {QStringLiteral("--editor"), m_playerSocket};
+    }
     return all;
 }
 

@@ -45,9 +45,13 @@ public:
     QString runFolder(const QString& executable) const override;
 
     /// The player is told the game and what each copy was made of, unless the person has written
-    /// parameters for it.
+    /// parameters for it; and by what name it reaches the editor.
     QStringList runArguments(const QString& executable, const QStringList& arguments,
                              const QVector<RunCopy>& copies) const override;
+
+    /// The name of the local socket on which the player that is started next finds the editor;
+    /// empty for none.
+    void setPlayerSocket(const QString& name) { m_playerSocket = name; }
     void lastReferenceGone() override;
 
     /// False, and told through `Dialogs`, for a program of the game folder that is not any more
@@ -79,6 +83,7 @@ private:
 
     QHash<QString, ProblemTally> m_problems;  // by path, without "/" at its end
     QHash<QString, QString> m_marks;          // likewise
+    QString m_playerSocket;
 };
 
 }  // namespace Family

@@ -15,7 +15,10 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRect>
+#include <QScopedValueRollback>
 #include <QUuid>
+
+#include <utility>
 
 namespace Zorv {
 
@@ -146,7 +149,7 @@ bool EngineRun::copyProjects()
                                         "Check it in Tools / Options."));
     }
     FileInput::takeOf(m_tree->model);
-    m_copies = std::make_unique<TemporaryCopies>(m_folder);
+    m_copies.push_back(std::make_unique<TemporaryCopies>(m_folder));
     m_tree->runnable = false;
     for (int i = 0; i < marks.size() && m_tree; ++i) {
         if (Project* project = markedProject(marks.at(i))) {
@@ -172,16 +175,16 @@ void EngineRun::copyProject(unsigned mark, Project* project, const QString& name
     const bool isBeside = m_folder == withSlash(QFileInfo(m_executable).absolutePath());
     m_texts.insert(mark, isBeside ? copy : m_folder + copy);
     m_runCopies.append({m_folder + copy, project->fileName(), project->kind()});
-    if (isWhole && m_copies->addFolder(folder)) {
+    if (isWhole && m_copies.back()->addFolder(folder)) {
         writeCopy(project, folder, name);
         return;
     }
     const QString passing = m_folder + name + QLatin1Char('-') +
                             QUuid::createUuid().toString(QUuid::WithoutBraces) + QLatin1Char('/');
-    if (!m_copies->addFolder(passing)) {
+    if (!m_copies.back()->addFolder(passing)) {
         m_result.failedFiles.append(place + QFileInfo(project->fileName()).fileName());
     } else if (writeCopy(project, passing, name)) {
-        m_result.failedFiles += m_copies->spread(passing, folder);
+        m_result.failedFiles += m_copies.back()->spread(passing, folder);
     }
 }
 
@@ -227,6 +230,7 @@ void EngineRun::startEngine()
     if (m_tree) {
         ParentProject* tree = m_tree->model;
         m_tree->engine = &process;
+        m_tree->engineRun = this;
         QObject::connect(&process, &EngineProcess::output, tree, &ParentProject::engineOutput);
         QObject::connect(&process, &EngineProcess::started, tree,
                          [=] { emit tree->engineStarted(launch.program, launch.arguments); });
@@ -242,9 +246,41 @@ void EngineRun::startEngine()
     finish(process);
 }
 
+bool EngineRun::copyAgain(Project* project, ParentProject::RunCopy* copy, QStringList* failed)
+{
+    if (m_isCopying) {
+        return false;
+    }
+    const QScopedValueRollback<bool> once(m_isCopying, true);
+    const QStringList failedBefore = std::exchange(m_result.failedFiles, {});
+    // The engine may be reading the copy that it was told of last.
+    dropCopies(1);
+    m_copies.push_back(std::make_unique<TemporaryCopies>(m_folder));
+    m_runCopies.clear();
+    copyProject(0, project, QStringLiteral("zorvs_0"));
+    *failed = std::exchange(m_result.failedFiles, failedBefore);
+    if (!m_tree || m_runCopies.isEmpty() || !QFileInfo(m_runCopies.first().copy).isFile()) {
+        return false;
+    }
+    *copy = m_runCopies.first();
+    return true;
+}
+
+/// Removes all copies but the youngest ones.
+void EngineRun::dropCopies(size_t kept)
+{
+    while (m_copies.size() > kept) {
+        m_result.leftCopies += m_copies.front()->remove();
+        m_copies.erase(m_copies.begin());
+    }
+}
+
 void EngineRun::finish(const EngineProcess& process)
 {
-    m_result.leftCopies = m_copies->remove();
+    if (m_tree) {
+        m_tree->engineRun = nullptr;
+    }
+    dropCopies(0);
     keepResult();
     if (m_tree) {
         m_tree->runnable = true;
@@ -276,6 +312,11 @@ void EngineRun::keepResult()
 void ParentProject::run()
 {
     EngineRun(d.get()).run();
+}
+
+bool ParentProject::copyForEngine(Project* project, RunCopy* copy, QStringList* failed)
+{
+    return d->engineRun && d->engineRun->copyAgain(project, copy, failed);
 }
 
 bool ParentProject::isRunning() const

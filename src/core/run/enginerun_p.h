@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 namespace Zorv {
 
@@ -29,6 +30,9 @@ public:
 
     void run();
 
+    /// See `ParentProject::copyForEngine()`.
+    bool copyAgain(Project* project, ParentProject::RunCopy* copy, QStringList* failed);
+
 private:
     bool findEngine();
     bool chooseEngine(EngineModel* engines);
@@ -36,6 +40,7 @@ private:
     void copyProject(unsigned mark, Project* project, const QString& name);
     bool writeCopy(Project* project, const QString& folder, const QString& name);
     void startEngine();
+    void dropCopies(size_t kept);
     void finish(const EngineProcess& process);
     bool refuse(RunResult::Outcome outcome, const QString& warning);
     void keepResult();
@@ -47,7 +52,8 @@ private:
     QString m_parameters;
     QMap<unsigned, QString> m_texts;  ///< what the marks stand for
     QVector<ParentProject::RunCopy> m_runCopies;
-    std::unique_ptr<TemporaryCopies> m_copies;
+    std::vector<std::unique_ptr<TemporaryCopies>> m_copies;  ///< the youngest last
+    bool m_isCopying = false;
 };
 
 }  // namespace Zorv
