@@ -3693,6 +3693,37 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Family::NameKind</name>
+    <message>
+        <source>Animation</source>
+        <translation>Animation</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Sprite</source>
+        <translation>Sprite</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Klang</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+</context>
+<context>
     <name>Family::PaletteList</name>
     <message>
         <source>Add palette</source>
@@ -5072,6 +5103,41 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Operations::ChangeSet</name>
+    <message>
+        <source>%1 cannot be called %2. Check that there is no such file, and that its folder can be written to.</source>
+        <translation>%1 kann nicht %2 heißen. Bitte prüfen, dass es keine solche Datei gibt und dass in ihren Ordner geschrieben werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 has been changed meanwhile. Nothing is written. Try again.</source>
+        <translation>%1 wurde inzwischen geändert. Nichts wird geschrieben. Bitte noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source>%1 has been changed since, and stays as it is.</source>
+        <translation>%1 wurde seitdem geändert und bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>A change of several files that was cut off is finished now.</source>
+        <translation>Eine Änderung mehrerer Dateien, die abgebrochen war, ist jetzt zu Ende geführt.</translation>
+    </message>
+    <message>
+        <source>A change of several files was cut off, and cannot be finished.</source>
+        <translation>Eine Änderung mehrerer Dateien wurde abgebrochen und kann nicht zu Ende geführt werden.</translation>
+    </message>
+    <message>
+        <source>Some files have changed already and could not be changed back. The rest is done the next time that the game is opened.</source>
+        <translation>Einige Dateien sind schon geändert und konnten nicht zurückgesetzt werden. Der Rest folgt, wenn das Spiel das nächste Mal geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>%1 should tell of a change of several files, but cannot be read. Look whether names are as they should be, and remove it.</source>
+        <translation>%1 sollte von einer Änderung mehrerer Dateien berichten, kann aber nicht gelesen werden. Bitte nachsehen, ob die Namen stimmen, und die Datei entfernen.</translation>
+    </message>
+    <message>
+        <source>It is tried again the next time. To leave all as it is, remove %1.</source>
+        <translation>Beim nächsten Mal wird es wieder versucht. Soll alles bleiben, wie es ist, bitte %1 entfernen.</translation>
+    </message>
+</context>
+<context>
     <name>Operations::Create</name>
     <message>
         <source>There is no template &apos;%1&apos;. There are: %2.</source>
@@ -5494,6 +5560,100 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Looking for names</source>
         <translation>Namen werden gesucht</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::Rename</name>
+    <message>
+        <source>%1 does not come back byte for byte from its encoding, %2. Save it in UTF-8 first.</source>
+        <translation>%1 kommt aus seiner Codierung, %2, nicht Byte für Byte zurück. Bitte erst in UTF-8 speichern.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: The encoding %3 cannot hold the name. Choose another one, or save the file in UTF-8 first.</source>
+        <translation>%1, Zeile %2: Die Codierung %3 hat nicht alle Zeichen des Namens. Bitte einen anderen wählen oder die Datei erst in UTF-8 speichern.</translation>
+    </message>
+    <message>
+        <source>%1 would not be read as it is meant with this name. Choose another one.</source>
+        <translation>%1 würde mit diesem Namen nicht so gelesen, wie es gemeint ist. Bitte einen anderen wählen.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: Only a word can stand here, of letters, digits, &apos;_&apos; and &apos;-&apos;. Choose another name.</source>
+        <translation>%1, Zeile %2: Hier kann nur ein Wort aus Buchstaben, Ziffern, &apos;_&apos; und &apos;-&apos; stehen. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>It is called &apos;%1&apos; already.</source>
+        <translation>Der Name ist schon &apos;%1&apos;.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; leads out of the game folder, or to the main file. Choose another name.</source>
+        <translation>&apos;%1&apos; führt aus dem Ordner des Spiels hinaus oder zur Hauptdatei. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>There is a file &apos;%1&apos; already. Choose another name.</source>
+        <translation>Es gibt schon eine Datei &apos;%1&apos;. Bitte einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>There is no folder &apos;%1&apos;. Make it first.</source>
+        <translation>Es gibt keinen Ordner &apos;%1&apos;. Bitte erst anlegen.</translation>
+    </message>
+    <message>
+        <source>The name of the file has to end in &apos;.%1&apos; as before: that tells what it is.</source>
+        <translation>Der Name der Datei muss wie bisher auf &apos;.%1&apos; enden: Das sagt, was sie ist.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a main file, which no line has to name. Close the project, and rename the file by itself.</source>
+        <translation>&apos;%1&apos; ist eine Hauptdatei, die keine Zeile nennen muss. Bitte das Projekt schließen und die Datei selbst umbenennen.</translation>
+    </message>
+    <message>
+        <source>%1 has a &apos;%2&apos; already.</source>
+        <translation>%1 hat schon &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>%1, line %2, names &apos;%3&apos; already.</source>
+        <translation>%1, Zeile %2, nennt schon &apos;%3&apos;.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more places name it.</source>
+        <translation>
+            <numerusform>%n weitere Stelle nennt es.</numerusform>
+            <numerusform>%n weitere Stellen nennen es.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 has changes that are not saved. Save them first.</source>
+        <translation>%1 hat Änderungen, die nicht gespeichert sind. Bitte erst speichern.</translation>
+    </message>
+    <message>
+        <source>%1 is write-protected. Allow writing to it first.</source>
+        <translation>%1 ist schreibgeschützt. Bitte erst das Schreiben erlauben.</translation>
+    </message>
+    <message>
+        <source>%1 belongs to several projects, and &apos;%2&apos; lies elsewhere for each. Choose another folder.</source>
+        <translation>%1 gehört zu mehreren Projekten, und &apos;%2&apos; liegt für jedes anderswo. Bitte einen anderen Ordner wählen.</translation>
+    </message>
+    <message>
+        <source>%1 has a palette &apos;%2&apos;: it can only be called by a group and a number.</source>
+        <translation>%1 hat eine Palette &apos;%2&apos;: Sie kann nur eine Gruppe und eine Nummer als Namen haben.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder of images. Give its image the new number there, or convert it to a sprite file.</source>
+        <translation>%1 ist ein Ordner mit Bildern. Bitte dem Bild dort die neue Nummer geben oder eine Spritedatei daraus machen.</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos;; only the lines that name it change.</source>
+        <translation>Es gibt keine Datei &apos;%1&apos;; nur die Zeilen, die sie nennen, ändern sich.</translation>
+    </message>
+    <message>
+        <source>It is the same thing for projects that share files with this one, and changes there too: %1.</source>
+        <translation>Für Projekte, die sich Dateien mit diesem teilen, ist es dasselbe und ändert sich dort auch: %1.</translation>
+    </message>
+    <message>
+        <source>Engines look for &apos;%1&apos; by this name, and will not find it any more.</source>
+        <translation>Engines suchen &apos;%1&apos; unter diesem Namen und finden es dann nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Engines know &apos;%1&apos; by this name, and will use it.</source>
+        <translation>Engines kennen &apos;%1&apos; unter diesem Namen und werden es verwenden.</translation>
     </message>
 </context>
 <context>

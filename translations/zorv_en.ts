@@ -259,6 +259,16 @@
     </message>
 </context>
 <context>
+    <name>Operations::Rename</name>
+    <message numerus="yes">
+        <source>%n more places name it.</source>
+        <translation>
+            <numerusform>%n more place names it.</numerusform>
+            <numerusform>%n more places name it.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Operations::SoundWork</name>
     <message numerus="yes">
         <source>Cannot read &apos;%1&apos;: the sizes in it do not fit, and lead to none of its %n frame(s).</source>

@@ -5,7 +5,9 @@
 #include "cli/endingsignals.h"
 #include "cli/output.h"
 #include "family/grammar/grammar.h"
+#include "family/project/familyparentproject.h"
 #include "operations/hostinterface.h"
+#include "operations/rename/changeset.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -97,6 +99,19 @@ QStringList withHelpInFront(const QStringList& arguments)
     return arguments;
 }
 
+/// A change of several files that was cut off is brought to its end in front of all else.
+void settleGameOf(const QString& operand)
+{
+    if (operand.isEmpty() || !QFileInfo::exists(operand)) {
+        return;
+    }
+    const QStringList lines =
+        Operations::settleChanges(Family::FamilyParentProject::folderOf(operand));
+    for (const QString& line : lines) {
+        complain(line);
+    }
+}
+
 int run(const Command& command, const QStringList& arguments, Output& output)
 {
     Invocation invocation;
@@ -108,6 +123,7 @@ int run(const Command& command, const QStringList& arguments, Output& output)
     Operations::HostInterface host;
     Operations::startHost(&host);
     CommandDialogs dialogs;
+    settleGameOf(invocation.operands.value(0));
     const int status = command.run(invocation, output);
     return dialogs.wasShown() ? NotDone : status;
 }

@@ -136,6 +136,14 @@ constexpr Command table[] = {
      "file as the lines of the character have it. A line for each place, with a tab between the\n"
      "place, 'defines' or 'uses', and the text of the line. Where projects share files, the places of\n"
      "all for which the name is the same thing are there."},
+    {"rename", "CHARACTER KIND NAME NEWNAME", 4, 4, DryRun | Json, renameEverywhere,
+     "Give something of a character or stage another name, everywhere.",
+     "CHARACTER, KIND and NAME are as those of 'references'. Every place that it prints gets NEWNAME:\n"
+     "lines of all files of the game, the number in a file of sprites or sounds, the name of the file\n"
+     "itself. A line for each place, with a tab between the place, what stood there and what does\n"
+     "now. All files change, or none: a name that is taken already, a file that is write-protected\n"
+     "or whose encoding cannot hold the name is told. What a killed program has left of a rename is\n"
+     "finished by the next command on the game."},
     {"diff", "OLD NEW ID", 3, 3, Target | Zoom | ShowAxis | SpriteFile | Force | Json,
      diffAnimations,
      "Print which frames and contact boxes of an animation differ between two games.",

@@ -59,6 +59,7 @@ int renderAnimation(const Invocation& invocation, Output& output);
 int diffAnimations(const Invocation& invocation, Output& output);
 int listMoves(const Invocation& invocation, Output& output);
 int listReferences(const Invocation& invocation, Output& output);
+int renameEverywhere(const Invocation& invocation, Output& output);
 int listBoxes(const Invocation& invocation, Output& output);
 int runInEngine(const Invocation& invocation, Output& output);
 int backUp(const Invocation& invocation, Output& output);

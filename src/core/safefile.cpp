@@ -53,6 +53,7 @@ public:
     bool copyOldContent();
     bool flush();
     bool writeOut(const char* data, qint64 size);
+    bool bringToDisk();
     bool replaceTarget();
     bool takePlace(QString* reason);
     void discard();
@@ -68,6 +69,8 @@ public:
     QString failure;
     bool targetExists = false;
     bool isTouched = false;  // differs from the old file, if it began as its copy
+    bool waits = false;      // for the disk
+    std::optional<FileReplace::HandleCopy> lock;  // of a file that is closed, until it has its name
 };
 
 SafeFile::SafeFile(const QString& path, Options options)
@@ -122,10 +125,15 @@ void SafeFile::close()
     QIODevice::close();
 }
 
-bool SafeFile::commit()
+bool SafeFile::prepare()
 {
     close();
-    const bool done = d->failure.isEmpty() && (!d->isTouched || d->replaceTarget());
+    return d->failure.isEmpty() && (!d->isTouched || d->bringToDisk());
+}
+
+bool SafeFile::commit()
+{
+    const bool done = prepare() && (!d->isTouched || d->replaceTarget());
     d->discard();
     return done;
 }
@@ -309,28 +317,40 @@ bool SafeFilePrivate::writeOut(const char* data, qint64 size)
     return true;
 }
 
+/// Until it has its name it is locked, and so no leftover.
+bool SafeFilePrivate::bringToDisk()
+{
+    if (lock) {
+        return true;
+    }
+    QString reason;
+    waits = targetExists || !(options.testFlag(SafeFile::IsCopy) || LazySync::current());
+    if (waits && !FileReplace::syncFile(file, &reason)) {
+        failWriting(reason);
+        return false;
+    }
+    lock.emplace(file);
+    file.close();
+    if (file.error() != QFile::NoError) {
+        reason = file.errorString();
+        discard();
+        failWriting(reason);
+        return false;
+    }
+    return true;
+}
+
 bool SafeFilePrivate::replaceTarget()
 {
     QString reason;
-    const bool waits = targetExists || !(options.testFlag(SafeFile::IsCopy) || LazySync::current());
-    bool done = !waits || FileReplace::syncFile(file, &reason);
-    if (done) {
-        // Until it has its name it is locked, and so no leftover.
-        const FileReplace::HandleCopy keepsLock(file);
-        file.close();
-        done = file.error() == QFile::NoError;
-        reason = file.errorString();
-        done = done && takePlace(&reason);
-        if (!done) {
-            discard();
-        }
-    }
-    if (!done) {
+    if (!takePlace(&reason)) {
+        discard();
         failWriting(reason);
         return false;
     }
     Unfinished::remove(file.fileName());
     file.setFileName({});
+    lock.reset();
     if (waits) {
         FileReplace::syncFolder(QFileInfo(target).absolutePath());
     }
@@ -368,6 +388,7 @@ void SafeFilePrivate::discard()
     }
     file.close();
     file.setFileName({});
+    lock.reset();
     pending.clear();
 }
 

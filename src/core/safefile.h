@@ -52,6 +52,11 @@ public:
     /// Ends the writing; the old file is replaced by `commit()` only.
     void close() override;
 
+    /// Ends the writing and brings all of it to the disk, so that `commit()` has only to rename.
+    /// For a change of several files: what can fail for want of room has failed before the first of
+    /// them is replaced. False if any step has failed. Calling it is optional.
+    bool prepare();
+
     /// Puts the new file in the place of the old one, once it has reached the disk. A file that was
     /// opened to be changed, and was not, stays as it is. False if any step has failed.
     bool commit();

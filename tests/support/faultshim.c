@@ -50,6 +50,8 @@ static int mustFail(enum FaultCall call)
 {
     if (++counts[call] != armedNumber || call != armedCall)
         return 0;
+    if (armedError < 0)
+        _exit(FAULT_KILLED);
     errno = armedError;
     return 1;
 }

@@ -1,5 +1,7 @@
 #include "family/meaning/linename.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <iterator>
 
@@ -12,17 +14,20 @@ struct KindRow
 {
     NameKind kind;
     const char* word;
+    const char* title;
     Form form;
 };
 
 constexpr KindRow kindRows[] = {
-    {NameKind::Animation, "animation", Form::AnimationName},
-    {NameKind::Move, "move", Form::MoveName},
-    {NameKind::Command, "command", Form::CommandName},
-    {NameKind::Sprite, "sprite", Form::Any},
-    {NameKind::Palette, "palette", Form::Any},
-    {NameKind::Sound, "sound", Form::Any},
-    {NameKind::File, "file", Form::Path},
+    {NameKind::Animation, "animation", QT_TRANSLATE_NOOP("Family::NameKind", "Animation"),
+     Form::AnimationName},
+    {NameKind::Move, "move", QT_TRANSLATE_NOOP("Family::NameKind", "Move"), Form::MoveName},
+    {NameKind::Command, "command", QT_TRANSLATE_NOOP("Family::NameKind", "Command"),
+     Form::CommandName},
+    {NameKind::Sprite, "sprite", QT_TRANSLATE_NOOP("Family::NameKind", "Sprite"), Form::Any},
+    {NameKind::Palette, "palette", QT_TRANSLATE_NOOP("Family::NameKind", "Palette"), Form::Any},
+    {NameKind::Sound, "sound", QT_TRANSLATE_NOOP("Family::NameKind", "Sound"), Form::Any},
+    {NameKind::File, "file", QT_TRANSLATE_NOOP("Family::NameKind", "File"), Form::Path},
 };
 
 template <class Is>
@@ -144,6 +149,12 @@ QString nameKindWord(NameKind kind)
 {
     const KindRow* row = rowOf(kind);
     return row ? QLatin1String(row->word) : QString();
+}
+
+QString nameKindTitle(NameKind kind)
+{
+    const KindRow* row = rowOf(kind);
+    return row ? QCoreApplication::translate("Family::NameKind", row->title) : QString();
 }
 
 NameKind nameKindOf(const QString& word)

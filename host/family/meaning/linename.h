@@ -51,4 +51,7 @@ QString nameKindWord(NameKind kind);
 NameKind nameKindOf(const QString& word);
 QStringList nameKindWords();
 
+/// The same for the person, in the language of the program: "Animation".
+QString nameKindTitle(NameKind kind);
+
 }  // namespace Family

@@ -86,23 +86,21 @@ QString missingText(Form form, const QString& name)
 
 }  // namespace
 
-LineName nameAt(const FamilyDocument* document, int line, int column)
+LineName nameOfLine(const FamilyDocument* document, int line)
 {
     LineDetails details;
     LineReport report(nullptr, &details);
     const LineHead head = headOfLine(document, line);
     const QString text = document->findBlockByNumber(line).text();
-    const LineName name =
-        nameOf(text, readLine(text, head, document->kind(), report), head, details);
-    const bool isAround = name.start <= column && column <= name.end;
-    return isAround ? name : LineName();
+    return nameOf(text, readLine(text, head, document->kind(), report), head, details);
 }
 
 Reference referenceAt(const FamilyDocument* document, int line, int column)
 {
     Reference reference;
-    const LineName name = nameAt(document, line, column);
-    if (name.isNone() || name.isDefinition) {
+    const LineName name = nameOfLine(document, line);
+    const bool isAround = name.start <= column && column <= name.end;
+    if (name.isNone() || name.isDefinition || !isAround) {
         return reference;
     }
     reference.kind = referenceKind(name.kind);

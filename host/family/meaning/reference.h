@@ -21,8 +21,8 @@ struct Reference
     int end = 0;
 };
 
-/// The name at a line and column of a document, from 0, also where something gets it.
-LineName nameAt(const FamilyDocument* document, int line, int column);
+/// The name in a line of a document, from 0, also where something gets it.
+LineName nameOfLine(const FamilyDocument* document, int line);
 
 /// What the word at a line and column of a document refers to, from 0. It costs
 /// no more than to read the line.

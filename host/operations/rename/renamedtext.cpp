@@ -1,0 +1,185 @@
+#include "operations/rename/renamedtext_p.h"
+
+#include "family/grammar/linescanner.h"
+#include "family/nodes/valuetext.h"
+
+#include <zorv/code/codecs/filetext.h>
+#include <zorv/code/codecs/textcodecs.h>
+#include <zorv/core/filesystemarchive.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+namespace Operations {
+
+using Family::NameKind;
+using Zorv::TextCodecs;
+
+namespace {
+
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Operations::Rename)
+};
+
+/// The name as it is written where the old one stands: blanks and quotes stay.
+QString writtenName(const QString& old, NameKind kind, const QString& name)
+{
+    if (kind == NameKind::Sprite || kind == NameKind::Sound) {
+        static const QRegularExpression pair(QStringLiteral("^[^\\s,]+(\\s*,\\s*)[^\\s,]+$"));
+        const QString between = pair.match(old).captured(1);
+        return QString(name).replace(QLatin1Char(','),
+                                     between.isEmpty() ? QStringLiteral(",") : between);
+    }
+    const bool isQuoted = old.startsWith(QLatin1Char('"')) || !Family::isWord(name);
+    return isQuoted ? Family::quotedText(name) : name;
+}
+
+QString factOf(int line, NameKind kind, bool isDefinition, const QString& name)
+{
+    return QStringLiteral("%1 %2 %3 ").arg(line).arg(int(kind)).arg(int(isDefinition)) + name;
+}
+
+/// What a text names, line by line; those of some lines by the names that they get.
+template <class Names>
+QStringList factsOf(const FileNames& file, Names nameOf)
+{
+    QStringList facts;
+    for (const PlacedName& placed : file.names) {
+        facts.append(factOf(placed.line, placed.name.kind, placed.name.isDefinition,
+                            nameOf(placed.line, placed.name.name)));
+    }
+    for (const auto& use : file.sprites) {
+        facts.append(factOf(use.line, NameKind::Sprite, false, nameOf(use.line, use.id.text())));
+    }
+    for (const auto& use : file.sounds) {
+        facts.append(factOf(use.line, NameKind::Sound, false, nameOf(use.line, use.id.text())));
+    }
+    return facts;
+}
+
+FileNames namesIn(const QString& text, const QString& path)
+{
+    Family::SourceText source;
+    source.text = text;
+    source.kind = Family::fileKindOf(path);
+    return namesOf(source);
+}
+
+}  // namespace
+
+RenamedText::RenamedText(const QString& path) : m_path(path)
+{
+    Zorv::FileText file;
+    QFile device(path);
+    if (!file.read(*Zorv::FileSystemArchive::instance(), path, -1, &m_fault)) {
+        return;
+    }
+    m_codec = file.codec;
+    m_bytes = device.open(QIODevice::ReadOnly) ? device.readAll() : QByteArray();
+    m_text = TextCodecs::stringFromData(m_bytes, &m_codec);
+    findLines();
+    encode(m_text);
+    if (!file.isFaithful || m_newBytes != m_bytes) {
+        m_fault = Text::tr("%1 does not come back byte for byte from its encoding, %2. Save it in "
+                           "UTF-8 first.")
+                      .arg(QDir::toNativeSeparators(path), TextCodecs::name(m_codec));
+    }
+}
+
+void RenamedText::findLines()
+{
+    int start = 0;
+    for (int i = 0; i <= m_text.size(); ++i) {
+        const QChar c = i < m_text.size() ? m_text.at(i) : QLatin1Char('\n');
+        const bool isReturn = c == QLatin1Char('\r');
+        if (!isReturn && c != QLatin1Char('\n')) {
+            continue;
+        }
+        m_lines.append({start, i});
+        i += isReturn && i + 1 < m_text.size() && m_text.at(i + 1) == QLatin1Char('\n');
+        start = i + 1;
+    }
+}
+
+QString RenamedText::lineText(int line) const
+{
+    const Line place = m_lines.value(line - 1);
+    return m_text.mid(place.start, place.end - place.start);
+}
+
+void RenamedText::replace(const NameUse& use, NameKind kind, const QString& name)
+{
+    QString line = lineText(use.line);
+    const int column = use.column - 1;
+    const QString written = writtenName(line.mid(column, use.length), kind, name);
+    line.replace(column, use.length, written);
+    m_replaced.insert(use.line, {use.column, name, line});
+}
+
+/// As a document has it: lines end in '\n'.
+QString RenamedText::textOf(bool isNew) const
+{
+    QStringList lines;
+    for (int i = 1; i <= m_lines.size(); ++i) {
+        const auto replaced = isNew ? m_replaced.constFind(i) : m_replaced.cend();
+        lines.append(replaced == m_replaced.cend() ? lineText(i) : replaced->line);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+/// The byte-order mark is that of the file, or none.
+void RenamedText::encode(const QString& text)
+{
+    m_newBytes = TextCodecs::stringToData(text, m_codec);
+    m_newBytes.remove(0, TextCodecs::byteOrderMark(m_newBytes).size());
+    m_newBytes.prepend(TextCodecs::byteOrderMark(m_bytes));
+}
+
+void RenamedText::finish()
+{
+    QString text = m_text;
+    const QList<int> lines = m_replaced.keys();
+    for (int i = lines.size() - 1; i >= 0; --i) {
+        const Line place = m_lines.at(lines.at(i) - 1);
+        text.replace(place.start, place.end - place.start, m_replaced.value(lines.at(i)).line);
+        if (TextCodecs::firstUnencodable(m_replaced.value(lines.at(i)).line, m_codec) >= 0) {
+            m_fault = Text::tr("%1, line %2: The encoding %3 cannot hold the name. Choose another "
+                               "one, or save the file in UTF-8 first.")
+                          .arg(QDir::toNativeSeparators(m_path), QString::number(lines.at(i)),
+                               TextCodecs::name(m_codec));
+            return;
+        }
+    }
+    encode(text);
+    readAgain();
+}
+
+void RenamedText::readAgain()
+{
+    const QStringList expected =
+        factsOf(namesIn(textOf(false), m_path), [this](int line, const QString& name) {
+            return m_replaced.contains(line) ? m_replaced.value(line).name : name;
+        });
+    const QStringList found =
+        factsOf(namesIn(textOf(true), m_path), [](int, const QString& name) { return name; });
+    if (found != expected) {
+        m_fault =
+            Text::tr("%1 would not be read as it is meant with this name. Choose another one.")
+                .arg(QDir::toNativeSeparators(m_path));
+    }
+}
+
+QVector<RenamedLine> RenamedText::lines() const
+{
+    QVector<RenamedLine> lines;
+    for (auto it = m_replaced.cbegin(); it != m_replaced.cend(); ++it) {
+        lines.append({m_path, it.key(), it->column, lineText(it.key()), it->line});
+    }
+    return lines;
+}
+
+}  // namespace Operations

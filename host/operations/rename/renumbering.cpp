@@ -1,0 +1,106 @@
+#include "operations/rename/renumbering_p.h"
+
+#include "family/assets/newsprites.h"
+#include "family/assets/remapmodel.h"
+#include "family/assets/soundfile.h"
+#include "family/assets/spritecollection.h"
+#include "family/check/assetfacts.h"
+
+#include <zorv/core/filesystemarchive.h>
+
+#include <QFile>
+
+#include <memory>
+
+namespace Operations {
+
+using Family::AssetId;
+using Family::NameKind;
+
+namespace {
+
+const QString identifier = QStringLiteral("Identifier");
+
+struct Release
+{
+    void operator()(Zorv::ProjectFile* file) const { file->release(); }
+};
+
+/// All of that identifier: who shows the first one goes on to.
+template <class Items>
+void rename(const Items& items, AssetId from, AssetId to)
+{
+    for (const auto& item : items) {
+        if (item->id() == from) {
+            item->setProperty(identifier, to.text());
+        }
+    }
+}
+
+/// What the remaps of a collection say of a palette goes along.
+void redirect(Family::RemapModel* remaps, AssetId from, AssetId to)
+{
+    for (int i = 0; i < remaps->rowCount() * Family::RemapModel::ColumnCount; ++i) {
+        const QModelIndex cell =
+            remaps->index(i / Family::RemapModel::ColumnCount, i % Family::RemapModel::ColumnCount);
+        if (cell.data().toString() == from.text()) {
+            remaps->setData(cell, to.text());
+        }
+    }
+}
+
+bool renumberSprites(const ChangeSet::Asset& asset, Zorv::Archive* archive, QString* error)
+{
+    const std::unique_ptr<Family::SpriteCollection, Release> sprites(
+        Family::openSprites(asset.path, error));
+    if (!sprites) {
+        return false;
+    }
+    if (asset.kind == NameKind::Sprite) {
+        rename(sprites->items(), asset.from, asset.to);
+    } else {
+        rename(sprites->palettes()->items(), asset.from, asset.to);
+        redirect(sprites->palettes()->remaps(), asset.from, asset.to);
+    }
+    const bool isWritten = sprites->toFile(*archive, asset.path, true);
+    *error = sprites->errorString();
+    return isWritten;
+}
+
+bool renumberSounds(const ChangeSet::Asset& asset, Zorv::Archive* archive, QString* error)
+{
+    Family::SoundFile sounds;
+    const bool isDone =
+        sounds.fromFile(*Zorv::FileSystemArchive::instance(), asset.path, false) &&
+        (rename(sounds.items(), asset.from, asset.to), sounds.toFile(*archive, asset.path, true));
+    *error = sounds.errorString();
+    return isDone;
+}
+
+}  // namespace
+
+bool readIds(const QString& path, NameKind kind, QVector<AssetId>* ids)
+{
+    if (kind == NameKind::Palette) {
+        QFile file(path);
+        QString error;
+        Family::SpriteFileData data;
+        const bool isRead = file.open(QIODevice::ReadOnly) && data.read(&file, &error);
+        for (const Family::SpriteFileData::Palette& palette : qAsConst(data.palettes)) {
+            ids->append(palette.id);
+        }
+        return isRead;
+    }
+    const Family::AssetFacts facts = Family::assetFacts(
+        kind == NameKind::Sprite ? Zorv::FileID::Sprites : Zorv::FileID::Sounds, path);
+    *ids = facts.ids;
+    return facts.isReadable;
+}
+
+bool renumber(const ChangeSet::Asset& asset, Zorv::Archive* archive, QString* error)
+{
+    return asset.kind == NameKind::Sound ? renumberSounds(asset, archive, error)
+                                         : renumberSprites(asset, archive, error);
+}
+
+}  // namespace Operations
