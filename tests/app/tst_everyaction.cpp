@@ -88,7 +88,7 @@ void TestEveryAction::prepare(const QString& name)
             dialog->close();
         }
     }
-    if (!m->window->session()->game()) {
+    if (m->window->session()->folder() != m_folder->filePath(QStringLiteral("arena/"))) {
         QVERIFY(m->window->openPath(m_folder->filePath(QStringLiteral("arena"))));
     }
     QVERIFY(m->window->openFile(

@@ -163,7 +163,7 @@ void showAttack(MainWindow* window, const FamilyDocument* document, int animatio
 {
     const QList<FamilyDocument*> documents = projectOf(document)->documents();
     for (FamilyDocument* other : documents) {
-        if (other->animations()->count() > 10 &&
+        if (other->animations()->count() > 7 &&
             other->text().contains(QLatin1String("\nattack "))) {
             window->showDocument(other);
             break;
