@@ -94,6 +94,7 @@ private slots:
     void brokenGameAsBefore();
     void filesComeBack_data();
     void filesComeBack();
+    void scriptMakesTheFiles_data();
     void scriptMakesTheFiles();
 };
 
@@ -181,24 +182,32 @@ void TestSamples::filesComeBack()
 }
 
 /// Each file that the script writes has the bytes of the one that is kept.
+void TestSamples::scriptMakesTheFiles_data()
+{
+    columns<QString, QString, int>("script", "folder", "files");
+    row<QString, QString, int>("game", "make_samples.py", "arena/", 23);
+    row<QString, QString, int>("drawings", "make_drawings.py", "drawings/", 30);
+}
+
 void TestSamples::scriptMakesTheFiles()
 {
+    const auto [script, made, files] = fetched<QString, QString, int>();
     const QString python = QStandardPaths::findExecutable("python3");
     if (python.isEmpty()) {
         QSKIP("no python3 here");
     }
     QTemporaryDir folder;
     QVERIFY(folder.isValid());
-    QCOMPARE(QProcess::execute(python, {gameFolder("make_samples.py"), folder.path()}), 0);
+    QCOMPARE(QProcess::execute(python, {gameFolder(script), folder.path()}), 0);
     int count = 0;
     QDirIterator it(folder.path(), QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString path = it.next();
         const QString name = QDir(folder.path()).relativeFilePath(path);
-        QVERIFY2(bytesOf(path) == bytesOf(gameFolder("arena/") + name), qPrintable(name));
+        QVERIFY2(bytesOf(path) == bytesOf(gameFolder(made) + name), qPrintable(name));
         ++count;
     }
-    QCOMPARE(count, 23);
+    QCOMPARE(count, files);
 }
 
 QTEST_MAIN(TestSamples)
