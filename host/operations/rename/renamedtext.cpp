@@ -40,7 +40,10 @@ QString writtenName(const QString& old, NameKind kind, const QString& name)
 
 QString factOf(int line, NameKind kind, bool isDefinition, const QString& name)
 {
-    return QStringLiteral("%1 %2 %3 ").arg(line).arg(int(kind)).arg(int(isDefinition)) + name;
+    return QStringLiteral("%1 %2 %3 ")
+               .arg(QString::number(line), QString::number(int(kind)),
+                    QString::number(int(isDefinition))) +
+           name;
 }
 
 /// What a text names, line by line; those of some lines by the names that they get.
