@@ -50,11 +50,11 @@ inline QVector<QPoint> differences(const QImage& a, const QImage& b)
     return places;
 }
 
-/// A window with two sprites in it, with real keys and a real mouse.
+/// A window with sprites in it, with real keys and a real mouse.
 class PaintingTest : public QObject
 {
 protected:
-    void begin();
+    void begin(int count = 2);
 
     Zorv::SpriteEditor* editor() const { return m->window->paint()->editor(); }
     Zorv::ImageCanvas* canvas() const { return editor()->renderer()->canvas(); }
@@ -106,15 +106,16 @@ protected:
     std::unique_ptr<WindowFixture> m;
 };
 
-inline void PaintingTest::begin()
+inline void PaintingTest::begin(int count)
 {
     m_game = std::make_unique<TemporaryGame>();
     m_game->write("characters/ryn/ryn.character",
                   "[info]\r\nname = \"Ryn\"\r\n[files]\r\nsprites = \"ryn.sprites\"\r\n"
                   "animations = \"basic.anim\"\r\n");
     Family::SpriteFile file;
-    QVERIFY(file.insertSprite(-1, {0, 0}, {8, 11}, picture(0)));
-    QVERIFY(file.insertSprite(0, {0, 1}, {8, 11}, picture(1)));
+    for (int i = 0; i < count; ++i) {
+        QVERIFY(file.insertSprite(i - 1, {quint16(i / 3), quint16(i % 3)}, {8, 11}, picture(i)));
+    }
     QVERIFY(file.toFile(*Zorv::FileSystemArchive::instance(), m_game->path(SpritePath), false));
     m_folder = std::make_unique<QTemporaryDir>();
     m = std::make_unique<WindowFixture>(m_folder->filePath(QStringLiteral("zorv.ini")));

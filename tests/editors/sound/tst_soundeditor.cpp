@@ -1,199 +1,56 @@
-#include "core/filesystemarchive.h"
-#include "editors/sound/audiosamplewidget.h"
-#include "editors/sound/resampledlg.h"
-#include "editors/sound/sndimportdlg.h"
-#include "editors/sound/soundeditor.h"
-#include "editors/sound/soundworkspace.h"
-#include "family/assets/soundfile.h"
-#include "media/soundconversion.h"
+#include "soundeditorfixture.h"
+
 #include "media/soundedits.h"
-#include "media/wav.h"
-#include "support/faultrows.h"
-#include "support/folders.h"
-#include "support/planneddialogs.h"
-#include "support/plannedsound.h"
-#include "support/testinterface.h"
-#include "support/testproject.h"
-#include "support/testsounds.h"
-#include "support/testtable.h"
 
 #include <QAbstractButton>
-#include <QAction>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QListView>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QRandomGenerator>
 #include <QSlider>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <QtTest>
 
-#include <cerrno>
-
-using namespace Zorv;
-using Family::SoundFile;
+#include <climits>
 
 namespace {
 
-QByteArray noise(int size, quint32 seed)
+/// Answers whatever dialog comes, by chance.
+void answer(QDialog* dialog, QRandomGenerator* random)
 {
-    QRandomGenerator random(seed);
-    QByteArray bytes(size, '\0');
-    std::generate(bytes.begin(), bytes.end(), [&] { return char(random.generate()); });
-    return bytes;
-}
-
-SoundSample sampleOf(const Sound* sound)
-{
-    SoundSample sample;
-    static_cast<SampleInfo&>(sample) = sound->sampleInfo();
-    sample.data = sound->sampleData();
-    return sample;
+    const QList<QListView*> lists = dialog->findChildren<QListView*>();
+    for (QListView* list : lists) {
+        random->bounded(2) ? list->selectAll() : list->clearSelection();
+    }
+    const QList<QAbstractButton*> buttons = dialog->findChildren<QAbstractButton*>();
+    for (QAbstractButton* button : buttons) {
+        const bool isEnd = qobject_cast<QDialogButtonBox*>(button->parentWidget());
+        if (!isEnd && random->bounded(2)) {
+            button->click();
+        }
+    }
+    const QList<QComboBox*> boxes = dialog->findChildren<QComboBox*>();
+    for (QComboBox* box : boxes) {
+        box->setCurrentIndex(random->bounded(qMax(box->count(), 1)));
+    }
+    auto* rate = dialog->findChild<QComboBox*>("samplerate");
+    if (rate && rate->currentIndex() > 5) {
+        rate->setCurrentIndex(0);  // the others only take longer
+    }
+    random->bounded(3) ? dialog->accept() : dialog->reject();
 }
 
 }  // namespace
 
-class TestSoundEditor : public QObject
+class TestSoundEditor : public SoundEditorTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { begin(); }
+    void cleanup() { end(); }
     void stepsThroughSounds();
     void addsReplacesAndRemoves();
-    void savesUnderNamesOfTheirOwn();
-    void failedSavesLoseNothing_data();
-    void failedSavesLoseNothing();
-    void resamplesWhatDiffers();
-    void resamplingEndsEarly_data();
-    void resamplingEndsEarly();
     void changesTheSelectedPart();
     void findsAndReplaces_data();
     void findsAndReplaces();
-    void importsFromAnotherProject_data();
-    void importsFromAnotherProject();
-    void plays();
-    void statesAreShown_data();
-    void statesAreShown();
-    void projectGoes_data();
-    void projectGoes();
     void staysWithOddSamples();
     void anythingCanBeUndone();
-
-private:
-    static void answer(QDialog* dialog, QRandomGenerator* random);
-    void trigger(const char* name) { host->actions.value(QLatin1String(name))->trigger(); }
-    QString label(const char* name)
-    {
-        return qobject_cast<QLabel*>(host->controls.value(QLatin1String(name)))->text();
-    }
-    QString wav(const char* name, const SoundSample& sample)
-    {
-        QFile file(folder->filePath(QLatin1String(name)));
-        soundToWAV(sample, &file);
-        return file.fileName();
-    }
-    QStringList ids() const;
-    QVector<QByteArray> content() const;
-    void whenOpen(const std::function<void(QDialog*)>& person);
-    void resample(const QVector<int>& rows, const QString& rate, int channels);
-
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<TestInterface> host;
-    std::unique_ptr<PlannedDialogs> dialogs;
-    std::unique_ptr<PlannedSound> devices;
-    std::unique_ptr<TestParent> parent;
-    std::unique_ptr<SoundWorkspace> workspace;
-    std::unique_ptr<SoundEditor> editor;
-    TestProject* project = nullptr;
-    QPointer<SoundFile> sounds;
 };
-
-void TestSoundEditor::init()
-{
-    folder = std::make_unique<QTemporaryDir>();
-    host = std::make_unique<TestInterface>();
-    dialogs = std::make_unique<PlannedDialogs>();
-    devices = std::make_unique<PlannedSound>();
-    host->texts = {
-        {2, "Bad file"}, {3, "bad: %1"}, {4, "empty %1 %2 of %3"}, {7, "All"}, {8, "No"}};
-    parent = std::make_unique<TestParent>(folder->path());
-    project = parent->open(QStringLiteral("a.txt"), {});
-    host->projects = {project};
-    sounds = new SoundFile;
-    project->addFile(sounds, FileID::Sounds);
-    for (int i = 0; i < 3; ++i) {
-        sounds->add(i, QStringLiteral("%1,%2").arg(i).arg(i * 5), soundOf(noise(400 + i * 40, i)));
-    }
-    workspace = std::make_unique<SoundWorkspace>();
-    editor = std::make_unique<SoundEditor>(workspace.get());
-    editor->setProject(project);
-    host->activateEditor(editor.get());
-    editor->activate();
-}
-
-void TestSoundEditor::cleanup()
-{
-    editor.reset();
-    workspace.reset();
-    parent.reset();
-    devices.reset();
-    dialogs.reset();
-    host.reset();
-}
-
-QStringList TestSoundEditor::ids() const
-{
-    QStringList result;
-    for (int i = 0; i < int(sounds->count()); ++i) {
-        result += sounds->sound(i)->property(QStringLiteral("Identifier")).toString();
-    }
-    return result;
-}
-
-QVector<QByteArray> TestSoundEditor::content() const
-{
-    QVector<QByteArray> result;
-    for (int i = 0; i < int(sounds->count()); ++i) {
-        QBuffer buffer;
-        soundToWAV(sampleOf(sounds->sound(i)), &buffer);
-        result.append(ids().at(i).toLatin1() + buffer.data());
-    }
-    return result;
-}
-
-void TestSoundEditor::whenOpen(const std::function<void(QDialog*)>& person)
-{
-    auto* timer = new QTimer(editor.get());
-    connect(timer, &QTimer::timeout, timer, [timer, person] {
-        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-            timer->deleteLater();
-            timer->stop();
-            person(dialog);
-        }
-    });
-    timer->start(1);
-}
-
-void TestSoundEditor::resample(const QVector<int>& rows, const QString& rate, int channels)
-{
-    whenOpen([=](QDialog* dialog) {
-        auto* list = dialog->findChild<QListView*>();
-        list->clearSelection();
-        for (const int row : rows) {
-            list->selectionModel()->select(list->model()->index(row, 0),
-                                           QItemSelectionModel::Select);
-        }
-        dialog->findChild<QComboBox*>("samplerate")->setCurrentText(rate);
-        dialog->findChild<QComboBox*>("channels")->setCurrentIndex(channels - 1);
-        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-    });
-    trigger("snd_resample");
-}
 
 void TestSoundEditor::stepsThroughSounds()
 {
@@ -273,136 +130,6 @@ void TestSoundEditor::addsReplacesAndRemoves()
     QCOMPARE(sounds->sound(1)->sampleData(), noise(400, 0));
 }
 
-void TestSoundEditor::savesUnderNamesOfTheirOwn()
-{
-    const auto acceptAll = [](QDialog* dialog) {
-        dialog->findChild<QListView*>()->selectAll();
-        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-    };
-    const QString chosen = folder->filePath("out.v1.wav");
-    QFile there(folder->filePath("out.v1_1-5.wav"));
-    QVERIFY(there.open(QIODevice::WriteOnly) && there.write("mine") == 4);
-    there.close();
-    for (const auto answer : {Dialogs::No, Dialogs::Yes}) {
-        dialogs->fileAnswers = {{chosen}};
-        dialogs->buttonAnswers = {answer};
-        whenOpen(acceptAll);
-        trigger("snd_save_sample");
-        QCOMPARE(QFile::exists(folder->filePath("out.v1_0-0.wav")), answer == Dialogs::Yes);
-        QCOMPARE(there.size() == 4, answer == Dialogs::No);
-    }
-    QCOMPARE(soundFromWAV(&there).data, noise(440, 1));
-    dialogs->fileAnswers = {{folder->filePath("no/way/a.wav")}};
-    QFile blocked(folder->filePath("no"));
-    QVERIFY(blocked.open(QIODevice::WriteOnly));
-    QSignalSpy failed(editor.get(), &SoundEditor::saveFailed);
-    whenOpen([](QDialog* dialog) { dialog->accept(); });
-    trigger("snd_save_sample");
-    QCOMPARE(failed.count(), 1);
-}
-
-void TestSoundEditor::failedSavesLoseNothing_data()
-{
-    columns<int, int>("call", "error");
-    faultRows();
-}
-
-/// Of three sounds the second cannot be written; nor can the file of all of them.
-void TestSoundEditor::failedSavesLoseNothing()
-{
-    const auto [call, error] = fetched<int, int>();
-    const QString old = folder->filePath("out_1-5.wav");
-    const QString whole = folder->filePath("a.sounds");
-    Archive* archive = FileSystemArchive::instance();
-    QVERIFY(sounds->toFile(*archive, whole, false));
-    const QByteArray before = readFile(whole);
-    QVERIFY(writeFile(old, "mine"));
-    QString told;
-    connect(editor.get(), &SoundEditor::saveFailed, this,
-            [&](const QString& text) { told = text; });
-    dialogs->fileAnswers = {{folder->filePath("out.wav")}};
-    dialogs->buttonAnswers = {Dialogs::Yes};
-    whenOpen([&, call = call, error = error](QDialog* dialog) {
-        dialog->findChild<QListView*>()->selectAll();
-        faultArm("out_1-5", FaultCall(call), 1, error, call == FaultWrite);
-        dialog->accept();
-    });
-    trigger("snd_save_sample");
-    told += dialogs->texts("error").join('\n');
-    QVERIFY2(told.contains(old) && told.contains(qt_error_string(error)), qPrintable(told));
-    QCOMPARE(readFile(old), QByteArray("mine"));
-    QFile first(folder->filePath("out_0-0.wav"));
-    QCOMPARE(soundFromWAV(&first).data, noise(400, 0));
-
-    sounds->remove(1);
-    faultArm("a.sounds", FaultCall(call), 1, error, call == FaultWrite);
-    QVERIFY(!sounds->toFile(*archive, whole, false));
-    faultArm("", FaultOpen, 0, 0, 0);
-    QVERIFY2(sounds->errorString().contains(qt_error_string(error)),
-             qPrintable(sounds->errorString()));
-    QVERIFY(sounds->isModified());
-    QCOMPARE(readFile(whole), before);
-}
-
-void TestSoundEditor::resamplesWhatDiffers()
-{
-    const QVector<QByteArray> before = content();
-    SampleInfo target = sounds->sound(0)->sampleInfo();
-    target.sampleRate = 44100;
-    target.channels = 2;
-    const SoundSample first = convertSound(sampleOf(sounds->sound(0)), target).sample;
-    const SoundSample last = convertSound(sampleOf(sounds->sound(2)), target).sample;
-    resample({0, 2}, "44100 Hz", 2);
-    QCOMPARE(sounds->sound(0)->sampleData(), first.data);
-    QCOMPARE(sounds->sound(2)->sampleData(), last.data);
-    QCOMPARE(content().at(1), before.at(1));
-    const QVector<QByteArray> after = content();
-    resample({0, 2}, "44100 Hz", 2);
-    QCOMPARE(host->progresses.last().updates, (QList<QPair<int, int>>{{0, 0}}));
-    QCOMPARE(content(), after);
-    editor->undo();
-    QCOMPARE(content(), before);
-}
-
-void TestSoundEditor::resamplingEndsEarly_data()
-{
-    columns<QString>("how");
-    row("given up", QStringLiteral("cancel"));
-    row("closed", QStringLiteral("close"));
-    row("a sound goes", QStringLiteral("remove"));
-}
-
-void TestSoundEditor::resamplingEndsEarly()
-{
-    const auto [how] = fetched<QString>();
-    for (int i = 0; i < 20; ++i) {
-        sounds->add(3, {}, soundOf(noise(400000, 77)));
-    }
-    const QVector<QByteArray> before = content();
-    if (how == "cancel") {
-        host->cancelAfter = 2;
-    }
-    QTimer::singleShot(60, this, [this, how = how] {
-        if (how == "close") {
-            parent->close(project);
-        } else if (how == "remove") {
-            sounds->remove(0);
-        }
-    });
-    resample({0, 1, 2, 5, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20}, "48000 Hz", 1);
-    QCOMPARE(bool(sounds), how != "close");
-    if (sounds) {
-        QVERIFY(sounds->sound(int(sounds->count()) - 1)->sampleInfo().sampleRate == 22050);
-        while (sounds->canUndo() && sounds->count() >= (how == "remove" ? 22 : 23)) {
-            sounds->undo();
-            if (content() == before) {
-                return;
-            }
-        }
-        QFAIL("undo does not bring the sounds back");
-    }
-}
-
 void TestSoundEditor::changesTheSelectedPart()
 {
     const SoundSample sound = sampleOf(editor->sound());
@@ -465,194 +192,6 @@ void TestSoundEditor::findsAndReplaces()
     QVERIFY(dialogs->texts("warning").value(0).contains("'one,5'"));
 }
 
-void TestSoundEditor::importsFromAnotherProject_data()
-{
-    columns<bool>("replaces");
-    row("skip", false);
-    row("replace", true);
-}
-
-void TestSoundEditor::importsFromAnotherProject()
-{
-    const auto [replaces] = fetched<bool>();
-    trigger("snd_import_proj");
-    QCOMPARE(dialogs->texts("warning"),
-             QStringList{"You can't import from the destination project!"});
-    TestProject* other = parent->open(QStringLiteral("b.txt"), {});
-    host->projects.append(other);
-    auto* source = new SoundFile;
-    other->addFile(source, FileID::Sounds);
-    for (const char* id : {"1,5", "8,8"}) {
-        source->add(9, QLatin1String(id), soundOf(noise(60, 4), 2, 8));
-    }
-    const QVector<QByteArray> before = content();
-    whenOpen([replaces = replaces](QDialog* dialog) {
-        dialog->findChild<QListView*>("source")->selectAll();
-        dialog->findChild<QPushButton*>("add")->click();
-        dialog->findChild<QRadioButton*>("replace")->setChecked(replaces);
-        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-    });
-    trigger("snd_import_proj");
-    QCOMPARE(ids(), (QStringList{"0,0", "8,8", "1,5", "2,10"}));
-    QCOMPARE(sounds->sound(2)->sampleData(), noise(replaces ? 60 : 440, replaces ? 4 : 1));
-    QCOMPARE(sounds->currentIndex, 1);
-    const QStringList told = dialogs->texts("information").value(0).split('\n');
-    QCOMPARE(told.size(), replaces ? 2 : 1);
-    editor->undo();
-    QCOMPARE(content(), before);
-}
-
-void TestSoundEditor::plays()
-{
-    const auto checked = [this](const char* name) {
-        return host->actions.value(name)->isChecked();
-    };
-    trigger("snd_play");
-    QVERIFY(checked("snd_play") && !checked("snd_stop") && !checked("snd_play_loop"));
-    trigger("snd_play_loop");
-    QVERIFY(checked("snd_play_loop") && !checked("snd_play"));
-    QCOMPARE(devices->output->stream->read(1000), noise(400, 0).repeated(3).left(1000));
-    trigger("snd_next");
-    QVERIFY(checked("snd_stop") && !checked("snd_play_loop"));
-    trigger("snd_play");
-    QCOMPARE(devices->output->stream->read(1000), noise(440, 1));
-    parent->close(project);
-    QCOMPARE(int(workspace->currentState()), int(SoundSample::StoppedState));
-}
-
-void TestSoundEditor::statesAreShown_data()
-{
-    columns<QString, QString>("plan", "shown");
-    row("played to the end", QStringLiteral("playri"), QStringLiteral("PS"));
-    row("late, but not at the end", QStringLiteral("playia"), QStringLiteral("P.P"));
-    row("a loop is never at its end", QStringLiteral("loopria"), QStringLiteral("L.L"));
-    row("suspended by the system", QStringLiteral("playua"), QStringLiteral("P-P"));
-    row("stopped by the system", QStringLiteral("playx"), QStringLiteral("PS"));
-    row("played again", QStringLiteral("playxplayri"), QStringLiteral("PSPS"));
-    row("gone while it plays", QStringLiteral("playf"), QStringLiteral("PS"));
-    row("gone and back", QStringLiteral("playfbplay"), QStringLiteral("PSP"));
-    row("gone before", QStringLiteral("fplaybloop"), QStringLiteral("L"));
-    row("looping no more", QStringLiteral("looptri"), QStringLiteral("LPS"));
-}
-
-/// "play" and "loop" by their actions, "t" ends looping; the device: "r" reads all, "i" is idle,
-/// "a" active, "u" suspended, "x" stopped, "f" fails, "b" is back. What the actions say behind each
-/// of these that changes it: P, L, S, - for none; "." while it is idle.
-void TestSoundEditor::statesAreShown()
-{
-    const auto [plan, shown] = fetched<QString, QString>();
-    workspace->sampleWidget()->showNow();
-    QString seen;
-    QString last = QStringLiteral("S");
-    for (int i = 0; i < plan.size(); ++i) {
-        PlannedOutput* output = devices->output;
-        if (plan.mid(i, 4) == "play" || plan.mid(i, 4) == "loop") {
-            trigger(plan.mid(i, 4) == "play" ? "snd_play" : "snd_play_loop");
-            i += 3;
-        } else if (plan[i] == 't') {
-            trigger("snd_play_loop");
-        } else if (plan[i] == 'r') {
-            output->stream->read(100000);
-        } else if (plan[i] == 'f') {
-            devices->isGone = true;
-            output->fails = true;
-            output->become(SoundOutput::Active);
-            output->become(SoundOutput::Stopped);
-        } else if (plan[i] == 'b') {
-            devices->isGone = false;
-        } else {
-            output->become(plan[i] == 'i'   ? SoundOutput::Idle
-                           : plan[i] == 'a' ? SoundOutput::Active
-                           : plan[i] == 'u' ? SoundOutput::Suspended
-                                            : SoundOutput::Stopped);
-        }
-        const auto isOn = [&](const char* name) { return host->actions.value(name)->isChecked(); };
-        const QString now = isOn("snd_play")        ? "P"
-                            : isOn("snd_play_loop") ? "L"
-                            : isOn("snd_stop")      ? "S"
-                                                    : "-";
-        const bool isIdle = devices->output && devices->output->now == SoundOutput::Idle;
-        seen += isIdle ? "." : now != last || seen.endsWith('.') ? now : QString();
-        last = now;
-    }
-    QCOMPARE(seen, shown);
-}
-
-void TestSoundEditor::projectGoes_data()
-{
-    columns<QString>("during");
-    for (const char* during :
-         {"snd_play", "snd_play_loop", "slider", "waveform", "snd_add", "snd_open_sample",
-          "snd_delete", "snd_save_sample", "snd_resample", "snd_import_proj", "items",
-          "snd_add at work", "snd_open_sample at work", "snd_import_proj at work"}) {
-        row(during, QString(during));
-    }
-}
-
-void TestSoundEditor::projectGoes()
-{
-    const auto [during] = fetched<QString>();
-    host->options["confirm_delete"] = true;
-    workspace->sampleWidget()->showNow();
-    TestProject* other = parent->open(QStringLiteral("b.txt"), {});
-    host->projects.append(other);
-    auto* source = new SoundFile;
-    other->addFile(source, FileID::Sounds);
-    const bool isAtWork = during.endsWith("work");
-    const SoundSample added = soundOf(noise(isAtWork ? 1 << 22 : 100, 9));
-    source->add(0, {}, added);
-    dialogs->fileAnswers = {{wav("5,5.wav", added)}};
-    dialogs->buttonAnswers = {Dialogs::Yes};
-    bool isClosed = false;
-    const auto close = [&] {
-        if (!isClosed) {
-            isClosed = true;
-            host->projects.removeOne(project);
-            parent->close(project);
-        }
-    };
-    auto* slider = qobject_cast<QSlider*>(host->controls.value("snd_sel"));
-    if (during == "slider") {
-        slider->setSliderDown(true);
-        slider->setSliderPosition(1);
-    } else if (during == "waveform") {
-        QTest::mousePress(workspace->sampleWidget(), Qt::LeftButton, {}, {10, 10});
-    } else if (isAtWork) {
-        // The first loop that runs then waits for another thread.
-        whenOpen([&](QDialog* dialog) {
-            dialog->findChild<QListView*>("source")->selectAll();
-            dialog->findChild<QPushButton*>("add")->click();
-            QTimer::singleShot(0, this, close);
-            dialog->accept();
-        });
-        if (!during.contains("import")) {
-            QTimer::singleShot(0, this, close);
-        }
-        trigger(during.section(' ', 0, 0).toLatin1().constData());
-        QVERIFY(isClosed);
-    } else {
-        const bool isLater = during == "items" || during.startsWith("snd_play");
-        dialogs->whileOpen = [&](const PlannedDialogs::Shown&) { isLater ? void() : close(); };
-        whenOpen([&](QDialog* dialog) {
-            close();
-            dialog->accept();
-        });
-        trigger(during == "items" ? "snd_save_sample" : during.toLatin1().constData());
-    }
-    close();
-    QVERIFY(!sounds && !editor->file() && !editor->sound());
-    QCOMPARE(label("snd_sel_lb"), QStringLiteral("0 / 0"));
-    QCOMPARE(int(workspace->currentState()), int(SoundSample::StoppedState));
-    QTest::mouseMove(workspace->sampleWidget(), {40, 10});
-    QTest::mouseRelease(workspace->sampleWidget(), Qt::LeftButton, {}, {40, 10});
-    slider->setSliderDown(false);
-    for (QAction* action : qAsConst(host->actions)) {
-        action->trigger();
-    }
-    QTest::qWait(200);
-    QVERIFY(workspace->sampleWidget()->sample().data.isEmpty());
-}
-
 void TestSoundEditor::staysWithOddSamples()
 {
     const struct
@@ -689,31 +228,6 @@ void TestSoundEditor::staysWithOddSamples()
         }
         QCOMPARE(content(), before);
     }
-}
-
-/// Answers whatever dialog comes, by chance.
-void TestSoundEditor::answer(QDialog* dialog, QRandomGenerator* random)
-{
-    const QList<QListView*> lists = dialog->findChildren<QListView*>();
-    for (QListView* list : lists) {
-        random->bounded(2) ? list->selectAll() : list->clearSelection();
-    }
-    const QList<QAbstractButton*> buttons = dialog->findChildren<QAbstractButton*>();
-    for (QAbstractButton* button : buttons) {
-        const bool isEnd = qobject_cast<QDialogButtonBox*>(button->parentWidget());
-        if (!isEnd && random->bounded(2)) {
-            button->click();
-        }
-    }
-    const QList<QComboBox*> boxes = dialog->findChildren<QComboBox*>();
-    for (QComboBox* box : boxes) {
-        box->setCurrentIndex(random->bounded(qMax(box->count(), 1)));
-    }
-    auto* rate = dialog->findChild<QComboBox*>("samplerate");
-    if (rate && rate->currentIndex() > 5) {
-        rate->setCurrentIndex(0);  // the others only take longer
-    }
-    random->bounded(3) ? dialog->accept() : dialog->reject();
 }
 
 /// All of the menu, and the device as it likes.
