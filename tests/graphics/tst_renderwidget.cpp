@@ -25,6 +25,7 @@ private slots:
     void penIsAMouse();
     void tellsWhatIsLost();
     void isGrabbedWhole();
+    void showsWhatOthersSee();
     void partsAtAnyTime();
     void goesToAnotherWindow_data();
     void goesToAnotherWindow();
@@ -237,6 +238,34 @@ void TestRenderWidget::isGrabbedWhole()
         QCOMPARE(whole.copy(QRect(QPoint(10, 10), Size)), expected);
         QCOMPARE(painted(), expected);
     }
+}
+
+/// As the library counts it: greys to the byte, other colours but for rounding.
+void TestRenderWidget::showsWhatOthersSee()
+{
+    QImage shown(Size, QImage::Format_RGB32);
+    for (int i = 0; i < Size.width() * Size.height(); ++i) {
+        const QRgb other = qRgb(i * 7 % 256, i / 5 % 256, i * 31 % 256);
+        shown.setPixel(i % Size.width(), i / Size.width(), i < 256 ? qRgb(i, i, i) : other);
+    }
+    s->canvas.underneath = [&](QPainter& painter) { painter.drawImage(0, 0, shown); };
+    for (const auto sight :
+         {ColorBlindness::Protanopia, ColorBlindness::Deuteranopia, ColorBlindness::Tritanopia}) {
+        s->widget.setColorSight(sight);
+        const QImage seen = painted();
+        const QImage expected = seenWith(sight, shown);
+        for (int i = 0; i < Size.width() * Size.height(); ++i) {
+            const QPoint at(i % Size.width(), i / Size.width());
+            const QRgb is = seen.pixel(at);
+            const QRgb wanted = expected.pixel(at);
+            const int most =
+                qMax(qMax(qAbs(qRed(is) - qRed(wanted)), qAbs(qGreen(is) - qGreen(wanted))),
+                     qAbs(qBlue(is) - qBlue(wanted)));
+            QVERIFY2(most <= (i < 256 ? 0 : 1), qPrintable(QColor(shown.pixel(at)).name()));
+        }
+    }
+    s->widget.setColorSight({});
+    QCOMPARE(painted(), shown);
 }
 
 void TestRenderWidget::partsAtAnyTime()
