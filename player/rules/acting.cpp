@@ -136,6 +136,12 @@ bool isOnFloorAndFree(const FighterState& own)
     return isFree(own) && !own.isInAir;
 }
 
+/// Whether a move goes with where the fighter is.
+bool fitsPlace(const FighterState& own, const Move& move)
+{
+    return own.isInAir ? move.air != Air::No : move.air != Air::Only;
+}
+
 /// Whether a move can start from what the fighter does.
 bool fits(const FighterData& data, const FighterState& own, const Move& move)
 {
@@ -144,7 +150,7 @@ bool fits(const FighterData& data, const FighterState& own, const Move& move)
         return move.from == From::Any && move.air != Air::Only && move.command >= 0 &&
                data.commands.at(move.command).steps > 1;
     }
-    const bool fitsAir = own.isInAir ? move.air != Air::No : move.air != Air::Only;
+    const bool fitsAir = fitsPlace(own, move);
     switch (move.from) {
     case From::Any:
         return isFree(own) && fitsAir;
@@ -200,15 +206,16 @@ int cancelOf(const Bout& bout, int index)
     const FighterState& own = bout.fighter(index);
     const FighterData& data = bout.data(index);
     const Move& move = data.moves.at(own.move);
-    if (own.touch == Touch::Hit && move.follower >= 0 &&
-        own.power >= data.moves.at(move.follower).costPower) {
-        return move.follower;
+    if (own.touch == Touch::Hit && move.follower >= 0) {
+        const Move& follower = data.moves.at(move.follower);
+        if (own.power >= follower.costPower && fitsPlace(own, follower)) {
+            return move.follower;
+        }
     }
     int best = Move::None;
     if (own.touch != Touch::None || !move.hasHit) {
         for (int next : move.cancels) {
-            const Air air = data.moves.at(next).air;
-            if (own.isInAir ? air != Air::No : air != Air::Only) {
+            if (fitsPlace(own, data.moves.at(next))) {
                 takeBetter(bout, index, next, &best);
             }
         }
@@ -229,8 +236,7 @@ int completedOf(const Bout& bout, int index)
     int best = Move::None;
     for (int next = 0; next < data.moves.size(); ++next) {
         const Move& other = data.moves.at(next);
-        const bool fitsAir = own.isInAir ? other.air != Air::No : other.air != Air::Only;
-        if (other.command >= 0 && other.from == From::Any && fitsAir &&
+        if (other.command >= 0 && other.from == From::Any && fitsPlace(own, other) &&
             data.commands.at(other.command).buttons > data.commands.at(move.command).buttons) {
             takeBetter(bout, index, next, &best);
         }
@@ -370,7 +376,7 @@ void stepOnFloor(Bout& bout, int index)
 {
     FighterState& own = bout.fighter(index);
     const quint8 signs = bout.signs(index);
-    const bool guards = (signs & MotionStep::Back) != 0 && isThreatened(bout, index);
+    const bool guards = (signs & MotionStep::Back) != 0 && bout.isThreatened[index];
     if (signs & MotionStep::Up) {
         startJump(bout, index, signs);
     } else if (dash(bout, index, signs)) {
@@ -401,6 +407,13 @@ void goOn(Bout& bout, int index)
         bout.show(index, own.nextAnimation);
     }
     goOnWithAction(bout, index, isShown);
+}
+
+void seeThreats(Bout& bout)
+{
+    for (int i = 0; i < 2; ++i) {
+        bout.isThreatened[i] = isThreatened(bout, i);
+    }
 }
 
 void decide(Bout& bout, int index)

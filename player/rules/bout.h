@@ -9,7 +9,8 @@ struct Bout
 {
     const Game& game;
     State& state;
-    bool stands[2] = {false, false};  ///< in a hit stop in this tick
+    bool stands[2] = {false, false};        ///< in a hit stop in this tick
+    bool isThreatened[2] = {false, false};  ///< by a move of the other one that can still hit
 
     Bout(const Game& theGame, State& theState) : game(theGame), state(theState) {}
 
@@ -29,6 +30,7 @@ struct Bout
     /// Another action, which shows nothing by itself.
     void enter(int index, Action action);
     void stand(int index);
+    void forgetCommands(int index);
     void startMove(int index, int move);
     void tell(Event::Kind kind, int index, int move, qint32 x, qint32 y);
 };
@@ -38,6 +40,9 @@ void takeInputs(Bout& bout, const Inputs& inputs);
 
 /// Animations, stuns and waits of a fighter go on.
 void goOn(Bout& bout, int index);
+
+/// Notes who is near an attack, before anybody decides: both know the same of each other.
+void seeThreats(Bout& bout);
 
 /// What a fighter does next.
 void decide(Bout& bout, int index);

@@ -31,6 +31,14 @@ int animationCalled(const FighterData& data, const QString& name)
     return placeOf(data.animations, name, [](const Animation& each) { return each.identifier; });
 }
 
+/// A place that has no range of its own. Farther away than any box nothing is, so that sums of
+/// places stay far from the ends of numbers.
+int placeFrom(int written)
+{
+    constexpr int most = 32767;
+    return qBound(-most - 1, written, most);
+}
+
 int commandCalled(const FighterData& data, const QString& name)
 {
     return placeOf(data.commands, name, [](const Command& each) { return each.name; });
@@ -40,7 +48,7 @@ void readBody(const Values& values, const CodeGroup& constants, FighterData* dat
 {
     const QVariantList push = numbersOf(constants.value("body.push"));
     if (push.size() == 4) {
-        const auto at = [&push](int index) { return push.at(index).toInt(); };
+        const auto at = [&push](int index) { return placeFrom(push.at(index).toInt()); };
         data->push = {qMin(at(0), at(2)), qMin(at(1), at(3)), qMax(at(0), at(2)),
                       qMax(at(1), at(3))};
     }
@@ -139,6 +147,7 @@ void readHit(const CodeGroup& group, Hit* hit)
     hit->guardGain = hit->damage / 2;
     values.wholes("hit.gain", &hit->gain, &hit->guardGain);
     values.wholes("hit.spark", &hit->spark.rx(), &hit->spark.ry());
+    hit->spark = {placeFrom(hit->spark.x()), placeFrom(hit->spark.y())};
     hit->shake = wholesOf(group.value("hit.shake"));
 }
 
@@ -247,6 +256,9 @@ void readArena(const CodeText& text, StageData* data)
     data->start[1] = middle + 90;
     values.wholes("start.first", &data->start[0], &ignored);
     values.wholes("start.second", &data->start[1], &ignored);
+    for (qint32& start : data->start) {
+        start = qBound(data->left, start, data->right);
+    }
     data->facesInward = values.word("start.facing") != QLatin1String("outward");
     int width = 640;
     int height = 0;

@@ -106,6 +106,7 @@ struct Meeting
     int index = Move::None;  ///< of the move
     int frame = 0;           ///< that hits
     bool isGuarded = false;
+    bool isFromFloor = false;
 };
 
 int damageOf(const Bout& bout, int attacker, const Meeting& meeting)
@@ -130,19 +131,21 @@ void gain(const Bout& bout, int index, int power, FighterState* own)
 }
 
 /// The other one gets the speed, or the attacker if there is no way to go.
-void push(Bout& bout, int attacker, const Hit& hit)
+void push(Bout& bout, int attacker, const Meeting& meeting)
 {
     FighterState& own = bout.fighter(attacker);
     FighterState& their = bout.fighter(1 - attacker);
     const FighterData& data = bout.data(1 - attacker);
     const StageData& stage = bout.game.stage;
-    const Fixed speed = own.facing * hit.pushX;
+    // Who was jumped over is pushed the other way.
+    const int away = their.x != own.x ? (their.x > own.x ? 1 : -1) : own.facing;
+    const Fixed speed = away * meeting.move->hit.pushX;
     const bool looksRight = their.facing > 0;
     const Fixed left = (stage.left + (looksRight ? data.backWidth : data.frontWidth) + 1) * One;
     const Fixed right = (stage.right - (looksRight ? data.frontWidth : data.backWidth) - 1) * One;
     const bool isAtEnd = speed < 0 ? their.x <= left : their.x >= right;
     their.velocityX = isAtEnd ? 0 : speed;
-    if (isAtEnd && !own.isInAir) {
+    if (isAtEnd && meeting.isFromFloor) {
         own.recoil = -speed;
     }
 }
@@ -223,9 +226,9 @@ void apply(Bout& bout, int attacker, const Meeting& meeting)
     gain(bout, attacker, meeting.isGuarded ? hit.guardGain : hit.gain, &own);
     gain(bout, victim, damage / 2, &their);
     their.life -= damage;
-    own.stop = hit.stop;
-    their.stop = hit.stop;
-    push(bout, attacker, hit);
+    own.stop = qMax(own.stop, hit.stop);
+    their.stop = own.stop;
+    push(bout, attacker, meeting);
     if (meeting.isGuarded && their.life > 0) {
         guard(bout, victim, hit);
     } else {
@@ -256,6 +259,7 @@ void hitFighters(Bout& bout)
         meetings[i].move = hitOf(bout, i);
         meetings[i].index = bout.fighter(i).move;
         meetings[i].frame = bout.fighter(i).frame;
+        meetings[i].isFromFloor = !bout.fighter(i).isInAir;
         meetings[i].isGuarded =
             meetings[i].move && guards(bout, 1 - i, meetings[i].move->hit.level);
     }

@@ -36,6 +36,9 @@ public:
     quint8 direction(int age) const { return at(age) & MotionStep::Directions; }
     int length() const { return m_length; }
 
+    /// True if it reaches back to the first tick of all that is kept: what was before is not known.
+    bool isFull() const { return m_length == FighterState::HistoryTicks - 1; }
+
 private:
     const FighterState& m_fighter;
     int m_tick;
@@ -91,7 +94,8 @@ bool isReleased(const History& history, const MotionStep& step, int age)
     while (held < step.held && age + 1 + held <= history.length() && isHeld(age + 1 + held)) {
         ++held;
     }
-    return held >= step.held;
+    // What was held at the beginning of all that is known was held long enough.
+    return held >= step.held || (history.isFull() && age + 1 + held > history.length());
 }
 
 /// A step as it was done last.

@@ -136,10 +136,10 @@ void keepOnScreen(Bout& bout)
     const Fixed most = qMax(bout.game.stage.screenWidth - margin, 1) * One;
     const Fixed distance = qAbs(first.x - second.x);
     if (distance > most) {
-        const int sign = first.x < second.x ? 1 : -1;
+        const bool firstIsLeft = first.x < second.x;
         const Fixed part = (distance - most) / 2;
-        first.x += sign * part;
-        second.x -= sign * (distance - most - part);
+        (firstIsLeft ? first : second).x += part;
+        (firstIsLeft ? second : first).x -= distance - most - part;
     }
 }
 

@@ -68,8 +68,11 @@ void goOnWithIntro(Bout& bout)
     }
     if (isSkipped || bout.state.phaseTick >= qMin(ticks, MostIntroTicks)) {
         enterPhase(bout, Phase::Fight);
-        bout.stand(0);
-        bout.stand(1);
+        for (int i = 0; i < 2; ++i) {
+            bout.stand(i);
+            // The button that ends the intro is no move yet.
+            bout.forgetCommands(i);
+        }
     }
 }
 

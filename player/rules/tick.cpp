@@ -70,6 +70,13 @@ void Bout::stand(int index)
     showRole(index, own.isInAir ? AnimationRole::Jump : AnimationRole::Stance);
 }
 
+void Bout::forgetCommands(int index)
+{
+    FighterState& own = fighter(index);
+    memset(own.commands, 0, sizeof own.commands);
+    own.commandTicks = 0;
+}
+
 void Bout::startMove(int index, int move)
 {
     FighterState& own = fighter(index);
@@ -90,8 +97,7 @@ void Bout::startMove(int index, int move)
         own.velocityY = next.velocityY;
         own.isInAir = own.isInAir != 0 || next.velocityY < 0;
     }
-    memset(own.commands, 0, sizeof own.commands);
-    own.commandTicks = 0;
+    forgetCommands(index);
     show(index, next.animation);
     tell(Event::Started, index, move, pixelOf(own.x), pixelOf(own.y));
 }
@@ -125,6 +131,7 @@ void tick(const Game& game, const Inputs& inputs, State* state)
             goOn(bout, i);
         }
     }
+    seeThreats(bout);
     for (int i = 0; i < 2; ++i) {
         if (!bout.stands[i]) {
             decide(bout, i);
