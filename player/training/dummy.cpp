@@ -32,6 +32,11 @@ void Dummy::setMode(Mode mode, const State& state)
     }
 }
 
+void Dummy::startAnew(const State& state)
+{
+    m_start = state.tick;
+}
+
 void Dummy::takeOver(const Dummy& other)
 {
     m_mode = other.m_mode;

@@ -30,6 +30,9 @@ public:
     /// Recording begins anew, and a replay from the start.
     void setMode(Mode mode, const Rules::State& state);
 
+    /// A match begins whose ticks are counted anew: a replay and a recording start with it.
+    void startAnew(const Rules::State& state);
+
     /// What it holds in the tick behind a state, as signs of the screen. `person` is what the
     /// person holds, who plays it for `Person` and `Record`.
     quint8 signs(const Rules::State& state, quint8 person);

@@ -94,7 +94,9 @@ void Session::takeOver(const Session& other)
     m_state = Rules::firstState(game);
     m_state.tick = before.tick;
     m_state.round = before.round;
-    m_state.clock = qMin(before.clock, m_state.clock);
+    if (before.phase == Phase::Fight && before.clock > 0) {
+        m_state.clock = qMin(before.clock, m_state.clock);
+    }
     for (int i = 0; i < 2; ++i) {
         FighterState& own = m_state.fighters[i];
         const FighterState& old = before.fighters[i];
@@ -117,6 +119,7 @@ void Session::beginMatch()
     m_state = Rules::firstState(m_game);
     m_ring.clear();
     m_meter.clear();
+    m_dummy.startAnew(m_state);
 }
 
 }  // namespace Player

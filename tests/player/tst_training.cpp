@@ -40,6 +40,9 @@ private slots:
     void advantageAgreesWithFrames();
     void turnedBack();
     void recordIsReplayed();
+    void replaysInTheNextMatch();
+    void takesOverTheTime_data();
+    void takesOverTheTime();
     void dummy_data();
     void dummy();
     void inputsHaveTheirLength();
@@ -156,6 +159,51 @@ void TestTraining::recordIsReplayed()
         session.step(held(0, 255));
         QCOMPARE(session.state().fighters[1].x, places.at(t));
     }
+}
+
+/// The ticks of a match are counted anew: it replays from its first one, as it did before.
+void TestTraining::replaysInTheNextMatch()
+{
+    Session session(m_match.game);
+    for (int t = 0; t < 500; ++t) {
+        session.step({});
+    }
+    session.setDummy(Dummy::Record);
+    for (int t = 0; t < 30; ++t) {
+        session.step(held(0, Inputs::Left));
+    }
+    session.setDummy(Dummy::Replay);
+    session.beginMatch();
+    const int place = session.state().fighters[1].x;
+    for (int t = 0; t < 10; ++t) {
+        session.step({});
+    }
+    QVERIFY(session.state().fighters[1].x < place);
+}
+
+void TestTraining::takesOverTheTime_data()
+{
+    columns<int, int, int>("seconds", "ticks", "expected");
+    row("goes on", 99, 60, 98 * 60);
+    row("there was no end", 0, 60, 99 * 60);
+    row("it was over", 1, 70, 99 * 60);
+}
+
+/// A saved stage goes on with the time that was left, if there was some.
+void TestTraining::takesOverTheTime()
+{
+    const auto [seconds, ticks, expected] = fetched<int, int, int>();
+    Rules::Game before = m_match.game;
+    before.stage.seconds = seconds;
+    Rules::Game after = m_match.game;
+    after.stage.seconds = 99;
+    Session old(before);
+    for (int t = 0; t < ticks; ++t) {
+        old.step({});
+    }
+    Session session(after);
+    session.takeOver(old);
+    QCOMPARE(session.state().clock, expected);
 }
 
 void TestTraining::dummy_data()
