@@ -17,6 +17,16 @@ constexpr QRgb Floor = 0xff3a424a;
 
 constexpr Mixture mixtures[] = {Mixture::Over, Mixture::Add, Mixture::Subtract, Mixture::Multiply};
 
+/// A layer is drawn so many times over at most. A gap that is nearly as long as the pictures, but
+/// negative, would take minutes for each of its pixels.
+constexpr qint64 MostCovers = 64;
+
+/// A number of pictures, in the range of an `int` whatever the file says.
+int counted(double pictures)
+{
+    return int(qBound(-1e9, pictures, 1e9));
+}
+
 /// Which of the pictures in a row can be seen: those that reach from `low` to `high` beside the
 /// place of the first, so far apart, on a canvas of that length.
 struct Row
@@ -27,8 +37,8 @@ struct Row
             last = 0;
             return;
         }
-        first = int(std::floor((-place - high) / step));
-        last = int(std::ceil((length - place - low) / step));
+        first = counted(std::floor((-place - high) / step));
+        last = counted(std::ceil((length - place - low) / step));
         if (count > 0) {
             first = qMax(first, 0);
             last = qMin(last, count - 1);
@@ -97,8 +107,8 @@ void StageScene::drawLayer(Brush* brush, const LayerLook& layer, int dye, int ti
     // A row stays where it is while its pictures move: it is laid by the first of them.
     const FrameData first = frameOf(layer, 0);
     const QSize size = m_pictures.sizeOf(first.group, first.number);
-    const double across = (size.width() + layer.gap.x()) * zoom;
-    const double down = (size.height() + layer.gap.y()) * zoom;
+    const double across = (double(size.width()) + layer.gap.x()) * zoom;
+    const double down = (double(size.height()) + layer.gap.y()) * zoom;
     const QRect canvas = brush->canvas();
     const Row columns(layer.alongX, layer.countX, across, place.x(), bounds.left(), bounds.right(),
                       canvas.width());
@@ -106,8 +116,11 @@ void StageScene::drawLayer(Brush* brush, const LayerLook& layer, int dye, int ti
                    canvas.height());
     Showing showing;
     showing.mixture = mixtures[int(layer.blend)];
-    for (int y = rows.first; y <= rows.last; ++y) {
-        for (int x = columns.first; x <= columns.last; ++x) {
+    const QSize part = bounds.size().boundedTo(canvas.size());
+    const qint64 pixels = qint64(part.width()) * part.height() + 16;
+    qint64 left = MostCovers * canvas.width() * canvas.height() / pixels + 1;
+    for (int y = rows.first; y <= rows.last && left > 0; ++y) {
+        for (int x = columns.first; x <= columns.last && left > 0; ++x, --left) {
             brush->draw(frame, picture, place + QPointF(x * across, y * down), showing);
         }
     }

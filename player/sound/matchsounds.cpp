@@ -6,6 +6,8 @@
 
 #include <zorv/editors/sound/soundoutput.h>
 
+#include <climits>
+
 namespace Player {
 
 using Rules::Event;
@@ -91,7 +93,8 @@ void MatchSounds::beginMusic()
     // The loop is told in frames of the file, which may have another rate.
     const auto place = [&](int frame) {
         const int rate = m_bank.rateOf(MusicKey);
-        return frame < 0 || rate <= 0 ? -1 : int(qint64(frame) * m_rate / rate);
+        return frame < 0 || rate <= 0 ? -1
+                                      : int(qMin(qint64(frame) * m_rate / rate, qint64(INT_MAX)));
     };
     m_mixer.playMusic(samples, music.volume,
                       {qMax(place(music.loopFirst), 0), place(music.loopLast)},

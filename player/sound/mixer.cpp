@@ -44,7 +44,7 @@ void Mixer::playMusic(const QByteArray& samples, int volume, const Loop& loop, i
     m_music = {};
     m_music.samples = samples;
     m_music.volume = volume;
-    m_music.end = loop.last >= 0 ? qMin(loop.last + 1, frames) : frames;
+    m_music.end = loop.last >= 0 ? qMin(loop.last, frames - 1) + 1 : frames;
     m_music.first = qBound(0, loop.first, qMax(m_music.end - 1, 0));
     m_music.isLooped = m_music.end > 0;
     m_music.fade = fadeFrames;

@@ -11,6 +11,8 @@
 #include <QtEndian>
 #include <QtTest>
 
+#include <climits>
+
 using namespace Player;
 
 namespace {
@@ -60,6 +62,7 @@ class TestMatchSounds : public QObject
 
 private slots:
     void sumOfVoices();
+    void loopBeyondTheEnd();
     void hitsAreHeard();
     void silenceWithoutDevice();
 
@@ -102,6 +105,15 @@ void TestMatchSounds::sumOfVoices()
         }
         QCOMPARE(int(samples.at(i)), int(qBound<qint64>(-32768, sum, 32767)));
     }
+}
+
+/// The last frame of a loop lies behind the sound: it ends with it.
+void TestMatchSounds::loopBeyondTheEnd()
+{
+    Mixer mixer;
+    const QVector<qint16> sound{100, 200, 300, 400};
+    mixer.playMusic(bytesOf(sound), 100, {0, INT_MAX}, 0);
+    QCOMPARE(samplesOf(mixer.read(16)), sound + sound);
 }
 
 void TestMatchSounds::hitsAreHeard()

@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <climits>
+
 using namespace Player;
 using Rules::One;
 
@@ -27,6 +29,8 @@ private slots:
     void cameraStaysInside();
     void mixtures_data();
     void mixtures();
+    void strangeLayers_data();
+    void strangeLayers();
     void whatIsMissingIsTold();
 
 private:
@@ -130,6 +134,31 @@ void TestPicture::mixtures()
     Brush(&canvas, camera).draw({}, {dot, {}}, {1, 2}, showing);
     QCOMPARE(QColor(canvas.pixel(1, 2)), QColor(expected));
     QCOMPARE(canvas.pixel(2, 2), qRgb(100, 100, 100));
+}
+
+void TestPicture::strangeLayers_data()
+{
+    columns<QPoint, QPoint, double>("offset", "gap", "velocity");
+    row("far away", QPoint(INT_MAX, INT_MIN), QPoint(INT_MAX, INT_MAX), 64.0);
+    row("one over the other", QPoint(), QPoint(-479, -269), 0.0);
+    row("back to front", QPoint(INT_MIN, INT_MAX), QPoint(INT_MIN, INT_MIN), -64.0);
+}
+
+/// A picture of each comes soon, whatever their numbers are.
+void TestPicture::strangeLayers()
+{
+    const auto [offset, gap, velocity] = fetched<QPoint, QPoint, double>();
+    StageLook look = m_match.stage;
+    for (LayerLook& layer : look.layers) {
+        layer.offset = offset;
+        layer.velocityX = velocity;
+        layer.gap = gap;
+        layer.alongX = layer.alongY = true;
+    }
+    Scene scene(m_match.game, m_match.looks, look);
+    Rules::State state = Rules::firstState(m_match.game);
+    state.tick = INT_MAX;
+    QVERIFY(!scene.draw(state).isNull());
 }
 
 void TestPicture::whatIsMissingIsTold()
