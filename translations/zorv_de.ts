@@ -3693,6 +3693,25 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Family::JsonView</name>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>It is longer than 16 MiB.</source>
+        <translation>Sie ist länger als 16 MiB.</translation>
+    </message>
+    <message>
+        <source>It has more than %1 lists in each other at %2.</source>
+        <translation>Sie hat mehr als %1 Listen ineinander, in %2.</translation>
+    </message>
+    <message>
+        <source>It is no JSON at %1.</source>
+        <translation>Sie ist kein JSON, in %1.</translation>
+    </message>
+</context>
+<context>
     <name>Family::NameKind</name>
     <message>
         <source>Animation</source>
@@ -3818,6 +3837,104 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Shown as</source>
         <translation>Gezeigt als</translation>
+    </message>
+</context>
+<context>
+    <name>Family::Sheet</name>
+    <message numerus="yes">
+        <source>%n frame(s) lie outside of the picture and are left out, first of all &apos;%1&apos;. Is it the picture of this file?</source>
+        <translation>
+            <numerusform>%n Einzelbild liegt außerhalb des Bildes und fehlt: „%1“. Ist es das Bild zu dieser Datei?</numerusform>
+            <numerusform>%n Einzelbilder liegen außerhalb des Bildes und fehlen, zuerst „%1“. Ist es das Bild zu dieser Datei?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Family::SheetCutter</name>
+    <message>
+        <source>There is nothing on the sheet.</source>
+        <translation>Auf dem Bogen ist nichts.</translation>
+    </message>
+    <message>
+        <source>These are more than %1 frames. Cut larger ones.</source>
+        <translation>Das sind mehr als %1 Einzelbilder. Größer schneiden.</translation>
+    </message>
+    <message>
+        <source>The picture of %1 by %2 has no room for such a cell. Choose a smaller one, or fewer of them.</source>
+        <translation>Das Bild von %1 mal %2 hat keinen Platz für eine solche Zelle. Eine kleinere wählen oder weniger davon.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n empty cell(s) at the end are left out.</source>
+        <translation>
+            <numerusform>%n leere Zelle am Ende fällt weg.</numerusform>
+            <numerusform>%n leere Zellen am Ende fallen weg.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some pixels are in no cell: %1 columns at the right, %2 rows at the bottom.</source>
+        <translation>Einige Pixel sind in keiner Zelle: %1 Spalten rechts, %2 Zeilen unten.</translation>
+    </message>
+    <message>
+        <source>A sheet has up to %1 pixels across and down.</source>
+        <translation>Ein Bogen ist bis zu %1 Pixel breit und hoch.</translation>
+    </message>
+</context>
+<context>
+    <name>Family::SheetReader</name>
+    <message>
+        <source>It tells no frames. Expected &apos;frames&apos;, as drawing programs write them beside a sheet.</source>
+        <translation>Sie nennt keine Einzelbilder. Erwartet wird „frames“, wie Zeichenprogramme es neben einen Bogen schreiben.</translation>
+    </message>
+    <message>
+        <source>It has no frames.</source>
+        <translation>Sie hat keine Einzelbilder.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more of these.</source>
+        <translation>
+            <numerusform>%n weiterer Hinweis dieser Art.</numerusform>
+            <numerusform>%n weitere Hinweise dieser Art.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is a map of tiles, no sheet of sprites.</source>
+        <translation>Sie ist eine Karte aus Kacheln, kein Bogen mit Sprites.</translation>
+    </message>
+    <message>
+        <source>It is an animation of bones. Export its frames as pictures.</source>
+        <translation>Sie ist eine Animation aus Knochen. Ihre Einzelbilder als Bilder ausgeben.</translation>
+    </message>
+    <message>
+        <source>It has more than %1 frames.</source>
+        <translation>Sie hat mehr als %1 Einzelbilder.</translation>
+    </message>
+    <message>
+        <source>Frame %1, &apos;%2&apos;, has no place on the sheet. Expected a &apos;frame&apos; with whole numbers x, y, w and h up to %3.</source>
+        <translation>Einzelbild %1, „%2“, hat keinen Platz auf dem Bogen. Erwartet wird ein „frame“ mit ganzen Zahlen x, y, w und h bis %3.</translation>
+    </message>
+    <message>
+        <source>Frame %1, &apos;%2&apos;, is cut to a polygon. Pack the sheet with rectangles.</source>
+        <translation>Einzelbild %1, „%2“, ist als Vieleck geschnitten. Den Bogen mit Rechtecken packen.</translation>
+    </message>
+    <message>
+        <source>Frame %1, &apos;%2&apos;, is turned by another angle than 90 degrees. Expected true or false as &apos;rotated&apos;.</source>
+        <translation>Einzelbild %1, „%2“, ist um einen anderen Winkel als 90 Grad gedreht. Erwartet wird true oder false als „rotated“.</translation>
+    </message>
+    <message>
+        <source>Frame %1, &apos;%2&apos;, was cut to another size than it says; it may stand a little beside its place.</source>
+        <translation>Einzelbild %1, „%2“, ist anders geschnitten, als es sagt; es steht vielleicht etwas neben seinem Platz.</translation>
+    </message>
+    <message>
+        <source>The tag &apos;%1&apos; begins in front of the tag before it. If the sheet was made of several files, its numbers may be wrong.</source>
+        <translation>Das Tag „%1“ beginnt vor dem Tag davor. Wenn der Bogen aus mehreren Dateien gemacht ist, sind seine Nummern vielleicht falsch.</translation>
+    </message>
+    <message>
+        <source>The tag &apos;%1&apos; means frames that are not on the sheet. It is left out.</source>
+        <translation>Das Tag „%1“ meint Einzelbilder, die nicht auf dem Bogen sind. Es fällt weg.</translation>
+    </message>
+    <message>
+        <source>The animation &apos;%1&apos; shows &apos;%2&apos;, which is not on the sheet.</source>
+        <translation>Die Animation „%1“ zeigt „%2“, das nicht auf dem Bogen ist.</translation>
     </message>
 </context>
 <context>
@@ -5419,6 +5536,76 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Operations::ImageNumbers</name>
+    <message>
+        <source>&apos;%1&apos; does not tell its group and number: it gets the next free one, %2.</source>
+        <translation>„%1“ nennt Gruppe und Nummer nicht: Es bekommt die nächste freie, %2.</translation>
+    </message>
+    <message>
+        <source>What &apos;%1&apos; tells is taken already: it gets the next free number, %2.</source>
+        <translation>Was „%1“ nennt, ist schon vergeben: Es bekommt die nächste freie Nummer, %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; replaces the sprite %2.</source>
+        <translation>„%1“ ersetzt das Sprite %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is the same picture as &apos;%2&apos;: they are one sprite.</source>
+        <translation>„%1“ ist dasselbe Bild wie „%2“: Sie werden ein Sprite.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not tell its group and number. Expected a name such as &apos;200-3&apos;, or a group for all that tell none.</source>
+        <translation>„%1“ nennt Gruppe und Nummer nicht. Erwartet wird ein Name wie „200-3“ oder eine Gruppe für alle, die keine nennen.</translation>
+    </message>
+    <message>
+        <source>There is a sprite %1 already, which &apos;%2&apos; would replace. Nothing is changed.</source>
+        <translation>Es gibt schon ein Sprite %1, das „%2“ ersetzen würde. Nichts ist geändert.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; both go to %3.</source>
+        <translation>„%1“ und „%2“ haben beide das Ziel %3.</translation>
+    </message>
+    <message>
+        <source>The group %1 has no room for &apos;%2&apos;.</source>
+        <translation>Die Gruppe %1 hat keinen Platz für „%2“.</translation>
+    </message>
+    <message>
+        <source>Write {group} and {number}, or one of them, once each, as in &apos;walk_{number}&apos;.</source>
+        <translation>{group} und {number} oder eins davon schreiben, jedes einmal, wie in „walk_{number}“.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::ImportImage</name>
+    <message>
+        <source>Cannot read &apos;%1&apos;: %2.</source>
+        <translation>„%1“ ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no sheet. %2</source>
+        <translation>„%1“ ist kein Bogen. %2</translation>
+    </message>
+    <message>
+        <source>The picture of &apos;%1&apos; is not beside it. Expected &apos;%2&apos; in the same folder.</source>
+        <translation>Das Bild zu „%1“ liegt nicht daneben. Erwartet wird „%2“ im selben Ordner.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is spread over more than %2 pictures.</source>
+        <translation>„%1“ ist auf mehr als %2 Bilder verteilt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names &apos;%2&apos;, which is not beside it.</source>
+        <translation>„%1“ nennt „%2“, das nicht daneben liegt.</translation>
+    </message>
+    <message>
+        <source>None of the frames of &apos;%1&apos; lies on its picture.</source>
+        <translation>Keins der Einzelbilder von „%1“ liegt auf seinem Bild.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is larger than a sprite can be, %2 by %2.</source>
+        <translation>„%1“ ist größer, als ein Sprite sein kann: %2 mal %2.</translation>
+    </message>
+</context>
+<context>
     <name>Operations::OpenAnimation</name>
     <message>
         <source>There is no file or folder &apos;%1&apos;.</source>
@@ -5889,10 +6076,6 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
 <context>
     <name>Operations::SpriteImport</name>
     <message>
-        <source>&apos;%1&apos; is larger than a sprite can be, %2 by %2.</source>
-        <translation>&apos;%1&apos; ist größer, als ein Sprite sein kann: %2 mal %2.</translation>
-    </message>
-    <message>
         <source>Import sprites</source>
         <translation>Sprites einlesen</translation>
     </message>
@@ -5905,8 +6088,8 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <translation>&apos;%1&apos; würde als %2 etwas verlieren. Bitte ein anderes Verfahren wählen.</translation>
     </message>
     <message>
-        <source>There is a sprite %1 already, which &apos;%2&apos; would replace. Nothing is changed.</source>
-        <translation>Es gibt schon einen Sprite %1, den &apos;%2&apos; ersetzen würde. Nichts wurde geändert.</translation>
+        <source>Colours</source>
+        <translation>Farben</translation>
     </message>
 </context>
 <context>

@@ -222,6 +222,36 @@
     </message>
 </context>
 <context>
+    <name>Family::Sheet</name>
+    <message numerus="yes">
+        <source>%n frame(s) lie outside of the picture and are left out, first of all &apos;%1&apos;. Is it the picture of this file?</source>
+        <translation>
+            <numerusform>%n frame lies outside of the picture and is left out, &apos;%1&apos;. Is it the picture of this file?</numerusform>
+            <numerusform>%n frames lie outside of the picture and are left out, first of all &apos;%1&apos;. Is it the picture of this file?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Family::SheetCutter</name>
+    <message numerus="yes">
+        <source>%n empty cell(s) at the end are left out.</source>
+        <translation>
+            <numerusform>%n empty cell at the end is left out.</numerusform>
+            <numerusform>%n empty cells at the end are left out.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Family::SheetReader</name>
+    <message numerus="yes">
+        <source>%n more of these.</source>
+        <translation>
+            <numerusform>%n more of these.</numerusform>
+            <numerusform>%n more of these.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ImportDlg</name>
     <message numerus="yes">
         <source>%n name(s) are taken or repeated.</source>

@@ -187,12 +187,17 @@ constexpr Command table[] = {
      "PLACE is a folder, a pattern such as 'out/hero-*.png', or the file for a single one. The\n"
      "files are called GROUP-NUMBER.png, as 'sprites import' reads them."},
     {"sprites import", "FILE IMAGE...", 2, Command::Any,
-     Group | Axis | Crop | PaletteId | Recolor | Reversed | Coding | Force, importSprites,
-     "Add images to a sprite file.",
+     SheetHow | Pattern | Group | Axis | Crop | PaletteId | Recolor | Colors | Reversed | Coding | Force,
+     importSprites, "Add images to a sprite file.",
      "Each goes to the group and number at the end of its name, as in hero-200-3.png. FILE is made\n"
      "if it is not there. Without --palette an image brings its own palette, unless it is there\n"
-     "already; with it pixels take the nearest of its colours. If one of the images cannot be\n"
-     "read, or its sprite is there already, nothing is changed; with --force it is replaced."},
+     "already; with it pixels take the nearest of its colours, and with --colours all images get a\n"
+     "new one together. If one of the images cannot be read, or its sprite is there already, nothing\n"
+     "is changed; with --force it is replaced.\n"
+     "An IMAGE that is a JSON of a sheet brings the pictures on that. With --sheet each IMAGE is a\n"
+     "sheet: 'json' cuts it as the JSON beside it tells, 'gaps' at its empty rows and columns,\n"
+     "'cells=32x48' by a size and 'grid=8x4' into columns and rows; the last two with ',edge=N',\n"
+     "',gap=N', ',count=N', ',down' behind. What is cut is called as the image, with a number."},
     {"sprites axis", "FILE PLACE [X,Y]", 2, 3, Select, setSpriteAxes,
      "Set the axis of sprites.",
      "PLACE is a place of the image: 'bottom' the middle of its bottom edge, 'top-left', 'top',\n"

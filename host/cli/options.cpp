@@ -2,6 +2,7 @@
 
 #include "family/stage/framecomposer.h"
 #include "operations/media/imagefiles.h"
+#include "operations/media/imagenumbers.h"
 
 #include <zorv/code/codecs/textcodecs.h>
 
@@ -76,6 +77,33 @@ QString takeAxis(const QString& text, Invocation& invocation)
     return invocation.hasAxis
                ? QString()
                : expected(QT_TRANSLATE_NOOP("Cli", "two numbers such as 32,96"), text);
+}
+
+/// A pixel, or a place of the image.
+QString takeImageAxis(const QString& text, Invocation& invocation)
+{
+    invocation.hasAxis = Operations::readAxisBase(text, &invocation.axisBase) &&
+                         invocation.axisBase != Operations::AxisBase::Current;
+    return invocation.hasAxis || takeAxis(text, invocation).isEmpty()
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli", "two numbers such as 32,96, or a place such as "
+                                                   "bottom or top-left"),
+                          text);
+}
+
+QString takeSheet(const QString& text, Invocation& invocation)
+{
+    invocation.isSheet = readSheetForm(text, &invocation.sheet);
+    return invocation.isSheet
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli", "'json', 'gaps', 'cells=32x48' or 'grid=8x4'"),
+                          text);
+}
+
+QString takePattern(const QString& text, Invocation& invocation)
+{
+    invocation.pattern = text;
+    return Operations::patternFault(text);
 }
 
 QString takeSize(const QString& text, Invocation& invocation)
@@ -260,8 +288,12 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "one palette for all images")},
     {Group, "--group", "N", takeInt<&Invocation::group, 0, MaxGroup>,
      QT_TRANSLATE_NOOP("Cli", "the group of all files, numbered in their order, whatever their names")},
-    {Axis, "--axis", "X,Y", takeAxis,
-     QT_TRANSLATE_NOOP("Cli", "the axis of all images, from their top left corner")},
+    {Pattern, "--pattern", "TEXT", takePattern,
+     QT_TRANSLATE_NOOP("Cli", "where names tell them, as '{group}-{number}' or 'walk_{number}'")},
+    {SheetHow, "--sheet", "HOW", takeSheet,
+     QT_TRANSLATE_NOOP("Cli", "images are sheets: 'json', 'gaps', 'cells=32x48', 'grid=8x4'")},
+    {Axis, "--axis", "X,Y|PLACE", takeImageAxis,
+     QT_TRANSLATE_NOOP("Cli", "the axis of all images, from their top left corner, or 'bottom'")},
     {Crop, "--crop", nullptr, setFlag<&Invocation::crops>,
      QT_TRANSLATE_NOOP("Cli", "cut off what does not show, and move the axis with it")},
     {Coding, "--codec", "NAME", setText<&Invocation::coding>,

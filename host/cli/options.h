@@ -1,7 +1,9 @@
 #pragma once
 
+#include "cli/sheetform.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/selection.h"
+#include "operations/media/spriteedits.h"
 
 #include <zorv/media/tools/colorspaces.h>
 #include <zorv/media/tools/imageresizefilter.h>
@@ -43,7 +45,11 @@ struct Invocation
     int columns = 0;  ///< 0 for as many as make the sheet about square
     int group = -1;
     QPoint axis;
+    Operations::AxisBase axisBase = Operations::AxisBase::TopLeft;
     bool hasAxis = false;
+    QString pattern;  ///< of names; null if none was given
+    bool isSheet = false;
+    SheetForm sheet;
     int background = 0;
     int colors = 0;
     QSize size;         ///< not valid if none was given
@@ -133,7 +139,9 @@ enum Option : quint64 {
     Silence = quint64(1) << 52,
     Peak = quint64(1) << 53,
     Loudness = quint64(1) << 54,
-    Template = quint64(1) << 55
+    Template = quint64(1) << 55,
+    SheetHow = quint64(1) << 56,
+    Pattern = quint64(1) << 57
 };
 
 /// One option: a row of the table.

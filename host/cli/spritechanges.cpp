@@ -36,17 +36,6 @@ int editSprites(const Invocation& invocation, const SpriteEdit& edit)
     });
 }
 
-bool readBase(const QString& name, AxisBase* base)
-{
-    // In the order of the enumeration.
-    static const char* const names[] = {"top-left",     "top",    "top-right",   "left",
-                                        "middle",       "right",  "bottom-left", "bottom",
-                                        "bottom-right", "current"};
-    const auto* const found = std::find(std::begin(names), std::end(names), name);
-    *base = AxisBase(found - std::begin(names));
-    return found != std::end(names);
-}
-
 bool readOffset(const QString& text, QPoint* offset)
 {
     static const QRegularExpression form(
@@ -74,7 +63,7 @@ int setSpriteAxes(const Invocation& invocation, Output&)
     AxisBase base = AxisBase::TopLeft;
     QPoint offset;
     const bool isPair = invocation.operands.size() == 2 && readOffset(place, &offset);
-    if (!isPair && !readBase(place, &base)) {
+    if (!isPair && !Operations::readAxisBase(place, &base)) {
         return wrongUsage(Text::tr("Expected a place such as 'bottom', 'top-left' or 'current', or "
                                    "two numbers such as 32,96; found '%1'.")
                               .arg(place));

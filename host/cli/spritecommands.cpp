@@ -15,6 +15,7 @@
 #include "operations/media/spritesheet.h"
 
 #include <zorv/core/filesystemarchive.h>
+#include <zorv/media/imagetransfer.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -100,15 +101,22 @@ void writePlaces(const Operations::SpriteSheet& sheet, const SpriteCollection& s
 Operations::ImportRequest importRequest(const Invocation& invocation)
 {
     Operations::ImportRequest request;
-    request.group = invocation.group;
+    const bool hasNames = !invocation.pattern.isNull() || invocation.group < 0;
+    request.numbering.group = invocation.group;
+    request.numbering.pattern = !hasNames                      ? QString()
+                                : !invocation.pattern.isNull() ? invocation.pattern
+                                                               : request.numbering.pattern;
+    request.numbering.whenTaken =
+        invocation.output.force ? Operations::WhenTaken::Replace : Operations::WhenTaken::Refuse;
     request.axis = invocation.axis;
+    request.axisBase = invocation.axisBase;
     request.hasAxis = invocation.hasAxis;
+    request.colors = invocation.colors;
     request.crops = invocation.crops;
     request.palette = invocation.palette;
     request.recolors = invocation.recolors;
     request.reverses = invocation.reverses;
     request.codec = Family::codecByName(invocation.coding);
-    request.force = invocation.output.force;
     return request;
 }
 
@@ -123,7 +131,44 @@ QString importFault(const Invocation& invocation)
     if (invocation.recolors && invocation.palette.isNull()) {
         return Text::tr("Expected which palette takes the colours: '--palette'.");
     }
+    if (invocation.colors > 0 && !invocation.palette.isNull()) {
+        return Text::tr("Expected '--palette' or '--colours', not both.");
+    }
     return {};
+}
+
+using Operations::SheetImages;
+
+SheetImages cutFile(const QString& file, const SheetForm& form)
+{
+    SheetImages cut;
+    if (form.hasFile) {
+        const QString json = Operations::sheetFileBeside(file);
+        cut.error = Text::tr("There is no JSON beside '%1'.").arg(file);
+        return json.isEmpty() ? cut : Operations::readSheetFile(json);
+    }
+    const QImage picture = Zorv::readImageFile(file, &cut.error);
+    return picture.isNull() ? cut : Operations::cutPicture(file, picture, form.cut);
+}
+
+/// The images of files, of which some are sheets. False with `result`, which also takes what is to
+/// be told besides.
+bool readImages(const Invocation& invocation, const QStringList& files,
+                QVector<Operations::ImportImage>* images, Operations::MediaResult* result)
+{
+    for (const QString& file : files) {
+        const bool isJson = QFileInfo(file).suffix().toLower() == QLatin1String("json");
+        if (!isJson && !invocation.isSheet) {
+            *images += Operations::imagesOfFiles({file});
+            continue;
+        }
+        const SheetImages sheet =
+            isJson ? Operations::readSheetFile(file) : cutFile(file, invocation.sheet);
+        result->warnings += sheet.warnings;
+        result->errors += sheet.error.isEmpty() ? QStringList() : QStringList(sheet.error);
+        *images += sheet.images;
+    }
+    return result->errors.isEmpty();
 }
 
 }  // namespace
@@ -173,7 +218,15 @@ int importSprites(const Invocation& invocation, Output&)
         return notDone(error);
     }
     return editSpriteFile(fileName, OpenSprites::OrNew, [&](auto* sprites) {
-        return tell(Operations::importSprites(sprites, files, importRequest(invocation)));
+        QVector<Operations::ImportImage> images;
+        Operations::MediaResult read;
+        if (!readImages(invocation, files, &images, &read)) {
+            return tell(read);
+        }
+        Operations::MediaResult result =
+            Operations::importSprites(sprites, images, importRequest(invocation));
+        result.warnings = read.warnings + result.warnings;
+        return tell(result);
     });
 }
 

@@ -120,7 +120,8 @@ void TestSpriteExchange::comesBack()
         request.place = folder.path();
         QCOMPARE(exportSprites(*sprites, {}, request).errors, QStringList());
         const Collection again(newSprites("b.sprites"));
-        QCOMPARE(importSprites(again.get(), filesIn(folder.path()), {}).errors, QStringList());
+        QCOMPARE(importSprites(again.get(), imagesOfFiles(filesIn(folder.path())), {}).errors,
+                 QStringList());
         sprites->autoOrganize();
         again->autoOrganize();
         QCOMPARE(again->count(), sprites->count());
@@ -177,7 +178,7 @@ void TestSpriteExchange::isWholeOrNothing()
     ImportRequest request;
     request.codec = PixelCodec::Lz5;  // which has no place for index 199
     const MediaResult result =
-        importSprites(sprites.get(), {path("1-0.png"), path("1-1.png")}, request);
+        importSprites(sprites.get(), imagesOfFiles({path("1-0.png"), path("1-1.png")}), request);
     QCOMPARE(result.errors.size(), 1);
     QVERIFY(result.errors.first().contains("1-1.png"));
     QCOMPARE(sprites->count(), 0u);
@@ -227,7 +228,7 @@ void TestSpriteExchange::storesAsOneThreadWould()
     request.recolors = recolors;
     request.reverses = reverses;
     request.codec = PixelCodec(codec);
-    QCOMPARE(importSprites(sprites.get(), files, request).done, 24);
+    QCOMPARE(importSprites(sprites.get(), imagesOfFiles(files), request).done, 24);
     QByteArray bytes[2];
     for (const bool isPlain : {false, true}) {
         const QString path = folder.filePath("out.sprites");
@@ -259,7 +260,7 @@ void TestSpriteExchange::imageWithoutPalette()
         QCOMPARE(other.pixel(1, 0), qRgb(200, 200, 200));
     }
     const Collection sprites(newSprites("a.sprites"));
-    QCOMPARE(importSprites(sprites.get(), {name}, {}).errors, QStringList());
+    QCOMPARE(importSprites(sprites.get(), imagesOfFiles({name}), {}).errors, QStringList());
     QCOMPARE(sprites->sprite(0)->image().pixel(1, 0), qRgb(200, 200, 200));
 }
 

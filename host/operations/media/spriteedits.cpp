@@ -11,6 +11,8 @@
 #include <QCoreApplication>
 #include <QImage>
 #include <QSet>
+
+#include <algorithm>
 #include <limits>
 
 namespace Operations {
@@ -212,6 +214,19 @@ void Recoloring::recolor(FamilySprite* sprite)
 }
 
 }  // namespace
+
+bool readAxisBase(const QString& name, AxisBase* base)
+{
+    // In the order of the enumeration.
+    static const char* const names[] = {"top-left",     "top",    "top-right",   "left",
+                                        "middle",       "right",  "bottom-left", "bottom",
+                                        "bottom-right", "current"};
+    const auto* const found = std::find(std::begin(names), std::end(names), name);
+    if (found != std::end(names)) {
+        *base = AxisBase(found - std::begin(names));
+    }
+    return found != std::end(names);
+}
 
 QPoint axisPlace(AxisBase base, const QSize& size)
 {

@@ -30,6 +30,10 @@ enum class AxisBase {
     Current
 };
 
+/// Reads what the command line calls a base: "bottom", "top-left", "current". False, and no
+/// change, for any other text.
+bool readAxisBase(const QString& name, AxisBase* base);
+
 /// The pixel of an image at a base that is none but `Current`: rows and columns of pixels are
 /// counted from 0, and of the two in the middle it is the one further right, or further down.
 QPoint axisPlace(AxisBase base, const QSize& size);

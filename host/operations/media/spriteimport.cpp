@@ -5,11 +5,13 @@
 #include "operations/media/assetnames.h"
 #include "operations/media/spriteexport.h"
 
+#include <zorv/cache/sprite.h>
 #include <zorv/core/jobs.h>
-#include <zorv/media/imagetransfer.h>
-#include <zorv/media/tools/cropimage.h>
+#include <zorv/media/colortypes.h>
+#include <zorv/media/tools/colorquantizer.h>
 
 #include <QCoreApplication>
+#include <QSet>
 
 #include <optional>
 
@@ -33,11 +35,8 @@ class Text
 };
 
 /// An image on its way into a collection.
-struct ImportImage
+struct ReadImage : ImportPixels
 {
-    QImage image;
-    QPoint corner;  ///< what was cut off in front of it
-    QString error;
     std::shared_ptr<const Family::PackedImage> packed;  ///< as the sprite takes it
 };
 
@@ -45,78 +44,64 @@ struct ImportImage
 class Import
 {
 public:
-    Import(SpriteCollection* sprites, const QStringList& files, const ImportRequest& request)
-        : m_sprites(sprites), m_files(files), m_request(request)
+    Import(SpriteCollection* sprites, const QVector<ImportImage>& images,
+           const ImportRequest& request)
+        : m_sprites(sprites), m_images(images), m_request(request)
     {
     }
 
-    MediaResult run();
+    MediaResult run(QVector<ImportedId>* ids);
 
 private:
-    bool findSprites(MediaResult* refusal);
-    bool findPalette(QString* error);
+    bool numberAll(MediaResult* refusal);
+    bool findPalette(MediaResult* result);
+    bool makePalette(MediaResult* result);
     void putAll(MediaResult* result);
     int mode() const;
-    std::function<ImportImage(const QString&)> reader() const;
-    void setImage(FamilySprite* sprite, const ImportImage& read);
-    QString put(int index, const ImportImage& read);
+    std::function<ReadImage(const ImportImage&)> reader() const;
+    void take(int index, const ReadImage& read, MediaResult* result);
+    FamilySprite* target(int index) const;
+    void setImage(FamilySprite* sprite, const ReadImage& read);
+    QString put(int index, const ReadImage& read);
 
     SpriteCollection* m_sprites;
-    QStringList m_files;
+    QVector<ImportImage> m_images;
     ImportRequest m_request;
-    QVector<ImportTarget> m_targets;
+    QVector<ImageNumber> m_numbers;
     QVector<FamilySprite*> m_old;  ///< null for a sprite that is new
+    QVector<int> m_rows;           ///< of the images that become a sprite of their own
+    QSet<int> m_missing;
     FamilyPalette* m_palette = nullptr;
     bool m_isTouched = false;
 };
 
-ImportImage readCropped(const QString& file, bool crops)
+QString nameOf(const ImportImage& image)
 {
-    ImportImage read;
-    read.image = Zorv::readImageFile(file, &read.error);
-    if (crops && !read.image.isNull()) {
-        Zorv::cropImage(read.image, &read.corner);
-    }
-    if (qMax(read.image.width(), read.image.height()) > Family::LargestSprite) {
-        read.error = Text::tr("'%1' is larger than a sprite can be, %2 by %2.")
-                         .arg(file, QString::number(Family::LargestSprite));
-    }
-    return read;
+    return image.isOfSheet() ? image.name : image.file;
 }
 
-/// The axis that a file tells, else another one.
-QPoint axisOf(const QImage& image, QPoint other)
+MediaResult Import::run(QVector<ImportedId>* ids)
 {
-    const QStringList parts = image.text(QLatin1String(AxisText)).split(QLatin1Char(','));
-    bool isX = false;
-    bool isY = false;
-    const QPoint told(parts.value(0).toShort(&isX), parts.value(1).toShort(&isY));
-    return isX && isY ? told : other;
-}
-
-MediaResult Import::run()
-{
-    QString error;
-    m_targets = importTargets(
-        m_files, m_request.group, [this](AssetId id) { return m_sprites->freeId(id); }, &error);
-    if (m_targets.isEmpty()) {
-        return MediaResult(error);
-    }
     MediaResult result;
-    if (!findSprites(&result)) {
+    if (!numberAll(&result)) {
         return result;
     }
     const QString title = Text::tr("Import sprites");
     m_sprites->beginChange(title);
-    if (findPalette(&error)) {
+    if (findPalette(&result)) {
         putAll(&result);
-    } else {
-        result.errors.append(error);
     }
     m_sprites->endChange();
-    const bool isWhole = result.errors.isEmpty() && !result.isCanceled;
+    const bool mayMiss = m_request.leavesOut && result.done > 0;
+    const bool isWhole = (mayMiss || result.errors.isEmpty()) && !result.isCanceled;
     if (!isWhole && m_isTouched && m_sprites->steps().undoTitle() == title) {
         m_sprites->undo();
+    }
+    for (int i = 0; isWhole && ids && i < m_images.size(); ++i) {
+        const ImageNumber& number = m_numbers.at(i);
+        if (!m_missing.contains(number.state == ImageNumber::Twin ? number.other : i)) {
+            ids->append({i, number.target.id});
+        }
     }
     return result;
 }
@@ -129,13 +114,13 @@ int Import::mode() const
 }
 
 /// What is done with a file on another thread: all but what needs the collection.
-std::function<ImportImage(const QString&)> Import::reader() const
+std::function<ReadImage(const ImportImage&)> Import::reader() const
 {
     const auto colors = m_palette ? std::make_optional(m_palette->state.colors) : std::nullopt;
     const auto once = std::make_shared<Family::PackedOnce>();
-    return [request = m_request, mode = mode(), colors, once](const QString& file) {
-        ImportImage read = readCropped(file, request.crops);
-        if (read.error.isEmpty()) {
+    return [request = m_request, mode = mode(), colors, once](const ImportImage& image) {
+        ReadImage read{readPixels(image, request.crops), nullptr};
+        if (read.error.isEmpty() && !read.image.isNull()) {
             read.packed = std::make_shared<const Family::PackedImage>(
                 FamilySprite::adaptedImage(read.image, request.reverses, mode,
                                            colors ? &*colors : nullptr),
@@ -148,54 +133,105 @@ std::function<ImportImage(const QString&)> Import::reader() const
 /// Images go into the collection as they come: no more than a few are in memory.
 void Import::putAll(MediaResult* result)
 {
-    const auto prepare = [&, toRead = reader()](int i) -> std::function<ImportImage()> {
-        return [file = m_files[i], toRead] { return toRead(file); };
+    const auto prepare = [&, toRead = reader()](int i) -> std::function<ReadImage()> {
+        return [image = m_images.at(m_rows.at(i)), toRead] { return toRead(image); };
     };
-    const auto take = [&](int i, const ImportImage& read) {
-        if (!read.error.isEmpty()) {
-            result->errors.append(read.error);
-        } else if (result->errors.isEmpty()) {
-            result->note(put(i, read));
-        }
-    };
+    const auto taker = [&](int i, const ReadImage& read) { take(m_rows.at(i), read, result); };
     result->isCanceled =
-        !Zorv::runJobs<ImportImage>(Text::tr("Images"), m_files.size(), prepare, take);
+        !Zorv::runJobs<ReadImage>(Text::tr("Images"), m_rows.size(), prepare, taker);
     m_sprites->refresh();
 }
 
-bool Import::findSprites(MediaResult* refusal)
+void Import::take(int index, const ReadImage& read, MediaResult* result)
 {
-    for (int i = 0; i < m_targets.size(); ++i) {
-        const ImportTarget& target = m_targets[i];
-        int row = -1;
-        for (int copy = 0; copy < target.copy && (copy == 0 || row >= 0); ++copy) {
-            row = m_sprites->find(row + 1, target.id.text());
-        }
-        if (row >= 0 && !m_request.force) {
-            *refusal = MediaResult(Text::tr("There is a sprite %1 already, which '%2' would "
-                                            "replace. Nothing is changed.")
-                                       .arg(target.id.text(), m_files[i]));
-            refusal->isTaken = true;
-            return false;
-        }
-        m_old.append(m_sprites->sprite(row));
+    if (!read.error.isEmpty()) {
+        m_missing.insert(index);
+        result->errors.append(read.error);
+    } else if (result->errors.isEmpty() || m_request.leavesOut) {
+        result->note(put(index, read));
     }
-    return true;
 }
 
-bool Import::findPalette(QString* error)
+/// What no leave helps against is told first.
+bool Import::numberAll(MediaResult* refusal)
 {
-    if (m_request.palette.isEmpty()) {
-        return true;
+    m_numbers = numberImages(m_images, m_request.numbering, *m_sprites);
+    int fault = -1;
+    for (int i = 0; i < m_images.size(); ++i) {
+        const ImageNumber& number = m_numbers.at(i);
+        const bool isTaken = number.state == ImageNumber::Taken;
+        const bool isWorse = fault >= 0 && m_numbers.at(fault).state == ImageNumber::Taken;
+        if (number.isFault() && (fault < 0 || (isWorse && !isTaken))) {
+            fault = i;
+        }
+        m_old.append(number.state == ImageNumber::Replaces ? target(i) : nullptr);
+        if (number.state != ImageNumber::Twin) {
+            m_rows.append(i);
+        }
     }
+    if (fault >= 0) {
+        *refusal = MediaResult(tellNumber(m_images, m_numbers, fault));
+        refusal->isTaken = m_numbers.at(fault).state == ImageNumber::Taken;
+    }
+    return fault < 0;
+}
+
+/// The sprite that an image takes the place of.
+FamilySprite* Import::target(int index) const
+{
+    const ImportTarget& place = m_numbers.at(index).target;
+    int row = -1;
+    for (int copy = 0; copy < place.copy && (copy == 0 || row >= 0); ++copy) {
+        row = m_sprites->find(row + 1, place.id.text());
+    }
+    return m_sprites->sprite(row);
+}
+
+bool Import::findPalette(MediaResult* result)
+{
     const int count = m_sprites->palettes()->count();
-    m_palette = ensurePalette(m_sprites, m_request.palette, error);
+    QString error;
+    if (!m_request.palette.isEmpty()) {
+        m_palette = ensurePalette(m_sprites, m_request.palette, &error);
+    } else if (m_request.colors == 0) {
+        return true;
+    } else if (!makePalette(result)) {
+        return false;
+    }
+    result->errors += error.isEmpty() ? QStringList() : QStringList(error);
     m_isTouched = m_sprites->palettes()->count() > count;
     return m_palette;
 }
 
+/// Colour 0 stays for what is transparent.
+bool Import::makePalette(MediaResult* result)
+{
+    Zorv::ColorQuantizer quantizer;
+    quantizer.addColor({0, 0, 0, 0});
+    const auto prepare = [&](int i) -> std::function<ImportPixels()> {
+        return [image = m_images.at(m_rows.at(i))] { return readPixels(image, true); };
+    };
+    const auto add = [&](int, const ImportPixels& read) {
+        if (!read.image.isNull()) {
+            quantizer.addImage(read.image);
+        }
+    };
+    result->isCanceled =
+        !Zorv::runJobs<ImportPixels>(Text::tr("Colours"), m_rows.size(), prepare, add);
+    if (result->isCanceled) {
+        return false;
+    }
+    QVector<QRgb> table;
+    const QVector<Zorv::RGBA> colors = quantizer.palette(m_request.colors);
+    for (const Zorv::RGBA& color : colors) {
+        table.append(qRgba(color.r, color.g, color.b, color.a));
+    }
+    m_palette = m_sprites->palettes()->ensure(Family::colorsOfTable(table));
+    return true;
+}
+
 /// A palette that an image has brought is called as the file tells, if that is free.
-void Import::setImage(FamilySprite* sprite, const ImportImage& read)
+void Import::setImage(FamilySprite* sprite, const ReadImage& read)
 {
     PaletteList* palettes = m_sprites->palettes();
     const int count = palettes->count();
@@ -207,23 +243,23 @@ void Import::setImage(FamilySprite* sprite, const ImportImage& read)
     }
 }
 
-QString Import::put(int index, const ImportImage& read)
+QString Import::put(int index, const ReadImage& read)
 {
     m_isTouched = true;
     const bool isNew = !m_old[index];
     FamilySprite* sprite = isNew ? m_sprites->addSprite() : m_old[index];
-    sprite->setProperty(QStringLiteral("Identifier"), m_targets[index].id.text());
-    setImage(sprite, read);
-    const QPoint axis = m_request.hasAxis ? m_request.axis
-                        : isNew           ? axisOf(read.image, QPoint())
-                                          : axisOf(read.image, sprite->axis());
-    sprite->setAxis(axis - read.corner);
+    sprite->setProperty(QStringLiteral("Identifier"), m_numbers[index].target.id.text());
+    const QPoint old = sprite->axis();
+    if (!read.image.isNull()) {
+        setImage(sprite, read);
+    }
+    sprite->setAxis(importAxis(read, m_request, isNew ? nullptr : &old));
     const PixelCodec codec = m_request.codec;
-    if (codec != PixelCodec::None && sprite->codec() != codec) {
+    if (codec != PixelCodec::None && sprite->codec() != codec && !read.image.isNull()) {
         sprite->setProperty(QStringLiteral("Codec"), Family::codecName(codec));
         if (sprite->codec() != codec) {
             return Text::tr("'%1' would lose something as %2. Choose another codec.")
-                .arg(m_files[index], Family::codecName(codec));
+                .arg(nameOf(m_images[index]), Family::codecName(codec));
         }
     }
     return {};
@@ -231,11 +267,22 @@ QString Import::put(int index, const ImportImage& read)
 
 }  // namespace
 
-MediaResult importSprites(SpriteCollection* sprites, const QStringList& files,
-                          const ImportRequest& request)
+QPoint importAxis(const ImportPixels& pixels, const ImportRequest& request, const QPoint* old)
+{
+    if (!request.hasAxis && pixels.hasAxis) {
+        return pixels.axis - pixels.corner;
+    }
+    if (!request.hasAxis && old) {
+        return *old - pixels.corner;
+    }
+    return axisPlace(request.axisBase, pixels.original) + request.axis - pixels.corner;
+}
+
+MediaResult importSprites(SpriteCollection* sprites, const QVector<ImportImage>& images,
+                          const ImportRequest& request, QVector<ImportedId>* ids)
 {
     const AssetHistory::Hold hold(sprites->steps());
-    return Import(sprites, files, request).run();
+    return Import(sprites, images, request).run(ids);
 }
 
 }  // namespace Operations
