@@ -1409,7 +1409,7 @@
         <translation>Palette</translation>
     </message>
     <message>
-        <source>&amp;Make</source>
+        <source>&amp;Create</source>
         <translation>&amp;Anlegen</translation>
     </message>
     <message>
@@ -1461,7 +1461,7 @@
         <translation>Das gibt es schon. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
-        <source>Makes %1</source>
+        <source>Creates %1</source>
         <translation>Legt %1 an</translation>
     </message>
 </context>

@@ -75,7 +75,7 @@ NewDialog::NewDialog(NewKind kind, const QString& folder, const QString& mainFil
     m_folder->setObjectName(QStringLiteral("folder"));
     auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     m_ok = box->button(QDialogButtonBox::Ok);
-    m_ok->setText(tr("&Make"));
+    m_ok->setText(tr("&Create"));
     auto* layout = new QFormLayout(this);
     addRows(layout);
     layout->addRow(m_place);
@@ -202,7 +202,7 @@ QString NewDialog::fault() const
 void NewDialog::check()
 {
     const QString wrong = fault();
-    m_place->setText(tr("Makes %1").arg(QDir::toNativeSeparators(target())));
+    m_place->setText(tr("Creates %1").arg(QDir::toNativeSeparators(target())));
     m_place->setVisible(wrong.isEmpty());
     m_fault->setText(wrong);
     m_fault->setVisible(!wrong.isEmpty());
