@@ -77,13 +77,6 @@ private:
     QTextCursor m_top;
 };
 
-struct Replacement
-{
-    int start;
-    int length;
-    QString text;
-};
-
 }  // namespace
 
 CodeFind::CodeFind(const QString& pattern, unsigned flags)
@@ -111,7 +104,11 @@ int CodeFind::errorOffset() const
 
 QString CodeFind::searchableText(const CodeDocument* document)
 {
-    QString text = document->text();
+    return searchableText(document->text());
+}
+
+QString CodeFind::searchableText(QString text)
+{
     replaceLoneSurrogates(text);
     return text;
 }
@@ -247,18 +244,26 @@ int CodeFind::replaceAll(CodeEditor* editor, const QString& text, const QString&
         return 0;
     }
     const ViewKeeper view(editor);
-    CodeDocument* document = editor->codeDocument();
-    document->beginChange(QString());
-    document->placeChange(cursorOn(document, edits.first().start, edits.first().length));
+    replaceParts(editor->codeDocument(), edits, QString());
+    return edits.size();
+}
+
+void CodeFind::replaceParts(CodeDocument* document, const QVector<Replacement>& parts,
+                            const QString& title)
+{
+    if (parts.isEmpty()) {
+        return;
+    }
+    document->beginChange(title);
+    document->placeChange(cursorOn(document, parts.first().start, parts.first().length));
     QTextCursor cursor(document);
     // From the end on: places in front of an edit stay what they are.
-    for (auto edit = edits.crbegin(); edit != edits.crend(); ++edit) {
-        cursor.setPosition(edit->start);
-        cursor.setPosition(edit->start + edit->length, QTextCursor::KeepAnchor);
-        cursor.insertText(edit->text);
+    for (auto part = parts.crbegin(); part != parts.crend(); ++part) {
+        cursor.setPosition(part->start);
+        cursor.setPosition(part->start + part->length, QTextCursor::KeepAnchor);
+        cursor.insertText(part->text);
     }
     document->endChange();
-    return edits.size();
 }
 
 }  // namespace Zorv

@@ -5,6 +5,7 @@
 
 #include <QRegularExpression>
 #include <QString>
+#include <QVector>
 
 namespace Zorv {
 
@@ -38,6 +39,9 @@ public:
     /// What is no valid UTF-16 is replaced, which no search could pass.
     static QString searchableText(const CodeDocument* document);
 
+    /// The same of a text that no document has, as `FileText` reads it. For any thread.
+    static QString searchableText(QString text);
+
     /// The first match that starts at `from` or behind it.
     Match next(const QString& text, int from) const;
 
@@ -62,6 +66,19 @@ public:
     /// Replaces the editor's selection, which `match` must be of, and puts the cursor
     /// behind what took its place.
     void replaceSelection(CodeEditor* editor, const Match& match, const QString& with) const;
+
+    /// A part of a text, and what takes its place.
+    struct Replacement
+    {
+        int start;
+        int length;
+        QString text;
+    };
+
+    /// Replaces parts of a document as one step of undo, which has the title. They stand in
+    /// order and none over another. Only they are edited; with none nothing changes.
+    static void replaceParts(CodeDocument* document, const QVector<Replacement>& parts,
+                             const QString& title);
 
     /// Replaces every match in the editor's document, whose text `text` must be, as
     /// one step of undo, and gives their number. The result is that of
