@@ -836,10 +836,6 @@
 <context>
     <name>App::FindBar</name>
     <message>
-        <source>Character %1: %2</source>
-        <translation>Zeichen %1: %2</translation>
-    </message>
-    <message>
         <source>Upper and lower case are not the same</source>
         <translation>Groß- und Kleinschreibung unterscheiden</translation>
     </message>
@@ -5419,6 +5415,39 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Operations::FileSearch</name>
+    <message>
+        <source>Find in files</source>
+        <translation>In Dateien suchen</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::FindPattern</name>
+    <message>
+        <source>Character %1: %2</source>
+        <translation>Zeichen %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::FindReplace</name>
+    <message>
+        <source>It has changed since it was searched. Search again.</source>
+        <translation>Sie hat sich seit der Suche geändert. Suchen Sie noch einmal.</translation>
+    </message>
+    <message>
+        <source>It does not come back byte for byte from its encoding, %1. Open it, and choose another encoding.</source>
+        <translation>Aus ihrer Kodierung %1 kommt sie nicht Byte für Byte zurück. Öffnen Sie sie, und wählen Sie eine andere Kodierung.</translation>
+    </message>
+    <message>
+        <source>Its encoding %1 has no &apos;%2&apos;. Open it, and save it in UTF-8.</source>
+        <translation>Ihre Kodierung %1 hat kein &apos;%2&apos;. Öffnen Sie sie, und sichern Sie sie in UTF-8.</translation>
+    </message>
+    <message>
+        <source>Replace in files</source>
+        <translation>In Dateien ersetzen</translation>
+    </message>
+</context>
+<context>
     <name>Operations::FrameEdits</name>
     <message>
         <source>Expected one of %1; found &apos;%2&apos;.</source>
@@ -6160,6 +6189,13 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Nothing names a file &apos;%1&apos;.</source>
         <translation>Nichts nennt eine Datei &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::TextSearch</name>
+    <message>
+        <source>The expression takes too long there. Write it in a simpler way.</source>
+        <translation>Der Ausdruck braucht dort zu lange. Schreiben Sie ihn einfacher.</translation>
     </message>
 </context>
 <context>

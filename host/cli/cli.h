@@ -7,8 +7,9 @@ namespace Cli {
 /// The status with which the program ends.
 enum ExitStatus {
     Fine = 0,
-    ProblemsFound = 1,          ///< of `check` alone
-    Different = ProblemsFound,  ///< of `diff` alone
+    ProblemsFound = 1,             ///< of `check` alone
+    Different = ProblemsFound,     ///< of `diff` alone
+    NothingFound = ProblemsFound,  ///< of `find` alone
     WrongUsage = 2,
     NotDone = 3  ///< a file cannot be read or written, a path names nothing, ...
 };

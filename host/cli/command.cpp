@@ -43,6 +43,15 @@ constexpr Command table[] = {
      "Make a file of code, sprites, sounds or a palette.",
      "The suffix tells what it is: .character, .stage, .code, .anim, .commands, .sprites, .sounds or\n"
      ".act. A project has the file once its main file names it. What is there is not replaced."},
+    {"find", "TEXT GAME|FILE...", 2, Command::Any,
+     IgnoreCase | WholeWord | Expression | Kind | ReplaceBy | DryRun | Json, findText,
+     "Print the lines of code files in which a text stands, or replace it.",
+     "Each line is printed once, in the order of the files, as\n"
+     "    file:line:column: text\n"
+     "GAME is a game folder, or any folder in it, of which all code files are searched, whether a\n"
+     "project names them or not; hidden folders, backups and links are left out. With --replace a\n"
+     "line for each file that was changed tells, with a tab between, its name and how many places;\n"
+     "all else in it stays byte for byte. The status is 1 if the text is nowhere."},
     {"tree", "FILE", 1, 1, Json | Encoding, treeCommand,
      "Print the groups, values, animations, frames and boxes of a file.",
      "A line for each, with a tab between its number in the file, what it is, and the path\n"

@@ -42,6 +42,7 @@ int newGame(const Invocation& invocation, Output& output);
 int newCharacter(const Invocation& invocation, Output& output);
 int newStage(const Invocation& invocation, Output& output);
 int newFile(const Invocation& invocation, Output& output);
+int findText(const Invocation& invocation, Output& output);
 int treeCommand(const Invocation& invocation, Output& output);
 int getCommand(const Invocation& invocation, Output& output);
 int setCommand(const Invocation& invocation, Output& output);

@@ -200,6 +200,39 @@ QString takeForce(const QString&, Invocation& invocation)
     return {};
 }
 
+QString takeIgnoreCase(const QString&, Invocation& invocation)
+{
+    invocation.findOptions &= ~Operations::FindPattern::MatchCase;
+    return {};
+}
+
+template <int option>
+QString takeFindOption(const QString&, Invocation& invocation)
+{
+    invocation.findOptions |= option;
+    return {};
+}
+
+/// A suffix, with its dot or without; several in several options.
+QString takeKind(const QString& text, Invocation& invocation)
+{
+    const QString suffix = text.startsWith(QLatin1Char('.')) ? text : QLatin1Char('.') + text;
+    const Family::FileKind kind = Family::fileKindOf(suffix);
+    const int before = invocation.kinds == Operations::AllKinds ? 0 : invocation.kinds;
+    invocation.kinds = before | 1 << int(kind);
+    return Family::fileSuffix(kind) == suffix
+               ? QString()
+               : expected(QT_TRANSLATE_NOOP("Cli", "character, stage, code, anim or commands"),
+                          text);
+}
+
+/// An empty text is one to put in the place, too.
+QString takeReplacement(const QString& text, Invocation& invocation)
+{
+    invocation.replacement = text.isNull() ? QLatin1String("") : text;
+    return {};
+}
+
 template <int Invocation::*member, int least, int most>
 QString takeInt(const QString& text, Invocation& invocation)
 {
@@ -344,6 +377,16 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "one whose name is there already is left out")},
     {BringSprites, "--sprites", nullptr, setFlag<&Invocation::bringsSprites>,
      QT_TRANSLATE_NOOP("Cli", "the sprites and palettes that they show come along")},
+    {IgnoreCase, "--ignore-case", nullptr, takeIgnoreCase,
+     QT_TRANSLATE_NOOP("Cli", "upper and lower case are the same")},
+    {WholeWord, "--word", nullptr, takeFindOption<Operations::FindPattern::WholeWord>,
+     QT_TRANSLATE_NOOP("Cli", "whole words only")},
+    {Expression, "--expression", nullptr, takeFindOption<Operations::FindPattern::Expression>,
+     QT_TRANSLATE_NOOP("Cli", "TEXT is a regular expression, as the window takes it")},
+    {Kind, "--kind", "SUFFIX", takeKind,
+     QT_TRANSLATE_NOOP("Cli", "only files such as 'anim' or 'code'; several times for several kinds")},
+    {ReplaceBy, "--replace", "WITH", takeReplacement,
+     QT_TRANSLATE_NOOP("Cli", "put this in its place; with an expression \\1 is its first group")},
     {Target, "--out", "FILE", takePlace,
      QT_TRANSLATE_NOOP("Cli", "where the picture goes; '-o' for short")},
     {Out, "--out", "PLACE", takePlace,

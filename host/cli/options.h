@@ -1,6 +1,8 @@
 #pragma once
 
 #include "cli/sheetform.h"
+#include "operations/find/codefiles.h"
+#include "operations/find/findpattern.h"
 #include "operations/media/outputfiles.h"
 #include "operations/media/selection.h"
 #include "operations/media/spriteedits.h"
@@ -78,6 +80,10 @@ struct Invocation
     double peak = None;      ///< decibels
     double loudness = None;  ///< LUFS
 
+    int findOptions = Operations::FindPattern::MatchCase;
+    int kinds = Operations::AllKinds;  ///< of code files
+    QString replacement;               ///< null if nothing is replaced
+
     static constexpr double None = 1;  ///< levels are below 0
 };
 
@@ -141,7 +147,12 @@ enum Option : quint64 {
     Loudness = quint64(1) << 54,
     Template = quint64(1) << 55,
     SheetHow = quint64(1) << 56,
-    Pattern = quint64(1) << 57
+    Pattern = quint64(1) << 57,
+    IgnoreCase = quint64(1) << 59,
+    WholeWord = quint64(1) << 60,
+    Expression = quint64(1) << 61,
+    Kind = quint64(1) << 62,
+    ReplaceBy = quint64(1) << 63
 };
 
 /// One option: a row of the table.

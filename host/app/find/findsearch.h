@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/find/findpattern.h"
 #include "app/find/matchcounter.h"
+#include "operations/find/findpattern.h"
 
 #include <zorv/editors/code/codefindtext.h>
 
@@ -15,6 +15,8 @@ class CodeEditor;
 }
 
 namespace App {
+
+using Operations::FindPattern;
 
 /// Looks for something in the text of an editor, and replaces it.
 class FindSearch : public QObject

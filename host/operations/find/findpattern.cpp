@@ -1,10 +1,10 @@
-#include "app/find/findpattern.h"
+#include "operations/find/findpattern.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 
-namespace App {
+namespace Operations {
 
 using Zorv::CodeFind;
 
@@ -53,7 +53,7 @@ FindPattern::FindPattern(const QString& text, int options) : m_text(text), m_opt
         const CodeFind alone(byLines() + text, Zorv::FindRegularExpression);
         if (!text.isEmpty() && !alone.isValid()) {
             const int place = std::max(alone.errorOffset() - byLines().size(), 0);
-            m_error = QCoreApplication::translate("App::FindBar", "Character %1: %2")
+            m_error = QCoreApplication::translate("Operations::FindPattern", "Character %1: %2")
                           .arg(QString::number(place + 1), alone.errorString());
             return;
         }
@@ -88,4 +88,4 @@ QString FindPattern::replacement(const QString& with) const
     return result;
 }
 
-}  // namespace App
+}  // namespace Operations

@@ -4,11 +4,13 @@
 
 #include <QString>
 
-namespace App {
+namespace Operations {
 
-/// What the person looks for in a text, from a field and the buttons beside it.
+/// What the person looks for in texts: in the bar below a text, in the files of a game, by the
+/// command line.
 ///
-/// In an expression ^ and $ are the ends of a line, and a dot takes no line end.
+/// In an expression ^ and $ are the ends of a line, and a dot takes no line end. A value; each
+/// thread has one of its own.
 class FindPattern
 {
 public:
@@ -17,6 +19,13 @@ public:
     explicit FindPattern(const QString& text = {}, int options = 0);
 
     bool isEmpty() const { return m_text.isEmpty(); }
+    const QString& text() const { return m_text; }
+    int options() const { return m_options; }
+
+    bool operator==(const FindPattern& other) const
+    {
+        return m_text == other.m_text && m_options == other.m_options;
+    }
 
     /// What is wrong with an expression and where, for the person; empty for nothing.
     QString error() const { return m_error; }
@@ -34,4 +43,4 @@ private:
     Zorv::CodeFind m_find;
 };
 
-}  // namespace App
+}  // namespace Operations
