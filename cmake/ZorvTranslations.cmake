@@ -8,7 +8,7 @@
 # the program says it. The command line stays English, so its own texts are not looked at.
 
 set(ZORV_LANGUAGES de)
-set(ZORV_TRANSLATED_FOLDERS src host/family host/operations host/app)
+set(ZORV_TRANSLATED_FOLDERS src host/family host/operations host/app player)
 
 # zorv_add_translations(target NAME file...)
 #
@@ -40,7 +40,8 @@ list(TRANSFORM ZORV_LANGUAGE_FILES PREPEND ${PROJECT_SOURCE_DIR}/translations/
 list(TRANSFORM translated_files APPEND .ts)
 list(TRANSFORM ZORV_TRANSLATED_FOLDERS PREPEND ${PROJECT_SOURCE_DIR}/ OUTPUT_VARIABLE translated)
 set(lupdate Qt5::lupdate -locations none -no-obsolete -silent
-            -I ${PROJECT_SOURCE_DIR}/src -I ${PROJECT_SOURCE_DIR}/host)
+            -I ${PROJECT_SOURCE_DIR}/src -I ${PROJECT_SOURCE_DIR}/host
+            -I ${PROJECT_SOURCE_DIR}/player)
 add_custom_target(translations
     COMMAND ${lupdate} ${translated} -ts ${translated_files}
     COMMAND ${lupdate} -pluralonly ${translated} -ts ${PROJECT_SOURCE_DIR}/translations/zorv_en.ts

@@ -1,5 +1,7 @@
 #include "family/project/familyparentproject.h"
 #include "operations/hostinterface.h"
+#include "operations/language.h"
+#include "operations/settingsformat.h"
 #include "picture/loadedmatch.h"
 #include "rules/tick.h"
 #include "script/description.h"
@@ -11,6 +13,7 @@
 
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QSettings>
 
 #include <algorithm>
 #include <clocale>
@@ -133,8 +136,17 @@ int playScript(const Request& request)
                                 NotDone);
 }
 
+/// That of the editor.
+QString chosenLanguage()
+{
+    const QSettings settings(Operations::settingsFormat(), QSettings::UserScope,
+                             QStringLiteral("zorv"), QStringLiteral("zorv"));
+    return settings.value(QStringLiteral("language")).toString();
+}
+
 int playInWindow(const Request& request)
 {
+    Operations::Language::use(chosenLanguage());
     auto match = std::make_unique<Player::LoadedMatch>();
     QString error;
     if (!match->load(request.match, &error)) {

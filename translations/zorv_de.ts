@@ -6255,6 +6255,223 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     </message>
 </context>
 <context>
+    <name>Player::Hud</name>
+    <message numerus="yes">
+        <source>%n hits</source>
+        <translation>
+            <numerusform>%n Treffer</numerusform>
+            <numerusform>%n Treffer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damage</source>
+        <translation>
+            <numerusform>%n Schaden</numerusform>
+            <numerusform>%n Schaden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Round %1</source>
+        <translation>Runde %1</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Unentschieden</translation>
+    </message>
+    <message>
+        <source>Time over</source>
+        <translation>Zeit um</translation>
+    </message>
+    <message>
+        <source>K.O.</source>
+        <translation>K.O.</translation>
+    </message>
+    <message>
+        <source>%1 wins</source>
+        <translation>%1 gewinnt</translation>
+    </message>
+    <message>
+        <source>A drawn match</source>
+        <translation>Ein unentschiedener Kampf</translation>
+    </message>
+    <message>
+        <source>%1 wins the match</source>
+        <translation>%1 gewinnt den Kampf</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Player::Keymap</name>
+    <message>
+        <source>Keys, line %1: expected a line such as &apos;1 light = F&apos;; found &apos;%2&apos;.</source>
+        <translation>Tasten, Zeile %1: Erwartet war eine Zeile wie &apos;1 light = F&apos;, gefunden wurde &apos;%2&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>Player::LoadedMatch</name>
+    <message>
+        <source>There is no folder &apos;%1&apos;.</source>
+        <translation>Es gibt keinen Ordner &apos;%1&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>Player::Pictures</name>
+    <message>
+        <source>Sprite %1 is broken.</source>
+        <translation>Das Sprite %1 ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>There is no sprite %1.</source>
+        <translation>Es gibt kein Sprite %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Player::PlayWindow</name>
+    <message>
+        <source>Space	pause</source>
+        <translation>Leertaste	Pause</translation>
+    </message>
+    <message>
+        <source>Page up, Page down	a tick back, a tick on</source>
+        <translation>Bild auf, Bild ab	ein Tick zurück, ein Tick weiter</translation>
+    </message>
+    <message>
+        <source>F3, F4	boxes; frames and inputs</source>
+        <translation>F3, F4	Boxen; Frames und Eingaben</translation>
+    </message>
+    <message>
+        <source>F5	both to their places</source>
+        <translation>F5	beide an ihre Plätze</translation>
+    </message>
+    <message>
+        <source>F6	what the second one does</source>
+        <translation>F6	was der zweite tut</translation>
+    </message>
+    <message>
+        <source>F7, F10	speed; a match without end</source>
+        <translation>F7, F10	Tempo; ein Kampf ohne Ende</translation>
+    </message>
+    <message>
+        <source>F8, F9	another costume</source>
+        <translation>F8, F9	ein anderes Kostüm</translation>
+    </message>
+    <message>
+        <source>F2	what is wrong with the files</source>
+        <translation>F2	was an den Dateien nicht stimmt</translation>
+    </message>
+    <message>
+        <source>F12, Shift+F12	the shown frame in the editor</source>
+        <translation>F12, Umschalt+F12	der gezeigte Frame im Editor</translation>
+    </message>
+    <message>
+        <source>F11, Esc	the whole screen; the end</source>
+        <translation>F11, Esc	der ganze Bildschirm; das Ende</translation>
+    </message>
+    <message>
+        <source>%1 against %2</source>
+        <translation>%1 gegen %2</translation>
+    </message>
+    <message>
+        <source>No editor is there. Start the player from the editor, with F5.</source>
+        <translation>Kein Editor ist da. Starten Sie den Player im Editor, mit F5.</translation>
+    </message>
+    <message>
+        <source>The keys can be others: %1</source>
+        <translation>Die Tasten können andere sein: %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+</context>
+<context>
+    <name>Player::Script</name>
+    <message>
+        <source>Line %1: expected a number of ticks and what is held, as in &apos;20 F+L -&apos;, or &apos;places&apos;, &apos;life&apos; or &apos;power&apos; with two numbers; found &apos;%2&apos;.</source>
+        <translation>Zeile %1: Erwartet war eine Zahl von Ticks und was gehalten wird, wie in &apos;20 F+L -&apos;, oder &apos;places&apos;, &apos;life&apos; oder &apos;power&apos; mit zwei Zahlen; gefunden wurde &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>Line %1: the script takes more than %2 ticks.</source>
+        <translation>Zeile %1: Das Skript dauert länger als %2 Ticks.</translation>
+    </message>
+</context>
+<context>
+    <name>Player::SoundBank</name>
+    <message>
+        <source>%1: there is no sound %2, or it is broken.</source>
+        <translation>%1: Es gibt keinen Klang %2, oder er ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>Cannot play &apos;%1&apos;.</source>
+        <translation>&apos;%1&apos; kann nicht gespielt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Player::TrainingHud</name>
+    <message>
+        <source>played</source>
+        <translation>wird gespielt</translation>
+    </message>
+    <message>
+        <source>stands</source>
+        <translation>steht</translation>
+    </message>
+    <message>
+        <source>crouches</source>
+        <translation>duckt sich</translation>
+    </message>
+    <message>
+        <source>guards</source>
+        <translation>blockt</translation>
+    </message>
+    <message>
+        <source>jumps</source>
+        <translation>springt</translation>
+    </message>
+    <message>
+        <source>does anything</source>
+        <translation>tut irgendetwas</translation>
+    </message>
+    <message>
+        <source>is recorded</source>
+        <translation>wird aufgenommen</translation>
+    </message>
+    <message>
+        <source>replays</source>
+        <translation>wiederholt</translation>
+    </message>
+    <message>
+        <source>start %1, active %2, recovery %3</source>
+        <translation>Start %1, aktiv %2, Erholung %3</translation>
+    </message>
+    <message>
+        <source>, advantage %1</source>
+        <translation>, Vorteil %1</translation>
+    </message>
+    <message>
+        <source>paused, tick %1</source>
+        <translation>angehalten, Tick %1</translation>
+    </message>
+    <message>
+        <source>speed 1/%1</source>
+        <translation>Tempo 1/%1</translation>
+    </message>
+    <message>
+        <source>the second one %1</source>
+        <translation>der zweite %1</translation>
+    </message>
+    <message>
+        <source>without end</source>
+        <translation>ohne Ende</translation>
+    </message>
+</context>
+<context>
     <name>RemapDlg</name>
     <message>
         <source>Remap</source>
@@ -6344,6 +6561,32 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>F&amp;ilter:</source>
         <translation>F&amp;ilter:</translation>
+    </message>
+</context>
+<context>
+    <name>Rules::CodeText</name>
+    <message>
+        <source>Cannot read &apos;%1&apos;: %2. Check its permissions.</source>
+        <translation>&apos;%1&apos; kann nicht gelesen werden: %2. Prüfen Sie die Rechte.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lies outside of the game.</source>
+        <translation>&apos;%1&apos; liegt außerhalb des Spiels.</translation>
+    </message>
+</context>
+<context>
+    <name>Rules::GameReader</name>
+    <message>
+        <source>&apos;%1&apos; has more than %2 commands. Those behind are left out.</source>
+        <translation>&apos;%1&apos; hat mehr als %2 Kommandos. Die dahinter fehlen.</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;*%1&apos; in &apos;%2&apos;.</source>
+        <translation>Es gibt keine Datei &apos;*%1&apos; in &apos;%2&apos;.</translation>
+    </message>
+    <message>
+        <source>There is no &apos;%1&apos; in &apos;%2&apos;. %3</source>
+        <translation>Es gibt kein &apos;%1&apos; in &apos;%2&apos;. %3</translation>
     </message>
 </context>
 <context>

@@ -343,6 +343,30 @@
     </message>
 </context>
 <context>
+    <name>Player::Hud</name>
+    <message numerus="yes">
+        <source>%n hits</source>
+        <translation>
+            <numerusform>%n hit</numerusform>
+            <numerusform>%n hits</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damage</source>
+        <translation>
+            <numerusform>%n damage</numerusform>
+            <numerusform>%n damage</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Zorv::AnimationEditor</name>
     <message numerus="yes">
         <source>and %n more</source>

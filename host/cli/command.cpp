@@ -167,7 +167,8 @@ constexpr Command table[] = {
      "Each FILE is a main file (.character, .stage). Copies of the projects are put beside the\n"
      "engine, and removed when it has ended. The engine is the one that --engine names, a name of\n"
      "the settings or a program; else 'zorv-player' in the game folder, if you have agreed to it\n"
-     "in the window, or with --trust; else that of the settings.\n"
+     "in the window, or with --trust; else that of the settings; without any the player that comes\n"
+     "with the program, 'zorv-player'.\n"
      "In the parameters %0 is the first FILE, %1 the first too, %2 the second and so on. What\n"
      "the engine prints goes to standard output, and its status is that of the command."},
     {"backup", "GAME [NAME]", 1, 2, NoOptions, backUp,

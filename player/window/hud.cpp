@@ -2,7 +2,12 @@
 
 #include "rules/state.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QFontMetrics>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace Player {
 
@@ -64,6 +69,20 @@ Hud::Hud()
     : m_small(fontOf(9, QFont::Normal)), m_usual(fontOf(11, QFont::DemiBold)),
       m_large(fontOf(34, QFont::Bold))
 {
+}
+
+QString Hud::readableName(const FighterData& data) const
+{
+    const QFontMetrics metrics(m_usual);
+    const QVector<uint> letters = data.name.toUcs4();
+    const bool isReadable = std::all_of(letters.cbegin(), letters.cend(), [&metrics](uint letter) {
+        return !QChar::isLetterOrNumber(letter) || metrics.inFontUcs4(letter);
+    });
+    // A copy that an editor has made has no suffix, but stands in the folder of the character.
+    const QFileInfo file(data.mainFile);
+    return isReadable                ? data.name
+           : file.suffix().isEmpty() ? file.dir().dirName()
+                                     : file.completeBaseName();
 }
 
 /// With a dark rim, to be read on any ground.

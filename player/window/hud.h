@@ -8,6 +8,7 @@
 class QPainter;
 
 namespace Rules {
+struct FighterData;
 struct Game;
 struct State;
 }  // namespace Rules
@@ -25,6 +26,9 @@ public:
     static constexpr int Height = 360;
 
     Hud();
+
+    /// The name of a character; that of its file where no font of this computer has the letters.
+    QString readableName(const Rules::FighterData& data) const;
 
     void paint(QPainter* painter, const Rules::Game& game, const Rules::State& state) const;
 

@@ -27,6 +27,11 @@ constexpr int usual[2][Keymap::SignCount] = {
      Qt::Key_O},
 };
 
+/// Of the signs, as places in `padNames()`.
+constexpr int usualPad[Keymap::SignCount] = {12, 13, 15, 14, 0, 1, 2, 9};
+
+const QLatin1String padMark("pad ");
+
 int signCalled(const QString& name)
 {
     const auto found =
@@ -55,6 +60,7 @@ Keymap::Keymap()
 {
     for (int player = 0; player < 2; ++player) {
         std::copy(std::begin(usual[player]), std::end(usual[player]), m_keys[player]);
+        std::copy(std::begin(usualPad), std::end(usualPad), m_pads[player]);
     }
 }
 
@@ -79,13 +85,17 @@ void Keymap::read(const QString& text)
 bool Keymap::readLine(const QString& line)
 {
     const QStringList head = line.section(QLatin1Char('='), 0, 0).simplified().split(' ');
-    const int key = keyCalled(line.section(QLatin1Char('='), 1).trimmed());
+    const QString name = line.section(QLatin1Char('='), 1).trimmed();
+    const bool isPad = name.startsWith(padMark);
+    const int button = isPad ? padNames().indexOf(name.mid(padMark.size())) : -1;
+    const int key = keyCalled(name);
     const int player = head.first().toInt() - 1;
     const int sign = signCalled(head.value(1));
-    if (head.size() != 2 || player < 0 || player > 1 || sign < 0 || key == 0) {
+    if (head.size() != 2 || player < 0 || player > 1 || sign < 0 ||
+        (isPad ? button < 0 : key == 0)) {
         return false;
     }
-    set(player, sign, key);
+    isPad ? setPad(player, sign, button) : set(player, sign, key);
     return true;
 }
 
@@ -98,6 +108,29 @@ void Keymap::set(int player, int sign, int key)
     m_keys[player][sign] = key;
 }
 
+void Keymap::setPad(int player, int sign, int button)
+{
+    auto& pad = m_pads[player];
+    std::replace(std::begin(pad), std::end(pad), button, -1);
+    pad[sign] = button;
+}
+
+QStringList Keymap::padNames()
+{
+    return {"A",      "B",     "X",  "Y",  "L1", "R1",   "L2",    "R2",
+            "Select", "Start", "L3", "R3", "Up", "Down", "Right", "Left"};
+}
+
+quint8 Keymap::padSigns(int player, quint32 buttons) const
+{
+    unsigned signs = 0;
+    for (int sign = 0; sign < SignCount; ++sign) {
+        const int button = m_pads[player][sign];
+        signs |= button >= 0 && (buttons >> button & 1) != 0 ? table[sign].bit : 0U;
+    }
+    return quint8(signs);
+}
+
 QString Keymap::text() const
 {
     QString text;
@@ -106,6 +139,12 @@ QString Keymap::text() const
             text += QStringLiteral("%1 %2 = %3\n")
                         .arg(QString::number(player + 1), QLatin1String(table[sign].name),
                              keyName(player, sign));
+            const int button = m_pads[player][sign];
+            if (button >= 0) {
+                text += QStringLiteral("%1 %2 = %3%4\n")
+                            .arg(QString::number(player + 1), QLatin1String(table[sign].name),
+                                 padMark, padNames().at(button));
+            }
         }
     }
     return text;

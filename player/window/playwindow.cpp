@@ -53,6 +53,7 @@ PlayWindow::PlayWindow(std::unique_ptr<LoadedMatch> match, const MatchRequest& r
     resize(UsualSize);
     setMinimumSize({320, 180});
     connect(&m_clock, &SteadyClock::ticked, this, &PlayWindow::goOn);
+    connect(&m_pads, &Gamepads::heldChanged, this, &PlayWindow::holdPad);
 }
 
 PlayWindow::~PlayWindow() = default;
@@ -66,6 +67,9 @@ void PlayWindow::open()
     m_match->notes += m_sounds->notes();
     m_session = std::make_unique<Session>(m_match->game);
     m_match->notes += m_keys.notes();
+    for (Rules::FighterData& fighter : m_match->game.fighters) {
+        fighter.name = m_hud.readableName(fighter);
+    }
     setTitle(
         tr("%1 against %2").arg(m_match->game.fighters[0].name, m_match->game.fighters[1].name));
 }
@@ -184,7 +188,7 @@ void PlayWindow::see()
 
 void PlayWindow::goOn()
 {
-    if (m_session->clockTick(m_inputs)) {
+    if (m_session->clockTick(inputs())) {
         see();
     }
     m_notesLeft -= m_notesLeft > 0;
@@ -201,7 +205,7 @@ void PlayWindow::step(int by)
 {
     m_session->setPaused(true);
     if (by > 0) {
-        m_session->step(m_inputs);
+        m_session->step(inputs());
         see();
     } else if (m_session->stepBack()) {
         m_scene->see(m_session->state());
@@ -355,10 +359,32 @@ void PlayWindow::keyPressEvent(QKeyEvent* event)
         return;
     }
     m_inputs.signs[player] |= bit;
-    const bool isButton = (bit & Family::MotionStep::Buttons) != 0;
-    if (isButton && state().phase == Rules::Phase::MatchOver) {
+    press(bit);
+}
+
+/// A button begins the next match.
+void PlayWindow::press(quint8 bits)
+{
+    if ((bits & Family::MotionStep::Buttons) != 0 && state().phase == Rules::Phase::MatchOver) {
         m_session->beginMatch();
     }
+}
+
+void PlayWindow::holdPad(int player, quint32 buttons)
+{
+    const quint8 before = m_padInputs.signs[player];
+    m_padInputs.signs[player] = m_keys.padSigns(player, buttons);
+    press(quint8(m_padInputs.signs[player] & ~before));
+}
+
+/// Of keyboard and game pads together.
+Rules::Inputs PlayWindow::inputs() const
+{
+    Rules::Inputs all = m_inputs;
+    for (int i = 0; i < 2; ++i) {
+        all.signs[i] |= m_padInputs.signs[i];
+    }
+    return all;
 }
 
 void PlayWindow::keyReleaseEvent(QKeyEvent* event)

@@ -4,6 +4,7 @@
 #include "picture/loadedmatch.h"
 #include "picture/overlay.h"
 #include "training/session.h"
+#include "window/gamepads.h"
 #include "window/hud.h"
 #include "window/keymap.h"
 #include "window/steadyclock.h"
@@ -40,6 +41,8 @@ public:
     /// How many ticks were painted since the window was made.
     int paintedTicks() const { return m_paintedTicks; }
 
+    Gamepads* gamepads() { return &m_pads; }
+
     /// Finds the editor at a local socket, and plays what it sends: its files are not watched for
     /// changes then, for the editor knows more than is saved.
     void setEditor(const QString& socketName);
@@ -69,6 +72,9 @@ private:
     void readKeys();
     void see();
     void step(int by);
+    Rules::Inputs inputs() const;
+    void press(quint8 bits);
+    void holdPad(int player, quint32 buttons);
     bool takeWindowKey(int key);
     bool takeTrainingKey(int key);
     QRectF target() const;
@@ -81,7 +87,9 @@ private:
     std::unique_ptr<Scene> m_scene;
     std::unique_ptr<MatchSounds> m_sounds;
     std::unique_ptr<Session> m_session;
-    Rules::Inputs m_inputs;
+    Rules::Inputs m_inputs;  // of the keyboard
+    Rules::Inputs m_padInputs;
+    Gamepads m_pads;
     Keymap m_keys;
     Hud m_hud;
     TrainingHud m_training;

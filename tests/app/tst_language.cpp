@@ -1,5 +1,5 @@
-#include "app/look/language.h"
 #include "app/settings/settingsdialog.h"
+#include "operations/language.h"
 #include "windowfixture.h"
 
 #include <QAbstractButton>
@@ -18,7 +18,7 @@
 
 #include <functional>
 
-using App::Language;
+using Operations::Language;
 
 namespace {
 
@@ -206,7 +206,7 @@ void TestLanguage::accessKeysDiffer()
     fixture.open(game, game.ryn(), game.animations());
     QStringList clashes;
     int keys = 0;
-    for (const App::LanguageInfo& language : Language::all()) {
+    for (const Operations::LanguageInfo& language : Language::all()) {
         Language::use(language.code);
         QList<QWidget*> menus{fixture.window->menuBar()};
         for (QMenu* menu : fixture.window->findChildren<QMenu*>()) {

@@ -21,7 +21,7 @@ fail() {
 # What must be there, and what must not.
 for file in include/zorv/zorv.h include/zorv/code/codedoc/codedocument.h bin/zorv \
     bin/zorv-player \
-    share/man/man1/zorv.1 share/doc/zorv/LICENSE share/zorv/samples/README.md \
+    share/man/man1/zorv.1 share/man/man1/zorv-player.1 share/doc/zorv/LICENSE share/zorv/samples/README.md \
     share/zorv/snippets/Attack.xml 'share/zorv/templates/character/fighter/{name}.character'; do
     [ -f "$prefix/$file" ] || fail "$file is not installed"
 done

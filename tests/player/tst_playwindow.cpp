@@ -3,9 +3,12 @@
 #include "operations/hostinterface.h"
 #include "support/folders.h"
 #include "support/testtable.h"
+#include "window/gamepads.h"
+#include "window/hud.h"
 #include "window/keymap.h"
 #include "window/playwindow.h"
 
+#include <QFontMetrics>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -22,6 +25,8 @@ private slots:
     void keysMoveBoth();
     void everyTickIsPainted();
     void whatIsHeldEndsWithTheFocus();
+    void padsMoveBoth();
+    void nameWithoutLetters();
     void stopAndStep();
     void savedFilesAreTaken_data();
     void savedFilesAreTaken();
@@ -94,6 +99,51 @@ void TestPlayWindow::whatIsHeldEndsWithTheFocus()
     QCoreApplication::sendEvent(m_window.get(), &away);
     wait(20);
     QCOMPARE(m_window->state().fighters[0].action, Rules::Action::Stand);
+}
+
+/// A third pad waits until one goes.
+void TestPlayWindow::padsMoveBoth()
+{
+    Gamepads* pads = m_window->gamepads();
+    const int starts[] = {place(0), place(1)};
+    for (const int device : {7, 3, 5, 7}) {
+        pads->plugIn(device);
+    }
+    pads->setButton(5, Gamepads::Right, true);
+    pads->setStick(7, Gamepads::Axis::Horizontal, 0.4);
+    wait(5);
+    QCOMPARE(place(0), starts[0]);
+    pads->setStick(7, Gamepads::Axis::Horizontal, -0.9);
+    pads->setButton(3, Gamepads::Right, true);
+    wait(10);
+    QVERIFY(place(0) < starts[0]);
+    QVERIFY(place(1) > starts[1]);
+    pads->pullOut(3);
+    pads->setStick(7, Gamepads::Axis::Horizontal, 0);
+    pads->plugIn(5);
+    wait(20);
+    QCOMPARE(m_window->state().fighters[1].action, Rules::Action::Stand);
+    pads->setButton(5, Gamepads::A, true);
+    pads->setButton(5, 99, true);
+    wait(3);
+    QCOMPARE(m_window->state().fighters[1].action, Rules::Action::Move);
+}
+
+/// The file has a name for the person, too.
+void TestPlayWindow::nameWithoutLetters()
+{
+    const QString letters = QString::fromUtf8("\xf0\xa0\x80\x80");  // of a rare script
+    if (QFontMetrics(QFont("sans-serif")).inFontUcs4(letters.toUcs4().first())) {
+        QSKIP("a font of this computer has the letters");
+    }
+    Rules::FighterData data;
+    data.name = "Ryn " + letters;
+    data.mainFile = "/game/characters/ryn/zorvs_0";
+    QCOMPARE(Hud().readableName(data), QString("ryn"));
+    data.mainFile = "/game/characters/ryn/red.character";
+    QCOMPARE(Hud().readableName(data), QString("red"));
+    data.name = "Ryn";
+    QCOMPARE(Hud().readableName(data), QString("Ryn"));
 }
 
 /// Every key of training is pressed; the meter and boxes are painted meanwhile.
@@ -173,6 +223,9 @@ void TestPlayWindow::keymap_data()
     row("the one before has no meaning", QString("1 light = Z"), int(Qt::Key_F), -1, 0);
     row("unknown sign", QString("1 lite = Z"), int(Qt::Key_Z), -1, 1);
     row("unknown key", QString("1 light = Zz\n1 light = Ctrl+A"), int(Qt::Key_F), 0, 2);
+    row("a button leaves its sign", QString("1 heavy = pad A\n2 light = pad Start"), int(Qt::Key_F),
+        0, 0);
+    row("unknown button", QString("1 heavy = pad Z\n1 heavy = pad"), int(Qt::Key_F), 0, 2);
     row("no player", QString("3 light = Z\n= Z\nlight"), int(Qt::Key_Z), -1, 3);
 }
 

@@ -90,7 +90,7 @@ def update(lupdate, source, folders, kept, folder, *options):
     shutil.copy(kept, copy)
     run = subprocess.run(
         [lupdate, "-silent", "-locations", "none", "-no-obsolete",
-         "-I", source / "src", "-I", source / "host", *options,
+         "-I", source / "src", "-I", source / "host", "-I", source / "player", *options,
          *[source / name for name in folders], "-ts", copy],
         capture_output=True, text=True, check=True)
     complaints = [line for line in run.stderr.splitlines() if line.strip()]

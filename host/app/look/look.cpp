@@ -1,8 +1,8 @@
 #include "app/look/look.h"
 
 #include "app/look/codefont.h"
-#include "app/look/language.h"
 #include "app/look/theme.h"
+#include "operations/language.h"
 
 #include <zorv/core/interface.h>
 
@@ -13,7 +13,7 @@ namespace App {
 void applyLook()
 {
     const Zorv::Interface* host = Zorv::Interface::instance();
-    Language::use(host->option(QStringLiteral("language")).toString());
+    Operations::Language::use(host->option(QStringLiteral("language")).toString());
     Theme::use(Theme::kindOf(host->option(QStringLiteral("theme")).toString()));
     setCodeFont(host->option(QStringLiteral("font_name")).toString(),
                 host->option(QStringLiteral("font_size")).toInt());

@@ -1,6 +1,6 @@
 #include "app/settings/settingtable.h"
 
-#include "app/look/language.h"
+#include "operations/language.h"
 
 #include <QCoreApplication>
 
@@ -16,7 +16,7 @@ QVector<SettingChoice> languages()
 {
     QVector<SettingChoice> choices{
         {QString(), settingText(QT_TRANSLATE_NOOP("App::Settings", "As the system"))}};
-    for (const LanguageInfo& language : Language::all()) {
+    for (const Operations::LanguageInfo& language : Operations::Language::all()) {
         choices.append({language.code, language.name});
     }
     return choices;
