@@ -67,9 +67,9 @@ void FighterScene::dye()
     m_pictures.addDye(shadow);
 }
 
-void FighterScene::wearNext()
+void FighterScene::wear(int costume)
 {
-    m_costume = (m_costume + 1) % qMax(m_look.costumes.size(), 1);
+    m_costume = costume % qMax(m_look.costumes.size(), 1);
     dye();
 }
 

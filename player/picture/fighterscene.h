@@ -29,7 +29,11 @@ public:
     bool drawSpark(Brush* brush, Spark spark, int age, QPoint place, int facing);
 
     /// The costume behind the one that is worn; behind the last comes the first.
-    void wearNext();
+    void wearNext() { wear(m_costume + 1); }
+
+    /// Which costume is worn, and another one; beyond the last they begin again.
+    int costume() const { return m_costume; }
+    void wear(int costume);
 
     QStringList notes() const { return m_pictures.notes(); }
 

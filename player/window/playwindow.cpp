@@ -150,6 +150,8 @@ void PlayWindow::reload(const MatchRequest& request)
         return;
     }
     m_notesLeft = NotesTicks;
+    const MatchRequest oldRequest = m_request;
+    const int costumes[] = {m_scene->fighter(0).costume(), m_scene->fighter(1).costume()};
     m_request = request;
     const std::unique_ptr<LoadedMatch> oldMatch = std::move(m_match);
     const std::unique_ptr<Session> oldSession = std::move(m_session);
@@ -158,6 +160,13 @@ void PlayWindow::reload(const MatchRequest& request)
     m_match = std::move(match);
     open();
     m_session->takeOver(*oldSession);
+    m_sounds->setPaused(m_session->isPaused());
+    for (int i = 0; i < 2; ++i) {
+        if (originalOf(oldRequest, oldMatch->game.fighters[i].mainFile) ==
+            originalOf(request, m_match->game.fighters[i].mainFile)) {
+            m_scene->fighter(i).wear(costumes[i]);
+        }
+    }
     watchFiles();
 }
 

@@ -2,6 +2,7 @@
 
 #include "operations/hostinterface.h"
 #include "support/folders.h"
+#include "support/plannedsound.h"
 #include "support/testtable.h"
 #include "window/gamepads.h"
 #include "window/hud.h"
@@ -180,6 +181,8 @@ void TestPlayWindow::savedFilesAreTaken_data()
 void TestPlayWindow::savedFilesAreTaken()
 {
     const auto [isCopy] = fetched<bool>();
+    m_window.reset();
+    PlannedSound sound;
     QTemporaryDir folder;
     const QString game = folder.filePath("game");
     const QString original = game + "/characters/a/a.character";
@@ -209,9 +212,15 @@ void TestPlayWindow::savedFilesAreTaken()
     writeFile(original, textOf("second"));
     QTRY_VERIFY(m_window->title().startsWith("second against "));
     QCOMPARE(place(0), before);
+    // What stands still is not heard either.
+    QTest::keyClick(m_window.get(), Qt::Key_Space);
+    writeFile(original, textOf("third"));
+    QTRY_VERIFY(m_window->title().startsWith("third against "));
+    QCOMPARE(sound.output->now, Zorv::SoundOutput::Suspended);
+    QTest::keyClick(m_window.get(), Qt::Key_Space);
     QVERIFY(QFile::remove(original));
     wait(60);
-    QVERIFY(m_window->title().startsWith("second against "));
+    QVERIFY(m_window->title().startsWith("third against "));
 }
 
 void TestPlayWindow::keymap_data()
