@@ -27,6 +27,8 @@ constexpr qreal PowerHeight = 6;
 constexpr int TicksASecond = 60;
 constexpr int FightShownTicks = 60;
 constexpr int MostNotes = 5;
+constexpr int SecondColumn = 130;
+constexpr int ColumnWidth = 60;
 
 const QColor Frame(0, 0, 0, 200);
 const QColor LifeLeft(0xf0, 0xc8, 0x30);
@@ -155,20 +157,21 @@ QString Hud::announcement(const Game& game, const State& state) const
 
 void Hud::paintPage(QPainter* painter, const QString& title, const QStringList& lines) const
 {
-    const qreal lineHeight = 14;
     const QRectF page(70, 40, Width - 140, Height - 70);
+    // Closer together if there are many.
+    const qreal room = page.height() - 36;
+    const qreal lineHeight = qBound<qreal>(11, room / qMax(lines.size(), 1), 14);
     painter->fillRect(page, Veil);
     paintText(painter, page.adjusted(14, 8, -14, 0), Qt::AlignLeft | Qt::AlignTop, title, m_usual);
-    const int most = int((page.height() - 36) / lineHeight);
+    const int most = int(room / lineHeight + 0.01);
     for (int i = 0; i < qMin(lines.size(), most); ++i) {
         const QRectF area(page.left() + 14, page.top() + 28 + i * lineHeight, page.width() - 28,
                           lineHeight);
-        const QString& line = lines.at(i);
-        const int tab = line.indexOf(QLatin1Char('\t'));
-        paintText(painter, area, Qt::AlignLeft | Qt::AlignVCenter, line.left(tab), m_small);
-        if (tab >= 0) {
-            paintText(painter, area.adjusted(130, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                      line.mid(tab + 1), m_small);
+        const QStringList columns = lines.at(i).split(QLatin1Char('\t'));
+        for (int column = 0; column < columns.size(); ++column) {
+            const int left = column == 0 ? 0 : SecondColumn + (column - 1) * ColumnWidth;
+            paintText(painter, area.adjusted(left, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                      columns.at(column), m_small);
         }
     }
 }

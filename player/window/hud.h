@@ -32,7 +32,7 @@ public:
 
     void paint(QPainter* painter, const Rules::Game& game, const Rules::State& state) const;
 
-    /// A page of lines with a title, above all else. A tab stands between two columns.
+    /// A page of lines with a title, above all else. Tabs stand between columns.
     void paintPage(QPainter* painter, const QString& title, const QStringList& lines) const;
 
     /// Some lines above the lower edge, the rest as a number.

@@ -280,7 +280,7 @@ void PlayWindow::paintPages(QPainter* painter)
     }
     QStringList lines;
     for (int i = 0; i < Keymap::SignCount; ++i) {
-        lines.append(QStringLiteral("%1\t%2      %3")
+        lines.append(QStringLiteral("%1\t%2\t%3")
                          .arg(QLatin1String(Keymap::signs()[i].name), m_keys.keyName(0, i),
                               m_keys.keyName(1, i)));
     }

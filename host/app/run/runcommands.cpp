@@ -34,6 +34,7 @@ using Zorv::RunResult;
 namespace {
 
 constexpr int MaxNames = 12;
+constexpr int LaterMilliseconds = 200;
 
 QString namesOf(const QStringList& paths)
 {
@@ -218,6 +219,11 @@ void RunCommands::playAgain()
     const QPointer<RunCommands> self = this;
     const QPointer<Family::FamilyParentProject> game = m_services.session->game();
     if (!game || !isPlayerThere()) {
+        return;
+    }
+    if (QApplication::activeModalWidget()) {
+        // Something is being asked or saved: what is there at its end counts.
+        m_playSoon.start(LaterMilliseconds);
         return;
     }
     if (!m_played) {
