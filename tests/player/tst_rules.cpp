@@ -499,6 +499,18 @@ void TestRules::variant_data()
         {"guarded on without B", "", "1 M B;30 -", "1.life 998"},
         {"a throw without what follows", grab, "1 L+M B;3 - B", "1.action fall"},
         {"a throw that does not fall", grab + "falls = no", "1 L+M;3 -", "1.action hit"},
+        {"no throw in a stun", jab + "stun = 10", "1 L;17 -;1 L+M;3 -", "0.move grab,1.life 900"},
+        {"a winner begins with full life", "", "life 400 100;1 L;230 -",
+         "round 1,0.wins 1,0.life 1000,1.life 1000", "rounds = 2"},
+        {"with a share of it", "[constants];recovery = 0.25, 0", "life 400 100;1 L;230 -",
+         "round 1,0.life 650,1.life 1000", "rounds = 2"},
+        {"both have lost", "", "life 100 100;1 L L;230 -",
+         "round 1,0.wins 1,1.wins 1,winner -1,0.life 1000", "rounds = 2"},
+        {"won by time", "animation win-1;frame 0,0 delay -1;animation lose;frame 0,0 delay -1",
+         "life 1000 900;230 -", "phase victory,0.animation win-1,1.animation lose"},
+        {"a round without end", "", "200 -", "phase fight,clock -1", "time = 0"},
+        {"looking outward", "[constants];turns = no", "1 -", "0.facing left,1.facing right",
+         "[.start];facing = outward"},
     };
     for (const auto& each : rows) {
         row(each.name, each.fighter, each.stage, each.script, each.expected);
