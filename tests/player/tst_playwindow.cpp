@@ -10,6 +10,8 @@
 #include "window/playwindow.h"
 
 #include <QFontMetrics>
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -31,6 +33,7 @@ private slots:
     void stopAndStep();
     void savedFilesAreTaken_data();
     void savedFilesAreTaken();
+    void editorTellsWhatPlays();
     void keymap_data();
     void keymap();
 
@@ -221,6 +224,56 @@ void TestPlayWindow::savedFilesAreTaken()
     QVERIFY(QFile::remove(original));
     wait(60);
     QVERIFY(m_window->title().startsWith("third against "));
+}
+
+/// A character, a stage with both as they were, what is saved of it, another character; and the
+/// files, once the editor is gone.
+void TestPlayWindow::editorTellsWhatPlays()
+{
+    QTemporaryDir folder;
+    const auto write = [&folder](const char* path, const char* name) {
+        const QString file = folder.filePath(path);
+        writeFile(file, "[info]\nname = \"" + QByteArray(name) + "\"\n");
+        return file;
+    };
+    const QString a = write("game/characters/a/a.character", "a");
+    const QString b = write("game/characters/b/b.character", "b");
+    const QString stage = write("game/stages/s/s.stage", "s");
+    MatchRequest request{folder.filePath("game"), {write("run/a", "a0")}, {}, false, a};
+    auto match = std::make_unique<LoadedMatch>();
+    QString error;
+    QVERIFY(match->load(request, &error));
+    m_window = std::make_unique<PlayWindow>(std::move(match), request);
+    QLocalServer editor;
+    QVERIFY(editor.listen(folder.filePath("editor")));
+    m_window->setEditor(editor.fullServerName());
+    m_window->begin();
+    QTRY_VERIFY(editor.hasPendingConnections());
+    QLocalSocket* const player = editor.nextPendingConnection();
+    const auto play = [&](const QString& copy, const QString& original, bool isStage) {
+        player->write(
+            QStringLiteral("{\"play\":{\"copy\":\"%1\",\"original\":\"%2\",\"stage\":%3}}\n")
+                .arg(copy, original, isStage ? "true" : "false")
+                .toUtf8());
+    };
+    play(write("run/a1", "a1"), a, false);
+    QTRY_COMPARE(m_window->title(), QString("a1 against b"));
+    play(folder.filePath("run/none"), a, false);
+    play(write("run/s1", "s1"), stage, true);
+    QTRY_COMPARE(m_window->title(), QString("a against b"));
+    play(write("run/b1", "b1"), b, false);
+    QTRY_COMPARE(m_window->title(), QString("b1 against a"));
+    play({}, {}, false);
+    QTRY_COMPARE(m_window->title(), QString("b against a"));
+    // It asks the editor, as long as that is there.
+    write("game/characters/a/a.character", "a2");
+    QTRY_VERIFY(player->canReadLine());
+    QCOMPARE(player->readAll(), QByteArray("{\"changed\":true}\n"));
+    QCOMPARE(m_window->title(), QString("b against a"));
+    player->write("nonsense\n");
+    QTRY_COMPARE(player->state(), QLocalSocket::UnconnectedState);
+    write("game/characters/a/a.character", "a333");
+    QTRY_COMPARE(m_window->title(), QString("b against a333"));
 }
 
 void TestPlayWindow::keymap_data()
