@@ -413,6 +413,14 @@
         <source>Open &amp;sample game</source>
         <translation>&amp;Beispielspiel öffnen</translation>
     </message>
+    <message>
+        <source>Find in &amp;game files...</source>
+        <translation>In &amp;Spieldateien suchen...</translation>
+    </message>
+    <message>
+        <source>Replace in ga&amp;me files...</source>
+        <translation>In Spie&amp;ldateien ersetzen...</translation>
+    </message>
 </context>
 <context>
     <name>App::AxisDialog</name>
@@ -889,6 +897,145 @@
     </message>
 </context>
 <context>
+    <name>App::FindInFiles</name>
+    <message>
+        <source>Find:</source>
+        <translation>Suchen:</translation>
+    </message>
+    <message>
+        <source>Text to find in the files of the game</source>
+        <translation>Gesuchter Text in den Dateien des Spiels</translation>
+    </message>
+    <message>
+        <source>Text to put in its place</source>
+        <translation>Text, der an seine Stelle kommt</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>With a regular expression \1 to \99 are what its groups have found, \n is a line end, \t a tab</source>
+        <translation>Bei einem regulären Ausdruck sind \1 bis \99, was seine Gruppen gefunden haben, \n ein Zeilenende, \t ein Tabulator</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace all places that are ticked</source>
+        <translation>Alle angehakten Stellen ersetzen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Stop searching; what was found stays</source>
+        <translation>Die Suche anhalten; was gefunden ist, bleibt</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Kinds of files in which to search</source>
+        <translation>Arten von Dateien, in denen gesucht wird</translation>
+    </message>
+    <message>
+        <source>Places in the files of the game</source>
+        <translation>Stellen in den Dateien des Spiels</translation>
+    </message>
+    <message>
+        <source>Upper and lower case are not the same</source>
+        <translation>Groß- und Kleinschreibung unterscheiden</translation>
+    </message>
+    <message>
+        <source>Whole words only</source>
+        <translation>Nur ganze Wörter</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Regulärer Ausdruck</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n place(s)</source>
+        <translation>
+            <numerusform>%n Stelle</numerusform>
+            <numerusform>%n Stellen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n file(s)</source>
+        <translation>
+            <numerusform>in %n Datei</numerusform>
+            <numerusform>in %n Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Searching... %1</source>
+        <translation>Sucht... %1</translation>
+    </message>
+    <message>
+        <source>%1. There are more: look for something longer.</source>
+        <translation>%1. Es gibt mehr: Suchen Sie etwas Längeres.</translation>
+    </message>
+    <message>
+        <source>%1. The search was stopped.</source>
+        <translation>%1. Die Suche wurde angehalten.</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n place(s)</source>
+        <translation>
+            <numerusform>%n Stelle</numerusform>
+            <numerusform>%n Stellen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n file(s)?</source>
+        <translation>
+            <numerusform>in %n Datei ersetzen?</numerusform>
+            <numerusform>in %n Dateien ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) of these are not open. They are written at once, and no undo takes that back.</source>
+        <translation>
+            <numerusform>%n Datei davon ist nicht offen. Sie wird sofort geschrieben, und kein Rückgängig nimmt das zurück.</numerusform>
+            <numerusform>%n Dateien davon sind nicht offen. Sie werden sofort geschrieben, und kein Rückgängig nimmt das zurück.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replace in files</source>
+        <translation>In Dateien ersetzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n place(s) replaced</source>
+        <translation>
+            <numerusform>%n Stelle</numerusform>
+            <numerusform>%n Stellen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n file(s). These stay as they are:</source>
+        <translation>
+            <numerusform>in %n Datei ersetzt. Diese bleiben, wie sie sind:</numerusform>
+            <numerusform>in %n Dateien ersetzt. Diese bleiben, wie sie sind:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::FindSearch</name>
     <message>
         <source>from the start</source>
@@ -1237,6 +1384,10 @@
     <message>
         <source>Costumes</source>
         <translation>Kostüme</translation>
+    </message>
+    <message>
+        <source>Find in files</source>
+        <translation>In Dateien suchen</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,65 @@
     </message>
 </context>
 <context>
+    <name>App::FindInFiles</name>
+    <message numerus="yes">
+        <source>%n place(s)</source>
+        <translation>
+            <numerusform>%n place</numerusform>
+            <numerusform>%n places</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n file(s)</source>
+        <translation>
+            <numerusform>in %n file</numerusform>
+            <numerusform>in %n files</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace %n place(s)</source>
+        <translation>
+            <numerusform>Replace %n place</numerusform>
+            <numerusform>Replace %n places</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n file(s)?</source>
+        <translation>
+            <numerusform>in %n file?</numerusform>
+            <numerusform>in %n files?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) of these are not open. They are written at once, and no undo takes that back.</source>
+        <translation>
+            <numerusform>%n file of these is not open. It is written at once, and no undo takes that back.</numerusform>
+            <numerusform>%n files of these are not open. They are written at once, and no undo takes that back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n place(s) replaced</source>
+        <translation>
+            <numerusform>%n place replaced</numerusform>
+            <numerusform>%n places replaced</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n file(s). These stay as they are:</source>
+        <translation>
+            <numerusform>in %n file. These stay as they are:</numerusform>
+            <numerusform>in %n files. These stay as they are:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::FindSearch</name>
     <message numerus="yes">
         <source>more than %n match(es)</source>

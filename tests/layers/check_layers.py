@@ -65,6 +65,7 @@ LAYERS = {
     "host/app/palettes/": 26,
     "host/app/recovery/": 26,
     "host/app/run/": 26,
+    "host/app/search/": 26,
     "host/app/settings/": 26,
     "host/app/sounds/": 26,
     "host/app/stage/": 26,

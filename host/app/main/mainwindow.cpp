@@ -31,6 +31,7 @@
 #include "app/palettes/sightswitches.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
+#include "app/search/findinfiles.h"
 #include "app/session/gamesession.h"
 #include "app/session/unsavedwork.h"
 #include "app/sounds/hearing.h"
@@ -106,6 +107,7 @@ const PanelTitle panelTitles[] = {
     {"costumes", QT_TRANSLATE_NOOP("App::MainWindow", "Costumes")},
     {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
     {"output", QT_TRANSLATE_NOOP("App::MainWindow", "Engine output")},
+    {"find_files", QT_TRANSLATE_NOOP("App::MainWindow", "Find in files")},
 };
 
 /// Qt names these buttons once, all alike, in the language of the moment.
@@ -167,6 +169,7 @@ MainWindow::MainWindow(QWidget* parent)
         return m_problems->findUses(what, places);
     };
     m_messagePanel = new MessagePanel(m_services, m_problems);
+    m_findInFiles = new FindInFiles(m_services);
     m_router = new CommandRouter(m_services);
     m_commands = new WindowCommands(this);
     makeDocks();
@@ -245,11 +248,11 @@ void MainWindow::giveRoomAtFirst(QDockWidget* comes, const QList<QDockWidget*>& 
 void MainWindow::addParts()
 {
     for (Part* part : std::initializer_list<Part*>{
-             m_router,     m_newCommands,   m_opener,           m_gameCommands, m_gameTree,
-             m_start,      m_startCommands, m_services.editors, m_sprites,      m_hearing,
-             m_stage,      m_paint,         m_palettes,         m_code,         m_animations,
-             m_thumbnails, m_problems,      m_messagePanel,     m_runCommands,  m_services.status,
-             m_commands}) {
+             m_router,          m_newCommands,   m_opener,           m_gameCommands, m_gameTree,
+             m_start,           m_startCommands, m_services.editors, m_sprites,      m_hearing,
+             m_stage,           m_paint,         m_palettes,         m_code,         m_animations,
+             m_thumbnails,      m_problems,      m_messagePanel,     m_findInFiles,  m_runCommands,
+             m_services.status, m_commands}) {
         m_services.parts->add(part);
     }
 }
@@ -276,6 +279,9 @@ void MainWindow::makeDocks()
     addDock(m_sprites->panel(), "sprites", Qt::LeftDockWidgetArea);
     QDockWidget* output = addDock(m_runCommands->panel(), "output", Qt::BottomDockWidgetArea);
     output->hide();
+    QDockWidget* found = addDock(m_findInFiles, "find_files", Qt::BottomDockWidgetArea);
+    tabifyDockWidget(messages, found);
+    found->hide();
     new MessageRoom(this, messages, m_messagePanel);
 }
 

@@ -23,6 +23,7 @@ class CodeView;
 class CommandRouter;
 class ControlPlacer;
 class DocumentTabs;
+class FindInFiles;
 class GameCommands;
 class GameOpener;
 class GameTree;
@@ -83,6 +84,7 @@ public:
     PaintCommands* paint() const { return m_paint; }
     ProblemWatch* problems() const { return m_problems; }
     MessagePanel* messagePanel() const { return m_messagePanel; }
+    FindInFiles* findInFiles() const { return m_findInFiles; }
     /// @}
 
     /// @name What tests and pictures ask for often
@@ -161,6 +163,7 @@ private:
     Hearing* m_hearing = nullptr;
     ProblemWatch* m_problems;
     MessagePanel* m_messagePanel;
+    FindInFiles* m_findInFiles;
     CommandRouter* m_router;
     WindowCommands* m_commands;
 };
