@@ -7,12 +7,26 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QHash>
 
 namespace Rules {
 
 using Family::AnimationRole;
 
 namespace {
+
+/// Where things of a name are; the first one counts. A text may have a hundred thousand of them.
+using Places = QHash<QString, int>;
+
+/// False for a name that is there already. What has none is nothing's double.
+bool isNew(const QString& name, int place, Places* places)
+{
+    const bool isKnown = places->contains(name);
+    if (!isKnown && !name.isEmpty()) {
+        places->insert(name, place);
+    }
+    return !isKnown;
+}
 
 /// Finds things by their names: the first one of a name counts.
 template <class Things, class Name>
@@ -151,13 +165,13 @@ void readHit(const CodeGroup& group, Hit* hit)
     hit->shake = wholesOf(group.value("hit.shake"));
 }
 
-Move moveOf(const CodeGroup& group, const FighterData& data)
+Move moveOf(const CodeGroup& group, const FighterData& data, const Places& animations)
 {
     const Values values(group);
     Move move;
     move.name = group.argument;
     move.place = group.place;
-    move.animation = animationCalled(data, values.word("animation"));
+    move.animation = animations.value(values.word("animation"), -1);
     move.commandName = values.word("command");
     move.command = commandCalled(data, move.commandName);
     move.air = choiceOf<Air>(values.word("air"), {"no", "yes", "only"});
@@ -175,24 +189,22 @@ Move moveOf(const CodeGroup& group, const FighterData& data)
     return move;
 }
 
-void readMoves(const CodeText& text, FighterData* data)
+void readMoves(const CodeText& text, const Places& animations, FighterData* data)
 {
     QVector<const CodeGroup*> groups;
+    Places places;
     for (const CodeGroup& group : text.groups()) {
-        const auto nameOf = [](const Move& each) { return each.name; };
-        if (group.name == QLatin1String("move") &&
-            placeOf(data->moves, group.argument, nameOf) < 0) {
-            data->moves.append(moveOf(group, *data));
+        if (group.name == QLatin1String("move") && isNew(group.argument, groups.size(), &places)) {
+            data->moves.append(moveOf(group, *data, animations));
             groups.append(&group);
         }
     }
     for (int i = 0; i < groups.size(); ++i) {
         Move& move = data->moves[i];
         for (const auto& entry : groups.at(i)->values) {
-            const int target = entry.first != QLatin1String("cancels")
-                                   ? -1
-                                   : placeOf(data->moves, entry.second.toString(),
-                                             [](const Move& each) { return each.name; });
+            const int target = entry.first == QLatin1String("cancels")
+                                   ? places.value(entry.second.toString(), -1)
+                                   : -1;
             if (target >= 0 && !data->moves.at(target).commandName.isEmpty()) {
                 move.cancels.append(target);
             } else if (target >= 0 && move.follower < 0) {
@@ -298,8 +310,10 @@ void GameReader::takeFighter(const CodeText& text, FighterData* data)
     *data = {};
     data->mainFile = text.mainFile();
     data->name = titleOf(text, data->mainFile);
+    Places animations;
     for (const Animation& animation : text.animations()) {
-        if (!animation.frames.isEmpty() && animationCalled(*data, animation.identifier) < 0) {
+        if (!animation.frames.isEmpty() &&
+            isNew(animation.identifier, data->animations.size(), &animations)) {
             data->animations.append(animation);
         }
     }
@@ -307,7 +321,7 @@ void GameReader::takeFighter(const CodeText& text, FighterData* data)
     readConstants(constants, data);
     int left = 0;
     readCommands(text.joined("commands"), data, &left);
-    readMoves(text, data);
+    readMoves(text, animations, data);
     chooseAnimations(constants, data);
     m_notes += text.notes();
     if (left > 0) {
