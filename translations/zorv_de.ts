@@ -421,6 +421,10 @@
         <source>Replace in ga&amp;me files...</source>
         <translation>In Spie&amp;ldateien ersetzen...</translation>
     </message>
+    <message>
+        <source>&amp;Quick fix...</source>
+        <translation>Schnell &amp;beheben...</translation>
+    </message>
 </context>
 <context>
     <name>App::AxisDialog</name>
@@ -1767,6 +1771,37 @@
     <message>
         <source>The game is still being checked: what uses it is not known.</source>
         <translation>Das Spiel wird noch geprüft: Es ist nicht bekannt, was dies verwendet.</translation>
+    </message>
+</context>
+<context>
+    <name>App::QuickFixes</name>
+    <message>
+        <source>There is no quick fix here.</source>
+        <translation>Hier gibt es nichts schnell zu beheben.</translation>
+    </message>
+    <message>
+        <source>&amp;Go to</source>
+        <translation>&amp;Hingehen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Quick fix</source>
+        <translation>Schnell beheben</translation>
+    </message>
+    <message>
+        <source>%1 has changed meanwhile. Try again.</source>
+        <translation>%1 hat sich inzwischen geändert. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 was created.</source>
+        <translation>%1 wurde angelegt.</translation>
+    </message>
+    <message>
+        <source>%1 cannot take %2. Open it, and look at what it has.</source>
+        <translation>%1 kann %2 nicht aufnehmen. Öffnen Sie die Datei, und sehen Sie nach, was sie hat.</translation>
     </message>
 </context>
 <context>
@@ -5596,6 +5631,93 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Replace in files</source>
         <translation>In Dateien ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>Operations::Fixes</name>
+    <message>
+        <source>Write &apos;%1&apos;</source>
+        <translation>&apos;%1&apos; schreiben</translation>
+    </message>
+    <message>
+        <source>Remove the line</source>
+        <translation>Die Zeile entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the second &apos;%1&apos;</source>
+        <translation>Das zweite &apos;%1&apos; entfernen</translation>
+    </message>
+    <message>
+        <source>Swap the corners</source>
+        <translation>Die Ecken vertauschen</translation>
+    </message>
+    <message>
+        <source>Add &apos;=&apos;</source>
+        <translation>&apos;=&apos; einfügen</translation>
+    </message>
+    <message>
+        <source>Add &apos;]&apos;</source>
+        <translation>&apos;]&apos; einfügen</translation>
+    </message>
+    <message>
+        <source>Put it in double quotes</source>
+        <translation>In Anführungszeichen setzen</translation>
+    </message>
+    <message>
+        <source>Add the double quote</source>
+        <translation>Das Anführungszeichen einfügen</translation>
+    </message>
+    <message>
+        <source>Add &apos;,&apos;</source>
+        <translation>&apos;,&apos; einfügen</translation>
+    </message>
+    <message>
+        <source>Write &apos;/&apos;</source>
+        <translation>&apos;/&apos; schreiben</translation>
+    </message>
+    <message>
+        <source>Write &apos;\\&apos;</source>
+        <translation>&apos;\\&apos; schreiben</translation>
+    </message>
+    <message>
+        <source>Remove &apos;%1&apos;</source>
+        <translation>&apos;%1&apos; entfernen</translation>
+    </message>
+    <message>
+        <source>Make it a comment</source>
+        <translation>Zum Kommentar machen</translation>
+    </message>
+    <message>
+        <source>Put &apos;loop&apos; at the first frame</source>
+        <translation>&apos;loop&apos; an das erste Einzelbild setzen</translation>
+    </message>
+    <message>
+        <source>Create the animation &apos;%1&apos;</source>
+        <translation>Die Animation &apos;%1&apos; anlegen</translation>
+    </message>
+    <message>
+        <source>Create the animations %1</source>
+        <translation>Die Animationen %1 anlegen</translation>
+    </message>
+    <message>
+        <source>Create the command &apos;%1&apos;</source>
+        <translation>Den Befehl &apos;%1&apos; anlegen</translation>
+    </message>
+    <message>
+        <source>Create the move &apos;%1&apos;</source>
+        <translation>Die Aktion &apos;%1&apos; anlegen</translation>
+    </message>
+    <message>
+        <source>Create the sprite %1, with a placeholder</source>
+        <translation>Das Sprite %1 mit einem Platzhalter anlegen</translation>
+    </message>
+    <message>
+        <source>Create the sound %1, with silence</source>
+        <translation>Den Klang %1 mit Stille anlegen</translation>
+    </message>
+    <message>
+        <source>Create the file &apos;%1&apos;</source>
+        <translation>Die Datei &apos;%1&apos; anlegen</translation>
     </message>
 </context>
 <context>

@@ -17,13 +17,15 @@ constexpr quint64 Written = Out | Format | Force;
 
 // clang-format off
 constexpr Command table[] = {
-    {"check", "GAME|FILE", 1, 1, Json, checkCommand,
+    {"check", "GAME|FILE", 1, 1, Json | Mend | DryRun, checkCommand,
      "Print every problem of a game folder, a project or a file.",
      "Each problem is printed once, sorted by place, as\n"
      "    file:line:column: error: text\n"
      "with 'error', 'warning' or 'deprecated'. GAME is a game folder, with all projects below\n"
      "it. FILE is a main file (.character, .stage), which is checked with all the files that it\n"
-     "names, or another file of code, sprites or sounds. The status is 1 if there is any problem."},
+     "names, or another file of code, sprites or sounds. The status is 1 if there is any problem.\n"
+     "With --fix what has one obvious mend is mended first: old names, misspelt keys and options,\n"
+     "swapped corners, doubled options; with --dry-run the differences are printed instead."},
     {"new game", "GAME [CHARACTER [STAGE]]", 1, 3, Template, newGame,
      "Make a game with a character and a stage.",
      "GAME is a folder that is not there, or an empty one. The character can stand, walk, attack and\n"

@@ -38,6 +38,7 @@ bool parseArguments(const Command& command, const QStringList& arguments, Invoca
                     QString* error);
 
 int checkCommand(const Invocation& invocation, Output& output);
+int fixProblems(const Invocation& invocation, Output& output);
 int newGame(const Invocation& invocation, Output& output);
 int newCharacter(const Invocation& invocation, Output& output);
 int newStage(const Invocation& invocation, Output& output);

@@ -273,6 +273,8 @@ const OptionInfo table[] = {
      QT_TRANSLATE_NOOP("Cli", "print JSON")},
     {DryRun, "--dry-run", nullptr, setFlag<&Invocation::dryRun>,
      QT_TRANSLATE_NOOP("Cli", "print what would change, write nothing")},
+    {Mend, "--fix", nullptr, setFlag<&Invocation::mends>,
+     QT_TRANSLATE_NOOP("Cli", "mend what has one obvious mend")},
     {NoSafety, "--no-safety-backup", nullptr, setFlag<&Invocation::noSafetyBackup>,
      QT_TRANSLATE_NOOP("Cli", "do not copy the game aside first")},
     {Encoding, "--encoding", "NAME", takeEncoding,

@@ -22,6 +22,7 @@ struct Invocation
     QStringList operands;
     bool json = false;
     bool dryRun = false;
+    bool mends = false;
     bool noSafetyBackup = false;
     int codec = -1;       ///< of `Zorv::TextCodecs`; negative to detect
     QString engine;       ///< null if none was named
@@ -152,7 +153,8 @@ enum Option : quint64 {
     WholeWord = quint64(1) << 60,
     Expression = quint64(1) << 61,
     Kind = quint64(1) << 62,
-    ReplaceBy = quint64(1) << 63
+    ReplaceBy = quint64(1) << 63,
+    Mend = quint64(1) << 58
 };
 
 /// One option: a row of the table.

@@ -103,6 +103,12 @@ void writeJsonTree(const FamilyDocument* document, Output& output)
 
 int checkCommand(const Invocation& invocation, Output& output)
 {
+    if (invocation.mends || invocation.dryRun) {
+        const int status = fixProblems(invocation, output);
+        if (status != Fine || invocation.dryRun) {
+            return status;
+        }
+    }
     QString error;
     const Family::Problems problems = Operations::checkPath(invocation.operands.first(), &error);
     if (!error.isEmpty()) {

@@ -1,11 +1,16 @@
+#include "app/messages/quickfixes.h"
 #include "family/check/check.h"
 #include "support/folders.h"
 #include "support/randomtext.h"
 #include "windowfixture.h"
 
+#include "family/assets/spritecollection.h"
 #include "family/nodes/animationnode.h"
+#include "operations/check/backgroundcheck.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
+#include <QMenu>
 
 using namespace App;
 using Family::FamilyDocument;
@@ -44,6 +49,9 @@ private slots:
     void areSeenInTheTree();
     void noneMeansThatTheCheckFindsNone();
     void removalTellsWhoUsesIt();
+    void fixByKey();
+    void fixFromTheMessage();
+    void fixOfSprites();
 
 private:
     void open(const QString& game);
@@ -243,6 +251,83 @@ void TestProblems::removalTellsWhoUsesIt()
     QCOMPARE(animations->count(), count - 1);
     QVERIFY(window()->problems()->settle());
     QVERIFY(shown().filter(identifier).size() > 0);
+}
+
+/// The menu that is open, and of which the first row is chosen by Return.
+static void chooseFirst()
+{
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+}
+
+void TestProblems::fixByKey()
+{
+    open("arena");
+    const QString file = m_root + "/characters/maren/moves.code";
+    QVERIFY(window()->openFile(file));
+    FamilyDocument* document = m->document();
+    const QString before = document->text();
+    Zorv::CodeEditor* editor = window()->code()->editor();
+    QTextCursor cursor = document->find("cancels");
+    cursor.insertText("cancel");
+    editor->setTextCursor(cursor);
+    editor->setFocus();
+    QTest::keyClick(editor, Qt::Key_Return, Qt::AltModifier);
+    chooseFirst();
+    QCOMPARE(document->text(), before);
+    document->undo();
+    QVERIFY(document->text() != before);
+    QVERIFY(window()->problems()->settle());
+    QCOMPARE(window()->problems()->model()->rowCount(), 1);
+}
+
+/// What is created may stand in a file that was not open.
+void TestProblems::fixFromTheMessage()
+{
+    open("arena");
+    const QString folder = m_root + "/characters/maren/";
+    writeFile(folder + "moves.code", readFile(folder + "moves.code") +
+                                         "[move wave]\r\nanimation = 20\r\ncommand = qqq\r\n");
+    window()->problems()->check()->look();
+    QVERIFY(window()->problems()->settle());
+    MessagePanel* panel = window()->messagePanel();
+    QTRY_COMPARE(panel->problems()->rowCount(), 1);
+    panel->setCurrentIndex(panel->problems()->index(0));
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint());
+    QCoreApplication::sendEvent(panel, &asked);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    chooseFirst();
+    FamilyDocument* document = m->document();
+    QCOMPARE(QFileInfo(document->fileName()).fileName(), QString("maren.commands"));
+    QVERIFY(document->text().contains("\nqqq = \"\"\n"));
+    QCOMPARE(window()->code()->editor()->textCursor().block().text(), QString("qqq = \"\""));
+    document->undo();
+    QVERIFY(!document->text().contains("qqq"));
+}
+
+void TestProblems::fixOfSprites()
+{
+    open("arena");
+    const QString folder = m_root + "/characters/maren/";
+    QVERIFY(window()->openFile(folder + "attacks.anim"));
+    FamilyDocument* document = m->document();
+    QTextCursor cursor(document);
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText("\nanimation 9999\nframe 9999,3 loop\n");
+    QVERIFY(window()->problems()->settle());
+    window()->code()->editor()->setTextCursor(document->find("frame 9999"));
+    const QVector<Operations::Fix> fixes = window()->fixes()->fixesOfLine();
+    QCOMPARE(fixes.size(), 1);
+    Family::SpriteCollection* sprites = static_cast<FamilyProject*>(document->project())->sprites();
+    const int count = int(sprites->count());
+    window()->fixes()->apply(fixes.first());
+    QCOMPARE(int(sprites->count()), count + 1);
+    QVERIFY(window()->problems()->settle());
+    QCOMPARE(shown(), QStringList());
+    sprites->undo();
+    QCOMPARE(int(sprites->count()), count);
 }
 
 QTEST_MAIN(TestProblems)

@@ -25,6 +25,7 @@
 #include "app/messages/messagepanel.h"
 #include "app/messages/messageroom.h"
 #include "app/messages/problemwatch.h"
+#include "app/messages/quickfixes.h"
 #include "app/paint/paintcommands.h"
 #include "app/palettes/familypaletteeditor.h"
 #include "app/palettes/palettecommands.h"
@@ -193,6 +194,7 @@ void MainWindow::publishTools()
     m_hearing = new Hearing(m_services);
     editors()->add(m_hearing->editor(), Zorv::FileID::Sounds, {nullptr, m_hearing->commands()});
     arrangeTools();
+    m_fixes = new QuickFixes(m_services, m_problems, m_messagePanel, m_code->editor());
     addParts();
     connectParts();
     m_services.parts->begin();
@@ -248,11 +250,11 @@ void MainWindow::giveRoomAtFirst(QDockWidget* comes, const QList<QDockWidget*>& 
 void MainWindow::addParts()
 {
     for (Part* part : std::initializer_list<Part*>{
-             m_router,          m_newCommands,   m_opener,           m_gameCommands, m_gameTree,
-             m_start,           m_startCommands, m_services.editors, m_sprites,      m_hearing,
-             m_stage,           m_paint,         m_palettes,         m_code,         m_animations,
-             m_thumbnails,      m_problems,      m_messagePanel,     m_findInFiles,  m_runCommands,
-             m_services.status, m_commands}) {
+             m_router,      m_newCommands,     m_opener,           m_gameCommands, m_gameTree,
+             m_start,       m_startCommands,   m_services.editors, m_sprites,      m_hearing,
+             m_stage,       m_paint,           m_palettes,         m_code,         m_animations,
+             m_thumbnails,  m_problems,        m_messagePanel,     m_findInFiles,  m_fixes,
+             m_runCommands, m_services.status, m_commands}) {
         m_services.parts->add(part);
     }
 }

@@ -32,6 +32,7 @@ class NewCommands;
 class PaintCommands;
 class PaletteCommands;
 class ProblemWatch;
+class QuickFixes;
 class RunCommands;
 class Hearing;
 class SoundPanel;
@@ -83,6 +84,7 @@ public:
     PaletteCommands* palettes() const { return m_palettes; }
     PaintCommands* paint() const { return m_paint; }
     ProblemWatch* problems() const { return m_problems; }
+    QuickFixes* fixes() const { return m_fixes; }
     MessagePanel* messagePanel() const { return m_messagePanel; }
     FindInFiles* findInFiles() const { return m_findInFiles; }
     /// @}
@@ -162,6 +164,7 @@ private:
     SpriteCommands* m_sprites;
     Hearing* m_hearing = nullptr;
     ProblemWatch* m_problems;
+    QuickFixes* m_fixes;
     MessagePanel* m_messagePanel;
     FindInFiles* m_findInFiles;
     CommandRouter* m_router;
