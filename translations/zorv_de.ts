@@ -427,50 +427,24 @@
     </message>
 </context>
 <context>
+    <name>App::AddImages</name>
+    <message>
+        <source>Add images</source>
+        <translation>Bilder hinzufügen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sprite(s) came in.</source>
+        <translation>
+            <numerusform>%n Sprite ist dazugekommen.</numerusform>
+            <numerusform>%n Sprites sind dazugekommen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::AxisDialog</name>
-    <message>
-        <source>Top left corner</source>
-        <translation>Ecke oben links</translation>
-    </message>
-    <message>
-        <source>Middle of the top edge</source>
-        <translation>Mitte des oberen Randes</translation>
-    </message>
-    <message>
-        <source>Top right corner</source>
-        <translation>Ecke oben rechts</translation>
-    </message>
-    <message>
-        <source>Middle of the left edge</source>
-        <translation>Mitte des linken Randes</translation>
-    </message>
-    <message>
-        <source>Middle</source>
-        <translation>Mitte</translation>
-    </message>
-    <message>
-        <source>Middle of the right edge</source>
-        <translation>Mitte des rechten Randes</translation>
-    </message>
-    <message>
-        <source>Bottom left corner</source>
-        <translation>Ecke unten links</translation>
-    </message>
-    <message>
-        <source>Middle of the bottom edge</source>
-        <translation>Mitte des unteren Randes</translation>
-    </message>
-    <message>
-        <source>Bottom right corner</source>
-        <translation>Ecke unten rechts</translation>
-    </message>
     <message>
         <source>Where it is now</source>
         <translation>Wo sie jetzt ist</translation>
-    </message>
-    <message>
-        <source> pixels</source>
-        <translation> Pixel</translation>
     </message>
     <message>
         <source>Set axis</source>
@@ -505,6 +479,49 @@
             <numerusform>Die Achse von %n Sprite ist gesetzt.</numerusform>
             <numerusform>Die Achsen von %n Sprites sind gesetzt.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>App::AxisPlaces</name>
+    <message>
+        <source>Top left corner</source>
+        <translation>Linke obere Ecke</translation>
+    </message>
+    <message>
+        <source>Middle of the top edge</source>
+        <translation>Mitte der oberen Kante</translation>
+    </message>
+    <message>
+        <source>Top right corner</source>
+        <translation>Rechte obere Ecke</translation>
+    </message>
+    <message>
+        <source>Middle of the left edge</source>
+        <translation>Mitte der linken Kante</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Middle of the right edge</source>
+        <translation>Mitte der rechten Kante</translation>
+    </message>
+    <message>
+        <source>Bottom left corner</source>
+        <translation>Linke untere Ecke</translation>
+    </message>
+    <message>
+        <source>Middle of the bottom edge</source>
+        <translation>Mitte der unteren Kante</translation>
+    </message>
+    <message>
+        <source>Bottom right corner</source>
+        <translation>Rechte untere Ecke</translation>
+    </message>
+    <message>
+        <source> pixels</source>
+        <translation> Pixel</translation>
     </message>
 </context>
 <context>
@@ -1257,6 +1274,236 @@
     </message>
 </context>
 <context>
+    <name>App::ImageListModel</name>
+    <message>
+        <source>%1, the next free number: the name tells none</source>
+        <translation>%1, die nächste freie Nummer: Der Name nennt keine</translation>
+    </message>
+    <message>
+        <source>%1, the next free number: that of the name is taken</source>
+        <translation>%1, die nächste freie Nummer: Die des Namens ist vergeben</translation>
+    </message>
+    <message>
+        <source>%1, in place of the sprite there</source>
+        <translation>%1, anstelle des vorhandenen Sprites</translation>
+    </message>
+    <message>
+        <source>%1, the same picture as &apos;%2&apos;</source>
+        <translation>%1, dasselbe Bild wie „%2“</translation>
+    </message>
+    <message>
+        <source>the name tells no number</source>
+        <translation>Der Name nennt keine Nummer</translation>
+    </message>
+    <message>
+        <source>%1 is taken</source>
+        <translation>%1 ist vergeben</translation>
+    </message>
+    <message>
+        <source>%1 is taken by &apos;%2&apos;</source>
+        <translation>%1 ist von „%2“ vergeben</translation>
+    </message>
+    <message>
+        <source>no number is left in the group</source>
+        <translation>In der Gruppe ist keine Nummer mehr frei</translation>
+    </message>
+</context>
+<context>
+    <name>App::ImagesDialog</name>
+    <message>
+        <source>Add images</source>
+        <translation>Bilder hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Files...</source>
+        <translation>&amp;Dateien...</translation>
+    </message>
+    <message>
+        <source>F&amp;older...</source>
+        <translation>&amp;Ordner...</translation>
+    </message>
+    <message>
+        <source>More images, or the JSON file of a sheet</source>
+        <translation>Weitere Bilder oder die JSON-Datei eines Bogens</translation>
+    </message>
+    <message>
+        <source>All images of a folder</source>
+        <translation>Alle Bilder eines Ordners</translation>
+    </message>
+    <message>
+        <source>Images and sheets</source>
+        <translation>Bilder und Bögen</translation>
+    </message>
+    <message>
+        <source>Add all images of a folder</source>
+        <translation>Alle Bilder eines Ordners hinzufügen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s)</source>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(more are being read)</source>
+        <translation>(weitere werden gelesen)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them get(s) the next free number.</source>
+        <translation>
+            <numerusform>%n davon bekommt die nächste freie Nummer.</numerusform>
+            <numerusform>%n davon bekommen die nächste freie Nummer.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them cannot come so: see the red ones.</source>
+        <translation>
+            <numerusform>%n davon kann so nicht kommen: das rote.</numerusform>
+            <numerusform>%n davon können so nicht kommen: die roten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2 × %3, axis %4,%5</source>
+        <translation>%1: %2 × %3, Achse %4,%5</translation>
+    </message>
+</context>
+<context>
+    <name>App::ImportForm</name>
+    <message>
+        <source>&amp;Cut off what does not show</source>
+        <translation>Unsich&amp;tbare Ränder abschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Make an animation of them</source>
+        <translation>Eine &amp;Animation daraus machen</translation>
+    </message>
+    <message>
+        <source>As their names tell</source>
+        <translation>Wie ihre Namen sagen</translation>
+    </message>
+    <message>
+        <source>One after the other</source>
+        <translation>Der Reihe nach</translation>
+    </message>
+    <message>
+        <source>{group} and {number} are digits at the end of the name, * is any text. Without {group} the group below counts, without {number} the next free one.</source>
+        <translation>{group} und {number} sind Ziffern am Ende des Namens, * ist beliebiger Text. Ohne {group} gilt die Gruppe unten, ohne {number} die nächste freie Nummer.</translation>
+    </message>
+    <message>
+        <source>Of images whose names tell none</source>
+        <translation>Von Bildern, deren Namen keine nennen</translation>
+    </message>
+    <message>
+        <source>Next free number</source>
+        <translation>Nächste freie Nummer</translation>
+    </message>
+    <message>
+        <source>Replace the sprite there</source>
+        <translation>Das vorhandene Sprite ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Numbers:</source>
+        <translation>&amp;Nummern:</translation>
+    </message>
+    <message>
+        <source>Pattern of na&amp;mes:</source>
+        <translation>&amp;Muster der Namen:</translation>
+    </message>
+    <message>
+        <source>&amp;Group:</source>
+        <translation>&amp;Gruppe:</translation>
+    </message>
+    <message>
+        <source>Fir&amp;st number:</source>
+        <translation>E&amp;rste Nummer:</translation>
+    </message>
+    <message>
+        <source>Numbers that are &amp;taken:</source>
+        <translation>&amp;Vergebene Nummern:</translation>
+    </message>
+    <message>
+        <source>As the file tells, else bottom middle</source>
+        <translation>Wie die Datei sagt, sonst unten Mitte</translation>
+    </message>
+    <message>
+        <source>Moves the axis to the right</source>
+        <translation>Verschiebt die Achse nach rechts</translation>
+    </message>
+    <message>
+        <source>Moves the axis down</source>
+        <translation>Verschiebt die Achse nach unten</translation>
+    </message>
+    <message>
+        <source>A&amp;xis:</source>
+        <translation>Ach&amp;se:</translation>
+    </message>
+    <message>
+        <source>Mo&amp;ved by:</source>
+        <translation>Vers&amp;choben um:</translation>
+    </message>
+    <message>
+        <source>Each image its own</source>
+        <translation>Jedes Bild seine eigene</translation>
+    </message>
+    <message>
+        <source>A new one for all</source>
+        <translation>Eine neue für alle</translation>
+    </message>
+    <message>
+        <source>Palette %1 for all</source>
+        <translation>Palette %1 für alle</translation>
+    </message>
+    <message>
+        <source> colours</source>
+        <translation> Farben</translation>
+    </message>
+    <message>
+        <source>Colours of the new palette</source>
+        <translation>Farben der neuen Palette</translation>
+    </message>
+    <message>
+        <source>&amp;Palette:</source>
+        <translation>&amp;Palette:</translation>
+    </message>
+    <message>
+        <source> ticks</source>
+        <translation> Ticks</translation>
+    </message>
+    <message>
+        <source>A tick is 1/60 of a second</source>
+        <translation>Ein Tick ist 1/60 Sekunde</translation>
+    </message>
+    <message>
+        <source>&amp;Identifier:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Each frame:</source>
+        <translation>&amp;Jedes Einzelbild:</translation>
+    </message>
+    <message>
+        <source>It comes to the end of %1.</source>
+        <translation>Sie kommt an das Ende von %1.</translation>
+    </message>
+    <message>
+        <source>As the file tells</source>
+        <translation>Wie die Datei sagt</translation>
+    </message>
+</context>
+<context>
     <name>App::KeySheet</name>
     <message>
         <source>Keys of Zorv</source>
@@ -1500,14 +1747,6 @@
     <message>
         <source>&amp;Place:</source>
         <translation>&amp;Platz:</translation>
-    </message>
-    <message>
-        <source>Write a number, or a word of letters, digits, &apos;_&apos; and &apos;-&apos;.</source>
-        <translation>Schreiben Sie eine Zahl, oder ein Wort aus Buchstaben, Ziffern, &apos;_&apos; und &apos;-&apos;.</translation>
-    </message>
-    <message>
-        <source>There is an animation %1 already.</source>
-        <translation>Es gibt schon eine Animation %1.</translation>
     </message>
 </context>
 <context>
@@ -5234,6 +5473,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Remove animations</source>
         <translation>Animationen entfernen</translation>
+    </message>
+    <message>
+        <source>The animation would have no frame.</source>
+        <translation>Die Animation hätte kein Einzelbild.</translation>
+    </message>
+    <message>
+        <source>Add animation</source>
+        <translation>Animation hinzufügen</translation>
     </message>
 </context>
 <context>

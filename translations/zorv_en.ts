@@ -12,6 +12,16 @@
     </message>
 </context>
 <context>
+    <name>App::AddImages</name>
+    <message numerus="yes">
+        <source>%n sprite(s) came in.</source>
+        <translation>
+            <numerusform>%n sprite came in.</numerusform>
+            <numerusform>%n sprites came in.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::AxisDialog</name>
     <message numerus="yes">
         <source>%n sprite(s)</source>
@@ -121,6 +131,30 @@
         <translation>
             <numerusform>%n selected slot</numerusform>
             <numerusform>%n selected slots</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>App::ImagesDialog</name>
+    <message numerus="yes">
+        <source>%n image(s)</source>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them get(s) the next free number.</source>
+        <translation>
+            <numerusform>%n of them gets the next free number.</numerusform>
+            <numerusform>%n of them get the next free number.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them cannot come so: see the red ones.</source>
+        <translation>
+            <numerusform>%n of them cannot come so: see the red one.</numerusform>
+            <numerusform>%n of them cannot come so: see the red ones.</numerusform>
         </translation>
     </message>
 </context>

@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 #include <QSet>
+#include <QTextBlock>
+#include <QTextCursor>
 
 #include <algorithm>
 
@@ -23,16 +25,6 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Operations::AnimationEdits)
 };
 
-QStringList identifiers(const FamilyAnimations* list)
-{
-    QStringList result;
-    const QList<Zorv::AnimationCode*> animations = list->animations();
-    for (const Zorv::AnimationCode* animation : animations) {
-        result.append(static_cast<const AnimationNode*>(animation)->identifier());
-    }
-    return result;
-}
-
 int placeOf(const QString& reference, int count, QString* error)
 {
     bool isNumber = false;
@@ -46,11 +38,20 @@ int placeOf(const QString& reference, int count, QString* error)
     return -1;
 }
 
+/// At the end of a text, with an empty line in front.
+QString gapFor(const QTextDocument& text)
+{
+    const QTextBlock last = text.lastBlock();
+    const bool isLineEmpty = last.length() == 1;
+    const bool isAboveEmpty = !last.previous().isValid() || last.previous().length() == 1;
+    return !isLineEmpty ? QStringLiteral("\n\n") : !isAboveEmpty ? QStringLiteral("\n") : QString();
+}
+
 }  // namespace
 
 int findAnimation(const FamilyAnimations* list, const QString& reference, QString* error)
 {
-    const QStringList all = identifiers(list);
+    const QStringList all = animationIdentifiers(list);
     if (reference.startsWith(QLatin1Char('#'))) {
         return placeOf(reference, all.size(), error);
     }
@@ -72,7 +73,7 @@ int findAnimation(const FamilyAnimations* list, const QString& reference, QStrin
 
 QString freeIdentifier(const FamilyAnimations* list, const QString& identifier)
 {
-    const QStringList all = identifiers(list);
+    const QStringList all = animationIdentifiers(list);
     const QSet<QString> taken(all.begin(), all.end());
     bool isNumber = false;
     const qint64 start = identifier.toLongLong(&isNumber);
@@ -87,19 +88,86 @@ QString freeIdentifier(const FamilyAnimations* list, const QString& identifier)
     return {};
 }
 
+QStringList animationIdentifiers(const FamilyAnimations* list)
+{
+    QStringList result;
+    const QList<Zorv::AnimationCode*> animations = list->animations();
+    for (const Zorv::AnimationCode* animation : animations) {
+        result.append(static_cast<const AnimationNode*>(animation)->identifier());
+    }
+    return result;
+}
+
+QString nextAnimationNumber(const FamilyAnimations* list)
+{
+    qint64 highest = -1;
+    const QStringList all = animationIdentifiers(list);
+    for (const QString& identifier : all) {
+        bool isNumber = false;
+        const qint64 number = identifier.toLongLong(&isNumber);
+        highest = isNumber ? std::max(highest, number) : highest;
+    }
+    return freeIdentifier(list, QString::number(highest));
+}
+
+QString animationNameFault(const QStringList& taken, const QString& identifier)
+{
+    if (!Family::isAnimationIdentifier(identifier)) {
+        return Text::tr(
+                   "'%1' cannot name an animation. Write a number, or a word of letters, digits, "
+                   "'_' and '-'.")
+            .arg(identifier);
+    }
+    return taken.contains(identifier)
+               ? Text::tr("There is an animation '%1' already. Choose another name.")
+                     .arg(identifier)
+               : QString();
+}
+
+bool addAnimation(FamilyAnimations* list, const QString& identifier,
+                  const QVector<NewFrame>& frames, QString* error)
+{
+    *error = frames.isEmpty() ? Text::tr("The animation would have no frame.")
+                              : animationNameFault(animationIdentifiers(list), identifier);
+    if (!error->isEmpty()) {
+        return false;
+    }
+    Zorv::CodeDocument* document = list->document();
+    QString text = gapFor(*document) + QStringLiteral("animation %1\n").arg(identifier);
+    for (const NewFrame& frame : frames) {
+        text += QStringLiteral("frame %1  delay %2\n")
+                    .arg(frame.sprite.text(), QString::number(frame.ticks));
+    }
+    QTextCursor end(document);
+    end.movePosition(QTextCursor::End);
+    list->beginChange(Text::tr("Add animation"));
+    document->insertOnCursor(text, end);
+    list->endChange();
+    return true;
+}
+
+QVector<int> ticksOf(const QVector<int>& milliseconds)
+{
+    constexpr int TicksPerSecond = 60;
+    constexpr int Second = 1000;
+    QVector<int> ticks;
+    qint64 sum = 0;
+    qint64 end = 0;
+    for (const int time : milliseconds) {
+        sum += time;
+        const qint64 own = (sum * TicksPerSecond * 2 + Second) / (2 * Second);
+        const qint64 next = std::max(own, end + 1);
+        ticks.append(int(next - end));
+        end = next;
+    }
+    return ticks;
+}
+
 bool duplicateAnimation(FamilyAnimations* list, int index, const QString& identifier,
                         QString* error)
 {
-    if (!Family::isAnimationIdentifier(identifier)) {
-        *error =
-            Text::tr("'%1' cannot name an animation. Write a number, or a word of letters, digits, "
-                     "'_' and '-'.")
-                .arg(identifier);
-        return false;
-    }
-    if (list->indexOfIdentifier(identifier) >= 0) {
-        *error =
-            Text::tr("There is an animation '%1' already. Choose another name.").arg(identifier);
+    *error = animationNameFault(animationIdentifiers(list), identifier);
+    if (!error->isEmpty()) {
         return false;
     }
     return list->duplicateAnimation(index, identifier);

@@ -185,6 +185,11 @@ signals:
     void colorsShown();
 
 protected:
+    /// Image files are about to be added. True if the host has done it, or the person has given up:
+    /// for one that asks more than whether images are cropped. What it added is shown then. Here
+    /// false.
+    virtual bool takeFiles(Sprites* into, const QStringList& files);
+
     /// Gives an identifier for each of the image files that are about to be added, in their order;
     /// with another number of them `into`, which takes them, numbers its new sprites. Here none.
     virtual void newIdentifiers(const Sprites& into, const QStringList& files,

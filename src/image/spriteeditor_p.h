@@ -174,6 +174,7 @@ public:
 
     // spriteeditoradd.cpp
     void addFiles(const QPointer<Sprites>& into, const QStringList& files);
+    void showAdded(const QPointer<Sprites>& into, unsigned before);
     void addCropped(const QPointer<Sprites>& into, const QStringList& files, bool isCropped);
     void setSpriteImage(QImage image, const QPoint& corner);
     bool mayReplace();

@@ -76,6 +76,11 @@ void SpriteEditorPrivate::addFiles(const QPointer<Sprites>& into, const QStringL
     if (files.isEmpty() || !into) {
         return;
     }
+    const unsigned count = into->count();
+    if (editor->takeFiles(into, files)) {
+        showAdded(into, count);
+        return;
+    }
     const Dialogs::Button answer =
         ask(SpriteEditor::tr("Add sprites"),
             SpriteEditor::tr("Do you want to crop %n image(s)?", nullptr, files.size()),
@@ -93,12 +98,18 @@ void SpriteEditorPrivate::addCropped(const QPointer<Sprites>& into, const QStrin
     editor->newIdentifiers(*into, files, &identifiers);
     SpriteAdding adding(into, files, identifiers);
     adding.run(isCropped);
-    if (into && (into == sprites || into == waiting) && into->count() > count) {
-        host->activateEditor(editor);
-        editor->showSprite(into, into ? int(into->count()) - 1 : -1);
-    }
+    showAdded(into, count);
     if (!adding.errors().isEmpty()) {
         Dialogs::instance()->warning(host->text(LeftOutTitle), shortList(adding.errors()));
+    }
+}
+
+/// The last one comes onto the canvas, if there are more than there were.
+void SpriteEditorPrivate::showAdded(const QPointer<Sprites>& into, unsigned before)
+{
+    if (into && (into == sprites || into == waiting) && into->count() > before) {
+        host->activateEditor(editor);
+        editor->showSprite(into, into ? int(into->count()) - 1 : -1);
     }
 }
 
@@ -231,6 +242,11 @@ void SpriteEditorPrivate::saveImgAs()
         }
     }
     SpriteSave(before, rows, before->project(), {title, SpriteSave::LikeOneFile}).run();
+}
+
+bool SpriteEditor::takeFiles(Sprites*, const QStringList&)
+{
+    return false;
 }
 
 void SpriteEditor::newIdentifiers(const Sprites&, const QStringList&, QList<QVariant>*) {}

@@ -76,7 +76,7 @@ void TestSpriteFiles::addsFiles()
     }
     show(0);
     m->dialogs.fileAnswers = {paths};
-    m->dialogs.buttonAnswers = {Dialogs::Button(answer)};
+    answerImages(answer != Dialogs::Cancel, answer == Dialogs::Yes);
     trigger("spr_add");
     QCOMPARE(names(), before + added);
     const QString folder =
@@ -118,7 +118,7 @@ void TestSpriteFiles::addsNothingWhenGivenUp()
         }
     });
     giveUp.start(0);
-    m->dialogs.buttonAnswers = {Dialogs::No};
+    answerImages(true);
     editor()->addFiles(many);
     QVERIFY(m_isSeen || sprites()->count() == 44);
     if (m_isSeen) {
@@ -148,7 +148,7 @@ void TestSpriteFiles::takesDroppedFiles()
         }
         QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(target, &drop);
-        m->dialogs.buttonAnswers = {Dialogs::No};
+        answerImages(true);
         ++count;
         QTRY_COMPARE(sprites()->count(), count);
     }

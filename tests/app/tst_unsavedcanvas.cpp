@@ -419,7 +419,7 @@ void TestUnsavedCanvas::leavesTheStageToAnotherProject()
     QVERIFY(picture(1).save(png));
     for (const int answer : {Cancel, Discard}) {
         m->dialogs.fileAnswers = {{png}};
-        m->dialogs.buttonAnswers = {Zorv::Dialogs::No};
+        answerImages(true);
         m->dialogs.choiceAnswers = {answer};
         trigger("editor_anim");
         trigger("spr_add");

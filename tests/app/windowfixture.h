@@ -26,12 +26,35 @@
 #include <zorv/editors/code/codeworkspace.h>
 #include <zorv/editors/organizer/organizereditor.h>
 
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 #include <memory>
+
+/// Answers the dialog of images that come in, once it is there.
+inline void answerImages(bool isAccepted, bool crops = false)
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [=] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (!dialog || dialog->objectName() != QLatin1String("images_dialog")) {
+            return;
+        }
+        timer->deleteLater();
+        timer->stop();
+        dialog->findChild<QCheckBox*>()->setChecked(crops);
+        const auto button = isAccepted ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel;
+        dialog->findChild<QDialogButtonBox*>()->button(button)->click();
+    });
+    timer->start(5);
+}
 
 /// A game folder of two characters on disk.
 class TemporaryGame

@@ -1,5 +1,6 @@
 #include "app/assets/axisdialog.h"
 
+#include "app/assets/axisplaces.h"
 #include "app/assets/mediadialogs.h"
 #include "app/assets/spritepanel.h"
 #include "family/assets/familysprite.h"
@@ -15,49 +16,18 @@
 #include <QSpinBox>
 
 #include <algorithm>
-#include <limits>
 
 namespace App {
 
 using Family::SpriteCollection;
 using Operations::AxisBase;
 
-namespace {
-
-/// In the order of the enumeration.
-const char* const places[] = {
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Top left corner"),
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle of the top edge"),
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Top right corner"),
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle of the left edge"),
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle"),
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle of the right edge"),
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Bottom left corner"),
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Middle of the bottom edge"),
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Bottom right corner"),
-    QT_TRANSLATE_NOOP("App::AxisDialog", "Where it is now"),
-};
-
-QSpinBox* offsetBox(const QString& suffix)
-{
-    using Limits = std::numeric_limits<qint16>;
-    auto* box = new QSpinBox;
-    box->setRange(Limits::min(), Limits::max());
-    box->setSuffix(suffix);
-    return box;
-}
-
-}  // namespace
-
 AxisDialog::AxisDialog(const Family::FamilySprite& sprite, int count, QWidget* parent)
     : QDialog(parent), m_name(sprite.id().text()), m_size(sprite.size()), m_axis(sprite.axis()),
-      m_base(new QComboBox), m_x(offsetBox(tr(" pixels"))), m_y(offsetBox(tr(" pixels"))),
-      m_result(new QLabel)
+      m_base(new QComboBox), m_x(makeOffsetBox()), m_y(makeOffsetBox()), m_result(new QLabel)
 {
     setWindowTitle(tr("Set axis"));
-    for (const char* place : places) {
-        m_base->addItem(tr(place));
-    }
+    m_base->addItems(axisPlaceNames() << tr("Where it is now"));
     m_base->setMaxVisibleItems(m_base->count());
     m_base->setCurrentIndex(int(AxisBase::Bottom));
     m_result->setTextFormat(Qt::PlainText);

@@ -4,6 +4,7 @@
 #include "app/actions/shortcutguard.h"
 #include "app/actions/windowactions.h"
 #include "app/animations/animationcommands.h"
+#include "app/assets/addimages.h"
 #include "app/assets/spritecommands.h"
 #include "app/assets/spritepanel.h"
 #include "app/assets/thumbnailcommands.h"
@@ -168,6 +169,9 @@ MainWindow::MainWindow(QWidget* parent)
     m_services.mayRemove = [this](const auto& removal) { return m_problems->mayRemove(removal); };
     m_services.findUses = [this](const auto& what, QStringList* places) {
         return m_problems->findUses(what, places);
+    };
+    m_services.addImages = [this](auto* into, const QStringList& files) {
+        App::addImages(m_services, into, files);
     };
     m_messagePanel = new MessagePanel(m_services, m_problems);
     m_findInFiles = new FindInFiles(m_services);

@@ -2,7 +2,6 @@
 
 #include "family/assets/spritecollection.h"
 #include "operations/check/uses.h"
-#include "operations/media/assetnames.h"
 
 namespace App {
 
@@ -12,17 +11,10 @@ FamilySpriteEditor::FamilySpriteEditor(const WindowServices& services,
 {
 }
 
-void FamilySpriteEditor::newIdentifiers(const Zorv::Sprites& into, const QStringList& files,
-                                        QList<QVariant>* identifiers)
+bool FamilySpriteEditor::takeFiles(Zorv::Sprites* into, const QStringList& files)
 {
-    const auto* all = static_cast<const Family::SpriteCollection*>(&into);
-    const Family::FamilySprite* current = all->sprite(all->currentIndex);
-    Family::AssetId first;
-    first.group = current ? current->id().group : first.group;
-    const auto free = [all](Family::AssetId from) { return all->freeId(from); };
-    for (const Family::AssetId id : Operations::newIds(files, free, first)) {
-        identifiers->append(id.text());
-    }
+    m_services.addImages(static_cast<Family::SpriteCollection*>(into), files);
+    return true;
 }
 
 /// Another sprite of the same number does not take its place here.

@@ -10,9 +10,8 @@ class SpriteCollection;
 
 namespace App {
 
-/// The library's editor of sprites for those of the family: new ones are numbered as the names of
-/// their files tell, else within the group that is worked on, and who names a sprite is asked about
-/// before it goes.
+/// The library's editor of sprites for those of the family: images come in by a dialog of the
+/// window, and who names a sprite is asked about before it goes.
 class FamilySpriteEditor : public Zorv::SpriteEditor
 {
     Q_OBJECT
@@ -22,8 +21,7 @@ public:
                        QObject* parent = nullptr);
 
 protected:
-    void newIdentifiers(const Zorv::Sprites& into, const QStringList& files,
-                        QList<QVariant>* identifiers) override;
+    bool takeFiles(Zorv::Sprites* into, const QStringList& files) override;
     bool spriteUses(QStringList* places) const override;
     bool mayDeleteSprite() override;
 

@@ -10,32 +10,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <algorithm>
 
 namespace App {
 
-namespace {
-
-// The first number of a list without numbers is 0.
-const QString BelowFirst = QStringLiteral("-1");
-
-QString nextNumber(const Family::FamilyAnimations* list)
-{
-    qint64 highest = -1;
-    for (int i = 0; i < list->count(); ++i) {
-        bool isNumber = false;
-        const qint64 number = list->animation(i)->identifier().toLongLong(&isNumber);
-        highest = isNumber ? std::max(highest, number) : highest;
-    }
-    return Operations::freeIdentifier(list, highest < 0 ? BelowFirst : QString::number(highest));
-}
-
-}  // namespace
-
 NewAnimationDialog::NewAnimationDialog(const Family::FamilyAnimations* list, int position,
                                        QWidget* parent)
-    : QDialog(parent), m_list(list), m_identifier(new QLineEdit(nextNumber(list))),
-      m_place(new QComboBox), m_fault(new QLabel)
+    : QDialog(parent), m_list(list),
+      m_identifier(new QLineEdit(Operations::nextAnimationNumber(list))), m_place(new QComboBox),
+      m_fault(new QLabel)
 {
     setWindowTitle(tr("New animation"));
     for (int i = 0; i < list->count(); ++i) {
@@ -72,12 +54,8 @@ int NewAnimationDialog::position() const
 
 void NewAnimationDialog::check()
 {
-    QString fault;
-    if (!Family::isAnimationIdentifier(identifier())) {
-        fault = tr("Write a number, or a word of letters, digits, '_' and '-'.");
-    } else if (m_list->indexOfIdentifier(identifier()) >= 0) {
-        fault = tr("There is an animation %1 already.").arg(identifier());
-    }
+    const QString fault =
+        Operations::animationNameFault(Operations::animationIdentifiers(m_list), identifier());
     m_fault->setText(fault);
     m_ok->setEnabled(fault.isEmpty());
 }

@@ -5,6 +5,10 @@
 
 #include <functional>
 
+namespace Family {
+class SpriteCollection;
+}
+
 namespace Operations {
 struct Removal;
 }
@@ -26,6 +30,9 @@ using RemovalCheck = std::function<bool(const std::function<Operations::Removal(
 /// The places that name what is told, a line each for the person. False while that is not known.
 using UseFinder = std::function<bool(const Operations::Removal& what, QStringList* places)>;
 
+/// Asks what becomes of image files, and adds them to the sprites.
+using ImageAdder = std::function<void(Family::SpriteCollection* into, const QStringList& files)>;
+
 /// What the parts of the window use of it, and of each other. All of it outlives them, and is
 /// there when the first of them is made.
 struct WindowServices
@@ -39,6 +46,7 @@ struct WindowServices
     Jumps* jumps = nullptr;
     RemovalCheck mayRemove;
     UseFinder findUses;
+    ImageAdder addImages;
 };
 
 }  // namespace App
