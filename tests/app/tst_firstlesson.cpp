@@ -5,6 +5,7 @@
 #include "app/stage/stagecommands.h"
 #include "app/stage/stagerenderer.h"
 #include "app/start/startpage.h"
+#include "family/assets/spritecollection.h"
 #include "family/check/check.h"
 #include "family/nodes/animationnode.h"
 #include "operations/create/shippedfiles.h"
@@ -20,7 +21,10 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
 
 class TestFirstLesson : public QObject
@@ -35,6 +39,9 @@ private:
     void openPunch();
     void lengthenPunch();
     void changeTexts();
+    void addDrawings();
+    void removeCostumes();
+    Zorv::Sprites* sprites() const { return m->window->currentProject()->sprites(); }
     QString nameOf(const QString& file) const { return m_folder.filePath("duels/" + file); }
     int lifeBehind(const QString& script) const;
 
@@ -107,6 +114,55 @@ void TestFirstLesson::changeTexts()
     QVERIFY(m->window->session()->modifiedFiles().isEmpty());
 }
 
+/// All thirty, in place of figures.
+void TestFirstLesson::addDrawings()
+{
+    QStringList files;
+    const QDir drawings(QFileInfo(Operations::sampleGame()).absolutePath() + "/drawings");
+    for (const QString& name : drawings.entryList({"*.png"})) {
+        files.append(drawings.filePath(name));
+    }
+    QCOMPARE(files.size(), 30);
+    m->dialogs.fileAnswers = {files};
+    bool isSeen = false;
+    QTimer timer;
+    timer.callOnTimeout([&isSeen] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (isSeen || !dialog || dialog->objectName() != "images_dialog") {
+            return;
+        }
+        isSeen = true;
+        const QList<QComboBox*> choices = dialog->findChildren<QComboBox*>();
+        for (QComboBox* choice : choices) {
+            choice->setCurrentText("Replace the sprite there");
+            choice->setCurrentText("Middle of the bottom edge");
+        }
+        auto* add = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+        QTRY_VERIFY(add->isEnabled());
+        QTest::mouseClick(add, Qt::LeftButton);
+    });
+    timer.start(5);
+    m->action("spr_add")->trigger();
+    QVERIFY(isSeen);
+    const Zorv::Sprite* stance = sprites()->sprite(sprites()->find(0, "10,0"));
+    QCOMPARE(stance->image().convertToFormat(QImage::Format_RGB32),
+             QImage(drawings.filePath("maren-10-0.png")).convertToFormat(QImage::Format_RGB32));
+    QCOMPARE(stance->axis(), QPoint(stance->size().width() / 2, stance->size().height() - 1));
+}
+
+void TestFirstLesson::removeCostumes()
+{
+    QVERIFY(m->window->openFile(nameOf("characters/ryn/ryn.character")));
+    const QString text = m->document()->text();
+    QTextCursor cursor = m->edit()->textCursor();
+    cursor.setPosition(text.indexOf("[palette"));
+    cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+    m->edit()->setTextCursor(cursor);
+    QTest::keyClick(m->edit(), Qt::Key_Delete);
+    m->action("save_all")->trigger();
+    QVERIFY(m->window->session()->modifiedFiles().isEmpty());
+}
+
 /// What the twin has left.
 int TestFirstLesson::lifeBehind(const QString& text) const
 {
@@ -141,15 +197,12 @@ void TestFirstLesson::leadsToAFighter()
     QCOMPARE(lifeBehind(punch), 940);
     QString error;
     QCOMPARE(Family::checkGame(nameOf({}), &error).size(), 0);
-    // The pictures are where the lesson says, called by sprites that the character has.
-    const QDir drawings(QFileInfo(Operations::sampleGame()).absolutePath() + "/drawings");
-    const QStringList names = drawings.entryList({"*.png"});
-    QCOMPARE(names.size(), 30);
-    for (const QString& name : names) {
-        const QStringList parts = QFileInfo(name).baseName().split('-');
-        const QString id = parts.value(1) + ',' + parts.value(2);
-        QVERIFY2(m->window->currentProject()->sprites()->find(0, id) >= 0, qPrintable(name));
-    }
+    const int count = int(sprites()->count());
+    addDrawings();
+    QCOMPARE(int(sprites()->count()), count);
+    removeCostumes();
+    QCOMPARE(m->problemsShown(), QString("No problems"));
+    QCOMPARE(lifeBehind(punch), 940);
 }
 
 ZORV_GL_TEST_MAIN(TestFirstLesson)
