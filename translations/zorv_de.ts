@@ -425,6 +425,18 @@
         <source>&amp;Quick fix...</source>
         <translation>Schnell &amp;beheben...</translation>
     </message>
+    <message>
+        <source>Find re&amp;ferences</source>
+        <translation>Verwendungen &amp;finden</translation>
+    </message>
+    <message>
+        <source>&amp;Rename everywhere...</source>
+        <translation>Überall &amp;umbenennen...</translation>
+    </message>
+    <message>
+        <source>&amp;Take the rename back</source>
+        <translation>Umbenennen &amp;zurücknehmen</translation>
+    </message>
 </context>
 <context>
     <name>App::AddImages</name>
@@ -1640,6 +1652,10 @@
         <source>Find in files</source>
         <translation>In Dateien suchen</translation>
     </message>
+    <message>
+        <source>References</source>
+        <translation>Verwendungen</translation>
+    </message>
 </context>
 <context>
     <name>App::MediaDialogs</name>
@@ -2170,6 +2186,100 @@
     <message>
         <source>%1 (canvas)</source>
         <translation>%1 (Zeichenfläche)</translation>
+    </message>
+</context>
+<context>
+    <name>App::ReferenceCommands</name>
+    <message>
+        <source>There is no name in this line.</source>
+        <translation>In dieser Zeile steht kein Name.</translation>
+    </message>
+    <message>
+        <source>%1 &apos;%2&apos;: places %3</source>
+        <comment>kind, name, number</comment>
+        <translation>%1 &apos;%2&apos;: Stellen %3</translation>
+    </message>
+    <message>
+        <source>Rename &apos;%1&apos; to &apos;%2&apos;</source>
+        <translation>&apos;%1&apos; in &apos;%2&apos; umbenennen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>These files have changes that are not saved: %1. Save them first, or take the rename back in each of them by Undo.</source>
+        <translation>Diese Dateien haben Änderungen, die nicht gespeichert sind: %1. Bitte sie erst speichern oder das Umbenennen in jeder durch Rückgängig zurücknehmen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is called &apos;%2&apos; now.</source>
+        <translation>&apos;%1&apos; heißt jetzt &apos;%2&apos;.</translation>
+    </message>
+</context>
+<context>
+    <name>App::ReferencePanel</name>
+    <message>
+        <source>Places that name something</source>
+        <translation>Stellen, die etwas nennen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>line number, text</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Here it gets its name</source>
+        <translation>Hier bekommt es seinen Namen</translation>
+    </message>
+    <message>
+        <source>Names it</source>
+        <translation>Nennt es</translation>
+    </message>
+    <message>
+        <source>Put the cursor on a name in the text and choose Find references.</source>
+        <translation>Bitte den Cursor im Text auf einen Namen setzen und &apos;Verwendungen finden&apos; wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>App::RenameDialog</name>
+    <message>
+        <source>Rename everywhere</source>
+        <translation>Überall umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;New name for &apos;%1&apos;:</source>
+        <translation>&amp;Neuer Name für &apos;%1&apos;:</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
+    <message>
+        <source>What changes</source>
+        <translation>Was sich ändert</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,16 @@
     </message>
 </context>
 <context>
+    <name>App::RenameDialog</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>App::RestoreDialog</name>
     <message numerus="yes">
         <source>%1 of %n file(s) differ from those on the disk:</source>

@@ -64,6 +64,7 @@ LAYERS = {
     "host/app/paint/": 26,
     "host/app/palettes/": 26,
     "host/app/recovery/": 26,
+    "host/app/references/": 26,
     "host/app/run/": 26,
     "host/app/search/": 26,
     "host/app/settings/": 26,

@@ -12,6 +12,7 @@
 #include "family/familydocument.h"
 #include "family/project/familyparentproject.h"
 #include "family/project/familyproject.h"
+#include "operations/rename/changeset.h"
 
 #include <zorv/core/dialogs/dialogs.h>
 #include <zorv/core/fileid.h>
@@ -153,6 +154,12 @@ bool GameOpener::openFolder(const QString& folder)
     bool isOpen = false;
     {
         const WaitCursor cursor;
+        // In front of the reading: what a killed program has left half done.
+        const QStringList settled = Operations::settleChanges(QFileInfo(folder).absoluteFilePath());
+        if (!settled.isEmpty()) {
+            Zorv::Dialogs::instance()->warning(tr("Open game folder"),
+                                               settled.join(QLatin1Char('\n')));
+        }
         isOpen = m_services.session->openFolder(folder, &error);
     }
     if (!isOpen) {

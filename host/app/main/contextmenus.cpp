@@ -61,7 +61,8 @@ ContextMenus::ContextMenus(MainWindow* window) : QObject(window), m_window(windo
     add(window->gameTree(), {"new_file", "new_character", "new_stage", nullptr, "run", nullptr,
                              "save_all", "backup", nullptr, "close_project", "close_folder"});
     add(window->textEditor()->tree(),
-        {"anim_add", nullptr, "code_definition", "code_fold", "code_fold_all", "code_unfold_all"});
+        {"anim_add", nullptr, "code_definition", "code_references", "code_rename", nullptr,
+         "code_fold", "code_fold_all", "code_unfold_all"});
     // With the actions that their commands have given them.
     add(window->spritePanel()->list(), {});
     add(window->soundPanel()->list(), {});

@@ -31,6 +31,8 @@
 #include "app/palettes/familypaletteeditor.h"
 #include "app/palettes/palettecommands.h"
 #include "app/palettes/sightswitches.h"
+#include "app/references/referencecommands.h"
+#include "app/references/referencepanel.h"
 #include "app/run/outputpanel.h"
 #include "app/run/runcommands.h"
 #include "app/search/findinfiles.h"
@@ -95,6 +97,7 @@ constexpr int RoomOfLayers = 200;
 constexpr int RoomOfPalette = 300;
 
 constexpr int RoomOfCostumes = 200;
+constexpr int RoomOfReferences = 160;
 
 struct PanelTitle
 {
@@ -108,6 +111,7 @@ const PanelTitle panelTitles[] = {
     {"sounds", QT_TRANSLATE_NOOP("App::MainWindow", "Sounds")},
     {"costumes", QT_TRANSLATE_NOOP("App::MainWindow", "Costumes")},
     {"messages", QT_TRANSLATE_NOOP("App::MainWindow", "Messages")},
+    {"references", QT_TRANSLATE_NOOP("App::MainWindow", "References")},
     {"output", QT_TRANSLATE_NOOP("App::MainWindow", "Engine output")},
     {"find_files", QT_TRANSLATE_NOOP("App::MainWindow", "Find in files")},
 };
@@ -183,6 +187,7 @@ MainWindow::MainWindow(QWidget* parent)
 void MainWindow::publishTools()
 {
     m_code = new CodeView(m_services, m_middle);
+    m_references = new ReferenceCommands(m_services, m_code->editor());
     m_animations = new AnimationCommands(m_services);
     m_thumbnails = new ThumbnailCommands(m_services);
     m_stage = new StageCommands(m_services, m_middle, m_code->workspace(),
@@ -226,6 +231,10 @@ void MainWindow::arrangeTools()
     tabifyDockWidget(sprites, sounds);
     tabifyDockWidget(sounds, findChild<QDockWidget*>(QStringLiteral("thumbnails")));
     sprites->raise();
+    QDockWidget* references =
+        addDock(m_references->panel(), "references", Qt::BottomDockWidgetArea);
+    tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("messages")), references);
+    references->hide();
     QDockWidget* costumes = addDock(m_paint->costumes(), "costumes", Qt::BottomDockWidgetArea);
     tabifyDockWidget(findChild<QDockWidget*>(QStringLiteral("messages")), costumes);
     costumes->hide();
@@ -233,6 +242,7 @@ void MainWindow::arrangeTools()
     giveRoomAtFirst(palette, {findChild<QDockWidget*>(QStringLiteral("layers")), palette},
                     {RoomOfLayers, RoomOfPalette});
     giveRoomAtFirst(costumes, {costumes}, {RoomOfCostumes});
+    giveRoomAtFirst(references, {references}, {RoomOfReferences});
 }
 
 /// Panels that were hidden have no height to be changed until they are there. From then on it is
@@ -254,11 +264,11 @@ void MainWindow::giveRoomAtFirst(QDockWidget* comes, const QList<QDockWidget*>& 
 void MainWindow::addParts()
 {
     for (Part* part : std::initializer_list<Part*>{
-             m_router,      m_newCommands,     m_opener,           m_gameCommands, m_gameTree,
-             m_start,       m_startCommands,   m_services.editors, m_sprites,      m_hearing,
-             m_stage,       m_paint,           m_palettes,         m_code,         m_animations,
-             m_thumbnails,  m_problems,        m_messagePanel,     m_findInFiles,  m_fixes,
-             m_runCommands, m_services.status, m_commands}) {
+             m_router,     m_newCommands,   m_opener,           m_gameCommands, m_gameTree,
+             m_start,      m_startCommands, m_services.editors, m_sprites,      m_hearing,
+             m_stage,      m_paint,         m_palettes,         m_code,         m_references,
+             m_animations, m_thumbnails,    m_problems,         m_messagePanel, m_findInFiles,
+             m_fixes,      m_runCommands,   m_services.status,  m_commands}) {
         m_services.parts->add(part);
     }
 }

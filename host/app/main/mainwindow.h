@@ -33,6 +33,7 @@ class PaintCommands;
 class PaletteCommands;
 class ProblemWatch;
 class QuickFixes;
+class ReferenceCommands;
 class RunCommands;
 class Hearing;
 class SoundPanel;
@@ -78,6 +79,7 @@ public:
     ThumbnailCommands* thumbnails() const { return m_thumbnails; }
     SpriteCommands* sprites() const { return m_sprites; }
     Hearing* hearing() const { return m_hearing; }
+    ReferenceCommands* references() const { return m_references; }
     SpritePanel* spritePanel() const;
     SoundPanel* soundPanel() const;
     StageCommands* stage() const { return m_stage; }
@@ -163,6 +165,7 @@ private:
     ThumbnailCommands* m_thumbnails = nullptr;
     SpriteCommands* m_sprites;
     Hearing* m_hearing = nullptr;
+    ReferenceCommands* m_references = nullptr;
     ProblemWatch* m_problems;
     QuickFixes* m_fixes;
     MessagePanel* m_messagePanel;
