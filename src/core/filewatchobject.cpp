@@ -56,6 +56,13 @@ void FileWatchObject::pauseWatch(bool pause)
     m_paused = pause;
 }
 
+// A watch that is made anew does not hear of what was written before.
+void FileWatchObject::endPause()
+{
+    pauseWatch(false);
+    s_manager->forgetChanges(fileName());
+}
+
 void FileWatchObject::renewWatch(const QString& path)
 {
     s_manager->renew(path);

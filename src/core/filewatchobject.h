@@ -43,6 +43,10 @@ public:
 
     bool isWatchPaused() const { return m_paused; }
 
+    /// Ends a pause. What was written to the file during it raises no question,
+    /// even if its signal has not come yet.
+    void endPause();
+
 protected:
     /// For a derived class whose file has just been written: a new file is
     /// watched from now on, and the pause of `toFile()` ends a moment later, also

@@ -33,14 +33,11 @@ public:
         });
     }
 
-    // What the watcher has not told yet are our own changes: a watch that is made
-    // anew does not hear of them.
     ~WatchPause()
     {
         forEachFile([this](ProjectFile* file, FileWatchObject* watch) {
             if (m_paused.contains(file)) {
-                watch->pauseWatch(false);
-                FileWatcherManager::instance()->forgetChanges(watch->fileName());
+                watch->endPause();
             }
         });
     }
