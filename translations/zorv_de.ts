@@ -426,7 +426,7 @@
         <translation>Schnell &amp;beheben...</translation>
     </message>
     <message>
-        <source>Find re&amp;ferences</source>
+        <source>Find reference&amp;s</source>
         <translation>Verwendungen &amp;finden</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>Überall &amp;umbenennen...</translation>
     </message>
     <message>
-        <source>&amp;Take the rename back</source>
+        <source>Ta&amp;ke the rename back</source>
         <translation>Umbenennen &amp;zurücknehmen</translation>
     </message>
 </context>
@@ -6263,6 +6263,10 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
         <source>&apos;%1&apos; is larger than a sprite can be, %2 by %2.</source>
         <translation>„%1“ ist größer, als ein Sprite sein kann: %2 mal %2.</translation>
     </message>
+    <message>
+        <source>The pictures of &apos;%1&apos; are too large together. Cut the sheet into several.</source>
+        <translation>Die Bilder von „%1“ sind zusammen zu groß. Teilen Sie das Blatt in mehrere.</translation>
+    </message>
 </context>
 <context>
     <name>Operations::OpenAnimation</name>
@@ -6500,6 +6504,14 @@ Unter der MIT-Lizenz. Erstellt mit Qt %2.</translation>
     <message>
         <source>Engines know &apos;%1&apos; by this name, and will use it.</source>
         <translation>Engines kennen &apos;%1&apos; unter diesem Namen und werden es verwenden.</translation>
+    </message>
+    <message>
+        <source>%1 has been changed meanwhile. Try again.</source>
+        <translation>%1 wurde inzwischen geändert. Versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1: %2 is broken and keeps its number. Remove or replace it first.</source>
+        <translation>%1: %2 ist beschädigt und behält seine Nummer. Entfernen oder ersetzen Sie es zuerst.</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,7 @@ private slots:
     void cleanup();
     void placesAreListedAndMarked();
     void aNameChangesEverywhere();
+    void whatOthersWroteStays();
     void unsavedChangesAreInTheWay();
     void whatWasCutOffIsFinished();
 
@@ -120,6 +121,18 @@ void TestRenaming::aNameChangesEverywhere()
     m->action("code_rename_undo")->trigger();
     QCOMPARE(animations() + moves(), before);
     QCOMPARE(m->document()->findBlockByNumber(1).text(), QStringLiteral("animation = 1"));
+}
+
+/// A text that is open may be older than its file, as one that a person did not want read again.
+void TestRenaming::whatOthersWroteStays()
+{
+    m->document()->pauseWatch(true);
+    m_game->write("characters/ryn/moves.code", moves() + "# by another program\r\n");
+    QVERIFY(rename(QStringLiteral("walk")));
+    QVERIFY(moves().contains("animation = walk\r\n"));
+    QVERIFY(moves().endsWith("# by another program\r\n"));
+    QVERIFY(m->document()->text().contains(QLatin1String("by another program")));
+    QCOMPARE(m->dialogs.count(QStringLiteral("question")), 0);
 }
 
 void TestRenaming::unsavedChangesAreInTheWay()

@@ -152,6 +152,7 @@ private slots:
     void linesAreWritten();
     void conflictsAreTold_data();
     void conflictsAreTold();
+    void aPlaceThatHasGoneIsTold();
     void allFilesOrNone_data() { columns<int, int>("call", "error"), faultRows(); }
     void allFilesOrNone();
     void killedAtAnyStep();
@@ -309,6 +310,22 @@ void TestRename::conflictsAreTold()
     const RenamePlan plan = this->plan(NameKind(kind), name, to, {}, unsaved);
     QVERIFY(!plan.isPossible());
     QVERIFY2(plan.conflicts.join('\n').contains(text), qPrintable(plan.conflicts.join('\n')));
+}
+
+/// Files change while a person chooses a name.
+void TestRename::aPlaceThatHasGoneIsTold()
+{
+    QString error;
+    ReferenceIndex index(m_game->path());
+    index.update();
+    const Subject subject = Subject::fromText(mainFile(), NameKind::Animation, "200", &error);
+    for (const char* text :
+         {"", "# new\nanimation 200\nframe 200,0 loop\n", "animation 300\nframe 200,0 loop\n",
+          "frame 200,0\n# animation 200\n"}) {
+        writeFile(path("characters/h/h.anim"), text);
+        const RenamePlan plan = planRename(index, subject, "210", {});
+        QVERIFY2(plan.conflicts.join('\n').contains("changed meanwhile"), text);
+    }
 }
 
 /// Texts, sprites and names of files.

@@ -41,9 +41,9 @@ QVector<ActionRow> ReferenceCommands::actions()
     const auto hasText = on(&ReferenceCommands::hasText);
     // clang-format off
     return {
-        {"code_references",  "code.write", QT_TRANSLATE_NOOP("App::Actions", "Find re&ferences"),        "Shift+F12", on(&ReferenceCommands::findReferences), hasText, "code"},
+        {"code_references",  "code.write", QT_TRANSLATE_NOOP("App::Actions", "Find reference&s"),        "Shift+F12", on(&ReferenceCommands::findReferences), hasText, "code"},
         {"code_rename",      "code.write", QT_TRANSLATE_NOOP("App::Actions", "&Rename everywhere..."),   "Shift+F2",  on(&ReferenceCommands::rename),         hasText, "code"},
-        {"code_rename_undo", "edit.undo",  QT_TRANSLATE_NOOP("App::Actions", "&Take the rename back"),  {},          on(&ReferenceCommands::undoRename),     on(&ReferenceCommands::canUndoRename)},
+        {"code_rename_undo", "edit.undo",  QT_TRANSLATE_NOOP("App::Actions", "Ta&ke the rename back"),  {},          on(&ReferenceCommands::undoRename),     on(&ReferenceCommands::canUndoRename)},
     };
     // clang-format on
 }

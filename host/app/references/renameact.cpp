@@ -7,6 +7,7 @@
 #include "family/familydocument.h"
 #include "family/project/familyproject.h"
 
+#include <zorv/code/codecs/filetext.h>
 #include <zorv/core/archive.h>
 #include <zorv/core/filewatchobject.h>
 
@@ -123,14 +124,29 @@ void editText(FamilyDocument* document, const QString& path, const QVector<Renam
     document->endChange();
 }
 
-/// What is on the disk already: the text is saved for its name, its watch and its state.
+/// An error, or nothing. The text is saved for its name, its watch and its state: the file says the
+/// same already. If it does not, somebody else has written it or the text is shown in another
+/// encoding, and the file counts.
+QString followText(FamilyDocument* document, const QString& newPath)
+{
+    Zorv::Archive& archive = *document->archive();
+    Zorv::FileText disk;
+    QString error;
+    if (!disk.read(archive, newPath, document->codecId(), &error)) {
+        return error;
+    }
+    const bool isDone = disk.text == document->text()
+                            ? document->toFile(archive, newPath, false)
+                            : document->fromFile(archive, newPath, document->codecId(), false);
+    return isDone ? QString() : document->errorString();
+}
+
 QString follow(const OpenFile& file, const QString& newPath, const QVector<RenamedLine>& lines,
                const QString& title)
 {
     if (FamilyDocument* document = file.document) {
         editText(document, file.path, lines, title);
-        return document->toFile(*document->archive(), newPath, false) ? QString()
-                                                                      : document->errorString();
+        return followText(document, newPath);
     }
     Zorv::ProjectFile* collection = file.collection();
     if (!collection) {
@@ -164,8 +180,11 @@ bool RenameAct::run(GameSession* session, const QString& title, QString* error)
             const QString fault = follow(file, newPath, m_lines, title);
             faults += fault.isEmpty() ? QStringList() : QStringList(fault);
         }
+    }
+    // Only now: two projects can have an object of one file each.
+    for (const OpenFile& file : files) {
         if (Zorv::FileWatchObject* watched = file.watched()) {
-            watched->pauseWatch(false);
+            watched->endPause();
         }
     }
     // A text that was saved ends its lines as a save does.

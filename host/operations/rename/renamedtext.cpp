@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace Operations {
 
 using Family::NameKind;
@@ -114,13 +116,42 @@ QString RenamedText::lineText(int line) const
     return m_text.mid(place.start, place.end - place.start);
 }
 
-void RenamedText::replace(const NameUse& use, NameKind kind, const QString& name)
+void RenamedText::replace(const NameUse& use, const Subject& subject, const QString& name)
 {
+    if (!isNamedAt(use, subject)) {
+        m_fault = Text::tr("%1 has been changed meanwhile. Try again.")
+                      .arg(QDir::toNativeSeparators(m_path));
+        return;
+    }
     QString line = lineText(use.line);
     const int column = use.column - 1;
-    const QString written = writtenName(line.mid(column, use.length), kind, name);
+    const QString written = writtenName(line.mid(column, use.length), subject.kind, name);
     line.replace(column, use.length, written);
     m_replaced.insert(use.line, {use.column, name, line});
+}
+
+/// The file may say something else by now than when its names were looked for.
+bool RenamedText::isNamedAt(const NameUse& use, const Subject& subject)
+{
+    if (!m_names) {
+        m_names = std::make_shared<const FileNames>(namesIn(textOf(false), m_path));
+        for (const PlacedName& placed : m_names->names) {
+            m_places.insert(placed.line, placed.name);
+        }
+    }
+    const bool isSprite = subject.kind == NameKind::Sprite;
+    if (isSprite || subject.kind == NameKind::Sound) {
+        const auto& places = isSprite ? m_names->sprites : m_names->sounds;
+        const auto found =
+            std::lower_bound(places.begin(), places.end(), use.line,
+                             [](const auto& place, int line) { return place.line < line; });
+        return found != places.end() && found->line == use.line && found->id == subject.id &&
+               found->column == use.column && found->length == use.length;
+    }
+    const Family::LineName name = m_places.value(use.line);
+    const bool isIt =
+        subject.kind == NameKind::File ? name.kind == NameKind::File : subject.isNamedBy(name);
+    return isIt && name.start + 1 == use.column && name.end - name.start == use.length;
 }
 
 /// As a document has it: lines end in '\n'.

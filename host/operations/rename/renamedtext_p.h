@@ -2,7 +2,10 @@
 
 #include "operations/rename/renameplan.h"
 
+#include <QHash>
 #include <QMap>
+
+#include <memory>
 
 namespace Operations {
 
@@ -13,8 +16,9 @@ public:
     /// Reads it. `fault()` tells if it cannot be changed.
     explicit RenamedText(const QString& path);
 
-    /// Puts `name` in the place of what stands at a use: a word, "200,0", or a path.
-    void replace(const NameUse& use, Family::NameKind kind, const QString& name);
+    /// Puts `name` in the place of the subject at a use: a word, "200,0", or a path. A fault if the
+    /// file names it there no longer.
+    void replace(const NameUse& use, const Subject& subject, const QString& name);
 
     /// Makes the new bytes. They are read again: what is replaced is named, and all else as before.
     void finish();
@@ -39,6 +43,7 @@ private:
     };
 
     void findLines();
+    bool isNamedAt(const NameUse& use, const Subject& subject);
     QString lineText(int line) const;
     QString textOf(bool isNew) const;
     void encode(const QString& text);
@@ -52,6 +57,8 @@ private:
     QVector<Line> m_lines;
     QMap<int, Replaced> m_replaced;  // by line, from 1: no line has two names
     QString m_fault;
+    std::shared_ptr<const FileNames> m_names;  // what the file says now
+    QHash<int, Family::LineName> m_places;     // of them the words, by line
 };
 
 }  // namespace Operations

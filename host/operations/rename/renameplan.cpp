@@ -38,6 +38,8 @@ public:
 
 private:
     bool checkName();
+    void checkReadable();
+    void checkHidden(const QVector<NameUse>& uses);
     void checkFileName();
     void checkTaken();
     void planFile(const QString& path, const QVector<NameUse>& uses);
@@ -70,6 +72,8 @@ void Planner::run()
         conflict(unknownSubject(m_subject));
         return;
     }
+    checkReadable();
+    checkHidden(uses);
     if (!checkName()) {
         return;
     }
@@ -92,6 +96,55 @@ void Planner::run()
     }
     tellProjects();
     tellEngine();
+}
+
+/// A file that cannot be read may name it, too.
+void Planner::checkReadable()
+{
+    QSet<QString> paths;
+    for (const IndexedProject& project : qAsConst(m_projects)) {
+        for (const QString& path : project.code) {
+            const auto names = m_index.names(path);
+            if (names && !names->error.isEmpty() && QFileInfo::exists(path) &&
+                !paths.contains(path)) {
+                paths.insert(path);
+                conflict(names->error);
+            }
+        }
+    }
+}
+
+bool isNamedIn(const FileNames& file, const Subject& subject)
+{
+    const auto hasId = [&](const auto& use) { return use.id == subject.id; };
+    if (subject.kind == NameKind::Sprite || subject.kind == NameKind::Sound) {
+        const auto& uses = subject.kind == NameKind::Sprite ? file.sprites : file.sounds;
+        return std::any_of(uses.begin(), uses.end(), hasId);
+    }
+    return std::any_of(file.names.begin(), file.names.end(), [&](const PlacedName& placed) {
+        return subject.kind == NameKind::File
+                   ? QFileInfo(placed.name.name).fileName() == QFileInfo(subject.name).fileName()
+                   : subject.isNamedBy(placed.name);
+    });
+}
+
+/// What is not saved hides what the file says, which may come back by undo.
+void Planner::checkHidden(const QVector<NameUse>& uses)
+{
+    QSet<QString> paths;
+    for (const NameUse& use : uses) {
+        paths.insert(use.path);
+    }
+    for (const IndexedProject& project : qAsConst(m_projects)) {
+        for (const QString& path : project.code) {
+            if (m_unsaved.contains(path) && !paths.contains(path)) {
+                paths.insert(path);
+                if (isNamedIn(namesOfFile(path), m_subject)) {
+                    isFree(path);
+                }
+            }
+        }
+    }
 }
 
 /// False if nothing can be planned with it.
@@ -219,7 +272,7 @@ void Planner::planText(const QString& path, const QVector<NameUse>& uses)
     RenamedText text(path);
     const QString name = newNameIn(path);
     for (const NameUse& use : uses) {
-        text.replace(use, m_subject.kind, name);
+        text.replace(use, m_subject, name);
     }
     if (text.fault().isEmpty()) {
         text.finish();

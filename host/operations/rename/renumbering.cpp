@@ -8,6 +8,8 @@
 
 #include <zorv/core/filesystemarchive.h>
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 
 #include <memory>
@@ -21,20 +23,36 @@ namespace {
 
 const QString identifier = QStringLiteral("Identifier");
 
+/// Makes the texts of this file known to translators.
+class Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Operations::Rename)
+};
+
 struct Release
 {
     void operator()(Zorv::ProjectFile* file) const { file->release(); }
 };
 
-/// All of that identifier: who shows the first one goes on to.
+/// All of that identifier: who shows the first one goes on to. False if one is broken, for that
+/// keeps all that it has.
 template <class Items>
-void rename(const Items& items, AssetId from, AssetId to)
+bool rename(const Items& items, AssetId from, AssetId to)
 {
+    bool isDone = true;
     for (const auto& item : items) {
         if (item->id() == from) {
             item->setProperty(identifier, to.text());
+            isDone &= item->id() == to;
         }
     }
+    return isDone;
+}
+
+QString brokenText(const ChangeSet::Asset& asset)
+{
+    return Text::tr("%1: %2 is broken and keeps its number. Remove or replace it first.")
+        .arg(QDir::toNativeSeparators(asset.path), asset.from.text());
 }
 
 /// What the remaps of a collection say of a palette goes along.
@@ -56,10 +74,13 @@ bool renumberSprites(const ChangeSet::Asset& asset, Zorv::Archive* archive, QStr
     if (!sprites) {
         return false;
     }
-    if (asset.kind == NameKind::Sprite) {
-        rename(sprites->items(), asset.from, asset.to);
-    } else {
-        rename(sprites->palettes()->items(), asset.from, asset.to);
+    const bool isSprite = asset.kind == NameKind::Sprite;
+    if (!(isSprite ? rename(sprites->items(), asset.from, asset.to)
+                   : rename(sprites->palettes()->items(), asset.from, asset.to))) {
+        *error = brokenText(asset);
+        return false;
+    }
+    if (!isSprite) {
         redirect(sprites->palettes()->remaps(), asset.from, asset.to);
     }
     const bool isWritten = sprites->toFile(*archive, asset.path, true);
@@ -70,9 +91,12 @@ bool renumberSprites(const ChangeSet::Asset& asset, Zorv::Archive* archive, QStr
 bool renumberSounds(const ChangeSet::Asset& asset, Zorv::Archive* archive, QString* error)
 {
     Family::SoundFile sounds;
-    const bool isDone =
-        sounds.fromFile(*Zorv::FileSystemArchive::instance(), asset.path, false) &&
-        (rename(sounds.items(), asset.from, asset.to), sounds.toFile(*archive, asset.path, true));
+    const bool isRead = sounds.fromFile(*Zorv::FileSystemArchive::instance(), asset.path, false);
+    if (isRead && !rename(sounds.items(), asset.from, asset.to)) {
+        *error = brokenText(asset);
+        return false;
+    }
+    const bool isDone = isRead && sounds.toFile(*archive, asset.path, true);
     *error = sounds.errorString();
     return isDone;
 }
