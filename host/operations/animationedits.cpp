@@ -150,6 +150,7 @@ QVector<int> ticksOf(const QVector<int>& milliseconds)
 {
     constexpr int TicksPerSecond = 60;
     constexpr int Second = 1000;
+    constexpr qint64 MostTicks = 32767;  // what a frame can have
     QVector<int> ticks;
     qint64 sum = 0;
     qint64 end = 0;
@@ -157,7 +158,7 @@ QVector<int> ticksOf(const QVector<int>& milliseconds)
         sum += time;
         const qint64 own = (sum * TicksPerSecond * 2 + Second) / (2 * Second);
         const qint64 next = std::max(own, end + 1);
-        ticks.append(int(next - end));
+        ticks.append(int(std::min(next - end, MostTicks)));
         end = next;
     }
     return ticks;

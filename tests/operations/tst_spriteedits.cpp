@@ -7,6 +7,7 @@
 #include "operations/hostinterface.h"
 #include "operations/media/paletteedits.h"
 #include "operations/media/paletteuses.h"
+#include "operations/media/spriteimport.h"
 
 #include "support/folders.h"
 #include "support/release.h"
@@ -156,6 +157,7 @@ private slots:
     void whoChangesTogether();
     void brokenOnesStay();
     void givenUpChangesNothing();
+    void givenUpImportKeepsTheOneBefore();
     void imagesOfAFolder();
     void colorsOfPalettes();
     void countsUses();
@@ -270,6 +272,36 @@ void TestSpriteEdits::givenUpChangesNothing()
         QVERIFY(file.save() == bytes);
     }
     QVERIFY(ends > 5 && ends < 100);  // behind sprites of true colour, too
+}
+
+/// The same images once more change nothing, so there is no step to take back.
+void TestSpriteEdits::givenUpImportKeepsTheOneBefore()
+{
+    QRandomGenerator random(3);
+    Opened file(someSprites(random, 4));
+    QImage sheet(40, 1, QImage::Format_RGB32);
+    QVector<ImportImage> images;
+    for (int i = 0; i < sheet.width(); ++i) {
+        sheet.setPixel(i, 0, qRgb(i, 2 * i, 7));
+    }
+    for (int i = 0; i < sheet.width(); ++i) {
+        SheetFrame frame;
+        frame.rect = {i, 0, 1, 1};
+        frame.original = frame.rect.size();
+        images.append({QString("9-%1").arg(i), "sheet.png", sheet, frame});
+    }
+    ImportRequest request;
+    request.numbering.whenTaken = WhenTaken::Replace;
+    QCOMPARE(importSprites(file.sprites.get(), images, request).done, images.size());
+    const QByteArray bytes = file.save();
+    bool isGivenUp = false;
+    for (int patience = 0; patience < 30; patience += 3) {
+        m_host.patience = patience;
+        isGivenUp |= importSprites(file.sprites.get(), images, request).isCanceled;
+        m_host.patience = INT_MAX;
+        QVERIFY(file.save() == bytes);
+    }
+    QVERIFY(isGivenUp);
 }
 
 void TestSpriteEdits::imagesOfAFolder()

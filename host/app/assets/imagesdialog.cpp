@@ -218,18 +218,32 @@ void ImagesDialog::chooseFolder()
 
 void ImagesDialog::addLater(const std::function<Operations::SheetImages()>& read)
 {
-    ++m_reading;
-    m_sheets->ask([read, this] {
+    const int place = m_askedSheets++;
+    m_sheets->ask([read, place, this] {
         const Operations::SheetImages found = read();
-        return BackgroundWork::Then([this, found] {
-            --m_reading;
-            m_faults += found.warnings;
-            m_faults += found.error.isEmpty() ? QStringList() : QStringList(found.error);
-            m_model->append(found.images);
-            renumber();
+        return BackgroundWork::Then([this, place, found] {
+            m_readSheets.insert(place, found);
+            takeSheets();
         });
     });
     updateState();
+}
+
+/// In the order in which they were asked for, whichever was read first.
+void ImagesDialog::takeSheets()
+{
+    for (; m_readSheets.contains(m_takenSheets); ++m_takenSheets) {
+        const Operations::SheetImages found = m_readSheets.take(m_takenSheets);
+        m_faults += found.warnings;
+        m_faults += found.error.isEmpty() ? QStringList() : QStringList(found.error);
+        m_model->append(found.images);
+    }
+    renumber();
+}
+
+bool ImagesDialog::isReading() const
+{
+    return m_takenSheets < m_askedSheets;
 }
 
 void ImagesDialog::removeSelected()
@@ -269,7 +283,7 @@ void ImagesDialog::updateState()
         moved += number.state == ImageNumber::Counted || number.state == ImageNumber::Moved ? 1 : 0;
     }
     QStringList lines{tr("%n image(s)", nullptr, images().size())};
-    if (m_reading > 0) {
+    if (isReading()) {
         lines[0] += QLatin1Char(' ') + tr("(more are being read)");
     }
     if (moved > 0) {
@@ -282,7 +296,7 @@ void ImagesDialog::updateState()
     lines += fault.isEmpty() ? QStringList() : QStringList(fault);
     lines += m_faults.mid(0, MostFaults);
     m_state->setText(lines.join(QLatin1Char('\n')));
-    m_ok->setEnabled(!images().isEmpty() && faulty == 0 && fault.isEmpty() && m_reading == 0);
+    m_ok->setEnabled(!images().isEmpty() && faulty == 0 && fault.isEmpty() && !isReading());
     m_remove->setEnabled(!images().isEmpty());
     if (m_form->makesAnimation() && !m_play.isActive() && images().size() > 1) {
         m_play.start(ticksOf(m_shown) * Second / TicksPerSecond);

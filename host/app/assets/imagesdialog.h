@@ -3,6 +3,7 @@
 #include "operations/media/spriteimport.h"
 
 #include <QDialog>
+#include <QHash>
 #include <QPointer>
 #include <QTimer>
 
@@ -69,6 +70,8 @@ private:
     void chooseFiles();
     void chooseFolder();
     void addLater(const std::function<Operations::SheetImages()>& read);
+    void takeSheets();
+    bool isReading() const;
     void removeSelected();
     void renumber();
     void updateState();
@@ -93,7 +96,9 @@ private:
     QTimer m_play;
     int m_shown = -1;  // the row in the preview
     int m_asked = 0;   // counts pictures that were asked for; only the last is of use
-    int m_reading = 0;
+    QHash<int, Operations::SheetImages> m_readSheets;  // that wait for one asked for before
+    int m_askedSheets = 0;
+    int m_takenSheets = 0;
     QStringList m_faults;
 };
 

@@ -148,22 +148,40 @@ QVector<ImageNumber> Numberer::run()
     return m_numbers;
 }
 
+/// Of all that a twin has in common with the first one: sheets can have many frames at one place.
+uint hashOf(const Family::SheetFrame& frame)
+{
+    const int parts[] = {frame.page,
+                         int(frame.isTurned),
+                         frame.rect.x(),
+                         frame.rect.y(),
+                         frame.rect.width(),
+                         frame.rect.height(),
+                         frame.offset.x(),
+                         frame.offset.y(),
+                         frame.original.width(),
+                         frame.original.height(),
+                         int(frame.hasAxis),
+                         frame.axis.x(),
+                         frame.axis.y()};
+    return qHashBits(parts, sizeof(parts));
+}
+
 void Numberer::findTwins()
 {
-    QMultiHash<quint64, int> places;
+    QMultiHash<uint, int> places;
     for (int i = 0; i < m_images.size(); ++i) {
         const ImportImage& image = m_images.at(i);
         if (!image.isOfSheet()) {
             continue;
         }
-        const QRect& rect = image.frame.rect;
-        const quint64 place = quint64(rect.x()) << 48 | quint64(rect.y()) << 32 |
-                              quint64(rect.width()) << 16 | quint64(rect.height());
+        const uint place = hashOf(image.frame);
         for (auto it = places.constFind(place); it != places.constEnd() && it.key() == place;
              ++it) {
             if (isSameImage(m_images.at(it.value()), image)) {
                 m_numbers[i].state = ImageNumber::Twin;
                 m_numbers[i].other = it.value();
+                break;
             }
         }
         if (m_numbers.at(i).state != ImageNumber::Twin) {

@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 
 #include <algorithm>
 
@@ -26,6 +27,7 @@ using Family::SheetFrame;
 namespace {
 
 constexpr int MaxPages = 1000;
+constexpr qint64 MaxSheetBytes = Q_INT64_C(2) << 30;  // of all pictures together, decoded
 
 /// Makes the texts of this file known to translators.
 class Text
@@ -79,6 +81,8 @@ private:
     QString m_jsonFile;
     SheetImages m_result;
     int m_pages = 0;
+    QHash<QString, QImage> m_pictures;  // by their files: many pages can name one
+    qint64 m_bytes = 0;
 };
 
 bool SheetFiles::readJson(const QString& file, Sheet* sheet)
@@ -113,9 +117,21 @@ QImage SheetFiles::readPage(const QString& file, const Sheet& sheet, int page, Q
                                : told);
         return {};
     }
+    const auto known = m_pictures.constFind(*name);
+    if (known != m_pictures.cend()) {
+        return *known;
+    }
     QString error;
     const QImage image = Zorv::readImageFile(*name, &error);
     m_result.error = image.isNull() ? error : QString();
+    m_bytes += image.sizeInBytes();
+    if (m_bytes > MaxSheetBytes) {
+        m_result.error = Text::tr("The pictures of '%1' are too large together. Cut the sheet into "
+                                  "several.")
+                             .arg(m_jsonFile);
+        return {};
+    }
+    m_pictures.insert(*name, image);
     return image;
 }
 

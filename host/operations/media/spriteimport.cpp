@@ -72,7 +72,6 @@ private:
     QVector<int> m_rows;           ///< of the images that become a sprite of their own
     QSet<int> m_missing;
     FamilyPalette* m_palette = nullptr;
-    bool m_isTouched = false;
 };
 
 QString nameOf(const ImportImage& image)
@@ -86,15 +85,19 @@ MediaResult Import::run(QVector<ImportedId>* ids)
     if (!numberAll(&result)) {
         return result;
     }
-    const QString title = Text::tr("Import sprites");
-    m_sprites->beginChange(title);
+    // A step that changes nothing is none: an undo would take back the one before it.
+    bool hasChanged = false;
+    const auto watch = QObject::connect(m_sprites, &SpriteCollection::modified,
+                                        [&hasChanged] { hasChanged = true; });
+    m_sprites->beginChange(Text::tr("Import sprites"));
     if (findPalette(&result)) {
         putAll(&result);
     }
     m_sprites->endChange();
+    QObject::disconnect(watch);
     const bool mayMiss = m_request.leavesOut && result.done > 0;
     const bool isWhole = (mayMiss || result.errors.isEmpty()) && !result.isCanceled;
-    if (!isWhole && m_isTouched && m_sprites->steps().undoTitle() == title) {
+    if (!isWhole && hasChanged) {
         m_sprites->undo();
     }
     for (int i = 0; isWhole && ids && i < m_images.size(); ++i) {
@@ -189,7 +192,6 @@ FamilySprite* Import::target(int index) const
 
 bool Import::findPalette(MediaResult* result)
 {
-    const int count = m_sprites->palettes()->count();
     QString error;
     if (!m_request.palette.isEmpty()) {
         m_palette = ensurePalette(m_sprites, m_request.palette, &error);
@@ -199,7 +201,6 @@ bool Import::findPalette(MediaResult* result)
         return false;
     }
     result->errors += error.isEmpty() ? QStringList() : QStringList(error);
-    m_isTouched = m_sprites->palettes()->count() > count;
     return m_palette;
 }
 
@@ -245,7 +246,6 @@ void Import::setImage(FamilySprite* sprite, const ReadImage& read)
 
 QString Import::put(int index, const ReadImage& read)
 {
-    m_isTouched = true;
     const bool isNew = !m_old[index];
     FamilySprite* sprite = isNew ? m_sprites->addSprite() : m_old[index];
     sprite->setProperty(QStringLiteral("Identifier"), m_numbers[index].target.id.text());
