@@ -318,15 +318,17 @@ QString ProblemWatch::pathOf(const QString& name) const
 FamilyDocument* ProblemWatch::documentOf(const QString& name) const
 {
     const QString path = pathOf(name);
+    FamilyDocument* found = nullptr;
     for (const FamilyProject* project : m_services.session->projects()) {
         const QList<FamilyDocument*> documents = project->documents();
         for (FamilyDocument* document : documents) {
-            if (m_watched.value(document) == path) {
-                return document;
+            const bool isIt = m_watched.value(document) == path;
+            if (isIt && (!found || (document->isModified() && !found->isModified()))) {
+                found = document;
             }
         }
     }
-    return nullptr;
+    return found;
 }
 
 QString ProblemWatch::summary() const

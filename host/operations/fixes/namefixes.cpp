@@ -48,10 +48,14 @@ QStringList namesIn(const ProjectFindings& project, Names names)
 /// The word of a message, which has none of the marks that could stand in a name.
 QString missingName(const Problem& problem, const FaultyLine& line)
 {
-    return problem.id == ProblemId::CommandMissing && line.parsed.key &&
-                   line.parsed.key->form != Family::Form::CommandName
-               ? QString(Family::knownCommandOf(line.head.group->name, line.parsed.key->name)->name)
-               : line.parsed.value.toString();
+    if (problem.id != ProblemId::CommandMissing || !line.parsed.key ||
+        line.parsed.key->form == Family::Form::CommandName) {
+        return line.parsed.value.toString();
+    }
+    const auto* known = line.head.group
+                            ? Family::knownCommandOf(line.head.group->name, line.parsed.key->name)
+                            : nullptr;
+    return known ? QString(known->name) : QString();
 }
 
 /// Adds an insertion; what goes to one place stands in the order in which it came.
