@@ -8,7 +8,10 @@
 #include <zorv/text/zorvtranslator.h>
 
 #include <QDialog>
+#include <QDialogButtonBox>
+#include <QPushButton>
 #include <QRandomGenerator>
+#include <QTimer>
 
 /// What the editor of sprites does to the sprites of a file, in the real window.
 class TestSpriteActions : public SpriteTest
@@ -251,6 +254,13 @@ void TestSpriteActions::canAllBeTakenBack()
     const char* const actions[] = {"spr_duplicate",  "spr_split_channels", "spr_delete",
                                    "spr_add",        "spr_next",           "spr_saveimg",
                                    "spr_image_fliph"};
+    QTimer accepting;  // the dialog of images, once it has read them
+    connect(&accepting, &QTimer::timeout, this, [] {
+        if (const QWidget* dialog = QApplication::activeModalWidget()) {
+            dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        }
+    });
+    accepting.start(5);
     show(0);
     for (int i = 0; i < 60; ++i) {
         QCoreApplication::processEvents();
