@@ -29,18 +29,18 @@ struct SharedContext
     bool isUsable = false;
 };
 
-// On the heap: textures may die after all statics.
+// On the heap, because textures may be destroyed after all statics.
 SharedContext* s_shared = nullptr;
 QOffscreenSurface* s_surface = nullptr;
 quint32 s_nameCount = 0;
 
-// Guards the resetter and the number against textures that die. Recursive, for in the thread of the
-// context the deletion runs right in the signal.
+// Guards the resetter and the context number against textures destroyed on other threads.
+// Recursive, because on the context's own thread the deletion runs inside the signal.
 std::recursive_mutex s_mutex;
 std::atomic<quint32> s_contextNumber{0};
 quint32 s_contextCount = 0;
 
-/// Qt warns when it is asked for a context that its platform has not.
+/// Checked first, because Qt prints a warning if its platform has no GL.
 bool hasPlatformGl()
 {
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) &&
@@ -100,7 +100,8 @@ void freeContext()
             s_resetter = nullptr;
             s_contextNumber = 0;
         }
-        // The context of a widget, and that of the application, would keep them alive.
+        // The names are shared with the contexts of the widgets and of the application, which would
+        // keep the textures alive.
         const std::vector<unsigned int> names(s_shared->names.begin(), s_shared->names.end());
         const ContextScope scope;
         if (scope.gl() && !names.empty()) {

@@ -8,8 +8,8 @@ class QSurface;
 
 namespace Zorv {
 
-/// Makes the shared context current, and at the end the one that was current before: a texture may
-/// be made in the middle of a paint.
+/// Makes the shared context current and restores the previous one at the end. Needed because a
+/// texture may be created in the middle of a paint.
 class ContextScope
 {
 public:
@@ -19,7 +19,7 @@ public:
     ContextScope(const ContextScope&) = delete;
     ContextScope& operator=(const ContextScope&) = delete;
 
-    /// Null without GL, and in any thread but that of the context.
+    /// Null without GL, and in any thread other than the context's.
     QOpenGLFunctions* gl() const { return m_gl; }
 
 private:
@@ -28,17 +28,19 @@ private:
     QOpenGLFunctions* m_gl = nullptr;
 };
 
-/// Names are those of one context: each that is made has another number, from 1. 0 without one.
+/// The number of the present context, 0 without one. Texture names are valid in one context only.
+/// Each context gets a new number, starting at 1.
 quint32 contextNumber();
 
 unsigned int makeTextureName(QOpenGLFunctions& gl);
 void deleteTextureName(QOpenGLFunctions& gl, unsigned int id);
 
-/// Has a name deleted in the thread of the context. `number` is that of the context which the name
-/// was made in; 0 is the present one. In any thread.
+/// Requests the deletion of a name in the thread of the context. `number` is the context the name
+/// was created in; 0 means the present one. Any thread.
 void releaseTextureName(unsigned int id, quint32 number);
 
-/// Grows when a name is made, which may have been that of another texture before.
+/// Counts created names. GL reuses deleted names, so an equal name with another count may be
+/// another texture.
 quint32 textureNameCount();
 
 }  // namespace Zorv

@@ -4,20 +4,20 @@
 
 namespace Zorv {
 
-/// A renderer that can be zoomed, and whose origin can be put into the middle.
+/// A renderer with a zoom and an origin that can be centred.
 class ZORV_EXPORT GraphicsRendererBase : public Renderer
 {
 public:
-    /// One level nearer, or nothing at the nearest.
+    /// Zooms in by one level; does nothing at the highest level.
     virtual void addZoom() = 0;
 
-    /// One level farther, or nothing at the farthest.
+    /// Zooms out by one level; does nothing at the lowest level.
     virtual void subZoom() = 0;
 
-    /// One pixel of the game is one of the widget.
+    /// Zooms to actual size: one pixel of the game is one pixel of the widget.
     virtual void zoomActual() = 0;
 
-    /// Puts the origin into the middle of the widget.
+    /// Moves the origin to the middle of the widget.
     virtual void centralize() = 0;
 };
 

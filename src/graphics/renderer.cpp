@@ -10,7 +10,8 @@ namespace Zorv {
 
 namespace {
 
-// Rows of a texture stand bottom first: the upper end of the square is the start of the texture.
+// Textures are stored bottom row first, so the upper edge of the square maps to the start of the
+// texture.
 const float s_unitSquare[] = {0, 1, 0, 0, 1, 0, 1, 0, 1, 1, 0, 1};
 
 }  // namespace
@@ -115,7 +116,7 @@ bool Renderer::canDraw(const Texture* image) const
            !image->isStale();
 }
 
-/// With the program that is bound.
+/// Uses the program currently bound.
 void Renderer::drawUnit(const QMatrix4x4& matrix, const Texture& image, unsigned char flip,
                         float opacity, bool mask)
 {
@@ -129,8 +130,8 @@ void Renderer::drawUnit(const QMatrix4x4& matrix, const Texture& image, unsigned
     state.draw(*this, s_unitSquare, texCoords, 6);
 }
 
-// Whoever listens may set any uniform, bind textures and leave another unit active. False if the
-// widget has gone meanwhile.
+// A slot may set any uniform, bind textures and activate another texture unit, so the known state
+// is dropped. False if the slot has detached the widget.
 bool Renderer::letOthersSetUniforms()
 {
     TextureDrawing& state = m_widget->d->drawing;

@@ -16,11 +16,11 @@ class RenderWidget;
 class Texture;
 class TextureDrawing;
 
-/// What a `RenderWidget` shows, and what its input goes to.
+/// Draws the content of a `RenderWidget` and receives its input.
 ///
 /// Derived classes draw in `render()`. Coordinates are pixels of the widget, from the top left, y
-/// downward. The drawing calls do nothing while no widget is attached, and must be made while its
-/// context is current. Main thread only.
+/// downward. The drawing functions do nothing while no widget is attached. Call them only while the
+/// context of the widget is current. Main thread only.
 class ZORV_EXPORT Renderer : public QOpenGLFunctions
 {
 public:
@@ -40,14 +40,14 @@ public:
     /// How the colours of an image are shown.
     enum Shading {
         Plain = 0,
-        Grayscale = 1,  ///< the red channel in all three
+        Grayscale = 1,  ///< the red channel in all three channels
         Lighter = 2,    ///< half of white added
-        Darker = 3      ///< half of white taken off
+        Darker = 3      ///< half of white subtracted
     };
 
     Renderer();
 
-    /// Leaves its widget, if it is attached.
+    /// Detaches from its widget.
     virtual ~Renderer();
 
     virtual void keyPressed(int key, Qt::KeyboardModifiers modifiers);
@@ -56,61 +56,62 @@ public:
     virtual void mouseReleased(QPoint pos, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     virtual void mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers);
 
-    /// In eighths of a degree; 120 is a step of a usual wheel. Of the two directions the greater.
+    /// `delta` is in eighths of a degree; one step of a usual wheel is 120. It is the larger of the
+    /// two directions.
     virtual void mouseWheel(int delta);
     virtual void sizeChanged(int width, int height);
     virtual void render(QPainter& painter) = 0;
 
-    /// What the widget is cleared with: magenta, which shows where nothing was drawn.
+    /// The colour the widget is cleared with. The default is magenta, which shows places where
+    /// nothing was drawn.
     virtual QColor clearColor() const;
 
-    /// The exact place of the pointer, in front of each call for mouse and wheel. Those for the
-    /// mouse round it, which on a screen of finer pixels is another one of them.
+    /// The exact position of the pointer, called before each mouse or wheel function. The mouse
+    /// functions round it, and on a high-resolution screen that is a different screen pixel.
     virtual void pointerMoved(QPointF pos);
 
-    /// The widget has lost the focus: what is held down will not be heard of when it is let go.
+    /// The widget has lost the focus. Keys and buttons held now are released without notice.
     virtual void focusLost();
 
-    /// The pointer has left the widget. A drag that is under way goes on outside of it without this
-    /// call.
+    /// The pointer has left the widget. Not called during a drag, which continues outside.
     virtual void mouseLeft();
 
-    /// Buttons that were pressed will not be released: the widget was hidden or disabled, or
-    /// another took the mouse.
+    /// Pressed buttons will not be released, because the widget was hidden or disabled or another
+    /// widget grabbed the mouse.
     virtual void grabLost();
 
-    /// Brackets a run of drawing calls between `QPainter::beginNativePainting()` and
-    /// `endNativePainting()`. The first draw binds everything; the end leaves GL as `QPainter`
-    /// expects it.
+    /// Brackets a batch of drawing calls between `QPainter::beginNativePainting()` and
+    /// `endNativePainting()`. The first draw binds everything. The end restores the GL state that
+    /// `QPainter` expects.
     void glBeginTextureDrawing();
     void glEndTextureDrawing();
 
-    /// The state of blending, which reaches GL only when it changes.
+    /// Sets the blend state. GL is called only on changes.
     void glSetBlend(bool on);
     void glSetBlendEquation(BlendEquation equation);
     void glSetBlendFunction(BlendFactor source, BlendFactor destination);
 
-    /// Draws an image as the unit square under `matrix`, which so carries place and size. `flip`
-    /// has bits of `Flip`, `shader` is a `Shading`. With `mask` pixels of alpha 0 are left out;
-    /// without it all pixels are opaque. An indexed image without `palette` takes the one that was
-    /// bound last. Nothing for an `image` that is null, has no name or is none.
+    /// Draws an image as the unit square under `matrix`, which therefore contains position and
+    /// size. `flip` has bits of `Flip`, `shader` is a `Shading`. With `mask`, pixels of alpha 0 are
+    /// left out; without it all pixels are opaque. An indexed image without `palette` uses the
+    /// palette bound last. Does nothing if `image` is null, has no name or is not an image.
     void glDrawImage(const QMatrix4x4& matrix, Texture* image, Texture* palette, unsigned char flip,
                      float opacity, bool mask, unsigned char shader);
 
-    /// The same in shades of a colour, which tells one picture from another of the same kind.
-    /// Pixels of alpha 0 are left out.
+    /// Like `glDrawImage()`, but in shades of one colour, to tell similar pictures apart. Pixels of
+    /// alpha 0 are left out.
     void glDrawTinted(const QMatrix4x4& matrix, Texture* image, Texture* palette,
                       unsigned char flip, float opacity, const QColor& tint);
 
-    /// Draws an image side by side, as the unit square under `matrix` each. A number of `tiles`
-    /// below 2 becomes as many as the widget holds at one pixel a texel; `spacing` is the gap
-    /// between them in parts of the widget's size, and with one `flip` is ignored. Of more than
-    /// 65,536 tiles those outside of the widget are left out, and with `spacing` those above
-    /// 65,536 that are left.
+    /// Draws an image as tiles, each the unit square under `matrix`. A number of `tiles` below 2 is
+    /// replaced by the number that fills the widget at one pixel per texel. `spacing` is the gap
+    /// between tiles in fractions of the widget's size; with a gap, `flip` is ignored. If there are
+    /// more than 65,536 tiles, tiles outside of the widget are left out; with `spacing`, so are
+    /// those that then still exceed 65,536.
     void glDrawImageTiled(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix, Texture* image,
                           Texture* palette, unsigned char flip, float opacity, bool mask);
 
-    /// Asks the attached widget to repaint.
+    /// Schedules a repaint of the attached widget.
     void update();
 
     /// Null until attached; the widget is not owned.

@@ -49,7 +49,7 @@ QSize RenderPlace::minimumSizeHint() const
     return SmallestSize;
 }
 
-/// A GL widget that cannot have a context would take the whole window with it.
+/// Only with a usable context: a GL widget without one breaks the whole window.
 void RenderPlace::ensureWidget()
 {
     if (m_widget || !isVisible() || !m_notice->text().isEmpty() || !isContextUsable()) {
@@ -59,7 +59,7 @@ void RenderPlace::ensureWidget()
     m_widget->setObjectName(m_name);
     m_widget->setMinimumSize(SmallestSize);
     m_widget->setFocusPolicy(Qt::StrongFocus);
-    m_widget->resize(size());  // what it hears of first is its own size
+    m_widget->resize(size());  // so its first resize event has the final size
     addWidget(m_widget);
     emit widgetMade();
 }

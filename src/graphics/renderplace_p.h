@@ -9,8 +9,8 @@ namespace Zorv {
 
 class RenderWidget;
 
-/// Where a `RenderWidget` stands, which is made when it is seen first: whoever has nothing to draw
-/// pays for no GL. What stands there instead is a text.
+/// Holds a `RenderWidget` and creates it when first shown, so GL is not started for users who draw
+/// nothing. Until then, or without working GL, it shows a text instead.
 class RenderPlace : public QStackedWidget
 {
     Q_OBJECT
@@ -18,16 +18,17 @@ class RenderPlace : public QStackedWidget
 public:
     static constexpr QSize SmallestSize{80, 45};
 
-    /// `name` is that of the render widget; the texts are `name` with "_notice" and "_message".
+    /// `name` is the object name of the render widget. The texts are named `name` with "_notice"
+    /// and "_message" appended.
     explicit RenderPlace(const QString& name, QWidget* parent = nullptr);
 
-    /// Null without usable GL, and before it was shown.
+    /// Null without working GL, and before the widget is first shown.
     RenderWidget* widget() const { return m_widget; }
 
-    /// Shows a text in place of the widget; an empty one shows the widget.
+    /// Shows a text instead of the widget; an empty text shows the widget.
     void setNotice(const QString& text);
 
-    /// What stands there on a display whose GL does not work.
+    /// The text shown if GL does not work.
     void setUnusableText(const QString& text);
 
     QSize minimumSizeHint() const override;

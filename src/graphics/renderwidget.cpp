@@ -66,7 +66,8 @@ void RenderWidget::setRenderer(Renderer* renderer)
     renderer->sizeChanged(width(), height());
 }
 
-/// Else a drag would go on when the renderer comes back, and what was dragged would not be told.
+/// Otherwise a drag would continue when the renderer is attached again, and its result would never
+/// be reported.
 void RenderWidget::releaseButtons()
 {
     const QPointer<RenderWidget> self = this;
@@ -111,7 +112,7 @@ void RenderWidget::initializeGL()
     gl.glClearColor(1, 1, 1, 1);
     gl.glDisable(GL_DEPTH_TEST);
     gl.glDisable(GL_STENCIL_TEST);
-    // In a window of another context the widget gets a new one, too.
+    // A widget moved to a window with another context gets a new context itself.
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &RenderWidget::freePrograms);
     d->drawing.makePrograms(this);
     setCustomPixelShader(nullptr, nullptr);
@@ -147,7 +148,7 @@ void RenderWidget::paintGL()
     }
     gl.glClear(GL_COLOR_BUFFER_BIT);
     if (d->renderer) {
-        // Not a painter on the widget: while it is grabbed that one would paint elsewhere.
+        // Not a painter on the widget: during `grab()` that would paint to another target.
         QOpenGLPaintDevice frame(size() * devicePixelRatioF());
         frame.setDevicePixelRatio(devicePixelRatioF());
         QPainter painter(&frame);
@@ -157,7 +158,8 @@ void RenderWidget::paintGL()
     if (d->sight) {
         d->sightPass.apply(gl, size() * devicePixelRatioF(), *d->sight);
     }
-    // What was blended is not seen through: a picture of the window would show what lies behind.
+    // Force alpha to 1. Blending leaves translucent pixels, and a screenshot of the window would
+    // show what is behind it.
     gl.glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_TRUE);
     gl.glClear(GL_COLOR_BUFFER_BIT);
     gl.glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
@@ -174,7 +176,7 @@ void RenderWidget::keyPressEvent(QKeyEvent* event)
 void RenderWidget::keyReleaseEvent(QKeyEvent* event)
 {
     QOpenGLWidget::keyReleaseEvent(event);
-    // A key that repeats is still held.
+    // An auto-repeating key is still held.
     if (d->renderer && !event->isAutoRepeat()) {
         d->renderer->keyReleased(event->key(), event->modifiers());
     }
@@ -226,7 +228,7 @@ void RenderWidget::passMove(QPointF pos, Qt::KeyboardModifiers modifiers)
     }
 }
 
-// The greater of the two directions: with Alt held a wheel turns sideways.
+// Uses the larger of the two directions: with Alt held a wheel scrolls sideways.
 void RenderWidget::wheelEvent(QWheelEvent* event)
 {
     QOpenGLWidget::wheelEvent(event);
@@ -237,7 +239,7 @@ void RenderWidget::wheelEvent(QWheelEvent* event)
     }
 }
 
-// One that is not accepted would come once more, as a mouse.
+// An event that is not accepted would arrive again as a mouse event.
 void RenderWidget::tabletEvent(QTabletEvent* event)
 {
     QOpenGLWidget::tabletEvent(event);
@@ -262,7 +264,7 @@ void RenderWidget::focusOutEvent(QFocusEvent* event)
     }
 }
 
-// A pen holds no grab: what it draws goes on outside.
+// A pen does not grab the mouse, so a stroke continues outside the widget.
 void RenderWidget::leaveEvent(QEvent* event)
 {
     QOpenGLWidget::leaveEvent(event);

@@ -14,11 +14,12 @@ namespace Zorv {
 class Renderer;
 struct RenderWidgetPrivate;
 
-/// The widget that the stage is on. It hands input and painting to the `Renderer` attached to it.
-/// The pen of a tablet counts as a mouse.
+/// The widget that shows the stage. It forwards input and painting to the attached `Renderer`. A
+/// tablet pen counts as a mouse.
 ///
-/// Needs a display whose GL works (`isContextUsable()`). A picture of it (`grab()`), or of a window
-/// around it, has all that the renderer draws, by GL and by its painter. Main thread only.
+/// Needs a display with working GL (`isContextUsable()`). A screenshot of it (`grab()`), or of a
+/// window around it, contains everything the renderer draws, with GL and with its painter. Main
+/// thread only.
 class ZORV_EXPORT RenderWidget : public QOpenGLWidget
 {
     Q_OBJECT
@@ -30,29 +31,30 @@ public:
     /// Null until one is attached.
     Renderer* renderer() const;
 
-    /// Attaches a renderer, which is not owned and may be attached to one widget at a time; null
-    /// detaches. Without one the widget clears to its last colour and ignores input. To the one
-    /// that was there a button that is held is released first.
+    /// Attaches a renderer; null detaches. Not owned. A renderer can be attached to one widget at a
+    /// time. Without one, the widget clears to its last colour and ignores input. The previous
+    /// renderer first gets a release of every button still held.
     void setRenderer(Renderer* renderer);
 
-    /// Takes other fragment shaders, for images with a palette and for true colour; null is that
-    /// of the library. Either is compiled four times, with GRAYSCALE, LIGHTER, DARKER and none of
-    /// them defined. One that does not compile draws nothing. Ignored until `initialize()`.
+    /// Replaces the fragment shaders, one for images with a palette and one for true colour; null
+    /// keeps the library's. Each is compiled four times, with GRAYSCALE, LIGHTER, DARKER or none of
+    /// them defined. A shader that does not compile draws nothing. Ignored before `initialize()`.
     ///
-    /// What a program has already stays in it, and two `main()` draw nothing: to replace the
-    /// library's, call `removeAllShaders()` of each `QOpenGLShaderProgram` child of the widget
-    /// first.
+    /// Shaders already in a program stay there, and a program with two `main()` draws nothing. To
+    /// replace the library's shaders, first call `removeAllShaders()` on each
+    /// `QOpenGLShaderProgram` child of the widget.
     void setCustomPixelShader(const char* indexedSource, const char* rgbaSource);
 
-    /// Shows all that the renderer draws as somebody else sees it, in pictures of the widget, too.
+    /// Simulates a colour vision deficiency for everything the renderer draws, screenshots
+    /// included.
     void setColorSight(const ColorSight& sight);
 
 signals:
-    /// GL is ready for the first time, or again after the widget got another context.
+    /// GL is ready: for the first time, or again after the widget got a new context.
     void initialize();
 
-    /// Comes in every draw, when all uniforms of the library are set. A slot may set uniforms and
-    /// bind textures; the next draw sets all anew.
+    /// Emitted in every draw, after all uniforms of the library are set. A slot may set uniforms
+    /// and bind textures; the next draw sets everything again.
     void setCustomShaderUniformValues(QOpenGLShaderProgram* program);
 
 protected:

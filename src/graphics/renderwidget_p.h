@@ -8,9 +8,9 @@ namespace Zorv {
 struct RenderWidgetPrivate
 {
     Renderer* renderer = nullptr;
-    Qt::MouseButtons pressed;            // that the renderer has heard of
-    QPoint pointer;                      // where it was then, or later
-    Qt::MouseButton pen = Qt::NoButton;  // that the pen of a tablet is down with
+    Qt::MouseButtons pressed;            // buttons reported to the renderer
+    QPoint pointer;                      // position of that press, or later
+    Qt::MouseButton pen = Qt::NoButton;  // button of the tablet pen that is down
     TextureDrawing drawing;
     ColorSight sight;
     SightPass sightPass;

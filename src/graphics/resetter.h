@@ -6,9 +6,9 @@
 
 namespace Zorv {
 
-/// Brings the deletion of a texture to the thread that owns the GL context: in that thread the
-/// signal deletes at once, from others when the event loop comes to it. The library has one,
-/// `s_resetter`, which lives as long as the context.
+/// Moves the deletion of a texture to the thread that owns the GL context. On that thread the
+/// signal deletes at once; from other threads it is queued to the event loop. The library has one
+/// instance, `s_resetter`, which lives as long as the context.
 class ZORV_EXPORT Resetter : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ public:
     Resetter();
 
 signals:
-    /// A texture has died, on any thread; `id` is its name, 0 for none.
+    /// A texture was destroyed, on any thread. `id` is its name, 0 for none.
     void resetOnRenderThread(unsigned int id);
 
 public slots:
-    /// Deletes the name in the shared context. In the thread of this object.
+    /// Deletes the name in the shared context. Only in the thread of this object.
     void reset(unsigned int id);
 };
 

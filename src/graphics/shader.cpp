@@ -21,7 +21,7 @@ const char* const s_prefixes[Shader::Variants] = {"", "#define GRAYSCALE\n", "#d
 
 }  // namespace
 
-// Grayscale is the red channel, not a luminance: so the onion skin looks.
+// Grayscale is the red channel, not a luminance: this is the established look of the onion skin.
 #define VARIANTS_OF_COLOR                                                                          \
     "    if (!mask)\n"                                                                             \
     "       color.a = 1.0;\n"                                                                      \
@@ -55,7 +55,7 @@ const char* const s_rgbaShader = "uniform sampler2D image;\n"
                                  "void main() {\n"
                                  "    vec4 color = texture2D(image, uv.st);\n" VARIANTS_OF_COLOR;
 
-// The brightness stays, and so what is seen of a picture.
+// Tinting keeps the brightness, so the picture stays recognisable.
 const char* const s_tintedIndexedShader =
     "uniform sampler2D image;\n"
     "uniform sampler2D palette;\n"
@@ -88,7 +88,7 @@ void setupShader(Shader& shader, const char* custom, const char* standard)
     for (int i = 0; i < Shader::Variants && shader.programs[i]; ++i) {
         QOpenGLShaderProgram& program = *shader.programs[i];
         const QByteArray fragment = QByteArray(s_prefixes[i]) + (custom ? custom : standard);
-        // With a vertex shader alone the driver would draw in one colour.
+        // Both are required: with only a vertex shader the driver would draw in one colour.
         const bool isCompiled =
             program.addShaderFromSourceCode(QOpenGLShader::Vertex, s_vertexShader) &&
             program.addShaderFromSourceCode(QOpenGLShader::Fragment, fragment);

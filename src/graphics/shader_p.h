@@ -8,7 +8,7 @@ class QOpenGLShaderProgram;
 
 namespace Zorv {
 
-/// The values that the uniforms of a program are known to have.
+/// Cache of the uniform values of a program.
 struct Uniforms
 {
     int image = -1;
@@ -22,8 +22,8 @@ struct Uniforms
     std::array<float, 16> matrix;
 };
 
-/// The four programs of one kind of image, indexed by `Renderer::Shading`, and where their inputs
-/// stand, which is the same in all four. One that only tints has the first of them alone.
+/// The four programs for one kind of image, indexed by `Renderer::Shading`, and the locations of
+/// their inputs, which are the same in all four. A tinting shader has only the first program.
 struct Shader
 {
     static constexpr int Variants = 4;
@@ -47,7 +47,7 @@ extern const char* const s_rgbaShader;
 extern const char* const s_tintedIndexedShader;
 extern const char* const s_tintedRgbaShader;
 
-/// Compiles and links all that there are from `custom`, or from `standard` where that is null.
+/// Compiles and links all existing programs from `custom`, or from `standard` if `custom` is null.
 void setupShader(Shader& shader, const char* custom, const char* standard);
 
 }  // namespace Zorv

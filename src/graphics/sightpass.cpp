@@ -1,6 +1,6 @@
-// The picture is copied into a texture, and drawn over itself through a shader. So all that a
-// renderer draws is seen in the same way, by whatever it draws: sprites that are mixed are mixed
-// first, as the light of a screen is.
+// The finished picture is copied into a texture and drawn over itself through a shader. So
+// everything a renderer draws is simulated in the same way, whether by GL or by QPainter. Blending
+// happens before the simulation, as on a real screen.
 
 #include "graphics/sightpass_p.h"
 
@@ -20,9 +20,10 @@ const char* const vertexSource = "attribute highp vec2 position;\n"
                                  "    gl_Position = vec4(position, 0.0, 1.0);\n"
                                  "}\n";
 
-// Bytes are light through the curve of sRGB. Where that is a power, which costs a software renderer
-// most of the frame, it is a polynomial: of the byte one way, of the fourth root of the light the
-// other. Both together are off by less than a fifth of a step, so greys stay the same bytes.
+// The matrix works on linear light, so the shader decodes sRGB, multiplies, and encodes again.
+// pow() costs a software renderer most of the frame, so both curves are polynomials: decoding in
+// the encoded value, encoding in the fourth root of the light. Together their error is below a
+// fifth of a byte step, so greys keep their exact bytes.
 const char* const fragmentSource =
     "uniform sampler2D image;\n"
     "uniform highp mat3 sight;\n"
@@ -76,7 +77,7 @@ void SightPass::apply(QOpenGLFunctions& gl, const QSize& pixels, ColorBlindness 
     if (pixels.isEmpty() || !makeProgram()) {
         return;
     }
-    // What a painter before may have left on.
+    // A previous painter may have left these on.
     for (const GLenum state : {GL_BLEND, GL_DEPTH_TEST, GL_STENCIL_TEST, GL_SCISSOR_TEST}) {
         gl.glDisable(state);
     }

@@ -11,7 +11,7 @@ class QOpenGLShaderProgram;
 
 namespace Zorv {
 
-/// Shows what is drawn in a frame buffer as somebody else sees it. All calls need the context to be
+/// Simulates a colour vision deficiency in a frame buffer. All calls need the context to be
 /// current.
 class SightPass
 {
@@ -19,11 +19,11 @@ public:
     SightPass();
     ~SightPass();
 
-    /// Changes all pixels of the frame buffer that is bound. The program is made at the first call.
-    /// Where it does not compile the picture stays as it is.
+    /// Changes all pixels of the bound frame buffer. The first call creates the program. If it does
+    /// not compile, the picture stays as it is.
     void apply(QOpenGLFunctions& gl, const QSize& pixels, ColorBlindness blindness);
 
-    /// Lets go of what it has in GL.
+    /// Releases its GL objects.
     void free(QOpenGLFunctions& gl);
 
 private:

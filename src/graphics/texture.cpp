@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <utility>
 
-// OpenGL ES has none of these.
+// Not defined by OpenGL ES.
 #ifndef GL_CLAMP
 #define GL_CLAMP 0x2900
 #endif
@@ -28,7 +28,7 @@ namespace Zorv {
 
 namespace {
 
-/// How GL is to keep a texture, and what the bytes of an index are to it.
+/// How GL stores a texture, and how it interprets the bytes of an indexed one.
 struct Formats
 {
     GLint index;
@@ -37,8 +37,8 @@ struct Formats
     GLint clamp;
 };
 
-/// The shaders read the red channel of an index, and no texel of a palette is sampled beside its
-/// ends, so all three look the same.
+/// The choice depends on the GL version. All three look the same: the shaders read only the red
+/// channel of an index and sample palette texels only inside their range.
 Formats formatsOf(const QOpenGLContext& context)
 {
     if (context.isOpenGLES()) {
@@ -58,7 +58,7 @@ void setParameters(QOpenGLFunctions& gl, GLint wrapS)
     gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
 }
 
-/// Whether GL would read no more bytes than there are.
+/// Whether there are enough bytes for GL to read.
 bool isWhole(const Texture::ImageData& data)
 {
     const QSize size = data.textureSize;
@@ -146,7 +146,7 @@ void Texture::fromData(const ImageData& data)
     vMax = double(float(size.height()) / float(data.textureSize.height()));
     kind = data.indexed ? IndexedKind : RgbaKind;
     if (isTooLarge(*scope.gl(), data.textureSize)) {
-        // A name without an image would be drawn in black.
+        // Without an image the name would be drawn black.
         deleteName(scope.gl());
     }
 }
@@ -157,7 +157,7 @@ void Texture::reset()
         const ContextScope scope;
         deleteName(scope.gl());
         if (!isStale()) {
-            // In another thread, or without GL any more.
+            // On another thread, or GL is already gone.
             releaseTextureName(id, m_contextNumber);
         }
         id = 0;

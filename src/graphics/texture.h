@@ -11,64 +11,64 @@ class QOpenGLFunctions;
 
 namespace Zorv {
 
-/// An image or a palette in the memory of the graphics processor.
+/// An image or a palette in the memory of the graphics card.
 ///
-/// An indexed image is one byte a pixel, and the shader finds its colours in a palette texture, so
-/// that another palette needs no new image. Made in the shared context (`context()`), it can be
-/// drawn in every `RenderWidget`. Everything is for the main thread, but the destructor, which any
-/// thread may call, and `dataFromImage()`.
+/// An indexed image has one byte per pixel. The shader looks up its colours in a palette texture,
+/// so changing the palette needs no new image. A texture is created in the shared context
+/// (`context()`) and can be drawn in every `RenderWidget`. Main thread only, except
+/// `dataFromImage()` and the destructor, which any thread may call.
 class ZORV_EXPORT Texture
 {
 public:
-    /// What a texture carries.
+    /// The content of a texture.
     enum Kind { Empty = 0, PaletteKind = 1, IndexedKind = 2, RgbaKind = 3 };
 
-    /// The bytes of an upload, which need no GL to be prepared.
+    /// The data of an upload. Preparing it needs no GL.
     struct ImageData
     {
         QSize size;         ///< of the image
         QSize textureSize;  ///< the same, or the next powers of two where GL needs them
         bool indexed = false;
-        QByteArray bytes;  ///< 1 (indexed) or 4 (R, G, B, A) a pixel, bottom row first
+        QByteArray bytes;  ///< 1 (indexed) or 4 (RGBA) per pixel, bottom row first
     };
 
     Texture();
     explicit Texture(const QImage& image);
 
-    /// Of 256 colours.
+    /// A palette of 256 colours.
     explicit Texture(const RGBA* palette);
     explicit Texture(const ImageData& data);
 
-    /// Has the name deleted by the thread of the context, soon.
+    /// Schedules the deletion of the name in the thread of the context.
     ~Texture();
 
     Texture(const Texture&) = delete;
     Texture& operator=(const Texture&) = delete;
 
-    /// Makes the texture of an image, `Format_Indexed8` or any other. A null one deletes what was
-    /// there.
+    /// Creates the texture of an image, `Format_Indexed8` or any other format. A null image deletes
+    /// the texture.
     void fromImage(const QImage& image);
 
-    /// Makes a palette texture of 256 colours. Null deletes what was there.
+    /// Creates a palette texture of 256 colours. Null deletes the texture.
     void fromPalette(const RGBA* palette);
 
-    /// Makes the texture of prepared data. Empty or too few bytes delete what was there; `id` and
-    /// the rest keep their values then, and the texture draws nothing. One larger than
-    /// `GL_MAX_TEXTURE_SIZE` draws nothing either, but has its fields.
+    /// Creates the texture from prepared data. Empty or too few bytes delete the texture; `id` and
+    /// the other fields then keep their values, and the texture draws nothing. Data larger than
+    /// `GL_MAX_TEXTURE_SIZE` draws nothing either, but sets the fields.
     void fromData(const ImageData& data);
 
-    /// Prepares an upload. An image that is not indexed must have 32 bits a pixel and no bytes
-    /// between its rows, or its rows come out shifted. Bytes stay empty for a null image and for
-    /// more than a gigabyte. On any thread once the context is made.
+    /// Prepares an upload. A non-indexed image must have 32 bits per pixel and no padding between
+    /// rows, otherwise its rows come out shifted. `bytes` stays empty for a null image and above
+    /// one gigabyte. Any thread, once the context exists.
     static void dataFromImage(const QImage& image, ImageData& data);
 
-    /// Deletes the texture at once; `id` is 0.
+    /// Deletes the texture immediately; `id` becomes 0.
     void reset();
 
-    /// Exchanges the names alone.
+    /// Exchanges only the names.
     void swap(Texture& other);
 
-    /// True if `id` was a name, but has been deleted, or has gone with its context.
+    /// True if `id` was a valid name but has been deleted, or is gone with its context.
     bool isStale() const;
 
     int kind = Empty;

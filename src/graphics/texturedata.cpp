@@ -28,8 +28,8 @@ void writeIndices(const QImage& image, int step, char* out)
     }
 }
 
-/// `step` is what rows of the original take: only those of 32 bits a pixel come out right. Other
-/// steps can lead past the end, where zeros are written.
+/// `step` is the number of bytes per source row. Only images of 32 bits per pixel come out right.
+/// Other steps can run past the end; zeros are written there.
 void writeColors(const QImage& image, qint64 step, char* out)
 {
     const auto row = size_t(image.width()) * 4;

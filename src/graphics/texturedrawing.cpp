@@ -1,3 +1,11 @@
+// Drawing of textured triangles with as few GL calls as possible.
+//
+// Every setter compares with a cached value first and calls GL only on a difference. The cache
+// covers blending, the bound program and textures, the uniforms of each program and the vertex
+// arrays. Between begin() and end() nothing else changes the GL state, so the cache stays valid
+// over many draws. Outside of such a batch bind() drops the cache and draw() disables its arrays,
+// so every draw stands alone. end() restores what QPainter expects.
+
 #include "graphics/texturedrawing_p.h"
 
 #include "graphics/glcontext_p.h"
@@ -57,7 +65,7 @@ void TextureDrawing::begin()
 {
     lastProgram = nullptr;
     m_isOpen = true;
-    // QPainter blends in its own way between two runs.
+    // QPainter changes blending between two batches.
     forgetBlending();
     forget();
 }
@@ -155,7 +163,7 @@ bool TextureDrawing::bind(QOpenGLFunctions& gl, Shader& shader, int variant, con
         lastProgram->bind();
         setSamplers(gl, palette != nullptr);
     }
-    // The name of a texture that is gone may be that of another one.
+    // GL reuses names, so an equal name may be another texture.
     if (!m_hasImage || m_image != image.id || m_nameCount != textureNameCount()) {
         activate(gl, 0);
         gl.glBindTexture(GL_TEXTURE_2D, image.id);
@@ -181,7 +189,7 @@ void TextureDrawing::activate(QOpenGLFunctions& gl, int unit)
     }
 }
 
-// The sampler of the palette stays what it was when the first image of a program has none.
+// Without a palette, the palette sampler keeps its value.
 void TextureDrawing::setSamplers(QOpenGLFunctions& gl, bool hasPalette)
 {
     if (m_shader->image >= 0 && m_uniforms->image != 0) {
@@ -245,7 +253,7 @@ void TextureDrawing::setArrays(QOpenGLFunctions& gl, const float* positions, con
     const std::pair<Array&, Array> arrays[] = {{m_positions, {m_shader->position, positions}},
                                                {m_texCoords, {m_shader->texCoord, texCoords}}};
     for (const auto& [known, wanted] : arrays) {
-        // Another program may have its inputs the other way round.
+        // Another program may have the two locations swapped.
         if (known.location >= 0 && known.location != wanted.location) {
             disableArrays(gl);
         }

@@ -11,18 +11,18 @@ namespace Zorv {
 
 class Texture;
 
-/// The programs of a widget, and the state that its GL context is known to be in, so that no call
-/// sets what is set already. All calls need the context to be current.
+/// The programs of a widget, and a cache of the state of its GL context, so that nothing is set
+/// twice. All calls need the context to be current.
 class TextureDrawing
 {
 public:
-    /// Compiles nothing; the programs are children of `parent`.
+    /// Creates the programs as children of `parent`, without compiling them.
     void makePrograms(QObject* parent);
     void deletePrograms();
     bool hasPrograms() const { return indexed.programs[0] != nullptr; }
 
-    /// The shader that tints such an image. It is made when it is asked for first: most stages
-    /// never do.
+    /// The tinting shader for indexed or other images. Created on first use, because most stages
+    /// never tint.
     Shader& tinted(bool isIndexed, QObject* parent);
 
     void begin();
@@ -33,20 +33,20 @@ public:
     void setBlendFunction(QOpenGLFunctions& gl, Renderer::BlendFactor source,
                           Renderer::BlendFactor destination);
 
-    /// Binds program and textures; false if the program is not whole.
+    /// Binds program and textures; false if the program did not compile.
     bool bind(QOpenGLFunctions& gl, Shader& shader, int variant, const Texture& image,
               const Texture* palette);
     void setMatrix(QOpenGLFunctions& gl, const QMatrix4x4& matrix);
     void setMaskAndOpacity(QOpenGLFunctions& gl, bool mask, float opacity);
     void setTint(QOpenGLFunctions& gl, QRgb tint);
 
-    /// Somebody else has had the context.
+    /// Drops the cached state, because other code has used the context.
     void forget();
 
-    /// Draws triangles of two floats a vertex. `positions` is compared as an address alone.
+    /// Draws triangles with two floats per vertex. `positions` is compared by address only.
     void draw(QOpenGLFunctions& gl, const float* positions, const float* texCoords, int vertices);
 
-    /// Where the texture coordinates of the unit square stand, in the order of its corners.
+    /// The texture coordinates of the unit square, in the order of its corners.
     const float* unitTexCoords(float uMax, float vMax, unsigned char flip);
 
     Shader indexed;
@@ -56,7 +56,7 @@ public:
     const Texture* lastPalette = nullptr;
     QOpenGLShaderProgram* lastProgram = nullptr;
     QMatrix4x4 projection;
-    std::vector<float> tiles;  // kept, for the next draw to need no memory
+    std::vector<float> tiles;  // kept to save an allocation in the next draw
 
 private:
     struct Array
@@ -77,7 +77,7 @@ private:
     Uniforms* m_uniforms = nullptr;
 
     bool m_blendEnabled = false;
-    int m_blendEquation = 0;  // 0, -1 and -1: not known
+    int m_blendEquation = 0;  // 0, -1 and -1: unknown
     int m_blendSource = -1;
     int m_blendDestination = -1;
 

@@ -1,3 +1,13 @@
+// Tiled drawing of an image, in one of two ways.
+//
+// Without gaps, the tiles are one large quad over which the texture repeats. Where GL cannot repeat
+// textures that are not powers of two, this needs even image sides. Otherwise every tile is its own
+// pair of triangles.
+//
+// Above MaxTiles the visible tiles are found first: the widget, in clip space from -1 to 1, is
+// mapped back by the inverse matrix, and columns and rows outside of it are dropped. If too many
+// pairs of triangles remain even then, the last ones are cut off.
+
 #include "graphics/renderer.h"
 
 #include "graphics/renderwidget.h"
@@ -16,15 +26,14 @@ namespace {
 
 constexpr qint64 MaxTiles = 1 << 16;
 
-/// The numbers of the tiles of one direction that are drawn: each lies `step` behind the one before
-/// it, from 0, and is 1 wide.
+/// The range of visible tiles in one direction. Tile n starts at n times `step` and is 1 wide.
 struct TileRange
 {
     int first = 0;
     int count = 0;
     double step = 0;
 
-    /// Leaves out what lies outside of `from` to `to`.
+    /// Drops tiles outside of `from` to `to`.
     void clip(double from, double to)
     {
         if (!std::isfinite(from) || !std::isfinite(to) || step == 0) {
@@ -43,7 +52,7 @@ struct TileRange
     }
 };
 
-/// Leaves out the tiles outside of the widget. False if nothing at all is to be seen.
+/// Drops tiles outside of the widget. False if nothing is visible.
 bool clipToWidget(TileRange& columns, TileRange& rows, const QMatrix4x4& matrix)
 {
     bool isInvertible = false;
@@ -56,7 +65,8 @@ bool clipToWidget(TileRange& columns, TileRange& rows, const QMatrix4x4& matrix)
     return isInvertible && columns.count > 0 && rows.count > 0;
 }
 
-/// More tiles than GL should be asked for. Of those that lie on top of each other there are enough.
+/// Limits the number of tiles. So many visible tiles lie on top of each other, and the bounded
+/// number covers the widget as well.
 bool bound(TileRange& columns, TileRange& rows, const QMatrix4x4& matrix)
 {
     if (qint64(columns.count) * rows.count <= MaxTiles) {
@@ -72,8 +82,8 @@ bool bound(TileRange& columns, TileRange& rows, const QMatrix4x4& matrix)
     return true;
 }
 
-/// Two triangles a tile, and as many degenerate ones behind: the draw takes a vertex for every
-/// number of the filled half.
+/// Writes two triangles per tile, followed by as many degenerate ones: the draw call takes one
+/// vertex per float of the filled half.
 void fillTiles(std::vector<float>& out, const TileRange& columns, const TileRange& rows)
 {
     out.clear();
@@ -91,7 +101,8 @@ void fillTiles(std::vector<float>& out, const TileRange& columns, const TileRang
     out.resize(out.size() * 2, 0.0F);
 }
 
-/// As many as fit, and by how many sizes of the image they begin before the origin.
+/// Computes how many tiles fill the widget, and how far before the origin they start, in image
+/// sizes.
 void fillWidget(int& tiles, double& offset, int widgetSide, int imageSide, double origin)
 {
     if (tiles < 2) {
@@ -138,7 +149,7 @@ void Renderer::glDrawImageTiled(QPoint tiles, QPoint spacing, const QMatrix4x4& 
     }
 }
 
-// One square, over which the texture repeats; whole repetitions can be left out.
+// One quad over which the texture repeats. Whole repetitions outside the widget can be dropped.
 void Renderer::drawRepeated(QPoint tiles, const Texture& image, unsigned char flip,
                             const QMatrix4x4& matrix)
 {
@@ -160,8 +171,7 @@ void Renderer::drawRepeated(QPoint tiles, const Texture& image, unsigned char fl
     state.draw(*this, state.tiles.data(), texCoords, 6);
 }
 
-// The places of the corners are their texture coordinates, too. The gap is measured from the place
-// that the projection gives it.
+// The corner positions are also the texture coordinates. The gap is measured after projection.
 void Renderer::drawTiles(QPoint tiles, QPoint spacing, const QMatrix4x4& matrix)
 {
     TextureDrawing& state = m_widget->d->drawing;

@@ -7,10 +7,8 @@
 
 class QSpinBox;
 
-/// Shows where the extra cross of the stage stands, in model units, and lets the person type
-/// another place. It stays open beside the stage, and takes no focus when it comes.
-///
-/// Main thread only.
+/// Shows the position of the extra cross of the stage, in model units, and lets the user type a new
+/// one. It stays open beside the stage and does not take the focus when it opens.
 class ZORV_EXPORT ExAxisDlg : public QDialog
 {
     Q_OBJECT
@@ -22,18 +20,18 @@ public:
     /// Opens with that position.
     void display(QPoint position);
 
-    /// Shows a position without telling of it by `changeAxis()`.
+    /// Shows a position without emitting `changeAxis()`.
     void setPosition(QPoint position);
     QPoint position() const;
 
-    /// What the button that closes the window and Escape both come to.
+    /// Handles both the close button of the window and Escape.
     void reject() override;
 
 signals:
-    /// The person has chosen another position.
+    /// The user has entered another position.
     void changeAxis(QPoint position);
 
-    /// The person has closed the dialog.
+    /// The user has closed the dialog.
     void extraAxisClosed();
 
 private:

@@ -1,5 +1,5 @@
-// What the settings say about the stage, and what of it is kept there. A hand may have written any
-// number into them, and a host may know none of them: then what is in force stays.
+// Loads and saves the stage's settings. Users may have edited the file by hand, so any number can
+// be out of range, and a host may lack a setting altogether. In that case the current value stays.
 
 #include "core/interface.h"
 #include "core/project.h"
@@ -20,7 +20,7 @@ QVariant option(const Interface* host, const char* key)
     return host->option(QLatin1String(key));
 }
 
-/// A number from 0 on and below `count`.
+/// A setting from 0 up to, but not including, `count`.
 int choice(const Interface* host, const char* key, int count, int inForce)
 {
     const QVariant stored = option(host, key);
@@ -42,7 +42,7 @@ QPoint bounded(QPoint origin)
 
 void GraphicsWorkspacePrivate::applySettings()
 {
-    // All stages share what is set here: any will do, also while none is attached.
+    // All stages share these values, so any instance will do, even if none is attached.
     GraphicsRenderer stages;
     applyBackground(screenOfProject());
     const QVariant opacity = option(host, "box_opacity");
@@ -55,7 +55,8 @@ void GraphicsWorkspacePrivate::applySettings()
                         option(host, "crosshair_extra").toString());
     stages.setPriority(option(host, "sprite_over_guides").toBool(),
                        option(host, "contact_over_cross").toBool());
-    // The names of the two settings are crossed; files of settings have them so.
+    // The two settings have each other's meaning. Existing settings files rely on that, so it
+    // stays.
     stages.setZoomTable(static_cast<unsigned char>(choice(host, "zoom_mode", 2, Zoom::table)));
     stages.setZoomMode(GraphicsRenderer::ZoomMode(choice(host, "zoom_center", 2, Zoom::mode)));
     if (stage()) {
@@ -77,7 +78,7 @@ void GraphicsWorkspacePrivate::applyBackground(QSize resolution)
     }
 }
 
-/// In pixels of sprites; invalid if that is not known.
+/// In sprite pixels; invalid if not known.
 QSize GraphicsWorkspacePrivate::screenOfProject() const
 {
     const Project* project = host->currentProject();
@@ -116,7 +117,7 @@ void GraphicsWorkspacePrivate::centerFirstOrigin()
     }
 }
 
-/// What the person has changed a moment ago counts.
+/// A running timer means that the user has just changed the zoom and it is not saved yet: keep it.
 void GraphicsWorkspacePrivate::restoreZoom()
 {
     if (storeTimer.isActive()) {

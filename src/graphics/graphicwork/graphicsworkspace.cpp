@@ -14,7 +14,7 @@ namespace Zorv {
 
 namespace {
 
-constexpr int StoreDelay = 200;  // milliseconds, for a drag of the whole stage to come to its end
+constexpr int StoreDelay = 200;  // milliseconds; so a drag is saved once, at its end
 constexpr unsigned CenterText = 2;
 
 const char* const areas[] = {"all", nullptr};
@@ -72,7 +72,7 @@ void GraphicsWorkspacePrivate::publish()
         QAction* action = tools.action(row.name);
         const QVariant stored = host->option(QLatin1String(row.key));
         action->setChecked(stored.isValid() ? stored.toBool() : row.isCheckedAtFirst);
-        // Whoever checks it: a person, or the dialog of the extra cross that is closed.
+        // Saved whoever toggles it: the user, or the extra-cross dialog when it closes.
         connect(action, &QAction::toggled, this, [this, key = row.key](bool isChecked) {
             store(key, isChecked);
             visibilityChanged();

@@ -14,95 +14,97 @@ class GraphicsWorkspacePrivate;
 class RenderWidget;
 class TimeLineWidget;
 
-/// The workspace of what is drawn: the stage, with a time line below it, and the tools that tell
-/// what of it is seen.
+/// The graphics workspace: the stage with a time line below it, and the tools that show and hide
+/// parts of the stage.
 ///
-/// There is one for the process. Editors attach their renderer while they are in front. It
+/// There is one per process. An editor attaches its renderer while it is in front. The workspace
 /// publishes "view_center_origin" and the checkable "view_main_cross", "view_secondary_cross",
 /// "view_extra_cross", "view_rulers", "view_guide_lines", "view_attack_box" and
-/// "view_collision_box". What they show, the origin and the zoom are kept in the settings when they
-/// change; until there is an origin in them, it is put into the middle of the stage. Numbers of
-/// the settings that are out of range become the nearest that is not. What the settings say of the
-/// stage's look is handed to all stages.
+/// "view_collision_box". Their states, the origin and the zoom are saved to the settings on change.
+/// While the settings contain no origin, it is placed in the middle of the stage. Numbers in the
+/// settings that are out of range are clamped. The settings for the look of the stage are applied
+/// to all stages.
 ///
-/// The stage is made when the widget is shown first and has no notice: whoever has nothing to draw
-/// pays for no GL. On a display whose GL does not work none is ever made, a text stands in its
-/// place, and all else works. Main thread only.
+/// The stage is created when the widget is first shown without a notice, so GL is not started for
+/// users who draw nothing. If GL does not work on the display, no stage is created: a text takes
+/// its place and everything else works. Main thread only.
 class ZORV_EXPORT GraphicsWorkspace : public Workspace
 {
     Q_OBJECT
 
 public:
-    /// The crosses, as the stage numbers them.
+    /// The crosses, numbered like those of the stage.
     enum Cross { MainCross = 0, SecondaryCross = 1, ExtraCross = 2 };
 
-    /// Takes the installed host, which must outlive the workspace.
+    /// Uses the installed host, which must outlive the workspace.
     explicit GraphicsWorkspace(QObject* parent = nullptr);
     ~GraphicsWorkspace() override;
 
     /// "graphics".
     QString name() const override;
 
-    /// Stage and time line. A host that does not put it into a window leaves it to the workspace.
+    /// The stage and the time line. If the host does not put the widget into a window, the
+    /// workspace keeps ownership.
     QWidget* widget() const override;
 
-    /// Null without usable GL, and until `renderWidgetMade()`.
+    /// Null without working GL, and until `renderWidgetMade()`.
     RenderWidget* renderWidget() const;
     TimeLineWidget* timeLine() const;
 
     /// Null until one is attached.
     GraphicsRendererBase* renderer() const;
 
-    /// Shows a renderer, which is not owned and has to be taken off, by null, before it goes. It
-    /// gets the zoom of the one before. Zoom levels, crosses and the look are those of a
-    /// `GraphicsRenderer`; another kind of renderer is shown, and told of nothing. A press that the
-    /// one before has under way ends as if the button had been released.
+    /// Shows a renderer and gives it the zoom of the previous one. Not owned: set null before it is
+    /// destroyed. Zoom levels, crosses and look apply only to a `GraphicsRenderer`; any other
+    /// renderer is shown without them. If the previous renderer has a drag in progress, it ends as
+    /// if the button had been released.
     void setRenderer(GraphicsRendererBase* renderer);
 
-    /// Enables the tool of a cross, as it is at first. A cross whose tool is disabled is not shown.
+    /// Enables or disables the tool of a cross; tools are enabled at first. A cross whose tool is
+    /// disabled is hidden.
     void enableCross(Cross cross, bool isEnabled);
 
-    /// Tells the fields of the extra cross where it stands, in model units. They do not tell back.
+    /// Shows the position of the extra cross, in model units, in its input fields. Emits nothing.
     void setExtraAxis(QPoint position);
 
-    /// Shows a text in place of the stage; an empty one shows the stage.
+    /// Shows a text instead of the stage; an empty text shows the stage.
     void setNotice(const QString& text);
 
-    /// What stands there on a display whose GL does not work, in plain words.
+    /// The text shown instead of the stage if GL does not work, in plain words.
     void setUnusableText(const QString& text);
 
     void activate() override;
 
-    /// Takes the renderer off.
+    /// Detaches the renderer.
     void deactivate() override;
 
-    /// Takes the look of the stage anew.
+    /// Applies the settings for the look of the stage again.
     void reconfig() override;
     void retranslate() override;
 
     /// Emits `statusBarClicked()`.
     void statusClicked() override;
 
-    /// Of the renderer.
+    /// Forwarded to the renderer.
     void zoomActual() override;
     void zoomIn() override;
     void zoomOut() override;
 
 public slots:
-    /// Repaints stage and time line.
+    /// Repaints the stage and the time line.
     void update();
 
-    /// Fits the picture of the ground to the screen of the project in front. Nothing without a
-    /// project, or with one that tells no scale.
+    /// Chooses the background picture for the screen size of the current project. Does nothing
+    /// without a project, or if the project has no scale.
     void fitBackground();
 
 signals:
     void statusBarClicked();
 
-    /// The person has typed another place of the extra cross, which stands there now.
+    /// The user has typed a new position of the extra cross; the cross is already there.
     void extraAxisChanged(QPoint pos);
 
-    /// There is a `renderWidget()` now.
+    /// `renderWidget()` has been created.
     void renderWidgetMade();
 
 private:

@@ -21,7 +21,7 @@ class GraphicsWorkspacePrivate : public QObject
     Q_OBJECT
 
 public:
-    /// What can be hidden, in the order of the tools.
+    /// The parts that can be hidden, in the order of their tools.
     enum Part {
         MainCross,
         SecondaryCross,
@@ -38,7 +38,7 @@ public:
 
     void publish();
 
-    /// Null for a renderer that is none.
+    /// Null if the renderer is not a `GraphicsRenderer`.
     GraphicsRenderer* stage() const;
 
     void visibilityChanged();
@@ -63,10 +63,10 @@ public:
     GraphicsRendererBase* renderer = nullptr;
     std::array<QPointer<QAction>, PartCount> actions;
     QPointer<ExAxisDlg> extraAxis;
-    QPoint extraAxisPlace;  // of the dialog, when it was hidden last
+    QPoint extraAxisPlace;  // where the dialog was when last hidden
     QTimer storeTimer;
     bool isActive = false;
-    bool waitsForOrigin = false;  // none in the settings, and no stage to put it into the middle of
+    bool waitsForOrigin = false;  // no origin in the settings, and no stage yet to center it
     QPoint originAtFirst;
 
 public slots:

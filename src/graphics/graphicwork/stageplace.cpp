@@ -74,7 +74,7 @@ void StagePlace::takeStage()
     emit stageMade();
 }
 
-/// The stage is worth more than what is around it.
+/// The stage has priority: the strip is hidden when there is no room for both.
 void StagePlace::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);

@@ -8,7 +8,7 @@ class RenderPlace;
 class RenderWidget;
 class TimeLineWidget;
 
-/// Where the stage stands, with the time line below it.
+/// Holds the stage, with the time line below it.
 class StagePlace : public QWidget
 {
     Q_OBJECT
@@ -16,18 +16,18 @@ class StagePlace : public QWidget
 public:
     StagePlace();
 
-    /// Null without usable GL, and before it was shown.
+    /// Null without working GL, and before the widget is first shown.
     RenderWidget* stage() const;
     TimeLineWidget* timeLine() const { return m_timeLine; }
 
-    /// As the stage has heard of it last; empty before.
+    /// The size in the last resize event of the stage; empty before the first.
     QSize stageSize() const { return m_stageSize; }
 
     void setNotice(const QString& text);
     void setUnusableText(const QString& text);
     void retranslate();
 
-    /// The stage alone: the time line comes where there is room.
+    /// The minimum of the stage only. The time line appears when there is room for it.
     QSize minimumSizeHint() const override;
 
 signals:
@@ -42,7 +42,7 @@ private:
     void takeStage();
 
     RenderPlace* m_place;
-    QWidget* m_strip;  // holds the time line, which others show and hide
+    QWidget* m_strip;  // holds the time line, which other code shows and hides
     TimeLineWidget* m_timeLine;
     QSize m_stageSize;
 };

@@ -12,7 +12,8 @@ namespace Zorv {
 
 namespace {
 
-/// A list of boxes that is found again, by the line of its frame, after every edit.
+/// Finds a list of boxes again after every edit, by the line of its frame: an edit may parse the
+/// frame again and so replace the list.
 class ListInText
 {
 public:

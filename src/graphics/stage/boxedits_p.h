@@ -14,18 +14,18 @@ namespace Zorv {
 
 class CodeDocument;
 
-/// What becomes of a box of a list; without a rectangle it goes.
+/// One change of a box: its new rectangle, or its removal if there is none.
 struct BoxEdit
 {
     int index;
     std::optional<QRect> rect;
 };
 
-/// Edits of every list, each in the order in which they are done.
+/// The edits of every list, in the order in which they are applied.
 using BoxEdits = std::array<QVector<BoxEdit>, BoxTypes>;
 
-/// Does the edits; with a document as one step of undo with that title. Every edit may have boxes,
-/// lists and frames made anew, and the stage with them.
+/// Applies the edits; with a document, as one undo step with that title. Every edit may recreate
+/// boxes, lists and frames, and refill the stage.
 void applyBoxEdits(const BoxEdits& edits, const std::array<ContactBoxes, BoxTypes>& boxes,
                    CodeDocument* document, const QString& title);
 

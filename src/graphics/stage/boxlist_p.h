@@ -10,24 +10,25 @@ class CodeDocument;
 class ContactBoxesCode;
 class FrameCode;
 
-/// A list of boxes in a text, of which it is known whether it is still there.
+/// A pointer to a list of boxes in a text that knows whether the list still exists.
 ///
-/// The list goes with its frame, and a frame is read anew, or goes with its document, at any edit.
+/// The list belongs to its frame. Any edit can parse the frame again or destroy its document.
 class BoxList
 {
 public:
     BoxList() = default;
-    BoxList(ContactBoxesCode* code);  // NOLINT: it stands for the list
+    BoxList(ContactBoxesCode* code);  // NOLINT: implicit, it represents the list
 
-    /// Null once the frame has gone.
+    /// Null once the frame is gone.
     ContactBoxesCode* get() const;
 
-    /// The box at a place if it still is the one at this address, which is not followed.
+    /// The box at `index` if it is still `known`, else null. `known` may dangle; it is never
+    /// dereferenced.
     ContactBoxCode* box(int index, const ContactBoxCode* known) const;
 
 private:
     ContactBoxesCode* m_code = nullptr;
-    QPointer<CodeDocument> m_document;  // null for a list outside of any text
+    QPointer<CodeDocument> m_document;  // null for a list that is in no text
     FrameCode* m_frame = nullptr;
 };
 

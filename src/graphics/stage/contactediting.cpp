@@ -1,3 +1,11 @@
+// Moving and resizing of selected boxes, on the stage first and then in the text.
+//
+// A drag changes only the stage's copies (ContactItem); `updateSelectedBoxes()` writes them to the
+// text afterwards, in one undo step. A resize is always computed from the rectangles at the press,
+// never from the previous mouse move, so rounding errors cannot add up. All selected boxes stretch
+// together: the drag changes the rectangle around the selection, and every box is scaled by the
+// same factor and shifted by the same amount.
+
 #include "code/codedoc/contactboxescode.h"
 #include "graphics/stage/boxedits_p.h"
 #include "graphics/stage/graphicsrenderer.h"
@@ -21,7 +29,7 @@ bool movesTop(GraphicsRenderer::RenderElement sizer)
     return sizer <= GraphicsRenderer::TopRightSizer;
 }
 
-/// One axis of a resize: where an edge comes to, and what lengths are multiplied by.
+/// One axis of a resize: the factor for lengths and the mapping of places.
 struct Stretch
 {
     Stretch(int oldLow, int oldHigh, int newLow, int newHigh)
@@ -67,7 +75,7 @@ void GraphicsRendererPrivate::moveContact(QPoint delta)
                           stageSum(selectionRect.bottomRight(), {dx, dy}));
 }
 
-// Boxes that have moved since they were set are in the text where they are now.
+// Starts a resize from the rectangles in the text: boxes may have moved since they were set.
 void GraphicsRendererPrivate::beginResize()
 {
     selectionStart = selectionRect;
@@ -83,7 +91,7 @@ void GraphicsRendererPrivate::beginResize()
 
 void GraphicsRendererPrivate::resizeContact(RenderElement sizer, QPoint delta)
 {
-    // What was selected at the press may be so no more.
+    // The selection at the press may be gone by now.
     if (!hasSelection && clickMode != GraphicsRenderer::DrawContactBoxMode) {
         return;
     }
@@ -159,7 +167,8 @@ void GraphicsRendererPrivate::tellSelection()
     }
 }
 
-/// Of many, where one stands is of no interest, and to compare them all costs more than the move.
+/// Reports a moved box, but only if it is the only one selected. For many, no one needs the
+/// position, and comparing them all costs more than the move.
 void GraphicsRendererPrivate::tellMovedBox()
 {
     if (toldSelection.size() == 1) {
@@ -247,8 +256,8 @@ void GraphicsRenderer::updateSelectedBoxes()
             }
             ++selected;
             if (item.rect() != box->rect()) {
-                // One that a handle turned over is the right way round from here on, as in the
-                // text, and so stays selected.
+                // A box that was flipped by a handle is normalized here, as in the text. Otherwise
+                // it would no longer match and lose its selection.
                 item.setRect(item.normalRect());
                 edits[list].append({i, item.rect()});
             }
@@ -267,7 +276,7 @@ void GraphicsRenderer::removeSelectedContactBoxes()
     BoxEdits edits;
     for (std::size_t list = 0; list < edits.size(); ++list) {
         ContactBoxes& boxes = d->contactBoxes[list];
-        // From the last on, so that the places of the others stay what they are.
+        // Backwards, so that the indices of the remaining boxes stay valid.
         for (int i = boxes.items.size() - 1; i >= 0; --i) {
             const ContactItem& item = boxes.items.at(i);
             if (item.selected && boxes.code.box(i, item.box)) {

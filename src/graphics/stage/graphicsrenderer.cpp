@@ -11,7 +11,7 @@ namespace Zorv {
 
 namespace {
 
-// The keys of what a provider tells of a sprite.
+// The keys of a sprite's values in a provider.
 enum SpriteKey : unsigned {
     PositionKey = 0,
     ModeKey = 1,
@@ -23,7 +23,7 @@ enum SpriteKey : unsigned {
     LayerKey = 7
 };
 
-/// Gives whether `field` was another value.
+/// Returns whether `field` has changed.
 template <typename T>
 bool replace(T& field, const T& value)
 {
@@ -32,7 +32,7 @@ bool replace(T& field, const T& value)
     return isNew;
 }
 
-/// Of 0 to 1; what is no number is 1.
+/// Clamped to 0 to 1; not-a-number becomes 1.
 float boundedOpacity(float opacity)
 {
     return opacity >= 0 ? std::min(opacity, 1.0F) : opacity < 0 ? 0.0F : 1.0F;
@@ -124,10 +124,10 @@ void GraphicsRenderer::setSprites(SpriteProvider* provider)
     if (provider) {
         connect(provider, &SpriteProvider::changed, this, &GraphicsRenderer::spritesChanged);
         connect(provider, &SpriteProvider::changedAt, this, &GraphicsRenderer::spriteChangedAt);
-        // The slots take the sprites alone; the signals are to be seen.
+        // The slots above only read the sprites. The repaint is separate.
         connect(provider, &SpriteProvider::changed, this, [this] { update(); });
         connect(provider, &SpriteProvider::changedAt, this, [this] { update(); });
-        // Its sprites may go with it.
+        // Its sprites may be destroyed with it.
         connect(provider, &QObject::destroyed, this, [this] {
             d->spriteItems.clear();
             update();
@@ -178,7 +178,7 @@ void GraphicsRenderer::spriteChangedAt(unsigned int index)
     if (item.sprite != d->spriteItems.at(int(index)).sprite) {
         d->clicked = {};
     }
-    // A provider may change its list when it is asked.
+    // Checked again: a provider may change its list during the calls above.
     if (index < static_cast<unsigned>(d->spriteItems.size())) {
         SpriteItem& before = d->spriteItems[static_cast<int>(index)];
         if (before.sprite != item.sprite) {
@@ -201,7 +201,7 @@ void GraphicsRenderer::setContactBoxes(ContactBoxCode::BoxType type, ContactBoxe
     if (!isBoxType(type)) {
         return;
     }
-    // Type 1 is set first of all, and so begins the selection anew.
+    // Type 1 is always set first, so it resets the selection.
     if (type == ContactBoxCode::Attack) {
         d->hasSelection = false;
         d->resetSelectionRect();
@@ -252,7 +252,7 @@ void GraphicsRenderer::setOnionSkin(bool enabled, OnionEffect effect, float opac
 
 void GraphicsRenderer::setOnionSkinSprite(const Sprite* sprite, QPoint offset)
 {
-    // The offset alone is not looked at: callers that step through equal sprites rely on it.
+    // Ignores the offset on purpose: callers that step through equal sprites rely on it.
     if (sprite != d->onionSprite) {
         replaceOnionSkinSprite(sprite, offset);
     }

@@ -23,19 +23,19 @@ class GraphicsRendererPrivate;
 class Sprite;
 class SpriteProvider;
 
-/// The stage: the sprites of a frame with crosses, contact boxes, guides, rulers and onion skin,
-/// and what mouse and keys do with them.
+/// The stage. It draws the sprites of a frame with crosses, contact boxes, guides, rulers and onion
+/// skin, and handles mouse and keys.
 ///
 /// Stage coordinates are pixels of the widget, from the top left. Model units are pixels of the
-/// game; times the zoom, and rounded, they are pixels of the widget. All stages of the process
-/// share origin, zoom table and mode, priorities, colours, crosses and background. Whatever shows
-/// is repainted. Main thread only.
+/// game. To convert model units to widget pixels, multiply by the zoom and round. All stages of the
+/// process share origin, zoom table and mode, priorities, colours, crosses and background. Every
+/// visible change repaints. Main thread only.
 class ZORV_EXPORT GraphicsRenderer : public QObject, public GraphicsRendererBase
 {
     Q_OBJECT
 
 public:
-    /// What stands on the stage.
+    /// The kinds of items on the stage.
     enum ItemType {
         MainCross = 0,
         SecondaryCross = 1,
@@ -44,7 +44,7 @@ public:
         ContactBoxesType = 4
     };
 
-    /// What lies under the pointer. Sizers are the eight handles around selected boxes.
+    /// The element under the pointer. Sizers are the eight handles around selected boxes.
     enum RenderElement {
         StageElement = 0,
         SpriteElement = 1,
@@ -67,7 +67,7 @@ public:
     /// What a press of the left button does.
     enum ClickMode { PositioningMode = 0, DrawContactBoxMode = 1, CaptureMode = 2 };
 
-    /// Which point stays where it is when the zoom changes, for what is not relative to anything.
+    /// The fixed point of a zoom change, for everything that is not relative to something else.
     enum ZoomMode { ZoomAboutCenter = 0, ZoomAboutOrigin = 1 };
 
     /// How the onion skin is shown.
@@ -75,15 +75,16 @@ public:
 
     enum BackgroundType {
         GradientBackground = 0,    ///< two colours
-        ResolutionBackground = 1,  ///< a picture of the library for a size of screen
-        FileBackground = 2         ///< a picture of the person
+        ResolutionBackground = 1,  ///< a picture of the library, chosen by screen size
+        FileBackground = 2         ///< the user's own picture
     };
 
     /// Which pictures the crosses have.
     enum CrossHairType { SmallCrosses = 0, LargeCrosses = 1, FileCrosses = 2 };
 
-    /// A selected box as it stands on the stage, which may differ from the text: its place in its
-    /// list, and its rectangle in model units, left and top first.
+    /// A selected box as the stage shows it, which may differ from the text: its type, its index in
+    /// its list, and its rectangle in model units. The rectangle is normalized: left and top come
+    /// first.
     struct SelectedBox
     {
         ContactBoxCode::BoxType type;
@@ -106,28 +107,28 @@ public:
     void setVisibility(bool cross0, bool cross1, bool cross2, bool boxes1, bool boxes2, bool rulers,
                        bool guides);
 
-    /// What is drawn above what, and so is found first under the pointer.
+    /// Sets the stacking order. What is drawn on top is also found first under the pointer.
     void setPriority(bool spriteOverGuides, bool contactOverCross);
     bool spriteOverGuides() const;
     bool contactOverCross() const;
 
-    /// The colours of the ground from top to bottom, and the picture on it. `position` is in model
-    /// units from the origin; that of a resolution picture is its own. `resolution` is the size of
-    /// screen that it is for. A file that cannot be read is left out. The colours reach down 256
-    /// pixels until `sizeChanged()` of any stage fits them to its widget; see `setGroundFitted()`.
+    /// Sets the background gradient, from top to bottom, and the picture on it. `position` is in
+    /// model units from the origin; a resolution picture ignores it and uses its own. `resolution`
+    /// is the screen size the picture is for. An unreadable file is left out. The gradient is 256
+    /// pixels high until `sizeChanged()` of any stage fits it to its widget; see
+    /// `setGroundFitted()`.
     void setBackground(QColor start, QColor end, BackgroundType type, QPoint position,
                        const QString& file, QSize resolution);
 
-    /// With true, the colours of the ground always reach to the bottom of this stage, whatever the
-    /// others do. False at first.
+    /// If true, the background gradient always reaches the bottom of this stage, whatever the other
+    /// stages do. The default is false.
     void setGroundFitted(bool isOn);
 
-    /// The pictures of the crosses; a file that does not exist is replaced by the small cross of
-    /// its place.
+    /// Sets the pictures of the crosses. If a file does not exist, the small cross is used instead.
     void setCrossHair(CrossHairType type, const QString& main, const QString& secondary,
                       const QString& extra);
 
-    /// Where model (0,0) stands, in pixels of the widget.
+    /// Position of model (0,0), in widget pixels.
     QPoint origin() const;
     void setOrigin(QPoint origin);
     void centralize() override;
@@ -136,36 +137,39 @@ public:
     QPoint guideLines() const;
     void setGuideLines(QPoint guides);
 
-    /// Shows the sprites of a provider, which is not owned and may go; null shows none. Its sprites
-    /// must be there until it tells of others.
+    /// Shows the sprites of a provider; null shows none. The provider is not owned and may be
+    /// destroyed at any time. Its sprites must stay alive until it signals a change.
     void setSprites(SpriteProvider* provider);
     SpriteProvider* spriteProvider() const;
 
-    /// The colours of boxes of types 1 and 2, and the factor of their inside's opacity, 0 to 1.
+    /// Sets the colours of boxes of types 1 and 2. `opacity` is a factor for the opacity of their
+    /// interior, 0 to 1.
     void setupContactBoxes(QColor first, QColor second, float opacity);
 
-    /// Shows the boxes of a kind; null shows none. To be called again after every change of the
-    /// text: boxes that are selected stay so if their rectangle is still the same. Not owned. A
-    /// list whose frame has been read anew, or whose document has gone, is known to be gone: its
-    /// boxes are still shown, and changed no more.
+    /// Shows the boxes of one type; null shows none. Not owned. Call it again after every change of
+    /// the text: selected boxes stay selected if their rectangle is unchanged.
+    ///
+    /// The stage notices when the list is gone because its frame was parsed again or its document
+    /// was destroyed. It still shows the boxes then, but no longer edits them.
     void setContactBoxes(ContactBoxCode::BoxType type, ContactBoxesCode* code);
 
-    /// The list that was set, null once it is gone.
+    /// The list that was set; null once it is gone.
     ContactBoxesCode* boxes(ContactBoxCode::BoxType type) const;
 
-    /// Shows another frame's sprite through. `opacity` is from 0 to 1.
+    /// Switches the onion skin, the translucent sprite of another frame. `opacity` is 0 to 1.
     void setOnionSkin(bool enabled, OnionEffect effect, float opacity);
 
-    /// That sprite, and the place of the anchor of the main cross on it in model units. Compares
-    /// the sprite alone: nothing for the one that is there. Not owned: null is to be set before it
-    /// goes.
+    /// Sets the sprite of the onion skin. `offset` is the anchor of the main cross on that sprite,
+    /// in model units. Compares only the sprite: if it is the current one, nothing happens and
+    /// `offset` is ignored. Not owned: set null before the sprite is destroyed.
     void setOnionSkinSprite(const Sprite* sprite, QPoint offset);
 
-    /// The same, and the one that is there may have another place, or other pixels.
+    /// Like `setOnionSkinSprite()`, but also applies a new offset or new pixels of the current
+    /// sprite.
     void replaceOnionSkinSprite(const Sprite* sprite, QPoint offset);
 
-    /// Shows these, too, one above the other, while the onion skin is enabled, with its opacity and
-    /// its effect. Their sprites must be there until others are set.
+    /// Sets additional skins, drawn one above the other while the onion skin is enabled, with its
+    /// opacity and its effect. Their sprites must stay alive until other skins are set.
     void setOnionSkins(const QVector<OnionSkin>& skins);
     const QVector<OnionSkin>& onionSkins() const;
 
@@ -176,14 +180,14 @@ public:
 
     void setZoomMode(ZoomMode mode);
 
-    /// 0: fine, to 4 times; 1: whole factors, to 10 times.
+    /// 0: fine steps up to factor 4. 1: whole factors up to 10.
     void setZoomTable(unsigned char table);
 
-    /// A level too high is the highest; 255 is the lowest.
+    /// Clamps a level that is too high. 255 means the lowest level.
     void setZoomLevel(unsigned char level);
     unsigned char zoomLevel() const;
 
-    /// Pixels of the widget for one of the game.
+    /// The number of widget pixels for one pixel of the game.
     float zoom() const;
     void addZoom() override;
     void subZoom() override;
@@ -191,34 +195,37 @@ public:
 
     /// @}
     /// @name Items
-    /// `index` counts sprites, and is ignored for crosses. Modes are those of positionmode.h.
+    /// `index` is the index of a sprite and is ignored for crosses. Modes are described in
+    /// positionmode.h.
     /// @{
 
-    /// The number of a cross; the first sprite of the stage that shows `item`, or -1; -1 for boxes.
+    /// For a cross, its number. For a sprite, the index of the first sprite of the stage that shows
+    /// `item`, or -1. For boxes, -1.
     int indexOfItem(ItemType type, void* item) const;
 
-    /// In model units, or in pixels of the widget for an absolute item. (0,0) for boxes and for
-    /// what is not there.
+    /// In model units; for an absolute item in widget pixels. (0,0) for boxes and for an item that
+    /// does not exist.
     QPoint itemPosition(ItemType type, unsigned int index) const;
 
-    /// Nothing for boxes and for what is not there. That of a sprite stays until its provider
-    /// tells of it anew, and so does the mode below.
+    /// Does nothing for boxes and for an item that does not exist. The position of a sprite, and
+    /// likewise the mode below, holds until its provider signals a change.
     void setItemPosition(ItemType type, QPoint position, unsigned int index);
 
-    /// For boxes it is the mode of all of them.
+    /// For boxes, the mode applies to all of them.
     void setItemPositionMode(ItemType type, unsigned char mode, unsigned int parent,
                              unsigned int index);
 
     /// @}
     /// @name Input
-    /// A press takes what lies on top; with Alt what lies beneath that. A click that is no drag
-    /// keeps what it has taken for the next press at its place, and a second one there takes what
-    /// lies beneath: so a sprite can be dragged where boxes cover it. Behind the last comes the top
-    /// again. Arrows move selected boxes by a pixel of the game, with Shift by ten.
+    /// A press picks the topmost element; with Alt, the one below it. A click that is not a drag
+    /// remembers its element for the next press at the same place. A second click there picks the
+    /// element below, and after the lowest comes the topmost again. This makes it possible to drag
+    /// a sprite that is covered by boxes. Arrow keys move selected boxes by one pixel of the game,
+    /// with Shift by ten.
     /// @{
 
-    /// The left button moves what it presses on; a box that was just drawn becomes selected. As
-    /// with the other modes, a drag under way ends as if the button had been released.
+    /// The left button moves the element it presses. A box that was just drawn becomes selected.
+    /// Like the other mode setters, it ends a drag in progress as if the button had been released.
     void setPositioningMode();
 
     /// The left button draws boxes, until another mode is set or the right button is released.
@@ -231,34 +238,35 @@ public:
     /// Does not repaint.
     void deselectContactBoxes();
 
-    /// Locked boxes are shown, and neither found under the pointer nor selected: a press takes what
-    /// lies beneath. They can still be drawn. Locking deselects all boxes.
+    /// Locked boxes are shown but cannot be picked or selected: a press picks what is below them.
+    /// They can still be drawn. Locking deselects all boxes.
     void setContactBoxesLocked(ContactBoxCode::BoxType type, bool isLocked);
     bool contactBoxesLocked(ContactBoxCode::BoxType type) const;
 
-    /// Over all lists, in order; without the one that is being drawn.
+    /// From all lists, in order, without the box that is being drawn.
     QVector<SelectedBox> selectedBoxes() const;
 
-    /// Gives the selected box another rectangle, on the stage alone: `updateSelectedBoxes()` writes
-    /// it. Nothing unless one box is selected, nor for an empty rectangle.
+    /// Changes the rectangle of the selected box on the stage only; `updateSelectedBoxes()` writes
+    /// it to the text. Does nothing unless exactly one box is selected, or if the rectangle is
+    /// empty.
     void setSelectedBoxRect(const QRect& rect);
 
-    /// Moves the selected boxes on the stage alone; `updateSelectedBoxes()` writes them.
+    /// Moves the selected boxes on the stage only; `updateSelectedBoxes()` writes them to the text.
     void moveSelectedContactBoxes(QPoint delta);
 
-    /// Takes the selected boxes out of the text, as one step of undo.
+    /// Removes the selected boxes from the text, in one undo step.
     void removeSelectedContactBoxes();
 
-    /// Writes the selected boxes that were moved or resized into the text, as one step of undo.
+    /// Writes moved or resized selected boxes to the text, in one undo step.
     void updateSelectedBoxes();
 
-    /// Over all lists, in order. Good until the next edit.
+    /// From all lists, in order. The pointers are valid until the next edit.
     QList<ContactBoxCode*> selectedContactBoxes();
 
-    /// What lies at a point of the widget.
+    /// The topmost element at a point of the widget.
     RenderElement hitTest(QPoint pos);
 
-    /// The shape of the pointer over an element.
+    /// The mouse cursor for an element.
     QCursor elementCursor(RenderElement element) const;
 
     void keyPressed(int key, Qt::KeyboardModifiers modifiers) override;
@@ -275,55 +283,58 @@ public:
     void render(QPainter& painter) override;
 
 public slots:
-    /// Takes one sprite of the provider anew; does not repaint.
+    /// Reads one sprite from the provider again, without a repaint.
     virtual void spriteChangedAt(unsigned int index);
 
-    /// Takes all sprites of the provider anew, without a repaint.
+    /// Reads all sprites from the provider again, without a repaint.
     virtual void spritesChanged();
 
 signals:
-    /// A newly drawn box is to be written into the text; the slot gives it, or null to refuse.
+    /// Asks for a newly drawn box to be written to the text. The slot returns that box, or null to
+    /// refuse.
     Zorv::ContactBoxCode* appendContactBox(Zorv::ContactBoxCode::BoxType boxType, QRect rect);
 
-    /// The right button has ended the drawing of boxes.
+    /// The user ended drawing boxes with the right button.
     void contactDrawingExit();
 
-    /// The pointer stands there, in model units from the origin.
+    /// The pointer has moved; `pos` is in model units from the origin.
     void cursorChanged(QPoint pos);
 
-    /// A colour was picked: its index.
+    /// The user picked the colour with this index.
     void colorCaptured(unsigned char index);
 
-    /// A sprite or cross is being dragged: its `Sprite`, or null for a cross, and its position.
+    /// A sprite or cross is being dragged. `item` is the `Sprite`, or null for a cross;
+    /// `offsetToParent` is its position.
     void itemMoved(Zorv::GraphicsRenderer::ItemType type, void* item, QPoint offsetToParent);
 
-    /// A drag has ended; for boxes also a move by keys, with null and (0,0).
+    /// A drag has ended. For boxes, also a move by keys; `item` is then null and the position
+    /// (0,0).
     void itemReleased(Zorv::GraphicsRenderer::ItemType type, void* item, QPoint offsetToParent);
 
-    /// Other boxes are selected, or the only one that is has another rectangle: `selectedBoxes()`
-    /// tells. It comes during drags, and from `setContactBoxes()`; boxes of the text are not to be
-    /// asked.
+    /// The selection has changed, or the only selected box has another rectangle; see
+    /// `selectedBoxes()`. Also emitted during drags and by `setContactBoxes()`. Slots must not
+    /// access boxes of the text.
     void boxSelectionChanged();
 
-    /// The origin or the zoom is another: by a person, at each step of a drag, or by a call.
+    /// The origin or the zoom has changed, by a call or by the user, at each step of a drag.
     void viewChanged();
 
-    /// Mouse or keys are about to be taken, and have been: the stage works on nodes of the text in
-    /// between. Boxes are to be set anew in front of it, if the text has changed, and not before it
-    /// is over. Such pairs may stand inside of another one.
+    /// Emitted before and after each mouse or key event. Between the two the stage works with nodes
+    /// of the text, so do not set boxes there. If the text has changed, set the boxes in a slot of
+    /// the first signal. Pairs may be nested.
     void inputComes();
     void inputTaken();
 
-    /// The left button is about to pick something up, or to draw.
+    /// The left button is about to pick up an element or to draw.
     void aboutToGrab();
 
-    /// For hosts; the library does not emit them.
+    /// For hosts; never emitted by the library.
     void changed();
     void changedAt(unsigned int index);
 
 protected:
-    /// An input, as long as it lives. For overrides that look at the stage before they hand the
-    /// input on.
+    /// Emits `inputComes()` when constructed and `inputTaken()` when destroyed. For overrides that
+    /// look at the stage before they pass the event on.
     class ZORV_EXPORT Input
     {
     public:
@@ -335,19 +346,19 @@ protected:
         GraphicsRenderer* m_stage;
     };
 
-    /// Draws a sprite: translated to `base`, turned by `rotation` degrees about it, moved by
-    /// `offset`, with that size, all in pixels of the widget.
+    /// Draws a sprite: translated to `base`, rotated by `rotation` degrees about it, moved by
+    /// `offset`, scaled to `size`. All lengths are widget pixels.
     virtual void renderSprite(QPoint base, QPoint offset, QSize size, float rotation,
                               unsigned char flip, Sprite* sprite, unsigned int index);
     virtual void renderOnionSkinSprite(const Sprite* sprite, QPoint base, QPoint offset, QSize size,
                                        float opacity, OnionEffect effect);
 
-    /// Where the corners of the unit square go for a sprite as `renderSprite()` tells it. All
-    /// sprites and skins of the stage stand by it.
+    /// Maps the unit square to the place of a sprite, in the way `renderSprite()` describes. Used
+    /// for all sprites and onion skins of the stage.
     virtual QMatrix4x4 spriteMatrix(QPoint base, QPoint offset, QSize size, float rotation) const;
 
-    /// What both end with: the sprite in its palette, as the unit square under `matrix`, blended by
-    /// its alpha. Nothing for a sprite that is null or has no texture.
+    /// The last step of both functions above: draws the sprite with its palette, as the unit square
+    /// under `matrix`, alpha-blended. Does nothing for a null sprite or one without a texture.
     void drawSprite(const QMatrix4x4& matrix, const Sprite* sprite, unsigned char flip,
                     float opacity, OnionEffect effect);
 

@@ -14,12 +14,12 @@ namespace Zorv {
 
 class CodeDocument;
 
-/// What lies under a point: an element, and which sprite or box it is.
+/// A result of a hit test: the element under a point, and the index of the sprite or box.
 struct StageHit
 {
     GraphicsRenderer::RenderElement element = GraphicsRenderer::StageElement;
     int item = -1;
-    int list = -1;  // of a box
+    int list = -1;  // only for a box
 
     bool operator==(const StageHit& other) const
     {
@@ -27,10 +27,10 @@ struct StageHit
     }
 };
 
-/// The last press of the left button that was no drag, and what it has taken.
+/// The last press of the left button that was not a drag, and what it picked.
 struct StageClick
 {
-    static constexpr int Reach = 3;  // a hand is not quite still
+    static constexpr int Reach = 3;  // pixels; a hand is not quite still
 
     bool isAt(QPoint pos) const
     {
@@ -42,7 +42,7 @@ struct StageClick
     StageHit hit;
 };
 
-/// The handles of selected boxes.
+/// Whether an element is a handle of selected boxes.
 inline bool isSizer(GraphicsRenderer::RenderElement element)
 {
     return element >= GraphicsRenderer::TopLeftSizer;
@@ -59,17 +59,18 @@ public:
 
     static GraphicsRendererPrivate& of(GraphicsRenderer& stage) { return *stage.d; }
 
-    // Of all stages.
+    // Shared by all stages.
     static QPoint m_origin;
     static bool m_sprOverGuides;
     static bool m_contactOverCross;
     static Background& background();
     static QPixmap& crossImage(Cross::Type type);
 
-    // graphicsrenderer.cpp. Null for what has none.
+    // graphicsrenderer.cpp. Null for an item without a position.
     QPoint* positionOf(ItemType type, unsigned index);
 
-    // stagepositions.cpp. `out` becomes the element of the parent, for what cannot be moved itself.
+    // stagepositions.cpp. `out` is set to the parent's element, for items that cannot be moved
+    // themselves.
     QPoint posFromMode(unsigned char mode, QPoint position, unsigned parent,
                        RenderElement* out = nullptr);
     QPoint calcPos(ItemType type, unsigned index, RenderElement* out = nullptr);
@@ -107,7 +108,8 @@ public:
     void renderContactBoxSizers(QPainter& painter);
     void renderRulers(QPainter& painter);
 
-    // hittest.cpp. A visitor gives true for what it takes, and so do those that call it.
+    // hittest.cpp. A visitor returns true to accept a hit and stop; the visit functions return the
+    // same.
     using HitVisitor = std::function<bool(const StageHit&)>;
     RenderElement hitTest(QPoint pos);
     RenderElement take(const StageHit& hit);
@@ -184,7 +186,7 @@ public:
     QVector<SpriteItem> spriteItems;
     QPointer<SpriteProvider> spriteProvider;
     std::array<ContactBoxes, BoxTypes> contactBoxes;
-    quint64 walks = 0;  // searches along parents
+    quint64 walks = 0;  // number of walks along parents so far
 
     QRect selectionStart;
     QRect selectionRect{QPoint(7777, 7777), QPoint(-1, -1)};
@@ -193,13 +195,13 @@ public:
     bool leftButtonDown = false;
     bool moved = false;  // a drag has changed something
     QPoint lastMousePos;
-    StageClick pressed;  // what becomes the next `clicked`, unless it is dragged
+    StageClick pressed;  // becomes `clicked` unless it turns into a drag
     StageClick clicked;
     int itemIndex = 0;     // the sprite or box that the last hit test found
     int boxListIndex = 0;  // the list of that box, or of the box being drawn
     int boxCountAtDrawStart = 0;
-    RenderElement element = GraphicsRenderer::StageElement;  // of the present press
-    QImage captureImage;  // of the sprite whose colours are picked
+    RenderElement element = GraphicsRenderer::StageElement;  // of the current press
+    QImage captureImage;  // the sprite whose colours are being picked
     QVector<GraphicsRenderer::SelectedBox> toldSelection;
 };
 

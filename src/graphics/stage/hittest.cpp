@@ -1,3 +1,14 @@
+// Finds the element under the pointer.
+//
+// visitHits() walks over everything under a point, from top to bottom, and passes each hit to a
+// visitor until one accepts. The order follows the two priorities: guides above or below sprites,
+// boxes above or below crosses. The visitor decides the use: the topmost hit accepts the first,
+// cycling through overlapping elements collects all of them.
+//
+// An item that cannot be moved itself is replaced by its parent, since a drag would move that.
+// Boxes can be numerous, so FarBoxes rejects most of them in model units before a rectangle on the
+// stage is computed.
+
 #include "graphics/stage/graphicsrenderer.h"
 #include "graphics/stage/graphicsrenderer_p.h"
 #include "graphics/stage/positionmode.h"
@@ -14,11 +25,11 @@ namespace {
 
 constexpr int RulerWidth = 30;
 
-/// The square of a sizer: from its centre so far to the left and the top, and one less to the
-/// right and the bottom.
+/// The size of a sizer's square: this far to the left and top of its centre, and one pixel less to
+/// the right and bottom.
 constexpr int SizerReach = 6;
 
-/// Of what lies under a point, from the top down: what comes next, and the top behind the last.
+/// The hit below `taken`; after the lowest comes the topmost again.
 StageHit nextBelow(const QVector<StageHit>& hits, const StageHit& taken)
 {
     const int at = hits.indexOf(taken);
@@ -41,8 +52,8 @@ bool isBetween(double place, double a, double b)
     return place >= std::min(a, b) && place < std::max(a, b);
 }
 
-/// What is far from a point, found without the places of its edges on the stage: they lie within
-/// two of its pixels of where they would lie without rounding.
+/// Rejects boxes far from a point without computing their edges on the stage. Rounding moves an
+/// edge by less than two stage pixels, which the slack allows for.
 class FarBoxes
 {
 public:
@@ -59,7 +70,7 @@ public:
     }
 
 private:
-    double m_x;  // twice the point, in model units
+    double m_x;  // twice the coordinate, in model units
     double m_y;
     double m_slack;
 };
@@ -90,8 +101,8 @@ GraphicsRenderer::RenderElement GraphicsRendererPrivate::take(const StageHit& hi
     return hit.element;
 }
 
-// A click keeps what it has taken for the next press at its place: whoever has selected a box by it
-// can drag it from there.
+// A press at the place of the last click picks the same element again, so a box that was selected
+// by a click can be dragged from there.
 StageHit GraphicsRendererPrivate::hitFor(QPoint pos, bool isBeneath)
 {
     const bool isAgain = clicked.isAt(pos);
@@ -111,7 +122,7 @@ StageHit GraphicsRendererPrivate::hitFor(QPoint pos, bool isBeneath)
     return isBeneath ? nextBelow(hits, taken) : taken;
 }
 
-// From the top down, until somebody takes one.
+// Visits all hits from top to bottom until the visitor accepts one.
 bool GraphicsRendererPrivate::visitHits(QPoint pos, const HitVisitor& visit)
 {
     if (isInRuler(pos.x()) || isInRuler(pos.y())) {
@@ -134,7 +145,7 @@ bool GraphicsRendererPrivate::visitGuides(QPoint pos, const HitVisitor& visit) c
     return found != GraphicsRenderer::StageElement && visit({found});
 }
 
-// A guide is caught some pixels around, and no wider however far it is zoomed.
+// A guide can be grabbed a few pixels around it, and the reach does not grow with the zoom.
 GraphicsRenderer::RenderElement GraphicsRendererPrivate::guideAt(QPoint pos) const
 {
     if (!guidesVisible) {
@@ -175,7 +186,7 @@ bool GraphicsRendererPrivate::visitCross(int number, QPoint pos, const HitVisito
     return visitMovable({own}, cross.mode, cross.parent, visit);
 }
 
-/// What cannot be moved itself gives its parent, and is passed over if that is the stage.
+/// An item that cannot be moved itself is replaced by its parent, and skipped if that is the stage.
 bool GraphicsRendererPrivate::visitMovable(StageHit hit, unsigned char mode, unsigned parent,
                                            const HitVisitor& visit)
 {
@@ -228,7 +239,7 @@ bool GraphicsRendererPrivate::visitSprites(QPoint pos, const HitVisitor& visit)
         }
         const SpriteItem& item = spriteItems.at(i);
         const StageHit hit{GraphicsRenderer::SpriteElement, i};
-        // A colour is that of the picture, whatever would move with it.
+        // A colour is picked from the sprite itself, even if a drag would move its parent.
         const bool isCapturing = clickMode == GraphicsRenderer::CaptureMode;
         if (isCapturing ? visit(hit) : visitMovable(hit, item.mode, item.parent, visit)) {
             return true;
@@ -237,8 +248,8 @@ bool GraphicsRendererPrivate::visitSprites(QPoint pos, const HitVisitor& visit)
     return false;
 }
 
-// Turns the middle of the pixel back about the anchor, and looks where it lies on the picture,
-// which a negative scale has on the other side of its position.
+// Rotates the middle of the pixel back about the anchor and tests it against the unrotated picture.
+// A negative scale mirrors the picture to the other side of its position.
 bool GraphicsRendererPrivate::spriteCovers(int index, QPoint pos)
 {
     const SpriteItem& item = spriteItems.at(index);

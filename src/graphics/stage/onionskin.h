@@ -9,20 +9,20 @@ namespace Zorv {
 
 class Sprite;
 
-/// The sprite of another frame, seen through, as it would stand on the stage.
+/// A translucent sprite of another frame, placed as the stage would place it.
 ///
-/// Lengths are model units. A skin whose pose is that of a sprite of the stage lies right over it.
+/// Lengths are model units. A skin with the same pose as a sprite of the stage covers it exactly.
 struct OnionSkin
 {
     const Sprite* sprite = nullptr;  ///< not owned; null shows nothing
-    QPoint axis;                     ///< what it is turned about, from the main cross
-    QPoint position;                 ///< of the top left corner from there, before `scale`
+    QPoint axis;                     ///< centre of rotation, relative to the main cross
+    QPoint position;                 ///< of the top left corner, relative to `axis`, before `scale`
     QSize size{0, 0};                ///< before `scale`
     QPointF scale{1, 1};
     unsigned char flip = 0;  ///< bits of `Renderer::Flip`
     float rotation = 0;      ///< degrees, clockwise
-    float opacity = 1;       ///< times that of all skins, 0 to 1
-    QColor color;            ///< the skin's colours go most of the way to it; invalid: the effect
+    float opacity = 1;       ///< 0 to 1, multiplied by the opacity of all skins
+    QColor color;            ///< tints the skin strongly; if invalid, the effect applies
 
     bool operator==(const OnionSkin& other) const
     {

@@ -5,11 +5,12 @@
 namespace Zorv {
 
 /// @name How an item of the stage is placed
-/// One byte: two bits tell in which axes it can be moved, the rest what its position is relative
-/// to. Positions relative to anything but the widget are in pixels of the game.
+/// One byte. Two bits say along which axes the item can be moved; the rest is the anchor, which the
+/// position is relative to. Positions are in pixels of the game, except those relative to the
+/// widget.
 /// @{
 
-/// The anchor in a mode.
+/// What a position is relative to.
 enum PositionAnchor : unsigned char {
     AbsoluteAnchor = 0,  ///< pixels of the widget, not zoomed
     OriginAnchor = 1,    ///< the origin of the stage
@@ -17,10 +18,10 @@ enum PositionAnchor : unsigned char {
     SpriteAnchor = 3     ///< the sprite with the number of the parent
 };
 
-/// The bits of movability.
+/// The axes along which an item can be moved.
 enum PositionMobility : unsigned char { MovableX = 4, MovableY = 8, MovableBoth = 12 };
 
-/// The anchor of a mode: the byte without its bits of movability.
+/// The anchor of a mode, without the mobility bits.
 ZORV_EXPORT unsigned char positionMode(unsigned char mode);
 
 ZORV_EXPORT bool isMovable(unsigned char mode);

@@ -11,11 +11,11 @@
 namespace Zorv {
 
 /// @name Numbers of a text or a host, as whole ones
-/// Any `double` may come from there. What no `int` holds becomes the nearest that one does, and
+/// A text or a host can contain any `double`. Values outside the range of `int` are clamped;
 /// not-a-number becomes 0.
 /// @{
 
-/// As `rounding` does it, for what an `int` holds.
+/// Applies `rounding` to values that fit into an `int`.
 template <typename Real, typename Rounding>
 inline int savedInt(Real value, Rounding rounding)
 {
@@ -46,7 +46,7 @@ inline int truncatedInt(double value)
 
 /// @}
 /// @name Positions on the stage
-/// They stay so far below the ends of `int` that a few of them can be added.
+/// Limited to a range in which a few positions can be added without overflow.
 /// @{
 
 constexpr int StageLimit = 1 << 28;
@@ -67,7 +67,7 @@ inline int stageLength(int length, float zoom)
     return stageInt(roundedInt(static_cast<float>(length) * zoom));
 }
 
-/// A length times a scale, cut to whole pixels of the game.
+/// A length times a scale, truncated to whole pixels of the game.
 inline int scaledLength(int length, double scale)
 {
     return stageInt(truncatedInt(length * scale));

@@ -10,7 +10,7 @@ namespace Zorv {
 struct ZORV_EXPORT RulerTicks
 {
     static constexpr int Band = 30;         // the width of a ruler
-    static constexpr int LabelledTick = 5;  // every so many are long and have a label
+    static constexpr int LabelledTick = 5;  // every fifth tick is long and has a label
 
     struct Label
     {
@@ -21,7 +21,7 @@ struct ZORV_EXPORT RulerTicks
     /// For an axis of `length` pixels.
     RulerTicks(float zoom, int origin, int length);
 
-    int step;  // from tick to tick
+    int step;  // distance between ticks
     QVarLengthArray<int, 256> small;
     QVarLengthArray<int, 64> large;
     QVarLengthArray<Label, 64> labels;

@@ -18,7 +18,7 @@ using CrossImages = std::array<QPixmap, 3>;
 
 struct ResolutionPicture
 {
-    int below;  // the width of the screen
+    int below;  // screens narrower than this use the file
     const char* file;
     QPoint position;
 };
@@ -49,7 +49,7 @@ QPixmap crossFile(int type, size_t place)
     return QPixmap(QString::fromLatin1(s_crossFiles[type][place]));
 }
 
-/// What all stages share and what cannot outlive the application.
+/// Pictures shared by all stages. They must be destroyed before the application is.
 struct SharedPictures
 {
     SharedPictures()

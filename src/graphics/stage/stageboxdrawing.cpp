@@ -10,8 +10,8 @@ namespace Zorv {
 
 namespace {
 
-/// Rectangles of two colours, drawn in their order but all at once, as pieces of one picture: by
-/// itself each would cost the painter of GL more than a sprite.
+/// Draws many rectangles of two colours in order, in a single call, as fragments of one pixmap.
+/// Drawn one by one, each would cost the GL paint engine more than a sprite.
 class RectBatch
 {
 public:
@@ -20,7 +20,8 @@ public:
     RectBatch(QPainter& painter, const QRect& visible, const QColor& inside, const QColor& border)
         : m_painter(painter), m_visible(visible)
     {
-        // Three pixels each, of which the middle one is used: no neighbour shines in.
+        // Three by three pixels per colour, of which only the middle one is used, so that filtering
+        // never mixes in the neighbour.
         QImage image(6, 3, QImage::Format_ARGB32);
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x) {
@@ -53,9 +54,9 @@ private:
     QVector<QPainter::PixmapFragment> m_rects;
 };
 
-/// The four sides of a box, `thickness` wide and within it. They do not overlap, so that a border
-/// that shines through is the same everywhere; the left one is there also when the box is narrower
-/// than a pixel.
+/// The four sides of a box, `thickness` wide, inside it. They do not overlap, so a translucent
+/// border has the same opacity everywhere. The left side is kept even if the box is narrower than a
+/// pixel.
 std::array<QRect, 4> edges(const QRect& box, int thickness)
 {
     const int left = box.left() + thickness;
@@ -87,7 +88,7 @@ void GraphicsRendererPrivate::renderContactBoxes(QPainter& painter, ContactBoxCo
     const QPoint anchor = anchorOf(contactMode, contactParent);
     RectBatch batch(painter, visibleRect(), interior, border);
     for (const ContactItem& item : boxes.items) {
-        // A box that is being drawn may go to the left or up.
+        // A box being drawn may extend to the left or up.
         const QRect box = contactRect(item, anchor).normalized();
         if (item.selected) {
             batch.draw();
@@ -110,7 +111,7 @@ void GraphicsRendererPrivate::renderContactBoxSizers(QPainter& painter)
     painter.setBrush(Qt::white);
     for (int sizer = GraphicsRenderer::TopLeftSizer; sizer <= GraphicsRenderer::RightSizer;
          ++sizer) {
-        // The outline adds a pixel: eight by eight in all.
+        // The outline adds a pixel, which makes the handle eight by eight.
         const QPoint corner = sizerFromSelection(static_cast<RenderElement>(sizer)) - QPoint(4, 4);
         if (QRect(corner, QSize(8, 8)).intersects(visibleRect())) {
             painter.drawRect(QRect(corner, QSize(7, 7)));

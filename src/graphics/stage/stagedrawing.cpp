@@ -39,7 +39,7 @@ void translate(QMatrix4x4& matrix, QPoint by)
     matrix.translate(asFloat(by.x()), asFloat(by.y()));
 }
 
-/// The unit square becomes that large.
+/// Scales the unit square to a size.
 void scale(QMatrix4x4& matrix, QSize size)
 {
     matrix.scale(asFloat(size.width()), asFloat(size.height()));
@@ -116,7 +116,7 @@ int GraphicsRendererPrivate::lineThickness() const
 
 void GraphicsRendererPrivate::renderSprites(int layer)
 {
-    // By index and from a copy: what draws a sprite may change the list.
+    // By index and with a copy, because drawing a sprite may change the list.
     for (int index = 0; index < spriteItems.size(); ++index) {
         const SpriteItem item = spriteItems.at(index);
         if (item.layer != layer) {
@@ -129,7 +129,7 @@ void GraphicsRendererPrivate::renderSprites(int layer)
     }
 }
 
-/// Where the sprite of another frame would stand: on the same way, rounded as it is.
+/// Uses the same calculation and rounding as for sprites, so that a skin covers its sprite exactly.
 void GraphicsRendererPrivate::renderSkin(const OnionSkin& skin)
 {
     Texture* const image = skin.sprite ? skin.sprite->texture() : nullptr;

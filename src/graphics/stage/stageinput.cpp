@@ -30,7 +30,7 @@ constexpr int ElementCount = sizeof s_cursors / sizeof *s_cursors;
 
 constexpr int WideStep = 10;  // with the shift key
 
-/// What an arrow moves boxes by; nothing for other keys.
+/// The step of an arrow key; (0,0) for other keys.
 QPoint stepOf(int key)
 {
     switch (key) {
@@ -66,8 +66,8 @@ void GraphicsRendererPrivate::setCursor(const QCursor& cursor)
     }
 }
 
-/// Modes and presses begin with no drag under way: what was dragged stays there, as if the button
-/// had been released, and a box that is not yet drawn to its end goes.
+/// Ends a drag in progress before a new mode or press. What was dragged stays where it is, as if
+/// the button had been released. An unfinished box is dropped.
 void GraphicsRendererPrivate::finishPress()
 {
     const bool isDragging = leftButtonDown && moved;
@@ -80,7 +80,7 @@ void GraphicsRendererPrivate::finishPress()
     }
 }
 
-/// What was clicked before is nothing to go on from.
+/// Also forgets the last click, so that the next press starts at the top.
 void GraphicsRendererPrivate::leaveMode()
 {
     finishPress();
@@ -132,7 +132,7 @@ GraphicsRenderer::ClickMode GraphicsRenderer::clickMode() const
     return ClickMode(d->clickMode);
 }
 
-// What a drag holds stays what it is while somebody asks.
+// A query must not change what a drag in progress holds.
 GraphicsRenderer::RenderElement GraphicsRenderer::hitTest(QPoint pos)
 {
     const int item = d->itemIndex;

@@ -13,13 +13,14 @@ const float s_zoomTable[2][ZoomLevels] = {
 };
 const unsigned char s_zoomActual[2] = {3, 2};
 
-// Warm for what hits, cold for what can be hit: told apart at once, also by who sees no red.
+// Warm for boxes that hit, cold for boxes that can be hit: easy to tell apart, even for someone who
+// cannot see red.
 QColor ContactBoxes::color[2] = {QColor(0xff, 0x4d, 0x3d), QColor(0x3d, 0x9b, 0xff)};
 float ContactBoxes::opacity = 1.0F;
 
 QRect ContactItem::rect() const
 {
-    // In double, as below: no sum overflows.
+    // In double, like below, so no sum overflows.
     const int left = roundedInt(x);
     const int top = roundedInt(y);
     return {QPoint(left, top), QPoint(roundedInt(left - 1.0 + std::floor(width + 0.5)),

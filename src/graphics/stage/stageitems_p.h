@@ -16,7 +16,8 @@ namespace Zorv {
 
 class Sprite;
 
-/// One of the three crosses. Its position is in model units, or absolute for anchor 0.
+/// One of the three crosses. Its position is in model units, or in widget pixels if its anchor is
+/// absolute.
 struct Cross
 {
     enum Type { Main = 0, Secondary = 1, Extra = 2 };
@@ -25,10 +26,10 @@ struct Cross
     unsigned char mode = 13;
     unsigned short parent = 0;
     QPoint position;
-    quint64 walk = 0;  // the last search along parents that met it
+    quint64 walk = 0;  // the last walk along parents that visited it
 };
 
-/// The factors of the zoom levels, and which row of them is in force.
+/// The zoom mode, and the row of the zoom table in use.
 struct ZORV_EXPORT Zoom
 {
     static int mode;
@@ -39,7 +40,7 @@ constexpr int ZoomLevels = 12;
 ZORV_EXPORT extern const float s_zoomTable[2][ZoomLevels];
 ZORV_EXPORT extern const unsigned char s_zoomActual[2];
 
-/// What a provider told of a sprite.
+/// A sprite, as reported by its provider.
 struct SpriteItem
 {
     unsigned char mode = 0;
@@ -51,10 +52,10 @@ struct SpriteItem
     unsigned char flip = 0;
     float rotation = 0;  // degrees, clockwise on the screen
     Sprite* sprite = nullptr;
-    quint64 walk = 0;  // as of a cross
+    quint64 walk = 0;  // as in Cross
 };
 
-/// The stage's working copy of a box, in model units. It differs from the text during a drag.
+/// The stage's working copy of a box, in model units. During a drag it differs from the text.
 struct ZORV_EXPORT ContactItem
 {
     ContactBoxCode* box = nullptr;  // null while it is being drawn
@@ -65,10 +66,11 @@ struct ZORV_EXPORT ContactItem
     QRect source;  // the box in the text when a resize began
     bool selected = false;
 
-    /// Rounded, with right and bottom inclusive.
+    /// Rounded; right and bottom are inclusive.
     QRect rect() const;
 
-    /// The same with left and top first: a box can be drawn or stretched the other way round.
+    /// The same, normalized: left and top come first. Boxes can be drawn or stretched to the left
+    /// or up.
     QRect normalRect() const;
     void setRect(const QRect& rect);
 };
@@ -82,7 +84,7 @@ struct ZORV_EXPORT ContactBoxes
     BoxList code;
     QVector<ContactItem> items;
     bool visible = true;
-    bool locked = false;  // not found by the pointer
+    bool locked = false;  // not found by hit tests
 };
 
 constexpr int BoxTypes = 8;

@@ -27,7 +27,7 @@ int crossOf(Element element)
     return element - GraphicsRenderer::MainCrossElement;
 }
 
-/// Sizers in the middle of a side move that side alone.
+/// A sizer in the middle of a side moves only that side.
 QPoint alongSizer(Element element, QPoint delta)
 {
     switch (element) {
@@ -53,7 +53,7 @@ QPoint unzoomed(QPoint point, float zoom)
             stageInt(roundedInt(point.y() / double(zoom)))};
 }
 
-/// The part of a movement that a position follows.
+/// The part of a movement that a mode allows.
 QPoint movable(unsigned char mode, QPoint delta, QPoint modelDelta)
 {
     const QPoint by = positionMode(mode) == AbsoluteAnchor ? delta : modelDelta;
@@ -80,7 +80,7 @@ void GraphicsRenderer::mousePressed(QPoint pos, Qt::MouseButton button,
     if (RenderWidget* view = widget()) {
         view->setFocus();
     }
-    d->finishPress();  // one whose release was lost
+    d->finishPress();  // the release may have been lost
     if (!(modifiers & Qt::ControlModifier) &&
         (d->clickMode != PositioningMode || d->hitTest(pos) != StageElement)) {
         emit aboutToGrab();
@@ -127,7 +127,7 @@ void GraphicsRendererPrivate::pressInOtherModes(QPoint pos, Qt::KeyboardModifier
     const bool isClick = clickMode == GraphicsRenderer::PositioningMode &&
                          !(modifiers & Qt::ShiftModifier) && !isSizer(element);
     pressed = {isClick, pos, hit};
-    // Alt has taken what lies beneath already.
+    // Alt has already picked the element below.
     if (modifiers & Qt::AltModifier) {
         clicked = {};
     }
@@ -147,8 +147,8 @@ void GraphicsRendererPrivate::pressOn(const StageHit& hit, bool isShift)
     }
 }
 
-/// The second click at a place takes what lies beneath what the first one took, and so on. It does
-/// when the button is released: what is pressed and then dragged is what was there before.
+/// A second click at the same place picks the element below the first one, and so on. This happens
+/// on release, so that press and drag still move the element picked before.
 void GraphicsRendererPrivate::endClick()
 {
     if (!pressed.isValid) {
@@ -163,8 +163,8 @@ void GraphicsRendererPrivate::endClick()
     clicked = pressed;
 }
 
-// Whether anything is selected is told by the list of the box alone, so that a selection in two
-// lists can be without handles.
+// `hasSelection` looks only at the list of the pressed box. A selection across two lists can
+// therefore be without handles.
 void GraphicsRendererPrivate::pressOnBox(bool toggles)
 {
     QVector<ContactItem>& items = contactBoxes[size_t(boxListIndex)].items;
@@ -209,8 +209,8 @@ void GraphicsRenderer::mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers)
     d->drag(pos);
 }
 
-// A drag goes by whole pixels of the game, and keeps the rest for the next move. Sizers count from
-// the press on.
+// A drag moves by whole pixels of the game and keeps the remainder for the next move. Sizers
+// measure from the press.
 void GraphicsRendererPrivate::drag(QPoint pos)
 {
     QPoint delta = alongSizer(element, difference(pos, lastMousePos));
@@ -330,7 +330,8 @@ void GraphicsRendererPrivate::releaseDrag()
     }
 }
 
-/// The box becomes one of the text. The stage may be filled anew meanwhile, and have it already.
+/// Writes the drawn box to the text. The slot may refill the stage, which then may already contain
+/// the box.
 void GraphicsRendererPrivate::releaseDrawnBox()
 {
     ContactItem* drawn = drawnBox();
@@ -347,7 +348,7 @@ void GraphicsRendererPrivate::releaseDrawnBox()
     }
 }
 
-/// The box that is being drawn: the last of its list, and in no text yet.
+/// The box being drawn: the last of its list, and not yet in the text.
 ContactItem* GraphicsRendererPrivate::drawnBox()
 {
     QVector<ContactItem>& items = contactBoxes[size_t(boxListIndex)].items;

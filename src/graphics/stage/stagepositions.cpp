@@ -1,16 +1,26 @@
+// From an item's position to the stage.
+//
+// The position of an item is relative to its anchor: the widget, the origin, a cross or a sprite.
+// Crosses and sprites have anchors of their own, so the place on the stage is a sum along a chain
+// of parents, up to the origin or the widget. Each part is zoomed and rounded by itself.
+//
+// A host can build a loop of parents. Every walk therefore has a number that is stored in each item
+// it visits. An item that already has the number closes a loop, and the walk ends. No list of
+// visited items is needed.
+
 #include "graphics/stage/graphicsrenderer_p.h"
 #include "graphics/stage/positionmode.h"
 #include "graphics/stage/rounding_p.h"
 
 namespace Zorv {
 
-/// What the place of a cross or sprite follows from.
+/// What the position of a cross or sprite depends on.
 struct GraphicsRendererPrivate::Place
 {
     QPoint position;
     unsigned char mode = AbsoluteAnchor;
     unsigned parent = 0;
-    quint64* walk = nullptr;  // null: there is no such item
+    quint64* walk = nullptr;  // null if there is no such item
 };
 
 int GraphicsRendererPrivate::scaled(int length) const
@@ -61,7 +71,7 @@ QPoint GraphicsRendererPrivate::alongParents(unsigned char mode, unsigned parent
         if (!place.walk) {
             return sum;
         }
-        // A parent that is met again ends the chain, as if it were relative to nothing.
+        // A parent visited twice ends the chain, as if it were relative to nothing.
         if (*place.walk == walks) {
             return stageSum(sum, place.position);
         }

@@ -10,14 +10,14 @@ namespace Zorv {
 namespace {
 
 constexpr int Band = RulerTicks::Band;
-constexpr int LabelPixels = 9;  // fits the strip of the labels
+constexpr int LabelPixels = 9;  // fits the label strip
 
 QColor invertColor(const QColor& color)
 {
     return {255 - color.red(), 255 - color.green(), 255 - color.blue()};
 }
 
-/// A rectangle of the horizontal ruler, or the same of the vertical one.
+/// A rectangle of the horizontal ruler, transposed for the vertical one.
 QRect along(Qt::Orientation orientation, const QRect& rect)
 {
     return orientation == Qt::Horizontal ? rect
@@ -26,7 +26,7 @@ QRect along(Qt::Orientation orientation, const QRect& rect)
 
 void drawTicks(QPainter& painter, Qt::Orientation orientation, const RulerTicks& ticks)
 {
-    // As filled rectangles: sharp under any engine.
+    // Filled rectangles are sharp with every paint engine.
     const auto line = [&](int place, int from) {
         painter.fillRect(along(orientation, QRect(place, from, 1, Band - from)),
                          painter.pen().color());
@@ -60,7 +60,7 @@ RulerTicks::RulerTicks(float zoom, int origin, int length)
             continue;
         }
         large.append(place);
-        // That of the first tick would stand half in the other ruler.
+        // The label of the first tick would overlap the other ruler.
         if (tick > 0) {
             labels.append({place, -number * units});
         }

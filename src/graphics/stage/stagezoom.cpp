@@ -56,7 +56,8 @@ void GraphicsRenderer::zoomActual()
     d->applyZoomLevel(s_zoomActual[Zoom::table]);
 }
 
-// The wheel ends below the highest levels, which are for the keys: from there it goes back.
+// The wheel stops below the highest levels, which only the keys reach. From there the wheel goes
+// back to its own maximum.
 void GraphicsRenderer::mouseWheel(int delta)
 {
     const int level = d->zoomLevel + delta / WheelStep;
