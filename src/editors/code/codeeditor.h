@@ -20,11 +20,10 @@ class CodeEditorPrivate;
 
 /// The text widget in which code files are shown and edited.
 ///
-/// It shows a `CodeDocument` and reads all that it knows of the structure of the
-/// text from the `CodeBlockData` of its lines: levels and folds, brackets,
-/// messages. It parses nothing; a line without data has level 0 and neither
-/// brackets nor messages. A gutter at its side has marks, line numbers and
-/// folding markers. Main thread only.
+/// It shows a `CodeDocument`. Everything about the structure of the text (folding levels, folds,
+/// brackets, messages) comes from the `CodeBlockData` of the lines. The widget parses nothing: a
+/// line without data has level 0, no brackets and no messages. A gutter at the side shows marks,
+/// line numbers and folding markers. Main thread only.
 class ZORV_EXPORT CodeEditor : public QPlainTextEdit
 {
     Q_OBJECT
@@ -34,21 +33,21 @@ public:
     struct SyntaxFormatting
     {
         bool lineNumbers = true;
-        bool markArea = false;  ///< a column for marks of messages, at the gutter's left edge
-        bool reserved = false;  ///< without effect
+        bool markArea = false;  ///< column for message marks, left edge of the gutter
+        bool reserved = false;  ///< has no effect
         bool foldingMarkers = true;
         bool highlightCurrentLine = true;
-        bool highlightBlocks = false;  ///< find the ranges around the cursor
-        bool paintBlockRanges = true;  ///< paint those that were found behind the text
+        bool highlightBlocks = false;  ///< compute the block ranges around the cursor
+        bool paintBlockRanges = true;  ///< paint the computed ranges behind the text
         bool parenMatching = true;
         QColor currentLineColor = QColor(Qt::yellow).lighter(160);
-        QColor blockRangeColor;               ///< of the innermost range
-        QTextCharFormat parenFormat;          ///< of two brackets that match
-        QTextCharFormat parenMismatchFormat;  ///< of two that do not
-        QTextCharFormat parenRangeFormat;     ///< of the text between them
+        QColor blockRangeColor;               ///< innermost range
+        QTextCharFormat parenFormat;          ///< matching brackets
+        QTextCharFormat parenMismatchFormat;  ///< mismatched brackets
+        QTextCharFormat parenRangeFormat;     ///< text between the brackets
     };
 
-    /// A place of cursor and view; all from 0.
+    /// Position of cursor and view; all numbers start at 0.
     struct LinePos
     {
         int line = 0;
@@ -56,24 +55,25 @@ public:
         int scroll = 0;  ///< value of the vertical scroll bar
     };
 
-    /// Columns of a line, from `start` to in front of `end`.
+    /// A range of columns in a line: `start` inclusive, `end` exclusive.
     struct WordRange
     {
         int start = 0;
         int end = 0;
     };
 
-    /// Tells where the word at a cursor stands in its line; nothing if it knows of none there.
+    /// Returns the range of the word at a cursor within its line, or nothing if there is no known
+    /// word.
     using WordFinder = std::function<std::optional<WordRange>(const QTextCursor& cursor)>;
 
-    /// Where in the view a line is to land.
+    /// Where in the view a line should appear.
     enum LineType { NearestLine = 0, TopLine = 1, CenterLine = 2 };
 
     explicit CodeEditor(QWidget* parent = nullptr);
     ~CodeEditor() override;
 
-    /// Shows a document, null for none. It is not owned; one that dies while it is
-    /// shown is let go of. Folds are kept in the document.
+    /// Shows a document; null for none. The document is not owned. If it dies while it is shown,
+    /// the editor drops it. The folds are stored in the document.
     void setDocument(CodeDocument* document);
 
     /// The document that is shown, or null.
@@ -82,88 +82,84 @@ public:
     void setSyntaxFormatting(const SyntaxFormatting& formatting);
     const SyntaxFormatting& syntaxFormatting() const;
 
-    /// Finds the ranges around the cursor again, or drops them if they are
-    /// switched off.
+    /// Recomputes the block ranges around the cursor, or clears them if they are switched off.
     void updateBlockHighlight();
 
-    /// Puts cursor and view at a place. A line or column that is not there is the
-    /// nearest one that is.
+    /// Moves cursor and view to a position. A missing line or column is replaced by the nearest
+    /// existing one.
     void setCurrentLine(const LinePos& place);
 
-    /// Puts the cursor at the start of a line, from 0, and the line into the view,
-    /// unfolded if need be.
+    /// Moves the cursor to the start of a line, from 0, and scrolls the line into view. Unfolds if
+    /// necessary.
     void setCurrentLine(unsigned line, LineType type);
 
-    /// Where cursor and view are.
+    /// The current position of cursor and view.
     LinePos currentPlace() const;
 
     /// The height of the view in lines.
     int displayedLineCount() const;
 
-    /// Folds what stands below a head, or shows it again. Nothing changes for a
-    /// line that is no head. Showing lines around a folded part shows everything
-    /// down to the end of the document.
+    /// Folds or unfolds the lines below a head. Does nothing for a line that is not a head.
+    /// Unfolding lines that contain a folded part shows everything down to the end of the document.
     void toggleBlockVisible(const QTextBlock& block);
 
-    /// Unfolds what the cursor's line hides, or folds the innermost range that it stands in.
+    /// Unfolds the cursor's line if it hides lines, else folds the innermost range around it.
     void toggleFold();
 
-    /// Folds every head that is visible, from the top, or shows every hidden line. Takes
-    /// time in proportion to the lines, and tells the layout once.
+    /// Folds every visible head, from the top; or shows every hidden line. Takes time linear in the
+    /// number of lines, and updates the layout only once.
     void foldAll();
     void unfoldAll();
 
-    /// Shows a line that a fold hides, with no more than it takes.
+    /// Shows a line that a fold hides, and opens no more folds than necessary.
     void reveal(const QTextBlock& block);
 
-    /// Swaps the selected lines, or that of the cursor, with the one above or below, as they are
-    /// seen: a folded head goes with what it hides. One step of undo. Nothing at the ends of the
-    /// text, and in a text that is only to be read.
+    /// Swaps the selected lines, or the cursor's line, with the line above or below as seen on the
+    /// screen: a folded head moves together with the lines that it hides. One undo step. Does
+    /// nothing at the ends of the text, or if the text is read-only.
     void moveLinesUp();
     void moveLinesDown();
 
-    /// Takes a cursor out of a fold, upwards; with `ensure` into the view too.
+    /// Moves a cursor that is inside a fold up to a visible line; `ensure` also scrolls it into
+    /// view.
     void moveCursorVisible(bool ensure);
 
-    /// The first line of every range around the cursor, the outermost first, and
-    /// the last lines, the innermost first; empty while none were found.
+    /// The first lines of the ranges around the cursor, outermost first; and their last lines,
+    /// innermost first. Empty until the ranges are computed.
     QList<int> rangeStarts() const;
     QList<int> rangeEnds() const;
 
-    /// Reads the words to complete from a file; docs/formats.md tells the format.
-    /// False if it cannot be opened; one that is not there leaves no words. One that
-    /// is broken leaves the words as they were, gives true, and is told by
-    /// `completerError()`.
+    /// Reads the completion words from a file; docs/formats.md describes the format. False if the
+    /// file cannot be opened; a missing file leaves no words. A broken file leaves the old words
+    /// unchanged and returns true; `completerError()` has the error.
     bool completerFromFile(const QString& fileName);
 
-    /// What was wrong with the last file, with line and column, for the person;
-    /// empty for nothing.
+    /// The error in the last file for the user, with line and column; empty if there was none.
     QString completerError() const;
 
-    /// The completer, whose popup follows what the person types. A word that is chosen
-    /// adds what it has more than was typed, unless there is a word finder.
+    /// The completer. Its popup follows the typing. Accepting a word appends the part that was not
+    /// typed yet, unless there is a word finder.
     QCompleter* completer() const;
 
-    /// With a finder, a word that is chosen takes the place of the whole word at the
-    /// cursor: its case is right, and nothing is left of what stood there. Where the
-    /// finder knows of none, that of what was typed. A blank then ends any word, and
-    /// Return one that stands there whole: both close the popup and go to the text. An
-    /// empty finder brings the adding back. It is asked while the popup is open, and
-    /// must not edit.
+    /// With a finder, an accepted word replaces the whole word at the cursor: it gets the right
+    /// case, and nothing of the old word remains. Where the finder knows no word, the typed part is
+    /// replaced. The keys that end a word change too: a blank ends any word, Return ends a word
+    /// that is already complete. Both close the popup and go to the text. An empty finder restores
+    /// appending. The finder is called while the popup is open, and must not edit.
     void setWordFinder(const WordFinder& finder);
 
-    /// Opens the popup on words for the cursor's place, whatever was typed before.
-    /// The model is not owned and must live until another one takes its place.
+    /// Opens the popup with words for the cursor's position, whatever was typed before. The model
+    /// is not owned and must live until another one replaces it.
     void showCompletions(QStringListModel* words);
 
 signals:
-    /// The cursor has moved: its line as x, its column as y, from 0.
+    /// The cursor has moved; x is its line, y its column, from 0.
     void cursorChanged(QPoint place);
 
-    /// The cursor has come to another line, from 0.
+    /// The cursor has moved to another line, from 0.
     void currentLineChanged(int line);
 
-    /// The person has pressed the mouse in the column of marks, on a line from 0.
+    /// The user pressed the mouse in the mark column, on a line from 0.
     void markClicked(int line);
 
 protected:
@@ -174,7 +170,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
-    /// The text as it stands, non-breaking blanks included.
+    /// The text unchanged, including non-breaking spaces.
     QMimeData* createMimeDataFromSelection() const override;
 
 private:

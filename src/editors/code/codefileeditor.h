@@ -15,73 +15,69 @@ class CodeFileEditorPrivate;
 class CodeItemModel;
 class CodeWorkspace;
 
-/// The editor of any file that is shown as text in the code workspace.
+/// The editor for any file that is shown as text in the code workspace.
 ///
-/// While it is active it joins one `CodeDocument` to the one `CodeEditor` of the
-/// workspace: find and replace, place and number of errors in the status bar, and
-/// a tree of the document's nodes that follows the cursor. Derived editors give
-/// it a name, areas and an action, and join what they have beside the text in
-/// `attach()` and `detach()`.
+/// While it is active it connects one `CodeDocument` to the workspace's `CodeEditor`: find and
+/// replace, position and error count in the status bar, and a tree of the document's nodes that
+/// follows the cursor. Derived editors add a name, areas and an action, and connect what they have
+/// beside the text in `attach()` and `detach()`.
 ///
-/// Several editors can have the same document in the same workspace. One that goes
-/// while such another one comes forward, or has come, leaves the text as it is:
-/// cursor, selection, view and focus stay. Main thread only.
+/// Several editors can share a document in the same workspace. An editor that is deactivated while
+/// another one with that document takes over, or already has, leaves the text alone: cursor,
+/// selection, view and focus stay. Main thread only.
 class ZORV_EXPORT CodeFileEditor : public FileEditor
 {
     Q_OBJECT
 
 public:
-    /// Publishes a tree under `treeName` and shows `model` in it. The workspace
-    /// stays the host's and outlives the editor; the model is the editor's from now
-    /// on. Without a model or a name none is published; without one, or with a host
-    /// that makes no tree, the editor has none.
+    /// Publishes a tree under `treeName` and shows `model` in it. The host keeps the workspace,
+    /// which outlives the editor; the editor takes over the model. Without a model or a name no
+    /// tree is published. `tree()` is null then, and if the host creates none.
     CodeFileEditor(CodeWorkspace* workspace, CodeItemModel* model, const char* treeName,
                    QObject* parent = nullptr);
     ~CodeFileEditor() override;
 
-    /// The document to work on, null for none; not owned. An active editor shows it at
-    /// once in place of the one before. A document that dies is let go of.
+    /// The document to edit, null for none; not owned. An active editor shows it at once in place
+    /// of the old one. If the document dies, the editor drops it.
     virtual void setDocument(CodeDocument* document);
     CodeDocument* document() const;
 
-    /// The workspace of the constructor, which an editor that shows more than text need
-    /// not be shown in.
+    /// The workspace from the constructor. An editor that shows more than text can use another one
+    /// as its `workspace()`.
     CodeWorkspace* codeWorkspace() const;
     Workspace* workspace() const override;
 
-    /// Null for none; the editor's, and the host's.
+    /// Null for none. The editor owns the model, the host the tree.
     CodeItemModel* model() const;
     QTreeView* tree() const;
 
-    /// Shows the nodes in the tree of another editor, of the same workspace, in place of one
-    /// of its own: what stands there stays when one of them comes forward after the other.
-    /// To be called before the editor is activated; the other one outlives it.
+    /// Uses the tree of another editor of the same workspace instead of its own, so the tree stays
+    /// unchanged when one editor takes over from the other. Call it before the editor is activated.
+    /// The other editor must outlive this one.
     void shareTree(CodeFileEditor* owner);
 
-    /// Asks the host to bring the editor forward, which puts the one before away, and then
-    /// joins document and workspace and has the workspace shown. The host may call it again
-    /// from there, or leave it at that. Nothing while the editor is active.
+    /// Asks the host to bring the editor to the front, which deactivates the previous one. Then
+    /// connects document and workspace, and shows the workspace. The host may call this function
+    /// again from there, but need not. Does nothing while the editor is active.
     void activate() override;
     void deactivate() override;
 
-    /// Puts the cursor at `line` and `column`, from 0, in the middle of the view.
+    /// Moves the cursor to `line` and `column`, from 0, in the middle of the view.
     void navigateTo(const QString& name, unsigned a, unsigned line, unsigned column) override;
 
-    /// Undo and redo take the cursor along.
+    /// Undo and redo move the cursor to the change.
     void undo() override;
     void redo() override;
 
-    /// Looks for a text from the selection on, once around the whole document, and
-    /// selects what it finds, unfolded. If there is nothing, as for an expression that
-    /// does not compile, the person is told, and the cursor stands where the second
-    /// round began. Nothing for an empty text and while the editor is inactive.
-    /// `flags` are bits of `FindFlag`.
+    /// Searches from the selection on, once around the whole document. Unfolds and selects the
+    /// match. If there is none, or the expression does not compile, the user gets a message and the
+    /// cursor stays where the second round began. Does nothing for an empty text or while the
+    /// editor is inactive. `flags` are bits of `FindFlag`.
     void find(const QString& text, unsigned flags) override;
 
-    /// Replaces the selection if it is a match, and goes on to the next one; with
-    /// `all` every match, as one step of undo. Without a match the whole text takes its
-    /// own place, which is such a step too. In `with` \1 to \99 are what the groups of
-    /// an expression have captured.
+    /// Replaces the selection if it is a match, and moves on to the next match. With `all`,
+    /// replaces every match in one undo step; without a match the whole text is replaced by itself,
+    /// which is an undo step too. In `with`, \1 to \99 are the captured groups of an expression.
     void replace(const QString& text, const QString& with, unsigned flags, bool all) override;
 
     void selectAll() override;
@@ -91,22 +87,22 @@ public:
     void paste() override;
 
 public slots:
-    /// The cursor has moved, to line x and column y: shows place and errors in the
-    /// fields 0 and 1 of the status bar.
+    /// The cursor has moved to line x and column y: shows position and errors in the fields 0 and 1
+    /// of the status bar.
     virtual void cursorChanged(QPoint place);
 
-    /// The cursor has come to another line, from 0: the tree selects its node. With
-    /// the setting "auto_expand_tree" all other branches close.
+    /// The cursor has moved to another line, from 0: the tree selects its node. The setting
+    /// "auto_expand_tree" also collapses all other branches.
     virtual void currLineChanged(int line);
 
-    /// The person has chosen a node in the tree: the cursor goes there. Nothing while
-    /// the editor, and whichever shares its tree, is inactive.
+    /// The user chose a node in the tree: the cursor moves there. Does nothing while this editor,
+    /// and any editor that shares its tree, is inactive.
     void selectedItem(const QModelIndex& index);
 
 protected:
-    /// Join the document to the workspace and part them, once for each time that the editor
-    /// comes forward and goes, and around another document while it is active. `document()`
-    /// may be null. A derived one calls these first in `attach()`, last in `detach()`.
+    /// Connect the document to the workspace, and disconnect it. Called once for each activation
+    /// and deactivation, and around a change of document while active. `document()` may be null.
+    /// Overrides call the base first in `attach()`, last in `detach()`.
     virtual void attach();
     virtual void detach();
 

@@ -12,12 +12,12 @@ namespace Zorv {
 class CodeDocument;
 class CodeEditor;
 
-/// What a person looks for: a text as it stands, or a regular expression.
+/// A search pattern: literal text or a regular expression.
 ///
-/// Expressions are those of `QRegularExpression`, with the whole text as one:
-/// ^ and $ are its start and its end, and a dot takes line ends too; "(?m-s)" in
-/// front makes them go by lines. A text to search is one of
-/// `searchableText()`. A value; main thread only where a document takes part.
+/// Expressions are `QRegularExpression`s that match against the whole text at once: ^ and $ are its
+/// start and end, and a dot also matches line ends. A leading "(?m-s)" makes them work line by
+/// line. Texts to search come from `searchableText()`. A value type; main thread only for functions
+/// with a document.
 class ZORV_EXPORT CodeFind
 {
 public:
@@ -26,48 +26,47 @@ public:
     /// `flags` are bits of `FindFlag`.
     explicit CodeFind(const QString& pattern = {}, unsigned flags = 0);
 
-    /// False for an empty text and for an expression that does not compile; nothing
-    /// is found then.
+    /// False for an empty pattern and for an expression that does not compile. Such a search finds
+    /// nothing.
     bool isValid() const;
 
-    /// What is wrong with an expression, for the person, and where in it, from 0.
-    /// Empty and -1 for nothing.
+    /// The error in an expression for the user, and its offset from 0. Empty and -1 if there is no
+    /// error.
     QString errorString() const;
     int errorOffset() const;
 
-    /// A document's text with a line feed at each line end, and as long as it is.
-    /// What is no valid UTF-16 is replaced, which no search could pass.
+    /// The text of a document with line feeds as line ends; the length does not change. Invalid
+    /// UTF-16 is replaced, because no search could get past it.
     static QString searchableText(const CodeDocument* document);
 
-    /// The same of a text that no document has, as `FileText` reads it. For any thread.
+    /// The same for a plain text, as `FileText` reads it. Any thread.
     static QString searchableText(QString text);
 
-    /// The first match that starts at `from` or behind it.
+    /// The first match that starts at or after `from`.
     Match next(const QString& text, int from) const;
 
-    /// The last one that starts at `from` or before it. It may overlap others.
+    /// The last match that starts at or before `from`. It may overlap others.
     Match previous(const QString& text, int from) const;
 
-    /// All matches from the start on, none over another, in steps as large as the
-    /// caller makes them.
+    /// All matches from the start of the text, without overlaps. The iterator finds them lazily.
     QRegularExpressionMatchIterator matches(const QString& text) const;
 
-    /// A match of exactly that part of the text.
+    /// A match of exactly this part of the text.
     Match matchOf(const QString& text, int start, int length) const;
 
-    /// What takes the place of a match: `with`, where \1 to \99 stand for what the
-    /// groups of an expression have captured.
+    /// The replacement for a match: `with`, where \1 to \99 stand for the captured groups of an
+    /// expression.
     QString replacement(const Match& match, const QString& with) const;
 
-    /// Selects a part of the text in an editor, unfolded and about in the middle of
-    /// the view, which comes from above or with `backward` from below.
+    /// Selects a part of the text in an editor, unfolds it, and scrolls it to about the middle of
+    /// the view: from above, or from below with `backward`.
     static void select(CodeEditor* editor, int start, int length, bool backward);
 
-    /// Replaces the editor's selection, which `match` must be of, and puts the cursor
-    /// behind what took its place.
+    /// Replaces the editor's selection, which must be `match`, and puts the cursor after the
+    /// replacement.
     void replaceSelection(CodeEditor* editor, const Match& match, const QString& with) const;
 
-    /// A part of a text, and what takes its place.
+    /// A part of a text and its replacement.
     struct Replacement
     {
         int start;
@@ -75,15 +74,15 @@ public:
         QString text;
     };
 
-    /// Replaces parts of a document as one step of undo, which has the title. They stand in
-    /// order and none over another. Only they are edited; with none nothing changes.
+    /// Replaces parts of a document in one undo step with this title. The parts must be in order
+    /// and must not overlap. Only they are edited; an empty list changes nothing.
     static void replaceParts(CodeDocument* document, const QVector<Replacement>& parts,
                              const QString& title);
 
-    /// Replaces every match in the editor's document, whose text `text` must be, as
-    /// one step of undo, and gives their number. The result is that of
-    /// `QString::replace()`, but only the matches are edited: cursor, folds, nodes
-    /// and the first line of the view stay. Without a match nothing changes.
+    /// Replaces every match in the editor's document in one undo step, and returns their number.
+    /// `text` must be the document's text. The result equals `QString::replace()`, but only the
+    /// matches are edited, so cursor, folds, nodes and the first visible line stay. Without a match
+    /// nothing changes.
     int replaceAll(CodeEditor* editor, const QString& text, const QString& with) const;
 
 private:

@@ -8,18 +8,18 @@
 
 namespace Zorv {
 
-/// One tool as a value on its way to the host; see `Interface::addControl()`.
+/// Describes one tool, as a value that is handed to the host; see `Interface::addControl()`.
 class ZORV_EXPORT Control
 {
 public:
     virtual ~Control();
 
-    /// A copy of the whole value, whatever its class.
+    /// A copy of the whole value, including what derived classes add.
     virtual std::unique_ptr<Control> clone() const = 0;
 
-    /// The names of the areas in which the tool is enabled, as those of
-    /// `Interface::createAction()`: a null-ended array, which is copied. Without any it is
-    /// for the host to say, which knows the name. A button goes by the areas of its action.
+    /// Names of the areas in which the tool is enabled, as in `Interface::createAction()`: a
+    /// null-terminated array, which is copied. Without areas the host decides, by the name of the
+    /// tool. A button uses the areas of its action instead.
     void setAreas(const char* const* areas);
     QStringList areas() const { return m_areas; }
 

@@ -11,45 +11,45 @@ namespace Zorv {
 class TextTable;
 class Translator;
 
-/// What a tool is; of a name of its own, so that tables can be read.
+/// The kind of a tool. A namespace of its own keeps the tables of tools readable.
 namespace ToolKind {
 
 enum Kind {
     Action,
     CheckAction,
-    MenuAction,  ///< without a button of its own
+    MenuAction,  ///< no button of its own
     Slider,
     Label,
     Spin,
     Real,
     Combo,
     Check,
-    List  ///< a click chooses a row
+    List  ///< one click chooses a row
 };
 
 }  // namespace ToolKind
 
-/// The text of a widget without a label.
+/// Text number for a widget without a label.
 constexpr unsigned NoText = ~0U;
 
-/// A tool of an editor: a row of its table, in the order in which the host gets them.
+/// One tool of an editor: a row of its table. The host gets the tools in table order.
 struct EditorTool
 {
     const char* name;
     ToolKind::Kind kind;
     unsigned textId;
-    const char* enableSignal;            ///< null for what is always enabled
-    const char* slot;                    ///< null for what only shows
-    const char* setSignal = nullptr;     ///< of a widget
-    const char* const* areas = nullptr;  ///< null for those of the table
+    const char* enableSignal;            ///< null: always enabled
+    const char* slot;                    ///< null: display only
+    const char* setSignal = nullptr;     ///< widgets only
+    const char* const* areas = nullptr;  ///< null: the areas of the table
 };
 
-/// The tools of an editor: published by rows, found again by their names.
+/// Publishes the tools of an editor from a table, and finds them again by name.
 class EditorTools
 {
 public:
-    /// Slots and signals are those of `receiver`. Numbers of texts that `texts` does not have are
-    /// those of `ZorvTranslator`; null for none of the editor's own.
+    /// `receiver` has the slots and signals. `texts` is the editor's own text table, or null. Text
+    /// numbers that it does not have are looked up in `ZorvTranslator`.
     explicit EditorTools(QObject* receiver, TextTable* texts = nullptr);
     ~EditorTools();
 
@@ -63,15 +63,15 @@ public:
 
     void publish(const EditorTool& tool, const char* const* areas);
 
-    /// Brings in a widget that the editor has made.
+    /// Publishes a widget that the editor has created itself.
     void publishOwn(const char* name, QWidget* widget, const char* enableSignal,
                     const char* const* areas) const;
 
-    /// A host without a window makes no action, and what is kept in it is needed all the same: then
-    /// it is one of the receiver's. Null once it has gone.
+    /// A host without a window creates no actions, but the editor still needs the action's state.
+    /// Then the action is created here, owned by the receiver. Null once it was deleted.
     QAction* action(const char* name) const;
 
-    /// Null for a host without a window, and for a widget of another class.
+    /// Null if the host has no window, or if the widget has another class.
     template <class Widget>
     Widget* widget(const char* name) const
     {

@@ -10,8 +10,8 @@ namespace Zorv {
 
 /// A side panel beside the workspace: organizer, thumbnails, palette.
 ///
-/// Owned by the host, which shows it and calls the operations below when that
-/// changes. Main thread only.
+/// The host owns it, shows it, and calls the functions below when that changes. Main
+/// thread only.
 class ZORV_EXPORT ExtraEditor : public QObject
 {
     Q_OBJECT
@@ -19,17 +19,17 @@ class ZORV_EXPORT ExtraEditor : public QObject
 public:
     using QObject::QObject;
 
-    /// Short name, which the settings know the panel by.
+    /// Short name; settings identify the panel by it.
     virtual QString name() const = 0;
 
-    /// The title of the panel in the person's language.
+    /// The title of the panel in the user's language.
     virtual QString displayName() const = 0;
 
-    /// The widget of a panel that brings its own; null if all that it shows
-    /// was published as controls. The panel's.
+    /// The panel's own widget; null if it publishes everything as controls. Owned by
+    /// the panel.
     virtual QWidget* widget() const;
 
-    /// The panel is shown, or hidden. A derived one calls these first.
+    /// The panel was shown or hidden. Overrides call these first.
     virtual void activate();
     virtual void deactivate();
 

@@ -33,7 +33,7 @@ struct Filters
         }
     }
 
-    /// As file dialogs take them: "Picture (*.png);;Palette (*.act)".
+    /// In the format of Qt's file dialogs: "Picture (*.png);;Palette (*.act)".
     QString forDialog() const
     {
         QStringList entries;
@@ -202,7 +202,8 @@ bool FileEditor::saveFileAs(ProjectFile* file, FileEditor* editor, Interface* in
     if (fileName.isEmpty()) {
         return false;
     }
-    // As in the dialog, which has asked about a file of this name.
+    // The save dialog adds an extension in the same way, and has already asked about
+    // overwriting that file.
     const bool hasExtension = std::any_of(
         filters.extensions.begin(), filters.extensions.end(), [&](const QString& extension) {
             return fileName.endsWith(extension, Qt::CaseInsensitive);
@@ -210,8 +211,8 @@ bool FileEditor::saveFileAs(ProjectFile* file, FileEditor* editor, Interface* in
     if (!hasExtension) {
         fileName += filters.extensions.first();
     }
-    // Asked wherever the file lies: the answer also decides whether the project
-    // goes on with the new file or with the one that it had.
+    // Ask even for a file inside the project: the answer also decides whether the
+    // project continues with the new file or keeps the old one.
     const bool asCopy =
         Dialogs::instance()->question(
             externalTitle(),

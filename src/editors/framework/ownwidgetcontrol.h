@@ -8,22 +8,22 @@
 
 namespace Zorv {
 
-/// A widget that its publisher has made: the grid of a palette, the options of a tool.
+/// A widget that its publisher has created: a palette grid, the options of a tool.
 ///
-/// The host gives it a place, tells whether it is enabled, and does nothing else with it.
-/// From `Interface::addControl()` on it belongs to what it is placed in, and goes with that.
-/// A publisher that dies first takes it along: it keeps a `QPointer` and deletes it.
+/// The host only places it and switches its enabled state. From `Interface::addControl()` on, the
+/// widget belongs to the parent that it is placed in and dies with it. A publisher that dies first
+/// must delete the widget: keep it in a `QPointer`.
 class ZORV_EXPORT OwnWidgetControl : public Control
 {
 public:
-    /// The receiver, which may be null, is the publisher; `enableSignal` is a signal of it in
-    /// the form of `SIGNAL()`, with a bool, by which it tells whether the widget is of use.
+    /// The receiver is the publisher and may be null. `enableSignal` is one of its signals in the
+    /// form of `SIGNAL()`, with a bool: whether the widget is enabled.
     explicit OwnWidgetControl(QWidget* widget, QObject* receiver = nullptr,
                               const char* enableSignal = nullptr);
 
     std::unique_ptr<Control> clone() const override;
 
-    /// Null once it has died.
+    /// Null once it was deleted.
     QWidget* widget() const { return m_widget; }
     QObject* receiver() const { return m_receiver; }
     QByteArray enableSignal() const { return m_enableSignal; }

@@ -17,7 +17,8 @@ void RowList::setModel(QAbstractItemModel* model)
     disconnect(m_reset);
     QListView::setModel(model);
     if (model) {
-        // Behind the selection, which forgets its place.
+        // Connect after the selection model: on a reset it clears the current row,
+        // which takeRowBack() then restores.
         m_reset = connect(model, &QAbstractItemModel::modelReset, this, &RowList::takeRowBack);
     }
     m_row = -1;

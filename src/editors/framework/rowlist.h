@@ -7,8 +7,8 @@
 
 namespace Zorv {
 
-/// A list that is looked at and chosen from: several rows can be selected, nothing is edited or
-/// dragged. A model that is read anew keeps the current row. Main thread only.
+/// A list to look at and choose from: several rows can be selected, but not edited or dragged. It
+/// keeps the current row when the model is reset. Main thread only.
 class ZORV_EXPORT RowList : public QListView
 {
     Q_OBJECT
@@ -16,17 +16,17 @@ class ZORV_EXPORT RowList : public QListView
 public:
     explicit RowList(QWidget* parent = nullptr);
 
-    /// Lets go of the current row too, which the base class does without a word.
+    /// Also clears the current row: the base class does that without a signal.
     void setModel(QAbstractItemModel* model) override;
 
-    /// The selected rows in their order.
+    /// The selected rows, ascending.
     QVector<int> selectedRows() const;
 
 signals:
-    /// The person is at another row; -1 for none.
+    /// The current row has changed; -1 for none.
     void currentRowChanged(int row);
 
-    /// Other rows are selected, or the rows have been read anew.
+    /// The selection has changed, or the model was reset.
     void selectedRowsChanged();
 
 protected:

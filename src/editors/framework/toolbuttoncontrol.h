@@ -7,10 +7,10 @@ class QMenu;
 
 namespace Zorv {
 
-/// A button for an action, which gives it text, icon, tool tip and enabled state.
+/// A button for an action, which provides text, icon, tool tip and enabled state.
 ///
-/// The action is one that `Interface::createAction()` has made. Action and menu are not
-/// owned, and live as long as the button.
+/// The action must come from `Interface::createAction()`. Action and menu are not
+/// owned, and must live as long as the button.
 class ZORV_EXPORT ToolButtonControl : public Control
 {
 public:
@@ -27,8 +27,8 @@ private:
     int m_position;
 };
 
-/// A button for an action with a menu beside it: a click triggers the action, the
-/// arrow opens the menu.
+/// A button for an action with a menu: a click triggers the action, the arrow opens the
+/// menu.
 class ZORV_EXPORT MenuToolButtonControl : public ToolButtonControl
 {
 public:

@@ -6,15 +6,15 @@ namespace Zorv {
 
 class Translator;
 
-/// A widget with a label, or for a check box with a text, of a table of texts.
+/// A widget whose label comes from a text table. For a check box it is the text.
 ///
-/// The host takes label, tool tip and status tip from the translator by `textId`,
-/// and asks again when the language changes.
+/// The host reads label, tool tip and status tip from the translator by `textId`, and
+/// again when the language changes.
 class ZORV_EXPORT trWidgetControl : public WidgetControl
 {
 public:
-    /// As for `WidgetControl`. The translator is not owned, and lives as long as
-    /// the widget.
+    /// See `WidgetControl`. The translator is not owned, and must live as long as the
+    /// widget.
     trWidgetControl(Kind kind, int size, Translator* translator, unsigned textId, QObject* receiver,
                     const char* changedSlot = nullptr, const char* setSignal = nullptr,
                     const char* enableSignal = nullptr, Flags flags = NoFlags);

@@ -9,24 +9,24 @@ class QObject;
 
 namespace Zorv {
 
-/// A widget that the host makes for a tool: a slider, a field, a list.
+/// A widget that the host creates for a tool: a slider, a field, a list.
 ///
-/// Signatures have the form of `SLOT()` and `SIGNAL()`. The host connects what
-/// the person does with the widget to `changedSlot()` of the receiver, and the
-/// receiver's `setSignal()` and `enableSignal()` to the widget; each may be
-/// empty. What the person does, and the argument of slot and signal:
+/// Signatures have the form of `SLOT()` and `SIGNAL()`. The host connects user input to
+/// `changedSlot()` of the receiver, and the receiver's `setSignal()` and
+/// `enableSignal()` to the widget. Each may be empty. The input of each kind, and the
+/// argument of slot and signal:
 ///
-/// | Kind | The person | Argument |
+/// | Kind | User input | Argument |
 /// |---|---|---|
 /// | `Slider`, `SpinEdit` | chooses a value | `int` |
 /// | `FloatEdit` | chooses a value | `double` |
 /// | `ComboBox` | chooses a row | `int` |
-/// | `CheckBox` | switches it | `bool` |
-/// | `Label` | - | `QString`, of `setSignal()` alone |
-/// | `ListView`, `TreeView` | double clicks a row | `QModelIndex` |
+/// | `CheckBox` | toggles it | `bool` |
+/// | `Label` | - | `QString`, of `setSignal()` only |
+/// | `ListView`, `TreeView` | double-clicks a row | `QModelIndex` |
 ///
-/// What `setSignal()` sets is not told to `changedSlot()`. Range, entries and
-/// model are the publisher's, who gets the widget from `Interface::addControl()`.
+/// A value set by `setSignal()` does not trigger `changedSlot()`. The publisher sets
+/// range, entries and model on the widget that `Interface::addControl()` returns.
 class ZORV_EXPORT WidgetControl : public Control
 {
 public:
@@ -34,14 +34,14 @@ public:
 
     enum Flag {
         NoFlags = 0,
-        SingleClick = 1,  ///< of a view: one click is enough
-        Reorderable = 2   ///< of a view: rows can be dragged within it, several at once
+        SingleClick = 1,  ///< views: one click is enough
+        Reorderable = 2   ///< views: rows can be dragged within the view, several at once
     };
     Q_DECLARE_FLAGS(Flags, Flag)
 
-    /// `size` is the room that the widget wants: for a slider or a field in
-    /// characters, for a view in rows; 0 for what is usual. The receiver is not
-    /// owned and outlives the widget, or the host disconnects with it.
+    /// `size` is the wanted size: characters for a slider or a field, rows for a view,
+    /// 0 for the default. The receiver is not owned. It outlives the widget, or the
+    /// host disconnects when the receiver dies.
     WidgetControl(Kind kind, int size, QObject* receiver, const char* changedSlot = nullptr,
                   const char* setSignal = nullptr, const char* enableSignal = nullptr,
                   Flags flags = NoFlags);

@@ -8,9 +8,9 @@ class QWidget;
 
 namespace Zorv {
 
-/// The central area of the window for one way of working: code, graphics, sound.
+/// The central area of the window for one kind of work: code, graphics, sound.
 ///
-/// Owned by the host, which shows one of them at a time. Main thread only.
+/// The host owns all workspaces and shows one at a time. Main thread only.
 class ZORV_EXPORT Workspace : public QObject
 {
     Q_OBJECT
@@ -18,16 +18,16 @@ class ZORV_EXPORT Workspace : public QObject
 public:
     using QObject::QObject;
 
-    /// Short name, which the settings know the workspace by.
+    /// Short name; settings identify the workspace by it.
     virtual QString name() const = 0;
 
-    /// What the host puts into the middle of its window; the workspace's.
+    /// The widget for the centre of the host's window. Owned by the workspace.
     virtual QWidget* widget() const = 0;
 
-    /// The engine family in use has changed; false while the old one goes.
+    /// The current engine family has changed; false while the old one is being left.
     virtual void engineSwitched(bool isNew);
 
-    /// The workspace comes to the middle of the window, or leaves it.
+    /// The workspace was shown in the window, or hidden.
     virtual void activate();
     virtual void deactivate();
 
@@ -37,7 +37,7 @@ public:
     /// The language has changed.
     virtual void retranslate();
 
-    /// The person has clicked the field of the status bar that shows the place.
+    /// The user clicked the position field of the status bar.
     virtual void statusClicked();
 
     virtual void zoomActual();
