@@ -12,7 +12,7 @@ namespace {
 
 constexpr int DarkValue = 128;
 
-/// The left edge of the first character of a line that is to be seen, wherever the view is.
+/// The left edge of the first non-blank character of a line, independent of scrolling.
 int visualIndent(const QTextBlock& block, const CodeEditorPrivate& editor)
 {
     const QString text = block.text();
@@ -26,7 +26,7 @@ int visualIndent(const QTextBlock& block, const CodeEditorPrivate& editor)
     return editor.q->cursorRect(cursor).left() - int(editor.contentOffset().x());
 }
 
-/// The last block from `block` on in front of one with a level below `level`.
+/// The last block before the next one with a level below `level`.
 QTextBlock endOfRange(const QTextBlock& block, int level, const CodeDocument& document)
 {
     const QTextBlock lower = document.lowerBlockBelow(block, level);
@@ -46,6 +46,9 @@ QColor shifted(const QColor& color, int by)
 
 }  // namespace
 
+// Works outwards from the line: find the nearest line above with a lower level, and the nearest one
+// below. The range starts with the upper one and ends before the lower one. Then continue outwards
+// from the upper one, until no line above has a lower level.
 HighlightBlocks BlockRanges::around(QTextBlock block, const CodeEditorPrivate& editor)
 {
     HighlightBlocks ranges;

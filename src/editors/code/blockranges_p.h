@@ -11,19 +11,19 @@ namespace Zorv {
 
 class CodeEditorPrivate;
 
-/// The ranges of lines around a line: each goes as far as no line has a folding level
-/// below that of the range.
+/// Computes the nested block ranges around a line. A range extends in both directions until a line
+/// has a lower folding level.
 namespace BlockRanges {
 
-/// The ranges around a block of an editor's document; none for an invalid one. A line that
-/// opens a range is counted as inside it. Logarithmic for each range.
+/// The ranges around a block of the editor's document; none for an invalid block. A line that opens
+/// a range counts as inside it. Takes logarithmic time per range.
 HighlightBlocks around(QTextBlock block, const CodeEditorPrivate& editor);
 
-/// How many of the ranges a block stands in.
+/// The number of ranges that contain a block.
 int depth(const HighlightBlocks& ranges, int blockNumber);
 
-/// What the ranges are filled with, from the outside (0, the text outside of any) to
-/// the innermost (`count`, which has the base colour).
+/// The fill colours, from the text outside all ranges (index 0) to the innermost range (index
+/// `count`, the base colour).
 QVector<QColor> colors(const QColor& base, int count);
 
 }  // namespace BlockRanges

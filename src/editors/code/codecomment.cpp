@@ -8,7 +8,7 @@ namespace Zorv {
 
 namespace {
 
-/// Gives by how much the text has grown.
+/// Returns by how much the text has grown.
 int changeLine(QTextCursor* edit, QChar mark, bool comments)
 {
     if (comments) {
@@ -29,11 +29,11 @@ void CodeComment::toggle(QTextCursor* cursor, QChar mark)
     const QTextDocument* document = cursor->document();
     QTextBlock block = document->findBlock(cursor->selectionStart());
     const bool comments = !block.text().startsWith(mark);
-    // At the start of a line, a cursor alone reaches into it as well.
+    // A cursor without a selection works on its line even if it is at the start.
     int end = cursor->hasSelection() ? cursor->selectionEnd() : block.position() + 1;
     int last = block.position();
     QTextCursor edit(*cursor);
-    // Undo leads back to where the cursor was.
+    // The edit begins at the cursor's old position, so that undo returns there.
     edit.beginEditBlock();
     for (; block.isValid() && block.position() < end; block = block.next()) {
         last = block.position();

@@ -6,14 +6,15 @@ class QTextCursor;
 
 namespace Zorv {
 
-/// Makes comments of lines, and lines of comments.
+/// Comments lines out and back in.
 class CodeComment
 {
 public:
-    /// Puts `mark` in front of every line that the selection touches, also of those that
-    /// begin with one; if the first of them begins with one, takes one off each that
-    /// does. Without a selection, the line of the cursor is meant. One step of undo. The
-    /// cursor goes to the start of the last of the lines.
+    /// Inserts `mark` at the start of every line that the selection touches, even of
+    /// lines that already begin with it. If the first line begins with the mark,
+    /// removes one mark from each line that has one instead. Without a selection, works
+    /// on the cursor's line. One undo step. The cursor ends up at the start of the last
+    /// line.
     static void toggle(QTextCursor* cursor, QChar mark);
 };
 

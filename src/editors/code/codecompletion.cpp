@@ -12,13 +12,19 @@
 
 #include <algorithm>
 
+// The popup opens in two ways. A word file maps triggers to word lists: after each key, the end of
+// the line (without blanks) is compared with the triggers, and a match opens its list. Or a host
+// calls show() with words for the cursor's place.
+//
+// Without a word finder an accepted word appends what was not typed yet. With one it replaces the
+// whole word at the cursor, and endWord() lets Return and Space finish a word without inserting.
 namespace Zorv {
 
 namespace {
 
 const QString EndOfWord = QStringLiteral("~!@#$%^&*)_+{}|:\"<>?,./;'[]\\-=");
 
-/// True if `trigger` ends the line and does not stand inside a word.
+/// True if `trigger` ends the line and does not begin inside a word.
 bool endsWith(const QString& line, const QString& trigger)
 {
     if (!line.endsWith(trigger, Qt::CaseInsensitive)) {
@@ -52,7 +58,8 @@ bool CodeCompletion::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::LanguageChange) {
         m_completer->popup()->setAccessibleName(tr("Words to complete"));
     } else if (event->type() == QEvent::Show) {
-        // With each list of words, the completer puts a filter of its own in front.
+        // The completer installs its own event filter with each new model. Install this one again,
+        // so that it is called first.
         watched->installEventFilter(this);
     }
     const bool isKey = m_finder && event->type() == QEvent::KeyPress;
@@ -99,7 +106,7 @@ void CodeCompletion::useModel(QStringListModel* words)
             disconnect(m_completer->model(), nullptr, this, nullptr);
         }
         m_completer->setModel(words);
-        // A new model brings the completer's own one back.
+        // Setting a model resets the delegate to the completer's own.
         m_completer->popup()->setItemDelegate(m_delegate);
     }
     if (words) {
@@ -122,14 +129,14 @@ void CodeCompletion::show(QStringListModel* words)
     }
 }
 
-/// Any part of a word can have been typed, which is looked for among all.
+/// Shows all words, and selects the first match for the typed part of the word.
 void CodeCompletion::showFrom(int start)
 {
     hide();
     const QTextCursor cursor = m_editor->q->textCursor();
     const QString prefix = cursor.block().text().mid(start, cursor.positionInBlock() - start);
     open(prefix);
-    // The words may be others than those that it was looked for among before.
+    // Set the prefix again: the words may have changed since the last search.
     m_completer->setCompletionPrefix(prefix);
     m_completer->popup()->setCurrentIndex(m_completer->currentIndex());
 }
@@ -155,7 +162,7 @@ QString CodeCompletion::wordAtCursor() const
     return cursor.selectedText();
 }
 
-/// The line up to the cursor without blanks, as much of it as a trigger can mean.
+/// The end of the line before the cursor, without blanks, as long as the longest trigger needs.
 QString CodeCompletion::lineEnd() const
 {
     const QTextCursor cursor = m_editor->q->textCursor();
@@ -212,7 +219,7 @@ void CodeCompletion::open(const QString& prefix)
         m_completer->setCompletionPrefix(prefix);
         popup->setCurrentIndex(m_completer->completionModel()->index(0, 0));
     }
-    // The completer counts from the widget, gutter included.
+    // The completer expects widget coordinates, gutter included.
     QRect place = m_editor->q->cursorRect().translated(m_editor->q->viewport()->pos());
     place.setWidth(popup->sizeHintForColumn(0) + popup->verticalScrollBar()->sizeHint().width());
     m_completer->complete(place);
@@ -234,8 +241,8 @@ void CodeCompletion::insert(const QString& text)
     m_editor->q->setTextCursor(cursor);
 }
 
-/// The columns that a word replaces. Where the finder expects nothing, the trigger of a file of
-/// words may have opened the popup.
+/// The columns that a word replaces. If the finder knows no word here, the popup was opened by a
+/// trigger from the word file; then the typed prefix is replaced.
 CodeEditor::WordRange CodeCompletion::range() const
 {
     const QTextCursor cursor = m_editor->q->textCursor();
@@ -263,8 +270,7 @@ void CodeCompletion::replace(const QString& word)
     m_editor->q->setTextCursor(cursor);
 }
 
-/// A word that stands there whole needs no key to take it, and a blank ends any word: both go to
-/// the text.
+/// Return on a complete word, and a blank after any word, go to the text.
 bool CodeCompletion::endWord(QKeyEvent* event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

@@ -13,7 +13,7 @@ namespace Zorv {
 class CodeEditorPrivate;
 class CompletionDelegate;
 
-/// The popup of words: when it opens, and what is put in.
+/// The completion popup: when it opens, and what it inserts.
 class CodeCompletion : public QObject
 {
     Q_OBJECT
@@ -29,14 +29,14 @@ public:
     void show(QStringListModel* words);
     void hide();
 
-    /// True if the key is the open popup's, and not the text's.
+    /// True if the key belongs to the open popup and not to the text.
     bool takesKey(const QKeyEvent* event) const;
 
-    /// The text has taken a key.
+    /// Call after the text has handled a key.
     void keyPressed(const QKeyEvent* event);
 
 protected:
-    /// The popup hears of another language by itself; and of keys, which end a word that is
+    /// Watches the popup for a change of language, and for keys that end a word which is being
     /// replaced.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -57,9 +57,9 @@ private:
     QCompleter* m_completer;
     CompletionDelegate* m_delegate;
     CodeEditor::WordFinder m_finder;
-    QMap<QString, QStringListModel*> m_models;  // by trigger
+    QMap<QString, QStringListModel*> m_models;  // key: trigger
     QString m_error;
-    int m_longest = 0;  // trigger, in characters
+    int m_longest = 0;  // length of the longest trigger
 };
 
 }  // namespace Zorv

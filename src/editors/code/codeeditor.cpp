@@ -32,7 +32,7 @@ QTextBlock blockAtLine(const QTextDocument* document, int line)
     return block.isValid() ? block : document->lastBlock();
 }
 
-/// The first message on a character; empty for none.
+/// The first message at a character; empty if there is none.
 QString messageAt(const QTextCursor& cursor)
 {
     if (const CodeBlockData* data = CodeBlockData::testBlockData(cursor.block())) {
@@ -46,7 +46,7 @@ QString messageAt(const QTextCursor& cursor)
     return {};
 }
 
-/// The block `count` lines of the screen further down, what is folded not counted.
+/// The block `count` screen lines further down; folded lines do not count.
 QTextBlock visibleBlockBelow(const QTextBlock& block, int count)
 {
     const QTextDocument* document = block.document();
@@ -54,7 +54,7 @@ QTextBlock visibleBlockBelow(const QTextBlock& block, int count)
     return below.isValid() ? below : document->lastBlock();
 }
 
-/// True for what the left button does inside of the view; outside it scrolls.
+/// True for left button events inside the view. Outside it, a drag has to scroll.
 bool isClickInside(QEvent* event, const QWidget* viewport)
 {
     switch (event->type()) {
@@ -323,7 +323,7 @@ bool CodeEditor::viewportEvent(QEvent* event)
 
 QMimeData* CodeEditor::createMimeDataFromSelection() const
 {
-    // Qt's own would turn non-breaking blanks into plain ones.
+    // Qt's version would replace non-breaking spaces by plain ones.
     QString text = textCursor().selectedText();
     text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
     auto* mime = new QMimeData;

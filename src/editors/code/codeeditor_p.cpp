@@ -27,7 +27,7 @@ CodeEditorPrivate::CodeEditorPrivate(CodeEditor* editor)
     connect(q, &QPlainTextEdit::cursorPositionChanged, this, &CodeEditorPrivate::cursorMoved);
 }
 
-// Before the widget ends, which still tells of updates.
+// Delete the gutter first: the widget still emits update signals while it is destroyed.
 CodeEditorPrivate::~CodeEditorPrivate()
 {
     delete extraArea;
@@ -45,7 +45,7 @@ QAbstractTextDocumentLayout::PaintContext CodeEditorPrivate::paintContext() cons
 
 void CodeEditorPrivate::baseKeyPress(QKeyEvent* event)
 {
-    // Qt would write U+2028, which ends no line of the file.
+    // Qt would insert U+2028, which is not a line end in the file.
     if (event->matches(QKeySequence::InsertLineSeparator) && !q->isReadOnly()) {
         q->textCursor().insertBlock();
         q->ensureCursorVisible();
@@ -96,7 +96,7 @@ void CodeEditorPrivate::haveRead()
 
 void CodeEditorPrivate::cursorMoved()
 {
-    // While a file is read, the cursor is nowhere.
+    // While a file is being read, the cursor position means nothing.
     if (keptPlace) {
         return;
     }
@@ -109,8 +109,8 @@ void CodeEditorPrivate::cursorMoved()
     emit q->cursorChanged({cursor.blockNumber(), cursor.positionInBlock()});
 }
 
-/// Keys that move the cursor pass over a fold: Qt would leave it inside. True if the cursor
-/// went on, and has told of it.
+/// Moves the cursor past a fold: Qt would leave it inside. True if the cursor was moved, which has
+/// sent its own signals.
 bool CodeEditorPrivate::leaveFold(const QTextCursor& cursor)
 {
     if (!currentKey || currentKey->revision != q->document()->revision() ||

@@ -16,7 +16,7 @@ class CodeHighlights;
 class FoldedBlocks;
 class KeptPlace;
 
-/// The parts of a `CodeEditor`, and what they need of it and of each other.
+/// The parts of a `CodeEditor`, and what they need from it and from each other.
 class CodeEditorPrivate : public QObject
 {
     Q_OBJECT
@@ -25,11 +25,11 @@ public:
     explicit CodeEditorPrivate(CodeEditor* editor);
     ~CodeEditorPrivate() override;
 
-    /// @name What Qt shows to the widget alone
+    /// @name Access to protected functions of the widget
     /// @{
     QTextBlock firstVisibleBlock() const { return q->firstVisibleBlock(); }
     QPointF contentOffset() const { return q->contentOffset(); }
-    QRectF blockRect(const QTextBlock& block) const;  ///< in the viewport
+    QRectF blockRect(const QTextBlock& block) const;  ///< in viewport coordinates
     QAbstractTextDocumentLayout::PaintContext paintContext() const;
     void setMargins(int left, int right) { q->setViewportMargins(left, 0, right, 0); }
     void baseKeyPress(QKeyEvent* event);
@@ -39,10 +39,10 @@ public:
     void attach(CodeDocument* newDocument);
     void cursorMoved();
 
-    /// Takes the cursor along, and into the view.
+    /// Moves the cursor with the lines, and scrolls it into view.
     void moveLines(CodeLines::Direction direction);
 
-    /// Tells layout and scroll bars that lines have come or gone from the view.
+    /// Updates layout and scroll bars after lines were shown or hidden.
     void updateLayout();
 
     CodeEditor* const q;
@@ -58,7 +58,7 @@ private:
     void haveRead();
     bool leaveFold(const QTextCursor& cursor);
 
-    /// A key that the base class handles: where the text was before.
+    /// State of the text before the base class handles a key.
     struct Key
     {
         int revision;
@@ -66,7 +66,7 @@ private:
     };
     const Key* currentKey = nullptr;
 
-    std::unique_ptr<KeptPlace> keptPlace;  ///< while a file is read
+    std::unique_ptr<KeptPlace> keptPlace;  ///< set only while a file is being read
 };
 
 }  // namespace Zorv

@@ -22,7 +22,7 @@ namespace Zorv {
 
 namespace {
 
-/// No wider than a text cursor.
+/// At most as wide as a text cursor.
 constexpr int NarrowWidth = 4;
 
 QIcon icon(const char* name)
@@ -30,8 +30,8 @@ QIcon icon(const char* name)
     return QIcon(QStringLiteral(":/zorvl_icons/icons/%1.png").arg(QLatin1String(name)));
 }
 
-/// Where the next visible line begins, so that a folded line goes with all that it hides; the
-/// end of the text behind the last one.
+/// The start of the next visible line, so that a folded line includes its hidden lines; after the
+/// last line, the end of the text.
 int startBehind(const QTextBlock& block)
 {
     const QTextBlock next = visibleFrom(block.next());
@@ -101,8 +101,8 @@ void CodeEditorExtraArea::updateLines(const QTextBlock& first, const QTextBlock&
     update(0, top, width(), bottom - top + 1);
 }
 
-/// True if nothing but the text cursor is painted anew: it blinks. Qt adds some room on both
-/// sides, for the marks of writing directions.
+/// True if only the blinking text cursor is repainted. Qt adds some pixels on each side, for the
+/// writing direction marks.
 bool CodeEditorExtraArea::isCursor(const QRect& rect) const
 {
     return m_editor->q->cursorRect().adjusted(-6, -2, 6, 2).contains(rect);
@@ -161,7 +161,7 @@ void CodeEditorExtraArea::hideEvent(QHideEvent* event)
     endDrag();
 }
 
-/// Without a button the mouse has left the folding column too.
+/// Unless a button is down, leaving the widget also leaves the folding column.
 void CodeEditorExtraArea::leaveEvent(QEvent* event)
 {
     QWidget::leaveEvent(event);
@@ -241,7 +241,7 @@ QRect CodeEditorExtraArea::foldBox() const
     return {width() - foldWidth(), top, foldWidth(), bottom - top};
 }
 
-/// Shows the ranges of the line below the mouse while it is on the folding column.
+/// Shows the ranges of the line under the mouse while it is on the folding column.
 void CodeEditorExtraArea::moved(const QPoint& place)
 {
     if (!m_editor->formatting.foldingMarkers) {
@@ -286,7 +286,7 @@ void CodeEditorExtraArea::toggleFold(const QPoint& place)
     if (CodeFolding::hides(block)) {
         m_editor->q->toggleBlockVisible(block);
     } else {
-        // A quick hand presses before the ranges are shown.
+        // A quick user clicks before the ranges are shown.
         m_editor->highlights->showRangesOf(block.blockNumber());
         if (foldBox().contains(place)) {
             const int head = m_editor->highlights->blocks().open.last();
@@ -296,7 +296,7 @@ void CodeEditorExtraArea::toggleFold(const QPoint& place)
     m_editor->q->moveCursorVisible(false);
 }
 
-/// Selects the lines from the one that was pressed to the one at `y`, both whole.
+/// Selects whole lines, from the pressed one to the one at `y`.
 void CodeEditorExtraArea::dragTo(int y)
 {
     if (m_selectionAnchorLine < 0) {
@@ -320,7 +320,7 @@ void CodeEditorExtraArea::dragTo(int y)
     m_editor->q->setTextCursor(cursor);
 }
 
-/// Scrolls the faster the farther the mouse is outside.
+/// Scrolls faster the farther the mouse is outside.
 void CodeEditorExtraArea::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() != m_autoScrollTimer.timerId()) {

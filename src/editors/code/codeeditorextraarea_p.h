@@ -22,20 +22,21 @@ public:
     /// A child of the editor's widget.
     explicit CodeEditorExtraArea(CodeEditorPrivate* editor);
 
-    /// The width that it needs in the editor's font; `markWidth`, if not null, takes
-    /// that of the column of marks.
+    /// The width that the gutter needs in the editor's font. `markWidth`, if not null,
+    /// receives the width of the mark column.
     int neededWidth(int* markWidth = nullptr) const;
 
-    /// Gives the editor the margin that the gutter needs, and takes its place there.
+    /// Sets the editor's margin to the needed width, and moves the gutter there.
     void updateWidth();
 
-    /// Takes its place beside the viewport.
+    /// Moves the gutter beside the viewport.
     void place();
 
-    /// Paints the strips of lines anew; an invalid one stands for the end of the view.
+    /// Repaints the strips of some lines; an invalid block stands for the end of the
+    /// view.
     void updateLines(const QTextBlock& first, const QTextBlock& last);
 
-    /// Ends a drag: the text is another one.
+    /// Ends a drag, because the text has been replaced.
     void endDrag();
 
     QSize sizeHint() const override;
@@ -68,7 +69,7 @@ private:
     void paintMark(QPainter* painter, const QTextBlock& block, const QRect& strip) const;
     void paintNumber(QPainter* painter, const QTextBlock& block, const QRect& strip) const;
     bool isStrong(const QTextBlock& block) const;
-    QColor ground() const;  ///< below marks and numbers
+    QColor ground() const;  ///< background of marks and numbers
 
     void moved(const QPoint& place);
     void pressed(const QPoint& place);
@@ -77,13 +78,13 @@ private:
     void showTip(const QPoint& place, const QPoint& globalPlace);
 
     CodeEditorPrivate* m_editor;
-    std::array<QIcon, 3> m_markIcons;  ///< by the type of message
+    std::array<QIcon, 3> m_markIcons;  ///< index: message type
     QIcon m_contractIcon;
     QIcon m_expandIcon;
     NumberPainter m_numbers;
     QBasicTimer m_autoScrollTimer;
-    int m_selectionAnchorLine = -1;  ///< where a drag began
-    int m_markedLine = -1;           ///< the last one pressed in the column of marks
+    int m_selectionAnchorLine = -1;  ///< line where the drag began
+    int m_markedLine = -1;           ///< last line clicked in the mark column
 };
 
 }  // namespace Zorv

@@ -17,12 +17,13 @@ namespace Zorv {
 
 namespace {
 
-/// The worst first.
+/// Most severe first.
 constexpr CodeBlockData::SyntaxMessage::Type MarkOrder[] = {
     CodeBlockData::SyntaxMessage::Error, CodeBlockData::SyntaxMessage::Deprecated,
     CodeBlockData::SyntaxMessage::Warning};
 
-/// A color with alpha 100 on a ground. Qt draws opaque characters faster.
+/// Blends a colour with alpha 100 onto an opaque background. Qt draws opaque characters
+/// faster.
 QColor faded(const QColor& color, const QColor& ground)
 {
     const auto mixed = [](int top, int below) { return (top * 100 + below * 155) / 255; };
@@ -141,7 +142,7 @@ void CodeEditorExtraArea::paintNumber(QPainter* painter, const QTextBlock& block
     m_numbers.draw(painter, QPointF(right, strip.top()), block.blockNumber() + 1);
 }
 
-/// The cursor's line, and those that meet the selection.
+/// True for the cursor's line and for lines that the selection touches.
 bool CodeEditorExtraArea::isStrong(const QTextBlock& block) const
 {
     const QTextCursor cursor = m_editor->q->textCursor();

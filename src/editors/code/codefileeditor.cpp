@@ -52,7 +52,7 @@ CodeFileEditor* CodeFileEditorPrivate::follower() const
     return isSame ? next : nullptr;
 }
 
-/// What shows the document already is left as it is.
+/// Leaves model and tree alone if they already show the document.
 void CodeFileEditorPrivate::joinTree(CodeDocument* shown, bool isJoined)
 {
     if (model && model->document() != shown) {
@@ -62,7 +62,7 @@ void CodeFileEditorPrivate::joinTree(CodeDocument* shown, bool isJoined)
     if (!tree || tree->model() == wanted) {
         return;
     }
-    // A view makes a new one for each model and leaves the old one where it is.
+    // A view creates a new selection model for each model, but does not delete the old one.
     const QItemSelectionModel* selection = tree->selectionModel();
     tree->setModel(wanted);
     if (selection != tree->selectionModel()) {
@@ -83,7 +83,7 @@ void CodeFileEditorPrivate::replaceSelection(const CodeFind& what, const QString
 void CodeFileEditorPrivate::replaceAll(const CodeFind& what, const QString& with)
 {
     if (what.replaceAll(editor(), text.text(), with) == 0) {
-        // The text as it is, which all the same can be undone.
+        // Replace the text by itself: this still adds an undo step.
         const QString whole = document->text();
         QTextCursor cursor(document);
         cursor.select(QTextCursor::Document);
@@ -163,7 +163,8 @@ void CodeFileEditor::activate()
     if (isActive()) {
         return;
     }
-    // The call that the host makes in answer goes on below, and this one has nothing left to do.
+    // The host calls activate() again from here. The inner call does the work below, and this one
+    // returns.
     if (!d->isAsking) {
         const QScopedValueRollback<bool> asking(d->isAsking, true);
         host()->activateEditor(this);
@@ -219,7 +220,7 @@ void CodeFileEditor::detach()
     d->connections.clear();
     d->text.setDocument(nullptr);
     const CodeFileEditor* const next = d->follower();
-    // Another editor may have brought its own document by now.
+    // Another editor may already show its own document.
     if (d->editor() && !next) {
         d->workspace->setDocument(nullptr);
     }
@@ -341,7 +342,7 @@ void CodeFileEditor::currLineChanged(int line)
     if (host()->option(QStringLiteral("auto_expand_tree")).toBool()) {
         d->tree->collapseAll();
     }
-    // While another document takes the place of this one, the tree has no model yet.
+    // While documents are being switched, the tree has no model.
     QItemSelectionModel* selection = d->tree->selectionModel();
     if (!selection || d->tree->model() != d->model) {
         return;

@@ -16,23 +16,24 @@ class CodeFind;
 class CodeItemModel;
 class CodeWorkspace;
 
-/// What a `CodeFileEditor` joins.
+/// The private part of a `CodeFileEditor`: it connects document, editor and tree.
 class CodeFileEditorPrivate : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The editor of the workspace while it shows the document, else null.
+    /// The workspace's editor if it shows the document now, else null.
     CodeEditor* editor() const;
 
-    /// The editor that has come, or comes, forward, if it shows the same document in the
-    /// same workspace; null for none.
+    /// The editor that is active or about to become active, if it shows the same
+    /// document in the same workspace; else null.
     CodeFileEditor* follower() const;
 
-    /// Has the model of the tree show a document, and the tree its model, or none.
+    /// Makes the tree's model show a document. `isJoined` decides whether the tree
+    /// shows the model.
     void joinTree(CodeDocument* shown, bool isJoined);
 
-    /// Looks from the selection on, and selects what it finds.
+    /// Searches from the selection on, and selects the match.
     bool findFrom(const CodeFind& what, bool backward);
 
     /// Replaces the selection if it is a match.
@@ -40,14 +41,14 @@ public:
     void replaceAll(const CodeFind& what, const QString& with);
 
     CodeFileEditor* q = nullptr;
-    CodeFileEditor* treeOwner = nullptr;  ///< itself, or whose tree it shares
+    CodeFileEditor* treeOwner = nullptr;  ///< itself, or the editor whose tree it shares
     CodeWorkspace* workspace = nullptr;
     CodeItemModel* model = nullptr;
     QPointer<CodeDocument> document;
     QPointer<QTreeView> tree;
     QVector<QMetaObject::Connection> connections;
     CodeFindText text;
-    bool isAsking = false;  ///< the host, to bring the editor forward
+    bool isAsking = false;  ///< inside the request to the host to activate this editor
 };
 
 }  // namespace Zorv

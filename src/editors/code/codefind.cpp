@@ -54,7 +54,7 @@ QTextCursor cursorOn(QTextDocument* document, int start, int length)
     return cursor;
 }
 
-/// Brings the line back that was the first of the view.
+/// Restores the first visible line of the view.
 class ViewKeeper
 {
 public:
@@ -124,8 +124,8 @@ CodeFind::Match CodeFind::next(const QString& text, int from) const
                               QRegularExpression::DontCheckSubjectStringMatchOption);
 }
 
-// Expressions are only matched forward: the text in front of `from` is gone through in
-// windows, each far larger than the one before, and so no part of it often.
+// Expressions match only forward. So search backward in windows before `from`. Each
+// window is 64 times larger than the last, so no part of the text is scanned often.
 CodeFind::Match CodeFind::previous(const QString& text, int from) const
 {
     constexpr qint64 Growth = 64;
@@ -173,7 +173,7 @@ CodeFind::Match CodeFind::matchOf(const QString& text, int start, int length) co
         inPlace.capturedLength() == length) {
         return inPlace;
     }
-    // An alternative that comes later may take all of it.
+    // A later alternative of the expression may match the whole part.
     const QRegularExpression whole(QRegularExpression::anchoredPattern(m_expression.pattern()),
                                    m_expression.patternOptions());
     return whole.match(text.mid(start, length));
@@ -257,7 +257,7 @@ void CodeFind::replaceParts(CodeDocument* document, const QVector<Replacement>& 
     document->beginChange(title);
     document->placeChange(cursorOn(document, parts.first().start, parts.first().length));
     QTextCursor cursor(document);
-    // From the end on: places in front of an edit stay what they are.
+    // Edit from the end: positions before an edit stay valid.
     for (auto part = parts.crbegin(); part != parts.crend(); ++part) {
         cursor.setPosition(part->start);
         cursor.setPosition(part->start + part->length, QTextCursor::KeepAnchor);

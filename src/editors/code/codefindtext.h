@@ -10,11 +10,10 @@ namespace Zorv {
 
 class CodeDocument;
 
-/// The text of a document as it is searched, copied once and again after an edit.
+/// A cached copy of a document's searchable text, renewed after an edit.
 ///
-/// One search after the other goes through the same copy, however large the
-/// document is; the copy is made when it is asked for, not while the person types.
-/// Main thread only.
+/// Consecutive searches share one copy, however large the document is. The copy is made
+/// on demand, not while the user types. Main thread only.
 class ZORV_EXPORT CodeFindText : public QObject
 {
     Q_OBJECT
@@ -22,20 +21,21 @@ class ZORV_EXPORT CodeFindText : public QObject
 public:
     using QObject::QObject;
 
-    /// Null for none; not owned, and let go of when it dies. Drops the copy.
+    /// Null for none; not owned. A document that dies is dropped. Discards the copy.
     void setDocument(CodeDocument* document);
     CodeDocument* document() const;
 
-    /// `CodeFind::searchableText()` of the document as it is now; empty without one.
-    /// Linear after an edit, else constant. Not within a change of the document.
+    /// `CodeFind::searchableText()` of the current document; empty without one. Linear
+    /// time after an edit, else constant. Do not call it during a change of the
+    /// document.
     const QString& text();
 
-    /// Frees the copy, until it is asked for again.
+    /// Frees the copy; the next `text()` makes a new one.
     void drop();
 
 signals:
-    /// The text has changed since it was asked for last, or was dropped. Once, until
-    /// it is asked for again; Qt may still be busy with the edit.
+    /// The text has changed since the last `text()`, or the copy was dropped. Emitted
+    /// only once until the next `text()`. Qt may still be in the middle of the edit.
     void changed();
 
 private:

@@ -4,23 +4,23 @@
 
 namespace Zorv {
 
-/// Folding on the blocks of a document. Whoever calls these tells the layout
-/// afterwards; those that can find nothing to do give false then.
+/// Folds and unfolds blocks of a document. The caller must update the layout afterwards. The
+/// functions with a bool return false if they changed nothing.
 namespace CodeFolding {
 
-/// The level of a line; 0 without data.
+/// The folding level of a line; 0 without data.
 int indent(const QTextBlock& block);
 
-/// True if the line has something below it that can be folded.
+/// True if the lines below it can be folded.
 bool isHead(const QTextBlock& block);
 
-/// True if the line is followed by hidden ones.
+/// True if the next line is hidden.
 bool hides(const QTextBlock& block);
 
-/// The nearest visible line above a line; invalid if there is none. Logarithmic.
+/// The nearest visible line above; invalid if there is none. Logarithmic time.
 QTextBlock visibleAbove(const QTextBlock& block);
 
-/// Folds or unfolds what stands below a head; nothing for another line.
+/// Folds or unfolds the lines below a head; does nothing for other lines.
 void toggle(const QTextBlock& block);
 
 void foldAll(const QTextDocument* document);
@@ -29,11 +29,11 @@ void unfoldAll(const QTextDocument* document);
 /// Unfolds the heads that hide a line.
 bool reveal(const QTextBlock& block);
 
-/// Shows all that a visible line hides, but what folded heads in it hide.
+/// Shows the lines that a visible line hides, except those hidden by folded heads among them.
 bool unfold(const QTextBlock& block);
 
-/// Shows what is hidden below a visible line, but is not its to unfold. Logarithmic if there
-/// is nothing to show.
+/// Repairs the hidden lines below a visible line: shows those that its fold does not cover, which
+/// no user could unfold. Logarithmic time if there is nothing to show.
 bool mend(const QTextBlock& block);
 
 }  // namespace CodeFolding

@@ -20,7 +20,7 @@ QFont fixedFont()
     if (QFontInfo(font).fixedPitch()) {
         return font;
     }
-    // All fonts are looked at, which takes a while.
+    // This examines all fonts, which takes a while.
     const QFontDatabase fonts;
     const QStringList families = fonts.families(QFontDatabase::Latin);
     const auto found =

@@ -6,10 +6,10 @@
 
 namespace Zorv {
 
-/// The font for code of a family and a size in points.
+/// The code font for a family and a size in points.
 ///
-/// An empty family is the fixed one of the desktop, or where no desktop says which that is,
-/// any whose characters have one width; a size of 0 is that of the desktop. Main thread only.
+/// An empty family means the desktop's fixed-width font; if the desktop names none, any fixed-width
+/// font. Size 0 means the desktop's size. Main thread only.
 ZORV_EXPORT QFont codeFont(const QString& family, int size);
 
 }  // namespace Zorv

@@ -7,11 +7,11 @@ namespace Zorv {
 
 class Interface;
 
-/// What the settings of a host say about an editor of code: "code_line_numbers",
-/// "code_highlight_line", "code_highlight_blocks", "code_folding_markers",
-/// "code_paren_matching", the colours "line", "block_range" and "paren_range", and the text
-/// format "paren". A setting that the host does not know, or a colour that is invalid, is what
-/// `SyntaxFormatting` has at first. The workspace takes it; so does whoever shows code elsewhere.
+/// Reads the look of a code editor from the host's settings: "code_line_numbers",
+/// "code_highlight_line", "code_highlight_blocks", "code_folding_markers", "code_paren_matching",
+/// the colours "line", "block_range" and "paren_range", and the text format "paren". Settings that
+/// the host does not know, and invalid colours, keep the default of `SyntaxFormatting`. Used by the
+/// workspace and by anything else that shows code.
 ZORV_EXPORT CodeEditor::SyntaxFormatting formattingOf(const Interface* host);
 
 }  // namespace Zorv

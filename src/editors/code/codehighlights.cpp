@@ -26,7 +26,7 @@ CodeHighlights::CodeHighlights(CodeEditorPrivate* editor)
     m_blockTimer->setSingleShot(true);
     connect(m_parenTimer, &QTimer::timeout, this, &CodeHighlights::matchParentheses);
     connect(m_blockTimer, &QTimer::timeout, this, &CodeHighlights::findRanges);
-    // The right edges of ranges stay where they are, but Qt moves what is painted.
+    // The right edges of ranges do not scroll, but Qt shifts the painted pixels.
     connect(editor->q->horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         if (!m_blocks.isEmpty()) {
             m_editor->q->viewport()->update();
@@ -52,7 +52,7 @@ void CodeHighlights::forgetParentheses()
     setExtraSelections(ParenthesesSelection, {});
 }
 
-/// What is switched off goes at once.
+/// Highlights that were switched off disappear at once.
 void CodeHighlights::updateRanges()
 {
     if (!m_editor->formatting.parenMatching) {

@@ -13,8 +13,8 @@ namespace Zorv {
 
 class CodeEditorPrivate;
 
-/// What is marked around the cursor: its line, two brackets that match, the ranges
-/// of lines that it stands in. The costly parts wait until the cursor rests.
+/// The highlights around the cursor: its line, matching brackets, block ranges. The
+/// expensive ones wait until the cursor rests.
 class CodeHighlights : public QObject
 {
     Q_OBJECT
@@ -22,27 +22,27 @@ class CodeHighlights : public QObject
 public:
     explicit CodeHighlights(CodeEditorPrivate* editor);
 
-    /// The cursor has moved, or what is to be marked has changed.
+    /// Call after the cursor has moved, or when something else needs new highlights.
     void update();
 
-    /// Another document comes: brackets of the old one are forgotten.
+    /// Another document is coming: drop the brackets of the old one.
     void forgetParentheses();
 
-    /// What is marked has been switched on or off, or looks otherwise.
+    /// Highlights were switched on or off, or have a new look.
     void updateRanges();
 
-    /// Brackets are looked for when the cursor has rested a little.
+    /// Matches brackets once the cursor has rested for a moment.
     void startMatching();
 
     const HighlightBlocks& blocks() const { return m_blocks; }
 
-    /// The line whose ranges are shown, -1 for none.
+    /// The line whose ranges are shown; -1 for none.
     int blockNumber() const { return m_blockNumber; }
 
-    /// Shows the ranges of another line, or with -1 none, after `wait` milliseconds.
+    /// Shows the ranges of another line, or none with -1, after `wait` milliseconds.
     void setBlockNumber(int number, int wait);
 
-    /// Shows those of a line at once.
+    /// Shows the ranges of a line at once.
     void showRangesOf(int number);
 
 private:

@@ -33,7 +33,7 @@ bool isChildOnLine(const CodeNode* node, const CodeNode* parent, int line)
     return node && node->parentCode() == parent && node->firstLine() == line && placeOf(node) >= 0;
 }
 
-/// The child of `parent` that is the last head in front of `place`, or around it.
+/// The child of `parent` that is the last head before `place`, or around it.
 const CodeNode* lastHead(const CodeNode* parent, const CodeNode* place)
 {
     for (const CodeNode* head = place; head; head = NodeChain::backward(head, Heads)) {
@@ -51,10 +51,11 @@ const CodeNode* lastHead(const CodeNode* parent, const CodeNode* place)
     return nullptr;
 }
 
-/// The innermost node for a line: the child that starts on it, looked for in the
-/// last group or animation above, and the last of these in that; `node` if there
-/// is none. The chain finds them: lists of children can be long, and those that a
-/// dying group has handed on are not in the order of their lines.
+/// The innermost node for a line: the child that starts on the line, searched in the
+/// last group or animation above it, then recursively in the last of these inside.
+/// Returns `node` if there is none. The search uses the chain of nodes, because child
+/// lists can be long, and children inherited from a deleted group are not in line
+/// order.
 const CodeNode* nodeInLine(const CodeDocument* document, int line, const CodeNode* node)
 {
     const QTextBlock block = document->findBlockByNumber(line);
@@ -83,7 +84,7 @@ const CodeNode* nodeInLine(const CodeDocument* document, int line, const CodeNod
 class CodeItemModelPrivate
 {
 public:
-    /// The node of an index, null for one whose node is gone.
+    /// The node of an index; null if the node was deleted.
     const CodeNode* findNode(const QModelIndex& index) const
     {
         const auto* node = static_cast<const CodeNode*>(index.internalPointer());
@@ -97,7 +98,7 @@ public:
     }
 
     const CodeDocument* root = nullptr;
-    int count = 0;  ///< rows below the root that have been announced
+    int count = 0;  ///< announced rows below the root
 };
 
 CodeItemModel::CodeItemModel(QObject* parent)
@@ -159,7 +160,7 @@ QModelIndex CodeItemModel::nodeIndex(const CodeNode* node) const
     while (top && top->parentCode() && top->parentCode()->type() != CodeNode::Root) {
         top = top->parentCode();
     }
-    // Views do not know of rows that have not been announced.
+    // Views do not know rows that have not been announced yet.
     if (!top || !top->parentCode() || top->parentCode() != d->root || placeOf(top) >= d->count) {
         return {};
     }
@@ -177,7 +178,7 @@ QModelIndex CodeItemModel::index(int row, int column, const QModelIndex& parent)
     if (child) {
         d->root->trackNode(child);
     }
-    // A row that is to go with the next update() stays there without a node.
+    // A row whose node is already gone stays, without a node, until the next update().
     return createIndex(row, 0, child);
 }
 

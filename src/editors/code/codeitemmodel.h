@@ -14,13 +14,13 @@ class CodeDocument;
 class CodeItemModelPrivate;
 class CodeNode;
 
-/// The nodes of a code document as a tree of one column.
+/// The nodes of a code document as a tree with one column.
 ///
-/// The pointer of an index is its node. Nodes die at any keystroke, so an index
-/// whose node is gone has neither parent nor children; the document tracks the
-/// nodes that indexes were made of, and tells these from others without a walk.
-/// `update()` announces all rows anew; `CodeTreeModel` keeps what is expanded. Main
-/// thread only.
+/// The internal pointer of an index is its node. Any keystroke can delete nodes; an
+/// index of a deleted node has neither parent nor children. The document tracks every
+/// node that has an index, so the model detects deleted ones without a search.
+/// `update()` resets all rows; `CodeTreeModel` preserves what is expanded. Main thread
+/// only.
 class ZORV_EXPORT CodeItemModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -29,23 +29,23 @@ public:
     explicit CodeItemModel(QObject* parent = nullptr);
     ~CodeItemModel() override;
 
-    /// Null for none; not owned, and let go of when it dies.
+    /// Null for none; not owned. A document that dies is dropped.
     virtual void setDocument(const CodeDocument* document);
     virtual const CodeDocument* document() const;
 
-    /// Brings the rows in line with the document: the top ones are removed and
-    /// inserted. Until then there are as many as were announced.
+    /// Syncs the rows with the document: removes and inserts the top rows. Until then
+    /// the row count stays at what was last announced to the views.
     virtual void update();
 
-    /// The line of a node from 0; -1 for an index without one.
+    /// The line of a node, from 0; -1 for an index without a node.
     virtual int lineNo(const QModelIndex& index) const;
 
-    /// The index of the deepest node on a line, or of the one that it belongs to;
-    /// invalid if that is the document.
+    /// The index of the deepest node on a line, or of the node that the line belongs
+    /// to; invalid if that is the document.
     virtual QModelIndex indexInLine(unsigned line) const;
 
-    /// The index of a node of the document that is there; invalid for the document, for
-    /// a node without a parent, and below a top row that is not announced yet.
+    /// The index of a node of the document. Invalid for the document itself, for a node
+    /// without a parent, and below a top row that has not been announced yet.
     virtual QModelIndex nodeIndex(const CodeNode* node) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -58,12 +58,12 @@ public:
     using QObject::parent;
 
 protected:
-    /// The text of a node in the tree. The default is the display name of a group, a
-    /// value or an animation, and "Frame" for a frame.
+    /// The text of a node in the tree. By default the display name of a group, value or
+    /// animation, and "Frame" for a frame.
     virtual QString nodeLabel(const CodeNode* node) const;
 
-    /// The picture of a node in the tree. The default has one of the library's for
-    /// each type of node.
+    /// The icon of a node in the tree. By default one of the library's icons per type
+    /// of node.
     virtual QIcon nodeIcon(const CodeNode* node) const;
 
 private:

@@ -1,5 +1,5 @@
-// The neighbour moves across the lines and not they: however many are selected, only one is parsed
-// again, and what stands in the others stays.
+// Moves the neighbouring line across the selected lines instead of moving them: however many lines
+// are selected, only one is parsed again, and the others keep their data.
 
 #include "editors/code/codelines_p.h"
 
@@ -17,14 +17,14 @@ namespace Zorv {
 
 namespace {
 
-/// Whole lines, from the first to the last; none without a valid first.
+/// A run of whole lines; empty if `first` is invalid.
 struct Lines
 {
     QTextBlock first;
     QTextBlock last;
 
     int begin() const { return first.position(); }
-    int end() const { return last.position() + last.length() - 1; }  // in front of the line end
+    int end() const { return last.position() + last.length() - 1; }  // before the line end
     int count() const { return last.blockNumber() - first.blockNumber() + 1; }
 
     QString text() const
@@ -50,7 +50,7 @@ QTextBlock lastHiddenBy(QTextBlock block)
     return block;
 }
 
-/// A line as it is seen: a head with what it hides.
+/// A line as seen on the screen: a head includes the lines that it hides.
 Lines linesAround(const QTextBlock& block)
 {
     if (!block.isValid() || isEndOfText(block)) {
@@ -71,7 +71,7 @@ Lines selectedLines(const QTextCursor& cursor)
     return {linesAround(first).first, linesAround(last).last};
 }
 
-/// The heads that are seen and fold something, by line from `first` on.
+/// The visible folded heads, as line numbers counted from `first`.
 QVector<int> foldsIn(const Lines& lines, int first)
 {
     QVector<int> folds;
@@ -84,7 +84,7 @@ QVector<int> foldsIn(const Lines& lines, int first)
     return folds;
 }
 
-/// One of two neighbours goes to the other's far side.
+/// Moves one run of lines to the other side of its neighbour.
 void carry(QTextCursor* edit, const Lines& from, int to, bool isUp)
 {
     const QString text = from.text();
@@ -107,7 +107,7 @@ void carry(QTextCursor* edit, const Lines& from, int to, bool isUp)
     }
 }
 
-/// An edit of its line opens a fold.
+/// Restores folds: editing a head's line has opened its fold.
 void foldAgain(const QTextDocument* document, const QVector<int>& folds)
 {
     for (const int line : folds) {
@@ -138,14 +138,14 @@ bool CodeLines::move(QTextCursor* cursor, Direction direction)
     const int distance = (other.end() + 1 - other.begin()) * (isUp ? -1 : 1);
     const int anchor = cursor->anchor() + distance;
     const int position = cursor->position() + distance;
-    // Undo leads back to where the cursor was.
+    // The edit begins at the cursor's old position, so that undo returns there.
     QTextCursor edit(*cursor);
     edit.beginEditBlock();
     carry(&edit, other, isUp ? moved.end() : moved.begin(), !isUp);
     edit.endEditBlock();
     const QTextDocument* document = cursor->document();
     foldAgain(document, folds);
-    // The selection may have ended at the start of a line that is not there any more.
+    // The selection may have ended at the start of a line that no longer exists.
     const int last = document->characterCount() - 1;
     cursor->setPosition(std::min(anchor, last));
     cursor->setPosition(std::min(position, last), QTextCursor::KeepAnchor);

@@ -13,18 +13,23 @@
 #include <algorithm>
 #include <cmath>
 
+// Replaces the painting of QPlainTextEdit, which cannot draw block ranges behind the text or boxes
+// after folded lines. The layers, from back to front: the background with the nested block ranges,
+// the placeholder, the text with the current line and selections, the fold boxes, the cursor, and
+// the preview of a fold. Only lines that meet the dirty rectangle are drawn, and folded lines are
+// skipped by their screen line number, so the cost depends on the view and not on the document.
 namespace Zorv {
 
 namespace {
 
 constexpr int NoCursor = -1;
-constexpr int RangeStep = 8;    ///< by which the right edge of a range stands inside the outer one
-constexpr int RangeMargin = 6;  ///< that ranges are painted below the view
-constexpr int TextMargin = 1;   ///< and text
+constexpr int RangeStep = 8;    ///< pixels: inset of the right edge from the outer range
+constexpr int RangeMargin = 6;  ///< pixels: how far ranges are painted below the view
+constexpr int TextMargin = 1;   ///< the same for text
 
 using Selection = QAbstractTextDocumentLayout::Selection;
 
-/// Marks of problems stay to be seen in whatever else is selected.
+/// Underlines that mark problems are painted last, so they stay visible on top of other selections.
 bool isUnderlineAlone(const QTextCharFormat& format)
 {
     return !format.hasProperty(QTextFormat::ForegroundBrush) &&
@@ -32,8 +37,8 @@ bool isUnderlineAlone(const QTextCharFormat& format)
            format.background().style() == Qt::NoBrush;
 }
 
-/// The part of a selection that is in a block; of length 0 if there is none. The end
-/// of the line counts as a character.
+/// The part of a selection within a block; length 0 if there is none. The line end counts as one
+/// character.
 QTextLayout::FormatRange cutToBlock(const Selection& selection, const QTextBlock& block)
 {
     QTextLayout::FormatRange range;
@@ -61,7 +66,8 @@ void CodePainter::paint(const QPaintEvent* event)
     m_cursor = m_editor->q->textCursor();
     m_currentBlock = m_cursor.block();
     m_painter.begin(m_editor->q->viewport());
-    // Waves below words would not meet where the text is painted in parts.
+    // Fixes the phase of wavy underlines. Otherwise the waves do not join when parts of the text
+    // are painted separately.
     m_painter.setBrushOrigin(m_editor->contentOffset());
     paintGround();
     paintPlaceholder();
@@ -72,7 +78,7 @@ void CodePainter::paint(const QPaintEvent* event)
     m_editor->folds->paintPreview(&m_painter);
 }
 
-/// All of the ground: Qt is told not to fill the view first.
+/// Paints the whole background, because Qt is configured not to fill it.
 void CodePainter::paintGround()
 {
     const HighlightBlocks& ranges = m_editor->highlights->blocks();
@@ -103,8 +109,9 @@ void CodePainter::paintGround()
     }
 }
 
-/// Fills lines that stand in as many ranges, each of which lies on the one around it. What
-/// would be painted over is left out: filling takes longer than the text.
+/// Fills a strip of lines that is inside `depth` nested ranges. Each range is drawn on top of the
+/// outer one. Parts that an opaque inner range covers are left out: filling costs more than the
+/// text.
 void CodePainter::paintDepth(const HighlightBlocks& ranges, int depth, qreal top, qreal bottom)
 {
     const QColor own = m_editor->formatting.blockRangeColor;
@@ -210,8 +217,8 @@ CodePainter::Formats CodePainter::selectionsOf(const QTextBlock& block) const
     return formats + priority;
 }
 
-/// The column of the layout at which the cursor is to be seen. While a text is being
-/// composed, Qt tells the place in that text, as a number below -1.
+/// The cursor's column in the layout. During input method composition Qt encodes the place within
+/// the composed text as a number below -1.
 int CodePainter::cursorColumn(const QTextBlock& block) const
 {
     if (m_editor->q->isReadOnly()) {
@@ -240,7 +247,8 @@ QTextLayout::FormatRange CodePainter::cellFormat(const QTextLayout& layout, int 
     return range;
 }
 
-/// At the end of a line as wide as a blank; on a tab no wider than that, at its right end.
+/// Draws the block cursor where there is no glyph: as wide as a space at the end of a line; on a
+/// tab at most that wide, at the tab's right end.
 void CodePainter::paintEmptyCell(const QTextBlock& block, int column)
 {
     const QTextLayout* layout = block.layout();

@@ -13,7 +13,7 @@ namespace Zorv {
 class CodeEditorPrivate;
 struct HighlightBlocks;
 
-/// Paints the text of a `CodeEditor` with all that belongs to it. One object
+/// Paints the text of a `CodeEditor` with background, boxes and cursor. One object
 /// paints one event.
 class CodePainter
 {
@@ -40,15 +40,15 @@ private:
     void paintEmptyCell(const QTextBlock& block, int column);
 
     CodeEditorPrivate* m_editor;
-    QRect m_rect;  ///< what is to be painted
+    QRect m_rect;  ///< area to repaint
     QRect m_view;
     QPainter m_painter;
-    QPointF m_offset;  ///< of the block in work
+    QPointF m_offset;  ///< of the current block
     QTextCursor m_cursor;
-    QTextBlock m_currentBlock;  ///< of the cursor
+    QTextBlock m_currentBlock;  ///< the cursor's block
     QAbstractTextDocumentLayout::PaintContext m_context;
 
-    /// The cursor waits until all else is painted.
+    /// The cursor is painted last, so its place is kept here.
     QTextLayout* m_cursorLayout = nullptr;
     QPointF m_cursorOffset;
     int m_cursorColumn = 0;

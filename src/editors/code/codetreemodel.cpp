@@ -11,11 +11,18 @@
 #include <algorithm>
 #include <vector>
 
+// How a refresh works: the model keeps its own tree of rows, and each row points to a node. An edit
+// only increments `epoch`, which makes every row distrust its node. refresh() then walks the rows
+// that views have asked for and compares them with the current nodes. Per parent it skips the nodes
+// that match at the head and at the tail. What is left in the middle is one edited stretch: its
+// rows are reused in order for the new nodes, and only the difference in number is inserted or
+// removed. So persistent indexes, and with them expanded branches and the selection, survive.
 namespace Zorv {
 
 namespace {
 
-// A refresh takes at most a tenth of the time, however large the file is.
+// Wait ten times as long as the last refresh took, so that refreshing uses at most a tenth of the
+// time however large the file is. In milliseconds.
 constexpr int ShortestWait = 150;
 constexpr int WaitPerRefresh = 10;
 
@@ -24,7 +31,7 @@ const ParentCode* asParent(const CodeNode* node)
     return node->type() == CodeNode::Value ? nullptr : static_cast<const ParentCode*>(node);
 }
 
-/// One row. The node of a row of an older epoch may be dead.
+/// One row. If its epoch is older than the model's, its node may be deleted: do not touch it.
 struct TreeRow
 {
     TreeRow(TreeRow* parentRow, int place) : parent(parentRow), row(place) {}
@@ -40,8 +47,8 @@ struct TreeRow
     int row;
     const CodeNode* node = nullptr;
     quint64 epoch = 0;
-    int count = 0;           ///< rows below, as the views know it
-    bool hasLooked = false;  ///< true if `children` are there
+    int count = 0;           ///< child rows, as the views know them
+    bool hasLooked = false;  ///< true if `children` has been filled
     bool hasLabel = false;
     QString label;
     QIcon icon;
@@ -76,7 +83,7 @@ public:
     const CodeDocument* document = nullptr;
     std::unique_ptr<TreeRow> root;
     QTimer timer;
-    quint64 epoch = 1;  ///< raised by each edit
+    quint64 epoch = 1;  ///< incremented by each edit
     bool isStale = false;
     bool isActive = true;
 };
@@ -193,7 +200,7 @@ QModelIndex CodeTreeModel::nodeIndex(const CodeNode* node) const
 int CodeTreeModel::lineNo(const QModelIndex& index) const
 {
     const QPersistentModelIndex place(index);
-    // Rows that are looked at late are still the same rows.
+    // The rows stay logically the same: a refresh only makes up for a delay.
     const_cast<CodeTreeModel*>(this)->refresh();
     const TreeRow* row = d->rowOf(place);
     return place.isValid() && d->canFollow(row) && row->node->hasLine()
@@ -288,7 +295,8 @@ void CodeTreeModelPrivate::setNode(TreeRow* row, const CodeNode* node) const
     row->hasLabel = false;
 }
 
-/// A new node may have the address of one that has died: that one is not tracked.
+/// Compares addresses, but a new node can reuse the address of a deleted one. A new node is not
+/// tracked yet.
 bool CodeTreeModelPrivate::isOf(const std::unique_ptr<TreeRow>& row, const CodeNode* node) const
 {
     return row->node == node && document->isTracked(node);
@@ -313,7 +321,7 @@ TreeRow* CodeTreeModelPrivate::childOf(TreeRow* row, int place) const
     return row->children[size_t(place)].get();
 }
 
-/// Makes the rows below another. Those of an older epoch are blank, and filled by the next refresh.
+/// Creates the child rows. Without a valid node they stay blank until the next refresh fills them.
 void CodeTreeModelPrivate::lookAtChildren(TreeRow* row) const
 {
     if (row->hasLooked) {
@@ -347,13 +355,13 @@ void CodeTreeModelPrivate::lookAtNode(TreeRow* row) const
     row->hasLabel = true;
 }
 
-/// Brings all below a row in line, whose node is right already.
+/// Syncs everything below a row. The row's own node must be current.
 void CodeTreeModelPrivate::sync(TreeRow* row)
 {
     if (!row->hasLooked) {
         syncCount(row, q->shownCount(row->node));
     }
-    // Its signals may have made a view look.
+    // The signals of syncCount() may have made a view ask for the children.
     if (!row->hasLooked) {
         return;
     }
@@ -370,8 +378,8 @@ void CodeTreeModelPrivate::sync(TreeRow* row)
            isOf(rows[size_t(before - 1 - tail)], nodes[nodes.size() - 1 - tail])) {
         ++tail;
     }
-    // Between these, a row stands for the node that took its place: an edited
-    // head is a new node, and its branch stays open.
+    // Rows in the middle are reused for the nodes in the same place: an edited head is a new node,
+    // and its branch has to stay expanded.
     const int place = common - tail;
     removeChildren(row, place, before - common);
     insertChildren(row, place, nodes.mid(place, nodes.size() - common));
@@ -387,7 +395,7 @@ void CodeTreeModelPrivate::sync(TreeRow* row)
     }
 }
 
-/// Rows that no view has asked for are only a number.
+/// Rows that no view has asked for exist only as a number.
 void CodeTreeModelPrivate::syncCount(TreeRow* row, int count)
 {
     if (count > row->count) {

@@ -27,7 +27,7 @@ namespace Zorv {
 namespace {
 
 constexpr QSize IconSize(16, 16);
-constexpr int TabWidth = 4;  // in blanks
+constexpr int TabWidth = 4;  // in spaces
 constexpr int EncodingField = 2;
 constexpr unsigned SnippetsText = 10;
 constexpr double ZoomStep = 2;  // points
@@ -82,7 +82,7 @@ void CodeWorkspacePrivate::setEnabled(bool enabled)
     }
 }
 
-/// Setting what is set already would lay out the whole text again.
+/// Setting the same font again would lay out the whole text again.
 void CodeWorkspacePrivate::setFont(const QFont& font)
 {
     if (editor->font() != font) {
@@ -96,7 +96,7 @@ void CodeWorkspacePrivate::setFont(const QFont& font)
     if (!qFuzzyCompare(editor->tabStopDistance(), tabStop)) {
         editor->setTabStopDistance(tabStop);
     }
-    // Their edges stand at characters.
+    // The edges of the ranges depend on character positions.
     editor->updateBlockHighlight();
 }
 

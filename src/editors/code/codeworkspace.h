@@ -14,13 +14,12 @@ class CodeDocument;
 class CodeEditor;
 class CodeWorkspacePrivate;
 
-/// The middle of the window for code: one `CodeEditor`, a tab bar for the open
-/// documents above it, and a tool bar with snippets and messages.
+/// The central area of the window for code: one `CodeEditor`, a tab bar for the open documents
+/// above it, and a tool bar with snippets and messages.
 ///
-/// It owns the actions of code: snippets, go to line, previous and next message,
-/// comment, folding, and publishes them through `Interface`, in the area "code".
-/// Which documents are open is the host's business: it fills the tab bar and
-/// answers its signals. Needs an installed host. Main thread only.
+/// It owns the code actions (snippets, go to line, previous and next message, comment, folding) and
+/// publishes them through `Interface` in the area "code". The host decides which documents are
+/// open: it fills the tab bar and handles its signals. Needs an installed host. Main thread only.
 class ZORV_EXPORT CodeWorkspace : public Workspace
 {
     Q_OBJECT
@@ -28,15 +27,15 @@ class ZORV_EXPORT CodeWorkspace : public Workspace
 public:
     explicit CodeWorkspace(QObject* parent = nullptr);
 
-    /// The widget goes too, if it has no parent by then.
+    /// Deletes the widget too, unless it has a parent by then.
     ~CodeWorkspace() override;
 
     /// "code".
     QString name() const override;
     QWidget* widget() const override;
 
-    /// Takes the family's words and snippets from its data folder: "/completer.xml"
-    /// and "/snippets". A broken file of words is told through `Dialogs`.
+    /// Loads the engine family's completion words and snippets from its data folder:
+    /// "/completer.xml" and "/snippets". Reports a broken word file through `Dialogs`.
     void engineSwitched(bool isNew) override;
 
     void activate() override;
@@ -49,48 +48,47 @@ public:
     void reconfig() override;
     void retranslate() override;
 
-    /// Lets the person choose the encoding of the document, and read its file again.
+    /// Lets the user choose the document's encoding and reload its file.
     void statusClicked() override;
 
-    /// The font of the settings "font_name" and "font_size"; 2 points more, 2 less.
+    /// The font of the settings "font_name" and "font_size"; 2 points larger; 2 points smaller.
     void zoomActual() override;
     void zoomIn() override;
     void zoomOut() override;
 
-    /// Shows a document, null for none. One that is left keeps the place of the view
-    /// in its object name, and comes back there with the cursor at the start.
+    /// Shows a document; null for none. A document that is left keeps its scroll position in its
+    /// object name. When it is shown again, the view returns there, with the cursor at the start.
     void setDocument(CodeDocument* document);
 
-    /// The parts, which live as long as the workspace. The tabs are the host's to
-    /// fill.
+    /// The parts; they live as long as the workspace. The host fills the tab bar.
     CodeEditor* editor() const;
     QTabBar* tabBar() const;
     QToolBar* toolBar() const;
 
     bool isActive() const;
 
-    /// @name What the actions do; for a host's own menus and for tests
+    /// @name The actions as functions, for a host's own menus and for tests
     /// @{
     void goToLine();
     void nextError();
     void prevError();
 
-    /// These stop at warnings as well, which is what lists call deprecations too.
+    /// These stop at warnings too, because message lists treat warnings as deprecations.
     void nextDepr();
     void prevDepr();
 
-    /// Makes comments of the selected lines, or of the cursor's; takes the mark off
-    /// again if the first of them begins with it.
+    /// Comments out the selected lines, or the cursor's line. Removes the marks instead if the
+    /// first line begins with one.
     void comment();
     void foldAll();
     void unfoldAll();
 
-    /// Inserts the snippet of a row of `SnippetManager`, as the box of snippets does.
+    /// Inserts the snippet of a row of `SnippetManager`, like the snippet box.
     void insertSnippet(int row);
     /// @}
 
 signals:
-    /// The document that is shown, if any, is about to make room for another one, or for none.
+    /// The shown document, if any, is about to be replaced or removed.
     void documentLeaves();
 
     /// Another document is shown, or none.

@@ -27,7 +27,7 @@ namespace Zorv {
 namespace {
 
 constexpr int SnippetBoxCharacters = 16;
-constexpr int MessageBoxCharacters = 16;  // at least
+constexpr int MessageBoxCharacters = 16;  // minimum
 constexpr unsigned GoToText = 15;
 
 const char* const areas[] = {"code", nullptr};
@@ -111,7 +111,7 @@ void CodeWorkspacePrivate::publish()
         QAction* action = host->createAction(areas, name, ZorvTranslator::instance(), tool.textId,
                                              nullptr, this, tool.slot, nullptr, nullptr);
         if (!action) {
-            continue;  // a host without a window makes none
+            continue;  // a host without a window creates no actions
         }
         if (tool.place == InMenu) {
             barAction = action;
@@ -155,7 +155,7 @@ void CodeWorkspacePrivate::snipActivated(int row)
     }
     const QPointer<CodeDocument> target = document();
     const QString text = SnippetManager::instance()->snippet(*host, unsigned(row));
-    // The person may have been asked for values, and all sorts of things happen meanwhile.
+    // The snippet may have shown a dialog, during which the document can change.
     if (target && target == document()) {
         insertText(text);
     }
@@ -194,7 +194,7 @@ void CodeWorkspacePrivate::snipEdit()
 {
     const EngineModel* engine = host->engineModel();
     if (engine && snippets->currentIndex() >= 0) {
-        // What the box shows may be translated.
+        // The shown text may be translated; the edit role has the file name.
         editSnippet(engine->dataPath() + QLatin1String("/snippets/") +
                     snippets->currentData(Qt::EditRole).toString() + QLatin1String(".xml"));
     }
@@ -207,7 +207,7 @@ void CodeWorkspacePrivate::editSnippet(const QString& path)
     connect(dialog, &SnipDlg::insertRequested, this, &CodeWorkspacePrivate::insertText);
     dialog->exec();
     delete dialog;
-    // It may have saved a file under a new name.
+    // The dialog may have saved a file under a new name.
     if (self && !SnippetManager::instance()->folder().isEmpty()) {
         const QString current = snippets->currentText();
         SnippetManager::instance()->update(SnippetManager::instance()->folder());

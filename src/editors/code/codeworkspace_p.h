@@ -12,8 +12,8 @@ namespace Zorv {
 class Interface;
 class PickBox;
 
-/// The parts of a `CodeWorkspace`, and the slots of its actions, which the host finds
-/// by name.
+/// The parts of a `CodeWorkspace`, and the slots of its actions. The host finds the
+/// slots by name.
 class CodeWorkspacePrivate : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
 
     CodeDocument* document() const;
 
-    /// Whether there is a text that may be changed or gone about in.
+    /// Whether there is a text to edit or navigate.
     bool isUsable() const;
 
     void showMessages(CodeDocument* newDocument);
@@ -68,7 +68,7 @@ public slots:
     void errorActivated(int row);
 
 protected:
-    /// Ctrl and the wheel over the text zoom.
+    /// Ctrl with the wheel over the text zooms.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -76,7 +76,7 @@ private:
     void jump(bool (*find)(MessageJump::Kind, QTextCursor*), MessageJump::Kind kind);
     void editSnippet(const QString& path);
 
-    int m_wheel = 0;  ///< what touchpads have turned, in eighths of a degree
+    int m_wheel = 0;  ///< wheel movement below one step, in eighths of a degree
 };
 
 }  // namespace Zorv

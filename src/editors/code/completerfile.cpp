@@ -14,7 +14,7 @@ QString attribute(const QXmlStreamReader* xml, const char* name)
     return xml->attributes().value(QLatin1String(name)).toString().trimmed();
 }
 
-/// What a description may hold, for it is shown in one line.
+/// Descriptions are shown on one line: join the lines and limit the length.
 QString oneLine(const QString& text)
 {
     constexpr int mostShown = 200;
@@ -32,7 +32,7 @@ bool CompleterFile::read(const QString& fileName)
         return false;
     }
     QFile file(fileName);
-    // A pipe would wait for ever.
+    // Opening a pipe would block forever.
     if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
         m_error = tr("The words to complete cannot be read from %1: %2")
                       .arg(m_fileName, info.isFile() ? file.errorString() : tr("it is no file"));
@@ -64,7 +64,7 @@ void CompleterFile::parse(const QByteArray& bytes)
 
 void CompleterFile::readRoot(QXmlStreamReader* xml)
 {
-    // A document type could grow a short file into a huge one.
+    // Entities of a document type could expand a short file into a huge one.
     while (!xml->atEnd() && !xml->isStartElement()) {
         if (xml->readNext() == QXmlStreamReader::DTD) {
             xml->raiseError(tr("A document type is not allowed here."));

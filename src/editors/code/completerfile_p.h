@@ -9,7 +9,7 @@ class QXmlStreamReader;
 
 namespace Zorv {
 
-/// Reads a file of words to complete, as docs/formats.md tells it.
+/// Reads a file of completion words; docs/formats.md describes the format.
 class CompleterFile
 {
     Q_DECLARE_TR_FUNCTIONS(Zorv::CompleterFile)
@@ -21,10 +21,10 @@ public:
     /// False if the file cannot be opened.
     bool read(const QString& fileName);
 
-    /// What is wrong, with file, line and column; empty for nothing.
+    /// The error with file, line and column; empty if there is none.
     QString error() const { return m_error; }
 
-    /// The words of each trigger; to be used without an error only.
+    /// The words of each trigger; valid only without an error.
     const QMap<QString, QVector<CompletionWord>>& words() const { return m_words; }
 
 private:

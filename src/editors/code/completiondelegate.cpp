@@ -20,7 +20,7 @@ QString descriptionOf(const QModelIndex& index)
     return index.data(CompletionModel::DescriptionRole).toString();
 }
 
-/// Between text and ground, yet to be read with ease.
+/// A colour between text and background that is still easy to read.
 QColor dimmed(const QColor& text, const QColor& ground)
 {
     const auto mix = [](int a, int b) { return (a * 3 + b) / 4; };
@@ -34,7 +34,7 @@ void CompletionDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
                                const QModelIndex& index) const
 {
     QStyleOptionViewItem row = option;
-    // The focus stays with the text.
+    // The focus stays in the text, so draw the row as active without a focus frame.
     row.state &= ~QStyle::State_HasFocus;
     row.state |= QStyle::State_Active;
     QStyledItemDelegate::paint(painter, row, index);

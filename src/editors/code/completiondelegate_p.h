@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// Draws a row of the popup of words: the word, and dimmed behind it what it is.
+/// Draws a row of the completion popup: the word, followed by its dimmed description.
 class CompletionDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
-    /// As wide as the text and the gap and its description, up to a limit.
+    /// Wide enough for text, gap and description, up to a limit.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 

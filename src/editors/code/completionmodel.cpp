@@ -6,7 +6,7 @@ namespace Zorv {
 
 namespace {
 
-/// Words that differ in case only stay apart.
+/// Words that differ only in case are kept as separate entries.
 bool standsBefore(const CompletionWord& a, const CompletionWord& b)
 {
     const int order = a.text.compare(b.text, Qt::CaseInsensitive);

@@ -10,27 +10,27 @@ namespace Zorv {
 /// A word that a completer offers.
 struct CompletionWord
 {
-    QString text;         ///< what is put in
-    QString description;  ///< one line beside it, or empty
+    QString text;         ///< the text to insert
+    QString description;  ///< one line, or empty
 };
 
-/// Words to complete, each with a line that tells what it is.
+/// Completion words, each with a one-line description.
 ///
-/// The popup of a `CodeEditor` shows the description beside its word; it is the tool
-/// tip and the accessible description of the row too. Main thread only.
+/// The popup of a `CodeEditor` shows the description beside its word. It is also the
+/// row's tool tip and accessible description. Main thread only.
 class ZORV_EXPORT CompletionModel : public QStringListModel
 {
     Q_OBJECT
 
 public:
-    /// The role of the description, a text.
+    /// The role of the description, a string.
     static constexpr int DescriptionRole = Qt::UserRole + 1;
 
     explicit CompletionModel(QObject* parent = nullptr);
 
-    /// Takes words in any order. They are sorted without regard to case, as a
-    /// completer wants them; of two with one text the first counts, and empty ones
-    /// are left out.
+    /// Sets the words, in any order. They are sorted case-insensitively, as a completer
+    /// requires. The first of several words with equal text counts; empty words are
+    /// left out.
     void setWords(QVector<CompletionWord> words);
 
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;

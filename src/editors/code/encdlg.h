@@ -6,20 +6,20 @@
 
 class QListWidget;
 
-/// Lets the person choose a text encoding, by its number of `Zorv::TextCodecs`.
+/// Lets the user choose a text encoding, by its number in `Zorv::TextCodecs`.
 ///
-/// It changes nothing: the caller asks for the answer when `exec()` has given
+/// It changes nothing: the caller reads `index()` after `exec()` has returned
 /// `QDialog::Accepted`. Main thread only.
 class ZORV_EXPORT EncDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Lists all encodings and starts at `index`, out of range at none.
+    /// Lists all encodings and selects `index`; none if it is out of range.
     EncDlg(QWidget* parent, int index);
     ~EncDlg() override;
 
-    /// The number of the chosen encoding; -1 if none is.
+    /// The number of the chosen encoding; -1 if none is chosen.
     int index() const;
 
 private:

@@ -25,8 +25,8 @@ constexpr qreal BoxDistance = 12;
 constexpr qreal Radius = 2;
 const QPointF HalfPixel(0.5, 0.5);
 
-/// Makes a hidden line visible for a moment, to measure and to draw it. Nobody may hear of it:
-/// views would change their scroll bars for lines that are not there.
+/// Makes a hidden line visible for a moment, to measure and draw it. The layout's signals are
+/// blocked: views would adjust their scroll bars for lines that are not really there.
 class Glimpse
 {
 public:
@@ -131,7 +131,7 @@ void FoldedBlocks::paintBoxes(QPainter* painter) const
     painter->restore();
 }
 
-/// Where the hidden lines from `first` on stand, as far down as the viewport reaches.
+/// The area for the hidden lines from `first` on, down to the bottom of the viewport.
 QRectF FoldedBlocks::previewRect(const QTextBlock& first) const
 {
     const QRectF head = m_editor->blockRect(first.previous());
@@ -242,10 +242,10 @@ void FoldedBlocks::follow(CodeDocument* document)
     }
     m_blockCount = document->blockCount();
     connect(document, &QTextDocument::contentsChange, this, &FoldedBlocks::edited);
-    // Qt is done with an edit when it tells of this one, layout and all.
+    // Qt emits contentsChanged when it has finished the edit, layout included.
     connect(document, &QTextDocument::contentsChanged, this, &FoldedBlocks::mend);
     connect(document, &CodeDocument::levelsChanged, this, &FoldedBlocks::levelsChanged);
-    // It may have been edited while nobody looked.
+    // The document may have been edited while no editor showed it.
     const bool hasFolds = document->lineCount() != document->blockCount();
     if (hasFolds || m_editor->q->lineWrapMode() != QPlainTextEdit::NoWrap) {
         levelsChanged(0, document->blockCount() - 1, -1);
@@ -253,8 +253,8 @@ void FoldedBlocks::follow(CodeDocument* document)
     }
 }
 
-/// Text that is joined to the line of a fold comes out of the fold, for the person sees
-/// that line change. A line of its own that went from above the fold leaves it alone.
+/// Text that is joined to a folded line is unfolded, because the user sees that line change. The
+/// fold stays if a separate line above it was removed.
 void FoldedBlocks::edited(int from, int removed, int added)
 {
     Q_UNUSED(removed)
@@ -284,7 +284,7 @@ void FoldedBlocks::mend()
         return;
     }
     const Stale stale = std::exchange(m_stale, {});
-    // Nothing stands above the first line that could hide it.
+    // The first line has no head above it, so nothing could unfold it.
     bool isMended = CodeFolding::reveal(m_document->begin());
     if (stale.joined >= 0) {
         isMended |= CodeFolding::unfold(m_document->findBlockByNumber(stale.joined));
@@ -292,7 +292,7 @@ void FoldedBlocks::mend()
     for (const auto& [first, last] :
          {std::pair(stale.above, stale.above), std::pair(stale.first, stale.last)}) {
         QTextBlock block = m_document->findBlockByNumber(std::max(first, 0));
-        // The fold above may reach to here.
+        // A fold that starts further up may extend to here.
         const QTextBlock above = CodeFolding::visibleAbove(block);
         for (block = above.isValid() ? above : visibleFrom(block);
              block.isValid() && block.blockNumber() <= last; block = visibleFrom(block.next())) {
@@ -302,7 +302,7 @@ void FoldedBlocks::mend()
     if (isMended) {
         m_editor->updateLayout();
     }
-    // Markers of folds come and go with levels.
+    // Fold markers depend on the levels.
     m_editor->extraArea->updateLines(m_document->findBlockByNumber(stale.above),
                                      m_document->findBlockByNumber(stale.last));
 }

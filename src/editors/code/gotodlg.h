@@ -6,16 +6,16 @@
 
 class QSpinBox;
 
-/// Asks for the number of a line, from 1. Numbers behind the end of the text can be
-/// given: what they mean is the caller's to say.
+/// Asks for a line number, from 1. Numbers past the end of the text are allowed; the
+/// caller decides what they mean.
 ///
-/// The answer counts when `exec()` has given `QDialog::Accepted`. Main thread only.
+/// The answer counts if `exec()` has returned `QDialog::Accepted`. Main thread only.
 class ZORV_EXPORT GoToDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Starts with `value`, selected.
+    /// Shows `value`, selected.
     GoToDlg(QWidget* parent, int value);
     ~GoToDlg() override;
 

@@ -6,12 +6,12 @@
 
 namespace Zorv {
 
-/// Keeps a view where it is while the mouse is at work inside of it. Qt brings the line of the
-/// cursor wholly into the view, and the next press of a double click would meet another line.
+/// Keeps the scroll position during a mouse event. Qt scrolls the cursor's line fully into view on
+/// a click; the second press of a double click would then hit another line.
 class HeldView
 {
 public:
-    /// Null holds nothing.
+    /// Null does nothing.
     explicit HeldView(QAbstractScrollArea* area) : m_area(area)
     {
         if (area) {

@@ -4,12 +4,12 @@
 
 namespace Zorv {
 
-/// The ranges around a line: three lists of one length.
+/// The block ranges around a line: three lists of equal length.
 struct HighlightBlocks
 {
-    QList<int> open;          ///< numbers of the first blocks, the outermost first
-    QList<int> close;         ///< numbers of the last blocks, the innermost first
-    QList<int> visualIndent;  ///< left edges in pixels of the text, the outermost first
+    QList<int> open;          ///< first block numbers, outermost first
+    QList<int> close;         ///< last block numbers, innermost first
+    QList<int> visualIndent;  ///< left edges in text pixels, outermost first
 
     int count() const { return visualIndent.size(); }
     bool isEmpty() const { return open.isEmpty() || close.isEmpty() || visualIndent.isEmpty(); }

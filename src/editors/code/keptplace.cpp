@@ -38,7 +38,7 @@ void KeptPlace::restore(CodeEditorPrivate* editor) const
     q->horizontalScrollBar()->setValue(m_left);
 }
 
-/// From below, so that inner folds come before those around them.
+/// From the bottom up, so that inner folds are restored before outer ones.
 void KeptPlace::restoreFolds(CodeEditorPrivate* editor) const
 {
     const QTextDocument* document = editor->q->document();

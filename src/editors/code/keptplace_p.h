@@ -7,16 +7,16 @@ namespace Zorv {
 
 class CodeEditorPrivate;
 
-/// Where the person is in a text, to go on there when its file has been read again: cursor,
-/// view and folds.
+/// The user's position in a text (cursor, view and folds), to restore it after the file has been
+/// read again.
 class KeptPlace
 {
 public:
-    /// Takes it from the editor as it is.
+    /// Saves the current position of an editor.
     explicit KeptPlace(const CodeEditorPrivate* editor);
 
-    /// Goes there. A line that is no more is the nearest one; a fold comes back if its head
-    /// says the same at the same distance from the start or from the end of the text.
+    /// Restores the position. A missing line is replaced by the nearest one. A fold is restored if
+    /// a line with the same text is at the same distance from the start or the end of the text.
     void restore(CodeEditorPrivate* editor) const;
 
 private:
@@ -32,7 +32,7 @@ private:
     int m_line;
     int m_column;
     int m_topLine;
-    int m_topOffset;  ///< lines of the screen from that line to the top of the view
+    int m_topOffset;  ///< screen lines from that line to the top of the view
     int m_left;
     int m_lineCount;
 };

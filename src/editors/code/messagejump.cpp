@@ -97,7 +97,7 @@ bool MessageJump::previous(Kind kind, QTextCursor* cursor)
             return true;
         }
         block = previousBlock(document, block, kind);
-        // Behind the end of the line: messages may reach up to it.
+        // Start after the end of the line: messages may extend up to it.
         column = block.length();
     }
     return false;

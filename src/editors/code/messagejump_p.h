@@ -4,23 +4,23 @@ class QTextCursor;
 
 namespace Zorv {
 
-/// Finds the messages of a `CodeDocument` from its text, near a cursor.
+/// Finds the messages of a `CodeDocument` near a cursor.
 ///
-/// Logarithmic in the length of the text for each line that is looked at.
+/// Takes logarithmic time in the length of the text for each line visited.
 class MessageJump
 {
 public:
     enum Kind {
         Errors = 0,
-        Deprecations = 1  ///< with the warnings, which the list of messages makes of them too
+        Deprecations = 1  ///< and warnings: the message list treats both alike
     };
 
-    /// Puts the cursor at the start of the next message behind it. False if there is
-    /// none; it stays then.
+    /// Moves the cursor to the start of the next message after it. Returns false and
+    /// leaves the cursor if there is none.
     static bool next(Kind kind, QTextCursor* cursor);
 
-    /// Puts the cursor at the first message of its line that ends before it, else at the
-    /// first one of the nearest line above that has any.
+    /// Moves the cursor to the first message in its line that ends before it, else to
+    /// the first message of the nearest line above that has one.
     static bool previous(Kind kind, QTextCursor* cursor);
 };
 

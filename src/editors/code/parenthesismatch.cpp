@@ -31,8 +31,8 @@ int indexAt(const Parentheses& parentheses, int position, Parenthesis::Type type
     return found == parentheses.end() ? -1 : int(found - parentheses.begin());
 }
 
-/// Walks from `index` of a line in steps of 1 or -1, and counts those that need a
-/// partner themselves. The index of the first that is left over, else -1.
+/// Walks from `index` in steps of 1 or -1 and counts brackets that need a partner
+/// themselves. Returns the index of the first partner that is left over, else -1.
 int walk(const Parentheses& parentheses, int index, int step, Parenthesis::Type partner, int* count)
 {
     for (; index >= 0 && index < parentheses.size(); index += step) {
@@ -49,8 +49,9 @@ int walk(const Parentheses& parentheses, int index, int step, Parenthesis::Type 
 
 }  // namespace
 
-// Lines whose brackets are paired in themselves change no count, and are passed over.
-// If no line lacks what is looked for, nothing has to be counted.
+// Skips lines whose brackets are all paired: they do not change the count. If no
+// further line has an unpaired bracket of the wanted kind, there is nothing to count at
+// all.
 
 ParenthesisMatch::Result ParenthesisMatch::forward(QTextCursor* cursor,
                                                    const CodeDocument& document)

@@ -30,14 +30,16 @@ PickBox::PickBox(int characters, QWidget* parent) : QComboBox(parent)
     });
 }
 
-/// Some styles make a popup as high as all rows together, and so look at each.
+/// Some styles size the popup for all rows, and so measure each one. This property
+/// turns that off.
 void PickBox::applySheet()
 {
     setStyleSheet({});
     setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
 }
 
-/// Qt gives a widget with a style sheet no new colours when those of the program change.
+/// Qt does not update the palette of a widget with a style sheet, so set the sheet
+/// again.
 bool PickBox::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == parent() && event->type() == QEvent::PaletteChange) {

@@ -4,17 +4,17 @@
 
 namespace Zorv {
 
-/// A list in a tool bar, of which rows are picked to do something with them.
+/// A combo box in a tool bar whose rows trigger an action.
 ///
-/// Keys and the wheel only choose what it shows; Return, or a click in the list,
-/// picks, and Escape leaves. Its cost does not grow with the model, however often that
-/// changes.
+/// Keys and the wheel only change the shown row. Return, or a click in the list, emits
+/// `picked()`; Escape emits `left()`. The cost does not depend on the size of the
+/// model, nor on how often it changes.
 class PickBox : public QComboBox
 {
     Q_OBJECT
 
 public:
-    /// The parent is needed: its colours are the box's.
+    /// The parent must not be null: the box uses its colours.
     PickBox(int characters, QWidget* parent);
 
 signals:

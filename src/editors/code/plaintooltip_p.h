@@ -4,10 +4,10 @@
 
 namespace Zorv {
 
-/// Tool tips whose text is no markup, whatever it looks like: messages quote lines of files.
+/// Tool tips in plain text, even if the text looks like markup: messages quote lines of files.
 namespace PlainToolTip {
 
-/// Shows a text, or with an empty one nothing.
+/// Shows a text; an empty one hides the tool tip.
 inline void show(const QPoint& globalPlace, const QString& text, QWidget* widget)
 {
     const bool looksRich = Qt::mightBeRichText(text);

@@ -5,8 +5,8 @@
 
 namespace Zorv {
 
-/// The first block at or below `block` that no fold hides, found by the number of its
-/// line on the screen however long the fold is; invalid if there is none.
+/// The first visible block at or below `block`; invalid if there is none. It is looked
+/// up by its screen line number, so the cost does not depend on the length of the fold.
 inline QTextBlock visibleFrom(QTextBlock block)
 {
     if (block.isValid() && !block.isVisible()) {
