@@ -9,7 +9,7 @@
 
 namespace Zorv {
 
-/// Boxes that a stage shows and no text has.
+/// Boxes that exist on the stage only, not in the text.
 class PreviewBoxes : public ContactBoxesCode
 {
 public:
@@ -25,7 +25,7 @@ private:
     std::vector<std::unique_ptr<ContactBoxCode>> m_boxes;
 };
 
-/// What an alignment would make of the shown frame.
+/// What an alignment would do to the shown frame.
 class AlignPreview
 {
 public:
@@ -33,7 +33,7 @@ public:
 
     PreviewBoxes* boxes(ContactBoxCode::BoxType type);
 
-    /// By which the sprite would move.
+    /// How far the sprite would move.
     QPoint shift() const { return m_shift; }
 
 private:

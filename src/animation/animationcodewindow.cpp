@@ -96,7 +96,7 @@ void AnimationCodeWindow::fill()
                       code ? code->displayName() : QString());
 }
 
-/// True for an animation that is as it came into the window, unless the person says more.
+/// Asks before overwriting an animation that has changed since it came into the window.
 bool AnimationCodeWindow::mayReplace()
 {
     const Place place = placeOf(m_animation);
@@ -109,7 +109,7 @@ bool AnimationCodeWindow::mayReplace()
                                          Dialogs::No) == Dialogs::Yes;
 }
 
-/// The text may change or go behind the question, too.
+/// The text can change or disappear while the question is open, so the place is looked up again.
 void AnimationCodeWindow::apply(const QString& text)
 {
     if (!mayReplace()) {

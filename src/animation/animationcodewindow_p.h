@@ -9,10 +9,10 @@ namespace Zorv {
 
 class Interface;
 
-/// The window in which the code of an animation is edited, and what stands in it.
+/// The window that edits the code of one animation, and its content.
 ///
-/// It shows the animation that the editor shows. What is typed stays with its animation, whichever
-/// one the editor shows by then, until it is applied or dropped.
+/// It shows the animation that the editor shows. Typed text stays with its animation until it is
+/// applied or dropped, even if the editor shows another animation meanwhile.
 class AnimationCodeWindow : public QObject
 {
     Q_OBJECT
@@ -24,22 +24,22 @@ public:
     /// Opens the window, or brings it to the front.
     void open(AnimationCode* shown);
 
-    /// The editor shows this animation, with this text, or none.
+    /// The editor now shows this animation or this text of it; null for none.
     void follow(AnimationCode* shown);
 
     bool isOpen() const;
 
-    /// Asks about what is typed and not applied; false if it has to stay.
+    /// Asks about unapplied text; false if it must be kept.
     bool mayDrop();
     void reconfig();
 
-    /// The window of the host is about to close, and this one with it.
+    /// Closes this window when the host's window is about to close.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     void visibilityChanged();
 
-    /// The text has the new code.
+    /// The text contains the new code now.
     void applied();
 
 private:

@@ -90,7 +90,7 @@ const EditorTool tools[] = {
 };
 // clang-format on
 
-/// The entries of the list of flips.
+/// The entries of the flip list, as numbers of texts.
 constexpr unsigned flipTexts[] = {79, 80, 81, 82};
 
 }  // namespace
@@ -101,7 +101,7 @@ void AnimationEditorPrivate::publish()
     setChecked("anim_editcode", true);
     setChecked("anim_stop", true);
     for (const EditorTool& tool : tools) {
-        // What is typed is one edit, when it is entered.
+        // Typing becomes one edit when it is entered, not one edit per key.
         if (auto* field = widget<QAbstractSpinBox>(tool.name)) {
             field->setProperty("keyboardTracking", false);
         }

@@ -22,7 +22,7 @@ namespace {
 
 constexpr unsigned EditorText = 45;
 
-/// The document that a file of a project is, or is a view on.
+/// The document behind a project file, which can be the document itself or a view of it.
 CodeDocument* documentOf(ProjectFile* file)
 {
     auto* list = dynamic_cast<Animations*>(file);
@@ -131,7 +131,8 @@ void AnimationEditorPrivate::detach()
     }
 }
 
-/// A sprite is gone before its collection tells what stands in its place.
+/// A collection deletes a sprite before it reports the replacement, so the pointer is dropped
+/// early.
 void AnimationEditorPrivate::followSprites()
 {
     Sprites* const now = editor->sprites();
@@ -209,7 +210,7 @@ AnimationEditor::AnimationEditor(CodeWorkspace* code, GraphicsWorkspace* stage,
     d->tellEnabled({});
 }
 
-/// Stage and strip must not keep what is theirs no longer.
+/// Stage and strip must not keep pointers to this editor.
 AnimationEditor::~AnimationEditor()
 {
     CodeFileEditor::deactivate();
@@ -232,7 +233,7 @@ int AnimationEditor::canEditFileType() const
 
 QStringList AnimationEditor::areas() const
 {
-    // That of its own tools, and that of the thumbnails.
+    // The areas of its own tools and of the thumbnails.
     return {QStringLiteral("animations"), QStringLiteral("anim")};
 }
 

@@ -21,31 +21,32 @@ struct AssetRequest;
 struct AssetResult;
 struct FrameFacts;
 
-/// The editor "anim": the animations of a text, frame by frame, on a stage and a time line.
+/// The editor "anim": edits the animations of a text frame by frame, on a stage and a time line.
 ///
-/// The text is the only truth. The editor shows one frame of the animation in work and makes an
-/// edit of the text of each act of the person, one step of undo each; what shows is read anew after
-/// every edit, whoever makes it. Nodes of the text die at any edit, so the editor keeps none:
-/// animation and frame are found again, by lines that move with the text, and what it gives out is
-/// good until the next edit. Each animation remembers its frame, each document its animation.
+/// The text is the only source of truth. The editor shows one frame of the current animation. Each
+/// user action becomes one edit of the text and one undo step. After every edit, whoever makes it,
+/// the editor reads again what it shows. Any edit can destroy nodes of the text, so the editor
+/// keeps no node. It finds animation and frame again by lines that move with the text. A node that
+/// it returns is valid until the next edit. Each animation remembers its frame, each document its
+/// animation.
 ///
-/// It publishes the tools "anim_...", in the area "animations". With "anim_editcode", which is
-/// checked at first, stage and text are linked: the frame under the text cursor is shown, and the
-/// text cursor goes to the frame that is chosen elsewhere. It never moves within the lines of the
-/// frame that is shown, nor because the person has moved it, nor while an animation plays.
+/// It publishes the tools "anim_..." in the area "animations". While "anim_editcode" is checked
+/// (the default), stage and text are linked: the stage shows the frame under the text cursor, and
+/// the text cursor jumps to a frame chosen elsewhere. The editor never moves the text cursor within
+/// the lines of the shown frame, in answer to a cursor move by the user, or during playback.
 ///
-/// It is abstract: the host's editor knows the grammar. Numbers of animations and frames are places
-/// from 0; texts count from 1. Main thread only.
+/// The class is abstract because only the host's editor knows the grammar. Indexes of animations
+/// and frames start at 0; displayed texts count from 1. Main thread only.
 class ZORV_EXPORT AnimationEditor : public CodeFileEditor
 {
     Q_OBJECT
 
 public:
-    /// A number of the frame or of the selected box that has a field.
+    /// A numeric property of the frame, or of the selected box, that has an input field.
     enum class Field {
         X,
         Y,
-        Time,  ///< ticks; negative for ever
+        Time,  ///< in ticks; negative: forever
         ScaleX,
         ScaleY,
         Angle,  ///< degrees, counterclockwise
@@ -55,17 +56,17 @@ public:
         BoxHeight
     };
 
-    /// What a field takes.
+    /// The values that a field accepts.
     struct FieldRange
     {
         double minimum;
         double maximum;
         double step = 1;
-        int decimals = 6;  ///< of a field for real numbers
+        int decimals = 6;  ///< for fields with real numbers
     };
 
-    /// Workspaces and renderer are the host's and outlive the editor; for the rest see
-    /// `CodeFileEditor`. The renderer is shown in `stage` while the editor is active.
+    /// The host owns the workspaces and the renderer; they must outlive the editor. For the other
+    /// arguments see `CodeFileEditor`. `stage` shows the renderer while the editor is active.
     AnimationEditor(CodeWorkspace* code, GraphicsWorkspace* stage, GraphicsRenderer* renderer,
                     CodeItemModel* model = nullptr, const char* treeName = nullptr,
                     QObject* parent = nullptr);
@@ -82,59 +83,59 @@ public:
     int canEditFileType() const override;
     QStringList areas() const override;
 
-    /// The stage; the text is shown in `codeWorkspace()`.
+    /// The stage. `codeWorkspace()` shows the text.
     Workspace* workspace() const override;
     void reconfig() override;
     void retranslate() override;
 
-    /// Takes up the first file of animations of the project, or else its main document, unless the
-    /// document in work is one of the project. Null for none.
+    /// Opens the project's first file of animations, or its main document if it has none. Keeps the
+    /// current document if that belongs to the project. Null for none.
     void setProject(Project* project) override;
     void projectAboutToClose(Project* project) override;
 
     /// Also binds the list of animations that is registered with the document.
     void setDocument(CodeDocument* document) override;
 
-    /// Asks about what is typed in the window of code, too.
+    /// Also asks about unapplied text in the code window.
     bool canDiscardInput() const override;
 
-    /// As of `CodeFileEditor`, with what was typed into a field and not yet entered.
+    /// As in `CodeFileEditor`, but first enters what was typed into a field.
     void save() override;
     void undo() override;
     void redo() override;
 
-    /// Of contact boxes while the stage has the keyboard, else of the text.
+    /// Work on contact boxes while the stage has the keyboard focus, otherwise on the text.
     void cut() override;
     void copy() override;
     void paste() override;
 
-    /// With "anim_editcode" the frame of that line is shown, or the animation. Lines in front of a
-    /// frame belong to it. An animation that plays goes on, and what is under the cursor is taken
-    /// up when it ends.
+    /// If linked ("anim_editcode"), shows the frame or animation of that line. The lines above a
+    /// frame belong to it. Playback goes on; the line under the cursor is applied when playback
+    /// ends.
     void currLineChanged(int line) override;
 
     /// @}
     /// @name What is shown
     /// @{
 
-    /// The list in work; null for none.
+    /// The current list; null for none.
     Animations* animations() const;
 
-    /// The sprites of the project of the document; null for none.
+    /// The sprites of the document's project; null for none.
     Sprites* sprites() const;
 
-    /// Null, or -1, for none. Nodes are good until the next edit.
+    /// Null or -1 for none. Nodes are valid until the next edit.
     AnimationCode* currentAnimation() const;
     FrameCode* currentFrame() const;
     int animationIndex() const;
     int frameIndex() const;
     int frameCount() const;
 
-    /// The frame that follows the shown one in play, by way of the loop point; null for none.
+    /// The frame that follows the shown one in playback, through the loop point; null for none.
     FrameCode* nextFrame() const;
 
-    /// The frames that commands for several frames act on, in their order: those selected on the
-    /// strip, else the shown one.
+    /// The frames that multi-frame commands act on, in order: the frames selected on the strip, or
+    /// the shown frame if none is selected.
     QVector<int> selectedFrames() const;
 
     GraphicsRenderer* renderer() const;
@@ -144,7 +145,7 @@ public:
     /// Whether stage and text are linked.
     bool isEditCodeMode() const;
 
-    /// Links them or not, as "anim_editcode" does. With an editor, that one is brought forward.
+    /// Switches the link on or off, like "anim_editcode". Brings `editor` to the front unless null.
     void setEditCodeMode(bool on, Editor* editor);
 
     /// @}
@@ -154,117 +155,119 @@ public:
     /// True if there is a frame whose values can be changed now.
     bool canChangeFieldValue() const;
 
-    /// Bracket a change of the text that fields must not answer. Nothing without "anim_editcode".
+    /// Bracket a change of the text that fields must not react to. No effect without
+    /// "anim_editcode".
     void beginChangeFieldValue();
     void endChangeFieldValue();
 
-    /// Puts frames with these sprites in front of a frame of the animation that is shown, behind
-    /// the last one for their count, and shows the last of them. One step of undo. Nothing without
-    /// an animation, or where the grammar knows no new frame.
+    /// Inserts one frame per sprite into the shown animation, before frame `index`, and shows the
+    /// last new one. An `index` equal to the frame count appends. One undo step. Does nothing
+    /// without an animation, or if the grammar has no new frame.
     void addSprites(int index, const QVector<SpriteNumber>& sprites);
 
-    /// Asks for a new animation, as the tool "anim_add" does, which gets a frame for each of these
-    /// sprites in place of those of the template. One step of undo.
+    /// Asks for a new animation like the tool "anim_add". It gets one frame per sprite instead of
+    /// the frames of the template. One undo step.
     void newAnimation(const QVector<SpriteNumber>& sprites);
 
-    /// The text has been edited: shows what it says now, with `countChanged` also how many
-    /// animations there are. Unless the text itself was typed in (`fromCode`), the text cursor goes
-    /// to the frame.
+    /// Call after an edit of the text: shows its new state. Set `countChanged` if the number of
+    /// animations may have changed. Moves the text cursor to the frame unless the user typed the
+    /// edit into the text itself (`fromCode`).
     void animationCodeChanged(bool countChanged, bool fromCode);
 
-    /// Shows everything anew.
+    /// Reads and shows everything again.
     void update();
 
     /// @}
 
 public slots:
-    /// Shows an animation with the frame of it that was shown last, or a frame, as their sliders
-    /// do. Play ends.
+    /// Show an animation, at the frame of it that was shown last, or a frame. Same as moving the
+    /// sliders. Stops playback.
     void selectAnimation(int index);
     void selectFrame(int index);
     void play();
     void stopPlaying();
 
 signals:
-    /// Tools are of use: with an animation; with a frame, and no play; the same, and no window of
-    /// code is open; the same as the second, where the grammar has scale and angle.
+    /// Enable tools, in this order: there is an animation; there is a frame and no playback; as the
+    /// second, and no code window is open; as the second, and the grammar has scale and angle.
     void enabled(bool isEnabled);
     void frameEnabled(bool isEnabled);
     void frameEnabledNC(bool isEnabled);
     void frameEnabledExtra(bool isEnabled);
 
-    /// Another animation or frame is shown, its text has changed, or play begins or ends.
+    /// Another animation or frame is shown, its text has changed, or playback starts or ends.
     void shownChanged();
 
 protected:
-    /// Play has come to its end.
+    /// Playback has ended.
     virtual void playStopped();
 
     /// Another animation is shown, or none.
     virtual void animationChanged(AnimationCode* animation);
 
-    /// Animations have come or gone. Fits the ranges of the tools: to be called by an override.
+    /// Animations were added or removed. Adjusts the ranges of the tools; an override must call it.
     virtual void animationCountChanged();
 
-    /// A frame is shown, anew or with another text; null for none. Hands its contact boxes to the
-    /// renderer.
+    /// Another frame is shown, or the same with a changed text; null for none. Passes the frame's
+    /// contact boxes to the renderer.
     virtual void frameChanged(FrameCode* frame);
 
-    /// The frame of the onion skin; null for none, also while frames around the shown one take its
-    /// place. Hands its sprite and place to the renderer.
+    /// The onion skin frame has changed. Null for none, and also while the neighbours of the shown
+    /// frame are drawn instead. Passes its sprite and position to the renderer.
     virtual void onionFrameChanged(FrameCode* frame);
 
-    /// The shown frame stands for so many ticks by now, and `next` follows: for a host that shows
-    /// what is between them. Does nothing.
+    /// Playback has shown the frame for `frameTick` ticks, and `next` follows: for a host that
+    /// draws in-between states. Does nothing here.
     virtual void interpolateFrame(FrameCode* next, int frameTick);
 
-    /// The frame's offset for a position to which its sprite was dragged: here the same.
+    /// Converts the position to which a sprite was dragged into the frame's offset. Here they are
+    /// equal.
     virtual QPoint offsetToParentFromInterpolation(QPoint position) const;
 
-    /// How the sprite of the frame stands, by the keys of `SpriteProvider::property()`. Here at
-    /// the frame's offset from the main cross, movable, unturned and in its own size.
+    /// How the sprite of the frame is drawn, by the keys of `SpriteProvider::property()`. Here: at
+    /// the frame's offset from the main cross, movable, not rotated and in its own size.
     virtual QVariant spriteProperty(FrameCode* frame, Sprite* sprite, unsigned int key) const;
 
-    /// The numbers that the grammar takes. Asked when a project comes, and for each edit by keys.
+    /// The numbers that the grammar accepts. Called when a project is set and for each keyboard
+    /// edit.
     virtual FieldRange fieldRange(Field field) const = 0;
 
-    /// The item of the stage that follows the frame's offset is dragged, and is let go: the fields
-    /// follow it, and then the text. The extra cross is shown by its dialog. Boxes are written.
+    /// The user drags or releases the stage item that follows the frame's offset: first the fields
+    /// follow, then the text. The dialog of the extra cross shows its position. Boxes are written.
     virtual void itemMoved(GraphicsRenderer::ItemType type, void* item, QPoint position);
     virtual void itemReleased(GraphicsRenderer::ItemType type, void* item, QPoint position);
 
-    /// Writes a box, with both corners part of it. Null if the text cannot take it.
+    /// Writes a box; both corners are inside it. Null if the text cannot take it.
     virtual ContactBoxCode* addContactBox(FrameCode* frame, ContactBoxCode::BoxType type,
                                           QPoint topLeft, QPoint bottomRight) = 0;
 
-    /// Gives `target` the boxes of `source` in place of its own. The nodes may be others
-    /// afterwards.
+    /// Replaces the boxes of `target` by those of `source`. The nodes may be new ones afterwards.
     virtual void copyContactBoxes(FrameCode* source, FrameCode* target) = 0;
 
-    /// Writes the current animation. False, with why in `error`, for a file that was not written.
+    /// Writes the current animation. On failure false, with the reason in `error`.
     virtual bool saveAnimationGIF(const QString& fileName, QString* error) = 0;
 
     /// Brings the sprites of animations of another project, with their palettes, into the
-    /// destination: all of them in one step of undo, or none, with an `error`. Called in front of
-    /// the edit of the text, which then names them as the result tells.
+    /// destination. All of them in one undo step, or none and an `error`. Called before the edit of
+    /// the text, which then uses the sprite numbers of the result.
     virtual AssetResult importAssets(const AssetRequest& request) = 0;
 
-    /// Asks the person for a new animation: identifier, text (empty for the template) and the place
-    /// in the list, which comes in as a proposal. False if they gave up.
+    /// Asks the user for a new animation: identifier, text (empty: use the template) and position
+    /// in the list, which is preset with a proposal. False if the user cancelled.
     virtual bool newAnimationData(QString& identifier, QString& text, int& position) = 0;
 
-    /// The frame data of an animation, which the panel tells, asked a moment behind an edit. Here
-    /// as its frames say; for a host whose engine ends an attack elsewhere.
+    /// The frame data shown in the panel, requested shortly after each edit. Here computed from the
+    /// frames alone. Override it if the engine ends an attack by other rules.
     virtual FrameFacts frameFacts(const AnimationCode* animation) const;
 
-    /// Asked before the current animation is deleted, behind the question of "confirm_delete".
-    /// False keeps it: for a host that knows who names it. Here true.
+    /// Called before the current animation is deleted, after the question of "confirm_delete".
+    /// False keeps the animation: for a host that knows what refers to it. Here true.
     virtual bool mayDeleteAnimation();
 
-    /// Which item of the stage follows the frame's offset; the sprite at first.
+    /// The stage item that follows the frame's offset; initially the sprite.
     void setSpriteItemType(GraphicsRenderer::ItemType type);
 
-    /// Whether the grammar has scale and angle; true at first.
+    /// Whether the grammar has scale and angle; initially true.
     void setFrameExtra(bool hasExtra);
 
     void attach() override;

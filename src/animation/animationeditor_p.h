@@ -26,7 +26,8 @@ class Interface;
 class TimeLineWidget;
 struct ImportChoice;
 
-/// Counts up as long as it lives: while it does, a loop of signals is broken.
+/// Guard against re-entrance: the counter is above 0 while an object lives. Slots that check it
+/// break signal loops.
 class Guard
 {
 public:
@@ -38,18 +39,18 @@ private:
     int* m_counter;
 };
 
-/// The state of an `AnimationEditor`, and the slots of its tools, which the host finds by name.
+/// The state of an `AnimationEditor` and the slots of its tools, which the host finds by name.
 ///
-/// What is shown is read from the text in one way alone, `refresh()`: at once behind an act of the
-/// person, soon behind any other edit, and not while the stage takes an input, which works on nodes
-/// of its own. Each slot of a tool begins with `updating`, for tools that are filled must not
+/// Only `refresh()` reads the text into the view: at once after a user action, a moment later after
+/// any other edit, and never while the stage processes input, because the stage then works on nodes
+/// of its own. Each tool slot first checks `updating`: filling a tool emits its signal and must not
 /// write.
 class AnimationEditorPrivate : public SpriteProvider, public TimeLine
 {
     Q_OBJECT
 
 public:
-    /// Which tools are of use.
+    /// Which tools are enabled.
     struct Enabled
     {
         bool animation = false;
@@ -62,12 +63,12 @@ public:
                            GraphicsRenderer* renderer);
     ~AnimationEditorPrivate() override;
 
-    // The sprite of the frame, for the stage.
+    // `SpriteProvider`: the sprite of the frame, for the stage.
     unsigned count() const override;
     Sprite* at(unsigned index) const override;
     QVariant property(unsigned index, unsigned key) const override;
 
-    // The row of the animation on the strip.
+    // `TimeLine`: the row of the animation on the strip.
     QString name() const override;
     bool markerAtTick(unsigned int tick, Marker& marker) const override;
     TimeLineCells* cells() override { return &strip; }
@@ -107,7 +108,7 @@ public:
     void showFrame(int index);
     void keepFrame(int index);
 
-    /// The text has been edited by the person, who sees this frame of it now.
+    /// After a user's edit of the text: shows this frame.
     void refreshAt(int frame);
     void fillAnimation();
     void fillFrame();
@@ -119,10 +120,10 @@ public:
     void inputComes();
     void inputTaken();
 
-    /// The text, told by a person's act, of the frame that is shown.
+    /// The title of an undo step, with the number of the shown frame in place of %1.
     QString frameTitle(const QString& text) const;
 
-    /// Brings the editor forward, if it is not.
+    /// Brings the editor to the front if necessary.
     void activatePanel();
 
     // animationeditorcommands.cpp
@@ -141,7 +142,7 @@ public:
     double longestTime() const;
     void fillFields(const FrameCode* frame);
 
-    /// What was typed and not yet entered goes into the text.
+    /// Writes into the text what was typed into a field but not yet entered.
     void commitFields();
     template <class Value, class Setter>
     void write(const QString& title, Value (FrameCode::*get)() const, Setter set, Value value);
@@ -180,11 +181,11 @@ public:
     void showPlace(QPoint place);
 
     // animationeditorframes.cpp
-    /// In front of an act of the person on frames or boxes: what was typed is written. Gives the
-    /// place of the shown frame; none without one.
+    /// Starts a user action on frames or boxes: writes pending input. Returns the place of the
+    /// shown frame; none without one.
     FramePlace beginAct();
 
-    /// The whole act: `edit` gets that place, and what it comes to is shown.
+    /// A whole user action: calls `edit` with that place, then shows the result.
     void act(const std::function<void(const FramePlace& shown)>& edit);
     void copyToNext(FrameValue value);
 
@@ -219,10 +220,10 @@ public:
     Interface* const host;
     QPointer<TimeLineWidget> timeLine;
     QPointer<Animations> animations;
-    QPointer<Sprites> spriteList;  // whose signals are heard
+    QPointer<Sprites> spriteList;  // whose signals are connected
     FollowedAnimation followed;
     AnimationStrip strip;
-    QTextCursor frameLine;  // where the shown frame stands
+    QTextCursor frameLine;  // the line of the shown frame
     Sprite* currentSprite = nullptr;
     AnimationCodeWindow codeWindow;
     QPointer<AnimAlign> alignDialog;
@@ -235,25 +236,25 @@ public:
         bool enabled = false;
         int animationIndex = 0;
         int frameIndex = 0;
-        int before = 0;  // frames around the shown one, which take the place of the chosen one
+        int before = 0;  // neighbours of the shown frame; replace the chosen one
         int after = 0;
     } onion;
 
-    int nextIndex = -1;  // the frame that follows in play
+    int nextIndex = -1;  // in playback
     int loopIndex = -1;
     int frameTick = 0;     // since the shown frame began
-    int updating = 0;      // tools are filled, or write
-    int playing = 0;       // text cursor and tick stay where they are
-    int inputs = 0;        // the stage is at work on nodes
-    int cursorMoves = 0;   // of the text cursor, by the editor
-    int revision = 0;      // of the text in front of an input
-    int shownCount = -1;   // of animations, as the tools know it
+    int updating = 0;      // tools are being filled, or are writing
+    int playing = 0;       // keep text cursor and tick
+    int inputs = 0;        // the stage is working on nodes
+    int cursorMoves = 0;   // nested moves of the text cursor by the editor
+    int revision = 0;      // of the text before an input
+    int shownCount = -1;   // of animations, as known to the tools
     bool isStale = false;  // the text has changed since it was shown
     bool isRefreshPending = false;
-    bool isCursorPending = false;  // moved by the person during play
+    bool isCursorPending = false;  // moved by the user during playback
     QElapsedTimer sinceTick;
-    int slowness = 1;         // of play
-    bool isRepeated = false;  // what ends is played again
+    int slowness = 1;         // of playback
+    bool isRepeated = false;  // start again at the end
     QTimer* factsTimer = nullptr;
 
     EditorTools published{this, AnimationTexts::instance()};
@@ -339,7 +340,7 @@ signals:
     void frameEnabledNC(bool isEnabled);
     void frameEnabledExtra(bool isEnabled);
 
-    /// One contact box is selected.
+    /// Exactly one contact box is selected.
     void boxEnabled(bool isEnabled);
 
     // What the tools show.

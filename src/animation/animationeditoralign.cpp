@@ -64,7 +64,7 @@ PreviewBoxes* AlignPreview::boxes(ContactBoxCode::BoxType type)
     return type == ContactBoxCode::Attack ? &m_attack : &m_collision;
 }
 
-/// The dialog keeps the window from being used, and the text may change behind it all the same.
+/// The dialog blocks the window, but the text can still change behind it.
 void AnimationEditorPrivate::frameAlign()
 {
     const FramePlace shown = beginAct();
@@ -82,7 +82,7 @@ void AnimationEditorPrivate::frameAlign()
     alignDialog->open();
 }
 
-/// In front of anything that shows the frame.
+/// Must run before anything shows the frame.
 void AnimationEditorPrivate::preparePreview()
 {
     preview.reset();
@@ -94,7 +94,7 @@ void AnimationEditorPrivate::preparePreview()
     }
 }
 
-/// In place of those of the text.
+/// Shows them instead of the boxes in the text.
 void AnimationEditorPrivate::showPreviewBoxes()
 {
     for (const auto type : {ContactBoxCode::Attack, ContactBoxCode::Collision}) {

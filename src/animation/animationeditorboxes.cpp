@@ -13,7 +13,7 @@ namespace Zorv {
 
 namespace {
 
-/// The question names what is at stake.
+/// The question names how much would be lost.
 bool mayReplace(int frames, int boxes)
 {
     const QString text = AnimationEditor::tr(
@@ -28,14 +28,14 @@ bool mayReplace(int frames, int boxes)
 
 }  // namespace
 
-/// The host's own way, as everywhere in the editor.
+/// Boxes are always copied by the host's own function.
 BoxCopier AnimationEditorPrivate::boxCopier()
 {
     return
         [this](FrameCode* source, FrameCode* target) { editor->copyContactBoxes(source, target); };
 }
 
-/// As the stage has them, which knows the text of now.
+/// From the stage, which knows the boxes of the current text.
 QVector<BoxPlace> AnimationEditorPrivate::selectedBoxes() const
 {
     return placesOf(currentFrame(), renderer->selectedContactBoxes());
@@ -82,7 +82,7 @@ void AnimationEditorPrivate::boxAllInst()
     }
 }
 
-/// The selected ones, or all of the frame if none is.
+/// The selected boxes, or all boxes of the frame if none is selected.
 QVector<BoxPlace> AnimationEditorPrivate::selectedOrAllBoxes() const
 {
     const QVector<BoxPlace> selected = selectedBoxes();
@@ -134,7 +134,8 @@ void AnimationEditorPrivate::boxLock(bool isOn)
     }
 }
 
-/// The clipboard is that of boxes while the stage has the keyboard, and of the text else.
+/// Decides what the clipboard commands act on: boxes if the stage has the keyboard focus, otherwise
+/// the text.
 bool AnimationEditorPrivate::isStageInUse() const
 {
     return stage->renderWidget() && stage->renderWidget()->hasFocus();

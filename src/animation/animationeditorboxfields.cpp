@@ -3,14 +3,14 @@
 
 namespace Zorv {
 
-/// Of the one box that is selected; null for none and for several.
+/// The box if exactly one is selected; otherwise a null rectangle.
 QRect AnimationEditorPrivate::selectedRect() const
 {
     const QVector<GraphicsRenderer::SelectedBox> boxes = renderer->selectedBoxes();
     return boxes.size() == 1 ? boxes.first().rect : QRect();
 }
 
-/// The stage has the boxes as they are dragged, in front of the text.
+/// Reads from the stage, not from the text: during a drag the stage is ahead of the text.
 void AnimationEditorPrivate::fillBox()
 {
     if (!editor->isActive()) {
@@ -25,7 +25,7 @@ void AnimationEditorPrivate::fillBox()
     emit boxEnabled(isEnabled.frameNC && rect.isValid());
 }
 
-/// By way of the stage, on which the box stays selected.
+/// Goes through the stage, so that the box stays selected.
 void AnimationEditorPrivate::writeBox(QRect rect)
 {
     refreshIfStale();

@@ -24,14 +24,14 @@ Dialogs::Button ask(const QString& text, Dialogs::Button defaultButton)
                                          Dialogs::Yes | Dialogs::No, defaultButton);
 }
 
-/// As the person wants to be asked.
+/// Asks only if the user's options require it.
 bool mayDelete(const Interface* host, const QString& text)
 {
     return !host->option(QStringLiteral("confirm_delete")).toBool() ||
            ask(text, Dialogs::Yes) == Dialogs::Yes;
 }
 
-/// What is written at the end of the text begins a line of its own.
+/// Makes sure that text appended at the end starts on a new line.
 void endLastLine(CodeDocument* document)
 {
     if (document->lastBlock().length() > 1) {
@@ -39,8 +39,8 @@ void endLastLine(CodeDocument* document)
     }
 }
 
-/// In front of all that the animation at `position` takes along; with an empty line behind it where
-/// animations stand apart.
+/// Inserts before the lines that belong to the animation at `position`. Adds an empty line after
+/// the text if animations are separated by empty lines.
 void insertText(const Animations* list, int position, const QString& text)
 {
     CodeDocument* document = list->document();
@@ -59,8 +59,8 @@ void insertText(const Animations* list, int position, const QString& text)
     document->insertOnCursor(lines, cursor);
 }
 
-/// Asks again for one that stands there already, or that the grammar does not take. None if the
-/// list has gone behind the dialog.
+/// Repeats the question while the identifier is taken or not valid in the grammar. Returns none if
+/// the list was destroyed while the dialog was open.
 std::optional<QString> askIdentifier(const QPointer<Animations>& list, const QString& first)
 {
     std::optional<QString> answer = first;
@@ -80,7 +80,7 @@ std::optional<QString> askIdentifier(const QPointer<Animations>& list, const QSt
     }
 }
 
-/// The code of an animation under another identifier, or none.
+/// The code of an animation with a new identifier, or with the old one if it is empty.
 QString copyOf(const Animations* list, unsigned index, const QString& identifier)
 {
     return identifier.isEmpty() ? list->ownLines(index).selectedText().replace(
@@ -134,7 +134,7 @@ void AnimationEditorPrivate::del()
     editor->animationCodeChanged(true, false);
 }
 
-/// Without a name of its own the copy keeps that of the first.
+/// Without a new identifier the copy keeps the original one.
 void AnimationEditorPrivate::duplicate()
 {
     commitFields();
@@ -215,7 +215,7 @@ void AnimationEditorPrivate::frameDel()
     editor->animationCodeChanged(true, false);
 }
 
-/// The shown frame is shown wherever it goes.
+/// Keeps showing the same frame at its new index.
 void AnimationEditorPrivate::frameReverse()
 {
     commitFields();

@@ -25,7 +25,7 @@ const struct
     {"anim_box_width", Field::BoxWidth},  {"anim_box_height", Field::BoxHeight},
 };
 
-/// By the rows of the list of flips.
+/// In the order of the rows of the flip list.
 const FrameCode::Flip flips[] = {FrameCode::NoFlip, FrameCode::FlipVertically,
                                  FrameCode::FlipHorizontally,
                                  FrameCode::FlipVertically | FrameCode::FlipHorizontally};
@@ -88,8 +88,8 @@ void AnimationEditorPrivate::commitFields()
     }
 }
 
-/// One step of undo, unless the frame has that value already. What the grammar does not take goes
-/// from the fields again.
+/// Writes a value as one undo step, unless the frame already has it. A value that the grammar
+/// rejects disappears from the field again.
 template <class Value, class Setter>
 void AnimationEditorPrivate::write(const QString& title, Value (FrameCode::*get)() const,
                                    Setter set, Value value)

@@ -13,7 +13,7 @@ const QLatin1String GifPath("gif_path");
 const QLatin1String GifSuffix(".gif");
 constexpr int MostLines = 20;  // shown in a question
 
-/// The lines that `optimize()` would remove or change, for a person to agree to.
+/// Shows the lines that `optimize()` would remove or change, and asks.
 bool mayOptimize(const QStringList& lines)
 {
     QString text = AnimationEditor::tr("These lines change nothing in the game:") +
@@ -35,7 +35,7 @@ QString gifFolder(const CodeDocument* document)
                : folder;
 }
 
-/// Empty if the person gave up, or the document has gone behind the dialog.
+/// Empty if the user cancelled, or if the document was destroyed while the dialog was open.
 QString askGifName(const QPointer<CodeDocument>& document)
 {
     QString name =
@@ -88,7 +88,7 @@ void AnimationEditorPrivate::optimize()
             .arg(count));
 }
 
-/// What is open may be another document behind the dialog.
+/// While the dialog is open, another document can become current.
 void AnimationEditorPrivate::saveGIF()
 {
     commitFields();

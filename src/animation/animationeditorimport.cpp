@@ -13,7 +13,7 @@
 
 namespace Zorv {
 
-/// What the person has chosen to import. The project was there a moment ago.
+/// The user's choice in the import dialog. The project may have been closed since.
 struct ImportChoice : ImportDlg::Info
 {
     bool bringsSprites;
@@ -22,7 +22,7 @@ struct ImportChoice : ImportDlg::Info
 namespace {
 
 constexpr unsigned TitleText = 69;
-constexpr int MostLines = 10;  // of sprites that are told one by one
+constexpr int MostLines = 10;  // of sprites listed one by one
 
 QString textOf(SpriteNumber sprite)
 {
@@ -30,7 +30,7 @@ QString textOf(SpriteNumber sprite)
                                        QString::number(sprite.number));
 }
 
-/// Those that have another number, or that are not there, a line each.
+/// One line for each sprite that got another number or is missing.
 QStringList spriteLines(const AssetResult& assets)
 {
     QStringList lines;
@@ -119,7 +119,7 @@ void AnimationEditorPrivate::importEntries(const ImportChoice& choice)
                                      reportOf(result, assets));
 }
 
-/// Broken sprites are left only if the person says so. False if nothing is to come.
+/// Leaves out broken sprites only if the user agrees. False if nothing is to be imported.
 bool AnimationEditorPrivate::bringAssets(const QVector<SpriteNumber>& wanted,
                                          const QPointer<Project>& source, AssetResult* result)
 {

@@ -16,7 +16,7 @@ bool AnimationEditorPrivate::isLinked() const
     return link && link->isChecked();
 }
 
-/// Another document may stand in the workspace.
+/// The workspace can show another document.
 bool AnimationEditorPrivate::isTextShown() const
 {
     const CodeDocument* document = editor->document();
@@ -45,7 +45,7 @@ AnimationCode* AnimationEditorPrivate::animationOfLine(int line) const
     return static_cast<AnimationCode*>(node);
 }
 
-/// Boxes stand in front of their frame. -1 for the head.
+/// Boxes are above their frame. -1 for the head of the animation.
 int AnimationEditorPrivate::frameOfLine(const AnimationCode* animation, int line) const
 {
     const CodeDocument* document = editor->document();

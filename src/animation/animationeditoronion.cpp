@@ -18,7 +18,8 @@ namespace {
 
 constexpr int MostSkins = 3;  // on each side
 
-// Told apart by all, warm for what was and cold for what comes; the farther the fainter.
+// Warm for earlier frames and cold for later ones, so that everybody can tell them apart. Farther
+// frames are fainter.
 const QColor BeforeColor(255, 150, 40);
 const QColor AfterColor(50, 160, 255);
 constexpr float Opacities[MostSkins] = {1.0F, 0.65F, 0.4F};
@@ -28,8 +29,8 @@ int countOption(const Interface* host, const char* key)
     return qBound(0, host->option(QLatin1String(key)).toInt(), MostSkins);
 }
 
-/// What stands behind a frame and in front of it as the animation plays: a pass that ends goes on
-/// at the loop point.
+/// The frames before and after a frame in playback order: a pass that ends continues at the loop
+/// point.
 class PlayedFrames
 {
 public:
@@ -93,7 +94,8 @@ void AnimationEditorPrivate::fillOnion()
     fillSkins();
 }
 
-/// The frames around the shown one, the farthest first. No frame is shown twice.
+/// Collects the neighbours of the shown frame, farthest first so that near ones are drawn on top. A
+/// short loop can reach a frame twice; each frame is drawn once.
 void AnimationEditorPrivate::fillSkins()
 {
     QVector<OnionSkin> skins;
@@ -120,8 +122,9 @@ void AnimationEditorPrivate::fillSkins()
     renderer->setOnionSkins(skins);
 }
 
-/// A frame as it would stand if it were shown. What its sprite hangs on may be a cross that stands
-/// at the frame's offset.
+/// Places a frame as if it were the shown one. If its sprite is anchored to the cross that follows
+/// the frame's offset, the skin needs that offset too: the cross on the stage follows the shown
+/// frame.
 void AnimationEditorPrivate::appendSkin(QVector<OnionSkin>* skins, int index, float opacity,
                                         const QColor& color) const
 {

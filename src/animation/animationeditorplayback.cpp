@@ -17,11 +17,11 @@ namespace {
 
 constexpr unsigned TicksPerSecond = 60;
 
-// Frames end here, the strip goes on.
+// Frame ticks are capped here, but the clock of the strip runs on.
 constexpr unsigned LastTick = INT_MAX;
 constexpr int SpeedField = 4;
 
-// Behind a menu the clock stands still. It would make up for that by running fast.
+// An open menu stops the clock. Without a restart it would catch up by running fast.
 constexpr qint64 LongestStall = 250;  // milliseconds
 
 }  // namespace
@@ -31,7 +31,7 @@ bool AnimationEditorPrivate::isPlaying() const
     return timeLine && timeLine->isPlaying() && editor->isActive();
 }
 
-/// The frame behind one, by way of the loop point; -1 for none.
+/// The frame after `index` in playback, through the loop point; -1 for none.
 int AnimationEditorPrivate::next(int index) const
 {
     const int count = frameCount();
@@ -49,7 +49,7 @@ void AnimationEditorPrivate::setPlayChecks(bool isOn)
     setChecked("anim_stop", !isOn);
 }
 
-/// With Shift from the shown frame on.
+/// With Shift, starts at the shown frame.
 void AnimationEditorPrivate::playChanged(bool)
 {
     if (QGuiApplication::keyboardModifiers() & Qt::ShiftModifier) {
@@ -59,7 +59,7 @@ void AnimationEditorPrivate::playChanged(bool)
     }
 }
 
-/// At a tick, or at the first one of the range to be looped.
+/// Starts at `wanted`, or at the start of a looped range that does not contain it.
 void AnimationEditorPrivate::startPlay(unsigned wanted)
 {
     if (updating > 0 || isPlaying()) {
@@ -144,12 +144,12 @@ void AnimationEditorPrivate::playAnimation(unsigned int tick)
     }
 }
 
-/// Which frame is shown follows from the tick alone. Behind the last one the clock is set back to
-/// the loop point, and tells that tick in turn; `playStep()` knows when.
+/// The tick alone decides which frame is shown. After the last one the clock is set back to the
+/// loop point and reports that tick in turn; see `playStep()`.
 void AnimationEditorPrivate::playTick(unsigned tick)
 {
     if (sinceTick.restart() > LongestStall) {
-        timeLine->play();  // tells the tick once more
+        timeLine->play();  // emits this tick again
         return;
     }
     const FrameTicks& ticks = followed.ticks();

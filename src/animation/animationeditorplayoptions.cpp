@@ -12,7 +12,7 @@ namespace {
 constexpr int HalfSpeed = 2;
 constexpr int QuarterSpeed = 4;
 
-// Typing goes on faster than anybody reads frame data.
+// Postpones the computation while the user types.
 constexpr int FactsDelay = 50;  // milliseconds
 
 QString ticksText(int ticks)
@@ -79,7 +79,7 @@ void AnimationEditorPrivate::playAgainChanged(bool isOn)
     isRepeated = isOn;
 }
 
-/// All frames are read for it, so it waits for the last of several edits.
+/// Reading all frames is expensive, so several edits in a row cause one update.
 void AnimationEditorPrivate::showFactsSoon()
 {
     if (!factsTimer) {

@@ -16,7 +16,7 @@ namespace Zorv {
 
 namespace {
 
-/// The slider takes no other value than one from 0 up.
+/// Sliders need a valid range, so without entries it is 0 to 0.
 void setRange(QAbstractSlider* slider, int count)
 {
     if (slider) {
@@ -41,7 +41,8 @@ int AnimationEditorPrivate::animationIndex() const
     return animations->at(unsigned(index)) == shown ? index : animations->indexOf(shown);
 }
 
-/// The frame in the line that the shown one had, wherever that line is now; else the place.
+/// Looks for the shown frame on its line, which moves with edits; otherwise uses the remembered
+/// index.
 int AnimationEditorPrivate::frameIndex() const
 {
     const AnimationCode* shown = currentAnimation();
@@ -56,11 +57,11 @@ int AnimationEditorPrivate::frameIndex() const
     return qBound(0, shown->currentFrame(), count - 1);
 }
 
-/// Qt is still busy with the edit.
+/// Only schedules the refresh: Qt is still processing the edit.
 void AnimationEditorPrivate::textChanged()
 {
     isStale = true;
-    // The end of a play does not take the text from the hands of who writes in it.
+    // At the end of playback, do not move the text cursor away from a user who is typing.
     const QWidget* text = editor->codeWorkspace()->editor();
     isCursorPending = isCursorPending || (isPlaying() && text->hasFocus());
     refreshSoon();
@@ -85,8 +86,9 @@ void AnimationEditorPrivate::refreshIfStale()
     }
 }
 
-/// What the text says now: of the same animation and the same frame, if they are still there.
-/// Behind an act of the editor the cursor of the text follows, even while it has the keyboard.
+/// Shows the current text, with the same animation and frame if they still exist. With
+/// `followsCursor`, a text that has the keyboard focus decides which frame is shown. After an edit
+/// by this editor it is false: then the text cursor moves to the frame instead.
 void AnimationEditorPrivate::refresh(bool followsCursor)
 {
     const CodeDocument* document = editor->document();
@@ -107,7 +109,7 @@ void AnimationEditorPrivate::refresh(bool followsCursor)
     if (followsCursor && isLinked() && !isPlaying() && text->hasFocus() && isTextShown()) {
         followLine(editor->codeWorkspace()->editor()->textCursor().blockNumber());
     }
-    // Which frame is shown follows from the tick alone while one plays.
+    // During playback the tick alone decides which frame is shown.
     if (isPlaying()) {
         showFrame(followed.ticks().frameAt(timeLine->currentTick()));
     } else {
@@ -116,7 +118,7 @@ void AnimationEditorPrivate::refresh(bool followsCursor)
     updateOnionRange();
 }
 
-/// The list keeps the place of one that has gone.
+/// If the animation is gone, takes the one that is now at its index in the list.
 void AnimationEditorPrivate::findAnimation()
 {
     if (!animations) {
@@ -160,7 +162,7 @@ void AnimationEditorPrivate::selPosChanged(int index)
     updateCurrLine();
 }
 
-/// Play goes on there, since its tick tells the frame.
+/// Playback continues from that frame: setting the tick is enough.
 void AnimationEditorPrivate::frameSelPosChanged(int index)
 {
     if (updating > 0 || !currentAnimation()) {
@@ -168,7 +170,7 @@ void AnimationEditorPrivate::frameSelPosChanged(int index)
     }
     if (isPlaying() && followed.frame(index)) {
         timeLine->setCurrentTick(unsigned(followed.ticks().firstTick(index)));
-        refresh();  // a frame of no ticks is passed over, and its tool goes back
+        refresh();  // a frame of 0 ticks is skipped; resets the slider
         return;
     }
     commitFields();
@@ -176,7 +178,7 @@ void AnimationEditorPrivate::frameSelPosChanged(int index)
     updateCurrLine();
 }
 
-/// With the frame of it that was shown last; an index out of range shows none.
+/// Shows the frame of it that was shown last. An index out of range shows nothing.
 void AnimationEditorPrivate::showAnimation(int index)
 {
     AnimationCode* chosen = animations ? animations->at(unsigned(index)) : nullptr;
@@ -229,7 +231,7 @@ void AnimationEditorPrivate::fillAnimation()
     }
 }
 
-/// All that shows of the frame.
+/// Updates everything that depends on the shown frame.
 void AnimationEditorPrivate::fillFrame()
 {
     const int index = frameIndex();
@@ -269,7 +271,7 @@ void AnimationEditorPrivate::fillFrame()
     emit editor->shownChanged();
 }
 
-/// A tick in the middle of the frame stays.
+/// Keeps a tick in the middle of the frame.
 void AnimationEditorPrivate::setTick(int frame)
 {
     if (!timeLine || playing > 0 || isPlaying()) {
@@ -326,7 +328,7 @@ QString AnimationEditorPrivate::frameTitle(const QString& text) const
     return text.arg(frameIndex() + 1);
 }
 
-/// Round and round, as play does.
+/// Wraps around, like playback.
 void AnimationEditorPrivate::prevFrame()
 {
     const int count = frameCount();
@@ -357,7 +359,7 @@ void AnimationEditorPrivate::nextAnim()
     }
 }
 
-/// The stage works on nodes, which are those of the text as it is now.
+/// The stage is about to use nodes, so they must match the current text.
 void AnimationEditorPrivate::inputComes()
 {
     refreshIfStale();

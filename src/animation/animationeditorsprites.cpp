@@ -7,8 +7,8 @@
 
 namespace Zorv {
 
-/// Gives a new animation a frame for each sprite. Frames that come from the template, and that
-/// nobody has written, make room for them.
+/// Gives a new animation one frame per sprite. They replace the frames of the template, but not
+/// frames that the user has written.
 void AnimationEditorPrivate::giveSprites(int animation, const QVector<SpriteNumber>& sprites,
                                          bool isTemplate)
 {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int PlaceField = 3;
 
-// Of the stage's modes: relative to a cross, and movable both ways.
+// A mode of the stage: relative to a cross, movable in both directions.
 constexpr int OnCross = 14;
 
 }  // namespace
@@ -43,7 +43,7 @@ void AnimationEditorPrivate::boxAddCChanged(bool isOn)
     setDrawing(ContactBoxCode::Collision, isOn);
 }
 
-/// Another mode of the stage stays.
+/// Leaves any other mode of the stage as it is.
 void AnimationEditorPrivate::leaveDrawing()
 {
     const Guard guard(&updating);
@@ -129,7 +129,7 @@ void AnimationEditor::itemMoved(GraphicsRenderer::ItemType type, void*, QPoint p
     }
 }
 
-/// Also for an offset that the grammar does not take: the stage is brought in line with the text.
+/// Also when the grammar rejects the offset: then the stage must go back to the text's value.
 void AnimationEditor::itemReleased(GraphicsRenderer::ItemType type, void* item, QPoint position)
 {
     itemMoved(type, item, position);

@@ -56,7 +56,7 @@ bool AnimationStrip::setLengths(const QVector<int>& indexes, const QVector<int>&
     return count.changed > 0;
 }
 
-/// The shown frame is shown wherever it goes.
+/// Keeps showing the same frame at its new index.
 bool AnimationStrip::move(const QVector<int>& indexes, int target)
 {
     m_editor->commitFields();
@@ -112,7 +112,8 @@ void AnimationStrip::follow()
     QVector<int> selected = m_selected;
     bool isOther = m_shown != shown || m_hasPlayed;
     if (m_isMatching && revision() != m_revision) {
-        // The line of the shown frame may have gone and come back: only a new frame is another.
+        // The line of the shown frame may have been removed and restored. Only a frame that was not
+        // there before counts as another one.
         const QVector<int> places = m_match.placesIn(FrameMatch(m_editor->currentAnimation()));
         std::transform(selected.begin(), selected.end(), selected.begin(),
                        [&places](int frame) { return places.value(frame, -1); });
@@ -141,8 +142,8 @@ void AnimationStrip::forget()
     }
 }
 
-/// Frames are told by their lines only where it is worth the walk: the shown one is followed as it
-/// is.
+/// Matching reads every line, so it is skipped when only the shown frame is selected: the editor
+/// follows that one itself.
 void AnimationStrip::keep()
 {
     if (m_isKeeping) {
@@ -150,7 +151,7 @@ void AnimationStrip::keep()
     }
     const QScopedValueRollback<bool> keeping(m_isKeeping, true);
     TimeLineWidget* strip = m_editor->timeLine;
-    // A strip that shows no row at the moment selects nothing.
+    // A strip without a visible row has no selection.
     if (strip->selectedCells().isEmpty() && m_shown >= 0 && m_shown < count()) {
         strip->setSelectedCells({m_shown});
     }

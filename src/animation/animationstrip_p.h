@@ -9,11 +9,11 @@ namespace Zorv {
 
 class AnimationEditorPrivate;
 
-/// The frames of the shown animation as cells of the strip: what a person does there becomes edits
-/// of the text.
+/// The frames of the shown animation as cells of the strip: turns actions there into edits of the
+/// text.
 ///
-/// It also keeps the selection: through edits, as far as frames can be found again, and until
-/// another frame than a selected one is shown. The shown frame alone is selected otherwise.
+/// Also keeps the selection. It survives edits as far as frames can be found again, and ends when a
+/// frame outside of it is shown. Otherwise only the shown frame is selected.
 class AnimationStrip : public QObject, public TimeLineCells
 {
     Q_OBJECT
@@ -30,13 +30,13 @@ public:
     bool accepts(const QMimeData* data) const override;
     void drop(const QMimeData* data, int index) override;
 
-    /// The shown one alone unless others are selected; none without a frame.
+    /// Just the shown frame unless others are selected; empty without a frame.
     QVector<int> selectedFrames() const;
 
-    /// Brings the selection in line with what is shown now.
+    /// Updates the selection to what is shown now.
     void follow();
 
-    /// Another animation is shown: nothing of the last one counts.
+    /// Another animation is shown: drops all state about the last one.
     void forget();
 
 private:
@@ -44,13 +44,13 @@ private:
     int revision() const;
 
     AnimationEditorPrivate* m_editor;
-    QVector<int> m_selected;    // as the person left them
-    FrameMatch m_match;         // the frames that these were then
+    QVector<int> m_selected;    // as last set by the user
+    FrameMatch m_match;         // the frames at the time of `m_selected`
     int m_revision = -1;        // of the text
-    bool m_isMatching = false;  // others than the shown frame are selected
-    bool m_hasPlayed = false;   // since the selection was followed
+    bool m_isMatching = false;  // other frames than the shown one are selected
+    bool m_hasPlayed = false;   // since the last `follow()`
     bool m_isKeeping = false;
-    int m_shown = -1;  // the frame, as it was followed last
+    int m_shown = -1;  // the frame at the last `follow()`
 };
 
 }  // namespace Zorv

@@ -4,7 +4,7 @@ namespace Zorv {
 
 namespace {
 
-/// In the order of the numbers; null for no tool tip.
+/// In the order of `Id`; null: no tool tip.
 const TextTable::Row rows[AnimationTexts::End - AnimationTexts::First] = {
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation:"), nullptr},
     {QT_TRANSLATE_NOOP("Zorv::AnimationTexts", "Animation:"),

@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// The texts of the tools of the animation editor that are not among those of `ZorvTranslator`.
+/// Texts of the animation editor's tools that `ZorvTranslator` does not have.
 class AnimationTexts : public TextTable
 {
 public:

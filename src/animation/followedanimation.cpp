@@ -102,8 +102,9 @@ void FollowedAnimation::follow()
     emit changed();
 }
 
-// A head that is typed in keeps its node and takes another identifier; one that is moved, or broken
-// and mended, has a new node with the old one.
+// If the head line is edited in place, the node stays and its identifier changes. If it is moved,
+// or broken and repaired, a new node has the old identifier. So a node counts as the same one if
+// either its address or its identifier is the same.
 void FollowedAnimation::find()
 {
     AnimationCode* here = animationOf(m_document->nodeInBlock(m_head.block()));

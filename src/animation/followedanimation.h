@@ -16,9 +16,9 @@ class FrameCode;
 
 /// One animation of a document, found again after every edit.
 ///
-/// Nodes die at any keystroke, so none is held: the animation is the one on a line that moves with
-/// the text, or, if another stands there now, the first one with the "Identifier" that it had, in
-/// the document's list of animations. Main thread only.
+/// Any keystroke can destroy nodes, so this class holds none. It remembers a line that moves with
+/// the text. If another animation is now on that line, it takes the first one in the document's
+/// list with the old "Identifier". Main thread only.
 class ZORV_EXPORT FollowedAnimation : public QObject
 {
     Q_OBJECT
@@ -30,22 +30,22 @@ public:
     /// Null for none.
     void setAnimation(AnimationCode* animation);
 
-    /// Null if there is none, or it has gone from the text. Good until the next edit.
+    /// Null if none is set, or if it is no longer in the text. Valid until the next edit.
     AnimationCode* animation() const;
 
-    /// A frame of it; null outside of the list. Good until the next edit.
+    /// A frame of the animation; null if `index` is out of range. Valid until the next edit.
     FrameCode* frame(int index) const;
     int frameCount() const;
 
-    /// Null for none, and once it is about to close.
+    /// Null for none, and as soon as the document is about to close.
     CodeDocument* document() const;
 
-    /// When its frames stand, as of the last edit. Made once an edit, when it is asked for.
+    /// The ticks of its frames after the last edit. Computed on demand, once per edit.
     const FrameTicks& ticks() const;
 
 signals:
-    /// Another animation, or the text has changed, or is about to close. As with
-    /// `CodeDocument::codeChanged()` a slot must not edit.
+    /// Another animation is set, the text has changed, or the document is about to close. A slot
+    /// must not edit, as with `CodeDocument::codeChanged()`.
     void changed();
 
 private:
@@ -57,7 +57,7 @@ private:
 
     QPointer<CodeDocument> m_document;
     QTextCursor m_head;
-    const void* m_known = nullptr;  // the node as it was, only to be compared
+    const void* m_known = nullptr;  // the last node found; may be dangling, only compared
     QString m_identifier;
     mutable FrameTicks m_ticks;
     mutable bool m_ticksKnown = false;

@@ -11,7 +11,7 @@ namespace Zorv {
 
 namespace {
 
-/// `Endless` wins over any number.
+/// Adds ticks; the result is `Endless` as soon as one operand is.
 void add(int* sum, int ticks)
 {
     if (*sum < 0 || ticks < 0) {
@@ -21,7 +21,7 @@ void add(int* sum, int ticks)
     }
 }
 
-/// The right side of a box is part of it.
+/// The right edge is inside the box, hence + 1.
 int reachOf(const QRect& box)
 {
     return std::max(box.right(), -1) < std::numeric_limits<int>::max()

@@ -20,8 +20,10 @@ FrameMatch::FrameMatch(const AnimationCode* animation)
     }
 }
 
-// What is alike at both ends has not changed. Of equal lines in between the first is the first, the
-// second the second.
+// A small diff. Equal lines at the start and at the end of both lists are unchanged frames. In
+// between, equal lines are paired in order: the first with the first, the second with the second.
+// At last, if both lists are equally long, each frame without a partner takes the frame at its old
+// index, unless that one is paired already.
 QVector<int> FrameMatch::placesIn(const FrameMatch& later) const
 {
     const QVector<uint>& then = m_lines;

@@ -6,10 +6,11 @@ namespace Zorv {
 
 class AnimationCode;
 
-/// Finds frames again after an edit of the text, whoever made it, undo and redo too.
+/// Finds frames again after any edit of the text, undo and redo included.
 ///
-/// A frame is told by its line. Those whose line is as it was are found wherever they are now;
-/// where lines were changed in place, and none came or went among them, the place counts.
+/// A frame is recognised by the hash of its line. A frame with an unchanged line is found wherever
+/// it is now. If no frame was added or removed, a frame with a changed line is assumed to have kept
+/// its index.
 class FrameMatch
 {
 public:
@@ -18,10 +19,10 @@ public:
     /// The frames as they are now; none for null.
     explicit FrameMatch(const AnimationCode* animation);
 
-    /// By what stands in for their lines.
+    /// Takes values that stand in for the lines.
     explicit FrameMatch(const QVector<uint>& lines) : m_lines(lines) {}
 
-    /// Where each of the frames stands in a later state; -1 for one that cannot be found.
+    /// The index of each frame in a later state; -1 for a frame that cannot be found.
     QVector<int> placesIn(const FrameMatch& later) const;
 
 private:

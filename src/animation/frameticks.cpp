@@ -6,6 +6,11 @@
 #include <algorithm>
 #include <limits>
 
+// The constructor computes at which tick each frame starts. A frame of 0 ticks gets the start of
+// the next frame; frames after an endless one get the start of that one. `m_shown` lists the frames
+// that are really shown, up to the first endless one, since nothing after it is ever reached. Their
+// starts increase strictly, so `frameAt()` can use a binary search.
+
 namespace Zorv {
 
 namespace {

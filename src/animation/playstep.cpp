@@ -6,10 +6,10 @@ namespace Zorv {
 
 namespace {
 
-// For how long the end of an animation is seen before it begins again.
+// How long the end of an animation stays visible before it starts again.
 constexpr unsigned int SeenTicks = 30;
 
-/// The part of the range that the animation has. An endless one has all ticks.
+/// Clips the range to the animation. An endless animation has all ticks.
 std::optional<TickRange> rangeOf(const FrameTicks& ticks, const PlayOptions& options)
 {
     const int total = ticks.total();
@@ -24,7 +24,7 @@ std::optional<TickRange> rangeOf(const FrameTicks& ticks, const PlayOptions& opt
     return range;
 }
 
-/// At an end that began at the tick `since`.
+/// What happens after an end that began at tick `since`: `act`, or a restart.
 PlayStep endStep(const PlayOptions& options, unsigned int tick, unsigned int since,
                  PlayStep::Act act)
 {

@@ -12,32 +12,33 @@ class FrameTicks;
 /// How an animation is played.
 struct PlayOptions
 {
-    /// These ticks alone, again and again, as far as the animation has them.
+    /// Loops these ticks only, clipped to the length of the animation.
     std::optional<TickRange> range;
 
-    /// One that ends begins again from the start, when its last frame has been seen for a while.
+    /// Starts again from the beginning after an end, once the last frame was visible for a while.
     bool isRepeated = false;
 };
 
-/// What is to be done at a tick of the clock.
+/// What to do at a tick of the clock.
 struct PlayStep
 {
     enum Act {
         Show,         ///< the frame at the tick
-        ShowAndStop,  ///< the same, which is the last one
-        Stop,         ///< nothing more, what is shown stays
+        ShowAndStop,  ///< the frame at the tick, which is the last one
+        Stop,         ///< keep what is shown
         Jump          ///< to another tick
     };
     Act act = Show;
-    unsigned int target = 0;  ///< of a jump
+    unsigned int target = 0;  ///< for `Jump`
 };
 
-/// The tick at which play begins: that of `wanted`, unless only a range without it is played.
+/// The tick at which playback begins: `wanted`, or the start of a looped range that does not
+/// contain it.
 ZORV_EXPORT unsigned int playStart(const FrameTicks& ticks, const PlayOptions& options,
                                    unsigned int wanted);
 
-/// Behind the last tick play goes on at the loop point, and where nothing is shown from there on
-/// it ends, as it does at an endless frame. A range to be looped has no other end.
+/// After the last tick, playback continues at the loop point. It ends if nothing is shown from
+/// there on, and at an endless frame. A looped range never ends.
 ZORV_EXPORT PlayStep playStep(const FrameTicks& ticks, const PlayOptions& options,
                               unsigned int tick);
 

@@ -6,7 +6,7 @@ namespace Zorv {
 
 namespace {
 
-/// "GROUP,NUMBER" to a sprite. False for what is no such text.
+/// Parses "GROUP,NUMBER". False if malformed.
 bool read(const QByteArray& text, SpriteNumber* sprite)
 {
     const int comma = text.indexOf(',');

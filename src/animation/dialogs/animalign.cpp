@@ -48,7 +48,8 @@ AnimAlign::AnimAlign(Animations* animations, int index, QWidget* parent)
       m_apply(makeButton(tr("Apply"), "applyButton"))
 {
     setWindowTitle(tr("Alignment tool"));
-    // In front of the selection, which lets go of rows in the middle of an edit of the text.
+    // Must be connected before the selection model, which deselects rows in the middle of an edit
+    // of the text.
     connect(animations, &QAbstractItemModel::rowsAboutToBeRemoved, this,
             [this] { m_rowsGo = true; });
     connect(animations, &QAbstractItemModel::rowsRemoved, this, [this] { m_rowsGo = false; });
@@ -114,7 +115,7 @@ QVector<int> AnimAlign::selected() const
     return rows;
 }
 
-/// Percentages begin at all of it, and distances at none.
+/// Percentages start at 100, distances at 0.
 void AnimAlign::on_operation_currentIndexChanged(int mode)
 {
     const bool isScale = mode == Alignment::ScaleBoxes;

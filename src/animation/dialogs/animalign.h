@@ -15,33 +15,33 @@ namespace Zorv {
 class Animations;
 }
 
-/// Moves or scales offsets or contact boxes of all frames of the animations that the person
-/// selects, as often as they press Apply, each time as one step of undo.
+/// Moves or scales the offsets or contact boxes of all frames of the selected animations. Each
+/// click on Apply is one undo step.
 ///
-/// Nothing is written before that; a stage can show meanwhile what would be. It closes when the
-/// list of animations dies. Main thread only.
+/// Nothing is written before Apply; meanwhile a stage can show a preview. The dialog closes when
+/// the list of animations is destroyed. Main thread only.
 class ZORV_EXPORT AnimAlign : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// With the animation `index` selected, none for -1. The list is not owned.
+    /// Initially selects the animation `index`; -1 for none. Does not own the list.
     AnimAlign(Zorv::Animations* animations, int index, QWidget* parent = nullptr);
     ~AnimAlign() override;
 
-    /// What the fields say.
+    /// The content of the fields.
     Zorv::Alignment alignment() const;
 
-    /// The places of the selected animations, from the first on.
+    /// The indexes of the selected animations in ascending order.
     QVector<int> selected() const;
 
-    /// True if the fields were changed since they were applied, or since the dialog came: what they
-    /// say is to be seen then.
+    /// True if the fields were changed since the dialog opened or since Apply: then a preview
+    /// should be shown.
     bool hasPreview() const { return m_hasPreview; }
 
 signals:
-    /// Another alignment, another selection, or it has been applied. Never in the middle of an edit
-    /// of the text.
+    /// The alignment or the selection has changed, or was applied. Never emitted in the middle of
+    /// an edit of the text.
     void changed();
 
 private slots:
@@ -65,5 +65,5 @@ private:
     QSpinBox* m_y;
     QPushButton* m_apply;
     bool m_hasPreview = false;
-    bool m_rowsGo = false;  // and the text is not at rest
+    bool m_rowsGo = false;  // an edit of the text is in progress
 };

@@ -20,7 +20,7 @@ namespace {
 
 const QLatin1String GeometryKey("anim_editcode_geometry");
 
-/// False for one of a screen that is not there any more, and for one written by hand.
+/// False if the screen is gone, and for nonsense written by hand into the settings.
 bool isOnScreen(const QRect& geometry)
 {
     const QScreen* screen = QGuiApplication::screenAt(geometry.center());
@@ -72,7 +72,7 @@ void AnimEditTxt::setText(const QString& text, const QString& name)
 
 QString AnimEditTxt::text() const
 {
-    // Blanks that do not break stay what they are.
+    // Unlike `toPlainText()`, this keeps non-breaking spaces.
     return m_code->document()->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
 }
 

@@ -12,50 +12,49 @@ class Interface;
 class QLabel;
 class QPushButton;
 
-/// The code of one animation, to be edited apart from the text and applied as a whole.
+/// Edits the code of one animation apart from the text, and applies it as a whole.
 ///
-/// What is typed stays here until it is applied, or the person drops it, and belongs to the
-/// animation that it was typed for: another one comes into the window only when nothing is left of
-/// it. The dialog knows no document: whoever made it hears `applyRequested()`. It is not modal.
+/// Typed text stays here until the user applies or drops it. It belongs to the animation for which
+/// it was typed: the window takes another one only when nothing is pending. The dialog knows no
+/// document: its creator handles `applyRequested()`. It is not modal.
 ///
-/// Of the settings it reads "code_line_numbers", "code_highlight_line", "line", "block_range",
-/// "paren_range" and "paren"; "anim_editcode_geometry" is where it stands. Main thread only.
+/// Settings that it reads: "code_line_numbers", "code_highlight_line", "line", "block_range",
+/// "paren_range" and "paren". It stores its position in "anim_editcode_geometry". Main thread only.
 class ZORV_EXPORT AnimEditTxt : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `host` outlives the dialog; null for none.
+    /// `host` must outlive the dialog; null for none.
     explicit AnimEditTxt(Zorv::Interface* host, QWidget* parent = nullptr);
     ~AnimEditTxt() override;
 
-    /// Shows the code of an animation, which `name` tells the person, and forgets what was typed:
-    /// for a caller that has looked at `isModified()`.
+    /// Shows the code of an animation called `name` and discards what was typed. Check
+    /// `isModified()` first.
     void setText(const QString& text, const QString& name = {});
 
-    /// What stands there now, and what `setText()` has put there.
+    /// The current content, and the content set by `setText()`.
     QString text() const;
     QString firstText() const { return m_firstText; }
 
-    /// True if the person has typed something that is not applied.
+    /// True if the user has typed something that is not applied.
     bool isModified() const;
 
-    /// Asks about what is not applied, and applies or drops it as the person says. False if they
-    /// want to stay, or it could not be applied.
+    /// Asks about unapplied text, and applies or drops it. False if the user cancels, or if the
+    /// text could not be applied.
     bool mayDrop();
 
     /// Reads the settings again.
     void reconfig();
 
-    /// What the button Close, that of the window, and Escape come to: as `mayDrop()`, then closes.
+    /// Called by the Close button, the window's close button and Escape: closes if `mayDrop()`.
     void reject() override;
 
 signals:
-    /// The person wants this code to be that of the animation. Who has written it calls
-    /// `setText()`.
+    /// The user wants to apply this code. Call `setText()` after writing it.
     void applyRequested(const QString& text);
 
-    /// It has come or gone.
+    /// The dialog was shown or hidden.
     void visibilityChanged(bool isVisible);
 
 protected:

@@ -10,7 +10,7 @@ namespace Zorv {
 
 namespace {
 
-/// Left and right of a box, or top and bottom.
+/// One dimension of a box: left and right, or top and bottom.
 struct Side
 {
     qint64 first;

@@ -11,11 +11,10 @@ namespace Zorv {
 
 class Animations;
 
-/// What is done alike to the offset or to all contact boxes of many frames.
+/// One operation on the offset or on all contact boxes of many frames.
 ///
-/// A box of at least a pixel each way keeps one: the corner that is moved gives way, in a scaled
-/// box the bottom right one. Everything is computed in 64 bits, and what does not fit into 32
-/// becomes the nearest number that does.
+/// A box that is at least one pixel wide or high stays so: the moved corner gives way; in a scaled
+/// box the bottom right one. Computes in 64 bits and clamps results to 32 bits.
 struct Alignment
 {
     enum Mode {
@@ -32,15 +31,15 @@ struct Alignment
     int y = 0;
 };
 
-/// "Offset axis" and so on, in the language of the program.
+/// The name of the mode in the program's language, for example "Offset axis".
 ZORV_EXPORT QString alignmentText(Alignment::Mode mode);
 
-/// An offset by the first mode, a box by one of the others; each as it is by the other ones.
+/// Only `OffsetAxis` changes an offset; only the other modes change a box.
 ZORV_EXPORT QPoint aligned(const QPoint& offset, const Alignment& alignment);
 ZORV_EXPORT QRect aligned(const QRect& box, const Alignment& alignment);
 
-/// Aligns all frames of these animations, as one step of undo with the text of the mode. A number
-/// that is no animation counts for nothing.
+/// Aligns all frames of these animations as one undo step, named after the mode. Ignores invalid
+/// indexes.
 ZORV_EXPORT EditCount align(Animations* animations, const QVector<int>& indexes,
                             const Alignment& alignment);
 

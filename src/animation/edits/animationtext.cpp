@@ -12,7 +12,7 @@ namespace {
 
 const QChar LineEnd = QChar::ParagraphSeparator;
 
-/// True if the first node of these lines is the head of an animation, and the only head.
+/// True if the first node of these lines is the head of an animation, and there is no other head.
 bool isOneAnimation(const CodeDocument* document, int line, int count)
 {
     int heads = 0;
@@ -28,13 +28,12 @@ bool isOneAnimation(const CodeDocument* document, int line, int count)
     return heads == 1;
 }
 
-/// True where a line ends.
 bool isLineEnd(const QString& text, int position)
 {
     return position == text.size() || text.at(position) == QLatin1Char('\n');
 }
 
-/// How many characters of whole lines two texts share at the start.
+/// The number of characters in the whole lines that both texts start with.
 int sharedStart(const QString& a, const QString& b)
 {
     const auto end = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first;
@@ -45,7 +44,7 @@ int sharedStart(const QString& a, const QString& b)
     return same == 0 ? 0 : a.lastIndexOf(QLatin1Char('\n'), same - 1) + 1;
 }
 
-/// The same at the end.
+/// The same for the end.
 int sharedEnd(const QString& a, const QString& b)
 {
     const auto end = std::mismatch(a.rbegin(), a.rend(), b.rbegin(), b.rend()).first;
@@ -54,7 +53,7 @@ int sharedEnd(const QString& a, const QString& b)
     return line < 0 ? 0 : a.size() - line - 1;
 }
 
-/// Lines that stay are left alone, with all that points at them.
+/// Touches only lines that change. Cursors and bookmarks in the other lines keep their places.
 void replaceLines(CodeDocument* document, int position, const QString& before, const QString& after)
 {
     const int start = sharedStart(before, after);
@@ -95,7 +94,8 @@ bool replaceAnimation(Animations* animations, int animation, const QString& text
                             EditText::tr("Edit code of animation #%1").arg(animation + 1));
         replaceLines(document, start, present, wanted);
     }
-    // What a text is the grammar knows, once it is there.
+    // Only the grammar knows whether the text is valid, and it parses the document only. So insert
+    // first and undo if necessary.
     const bool isOne = isOneAnimation(document, line, wanted.count(QLatin1Char('\n')) + 1);
     if (!isOne) {
         document->undo();

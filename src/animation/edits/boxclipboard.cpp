@@ -12,7 +12,7 @@ namespace Zorv {
 
 namespace {
 
-// "TYPE,LEFT,TOP,RIGHT,BOTTOM" a line
+// One box per line: "TYPE,LEFT,TOP,RIGHT,BOTTOM".
 const QLatin1String DataType("application/x-zorv-contact-boxes");
 
 QByteArray toLine(const BoxPlace& place, const QRect& rect)
@@ -24,7 +24,7 @@ QByteArray toLine(const BoxPlace& place, const QRect& rect)
     return line + '\n';
 }
 
-/// False for a line that is none of these.
+/// False for a malformed line.
 bool fromLine(const QByteArray& line, BoxRects* boxes)
 {
     const QList<QByteArray> parts = line.split(',');

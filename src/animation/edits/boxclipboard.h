@@ -8,14 +8,13 @@ class QMimeData;
 
 namespace Zorv {
 
-/// Contact boxes on their way through the clipboard, from one frame to another.
+/// Copies contact boxes between frames through the clipboard.
 
-/// These boxes of a frame: as numbers for `pastedBoxes()`, and as the lines of the text that they
-/// stand in, to be pasted into a text. The caller owns it.
+/// Clipboard data for these boxes: numbers for `pastedBoxes()`, and the lines of their text for
+/// pasting into a text. The caller owns it.
 ZORV_EXPORT QMimeData* copiedBoxes(const FrameCode* frame, const QVector<BoxPlace>& boxes);
 
-/// The boxes of a clipboard. Empty for null, for other data, and for data of that type that is
-/// broken.
+/// The boxes in clipboard data. Empty for null, for data of another type, and for malformed data.
 ZORV_EXPORT BoxRects pastedBoxes(const QMimeData* data);
 
 }  // namespace Zorv

@@ -20,7 +20,7 @@ QVector<QRect> rectsOf(const ContactBoxesCode* boxes)
     return result;
 }
 
-/// Those of one kind, each once, in the order of the list.
+/// The indexes of the boxes of one type, ascending, without duplicates.
 QVector<int> indexesOf(const QVector<BoxPlace>& boxes, ContactBoxCode::BoxType type, int count)
 {
     QVector<int> result;
@@ -56,7 +56,7 @@ EditCount editBoxes(Animations* animations, const FramePlace& place, const QStri
     });
 }
 
-/// From the last to the first, so that the others keep their places.
+/// From last to first, so that the remaining indexes stay valid.
 EditCount removeFrom(const FollowedBoxes& boxes, const QVector<int>& indexes)
 {
     EditCount count;
@@ -72,7 +72,7 @@ EditCount removeSome(const FollowedFrame& frame, ContactBoxCode::BoxType type,
     return removeFrom(FollowedBoxes(frame, type), indexes);
 }
 
-/// A box that the other list does not take stays in its own.
+/// A box that the other list rejects stays in its own list.
 EditCount switchSome(const FollowedFrame& frame, ContactBoxCode::BoxType type,
                      const QVector<int>& indexes)
 {
@@ -93,7 +93,7 @@ EditCount switchSome(const FollowedFrame& frame, ContactBoxCode::BoxType type,
     return count;
 }
 
-/// A column x of a picture that is flipped comes to -1 - x.
+/// Flipping a picture about its axis maps column x to -1 - x.
 EditCount mirrorSome(const FollowedFrame& frame, ContactBoxCode::BoxType type,
                      const QVector<int>& indexes)
 {

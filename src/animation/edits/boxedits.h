@@ -10,7 +10,7 @@
 
 namespace Zorv {
 
-/// The contact boxes of a frame as values, each kind in the order of the text.
+/// The contact boxes of a frame as values, each type in the order of the text.
 struct BoxRects
 {
     QVector<QRect> attack;
@@ -24,7 +24,7 @@ inline bool operator==(const BoxRects& a, const BoxRects& b)
     return a.attack == b.attack && a.collision == b.collision;
 }
 
-/// A box of a frame: its kind, `Attack` or `Collision`, and its place in that list.
+/// Identifies a box of a frame: its type, `Attack` or `Collision`, and its index in that list.
 struct BoxPlace
 {
     ContactBoxCode::BoxType type = ContactBoxCode::Attack;
@@ -42,48 +42,48 @@ ZORV_EXPORT BoxRects boxesOf(const FrameCode* frame);
 /// The places of all boxes of a frame.
 ZORV_EXPORT QVector<BoxPlace> placesOf(const FrameCode* frame);
 
-/// The places of those of `boxes` that are boxes of this frame.
+/// The places of those `boxes` that belong to this frame.
 ZORV_EXPORT QVector<BoxPlace> placesOf(const FrameCode* frame, const QList<ContactBoxCode*>& boxes);
 
-/// Has a frame have the boxes of another and no others. Boxes that are equal keep their lines, and
-/// as many others as can be: only their numbers change. No step of undo of its own.
+/// Gives the target exactly the boxes of the source. Keeps the lines of equal boxes, and reuses as
+/// many other lines as possible by changing their numbers. Makes no undo step of its own.
 ZORV_EXPORT void copyBoxes(const FrameCode* source, FrameCode* target);
 
-/// Something that does what `copyBoxes()` does.
+/// A function with the same effect as `copyBoxes()`.
 using BoxCopier = std::function<void(FrameCode* source, FrameCode* target)>;
 
 /// @name Edits
 ///
-/// One step of undo each. Boxes and frames are found again after each edit of a line. What is not
-/// there, any more or at all, counts for nothing.
+/// One undo step each. Boxes and frames are found again after each edit of a line. Boxes and frames
+/// that do not exist (any more) are ignored.
 /// @{
 
-/// Copies the boxes of a frame to others in place of those that they have.
+/// Replaces the boxes of the target frames by those of the source frame.
 ZORV_EXPORT void copyBoxes(Animations* animations, const FramePlace& source,
                            const QVector<FramePlace>& targets, const BoxCopier& copier = {});
 
-/// The same with all `instancesOf()` the frame.
+/// The same for all `instancesOf()` the frame.
 ZORV_EXPORT void copyBoxesToInstances(Animations* animations, const FramePlace& source,
                                       const BoxCopier& copier = {});
 
-/// How many boxes these frames have, to ask before they are replaced.
+/// The number of boxes in these frames, for a question before they are replaced.
 ZORV_EXPORT int countBoxes(const Animations* animations, const QVector<FramePlace>& places);
 
-/// Adds boxes to frames, behind those that they have.
+/// Appends boxes to the boxes of each frame.
 ZORV_EXPORT EditCount addBoxes(Animations* animations, const QVector<FramePlace>& places,
                                const BoxRects& boxes);
 
-/// Removes boxes of a frame, all boxes of a frame, or those of all frames of an animation.
+/// Removes some boxes of a frame, all boxes of a frame, or all boxes of an animation.
 ZORV_EXPORT EditCount removeBoxes(Animations* animations, const FramePlace& place,
                                   const QVector<BoxPlace>& boxes);
 ZORV_EXPORT EditCount removeAllBoxes(Animations* animations, const FramePlace& place);
 ZORV_EXPORT EditCount removeAllBoxes(Animations* animations, int animation);
 
-/// Makes boxes ones of the other kind, behind those that the frame has of it.
+/// Converts boxes to the other type, and appends them to that list.
 ZORV_EXPORT EditCount switchBoxTypes(Animations* animations, const FramePlace& place,
                                      const QVector<BoxPlace>& boxes);
 
-/// Mirrors boxes left to right about the axis, as the flip of a frame mirrors its picture.
+/// Mirrors boxes horizontally about the axis, as the flip of a frame mirrors its picture.
 ZORV_EXPORT EditCount mirrorBoxes(Animations* animations, const FramePlace& place,
                                   const QVector<BoxPlace>& boxes);
 /// @}

@@ -2,11 +2,11 @@
 
 namespace Zorv {
 
-/// What an edit of several frames or boxes came to.
+/// The result of an edit of several frames or boxes.
 struct EditCount
 {
     int changed = 0;
-    int refused = 0;  ///< values that the grammar does not take: these stay as they were
+    int refused = 0;  ///< values that the grammar rejects; they stay unchanged
 
     EditCount& operator+=(const EditCount& other)
     {

@@ -13,13 +13,13 @@ namespace Zorv {
 
 class AnimationCode;
 
-/// The titles of the steps of undo.
+/// The titles of undo steps.
 class EditText
 {
     Q_DECLARE_TR_FUNCTIONS(Zorv::AnimationEdits)
 };
 
-/// One step of undo, as long as it lives.
+/// Groups edits into one undo step while it exists.
 class EditStep
 {
 public:
@@ -31,14 +31,14 @@ private:
     Animations* m_animations;
 };
 
-/// A frame that is found again after every edit, by its line. Each edit moves every cursor of a
-/// document, so there should never be many of them.
+/// A frame that is found again after every edit, by its line. Keep few of these: each edit has to
+/// move every cursor of a document.
 class FollowedFrame
 {
 public:
     FollowedFrame(const CodeDocument* document, int line);
 
-    /// Null if the line has no frame any more.
+    /// Null if the line no longer has a frame.
     FrameCode* get() const;
 
 private:
@@ -46,18 +46,18 @@ private:
     QTextCursor m_line;
 };
 
-/// Null outside of the list.
+/// Null if out of range.
 AnimationCode* animationAt(const Animations* animations, int animation);
 
-/// Those of `frames` that are places among `count`, each once and in their order.
+/// The valid indexes below `count`, ascending, without duplicates.
 QVector<int> validPlaces(QVector<int> frames, int count);
 
-/// The lines of the frames at these places, each once and from the top down.
+/// The lines of the frames at these places, from top to bottom, without duplicates.
 QVector<int> linesOf(const Animations* animations, const QVector<FramePlace>& places);
 
-/// Calls `edit(FollowedFrame, i)` for the frames of these lines, from the top down: what has been
-/// edited stands above, so the lines below have moved by what the text has grown. Gives the sum of
-/// the results.
+/// Calls `edit(FollowedFrame, i)` for the frames on these lines, from top to bottom. Edits above
+/// move the lines below, so each line is shifted by the growth of the text so far. Returns the sum
+/// of the results.
 template <class Edit>
 EditCount editFrames(Animations* animations, const QVector<int>& lines, const Edit& edit)
 {

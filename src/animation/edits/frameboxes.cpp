@@ -63,7 +63,7 @@ void FollowedBoxes::setRects(const QVector<QRect>& rects) const
     while (first < qMin(presentEnd, end) && present.at(first) == rects.at(first)) {
         ++first;
     }
-    // New boxes go behind all others, so an end is kept only where none is missing.
+    // New boxes can only be appended, so equal boxes at the end help only if none is missing.
     while (rects.size() <= present.size() && end > first &&
            present.at(presentEnd - 1) == rects.at(end - 1)) {
         --presentEnd;

@@ -5,7 +5,7 @@
 
 namespace Zorv {
 
-/// One kind of box of a frame that is found again after each edit.
+/// The boxes of one type in a frame, which is found again after each edit.
 class FollowedBoxes
 {
 public:
@@ -20,7 +20,7 @@ public:
     EditCount remove(int index) const;
     EditCount add(const QRect& rect) const;
 
-    /// Has the list hold these, with as few edits as equal beginnings and ends allow.
+    /// Makes the list equal to these. Skips equal boxes at the start and the end to save edits.
     void setRects(const QVector<QRect>& rects) const;
 
 private:
@@ -30,7 +30,7 @@ private:
     ContactBoxCode::BoxType m_type;
 };
 
-/// The two kinds of boxes that editors use.
+/// The two box types that editors use.
 constexpr ContactBoxCode::BoxType EditedBoxTypes[] = {ContactBoxCode::Attack,
                                                       ContactBoxCode::Collision};
 

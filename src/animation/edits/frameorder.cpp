@@ -1,8 +1,8 @@
 #include "animation/edits/frameorder.h"
 
-// Frames are moved as whole lines: from behind the frame in front to their own. Where each frame
-// stands is read before the first edit. Edits go from the bottom up, so that the lines above stay
-// where they were.
+// Frames are moved as whole lines: everything from the end of the frame before to their own line.
+// All line numbers are read before the first edit. Edits then go from the bottom up, so that the
+// numbers of the lines above stay valid.
 
 #include "animation/edits/followedframe_p.h"
 
@@ -16,7 +16,7 @@ namespace Zorv {
 
 namespace {
 
-/// The lines of a frame with those in front of it, last one included.
+/// The lines of a frame including those above it that belong to it; both ends are included.
 struct Lines
 {
     int first;
@@ -32,7 +32,7 @@ public:
     int count() const { return m_lines.size(); }
     const Lines& at(int frame) const { return m_lines.at(frame); }
 
-    /// The line in front of which a frame goes that is to stand in front of frame `to`.
+    /// The line before which a frame must be inserted to come before frame `to`.
     int placeOf(int to) const { return to < count() ? at(to).first : m_end; }
 
     QString text(int frame) const;
@@ -41,7 +41,7 @@ public:
 private:
     CodeDocument* m_document = nullptr;
     QVector<Lines> m_lines;
-    int m_end = 0;  // the line behind the last frame
+    int m_end = 0;  // the line after the last frame
 };
 
 FrameLines::FrameLines(const Animations* animations, int animation)
@@ -79,7 +79,7 @@ QString FrameLines::text(const QVector<int>& frames) const
     return texts.join(QLatin1Char('\n'));
 }
 
-/// Frames that stand side by side go in one edit.
+/// Removes a run of adjacent frames in one edit.
 void removeRuns(CodeDocument* document, const FrameLines& lines, const QVector<int>& frames)
 {
     for (int end = frames.size(); end > 0;) {

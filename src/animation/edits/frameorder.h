@@ -5,27 +5,27 @@
 
 namespace Zorv {
 
-/// Edits of the order of frames, one step of undo each.
+/// Edits of the order of frames, one undo step each.
 ///
-/// The lines in front of a frame, with its contact boxes and comments, go wherever it goes. Frames
-/// are told by their places in one animation, in any order; those outside of it and repeated ones
-/// count for nothing. What each gives is the place at which the first of its frames stands
-/// afterwards; -1, and no edit, if there was nothing to do.
+/// The lines above a frame, with its contact boxes and comments, move along with it. Frames are
+/// given as indexes in one animation, in any order; invalid and repeated ones are ignored. The
+/// functions return the new index of the first of these frames; -1, without an edit, if there was
+/// nothing to do.
 
-/// Moves frames together to where the frame `to` stands now, in front of it; behind the last one
-/// for the count of frames. They keep their order.
+/// Moves frames together to before the frame that is at index `to` now; the frame count as `to`
+/// means the end. They keep their order.
 ZORV_EXPORT int moveFrames(Animations* animations, int animation, const QVector<int>& frames,
                            int to);
 
-/// Turns the order of frames around, each at the place of another.
+/// Reverses the order of these frames. They swap places among themselves; others stay.
 ZORV_EXPORT int reverseFrames(Animations* animations, int animation, const QVector<int>& frames);
 
-/// Takes frames out of their animation. Gives the place of the frame that stands there now, or of
-/// the last one; -1 if none is left.
+/// Removes frames. Returns the index of the frame that is now in their place, or of the last one;
+/// -1 if none is left.
 ZORV_EXPORT int removeFrames(Animations* animations, int animation, const QVector<int>& frames);
 
-/// Puts new frames in front of the frame `to`, by the grammar's template for the one before it:
-/// as many as there are sprites, one with each.
+/// Inserts new frames before the frame `to`, one per sprite. They follow the grammar's template for
+/// a frame after the preceding one.
 ZORV_EXPORT int insertFrames(Animations* animations, int animation, int to,
                              const QVector<SpriteNumber>& sprites);
 

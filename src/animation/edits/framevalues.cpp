@@ -11,7 +11,7 @@ namespace Zorv {
 
 namespace {
 
-/// Writes a value that a frame does not have yet, and looks whether it has it then.
+/// Writes a value if it differs, and checks whether the frame accepted it.
 template <class Value, class Set>
 EditCount write(const FollowedFrame& frame, Value (FrameCode::*read)() const, Set set,
                 const Value& value)

@@ -5,23 +5,23 @@
 
 namespace Zorv {
 
-/// What a frame can hand on to others.
+/// A property of a frame that can be copied to other frames.
 enum class FrameValue { Offset, Time, Flip, Scale };
 
-/// Gives a value of a frame to all frames behind it in its animation, as one step of undo. Those
-/// in front of it stay as they are; nothing if there is no such frame.
+/// Copies a value of a frame to all later frames of its animation, as one undo step. Does nothing
+/// if there is no such frame.
 ZORV_EXPORT EditCount copyToNextFrames(Animations* animations, const FramePlace& place,
                                        FrameValue value);
 
-/// How long a frame is to stand.
+/// The duration of a frame.
 struct FrameTime
 {
     int frame;
-    int ticks;  ///< negative for ever
+    int ticks;  ///< negative: forever
 };
 
-/// Gives frames of an animation their times, as one step of undo. Of several times for a frame
-/// the last one counts, places outside of the animation count for nothing.
+/// Sets the durations of frames of an animation, as one undo step. If a frame occurs several times,
+/// the last entry wins. Ignores invalid indexes.
 ZORV_EXPORT EditCount setTimes(Animations* animations, int animation,
                                const QVector<FrameTime>& times);
 

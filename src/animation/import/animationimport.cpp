@@ -10,9 +10,9 @@
 
 #include <algorithm>
 
-// All places and texts are worked out in front of the first edit, for nodes die at any. The edits
-// go through cursors, from the end of the text to its start: so no edit moves the place of another,
-// and every line is parsed once, when the change ends.
+// All positions and texts are computed before the first edit, because any edit can destroy nodes.
+// The edits use cursors and go from the end of the text to its start. So no edit moves the position
+// of another one, and each line is parsed once, when the change ends.
 
 namespace Zorv {
 
@@ -53,7 +53,7 @@ bool isBlank(const QTextBlock& line)
     return line.text().trimmed().isEmpty();
 }
 
-/// New lines at the end of a text, with an empty line above.
+/// Appends lines at the end of a text, after an empty line.
 TextEdit atEnd(const CodeDocument* document, const QString& code)
 {
     const QTextBlock last = document->lastBlock();
@@ -64,7 +64,7 @@ TextEdit atEnd(const CodeDocument* document, const QString& code)
     return {end, end, QString(breaks, QLatin1Char('\n')) + code + QLatin1Char('\n')};
 }
 
-/// New lines behind those of an animation, with an empty line above and below.
+/// Inserts lines after those of an animation, with an empty line above and below.
 TextEdit behindLines(const CodeDocument* document, const QTextCursor& lines, const QString& code)
 {
     const int end = lines.selectionEnd();

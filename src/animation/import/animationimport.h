@@ -12,22 +12,22 @@
 
 namespace Zorv {
 
-/// What an import did, by the identifiers of the destination.
+/// What an import did, as identifiers in the destination.
 struct AnimationImportResult
 {
     QStringList added;
     QStringList replaced;
     QStringList skipped;
-    QStringList refused;  ///< gone from their list, or an identifier that cannot name an animation
+    QStringList refused;  ///< removed from their list meanwhile, or not a valid name
 
     int count() const { return added.size() + replaced.size(); }
 };
 
-/// Takes animations of other texts over into a list of animations.
+/// Copies animations of other texts into a list of animations.
 ///
-/// Entries are taken one by one: of two with the same identifier the second one meets the first
-/// as it would meet one that was there before. The source is not changed. The grammar says what
-/// belongs to an animation and how it is called otherwise (`Animations::codeFor()`).
+/// Entries are processed one by one: the second of two with the same identifier conflicts with the
+/// first, as with one that was there before. The source is not changed. The grammar defines what
+/// belongs to an animation and how to rename it (`Animations::codeFor()`).
 ///
 ///     AnimationImport import(animations, entries, ImportConflict::Skip);
 ///     const AssetResult assets = bringAssets(import.sprites());
@@ -37,21 +37,21 @@ struct AnimationImportResult
 class ZORV_EXPORT AnimationImport
 {
 public:
-    /// Plans; nothing is changed. `destination` must not be the list of an entry.
+    /// Plans the import without changing anything. No entry may come from `destination`.
     AnimationImport(Animations* destination, const QVector<ImportEntry>& entries,
                     ImportConflict conflicts);
 
-    /// What `insert()` will do, as far as it is known.
+    /// What `insert()` will do, as far as known in advance.
     const AnimationImportResult& planned() const { return m_result; }
 
-    /// The sprites that the frames of the animations that will come show, each once, in the order
-    /// of the frames.
+    /// The sprites used by the animations to import, without duplicates, in the order of the
+    /// frames.
     QVector<SpriteNumber> sprites() const;
 
-    /// Writes the animations, as one step of undo. New ones stand behind the lines of the one at
-    /// `behind`, or at the end of the text for a place outside of the list; those that replace one
-    /// stand in its place. A frame whose sprite is a key of `sprites` shows its value.
-    /// Nothing comes if the destination has gone meanwhile.
+    /// Writes the animations as one undo step. New ones are inserted after the animation with the
+    /// index `behind`, or at the end of the text if that is out of range; replacements go to the
+    /// place of the old animation. `sprites` maps old sprite numbers of frames to new ones. Does
+    /// nothing if the destination was destroyed meanwhile.
     AnimationImportResult insert(int behind, const QString& title,
                                  const QHash<SpriteNumber, SpriteNumber>& sprites);
 
@@ -60,7 +60,7 @@ private:
     {
         ImportEntry entry;
         bool isNew = true;
-        QPersistentModelIndex replaced;  ///< of the destination, for one that is not new
+        QPersistentModelIndex replaced;  ///< in the destination; invalid for a new one
     };
     void plan(const QVector<ImportEntry>& entries, ImportConflict conflicts);
     void refuse(const QString& identifier);

@@ -17,7 +17,7 @@ using Zorv::FrameCode;
 
 namespace {
 
-constexpr int MostBroken = 16;     // sprites that are tried
+constexpr int MostBroken = 16;     // loading stops after so many failures
 constexpr unsigned AllKinds = 32;  // bits of a `FileID`
 
 const AnimationCode* animationOf(const QModelIndex& index)

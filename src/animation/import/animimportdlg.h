@@ -8,18 +8,19 @@ namespace Zorv {
 class Animations;
 }
 
-/// Chooses animations of another open project for a list of animations, as `ImportDlg` does: each
-/// has a picture, of the first frame with a sprite. The sprites that they show can come along.
+/// Chooses animations of another open project to import into a list. Based on `ImportDlg`. Each
+/// animation is shown with the picture of its first frame that has a sprite. Sprites can be
+/// imported along.
 class ZORV_EXPORT AnimImportDlg : public ImportDlg
 {
     Q_OBJECT
 
 public:
-    /// All animations of all files of code of a project are offered.
+    /// Offers all animations in all code files of a project.
     AnimImportDlg(Zorv::Interface* host, Zorv::Animations* destination);
     ~AnimImportDlg() override;
 
-    /// Whether sprites and palettes come along.
+    /// Whether to import sprites and palettes too.
     bool bringsSprites() const;
 
 protected:

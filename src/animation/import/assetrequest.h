@@ -10,34 +10,35 @@ namespace Zorv {
 
 class Project;
 
-/// Sprites that animations of another project bring along: what an import asks of its host.
+/// The sprites that an import of animations needs from another project: a request to the host.
 struct AssetRequest
 {
     const Project* source = nullptr;
     Project* destination = nullptr;
 
-    /// The sprites that the animations show, each once, in the order of the frames.
+    /// The sprites used by the animations, without duplicates, in the order of the frames.
     QVector<SpriteNumber> sprites;
 
-    /// Whether the others come if some are broken; else nothing is done then.
+    /// If some sprites are broken: true imports the others, false imports nothing.
     bool leavesBroken = false;
 };
 
-/// What came of an `AssetRequest`.
+/// The result of an `AssetRequest`.
 struct AssetResult
 {
-    /// Why nothing was done, for the person; empty if it was.
+    /// Why nothing was done, for display to the user; empty on success.
     QString error;
 
-    /// The sprites that have another number in the destination than in the source.
+    /// Sprites whose number in the destination differs from the source.
     QHash<SpriteNumber, SpriteNumber> renumbered;
 
-    int added = 0;     ///< sprites that are new in the destination
-    int shared = 0;    ///< sprites that it had already: the same picture, colours and axis
-    int palettes = 0;  ///< palettes that came with them
+    int added = 0;     ///< sprites new in the destination
+    int shared = 0;    ///< sprites already there: same picture, colours and axis
+    int palettes = 0;  ///< palettes imported with them
 
-    /// What the source does not have, or only broken. It does not come, and frames name it as
-    /// before. If some are broken and the others must not come alone, there is an `error`, too.
+    /// Sprites that the source does not have, or only broken. They are not imported, and frames
+    /// keep their old numbers. If some are broken and the others must not come alone, `error` is
+    /// set as well.
     QVector<SpriteNumber> missing;
     QVector<SpriteNumber> broken;
 };

@@ -21,7 +21,7 @@ QColor textColor(const QStyleOptionViewItem& option)
     return option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
 }
 
-/// Red that can be read on the ground of the list.
+/// A red that is readable on the background of the list.
 QColor faultColor(const QStyleOptionViewItem& option)
 {
     if (option.state & QStyle::State_Selected) {

@@ -7,8 +7,7 @@ namespace Zorv {
 class SpriteList;
 class Thumbnails;
 
-/// Draws a sprite of a list: a picture above a name, and a ring in the corner of one that no frame
-/// shows.
+/// Draws a sprite of a list: a picture above a name. A ring in the corner marks an unused sprite.
 class SpriteDelegate final : public QStyledItemDelegate
 {
 public:

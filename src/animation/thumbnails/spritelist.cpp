@@ -41,7 +41,7 @@ public:
     Thumbnails thumbnails;
 };
 
-/// Any change can move rows or give them other colours.
+/// Any change can move rows or change their colours, so all pictures are dropped.
 void SpriteListPrivate::follow()
 {
     const auto forget = [this] { forgetPictures(); };
@@ -191,7 +191,7 @@ void SpriteList::startDrag(Qt::DropActions)
     if (numbers.isEmpty()) {
         return;
     }
-    // The list may be gone when the drag ends.
+    // The list may be destroyed during the drag, so nothing here uses it after `exec()`.
     auto* drag = new QDrag(this);
     drag->setMimeData(spriteDrag(numbers));
     const QPixmap* picture = d->thumbnails.picture(currentIndex().row());

@@ -12,10 +12,10 @@ class SpriteListPrivate;
 class SpriteUses;
 class Sprites;
 
-/// The sprites of a collection as a grid of small pictures with their names.
+/// The sprites of a collection as a grid of thumbnails with names.
 ///
-/// Only what is in sight is decoded; a sprite that is broken shows "!". The selected sprites can be
-/// dragged, as `draggedSprites()` reads them. Main thread only.
+/// Decodes only visible sprites; a broken sprite shows "!". Selected sprites can be dragged; see
+/// `draggedSprites()`. Main thread only.
 class ZORV_EXPORT SpriteList : public RowList
 {
     Q_OBJECT
@@ -24,21 +24,21 @@ public:
     explicit SpriteList(QWidget* parent = nullptr);
     ~SpriteList() override;
 
-    /// Null for none. A collection that dies is let go of.
+    /// Null for none. Releases a collection that is destroyed.
     void setSprites(Sprites* sprites);
     Sprites* sprites() const;
 
-    /// Marks the sprites that no frame shows; null for no marks. Not owned, and may die.
+    /// Marks sprites that no frame uses; null for no marks. Not owned; may be destroyed.
     void setUses(SpriteUses* uses);
 
-    /// Shows the pictures as somebody else sees them.
+    /// Simulates how another person sees the colours.
     void setColorSight(const ColorSight& sight);
 
-    /// True for a row that has the mark.
+    /// True if the sprite of this row is marked as unused.
     bool isMarked(int row) const;
 
-    /// The numbers of the selected sprites, or of all, in the order of their rows. Sprites without
-    /// a number are left out.
+    /// The numbers of the selected sprites, or of all sprites, in the order of the rows. Leaves out
+    /// sprites without a number.
     QVector<SpriteNumber> selectedSprites() const;
     QVector<SpriteNumber> allSprites() const;
 
@@ -47,7 +47,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
 
-    /// Tool tips tell what the marks mean.
+    /// Shows tool tips that explain the marks.
     bool viewportEvent(QEvent* event) override;
 
 private:

@@ -11,9 +11,9 @@
 #include <algorithm>
 #include <utility>
 
-// Each line keeps the sprite that it showed when it was parsed last. A document tells after each
-// edit which lines it has parsed again: their old sprites are taken off the count, and the new ones
-// added to it. Lines in front of these and behind them show what they did.
+// Each line remembers the sprite that it showed when it was last parsed. After each edit the
+// document reports which lines it has parsed again. Their old sprites are subtracted from the count
+// and their new ones are added. The lines above and below cannot have changed.
 
 namespace Zorv {
 
@@ -24,7 +24,7 @@ public:
     struct Text
     {
         QPointer<CodeDocument> document;
-        QVector<SpriteNumber> lines;  ///< what each line shows
+        QVector<SpriteNumber> lines;  ///< the sprite of each line
     };
 
     void countAll();
@@ -38,7 +38,7 @@ public:
     QVector<Text> texts;
     bool isCounted = false;
     QHash<SpriteNumber, int> counts;
-    bool hasChanged = false;  ///< since `changed()` was told
+    bool hasChanged = false;  ///< since the last `changed()`
 };
 
 namespace {
@@ -81,7 +81,7 @@ void SpriteUsesPrivate::add(SpriteNumber sprite, int number)
     }
 }
 
-/// Adds what the lines show now, which have room among `lines`.
+/// Counts these lines; `lines` already has space for them.
 void SpriteUsesPrivate::count(Text* text, int first, int last)
 {
     QTextBlock line = text->document->findBlockByNumber(first);
@@ -98,7 +98,7 @@ void SpriteUsesPrivate::uncount(const QVector<SpriteNumber>& lines)
     }
 }
 
-/// The lines have been parsed again. Lines that came or went did so among them.
+/// The lines were parsed again. All inserted or removed lines are among them.
 void SpriteUsesPrivate::recount(Text* text, int first, int last)
 {
     const int more = text->document->blockCount() - text->lines.size();
@@ -109,7 +109,7 @@ void SpriteUsesPrivate::recount(Text* text, int first, int last)
         uncount(before);
         return;
     }
-    // Added first: a sprite that is shown before and after has not gone between.
+    // Add before subtracting: a sprite used before and after must not reach zero in between.
     const QVector<SpriteNumber> before = text->lines.mid(first, lastBefore + 1 - first);
     if (more > 0) {
         text->lines.insert(first, more, SpriteNumber());
@@ -136,7 +136,7 @@ void SpriteUsesPrivate::countAll()
     hasChanged = false;
 }
 
-/// That of a document which is counted in.
+/// The entry of a document that is being counted.
 SpriteUsesPrivate::Text* SpriteUsesPrivate::textOf(const CodeDocument* document)
 {
     return &*std::find_if(texts.begin(), texts.end(),

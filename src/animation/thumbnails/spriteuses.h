@@ -13,11 +13,11 @@ namespace Zorv {
 class Animations;
 class SpriteUsesPrivate;
 
-/// How many frames of some lists of animations, those of a project say, show each sprite.
+/// Counts how many frames use each sprite, for example in all animation lists of a project.
 ///
-/// The count is kept up while the text is edited: an edit costs what the lines cost that are parsed
-/// again for it, however many frames there are. Nothing is counted before somebody asks. Main
-/// thread only.
+/// The count follows edits of the text. An edit costs time only for the lines that are parsed
+/// again, no matter how many frames there are. Counting starts with the first query. Main thread
+/// only.
 class ZORV_EXPORT SpriteUses : public QObject
 {
     Q_OBJECT
@@ -26,19 +26,19 @@ public:
     explicit SpriteUses(QObject* parent = nullptr);
     ~SpriteUses() override;
 
-    /// Counts in other lists, each of another document. They are not owned, and may die: their
-    /// frames do not count any more then.
+    /// Replaces the lists to count, each of another document. They are not owned. If one is
+    /// destroyed, its frames no longer count.
     void setAnimations(const QVector<Animations*>& lists);
 
-    /// True if there is a list to count in.
+    /// True if there is a list to count.
     bool hasAnimations() const;
 
-    /// The number of frames that show a sprite. Frames that stand below no animation do not count.
+    /// The number of frames that use a sprite. Frames outside of animations do not count.
     int count(SpriteNumber sprite) const;
 
 signals:
-    /// A sprite has come into use, or is not in use any more. Comes in the middle of a parse: the
-    /// text must not be edited here.
+    /// A sprite became used or unused. Emitted in the middle of a parse: a slot must not edit the
+    /// text.
     void changed();
 
 private:

@@ -18,9 +18,9 @@ namespace Zorv {
 namespace {
 
 constexpr int KeptPictures = 4000;
-constexpr int Slice = 5;  // milliseconds between two events of the person
+constexpr int Slice = 5;  // milliseconds of work before events are handled again
 
-/// Crisp where it is enlarged, smooth where it is not.
+/// Scales up without smoothing to keep pixels crisp, and down with smoothing.
 QImage fitted(const QImage& image, int side)
 {
     const int longest = std::max(image.width(), image.height());

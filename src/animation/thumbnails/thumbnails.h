@@ -14,40 +14,40 @@ namespace Zorv {
 class Sprites;
 class ThumbnailsPrivate;
 
-/// Small pictures of the sprites of a list, by row.
+/// Thumbnails of the sprites of a list, by row, with a cache of limited size.
 ///
-/// A sprite is decoded when somebody has asked for its picture: a few milliseconds at a time,
-/// between two events of the person, those first that were asked for since the last `startPage()`.
-/// Some thousands of pictures are kept. Main thread only.
+/// A sprite is decoded when its picture is first requested: a few milliseconds at a time, between
+/// two user events. Requests since the last `startPage()` come first. The cache keeps some
+/// thousands of pictures. Main thread only.
 class ZORV_EXPORT Thumbnails : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Pictures of `side` by `side` pixels at most. What is larger is made smaller smoothly, what
-    /// is smaller is enlarged by a whole number.
+    /// Pictures have at most `side` by `side` pixels. Larger images are scaled down smoothly,
+    /// smaller ones are enlarged by a whole factor.
     explicit Thumbnails(int side, QObject* parent = nullptr);
     ~Thumbnails() override;
 
-    /// Forgets the pictures of the list before. Null for none. The list is not owned, and may die;
-    /// its changes are for the caller to follow, with `forgetAll()`.
+    /// Sets the list and drops all pictures. Null for none. The list is not owned and may be
+    /// destroyed. The caller must watch its changes and call `forgetAll()`.
     void setSprites(Sprites* sprites);
 
-    /// The picture of a row: a null pointer until it is made, a null picture if the sprite is
-    /// broken. Good until the next call of any operation.
+    /// The picture of a row: a null pointer until it is made, a null picture for a broken sprite.
+    /// Valid until the next call of any function.
     const QPixmap* picture(int row);
 
-    /// What was asked for before is no longer in sight.
+    /// Earlier requests are no longer visible and lose their priority.
     void startPage();
 
     void forgetAll();
 
-    /// Makes pictures as somebody else sees them; forgets those that are made.
+    /// Simulates how another person sees the colours; drops all pictures.
     void setColorSight(const ColorSight& sight);
     int side() const;
 
 signals:
-    /// Pictures have been made.
+    /// New pictures are available.
     void made();
 
 private:

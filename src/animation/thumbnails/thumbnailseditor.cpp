@@ -35,15 +35,15 @@ const EditorTool tools[] = {
     {"thumb_save", ToolKind::Action, 171, SIGNAL(saveEnabled(bool)), SLOT(saveSelected())},
 };
 
-/// In the order of the tools.
+/// In the order of `tools`.
 void (ThumbnailsEditor::*const enableSignals[])(bool) = {
     &ThumbnailsEditor::addEnabled, &ThumbnailsEditor::addAllEnabled, &ThumbnailsEditor::newEnabled,
     &ThumbnailsEditor::newAllEnabled, &ThumbnailsEditor::saveEnabled};
 
-/// Which tools are of use, in their order.
+/// Which tools are enabled, in the order of `tools`.
 using ToolStates = std::array<bool, std::size(tools)>;
 
-/// A list of animations is a file of its own, or a view on one.
+/// A list of animations is a project file itself or a view of one.
 QVector<Animations*> animationsOf(const Project* project)
 {
     QVector<Animations*> lists;

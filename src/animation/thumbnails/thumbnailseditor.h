@@ -11,12 +11,13 @@ class Project;
 class SpriteList;
 class ThumbnailsEditorPrivate;
 
-/// The side panel with the sprites of a project as pictures, from which animations are made.
+/// The side panel that shows the sprites of a project as thumbnails and creates animations from
+/// them.
 ///
-/// It publishes the list as "thumb_list", for all areas, and the actions of the slots below, for
-/// the area "anim". Sprites that no frame of the project shows have a mark. Selected ones can be
-/// dragged onto the strip of an animation, and Return adds them to the animation that is shown.
-/// Main thread only.
+/// It publishes the list as "thumb_list" for all areas, and the actions of the slots below for the
+/// area "anim". Sprites that no frame of the project uses are marked. Selected sprites can be
+/// dragged onto the strip of an animation; Return adds them to the shown animation. Main thread
+/// only.
 class ZORV_EXPORT ThumbnailsEditor : public ExtraEditor
 {
     Q_OBJECT
@@ -31,42 +32,43 @@ public:
     QString displayName() const override;
     void retranslate() override;
 
-    /// Shows the selected sprite file of a project; null for none. To be told again when files of
-    /// the project come or go; a second time with the same files costs next to nothing. The project
-    /// is not owned, and its files may die.
+    /// Shows the selected sprite file of a project; null for none. Call it again when files of the
+    /// project are added or removed; with the same files it costs next to nothing. The project is
+    /// not owned, and its files may be destroyed.
     void setProject(Project* project);
 
-    /// Where sprites are added to; null for nowhere. Not owned, and may die.
+    /// The editor that receives sprites; null for none. Not owned; may be destroyed.
     void setAnimationEditor(AnimationEditor* editor);
 
-    /// The list of pictures; null if it has gone with the host's window.
+    /// The list of pictures; null if it was destroyed with the host's window.
     SpriteList* list() const;
 
 public slots:
-    /// Add frames with the selected sprites, or all, behind the frame that is shown, in the order
-    /// of the list. One step of undo.
+    /// Add frames with the selected sprites, or with all, after the shown frame, in the order of
+    /// the list. One undo step.
     void addSelected();
     void addAll();
 
-    /// Ask for a new animation, as the editor's own tool does, which gets a frame for each of these
-    /// sprites. One step of undo.
+    /// Ask for a new animation, like the editor's own tool. It gets one frame per sprite. One undo
+    /// step.
     void newWithSelected();
     void newWithAll();
 
-    /// Writes the selected sprites as image files: one where the person says, several into a
-    /// folder, as "GROUP-NUMBER.png". A file that cannot be written stays as it was, and is told.
+    /// Saves the selected sprites as image files: one sprite to a file chosen by the user, several
+    /// into a folder as "GROUP-NUMBER.png". A file that cannot be written stays unchanged and is
+    /// reported.
     void saveSelected();
 
 signals:
-    /// Actions are of use: there is a selection; and an animation is shown, for the selection and
-    /// for all; and there are animations at all, likewise.
+    /// Enable actions. Save: there is a selection. Add, for the selection and for all: an animation
+    /// is shown as well. New, likewise: there is a list of animations.
     void saveEnabled(bool isEnabled);
     void addEnabled(bool isEnabled);
     void addAllEnabled(bool isEnabled);
     void newEnabled(bool isEnabled);
     void newAllEnabled(bool isEnabled);
 
-    /// A double click on a sprite, or Return, where it cannot be added to an animation.
+    /// A sprite was double-clicked, or Return was pressed, and it cannot be added to an animation.
     void spriteActivated(int row);
 
 private:

@@ -14,11 +14,11 @@ namespace Zorv {
 
 namespace {
 
-// An edge is caught in front of it, also in the cell of the present tick; half of a cell of one
-// tick stays for the cell itself, or for the bar of that tick.
+// An edge is grabbed within these pixels before it, even in the cell under the cursor bar. Half of
+// a one-tick cell remains for the cell itself, or for the bar.
 constexpr int EdgeReach = 3;
 
-/// The ticks that a cell has on the strip, where an endless one is as wide as one tick.
+/// The width of a cell in ticks. An endless cell is drawn one tick wide.
 qint64 drawnLength(int length)
 {
     return length < 0 ? 1 : length;
@@ -125,7 +125,7 @@ CellEditing::Hit CellEditing::hitTest(const QPoint& place) const
     return body >= 0 ? Hit{Body, body} : Hit{};
 }
 
-/// The lower half, with the lines of the ticks, sets the tick and nothing else.
+/// The lower half, with the tick marks, only sets the tick.
 CellEditing::Hit CellEditing::hitScale(const QPoint& place) const
 {
     if (place.y() >= TimeLinePrivate::HeaderHeight / 2) {
@@ -164,7 +164,7 @@ int CellEditing::edgeAt(int x) const
     return x >= m_strip->placeOf(cell.firstTick + length) - EdgeReach ? index : -1;
 }
 
-/// The half of a cell tells whether it is in front of it or behind.
+/// The left half of a cell means before it, the right half after it.
 int CellEditing::gapAt(int x) const
 {
     const int index = bodyAt(x);
@@ -196,8 +196,8 @@ Qt::CursorShape CellEditing::shape(const QPoint& place) const
     return Qt::ArrowCursor;
 }
 
-/// The cells with these lengths, each longer by `change`; none becomes shorter than a tick, and
-/// those that are endless or not shown stay as they are.
+/// The cells' lengths, each changed by `change`. No length drops below one tick; endless and hidden
+/// cells stay unchanged.
 QVector<int> CellEditing::changedLengths(int change) const
 {
     QVector<int> lengths = m_lengths;
@@ -220,7 +220,7 @@ void CellEditing::takeLengths(const QVector<int>& cells)
     }
 }
 
-/// Writes lengths of the cells whose lengths were taken, where they are others.
+/// Writes only those lengths that differ from the recorded ones.
 void CellEditing::giveLengths(const QVector<int>& lengths)
 {
     QVector<int> others;
@@ -236,7 +236,7 @@ void CellEditing::giveLengths(const QVector<int>& lengths)
     }
 }
 
-/// Puts the cells that are acted on in front of another one, and keeps them selected.
+/// Moves the affected cells before another one and keeps them selected.
 void CellEditing::moveTo(int target)
 {
     const QVector<int> moved = acted();

@@ -22,13 +22,12 @@ namespace Zorv {
 class TimeLinePrivate;
 struct CellAction;
 
-/// What a person does to the cells of a strip: those of the first row that has any.
+/// Mouse and keyboard editing of the cells of a strip: of the first row that has cells.
 ///
-/// A press of the mouse becomes one act: a drag of an edge, of cells, of the range to loop, or a
-/// click. Until the release there is only the mark of what is to come; the row hears of it once. A
-/// drag of which the cells have changed meanwhile is given up. Events that the cells have no use
-/// for are left to the strip. Whatever tells a row or a signal of something may return to a strip
-/// that is gone.
+/// A mouse press becomes one action: dragging an edge, dragging cells, marking the loop range, or a
+/// click. Until the release only a preview is drawn; then the row is changed once. A drag is
+/// cancelled if its cells change meanwhile. Events that do not concern cells are left to the strip.
+/// Each call to the row and each signal may destroy the strip, so check before using it afterwards.
 class CellEditing
 {
 public:
@@ -37,7 +36,7 @@ public:
     /// Null without such a row.
     TimeLineCells* cells() const;
 
-    /// Without cells that have gone.
+    /// Without cells that no longer exist.
     CellSelection& selection();
     void select(const QVector<int>& cells);
 
@@ -45,7 +44,7 @@ public:
     void setRange(const std::optional<TickRange>& range);
 
     /// @name Events of the strip
-    /// True if nobody else is to take them.
+    /// True if the event is used up.
     /// @{
     bool press(const QMouseEvent* event);
     bool move(const QMouseEvent* event);
@@ -58,23 +57,23 @@ public:
     /// @}
 
     /// @name The actions of the strip
-    /// After other rows, in another language, and where others of them can be used.
+    /// Call after the rows, the language or the state have changed, respectively.
     /// @{
     void offerActions();
     void nameActions();
     void updateActions();
     /// @}
 
-    /// Gives up the drag that goes on.
+    /// Cancels the current drag.
     void cancel();
 
-    /// What a press at a place would do.
+    /// The cursor shape for what a press at this position would do.
     Qt::CursorShape shape(const QPoint& place) const;
 
     void paint(QPainter& painter) const;
 
-    /// @name What keys and the menu do
-    /// To the selected cells; without any to the one at the present tick.
+    /// @name Commands of keys and menu
+    /// For the selected cells, or for the cell at the current tick if none is selected.
     /// @{
     void lengthen();
     void shorten();
@@ -97,7 +96,7 @@ private:
     enum Part { Elsewhere, Cursor, Body, Edge, Scale, RangeStart, RangeEnd };
     enum Act { NoAct, Pressed, Resizing, Moving, Ranging, Dropping };
 
-    /// What lies below a place.
+    /// What is at a position.
     struct Hit
     {
         Part part = Elsewhere;
@@ -148,20 +147,20 @@ private:
     std::optional<TickRange> m_range;
 
     Act m_act = NoAct;
-    QPoint m_pressed;  // where
-    Hit m_hit;         // what
+    QPoint m_pressed;  // position
+    Hit m_hit;         // what was pressed
     Qt::KeyboardModifiers m_modifiers;
-    QPoint m_place;           // of the mouse now
-    unsigned int m_tick = 0;  // from which the range is drawn
-    int m_count = 0;          // of cells, as the drag began
-    QVector<int> m_dragged;   // cells that get another length
-    QVector<int> m_lengths;   // theirs
-    int m_before = 1;         // how many of these move the edge that is dragged
-    qint64 m_edge = 0;        // the tick behind the dragged cell
-    int m_change = 0;         // of their lengths
-    int m_gap = -1;           // in front of which cells are to be put
+    QPoint m_place;           // current mouse position
+    unsigned int m_tick = 0;  // where marking the range started
+    int m_count = 0;          // of cells, when the drag began
+    QVector<int> m_dragged;   // cells whose length changes
+    QVector<int> m_lengths;   // their original lengths
+    int m_before = 1;         // how many cells up to the dragged edge grow with it
+    qint64 m_edge = 0;        // the tick after the dragged cell
+    int m_change = 0;         // of each length
+    int m_gap = -1;           // where cells will be inserted
     QTimer m_scrolling;
-    QVector<QAction*> m_actions;  // those of the table that have a text
+    QVector<QAction*> m_actions;  // the menu actions
 };
 
 }  // namespace Zorv

@@ -1,6 +1,6 @@
-// The keys of a strip with cells, and the actions for its menu, which tell them. They have no
-// shortcuts, which would clash with those of a window: the strip takes its keys before these are
-// looked for.
+// The keys of a strip with cells, and the menu actions that display these keys. The actions have no
+// shortcuts, which would clash with those of the window. Instead the strip handles its keys before
+// shortcuts are looked up.
 
 #include "animation/timeline/cellediting_p.h"
 #include "animation/timeline/timelinewidget.h"
@@ -19,7 +19,7 @@ namespace Zorv {
 
 namespace {
 
-// What an endless cell gets: how long it was before is not known.
+// For an endless cell that becomes finite: its earlier length is not known.
 constexpr int UsualLength = 10;
 
 enum Need { Cells, Editing, Range };
@@ -28,7 +28,7 @@ enum Need { Cells, Editing, Range };
 
 struct CellAction
 {
-    const char* text;  // null: in no menu
+    const char* text;  // null: not in the menu
     int key;
     Qt::KeyboardModifiers modifiers;
     void (CellEditing::*act)();
@@ -102,7 +102,7 @@ bool CellEditing::allows(int need) const
                            : cells() && (need == Cells || m_range);
 }
 
-/// Escape goes to the window while there is nothing to leave.
+/// Escape goes to the window if there is nothing to cancel.
 bool CellEditing::handles(const QKeyEvent* event) const
 {
     const CellAction* action = actionOf(event);
@@ -126,7 +126,7 @@ void CellEditing::run(const CellAction& action)
     }
 }
 
-/// With cells the strip has the actions, as a menu at the pointer.
+/// Only a strip with cells has actions, as its context menu.
 void CellEditing::offerActions()
 {
     TimeLineWidget* widget = m_strip->owner;
@@ -185,7 +185,7 @@ void CellEditing::changeLengths(int change)
     takeLengths(acted());
     QVector<int> lengths = changedLengths(change);
     if (change > 0) {
-        // One that is not shown comes onto the strip.
+        // A hidden cell gets a length and appears on the strip.
         std::replace(lengths.begin(), lengths.end(), 0, change);
     }
     giveLengths(lengths);
@@ -230,7 +230,7 @@ void CellEditing::extendRight()
     step(1, Qt::ShiftModifier);
 }
 
-/// The next cell that is shown, to the left or the right of one; -1 for none.
+/// The next visible cell to the left or right; -1 for none.
 int CellEditing::neighbour(int index, int direction) const
 {
     const TimeLineCells::Cell cell = cells()->at(index);
@@ -255,7 +255,7 @@ void CellEditing::step(int direction, Qt::KeyboardModifiers modifiers)
         return;
     }
     const int from = modifiers && selection().current() >= 0 ? selection().current() : shown;
-    // Behind the last cell there is only the way back.
+    // After the last cell, only going back is possible.
     const TimeLineCells::Cell last = all->at(all->count() - 1);
     const int next = from >= 0       ? neighbour(from, direction)
                      : direction < 0 ? all->indexAt(last.firstTick + unsigned(last.length) - 1)
@@ -288,7 +288,7 @@ void CellEditing::endRange()
     setRange(TickRange{std::min(tick, m_range ? m_range->first : tick), tick});
 }
 
-/// From the first to the last of the selected cells that are shown.
+/// From the first to the last visible one of the selected cells.
 void CellEditing::loopSelection()
 {
     const QVector<int> selected = acted();
@@ -297,7 +297,7 @@ void CellEditing::loopSelection()
     }
     const TimeLineCells::Cell first = cells()->at(selected.first());
     const TimeLineCells::Cell last = cells()->at(selected.last());
-    // An endless cell counts for its first tick, one without ticks for none.
+    // An endless cell counts as one tick. The range has at least one tick.
     const unsigned int end = last.firstTick + (last.length < 0 ? 1U : unsigned(last.length));
     setRange(TickRange{first.firstTick, std::max(first.firstTick + 1, end) - 1});
 }

@@ -1,4 +1,4 @@
-// The mouse on the cells of a strip: from the press of a button to the one act that it becomes.
+// Mouse handling for the cells of a strip: turns each press into one action.
 
 #include "animation/timeline/cellediting_p.h"
 #include "animation/timeline/timelinewidget.h"
@@ -18,7 +18,7 @@ namespace Zorv {
 namespace {
 
 constexpr Qt::KeyboardModifiers Picking = Qt::ControlModifier | Qt::ShiftModifier;
-constexpr int DropMargin = 12;  // of the page, where it goes on while something hangs over it
+constexpr int DropMargin = 12;  // of the page: scrolls while something is dragged over it
 
 }  // namespace
 
@@ -34,7 +34,7 @@ bool CellEditing::press(const QMouseEvent* event)
         return false;
     }
     if (event->button() != Qt::LeftButton) {
-        // A menu is for the cell that it comes up on.
+        // A context menu applies to the cell under the mouse.
         if (m_hit.cell >= 0 && !selection().contains(m_hit.cell)) {
             click(event->x(), Qt::NoModifier);
         }
@@ -77,7 +77,7 @@ void CellEditing::beginResize()
 {
     const bool isSelected = selection().contains(m_hit.cell);
     takeLengths(isSelected ? selection().cells() : QVector<int>{m_hit.cell});
-    // An endless cell that is dragged by its edge gets an end.
+    // Dragging the edge of an endless cell makes it finite.
     const int place =
         int(std::lower_bound(m_dragged.begin(), m_dragged.end(), m_hit.cell) - m_dragged.begin());
     m_before = 1 + int(std::count_if(m_lengths.begin(), m_lengths.begin() + place,
@@ -122,12 +122,12 @@ void CellEditing::beginDrag()
     }
 }
 
-/// Brings the mark in line with the place of the mouse.
+/// Updates the preview to the mouse position.
 void CellEditing::follow(const QPoint& place)
 {
     m_place = place;
     if (m_act == Resizing) {
-        // As many cells as grow in front of it move the edge, each by the same.
+        // Every growing cell up to the edge moves it by the same amount, hence the division.
         const qint64 edge = m_strip->edgeAt(place.x());
         m_change = int(std::lround(double(edge - m_edge) / m_before));
     } else if (m_act == Moving || m_act == Dropping) {
@@ -136,7 +136,7 @@ void CellEditing::follow(const QPoint& place)
     m_strip->owner->update();
 }
 
-/// Where cells were put in, taken away or timed under the drag, it would not do what it shows.
+/// If cells were added, removed or resized during the drag, it would not do what it shows.
 bool CellEditing::isStale() const
 {
     const TimeLineCells* all = cells();
@@ -178,7 +178,7 @@ bool CellEditing::release(const QMouseEvent* event)
     return !isStrips;
 }
 
-/// What is no cell sets the tick as in any row.
+/// Outside of cells, sets the tick as in any other row.
 void CellEditing::click(int x, Qt::KeyboardModifiers modifiers)
 {
     const QPointer<TimeLinePrivate> alive(m_strip);
@@ -235,8 +235,7 @@ bool CellEditing::doubleClick(const QMouseEvent* event)
     return true;
 }
 
-/// What is dragged past an end of the page goes on to the next ticks, cells as far as there are
-/// any.
+/// Dragging past an end of the page scrolls; cells only as far as there are any.
 void CellEditing::scroll()
 {
     if (isStale()) {

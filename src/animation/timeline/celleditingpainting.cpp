@@ -1,6 +1,5 @@
-// What the mouse has to know of the cells, painted over them: which are selected, where some are
-// that have no ticks, and what the drag that goes on will do. All of it walks over the ticks in
-// sight, never over the cells.
+// Paints what the mouse needs over the cells: the selection, marks where hidden cells are, and the
+// preview of the current drag. All loops run over visible ticks, never over all cells.
 
 #include "animation/timeline/cellediting_p.h"
 #include "animation/timeline/timelinewidget.h"
@@ -21,7 +20,7 @@ constexpr int NotchSize = 4;
 constexpr int GapWidth = 3;
 constexpr double VeilOpacity = 0.35;
 
-/// A part of the strip as a rectangle, also where it begins or ends far outside of the widget.
+/// A part of the strip as a rectangle, clipped near the page: far coordinates would not fit `int`.
 QRect between(qint64 left, qint64 right, int top, int height, const QRect& page)
 {
     const qint64 from = std::max<qint64>(left, page.left() - 10);
@@ -95,7 +94,7 @@ void CellEditing::paintSelected(QPainter& painter, qint64 left, qint64 length) c
     painter.drawRect(place.adjusted(1, 1, 0, 0));
 }
 
-/// A notch at the upper end of an edge: cells without ticks are between the two beside it.
+/// A notch at the top of an edge: there are hidden cells between the two neighbours.
 void CellEditing::paintHidden(QPainter& painter, qint64 place) const
 {
     const int x = int(place);
@@ -121,7 +120,7 @@ void CellEditing::paintRange(QPainter& painter) const
     }
 }
 
-/// The new edge, and the old and the new length.
+/// Shows the new edge, and the old and the new length.
 void CellEditing::paintResize(QPainter& painter) const
 {
     if (m_act != Resizing || isStale()) {
@@ -151,7 +150,7 @@ void CellEditing::paintResize(QPainter& painter) const
     painter.drawText(label, Qt::AlignCenter, text);
 }
 
-/// Where the cells go that are dragged.
+/// Shows where the dragged cells will go.
 void CellEditing::paintGap(QPainter& painter) const
 {
     if ((m_act != Moving && m_act != Dropping) || m_gap < 0) {

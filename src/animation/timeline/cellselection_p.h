@@ -5,25 +5,25 @@
 
 namespace Zorv {
 
-/// The cells that a person has selected, in rising order.
+/// The selected cells, in ascending order.
 class CellSelection
 {
 public:
     const QVector<int>& cells() const { return m_cells; }
     bool contains(int cell) const;
 
-    /// True if the cells lie one behind the other.
+    /// True if the cells are adjacent.
     bool isBlock() const;
 
-    /// In any order, also more than once; places below 0 are left out. True if it is another
-    /// selection now.
+    /// Takes cells in any order; ignores duplicates and negative ones. True if the selection
+    /// changed.
     bool set(QVector<int> cells);
 
-    /// Drops what lies behind the last of `count` cells.
+    /// Drops indexes at or above `count`.
     void fit(int count);
 
-    /// What a click selects, or a key that goes to another cell: the cell alone; with Ctrl it is
-    /// added or taken away, with Shift all from the last cell that was picked without it.
+    /// Selects as a click or a cursor key does: the cell alone; with Ctrl toggles it; with Shift
+    /// selects everything from the last cell that was picked without Shift.
     bool pick(int cell, Qt::KeyboardModifiers modifiers);
 
     /// The cell that was picked last, -1 for none.

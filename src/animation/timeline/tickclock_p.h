@@ -6,11 +6,11 @@
 
 namespace Zorv {
 
-/// How long a timer has to wait so that ticks come 60 times a second on the mean.
+/// Computes timer intervals so that on average 60 ticks occur per second.
 ///
-/// A timer has whole milliseconds, fires late, and waits only when the work of a tick is done. What
-/// a tick took too long or too short is kept to the nanosecond and made up in the next ones. For
-/// slow motion a tick takes several periods.
+/// A timer works in whole milliseconds, fires late, and starts only when the work of a tick is
+/// done. So the error of each tick is kept in nanoseconds and compensated in the next ones. In slow
+/// motion a tick takes several periods.
 struct TickClock
 {
     static constexpr qint64 Period = 16'666'667;  ///< nanoseconds a tick

@@ -4,10 +4,10 @@
 
 namespace Zorv {
 
-/// Ticks of a time line from the first to the last one, both included.
+/// A range of ticks on a time line; first and last are included.
 struct TickRange
 {
-    /// Between two ticks, in whichever order they are given.
+    /// Takes the two ends in any order.
     static TickRange between(unsigned int one, unsigned int other)
     {
         return {std::min(one, other), std::max(one, other)};

@@ -9,28 +9,28 @@ namespace Zorv {
 
 class TimeLineCells;
 
-/// One row of a `TimeLineWidget`: tells what stands at a tick. A tick is 1/60 second.
+/// One row of a `TimeLineWidget`: says what is at a tick. A tick is 1/60 second.
 class ZORV_EXPORT TimeLine
 {
 public:
-    /// Something that starts at a tick, a frame say.
+    /// Something that starts at a tick, for example a frame.
     struct Marker
     {
         QColor color;
-        int length = 0;  ///< ticks; negative without end
+        int length = 0;  ///< ticks; negative: endless
     };
 
     virtual ~TimeLine();
 
-    /// What stands at the left of the row.
+    /// The label at the left of the row.
     virtual QString name() const = 0;
 
-    /// True if a marker starts at that tick, which is then filled in. Asked for every tick that
-    /// shows, at every repaint.
+    /// If a marker starts at that tick, fills it in and returns true. Called for every visible tick
+    /// at every repaint.
     virtual bool markerAtTick(unsigned int tick, Marker& marker) const = 0;
 
-    /// The cells of the row, if a person may work on them: the same object as long as the row is
-    /// shown. Null as it stands here: the row is only looked at.
+    /// The cells of the row if the user may edit them; the same object as long as the row is shown.
+    /// By default null: the row is read-only.
     virtual TimeLineCells* cells();
 };
 

@@ -8,52 +8,52 @@ class QMimeData;
 
 namespace Zorv {
 
-/// The cells of a row of a `TimeLineWidget`, and what a person may do to them with mouse and keys.
+/// The cells of a row of a `TimeLineWidget`, for example frames, and the edits of them by mouse and
+/// keyboard.
 ///
-/// Cells are frames, say. They have a place in a list, and stand one behind the other from tick 0
-/// on; one of 0 ticks is in the list and not on the strip, and so are all that stand behind an
-/// endless one. The strip asks for few cells at each repaint, those in sight, and never walks over
-/// the list. It keeps nothing of what it was told: after any change it is enough to update it.
+/// Cells have an index and follow one another from tick 0. A cell of 0 ticks has an index but is
+/// not visible on the strip, and neither is any cell after an endless one. At each repaint the
+/// strip asks for the few visible cells only; it never loops over all cells. It caches no answer:
+/// after any change it is enough to update the widget.
 ///
-/// Each of the operations that change cells is one act of a person, to be undone as a whole. They
-/// are called with places inside the list, rising and each once. Main thread only.
+/// Each function that changes cells is one user action, to be undone as a whole. Indexes passed to
+/// these functions are valid, ascending and without duplicates. Main thread only.
 class ZORV_EXPORT TimeLineCells
 {
 public:
     struct Cell
     {
         unsigned int firstTick = 0;
-        int length = 0;  ///< ticks; negative without end
+        int length = 0;  ///< ticks; negative: endless
     };
 
     virtual ~TimeLineCells();
 
     virtual int count() const = 0;
 
-    /// The cell at a place of the list.
+    /// The cell with this index.
     virtual Cell at(int index) const = 0;
 
-    /// The place of the cell that stands at a tick; -1 behind the last one. An endless cell stands
-    /// at all ticks from its first one on.
+    /// The index of the cell at a tick; -1 after the last one. An endless cell covers all ticks
+    /// from its first one on.
     virtual int indexAt(unsigned int tick) const = 0;
 
-    /// False while cells can only be looked at.
+    /// False while the cells are read-only.
     virtual bool isEditable() const = 0;
 
-    /// Gives the cells at `indexes` the lengths at the same places of `lengths`. Lengths are at
-    /// least 1, or -1 for one without end. False if nothing was changed.
+    /// Sets the length of each cell in `indexes` to the matching entry of `lengths`: at least 1, or
+    /// -1 for endless. False if nothing was changed.
     virtual bool setLengths(const QVector<int>& indexes, const QVector<int>& lengths) = 0;
 
-    /// Puts cells, in their order, in front of the one that stands at `target` now; behind all of
-    /// them for `count()`. False if nothing was changed.
+    /// Moves cells, in their order, before the one that is at `target` now; to the end for
+    /// `count()`. False if nothing was changed.
     virtual bool move(const QVector<int>& indexes, int target) = 0;
 
-    /// True if something that is dragged over the strip can become cells. As it stands here
-    /// nothing can.
+    /// True if dragged data can be dropped on the strip as cells. By default false.
     virtual bool accepts(const QMimeData* data) const;
 
-    /// Makes cells of it in front of the one at `index`; behind all of them for `count()`. As it
-    /// stands here nothing happens.
+    /// Inserts cells made from the data before the one at `index`; at the end for `count()`. By
+    /// default does nothing.
     virtual void drop(const QMimeData* data, int index);
 };
 

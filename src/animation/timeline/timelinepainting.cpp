@@ -21,7 +21,7 @@ constexpr int NameMargin = 8;
 constexpr double BandOpacity = 0.33;
 constexpr int CursorWidth = 2;
 
-/// The font, or a smaller one with which the number is neither wider nor higher than its place.
+/// The font, reduced if necessary so that the number fits.
 QFont numberFont(const QFont& font, unsigned int number, const QSize& place)
 {
     const QFontMetrics metrics(font);
@@ -110,7 +110,7 @@ void TimeLinePrivate::paintBand(QPainter& painter, const QRect& cell, const QCol
     if (length <= 1) {
         return;
     }
-    // The colours run to the end of the band, which may lie far beyond the strip.
+    // The gradient spans the whole cell, which can extend far beyond the strip.
     const int left = cell.left() + TickWidth;
     const double width = (length - 1.0) * TickWidth;
     QLinearGradient gradient(left, 0, left + width, 0);
@@ -126,9 +126,9 @@ void TimeLinePrivate::paintBand(QPainter& painter, const QRect& cell, const QCol
 void TimeLinePrivate::paintCursor(QPainter& painter) const
 {
     const qint64 left = placeOf(currentTick) + (TickWidth - CursorWidth) / 2;
-    // A strip that is too narrow for any tick turns no page.
+    // A strip too narrow for a tick never scrolls to the cursor, so it may be outside.
     if (left >= LabelWidth && left < owner->width()) {
-        // Yellow alone would not be seen on a light ground.
+        // The dark border keeps yellow visible on a light background.
         const QRect bar(int(left), 0, CursorWidth, owner->height());
         painter.fillRect(bar.adjusted(-1, 0, 1, 0), borderColor());
         painter.fillRect(bar, Qt::yellow);

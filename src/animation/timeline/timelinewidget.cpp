@@ -50,7 +50,8 @@ void TimeLinePrivate::stop()
     timer.stop();
 }
 
-// Slots, and events handled in between, may stop the clock, start it again, or delete the widget.
+// Slots, and events processed between ticks, may stop or restart the clock or delete the widget.
+// `run` changes with each start and stop, so a difference means: not this playback any more.
 void TimeLinePrivate::timeStep()
 {
     const QPointer<TimeLinePrivate> alive(this);
@@ -255,7 +256,7 @@ QSize TimeLineWidget::sizeHint() const
 
 QSize TimeLineWidget::minimumSizeHint() const
 {
-    // The line below the last row needs a pixel of its own.
+    // The line below the last row needs one more pixel.
     return {d->LabelWidth + 10 * d->TickWidth,
             d->HeaderHeight + d->RowHeight * std::max(d->timeLines.size(), 1) + 1};
 }
@@ -274,7 +275,7 @@ void TimeLineWidget::resizeEvent(QResizeEvent* event)
 
 bool TimeLineWidget::event(QEvent* event)
 {
-    // What the cells do comes in front of the shortcuts of a window.
+    // Keys for cells take precedence over shortcuts of the window.
     if (event->type() == QEvent::ShortcutOverride &&
         d->editing.handles(static_cast<QKeyEvent*>(event))) {
         event->accept();

@@ -15,23 +15,23 @@ namespace Zorv {
 class TimeLine;
 class TimeLinePrivate;
 
-/// The clock of playback, and the strip on which frames are cells along a scale of ticks.
+/// The playback clock, and the strip that shows frames as cells along a scale of ticks.
 ///
-/// It knows nothing of animations: rows tell what stands at a tick, and whoever plays follows
-/// `tickChanged()`. The strip shows one page of ticks, which turns when the present tick does; a
-/// widget that is not wider than the names of its rows has no page, and plays all the same. While
-/// the clock stands, the mouse sets the tick: the cursor follows it when it is dragged, and jumps
-/// to where a click in the strip ends. The keys Left and Right go by one tick at any time.
+/// It knows nothing of animations: rows say what is at a tick, and a player follows
+/// `tickChanged()`. The strip shows one page of ticks, and turns pages with the current tick. A
+/// widget no wider than its row labels has no page but still plays. While the clock is stopped, the
+/// mouse sets the tick: the cursor follows a drag, and jumps to where a click in the strip ends.
+/// The keys Left and Right move by one tick at any time.
 ///
-/// A page begins at a multiple of ten, and is as wide as the widget. Unless that is a multiple of
-/// ten, too, its last ticks can lie beyond the right border; `setWholePages()` has none of it.
+/// A page begins at a multiple of ten and is as wide as the widget. If that width is no multiple of
+/// ten, the last ticks of a page can be beyond the right border; `setWholePages()` prevents this.
 ///
-/// The first row that has `TimeLine::cells()` can be edited while the clock stands. Its cells are
-/// selected by clicks, with Ctrl and Shift as in a list, and dragged to another place; the edge
-/// behind a cell is dragged to give it, or all selected ones, another length. In the upper half of
-/// the scale a drag marks the range to loop, and a double click takes it away. What the row accepts
-/// can be dropped between two cells. A drag tells the row nothing before its end; Escape gives it
-/// up. All of it has keys. What has a name is among `actions()`, the menu at the pointer.
+/// The first row with `TimeLine::cells()` can be edited while the clock is stopped. Clicks select
+/// cells, with Ctrl and Shift as in a list. Dragging moves cells. Dragging the edge after a cell
+/// changes its length, or that of all selected cells. A drag in the upper half of the scale marks
+/// the loop range; a double click there removes it. Data that the row accepts can be dropped
+/// between two cells. The row learns of a drag only at its end; Escape cancels it. Everything is
+/// available by keys too. Commands with a name are among `actions()`, which are the context menu.
 ///
 /// Main thread only.
 class ZORV_EXPORT TimeLineWidget : public QWidget
@@ -42,66 +42,65 @@ public:
     explicit TimeLineWidget(QWidget* parent = nullptr);
     ~TimeLineWidget() override;
 
-    /// Only kept: the clock has 60 ticks a second.
+    /// Stored only: the clock always has 60 ticks per second.
     unsigned int ticksPerSecond() const;
     void setTicksPerSecond(unsigned int ticks);
 
-    /// Adds a row at the bottom; null adds none. Rows are not owned, and have to be cleared before
-    /// they go; selection and loop range go with them. A row that changes is painted again by
-    /// `update()`.
+    /// Adds a row at the bottom; ignores null. Rows are not owned and must be cleared before they
+    /// are destroyed; clearing also drops selection and loop range. Call `update()` to repaint a
+    /// changed row.
     void addTimeLine(TimeLine* timeLine);
     void clearTimeLines();
 
     unsigned int currentTick() const;
 
-    /// Turns to the page of the tick. Emits `tickChanged()` if it is another one.
+    /// Turns to the page of the tick. Emits `tickChanged()` if the tick changes.
     void setCurrentTick(unsigned int tick);
 
-    /// With true, pages have whole tens of ticks, the rest of the width stays free, and another
-    /// width turns to the page of the present tick: it is always in sight. False at first.
+    /// If on, pages have a multiple of ten ticks and the rest of the width stays empty. After a
+    /// change of width the page of the current tick is shown, so that tick is always visible.
+    /// Initially off.
     void setWholePages(bool isOn);
 
-    /// The cells that are selected, by their rising places. A row without cells has none, and those
-    /// that have gone are none. They keep their places when the row changes: whoever changes it
-    /// selects others.
+    /// The indexes of the selected cells, ascending. Empty for a row without cells; indexes that no
+    /// longer exist are dropped. Selected indexes stay when the row changes: whoever changes the
+    /// row must adjust the selection.
     QVector<int> selectedCells() const;
     void setSelectedCells(const QVector<int>& cells);
 
-    /// The ticks that the person wants to see again and again. Only kept and shown: the clock runs
-    /// past its end.
+    /// The ticks that the user wants to loop. Stored and shown only: the clock runs past the end.
     std::optional<TickRange> loopRange() const;
     void setLoopRange(const std::optional<TickRange>& range);
 
-    /// For slow motion each tick takes the time of so many, from 1 to 10; 1 at first. May be set
-    /// while the clock runs.
+    /// Slow motion: each tick takes this many tick periods, 1 to 10; initially 1. Can be set while
+    /// the clock runs.
     int slowness() const;
     void setSlowness(int slowness);
 
-    /// Ticks a second, as reached in the last second of playing; those of the clock until then.
+    /// Ticks per second, measured over the last second of playback; before that the nominal rate.
     float currentFPS() const;
     bool isPlaying() const;
 
-    /// Starts the clock at the present tick, which is told at once. Each later tick is told in
-    /// its turn, however long a slot takes: none is skipped, and lateness is made up by ticks that
-    /// follow at once. Other events are handled after each tick, also then.
+    /// Starts the clock at the current tick, which is emitted at once. Each later tick is emitted
+    /// in turn, however long a slot takes: none is skipped, and after a delay ticks follow at once
+    /// until the clock has caught up. Other events are processed after each tick, even then.
     void play();
 
-    /// Stops the clock; the tick stays. A slot of `tickChanged()` may call it, and may delete the
-    /// widget as well.
+    /// Stops the clock; the tick stays. A slot of `tickChanged()` may call it or delete the widget.
     void stop();
 
-    /// Fits the rows, of which one at least has room.
+    /// Fits the rows; there is always space for at least one.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The present tick is another one, or the first of a play.
+    /// The current tick has changed, or playback starts.
     void tickChanged(unsigned int tickIndex);
 
-    /// Other cells are selected.
+    /// The selection of cells has changed.
     void selectionChanged();
 
-    /// Another range is to be looped, or none.
+    /// The loop range has changed or was removed.
     void loopRangeChanged();
 
 protected:

@@ -32,32 +32,33 @@ public:
     void play();
     void stop();
 
-    /// Turns to a tick and tells of it, if it is another one. The widget may be gone afterwards.
+    /// Sets the tick, turns the page and emits the signal if it has changed. The widget may be
+    /// destroyed afterwards.
     void moveTo(unsigned int tick);
 
     int leftOf(unsigned int index) const { return LabelWidth + TickWidth * int(index); }
 
-    /// The widget has another width, or pages of another kind.
+    /// Updates the page after a change of width or page mode.
     void fitPage();
 
-    /// The same for the tick below a place in the strip.
+    /// Like `moveTo()`, for the tick at an x coordinate in the strip.
     void moveToPlace(int x);
 
     unsigned int tickAt(int x) const;
 
-    /// The edge between two ticks that is nearest to a place; it is called like the tick behind.
+    /// The edge between two ticks nearest to an x coordinate, as the number of the tick after it.
     qint64 edgeAt(int x) const;
 
-    /// Where the left edge of a tick is, or would be.
+    /// The x coordinate of the left edge of a tick, on or off the page.
     qint64 placeOf(qint64 tick) const { return LabelWidth + (tick - firstTick) * TickWidth; }
 
-    /// Shows the page of the present tick.
+    /// Shows the page of the current tick.
     void turnPage();
 
-    /// Slow motion begins at once.
+    /// Resets the clock, so that the new speed applies at once.
     void setSlowness(int slowness);
 
-    /// What lies below a place; sets `row` in the strip.
+    /// What is at a position; sets `row` if that is in the strip.
     Target hitTest(const QPoint& place);
     void showCursorShape(const QPoint& place);
 
@@ -75,7 +76,7 @@ public:
     unsigned int row = 0;
     bool dragging = false;
     bool hasWholePages = false;
-    unsigned int visibleTicks = 0;  // none before the first resize
+    unsigned int visibleTicks = 0;  // 0 before the first resize
     unsigned int firstTick = 0;
 
     CellEditing editing;
@@ -96,7 +97,7 @@ private:
     void paintBand(QPainter& painter, const QRect& cell, const QColor& color, int length) const;
     void paintCursor(QPainter& painter) const;
 
-    unsigned int run = 0;  // another one after each play() and stop()
+    unsigned int run = 0;  // changes with each play() and stop()
 };
 
 }  // namespace Zorv
