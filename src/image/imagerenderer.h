@@ -22,47 +22,47 @@ class ImagePalette;
 class ImageRendererPrivate;
 class StrokeOptions;
 
-/// A canvas on a `RenderWidget`, with the tools that paint on it.
+/// Shows an `ImageCanvas` on a `RenderWidget`, with the tools that paint on it.
 ///
-/// The picture is shown in two views, at its real size on the left and zoomed on the right, or in
-/// one of them alone. It lies on a checkerboard; what is not selected is darker. Places are pixels
-/// of the widget, and pixels of the canvas are counted from its top left corner.
+/// There are two views, shown side by side or one alone: the picture at its real size on the left,
+/// zoomed on the right. The picture is drawn on a checkerboard; pixels that are not selected are
+/// darker. Mouse positions are pixels of the widget; canvas pixels count from its top left corner.
 ///
-/// The left and any other button paint as the tool says. Ctrl or Space with the mouse moves the
-/// picture, the wheel zooms about the pointer. A press that has begun stays with its view and its
-/// tool until the last button is released, or the focus or the mouse is lost.
+/// Each tool decides what the left and the other buttons do. Ctrl or Space with the mouse moves the
+/// picture; the wheel zooms about the pointer. A press keeps its view and its tool until the last
+/// button is released, or until the focus or the mouse grab is lost.
 ///
-/// With `CanvasAxis` a press on the middle of its cross drags the axis, each drag one step of undo.
-/// Ctrl with arrows moves it by a pixel; arrows that follow each other are one step.
+/// With `CanvasAxis` a press on the middle of the cross drags the axis; each drag is one undo step.
+/// Ctrl with an arrow key moves the axis by a pixel; consecutive arrows make one undo step.
 ///
-/// Other keys go to the tool first. Arrows that it does not use move a cell, which is drawn; Return
-/// clicks there with the left button, with Alt with the right one; Shift with arrows drags from
-/// there until Shift is released.
+/// Other keys go to the tool first. Arrow keys it does not use move a cell, the keyboard's cursor,
+/// which is drawn. Return clicks there with the left button, Alt+Return with the right one.
+/// Shift+arrow drags from there until Shift is released.
 ///
-/// Needs a `QApplication`, but no GL: `render()` takes any painter. Main thread only.
+/// Needs a `QApplication`, but no GL: `render()` accepts any painter. Main thread only.
 class ZORV_EXPORT ImageRenderer : public QObject, public GraphicsRendererBase
 {
     Q_OBJECT
 
 public:
-    /// All are off at first.
+    /// All options are off initially.
     enum Option {
-        CenteredBrush = 1,  ///< wide brushes are around the pointer, not right and below of it
-        PixelGrid = 2,      ///< lines between pixels from a zoom of 4 on
-        CanvasAxis = 4,     ///< the axis of the canvas as a cross, which is dragged
-        FollowOriginal = 8  ///< beside a zoomed view, the original shows the same part
+        CenteredBrush = 1,  ///< wide brushes are centred on the pointer, not right and below of it
+        PixelGrid = 2,      ///< draws lines between pixels from zoom 4 on
+        CanvasAxis = 4,     ///< shows the canvas axis as a cross that can be dragged
+        FollowOriginal = 8  ///< with both views, the original follows the part that is zoomed
     };
 
-    /// A picture that shines through the canvas, as of the frame before: above the checkerboard and
-    /// below the layers.
+    /// An onion skin: a picture that shines through the canvas, such as the previous frame. It is
+    /// drawn above the checkerboard and below the layers.
     struct Skin
     {
         QImage image;
-        QPoint offset;         ///< of its top left corner, in pixels of the canvas
+        QPoint offset;         ///< of its top left corner, in canvas pixels
         double opacity = 0.5;  ///< from 0 to 1
     };
 
-    /// Keeps the picture on the screen as it is while several changes are made.
+    /// Freezes the picture on the screen while it lives, so several changes show at once.
     class ZORV_EXPORT Change
     {
     public:
@@ -74,88 +74,88 @@ public:
         ImageRenderer* m_renderer;
     };
 
-    /// With an empty canvas. See `ImageCanvas::setPalette()` for the palette.
+    /// Starts with an empty canvas. See `ImageCanvas::setPalette()` for the palette.
     explicit ImageRenderer(ImagePalette* palette = nullptr, QObject* parent = nullptr);
     ~ImageRenderer() override;
 
-    /// @name What it holds
-    /// All of it is the renderer's own.
+    /// @name Parts
+    /// The renderer owns all of them.
     /// @{
     ImageCanvas* canvas() const;
     ImageTool* tool(ImageTool::Type type) const;
 
-    /// Shared by the tools that paint. With symmetry on, the axes are drawn, and dragged by a grip
-    /// at their end.
+    /// Shared by the tools that paint. With symmetry on, the axes are drawn and can be dragged by a
+    /// grip at their end.
     StrokeOptions* strokeOptions() const;
 
-    /// Shows the options of the current tool; at most 26 pixels high. A parent that it is given may
-    /// delete it.
+    /// Shows the options of the current tool; at most 26 pixels high. If it is given a parent, the
+    /// parent may delete it.
     QWidget* toolPanel() const;
     /// @}
 
-    /// Null until one was set.
+    /// Null until a tool is set.
     ImageTool* currentTool() const;
 
-    /// Ends what the old tool has begun, and gives the widget the focus.
+    /// Ends whatever the old tool has begun, and gives the widget the focus.
     void setCurrentTool(ImageTool::Type type);
 
-    /// The mouse moves the picture, whatever the tool is, until this is ended or another tool is
-    /// set. Space does the same while it is held, without this.
+    /// While on, the mouse moves the picture whatever the tool is. Setting a tool ends it. Holding
+    /// Space has the same effect without this.
     void setPanning(bool isOn);
     bool isPanning() const;
 
-    /// As on the canvas; the current tool hears of it in any case.
+    /// Sets the active layer of the canvas, and always notifies the current tool.
     void setActiveLayer(ImageLayer* layer);
 
-    /// See `ImageCanvas::changePalette()`. For other colours of the same indices see
-    /// `layerChanged()`.
+    /// See `ImageCanvas::changePalette()`. If only the colours behind the indices change, call
+    /// `layerChanged()` instead.
     void setPalette(const RGBA (&from)[256], const RGBA (&to)[256]);
 
-    /// @name The look
+    /// @name Look
     /// @{
 
-    /// The colours around the picture, from the top of the widget to its bottom.
+    /// The gradient around the picture: the colours at the top and the bottom of the widget.
     void setBackground(const QColor& top, const QColor& bottom);
 
     void setOption(Option option, bool isOn);
     bool option(Option option) const;
 
-    /// From the lowest to the highest; an empty list at first.
+    /// From lowest to highest. Initially empty.
     void setSkins(const std::vector<Skin>& skins);
 
-    /// Calls may be nested: what has changed shows when the last of them has ended. See `Change`.
+    /// Calls nest: changes show when the last one has ended. `Change` does this for a scope.
     void beginChange();
     void endChange();
     /// @}
 
-    /// @name Place and zoom
-    /// The canvas holds both: its middle stands at `ImageCanvas::position()` of each view. The
-    /// distance of that from the middle of the view stays when the widget or the views change.
+    /// @name Position and zoom
+    /// The canvas stores both: the middle of the picture is drawn at `ImageCanvas::position()` of
+    /// each view. Its distance from the middle of the view stays when the widget or views change.
     /// @{
 
-    /// Which views are shown; with both, each has half of the width.
+    /// Chooses the views to show; with both, each has half of the width.
     void setVisibility(bool original, bool zoomed);
 
     void centralize() override;
 
-    /// Doubles the zoom below 1, else adds 1, below 8; about the middle of the view.
+    /// Doubles a zoom below 1, otherwise adds 1. Only below 8; about the middle of the view.
     void addZoom() override;
 
-    /// Takes 1 off above 1, else halves the zoom, above 0.25.
+    /// Subtracts 1 from a zoom above 1, otherwise halves it. Only above 0.25.
     void subZoom() override;
     void zoomActual() override;
 
-    /// The width of a view. In split view the zoomed one begins there.
+    /// The width of a view. With both views shown, the zoomed one starts at this x.
     int splitX() const;
 
-    /// Where the picture lies, from the left of its view.
+    /// The rectangle of the picture, relative to the left of its view.
     QRect originalRect() const;
     QRect zoomedRect() const;
 
-    /// A place as a point of the canvas, rounded, for whichever view it lies in.
+    /// Converts a widget position to a canvas point, rounded, in whichever view it is.
     QPoint mapToCanvas(QPoint pos, bool zoomed) const;
 
-    /// The pixel of the canvas that a place lies on, which may be outside of it.
+    /// The canvas pixel under a widget position; it may be outside the canvas.
     QPoint pixelAt(QPointF pos, bool zoomed) const;
     /// @}
 
@@ -166,8 +166,8 @@ public:
                        Qt::KeyboardModifiers modifiers) override;
     void mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers) override;
 
-    /// Multiplies the zoom by 2 for a step of 120 forward, by 3 for two at once, and divides it
-    /// likewise. Smaller steps add up.
+    /// Forward, a wheel step of 120 multiplies the zoom by 2, two at once by 3; backward it is
+    /// divided likewise. Smaller steps add up.
     void mouseWheel(int delta) override;
     void pointerMoved(QPointF pos) override;
     void focusLost() override;
@@ -177,19 +177,19 @@ public:
     void render(QPainter& painter) override;
 
 public slots:
-    /// The whole picture looks different. What is changed through the canvas is known without it;
-    /// a host calls it when colours of the palette change.
+    /// Redraws the whole picture. Changes made through the canvas are noticed without this; a host
+    /// calls it when colours of the palette change.
     void layerChanged();
 
 signals:
-    /// The pointer, or the cell of the keys, is on another pixel of the canvas, or beside it.
+    /// The pointer or the keyboard cell is on another canvas pixel, or has left the canvas.
     void cursorChanged(const QPoint& pixel);
 
-    /// What is to be seen there: for a status bar. It comes for another colour at the same place,
-    /// too. `index` is -1 in true colour and beside the canvas.
+    /// What is visible at that pixel, for a status bar. Also emitted when the colour changes under
+    /// the same pixel. `index` is -1 in true colour and outside the canvas.
     void pos(const QPoint& pixel, int index, QRgb color);
 
-    /// The pointer has left: there is nothing to tell.
+    /// The pointer has left: a status bar has nothing to show.
     void cursorLeft();
 
     void panningChanged(bool isOn);

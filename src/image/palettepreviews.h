@@ -15,14 +15,15 @@ namespace Zorv {
 class ImageCanvas;
 class PalettePreviewsPrivate;
 
-/// The picture of a canvas in several palettes at once: the costumes of a character, side by side.
+/// Shows the picture of a canvas in several palettes at once: the costumes of a character, side by
+/// side.
 ///
-/// There is one flattened picture for all of them, and each is drawn with its own colour table. It
-/// follows the canvas by the parts that change; while the widget is hidden nothing is worked out.
-/// Pictures are as large as the widget has room for, by whole pixels of the screen. A canvas of
-/// true colour has no palette to exchange, which the widget says.
+/// The picture is flattened once and drawn with each colour table. Only changed parts of the canvas
+/// are flattened again, and nothing is computed while the widget is hidden. Pictures are as large
+/// as the widget allows, scaled by a whole number of screen pixels. A true-colour canvas has no
+/// palette to exchange; the widget shows a text instead.
 ///
-/// A click on a picture, or Return on the one that the arrows have reached, chooses it.
+/// A click on a picture chooses it; so does Return on the one reached with the arrow keys.
 ///
 /// Main thread only.
 class ZORV_EXPORT PalettePreviews : public QWidget
@@ -30,11 +31,11 @@ class ZORV_EXPORT PalettePreviews : public QWidget
     Q_OBJECT
 
 public:
-    /// A palette with the name that stands below its picture.
+    /// A palette with the name shown below its picture.
     struct Preview
     {
         QString name;
-        QVector<QRgb> colors;  ///< 256 entries; those that are missing are transparent
+        QVector<QRgb> colors;  ///< 256 entries; missing ones are transparent
     };
 
     static constexpr int MaxCount = 12;
@@ -42,33 +43,33 @@ public:
     explicit PalettePreviews(QWidget* parent = nullptr);
     ~PalettePreviews() override;
 
-    /// The canvas to show, or null. It is not owned, is never changed, and may go at any time.
+    /// The canvas to show, or null. Not owned and never changed; it may be deleted at any time.
     void setCanvas(const ImageCanvas* canvas);
 
-    /// The palettes to show; those behind `MaxCount` are left out. Call it again when one of them
-    /// changes: the picture is not flattened anew for it.
+    /// The palettes to show; entries after `MaxCount` are ignored. Call it again when one of them
+    /// changes: this is cheap, because the picture is not flattened again.
     void setPreviews(const QVector<Preview>& previews);
 
-    /// Paints the pictures as somebody else sees them.
+    /// Simulates how a viewer with this colour sight sees the pictures.
     void setColorSight(const ColorSight& sight);
 
-    /// The one with the frame; -1 for none, as at first and where there are fewer.
+    /// The framed preview; -1 for none, as initially and when there are fewer previews.
     int currentIndex() const;
     void setCurrentIndex(int index);
 
-    /// The preview at a place, -1 for none.
+    /// The preview at a point, or -1.
     int indexAt(const QPoint& place) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 public slots:
-    /// Flattens the canvas anew. Needed if its palette has other colours of which some are half
-    /// transparent: layers mix by them, and a palette tells nobody that it changes.
+    /// Flattens the canvas again. Needed when half transparent colours of its palette change: the
+    /// flattened indices depend on them, and a palette does not signal changes.
     void refresh();
 
 signals:
-    /// The person wants this palette. It is the current one by then.
+    /// The user chose this palette. It is already the current one.
     void chosen(int index);
 
 protected:

@@ -23,25 +23,24 @@ class SpriteWorkspace;
 
 /// The editor "spr": one sprite of a project on a canvas, with tools, layers and its palette.
 ///
-/// The canvas is a copy. "spr_saveimg" (`saveImage()`) puts all visible layers, as one picture,
-/// and the axis of the canvas into the sprite, as one step of undo of its file; its palette stays.
-/// Until then a changed canvas is a `FileInput` of its file, and whatever shows another sprite asks
-/// the person first: to save it, to discard it, which takes its steps back, or to stay.
-/// If the sprite is changed elsewhere, a canvas without changes follows, and one with changes
-/// stays as it is. What is done to the stored sprite takes the canvas in first.
+/// The canvas is a working copy. "spr_saveimg" (`saveImage()`) flattens the visible layers into the
+/// sprite and stores the canvas axis with it, as one undo step of the file; the sprite's palette
+/// stays. Until then a changed canvas is a `FileInput` of its file. Before another sprite is shown
+/// the user is asked to save, to discard (which undoes the steps on the canvas), or to stay. If the
+/// sprite changes elsewhere, an unchanged canvas follows and a changed one stays as it is.
+/// Operations on the stored sprite save the canvas into it first.
 ///
-/// While it is in front the organizer of the host, its side panel 0, shows the sprites.
+/// While the editor is in front, the organizer of the host (side panel 0) shows the sprites.
 ///
-/// It publishes the tools "spr_...", in the area "sprites"; those that are of use beside the stage
-/// in "animations", too.
-/// Main thread only.
+/// It publishes the tools "spr_..." in the area "sprites"; tools that are also useful beside the
+/// stage are in "animations", too. Main thread only.
 class ZORV_EXPORT SpriteEditor : public FileEditor
 {
     Q_OBJECT
 
 public:
-    /// The palettes of the same sprites, which are painted in their current one; the editor tells
-    /// them which collection that is. Not owned, and outlives the editor.
+    /// `palettes` edits the palettes of the same sprites; the canvas is painted in its current one.
+    /// The editor sets its collection. Not owned; it outlives the editor.
     explicit SpriteEditor(PaletteEditor* palettes, QObject* parent = nullptr);
     ~SpriteEditor() override;
 
@@ -64,60 +63,60 @@ public:
     void activate() override;
     void deactivate() override;
 
-    /// Reads "back_start" and "back_end", and "undo_megabytes", what the history of the canvas may
-    /// take; none is `ImageUndoStack::DefaultBudget`.
+    /// Reads the options "back_start", "back_end" and "undo_megabytes": the memory limit of the
+    /// canvas history, `ImageUndoStack::DefaultBudget` if not set.
     void reconfig() override;
     void retranslate() override;
 
-    /// Takes up the sprites of the project; null for none. While the canvas has changes it stays,
-    /// and they are taken up when it has none; the palettes of `paletteEditor()` are those of the
-    /// project meanwhile, unless this editor is in front.
+    /// Switches to the sprites of the project; null for none. While the canvas has changes it stays
+    /// and the switch waits until it has none. Meanwhile `paletteEditor()` shows the palettes of
+    /// the new project, unless this editor is in front.
     void setProject(Project* project) override;
 
-    /// Lets go of its sprites, with what is on the canvas.
+    /// Drops its sprites and whatever is on the canvas.
     void projectAboutToClose(Project* project) override;
 
-    /// Shows the sprite of a row, `a`.
+    /// Shows the sprite at row `a`.
     void navigateTo(const QString& name, unsigned a, unsigned b, unsigned c) override;
 
-    /// The sprites in work, or null.
+    /// The file of the sprites being edited, or null.
     ProjectFile* file() const override;
 
-    /// True also while the canvas has changes.
+    /// Also true while the canvas has changes.
     bool isModified() const override;
 
-    /// Asks to save or discard what is on the canvas.
+    /// Asks whether to save or discard the canvas.
     bool canDiscardInput() const override;
 
-    /// Of the canvas, and where it has no more steps, of the file.
+    /// Undoes on the canvas; when the canvas has no more steps, in the file.
     void undo() override;
     void redo() override;
 
-    /// Whether there is such a step, and its title in the person's language.
+    /// Whether there is such a step, and its title in the user's language.
     bool canUndo() const;
     bool canRedo() const;
     QString undoTitle() const;
     QString redoTitle() const;
 
-    /// Of the selected pixels of the active layer, see `ImageClipboard`. What is pasted becomes a
-    /// layer, on the canvas or, without one, nothing.
+    /// These work on the selected pixels of the active layer, see `ImageClipboard`. Pasting adds a
+    /// layer; without a canvas it does nothing.
     void cut() override;
     void copy() override;
     void paste() override;
 
-    /// Sets the selected pixels of the active layer to the background. One step of undo.
+    /// Sets the selected pixels of the active layer to the background. One undo step.
     void clearSelected();
 
     void selectAll() override;
 
-    /// Shows the next sprite with this "Identifier"; tells if there is none.
+    /// Shows the next sprite with this "Identifier"; says so if there is none.
     void find(const QString& text, unsigned flags) override;
 
-    /// Nothing: sprites have no text.
+    /// Does nothing: sprites have no text.
     void replace(const QString& text, const QString& with, unsigned flags, bool all) override;
     /// @}
 
-    /// @name Its parts, which go with it
+    /// @name Its parts, which live as long as the editor
     /// @{
     SpriteWorkspace* spriteWorkspace() const;
 
@@ -125,82 +124,83 @@ public:
     ImageRenderer* renderer() const;
     ColorPalette* colors() const;
 
-    /// That of the constructor.
+    /// The one given to the constructor.
     PaletteEditor* paletteEditor() const;
     /// @}
 
     Sprites* sprites() const;
 
-    /// The sprite on the canvas, or null. Good until the collection signals a change.
+    /// The sprite on the canvas, or null. Valid until the collection signals a change.
     Sprite* sprite() const;
 
-    /// Its row; -1 for none.
+    /// The row of that sprite; -1 for none.
     int spriteIndex() const;
 
-    /// Shows a sprite, after a question if the canvas has changes. False if the person keeps what
-    /// is there; true for the sprite that is there already. The editor is not brought forward.
+    /// Shows a sprite. If the canvas has changes, asks first and returns false if the user stays.
+    /// True if the sprite is already shown. Does not bring the editor to the front.
     bool showSprite(Sprites* sprites, int index);
 
-    /// The frame in work shows this sprite; null for none. With "spr_frame_spr" it comes onto the
-    /// canvas, once for each other sprite that is told, unless the canvas has changes.
+    /// Call when the frame being edited shows another sprite; null for none. With "spr_frame_spr"
+    /// on, that sprite is loaded once, unless the canvas has changes.
     void followFrame(const Sprite* sprite);
 
-    /// Puts an image on the canvas, as its only layer, and forgets the history.
+    /// Puts an image on the canvas as its only layer, and clears the history.
     void setImage(const QImage& image, const QString& name);
 
-    /// True if the canvas is not what the sprite is.
+    /// True if the canvas differs from the sprite.
     bool isCanvasModified() const;
 
-    /// All of the canvas but its history, in the colours of the sprite.
+    /// The whole canvas except its history, in the colours of the sprite.
     CanvasRecord canvasRecord() const;
 
-    /// Shows the canvas in colours that are of no palette, or with null in those of the sprite.
-    /// Pixels stay, and saving uses the sprite's own.
+    /// Shows the canvas in colours that belong to no palette; null returns to the sprite's own.
+    /// Pixels do not change, and saving uses the sprite's own colours.
     void previewColors(const QVector<QRgb>* colors);
 
-    /// True while the colours are not the sprite's: those of above, or of another current palette
-    /// of `paletteEditor()`. What has to know the sprite's own, such as saving, cropping and
-    /// pasting, ends it, and so does a change of its palette.
+    /// True while the canvas shows other colours than the sprite's: from `previewColors()` or from
+    /// another current palette of `paletteEditor()`. Operations that need the sprite's own colours,
+    /// such as saving, cropping and pasting, end the preview. A change of its palette does, too.
     bool isPreviewing() const;
 
-    /// Adds a sprite for each image file, as "spr_add" does with those that are chosen: behind the
-    /// others of the file that is seen, on the canvas or the stage, as one step of undo, after a
-    /// question whether what does not show is cut off. Files are read on several threads, with
-    /// progress; what could not be read is told at the end.
+    /// Adds a sprite for each image file, like "spr_add": behind the other sprites of the file that
+    /// is visible (on the canvas or the stage), as one undo step. First asks whether to crop
+    /// transparent edges. Files are read on worker threads with a progress display; files that
+    /// could not be read are reported at the end.
     void addFiles(const QStringList& files);
 
-    /// Image files that are dropped on a widget are added.
+    /// Adds image files that are dropped on a widget.
     void takeDropsOn(QWidget* widget);
 
 public slots:
-    /// See above. Nothing without a sprite, or without changes.
+    /// Saves the canvas into the sprite. Does nothing without a sprite or without changes.
     void saveImage();
 
 signals:
-    /// Another sprite is on the canvas, or none, or its pixels were read anew.
+    /// The canvas shows another sprite or none, or the pixels of the sprite were reloaded.
     void spriteShown();
 
-    /// The canvas is shown in other colours: those of a preview, or the sprite's own, which may be
-    /// others than before.
+    /// The canvas is shown in other colours: a preview, or the sprite's own, which may have
+    /// changed.
     void colorsShown();
 
 protected:
-    /// Image files are about to be added. True if the host has done it, or the person has given up:
-    /// for one that asks more than whether images are cropped. What it added is shown then. Here
-    /// false.
+    /// Image files are about to be added. A host that asks more than whether to crop overrides this
+    /// and returns true if it added them or the user cancelled; the editor then shows what was
+    /// added. The default returns false.
     virtual bool takeFiles(Sprites* into, const QStringList& files);
 
-    /// Gives an identifier for each of the image files that are about to be added, in their order;
-    /// with another number of them `into`, which takes them, numbers its new sprites. Here none.
+    /// Provides an identifier for each image file about to be added, in the same order. If the
+    /// number differs, `into`, which receives the sprites, numbers them itself. The default
+    /// provides none.
     virtual void newIdentifiers(const Sprites& into, const QStringList& files,
                                 QList<QVariant>* identifiers);
 
-    /// The places that show the sprite in work, a line each for the person, for its properties.
-    /// False, as here, if they are not known.
+    /// The places that show the current sprite, one line each, for its properties dialog. Returns
+    /// false if they are unknown, as by default.
     virtual bool spriteUses(QStringList* places) const;
 
-    /// Asked before the sprite in work is deleted, behind the question of "confirm_delete". False
-    /// keeps it: for a host that knows who names it. Here true.
+    /// Called before the current sprite is deleted, after the question of "confirm_delete". False
+    /// keeps the sprite: for a host that knows what refers to it. The default returns true.
     virtual bool mayDeleteSprite();
 
 private:

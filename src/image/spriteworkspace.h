@@ -13,8 +13,8 @@ class SpriteWorkspacePrivate;
 
 /// The workspace in which a picture is painted: a canvas, or a text while there is none.
 ///
-/// The canvas is made when the workspace is shown first and has no notice. On a display whose GL
-/// does not work none is ever made, and a text stands in its place. Main thread only.
+/// The render widget is created when the workspace is first shown without a notice. On a display
+/// without working GL it is never created, and a text is shown instead. Main thread only.
 class ZORV_EXPORT SpriteWorkspace : public Workspace
 {
     Q_OBJECT
@@ -26,24 +26,24 @@ public:
     /// "image".
     QString name() const override;
 
-    /// A host that does not put it into a window leaves it to the workspace.
+    /// Owned by the workspace unless the host puts it into a window.
     QWidget* widget() const override;
 
-    /// Null without usable GL, and until `renderWidgetMade()`.
+    /// Null without working GL, and before `renderWidgetMade()`.
     RenderWidget* renderWidget() const;
 
-    /// Shows a renderer, which is not owned and has to be taken off, by null, before it goes.
+    /// Shows a renderer. It is not owned: set null before deleting it.
     void setRenderer(GraphicsRendererBase* renderer);
 
-    /// Shows a text in place of the canvas; an empty one shows the canvas.
+    /// Shows a text instead of the canvas; an empty text shows the canvas.
     void setNotice(const QString& text);
 
-    /// What stands there on a display whose GL does not work, in plain words.
+    /// The text shown on a display without working GL, in plain words.
     void setUnusableText(const QString& text);
 
     void retranslate() override;
 
-    /// Of the renderer.
+    /// These go to the renderer.
     void zoomActual() override;
     void zoomIn() override;
     void zoomOut() override;
