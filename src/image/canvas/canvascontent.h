@@ -10,16 +10,16 @@ namespace Zorv {
 
 class CanvasContentPrivate;
 
-/// What was on a canvas, with its history: so a canvas can show another picture meanwhile and have
-/// this one back as it was. See `ImageCanvas::takeContent()`.
+/// The content of a canvas with its history, put aside so that the canvas can show another picture
+/// and get this one back unchanged. See `ImageCanvas::takeContent()`.
 ///
-/// It belongs to that canvas and must go before it. Main thread only.
+/// It belongs to that canvas and must be deleted before it. Main thread only.
 class ZORV_EXPORT CanvasContent
 {
 public:
     ~CanvasContent();
 
-    /// The bytes that layers, selection and history hold.
+    /// The bytes used by layers, selection and history.
     qint64 byteSize() const;
 
 private:

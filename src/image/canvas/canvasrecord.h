@@ -16,9 +16,10 @@ namespace Zorv {
 
 class ImageCanvas;
 
-/// All of a canvas but its history, as a value: to be put aside and brought back.
+/// A snapshot of a canvas without its history, as a value that can be stored and restored.
 ///
-/// Taking one copies no pixels. What does not touch a canvas may be called in any thread.
+/// Taking one copies no pixels. Functions that take no canvas may be called in any thread, unless
+/// they say otherwise.
 struct ZORV_EXPORT CanvasRecord
 {
     struct Layer
@@ -27,30 +28,30 @@ struct ZORV_EXPORT CanvasRecord
         bool isVisible = true;
         double opacity = 1.0;
         QPainter::CompositionMode blendMode = QPainter::CompositionMode_SourceOver;
-        QImage image;  ///< of the size and form of the canvas, without a colour table
+        QImage image;  ///< in the size and format of the canvas, without a colour table
     };
 
     bool isIndexed = false;
     QSize size;
     QPoint axis;
     int active = -1;        ///< the row of the active layer; -1 for none
-    QVector<QRgb> colors;   ///< of the palette: 256
+    QVector<QRgb> colors;   ///< the palette's 256 entries
     QVector<Layer> layers;  ///< the top one first
 
     static CanvasRecord of(const ImageCanvas& canvas);
 
-    /// Gives all of it to a canvas, as one step of undo, "restore". The palette stays. False, with
-    /// nothing changed, if the canvas refuses it.
+    /// Restores all of it on a canvas except the palette, as one undo step, "restore". Returns
+    /// false and changes nothing if the canvas refuses it.
     bool applyTo(ImageCanvas* canvas) const;
 
     /// The visible layers as one image, in the colours of the record. Main thread only.
     QImage flattened() const;
 
-    /// Writes it as bytes, with the pixels packed. False if the device takes not all.
+    /// Writes it as bytes with compressed pixels. False if the device does not take all of them.
     bool write(QIODevice* device) const;
 
-    /// Reads such bytes. False, with the record as it was, for anything that is not a whole canvas
-    /// with at least one layer.
+    /// Reads such bytes. Returns false, leaving the record as it was, for anything but a complete
+    /// canvas with at least one layer.
     bool read(const QByteArray& bytes);
 };
 

@@ -8,53 +8,53 @@ namespace Zorv {
 
 class ImageCanvas;
 
-/// Pixels of a canvas on the clipboard, from and for other programs: a PNG file.
+/// Copies pixels of a canvas to the clipboard and back. Other programs see a PNG file.
 ///
-/// What is copied is the rectangle around the selected pixels, with those in it that are not
-/// selected transparent. An indexed canvas gives an indexed file with its palette, and the file
-/// tells the place where the piece stood. A canvas of true colour gives true colours, as does an
-/// indexed one whose palette has no transparent entry, if one is needed and all 256 are used.
+/// A copy is the rectangle around the selected pixels; the others in it become transparent. An
+/// indexed canvas gives an indexed file with its palette; the file also stores the place of the
+/// piece. True colours are used for a true-colour canvas, and for an indexed one that needs a
+/// transparent entry but has none and uses all 256.
 ///
-/// What is pasted is a PNG or BMP file, or an image of this program or of the system. It takes the
-/// form of the canvas. A pixel keeps its index where the file has the same colour for it as the
-/// palette of the canvas; otherwise it takes the nearest, and transparent becomes transparent.
-/// Nothing is scaled. A piece stands where it stood, or at the top left corner if it came from no
-/// place on this canvas. What lies beyond the canvas is cut off.
+/// Pasting accepts a PNG or BMP file, or an image of this program or of the system, and converts it
+/// to the format of the canvas. A pixel keeps its index if file and canvas have the same colour for
+/// it; otherwise it takes the nearest one, and transparent stays transparent. Nothing is scaled. A
+/// piece goes to its old place, or to the top left corner if it has none on this canvas. Pixels
+/// outside the canvas are cut off.
 ///
-/// What returns false or null has changed nothing, neither the canvas nor the clipboard, and
-/// `ImageCanvas::refused()` has told why. Main thread only.
+/// A function that returns false or null has changed neither the canvas nor the clipboard, and
+/// `ImageCanvas::refused()` has given the reason. Main thread only.
 class ZORV_EXPORT ImageClipboard
 {
 public:
     enum Source {
         ActiveLayer,  ///< as it is, visible or not
-        AllLayers     ///< what `ImageCanvas::mergeLayers()` gives
+        AllLayers     ///< the result of `ImageCanvas::mergeLayers()`
     };
 
     enum Target {
         NewLayer,        ///< on top
-        OntoActiveLayer  ///< above its pixels, whether these are selected or not
+        OntoActiveLayer  ///< drawn over its pixels, selected or not
     };
 
-    /// The selected pixels, for the clipboard or for a drag. The caller's.
+    /// The selected pixels, for the clipboard or for a drag. Owned by the caller.
     static QMimeData* data(ImageCanvas* canvas, Source source);
 
-    /// Puts them on the clipboard.
+    /// Puts the selected pixels on the clipboard.
     static bool copy(ImageCanvas* canvas, Source source = ActiveLayer);
 
-    /// Copies those of the active layer, which has to be visible, and clears them: to transparent,
-    /// or the background if the palette has no transparent entry. One step, "cut".
+    /// Copies the selected pixels of the active layer, which must be visible, and clears them: to
+    /// transparent, or to the background if the palette has no transparent entry. One step, "cut".
     static bool cut(ImageCanvas* canvas);
 
-    /// Clears them likewise, and leaves the clipboard alone. One step, "clear"; false without a
-    /// layer, too.
+    /// Clears the pixels like `cut()`, but leaves the clipboard alone. One step, "clear". Also
+    /// false without a layer.
     static bool clear(ImageCanvas* canvas);
 
-    /// Whether the data, or without any the clipboard, claim to have a picture.
+    /// Whether `data`, or without it the clipboard, claims to contain a picture.
     static bool canPaste(const QMimeData* data = nullptr);
 
-    /// Pastes from data, which stay the caller's, or without any from the clipboard. A new layer
-    /// becomes the active one. One step, "paste"; none if no pixel is different then.
+    /// Pastes from `data`, which stays the caller's, or without it from the clipboard. A new layer
+    /// becomes the active one. One step, "paste"; no step if no pixel changes.
     static bool paste(ImageCanvas* canvas, Target target = NewLayer,
                       const QMimeData* data = nullptr);
 };

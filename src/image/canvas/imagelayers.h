@@ -14,7 +14,7 @@ class ImageLayer;
 class ImageLayersPrivate;
 
 /// The layers of a canvas as a list, the top one first. A row shows the name, which can be edited,
-/// and a box for visible. Main thread only.
+/// and a checkbox for its visibility. Main thread only.
 class ZORV_EXPORT ImageLayers : public QAbstractListModel
 {
     Q_OBJECT
@@ -28,18 +28,18 @@ public:
     ImageLayer* at(unsigned index) const;
     bool contains(const ImageLayer* layer) const;
 
-    /// Puts a layer on top, or at a row from 0 to `count()`. The list takes over the caller's
-    /// reference. The layer takes the form and size of the canvas: it stands at the top left
-    /// corner, and what it lacks is transparent. False, and the reference stays the caller's, for
-    /// one that is in a list already, on an empty canvas, and if memory is short.
+    /// Adds a layer on top, or inserts it at a row from 0 to `count()`. The list takes over the
+    /// caller's reference. The layer takes the format and size of the canvas: it is placed at the
+    /// top left corner, and missing pixels are transparent. Returns false, leaving the reference to
+    /// the caller, if the layer is already in a list, the canvas is empty, or memory is short.
     bool add(ImageLayer* layer, bool record);
     bool insert(ImageLayer* layer, int index, bool record);
 
-    /// Takes a layer out and gives up the list's reference; with `record` the history holds it.
+    /// Removes a layer and releases the list's reference; with `record` the history holds one.
     void remove(ImageLayer* layer, bool record);
     void remove(unsigned index, bool record);
 
-    /// Without a record: for a canvas whose history is cleared.
+    /// Removes all without a record: for a canvas whose history is cleared.
     void removeAll();
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -48,7 +48,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 signals:
-    /// A layer has come, gone, or looks different.
+    /// A layer was added or removed, or looks different.
     void changed();
 
 private:

@@ -13,8 +13,8 @@ namespace Zorv {
 
 class PaletteObject;
 
-/// Where a canvas has its colours from: 256 of them, of which one is in front and one is the
-/// ground. Main thread only.
+/// The colours of a canvas: 256 entries, one of them the foreground and one the background. Main
+/// thread only.
 class ZORV_EXPORT ImagePalette : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     explicit ImagePalette(QObject* parent = nullptr);
     ~ImagePalette() override;
 
-    /// The index that shows where nothing is.
+    /// The index for empty area.
     virtual unsigned char background() const = 0;
 
     /// The index to paint with.
@@ -37,13 +37,13 @@ public:
     virtual void setForeground(unsigned char index) = 0;
     virtual void setBackground(unsigned char index) = 0;
 
-    /// The colours as an object that can be changed; the palette's. Null if they cannot be.
+    /// The colours as an object that can be changed, owned by the palette. Null if they are fixed.
     virtual PaletteObject* palette() const = 0;
 
     /// Fills all 256 entries.
     virtual void toRGBPal(RGBA (&colors)[256]) const = 0;
 
-    /// The same as a colour table of a `QImage`.
+    /// The same colours as a colour table for a `QImage`.
     QVector<QRgb> toRgbPal() const;
 };
 

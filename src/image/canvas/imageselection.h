@@ -10,11 +10,11 @@ class QPainter;
 
 namespace Zorv {
 
-/// A mask of the size of the canvas: a pixel above 0 is selected.
+/// The selection: a mask of the size of the canvas, in which a pixel above 0 is selected.
 ///
-/// It is a `Format_Indexed8` with a table of two entries, with which it can be drawn: what is not
-/// selected becomes darker. Nothing here records or signals, see `ImageCanvas::setSelection()`.
-/// Main thread only.
+/// It is a `Format_Indexed8` image whose table of two entries darkens what is not selected when the
+/// mask is drawn. Nothing here records or signals; see `ImageCanvas::setSelection()` for that. Main
+/// thread only.
 class ZORV_EXPORT ImageSelection
 {
 public:
@@ -26,35 +26,35 @@ public:
     /// The mask to paint into.
     QImage* editMask();
 
-    /// Takes over a `Format_Indexed8` image, whatever its size and table. Any other is ignored.
+    /// Copies a `Format_Indexed8` image of any size and table. Other images are ignored.
     void fromMask(const QImage& mask);
 
-    /// Selects a rectangle and nothing else. It is normalised and clipped.
+    /// Selects only a rectangle, which is normalised and clipped.
     void fromRect(const QRect& rect);
 
-    /// A new mask with all pixels selected; none for an empty size.
+    /// Creates a mask with all pixels selected; none for an empty size.
     void setSize(const QSize& size);
 
     /// Whether all pixels of the mask are selected.
     bool isAll() const;
 
-    /// Without queries all pixels of the mask count as selected for `clipQuery()`.
+    /// When disabled, `clipQuery()` treats all pixels of the mask as selected.
     void enableQueries(bool enabled);
     bool queriesEnabled() const;
 
-    /// Whether a pixel may be painted; never outside of the mask.
+    /// Whether a pixel may be painted; always false outside the mask.
     bool clipQuery(int x, int y) const
     {
         return m_mask.rect().contains(x, y) &&
                (!m_queriesEnabled || m_mask.constScanLine(y)[x] > 0);
     }
 
-    /// The image with all selected pixels set to `color`, or with `inverse` all others. `color` is
-    /// an index for `Format_Indexed8` and else four bytes. An image that has another size than the
-    /// mask, or other than 8 or 32 bits a pixel, comes back as it is.
+    /// Returns the image with all selected pixels set to `color`, or, with `inverse`, all others.
+    /// `color` is an index for `Format_Indexed8` and otherwise four bytes. An image whose size
+    /// differs from the mask, or with neither 8 nor 32 bits per pixel, is returned unchanged.
     QImage filter(const QImage& image, bool inverse, unsigned int color) const;
 
-    /// Darkens what is not selected; the mask's corner is at 0,0.
+    /// Darkens what is not selected, with the mask's corner at 0,0.
     void render(QPainter* painter) const;
 
 private:

@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// Paints in an image of `Format_Indexed8`; of any other it reads 0 and writes nothing.
+/// Paints into a `Format_Indexed8` image; with any other it reads 0 and writes nothing.
 class ZORV_EXPORT IndexPainter : public ImagePainter
 {
 public:

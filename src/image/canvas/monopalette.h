@@ -4,8 +4,8 @@
 
 namespace Zorv {
 
-/// The two colours of a selection mask: 0, not selected, is shown as black with alpha 100, and 1,
-/// selected, as white with alpha 0. Any further index is as 1. Ground and front stay 0 and 1.
+/// The two colours of a selection mask: 0, not selected, is black with alpha 100; 1, selected, is
+/// white with alpha 0. Higher indices act like 1. Background and foreground stay 0 and 1.
 class ZORV_EXPORT MonoPalette : public ImagePalette
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ public:
     /// 0 or 1.
     unsigned char index(const QColor& color) const override;
 
-    /// Without effect.
+    /// No effect.
     void setForeground(unsigned char index) override;
     void setBackground(unsigned char index) override;
 
-    /// Null: these colours cannot be changed.
+    /// Null: these colours are fixed.
     PaletteObject* palette() const override;
     void toRGBPal(RGBA (&colors)[256]) const override;
 };

@@ -9,13 +9,13 @@
 
 namespace Zorv {
 
-/// A bit for each pixel of an image, none set at first. Rows take memory when a bit in them is set.
+/// One bit per pixel of an image, initially 0. A row takes memory only once one of its bits is set.
 class ZORV_EXPORT PixelMarks
 {
 public:
     explicit PixelMarks(const QSize& size = {});
 
-    /// Sets a bit and tells whether it was not set. False outside of the image.
+    /// Sets a bit; returns whether it was not set before. False outside the image.
     bool mark(const QPoint& pixel);
     void unmark(const QPoint& pixel);
 

@@ -8,12 +8,12 @@ namespace Zorv {
 class ZORV_EXPORT RasterLayer : public ImageLayer
 {
 public:
-    /// Takes over an indexed image as it is, without its colour table, and any other as
-    /// `Format_ARGB32`. A canvas brings it into its own form and size when it enters.
+    /// Keeps an indexed image as it is, without its colour table, and converts any other to
+    /// `Format_ARGB32`. A canvas converts it to its own format and size when the layer is added.
     RasterLayer(ImageCanvas* canvas, const QImage& image);
 
-    /// An empty layer: every pixel is transparent, or of the background if the palette of an
-    /// indexed canvas has no transparent entry.
+    /// An empty layer: all pixels are transparent, or background if the palette of an indexed
+    /// canvas has no transparent entry.
     RasterLayer(ImageCanvas* canvas, const QSize& size, ImageCanvas::Format format);
 
     ImageLayer* duplicate() const override;

@@ -8,8 +8,8 @@
 
 namespace Zorv {
 
-/// Paints in an image of `Format_ARGB32`; of any other it reads 0 and writes nothing. The palette
-/// tells the colours; a remap goes by the nearest entry of a pixel.
+/// Paints into a `Format_ARGB32` image; with any other it reads 0 and writes nothing. Colours come
+/// from the palette; a remap uses the nearest entry of a pixel.
 class ZORV_EXPORT RGBAPainter : public ImagePainter
 {
 public:
