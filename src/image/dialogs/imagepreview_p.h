@@ -6,8 +6,8 @@
 class QDialog;
 class QFormLayout;
 
-/// Shows a picture in the middle, as large as whole multiples of its pixels fit; what is too large
-/// is made smaller.
+/// Shows a picture in the middle, enlarged by the largest whole factor that fits. A picture that is
+/// too large is scaled down.
 class ImagePreview : public QWidget
 {
     Q_OBJECT
@@ -26,9 +26,9 @@ private:
     QImage m_picture;
 };
 
-/// A picture of which previews are made: one that is small enough for each change of a field.
-/// `scale` takes by how much it is smaller.
+/// A picture small enough to compute a preview at each change of a field. `scale` receives its size
+/// relative to the original.
 QImage previewSource(const QImage& picture, double* scale);
 
-/// Fills a dialog: the form with the preview beside it, and below them what ends the dialog.
+/// Fills a dialog: the form with the preview beside it, and below them the dialog buttons.
 void layOutBeside(ImagePreview* preview, QFormLayout* form, QDialog* dialog);

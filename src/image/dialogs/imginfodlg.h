@@ -12,8 +12,8 @@ class QComboBox;
 class QFormLayout;
 class QSpinBox;
 
-/// Shows what is to be known of a sprite, and asks for what can be changed: its number, its axis,
-/// its size and form.
+/// Shows the properties of a sprite, and edits some of them: its number, axis, size and pixel
+/// format.
 class ZORV_EXPORT ImgInfoDlg : public QDialog
 {
     Q_OBJECT
@@ -25,17 +25,17 @@ public:
         QPoint axis;                ///< in pixels from the top left corner
         QSize size;
         bool isIndexed = true;
-        int colorCount = 0;  ///< colours that pixels have; -1 for more than are counted
+        int colorCount = 0;  ///< distinct colours used by pixels; -1 if too many to count
         QString codec;       ///< how the pixels are stored; empty for unknown
         QString palette;     ///< its identifier; empty for none
-        QStringList uses;    ///< the places that show the sprite, a line each
+        QStringList uses;    ///< the places that show the sprite, one line each
         bool areUsesKnown = false;
     };
 
     ImgInfoDlg(QWidget* parent, const Facts& facts);
     ~ImgInfoDlg() override;
 
-    /// The facts, with what the person has changed.
+    /// The facts with the changes of the user.
     Facts facts() const;
 
 private:

@@ -14,8 +14,8 @@ class QComboBox;
 class QDoubleSpinBox;
 class QSpinBox;
 
-/// Asks for another size of an image: the picture is scaled, by a filter, or keeps its pixels and
-/// gets or loses room around it, from an anchor on. A preview shows what comes of it.
+/// Asks for a new image size. The picture is either scaled with a filter, or keeps its pixels and
+/// gains or loses space around it, from an anchor. A preview shows the result.
 class ZORV_EXPORT ImgResizeDlg : public QDialog
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ class ZORV_EXPORT ImgResizeDlg : public QDialog
 public:
     enum Mode {
         ScalePicture,  ///< all pixels are scaled
-        ChangeCanvas   ///< pixels stay, and there is more or less room around them
+        ChangeCanvas   ///< pixels stay, and the space around them changes
     };
 
     ImgResizeDlg(QWidget* parent, const QImage& picture);
@@ -31,13 +31,13 @@ public:
 
     Mode mode() const;
 
-    /// 1 to 32767 each way.
+    /// From 1 to 32767 on each side.
     QSize chosenSize() const;
 
-    /// Of `ScalePicture`.
+    /// For `ScalePicture`.
     Zorv::ImageResizeFilter filter() const;
 
-    /// Where the corner of the old picture comes to stand, of `ChangeCanvas`.
+    /// The new place of the old picture's top left corner, for `ChangeCanvas`.
     QPoint position() const;
 
 private:

@@ -10,13 +10,13 @@ class ImagePreview;
 class QComboBox;
 class QDoubleSpinBox;
 
-/// Asks for an angle by which an image is turned, and a filter. A preview shows what comes of it.
+/// Asks for a rotation angle and a filter. A preview shows the result.
 class ZORV_EXPORT RotImgDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `fill` is what stands in the corners, as of `Zorv::rotateImage()`.
+    /// `fill` is the pixel for the empty corners, see `Zorv::rotateImage()`.
     RotImgDlg(QWidget* parent, const QImage& picture, unsigned fill);
     ~RotImgDlg() override;
 

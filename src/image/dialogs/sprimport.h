@@ -6,14 +6,14 @@ namespace Zorv {
 class Sprites;
 }
 
-/// Chooses sprites of another open project for a collection, as `ImportDlg` does, each with its
-/// picture.
+/// Chooses sprites of another open project to import into a collection; an `ImportDlg` that shows
+/// the picture of each.
 class ZORV_EXPORT SprImport : public ImportDlg
 {
     Q_OBJECT
 
 public:
-    /// The sprites of all sprite files of a project are offered.
+    /// Offers the sprites of all sprite files of a project.
     SprImport(Zorv::Interface* host, Zorv::Sprites* destination);
     ~SprImport() override;
 

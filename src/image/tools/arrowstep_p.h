@@ -5,7 +5,7 @@
 
 namespace Zorv {
 
-/// One pixel in the direction of an arrow key; none for other keys.
+/// One pixel in the direction of an arrow key; zero for other keys.
 inline QPoint arrowStep(int key)
 {
     switch (key) {

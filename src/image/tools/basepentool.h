@@ -13,11 +13,11 @@ class BasePenToolPrivate;
 class ImagePainter;
 class StrokeOptions;
 
-/// A tool that paints where the mouse is dragged, with a square of 1 to 24 pixels.
+/// A tool that paints while the mouse is dragged, with a square of 1 to 24 pixels.
 ///
-/// A press begins a stroke, which is one step of undo if it changed anything. It ends with the
-/// last button, when the mouse is lost, when the layer is another one, and when something else is
-/// done to the canvas; what is left of the press then paints nothing. The keys + and - change the
+/// A press begins a stroke, which becomes one undo step if it changed anything. The stroke ends
+/// when the last button is released, the mouse is lost, the active layer changes, or something else
+/// is done to the canvas; the rest of the press then paints nothing. The keys + and - change the
 /// width.
 class ZORV_EXPORT BasePenTool : public ImageTool
 {
@@ -26,11 +26,11 @@ class ZORV_EXPORT BasePenTool : public ImageTool
 public:
     ~BasePenTool() override;
 
-    /// What several tools share, not owned; null for strokes without extras.
+    /// Options shared by several tools. Not owned; null for strokes without extras.
     void setStrokeOptions(StrokeOptions* options);
     StrokeOptions* strokeOptions() const;
 
-    /// The width, from 1 to 24.
+    /// The width slider, from 1 to 24.
     QSlider* slider() const;
 
     void deactivated() override;
@@ -47,30 +47,30 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
-    /// `title` is that of the step, a fixed name. Without `recordUndo` a stroke is not recorded,
-    /// and `announce()` is not asked.
+    /// `title` is the fixed name of the undo step. Without `recordUndo` a stroke is not recorded,
+    /// and `announce()` is not called.
     BasePenTool(ImageCanvas* canvas, bool recordUndo, const QString& title, QObject* parent);
 
-    /// Paints as far as a point of the canvas.
+    /// Paints up to a point of the canvas.
     virtual void draw(const QPoint& point);
 
     /// Chooses colours and calls `paint()`. The painter has the width of the slider.
     virtual void doDraw(const QPoint& point, ImagePainter* painter) = 0;
 
-    /// What is painted on, and whether a stroke can begin. The active layer if it is visible.
+    /// What is painted on, and whether a stroke can begin. By default the active layer, if visible.
     virtual bool canStroke() const;
     virtual ImagePainter* strokePainter();
 
-    /// Begins and ends the record.
+    /// Begins and ends the recording of a stroke.
     virtual void beginRecord();
     virtual void endRecord();
 
-    /// A point where the stroke stands, else a line from there. With `Joined` a press with Shift
-    /// draws a line from the end of the last stroke on this layer.
+    /// Paints a line from `lastPos()`, or a point if it is there. With `Joined`, a press with
+    /// Shift draws a line from the end of the last stroke on this layer.
     enum Join { Apart, Joined };
     void paint(ImagePainter* painter, const QPoint& point, Join join);
 
-    /// Of the press: latched when it began.
+    /// The state at the press: it does not change during a stroke.
     bool isLeftButton() const;
     bool isShift() const;
 

@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// Moves the picture in its view. Works without a layer, too.
+/// Moves the picture within its view. Also works without a layer.
 class ZORV_EXPORT CanvasMoveTool : public ImageTool
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ public:
                     QCursor& cursor) override;
 
 private:
-    QPoint m_position;  ///< of the canvas, when the press began
-    QPoint m_shown;     ///< as the last move left it
+    QPoint m_position;  ///< of the canvas, at the press
+    QPoint m_shown;     ///< the position set by the last move
 };
 
 }  // namespace Zorv

@@ -6,15 +6,15 @@ namespace Zorv {
 
 class ImagePalette;
 
-/// A run of entries of a palette that goes from dark to light or from light to dark.
+/// A range of palette entries that runs from dark to light or from light to dark.
 struct ZORV_EXPORT ColorRamp
 {
     unsigned char first;
     unsigned char last;
 
-    /// The longest one with an entry in it; the entry alone if its neighbours do not go with it.
-    /// Along a ramp each colour is lighter than the one before, or each darker, none is
-    /// transparent, and no step is larger than 96 in any channel.
+    /// The longest ramp that contains an entry; only the entry itself if no neighbour fits. Along a
+    /// ramp every colour is lighter than the one before, or every colour is darker. None is
+    /// transparent, and no channel changes by more than 96 per step.
     static ColorRamp around(const ImagePalette& palette, unsigned char index);
 };
 

@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// Paints with the background; with any other button than the left only over the foreground.
+/// Paints with the background colour; with any button but the left only over the foreground colour.
 class ZORV_EXPORT EraserTool : public BasePenTool
 {
     Q_OBJECT

@@ -4,8 +4,8 @@
 
 namespace Zorv {
 
-/// Fills an area of one colour of the active layer with the foreground when the press ends,
-/// whatever the button. One step of undo if anything changed.
+/// Fills an area of one colour on the active layer with the foreground colour. It acts when the
+/// press ends, with any button. One undo step if anything changed.
 class ZORV_EXPORT FloodFillTool : public PickerTool
 {
     Q_OBJECT

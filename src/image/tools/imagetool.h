@@ -18,20 +18,20 @@ namespace Zorv {
 class ImageCanvas;
 class ImageLayer;
 
-/// Turns the mouse and the keys of a view of a canvas into changes of it.
+/// Turns mouse and keyboard input of a canvas view into changes of the canvas.
 ///
-/// A view tells its tool where the mouse is in two ways: `screen` in pixels of the widget, and
-/// `image`, the pixel of the canvas that is under it (rounded down), which may lie outside. Only
-/// one press counts at a time: it begins with the first button and ends with the last. Nothing is
-/// changed on a hidden layer, or without one.
+/// A view reports the mouse in two ways: `screen`, in pixels of the widget, and `image`, the canvas
+/// pixel under it (rounded down), which may be outside the canvas. Only one press counts at a time:
+/// it begins with the first button and ends with the last. Tools change nothing on a hidden layer,
+/// or without a layer.
 ///
-/// The canvas outlives the use of the tool. Main thread only.
+/// The canvas must outlive the use of the tool. Main thread only.
 class ZORV_EXPORT ImageTool : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The tools in the order in which they are offered.
+    /// The tools in the order of the user interface.
     enum Type {
         CanvasMoveTool,
         SelMoveTool,
@@ -44,17 +44,17 @@ public:
         FloodFillTool
     };
 
-    /// The tool becomes the one in use, or is no longer. What was begun is ended.
+    /// The tool becomes the current one, or stops being it. Deactivating ends what was begun.
     virtual void activated();
     virtual void deactivated();
 
     /// The canvas has another active layer, another size, or shows another image.
     virtual void activeLayerChanged();
 
-    /// True if the key was used.
+    /// Returns true if the tool used the key.
     virtual bool keyPressed(Qt::KeyboardModifiers modifiers, int key);
 
-    /// A tool may give the view another cursor.
+    /// A tool may change the cursor of the view.
     virtual void mousePressed(Qt::KeyboardModifiers modifiers, Qt::MouseButton button,
                               QPoint screen, QPoint image, QCursor& cursor);
     virtual void mouseReleased(Qt::KeyboardModifiers modifiers, Qt::MouseButton button,
@@ -62,60 +62,60 @@ public:
     virtual void mouseMoved(Qt::KeyboardModifiers modifiers, QPoint screen, QPoint image,
                             QCursor& cursor);
 
-    /// Draws what marks the mouse at `pos` of the widget; `zoom` pixels of it are one of the
-    /// canvas.
+    /// Draws the tool's marker for the mouse at `pos` of the widget. A canvas pixel is `zoom`
+    /// widget pixels wide.
     virtual void renderCursor(QPainter& painter, QPoint pos, double zoom);
 
-    /// A click on a colour of the palette. True if the tool has used it up.
+    /// The user clicked a colour of the palette. Returns true if the tool used the click.
     virtual bool colorClicked(bool isRightButton, unsigned char index);
 
-    /// The press ends without a release: the focus or the grab of the mouse is gone. What was done
-    /// until here stays.
+    /// The press ends without a release, because the focus or the mouse grab is gone. What was done
+    /// so far stays.
     virtual void mouseLost();
 
-    /// The mouse has left the view. Without effect on a press.
+    /// The mouse has left the view. Does not affect a press.
     virtual void mouseLeft();
 
-    /// The side of the square that is painted, in pixels of the canvas, its top left corner at
-    /// `image`. So a view can hand over a point that puts it around the mouse.
+    /// The side of the brush square, in canvas pixels; its top left corner is at `image`. A view
+    /// uses it to pass a point that centres the square on the mouse.
     virtual int brushWidth() const;
 
-    /// The widget with the tool's options. It is deleted with the tool, or with its parent.
+    /// The widget with the tool's options. Deleted with the tool, or with its parent.
     QWidget* widget() const;
 
     bool isPressed() const;
 
 signals:
-    /// The canvas looks different, or would with other options.
+    /// The canvas looks different, or would look different with the new options.
     void layerChanged();
 
 protected:
-    /// With an empty options widget if `widget` is null; else the tool's from now on.
+    /// Takes over `widget` as the options; null creates an empty one.
     ImageTool(ImageCanvas* canvas, QWidget* widget, QObject* parent);
     ~ImageTool() override;
 
-    /// Replaces the options, which are not deleted: the new widget may have them in it.
+    /// Replaces the options widget without deleting the old one: the new one may contain it.
     void setWidget(QWidget* widget);
 
     ImageCanvas* canvas() const;
 
-    /// The active layer if it can be painted on, that is if it is visible; else null.
+    /// The active layer if it is visible, so that it can be painted on; otherwise null.
     ImageLayer* paintedLayer() const;
 
-    /// What a press and a release do in each tool. They tell whether a press begins or ends.
+    /// Every tool calls these on a press and a release. They return whether a press begins or ends.
     bool beginPress(Qt::MouseButton button, QPoint screen, QPoint image);
     bool endPress(Qt::MouseButton button);
 
-    /// Where the press began, in the widget, and the pixel of the canvas that came last.
+    /// Where the press began, in the widget, and the most recent canvas pixel.
     QPoint pressPos() const;
     QPoint lastPos() const;
     void setLastPos(QPoint image);
 
-    /// Without a pen, with a solid brush.
+    /// Sets a solid brush and no pen.
     static void setColor(QPainter& painter, const QColor& color);
 
-    /// Lines of one pixel of the widget at any zoom: from a point, across the greater side of
-    /// `size`, and the frame of a rectangle.
+    /// Lines one widget pixel wide at any zoom: from a point along the longer side of `size`, and
+    /// the frame of a rectangle.
     static void drawPlainLine(QPainter& painter, const QPoint& from, const QSize& size);
     static void drawPlainRect(QPainter& painter, const QRect& rect);
 

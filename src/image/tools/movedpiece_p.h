@@ -12,24 +12,24 @@ class ImageCanvas;
 class ImageLayer;
 class ImagePalette;
 
-/// The selected pixels of a layer, lifted off it, to be put down elsewhere.
+/// The selected pixels of a layer, lifted off so that they can be put down elsewhere.
 class MovedPiece
 {
 public:
     /// Lifts them off. The layer is not changed.
     MovedPiece(const ImageCanvas& canvas, const ImageLayer& layer);
 
-    /// Whether layer, mask and colours are as they were when the piece was shown at `offset`.
+    /// Whether layer, mask and colours are unchanged since the piece was shown at `offset`.
     bool isAsShown(const ImageCanvas& canvas, const ImageLayer& layer, const QPoint& offset);
 
-    /// Where it shows at an offset.
+    /// The rectangle of the piece at an offset.
     QRect rectAt(const QPoint& offset) const;
 
-    /// Brings a rectangle of the layer's image to how it is with the piece at an offset. At no
-    /// offset that is as it was.
+    /// Updates a rectangle of the layer's image to show the piece at an offset. Offset 0 restores
+    /// the original.
     void show(QImage& image, const QRect& rect, const QPoint& offset);
 
-    /// Knows the image again that it has been shown in.
+    /// Notes the image the piece is shown in, so that `isAsShown()` detects later changes.
     void remember(const QImage& image) { m_shownKey = image.cacheKey(); }
 
 private:

@@ -7,8 +7,8 @@
 
 namespace Zorv {
 
-/// Paints on the selection: the left button adds pixels to it, the right one takes them away. One
-/// step of undo a stroke. Needs no layer.
+/// Paints on the selection: the left button adds pixels, the right one removes them. One undo step
+/// per stroke. Needs no layer.
 class ZORV_EXPORT PenSelTool : public BasePenTool
 {
     Q_OBJECT

@@ -4,8 +4,8 @@
 
 namespace Zorv {
 
-/// Paints with the foreground, with any other button than the left with the background. A click
-/// with Shift draws a line from where the last stroke on this layer ended.
+/// Paints with the foreground colour, or with any button but the left with the background colour.
+/// Shift and a click draw a line from where the last stroke on this layer ended.
 class ZORV_EXPORT PenTool : public BasePenTool
 {
     Q_OBJECT

@@ -6,8 +6,8 @@ namespace Zorv {
 
 class ImagePainter;
 
-/// Takes the colour of a pixel of the active layer when the press ends: with the left button as
-/// foreground, with the right one as background.
+/// Picks the colour of a pixel of the active layer when the press ends: the left button sets the
+/// foreground, the right one the background.
 class ZORV_EXPORT PickerTool : public ImageTool
 {
     Q_OBJECT
@@ -24,11 +24,11 @@ public:
     void renderCursor(QPainter& painter, QPoint pos, double zoom) override;
 
 protected:
-    /// Does it at `lastPos()`, which lies within the image.
+    /// Picks at `lastPos()`, which is inside the image.
     virtual void pick(ImagePainter* painter);
 
 private:
-    Qt::MouseButton m_button = Qt::NoButton;  ///< that began the press
+    Qt::MouseButton m_button = Qt::NoButton;  ///< the one that began the press
 };
 
 }  // namespace Zorv

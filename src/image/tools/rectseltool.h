@@ -4,8 +4,8 @@
 
 namespace Zorv {
 
-/// Selects the rectangle from the pixel of the press to that of the release, both included; a
-/// click without a move selects all. One step of undo. A press that is lost selects nothing.
+/// Selects the rectangle from the pixel of the press to the pixel of the release, both included; a
+/// click without a move selects everything. One undo step. A lost press selects nothing.
 class ZORV_EXPORT RectSelTool : public ImageTool
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
                     QCursor& cursor) override;
     void renderCursor(QPainter& painter, QPoint pos, double zoom) override;
 
-    /// The rectangle that a release would select, in pixels of the canvas and clipped to it; empty
+    /// The rectangle that a release would select, in canvas pixels, clipped to the canvas; empty
     /// without a press.
     QRect rect() const;
 

@@ -6,13 +6,13 @@ namespace Zorv {
 
 class PaletteRemapWidget;
 
-/// A pen that changes colours into others, as a table of twelve rows says: with the left button
-/// sources into targets, with any other the way back. A stroke changes each pixel once. Without a
-/// row that has both colours nothing is painted.
+/// A pen that replaces colours according to a table of twelve rows: the left button turns sources
+/// into targets, any other button the reverse. A stroke changes each pixel once. Nothing is painted
+/// unless a row has both colours.
 ///
-/// A click on a colour of the palette, or with Shift on the canvas, puts it into the current row:
-/// the left button sets the source, any other the target. The arrows up and down choose the row.
-/// With `StrokeOptions::isShading()` a click on a colour sets the rows up with the ramp it is in.
+/// A click on a colour of the palette, or Shift and a click on the canvas, puts it into the current
+/// row: the left button sets the source, any other the target. The up and down keys choose the row.
+/// With `StrokeOptions::isShading()` a click on a colour fills the rows with its ramp.
 class ZORV_EXPORT ReplaceTool : public BasePenTool
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ class ZORV_EXPORT ReplaceTool : public BasePenTool
 public:
     explicit ReplaceTool(ImageCanvas* canvas, QObject* parent = nullptr);
 
-    /// The table, a part of the options.
+    /// The table, part of the options.
     PaletteRemapWidget* rows() const;
 
-    /// Sets the rows up so that the left button moves colours one step on along the entries from
-    /// `first` to `last`, and any other one step back. Of more than twelve steps the first count.
+    /// Fills the rows so that the left button moves colours one step along the entries from `first`
+    /// to `last`, and any other button one step back. Only the first twelve steps are used.
     void setRamp(unsigned char first, unsigned char last);
 
     void activated() override;
@@ -34,8 +34,8 @@ public:
     bool colorClicked(bool isRightButton, unsigned char index) override;
 
 public slots:
-    /// Shows the rows in the palette's present colours. While the tool is in use it hears by itself
-    /// of changes of a `ColorPalette`, or of the `PaletteObject` of another palette.
+    /// Updates the rows to the current colours of the palette. While active, the tool follows
+    /// changes of a `ColorPalette`, or of another palette's `PaletteObject`, by itself.
     void palChanged();
 
 protected:

@@ -8,12 +8,12 @@ namespace Zorv {
 
 class MovedPiece;
 
-/// Moves the selected pixels of the active layer, with the mouse or by the arrows. The background
-/// is left where they were; pixels that are not selected stay as they are. The selection stays.
+/// Moves the selected pixels of the active layer, with the mouse or the arrow keys. Their old place
+/// gets the background colour; the other pixels and the selection stay as they are.
 ///
-/// The pixels can be moved on, over others and back, as long as nothing else changes layer, mask or
-/// palette: then what is selected by then is lifted off anew. A drag is one step of undo; arrows
-/// that follow each other are one together.
+/// The same pixels can be moved again, over others and back, as long as nothing else changes layer,
+/// mask or palette. After such a change, the pixels selected by then are lifted off. A drag is one
+/// undo step; consecutive arrow keys make one together.
 class ZORV_EXPORT SelMoveTool : public ImageTool
 {
     Q_OBJECT
@@ -40,8 +40,8 @@ private:
     QPoint dragged(QPoint screen, QPoint image) const;
 
     std::unique_ptr<MovedPiece> m_piece;
-    QPoint m_offset;  ///< where the piece stood when the act began
-    QPoint m_shown;   ///< and where it stands
+    QPoint m_offset;  ///< of the piece when the move began
+    QPoint m_shown;   ///< of the piece now
     QPoint m_pressPixel;
     bool m_isMoving = false;
 };

@@ -4,7 +4,8 @@
 
 namespace Zorv {
 
-/// A line in runs of equal length: level, upright, diagonal, or in steps of up to four pixels.
+/// A line in runs of equal length: horizontal, vertical, diagonal, or in steps of up to four
+/// pixels.
 struct StraightLine
 {
     QPoint from;
@@ -13,7 +14,7 @@ struct StraightLine
     int length = 1;  ///< pixels of a run
     int runs = 1;
 
-    /// The one from a pixel that comes nearest to another.
+    /// The line from one pixel that comes nearest to another.
     static StraightLine towards(const QPoint& from, const QPoint& to);
 
     QPoint runStart(int run) const { return from + (across + along * length) * run; }

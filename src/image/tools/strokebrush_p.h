@@ -16,24 +16,24 @@ namespace Zorv {
 
 class ImagePainter;
 
-/// Paints points and lines of one stroke as the options want them: mirrored, and without corners.
+/// Paints the points and lines of one stroke with the options: mirrored, and without corners.
 class StrokeBrush
 {
 public:
     void setOptions(StrokeOptions* options) { m_options = options; }
     StrokeOptions* options() const { return m_options; }
 
-    /// Begins another stroke on an image of this size.
+    /// Begins a new stroke on an image of this size.
     void begin(const QSize& size);
 
     void point(ImagePainter* painter, const QPoint& point);
     void line(ImagePainter* painter, const QPoint& from, const QPoint& to);
     void line(ImagePainter* painter, const StraightLine& line);
 
-    /// The pixels that a remap has met.
+    /// The pixels that a remap has already changed in this stroke.
     PixelMarks& marks() { return m_marks; }
 
-    /// What was given back to its old colour since this was asked last.
+    /// The rectangle restored to old colours since the last call.
     QRect takeRestored();
 
 private:
@@ -42,7 +42,7 @@ private:
         QPoint place;
         quint32 before;
     };
-    /// One point of a stroke of one pixel's width, with what was there on all sides of the axes.
+    /// One point of a stroke one pixel wide, with the old pixels on all sides of the axes.
     struct Dot
     {
         QPoint place;

@@ -11,8 +11,8 @@ class QSize;
 
 namespace Zorv {
 
-/// Options of strokes that several tools share. All are off at first, and take effect with the
-/// next point that is painted. Main thread only.
+/// Stroke options shared by several tools. All are off initially. A change applies from the next
+/// painted point on. Main thread only.
 class ZORV_EXPORT StrokeOptions : public QObject
 {
     Q_OBJECT
@@ -24,41 +24,41 @@ class ZORV_EXPORT StrokeOptions : public QObject
 public:
     enum SymmetryFlag {
         NoSymmetry = 0,
-        LeftRight = 1,  ///< about an upright axis
-        TopBottom = 2   ///< about a level one
+        LeftRight = 1,  ///< mirrors at a vertical axis
+        TopBottom = 2   ///< mirrors at a horizontal axis
     };
     Q_DECLARE_FLAGS(Symmetry, SymmetryFlag)
     Q_FLAG(Symmetry)
 
     explicit StrokeOptions(QObject* parent = nullptr);
 
-    /// A stroke of one pixel's width has no corners: a pixel that only joins two others is taken
-    /// away again.
+    /// A stroke one pixel wide gets no corners: a pixel that only joins two others is removed
+    /// again.
     bool isPixelPerfect() const;
     void setPixelPerfect(bool isOn);
 
-    /// Moves with Shift held draw one line from where Shift was first seen, in runs of equal
-    /// length.
+    /// While Shift is held, a drag draws one straight line from where Shift was first seen, in runs
+    /// of equal length.
     bool straightLines() const;
     void setStraightLines(bool isOn);
 
-    /// A click on a colour sets the replace tool up with the ramp that the colour is in.
+    /// A click on a colour fills the replace tool with the ramp of that colour.
     bool isShading() const;
     void setShading(bool isOn);
 
-    /// What is painted appears on the other side of the axes, too.
+    /// What is painted also appears mirrored on the other side of the axes.
     Symmetry symmetry() const;
     void setSymmetry(Symmetry symmetry);
 
-    /// Where both axes cross, in pixels from the top left corner: at a whole number an axis lies
-    /// between two pixels, at a half in the middle of one. Others are rounded to halves. What is no
-    /// number is ignored.
+    /// The crossing of both axes, in pixels from the top left corner: at a whole number an axis
+    /// lies between two pixels, at a half in the middle of one. Other values are rounded to halves.
+    /// NaN and values beyond +-65536 are ignored.
     void setSymmetryAxis(const QPointF& axis);
 
-    /// The axes are in the middle of whatever canvas it is, as at first.
+    /// Keeps the axes in the middle of any canvas, as initially.
     void centerSymmetryAxis();
 
-    /// Axes that are beside a canvas of this size come to its edge.
+    /// Moves axes that lie outside a canvas of this size to its edge.
     void keepSymmetryAxisOn(const QSize& canvas);
 
     /// The crossing for a canvas of this size.
