@@ -8,25 +8,24 @@ class GameProgram;
 
 namespace Operations {
 
-/// What the person has said to the program of a game folder.
+/// The user's consent to run the program that a game folder names.
 enum class Agreement {
     None,
-    Outdated,  ///< to another content of the file
+    Outdated,  ///< given, but the file has changed since
     Given
 };
 
 Agreement agreementTo(const Family::GameProgram& program, QSettings& settings);
 
-/// Keeps the agreement in the settings, where no game folder reaches. False if it could not be
-/// stored.
+/// Stores the consent in the settings, which no game folder can write to. False if that failed.
 bool agreeTo(const Family::GameProgram& program, QSettings& settings);
 
-/// As long as it lives, the program is the one that `ParentProject::run()` starts for its game. It
-/// is looked at once more right before that, and not started if it has changed.
+/// While this object lives, `ParentProject::run()` starts the program for its game. The file is
+/// checked once more right before the start. If it has changed, the program is not started.
 class NamedProgram
 {
 public:
-    /// A program that is not there names none.
+    /// A program that does not exist counts as none.
     explicit NamedProgram(const Family::GameProgram& program);
     ~NamedProgram();
 

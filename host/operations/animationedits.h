@@ -11,47 +11,48 @@ class FamilyAnimations;
 
 namespace Operations {
 
-/// The place of the animation that `reference` names: an identifier, or "#3" for
-/// a place counted from 0. -1 without one; `error` then tells what there is. An
-/// identifier that several animations have names none of them.
+/// The index of the animation that `reference` names: an identifier, or "#3" for an index counted
+/// from 0. -1 if there is none; `error` then lists what exists. An identifier that several
+/// animations share matches none of them.
 int findAnimation(const Family::FamilyAnimations* list, const QString& reference, QString* error);
 
-/// An identifier that no animation has: the next free number behind a number,
-/// "jab-2" and so on behind a word.
+/// An unused identifier based on `identifier`: the next free number after a number, "jab-2" and so
+/// on after a word.
 QString freeIdentifier(const Family::FamilyAnimations* list, const QString& identifier);
 
-/// The number behind the highest that an animation has; "0" without any.
+/// The highest number of any animation plus one; "0" without numbers.
 QString nextAnimationNumber(const Family::FamilyAnimations* list);
 
-/// Why no new animation can have an identifier, beside those that are taken; empty if one can.
+/// Why `identifier` is not a valid name for a new animation, apart from `taken`; empty if it is
+/// valid.
 QString animationNameFault(const QStringList& taken, const QString& identifier);
 
-/// The identifiers of all animations, in their order.
+/// The identifiers of all animations, in order.
 QStringList animationIdentifiers(const Family::FamilyAnimations* list);
 
-/// A frame that is to be written.
+/// A frame to be written.
 struct NewFrame
 {
     Family::AssetId sprite;
-    int ticks = 1;  ///< -1 for one that stays
+    int ticks = 1;  ///< -1 for a frame that stays
 };
 
-/// Writes an animation at the end, in one step of undo. False, with `error` and no change, for an
-/// identifier that cannot be one or is taken, or without frames.
+/// Appends an animation, as one undo step. Returns false with `error` and changes nothing if the
+/// identifier is invalid or taken, or if there are no frames.
 bool addAnimation(Family::FamilyAnimations* list, const QString& identifier,
                   const QVector<NewFrame>& frames, QString* error);
 
-/// The ticks of frames that take so many milliseconds, each at least one. Where none is shorter
-/// than a tick their sum is never off by more than half of one.
+/// Converts frame times from milliseconds to ticks. Each frame gets at least one tick. If no frame
+/// is shorter than a tick, the rounding error of the sum is at most half a tick.
 QVector<int> ticksOf(const QVector<int>& milliseconds);
 
-/// Writes a copy behind an animation, in one step of undo. False, with `error`
-/// and no change, for an identifier that cannot be one or is taken.
+/// Inserts a copy after an animation, as one undo step. Returns false with `error` and changes
+/// nothing if the identifier is invalid or taken.
 bool duplicateAnimation(Family::FamilyAnimations* list, int index, const QString& identifier,
                         QString* error);
 
-/// Takes several animations out of the text, in one step of undo. Places
-/// outside of the list, and repeated ones, count for nothing.
+/// Removes several animations from the text, as one undo step. Indexes out of range and duplicates
+/// are ignored.
 void removeAnimations(Family::FamilyAnimations* list, QVector<int> indexes);
 
 }  // namespace Operations

@@ -16,28 +16,28 @@ class SpriteCollection;
 
 namespace Operations {
 
-/// Animations on disk that are to be taken over, with the sprites that they show. Open for as long
-/// as this lives.
+/// Animations on disk to import from, with the sprites that they show. The files stay open while
+/// this object lives.
 class AnimationSource
 {
 public:
-    /// `path` is a main file, with the code files that it names; a folder with one main file below
-    /// it; or a single code file, whose sprites are those of the one sprite file beside it.
+    /// `path` is a main file, which also brings the code files that it names; a folder with one
+    /// main file in it; or a single code file, which uses the only sprite file beside it.
     explicit AnimationSource(const QString& path);
     ~AnimationSource();
 
-    /// Why nothing could be opened; empty if it was.
+    /// Why nothing could be opened; empty on success.
     QString errorString() const { return m_error; }
 
-    /// Where comments above animations belong to these.
+    /// Sets whether the comments above an animation are imported with it.
     void setCommentsTravel(bool travel);
 
-    /// The animations that words name: each is an identifier or, of a single list, a place as
-    /// "#3", and may be followed by "=" and another identifier. All of them for no words. Empty,
-    /// with `error`, for a word that names none, or several.
+    /// The animations that `words` name. A word is an identifier or, for a single list, an index
+    /// such as "#3". It may be followed by "=" and a new identifier. No words mean all animations.
+    /// Empty, with `error`, if a word matches no animation or several.
     QVector<Zorv::ImportEntry> entries(const QStringList& words, QString* error) const;
 
-    /// The sprites, opened when they are asked for first. Null, with `error`, without any.
+    /// The sprites, opened at the first call. Null, with `error`, if there are none.
     const Family::SpriteCollection* sprites(QString* error);
 
 private:
@@ -51,12 +51,12 @@ private:
     std::unique_ptr<Family::FamilyParentProject> m_game;
     Family::FamilyProject* m_project = nullptr;
     Family::FamilyDocument* m_document = nullptr;
-    Family::SpriteCollection* m_sprites = nullptr;  // of m_document
+    Family::SpriteCollection* m_sprites = nullptr;  // owned by m_document
     QList<Family::FamilyAnimations*> m_lists;
 };
 
-/// The sprite file of a code file: the one that a main file names, or the only one beside any other
-/// file. Empty, with `error`, without one.
+/// The sprite file for a code file: the one that a main file names, or the only one beside any
+/// other file. Empty, with `error`, if there is none.
 QString spritesOf(const Family::FamilyDocument& document, QString* error);
 
 }  // namespace Operations

@@ -13,70 +13,68 @@ class FamilyProject;
 
 namespace Operations {
 
-/// One backup of a game: a folder below its folder "backup".
+/// A backup of a game: one folder inside its "backup" folder.
 struct Backup
 {
-    QString folder;     ///< name of the folder, by which it is restored
-    QString name;       ///< what the person called it; the folder's name if that tells no time
-    QDateTime time;     ///< when it was made; invalid if the folder's name tells no time
-    int fileCount = 0;  ///< files that a restore would copy
-    qint64 bytes = 0;   ///< their size
+    QString folder;     ///< name of the folder; a restore needs it
+    QString name;       ///< given by the user; the folder's name if that contains no time
+    QDateTime time;     ///< when it was made; invalid if the folder's name contains no time
+    int fileCount = 0;  ///< number of files that a restore would copy
+    qint64 bytes = 0;   ///< their total size
 };
 
 /// What a restore does to one file of the game.
 struct RestoredFile
 {
     enum Change {
-        New,      ///< the game lacks it
-        Changed,  ///< the game has another content
-        Same      ///< the game has the same bytes
+        New,      ///< not in the game
+        Changed,  ///< different in the game
+        Same      ///< byte for byte the same in the game
     };
 
     QString path;  ///< relative to the game
     Change change;
 };
 
-/// How a backup or a restore ended.
+/// The result of a backup or a restore.
 struct BackupResult
 {
-    QString folder;       ///< the backup that was made, for a restore that of its safety; or empty
-    QStringList failed;   ///< files that could not be copied, relative to the game
-    QStringList missing;  ///< files that a project names and that are not there
-    bool isCanceled = false;  ///< the person gave it up
-    QString error;            ///< what, where, what to do, for the person; empty if all went well
+    QString folder;           ///< the new backup (for a restore: the safety backup), or empty
+    QStringList failed;       ///< files that could not be copied, relative to the game
+    QStringList missing;      ///< files that a project names but that do not exist
+    bool isCanceled = false;  ///< the user canceled
+    QString error;            ///< for the user: what, where, what to do; empty on success
 };
 
-/// Why a text cannot be the name of a backup, for the person; empty if it can.
+/// Why a text is not a valid backup name, for the user; empty if it is valid.
 QString backupNameFault(const QString& name);
 
-/// Opens every project of a game that is not open yet and gives those; the
-/// caller ends them (`closeProjects()`). One whose main file cannot be read, or has a
-/// name that is no text, stays closed, and the reason goes into `errors`.
+/// Opens every project of a game that is not open yet and returns those. The caller closes them
+/// with `closeProjects()`. A project stays closed, with the reason in `errors`, if its main file
+/// cannot be read or its name is not valid text.
 QList<Family::FamilyProject*> openAllProjects(Family::FamilyParentProject* game,
                                               QStringList* errors);
 void closeProjects(const QList<Family::FamilyProject*>& projects);
 
-/// The backups of a game, the youngest first.
+/// The backups of a game, newest first.
 QVector<Backup> listBackups(const Family::FamilyParentProject& game);
 
-/// What restoring the backup in `folder` would do, file by file in order of
-/// path. Compares with what is on disk, not with unsaved changes. Empty, with
-/// `error`, if there is no such backup.
+/// What restoring the backup in `folder` would do, file by file in path order. Compares with the
+/// files on disk, not with unsaved changes. Empty, with `error`, if there is no such backup.
 QVector<RestoredFile> filesToRestore(const Family::FamilyParentProject& game, const QString& folder,
                                      QString* error);
 
-/// Copies the open projects, with unsaved changes and with the files of the game
-/// that they share, into a new backup. There is none if it is given up, if a file that is
-/// there cannot be copied, or if projects could not be opened: `unopened` tells why. If a
-/// backup of the same moment has the name, a number comes behind it.
+/// Copies the open projects into a new backup, with unsaved changes and with the files of the game
+/// that they share. No backup is made if the user cancels, if an existing file cannot be copied, or
+/// if projects could not be opened (`unopened` holds the reasons). If a backup of the same moment
+/// has the name, a number is appended.
 BackupResult makeBackup(Family::FamilyParentProject* game, const QString& name,
                         const QStringList& unopened = {});
 
-/// Puts a backup back and reads the open projects again; unsaved changes of
-/// these are lost, files that the backup lacks stay. First everything that is
-/// about to change, with unsaved changes of the open projects, is copied into a
-/// backup "Before restore", unless `makesSafety` is false; if that fails nothing
-/// is restored.
+/// Restores a backup and reloads the open projects. Their unsaved changes are lost. Files that are
+/// not in the backup stay. Unless `makesSafety` is false, everything about to change is first
+/// copied into a backup "Before restore", with the unsaved changes of the open projects. If that
+/// fails, nothing is restored.
 BackupResult restoreBackup(Family::FamilyParentProject* game, const QString& folder,
                            bool makesSafety = true);
 

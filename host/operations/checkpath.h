@@ -4,8 +4,8 @@
 
 namespace Operations {
 
-/// As `checkGame()`, with file names that can be opened from the current
-/// folder: they begin as `path` does.
+/// Like `checkGame()`, but the file names begin as `path` does, so that they can be opened from the
+/// current folder.
 Family::Problems checkPath(const QString& path, QString* error);
 
 }  // namespace Operations

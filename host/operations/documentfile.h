@@ -12,43 +12,40 @@ class FamilyDocument;
 
 namespace Operations {
 
-/// Opens a code file, of the kind of its suffix. `codec` is a number of
-/// `Zorv::TextCodecs`, negative to detect. The caller owns the document. Null if
-/// it cannot be read; `error` takes the reason. The file is not watched.
+/// Opens a code file; its suffix decides the kind. `codec` is an index in `Zorv::TextCodecs`,
+/// negative to detect it. The caller owns the document. Null, with `error`, if the file cannot be
+/// read. The file is not watched.
 Family::FamilyDocument* openDocument(const QString& fileName, int codec, QString* error);
 
-/// A codec in which a file comes back byte for byte, line ends aside; -1 if
-/// there is none, or the file cannot be read.
+/// A codec that decodes and encodes a file without changing a byte, line ends aside; -1 if there is
+/// none or the file cannot be read.
 int faithfulCodec(const QString& fileName);
 
-/// Tells the person if the file of a document that has just been opened would
-/// not come back from its codec, and offers one in which it does; the file is
-/// read again in that one. Asks through `Zorv::Dialogs`. True if the document is
-/// faithful afterwards.
+/// Warns the user, through `Zorv::Dialogs`, if a newly opened document would not be saved byte for
+/// byte in its codec. Offers a codec that is faithful and reloads the file in it. Returns true if
+/// the document is faithful afterwards.
 bool ensureFaithful(Zorv::CodeDocument* document);
 
-/// The first character that the codec of a document lacks, with its line, in
-/// words for the person; empty if it has all of them.
+/// A text for the user about the first character that the codec of a document cannot encode, with
+/// its line; empty if it can encode all.
 QString encodingObstacle(const Zorv::CodeDocument* document);
 
-/// What the first save does to the line ends of a file, in words; empty if
-/// they stay.
+/// A text about what the first save does to the line ends of a file; empty if they stay.
 QString lineEndNote(const Zorv::CodeDocument* document);
 
-/// Offers UTF-8, through `Zorv::Dialogs`, for a document whose codec lacks one of
-/// its characters. False if the person gives up.
+/// Offers UTF-8, through `Zorv::Dialogs`, if the codec of a document cannot encode one of its
+/// characters. False if the user cancels.
 bool settleEncoding(Zorv::CodeDocument* document);
 
-/// How a save ended.
+/// The result of a save.
 enum class Saved {
     Done,
-    GivenUp,  ///< the person was asked and told not to save; nothing is written
-    Failed    ///< the old file is whole, the document stays modified
+    GivenUp,  ///< the user was asked and decided not to save; nothing is written
+    Failed    ///< the old file is intact, the document stays modified
 };
 
-/// Writes a document. A character that its codec lacks is told before anything
-/// is written, and UTF-8 offered, through `Zorv::Dialogs`. `error` takes the
-/// reason of a failure.
+/// Writes a document. If its codec cannot encode a character, the user is asked first, through
+/// `Zorv::Dialogs`, and can choose UTF-8. `error` takes the reason of a failure.
 Saved saveDocument(Zorv::CodeDocument* document, const QString& fileName, QString* error);
 
 }  // namespace Operations

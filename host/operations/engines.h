@@ -9,24 +9,24 @@ class QSettings;
 
 namespace Operations {
 
-/// The parameter string that a new engine begins with: the project in front.
+/// The parameter string of a new engine: the current project.
 QString defaultEngineParameters();
 
-/// The engines that the settings hold, in their order; at most `MaxEngines`.
+/// The engines in the settings, in order; at most `MaxEngines`.
 QVector<Zorv::EngineInfo> loadEngines(QSettings& settings);
 
-/// Stores the list in place of the old one. False if the settings could not be written.
+/// Replaces the list in the settings. False if the settings could not be written.
 bool saveEngines(QSettings& settings, const QVector<Zorv::EngineInfo>& engines);
 
-/// Shows the engines of the settings in `FamilyEngineModel`, as a host does once
-/// at its start and after each change.
+/// Loads the engines of the settings into `FamilyEngineModel`. A host calls this once at its start
+/// and after each change.
 void useEngines(QSettings& settings);
 
-/// Why an engine cannot be started, in words for the person; empty if it can: it has
-/// a name, its executable is there, and its parameters ask for a project.
+/// Why an engine cannot be started, for the user; empty if it can. It needs a name, an executable
+/// that exists, and parameters that contain a project.
 QString engineProblem(const Zorv::EngineInfo& engine);
 
-/// More engines than these are not read.
+/// Engines beyond this number are not read.
 constexpr int MaxEngines = 1000;
 
 }  // namespace Operations

@@ -2,9 +2,9 @@
 
 namespace Operations {
 
-/// Gives the English texts of the program what the sources cannot: one form for one and another
-/// for many, and words of its own for what the library says. Once for an application; what another
-/// language says comes before it.
+/// Installs the English texts that the sources cannot hold: singular and plural forms, and own
+/// words for some texts of the library. Call it once per application. Translations to other
+/// languages take precedence.
 void speakEnglish();
 
 }  // namespace Operations

@@ -4,17 +4,16 @@
 
 namespace Operations {
 
-/// Puts what the program ships for code editing into the person's data folder,
-/// `FamilyEngineModel::dataPath()`: snippets, and the words to complete. Call it once
-/// at the start of the window, with the language installed.
+/// Copies the shipped data for code editing (snippets and completion words) to the user's data
+/// folder, `FamilyEngineModel::dataPath()`. Call it once when the window starts, with the language
+/// installed.
 ///
-/// A snippet comes once for each of its versions: one that the person has deleted does
-/// not come back, one that the person has changed is not touched. The file of words is
-/// written anew as long as it is the program's own. Which version was put there stands
-/// in the file "shipped" of the folder.
+/// Each version of a snippet is copied only once, so a snippet that the user deleted does not come
+/// back, and one that the user changed is not overwritten. The word file is rewritten as long as it
+/// is the program's own. The file "shipped" in the folder records the copied versions.
 ///
-/// False, with the first reason, if something could not be written; the rest is there,
-/// and the files that were there are whole.
+/// False, with the first reason, if something could not be written. The rest is then still copied,
+/// and existing files are intact.
 bool prepareFamilyData(QString* error);
 
 }  // namespace Operations

@@ -6,19 +6,18 @@
 
 namespace Operations {
 
-/// What other programs may do while a file is changed.
+/// What other programs may do while a file is being changed.
 enum class Others {
-    Wait,    ///< those that know the lock wait; for one that has it `change` waits in turn
-    GoAhead  ///< they work on the file as well: whoever comes later begins anew
+    Wait,    ///< they wait if they know the lock; if they hold it, `change` waits for them
+    GoAhead  ///< they work on the file as well; whoever writes second starts again
 };
 
-/// The file of which a change is seen: that of a path, or of a folder of images its list.
+/// The file to watch for a path: the file itself, or the list file of a folder of images.
 QString watchedFile(const QString& path);
 
-/// Does a change that begins with reading a file, or a folder of images, and ends with writing it.
-/// If another program changes it in between, `change` is called again a little later, and
-/// after some times no more. False, with `error` for the person, if it could not be called.
-/// Re-entrant.
+/// Runs a change that first reads and at last writes a file, or a folder of images. If another
+/// program changes it in between, `change` is called again a little later, for a limited number of
+/// times. False, with `error` for the user, if it could not be called. Re-entrant.
 bool changeAsOne(const QString& fileName, Others others, const std::function<void()>& change,
                  QString* error);
 

@@ -6,19 +6,18 @@
 
 namespace Operations {
 
-/// A file, or a folder of loose images, as it was at some moment. For any thread.
+/// The state of a file, or of a folder of loose images, at one moment. For any thread.
 struct FileStamp
 {
     bool exists = false;
-    qint64 size = 0;    ///< of a folder: of the files in it
-    QDateTime changed;  ///< of a folder: the last change in it
-    QByteArray hash;    ///< SHA-256 of all bytes; empty if they were not looked at
+    qint64 size = 0;    ///< for a folder: the sum over its files
+    QDateTime changed;  ///< for a folder: the last change in it
+    QByteArray hash;    ///< SHA-256 of all bytes; empty if not computed
 
-    /// All but the hash.
+    /// Fills in everything except the hash.
     static FileStamp of(const QString& fileName);
 
-    /// Reads the file for the hash, which stays empty if the file is no longer
-    /// what the stamp says.
+    /// Computes the hash. It stays empty if the file no longer matches the stamp.
     void addHash(const QString& fileName);
 
     bool isSameState(const FileStamp& other) const;

@@ -8,42 +8,43 @@ class QSettings;
 
 namespace Operations {
 
-/// The host's side of the library, as far as it needs no widget: settings,
-/// engine, texts. The window derives from it; the command line uses it as it is.
+/// The part of the library's host interface that needs no widget: settings, engine, texts. The
+/// window derives from it; the command line uses it directly.
 ///
-/// Everything that belongs to a window is null or does nothing here.
+/// Everything that needs a window returns null or does nothing here.
 class HostInterface : public Zorv::Interface
 {
 public:
-    /// `settings` is not owned and must outlive the object. With null, every
-    /// setting has its default at first and lives as long as the object: what a
-    /// command does must not depend on the person's window.
+    /// `settings` is not owned and must outlive the object. With null, every setting starts with
+    /// its default and changes are lost with the object. The command line uses that, because its
+    /// results must not depend on the settings of the user's window.
     explicit HostInterface(QSettings* settings = nullptr);
 
-    /// Takes itself away, if it is the installed one.
+    /// Uninstalls itself if it is the installed one.
     ~HostInterface() override;
 
-    /// Where settings are stored; null for nowhere.
+    /// The storage of the settings; null if there is none.
     QSettings* settings() const { return m_settings; }
 
-    /// What a setting is if nothing else was stored; invalid for an unknown key.
+    /// The default of a setting; invalid for an unknown key.
     static QVariant defaultOption(const QString& key);
 
-    /// The stored setting in the type of its default, else the default.
+    /// The stored setting, converted to the type of its default; else the default.
     QVariant storedOption(const QString& key) const;
 
-    /// The same, unless a host knows better what is meant: the theme's colour for none.
+    /// Like `storedOption()`, but a host may resolve the value further, such as an unset colour to
+    /// the theme's.
     QVariant option(const QString& key) const override;
     void setOption(const QString& key, const QVariant& value) override;
     QColor colorOption(const QString& key) const override;
 
     QString text(unsigned id) const override;
 
-    /// As `newIds()`, for the project in front.
+    /// Calls `newIds()` for the current project.
     void soundIdentifiers(const QStringList& files, QList<QVariant>* identifiers) override;
     Zorv::EngineModel* engineModel() const override;
 
-    /// By the logical resolution of the first screen.
+    /// Scales by the logical resolution of the first screen.
     int pixels(int size) const override;
 
     QWidget* mainWindow() const override;
@@ -71,16 +72,16 @@ public:
     void refreshProjects() override;
     void activateEditor(Zorv::Editor* editor) override;
 
-    /// False: without a window nobody is there when a file changes.
+    /// False: without a window nobody can be notified of a changed file.
     bool watchesFiles() const override;
 
 private:
     QSettings* m_settings;
-    QHash<QString, QVariant> m_options;  ///< where there is no `m_settings`
+    QHash<QString, QVariant> m_options;  ///< used if `m_settings` is null
 };
 
-/// Installs the host, and UTF-8 as the encoding of files in which nothing else
-/// shows itself. Called once, before anything else of the library.
+/// Installs the host, and UTF-8 as the default encoding for files whose encoding cannot be
+/// detected. Call it once, before using anything else of the library.
 void startHost(HostInterface* host);
 
 }  // namespace Operations

@@ -5,26 +5,26 @@
 
 namespace Operations {
 
-/// A language of the programs.
+/// A user-interface language.
 struct LanguageInfo
 {
-    QString code;  ///< of ISO 639, "en"
+    QString code;  ///< ISO 639, such as "en"
     QString name;  ///< in the language itself
 };
 
-/// The language in which a window speaks. The texts in the code are English; each other language
-/// is a file of translations among the resources. The command line stays English.
+/// The language of the windows. The texts in the code are English. Each other language is a
+/// translation file in the resources. The command line is always English.
 class Language
 {
 public:
-    /// All that can be chosen, English first.
+    /// All available languages, English first.
     static const QVector<LanguageInfo>& all();
 
-    /// The code of the one in use.
+    /// The code of the current language.
     static QString current();
 
-    /// Changes the language of all windows, Qt's own texts included. An empty code is the first
-    /// language of the system that is there; an unknown one is English.
+    /// Changes the language of all windows, including Qt's own texts. An empty code selects the
+    /// first system language that is available. An unknown code selects English.
     static void use(const QString& code);
 };
 

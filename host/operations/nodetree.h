@@ -13,20 +13,19 @@ class FamilyDocument;
 
 namespace Operations {
 
-/// A node of a document as lists show it.
+/// A node of a document, for lists.
 struct TreeEntry
 {
     const Zorv::CodeNode* node;
-    int depth;  ///< 0 for what stands in no other node
+    int depth;  ///< 0 for a node without parent
 };
 
-/// All nodes of a document, each behind the one that it belongs to, and what
-/// belongs to one in the order of the text. Contact boxes stand under their
-/// frame. What has no parent (a value above every group) stands at depth 0.
+/// All nodes of a document. Each follows its parent; siblings are in text order. Contact boxes are
+/// children of their frame. A node without parent, such as a value above every group, has depth 0.
 QVector<TreeEntry> nodeTree(const Family::FamilyDocument* document);
 
-/// What a path names, as text: a value, as `getValue()` gives it, else the
-/// lines of the node. A null string, and `error`, for a path that names nothing.
+/// The text at a path: for a value what `getValue()` returns, otherwise the lines of the node. A
+/// null string and `error` if the path does not exist.
 QString textAt(const Family::FamilyDocument* document, const QString& path, QString* error);
 
 }  // namespace Operations

@@ -7,36 +7,35 @@ class QLocalSocket;
 
 namespace Operations {
 
-/// One end of a local connection on which two programs tell each other things, a JSON object a
-/// line.
+/// One end of a local connection between two programs. Each message is a JSON object on one line.
 ///
-/// What comes in is not trusted: a line that is too long or is no object ends the connection, and
-/// so does another end that takes nothing in. Main thread only.
+/// Incoming data is not trusted. A line that is too long or not an object closes the connection. So
+/// does a peer that does not read what is sent. Main thread only.
 class ObjectSocket : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The bytes of a line, and of what waits to be taken in.
+    /// Limits in bytes: for one line, and for data that the peer has not read yet.
     static constexpr int MostBytes = 64 * 1024;
     static constexpr int MostWaiting = 1024 * 1024;
 
-    /// Takes the socket over, connected or about to be.
+    /// Takes ownership of the socket, which is connected or connecting.
     explicit ObjectSocket(QLocalSocket* socket, QObject* parent = nullptr);
     ~ObjectSocket() override;
 
     bool isConnected() const;
 
-    /// Sends an object; nothing without a connection.
+    /// Sends an object; does nothing without a connection.
     void send(const QJsonObject& object);
 
-    /// Ends the connection; `closed()` tells it.
+    /// Closes the connection and emits `closed()`.
     void close();
 
 signals:
     void received(const QJsonObject& object);
 
-    /// There is no connection any more, or there was none to be had. Told once.
+    /// The connection has ended, or could not be made. Emitted once.
     void closed();
 
 private:

@@ -4,12 +4,12 @@
 
 namespace Operations {
 
-/// The format of the person's settings: the files of `QSettings::IniFormat`, written whole.
+/// A settings format compatible with `QSettings::IniFormat` that replaces files as a whole.
 ///
-/// That format takes a short write for success: on a full disk, what fits would take the place of
-/// all settings. In this one the old file stays, `status()` becomes `AccessError`, and the change
-/// is tried again with the next. Each reads what the other has written, but for points, sizes and
-/// rectangles, which no setting is. Lines that are no settings are passed over. Re-entrant.
+/// Qt's format treats a short write as success: on a full disk, a truncated file replaces all
+/// settings. With this format the old file stays, `status()` becomes `AccessError`, and the next
+/// change tries again. Each format can read what the other has written, except points, sizes and
+/// rectangles, which no setting uses. Invalid lines are skipped. Re-entrant.
 QSettings::Format settingsFormat();
 
 }  // namespace Operations

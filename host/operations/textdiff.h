@@ -4,8 +4,8 @@
 
 namespace Operations {
 
-/// The difference of two texts in the unified format, with three lines around
-/// each change; empty for equal texts. Lines end in a line feed.
+/// A unified diff of two texts with three lines of context; empty for equal texts. Lines end in a
+/// line feed.
 QString unifiedDiff(const QString& oldText, const QString& newText, const QString& oldName,
                     const QString& newName);
 

@@ -10,13 +10,13 @@ class ProjectFile;
 
 namespace Operations {
 
-/// What can be heard of a file that a person works on: a document, or a collection of sprites or
+/// Notifications about a file that the user works on: a document, or a collection of sprites or
 /// sounds.
 struct WorkEvents
 {
-    std::function<void()> changed;       ///< its content, or whether there is something to save
-    std::function<void()> synchronized;  ///< it has just been read from its file, or written to it
-    std::function<void()> gone;          ///< its object is dead
+    std::function<void()> changed;       ///< its content, or whether it has unsaved changes
+    std::function<void()> synchronized;  ///< it was just loaded from its file, or saved
+    std::function<void()> gone;          ///< its object was destroyed
 };
 
 /// Calls the functions as long as `receiver` lives.

@@ -10,12 +10,12 @@ class ProjectFile;
 
 namespace Operations {
 
-/// What a document or collection holds, as lines that can be compared: its text, or a line for each
+/// The content of a document or collection as lines for comparison: its text, or one line for each
 /// sprite, palette, remap or sound.
 QString workLines(Zorv::ProjectFile* file);
 
-/// The same for what its file holds now; a document is read in the encoding that it has. None if
-/// the file cannot be read.
+/// The same for the file on disk. A document is decoded in the encoding that it has. Nothing if the
+/// file cannot be read.
 std::optional<QString> savedLines(Zorv::ProjectFile* file);
 
 }  // namespace Operations
