@@ -9,11 +9,10 @@
 
 namespace Operations {
 
-/// The check of a game beside the window: it goes on in a thread of its own.
+/// Checks a game in a background thread, for the window.
 ///
-/// The thread gets copies of what is not saved, and reads the rest from the disk, at which it looks
-/// again every few seconds. What it finds comes in pieces, while the event loop runs. Main thread
-/// only.
+/// The thread gets copies of unsaved work and reads the rest from disk. It looks at the disk again
+/// every few seconds. Results arrive in pieces while the event loop runs. Main thread only.
 class BackgroundCheck : public QObject
 {
     Q_OBJECT
@@ -21,14 +20,14 @@ class BackgroundCheck : public QObject
 public:
     explicit BackgroundCheck(QObject* parent = nullptr);
 
-    /// Waits for the project that is being checked.
+    /// Waits until the check of the current project ends.
     ~BackgroundCheck() override;
 
-    /// Begins anew with the game of a folder; empty for none. What stood in the place of files is
+    /// Restarts with the game in a folder; empty for none. Texts and assets that were set are
     /// forgotten.
     void setGame(const QString& folder);
 
-    /// @name What has changed: as in `Family::GameCheck`
+    /// @name Changes, as in `Family::GameCheck`
     /// @{
     void setText(const QString& path, const std::shared_ptr<const Family::SourceText>& text);
     void setAssets(const QString& path, const Family::FactStore::Assets& assets);
@@ -37,27 +36,27 @@ public:
     void prefer(const QStringList& mainFiles);
     /// @}
 
-    /// The folder to which names are relative; empty without a game.
+    /// The folder that file names are relative to; empty without a game.
     QString folder() const;
 
     /// Looks at the disk now.
     void look();
 
-    /// False while something is due: then problems may be missing, or gone already.
+    /// False while work is pending. Until then problems may be missing or outdated.
     bool isDone() const;
 
-    /// Lets the thread work, and takes what it finds, until nothing is due. False if that takes
-    /// longer than so many milliseconds.
+    /// Lets the thread work and collects its results until nothing is pending. False if that takes
+    /// longer than `milliseconds`.
     bool waitForDone(int milliseconds);
 
-    /// The problems of each file that has any, by its name relative to the game.
+    /// The problems of each file that has any. Keys are file names relative to the game.
     const QMap<QString, Family::Problems>& problems() const { return m_problems; }
 
     /// What is known of each project, by main file; its problems are left out.
     const QHash<QString, Family::ProjectFindings>& projects() const { return m_projects; }
 
 signals:
-    /// These files have other problems.
+    /// The problems of these files have changed.
     void changed(const QStringList& files);
 
     /// `isDone()` has changed.

@@ -12,15 +12,16 @@ namespace Operations {
 
 using ProjectsFound = QHash<QString, Family::ProjectFindings>;
 
-/// What is about to be removed from a file.
+/// Items about to be removed from a file.
 struct Removal
 {
     enum Kind { Sprites, Sounds, Animations };
 
     Kind kind = Sprites;
-    QString path;         ///< absolute, of the file
+    QString path;         ///< absolute path of the file
     QStringList names;    ///< "GROUP,NUMBER", or identifiers of animations
-    QStringList staying;  ///< those of what stays in the file: it takes the place of its namesakes
+    QStringList staying;  ///< the names of the items that stay; one with the same name replaces a
+                          ///< removed item
 
     bool operator==(const Removal& other) const
     {
@@ -29,7 +30,7 @@ struct Removal
     }
 };
 
-/// Of the rows of a list of sprites or sounds, those to be removed.
+/// Builds a `Removal` from the rows to remove of a list of sprites or sounds.
 template <class List>
 Removal removalOf(Removal::Kind kind, const List& list, const QVector<int>& rows)
 {
@@ -41,22 +42,22 @@ Removal removalOf(Removal::Kind kind, const List& list, const QVector<int>& rows
     return removal;
 }
 
-/// Likewise of the animations of a document.
+/// The same for the animations of a document.
 Removal removalOf(const Family::FamilyDocument& document, const QVector<int>& rows);
 
-/// The places that name what would not be there any more, each once, in the order of files and
-/// lines. `NamedPlace::name` is the name that stands there.
+/// The places that name something that would no longer exist. Each place occurs once, ordered by
+/// file and line. `NamedPlace::name` is the name written there.
 QVector<Family::NamedPlace> usesOf(const Removal& removal, const ProjectsFound& projects);
 
-/// The projects of the game around a file that name it, as they lie on the disk: for those who
-/// have no window that knows them.
+/// The projects that name a file, searched in the game around it on disk. For callers without a
+/// window that knows them already.
 ProjectsFound projectsNaming(const QString& path);
 
-/// The sprites that have a palette and the remaps that name it, in words; empty if it is not used.
+/// The sprites that use a palette and the remaps that name it, as text; empty if it is unused.
 QStringList usesOfPalette(const Family::SpriteCollection* sprites,
                           const Family::FamilyPalette* palette);
 
-/// A line for each place, "FILE, line 12: 200,0", of at most ten, and how many there are beside.
+/// At most ten places, a line each such as "FILE, line 12: 200,0", and the number of the others.
 QStringList inWords(const QVector<Family::NamedPlace>& places);
 
 }  // namespace Operations

@@ -7,47 +7,47 @@
 
 namespace Operations {
 
-/// What was made, or why nothing was.
+/// The result: what was created, or why nothing was.
 struct Created
 {
-    QString path;   ///< of the game folder, the main file or the file; empty if nothing was made
-    QString error;  ///< what, where, what to do, for the person; empty if all went well
+    QString path;   ///< of the game folder, the main file or the file; empty if nothing was created
+    QString error;  ///< for the user: what, where, what to do; empty on success
 };
 
-/// A game that is to be made.
+/// A game to create.
 struct NewGame
 {
-    QString folder;  ///< its path; the folder around it has to be there
-    QString character = QStringLiteral("fighter");  ///< the name of the first one
+    QString folder;                                 ///< its path; the parent folder must exist
+    QString character = QStringLiteral("fighter");  ///< name of the first character
     QString stage = QStringLiteral("training-room");
-    QString templateName;  ///< of `NewKind::Game`; empty for ours
+    QString templateName;  ///< a template of `NewKind::Game`; empty for the shipped one
 };
 
 /// @name New things
 ///
-/// They are made of a template, with nothing that `check` complains of; a character has all
-/// animations that an engine needs, with placeholders for its sprites, and can fight. Each is there
-/// whole or not at all, also if the disk is full or the process killed in the middle. What is there
-/// already is never replaced, but for an empty folder.
+/// They are copies of a template, and `check` finds no problem in them. A character has all
+/// animations that an engine needs, with placeholder sprites, and can fight. Each is created
+/// completely or not at all, even if the disk is full or the process is killed. Nothing that exists
+/// is ever replaced, except an empty folder.
 /// @{
 
-/// A game with a character and a stage.
+/// Creates a game with a character and a stage.
 Created createGame(const NewGame& game);
 
-/// A character or a stage, in a folder of its own below "characters" or "stages" of the game folder
-/// `game`. An empty `templateName` stands for ours.
+/// Creates a character or a stage in its own folder, inside "characters" or "stages" of the game
+/// folder `game`. An empty `templateName` means the shipped template.
 Created createProject(const QString& game, Family::FileKind kind, const QString& name,
                       const QString& templateName = {});
 
-/// A single file of the kind that its suffix tells: code, sprites, sounds or a palette (.act). The
-/// folder that it needs is made. No project names it yet.
+/// Creates a single file. Its suffix decides the kind: code, sprites, sounds or a palette (.act).
+/// Its folder is created if needed. No project names the file yet.
 Created createFile(const QString& path, const QString& templateName = {});
 /// @}
 
-/// The suffixes of `createFile()`, as in ".code".
+/// The suffixes that `createFile()` accepts, such as ".code".
 QStringList newFileSuffixes();
 
-/// The folder that a character or a stage of a name gets in a game.
+/// The folder for a new character or stage of a game.
 QString newProjectFolder(const QString& game, Family::FileKind kind, const QString& name);
 
 }  // namespace Operations

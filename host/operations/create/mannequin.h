@@ -7,16 +7,17 @@
 
 namespace Operations {
 
-/// A picture with its axis, in pixels from its top left corner.
+/// A picture and its axis, in pixels from its top left corner.
 struct PlacedDrawing
 {
-    QImage image;  ///< `Format_Indexed8`; colour 0 is clear
+    QImage image;  ///< `Format_Indexed8`; colour 0 is transparent
     QPoint axis;
 };
 
-/// A jointed figure in the pose of a sprite: group and number are those of the template "fighter",
-/// the group being the animation that shows it. One without a pose of its own stands.
-/// About 100 pixels high, looks to the right, its axis is between the feet.
+/// Draws a jointed figure in the pose of a sprite. Groups and numbers are those of the template
+/// "fighter", where the group is the animation that shows the sprite. A sprite without its own pose
+/// gets the standing one. The figure is about 100 pixels high, looks to the right, and has its axis
+/// between the feet.
 PlacedDrawing drawMannequin(Family::AssetId id);
 
 }  // namespace Operations

@@ -8,12 +8,12 @@ class FamilyDocument;
 
 namespace Operations {
 
-/// Whether the group [files] of a main file can name a file with that suffix, as in ".code".
+/// Whether the group [files] of a main file can name a file with this suffix, such as ".code".
 bool canBeNamed(const QString& suffix);
 
-/// Adds a line to [files] of a main file that names `fileName`, as one step of undo. False, with no
-/// change, if it names the file already, or another one of a kind of which one alone counts, or if
-/// the suffix is none of these.
+/// Adds a line that names `fileName` to [files] of a main file, as one undo step. Returns false and
+/// changes nothing if the file is already named, if its kind allows only one file and another is
+/// named, or if the suffix is not supported.
 bool nameFile(Family::FamilyDocument* main, const QString& fileName);
 
 }  // namespace Operations

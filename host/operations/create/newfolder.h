@@ -8,33 +8,34 @@
 
 namespace Operations {
 
-/// A folder that is being made: it has its name only once it is whole.
+/// Creates a folder atomically: it gets its name only when it is complete.
 ///
-/// It is made beside its place, in a hidden folder that is locked as long as the process lives.
-/// What programs that are gone have left there goes first.
+/// The files are first written to a hidden folder beside the target. That folder is locked while
+/// the process lives. Leftovers of dead processes are removed first.
 class NewFolder
 {
 public:
-    /// `place` is the path that the folder is to have; the folder around it has to be there.
+    /// `place` is the path of the new folder; the parent folder must exist.
     explicit NewFolder(const QString& place);
 
-    /// Removes what was not finished.
+    /// Removes an unfinished folder.
     ~NewFolder();
 
-    /// Makes the folder under another name. False, with `error` for the person, if something
-    /// other than an empty folder has its place, or nothing can be written there.
+    /// Creates the hidden folder. False, with `error` for the user, if something other than an
+    /// empty folder is at the target path, or if the place is not writable.
     bool begin(QString* error);
 
-    /// Where its files go, ends in "/".
+    /// Where to write the files; ends in "/".
     QString path() const;
 
-    /// Gives it its name. False, with `error`, if that fails; nothing is left then.
+    /// Renames the folder to its final name. False, with `error`, if that fails; nothing is left
+    /// behind then.
     bool finish(QString* error);
 
-    /// A text about the files in it, with their names as they will be.
+    /// Replaces the temporary paths in a text by the final ones, for messages.
     QString told(QString text) const;
 
-    /// That nothing can be made in a folder, for the person.
+    /// A message for the user that a folder is not writable.
     static QString cannotWrite(const QString& folder);
 
 private:

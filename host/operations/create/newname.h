@@ -4,9 +4,9 @@
 
 namespace Operations {
 
-/// Why a text cannot name a new game, character, stage or file, for the person; empty if it can.
-/// The name becomes that of a folder and of files, and stands in texts between double quotes.
-/// Whether something has it already is not looked at.
+/// Why a text cannot name a new game, character, stage or file, for the user; empty if it can. The
+/// name is used for folders and files, and in texts between double quotes. Does not check whether
+/// the name is taken.
 QString newNameFault(const QString& name);
 
 }  // namespace Operations

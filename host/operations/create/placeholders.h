@@ -4,9 +4,9 @@
 
 namespace Operations {
 
-/// Draws what a new project shows and does not have: if its main file names a sprite file that is
-/// not there, that file is made, with a placeholder for each sprite of its frames and layers.
-/// False, with `error` for the person, if that fails.
+/// Draws the missing sprites of a new project. If the main file names a sprite file that does not
+/// exist, creates it with a placeholder for each sprite that frames and layers use. False, with
+/// `error` for the user, if that fails.
 bool drawPlaceholders(const QString& mainFile, QString* error);
 
 }  // namespace Operations

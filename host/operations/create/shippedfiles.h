@@ -4,15 +4,15 @@
 
 namespace Operations {
 
-/// The folder of the sample game that comes with the program; empty if it is not there.
+/// The folder of the shipped sample game; empty if it is not installed.
 QString sampleGame();
 
-/// A page of the documentation that comes with the program, as in "first-character.md"; empty if it
-/// is not there.
+/// A page of the shipped documentation, such as "first-character.md"; empty if it is not installed.
 QString documentationPage(const QString& name);
 
-/// Copies the sample game to a folder, where it can be changed. The copy is there whole or not at
-/// all. Gives what is wrong, for the person, or nothing; nothing is done if a game is there.
+/// Copies the sample game to a folder where the user can change it, completely or not at all.
+/// Returns an error message for the user, or nothing on success. Does nothing if the folder already
+/// holds a game.
 QString copySample(const QString& folder);
 
 }  // namespace Operations

@@ -5,37 +5,38 @@
 
 namespace Operations {
 
-/// What New makes.
+/// The kinds of things that New creates.
 enum class NewKind { Game, Character, Stage, File };
 
-/// What is filled into the texts and file names of a template.
+/// The values for the placeholders in the texts and file names of a template.
 struct TemplateMarks
 {
-    QString name;  ///< one that `newNameFault()` finds nothing in
+    QString name;  ///< valid according to `newNameFault()`
     QDate date;
 
-    /// With the name in place of "{name}".
+    /// Replaces "{name}" in a file name.
     QString inName(QString fileName) const;
 
-    /// With all marks filled in, and the line ends that the program writes. A text that is not in
-    /// UTF-8 stays as it is.
+    /// Replaces all placeholders and uses the line ends that the program writes. A text that is not
+    /// UTF-8 is returned unchanged.
     QByteArray inText(const QByteArray& text) const;
 };
 
-/// The names of the templates of a kind, in order, the person's own among them. A template for a
-/// file stands for its suffix; of files only those of one suffix, as in ".code", are told.
+/// The names of the templates of a kind, in order, including the user's own. For files, `suffix`
+/// (such as ".code") selects the templates of one suffix; a template file is a template for its own
+/// suffix.
 QStringList templateNames(NewKind kind, const QString& suffix = {});
 
-/// The folder, or for a file the file, of a template; with "/" at the end of a folder. The
-/// person's own goes before ours. An empty name stands for the first of ours. Empty if there is
-/// none of the name.
+/// The path of a template: a folder, with "/" at the end, or a file. The user's own template takes
+/// precedence over a shipped one. An empty name means the first shipped one. Empty if there is no
+/// template of that name.
 QString templatePath(NewKind kind, const QString& name, const QString& suffix = {});
 
-/// The folder for the person's own templates.
+/// The folder for the user's own templates.
 QString ownTemplates();
 
-/// Copies all files of a template of folders into a folder, with the marks filled in. False, with
-/// `error` for the person, if one cannot be read or written.
+/// Copies all files of a folder template into a folder and fills in the placeholders. False, with
+/// `error` for the user, if one cannot be read or written.
 bool fillTemplate(const QString& templateFolder, const QString& folder, const TemplateMarks& marks,
                   QString* error);
 

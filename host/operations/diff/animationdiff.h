@@ -12,10 +12,10 @@ class AnimationNode;
 
 namespace Operations {
 
-/// What has become of something between two texts.
+/// What happened to something between two texts.
 enum class DiffKind { Same, Changed, Added, Removed };
 
-/// A contact box by itself.
+/// The values of a contact box.
 struct BoxRecord
 {
     bool isAttack = false;
@@ -24,7 +24,7 @@ struct BoxRecord
     bool operator==(const BoxRecord& other) const;
 };
 
-/// A frame by itself, with its attack boxes and then its body boxes, each in the order of the text.
+/// The values of a frame: its attack boxes, then its body boxes, each in text order.
 struct FrameRecord
 {
     Family::FrameData data;
@@ -36,8 +36,8 @@ struct FrameRecord
 
 QVector<FrameRecord> frameRecords(const Family::AnimationNode& animation);
 
-/// A box that differs. Places count the boxes of its kind in the frame, from 0; -1 where it is not
-/// there. A box whose rectangle differs has been moved.
+/// A box that differs. Places are indexes among the boxes of its kind in the frame, from 0; -1 if
+/// it does not exist on that side. A box with a different rectangle was moved.
 struct BoxDiff
 {
     DiffKind kind = DiffKind::Same;
@@ -48,15 +48,15 @@ struct BoxDiff
     QRect newRect;
 };
 
-/// What a frame line says about one thing, as code.
+/// A part of a frame line that differs, as code.
 struct OptionDiff
 {
-    QString name;  ///< "sprite", or that of an option
+    QString name;  ///< "sprite", or the name of an option
     QString oldText;
     QString newText;
 };
 
-/// A frame of either animation, or one of each that belong together. -1 where it is not there.
+/// A frame of one animation, or a pair of matching frames. -1 on the side where it does not exist.
 struct FrameDiff
 {
     DiffKind kind = DiffKind::Same;
@@ -65,14 +65,14 @@ struct FrameDiff
     QVector<OptionDiff> options;
     QVector<BoxDiff> boxes;
     bool isRedrawn =
-        false;  ///< the sprite of the same number is another picture; see `markRedrawn()`
+        false;  ///< the sprite number is the same but the picture differs; see `markRedrawn()`
 };
 
-/// Which frames of two animations belong together, in an order in which frames of both ascend, and
-/// what has become of them.
+/// Matches the frames of two animations and finds what changed. The order is ascending for the
+/// frames of both.
 ///
-/// Frames that say the same are found first; of those between them the ones that are most alike
-/// belong together. In a frame boxes of a kind that are equal belong together, then those nearest.
+/// Equal frames are matched first. Between them, the most similar frames are matched. Within a
+/// frame, equal boxes of a kind are matched first, then the nearest ones.
 QVector<FrameDiff> diffFrames(const QVector<FrameRecord>& oldFrames,
                               const QVector<FrameRecord>& newFrames);
 

@@ -4,7 +4,7 @@
 
 namespace Operations {
 
-/// The boxes of two frames that differ: attack boxes, then body boxes.
+/// The boxes that differ between two frames: attack boxes, then body boxes.
 QVector<BoxDiff> diffBoxes(const QVector<BoxRecord>& oldBoxes, const QVector<BoxRecord>& newBoxes);
 
 }  // namespace Operations

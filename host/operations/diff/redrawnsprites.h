@@ -8,9 +8,9 @@ class SpriteCollection;
 
 namespace Operations {
 
-/// Finds the frames that show the same sprite in both animations, but another picture by that
-/// number: other pixels, colours or another axis. They are marked, and count as changed. A sprite
-/// that is missing on either side is no reason. Each sprite is unpacked once.
+/// Marks the frames that show the same sprite number in both animations but a different picture:
+/// other pixels, colours or another axis. Marked frames count as changed. A sprite that is missing
+/// on either side does not count as different. Each sprite is unpacked once.
 void markRedrawn(const QVector<FrameRecord>& oldFrames, const Family::SpriteCollection& oldSprites,
                  const QVector<FrameRecord>& newFrames, const Family::SpriteCollection& newSprites,
                  QVector<FrameDiff>* diffs);

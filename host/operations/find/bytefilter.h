@@ -8,20 +8,20 @@ namespace Operations {
 
 class FindPattern;
 
-/// What can be told of a file by its bytes alone.
+/// What the raw bytes of a file reveal about its encoding.
 enum class ByteKind {
     Ascii,
     Utf8,  ///< valid, and not only ASCII
-    Other  ///< in an encoding that has to be detected
+    Other  ///< in an encoding that must be detected
 };
 
-/// The bytes are those of a whole file.
+/// Classifies the bytes of a whole file.
 ByteKind kindOfBytes(const char* data, int size);
 
-/// Tells of most files that a pattern is not in them, without decoding them.
+/// Quickly rules out most files that cannot match a pattern, without decoding them.
 ///
-/// Whatever matches a text as it stands has a part of it that is the same bytes in every match,
-/// case aside. Of expressions nothing is known: they may match anywhere. For any thread.
+/// Every match of a plain text contains a part with the same bytes, case aside. The filter searches
+/// for that part. Regular expressions cannot be ruled out: they may match anything. For any thread.
 class ByteFilter
 {
 public:
@@ -31,7 +31,7 @@ public:
     bool mayMatch(const char* data, int size, ByteKind kind) const;
 
 private:
-    /// A part that every match has, and how far to go on behind a byte that ends none.
+    /// A part that every match contains, and the skip distance after a byte that ends no match.
     struct Part
     {
         void set(const QByteArray& bytes, bool matchesCase);

@@ -6,7 +6,7 @@
 
 namespace Operations {
 
-/// Kinds of files, a bit `1 << FileKind` each.
+/// A set of file kinds, with the bit `1 << FileKind` for each.
 using FileKinds = int;
 constexpr FileKinds AllKinds = ~0;
 
@@ -15,9 +15,9 @@ inline bool hasKind(FileKinds kinds, Family::FileKind kind)
     return kinds & (1 << int(kind));
 }
 
-/// The code files of a game, of any folder in it, whether a project names them or not: absolute
-/// paths in order. Hidden folders, backups and copies for an engine are left out, links are not
-/// followed. For any thread.
+/// The code files in all folders of a game, whether a project names them or not, as sorted absolute
+/// paths. Skips hidden folders, backups and copies for an engine. Does not follow links. For any
+/// thread.
 QStringList codeFiles(const QString& folder, FileKinds kinds = AllKinds);
 
 }  // namespace Operations

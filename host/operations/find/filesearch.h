@@ -8,8 +8,8 @@
 
 namespace Operations {
 
-/// Searches files on all processors, and hands over those with hits or with an error, in the order
-/// of the paths. False if the person has given up. Called in the main thread.
+/// Searches files on all processors. `take` receives the files with hits or errors, in path order.
+/// False if the user canceled. Call it in the main thread.
 bool searchFiles(const QStringList& paths, const FindPattern& pattern,
                  const std::function<void(const FileHits&)>& take);
 

@@ -6,11 +6,11 @@
 
 namespace Operations {
 
-/// What the person looks for in texts: in the bar below a text, in the files of a game, by the
-/// command line.
+/// A search pattern for the find bar, for the search in the files of a game, and for the command
+/// line.
 ///
-/// In an expression ^ and $ are the ends of a line, and a dot takes no line end. A value; each
-/// thread has one of its own.
+/// In a regular expression ^ and $ match at the ends of a line, and a dot matches no line end. A
+/// value type; each thread needs its own.
 class FindPattern
 {
 public:
@@ -27,13 +27,14 @@ public:
         return m_text == other.m_text && m_options == other.m_options;
     }
 
-    /// What is wrong with an expression and where, for the person; empty for nothing.
+    /// What is wrong with an expression and where, for the user; empty if it is valid.
     QString error() const { return m_error; }
 
     /// Finds nothing while there is an error.
     const Zorv::CodeFind& find() const { return m_find; }
 
-    /// What is written in place of a match: with an expression \n is a line end and \t a tab.
+    /// The text that replaces a match. With an expression,
+    /// becomes a line end and \t a tab.
     QString replacement(const QString& with) const;
 
 private:

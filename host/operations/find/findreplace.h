@@ -8,36 +8,37 @@ class CodeDocument;
 
 namespace Operations {
 
-/// What takes the place of matches.
+/// What replaces matches.
 struct Replacing
 {
     const FindPattern& pattern;
-    QString with;  ///< as the person has written it
+    QString with;  ///< as the user typed it
 
-    /// The matches that are meant, as a search has found them; null for all. If one of them is no
-    /// longer there, nothing is replaced.
+    /// The matches to replace, as found by a search; null for all. If one of them no longer exists,
+    /// nothing is replaced.
     const QVector<FindHit>* chosen = nullptr;
 };
 
-/// A text, and how many matches were replaced in it: -1 if it is another one than was searched.
+/// The new text and the number of replaced matches; -1 if the text has changed since the search.
 struct Replaced
 {
     int count = 0;
     QString text;
 };
 
-/// What a text would become; lines end in '\n'.
+/// The text after replacing; lines end in '
+/// '.
 Replaced replacedText(const QString& text, const Replacing& replacing);
 
-/// Replaces in the text of a document, as one step of undo; the file stays as it is. Gives the
-/// number of matches. -1, with `error` for the person, leaves all as it was.
+/// Replaces in the text of a document, as one undo step; the file is not written. Returns the
+/// number of matches, or -1, with `error` for the user, if nothing was changed.
 int replaceInDocument(Zorv::CodeDocument* document, const Replacing& replacing, QString* error);
 
-/// Replaces in a file that no document holds, as one change beside other programs. All else stays
-/// byte for byte: line ends, the encoding, a byte-order mark. Without a match nothing is written.
-/// Gives the number of matches. -1, with `error` for the person, leaves the file as it was: it
-/// cannot be written, is not the one that was searched, would not come back from its encoding, or
-/// the encoding lacks a character.
+/// Replaces in a file that no document holds, and detects changes by other programs meanwhile. Line
+/// ends, encoding, byte-order mark and all other bytes stay the same. Writes nothing without a
+/// match. Returns the number of matches, or -1, with `error` for the user, if the file is
+/// unchanged: it is not writable, has changed since the search, cannot be encoded back byte for
+/// byte, or its encoding lacks a character.
 int replaceInFile(const QString& path, const Replacing& replacing, QString* error);
 
 }  // namespace Operations

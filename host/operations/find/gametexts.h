@@ -15,66 +15,66 @@ class QTimer;
 
 namespace Operations {
 
-/// A code file of a game, to be worked on.
+/// A code file of a game to process.
 struct GameText
 {
     QString path;
 
-    /// What stands in the place of the file; null for the file itself.
+    /// Unsaved text that replaces the file; null for the file itself.
     std::shared_ptr<const QString> text;
 };
 
-/// What has come out of one; null for nothing, or a file that has gone.
+/// The result for one file; null if there is none or the file no longer exists.
 struct GameFinding
 {
     QString path;
     std::shared_ptr<const void> result;
 };
 
-/// Does something with every code file of a game in other threads, and again with those that
-/// change, whether a text in the window or the file on the disk.
+/// Processes every code file of a game in worker threads, and again whenever one changes, as a text
+/// in the window or as a file on disk.
 ///
-/// What comes out is handed over in small pieces while the event loop runs: first in the order of
-/// the paths, what has nothing left out; then whatever has become something else. Main thread
-/// only, but for the work.
+/// Results arrive in small pieces while the event loop runs. The first pass delivers them in path
+/// order and omits empty ones. After that, each changed result is delivered. Main thread only,
+/// except for the work itself.
 class GameTexts : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Runs in any thread; ends early when the flag is set.
+    /// Runs in any thread; must end early when the flag is set.
     using Work = std::function<std::shared_ptr<const void>(const GameText&, const StopFlag&)>;
 
-    /// Makes the work of one thread, in that thread.
+    /// Creates the work function of one thread, in that thread.
     using WorkMaker = std::function<Work()>;
 
     explicit GameTexts(QObject* parent = nullptr);
 
-    /// Waits for the files that are being worked on.
+    /// Waits for the files that are being processed.
     ~GameTexts() override;
 
-    /// The game of a folder; empty for none. Texts are forgotten, and what goes on stops.
+    /// Sets the game folder; empty for none. Texts are forgotten, and running work stops.
     void setGame(const QString& folder);
     const QString& folder() const { return m_folder; }
 
-    /// What stands in the place of a file from now on; null for the file itself. The file need not
-    /// be there, nor in the game.
+    /// Sets a text that replaces a file from now on; null for the file itself. The file need not
+    /// exist, nor be in the game.
     void setText(const QString& path, const std::shared_ptr<const QString>& text);
 
-    /// Begins anew. Nothing of what went on before comes any more.
+    /// Restarts. No results of earlier work arrive after this.
     void start(const WorkMaker& maker, FileKinds kinds);
     void stop();
 
     /// Looks at the disk now.
     void look();
 
-    /// While it is on, looks at the disk every few seconds, a fiftieth of the time at most.
+    /// While on, looks at the disk every few seconds. Looking takes at most a fiftieth of the time.
     void setWatching(bool isWatching);
 
-    /// True if nothing is due: all that was found is handed over.
+    /// True if no work is pending and all results were delivered.
     bool isDone() const { return m_isDone; }
 
-    /// How many files there are to work on; 0 while that is not known.
+    /// The number of files to process; 0 while it is not known yet.
     int fileCount() const;
 
 signals:

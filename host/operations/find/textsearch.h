@@ -13,14 +13,15 @@ class FindPattern;
 /// A place where a pattern matches.
 struct FindHit
 {
-    int start;   ///< in the text, with one character for each line end
-    int length;  ///< 0 for an expression that matches nothing but a place
+    int start;   ///< position in the text; a line end counts as one character
+    int length;  ///< 0 for an expression that matches an empty string
     int line;    ///< from 0
     int column;
 
-    /// What is shown of the line of its start: all, or a part of a long one.
+    /// The text to show of the line where the match starts: the whole line, or a part of a long
+    /// one.
     QString shown;
-    int shownStart;  ///< of the match in it; it can end beyond it
+    int shownStart;  ///< start of the match in `shown`; the match may extend beyond it
 
     bool operator==(const FindHit& other) const
     {
@@ -29,27 +30,27 @@ struct FindHit
     }
 };
 
-/// What a search has found in a file, or why it found nothing.
+/// What a search found in a file, or why it failed.
 struct FileHits
 {
     QString path;
     QVector<FindHit> hits;
-    bool isCut = false;  ///< there are more: the last ones are left out
-    QString error;       ///< in words for the person
+    bool isCut = false;  ///< there are more hits than the limit
+    QString error;       ///< for the user
 };
 
-/// Ends a search early, from any thread.
+/// A flag that ends a search early, from any thread.
 using StopFlag = std::atomic_bool;
 
-/// The places of a text, in order and none over another. For any thread.
+/// Finds matches in a text, in order and without overlaps. For any thread.
 ///
-/// @param text as `Zorv::CodeFind::searchableText()` gives it
-/// @param most hits
+/// @param text in the form of `Zorv::CodeFind::searchableText()`
+/// @param most maximum number of hits
 FileHits searchText(const QString& text, const FindPattern& pattern, int most,
                     const StopFlag& isStopped);
 
-/// The places of a file, as its document has them. Files in UTF-8 are looked through as bytes, and
-/// decoded only if the filter lets them pass. For any thread.
+/// Finds matches in a file, with the same positions as in its document. UTF-8 files are filtered as
+/// bytes and decoded only if the filter lets them pass. For any thread.
 FileHits searchFile(const QString& path, const FindPattern& pattern, const ByteFilter& filter,
                     int most, const StopFlag& isStopped);
 
