@@ -8,25 +8,25 @@ class SpriteCollection;
 
 namespace Operations {
 
-/// Whether sprites come if others among them are broken.
+/// What to do with the other sprites if some of them are broken.
 enum class BrokenSprites { KeepAll, AreLeft };
 
-/// Brings sprites of one collection with their palettes into another, as one step of undo with a
-/// title.
+/// Copies sprites of one collection, with their palettes, into another, as one undo step named
+/// `title`.
 ///
-/// A sprite keeps its number if that is free, or if the one there is the same: picture, colours and
-/// axis. Otherwise it takes the number of one that is the same, or the next free number. So what
-/// was brought before is found again. Equal pixels are stored once; packed ones go over as they
-/// are. A palette with the same colours is shared; another one keeps its number or takes the next
-/// free one. Of several sprites with a number the first counts, as for a frame. Remaps stay where
-/// they are.
+/// A sprite keeps its number if that is free, or if the sprite there is equal: same picture,
+/// colours and axis. Otherwise it takes the number of an equal sprite, or the next free number. So
+/// a repeated import finds what an earlier one added. Equal pixels are stored once; compressed
+/// pixels are copied as they are. A palette with equal colours is shared. Any other palette keeps
+/// its number or takes the next free one. If several sprites have the same number, the first one
+/// counts, as it does for a frame. Remaps are not copied.
 Zorv::AssetResult importAssets(const Family::SpriteCollection* source,
                                Family::SpriteCollection* destination,
                                const QVector<Zorv::SpriteNumber>& sprites, const QString& title,
                                BrokenSprites broken = BrokenSprites::KeepAll);
 
-/// The same between two projects of the family. If one of them has no sprites that could be read,
-/// nothing is done, and `error` says so.
+/// The same between two projects of the family. If one of them has no readable sprites, nothing is
+/// done and `error` says so.
 Zorv::AssetResult importAssets(const Zorv::AssetRequest& request);
 
 }  // namespace Operations

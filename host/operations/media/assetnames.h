@@ -9,36 +9,37 @@
 
 namespace Operations {
 
-/// Where a file goes: a sprite or sound, and which one of several with its identifier.
+/// The target of an import: a sprite or sound, and its index among several with the same
+/// identifier.
 struct ImportTarget
 {
     Family::AssetId id;
     int copy = 1;
 };
 
-/// What sprites, palettes and sounds are called as files, without a suffix: "GROUP-NUMBER", and
-/// "GROUP-NUMBER_2" for the second of one identifier.
+/// File names for sprites, palettes and sounds, without a suffix: "GROUP-NUMBER", and
+/// "GROUP-NUMBER_2" for the second one with the same identifier.
 QStringList exportNames(const QVector<Family::AssetId>& ids);
 
-/// Reads such a name, with anything that is no digit in front, as in "hero-200-3.png", or one of a
-/// folder of sprites, "200_3.png". False for any other.
+/// Parses such a name. Any prefix that does not end in a digit is allowed, as in "hero-200-3.png".
+/// So is a name from a folder of sprites, such as "200_3.png". False for any other name.
 bool importTarget(const QString& fileName, ImportTarget* target);
 
-/// What PNG files tell of a sprite besides its pixels, under these keys of `QImage::text()`: the
-/// axis as "X,Y", and the identifier of the palette.
+/// Keys of `QImage::text()` for what PNG files store of a sprite besides its pixels: the axis as
+/// "X,Y", and the identifier of the palette.
 constexpr char AxisText[] = "axis";
 constexpr char PaletteText[] = "palette";
 
-/// Where each of some files goes: by its name or, with a group, to the next free number of that,
-/// which `freeId` gives from an identifier on. Empty, with `error`, if a name does not tell it, two
-/// files go to the same place, or the group is full.
+/// The target of each file: from its name or, with a group, the next free number of the group,
+/// which `freeId` finds starting at an identifier. Empty, with `error`, if a name has no number,
+/// two files have the same target, or the group is full.
 QVector<ImportTarget> importTargets(const QStringList& files, int group,
                                     const std::function<Family::AssetId(Family::AssetId)>& freeId,
                                     QString* error);
 
-/// An identifier for each file that is about to be added, each another one: what its name tells, or
-/// the next one that is free; for a name that tells none the first that is, from `first` on.
-/// `freeId` gives the free one at an identifier or behind it.
+/// A unique identifier for each file to be added: the one in its name if that is free, else the
+/// next free one. A file without a number in its name gets the first free one from `first` on.
+/// `freeId` returns the first free identifier at or after the given one.
 QVector<Family::AssetId> newIds(const QStringList& files,
                                 const std::function<Family::AssetId(Family::AssetId)>& freeId,
                                 Family::AssetId first = {});

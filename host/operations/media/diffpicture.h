@@ -12,17 +12,17 @@ class FrameComposer;
 
 namespace Operations {
 
-/// One of two animations, and what draws it.
+/// One of the two animations, and the composer that draws it.
 struct DiffSide
 {
     const Family::AnimationNode* animation;
     Family::FrameComposer* composer;
 };
 
-/// The frames that differ on one picture, a row each: the old one at the left, the new one at the
-/// right, all with the axis at the same place of their cells, over transparent ground and with
-/// lines between. Sprites that are missing or broken are told in `notes`, and left out. Null, with
-/// `error`, if nothing is drawn of any, or the picture would be too large.
+/// Draws the frames that differ in one picture, one row each: the old frame on the left, the new
+/// one on the right. The axis is at the same place in all cells, the background is transparent, and
+/// lines separate the cells. Missing or broken sprites are reported in `notes` and not drawn. Null,
+/// with `error`, if nothing at all could be drawn, or if the picture would be too large.
 QImage diffPicture(const QVector<FrameDiff>& diffs, const DiffSide& before, const DiffSide& after,
                    QStringList* notes, QString* error);
 

@@ -4,12 +4,13 @@
 
 namespace Operations {
 
-/// The files that names and patterns mean, each once, in the order of the names; those of one
-/// pattern are sorted, numbers by value. A link is a file beside the one that it leads to.
+/// The files that names and patterns match, without duplicates, in the order of the names. The
+/// matches of one pattern are sorted, numbers by value. A link and its target count as different
+/// files.
 ///
-/// A name that is there is itself, whatever signs are in it. In any other `*`, `?` and `[...]`
-/// stand for parts of the name of a file or folder, as in a shell that was kept from it by
-/// quotes. Empty, with `error`, if one of them means no plain file.
+/// A name that exists is taken literally, whatever characters it contains. In any other name `*`,
+/// `?` and `[...]` match parts of a file or folder name, like a shell pattern. Empty, with `error`,
+/// if a name matches no plain file.
 QStringList expandPatterns(const QStringList& names, QString* error);
 
 }  // namespace Operations

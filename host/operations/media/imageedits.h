@@ -13,39 +13,39 @@
 
 namespace Operations {
 
-/// What is done with each image of a piece of work, in other threads: gives the result, or null
-/// with a reason for the person.
+/// The edit of one image, called in worker threads. Returns the result, or null with an error for
+/// the user.
 using ImageEdit = std::function<QImage(const QImage& image, QString* error)>;
 
-/// Reads images, edits each, and writes the results; see `OutputFiles` for where to. A file that
-/// cannot be read or written does not keep the others from it.
+/// Reads images, edits each, and writes the results; see `OutputFiles` for where they go. The other
+/// files are still processed if one cannot be read or written.
 MediaResult editImages(const QStringList& files, const OutputRequest& request,
                        const ImageEdit& edit);
 
-/// The image as it is, for another format.
+/// Keeps the image as it is, to convert its format.
 ImageEdit keepingImage();
 
-/// Cuts off what does not show around an image; `background` is the index that does not show.
+/// Crops the invisible border of an image; `background` is the invisible index.
 ImageEdit croppingImage(int background);
 
-/// Another size in pixels; or as many times the size, if `factor` is above 0.
+/// Resizes to a size in pixels, or by `factor` if that is above 0.
 ImageEdit resizingImage(const QSize& size, double factor, Zorv::ImageResizeFilter filter);
 
-/// Turned clockwise. In the corners stands the index `background` of an indexed image, and nothing,
-/// or black, in any other.
+/// Rotates clockwise. The corners are filled with the index `background` in an indexed image. In
+/// other images they are transparent, or black.
 ImageEdit rotatingImage(double degrees, int background, Zorv::ImageResizeFilter filter);
 
-/// At most so many colours, of its own.
+/// Reduces an image to at most `colors` colours of its own.
 ImageEdit quantizingImage(int colors);
 
-/// The nearest of these colours.
+/// Replaces each colour by the nearest of these colours.
 ImageEdit adaptingImage(const QVector<Zorv::RGBA>& colors);
 
-/// The indices as they are, with these colours. Images that are not indexed are refused.
+/// Keeps the indices and replaces the colours. Fails for images that are not indexed.
 ImageEdit recoloringImage(const QVector<Zorv::RGBA>& colors);
 
-/// At most so many colours that stand for those of all images together. Empty, with `result`,
-/// if one of them cannot be read, or the person has given up.
+/// A palette of at most `colors` colours for all images together. Empty, with `result`, if an image
+/// cannot be read or the user canceled.
 QVector<Zorv::RGBA> commonPalette(const QStringList& files, int colors, MediaResult* result);
 
 }  // namespace Operations

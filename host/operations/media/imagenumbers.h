@@ -9,41 +9,42 @@ class SpriteCollection;
 
 namespace Operations {
 
-/// What becomes of an image whose group and number a sprite has already.
+/// What to do with an image if a sprite has its group and number already.
 enum class WhenTaken {
-    Refuse,   ///< it cannot come
-    Replace,  ///< it takes the place of the sprite
+    Refuse,   ///< it is not imported
+    Replace,  ///< it replaces the sprite
     NextFree  ///< it gets the next free number
 };
 
 /// How images get their groups and numbers.
 struct Numbering
 {
-    /// Where these stand at the end of a name: "{group}" and "{number}" are digits, "*" is any
-    /// text, and everything else is itself. "{group}-{number}" also takes what `importTarget()`
-    /// does. Without "{group}" that below counts, without "{number}" the next free one. Empty
-    /// for no look at names.
+    /// Matches the end of a name: "{group}" and "{number}" match digits, "*" any text, and
+    /// everything else itself. "{group}-{number}" also accepts what `importTarget()` accepts.
+    /// Without "{group}" the member `group` is used, without "{number}" the next free number. Empty
+    /// to ignore names.
     QString pattern = defaultPattern();
 
-    int group = -1;  ///< of what names do not tell; negative for none
-    int first = 0;   ///< the number from which that is counted
+    int group = -1;  ///< used if the name has no group; negative for none
+    int first = 0;   ///< the first number to try when counting
     WhenTaken whenTaken = WhenTaken::Refuse;
 
     static QString defaultPattern() { return QStringLiteral("{group}-{number}"); }
 };
 
-/// What an image is going to be called.
+/// The identifier chosen for an image.
 struct ImageNumber
 {
     enum State {
         Fine,
-        Counted,   ///< its name does not tell, so it is the next free one
-        Moved,     ///< what its name tells is taken, so it is the next free one
-        Replaces,  ///< a sprite
-        Twin,      ///< shows the same as `other`, and is one sprite with that
-        NoNumber,  ///< neither name nor group tells; from here on it cannot come
-        Taken,     ///< by a sprite
-        Twice,     ///< by the image `other`
+        Counted,   ///< no number in its name: gets the next free one
+        Moved,     ///< the number in its name is taken: gets the next free one
+        Replaces,  ///< replaces a sprite
+        Twin,      ///< the same image as `other`: both become one sprite
+        NoNumber,  ///< no group in its name and none given; this and all following states are
+                   ///< errors
+        Taken,     ///< a sprite has the number
+        Twice,     ///< the image `other` has the number
         NoRoom     ///< the group is full
     };
 
@@ -54,16 +55,16 @@ struct ImageNumber
     bool isFault() const { return state >= NoNumber; }
 };
 
-/// The numbers of images that are about to come into a collection, of each its own. The same images
-/// get the same numbers as long as the collection is the same.
+/// Chooses a unique identifier for each image to import into a collection. The result is always the
+/// same for the same images and collection.
 QVector<ImageNumber> numberImages(const QVector<ImportImage>& images, const Numbering& numbering,
                                   const Family::SpriteCollection& sprites);
 
-/// What is to be told of one of them: why it cannot come, or what is unlike its name. Empty for
-/// nothing.
+/// The message for one image: why it cannot be imported, or how its number differs from its name.
+/// Empty if there is nothing to report.
 QString tellNumber(const QVector<ImportImage>& images, const QVector<ImageNumber>& numbers, int i);
 
-/// What is wrong with a pattern; empty if nothing is.
+/// What is wrong with a pattern; empty if it is valid.
 QString patternFault(const QString& pattern);
 
 }  // namespace Operations

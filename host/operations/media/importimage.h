@@ -12,61 +12,61 @@ struct SheetCut;
 
 namespace Operations {
 
-/// An image that is to become a sprite: a file, or a place on a sheet.
+/// An image to import as a sprite: a file, or a part of a sheet.
 struct ImportImage
 {
-    QString name;  ///< of the file, or of the frame; its group and number can be read of it
+    QString name;  ///< of the file or the frame; group and number are parsed from it
     QString file;  ///< the image or the sheet; for messages
-    QImage sheet;  ///< all of it, shared by its frames; null for a file of its own
+    QImage sheet;  ///< the whole sheet, shared by its frames; null for an image with its own file
     Family::SheetFrame frame;
 
     bool isOfSheet() const { return !sheet.isNull(); }
 };
 
-/// The pixels of such an image, and what goes with them.
+/// The pixels of such an image, and related data.
 struct ImportPixels
 {
-    QImage image;   ///< null, without an error, for a frame without pixels
-    QPoint corner;  ///< what was cut off in front of it, of `original`
+    QImage image;   ///< null without an error for a frame without pixels
+    QPoint corner;  ///< how much was cropped on the left and top of `original`
     QSize original;
-    QPoint axis;           ///< as the file tells it: a pixel of `original`
-    bool hasAxis = false;  ///< false if it does not
+    QPoint axis;           ///< from the file: a pixel of `original`
+    bool hasAxis = false;  ///< false if the file has none
     QString error;
 };
 
-/// Reads the pixels, and with `crops` cuts off what does not show. Re-entrant.
+/// Reads the pixels; with `crops` the invisible border is cropped. Re-entrant.
 ImportPixels readPixels(const ImportImage& image, bool crops);
 
-/// True if both are the same place of the same sheet: one sprite stands for both.
+/// True if both are the same part of the same sheet. They become one sprite.
 bool isSameImage(const ImportImage& a, const ImportImage& b);
 
-/// Whole files, each an image.
+/// One image for each file.
 QVector<ImportImage> imagesOfFiles(const QStringList& files);
 
-/// The image files of a folder, not of those below it, numbers in names by their value.
+/// The image files of a folder, without sub-folders, sorted with numbers by value.
 QStringList imageFilesIn(const QString& folder);
 
-/// True for the suffix of images that can be read.
+/// True if the suffix belongs to a readable image format.
 bool isImageFile(const QString& file);
 
-/// A sheet that was read: its images in the order of the file, those that are lost left out.
+/// The images of a sheet in file order, without the broken ones.
 struct SheetImages
 {
     QVector<ImportImage> images;
-    QVector<Family::SheetTag> tags;  ///< of frames by their number in the file
+    QVector<Family::SheetTag> tags;  ///< their frames are counted as in the file
     QStringList warnings;
-    QString error;  ///< why there are none; empty if there are
+    QString error;  ///< why there are no images; empty on success
 };
 
-/// Reads the JSON of a sheet, with the files that it names beside it, and its pictures, which stand
-/// in the same folder. Re-entrant.
+/// Reads the JSON of a sheet, the files beside it that it names, and its pictures from the same
+/// folder. Re-entrant.
 SheetImages readSheetFile(const QString& jsonFile);
 
-/// Cuts a picture that was read from a file. Its images are called as the file with a number from 0
-/// on. Re-entrant.
+/// Cuts a picture that was read from a file. The images are named after the file, with numbers from
+/// 0. Re-entrant.
 SheetImages cutPicture(const QString& file, const QImage& picture, const Family::SheetCut& cut);
 
-/// The JSON that lies beside a picture under its name; empty if there is none.
+/// The JSON file of the same name beside a picture; empty if there is none.
 QString sheetFileBeside(const QString& imageFile);
 
 }  // namespace Operations

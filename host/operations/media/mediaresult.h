@@ -4,26 +4,26 @@
 
 namespace Operations {
 
-/// How the work on one file ended.
+/// The result for one file.
 struct Outcome
 {
     Outcome() = default;
-    Outcome(const QString& reason) : error(reason) {}  // NOLINT: the reason of a failure is one
+    Outcome(const QString& reason) : error(reason) {}  // NOLINT: functions return plain messages
 
-    QString error;        ///< why it was not done; empty if it was
-    QString warning;      ///< what is lost if it was done; empty if nothing is
-    bool isPart = false;  ///< of a sound: the file holds more, see `SoundExtent`
+    QString error;        ///< why it failed; empty on success
+    QString warning;      ///< what was lost although it succeeded; empty if nothing was
+    bool isPart = false;  ///< for a sound: the file holds more, see `SoundExtent`
 };
 
-/// How a piece of work on many files ended.
+/// The result of an operation on many files.
 struct MediaResult
 {
     MediaResult() = default;
 
-    /// Nothing was begun.
+    /// Nothing was started.
     explicit MediaResult(const QString& error) : errors(error) {}
 
-    /// Counts a step.
+    /// Adds the result of one file.
     void note(const Outcome& outcome)
     {
         if (!outcome.error.isEmpty()) {
@@ -35,12 +35,12 @@ struct MediaResult
         isPart = isPart || outcome.isPart;
     }
 
-    int done = 0;          ///< files that were written, or records that were taken up
-    QStringList errors;    ///< a line each for what was not done
-    QStringList warnings;  ///< a line each for what was done, but lost something
+    int done = 0;          ///< number of files written, or of records added
+    QStringList errors;    ///< one line for each failure
+    QStringList warnings;  ///< one line for each success that lost something
     bool isCanceled = false;
     bool isPart = false;   ///< a file holds more than was read, see `SoundExtent`
-    bool isTaken = false;  ///< nothing was begun: leave is needed to replace what is there already
+    bool isTaken = false;  ///< nothing was started: replacing existing files needs permission
 };
 
 }  // namespace Operations

@@ -15,19 +15,19 @@ class SpriteCollection;
 
 namespace Operations {
 
-/// An animation on disk with the sprites that it shows, open for as long as this lives.
+/// An animation on disk with its sprites, open while this object lives.
 class OpenAnimation
 {
 public:
-    /// Whether an animation of a single file is to be had without sprites.
+    /// Whether an animation from a single file may be opened without sprites.
     enum SpriteNeed { NeedsSprites, OptionalSprites };
 
-    /// Finds the animation that `name` means: an identifier or, of a single file, a place as "#3".
+    /// Finds the animation `name`: an identifier or, for a single file, an index such as "#3".
     ///
-    /// `path` is a game folder; the main file of one of its projects; or a single code file, whose
-    /// sprites are those of `spriteFile`, or of the one sprite file beside it. Without one, or with
-    /// several that are meant, `errorString()` tells what there is; if sprites are optional, and
-    /// none were named, `notes()` does.
+    /// `path` is a game folder, the main file of a project, or a single code file. A single file
+    /// uses the sprites of `spriteFile`, or of the only sprite file beside it. If none or several
+    /// match, `errorString()` lists what exists; if sprites are optional and no file was given,
+    /// `notes()` does.
     OpenAnimation(const QString& path, const QString& name, const QString& spriteFile = {},
                   SpriteNeed need = NeedsSprites);
     ~OpenAnimation();
@@ -37,11 +37,11 @@ public:
     const Family::AnimationNode& animation() const { return *m_animation; }
     QString errorString() const { return m_error; }
 
-    /// Null for a project without any, or whose sprites could not be read, and where they are
-    /// optional.
+    /// Null if the project has none, if they could not be read, or if they are optional and
+    /// missing.
     const Family::SpriteCollection* sprites() const { return m_sprites; }
 
-    /// What of the project could not be read, a line each for the person.
+    /// One line for the user for each part of the project that could not be read.
     QStringList notes() const { return m_notes; }
 
 private:
@@ -60,7 +60,7 @@ private:
     QString m_path;
     QString m_error;
     QStringList m_notes;
-    QStringList m_identifiers;  // that were seen on the way
+    QStringList m_identifiers;  // of the animations seen during the search
 };
 
 }  // namespace Operations

@@ -9,50 +9,50 @@ namespace Operations {
 
 struct MediaResult;
 
-/// Where the results of a piece of work go, as the person says it.
+/// The output options of an operation, as the user gives them.
 struct OutputRequest
 {
-    /// A folder, which may be new and then ends in "/" or has no suffix; or a file; or a pattern
-    /// such as "small/*-x2.png", whose `*` stands for the name of each result. Empty for the
-    /// places of the inputs.
+    /// A folder; a new one ends in "/" or has no suffix. Or a file. Or a pattern such as
+    /// "small/*-x2.png", where `*` stands for the name of each result. If empty, results go beside
+    /// their inputs.
     QString place;
-    QByteArray format;   ///< "PNG"; empty for that of the place, else of the input
-    bool force = false;  ///< what is there already may be replaced
+    QByteArray format;   ///< "PNG"; empty for the format of `place`, else of the input
+    bool force = false;  ///< existing files may be replaced
 };
 
-/// The files that a piece of work writes, checked before it begins.
+/// The output files of an operation. They are checked before the operation begins.
 class OutputFiles
 {
 public:
-    /// Makes a name for each result. `names` are the files that they are made of, or just what
-    /// they are called, without a folder; `format` is that of a result whose name has none.
-    /// False, with why not in `refusal`, if two would become one file, or if a file is there
-    /// already, as all inputs are, and may not be replaced.
+    /// Chooses a file name for each result. `names` are the input files, or plain names without a
+    /// folder. `format` is used for results whose name has none. Returns false, with the reason in
+    /// `refusal`, if two results would have the same file, or if a file exists already and may not
+    /// be replaced. Input files exist, so overwriting them needs that permission too.
     bool plan(const QStringList& names, const OutputRequest& request, const QByteArray& format,
               MediaResult* refusal);
 
     int count() const { return m_names.size(); }
     QString path(int index) const;
 
-    /// The format of a result, as `Zorv::fileExtension()` makes it of its name.
+    /// The format of a result: `Zorv::fileExtension()` of its name.
     QByteArray format(int index) const;
 
-    /// Writes a result, with the folder that it needs. The file is there whole or not at all. Empty
-    /// if that was done, else why not, for the person. Re-entrant.
+    /// Writes a result, completely or not at all, and creates its folder if needed. Returns an
+    /// error for the user, empty on success. Re-entrant.
     QString write(int index, const QByteArray& bytes) const;
 
-    /// Makes a result and writes it. If another program changes the file at its place meanwhile,
-    /// it is made anew: it may take the place of what it is made of. Else as `write()`.
+    /// Creates a result and writes it, like `write()`. The result may replace the file that it is
+    /// made from. So if another program changes that file meanwhile, the result is created again.
     QString make(int index, const std::function<QByteArray(QString* error)>& result) const;
 
 private:
     QString pathFault() const;
     bool checkExisting(MediaResult* refusal) const;
 
-    // Paths are made when they are asked for: there may be many.
+    // Paths are built on demand because there may be many.
     QStringList m_names;
-    QString m_pattern;  // empty for the places of the inputs
-    QString m_suffix;   // where the pattern has none; empty for that of the input
+    QString m_pattern;  // empty to write beside the inputs
+    QString m_suffix;   // used if the pattern has none; empty for the suffix of the input
     bool m_force = false;
 };
 

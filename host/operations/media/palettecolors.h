@@ -17,27 +17,28 @@ namespace Operations {
 
 struct MediaResult;
 
-/// Some colours of a palette, with the slots that they stand in: what is copied and dragged.
+/// Colours of a palette with their slots, for copying and dragging.
 ///
-/// Other programs get and give them as text, a line each: "#rrggbb", or "#rrggbbaa" where one is
-/// not opaque. Those have no slots.
+/// Other programs exchange them as text, one line each: "#rrggbb", or "#rrggbbaa" if a colour is
+/// not opaque. Text has no slots.
 struct PaletteEntries
 {
     QVector<Zorv::RGBA> colors;
-    QVector<quint8> places;  ///< as many, or none
+    QVector<quint8> places;  ///< one for each colour, or empty
 
     std::unique_ptr<QMimeData> toMime() const;
 
-    /// None for data of any other kind; never more than 256.
+    /// Empty for any other kind of data; never more than 256.
     static PaletteEntries fromMime(const QMimeData* data);
 
-    /// The same colours for selected slots (256 of them): one for all of them, several for each
-    /// its own, and from a single slot on for those behind it. What has no slot left is dropped.
+    /// Assigns the colours to the selected slots (`selection` has 256 entries). One colour fills
+    /// all of them; several colours go to one slot each. From a single selected slot they continue
+    /// to the slots after it. Colours without a slot are dropped.
     PaletteEntries placedIn(const bool* selection) const;
 };
 
-/// Puts colours into their slots of a palette: one step of undo with that title. `done` counts
-/// those that have places.
+/// Writes colours to their slots of a palette, as one undo step named `title`. `done` counts the
+/// colours that have slots.
 MediaResult placeColors(Family::SpriteCollection* sprites, int row, const PaletteEntries& entries,
                         const QString& title);
 

@@ -10,28 +10,28 @@ class SpriteCollection;
 
 namespace Operations {
 
-/// What uses a palette, and each of its slots.
+/// How often a palette, and each of its slots, is used.
 struct PaletteUses
 {
     struct Entry
     {
-        int sprites = 0;    ///< that have a pixel of it
-        qint64 pixels = 0;  ///< of all of them together
+        int sprites = 0;    ///< sprites with at least one pixel of this slot
+        qint64 pixels = 0;  ///< pixels in all sprites together
     };
     int sprites = 0;
     std::array<Entry, 256> entries;
 };
 
-/// What is used of all palettes of a collection.
+/// The use counts of all palettes of a collection.
 struct PaletteUseCount
 {
-    QVector<PaletteUses> palettes;  ///< in the order of the file
-    QVector<int> broken;            ///< rows of sprites whose pixels are not to be had
+    QVector<PaletteUses> palettes;  ///< in file order
+    QVector<int> broken;            ///< rows of sprites whose pixels cannot be read
     bool isCanceled = false;
 };
 
-/// Counts for each palette the sprites that have it, whatever remaps show instead. Pixels are
-/// unpacked on all processors, with progress, and those that several sprites share once.
+/// Counts the sprites that have each palette, even where remaps show another one. Pixels are
+/// unpacked on all processors, with progress. Pixels shared by several sprites are unpacked once.
 PaletteUseCount countUses(const Family::SpriteCollection& sprites);
 
 }  // namespace Operations

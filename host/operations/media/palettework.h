@@ -4,8 +4,8 @@
 
 namespace Operations {
 
-/// Reads palettes and writes each as an ACT file, or in another format that palettes are written
-/// in; see `OutputFiles` for where to. Main thread only.
+/// Converts palettes to ACT files, or to another writable palette format; see `OutputFiles` for
+/// where they go. Main thread only.
 MediaResult convertPalettes(const QStringList& files, const OutputRequest& request);
 
 }  // namespace Operations

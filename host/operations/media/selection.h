@@ -6,18 +6,19 @@
 
 namespace Operations {
 
-/// Which sprites, palettes or sounds are meant, by group and number.
+/// A selection of sprites, palettes or sounds by group and number.
 class Selection
 {
 public:
-    /// All of them.
+    /// Selects everything.
     Selection() = default;
 
-    /// Adds what a text means: "200" a group, "200-299" some groups, "200,3" one number of a
-    /// group; several with blanks between. False, and nothing added, for any other text.
+    /// Adds the selection in a text: "200" is a group, "200-299" a range of groups, "200,3" one
+    /// number of a group. Several are separated by blanks. Returns false and adds nothing if the
+    /// text is invalid.
     bool add(const QString& text);
 
-    /// True for every one as long as nothing was added.
+    /// Always true while nothing was added.
     bool contains(int group, int number) const;
 
     bool isAll() const { return m_ranges.isEmpty() && m_ids.isEmpty(); }
@@ -30,10 +31,10 @@ private:
     };
 
     QVector<Range> m_ranges;
-    QSet<quint32> m_ids;  // all that are selected in a list can be many
+    QSet<quint32> m_ids;  // a set, because a selection in a list can be large
 };
 
-/// Reads "GROUP,NUMBER", each 0 to 65535. False for any other text.
+/// Parses "GROUP,NUMBER", each 0 to 65535. False for any other text.
 bool parseIdentifier(const QString& text, int* group, int* number);
 
 }  // namespace Operations

@@ -16,50 +16,51 @@ namespace Operations {
 
 class Selection;
 
-/// What has become of a sound.
+/// The result of an edit of one sound.
 struct EditedSound
 {
     Zorv::SoundSample sample;
-    QString fault;    ///< why the sound stays as it is; empty if it does not
-    QString warning;  ///< what was not reached although the sound has changed
-    double gain = 0;  ///< by how many decibels it is louder now
+    QString fault;    ///< why the sound is unchanged; empty if it was changed
+    QString warning;  ///< a goal that was not reached although the sound was changed
+    double gain = 0;  ///< change of loudness in decibels
 };
 
-/// What is done with each sound of a piece of work, in other threads.
+/// The edit of one sound, called in worker threads.
 using SoundEdit = std::function<EditedSound(const Zorv::SoundSample& sound)>;
 
-/// Another form, as `Zorv::convertSound()` makes it. What is 0 stays as it is.
+/// Converts the format, like `Zorv::convertSound()`. A value of 0 keeps the sound's own.
 SoundEdit resamplingSound(const Zorv::SampleInfo& form);
 
-/// Only the part between two times in seconds; negative for the start, and for the end.
+/// Keeps only the part between two times in seconds; negative for the start or the end.
 SoundEdit trimmingSound(double from, double to);
 
-/// Without what is no louder than a level in decibels at both ends. A silent sound stays.
+/// Removes everything at both ends that is not louder than `level` decibels. A silent sound is not
+/// changed.
 SoundEdit trimmingSilence(double level);
 
-/// As loud as a peak in decibels, 0 for as loud as it can be.
+/// Scales to a peak in decibels; 0 is the maximum.
 SoundEdit normalizingPeak(double peak);
 
-/// As loud as a number of LUFS, by `loudnessOf()`, but no louder than a peak in decibels: it is not
-/// cut off. What is too short to be measured stays.
+/// Scales to a loudness in LUFS, measured by `loudnessOf()`, but never above a peak in decibels, so
+/// that nothing is clipped. A sound that is too short to measure is not changed.
 SoundEdit normalizingLoudness(double loudness, double peak);
 
-/// One after the other; the first fault counts.
+/// Runs two edits in order and stops at the first fault.
 SoundEdit inOrder(const SoundEdit& first, const SoundEdit& second);
 
-/// A sound that an edit has changed.
+/// A sound that was changed by an edit.
 struct SoundChange
 {
     int row = 0;
     Family::AssetId id;
-    Zorv::SampleInfo info;  ///< now
+    Zorv::SampleInfo info;  ///< after the change
     double gain = 0;        ///< in decibels
 };
 
-/// Changes sounds on all processors, as one step of undo of that title. What stays as it is
-/// because of a fault is told, and does not keep the others from it; if nothing else was selected
-/// that is an error. If the person gives up, nothing is changed. `changes` gets what has changed.
-/// The collection has to stay until it is done. Main thread only.
+/// Edits sounds on all processors, as one undo step named `title`. A sound with a fault stays
+/// unchanged and is reported, and the others are still edited; it is an error if it was the only
+/// one selected. If the user cancels, nothing is changed. `changes` receives the changed sounds.
+/// The collection must stay alive until this returns. Main thread only.
 MediaResult editSounds(Family::SoundFile* sounds, const Selection& selection, const QString& title,
                        const SoundEdit& edit, QVector<SoundChange>* changes);
 

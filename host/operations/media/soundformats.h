@@ -9,21 +9,21 @@ class QIODevice;
 
 namespace Operations {
 
-/// Makes what `decodeSound()` reads known to the library, as extensions of their suffixes, so that
-/// the dialogs of the window offer them. Once is enough. Main thread only.
+/// Registers the suffixes that `decodeSound()` supports with the library, so that file dialogs
+/// offer them. Call it once. Main thread only.
 void registerSoundFormats();
 
-/// True for the suffixes of FLAC and Ogg files, in capitals: "FLAC", "OGG", "OGA", "OPUS".
+/// True for the suffixes of FLAC and Ogg files, in upper case: "FLAC", "OGG", "OGA", "OPUS".
 bool isDecodedFormat(const QByteArray& format);
 
-/// Reads FLAC, Ogg Vorbis and Ogg Opus, and the WAV files that `Zorv::soundFromWAV()` leaves: those
-/// in the extensible form, and with samples that are floats, A-law or mu-law. Plain numbers of 8 to
-/// 32 bits come as they are, all else as 16 bits.
+/// Reads FLAC, Ogg Vorbis and Ogg Opus, and the WAV files that `Zorv::soundFromWAV()` does not
+/// support: the extensible format, and float, A-law or mu-law samples. PCM of 8 to 32 bits keeps
+/// its width; everything else is decoded to 16 bits.
 ///
-/// Nothing, with `error` as the end of a sentence, for any other file, and for one that declares
-/// more than a gigabyte of samples. One that is cut short gives what it has, and `missing` the
-/// frames that it lacks. Memory is taken for samples that are there. The device can seek and stands
-/// at the start. Any thread.
+/// Returns nothing, with `error` as the end of a sentence, for any other file, and for a file that
+/// declares more than a gigabyte of samples. A truncated file returns what it has; `missing`
+/// receives the number of frames that it lacks. Memory is only allocated for samples that exist.
+/// The device must be seekable and be at its start. Any thread.
 Zorv::SoundSample decodeSound(QIODevice* device, QString* error, qint64* missing = nullptr);
 
 }  // namespace Operations

@@ -12,42 +12,42 @@ class SoundFile;
 
 namespace Operations {
 
-/// Which samples are read of a file whose sizes are wrong, as programs leave them that record
-/// without an end.
+/// How much to read of a file with wrong sizes in its headers. Programs that record endlessly write
+/// such files.
 enum class SoundExtent {
-    AsTold,  ///< those that the sizes lead to
-    Whole,   ///< all that are there
+    AsTold,  ///< the samples that the headers declare
+    Whole,   ///< all samples that exist
 };
 
-/// Reads a WAV file, whatever its name, or a sound file of the format of its suffix. What it holds
-/// beyond that, and what it lacks, is told. Any thread.
+/// Reads a sound file: WAV whatever its name, or the format of its suffix. The result reports
+/// additional and missing data. Any thread.
 Outcome readSound(const QString& fileName, SoundExtent extent, Zorv::SoundSample* sample);
 
-/// Why a sound file cannot hold a sound of that form; empty if it can.
+/// Why a sound file cannot hold a sound of this format; empty if it can.
 QString unfitText(const QString& fileName, const Zorv::SampleInfo& info);
 
-/// What of some files is not read as told, as a text for the person. Empty if they are read whole,
-/// or not at all. Looks at no samples.
+/// A text for the user about files that are only partly read as declared. Empty if all are read
+/// completely or not at all. Reads no samples.
 QString partialSounds(const QStringList& files);
 
-/// Seconds that a sound takes; 0 if its rate is not known.
+/// The length of a sound in seconds; 0 if the sample rate is unknown.
 double duration(const Zorv::SampleInfo& info);
 
-/// Writes a WAV file for each sound. One that is broken does not keep the others from it. Main
-/// thread only.
+/// Writes a WAV file for each sound. A broken sound does not stop the others. Main thread only.
 MediaResult exportSounds(const Family::SoundFile& sounds, const Selection& selection,
                          const OutputRequest& request);
 
 /// How files become sounds.
 struct SoundImport
 {
-    int group = -1;      ///< whose next free numbers they get; negative to go by their names
-    bool force = false;  ///< sounds that are there may be replaced
+    int group = -1;      ///< the group whose next free numbers they get; negative to use the
+                         ///< numbers in their names
+    bool force = false;  ///< existing sounds may be replaced
     SoundExtent extent = SoundExtent::AsTold;
 };
 
-/// Adds sounds to a collection, or replaces those that are there if that is allowed, as one step of
-/// undo. If one of them cannot be read, or may not be replaced, nothing is changed.
+/// Adds sounds to a collection, or replaces existing ones if that is allowed, as one undo step. If
+/// one file cannot be read, or a sound may not be replaced, nothing is changed.
 MediaResult importSounds(Family::SoundFile* sounds, const QStringList& files,
                          const SoundImport& request);
 
