@@ -8,8 +8,8 @@
 
 namespace Operations {
 
-/// A text as the lines that it has, with their places in it. A line behind the last one is that:
-/// what is known of a text may be older than the text.
+/// A text split into lines. Indexes after the end are clamped to the last line, because what is
+/// known of a text may be older than the text.
 class TextLines
 {
 public:
@@ -23,10 +23,10 @@ public:
     /// True for the head of an animation or of a group that is no sub-group.
     bool isHead(int index) const;
 
-    /// The last line with a content of what begins with a head.
+    /// The last non-empty line of the block that starts with a head.
     int lastOf(int head) const;
 
-    /// The first of the comments that stand right above a line; itself without any.
+    /// The first of the comment lines directly above a line; the line itself if there are none.
     int firstAbove(int index) const;
 
 private:
@@ -36,21 +36,21 @@ private:
     QVector<int> m_starts;
 };
 
-/// A line with a problem, read as the check has read it.
+/// A line with a problem, parsed as the check parses it.
 struct FaultyLine
 {
     FaultyLine(const QString& text, const Family::Problem& problem, Family::FileKind fileKind);
 
-    /// False if the text has no such place.
+    /// False if the text does not have such a line.
     bool isValid() const { return index >= 0; }
 
-    /// The characters that the problem means.
+    /// The text that the problem refers to.
     QString word() const { return line.mid(column, length); }
 
-    /// Where a place of the line stands in the text.
+    /// The position in the text of a column of the line.
     int at(int place) const { return lines.start(index) + place; }
 
-    /// Where the code ends, and blanks or a comment begin.
+    /// Where the code ends and blanks or a comment begin.
     int codeEnd() const;
 
     TextLines lines;

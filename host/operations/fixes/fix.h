@@ -13,7 +13,8 @@ class SpriteCollection;
 
 namespace Operations {
 
-/// What takes the place of a part of a text, by its characters from 0; lines end in one.
+/// A replacement of a part of a text. Positions count characters from 0; a line end is one
+/// character.
 struct TextChange
 {
     int position;
@@ -21,42 +22,42 @@ struct TextChange
     QString text;
 };
 
-/// One way to mend a problem: a value, which says what to do and has done nothing yet.
+/// A possible fix for a problem. A value: it describes the change, and creating it changes nothing.
 struct Fix
 {
     enum Kind {
-        Text,    ///< changes of the code file `path`
-        File,    ///< `path` is made
-        Sprite,  ///< the sprite file `path` gets a placeholder as `id`
-        Sound    ///< the sound file `path` gets silence as `id`
+        Text,    ///< changes the code file `path`
+        File,    ///< creates the file `path`
+        Sprite,  ///< adds a placeholder sprite `id` to the sprite file `path`
+        Sound    ///< adds silence as sound `id` to the sound file `path`
     };
 
-    QString title;  ///< for a menu, as in "Write 'life'"
+    QString title;  ///< for a menu, such as "Write 'life'"
     Kind kind = Text;
     QString path;          ///< absolute
-    bool isPlain = false;  ///< the one obvious mend: nobody need be asked
+    bool isPlain = false;  ///< the only obvious fix: no need to ask the user
 
-    QString before;               ///< the whole text that the changes are made for
-    QVector<TextChange> changes;  ///< in the order of the text; none overlap
-    int cursor = -1;              ///< where the person goes on in the text that comes out
+    QString before;               ///< the whole text that the changes apply to
+    QVector<TextChange> changes;  ///< in text order, without overlaps
+    int cursor = -1;              ///< where to put the cursor in the new text
 
     Family::AssetId id;
-    QString palettes;  ///< of a palette file: the sprite file whose colours it begins with
-    QString mainFile;  ///< of the project that the problem was found in
+    QString palettes;  ///< for a palette file: the sprite file to take the colours from
+    QString mainFile;  ///< of the project in which the problem was found
 };
 
-/// The text that comes out.
+/// Returns the text with the changes applied.
 QString changed(const QString& text, const QVector<TextChange>& changes);
 
-/// Does the changes of a `Text` as one step of undo. False, with nothing done, if the document says
-/// something else by now.
+/// Applies a `Text` fix as one undo step. Returns false and changes nothing if the document has
+/// changed since.
 bool applyText(const Fix& fix, Family::FamilyDocument* document);
 
-/// Makes the file of a `File`: of the template of its suffix; a palette gets the colours of the
-/// project's first one. False, with `error` for the person, if that fails.
+/// Creates the file of a `File` fix from the template of its suffix. A palette gets the colours of
+/// the project's first palette. False, with `error` for the user, if that fails.
 bool makeFile(const Fix& fix, QString* error);
 
-/// Adds what is missing, one step of undo each. False if it is there already.
+/// Adds the missing item, one undo step each. False if it exists already.
 bool addPlaceholder(Family::AssetId id, Family::SpriteCollection* sprites);
 bool addSilence(Family::AssetId id, Family::SoundFile* sounds);
 

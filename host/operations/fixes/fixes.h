@@ -7,19 +7,21 @@
 
 namespace Operations {
 
-/// What fixes are made of.
+/// The data that fixes are derived from.
 struct FixSource
 {
-    QString folder;                                      ///< names in problems are relative to it
+    QString folder;                                      ///< file names in problems are relative to
+                                                         ///< it
     QHash<QString, Family::ProjectFindings> projects;    ///< by main file
-    std::function<QString(const QString& path)> textOf;  ///< of a code file, lines end in '\n'
+    std::function<QString(const QString& path)> textOf;  ///< of a code file; lines end in '
+                                                         ///< '
 };
 
-/// The ways to mend a problem, the most likely first. Most problems have none or one; of those that
-/// the grammar has no answer to, none.
+/// The possible fixes for a problem, most likely first. Most problems have none or one. A problem
+/// has none if the grammar does not say what is right.
 QVector<Fix> fixesOf(const Family::Problem& problem, const FixSource& source);
 
-/// A file whose plain problems are mended.
+/// A file after its plain problems were fixed.
 struct MendedText
 {
     QString path;  ///< absolute
@@ -27,8 +29,8 @@ struct MendedText
     QString after;
 };
 
-/// Mends what is plain in a game, a project or a code file, until nothing is left of it. Writes
-/// nothing. `error` as of `Family::checkGame()`.
+/// Fixes all plain problems of a game, a project or a code file, until none is left. Writes no
+/// files. `error` is the one of `Family::checkGame()`.
 QVector<MendedText> mendPlain(const QString& path, QString* error);
 
 }  // namespace Operations

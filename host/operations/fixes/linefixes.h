@@ -5,7 +5,7 @@
 
 namespace Operations {
 
-/// The mend of a problem that its line and the grammar tell alone. Without changes if there is
+/// A fix derived only from the line of a problem and the grammar. It has no changes if there is
 /// none.
 Fix lineFix(const Family::Problem& problem, const FaultyLine& line);
 

@@ -5,12 +5,11 @@
 
 namespace Operations {
 
-/// What can be done about a name that nothing has: another name that is near, or what is missing
-/// is made.
+/// Fixes for a name that does not exist: use a similar name, or create what is missing.
 QVector<Fix> nameFixes(const Family::Problem& problem, const FaultyLine& line,
                        const Family::ProjectFindings& project, const FixSource& source);
 
-/// Likewise of a file that is named and not there.
+/// Fixes for a file that is named but missing.
 QVector<Fix> fileFixes(const FaultyLine& line, const Family::ProjectFindings& project);
 
 }  // namespace Operations

@@ -12,11 +12,11 @@ class SpriteCollection;
 
 namespace Operations {
 
-// Changes of several sprites of a collection, each of them one step of undo. Sprites are told by
-// their rows. One whose record in the file is broken is left as it is, and told as a warning;
-// `done` counts those that are as they were asked for.
+// Changes to several sprites of a collection. Each is one undo step. Sprites are identified by row.
+// A sprite whose record in the file is broken is left unchanged, with a warning. `done` counts the
+// sprites that are in the requested state afterwards.
 
-/// From where an axis is told: a place of the image, or where the axis is now.
+/// The origin for setting an axis: a point of the image, or the current axis.
 enum class AxisBase {
     TopLeft,
     Top,
@@ -30,44 +30,44 @@ enum class AxisBase {
     Current
 };
 
-/// Reads what the command line calls a base: "bottom", "top-left", "current". False, and no
-/// change, for any other text.
+/// Parses the command line's name of a base: "bottom", "top-left", "current". Returns false and
+/// changes nothing for any other text.
 bool readAxisBase(const QString& name, AxisBase* base);
 
-/// The pixel of an image at a base that is none but `Current`: rows and columns of pixels are
-/// counted from 0, and of the two in the middle it is the one further right, or further down.
+/// The pixel of an image at a base other than `Current`. Rows and columns are counted from 0. With
+/// two middle pixels, takes the right or lower one.
 QPoint axisPlace(AxisBase base, const QSize& size);
 
-/// Puts the axis of each sprite at a place, moved by an offset. If one would leave its range
-/// (-32768 to 32767), nothing is changed.
+/// Sets the axis of each sprite to a base plus an offset. If one would leave its range (-32768 to
+/// 32767), nothing is changed.
 MediaResult setAxes(Family::SpriteCollection* sprites, const QVector<int>& rows, AxisBase base,
                     QPoint offset);
 
-/// Which identifiers sprites get.
+/// The new identifiers of sprites.
 struct Renumbering
 {
-    int group = 0;         ///< the group of all of them,
-    bool isShift = false;  ///< or what is added to the group of each
-    int number = -1;       ///< of the first one, the others count on; negative to keep the numbers
+    int group = 0;         ///< the group for all of them
+    bool isShift = false;  ///< true: `group` is added to the group of each
+    int number = -1;       ///< of the first one, the others count up; negative to keep the numbers
 };
 
-/// Gives sprites other identifiers. If one would leave its range (0 to 65535), or be that of
-/// another sprite, nothing is changed. Frames that show them are text, and stay.
+/// Renumbers sprites. If an identifier would leave its range (0 to 65535) or already belongs to
+/// another sprite, nothing is changed. Frames that show the sprites are text and are not updated.
 MediaResult renumberSprites(Family::SpriteCollection* sprites, const QVector<int>& rows,
                             const Renumbering& renumbering);
 
-/// What pixels keep when their sprite gets another palette.
+/// What to preserve when a sprite gets another palette.
 enum class PixelsKeep {
-    Indices,  ///< colours change; a sprite of true colour has no indices, and is told
-    Looks     ///< they take the nearest of the new colours
+    Indices,  ///< colours change; a true-colour sprite has no indices and is reported
+    Looks     ///< pixels are mapped to the nearest new colours
 };
 
-/// Gives sprites another palette: that of an identifier, or of a palette file, which is added
-/// unless the collection has it.
+/// Assigns another palette to sprites: `palette` is an identifier, or a palette file, which is
+/// added unless the collection has it.
 MediaResult recolorSprites(Family::SpriteCollection* sprites, const QVector<int>& rows,
                            const QString& palette, PixelsKeep keep);
 
-/// What to tell of broken sprites that were left: a line each.
+/// One warning line for each broken sprite that was left unchanged.
 QStringList brokenSprites(const Family::SpriteCollection& sprites, const QVector<int>& rows);
 
 }  // namespace Operations

@@ -11,21 +11,21 @@ class SpriteCollection;
 
 namespace Operations {
 
-/// The rows of the sprites that a selection means, in their order.
+/// The rows of the selected sprites, in order.
 QVector<int> selectedRows(const Family::SpriteCollection& sprites, const Selection& selection);
 
-/// Finds what a person calls a palette: the identifier of one of the collection, or a palette
-/// file. False, with `error`, if there is neither.
+/// Resolves a palette name from the user: the identifier of a palette in the collection, or a
+/// palette file. False, with `error`, if there is neither.
 bool findPalette(const Family::SpriteCollection& sprites, const QString& name,
                  Family::PaletteColors* colors, QString* error);
 
-/// The palette of the collection that a person calls so; one of a palette file is added unless it
-/// is there. Null, with `error`, if there is neither.
+/// Like `findPalette()`, but returns a palette of the collection. A palette file is added unless
+/// the collection has it. Null, with `error`, if there is neither.
 Family::FamilyPalette* ensurePalette(Family::SpriteCollection* sprites, const QString& name,
                                      QString* error);
 
-/// Writes an image file for each sprite, PNG if nothing else is said. With `colors` sprites that
-/// are indexed are shown in them. A sprite that is broken does not keep the others from it.
+/// Writes an image file for each sprite; the default is PNG. With `colors`, indexed sprites are
+/// drawn in those. A broken sprite does not stop the others.
 MediaResult exportSprites(const Family::SpriteCollection& sprites, const Selection& selection,
                           const OutputRequest& request,
                           const Family::PaletteColors* colors = nullptr);

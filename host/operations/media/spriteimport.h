@@ -19,38 +19,38 @@ struct ImportRequest
 {
     Numbering numbering;
 
-    /// The axis: a place of the image, moved by `axis`. Without `hasAxis` it is what the file
-    /// tells, else a sprite that is replaced keeps its own, else that place is it. Edges that the
-    /// sheet or `crops` has cut off count.
+    /// The axis. With `hasAxis` it is `axisBase` of the image plus `axis`. Without, it is the axis
+    /// in the file; else a replaced sprite keeps its own; else it is `axisBase` plus `axis` as
+    /// well. Edges that the sheet or `crops` has cut off are counted.
     bool hasAxis = false;
     AxisBase axisBase = AxisBase::TopLeft;
     QPoint axis;
 
-    bool crops = false;  ///< what does not show is cut off, and the axis moves with it
-    QString palette;     ///< identifier of a palette, or a palette file; empty for each image's own
-    bool recolors = false;  ///< that palette takes the colours of the images
-    bool reverses = false;  ///< colours and indices of images change places, 0 with 255
-    int colors = 0;  ///< all images share a new palette of so many, 2 to 256; 0 for none such
-    Family::PixelCodec codec = Family::PixelCodec::None;  ///< `None` for the smallest one
-    bool leavesOut = false;  ///< images that cannot be read are left out, and do not stop the rest
+    bool crops = false;  ///< the invisible border is cropped, and the axis moves with it
+    QString palette;     ///< identifier of a palette, or a palette file; empty to use each image's
+                         ///< own
+    bool recolors = false;  ///< that palette is overwritten with the colours of the images
+    bool reverses = false;  ///< colours and indices of images are reversed: 0 becomes 255
+    int colors = 0;         ///< all images share a new palette of this size, 2 to 256; 0 for none
+    Family::PixelCodec codec = Family::PixelCodec::None;  ///< `None` to choose the smallest
+    bool leavesOut = false;  ///< skips unreadable images instead of failing
 };
 
-/// Which sprite shows an image.
+/// The sprite that shows an image.
 struct ImportedId
 {
     int image;
     Family::AssetId id;
 };
 
-/// Where the axis of an image goes, in what is left of it; `old` is that of a sprite in whose place
-/// it comes, null for a new one.
+/// The axis of an image, relative to its cropped part. `old` is the axis of the sprite that it
+/// replaces, null for a new one.
 QPoint importAxis(const ImportPixels& pixels, const ImportRequest& request,
                   const QPoint* old = nullptr);
 
-/// Reads images and adds them to a collection, or replaces its sprites, as one step of undo. If one
-/// of them cannot be read, or is there already and may not be replaced, nothing is changed. `ids`
-/// takes, for each image in its order, the sprite that shows it; those that came to nothing are
-/// not in it.
+/// Reads images and adds them to a collection, or replaces its sprites, as one undo step. If an
+/// image cannot be read, or exists already and may not be replaced, nothing is changed. `ids`
+/// receives the sprite of each image, in image order; images that were not imported are omitted.
 MediaResult importSprites(Family::SpriteCollection* sprites, const QVector<ImportImage>& images,
                           const ImportRequest& request, QVector<ImportedId>* ids = nullptr);
 

@@ -18,52 +18,52 @@ namespace Operations {
 class SessionFolder;
 struct CanvasCopy;
 
-/// A copy that a process left behind, and what can be done with it.
+/// A recovery copy left by a dead process, and the ways to handle it.
 struct AbandonedWork
 {
     enum State {
-        Applicable,   ///< its file is what it was when the work began, or was never saved
-        FileChanged,  ///< the file was changed since
+        Applicable,   ///< its file has not changed since the work began, or was never saved
+        FileChanged,  ///< the file has changed since
         FileGone,
-        Damaged  ///< `copy` is empty, `fault` tells why
+        Damaged  ///< `copy` is empty, `fault` has the reason
     };
 
     QString path;       ///< of the copy
-    RecoveryCopy copy;  ///< without `assets`, which stay on the disk
+    RecoveryCopy copy;  ///< without `assets`, which are only read when needed
     State state = Damaged;
     QString fault;  ///< why a damaged copy cannot be read
 
-    /// The copy, and what its file holds now, as lines that can be compared. A text is read in the
-    /// encoding of the copy.
+    /// The copy, and the current content of its file, as lines for comparison. A text file is
+    /// decoded in the encoding of the copy.
     QString unsavedLines() const;
     QString fileLines() const;
 
-    /// Looks at the file again.
+    /// Checks the file again.
     bool isStillApplicable() const;
 
-    /// Removes the copy for good; false if that fails.
+    /// Deletes the copy; false if that fails.
     bool discard() const;
 
-    /// Writes the work to a file, which keeps its old content if that fails. False
-    /// with `error` then.
+    /// Writes the work to a file. On failure the file keeps its old content. False, with `error`,
+    /// then.
     bool saveElsewhere(const QString& fileName, QString* error) const;
 
-    /// Gives it to a document or collection of that file as unsaved changes: one step of undo.
-    /// False, with `error`, for a file of another kind, a canvas, or if the copy is damaged by now.
+    /// Applies the copy to a document or collection of its file as unsaved changes: one undo step.
+    /// False, with `error`, for a file of another kind, for a canvas, or if the copy is damaged
+    /// now.
     bool restore(Zorv::ProjectFile* file, QString* error) const;
 
-    /// Reads a canvas, which only an editor can restore. False with `error` if that fails.
+    /// Reads a canvas; only an editor can restore it. False with `error` if that fails.
     bool readCanvas(CanvasCopy* canvas, QString* error) const;
 };
 
-/// The copies of all processes that are gone. As long as the object lives no
-/// other process finds them; those that are not discarded are found again
-/// afterwards. Copies that say what their file says are removed at once.
+/// The copies of all dead processes. They are locked: no other process finds them while this object
+/// lives. Copies that were not discarded are found again afterwards. Copies equal to their file are
+/// removed at once.
 class AbandonedWorks
 {
 public:
-    /// Looks below `root`; with a game folder (with "/" at its end) only for
-    /// copies of that game.
+    /// Searches `root`. With a game folder (with "/" at its end), only for copies of that game.
     explicit AbandonedWorks(const QString& root, const QString& gameFolder = {});
     ~AbandonedWorks();
 
@@ -76,8 +76,8 @@ private:
     QList<AbandonedWork> m_works;
 };
 
-/// Gives a document a text as unsaved changes: one step of undo. The codec of
-/// that name is set if there is one.
+/// Sets the text of a document as an unsaved change: one undo step. Also sets the codec of that
+/// name, if it exists.
 void applyText(Zorv::CodeDocument* document, const QString& text, const QString& codec);
 
 }  // namespace Operations

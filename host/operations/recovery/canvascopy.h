@@ -9,23 +9,23 @@ class QIODevice;
 
 namespace Operations {
 
-/// What is on a canvas, and the sprite that it is of, as a recovery copy has it.
+/// The content of a canvas and the sprite that it belongs to, for a recovery copy.
 struct CanvasCopy
 {
     QString identifier;  ///< of the sprite
-    int row = -1;        ///< of the sprite in its file; -1 if it is not there any more
+    int row = -1;        ///< of the sprite in its file; -1 if it is no longer there
     Zorv::CanvasRecord record;
 
-    /// Lines that tell what it is.
+    /// A description as lines of text.
     QString lines() const;
 
-    /// False if the device takes not all.
+    /// False if not everything could be written.
     bool write(QIODevice* device) const;
 
-    /// False for anything but the whole of one.
+    /// False unless the bytes are a complete copy.
     bool read(const QByteArray& bytes);
 
-    /// As a PNG file; empty if there is not enough memory.
+    /// The canvas as a PNG file; empty if memory runs out.
     QByteArray picture() const;
 };
 

@@ -12,18 +12,19 @@ namespace Operations {
 
 struct RecoveryCopy;
 
-/// Work on a file that is not in its object yet, such as a canvas, as a `RecoveryKeeper` sees it.
+/// Work on a file that has not reached its object yet, such as a canvas. Interface for
+/// `RecoveryKeeper`.
 class RecoveryInput
 {
 public:
     virtual ~RecoveryInput() = default;
 
-    /// The file that there is work on; null while there is nothing to keep.
+    /// The file being worked on; null while there is nothing to keep.
     virtual Zorv::ProjectFile* file() const = 0;
 
-    /// Tells in the copy what the work is, and gives what writes its bytes
-    /// (`RecoveryCopy::assets`). That is called in another thread, and stays the same whatever is
-    /// worked on meanwhile.
+    /// Describes the work in the copy and returns a function that writes its bytes
+    /// (`RecoveryCopy::assets`). The function runs in another thread, so it must hold a snapshot
+    /// that does not change.
     virtual std::function<bool(QIODevice*)> take(RecoveryCopy* copy) const = 0;
 };
 

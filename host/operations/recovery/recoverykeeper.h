@@ -13,52 +13,52 @@ namespace Operations {
 
 class RecoveryInput;
 
-/// Puts unsaved texts, sprites, sounds and canvases aside, outside of the files of any game, so
-/// that they outlive a crash.
+/// Keeps recovery copies of unsaved texts, sprites, sounds and canvases outside of any game folder,
+/// so that the work survives a crash.
 ///
-/// What has changed is copied at most once an interval, large files less often. A text
-/// is taken at once; the bytes of sprites and sounds are brought together in small parts between
-/// other events. Another thread writes the copy, to a new file that takes the place of the last
-/// one when it is whole. The copy of a file goes when that is saved, read again, or closed. Main
-/// thread only.
+/// A change is copied at most once per interval, large files less often. The main thread copies a
+/// text at once. It collects the bytes of sprites and sounds in small parts between other events. A
+/// worker thread writes the copy to a new file, which replaces the previous one when it is
+/// complete. The copy of a file is deleted when the file is saved, reloaded or closed. Main thread
+/// only.
 class RecoveryKeeper : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Keeps copies below `root`; the folder is made with the first copy.
+    /// Keeps copies inside `root`; the folder is created with the first copy.
     explicit RecoveryKeeper(const QString& root, QObject* parent = nullptr);
 
-    /// Removes all copies: whoever ends the program has asked about unsaved work.
+    /// Removes all copies: whoever ends the program has asked the user about unsaved work.
     ~RecoveryKeeper() override;
 
-    /// In milliseconds, 0 to keep no copies. The setting "recovery_seconds" until
-    /// another one is set, or with a negative one.
+    /// In milliseconds, 0 to keep no copies. Until this is called, or if it is negative, the
+    /// setting "recovery_seconds" applies.
     void setInterval(int interval);
     int interval() const;
 
-    /// Follows a document or a collection until it dies; nothing for one that is known. Call it
-    /// before it changes: what its file is then tells later whether the copy is older
-    /// than the file.
+    /// Follows a document or collection until it is destroyed. Does nothing if it is already
+    /// followed. Call it before the first change: it records the state of the file, which later
+    /// shows whether the copy is older than the file.
     void watch(Zorv::ProjectFile* file);
 
-    /// Follows work that is not in its file yet, and tells that it has changed, or is of another
-    /// file, or is none any more. It has a copy of its own, and outlives the keeper.
+    /// Follows work that has not reached its file yet. Call `inputChanged()` when it changes, moves
+    /// to another file, or ends. It has its own copy. It must outlive the keeper.
     void watchInput(const RecoveryInput* input);
     void inputChanged(const RecoveryInput* input);
 
-    /// Copies now what has changed, and waits until it is written. True if
-    /// all unsaved work has a copy then.
+    /// Copies all changes now and waits until they are written. True if all unsaved work has a copy
+    /// then.
     bool flush();
 
-    /// Where the copies are; empty before the first one.
+    /// The folder of the copies; empty before the first one.
     QString folder() const;
 
 signals:
-    /// All that had changed at the last turn is on the disk.
+    /// All changes of the last turn are on disk.
     void copied();
 
-    /// A copy could not be written. Comes once until one can; the attempts go on.
+    /// A copy could not be written. Emitted only once until a copy succeeds; attempts continue.
     void failed(const QString& reason);
 
 private:

@@ -10,35 +10,35 @@ class QLockFile;
 
 namespace Operations {
 
-/// The folder in which one process keeps its recovery copies, locked as long as
-/// the object lives. A process that dies leaves it, and another one takes it
-/// over. Main thread only; files in it may be written from anywhere.
+/// The folder for the recovery copies of one process, locked while this object lives. If the
+/// process dies, the folder stays and another process can take it over. Main thread only; files in
+/// it may be written from any thread.
 class SessionFolder
 {
 public:
-    /// Where the folders of all sessions stand: "recovery" in the person's data
-    /// folder of this program, outside of any game.
+    /// The parent folder of all sessions: "recovery" in the user's data folder of this program,
+    /// outside of any game.
     static QString defaultRoot();
 
-    /// A new folder below `root`. Null, with `error`, if none can be made.
+    /// Creates a new folder inside `root`. Null, with `error`, if that fails.
     static std::unique_ptr<SessionFolder> create(const QString& root, QString* error);
 
-    /// Every folder below `root` whose process is gone.
+    /// Takes over every folder inside `root` whose process is gone.
     static std::vector<std::unique_ptr<SessionFolder>> claimAbandoned(const QString& root);
 
-    /// Gives the folder up, and removes it if there is nothing in it.
+    /// Releases the folder, and removes it if it is empty.
     ~SessionFolder();
 
     /// With "/" at its end.
     QString path() const { return m_path; }
 
-    /// The path of the copy of that number.
+    /// The path of the copy with this number.
     QString copyPath(int number) const;
 
-    /// The copies in it, whole or not. Nothing else there is touched by anybody.
+    /// The copies in the folder, complete or not. No one touches other files there.
     QFileInfoList copies() const;
 
-    /// Removes the copies, and what a write that was cut off has left.
+    /// Removes the copies, and leftovers of interrupted writes.
     void removeCopies();
 
 private:

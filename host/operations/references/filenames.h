@@ -5,29 +5,30 @@
 
 namespace Operations {
 
-/// A name at its line, from 1.
+/// A name and its line, from 1.
 struct PlacedName
 {
     Family::LineName name;
     int line;
 };
 
-/// All names of a code file. What a file has most of, sprites and sounds, is kept in a short form.
+/// All names in a code file. Sprites and sounds are by far the most frequent, so they are stored in
+/// a compact form.
 struct FileNames
 {
-    QVector<PlacedName> names;  ///< those that are words, in the order of the text
+    QVector<PlacedName> names;  ///< names that are words, in text order
     QVector<Family::AssetUse> sprites;
     QVector<Family::AssetUse> sounds;
-    QVector<Family::FileReference> files;  ///< of `names`, those that are files
+    QVector<Family::FileReference> files;  ///< the file names among `names`
 
-    /// Why the file could not be read, in words for the person; empty if it could.
+    /// Why the file could not be read, for the user; empty on success.
     QString error;
 };
 
-/// Reads a text line by line. Any thread.
+/// Scans a text line by line. Any thread.
 FileNames namesOf(const Family::SourceText& source);
 
-/// Reads the file as well. The kind of the file decides nothing about its names. Any thread.
+/// Reads and scans a file. Its kind has no influence on its names. Any thread.
 FileNames namesOfFile(const QString& path);
 
 }  // namespace Operations

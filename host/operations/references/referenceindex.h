@@ -18,10 +18,10 @@ struct NameUse
     int column;    ///< from 1
     int length;
     bool isDefinition;
-    QString text;  ///< of the line, once `addTexts()` has been called; of line 0 what it is there
+    QString text;  ///< the line, after `addTexts()`; for line 0 a description
 };
 
-/// A character or a stage with the files that it names.
+/// A character or a stage, with the files that it names.
 struct IndexedProject
 {
     QString mainFile;
@@ -30,45 +30,45 @@ struct IndexedProject
     QString sounds;
 };
 
-/// The names of all files of a game, and who refers to them.
+/// An index of all names in the files of a game, to find references.
 ///
-/// Only what has changed since is read again: each file is known by its state on the disk, or by
-/// the text that stands in its place. Names belong to a project: the animation 200 of one character
-/// is not that of another. But files can be shared, and then a name is the same thing for all
-/// projects whose files say it. Main thread only.
+/// Only changed files are read again: a file is identified by its state on disk, or by the text
+/// that replaces it. Names belong to a project: animation 200 of one character is not animation 200
+/// of another. But projects can share files; then a name means the same in all projects whose files
+/// use it. Main thread only.
 class ReferenceIndex
 {
 public:
-    /// Nothing is read before `update()`.
+    /// Reads nothing before `update()`.
     explicit ReferenceIndex(const QString& gameFolder);
     ~ReferenceIndex();
 
     QString gameFolder() const;
 
-    /// A text that is not saved stands in the place of its file until the next `update()`.
+    /// Uses an unsaved text instead of its file until the next `update()`.
     void setText(const QString& path, std::shared_ptr<const Family::SourceText> text);
 
-    /// Reads what has changed, on all processors, with progress. False if the person gives up:
-    /// the next one goes on where this has ended.
+    /// Reads changed files on all processors, with progress. False if the user cancels; the next
+    /// call continues from there.
     bool update();
 
-    /// All places that name the subject, in the order of files and lines, those that define it
-    /// too. Empty if no project knows it.
+    /// All places that name the subject, including its definitions, ordered by file and line. Empty
+    /// if no project knows it.
     QVector<NameUse> usesOf(const Subject& subject) const;
 
-    /// Adds the texts of their lines.
+    /// Fills in the texts of the lines.
     void addTexts(QVector<NameUse>* uses) const;
 
-    /// The projects for which the name is the same thing, that of the subject first.
+    /// The projects in which the name means the same thing, the subject's own project first.
     QVector<IndexedProject> projectsOf(const Subject& subject) const;
 
-    /// All projects, by their main files. One without a main file that can be read has no code.
+    /// All projects, by main file. A project without a readable main file has no code.
     const QVector<IndexedProject>& projects() const;
 
-    /// All that a file names, null for one that no project names.
+    /// All names in a file; null if no project uses the file.
     std::shared_ptr<const FileNames> names(const QString& path) const;
 
-    /// How many files have been read.
+    /// The number of files read so far.
     int readCount() const;
 
 private:

@@ -4,39 +4,39 @@
 
 namespace Operations {
 
-/// The thing that names stand for.
+/// The thing that a name refers to.
 struct Subject
 {
     Family::NameKind kind = Family::NameKind::None;
-    QString mainFile;    ///< absolute, of a project that knows it by this name
-    QString name;        ///< of a file its absolute path; of sprites and sounds empty
-    Family::AssetId id;  ///< of sprites and sounds
+    QString mainFile;    ///< absolute, of a project that uses this name for it
+    QString name;        ///< for files the absolute path; empty for sprites and sounds
+    Family::AssetId id;  ///< for sprites and sounds
 
     bool isNone() const { return kind == Family::NameKind::None; }
 
-    /// What a name in a line of a project stands for.
+    /// The subject that a name in a line of a project refers to.
     static Subject of(const QString& mainFile, const Family::LineName& name);
 
-    /// The subject of a text of the person: "200", "200,0", or the path of a file as the lines of
-    /// the project have it. None, with `error`, if it is no name of the kind.
+    /// Parses a text of the user: "200", "200,0", or a file path as written in the project. None,
+    /// with `error`, if it is not a valid name of this kind.
     static Subject fromText(const QString& mainFile, Family::NameKind kind, const QString& text,
                             QString* error);
 
-    /// What the person calls it, as `fromText()` takes it.
+    /// The name as shown to the user, in the form that `fromText()` accepts.
     QString shown() const;
 
-    /// True if the name in a line is that of the subject. Not for files, whose paths begin
-    /// elsewhere for each project.
+    /// True if a name in a line refers to the subject. Not for files: their paths are relative to a
+    /// different folder in each project.
     bool isNamedBy(const Family::LineName& other) const;
 };
 
-/// Why a text can be no name of a kind; empty if it can.
+/// Why a text is not a valid name of this kind; empty if it is.
 QString nameFault(Family::NameKind kind, const QString& text);
 
-/// That nothing of that name is known, in words.
+/// A message that the name is unknown.
 QString unknownSubject(const Subject& subject);
 
-/// The file that a path in the lines of a project means.
+/// The file that a path in the lines of a project refers to.
 QString fileNamed(const QString& mainFile, const QString& path);
 
 }  // namespace Operations

@@ -4,14 +4,14 @@
 
 namespace Operations {
 
-/// The file in a game folder that tells of a change under way.
+/// The file in a game folder that records an unfinished change.
 QString journalPath(const QString& gameFolder);
 
 /// The journal as bytes; paths are relative to the game.
 QByteArray journalOf(const ChangeSet& changes, const QString& gameFolder);
 
-/// Reads one. False for bytes that are no journal, or that would touch a file outside of the game:
-/// it can come with a game of somebody else.
+/// Parses a journal. Returns false if it is invalid or would touch a file outside of the game: a
+/// journal may come with a game from an untrusted source.
 bool readJournal(const QByteArray& bytes, const QString& gameFolder, ChangeSet* changes);
 
 }  // namespace Operations

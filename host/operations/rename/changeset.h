@@ -7,16 +7,16 @@
 
 namespace Operations {
 
-/// One change of several files of a game: all of it is done, or nothing.
+/// An atomic change of several files of a game: all of it is done, or nothing.
 struct ChangeSet
 {
     struct Text
     {
-        QString path;  ///< absolute, as the next two
+        QString path;  ///< absolute, like the next two
         QByteArray before;
         QByteArray after;
     };
-    /// Another identifier for a sprite, a palette or a sound.
+    /// A new identifier for a sprite, a palette or a sound.
     struct Asset
     {
         QString path;
@@ -24,7 +24,7 @@ struct ChangeSet
         Family::AssetId from;
         Family::AssetId to;
     };
-    /// Another name for a file, or for a folder. It comes last, so `path` above is the old one.
+    /// A new name for a file or folder. Applied last, so `path` above is the old one.
     struct Move
     {
         QString from;
@@ -37,25 +37,25 @@ struct ChangeSet
 
     bool isEmpty() const { return texts.isEmpty() && assets.isEmpty() && moves.isEmpty(); }
 
-    /// What takes it back.
+    /// The change that undoes this one.
     ChangeSet reversed() const;
 
-    /// The file that `path` is called when all is done.
+    /// The path of a file after the change.
     QString movedPath(const QString& path) const;
 };
 
-/// Does a change, under the lock of the game folder. False, with `error` for the person, if that
-/// fails; then every file is as it was. Files that are not as the change tells make it fail.
+/// Applies a change while holding the lock of the game folder. On failure returns false with
+/// `error` for the user, and every file is as before. It fails if a file differs from its `before`.
 ///
-/// First all new files are written beside the old ones, and the old ones are copied, so that
-/// nothing fails for want of room later. Then a journal is written, then files are only renamed. A
-/// program that is killed leaves the journal, and `settleChanges()` does the rest. Main thread.
+/// First writes all new files beside the old ones and copies the old ones, so that a full disk
+/// cannot cause a failure later. Then it writes a journal. After that it only renames files. If the
+/// program is killed, the journal remains and `settleChanges()` finishes the work. Main thread.
 bool writeChanges(const ChangeSet& changes, const QString& gameFolder, QString* error);
 
-/// Brings a change to its end that a killed program has left: nothing was replaced, and nothing
-/// will be; or the rest is replaced too. What has been changed by somebody since stays. Gives a
-/// line for the person for what was done, and for what could not be; empty if nothing was left,
-/// which costs one look at the disk.
+/// Finishes a change that was interrupted when the program was killed. If nothing was replaced yet,
+/// nothing will be; otherwise the rest is replaced too. A file that somebody changed since is kept.
+/// Returns one line for the user for everything that was done or could not be done. Empty if there
+/// was nothing to finish; that costs one look at the disk.
 QStringList settleChanges(const QString& gameFolder);
 
 }  // namespace Operations

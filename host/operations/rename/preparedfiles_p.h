@@ -8,20 +8,20 @@
 
 namespace Operations {
 
-/// New files that lie beside the old ones, on the disk as a whole, and wait to take their places.
-/// As an archive it takes what a document or a collection writes; it reads as the file system does.
+/// New files, completely written beside the old ones, ready to replace them. As an archive it
+/// receives what a document or collection writes; reading goes to the file system.
 class PreparedFiles final : public Zorv::Archive
 {
 public:
-    /// A new content for a file; false, with `error`, if it cannot be written.
+    /// Prepares new content for a file; false, with `error`, if it cannot be written.
     bool add(const QString& path, const QByteArray& content, QString* error);
 
-    /// The content that the file has.
+    /// Prepares a copy of the current content.
     bool addCopy(const QString& path, QString* error);
 
     int count() const { return int(m_files.size()); }
 
-    /// Puts one in its place.
+    /// Replaces one file.
     bool commit(int index, QString* error);
 
     void release() override {}

@@ -9,24 +9,25 @@
 
 namespace Operations {
 
-/// A text file of which some names are replaced, and every other byte stays.
+/// A text file in which names are replaced and every other byte stays the same.
 class RenamedText
 {
 public:
-    /// Reads it. `fault()` tells if it cannot be changed.
+    /// Reads the file. `fault()` says whether it can be changed.
     explicit RenamedText(const QString& path);
 
-    /// Puts `name` in the place of the subject at a use: a word, "200,0", or a path. A fault if the
-    /// file names it there no longer.
+    /// Replaces the subject at a use by `name`: a word, "200,0", or a path. Sets a fault if the
+    /// file no longer names it there.
     void replace(const NameUse& use, const Subject& subject, const QString& name);
 
-    /// Makes the new bytes. They are read again: what is replaced is named, and all else as before.
+    /// Builds the new bytes and parses them again to verify: the new names are there, and
+    /// everything else is as before.
     void finish();
 
     ChangeSet::Text change() const { return {m_path, m_bytes, m_newBytes}; }
     QVector<RenamedLine> lines() const;
 
-    /// Why it cannot be changed, for the person; empty if it can.
+    /// Why it cannot be changed, for the user; empty if it can.
     QString fault() const { return m_fault; }
 
 private:
@@ -57,8 +58,8 @@ private:
     QVector<Line> m_lines;
     QMap<int, Replaced> m_replaced;  // by line, from 1: no line has two names
     QString m_fault;
-    std::shared_ptr<const FileNames> m_names;  // what the file says now
-    QHash<int, Family::LineName> m_places;     // of them the words, by line
+    std::shared_ptr<const FileNames> m_names;  // the names that are in the file now
+    QHash<int, Family::LineName> m_places;     // the words among them, by line
 };
 
 }  // namespace Operations

@@ -11,13 +11,14 @@ namespace Operations {
 struct RenamedLine
 {
     QString path;
-    int line;        ///< from 1; 0 for what a file of sprites or sounds holds, and for its name
+    int line;        ///< from 1; 0 for an entry of a sprite or sound file, and for the name of a
+                     ///< file
     int column = 0;  ///< of the first change, from 1
     QString before;  ///< the line
     QString after;
 };
 
-/// All that a rename does, looked at before it is done.
+/// Everything that a rename will do, for review before it is done.
 struct RenamePlan
 {
     Subject subject;
@@ -25,21 +26,21 @@ struct RenamePlan
     QVector<RenamedLine> lines;
     ChangeSet changes;
 
-    /// Why it cannot be done, a line each for the person; empty if it can.
+    /// Why it cannot be done, one line each for the user; empty if it can.
     QStringList conflicts;
 
-    /// What to know about it, a line each.
+    /// Hints about the rename, one line each.
     QStringList notes;
 
     bool isPossible() const { return conflicts.isEmpty() && !changes.isEmpty(); }
 };
 
-/// Plans to give the subject another name wherever it is named. The index is up to date. `unsaved`
-/// are the paths of files that have changes which are not saved: they are in the way. A sprite gets
-/// another "GROUP,NUMBER", a file another path relative to the main file, with its suffix.
+/// Plans to rename the subject everywhere it is named. The index must be up to date. `unsaved`
+/// lists files with unsaved changes; they prevent the rename. A sprite gets another "GROUP,NUMBER",
+/// a file another path relative to the main file, with the same suffix.
 ///
-/// What names the subject before, and nothing else, names it afterwards: a name that is taken, or
-/// that lines name already, is a conflict, and each text is read again as it will be.
+/// Guarantees that exactly the places that named the subject before name it afterwards. A name that
+/// is taken, or used in a line already, is a conflict. Each text is parsed again as it will be.
 RenamePlan planRename(const ReferenceIndex& index, const Subject& subject, const QString& name,
                       const QSet<QString>& unsaved = {});
 
