@@ -10,9 +10,9 @@ namespace App {
 
 class ActionRegistry;
 
-/// The actions that fit what a person typed, the best first: label, menu, keys.
+/// The actions that match a typed text, best match first: label, menu, shortcuts.
 ///
-/// Actions of hidden menus are left out. What is disabled has a row that cannot be chosen.
+/// Actions of hidden menus are left out. Disabled actions are listed but cannot be selected.
 class ActionList : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,16 +20,16 @@ class ActionList : public QAbstractTableModel
 public:
     enum Column { LabelColumn, MenuColumn, KeyColumn, ColumnCount };
 
-    /// The registry is not owned. The list is empty when it dies.
+    /// Does not own the registry. The list becomes empty when the registry is destroyed.
     explicit ActionList(const ActionRegistry* registry, QObject* parent = nullptr);
 
-    /// Shows the actions that fit; all of them for an empty text.
+    /// Shows the actions that match; all of them for an empty text.
     void setFilter(const QString& typed);
 
-    /// Leaves out the actions that have no key.
+    /// Lists only actions that have a shortcut.
     void setOnlyWithKeys(bool isOnly);
 
-    /// The name of the action of a row; empty for a row that is not there.
+    /// The action name of a row; empty for an invalid row.
     QString name(int row) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

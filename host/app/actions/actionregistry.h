@@ -18,19 +18,19 @@ namespace App {
 class ActiveAreas;
 class AreaGate;
 
-/// What is known of an action when it comes into the registry.
+/// Describes an action when it is registered.
 struct ActionInfo
 {
-    QString name;       ///< of the program, and of its setting "shortcut_" + name
-    ActionText text;    ///< a text of none leaves what the action has
-    QStringList areas;  ///< where it can be enabled; empty for everywhere
+    QString name;       ///< internal name, also in its setting "shortcut_" + name
+    ActionText text;    ///< an empty `ActionText` keeps the action's own text
+    QStringList areas;  ///< where it can be enabled; empty: everywhere
     QList<QKeySequence> defaultKeys;
     bool waitsForOwner = false;  ///< disabled until `ActionRegistry::setAllowed()`
-    QString picture = {};        ///< of ":/icons/icons"; empty for the one of its name
+    QString picture = {};        ///< name in ":/icons/icons"; empty: same as `name`
 };
 
-/// Two actions that can be enabled at the same time and have one key, or of which the key of
-/// one begins that of the other: neither would work.
+/// Two actions that can be enabled at the same time and have the same shortcut, or where one
+/// shortcut is the beginning of the other. Neither would work.
 struct KeyClash
 {
     QString first;
@@ -38,13 +38,13 @@ struct KeyClash
     QKeySequence key;
 };
 
-/// Every action of the program, by name: those of the menus, of the editors, and the switches
-/// of panels and bars.
+/// All actions of the program by name: menu actions, editor actions, and the switches of panels and
+/// tool bars.
 ///
-/// It gives them texts, icon (":/icons/icons/PICTURE.png", where there is one), keys and enabled
-/// state, and does not own them: an action that dies is forgotten. A key that the person has
-/// chosen is kept as the setting "shortcut_" + name, in the portable form, empty for none. The
-/// host (`Zorv::Interface`) must be installed.
+/// The registry sets their text, icon (":/icons/icons/PICTURE.png", if it exists), shortcuts and
+/// enabled state. It does not own them: a destroyed action is removed. A shortcut chosen by the
+/// user is stored as the setting "shortcut_" + name, in Qt's portable text form; empty means no
+/// shortcut. The host (`Zorv::Interface`) must be installed.
 class ActionRegistry : public QObject
 {
     Q_OBJECT
@@ -53,30 +53,30 @@ public:
     explicit ActionRegistry(QObject* parent = nullptr);
     ~ActionRegistry() override;
 
-    /// Takes an action in. One that has the name already is forgotten, and is
-    /// seen no more. Gives the action's gate, which is a child of it.
+    /// Registers an action. It replaces an action of the same name, which is hidden. Returns the
+    /// action's gate, a child of the action.
     AreaGate* add(QAction* action, const ActionInfo& info);
 
-    /// The names, in the order in which the actions came.
+    /// The names, in the order of registration.
     QStringList names() const;
 
     /// Null for an unknown name.
     QAction* action(const QString& name) const;
 
-    /// The text for a list: without access key and dots.
+    /// The label for a list: without access key and "...".
     QString text(const QString& name) const;
 
-    /// The titles from the menu bar down to where the action stands, joined by
-    /// " > "; empty for an action that is in no menu.
+    /// The menu titles from the menu bar down to the action, joined by " > "; empty for an action
+    /// without a menu.
     QString menuPath(const QString& name) const;
 
-    /// Where the action stands, from the menu bar down; empty for one that is in no menu.
+    /// The indexes from the menu bar down to the action; empty for an action without a menu.
     QVector<int> menuPlace(const QString& name) const;
 
-    /// False for an action of a menu that is hidden, or within one.
+    /// False if its menu, or a menu around it, is hidden.
     bool isMenuVisible(const QString& name) const;
 
-    /// The areas in which it can be enabled; none is everywhere.
+    /// The areas where it can be enabled; empty means everywhere.
     QStringList areas(const QString& name) const;
 
     /// @name Keys
@@ -84,20 +84,20 @@ public:
     QList<QKeySequence> keys(const QString& name) const;
     QList<QKeySequence> defaultKeys(const QString& name) const;
 
-    /// True if the person has chosen the keys.
+    /// True if the user chose the shortcuts.
     bool isChosen(const QString& name) const;
 
-    /// Gives an action one key, or with an empty one none, and keeps that.
+    /// Sets one shortcut, or none if empty, and stores it in the settings.
     void setShortcut(const QString& name, const QKeySequence& key);
 
-    /// Back to the default keys.
+    /// Restores the default shortcuts.
     void resetShortcut(const QString& name);
     void resetAllShortcuts();
 
-    /// Every two that clash, each pair once.
+    /// All pairs of actions that clash, each pair once.
     QVector<KeyClash> clashes() const;
 
-    /// The actions that `name` would clash with if it had the key.
+    /// The actions that `name` would clash with if it had this shortcut.
     QStringList clashesOf(const QString& name, const QKeySequence& key) const;
     /// @}
 
@@ -110,15 +110,15 @@ public:
     void setAllowed(const QString& name, bool isAllowed);
     /// @}
 
-    /// Puts something behind the text of an action, as in "Undo: Move box"; empty for nothing.
+    /// Appends a detail to the text of an action, as in "Undo: Move box"; empty removes it.
     void setDetail(const QString& name, const QString& detail);
 
-    /// Gives all actions their texts in the present language.
+    /// Sets the texts of all actions in the current language.
     void retranslate();
 
 signals:
-    /// Actions came or went, or keys or texts of some have changed. Enabled states do not
-    /// count: an action tells of its own.
+    /// Actions were added or removed, or texts or shortcuts changed. Not sent for enabled states:
+    /// actions have a signal for that.
     void changed();
 
 private:

@@ -8,8 +8,8 @@
 
 namespace App {
 
-/// The keys that an action has at first: a standard key, or a text in the portable form, with
-/// "; " between several; or none.
+/// The default shortcuts of an action: a standard key, or a text in Qt's portable form with "; "
+/// between several, or none.
 class FirstKeys
 {
 public:
@@ -24,24 +24,25 @@ private:
     QKeySequence::StandardKey m_standard = QKeySequence::UnknownKey;
 };
 
-/// One action of the window: a row of a table, which the part that does the work has.
+/// One action of the window: a row in the table of the part that does the work.
 struct ActionRow
 {
-    /// One that is on or off tells it by `QAction::isChecked()`.
+    /// A `Switch` is checkable: `QAction::isChecked()` is its state.
     enum Kind { Button, Switch };
 
-    const char* name;   ///< the object name of the action
-    const char* place;  ///< menu and section of it, as in "file.save"; see `menuTable()`
-    const char* text;   ///< in the context "App::Actions"
+    const char* name;   ///< object name of the action
+    const char* place;  ///< menu and section, as in "file.save"; see `menuTable()`
+    const char* text;   ///< in the translation context "App::Actions"
     FirstKeys keys;
     std::function<void()> run;
-    std::function<bool()> isAllowed = {};  ///< none for always; asked after each change
-    const char* area = nullptr;            ///< where it applies; null for everywhere
+    std::function<bool()> isAllowed = {};  ///< no function: always; called after each change
+    const char* area = nullptr;            ///< where it applies; null: everywhere
     Kind kind = Button;
-    const char* picture = nullptr;  ///< of ":/icons/icons"; null for the one of its name
+    const char* picture = nullptr;  ///< name in ":/icons/icons"; null: same as `name`
 };
 
-/// Makes what a row calls of members of an object, which must outlive the row.
+/// Makes the functions of a row from member functions of an object. The object must outlive the
+/// row.
 template <typename Owner>
 class Members
 {
@@ -64,17 +65,18 @@ private:
     Owner* m_owner;
 };
 
-/// One menu: a row of the table. Between the actions of two of its sections stands a line.
+/// One menu: a row of the table. A separator divides the actions of two sections.
 struct MenuRow
 {
     const char* name;
-    const char* text;      ///< in the context "App::Menus"
-    const char* sections;  ///< their names, with blanks between; "+" for no line behind one
+    const char* text;      ///< in the translation context "App::Menus"
+    const char* sections;  ///< section names, separated by spaces; "+" at the end of a name: no
+                           ///< separator after it
     const char* place =
-        nullptr;  ///< of a menu within another one, a section of that; null for none
+        nullptr;  ///< for a submenu: the section of another menu that contains it; null for none
 };
 
-/// In the order in which they are shown, each behind the one that it stands in.
+/// In display order. A submenu comes after the menu that contains it.
 const QVector<MenuRow>& menuTable();
 
 }  // namespace App

@@ -10,13 +10,13 @@ namespace App {
 class ActionList;
 class ActionRegistry;
 
-/// All actions, to be found by typing. Return runs the chosen one when the dialog has closed.
+/// Finds actions by typing. Return closes the dialog, then runs the selected action.
 class ActionSearch : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// The registry is not owned and must outlive the dialog.
+    /// Does not own the registry, which must outlive the dialog.
     explicit ActionSearch(ActionRegistry* registry, QWidget* parent = nullptr);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -10,29 +10,28 @@ class Translator;
 
 namespace App {
 
-/// Where the texts of an action come from, so that they can be asked for again when the
-/// language changes.
+/// The source of an action's texts, kept so that they can be read again when the language changes.
 class ActionText
 {
 public:
-    /// Of none: the action keeps the text that it has.
+    /// Empty: the action keeps its own text.
     ActionText() = default;
 
-    /// Of a source text in a context of the translation files. Both live on.
+    /// A source text in a context of the translation files. Both strings must stay valid.
     ActionText(const char* context, const char* source) : m_context(context), m_source(source) {}
 
-    /// Of a table of numbered texts, which lives on.
+    /// A text from a numbered table, which must stay valid.
     ActionText(const Zorv::Translator* translator, unsigned id) : m_translator(translator), m_id(id)
     {
     }
 
-    /// Gives an action text, tool tip and status tip in the present language.
+    /// Sets an action's text, tool tip and status tip in the current language.
     void apply(QAction* action) const;
 
     /// The label alone; empty for none.
     QString label() const;
 
-    /// A text without the mark of its access key and without "..." at its end.
+    /// A text without its access-key mark and without "..." at the end.
     static QString plain(QString text);
 
 private:

@@ -4,7 +4,7 @@ class QString;
 
 namespace App {
 
-/// What an action was called in settings that an earlier version has written; null for the same.
+/// The name of an action in the settings of an earlier version; null if it has not changed.
 const char* formerNameOf(const QString& action);
 
 }  // namespace App

@@ -10,16 +10,16 @@ namespace App {
 class ActionList;
 class ActionRegistry;
 
-/// The keys of all actions, which can be searched, and saved to be printed.
+/// The shortcuts of all actions: searchable, and can be saved for printing.
 class KeysDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// The registry is not owned and must outlive the dialog.
+    /// Does not own the registry, which must outlive the dialog.
     explicit KeysDialog(const ActionRegistry* registry, QWidget* parent = nullptr);
 
-    /// Ask for a file and write the table of keys to it.
+    /// Asks for a file and writes the table of shortcuts to it.
     void savePdf();
     void saveHtml();
 

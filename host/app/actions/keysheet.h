@@ -7,11 +7,10 @@ namespace App {
 
 class ActionRegistry;
 
-/// The keys of all actions that have some, as a page of HTML: a table for each menu, in the
-/// order of the menus.
+/// The shortcuts of all actions that have one, as an HTML page: one table per menu, in menu order.
 QString keySheet(const ActionRegistry* registry);
 
-/// Writes the sheet to a file. False, with `error`, if that failed; an old file is whole then.
+/// Writes the sheet to a file. False, with `error`, on failure; an existing file stays intact then.
 bool saveKeySheetAsHtml(const ActionRegistry* registry, const QString& fileName, QString* error);
 bool saveKeySheetAsPdf(const ActionRegistry* registry, const QString& fileName, QString* error);
 

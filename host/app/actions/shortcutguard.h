@@ -9,17 +9,17 @@ namespace App {
 
 class ActionRegistry;
 
-/// Keeps the keys of actions out of the fields in which the person types.
+/// Keeps shortcuts from acting while the user types in a field.
 ///
-/// In a field of a dialog or a panel no action has a key, but for those that lead out of the
-/// panel: what is pressed goes into the field. In the text in the middle of the window only
-/// keys that write or move there are kept from actions.
+/// In a field of a dialog or a panel no shortcut works, except those that leave the panel: the key
+/// goes to the field. The text in the middle of the window keeps only the keys that write in it or
+/// move its cursor.
 class ShortcutGuard : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window and looks at all events of the application.
+    /// A child of the window. Filters all events of the application.
     ShortcutGuard(QMainWindow* window, const ActionRegistry* registry);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -4,11 +4,11 @@ class QString;
 
 namespace App {
 
-/// How well what a person typed fits an action; negative if not at all, and more is better.
+/// Scores how well a typed text matches an action: higher is better, negative means no match.
 ///
-/// Each word that was typed, whatever its case, has to begin a word of the label or of the path,
-/// or to stand in them, or else its letters have to follow each other in them: "sall" finds
-/// "Save all". The label counts for more than the path.
+/// Matching ignores case. Each typed word must begin a word of the label or path, or occur inside
+/// one, or its letters must occur there in the same order: "sall" finds "Save all". A match in the
+/// label scores higher than one in the path.
 int matchWords(const QString& typed, const QString& label, const QString& path);
 
 }  // namespace App

@@ -15,21 +15,20 @@ namespace App {
 
 struct WindowServices;
 
-/// What can be done with the animations of the text in front, in the organizer: it shows
-/// them, follows the cursor of the text, and leads to it. All of it edits the text. While the
-/// organizer is lent to the editor of sprites, nothing can be done.
+/// Commands for the animations of the current text, in the organizer. It lists them, follows the
+/// text cursor, and moves it. All commands edit the text. They are disabled while the sprite editor
+/// has borrowed the organizer.
 class AnimationCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Makes the organizer, which places its tools in the window of the host. Lives as a child of
-    /// the window.
+    /// Creates the organizer, which places its tools in the host's window. A child of the window.
     explicit AnimationCommands(const WindowServices& services);
 
     Zorv::OrganizerEditor* organizer() const { return m_organizer; }
 
-    /// The list of the organizer; null if the host has made none.
+    /// The organizer's list; null if the host created none.
     QAbstractItemView* list() const;
 
     /// True while the organizer shows animations.
@@ -38,11 +37,11 @@ public:
     void showDocument(Family::FamilyDocument* document) override;
     void updateState() override;
 
-    /// The animation of that line becomes the current row.
+    /// Selects the animation of that line.
     void followCursor(int line) override;
     QVector<PanelPlace> places() override;
 
-    /// Removes the animations of the selected rows; nothing without one.
+    /// Removes the animations of the selected rows, if any.
     void removeSelected();
 
 private:

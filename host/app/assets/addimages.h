@@ -10,9 +10,9 @@ namespace App {
 
 struct WindowServices;
 
-/// Asks what is to become of images, sheets and folders of them (`ImagesDialog`), and adds them to
-/// the sprites as one step of undo. An animation of them goes to the end of the text in front, or
-/// of another one of the same project, as one step of that.
+/// Asks how to import images, sheets and folders of images (`ImagesDialog`), and adds them to the
+/// sprites as one undo step. A new animation of them is added at the end of the current text, or of
+/// another text of the project, as one undo step of that text.
 void addImages(const WindowServices& services, Family::SpriteCollection* into,
                const QStringList& files);
 

@@ -20,15 +20,15 @@ namespace App {
 
 class SpritePanel;
 
-/// Asks where the axis of sprites is to be: at a place of each picture, moved by a number of
-/// pixels. What that makes of one of them is told while it is chosen.
+/// Asks for the new axis of sprites: a place in each picture, plus an offset in pixels. Previews
+/// the resulting axis of one sprite.
 class AxisDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Begins with the middle of the bottom edge. The sprite is only looked at now; `count` is how
-    /// many there are in all.
+    /// Starts with the middle of the bottom edge. The sprite is only read in the constructor;
+    /// `count` is the total number of sprites.
     AxisDialog(const Family::FamilySprite& sprite, int count, QWidget* parent);
 
     Operations::AxisBase base() const;
@@ -46,8 +46,8 @@ private:
     QLabel* m_result;
 };
 
-/// Asks with it, and sets the axes of the sprites that are selected in the panel as one step of
-/// undo. What is on the canvas of one of them is taken in first, as part of that step.
+/// Shows the dialog and sets the axes of the selected sprites as one undo step. If one of them has
+/// unsaved changes on the canvas, these are stored first, as part of that step.
 void setAxesOfSelected(const SpritePanel* panel, Zorv::SpriteEditor* canvas, QWidget* parent);
 
 }  // namespace App

@@ -6,11 +6,11 @@ class QSpinBox;
 
 namespace App {
 
-/// The names of the places of an image where an axis can be, in the order of
-/// `Operations::AxisBase`, without "where it is".
+/// The names of the axis places in an image, in the order of `Operations::AxisBase`, without "where
+/// it is".
 QStringList axisPlaceNames();
 
-/// A field for how far an axis is from such a place. The caller's.
+/// A field for the offset of an axis from such a place. The caller owns it.
 QSpinBox* makeOffsetBox();
 
 }  // namespace App

@@ -8,27 +8,27 @@
 
 namespace App {
 
-/// Small pieces of work that other threads do while the window goes on, the newest wish first: what
-/// the person looks at now comes before what has scrolled away.
+/// Runs small jobs in worker threads, newest request first: what the user looks at now is more
+/// urgent than what has scrolled away.
 class BackgroundWork : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What is done with the result, in this thread; not if this object has died meanwhile.
+    /// Takes the result in this object's thread; not called if the object was destroyed meanwhile.
     using Then = std::function<void()>;
 
-    /// Done in another thread; shares nothing that changes.
+    /// Runs in a worker thread; shares no mutable data.
     using Work = std::function<Then()>;
 
     explicit BackgroundWork(QObject* parent = nullptr);
 
-    /// Does not wait for what is on its way.
+    /// Does not wait for running jobs.
     ~BackgroundWork() override;
 
     void ask(const Work& work);
 
-    /// Forgets what has not begun.
+    /// Drops the jobs that have not started.
     void clear() { m_waiting.clear(); }
 
 private:

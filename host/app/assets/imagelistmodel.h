@@ -10,8 +10,8 @@ namespace App {
 
 class BackgroundWork;
 
-/// Images that are to become sprites, as thumbnails with their numbers. Pictures are read in other
-/// threads when they are seen first, so that ten thousand cost no more than those.
+/// The images to import, as thumbnails with their sprite numbers. A worker thread reads a picture
+/// only when its row is first seen, so ten thousand rows cost no more than the visible ones.
 class ImageListModel final : public QAbstractListModel
 {
     Q_OBJECT
@@ -25,14 +25,14 @@ public:
 
     void append(const QVector<Operations::ImportImage>& images);
 
-    /// Puts others in the place of one.
+    /// Replaces one image by others.
     void replace(int row, const QVector<Operations::ImportImage>& images);
     void remove(const QSet<int>& rows);
 
-    /// Of the images as they are now, in their order.
+    /// Sets the numbers of the current images, in their order.
     void setNumbers(const QVector<Operations::ImageNumber>& numbers);
 
-    /// The side of a thumbnail, in pixels of the window.
+    /// The side length of a thumbnail, in pixels of the window.
     static int side();
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -46,7 +46,7 @@ private:
 
     QVector<Operations::ImportImage> m_images;
     QVector<Operations::ImageNumber> m_numbers;
-    QVector<quint64> m_keys;  // of the thumbnails, which stay when rows move
+    QVector<quint64> m_keys;  // keys of the thumbnails; they stay valid when rows move
     quint64 m_nextKey = 0;
     mutable QHash<quint64, QPixmap> m_thumbnails;
     mutable QSet<quint64> m_asked;

@@ -25,38 +25,37 @@ class ImageListModel;
 class ImportForm;
 class StagePreview;
 
-/// Shows images that are about to become sprites, and asks what becomes of them: numbers, axis,
-/// palette, an animation. The picture in front stands on the stage as it will, and what is to be
-/// one moves there. More files, folders and sheets with their JSON are added by buttons, or
-/// dropped.
+/// Shows the images to import, and asks for numbers, axis, palette and an optional animation. The
+/// current picture is shown on the stage as it will look, and an animation plays there. Buttons or
+/// drag and drop add more files, folders, and sheets with their JSON.
 ///
-/// Files are read in other threads, so the dialog answers with ten thousand of them.
+/// Files are read in worker threads, so the dialog stays responsive with ten thousand of them.
 class ImagesDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// What the images come into.
+    /// The destination of the images.
     struct Target
     {
         Family::SpriteCollection* sprites = nullptr;
-        const Family::FamilyAnimations* animations = nullptr;  ///< null for no offer of one
-        QString animationPlace;                                ///< what its file is called
-        QSize screen;                                          ///< of the game; empty if not told
+        const Family::FamilyAnimations* animations = nullptr;  ///< null: do not offer an animation
+        QString animationPlace;                                ///< the name of its file
+        QSize screen;                                          ///< of the game; empty if unknown
     };
 
-    /// Closes itself if the sprites go.
+    /// Closes itself if the sprites are destroyed.
     ImagesDialog(const Target& target, QWidget* parent);
     ~ImagesDialog() override;
 
-    /// Adds images, folders of them, and JSON files of sheets.
+    /// Adds images, folders of images, and JSON files of sheets.
     void addPaths(const QStringList& paths);
 
     const QVector<Operations::ImportImage>& images() const;
     Operations::ImportRequest request() const;
 
-    /// The identifier of the animation that is asked for; empty for none. And the ticks of each of
-    /// the images in it.
+    /// The identifier of the animation to create, empty for none, and the ticks of each image in
+    /// it.
     QString animation() const;
     QVector<int> ticks() const;
 
@@ -92,11 +91,11 @@ private:
     QPushButton* m_ok;
     BackgroundWork* m_pictures;
     BackgroundWork* m_sheets;
-    QTimer m_renumber;  // once for several keys
+    QTimer m_renumber;  // merges several key presses into one update
     QTimer m_play;
     int m_shown = -1;  // the row in the preview
-    int m_asked = 0;   // counts pictures that were asked for; only the last is of use
-    QHash<int, Operations::SheetImages> m_readSheets;  // that wait for one asked for before
+    int m_asked = 0;   // number of pictures requested; only the last one is used
+    QHash<int, Operations::SheetImages> m_readSheets;  // waiting for a sheet requested earlier
     int m_askedSheets = 0;
     int m_takenSheets = 0;
     QStringList m_faults;

@@ -19,30 +19,30 @@ class SpriteCollection;
 
 namespace App {
 
-/// What becomes of images that come in: numbers, axis, palette, cropping, and an animation of them.
+/// The import options: numbers, axis, palette, cropping, and an animation of the images.
 class ImportForm : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Numbers begin with `group`. Without `animations`, to which `place` gives a name, there is no
-    /// offer of one. Both are only looked at now.
+    /// Numbers start with `group`. Without `animations` no animation is offered; `place` is the
+    /// name shown for it. Sprites and animations are only read in the constructor.
     ImportForm(const Family::SpriteCollection& sprites, int group,
                const Family::FamilyAnimations* animations, const QString& place,
                QWidget* parent = nullptr);
 
     Operations::ImportRequest request() const;
 
-    /// Whether an animation is asked for, its identifier, and the ticks of each frame; 0 for what
-    /// the images tell.
+    /// Whether to create an animation, its identifier, and the ticks of each frame; 0 means the
+    /// times stored in the images.
     bool makesAnimation() const;
     QString animation() const;
     int ticks() const;
 
-    /// Whether the images tell their times.
+    /// Whether the images store frame times.
     void setTimed(bool isTimed);
 
-    /// What is wrong with what stands in it; empty if nothing is.
+    /// What is wrong with the input; empty if nothing is.
     QString fault() const;
 
 signals:

@@ -8,7 +8,7 @@ struct MediaResult;
 
 namespace App {
 
-/// Tells how a piece of work ended: what was done in the status bar, what was not in a box.
+/// Reports the result of an operation: successes in the status bar, failures in a message box.
 void tellResult(const QString& title, const QString& done, const Operations::MediaResult& result);
 
 }  // namespace App

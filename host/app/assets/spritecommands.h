@@ -9,14 +9,14 @@ namespace App {
 class SpritePanel;
 struct WindowServices;
 
-/// The panel of the sprites of the project in front, of which several can be removed, in one step
-/// of the collection's undo. What is done to one sprite is the business of its editor.
+/// The sprite panel of the current project. Several sprites can be removed in one undo step of the
+/// collection. Changes of a single sprite are the sprite editor's job.
 class SpriteCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window, which places the panel.
+    /// A child of the window, which places the panel.
     explicit SpriteCommands(const WindowServices& services);
 
     SpritePanel* panel() const { return m_panel; }
@@ -25,7 +25,7 @@ public:
     void actionsMade() override;
     void showProject(Family::FamilyProject* project) override;
 
-    /// The sprite that the line of the cursor names becomes the current one.
+    /// Selects the sprite named in the cursor's line.
     void followRest(int line) override;
     QVector<PanelPlace> places() override;
 

@@ -18,7 +18,7 @@ class SpriteList;
 
 namespace App {
 
-/// The sprites of the project in front: a list, and what is to be known of the selected one.
+/// The sprites of the current project: a list, and information about the selected one.
 class SpritePanel : public QWidget
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ class SpritePanel : public QWidget
 public:
     explicit SpritePanel(QWidget* parent = nullptr);
 
-    /// Null for none. A collection that dies is let go of.
+    /// Null for none. The panel releases a collection when it is destroyed.
     void setSprites(Family::SpriteCollection* sprites);
     Family::SpriteCollection* sprites() const;
 
@@ -38,17 +38,18 @@ public:
     void setCurrentRow(int row);
     QVector<int> selectedRows() const;
 
-    /// The numbers of the selected sprites, one for each sprite that has it.
+    /// The identifiers of the selected sprites, one per sprite: an identifier used twice appears
+    /// twice.
     QVector<Family::AssetId> selectedIds() const;
 
-    /// Makes the sprite of that group and number the current one. False if there is none.
+    /// Selects the sprite with this group and number. False if there is none.
     bool showSprite(int group, int number);
 
 signals:
-    /// The current row, or anything in the collection.
+    /// The current row or the collection changed.
     void changed();
 
-    /// A double click on a sprite, or Return.
+    /// Double click on a sprite, or Return.
     void spriteActivated(int row);
 
 private:

@@ -5,17 +5,17 @@
 
 namespace App {
 
-/// A picture as it stands on the stage: a screen of the game with the ground and the axis, scaled
-/// to the room that there is.
+/// Previews a picture on the stage: a game screen with ground and axis, scaled to the available
+/// space.
 class StagePreview : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The size of the game's screen; an empty one is the usual one.
+    /// The size of the game's screen; empty means the usual size.
     explicit StagePreview(QSize screen, QWidget* parent = nullptr);
 
-    /// Shows a picture whose axis is that pixel. A null one is none.
+    /// Shows a picture with its axis at this pixel. A null picture shows none.
     void setPicture(const QImage& picture, QPoint axis);
 
     QSize sizeHint() const override;

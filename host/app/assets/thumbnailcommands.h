@@ -12,19 +12,18 @@ namespace App {
 
 struct WindowServices;
 
-/// The panel of thumbnails: the sprites of the project in front, on their way into animations.
+/// The thumbnail panel: the sprites of the current project, for adding them to animations.
 class ThumbnailCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Makes the panel, which places its tools in the window of the host. Lives as a child of the
-    /// window.
+    /// Creates the panel, which places its tools in the host's window. A child of the window.
     explicit ThumbnailCommands(const WindowServices& services);
 
     Zorv::ThumbnailsEditor* panel() const { return m_panel; }
 
-    /// The editors are there by now, that of animations among them.
+    /// The editors, including the animation editor, exist by now.
     void actionsMade() override;
     void showProject(Family::FamilyProject* project) override;
     QVector<PanelPlace> places() override;

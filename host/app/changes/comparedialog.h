@@ -4,7 +4,7 @@
 
 namespace App {
 
-/// Shows which lines differ between a file and what is open here.
+/// Shows the lines that differ between a file and its open version.
 class CompareDialog : public QDialog
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 namespace App {
 
-/// Shows which lines differ between two texts. Nothing can be edited.
+/// Shows the lines that differ between two texts. Read-only.
 class DiffView : public QPlainTextEdit
 {
     Q_OBJECT
@@ -12,8 +12,8 @@ class DiffView : public QPlainTextEdit
 public:
     explicit DiffView(QWidget* parent = nullptr);
 
-    /// The differences as `setPlainText()` takes them, not longer than somebody reads; the names
-    /// stand above them.
+    /// The differences, for `setPlainText()`, with the names above them. Limited to a readable
+    /// length.
     static QString comparison(const QString& before, const QString& after,
                               const QString& beforeName, const QString& afterName);
 };

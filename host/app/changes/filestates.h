@@ -20,39 +20,39 @@ namespace App {
 
 class GameSession;
 
-/// What has become of the files that are open: which have unsaved changes, which have gone, and
-/// which another program has changed. The tree of the game shows the first two. It asks about the
-/// last kind: at once if there are unsaved changes here, and before such a file is written over.
+/// Tracks the open files: which ones have unsaved changes, which no longer exist, and which another
+/// program changed. The game tree shows the first two. For the last, it asks the user: at once if
+/// there are unsaved changes here, and before such a file is overwritten.
 class FileStates : public QObject, public Zorv::FileWatchHandler
 {
     Q_OBJECT
 
 public:
-    /// The session must outlive the object, which installs itself in the library.
+    /// The session must outlive this object, which installs itself in the library.
     explicit FileStates(GameSession* session);
 
-    /// The one of the window, null without one.
+    /// The window's instance, null without a window.
     static FileStates* instance();
 
-    /// True if another program has changed the file since it was read or written here.
+    /// True if another program changed the file since it was read or written here.
     bool isOvertaken(const Zorv::ProjectFile* file) const;
 
-    /// How a question about a file that was overtaken ended.
+    /// The answer to a question about a file that another program changed.
     enum Answer { Write, Read, GiveUp };
 
-    /// Asks if the file was overtaken and says something else than what is open here. `Read` has
-    /// read it.
+    /// Asks if another program changed the file and its contents differ from what is open here. If
+    /// the answer is `Read`, the file was already reloaded.
     Answer askBeforeWriting(Zorv::ProjectFile* file);
 
     QList<Zorv::FileWatchObject*>
     fileChanged(const QString& path, const QList<Zorv::FileWatchObject*>& objects) override;
     void fileGone(const QString& path) override;
 
-    /// There is work on some file that has not gone into it, or there is none any more.
+    /// Call when edits that are not in their file yet appear or disappear.
     void inputChanged();
 
 signals:
-    /// A file has unsaved changes or has not any more, has gone or come back.
+    /// A file gained or lost unsaved changes, disappeared or came back.
     void changed();
 
 private:

@@ -6,8 +6,8 @@ namespace App {
 
 class WordPopup;
 
-/// What helps a person to write: words to complete, what a word means, jumps to what it
-/// names. Lives as long as the editor that it works on.
+/// Help for writing code: word completion, explanations of words, jumps to definitions. Lives as
+/// long as its editor.
 class CodeHelp : public QObject
 {
     Q_OBJECT

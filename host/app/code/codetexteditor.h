@@ -10,8 +10,7 @@ namespace App {
 
 class NodeModel;
 
-/// The library's editor "code": it works on the text in front, and its tree of nodes follows
-/// the cursor.
+/// The library's editor "code". It works on the current text, and its node tree follows the cursor.
 class CodeTextEditor : public Zorv::CodeFileEditor, public TextEditor
 {
     Q_OBJECT
@@ -22,15 +21,15 @@ public:
 
     CodeFileEditor* fileEditor() override { return this; }
 
-    /// True: a text that no other editor wants is for this one.
+    /// True: takes every text that no other editor wants.
     bool wants(const Family::FamilyDocument*) const override { return true; }
     void setText(Family::FamilyDocument* document) override;
 
-    /// Selects `length` characters from a place on, counted from 0, and brings them into the
-    /// view. A place behind an end is that end.
+    /// Selects `length` characters from a position, counted from 0, and scrolls there. A position
+    /// past an end is moved to that end.
     void goTo(int line, int column = 0, int length = 0);
 
-    /// Brings the text to the front; disabled without one.
+    /// Brings the text to the front; disabled without a text.
     QAction* action() const override { return m_action; }
 
     QString name() const override;
@@ -40,10 +39,10 @@ public:
     QStringList areas() const override;
     void retranslate() override;
 
-    /// The kind of the text in front, by its suffix.
+    /// The file kind of the current text, by its suffix.
     QString fileFilter() const override;
 
-    /// A cursor that runs with a key held down is followed now and then.
+    /// Follows the cursor with a delay, because a held key moves it quickly.
     void currLineChanged(int line) override;
 
     NodeModel* nodes() const { return m_nodes; }

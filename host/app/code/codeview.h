@@ -22,16 +22,16 @@ class FindBar;
 class TextEditor;
 struct WindowServices;
 
-/// The texts in the middle of the window: the library's code workspace, the editors that work in
-/// it, the tabs of the open texts, and the bars below. It tells the parts of the window which text
-/// is in front and where its cursor is.
+/// The texts in the middle of the window: the library's code workspace, its editors, the tabs of
+/// the open texts, and the bars below. It notifies the parts of the window which text is in front
+/// and where its cursor is.
 class CodeView : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Publishes the tools of code: the host must know the window by then. The texts go to the
-    /// end of `page`, which is what stands in the middle of the window with them.
+    /// Publishes the code tools: the host must know the window by then. The texts are added at the
+    /// end of `page`, the middle of the window.
     CodeView(const WindowServices& services, QSplitter* page);
     ~CodeView() override;
 
@@ -41,14 +41,14 @@ public:
     FindBar* findBar() const { return m_findBar; }
     CodeHelp* help() const { return m_help; }
 
-    /// The one in which all texts are shown, whether there is a text or not.
+    /// The one editor widget that shows all texts; exists even without a text.
     Zorv::CodeEditor* editor() const;
 
-    /// Takes another editor in, not owned, for the texts that it wants; to be added to the window,
-    /// with `commands()`, as well.
+    /// Adds an editor, not owned, for the texts that it wants. Add it to the window too, with
+    /// `commands()`.
     void addEditor(TextEditor* editor);
 
-    /// Where the window does more than the library's editor.
+    /// Commands where the window does more than the library's editor.
     CommandRows commands();
 
     /// See `showDocument()` and the others of `Jumps`.
@@ -62,7 +62,7 @@ public:
     void gameChanged() override;
     QVector<PanelPlace> places() override;
 
-    /// Brings the editor forward that wants the text in front now, in place of another one.
+    /// Brings the editor to the front that wants the current text now.
     void updateState() override;
     void reconfig() override;
 

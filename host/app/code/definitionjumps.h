@@ -23,24 +23,24 @@ namespace App {
 class LinkMark;
 struct TextPosition;
 
-/// What the window does for jumps.
+/// What jumps need from the window.
 struct JumpServices
 {
-    /// Brings a document to the front, with the cursor at a place from 0.
+    /// Brings a document to the front, with the cursor at a position counted from 0.
     std::function<void(Family::FamilyDocument* document, int line, int column)> show;
 
-    /// Opens a file of the game and brings its text to the front; false if it cannot.
+    /// Opens a file of the game and brings its text to the front; false on failure.
     std::function<bool(const QString& fileName)> open;
 
-    /// Brings a sound of the project in front into the middle of the window, by its row.
+    /// Shows a sound of the current project in the middle of the window, by its row.
     std::function<void(int row)> showSound;
 
-    /// Tells the person something in passing.
+    /// Shows the user a temporary message.
     std::function<void(const QString& text)> tell;
 };
 
-/// Jumps from a name to what it names, and back: by a key at the cursor, or by a click
-/// with Ctrl held, which underlines what can be clicked.
+/// Jumps from a name to its definition, and back: by a shortcut at the cursor, or by Ctrl+click.
+/// With Ctrl held, words that can be clicked are underlined.
 class DefinitionJumps : public QObject
 {
     Q_OBJECT
@@ -51,14 +51,14 @@ public:
     /// From the word at the cursor.
     void goToDefinition();
 
-    /// To where the last jump began; tells if there was none.
+    /// Returns to where the last jump began; shows a message if there was none.
     void goBack();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /// Where a jump began. The cursor moves with edits, as long as the text is open.
+    /// The start of a jump. The cursor moves with edits as long as the text is open.
     struct Place
     {
         QPointer<Family::FamilyDocument> document;

@@ -17,42 +17,42 @@ class CodeWorkspace;
 
 namespace App {
 
-/// The texts that are open, a tab each in the tab bar of the code workspace. All are shown
-/// in its one editor; each keeps its place, with the document itself. Closing a tab ends
-/// the view only; who gets `closeRequested()` asks about unsaved work.
+/// The open texts, one tab each in the tab bar of the code workspace. One editor shows all of them;
+/// each document stores its own position. Closing a tab only ends the view: the receiver of
+/// `closeRequested()` asks about unsaved work.
 class DocumentTabs : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the workspace. Who gets `currentDocumentChanged()` shows the text there.
+    /// A child of the workspace. The receiver of `currentDocumentChanged()` shows the text there.
     explicit DocumentTabs(Zorv::CodeWorkspace* workspace);
     ~DocumentTabs() override;
 
-    /// Brings the tab of a document to the front, made if there is none.
+    /// Brings the tab of a document to the front, creating it if necessary.
     void showDocument(Family::FamilyDocument* document);
 
-    /// Ends the view of a document; nothing without one.
+    /// Closes the tab of a document, if it has one.
     void closeDocument(const Family::FamilyDocument* document);
 
-    /// Brings the titles in line with names that have changed.
+    /// Updates the titles after files were renamed.
     void updateTabs();
 
     int count() const;
     int currentIndex() const;
     void setCurrentIndex(int index);
 
-    /// The tabs as they stand; they can be moved.
+    /// The document of a tab. The user can reorder tabs.
     Family::FamilyDocument* documentAt(int index) const;
     int indexOf(const Family::FamilyDocument* document) const;
 
     /// The document in front, or null.
     Family::FamilyDocument* currentDocument() const { return m_front; }
 
-    /// The editor while it shows the document in front, else null.
+    /// The editor while it shows the current document, else null.
     Zorv::CodeEditor* currentEdit() const;
 
-    /// The place of an open document, or of one that was.
+    /// The position in a document that is or was open.
     TextPlace placeOf(const Family::FamilyDocument* document) const;
     void setPlace(Family::FamilyDocument* document, const TextPlace& place);
 
@@ -62,7 +62,7 @@ signals:
     void currentDocumentChanged(Family::FamilyDocument* document);
     void closeRequested(Family::FamilyDocument* document);
 
-    /// A title has changed, and with it what can be done with the document.
+    /// A title changed, and with it what can be done with the document.
     void stateChanged();
 
 protected:
@@ -78,7 +78,7 @@ private:
     Zorv::CodeWorkspace* m_workspace;
     QTabBar* m_bar;
     Family::FamilyDocument* m_front = nullptr;
-    int m_pressedTab = -1;  ///< by the middle button
+    int m_pressedTab = -1;  ///< tab pressed with the middle button
 };
 
 }  // namespace App

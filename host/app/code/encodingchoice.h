@@ -6,9 +6,9 @@ class FamilyDocument;
 
 namespace App {
 
-/// Lets the person choose the encoding of a document, and whether its file is
-/// read again in it or the text is kept and saved in it. Nothing is lost without
-/// a question; giving up at any point changes nothing.
+/// Lets the user choose the encoding of a document, and whether to reload the file in it, or to
+/// keep the text and save it in it. Asks before anything is lost; cancelling at any point changes
+/// nothing.
 void chooseEncoding(Family::FamilyDocument* document);
 
 }  // namespace App

@@ -8,7 +8,7 @@ class CodeEditor;
 
 namespace App {
 
-/// The line below a word of an editor that can be clicked. The mouse goes through it.
+/// The underline of a clickable word in an editor. Transparent to the mouse.
 class LinkMark : public QWidget
 {
     Q_OBJECT
@@ -16,10 +16,10 @@ class LinkMark : public QWidget
 public:
     explicit LinkMark(Zorv::CodeEditor* editor);
 
-    /// Underlines columns of a line; nothing of a word that is not in the view.
+    /// Underlines columns of a line; does nothing if the word is not visible.
     void showBelow(int line, int start, int end);
 
-    /// Hides it, and brings back the mouse pointer of a text.
+    /// Hides it and restores the text cursor shape of the mouse.
     void clear();
 
 protected:

@@ -4,8 +4,8 @@
 
 namespace App {
 
-/// The nodes of a document of the family: groups with their values and sub-groups, animations with
-/// their frames, frames with their contact boxes.
+/// The nodes of a document: groups with their values and sub-groups, animations with their frames,
+/// frames with their contact boxes.
 class NodeModel : public Zorv::CodeTreeModel
 {
     Q_OBJECT
@@ -16,10 +16,10 @@ public:
 protected:
     QString nodeLabel(const Zorv::CodeNode* node) const override;
 
-    /// Values, of which there are many, have none.
+    /// Values have no icon, because there are so many.
     QIcon nodeIcon(const Zorv::CodeNode* node) const override;
 
-    /// Contact boxes stand in front of their frame in the text, and below it in the tree.
+    /// Contact boxes precede their frame in the text, but are children of it in the tree.
     int shownCount(const Zorv::CodeNode* node) const override;
     QVector<const Zorv::CodeNode*> shownChildren(const Zorv::CodeNode* node) const override;
     const Zorv::CodeNode* shownParent(const Zorv::CodeNode* node) const override;

@@ -12,7 +12,7 @@ class FamilyDocument;
 
 namespace App {
 
-/// A character of a text; both from 0.
+/// A character position in a text. Both values count from 0.
 struct TextPosition
 {
     int line = -1;
@@ -21,7 +21,7 @@ struct TextPosition
     bool isValid() const { return line >= 0; }
 };
 
-/// The character that is drawn at a point of the editor's viewport; invalid beside all text.
+/// The character at a point of the editor's viewport; invalid if there is no text at the point.
 TextPosition characterAt(const Zorv::CodeEditor* editor, const QPoint& point);
 
 /// The document that the editor shows, or null.

@@ -10,8 +10,8 @@ class CodeEditor;
 
 namespace App {
 
-/// Tells in a tool tip what the word under the mouse means. Where the editor has a message
-/// of its own, that one is shown.
+/// Explains the word under the mouse in a tool tip. If the editor has a message of its own there,
+/// it is shown instead.
 class WordHover : public QObject
 {
     Q_OBJECT

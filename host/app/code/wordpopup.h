@@ -9,8 +9,8 @@ class CompletionModel;
 
 namespace App {
 
-/// Opens the editor's popup of words at any place, with what grammar and project have for it, and
-/// tells the editor which word a chosen one replaces.
+/// Opens the editor's completion popup at any position, with what grammar and project offer there,
+/// and sets which word the chosen one replaces.
 class WordPopup : public QObject
 {
     Q_OBJECT

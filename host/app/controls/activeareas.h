@@ -6,8 +6,8 @@
 
 namespace App {
 
-/// The areas of the window that are active: "code" while a text is in front, "sprites" while
-/// sprites are. The area "all" always is.
+/// The active areas of the window: "code" while a text is in front, "sprites" while sprites are.
+/// The area "all" is always active.
 class ActiveAreas : public QObject
 {
     Q_OBJECT
@@ -18,14 +18,13 @@ public:
     void set(const QSet<QString>& areas);
     const QSet<QString>& areas() const { return m_areas; }
 
-    /// True if one of the areas is active, or if none is named: what names no area
-    /// applies in all of them.
+    /// True if one of the areas is active, or if the list is empty: an empty list means all areas.
     bool isAnyActive(const QStringList& areas) const;
 
-    /// True if there is an area in which both apply.
+    /// True if there is an area where both apply.
     static bool canMeet(const QStringList& first, const QStringList& second);
 
-    /// The names of a null-ended array; none for null.
+    /// The names in a null-terminated array; none for a null pointer.
     static QStringList fromArray(const char* const* areas);
 
 signals:

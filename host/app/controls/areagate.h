@@ -6,36 +6,36 @@
 
 namespace App {
 
-/// Keeps an action or a widget enabled while one of its areas is active, its owner allows it and
-/// the window offers it. Lives as a child of it.
+/// Enables an action or a widget while one of its areas is active, its owner allows it and the
+/// window offers it. A child of that action or widget.
 class AreaGate : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `target` is a QAction or a QWidget. It is allowed at first, or with
-    /// `waitsForOwner` not before the first `setAllowed()`.
+    /// `target` is a QAction or a QWidget. It is allowed from the start; with `waitsForOwner` only
+    /// from the first `setAllowed()`.
     AreaGate(const ActiveAreas* active, const QStringList& areas, QObject* target,
              bool waitsForOwner = false);
 
     QStringList areas() const { return m_areas; }
 
 public slots:
-    /// What the owner says: the state of its data.
+    /// Set by the owner, from the state of its data.
     void setAllowed(bool isAllowed);
 
-    /// What the window says: tools of a menu that is hidden are not offered.
+    /// Set by the window: the tools of a hidden menu are not offered.
     void setOffered(bool isOffered);
 
 private:
     void apply();
     void heedOwner();
 
-    QPointer<const ActiveAreas> m_active;  ///< may die before the last owner speaks
+    QPointer<const ActiveAreas> m_active;  ///< may be destroyed before the owner's last call
     QStringList m_areas;
     bool m_isAllowed;
     bool m_isOffered = true;
-    bool m_isEnabled = false;  ///< as it was set here last
+    bool m_isEnabled = false;  ///< as last set here
 };
 
 }  // namespace App

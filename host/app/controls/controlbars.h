@@ -15,50 +15,50 @@ namespace App {
 class ActionRegistry;
 class WindowActions;
 
-/// The tool bars and panels of the window that take published tools.
+/// The tool bars and panels of the window that hold published tools.
 ///
-/// One is shown while something stands in it, its menu is not hidden and the person has not
-/// switched it off, which is kept as the setting "bars_off". Bars of the table have their place;
-/// any other name gets a tool bar at the end.
+/// A bar is shown if it is not empty, its menu is not hidden and the user has not switched it off.
+/// The bars switched off are stored in the setting "bars_off". Bars of the table have a fixed
+/// place; any other name gets a tool bar at the end.
 class ControlBars : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window. The switches of the bars go to `actions`.
+    /// A child of the window. Adds the switches of the bars to `actions`.
     ControlBars(QMainWindow* window, WindowActions* actions);
     ~ControlBars() override;
 
-    /// Puts a button into the bar of a name, which is made if need be.
+    /// Adds a button to a bar, which is created if necessary.
     QToolButton* addButton(const QString& name, QAction* action);
 
-    /// Puts the widget of a tool into a bar; `takesRoom` for one that takes all that is left in a
-    /// panel. The bar owns it.
+    /// Adds a tool's widget to a bar. With `takesRoom` it gets all the remaining space of a panel.
+    /// The bar owns it.
     void addWidget(const QString& name, const QString& tool, QWidget* widget, bool takesRoom);
 
-    /// The same into the panel of a name, which gets that title if the table has none.
+    /// The same for a panel. The panel gets `title` if the table has none for it.
     void addPanel(const QString& name, QWidget* widget, const std::function<QString()>& title);
 
-    /// Switches a bar or panel on, and shows a panel in front of those in its place.
+    /// Switches a bar or panel on, and raises a panel above the others in its dock.
     void bringForward(const QString& name);
 
-    /// Switches a bar or panel off or on, as the person does.
+    /// Switches a bar or panel off or on, like the user's own switch.
     void setOff(const QString& name, bool isOff);
 
-    /// What a bar of the kind `Page` consists of, for a part of the window to put up and own.
+    /// The content of a bar of kind `Page`. A part of the window shows it and owns it.
     QWidget* page(const QString& name);
 
-    /// The actions of the tables that are there, and in no bar yet.
+    /// Adds the actions that the tables name to their bars, if they exist and are not there yet.
     void fill(const ActionRegistry* registry);
 
-    /// Allows the bars of a menu and a group, or hides them.
+    /// Allows or hides the bars of a menu and a group.
     void setGroupEnabled(const QString& menu, const QString& group, bool isEnabled);
 
     /// False for a bar whose menu and group are hidden.
     bool isGroupEnabled(const QString& name) const;
 
-    /// Shows what is to be shown. To be called after something else has changed that,
-    /// such as QMainWindow::restoreState().
+    /// Applies the visibility of all bars. Call it after something else changed it, such as
+    /// QMainWindow::restoreState().
     void updateVisibility();
 
     void retranslate();

@@ -12,30 +12,31 @@ class WidgetControl;
 
 namespace App {
 
-/// The widget of a control together with its label.
+/// The widget of a control with its label.
 class ControlBox : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Makes the widget, named `name`, and connects it with the receiver of the control.
+    /// Creates the widget, named `name`, and connects it to the control's receiver.
     ControlBox(const QString& name, const Zorv::WidgetControl& control, QWidget* parent = nullptr);
 
-    /// Takes the widget of the control, which gets `name` if it has none. The box goes when the
-    /// widget does.
+    /// Takes the control's own widget, which gets `name` if it has none. The box is destroyed with
+    /// the widget.
     ControlBox(const QString& name, const Zorv::OwnWidgetControl& control,
                QWidget* parent = nullptr);
 
     /// The widget itself: a slider, a field, a view.
     QWidget* field() const { return m_field; }
 
-    /// Null for a control without one.
+    /// Null if the control has none.
     QLabel* label() const { return m_label; }
 
-    /// True for a list, a tree and what else grows in height: it gets all the room that is left.
+    /// True for widgets that grow in height, such as lists and trees: they get all the remaining
+    /// space.
     bool takesRoom() const;
 
-    /// Label, tool tip and status tip again, in the present language.
+    /// Sets label, tool tip and status tip again in the current language.
     void retranslate();
 
 private:

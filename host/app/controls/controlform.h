@@ -12,32 +12,32 @@ namespace App {
 
 struct FormRow;
 
-/// The content of a panel or a page that has its tools in rows (`formTable()`). Fields that stand
-/// one below the other begin at the same place.
+/// The content of a panel or page whose tools are arranged in rows (`formTable()`). Fields in
+/// different rows are aligned in one column.
 class ControlForm : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `bar` is that of the rows.
+    /// `bar` is the bar whose rows it shows.
     explicit ControlForm(const QString& bar, QWidget* parent = nullptr);
 
-    /// A button, in the place of its action's name.
+    /// Adds a button at the place of its action's name.
     QToolButton* addButton(QAction* action);
 
-    /// A field with its label; the form owns it.
+    /// Adds a field with its label; the form owns it.
     void addWidget(const QString& name, QWidget* widget);
 
-    /// True with nothing in it.
+    /// True if it has no rows.
     bool isEmpty() const;
 
-    /// Labels may have other texts.
+    /// Aligns the fields again, after the text of a label changed.
     void align();
 
 private:
     struct Row
     {
-        const FormRow* row;  ///< null for one behind those of the table
+        const FormRow* row;  ///< null for rows added after those of the table
         QHBoxLayout* layout;
     };
 

@@ -7,60 +7,61 @@
 
 namespace App {
 
-/// A tool bar, or a panel at a side, that takes published tools: a row of the table.
+/// A tool bar or side panel that holds published tools: a row of the table.
 struct BarRow
 {
-    /// A page is put up by a part of the window: a bar above the stage, the content of a menu.
+    /// A part of the window shows a page itself: a bar above the stage, the content of a menu.
     enum Kind { ToolBar, Panel, Page };
 
-    const char* name;  ///< object name, and of the switch "show_" + name
+    const char* name;  ///< object name; the switch is "show_" + name
     Kind kind;
     int area;           ///< Qt::ToolBarArea or Qt::DockWidgetArea; 0 for a page
-    const char* menu;   ///< it is shown and hidden with this menu and
-    const char* group;  ///< group of `setMenuEnabled()`; null for never
+    const char* menu;   ///< shown and hidden with this menu and
+    const char* group;  ///< group in `setMenuEnabled()`; null: always shown
     ActionText title;
-    const char* setting = nullptr;  ///< the setting that shows it, if editors read that too
-    int fewest = 1;                 ///< tools that it is shown for: one selector is no choice
-    const char* only = nullptr;     ///< the area with which it is shown; null for all
-    const char* without = nullptr;  ///< the area with which it is not shown; null for none
-    bool isLow = false;             ///< a panel that takes no more height than it needs
+    const char* setting = nullptr;  ///< setting that shows it, if editors read that too
+    int fewest = 1;                 ///< fewest tools to show it: one selector offers no choice
+    const char* only = nullptr;     ///< only shown while this area is active; null for all
+    const char* without = nullptr;  ///< not shown while this area is active; null for none
+    bool isLow = false;             ///< a panel that is no higher than it needs to be
 };
 
-/// Where tools whose names begin with a prefix stand: a row of the table.
+/// The place of tools whose names begin with a prefix: a row of the table.
 struct PlaceRow
 {
     const char* prefix;
     const char* bar;   ///< of `BarRow`
-    const char* menu;  ///< of the actions among them, as in "anim.list"; without a section its end
-    const char* area;  ///< where the widgets among them are enabled
+    const char* menu;  ///< menu of its actions, as in "anim.list"; without a section: its end
+    const char* area;  ///< area where the widgets among them are enabled
 };
 
-/// What stands side by side in a panel or on a page: a row of the table.
+/// Tools side by side in a panel or on a page: a row of the table.
 struct FormRow
 {
     const char* bar;
     QVector<const char*> names;
 };
 
-/// In the order in which bars are shown.
+/// In display order.
 const QVector<BarRow>& barTable();
 
-/// The place with the longest prefix that fits. A tool of an unknown prefix, which is what
-/// stands before the first "_", gets a place with no bar, in the menu "edit" and all areas.
+/// The place with the longest matching prefix. A tool with an unknown prefix (the part before the
+/// first "_") gets a place with no bar, in the menu "edit", for all areas.
 PlaceRow placeOf(const QString& name);
 
-/// The prefix of a tool, which names the bar of one that has no place; the name if there is no "_".
+/// The prefix of a tool's name, or the whole name if there is no "_". Names the bar of a tool that
+/// has no place.
 QString prefixOf(const QString& name);
 
-/// The key that a tool has at first, in the portable form; null for none.
+/// The default shortcut of a tool in Qt's portable form; null for none.
 const char* firstKeyOf(const QString& name);
 
-/// The order of the tools of a tool bar, by name, whoever brings them; null is a line between. What
-/// is not among them comes behind. Empty for a bar that takes them as they come.
+/// The order of the tools in a tool bar, by name, whoever adds them; null is a separator. Tools not
+/// listed come last. Empty for a bar that has no fixed order.
 const QVector<const char*>& orderOf(const QString& bar);
 
-/// The rows of the panels and pages that have rows, in the order in which they are shown. What is
-/// in none of those of its bar gets one of its own, behind them.
+/// The rows of panels and pages, in display order. A tool in none of its bar's rows gets a row of
+/// its own after them.
 const QVector<FormRow>& formTable();
 
 }  // namespace App

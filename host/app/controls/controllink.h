@@ -11,15 +11,14 @@ class WidgetControl;
 
 namespace App {
 
-/// Stands between a widget and the receiver of the control that it was made for. What the
-/// person does goes to the receiver; what the receiver sets goes into the widget, and is not
-/// told back. Lives as a child of the widget.
+/// Connects a widget with the receiver of its control. User input goes to the receiver. Values set
+/// by the receiver go to the widget, and are not sent back: that would loop. A child of the widget.
 class ControlLink : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Connects `field`, the widget of the control's kind.
+    /// Connects `field`, a widget of the control's kind.
     ControlLink(QWidget* field, const Zorv::WidgetControl& control);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,7 +40,7 @@ private:
     void connectReceiver(const Zorv::WidgetControl& control);
 
     QWidget* m_field;
-    int m_setting = 0;  ///< how many values of the receiver are being set
+    int m_setting = 0;  ///< guard against re-entrance: number of values being set
 };
 
 }  // namespace App

@@ -28,7 +28,7 @@ class ControlBars;
 class ControlBox;
 class WindowActions;
 
-/// What an action of an editor is to be; see `Zorv::Interface::createAction()`.
+/// Describes an action of an editor; see `Zorv::Interface::createAction()`.
 struct ActionRequest
 {
     const char* const* areas;
@@ -42,50 +42,51 @@ struct ActionRequest
     const char* checkSignal;
 };
 
-/// Makes the tools that editors publish, and gives them their places in the window.
+/// Creates the tools that editors publish, and places them in the window.
 ///
-/// Where a tool stands tells `controllayout.h`, by its name. A tool goes when its receiver
-/// dies, and one that comes under the name of another takes its place.
+/// `controllayout.h` defines where a tool goes, by its name. A tool is removed when its receiver is
+/// destroyed. A new tool with the same name replaces the old one.
 class ControlPlacer : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window.
+    /// A child of the window.
     ControlPlacer(QMainWindow* window, WindowActions* actions);
 
     /// Null for a request without a name.
     QAction* createAction(const ActionRequest& request);
 
-    /// Its trigger brings the editor forward that is named behind "editor_".
+    /// Triggering it brings an editor to the front: the one named after "editor_" in `name`.
     QAction* createEditorAction(const QString& name, const Zorv::Translator* translator,
                                 unsigned textId);
 
-    /// The button or the widget, of which the window stays or becomes the owner; null for a
-    /// control of an unknown class, and for one without a name.
+    /// The button or the widget; the window owns it. Null for a control of an unknown class or
+    /// without a name.
     QObject* addControl(const QString& name, const Zorv::Control& control);
 
-    /// The dock of a panel, which is that of its tools, or with a widget of its own one that is
-    /// made for it; null for a panel that has neither.
+    /// The dock of a panel: the one with its tools, or a new one if the panel has its own widget.
+    /// Null if it has neither.
     QDockWidget* addPanel(Zorv::ExtraEditor* panel);
 
-    /// Shows the dock of a panel, in front of those in its place; the second one when it is of use.
+    /// Shows the dock of a panel, raised above the others in its place. `bringForward()` takes its
+    /// name; an empty panel appears once it is of use.
     void showPanel(const Zorv::ExtraEditor* panel);
     void bringForward(const char* panel);
 
-    /// Hides a panel or a bar until the person switches it on.
+    /// Hides a panel or bar until the user switches it on.
     void switchOff(const char* bar);
 
-    /// Puts the actions that the tables of the bars name into these, whoever has made them.
+    /// Adds the actions named in the bar tables to their bars, whoever made them.
     void fillBars();
 
-    /// What a bar of the kind `BarRow::Page` consists of: a tool bar, or rows of fields. It is for
-    /// a part of the window to put up and own.
+    /// The content of a bar of kind `BarRow::Page`: a tool bar, or rows of fields. A part of the
+    /// window shows it and owns it.
     QWidget* page(const char* name);
 
     void setMenuEnabled(const char* menu, const char* group, bool isEnabled);
 
-    /// Bars that have been shown or hidden by something else go back to how they are to be.
+    /// Applies the visibility of all bars again, after something else showed or hid some.
     void updateVisibility();
 
     void retranslate();
@@ -104,7 +105,7 @@ private:
     QActionGroup* m_editors;
     QHash<QString, QPointer<ControlBox>> m_boxes;
     QMultiHash<QString, QPointer<AreaGate>> m_gates;
-    QMap<QPair<QByteArray, QByteArray>, bool> m_groups;  ///< of a menu and a group
+    QMap<QPair<QByteArray, QByteArray>, bool> m_groups;  ///< by menu and group
 };
 
 }  // namespace App

@@ -9,9 +9,8 @@ class QWidget;
 
 namespace App {
 
-/// A piece of work as a dialog with a bar and a button that gives it up. It shows
-/// itself when the work takes longer than a moment; from then on the window is
-/// drawn and answers the desktop, and nothing in it can be clicked.
+/// A progress dialog with a cancel button. It appears if the work takes longer than a moment. From
+/// then on the window is repainted and responds to the desktop, but nothing in it can be clicked.
 class ProgressDialog final : public Zorv::ProgressReporter
 {
 public:
@@ -24,7 +23,7 @@ public:
 private:
     ~ProgressDialog() override;
 
-    QPointer<QProgressDialog> m_dialog;  ///< goes with its window, if that goes first
+    QPointer<QProgressDialog> m_dialog;  ///< destroyed with its window, if that goes first
 };
 
 }  // namespace App

@@ -4,8 +4,8 @@
 
 namespace App {
 
-/// The dialogs of the window: a few choices are buttons, many are a list.
-/// Installs itself, and takes itself away.
+/// The dialogs of the window: a few choices are buttons, many are a list. Installs itself, and
+/// removes itself.
 class WindowDialogs : public Zorv::Dialogs
 {
 public:

@@ -16,12 +16,11 @@ namespace App {
 class FindField;
 class FindSearch;
 
-/// A bar below the text in which a person looks for something and replaces it.
+/// A search and replace bar below the text.
 ///
-/// It finds while the person types, from where the cursor was, and tells beside the field what
-/// there is to tell: the number of matches, that the end of the text was passed, what is wrong
-/// with an expression. The keys of actions that are added to the bar (`addAction()`) work in
-/// its fields.
+/// It searches while the user types, starting at the cursor, and shows beside the field the number
+/// of matches, that the search wrapped around, or what is wrong with an expression. Shortcuts of
+/// actions added to the bar (`addAction()`) work in its fields.
 class FindBar : public QWidget
 {
     Q_OBJECT
@@ -31,27 +30,27 @@ public:
     explicit FindBar(Zorv::CodeEditor* editor, QWidget* parent = nullptr);
     ~FindBar() override;
 
-    /// The editor shows another document, or none any more.
+    /// Call when the editor shows another document, or none.
     void follow();
 
     /// @name The actions
     /// @{
-    /// Opens the bar, with the selection if that is a part of one line.
+    /// Opens the bar; searches for the selection if it is within one line.
     void openFind();
     void openReplace();
 
-    /// Goes to the next match or the one before. Opens the bar if it is closed, and leaves the
-    /// keyboard where it is.
+    /// Goes to the next or previous match. Opens the bar if it is closed, and does not move the
+    /// focus.
     void findNext();
     void findPrevious();
 
-    /// The next place of the selection, or of the word at the cursor.
+    /// Finds the next occurrence of the selection, or of the word at the cursor.
     void findSelection();
 
     void replaceOne();
     void replaceAll();
 
-    /// Closes the bar; the keyboard goes to the text.
+    /// Closes the bar and focuses the text.
     void closeBar();
     /// @}
 

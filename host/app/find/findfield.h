@@ -4,7 +4,7 @@
 
 namespace App {
 
-/// A field with what was written in it before, which the settings keep.
+/// A field with a history of its texts, stored in the settings.
 class FindField : public QComboBox
 {
     Q_OBJECT
@@ -16,13 +16,13 @@ public:
 
     QString text() const { return currentText(); }
 
-    /// Writes a text, marked, so that typing takes its place.
+    /// Sets a text and selects it, so that typing replaces it.
     void setText(const QString& text);
 
-    /// Puts the text at the head of the history.
+    /// Puts the text at the top of the history.
     void remember();
 
-    /// Takes the history from the settings; the text stays.
+    /// Reads the history from the settings; the text does not change.
     void readHistory();
 
 private:

@@ -18,7 +18,7 @@ namespace App {
 
 using Operations::FindPattern;
 
-/// Looks for something in the text of an editor, and replaces it.
+/// Searches and replaces in the text of an editor.
 class FindSearch : public QObject
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     /// The editor outlives the search.
     explicit FindSearch(Zorv::CodeEditor* editor, QObject* parent = nullptr);
 
-    /// The editor shows another document, or none any more.
+    /// Call when the editor shows another document, or none.
     void follow();
 
     /// Matches are only counted while the search is active.
@@ -36,28 +36,27 @@ public:
     void setPattern(const FindPattern& pattern);
     const FindPattern& pattern() const { return m_pattern; }
 
-    /// True if there is something to look for and a text to look into.
+    /// True if there is a pattern, and a text to search.
     bool canFind() const;
 
-    /// True if the selection is a match that the search has gone to.
+    /// True if the selection is a match found by this search.
     bool isMatchSelected() const;
 
-    /// Goes to the first match from where the person has put the cursor; if there is none, the
-    /// cursor goes back there.
+    /// Goes to the first match after the place where the user put the cursor; without a match, the
+    /// cursor returns there.
     void findWhileTyping();
 
-    /// Goes to the next match or the one before, around the ends of the text. A match of no
-    /// length where the cursor stands is left behind.
+    /// Goes to the next or previous match, wrapping around. Skips an empty match at the cursor.
     void next();
     void previous();
 
-    /// Replaces the match that is selected, and goes to the next one.
+    /// Replaces the selected match and goes to the next one.
     void replaceOne(const QString& with);
 
-    /// Replaces all as one step of undo; cursor and view stay.
+    /// Replaces all matches as one undo step; cursor and view do not move.
     void replaceAll(const QString& with);
 
-    /// What there is to tell: "3 of 17", and what the last step has met with.
+    /// Status text: "3 of 17", and the result of the last step.
     QString state() const;
 
 signals:
@@ -77,8 +76,8 @@ private:
     Zorv::CodeFindText m_text;
     FindPattern m_pattern;
     MatchCounter m_counter;
-    MatchCounter::Place m_shown{-1, 0};  ///< the match that the search has gone to last
-    QTextCursor m_origin;                ///< where the person has put the cursor
+    MatchCounter::Place m_shown{-1, 0};  ///< the match found last
+    QTextCursor m_origin;                ///< where the user put the cursor
     QString m_note;
     int m_moving = 0;
     bool m_isActive = false;

@@ -8,14 +8,14 @@
 
 namespace App {
 
-/// Finds all matches in a text, a few milliseconds at a time, so that a large text holds
-/// nobody up.
+/// Finds all matches in a text, a few milliseconds at a time, so that a large text does not block
+/// the window.
 class MatchCounter : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Beyond these no more are looked for.
+    /// The search stops at this many matches.
     static constexpr int MaxCount = 200000;
 
     struct Place
@@ -26,31 +26,30 @@ public:
 
     explicit MatchCounter(QObject* parent = nullptr);
 
-    /// Begins anew with a text of `CodeFind::searchableText()`.
+    /// Restarts with a text of `CodeFind::searchableText()`.
     void start(const Zorv::CodeFind& find, const QString& text);
 
-    /// Forgets all, and is not done.
+    /// Discards all matches; `isDone()` is false afterwards.
     void stop();
 
     bool isStarted() const { return m_isDone || m_timer->isActive(); }
     bool isDone() const { return m_isDone; }
 
-    /// True if there may be more matches than were counted.
+    /// True if the text may have more matches than counted.
     bool isCapped() const { return m_places.size() >= MaxCount; }
     int count() const { return m_places.size(); }
 
-    /// Which match stands at a place, from 0; -1 for none, or one that is not counted yet.
+    /// The index of the match at a place; -1 if there is none or it is not counted yet.
     int indexOf(const Place& place) const;
 
-    /// True for the last match that is counted, if there may be more.
+    /// True for the last counted match, if there may be more.
     bool isLastOfMore(const Place& place) const;
 
-    /// The last match that starts in front of a place, null for none. Counts up to there at
-    /// once.
+    /// The last match that starts before a place, null for none. Counts up to there at once.
     const Place* lastBefore(int place);
 
 signals:
-    /// Some more are counted, or all.
+    /// More matches were counted, or all.
     void progressed();
 
 private:

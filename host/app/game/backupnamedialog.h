@@ -9,8 +9,8 @@ class QPushButton;
 
 namespace App {
 
-/// Asks for the name of a new backup; one that cannot be the name of a folder is
-/// told while it is typed.
+/// Asks for the name of a new backup. Reports while the user types if the name cannot be a folder
+/// name.
 class BackupNameDialog : public QDialog
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
 
     QString name() const;
 
-    /// True if the projects that are not open belong to it too.
+    /// True if closed projects should be included too.
     bool wantsAll() const;
 
 private:

@@ -19,29 +19,27 @@ namespace App {
 class GameTree;
 struct WindowServices;
 
-/// What is done with a whole game: backups, and saving it under a new place.
+/// Commands for a whole game: backups, and saving it in a new place.
 class GameCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window. The tree outlives it.
+    /// A child of the window. The tree outlives it.
     GameCommands(const WindowServices& services, GameTree* tree);
 
     QVector<ActionRow> actions() override;
 
-    /// Asks for a name and makes a backup.
+    /// Asks for a name and creates a backup.
     void makeBackup();
 
-    /// Lets the person choose a backup and puts it back. Unsaved work is asked
-    /// about first.
+    /// Lets the user choose a backup and restores it. Asks about unsaved work first.
     void restoreBackup();
 
-    /// Asks for a new place, and goes on there.
+    /// Asks for a new place, saves there and continues there.
     void saveAllAs();
 
-    /// Brings the window in line with files that were read again: what they have
-    /// come to name is loaded.
+    /// Updates the window after files were reloaded: loads files that they name by now.
     void refresh();
 
 private:

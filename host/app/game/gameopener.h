@@ -10,20 +10,19 @@ namespace App {
 class GameTree;
 struct WindowServices;
 
-/// Opens games, projects and files for the window, tells the person what does not go, saves all
-/// of them, and closes them.
+/// Opens, saves and closes games, projects and files for the window, and reports what failed.
 class GameOpener : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window. The tree outlives it.
+    /// A child of the window. The tree outlives it.
     GameOpener(const WindowServices& services, GameTree* tree);
 
-    /// A game folder, or a code file with the folder around it and its project.
+    /// Opens a game folder, or a code file with its project and the folder around it.
     bool openPath(const QString& path);
 
-    /// A file of the open game; its project too, if that is closed.
+    /// Opens a file of the open game, and its project if that is closed.
     bool openFile(const QString& fileName);
 
     QVector<ActionRow> actions() override;

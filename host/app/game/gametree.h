@@ -9,8 +9,8 @@ namespace App {
 
 struct WindowServices;
 
-/// The tree of a game: its folders, projects and files. What the person has
-/// opened in it stays open when rows are announced anew.
+/// The tree of a game: its folders, projects and files. Rows that the user expanded stay expanded
+/// when the model is reset.
 class GameTree : public QTreeView, public Part
 {
     Q_OBJECT
@@ -18,16 +18,16 @@ class GameTree : public QTreeView, public Part
 public:
     explicit GameTree(const WindowServices& services);
 
-    /// Null for none. The game must outlive the view, or be taken off.
+    /// Null for none. The game must outlive the view or be replaced by null first.
     void showGame(Family::FamilyParentProject* game) override;
 
-    /// The path that a row stands for; a folder's ends in "/".
+    /// The path of a row; a folder's path ends in "/".
     QString pathOf(const QModelIndex& index) const;
 
     /// The row of a file or folder; invalid if there is none.
     QModelIndex indexOf(const QString& path) const;
 
-    /// Opens the folder of a file in the tree and makes the file the current row.
+    /// Expands the folder of a file and makes the file the current row.
     void reveal(const QString& fileName);
 
     QVector<PanelPlace> places() override;
@@ -39,9 +39,9 @@ private:
 
     const WindowServices& m_services;
     Family::FamilyParentProject* m_game = nullptr;
-    QSet<QString> m_expanded;  ///< paths of the open rows
+    QSet<QString> m_expanded;  ///< paths of the expanded rows
     QString m_current;
-    bool m_isChanging = false;  ///< rows are announced anew
+    bool m_isChanging = false;  ///< the model is being reset
 };
 
 }  // namespace App

@@ -13,13 +13,13 @@ namespace App {
 class GameTree;
 struct WindowServices;
 
-/// New games, characters, stages and files: asks for the name, makes them, and opens them.
+/// Creates new games, characters, stages and files: asks for a name, creates them, opens them.
 class NewCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window. The tree outlives it.
+    /// A child of the window. The tree outlives it.
     NewCommands(const WindowServices& services, GameTree* tree);
 
     QVector<ActionRow> actions() override;

@@ -14,25 +14,25 @@ class QPushButton;
 
 namespace App {
 
-/// Asks for the name of a new game, character, stage or file, and makes it. What is wrong with a
-/// name is told while it is typed; what cannot be made is told in the dialog, which stays open.
+/// Asks for the name of a new game, character, stage or file, and creates it. Reports an invalid
+/// name while the user types. If creating fails, the dialog stays open and shows why.
 class NewDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `folder` is where games lie, the game, or for a file that of its project. `mainFile` may
-    /// name a new file; empty for none.
+    /// `folder` is the folder of games, the game, or for a file the folder of its project.
+    /// `mainFile` is the file that may name a new file; empty for none.
     NewDialog(Operations::NewKind kind, const QString& folder, const QString& mainFile,
               QWidget* parent);
 
-    /// What was made: a game folder, a main file, a file.
+    /// The created path: a game folder, a main file, a file.
     QString path() const { return m_path; }
 
-    /// The character that was made with a game.
+    /// The character created with a game.
     QString character() const;
 
-    /// True if the main file shall name the new file.
+    /// True if the new file should be added to the main file.
     bool wantsNaming() const;
 
     void accept() override;

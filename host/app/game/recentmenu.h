@@ -6,7 +6,7 @@ namespace App {
 
 class Jumps;
 
-/// The menu of the game folders that were opened last.
+/// The menu of recently opened game folders.
 class RecentMenu : public QMenu
 {
     Q_OBJECT

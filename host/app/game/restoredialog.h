@@ -10,7 +10,7 @@ class QTreeWidget;
 
 namespace App {
 
-/// Lists the backups of a game, and what restoring each would do to its files.
+/// Lists the backups of a game, and how restoring each one would change its files.
 class RestoreDialog : public QDialog
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     /// The game must outlive the dialog.
     RestoreDialog(QWidget* parent, const Family::FamilyParentProject& game);
 
-    /// The folder of the chosen backup; empty if there is none.
+    /// The folder of the selected backup; empty if none is selected.
     QString folder() const;
 
 private:

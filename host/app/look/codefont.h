@@ -4,12 +4,12 @@
 
 namespace App {
 
-/// The font in which code is shown; that of the application before `setCodeFont()`.
+/// The font of code; before `setCodeFont()`, the application font.
 QFont codeFont();
 
-/// Takes the family and the size in points. An empty family is the fixed one of the desktop, or
-/// where no desktop says which that is, any whose characters have one width; a size of 0 is that
-/// of the desktop. Documents take it when they are shown, and their tokens at once.
+/// Sets the family and the size in points. An empty family means the desktop's fixed-width font, or
+/// any fixed-width font if the desktop does not define one. Size 0 means the desktop's size.
+/// Documents take the font when they are shown next, their tokens at once.
 void setCodeFont(const QString& family, int size);
 
 }  // namespace App

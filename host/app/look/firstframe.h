@@ -6,8 +6,8 @@ class QWidget;
 
 namespace App {
 
-/// Calls a function once, in the turn of the event loop after a window has painted itself first:
-/// for work that nobody can see in that frame.
+/// Calls a function once, one turn of the event loop after a window was first painted: for work
+/// that is not visible in the first frame.
 void afterFirstFrame(QWidget* window, std::function<void()> work);
 
 }  // namespace App

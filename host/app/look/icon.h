@@ -4,9 +4,8 @@
 
 namespace App {
 
-/// The icon of a picture of the resources, ":/icons/icons/NAME.png", together with the larger
-/// ones beside it (NAME@1.5x.png, NAME@2x.png): it is sharp at 1x, 1.5x and 2x. Null if there is
-/// no such picture.
+/// The icon ":/icons/icons/NAME.png" of the resources, with its larger versions (NAME@1.5x.png,
+/// NAME@2x.png), so that it is sharp at 1x, 1.5x and 2x. Null if the picture does not exist.
 QIcon icon(const QString& file);
 
 }  // namespace App

@@ -6,8 +6,8 @@ class QObject;
 
 namespace App {
 
-/// Gives an object its texts now and whenever the language (`Operations::Language`) changes. Of an
-/// object that is no widget the parent is one. `giveTexts` lives as long as the object.
+/// Calls `giveTexts` now and whenever the language (`Operations::Language`) changes. If the object
+/// is not a widget, its parent must be one. `giveTexts` is kept as long as the object lives.
 void followLanguage(QObject* owner, std::function<void()> giveTexts);
 
 }  // namespace App

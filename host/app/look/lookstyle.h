@@ -4,8 +4,8 @@
 
 namespace App {
 
-/// The style of the window: Fusion, but for what does not show on a dark ground, with icons
-/// of the size for which they are made, and without pictures on the buttons of dialogs.
+/// The style of the window: Fusion, with fixes for parts that are invisible on a dark background.
+/// Icons have the size they were drawn for, and dialog buttons have no icons.
 class LookStyle : public QProxyStyle
 {
     Q_OBJECT

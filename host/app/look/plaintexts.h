@@ -4,10 +4,10 @@
 
 namespace App {
 
-/// Shows tool tips and labels of the whole application as plain texts, whatever they look like:
-/// names and lines of a game stand in them, and markup could make Qt open other files.
+/// Shows all tool tips and labels of the application as plain text. They contain names and lines
+/// from a game, and Qt would interpret markup in them, which could open other files.
 ///
-/// Tips that are shown by `QToolTip::showText()` itself are not concerned.
+/// Tips shown directly by `QToolTip::showText()` are not affected.
 class PlainTexts : public QObject
 {
     Q_OBJECT

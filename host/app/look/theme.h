@@ -10,47 +10,47 @@
 
 namespace App {
 
-/// The colours of the window, light or dark. Every colour that is drawn is the palette's or
-/// stands here, in both sets, with enough contrast to be read.
+/// The colours of the window, light or dark. Every colour comes from the palette or is defined
+/// here, in both themes, with enough contrast to be readable.
 class Theme
 {
 public:
     enum Kind { Light, Dark };
 
-    /// What has a colour that no role of a palette stands for.
+    /// Colours for which a palette has no role.
     enum Colour {
-        CurrentLine,  ///< ground of the line with the cursor
-        BlockRange,   ///< ground of the innermost block around the cursor
-        ParenRange,   ///< ground between two brackets
-        ParenGround,  ///< ground of the two themselves
-        ParenText,    ///< and what they are written in
-        ErrorText,    ///< a text that tells of something wrong
-        AddedText,    ///< a line that came, in a comparison
-        RemovedText,  ///< a line that went
-        PlaceText,    ///< a line that tells where
+        CurrentLine,  ///< background of the line with the cursor
+        BlockRange,   ///< background of the innermost block around the cursor
+        ParenRange,   ///< background between two brackets
+        ParenGround,  ///< background of the two brackets
+        ParenText,    ///< text colour of the two brackets
+        ErrorText,    ///< a text about an error
+        AddedText,    ///< an added line in a comparison
+        RemovedText,  ///< a removed line in a comparison
+        PlaceText,    ///< a line that names a place
         ColourCount
     };
 
-    /// The kind that a setting means: "light", "dark", and anything else for that of the system.
+    /// The kind for a setting: "light", "dark"; anything else is the system's kind.
     static Kind kindOf(const QString& setting);
 
     static QPalette palette(Kind kind);
     static QColor colour(Kind kind, Colour colour);
     static QColor token(Kind kind, Zorv::CodeParserSyntax::TokenType type);
 
-    /// What a setting of the code editor means with a colour of the person's own, or
-    /// with an invalid one in the theme in use: "line", "block_range" and "paren_range"
-    /// are colours, "paren" is a `QTextFormat`. Invalid for any other key.
+    /// The value of a code editor setting. `own` is the user's colour; if it is invalid, the
+    /// current theme's colour is used. "line", "block_range" and "paren_range" are colours, "paren"
+    /// is a `QTextFormat`. Invalid for any other key.
     static QVariant codeSetting(const QString& key, const QColor& own);
 
-    /// Gives the application the style and the colours, and documents the colours of tokens.
-    /// Texts that are coloured already keep them until they are highlighted again.
+    /// Applies style and colours to the application, and token colours to documents. Text that is
+    /// already coloured keeps its colours until it is highlighted again.
     static void use(Kind kind);
 
-    /// Light before `use()`.
+    /// `Light` before `use()`.
     static Kind current();
 
-    /// A colour of the theme in use.
+    /// A colour of the current theme.
     static QColor colour(Colour which) { return colour(current(), which); }
 };
 

@@ -10,13 +10,13 @@ namespace App {
 
 class MainWindow;
 
-/// The menus at the pointer: of the stage, the time line, the animations, both trees and the tabs.
-/// They have actions of the window and no texts of their own, and come by the right button, the
-/// menu key and Shift+F10.
+/// The context menus of the stage, the time line, the animations, both trees and the tabs. They
+/// show actions of the window and have no texts of their own. The right button, the menu key and
+/// Shift+F10 open them.
 class ContextMenus : public QObject
 {
 public:
-    /// The parts of the window must be there.
+    /// The parts of the window must exist.
     explicit ContextMenus(MainWindow* window);
 
 protected:
@@ -26,7 +26,7 @@ private:
     struct Place
     {
         QWidget* widget;
-        QVector<const char*> actions;  // null for a gap
+        QVector<const char*> actions;  // null: separator
     };
 
     void add(QWidget* widget, const QVector<const char*>& actions);

@@ -46,10 +46,10 @@ class ThumbnailCommands;
 class WindowActions;
 class WindowCommands;
 
-/// The window of the program: texts in the middle, trees and lists around them.
+/// The main window: texts in the middle, trees and lists around them.
 ///
-/// It makes its parts, gives them their places, and joins those that work together; what the
-/// parts do is theirs. The host (`Zorv::Interface`) must be installed before it is made.
+/// It creates its parts, places them, and connects those that work together; the work itself is in
+/// the parts. The host (`Zorv::Interface`) must be installed before the window is created.
 class MainWindow : public QMainWindow, public Jumps
 {
     Q_OBJECT
@@ -58,15 +58,15 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    /// Makes the parts that publish tools, and begins. To be called once, when the host knows
-    /// the window, and before anything is opened.
+    /// Creates the parts that publish tools, and starts. Call it once, after the host knows the
+    /// window and before anything is opened.
     void publishTools();
 
-    /// Opens what was open when the window was closed last. `otherwise`, if not
-    /// empty, is opened instead if it is another game.
+    /// Opens what was open when the window was last closed. If `otherwise` is not empty and is
+    /// another game, opens that instead.
     void restoreWork(const QString& otherwise);
 
-    /// What parts that are made elsewhere need.
+    /// Services for parts that are created elsewhere.
     const WindowServices& services() const { return m_services; }
 
     /// @name The parts, which live as long as the window; null before `publishTools()`
@@ -102,14 +102,14 @@ public:
     Family::FamilyProject* currentProject() const;
     QAction* actionByName(const char* name) const;
 
-    /// The editor while a text is in front, else null.
+    /// The code editor while a text is in front, else null.
     Zorv::CodeEditor* currentEdit() const;
     /// @}
 
-    /// The stage and the texts, one above the other.
+    /// The splitter with the stage above the texts.
     QSplitter* middle() const { return m_middle; }
 
-    /// The tools that editors publish, and the menus.
+    /// The published tools of editors, and the menus.
     ControlPlacer* controls() const { return m_controls; }
     QMenu* menuByName(const char* name) const;
 
@@ -122,11 +122,11 @@ public:
     void showMiddle() override;
     bool mayClose(const Family::FamilyProject* project, const std::function<void()>& then) override;
 
-    /// Takes the settings again that the window, its parts and what they show read.
+    /// Reads the settings of the window, its parts and their contents again.
     void reconfig();
 
 protected:
-    /// Escape that a panel has no use for leads back to the middle.
+    /// Escape returns the focus to the middle, if the panel did not use the key.
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -144,7 +144,7 @@ private:
     void updateTitle();
 
     QStackedWidget* m_centre;
-    QStackedWidget* m_empty;  ///< shown while there is no text
+    QStackedWidget* m_empty;  ///< shown while no text is open
     QLabel* m_hint;
     StartPage* m_start = nullptr;
     StartCommands* m_startCommands = nullptr;

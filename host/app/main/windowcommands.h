@@ -8,13 +8,13 @@ namespace App {
 
 class MainWindow;
 
-/// What can be done with the window itself: its panels, settings and help, and its end.
+/// Commands for the window itself: panels, settings, help, quitting.
 class WindowCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window.
+    /// A child of the window.
     explicit WindowCommands(MainWindow* window);
 
     QVector<ActionRow> actions() override;

@@ -8,14 +8,14 @@ namespace App {
 
 class MainWindow;
 
-/// The host's side of the library with a window. Editors, workspaces and panels are those of the
+/// The host's side of the library, with a window. Editors, workspaces and panels come from the
 /// window's registry (`EditorRegistry`).
 class WindowInterface : public Operations::HostInterface
 {
 public:
     using HostInterface::HostInterface;
 
-    /// Not owned; may die. Lets the window publish its tools.
+    /// Not owned; may be destroyed. Lets the window publish its tools.
     void setWindow(MainWindow* window);
 
     QWidget* mainWindow() const override;
@@ -24,10 +24,10 @@ public:
     /// Null while no editor is in front.
     Zorv::Editor* currentEditor() const override;
 
-    /// Also by the name of an area: "sprites" for the editor "spr".
+    /// Also finds editors by area: "sprites" for the editor "spr".
     Zorv::Editor* editorByName(const char* name) const override;
 
-    /// A text that its editor is asked for comes to the front.
+    /// Brings a text to the front when its editor is requested.
     Zorv::Editor* fileEditor(Zorv::ProjectFile* file, Zorv::FileID id) const override;
     void activateEditor(Zorv::Editor* editor) override;
     void showWorkspace(Zorv::Workspace* workspace) override;
@@ -38,23 +38,23 @@ public:
     Zorv::Project* currentProject() const override;
     int pixels(int size) const override;
 
-    /// A colour of code that the person has not chosen is that of the theme.
+    /// A code colour that the user has not chosen comes from the theme.
     QVariant option(const QString& key) const override;
 
-    /// Palettes are named as their files are; `flag`, if not null, becomes false. Both lists are
-    /// empty if the person gives up. Begins in the folder of the first of `files`, else in that
-    /// of the project in front.
+    /// Palettes get the names of their files; `flag`, if not null, is set to false. Both lists are
+    /// empty if the user cancels. The dialog starts in the folder of the first of `files`, else in
+    /// the folder of the current project.
     void selectPaletteFiles(QStringList& files, QStringList& names, bool* flag) override;
 
-    /// Those of the status bar: 0 is the place, 1 the problems of the text in front, 2 its
-    /// encoding, 3 the place on the stage. Any other number shows a passing text.
+    /// Fields of the status bar: 0 is the cursor position, 1 the problems of the current text, 2
+    /// its encoding, 3 the position on the stage. Any other number shows a temporary message.
     void showStatus(int field, const QString& text) override;
 
-    /// Those of the menu bar: "anim", "view", "spr", "pal", "snd" and the window's own. The
-    /// middle three can be hidden.
+    /// Menus of the menu bar: "anim", "view", "spr", "pal", "snd" and the window's own. "spr",
+    /// "pal" and "snd" can be hidden.
     QMenu* menu(const char* name) const override;
 
-    /// Tools stand where `controllayout.h` tells; see `ControlPlacer`.
+    /// `controllayout.h` defines where tools go; see `ControlPlacer`.
     QObject* addControl(const QString& name, const Zorv::Control& control) override;
     QAction* createAction(const char* const* areas, const QString& name,
                           Zorv::Translator* translator, unsigned textId, const char* shortcut,
@@ -65,7 +65,7 @@ public:
     Zorv::ExtraEditor* extraEditor(unsigned index) const override;
     void setMenuEnabled(const char* menu, const char* group, bool enabled) override;
 
-    /// Shows what is in files that the library has read again.
+    /// Shows the contents of files that the library has reloaded.
     void refreshProjects() override;
 
 private:

@@ -6,17 +6,16 @@ namespace App {
 
 class MainWindow;
 
-/// What the window keeps in the settings from one run to the next: shape, panels,
-/// game, and the texts that are shown with their places.
+/// What the window stores in the settings between runs: its geometry, panels, the open game, and
+/// the open texts with their cursor positions.
 class WindowState
 {
 public:
     static void save(const MainWindow* window);
     static void restoreShape(MainWindow* window);
 
-    /// Opens the last game with its texts; what is no longer there is left out
-    /// without a question. Opens the path `otherwise` alone, unless that is empty
-    /// or the last game.
+    /// Opens the last game with its texts. Silently skips what no longer exists. If `otherwise` is
+    /// neither empty nor the last game, opens only that path.
     static void restoreWork(MainWindow* window, const QString& otherwise);
 };
 

@@ -10,45 +10,45 @@ class ProblemModel;
 class ProblemWatch;
 struct WindowServices;
 
-/// The problems of the game. The row that the person is at stays current, whatever the check finds.
+/// The problems of the game. The current row stays at its problem when a check changes the list.
 class MessagePanel : public QListView, public Part
 {
     Q_OBJECT
 
 public:
-    /// The watch outlives it.
+    /// `problems` outlives the panel.
     MessagePanel(const WindowServices& services, ProblemWatch* problems);
 
     ProblemModel* problems() const;
 
-    /// Makes the first problem of a file the current row, if it has any.
+    /// Selects the first problem of a file, if any.
     void showMessagesOf(const Family::FamilyDocument* document);
 
-    /// Makes the first problem of a line of a file the current row, unless that is of this
-    /// line already. False if the line has none, and nothing changes.
+    /// Selects the first problem of a line, unless a problem of this line is already selected.
+    /// False, and no change, if the line has none.
     bool goToMessage(const Family::FamilyDocument* document, int line);
 
-    /// Leads to the problem of a line of the text in front.
+    /// Goes to the problem of a line in the current text.
     void showMessageOfLine(int line);
 
-    /// Shows the panel and gives it the keyboard.
+    /// Shows the panel and focuses it.
     void comeForward();
 
     void followLine(int line) override;
     QVector<PanelPlace> places() override;
 
-    /// One line: all that an empty list needs.
+    /// One line: enough for an empty list.
     QSize minimumSizeHint() const override;
 
 signals:
-    /// There are other problems, or more or fewer of them.
+    /// The problems changed.
     void summaryChanged();
 
 protected:
-    /// A list without problems says why.
+    /// An empty list explains why it is empty.
     void paintEvent(QPaintEvent* event) override;
 
-    /// A problem that is too long for its row is read in its tool tip.
+    /// A problem too long for its row is shown in the tool tip.
     bool viewportEvent(QEvent* event) override;
 
 private:

@@ -9,16 +9,16 @@ namespace App {
 
 class MessagePanel;
 
-/// How high the panel of messages is: as the person has left it, and one line without a title while
-/// there are none.
+/// Controls the height of the message panel: as the user left it, or one line without a title while
+/// there are no messages.
 class MessageRoom : public QObject
 {
 public:
-    /// All outlive this.
+    /// All of them outlive this object.
     MessageRoom(QMainWindow* window, QDockWidget* dock, MessagePanel* panel);
 
 protected:
-    /// The panel has its first size when it is shown.
+    /// The panel gets its first size when it is shown.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

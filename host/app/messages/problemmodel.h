@@ -7,10 +7,9 @@
 
 namespace App {
 
-/// The problems of a game as rows: in order of files, and of places in them.
+/// The problems of a game as rows, sorted by file and by position in the file.
 ///
-/// New problems of a file take the place of the old ones row by row, so that views keep where the
-/// person is.
+/// New problems of a file replace the old ones row by row, so that views keep their position.
 class ProblemModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -18,17 +17,17 @@ class ProblemModel : public QAbstractListModel
 public:
     explicit ProblemModel(QObject* parent = nullptr);
 
-    /// Replaces those of one file, which are in order.
+    /// Replaces the problems of one file; they must be sorted.
     void setProblems(const QString& file, const Family::Problems& problems);
 
-    /// Null outside of the list.
+    /// Null outside the list.
     const Family::Problem* problemAt(int row) const;
 
     /// The row of the first problem of a file, -1 if it has none.
     int firstRowOf(const QString& file) const;
 
-    /// The row of the first problem of a file at a line or below it, counted from 1; the last row
-    /// of the file if all stand above. -1 if it has none.
+    /// The row of the first problem at a line of a file or below it, counted from 1; the file's
+    /// last row if all problems are above. -1 if the file has none.
     int rowAt(const QString& file, int line) const;
 
     const Family::ProblemTally& count() const { return m_count; }
@@ -49,8 +48,8 @@ private:
     void replace(File* file, int first, const Family::Problems& problems);
     const QVector<int>& starts() const;
 
-    QVector<File> m_files;          // by name; none is without problems
-    mutable QVector<int> m_starts;  // the first row of each, and the end; empty if not known
+    QVector<File> m_files;          // sorted by name; each has problems
+    mutable QVector<int> m_starts;  // first row of each file, and the end; empty if not computed
     Family::ProblemTally m_count;
 };
 

@@ -26,11 +26,11 @@ namespace App {
 class ProblemModel;
 struct WindowServices;
 
-/// Keeps the problems of the whole game up to date: it hands what is not saved to the check in the
-/// background, and what that finds to the list and the tree.
+/// Keeps the problems of the whole game up to date: passes unsaved contents to the background
+/// check, and its results to the list and the tree.
 ///
-/// What stands in the window is judged, saved or not. Nothing is checked while the person has the
-/// messages switched off.
+/// It checks what the window shows, saved or not. Nothing is checked while the user has switched
+/// messages off.
 class ProblemWatch : public QObject, public Part
 {
     Q_OBJECT
@@ -42,26 +42,25 @@ public:
     ProblemModel* model() const { return m_model; }
     Operations::BackgroundCheck* check() const { return m_check; }
 
-    /// What the problems have for a file, and the other way round.
+    /// Converts a path to the file name used in problems, and back.
     QString nameOf(const QString& path) const;
     QString pathOf(const QString& name) const;
 
-    /// The document of a file that problems name, null if it is not open.
+    /// The document of a file named in problems; null if it is not open.
     Family::FamilyDocument* documentOf(const QString& name) const;
     QString nameOf(const Family::FamilyDocument* document) const;
 
-    /// "3 errors, 1 warning", "No problems" when that is known, or what is being done about it.
+    /// "3 errors, 1 warning", "No problems" once that is known, or the state of the check.
     QString summary() const;
 
-    /// Hands over what has changed and waits until all of it is checked. False if that takes long.
+    /// Passes changes on and waits until they are checked. False if that takes too long.
     bool settle();
 
-    /// The places that name something, a line each, of at most ten. False while the game is not
-    /// checked, or no game is open.
+    /// The places that use something, one line of text each, at most ten. False while the game is
+    /// not checked or none is open.
     bool findUses(const Operations::Removal& what, QStringList* places);
 
-    /// Tells the person who uses what is to be removed, if anybody does, and asks. True to remove
-    /// it.
+    /// If something uses what is to be removed, lists it and asks. True to remove it.
     bool mayRemove(const std::function<Operations::Removal()>& removal);
 
     void showGame(Family::FamilyParentProject* game) override;
@@ -73,7 +72,7 @@ public:
     void retranslate() override;
 
 signals:
-    /// `summary()` may be another one.
+    /// `summary()` may have changed.
     void summaryChanged();
 
 private:
@@ -95,11 +94,11 @@ private:
     ProblemModel* m_model;
     QTimer* m_timer;
     Family::FamilyParentProject* m_game = nullptr;
-    QString m_folder;                          // of the game that is checked
-    QHash<const QObject*, QString> m_watched;  // the path of each file
+    QString m_folder;                          // of the checked game
+    QHash<const QObject*, QString> m_watched;  // path of each file
     QSet<QString> m_changed;                   // paths
     int m_newFiles = 0;
-    bool m_isFirst = true;  // nothing has been found yet of this game
+    bool m_isFirst = true;  // no results yet for this game
 };
 
 }  // namespace App

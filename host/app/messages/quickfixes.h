@@ -17,24 +17,24 @@ class MessagePanel;
 class ProblemWatch;
 struct WindowServices;
 
-/// Offers what can be done about a problem: by a key, in the context menu of a message, and in that
-/// of a line with one.
+/// Offers fixes for a problem: by a shortcut, in the context menu of a message, and in the context
+/// menu of a line with a problem.
 class QuickFixes : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// All of them outlive it.
+    /// All of them outlive this object.
     QuickFixes(const WindowServices& services, ProblemWatch* problems, MessagePanel* panel,
                Zorv::CodeEditor* editor);
 
     QVector<ActionRow> actions() override;
 
-    /// What can be done at the selected message, or at the line of the cursor.
+    /// The fixes for the selected message, or for the cursor's line.
     QVector<Operations::Fix> fixesOfMessage() const;
     QVector<Operations::Fix> fixesOfLine() const;
 
-    /// Does one of them, and shows what has come of it. The person is told what does not go.
+    /// Applies a fix and shows the result. Shows a message on failure.
     void apply(const Operations::Fix& fix);
 
 protected:

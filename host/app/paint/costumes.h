@@ -17,17 +17,17 @@ class SpriteEditor;
 
 namespace App {
 
-/// The panel with the picture of the canvas in the palettes of its file.
+/// The panel that shows the canvas picture in the palettes of its file.
 ///
-/// These are the first ones of the file, as many as the panel takes. If the sprite's own is not
-/// among them it has the last place. A click makes a palette the current one, in which the canvas
-/// is shown; the sprite keeps its own. Colours that are dropped on one go into their slots of it.
+/// It shows the first palettes of the file, as many as fit. If the sprite's own palette is not
+/// among them, it gets the last place. A click makes a palette current, and the canvas is shown in
+/// it; the sprite keeps its own. Colours dropped on a palette go into the same slots of it.
 class Costumes : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The editor outlives it. The panel goes with the window, or with this.
+    /// The editor outlives it. The panel is destroyed with the window or with this object.
     Costumes(Zorv::SpriteEditor* editor, QObject* parent);
     ~Costumes() override;
 
@@ -46,7 +46,7 @@ private:
 
     Zorv::SpriteEditor* m_editor;
     Zorv::PalettePreviews* m_panel;
-    QVector<Zorv::Palette*> m_palettes;  // in the order of the panel; compared only
+    QVector<Zorv::Palette*> m_palettes;  // in panel order; only compared, never dereferenced
 };
 
 }  // namespace App

@@ -10,8 +10,8 @@ class SpriteCollection;
 
 namespace App {
 
-/// The library's editor of sprites for those of the family: images come in by a dialog of the
-/// window, and who names a sprite is asked about before it goes.
+/// The library's sprite editor for this engine family: a dialog of the window imports images, and
+/// removing a sprite asks first if something uses it.
 class FamilySpriteEditor : public Zorv::SpriteEditor
 {
     Q_OBJECT

@@ -8,8 +8,8 @@ class SpriteEditor;
 
 namespace App {
 
-/// Shows the first picture as large as there is room for. The view finds its size in several steps,
-/// so the zoom follows it until something else is done: from then on it is the person's.
+/// Zooms the first picture to fill the view. The view gets its size in several steps, so the zoom
+/// follows it until the user does something; then the zoom is the user's.
 class FirstZoom : public QObject
 {
     Q_OBJECT

@@ -21,11 +21,12 @@ class Sprites;
 
 namespace App {
 
-/// The frames before and after the one that shows the sprite on the canvas, shining through it.
+/// Onion skin for the canvas: the frames before and after the one that shows the sprite shine
+/// through.
 ///
-/// They stand as they do in the animation: axis on axis, with the offsets, flips, scales and angles
-/// of both frames. The frame is the one on the stage if that shows the sprite, else the first of
-/// the animation that does.
+/// They are placed as in the animation: axis on axis, with the offsets, flips, scales and angles of
+/// both frames. The reference frame is the one on the stage if it shows the sprite, else the first
+/// frame of the animation that does.
 class FrameShine : public QObject
 {
     Q_OBJECT
@@ -42,13 +43,13 @@ public:
     void update();
 
 private:
-    /// A frame beside that of the canvas. It is turned and scaled once, and then only moved, as
-    /// while the axis is dragged.
+    /// A neighbouring frame. It is rotated and scaled once, then only moved, because dragging the
+    /// axis moves it with every mouse event.
     struct Neighbour
     {
         QImage image;
         QTransform toGame;  ///< from its pixels
-        QImage shown;       ///< as the canvas shows it; null until it is seen
+        QImage shown;       ///< transformed for the canvas; null until it is visible
     };
 
     void followSprite();
@@ -60,7 +61,7 @@ private:
     const Zorv::AnimationEditor* m_animations;
     QPointer<Zorv::Sprites> m_followed;
     std::vector<Neighbour> m_neighbours;
-    QTransform m_own;  ///< from the axis of the canvas to the game
+    QTransform m_own;  ///< from canvas axis to game coordinates
     bool m_isOn = false;
     bool m_isShown = false;
 };

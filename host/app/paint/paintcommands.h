@@ -23,15 +23,15 @@ class PaintOptions;
 class PanSwitch;
 struct WindowServices;
 
-/// The editor of sprites in the window: the canvas in the middle, and what the window alone can do
-/// with it. Its tools are the library's.
+/// The sprite editor in the window: the canvas in the middle, and commands that only the window can
+/// provide. The tools come from the library.
 class PaintCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Makes the editor, as a child of the window. The editor of animations is there by then. The
-    /// panel of palettes is not owned.
+    /// Creates the editor as a child of the window. The animation editor must exist. Does not own
+    /// the palette panel.
     PaintCommands(const WindowServices& services, Zorv::PaletteEditor* palettes);
     ~PaintCommands() override;
 
@@ -40,14 +40,14 @@ public:
     /// The panel of `Costumes`.
     Zorv::PalettePreviews* costumes() const;
 
-    /// Brings a sprite onto the canvas and the canvas to the front. The person is asked first if
-    /// the canvas has changes.
+    /// Opens a sprite on the canvas and brings the canvas to the front. Asks first if the canvas
+    /// has changes.
     void showSprite(Family::SpriteCollection* sprites, int row);
 
-    /// The same for the sprites of the project in front, with the one that was there last.
+    /// The same for the sprites of the current project, with the sprite shown last.
     void comeForward();
 
-    /// How the canvas does the commands of the window.
+    /// How the canvas runs the window's commands.
     CommandRows commands() const;
 
     QVector<ActionRow> actions() override;

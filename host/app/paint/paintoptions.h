@@ -14,19 +14,19 @@ class ActionRegistry;
 
 class FrameShine;
 
-/// The switches of painting that are not tools: how strokes go, and what is seen on the canvas.
-/// They are kept as settings under the names of their actions.
+/// The paint switches that are not tools: how strokes are drawn and what the canvas shows. Stored
+/// as settings named like their actions.
 class PaintOptions : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Both outlive them.
+    /// Both outlive this object.
     PaintOptions(Zorv::ImageRenderer* renderer, FrameShine* shine, QObject* parent);
 
     QVector<ActionRow> actions();
 
-    /// Sets the switches as they were left.
+    /// Restores the stored state of the switches.
     void restore(const ActionRegistry* registry);
 
 private:

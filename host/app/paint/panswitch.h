@@ -12,8 +12,9 @@ class SpriteWorkspace;
 
 namespace App {
 
-/// The action that lets the mouse move the picture. By a key it does so until that key is released,
-/// whichever key it is. From a menu it is a switch, which another tool ends, too.
+/// The action that makes the mouse pan the picture. Triggered by a key, it lasts until that key is
+/// released, whichever shortcut is set. Triggered from a menu, it is a switch; choosing another
+/// tool also ends it.
 class PanSwitch : public QObject
 {
     Q_OBJECT
@@ -35,7 +36,7 @@ private:
 
     QAction* m_action;
     Zorv::ImageRenderer* m_renderer;
-    int m_pressed = 0;  ///< the key that is down and would trigger the action
+    int m_pressed = 0;  ///< the pressed key that would trigger the action
     bool m_isHeld = false;
 };
 

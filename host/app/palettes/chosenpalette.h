@@ -12,8 +12,8 @@ namespace App {
 
 class FamilyPaletteEditor;
 
-/// The slots that are selected in the grid. For what is asked at any time: it looks at no palette,
-/// which may be one of a file that is just read anew.
+/// The selected slots of the grid. Safe to call at any time: it does not touch the palette, which
+/// can belong to a file being reloaded.
 struct SelectedSlots
 {
     int count = 0;
@@ -23,42 +23,43 @@ struct SelectedSlots
     static SelectedSlots of(const FamilyPaletteEditor& editor);
 };
 
-/// The current palette as it was when a dialog was opened on it, and the slots that were selected.
-/// Files are read again behind dialogs, projects are closed: it is looked at again before a change.
+/// A snapshot of the current palette and the selected slots, taken when a dialog opens. While the
+/// dialog is open, files can be reloaded and projects closed, so the palette is checked again
+/// before a change.
 class ChosenPalette
 {
 public:
     explicit ChosenPalette(FamilyPaletteEditor* editor);
 
-    /// True while the same palette is the current one, with the same colours.
+    /// True while the same palette is current and has the same colours.
     bool isThere() const;
 
-    /// Makes it the current one again where another palette came into the grid meanwhile. True if
-    /// `isThere()` then.
+    /// Makes the palette current again if the grid shows another one. True if `isThere()`
+    /// afterwards.
     bool comeBack() const;
 
-    /// The slots that are selected; all of them if those are fewer than `least`. Pointer to 256.
+    /// The selected slots; all of them if fewer than `least` are selected. Points to 256 flags.
     const bool* slotsOrAll(int least) const;
     int selectedCount() const;
 
-    /// The first and the last selected slot; 0 without any.
+    /// The first and last selected slot; 0 if none is selected.
     quint8 first() const;
     quint8 last() const;
 
     const Family::PaletteColors& colors() const { return m_colors; }
     int row() const { return m_row; }
 
-    /// The row alone, or those of all palettes of the file.
+    /// The row alone, or the rows of all palettes of the file.
     QVector<int> rows(bool all) const;
 
-    /// To be asked for while `isThere()`.
+    /// Call only while `isThere()`.
     Family::SpriteCollection* sprites() const;
     FamilyPaletteEditor* editor() const;
 
 private:
     QPointer<FamilyPaletteEditor> m_editor;
     QPointer<Family::SpriteCollection> m_sprites;
-    const Zorv::Palette* m_palette;  // compared only
+    const Zorv::Palette* m_palette;  // only compared, never dereferenced
     int m_row = -1;
     Family::AssetId m_id;
     Family::PaletteColors m_colors{};

@@ -8,7 +8,7 @@ namespace App {
 
 class FamilyPaletteEditor;
 
-/// Takes colours from one palette to another: by the clipboard, and by a drag out of the grid.
+/// Transfers colours between palettes: by the clipboard, and by dragging from the grid.
 class ColorExchange : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     /// The editor outlives it.
     ColorExchange(FamilyPaletteEditor* editor, QObject* parent);
 
-    /// Copies the selected slots, and puts what is on the clipboard into them.
+    /// Copies the selected slots, and pastes the clipboard into them.
     CommandRows commands();
 
 private:

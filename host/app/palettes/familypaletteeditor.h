@@ -8,7 +8,8 @@ class SpriteCollection;
 
 namespace App {
 
-/// The library's editor of palettes for those of the family, which are called by group and number.
+/// The library's palette editor for palettes of this engine family, which are identified by group
+/// and number.
 class FamilyPaletteEditor : public Zorv::PaletteEditor
 {
     Q_OBJECT
@@ -18,7 +19,7 @@ public:
 
     bool paletteIdentifier(QVariant* id) override;
 
-    /// The first is asked for; the others follow, without those that are taken.
+    /// Asks for the first identifier; the others follow it, skipping those in use.
     void paletteIdentifiers(const QStringList& files, QList<QVariant>* ids,
                             bool* reversed) override;
     void reorderColors(const QVector<int>& rows, const Zorv::PaletteOrder& order) override;
@@ -26,7 +27,7 @@ public:
     /// Null without palettes.
     Family::SpriteCollection* sprites() const;
 
-    /// Makes the palette of a sprite the current one, and selects a slot of it.
+    /// Makes the palette of a sprite current and selects a slot in it.
     void selectColour(int group, int number, int slot);
 };
 

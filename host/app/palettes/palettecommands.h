@@ -13,15 +13,15 @@ class PaletteUsage;
 class SightSwitches;
 struct WindowServices;
 
-/// The panel of palettes, which goes with the canvas. With the keyboard in it undo is that of the
-/// file of the sprites; the rest is done by the editor in front.
+/// The palette panel, shown with the canvas. While it has the keyboard focus, undo works on the
+/// sprite file; other commands go to the editor in front.
 class PaletteCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Makes the panel, which places its tools in the window of the host. Lives as a child of the
-    /// window, and longer than the editor of sprites.
+    /// Creates the panel, which places its tools in the host's window. A child of the window; must
+    /// outlive the sprite editor.
     explicit PaletteCommands(const WindowServices& services);
     ~PaletteCommands() override;
 

@@ -15,8 +15,8 @@ class QSpinBox;
 
 namespace App {
 
-/// A question about a change of the current palette. While it is open the grid and the canvas show
-/// what would come of it. The palette itself stays: the change is for who asks.
+/// A dialog for a change of the current palette. While it is open, grid and canvas preview the
+/// result. The palette itself does not change: the caller applies the change.
 class PaletteDialog : public QDialog
 {
     Q_OBJECT
@@ -28,13 +28,14 @@ protected:
     /// `chosen` outlives it.
     PaletteDialog(const ChosenPalette& chosen, QWidget* parent);
 
-    /// What the palette would be.
+    /// Applies the change to `colors`, a copy of the palette.
     virtual void change(Zorv::RGBA* colors) const = 0;
 
-    /// Shows that. Once the palette is another one the question has no sense, and ends.
+    /// Previews the change. If the palette was replaced meanwhile, the dialog closes, because its
+    /// question makes no sense any more.
     void showChange();
 
-    /// Puts the buttons below what the form has.
+    /// Adds the buttons below the form.
     void finish();
 
     const ChosenPalette& chosen() const { return m_chosen; }
@@ -45,7 +46,7 @@ private:
     QFormLayout* m_form;
 };
 
-/// Asks in which space colours are mixed between the first and the last selected slot.
+/// Asks for the colour space in which to mix colours between the first and the last selected slot.
 class RampDialog : public PaletteDialog
 {
     Q_OBJECT
@@ -64,7 +65,7 @@ private:
     QCheckBox* m_isInAll;
 };
 
-/// Asks how far hues are turned: those of the selected slots, or of all without any.
+/// Asks how far to rotate hues: those of the selected slots, or of all slots if none is selected.
 class HueDialog : public PaletteDialog
 {
     Q_OBJECT
@@ -83,7 +84,7 @@ private:
     QSpinBox* m_degrees;
 };
 
-/// Asks how colours are sorted. Pictures look the same afterwards, so there is nothing to be shown.
+/// Asks how to sort colours. There is no preview: pictures look the same afterwards.
 class SortDialog : public QDialog
 {
     Q_OBJECT
@@ -91,7 +92,7 @@ class SortDialog : public QDialog
 public:
     SortDialog(const ChosenPalette& chosen, QWidget* parent);
 
-    /// Of the palette as it was chosen.
+    /// For the palette as it was when the dialog opened.
     Zorv::PaletteOrder order() const;
     bool isInAll() const;
 

@@ -15,8 +15,8 @@ class FamilyPaletteEditor;
 class PaletteUsage;
 struct WindowServices;
 
-/// What the window does with palettes beyond the library's tools: by the operations that the
-/// command line has, too. Each is one step of undo of the file of the sprites.
+/// Palette commands of the window beyond the library's tools. They use the same operations as the
+/// command line. Each is one undo step of the sprite file.
 class PaletteTools : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
 
     QVector<ActionRow> actions();
 
-    /// Puts them into the menu of the grid.
+    /// Adds them to the context menu of the grid.
     void actionsMade();
 
 private:

@@ -18,21 +18,22 @@ namespace App {
 
 class FamilyPaletteEditor;
 
-/// What uses the current palette and its slots: a line below the grid, and the tips of the cells.
+/// Shows what uses the current palette and its slots: in a line below the grid, and in the tool
+/// tips of its cells.
 ///
-/// How many sprites have a palette is known at once. Slots are counted when the person asks, for
-/// that unpacks all sprites. Both counts hold until sprites or palettes come, go or change: another
-/// palette, or other slots, are chosen more often.
+/// The number of sprites per palette is known at once. Slot use is counted only on request, because
+/// that unpacks all sprites. Both counts stay valid until sprites or palettes change; selecting
+/// another palette or other slots does not discard them.
 class PaletteUsage : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Places the line in the panel of the tools. The editor outlives it.
+    /// Adds the line to the tools panel. The editor outlives this object.
     PaletteUsage(FamilyPaletteEditor* editor, QObject* parent);
     ~PaletteUsage() override;
 
-    /// Counts, with progress. Gives a line for each sprite that could not be counted.
+    /// Counts with a progress dialog. Returns one line for each sprite that could not be counted.
     QStringList count();
 
 public slots:
@@ -49,7 +50,7 @@ private:
     FamilyPaletteEditor* m_editor;
     QPointer<QLabel> m_label;
     QPointer<Family::SpriteCollection> m_sprites;  // whose changes are followed
-    std::optional<QVector<int>> m_rows;            // how many sprites have each palette
+    std::optional<QVector<int>> m_rows;            // number of sprites per palette
     std::optional<Operations::PaletteUseCount> m_count;
     QTimer m_soon;
 };

@@ -10,8 +10,8 @@ namespace App {
 
 struct WindowServices;
 
-/// Shows canvas, stage, colours and small pictures of the window as people with a colour blindness
-/// see them. Pixels and palettes stay as they are, and so do all files. It begins without any.
+/// Simulates a colour blindness in the canvas, the stage, the colours and the thumbnails of the
+/// window. Pixels, palettes and files do not change. Off at first.
 class SightSwitches : public QObject
 {
     Q_OBJECT
@@ -19,11 +19,11 @@ class SightSwitches : public QObject
 public:
     SightSwitches(const WindowServices& services, QObject* parent);
 
-    /// One for each kind: at most one of them is on.
+    /// One switch per kind; at most one is on.
     QVector<ActionRow> actions();
 
 public slots:
-    /// Once more, for widgets that have come since.
+    /// Applies it again, for widgets created since.
     void apply();
 
 private:

@@ -7,15 +7,14 @@ namespace App {
 
 class MainWindow;
 
-/// What a picture of the window shows: the names of all scenes.
+/// The names of all scenes: what a picture of the window can show.
 QStringList pictureScenes();
 
-/// Brings a window with an open game into a scene; an empty name is that of the first one.
-/// What it takes is looked for in the texts of the game, and what is not there is left out.
-/// Nothing is written.
+/// Arranges a window with an open game as a scene; an empty name means the first scene. Looks for
+/// suitable contents in the game's texts, and leaves out what it does not find. Writes nothing.
 void arrangeScene(MainWindow* window, const QString& name);
 
-/// Lets panels, popups and texts come to rest.
+/// Waits until panels, popups and texts have settled.
 void settleWindow();
 
 }  // namespace App

@@ -6,7 +6,7 @@ namespace App {
 
 class MainWindow;
 
-/// A picture of the window that somebody wants.
+/// A requested picture of the window.
 struct PictureRequest
 {
     QString game;   ///< empty for none
@@ -14,9 +14,8 @@ struct PictureRequest
     QString file;
 };
 
-/// Opens the game, shows the text of it that has most to show, in the scene that is wanted,
-/// and writes a picture of the window. False, with `error`, if the game cannot be opened or
-/// the picture not be written.
+/// Opens the game, shows its richest text in the requested scene, and writes a picture of the
+/// window. False, with `error`, if the game cannot be opened or the picture cannot be written.
 bool drawWindow(MainWindow* window, const PictureRequest& request, QString* error);
 
 }  // namespace App

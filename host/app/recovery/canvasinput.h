@@ -14,8 +14,8 @@ class SpriteEditor;
 
 namespace App {
 
-/// The canvas of the sprite editor as work to be put aside: what is unsaved there, and layers that
-/// are hidden, which no sprite has.
+/// The canvas of the sprite editor as recoverable work: its unsaved changes, and hidden layers,
+/// which no sprite contains.
 class CanvasInput : public QObject, public Operations::RecoveryInput
 {
     Q_OBJECT
@@ -27,15 +27,15 @@ public:
     Zorv::ProjectFile* file() const override;
     std::function<bool(QIODevice*)> take(Operations::RecoveryCopy* copy) const override;
 
-    /// Puts a canvas onto that of the editor, as unsaved work on its sprite. False, with `error`,
-    /// if the sprite is not in the file, or the person keeps another canvas.
+    /// Restores a canvas into the editor as unsaved work on its sprite. False, with `error`, if the
+    /// sprite is not in the file or the user keeps the current canvas.
     bool restore(Zorv::ProjectFile* file, const Operations::CanvasCopy& canvas, QString* error);
 
     /// Brings the canvas to the front of what the editor shows.
     Zorv::SpriteEditor* editor() const { return m_editor; }
 
 signals:
-    /// Soon after something has changed on the canvas.
+    /// Sent soon after the canvas changed.
     void changed();
 
 private:

@@ -14,9 +14,8 @@ namespace App {
 
 class DiffView;
 
-/// Shows unsaved work that a crash left, each beside what its file holds now,
-/// and asks what becomes of them. It changes nothing but what the person saves
-/// elsewhere.
+/// Shows unsaved work left by a crash, each compared with the current file, and asks what to do
+/// with it. It changes nothing, except that the user can save work elsewhere.
 class RecoveryDialog : public QDialog
 {
     Q_OBJECT
@@ -26,7 +25,7 @@ public:
 
     RecoveryDialog(QWidget* parent, const QList<Operations::AbandonedWork>& works);
 
-    /// For each of them, in order; all `Later` if the dialog was given up.
+    /// One for each work, in order; all `Later` if the dialog was cancelled.
     QVector<Decision> decisions() const;
 
 private:
@@ -43,7 +42,7 @@ private:
 
     QList<Operations::AbandonedWork> m_works;
     QVector<Decision> m_decisions;
-    QVector<QString> m_comparisons;  ///< made when they are looked at; null until then
+    QVector<QString> m_comparisons;  ///< made on demand; null until then
     QTreeWidget* m_list;
     QLabel* m_state;
     DiffView* m_diff;

@@ -17,19 +17,19 @@ namespace App {
 class CanvasInput;
 struct WindowServices;
 
-/// Keeps the unsaved texts, sprites, sounds and canvases of a window safe, and offers those that a
-/// process that is gone has left: at the start, and for a game when it is opened.
+/// Stores recovery copies of a window's unsaved texts, sprites, sounds and canvases, and offers
+/// those left behind by a process that no longer runs: at the start, and when their game is opened.
 class WorkRecovery : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Copies are below `root`. The window must outlive the object.
+    /// Copies are stored below `root`. The window must outlive this object.
     WorkRecovery(const WindowServices& services, const QString& root);
 
     Operations::RecoveryKeeper* keeper() const { return m_keeper; }
 
-    /// Offers all that is there.
+    /// Offers everything that was left.
     void offerAll();
 
 private:
@@ -48,7 +48,7 @@ private:
     Operations::RecoveryKeeper* m_keeper;
     QString m_root;
     bool m_isOfferPending = false;
-    int m_offers = 0;  ///< games that are opened meanwhile raise no question
+    int m_offers = 0;  ///< guard: games opened by an offer make no new one
 };
 
 }  // namespace App

@@ -10,16 +10,16 @@ class CodeEditor;
 
 namespace App {
 
-/// Frames around places of the texts that an editor shows. They move with the texts.
+/// Frames around places in the texts of an editor. They move with the text.
 class PlaceMarks : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Lies over the text, and leaves the mouse to it.
+    /// An overlay on the text that ignores the mouse.
     explicit PlaceMarks(Zorv::CodeEditor* editor);
 
-    /// What each cursor has selected is marked, whichever text it belongs to.
+    /// Marks the selection of each cursor, whichever text it belongs to.
     void setPlaces(const QVector<QTextCursor>& places);
 
     const QVector<QTextCursor>& places() const { return m_places; }

@@ -19,14 +19,14 @@ class PlaceMarks;
 class ReferencePanel;
 struct WindowServices;
 
-/// References of the name at the cursor, in a list and marked in the text, and its renaming in the
+/// References of the name at the cursor, listed and marked in the text, and renaming it in the
 /// whole game.
 class ReferenceCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// The editor shows the texts, and outlives it.
+    /// The editor shows the texts and outlives this object.
     ReferenceCommands(const WindowServices& services, Zorv::CodeEditor* editor);
     ~ReferenceCommands() override;
 
@@ -36,7 +36,7 @@ public:
     void rename();
     void undoRename();
 
-    /// The places that are marked.
+    /// The marked places.
     PlaceMarks* marks() const { return m_marks; }
 
     QVector<ActionRow> actions() override;
@@ -62,8 +62,8 @@ private:
     Zorv::CodeEditor* m_editor;
     QPointer<ReferencePanel> m_panel;
     PlaceMarks* m_marks;
-    IndexPtr m_index;       // none while no game is open, or nobody has asked
-    QSet<QString> m_texts;  // paths whose texts stand in the index
+    IndexPtr m_index;       // null while no game is open or nothing was searched
+    QSet<QString> m_texts;  // paths of the texts in the index
     RenameAct m_last;
 };
 

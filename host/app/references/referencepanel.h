@@ -6,7 +6,7 @@
 
 namespace App {
 
-/// The places of one name: a row for each file, below it a row for each line.
+/// The places of one name: a row per file, with a row per line below it.
 class ReferencePanel : public QTreeWidget
 {
     Q_OBJECT
@@ -14,11 +14,11 @@ class ReferencePanel : public QTreeWidget
 public:
     ReferencePanel();
 
-    /// Shows the uses of a subject in a game, with the texts of their lines.
+    /// Shows the uses of a subject in a game, with the text of each line.
     void showUses(const QString& title, const QVector<Operations::NameUse>& uses,
                   const QString& gameFolder);
 
-    /// Shows nothing.
+    /// Clears the list.
     void forget();
 
     const QVector<Operations::NameUse>& uses() const { return m_uses; }
@@ -26,11 +26,11 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The person wants to see a place.
+    /// The user wants to see a place.
     void useRequested(const Operations::NameUse& use);
 
 protected:
-    /// A list without places tells how to get them.
+    /// An empty list explains how to fill it.
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -8,10 +8,10 @@ namespace App {
 
 class GameSession;
 
-/// A rename as the window does it: on the disk, and in what is open.
+/// A rename as the window performs it: on disk, and in open files.
 ///
-/// In each open text it is one step of undo, and the text is saved behind it. What is not open is
-/// only written. The whole can be taken back as long as nobody has changed any of it.
+/// In each open text it is one undo step, and the text is saved afterwards. Files that are not open
+/// are only written. The whole rename can be undone as long as none of these files has changed.
 class RenameAct
 {
 public:
@@ -20,18 +20,18 @@ public:
 
     bool isEmpty() const { return m_changes.isEmpty(); }
 
-    /// "200": the name that was given, and the one before.
+    /// The new name, such as "200", and the old one.
     QString name() const { return m_name; }
     QString oldName() const { return m_oldName; }
 
-    /// Does it. False, with `error`, if nothing has changed. Open texts that could not be saved are
-    /// told in `error` as well; they stay unsaved. No file of it may have unsaved changes.
+    /// Runs the rename. False, with `error`, if nothing was changed. `error` also lists open texts
+    /// that could not be saved; they stay unsaved. None of the files may have unsaved changes.
     bool run(GameSession* session, const QString& title, QString* error);
 
-    /// What takes it back, once it was run.
+    /// The rename that undoes this one, after `run()`.
     RenameAct reversed() const;
 
-    /// The files of it that have changes which are not saved.
+    /// Its files that have unsaved changes.
     QStringList unsavedFiles(const GameSession& session) const;
 
     const QString& gameFolder() const { return m_gameFolder; }
@@ -44,7 +44,7 @@ private:
     QVector<Operations::RenamedLine> m_lines;
 };
 
-/// The absolute paths of open files that have changes which are not saved.
+/// The absolute paths of open files with unsaved changes.
 QSet<QString> unsavedPaths(const GameSession& session);
 
 }  // namespace App

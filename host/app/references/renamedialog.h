@@ -14,7 +14,7 @@ class QTreeWidget;
 
 namespace App {
 
-/// Asks for another name, and shows what it would change and what is in its way.
+/// Asks for a new name, and shows what it would change and what prevents it.
 class RenameDialog : public QDialog
 {
     Q_OBJECT
@@ -22,11 +22,11 @@ class RenameDialog : public QDialog
 public:
     using Planner = std::function<Operations::RenamePlan(const QString& name)>;
 
-    /// `plan` is called when the person has written a name.
+    /// `plan` is called when the user typed a name.
     RenameDialog(const Operations::Subject& subject, const QString& gameFolder, const Planner& plan,
                  QWidget* parent);
 
-    /// That of the name in the field.
+    /// The plan for the name in the field.
     const Operations::RenamePlan& plan() const { return m_plan; }
 
     void accept() override;

@@ -12,9 +12,9 @@ class QToolButton;
 
 namespace App {
 
-/// What the engine prints, as it comes: the last lines of it. However much that
-/// is, the window goes on: a little is shown at each turn, and what is too old to
-/// stay is not looked at.
+/// Shows the last lines of the engine's output as they arrive. Large amounts do not block the
+/// window: each turn of the event loop shows a limited piece, and output that is already too old to
+/// keep is skipped.
 class OutputPanel : public QWidget
 {
     Q_OBJECT
@@ -25,10 +25,10 @@ public:
 
     explicit OutputPanel(QWidget* parent = nullptr);
 
-    /// Takes what the engine has printed; shown soon.
+    /// Takes output of the engine; shown soon.
     void add(const QByteArray& bytes);
 
-    /// Shows a line of the editor's own behind what was printed before.
+    /// Adds a line of the editor's own after the output so far.
     void addNote(const QString& text);
 
     void clear();
@@ -37,17 +37,17 @@ public:
     /// Settings have changed.
     void reconfig();
 
-    /// What is shown.
+    /// The text shown.
     QString text() const;
 
-    /// Lines are wider than messages are.
+    /// Wider than the message panel, because output lines are longer.
     QSize sizeHint() const override;
 
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// Bytes that were printed, or a note.
+    /// Output bytes, or a note.
     struct Piece
     {
         QByteArray bytes;
@@ -68,9 +68,9 @@ private:
     QToolButton* m_clear;
     OutputText m_decoder;
     std::deque<Piece> m_pieces;  ///< not shown yet
-    int m_pendingSize = 0;       ///< bytes of them
+    int m_pendingSize = 0;       ///< bytes in `m_pieces`
     int m_pendingLines = 0;
-    qint64 m_dropped = 0;  ///< bytes in front of them that nobody will see
+    qint64 m_dropped = 0;  ///< bytes skipped before them
     QTimer m_timer;
 };
 

@@ -5,22 +5,21 @@
 
 namespace App {
 
-/// Makes a text to look at of what a program prints, piece by piece.
+/// Converts a program's output to displayable text, piece by piece.
 ///
-/// The bytes are taken as UTF-8; those that are none are shown as "\xE4". Line
-/// feeds, also behind a carriage return, and tabs are what they are; any other
-/// character that would do something is shown as a sign, "^[" or "<U+202E>": a program
-/// may print what it likes. Lines are broken at `MaxLine` characters.
+/// The bytes are decoded as UTF-8; invalid bytes appear as "\xE4". Line feeds, also after a
+/// carriage return, and tabs keep their meaning. Any other control character appears as a sign,
+/// "^[" or "<U+202E>", because a program may print anything. Lines are broken at `MaxLine`
+/// characters.
 class OutputText
 {
 public:
     static constexpr int MaxLine = 2000;
 
-    /// The text of further bytes. The last few may be kept back until the rest of
-    /// their character comes.
+    /// Decodes more bytes. An incomplete last character is kept back until its rest arrives.
     QString decode(const QByteArray& bytes);
 
-    /// What was kept back; the next text begins a new line.
+    /// Returns what was kept back; the next text starts a new line.
     QString finish();
 
 private:
@@ -28,7 +27,7 @@ private:
     void addBytes(const QByteArray& bytes, QString* text);
     void append(const QString& piece, QString* text);
 
-    QByteArray m_rest;  ///< the beginning of a character
+    QByteArray m_rest;  ///< an incomplete character
     bool m_hasReturn = false;
     int m_column = 0;
 };

@@ -11,10 +11,10 @@ class ObjectSocket;
 
 namespace App {
 
-/// The editor's end of the way to the player that it starts: a local socket that only this person
-/// can open, with a name that no other has. docs/engine.md tells what goes over it.
+/// The editor's end of the connection to the player that it starts: a local socket with a unique
+/// name that only the current user can open. docs/engine.md describes the protocol.
 ///
-/// The player reaches it as soon as it is up, once; whoever else comes is turned away.
+/// The player connects once, when it has started; other connections are refused.
 class PlayerLink : public QObject
 {
     Q_OBJECT
@@ -23,24 +23,25 @@ public:
     explicit PlayerLink(QObject* parent = nullptr);
     ~PlayerLink() override;
 
-    /// What the player is told; empty where there can be no socket. It plays without then.
+    /// The name passed to the player; empty if no socket could be opened. The player then runs
+    /// without a connection.
     QString name() const { return m_server.fullServerName(); }
 
-    /// True from the moment at which the player is there to one of the two going away.
+    /// True while the player is connected.
     bool isConnected() const { return m_socket; }
 
-    /// The player goes on with a copy of a character or stage; `original` is empty for what was
-    /// never saved. Without a copy it takes the original of the last one.
+    /// Makes the player continue with a copy of a character or stage. `original` is empty if it was
+    /// never saved. If `copy` is empty, the player loads the original of the previous one.
     void play(const QString& copy, const QString& original, bool isStage);
 
 signals:
-    /// `isConnected()` is another.
+    /// `isConnected()` changed.
     void changed();
 
-    /// The person wants to see a line, from 1, of a file, in the editor.
+    /// The user wants to see a line, counted from 1, of a file in the editor.
     void lineAsked(const QString& file, int line);
 
-    /// The player has seen that files were saved.
+    /// The player noticed that files were saved.
     void filesChanged();
 
 private:

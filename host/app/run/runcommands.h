@@ -24,23 +24,23 @@ class OutputPanel;
 class PlayerLink;
 struct WindowServices;
 
-/// Starts the engine on the work in progress, shows what it prints, and ends it.
+/// Starts the engine with the current work, shows its output, and stops it.
 class RunCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window.
+    /// A child of the window.
     explicit RunCommands(const WindowServices& services);
     ~RunCommands() override;
 
     OutputPanel* panel() const { return m_panel; }
 
-    /// Returns when the engine has ended. The window goes on meanwhile. While the player runs it
-    /// gets what is on the screen now, in place of what it has.
+    /// Returns when the engine has ended; the window stays usable meanwhile. If the player is
+    /// already running, it gets the current state instead.
     void run();
 
-    /// Asks the engine to end, and ends it if it does not.
+    /// Asks the engine to end, and kills it if it does not.
     void stop();
 
     bool isRunning() const { return m_runs > 0; }
@@ -50,10 +50,10 @@ public:
     void gameChanged() override;
     void reconfig() override;
 
-    /// Asks whether a running engine is to be ended.
+    /// Asks whether to end a running engine.
     bool mayEnd(const std::function<void()>& then) override;
 
-    /// Offers to remove the temporary copies that a process that is gone has left.
+    /// Offers to remove temporary copies left behind by a process that no longer runs.
     static void offerLeftovers();
 
 private:
@@ -69,9 +69,9 @@ private:
     const WindowServices& m_services;
     OutputPanel* m_panel;
     int m_runs = 0;
-    std::unique_ptr<PlayerLink> m_link;        ///< while an engine runs
-    QPointer<Family::FamilyProject> m_played;  ///< what the player shows
-    QTimer m_playSoon;                         ///< when all that is saved at once is
+    std::unique_ptr<PlayerLink> m_link;        ///< only while an engine runs
+    QPointer<Family::FamilyProject> m_played;  ///< project shown by the player
+    QTimer m_playSoon;                         ///< merges files saved together into one update
     std::function<void()> m_then;
 };
 

@@ -22,12 +22,11 @@ class HitModel;
 class OpenTexts;
 struct WindowServices;
 
-/// A panel in which a person looks for something in all code files of the game, open or not, and
-/// replaces it there.
+/// A panel to search and replace in all code files of the game, open or not.
 ///
-/// It finds while the person types; what it shows stays true while texts and files change.
-/// Whatever is unticked stays when the rest is replaced: in open texts as one step of undo each,
-/// which is not saved yet, in other files at once.
+/// It searches while the user types, and updates the results when texts or files change. Replacing
+/// skips unticked places. In open texts it is one undo step per text and not saved yet; other files
+/// are written at once.
 class FindInFiles : public QWidget, public Part
 {
     Q_OBJECT
@@ -96,8 +95,8 @@ private:
     QTimer* m_timer;
     QVector<QPair<QToolButton*, int>> m_switches;
     Operations::FindPattern m_pattern;
-    QStringList m_errors;  // of files, in words
-    bool m_isCut = false;  // there are more places than are kept
+    QStringList m_errors;  // messages about files
+    bool m_isCut = false;  // more places exist than are kept
     bool m_isGivenUp = false;
 };
 

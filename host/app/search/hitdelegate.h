@@ -6,8 +6,8 @@
 
 namespace App {
 
-/// Draws the lines that a `HitModel` has: the match stands out, and where something is to take its
-/// place, that stands behind it, as it will be.
+/// Draws the lines of a `HitModel`: the match is highlighted, followed by its replacement if there
+/// is one.
 class HitDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
 
     void setPattern(const Operations::FindPattern& pattern) { m_pattern = pattern; }
 
-    /// Null for nothing that takes the place of matches.
+    /// Null: no replacement.
     void setReplacement(const QString& with) { m_with = with; }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -10,10 +10,10 @@
 
 namespace App {
 
-/// The places that a search of a game has found: files, and below each its lines.
+/// The results of a search in a game: files, and below each file its lines.
 ///
-/// With check boxes places can be left out of what is replaced. A file that is found anew keeps
-/// the rows, and their check boxes, of places that are the same but for their line.
+/// Check boxes exclude places from replacing. When a file is searched again, places that are the
+/// same except for their line number keep their rows and check boxes.
 class HitModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -24,10 +24,10 @@ public:
 
     void clear();
 
-    /// Names are relative to the folder.
+    /// The folder to which names are relative.
     void setFolder(const QString& folder) { m_folder = QDir(folder); }
 
-    /// What files have now: nothing for one that has no place any more.
+    /// Updates the results of some files; a file without results is removed.
     void take(const QVector<Operations::FileHits>& found);
 
     /// Shows check boxes.
@@ -36,13 +36,13 @@ public:
     int fileCount() const { return int(m_files.size()); }
     int hitCount() const { return m_hitCount; }
 
-    /// The place of a row; null for a file.
+    /// The place of a row; null for a file row.
     const Operations::FindHit* hitAt(const QModelIndex& index) const;
 
-    /// The path of a row, or of the file that it stands below; empty for none.
+    /// The path of a row, or of its parent file; empty for none.
     QString pathAt(const QModelIndex& index) const;
 
-    /// The places that are ticked, of files that have any.
+    /// The ticked places, of files that have any.
     QVector<Operations::FileHits> chosen() const;
     int chosenCount() const;
 
@@ -66,7 +66,7 @@ private:
     void replace(int row, const Operations::FileHits& found);
 
     QDir m_folder;
-    Files m_files;  // by path; none is without hits
+    Files m_files;  // sorted by path; each has hits
     int m_hitCount = 0;
     bool m_isCheckable = false;
 };

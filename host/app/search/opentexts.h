@@ -18,8 +18,8 @@ namespace App {
 
 class GameSession;
 
-/// Hands texts that are not saved to a `GameTexts`, a moment after each edit, so that they are
-/// searched as they are on screen. Of several documents of a file the one with changes counts.
+/// Passes unsaved texts to a `GameTexts`, shortly after each edit, so that the search sees what is
+/// on screen. If several documents show the same file, the modified one counts.
 class OpenTexts : public QObject
 {
     Q_OBJECT
@@ -28,10 +28,10 @@ public:
     /// Both outlive it.
     OpenTexts(const GameSession* session, Operations::GameTexts* texts, QObject* parent);
 
-    /// Documents have come, or have other names.
+    /// Call after documents were opened or renamed.
     void watchAll();
 
-    /// Hands over now what would be soon.
+    /// Passes pending texts on now.
     void handOver();
 
 private:
@@ -42,7 +42,7 @@ private:
     const GameSession* m_session;
     Operations::GameTexts* m_texts;
     QTimer* m_timer;
-    QHash<const QObject*, QString> m_watched;  // the path of each
+    QHash<const QObject*, QString> m_watched;  // path of each
     QSet<QString> m_changed;
 };
 

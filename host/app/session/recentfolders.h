@@ -4,16 +4,16 @@
 
 namespace App {
 
-/// The game folders that were opened last, the latest first, in the settings.
+/// The recently opened game folders, latest first, stored in the settings.
 class RecentFolders
 {
 public:
     static constexpr int MaxCount = 10;
 
-    /// Those that are still there.
+    /// Only those that still exist.
     static QStringList list();
 
-    /// Puts a folder in front.
+    /// Adds a folder at the front.
     static void add(const QString& folder);
     static void clear();
 };

@@ -9,23 +9,21 @@ class ProjectFile;
 
 namespace App {
 
-/// Saves texts, sprites and sounds, one after the other, with what has not gone into them yet; a
-/// text without a name is asked for it, and the person is asked about a file that another program
-/// has changed; failures are told at the end, all at once. Of several objects of one file with
-/// different contents the person chooses one, and the others read it. True if all is done.
+/// Saves texts, sprites and sounds one after the other, including edits that are still in their
+/// editors. Asks for a name for a text without one, and asks what to do with a file that another
+/// program changed. Reports all failures together at the end. If several objects of one file
+/// differ, the user chooses one and the others reload it. True if everything was saved.
 bool saveFiles(QList<Zorv::ProjectFile*> files);
 
-/// Asks what becomes of unsaved files, and of those that are no longer on the disk, before they are
-/// closed: saved, discarded, or neither. True if they can be closed. Nothing is asked for an empty
-/// list.
+/// Asks before closing what to do with unsaved files and with files that no longer exist on disk:
+/// save, discard or cancel. True if they can be closed. Does not ask if the list is empty.
 bool askAboutUnsaved(const QList<Zorv::ProjectFile*>& files);
 
-/// Reads a file again and drops its changes, and what has not gone into it yet. False if it cannot
-/// be read; all stays then.
+/// Reloads a file and drops its changes, including edits that are still in its editor. False if it
+/// cannot be read; nothing changes then.
 bool readAgain(Zorv::ProjectFile* file);
 
-/// A file that several of the objects have, with different contents; empty if
-/// there is none.
+/// A file for which several of the objects have different contents; empty if there is none.
 QString fileWithTwoContents(const QList<Zorv::ProjectFile*>& files);
 
 }  // namespace App

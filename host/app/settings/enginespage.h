@@ -16,7 +16,7 @@ namespace App {
 
 class PathField;
 
-/// The page of the engines in which a project can be run.
+/// The settings page of the engines that can run a project.
 class EnginesPage : public SettingsPage
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     void read() override;
     bool write(QString* error) override;
 
-    /// None.
+    /// Does nothing: there are no default engines.
     void restoreDefaults() override;
 
 private:

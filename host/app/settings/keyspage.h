@@ -14,13 +14,13 @@ namespace App {
 class ActionRegistry;
 class KeyTable;
 
-/// The page of the keys of all actions.
+/// The settings page of the shortcuts of all actions.
 class KeysPage : public SettingsPage
 {
     Q_OBJECT
 
 public:
-    /// The registry is not owned and must outlive the page.
+    /// Does not own the registry, which must outlive the page.
     explicit KeysPage(ActionRegistry* registry, QWidget* parent = nullptr);
 
     QString title() const override;

@@ -9,8 +9,8 @@ namespace App {
 
 class ActionRegistry;
 
-/// All actions with their keys, as the person is about to change them: a row each, with the
-/// columns action, keys, clashes.
+/// All actions with their shortcuts while the user edits them: one row each, with the columns
+/// action, shortcut, clashes.
 class KeyTable : public QAbstractTableModel
 {
     Q_OBJECT
@@ -18,25 +18,25 @@ class KeyTable : public QAbstractTableModel
 public:
     enum Column { ActionColumn, KeyColumn, ClashColumn, ColumnCount };
 
-    /// The registry is not owned and must outlive the object.
+    /// Does not own the registry, which must outlive the object.
     explicit KeyTable(ActionRegistry* registry, QObject* parent = nullptr);
 
-    /// Forgets the changes and takes the actions that there are.
+    /// Discards the changes and reads the current actions.
     void read();
 
-    /// Gives the registry what was changed.
+    /// Writes the changes to the registry.
     void write();
 
-    /// The name of the action of a row.
+    /// The action name of a row.
     QString name(int row) const;
 
-    /// The first key of a row; empty for none.
+    /// The first shortcut of a row; empty for none.
     QKeySequence key(int row) const;
 
-    /// Gives a row one key in place of what it has; an empty one for none.
+    /// Replaces the shortcuts of a row by one; empty for none.
     void setKey(int row, const QKeySequence& key);
 
-    /// Back to the default keys.
+    /// Restores the default shortcuts.
     void resetKey(int row);
     void resetAll();
 
@@ -48,11 +48,11 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// Gives header and rows their texts in the present language.
+    /// Sets the texts of header and rows in the current language.
     void retranslate();
 
 signals:
-    /// The person has changed keys.
+    /// The user changed shortcuts.
     void edited();
 
 private:
@@ -61,7 +61,7 @@ private:
         QString name;
         QString text;
         QList<QKeySequence> keys;
-        bool isChosen;  ///< by the person; the keys are not the default ones
+        bool isChosen;  ///< by the user; these are not the defaults
         QStringList clashes;
     };
 

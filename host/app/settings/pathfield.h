@@ -7,8 +7,7 @@ class QToolButton;
 
 namespace App {
 
-/// A line for a path of a file or a folder, with a button that lets the person choose it
-/// through `Zorv::Dialogs`.
+/// A field for the path of a file or folder, with a button to choose it through `Zorv::Dialogs`.
 class PathField : public QWidget
 {
     Q_OBJECT
@@ -18,12 +17,12 @@ public:
 
     explicit PathField(Kind kind, QWidget* parent = nullptr);
 
-    /// With "/" between its parts.
+    /// With "/" as separator.
     QString path() const;
     void setPath(const QString& path);
 
 signals:
-    /// The person has changed the path.
+    /// The user changed the path.
     void edited();
 
 private:

@@ -11,26 +11,27 @@ namespace App {
 
 struct SettingRow;
 
-/// The widget in which one setting is changed.
+/// The widget for editing one setting.
 class SettingField : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A field for a row of the table, which lives on. The widget is a child of `parent`.
+    /// Creates the field for a row of the table, which must stay valid. The widget is a child of
+    /// `parent`.
     static std::unique_ptr<SettingField> make(const SettingRow& row, QWidget* parent);
 
     virtual QWidget* widget() const = 0;
 
-    /// What the widget shows, as the setting stores it.
+    /// The value shown, in the form that the setting stores.
     virtual QVariant value() const = 0;
     virtual void setValue(const QVariant& value) = 0;
 
-    /// Gives the widget its texts in the present language.
+    /// Sets the texts of the widget in the current language.
     virtual void retranslate();
 
 signals:
-    /// The person has changed the value.
+    /// The user changed the value.
     void edited();
 
 protected:

@@ -13,20 +13,20 @@ namespace App {
 class ActionRegistry;
 class SettingsPage;
 
-/// The dialog of all settings: pages of the table, engines, keys. Nothing counts before it is
+/// The dialog of all settings: table pages, engines, shortcuts. Changes take effect when they are
 /// applied.
 class SettingsDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// The registry is not owned and must outlive the dialog.
+    /// Does not own the registry, which must outlive the dialog.
     explicit SettingsDialog(ActionRegistry* registry, QWidget* parent = nullptr);
 
     void accept() override;
 
 signals:
-    /// Settings were stored, and are to be taken.
+    /// Settings were stored and must be read again.
     void applied();
 
 private:

@@ -4,7 +4,7 @@
 
 namespace App {
 
-/// A page of the settings dialog. What the person changes in it counts only when it is written.
+/// A page of the settings dialog. Changes take effect only when they are written.
 class SettingsPage : public QWidget
 {
     Q_OBJECT
@@ -12,21 +12,21 @@ class SettingsPage : public QWidget
 public:
     using QWidget::QWidget;
 
-    /// In the present language.
+    /// In the current language.
     virtual QString title() const = 0;
 
-    /// Shows what is stored.
+    /// Shows the stored values.
     virtual void read() = 0;
 
-    /// Stores what is shown. False, with `error` in words for the person, if that cannot be done;
-    /// then nothing is stored.
+    /// Stores the values shown. False, with `error` as a message for the user, on failure; nothing
+    /// is stored then.
     virtual bool write(QString* error) = 0;
 
     /// Shows the defaults.
     virtual void restoreDefaults() = 0;
 
 signals:
-    /// The person has changed something.
+    /// The user changed something.
     void edited();
 };
 

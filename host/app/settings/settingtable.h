@@ -6,24 +6,24 @@
 
 namespace App {
 
-/// A value that a setting can be chosen from.
+/// A value offered for a setting.
 struct SettingChoice
 {
     QVariant value;
-    QString label;  ///< in the present language
+    QString label;  ///< in the current language
 };
 
-/// One setting that the person can change: a row of the table. Its default is
+/// One setting that the user can change: a row of the table. Its default is
 /// `Family::HostInterface::defaultOption()`.
 struct SettingRow
 {
     enum Kind {
         Switch,      ///< on or off
         Number,      ///< from `minimum` to `maximum`
-        Share,       ///< from 0 to 1, shown as percents from `minimum` to `maximum`
+        Share,       ///< from 0 to 1, shown in percent from `minimum` to `maximum`
         Choice,      ///< one of `choices()`
-        Colour,      ///< none for that of the theme; without `lowest` there always is one
-        FontFamily,  ///< empty for the desktop's
+        Colour,      ///< none: the theme's colour; without `lowest` there is always a colour
+        FontFamily,  ///< empty: the desktop's font
         Folder,      ///< empty for none
         Picture      ///< a file; empty for none
     };
@@ -35,23 +35,23 @@ struct SettingRow
     const char* toolTip;
     int minimum = 0;
     int maximum = 0;
-    const char* lowest = nullptr;  ///< what `minimum`, or no value, means in words; or null
-    const char* unit = nullptr;    ///< behind a number, or null
+    const char* lowest = nullptr;  ///< text shown for `minimum` or for no value; or null
+    const char* unit = nullptr;    ///< shown after a number, or null
     QVector<SettingChoice> (*choices)() = nullptr;
 };
 
-/// One page of settings of the table.
+/// One page of settings.
 struct SettingPageRow
 {
     const char* name;
     const char* title;
 };
 
-/// In the order in which they are shown.
+/// In display order.
 const QVector<SettingPageRow>& settingPageTable();
 const QVector<SettingRow>& settingTable();
 
-/// A text of the tables in the present language; empty for null.
+/// A text of the tables in the current language; empty for null.
 QString settingText(const char* source);
 
 }  // namespace App

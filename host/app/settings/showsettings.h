@@ -8,8 +8,8 @@ namespace App {
 
 class ActionRegistry;
 
-/// Opens the dialog of all settings on a window, or brings it forward. `applied` is called when
-/// settings were stored, and are to be taken.
+/// Opens the settings dialog on a window, or brings it to the front. `applied` is called when
+/// settings were stored and must be read again.
 void showSettings(ActionRegistry* registry, QWidget* window, const std::function<void()>& applied);
 
 }  // namespace App

@@ -13,13 +13,13 @@ class SettingField;
 struct SettingPageRow;
 struct SettingRow;
 
-/// The page of the settings of the table that name it.
+/// A page with the settings of the table that name it.
 class TablePage : public SettingsPage
 {
     Q_OBJECT
 
 public:
-    /// The row lives on.
+    /// The row must stay valid.
     explicit TablePage(const SettingPageRow& page, QWidget* parent = nullptr);
     ~TablePage() override;
 
@@ -35,7 +35,7 @@ private:
     struct Line
     {
         const SettingRow& row;
-        QLabel* label;  ///< null where the widget shows the label
+        QLabel* label;  ///< null if the widget shows the label
         std::unique_ptr<SettingField> field;
     };
 

@@ -10,8 +10,8 @@ enum class SoundExtent;
 
 namespace App {
 
-/// The library's editor of sounds for those of the family: who plays a sound is asked about before
-/// it goes, and of files that were cut short all that is there can be taken.
+/// The library's sound editor for this engine family. Before a sound is removed, it asks if
+/// something plays it. Truncated files can be imported as far as they go.
 class FamilySoundEditor : public Zorv::SoundEditor
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     void soundChanged(Zorv::Sound* sound) override;
 
 signals:
-    /// Another sound is shown, or the same one anew; -1 for none.
+    /// Another sound is shown, or the same one again; -1 for none.
     void soundShown(int row);
 
 protected:

@@ -15,14 +15,14 @@ class FamilySoundEditor;
 class SoundPanel;
 struct WindowServices;
 
-/// Sounds in the window: the library's editor, with the waveform in the middle, and the panel of
-/// the project in front. The tools are the library's.
+/// Sounds in the window: the library's editor with the waveform in the middle, and the sound panel
+/// of the current project. The tools come from the library.
 class Hearing : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Makes the editor, as a child of the window.
+    /// Creates the editor as a child of the window.
     explicit Hearing(const WindowServices& services);
     ~Hearing() override;
 
@@ -31,10 +31,10 @@ public:
     /// The window places it.
     SoundPanel* panel() const { return m_panel; }
 
-    /// Brings a sound of the project in front into the middle.
+    /// Shows a sound of the current project in the middle.
     void showSound(int row);
 
-    /// How the editor does the commands of the window.
+    /// How the editor runs the window's commands.
     CommandRows commands();
 
     void actionsMade() override;

@@ -19,8 +19,8 @@ class RowList;
 
 namespace App {
 
-/// The sounds of the project in front: a list, what the selected one is like, and the moves that
-/// play it.
+/// The sounds of the current project: a list, information about the selected sound, and the moves
+/// that play it.
 class SoundPanel : public QWidget
 {
     Q_OBJECT
@@ -28,34 +28,34 @@ class SoundPanel : public QWidget
 public:
     explicit SoundPanel(QWidget* parent = nullptr);
 
-    /// Null for none. A collection that dies is let go of.
+    /// Null for none. The panel releases a collection when it is destroyed.
     void setSounds(Family::SoundFile* sounds);
     Family::SoundFile* sounds() const;
 
-    /// The project whose moves are looked through; null for none, before it dies.
+    /// The project whose moves are searched. Set null before the project is destroyed.
     void setProject(const Family::FamilyProject* project);
 
     Zorv::RowList* list() const { return m_list; }
     int currentRow() const;
 
-    /// The selected rows in their order.
+    /// The selected rows, in order.
     QVector<int> selectedRows() const;
     void setCurrentRow(int row);
 
-    /// The moves that play the sound, a row for each line.
+    /// The moves that play the sound, one row per line.
     QListWidget* uses() const { return m_uses; }
 
-    /// Looks for them again a moment later.
+    /// Searches for them again after a short delay.
     void updateUsesSoon();
 
 signals:
-    /// The current row, or anything in the collection.
+    /// The current row or the collection changed.
     void changed();
 
-    /// A double click on a sound, or Return.
+    /// Double click on a sound, or Return.
     void soundActivated(int row);
 
-    /// The same on a move that plays it; the place is that of the numbers.
+    /// The same on a move that plays the sound; `place` is the place of the sound's numbers.
     void useActivated(const Family::NamePlace& place);
 
 protected:

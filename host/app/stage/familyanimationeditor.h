@@ -16,10 +16,10 @@ namespace App {
 
 class StageRenderer;
 
-/// The library's editor of animations for the grammar of the family: flip, scale and angle on the
-/// stage, the ranges of the fields, GIF files, and what a new animation is called.
+/// The library's animation editor for the grammar of this engine family: flip, scale and angle on
+/// the stage, field ranges, GIF files, and the names of new animations.
 ///
-/// It comes forward with each text that has animations, unless it is not wanted.
+/// It comes to the front with each text that has animations, unless it is not wanted.
 class FamilyAnimationEditor : public Zorv::AnimationEditor, public TextEditor
 {
     Q_OBJECT
@@ -29,44 +29,44 @@ public:
     FamilyAnimationEditor(Zorv::CodeWorkspace* code, Zorv::GraphicsWorkspace* stage,
                           StageRenderer* renderer, QObject* parent = nullptr);
 
-    /// Whether it comes forward with texts that have animations.
+    /// Whether it comes to the front with texts that have animations.
     bool isWanted() const { return m_isWanted; }
     void setWanted(bool isWanted) { m_isWanted = isWanted; }
 
-    /// What asks before something is removed that is used elsewhere, see `WindowServices`.
+    /// The check before something that is used elsewhere is removed, see `WindowServices`.
     void setRemovalCheck(const RemovalCheck& mayRemove) { m_mayRemove = mayRemove; }
 
     CodeFileEditor* fileEditor() override { return this; }
     bool wants(const Family::FamilyDocument* document) const override;
     void setText(Family::FamilyDocument* document) override;
 
-    /// Brings its action in line with a text whose animations came or went.
+    /// Updates its action after animations were added to the text or removed.
     void updateAction();
 
-    /// The cursor of the text stands still in a line: only then it is followed, for a jump takes it
-    /// through other lines.
+    /// The cursor has come to rest in a line. Only then is it followed: a jump passes through other
+    /// lines first.
     void cursorRests(int line) { AnimationEditor::currLineChanged(line); }
     void currLineChanged(int) override {}
 
-    /// Null for none. Good until the next edit.
+    /// Null for none. Valid until the next edit.
     const Family::FrameNode* frame() const;
 
-    /// Null if the frame or its sprite is absent.
+    /// Null if the frame or its sprite does not exist.
     Family::FamilySprite* sprite() const;
     Family::SpriteCollection* spriteCollection() const;
 
-    /// How that sprite stands, and the frame's offset also without one.
+    /// The pose of that sprite; contains the frame's offset even without a sprite.
     Family::FramePose pose() const;
 
-    /// Those of texts as well: the text stands on the same page.
+    /// Includes the areas of texts: the text is on the same page.
     QStringList areas() const override;
 
-    /// The window tells which text is in front.
+    /// Does nothing: the window sets the text in front.
     void setProject(Zorv::Project*) override {}
 
 protected:
-    /// The sprite hangs on the secondary cross, which stands at the frame's offset: so it is
-    /// turned and mirrored about its axis.
+    /// The sprite is attached to the secondary cross at the frame's offset, so it is rotated and
+    /// mirrored around its axis.
     QVariant spriteProperty(Zorv::FrameCode* frame, Zorv::Sprite* sprite,
                             unsigned key) const override;
     void frameChanged(Zorv::FrameCode* frame) override;
@@ -79,7 +79,8 @@ protected:
     Zorv::AssetResult importAssets(const Zorv::AssetRequest& request) override;
     bool mayDeleteAnimation() override;
 
-    /// By the rules of the engine, if a move shows the animation: it ends with a frame that stays.
+    /// Follows the rules of the engine: an animation that a move shows ends with a frame that
+    /// stays.
     Zorv::FrameFacts frameFacts(const Zorv::AnimationCode* animation) const override;
     bool newAnimationData(QString& identifier, QString& text, int& position) override;
 
@@ -88,7 +89,7 @@ private:
     bool m_isWanted = true;
 };
 
-/// True for a text that is there for animations, or has one.
+/// True for a text that is meant for animations or contains one.
 bool hasAnimations(const Family::FamilyDocument* document);
 
 }  // namespace App

@@ -13,19 +13,20 @@ class FamilyAnimations;
 
 namespace App {
 
-/// Asks for the identifier of a new animation and for its place among the others. What cannot name
-/// one is told while it is typed.
+/// Asks for the identifier of a new animation and its position in the list. Reports an invalid
+/// identifier while the user types.
 class NewAnimationDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Offers the next free number and a place. The list outlives the dialog.
+    /// Suggests the next free number and a position. The list outlives the dialog.
     NewAnimationDialog(const Family::FamilyAnimations* list, int position, QWidget* parent);
 
     QString identifier() const;
 
-    /// The animation that it is to stand in front of; their number for the end.
+    /// The index of the animation before which it is inserted; the number of animations means the
+    /// end.
     int position() const;
 
 private:

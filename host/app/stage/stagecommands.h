@@ -23,15 +23,15 @@ class StageSight;
 class StageView;
 struct WindowServices;
 
-/// The editor of animations in the window: the stage above the text, and what the window alone
-/// can do with it. Its tools are the library's.
+/// The animation editor in the window: the stage above the text, and commands that only the window
+/// can provide. The tools come from the library.
 class StageCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Makes the stage, as a child of the window, above the text that is in `page`. `bar` and
-    /// `onion` are the pages of those names (`ControlPlacer::page()`).
+    /// Creates the stage as a child of the window, above the text in `page`. `bar` and `onion` are
+    /// the pages of those names (`ControlPlacer::page()`).
     StageCommands(const WindowServices& services, QSplitter* page, Zorv::CodeWorkspace* code,
                   QToolBar* bar, QWidget* onion);
     ~StageCommands() override;
@@ -41,7 +41,7 @@ public:
     StageRenderer* renderer() const { return m_renderer; }
     StageView* view() const { return m_view; }
 
-    /// An animation by its place in the list, while the editor is in front and nothing plays.
+    /// Shows an animation by its index, if the editor is in front and nothing plays.
     void showAnimation(int index);
 
     QVector<ActionRow> actions() override;
@@ -53,11 +53,11 @@ public:
     /// Shows the view while its editor is in front.
     void updateState() override;
 
-    /// Keeps the place of the stage for the next start.
+    /// Stores the position of the stage for the next start.
     void keepPlace() const;
 
 signals:
-    /// The person has picked a colour of the palette of a sprite.
+    /// The user picked a colour from a sprite's palette.
     void colourPicked(int group, int number, int colour);
 
 protected:

@@ -4,10 +4,10 @@
 
 namespace App {
 
-/// The stage of the window, which has keys of its own.
+/// The stage of the window with its own keys.
 ///
-/// Keys: + - 0 zoom, Space plays and stops, Page up and Page down go from frame to frame, Escape
-/// goes back to positioning, and from there to the text.
+/// Keys: + - 0 zoom, Space starts and stops playing, Page Up and Page Down step through frames,
+/// Escape returns to positioning, and from there to the text.
 class StageRenderer : public Zorv::GraphicsRenderer
 {
     Q_OBJECT
@@ -21,15 +21,15 @@ public:
                        Qt::KeyboardModifiers modifiers) override;
     void mouseMoved(QPoint pos, Qt::KeyboardModifiers modifiers) override;
 
-    /// The place under the pointer stays there, or what the settings say.
+    /// Zooms. The point under the pointer stays fixed, or the one that the settings choose.
     void mouseWheel(int delta) override;
 
-    /// Where the settings say so, the place in the middle of the stage stays there.
+    /// If the settings say so, the middle of the stage stays fixed.
     void addZoom() override;
     void subZoom() override;
     void zoomActual() override;
 
-    /// Where the pointer was last, in pixels of the widget.
+    /// The last pointer position, in pixels of the widget.
     QPoint pointer() const { return m_pointer; }
     void setPointer(QPoint place) { m_pointer = place; }
 
@@ -37,19 +37,20 @@ signals:
     void playKeyPressed();
     void frameKeyPressed(int step);
 
-    /// `isFree` if there was no drawing or capturing to be left.
+    /// `isFree`: there was no drawing or colour picking to leave.
     void escapePressed(bool isFree);
 
 protected:
-    /// A hair away, as frames are composed: else what is between two pixels of a picture would
-    /// show one or the other by chance, and pictures that are zoomed would shiver in a drag.
+    /// Offset by a fraction of a pixel, like composed frames. At a texel boundary the choice
+    /// between two pixels would be arbitrary, and a dragged picture flickers when zoomed.
     QMatrix4x4 spriteMatrix(QPoint base, QPoint offset, QSize size, float rotation) const override;
 
 private:
     bool takeKey(int key);
     void turnAboutPointer(int delta);
 
-    /// What the wheel holds under the pointer: as long as both stand still, in parts of a pixel.
+    /// The point that the wheel keeps under the pointer, with sub-pixel precision. Valid while
+    /// pointer and origin do not move.
     struct Held
     {
         QPoint pointer;
@@ -59,8 +60,8 @@ private:
 
     QPoint m_pointer;
     Held m_held;
-    int m_turned = 0;       // of the wheel, less than a step
-    bool m_isHeld = false;  // by the left button
+    int m_turned = 0;       // wheel movement of less than one step
+    bool m_isHeld = false;  // left button is down
 };
 
 }  // namespace App

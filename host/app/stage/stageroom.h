@@ -12,27 +12,27 @@ namespace App {
 
 class StageView;
 
-/// How high the stage is above the text: as the person has left it, and one line while it is empty.
-/// The share of both is kept in the settings.
+/// Controls the height of the stage above the text: as the user left it, or one line while it is
+/// empty. The ratio of the two is stored in the settings.
 class StageRoom : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The stage is, or will be, in the splitter. All outlive this.
+    /// The stage is, or will be, in the splitter. All of them outlive this object.
     StageRoom(QSplitter* splitter, StageView* view, Zorv::CodeEditor* editor, QObject* parent);
 
-    /// Gives the view the height that it needs, after it was shown, hidden, emptied or filled.
+    /// Updates the height of the view after it was shown, hidden, emptied or filled.
     void update();
 
-    /// True from `update()` until the view has its height, which `applied()` tells.
+    /// True from `update()` until the view has its height; then `applied()` is sent.
     bool isPending() const { return m_isNeeded; }
 
-    /// Keeps the share in the settings.
+    /// Stores the ratio in the settings.
     void keep();
 
 signals:
-    /// The stage has got another height that the person has not chosen by hand.
+    /// The height of the stage changed, but not by the user's hand.
     void applied();
 
 protected:
@@ -46,9 +46,9 @@ private:
     QSplitter* m_splitter;
     StageView* m_view;
     Zorv::CodeEditor* m_editor;
-    double m_share;           // of the height of the splitter; 0 for the usual one
-    bool m_isFull = false;    // shown, with a stage in it
-    bool m_isNeeded = false;  // the height is to be set when there is room
+    double m_share;           // of the splitter's height; 0: the usual one
+    bool m_isFull = false;    // shown and not empty
+    bool m_isNeeded = false;  // height must be set when there is room
 };
 
 }  // namespace App

@@ -14,27 +14,28 @@ class FamilyAnimationEditor;
 class StageRenderer;
 class StageRoom;
 
-/// Brings the frames that the person goes to into sight: sprite and all boxes. Who has chosen a
-/// detail keeps it from frame to frame of the animation, and nothing moves while it plays.
+/// Scrolls a frame into view when the user goes to it: sprite and all boxes. If the user has chosen
+/// to look at a detail, the view does not move while stepping through the animation. It never moves
+/// while the animation plays.
 class StageSight : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All outlive it.
+    /// All of them outlive this object.
     StageSight(FamilyAnimationEditor* editor, StageRenderer* stage, const StageRoom* room,
                QObject* parent);
 
-    /// The area of a frame at a zoom, from the origin, in pixels of the stage; empty for one that
-    /// shows nothing. `sprites` may be null.
+    /// The area of a frame at a zoom level, relative to the origin, in pixels of the stage; empty
+    /// if the frame shows nothing. `sprites` may be null.
     static QRect areaOf(const Family::FrameNode& frame, const Family::SpriteCollection* sprites,
                         float zoom);
 
-    /// Brings the frame into sight when the stage has its room.
+    /// Scrolls the frame into view once the stage has its size.
     void bringSoon();
 
-    /// Leaves the view of a text as it is until the person does something: what was open at the
-    /// last end comes back in several turns of the event loop.
+    /// Keeps the view of a text unchanged until the user does something: the work of the last
+    /// session is restored over several turns of the event loop.
     void keepPlaceOf(const QString& file);
 
 protected:
@@ -50,7 +51,7 @@ private:
     FamilyAnimationEditor* m_editor;
     StageRenderer* m_stage;
     const StageRoom* m_room;
-    int m_animation = -1;  // as they were shown last
+    int m_animation = -1;  // last shown
     int m_frame = -1;
     bool m_wasWhole = true;
     bool m_isPending = false;

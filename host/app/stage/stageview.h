@@ -14,48 +14,50 @@ namespace App {
 
 class StageRenderer;
 
-/// The library's stage and time line with a tool bar above them, and a line of text in place of
-/// all three while there is nothing to show.
+/// The library's stage and time line with a tool bar above; replaced by one line of text while
+/// there is nothing to show.
 class StageView : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Takes the widget of the workspace, and the bar. The others outlive it.
+    /// Takes ownership of the workspace's widget and of the bar. The others outlive the view.
     StageView(Zorv::GraphicsWorkspace* workspace, StageRenderer* renderer, QToolBar* bar);
 
     QToolBar* bar() const { return m_bar; }
 
-    /// What takes the keyboard: the stage, or the time line without one.
+    /// The widget that gets the focus: the stage, or the time line without a stage.
     QWidget* focusTarget() const;
 
-    /// Shows in place of the stage what the person can do; an empty text shows the stage.
+    /// Shows a hint about what the user can do, instead of the stage; an empty text shows the
+    /// stage.
     void setHint(const QString& text);
 
-    /// With nothing to show there is one line with the hint, and nothing else.
+    /// With nothing to show, there is only one line with the hint.
     void setEmpty(bool isEmpty);
     bool isEmpty() const { return m_isEmpty; }
 
-    /// What is wrong with what is shown; stands in the tool bar.
+    /// A fault of what is shown; displayed in the tool bar.
     void setFault(const QString& text);
 
     QSize sizeHint() const override;
 
-    /// The stage alone: the bar and the time line come where there is room.
+    /// The stage alone: tool bar and time line are shown only if there is room.
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The stage has its first size.
+    /// The stage got its first size.
     void placed();
 
-    /// The pointer has left the stage.
+    /// The pointer left the stage.
     void pointerLeft();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
-    /// Keys of the stage are its own: Escape does not lead from a drawing straight into the text.
+    /// The stage handles its keys itself, so that Escape does not leave a drawing and go straight
+    /// to the text.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -71,9 +73,9 @@ private:
     QLabel* m_line;
     QLabel* m_fault;
     bool m_isEmpty = false;
-    QSize m_size;           // of the stage; empty before it has one
-    QPoint m_origin;        // as it was put here last
-    QPointF m_originShare;  // in shares of the size
+    QSize m_size;           // of the stage; empty before it has a size
+    QPoint m_origin;        // as last set here
+    QPointF m_originShare;  // as a fraction of the size
 };
 
 }  // namespace App

@@ -6,7 +6,7 @@ class QTextBrowser;
 
 namespace App {
 
-/// A page of the documentation, to be read beside the window while one works in it.
+/// A page of the documentation, to read beside the window while working in it.
 class LessonView : public QDialog
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class LessonView : public QDialog
 public:
     explicit LessonView(QWidget* parent);
 
-    /// Shows a file of Markdown, with the pictures that it names.
+    /// Shows a Markdown file with its pictures.
     void showPage(const QString& fileName);
 
 private:

@@ -10,18 +10,18 @@ namespace App {
 class LessonView;
 struct WindowServices;
 
-/// What a person begins with who has nothing yet: the sample game and the first lesson.
+/// First steps for a new user: the sample game and the first lesson.
 class StartCommands : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window.
+    /// A child of the window.
     explicit StartCommands(const WindowServices& services);
 
     QVector<ActionRow> actions() override;
 
-    /// Opens the person's copy of the sample game, which is made if it is not there.
+    /// Opens the user's copy of the sample game, creating it if it does not exist.
     void openSample();
 
     /// Shows the lesson beside the window.

@@ -12,14 +12,14 @@ namespace App {
 
 struct WindowServices;
 
-/// What stands in the middle of the window while no game is open: what to begin with, and the games
-/// that were opened last. Tab and the arrow keys lead from one button to the next.
+/// Shown in the middle of the window while no game is open: first steps, and recently opened games.
+/// Tab and the arrow keys move between the buttons.
 class StartPage : public QWidget, public Part
 {
     Q_OBJECT
 
 public:
-    /// Its buttons trigger actions of the window by their names.
+    /// The buttons trigger actions of the window by name.
     explicit StartPage(const WindowServices& services);
 
     void retranslate() override;

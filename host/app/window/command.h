@@ -7,7 +7,7 @@
 
 namespace App {
 
-/// What goes to the editor or panel that has the keyboard.
+/// A command for the editor or panel that has the keyboard focus.
 enum class Command {
     Undo,
     Redo,
@@ -25,13 +25,13 @@ enum class Command {
     ZoomActual
 };
 
-/// How a panel or an editor does one of them.
+/// How a panel or an editor runs one command.
 struct CommandRow
 {
     Command command;
     std::function<void()> run;
-    std::function<bool()> isAllowed = {};  ///< none for always
-    std::function<QString()> title = {};   ///< of the step, for undo and redo; empty for none
+    std::function<bool()> isAllowed = {};  ///< no function: always allowed
+    std::function<QString()> title = {};   ///< name of the step to undo or redo; no function: none
 };
 
 using CommandRows = QVector<CommandRow>;

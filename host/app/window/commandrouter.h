@@ -10,17 +10,17 @@ namespace App {
 
 struct WindowServices;
 
-/// Leads undo, clipboard, save, find and zoom to what has the keyboard: a field that is written
-/// in, a panel with its rows (`PanelPlace::commands`), else the editor in front.
+/// Routes undo, clipboard, save, find and zoom to whatever has the keyboard focus: a text field, a
+/// panel with command rows (`PanelPlace::commands`), or else the editor in front.
 ///
-/// What concerns a selection never goes from a panel to the editor: the person has something else
-/// in mind than the selection there. The rest does, from a panel without a way of its own.
+/// Selection commands never pass from a panel to the editor: the user is not thinking of the
+/// selection there. The other commands do, if the panel has no row for them.
 class CommandRouter : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the window.
+    /// A child of the window.
     explicit CommandRouter(const WindowServices& services);
 
     QVector<ActionRow> actions() override;
@@ -35,7 +35,7 @@ private:
     void showTitle(const char* action, Command command);
 
     const WindowServices& m_services;
-    QPointer<QWidget> m_focus;  ///< the last in the window; dialogs and menus do not count
+    QPointer<QWidget> m_focus;  ///< last focused widget of the window, except in dialogs and menus
 };
 
 }  // namespace App

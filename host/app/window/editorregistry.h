@@ -24,84 +24,84 @@ namespace App {
 
 class ControlPlacer;
 
-/// What stands in the middle of the window while an editor is in front.
+/// What the middle of the window shows while an editor is in front.
 struct EditorPlace
 {
-    QWidget* page = nullptr;    ///< null for the widget of its workspace
-    CommandRows commands = {};  ///< what the host does in place of the editor's own operations
-    QWidget* field = nullptr;   ///< takes the keyboard; null for the widget of its workspace
-    Zorv::Workspace* second = nullptr;  ///< another workspace that stands on the page
+    QWidget* page = nullptr;    ///< null: the widget of its workspace
+    CommandRows commands = {};  ///< commands that the host handles instead of the editor
+    QWidget* field = nullptr;   ///< gets the keyboard focus; null: the widget of its workspace
+    Zorv::Workspace* second = nullptr;  ///< another workspace on the same page
 };
 
 /// The editors of the window with their workspaces, and the panels at its sides.
 ///
-/// An editor comes into the window by one line:
+/// One line registers an editor:
 ///
 ///     editors->add(new SpriteEditor(palettes), Zorv::FileID::Sprites);
 ///
-/// From then on it is told of projects, settings and language, found by its name, by that of its
-/// area and by its files, and it comes to the front by its action or by the host's
-/// `activateEditor()`. Its workspace stands in the middle of the window while it is in front.
-/// None of them is owned; they outlive the registry or are taken out by their end.
+/// The registry then notifies it of projects, settings and language changes. It can be found by its
+/// name, its area or its files. Its action or the host's `activateEditor()` brings it to the front,
+/// and its workspace then fills the middle of the window. The registry owns none of them: they
+/// outlive it, or leave it when they are destroyed.
 class EditorRegistry : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Workspaces get pages of `pages`, whose first one is shown while there is no editor in
-    /// front. Panels with a widget of their own get a place by `controls`. Both outlive it.
+    /// Workspaces become pages of `pages`; its first page is shown while no editor is in front.
+    /// `controls` gives panels with a widget of their own a place. Both outlive the registry.
     EditorRegistry(QStackedWidget* pages, ControlPlacer* controls, QObject* parent);
     ~EditorRegistry() override;
 
-    /// Takes an editor in that is in charge of some kinds of files. The first one is that which
-    /// comes back when another has nothing to work on any more.
+    /// Registers an editor for some kinds of files. The first one registered is the fallback when
+    /// another editor has nothing left to work on.
     void add(Zorv::Editor* editor, Zorv::FileID files, const EditorPlace& place = {});
 
-    /// Takes a panel in, behind the others.
+    /// Adds a panel after the others.
     void addPanel(Zorv::ExtraEditor* panel);
 
     /// The editor in front, or null.
     Zorv::Editor* current() const { return m_current; }
 
-    /// By the name of an editor, that of an area it applies in, or that of tools that work in
-    /// its area: "spr", "sprites" and "pal" are one. Null if there is none.
+    /// Finds an editor by its own name, by an area where it applies, or by the prefix of the tools
+    /// in its area: "spr", "sprites" and "pal" give the same editor. Null if there is none.
     Zorv::Editor* byName(const QString& name) const;
 
-    /// The editor in charge of a file: the one in front if it is, else the one that came first.
-    /// Null if there is none.
+    /// The editor for a file: the one in front if it handles the file, else the first one
+    /// registered. Null if there is none.
     Zorv::Editor* forFile(Zorv::FileID id) const;
 
-    /// In the order in which they came; null behind the last.
+    /// In the order of registration; null after the last.
     Zorv::ExtraEditor* panel(int index) const;
 
-    /// Brings an editor to the front. Nothing for one that is not here, or whose action is
-    /// disabled or hidden: it has nothing to work on.
+    /// Brings an editor to the front. Does nothing if it is not registered, or if its action is
+    /// disabled or hidden: it has nothing to work on then.
     void activate(Zorv::Editor* editor);
 
-    /// Puts a workspace into the middle, of whatever editor.
+    /// Shows a workspace in the middle, whichever editor it belongs to.
     void showWorkspace(Zorv::Workspace* workspace);
 
     /// The workspace in the middle, or null.
     Zorv::Workspace* workspace() const { return m_workspaces.value(0); }
 
-    /// Gives the keyboard to the workspace in the middle; nothing without one. Whoever brings an
-    /// editor to the front does so.
+    /// Focuses the workspace in the middle, if any. Whoever brings an editor to the front calls
+    /// this.
     void focusWorkspace();
 
-    /// What takes the keyboard of the workspace in the middle; null without one.
+    /// The widget that gets the focus in the middle workspace; null without a workspace.
     QWidget* focusTarget() const;
 
-    /// How the editor in front does the commands.
+    /// How the editor in front runs the commands.
     CommandRows commands();
 
-    /// Shows a panel in front of those in its place.
+    /// Shows a panel, raised above the others in its dock.
     void showPanel(Zorv::ExtraEditor* panel);
 
     /// The areas in which the editor in front applies.
     QSet<QString> areas() const;
 
-    /// True if the editors let go of the files of a project, or with null of all. The person has
-    /// been asked about `files` already: what is unsaved of them is discarded.
+    /// True if the editors release the files of a project, or with null all files. The user was
+    /// already asked about `files`: their unsaved changes are discarded.
     bool canDiscard(const Zorv::Project* project, const QList<Zorv::ProjectFile*>& files) const;
 
     void showProject(Family::FamilyProject* project) override;
@@ -111,10 +111,10 @@ public:
     void retranslate() override;
 
 signals:
-    /// Another editor is in front, or none.
+    /// Another editor came to the front, or none is left.
     void currentChanged();
 
-    /// What the host shows about the file of an editor may have changed.
+    /// What the host shows about an editor's file may have changed.
     void modified();
 
 private:
@@ -128,7 +128,7 @@ private:
 
     bool has(const Zorv::Editor* editor) const;
 
-    /// Calls it with each editor, workspace and panel that is there.
+    /// Calls `act` with each registered editor, workspace and panel.
     template <class Act>
     void forAll(Act act);
 
@@ -146,7 +146,7 @@ private:
     const Zorv::Editor* m_activating = nullptr;
     Family::FamilyProject* m_project = nullptr;
     QString m_sought;
-    QVector<const Zorv::ProjectFile*> m_files;  ///< of the project, as the editors were told
+    QVector<const Zorv::ProjectFile*> m_files;  ///< of the project, as last passed to the editors
 };
 
 }  // namespace App

@@ -10,11 +10,11 @@ class ProjectFile;
 
 namespace App {
 
-/// How a field that texts are written in or read in does the commands: a line, a spin box, a text.
+/// The commands of an input field: a line edit, a spin box, a text that can be edited or only read.
 /// Empty for any other widget.
 CommandRows fieldCommands(QWidget* widget);
 
-/// Undo and redo of the file that `file()` gives, which may be null.
+/// Undo and redo for the file that `file()` returns, which may be null.
 CommandRows historyCommands(const std::function<Zorv::ProjectFile*()>& file);
 
 }  // namespace App

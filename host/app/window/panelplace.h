@@ -8,27 +8,26 @@ class QWidget;
 
 namespace App {
 
-/// A place of the window to which a key leads.
+/// A place in the window that the panel-switching key can focus.
 struct PanelPlace
 {
-    QWidget* field;             ///< takes the keyboard; null for a place that is not there
-    const QWidget* area;        ///< with the keyboard in here the person is at this place
-    CommandRows commands = {};  ///< what it does itself
+    QWidget* field;             ///< gets the focus; null: the place does not exist
+    const QWidget* area;        ///< while the focus is in here, the user is at this place
+    CommandRows commands = {};  ///< commands it handles itself
 
     static PanelPlace of(const QWidget* panel, const CommandRows& commands = {})
     {
         return {const_cast<QWidget*>(panel), panel, commands};
     }
 
-    /// A bar, by the first of its fields that can be used.
+    /// A bar: focuses its first usable field.
     static PanelPlace inside(const QWidget* bar);
 };
 
-/// Leads from where the keyboard is to the next of the places that are shown, round and round;
-/// with a step of -1 to the one before.
+/// Moves the focus to the next visible place, cyclically; with a step of -1 to the previous one.
 void goToPanel(const QVector<PanelPlace>& places, int step);
 
-/// Shows the panel that a widget stands in, in front of those in the same place.
+/// Shows the panel that contains a widget, raised above the others in its dock.
 void bringForward(QWidget* content);
 
 }  // namespace App

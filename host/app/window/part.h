@@ -15,60 +15,62 @@ namespace App {
 
 /// A part of the window: a panel, a view, or commands without a widget.
 ///
-/// The window tells all of its parts what they have to show, each in its turn (`PartList`). A part
-/// that has no use for an operation leaves it as it is here. Parts keep none of what they are given
-/// beyond the next call: before a project dies its parts are shown another one, or none.
+/// The window notifies its parts of what to show, one after the other (`PartList`). A part
+/// overrides only what it needs. A part must not keep what it is given beyond the next call: before
+/// a project is destroyed, its parts are given another one, or none.
 class Part
 {
 public:
     virtual ~Part() = default;
 
-    /// What the person can do with the part, asked for once: rows for the menus, the finder and
-    /// the dialog of keys.
+    /// What the user can do with the part: rows for the menus, the action search and the shortcut
+    /// dialog. Called once.
     virtual QVector<ActionRow> actions() { return {}; }
 
-    /// All actions of all parts are there.
+    /// The actions of all parts exist now.
     virtual void actionsMade() {}
 
-    /// The game that is open, or null.
+    /// The open game, or null.
     virtual void showGame(Family::FamilyParentProject*) {}
 
-    /// The project in front, or null. Called after each change: its files can be others.
+    /// The current project, or null. Also called after each change of the project: its files may be
+    /// different ones.
     virtual void showProject(Family::FamilyProject*) {}
 
-    /// The text in front, or null.
+    /// The current text, or null.
     virtual void showDocument(Family::FamilyDocument*) {}
 
-    /// The cursor of the text in front has moved, in or to a line, counted from 0.
+    /// The cursor of the current text moved, within a line or to another one. Lines count from 0.
     virtual void followCursor(int line) { Q_UNUSED(line) }
 
-    /// The cursor has come to another line, or another text to the front.
+    /// The cursor is on another line, or another text is in front.
     virtual void followLine(int line) { Q_UNUSED(line) }
 
-    /// The cursor stands still: a jump takes it through other lines.
+    /// The cursor has come to rest. Use this for slow work: a jump passes through other lines
+    /// first.
     virtual void followRest(int line) { Q_UNUSED(line) }
 
-    /// Files of the game have other names or other contents.
+    /// Files of the game were renamed or changed.
     virtual void gameChanged() {}
 
-    /// A project is about to close. Called in front of `showProject()` with another one.
+    /// A project is about to close. Called before `showProject()` with another one.
     virtual void forgetProject(Family::FamilyProject*) {}
 
-    /// False if something that goes on keeps the work from being closed. The person is asked what
-    /// to do; `then` is called when nothing is in the way any more.
+    /// False if something that is running prevents closing. The user is asked what to do; `then` is
+    /// called when nothing prevents it any more.
     virtual bool mayEnd(const std::function<void()>& then)
     {
         Q_UNUSED(then)
         return true;
     }
 
-    /// Where the keyboard can go, in the order of the keys.
+    /// Places that can get the focus, in the order of the panel-switching key.
     virtual QVector<PanelPlace> places() { return {}; }
 
-    /// What the part shows besides, after anything has changed: states, titles.
+    /// Updates everything else the part shows, such as states and titles. Called after any change.
     virtual void updateState() {}
 
-    /// Settings have changed; the language has.
+    /// Settings, or the language, have changed.
     virtual void reconfig() {}
     virtual void retranslate() {}
 };

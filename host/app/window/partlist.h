@@ -18,10 +18,10 @@ class GameSession;
 class Part;
 class WindowActions;
 
-/// The parts of the window, and all that each of them is told.
+/// The parts of the window; passes every notification on to them.
 ///
-/// It follows the session and is told what is in front. Many changes that come at once are told to
-/// the parts once, when the event loop comes round again (`updateSoon()`).
+/// It follows the session, and is notified of what is in front. Changes in quick succession are
+/// merged into one notification on the next turn of the event loop (`updateSoon()`).
 class PartList : public QObject
 {
     Q_OBJECT
@@ -30,14 +30,14 @@ public:
     /// Both outlive it.
     PartList(GameSession* session, WindowActions* actions, QObject* parent);
 
-    /// Takes a part in, not owned. The order is that in which parts are told of things, and in
-    /// which the keyboard goes round.
+    /// Adds a part; does not own it. Parts are notified in this order, and the panel-switching key
+    /// visits them in this order.
     void add(Part* part);
 
-    /// All parts are there: makes their actions.
+    /// Call after all parts were added: makes their actions.
     void begin();
 
-    /// Leaves all parts with nothing: they may die, and what they showed may.
+    /// Clears all parts: they, and what they showed, may be destroyed afterwards.
     void end();
 
     /// @name The text in front, and its cursor; see `Part`
@@ -48,15 +48,15 @@ public:
     void followRest(int line);
     Family::FamilyDocument* document() const { return m_document; }
 
-    /// The project of the text in front, else the one opened last, else null.
+    /// The project of the current text, else the one opened last, else null.
     Family::FamilyProject* project() const;
     /// @}
 
-    /// Tells all parts the state of things, at once or soon.
+    /// Notifies all parts of the current state, at once or on the next turn of the event loop.
     void update();
     void updateSoon();
 
-    /// Files of the game have other names or other contents.
+    /// Files of the game were renamed or changed.
     void gameChanged();
 
     /// Asks the parts; see `Part::mayEnd()`.
@@ -69,7 +69,7 @@ public:
 signals:
     void documentShown(Family::FamilyDocument* document);
 
-    /// The parts know of all changes; what can be done with them may be something else.
+    /// All parts are up to date; the actions available for them may have changed.
     void updated();
 
 private:
@@ -82,7 +82,7 @@ private:
     WindowActions* m_actions;
     QVector<Part*> m_parts;
     Family::FamilyDocument* m_document = nullptr;
-    Family::FamilyProject* m_shown = nullptr;  ///< what the parts show; compared, not followed
+    Family::FamilyProject* m_shown = nullptr;  ///< only compared, never dereferenced
     bool m_isUpdatePending = false;
 };
 

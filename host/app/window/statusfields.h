@@ -12,39 +12,38 @@ class QToolButton;
 
 namespace App {
 
-/// The fields of the status bar: problems of the game, state of the file, its
-/// line ends and encoding, place of the cursor. Those that can be clicked are
-/// buttons, and reached by the keyboard.
+/// The fields of the status bar: problems of the game, state of the file, its line endings and
+/// encoding, cursor position. Clickable fields are buttons, so that the keyboard reaches them.
 class StatusFields : public QObject, public Part
 {
     Q_OBJECT
 
 public:
-    /// Lives as a child of the bar.
+    /// A child of the bar.
     explicit StatusFields(QStatusBar* bar);
 
     void showDocument(Family::FamilyDocument* document) override;
     void gameChanged() override;
     void updateState() override;
 
-    /// Brings state, line ends and encoding up to date.
+    /// Updates state, line endings and encoding.
     void updateFile();
 
-    /// How many problems the game has, in words.
+    /// The number of problems of the game, in words.
     void setProblems(const QString& text);
 
-    /// Field 0 is the place, 1 how many problems the file has, which is told with those of
-    /// the game, 2 the encoding and 3 the place on the stage; any other number shows a passing
-    /// text.
+    /// Field 0 is the cursor position, 1 the number of problems in the file (shown with the
+    /// problems of the game), 2 the encoding, 3 the position on the stage. Any other number shows a
+    /// temporary message.
     void showField(int field, const QString& text);
 
-    /// Where the pointer is on the stage, in words; empty for elsewhere.
+    /// Position of the pointer on the stage, in words; empty if it is elsewhere.
     void setStagePlace(const QString& text);
 
-    /// Shows a text for a few seconds.
+    /// Shows a message for a few seconds.
     void showPassing(const QString& text);
 
-    /// What a field shows, for tests and helpers of accessibility.
+    /// The text of each field, for tests and accessibility tools.
     QString stateText() const;
     QString stageText() const;
     QString lineEndText() const;

@@ -10,8 +10,8 @@ class CodeFileEditor;
 
 namespace App {
 
-/// An editor of texts. All of them work on the text in front, in the one code workspace, and one
-/// is in front itself.
+/// A text editor. All of them work on the current text in the shared code workspace; one of them is
+/// in front.
 class TextEditor
 {
 public:
@@ -19,10 +19,10 @@ public:
 
     virtual Zorv::CodeFileEditor* fileEditor() = 0;
 
-    /// True if it comes forward with a text.
+    /// True if this editor comes to the front with a text.
     virtual bool wants(const Family::FamilyDocument* document) const = 0;
 
-    /// The text in front; null for none.
+    /// The current text, or null.
     virtual void setText(Family::FamilyDocument* document) = 0;
 };
 

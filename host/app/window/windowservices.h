@@ -22,22 +22,22 @@ class Jumps;
 class PartList;
 class StatusFields;
 
-/// Asks before something is removed that is used elsewhere, and tells where. True to remove it.
-/// `removal()` gives what is to go at the moment: files can be read anew behind the question, and
-/// what the person was not asked about stays.
+/// Asks before something that is used elsewhere is removed, and lists the places. True to remove
+/// it. `removal()` returns what would be removed now: files can be reloaded while the question is
+/// open, and what the user was not asked about must stay.
 using RemovalCheck = std::function<bool(const std::function<Operations::Removal()>& removal)>;
 
-/// The places that name what is told, a line each for the person. False while that is not known.
+/// Finds the places that use something, one line of text each. False while they are not known.
 using UseFinder = std::function<bool(const Operations::Removal& what, QStringList* places)>;
 
-/// Asks what becomes of image files, and adds them to the sprites.
+/// Asks how to import image files, and adds them to the sprites.
 using ImageAdder = std::function<void(Family::SpriteCollection* into, const QStringList& files)>;
 
-/// What the parts of the window use of it, and of each other. All of it outlives them, and is
-/// there when the first of them is made.
+/// What the parts of the window use of the window and of each other. Everything here outlives the
+/// parts and exists before the first one is made.
 struct WindowServices
 {
-    QMainWindow* window = nullptr;   ///< the parent of their dialogs
+    QMainWindow* window = nullptr;   ///< parent of their dialogs
     GameSession* session = nullptr;  ///< what is open
     StatusFields* status = nullptr;
     ActionRegistry* actions = nullptr;
