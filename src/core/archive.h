@@ -17,36 +17,37 @@ class ZORV_EXPORT Archive
 public:
     virtual ~Archive();
 
-    /// Gives the archive up. `Project::release()` calls it on a project's own
-    /// archive when it is not that of the `ParentProject`; the library never
-    /// deletes an archive.
+    /// Lets go of the archive. `Project::release()` calls this on a project's
+    /// own archive, unless the `ParentProject` uses the same one. The library
+    /// never deletes an archive.
     virtual void release() = 0;
 
-    /// True if nothing can be written. Restoring a backup then refuses to run.
+    /// True if the archive cannot be written to. Restoring a backup then
+    /// refuses to run.
     virtual bool isReadOnly() const = 0;
 
     /// The names in the folder `path` that pass `filters`, ordered by `sort`.
     virtual QStringList entries(const QString& path, QDir::Filters filters,
                                 QDir::SortFlags sort) const = 0;
 
-    /// As `entries()`, with the full record of each entry.
+    /// Like `entries()`, with the full record of each entry.
     virtual QFileInfoList infoEntries(const QString& path, QDir::Filters filters,
                                       QDir::SortFlags sort) const = 0;
 
-    /// Opens a file; null if that fails.
+    /// Opens a file. Returns null on failure.
     ///
-    /// The caller does not own the device: it goes back through `closeFile()`.
-    /// On failure `error`, if given, takes the reason in words for the person;
-    /// on success it is left alone.
+    /// The caller does not own the device and must pass it to `closeFile()`. On
+    /// failure, `error` (if given) is set to the reason, in words for the user.
+    /// On success it is left unchanged.
     virtual QIODevice* openFile(const QString& path, QIODevice::OpenMode mode,
                                 QString* error = nullptr) = 0;
 
-    /// Closes and disposes of a device of `openFile()`; null is allowed.
+    /// Closes and deletes a device from `openFile()`. Null is allowed.
     ///
-    /// The result is true if everything that was written has reached its place
-    /// (always, for a device that was only read, and for null). On false the
-    /// old content of the file is what it was before `openFile()`, and `error`,
-    /// if given, takes the reason.
+    /// Returns true if all written data has reached the file. That is always so
+    /// for null and for a device that was only read. On false the file still
+    /// has the content it had before `openFile()`, and `error` (if given) is
+    /// set to the reason.
     virtual bool closeFile(QIODevice* device, QString* error = nullptr) = 0;
 };
 

@@ -22,8 +22,7 @@ namespace {
 
 const QLatin1String backupFolder("backup/");
 
-// The texts for morning and evening must not follow the language: a backup is
-// to be recognised on another machine.
+// "am" and "pm" must not depend on the language: other machines must be able to parse the name.
 QString timeText(const QDateTime& time)
 {
     return QLocale::c().toString(time, QStringLiteral("dd.MM.yyyy_h.m.s_ap_"));
@@ -59,7 +58,7 @@ QString ParentProject::makeBackup(const QString& name,
     return folderName;
 }
 
-/// True if nothing is missing that is there to be copied.
+/// True if everything that exists has been copied.
 bool ParentProjectPrivate::copyProjects(const QString& folder)
 {
     const QVector<QPointer<Project>> opened = openProjects();

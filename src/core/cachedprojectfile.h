@@ -6,11 +6,11 @@ namespace Zorv {
 
 class StreamCache;
 
-/// A project file whose items live in a `StreamCache`; sprites and sounds are such files.
+/// A project file that keeps its items in a `StreamCache`. Sprites and sounds use it.
 class ZORV_EXPORT CachedProjectFile : public ProjectFile
 {
 public:
-    /// The store of the items, or null; not owned.
+    /// The store of the items, or null. Not owned.
     StreamCache* cache() const { return m_cache; }
 
 protected:

@@ -5,8 +5,9 @@
 
 namespace Zorv {
 
-/// Table n is what a byte does to the register of a checksum when n bytes follow it, so that `Step`
-/// bytes are one step. The polynomial is reflected: its lowest bit goes first.
+/// Builds the lookup tables of a checksum that processes `Step` bytes at a time. Table n holds the
+/// effect of a byte on the register when n more bytes follow it. The polynomial is reflected: its
+/// lowest bit goes first.
 template <class Word, std::size_t Step>
 constexpr std::array<std::array<Word, 256>, Step> crcTables(Word polynomial)
 {

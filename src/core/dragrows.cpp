@@ -5,6 +5,12 @@
 #include <QMetaType>
 #include <QVariant>
 
+// The payload is a stream of items: row, column, number of roles, then for each role its number and
+// a `QVariant`. Only the row is needed, but the size of a value depends on its type. So each value
+// is skipped by type: fixed sizes come from a table, texts and lists have a length in front, and
+// images end with their last PNG chunk. A type that is not known here ends the reading, because the
+// position of the next item is then unknown.
+
 namespace Zorv {
 
 namespace {
@@ -14,7 +20,7 @@ const int PngSignature = 8;
 const int TransformSize = 9 * 8;
 const int FontSize = 31;
 
-// Types whose values take the same number of bytes in every stream.
+// Types whose values have the same size in every stream.
 const struct
 {
     int type;
@@ -41,7 +47,7 @@ class ValueSkipper
 public:
     explicit ValueSkipper(QDataStream& in) : m_in(in) {}
 
-    // The roles of one item.
+    // Skips all roles of one item.
     bool skipRoles()
     {
         return skipEach(read<quint32>(), [this] { return skip(4) && skipVariant(0); });
@@ -74,7 +80,7 @@ private:
         return isGood();
     }
 
-    // A text or bytes behind their length; all ones stands for a null value.
+    // Skips a text or byte array with its length in front; all bits set means null.
     bool skipSized()
     {
         const auto size = read<quint32>();
@@ -136,14 +142,14 @@ private:
         }
     }
 
-    // Family and style in front, the families behind of what has a fixed size.
+    // Family and style come first, then a fixed-size part, then the list of families.
     bool skipFont()
     {
         return skipSized() && skipSized() && skip(FontSize) &&
                skipEach(read<quint32>(), [this] { return skipSized(); });
     }
 
-    // Chunks of PNG up to the one that ends it; nothing for a null image.
+    // Skips the PNG chunks up to "IEND". A null image has none.
     bool skipImage()
     {
         if (read<qint32>() == 0 || !skip(PngSignature)) {
@@ -161,7 +167,7 @@ private:
         }
     }
 
-    // An icon of pictures; each is followed by file name, size, mode and state.
+    // Skips a list of pictures, each followed by file name, size, mode and state.
     bool skipIcon()
     {
         const auto engine = read<QString>();

@@ -5,12 +5,14 @@
 
 namespace Zorv {
 
-/// The rows in a payload of `QAbstractItemModel::mimeData()`, in its order.
+/// Reads the row numbers from a payload of `QAbstractItemModel::mimeData()`, in
+/// its order.
 ///
-/// The values of the items are skipped, not built, so that no payload makes the
-/// reader take more memory or depth than it has bytes; only values of host types
-/// are read, by their own stream operators. A payload that is cut short, or
-/// holds a value of a type whose length does not show, gives no rows.
+/// The payload may come from another program, so it is not trusted. Item values
+/// are skipped instead of built: a hostile payload cannot cost more memory or
+/// recursion depth than it has bytes. Only values of host types are read, by
+/// their own stream operators. The result is empty if the payload is cut short
+/// or holds a type whose length cannot be determined.
 QVector<int> draggedRows(const QByteArray& payload);
 
 }  // namespace Zorv

@@ -7,16 +7,16 @@
 
 namespace Zorv {
 
-/// How one engine is started. Texts are as the person gave them.
+/// How to start one engine. The texts are exactly what the user entered.
 struct EngineInfo
 {
-    QString name;        ///< shown in lists
+    QString name;        ///< display name in lists
     QString executable;  ///< path of the program
-    QString parameters;  ///< the parameter string, with a mark such as "%0" for each project
-    QString icon;        ///< path of a picture for lists; may be empty
+    QString parameters;  ///< parameters, with a placeholder such as "%0" for each project
+    QString icon;        ///< path of the picture for lists; may be empty
 };
 
-/// One engine family: its configured engines, a row each, and facts of its grammar.
+/// One engine family: its configured engines, one per row, and facts about its syntax.
 class ZORV_EXPORT EngineModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -27,22 +27,22 @@ public:
     /// The character that starts a comment in a line of code.
     virtual char commentChar() const = 0;
 
-    /// The folder of the family's data; "/completer.xml" and "/snippets/" lie below it.
+    /// The folder with the family's data: "/completer.xml" and "/snippets/" are in it.
     virtual QString dataPath() const = 0;
 
-    /// Short name of the family; "last_" and this name form a setting key.
+    /// Short name of the family. "last_" plus this name is a setting key.
     virtual QString identifier() const = 0;
 
-    /// The engine's executable, as it is expected in the folder of a game.
+    /// File name of the engine's executable, as expected in a game folder.
     virtual QString executableName() const = 0;
 
-    /// The name of the family in words for the person; the library does not ask for it.
+    /// Display name of the family. The library itself does not use it.
     virtual QString displayName() const = 0;
 
-    /// How many engines are configured.
+    /// The number of configured engines.
     virtual int engineCount() const = 0;
 
-    /// The configuration of an engine, by its number below `engineCount()`.
+    /// The configuration of one engine. `index` is less than `engineCount()`.
     virtual EngineInfo engine(unsigned index) const = 0;
 };
 

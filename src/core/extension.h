@@ -11,16 +11,18 @@ namespace Zorv {
 struct RGBA;
 struct SoundSample;
 
-/// A format that a host adds to the library; registered with `ExtensionManager`.
+/// A file format that a host adds to the library by registering it with
+/// `ExtensionManager`.
 ///
-/// An extension has one type and overrides the one operation of that type; the
-/// others give false. Devices are open and stay the caller's. Image and sound
-/// loaders are called from several threads at once and must not share state; all
-/// others are called from the main thread.
+/// An extension has one type and overrides the one function for that type. The
+/// other functions return false. Devices are already open and remain the
+/// caller's. Image and sound loaders are called from several threads at once
+/// and must not share state. All others are called from the main thread.
 class ZORV_EXPORT Extension
 {
 public:
-    /// What the extension does. Values 0, 7 and 8 are the host's.
+    /// What the extension does. The library leaves values 0, 7 and 8 to the
+    /// host.
     enum Type {
         Other = 0,
         ImageLoader = 1,
@@ -36,17 +38,18 @@ public:
     virtual ~Extension();
     virtual Type type() const = 0;
 
-    /// The format string that it stands for, as `fileExtension()` makes it of a
-    /// file name: "TGA". Compared with case. Empty by default.
+    /// The format this extension handles, in the form that `fileExtension()`
+    /// returns: "TGA". The comparison is case-sensitive. Empty by default.
     virtual QByteArray name() const;
 
-    /// Reads a file into `image`, `palette` or `sample`. False if it is not of
-    /// the format; what the last argument holds then does not count.
+    /// Reads a file into `image`, `palette` or `sample`. Returns false if the
+    /// file does not have this format; the content of the last argument is then
+    /// ignored.
     virtual bool loadImage(QIODevice* device, QImage& image);
     virtual bool loadPalette(QIODevice* device, RGBA (&palette)[256]);
     virtual bool loadSound(QIODevice* device, SoundSample& sample);
 
-    /// Writes a file. False if it could not be written whole.
+    /// Writes a file. Returns false if it could not be written completely.
     virtual bool saveImage(QIODevice* device, const QImage& image);
     virtual bool savePalette(QIODevice* device, const RGBA (&palette)[256]);
     virtual bool saveSound(QIODevice* device, const SoundSample& sample);

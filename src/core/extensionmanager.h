@@ -7,17 +7,17 @@
 
 namespace Zorv {
 
-/// The registry of extensions, a list for each type. Main thread only.
+/// The registry of extensions, with one list per type. Main thread only.
 class ZORV_EXPORT ExtensionManager
 {
 public:
-    /// Does nothing with the name: all state is static.
+    /// Ignores the name: all state is static.
     explicit ExtensionManager(const QString& name = {});
 
-    /// Appends an extension to the list of its type; not owned.
+    /// Appends an extension to the list of its type. Not owned.
     static void add(Extension* extension);
 
-    /// The extensions of a type.
+    /// The extensions of one type.
     static QList<Extension*>& list(Extension::Type type);
 };
 

@@ -16,11 +16,20 @@
 #include <sys/stat.h>
 #endif
 
+// How lost updates are detected:
+//
+// A table maps each path to the `FileChange` objects on it. When a file is about to be replaced,
+// `FileTurn` takes the lock of its folder and compares the state recorded by the newest
+// `FileChange` (device, inode, size and times) with the current one. If they differ, another
+// program was faster: the write fails and the object is marked as overtaken. After a successful
+// write the recorded state is renewed, so that several writes may follow. Files without a
+// `FileChange` are only locked.
+
 namespace Zorv {
 
 namespace {
 
-/// How long a write waits that was not announced: the window stands still meanwhile.
+/// How long a write without a `FileChange` waits. It is short because it blocks the window.
 constexpr int ShortWait = 5000;
 
 /// Makes the texts of this file known to translators.
@@ -29,7 +38,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Zorv::FileChange)
 };
 
-/// The one path of a file, by whatever way it was named; its folder need not be there.
+/// The canonical path of a file, independent of how it was named. Its folder need not exist.
 QString placeOf(const QString& target)
 {
     QString folder = QDir().absoluteFilePath(target);
@@ -39,7 +48,7 @@ QString placeOf(const QString& target)
         name.prepend(folder.midRef(end));
         folder.truncate(end);
     } while (!folder.isEmpty() && !QFileInfo(folder).isDir());
-    // Links on the way are followed before ".." is taken to lead out of what they lead to.
+    // Resolve links first: ".." behind a link means the parent of the link's target.
     return QDir::cleanPath(QFileInfo(folder).canonicalFilePath() + name);
 }
 
@@ -63,7 +72,7 @@ public:
 
 namespace {
 
-/// All changes that are under way in the process.
+/// All active changes of the process.
 struct Changes
 {
     QMutex mutex;

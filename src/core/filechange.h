@@ -10,34 +10,35 @@ namespace Zorv {
 
 class FileChangePrivate;
 
-/// A change of a file that begins with reading it: no change of another program is lost.
+/// Protects a read-modify-write of a file, so that no change by another program is lost.
 ///
-/// Make one before the file is read, and keep it until it is written. What lies there is
-/// looked at, and again when `FileSystemArchive` is about to put the new file in its place:
-/// if another program has replaced or changed the file in between, the write fails,
-/// the file stays as that program left it, and `isOvertaken()` tells. Read anew then, with a new
-/// object.
+/// Create the object before you read the file and keep it until you have written it. It records the
+/// state of the file. Just before `FileSystemArchive` puts the new file in place, the state is
+/// checked again. If another program has replaced or changed the file in between, the write fails,
+/// the file stays as that program left it, and `isOvertaken()` returns true. Then read the file
+/// again, with a new object.
 ///
-/// `lock()` makes others wait meanwhile, so that this does not happen among programs that
-/// use this class. Without it several may work on one file at once, and all but the
-/// first have to begin anew. Every write takes the lock for the moment of its own. Locks end
-/// with their process; where the file system has none, the look alone remains.
+/// `lock()` avoids such conflicts between programs that use this class: the others wait. Without
+/// `lock()` several programs may work on the same file; the first write wins and the others have to
+/// start again. Each write takes the lock for a moment by itself. A lock ends with its process. On
+/// file systems without locks only the state check remains.
 ///
-/// Re-entrant; an object may be used in one thread.
+/// Re-entrant; use each object in one thread.
 class ZORV_EXPORT FileChange
 {
 public:
-    /// Looks at the file, which need not be there. Links are followed.
+    /// Records the state of the file, which need not exist. Links are followed.
     explicit FileChange(const QString& fileName);
 
-    /// Lets the lock go.
+    /// Releases the lock.
     ~FileChange();
 
-    /// Takes the lock of the file's folder, and looks at the file again. Waits for other programs
-    /// up to `milliseconds`; false, with `error` for the person, if one keeps it longer.
+    /// Locks the file's folder and records the state of the file again. Waits up to `milliseconds`
+    /// for other programs. Returns false, with `error` in words for the user, if one of them holds
+    /// the lock longer.
     bool lock(int milliseconds, QString* error);
 
-    /// True if a write has failed for what another program did to the file.
+    /// True if a write has failed because another program changed the file.
     bool isOvertaken() const;
 
 private:

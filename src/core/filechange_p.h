@@ -6,7 +6,7 @@
 
 namespace Zorv {
 
-/// How a file was found; two that differ are of two files, or of one that was written to.
+/// A snapshot of a file's identity and times. If two differ, the file was written or replaced.
 struct FileState
 {
     static FileState of(const QString& path);
@@ -18,26 +18,28 @@ struct FileState
     }
 
     quint64 device = 0;
-    quint64 inode = 0;  ///< all is 0 if nothing is there
+    quint64 inode = 0;  ///< all fields are 0 if there is no file
     qint64 size = 0;
-    qint64 modified = 0;  ///< in ns since 1970, as all times here
-    qint64 changed = 0;   ///< content, mode or name; on some systems 0
+    qint64 modified = 0;  ///< in ns since 1970, like all times here
+    qint64 changed = 0;   ///< of content, mode or name; always 0 on some systems
 };
 
-/// The moment in which a new file takes the place of another: nobody else does so in this
-/// folder, and what is there has not been changed since a `FileChange` began.
+/// The short critical section in which a new file replaces another. It ensures that nobody else
+/// replaces a file in this folder, and that the target has not changed since its `FileChange`
+/// began.
 class FileTurn
 {
 public:
-    /// `target` has no link left to follow.
+    /// `target` must be resolved: no symbolic links left to follow.
     explicit FileTurn(const QString& target);
     FileTurn(const FileTurn&) = delete;
     FileTurn& operator=(const FileTurn&) = delete;
 
-    /// Waits for the turn. False, with the reason, if it does not come, or comes too late.
+    /// Waits for the lock. Returns false, with the reason, on timeout or if the file has been
+    /// changed.
     bool take(QString* reason);
 
-    /// The new file is in its place: that is where the change goes on from.
+    /// Call after the new file is in place. Its state becomes the new base of the change.
     void done();
 
 private:

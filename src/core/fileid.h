@@ -6,14 +6,14 @@ namespace Zorv {
 
 /// The kinds under which a project registers a file: a set of 32 flags.
 ///
-/// A file can be registered under several kinds at once. Bit value 1 is the
-/// project's main code document and belongs to the library; every other bit is
-/// the host's, and those named below are the ones for which the library has an
-/// icon. `Project::FileID` is this class.
+/// A file can have several kinds at once. Bit value 1 is the project's main
+/// code document and belongs to the library. All other bits belong to the host;
+/// the ones named below are those for which the library has an icon.
+/// `Project::FileID` is this class.
 class FileID
 {
 public:
-    /// One bit of the set. A host casts its own bits to it.
+    /// One bit of the set. A host casts its own bits to this type.
     enum Type : quint32 {
         MainCode = 1,    ///< the main `CodeDocument` of a project
         Sprites = 2,     ///< a sprite collection
@@ -25,13 +25,13 @@ public:
 
     constexpr FileID(quint32 bits = 0) : m_bits(bits) {}
 
-    /// The flags as a number, 0 for the empty set.
+    /// The flags as a number; 0 for the empty set.
     constexpr operator quint32() const { return m_bits; }
 
-    /// True if the set holds this kind.
+    /// True if the set contains this kind.
     constexpr bool has(Type type) const { return (m_bits & type) != 0; }
 
-    /// The lowest kind of the set; 0 if the set is empty.
+    /// The lowest kind in the set; 0 if it is empty.
     constexpr Type lowest() const { return static_cast<Type>(m_bits & (~m_bits + 1)); }
 
 private:

@@ -9,45 +9,46 @@ namespace Zorv {
 class ParentProject;
 class ProjectFile;
 
-/// Work on a file that has not gone into it yet, such as what is painted on a canvas.
+/// Work that an editor has not yet stored in the file, such as strokes on a canvas.
 ///
-/// An editor with such work makes one of these, which is known as long as it lives. The work counts
-/// as unsaved: `ParentProject` takes it in before it runs, backs up or saves, and a host asks
-/// `isUnsaved()` in place of `ProjectFile::isModified()` wherever it marks or asks about unsaved
-/// files. Main thread only.
+/// An editor with such work creates one of these objects. It is registered for as long as it lives.
+/// The work counts as unsaved: `ParentProject` stores it before it runs, backs up or saves. To mark
+/// unsaved files or ask about them, a host must call `isUnsaved()` instead of
+/// `ProjectFile::isModified()`. Main thread only.
 class ZORV_EXPORT FileInput
 {
 public:
     FileInput();
     virtual ~FileInput();
 
-    /// The file that there is work on; null while there is none. Asked often.
+    /// The file being worked on; null if there is no pending work. Called often.
     virtual ProjectFile* inputFile() const = 0;
 
-    /// Puts the work into the file, as one step of undo. False, with a reason in `error`, if it
-    /// has no place there any more; it stays where it is then.
+    /// Stores the work in the file, as one undo step. Returns false, with the reason in `error`, if
+    /// the file has no place for it any more. The work is then kept.
     virtual bool takeInput(QString* error) = 0;
 
-    /// Gives the work up, for what the file has. Nothing without any.
+    /// Discards the work and goes back to the content of the file. Does nothing if there is no
+    /// work.
     virtual void dropInput() = 0;
 
-    /// @name All of them together
+    /// @name All objects together
     /// @{
 
-    /// True if there is such work on the file.
+    /// True if there is pending work on the file.
     static bool isOn(const ProjectFile* file);
 
-    /// True for that, and for a file that is modified itself. False for null.
+    /// True if there is pending work or the file itself is modified. False for null.
     static bool isUnsaved(const ProjectFile* file);
 
-    /// Takes in what there is on a file. False if some of it stays; `errors`, if not null, gets
-    /// the reasons.
+    /// Stores all pending work on a file. Returns false if some of it could not be stored; `errors`
+    /// (if not null) receives the reasons.
     static bool take(const ProjectFile* file, QStringList* errors = nullptr);
 
-    /// The same for all files of the open projects of a game; what cannot be taken in stays.
+    /// The same for all files of the open projects of a game. Work that cannot be stored is kept.
     static void takeOf(const ParentProject* game);
 
-    /// Drops what there is on a file.
+    /// Discards all pending work on a file.
     static void drop(const ProjectFile* file);
     /// @}
 

@@ -22,7 +22,7 @@ namespace {
 constexpr int FirstPause = 1;
 constexpr int LongestPause = 16;
 
-/// The folders whose locks the process has.
+/// The folders that this process has locked.
 struct Held
 {
     struct Lock
@@ -79,7 +79,7 @@ bool FolderLock::take(const QString& folder, int milliseconds)
     return result != FileLock::Busy;
 }
 
-/// Takes the handle over with the lock.
+/// If it succeeds, the lock owns the handle.
 FileLock::Result FolderLock::tryTake(int handle)
 {
     const QMutexLocker locker(&held().mutex);
@@ -105,7 +105,8 @@ void FolderLock::release()
     const QMutexLocker locker(&held().mutex);
     const auto own = held().locks.find({m_device, m_inode});
     if (--own->count == 0) {
-        // A program that is just being started may have a copy of the handle still.
+        // Unlock explicitly: a child process that is just starting may still have a copy of the
+        // handle.
         ::flock(own->handle, LOCK_UN);
         ::close(own->handle);
         held().locks.erase(own);

@@ -4,27 +4,27 @@
 
 namespace Zorv {
 
-/// Locks of the system: they bind those who ask for them, and end with the process that
-/// holds them, however it ends.
+/// Advisory locks of the operating system: they only affect programs that ask for them. A lock ends
+/// with its process, even after a crash.
 namespace FileLock {
 
 enum Result {
     Taken,
-    Busy,        ///< another one has it
-    Unsupported  ///< the file system knows no locks
+    Busy,        ///< somebody else holds it
+    Unsupported  ///< the file system has no locks
 };
 
-/// Tries to lock an open file or folder. The lock goes when the last copy of the handle is
-/// closed.
+/// Tries to lock an open file or folder. The lock ends when the last copy of the handle is closed.
 Result tryLock(int handle);
 
 }  // namespace FileLock
 
-/// The lock of a folder, by which programs take turns in changing its files.
+/// A lock on a folder, so that programs take turns changing its files.
 ///
-/// A lock on a file would go to nobody when another file takes its place; one on its folder
-/// stays and leaves nothing behind. It is counted: the process has it as long as one of
-/// these objects does, so that a change may be made of smaller ones. Re-entrant.
+/// The folder is locked rather than the file, because saving replaces the file: a lock on the old
+/// file would then protect nothing. It also leaves no lock file behind. The lock is counted: the
+/// process holds it as long as one of these objects does, so operations that lock can be nested.
+/// Re-entrant.
 class FolderLock
 {
 public:
@@ -33,8 +33,8 @@ public:
     FolderLock(const FolderLock&) = delete;
     FolderLock& operator=(const FolderLock&) = delete;
 
-    /// Waits until no other process has the lock, and takes it. False if one keeps it so
-    /// long. True where there are no locks, or no such folder: nobody has it then.
+    /// Waits until no other process holds the lock, then takes it. Returns false on timeout.
+    /// Returns true if locks are not supported or the folder does not exist; no lock is held then.
     bool take(const QString& folder, int milliseconds);
 
     void release();

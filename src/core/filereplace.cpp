@@ -60,7 +60,7 @@ QString resolved(const QString& path, QString* reason)
             *reason = systemText(error.value());
             return {};
         }
-        // An absolute target replaces the folder as well.
+        // If the target is absolute, it replaces the folder as well.
         place = place.parent_path() / target;
     }
     return fromNative(place);
@@ -97,7 +97,7 @@ void takeOwnerAndMode(QFile& file, const QString& from)
     if (old.st_uid != now.st_uid || old.st_gid != now.st_gid) {
         const bool ownerTaken = ::fchown(file.handle(), old.st_uid, old.st_gid) == 0;
         if (!ownerTaken && ::fchown(file.handle(), uid_t(-1), old.st_gid) != 0) {
-            // The members of another group get no more than everybody had.
+            // The new group must not get more rights than everybody had.
             mode = (mode & ~mode_t(070)) | ((mode & 07) << 3 & mode);
         }
         if (!ownerTaken) {
@@ -119,7 +119,7 @@ bool syncFile(QFile& file, QString* reason)
     do {
         result = ::fsync(file.handle());
     } while (result != 0 && errno == EINTR);
-    // Some network and user-space file systems know no such call.
+    // Some network and user-space file systems do not support fsync.
     if (result != 0 && errno != EINVAL && errno != ENOSYS) {
         *reason = systemText(errno);
         return false;

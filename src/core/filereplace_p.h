@@ -6,15 +6,15 @@ class QFile;
 
 namespace Zorv {
 
-/// What the safe replacement of a file asks of the platform; where the platform
-/// lacks a service, the function does what it can and answers true.
+/// Platform services for replacing a file safely. Where the platform lacks a service, the function
+/// does what it can and returns true.
 namespace FileReplace {
 
-/// Follows symbolic links to the file that they stand for, which need not be
-/// there. Empty, with the reason, if the links go in a circle.
+/// Follows symbolic links to the final file, which need not exist. Returns an empty path, with the
+/// reason, if the links form a cycle.
 QString resolved(const QString& path, QString* reason);
 
-/// Another handle of an open file, so that its lock outlives the closing of the file.
+/// Duplicates the handle of an open file, so that its lock survives closing the file.
 class HandleCopy
 {
 public:
@@ -27,18 +27,17 @@ private:
     int m_handle = -1;
 };
 
-/// Gives an open file the permissions and, as far as allowed, the owner of
-/// another.
+/// Copies the permissions of another file to an open file and, if permitted, the owner.
 void takeOwnerAndMode(QFile& file, const QString& from);
 
-/// Forces an open file, or the entries of a folder, to the disk.
+/// Forces an open file, or the entries of a folder, to disk.
 bool syncFile(QFile& file, QString* reason);
 void syncFolder(const QString& folder);
 
-/// Waits until all that was written to the disk of a folder has reached it.
+/// Waits until everything written to the disk that holds `folder` has reached it.
 void syncDisk(const QString& folder);
 
-/// Renames in one step; a file of the new name is replaced.
+/// Renames atomically. An existing file with the new name is replaced.
 bool rename(const QString& from, const QString& to, QString* reason);
 
 }  // namespace FileReplace

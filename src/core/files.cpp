@@ -22,7 +22,7 @@ QString readFailure(const QString& name, const QString& reason)
         .arg(QDir::toNativeSeparators(name), reason);
 }
 
-// Copies until the source ends or one of the two fails; false if the source did.
+// Copies until the source ends or either side fails. Returns false if the source failed.
 bool copyBlocks(QIODevice& source, QIODevice& target, QString& writeError)
 {
     QByteArray block(CopyBlock, Qt::Uninitialized);
@@ -56,7 +56,7 @@ void skipRead(QIODevice* device, unsigned count)
     char buffer[SkipBlock];
     while (count > 0) {
         const unsigned size = qMin<unsigned>(count, sizeof buffer);
-        // Behind the end of a file there is nothing to come.
+        // At the end of a file there is nothing more to read.
         if (device->read(buffer, size) <= 0 && !device->isSequential()) {
             return;
         }
@@ -83,7 +83,7 @@ bool copyFile(Archive& source, const QString& sourceName, Archive& target,
         readError = readFailure(sourceName, from->errorString());
     }
 
-    // What was not read whole must not take the place of what is there.
+    // An incomplete copy must not replace the existing target.
     auto* safeTarget = qobject_cast<SafeFile*>(to);
     if (safeTarget && !readError.isEmpty()) {
         safeTarget->fail(readError);

@@ -18,7 +18,7 @@ namespace {
 
 const QDir::Filters alwaysFiltered = QDir::NoDotAndDotDot | QDir::NoSymLinks;
 
-// A file in a closed folder may well be there.
+// If access to the folder is denied, the file may still exist.
 QString absence(const QString& path)
 {
     struct stat info;

@@ -10,13 +10,25 @@
 #include <QPointer>
 #include <QTimer>
 
+// How a file is watched:
+//
+// The watcher is bound to the file, not to the name. Many programs save by removing or replacing
+// the file, which ends the watch. So each signal for a path drops the watch and sets a new one. If
+// the file is missing at that time, its path goes to `m_missing` and the nearest existing folder is
+// watched. A signal for such a folder checks all missing paths; one that is back counts as changed.
+//
+// The library's own writes must not raise a question. `FileWatchObject::toFile()` pauses the
+// object. The signal for that write only schedules the end of the pause, `BurstMilliseconds` later,
+// so that all signals of one write are ignored. Some writes give no signal, for example if the file
+// was not watched yet. `renew()` therefore ends the pause by time as well.
+
 namespace Zorv {
 
 namespace {
 
 const int BurstMilliseconds = 250;
 
-// A host without an opinion gets what people expect: to be told.
+// By default the user is asked.
 bool isEnabled()
 {
     const Interface* host = Interface::instance();
@@ -53,9 +65,9 @@ void FileWatcherManager::renew(const QString& path)
     if (!isEnabled()) {
         return;
     }
-    // A write that came before its watch gives no signal that would end the
-    // pause. One that gives a signal has given it when the first moment is over,
-    // however long the program was busy.
+    // If the file was written before it was watched, no signal will end the pause. Waiting twice is
+    // on purpose: a signal of this write arrives during the first wait, however busy the program
+    // was.
     for (FileWatchObject* object : objectsOf(path)) {
         if (object->m_paused) {
             later(object, [this, object] { resumeLater(object); });
@@ -192,7 +204,7 @@ void FileWatcherManager::later(FileWatchObject* object, const std::function<void
 
 void FileWatcherManager::askToReload(const QString& path, const QList<FileWatchObject*>& changed)
 {
-    // The answer to the open question will read the newest content.
+    // A question for this file is already open. Its answer will load the newest content.
     if (m_asking.contains(path)) {
         return;
     }
@@ -209,8 +221,8 @@ void FileWatcherManager::askToReload(const QString& path, const QList<FileWatchO
     }
     m_asking.remove(path);
     for (FileWatchObject* object : changed) {
-        // While the question was open, a document can have been closed, another one
-        // made in its place, or this one saved under another name.
+        // While the question was open, the document may have been closed, replaced by a new one or
+        // saved under another name.
         if (answer == Dialogs::Yes && self && objectsOf(path).contains(object)) {
             object->reload();
         }

@@ -13,16 +13,17 @@ namespace Zorv {
 
 class FileWatchObject;
 
-/// The one watcher of the process and all objects that it serves.
+/// The one file watcher of the process, shared by all `FileWatchObject`s.
 ///
-/// A watch sits on a file, not on its name: it is made anew after each signal,
-/// and while a file is missing its nearest existing folder is watched instead.
+/// A watch is bound to a file, not to its name. So it is renewed after each
+/// signal. While a file is missing, its nearest existing folder is watched
+/// instead.
 class FileWatcherManager : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Null while no object lives.
+    /// Null while no `FileWatchObject` exists.
     static FileWatcherManager* instance();
 
     void add(FileWatchObject* object);
@@ -31,11 +32,11 @@ public:
     /// Moves the watch of one object from one name to another.
     void rename(const QString& from, const QString& to);
 
-    /// Makes sure that a file that was just written is watched, and that the
-    /// pause of its objects ends.
+    /// Ensures that a file that was just written is watched, and that the pause
+    /// of its objects ends.
     void renew(const QString& path);
 
-    /// Drops the signals that are still to come for what has happened to a file.
+    /// Drops pending signals for changes that have already happened to a file.
     void forgetChanges(const QString& path);
 
 private:
@@ -52,8 +53,8 @@ private:
 
     WatcherPtr m_watcher;
     QList<FileWatchObject*> m_objects;
-    QSet<QString> m_missing;  // files that are to be watched once they are there
-    QSet<QString> m_asking;   // files whose question is open
+    QSet<QString> m_missing;  // files to watch once they exist
+    QSet<QString> m_asking;   // files with an open question to the user
 };
 
 }  // namespace Zorv

@@ -9,30 +9,31 @@ namespace Zorv {
 
 class FileWatchObject;
 
-/// A host's way of dealing with files that other programs have changed or taken away.
+/// Lets a host decide what happens when another program changes or removes a file.
 ///
-/// Without one the person is asked whether to read a changed file again, and nothing happens for
-/// one that has gone. A host that has a better question for some files, as for those with unsaved
-/// changes, derives and installs its own object. Main thread only.
+/// Without a handler, the user is asked whether to reload a changed file, and a removed file is
+/// ignored. A host that wants to ask a better question for some files, such as those with unsaved
+/// changes, derives from this class and installs its own object. Main thread only.
 class ZORV_EXPORT FileWatchHandler
 {
 public:
-    /// Takes itself away, if it is the installed one.
+    /// Uninstalls the object if it is the installed one.
     virtual ~FileWatchHandler();
 
-    /// The object in use, or null.
+    /// The installed object, or null.
     static FileWatchHandler* instance();
 
-    /// Installs an object, which stays the caller's; null for none.
+    /// Installs an object, which the caller keeps owning. Null uninstalls.
     static void setInstance(FileWatchHandler* handler);
 
-    /// A file has changed; `objects` have it and are not paused. Gives those that the library is to
-    /// ask about. Called in a signal of the watcher: a question of the host's own waits for the
-    /// event loop.
+    /// A file has changed. `objects` use it and are not paused. Returns the objects for which the
+    /// library should ask the user. This runs inside a signal of the watcher, so a host must defer
+    /// its own questions to the event loop.
     virtual QList<FileWatchObject*> fileChanged(const QString& path,
                                                 const QList<FileWatchObject*>& objects) = 0;
 
-    /// A file is no longer there. It may be back in a moment: many programs save by removing.
+    /// A file no longer exists. It may come back in a moment: many programs save by removing the
+    /// old file.
     virtual void fileGone(const QString& path) = 0;
 };
 

@@ -56,7 +56,7 @@ void FileWatchObject::pauseWatch(bool pause)
     m_paused = pause;
 }
 
-// A watch that is made anew does not hear of what was written before.
+// Renewing the watch drops the signals for what was written before.
 void FileWatchObject::endPause()
 {
     pauseWatch(false);

@@ -8,14 +8,14 @@ namespace Zorv {
 
 class Archive;
 
-/// The base of everything that is told when its file changes on disk.
+/// Base class of everything that must notice when its file changes on disk.
 ///
-/// One file can be open several times; all objects of the process share one
-/// watcher, and the person is asked once for all of them. A file that is deleted
-/// raises no question; one that comes back is watched again and counts as
-/// changed. The host's setting "enable_file_watcher" switches all questions off;
-/// a host that does not know it gets them. `fromFile()` and `toFile()` are
-/// called by a derived class around its own loading and saving. Without a
+/// One file can be open several times. All objects of the process share one
+/// watcher, and the user is asked once for all of them. Deleting a file raises
+/// no question; a file that comes back is watched again and counts as changed.
+/// The host's setting "enable_file_watcher" turns all questions off; if the
+/// host does not know this setting, questions are on. A derived class calls
+/// `fromFile()` and `toFile()` around its own loading and saving. Without a
 /// `QCoreApplication` nothing is watched. Main thread only.
 class ZORV_EXPORT FileWatchObject
 {
@@ -23,35 +23,35 @@ public:
     FileWatchObject();
     virtual ~FileWatchObject();
 
-    /// Moves the watch to `fileName`; nothing for a copy. Always true. Called
-    /// while `fileName()` still gives the old name.
+    /// Moves the watch to `fileName`; does nothing if `asCopy` is set. Always
+    /// true. Call it while `fileName()` still returns the old name.
     virtual bool fromFile(Archive& archive, const QString& fileName, bool asCopy);
 
-    /// As `fromFile()`, and pauses the watch: the library's own write must not
-    /// raise the question.
+    /// Like `fromFile()`, and also pauses the watch, so that the library's own
+    /// write does not raise the question.
     virtual bool toFile(Archive& archive, const QString& fileName, bool asCopy);
 
-    /// The path of the file, empty if it has none.
+    /// The path of the file; empty if it has none.
     virtual QString fileName() const = 0;
 
-    /// Reads the file again. True if that went well.
+    /// Reads the file again. Returns true on success.
     virtual bool reload() = 0;
 
-    /// While paused the object raises no question. A pause that `toFile()` made
-    /// ends a moment after the next signal for the file.
+    /// A paused object raises no question. A pause made by `toFile()` ends a
+    /// moment after the next signal for the file.
     virtual void pauseWatch(bool pause);
 
     bool isWatchPaused() const { return m_paused; }
 
-    /// Ends a pause. What was written to the file during it raises no question,
-    /// even if its signal has not come yet.
+    /// Ends a pause. Anything written to the file during the pause raises no
+    /// question, even if its signal arrives later.
     void endPause();
 
 protected:
-    /// For a derived class whose file has just been written: a new file is
-    /// watched from now on, and the pause of `toFile()` ends a moment later, also
-    /// if no signal comes for this write. Call it after the device went back and
-    /// after `toFile()`, with `fileName()` giving the new name.
+    /// For a derived class that has just written its file. A new file is
+    /// watched from now on. The pause of `toFile()` ends a moment later, even
+    /// if no signal comes for this write. Call it after the device is closed
+    /// and after `toFile()`, when `fileName()` returns the new name.
     void renewWatch(const QString& fileName);
 
 private:

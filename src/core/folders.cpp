@@ -8,7 +8,7 @@ namespace Zorv {
 
 bool removeDir(const QString& path)
 {
-    // With a slash behind it a link would be taken for the folder it leads to.
+    // With a slash at the end, a link would be taken for the folder it points to.
     const QString folder = QDir::cleanPath(path);
     if (QFileInfo(folder).isSymLink()) {
         return QFile::remove(folder);

@@ -12,21 +12,26 @@
 #include <array>
 #include <atomic>
 
+// Jobs run in the global thread pool. A queue holds the jobs in flight, in order. The main thread
+// waits for the first one, takes its result and starts new jobs, up to the limit that `Pace`
+// computes from the duration of the last jobs. Cancelling sets a flag that jobs check before they
+// start; the running ones are waited for.
+
 namespace Zorv {
 
 namespace {
 
-/// Pieces under way for each thread: enough that none is idle while one result is taken. Of small
-/// ones it takes more, or all are done before this thread has its turn again beside other work. Of
-/// large ones, each of which may hold an image, only the least.
+/// Jobs in flight per thread. There must be enough to keep all threads busy while the main thread
+/// takes one result. Small jobs need more of them, or all are done before the main thread gets its
+/// next turn. Large jobs get the minimum, because each may hold an image in memory.
 constexpr int LeastPerThread = 4;
 constexpr int MostPerThread = 12;
 constexpr qint64 TimeUnderWay = 40'000'000;  // nanoseconds
 
-/// Milliseconds after which events have their turn, if there is nothing to wait for.
+/// Process events after this many milliseconds, even if no job has to be waited for.
 constexpr int TurnTime = 10;
 
-/// How many pieces may be under way, by the time that the last few have taken.
+/// Computes how many jobs may be in flight, from the time the last few have taken.
 class Pace
 {
 public:
@@ -48,8 +53,8 @@ private:
     std::array<qint64, 8> m_times{};
 };
 
-/// Waits without keeping the window from being painted. What the person does waits, too: progress
-/// takes it up between two pieces of work.
+/// Waits while the window is repainted. User input is left for later: the progress display handles
+/// it between two jobs.
 void waitFor(const QFuture<void>& job)
 {
     if (job.isFinished()) {

@@ -10,24 +10,24 @@
 
 namespace Zorv {
 
-/// Does `count` pieces of work on all processors, and shows how far it is under `title`.
+/// Runs `count` jobs on all processors and shows the progress under `title`.
 ///
-/// `prepare(i)` is called in the caller's thread, in order, and gives what is to be done in another
-/// one: a function that shares nothing with the others. `take(i)` is called in the caller's thread,
-/// in order, when that piece is done. Only a few pieces for each thread are on their way at any
-/// time, more of small ones than of large ones, so the memory that they take does not grow with
-/// their count. False if the person has given up: then nothing more is taken, what had not begun is
-/// left out, and all that had is over.
+/// `prepare(i)` runs in the caller's thread, in order. It returns the function that a worker thread
+/// will run; this function must not share data with the others. `take(i)` runs in the caller's
+/// thread, in order, once that job is done. Only a few jobs per thread are in flight at a time
+/// (more if they are small), so memory does not grow with `count`. Returns false if the user
+/// cancelled: no more results are taken, jobs that had not started are skipped, and all running
+/// ones have finished.
 ///
-/// While it waits, events other than the person's are processed, so that the window is painted;
-/// between two pieces the display of the host may take up those, too. So what `take` works on may
-/// be gone by then. Called in the main thread.
+/// While waiting, the function processes events except user input, so that the window is repainted.
+/// Between two jobs the host's progress display may process user input as well. So the objects that
+/// `take` works on may be gone by then. Call from the main thread.
 ZORV_EXPORT bool runJobs(const QString& title, int count,
                          const std::function<std::function<void()>(int)>& prepare,
                          const std::function<void(int)>& take);
 
-/// The same for pieces that make something: `take(i, result)` gets it, and it is dropped behind.
-/// A `Result` has a constructor without arguments.
+/// The same for jobs with a result: `take(i, result)` receives it, and it is freed afterwards.
+/// `Result` needs a default constructor.
 ///
 ///     runJobs<QImage>(title, files.size(),
 ///                     [&](int i) { return [file = files[i]] { return QImage(file); }; },

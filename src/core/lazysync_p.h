@@ -2,18 +2,18 @@
 
 namespace Zorv {
 
-/// While it lives, nobody waits for new files to reach the disk: they are copies
-/// of what is there, and waiting would take many times as long as the copying.
+/// While this object lives, new files are not forced to disk. Use it to copy many files: the
+/// originals still exist, and waiting for the disk would take many times as long as the copying.
 ///
-/// The system writes them in its own time. A file that takes the place of another
-/// is not concerned: the old content never goes before the new one is safe. Main
-/// thread only, and what is written in others waits; one inside of another does nothing.
+/// The system writes the files in its own time. This does not affect a file that replaces another:
+/// the old content is never dropped before the new one is safe. Main thread only; writes in other
+/// threads still wait. A nested object has no effect.
 class LazySync
 {
 public:
     enum Use {
-        Kept,      ///< the new files are there to stay
-        Temporary  ///< they go again: there is no exception
+        Kept,      ///< the new files are permanent
+        Temporary  ///< the new files are deleted later; exceptions are ignored
     };
 
     explicit LazySync(Use use = Kept);
@@ -21,10 +21,10 @@ public:
     LazySync(const LazySync&) = delete;
     LazySync& operator=(const LazySync&) = delete;
 
-    /// The one in effect, or null.
+    /// The active object, or null.
     static LazySync* current();
 
-    /// Takes it out of effect, for a content that is nowhere else.
+    /// Suspends the active object, for content that exists nowhere else.
     class Exception
     {
     public:

@@ -4,14 +4,14 @@
 
 namespace Zorv {
 
-/// One thing that the grammar says about a line of a file.
+/// One error, warning or note of the parser about a line of a file.
 struct Message
 {
     enum Type {
         Error = 0,
         Warning = 1,
         Information = 2,
-        AllTypes = 3  ///< only ever passed to `Messages::count()`
+        AllTypes = 3  ///< only for `Messages::count()`
     };
 
     Type type = Error;

@@ -146,7 +146,7 @@ QVariant MessageList::data(const QModelIndex& index, int role) const
         .arg(messages->fileString(), QString::number(message.line + 1), message.text);
 }
 
-// Inside a frame of changes the sizes differ from those of the last update.
+// Computed on demand: during a group of changes the sizes differ from those of the last update.
 const QVector<int>& MessageList::starts() const
 {
     if (!m_startsStale) {

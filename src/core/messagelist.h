@@ -13,10 +13,10 @@ namespace Zorv {
 class Messages;
 class Project;
 
-/// The messages of all files of a project, file behind file, as a list model.
+/// The messages of all files of a project as one list model, file after file.
 ///
-/// It keeps no copies: each row is looked up in the `Messages` that holds it.
-/// `update()` announces all rows anew. Main thread only.
+/// It stores no copies: each row is looked up in the `Messages` that holds it.
+/// `update()` resets all rows. Main thread only.
 class ZORV_EXPORT MessageList : public QAbstractListModel
 {
     Q_OBJECT
@@ -24,47 +24,48 @@ class ZORV_EXPORT MessageList : public QAbstractListModel
 public:
     explicit MessageList(Project* project);
 
-    /// The files that are still registered stay without a list.
+    /// Files that are still registered are left without a list.
     ~MessageList() override;
 
-    /// The project, not owned.
+    /// The project. Not owned.
     Project* project() const;
 
-    /// The messages of each file in order of registration, not owned.
+    /// The messages of each file, in order of registration. Not owned.
     QList<Messages*> lists() const;
 
-    /// How many errors and warnings there were at the last `update()`.
+    /// The number of errors and warnings at the last `update()`.
     int errorCount() const;
     int warningCount() const;
 
-    /// Takes a file's messages in, at the end, and updates. The same messages
-    /// registered twice are shown twice. Messages of another list leave that one.
+    /// Appends a file's messages and updates. Messages that are registered
+    /// twice are shown twice. Messages that belong to another list are removed
+    /// from it.
     void registerMessages(Messages* messages);
 
-    /// Takes every entry of a file's messages out, and updates.
+    /// Removes all entries of a file's messages and updates.
     void unregisterMessages(Messages* messages);
 
-    /// Counts again, announces all rows as gone and then as new, and emits
-    /// `updated()`. Nothing is compared.
+    /// Counts again, removes and re-inserts all rows for the views, and emits
+    /// `updated()`. It does not check whether anything changed.
     void update();
 
-    /// A copy of the message of a row, with the kinds of its file in `id`. A
-    /// row outside of the list leaves `id` alone and gives an empty text.
+    /// A copy of the message in a row; `id` receives the kinds of its file. For
+    /// a row outside of the list the text is empty and `id` is left unchanged.
     Message messageAt(int row, FileID& id) const;
 
-    /// The messages that hold a row, and in `index` the message's place among
-    /// them; null for a row outside of the list.
+    /// The messages that a row belongs to; `index` receives the position among
+    /// them. Null for a row outside of the list.
     Messages* messagesAt(int row, int* index = nullptr) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
 
-    /// `Qt::DisplayRole` is "file (line) : text" with the line counted from 1.
-    /// `Qt::DecorationRole` is an icon by type below ":/icons/icons/": these
-    /// pictures are the host's, those of `Messages` the library's.
+    /// `Qt::DisplayRole` is "file (line) : text", with lines counted from 1.
+    /// `Qt::DecorationRole` is an icon by type from ":/icons/icons/". The host
+    /// supplies these icons, unlike those of `Messages`, which the library has.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
 signals:
-    /// The rows have been announced anew.
+    /// All rows have been reset.
     void updated();
 
 private:
@@ -74,7 +75,7 @@ private:
 
     Project* m_project;
     QList<Messages*> m_lists;
-    mutable QVector<int> m_starts;  ///< the first row of each list, and the end
+    mutable QVector<int> m_starts;  ///< first row of each list, then the total
     mutable bool m_startsStale = true;
     int m_errorCount = 0;
     int m_warningCount = 0;

@@ -97,8 +97,8 @@ void Messages::add(Message::Type type, const QString& text, int line, int column
     changed();
 }
 
-// Looks only from the hint on: reports that come in order go straight to the
-// end. Grammars and their tests rely on where a late report lands.
+// Searches only from the hint on, so that messages reported in order are appended quickly. Parsers
+// and their tests depend on where a late message ends up.
 void Messages::insert(Message::Type type, const QString& text, int line, int column)
 {
     int place = qMin(m->insertHint, m->messages.size());
@@ -153,7 +153,7 @@ void Messages::endChange()
 
 void Messages::notifyUpdate()
 {
-    // Who hears of it in the list of the project may close the file.
+    // A receiver of the project's update may close the file.
     const QPointer<Messages> self(this);
     if (m->list) {
         m->list->update();

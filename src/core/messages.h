@@ -14,79 +14,79 @@ class MessageList;
 class MessagesPrivate;
 class ProjectFile;
 
-/// The messages of one file, as a list model: one row a message.
+/// The messages of one file as a list model, one message per row.
 ///
-/// A change notifies: the list of the project, if there is one, is brought up
-/// to date, and `updated()` is emitted. Inside `beginChange()` and
-/// `endChange()` this waits for the end of the outermost frame, so that a full
-/// parse is told once. Main thread only.
+/// Every change updates the project's list, if there is one, and emits
+/// `updated()`. Between `beginChange()` and `endChange()` this is postponed
+/// until the outermost `endChange()`, so that a full parse notifies once. Main
+/// thread only.
 class ZORV_EXPORT Messages : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    /// Makes an empty list for `file`, which owns it.
+    /// Creates an empty list for `file`, which owns it.
     explicit Messages(ProjectFile* file);
 
-    /// Leaves the project's list, if there is one.
+    /// Unregisters from the project's list, if there is one.
     ~Messages() override;
 
-    /// The owner.
+    /// The file that owns the list.
     ProjectFile* file() const;
 
     /// The name under which the project shows the file: `Project::fileTitle()`
-    /// for its lowest kind; empty for a file without a project.
+    /// for its lowest kind. Empty for a file without a project.
     QString fileString() const;
 
-    /// How many messages there are of a type, or with `Message::AllTypes` in all.
+    /// The number of messages of a type; with `Message::AllTypes` of all types.
     int count(Message::Type type) const;
 
-    /// A copy of a message; an empty one for an index outside of the list.
+    /// A copy of a message; empty if `index` is out of range.
     Message at(int index) const;
 
     /// Appends a message.
     void add(Message::Type type, const QString& text, int line, int column);
 
-    /// Inserts a message for a grammar that reports from top to bottom.
+    /// Inserts a message. For parsers that report from top to bottom.
     ///
-    /// Searches forward from where the last message went, and puts the new one
-    /// behind the first message found that stands before it. In the middle of
-    /// a list this can be earlier than its true place: a document uses
-    /// `replaceLine()` for a line that is parsed again.
+    /// The search starts where the last message was inserted and goes forward.
+    /// The new message is placed after the first message found whose position
+    /// is smaller. In the middle of a list that can be too early. So a document
+    /// uses `replaceLine()` when it parses a line again.
     void insert(Message::Type type, const QString& text, int line, int column);
 
-    /// Removes the messages of a line, looking from the end of the list up to
-    /// the first message of a smaller line; the next `insert()` searches from
-    /// the top.
+    /// Removes the messages of a line. The search goes from the end of the list
+    /// back to the first message of a smaller line. The next `insert()` starts
+    /// at the top again.
     void clearLine(int line);
 
     /// Removes all messages.
     void clear();
 
-    /// Opens a frame of changes; frames nest.
+    /// Starts a group of changes. Groups can be nested.
     void beginChange();
 
-    /// Closes a frame. The outermost notifies, whether anything changed or not.
-    /// Does nothing if no frame is open.
+    /// Ends a group of changes. The outermost one notifies, even if nothing
+    /// changed. Does nothing without an open group.
     void endChange();
 
-    /// Notifies in any case.
+    /// Notifies, whether anything changed or not.
     void notifyUpdate();
 
-    /// Puts `messages` in the place of those of `line`, in a list that is in
-    /// order of line and column, and keeps that order. Each of `messages` must
-    /// have that line and their columns ascend. Takes O(log n) for a line in
-    /// which nothing changes in number.
+    /// Replaces the messages of `line` with `messages`. The list must be sorted
+    /// by line and column and stays so. All of `messages` must have this line
+    /// and be sorted by column. Takes O(log n) if the number of messages of the
+    /// line stays the same.
     void replaceLine(int line, const QVector<Message>& messages);
 
-    /// Follows an edit of the text, in a list that is in order: the messages of
-    /// the lines `first` to `first + removed - 1` go, and those of all later
-    /// lines move by `added - removed`. Repeated edits near one place cost
-    /// nothing for the messages elsewhere.
+    /// Adapts a sorted list to an edit of the text. The messages of lines
+    /// `first` to `first + removed - 1` are removed. Those of all later lines
+    /// move by `added - removed`. Repeated edits near the same place do not
+    /// touch the other messages.
     void moveLines(int first, int removed, int added);
 
-    /// The index of the first message whose line is `line` or later, in a list
-    /// that is in order; `count(Message::AllTypes)` if there is none.
+    /// The index of the first message whose line is `line` or later, in a
+    /// sorted list; `count(Message::AllTypes)` if there is none.
     int indexOfLine(int line) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

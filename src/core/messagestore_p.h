@@ -6,11 +6,12 @@
 
 namespace Zorv {
 
-/// A sequence of messages with a gap, where the text is being edited.
+/// A gap buffer of messages: the gap is where the text is being edited.
 ///
-/// Messages in front of the gap hold their line; those behind it hold it less
-/// a common offset. So inserting, removing and moving lines at the gap costs
-/// nothing for all other messages; moving the gap costs its distance.
+/// Messages before the gap store their line. Messages behind it store their
+/// line minus a common offset. So inserting, removing and moving lines at the
+/// gap does not touch the other messages. Moving the gap costs as much as its
+/// distance.
 class MessageStore
 {
 public:
@@ -23,7 +24,7 @@ public:
     void remove(int first, int count);
     void clear();
 
-    /// Moves the lines of all messages from `first` on.
+    /// Moves the lines of all messages from index `first` on.
     void shiftLines(int first, int by);
 
 private:
@@ -32,8 +33,8 @@ private:
     void moveGap(int index);
 
     std::vector<Message> m_front;
-    std::vector<Message> m_back;  ///< from the last message to the gap
-    int m_offset = 0;             ///< to be added to the lines in `m_back`
+    std::vector<Message> m_back;  ///< in reverse order: the last message comes first
+    int m_offset = 0;             ///< add this to the lines in `m_back`
 };
 
 }  // namespace Zorv

@@ -19,7 +19,7 @@ constexpr int MaxFolders = 1000;
 NewBackup::NewBackup(const QString& folder, const QString& name) : m_folder(folder), m_name(name)
 {
     Unfinished::clear(folder, Unfinished::BackupSuffix);
-    // A slash is no part of a name: the backup would lie elsewhere.
+    // A slash in the name would put the backup into another folder.
     if (name.contains(QLatin1Char('/')) || !QDir().mkpath(folder)) {
         return;
     }
@@ -30,7 +30,7 @@ NewBackup::NewBackup(const QString& folder, const QString& name) : m_folder(fold
             return;
         }
     }
-    // A name that cannot be given shows here.
+    // Creating the folder now shows early whether the file system accepts the name.
     const QString path = m_hidden + QLatin1Char('/') + name + QLatin1Char('/');
     if (QDir().mkpath(path)) {
         m_path = path;

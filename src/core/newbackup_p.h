@@ -4,27 +4,27 @@
 
 namespace Zorv {
 
-/// The folder of a backup that is being made: it has its name only once it is complete.
+/// The folder of a backup in progress. It gets its final name only when it is complete.
 ///
-/// It stands below a hidden folder that is locked, and is removed unless it was finished. What
-/// programs that are gone have left of theirs goes first.
+/// Until then it is inside a hidden, locked folder, which the destructor removes unless `finish()`
+/// succeeded. The constructor first removes what crashed programs have left.
 class NewBackup
 {
 public:
-    /// `folder` is that of all backups.
+    /// `folder` contains all backups.
     NewBackup(const QString& folder, const QString& name);
     ~NewBackup();
     NewBackup(const NewBackup&) = delete;
     NewBackup& operator=(const NewBackup&) = delete;
 
-    /// Where the files go, ends in "/"; empty if the folder could not be made.
+    /// The folder for the files, with "/" at its end. Empty if it could not be created.
     QString path() const { return m_path; }
 
-    /// Gives it its name. If there is one of this name, made in the same second, the files
-    /// join those of that one. False if the name cannot be given.
+    /// Gives the folder its final name. If a backup with this name exists, made in the same second,
+    /// the files are added to it. Returns false if renaming fails.
     bool finish();
 
-    /// True for the name of a folder that is none of these.
+    /// True if `name` is not that of an unfinished backup.
     static bool isWholeName(const QString& name);
 
 private:

@@ -16,7 +16,8 @@ class Progress;
 class EngineProcess;
 class EngineRun;
 
-/// The private part of a parent project is itself the root of its tree.
+/// The private data of a `ParentProject`, which is also the root node of its
+/// tree.
 class ParentProjectPrivate : public QObject, public DirectoryPath
 {
 public:
@@ -30,11 +31,12 @@ public:
 
     QModelIndex indexOf(BasePath* path) const;
 
-    /// The components of a path below the root; empty for the root.
+    /// The components of a path below the root. Empty for the root itself.
     QStringList splitPath(const QString& path) const;
     BasePath* findPath(const QString& path);
 
-    /// Adds what is missing of a path below `parentPath`; null for no component.
+    /// Adds the missing folders of a path below `parentPath`. Null if the path
+    /// has no component.
     BasePath* addPath(BasePath* parentPath, const QString& path, ParentProject::PathType type,
                       const QStringList& filters);
     void removePath(const QString& path);
@@ -42,28 +44,28 @@ public:
     void addRef(CodeDocument* main);
     void release(Project* project);
 
-    /// Brings the files of a project's node up to date, if their list differs
-    /// from the last one.
+    /// Updates the files shown below a project's node, if the list has changed.
     void updateProjectFiles(CodeDocument* main);
 
     static void listProjects(const BasePath* path, QStringList& list);
 
-    /// Lets the tree stand for another folder. What is listed is that of the new
-    /// one, and open projects stand where their main documents are now.
+    /// Changes the root folder of the tree. Listed folders are read again from
+    /// the new root, and open projects move to where their main documents are
+    /// now.
     void moveRoot(const QString& rootPath);
 
-    /// The open projects. The display of a piece of work may let the person
-    /// close one meanwhile.
+    /// The open projects. Guarded pointers, because the user may close a
+    /// project while the progress display processes events.
     QVector<QPointer<Project>> openProjects() const;
 
-    /// Forgets what the last piece of work has left.
+    /// Clears the results of the last operation.
     void beginWork();
 
-    /// Takes over what `saveAll()` could not write. `place` is the project's
-    /// folder relative to the root.
+    /// Collects the files that `saveAll()` could not write. `place` is the
+    /// project's folder relative to the root.
     void addFailedFiles(const Project& project, const QString& place);
 
-    /// The work of the operations on all projects.
+    /// The implementation of the operations on all projects.
     bool copyProjects(const QString& folder);
     void copyBackup(const QString& source);
     void saveProjectAs(Project* project, const QString& fileName);
@@ -85,7 +87,7 @@ public:
     bool runnable = true;  ///< false while an engine runs
     RunResult runResult;
     QPointer<EngineProcess> engine;
-    EngineRun* engineRun = nullptr;  ///< while its engine runs
+    EngineRun* engineRun = nullptr;  ///< null unless an engine is running
 
 private:
     using FileSet = QHash<QString, FileID>;

@@ -149,7 +149,7 @@ ChildrenChange::~ChildrenChange()
     }
 }
 
-/// One line of a folder's listing: a node that stays, or the name of a new one.
+/// One entry of a folder's listing: an existing node, or the name of a new one.
 struct DirectoryPath::Entry
 {
     QString name;
@@ -163,7 +163,7 @@ DirectoryPath::DirectoryPath(BasePath* parentPath, const QString& name,
 {
 }
 
-// The children look up through this folder when they leave the watcher.
+// The children use this folder to find the watcher, so they must be destroyed first.
 DirectoryPath::~DirectoryPath()
 {
     takeChildren().clear();
@@ -243,7 +243,7 @@ void DirectoryPath::update()
     }
 }
 
-// What an open project shows under a name stands for the entry on disk as well.
+// If an open project already shows a node with this name, the entry on disk is skipped.
 std::vector<DirectoryPath::Entry> DirectoryPath::listEntries() const
 {
     const QDir dir(absolutePath());
@@ -267,8 +267,8 @@ std::vector<DirectoryPath::Entry> DirectoryPath::listEntries() const
     return entries;
 }
 
-// Folders go to the end, files in front of the first greater name: where they
-// would stand if their project were opened now.
+// Adds what open projects show beyond the listing. Folders go to the end, files in front of the
+// first greater name. That is where they would be if their project were opened now.
 void DirectoryPath::addOpenEntries(std::vector<Entry>& entries) const
 {
     QSet<BasePath*> listed;

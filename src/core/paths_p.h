@@ -14,11 +14,10 @@ class QFileSystemWatcher;
 
 namespace Zorv {
 
-/// The common part of all nodes of the path tree.
+/// The base of all nodes of the path tree.
 ///
-/// The first `shownCount()` children are what the model shows. While a
-/// `ChildrenChange` lasts that is none, and the children may change at will,
-/// with all that is below them.
+/// The model shows the first `shownCount()` children. During a `ChildrenChange`
+/// that is none, so the children and everything below them can change freely.
 class BasePath : public ParentProject::Path
 {
 public:
@@ -32,16 +31,16 @@ public:
     bool isFile() const override;
     FileID fileID() const override;
 
-    /// Announces that the children of a node go, or that they are there; both
-    /// are passed up to the root, which knows the model.
+    /// Announce that the children of a node are about to disappear, or have
+    /// appeared. Both calls are passed up to the root, which knows the model.
     virtual void childsRemoved(BasePath* path);
     virtual void childsAdded(BasePath* path);
     virtual QFileSystemWatcher* watcher();
 
-    /// What the node lists of its own accord.
+    /// What the node reads from disk and lists.
     virtual ParentProject::PathType listing() const;
 
-    /// The path from the root, empty for the root.
+    /// The path relative to the root; empty for the root.
     QString completePath() const;
 
     BasePath* parentPath() const { return m_parentPath; }
@@ -53,36 +52,37 @@ public:
     BasePath* child(const QString& name) const { return m_byName.value(name); }
     int shownCount() const { return m_shown; }
 
-    /// True if the model shows the node and all above it.
+    /// True if the model shows this node and all its ancestors.
     bool isShown() const;
 
-    /// True while a `ChildrenChange` on this node lasts.
+    /// True during a `ChildrenChange` on this node.
     bool isHidden() const { return m_hidden; }
 
-    /// Names must differ among the children of a node. What changes in the
-    /// middle of the list is not shown any more, with all that is behind it.
+    /// Names must be unique among the children of a node. Inserting hides all
+    /// children from `index` on, until `showChildren()`.
     void insertChild(int index, std::unique_ptr<BasePath> child);
     std::vector<std::unique_ptr<BasePath>> takeChildren();
     void removeChild(BasePath* child);
 
-    /// Hides all children, or shows them and gives them their rows. The root
-    /// does it between the announcements; elsewhere the node must not be shown.
+    /// Hides all children, or shows them and updates their rows. The root calls
+    /// these between the announcements to the model. Any other caller must make
+    /// sure that the node is not shown.
     void hideChildren();
     void showChildren();
 
-    /// The open projects whose folder this is.
+    /// The open projects in this folder.
     const QVector<Project*>& projects() const { return m_projects; }
     void addProject(Project* project) { m_projects.append(project); }
     void removeProject(Project* project) { m_projects.removeOne(project); }
 
-    /// True for an open project's folder and for one that lists: such a node
-    /// does not go with a list of files.
+    /// True if the node must stay even when no project file needs it: it is the
+    /// folder of an open project, or it lists.
     bool isAnchor() const { return !m_projects.isEmpty() || listing(); }
 
-    /// True if an anchor is at or below the node.
+    /// True if this node or one below it is an anchor.
     bool holdsAnchor() const;
 
-    /// True if something of an open project is at or below the node.
+    /// True if this node or one below it belongs to an open project.
     bool holdsProject() const;
 
 private:
@@ -96,8 +96,8 @@ private:
     bool m_hidden = false;
 };
 
-/// Takes the children of a node out of the model's sight, and shows what they
-/// have become at its end. Changes of one node may nest.
+/// Hides the children of a node from the model, and shows the new ones when it
+/// is destroyed. Changes on the same node can be nested.
 class ChildrenChange
 {
 public:
@@ -124,15 +124,16 @@ public:
     bool isProject() const override;
     ParentProject::PathType listing() const override;
 
-    /// Watches the folder and takes its entries in, if it lists.
+    /// Watches the folder and reads its entries, if it lists.
     void startListing();
 
-    /// Ends that, also below, and drops all that belongs to no open project.
+    /// Stops listing, here and below, and removes everything that belongs to no
+    /// open project.
     void stopListing();
 
-    /// Brings the children in line with the disk. Nodes of entries that are
-    /// still there stay, and so does all that belongs to an open project.
-    /// Nothing is announced if nothing changed.
+    /// Synchronises the children with the disk. Nodes of entries that still
+    /// exist are kept, and so is everything that belongs to an open project.
+    /// Nothing is announced if nothing has changed.
     void update();
 
 private:
@@ -159,13 +160,13 @@ private:
     FileID m_id;
 };
 
-/// A file that a listed folder shows; it belongs to no open project.
+/// A file shown by a folder that lists. It belongs to no open project.
 class DummyPath : public BasePath
 {
 public:
     using BasePath::BasePath;
 
-    /// That of its folder.
+    /// The path of its folder.
     QString absolutePath() const override;
     bool isProject() const override;
 };

@@ -8,6 +8,20 @@
 
 #include <algorithm>
 
+// How the tree follows disk and projects:
+//
+// The node of an open project is the folder of its main document. Below it are the files from
+// `Project::fileInfos()`. When the main document changes, this list is compared with the previous
+// one, and the tree is only touched if they differ. Folders that list are watched and re-read by
+// `DirectoryPath::update()`.
+//
+// Both sources share the nodes, so a node is only removed if neither needs it.
+//
+// The children of a node change in three steps: the model announces the removal of all shown
+// children, they change while they are hidden, and the model announces the insertion of all new
+// ones (`ChildrenChange`). This is simpler than announcing each row, and it also covers changes
+// further below.
+
 namespace Zorv {
 
 namespace {
@@ -23,13 +37,13 @@ QString withoutLastSlash(const QString& path)
     return result;
 }
 
-/// As a listing sorts them.
+/// The sort order of a folder's listing.
 bool isBefore(const BasePath* a, const BasePath* b)
 {
     return a->pathName().compare(b->pathName(), Qt::CaseInsensitive) < 0;
 }
 
-/// A folder that its parent lists, and that stands where a new listing would show it.
+/// True for a folder that its parent lists, at the position a new listing would give it.
 bool isListedFolder(const BasePath* node)
 {
     const BasePath* parent = node->parentPath();
@@ -66,7 +80,7 @@ ParentProjectPrivate::ParentProjectPrivate(ParentProject* parentProject, const Q
     }
 }
 
-// Folders that are watched leave the watcher, which dies before their base.
+// Watched folders deregister from the watcher, which is destroyed before the base class.
 ParentProjectPrivate::~ParentProjectPrivate()
 {
     takeChildren().clear();
@@ -175,14 +189,14 @@ void ParentProjectPrivate::removeNode(BasePath* node)
 {
     BasePath* parentPath = node->parentPath();
     if (isListedFolder(node)) {
-        // Listing anew for each of many projects would take the square of their count.
+        // Listing the folder again for each of many projects would take quadratic time.
         const ChildrenChange change(node);
         node->takeChildren().clear();
         return;
     }
     const ChildrenChange change(parentPath);
     parentPath->removeChild(node);
-    // A folder that lists shows the project again, as one that is not open.
+    // The folder lists the project again, now as a closed one.
     if (parentPath->isDirectory()) {
         static_cast<DirectoryPath*>(parentPath)->update();
     }
@@ -395,15 +409,14 @@ void ParentProjectPrivate::removeIfNotExists(BasePath* node, const QString& pref
     if (!node->isHidden()) {
         node->showChildren();
     }
-    // Behind a file that goes, the folder's own entry may come back.
+    // The removed file may have hidden an entry of the folder with the same name.
     if (node->childCount() < before && node->listing()) {
         reduced.append(static_cast<DirectoryPath*>(node));
     }
 }
 
-// The full path of a file is compared with paths relative to the project: the
-// two agree only for a project at the root. Elsewhere its files go here and
-// come back in addFiles().
+// Compares the full path of a file with paths relative to the project. They only match for a
+// project at the root. In other projects the files are removed here and addFiles() adds them again.
 bool ParentProjectPrivate::staysInTree(BasePath* child, const QString& path, const FileSet& files,
                                        QVector<DirectoryPath*>& reduced)
 {
@@ -440,7 +453,7 @@ void ParentProjectPrivate::addFiles(BasePath* node, const QList<Project::FileInf
         if (target->child(name)) {
             continue;
         }
-        // The names mostly ascend, so that the search goes on where it ended.
+        // The names are mostly sorted, so the search continues from the last position.
         int& place = places[target];
         if (place > 0 && name < target->childAt(place - 1)->pathName()) {
             place = 0;

@@ -8,27 +8,27 @@ namespace Zorv {
 
 class ProgressReporter;
 
-/// What a person sees of a piece of work, as long as the object lives. It asks
-/// `Interface::progress()` for the display and ends it; without a host nothing is shown. Used in
-/// the main thread. A display may process events, so what the work is done on may be gone behind
-/// each call.
+/// Shows the progress of an operation to the user while the object exists. It gets its display from
+/// `Interface::progress()` and ends it. Without a host nothing is shown. Main thread only. Each
+/// call may process events, so check afterwards that the objects you work on still exist.
 class ZORV_EXPORT Progress
 {
 public:
-    /// `title` says what is done. `maximum` is the count of its steps; 0 if it is told later.
+    /// `title` describes the operation. `maximum` is the number of steps; 0 if it will be set
+    /// later.
     Progress(const QString& title, int maximum);
     ~Progress();
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    /// Another step is done. False once the person has given the work up.
+    /// One more step is done. Returns false once the user has cancelled.
     bool step() { return update(m_value + 1); }
 
-    /// `value` steps are done, of `maximum` from now on; a `maximum` of 0 leaves it as it was.
-    /// False once the person has given the work up.
+    /// `value` steps are done, out of `maximum` from now on. A `maximum` of 0 keeps the previous
+    /// one. Returns false once the user has cancelled.
     bool update(int value, int maximum = 0);
 
-    /// True once a step was answered with false.
+    /// True once a step has returned false.
     bool isCanceled() const { return m_isCanceled; }
 
 private:

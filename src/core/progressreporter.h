@@ -4,21 +4,20 @@
 
 namespace Zorv {
 
-/// A running piece of work as the person sees it; made by `Interface::progress()`.
+/// The progress display of a running operation; created by `Interface::progress()`.
 class ZORV_EXPORT ProgressReporter
 {
 public:
-    /// Moves the display. A `maximum` above 0 sets the length of the work; 0
-    /// leaves it as it was. The library calls once with value 0 and the real
-    /// maximum, then with each value and maximum 0.
+    /// Updates the display. A `maximum` above 0 sets the total; 0 keeps the previous one. The
+    /// library calls this once with value 0 and the real maximum, then with each value and maximum
+    /// 0.
     virtual void update(int value, int maximum) = 0;
 
-    /// True once the person has given the work up. Work that can stop where all
-    /// is whole asks after each step; the rest goes on to its end. False unless a
-    /// host overrides it.
+    /// True once the user has cancelled. Operations that can stop in a consistent state check it
+    /// after each step; the others run to the end. False unless a host overrides it.
     virtual bool isCanceled() const;
 
-    /// Ends the display and disposes of the reporter.
+    /// Ends the display and deletes the reporter.
     virtual void finish() = 0;
 
 protected:

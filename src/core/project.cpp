@@ -19,7 +19,8 @@ namespace Zorv {
 
 namespace {
 
-/// Who releases an editor takes it off its document, which would do so again.
+/// Detaches an editor from its document, because the document would release the editor a second
+/// time.
 void leaveDocument(ProjectFile* file)
 {
     auto* editor = dynamic_cast<CodeDocumentEditor*>(file);
@@ -48,8 +49,8 @@ Project::~Project()
     }
 }
 
-// A host may delete the project in the release of its main document. That would
-// release its editors as well, so those that are files of the project leave it.
+// A host may delete the project when its main document is released. The document also releases its
+// editors. So editors that are files of the project are detached first.
 void Project::release()
 {
     const QPointer<Project> self(this);
@@ -108,8 +109,8 @@ void Project::reload()
     }
 }
 
-// A file that is registered again joins the messages again: a project shows
-// them once for each registration.
+// Registering a file again adds its messages again, so the project shows them once per
+// registration.
 void Project::addFile(ProjectFile* file, FileID id)
 {
     Project* former = file->d->project;

@@ -25,12 +25,11 @@ class ProjectPrivate;
 
 /// One editable unit of a game folder: a main code document and its files.
 ///
-/// The class keeps the registration of files by kind, the settings between file
-/// and host, and the save of all files at once. It knows no file format: a host
-/// derives from it, says which files belong to a project and makes them. The
-/// registered files are owned by the project in this sense: `release()` and
-/// `removeFile()` hand them back through `ProjectFile::release()`. The project
-/// itself is the host's to delete. Main thread only.
+/// The class manages the registration of files by kind, the settings between file and host, and
+/// saving all files at once. It knows no file format. A host derives from it, decides which files
+/// belong to a project and creates them. The project owns the registered files in this sense:
+/// `release()` and `removeFile()` call `ProjectFile::release()` on them. The host deletes the
+/// project itself. Main thread only.
 class ZORV_EXPORT Project : public QObject
 {
     Q_OBJECT
@@ -45,87 +44,81 @@ public:
         QString path;  ///< relative to the project's folder
     };
 
-    /// Makes a project on its main document and registers it under `id`. The
-    /// settings "parseCode" and "highlightCode" of the document move to the
-    /// project, so that all its files share them.
+    /// Creates a project for its main document and registers the document under `id`. The
+    /// document's settings "parseCode" and "highlightCode" move to the project, so that all its
+    /// files share them.
     Project(ParentProject* parent, CodeDocument* mainDocument, FileID id);
     ~Project() override;
 
-    /// The name of the project for the person.
+    /// The display name of the project.
     virtual QString title() const = 0;
 
-    /// Ends the project: its own archive is released, the `ParentProject`
-    /// forgets it, and every file is released.
+    /// Closes the project: releases its own archive, unregisters from the `ParentProject` and
+    /// releases all files.
     virtual void release();
 
-    /// True if every file is empty, and for no file at all.
+    /// True if every file is empty, or if there are no files.
     virtual bool isEmpty() const;
 
-    /// Loads the files that the main document refers to and that are not
-    /// registered yet.
+    /// Loads the files that the main document refers to and that are not yet registered.
     virtual void loadFiles() = 0;
 
     /// The kinds of file that this project can hold.
     virtual FileID fileTypes() const = 0;
 
-    /// Makes and registers an empty file of a kind; null if that kind cannot be made.
+    /// Creates and registers an empty file of a kind. Null if that kind cannot be created.
     virtual ProjectFile* newFile(FileID::Type type) = 0;
 
-    /// Where a file that the main document names by `path` lies: relative to
-    /// the project's folder.
+    /// Resolves a `path` in the main document to a path relative to the project's folder.
     virtual QString resolvePath(const QString& path) const = 0;
 
-    /// The name under which the file at that place of the list of that kind is
-    /// shown to the person. `index` may be -1.
+    /// The display name of file number `index` of this kind. `index` may be -1.
     virtual QString fileTitle(FileID::Type type, int index) const = 0;
 
-    /// The selected file of a kind, the first one if the selection is stale,
-    /// null if there is none. `file(FileID::MainCode)` is the main document.
+    /// The selected file of a kind. The first one if the selection is out of range, null if there
+    /// is none. `file(FileID::MainCode)` is the main document.
     virtual ProjectFile* file(FileID::Type type) const;
 
     /// Appends every file that the main document refers to, loaded or not.
     virtual void fileInfos(QList<FileInfo>& list) = 0;
 
-    /// The screen of the game in pixels, and by how much its pixels are larger than those of
-    /// sprites in x and y. As they stand here, empty and 0: nothing is known.
+    /// The screen size of the game in pixels, and the size of its pixels relative to sprite pixels
+    /// in x and y. Empty and 0 by default, which means unknown.
     virtual QSize gameSize() const;
     virtual QPointF scale() const;
 
-    /// Writes the whole project below the folder `path`, which ends in a
-    /// separator, keeping the project's place below its parent folder.
+    /// Writes the whole project below the folder `path`, which ends with a separator. The project
+    /// keeps its place relative to the parent's folder.
     ///
-    /// With `asCopy` files keep their identity: what is modified is written
-    /// from memory, everything else that the project refers to travels as
-    /// bytes. Without it every file moves to the new place, except the main
-    /// document, which the caller writes. A file outside of the project's
-    /// folder is neither written nor copied. `files`, if given, takes the
-    /// relative path of every file, at its end. Several files of one kind are
-    /// all kept.
+    /// With `asCopy` all files keep their identity: modified files are written from memory, and
+    /// everything else the project refers to is copied byte by byte. Without it all files move to
+    /// the new place, except the main document, which the caller must write. Files outside the
+    /// project's folder are neither written nor copied. `files` (if given) gets the relative paths
+    /// of all files appended. Several files of one kind are all kept.
     virtual void saveAll(const QString& path, bool asCopy, QStringList* files);
 
-    /// The files of which the last `saveAll()` could not write or copy the
-    /// target, as relative paths.
+    /// The relative paths of the files that the last `saveAll()` could not write or copy.
     QStringList failedFiles() const;
 
-    /// Reads every file again that exists on disk.
+    /// Reloads every file that exists on disk.
     virtual void reload();
 
-    /// Registers a file under the kinds of `id`, beside those that it has. Its
-    /// messages join those of the project: once more for each call. A file of
-    /// another project leaves that one; a file that dies leaves its project.
+    /// Registers a file under the kinds of `id`, in addition to the ones it has. Its messages are
+    /// added to the project's, once per call. A file is removed from its previous project, if that
+    /// is another one. A file that is destroyed removes itself.
     void addFile(ProjectFile* file, FileID id);
 
-    /// Takes a file out of every list and returns it. Its messages stay in the
-    /// project's list, and go when the file dies.
+    /// Removes a file from all lists and returns it. Its messages stay in the project's list until
+    /// the file is destroyed.
     ProjectFile* takeFile(ProjectFile* file);
 
-    /// Takes a file out and releases it.
+    /// Removes a file and releases it.
     void removeFile(ProjectFile* file);
 
-    /// Takes a file out of one list; releases it if that was its only kind.
+    /// Removes a file from one list. Releases it if it has no other kind.
     void removeFile(FileID::Type type, unsigned index);
 
-    /// Moves a file inside the list of a kind; nothing if an index is out of range.
+    /// Moves a file within the list of a kind. Does nothing if an index is out of range.
     void moveFile(FileID::Type type, unsigned from, unsigned to);
 
     QList<ProjectFile*> files() const;
@@ -134,7 +127,7 @@ public:
     /// The files of one kind in their order; empty for an unknown kind.
     QList<ProjectFile*> filesByType(FileID::Type type) const;
 
-    /// The kinds of a file; 0 for a stranger.
+    /// The kinds of a file; 0 if it is not registered here.
     FileID fileID(ProjectFile* file) const;
 
     unsigned selectedFile(FileID::Type type) const;
@@ -146,8 +139,8 @@ public:
     /// The folder of the main document, with "/" at its end.
     QString absolutePath() const;
 
-    /// The project's folder relative to the parent's: `absolutePath()` without
-    /// as many characters as that of the parent has. The text is not compared.
+    /// The project's folder relative to the parent's folder. It removes as many characters from
+    /// `absolutePath()` as the parent's path has, without comparing them.
     QString basePath() const;
 
     /// The messages of all files.
@@ -155,27 +148,26 @@ public:
 
     ParentProject* parent() const;
 
-    /// The `projectKind()` of the main document, as it was at construction.
+    /// The `projectKind()` of the main document at construction time.
     int kind() const;
 
-    /// Where the project's files live. Not owned.
+    /// The archive with the project's files. Not owned.
     Archive* archive() const;
     void setArchive(Archive* archive);
 
-    /// Registers the project in the tree of its parent. The host calls it once
-    /// the files are registered.
+    /// Registers the project in its parent's tree. The host calls it after registering the files.
     void addToParent();
 
-    /// A setting: the project's own value, else the host's.
+    /// A setting: the project's own value if it has one, otherwise the host's.
     QVariant option(const QString& key) const;
 
-    /// Stores a setting in the project, and with `global` in the host first; a
-    /// null value removes it.
+    /// Stores a setting in the project; with `global` also in the host, first. A null value removes
+    /// it.
     void setOption(const QString& key, const QVariant& value, bool global);
 
 protected:
-    /// For a `saveAll()` that writes more files: takes up one that failed, by its path
-    /// relative to the project.
+    /// For a `saveAll()` that writes more files: reports a file that failed, by its path relative
+    /// to the project.
     void addFailedFile(const QString& path);
 
 private:
@@ -189,7 +181,7 @@ private:
     Archive* m_archive;
 };
 
-/// Orders files by path, with case.
+/// Sorts files by path, case-sensitive.
 struct CompareProjectFile
 {
     bool operator()(const Project::FileInfo& a, const Project::FileInfo& b) const

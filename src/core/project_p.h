@@ -9,7 +9,7 @@
 
 namespace Zorv {
 
-/// The private part of a project is itself the list of all its messages.
+/// The private data of a project, which is also the list of all its messages.
 class ProjectPrivate : public MessageList
 {
 public:
@@ -18,29 +18,29 @@ public:
     {
     }
 
-    /// Copies files of the project, by their relative paths, to `targetRoot`, which
-    /// lies in the folder `path`; the work of `saveAll()`.
+    /// Copies files of the project, given by relative paths, to `targetRoot`, which is inside the
+    /// folder `path`. Part of `saveAll()`.
     void copyFiles(const QStringList& names, const QString& path, const QString& targetRoot);
 
     ParentProject* parent;
     QMap<QString, QVariant> options;
-    QSet<ProjectFile*> known;  ///< all that point to the project, also those taken out
+    QSet<ProjectFile*> known;  ///< all files that point to this project, even if taken out
     QMap<ProjectFile*, FileID> fileIDs;
     QMap<FileID::Type, unsigned> selected;
     QMap<FileID::Type, QList<ProjectFile*>> files;
     QStringList failedFiles;
-    bool hasWriteFailure = false;  ///< of `saveAll()`: more than files that are not there
+    bool hasWriteFailure = false;  ///< `saveAll()` failed for more than missing source files
 };
 
-/// Where a project and its files live, to go back there from a half-done move.
+/// Remembers where a project and its files are, to go back after an incomplete move.
 class Project::Place
 {
 public:
     explicit Place(Project* project);
 
-    /// Archives, and names and modified states of documents, are what they were.
-    /// Files of other classes are read again at their old place, and take unsaved
-    /// changes over from the new one; one that is not there any more stays at the new.
+    /// Restores the archives, and the names and modified states of documents. Files of other
+    /// classes are reloaded from their old place, with unsaved changes taken from the new place. If
+    /// the old file no longer exists, such a file stays at the new place.
     void goBack();
 
 private:

@@ -14,99 +14,97 @@ class Messages;
 class Project;
 class ProjectFilePrivate;
 
-/// The common face of everything that a project holds.
+/// The common base of everything that a project contains.
 ///
-/// The flag `asCopy` has one meaning everywhere: the content moves, but the
-/// file keeps its identity. After `fromFile()` with it the file keeps its name
-/// and archive and counts as modified; after `toFile()` with it name, archive
-/// and modified state are as they were. Main thread only.
+/// The flag `asCopy` always means: the content is transferred, but the file keeps its identity.
+/// After `fromFile()` with `asCopy` the file keeps its name and archive and counts as modified.
+/// After `toFile()` with `asCopy` its name, archive and modified state are unchanged. Main thread
+/// only.
 class ZORV_EXPORT ProjectFile
 {
 public:
     ProjectFile();
 
-    /// Releases the file's own archive if it differs from its project's. A
-    /// file without a project must have none.
+    /// Releases the file's own archive if it differs from the project's. A file without a project
+    /// must not have an archive.
     virtual ~ProjectFile();
 
-    /// Where the file came from; `FileSystemArchive` if it has no other.
+    /// The archive the file came from. By default `FileSystemArchive`.
     virtual Archive* archive() const;
 
-    /// The project that the file is registered in, or null.
+    /// The project in which the file is registered, or null.
     virtual Project* project() const;
 
-    /// What the grammar says about the file; never null.
+    /// The parser's messages about the file; never null.
     virtual Messages* messages() const;
 
-    /// The number of problems of the file.
+    /// The number of problems in the file.
     virtual int checkErrors() = 0;
 
-    /// Bit 0 marks a file that is never saved on its own.
+    /// Bit 0 means that the file is never saved on its own.
     virtual int capabilities() const;
 
     /// True if the file can be written now.
     virtual bool canSave() const;
 
-    /// True if there is something to save.
+    /// True if there are unsaved changes.
     virtual bool isModified() const;
 
-    /// True if there is nothing in the file.
+    /// True if the file has no content.
     virtual bool isEmpty() const = 0;
 
-    /// Empties the file and takes its name away.
+    /// Removes the content and the name.
     virtual void reset();
 
-    /// Writes the file. On false nothing on disk has changed; `errorString()`
-    /// tells why.
+    /// Writes the file. On false nothing on disk has changed; `errorString()` gives the reason.
     virtual bool toFile(Archive& archive, const QString& fileName, bool asCopy);
 
-    /// Reads the file. On false the content in memory is as it was;
-    /// `errorString()` tells why.
+    /// Reads the file. On false the content in memory is unchanged; `errorString()` gives the
+    /// reason.
     virtual bool fromFile(Archive& archive, const QString& fileName, bool asCopy);
 
     /// The path of the file, empty if it has none yet.
     virtual QString fileName() const;
 
-    /// Opens and closes a step of undo that holds several edits. `title` is
-    /// the name of the step.
+    /// Start and end an undo step that combines several edits. `title` is the name of the step.
     virtual void beginChange(const QString& title);
     virtual void endChange();
 
     virtual void undo();
     virtual void redo();
 
-    /// True if there is a step to undo or redo. A file without a history has none.
+    /// True if there is a step to undo or redo. Always false for files without a history.
     virtual bool canUndo() const;
     virtual bool canRedo() const;
 
-    /// The title of that step, as `beginChange()` was given it; empty for a step without one.
+    /// The title of that step, as passed to `beginChange()`. Empty for a step without a title.
     virtual QString undoTitle() const;
     virtual QString redoTitle() const;
 
-    /// Gives the file up; how its object dies is the host's.
+    /// Gives up the file. The host decides how the object is deleted.
     virtual void release() = 0;
 
-    /// True if the file must be looked at again when its project's main
-    /// document changes; the library does not ask.
+    /// True if the file must be checked again when its project's main document changes. The library
+    /// does not use this.
     virtual bool dependsOnMain() const;
 
-    /// Why the last `fromFile()` or `toFile()` failed, in words for the person
-    /// (what, where, what to do); empty after a success.
+    /// The reason why the last `fromFile()` or `toFile()` failed, in words for the user (what,
+    /// where, what to do). Empty after a success.
     QString errorString() const;
 
-    /// A setting: the file's own value, else the project's, else the host's.
+    /// A setting: the file's own value, otherwise the project's, otherwise the host's.
     QVariant option(const QString& key) const;
 
-    /// Stores a setting, a null value removes it. With `inProject`, and in a
-    /// project, it goes to the project (and with `global` to the host too);
-    /// otherwise to the file itself.
+    /// Stores a setting; a null value removes it. With `inProject`, and if the file is in a
+    /// project, it is stored in the project (with `global` also in the host). Otherwise it is
+    /// stored in the file itself.
     void setOption(const QString& key, const QVariant& value, bool inProject, bool global);
 
 protected:
-    /// Sets the file's own archive; null for `FileSystemArchive`. Not owned.
+    /// Sets the file's own archive; null means `FileSystemArchive`. Not owned.
     void setArchive(Archive* archive);
 
-    /// For `fromFile()` and `toFile()` of a derived class.
+    /// For the `fromFile()` and `toFile()` of derived classes.
     void setErrorString(const QString& text);
 
 private:

@@ -10,7 +10,7 @@ namespace Zorv {
 
 class Project;
 
-/// The private part of a file is itself the list of its messages.
+/// The private data of a file, which is also the list of its messages.
 class ProjectFilePrivate : public Messages
 {
 public:

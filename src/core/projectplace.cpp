@@ -28,7 +28,7 @@ void Project::Place::goBack()
     for (const File& file : qAsConst(m_files)) {
         takeDocumentBack(file);
     }
-    // Views on a document have its name: they are back with it.
+    // A view of a document has the document's name, so it may be restored already.
     for (const File& file : qAsConst(m_files)) {
         if (file.file->fileName() != file.name && !file.name.isEmpty()) {
             readBack(file);
@@ -43,7 +43,7 @@ void Project::Place::takeDocumentBack(const File& file)
 {
     auto* document = dynamic_cast<CodeDocument*>(file.file);
     if (document && document->fileName() != file.name) {
-        // The watch moves while the document still has the new name.
+        // Move the watch while the document still has the new name.
         document->FileWatchObject::fromFile(*document->archive(), file.name, false);
         document->setFileName(file.name);
         document->setModified(file.isModified);
@@ -51,7 +51,8 @@ void Project::Place::takeDocumentBack(const File& file)
     }
 }
 
-// Only reading gives another class its name back. Its unsaved content is at the new place by now.
+// Other classes get their name back only by reading. Their unsaved content has already been saved
+// to the new place.
 void Project::Place::readBack(const File& file)
 {
     const QString written = file.file->fileName();

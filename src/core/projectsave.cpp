@@ -19,7 +19,7 @@ namespace {
 
 using PendingFile = std::pair<quint32, QString>;
 
-/// The files that are still to be written or copied, by kind and relative path.
+/// The files still to be written or copied, by kind and relative path.
 class PendingFiles
 {
 public:
@@ -46,7 +46,7 @@ public:
         return it != m_files.end() && it->first == id ? it->second : QString();
     }
 
-    /// Whatever leads to a written path is done, under each kind and spelling.
+    /// Removes all entries that refer to this path, under any kind and spelling.
     void removePath(const QString& path)
     {
         const QString clean = QDir::cleanPath(path);
@@ -59,7 +59,7 @@ private:
     std::set<PendingFile> m_files;
 };
 
-// A reference like "../../x" must not write outside of the target folder.
+// A reference like "../../x" must not write outside the target folder.
 bool isBelow(const QString& fileName, const QString& folder)
 {
     QString base = QDir::cleanPath(folder);
@@ -69,7 +69,7 @@ bool isBelow(const QString& fileName, const QString& folder)
     return QDir::cleanPath(fileName).startsWith(base);
 }
 
-// A place that was joined with a doubled slash is the same place.
+// Paths that differ only by a doubled slash are equal.
 QString cleanName(const QString& fileName)
 {
     return fileName.isEmpty() ? fileName : QDir::cleanPath(fileName);

@@ -32,7 +32,7 @@ QIcon resourceIcon(const QString& path)
     QIcon& icon = icons()[path];
     if (icon.isNull()) {
         icon = QIcon(path);
-        // Qt finds the picture for twice the pixels by itself, and knows no other.
+        // Qt finds the "@2x" picture by itself, but not this one.
         icon.addFile(
             QString(path).insert(path.lastIndexOf(QLatin1Char('.')), QLatin1String("@1.5x")));
     }

@@ -4,8 +4,8 @@
 
 namespace Zorv {
 
-/// The icon at a resource path. Models are asked for icons at every repaint, so
-/// each is made once and kept until the application ends.
+/// The icon at a resource path. Icons are created once and cached until the
+/// application ends, because models are asked for them on every repaint.
 QIcon resourceIcon(const QString& path);
 
 }  // namespace Zorv

@@ -21,7 +21,7 @@ namespace {
 
 using Projects = QVector<QPointer<Project>>;
 
-/// Keeps the files of open projects from asking about changes that are ours.
+/// Prevents open files from asking about changes that the restore itself makes.
 class WatchPause
 {
 public:
@@ -69,7 +69,7 @@ void ParentProjectPrivate::copyBackup(const QString& source)
     QStringList files;
     listFiles(source, files);
     Progress progress(ParentProject::tr("Restoring backup..."), files.size() + opened.size());
-    // What was copied aside a moment ago must not be lost with what it was copied from.
+    // The newest backup may not be on disk yet. It must be, before its originals are overwritten.
     FileReplace::syncDisk(absolutePath());
     for (const QString& file : qAsConst(files)) {
         const QString relative = file.mid(source.size());

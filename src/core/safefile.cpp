@@ -14,6 +14,20 @@
 #include <optional>
 #include <system_error>
 
+// How a file is replaced safely:
+//
+// 1. `open()` follows links, checks the target and creates a new file in the same folder, under a
+//    hidden name and with the mode and owner of the old file. The new file is locked, so that no
+//    other program removes it as a leftover.
+// 2. Writes go to the new file through a buffer. The first failure is kept and stops all others.
+// 3. `prepare()` flushes, syncs the file to disk and closes it. A copy of the handle keeps the lock
+//    until the file has its final name.
+// 4. `commit()` takes the folder's lock (`FileTurn`), checks that no other program has changed the
+//    target, and renames the new file over it. That is atomic: there is always one complete file.
+//    Then the folder is synced.
+//
+// After any failure the new file is removed and the old one stays.
+
 namespace Zorv {
 
 namespace {
@@ -23,8 +37,8 @@ const int CopyBlock = 1024 * 1024;
 const int MaxNameBytes = 200;
 const int MaxNames = 1000;
 
-// The head of the names of all new files for one target: hidden, and short
-// enough for a number and the suffix to fit whatever the length of the name.
+// The common start of the hidden names of all new files for one target. It is shortened so that a
+// number and the suffix always fit.
 QString nameHead(const QFileInfo& target)
 {
     QString name = target.fileName();
@@ -61,16 +75,17 @@ public:
     void setFailure(const QString& reason, const QString& advice);
 
     SafeFile* q;
-    QString path;    // as the caller knows it
+    QString path;    // as given by the caller
     QString target;  // with links followed
     SafeFile::Options options;
     QFile file;          // the new file; open until commit or failure
-    QByteArray pending;  // to be written where the file stands
+    QByteArray pending;  // write buffer, for the current position of `file`
     QString failure;
     bool targetExists = false;
-    bool isTouched = false;  // differs from the old file, if it began as its copy
-    bool waits = false;      // for the disk
-    std::optional<FileReplace::HandleCopy> lock;  // of a file that is closed, until it has its name
+    bool isTouched = false;  // differs from the old file, if it started as a copy of it
+    bool waits = false;      // must be synced to disk
+    std::optional<FileReplace::HandleCopy> lock;  // keeps the lock of the closed file until it is
+                                                  // renamed
 };
 
 SafeFile::SafeFile(const QString& path, Options options)
@@ -237,7 +252,7 @@ bool SafeFilePrivate::makeFile()
         setFailure(file.errorString(),
                    tr("Check that the folder is there and may be written to, or save in "
                       "another place."));
-        file.setFileName({});  // what has the name is somebody else's
+        file.setFileName({});  // the existing file belongs to somebody else
         return false;
     }
     Unfinished::add(file.fileName());
@@ -250,13 +265,13 @@ bool SafeFilePrivate::makeFile()
     return true;
 }
 
-// Who made the file may have renamed it by now, so it is not looked for.
+// Checks the error instead of the disk: the owner of the file may have renamed it by now.
 bool SafeFilePrivate::isTaken() const
 {
     return file.errorString() == qt_error_string(int(std::errc::file_exists));
 }
 
-// A process that was killed while it wrote may have left a file of this name.
+// A process that was killed while writing may have left a file with this name.
 bool SafeFilePrivate::openNew()
 {
     const auto mode = QIODevice::ReadWrite | QIODevice::NewOnly | QIODevice::Unbuffered;
@@ -317,7 +332,7 @@ bool SafeFilePrivate::writeOut(const char* data, qint64 size)
     return true;
 }
 
-/// Until it has its name it is locked, and so no leftover.
+/// The lock stays until the file is renamed, so that nobody removes it as a leftover.
 bool SafeFilePrivate::bringToDisk()
 {
     if (lock) {
@@ -360,7 +375,7 @@ bool SafeFilePrivate::replaceTarget()
 bool SafeFilePrivate::takePlace(QString* reason)
 {
     std::optional<FileTurn> turn;
-    // Nobody else writes copies to a new place.
+    // During a `LazySync` nobody else writes to the new place, so no lock is needed.
     if (targetExists || !LazySync::current()) {
         turn.emplace(target);
     }

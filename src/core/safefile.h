@@ -10,16 +10,16 @@ namespace Zorv {
 
 class SafeFilePrivate;
 
-/// A file that is written beside the old one and takes its place at `commit()`.
+/// A file that is written next to the old one and replaces it in `commit()`.
 ///
-/// For whatever writes to a device: `open()`, write, `commit()`. Each write and the flush are
-/// checked. A failure of any step is kept: from then on nothing is written, and `commit()` removes
-/// the new file and leaves the old one. An object that dies without `commit()` leaves the old file
-/// too. What `FileSystemArchive` opens for writing is one of these; its promises on modes, links
-/// and programs that are killed hold here.
+/// For any code that writes to a device: `open()`, write, `commit()`. Every write and the final
+/// flush are checked. The first failure is kept: nothing more is written, and `commit()` removes
+/// the new file and keeps the old one. Destroying the object without `commit()` also keeps the old
+/// file. `FileSystemArchive` uses this class for writing; see there for modes, links and killed
+/// processes.
 ///
-/// Appending, and changing in the middle, start from a copy of the old content. Blocks of up to
-/// 256 KiB are gathered in memory. Re-entrant; an object may be used in one thread.
+/// Appending, and changing parts of a file, start from a copy of the old content. Up to 256 KiB of
+/// small writes are buffered in memory. Re-entrant; use each object in one thread.
 class ZORV_EXPORT SafeFile : public QIODevice
 {
     Q_OBJECT
@@ -27,44 +27,44 @@ class ZORV_EXPORT SafeFile : public QIODevice
 public:
     enum Option {
         NoOptions = 0,
-        KeepsExisting = 1,  ///< what stands there by the time of `commit()` stays: a failure
-        IsCopy = 2,         ///< a new file need not have reached the disk: what it was made of
-                            ///< is there still. One that replaces another always has
-        OwnerOnly = 4       ///< nobody else may read it, whatever the mode of the old file
+        KeepsExisting = 1,  ///< fail if the file exists at `commit()`
+        IsCopy = 2,         ///< a new file need not reach the disk, because its source still
+                            ///< exists. A file that replaces another always does
+        OwnerOnly = 4       ///< only the owner may read it, whatever the mode of the old file
     };
     Q_DECLARE_FLAGS(Options, Option)
 
-    /// Touches nothing yet. `path` may be a link, which is followed.
+    /// Does not touch the disk yet. `path` may be a link, which is followed.
     explicit SafeFile(const QString& path, Options options = NoOptions);
 
-    /// Gives up what was not committed.
+    /// Discards everything that was not committed.
     ~SafeFile() override;
 
-    /// Writes a whole file, and makes the folder that it needs. False, with `error` for the person,
-    /// if that fails; what was there is there still.
+    /// Writes a whole file, creating its folder if needed. Returns false on failure, with `error`
+    /// in words for the user; the old file is then unchanged.
     static bool save(const QString& path, const QByteArray& content, QString* error,
                      Options options = NoOptions);
 
-    /// Makes the new file; its folder has to be there. `NewOnly` means what `KeepsExisting` does.
-    /// On false `failure()` tells why.
+    /// Creates the new file. Its folder must exist. `NewOnly` means the same as `KeepsExisting`. On
+    /// false, `failure()` gives the reason.
     bool open(OpenMode mode) override;
 
-    /// Ends the writing; the old file is replaced by `commit()` only.
+    /// Ends the writing. The old file is only replaced by `commit()`.
     void close() override;
 
-    /// Ends the writing and brings all of it to the disk, so that `commit()` has only to rename.
-    /// For a change of several files: what can fail for want of room has failed before the first of
-    /// them is replaced. False if any step has failed. Calling it is optional.
+    /// Ends the writing and forces all data to disk, so that `commit()` only has to rename.
+    /// Optional. Use it when several files change together: if the disk is full, this fails before
+    /// any of them is replaced. Returns false if any step has failed.
     bool prepare();
 
-    /// Puts the new file in the place of the old one, once it has reached the disk. A file that was
-    /// opened to be changed, and was not, stays as it is. False if any step has failed.
+    /// Replaces the old file, once the new one has reached the disk. A file that was opened for
+    /// changing but not written to stays as it is. Returns false if any step has failed.
     bool commit();
 
-    /// Gives up: the old file stays, and `commit()` will answer false.
+    /// Gives up: the old file stays and `commit()` will return false.
     void fail(const QString& reason);
 
-    /// The first failure, in words for the person: what, where, what to do. Empty without one.
+    /// The first failure, in words for the user: what, where, what to do. Empty if none.
     QString failure() const;
 
     bool isSequential() const override;

@@ -32,7 +32,7 @@ bool saveUnderNewName(ProjectFile* file, FileID id)
     return editor && FileEditor::saveFileAs(file, editor, host);
 }
 
-// A dialog may let the person close what is still to be saved.
+// A dialog may let the user close files that are still to be saved.
 void saveModified(const QPointer<Project>& project, QStringList& failed)
 {
     const QMap<ProjectFile*, FileID> all = project->filesWithIDs();

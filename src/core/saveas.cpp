@@ -82,7 +82,7 @@ QStringList ParentProjectPrivate::closedFiles() const
     return files;
 }
 
-// What is lost of a closed project is told, and is no reason to stay.
+// A failure in a closed project is reported but does not stop the move.
 bool ParentProjectPrivate::copyClosedFiles(const QStringList& files, const QString& newRoot,
                                            Progress& progress)
 {
@@ -103,7 +103,7 @@ bool ParentProjectPrivate::copyClosedFiles(const QStringList& files, const QStri
     return true;
 }
 
-// False if the project cannot go on at the new place.
+// Returns false if the project cannot continue at the new place.
 bool ParentProjectPrivate::writeProject(Project& project, const QString& path,
                                         const QString& mainFile)
 {
@@ -134,7 +134,7 @@ bool ParentProjectPrivate::writeProjects(const QVector<QPointer<Project>>& opene
             isWhole =
                 writeProject(*project, newRoot, newRoot + project->basePath() + name) && isWhole;
         } else if (project) {
-            // A project without a file has no place among the others yet.
+            // A project that was never saved has no place in the game folder yet.
             failedFiles.append(project->title());
         }
         if (!progress.step()) {

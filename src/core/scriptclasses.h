@@ -3,7 +3,7 @@
 #include "zorv_export.h"
 
 extern "C" {
-/// A place for a host with scripting to hook: takes its scripting state and
-/// does nothing.
+/// A hook for hosts with scripting: receives their scripting state and does
+/// nothing.
 ZORV_EXPORT void registerScriptClasses(void* state);
 }

@@ -20,6 +20,19 @@
 #include <unistd.h>
 #endif
 
+// How leftovers of crashed programs are found:
+//
+// Each unfinished file or folder has a hidden name with a known suffix and is locked by its creator
+// (`flock`). The system drops the lock when the process ends. So a file with such a name that can
+// be locked is a leftover.
+//
+// There is a gap between creating and locking. A second program may lock the new file first and
+// remove it. So after locking, the creator checks that the path still leads to the file it has
+// open. If not, it must use another name. The remover makes the same check and holds its lock until
+// the file is removed.
+//
+// On file systems without locks, only files older than `LongSeconds` count as leftovers.
+
 namespace Zorv::Unfinished {
 
 const char* const FileSuffix = ".zorv-save";
@@ -30,7 +43,7 @@ namespace {
 constexpr int MomentMilliseconds = 1000;
 constexpr int MaxRemovals = 5;
 
-// Where there are no locks nobody knows if a program is still at work.
+// Without locks, nobody can tell whether the other program is still working.
 constexpr qint64 LongSeconds = 24 * 60 * 60;
 
 struct Known
@@ -48,7 +61,7 @@ Known& known()
 
 #ifdef Q_OS_UNIX
 
-/// True if the path still leads to what was opened.
+/// True if the path still leads to the opened file.
 bool isSame(int handle, const QByteArray& path)
 {
     struct stat opened, there;
@@ -99,7 +112,7 @@ bool removeIfLeft(const QString& path)
         return false;
     }
     const QFileInfo info(path);
-    // The lock is kept until it is gone: nobody else takes it for his own.
+    // Hold the lock until the file is removed, so that nobody else can claim it.
     const bool isRemoved =
         isLeft(handle, info) && (info.isDir() ? removeDir(path) : QFile::remove(path));
     ::close(handle);
@@ -131,7 +144,7 @@ bool removeIfLeft(const QString& path)
 
 bool isName(const QString& name, const char* suffix)
 {
-    // A number with a process in front is what former versions wrote.
+    // Older versions wrote a number and a process id, separated by "-".
     static const QRegularExpression form(QStringLiteral("^\\.(.*\\.)?\\d+(-\\d+)?$"));
     const QLatin1String end(suffix);
     return name.endsWith(end) && form.match(name.chopped(end.size())).hasMatch();
@@ -176,11 +189,11 @@ void remove(const QString& path)
 
 void removeAll()
 {
-    // For good: what would be made now would stay.
+    // Never unlocked: anything created from now on would be left behind.
     known().mutex.lock();
     for (const QString& path : qAsConst(known().paths)) {
         const bool isFolder = QFileInfo(path).isDir();
-        // Another thread may be adding one more file to it.
+        // Another thread may be adding a file to the folder right now, so try again.
         for (int i = 0; i < MaxRemovals && !(isFolder ? removeDir(path) : QFile::remove(path));
              ++i) {
             QThread::msleep(1);

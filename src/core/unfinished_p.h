@@ -4,44 +4,44 @@
 
 namespace Zorv {
 
-/// Files and folders that stand under a hidden name until they are whole.
+/// Files and folders that have a hidden name until they are complete.
 ///
-/// Who makes one keeps it locked, so that others can tell it from what a program that is
-/// gone has left. Re-entrant.
+/// Their creator keeps them locked. So other programs can tell them from leftovers of a process
+/// that no longer exists. Re-entrant.
 namespace Unfinished {
 
-/// What the names of files, and of backups, end in. In front of it stands a number, and a
-/// dot in front of that and of all.
+/// The name suffixes of files and of backups. A hidden name is a dot, possibly more text and
+/// another dot, a number, and the suffix.
 extern const char* const FileSuffix;
 extern const char* const BackupSuffix;
 
-/// True if what is called so is not whole.
+/// True if `name` is the hidden name of something incomplete.
 bool isName(const QString& name, const char* suffix);
 
-/// Locks an open file or folder that was just made. False if somebody took it for a
-/// leftover in between, and another name is needed.
+/// Locks a file or folder that was just created and is open. Returns false if another program took
+/// it for a leftover in the meantime; try another name then.
 bool lock(int handle, const QString& path);
 
-/// A handle of a folder, to lock it by; -1 if it has none.
+/// A handle of a folder for locking it; -1 if not available.
 int openFolder(const QString& path);
 void closeFolder(int handle);
 
-/// Removes a leftover. False if it is none, or cannot be removed.
+/// Removes a leftover. Returns false if it is not one or cannot be removed.
 bool removeIfLeft(const QString& path);
 
-/// Removes what programs that are gone have left in a folder, of one suffix.
+/// Removes the leftovers with one suffix in a folder.
 void clear(const QString& folder, const char* suffix);
 
-/// As `clear()` for files, but nothing if this process has done so a moment ago: many
-/// files of one folder need one look at it.
+/// Like `clear()` for files, but does nothing if this process has done it a moment ago: one check
+/// is enough for many files in one folder.
 void clearOnce(const QString& folder);
 
-/// Writes down what is being made, for `removeAll()`, until it is there or given up.
+/// Registers a path in progress for `removeAll()`, until it is complete or discarded.
 void add(const QString& path);
 void remove(const QString& path);
 
-/// Removes all that is being made, and keeps everybody from making more. For a process
-/// that ends at once.
+/// Removes everything in progress and blocks all threads from creating more. For a process that is
+/// about to end.
 void removeAll();
 
 }  // namespace Unfinished

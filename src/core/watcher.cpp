@@ -18,7 +18,7 @@ std::vector<std::unique_ptr<QFileSystemWatcher>>& idleWatchers()
     return watchers;
 }
 
-// They must not outlive the application, which they need to close.
+// Closing a watcher needs the application, so none may outlive it.
 void closeIdleWatchers()
 {
     idleWatchers().clear();

@@ -6,8 +6,8 @@
 
 namespace Zorv {
 
-/// Closing a watcher waits for the kernel, some 10 ms. One that is given back goes on without paths
-/// and receivers to whoever needs the next, and closes with the application.
+/// Recycles watchers, because closing one waits about 10 ms for the kernel. The watcher is kept for
+/// the next user, without paths and connections, and closed with the application.
 struct GiveBackWatcher
 {
     void operator()(QFileSystemWatcher* watcher) const;
@@ -15,8 +15,8 @@ struct GiveBackWatcher
 
 using WatcherPtr = std::unique_ptr<QFileSystemWatcher, GiveBackWatcher>;
 
-/// A watcher without paths; null without an application, whose event loop would tell, and for a
-/// host that does not watch. Main thread only.
+/// A watcher without paths. Null if there is no application, whose event loop would deliver the
+/// signals, or if the host does not watch files. Main thread only.
 WatcherPtr takeWatcher();
 
 }  // namespace Zorv

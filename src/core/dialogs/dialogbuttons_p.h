@@ -5,7 +5,7 @@ class QDialogButtonBox;
 
 namespace Zorv {
 
-/// "OK" and "Cancel", which end the dialog. They go into its layout, and so become its own.
+/// "OK" and "Cancel", which close the dialog. Adding them to its layout also makes it their parent.
 QDialogButtonBox* makeOkCancel(QDialog* dialog);
 
 }  // namespace Zorv

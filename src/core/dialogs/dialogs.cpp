@@ -38,7 +38,7 @@ QWidget* mainWindow()
     return host ? host->mainWindow() : nullptr;
 }
 
-// Without widgets there is nobody to answer.
+// Without widgets nobody can answer.
 bool canShow()
 {
     return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
@@ -60,7 +60,7 @@ Dialogs::Button showBox(QMessageBox::Icon icon, const QString& title, const QStr
         return closing;
     }
     QMessageBox box(icon, title, text, QMessageBox::NoButton, mainWindow());
-    // A path in a text is no markup.
+    // Paths in a text must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
     for (const auto& entry : buttonTable) {
         if (!(buttons & entry.button)) {
@@ -85,7 +85,7 @@ QWidget* orMainWindow(QWidget* parent)
     return parent ? parent : mainWindow();
 }
 
-/// A name with the first extension of a filter, if it ends in none of them.
+/// Appends the first extension of the filter, unless the name already ends in one of them.
 QString withExtension(const QString& name, const QString& filter)
 {
     static const QRegularExpression pattern(QStringLiteral("[( ]\\*([^ )]*)(?=[^(]*\\))"));
@@ -206,7 +206,7 @@ QString Dialogs::saveFileName(QWidget* parent, const QString& caption, const QSt
         if (name.isEmpty()) {
             break;
         }
-        // The dialog has asked about the name as it was typed.
+        // The dialog has only checked the name without the extension.
         const QString full = withExtension(name, filter);
         if (full == name || !QFileInfo::exists(full) || mayReplace(full)) {
             return full;

@@ -14,11 +14,10 @@ class QWidget;
 
 namespace Zorv {
 
-/// The one seam through which every message box and dialog of the library passes.
+/// Every message box and dialog of the library goes through this class.
 ///
-/// The default shows `QMessageBox` and `QFileDialog` on the host's main window.
-/// A host without a display, or a test, derives and installs its own object.
-/// Main thread only.
+/// The default shows `QMessageBox` and `QFileDialog` on the host's main window. A host without a
+/// display, or a test, derives from it and installs its own object. Main thread only.
 class ZORV_EXPORT Dialogs
 {
 public:
@@ -27,73 +26,70 @@ public:
 
     virtual ~Dialogs();
 
-    /// The object in use; never null.
+    /// The installed object; never null.
     static Dialogs* instance();
 
-    /// Installs an object, which stays the caller's; null brings the default
-    /// back.
+    /// Installs an object, which the caller keeps owning. Null restores the default.
     static void setInstance(Dialogs* dialogs);
 
-    /// Asks; gives the button that was pressed. Closing the box presses
-    /// `No` or `Cancel` if there is one, else `defaultButton`.
+    /// Asks a question and returns the pressed button. Closing the box counts as `No` or `Cancel`
+    /// if there is such a button, otherwise as `defaultButton`.
     virtual Button question(const QString& title, const QString& text, Buttons buttons,
                             Button defaultButton);
 
-    /// A warning with `buttons`; as `question()`.
+    /// Shows a warning with `buttons`, like `question()`.
     virtual Button warning(const QString& title, const QString& text, Buttons buttons = Ok,
                            Button defaultButton = Ok);
 
-    /// Tells something, with one button.
+    /// Shows information with one button.
     virtual void information(const QString& title, const QString& text);
 
-    /// Tells a failure, with one button.
+    /// Shows an error with one button.
     virtual void error(const QString& title, const QString& text);
 
-    /// Asks for one of several answers in words; gives its place in `choices`,
-    /// -1 if the person gave up.
+    /// Lets the user choose one of several texts. Returns its index in `choices`, or -1 if
+    /// cancelled.
     virtual int choose(const QString& title, const QString& text, const QStringList& choices,
                        int defaultChoice);
 
-    /// Asks for a line of text, which is `text` at first; nothing if the person gave up.
+    /// Asks for a line of text, with `text` as the initial value. Empty optional if cancelled.
     virtual std::optional<QString> askText(const QString& title, const QString& label,
                                            const QString& text = {});
 
-    /// Asks for a colour, which is `color` at first, with alpha; nothing if the person gave up.
+    /// Asks for a colour with alpha; `color` is the initial value. Empty optional if cancelled.
     virtual std::optional<QColor> chooseColor(const QString& title, const QColor& color);
 
-    /// Ask for a file; empty if the person gave up. `parent` null stands for
-    /// the main window.
+    /// Ask for a file. Empty if cancelled. If `parent` is null, the main window is used.
     virtual QString openFileName(QWidget* parent, const QString& caption, const QString& dir,
                                  const QString& filter);
     virtual QStringList openFileNames(QWidget* parent, const QString& caption, const QString& dir,
                                       const QString& filter);
 
-    /// As above. A name that ends in none of the extensions of `filter` gets the
-    /// first of them; the person is asked before a file of that name is replaced.
+    /// The same for saving. If the name has none of the extensions of `filter`, the first one is
+    /// appended. The user is asked before an existing file is replaced.
     virtual QString saveFileName(QWidget* parent, const QString& caption, const QString& dir,
                                  const QString& filter);
 
-    /// Ask for an existing folder; empty if the person gave up.
+    /// Ask for an existing folder. Empty if cancelled.
     virtual QString existingFolder(QWidget* parent, const QString& caption, const QString& dir);
 
-    /// Lets the person choose a row of `model`, the engines that can be started,
-    /// with `row` selected at first; gives the row, -1 if the person gave up.
-    /// `geometry` is where the dialog stood last, null for nowhere, and takes where
-    /// it stood now. The default shows `RunDlg`.
+    /// Lets the user choose one of the engines in `model`. `row` is selected first. Returns the
+    /// row, or -1 if cancelled. `geometry` is the previous position of the dialog (null if none)
+    /// and receives the new one. The default shows `RunDlg`.
     virtual int runTarget(QWidget* parent, QAbstractItemModel* model, unsigned row,
                           QRect* geometry);
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(Dialogs::Buttons)
 
-/// As the static functions of `QFileDialog`, through `Dialogs`, with no
-/// selected filter and no options.
+/// Like the static functions of `QFileDialog`, but through `Dialogs`, without a selected filter or
+/// options.
 ZORV_EXPORT QString getOpenFileName(QWidget* parent, const QString& caption, const QString& dir,
                                     const QString& filter);
 ZORV_EXPORT QString getSaveFileName(QWidget* parent, const QString& caption, const QString& dir,
                                     const QString& filter);
 
-/// As above; sorted with case if the global setting "sort_file_names" is true.
+/// The same; sorted case-sensitively if the global setting "sort_file_names" is true.
 ZORV_EXPORT QStringList getOpenFileNames(QWidget* parent, const QString& caption,
                                          const QString& dir, const QString& filter);
 

@@ -6,11 +6,11 @@
 
 namespace Zorv {
 
-/// The first ten lines of a list, and how many more there are.
+/// The first ten lines of a list and the number of further ones.
 ZORV_EXPORT QString shortList(const QStringList& lines);
 
-/// Tells what went wrong, a line each, the first ten of them, with a last line below. Nothing if
-/// nothing went wrong.
+/// Shows what went wrong, one line per failure: the first ten, with a summary line below. Does
+/// nothing if the list is empty.
 ZORV_EXPORT void tellFailures(const QString& title, const QStringList& errors,
                               const QString& last = {});
 

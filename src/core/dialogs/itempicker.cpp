@@ -43,7 +43,7 @@ QList<int> ItemPicker::selected() const
     if (!m_list->selectionModel()) {
         return rows;
     }
-    // The list shows the first column alone, so a row is never selected as a whole.
+    // The list shows only the first column, so a row never counts as completely selected.
     const QModelIndexList indexes = m_list->selectionModel()->selectedIndexes();
     for (const QModelIndex& index : indexes) {
         if (index.column() == 0) {
@@ -56,7 +56,7 @@ QList<int> ItemPicker::selected() const
 
 void ItemPicker::release()
 {
-    // The view forgets its old selection without deleting it.
+    // The view does not delete its old selection model.
     QItemSelectionModel* selection = m_list->selectionModel();
     m_list->setModel(nullptr);
     if (selection != m_list->selectionModel()) {

@@ -8,25 +8,25 @@
 class QAbstractItemModel;
 class QListView;
 
-/// What dialogs pick rows of a model in: a list of which several rows can be selected, and buttons
-/// for all, none, and the others.
+/// A list for picking rows of a model in a dialog, with multiple selection and buttons for all,
+/// none and invert.
 class ZORV_EXPORT ItemPicker : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `row`, if there is one, is selected and scrolled to. The model is not owned, can be null,
-    /// and may die.
+    /// Selects `row` (if valid) and scrolls to it. The model is not owned. It may be null or be
+    /// destroyed.
     ItemPicker(QAbstractItemModel* model, int row, QWidget* parent = nullptr);
 
-    /// The selected rows, ascending.
+    /// The selected rows in ascending order.
     QList<int> selected() const;
 
-    /// Takes the list off its model.
+    /// Detaches the list from its model.
     void release();
 
 signals:
-    /// Other rows are selected.
+    /// The selection has changed.
     void changed();
 
 private:

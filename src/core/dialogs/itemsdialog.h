@@ -5,7 +5,7 @@
 #include <QDialog>
 #include <QList>
 
-/// A dialog in which rows of a model are picked; made by
+/// A dialog for picking rows of a model; created by
 /// `Zorv::Interface::itemsDialog()`.
 class ZORV_EXPORT ItemsDialog : public QDialog
 {
@@ -14,12 +14,12 @@ class ZORV_EXPORT ItemsDialog : public QDialog
 public:
     using QDialog::QDialog;
 
-    /// The selected rows, ascending.
+    /// The selected rows in ascending order.
     virtual QList<int> selected() const = 0;
 
     /// True if any row is selected.
     virtual bool hasSelection() const = 0;
 
-    /// Takes the dialog off its model, which can die from then on.
+    /// Detaches the dialog from its model, which may then be deleted.
     virtual void release() = 0;
 };

@@ -5,14 +5,13 @@
 class ItemPicker;
 class QAbstractItemModel;
 
-/// The library's own picking dialog: a list with buttons that select all rows,
-/// select none, and invert the selection.
+/// The default picking dialog: a list with buttons for all, none and invert.
 class ZORV_EXPORT ItemsDlg : public ItemsDialog
 {
     Q_OBJECT
 
 public:
-    /// `row`, if not negative, is selected and scrolled to. The model is not owned.
+    /// Selects `row` (if not negative) and scrolls to it. The model is not owned.
     ItemsDlg(QWidget* parent, const QString& title, QAbstractItemModel* model, int row);
     ~ItemsDlg() override;
 

@@ -8,7 +8,7 @@ class QAbstractItemModel;
 class QListView;
 class QModelIndex;
 
-/// Lets the person choose the engine that a run starts: a row of a list.
+/// Lets the user choose the engine to run from a list.
 class ZORV_EXPORT RunDlg : public QDialog
 {
     Q_OBJECT

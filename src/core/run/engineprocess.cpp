@@ -19,8 +19,8 @@ EngineProcess::EngineProcess()
     connect(&m_process, &QProcess::started, this, &EngineProcess::started);
     connect(&m_process, &QProcess::errorOccurred, this,
             [this](QProcess::ProcessError error) { m_error = m_error < 0 ? error : m_error; });
-    // Passed on as it comes, also while a dialog of the host has its own event loop:
-    // the pipe holds an engine back that prints faster than it is read.
+    // Forwards the output at once, even while a dialog of the host runs its own event loop. An
+    // engine that prints faster than it is read is blocked by the pipe.
     connect(&m_process, &QProcess::readyRead, this, &EngineProcess::passOutput);
 }
 

@@ -8,7 +8,7 @@
 
 namespace Zorv {
 
-/// One engine that runs, with its two channels as one.
+/// A running engine, with stdout and stderr merged.
 class EngineProcess : public QObject
 {
     Q_OBJECT
@@ -17,17 +17,18 @@ public:
     EngineProcess();
     ~EngineProcess() override;
 
-    /// Starts the engine and returns when it has ended, whoever still holds its
-    /// channels; events are processed meanwhile.
+    /// Starts the engine and returns when it has ended, even if another process
+    /// still holds its output. Events are processed meanwhile.
     void run(const Launch& launch);
 
-    /// Asks the engine to end, and kills it if it does not within seconds.
+    /// Asks the engine to quit, and kills it if it is still there after a few
+    /// seconds.
     void stop();
 
     RunResult::Outcome outcome() const;
     int exitCode() const { return m_process.exitCode(); }
 
-    /// The first error of the process; -1 without one.
+    /// The first error of the process; -1 if none.
     int error() const { return m_error; }
 
 signals:

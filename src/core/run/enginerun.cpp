@@ -37,8 +37,7 @@ void setHostOption(const QString& key, const QVariant& value)
     }
 }
 
-/// Lets the person choose a row; -1 if there was no choice. Where the dialog stood is
-/// kept in any case.
+/// Lets the user choose a row; -1 if cancelled. The dialog's position is saved in both cases.
 int askForRow(EngineModel* engines, unsigned row)
 {
     const QString key = QStringLiteral("project_run_geometry");
@@ -50,7 +49,7 @@ int askForRow(EngineModel* engines, unsigned row)
     return chosen;
 }
 
-/// The project that a mark stands for; null if so many are not open.
+/// The project for a placeholder. Null if fewer projects are open.
 Project* markedProject(unsigned mark)
 {
     const Interface* host = Interface::instance();
@@ -65,7 +64,7 @@ QString withSlash(const QString& folder)
     return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
 }
 
-/// A project that was never saved has no place below its game.
+/// A project that was never saved has no folder in the game.
 QString placeOf(const Project* project)
 {
     return project->fileName().isEmpty() ? QString() : project->basePath();
@@ -90,7 +89,7 @@ void EngineRun::run()
     }
 }
 
-/// The engine of the game folder, else a configured one.
+/// Finds the engine: the one in the game folder, otherwise a configured one.
 bool EngineRun::findEngine()
 {
     ParentProject* tree = m_tree->model;
@@ -125,7 +124,7 @@ bool EngineRun::chooseEngine(EngineModel* engines)
             ParentProject::tr("Oops, you need to add an engine first. Do it in Tools / Options."));
     }
     const QString lastKey = QStringLiteral("last_") + engines->identifier();
-    // One engine needs no choice; the row that counts as chosen is the first all the same.
+    // With a single engine there is nothing to choose. It is still remembered as the last choice.
     const int row = count == 1 ? 0 : askForRow(engines, hostOption(lastKey).toUInt());
     const EngineModel* now = m_tree ? m_tree->model->engineModel() : nullptr;
     if (row < 0 || !now) {
@@ -159,9 +158,9 @@ bool EngineRun::copyProjects()
     return m_tree;
 }
 
-/// Writes the copy of a project. Its files are written into a folder that is temporary
-/// as a whole. Where the family wants them among the files of the engine they go on from
-/// there, so that none of those is replaced.
+/// Writes the copy of a project into a folder that is temporary as a whole. If the engine family
+/// needs the files among those of the engine, they are moved there afterwards, so that no existing
+/// file is replaced.
 void EngineRun::copyProject(unsigned mark, Project* project, const QString& name)
 {
     bool isWhole = false;
@@ -188,8 +187,8 @@ void EngineRun::copyProject(unsigned mark, Project* project, const QString& name
     }
 }
 
-/// Writes all files of a project below a folder; the main file gets `name`. False if
-/// the project has gone meanwhile.
+/// Writes all files of a project below a folder and names the main file `name`. Returns false if
+/// the project was deleted meanwhile.
 bool EngineRun::writeCopy(Project* project, const QString& folder, const QString& name)
 {
     const QString place = placeOf(project);
@@ -234,7 +233,7 @@ void EngineRun::startEngine()
         QObject::connect(&process, &EngineProcess::output, tree, &ParentProject::engineOutput);
         QObject::connect(&process, &EngineProcess::started, tree,
                          [=] { emit tree->engineStarted(launch.program, launch.arguments); });
-        // Nobody could end it any more.
+        // Without the tree nobody else could stop the engine.
         QObject::connect(tree, &QObject::destroyed, &process, &EngineProcess::stop);
     }
     m_result.outcome = RunResult::GivenUp;
@@ -253,7 +252,7 @@ bool EngineRun::copyAgain(Project* project, ParentProject::RunCopy* copy, QStrin
     }
     const QScopedValueRollback<bool> once(m_isCopying, true);
     const QStringList failedBefore = std::exchange(m_result.failedFiles, {});
-    // The engine may be reading the copy that it was told of last.
+    // Keep the newest copy: the engine may still be reading it.
     dropCopies(1);
     m_copies.push_back(std::make_unique<TemporaryCopies>(m_folder));
     m_runCopies.clear();
@@ -266,7 +265,7 @@ bool EngineRun::copyAgain(Project* project, ParentProject::RunCopy* copy, QStrin
     return true;
 }
 
-/// Removes all copies but the youngest ones.
+/// Removes all copies except the newest `kept` ones.
 void EngineRun::dropCopies(size_t kept)
 {
     while (m_copies.size() > kept) {
@@ -293,7 +292,7 @@ void EngineRun::finish(const EngineProcess& process)
     }
 }
 
-/// Ends the run with a warning; false.
+/// Shows a warning, sets the outcome and returns false.
 bool EngineRun::refuse(RunResult::Outcome outcome, const QString& warning)
 {
     m_result.outcome = outcome;

@@ -18,10 +18,10 @@ class EngineProcess;
 class ParentProjectPrivate;
 class Project;
 
-/// One run of an engine, from the choice to the removal of the copies.
+/// One run of an engine, from choosing it to removing the copies.
 ///
-/// It stands on the stack of `ParentProject::run()` and outlives the tree, if
-/// that dies while events are processed.
+/// The object is on the stack of `ParentProject::run()`. It outlives the tree
+/// if the tree is deleted while events are processed.
 class EngineRun
 {
 public:
@@ -50,9 +50,9 @@ private:
     QString m_executable;
     QString m_folder;  ///< of the copies, with "/" at its end
     QString m_parameters;
-    QMap<unsigned, QString> m_texts;  ///< what the marks stand for
+    QMap<unsigned, QString> m_texts;  ///< the replacement for each placeholder
     QVector<ParentProject::RunCopy> m_runCopies;
-    std::vector<std::unique_ptr<TemporaryCopies>> m_copies;  ///< the youngest last
+    std::vector<std::unique_ptr<TemporaryCopies>> m_copies;  ///< newest last
     bool m_isCopying = false;
 };
 

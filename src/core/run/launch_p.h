@@ -5,21 +5,21 @@
 
 namespace Zorv {
 
-/// What is started so that an executable runs.
+/// The command that runs an executable.
 struct Launch
 {
-    QString program;  ///< empty if nothing here can run the executable
+    QString program;  ///< empty if nothing on this system can run the executable
     QStringList arguments;
-    QString folder;  ///< the working folder: that of the executable
+    QString folder;  ///< the working folder: the one that contains the executable
 };
 
-/// Engines are Windows programs first of all: an installed Wine application runs
-/// whatever it is given. Without one a program of this system is started
-/// directly, and all else by the `wine` of the search path.
+/// Engines are mainly Windows programs. So an installed Wine application runs
+/// any executable. Without one, native programs start directly and everything
+/// else with the `wine` from the search path.
 Launch launchOf(const QString& executable, const QStringList& arguments);
 
-/// True if the first bytes of a file are those of a program or a script of this
-/// kind of system, whatever its name.
+/// True if the first bytes of a file show a native program or a script of this
+/// system. The name does not matter.
 bool isNativeExecutable(const QString& path);
 
 }  // namespace Zorv

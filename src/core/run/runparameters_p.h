@@ -7,13 +7,13 @@
 
 namespace Zorv {
 
-/// The numbers of the marks "%N" of a parameter string, N with one or two digits,
-/// each once, in the order of their first place.
+/// The numbers of the placeholders "%N" in a parameter string, N with one or two digits. Each
+/// number appears once, in order of first use.
 QVector<unsigned> runMarks(const QString& parameters);
 
-/// The arguments that a parameter string stands for: its parts between blanks, empty
-/// ones too, in which the marks of `texts` are replaced. Whatever a text
-/// holds, it stays in its argument, and no mark is looked for in it. Other marks stay.
+/// Splits a parameter string at blanks, keeping empty parts, and replaces the placeholders with
+/// `texts`. A replacement always stays within its argument, even if it contains blanks, and is not
+/// searched for placeholders. Unknown placeholders stay.
 QStringList runArguments(const QString& parameters, const QMap<unsigned, QString>& texts);
 
 }  // namespace Zorv

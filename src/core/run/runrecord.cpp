@@ -41,7 +41,7 @@ QStringList texts(const QJsonValue& value)
     return list;
 }
 
-/// True if the path has a name in it that only copies have.
+/// True if a component of the path is named as only copies are.
 bool isCopyPath(const QString& path)
 {
     static const QRegularExpression copyName(QStringLiteral("(^|/)zorvs_[0-9]"));
@@ -125,7 +125,7 @@ bool RunRecord::read(const QString& fileName)
     return folder.endsWith(QLatin1Char('/')) && QDir::isAbsolutePath(folder);
 }
 
-/// True for a relative path that leads through no link.
+/// True for a relative path without links or ".." on the way.
 bool RunRecord::isInside(const QString& path) const
 {
     const QStringList parts = path.split(QLatin1Char('/'));
@@ -151,7 +151,7 @@ bool RunRecord::isUnchanged(const File& file) const
            modificationTime(info) == file.modified;
 }
 
-/// True if something is named as only copies are.
+/// True if at least one path is named as only copies are.
 bool RunRecord::holdsCopy() const
 {
     return std::any_of(wholeFolders.begin(), wholeFolders.end(),
@@ -210,7 +210,7 @@ QStringList RunRecord::removeAll() const
             stays.append(folder + path + QLatin1Char('/'));
         }
     }
-    // Those that were made last lie deepest.
+    // Innermost folders were added last and must be removed first.
     for (auto it = madeFolders.rbegin(); it != madeFolders.rend(); ++it) {
         QDir().rmdir(folder + *it);
     }

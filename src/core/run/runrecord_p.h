@@ -6,14 +6,15 @@
 
 namespace Zorv {
 
-/// True if anything has this path, also a link that leads nowhere.
+/// True if something has this path, even a broken link.
 bool isThere(const QString& path);
 
-/// Which copies stand in the folder of an engine. Paths are relative to it.
+/// A list of the copies in an engine's folder. Paths are relative to that
+/// folder.
 struct RunRecord
 {
-    /// A copy, as it was when it came to its place: what has changed since is not
-    /// the copy any more.
+    /// A copy with its size and time when it was put in place. If they differ
+    /// later, it is no longer our copy.
     struct File
     {
         QString path;
@@ -21,29 +22,29 @@ struct RunRecord
         qint64 modified = 0;  ///< in ms since 1970, UTC
     };
 
-    QString folder;            ///< the engine's, ends in "/"
-    QStringList wholeFolders;  ///< with all that they hold
+    QString folder;            ///< the engine's folder, with "/" at its end
+    QStringList wholeFolders;  ///< temporary with everything in them
     QVector<File> files;
-    QStringList madeFolders;  ///< to be removed when they are empty
+    QStringList madeFolders;  ///< to be removed when empty
 
-    /// Takes up a file as it is now at `place`.
+    /// Adds a file with the size and time it has now at `place`.
     void addFile(const QString& path, const QString& place);
 
     void forgetFile(const QString& path);
 
     bool write(const QString& fileName) const;
 
-    /// False if the file is no whole record.
+    /// Returns false if the file is not a complete record.
     bool read(const QString& fileName);
 
-    /// The record without all that is not there, or cannot be a copy.
+    /// A record without anything that no longer exists or cannot be a copy.
     RunRecord safePart() const;
 
-    /// The full paths, those of folders with "/" behind, in the order of removal.
+    /// The full paths in the order of removal. Folders end with "/".
     QStringList paths() const;
 
-    /// Removes everything; gives the paths that stay. A made folder that is not
-    /// empty stays without being told.
+    /// Removes everything and returns the paths that could not be removed. Made
+    /// folders that are not empty stay and are not returned.
     QStringList removeAll() const;
 
 private:

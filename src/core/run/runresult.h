@@ -9,12 +9,12 @@ namespace Zorv {
 struct RunResult
 {
     enum Outcome {
-        NotRun,          ///< nothing was run yet
-        AlreadyRunning,  ///< another engine runs
+        NotRun,          ///< nothing has been run yet
+        AlreadyRunning,  ///< another engine is running
         NoEngine,        ///< no engine is configured
-        GivenUp,         ///< the person chose no engine, or the host did not let it start
-        NotFound,        ///< the executable is not there
-        NoMarks,         ///< the parameter string asks for no project
+        GivenUp,         ///< the user chose no engine, or the host prevented the start
+        NotFound,        ///< the executable does not exist
+        NoMarks,         ///< the parameter string has no placeholder for a project
         NotStarted,      ///< the engine could not be started
         Crashed,
         Stopped,  ///< by `ParentProject::stopEngine()`
@@ -22,12 +22,11 @@ struct RunResult
     };
 
     Outcome outcome = NotRun;
-    int exitCode = 0;         ///< of an engine that has `Ended`; of one that has `Crashed` the
-                              ///< number of the signal
-    QString program;          ///< what was started: the engine, or what runs it
+    int exitCode = 0;         ///< exit code if `Ended`, number of the signal if `Crashed`
+    QString program;          ///< the started program: the engine, or what runs it
     QStringList arguments;    ///< its arguments
     QString folder;           ///< its working folder
-    QStringList failedFiles;  ///< what could not be copied for it, relative to the game
+    QStringList failedFiles;  ///< files that could not be copied, relative to the game
     QStringList leftCopies;   ///< temporary copies that could not be removed
 };
 

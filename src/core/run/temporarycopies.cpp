@@ -25,13 +25,13 @@ QString recordFolder()
            QStringLiteral("/runs/");
 }
 
-/// The lock of a record, taken if nobody alive holds it.
+/// The lock of a record. It can be taken if its process no longer exists.
 class RecordLock
 {
 public:
     explicit RecordLock(const QString& record) : m_lock(record + lockSuffix)
     {
-        // However long an engine runs, its lock stays good.
+        // An engine may run for any length of time, so the lock never expires.
         m_lock.setStaleLockTime(0);
     }
 
@@ -69,7 +69,7 @@ bool isSameFile(const QString& a, const QString& b)
     return true;
 }
 
-/// Reads a record of a process that is gone. A record of which nothing is left goes.
+/// Reads a leftover record. Deletes the record if none of its copies exist any more.
 bool readLeftover(const QString& fileName, RunRecord* safe)
 {
     RunRecord record;
@@ -78,7 +78,7 @@ bool readLeftover(const QString& fileName, RunRecord* safe)
     }
     *safe = record.safePart();
     if (safe->wholeFolders.isEmpty() && safe->files.isEmpty()) {
-        // The folder of the engine may be on a disk that is away for now.
+        // If the engine's folder is missing, its disk may only be disconnected: keep the record.
         if (QFileInfo(record.folder).isDir()) {
             safe->removeAll();
             QFile::remove(fileName);
@@ -103,8 +103,7 @@ public:
     std::unique_ptr<RecordLock> lock;
 };
 
-/// The record is locked before it is there, or another program could take it
-/// for one that was left.
+/// Locks the record before it is written. Otherwise another program could take it for a leftover.
 bool TemporaryCopiesPrivate::save()
 {
     if (!lock) {
@@ -116,7 +115,7 @@ bool TemporaryCopiesPrivate::save()
     return lock->take() && record.write(fileName);
 }
 
-/// The path of something at or below the engine's folder, relative to it.
+/// Converts a path at or below the engine's folder to a relative one.
 bool TemporaryCopiesPrivate::locate(const QString& path, QString* relative) const
 {
     const QString clean = QDir::cleanPath(path) + QLatin1Char('/');
@@ -125,7 +124,7 @@ bool TemporaryCopiesPrivate::locate(const QString& path, QString* relative) cons
     return clean.startsWith(record.folder);
 }
 
-/// Takes every folder up to `path` that will have to be made, the outermost first.
+/// Records every missing folder of `path`, outermost first.
 void TemporaryCopiesPrivate::takeMissingFolders(const QString& path)
 {
     for (int end = path.indexOf(QLatin1Char('/')); end >= 0;
@@ -137,8 +136,8 @@ void TemporaryCopiesPrivate::takeMissingFolders(const QString& path)
     }
 }
 
-/// Moves a file to its place, which the record has; forgets it if that fails, for then
-/// something else stands there.
+/// Moves a file to its recorded place. If that fails, something else is there, so the entry is
+/// removed from the record.
 bool TemporaryCopiesPrivate::move(const QString& from, const QString& path)
 {
     const QString place = record.folder + path;
@@ -230,7 +229,8 @@ QList<TemporaryCopies::Leftover> TemporaryCopies::leftovers()
 {
     QList<Leftover> list;
     const QDir folder(recordFolder());
-    // A lock without a record is left where none was written any more; it goes when it is given up.
+    // A lock file may exist without a record if writing the record failed. Taking and releasing the
+    // lock deletes it.
     QStringList names = folder.entryList(
         {QStringLiteral("*.run"), QStringLiteral("*.run") + lockSuffix}, QDir::Files);
     names.replaceInStrings(QRegularExpression(lockSuffix + QLatin1Char('$')), QString());

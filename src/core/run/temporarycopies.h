@@ -12,56 +12,52 @@ namespace Zorv {
 
 class TemporaryCopiesPrivate;
 
-/// The files and folders that stand beside an engine as long as it runs.
+/// The temporary files and folders next to an engine while it runs.
 ///
-/// They are written down before they are made, in the data folder of the
-/// person's programs, so that a program that was killed leaves no copy unknown:
-/// `leftovers()` finds them at the next start. A record is locked as long as its
-/// process lives. Nothing that was there before is ever removed, and no link is
-/// followed. Main thread only.
+/// Their paths are recorded before they are created, in a file in the user's application data
+/// folder. So even if the program is killed, `leftovers()` finds the copies at the next start. A
+/// record is locked as long as its process lives. Existing files are never removed and links are
+/// never followed. Main thread only.
 class ZORV_EXPORT TemporaryCopies
 {
 public:
-    /// What a process that is gone has left.
+    /// The copies left by a process that no longer exists.
     struct Leftover
     {
-        QString record;     ///< the file that names the paths
-        QString folder;     ///< the engine's, ends in "/"
-        QStringList paths;  ///< those that are there still; folders end in "/"
+        QString record;     ///< the file that lists the paths
+        QString folder;     ///< the engine's folder, with "/" at its end
+        QStringList paths;  ///< those that still exist; folders end with "/"
     };
 
-    /// Copies below `folder`, the engine's.
+    /// For copies below `folder`, the engine's folder.
     explicit TemporaryCopies(const QString& folder);
 
-    /// Removes what is left, as `remove()`.
+    /// Removes the remaining copies, like `remove()`.
     ~TemporaryCopies();
 
-    /// Takes a folder as temporary, with all that it will hold, and makes it.
-    /// False if it is there already, is not below the engine's, or cannot be made;
-    /// nothing is taken then. A folder that cannot be written down is taken all the
-    /// same: it is known for as long as the object lives.
+    /// Creates a folder that is temporary with everything in it. Returns false, without any effect,
+    /// if it already exists, is not below the engine's folder or cannot be created. If the record
+    /// cannot be written, the folder is still created; it is then only known as long as this object
+    /// lives.
     bool addFolder(const QString& path);
 
-    /// Moves all files of the temporary folder `from` to `to`, a folder of the engine,
-    /// with their paths below it, and takes them as temporary, with the folders that
-    /// have to be made. Gives the paths, relative to `from`, of those that could
-    /// not go: what is there already stays, and counts as gone if it is the same. `from` is
-    /// removed.
+    /// Moves all files from the temporary folder `from` to `to`, a folder of the engine, with their
+    /// paths below it. The moved files are temporary, and so are the folders created for them. An
+    /// existing file is never replaced; if it has the same content, the file counts as moved.
+    /// Returns the paths, relative to `from`, of files that could not be moved. `from` is removed.
     QStringList spread(const QString& from, const QString& to);
 
-    /// Removes the copies and the record; gives the paths that could not be
-    /// removed, whose record stays. A folder that `spread()` made stays if it
-    /// holds something.
+    /// Removes the copies and the record. Returns the paths that could not be removed; the record
+    /// then stays. A folder created by `spread()` stays if it is not empty.
     QStringList remove();
 
-    /// What processes that are gone have left. Records that are damaged are left out,
-    /// and so is all that cannot be a copy: a folder whose name does not begin with
-    /// "zorvs_" and a digit, a file that was changed since it was copied, whatever
-    /// lies behind a link.
+    /// The copies left by processes that no longer exist. Damaged records are skipped, and so is
+    /// everything that cannot be a copy: a folder whose name does not begin with "zorvs_" and a
+    /// digit, a file changed since it was copied, and anything behind a link.
     static QList<Leftover> leftovers();
 
-    /// Removes the copies of a record, and the record; as `remove()`. Only what
-    /// `leftovers()` would still give is touched.
+    /// Removes the copies of a record and the record itself, like `remove()`. Only touches what
+    /// `leftovers()` would still return.
     static QStringList removeLeftover(const Leftover& leftover);
 
 private:
