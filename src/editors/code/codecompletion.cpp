@@ -18,6 +18,7 @@
 //
 // Without a word finder an accepted word appends what was not typed yet. With one it replaces the
 // whole word at the cursor, and endWord() lets Return and Space finish a word without inserting.
+
 namespace Zorv {
 
 namespace {

@@ -18,6 +18,7 @@
 // the placeholder, the text with the current line and selections, the fold boxes, the cursor, and
 // the preview of a fold. Only lines that meet the dirty rectangle are drawn, and folded lines are
 // skipped by their screen line number, so the cost depends on the view and not on the document.
+
 namespace Zorv {
 
 namespace {

@@ -17,6 +17,7 @@
 // that match at the head and at the tail. What is left in the middle is one edited stretch: its
 // rows are reused in order for the new nodes, and only the difference in number is inserted or
 // removed. So persistent indexes, and with them expanded branches and the selection, survive.
+
 namespace Zorv {
 
 namespace {

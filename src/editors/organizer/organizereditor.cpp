@@ -36,7 +36,7 @@ const EditorTool tools[] = {
     {"org_auto", ToolKind::Action, 165, SIGNAL(enabled(bool)), SLOT(organize())},
 };
 
-/// Each row as far as it can go: not over the end, nor over a row that goes with it.
+/// Moves each row as far as possible: not past the end, and not past another moved row.
 QVector<int> placesAfter(const QVector<int>& rows, int distance, int count)
 {
     QVector<int> places;
@@ -53,7 +53,7 @@ QVector<int> placesAfter(const QVector<int>& rows, int distance, int count)
 class OrganizerEditorPrivate
 {
 public:
-    /// What was last told by signals.
+    /// The state last reported by signals.
     struct State
     {
         int current = -1;
@@ -93,10 +93,10 @@ void OrganizerEditorPrivate::publish(Interface* host)
 
 void OrganizerEditorPrivate::setUpView()
 {
-    // Without it, every change of a long list asks for the text of every row.
+    // Otherwise every change of a long list measures the text of every row.
     view->setUniformItemSizes(true);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    // What may be dropped is for the rows to say.
+    // The rows decide what may be dropped.
     view->setDragDropMode(QAbstractItemView::DragDrop);
     view->setDefaultDropAction(Qt::MoveAction);
     view->setModel(&rows);
@@ -129,7 +129,7 @@ void OrganizerEditorPrivate::select(const QVector<int>& wanted)
     selection.select(ranges, QItemSelectionModel::ClearAndSelect);
 }
 
-/// Rows keep their selection, unless the list has made new ones of them.
+/// Rows keep their selection by themselves, unless the list has recreated them.
 void OrganizerEditorPrivate::showMoved(const QVector<int>& wanted)
 {
     if (q->selectedRows() != wanted) {
@@ -181,8 +181,8 @@ void OrganizerEditorPrivate::tellState()
     }
 }
 
-/// In place of the view: with several rows, some of which stand at the target, Qt's list view
-/// moves none of them.
+/// Handles the drop instead of the view: if one of several dragged rows is already at the target,
+/// Qt's list view moves none of them.
 bool OrganizerEditorPrivate::drop(QDropEvent* event)
 {
     const QModelIndex under = view->indexAt(event->pos());
@@ -193,7 +193,7 @@ bool OrganizerEditorPrivate::drop(QDropEvent* event)
     }
     rows.dropMimeData(event->mimeData(), event->dropAction(), row, 0, {});
     event->ignore();
-    // The view puts its own state in order when a drag leaves it.
+    // A leave event makes the view reset its drag state.
     QDragLeaveEvent leave;
     QCoreApplication::sendEvent(view->viewport(), &leave);
     return true;

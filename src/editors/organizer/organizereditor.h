@@ -13,22 +13,21 @@ namespace Zorv {
 class OrganizableObject;
 class OrganizerEditorPrivate;
 
-/// The side panel in which a person rearranges a list: animations, sprites, sounds.
+/// The side panel for reordering a list: animations, sprites, sounds.
 ///
-/// It publishes a list view, "org_list", and the actions of the slots below, "org_up" to
-/// "org_auto", for all areas. It works on `OrganizableObject` alone, so an editor that comes
-/// forward gives its list, and nothing more. What one act of the person moves is one step of
-/// undo; moved rows keep their order and stay selected. A row that is brought to the last
-/// place, or dropped behind the last row, ends there.
+/// It publishes a list view, "org_list", and the actions for the slots below, "org_up" to
+/// "org_auto", in all areas. It uses only `OrganizableObject`: an editor that comes to the front
+/// just sets its list. Each user action is one undo step; moved rows keep their order and stay
+/// selected. A row moved to the last place, or dropped after the last row, really ends there.
 ///
-/// Lists may be long: views get one change of layout for each act, and rows of one height.
+/// Lists may be long: each action causes one layout change in views, and all rows have one height.
 /// Main thread only.
 class ZORV_EXPORT OrganizerEditor : public ExtraEditor
 {
     Q_OBJECT
 
 public:
-    /// Publishes the tools to the installed host, which must outlive the editor.
+    /// Publishes its tools to the installed host, which must outlive the editor.
     explicit OrganizerEditor(QObject* parent = nullptr);
     ~OrganizerEditor() override;
 
@@ -37,23 +36,22 @@ public:
     QString displayName() const override;
     void retranslate() override;
 
-    /// Shows a list, or with null none. It is not owned, and may die while it is shown.
+    /// Shows a list; null for none. The list is not owned, and may die while it is shown.
     void setObject(OrganizableObject* object);
     OrganizableObject* object() const;
 
-    /// The row with the focus; -1 without one.
+    /// The row with the focus; -1 for none.
     int currentRow() const;
 
     /// The selected rows, ascending.
     QVector<int> selectedRows() const;
 
-    /// Selects one row alone and brings it into view; -1, or a row that is not there, selects
-    /// nothing.
+    /// Selects only one row and scrolls to it; -1 or an invalid row clears the selection.
     void setCurrentRow(int row);
 
 public slots:
-    /// Move each selected row by so many places; one that comes to the end of the list, or to
-    /// one that has, stops there. Nothing without a selection.
+    /// Moves each selected row by some places. A row that reaches the end of the list, or another
+    /// stopped row, stops there. Does nothing without a selection.
     void moveUp();
     void moveDown();
     void moveTenUp();
@@ -61,28 +59,28 @@ public slots:
     void moveToTop();
     void moveToBottom();
 
-    /// Sorts the whole list, by `OrganizableObject::autoOrganize()`.
+    /// Sorts the whole list with `OrganizableObject::autoOrganize()`.
     void organize();
 
-    /// A double click on a row.
+    /// Handles a double click on a row.
     void itemDblClick(const QModelIndex& index);
 
 signals:
-    /// A row was double clicked, or chosen by Enter.
+    /// A row was double-clicked, or activated with Enter.
     void rowActivated(int row);
 
-    /// Another row has the focus, or the same one stands elsewhere; -1 for none.
+    /// Another row has the focus, or the same row has moved; -1 for none.
     void currentRowChanged(int row);
 
     void selectionChanged();
 
-    /// The person has moved the selected rows: by an action, by dragging, by sorting.
+    /// The user has moved the selected rows: by an action, by dragging, or by sorting.
     void selectionMoved();
 
-    /// There is a list that could be sorted.
+    /// Whether there is a list to sort.
     void enabled(bool isEnabled);
 
-    /// The selected rows could go up, or down.
+    /// Whether the selected rows can move up or down.
     void upEnabled(bool isEnabled);
     void downEnabled(bool isEnabled);
 

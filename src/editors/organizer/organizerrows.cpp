@@ -9,6 +9,12 @@
 #include <algorithm>
 #include <numeric>
 
+// Moving n rows would send n move signals, and a long view would lay itself out for
+// each. So while a Batch lives, row signals of the list are not forwarded.
+// `m_batchOrder` records for each current row which row it was when the batch began.
+// The outermost endBatch() then announces one layout change, with persistent indexes
+// mapped through that table.
+
 namespace Zorv {
 
 namespace {
@@ -21,7 +27,7 @@ const QString& mimeType()
 
 }  // namespace
 
-/// While one lives, changes of the list are gathered into one change of layout.
+/// Guard: while it lives, changes of the list are collected into one layout change.
 class OrganizerRows::Batch
 {
 public:
@@ -111,7 +117,7 @@ bool OrganizerRows::place(const QVector<int>& rows, const QVector<int>& targets,
     const QPointer<OrganizableObject> changed = m_object;
     const Batch batch(this);
     changed->beginChange(title);
-    // Who hears of a move may show another list, or none.
+    // A receiver of the move signals may switch to another list, or to none.
     for (int i = rows.size() - 1; i >= 0 && m_object == changed; --i) {
         if (targets[i] > rows[i]) {
             moveRow(rows[i], targets[i]);
@@ -128,7 +134,8 @@ bool OrganizerRows::place(const QVector<int>& rows, const QVector<int>& targets,
     return m_object && m_object == changed;
 }
 
-/// The last place is reached by moving the last row in front of the one that goes there.
+/// A list treats a move to the last place in its own way. So move the row to the last
+/// but one place, and then the last row in front of it.
 void OrganizerRows::moveRow(int from, int to)
 {
     const int last = rowCount() - 1;
@@ -227,7 +234,7 @@ bool OrganizerRows::dropMimeData(const QMimeData* data, Qt::DropAction action, i
     }
     const QVector<int> rows = rowsOf(data);
     const int target = row < 0 ? rowCount() : std::min(row, rowCount());
-    // The rows above the target leave room there when they go.
+    // Dragged rows above the target leave gaps, so the target moves up by their number.
     const auto above = std::lower_bound(rows.begin(), rows.end(), target) - rows.begin();
     QVector<int> targets(rows.size());
     std::iota(targets.begin(), targets.end(), target - int(above));
@@ -290,7 +297,8 @@ void OrganizerRows::watchMoves()
             });
 }
 
-// A list that loses rows while it moves one is not followed row by row.
+// If the list lost rows during the move, positions no longer match: give up mapping
+// single rows.
 void OrganizerRows::rowsInBatchMoved(int first, int last, int destination)
 {
     if (std::max(last + 1, destination) > m_batchOrder.size()) {
@@ -333,7 +341,7 @@ void OrganizerRows::watchWhole()
         m_layout.clear();
         endBatch();
     });
-    // The list is half gone by then: rows must not be asked for any more.
+    // The list is already half destroyed: do not access its rows.
     connect(m_object, &QObject::destroyed, this, [this] {
         m_object.clear();
         beginReset();

@@ -8,12 +8,12 @@ namespace Zorv {
 
 class OrganizableObject;
 
-/// What the organizer's view shows of a list: the rows of an `OrganizableObject`, which may be
-/// none, or die at any time.
+/// The model of the organizer's view: the rows of an `OrganizableObject`, which may be null or die
+/// at any time.
 ///
-/// A list keeps its own results for a move to the last place and for a drop behind the last
-/// row; here both end where the person let go. What one act of the person moves is one step of
-/// undo, and one change of layout for views, however many rows it takes.
+/// The list itself has other results for a move to the last place and for a drop after the last
+/// row. Here rows end where the user put them. Each user action is one undo step and one layout
+/// change for views, however many moves it takes.
 class OrganizerRows : public QAbstractListModel
 {
     Q_OBJECT
@@ -24,9 +24,9 @@ public:
     void setObject(OrganizableObject* object);
     OrganizableObject* object() const { return m_object; }
 
-    /// Brings each of `rows` to the place with the same number in `targets`. Both ascend, and
-    /// no row crosses another of them. False, and no step of undo, if all are there; false
-    /// also if another list is shown by then.
+    /// Moves each of `rows` to the place with the same index in `targets`. Both lists ascend, and
+    /// no row crosses another of them. Returns false without an undo step if all rows are in place
+    /// already. Also returns false if another list is shown afterwards.
     bool place(const QVector<int>& rows, const QVector<int>& targets, const QString& title);
 
     /// Sorts the list.
@@ -39,17 +39,18 @@ public:
     QStringList mimeTypes() const override;
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
 
-    /// Takes rows of this list alone, and no payload from before rows came, went or moved.
+    /// Accepts only rows of this list, and rejects a payload from before rows were added, removed
+    /// or moved.
     bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                          const QModelIndex& parent) const override;
 
-    /// Puts the rows in front of `row`, in their order. Always false: they are in place
-    /// already, and true would make a view delete them.
+    /// Moves the rows before `row`, in their order. Always returns false: the rows are already in
+    /// place, and true would make the view delete them.
     bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                       const QModelIndex& parent) override;
 
 signals:
-    /// A drop has put rows there.
+    /// A drop has moved rows to these places.
     void dropped(const QVector<int>& rows);
 
 private:
@@ -68,11 +69,11 @@ private:
     void renew();
 
     QPointer<OrganizableObject> m_object;
-    quint64 m_version = 0;  ///< of the order of rows, unique in the process
+    quint64 m_version = 0;  ///< version of the row order, unique in the process
     int m_batchDepth = 0;
-    int m_batchCount = 0;       ///< rows when the batch began
-    QVector<int> m_batchOrder;  ///< for each row now, the row that it was; -1 for a new one
-    QVector<QPersistentModelIndex> m_layout;  ///< rows of the list while it is laid out again
+    int m_batchCount = 0;                     ///< row count at the start of the batch
+    QVector<int> m_batchOrder;                ///< for each row its old row; -1 for a new one
+    QVector<QPersistentModelIndex> m_layout;  ///< the list's rows during its own layout change
 };
 
 }  // namespace Zorv

@@ -15,7 +15,7 @@ namespace Zorv {
 class ColorPalettePrivate
 {
 public:
-    /// An index and the well that shows its colour. The well goes with its parent, if it has one.
+    /// An index, and the well that shows its colour. A well with a parent dies with it.
     struct Choice
     {
         unsigned char index = 0;

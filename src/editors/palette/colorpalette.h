@@ -15,16 +15,16 @@ class ColorPalettePrivate;
 class ColorWidget;
 class PaletteWidget;
 
-/// The colours of a grid as those that a canvas is painted with. A click in the grid chooses the
-/// foreground, one with the right button the background. Main thread only.
+/// Makes the colours of a palette grid the paint colours of a canvas. A left click in the grid
+/// chooses the foreground, a right click the background. Main thread only.
 class ZORV_EXPORT ColorPalette : public ImagePalette
 {
     Q_OBJECT
 
 public:
-    /// A tool that wants a click for itself. True if it has used the click up.
+    /// Lets a tool take a click in the grid. Returns true if the tool has used the click.
     ///
-    /// The grid stands below the tools, so a tool comes as a function:
+    /// A function, so that the grid does not depend on the tools:
     ///
     ///     palette->setColorTaker([this](bool isRightButton, unsigned char index) {
     ///         return currentTool()->colorClicked(isRightButton, index);
@@ -48,24 +48,24 @@ public:
 
     PaletteWidget* widget() const;
 
-    /// The wells that show both colours. Where a layout takes them they are its parent's, otherwise
-    /// they go with the palette. They follow the colours of the grid.
+    /// The wells that show the two colours. They follow the grid's colours. A well in a layout is
+    /// owned by its parent; otherwise it dies with the palette.
     ColorWidget* foregroundWidget() const;
     ColorWidget* backgroundWidget() const;
 
-    /// Who is asked first about a click; empty for none. It has to be taken back before it dangles,
-    /// and may replace itself while it is called.
+    /// Sets the function that gets a click first; empty for none. Reset it before it dangles. It
+    /// may replace itself while it is called.
     void setColorTaker(ColorTaker taker);
 
 public slots:
-    /// A click in the grid; it is connected. Beyond 255 nothing happens.
+    /// Handles a click in the grid, and is already connected to it. Indexes above 255 are ignored.
     void colorClicked(unsigned short color, Qt::MouseButton button);
 
 signals:
-    /// The grid has other colours.
+    /// The colours of the grid have changed.
     void paletteChanged();
 
-    /// Foreground or background is another index.
+    /// The foreground or background index has changed.
     void colorsChosen();
 
 protected:

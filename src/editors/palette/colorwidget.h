@@ -8,21 +8,21 @@
 
 namespace Zorv {
 
-/// A well that shows one colour, with squares behind one that is not opaque. Main thread only.
+/// A well that shows one colour, on a chequerboard if it is not opaque. Main thread only.
 class ZORV_EXPORT ColorWidget : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Shows opaque black. It is 16 pixels high.
+    /// Shows opaque black. Fixed height of 16 pixels.
     explicit ColorWidget(QWidget* parent = nullptr);
 
     QColor color() const { return m_color; }
 
-    /// Takes the colour as 0xAARRGGBB.
+    /// Sets the colour as 0xAARRGGBB.
     void setColor(const unsigned int& color);
 
-    /// Paints it as somebody else sees it.
+    /// Simulates how people with another colour vision see the colour.
     void setColorSight(const ColorSight& sight);
 
     QSize sizeHint() const override;

@@ -69,7 +69,7 @@ void PalDlg::clicked(QAbstractButton* button)
     }
 }
 
-/// An exchange reaches sprites that nobody thinks of, so it says how many.
+/// An exchange also changes sprites that the user may not think of, so show how many.
 void PalDlg::update()
 {
     const Info info = getInfo();

@@ -21,26 +21,26 @@ class QLabel;
 ///         sprite->setImage(image, info.isReversed, info.mode, palettes->palette(info.row));
 ///     }
 ///
-/// It closes as if it was cancelled when the model dies. Main thread only.
+/// It closes as cancelled if the model dies. Main thread only.
 class ZORV_EXPORT PalDlg : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// What the person has chosen.
+    /// The user's choice.
     struct Info
     {
-        int row = 0;  ///< of the palette, the first if several are selected, 0 for none
+        int row = 0;  ///< row of the palette; the first of several, 0 for none
         Zorv::Sprite::PaletteMode mode = Zorv::Sprite::ImagePalette;
-        bool isReversed = false;  ///< the order of the image's colours is reversed first
+        bool isReversed = false;  ///< reverse the order of the image's colours first
     };
 
-    /// A list of palettes with a row selected, -1 for none. The model is not owned. One that is
-    /// `Zorv::Palettes` also tells how many sprites an exchange changes.
+    /// Shows a list of palettes with one row selected; -1 for none. The model is not owned. If it
+    /// is a `Zorv::Palettes`, the dialog also shows how many sprites an exchange changes.
     PalDlg(QWidget* parent, QAbstractItemModel* model, int row);
     ~PalDlg() override;
 
-    /// OK can be pressed when a palette is selected, or none is needed.
+    /// The choice. OK is enabled if a palette is selected or none is needed.
     Info getInfo() const;
 
 private slots:

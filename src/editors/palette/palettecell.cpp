@@ -38,7 +38,7 @@ CellPainter::~CellPainter()
     m_painter->restore();
 }
 
-// Cells that touch share the rounded edge.
+// Round the edges, not the sizes: adjacent cells then share an edge.
 QRect CellPainter::devicePixels(const QRect& rect) const
 {
     const QPoint from(qRound(rect.x() * m_ratio), qRound(rect.y() * m_ratio));
@@ -78,7 +78,7 @@ void CellPainter::paintWell(const QRect& well, RGBA color, int square)
     paintEdges(pixels);
 }
 
-/// The squares begin with a gray one at the corner of `origin`.
+/// The chequerboard starts with a gray square at the corner of `origin`.
 void CellPainter::fillColor(const QRect& pixels, RGBA color, int square, const QRect& origin)
 {
     if (color.a != 255) {
@@ -114,7 +114,7 @@ void CellPainter::paintEdges(const QRect& pixels)
 void CellPainter::paintMarks(const QRect& pixels, CellMarks marks)
 {
     if (marks & CellMark::Selected) {
-        // One of two tones stands out from any colour.
+        // Black and white: one of the two stands out from any colour.
         fillFrame(m_painter, pixels, m_line, Qt::black, Qt::black);
         fillFrame(m_painter, pixels.adjusted(m_line, m_line, -m_line, -m_line), m_line, Qt::white,
                   Qt::white);

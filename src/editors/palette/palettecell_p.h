@@ -12,13 +12,13 @@ namespace Zorv {
 
 enum class CellMark {
     Selected = 1,
-    Focused = 2  ///< the keys work on this cell
+    Focused = 2  ///< keys act on this cell
 };
 Q_DECLARE_FLAGS(CellMarks, CellMark)
 Q_DECLARE_OPERATORS_FOR_FLAGS(CellMarks)
 
-/// Paints cells of colours along the pixels of the screen: at a scale of 1.25, too, all edges are
-/// sharp and all lines equally wide. The painter is as before when this object goes.
+/// Paints colour cells aligned to device pixels: edges stay sharp and lines equally wide even at a
+/// scale of 1.25. The destructor restores the painter.
 class CellPainter
 {
 public:
@@ -27,17 +27,18 @@ public:
     CellPainter(const CellPainter&) = delete;
     CellPainter& operator=(const CellPainter&) = delete;
 
-    /// A cell; squares of half its size show through a colour that is not opaque.
+    /// A cell. Behind a colour that is not opaque, shows a chequerboard with squares of half the
+    /// cell.
     void paintColor(const QRect& cell, RGBA color, CellMarks marks = {});
 
-    /// A cell that has no colour.
+    /// A cell without a colour.
     void paintEmpty(const QRect& cell, CellMarks marks = {});
 
-    /// A colour above squares of this size.
+    /// A colour on a chequerboard with squares of this size.
     void paintWell(const QRect& well, RGBA color, int square);
 
-    /// Squares of white and a colour below a picture, as far as they are `exposed`; all in pixels
-    /// of the screen, from the corner of the widget.
+    /// A chequerboard of white and one colour behind a picture, limited to `exposed`. All in device
+    /// pixels from the corner of the widget.
     void paintChequer(const QRect& pixels, const QRect& exposed, int square, const QColor& color);
 
 private:

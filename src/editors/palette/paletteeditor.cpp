@@ -17,8 +17,9 @@
 
 #include <algorithm>
 
-// The grid, the slider and the collection each tell of a change that may come from one of the
-// others. `inhibit` is up while the editor itself makes one, so that none goes round.
+// The grid, the slider and the collection each signal changes, which may come from one of the
+// others. `inhibit` is above 0 while the editor itself changes one of them, as a guard against
+// loops.
 
 namespace Zorv {
 
@@ -48,7 +49,7 @@ PaletteEditorPrivate::PaletteEditorPrivate(PaletteEditor* owner)
     connect(remapDlg, &RemapDlg::updateView, this, &PaletteEditorPrivate::endRemap);
 }
 
-/// The host's window owns what was published, and may be there longer.
+/// The host's window owns the published widgets and may outlive this object.
 PaletteEditorPrivate::~PaletteEditorPrivate()
 {
     delete view;
@@ -131,7 +132,8 @@ void PaletteEditorPrivate::updateRange()
     selPosChanged(row());
 }
 
-/// Colours of no palette stay in sight when the panel comes back, or when palettes come and go.
+/// Keeps showing colours of no palette when the panel is reactivated, or when palettes are added or
+/// removed.
 void PaletteEditorPrivate::keepOthers()
 {
     const Inhibit guard(this);
@@ -233,9 +235,9 @@ void PaletteEditorPrivate::palChanged(bool structure)
     }
 }
 
-/// The sprite that comes into sight brings its own palette: the tool is for the one that was
-/// chosen. An editor that keeps work of another file brings that file's palettes, which are not
-/// meant.
+/// Bringing the sprite editor forward makes its sprite's palette current. Restore the chosen one:
+/// the tool was meant for it. If the canvas keeps work of another file, that file's palettes come
+/// up, which are the wrong ones.
 bool PaletteEditorPrivate::bringForward()
 {
     const QPointer<Palettes> before = palettes;

@@ -17,17 +17,17 @@ class PaletteEditorPrivate;
 class Palettes;
 class PaletteWidget;
 
-/// The side panel "pal": the palettes of a sprite collection, one at a time, as a grid of colours.
+/// The side panel "pal": shows the palettes of a sprite collection, one at a time, as a colour
+/// grid.
 ///
-/// Palettes come from files and go to files, are stepped through, edited slot by slot, and given to
-/// sprites. Every change is one step of undo in the file of the sprites, which is also what the
-/// tools "pal_undo" and "pal_redo" step through. The current palette is the row of the collection
-/// that `Palettes::currentIndex` tells.
+/// It loads and saves palette files, steps through palettes, edits their slots, and assigns
+/// palettes to sprites. Every change is one undo step in the sprite file; the tools "pal_undo" and
+/// "pal_redo" use the same history. The current palette is the row `Palettes::currentIndex` of the
+/// collection.
 ///
 /// It publishes the tools "pal_..." and the grid "pal_view" to the installed host, in the areas
-/// "sprites" and "animations", and is derived from for what only a host can tell or do.
-/// A right click in the grid is that of the colours; with Ctrl it opens the menu of the tools.
-/// Main thread only.
+/// "sprites" and "animations". Hosts derive from it to add what only they know. A right click in
+/// the grid chooses a colour; Ctrl with a right click opens the tools menu. Main thread only.
 class ZORV_EXPORT PaletteEditor : public ExtraEditor
 {
     Q_OBJECT
@@ -43,83 +43,85 @@ public:
     /// The grid, see `view()`.
     QWidget* widget() const override;
 
-    /// Takes up where the collection is now.
+    /// Shows the collection's current palette.
     void activate() override;
     void retranslate() override;
 
     /// @name For a host to define
     /// @{
 
-    /// Gives the identifier of a new palette. False if the person gave up.
+    /// Returns the identifier for a new palette. False if the user cancelled.
     virtual bool paletteIdentifier(QVariant* id) = 0;
 
-    /// Gives one identifier for each of the files that are about to be added, in their order, and
-    /// whether the order of their colours is to be reversed. With another number none is added.
+    /// Returns one identifier per file to be added, in their order, and whether to reverse the
+    /// colour order. With another number of identifiers nothing is added.
     virtual void paletteIdentifiers(const QStringList& files, QList<QVariant>* ids,
                                     bool* reversed) = 0;
 
-    /// Puts the colours of the palettes of some rows in another order. The pixels of all sprites
-    /// that use one of them go along, so that pictures stay as they are. A step of undo is open
-    /// meanwhile: what the person has to be told waits for its end.
+    /// Reorders the colours of the palettes in some rows. Must remap the pixels of all sprites that
+    /// use one of them, so that the pictures look the same. An undo step is open during the call:
+    /// show messages to the user only after it ends.
     virtual void reorderColors(const QVector<int>& rows, const PaletteOrder& order) = 0;
 
-    /// Another palette is current; null for none. Nothing as it stands here.
+    /// Another palette is current; null for none. The default does nothing.
     virtual void paletteSelected(Palette* palette);
 
-    /// Palettes mean other things to sprites than before. As it stands here the editor in front,
-    /// of sprites or animations, shows them again.
+    /// The palette remapping of sprites has changed. By default the active editor, of sprites or
+    /// animations, repaints them.
     virtual void remapChanged();
     /// @}
 
     /// The collection, or null.
     Palettes* palettes() const;
 
-    /// Takes up another collection; null for none, which leaves no palette. Not owned, and may die.
+    /// Switches to another collection; null for none, which leaves no palette. Not owned, and may
+    /// die.
     void setPalettes(Palettes* palettes);
 
-    /// The palette in the grid; null if there is none, or `showColors()` shows others. Good until
-    /// the collection signals a change.
+    /// The palette in the grid; null if there is none, or after `showColors()`. Valid until the
+    /// collection signals a change.
     Palette* currentPalette() const;
 
     /// Shows a palette of the collection; null for none.
     void setCurrentPalette(Palette* palette);
 
-    /// Takes colours in: for the palette of an identifier that the host is asked for, or as a new
-    /// one behind the others.
+    /// Imports colours: into the palette with an identifier that the host is asked for, or as a new
+    /// palette at the end.
     void setPalette(const RGBA (&colors)[256]);
 
-    /// Shows colours that are of no palette, to be chosen from but not to be edited.
+    /// Shows colours that belong to no palette. They can be picked but not edited.
     void showColors(const RGBA (&colors)[256]);
 
-    /// Shows the current palette in other colours, for a dialog that is about to change it. The
-    /// palette stays, nothing can be edited meanwhile, and showing any palette ends it.
-    /// Null shows the palette as it is again. Nothing without a current palette.
+    /// Shows the current palette with other colours, for a dialog that is about to change it. The
+    /// palette does not change, and nothing can be edited meanwhile. Showing any palette ends the
+    /// preview; null shows the palette's own colours again. Has no effect without a current
+    /// palette.
     void previewColors(const RGBA* colors);
     bool isPreviewing() const;
 
-    /// True if an edit in the grid would reach a palette.
+    /// True if an edit in the grid would change a palette.
     bool canChangeFieldValue() const;
 
     /// Brings the editor "sprites" to the front.
     void switchToSprites();
 
-    /// The same for a tool that is about to change the current palette, which stays the current one
-    /// whatever palette the canvas brings along. False, and the person is told, if the canvas keeps
-    /// work of another file: the palettes are those of that one then.
+    /// `switchToSprites()` for a tool that is about to change the current palette. The palette
+    /// stays current, even if the canvas brings its own. Returns false and informs the user if the
+    /// canvas keeps unsaved work of another file: then the palettes are those of that file.
     bool bringForward();
 
-    /// The grid; null if it has gone with the host's window.
+    /// The grid; null once it was deleted with the host's window.
     PaletteWidget* view() const;
 
 signals:
-    /// There is a palette to work on.
+    /// Whether there is a palette to work on.
     void enabled(bool isEnabled);
 
-    /// Another palette is current, or has other colours.
+    /// Another palette is current, or the current one has other colours.
     void currentPaletteChanged();
 
-    /// Colours are about to change places, and pixels with them. A host that has tools for that
-    /// besides `reorderColors()` emits it, too. For who has pixels that are in no sprite, such as
+    /// Colours, and pixels with them, are about to be reordered. A host with tools for that besides
+    /// `reorderColors()` emits it too. For receivers with pixels outside of sprites, such as
     /// layers.
     void colorsMoving(const Zorv::PaletteOrder& order);
 

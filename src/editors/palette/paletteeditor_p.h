@@ -16,7 +16,7 @@ namespace Zorv {
 class Interface;
 class Sprites;
 
-/// The state of a `PaletteEditor`, and the slots of its tools, which the host finds by name.
+/// The state of a `PaletteEditor`, and the slots of its tools. The host finds the slots by name.
 class PaletteEditorPrivate : public QObject
 {
     Q_OBJECT
@@ -35,10 +35,10 @@ public:
     int row() const;
     int count() const;
 
-    /// True if the current row is one of the collection.
+    /// True if the current row exists in the collection.
     bool hasRow() const;
 
-    /// What is about to be changed is seen. False, and told, if it cannot be.
+    /// Shows what is about to be changed. Returns false and informs the user if that is impossible.
     bool bringForward();
 
     // paletteeditorcontrols.cpp
@@ -46,7 +46,7 @@ public:
     void retranslate();
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// For as long as it lives, the editor itself sets values.
+    /// Guard: while it lives, the editor itself changes values and ignores their signals.
     class Inhibit
     {
     public:
@@ -59,16 +59,16 @@ public:
     PaletteEditor* const editor;
     Interface* const host;
     QPointer<Palettes> palettes;
-    QPointer<Sprites> sprites;   // whose palettes they are
-    Palette* palette = nullptr;  // the current one
+    QPointer<Sprites> sprites;   // owner of the palettes
+    Palette* palette = nullptr;  // the current palette
     QPointer<PaletteWidget> view;
     QPointer<RemapDlg> remapDlg;
     QPointer<QAbstractItemModel> remapModel;
     QPointer<QSlider> slider;
-    QPointer<Palettes> remapStep;  // in which a step is open
+    QPointer<Palettes> remapStep;  // collection with an open undo step
     int inhibit = 0;
-    bool isOther = false;    // the grid has colours of no palette,
-    bool isPreview = false;  // or others than the current one has
+    bool isOther = false;    // the grid shows colours of no palette
+    bool isPreview = false;  // the grid shows preview colours
 
 public slots:
     void clear();
@@ -111,18 +111,19 @@ private:
     void endRemap();
 };
 
-/// What a dialog was opened on. Files are read again behind dialogs, projects are closed.
+/// Remembers the palette that a dialog was opened for. While it is open, files can be read again
+/// and projects closed.
 class ShownPalette
 {
 public:
     explicit ShownPalette(PaletteEditorPrivate* d);
 
-    /// True if the same collection is there still, and the same palette is the current one.
+    /// True if the collection still exists and the same palette is current.
     bool isThere() const;
     bool isListThere() const;
 
-    /// Makes it the current one again where another palette came into the grid meanwhile. True if
-    /// `isThere()` then.
+    /// Makes the palette current again if another one came into the grid. Returns `isThere()`
+    /// afterwards.
     bool comeBack() const;
 
 private:
@@ -133,10 +134,10 @@ private:
     QVariant m_identifier;
 };
 
-/// The identifier of a palette, as the person knows it.
+/// The identifier of a palette, as the user knows it.
 QString paletteName(const Palette& palette);
 
-/// Where file dialogs of palettes begin.
+/// The start folder of palette file dialogs.
 QString paletteFolder(const Palettes& palettes);
 
 }  // namespace Zorv

@@ -18,12 +18,12 @@ namespace Zorv {
 
 namespace {
 
-/// What stays as it is when a colour goes to another slot: the values of the setting "pal_move".
+/// What is preserved when a colour moves to another slot: the values of the setting "pal_move".
 enum Move { Ask, PicturesInAll, PicturesInOne, Slots };
 
 const QString MoveKey = QStringLiteral("pal_move");
 
-/// `Ask` if the person gave up. The answer is a setting from then on.
+/// Returns `Ask` if the user cancelled. The answer is stored in the setting.
 Move askForMove(Interface* host)
 {
     const int known = host->option(MoveKey).toInt();
@@ -47,7 +47,7 @@ Move askForMove(Interface* host)
 
 }  // namespace
 
-/// Edits of a hidden panel are edits of something that is not seen.
+/// Shows the panel, so that the user sees what is edited.
 void PaletteEditorPrivate::comeForward()
 {
     if (!editor->isActive()) {
@@ -58,7 +58,7 @@ void PaletteEditorPrivate::comeForward()
     }
 }
 
-/// The grid has the colours of a move before `colorMoved()` tells of it.
+/// While a colour is being moved, colorMoved() does the work instead.
 void PaletteEditorPrivate::changed()
 {
     if (inhibit > 0 || !palette || isPreview || view->isMoving()) {
@@ -77,7 +77,7 @@ void PaletteEditorPrivate::changed()
 
 void PaletteEditorPrivate::colorMoved(unsigned short src, unsigned short dst)
 {
-    // A colour that comes back to its own slot has not moved.
+    // A colour dropped on its own slot has not moved.
     if (inhibit > 0 || !palette || isPreview || src == dst) {
         return;
     }
@@ -85,7 +85,7 @@ void PaletteEditorPrivate::colorMoved(unsigned short src, unsigned short dst)
     RGBA colors[256];
     view->palette()->toPalette(colors);
     const Move move = askForMove(host);
-    selPosChanged(row());  // work beside the file is in the colours that the file has
+    selPosChanged(row());  // unsaved painting uses the file's colours, so show them
     if (move != Ask && shown.isThere()) {
         comeForward();
         if (move == Slots) {
@@ -98,8 +98,8 @@ void PaletteEditorPrivate::colorMoved(unsigned short src, unsigned short dst)
     }
 }
 
-/// Pixels of the file are mapped, and so have to be all in the file. What is painted gets there in
-/// the colours of its sprite, which come into the grid for that.
+/// Remaps the pixels of the file, so pending painting must be flushed into it first. Flushing shows
+/// the painted sprite's palette in the grid, hence comeBack().
 void PaletteEditorPrivate::keepPictures(bool inAll, unsigned short src, unsigned short dst)
 {
     const ShownPalette shown(this);
@@ -121,7 +121,7 @@ void PaletteEditorPrivate::keepPictures(bool inAll, unsigned short src, unsigned
     if (changed) {
         changed->endChange();
     }
-    shown.comeBack();  // a sprite that is read anew has its own come, too
+    shown.comeBack();  // reloading a sprite also shows its own palette
     tellFailures(title, errors);
 }
 
@@ -130,7 +130,7 @@ void PaletteEditorPrivate::colorDblClicked(unsigned short)
     setColor();
 }
 
-/// Files have one history.
+/// Undo works on the whole file: it has only one history.
 void PaletteEditorPrivate::undo()
 {
     if (bringForward() && sprites) {

@@ -63,8 +63,8 @@ void PaletteEditorPrivate::retranslate()
     }
 }
 
-/// Of the grid alone. Its last events come when it is no grid any more, so only the kind is looked
-/// at. The right button is a choice of colours, as it is on the canvas.
+/// Installed on the grid only. `watched` is not cast: during destruction it is no longer a
+/// PaletteWidget. A plain right click chooses a colour, as on the canvas.
 bool PaletteEditorPrivate::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::ContextMenu) {

@@ -25,7 +25,7 @@ namespace Zorv {
 namespace {
 
 enum TextId : unsigned {
-    AllFormatsText = 7,  // of the host
+    AllFormatsText = 7,  // text of the host
     ClearText = 28,
     DuplicatesText = 32,
     ApplyText = 40,
@@ -34,7 +34,7 @@ enum TextId : unsigned {
 
 using Colors = std::array<RGBA, 256>;
 
-/// One step of undo for as long as it lives.
+/// One undo step, open while this object lives.
 class Step
 {
 public:
@@ -76,7 +76,7 @@ Colors colorsOf(const Palette* palette)
     return result;
 }
 
-/// How many sprites have a palette with the colours of one before it.
+/// The number of sprites whose palette repeats the colours of an earlier one.
 int countOfRepeats(const Palettes& palettes)
 {
     const QVector<int> uses = paletteUses(palettes);
@@ -93,7 +93,7 @@ int countOfRepeats(const Palettes& palettes)
     return count;
 }
 
-/// A palette file that was read.
+/// A loaded palette file.
 struct Read
 {
     QString file;
@@ -129,7 +129,8 @@ QString paletteFolder(const Palettes& palettes)
     return project ? project->option(QStringLiteral("project_path")).toString() : QString();
 }
 
-/// Asks about what sprites use. The collection is there still if the answer is yes.
+/// Asks before changing palettes that sprites use. If the answer is yes, the collection
+/// still exists.
 bool PaletteEditorPrivate::mayChange(unsigned titleId, const QString& text) const
 {
     const QPointer<Palettes> before = palettes;
@@ -160,7 +161,7 @@ void PaletteEditorPrivate::clear()
     editor->remapChanged();
 }
 
-/// What no sprite uses is missed by none: there is nothing to ask about.
+/// Does not ask, because no sprite uses the removed palettes.
 void PaletteEditorPrivate::clearUnused()
 {
     if (bringForward() && palettes) {
@@ -211,7 +212,7 @@ void PaletteEditorPrivate::add()
     }
 }
 
-/// Without a palette to copy it is an empty one.
+/// Without a palette to copy, adds an empty one.
 void PaletteEditorPrivate::addNew(int place)
 {
     const ShownPalette shown(this);

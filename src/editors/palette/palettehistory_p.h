@@ -4,10 +4,10 @@
 
 namespace Zorv {
 
-/// The colours of a grid, and what they were before up to eleven changes.
+/// The colours of a grid, with an undo history of up to eleven changes.
 ///
-/// The colours stay at one place in memory, states are copied in and out. The first change after
-/// construction and `reset()` makes no state: it is the first palette that arrives.
+/// The current colours keep their address in memory; states are copied in and out. The first change
+/// after construction or `reset()` creates no state, because it is the first palette being loaded.
 class PaletteHistory
 {
 public:
@@ -18,20 +18,20 @@ public:
     Colors& colors() { return m_colors; }
     const Colors& colors() const { return m_colors; }
 
-    /// To be called before a change; what could be redone is gone.
+    /// Call before each change; discards what could be redone.
     void beginChange();
 
     bool canUndo() const { return m_step > 0; }
     bool canRedo() const { return m_step + 1 < m_steps; }
 
-    /// Does nothing where there is no such state.
+    /// These do nothing if there is no such state.
     void undo();
     void redo();
 
-    /// The colours stay, and are the only state.
+    /// Clears the history; the colours stay as its only state.
     void flatten();
 
-    /// All colours become transparent black; there is no state.
+    /// Makes all colours transparent black and clears the history.
     void reset();
 
 private:
@@ -40,7 +40,7 @@ private:
     static constexpr int Tables = 12;
 
     Colors m_colors;
-    Colors m_tables[Tables];  // that of m_step is out of date: it is m_colors
+    Colors m_tables[Tables];  // entry m_step is stale: m_colors has that state
     int m_step = 0;
     int m_steps = 0;
 };

@@ -213,7 +213,7 @@ void PaletteRemapWidget::mouseMoveEvent(QMouseEvent* event)
     d->showTip(this, placeOf(event), event->globalPos());
 }
 
-// Whether it is a click shows itself when the button is released.
+// The left button selects on release.
 void PaletteRemapWidget::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::RightButton && d->isSelectable) {

@@ -11,11 +11,11 @@ namespace Zorv {
 
 class PaletteRemapWidgetPrivate;
 
-/// Twelve pairs of colours: which colour of a palette becomes which other.
+/// Twelve pairs of colours: which palette colour is replaced by which other.
 ///
-/// A row shows its source and its target. Rows follow each other from left to right with the source
-/// on top, or from the top down with the source at the left. A click, or the arrows, make a row the
-/// current one; Delete and the menu take its colours away.
+/// Each row shows a source and a target. Horizontal: rows go left to right, source on top.
+/// Vertical: rows go top to bottom, source on the left. A click or the arrow keys choose the
+/// current row. Delete and the menu clear its colours.
 ///
 /// Main thread only.
 class ZORV_EXPORT PaletteRemapWidget : public QWidget
@@ -25,7 +25,7 @@ class ZORV_EXPORT PaletteRemapWidget : public QWidget
 public:
     static constexpr int RowCount = 12;
 
-    /// What a row maps; -1 for no colour. A row that lacks one of both maps nothing.
+    /// The mapping of a row; -1 for no colour. A row without source or target maps nothing.
     struct Row
     {
         int source = -1;
@@ -34,27 +34,27 @@ public:
         bool isSet() const { return source >= 0 && target >= 0; }
     };
 
-    /// With `horizontal` rows follow each other from left to right. No row has colours.
+    /// `horizontal`: rows go from left to right. All rows start without colours.
     PaletteRemapWidget(QWidget* parent, bool horizontal);
     ~PaletteRemapWidget() override;
 
-    /// Shows 256 colours, which are copied; null for none. Call it again when they change.
+    /// Shows 256 colours, which are copied; null for none. Call it again after each change.
     void setColors(const RGBA* colors);
 
-    /// A row of 0 to 11; one without colours for any other.
+    /// Row 0 to 11; an empty row for any other number.
     Row row(int row) const;
 
-    /// Sets source and target, from 0 to 255; any other is none. Nothing for a row that is none.
+    /// Sets source and target, 0 to 255; any other number means none. Ignores invalid rows.
     void setRow(int row, int source, int target);
 
-    /// Takes the colours of all rows away.
+    /// Clears the colours of all rows.
     void clearRows();
 
-    /// The row that the next colours are for, 0 at first. Nothing for one that is none.
+    /// The row that receives the next colours; starts at 0. Setting an invalid row does nothing.
     int currentRow() const;
     void setCurrentRow(int row);
 
-    /// Whether the person can make another row the current one. True at first.
+    /// Whether the user can change the current row. True by default.
     bool isSelectable() const;
     void setSelectable(bool isOn);
 
@@ -63,10 +63,10 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
-    /// Another row is the current one.
+    /// The current row has changed.
     void currentRowChanged(int row);
 
-    /// Rows have other colours.
+    /// The colours of rows have changed.
     void rowsChanged();
 
 protected:

@@ -30,7 +30,7 @@ QString title()
     return ZorvTranslator::instance()->trText(TitleText);
 }
 
-/// Without what leads to another folder, or stands for something else on some system.
+/// Replaces characters that separate folders or are special on some system.
 QString asFileName(QString name)
 {
     for (QChar& each : name) {
@@ -106,7 +106,7 @@ bool PaletteSave::askForFile()
     return mayReplace(path);
 }
 
-/// The file dialog has asked about its own name alone.
+/// The file dialog has only asked about overwriting the file that it returned.
 bool PaletteSave::mayReplace(const QString& asked) const
 {
     const auto existing = std::count_if(m_items.begin(), m_items.end(), [&](const Item& item) {

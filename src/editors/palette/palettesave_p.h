@@ -12,17 +12,18 @@ namespace Zorv {
 
 class Palettes;
 
-/// Palettes of a collection on their way to files. The person says which, and where to: a file for
-/// one, its name with their identifiers behind it for several.
+/// Saves palettes of a collection to files. The user chooses the palettes and the target: one file
+/// for a single palette; for several, its name plus their identifiers.
 ///
-/// Colours are taken when the palettes are chosen: the collection may die behind the next dialog.
+/// Colours are copied when the palettes are chosen, because the collection can die while the next
+/// dialog is open.
 class PaletteSave
 {
 public:
-    /// `row` is selected at first.
+    /// `row` is the initial selection.
     PaletteSave(Palettes* palettes, int row);
 
-    /// Asks, writes, and tells what was not written.
+    /// Asks, writes, and reports files that could not be written.
     void run();
 
 private:

@@ -267,7 +267,7 @@ bool PaletteWidget::event(QEvent* event)
 {
     switch (event->type()) {
     case QEvent::ShortcutOverride:
-        // What the grid does comes in front of the shortcuts of a window.
+        // The grid's keys take precedence over window shortcuts.
         if (d->handles(static_cast<QKeyEvent*>(event))) {
             event->accept();
             return true;

@@ -13,22 +13,23 @@ namespace Zorv {
 class PaletteObject;
 class PaletteWidgetPrivate;
 
-/// The colours of a palette as a grid of cells, sixteen in a row.
+/// The colours of a palette as a grid of cells, sixteen per row.
 ///
-/// A cell is a slot. Slots are selected as in a list: a click selects one, Ctrl adds one, Shift
-/// takes all up to it, the right button takes one out. A colour that is dragged to another slot
-/// moves those between by one. Escape, or leaving the widget, gives a press up: nothing moves,
-/// and its release is no click.
+/// Each cell is a palette slot. Selection works as in a list: a click selects one slot, Ctrl adds
+/// one, Shift selects the range up to it, the right button removes one. Dragging a colour to
+/// another slot shifts the colours in between by one. Escape, or leaving the widget, cancels a
+/// press: nothing moves, and the release does not count as a click.
 ///
-/// Keys do the same at a cell of their own, which is drawn while the widget has the focus: arrows,
-/// Home and End go to a slot and select it, with Shift all on the way, with Ctrl nothing; Space is
-/// a left click, and with Ctrl adds or takes out; Return is a double click; Alt with an arrow moves
-/// the colour; Ctrl+A selects all.
+/// Keys act on a focus cell, which is drawn while the widget has the focus. Arrows, Home and End
+/// move it and select that slot; with Shift they select the range, with Ctrl nothing. Space is a
+/// left click, and Ctrl+Space toggles the slot. Return is a double click. Alt with an arrow moves
+/// the colour. Ctrl+A selects all.
 ///
-/// The grid keeps the last eleven changes of its colours, made through `palette()` or by the
-/// person. They belong to what is shown: call `flatten()` after another palette was loaded.
+/// The grid has an undo history of eleven colour changes, made through `palette()` or by the user.
+/// The history belongs to the shown palette: call `flatten()` after loading another one.
 ///
-/// Mouse moves and releases go on to the parent. Slots may delete the widget. Main thread only.
+/// Mouse moves and releases are passed on to the parent. Slots connected to the signals may delete
+/// the widget. Main thread only.
 class ZORV_EXPORT PaletteWidget : public QWidget
 {
     Q_OBJECT
@@ -37,98 +38,99 @@ public:
     explicit PaletteWidget(QWidget* parent = nullptr);
     ~PaletteWidget() override;
 
-    /// The selected slots, in the form that `PaletteObject` takes. To be read; who writes them
-    /// calls `update()`.
+    /// The selected slots, in the form that `PaletteObject` takes. Meant for reading; call
+    /// `update()` after writing.
     bool selection[256] = {};
 
-    /// The colours; all opaque black at first. Each change of them is a state of the history, but
-    /// the first one. It hides the palette of colours that Qt paints widgets with. Owned by the
-    /// widget; it stays the same object, and the colours stay at their place in memory.
+    /// The colours; all opaque black at first. Each change becomes a state of the history, except
+    /// the first one. Hides `QWidget::palette()`, the widget's GUI palette. Owned by the widget;
+    /// the object and the address of its colours never change.
     PaletteObject* palette() const;
 
-    /// The lowest selected slot, 0 if there is none.
+    /// The lowest selected slot; 0 if there is none.
     int firstSelection() const;
 
-    /// Selects nothing, without a signal.
+    /// Clears the selection without a signal.
     void clearSelection();
 
-    /// Slots that are shown, 256 at first.
+    /// The number of slots shown; 256 by default.
     unsigned short colorCount() const;
 
-    /// The slot below a place, -1 for none.
+    /// The slot at a point; -1 for none.
     int slotAt(QPoint place) const;
 
-    /// The side of a cell, 12 at first; from 6 to 64.
+    /// The side of a cell in pixels, from 6 to 64; 12 by default.
     int cellSize() const;
     void setCellSize(int size);
 
-    /// Makes all colours transparent black and forgets the history, without a signal.
+    /// Makes all colours transparent black and clears the history, without a signal.
     void reset();
 
-    /// Forgets the history; the colours stay. Call it when they are those of another palette.
+    /// Clears the history; the colours stay. Call it when the colours belong to another palette.
     void flatten();
 
-    /// One change back or forth. Nothing if there is none.
+    /// Undo or redo one change. Nothing happens if there is none.
     void undo();
     void redo();
     bool canUndo() const;
     bool canRedo() const;
 
-    /// While true, the history stays as it is: changes make no state, and the four operations above
-    /// do nothing. False at first.
+    /// While locked, the history is frozen: changes create no state, and the four functions above
+    /// do nothing. False by default.
     bool isLocked() const;
     void setLocked(bool isOn);
 
-    /// Whether Shift and Ctrl select more than one slot. True at first.
+    /// Whether Shift and Ctrl can select several slots. True by default.
     bool isMultiSelection() const;
     void setMultiSelection(bool isOn);
 
-    /// Whether clicks and keys select. True at first.
+    /// Whether clicks and keys select slots. True by default.
     bool isSelectable() const;
     void setSelectable(bool isOn);
 
-    /// Whether the person can move colours to other slots. True at first.
+    /// Whether the user can move colours to other slots. True by default.
     bool isMovable() const;
     void setMovable(bool isOn);
 
-    /// True while `changed()` tells of a colour that the person has moved: `colorMoved()` follows.
+    /// True while `changed()` is emitted for a colour that the user moved; `colorMoved()` follows.
     bool isMoving() const;
 
-    /// Paints colours as somebody else sees them. The colours stay, and tips tell them as they are.
+    /// Simulates how people with another colour vision see the colours. The colours themselves, and
+    /// the tool tips, do not change.
     void setColorSight(const ColorSight& sight);
 
-    /// What a slot is told of besides its colour: a line behind that in its tip. None for an empty
-    /// text. The function is called while the grid lives; an empty one, as at first, for nothing.
+    /// Adds a line after the colour in the tool tip of a slot; none if the text is empty. The
+    /// function is called as long as the grid lives. An empty function, the default, adds nothing.
     void setSlotNotes(std::function<QString(int slot)> notes);
 
-    /// All cells; also the least size.
+    /// The size of all cells; also the minimum size.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 public slots:
-    /// Shows the first `count` slots, at most 256, and selects none, without a signal.
+    /// Shows the first `count` slots, at most 256, and clears the selection, without a signal.
     void setColorCount(unsigned short count);
 
 signals:
-    /// Colours have changed, also by undo, redo and a drag.
+    /// Colours have changed, including by undo, redo and drag.
     void changed();
 
-    /// The person has selected otherwise.
+    /// The user has changed the selection.
     void selectionChanged();
 
-    /// A slot was clicked, behind `selectionChanged()`. Not at the end of a drag.
+    /// A slot was clicked; emitted after `selectionChanged()`. Not at the end of a drag.
     void colorClick(unsigned short color, Qt::MouseButton button);
 
     void colorDblClick(unsigned short color);
 
-    /// Several slots were selected at once, behind `selectionChanged()`.
+    /// Several slots were selected at once; emitted after `selectionChanged()`.
     void multiColorClick();
 
-    /// The colour of a slot has gone to another, behind `changed()`.
+    /// A colour has moved to another slot; emitted after `changed()`.
     void colorMoved(unsigned short src, unsigned short dst);
 
-    /// The colour of a slot is dragged out of the widget: it does not move. Who is connected makes
-    /// a drag of it; without anybody the drag goes on when the mouse comes back.
+    /// A colour is being dragged out of the widget; it does not move. A receiver starts a drag and
+    /// drop with it. Without a receiver the drag continues when the mouse comes back.
     void colorDraggedOut(unsigned short color);
 
 protected:

@@ -16,7 +16,7 @@ namespace Zorv {
 
 class PaletteWidget;
 
-/// The colours of a grid and what mouse and keys do to it.
+/// The state of a grid, and its mouse and key handling.
 class PaletteWidgetPrivate
 {
 public:
@@ -34,13 +34,13 @@ public:
     void doubleClick(const QMouseEvent* event);
     void showTip(const QPoint& place, const QPoint& global) const;
 
-    /// Gives a press or drag up.
+    /// Cancels a press or drag.
     void cancel();
 
-    /// The same where its release may never come.
+    /// Cancels a press or drag whose release may never arrive.
     void lose();
 
-    /// Whether a key means something here, and does it.
+    /// Whether the grid uses a key; and handles it.
     bool handles(const QKeyEvent* event) const;
     void press(const QKeyEvent* event);
 
@@ -55,7 +55,7 @@ public:
     int colorCount = 256;
     int cellSize = 12;
     int columns = 16;
-    int cursor = 0;  // the slot on which keys work
+    int cursor = 0;  // the slot that keys act on
     std::function<QString(int)> notes;
     ColorSight sight;
 
@@ -68,7 +68,7 @@ private:
     Selected select(int slot, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     Selected selectRange(int from, int to);
 
-    /// Tells of what is selected. False if the widget is gone.
+    /// Emits the selection signals. False if a receiver deleted the widget.
     bool announce(Selected selected);
 
     void moveColor(int from, int to);
@@ -77,12 +77,12 @@ private:
     void setCursor(int slot);
 
     bool dragging = false;
-    bool isCancelled = false;  // the release to come is no click
+    bool isCancelled = false;  // the next release is not a click
     Qt::MouseButtons held;
     QPoint pressOffset;
     QPoint dragPos;
     int pressed = -1;
-    int anchor = 0;  // where keys with Shift began
+    int anchor = 0;  // start of a Shift selection by keys
 };
 
 }  // namespace Zorv

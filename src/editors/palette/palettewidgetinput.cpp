@@ -18,7 +18,8 @@ namespace {
 const Qt::KeyboardModifiers Modifiers =
     Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
-/// The last pixel of a cell belongs to it at any scale: QMouseEvent::pos() would round it away.
+/// Rounds down. QMouseEvent::pos() rounds to nearest, so at a fractional scale the last pixel of a
+/// cell would count as the next cell.
 QPoint placeOf(const QMouseEvent* event)
 {
     return {qFloor(event->localPos().x()), qFloor(event->localPos().y())};
@@ -56,7 +57,7 @@ void PaletteWidgetPrivate::move(const QMouseEvent* event)
     }
 }
 
-/// True if the drag has become one of somebody else, which may have deleted the widget.
+/// True if a receiver has taken over the drag. It may have deleted the widget.
 bool PaletteWidgetPrivate::isDraggedOut(const QPoint& place)
 {
     const int far = QApplication::startDragDistance();
@@ -81,8 +82,7 @@ void PaletteWidgetPrivate::showTip(const QPoint& place, const QPoint& global) co
     }
 }
 
-// All of the press is over before anything is emitted: a slot may run a dialog, or delete the
-// widget.
+// Finish all press state before emitting anything: a slot may run a dialog or delete the widget.
 void PaletteWidgetPrivate::release(const QMouseEvent* event)
 {
     const int slot = slotAt(placeOf(event));
@@ -210,7 +210,7 @@ void PaletteWidgetPrivate::moveColor(int from, int to)
     }
 }
 
-/// Where a key leads to; -1 for one that leads nowhere.
+/// The target slot of a key; -1 if the key does not move.
 int PaletteWidgetPrivate::targetOf(int key) const
 {
     const auto step = [this](int by) {

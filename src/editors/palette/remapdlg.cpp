@@ -46,7 +46,7 @@ RemapDlg::~RemapDlg() = default;
 
 void RemapDlg::setModel(QAbstractItemModel* model)
 {
-    // The view forgets its old selection without deleting it.
+    // The view does not delete its old selection model.
     const QPointer<QItemSelectionModel> selection = m_table->selectionModel();
     m_model = model;
     m_table->setModel(model);
@@ -72,7 +72,7 @@ void RemapDlg::addRow()
     }
 }
 
-/// From the last row on: those in front of it keep their numbers.
+/// From the last row up, so that the remaining row numbers stay valid.
 void RemapDlg::removeSelected()
 {
     QVector<int> rows;

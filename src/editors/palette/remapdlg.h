@@ -9,8 +9,8 @@ class QAbstractItemModel;
 class QPushButton;
 class QTableView;
 
-/// The table of palettes that others stand in for: rows are added and removed, cells edited in
-/// place. It is not modal, and lives as long as its parent. Main thread only.
+/// The palette remap table: which palette replaces which other. Rows can be added and removed, and
+/// cells edited in place. Not modal; lives as long as its parent. Main thread only.
 class ZORV_EXPORT RemapDlg : public QDialog
 {
     Q_OBJECT
@@ -19,14 +19,14 @@ public:
     explicit RemapDlg(QWidget* parent);
     ~RemapDlg() override;
 
-    /// The table; null for none. Not owned, and may die.
+    /// The model; null for none. Not owned, and may die.
     void setModel(QAbstractItemModel* model);
 
 signals:
-    /// A button is about to change rows. `updateView()` follows.
+    /// A button is about to change rows; `updateView()` follows.
     void changing(const QString& title);
 
-    /// A button was pressed, with a model or without.
+    /// A button was pressed, with or without a model.
     void updateView();
 
 protected:
