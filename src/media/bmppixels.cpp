@@ -9,9 +9,9 @@
 #include <climits>
 #include <cstring>
 
-// Qt's reader leaves the rows that a file lacks as they were in memory, and counts the file as
-// read. So the end of the last row is looked for first: by counting where rows are plain, and where
-// they are not by a walk along the runs that takes each step as Qt's does.
+// Qt's BMP reader accepts a truncated file and leaves its missing rows as uninitialised memory. So
+// the end of the last row is found before Qt reads the file. For plain rows the position is
+// computed. For run-length data the runs are followed, with each step taken as Qt takes it.
 
 namespace Zorv {
 
@@ -32,7 +32,8 @@ bool isOldInfo(quint32 size)
     return size != WindowsInfo && size != OS2Info && size != Windows4Info && size != LargestInfo;
 }
 
-/// What a file tells in front of its pixels. Those of before Windows 3 tell less, in less bytes.
+/// The header in front of the pixels. The older form, from before Windows 3, has fewer and shorter
+/// fields.
 BITMAPINFOHEADER infoOf(const QByteArray& head)
 {
     QDataStream stream(head.mid(FileHeader));
@@ -52,8 +53,7 @@ BITMAPINFOHEADER infoOf(const QByteArray& head)
     return old;
 }
 
-/// Follows the runs of a picture through its rows, which stand in memory from the last to the
-/// first.
+/// Follows run-length data through the rows. Memory holds the rows from last to first.
 class RunWalk
 {
 public:
@@ -63,7 +63,7 @@ public:
     {
     }
 
-    /// True if the runs come to the end mark, or to the last pixel and no further.
+    /// True if the runs reach the end mark, or exactly the last pixel.
     bool isWhole()
     {
         while (m_y < m_height) {
@@ -84,7 +84,7 @@ private:
 
     int next() { return m_at < m_runs.size() ? uchar(m_runs[m_at++]) : -1; }
 
-    /// A run may go on into the row below, but not beyond the picture.
+    /// Limits a run to the end of the picture. It may continue into the next row.
     int room(int count) const
     {
         const qint64 end = (m_height - 1) * m_rowSize + m_width;
@@ -121,7 +121,7 @@ private:
         }
     }
 
-    /// Pixels one by one, filled up to a whole word.
+    /// Literal pixels, padded to a whole word.
     bool copy(int count)
     {
         const int pixels = room(count);
@@ -165,7 +165,8 @@ BMPPixels::BMPPixels(QIODevice* device) : m_device(device)
     } else if (m_compression == Masks && info.biSize < Windows4Info) {
         m_start += 3 * sizeof(quint32);
     }
-    // The head tells where the pixels begin. What points into the head itself is passed over.
+    // The header states where the pixels begin. A value that points into the header itself is
+    // ignored.
     m_start = qMax<qint64>(m_start, qFromLittleEndian<qint32>(head.constData() + 10));
 }
 
@@ -200,7 +201,7 @@ QImage BMPPixels::ground() const
     return image;
 }
 
-/// Rows are of whole words.
+/// Rows are padded to 32 bits.
 qint64 BMPPixels::rowBits() const
 {
     return (qint64(m_size.width()) * m_bits + 31) / 32 * 32;

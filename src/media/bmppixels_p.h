@@ -6,23 +6,24 @@ class QIODevice;
 
 namespace Zorv {
 
-/// Where the pixels of a BMP file stand in it. Heads are read as Qt reads them, so that what is
-/// whole here is read whole there. Nothing is consumed; the device is not sequential, and stands
-/// where the file begins.
+/// Locates the pixels of a BMP file and checks that they are complete. Headers are interpreted
+/// exactly as Qt does, so both agree on what is complete. The device must not be sequential and
+/// must be at the start of the file; its position does not change.
 class BMPPixels
 {
 public:
     explicit BMPPixels(QIODevice* device);
 
-    /// How many bytes of its rows the file lacks. Runs of pixels that come neither to their end
-    /// mark nor to the last pixel lack more than any file has, as do those that declare a picture
-    /// of more than 64 MiB that they cannot hold. 0 for a head that Qt refuses.
+    /// The number of bytes by which the rows are too short. Run-length data that reaches neither
+    /// its end mark nor the last pixel counts as more than any file has, and so does a declared
+    /// size above 64 MiB that the data cannot hold. 0 for a header that Qt refuses.
     qint64 missing() const;
 
-    /// The bytes behind the pixels of each row.
+    /// The number of padding bytes per row.
     qint64 rowPadding() const;
 
-    /// What runs of pixels are drawn on, for they may leave some out. Null for other files.
+    /// The zeroed image that run-length data is decoded into, because it may skip pixels. Null for
+    /// other files.
     QImage ground() const;
 
 private:
@@ -33,10 +34,10 @@ private:
     qint64 rowBits() const;
 
     QIODevice* m_device;
-    QSize m_size;  // empty for a head that Qt refuses
+    QSize m_size;  // empty for a header that Qt refuses
     int m_bits = 0;
     quint32 m_compression = 0;
-    qint64 m_start = 0;  // of the pixels, in the file
+    qint64 m_start = 0;  // offset of the pixels in the file
 };
 
 }  // namespace Zorv

@@ -9,7 +9,8 @@
 #include <emmintrin.h>
 #endif
 
-/// Many bytes at a time. Where nothing else is said, eight bytes can be read from each place on.
+/// Operations on many bytes at once. Unless stated otherwise, eight bytes must be readable from
+/// each address.
 namespace Zorv::ByteScan {
 
 constexpr quint64 eachByte(quint8 value)
@@ -17,19 +18,19 @@ constexpr quint64 eachByte(quint8 value)
     return 0x0101010101010101u * value;
 }
 
-/// The eight bytes at a place, the first one lowest.
+/// The eight bytes at an address, the first one lowest.
 inline quint64 load(const uchar* at)
 {
     return qFromLittleEndian<quint64>(at);
 }
 
-/// How many bytes stand in front of the first one that has its upper bit set in `marks`.
+/// The number of bytes before the first one with its top bit set in `marks`.
 inline int firstMarked(quint64 marks)
 {
     return int(qCountTrailingZeroBits(marks)) / 8;
 }
 
-/// How many bytes at `a` and `b` are equal, at most `limit`.
+/// The number of equal bytes at `a` and `b`, at most `limit`.
 inline int equalLength(const uchar* a, const uchar* b, int limit)
 {
     for (int length = 0; length < limit; length += 8) {
@@ -41,7 +42,7 @@ inline int equalLength(const uchar* a, const uchar* b, int limit)
     return limit;
 }
 
-/// How many bytes equal the one at `at`, itself included, at most `limit`.
+/// The number of bytes equal to the one at `at`, itself included, at most `limit`.
 inline int runLength(const uchar* at, int limit)
 {
     return 1 + equalLength(at, at + 1, limit - 1);
@@ -52,7 +53,7 @@ inline unsigned zeroBytes(quint64 bytes)
 {
     const quint64 sevenBits = eachByte(0x7F);
     const quint64 zeros = ~(((bytes & sevenBits) + sevenBits) | bytes | sevenBits) >> 7;
-    // Gathers bit 0 of each byte in the highest one.
+    // Gathers bit 0 of each byte in the top byte.
     return unsigned(zeros * 0x0102040810204080u >> 56);
 }
 

@@ -6,14 +6,14 @@ class QIODevice;
 
 namespace Zorv {
 
-/// The bytes of an encoder on their way to a device, a block at a time.
+/// Buffers the output of an encoder and writes it to a device in blocks.
 class ByteSink
 {
 public:
     explicit ByteSink(QIODevice* device) : m_device(device), m_at(m_block) {}
     Q_DISABLE_COPY(ByteSink)
 
-    /// Where to write, with room for at least `count` bytes, at most `Room`.
+    /// A place to write `count` bytes, at most `Room`.
     static constexpr int Room = 1024;
     uchar* room(int count)
     {
@@ -22,10 +22,10 @@ public:
         }
         return m_at;
     }
-    /// All in front of `at` has been written.
+    /// Everything before `at` has been written.
     void take(uchar* at) { m_at = at; }
 
-    /// Hands on what is left. False if the device has ever taken less than it was given.
+    /// Writes the rest. False if the device has ever accepted fewer bytes than it was given.
     bool finish();
 
 private:

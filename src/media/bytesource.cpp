@@ -16,7 +16,7 @@ ByteSource::~ByteSource()
     leaveDevice();
 }
 
-// The device is only looked into, so that nothing has to be given back to a pipe.
+// Blocks are only peeked, so nothing ever has to be pushed back into a pipe.
 void ByteSource::leaveDevice()
 {
     m_device->skip(qMin(m_at, m_end) - m_block);

@@ -6,23 +6,23 @@ class QIODevice;
 
 namespace Zorv {
 
-/// The bytes of a device for a decoder, a block at a time, with zeros behind the last one.
+/// Reads a device in blocks for a decoder, with zeros after the last byte.
 ///
-/// A decoder asks for the end in front of a packet and reads on without a check; a packet
-/// that lacks bytes is completed with zeros, and `endedInside()` tells so afterwards. In the
-/// end the device stands behind the last byte taken.
+/// A decoder checks for the end once before each packet and then reads without checks. A truncated
+/// packet is completed with zeros; `endedInside()` reports that afterwards. The destructor leaves
+/// the device after the last byte taken.
 class ByteSource
 {
 public:
-    /// What may be read behind `end()`, and the most that `more()` can promise.
+    /// The number of bytes readable after `end()`, and the largest useful argument of `more()`.
     static constexpr int Padding = 64;
 
     explicit ByteSource(QIODevice* device);
     ~ByteSource();
     Q_DISABLE_COPY(ByteSource)
 
-    /// Whether a byte is left. `count` of them are in the block then, unless the
-    /// device has no more.
+    /// Whether a byte is left. Also loads at least `count` bytes into the block, unless the device
+    /// has no more.
     bool more(int count)
     {
         if (m_end - m_at < count && !m_last) {
@@ -33,7 +33,7 @@ public:
 
     const uchar* at() const { return m_at; }
     const uchar* end() const { return m_end; }
-    /// All in front of `at` is taken. It may stand in the padding.
+    /// Everything before `at` is consumed. `at` may lie in the padding.
     void take(const uchar* at) { m_at = at; }
 
     bool endedInside() const { return m_at > m_end; }

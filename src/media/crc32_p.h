@@ -4,7 +4,7 @@
 
 namespace Zorv {
 
-/// The checksum of PNG files, over bytes that come in pieces.
+/// The checksum of PNG files, fed with bytes in pieces.
 class Crc32
 {
 public:

@@ -4,13 +4,13 @@
 
 namespace Zorv {
 
-/// A device that is open for reading, or has been opened here.
+/// True if the device is readable, or could be opened for reading.
 inline bool openToRead(QIODevice* device)
 {
     return device && (device->isReadable() || device->open(QIODevice::ReadOnly));
 }
 
-/// A device that is open for writing, or has been opened here.
+/// True if the device is writable, or could be opened for writing.
 inline bool openToWrite(QIODevice* device)
 {
     return device && (device->isWritable() || device->open(QIODevice::WriteOnly));

@@ -4,8 +4,8 @@
 
 namespace Zorv {
 
-/// The bits of a pixel as this library's files count them, 0 for a format that it does not
-/// know. `Format_RGB32` counts as 24, though its pixels take four bytes.
+/// The bits per pixel as this library's file formats count them; 0 for an unknown format.
+/// `Format_RGB32` counts as 24 although its pixels take four bytes.
 constexpr int formatDepth(QImage::Format format)
 {
     switch (format) {
@@ -20,7 +20,7 @@ constexpr int formatDepth(QImage::Format format)
     }
 }
 
-/// The form that pixels of so many bits in a file are read in; `Format_Invalid` if there is none.
+/// The image format for pixels of that many bits in a file; `Format_Invalid` if there is none.
 constexpr QImage::Format formatOfDepth(int bits)
 {
     switch (bits) {

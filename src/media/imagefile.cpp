@@ -18,9 +18,9 @@ namespace Zorv {
 
 namespace {
 
-/// Clears what stands behind each line. By the library's table of depths that is a quarter of the
-/// pixels of RGB32, too, and all of a form that it does not name; hosts of the first release build
-/// on it.
+/// Clears the bytes after each line. The line length comes from the library's table of depths, so
+/// this also clears a quarter of the pixels of RGB32 and all pixels of an unlisted format. Hosts of
+/// the first release depend on it.
 void clearLineEnds(QImage& image)
 {
     const int length = int(qint64(image.width()) * formatDepth(image.format()) / 8);
@@ -46,7 +46,7 @@ bool loadByQt(QIODevice* device, const char* format, QImage& image)
     return true;
 }
 
-/// A frame's own colours go first where images are read as they are; otherwise the global ones.
+/// With lossless images a frame's own colours have priority, otherwise the global ones.
 const QVector<RGB>& colorsOf(const GIFImage& gif, const GIFImage::SubImage& frame)
 {
     const QVector<RGB>& first = losslessImages() ? frame.colors : gif.colors;

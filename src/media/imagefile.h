@@ -8,7 +8,7 @@ class QIODevice;
 
 namespace Zorv {
 
-/// What the header of an image file tells.
+/// The information in the header of an image file.
 struct ImageInfo
 {
     quint16 width = 0;
@@ -16,27 +16,28 @@ struct ImageInfo
     QImage::Format format = QImage::Format_Indexed8;
 };
 
-/// Reads the header of an image file, and no pixel.
+/// Reads only the header of an image file, no pixels.
 ///
-/// `format` is "PNG", "BMP", "PCX" or "GIF". A device that is not readable, another
-/// format or a wrong signature give 0 by 0. `Format_Invalid` means that the bits a pixel are
-/// none of those that the library has a form for; `loadImage()` may read the file all the same.
+/// `format` is "PNG", "BMP", "PCX" or "GIF". An unreadable device, another format or a wrong
+/// signature gives 0 by 0. `Format_Invalid` means that the library has no image format for these
+/// bits per pixel; `loadImage()` may still read the file.
 ZORV_EXPORT ImageInfo imageInfoFromFile(QIODevice* device, const char* format);
 
-/// Reads an image file: the one gateway for all formats.
+/// Reads an image file. All formats go through this function.
 ///
-/// `format` is "PNG", "BMP", "PCX", "GIF" (its first frame, which need not be followed by whole
-/// ones), in capitals, or the name of an `Extension` that loads images; `fileExtension()` makes it
-/// of a file name. The device is open; false otherwise. The result is whether there is an image
-/// then, be it one that was there before; start with a null one. A PNG or BMP that is cut short, or
-/// whose chunks have wrong checksums, is refused; see `losslessImages()` for PCX and for what
-/// happens to true-colour images. No picture is read that declares more than the bytes of the file
-/// can honestly hold. Re-entrant, as long as no extension is added meanwhile.
+/// `format` is "PNG", "BMP", "PCX" or "GIF" in capitals, or the name of an `Extension` that loads
+/// images; `fileExtension()` derives it from a file name. Of a GIF, only the first frame is read,
+/// and later ones may be broken. The device must be open, otherwise the result is false.
+///
+/// Returns whether `image` is non-null afterwards, so start with a null one. A PNG or BMP that is
+/// truncated, or whose chunks have wrong checksums, is refused; see `losslessImages()` for PCX and
+/// for true-colour images. A picture whose declared size exceeds what the bytes of the file can
+/// hold is not read. Re-entrant, provided that no extension is added meanwhile.
 ZORV_EXPORT bool loadImage(QIODevice* device, const char* format, QImage& image);
 
-/// Writes an image file; formats as above. As GIF, a true-colour image of more than 256 colours
-/// is quantized, and alpha below 128 is transparent. False for a null image, a device that is not
-/// writable, a format that nobody writes, or a failure.
+/// Writes an image file; formats as above. As GIF, a true-colour image of more than 256 colours is
+/// quantized, and alpha below 128 becomes transparent. False for a null image, an unwritable
+/// device, a format without a writer, or a write error.
 ZORV_EXPORT bool saveImage(QIODevice* device, const char* format, const QImage& image);
 
 }  // namespace Zorv

@@ -73,7 +73,7 @@ void readGIF(QDataStream& stream, ImageInfo& info)
     quint8 flags = 0;
     stream >> info.width >> info.height >> flags;
     stream.skipRawData(2);
-    // The low bits are the size of the global colour table: 32 or 256 colours.
+    // The low bits give the size of the global colour table: 32 or 256 colours.
     const int size = flags & 7;
     if (size != 4 && size != 7) {
         info.format = QImage::Format_Invalid;

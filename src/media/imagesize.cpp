@@ -11,7 +11,8 @@ SizedDevice::SizedDevice(QIODevice* device) : m_device(device)
     }
 }
 
-// In floating point: width by height by bits of wild heads passes 64 bits.
+// In floating point, because the product of width, height and bits in a broken header overflows 64
+// bits.
 bool isHonestSize(double pixels, int bits, double bytes)
 {
     const int bytesInMemory = bits <= 8 ? 1 : bits <= 32 ? 4 : 8;

@@ -4,8 +4,8 @@
 
 namespace Zorv {
 
-/// A device that tells its size: the device itself, or the bytes of a pipe, which tells how many
-/// they are only when it has been read.
+/// A device with a known size: the device itself, or for a pipe, a buffer with all its bytes,
+/// because a pipe's size is known only after reading.
 class SizedDevice
 {
 public:
@@ -19,11 +19,11 @@ private:
     QIODevice* m_device;
 };
 
-/// Memory that a file may make a reader take, whatever it holds.
+/// Memory, in bytes, that any file may claim, whatever its length.
 const qint64 FreeMemory = 64 << 20;
 
-/// True unless a picture takes more than that, and more than the bytes of pixels that its file can
-/// stand for. To be asked before the memory is taken; `bits` are those of a pixel in the file.
+/// False if a picture needs more than `FreeMemory` and also more than the bytes of the file can
+/// represent. Check this before allocating. `bits` is the number of bits per pixel in the file.
 bool isHonestSize(double pixels, int bits, double bytes);
 
 }  // namespace Zorv

@@ -21,7 +21,7 @@ class Text
     Q_DECLARE_TR_FUNCTIONS(Zorv::ImageTransfer)
 };
 
-/// What a format has no place for, whether the image has such a pixel or not.
+/// What a format cannot represent, regardless of the pixels of the image.
 ImageLoss possibleLoss(const QByteArray& format, const QImage& image)
 {
     if (format == "GIF") {
@@ -37,7 +37,7 @@ bool isLost(ImageLoss loss, int alpha)
     return alpha < 255 && (alpha > 0 || loss == ImageLoss::Transparent);
 }
 
-/// True if the picture has a pixel that would be lost.
+/// True if the image has a pixel that would be lost.
 bool hasLoss(const QImage& image, ImageLoss loss)
 {
     if (loss == ImageLoss::None || !image.hasAlphaChannel()) {
@@ -62,7 +62,7 @@ bool hasLoss(const QImage& image, ImageLoss loss)
     return false;
 }
 
-/// GIF has one transparent index: pixels of others would show their colour.
+/// GIF has only one transparent index; pixels of any other would show their colour.
 QImage withOneTransparentIndex(QImage image)
 {
     const QVector<QRgb> table = image.colorTable();
@@ -105,7 +105,7 @@ QImage readImageFile(const QString& fileName, QString* error)
                           "Expected .png, .pcx, .bmp or .gif.")
                      .arg(fileName);
     } else if (image.format() == QImage::Format_Indexed8 && image.colorCount() == 0) {
-        // A PCX file may lack its palette. Without any, other formats would show nothing.
+        // A PCX file may lack its palette. Saved in another format, the image would then be blank.
         image.setColorTable(shadesOfGrey());
     }
     return image;

@@ -25,7 +25,7 @@ QByteArray LineHeads::next()
             m_pos += m_separator.size();
             break;
         }
-        // The last bytes may be the first ones of a separator.
+        // The last bytes may be the start of a separator.
         take(line, qMax(0, m_chunk.size() - m_pos - m_separator.size() + 1));
         if (!fill()) {
             take(line, m_chunk.size() - m_pos);

@@ -6,10 +6,10 @@ class QIODevice;
 
 namespace Zorv {
 
-/// The lines of a text one after another, each cut to its first `HeadSize` bytes, so that
-/// a file of any size, with lines of any length, takes a fixed amount of memory.
+/// Iterates over the lines of a text and keeps only the first `HeadSize` bytes of each. A file of
+/// any size, with lines of any length, takes a fixed amount of memory.
 ///
-/// A text of n separators has n + 1 lines, empty ones included.
+/// A text with n separators has n + 1 lines, empty ones included.
 class LineHeads
 {
 public:
@@ -17,10 +17,10 @@ public:
 
     LineHeads(QIODevice* device, const QByteArray& separator);
 
-    /// The next line, without its separator; empty behind the last.
+    /// The next line without its separator; empty after the last.
     QByteArray next();
 
-    /// Whether the last line has been taken.
+    /// Whether the last line has been returned.
     bool atEnd() const { return m_atEnd; }
 
 private:
@@ -30,7 +30,7 @@ private:
     QIODevice* m_device;
     QByteArray m_separator;
     QByteArray m_chunk;
-    int m_pos = 0;  ///< in the chunk
+    int m_pos = 0;  ///< position in m_chunk
     bool m_atEnd = false;
 };
 

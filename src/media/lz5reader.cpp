@@ -17,14 +17,14 @@ constexpr int GroupPackets = 8;
 constexpr int GroupBytes = 1 + GroupPackets * 3;
 constexpr int LongestPacket = 263;
 constexpr int FarthestCopy = 1024;
-/// Pixels are written this many at a time, past the end of a packet.
+/// Pixels are written in steps of this size, past the end of a packet.
 constexpr int Stride = 16;
 static_assert(GroupBytes <= ByteSource::Padding && FarthestCopy <= PixelArray::Front &&
                   LongestPacket + 2 * Stride <= PixelArray::Behind,
               "a group is read and written without a look at the ends");
 
-/// Distances of short copies. Four of them share the upper bits of their length bytes:
-/// together these make the fourth distance, which has no byte of its own.
+/// The distances of short copies. Four copies share the upper bits of their length bytes, which
+/// together form the fourth distance; it has no byte of its own.
 class ShortDistances
 {
 public:
@@ -68,12 +68,14 @@ uchar* readRun(const uchar*& in, uchar* out)
     return end;
 }
 
-/// The pixels between repeat when the distance is below the length.
+/// The source may overlap the output: if the distance is smaller than the length, the pixels
+/// repeat.
 uchar* copyPixels(uchar* out, int distance, int length)
 {
     uchar* const end = out + length;
     const uchar* const from = out - distance;
-    // What repeats every n pixels repeats every 2n as well: the gap doubles up to a stride.
+    // A pattern of period n also has period 2n. So the distance is doubled until whole strides can
+    // be copied.
     for (; distance < Stride; distance *= 2) {
         copyStride(out, from);
         out += distance;
@@ -97,7 +99,7 @@ uchar* readCopy(const uchar*& in, uchar* out, ShortDistances& shortDistances)
     return copyPixels(out, distance, length);
 }
 
-/// Gives where the pixels end; beyond `end` by a packet at most.
+/// Returns the end of the decoded pixels, at most one packet beyond `end`.
 uchar* readPackets(ByteSource& source, uchar* out, uchar* const end)
 {
     ShortDistances shortDistances;

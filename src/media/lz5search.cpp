@@ -1,3 +1,12 @@
+// Finds the longest earlier copy of the pixels at a position.
+//
+// First `Shape` measures the runs at the position. They decide how long a match must be to be worth
+// a packet, so this is known before the search. Then distances are tested 64 at a time, nearest
+// first. A filter compares only three or five offsets in all 64 lanes, among them the first colour
+// change and the last pixel needed to beat the best match so far. Only lanes that pass are compared
+// in full. Each longer match raises the length needed, so the filter gets stricter. Distances up to
+// 256 come first, because only they can use short packets.
+
 #include "media/lz5search_p.h"
 
 #include "media/bytescan_p.h"
@@ -14,8 +23,8 @@ constexpr int Lanes = 64;
 
 constexpr QPack NoMatch = {1, 0, 0, 0};
 
-/// A bit for each of sixteen places in a row where the pixels at all of the offsets are
-/// those at `here`.
+/// A bit for each of sixteen consecutive places where the pixels at all offsets equal those at
+/// `here`.
 template <int count>
 inline quint64 placesLike(const uchar* here, const uchar* at, const int (&offsets)[count])
 {
@@ -48,7 +57,7 @@ inline quint64 lanesLike(const uchar* here, const uchar* at, const int (&offsets
     return lanes;
 }
 
-/// Whether the eight pixels up to the one at `offset` are the same, or as many as there are.
+/// Whether the eight pixels ending at `offset` are equal, or fewer if there are not as many.
 inline bool endsAlike(const uchar* a, const uchar* b, int offset)
 {
     const int first = qMax(0, offset - 7);
@@ -58,15 +67,15 @@ inline bool endsAlike(const uchar* a, const uchar* b, int offset)
 
 }  // namespace
 
-/// What makes a match at a place worth a packet. The pixels that match are those of the
-/// place itself, so that all of this hangs on the length.
+/// The lengths that make a match worth a packet. They depend only on the pixels at the position
+/// itself, because a match has the same pixels.
 struct Lz5Search::Shape
 {
     const uchar* here;
-    int limit;        ///< pixels that a match can have
-    int firstChange;  ///< where the second run starts
-    int leastShort;   ///< the second run has to end: below that a run packet does better
-    int leastLong;    ///< a third change, or two around a run of eight or nine
+    int limit;        ///< the greatest possible length
+    int firstChange;  ///< start of the second run
+    int leastShort;   ///< must cover the second run, or a run packet is better
+    int leastLong;    ///< must pass a third change, or two with a long run
 
     /// False if no length is worth it.
     bool measure();
@@ -123,7 +132,7 @@ void Lz5Search::search(const Shape& shape, int nearest, int farthest, int least,
     int needed = qMax(best.length, least - 1);
     for (int distance = nearest; distance <= farthest && best.length < shape.limit;
          distance += Lanes) {
-        // The nearest place is the last one of the lanes.
+        // Lanes are in memory order, so the nearest place is the last lane.
         const uchar* const places = here - distance - (Lanes - 1);
         quint64 found =
             needed > change + 1

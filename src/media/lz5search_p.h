@@ -4,17 +4,17 @@
 
 namespace Zorv {
 
-/// What `lzFind()` finds, many distances at a time.
+/// The match search of `lzFind()`, testing many distances at once.
 class Lz5Search
 {
 public:
-    /// What has to be readable in front of the pixels, and has to be zero behind them.
+    /// Bytes that must be readable before the pixels, and bytes that must be zero after them.
     static constexpr int Front = 64;
     static constexpr int Behind = 320;
 
     Lz5Search(const unsigned char* pixels, int total) : m_pixels(pixels), m_total(total) {}
 
-    /// The match at a place of the image; `length` is 0 if there is none.
+    /// The match at a position in the image; `length` is 0 if there is none.
     QPack find(int position);
 
 private:

@@ -1,3 +1,14 @@
+// Encodes an image as LZ5.
+//
+// At every position a match is searched. If there is one, it becomes a copy packet; otherwise the
+// pixels become a run. A run of at least seven pixels is cut to seven if a match starts right after
+// those. This choice is part of the format: equal images must give equal bytes.
+//
+// Packets come in groups of eight behind a control byte whose bits mark copies. Four short copies
+// share the upper bits of their length bytes, which hold the distance of the fourth. Control bytes
+// and these bits are filled in after their place has been passed, so the whole stream is built in
+// memory.
+
 #include "media/lz5.h"
 
 #include "media/bytescan_p.h"
@@ -23,12 +34,12 @@ constexpr int LongestRun = 263;
 static_assert(Lz5Search::Front <= PixelArray::Front && Lz5Search::Behind <= PixelArray::Behind,
               "the search reads past the ends");
 
-/// The bytes of a stream. Control bytes and the upper bits of short copies are known
-/// later than their place, and are set there then.
+/// Builds the stream. Control bytes and the upper bits of short copies are known only later, and
+/// are patched in place.
 class PacketWriter
 {
 public:
-    /// A pixel costs at most a packet of one byte and its bit of a control byte.
+    /// At most one byte per pixel, plus one bit of a control byte.
     explicit PacketWriter(qint64 pixels)
         : m_bytes(new (std::nothrow) uchar[size_t(pixels + pixels / GroupPackets + 1)]),
           m_at(m_bytes.get())
@@ -78,7 +89,7 @@ private:
         *m_control |= uchar(isCopy << bit);
     }
 
-    // The fourth of a series leaves its distance to the upper bits of the four lengths.
+    // The fourth of a series stores its distance in the upper bits of the four length bytes.
     void shortCopy(int distance, int length)
     {
         m_series[m_inSeries++] = m_at;
@@ -122,7 +133,7 @@ void writePackets(const uchar* pixels, int total, PacketWriter& packets)
             continue;
         }
         int length = ByteScan::runLength(pixels + i, qMin(total - i, LongestRun));
-        // A match that starts seven pixels on is taken in place of a longer run.
+        // A match seven pixels ahead is preferred to a longer run.
         const QPack next = length >= ShortRun ? search.find(i + ShortRun) : QPack{1, 0, 0, 0};
         if (next.length > 0) {
             length = ShortRun;

@@ -7,12 +7,12 @@ class QIODevice;
 
 namespace Zorv {
 
-/// Fills `palette` from a file of any format that holds one. The format names images, "ACT",
-/// "ACO" and those of extensions; other palette files are known by their first bytes.
-/// Entries that the file lacks stay as they are for the three named, and become 0 for others.
+/// Reads the palette of a file in any supported format. `format` names an image format, "ACT",
+/// "ACO" or an extension; other palette files are recognised by their first bytes. Missing entries
+/// keep their value for images, "ACT" and "ACO", and become 0 for the others.
 bool readPalette(QIODevice* device, const QByteArray& format, RGBA (&palette)[256]);
 
-/// Writes "ACT", or a format of an extension.
+/// Writes "ACT" or a format of an extension.
 bool writePalette(QIODevice* device, const QByteArray& format, const RGBA (&palette)[256]);
 
 }  // namespace Zorv

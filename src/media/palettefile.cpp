@@ -24,7 +24,7 @@ class Text
 
 bool loadPaletteFile(const QString& fileName, RGBA (&colors)[256], QString* error)
 {
-    // A pipe or a device would be waited for.
+    // Opened through the archive, because reading a pipe or a device could block.
     Archive* disk = FileSystemArchive::instance();
     QIODevice* device = disk->openFile(fileName, QIODevice::ReadOnly, error);
     if (!device) {

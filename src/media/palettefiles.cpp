@@ -27,7 +27,8 @@ RGBA matchedColor(const QRegularExpressionMatch& match)
             hasAlpha ? channel(match, 4) : quint8(255)};
 }
 
-// Within the device: some grow, or have a word for it, where the place is behind their end.
+// Checked first, because some devices grow or print a warning when the position is behind their
+// end.
 bool moveTo(QIODevice* device, qint64 place)
 {
     return place <= device->size() && device->seek(place);
@@ -57,7 +58,7 @@ bool loadRIFF(QIODevice* device, RGBA (&palette)[256])
     stream.setByteOrder(QDataStream::LittleEndian);
     quint32 size = 0;
     stream >> size;
-    size -= 8;  // a size below 8 becomes a large one, and is refused with those
+    size -= 8;  // a size below 8 wraps around and is refused below
     if (size > sizeof palette || !moveTo(device, 24) ||
         device->read(reinterpret_cast<char*>(palette), size) != qint64(size)) {
         return false;

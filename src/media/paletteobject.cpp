@@ -17,7 +17,7 @@ namespace {
 
 const int ColorCount = 256;
 
-// Tells the listeners of a change as long as it lives.
+// Emits `changing()` when constructed and `changed()` when destroyed.
 class Change
 {
 public:
@@ -59,8 +59,8 @@ RGBA blend(RGBA from, RGBA to, int step, int steps)
             channel(from.a, to.a)};
 }
 
-// The colours of a run, one with each call. All steps but the first are shorter by one
-// part, so that the last colour is `to` itself.
+// The colours of a gradient, one per call. After the first colour the number of steps drops by one,
+// so that the last colour is exactly `to`.
 class Run
 {
 public:
@@ -185,8 +185,9 @@ unsigned char PaletteObject::index(RGBA color) const
 {
     int best = 0;
     int bestDistance = INT_MAX;
-    // Kept in a byte: after an entry of less alpha than the colour almost any entry as near
-    // takes its place, which palettes with several alphas have come to be read by.
+    // Stored in a byte on purpose. After an entry with less alpha than the colour, the difference
+    // wraps around and almost any equally near entry wins. Existing palettes with several alpha
+    // values rely on it.
     quint8 bestAlpha = 255;
     for (int i = 0; i < ColorCount; ++i) {
         const int distance = squaredDistance(m_palette[i], color);
@@ -214,12 +215,12 @@ void PaletteObject::setColor(const bool* selection, RGBA color)
 
 void PaletteObject::gradient(unsigned char first, RGBA from, unsigned char last, const RGBA& to)
 {
-    // `to` may be an entry that the run goes over.
+    // `to` may refer to an entry that is overwritten here.
     const RGBA end = to;
     const Change change(this);
     const int count = last - first;
     Run run(from, end, count);
-    // Meant to start at entry 0, not at `first`, which only tells the length.
+    // Starts at entry 0 on purpose; `first` only determines the length.
     for (int i = 0; i < count; ++i) {
         m_palette[i] = run.next();
     }
@@ -251,7 +252,7 @@ void PaletteObject::addColors(const RGBA* colors)
     RGBA added[ColorCount];
     std::memcpy(added, colors, sizeof added);
     const Change change(this);
-    // There are no more colours to store than entries, so the end stays within them.
+    // There are at most as many colours as entries, so `end` stays inside the palette.
     RGBA* end = m_palette + ColorCount;
     for (const RGBA color : added) {
         if (std::find(m_palette, m_palette + ColorCount, color) == m_palette + ColorCount) {

@@ -10,8 +10,8 @@
 
 namespace Zorv {
 
-/// Calls a function with the bytes of a sample as an `std::integral_constant`; false, without a
-/// call, for bits that samples do not have.
+/// Calls a function with the bytes per sample as an `std::integral_constant`. For an unsupported
+/// number of bits returns false without a call.
 template <class Function>
 bool withSampleBytes(int bits, Function function)
 {
@@ -33,7 +33,7 @@ bool withSampleBytes(int bits, Function function)
     }
 }
 
-/// A sample as a signed number of 8 * `Bytes` bits, whatever the bytes mean in a file.
+/// A sample as a signed number of 8 * `Bytes` bits, whatever its encoding in a file.
 template <int Bytes>
 qint32 pcmValue(const char* data)
 {
@@ -66,20 +66,20 @@ void setPcmValue(char* data, qint32 value)
     }
 }
 
-/// The greatest value of such a sample.
+/// The greatest value of a sample.
 template <int Bytes>
 constexpr qint32 mostPcmValue()
 {
     return qint32(0x7fffffff >> (32 - 8 * Bytes));
 }
 
-/// The bytes of a frame, rounded down; 0 for a form without any.
+/// The bytes per frame, rounded down; 0 if the format has none.
 inline int frameBytesOf(const SampleInfo& info)
 {
     return int(quint32(info.bits) * info.channels / 8);
 }
 
-/// The whole frames that are there, however many are declared.
+/// The number of complete frames in the data, at most the declared number.
 inline int wholeFramesOf(const SampleInfo& info, const QByteArray& data)
 {
     const int bytes = frameBytesOf(info);

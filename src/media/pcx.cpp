@@ -18,11 +18,11 @@ namespace {
 constexpr int PaletteMarker = 12;
 constexpr int PaletteBytes = 256 * 3;
 
-/// Damaged pictures up to this size are shown as far as they go; the bytes of larger
-/// ones have to be able to hold them.
+/// Damaged pictures up to this many bytes are shown as far as they go. The data of larger ones must
+/// be able to hold them.
 constexpr qint64 AlwaysTried = 16 << 20;
 
-/// Whether `bytes` can hold the picture: two of them hold 63 values at most.
+/// Whether `bytes` can hold the picture: two bytes hold at most 63 values.
 bool canHold(qint64 bytes, const QPCXHeader& header, QSize size, QImage::Format format)
 {
     const qint64 area = qint64(size.width()) * size.height();
@@ -33,7 +33,7 @@ bool canHold(qint64 bytes, const QPCXHeader& header, QSize size, QImage::Format 
     return line * size.height() * header.planes <= (bytes / 2 + 1) * 63;
 }
 
-/// Gives the image its shape, and clears it.
+/// Gives the image its size and format, and clears it.
 bool shape(QImage& image, const QPCXHeader& header, QImage::Format format, qint64 bytes)
 {
     const QSize size(header.right + 1 - header.left, header.bottom + 1 - header.top);
@@ -50,7 +50,7 @@ bool shape(QImage& image, const QPCXHeader& header, QImage::Format format, qint6
     return true;
 }
 
-/// Where a byte of a line belongs: planes come as red, green, blue, pixels are blue,
+/// The place of a byte within a line: planes are ordered red, green, blue, but pixels are blue,
 /// green, red.
 constexpr int swapped(int offset, bool colored)
 {
@@ -87,8 +87,8 @@ bool readPlanes(QImage& image, const QPCXHeader& header, QIODevice* device)
     return !source.endedInside();
 }
 
-// The skip ends at the colours and not at the marker in front of them: a palette is found
-// only if it stands right behind the pixels.
+// If anything lies between pixels and palette, this skips to the colours rather than to the marker
+// before them. So a palette is found only if it directly follows the pixels.
 void readPalette(QImage& image, QDataStream& stream)
 {
     QIODevice* device = stream.device();
@@ -119,7 +119,7 @@ QPCXHeader headerOf(const QImage& image)
     return header;
 }
 
-/// Takes a plane out of a line of four bytes a pixel.
+/// Extracts one plane from a line with four bytes per pixel.
 void takePlane(const uchar* line, int plane, uchar* values, int width)
 {
     for (int x = 0; x < width; ++x) {

@@ -8,22 +8,22 @@ class QImage;
 
 namespace Zorv {
 
-/// The bytes of an image's lines in one row, with room in front and behind.
+/// The lines of an image as one array, with margins before and after it.
 ///
-/// The room in front is zero: the farthest copy of a broken stream finds zeros there.
-/// The room behind takes what a packet writes past the end, and is zero to begin with.
+/// The front margin is zero: even the farthest copy of a broken stream reads zeros there. The back
+/// margin is initially zero and takes what a packet writes past the end.
 class PixelArray
 {
 public:
     static constexpr int Front = 1088;
     static constexpr int Behind = 640;
 
-    /// The bytes between are not set.
+    /// The bytes between the margins are uninitialised.
     explicit PixelArray(qint64 size);
-    /// The first `lineLength` bytes of each line; zeros for what a line lacks.
+    /// Copies the first `lineLength` bytes of each line, padded with zeros if a line is shorter.
     PixelArray(const QImage& image, int lineLength);
 
-    /// There was not enough memory: nothing else may be asked then.
+    /// True if memory ran out. No other function may be called then.
     bool isNull() const { return !m_bytes; }
     qint64 size() const { return m_size; }
     uchar* begin() { return m_bytes.get() + Front; }
@@ -34,16 +34,16 @@ private:
     qint64 m_size;
 };
 
-/// How the bytes of a stream lie in an image's memory: so many a line, then so many to
-/// skip. A line of 0 bytes never ends.
+/// How a stream is laid out in an image's memory: `line` bytes are filled, then `skip` bytes are
+/// skipped. If `line` is 0, a line never ends.
 struct LineLayout
 {
     qint64 line;
     qint64 skip;
 
-    /// How many bytes of a stream find a place in `memory` bytes.
+    /// How many bytes of a stream fit into `memory` bytes.
     qint64 capacity(qint64 memory) const;
-    /// Puts `count` bytes, at most the capacity, into the image.
+    /// Copies `count` bytes, at most the capacity, into the image.
     void place(QImage& image, const uchar* bytes, qint64 count) const;
 };
 

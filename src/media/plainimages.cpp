@@ -25,7 +25,7 @@ QImage readPlainBMP(QIODevice* device)
     if (missing == 0) {
         return QImageReader(device, "BMP").read(&image) ? image : QImage();
     }
-    // The last row has all its pixels, and ends before a whole word does.
+    // Only the padding of the last row is missing; all its pixels are there.
     QByteArray padded = device->readAll() + QByteArray(int(missing), 0);
     QBuffer buffer(&padded);
     buffer.open(QIODevice::ReadOnly);

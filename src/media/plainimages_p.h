@@ -6,13 +6,13 @@ class QIODevice;
 
 namespace Zorv {
 
-/// A PNG or BMP file as it is, whatever `losslessImages()` says; null if it is not whole. The
-/// device is open and not sequential. No more memory is taken than the bytes of the file can
-/// honestly hold.
+/// Read a PNG or BMP file unchanged, regardless of `losslessImages()`; null if it is not complete.
+/// The device must be open and not sequential. No more memory is allocated than the bytes of the
+/// file can justify.
 QImage readPlainPNG(QIODevice* device);
 QImage readPlainBMP(QIODevice* device);
 
-/// The same pixels as `Format_Indexed8`, `Format_RGB32` or `Format_ARGB32`.
+/// Converts to `Format_Indexed8`, `Format_RGB32` or `Format_ARGB32`.
 QImage inLibraryForm(const QImage& image);
 
 }  // namespace Zorv

@@ -1,3 +1,11 @@
+// Checks a PNG file chunk by chunk before libpng reads it.
+//
+// A chunk is a length, a four-letter name, the data and a checksum. The walk skips from chunk to
+// chunk by the lengths, without decompressing anything. It fails if a chunk is longer than the
+// file, a name is not of letters, a needed checksum is wrong, or the end chunk is missing. Declared
+// sizes are compared with the bytes present: deflate cannot expand them by more than a known
+// factor.
+
 #include "media/pngchunks_p.h"
 
 #include "media/crc32_p.h"
@@ -19,7 +27,7 @@ const int Checksum = 4;
 const int Block = 1 << 16;
 const qint64 LargestText = 8000000;
 
-// Deflate stores no more than 1032 bytes in one.
+// One compressed byte holds at most 1032 bytes.
 const int DeflateRatio = 1032;
 
 bool isHonestHead(const QByteArray& data, qint64 available)
@@ -38,7 +46,7 @@ bool isName(const QByteArray& type)
                        [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); });
 }
 
-/// Goes along the chunks of a file.
+/// Walks over the chunks of a file.
 class ChunkWalk
 {
 public:
@@ -57,7 +65,7 @@ public:
             m_length = qFromBigEndian<quint32>(head.constData());
             m_type = head.mid(4);
             if (m_type == "IEND" && m_end - m_at < ChunkHead + Checksum) {
-                // Some programs leave out the last checksum.
+                // Some programs omit the last checksum.
                 return m_hasPixels && m_length == 0;
             }
             if (m_length > m_end - m_at - ChunkHead - Checksum || !isName(m_type) ||
@@ -81,12 +89,12 @@ private:
             return m_type == "IHDR" && m_length == HeadSize &&
                    isHonestHead(m_device->peek(HeadSize), m_end - m_at) && hasChecksum();
         }
-        // libpng takes the memory of packed texts before it reads them.
+        // libpng allocates memory for compressed texts before it reads them.
         if (m_type == "zTXt" || m_type == "iTXt") {
             m_texts += qMin(LargestText, m_length * DeflateRatio);
             return m_texts <= FreeMemory;
         }
-        // The names of chunks that pixels do without begin with a small letter.
+        // The name of a chunk that is not needed for pixels begins with a small letter.
         const bool isNeeded = m_type[0] >= 'A' && m_type[0] <= 'Z';
         return !isNeeded || hasChecksum();
     }

@@ -4,10 +4,10 @@ class QIODevice;
 
 namespace Zorv {
 
-/// True if a PNG file is whole: all chunks are there up to the last one, those that pixels need
-/// have the checksum that they tell, and none declares more than 64 MiB that its bytes cannot hold.
-/// To be asked before libpng reads it, which takes the memory first, and writes of each fault on
-/// standard error. Nothing is consumed; the device is not sequential.
+/// True if a PNG file is complete: all chunks up to the last one exist, the chunks needed for
+/// pixels have correct checksums, and none declares more than 64 MiB that its bytes cannot hold.
+/// Call this before libpng, which allocates the declared size first and prints every error to
+/// standard error. The device must not be sequential; its position does not change.
 bool isWholePNG(QIODevice* device);
 
 }  // namespace Zorv

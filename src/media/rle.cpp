@@ -14,13 +14,13 @@ namespace Zorv {
 
 namespace {
 
-/// A run of up to 256, then up to 31 repeats of up to 8.
+/// A run of up to 256 pixels, then up to 31 repeats of up to 8.
 constexpr int LongestRle5Packet = 256 + 31 * 8;
 constexpr int Rle5PacketBytes = 3 + 31;
 static_assert(Rle5PacketBytes <= ByteSource::Padding && LongestRle5Packet <= PixelArray::Behind,
               "a packet is read and written without a look at the ends");
 
-// The skip behind a line is counted in a byte.
+// The number of bytes skipped after a line is limited to one byte.
 LineLayout layoutOf(const QImage& image, qint64 line)
 {
     return {line, (image.bytesPerLine() - line) & 0xFF};
@@ -47,7 +47,7 @@ bool loadRLE5(QImage& image, QIODevice* device)
     if (!openToRead(device)) {
         return false;
     }
-    // Lines are counted in 16 bits: one that is longer never ends.
+    // Line lengths have 16 bits: a longer line never ends.
     const LineLayout layout = layoutOf(image, image.width() > 0xFFFF ? 0 : image.width());
     PixelArray pixels(layout.capacity(image.sizeInBytes()));
     if (pixels.isNull()) {

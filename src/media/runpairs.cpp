@@ -1,3 +1,18 @@
+// Run-length encoding and decoding, 64 bytes at a time.
+//
+// The encoder turns a block into a bit mask in which a bit marks the last byte of each run, and
+// then takes run after run from the bits. Blocks with many short runs use another loop, which
+// copies all single values between two pairs at once. A run that continues into the next block
+// stays open until its end is found.
+//
+// The decoder turns a block into a mask of the bytes that look like counts and copies the values
+// between them in pieces. A value may look like a count, so the bit after each count is cleared.
+// Near the ends of input and output, where a block could overrun, it works in steps of eight bytes
+// or less.
+//
+// Copies write up to a fixed number of bytes too many: a fixed length is faster than an exact one.
+// The buffers have room for that.
+
 #include "media/runpairs_p.h"
 
 #include "media/bytescan_p.h"
@@ -11,7 +26,7 @@ namespace {
 
 constexpr int LongestRun = 63;
 
-/// Upper bits of the bytes that carry the marker.
+/// The top bits of the bytes that carry the marker.
 template <RunMarker marker>
 constexpr quint64 markedBytes(quint64 bytes)
 {
@@ -20,11 +35,12 @@ constexpr quint64 markedBytes(quint64 bytes)
 }
 
 constexpr int BlockSize = 64;
-/// A pair for each value, a run that began in front of the block, and what is written too many.
+/// A pair for each value, plus a run that began before the block, plus excess bytes of copies.
 constexpr int BlockRoom = 2 * BlockSize + 32;
 static_assert(BlockRoom <= ByteSink::Room);
 
-/// Sixteen bytes at once: mostly there are no more. Reads and writes up to fifteen too many.
+/// Copies sixteen bytes at once, since there are rarely more. Reads and writes up to fifteen bytes
+/// too many.
 void copySingles(uchar* out, const uchar* in, qint64 count)
 {
     std::memcpy(out, in, 16);
@@ -42,7 +58,7 @@ void writeValues(uchar* out, uchar value, int count)
     }
 }
 
-/// What has been encoded of a stretch, up to the run that starts at `in`.
+/// The state of encoding a stretch, up to the run that starts at `in`.
 template <RunMarker marker>
 struct Encoder
 {
@@ -73,7 +89,7 @@ struct Encoder
         }
     }
 
-    /// Pairs of the longest run, as long as a run goes on to `end` at least.
+    /// Writes pairs of the greatest length while the run reaches `end`.
     void longestTo(const uchar* end)
     {
         while (end - in > LongestRun) {
@@ -81,7 +97,7 @@ struct Encoder
         }
     }
 
-    /// Runs that end at the places that have a bit.
+    /// Writes the runs that end at the set bits.
     void runs(const uchar* block, quint64 ends)
     {
         for (; ends; ends &= ends - 1) {
@@ -89,7 +105,7 @@ struct Encoder
         }
     }
 
-    /// The same without branches, for single values and pairs in no order.
+    /// The same for single values and pairs in random order, where branches would be mispredicted.
     void mixed(const uchar* block, quint64 ends)
     {
         const quint64 starts = ends << 1 | quint64(in == block);
@@ -108,7 +124,7 @@ struct Encoder
     }
 };
 
-/// What a block can become, and more than may be written past it.
+/// The most values a block can decode to, plus excess bytes of copies.
 constexpr int DecodedBlock = BlockSize / 2 * LongestRun + 64;
 
 void decodePair(const uchar* pair, uchar*& out)
@@ -138,7 +154,7 @@ void decodeBlock(const uchar*& in, uchar*& out)
         out += pair - in;
         decodePair(pair, out);
         in = pair + 2;
-        // The value may look like a mark.
+        // The value may look like a marker.
         marks &= ~(quint64(3) << start);
     }
     if (in < block + BlockSize) {
@@ -202,7 +218,7 @@ void writeRunPairs(const uchar* values, qint64 count, ByteSink& sink)
             ends = (ends | last) & (last | (last - 1));
         }
         encoder.out = sink.room(BlockRoom);
-        // Only the first run of a block can be longer than a pair holds.
+        // Only the first run of a block can exceed the length of a pair.
         encoder.longestTo(block + (ends ? qCountTrailingZeroBits(ends) + 1 : BlockSize));
         if (qPopulationCount(ends) > BlockSize / 4) {
             encoder.mixed(block, ends);

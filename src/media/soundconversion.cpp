@@ -1,6 +1,6 @@
-// Samples go through floats in blocks: bytes to floats, the converter, channels, floats to bytes.
-// The converter keeps its own state between blocks, so the result is that of one large call. A
-// block is so small that the work can be cancelled quickly, at any ratio and number of channels.
+// Samples are converted in blocks: bytes to floats, resampling, channels, floats to bytes. The
+// resampler keeps its state between blocks, so the result equals that of one large call. Blocks are
+// small, so the work can be cancelled quickly at any ratio and number of channels.
 
 #include "media/soundconversion.h"
 
@@ -17,7 +17,7 @@ namespace Zorv {
 namespace {
 
 constexpr double MostRatio = 256;
-constexpr int BlockSamples = 8192;  // about as many as play in a tenth of a second
+constexpr int BlockSamples = 8192;  // about a tenth of a second of sound
 constexpr int LeastBlock = 16;
 constexpr qint64 MostBytes = INT_MAX - 64;
 
@@ -168,7 +168,7 @@ bool Converter::fill(int first, int count)
     });
 }
 
-/// The mean of several channels goes to each one of another number.
+/// Several channels become any other number as copies of their mean.
 const float* Converter::inChannels(const float* frames, int count)
 {
     const int from = m_sound.channels;
@@ -213,7 +213,7 @@ SoundConversion::Outcome Converter::copy()
 
 SoundConversion::Outcome Converter::resample()
 {
-    int first = 0;  // of the frames that the converter has not been given
+    int first = 0;  // first frame not yet given to the converter
     SRC_DATA work{};
     work.src_ratio = m_ratio;
     while (m_done < m_result.frames) {

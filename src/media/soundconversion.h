@@ -9,14 +9,14 @@
 
 namespace Zorv {
 
-/// What came of the conversion of a sound to another form.
+/// The result of converting a sound.
 struct SoundConversion
 {
     enum Outcome {
         Done,
         Canceled,
         NoSamples,    ///< the source has no whole frame, no rate or no channels
-        UnknownBits,  ///< source or target has other samples than of 8, 16, 24 or 32 bits
+        UnknownBits,  ///< source or target samples are not of 8, 16, 24 or 32 bits
         BadTarget,    ///< the target has no rate or no channels
         RatioTooFar,  ///< one rate is more than 256 times the other
         TooLong,      ///< the result would be longer than a sound can be
@@ -24,26 +24,27 @@ struct SoundConversion
     };
 
     Outcome outcome = Done;
-    SoundSample sample;  ///< empty unless it is done
+    SoundSample sample;  ///< empty unless `outcome` is `Done`
 };
 
-/// A sound with other channels, bits or frames a second; `frames` of the target is ignored.
+/// Converts a sound to other channels, bits or frames per second; `frames` of the target is
+/// ignored.
 ///
-/// At another rate it is resampled at the best quality of libsamplerate, which costs about a
-/// hundredth of the time that the sound plays. There are frames times ratio, rounded down, and at
-/// least one; those that the converter does not give are silent. Several channels become one, or
-/// any other number, as their mean; one is repeated. Values that are too loud are cut off.
-/// `frames` beyond the data are not there.
+/// At another rate the sound is resampled with the best quality of libsamplerate. This takes about
+/// a hundredth of the sound's playing time. The result has frames times ratio, rounded down, and at
+/// least one frame; frames that the converter does not deliver are silent. Several channels are
+/// mixed to one, or any other number, by their mean; one channel is duplicated. Values that are too
+/// loud are clipped. Declared `frames` beyond the data are ignored.
 ///
-/// The work stops soon after `*isCanceled` is true; null cannot be cancelled. Besides the result
-/// it takes little memory. Any thread.
+/// The work stops soon after `*isCanceled` becomes true; with null it cannot be cancelled. Besides
+/// the result it needs little memory. Any thread.
 ZORV_EXPORT SoundConversion convertSound(const SoundSample& sound, const SampleInfo& target,
                                          const std::atomic<bool>* isCanceled = nullptr);
 
-/// Why a sound stays as it was, in words for the person; empty if it is done or cancelled.
+/// Why a sound was not converted, as a text for the user; empty if done or cancelled.
 ZORV_EXPORT QString soundConversionText(SoundConversion::Outcome outcome);
 
-/// True if they agree in channels, bits and frames a second.
+/// True if channels, bits and frames per second are equal.
 ZORV_EXPORT bool isSameForm(const SampleInfo& a, const SampleInfo& b);
 
 }  // namespace Zorv

@@ -18,7 +18,8 @@ SoundRange cut(const SoundSample& sound, SoundRange range)
     return {int(first), int(end - first)};
 }
 
-/// Each value of a part becomes what `change` makes of it and its frame in the part.
+/// Replaces each value of a range by the result of `change`, which gets the value and its frame
+/// within the range.
 template <class Change>
 SoundSample changed(const SoundSample& sound, SoundRange range, Change change)
 {
@@ -41,7 +42,7 @@ SoundSample changed(const SoundSample& sound, SoundRange range, Change change)
     return result;
 }
 
-/// As a number of the sound's own.
+/// In units of the sound's own samples.
 double greatestOf(const SoundSample& sound, SoundRange range, double* most)
 {
     const SoundRange part = cut(sound, range);

@@ -24,7 +24,7 @@ bool loadSound(QIODevice* device, const char* format, SoundSample& sample)
             }
         }
     }
-    // The samples count, not what the extension says of itself.
+    // Judged by the samples, not by the extension's return value.
     return !sample.data.isEmpty();
 }
 

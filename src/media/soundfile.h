@@ -8,13 +8,14 @@ namespace Zorv {
 
 struct SoundSample;
 
-/// Reads a sound file. `format` is "WAV", in capitals, or the name of an `Extension` that
-/// loads sounds. The device is open; false otherwise. The result is whether `sample` holds samples
-/// afterwards, so give an empty one. Any thread, while no extension comes or goes.
+/// Reads a sound file. `format` is "WAV" in capitals, or the name of an `Extension` that loads
+/// sounds. The device must be open, otherwise the result is false. Returns whether `sample`
+/// contains samples afterwards, so pass an empty one. Any thread, provided that no extension is
+/// added or removed meanwhile.
 ZORV_EXPORT bool loadSound(QIODevice* device, const char* format, SoundSample& sample);
 
-/// Writes a sound file; formats and device likewise. False if nobody writes the format
-/// or writing failed.
+/// Writes a sound file; format and device as above. False if there is no writer for the format or
+/// writing failed.
 ZORV_EXPORT bool saveSound(QIODevice* device, const char* format, const SoundSample& sample);
 
 }  // namespace Zorv

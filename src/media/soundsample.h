@@ -4,11 +4,11 @@
 
 namespace Zorv {
 
-/// The form of a sound in PCM.
+/// The format of a PCM sound.
 struct SampleInfo
 {
     quint16 channels = 0;
-    quint16 bits = 0;  ///< a sample
+    quint16 bits = 0;  ///< per sample
     qint32 sampleRate = 0;
     qint32 frames = 0;  ///< of `channels` samples each
 };
@@ -16,7 +16,7 @@ struct SampleInfo
 /// A sound in memory.
 struct SoundSample : SampleInfo
 {
-    /// What a player does with a sound.
+    /// The playback state of a sound.
     enum State {
         PlayingState = 0,  ///< once
         LoopingState = 1,

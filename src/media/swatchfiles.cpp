@@ -25,7 +25,7 @@ RGBA gray(int value)
     return {level, level, level, 255};
 }
 
-// False for a colour space that has no place in a palette.
+// False for a colour space that is not supported.
 bool fromColorSpace(quint16 space, const std::array<quint16, 4>& parts, RGBA& color)
 {
     const auto byte = [&parts](size_t part) { return parts[part] / 257; };
@@ -48,7 +48,7 @@ bool fromColorSpace(quint16 space, const std::array<quint16, 4>& parts, RGBA& co
     }
 }
 
-// A share of 1 in a byte; what is no number counts as nothing.
+// A fraction of 1 as a byte; not-a-number counts as 0.
 int share(QDataStream& stream)
 {
     float value = 0;
@@ -92,7 +92,7 @@ void skip(QDataStream& stream, quint32 size)
     }
 }
 
-// A name, with its length in characters in front.
+// Skips a name, which is preceded by its length in characters.
 void skipName(QDataStream& stream)
 {
     quint16 length = 0;
@@ -139,7 +139,7 @@ bool loadASE(QIODevice* device, RGBA (&palette)[256])
     if (major != 1 || minor != 0) {
         return false;
     }
-    // The number of blocks may be any; behind the end of the file there are no colours.
+    // The declared number of blocks may be wrong; no colours follow the end of the file.
     for (int entry = 0; entry < ColorCount && blocks > 0 && stream.status() == QDataStream::Ok;
          --blocks) {
         quint16 type = 0;

@@ -39,7 +39,7 @@ QDataStream& littleEndian(QDataStream& stream)
     return stream;
 }
 
-// A device that was closed is closed again when this goes.
+// Opens a closed device, and closes it again when destroyed.
 class OpenDevice
 {
 public:
@@ -220,7 +220,7 @@ bool soundToWAV(const SoundSample& sample, QIODevice* device)
     if (stream.writeRawData(sample.data.constData(), sample.data.size()) != sample.data.size()) {
         return false;
     }
-    // A full disk may show itself only when the bytes leave the device's buffer.
+    // A full disk may be noticed only when the device's buffer is written.
     auto* file = qobject_cast<QFileDevice*>(device);
     return stream.status() == QDataStream::Ok && (!file || file->flush());
 }

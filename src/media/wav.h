@@ -8,15 +8,15 @@ class QIODevice;
 
 namespace Zorv {
 
-/// The head of a WAV file.
+/// The header of a WAV file.
 struct WaveRIFFHeader
 {
     char id[4];
-    quint32 size;  ///< of all that follows
+    quint32 size;  ///< of everything that follows
     char format[4];
 };
 
-/// The chunk that tells the form of the samples.
+/// The chunk with the format of the samples.
 struct WaveFormatHeader
 {
     char id[4];
@@ -29,14 +29,14 @@ struct WaveFormatHeader
     quint16 bitsPerSample;
 };
 
-/// The head of the chunk that holds the samples.
+/// The header of the chunk with the samples.
 struct WaveDataHeader
 {
     char id[4];
     quint32 size;
 };
 
-/// Read and write the headers field by field. The stream has to be little-endian.
+/// Read and write the headers field by field. The stream must be little-endian.
 ZORV_EXPORT QDataStream& operator>>(QDataStream& stream, WaveRIFFHeader& header);
 ZORV_EXPORT QDataStream& operator>>(QDataStream& stream, WaveFormatHeader& header);
 ZORV_EXPORT QDataStream& operator>>(QDataStream& stream, WaveDataHeader& header);
@@ -44,16 +44,15 @@ ZORV_EXPORT QDataStream& operator<<(QDataStream& stream, const WaveRIFFHeader& h
 ZORV_EXPORT QDataStream& operator<<(QDataStream& stream, const WaveFormatHeader& header);
 ZORV_EXPORT QDataStream& operator<<(QDataStream& stream, const WaveDataHeader& header);
 
-/// The form of the sound in a WAV file; all zero unless it is PCM. `frames` is 0 for a byte
-/// rate of 0. A closed device is opened, as in the two below.
+/// The format of the sound in a WAV file; all zero unless it is PCM. `frames` is 0 if the byte rate
+/// is 0. This function and the two below open a closed device.
 ZORV_EXPORT SampleInfo soundInfoFromWAV(QIODevice* device);
 
-/// Reads a WAV file with PCM; empty if it is none. Sizes that the file does not have
-/// are cut to what is there. The chunks between form and samples are passed over.
+/// Reads a PCM WAV file; empty if it is not one. Sizes beyond the end of the file are cut. Chunks
+/// between format and samples are skipped.
 ZORV_EXPORT SoundSample soundFromWAV(QIODevice* device);
 
-/// Writes a WAV file, with the samples as they are. False if the device cannot be opened or
-/// written.
+/// Writes a WAV file with the samples unchanged. False if the device cannot be opened or written.
 ZORV_EXPORT bool soundToWAV(const SoundSample& sample, QIODevice* device);
 
 }  // namespace Zorv

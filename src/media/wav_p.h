@@ -12,7 +12,7 @@ namespace Zorv {
 const quint16 PCMTag = 1;
 const int DataHeaderSize = 8;
 
-/// The header that some bytes begin with; what they lack is 0.
+/// The header at the start of some bytes; missing bytes count as 0.
 template <class Header>
 Header parseWaveHeader(const QByteArray& bytes)
 {
@@ -23,19 +23,20 @@ Header parseWaveHeader(const QByteArray& bytes)
     return header;
 }
 
-/// The form of so many bytes of samples.
+/// The format of a sound with that many bytes of samples.
 SampleInfo waveSampleInfo(const WaveFormatHeader& format, quint32 dataSize);
 
-/// As many bytes as there are of those that a header declares, which may be any number.
+/// Reads up to `size` bytes. `size` comes from a header and may be far too large.
 QByteArray readUpTo(QIODevice* device, qint64 size);
 
-/// The bytes of a device in pieces, so that those of a long sound are never all in memory.
+/// Searches a device piece by piece, so that a long sound is never completely in memory.
 class ByteSearch
 {
 public:
     ByteSearch(QIODevice* device, const QByteArray& head) : m_device(device), m_bytes(head) {}
 
-    /// Moves to the first place of `text`, and gives its distance from the start; -1 without one.
+    /// Moves to the first occurrence of `text` and returns its distance from the start; -1 if there
+    /// is none.
     qint64 find(const QByteArray& text)
     {
         int place = m_bytes.indexOf(text);
@@ -50,7 +51,7 @@ public:
         return m_start;
     }
 
-    /// Up to `size` bytes from there.
+    /// Up to `size` bytes from the current position.
     QByteArray take(int size)
     {
         while (m_bytes.size() < size && fill()) {

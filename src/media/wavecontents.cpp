@@ -13,10 +13,10 @@ const int ChunkHead = 8;
 const int RiffSize = 12;
 const int FormatSize = 16;
 
-// A file of nothing but heads would take long.
+// A limit, because a file that consists only of chunk headers would take long.
 const int MostChunks = 10000;
 
-// What programs write that do not know the size yet is near the ends of the range.
+// Programs that do not know the size yet write a number near the end of the range.
 const quint32 LeastOpenSize = 0x7FF00000;
 
 bool isId(const char (&id)[4], const char* name)
@@ -24,7 +24,7 @@ bool isId(const char (&id)[4], const char* name)
     return std::memcmp(id, name, 4) == 0;
 }
 
-/// The chunks of a file up to its samples.
+/// Walks over the chunks of a file up to its samples.
 class WaveChunks
 {
 public:
@@ -43,24 +43,25 @@ public:
     qint64 begin() const { return m_begin; }
     qint64 start() const { return m_start; }
 
-    /// Bytes of samples that are there.
+    /// The number of sample bytes present.
     qint64 held() const
     {
         const qint64 rest = m_end - m_start;
-        // The size of the whole tells an empty sound from one whose size was never written.
+        // A declared size of 0 is either an empty sound or a size never written. The size in the
+        // file header distinguishes the two.
         const qint64 excess = m_end - m_begin - ChunkHead - m_riff.size;
         const bool isOpen = m_declared == 0 && excess != 0 && excess != 1;
         return isOpen ? rest : qMin<qint64>(rest, m_declared);
     }
 
-    /// Bytes that are declared and not there.
+    /// The number of declared bytes that are missing.
     qint64 missing() const
     {
         return m_declared < LeastOpenSize ? qMax<qint64>(0, m_declared - (m_end - m_start)) : 0;
     }
 
-    /// Frames that are found without a look at the chunks: behind the first "data", as far as the
-    /// size of the whole goes; without one behind the form.
+    /// The number of frames that a reader finds without walking the chunks: after the first "data",
+    /// as far as the declared size of the file reaches; without "data", after the format.
     qint32 reached()
     {
         const qint64 body = qMin<qint64>(m_riff.size, m_end - m_begin - RiffSize);

@@ -7,23 +7,23 @@ class QIODevice;
 
 namespace Zorv {
 
-/// What a WAV file holds, found chunk by chunk, for the sizes in its head can be wrong: a program
-/// that records without an end leaves those of an empty sound, 0 or the largest number there.
-/// `soundFromWAV()` believes them.
+/// The contents of a WAV file, found chunk by chunk instead of by the sizes in its header, which
+/// can be wrong: a recorder that does not know the length in advance leaves the sizes of an empty
+/// sound, 0, or the largest number. `soundFromWAV()` trusts those sizes.
 struct WaveContents
 {
-    quint16 formatTag = 0;  ///< 1 for PCM, 65534 for the extensible form; 0 for no WAV file
-    SampleInfo info;        ///< of all samples that are there; of meaning for PCM
-    qint32 reached = 0;     ///< frames that `soundFromWAV()` gives, if `info` has any
-    qint64 missing = 0;     ///< frames that the file declares and lacks, as it is cut short
+    quint16 formatTag = 0;  ///< 1 for PCM, 65534 for extensible; 0 if this is no WAV file
+    SampleInfo info;        ///< format of all existing samples; meaningful for PCM
+    qint32 reached = 0;     ///< frames that `soundFromWAV()` returns, if `info` has any
+    qint64 missing = 0;     ///< frames that the file declares but lacks: it is truncated
 };
 
-/// Looks at the heads of all chunks up to the samples, and at no sample. The device is open and
-/// stands where the file begins, and does so afterwards if it is not sequential.
+/// Reads all chunk headers up to the samples, but no samples. The device must be open and at the
+/// start of the file. If it is not sequential, its position is restored.
 ZORV_EXPORT WaveContents waveContents(QIODevice* device);
 
-/// Reads all samples that are there, where `soundFromWAV()` gives those that the sizes lead to.
-/// Without a size that fits they go on to the end of the file. Empty without PCM. The device is
+/// Reads all existing samples, unlike `soundFromWAV()`, which follows the declared sizes. If no
+/// size fits, the samples extend to the end of the file. Empty if it is not PCM. The device must be
 /// open.
 ZORV_EXPORT SoundSample wholeSoundFromWAV(QIODevice* device);
 
