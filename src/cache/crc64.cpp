@@ -7,6 +7,11 @@
 
 #include <cstddef>
 
+// The CRC is computed in two stages. If the processor has carry-less multiplication, `Crc64Fold`
+// first reduces all whole 64-byte blocks to 16 bytes. These and the remaining bytes go through
+// tables: 16 bytes per step, with one table lookup per byte. The lookups do not depend on each
+// other, so the processor runs them in parallel.
+
 namespace Zorv {
 
 namespace {
@@ -18,7 +23,7 @@ const unsigned Step = 16;
 
 constexpr auto tables = crcTables<Checksum, Step>(Polynomial);
 
-// What 8 bytes do when `behind` bytes of the step follow them.
+// The effect of 8 bytes on the register if `behind` more bytes of the step follow.
 template <unsigned behind>
 Checksum foldWord(Checksum word)
 {

@@ -7,6 +7,13 @@
 #define ZORV_FOLDS __attribute__((target("pclmul,sse2")))
 #endif
 
+// Folding makes a long message shorter without changing its CRC. A message is a polynomial, and the
+// CRC is its remainder. So 128 bits may be moved forward by a distance d (in bits) if they are
+// multiplied by x^d modulo the CRC polynomial, and then XORed into the data there.
+//
+// Four independent lanes of 16 bytes are moved by 64 bytes per step, which keeps the multiplier
+// busy. At the end the lanes are folded into one.
+
 namespace Zorv::Crc64Fold {
 
 #ifdef ZORV_FOLDS
@@ -16,7 +23,7 @@ namespace {
 const unsigned long long Polynomial = 0x95AC9329AC4BC9B5;
 const int LaneCount = 4;
 
-// A power of x modulo the polynomial; the highest bit is that of x to the power of 0.
+// x^exponent modulo the polynomial. Bits are reflected: the highest bit is x^0.
 constexpr unsigned long long powerOfX(int exponent)
 {
     unsigned long long value = 1ULL << 63;
@@ -26,8 +33,8 @@ constexpr unsigned long long powerOfX(int exponent)
     return value;
 }
 
-// What moves 128 bits forward by a distance. A product of two reflected numbers comes out one
-// power of x too high.
+// The factors that move 128 bits forward by a distance. The exponents are reduced by one, because
+// the carry-less product of two reflected numbers is one power of x too high.
 struct Keys
 {
     unsigned long long low;

@@ -2,6 +2,11 @@
 
 #include <QVector>
 
+// The file holds the stored bytes of the items without gaps. If an item gets a different size,
+// `makeRoom()` moves everything behind it, in large blocks, and adjusts the offsets of those items.
+// Before anything moves, the file is extended to its new size. So if the disk is full, this fails
+// while all items are still intact, and the new bytes stay in memory (`DiskItem::kept`).
+
 namespace Zorv {
 
 namespace {
@@ -62,12 +67,12 @@ void DiskCache::set(PackedCache::Item* item, const QByteArray& data, unsigned ch
     }
     if (isOpen() && !(fits && write(own->offset, data.constData(), data.size()))) {
         own->offset = -1;
-        own->kept.append(data);  // a copy of bytes that are only borrowed
+        own->kept.append(data);  // append() copies, even if `data` does not own its bytes
     }
 }
 
-// Where the items lie in the file counts, not where they stand in the list: one that the disk had
-// no room for when it was stored lies behind others of the list.
+// Uses the order in the file, which may differ from the list: an item for which the disk once had
+// no room is stored later than its neighbours.
 bool DiskCache::makeRoom(DiskItem* item, const QByteArray& data)
 {
     const qint64 delta = qint64(data.size()) - item->size;
@@ -84,8 +89,7 @@ bool DiskCache::makeRoom(DiskItem* item, const QByteArray& data)
     if (behind.isEmpty()) {
         return true;
     }
-    // The new end of the file is written first, with any bytes: nothing has moved if the disk has
-    // no room for it.
+    // Extend the file first, with arbitrary bytes: if the disk is full, nothing has moved yet.
     const qint64 fileSize = m_tempFile.size();
     if (delta > 0 && !write(fileSize, data.constData(), delta)) {
         return false;

@@ -8,29 +8,29 @@
 
 namespace Zorv {
 
-/// The place of an item in the temporary file of a `DiskCache`.
+/// The position of an item in the temporary file of a `DiskCache`.
 struct ZORV_EXPORT DiskItem final : PackedCache::Item
 {
-    qint64 offset;    ///< of the first stored byte; -1 while there is none
-    QByteArray kept;  ///< the stored bytes themselves, while the disk has no room for them
+    qint64 offset;    ///< of the first stored byte; -1 if it is not in the file
+    QByteArray kept;  ///< the stored bytes, if the disk has no room for them
 };
 
-/// Keeps its items in one temporary file, which dies with it.
+/// Keeps all items in one temporary file, which is deleted with the cache.
 ///
-/// The stored bytes lie one behind the other in the order of their first storing. The file is
-/// never shortened. An item that changes its size moves all that lies behind it, and no byte of
-/// another. What the disk has no room for is kept in memory.
+/// The stored bytes are contiguous, in the order of their first storing. The file never becomes
+/// shorter. If the size of an item changes, everything behind it moves, and nothing is overwritten.
+/// Items for which the disk has no room are kept in memory.
 class ZORV_EXPORT DiskCache final : public PackedCache
 {
 public:
-    /// Opens the file. If that fails, everything reads back empty.
+    /// Opens the file. If that fails, all items read back as empty.
     DiskCache();
     ~DiskCache() override;
 
-    /// `DiskStore`.
+    /// Returns `DiskStore`.
     Type type() const override;
 
-    /// False if there is no temporary file.
+    /// False if the temporary file could not be created.
     bool isOpen() const;
 
 protected:
@@ -46,7 +46,7 @@ private:
     bool write(qint64 offset, const char* data, qint64 size);
 
     mutable QTemporaryFile m_tempFile;
-    std::unique_ptr<char[]> m_blockBuffer;  // what one step of a move takes
+    std::unique_ptr<char[]> m_blockBuffer;  // buffer for one step of a move
 };
 
 }  // namespace Zorv

@@ -27,7 +27,7 @@ void MemoryCache::set(PackedCache::Item* item, const QByteArray& data, unsigned 
     item->filterData = filterData;
     item->crc = crc;
     item->size = data.size();
-    // Bytes that are only borrowed are copied, all others are shared.
+    // append() copies an array that does not own its bytes and shares all others.
     QByteArray& own = static_cast<Item*>(item)->data;
     own.clear();
     own.append(data);

@@ -4,10 +4,10 @@
 
 namespace Zorv {
 
-/// Keeps its items packed in memory.
+/// Keeps compressed items in memory.
 ///
-/// Bytes that need no packing are shared with the array that they came in, or copied if that has
-/// only borrowed them.
+/// Bytes that need no compression are shared with the given array. They are copied if that array
+/// does not own them (`QByteArray::fromRawData()`).
 class ZORV_EXPORT MemoryCache final : public PackedCache
 {
 public:
@@ -16,7 +16,7 @@ public:
         QByteArray data;  ///< the stored bytes
     };
 
-    /// `MemoryStore`.
+    /// Returns `MemoryStore`.
     Type type() const override;
 
 protected:

@@ -8,7 +8,8 @@ namespace {
 
 const unsigned char PlainType = 0;
 
-// Qt packs nothing into four bytes, and complains when it is to unpack nothing.
+// Empty data is special: qCompress() makes four bytes of it, and qUncompress() warns about an empty
+// input.
 QByteArray unpacked(const QByteArray& stored)
 {
     return stored.isEmpty() ? QByteArray() : qUncompress(stored);

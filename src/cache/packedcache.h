@@ -4,20 +4,19 @@
 
 namespace Zorv {
 
-/// A store that packs what it is given, and leaves the keeping to a derived class.
+/// A store that compresses its items. Derived classes decide where to keep them.
 ///
-/// Items of type 0 are packed by `qCompress()`, others by `writeFilter()`. No bytes stay no bytes:
-/// no filter is asked about them.
+/// Items of type 0 are compressed with `qCompress()`, all others by `writeFilter()`. Empty data
+/// stays empty and is not passed to any filter.
 class ZORV_EXPORT PackedCache : public StreamCache
 {
 public:
     struct ZORV_EXPORT Item : StreamCache::Item
     {
-        int unpackedSize;  ///< bytes as they were given
+        int unpackedSize;  ///< size of the data before compression
     };
 
-    /// See `StreamCache`. What a filter has nothing to change of is stored, and given back, as it
-    /// is.
+    /// See `StreamCache`. If a filter returns nothing, the data is stored and returned unchanged.
     QByteArray itemData(StreamCache::Item* item) const override;
     QByteArray itemRawData(StreamCache::Item* item) const override;
     StreamCache::Item* addItem(const QByteArray& data, unsigned char type, void* filterData,
@@ -26,11 +25,11 @@ public:
                      void* filterData, unsigned long long crc) override;
 
 protected:
-    /// The packed bytes of an item, as `add()` or `set()` got them.
+    /// The compressed bytes of an item, as passed to `add()` or `set()`.
     virtual QByteArray rawData(PackedCache::Item* item) const = 0;
 
-    /// Makes an item of packed bytes, the caller's to append; or gives an item others. Both set all
-    /// fields but `unpackedSize`.
+    /// `add()` creates an item from compressed bytes; the caller adds it to the list. `set()`
+    /// replaces the bytes of an item. Both set all fields except `unpackedSize`.
     virtual PackedCache::Item* add(const QByteArray& data, unsigned char type, void* filterData,
                                    unsigned long long crc) = 0;
     virtual void set(PackedCache::Item* item, const QByteArray& data, unsigned char type,

@@ -13,30 +13,32 @@ class Texture;
 class ZORV_EXPORT Palette : public PropertyItem
 {
 public:
-    /// How `setColors()` treats the sprites that use the palette.
+    /// What `setColors()` does to the sprites that use the palette.
     enum ColorsMode {
-        AdaptPixels = 1,  ///< their pixels take the nearest of the new colours
-        KeepPixels = 2    ///< their pixels stay, and show the new colours
+        AdaptPixels = 1,  ///< their pixels change to the nearest of the new colours
+        KeepPixels = 2    ///< their pixels stay and show the new colours
     };
 
     ~Palette() override;
 
-    /// The place in the list.
+    /// The row in the list.
     virtual unsigned index() const = 0;
 
-    /// Makes the palette texture current, anew from the colours.
+    /// Rebuilds the palette texture from the colours and makes it current.
     virtual void reload() = 0;
 
-    /// Fills `colors`; entries that the palette lacks stay as they are.
+    /// Copies the colours to `colors`. Entries that the palette does not have
+    /// stay unchanged.
     virtual void toPalette(RGBA (&colors)[256]) const = 0;
 
     /// Replaces the colours; `mode` is a `ColorsMode`.
     virtual void setColors(const RGBA (&colors)[256], int mode) = 0;
 
-    /// The list that it stands in.
+    /// The list that contains this palette.
     virtual Palettes* owner() const = 0;
 
-    /// The colours on the stage, made when they are asked for. The palette's.
+    /// The colours as a texture for the stage, created on demand. Owned by the
+    /// palette.
     virtual Texture* texture() const = 0;
 };
 

@@ -8,8 +8,8 @@ namespace Zorv {
 
 class Palettes;
 
-/// How many sprites of the collection have each of its palettes, by row. Costs a look at each
-/// sprite, and decodes none. Main thread only.
+/// For each palette of the collection, by row, the number of sprites that use it. Visits each
+/// sprite, but decodes none. Main thread only.
 ZORV_EXPORT QVector<int> paletteUses(const Palettes& palettes);
 
 }  // namespace Zorv

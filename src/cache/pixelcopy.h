@@ -6,23 +6,23 @@ namespace Zorv {
 
 class Sprite;
 
-/// The pixels of a sprite by themselves, on their way into a sprite of another collection.
+/// The pixels of a sprite, on their way to a sprite of another collection.
 ///
-/// Made by `Sprite::copyPixels()` in the main thread. From then on it needs neither that sprite nor
-/// its collection, so both may go. Used once: `read()`, then `putInto()`.
+/// Created by `Sprite::copyPixels()` in the main thread. Afterwards the source sprite and its
+/// collection may be deleted. Use it once: `read()`, then `putInto()`.
 class ZORV_EXPORT PixelCopy
 {
 public:
     virtual ~PixelCopy();
 
-    /// Does what takes time, such as unpacking. In any thread. False for broken pixels, which
-    /// cannot be put anywhere.
+    /// Does the slow part, such as decompression. May be called in any thread. Returns false if the
+    /// pixels are damaged and cannot be used.
     virtual bool read() = 0;
 
-    /// Replaces the pixels of a sprite of the same host, whose palette stays: what the indices mean
-    /// is told by `Sprite::setPalette()` behind it. True colour has no palette. A copy of no pixels
-    /// leaves the sprite without any. Main thread. False, and no change, if the sprite cannot take
-    /// them.
+    /// Replaces the pixels of a sprite of the same host. The sprite's palette stays; call
+    /// `Sprite::setPalette()` afterwards to set the colours of the indices. True colour has no
+    /// palette. A copy without pixels clears the sprite. Main thread only. Returns false, without
+    /// any change, if the sprite cannot take the pixels.
     virtual bool putInto(Sprite* sprite) = 0;
 };
 

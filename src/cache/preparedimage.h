@@ -9,10 +9,11 @@
 
 namespace Zorv {
 
-/// An image on its way into a sprite, with the part of the work that needs no collection done.
+/// An image to be put into a sprite, with all work already done that does not need the collection.
 ///
-/// A host derives from it to keep what it has worked out, as the packed pixels, and makes it by the
-/// function of `Sprites::imagePreparer()`. Made on any thread, and never changed afterwards.
+/// A host derives from it to keep intermediate results, such as compressed pixels, and creates it
+/// in the function returned by `Sprites::imagePreparer()`. Created in any thread and never changed
+/// afterwards.
 class ZORV_EXPORT PreparedImage
 {
 public:
@@ -27,7 +28,8 @@ private:
     QImage m_image;
 };
 
-/// Prepares an image. Any thread, and several at once; it is good after its collection has gone.
+/// Prepares an image. May be called in several threads at once. The result remains valid after its
+/// collection has been deleted.
 using ImagePreparer = std::function<std::shared_ptr<const PreparedImage>(const QImage&)>;
 
 }  // namespace Zorv

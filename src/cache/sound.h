@@ -14,20 +14,21 @@ class ZORV_EXPORT Sound : public PropertyItem
 public:
     ~Sound() override;
 
-    /// The samples, unpacked when they are asked for; empty if they are broken.
+    /// The samples, decompressed on demand; empty if they are damaged.
     virtual QByteArray sampleData() const = 0;
 
-    /// Unpacks the samples as they are now, in any thread, whatever becomes of the sound meanwhile.
-    /// By default it gives `sampleData()`, which is called at once.
+    /// Returns a function that decompresses the current samples in any thread, even after the sound
+    /// has changed or been deleted. By default it returns the result of `sampleData()`, which is
+    /// called at once.
     virtual std::function<QByteArray()> sampleReader() const;
 
-    /// The form of the samples, without unpacking.
+    /// The format of the samples, without decompressing them.
     virtual SampleInfo sampleInfo() const = 0;
 
-    /// Replaces the samples: PCM bytes of that form.
+    /// Replaces the samples with PCM bytes in the given format.
     virtual void setSample(const SampleInfo& info, const QByteArray& data) = 0;
 
-    /// Appends a copy right behind this sound.
+    /// Inserts a copy directly behind this sound.
     virtual void duplicate() = 0;
 };
 

@@ -16,7 +16,7 @@ public:
 
     bool read() override { return m_image.size() == m_size || m_size.isEmpty(); }
 
-    /// Indices without colours replace the pixels alone.
+    /// An indexed image without colours replaces only the pixels.
     bool putInto(Sprite* sprite) override
     {
         if (m_image.format() == QImage::Format_Indexed8) {

@@ -17,70 +17,69 @@ class PixelCopy;
 class PreparedImage;
 class Texture;
 
-/// One image of a sprite collection, with its hot spot and its palette.
+/// One image of a sprite collection, with its axis and palette.
 ///
-/// Implemented by the host. Editors take it anew by its index after every change that the
-/// collection signals. Main thread only.
+/// Implemented by the host. After every change signal of the collection, editors must fetch the
+/// sprite again by its index. Main thread only.
 class ZORV_EXPORT Sprite : public PropertyItem
 {
 public:
-    /// Which palette a sprite gets with new pixels, as the person chooses it.
+    /// Which palette a sprite gets together with new pixels. The user chooses it.
     enum PaletteMode {
-        ImagePalette = 1,   ///< the image's own, added unless the collection has it
-        ForcePalette = 2,   ///< the given one; the image is adapted to it
-        ReplacePalette = 3  ///< the given one takes the image's colours, for all who use it
+        ImagePalette = 1,   ///< the image's own palette; added if the collection lacks it
+        ForcePalette = 2,   ///< the given palette; the image is adapted to it
+        ReplacePalette = 3  ///< the given palette, which gets the image's colours for all its users
     };
 
     ~Sprite() override;
 
-    /// Appends a copy right behind this sprite.
+    /// Inserts a copy directly behind this sprite.
     virtual void duplicate() = 0;
 
-    /// Drops what was derived from the pixels, so that it is made anew.
+    /// Discards everything derived from the pixels, so that it is computed again.
     virtual void reload() = 0;
 
-    /// Makes the sprite's texture the image texture of the renderer.
+    /// Makes the sprite's texture the current image texture of the renderer.
     virtual void bindTexture() = 0;
 
-    /// Replaces the pixels by those of an image whose colour table equals the palette, or that has
-    /// no colour table.
+    /// Replaces the pixels. The colour table of the image must be equal to the palette or empty.
     virtual void setImage(const QImage& image) = 0;
 
-    /// The same as `setImage()` of the image, with what was worked out before. `prepared` is of the
-    /// preparer of this collection; any other is taken for its image alone.
+    /// Like `setImage()`, but reuses work that was done before. If `prepared` does not come from
+    /// this collection's preparer, only its image is used.
     virtual void setPrepared(const PreparedImage& prepared);
 
-    /// Replaces pixels and palette. With `reversed` the order of the image's colours is reversed
-    /// first; `mode` is a `PaletteMode`; `palette` is that of the choice, null for the sprite's
-    /// own.
+    /// Replaces pixels and palette. If `reversed` is set, the order of the image's colours is
+    /// reversed first. `mode` is a `PaletteMode`. `palette` is the palette it refers to; null means
+    /// the sprite's own.
     virtual void setImage(const QImage& image, bool reversed, int mode, Palette* palette) = 0;
 
-    /// The palette; null for a sprite without one, as of true colour.
+    /// The palette; null for a sprite without one, for example in true colour.
     virtual Palette* palette() const = 0;
 
-    /// The hot spot, in pixels from the top left corner.
+    /// The axis, in pixels from the top left corner.
     virtual QPoint axis() const = 0;
 
-    /// Gives the sprite another palette of its collection; its pixels stay.
+    /// Assigns another palette of the same collection. The pixels do not change.
     virtual void setPalette(Palette* palette) = 0;
 
-    /// Makes a sprite of each colour channel, behind this one; see the host for what that means.
+    /// Creates a sprite for each colour channel, behind this one. The host defines the details.
     virtual void splitChannels() = 0;
 
-    /// The pixels, decoded when they are asked for: `Format_Indexed8` with the colours of the
-    /// palette, or `Format_ARGB32`. Null if they are broken.
+    /// The pixels, decoded on demand: `Format_Indexed8` with the palette's colours, or
+    /// `Format_ARGB32`. Null if they are damaged.
     virtual QImage image() const = 0;
 
     /// Width and height, without decoding.
     virtual QSize size() const = 0;
 
-    /// The pixels on the stage, made when they are asked for; null if they are broken. The
-    /// sprite's.
+    /// The pixels as a texture for the stage, created on demand; null if they are damaged. Owned by
+    /// the sprite.
     virtual Texture* texture() const = 0;
 
-    /// The pixels for a sprite of another collection of the same host. As it stands here they are
-    /// those of `image()`, which is decoded at once; a host that has them packed hands these over.
-    /// Never null.
+    /// The pixels, to be put into a sprite of another collection of the same host. Never null. By
+    /// default `image()` is decoded at once; a host that stores compressed pixels passes these on
+    /// instead.
     virtual std::shared_ptr<PixelCopy> copyPixels() const;
 };
 

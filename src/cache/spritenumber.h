@@ -9,8 +9,8 @@ namespace Zorv {
 
 class Sprite;
 
-/// What frames name a sprite by: its group, and its number in the group. Both are whole numbers
-/// from 0; -1 stands for none.
+/// How frames refer to a sprite: by its group and its number in the group. Both are integers from 0
+/// on; -1 means none.
 struct SpriteNumber
 {
     int group = -1;
@@ -32,8 +32,8 @@ inline uint qHash(SpriteNumber sprite, uint seed = 0)
     return ::qHash(quint64(quint32(sprite.group)) << 32 | quint32(sprite.number), seed);
 }
 
-/// The number of a sprite, from its properties "Group" and "Number". Invalid for null, and for a
-/// sprite of a host that does not number its sprites.
+/// The number of a sprite, from its properties "Group" and "Number". Invalid for null, and if the
+/// host does not number its sprites.
 ZORV_EXPORT SpriteNumber spriteNumber(const Sprite* sprite);
 
 }  // namespace Zorv

@@ -9,10 +9,10 @@ namespace Zorv {
 class Palettes;
 class Sprite;
 
-/// The sprites of a project: a list that can be rearranged, and a file.
+/// The sprites of a project: a sortable list and a file.
 ///
-/// Implemented by the host. Pixels are decoded when they are shown. A record is valid until the
-/// collection signals a change. Main thread only.
+/// Implemented by the host. Pixels are decoded when they are shown. A pointer to a sprite is valid
+/// until the collection signals a change. Main thread only.
 class ZORV_EXPORT Sprites : public OrganizableObject, public CachedProjectFile
 {
     Q_OBJECT
@@ -20,15 +20,15 @@ class ZORV_EXPORT Sprites : public OrganizableObject, public CachedProjectFile
 public:
     ~Sprites() override;
 
-    /// To be called once after a batch of additions, before `count()` is asked again.
+    /// Call this once after a batch of additions, before the next `count()`.
     virtual void refresh() = 0;
 
     virtual void removeSprite(int index) = 0;
 
-    /// Makes a row current, in `currentIndex`; one outside of the list means that none is.
+    /// Makes a row current; see `currentIndex`. An index outside of the list means none.
     virtual void setCurrent(int index) = 0;
 
-    /// The palettes; never null. The collection's.
+    /// The palettes; never null. Owned by the collection.
     virtual Palettes* palettes() const = 0;
 
     virtual unsigned count() const = 0;
@@ -36,28 +36,29 @@ public:
     /// Null for an index outside of the list.
     virtual Sprite* sprite(int index) const = 0;
 
-    /// Appends an empty sprite; `refresh()` shows it.
+    /// Appends an empty sprite. It becomes visible with `refresh()`.
     virtual Sprite* addSprite() = 0;
 
-    /// The first row from `from` on with an "Identifier"; negative if there is none. Looks at one
-    /// after the other; a host that knows better overrides it.
+    /// The first row, starting at `from`, with this "Identifier"; negative if there is none. The
+    /// default is a linear search; a host can override it with something faster.
     virtual int find(int from, const QVariant& id) const;
 
-    /// True if a sprite of the list could have an identifier. By default all can be.
+    /// True if a sprite in this list could have this identifier. Always true by default.
     virtual bool canName(const QVariant& id) const;
 
-    /// What makes images ready for `Sprite::setPrepared()`, so that the dear part of adding many
-    /// can be done on other threads. By default it does nothing beforehand.
+    /// Returns a function that prepares images for `Sprite::setPrepared()`, so that the expensive
+    /// part of adding many images can run in other threads. By default nothing is prepared.
     virtual ImagePreparer imagePreparer() const;
 
-    /// Opens and closes one step of undo; the same for list and file.
+    /// Start and end one undo step. List and file share it.
     void beginChange(const QString& title) override = 0;
     void endChange() override = 0;
 
     int currentIndex = -1;  ///< the current row
 
 signals:
-    /// The collection is about to die, and is still whole: whoever shows sprites lets go of them.
+    /// The collection is about to be destroyed but is still complete. Receivers that show sprites
+    /// must release them.
     void closing();
 
 protected:

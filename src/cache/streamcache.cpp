@@ -140,7 +140,7 @@ StreamCache::Item* StreamCache::find(const QByteArray& data, unsigned long long 
     });
 }
 
-/// False if there is nothing to be found.
+/// Returns false if the list is empty.
 bool StreamCache::bringIndexUpToDate() const
 {
     if (m_items.isEmpty()) {

@@ -5,27 +5,27 @@
 
 namespace Zorv {
 
-/// The handle through which a record owns one item of a cache; base of a host's records.
+/// A handle that owns one item of a cache. Hosts derive their records from it.
 ///
-/// Records that share an item share the handle, and count themselves in `refCount`. The cache
-/// outlives the handle. Main thread only.
+/// Records that share an item share the handle and count their references in `refCount`. The cache
+/// must outlive the handle. Main thread only.
 class ZORV_EXPORT StreamCacheData
 {
 public:
-    /// Without an item.
+    /// Creates a handle without an item.
     explicit StreamCacheData(StreamCache* cache);
 
-    /// With the item that stands for a file, in a `FileCache`.
+    /// Creates a handle with the item of a file in a `FileCache`.
     StreamCacheData(StreamCache* cache, const QString& fileName);
 
     /// Removes the item from the cache.
     virtual ~StreamCacheData();
 
-    /// Stores bytes, in the own item if there is one; arguments as of `StreamCache::addItem()`.
+    /// Stores bytes in the own item, or in a new one. Arguments as for `StreamCache::addItem()`.
     void fromData(const QByteArray& data, unsigned char type, void* filterData,
                   unsigned long long crc);
 
-    /// The bytes as stored if `raw`, else the decoded ones.
+    /// The stored bytes if `raw`, otherwise the decoded ones.
     QByteArray toData(bool raw) const;
 
     /// True if the item holds these bytes.
@@ -34,18 +34,18 @@ public:
     /// Removes the item from the cache.
     void reset();
 
-    /// One user less; the last one has `disposeData()` called. Returns how many are left.
+    /// Removes one reference and returns how many are left. At 0, `disposeData()` is called.
     int release();
 
-    /// The path of the item's file; empty unless the cache is a `FileCache`.
+    /// The path of the item's file. Empty if the cache is not a `FileCache`.
     QString fileName() const;
 
     StreamCache* cache;                 ///< not owned
-    StreamCache::Item* item = nullptr;  ///< null without data
+    StreamCache::Item* item = nullptr;  ///< null if there is no data
     int refCount = 1;
 
 protected:
-    /// The record destroys itself.
+    /// Must delete the object itself.
     virtual void disposeData() = 0;
 
 private:

@@ -9,27 +9,29 @@
 
 namespace Zorv {
 
-/// The items of a cache by their checksums, so that a search need not walk the list.
+/// An index of a cache's items by checksum, so that searching is not linear.
 ///
-/// It is empty, and follows no change, until it is built: a file that is only opened and shown
-/// needs none.
+/// It stays empty and ignores all changes until it is built. So a file that is only opened and
+/// shown does not pay for it.
 class StreamCacheIndex
 {
 public:
     using Item = StreamCache::Item;
 
-    /// Takes up the items of the list, unless that is done; all others follow one by one.
+    /// Adds all items of the list, unless that has already been done. Later changes are followed
+    /// one by one.
     void build(const QList<Item*>& items);
 
-    /// Adds an item at the end of the list; of one that stands in it twice the first place counts.
+    /// Adds an item at the end of the list. If an item is in the list twice, its first place
+    /// counts.
     void append(Item* item);
     void remove(Item* item);
     void clear();
 
-    /// The bytes or the checksum of an item have changed; one that is not on the list is skipped.
+    /// Call when the bytes or the checksum of an item have changed. Unknown items are ignored.
     void update(Item* item);
 
-    /// Computes the checksums that are not known yet. `checksum(item)` gives that of an item.
+    /// Computes all missing checksums. `checksum(item)` returns the checksum of an item.
     template <class Function>
     void complete(Function checksum)
     {
@@ -43,7 +45,7 @@ public:
         }
     }
 
-    /// The first item in list order that has that checksum and of which `matches(item)` is true.
+    /// The first item in list order with this checksum for which `matches(item)` is true.
     template <class Function>
     Item* first(unsigned long long crc, Function matches) const
     {
@@ -56,13 +58,13 @@ public:
         return nullptr;
     }
 
-    /// Where an item stands in the list; -1 if that has to be searched.
+    /// The index of an item in the list; -1 if it must be searched for.
     int position(const QList<Item*>& items, Item* item) const;
 
 private:
     struct Entry
     {
-        qint64 place = 0;  // grows with the list
+        qint64 place = 0;  // increases along the list
         unsigned long long crc = 0;
         bool isKnown = false;
     };
@@ -73,7 +75,7 @@ private:
     bool m_isBuilt = false;
     QHash<Item*, Entry> m_entries;
     std::map<std::pair<unsigned long long, qint64>, Item*> m_byChecksum;
-    std::map<qint64, Item*> m_open;  // those without a checksum
+    std::map<qint64, Item*> m_open;  // items without a checksum
     qint64 m_nextPlace = 0;
 };
 

@@ -8,7 +8,7 @@ namespace {
 
 const int TypeCount = Extension::User2 + 1;
 
-// One more list than there are types, always empty, for a type that is none.
+// One list more than there are types: the last one is always empty and serves invalid types.
 std::array<QList<Extension*>, TypeCount + 1>& lists()
 {
     static std::array<QList<Extension*>, TypeCount + 1> all;

@@ -47,7 +47,7 @@ bool FileInput::isUnsaved(const ProjectFile* file)
     return file && (file->isModified() || isOn(file));
 }
 
-// Taking in may tell the person something, and what is open may change behind that.
+// Works on a copy of the list: storing may show a dialog, and the user may close editors meanwhile.
 bool FileInput::take(const ProjectFile* file, QStringList* errors)
 {
     bool all = true;

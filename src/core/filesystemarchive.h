@@ -4,48 +4,47 @@
 
 namespace Zorv {
 
-/// The archive of plain folders, and the only one that the library provides.
+/// The archive for plain folders. It is the only archive the library provides.
 ///
-/// A file opened for writing is a `SafeFile`: written beside the old one, under
-/// a hidden name, and put in its place when the device is given back. Until
-/// then, and after any failure, the old file is whole. The mode is kept, and a
-/// symbolic link is followed, not replaced. Of a file with several hard links
-/// only the one that was opened changes. A target that exists and is not a
-/// regular file (a pipe, a device), or that is write-protected, is refused.
+/// Files are written through `SafeFile`: the new file is created next to the old one, under a
+/// hidden name, and replaces it in `closeFile()`. Until then, and after any failure, the old file
+/// is complete. The mode is kept. A symbolic link is followed, not replaced. If a file has several
+/// hard links, only the opened one changes. An existing target is refused if it is not a regular
+/// file (a pipe, a device) or is write-protected.
 ///
-/// A process that is killed leaves its hidden file behind; the next that writes in
-/// the folder removes it, and no file that is being written: that is locked.
-/// Changes by several programs take turns, see `FileChange`.
+/// A process that is killed leaves its hidden file behind. The next program that writes in the same
+/// folder removes it. Files that are still being written are locked and therefore not removed. For
+/// changes by several programs at once, see `FileChange`.
 ///
-/// Opening to append, or to read and write, starts from a copy of the old
-/// content; the same promise holds.
+/// Opening a file to append, or to read and write, starts from a copy of the old content. The same
+/// guarantees apply.
 class ZORV_EXPORT FileSystemArchive : public Archive
 {
 public:
-    /// The one object, made on first use and never deleted.
+    /// The one object. Created on first use and never deleted.
     static FileSystemArchive* instance();
 
-    /// Does nothing: the object belongs to the process.
+    /// Does nothing: the object lives as long as the process.
     void release() override;
 
     /// Always false.
     bool isReadOnly() const override;
 
-    /// Lists through `QDir`; `QDir::NoDotAndDotDot` and `QDir::NoSymLinks` are
-    /// added to `filters` in every case.
+    /// Lists through `QDir`. `QDir::NoDotAndDotDot` and `QDir::NoSymLinks` are always added to
+    /// `filters`.
     QStringList entries(const QString& path, QDir::Filters filters,
                         QDir::SortFlags sort) const override;
     QFileInfoList infoEntries(const QString& path, QDir::Filters filters,
                               QDir::SortFlags sort) const override;
 
-    /// Opens a file. Without `QIODevice::WriteOnly` in `mode` a file that does
-    /// not exist gives null and no folder is made; with it, missing folders on
-    /// the way are made first, even if the opening then fails. What is not a
-    /// regular file is refused: a pipe would wait for somebody to fill it.
+    /// Opens a file. Without `QIODevice::WriteOnly` in `mode`, a missing file gives null and no
+    /// folder is created. With it, missing folders are created first, even if opening then fails.
+    /// Anything but a regular file is refused: opening a pipe, for example, would block until
+    /// somebody writes to it.
     QIODevice* openFile(const QString& path, QIODevice::OpenMode mode,
                         QString* error = nullptr) override;
 
-    /// Puts a written file in its place and deletes the device.
+    /// Moves a written file into place and deletes the device.
     bool closeFile(QIODevice* device, QString* error = nullptr) override;
 
 protected:

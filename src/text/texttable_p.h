@@ -4,12 +4,13 @@
 
 namespace Zorv {
 
-/// The texts of tools that are not among those of `ZorvTranslator`: rows in the order of their
-/// numbers, which lie beside those, so that a number tells whose it is.
+/// Texts of tools that are not in `ZorvTranslator`. The rows are numbered consecutively from a
+/// first number that is outside of the range of `ZorvTranslator`, so the number alone identifies
+/// the table.
 class TextTable : public Translator
 {
 public:
-    /// Marked for translators; each may be null.
+    /// Both are marked for translation. Each may be null.
     struct Row
     {
         const char* label;
@@ -22,7 +23,7 @@ public:
     QString trToolTip(unsigned int id) const override;
 
 protected:
-    /// The rows outlive the table; `context` is where translators find them.
+    /// The rows must outlive the table. `context` is the translation context.
     template <unsigned Count>
     TextTable(const char* context, unsigned first, const Row (&rows)[Count])
         : m_context(context), m_rows(rows), m_first(first), m_count(Count)

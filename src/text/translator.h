@@ -10,24 +10,24 @@ namespace Zorv {
 
 /// A table of numbered texts: the labels and tool tips of actions and menus.
 ///
-/// Tools are published with a translator and a number, so that a host can ask
-/// again for all texts when the language changes. A translator has no state and
-/// lives as long as the program.
+/// A tool is published with a translator and a number instead of a text. So a host can fetch all
+/// texts again when the language changes. A translator has no state and lives as long as the
+/// program.
 class ZORV_EXPORT Translator
 {
 public:
     virtual ~Translator();
 
-    /// The label; empty for a number without one.
+    /// The label; empty if the number has none.
     virtual QString trText(unsigned int id) const = 0;
 
-    /// The tool tip, which serves as status tip too; empty for a number without one.
+    /// The tool tip, also used as status tip; empty if the number has none.
     virtual QString trToolTip(unsigned int id) const = 0;
 
-    /// The longer help; empty for every number, unless a host knows one.
+    /// The long help text. Empty by default; a host may override it.
     virtual QString trWhatIsThis(unsigned int id) const;
 
-    /// Gives a menu its title, tool tip, status tip and longer help.
+    /// Sets the title, tool tip, status tip and long help of a menu.
     void trMenu(QMenu* menu, unsigned int id) const;
 };
 

@@ -15,8 +15,8 @@ struct Row
     const char* text;
 };
 
-// Texts are part of the interface: translations and the habits of people hang on them, their
-// misspellings included.
+// Do not change these texts, not even the misspellings: translations are keyed by them and users
+// know them.
 // clang-format off
 const Row labels[] = {
     {0, QT_TRANSLATE_NOOP("Zorv::ZorvTranslator", "No document.")},
@@ -183,7 +183,7 @@ const Row labels[] = {
     {171, QT_TRANSLATE_NOOP("Zorv::ZorvTranslator", "Save selected images")},
 };
 
-// Numbers that share the label of another one: the same action on another kind of thing.
+// Numbers that share a label: the same action for another kind of object.
 const struct
 {
     unsigned int id;
